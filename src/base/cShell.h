@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+// Folders, files and programs of the machine.
+class cShell
+{
+public:
+    cShell() = default;
+    cShell(const cShell&) = delete;
+    cShell& operator=(const cShell&) = delete;
+    virtual ~cShell() = default;
+
+    // The user's data folder "Veltrino Kontorelle", created when missing; without a trailing separator.
+    [[nodiscard]] virtual QString DataFolder() = 0;
+
+    // Full path of a file of the installation: beside the program, else in its share folder. When it is in neither, the
+    // path beside the program is returned.
+    [[nodiscard]] virtual QString InstalledFile(const QString& name) const = 0;
+
+    [[nodiscard]] virtual bool FileExists(const QString& path) const = 0;
+
+    // Copies a file; an existing target is not overwritten. False on failure.
+    [[nodiscard]] virtual bool CopyFile(const QString& from, const QString& to) = 0;
+
+    // Gives a file another name on the same volume; an existing target is not overwritten. False on failure.
+    [[nodiscard]] virtual bool RenameFile(const QString& from, const QString& to) = 0;
+
+    // Currency symbol of the system's regional settings, as the system gives it.
+    [[nodiscard]] virtual QString CurrencySymbol() const = 0;
+
+    // Opens the system's regional settings. False when none could be started.
+    virtual bool OpenRegionalSettings() = 0;
+
+    // Starts the system's calculator. False when none could be started.
+    virtual bool StartCalculator() = 0;
+};

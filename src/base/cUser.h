@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+enum class eTone { Information, Question, Exclamation, Critical };
+enum class eAnswer { Yes, No, Cancel };
+enum class eButtons { YesNo, YesNoCancel };
+
+struct cQuestion
+{
+    QString Text;
+    QString Title;
+    eTone Tone = eTone::Question;
+    eButtons Buttons = eButtons::YesNo;
+};
+
+// One item of a fixed list, or a new text where `AllowNew` is set.
+struct cChoice
+{
+    QString Text;
+    QString Title;
+    QStringList Items;
+    QString Proposal;
+    bool AllowNew = false;
+};
+
+// The person in front of the screen (or the command line that stands in for one).
+class cUser
+{
+public:
+    cUser() = default;
+    cUser(const cUser&) = delete;
+    cUser& operator=(const cUser&) = delete;
+    virtual ~cUser() = default;
+
+    // Shows a message and waits until it is closed. An empty title is the program's name.
+    virtual void Show(eTone tone, const QString& text, const QString& title = {}) = 0;
+
+    [[nodiscard]] virtual eAnswer Ask(const cQuestion& question) = 0;
+
+    // The chosen or typed text; empty optional when the user gives up.
+    [[nodiscard]] virtual std::optional<QString> Choose(const cChoice& choice) = 0;
+
+    // Existing files to open. `filter` has the form "Name|*.a;*.b|Name|*.*". Empty when the user gives up.
+    [[nodiscard]] virtual QStringList ChooseFiles(const QString& title, const QString& filter) = 0;
+};

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+// Message digest 5 (RFC 1321).
+namespace modMD5 {
+
+// The digest of the text's UTF-8 bytes as 32 lower-case hexadecimal digits.
+[[nodiscard]] QString Hex(const QString& text);
+
+} // namespace modMD5

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+class cRegistry;
+class cSettings;
+
+enum class eSettingPlace { Database, Registry };
+
+// Settings over both places: the open database first, then the registry of the user, then the keys of older versions.
+class cConfiguration
+{
+public:
+    explicit cConfiguration(cRegistry& registry) : m_registry(registry) { }
+
+    // Connects the settings of an opened database; null while none is open.
+    void SetDatabase(cSettings* settings) { m_settings = settings; }
+
+    // The value from the first place that has one; empty when none has.
+    [[nodiscard]] QString GetSetting(const QString& name) const;
+
+    // Writes to the one place named. Without an open database a value for it is not stored, and false is returned.
+    bool SaveSetting(const QString& name, const QString& value, eSettingPlace place);
+
+    // Removes a registry value under the current and the former key.
+    void DeleteRegistrySetting(const QString& name);
+
+private:
+    cRegistry& m_registry;
+    cSettings* m_settings = nullptr;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+// One entry of the book, or one occurrence of a recurring entry. The first fields are the columns of table `data`.
+struct cEntryItem
+{
+    int ID = 0;
+    QDate EntryDate; // of an occurrence: its own day, not the start of the series
+    QDate EntryDateEnd;
+    QString EntryType;
+    QString EntryInterval;
+    QString EntryAccount;
+    QString EntryAccountMove;
+    QString EntryCategory;
+    qint64 EntryValue = 0; // cents, never negative; the kind of entry gives the sign
+    QString EntryDescription;
+    QString EntryFlags; // "key=value" joined by ";"
+
+    // Set while a series is expanded; not stored with the entry.
+    bool IsCorrected = false;
+    QString CorrectionComment;
+
+    bool operator==(const cEntryItem&) const = default;
+};
+
+using cEntryItemList = QList<cEntryItem>;

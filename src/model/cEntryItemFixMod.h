@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+// One correction of a recurring entry for one period, a row of table `datamod`.
+struct cEntryItemFixMod
+{
+    int ID = 0;
+    int EntryRelation = 0; // ID of the corrected entry
+    QString EntryModType;
+    QDate EntryStartDate; // with EntryRelation the key of a correction
+    QDate EntryEndDate;
+    qint64 EntryValue = 0; // cents
+    QString EntryComment;
+
+    bool operator==(const cEntryItemFixMod&) const = default;
+};
+
+using cEntryItemFixModList = QList<cEntryItemFixMod>;

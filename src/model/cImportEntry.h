@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+// One bank transaction that waits for its place in the book, a row of table `import`.
+struct cImportEntry
+{
+    int ID = 0; // 0 until stored
+    QString ImportAccount; // own account: number, or IBAN where the statement carries one
+    QDate ImportDate;
+    QString ImportType; // the bank's booking text
+    QString ImportPurpose;
+    QString ImportBeneficiary; // name of the counterparty
+    QString ImportBeneficiaryAccount; // account number or IBAN of the counterparty
+    QString ImportBeneficiaryBLZ; // bank code or BIC of the counterparty
+    double ImportValue = 0.0; // euros; negative: money going out
+    QString ImportCurrency;
+    bool ImportAssigned = false;
+    int ImportAssignedEntry = -1; // ID of the entry in table `data`; -1 when none
+
+    // Prepares the record for staging: amount rounded to cents (halves to even), quotes dropped from the counterparty's
+    // fields, assignment cleared. Always true.
+    bool Validate();
+
+    // The duplicate test: same day, accounts, counterparty, bank code, purpose and amount, compared exactly. Booking text
+    // and currency take no part, so a statement in another format is recognised.
+    [[nodiscard]] bool isEqual(const cImportEntry& other) const;
+
+    bool operator==(const cImportEntry&) const = default;
+};
+
+using cImportEntryList = QList<cImportEntry>;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+// A category or an account, a row of table `template`.
+struct cTemplateItem
+{
+    int ID = 0;
+    QString EntryType; // default kind of entry
+    QString EntryInterval; // default interval
+    QString TemplateType; // "Konto" or "Kategorie"
+    QString TemplateVisible = QStringLiteral("1"); // "1" or "0"
+    QString TemplateCategory; // main category, or the group of an account
+    QString TemplateName; // sub-category, or the name of an account
+    QString TemplateComment;
+    QString TemplatePriority = QStringLiteral("0"); // whole number
+    QString TemplateVAT; // amount text as in the database
+    QString TemplateDefaultValue; // amount text: monthly limit of a category
+
+    bool operator==(const cTemplateItem&) const = default;
+};
+
+using cTemplateItemList = QList<cTemplateItem>;
+
+namespace modTemplate {
+
+[[nodiscard]] bool IsAccount(const cTemplateItem& item);
+
+// False only for a stored "0": what cannot be read keeps the item in sight.
+[[nodiscard]] bool IsVisible(const cTemplateItem& item);
+
+// Whole number; 0 for a text that is none.
+[[nodiscard]] int Priority(const cTemplateItem& item);
+
+// Monthly limit in cents; 0 when there is none.
+[[nodiscard]] qint64 DefaultValueCents(const cTemplateItem& item);
+
+// The name without the characters that would break paths, reports or queries.
+[[nodiscard]] QString CleanName(const QString& name);
+
+// The category path as it is stored in an entry: main category and sub-category joined by "; ".
+[[nodiscard]] QString Path(const cTemplateItem& item);
+
+// The path for display: the words that the program supplies itself are translated.
+[[nodiscard]] QString ShownPath(const cTemplateItem& item);
+
+} // namespace modTemplate

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
+#include "model/cEntryQuery.h"
+#include "model/cImportEntry.h"
+#include "model/cOnlineAccount.h"
+#include "model/cTemplateItem.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+class cDatabase;
+class cUser;
+
+// Sum of the entries that share kind, account and target account.
+struct cAccountSum
+{
+    QString EntryType;
+    QString EntryAccount;
+    QString EntryAccountMove;
+    qint64 Cents = 0;
+};
+
+// Every operation on the database. A failure is shown to the user once, with the operation's name and the database's own
+// words, and returned as false, an empty optional or an empty list; nothing is retried.
+class cDataAccess
+{
+public:
+    cDataAccess(cDatabase& database, cUser& user);
+
+    // Table `data`
+    [[nodiscard]] bool AddNewEntry(cEntryItem& entry); // sets entry.ID
+    [[nodiscard]] bool ChangeEntry(const cEntryItem& entry);
+    // Releases the staged rows of the entry and removes its corrections with it.
+    [[nodiscard]] bool DeleteEntry(int id);
+    // Matches stored names that equal the lower-cased old name, and only those.
+    [[nodiscard]] bool ChangeEntryAccount(const QString& newName, const QString& oldName);
+    [[nodiscard]] bool ChangeEntryCategory(const QString& newPath, const QString& oldPath);
+    // Entries of a period with recurring ones expanded into their corrected occurrences: first one-off entries, then the
+    // series, each in date order.
+    [[nodiscard]] cEntryItemList GetEntries(const cEntryQuery& query);
+    [[nodiscard]] std::optional<cEntryItem> LoadEntry(int id);
+    [[nodiscard]] cEntryItemList GetEntriesByTarget(const QString& account, const QString& target, const QString& type);
+    // Entries with exactly this account as source or target, not expanded.
+    [[nodiscard]] cEntryItemList GetEntriesOfAccount(const QString& account);
+    // Sums of what GetEntries would return, without building the records of one-off entries. `withStartBalance` false
+    // leaves out the category of start balances.
+    [[nodiscard]] QList<cAccountSum> GetSums(const cEntryQuery& query, bool withStartBalance);
+    [[nodiscard]] int CountEntries();
+    [[nodiscard]] int CountEntriesOfAccount(const QString& account);
+    [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
+    [[nodiscard]] QStringList GetEntryAccounts();
+
+    // Start balance of an account: its one-off entry in the category of start balances.
+    [[nodiscard]] std::optional<cEntryItem> GetStartGuthaben(const QString& account);
+    // `cents` is signed: below zero it is stored as expense. Changes the existing entry or adds one.
+    [[nodiscard]] bool SetStartGuthaben(const QString& account, qint64 cents, QDate date);
+
+    // Table `datamod`
+    [[nodiscard]] cEntryItemFixModList GetEntryMods(int entryId);
+    [[nodiscard]] bool AddNewEntryMod(const cEntryItemFixMod& fixMod); // replaces one of the same entry and start
+    [[nodiscard]] bool ChangeEntryMod(const cEntryItemFixMod& fixMod);
+    [[nodiscard]] bool DeleteEntryMod(int id);
+    [[nodiscard]] bool DeleteEntryModByRelation(int entryId);
+
+    // Table `template`
+    [[nodiscard]] bool AddNewTemplate(cTemplateItem& item); // cleans the names, sets item.ID
+    [[nodiscard]] bool ChangeTemplate(const cTemplateItem& item); // cleans the names
+    [[nodiscard]] bool DeleteTemplate(int id);
+    [[nodiscard]] cTemplateItemList GetTemplates();
+    [[nodiscard]] cTemplateItemList GetAccounts();
+    [[nodiscard]] std::optional<cTemplateItem> FindTemplate(int id);
+    [[nodiscard]] std::optional<cTemplateItem> FindTemplate(const QString& category, const QString& name);
+    [[nodiscard]] std::optional<cTemplateItem> FindAccount(const QString& name);
+
+    // Table `import`
+    [[nodiscard]] cImportEntryList GetImportEntries(); // by ID
+    [[nodiscard]] bool AddNewImportEntry(cImportEntry& entry); // sets entry.ID
+    [[nodiscard]] bool ChangeImportEntry(const cImportEntry& entry);
+    [[nodiscard]] bool DeleteImport(int id);
+    [[nodiscard]] bool DeleteAllImports();
+    [[nodiscard]] bool ReleaseImports(int entryId); // its rows are unassigned again
+    [[nodiscard]] QStringList GetImportAccounts();
+    [[nodiscard]] QHash<QString, int> CountOpenImports(); // own account number to number of unassigned rows
+    // Changes with every write to table `import`, also by another connection: whoever caches the table compares it.
+    [[nodiscard]] quint64 ImportVersion();
+
+    // Table `account`
+    [[nodiscard]] QList<cOnlineAccount> GetOnlineAccounts(); // newest first
+    [[nodiscard]] bool GetNewOnlineAccount(cOnlineAccount& account); // inserts it and sets account.ID
+    [[nodiscard]] bool ChangeOnlineAccount(const cOnlineAccount& account);
+    [[nodiscard]] bool DeleteOnlineAccount(int id);
+    [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(int id);
+    [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(const QString& number, const QString& bankCode);
+
+    // Table `setting`
+    [[nodiscard]] QList<std::pair<QString, QString>> GetSettings(); // name, value
+    [[nodiscard]] bool ChangeSettingItem(const QString& name, const QString& value); // adds it when missing
+    [[nodiscard]] bool DeleteSetting(const QString& name);
+
+    // True when nothing can be written: the file was opened for reading only.
+    [[nodiscard]] bool IsReadOnly() const;
+
+private:
+    // Runs one operation; an exception becomes the message `operation` with its description, and false.
+    bool Try(const char* message, const std::function<void()>& operation);
+
+    cDatabase& m_database;
+    cUser& m_user;
+};

@@ -1,0 +1,140 @@
+#pragma once
+
+#include "base/cClock.h"
+#include "base/cProgress.h"
+#include "base/cRegistry.h"
+#include "base/cRescue.h"
+#include "base/cShell.h"
+#include "base/cUser.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QTemporaryDir>
+
+#include <deque>
+
+// A user whose answers are queued beforehand and who remembers every text.
+class cFakeUser final : public cUser
+{
+public:
+    void Show(eTone /*tone*/, const QString& text, const QString& /*title*/ = {}) override { Shown.append(text); }
+
+    eAnswer Ask(const cQuestion& question) override
+    {
+        Asked.append(question.Text);
+        return Answers.empty() ? eAnswer::Cancel : Take(Answers);
+    }
+
+    std::optional<QString> Choose(const cChoice& choice) override
+    {
+        Asked.append(choice.Text);
+        LastChoice = choice;
+        return Choices.empty() ? std::nullopt : Take(Choices);
+    }
+
+    QStringList ChooseFiles(const QString& /*title*/, const QString& filter) override
+    {
+        Asked.append(filter);
+        return Files;
+    }
+
+    QStringList Shown;
+    QStringList Asked;
+    std::deque<eAnswer> Answers; // an empty queue answers Cancel
+    std::deque<std::optional<QString>> Choices; // an empty queue gives up
+    QStringList Files;
+    cChoice LastChoice;
+
+private:
+    template <typename tQueue> static auto Take(tQueue& queue)
+    {
+        auto first = queue.front();
+        queue.pop_front();
+        return first;
+    }
+};
+
+class cFakeClock final : public cClock
+{
+public:
+    explicit cFakeClock(QDate day = QDate(2026, 3, 15)) : Day(day) { }
+    QDate Today() const override { return Day; }
+
+    QDate Day;
+};
+
+class cFakeRegistry final : public cRegistry
+{
+public:
+    QString Read(eRegistryScope scope, const QString& key, const QString& name) const override
+    {
+        return Values.value(Path(scope, key, name));
+    }
+    bool Write(const QString& key, const QString& name, const QString& value) override
+    {
+        Values.insert(Path(eRegistryScope::User, key, name), value);
+        return true;
+    }
+    bool Delete(const QString& key, const QString& name) override
+    {
+        Values.remove(Path(eRegistryScope::User, key, name));
+        return true;
+    }
+    static QString Path(eRegistryScope scope, const QString& key, const QString& name)
+    {
+        const QChar first = scope == eRegistryScope::User ? u'U' : u'M';
+        return QStringList {first, key, name}.join(u'|');
+    }
+
+    QMap<QString, QString> Values;
+};
+
+// A machine made of one temporary folder.
+class cFakeShell final : public cShell
+{
+public:
+    QString DataFolder() override { return Folder(QStringLiteral("data")); }
+    QString InstalledFile(const QString& name) const override { return Folder(QStringLiteral("program")) + u'/' + name; }
+    bool FileExists(const QString& path) const override { return QFileInfo::exists(path); }
+    bool CopyFile(const QString& from, const QString& to) override { return QFile::copy(from, to); }
+    bool RenameFile(const QString& from, const QString& to) override { return QFile::rename(from, to); }
+    QString CurrencySymbol() const override { return Currency; }
+    bool OpenRegionalSettings() override
+    {
+        ++RegionalSettingsOpened;
+        return true;
+    }
+    bool StartCalculator() override { return true; }
+
+    QString Folder(const QString& name) const
+    {
+        const QString path = m_root.filePath(name);
+        QDir().mkpath(path);
+        return path;
+    }
+
+    QString Currency = QStringLiteral("€");
+    int RegionalSettingsOpened = 0;
+
+private:
+    QTemporaryDir m_root;
+};
+
+class cFakeRescue final : public cRescue
+{
+public:
+    std::optional<QString> ChooseDatabase(const QString& /*current*/) override { return Database; }
+    std::optional<QString> ChooseBackup(const QString& /*folder*/) override { return Backup; }
+    bool AskPassword(const std::function<bool(const QString&)>& isRight) override
+    {
+        ++PasswordsAsked;
+        return isRight(Password);
+    }
+
+    std::optional<QString> Database;
+    std::optional<QString> Backup;
+    QString Password;
+    int PasswordsAsked = 0;
+};
