@@ -1,0 +1,12 @@
+#pragma once
+
+#include "base/cRescue.h"
+
+// File dialogs and the password prompt, shown before the main window works.
+class cQtRescue final : public cRescue
+{
+public:
+    [[nodiscard]] std::optional<QString> ChooseDatabase(const QString& current) override;
+    [[nodiscard]] std::optional<QString> ChooseBackup(const QString& folder) override;
+    [[nodiscard]] bool AskPassword(const std::function<bool(const QString&)>& isRight) override;
+};

@@ -1,0 +1,99 @@
+#include "app/cQtShell.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <initializer_list>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cProgram
+{
+    QString Name;
+    QStringList Arguments;
+};
+
+// Desktops differ in what they bring along: the first program that can be started is taken.
+bool StartFirst(std::initializer_list<cProgram> programs)
+{
+    return std::any_of(programs.begin(), programs.end(), [](const cProgram& program) {
+        const QString path = QStandardPaths::findExecutable(program.Name);
+        return !path.isEmpty() && QProcess::startDetached(path, program.Arguments);
+    });
+}
+
+} // namespace
+
+QString cQtShell::DataFolder()
+{
+    const QString base = m_profile.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                                             : QDir(m_profile).absolutePath();
+    const QString folder = base % u"/Veltrino Kontorelle"_s;
+    QDir().mkpath(folder); // a folder that could not be made shows when the first file is written into it
+    return folder;
+}
+
+QString cQtShell::InstalledFile(const QString& name) const
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString beside = program.filePath(name);
+    const QString shared = QDir::cleanPath(program.filePath(u"../share/kontorelle/"_s + name));
+    return !QFileInfo::exists(beside) && QFileInfo::exists(shared) ? shared : beside;
+}
+
+bool cQtShell::FileExists(const QString& path) const
+{
+    return QFileInfo(path).isFile();
+}
+
+bool cQtShell::CopyFile(const QString& from, const QString& to)
+{
+    if (!QFile::copy(from, to)) {
+        return false;
+    }
+    // A template installed by the system may be read-only, its copy is the user's own.
+    QFile copy(to);
+    return copy.setPermissions(copy.permissions() | QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+bool cQtShell::RenameFile(const QString& from, const QString& to)
+{
+    return QFile::rename(from, to);
+}
+
+QString cQtShell::CurrencySymbol() const
+{
+    return QLocale::system().currencySymbol();
+}
+
+bool cQtShell::OpenRegionalSettings()
+{
+    return StartFirst({{u"rundll32.exe"_s, {u"shell32.dll,Control_RunDLL"_s, u"intl.cpl"_s}},
+                       {u"gnome-control-center"_s, {u"region"_s}},
+                       {u"systemsettings"_s, {u"kcm_regionandlang"_s}},
+                       {u"systemsettings5"_s, {u"kcm_regionandlang"_s}},
+                       {u"cinnamon-settings"_s, {u"region"_s}},
+                       {u"mate-control-center"_s, {}},
+                       {u"xfce4-settings-manager"_s, {}}});
+}
+
+bool cQtShell::StartCalculator()
+{
+    return StartFirst({{u"calc.exe"_s, {}},
+                       {u"gnome-calculator"_s, {}},
+                       {u"kcalc"_s, {}},
+                       {u"mate-calc"_s, {}},
+                       {u"galculator"_s, {}},
+                       {u"qalculate-gtk"_s, {}},
+                       {u"qalculate-qt"_s, {}},
+                       {u"deepin-calculator"_s, {}},
+                       {u"xcalc"_s, {}}});
+}

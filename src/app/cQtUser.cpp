@@ -1,0 +1,79 @@
+#include "app/cQtUser.h"
+
+#include "app/modQtFilter.h"
+#include "base/cText.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QMessageBox::Icon Icon(eTone tone)
+{
+    switch (tone) {
+    case eTone::Information: return QMessageBox::Information;
+    case eTone::Question: return QMessageBox::Question;
+    case eTone::Exclamation: return QMessageBox::Warning;
+    case eTone::Critical: return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString TitleOr(const QString& title)
+{
+    return title.isEmpty() ? u"Kontorelle"_s : title;
+}
+
+} // namespace
+
+void cQtUser::Show(eTone tone, const QString& text, const QString& title)
+{
+    QMessageBox box(Icon(tone), TitleOr(title), text, QMessageBox::NoButton, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText); // names and file paths may look like markup
+    box.addButton(cText::Tr("OK"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+eAnswer cQtUser::Ask(const cQuestion& question)
+{
+    QMessageBox box(Icon(question.Tone), TitleOr(question.Title), question.Text, QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* yes = box.addButton(cText::Tr("&Ja"), QMessageBox::YesRole);
+    QPushButton* no = box.addButton(cText::Tr("&Nein"), QMessageBox::NoRole);
+    box.setEscapeButton(no);
+    if (question.Buttons == eButtons::YesNoCancel) {
+        box.setEscapeButton(box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole));
+    }
+    box.exec();
+    if (box.clickedButton() == yes) {
+        return eAnswer::Yes;
+    }
+    return box.clickedButton() == no ? eAnswer::No : eAnswer::Cancel;
+}
+
+std::optional<QString> cQtUser::Choose(const cChoice& choice)
+{
+    QInputDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(TitleOr(choice.Title));
+    dialog.setLabelText(choice.Text);
+    dialog.setOkButtonText(cText::Tr("OK"));
+    dialog.setCancelButtonText(cText::Tr("Abbrechen"));
+    dialog.setComboBoxItems(choice.Items);
+    dialog.setComboBoxEditable(choice.AllowNew);
+    dialog.setTextValue(choice.Proposal);
+    if (dialog.exec() != QDialog::Accepted || dialog.textValue().trimmed().isEmpty()) {
+        return std::nullopt;
+    }
+    return dialog.textValue().trimmed();
+}
+
+QStringList cQtUser::ChooseFiles(const QString& title, const QString& filter)
+{
+    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), title, {}, modQtFilter::FromPairs(filter));
+}

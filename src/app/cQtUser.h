@@ -1,0 +1,13 @@
+#pragma once
+
+#include "base/cUser.h"
+
+// The user in front of the windows: modal boxes over the active window.
+class cQtUser final : public cUser
+{
+public:
+    void Show(eTone tone, const QString& text, const QString& title = {}) override;
+    [[nodiscard]] eAnswer Ask(const cQuestion& question) override;
+    [[nodiscard]] std::optional<QString> Choose(const cChoice& choice) override;
+    [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter) override;
+};

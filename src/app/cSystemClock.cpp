@@ -1,0 +1,6 @@
+#include "app/cSystemClock.h"
+
+QDate cSystemClock::Today() const
+{
+    return QDate::currentDate();
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "base/cClock.h"
+
+// The clock of the machine.
+class cSystemClock final : public cClock
+{
+public:
+    [[nodiscard]] QDate Today() const override;
+};

@@ -1,0 +1,113 @@
+#include "app/cli/cCliCall.h"
+
+#include "base/cText.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QList<cCliOption>& GlobalOptions()
+{
+    static const QList<cCliOption> options {{u"database"_s, u"DATEI"_s, {}},
+                                            {u"profile"_s, u"ORDNER"_s, {}},
+                                            {u"help"_s, {}, {}}};
+    return options;
+}
+
+const cCliOption* FindIn(const QList<cCliOption>& options, const QString& name)
+{
+    const auto found
+        = std::find_if(options.begin(), options.end(), [&](const cCliOption& option) { return option.Name == name; });
+    return found == options.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+cCliCall cCliCall::Parse(const QStringList& arguments, const QList<cCliCommand>& commands)
+{
+    cCliCall call;
+    QStringList rest = arguments;
+    bool takesOptions = true;
+    while (!rest.isEmpty() && call.m_error.isEmpty()) {
+        const QString text = rest.takeFirst();
+        if (takesOptions && text == "--"_L1) {
+            takesOptions = false;
+        } else if (takesOptions && text.startsWith("--"_L1)) {
+            call.TakeOption(text.mid(2), rest);
+        } else {
+            call.TakeArgument(text, commands);
+        }
+    }
+    call.m_wantsHelp = call.m_wantsHelp || call.Has(u"help"_s);
+    if (call.m_error.isEmpty() && !call.m_wantsHelp) {
+        call.CheckCounts();
+    }
+    return call;
+}
+
+const cCliOption* cCliCall::FindOption(const QString& name) const
+{
+    const cCliOption* found = FindIn(GlobalOptions(), name);
+    return found == nullptr && m_command != nullptr ? FindIn(m_command->Options, name) : found;
+}
+
+void cCliCall::TakeOption(const QString& text, QStringList& rest)
+{
+    const QString name = text.section(u'=', 0, 0);
+    const bool hasValue = text.contains(u'=');
+    const cCliOption* option = FindOption(name);
+    if (option == nullptr) {
+        m_error = m_command == nullptr ? cText::Tr("Unbekannte Option '--{0}' vor dem Befehl.", {name})
+                                       : cText::Tr("Der Befehl '{0}' kennt die Option '--{1}' nicht.", {m_command->Name, name});
+        return;
+    }
+    if (option->Value.isEmpty()) {
+        m_error = hasValue ? cText::Tr("Die Option '--{0}' hat keinen Wert.", {name}) : QString();
+        m_options[name];
+        return;
+    }
+    if (!hasValue && rest.isEmpty()) {
+        m_error = cText::Tr("Nach '--{0}' fehlt {1}.", {name, option->Value});
+        return;
+    }
+    m_options[name].append(hasValue ? text.section(u'=', 1) : rest.takeFirst());
+}
+
+void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& commands)
+{
+    if (m_wantsHelp || m_command != nullptr) {
+        m_arguments.append(text);
+        return;
+    }
+    if (text == "hilfe"_L1 || text == "help"_L1 || text == "-h"_L1) {
+        m_wantsHelp = true;
+        return;
+    }
+    const auto found
+        = std::find_if(commands.begin(), commands.end(), [&](const cCliCommand& command) { return command.Name == text; });
+    if (found == commands.end()) {
+        m_error = cText::Tr("Den Befehl '{0}' gibt es nicht.", {text});
+        return;
+    }
+    m_command = &*found;
+}
+
+void cCliCall::CheckCounts()
+{
+    if (m_command == nullptr) {
+        m_error = cText::Tr("Es fehlt der Befehl.");
+    } else if (m_arguments.size() < m_command->MinArguments) {
+        m_error = cText::Tr("Nach '{0}' fehlt {1}.", {m_command->Name, m_command->Arguments});
+    } else if (m_arguments.size() > m_command->MaxArguments) {
+        m_error = cText::Tr("Mit '{0}' kann der Befehl '{1}' nichts anfangen.",
+                            {m_arguments.at(m_command->MaxArguments), m_command->Name});
+    }
+}
+
+QString cCliCall::Value(const QString& option) const
+{
+    const QStringList values = m_options.value(option);
+    return values.isEmpty() ? QString() : values.constLast();
+}

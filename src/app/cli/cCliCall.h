@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class cCliContext;
+
+// What a command needs of the database.
+enum class eCliAccess { None, Read, Write };
+
+// An option of a command. Without a placeholder for its value it is a switch.
+struct cCliOption
+{
+    QString Name; // without the dashes
+    QString Value;
+    QString Help;
+};
+
+// One command of the command line program.
+struct cCliCommand
+{
+    QString Name;
+    QString Arguments; // as the help shows them
+    QString Help;
+    int MinArguments = 0;
+    int MaxArguments = 0;
+    eCliAccess Access = eCliAccess::Read;
+    QList<cCliOption> Options;
+    int (*Run)(cCliContext&) = nullptr; // gives the exit code
+};
+
+// Exit codes of the program.
+namespace modExit {
+
+inline constexpr int Done = 0;
+inline constexpr int Failed = 1;
+inline constexpr int Usage = 2;
+
+} // namespace modExit
+
+// A command line, taken apart.
+class cCliCall
+{
+public:
+    // Reads the arguments after the program's name. What is wrong with them stands in Error().
+    [[nodiscard]] static cCliCall Parse(const QStringList& arguments, const QList<cCliCommand>& commands);
+
+    [[nodiscard]] const QString& Error() const { return m_error; }
+    [[nodiscard]] bool WantsHelp() const { return m_wantsHelp; }
+    [[nodiscard]] const cCliCommand* Command() const { return m_command; } // null when help is wanted
+    [[nodiscard]] const QStringList& Arguments() const { return m_arguments; }
+    [[nodiscard]] bool Has(const QString& option) const { return m_options.contains(option); }
+    [[nodiscard]] QString Value(const QString& option) const; // the last one given; empty when missing
+    [[nodiscard]] QStringList Values(const QString& option) const { return m_options.value(option); }
+
+private:
+    [[nodiscard]] const cCliOption* FindOption(const QString& name) const;
+    void TakeOption(const QString& text, QStringList& rest);
+    void TakeArgument(const QString& text, const QList<cCliCommand>& commands);
+    void CheckCounts();
+
+    QString m_error;
+    bool m_wantsHelp = false;
+    const cCliCommand* m_command = nullptr;
+    QStringList m_arguments;
+    QHash<QString, QStringList> m_options;
+};

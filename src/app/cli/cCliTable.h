@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+enum class eAlign { Left, Right };
+
+// Rows of texts in aligned columns.
+class cCliTable
+{
+public:
+    struct cColumn
+    {
+        QString Title;
+        eAlign Align = eAlign::Left;
+        int Longest = 40; // longer texts are cut and end in an ellipsis
+    };
+
+    explicit cCliTable(QList<cColumn> columns) : m_columns(std::move(columns)) { }
+
+    // A row with one text for each column.
+    void Add(const QStringList& row);
+
+    // The titles, then the rows, each with a line end.
+    [[nodiscard]] QString ToString() const;
+
+private:
+    [[nodiscard]] QString Cut(qsizetype column, const QString& text) const;
+
+    QList<cColumn> m_columns;
+    QList<QStringList> m_rows;
+};

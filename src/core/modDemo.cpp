@@ -1,0 +1,102 @@
+#include "core/modDemo.h"
+
+#include "core/modDemoSeries.h"
+#include "core/modDemoShopping.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Of the purchases by card the last ones are not booked yet, and those before are booked from the bank's rows.
+constexpr int OpenRows = 16;
+constexpr int BookedRows = 120;
+
+bool WriteStartBalances(cDataAccess& data, QDate day)
+{
+    return data.SetStartGuthaben(u"Girokonto"_s, 184250, day) && data.SetStartGuthaben(u"Sparkonto"_s, 420000, day)
+        && data.SetStartGuthaben(u"Bargeld"_s, 9500, day);
+}
+
+bool WriteSeries(cDataAccess& data, QList<modDemo::cDemoSeries> list)
+{
+    return std::all_of(list.begin(), list.end(), [&](modDemo::cDemoSeries& series) {
+        if (!data.AddNewEntry(series.Entry)) {
+            return false;
+        }
+        return std::all_of(series.Mods.begin(), series.Mods.end(), [&](cEntryItemFixMod& fixMod) {
+            fixMod.EntryRelation = series.Entry.ID;
+            return data.AddNewEntryMod(fixMod);
+        });
+    });
+}
+
+bool WritePurchase(cDataAccess& data, modDemo::cDemoPurchase purchase, int cardPurchasesAfter)
+{
+    const bool isCard = !purchase.Staged.ImportAccount.isEmpty();
+    if (isCard && cardPurchasesAfter < OpenRows) {
+        return data.AddNewImportEntry(purchase.Staged);
+    }
+    if (!data.AddNewEntry(purchase.Entry)) {
+        return false;
+    }
+    if (!isCard || cardPurchasesAfter >= OpenRows + BookedRows) {
+        return true;
+    }
+    purchase.Staged.ImportAssigned = true;
+    purchase.Staged.ImportAssignedEntry = purchase.Entry.ID;
+    return data.AddNewImportEntry(purchase.Staged);
+}
+
+bool WritePurchases(cDataAccess& data, const QList<modDemo::cDemoPurchase>& list)
+{
+    auto cardPurchases =
+        static_cast<int>(std::count_if(list.begin(), list.end(), [](const modDemo::cDemoPurchase& purchase) {
+            return !purchase.Staged.ImportAccount.isEmpty();
+        }));
+    return std::all_of(list.begin(), list.end(), [&](const modDemo::cDemoPurchase& purchase) {
+        cardPurchases -= purchase.Staged.ImportAccount.isEmpty() ? 0 : 1;
+        return WritePurchase(data, purchase, cardPurchases);
+    });
+}
+
+bool WriteEvents(cDataAccess& data, cEntryItemList list)
+{
+    return std::all_of(list.begin(), list.end(), [&](cEntryItem& entry) { return data.AddNewEntry(entry); });
+}
+
+bool WriteMail(cDataAccess& data, cImportEntryList list)
+{
+    return std::all_of(list.begin(), list.end(), [&](cImportEntry& row) { return data.AddNewImportEntry(row); });
+}
+
+// The bank's account numbers under the names that the accounts have in the book.
+bool WriteMapping(cDataAccess& data)
+{
+    return data.ChangeSettingItem(u"KTO:"_s % modDemo::GiroNumber, u"Girokonto"_s)
+        && data.ChangeSettingItem(u"KTO:"_s % modDemo::SparNumber, u"Sparkonto"_s);
+}
+
+} // namespace
+
+modDemo::cDemoPlan modDemo::OfSize(int entries, QDate today)
+{
+    if (entries <= 5000) {
+        return {today, 3, entries};
+    }
+    return {today, entries <= 50000 ? 10 : 25, entries};
+}
+
+bool modDemo::Write(cDataAccess& data, const cDemoPlan& plan)
+{
+    constexpr int startBalances = 3;
+    const QList<cDemoSeries> series = Series(plan);
+    const cEntryItemList events = Events(plan);
+    const auto fixed = static_cast<int>(series.size() + events.size()) + startBalances;
+    const int purchases = plan.Entries == 0 ? UsualPurchases(plan) : qMax(plan.Entries - fixed, 0) + OpenRows;
+    return WriteStartBalances(data, FirstDay(plan)) && WriteSeries(data, series) && WriteEvents(data, events)
+        && WritePurchases(data, Purchases(plan, purchases)) && WriteMail(data, Mail(plan)) && WriteMapping(data);
+}

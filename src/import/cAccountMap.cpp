@@ -1,0 +1,146 @@
+#include "import/cAccountMap.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "core/cSettings.h"
+#include "import/modAccountNumber.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString settingPrefix = u"KTO:"_s;
+
+QString SettingName(const QString& number)
+{
+    return settingPrefix + number;
+}
+
+QStringList VisibleNames(const cTemplateItemList& accounts)
+{
+    QStringList names;
+    for (const cTemplateItem& account : accounts) {
+        if (modTemplate::IsVisible(account)) {
+            names.append(account.TemplateName);
+        }
+    }
+    return names;
+}
+
+QString QuestionFor(const QString& number)
+{
+    return number.isEmpty()
+        ? cText::Tr("Der Kontoauszug nennt keine Kontonummer.\nZu welchem Konto gehören seine Umsätze?")
+        : cText::Tr("Zu welchem Konto gehören die Umsätze der Kontonummer {0}?", {number});
+}
+
+} // namespace
+
+cAccountMap::cAccountMap(cDataAccess& data, cSettings& settings) : m_data(data), m_settings(settings)
+{
+}
+
+bool cAccountMap::Exists(const QString& account) const
+{
+    return !account.isEmpty() && m_data.FindAccount(account).has_value();
+}
+
+QString cAccountMap::AccountOf(const QString& number) const
+{
+    const QString account = m_settings.Get(SettingName(number));
+    return Exists(account) ? account : QString();
+}
+
+QString cAccountMap::OwnAccountOf(const QString& number, const QString& bankCode) const
+{
+    if (number.trimmed().isEmpty()) {
+        return {};
+    }
+    if (const QString direct = AccountOf(number); !direct.isEmpty()) {
+        return direct;
+    }
+    for (const auto& [name, account] : m_data.GetSettings()) {
+        const bool isMapping =
+            name.startsWith(settingPrefix, Qt::CaseInsensitive) && name.size() > settingPrefix.size();
+        if (isMapping && modAccountNumber::IsSame(number, bankCode, name.mid(settingPrefix.size()))
+            && Exists(account)) {
+            return account;
+        }
+    }
+    return {};
+}
+
+QString cAccountMap::Proposal(const QString& number) const
+{
+    if (const QString known = OwnAccountOf(number, {}); !known.isEmpty()) {
+        return known;
+    }
+    const QStringList names = VisibleNames(m_data.GetAccounts());
+    const auto named = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+        return !number.isEmpty() && name.contains(number, Qt::CaseInsensitive);
+    });
+    return named != names.end() ? *named : names.value(0);
+}
+
+bool cAccountMap::Assign(const QString& number, const QString& account)
+{
+    const QString given = account.trimmed();
+    const QString name = Exists(given) ? given : modTemplate::CleanName(given);
+    if (name.isEmpty()) {
+        return false;
+    }
+    if (!Exists(name)) {
+        cTemplateItem item;
+        item.TemplateType = modWord::Konto;
+        item.TemplateName = name;
+        if (!m_data.AddNewTemplate(item)) {
+            return false;
+        }
+    }
+    return m_settings.Set(SettingName(number), name);
+}
+
+QString cAccountMap::Ask(const QString& number, cUser& user)
+{
+    if (const QString known = AccountOf(number); !known.isEmpty()) {
+        return known;
+    }
+    cChoice choice;
+    choice.Text = QuestionFor(number);
+    choice.Title = cText::Tr("Konto zuordnen");
+    choice.Items = VisibleNames(m_data.GetAccounts());
+    choice.Proposal = Proposal(number);
+    choice.AllowNew = true;
+    const std::optional<QString> answer = user.Choose(choice);
+    return answer && Assign(number, *answer) ? AccountOf(number) : QString();
+}
+
+QStringList cAccountMap::Unknown(const QStringList& numbers) const
+{
+    QStringList unknown;
+    std::copy_if(numbers.begin(), numbers.end(), std::back_inserter(unknown),
+                 [&](const QString& number) { return AccountOf(number).isEmpty(); });
+    return unknown;
+}
+
+std::optional<cTemplateItem> cAccountMap::getAssignedAccount(const cImportEntry& row) const
+{
+    const QString account = m_settings.Get(SettingName(row.ImportAccount));
+    return account.isEmpty() ? std::nullopt : m_data.FindAccount(account);
+}
+
+std::optional<cTemplateItem> cAccountMap::getAssignedAccountTo(const cImportEntry& row) const
+{
+    const QString account = OwnAccountOf(row.ImportBeneficiaryAccount, row.ImportBeneficiaryBLZ);
+    return account.isEmpty() ? std::nullopt : m_data.FindAccount(account);
+}
+
+std::optional<cEntryItem> cAccountMap::getAssignedEntry(const cImportEntry& row) const
+{
+    return row.ImportAssigned && row.ImportAssignedEntry > -1 ? m_data.LoadEntry(row.ImportAssignedEntry)
+                                                              : std::nullopt;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cImportEntry.h"
+#include "model/cTemplateItem.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class cDataAccess;
+class cSettings;
+class cUser;
+
+// Which account of the book a bank's account number belongs to. Kept in the settings "KTO:" + number.
+class cAccountMap
+{
+public:
+    cAccountMap(cDataAccess& data, cSettings& settings);
+
+    // Name of the account; empty when the number was never assigned or its account is gone. Never asks.
+    [[nodiscard]] QString AccountOf(const QString& number) const;
+
+    // The own account that a counterparty's details mean: the number itself, or IBAN and account number of the same
+    // account. Empty when it is somebody else's.
+    [[nodiscard]] QString OwnAccountOf(const QString& number, const QString& bankCode) const;
+
+    // The account to propose for a new number: one already known under its other form, one named like it, else the
+    // first visible one. Empty when the book has no account.
+    [[nodiscard]] QString Proposal(const QString& number) const;
+
+    // Remembers the account for the number; an account that does not exist yet is added to the book. False when the
+    // database refuses or the name is empty.
+    [[nodiscard]] bool Assign(const QString& number, const QString& account);
+
+    // The account of the number, asked from the user when it is new. Empty when the user gives up.
+    [[nodiscard]] QString Ask(const QString& number, cUser& user);
+
+    // The numbers of the list that no account is known for.
+    [[nodiscard]] QStringList Unknown(const QStringList& numbers) const;
+
+    // The account of the row's own number, and that of its counterparty when it is an own account too.
+    [[nodiscard]] std::optional<cTemplateItem> getAssignedAccount(const cImportEntry& row) const;
+    [[nodiscard]] std::optional<cTemplateItem> getAssignedAccountTo(const cImportEntry& row) const;
+    // The entry that the row is assigned to.
+    [[nodiscard]] std::optional<cEntryItem> getAssignedEntry(const cImportEntry& row) const;
+
+private:
+    [[nodiscard]] bool Exists(const QString& account) const;
+
+    cDataAccess& m_data;
+    cSettings& m_settings;
+};

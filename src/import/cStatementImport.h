@@ -1,0 +1,43 @@
+#pragma once
+
+#include "import/cImportResult.h"
+#include "import/cStaging.h"
+
+#include <QString>
+
+class cDataAccess;
+class cImportHiveCache;
+class cProgress;
+
+struct cImportOptions
+{
+    eDuplicateTest Duplicates = eDuplicateTest::Test;
+    QString DefaultAccount; // own account number for statements that do not name theirs
+};
+
+// Statement files into staged rows.
+class cStatementImport
+{
+public:
+    cStatementImport(cDataAccess& data, cImportHiveCache& hive);
+
+    // Reads a file of any format the program knows and stages its transactions. Whatever the file holds, the result
+    // says what happened; only a refusing database shows a message of its own.
+    [[nodiscard]] cImportResult ImportFile(const QString& path, const cImportOptions& options, cProgress& progress);
+
+    // The same for a text whose format the name and the content tell.
+    [[nodiscard]] cImportResult ImportText(const QString& path, const QString& text, const cImportOptions& options,
+                                           cProgress& progress);
+
+    // Stages the transactions of an MT940 or MT942 text, as the online fetch hands it over. The closing balance in
+    // euros, negative unless its mark contains "C"; 0 when there is none or when a :86: line stands before its :61:
+    // line, in which case nothing is staged, because the text is read to its end before the first transaction is.
+    double ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
+                       const QString& defaultAccount);
+
+private:
+    void Stage(const cStatementRead& read, const cImportOptions& options, cProgress& progress, cImportResult& result);
+
+    cDataAccess& m_data;
+    cStaging m_staging;
+};

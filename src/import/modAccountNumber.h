@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+// Account numbers in their two forms.
+namespace modAccountNumber {
+
+// Without blanks and in capitals, so that "DE12 3456 ..." and "DE123456..." are one.
+[[nodiscard]] QString Compact(const QString& number);
+
+// True for the 22 characters of a German IBAN; its check digits are not looked at.
+[[nodiscard]] bool IsGermanIban(const QString& compact);
+
+// True when both mean the same account: equal but for leading zeros, or a German IBAN and its account number. An empty
+// bank code is unknown and does not speak against it.
+[[nodiscard]] bool IsSame(const QString& number, const QString& bankCode, const QString& other);
+
+} // namespace modAccountNumber

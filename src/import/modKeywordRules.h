@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+struct cImportEntry;
+
+// Set by callers that want sure proposals only: rules with short, ambiguous keywords and the default are left out.
+enum class eRestriction { None, Restricted };
+
+// The program's own knowledge of German household payees: keywords to category and interval.
+namespace modKeywordRules {
+
+struct cMatch
+{
+    QString Category; // empty when no rule set one
+    QString Interval; // empty when no rule set one
+    QString Keyword;  // the alternative that gave the category
+
+    bool operator==(const cMatch&) const = default;
+};
+
+// Lower-cased counterparty, purpose and booking text, joined by "|", without line breaks.
+[[nodiscard]] QString MatchText(const cImportEntry& row);
+
+// Applies all rules in their order; the last one that matches wins. `value` is the signed amount.
+[[nodiscard]] cMatch Match(const QString& matchText, double value, eRestriction restriction);
+
+} // namespace modKeywordRules

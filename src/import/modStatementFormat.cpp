@@ -1,0 +1,117 @@
+#include "import/modStatementFormat.h"
+
+#include "base/cText.h"
+#include "import/modMT940.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+bool EndsIn(const QString& name, const QStringList& ends)
+{
+    return std::any_of(ends.begin(), ends.end(), [&](const QString& end) { return name.endsWith(end); });
+}
+
+bool IsSpreadsheet(const QString& name, const QString& /*text*/)
+{
+    return EndsIn(name, {u".XLSX"_s, u".XLS"_s});
+}
+
+bool IsPdf(const QString& name, const QString& /*text*/)
+{
+    return EndsIn(name, {u".PDF"_s});
+}
+
+bool IsRefused(const QString& name, const QString& /*text*/)
+{
+    return EndsIn(name, {u".LNK"_s, u".SHS"_s});
+}
+
+bool IsMt940(const QString& name, const QString& text)
+{
+    const bool hasOpening = text.contains(u":60F:") || text.contains(u":60M:");
+    const bool hasClosing = text.contains(u":62F:") || text.contains(u":62M:");
+    const bool hasLines = text.contains(u":20:") && text.contains(u":61:");
+    // A file that already calls itself so need not have details to every transaction.
+    const bool isNamedSo = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s});
+    return (hasOpening && hasClosing) || (hasLines && (isNamedSo || text.contains(u":86:")));
+}
+
+bool IsOfx(const QString& /*name*/, const QString& text)
+{
+    return (text.contains(u"<OFX>") || text.contains(u"OFXHEADER")) && text.contains(u"<BANKTRANLIST>")
+        && text.contains(u"</OFX>");
+}
+
+bool IsQif(const QString& /*name*/, const QString& text)
+{
+    const QString start = text.left(11).toUpper();
+    return start.startsWith(u"!TYPE:BANK") || start.startsWith(u"!TYPE:CCARD");
+}
+
+bool IsAnything(const QString& /*name*/, const QString& /*text*/)
+{
+    return true;
+}
+
+struct cFormat
+{
+    eStatementFormat Format;
+    const char* Name; // display name
+    bool (*IsOfFormat)(const QString& upperName, const QString& text);
+    modStatementFormat::cReader Read; // null: known, but not read
+};
+
+// Asked from top to bottom, the first recogniser that agrees decides. A new format is one line here.
+constexpr std::array formats = {
+    cFormat{eStatementFormat::Spreadsheet, QT_TRANSLATE_NOOP("cText", "Tabellenkalkulation (XLS/XLSX-Datei)"),
+            IsSpreadsheet, nullptr},
+    cFormat{eStatementFormat::Pdf, QT_TRANSLATE_NOOP("cText", "Portable Document Format (PDF-Datei)"), IsPdf, nullptr},
+    cFormat{eStatementFormat::Unknown, QT_TRANSLATE_NOOP("cText", "Unbekanntes Dateiformat"), IsRefused, nullptr},
+    cFormat{eStatementFormat::Mt940, QT_TRANSLATE_NOOP("cText", "SWIFT-Kontoauszug (MT940/MT942-Datei)"), IsMt940,
+            modMT940::Read},
+    cFormat{eStatementFormat::Ofx, QT_TRANSLATE_NOOP("cText", "Open Financial Exchange (OFX-Datei)"), IsOfx, nullptr},
+    cFormat{eStatementFormat::Qif, QT_TRANSLATE_NOOP("cText", "Quicken Interchange Format (QIF-Datei)"), IsQif,
+            nullptr},
+    cFormat{eStatementFormat::Csv, QT_TRANSLATE_NOOP("cText", "Character Separated Values (CSV-Datei)"), IsAnything,
+            nullptr},
+};
+
+const cFormat& Find(eStatementFormat format)
+{
+    const auto* const found =
+        std::find_if(formats.begin(), formats.end(), [&](const cFormat& known) { return known.Format == format; });
+    return found == formats.end() ? formats.back() : *found;
+}
+
+} // namespace
+
+eStatementFormat DetectStatementFormat(const QString& fileName, const QString& text)
+{
+    const QString upperName = fileName.toUpper();
+    const auto* const found = std::find_if(formats.begin(), formats.end(),
+                                           [&](const cFormat& format) { return format.IsOfFormat(upperName, text); });
+    return found == formats.end() ? eStatementFormat::Unknown : found->Format;
+}
+
+QString modStatementFormat::Name(eStatementFormat format)
+{
+    return cText::Tr(Find(format).Name);
+}
+
+modStatementFormat::cReader modStatementFormat::Reader(eStatementFormat format)
+{
+    return Find(format).Read;
+}
+
+QString modStatementFormat::Refusal(eStatementFormat format)
+{
+    const bool isForeign = format == eStatementFormat::Unknown || format == eStatementFormat::Pdf;
+    return isForeign ? cText::Tr("Dieses Format kann nicht eingelesen werden: {0}", {Name(format)})
+                     : cText::Tr("Dieses Format wird noch nicht gelesen: {0}", {Name(format)});
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// The bytes of a statement file as text.
+namespace modStatementText {
+
+// Byte order mark (UTF-8, UTF-16), else strict UTF-8, else Windows-1252. Any bytes give some text.
+[[nodiscard]] QString Decode(const QByteArray& bytes);
+
+// Repairs a single field: letters that a bank wrote as UTF-8 into a file that as a whole is not UTF-8. All other texts
+// come back unchanged.
+[[nodiscard]] QString DecodeField(const QString& text);
+
+// True when the bytes are no text at all (a picture, a program, a packed file).
+[[nodiscard]] bool IsBinary(const QByteArray& bytes);
+
+} // namespace modStatementText

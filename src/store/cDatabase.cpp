@@ -1,0 +1,270 @@
+#include "store/cDatabase.h"
+
+#include <QFile>
+
+#include <sqlite3.h>
+#include <SQLiteCpp/Backup.h>
+#include <SQLiteCpp/Column.h>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <unordered_map>
+
+struct cDatabase::cConnection
+{
+    SQLite::Database Handle;
+    // Prepared statements that nobody is using at the moment, by their text
+    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle {};
+};
+
+struct cRows::cState
+{
+    cDatabase::cConnection& Connection;
+    std::string Sql;
+    std::unique_ptr<SQLite::Statement> Statement {};
+    // Made once per query: they always read the current row, and making them is dearer than reading
+    std::vector<SQLite::Column> Columns {};
+};
+
+namespace {
+
+constexpr size_t idleLimit = 100; // statements kept prepared; filters make new texts all the time
+
+eDatabaseFault FaultOf(int code)
+{
+    switch (code) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_PROTOCOL: return eDatabaseFault::Busy;
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT: return eDatabaseFault::Damaged;
+    case SQLITE_READONLY: return eDatabaseFault::ReadOnly;
+    case SQLITE_FULL: return eDatabaseFault::Full;
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM: return eDatabaseFault::NoAccess;
+    default: return eDatabaseFault::Other;
+    }
+}
+
+// Runs a call of the driver and turns its exceptions into ours.
+template <typename tCall> auto Translate(tCall call)
+{
+    try {
+        return call();
+    } catch (const SQLite::Exception& error) {
+        throw cDatabaseError(FaultOf(error.getErrorCode()), error.what());
+    }
+}
+
+int FlagsOf(eOpenMode mode)
+{
+    switch (mode) {
+    case eOpenMode::ReadOnly: return SQLite::OPEN_READONLY;
+    case eOpenMode::Create: return SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE;
+    case eOpenMode::ReadWrite: break;
+    }
+    return SQLite::OPEN_READWRITE;
+}
+
+void Bind(SQLite::Statement& statement, const cBoundList& values)
+{
+    int index = 0;
+    for (const cBound& value : values) {
+        ++index;
+        if (const auto* text = std::get_if<QString>(&value)) {
+            statement.bind(index, text->toStdString());
+        } else if (const auto* number = std::get_if<qint64>(&value)) {
+            statement.bind(index, int64_t {*number});
+        } else {
+            statement.bind(index, std::get<double>(value));
+        }
+    }
+}
+
+} // namespace
+
+cDatabase::~cDatabase() = default;
+
+void cDatabase::Open(const QString& path, eOpenMode mode)
+{
+    Close();
+    m_connection = Translate([&] {
+        return std::unique_ptr<cConnection>(
+            new cConnection {SQLite::Database(path.toStdString(), FlagsOf(mode), m_busyTimeout)});
+    });
+    m_path = path;
+    m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
+}
+
+void cDatabase::Close() noexcept
+{
+    m_connection.reset();
+    m_isReadOnly = false;
+    m_dataVersion = 0;
+    ++m_importVersion; // another file may follow
+}
+
+int cDatabase::Execute(const std::string& sql, const cBoundList& values)
+{
+    cRows rows(*this, sql, values);
+    while (rows.Next()) { }
+    return rows.Changes();
+}
+
+bool cDatabase::TryExecute(const std::string& sql, const cBoundList& values) noexcept
+{
+    try {
+        Execute(sql, values);
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+void cDatabase::ExecuteScript(const std::string& sql)
+{
+    Translate([&] { return Connection().Handle.exec(sql); });
+}
+
+qint64 cDatabase::LastInsertId() const
+{
+    return Connection().Handle.getLastInsertRowid();
+}
+
+eDatabaseFault cDatabase::ProbeWrite() noexcept
+{
+    if (m_isReadOnly) {
+        return eDatabaseFault::ReadOnly;
+    }
+    try {
+        // Only a changed page makes SQLite create its journal, which a folder without write permission refuses.
+        Execute("BEGIN IMMEDIATE");
+        Execute("CREATE TABLE probe_of_write (ID INTEGER)");
+        Execute("ROLLBACK");
+        return eDatabaseFault::None;
+    } catch (const cDatabaseError& error) {
+        TryExecute("ROLLBACK");
+        return error.Fault() == eDatabaseFault::NoAccess ? eDatabaseFault::ReadOnly : error.Fault();
+    } catch (const std::exception&) {
+        return eDatabaseFault::Other;
+    }
+}
+
+void cDatabase::BackupTo(const QString& path)
+{
+    try {
+        Translate([&] {
+            SQLite::Database target(path.toStdString(), FlagsOf(eOpenMode::Create), m_busyTimeout);
+            const int result = SQLite::Backup(target, Connection().Handle).executeStep();
+            if (result != SQLITE_DONE) {
+                throw SQLite::Exception(sqlite3_errstr(result), result);
+            }
+        });
+    } catch (...) {
+        QFile::remove(path);
+        throw;
+    }
+}
+
+QStringList cDatabase::IntegrityCheck()
+{
+    QStringList problems;
+    cRows rows(*this, "PRAGMA integrity_check");
+    while (rows.Next()) {
+        if (rows.Bytes(0) != "ok") {
+            problems.append(rows.Text(0));
+        }
+    }
+    return problems;
+}
+
+quint64 cDatabase::ImportVersion()
+{
+    cRows rows(*this, "PRAGMA data_version");
+    if (rows.Next() && rows.Integer(0) != m_dataVersion) {
+        m_dataVersion = rows.Integer(0);
+        ++m_importVersion;
+    }
+    return m_importVersion;
+}
+
+cDatabase::cConnection& cDatabase::Connection() const
+{
+    if (!m_connection) {
+        throw cDatabaseError(eDatabaseFault::Other, "no database is open");
+    }
+    return *m_connection;
+}
+
+cRows::cRows(cDatabase& database, const std::string& sql, const cBoundList& values)
+    : m_state(new cState {database.Connection(), sql})
+{
+    auto& idle = m_state->Connection.Idle;
+    if (const auto found = idle.find(sql); found != idle.end()) {
+        m_state->Statement = std::move(found->second);
+        idle.erase(found);
+    }
+    Translate([&] {
+        if (!m_state->Statement) {
+            m_state->Statement = std::make_unique<SQLite::Statement>(m_state->Connection.Handle, sql);
+        }
+        Bind(*m_state->Statement, values);
+    });
+}
+
+cRows::~cRows()
+{
+    m_state->Columns.clear();
+    m_state->Statement->tryReset();
+    try {
+        m_state->Statement->clearBindings();
+        auto& idle = m_state->Connection.Idle;
+        if (idle.size() >= idleLimit) {
+            idle.clear();
+        }
+        idle.insert_or_assign(m_state->Sql, std::move(m_state->Statement));
+    } catch (const std::exception&) {
+        m_state->Statement.reset(); // prepared anew next time
+    }
+}
+
+bool cRows::Next()
+{
+    return Translate([&] {
+        const bool hasRow = m_state->Statement->executeStep();
+        if (hasRow && m_state->Columns.empty()) {
+            for (int i = 0; i < m_state->Statement->getColumnCount(); ++i) {
+                m_state->Columns.push_back(m_state->Statement->getColumn(i));
+            }
+        }
+        return hasRow;
+    });
+}
+
+std::string_view cRows::Bytes(int column) const
+{
+    const SQLite::Column& source = m_state->Columns[static_cast<size_t>(column)];
+    const char* text = source.getText();
+    return {text, static_cast<size_t>(source.getBytes())};
+}
+
+QString cRows::Text(int column) const
+{
+    const std::string_view bytes = Bytes(column);
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+qint64 cRows::Integer(int column) const
+{
+    return m_state->Columns[static_cast<size_t>(column)].getInt64();
+}
+
+double cRows::Real(int column) const
+{
+    return m_state->Columns[static_cast<size_t>(column)].getDouble();
+}
+
+int cRows::Changes() const
+{
+    return m_state->Statement->getChanges();
+}

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+enum class eOpenMode { ReadWrite, ReadOnly, Create };
+
+// Why the database refused. `Other` is a fault of the statement itself, such as a missing table.
+enum class eDatabaseFault { None, Busy, Damaged, ReadOnly, Full, NoAccess, Other };
+
+// Thrown by the classes of this floor and caught at its border.
+class cDatabaseError final : public std::runtime_error
+{
+public:
+    cDatabaseError(eDatabaseFault fault, const std::string& text) : std::runtime_error(text), m_fault(fault) { }
+
+    [[nodiscard]] eDatabaseFault Fault() const noexcept { return m_fault; }
+    [[nodiscard]] QString Text() const { return QString::fromUtf8(what()); }
+
+private:
+    eDatabaseFault m_fault;
+};
+
+// Values for the "?" of a statement, in their order.
+using cBound = std::variant<qint64, double, QString>;
+using cBoundList = std::vector<cBound>;
+
+// The one connection to the database file. All failures are thrown as cDatabaseError unless a comment says otherwise.
+class cDatabase
+{
+public:
+    static constexpr int BusyTimeout = 2000; // milliseconds to wait for a lock of somebody else
+
+    explicit cDatabase(int busyTimeout = BusyTimeout) : m_busyTimeout(busyTimeout) { }
+    cDatabase(const cDatabase&) = delete;
+    cDatabase& operator=(const cDatabase&) = delete;
+    ~cDatabase();
+
+    // Opens an existing file; only `Create` makes a new one. A file that the system protects against writing is opened for
+    // reading, see IsReadOnly. The content is not looked at yet.
+    void Open(const QString& path, eOpenMode mode);
+    void Close() noexcept;
+
+    [[nodiscard]] bool IsOpen() const noexcept { return m_connection != nullptr; }
+    [[nodiscard]] bool IsReadOnly() const noexcept { return m_isReadOnly; }
+    [[nodiscard]] const QString& Path() const noexcept { return m_path; }
+
+    // Runs one statement; the number of rows it changed.
+    int Execute(const std::string& sql, const cBoundList& values = {});
+    // The same; false instead of an exception.
+    bool TryExecute(const std::string& sql, const cBoundList& values = {}) noexcept;
+    // Runs several statements without values.
+    void ExecuteScript(const std::string& sql);
+    [[nodiscard]] qint64 LastInsertId() const;
+
+    // Takes the write lock and lets go of it again: None when the file can be written now. Does not throw.
+    [[nodiscard]] eDatabaseFault ProbeWrite() noexcept;
+
+    // Copies the whole database into a new file, also while others read it. A file half written is removed.
+    void BackupTo(const QString& path);
+
+    // What SQLite finds wrong with the file; empty when it is sound.
+    [[nodiscard]] QStringList IntegrityCheck();
+
+    // Whoever writes to table `import` says so here.
+    void NoteImportWrite() noexcept { ++m_importVersion; }
+    // Differs from every earlier value once table `import` may have changed, by this connection or by another.
+    [[nodiscard]] quint64 ImportVersion();
+
+private:
+    friend class cRows;
+    struct cConnection;
+
+    [[nodiscard]] cConnection& Connection() const;
+
+    std::unique_ptr<cConnection> m_connection;
+    QString m_path;
+    int m_busyTimeout;
+    bool m_isReadOnly = false;
+    quint64 m_importVersion = 0;
+    qint64 m_dataVersion = 0; // last one seen of other connections
+};
+
+// The rows of one query. Takes the prepared statement from the connection's stock and gives it back at the end.
+class cRows
+{
+public:
+    cRows(cDatabase& database, const std::string& sql, const cBoundList& values = {});
+    cRows(const cRows&) = delete;
+    cRows& operator=(const cRows&) = delete;
+    ~cRows();
+
+    // Steps to the next row; false behind the last one.
+    bool Next();
+
+    // A column of the current row, counted from 0. The bytes live until the next step; NULL is empty or 0.
+    [[nodiscard]] std::string_view Bytes(int column) const;
+    [[nodiscard]] QString Text(int column) const;
+    [[nodiscard]] qint64 Integer(int column) const;
+    [[nodiscard]] double Real(int column) const;
+
+    // Rows changed by the statement.
+    [[nodiscard]] int Changes() const;
+
+private:
+    struct cState;
+
+    std::unique_ptr<cState> m_state;
+};

@@ -1,0 +1,132 @@
+#include "store/modRow.h"
+
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "store/cDatabase.h"
+
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr size_t wordLimit = 2000; // beyond it a column is not of the kind that repeats
+
+QString FromUtf8(std::string_view bytes)
+{
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+// The digits as a number, or -1.
+int Digits(std::string_view bytes)
+{
+    int value = 0;
+    for (const char c : bytes) {
+        if (c < '0' || c > '9') {
+            return -1;
+        }
+        value = value * 10 + (c - '0');
+    }
+    return value;
+}
+
+// "12.50", the form this program writes, or -1. Everything else takes the thorough way.
+qint64 WrittenCents(std::string_view bytes)
+{
+    const size_t size = bytes.size();
+    if (size < 4 || size > 15 || bytes[size - 3] != '.') {
+        return -1;
+    }
+    qint64 cents = 0;
+    for (size_t i = 0; i < size; ++i) {
+        if (i == size - 3) {
+            continue;
+        }
+        if (bytes[i] < '0' || bytes[i] > '9') {
+            return -1;
+        }
+        cents = cents * 10 + (bytes[i] - '0');
+    }
+    return cents;
+}
+
+} // namespace
+
+QString modRow::Doubled(const QString& text)
+{
+    return text.contains(u'\'') ? QString(text).replace(u"'"_s, u"''"_s) : text;
+}
+
+QString modRow::Undoubled(QString text)
+{
+    return text.contains(u"''"_s) ? text.replace(u"''"_s, u"'"_s) : text;
+}
+
+QString modRow::ReadDoubled(std::string_view bytes)
+{
+    QString text = FromUtf8(bytes);
+    return bytes.find('\'') == std::string_view::npos ? text : Undoubled(std::move(text));
+}
+
+QDate modRow::ReadDate(std::string_view bytes)
+{
+    if (bytes.size() == 10 && bytes[4] == '-' && bytes[7] == '-') {
+        return QDate(Digits(bytes.substr(0, 4)), Digits(bytes.substr(5, 2)), Digits(bytes.substr(8, 2)));
+    }
+    return modDate::FromIso(FromUtf8(bytes));
+}
+
+std::optional<qint64> modRow::ReadCents(std::string_view bytes)
+{
+    if (const qint64 cents = WrittenCents(bytes); cents >= 0) {
+        return cents;
+    }
+    const std::optional<qint64> cents = modAmount::CentsFromText(FromUtf8(bytes));
+    return cents ? std::optional(std::abs(*cents)) : std::nullopt;
+}
+
+QString cWordCache::Get(std::string_view bytes)
+{
+    if (bytes.empty()) {
+        return {};
+    }
+    if (const auto found = m_texts.find(bytes); found != m_texts.end()) {
+        return found->second;
+    }
+    QString text = m_quotes == eQuotes::Doubled ? modRow::ReadDoubled(bytes) : FromUtf8(bytes);
+    if (m_texts.size() < wordLimit) {
+        m_texts.emplace(bytes, text);
+    }
+    return text;
+}
+
+cEntryItem cEntryReader::Read(const cRows& row)
+{
+    return {
+        .ID = static_cast<int>(row.Integer(0)),
+        .EntryDate = modRow::ReadDate(row.Bytes(1)),
+        .EntryDateEnd = modRow::ReadDate(row.Bytes(2)),
+        .EntryType = m_words.Get(row.Bytes(3)),
+        .EntryInterval = m_words.Get(row.Bytes(4)),
+        .EntryAccount = m_names.Get(row.Bytes(5)),
+        .EntryAccountMove = m_names.Get(row.Bytes(6)),
+        .EntryCategory = m_names.Get(row.Bytes(7)),
+        .EntryValue = modRow::ReadCents(row.Bytes(8)).value_or(0),
+        .EntryDescription = modRow::ReadDoubled(row.Bytes(9)),
+        .EntryFlags = FromUtf8(row.Bytes(10)),
+        .CorrectionComment = {},
+    };
+}
+
+cEntryItemFixMod modFixModRow::Read(const cRows& row)
+{
+    return {
+        .ID = static_cast<int>(row.Integer(0)),
+        .EntryRelation = static_cast<int>(row.Integer(1)),
+        .EntryModType = row.Text(2),
+        .EntryStartDate = modRow::ReadDate(row.Bytes(3)),
+        .EntryEndDate = modRow::ReadDate(row.Bytes(4)),
+        .EntryValue = modRow::ReadCents(row.Bytes(5)).value_or(0),
+        .EntryComment = row.Text(6),
+    };
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+class cRows;
+
+// From the bytes of a row to the fields of a record, and back.
+namespace modRow {
+
+// Texts of entries and staged rows are stored with every apostrophe doubled, although values are bound: existing files hold
+// them like that and have to read back the same.
+[[nodiscard]] QString Doubled(const QString& text);
+[[nodiscard]] QString Undoubled(QString text);
+
+// The doubled text of a row.
+[[nodiscard]] QString ReadDoubled(std::string_view bytes);
+
+// "yyyy-mm-dd" with or without a time behind it; invalid for anything else.
+[[nodiscard]] QDate ReadDate(std::string_view bytes);
+
+// Whole cents of an amount text, without its sign; empty when it is no number.
+[[nodiscard]] std::optional<qint64> ReadCents(std::string_view bytes);
+
+} // namespace modRow
+
+enum class eQuotes { Plain, Doubled };
+
+// Texts of a query that come again and again: equal ones share one string.
+class cWordCache
+{
+public:
+    explicit cWordCache(eQuotes quotes) : m_quotes(quotes) { }
+
+    [[nodiscard]] QString Get(std::string_view bytes);
+
+private:
+    struct cHash : std::hash<std::string_view>
+    {
+        using is_transparent = void; // NOLINT(readability-identifier-naming): the name the standard library looks for
+    };
+
+    eQuotes m_quotes;
+    std::unordered_map<std::string, QString, cHash, std::equal_to<>> m_texts;
+};
+
+// Reads rows of table `data`; one reader per query.
+class cEntryReader
+{
+public:
+    static constexpr const char* Select = "SELECT ID, EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
+                                          "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags "
+                                          "FROM data";
+
+    [[nodiscard]] cEntryItem Read(const cRows& row);
+
+private:
+    cWordCache m_words {eQuotes::Plain};
+    cWordCache m_names {eQuotes::Doubled};
+};
+
+// Reads rows of table `datamod`.
+namespace modFixModRow {
+
+inline constexpr const char* Select
+    = "SELECT ID, EntryRelation, EntryModType, EntryStartDate, EntryEndDate, EntryValue, EntryComment FROM datamod";
+
+[[nodiscard]] cEntryItemFixMod Read(const cRows& row);
+
+} // namespace modFixModRow

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "model/cTemplateItem.h"
+
+#include <QAbstractTableModel>
+#include <QHash>
+#include <QString>
+
+#include <vector>
+
+class cAmountFormat;
+
+// The accounts panel: accounts below their groups with balance and number of staged rows that wait, then the total.
+class cAccountListModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum eColumn { Name, Balance, Open, ColumnCount };
+    enum eRole { KindRole = Qt::UserRole, ToneRole, ChosenRole };
+    enum eKind { Group, Account, Total };
+
+    explicit cAccountListModel(const cAmountFormat& format, QObject* parent = nullptr);
+    ~cAccountListModel() override;
+
+    // `balances` in cents and `open` by account name; names that no definition has (left from a renamed account, say) are
+    // listed in a group of their own, so that no money is missing. The open rows under the empty name belong to bank
+    // accounts without account in the book; they count in the total.
+    void SetAccounts(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
+                     const QHash<QString, int>& open);
+    void SetChosen(const QString& account); // empty: none
+
+    // Account name of a row; empty for groups and the total.
+    [[nodiscard]] QString AccountAt(const QModelIndex& index) const;
+    [[nodiscard]] qint64 TotalCents() const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    struct cRow
+    {
+        eKind Kind = Account;
+        QString Name;
+        qint64 Cents = 0;
+        int Open = 0;
+    };
+
+    void AddGroup(const QString& name, const std::vector<cRow>& rows);
+    [[nodiscard]] QString Text(const cRow& row, int column) const;
+
+    const cAmountFormat& m_format;
+    std::vector<cRow> m_rows;
+    QString m_chosen;
+};

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "base/modFold.h"
+#include "model/cEntryItem.h"
+
+#include <QAbstractItemModel>
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+class cAmountFormat;
+
+// The entry list: occurrences in rows, optionally gathered in groups with count and sum. The records never move; sorting,
+// grouping and filtering only rebuild the order in which they are shown.
+class cEntryListModel final : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum eColumn { Date, Type, Category, Account, Description, Interval, Amount, Balance, ColumnCount };
+
+    enum eRole {
+        ToneRole = Qt::UserRole, // int of eMoneyTone
+        FutureRole, // bool: lies after today
+        CorrectedRole, // bool: amount of this period corrected by hand
+        GroupRole, // bool: the row is the head of a group
+    };
+
+    // What an amount means, for whoever paints it.
+    enum eMoneyTone { Neutral, Income, Expense };
+
+    struct cSums
+    {
+        qint64 Income = 0;
+        qint64 Expense = 0; // cents, not negative
+        qsizetype Count = 0;
+        [[nodiscard]] qint64 Total() const { return Income - Expense; }
+        bool operator==(const cSums&) const = default;
+    };
+
+    // An occurrence as it is found again after the list was rebuilt.
+    struct cKey
+    {
+        int ID = 0;
+        QDate Day;
+        bool operator==(const cKey&) const = default;
+    };
+
+    explicit cEntryListModel(const cAmountFormat& format, QObject* parent = nullptr);
+    ~cEntryListModel() override;
+
+    // What to show. With an account, transfers count as its income or expense.
+    struct cContent
+    {
+        cEntryItemList Entries;
+        QString Account; // empty: all accounts
+        QDate Today;
+        QString HiddenCategory; // entries of this category are left out; empty: none
+        std::optional<qint64> StartBalance; // cents before the first entry; without it the balance column stays empty
+    };
+    void SetContent(cContent content, const QString& filter, const QString& grouping);
+    void SetFilter(const QString& text); // every word must be found
+    void SetGrouping(const QString& grouping); // a word of modWord::Groupings
+
+    [[nodiscard]] cSums Sums() const { return m_sums; }
+    [[nodiscard]] const cEntryItem* EntryAt(const QModelIndex& index) const; // null for the head of a group
+    [[nodiscard]] cKey KeyAt(const QModelIndex& index) const;
+    // The rows of these keys in one pass over the list.
+    [[nodiscard]] QModelIndexList IndexesOf(const QList<cKey>& keys) const;
+    // The first row on or after the day while sorted by date upwards (the first on or before it while downwards); invalid
+    // when the list is sorted otherwise or ends before.
+    [[nodiscard]] QModelIndex IndexNear(QDate day) const;
+    [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
+
+    [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex& child) const override;
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    void sort(int column, Qt::SortOrder order) override;
+
+private:
+    struct cGroup
+    {
+        QString Name;
+        int First = 0; // position in m_order
+        int Count = 0;
+        qint64 Sum = 0;
+    };
+
+    void Rebuild();
+    void Select(); // decides which entries are shown and adds them up
+    void Order(); // sorts them and forms the groups
+    void FormGroups(const std::vector<qint64>& ranks, const QStringList& names);
+    void RunBalances();
+    [[nodiscard]] std::vector<qint64> SortKeys() const;
+    [[nodiscard]] qint64 Effect(int entry) const;
+    [[nodiscard]] int EntryIndex(const QModelIndex& index) const; // -1 for the head of a group
+    [[nodiscard]] QString Text(int entry, int column) const;
+    [[nodiscard]] QVariant EntryData(int entry, int column, int role) const;
+    [[nodiscard]] QVariant GroupData(const cGroup& group, int column, int role) const;
+    [[nodiscard]] QString Tip(const cEntryItem& entry) const;
+
+    const cAmountFormat& m_format;
+    cContent m_content;
+    QList<modFold::cFolded> m_words;
+    QString m_grouping;
+    int m_sortColumn = Date;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    std::vector<int> m_order; // shown entries in their order
+    std::vector<cGroup> m_groups;
+    std::vector<qint64> m_balances; // by entry; empty when there is none to show
+    cSums m_sums;
+};

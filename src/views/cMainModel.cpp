@@ -1,0 +1,506 @@
+#include "views/cMainModel.h"
+
+#include "base/cClock.h"
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "model/modBalance.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/cNavigator.h"
+#include "views/cTemplateFlow.h"
+#include "views/modCommand.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+cMainModel::cMainModel(const cParts& parts, QObject* parent) :
+    QObject(parent), m_parts(parts), m_entries(parts.Format), m_accounts(parts.Format)
+{
+    tmrRefreshList.setSingleShot(true);
+    tmrRefreshAccounts.setSingleShot(true);
+    connect(&tmrRefreshList, &QTimer::timeout, this, &cMainModel::ShowFilter);
+    connect(&tmrRefreshAccounts, &QTimer::timeout, this, &cMainModel::RefreshAccounts);
+}
+
+cMainModel::~cMainModel() = default;
+
+void cMainModel::RestoreView(bool isNewVersion)
+{
+    const bool isNewBook = m_parts.Settings.Get(u"MainZeitraum"_s).isEmpty();
+    if (isNewBook) {
+        m_parts.Settings.ResetViewDefaults();
+    }
+    m_accountItems = m_parts.Data.GetAccounts();
+    m_view.Restore(m_parts.Settings, Accounts());
+    if (isNewVersion && !isNewBook) {
+        ResetView();
+        return;
+    }
+    RefreshView();
+}
+
+void cMainModel::SaveView()
+{
+    m_view.Save(m_parts.Settings);
+}
+
+void cMainModel::SaveLayout(const cPlacement& placement)
+{
+    const QStringList numbers {QString::number(placement.Left), QString::number(placement.Top),
+                               QString::number(placement.Width), QString::number(placement.Height)};
+    m_parts.Configuration.SaveSetting(u"WindowSize"_s, numbers.join(u'|'), eSettingPlace::Database);
+    m_parts.Configuration.SaveSetting(u"WindowState"_s, QString::number(placement.State), eSettingPlace::Database);
+}
+
+cMainModel::cPlacement cMainModel::RestoreLayout() const
+{
+    const QStringList numbers = m_parts.Configuration.GetSetting(u"WindowSize"_s).split(u'|');
+    cPlacement placement;
+    placement.State = m_parts.Configuration.GetSetting(u"WindowState"_s).toInt();
+    if (numbers.size() == 4 && numbers.at(2).toInt() > 0 && numbers.at(3).toInt() > 0) {
+        placement.Left = numbers.at(0).toInt();
+        placement.Top = numbers.at(1).toInt();
+        placement.Width = numbers.at(2).toInt();
+        placement.Height = numbers.at(3).toInt();
+    }
+    return placement;
+}
+
+void cMainModel::ResetView()
+{
+    for (const QString& key : {u"FilterList"_s, u"ImportList"_s, u"KategorieList"_s, u"MainList"_s, u"WindowSize"_s,
+                               u"WindowState"_s, u"GroupEntries"_s}) {
+        m_parts.Settings.Delete(key);
+    }
+    m_view.Grouping = modWord::KeineGruppierung;
+    m_view.Type = modWord::AlleBuchungsarten;
+    m_view.Filter.clear();
+    m_view.Period = modWord::AlleBuchungen;
+    m_view.Account = modWord::AlleKonten;
+    SetSwitch(u"ViewFixBooking"_s, eSwitch::On);
+    SetSwitch(u"ViewSingleBooking"_s, eSwitch::On);
+    SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+    // Off on purpose, unlike the defaults of a new book: a reset shows the balances of what is in sight.
+    SetSwitch(u"ViewAccountValueAll"_s, eSwitch::Off);
+    Q_EMIT LayoutReset();
+    RefreshView();
+}
+
+void cMainModel::RefreshView()
+{
+    SaveView();
+    LoadEntries();
+    tmrRefreshAccounts.start(0);
+    Q_EMIT ViewChanged();
+}
+
+void cMainModel::LoadEntries()
+{
+    const QDate today = m_parts.Clock.Today();
+    const cEntryQuery query = m_view.Query(today);
+    cEntryListModel::cContent content;
+    if (!m_view.ShowsNothing()) {
+        content.Entries = m_parts.Data.GetEntries(query);
+        content.StartBalance = StartBalance(query);
+    }
+    content.Account = query.Account;
+    content.Today = today;
+    content.HiddenCategory = m_view.ShowsStart ? QString() : modWord::Startguthaben;
+    m_entries.SetContent(std::move(content), m_view.Filter, m_view.Grouping);
+    Q_EMIT EntriesChanged();
+}
+
+std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
+{
+    const bool isNarrowed = query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
+    if (query.Account.isEmpty() || isNarrowed) {
+        return std::nullopt;
+    }
+    qint64 balance = 0;
+    if (query.Start.isValid()) {
+        cEntryQuery before;
+        before.Account = query.Account;
+        before.End = query.Start.addDays(-1);
+        const QList<cAccountSum> sums = m_parts.Data.GetSums(before, true);
+        for (const cAccountSum& sum : sums) {
+            balance += modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
+        }
+    }
+    return balance;
+}
+
+void cMainModel::RefreshAccounts()
+{
+    const QDate today = m_parts.Clock.Today();
+    const bool isFresh = m_view.BalancesToToday && m_balancesOf == today;
+    if (isFresh) {
+        m_accounts.SetChosen(m_view.FilterAccount());
+        return;
+    }
+    QHash<QString, qint64> balances;
+    if (m_view.BalancesToToday || !m_view.ShowsNothing()) {
+        const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
+        const QList<cAccountSum> sums = m_parts.Data.GetSums(m_view.BalanceQuery(today), withStart);
+        for (const cAccountSum& sum : sums) {
+            const bool isTransfer = sum.EntryType == modWord::Umbuchung;
+            balances[sum.EntryAccount] += isTransfer || sum.EntryType != modWord::Einnahme ? -sum.Cents : sum.Cents;
+            if (isTransfer) {
+                balances[sum.EntryAccountMove] += sum.Cents;
+            }
+        }
+    }
+    m_accounts.SetAccounts(m_accountItems, balances, OpenByAccount());
+    m_accounts.SetChosen(m_view.FilterAccount());
+    m_balancesOf = m_view.BalancesToToday ? today : QDate();
+}
+
+QHash<QString, int> cMainModel::OpenByAccount() const
+{
+    QHash<QString, int> byAccount;
+    const QHash<QString, int> byNumber = m_parts.Data.CountOpenImports();
+    for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
+        byAccount[m_parts.Settings.Get(u"KTO:"_s + open.key())] += *open;
+    }
+    return byAccount;
+}
+
+void cMainModel::BookChanged()
+{
+    m_balancesOf = QDate();
+    m_accountItems = m_parts.Data.GetAccounts();
+    RefreshView();
+}
+
+void cMainModel::ChoosePeriod(const QString& name)
+{
+    if (!modWord::Periods().Contains(name)) {
+        return;
+    }
+    const modPeriod::cRange shown = ShownRange();
+    m_view.Period = name;
+    if (IsFreePeriod() && !(m_view.Free.Start.isValid() && m_view.Free.End.isValid())) {
+        const QDate today = m_parts.Clock.Today();
+        m_view.Free = shown.Start.isValid() && shown.End.isValid() ? shown : modPeriod::Year(today, 0);
+    }
+    if (modPeriod::IsNext(name) && !m_view.ShowsFuture
+        && m_parts.User.Ask({.Text = cText::Tr("Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige "
+                                               "aktiviert werden?"),
+                             .Title = {}})
+            == eAnswer::Yes) {
+        SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+    }
+    RefreshView();
+}
+
+void cMainModel::ChooseFreeRange(const modPeriod::cRange& range)
+{
+    if (IsFreePeriod() && range != m_view.Free) {
+        m_view.Free = range;
+        RefreshView();
+    }
+}
+
+void cMainModel::ChooseAccount(const QString& account)
+{
+    const QString chosen = account.isEmpty() ? modWord::AlleKonten : account;
+    if (chosen != m_view.Account) {
+        m_view.Account = chosen;
+        RefreshView();
+    }
+}
+
+void cMainModel::ChooseType(const QString& type)
+{
+    if (modWord::ViewTypes().Contains(type)) {
+        m_view.Type = type;
+        RefreshView();
+    }
+}
+
+void cMainModel::ChooseGrouping(const QString& grouping)
+{
+    if (modWord::Groupings().Contains(grouping)) {
+        m_view.Grouping = grouping;
+        SaveView();
+        m_entries.SetGrouping(grouping);
+        Q_EMIT EntriesChanged();
+        Q_EMIT ViewChanged();
+    }
+}
+
+void cMainModel::TypeFilter(const QString& text)
+{
+    if (text != m_view.Filter) {
+        m_view.Filter = text;
+        tmrRefreshList.start(0);
+    }
+}
+
+void cMainModel::ShowFilter()
+{
+    SaveView();
+    m_entries.SetFilter(m_view.Filter);
+    Q_EMIT EntriesChanged();
+}
+
+bool* cMainModel::Switch(const QString& key)
+{
+    const QHash<QString, bool*> switches {{u"ViewSingleBooking"_s, &m_view.ShowsSingle},
+                                          {u"ViewFixBooking"_s, &m_view.ShowsFix},
+                                          {u"ViewFutureBooking"_s, &m_view.ShowsFuture},
+                                          {u"ViewStartBooking"_s, &m_view.ShowsStart},
+                                          {u"ViewAccountValueAll"_s, &m_view.BalancesToToday}};
+    return switches.value(key);
+}
+
+void cMainModel::SetSwitch(const QString& key, eSwitch state)
+{
+    *Switch(key) = state == eSwitch::On;
+    m_parts.Settings.SetBool(key, state == eSwitch::On);
+    m_balancesOf = QDate();
+}
+
+void cMainModel::ToggleView(const QString& key)
+{
+    const bool* state = Switch(key);
+    if (state != nullptr) {
+        SetSwitch(key, *state ? eSwitch::Off : eSwitch::On);
+        RefreshView();
+    }
+}
+
+bool cMainModel::IsChecked(const QString& key) const
+{
+    return m_parts.Settings.GetBool(key);
+}
+
+bool cMainModel::Execute(int command)
+{
+    const modCommand::cCommand* known = modCommand::Find(command);
+    if (known == nullptr) {
+        return false;
+    }
+    if (!IsEnabled(command)) {
+        return true;
+    }
+    switch (known->Id) {
+    case modCommand::NewEntry: m_parts.Navigator.OpenEntryEditor(0); break;
+    case modCommand::EditEntry: m_parts.Navigator.OpenEntryEditor(m_selection.constFirst().ID); break;
+    case modCommand::DeleteEntry: DeleteSelected(); break;
+    case modCommand::ImportStatement: m_parts.Navigator.OpenImport(); break;
+    case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
+    case modCommand::ChooseColumns: m_parts.Navigator.OpenColumnChooser(); break;
+    case modCommand::ResetView: ResetView(); break;
+    case modCommand::Calculator: StartCalculator(); break;
+    case modCommand::ViewSingle:
+    case modCommand::ViewFix:
+    case modCommand::ViewFuture:
+    case modCommand::ViewStart:
+    case modCommand::ViewAccountValues: ToggleView(QString::fromUtf8(known->Setting)); break;
+    }
+    return true;
+}
+
+bool cMainModel::IsEnabled(int command) const
+{
+    const modCommand::cCommand* known = modCommand::Find(command);
+    if (known == nullptr || (known->Writes && IsReadOnly())) {
+        return false;
+    }
+    const bool needsSelection = known->Id == modCommand::EditEntry || known->Id == modCommand::DeleteEntry;
+    return !needsSelection || !m_selection.isEmpty();
+}
+
+void cMainModel::StartCalculator()
+{
+    if (!m_parts.Shell.StartCalculator()) {
+        m_parts.User.Show(eTone::Exclamation,
+                          cText::Tr("Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum "
+                                    "Beispiel \"gnome-calculator\" oder \"kcalc\"."));
+    }
+}
+
+void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
+{
+    m_selection = selection;
+    Q_EMIT SelectionChanged();
+}
+
+QList<int> cMainModel::SelectedIds() const
+{
+    QList<int> ids;
+    for (const cEntryListModel::cKey& key : m_selection) {
+        if (!ids.contains(key.ID)) {
+            ids.append(key.ID);
+        }
+    }
+    return ids;
+}
+
+void cMainModel::DeleteSelected()
+{
+    const QList<int> ids = SelectedIds();
+    const eAnswer answer = m_parts.User.Ask({.Text = DeleteQuestion(ids), .Title = cText::Tr("Eintrag löschen")});
+    if (answer != eAnswer::Yes) {
+        return;
+    }
+    for (const int id : ids) {
+        if (!m_parts.Data.DeleteEntry(id)) {
+            break;
+        }
+    }
+    m_selection.clear();
+    BookChanged();
+    Q_EMIT StagedRowsReleased();
+    Q_EMIT SelectionChanged();
+}
+
+QString cMainModel::DeleteQuestion(const QList<int>& ids) const
+{
+    QStringList series;
+    QString single;
+    for (const int id : ids) {
+        const std::optional<cEntryItem> entry = m_parts.Data.LoadEntry(id);
+        if (!entry) {
+            continue;
+        }
+        const QString name = entry->EntryDescription.isEmpty() ? entry->EntryCategory : entry->EntryDescription;
+        single = cText::Tr("'{0}' vom {1} über {2}",
+                           {name, modDate::ToGerman(entry->EntryDate), m_parts.Format.Cents(entry->EntryValue)});
+        if (modRecurrence::IsRecurring(entry->EntryInterval)) {
+            series.append(cText::Tr("'{0}' ({1} seit {2})", {name, modWord::Intervals().ToShown(entry->EntryInterval),
+                                                             modDate::ToGerman(entry->EntryDate)}));
+        }
+    }
+    QString text = ids.size() == 1 ? cText::Tr("Möchten Sie den Eintrag {0} löschen?", {single})
+                                   : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?",
+                                               {QString::number(ids.size())});
+    if (!series.isEmpty()) {
+        constexpr qsizetype most = 8;
+        const QString more = series.size() > most ? u"\n…"_s : QString();
+        text += u"\n\n"_s
+            + cText::Tr("Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:")
+            + u'\n' + series.mid(0, most).join(u'\n') + more;
+    }
+    return text;
+}
+
+void cMainModel::RenameAccount(const QString& oldName)
+{
+    cTemplateFlow flow(m_parts.Data, m_parts.Settings, m_parts.User);
+    const QString name = flow.AskRenameAccount(oldName);
+    if (name != oldName) {
+        m_view.Account = m_view.Account == oldName ? name : m_view.Account;
+        BookChanged();
+    }
+}
+
+modPeriod::cRange cMainModel::ShownRange() const
+{
+    return m_view.Range(m_parts.Clock.Today());
+}
+
+QDate cMainModel::Today() const
+{
+    return m_parts.Clock.Today();
+}
+
+bool cMainModel::IsFreePeriod() const
+{
+    return m_view.Period == modWord::FreierZeitraum;
+}
+
+QStringList cMainModel::Accounts() const
+{
+    QStringList names {modWord::AlleKonten};
+    for (const cTemplateItem& account : m_accountItems) {
+        names.append(account.TemplateName);
+    }
+    return names;
+}
+
+QString cMainModel::IncomeText() const
+{
+    return m_parts.Format.Cents(m_entries.Sums().Income);
+}
+
+QString cMainModel::ExpenseText() const
+{
+    return m_parts.Format.Cents(-m_entries.Sums().Expense);
+}
+
+QString cMainModel::TotalText() const
+{
+    return m_parts.Format.Cents(m_entries.Sums().Total());
+}
+
+QString cMainModel::CountText() const
+{
+    const qsizetype count = m_entries.Sums().Count;
+    return count == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(count)});
+}
+
+QString cMainModel::Hint() const
+{
+    const modPeriod::cRange range = ShownRange();
+    const bool reachesOpenEnd = m_view.ShowsFuture && m_view.ShowsFix && !range.End.isValid();
+    return reachesOpenEnd ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.") : QString();
+}
+
+QString cMainModel::EmptyHint() const
+{
+    if (m_view.ShowsNothing()) {
+        return cText::Tr("Einmalige und fixe Buchungen sind ausgeblendet. Das Menü Ansicht blendet sie wieder ein.");
+    }
+    if (!m_view.Filter.isEmpty()) {
+        return cText::Tr("Kein Eintrag dieser Ansicht enthält '{0}'. Löschen Sie den Filter, um alles zu sehen.",
+                         {m_view.Filter});
+    }
+    if (m_parts.Data.CountEntries() == 0) {
+        return cText::Tr("Erfassen Sie mit Strg+N den ersten Eintrag, oder lesen Sie mit Strg+I einen Kontoauszug Ihrer Bank "
+                         "ein.");
+    }
+    return cText::Tr("Für diese Auswahl gibt es keine Einträge. Wählen Sie einen anderen Zeitraum oder ein anderes Konto.");
+}
+
+QString cMainModel::DatabaseText() const
+{
+    const QString path = QDir::toNativeSeparators(m_parts.DatabasePath);
+    return IsReadOnly() ? cText::Tr("{0} (nur lesen)", {path}) : path;
+}
+
+QString cMainModel::WindowTitle() const
+{
+    return u"%1 – Kontorelle"_s.arg(QFileInfo(m_parts.DatabasePath).completeBaseName());
+}
+
+QString cMainModel::BalancesTitle() const
+{
+    return m_view.BalancesToToday ? cText::Tr("Kontostände heute") : cText::Tr("Kontostände im Zeitraum");
+}
+
+bool cMainModel::IsReadOnly() const
+{
+    return m_parts.Data.IsReadOnly();
+}
+
+QString cMainModel::Layout(const QString& key) const
+{
+    return m_parts.Settings.Get(key);
+}
+
+void cMainModel::SaveListLayout(const QString& key, const QString& layout)
+{
+    if (m_parts.Settings.Get(key) != layout) {
+        m_parts.Settings.Set(key, layout);
+    }
+}

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "base/cUser.h"
+#include "views/cAccountListModel.h"
+#include "views/cEntryListModel.h"
+#include "views/cViewState.h"
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+class cAmountFormat;
+class cClock;
+class cConfiguration;
+class cDataAccess;
+class cNavigator;
+class cSettings;
+class cShell;
+
+// The main window without its widgets: what the user looks at, the lists that show it, and every command.
+class cMainModel final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What the model works with; all of it outlives the model.
+    struct cParts
+    {
+        cDataAccess& Data;
+        cSettings& Settings;
+        cConfiguration& Configuration;
+        const cAmountFormat& Format;
+        cUser& User;
+        const cClock& Clock;
+        cShell& Shell;
+        cNavigator& Navigator;
+        QString DatabasePath;
+    };
+
+    enum class eSwitch { On, Off };
+
+    // Place and state of the main window as they are stored.
+    struct cPlacement
+    {
+        int Left = 0;
+        int Top = 0;
+        int Width = 0; // 0 when nothing usable is stored
+        int Height = 0;
+        int State = 0; // 0 normal, 1 minimised, 2 maximised
+    };
+
+    explicit cMainModel(const cParts& parts, QObject* parent = nullptr);
+    ~cMainModel() override;
+
+    // Reads the view state from the settings and shows it. `isNewVersion`: another version of the program opened this
+    // database last, so the view starts afresh.
+    void RestoreView(bool isNewVersion);
+    void SaveView();
+    void SaveLayout(const cPlacement& placement);
+    [[nodiscard]] cPlacement RestoreLayout() const;
+    void ResetView();
+    void RefreshView(); // loads the entries, adds up and shows them, writes the view state
+
+    // The selectors. Each stores and refreshes; an unknown word is not taken.
+    void ChoosePeriod(const QString& name);
+    void ChooseFreeRange(const modPeriod::cRange& range); // only while the free period is chosen
+    void ChooseAccount(const QString& account); // empty: all accounts
+    void ChooseType(const QString& type);
+    void ChooseGrouping(const QString& grouping);
+    void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
+    void ToggleView(const QString& key); // one of the five View... switches
+
+    // One handler for menus, tool bar and keys. False for an unknown number.
+    bool Execute(int command);
+    [[nodiscard]] bool IsEnabled(int command) const;
+    [[nodiscard]] bool IsChecked(const QString& key) const;
+
+    // The selected occurrences, given by the list.
+    void SetSelection(const QList<cEntryListModel::cKey>& selection);
+
+    // After entries, accounts or staged rows changed elsewhere.
+    void BookChanged();
+
+    // Renames an account with all its questions.
+    void RenameAccount(const QString& oldName);
+
+    [[nodiscard]] const cViewState& View() const { return m_view; }
+    [[nodiscard]] modPeriod::cRange ShownRange() const; // the days that the date fields show
+    [[nodiscard]] QDate Today() const;
+    [[nodiscard]] bool IsFreePeriod() const;
+    [[nodiscard]] QStringList Accounts() const; // "Alle Konten" first
+    [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
+    [[nodiscard]] cAccountListModel& AccountList() { return m_accounts; }
+
+    // Texts beside the list.
+    [[nodiscard]] QString IncomeText() const;
+    [[nodiscard]] QString ExpenseText() const;
+    [[nodiscard]] QString TotalText() const;
+    [[nodiscard]] QString CountText() const;
+    [[nodiscard]] QString Hint() const; // a quiet line above the list; empty for none
+    [[nodiscard]] QString EmptyHint() const; // what to do when the list shows nothing
+    [[nodiscard]] QString DatabaseText() const;
+    [[nodiscard]] QString WindowTitle() const;
+    [[nodiscard]] QString BalancesTitle() const;
+    [[nodiscard]] bool IsReadOnly() const;
+
+    // Column layout of a list, as its window wrote it.
+    [[nodiscard]] QString Layout(const QString& key) const;
+    void SaveListLayout(const QString& key, const QString& layout);
+
+Q_SIGNALS:
+    void ViewChanged(); // selectors, switches, hint
+    void EntriesChanged(); // list and sums were rebuilt
+    void LayoutReset(); // column layouts and window size were set back
+    void SelectionChanged();
+    void StagedRowsReleased(); // entries were deleted, their bank transactions wait again
+
+private:
+    void LoadEntries();
+    void ShowFilter();
+    void StartCalculator();
+    void RefreshAccounts();
+    void DeleteSelected();
+    [[nodiscard]] QString DeleteQuestion(const QList<int>& ids) const;
+    void SetSwitch(const QString& key, eSwitch state);
+    [[nodiscard]] bool* Switch(const QString& key);
+    [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
+    [[nodiscard]] QHash<QString, int> OpenByAccount() const;
+    [[nodiscard]] QList<int> SelectedIds() const;
+
+    cParts m_parts;
+    cViewState m_view;
+    cEntryListModel m_entries;
+    cAccountListModel m_accounts;
+    cTemplateItemList m_accountItems;
+    QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
+    QList<cEntryListModel::cKey> m_selection;
+    QTimer tmrRefreshList;
+    QTimer tmrRefreshAccounts;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+class cAccountListModel;
+class QLabel;
+class QTreeView;
+
+// Accounts with their balances, left of the list: a click (or Enter) filters by the account, a double click (or Escape)
+// shows all accounts again.
+class cAccountPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit cAccountPanel(cAccountListModel& model, QWidget* parent = nullptr);
+
+    void SetTitle(const QString& title);
+
+Q_SIGNALS:
+    void AccountChosen(const QString& account); // empty: all
+    void RenameRequested(const QString& account);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void OpenMenu(const QPoint& position);
+    [[nodiscard]] QString CurrentAccount() const;
+
+    cAccountListModel& m_model;
+    QLabel* m_title;
+    QTreeView* m_view;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+class cMainModel;
+class QLabel;
+
+// The sums of the shown entries: count, income, expense, total.
+class cSumBar final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit cSumBar(QWidget* parent = nullptr);
+
+    void ShowSums(const cMainModel& model);
+
+private:
+    QLabel* AddSum(const QString& title);
+
+    QLabel* m_count;
+    QLabel* m_income;
+    QLabel* m_expense;
+    QLabel* m_total;
+};

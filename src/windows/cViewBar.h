@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/modPeriod.h"
+
+#include <QWidget>
+
+class cMainModel;
+class QComboBox;
+class QDateEdit;
+class QLineEdit;
+
+// The selectors above the list: period with its two days, account, kind of entry, grouping, and the text filter.
+class cViewBar final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit cViewBar(cMainModel& model, QWidget* parent = nullptr);
+
+    // Sets every selector to what the model shows, without telling the model about it.
+    void ShowView();
+
+private:
+    void Build();
+    void Connect();
+    void ShowDay(QDateEdit& edit, QDate day);
+
+    cMainModel& m_model;
+    QComboBox* m_period;
+    QDateEdit* m_start;
+    QDateEdit* m_end;
+    QComboBox* m_account;
+    QComboBox* m_type;
+    QComboBox* m_grouping;
+    QLineEdit* m_filter;
+};

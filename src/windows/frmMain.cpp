@@ -1,0 +1,253 @@
+#include "windows/frmMain.h"
+
+#include "base/cText.h"
+#include "views/cMainModel.h"
+#include "views/modCommand.h"
+#include "windows/cAccountPanel.h"
+#include "windows/cEntryTree.h"
+#include "windows/cSumBar.h"
+#include "windows/cViewBar.h"
+#include "windows/modIcon.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QStringList DroppedFiles(const QMimeData& data)
+{
+    QStringList paths;
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    return paths;
+}
+
+} // namespace
+
+frmMain::frmMain(cMainModel& model, QWidget* statements, QWidget* parent) :
+    QMainWindow(parent), m_model(model), m_splitter(new QSplitter(this)), m_tabs(new QTabWidget(this)),
+    m_accounts(new cAccountPanel(model.AccountList(), this)), m_viewBar(new cViewBar(model, this)),
+    m_hint(new QLabel(this)), m_tree(new cEntryTree(model.Entries(), this)), m_sums(new cSumBar(this)),
+    m_database(new QLabel(this))
+{
+    setAcceptDrops(true);
+    setWindowIcon(modIcon::Program());
+    BuildCommands();
+    BuildPages(statements);
+    Connect();
+    ShowIcons();
+}
+
+void frmMain::BuildCommands()
+{
+    QHash<QString, QMenu*> menus;
+    auto* toolBar = addToolBar(cText::Tr("Werkzeugleiste"));
+    toolBar->setObjectName(u"toolBar"_s);
+    toolBar->setMovable(false);
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const modCommand::cCommand& command : modCommand::All()) {
+        const QString title = cText::Tr(command.Menu);
+        if (!menus.contains(title)) {
+            menus.insert(title, menuBar()->addMenu(u'&' + title));
+        }
+        QAction* action = menus.value(title)->addAction(modCommand::MenuText(command));
+        QList<QKeySequence> keys;
+        const QStringList keyTexts = modCommand::Keys(command);
+        for (const QString& key : keyTexts) {
+            keys.append(QKeySequence(key, QKeySequence::PortableText));
+        }
+        action->setShortcuts(keys);
+        action->setIconText(cText::Tr(command.Caption));
+        action->setStatusTip(cText::Tr(command.Hint));
+        action->setCheckable(*command.Setting != '\0');
+        action->setData(command.Id);
+        connect(action, &QAction::triggered, this, [this, id = command.Id] { m_model.Execute(id); });
+        m_actions.insert(command.Id, action);
+        if (command.IsInToolBar) {
+            toolBar->addAction(action);
+        }
+    }
+}
+
+void frmMain::BuildPages(QWidget* statements)
+{
+    m_tabs->setDocumentMode(true);
+    m_tabs->addTab(BuildEntryPage(), cText::Tr("Bu&chungen"));
+    m_tabs->addTab(statements, cText::Tr("Kont&oauszüge"));
+    m_splitter->addWidget(m_accounts);
+    m_splitter->addWidget(m_tabs);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setChildrenCollapsible(false);
+    const int character = fontMetrics().averageCharWidth();
+    m_splitter->setSizes({character * 42, character * 140});
+    setCentralWidget(m_splitter);
+    statusBar()->addPermanentWidget(m_database);
+    resize(character * 190, fontMetrics().height() * 44);
+}
+
+QWidget* frmMain::BuildEntryPage()
+{
+    auto* page = new QWidget(this);
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(8, 8, 8, 4);
+    layout->addWidget(m_viewBar);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_sums);
+    m_hint->setWordWrap(true);
+    m_hint->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    return page;
+}
+
+void frmMain::Connect()
+{
+    connect(&m_model, &cMainModel::ViewChanged, this, &frmMain::ShowView);
+    connect(&m_model, &cMainModel::EntriesChanged, this, &frmMain::ShowEntries);
+    connect(&m_model, &cMainModel::SelectionChanged, this, &frmMain::ShowSelection);
+    connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
+    connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
+    connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
+    connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
+    connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
+    // The keys of these commands belong to the list in front; the other page has its own.
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) {
+        m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey> {});
+    });
+    connect(m_hint, &QLabel::linkActivated, this, [this] { m_model.Execute(modCommand::ViewFuture); });
+}
+
+void frmMain::RestoreLayout()
+{
+    const cMainModel::cPlacement placement = m_model.RestoreLayout();
+    const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
+    m_isSized = placement.Width > 0 && screen()->availableVirtualGeometry().intersects(place);
+    if (m_isSized) {
+        setGeometry(place);
+    }
+    if (placement.State == 2) {
+        setWindowState(Qt::WindowMaximized);
+    }
+    m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
+    ShowView();
+    ShowEntries();
+    ShowSelection();
+    m_tree->ScrollTo(m_model.Today());
+    m_tree->setFocus();
+}
+
+void frmMain::ShowView()
+{
+    m_viewBar->ShowView();
+    m_accounts->SetTitle(m_model.BalancesTitle());
+    for (const modCommand::cCommand& command : modCommand::All()) {
+        if (*command.Setting != '\0') {
+            m_actions.value(command.Id)->setChecked(m_model.IsChecked(QString::fromUtf8(command.Setting)));
+        }
+    }
+    const QString hint = m_model.Hint();
+    m_hint->setVisible(!hint.isEmpty());
+    m_hint->setText(u"%1 <a href=\"#\">%2</a>"_s.arg(hint.toHtmlEscaped(), cText::Tr("Zukünftige ausblenden").toHtmlEscaped()));
+    m_database->setText(m_model.DatabaseText());
+    setWindowTitle(m_model.WindowTitle());
+}
+
+void frmMain::ShowEntries()
+{
+    m_sums->ShowSums(m_model);
+    m_tree->SetEmptyHint(m_model.Entries().rowCount() == 0 ? m_model.EmptyHint() : QString());
+}
+
+void frmMain::ShowSelection()
+{
+    for (auto action = m_actions.begin(); action != m_actions.end(); ++action) {
+        action.value()->setEnabled(m_model.IsEnabled(action.key()));
+    }
+}
+
+void frmMain::ShowIcons()
+{
+    for (const modCommand::cCommand& command : modCommand::All()) {
+        m_actions.value(command.Id)->setIcon(modIcon::Get(QString::fromUtf8(command.Icon), palette()));
+    }
+}
+
+void frmMain::ResetLayout()
+{
+    m_tree->SetLayoutText({});
+    setWindowState(Qt::WindowNoState);
+    const int character = fontMetrics().averageCharWidth();
+    resize(character * 190, fontMetrics().height() * 44);
+}
+
+void frmMain::ShowStatements()
+{
+    m_tabs->setCurrentIndex(1);
+}
+
+void frmMain::ShowColumnMenu()
+{
+    m_tabs->setCurrentIndex(0);
+    m_tree->ShowColumnMenu();
+}
+
+void frmMain::Raise()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmMain::SaveLayout()
+{
+    const QRect place = isMaximized() || isMinimized() ? normalGeometry() : geometry();
+    const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+    m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
+    m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    SaveLayout();
+    QMainWindow::closeEvent(event);
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        ShowIcons();
+        m_sums->ShowSums(m_model);
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!DroppedFiles(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmMain::dropEvent(QDropEvent* event)
+{
+    ShowStatements();
+    Q_EMIT FilesDropped(DroppedFiles(*event->mimeData()));
+}

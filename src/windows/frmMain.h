@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QHash>
+#include <QMainWindow>
+#include <QStringList>
+
+class cAccountPanel;
+class cEntryTree;
+class cMainModel;
+class cSumBar;
+class cViewBar;
+class QAction;
+class QLabel;
+class QSplitter;
+class QTabWidget;
+
+// The main window: menus, tool bar and keys from the command table, accounts at the left, the entry list with its
+// selectors and sums, and a page for bank statements.
+class frmMain final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // Takes over the page for bank statements.
+    frmMain(cMainModel& model, QWidget* statements, QWidget* parent = nullptr);
+
+    // Shows what the model has restored; called once before the window is shown.
+    void RestoreLayout();
+
+    void ShowStatements(); // brings the page for bank statements to the front
+    void ShowColumnMenu();
+    void Raise(); // in front of other windows, also out of the task bar
+
+Q_SIGNALS:
+    void FilesDropped(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void BuildCommands();
+    void BuildPages(QWidget* statements);
+    QWidget* BuildEntryPage();
+    void Connect();
+    void ShowView();
+    void ShowEntries();
+    void ShowSelection();
+    void ShowIcons();
+    void ResetLayout();
+    void SaveLayout();
+
+    cMainModel& m_model;
+    QHash<int, QAction*> m_actions; // by command number
+    QSplitter* m_splitter;
+    QTabWidget* m_tabs;
+    cAccountPanel* m_accounts;
+    cViewBar* m_viewBar;
+    QLabel* m_hint;
+    cEntryTree* m_tree;
+    cSumBar* m_sums;
+    QLabel* m_database;
+    bool m_isSized = false; // a stored place was applied
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+// Colours that carry a meaning, chosen to read well on the palette's own background. The meaning always stands in the text
+// too (a sign, a word), so nothing hangs on the colour alone.
+namespace modTone {
+
+[[nodiscard]] bool IsDark(const QPalette& palette);
+[[nodiscard]] QColor Income(const QPalette& palette);
+[[nodiscard]] QColor Expense(const QPalette& palette);
+
+// Text that stays in the background: hints, empty states.
+[[nodiscard]] QColor Quiet(const QPalette& palette);
+
+} // namespace modTone

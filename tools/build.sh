@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Configures a preset where needed and builds it: "tools/build.sh dev" everything, "tools/build.sh release kontorelle" one target.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+
+preset=$1
+shift
+if [ ! -f "build/$preset/build.ninja" ]; then
+  echo "build: configuring $preset"
+  cmake --preset "$preset"
+fi
+echo "build: building $preset ${*:-(everything)}"
+if [ $# -gt 0 ]; then
+  cmake --build --preset "$preset" --target "$@"
+else
+  cmake --build --preset "$preset"
+fi

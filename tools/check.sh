@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# What has to hold before a commit. "tools/check.sh" looks at changed files, "tools/check.sh --all" at every file.
+# Builds nothing. With TIDY=1 clang-tidy runs too; it reads the commands of build/clang (cmake --preset clang).
+set -u
+cd "$(dirname "$(readlink -f "$0")")/.."
+code='src tests bench tools'
+texts='README.md doc data'
+failed=0
+fail() { echo "check: $1"; shift; printf '  %s\n' "$@"; failed=1; }
+
+if [ "${1:-}" = --all ]; then
+  mapfile -t files < <(find $code -name '*.cpp' -o -name '*.h')
+else
+  mapfile -t files < <({ git diff --name-only --diff-filter=ACMR HEAD -- '*.cpp' '*.h'; git ls-files -o --exclude-standard -- '*.cpp' '*.h'; } | sort -u)
+fi
+[ ${#files[@]} -eq 0 ] && { echo 'check: nothing changed'; exit 0; }
+echo "check: ${#files[@]} files"
+
+# What may stand only in the named places: pattern, allowed path prefixes, reason
+only() {
+  local hits; hits=$(grep -nHE "$1" "${files[@]}" 2>/dev/null | grep -vE "^($2)")
+  [ -n "$hits" ] && fail "$3" "$hits"
+}
+only '#include <(QtWidgets|QtGui|QtNetwork|QtSql)?/?(QWidget|QDialog|QMessageBox|QApplication|QMainWindow|QNetworkAccessManager|QClipboard|QDesktopServices)' 'src/(windows|app)/|tests/(windows|app)/|tools/|bench/' 'toolkit outside windows/ and app/'
+only 'sqlite3(_|\.h)|#include <SQLiteCpp'      'src/store/|tests/|bench/' 'the database driver is called in store/ only'
+only '"(SELECT|INSERT|UPDATE|DELETE|ALTER|CREATE|PRAGMA) ' 'src/store/|tests/|bench/' 'SQL text outside store/'
+only 'QDate(Time)?::current|QTime::current'    'src/app/'              'the current time comes from cClock'
+only 'QMessageBox|QInputDialog'                'src/app/|tests/(windows|app)/' 'messages and questions go through cUser'
+only 'QSettings|QStandardPaths|QProcess|QLocale::system' 'src/app/|tests/app/' 'the machine is reached through the ports of base/'
+only '\bthrow\b.*;|\bcatch \('                 'src/(store|app)/|tests/|bench/' 'exceptions stay inside store/ and the adapters'
+only '#include <Qt(Core|Widgets|Gui|Network|Test)>' 'none/'            'include single Qt headers, not whole modules'
+only 'TODO|FIXME|XXX'                          'none/'                 'finish it, or leave it out and say so in doc/decisions.md'
+
+only '#include "store/'   'src/(store|app)/|src/(core|import|views)/[^/]+\.cpp|tests/|bench/|tools/' 'the store is reached by sources of core, import and views only'
+only '#include "import/'  'src/(import|app)/|src/views/[^/]+\.cpp|tests/|bench/|tools/' 'readers are composed in sources of views/'
+only '#include "views/'   'src/(views|windows|app)/|tests/|bench/|tools/' 'nothing below views/ sees it'
+only '#include "(windows|app)/' 'src/(windows|app)/|tests/(windows|app)/|tools/' 'nothing below windows/ sees it'
+
+# Texts explain themselves: they lean on no paper that a reader does not have.
+papers='[Ss]pec[i]fication|spec[.]md|\bParts? [0-9]+[.][0-9]|\bissu[e]\b|\bshared[/]|implement[e]r'
+mapfile -t prose < <(find $texts -type f \( -name '*.md' -o -name '*.sql' -o -name '*.txt' \) 2>/dev/null)
+hits=$(grep -nHE "$papers" "${files[@]}" "${prose[@]}" 2>/dev/null)
+[ -n "$hits" ] && fail 'explain it here, or leave it out' "$hits"
+
+# The CMakeLists.txt that has to list a file is the nearest one above it.
+list_of() {
+  local folder; folder=$(dirname "$1")
+  while [ ! -f "$folder/CMakeLists.txt" ]; do folder=$(dirname "$folder"); done
+  echo "$folder/CMakeLists.txt"
+}
+
+for f in "${files[@]}"; do
+  name=$(basename "$f")
+  case $f in
+    tests/*/test*.cpp) grep -qE "\b${name%.cpp}\b" "$(list_of "$f")" || fail 'test that is not built' "$f" ;;
+    tests/*) ;;
+    *) grep -qF "$name" "$(list_of "$f")" || fail 'file that is not listed in CMakeLists.txt' "$f" ;;
+  esac
+  case $f in *.h) head -1 "$f" | grep -q '^#pragma once' || fail 'header without #pragma once' "$f" ;; esac
+  lines=$(wc -l < "$f"); [ "$lines" -gt 600 ] && fail 'file over 600 lines' "$f: $lines"
+  tail -c1 "$f" | grep -q . && fail 'no newline at end' "$f"
+done
+
+if command -v clang-format >/dev/null; then
+  hits=$(printf '%s\0' "${files[@]}" | xargs -0 clang-format --dry-run -Werror 2>&1 | sed -n 's/^\([^:]*\):.*-Wclang-format-violations.*/\1/p' | sort -u)
+  [ -n "$hits" ] && fail 'run clang-format -i on' "$hits"
+else
+  fail 'clang-format is missing'
+fi
+
+if [ "${TIDY:-0}" = 1 ]; then
+  mapfile -t units < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
+  if [ ! -f build/clang/compile_commands.json ]; then
+    fail 'clang-tidy needs build/clang: cmake --preset clang && cmake --build --preset clang'
+  elif [ ${#units[@]} -gt 0 ]; then
+    printf '%s\0' "${units[@]}" | xargs -0 -n1 -P2 clang-tidy -p build/clang --quiet 2>/dev/null | grep -E 'warning:|error:' && fail 'clang-tidy'
+  fi
+fi
+[ $failed -eq 0 ] && echo 'check: all rules hold'
+exit $failed
