@@ -23,7 +23,7 @@ public:
 class cNoProgress final : public cProgress
 {
 public:
-    void showProgressBar(int /*maximum*/) override { }
-    void addProgressValue(int /*steps*/) override { }
+    void showProgressBar(int /*maximum*/) override {}
+    void addProgressValue(int /*steps*/) override {}
     [[nodiscard]] bool IsCancelled() const override { return false; }
 };

@@ -24,17 +24,20 @@ QStringList cVocabulary::Shown() const
 
 bool cVocabulary::Contains(const QString& stored) const
 {
-    return std::any_of(m_words.begin(), m_words.end(), [&](const char* word) { return QString::fromUtf8(word) == stored; });
+    return std::any_of(m_words.begin(), m_words.end(),
+                       [&](const char* word) { return QString::fromUtf8(word) == stored; });
 }
 
 QString cVocabulary::ToStored(const QString& shown) const
 {
-    const auto found = std::find_if(m_words.begin(), m_words.end(), [&](const char* word) { return cText::Tr(word) == shown; });
+    const auto found =
+        std::find_if(m_words.begin(), m_words.end(), [&](const char* word) { return cText::Tr(word) == shown; });
     return found == m_words.end() ? shown : QString::fromUtf8(*found);
 }
 
 QString cVocabulary::ToShown(const QString& stored) const
 {
-    const auto found = std::find_if(m_words.begin(), m_words.end(), [&](const char* word) { return QString::fromUtf8(word) == stored; });
+    const auto found = std::find_if(m_words.begin(), m_words.end(),
+                                    [&](const char* word) { return QString::fromUtf8(word) == stored; });
     return found == m_words.end() ? stored : cText::Tr(*found);
 }

@@ -10,7 +10,7 @@ class cVocabulary
 {
 public:
     // The words are marked for translation where they are listed (QT_TRANSLATE_NOOP("cText", ...)).
-    explicit cVocabulary(std::vector<const char*> words) : m_words(std::move(words)) { }
+    explicit cVocabulary(std::vector<const char*> words) : m_words(std::move(words)) {}
 
     // The stored words in their order.
     [[nodiscard]] QStringList Stored() const;

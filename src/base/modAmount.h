@@ -23,8 +23,8 @@ namespace modAmount {
 // "12.50": the form in which amounts stand in the database.
 [[nodiscard]] QString CentsToText(qint64 cents);
 
-// Reads the form of the database, cents rounded half away from zero; a decimal comma and other numbers of decimal places
-// are understood, because older files hold them. Empty when the text is no number.
+// Reads the form of the database, cents rounded half away from zero; a decimal comma and other numbers of decimal
+// places are understood, because older files hold them. Empty when the text is no number.
 [[nodiscard]] std::optional<qint64> CentsFromText(QStringView text);
 
 } // namespace modAmount

@@ -26,4 +26,6 @@ struct cEntryItem
     bool operator==(const cEntryItem&) const = default;
 };
 
+Q_DECLARE_TYPEINFO(cEntryItem, Q_RELOCATABLE_TYPE); // long lists grow without copying each record
+
 using cEntryItemList = QList<cEntryItem>;

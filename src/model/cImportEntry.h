@@ -7,15 +7,15 @@
 // One bank transaction that waits for its place in the book, a row of table `import`.
 struct cImportEntry
 {
-    int ID = 0; // 0 until stored
+    int ID = 0;            // 0 until stored
     QString ImportAccount; // own account: number, or IBAN where the statement carries one
     QDate ImportDate;
     QString ImportType; // the bank's booking text
     QString ImportPurpose;
-    QString ImportBeneficiary; // name of the counterparty
+    QString ImportBeneficiary;        // name of the counterparty
     QString ImportBeneficiaryAccount; // account number or IBAN of the counterparty
-    QString ImportBeneficiaryBLZ; // bank code or BIC of the counterparty
-    double ImportValue = 0.0; // euros; negative: money going out
+    QString ImportBeneficiaryBLZ;     // bank code or BIC of the counterparty
+    double ImportValue = 0.0;         // euros; negative: money going out
     QString ImportCurrency;
     bool ImportAssigned = false;
     int ImportAssignedEntry = -1; // ID of the entry in table `data`; -1 when none
@@ -24,8 +24,8 @@ struct cImportEntry
     // fields, assignment cleared. Always true.
     bool Validate();
 
-    // The duplicate test: same day, accounts, counterparty, bank code, purpose and amount, compared exactly. Booking text
-    // and currency take no part, so a statement in another format is recognised.
+    // The duplicate test: same day, accounts, counterparty, bank code, purpose and amount, compared exactly. Booking
+    // text and currency take no part, so a statement in another format is recognised.
     [[nodiscard]] bool isEqual(const cImportEntry& other) const;
 
     bool operator==(const cImportEntry&) const = default;

@@ -7,16 +7,16 @@
 struct cTemplateItem
 {
     int ID = 0;
-    QString EntryType; // default kind of entry
-    QString EntryInterval; // default interval
-    QString TemplateType; // "Konto" or "Kategorie"
+    QString EntryType;                             // default kind of entry
+    QString EntryInterval;                         // default interval
+    QString TemplateType;                          // "Konto" or "Kategorie"
     QString TemplateVisible = QStringLiteral("1"); // "1" or "0"
-    QString TemplateCategory; // main category, or the group of an account
-    QString TemplateName; // sub-category, or the name of an account
+    QString TemplateCategory;                      // main category, or the group of an account
+    QString TemplateName;                          // sub-category, or the name of an account
     QString TemplateComment;
     QString TemplatePriority = QStringLiteral("0"); // whole number
-    QString TemplateVAT; // amount text as in the database
-    QString TemplateDefaultValue; // amount text: monthly limit of a category
+    QString TemplateVAT;                            // amount text as in the database
+    QString TemplateDefaultValue;                   // amount text: monthly limit of a category
 
     bool operator==(const cTemplateItem&) const = default;
 };

@@ -7,9 +7,9 @@
 // What an entry does to money.
 namespace modBalance {
 
-// Signed cents of an entry. Without account: income counts up, expense down, a transfer not at all, because the money stays
-// with the household. With an account: what the entry adds to this account; a transfer counts in both its accounts, and an
-// entry of other accounts is 0.
+// Signed cents of an entry. Without account: income counts up, expense down, a transfer not at all, because the money
+// stays with the household. With an account: what the entry adds to this account; a transfer counts in both its
+// accounts, and an entry of other accounts is 0.
 [[nodiscard]] qint64 Effect(const QString& type, const QString& account, const QString& target, qint64 cents,
                             const QString& forAccount);
 [[nodiscard]] qint64 Effect(const cEntryItem& entry, const QString& forAccount);

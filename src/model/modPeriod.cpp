@@ -13,7 +13,7 @@ struct cNamedPeriod
     int Offset;
 };
 
-constexpr std::array<cNamedPeriod, 9> shiftedPeriods {{
+constexpr std::array<cNamedPeriod, 9> shiftedPeriods{{
     {u"Aktueller Monat", modPeriod::Month, 0},
     {u"Aktuelles Quartal", modPeriod::Quarter, 0},
     {u"Aktuelles Jahr", modPeriod::Year, 0},
@@ -57,7 +57,7 @@ modPeriod::cRange modPeriod::Range(const QString& name, QDate today, const cRang
     if (name == u"Buchungen bis heute") {
         return {QDate(1001, 1, 1), today}; // far in the past on purpose, not the day of the first entry
     }
-    return name == modWord::FreierZeitraum ? free : cRange {};
+    return name == modWord::FreierZeitraum ? free : cRange{};
 }
 
 bool modPeriod::IsNext(const QString& name)

@@ -17,7 +17,7 @@ struct cInterval
     int Step; // in units; weeks are seven days
 };
 
-constexpr std::array<cInterval, 10> intervals {{
+constexpr std::array<cInterval, 10> intervals{{
     {u"Einmalig", eUnit::None, 0},
     {u"Täglich", eUnit::Day, 1},
     {u"Wöchentlich", eUnit::Day, 7},
@@ -34,8 +34,8 @@ constexpr int occurrenceLimit = 10'000;
 
 const cInterval& FindInterval(const QString& word)
 {
-    const auto found
-        = std::find_if(intervals.begin(), intervals.end(), [&](const cInterval& interval) { return word == interval.Word; });
+    const auto found = std::find_if(intervals.begin(), intervals.end(),
+                                    [&](const cInterval& interval) { return word == interval.Word; });
     return found == intervals.end() ? intervals.front() : *found;
 }
 
@@ -97,8 +97,8 @@ modPeriod::cRange modRecurrence::OccurrencePeriod(QDate occurrence, const QStrin
     return PeriodOf(occurrence, FindInterval(interval));
 }
 
-void modRecurrence::Expand(const cEntryItem& entry, const modPeriod::cRange& period, const cEntryItemFixModList& fixMods,
-                           cEntryItemList& occurrences)
+void modRecurrence::Expand(const cEntryItem& entry, const modPeriod::cRange& period,
+                           const cEntryItemFixModList& fixMods, cEntryItemList& occurrences)
 {
     const cInterval& interval = FindInterval(entry.EntryInterval);
     if (interval.Unit == eUnit::None) {

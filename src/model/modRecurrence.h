@@ -16,8 +16,8 @@ inline constexpr QDate OpenEnd = QDate::fromJulianDay(2469808); // 2050-01-01
 // True for a word of the interval table other than "Einmalig".
 [[nodiscard]] bool IsRecurring(const QString& interval);
 
-// The day one step after `date`. Months and years keep the day of the month, or take the last day of a shorter month. The
-// same day for an interval without step.
+// The day one step after `date`. Months and years keep the day of the month, or take the last day of a shorter month.
+// The same day for an interval without step.
 [[nodiscard]] QDate Next(QDate date, const QString& interval);
 
 // The end of a series with the open end resolved: days before 1940 (and invalid ones) stand for the open end.
@@ -27,9 +27,10 @@ inline constexpr QDate OpenEnd = QDate::fromJulianDay(2469808); // 2050-01-01
 [[nodiscard]] modPeriod::cRange OccurrencePeriod(QDate occurrence, const QString& interval);
 
 // The occurrences of an entry within `period`, in date order; an open side of the period is unbounded. An entry without
-// recurring interval is its own single occurrence. `fixMods` are the corrections of this entry: the one whose start is the
-// start of an occurrence's period replaces its amount. Each step goes from the previous occurrence, so a series that starts
-// on the 31st moves to the 28th after February and stays there; stored corrections refer to those drifted days.
+// recurring interval is its own single occurrence. `fixMods` are the corrections of this entry: the one whose start is
+// the start of an occurrence's period replaces its amount. Each step goes from the previous occurrence, so a series
+// that starts on the 31st moves to the 28th after February and stays there; stored corrections refer to those drifted
+// days.
 void Expand(const cEntryItem& entry, const modPeriod::cRange& period, const cEntryItemFixModList& fixMods,
             cEntryItemList& occurrences);
 

@@ -43,12 +43,11 @@ const cVocabulary& modWord::ViewTypes()
 
 const cVocabulary& modWord::Groupings()
 {
-    static const cVocabulary words({QT_TRANSLATE_NOOP("cText", "Keine Gruppierung"),
-                                    QT_TRANSLATE_NOOP("cText", "Nach Datum"), QT_TRANSLATE_NOOP("cText", "Nach Woche"),
-                                    QT_TRANSLATE_NOOP("cText", "Nach Monat"), QT_TRANSLATE_NOOP("cText", "Nach Sparte"),
-                                    QT_TRANSLATE_NOOP("cText", "Nach Kategorie"),
-                                    QT_TRANSLATE_NOOP("cText", "Nach Konto"),
-                                    QT_TRANSLATE_NOOP("cText", "Nach Buchungsart")});
+    static const cVocabulary words(
+        {QT_TRANSLATE_NOOP("cText", "Keine Gruppierung"), QT_TRANSLATE_NOOP("cText", "Nach Datum"),
+         QT_TRANSLATE_NOOP("cText", "Nach Woche"), QT_TRANSLATE_NOOP("cText", "Nach Monat"),
+         QT_TRANSLATE_NOOP("cText", "Nach Sparte"), QT_TRANSLATE_NOOP("cText", "Nach Kategorie"),
+         QT_TRANSLATE_NOOP("cText", "Nach Konto"), QT_TRANSLATE_NOOP("cText", "Nach Buchungsart")});
     return words;
 }
 

@@ -41,10 +41,10 @@ inline const QString FreierZeitraum = QStringLiteral("Freier Zeitraum");
 inline const QString AktuellesJahr = QStringLiteral("Aktuelles Jahr");
 
 [[nodiscard]] const cVocabulary& EntryTypes(); // "Einnahme", "Ausgabe", "Umbuchung"
-[[nodiscard]] const cVocabulary& Intervals(); // "Einmalig" to "Jährlich"
-[[nodiscard]] const cVocabulary& Periods(); // "Alle Buchungen" to "Freier Zeitraum"
-[[nodiscard]] const cVocabulary& ViewTypes(); // "Alle Buchungsarten", then the kinds of entry
-[[nodiscard]] const cVocabulary& Groupings(); // "Keine Gruppierung" to "Nach Buchungsart"
+[[nodiscard]] const cVocabulary& Intervals();  // "Einmalig" to "Jährlich"
+[[nodiscard]] const cVocabulary& Periods();    // "Alle Buchungen" to "Freier Zeitraum"
+[[nodiscard]] const cVocabulary& ViewTypes();  // "Alle Buchungsarten", then the kinds of entry
+[[nodiscard]] const cVocabulary& Groupings();  // "Keine Gruppierung" to "Nach Buchungsart"
 
 // The view's word for a kind of entry as GetEntries takes it ("Einnahme" gives "Einnahmen"); "Alle Buchungen" for all
 // others.

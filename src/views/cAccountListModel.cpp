@@ -18,8 +18,9 @@ const cTemplateItem* FindName(const cTemplateItemList& accounts, const QString& 
 
 } // namespace
 
-cAccountListModel::cAccountListModel(const cAmountFormat& format, QObject* parent) :
-    QAbstractTableModel(parent), m_format(format)
+cAccountListModel::cAccountListModel(const cAmountFormat& format, QObject* parent)
+    : QAbstractTableModel(parent),
+      m_format(format)
 {
 }
 
@@ -32,7 +33,8 @@ void cAccountListModel::SetAccounts(const cTemplateItemList& accounts, const QHa
     m_rows.clear();
     std::vector<std::pair<QString, std::vector<cRow>>> groups;
     for (const cTemplateItem& account : accounts) {
-        const cRow row {Account, account.TemplateName, balances.value(account.TemplateName), open.value(account.TemplateName)};
+        const cRow row{Account, account.TemplateName, balances.value(account.TemplateName),
+                       open.value(account.TemplateName)};
         if (!modTemplate::IsVisible(account) && row.Cents == 0 && row.Open == 0) {
             continue; // closed and empty
         }
@@ -49,7 +51,7 @@ void cAccountListModel::SetAccounts(const cTemplateItemList& accounts, const QHa
     std::map<QString, cRow> others;
     for (auto balance = balances.begin(); balance != balances.end(); ++balance) {
         if (FindName(accounts, balance.key()) == nullptr && *balance != 0) {
-            others.emplace(balance.key(), cRow {Account, balance.key(), *balance, open.value(balance.key())});
+            others.emplace(balance.key(), cRow{Account, balance.key(), *balance, open.value(balance.key())});
         }
     }
     std::vector<cRow> otherRows;
@@ -58,7 +60,8 @@ void cAccountListModel::SetAccounts(const cTemplateItemList& accounts, const QHa
     }
     AddGroup(cText::Tr("Ohne Kontoeintrag"), otherRows);
     const int openRows = std::accumulate(open.begin(), open.end(), 0);
-    m_rows.push_back({Total, cText::Tr("Gesamt"), std::accumulate(balances.begin(), balances.end(), qint64(0)), openRows});
+    m_rows.push_back(
+        {Total, cText::Tr("Gesamt"), std::accumulate(balances.begin(), balances.end(), qint64(0)), openRows});
     endResetModel();
 }
 
@@ -120,9 +123,9 @@ QVariant cAccountListModel::data(const QModelIndex& index, int role) const
     case Qt::TextAlignmentRole:
         return index.column() == Name ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::ToolTipRole:
-        return index.column() == Open && row.Open > 0 ? cText::Tr("{0} Umsätze warten auf die Buchung",
-                                                                  {QString::number(row.Open)})
-                                                      : Text(row, Name);
+        return index.column() == Open && row.Open > 0
+            ? cText::Tr("{0} Umsätze warten auf die Buchung", {QString::number(row.Open)})
+            : Text(row, Name);
     case KindRole: return row.Kind;
     case ToneRole: return row.Kind != Group && index.column() == Balance && row.Cents < 0;
     case ChosenRole: return row.Kind == Account && row.Name == m_chosen;

@@ -23,9 +23,9 @@ public:
     explicit cAccountListModel(const cAmountFormat& format, QObject* parent = nullptr);
     ~cAccountListModel() override;
 
-    // `balances` in cents and `open` by account name; names that no definition has (left from a renamed account, say) are
-    // listed in a group of their own, so that no money is missing. The open rows under the empty name belong to bank
-    // accounts without account in the book; they count in the total.
+    // `balances` in cents and `open` by account name; names that no definition has (left from a renamed account, say)
+    // are listed in a group of their own, so that no money is missing. The open rows under the empty name belong to
+    // bank accounts without account in the book; they count in the total.
     void SetAccounts(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
                      const QHash<QString, int>& open);
     void SetChosen(const QString& account); // empty: none

@@ -70,7 +70,8 @@ QStringList cEntryEditor::Categories() const
             paths.append(modTemplate::Path(item));
         }
     }
-    std::sort(paths.begin(), paths.end(), [](const QString& a, const QString& b) { return a.localeAwareCompare(b) < 0; });
+    std::sort(paths.begin(), paths.end(),
+              [](const QString& a, const QString& b) { return a.localeAwareCompare(b) < 0; });
     return paths;
 }
 
@@ -172,10 +173,11 @@ bool cEntryEditor::Change(const cEntryItem& entry)
     if (!LosesCorrections(entry)) {
         return m_data.ChangeEntry(entry);
     }
-    const eAnswer answer = m_user.Ask({.Text = cText::Tr("Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen "
-                                                         "Korrekturen gehen dadurch verloren.\nSoll der Eintrag trotzdem "
-                                                         "gespeichert werden?"),
-                                       .Title = {}});
+    const eAnswer answer =
+        m_user.Ask({.Text = cText::Tr("Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen "
+                                      "Korrekturen gehen dadurch verloren.\nSoll der Eintrag trotzdem "
+                                      "gespeichert werden?"),
+                    .Title = {}});
     return answer == eAnswer::Yes && m_data.ChangeEntry(entry) && m_data.DeleteEntryModByRelation(m_id);
 }
 

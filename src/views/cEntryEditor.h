@@ -20,22 +20,22 @@ class cEntryEditor
 public:
     struct cFields
     {
-        QString Amount; // as typed
+        QString Amount;             // as typed
         bool IsAmountTyped = false; // the user has edited the amount
         QString Description;
         QString Category; // path; empty while none is chosen
-        QString Type; // stored word; empty while none is chosen
+        QString Type;     // stored word; empty while none is chosen
         QString Account;
         QString Target; // only for transfers
-        QDate Date; // invalid means today
+        QDate Date;     // invalid means today
         bool HasEnd = false;
-        QDate End; // only with HasEnd
+        QDate End;        // only with HasEnd
         QString Interval; // stored word; empty while none is chosen
     };
 
     enum class eSaved { Saved, BadAmount, Refused };
 
-    cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock) : m_data(data), m_user(user), m_clock(clock) { }
+    cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock) : m_data(data), m_user(user), m_clock(clock) {}
 
     // The fields of a new entry, with the account preselected where one is given.
     [[nodiscard]] cFields Start(const QString& account);
@@ -49,8 +49,8 @@ public:
     [[nodiscard]] QStringList Categories() const;
     [[nodiscard]] QStringList Accounts() const;
 
-    // Takes over what the category proposes: an amount that nobody typed starts at zero again, kind and interval are filled
-    // where they are still open.
+    // Takes over what the category proposes: an amount that nobody typed starts at zero again, kind and interval are
+    // filled where they are still open.
     void ChooseCategory(const QString& path, cFields& fields) const;
 
     // Checks the fields in their order, shows the message of the first failure, and stores the entry.

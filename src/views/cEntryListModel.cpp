@@ -20,7 +20,7 @@ namespace {
 // Ids of rows inside a group are spread, because views hash row and id into one number.
 constexpr quintptr idStep = 16;
 
-constexpr std::array<const char*, cEntryListModel::ColumnCount> titles {
+constexpr std::array<const char*, cEntryListModel::ColumnCount> titles{
     QT_TRANSLATE_NOOP("cText", "Datum"),        QT_TRANSLATE_NOOP("cText", "Buchungsart"),
     QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
     QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Intervall"),
@@ -40,9 +40,13 @@ QString AccountText(const cEntryItem& entry)
 
 modFold::cFolded Searched(const cEntryItem& entry, const QString& amount)
 {
-    const QString text = QStringList {modDate::ToGerman(entry.EntryDate), modWord::EntryTypes().ToShown(entry.EntryType),
-                                      entry.EntryCategory, AccountText(entry), entry.EntryDescription,
-                                      modWord::Intervals().ToShown(entry.EntryInterval), amount}
+    const QString text = QStringList{modDate::ToGerman(entry.EntryDate),
+                                     modWord::EntryTypes().ToShown(entry.EntryType),
+                                     entry.EntryCategory,
+                                     AccountText(entry),
+                                     entry.EntryDescription,
+                                     modWord::Intervals().ToShown(entry.EntryInterval),
+                                     amount}
                              .join(u'\n');
     return modFold::Fold(text);
 }
@@ -54,7 +58,9 @@ std::size_t At(int index)
 
 } // namespace
 
-cEntryListModel::cEntryListModel(const cAmountFormat& format, QObject* parent) : QAbstractItemModel(parent), m_format(format)
+cEntryListModel::cEntryListModel(const cAmountFormat& format, QObject* parent)
+    : QAbstractItemModel(parent),
+      m_format(format)
 {
 }
 
@@ -184,7 +190,8 @@ std::vector<qint64> cEntryListModel::SortKeys() const
         std::vector<qint64> keys;
         keys.reserve(m_order.size());
         for (const int entry : m_order) {
-            keys.push_back(m_sortColumn == Amount ? Effect(entry) : m_content.Entries.at(entry).EntryDate.toJulianDay());
+            keys.push_back(m_sortColumn == Amount ? Effect(entry)
+                                                  : m_content.Entries.at(entry).EntryDate.toJulianDay());
         }
         return keys;
     }
@@ -205,7 +212,7 @@ const cEntryItem* cEntryListModel::EntryAt(const QModelIndex& index) const
 cEntryListModel::cKey cEntryListModel::KeyAt(const QModelIndex& index) const
 {
     const cEntryItem* entry = EntryAt(index);
-    return entry == nullptr ? cKey {} : cKey {entry->ID, entry->EntryDate};
+    return entry == nullptr ? cKey{} : cKey{entry->ID, entry->EntryDate};
 }
 
 QModelIndexList cEntryListModel::IndexesOf(const QList<cKey>& keys) const
@@ -227,7 +234,8 @@ QModelIndexList cEntryListModel::IndexesOf(const QList<cKey>& keys) const
         if (wanted.contains(entry.ID, entry.EntryDate)) {
             const bool isInGroup = !m_groups.empty();
             const int first = isInGroup ? m_groups[group].First : 0;
-            found.append(index(static_cast<int>(i) - first, 0, isInGroup ? index(static_cast<int>(group), 0) : QModelIndex()));
+            found.append(
+                index(static_cast<int>(i) - first, 0, isInGroup ? index(static_cast<int>(group), 0) : QModelIndex()));
         }
     }
     return found;
@@ -376,7 +384,8 @@ QVariant cEntryListModel::headerData(int section, Qt::Orientation orientation, i
         return {};
     }
     if (role == Qt::TextAlignmentRole) {
-        return IsMoneyColumn(section) ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        return IsMoneyColumn(section) ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                      : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     }
     return role == Qt::DisplayRole ? QVariant(cText::Tr(titles[At(section)])) : QVariant();
 }

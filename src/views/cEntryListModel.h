@@ -13,8 +13,8 @@
 
 class cAmountFormat;
 
-// The entry list: occurrences in rows, optionally gathered in groups with count and sum. The records never move; sorting,
-// grouping and filtering only rebuild the order in which they are shown.
+// The entry list: occurrences in rows, optionally gathered in groups with count and sum. The records never move;
+// sorting, grouping and filtering only rebuild the order in which they are shown.
 class cEntryListModel final : public QAbstractItemModel
 {
     Q_OBJECT
@@ -24,9 +24,9 @@ public:
 
     enum eRole {
         ToneRole = Qt::UserRole, // int of eMoneyTone
-        FutureRole, // bool: lies after today
-        CorrectedRole, // bool: amount of this period corrected by hand
-        GroupRole, // bool: the row is the head of a group
+        FutureRole,              // bool: lies after today
+        CorrectedRole,           // bool: amount of this period corrected by hand
+        GroupRole,               // bool: the row is the head of a group
     };
 
     // What an amount means, for whoever paints it.
@@ -58,11 +58,11 @@ public:
         cEntryItemList Entries;
         QString Account; // empty: all accounts
         QDate Today;
-        QString HiddenCategory; // entries of this category are left out; empty: none
+        QString HiddenCategory;             // entries of this category are left out; empty: none
         std::optional<qint64> StartBalance; // cents before the first entry; without it the balance column stays empty
     };
     void SetContent(cContent content, const QString& filter, const QString& grouping);
-    void SetFilter(const QString& text); // every word must be found
+    void SetFilter(const QString& text);       // every word must be found
     void SetGrouping(const QString& grouping); // a word of modWord::Groupings
 
     [[nodiscard]] cSums Sums() const { return m_sums; }
@@ -70,8 +70,8 @@ public:
     [[nodiscard]] cKey KeyAt(const QModelIndex& index) const;
     // The rows of these keys in one pass over the list.
     [[nodiscard]] QModelIndexList IndexesOf(const QList<cKey>& keys) const;
-    // The first row on or after the day while sorted by date upwards (the first on or before it while downwards); invalid
-    // when the list is sorted otherwise or ends before.
+    // The first row on or after the day while sorted by date upwards (the first on or before it while downwards);
+    // invalid when the list is sorted otherwise or ends before.
     [[nodiscard]] QModelIndex IndexNear(QDate day) const;
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
 
@@ -94,7 +94,7 @@ private:
 
     void Rebuild();
     void Select(); // decides which entries are shown and adds them up
-    void Order(); // sorts them and forms the groups
+    void Order();  // sorts them and forms the groups
     void FormGroups(const std::vector<qint64>& ranks, const QStringList& names);
     void RunBalances();
     [[nodiscard]] std::vector<qint64> SortKeys() const;

@@ -17,7 +17,8 @@ std::optional<cListLayout::cColumn> ReadColumn(const QString& part)
     if (numbers.size() != 3) {
         return std::nullopt;
     }
-    const cListLayout::cColumn column {numbers.at(0).toInt(&isColumn), numbers.at(1).toInt(&isWidth), numbers.at(2) == u"1"};
+    const cListLayout::cColumn column{numbers.at(0).toInt(&isColumn), numbers.at(1).toInt(&isWidth),
+                                      numbers.at(2) == u"1"};
     return isColumn && isWidth && column.Width >= 0 ? std::optional(column) : std::nullopt;
 }
 

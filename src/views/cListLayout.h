@@ -5,8 +5,8 @@
 #include <optional>
 #include <vector>
 
-// The column layout of a list as it is stored: columns in their visible order with width and visibility, then the sorting.
-// Text form: "column,width,shown" joined by "|", then "|sort,column,descending".
+// The column layout of a list as it is stored: columns in their visible order with width and visibility, then the
+// sorting. Text form: "column,width,shown" joined by "|", then "|sort,column,descending".
 struct cListLayout
 {
     struct cColumn

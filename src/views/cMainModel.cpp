@@ -22,8 +22,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-cMainModel::cMainModel(const cParts& parts, QObject* parent) :
-    QObject(parent), m_parts(parts), m_entries(parts.Format), m_accounts(parts.Format)
+cMainModel::cMainModel(const cParts& parts, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_entries(parts.Format),
+      m_accounts(parts.Format)
 {
     tmrRefreshList.setSingleShot(true);
     tmrRefreshAccounts.setSingleShot(true);
@@ -55,8 +58,8 @@ void cMainModel::SaveView()
 
 void cMainModel::SaveLayout(const cPlacement& placement)
 {
-    const QStringList numbers {QString::number(placement.Left), QString::number(placement.Top),
-                               QString::number(placement.Width), QString::number(placement.Height)};
+    const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
+                              QString::number(placement.Width), QString::number(placement.Height)};
     m_parts.Configuration.SaveSetting(u"WindowSize"_s, numbers.join(u'|'), eSettingPlace::Database);
     m_parts.Configuration.SaveSetting(u"WindowState"_s, QString::number(placement.State), eSettingPlace::Database);
 }
@@ -132,7 +135,8 @@ std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
         before.End = query.Start.addDays(-1);
         const QList<cAccountSum> sums = m_parts.Data.GetSums(before, true);
         for (const cAccountSum& sum : sums) {
-            balance += modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
+            balance +=
+                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
         }
     }
     return balance;
@@ -254,11 +258,11 @@ void cMainModel::ShowFilter()
 
 bool* cMainModel::Switch(const QString& key)
 {
-    const QHash<QString, bool*> switches {{u"ViewSingleBooking"_s, &m_view.ShowsSingle},
-                                          {u"ViewFixBooking"_s, &m_view.ShowsFix},
-                                          {u"ViewFutureBooking"_s, &m_view.ShowsFuture},
-                                          {u"ViewStartBooking"_s, &m_view.ShowsStart},
-                                          {u"ViewAccountValueAll"_s, &m_view.BalancesToToday}};
+    const QHash<QString, bool*> switches{{u"ViewSingleBooking"_s, &m_view.ShowsSingle},
+                                         {u"ViewFixBooking"_s, &m_view.ShowsFix},
+                                         {u"ViewFutureBooking"_s, &m_view.ShowsFuture},
+                                         {u"ViewStartBooking"_s, &m_view.ShowsStart},
+                                         {u"ViewAccountValueAll"_s, &m_view.BalancesToToday}};
     return switches.value(key);
 }
 
@@ -323,9 +327,10 @@ bool cMainModel::IsEnabled(int command) const
 void cMainModel::StartCalculator()
 {
     if (!m_parts.Shell.StartCalculator()) {
-        m_parts.User.Show(eTone::Exclamation,
-                          cText::Tr("Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum "
-                                    "Beispiel \"gnome-calculator\" oder \"kcalc\"."));
+        m_parts.User.Show(
+            eTone::Exclamation,
+            cText::Tr("Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum "
+                      "Beispiel \"gnome-calculator\" oder \"kcalc\"."));
     }
 }
 
@@ -377,18 +382,21 @@ QString cMainModel::DeleteQuestion(const QList<int>& ids) const
         single = cText::Tr("'{0}' vom {1} über {2}",
                            {name, modDate::ToGerman(entry->EntryDate), m_parts.Format.Cents(entry->EntryValue)});
         if (modRecurrence::IsRecurring(entry->EntryInterval)) {
-            series.append(cText::Tr("'{0}' ({1} seit {2})", {name, modWord::Intervals().ToShown(entry->EntryInterval),
-                                                             modDate::ToGerman(entry->EntryDate)}));
+            series.append(cText::Tr(
+                "'{0}' ({1} seit {2})",
+                {name, modWord::Intervals().ToShown(entry->EntryInterval), modDate::ToGerman(entry->EntryDate)}));
         }
     }
-    QString text = ids.size() == 1 ? cText::Tr("Möchten Sie den Eintrag {0} löschen?", {single})
-                                   : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?",
-                                               {QString::number(ids.size())});
+    QString text = ids.size() == 1
+        ? cText::Tr("Möchten Sie den Eintrag {0} löschen?", {single})
+        : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?", {QString::number(ids.size())});
     if (!series.isEmpty()) {
         constexpr qsizetype most = 8;
         const QString more = series.size() > most ? u"\n…"_s : QString();
-        text += u"\n\n"_s
-            + cText::Tr("Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:")
+        text +=
+            u"\n\n"_s
+            + cText::Tr(
+                "Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:")
             + u'\n' + series.mid(0, most).join(u'\n') + more;
     }
     return text;
@@ -421,7 +429,7 @@ bool cMainModel::IsFreePeriod() const
 
 QStringList cMainModel::Accounts() const
 {
-    QStringList names {modWord::AlleKonten};
+    QStringList names{modWord::AlleKonten};
     for (const cTemplateItem& account : m_accountItems) {
         names.append(account.TemplateName);
     }
@@ -453,7 +461,8 @@ QString cMainModel::Hint() const
 {
     const modPeriod::cRange range = ShownRange();
     const bool reachesOpenEnd = m_view.ShowsFuture && m_view.ShowsFix && !range.End.isValid();
-    return reachesOpenEnd ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.") : QString();
+    return reachesOpenEnd ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.")
+                          : QString();
 }
 
 QString cMainModel::EmptyHint() const
@@ -466,10 +475,12 @@ QString cMainModel::EmptyHint() const
                          {m_view.Filter});
     }
     if (m_parts.Data.CountEntries() == 0) {
-        return cText::Tr("Erfassen Sie mit Strg+N den ersten Eintrag, oder lesen Sie mit Strg+I einen Kontoauszug Ihrer Bank "
-                         "ein.");
+        return cText::Tr(
+            "Erfassen Sie mit Strg+N den ersten Eintrag, oder lesen Sie mit Strg+I einen Kontoauszug Ihrer Bank "
+            "ein.");
     }
-    return cText::Tr("Für diese Auswahl gibt es keine Einträge. Wählen Sie einen anderen Zeitraum oder ein anderes Konto.");
+    return cText::Tr(
+        "Für diese Auswahl gibt es keine Einträge. Wählen Sie einen anderen Zeitraum oder ein anderes Konto.");
 }
 
 QString cMainModel::DatabaseText() const

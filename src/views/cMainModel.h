@@ -66,11 +66,11 @@ public:
     // The selectors. Each stores and refreshes; an unknown word is not taken.
     void ChoosePeriod(const QString& name);
     void ChooseFreeRange(const modPeriod::cRange& range); // only while the free period is chosen
-    void ChooseAccount(const QString& account); // empty: all accounts
+    void ChooseAccount(const QString& account);           // empty: all accounts
     void ChooseType(const QString& type);
     void ChooseGrouping(const QString& grouping);
     void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
-    void ToggleView(const QString& key); // one of the five View... switches
+    void ToggleView(const QString& key);  // one of the five View... switches
 
     // One handler for menus, tool bar and keys. False for an unknown number.
     bool Execute(int command);
@@ -99,7 +99,7 @@ public:
     [[nodiscard]] QString ExpenseText() const;
     [[nodiscard]] QString TotalText() const;
     [[nodiscard]] QString CountText() const;
-    [[nodiscard]] QString Hint() const; // a quiet line above the list; empty for none
+    [[nodiscard]] QString Hint() const;      // a quiet line above the list; empty for none
     [[nodiscard]] QString EmptyHint() const; // what to do when the list shows nothing
     [[nodiscard]] QString DatabaseText() const;
     [[nodiscard]] QString WindowTitle() const;
@@ -111,9 +111,9 @@ public:
     void SaveListLayout(const QString& key, const QString& layout);
 
 Q_SIGNALS:
-    void ViewChanged(); // selectors, switches, hint
+    void ViewChanged();    // selectors, switches, hint
     void EntriesChanged(); // list and sums were rebuilt
-    void LayoutReset(); // column layouts and window size were set back
+    void LayoutReset();    // column layouts and window size were set back
     void SelectionChanged();
     void StagedRowsReleased(); // entries were deleted, their bank transactions wait again
 

@@ -38,12 +38,13 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     }
     eAnswer answer = eAnswer::No;
     if (m_data.CountEntriesOfAccount(oldName) >= 1) {
-        answer = m_user.Ask({.Text = cText::Tr("Es existieren bereits Buchungen zu diesem Konto.\nSollen die Quell/Zielkonten "
-                                               "der Buchungen von '{0}' auf '{1}' geändert werden?",
-                                               {oldName, name}),
-                             .Title = cText::Tr("Konto umbenennen"),
-                             .Tone = eTone::Question,
-                             .Buttons = eButtons::YesNoCancel});
+        answer = m_user.Ask(
+            {.Text = cText::Tr("Es existieren bereits Buchungen zu diesem Konto.\nSollen die Quell/Zielkonten "
+                               "der Buchungen von '{0}' auf '{1}' geändert werden?",
+                               {oldName, name}),
+             .Title = cText::Tr("Konto umbenennen"),
+             .Tone = eTone::Question,
+             .Buttons = eButtons::YesNoCancel});
     }
     if (answer == eAnswer::Cancel) {
         return false;

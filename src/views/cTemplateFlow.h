@@ -12,7 +12,12 @@ class cUser;
 class cTemplateFlow
 {
 public:
-    cTemplateFlow(cDataAccess& data, cSettings& settings, cUser& user) : m_data(data), m_settings(settings), m_user(user) { }
+    cTemplateFlow(cDataAccess& data, cSettings& settings, cUser& user)
+        : m_data(data),
+          m_settings(settings),
+          m_user(user)
+    {
+    }
 
     // Asks for a new name and renames. The name that the account has afterwards.
     QString AskRenameAccount(const QString& oldName);

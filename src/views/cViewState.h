@@ -14,8 +14,8 @@ struct cViewState
 {
     QString Period;
     modPeriod::cRange Free; // days of "Freier Zeitraum"
-    QString Account; // "Alle Konten" or an account name
-    QString Type; // "Alle Buchungsarten" or a kind of entry
+    QString Account;        // "Alle Konten" or an account name
+    QString Type;           // "Alle Buchungsarten" or a kind of entry
     QString Grouping;
     QString Filter; // free text
     bool ShowsSingle = true;

@@ -5,7 +5,8 @@
 
 #include <span>
 
-// The commands of the main window. Menus, tool bar and keys are built from this table, and all of them dispatch by number.
+// The commands of the main window. Menus, tool bar and keys are built from this table, and all of them dispatch by
+// number.
 namespace modCommand {
 
 enum eId : int {
@@ -27,14 +28,14 @@ enum eId : int {
 struct cCommand
 {
     eId Id;
-    const char* Menu; // German title of the menu, in the order of the table
-    const char* Caption; // German, for menu and tool bar
+    const char* Menu;     // German title of the menu, in the order of the table
+    const char* Caption;  // German, for menu and tool bar
     const char* Mnemonic; // the caption's letter that opens it from the keyboard
-    const char* Keys; // portable key sequences joined by "|"
-    const char* Icon; // name of the picture; empty for none
-    const char* Setting; // key of the view switch that a check command turns; empty for plain commands
+    const char* Keys;     // portable key sequences joined by "|"
+    const char* Icon;     // name of the picture; empty for none
+    const char* Setting;  // key of the view switch that a check command turns; empty for plain commands
     bool IsInToolBar;
-    bool Writes; // not offered on a book that can only be read
+    bool Writes;      // not offered on a book that can only be read
     const char* Hint; // one sentence for status bar and tool tip
 };
 

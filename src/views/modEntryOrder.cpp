@@ -102,7 +102,7 @@ QString MonthName(QDate day)
     return QLocale(QLocale::German).standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
 }
 
-constexpr std::array<cDateGrouping, 3> dateGroupings {{
+constexpr std::array<cDateGrouping, 3> dateGroupings{{
     {u"Nach Datum", DayKey, DayName},
     {u"Nach Woche", WeekKey, WeekName},
     {u"Nach Monat", MonthKey, MonthName},
@@ -117,8 +117,9 @@ struct cTextGrouping
 };
 
 // "Sparte" is the main category.
-constexpr std::array<cTextGrouping, 4> textGroupings {{
-    {u"Nach Sparte", [](const cEntryItem& entry) { return entry.EntryCategory.left(entry.EntryCategory.indexOf(u"; ")); }},
+constexpr std::array<cTextGrouping, 4> textGroupings{{
+    {u"Nach Sparte",
+     [](const cEntryItem& entry) { return entry.EntryCategory.left(entry.EntryCategory.indexOf(u"; ")); }},
     {u"Nach Kategorie", [](const cEntryItem& entry) { return entry.EntryCategory; }},
     {u"Nach Konto", [](const cEntryItem& entry) { return entry.EntryAccount; }},
     {u"Nach Buchungsart", [](const cEntryItem& entry) { return modWord::EntryTypes().ToShown(entry.EntryType); }},

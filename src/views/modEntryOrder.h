@@ -8,13 +8,14 @@
 #include <functional>
 #include <vector>
 
-// Whole numbers that stand for texts and groups of entries, so that lists of any length are sorted by comparing numbers.
+// Whole numbers that stand for texts and groups of entries, so that lists of any length are sorted by comparing
+// numbers.
 namespace modEntryOrder {
 
 struct cRanked
 {
     std::vector<qint64> Ranks; // by row; equal texts share a rank
-    QStringList Names; // the texts by rank
+    QStringList Names;         // the texts by rank
 };
 
 // Ranks of texts in the language's alphabetical order. `text(i)` gives the text of row i.

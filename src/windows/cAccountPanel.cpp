@@ -42,8 +42,11 @@ protected:
 
 } // namespace
 
-cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent) :
-    QWidget(parent), m_model(model), m_title(new QLabel(this)), m_view(new QTreeView(this))
+cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
+    : QWidget(parent),
+      m_model(model),
+      m_title(new QLabel(this)),
+      m_view(new QTreeView(this))
 {
     m_view->setModel(&m_model);
     m_view->setItemDelegate(new cAccountDelegate(m_view));

@@ -15,13 +15,15 @@ void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
     option->font.setBold(index.data(cEntryListModel::GroupRole).toBool());
     option->font.setItalic(index.data(cEntryListModel::FutureRole).toBool());
     const bool isMoney = index.column() == cEntryListModel::Amount || index.column() == cEntryListModel::Balance;
-    const bool isCorrection = index.column() == cEntryListModel::Interval && index.data(cEntryListModel::CorrectedRole).toBool();
+    const bool isCorrection =
+        index.column() == cEntryListModel::Interval && index.data(cEntryListModel::CorrectedRole).toBool();
     if (isCorrection) {
         option->font.setUnderline(true);
     }
     const int tone = isMoney ? index.data(cEntryListModel::ToneRole).toInt() : cEntryListModel::Neutral;
     if (tone != cEntryListModel::Neutral) {
-        const QColor color = tone == cEntryListModel::Income ? modTone::Income(option->palette) : modTone::Expense(option->palette);
+        const QColor color =
+            tone == cEntryListModel::Income ? modTone::Income(option->palette) : modTone::Expense(option->palette);
         option->palette.setColor(QPalette::Text, color);
     }
 }

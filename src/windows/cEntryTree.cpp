@@ -13,7 +13,7 @@
 namespace {
 
 // Widths in average characters of the font, so that they fit at every font size and scale.
-constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths {13, 14, 28, 24, 34, 19, 16, 16};
+constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths{13, 14, 28, 24, 34, 19, 16, 16};
 
 } // namespace
 
@@ -95,7 +95,8 @@ void cEntryTree::OpenColumnMenu(const QPoint& globalPosition)
         action->setChecked(!header()->isSectionHidden(column));
         const bool isLast = action->isChecked() && header()->hiddenSectionCount() == cEntryListModel::ColumnCount - 1;
         action->setEnabled(!isLast);
-        connect(action, &QAction::toggled, this, [this, column](bool isShown) { header()->setSectionHidden(column, !isShown); });
+        connect(action, &QAction::toggled, this,
+                [this, column](bool isShown) { header()->setSectionHidden(column, !isShown); });
     }
     menu.addSeparator();
     connect(menu.addAction(cText::Tr("Spalten auf den Anfang zurückstellen")), &QAction::triggered, this,

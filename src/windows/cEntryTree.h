@@ -4,8 +4,8 @@
 
 #include <QTreeView>
 
-// The entry list on screen: columns that can be chosen, moved and remembered, a selection that survives a rebuild, and a
-// text where there is nothing to show.
+// The entry list on screen: columns that can be chosen, moved and remembered, a selection that survives a rebuild, and
+// a text where there is nothing to show.
 class cEntryTree final : public QTreeView
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
 
     [[nodiscard]] QString LayoutText() const;
     void SetLayoutText(const QString& text); // an unreadable text gives the default layout
-    void ShowColumnMenu(); // below the header, for the keyboard too
+    void ShowColumnMenu();                   // below the header, for the keyboard too
     void SetEmptyHint(const QString& hint);
     void ScrollTo(QDate day);
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups

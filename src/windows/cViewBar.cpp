@@ -55,12 +55,16 @@ void Choose(QComboBox& combo, const QString& stored)
 
 } // namespace
 
-cViewBar::cViewBar(cMainModel& model, QWidget* parent) :
-    QWidget(parent), m_model(model), m_period(MakeCombo(this, modWord::Periods())),
-    m_start(MakeDay(this, cText::Tr("Erster Tag des Zeitraums"))),
-    m_end(MakeDay(this, cText::Tr("Letzter Tag des Zeitraums"))), m_account(new QComboBox(this)),
-    m_type(MakeCombo(this, modWord::ViewTypes())), m_grouping(MakeCombo(this, modWord::Groupings())),
-    m_filter(new QLineEdit(this))
+cViewBar::cViewBar(cMainModel& model, QWidget* parent)
+    : QWidget(parent),
+      m_model(model),
+      m_period(MakeCombo(this, modWord::Periods())),
+      m_start(MakeDay(this, cText::Tr("Erster Tag des Zeitraums"))),
+      m_end(MakeDay(this, cText::Tr("Letzter Tag des Zeitraums"))),
+      m_account(new QComboBox(this)),
+      m_type(MakeCombo(this, modWord::ViewTypes())),
+      m_grouping(MakeCombo(this, modWord::Groupings())),
+      m_filter(new QLineEdit(this))
 {
     Build();
     Connect();
@@ -87,7 +91,7 @@ void cViewBar::Build()
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_account->setMinimumContentsLength(14);
     grid->setColumnStretch(6, 1);
-    const QList<QWidget*> order {m_period, m_start, m_end, m_account, m_type, m_grouping, m_filter};
+    const QList<QWidget*> order{m_period, m_start, m_end, m_account, m_type, m_grouping, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
@@ -95,8 +99,10 @@ void cViewBar::Build()
 
 void cViewBar::Connect()
 {
-    connect(m_period, &QComboBox::activated, this, [this] { m_model.ChoosePeriod(m_period->currentData().toString()); });
-    connect(m_account, &QComboBox::activated, this, [this] { m_model.ChooseAccount(m_account->currentData().toString()); });
+    connect(m_period, &QComboBox::activated, this,
+            [this] { m_model.ChoosePeriod(m_period->currentData().toString()); });
+    connect(m_account, &QComboBox::activated, this,
+            [this] { m_model.ChooseAccount(m_account->currentData().toString()); });
     connect(m_type, &QComboBox::activated, this, [this] { m_model.ChooseType(m_type->currentData().toString()); });
     connect(m_grouping, &QComboBox::activated, this,
             [this] { m_model.ChooseGrouping(m_grouping->currentData().toString()); });

@@ -26,8 +26,8 @@ void AddWords(QComboBox& combo, const cVocabulary& words)
     }
 }
 
-// Chooses a stored text; one that is not offered (an account that was deleted, say) is offered as well, so that saving does
-// not change it.
+// Chooses a stored text; one that is not offered (an account that was deleted, say) is offered as well, so that saving
+// does not change it.
 void Choose(QComboBox& combo, const QString& stored)
 {
     if (!stored.isEmpty() && combo.findData(stored) < 0) {
@@ -46,12 +46,22 @@ QDateEdit* MakeDay(QWidget* parent)
 
 } // namespace
 
-frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryEditor::cFields& fields, QWidget* parent) :
-    QDialog(parent), m_editor(editor), m_fields(fields), txtBetrag(new QLineEdit(this)),
-    txtBeschreibung(new QLineEdit(this)), cboKategorie(new QComboBox(this)), cboBuchungsart(new QComboBox(this)),
-    cboKonto(new QComboBox(this)), cboNachKonto(new QComboBox(this)), lblNachKonto(new QLabel(cText::Tr("&Nach Konto:"), this)),
-    EntryDate(MakeDay(this)), EntryDateCheck(new QCheckBox(cText::Tr("&endet am"), this)), EntryDateEnd(MakeDay(this)),
-    cboInterval(new QComboBox(this)), chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern &schließen"), this))
+frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryEditor::cFields& fields, QWidget* parent)
+    : QDialog(parent),
+      m_editor(editor),
+      m_fields(fields),
+      txtBetrag(new QLineEdit(this)),
+      txtBeschreibung(new QLineEdit(this)),
+      cboKategorie(new QComboBox(this)),
+      cboBuchungsart(new QComboBox(this)),
+      cboKonto(new QComboBox(this)),
+      cboNachKonto(new QComboBox(this)),
+      lblNachKonto(new QLabel(cText::Tr("&Nach Konto:"), this)),
+      EntryDate(MakeDay(this)),
+      EntryDateCheck(new QCheckBox(cText::Tr("&endet am"), this)),
+      EntryDateEnd(MakeDay(this)),
+      cboInterval(new QComboBox(this)),
+      chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern &schließen"), this))
 {
     setWindowTitle(m_editor.IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten"));
     Build();

@@ -42,18 +42,23 @@ QStringList DroppedFiles(const QMimeData& data)
 
 } // namespace
 
-frmMain::frmMain(cMainModel& model, QWidget* statements, QWidget* parent) :
-    QMainWindow(parent), m_model(model), m_splitter(new QSplitter(this)), m_tabs(new QTabWidget(this)),
-    m_accounts(new cAccountPanel(model.AccountList(), this)), m_viewBar(new cViewBar(model, this)),
-    m_hint(new QLabel(this)), m_tree(new cEntryTree(model.Entries(), this)), m_sums(new cSumBar(this)),
-    m_database(new QLabel(this))
+frmMain::frmMain(cMainModel& model, QWidget* statements, QWidget* parent)
+    : QMainWindow(parent),
+      m_model(model),
+      m_splitter(new QSplitter(this)),
+      m_tabs(new QTabWidget(this)),
+      m_accounts(new cAccountPanel(model.AccountList(), this)),
+      m_viewBar(new cViewBar(model, this)),
+      m_hint(new QLabel(this)),
+      m_tree(new cEntryTree(model.Entries(), this)),
+      m_sums(new cSumBar(this)),
+      m_database(new QLabel(this))
 {
     setAcceptDrops(true);
     setWindowIcon(modIcon::Program());
     BuildCommands();
     BuildPages(statements);
     Connect();
-    ShowIcons();
 }
 
 void frmMain::BuildCommands()
@@ -76,6 +81,7 @@ void frmMain::BuildCommands()
         }
         action->setShortcuts(keys);
         action->setIconText(cText::Tr(command.Caption));
+        action->setIcon(modIcon::Get(QString::fromUtf8(command.Icon)));
         action->setStatusTip(cText::Tr(command.Hint));
         action->setCheckable(*command.Setting != '\0');
         action->setData(command.Id);
@@ -129,7 +135,7 @@ void frmMain::Connect()
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
     connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) {
-        m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey> {});
+        m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
     });
     connect(m_hint, &QLabel::linkActivated, this, [this] { m_model.Execute(modCommand::ViewFuture); });
 }
@@ -164,7 +170,8 @@ void frmMain::ShowView()
     }
     const QString hint = m_model.Hint();
     m_hint->setVisible(!hint.isEmpty());
-    m_hint->setText(u"%1 <a href=\"#\">%2</a>"_s.arg(hint.toHtmlEscaped(), cText::Tr("Zukünftige ausblenden").toHtmlEscaped()));
+    m_hint->setText(
+        u"%1 <a href=\"#\">%2</a>"_s.arg(hint.toHtmlEscaped(), cText::Tr("Zukünftige ausblenden").toHtmlEscaped()));
     m_database->setText(m_model.DatabaseText());
     setWindowTitle(m_model.WindowTitle());
 }
@@ -179,13 +186,6 @@ void frmMain::ShowSelection()
 {
     for (auto action = m_actions.begin(); action != m_actions.end(); ++action) {
         action.value()->setEnabled(m_model.IsEnabled(action.key()));
-    }
-}
-
-void frmMain::ShowIcons()
-{
-    for (const modCommand::cCommand& command : modCommand::All()) {
-        m_actions.value(command.Id)->setIcon(modIcon::Get(QString::fromUtf8(command.Icon), palette()));
     }
 }
 
@@ -233,7 +233,6 @@ void frmMain::closeEvent(QCloseEvent* event)
 void frmMain::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange) {
-        ShowIcons();
         m_sums->ShowSums(m_model);
     }
     QMainWindow::changeEvent(event);

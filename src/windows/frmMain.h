@@ -48,7 +48,6 @@ private:
     void ShowView();
     void ShowEntries();
     void ShowSelection();
-    void ShowIcons();
     void ResetLayout();
     void SaveLayout();
 

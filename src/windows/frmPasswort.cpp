@@ -9,7 +9,10 @@
 #include <QVBoxLayout>
 
 frmPasswort::frmPasswort(cCheck isRight, QWidget* parent)
-    : QDialog(parent), m_isRight(std::move(isRight)), m_password(new QLineEdit), m_message(new QLabel)
+    : QDialog(parent),
+      m_isRight(std::move(isRight)),
+      m_password(new QLineEdit),
+      m_message(new QLabel)
 {
     setWindowTitle(cText::Tr("Passwortschutz"));
     auto* label = new QLabel(cText::Tr("&Bitte geben Sie das Passwort der Datenbank ein:"));

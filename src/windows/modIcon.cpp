@@ -1,7 +1,10 @@
 #include "windows/modIcon.h"
 
 #include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 #include <QSvgRenderer>
 
@@ -15,46 +18,48 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QPixmap Draw(QByteArray svg, const QColor& color, int size)
+// Draws one SVG file at any size; "currentColor" in it becomes the text colour.
+class cSvgIconEngine final : public QIconEngine
 {
-    svg.replace("currentColor", color.name().toLatin1());
-    QSvgRenderer renderer(svg);
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter);
-    return pixmap;
-}
+public:
+    explicit cSvgIconEngine(const QByteArray& svg) : m_svg(svg) {}
 
-QByteArray Read(const QString& name)
-{
-    LoadResources();
-    QFile file(u":/icons/%1.svg"_s.arg(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
+    {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
+        QByteArray svg = m_svg;
+        svg.replace("currentColor", QGuiApplication::palette().color(group, role).name().toLatin1());
+        QSvgRenderer renderer(svg);
+        renderer.render(painter, rect);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return pixmap;
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new cSvgIconEngine(m_svg); }
+
+private:
+    QByteArray m_svg;
+};
 
 } // namespace
 
-QIcon modIcon::Get(const QString& name, const QPalette& palette)
+QIcon modIcon::Get(const QString& name)
 {
-    const QByteArray svg = name.isEmpty() ? QByteArray() : Read(name);
-    QIcon icon;
-    if (svg.isEmpty()) {
-        return icon;
-    }
-    for (const int size : {16, 24, 32, 48}) {
-        icon.addPixmap(Draw(svg, palette.color(QPalette::WindowText), size), QIcon::Normal);
-        icon.addPixmap(Draw(svg, palette.color(QPalette::Disabled, QPalette::WindowText), size), QIcon::Disabled);
-    }
-    return icon;
+    LoadResources();
+    QFile file(u":/icons/%1.svg"_s.arg(name));
+    const bool isKnown = !name.isEmpty() && file.open(QIODevice::ReadOnly);
+    return isKnown ? QIcon(new cSvgIconEngine(file.readAll())) : QIcon();
 }
 
 QIcon modIcon::Program()
 {
-    QIcon icon;
-    const QByteArray svg = Read(u"kontorelle"_s);
-    for (const int size : {16, 32, 48, 128}) {
-        icon.addPixmap(Draw(svg, Qt::black, size));
-    }
-    return icon;
+    return Get(u"kontorelle"_s);
 }

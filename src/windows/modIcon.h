@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QIcon>
-#include <QPalette>
 #include <QString>
 
-// The program's own pictures, drawn in the text colour of the palette so that they read on light and dark windows.
+// The program's own pictures. They are drawn when somebody needs them, in the text colour of the application's palette,
+// so that they read on light and dark windows and cost nothing at the start.
 namespace modIcon {
 
 // An empty icon for an empty or unknown name.
-[[nodiscard]] QIcon Get(const QString& name, const QPalette& palette);
+[[nodiscard]] QIcon Get(const QString& name);
 
 // The program's symbol.
 [[nodiscard]] QIcon Program();

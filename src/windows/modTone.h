@@ -3,8 +3,8 @@
 #include <QColor>
 #include <QPalette>
 
-// Colours that carry a meaning, chosen to read well on the palette's own background. The meaning always stands in the text
-// too (a sign, a word), so nothing hangs on the colour alone.
+// Colours that carry a meaning, chosen to read well on the palette's own background. The meaning always stands in the
+// text too (a sign, a word), so nothing hangs on the colour alone.
 namespace modTone {
 
 [[nodiscard]] bool IsDark(const QPalette& palette);

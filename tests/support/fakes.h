@@ -42,13 +42,14 @@ public:
 
     QStringList Shown;
     QStringList Asked;
-    std::deque<eAnswer> Answers; // an empty queue answers Cancel
+    std::deque<eAnswer> Answers;                // an empty queue answers Cancel
     std::deque<std::optional<QString>> Choices; // an empty queue gives up
     QStringList Files;
     cChoice LastChoice;
 
 private:
-    template <typename tQueue> static auto Take(tQueue& queue)
+    template <typename tQueue>
+    static auto Take(tQueue& queue)
     {
         auto first = queue.front();
         queue.pop_front();
@@ -59,7 +60,7 @@ private:
 class cFakeClock final : public cClock
 {
 public:
-    explicit cFakeClock(QDate day = QDate(2026, 3, 15)) : Day(day) { }
+    explicit cFakeClock(QDate day = QDate(2026, 3, 15)) : Day(day) {}
     QDate Today() const override { return Day; }
 
     QDate Day;
@@ -85,7 +86,7 @@ public:
     static QString Path(eRegistryScope scope, const QString& key, const QString& name)
     {
         const QChar first = scope == eRegistryScope::User ? u'U' : u'M';
-        return QStringList {first, key, name}.join(u'|');
+        return QStringList{first, key, name}.join(u'|');
     }
 
     QMap<QString, QString> Values;
@@ -96,7 +97,10 @@ class cFakeShell final : public cShell
 {
 public:
     QString DataFolder() override { return Folder(QStringLiteral("data")); }
-    QString InstalledFile(const QString& name) const override { return Folder(QStringLiteral("program")) + u'/' + name; }
+    QString InstalledFile(const QString& name) const override
+    {
+        return Folder(QStringLiteral("program")) + u'/' + name;
+    }
     bool FileExists(const QString& path) const override { return QFileInfo::exists(path); }
     bool CopyFile(const QString& from, const QString& to) override { return QFile::copy(from, to); }
     bool RenameFile(const QString& from, const QString& to) override { return QFile::rename(from, to); }

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modSchema.h"
+#include "support/fakes.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+
+// A new book in a temporary folder, made from the shipped template.
+class cTestBook
+{
+public:
+    cTestBook()
+    {
+        Database.Open(m_folder.filePath(QStringLiteral("buch.db")), eOpenMode::Create);
+        QFile sql(QStringLiteral(TEST_DATA "/../../data/template.sql"));
+        if (!sql.open(QIODevice::ReadOnly)) {
+            qFatal("data/template.sql is missing");
+        }
+        Database.ExecuteScript(sql.readAll().toStdString());
+        modSchema::Upgrade(Database);
+        Settings = std::make_unique<cSettings>(Data);
+        Configuration.SetDatabase(Settings.get());
+    }
+
+    // Adds a one-off expense of 10 euros on 2026-03-10 as `change` makes it; the stored entry.
+    template <typename tChange>
+    cEntryItem Add(tChange change)
+    {
+        cEntryItem entry;
+        entry.EntryDate = QDate(2026, 3, 10);
+        entry.EntryDateEnd = modRecurrence::OpenEnd;
+        entry.EntryType = modWord::Ausgabe;
+        entry.EntryInterval = modWord::Einmalig;
+        entry.EntryAccount = QStringLiteral("Girokonto");
+        entry.EntryCategory = QStringLiteral("Haushalt; Lebensmittel");
+        entry.EntryValue = 1000;
+        change(entry);
+        if (!Data.AddNewEntry(entry)) {
+            qFatal("entry not added");
+        }
+        return entry;
+    }
+
+    QString Path() const { return Database.Path(); }
+
+    cFakeUser User;
+    cFakeClock Clock;
+    cFakeShell Shell;
+    cFakeRegistry Registry;
+    cDatabase Database;
+    cDataAccess Data{Database, User};
+    std::unique_ptr<cSettings> Settings;
+    cConfiguration Configuration{Registry};
+
+private:
+    QTemporaryDir m_folder;
+};

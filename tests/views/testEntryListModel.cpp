@@ -1,0 +1,220 @@
+#include "core/cAmountFormat.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "views/cEntryListModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cEntryItem Entry(int id, QDate day, const QString& category, qint64 cents, const QString& type = modWord::Ausgabe)
+{
+    cEntryItem entry;
+    entry.ID = id;
+    entry.EntryDate = day;
+    entry.EntryType = type;
+    entry.EntryInterval = modWord::Einmalig;
+    entry.EntryAccount = u"Girokonto"_s;
+    entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+    entry.EntryCategory = category;
+    entry.EntryValue = cents;
+    return entry;
+}
+
+cEntryListModel::cContent Content()
+{
+    cEntryListModel::cContent content;
+    content.Entries = {Entry(1, QDate(2026, 3, 1), u"Haushalt; Äpfel"_s, 500),
+                       Entry(2, QDate(2025, 12, 29), u"Haushalt; Zwieback"_s, 300),
+                       Entry(3, QDate(2026, 3, 1), u"Einkommen; Lohn / Gehalt"_s, 9000, modWord::Einnahme),
+                       Entry(4, QDate(2026, 4, 1), u"Geldanlage"_s, 2000, modWord::Umbuchung),
+                       Entry(5, QDate(2026, 1, 2), {}, 100)};
+    content.Entries[1].EntryDescription = u"Café Größenwahn"_s;
+    content.Entries[4].IsCorrected = true;
+    content.Today = QDate(2026, 3, 15);
+    return content;
+}
+
+QStringList Rows(const cEntryListModel& model, int column = cEntryListModel::Amount)
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex top = model.index(row, 0);
+        const QString name = model.EntryAt(top) == nullptr ? top.data().toString() + u'=' : QString();
+        texts.append(name + model.index(row, column).data().toString().remove(u"\u00a0€"_s));
+    }
+    return texts;
+}
+
+} // namespace
+
+class testEntryListModel final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Sorts_data();
+    void Sorts();
+    void Groups_data();
+    void Groups();
+    void Finds_data();
+    void Finds();
+    void FindsRowsAgainAfterRegrouping();
+    void MarksWhatIsSpecial();
+    void TransfersCountWithAnAccount();
+    void KeepsTheContractOfItemModels();
+};
+
+void testEntryListModel::Sorts_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("order");
+    QTest::addColumn<QStringList>("amounts");
+
+    QTest::newRow("date, equal days in their order")
+        << int(cEntryListModel::Date) << int(Qt::AscendingOrder)
+        << QStringList({u"-3,00"_s, u"-1,00"_s, u"-5,00"_s, u"90,00"_s, u"20,00"_s});
+    QTest::newRow("amount by its effect") << int(cEntryListModel::Amount) << int(Qt::AscendingOrder)
+                                          << QStringList({u"-5,00"_s, u"-3,00"_s, u"-1,00"_s, u"20,00"_s, u"90,00"_s});
+    QTest::newRow("category in German order")
+        << int(cEntryListModel::Category) << int(Qt::AscendingOrder)
+        << QStringList({u"-1,00"_s, u"90,00"_s, u"20,00"_s, u"-5,00"_s, u"-3,00"_s});
+    QTest::newRow("category downwards") << int(cEntryListModel::Category) << int(Qt::DescendingOrder)
+                                        << QStringList({u"-3,00"_s, u"-5,00"_s, u"20,00"_s, u"90,00"_s, u"-1,00"_s});
+}
+
+void testEntryListModel::Sorts()
+{
+    QFETCH(int, column);
+    QFETCH(int, order);
+    QFETCH(QStringList, amounts);
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    model.SetContent(Content(), {}, modWord::KeineGruppierung);
+    model.sort(column, static_cast<Qt::SortOrder>(order));
+    QCOMPARE(Rows(model), amounts);
+}
+
+void testEntryListModel::Groups_data()
+{
+    QTest::addColumn<QString>("grouping");
+    QTest::addColumn<QStringList>("groups");
+
+    QTest::newRow("day") << u"Nach Datum"_s
+                         << QStringList({u"Montag, 29.12.2025  (1)=-3,00"_s, u"Freitag, 02.01.2026  (1)=-1,00"_s,
+                                         u"Sonntag, 01.03.2026  (2)=85,00"_s, u"Mittwoch, 01.04.2026  (1)=0,00"_s});
+    QTest::newRow("week across the turn of the year")
+        << u"Nach Woche"_s
+        << QStringList({u"Woche 1/2026 ab 29.12.2025  (2)=-4,00"_s, u"Woche 9/2026 ab 23.02.2026  (2)=85,00"_s,
+                        u"Woche 14/2026 ab 30.03.2026  (1)=0,00"_s});
+    QTest::newRow("month") << u"Nach Monat"_s
+                           << QStringList({u"Dezember 2025  (1)=-3,00"_s, u"Januar 2026  (1)=-1,00"_s,
+                                           u"März 2026  (2)=85,00"_s, u"April 2026  (1)=0,00"_s});
+    QTest::newRow("main category") << u"Nach Sparte"_s
+                                   << QStringList({u"Keine Angabe  (1)=-1,00"_s, u"Einkommen  (1)=90,00"_s,
+                                                   u"Geldanlage  (1)=0,00"_s, u"Haushalt  (2)=-8,00"_s});
+    QTest::newRow("category") << u"Nach Kategorie"_s
+                              << QStringList({u"Keine Angabe  (1)=-1,00"_s, u"Einkommen; Lohn / Gehalt  (1)=90,00"_s,
+                                              u"Geldanlage  (1)=0,00"_s, u"Haushalt; Äpfel  (1)=-5,00"_s,
+                                              u"Haushalt; Zwieback  (1)=-3,00"_s});
+    QTest::newRow("account") << u"Nach Konto"_s << QStringList({u"Girokonto  (5)=81,00"_s});
+    QTest::newRow("kind") << u"Nach Buchungsart"_s
+                          << QStringList({u"Ausgabe  (3)=-9,00"_s, u"Einnahme  (1)=90,00"_s, u"Umbuchung  (1)=0,00"_s});
+}
+
+void testEntryListModel::Groups()
+{
+    QFETCH(QString, grouping);
+    QFETCH(QStringList, groups);
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    model.SetContent(Content(), {}, grouping);
+    QCOMPARE(Rows(model), groups);
+}
+
+void testEntryListModel::Finds_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("without accents") << u"cafe"_s << 1;
+    QTest::newRow("umlaut spelled out") << u"GROESSENWAHN"_s << 1;
+    QTest::newRow("umlaut without dots") << u"grossenwahn"_s << 1;
+    QTest::newRow("umlaut at the start of a word being typed") << u"äpf"_s << 1;
+    QTest::newRow("every word") << u"haushalt café"_s << 1;
+    QTest::newRow("no entry has both") << u"lohn café"_s << 0;
+    QTest::newRow("amount") << u"90,00"_s << 1;
+    QTest::newRow("day") << u"01.03.2026"_s << 2;
+    QTest::newRow("only blanks") << u"   "_s << 5;
+}
+
+void testEntryListModel::Finds()
+{
+    QFETCH(QString, filter);
+    QFETCH(int, rows);
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    model.SetContent(Content(), filter, modWord::KeineGruppierung);
+    QCOMPARE(model.rowCount(), rows);
+    QCOMPARE(model.Sums().Count, rows);
+}
+
+void testEntryListModel::FindsRowsAgainAfterRegrouping()
+{
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    model.SetContent(Content(), {}, modWord::KeineGruppierung);
+    const cEntryListModel::cKey key{3, QDate(2026, 3, 1)};
+    for (const QString& grouping : modWord::Groupings().Stored()) {
+        model.SetGrouping(grouping);
+        const QModelIndexList found = model.IndexesOf({key, {99, QDate(2026, 3, 1)}});
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(model.KeyAt(found.constFirst()), key);
+    }
+    model.SetGrouping(modWord::KeineGruppierung);
+    QCOMPARE(model.KeyAt(model.IndexNear(QDate(2026, 3, 15))).ID, 4);
+}
+
+void testEntryListModel::MarksWhatIsSpecial()
+{
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    model.SetContent(Content(), {}, modWord::KeineGruppierung);
+    QVERIFY(model.index(4, 0).data(cEntryListModel::FutureRole).toBool()); // 1 April
+    QVERIFY(!model.index(0, 0).data(cEntryListModel::FutureRole).toBool());
+    QCOMPARE(model.index(1, cEntryListModel::Interval).data().toString(), u"Einmalig, korrigiert"_s);
+    QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), int(cEntryListModel::Income));
+}
+
+void testEntryListModel::TransfersCountWithAnAccount()
+{
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    for (const auto& [account, effect] : {std::pair(u"Girokonto"_s, qint64(-2000)),
+                                          std::pair(u"Sparkonto"_s, qint64(2000)), std::pair(QString(), qint64(0))}) {
+        cEntryListModel::cContent content;
+        content.Entries = {Entry(4, QDate(2026, 4, 1), u"Geldanlage"_s, 2000, modWord::Umbuchung)};
+        content.Account = account;
+        content.StartBalance = 10000;
+        model.SetContent(content, {}, modWord::KeineGruppierung);
+        QCOMPARE(model.Sums().Total(), effect);
+        QCOMPARE(model.index(0, cEntryListModel::Balance).data().toString(), format.Cents(10000 + effect));
+    }
+}
+
+void testEntryListModel::KeepsTheContractOfItemModels()
+{
+    const cAmountFormat format;
+    cEntryListModel model(format);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.SetContent(Content(), {}, u"Nach Monat"_s);
+    model.sort(cEntryListModel::Amount, Qt::DescendingOrder);
+    model.SetFilter(u"haushalt"_s);
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(model.parent(model.index(0, 3, model.index(1, 0))), model.index(1, 0));
+}
+
+QTEST_GUILESS_MAIN(testEntryListModel)
+#include "testEntryListModel.moc"

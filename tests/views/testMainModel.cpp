@@ -1,0 +1,398 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cMainModel.h"
+#include "views/cNavigator.h"
+#include "views/modCommand.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class cFakeNavigator final : public cNavigator
+{
+public:
+    void OpenEntryEditor(int entryId) override { Opened.append(u"Eintrag %1"_s.arg(entryId)); }
+    void OpenImport() override { Opened.append(u"Import"_s); }
+    void OpenColumnChooser() override { Opened.append(u"Spalten"_s); }
+    void EndProgram() override { Opened.append(u"Ende"_s); }
+
+    QStringList Opened;
+};
+
+// A book of January to March 2026 seen on 15 March: salary and shopping on the current account, one transfer to the
+// savings account, a start balance of the year before, rent every month, one purchase in the future.
+class cScene
+{
+public:
+    cScene()
+    {
+        Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2025, 12, 31);
+            e.EntryType = modWord::Einnahme;
+            e.EntryValue = 50000;
+            e.EntryCategory = modWord::Startguthaben;
+        });
+        Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2026, 1, 30);
+            e.EntryType = modWord::Einnahme;
+            e.EntryValue = 200000;
+            e.EntryCategory = u"Einkommen; Lohn / Gehalt"_s;
+            e.EntryDescription = u"Gehalt Müller KG"_s;
+        });
+        Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2026, 2, 2);
+            e.EntryType = modWord::Umbuchung;
+            e.EntryAccountMove = u"Sparkonto"_s;
+            e.EntryValue = 30000;
+            e.EntryCategory = u"Geldanlage"_s;
+        });
+        Rent = Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2026, 1, 1);
+            e.EntryInterval = u"Monatlich"_s;
+            e.EntryValue = 70000;
+            e.EntryCategory = u"Wohnung; Miete"_s;
+            e.EntryDescription = u"Miete"_s;
+        });
+        Future = Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2026, 3, 20);
+            e.EntryValue = 4000;
+        });
+        Start();
+    }
+
+    void Start(bool isNewVersion = false)
+    {
+        Model =
+            std::make_unique<cMainModel>(cMainModel::cParts{Book.Data, *Book.Settings, Book.Configuration, Format,
+                                                            Book.User, Book.Clock, Book.Shell, Navigator, Book.Path()});
+        Model->RestoreView(isNewVersion);
+        Settle();
+    }
+
+    static void Settle() { QTest::qWait(5); }
+
+    QStringList Balances() const
+    {
+        QStringList texts;
+        const cAccountListModel& accounts = Model->AccountList();
+        for (int row = 0; row < accounts.rowCount(); ++row) {
+            const QString balance = accounts.index(row, cAccountListModel::Balance).data().toString();
+            if (!balance.isEmpty()) {
+                texts.append(accounts.index(row, cAccountListModel::Name).data().toString() + u' ' + balance);
+            }
+        }
+        return texts;
+    }
+
+    QList<cEntryListModel::cKey> Select(const QList<cEntryItem>& entries) const
+    {
+        QList<cEntryListModel::cKey> keys;
+        for (const cEntryItem& entry : entries) {
+            keys.append({entry.ID, entry.EntryDate});
+        }
+        Model->SetSelection(keys);
+        return keys;
+    }
+
+    cTestBook Book;
+    cAmountFormat Format;
+    cFakeNavigator Navigator;
+    std::unique_ptr<cMainModel> Model;
+    cEntryItem Rent;
+    cEntryItem Future;
+};
+
+QString Euro(const QString& amount)
+{
+    return amount + u"\u00a0€"_s;
+}
+
+} // namespace
+
+class testMainModel final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void SumsFollowTheView_data();
+    void SumsFollowTheView();
+    void NewBookStartsWithCurrentYear();
+    void NewVersionResetsTheView();
+    void RestoresTheView();
+    void FreePeriodStartsWithTheShownDays();
+    void NextPeriodAsksForHiddenEntries();
+    void BalancesToTodayOrOfThePeriod();
+    void RunningBalanceBeginsBeforeThePeriod();
+    void FilterKeepsWhatIsLoaded();
+    void DeletesAfterSayingWhatASeriesMeans();
+    void CommandsDispatch();
+    void RenamesAnAccountWithItsEntries();
+    void ReadOnlyBookOffersNoWriting();
+    void OpenRowsCountForTheirAccount();
+};
+
+void testMainModel::SumsFollowTheView_data()
+{
+    QTest::addColumn<QString>("period");
+    QTest::addColumn<QString>("account");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("switchedOff");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<qint64>("income");
+    QTest::addColumn<qint64>("expense");
+
+    const QString year = u"Aktuelles Jahr"_s;
+    const QString all = modWord::AlleKonten;
+    const QString types = modWord::AlleBuchungsarten;
+    QTest::newRow("whole year, transfers neutral")
+        << year << all << types << QString() << 15 << qint64(200000) << qint64(844000);
+    QTest::newRow("without future") << year << all << types << u"ViewFutureBooking"_s << 5 << qint64(200000)
+                                    << qint64(210000);
+    QTest::newRow("only recurring") << year << all << types << u"ViewSingleBooking"_s << 12 << qint64(0)
+                                    << qint64(840000);
+    QTest::newRow("only one-off") << year << all << types << u"ViewFixBooking"_s << 3 << qint64(200000) << qint64(4000);
+    QTest::newRow("transfer out of the account")
+        << year << u"Girokonto"_s << u"Umbuchung"_s << QString() << 1 << qint64(0) << qint64(30000);
+    QTest::newRow("transfer into the account is income")
+        << year << u"Sparkonto"_s << u"Einnahme"_s << QString() << 1 << qint64(30000) << qint64(0);
+    QTest::newRow("start balance hidden")
+        << u"Letztes Jahr"_s << all << types << u"ViewStartBooking"_s << 0 << qint64(0) << qint64(0);
+    QTest::newRow("start balance shown") << u"Letztes Jahr"_s << all << types << QString() << 1 << qint64(50000)
+                                         << qint64(0);
+    QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << QString() << 6 << qint64(250000)
+                                 << qint64(210000);
+}
+
+void testMainModel::SumsFollowTheView()
+{
+    QFETCH(QString, period);
+    QFETCH(QString, account);
+    QFETCH(QString, type);
+    QFETCH(QString, switchedOff);
+    QFETCH(int, count);
+    QFETCH(qint64, income);
+    QFETCH(qint64, expense);
+
+    cScene scene;
+    if (!switchedOff.isEmpty()) {
+        scene.Model->ToggleView(switchedOff);
+    }
+    scene.Model->ChoosePeriod(period);
+    scene.Model->ChooseAccount(account);
+    scene.Model->ChooseType(type);
+
+    const cEntryListModel::cSums expected{income, expense, count};
+    QCOMPARE(scene.Model->Entries().Sums().Count, expected.Count);
+    QCOMPARE(scene.Model->Entries().Sums().Income, expected.Income);
+    QCOMPARE(scene.Model->Entries().Sums().Expense, expected.Expense);
+}
+
+void testMainModel::NewBookStartsWithCurrentYear()
+{
+    cTestBook book;
+    cAmountFormat format;
+    cFakeNavigator navigator;
+    cMainModel model({book.Data, *book.Settings, book.Configuration, format, book.User, book.Clock, book.Shell,
+                      navigator, book.Path()});
+    model.RestoreView(true);
+
+    QCOMPARE(model.View().Period, u"Aktuelles Jahr"_s);
+    for (const QString& key : {u"ViewSingleBooking"_s, u"ViewFixBooking"_s, u"ViewFutureBooking"_s,
+                               u"ViewStartBooking"_s, u"ViewAccountValueAll"_s}) {
+        QVERIFY2(model.IsChecked(key), qPrintable(key));
+    }
+    QVERIFY(model.EmptyHint().contains(u"Strg+N"_s));
+}
+
+void testMainModel::NewVersionResetsTheView()
+{
+    cScene scene;
+    scene.Model->ToggleView(u"ViewFixBooking"_s);
+    scene.Model->ToggleView(u"ViewStartBooking"_s);
+    scene.Model->SaveListLayout(u"MainList"_s, u"x"_s);
+    scene.Model->ChooseAccount(u"Sparkonto"_s);
+    scene.Start(true);
+
+    QCOMPARE(scene.Model->View().Period, modWord::AlleBuchungen);
+    QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
+    QVERIFY(scene.Model->IsChecked(u"ViewFixBooking"_s));
+    QVERIFY(!scene.Model->IsChecked(u"ViewAccountValueAll"_s));
+    QVERIFY(!scene.Model->IsChecked(u"ViewStartBooking"_s)); // a reset leaves it alone
+    QVERIFY(scene.Model->Layout(u"MainList"_s).isEmpty());
+    QVERIFY(!scene.Model->Hint().isEmpty()); // the list reaches to 2050 now, and says so
+}
+
+void testMainModel::RestoresTheView()
+{
+    cScene scene;
+    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+    scene.Model->ChooseAccount(u"Sparkonto"_s);
+    scene.Model->ChooseGrouping(u"Nach Monat"_s);
+    scene.Model->TypeFilter(u"bäcker"_s);
+    cScene::Settle();
+    scene.Start();
+    QCOMPARE(scene.Model->View().Period, u"Letzter Monat"_s);
+    QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
+    QCOMPARE(scene.Model->View().Grouping, u"Nach Monat"_s);
+    QCOMPARE(scene.Model->View().Filter, u"bäcker"_s);
+
+    scene.Book.Settings->Set(u"MainKonto"_s, u"Aufgelöstes Konto"_s);
+    scene.Book.Settings->Set(u"MainZeitraum"_s, u"Irgendwann"_s);
+    scene.Start();
+    QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
+    QCOMPARE(scene.Model->View().Period, u"Aktuelles Jahr"_s);
+}
+
+void testMainModel::FreePeriodStartsWithTheShownDays()
+{
+    cScene scene;
+    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+    scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)}); // not the free period: nothing happens
+    QCOMPARE(scene.Model->ShownRange().Start, QDate(2026, 2, 1));
+    scene.Model->ChoosePeriod(modWord::FreierZeitraum);
+    QCOMPARE(scene.Model->ShownRange().End, QDate(2026, 2, 28));
+    scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)});
+    QCOMPARE(scene.Model->Entries().Sums().Count, 2);
+    QCOMPARE(scene.Book.Settings->Get(u"MainZeitraumEnd"_s), u"2026-01-31"_s);
+}
+
+void testMainModel::NextPeriodAsksForHiddenEntries()
+{
+    cScene scene;
+    scene.Model->ToggleView(u"ViewFutureBooking"_s);
+    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    scene.Model->ChoosePeriod(u"Nächstes Jahr"_s);
+    QVERIFY(!scene.Model->IsChecked(u"ViewFutureBooking"_s));
+    QCOMPARE(scene.Model->Entries().rowCount(), 0);
+    scene.Model->ChoosePeriod(u"Nächster Monat"_s);
+    QVERIFY(scene.Model->IsChecked(u"ViewFutureBooking"_s));
+    QCOMPARE(scene.Model->Entries().rowCount(), 1);
+    scene.Model->ChoosePeriod(u"Nächstes Quartal"_s);
+    QCOMPARE(scene.Book.User.Asked.size(), 2);
+    QCOMPARE(scene.Book.User.Asked.constFirst(),
+             u"Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige aktiviert werden?"_s);
+}
+
+void testMainModel::BalancesToTodayOrOfThePeriod()
+{
+    cScene scene;
+    QCOMPARE(scene.Balances(),
+             QStringList({u"Girokonto "_s + Euro(u"100,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
+                          u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"400,00"_s)}));
+    scene.Model->ToggleView(u"ViewAccountValueAll"_s);
+    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+    cScene::Settle();
+    QCOMPARE(scene.Balances(),
+             QStringList({u"Girokonto "_s + Euro(u"-1.000,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
+                          u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"-700,00"_s)}));
+}
+
+void testMainModel::RunningBalanceBeginsBeforeThePeriod()
+{
+    cScene scene;
+    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+    scene.Model->ChooseAccount(u"Girokonto"_s);
+    cEntryListModel& list = scene.Model->Entries();
+    QCOMPARE(list.index(0, cEntryListModel::Balance).data().toString(), Euro(u"1.100,00"_s)); // 500 + 2000 - 700 - 700
+    QCOMPARE(list.index(1, cEntryListModel::Balance).data().toString(), Euro(u"800,00"_s));   // the transfer out
+    list.sort(cEntryListModel::Amount, Qt::AscendingOrder);
+    QVERIFY(list.index(0, cEntryListModel::Balance).data().toString().isEmpty());
+}
+
+void testMainModel::FilterKeepsWhatIsLoaded()
+{
+    cScene scene;
+    const QSignalSpy changed(scene.Model.get(), &cMainModel::EntriesChanged);
+    scene.Model->TypeFilter(u"mueller gehalt"_s);
+    QVERIFY(changed.isEmpty()); // the field is still being typed into
+    cScene::Settle();
+    QCOMPARE(scene.Model->Entries().rowCount(), 1);
+    QCOMPARE(scene.Model->IncomeText(), Euro(u"2.000,00"_s));
+    scene.Model->TypeFilter({});
+    cScene::Settle();
+    QCOMPARE(scene.Model->Entries().rowCount(), 15);
+}
+
+void testMainModel::DeletesAfterSayingWhatASeriesMeans()
+{
+    cScene scene;
+    QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
+    cEntryItem march = scene.Rent;
+    march.EntryDate = QDate(2026, 3, 1);
+    scene.Select({scene.Rent, march});
+    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    scene.Model->Execute(modCommand::DeleteEntry);
+    QCOMPARE(scene.Book.Data.CountEntries(), 5);
+    QVERIFY(scene.Book.User.Asked.constFirst().contains(u"Monatlich seit 01.01.2026"_s));
+    scene.Model->Execute(modCommand::DeleteEntry);
+    QCOMPARE(scene.Book.Data.CountEntries(), 4);
+    QCOMPARE(scene.Model->Entries().rowCount(), 3);
+    scene.Model->Execute(modCommand::DeleteEntry); // nothing is selected any more
+    QCOMPARE(scene.Book.User.Asked.size(), 2);
+}
+
+void testMainModel::CommandsDispatch()
+{
+    cScene scene;
+    scene.Select({scene.Future});
+    for (const int id : {100, 101, 103, 108, 107}) {
+        QVERIFY(scene.Model->Execute(id));
+    }
+    QCOMPARE(scene.Navigator.Opened,
+             QStringList({u"Eintrag 0"_s, u"Eintrag %1"_s.arg(scene.Future.ID), u"Import"_s, u"Spalten"_s, u"Ende"_s}));
+    scene.Model->Execute(modCommand::ViewFix);
+    QVERIFY(!cSettings::ToBool(scene.Book.Settings->Get(u"ViewFixBooking"_s)));
+    QVERIFY(!scene.Model->Execute(999));
+    QCOMPARE(modCommand::Keys(*modCommand::Find(100)), QStringList({u"Ctrl+N"_s, u"F5"_s})); // F5 does not refresh
+}
+
+void testMainModel::RenamesAnAccountWithItsEntries()
+{
+    cScene scene;
+    scene.Book.User.Choices = {u"  Haushalts;konto "_s};
+    scene.Book.User.Answers = {eAnswer::Yes};
+    scene.Model->ChooseAccount(u"Girokonto"_s);
+    scene.Model->RenameAccount(u"Girokonto"_s);
+    QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Girokonto"_s), 0);
+    QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Haushaltskonto"_s), 5);
+    QCOMPARE(scene.Model->View().Account, u"Haushaltskonto"_s);
+    QCOMPARE(scene.Model->Entries().rowCount(), 15);
+}
+
+void testMainModel::ReadOnlyBookOffersNoWriting()
+{
+    cScene scene;
+    const QString path = scene.Book.Path();
+    scene.Model.reset();
+    scene.Book.Database.Open(path, eOpenMode::ReadOnly);
+    scene.Start();
+    scene.Select({scene.Future});
+    QVERIFY(!scene.Model->IsEnabled(modCommand::NewEntry));
+    QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
+    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+    scene.Model->ToggleView(u"ViewFixBooking"_s);
+    QCOMPARE(scene.Model->Entries().rowCount(), 1);
+    QCOMPARE(scene.Book.User.Shown, QStringList()); // looking around writes nothing and complains about nothing
+}
+
+void testMainModel::OpenRowsCountForTheirAccount()
+{
+    cScene scene;
+    cImportEntry row;
+    row.ImportAccount = u"4711"_s;
+    row.ImportDate = QDate(2026, 3, 1);
+    row.ImportValue = -5;
+    QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+    scene.Book.Settings->Set(u"KTO:4711"_s, u"Sparkonto"_s);
+    scene.Model->BookChanged();
+    cScene::Settle();
+    const cAccountListModel& accounts = scene.Model->AccountList();
+    QCOMPARE(accounts.index(2, cAccountListModel::Name).data().toString(), u"Sparkonto"_s);
+    QCOMPARE(accounts.index(2, cAccountListModel::Open).data().toString(), u"1"_s);
+}
+
+QTEST_GUILESS_MAIN(testMainModel)
+#include "testMainModel.moc"

@@ -1,0 +1,116 @@
+#include "support/testBook.h"
+#include "views/cListLayout.h"
+#include "views/cTemplateFlow.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testTemplateFlow final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void RenamesAnAccount_data();
+    void RenamesAnAccount();
+    void BankAccountFollowsTheName();
+    void RenamesACategoryWithItsEntries();
+    void ReadsOnlyWholeLayouts_data();
+    void ReadsOnlyWholeLayouts();
+};
+
+void testTemplateFlow::RenamesAnAccount_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("account");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("message");
+    const QString old = u"Bargeld"_s;
+    QTest::newRow("yes moves the entries")
+        << u" Kasse "_s << int(eAnswer::Yes) << u"Kasse"_s << u"Kasse"_s << QString();
+    QTest::newRow("no leaves them") << u"Kasse"_s << int(eAnswer::No) << u"Kasse"_s << old << QString();
+    QTest::newRow("cancel changes nothing") << u"Kasse"_s << int(eAnswer::Cancel) << old << old << QString();
+    QTest::newRow("empty") << u"  "_s << int(eAnswer::Yes) << old << old << u"Der Kontoname darf nicht leer sein!"_s;
+    QTest::newRow("empty once cleaned") << u"<>"_s << int(eAnswer::Yes) << old << old
+                                        << u"Der Kontoname darf nicht leer sein!"_s;
+    QTest::newRow("taken") << u"Sparkonto"_s << int(eAnswer::Yes) << old << old
+                           << u"Dieser Kontoname existiert bereits!"_s;
+}
+
+void testTemplateFlow::RenamesAnAccount()
+{
+    QFETCH(QString, name);
+    QFETCH(int, answer);
+    QFETCH(QString, account);
+    QFETCH(QString, entry);
+    QFETCH(QString, message);
+    cTestBook book;
+    const cEntryItem out = book.Add([](cEntryItem& e) { e.EntryAccount = u"Bargeld"_s; });
+    const cEntryItem in = book.Add([](cEntryItem& e) {
+        e.EntryType = modWord::Umbuchung;
+        e.EntryAccountMove = u"Bargeld"_s;
+    });
+    const cEntryItem lower = book.Add([](cEntryItem& e) { e.EntryAccount = u"bargeld"_s; });
+    book.User.Answers = {static_cast<eAnswer>(answer)};
+    cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, name);
+
+    QVERIFY(book.Data.FindAccount(account));
+    QCOMPARE(book.Data.LoadEntry(out.ID)->EntryAccount, entry);
+    QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, entry);
+    QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
+}
+
+void testTemplateFlow::BankAccountFollowsTheName()
+{
+    cTestBook book;
+    cImportEntry row;
+    row.ImportAccount = u"4711"_s;
+    row.ImportValue = 1;
+    QVERIFY(book.Data.AddNewImportEntry(row));
+    book.Settings->Set(u"KTO:4711"_s, u"Bargeld"_s);
+    QVERIFY(cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, u"Kasse"_s));
+    QVERIFY(book.User.Asked.isEmpty()); // no entry refers to the account
+    QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Kasse"_s);
+}
+
+void testTemplateFlow::RenamesACategoryWithItsEntries()
+{
+    cTestBook book;
+    const cEntryItem entry = book.Add([](cEntryItem&) {});
+    const std::optional<cTemplateItem> category = book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s);
+    QVERIFY(category);
+    cTemplateFlow flow(book.Data, *book.Settings, book.User);
+    QVERIFY(!flow.RenameCategory(*category, u"Haushalt"_s, u"Getränke"_s)); // exists
+    QCOMPARE(book.User.Shown.size(), 1);
+    QVERIFY(flow.RenameCategory(*category, u"Haushalt"_s, u"Essen & Trinken"_s));
+    QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haushalt; Essen  Trinken"_s);
+}
+
+void testTemplateFlow::ReadsOnlyWholeLayouts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("whole") << u"1,80,1|0,0,0|sort,1,1"_s << true;
+    QTest::newRow("without sorting") << u"0,80,1|1,90,1"_s << true;
+    QTest::newRow("empty") << QString() << false;
+    QTest::newRow("a column is missing") << u"0,80,1"_s << false;
+    QTest::newRow("a column twice") << u"0,80,1|0,80,1"_s << false;
+    QTest::newRow("an unknown column") << u"0,80,1|7,80,1"_s << false;
+    QTest::newRow("everything hidden") << u"0,80,0|1,80,0"_s << false;
+    QTest::newRow("no numbers") << u"a,b,c|1,80,1"_s << false;
+}
+
+void testTemplateFlow::ReadsOnlyWholeLayouts()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isRead);
+    const std::optional<cListLayout> layout = cListLayout::FromText(text, 2);
+    QCOMPARE(layout.has_value(), isRead);
+    if (isRead) {
+        QCOMPARE(cListLayout::FromText(layout->ToText(), 2), layout);
+    }
+}
+
+QTEST_GUILESS_MAIN(testTemplateFlow)
+#include "testTemplateFlow.moc"
