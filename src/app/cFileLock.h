@@ -6,13 +6,13 @@
 #include <memory>
 
 enum class eLockState {
-    Held, // this program has the file for itself
-    Foreign, // another program has it
+    Held,       // this program has the file for itself
+    Foreign,    // another program has it
     Impossible, // the folder takes no lock file: nobody can write there
 };
 
-// One program per database: the right to write to a database file, shown to others by the file "<database>.lock". A lock
-// left by a program that is gone is taken over.
+// One program per database: the right to write to a database file, shown to others by the file "<database>.lock". A
+// lock left by a program that is gone is taken over.
 class cFileLock
 {
 public:

@@ -20,8 +20,9 @@ std::unique_ptr<QSettings> cQtRegistry::Open(eRegistryScope scope, const QString
         const QString root = isUser ? u"HKEY_CURRENT_USER\\"_s : u"HKEY_LOCAL_MACHINE\\"_s;
         return std::make_unique<QSettings>(root + key, QSettings::NativeFormat);
 #else
-        store = std::make_unique<QSettings>(QSettings::IniFormat, isUser ? QSettings::UserScope : QSettings::SystemScope,
-                                            u"Veltrino Kontorelle"_s, u"registry"_s);
+        store =
+            std::make_unique<QSettings>(QSettings::IniFormat, isUser ? QSettings::UserScope : QSettings::SystemScope,
+                                        u"Veltrino Kontorelle"_s, u"registry"_s);
 #endif
     }
     store->setFallbacksEnabled(false); // each scope answers for itself: the order of reading is the caller's

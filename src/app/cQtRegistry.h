@@ -11,7 +11,7 @@ class cQtRegistry final : public cRegistry
 {
 public:
     // With a profile folder the values of the user lie in it, and those of the machine are not seen.
-    explicit cQtRegistry(const QString& profile) : m_profile(profile) { }
+    explicit cQtRegistry(const QString& profile) : m_profile(profile) {}
 
     [[nodiscard]] QString Read(eRegistryScope scope, const QString& key, const QString& name) const override;
     bool Write(const QString& key, const QString& name, const QString& value) override;

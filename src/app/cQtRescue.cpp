@@ -14,8 +14,8 @@ namespace {
 
 std::optional<QString> ChooseFile(const QString& title, const QString& folder, const QString& filter)
 {
-    const QString path
-        = QFileDialog::getOpenFileName(QApplication::activeWindow(), title, folder, modQtFilter::FromPairs(filter));
+    const QString path =
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), title, folder, modQtFilter::FromPairs(filter));
     return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 

@@ -7,7 +7,7 @@ class cQtShell final : public cShell
 {
 public:
     // With a profile folder all data of the user lies below it; empty for the usual places of the system.
-    explicit cQtShell(const QString& profile) : m_profile(profile) { }
+    explicit cQtShell(const QString& profile) : m_profile(profile) {}
 
     [[nodiscard]] QString DataFolder() override;
     [[nodiscard]] QString InstalledFile(const QString& name) const override;

@@ -11,7 +11,10 @@ enum class eSettingPlace { Database, Registry };
 class cConfiguration
 {
 public:
-    explicit cConfiguration(cRegistry& registry) : m_registry(registry) { }
+    static inline const QString RegistryKey = QStringLiteral("SOFTWARE\\Veltrino Kontorelle");
+    static inline const QString FormerRegistryKey = QStringLiteral("SOFTWARE\\KontorelleFreeware"); // never written
+
+    explicit cConfiguration(cRegistry& registry) : m_registry(registry) {}
 
     // Connects the settings of an opened database; null while none is open.
     void SetDatabase(cSettings* settings) { m_settings = settings; }

@@ -4,7 +4,6 @@
 #include <QMap>
 #include <QString>
 
-class cClock;
 class cDataAccess;
 
 // The settings of the open database in memory, kept in step with table `setting`. Names are compared without regard to
@@ -14,8 +13,11 @@ class cSettings
 public:
     explicit cSettings(cDataAccess& data);
 
+    // Reads the table again, after another database was opened.
+    void Reload();
+
     [[nodiscard]] QString Get(const QString& name) const; // empty when unknown
-    bool Set(const QString& name, const QString& value); // false, and unchanged in memory, when the database refuses
+    bool Set(const QString& name, const QString& value);  // false, and unchanged in memory, when the database refuses
     bool Delete(const QString& name);
 
     // Truth values of the settings; see ToBool.

@@ -87,11 +87,12 @@ qsizetype PickShop(cDice& dice)
 QString Iban(qsizetype number)
 {
     const QString account = QString::number(4820000000 + number * 13797);
+    const QString digits = DemoBank % account % u"131400"_s; // "DE" as 1314 and the check digits as 00
     int rest = 0;
-    for (const QChar digit : QString(DemoBank % account % u"131400")) { // "DE" as 1314 and the check digits as 00
+    for (const QChar digit : digits) {
         rest = (rest * 10 + digit.digitValue()) % 97;
     }
-    return u"DE%1%2%3"_s.arg(98 - rest, 2, 10, u'0').arg(DemoBank, account);
+    return u"DE%1%2%3"_s.arg(98 - rest, 2, 10, QChar(u'0')).arg(DemoBank, account);
 }
 
 cEntryItem OneOff(QDate date, const QString& type, const QString& account, const QString& category, qint64 cents,

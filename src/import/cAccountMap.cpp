@@ -55,6 +55,19 @@ QString cAccountMap::AccountOf(const QString& number) const
     return Exists(account) ? account : QString();
 }
 
+QList<std::pair<QString, QString>> cAccountMap::Mapping() const
+{
+    QList<std::pair<QString, QString>> mapping;
+    for (const auto& [name, account] : m_data.GetSettings()) {
+        const bool isMapping =
+            name.startsWith(settingPrefix, Qt::CaseInsensitive) && name.size() > settingPrefix.size();
+        if (isMapping && Exists(account)) {
+            mapping.append({name.mid(settingPrefix.size()), account});
+        }
+    }
+    return mapping;
+}
+
 QString cAccountMap::OwnAccountOf(const QString& number, const QString& bankCode) const
 {
     if (number.trimmed().isEmpty()) {
@@ -63,15 +76,11 @@ QString cAccountMap::OwnAccountOf(const QString& number, const QString& bankCode
     if (const QString direct = AccountOf(number); !direct.isEmpty()) {
         return direct;
     }
-    for (const auto& [name, account] : m_data.GetSettings()) {
-        const bool isMapping =
-            name.startsWith(settingPrefix, Qt::CaseInsensitive) && name.size() > settingPrefix.size();
-        if (isMapping && modAccountNumber::IsSame(number, bankCode, name.mid(settingPrefix.size()))
-            && Exists(account)) {
-            return account;
-        }
-    }
-    return {};
+    const QList<std::pair<QString, QString>> mapping = Mapping();
+    const auto found = std::find_if(mapping.begin(), mapping.end(), [&](const auto& known) {
+        return modAccountNumber::IsSame(number, bankCode, known.first);
+    });
+    return found == mapping.end() ? QString() : found->second;
 }
 
 QString cAccountMap::Proposal(const QString& number) const

@@ -4,10 +4,12 @@
 #include "model/cImportEntry.h"
 #include "model/cTemplateItem.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+#include <utility>
 
 class cDataAccess;
 class cSettings;
@@ -21,6 +23,9 @@ public:
 
     // Name of the account; empty when the number was never assigned or its account is gone. Never asks.
     [[nodiscard]] QString AccountOf(const QString& number) const;
+
+    // All numbers with the accounts they belong to.
+    [[nodiscard]] QList<std::pair<QString, QString>> Mapping() const;
 
     // The own account that a counterparty's details mean: the number itself, or IBAN and account number of the same
     // account. Empty when it is somebody else's.

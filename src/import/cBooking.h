@@ -12,6 +12,9 @@ class cAccountMap;
 class cDataAccess;
 class cImportHiveCache;
 class cProgress;
+class cSeriesFinder;
+struct cImportEntry;
+struct cSeriesMatch;
 
 // What became of a run of bookings.
 struct cBookingResult
@@ -50,6 +53,16 @@ public:
     [[nodiscard]] bool Unassign(int rowId);
 
 private:
+    enum class eOutcome { Booked, Skipped, NoAccount, Failed };
+
+    [[nodiscard]] eOutcome BookRow(int rowId, cProposal proposal, cSeriesFinder& series, cBookingResult& result);
+    [[nodiscard]] eOutcome BookNew(const cImportEntry& row, const cProposal& proposal, cSeriesFinder& series,
+                                   cBookingResult& result);
+    [[nodiscard]] eOutcome Join(const cImportEntry& row, const cProposal& proposal, const cSeriesMatch& match,
+                                cBookingResult& result);
+    [[nodiscard]] eOutcome JoinTransfer(const cImportEntry& row, int entryId, cBookingResult& result);
+    void AssignPartner(int partnerRow, int entryId, cBookingResult& result);
+
     cDataAccess& m_data;
     cImportHiveCache& m_hive;
     const cAccountMap& m_accounts;

@@ -10,5 +10,6 @@ struct cProposal
     cEntryItem Entry;      // complete but for EntryAccount where the row's account number is not assigned yet
     QString Reason;        // "gelernt aus 5 Buchungen an REWE", "Regel: rewe"; empty for the default
     int PartnerRow = 0;    // the other staged row of a transfer between own accounts; 0 when there is none
-    int ExistingEntry = 0; // the entry in the book that the row belongs to; 0 when a new one is to be made
+    int ExistingEntry = 0; // entry in the book that the row belongs to (its series, or the transfer that waits for its
+                           // second row); 0 when a new one is to be made
 };

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qsizetype wrapWidth = 60; // lines are wrapped at 65 characters; some banks count a little differently
@@ -178,7 +180,7 @@ private:
 modMT940Repair::cRepaired modMT940Repair::Repair(const QString& text)
 {
     const bool hasAtSigns = HasAtSignBreaks(text);
-    const QString broken = hasAtSigns ? QString(text).replace(u"@@", u"\r\n") : text;
+    const QString broken = hasAtSigns ? QString(text).replace(u"@@"_s, u"\r\n"_s) : text;
     cRepair repair(broken);
     if (!repair.Run()) {
         return {broken, {}};

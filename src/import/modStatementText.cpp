@@ -62,9 +62,7 @@ bool IsAscii(const QString& text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
-} // namespace
-
-QString modStatementText::Decode(const QByteArray& bytes)
+QString DecodeBytes(const QByteArray& bytes)
 {
     if (const auto marked = QStringConverter::encodingForData(bytes);
         marked && (*marked == QStringConverter::Utf16LE || *marked == QStringConverter::Utf16BE)) {
@@ -76,6 +74,14 @@ QString modStatementText::Decode(const QByteArray& bytes)
         return *text;
     }
     return FromWindows(content);
+}
+
+} // namespace
+
+QString modStatementText::Decode(const QByteArray& bytes)
+{
+    // The database ends a text at its first NUL; what is staged must be what is read back.
+    return DecodeBytes(bytes).remove(QChar::Null);
 }
 
 QString modStatementText::DecodeField(const QString& text)

@@ -28,8 +28,8 @@ struct cAccountSum
     qint64 Cents = 0;
 };
 
-// Every operation on the database. A failure is shown to the user once, with the operation's name and the database's own
-// words, and returned as false, an empty optional or an empty list; nothing is retried.
+// Every operation on the database. A failure is shown to the user once, with the operation's name and the database's
+// own words, and returned as false, an empty optional or an empty list; nothing is retried.
 class cDataAccess
 {
 public:
@@ -43,8 +43,8 @@ public:
     // Matches stored names that equal the lower-cased old name, and only those.
     [[nodiscard]] bool ChangeEntryAccount(const QString& newName, const QString& oldName);
     [[nodiscard]] bool ChangeEntryCategory(const QString& newPath, const QString& oldPath);
-    // Entries of a period with recurring ones expanded into their corrected occurrences: first one-off entries, then the
-    // series, each in date order.
+    // Entries of a period with recurring ones expanded into their corrected occurrences: first one-off entries, then
+    // the series, each in date order.
     [[nodiscard]] cEntryItemList GetEntries(const cEntryQuery& query);
     [[nodiscard]] std::optional<cEntryItem> LoadEntry(int id);
     [[nodiscard]] cEntryItemList GetEntriesByTarget(const QString& account, const QString& target, const QString& type);
@@ -71,7 +71,7 @@ public:
     [[nodiscard]] bool DeleteEntryModByRelation(int entryId);
 
     // Table `template`
-    [[nodiscard]] bool AddNewTemplate(cTemplateItem& item); // cleans the names, sets item.ID
+    [[nodiscard]] bool AddNewTemplate(cTemplateItem& item);       // cleans the names, sets item.ID
     [[nodiscard]] bool ChangeTemplate(const cTemplateItem& item); // cleans the names
     [[nodiscard]] bool DeleteTemplate(int id);
     [[nodiscard]] cTemplateItemList GetTemplates();
@@ -81,7 +81,7 @@ public:
     [[nodiscard]] std::optional<cTemplateItem> FindAccount(const QString& name);
 
     // Table `import`
-    [[nodiscard]] cImportEntryList GetImportEntries(); // by ID
+    [[nodiscard]] cImportEntryList GetImportEntries();         // by ID
     [[nodiscard]] bool AddNewImportEntry(cImportEntry& entry); // sets entry.ID
     [[nodiscard]] bool ChangeImportEntry(const cImportEntry& entry);
     [[nodiscard]] bool DeleteImport(int id);
@@ -93,7 +93,7 @@ public:
     [[nodiscard]] quint64 ImportVersion();
 
     // Table `account`
-    [[nodiscard]] QList<cOnlineAccount> GetOnlineAccounts(); // newest first
+    [[nodiscard]] QList<cOnlineAccount> GetOnlineAccounts();         // newest first
     [[nodiscard]] bool GetNewOnlineAccount(cOnlineAccount& account); // inserts it and sets account.ID
     [[nodiscard]] bool ChangeOnlineAccount(const cOnlineAccount& account);
     [[nodiscard]] bool DeleteOnlineAccount(int id);
@@ -101,7 +101,7 @@ public:
     [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(const QString& number, const QString& bankCode);
 
     // Table `setting`
-    [[nodiscard]] QList<std::pair<QString, QString>> GetSettings(); // name, value
+    [[nodiscard]] QList<std::pair<QString, QString>> GetSettings();                  // name, value
     [[nodiscard]] bool ChangeSettingItem(const QString& name, const QString& value); // adds it when missing
     [[nodiscard]] bool DeleteSetting(const QString& name);
 

@@ -14,16 +14,16 @@ struct cDatabase::cConnection
 {
     SQLite::Database Handle;
     // Prepared statements that nobody is using at the moment, by their text
-    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle {};
+    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle{};
 };
 
 struct cRows::cState
 {
     cDatabase::cConnection& Connection;
     std::string Sql;
-    std::unique_ptr<SQLite::Statement> Statement {};
+    std::unique_ptr<SQLite::Statement> Statement{};
     // Made once per query: they always read the current row, and making them is dearer than reading
-    std::vector<SQLite::Column> Columns {};
+    std::vector<SQLite::Column> Columns{};
 };
 
 namespace {
@@ -47,7 +47,8 @@ eDatabaseFault FaultOf(int code)
 }
 
 // Runs a call of the driver and turns its exceptions into ours.
-template <typename tCall> auto Translate(tCall call)
+template <typename tCall>
+auto Translate(tCall call)
 {
     try {
         return call();
@@ -74,7 +75,7 @@ void Bind(SQLite::Statement& statement, const cBoundList& values)
         if (const auto* text = std::get_if<QString>(&value)) {
             statement.bind(index, text->toStdString());
         } else if (const auto* number = std::get_if<qint64>(&value)) {
-            statement.bind(index, int64_t {*number});
+            statement.bind(index, int64_t{*number});
         } else {
             statement.bind(index, std::get<double>(value));
         }
@@ -83,6 +84,10 @@ void Bind(SQLite::Statement& statement, const cBoundList& values)
 
 } // namespace
 
+cDatabase::cDatabase(int busyTimeout) : m_busyTimeout(busyTimeout)
+{
+}
+
 cDatabase::~cDatabase() = default;
 
 void cDatabase::Open(const QString& path, eOpenMode mode)
@@ -90,7 +95,7 @@ void cDatabase::Open(const QString& path, eOpenMode mode)
     Close();
     m_connection = Translate([&] {
         return std::unique_ptr<cConnection>(
-            new cConnection {SQLite::Database(path.toStdString(), FlagsOf(mode), m_busyTimeout)});
+            new cConnection{SQLite::Database(path.toStdString(), FlagsOf(mode), m_busyTimeout)});
     });
     m_path = path;
     m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
@@ -107,7 +112,7 @@ void cDatabase::Close() noexcept
 int cDatabase::Execute(const std::string& sql, const cBoundList& values)
 {
     cRows rows(*this, sql, values);
-    while (rows.Next()) { }
+    while (rows.Next()) {}
     return rows.Changes();
 }
 
@@ -197,7 +202,7 @@ cDatabase::cConnection& cDatabase::Connection() const
 }
 
 cRows::cRows(cDatabase& database, const std::string& sql, const cBoundList& values)
-    : m_state(new cState {database.Connection(), sql})
+    : m_state(new cState{database.Connection(), sql})
 {
     auto& idle = m_state->Connection.Idle;
     if (const auto found = idle.find(sql); found != idle.end()) {

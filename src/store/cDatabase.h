@@ -19,7 +19,7 @@ enum class eDatabaseFault { None, Busy, Damaged, ReadOnly, Full, NoAccess, Other
 class cDatabaseError final : public std::runtime_error
 {
 public:
-    cDatabaseError(eDatabaseFault fault, const std::string& text) : std::runtime_error(text), m_fault(fault) { }
+    cDatabaseError(eDatabaseFault fault, const std::string& text) : std::runtime_error(text), m_fault(fault) {}
 
     [[nodiscard]] eDatabaseFault Fault() const noexcept { return m_fault; }
     [[nodiscard]] QString Text() const { return QString::fromUtf8(what()); }
@@ -38,13 +38,13 @@ class cDatabase
 public:
     static constexpr int BusyTimeout = 2000; // milliseconds to wait for a lock of somebody else
 
-    explicit cDatabase(int busyTimeout = BusyTimeout) : m_busyTimeout(busyTimeout) { }
+    explicit cDatabase(int busyTimeout = BusyTimeout);
     cDatabase(const cDatabase&) = delete;
     cDatabase& operator=(const cDatabase&) = delete;
     ~cDatabase();
 
-    // Opens an existing file; only `Create` makes a new one. A file that the system protects against writing is opened for
-    // reading, see IsReadOnly. The content is not looked at yet.
+    // Opens an existing file; only `Create` makes a new one. A file that the system protects against writing is opened
+    // for reading, see IsReadOnly. The content is not looked at yet.
     void Open(const QString& path, eOpenMode mode);
     void Close() noexcept;
 

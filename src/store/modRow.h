@@ -16,8 +16,8 @@ class cRows;
 // From the bytes of a row to the fields of a record, and back.
 namespace modRow {
 
-// Texts of entries and staged rows are stored with every apostrophe doubled, although values are bound: existing files hold
-// them like that and have to read back the same.
+// Texts of entries and staged rows are stored with every apostrophe doubled, although values are bound: existing files
+// hold them like that and have to read back the same.
 [[nodiscard]] QString Doubled(const QString& text);
 [[nodiscard]] QString Undoubled(QString text);
 
@@ -38,7 +38,7 @@ enum class eQuotes { Plain, Doubled };
 class cWordCache
 {
 public:
-    explicit cWordCache(eQuotes quotes) : m_quotes(quotes) { }
+    explicit cWordCache(eQuotes quotes) : m_quotes(quotes) {}
 
     [[nodiscard]] QString Get(std::string_view bytes);
 
@@ -63,15 +63,15 @@ public:
     [[nodiscard]] cEntryItem Read(const cRows& row);
 
 private:
-    cWordCache m_words {eQuotes::Plain};
-    cWordCache m_names {eQuotes::Doubled};
+    cWordCache m_words{eQuotes::Plain};
+    cWordCache m_names{eQuotes::Doubled};
 };
 
 // Reads rows of table `datamod`.
 namespace modFixModRow {
 
-inline constexpr const char* Select
-    = "SELECT ID, EntryRelation, EntryModType, EntryStartDate, EntryEndDate, EntryValue, EntryComment FROM datamod";
+inline constexpr const char* Select =
+    "SELECT ID, EntryRelation, EntryModType, EntryStartDate, EntryEndDate, EntryValue, EntryComment FROM datamod";
 
 [[nodiscard]] cEntryItemFixMod Read(const cRows& row);
 

@@ -49,7 +49,7 @@ public:
 
 private:
     template <typename tQueue>
-    static auto Take(tQueue& queue)
+    static typename tQueue::value_type Take(tQueue& queue)
     {
         auto first = queue.front();
         queue.pop_front();

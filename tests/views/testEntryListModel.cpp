@@ -1,6 +1,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
+#include "support/testFormat.h"
 #include "views/cEntryListModel.h"
 
 #include <QAbstractItemModelTester>
@@ -91,8 +92,8 @@ void testEntryListModel::Sorts()
     QFETCH(int, column);
     QFETCH(int, order);
     QFETCH(QStringList, amounts);
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     model.SetContent(Content(), {}, modWord::KeineGruppierung);
     model.sort(column, static_cast<Qt::SortOrder>(order));
     QCOMPARE(Rows(model), amounts);
@@ -129,8 +130,8 @@ void testEntryListModel::Groups()
 {
     QFETCH(QString, grouping);
     QFETCH(QStringList, groups);
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     model.SetContent(Content(), {}, grouping);
     QCOMPARE(Rows(model), groups);
 }
@@ -154,8 +155,8 @@ void testEntryListModel::Finds()
 {
     QFETCH(QString, filter);
     QFETCH(int, rows);
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     model.SetContent(Content(), filter, modWord::KeineGruppierung);
     QCOMPARE(model.rowCount(), rows);
     QCOMPARE(model.Sums().Count, rows);
@@ -163,8 +164,8 @@ void testEntryListModel::Finds()
 
 void testEntryListModel::FindsRowsAgainAfterRegrouping()
 {
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     model.SetContent(Content(), {}, modWord::KeineGruppierung);
     const cEntryListModel::cKey key{3, QDate(2026, 3, 1)};
     for (const QString& grouping : modWord::Groupings().Stored()) {
@@ -179,8 +180,8 @@ void testEntryListModel::FindsRowsAgainAfterRegrouping()
 
 void testEntryListModel::MarksWhatIsSpecial()
 {
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     model.SetContent(Content(), {}, modWord::KeineGruppierung);
     QVERIFY(model.index(4, 0).data(cEntryListModel::FutureRole).toBool()); // 1 April
     QVERIFY(!model.index(0, 0).data(cEntryListModel::FutureRole).toBool());
@@ -190,8 +191,8 @@ void testEntryListModel::MarksWhatIsSpecial()
 
 void testEntryListModel::TransfersCountWithAnAccount()
 {
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     for (const auto& [account, effect] : {std::pair(u"Girokonto"_s, qint64(-2000)),
                                           std::pair(u"Sparkonto"_s, qint64(2000)), std::pair(QString(), qint64(0))}) {
         cEntryListModel::cContent content;
@@ -200,14 +201,14 @@ void testEntryListModel::TransfersCountWithAnAccount()
         content.StartBalance = 10000;
         model.SetContent(content, {}, modWord::KeineGruppierung);
         QCOMPARE(model.Sums().Total(), effect);
-        QCOMPARE(model.index(0, cEntryListModel::Balance).data().toString(), format.Cents(10000 + effect));
+        QCOMPARE(model.index(0, cEntryListModel::Balance).data().toString(), format.Format.Cents(10000 + effect));
     }
 }
 
 void testEntryListModel::KeepsTheContractOfItemModels()
 {
-    const cAmountFormat format;
-    cEntryListModel model(format);
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     model.SetContent(Content(), {}, u"Nach Monat"_s);
     model.sort(cEntryListModel::Amount, Qt::DescendingOrder);

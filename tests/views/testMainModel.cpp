@@ -98,7 +98,7 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format;
+    cAmountFormat Format {Book.Configuration};
     cFakeNavigator Navigator;
     std::unique_ptr<cMainModel> Model;
     cEntryItem Rent;
@@ -193,7 +193,7 @@ void testMainModel::SumsFollowTheView()
 void testMainModel::NewBookStartsWithCurrentYear()
 {
     cTestBook book;
-    cAmountFormat format;
+    const cAmountFormat format(book.Configuration);
     cFakeNavigator navigator;
     cMainModel model({book.Data, *book.Settings, book.Configuration, format, book.User, book.Clock, book.Shell,
                       navigator, book.Path()});

@@ -10,16 +10,15 @@ namespace {
 
 const QList<cCliOption>& GlobalOptions()
 {
-    static const QList<cCliOption> options {{u"database"_s, u"DATEI"_s, {}},
-                                            {u"profile"_s, u"ORDNER"_s, {}},
-                                            {u"help"_s, {}, {}}};
+    static const QList<cCliOption> options{
+        {u"database"_s, u"DATEI"_s, {}}, {u"profile"_s, u"ORDNER"_s, {}}, {u"help"_s, {}, {}}};
     return options;
 }
 
 const cCliOption* FindIn(const QList<cCliOption>& options, const QString& name)
 {
-    const auto found
-        = std::find_if(options.begin(), options.end(), [&](const cCliOption& option) { return option.Name == name; });
+    const auto found =
+        std::find_if(options.begin(), options.end(), [&](const cCliOption& option) { return option.Name == name; });
     return found == options.end() ? nullptr : &*found;
 }
 
@@ -59,8 +58,9 @@ void cCliCall::TakeOption(const QString& text, QStringList& rest)
     const bool hasValue = text.contains(u'=');
     const cCliOption* option = FindOption(name);
     if (option == nullptr) {
-        m_error = m_command == nullptr ? cText::Tr("Unbekannte Option '--{0}' vor dem Befehl.", {name})
-                                       : cText::Tr("Der Befehl '{0}' kennt die Option '--{1}' nicht.", {m_command->Name, name});
+        m_error = m_command == nullptr
+            ? cText::Tr("Unbekannte Option '--{0}' vor dem Befehl.", {name})
+            : cText::Tr("Der Befehl '{0}' kennt die Option '--{1}' nicht.", {m_command->Name, name});
         return;
     }
     if (option->Value.isEmpty()) {
@@ -85,8 +85,8 @@ void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& comma
         m_wantsHelp = true;
         return;
     }
-    const auto found
-        = std::find_if(commands.begin(), commands.end(), [&](const cCliCommand& command) { return command.Name == text; });
+    const auto found = std::find_if(commands.begin(), commands.end(),
+                                    [&](const cCliCommand& command) { return command.Name == text; });
     if (found == commands.end()) {
         m_error = cText::Tr("Den Befehl '{0}' gibt es nicht.", {text});
         return;

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-class cCliContext;
+struct cCliContext;
 
 // What a command needs of the database.
 enum class eCliAccess { None, Read, Write };
@@ -22,13 +22,13 @@ struct cCliOption
 struct cCliCommand
 {
     QString Name;
-    QString Arguments; // as the help shows them
+    QString Arguments{}; // as the help shows them
     QString Help;
     int MinArguments = 0;
     int MaxArguments = 0;
     eCliAccess Access = eCliAccess::Read;
-    QList<cCliOption> Options;
-    int (*Run)(cCliContext&) = nullptr; // gives the exit code
+    QList<cCliOption> Options{};
+    int (*Run)(const cCliContext&) = nullptr; // gives the exit code
 };
 
 // Exit codes of the program.

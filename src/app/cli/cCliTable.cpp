@@ -31,7 +31,7 @@ QString cCliTable::ToString() const
         widths.append(static_cast<int>(width));
     }
     QString text;
-    for (const QStringList& row : QList<QStringList> {titles} + m_rows) {
+    for (const QStringList& row : QList<QStringList>{titles} + m_rows) {
         QString line;
         for (qsizetype i = 0; i < row.size(); ++i) {
             const bool isRight = m_columns.at(i).Align == eAlign::Right;

@@ -17,7 +17,7 @@ public:
         int Longest = 40; // longer texts are cut and end in an ellipsis
     };
 
-    explicit cCliTable(QList<cColumn> columns) : m_columns(std::move(columns)) { }
+    explicit cCliTable(QList<cColumn> columns) : m_columns(std::move(columns)) {}
 
     // A row with one text for each column.
     void Add(const QStringList& row);

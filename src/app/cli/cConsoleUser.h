@@ -2,8 +2,8 @@
 
 #include "base/cUser.h"
 
-// The command line stands in for the user: messages go to the error output, and nobody can be asked. A question is shown
-// with what to do instead, and answered with the answer that changes nothing.
+// The command line stands in for the user: messages go to the error output, and nobody can be asked. A question is
+// shown with what to do instead, and answered with the answer that changes nothing.
 class cConsoleUser final : public cUser
 {
 public:

@@ -46,7 +46,7 @@ QString modJson::Quoted(const QString& text)
         } else if (c == u'\n') {
             result += u"\\n"_s;
         } else if (c.unicode() < 0x20 || c.unicode() == 0x7f) {
-            result += u"\\u%1"_s.arg(c.unicode(), 4, 16, u'0');
+            result += u"\\u%1"_s.arg(uint{c.unicode()}, 4, 16, QChar(u'0'));
         } else {
             result += c;
         }

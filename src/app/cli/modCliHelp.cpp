@@ -33,10 +33,11 @@ QString modCliHelp::All(const QList<cCliCommand>& commands)
     }
     text += Column(u"hilfe"_s, 10) + cText::Tr("zeigt diese Hilfe; \"hilfe BEFEHL\" zeigt die eines Befehls") + u'\n';
     return text
-        + cText::Tr("\nAllgemein:\n"
-                    "  --database DATEI   die Datenbank; ohne Angabe die, die auch das Fenster öffnet\n"
-                    "  --profile ORDNER   Datenordner und Einstellungen liegen unter diesem Ordner\n\n"
-                    "Ergebnis: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.\n");
+        + cText::Tr(
+               "\nAllgemein:\n"
+               "  --database DATEI   die Datenbank; ohne Angabe die, die auch das Fenster öffnet\n"
+               "  --profile ORDNER   Datenordner und Einstellungen liegen unter diesem Ordner\n\n"
+               "Ergebnis: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.\n");
 }
 
 QString modCliHelp::Of(const cCliCommand& command)

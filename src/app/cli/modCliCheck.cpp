@@ -1,0 +1,28 @@
+#include "app/cli/cCliBook.h"
+#include "app/cli/cConsoleUser.h"
+#include "app/cli/modCliCommands.h"
+#include "base/cText.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+int modCliCommands::Check(const cCliContext& context)
+{
+    cCliBook& book = *context.Book;
+    modConsole::Out(cText::Tr("{0}: gültige Datenbank, {1} Einträge, {2} Umsätze",
+                              {book.File().Path(), QString::number(book.Data.CountEntries()),
+                               QString::number(book.Hive.GetImportHive().Count())})
+                    + u'\n');
+    const QStringList added = book.File().Added();
+    if (!added.isEmpty()) {
+        modConsole::Out(cText::Tr("Beim Öffnen ergänzt: {0}", {added.join(u", "_s)}) + u'\n');
+    }
+    const QStringList problems = book.IntegrityProblems();
+    for (const QString& problem : problems) {
+        modConsole::Error(problem);
+    }
+    modConsole::Out((problems.isEmpty()
+                         ? cText::Tr("Die Datei ist unbeschädigt.")
+                         : cText::Tr("Die Datei ist beschädigt. Bitte spielen Sie eine Datensicherung zurück."))
+                    + u'\n');
+    return problems.isEmpty() ? modExit::Done : modExit::Failed;
+}

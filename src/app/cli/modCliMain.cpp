@@ -1,0 +1,58 @@
+#include "app/cli/modCliMain.h"
+
+#include "app/cli/cCliBook.h"
+#include "app/cli/cConsoleUser.h"
+#include "app/cli/modCliCommands.h"
+#include "app/cli/modCliHelp.h"
+#include "app/cQtRegistry.h"
+#include "app/cQtShell.h"
+#include "app/cSystemClock.h"
+#include "base/cText.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+int ShowHelp(const cCliCall& call)
+{
+    const QList<cCliCommand>& commands = modCliCommands::All();
+    const QString topic = call.Command() != nullptr ? call.Command()->Name : call.Arguments().value(0);
+    const auto command =
+        std::find_if(commands.begin(), commands.end(), [&](const cCliCommand& known) { return known.Name == topic; });
+    if (command == commands.end() && !topic.isEmpty()) {
+        modConsole::Error(cText::Tr("Den Befehl '{0}' gibt es nicht.", {topic}));
+        return modExit::Usage;
+    }
+    modConsole::Out(topic.isEmpty() ? modCliHelp::All(commands) : modCliHelp::Of(*command));
+    return modExit::Done;
+}
+
+} // namespace
+
+int modCliMain::Run(const QStringList& arguments)
+{
+    const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
+    if (!call.Error().isEmpty()) {
+        modConsole::Error(call.Error() + u' ' + cText::Tr("\"kontorelle-cli hilfe\" zeigt alle Befehle."));
+        return modExit::Usage;
+    }
+    if (call.WantsHelp()) {
+        return ShowHelp(call);
+    }
+    const QString profile = call.Value(u"profile"_s);
+    cQtShell shell(profile);
+    cQtRegistry registry(profile);
+    cConsoleUser user;
+    cSystemClock clock;
+    std::unique_ptr<cCliBook> book;
+    if (call.Command()->Access != eCliAccess::None) {
+        book = cCliBook::Open(call.Value(u"database"_s), call.Command()->Access, {shell, registry, user, clock});
+        if (!book) {
+            return modExit::Failed;
+        }
+    }
+    const int code = call.Command()->Run({call, user, clock, shell, book.get()});
+    return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
+}

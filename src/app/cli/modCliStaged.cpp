@@ -1,0 +1,50 @@
+#include "app/cli/cCliBook.h"
+#include "app/cli/cCliTable.h"
+#include "app/cli/cConsoleUser.h"
+#include "app/cli/modCliCommands.h"
+#include "app/cli/modCliRecord.h"
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "base/modDate.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString State(const cImportEntry& row)
+{
+    return row.ImportAssigned ? cText::Tr("gebucht ({0})", {QString::number(row.ImportAssignedEntry)})
+                              : cText::Tr("offen");
+}
+
+} // namespace
+
+int modCliCommands::Staged(const cCliContext& context)
+{
+    cCliBook& book = *context.Book;
+    cImportEntryList rows = book.Hive.GetImportHive().getImportEntryList();
+    if (context.Call.Has(u"open"_s)) {
+        rows.removeIf([](const cImportEntry& row) { return row.ImportAssigned; });
+    }
+    if (context.Call.Has(u"json"_s)) {
+        QStringList objects;
+        for (const cImportEntry& row : rows) {
+            objects.append(modCliRecord::Row(row).ToString());
+        }
+        modConsole::Out(modJson::Array(objects) + u'\n');
+        return modExit::Done;
+    }
+    cCliTable table({{cText::Tr("ID"), eAlign::Right},
+                     {cText::Tr("Datum")},
+                     {cText::Tr("Betrag"), eAlign::Right},
+                     {cText::Tr("Empfänger"), eAlign::Left, 30},
+                     {cText::Tr("Zweck")},
+                     {cText::Tr("Stand")}});
+    for (const cImportEntry& row : rows) {
+        table.Add({QString::number(row.ID), modDate::ToGerman(row.ImportDate),
+                   book.AmountText(modAmount::ToCents(row.ImportValue)), row.ImportBeneficiary, row.ImportPurpose,
+                   State(row)});
+    }
+    modConsole::Out(table.ToString());
+    return modExit::Done;
+}

@@ -1,0 +1,92 @@
+#include "core/cStartUp.h"
+
+#include "base/cClock.h"
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "core/modPassword.h"
+#include "store/modSchema.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+cStartUp::cStartUp(const cPorts& ports, cConfiguration& configuration, QString version)
+    : m_ports(ports),
+      m_configuration(configuration),
+      m_version(std::move(version))
+{
+}
+
+void cStartUp::CheckCurrency()
+{
+    if (m_ports.Shell.CurrencySymbol().trimmed().toUpper() != u"DM") {
+        return;
+    }
+    const eAnswer answer = m_ports.User.Ask(
+        {.Text = cText::Tr("Die eingestellte Währung (Deutsche Mark) ist veraltet.\nMöchten Sie Ihr System "
+                           "auf Euro umstellen?"),
+         .Title = u"Kontorelle"_s});
+    if (answer != eAnswer::Yes) {
+        return;
+    }
+    m_ports.Shell.OpenRegionalSettings();
+    m_ports.User.Show(eTone::Information,
+                      cText::Tr("Die Software muss neu gestartet werden, wenn die Währung umgestellt wurde."));
+}
+
+bool cStartUp::OpenBook(cBook& book, const QString& path)
+{
+    return OpenBook(book, path.isEmpty() ? FindDatabase() : cFound{path});
+}
+
+bool cStartUp::OpenBook(cBook& book, const cFound& found)
+{
+    m_configuration.SetDatabase(nullptr);
+    if (!book.OpenWithQuestions(found.Path, found.IsFresh,
+                                {m_ports.Shell, m_ports.Rescue, m_version, m_ports.Clock.Today()})) {
+        return false;
+    }
+    if (book.Path() != found.Path) {
+        // The user chose another file on the way: the next start begins with it.
+        m_configuration.SaveSetting(u"Database"_s, book.Path(), eSettingPlace::Registry);
+    }
+    m_configuration.SetDatabase(&book.Settings());
+    NoteVersion(book);
+    return true;
+}
+
+bool cStartUp::AskPassword() const
+{
+    return modPassword::Admit(m_configuration, m_ports.Rescue);
+}
+
+cStartUp::cFound cStartUp::FindDatabase() const
+{
+    const bool isThere = m_ports.Shell.FileExists(modSchema::DefaultDatabasePath(m_ports.Shell));
+    const cFound standard{modSchema::GetDefaultDatabase(m_ports.Shell, m_ports.User), !isThere};
+    const QString configured = m_configuration.GetSetting(u"Database"_s);
+    if (!configured.isEmpty() && m_ports.Shell.FileExists(configured)) {
+        return {configured};
+    }
+    if (!configured.isEmpty()) {
+        m_ports.User.Show(
+            eTone::Exclamation,
+            cText::Tr("Die Datenbank '{0}' wurde nicht gefunden. Der Standard-Datenbank-Pfad wird verwendet!",
+                      {configured}));
+    } else if (!m_ports.Shell.FileExists(standard.Path)) {
+        m_ports.User.Show(eTone::Exclamation, cText::Tr("Die Standard-Datenbank konnte nicht gefunden werden!"));
+    }
+    return standard;
+}
+
+void cStartUp::NoteVersion(cBook& book)
+{
+    cSettings& settings = book.Settings();
+    if (settings.Get(u"FirstInstall"_s).isEmpty()) {
+        settings.Set(u"FirstInstall"_s, modDate::ToIso(m_ports.Clock.Today()));
+    }
+    m_isNewVersion = settings.CheckVersion(m_version);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+
+class cBook;
+class cClock;
+class cConfiguration;
+class cRescue;
+class cShell;
+class cUser;
+
+// The order in which the program comes up, as far as it needs no window.
+class cStartUp
+{
+public:
+    struct cPorts
+    {
+        cShell& Shell;
+        cUser& User;
+        cRescue& Rescue;
+        const cClock& Clock;
+    };
+
+    // `version` is "major.minor.revision" of the running program.
+    cStartUp(const cPorts& ports, cConfiguration& configuration, QString version);
+
+    // Offers to leave the German mark behind when the system still has it as currency.
+    void CheckCurrency();
+
+    struct cFound
+    {
+        QString Path;
+        bool IsFresh = false; // just copied from the template
+    };
+
+    // The database of the configuration, else the default one, which is made when it is missing. What is wrong with the
+    // configured path is shown.
+    [[nodiscard]] cFound FindDatabase() const;
+
+    // Opens the database of the configuration, or `path` where one is given, with all questions that this may take, and
+    // connects its settings with the configuration. False when the program has to end; the user knows why.
+    [[nodiscard]] bool OpenBook(cBook& book, const QString& path = {});
+    [[nodiscard]] bool OpenBook(cBook& book, const cFound& found);
+
+    // Asks for the password when that is switched on. False keeps the data closed.
+    [[nodiscard]] bool AskPassword() const;
+
+    // True when another version of the program opened this database last.
+    [[nodiscard]] bool IsNewVersion() const { return m_isNewVersion; }
+
+private:
+    void NoteVersion(cBook& book);
+
+    cPorts m_ports;
+    cConfiguration& m_configuration;
+    QString m_version;
+    bool m_isNewVersion = false;
+};

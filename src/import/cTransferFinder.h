@@ -1,0 +1,52 @@
+#pragma once
+
+#include "model/cImportEntry.h"
+
+#include <QHash>
+#include <QString>
+
+#include <optional>
+#include <utility>
+
+class cAccountMap;
+class cDataAccess;
+class cImportHiveCache;
+
+// Finds transactions between two own accounts, and the row that the other account's statement holds for them.
+class cTransferFinder
+{
+public:
+    struct cTransfer
+    {
+        QString Own;           // account of the row
+        QString Other;         // account of its counterparty
+        int PartnerRow = 0;    // open row with the opposite amount; 0 when there is none
+        int ExistingEntry = 0; // transfer in the book whose second row this is; 0 when there is none
+    };
+
+    cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
+
+    // Empty when the row's counterparty is somebody else.
+    [[nodiscard]] std::optional<cTransfer> Find(const cImportEntry& row);
+
+    // The account of a number as cAccountMap has it.
+    [[nodiscard]] QString AccountOf(const QString& number);
+
+private:
+    [[nodiscard]] QString OwnAccountOf(const QString& number, const QString& bankCode) const;
+    void Build();
+    void FindPartner(const cImportEntry& row, cTransfer& transfer);
+    [[nodiscard]] bool IsPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer);
+    // The entry that `other` was booked to, when it is this transfer and waits for its second row.
+    [[nodiscard]] int HalfTransfer(const cImportEntry& other, const cTransfer& transfer);
+
+    cDataAccess& m_data;
+    cImportHiveCache& m_hive;
+    const cAccountMap& m_accounts;
+    QHash<QString, QString> m_known; // number to account, as asked for
+    QList<std::pair<QString, QString>> m_mapping;
+    bool m_isBuilt = false;
+    cImportEntryList m_rows;
+    QMultiHash<qint64, qsizetype> m_byCents;
+    QHash<int, int> m_partners; // pairs already found, both ways
+};

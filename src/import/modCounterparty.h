@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+struct cImportEntry;
+
+// Keys under which transactions of the same counterparty are found again.
+namespace modCounterparty {
+
+// By IBAN or account number; empty when the row has none.
+[[nodiscard]] QString AccountKey(const cImportEntry& row);
+
+// By name, without regard to case and blanks; empty when the row has none.
+[[nodiscard]] QString NameKey(const cImportEntry& row);
+
+// By account, else by name.
+[[nodiscard]] QString Key(const cImportEntry& row);
+
+} // namespace modCounterparty

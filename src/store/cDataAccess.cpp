@@ -1,0 +1,63 @@
+#include "store/cDataAccess.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "store/cDatabase.h"
+
+cDataAccess::cDataAccess(cDatabase& database, cUser& user) : m_database(database), m_user(user)
+{
+}
+
+bool cDataAccess::IsReadOnly() const
+{
+    return m_database.IsReadOnly();
+}
+
+bool cDataAccess::Try(const char* message, const std::function<void()>& operation)
+{
+    try {
+        operation();
+        return true;
+    } catch (const cDatabaseError& error) {
+        m_user.Show(eTone::Critical, cText::Tr(message, {error.Text()}));
+    } catch (const std::exception& error) {
+        m_user.Show(eTone::Critical, cText::Tr(message, {QString::fromUtf8(error.what())}));
+    }
+    return false;
+}
+
+QList<std::pair<QString, QString>> cDataAccess::GetSettings()
+{
+    QList<std::pair<QString, QString>> settings;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetSettings\n{0}"), [&] {
+        cRows rows(m_database, "SELECT SettingName, SettingValue FROM setting");
+        while (rows.Next()) {
+            settings.emplace_back(rows.Text(0), rows.Text(1));
+        }
+    });
+    return settings;
+}
+
+bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeSettingItem\n{0}"), [&] {
+        bool isKnown = false;
+        {
+            cRows rows(m_database, "SELECT COUNT(*) FROM setting WHERE SettingName=?", {name});
+            isKnown = rows.Next() && rows.Integer(0) > 0;
+        }
+        if (isKnown) {
+            m_database.Execute("UPDATE setting SET SettingValue=?, SettingDefault=? WHERE SettingName = ?",
+                               {value, value, name});
+        } else {
+            m_database.Execute("INSERT INTO setting (SettingName, SettingValue, SettingDefault) VALUES (?, ?, ?)",
+                               {name, value, value});
+        }
+    });
+}
+
+bool cDataAccess::DeleteSetting(const QString& name)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteSetting\n{0}"),
+               [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
+}

@@ -1,0 +1,240 @@
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modRow.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The three columns whose stored text may say the same in another form.
+struct cStoredForm
+{
+    QString EntryDate;
+    QString EntryDateEnd;
+    QString EntryValue;
+};
+
+cStoredForm NewForm(const cEntryItem& entry)
+{
+    return {modDate::ToIso(entry.EntryDate), modDate::ToIso(modRecurrence::EffectiveEnd(entry.EntryDateEnd)),
+            modAmount::CentsToText(std::abs(entry.EntryValue))};
+}
+
+// What reads as the value the entry has stays as it was written, be it in an older form or unreadable.
+cStoredForm KeptForm(cDatabase& database, const cEntryItem& entry)
+{
+    cStoredForm form = NewForm(entry);
+    cRows rows(database, "SELECT EntryDate, EntryDateEnd, EntryValue FROM data WHERE ID = ?", {entry.ID});
+    if (!rows.Next()) {
+        return form;
+    }
+    if (modRow::ReadDate(rows.Bytes(0)) == entry.EntryDate) {
+        form.EntryDate = rows.Text(0);
+    }
+    if (entry.EntryDateEnd.isValid() && modRow::ReadDate(rows.Bytes(1)) == entry.EntryDateEnd) {
+        form.EntryDateEnd = rows.Text(1);
+    }
+    if (modRow::ReadCents(rows.Bytes(2)).value_or(0) == std::abs(entry.EntryValue)) {
+        form.EntryValue = rows.Text(2);
+    }
+    return form;
+}
+
+cBoundList EntryValues(const cEntryItem& entry, const cStoredForm& form)
+{
+    return {form.EntryDate,
+            form.EntryDateEnd,
+            entry.EntryType,
+            entry.EntryInterval,
+            modRow::Doubled(entry.EntryAccount),
+            modRow::Doubled(entry.EntryAccountMove),
+            modRow::Doubled(entry.EntryCategory),
+            form.EntryValue,
+            modRow::Doubled(entry.EntryDescription),
+            entry.EntryFlags};
+}
+
+cEntryItemList ReadEntries(cDatabase& database, const std::string& rest, const cBoundList& values)
+{
+    cEntryItemList entries;
+    cEntryReader reader;
+    cRows rows(database, cEntryReader::Select + rest, values);
+    while (rows.Next()) {
+        entries.append(reader.Read(rows));
+    }
+    return entries;
+}
+
+int Count(cDatabase& database, const std::string& sql, const cBoundList& values)
+{
+    cRows rows(database, sql, values);
+    return rows.Next() ? static_cast<int>(rows.Integer(0)) : 0;
+}
+
+std::optional<cEntryItem> First(const cEntryItemList& entries)
+{
+    return entries.isEmpty() ? std::nullopt : std::optional(entries.first());
+}
+
+} // namespace
+
+bool cDataAccess::AddNewEntry(cEntryItem& entry)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewEntry\n{0}"), [&] {
+        m_database.Execute("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
+                           "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags) "
+                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+                           EntryValues(entry, NewForm(entry)));
+        entry = First(ReadEntries(m_database, " ORDER BY ID DESC LIMIT 1", {})).value_or(entry);
+    });
+}
+
+bool cDataAccess::ChangeEntry(const cEntryItem& entry)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntry\n{0}"), [&] {
+        cBoundList values = EntryValues(entry, KeptForm(m_database, entry));
+        values.emplace_back(entry.ID);
+        m_database.Execute("UPDATE data SET EntryDate=?, EntryDateEnd=?, EntryType=?, EntryInterval=?, EntryAccount=?, "
+                           "EntryAccountMove=?, EntryCategory=?, EntryValue=?, EntryDescription=?, EntryFlags=? "
+                           "WHERE ID = ?",
+                           values);
+    });
+}
+
+bool cDataAccess::DeleteEntry(int id)
+{
+    return ReleaseImports(id) && DeleteEntryModByRelation(id)
+        && Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntry\n{0}"),
+               [&] { m_database.Execute("DELETE FROM data WHERE ID = ?", {id}); });
+}
+
+bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldName)
+{
+    // Lower-casing only one side means that no name with a capital letter is ever matched. Existing books rely on what
+    // this leaves untouched, so it stays; renaming an account moves the remaining entries by itself.
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryAccount\n{0}"), [&] {
+        const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
+        m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=lower(?)", names);
+        m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=lower(?)", names);
+    });
+}
+
+bool cDataAccess::ChangeEntryCategory(const QString& newPath, const QString& oldPath)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryCategory\n{0}"), [&] {
+        m_database.Execute("UPDATE data SET EntryCategory=? WHERE EntryCategory=?",
+                           {modRow::Doubled(newPath), modRow::Doubled(oldPath)});
+    });
+}
+
+std::optional<cEntryItem> cDataAccess::LoadEntry(int id)
+{
+    std::optional<cEntryItem> entry;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: LoadEntry\n{0}"),
+        [&] { entry = First(ReadEntries(m_database, " WHERE ID = ?", {id})); });
+    return entry;
+}
+
+cEntryItemList cDataAccess::GetEntriesByTarget(const QString& account, const QString& target, const QString& type)
+{
+    cEntryItemList entries;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetEntriesByTarget\n{0}"), [&] {
+        entries = ReadEntries(m_database, " WHERE EntryAccount = ? AND EntryAccountMove = ? AND EntryType = ?",
+                              {modRow::Doubled(account), modRow::Doubled(target), type});
+    });
+    return entries;
+}
+
+cEntryItemList cDataAccess::GetEntriesOfAccount(const QString& account)
+{
+    cEntryItemList entries;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetEntriesOfAccount\n{0}"), [&] {
+        const QString stored = modRow::Doubled(account);
+        entries = ReadEntries(m_database, " WHERE EntryAccount = ? OR EntryAccountMove = ?", {stored, stored});
+    });
+    return entries;
+}
+
+int cDataAccess::CountEntries()
+{
+    int count = 0;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountEntries\n{0}"),
+        [&] { count = Count(m_database, "SELECT COUNT(*) FROM data", {}); });
+    return count;
+}
+
+int cDataAccess::CountEntriesOfAccount(const QString& account)
+{
+    int count = 0;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountEntriesOfAccount\n{0}"), [&] {
+        count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryAccount = ?", {modRow::Doubled(account)});
+    });
+    return count;
+}
+
+int cDataAccess::CountEntriesOfCategory(const QString& path)
+{
+    int count = 0;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountEntriesOfCategory\n{0}"), [&] {
+        count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryCategory LIKE ?", {modRow::Doubled(path)});
+    });
+    return count;
+}
+
+QStringList cDataAccess::GetEntryAccounts()
+{
+    QStringList accounts;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetEntryAccounts\n{0}"), [&] {
+        cRows rows(m_database, "SELECT DISTINCT EntryAccount FROM data");
+        while (rows.Next()) {
+            accounts.append(modRow::ReadDoubled(rows.Bytes(0)));
+        }
+    });
+    return accounts;
+}
+
+std::optional<cEntryItem> cDataAccess::GetStartGuthaben(const QString& account)
+{
+    std::optional<cEntryItem> entry;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetStartGuthaben\n{0}"), [&] {
+        entry = First(ReadEntries(
+            m_database, " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",
+            {modRow::Doubled(account), modWord::Startguthaben, modWord::Einmalig}));
+    });
+    return entry;
+}
+
+bool cDataAccess::SetStartGuthaben(const QString& account, qint64 cents, QDate date)
+{
+    cEntryItem entry;
+    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: SetStartGuthaben\n{0}"), [&] {
+        entry =
+            First(ReadEntries(m_database,
+                              " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",
+                              {modRow::Doubled(account), modWord::Startguthaben, modWord::Einmalig}))
+                .value_or(cEntryItem{});
+    });
+    if (!isRead) {
+        return false; // a second start balance would be worse than none
+    }
+    entry.EntryDate = date;
+    entry.EntryType = cents < 0 ? modWord::Ausgabe : modWord::Einnahme;
+    entry.EntryValue = std::abs(cents);
+    if (entry.ID > 0) {
+        return ChangeEntry(entry);
+    }
+    entry.EntryDateEnd = modRecurrence::OpenEnd;
+    entry.EntryInterval = modWord::Einmalig;
+    entry.EntryAccount = account;
+    entry.EntryCategory = modWord::Startguthaben;
+    entry.EntryDescription = u"Startguthaben"_s;
+    return AddNewEntry(entry);
+}

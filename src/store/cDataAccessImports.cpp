@@ -1,0 +1,147 @@
+#include "base/modDate.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modRow.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+// The numbers under which a truth value stands in table `import`
+constexpr int isTrue = -1;
+constexpr int isFalse = 0;
+
+cBoundList ImportValues(const cImportEntry& entry)
+{
+    return {modRow::Doubled(entry.ImportAccount),
+            modDate::ToIso(entry.ImportDate),
+            modRow::Doubled(entry.ImportType),
+            modRow::Doubled(entry.ImportPurpose),
+            modRow::Doubled(entry.ImportBeneficiary),
+            modRow::Doubled(entry.ImportBeneficiaryAccount),
+            modRow::Doubled(entry.ImportBeneficiaryBLZ),
+            entry.ImportValue,
+            modRow::Doubled(entry.ImportCurrency),
+            entry.ImportAssigned ? isTrue : isFalse,
+            entry.ImportAssignedEntry};
+}
+
+cImportEntry ReadImport(const cRows& row, cWordCache& words)
+{
+    return {
+        .ID = static_cast<int>(row.Integer(0)),
+        .ImportAccount = words.Get(row.Bytes(1)),
+        .ImportDate = modRow::ReadDate(row.Bytes(2)),
+        .ImportType = words.Get(row.Bytes(3)),
+        .ImportPurpose = modRow::ReadDoubled(row.Bytes(4)),
+        .ImportBeneficiary = words.Get(row.Bytes(5)),
+        .ImportBeneficiaryAccount = words.Get(row.Bytes(6)),
+        .ImportBeneficiaryBLZ = words.Get(row.Bytes(7)),
+        .ImportValue = row.Real(8),
+        .ImportCurrency = words.Get(row.Bytes(9)),
+        .ImportAssigned = row.Integer(10) != isFalse,
+        .ImportAssignedEntry = row.Bytes(11).empty() ? -1 : static_cast<int>(row.Integer(11)),
+    };
+}
+
+} // namespace
+
+cImportEntryList cDataAccess::GetImportEntries()
+{
+    cImportEntryList entries;
+    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "FEHLER: GetImportEntries\n{0}"), [&] {
+        cWordCache words(eQuotes::Doubled);
+        cRows rows(m_database,
+                   "SELECT ID, ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
+                   "ImportBeneficiaryAccount, ImportBeneficiaryBLZ, ImportValue, ImportCurrency, "
+                   "ImportAssigned, ImportAssignedEntry FROM import ORDER BY ID");
+        while (rows.Next()) {
+            entries.append(ReadImport(rows, words));
+        }
+    });
+    return isRead ? entries : cImportEntryList{};
+}
+
+bool cDataAccess::AddNewImportEntry(cImportEntry& entry)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewImportEntry\n{0}"), [&] {
+        m_database.Execute(
+            "INSERT INTO import (ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
+            "ImportBeneficiaryAccount, ImportBeneficiaryBLZ, ImportValue, ImportCurrency, ImportAssigned, "
+            "ImportAssignedEntry) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+            ImportValues(entry));
+        m_database.NoteImportWrite();
+        entry.ID = static_cast<int>(m_database.LastInsertId());
+    });
+}
+
+bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeImportEntry\n{0}"), [&] {
+        cBoundList values = ImportValues(entry);
+        values.emplace_back(entry.ID);
+        m_database.Execute("UPDATE import SET ImportAccount=?, ImportDate=?, ImportType=?, ImportPurpose=?, "
+                           "ImportBeneficiary=?, ImportBeneficiaryAccount=?, ImportBeneficiaryBLZ=?, ImportValue=?, "
+                           "ImportCurrency=?, ImportAssigned=?, ImportAssignedEntry=? WHERE ID = ?",
+                           values);
+        m_database.NoteImportWrite();
+    });
+}
+
+bool cDataAccess::DeleteImport(int id)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteImport\n{0}"), [&] {
+        m_database.Execute("DELETE FROM import WHERE ID = ?", {id});
+        m_database.NoteImportWrite();
+    });
+}
+
+bool cDataAccess::DeleteAllImports()
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteAllImports\n{0}"), [&] {
+        m_database.Execute("DELETE FROM import");
+        m_database.NoteImportWrite();
+    });
+}
+
+bool cDataAccess::ReleaseImports(int entryId)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ReleaseImports\n{0}"), [&] {
+        m_database.Execute("UPDATE import SET ImportAssigned=?, ImportAssignedEntry=? WHERE ImportAssignedEntry = ?",
+                           {isFalse, -1, entryId});
+        m_database.NoteImportWrite();
+    });
+}
+
+QStringList cDataAccess::GetImportAccounts()
+{
+    QStringList accounts;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetImportAccounts\n{0}"), [&] {
+        cRows rows(m_database, "SELECT DISTINCT ImportAccount FROM import");
+        while (rows.Next()) {
+            accounts.append(modRow::ReadDoubled(rows.Bytes(0)));
+        }
+    });
+    return accounts;
+}
+
+QHash<QString, int> cDataAccess::CountOpenImports()
+{
+    QHash<QString, int> counts;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountOpenImports\n{0}"), [&] {
+        cRows rows(m_database,
+                   "SELECT ImportAccount, COUNT(*) FROM import "
+                   "WHERE IFNULL(CAST(ImportAssigned AS INTEGER), 0) = 0 GROUP BY ImportAccount");
+        while (rows.Next()) {
+            counts[modRow::ReadDoubled(rows.Bytes(0))] += static_cast<int>(rows.Integer(1));
+        }
+    });
+    return counts;
+}
+
+quint64 cDataAccess::ImportVersion()
+{
+    quint64 version = 0;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: ImportVersion\n{0}"), [&] { version = m_database.ImportVersion(); });
+    return version;
+}

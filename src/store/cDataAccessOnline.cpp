@@ -1,0 +1,102 @@
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modAccountColumns.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+// The column names, each followed by `behind`, joined by ", ".
+std::string Columns(const char* behind)
+{
+    std::string text;
+    for (const char* name : modAccountColumns::Names) {
+        text.append(text.empty() ? "" : ", ").append(name).append(behind);
+    }
+    return text;
+}
+
+std::string Placeholders()
+{
+    std::string text = "?";
+    for (int i = 1; i < cOnlineAccount::ColumnCount; ++i) {
+        text += ", ?";
+    }
+    return text;
+}
+
+cBoundList AccountValues(const cOnlineAccount& account)
+{
+    return {account.Values.begin(), account.Values.end()};
+}
+
+QList<cOnlineAccount> ReadAccounts(cDatabase& database, const char* rest, const cBoundList& values)
+{
+    QList<cOnlineAccount> accounts;
+    cRows rows(database, "SELECT ID, " + Columns("") + " FROM account" + rest, values);
+    while (rows.Next()) {
+        cOnlineAccount& account = accounts.emplace_back();
+        account.ID = static_cast<int>(rows.Integer(0));
+        int column = 0;
+        for (QString& value : account.Values) {
+            value = rows.Text(++column);
+        }
+    }
+    return accounts;
+}
+
+std::optional<cOnlineAccount> First(const QList<cOnlineAccount>& accounts)
+{
+    return accounts.isEmpty() ? std::nullopt : std::optional(accounts.first());
+}
+
+} // namespace
+
+QList<cOnlineAccount> cDataAccess::GetOnlineAccounts()
+{
+    QList<cOnlineAccount> accounts;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetOnlineAccounts\n{0}"),
+        [&] { accounts = ReadAccounts(m_database, " ORDER BY ID DESC", {}); });
+    return accounts;
+}
+
+bool cDataAccess::GetNewOnlineAccount(cOnlineAccount& account)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetNewOnlineAccount\n{0}"), [&] {
+        m_database.Execute("INSERT INTO account (" + Columns("") + ") VALUES (" + Placeholders() + ")",
+                           AccountValues(account));
+        account = First(ReadAccounts(m_database, " ORDER BY ID DESC", {})).value_or(account);
+    });
+}
+
+bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeOnlineAccount\n{0}"), [&] {
+        cBoundList values = AccountValues(account);
+        values.emplace_back(account.ID);
+        m_database.Execute("UPDATE account SET " + Columns("=?") + " WHERE ID = ?", values);
+    });
+}
+
+bool cDataAccess::DeleteOnlineAccount(int id)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteOnlineAccount\n{0}"),
+               [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
+}
+
+std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(int id)
+{
+    std::optional<cOnlineAccount> account;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindOnlineAccount\n{0}"),
+        [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
+    return account;
+}
+
+std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(const QString& number, const QString& bankCode)
+{
+    std::optional<cOnlineAccount> account;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindOnlineAccount\n{0}"), [&] {
+        account = First(ReadAccounts(m_database, " WHERE AccountNumber = ? AND AccountBLZ = ?", {number, bankCode}));
+    });
+    return account;
+}

@@ -1,0 +1,248 @@
+#include "base/modDate.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modRow.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+enum class eRepetition { Once, Recurring };
+
+// A WHERE clause that grows condition by condition, with the values for it.
+struct cCondition
+{
+    std::string Sql;
+    cBoundList Values;
+
+    void Add(const char* sql, const cBoundList& values = {})
+    {
+        Sql += sql;
+        Values.insert(Values.end(), values.begin(), values.end());
+    }
+};
+
+void AddPeriod(cCondition& where, const cEntryQuery& query, eRepetition repetition)
+{
+    if (repetition == eRepetition::Once) {
+        where.Add("EntryInterval = 'Einmalig'");
+    } else {
+        where.Add("EntryInterval <> 'Einmalig'");
+    }
+    if (query.Start.isValid() && repetition == eRepetition::Once) {
+        where.Add(" AND date(EntryDate) >= ?", {modDate::ToIso(query.Start)});
+    } else if (query.Start.isValid()) {
+        // An end before 1940, or none at all, stands for a series without end: it ends after every start.
+        where.Add(" AND (date(EntryDateEnd) >= ? OR date(EntryDateEnd) < '1940-01-01' OR date(EntryDateEnd) IS NULL)",
+                  {modDate::ToIso(query.Start)});
+    }
+    if (query.End.isValid()) {
+        where.Add(" AND date(EntryDate) <= ?", {modDate::ToIso(query.End)});
+    }
+}
+
+// Transfers into an account count as its income, transfers out of it as its expense.
+void AddType(cCondition& where, const QString& type, const QString& account)
+{
+    const bool hasAccount = !account.isEmpty();
+    const QString stored = modRow::Doubled(account);
+    if (type == modWord::Einnahmen && hasAccount) {
+        where.Add(" AND ((EntryType = 'Einnahme' AND EntryAccount = ?)"
+                  " OR (EntryType = 'Umbuchung' AND EntryAccountMove = ?))",
+                  {stored, stored});
+    } else if (type == modWord::Einnahmen) {
+        where.Add(" AND EntryType = 'Einnahme'");
+    } else if (type == modWord::Ausgaben && hasAccount) {
+        where.Add(" AND (EntryType = 'Ausgabe' OR EntryType = 'Umbuchung') AND EntryAccount = ?", {stored});
+    } else if (type == modWord::Ausgaben) {
+        where.Add(" AND EntryType = 'Ausgabe'");
+    } else if (type == modWord::Umbuchungen && hasAccount) {
+        where.Add(" AND EntryType = 'Umbuchung' AND (EntryAccount = ? OR EntryAccountMove = ?)", {stored, stored});
+    } else if (type == modWord::Umbuchungen) {
+        where.Add(" AND EntryType = 'Umbuchung'");
+    } else if (hasAccount) {
+        where.Add(" AND (EntryAccount = ? OR (EntryType = 'Umbuchung' AND EntryAccountMove = ?))", {stored, stored});
+    }
+}
+
+void AddCategory(cCondition& where, const QString& category)
+{
+    const QString general = u"; Allgemein"_s;
+    if (category.isEmpty()) {
+        return;
+    }
+    if (category.endsWith(general)) {
+        // The main category itself, without its sub-categories
+        where.Add(" AND EntryCategory LIKE ?", {modRow::Doubled(category.chopped(general.size()))});
+    } else {
+        where.Add(" AND EntryCategory LIKE ?", {QString(modRow::Doubled(category) + u'%')});
+    }
+}
+
+cCondition ConditionOf(const cEntryQuery& query, eRepetition repetition)
+{
+    cCondition where{" WHERE ", {}};
+    AddPeriod(where, query, repetition);
+    AddType(where, query.Type, query.Account);
+    AddCategory(where, query.Category);
+    return where;
+}
+
+// All corrections by the entry they belong to: one query is cheaper than one per series.
+QHash<int, cEntryItemFixModList> ReadFixMods(cDatabase& database)
+{
+    QHash<int, cEntryItemFixModList> fixMods;
+    cRows rows(database, modFixModRow::Select);
+    while (rows.Next()) {
+        const cEntryItemFixMod fixMod = modFixModRow::Read(rows);
+        fixMods[fixMod.EntryRelation].append(fixMod);
+    }
+    return fixMods;
+}
+
+// A series with an unknown interval is a single occurrence; the query for series lets it pass also when it lies before
+// the period.
+bool IsBeforePeriod(const cEntryItem& entry, const cEntryQuery& query)
+{
+    return query.Start.isValid() && entry.EntryDate < query.Start && !modRecurrence::IsRecurring(entry.EntryInterval);
+}
+
+void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+{
+    const cCondition where = ConditionOf(query, eRepetition::Once);
+    cEntryReader reader;
+    cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
+    while (rows.Next()) {
+        entries.append(reader.Read(rows));
+    }
+}
+
+void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+{
+    const cCondition where = ConditionOf(query, eRepetition::Recurring);
+    const modPeriod::cRange period{query.Start, query.End};
+    std::optional<QHash<int, cEntryItemFixModList>> fixMods;
+    cEntryReader reader;
+    cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
+    while (rows.Next()) {
+        const cEntryItem entry = reader.Read(rows);
+        if (IsBeforePeriod(entry, query)) {
+            continue;
+        }
+        if (!fixMods) {
+            fixMods = ReadFixMods(database);
+        }
+        modRecurrence::Expand(entry, period, fixMods->value(entry.ID), entries);
+    }
+}
+
+// Sums by the stored bytes of kind, account and target. There are only a handful of them, so a list that begins with
+// the key found last is faster than a hash.
+class cSums
+{
+public:
+    void Add(std::string_view type, std::string_view account, std::string_view move, qint64 cents)
+    {
+        if (m_last >= m_sums.size() || !m_sums[m_last].Is(type, account, move)) {
+            m_last = Find(type, account, move);
+        }
+        m_sums[m_last].Cents += cents;
+    }
+
+    [[nodiscard]] QList<cAccountSum> Take() const
+    {
+        QList<cAccountSum> sums;
+        for (const cSum& sum : m_sums) {
+            sums.append({QString::fromStdString(sum.Type), modRow::ReadDoubled(sum.Account),
+                         modRow::ReadDoubled(sum.Move), sum.Cents});
+        }
+        return sums;
+    }
+
+private:
+    struct cSum
+    {
+        std::string Type;
+        std::string Account;
+        std::string Move;
+        qint64 Cents = 0;
+
+        [[nodiscard]] bool Is(std::string_view type, std::string_view account, std::string_view move) const
+        {
+            return Account == account && Type == type && Move == move;
+        }
+    };
+
+    size_t Find(std::string_view type, std::string_view account, std::string_view move)
+    {
+        for (size_t i = 0; i < m_sums.size(); ++i) {
+            if (m_sums[i].Is(type, account, move)) {
+                return i;
+            }
+        }
+        m_sums.push_back({std::string(type), std::string(account), std::string(move)});
+        return m_sums.size() - 1;
+    }
+
+    std::vector<cSum> m_sums;
+    size_t m_last = 0;
+};
+
+void SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBalance, cSums& sums)
+{
+    cCondition where = ConditionOf(query, eRepetition::Once);
+    if (!withStartBalance) {
+        where.Add(" AND IFNULL(EntryCategory, '') <> ?", {modWord::Startguthaben});
+    }
+    cRows rows(database, "SELECT EntryType, EntryAccount, EntryAccountMove, EntryValue FROM data" + where.Sql,
+               where.Values);
+    while (rows.Next()) {
+        sums.Add(rows.Bytes(0), rows.Bytes(1), rows.Bytes(2), modRow::ReadCents(rows.Bytes(3)).value_or(0));
+    }
+}
+
+void SumRecurring(cDatabase& database, const cEntryQuery& query, bool withStartBalance, cSums& sums)
+{
+    cEntryItemList occurrences;
+    ReadRecurring(database, query, occurrences);
+    for (const cEntryItem& item : std::as_const(occurrences)) {
+        if (withStartBalance || item.EntryCategory != modWord::Startguthaben) {
+            sums.Add(item.EntryType.toStdString(), modRow::Doubled(item.EntryAccount).toStdString(),
+                     modRow::Doubled(item.EntryAccountMove).toStdString(), item.EntryValue);
+        }
+    }
+}
+
+} // namespace
+
+cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
+{
+    cEntryItemList entries;
+    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetEntries\n{0}"), [&] {
+        if (query.Kind != eBookingKind::Fix) {
+            ReadSingle(m_database, query, entries);
+        }
+        if (query.Kind != eBookingKind::Single) {
+            ReadRecurring(m_database, query, entries);
+        }
+    });
+    return isRead ? entries : cEntryItemList{};
+}
+
+QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStartBalance)
+{
+    cSums sums;
+    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetSums\n{0}"), [&] {
+        if (query.Kind != eBookingKind::Fix) {
+            SumSingle(m_database, query, withStartBalance, sums);
+        }
+        if (query.Kind != eBookingKind::Single) {
+            SumRecurring(m_database, query, withStartBalance, sums);
+        }
+    });
+    return isRead ? sums.Take() : QList<cAccountSum>{};
+}

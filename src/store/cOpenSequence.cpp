@@ -1,0 +1,300 @@
+#include "store/cOpenSequence.h"
+
+#include "base/cRescue.h"
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "store/modSchema.h"
+
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Files that SQLite keeps beside a database. They belong to its content: left behind, they would be played into
+// whatever file comes in its place.
+const QStringList companions{u"-journal"_s, u"-wal"_s, u"-shm"_s};
+
+} // namespace
+
+cOpenSequence::cOpenSequence(cDatabase& database, const cPorts& ports, QString version, QDate today)
+    : m_database(database),
+      m_ports(ports),
+      m_version(std::move(version)),
+      m_today(today)
+{
+}
+
+eOpenResult cOpenSequence::Run(const QString& path, eOrigin origin)
+{
+    m_path = path;
+    m_origin = origin;
+    m_added.clear();
+    if (FindFile() == eStep::End || MakeUsable() == eStep::End) {
+        m_database.Close();
+        return eOpenResult::Ended;
+    }
+    return Prepare();
+}
+
+bool cOpenSequence::Ask(const QString& text) const
+{
+    return m_ports.User.Ask({.Text = text, .Title = {}}) == eAnswer::Yes;
+}
+
+bool cOpenSequence::AskAboutFault(const QString& text) const
+{
+    return m_ports.User.Ask({.Text = text, .Title = cText::Tr("Fehlerhafte Konfiguration!"), .Tone = eTone::Critical})
+        == eAnswer::Yes;
+}
+
+cOpenSequence::eStep cOpenSequence::End(const QString& text) const
+{
+    m_ports.User.Show(eTone::Information, text);
+    return eStep::End;
+}
+
+cOpenSequence::eStep cOpenSequence::EndForNow() const
+{
+    return End(cText::Tr("Die Software wird jetzt beendet. Bitte korrigieren Sie dieses Konfigurationsproblem."));
+}
+
+// Asks for another path until there is a file at it.
+cOpenSequence::eStep cOpenSequence::FindFile()
+{
+    while (!m_ports.Shell.FileExists(m_path)) {
+        if (!AskAboutFault(
+                cText::Tr("Die Datenbank '{0}' wurde nicht gefunden.\nMöchten Sie jetzt einen neuen Datenbankpfad "
+                          "wählen?",
+                          {m_path}))) {
+            return EndForNow();
+        }
+        m_path = m_ports.Rescue.ChooseDatabase(m_path).value_or(m_path);
+        m_origin = eOrigin::Existing;
+    }
+    return eStep::Continue;
+}
+
+cOpenSequence::eStep cOpenSequence::MakeUsable()
+{
+    eDatabaseFault fault = OpenPatiently();
+    while (fault == eDatabaseFault::NoAccess || fault == eDatabaseFault::ReadOnly) {
+        if (OfferOtherPath() == eStep::End) {
+            return eStep::End;
+        }
+        fault = OpenPatiently();
+    }
+    if (fault == eDatabaseFault::Damaged) {
+        Repair();
+        fault = OpenPatiently();
+    }
+    if (fault == eDatabaseFault::None) {
+        return eStep::Continue;
+    }
+    if (fault == eDatabaseFault::Busy) {
+        return EndForNow();
+    }
+    return End(
+        cText::Tr("Die Konfiguration ist fehlerhaft oder Ihre Datenbank wurde beschädigt. Die Software wird jetzt "
+                  "beendet.\nBitte korrigieren Sie dieses Konfigurationsproblem."));
+}
+
+// A file that somebody else holds is not damaged: it is opened as soon as it is free.
+eDatabaseFault cOpenSequence::OpenPatiently()
+{
+    while (true) {
+        const eDatabaseFault fault = modSchema::OpenValid(m_database, m_path, eOpenMode::ReadWrite);
+        if (fault != eDatabaseFault::Busy
+            || !Ask(
+                cText::Tr("Die Datenbank '{0}' wird gerade von einem anderen Programm benutzt.\nMöchten Sie es noch "
+                          "einmal versuchen?",
+                          {m_path}))) {
+            return fault;
+        }
+    }
+}
+
+cOpenSequence::eStep cOpenSequence::OfferOtherPath()
+{
+    m_ports.User.Show(
+        eTone::Critical,
+        cText::Tr("Die Datenbank '{0}' kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte.", {m_path}));
+    if (!Ask(cText::Tr("Möchten Sie jetzt den Datenbankpfad ändern?"))) {
+        return EndForNow();
+    }
+    const std::optional<QString> chosen = m_ports.Rescue.ChooseDatabase(m_path);
+    if (!chosen) {
+        return EndForNow();
+    }
+    m_path = *chosen;
+    m_origin = eOrigin::Existing;
+    return FindFile();
+}
+
+void cOpenSequence::Repair()
+{
+    if (AskAboutFault(
+            cText::Tr("Die Datenbank '{0}' ist beschädigt oder keine gültige Datenbank. Bitte laden Sie eine "
+                      "Datenbanksicherung oder ändern Sie den Datenbankpfad. Möchten Sie jetzt eine Datensicherung "
+                      "zurück spielen?",
+                      {m_path}))) {
+        RestoreBackup();
+    } else if (Ask(cText::Tr("Möchten Sie jetzt den Datenbankpfad ändern?"))) {
+        m_path = m_ports.Rescue.ChooseDatabase(m_path).value_or(m_path);
+    } else if (Ask(cText::Tr("Möchten Sie die beschädigte Datenbank löschen und neu initialisieren?"))) {
+        Initialise();
+    }
+}
+
+// Lets the user choose until the backup is a usable database; nothing is replaced before.
+void cOpenSequence::RestoreBackup()
+{
+    const QString folder = QFileInfo(m_path).absolutePath();
+    while (const std::optional<QString> backup = m_ports.Rescue.ChooseBackup(folder)) {
+        cDatabase probe;
+        if (modSchema::OpenValid(probe, *backup, eOpenMode::ReadOnly) == eDatabaseFault::None) {
+            probe.Close();
+            (void)ReplaceFile(*backup);
+            return;
+        }
+        m_ports.User.Show(
+            eTone::Exclamation,
+            cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {*backup}));
+    }
+}
+
+void cOpenSequence::Initialise()
+{
+    const QString source = m_ports.Shell.InstalledFile(u"template.dat"_s);
+    if (!m_ports.Shell.FileExists(source)) {
+        m_ports.User.Show(
+            eTone::Critical,
+            cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie "
+                      "Datei 'template.dat' konnte nicht gefunden werden!"));
+        return;
+    }
+    if (ReplaceFile(source)) {
+        m_origin = eOrigin::Fresh;
+    }
+}
+
+// Puts a copy of `source` in the place of the damaged file, which stays beside it under another name.
+bool cOpenSequence::ReplaceFile(const QString& source)
+{
+    const QString kept = KeepAside();
+    if (!kept.isEmpty() && m_ports.Shell.CopyFile(source, m_path)) {
+        m_ports.User.Show(eTone::Information, cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {kept}));
+        return true;
+    }
+    if (!kept.isEmpty() && !m_ports.Shell.FileExists(m_path)) {
+        (void)m_ports.Shell.RenameFile(kept, m_path);
+    }
+    m_ports.User.Show(
+        eTone::Critical,
+        cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
+                  "Speicherplatz: \n{0}",
+                  {QFileInfo(m_path).absolutePath()}));
+    return false;
+}
+
+// Renames the file and what SQLite keeps beside it; the new name, empty on failure.
+QString cOpenSequence::KeepAside()
+{
+    m_database.Close();
+    const QString kept = FreeName(u"beschaedigt"_s);
+    if (!m_ports.Shell.RenameFile(m_path, kept)) {
+        return {};
+    }
+    for (const QString& ending : companions) {
+        if (m_ports.Shell.FileExists(m_path + ending)) {
+            (void)m_ports.Shell.RenameFile(m_path + ending, kept + ending);
+        }
+    }
+    return kept;
+}
+
+// The valid database is open: makes it current, or settles for reading.
+eOpenResult cOpenSequence::Prepare()
+{
+    eDatabaseFault fault = m_database.ProbeWrite();
+    while (fault == eDatabaseFault::Busy
+           && Ask(cText::Tr(
+               "Die Datenbank '{0}' wird gerade von einem anderen Programm benutzt.\nMöchten Sie es noch einmal "
+               "versuchen?",
+               {m_path}))) {
+        fault = m_database.ProbeWrite();
+    }
+    if (fault == eDatabaseFault::Busy) {
+        return AskForReading();
+    }
+    if (fault == eDatabaseFault::ReadOnly) {
+        return OpenForReading(
+            cText::Tr("Die Datenbank '{0}' kann nur gelesen werden. Änderungen werden nicht gespeichert.", {m_path}));
+    }
+    if (const QString problem = CopyBeforeUpgrade(); !problem.isEmpty()) {
+        return OpenForReading(cText::Tr("Die Datenbank '{0}' kann nur gelesen werden, weil vor ihrer Umstellung keine "
+                                        "Sicherungskopie angelegt werden konnte:\n{1}",
+                                        {m_path, problem}));
+    }
+    m_added = modSchema::Upgrade(m_database);
+    if (const QStringList missing = modSchema::Missing(m_database); !missing.isEmpty()) {
+        return OpenForReading(cText::Tr("Die Datenbank '{0}' kann nur gelesen werden, weil sie nicht umgestellt werden "
+                                        "konnte. Bitte prüfen Sie den Speicherplatz.\nEs fehlt: {1}",
+                                        {m_path, missing.join(u", "_s)}));
+    }
+    return eOpenResult::Opened;
+}
+
+eOpenResult cOpenSequence::AskForReading()
+{
+    if (Ask(cText::Tr("Möchten Sie die Datenbank nur zum Lesen öffnen?"))) {
+        return OpenForReading({});
+    }
+    m_database.Close();
+    (void)EndForNow();
+    return eOpenResult::Ended;
+}
+
+eOpenResult cOpenSequence::OpenForReading(const QString& message)
+{
+    if (!message.isEmpty()) {
+        m_ports.User.Show(eTone::Exclamation, message);
+    }
+    const eDatabaseFault fault = modSchema::OpenValid(m_database, m_path, eOpenMode::ReadOnly);
+    if (fault == eDatabaseFault::None && modSchema::StandIn(m_database)) {
+        return eOpenResult::OpenedReadOnly;
+    }
+    m_database.Close();
+    m_ports.User.Show(
+        eTone::Critical,
+        cText::Tr("Die Datenbank '{0}' kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte.", {m_path}));
+    (void)EndForNow();
+    return eOpenResult::Ended;
+}
+
+// Keeps a copy of a database that this version of the program has not opened before. What went wrong, or empty.
+QString cOpenSequence::CopyBeforeUpgrade()
+{
+    if (m_origin == eOrigin::Fresh || modSchema::LastVersion(m_database) == m_version) {
+        return {};
+    }
+    try {
+        m_database.BackupTo(FreeName(u"backup"_s));
+        return {};
+    } catch (const cDatabaseError& error) {
+        return error.Text();
+    }
+}
+
+// "<database>.<day>.<ending>", with a number when that name is taken.
+QString cOpenSequence::FreeName(const QString& ending) const
+{
+    const QString start = m_path + u'.' + modDate::ToIso(m_today);
+    QString name = start + u'.' + ending;
+    for (int number = 2; m_ports.Shell.FileExists(name); ++number) {
+        name = start + u'-' + QString::number(number) + u'.' + ending;
+    }
+    return name;
+}

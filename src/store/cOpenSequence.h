@@ -1,0 +1,73 @@
+#pragma once
+
+#include "store/cDatabase.h"
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+class cRescue;
+class cShell;
+class cUser;
+
+enum class eOpenResult { Opened, OpenedReadOnly, Ended };
+
+// Whether a file has just been copied from the template and holds nothing that could be lost.
+enum class eOrigin { Existing, Fresh };
+
+// Everything that happens between a path and an open, current database, with all questions to the user. Nothing is
+// deleted: what is replaced stays beside the database under another name.
+class cOpenSequence
+{
+public:
+    struct cPorts
+    {
+        cShell& Shell;
+        cUser& User;
+        cRescue& Rescue;
+    };
+
+    // `version` is the running program's; `today` dates the copies.
+    cOpenSequence(cDatabase& database, const cPorts& ports, QString version, QDate today);
+
+    // Opens the file, or another one that the user chooses on the way. After `Ended` the reason has been shown, no
+    // database is open and the program has nothing left to do.
+    [[nodiscard]] eOpenResult Run(const QString& path, eOrigin origin = eOrigin::Existing);
+
+    // The file that was opened in the end.
+    [[nodiscard]] const QString& Path() const { return m_path; }
+    // What the upgrade added, in words for the user.
+    [[nodiscard]] const QStringList& Added() const { return m_added; }
+
+private:
+    enum class eStep { Continue, End };
+
+    [[nodiscard]] bool Ask(const QString& text) const;
+    [[nodiscard]] bool AskAboutFault(const QString& text) const;
+    [[nodiscard]] eStep End(const QString& text) const;
+    [[nodiscard]] eStep EndForNow() const;
+
+    [[nodiscard]] eStep FindFile();
+    [[nodiscard]] eStep MakeUsable();
+    [[nodiscard]] eDatabaseFault OpenPatiently();
+    [[nodiscard]] eStep OfferOtherPath();
+    void Repair();
+    void RestoreBackup();
+    void Initialise();
+    [[nodiscard]] bool ReplaceFile(const QString& source);
+    [[nodiscard]] QString KeepAside();
+
+    [[nodiscard]] eOpenResult Prepare();
+    [[nodiscard]] eOpenResult AskForReading();
+    [[nodiscard]] eOpenResult OpenForReading(const QString& message);
+    [[nodiscard]] QString CopyBeforeUpgrade();
+    [[nodiscard]] QString FreeName(const QString& ending) const;
+
+    cDatabase& m_database;
+    cPorts m_ports;
+    QString m_version;
+    QDate m_today;
+    QString m_path;
+    eOrigin m_origin = eOrigin::Existing;
+    QStringList m_added;
+};

@@ -1,0 +1,301 @@
+#include "store/modSchema.h"
+
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "model/modWord.h"
+#include "store/modAccountColumns.h"
+#include "store/modRow.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cTable
+{
+    const char* Name;
+    std::string Columns; // as in its CREATE statement
+};
+
+// The tables that do not come with the template.
+std::vector<cTable> OwnTables()
+{
+    std::string account = "ID INTEGER PRIMARY KEY";
+    for (const char* name : std::span(modAccountColumns::Names).first<modAccountColumns::CreatedCount>()) {
+        account.append(", ").append(name).append(" TEXT");
+    }
+    return {
+        {"account", account},
+        {"setting", "ID INTEGER PRIMARY KEY, SettingName TEXT UNIQUE, SettingValue TEXT, SettingDefault TEXT"},
+        {"datamod",
+         "ID INTEGER PRIMARY KEY, EntryRelation NUMERIC, EntryModType TEXT, EntryStartDate TEXT, "
+         "EntryEndDate TEXT, EntryValue TEXT, EntryComment TEXT"},
+    };
+}
+
+struct cColumn
+{
+    const char* Table;
+    const char* Name;
+};
+
+// The columns that older files lack.
+std::vector<cColumn> AddedColumns()
+{
+    std::vector<cColumn> columns{{"data", "EntryFlags"}};
+    for (const char* name : std::span(modAccountColumns::Names).subspan<modAccountColumns::CreatedCount>()) {
+        columns.push_back({"account", name});
+    }
+    return columns;
+}
+
+constexpr std::array<cColumn, 4> indexes{
+    {{"import", "importID"}, {"data", "dataID"}, {"template", "templateID"}, {"import", "importAssignedID"}}};
+
+// Old files hold list positions instead of words. Their list of intervals had no "Alle 4 Wochen", and the filter words
+// among them are what the user saw at those positions.
+constexpr std::array typeWords{"Alle Buchungsarten", "Einnahme", "Ausgabe", "Umbuchung"};
+constexpr std::array intervalWords{"Alle",          "Einmalig",      "Alle Intervalle", "Täglich",
+                                   "Wöchentlich",   "Alle 2 Wochen", "Monatlich",       "Alle 2 Monate",
+                                   "Alle 3 Monate", "Alle 6 Monate", "Jährlich"};
+
+void ConvertCodes(cDatabase& database, const std::string& column, std::span<const char* const> words)
+{
+    const std::string sql =
+        "UPDATE template SET " + column + " = ? WHERE TemplateType = 'Kategorie' AND " + column + " = ?";
+    int code = 0;
+    for (const char* word : words) {
+        database.TryExecute(sql, {QString::fromUtf8(word), QString::number(code)});
+        ++code;
+    }
+}
+
+bool Exists(cDatabase& database, const char* kind, const char* name)
+{
+    cRows rows(database, "SELECT COUNT(*) FROM main.sqlite_master WHERE type = ? AND name = ? COLLATE NOCASE",
+               {QString::fromUtf8(kind), QString::fromUtf8(name)});
+    return rows.Next() && rows.Integer(0) > 0;
+}
+
+bool HasColumn(cDatabase& database, const cColumn& column)
+{
+    cRows rows(database, "SELECT COUNT(*) FROM pragma_table_info(?, 'main') WHERE name = ? COLLATE NOCASE",
+               {QString::fromUtf8(column.Table), QString::fromUtf8(column.Name)});
+    return rows.Next() && rows.Integer(0) > 0;
+}
+
+// Tables and columns that belong to a current database and are not there.
+QStringList AbsentParts(cDatabase& database)
+{
+    QStringList parts;
+    for (const cTable& table : OwnTables()) {
+        if (!Exists(database, "table", table.Name)) {
+            parts.append(cText::Tr("Tabelle {0}", {QString::fromUtf8(table.Name)}));
+        }
+    }
+    for (const cColumn& column : AddedColumns()) {
+        if (!HasColumn(database, column)) {
+            parts.append(
+                cText::Tr("Spalte {0}.{1}", {QString::fromUtf8(column.Table), QString::fromUtf8(column.Name)}));
+        }
+    }
+    return parts;
+}
+
+QStringList AbsentIndexes(cDatabase& database)
+{
+    QStringList parts;
+    for (const cColumn& index : indexes) {
+        if (!Exists(database, "index", index.Name)) {
+            parts.append(cText::Tr("Index {0}", {QString::fromUtf8(index.Name)}));
+        }
+    }
+    return parts;
+}
+
+QStringList Absent(cDatabase& database)
+{
+    try {
+        return AbsentParts(database) + AbsentIndexes(database);
+    } catch (const cDatabaseError&) {
+        return {};
+    }
+}
+
+// The first account's name as entries hold it; empty when there is none.
+QString FirstAccount(cDatabase& database)
+{
+    try {
+        cRows rows(database, "SELECT TemplateName FROM template WHERE TemplateType = 'Konto' LIMIT 1");
+        return rows.Next() ? modRow::Doubled(rows.Text(0)) : QString{};
+    } catch (const cDatabaseError&) {
+        return {};
+    }
+}
+
+void CompleteAccounts(cDatabase& database)
+{
+    const QString account = FirstAccount(database);
+    database.TryExecute("UPDATE data SET EntryAccount = ? WHERE EntryAccount = ''", {account});
+    // The AND between the conditions is missing, so SQLite refuses this and transfers without a target stay as they
+    // are. That is on purpose: guessing the target would turn money round that the user has to look at.
+    database.TryExecute("UPDATE data SET EntryAccountMove = ? WHERE EntryType = 'Umbuchung' EntryAccountMove = ''",
+                        {account});
+}
+
+void AddTablesAndColumns(cDatabase& database)
+{
+    for (const cTable& table : OwnTables()) {
+        database.TryExecute(std::string("CREATE TABLE ") + table.Name + " (" + table.Columns + ")");
+    }
+    for (const cColumn& column : AddedColumns()) {
+        database.TryExecute(std::string("ALTER TABLE ") + column.Table + " ADD " + column.Name + " TEXT");
+    }
+}
+
+void CreateIndexes(cDatabase& database)
+{
+    for (const cColumn& index : indexes) {
+        const char* column = std::string_view(index.Name) == "importAssignedID" ? "ImportAssignedEntry" : "ID";
+        database.TryExecute(std::string("CREATE INDEX '") + index.Name + "' ON '" + index.Table + "' (" + column + ")");
+    }
+}
+
+// A temporary view that shows a table with empty columns in place of the missing ones.
+void ShowWithColumns(cDatabase& database, const char* table)
+{
+    std::string missing;
+    for (const cColumn& column : AddedColumns()) {
+        if (std::string_view(column.Table) == table && !HasColumn(database, column)) {
+            missing.append(", '' AS ").append(column.Name);
+        }
+    }
+    if (!missing.empty()) {
+        database.Execute(std::string("CREATE TEMP VIEW ") + table + " AS SELECT *" + missing + " FROM main." + table);
+    }
+}
+
+void PutStandIns(cDatabase& database)
+{
+    for (const cTable& table : OwnTables()) {
+        if (!Exists(database, "table", table.Name)) {
+            database.Execute(std::string("CREATE TEMP TABLE ") + table.Name + " (" + table.Columns + ")");
+        }
+    }
+    if (!Exists(database, "table", "account")) {
+        for (const cColumn& column : AddedColumns()) {
+            if (std::string_view(column.Table) == "account") {
+                database.Execute(std::string("ALTER TABLE temp.account ADD ") + column.Name + " TEXT");
+            }
+        }
+    } else {
+        ShowWithColumns(database, "account");
+    }
+    ShowWithColumns(database, "data");
+}
+
+} // namespace
+
+QString modSchema::JoinPath(const QString& folder, const QString& name)
+{
+    const bool isClosed = folder.endsWith(u'/') || folder.endsWith(u'\\');
+    return (isClosed ? folder : QString(folder + u'/')) + name;
+}
+
+QString modSchema::DefaultDatabasePath(cShell& shell)
+{
+    return JoinPath(shell.DataFolder(), u"data.db"_s);
+}
+
+QString modSchema::GetDefaultDatabase(cShell& shell, cUser& user)
+{
+    const QString folder = shell.DataFolder();
+    if (folder.isEmpty()) {
+        user.Show(eTone::Critical,
+                  cText::Tr("FEHLER: GetDefaultDatabase\n {0}",
+                            {cText::Tr("Der Datenordner konnte nicht angelegt werden.")}));
+        return {};
+    }
+    const QString path = JoinPath(folder, u"data.db"_s);
+    if (shell.FileExists(path)) {
+        return path;
+    }
+    const QString source = shell.InstalledFile(u"template.dat"_s);
+    if (!shell.FileExists(source)) {
+        user.Show(
+            eTone::Critical,
+            cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie Datei "
+                      "'template.dat' konnte nicht gefunden werden!"));
+        return path;
+    }
+    if (!shell.CopyFile(source, path) && !shell.FileExists(path)) {
+        user.Show(eTone::Critical,
+                  cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
+                            "Speicherplatz: \n{0}",
+                            {folder}));
+    }
+    return path;
+}
+
+eDatabaseFault modSchema::OpenValid(cDatabase& database, const QString& path, eOpenMode mode)
+{
+    try {
+        database.Open(path, mode);
+        database.Execute("SELECT COUNT(*) FROM data LIMIT 1");
+        return eDatabaseFault::None;
+    } catch (const cDatabaseError& error) {
+        database.Close();
+        const bool isReachable = error.Fault() == eDatabaseFault::Other || error.Fault() == eDatabaseFault::Full;
+        return isReachable ? eDatabaseFault::Damaged : error.Fault();
+    }
+}
+
+QStringList modSchema::Upgrade(cDatabase& database)
+{
+    const QStringList before = Absent(database);
+    database.TryExecute("PRAGMA synchronous=OFF");
+    database.TryExecute("PRAGMA auto_vacuum=2");
+    AddTablesAndColumns(database);
+    ConvertCodes(database, "EntryType", typeWords);
+    ConvertCodes(database, "EntryInterval", intervalWords);
+    CompleteAccounts(database);
+    CreateIndexes(database);
+    const QStringList after = Absent(database);
+    QStringList added;
+    std::copy_if(before.begin(), before.end(), std::back_inserter(added),
+                 [&](const QString& part) { return !after.contains(part); });
+    return added;
+}
+
+QStringList modSchema::Missing(cDatabase& database)
+{
+    try {
+        return AbsentParts(database);
+    } catch (const cDatabaseError&) {
+        return {};
+    }
+}
+
+bool modSchema::StandIn(cDatabase& database)
+{
+    try {
+        PutStandIns(database);
+        return true;
+    } catch (const cDatabaseError&) {
+        return false;
+    }
+}
+
+QString modSchema::LastVersion(cDatabase& database)
+{
+    try {
+        cRows rows(database, "SELECT SettingValue FROM setting WHERE SettingName = 'LastVersion'");
+        return rows.Next() ? rows.Text(0) : QString{};
+    } catch (const cDatabaseError&) {
+        return {};
+    }
+}

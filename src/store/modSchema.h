@@ -1,0 +1,42 @@
+#pragma once
+
+#include "store/cDatabase.h"
+
+#include <QString>
+#include <QStringList>
+
+class cShell;
+class cUser;
+
+// The tables of a database: where they come from and how an older file gets those of today.
+namespace modSchema {
+
+// The default database file. Where it is missing it is copied from the template; what goes wrong is shown, and the path
+// is returned all the same.
+[[nodiscard]] QString GetDefaultDatabase(cShell& shell, cUser& user);
+
+// The same path without making the file.
+[[nodiscard]] QString DefaultDatabasePath(cShell& shell);
+
+// Opens a file and looks whether it is a usable database. None when it is, and the connection stays open; any other
+// fault leaves the connection closed. `Damaged` means that the content is no database of this program.
+[[nodiscard]] eDatabaseFault OpenValid(cDatabase& database, const QString& path, eOpenMode mode);
+
+// Brings the open database to the tables of today. Runs on every opening and changes nothing on a current file; what a
+// statement has against it is ignored. Returns what was added, in words for the user.
+QStringList Upgrade(cDatabase& database);
+
+// Tables and columns that the program needs and the database does not have, in words for the user.
+[[nodiscard]] QStringList Missing(cDatabase& database);
+
+// Lets queries work on a database that must not be upgraded: temporary tables and views take the place of what is
+// missing. False when the file cannot be read after all.
+[[nodiscard]] bool StandIn(cDatabase& database);
+
+// The version of the program that last opened the database; empty when it does not say.
+[[nodiscard]] QString LastVersion(cDatabase& database);
+
+// Puts exactly one separator between a folder and a name.
+[[nodiscard]] QString JoinPath(const QString& folder, const QString& name);
+
+} // namespace modSchema

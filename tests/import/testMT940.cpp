@@ -1,0 +1,189 @@
+#include "import/modMT940.h"
+#include "import/modSepaPurpose.h"
+#include "import/modStatementText.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Fixture()
+{
+    QFile file(QStringLiteral(TEST_DATA "/mt940/giro.sta"));
+    return file.open(QIODevice::ReadOnly) ? modStatementText::Decode(file.readAll()) : QString();
+}
+
+// A statement of one transaction.
+QString With(const QString& transaction, const QString& details)
+{
+    return u":20:A\r\n:25:10020030/0001234567\r\n:60F:C260101EUR1,00\r\n:61:"_s + transaction + u"\r\n:86:" + details
+        + u"\r\n:62F:C260131EUR0001234,5\r\n-\r\n";
+}
+
+cImportEntry Single(const QString& text)
+{
+    return modMT940::Read(text, u"4711"_s).Entries.value(0);
+}
+
+} // namespace
+
+class testMT940 : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsTransactionLine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("mark");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("typeCode");
+        QTest::addColumn<QString>("reference");
+        QTest::addColumn<double>("value");
+        QTest::newRow("entry date and mark") << u"0902270227DR0,96NMSCNONREF"_s << u"DR"_s << u"0,96"_s << u"NMSC"_s
+                                             << u"NONREF"_s << -0.96;
+        QTest::newRow("no entry date") << u"200219C65,00NMSC"_s << u"C"_s << u"65,00"_s << u"NMSC"_s << QString() << 65.0;
+        QTest::newRow("cancelled debit counts as debit")
+            << u"2002010219RDR1027,25N068A//B"_s << u"RD"_s << u"1027,25"_s << u"N068"_s << u"A"_s << -1027.25;
+        QTest::newRow("cancelled credit counts as credit")
+            << u"200201RC5,00N068"_s << u"RC"_s << u"5,00"_s << u"N068"_s << QString() << 5.0;
+        QTest::newRow("funds code") << u"1710111011DF2402,00S   X"_s << u"D"_s << u"2402,00"_s << u"S   "_s << u"X"_s
+                                    << -2402.0;
+        QTest::newRow("whole amount") << u"1105240524D1234,N192"_s << u"D"_s << u"1234,00"_s << u"N192"_s << QString()
+                                      << -1234.0;
+        QTest::newRow("one decimal place") << u"131017D620,3NSTON"_s << u"D"_s << u"620,30"_s << u"NSTO"_s << u"N"_s
+                                           << -620.3;
+        QTest::newRow("small letters") << u"200219d7,50NMSC"_s << u"d"_s << u"7,50"_s << u"NMSC"_s << QString() << -7.5;
+    }
+
+    void readsTransactionLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(double, value);
+        const modMT940::cTransaction transaction
+            = modMT940::Parse(With(line, u"x"_s)).Statements.value(0).Transactions.value(0);
+        QTEST(transaction.Mark, "mark");
+        QTEST(transaction.Amount, "amount");
+        QTEST(transaction.TypeCode, "typeCode");
+        QTEST(transaction.CustomerReference, "reference");
+        QCOMPARE(Single(With(line, u"x"_s)).ImportValue, value);
+    }
+
+    void readsDetails()
+    {
+        const cImportEntry entry = Single(With(u"2601020103DR5,00N005NONREF"_s,
+                                               u"106?00123KARTE?109250?20EREF+1?21REFERENZ NOTPROVIDED?22SVWZ+Br\r\not?"
+                                               "30HOHEDE01?31DE02?32Bäckerei?33Krume?34011?60Rest?xyz"_s));
+        QCOMPARE(entry.ImportAccount, u"1234567"_s);
+        QCOMPARE(entry.ImportDate, QDate(2026, 1, 2));
+        QCOMPARE(entry.ImportType, u"KARTE z"_s); // a piece without number counts as booking text
+        QCOMPARE(entry.ImportPurpose, u"Brot"_s);
+        QCOMPARE(entry.ImportBeneficiary, u"Bäckerei Krume"_s);
+        QCOMPARE(entry.ImportBeneficiaryAccount, u"DE02"_s);
+        QCOMPARE(entry.ImportBeneficiaryBLZ, u"HOHEDE01"_s);
+        QCOMPARE(entry.ImportCurrency, u"EUR"_s);
+    }
+
+    void takesPlainDetailsAsBookingText()
+    {
+        QString text = u":20:A\n:25:7\n:61:260101D1,00N\n:86:GIRO eins\n:61:260101D1,00N\n:86:BEA zwei\n"
+                       ":61:260101D1,00N\n:86:KASSE drei\n-\n"_s;
+        const cStatementRead read = modMT940::Read(text, {});
+        QCOMPARE(read.Entries.size(), 3);
+        QCOMPARE(read.Entries.last().ImportType, u"KASSE drei"_s);
+        QVERIFY(read.Entries.last().ImportPurpose.isEmpty());
+        QVERIFY(!read.ClosingBalance);
+    }
+
+    void rewritesSepaPurpose_data()
+    {
+        QTest::addColumn<QString>("purpose");
+        QTest::addColumn<QString>("rewritten");
+        QTest::newRow("purpose and originator") << u"EREF+12 SVWZ+Miete ABWA+Frau Tann"_s << u"Miete  (Frau Tann)"_s;
+        QTest::newRow("any case") << u"eref+12svwz+Miete"_s << u"Miete"_s;
+        QTest::newRow("three letters") << u"BIC+HOHEDE01 IBAN+DE02 SVWZ+Brot"_s << u"Brot"_s;
+        QTest::newRow("only references") << u"EREF+12 MREF+9"_s << u"EREF+12 MREF+9"_s;
+        QTest::newRow("keyword later") << u"Rechnung SVWZ+Brot"_s << u"Rechnung SVWZ+Brot"_s;
+        QTest::newRow("plus in the text") << u"SVWZ+1+1 Kino+Pizza"_s << u"1+1 Kino+Pizza"_s;
+        QTest::newRow("none") << u" Brot "_s << u"Brot"_s;
+    }
+
+    void rewritesSepaPurpose()
+    {
+        QFETCH(QString, purpose);
+        QTEST(modSepaPurpose::Rewrite(purpose), "rewritten");
+    }
+
+    void readsWholeFile()
+    {
+        const cStatementRead read = modMT940::Read(Fixture(), {});
+        QCOMPARE(read.Entries.size(), 6);
+        QVERIFY(read.Problems.isEmpty());
+        QCOMPARE(read.ClosingBalance, std::optional<qint64>(520000));
+        QCOMPARE(read.Entries.at(1).ImportBeneficiary, u"Hausverwaltung Tannert  und Sohn"_s);
+        QCOMPARE(read.Entries.at(1).ImportPurpose, u"Miete Januar Lindenweg  4"_s);
+        QCOMPARE(read.Entries.at(4).ImportAccount, u"7654321"_s);
+        QCOMPARE(modMT940::Read(Fixture().remove(u'\r'), {}).Entries, read.Entries); // line feeds alone do as well
+    }
+
+    void takesDefaults()
+    {
+        const cStatementRead read = modMT940::Read(u":61:991301D1,00N\n:61:D\n:62F:D26\n-\n-\n:61:260101D1,00N\n"_s, u"4711"_s);
+        QCOMPARE(read.Entries.size(), 2);
+        QCOMPARE(read.Entries.first().ImportAccount, u"4711"_s);
+        QCOMPARE(read.Entries.first().ImportDate, QDate(1001, 1, 1));
+        QList<int> lines;
+        for (const cReadProblem& problem : read.Problems) {
+            lines.append(problem.Line);
+        }
+        QCOMPARE(lines, (QList<int> {1, 2, 3}));
+    }
+
+    void balances_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<qint64>("cents");
+        QTest::newRow("credit") << u"C260131EUR000001,5"_s << qint64 {150};
+        QTest::newRow("debit") << u"D260131EUR12,34"_s << qint64 {-1234};
+        QTest::newRow("only cents") << u"C260131EUR,5"_s << qint64 {50};
+        QTest::newRow("zero") << u"C260131EUR0,00"_s << qint64 {0};
+    }
+
+    void balances()
+    {
+        QFETCH(QString, line);
+        QFETCH(qint64, cents);
+        QCOMPARE(modMT940::Read(u":20:A\r\n:25:1\r\n:62F:"_s + line, {}).ClosingBalance, std::optional<qint64>(cents));
+    }
+
+    // Details without a transaction end the reading, and since staging comes after reading, nothing of the text is kept.
+    void failsOnDetailsBeforeTransaction()
+    {
+        const QString good = With(u"260101D1,00N"_s, u"x"_s);
+        const cStatementRead read = modMT940::Read(good + u":20:B\r\n:86:zu früh\r\n"_s, {});
+        QVERIFY(read.Entries.isEmpty());
+        QVERIFY(!read.ClosingBalance);
+        QCOMPARE(read.Problems.size(), 1);
+        QCOMPARE(read.Problems.first().Line, 9);
+    }
+
+    void everyPrefixIsRead()
+    {
+        const QString text = Fixture();
+        const cImportEntryList whole = modMT940::Read(text, {}).Entries;
+        for (qsizetype size = 0; size <= text.size(); ++size) {
+            const cImportEntryList entries = modMT940::Read(text.left(size), {}).Entries;
+            QVERIFY(entries.size() <= whole.size());
+            for (qsizetype i = 0; i + 1 < entries.size(); ++i) {
+                QCOMPARE(entries.at(i).ImportValue, whole.at(i).ImportValue);
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(testMT940)
+#include "testMT940.moc"

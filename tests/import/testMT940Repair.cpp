@@ -1,0 +1,71 @@
+#include "import/modMT940Repair.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testMT940Repair : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void repairs_data()
+    {
+        const QString wide(61, u'x');
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("repaired");
+        QTest::newRow("envelope") << u"{1:F01X}\r\n{2:O940}\r\n{4:\r\n:20:A\r\n-}\r\n"_s << u":20:A\r\n-\r\n"_s;
+        QTest::newRow("envelope on one line") << u"\x01{1:F01X}{2:O940}{4:\n:20:A\n-}\x03\x01{1:F01X}{4:\n:20:B\n-}{5:{MAC:0}}\x03\n"_s
+                                              << u":20:A\n-\n:20:B\n-\n"_s;
+        QTest::newRow("first tag behind the envelope") << u"{1:X}{4::20:A\n:25:1\n"_s << u":20:A\n:25:1\n"_s;
+        QTest::newRow("separator with control character") << u":20:A\n-\x03\n"_s << u":20:A\n-\n"_s;
+        QTest::newRow("no separator") << u":20:A\r\n:62F:C\r\n:20:B\r\n"_s << u":20:A\r\n:62F:C\r\n-\r\n:20:B\r\n"_s;
+        QTest::newRow("separator hidden by text")
+            << u":20:A\n-\nABNA\n940\n:20:B\n"_s << u":20:A\n-\nABNA\n940\n-\n:20:B\n"_s;
+        QTest::newRow("at signs") << u"@@:20:A@@:25:1@@:86:x@@y@@-"_s << u"\r\n:20:A\r\n:25:1\r\n:86:x\r\ny\r\n-"_s;
+        QTest::newRow("wrapped line with colon")
+            << QString(u":86:" + wide + u"\n:KO:NR\n:62F:C\n") << QString(u":86:" + wide + u":KO:NR\n:62F:C\n");
+    }
+
+    void repairs()
+    {
+        QFETCH(QString, text);
+        QTEST(modMT940Repair::Repair(text).Text, "repaired");
+    }
+
+    // Texts that look like a fault and are none.
+    void leavesAlone_data()
+    {
+        const QString wide(61, u'x');
+        QFile file(QStringLiteral(TEST_DATA "/mt940/giro.sta"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QTest::addColumn<QString>("text");
+        QTest::newRow("whole file") << QString::fromUtf8(file.readAll());
+        QTest::newRow("line feeds only") << u":20:A\n:62F:C\n-\n:20:B\n-\n"_s;
+        QTest::newRow("brace in the details") << u":86:{1:x\n{x}\n-x}\n"_s;
+        QTest::newRow("blank lines before a statement") << u":20:A\n-\n\n  \n:20:B\n"_s;
+        QTest::newRow("related reference") << u":20:A\n:21:20:\n"_s;
+        QTest::newRow("at signs in a purpose") << u":20:A\r\n:86:mail@@x@@:61: y\r\n:62F:C\r\n"_s;
+        QTest::newRow("short line before an unknown tag") << u":28C:1/1\n:NSF:x\n"_s;
+        QTest::newRow("known tag after a wide line") << QString(u":86:" + wide + u"\n:61:x\n");
+        QTest::newRow("nothing") << QString();
+    }
+
+    void leavesAlone()
+    {
+        QFETCH(QString, text);
+        const modMT940Repair::cRepaired repaired = modMT940Repair::Repair(text);
+        QCOMPARE(repaired.Text, text);
+        QVERIFY(repaired.Lines.isEmpty());
+    }
+
+    void keepsLineNumbers()
+    {
+        const auto repaired = modMT940Repair::Repair(u"{1:\n:20:A\n:86:"_s + QString(61, u'x') + u"\n:KO:\n:20:B\n:25:");
+        QCOMPARE(repaired.Lines, (QList<int> {2, 3, 5, 5, 6})); // the fourth is the separator that was put in
+    }
+};
+
+QTEST_GUILESS_MAIN(testMT940Repair)
+#include "testMT940Repair.moc"

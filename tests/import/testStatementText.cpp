@@ -1,0 +1,63 @@
+#include "import/modStatementText.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testStatementText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void decodesEveryEncoding_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("UTF-8") << QByteArray("M\xC3\xBCller") << u"Müller"_s;
+        QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF:20:\xE2\x82\xAC") << u":20:€"_s;
+        QTest::newRow("UTF-16 little endian") << QByteArray("\xFF\xFE:\0\xDC\0", 6) << u":Ü"_s;
+        QTest::newRow("UTF-16 big endian") << QByteArray("\xFE\xFF\0:\0\xDC", 6) << u":Ü"_s;
+        QTest::newRow("Windows-1252") << QByteArray("M\xFCller 5 \x80 \x96 \x8E") << u"Müller 5 € – Ž"_s;
+        QTest::newRow("UTF-8 cut at the end") << QByteArray("Stra\xC3") << u"StraÃ"_s;
+        QTest::newRow("overlong sequence is not UTF-8") << QByteArray("\xC0\xAF") << u"À¯"_s;
+        QTest::newRow("mark before broken UTF-8") << QByteArray("\xEF\xBB\xBF\xFC") << u"ü"_s;
+        QTest::newRow("NULs vanish") << QByteArray("a\0b", 3) << u"ab"_s;
+        QTest::newRow("nothing") << QByteArray() << QString();
+    }
+
+    void decodesEveryEncoding()
+    {
+        QFETCH(QByteArray, bytes);
+        QTEST(modStatementText::Decode(bytes), "text");
+    }
+
+    // A bank that wraps its lines by bytes tears letters apart; the file is no UTF-8 then, but its joined fields are.
+    void repairsFields_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("torn letter") << modStatementText::Decode("GEB\xC3\x9CHR \xFC").left(7) << u"GEBÜHR"_s;
+        QTest::newRow("right text stays") << u"Müller & Söhne – 5 €"_s << u"Müller & Söhne – 5 €"_s;
+        QTest::newRow("other scripts stay") << u"Ã¼ 東京"_s << u"Ã¼ 東京"_s;
+    }
+
+    void repairsFields()
+    {
+        QFETCH(QString, field);
+        QTEST(modStatementText::DecodeField(field), "text");
+    }
+
+    void everyByteGivesText()
+    {
+        QByteArray all;
+        for (int i = 0; i < 256; ++i) {
+            all.append(static_cast<char>(i));
+        }
+        QCOMPARE(modStatementText::Decode(all).size(), 255);
+        QVERIFY(modStatementText::IsBinary(all));
+        QVERIFY(!modStatementText::IsBinary(QByteArray("\xFF\xFE:\0", 4)));
+    }
+};
+
+QTEST_GUILESS_MAIN(testStatementText)
+#include "testStatementText.moc"
