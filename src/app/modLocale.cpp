@@ -1,11 +1,11 @@
 #include "app/modLocale.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 void modLocale::UseUtf8()
 {
     if (qEnvironmentVariableIsEmpty("LC_ALL") && qEnvironmentVariableIsEmpty("LC_CTYPE")
         && qEnvironmentVariableIsEmpty("LANG")) {
-        qputenv("LC_CTYPE", "C.UTF-8");
+        qputenv("LC_CTYPE", QByteArrayLiteral("C.UTF-8"));
     }
 }

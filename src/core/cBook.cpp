@@ -50,6 +50,21 @@ bool cBook::Open(const QString& path)
     return true;
 }
 
+bool cBook::OpenForReading(const QString& path)
+{
+    eDatabaseFault fault = modSchema::OpenValid(*m_database, path, eOpenMode::ReadOnly);
+    m_added.clear();
+    if (fault == eDatabaseFault::None && !modSchema::StandIn(*m_database)) {
+        fault = eDatabaseFault::NoAccess;
+    }
+    if (fault != eDatabaseFault::None) {
+        m_user.Show(eTone::Critical, Refusal(fault, path));
+        return false;
+    }
+    LoadSettings();
+    return true;
+}
+
 bool cBook::OpenWithQuestions(const QString& path, bool isFresh, const cPorts& ports)
 {
     cOpenSequence sequence(*m_database, {ports.Shell, m_user, ports.Rescue}, ports.Version, ports.Today);

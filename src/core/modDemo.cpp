@@ -21,17 +21,28 @@ bool WriteStartBalances(cDataAccess& data, QDate day)
         && data.SetStartGuthaben(u"Bargeld"_s, 9500, day);
 }
 
-bool WriteSeries(cDataAccess& data, QList<modDemo::cDemoSeries> list)
+bool WriteRows(cDataAccess& data, cImportEntryList list)
 {
-    return std::all_of(list.begin(), list.end(), [&](modDemo::cDemoSeries& series) {
-        if (!data.AddNewEntry(series.Entry)) {
-            return false;
-        }
-        return std::all_of(series.Mods.begin(), series.Mods.end(), [&](cEntryItemFixMod& fixMod) {
-            fixMod.EntryRelation = series.Entry.ID;
-            return data.AddNewEntryMod(fixMod);
-        });
+    return std::all_of(list.begin(), list.end(), [&](cImportEntry& row) { return data.AddNewImportEntry(row); });
+}
+
+bool WriteOneSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, modDemo::cDemoSeries series)
+{
+    if (!data.AddNewEntry(series.Entry)) {
+        return false;
+    }
+    const bool isCorrected = std::all_of(series.Mods.begin(), series.Mods.end(), [&](cEntryItemFixMod& fixMod) {
+        fixMod.EntryRelation = series.Entry.ID;
+        return data.AddNewEntryMod(fixMod);
     });
+    const bool isRent = series.Entry.EntryCategory == "Wohnung; Miete"_L1;
+    return isCorrected && (!isRent || WriteRows(data, modDemo::RentRows(series.Entry, plan)));
+}
+
+bool WriteSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, const QList<modDemo::cDemoSeries>& list)
+{
+    return std::all_of(list.begin(), list.end(),
+                       [&](const modDemo::cDemoSeries& series) { return WriteOneSeries(data, plan, series); });
 }
 
 bool WritePurchase(cDataAccess& data, modDemo::cDemoPurchase purchase, int cardPurchasesAfter)
@@ -68,11 +79,6 @@ bool WriteEvents(cDataAccess& data, cEntryItemList list)
     return std::all_of(list.begin(), list.end(), [&](cEntryItem& entry) { return data.AddNewEntry(entry); });
 }
 
-bool WriteMail(cDataAccess& data, cImportEntryList list)
-{
-    return std::all_of(list.begin(), list.end(), [&](cImportEntry& row) { return data.AddNewImportEntry(row); });
-}
-
 // The bank's account numbers under the names that the accounts have in the book.
 bool WriteMapping(cDataAccess& data)
 {
@@ -97,6 +103,6 @@ bool modDemo::Write(cDataAccess& data, const cDemoPlan& plan)
     const cEntryItemList events = Events(plan);
     const auto fixed = static_cast<int>(series.size() + events.size()) + startBalances;
     const int purchases = plan.Entries == 0 ? UsualPurchases(plan) : qMax(plan.Entries - fixed, 0) + OpenRows;
-    return WriteStartBalances(data, FirstDay(plan)) && WriteSeries(data, series) && WriteEvents(data, events)
-        && WritePurchases(data, Purchases(plan, purchases)) && WriteMail(data, Mail(plan)) && WriteMapping(data);
+    return WriteStartBalances(data, FirstDay(plan)) && WriteSeries(data, plan, series) && WriteEvents(data, events)
+        && WritePurchases(data, Purchases(plan, purchases)) && WriteRows(data, Mail(plan)) && WriteMapping(data);
 }

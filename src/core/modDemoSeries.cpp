@@ -69,7 +69,7 @@ constexpr std::array Rows{
     cRow{"Ausgabe", "Monatlich", "Girokonto", "", "Geldanlage; Bausparen", "Bausparvertrag", 8000, 0, 3, Open},
     cRow{"Ausgabe", "Monatlich", "Girokonto", "", "Geldanlage; Altersvorsorge", "Rentenversicherung Mirko", 10000, 0, 3,
          Open},
-    cRow{"Umbuchung", "Monatlich", "Girokonto", "Sparkonto", "Geldanlage; Sparen", "Rücklage", 45000, 0, 4, Open},
+    cRow{"Umbuchung", "Monatlich", "Girokonto", "Sparkonto", "Geldanlage; Sparen", "Rücklage", 85000, 0, 4, Open},
 };
 
 QDate DayIn(const modDemo::cDemoPlan& plan, int month, int day)

@@ -196,6 +196,28 @@ QList<modDemo::cDemoPurchase> modDemo::Purchases(const cDemoPlan& plan, int coun
     return list;
 }
 
+cImportEntryList modDemo::RentRows(const cEntryItem& rent, const cDemoPlan& plan)
+{
+    cEntryItemList occurrences;
+    modRecurrence::Expand(rent, {plan.Today.addMonths(-4), plan.Today}, {}, occurrences);
+    cImportEntryList rows;
+    for (const cEntryItem& occurrence : occurrences) {
+        cImportEntry row = BankRow(occurrence.EntryDate, GiroNumber, u"Dauerauftrag"_s, u"Hausverwaltung Lindenhof"_s,
+                                   u"Miete Lindenhof 12"_s, -occurrence.EntryValue);
+        row.ImportBeneficiaryAccount = Iban(static_cast<qsizetype>(Shops.size()));
+        row.ImportBeneficiaryBLZ = u"DEMODE77XXX"_s;
+        row.ImportAssigned = true;
+        row.ImportAssignedEntry = rent.ID;
+        rows.append(row);
+    }
+    // The last one waits: it belongs to an occurrence that is in the book already.
+    if (!rows.isEmpty()) {
+        rows.last().ImportAssigned = false;
+        rows.last().ImportAssignedEntry = -1;
+    }
+    return rows;
+}
+
 cEntryItemList modDemo::Events(const cDemoPlan& plan)
 {
     cEntryItemList list;
@@ -205,7 +227,7 @@ cEntryItemList modDemo::Events(const cDemoPlan& plan)
     }
     for (QDate day = first.addDays(1); day <= plan.Today; day = day.addMonths(1)) {
         list.append(
-            Transfer(day, u"Girokonto"_s, u"Bargeld"_s, u"Allgemein; Barauszahlung"_s, 22000, u"Geldautomat"_s));
+            Transfer(day, u"Girokonto"_s, u"Bargeld"_s, u"Allgemein; Barauszahlung"_s, 18000, u"Geldautomat"_s));
     }
     list.removeIf([&](const cEntryItem& entry) { return entry.EntryDate < first || entry.EntryDate > plan.Today; });
     return list;
@@ -230,7 +252,6 @@ cImportEntryList modDemo::Mail(const cDemoPlan& plan)
         BankRow(today.addDays(-7), GiroNumber, credit, u"Amazon"_s, u"Gutschrift zur Bestellung 303"_s, 3999),
         BankRow(today.addDays(-4), GiroNumber, debit, u"Fahrschule Kreisel"_s, u"Grundbetrag"_s, -8900),
         BankRow(today.addDays(-3), GiroNumber, credit, u"Gerda Berger"_s, u"Zum Geburtstag"_s, 5000),
-        BankRow(today.addDays(-2), GiroNumber, debit, u"Hausverwaltung Lindenhof"_s, u"Nebenkosten Nachzahlung"_s,
-                -18460),
+        BankRow(today.addDays(-2), GiroNumber, debit, u"Wasserwerk Talheim"_s, u"Nachzahlung Vorjahr"_s, -18460),
         BankRow(today.addDays(-1), GiroNumber, debit, u"Stadtkasse Talheim"_s, u"Bußgeld 4412"_s, -1500)};
 }

@@ -19,7 +19,7 @@ using modMT940::cStatement;
 using modMT940::cTransaction;
 
 constexpr int structureSample = 11;                     // details lines that decide whether the text is structured
-constexpr QDate noDate = QDate::fromJulianDay(2086674); // 1001-01-01
+constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
 
 bool IsDigit(QStringView text, qsizetype at)
 {

@@ -152,9 +152,11 @@ void frmMain::RestoreLayout()
         setWindowState(Qt::WindowMaximized);
     }
     m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
-    ShowView();
-    ShowEntries();
     ShowSelection();
+}
+
+void frmMain::ShowToday()
+{
     m_tree->ScrollTo(m_model.Today());
     m_tree->setFocus();
 }

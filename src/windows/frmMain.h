@@ -24,8 +24,10 @@ public:
     // Takes over the page for bank statements.
     frmMain(cMainModel& model, QWidget* statements, QWidget* parent = nullptr);
 
-    // Shows what the model has restored; called once before the window is shown.
+    // Place and columns as they were; called once before the window is shown.
     void RestoreLayout();
+
+    void ShowToday(); // scrolls the list to the current day and gives it the focus
 
     void ShowStatements(); // brings the page for bank statements to the front
     void ShowColumnMenu();

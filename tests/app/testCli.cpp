@@ -22,7 +22,7 @@ struct cRun
     QString Error;
 
     [[nodiscard]] QJsonArray Json() const { return QJsonDocument::fromJson(Out.toUtf8()).array(); }
-    [[nodiscard]] QByteArray Text() const { return (Out + u'\n' + Error).toUtf8(); }
+    [[nodiscard]] QString Text() const { return Out + u'\n' + Error; }
 };
 
 QStringList Column(const QJsonArray& array, const QString& name)
@@ -40,8 +40,9 @@ QByteArray LargeStatement(int count)
     QByteArray text = ":20:STARTUMS\r\n:25:99900010/4711000815\r\n:60F:C240101EUR0,00\r\n";
     for (int i = 0; i < count; ++i) {
         const QByteArray day = QDate(2024, 1, 1).addDays(i % 300).toString(u"yyMMdd"_s).toLatin1();
-        text += ":61:" + day + "D" + QByteArray::number(1 + i % 90) + ",25N024NONREF\r\n:86:106?00KARTENZAHLUNG?20Beleg "
-            + QByteArray::number(i) + "?32Laden " + QByteArray::number(i % 40) + "\r\n";
+        text += ":61:" + day + "D" + QByteArray::number(1 + i % 90)
+            + ",25N024NONREF\r\n:86:106?00KARTENZAHLUNG?20Beleg " + QByteArray::number(i) + "?32Laden "
+            + QByteArray::number(i % 40) + "\r\n";
     }
     return text + ":62F:C241231EUR1,00\r\n-\r\n";
 }
@@ -106,7 +107,7 @@ cRun testCli::RunProgram(const QString& program, const QStringList& arguments)
 
 cRun testCli::Run(const QStringList& arguments) const
 {
-    return RunProgram(QStringLiteral(CLI_PROGRAM), QStringList {u"--profile"_s, m_folder->path()} + arguments);
+    return RunProgram(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
 }
 
 QString testCli::WriteFile(const QString& name, const QByteArray& content) const
@@ -127,13 +128,13 @@ void testCli::ImportBoth() const
 void testCli::StatementBecomesBook()
 {
     const cRun import = Run({u"import"_s, m_giro, u"--json"_s});
-    QVERIFY2(import.Code == 0, import.Text());
+    QVERIFY2(import.Code == 0, qPrintable(import.Text()));
     const QJsonObject result = import.Json().at(0).toObject();
-    QCOMPARE(result.value(u"format"_s).toString(), u"MT940"_s);
+    QVERIFY(result.value(u"format"_s).toString().contains("MT940"_L1));
     QCOMPARE(result.value(u"read"_s).toInt(), 7);
     QCOMPARE(result.value(u"staged"_s).toInt(), 6);
     QCOMPARE(result.value(u"zero"_s).toInt(), 1);
-    QVERIFY2(import.Out.contains("\"closingBalance\": 3301.99"_L1), import.Text());
+    QVERIFY2(import.Out.contains("\"closingBalance\": 3301.99"_L1), qPrintable(import.Text()));
     QCOMPARE(Run({u"import"_s, m_spar, u"--book-account"_s, u"Sparkonto"_s}).Code, 0);
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 7);
 
@@ -145,26 +146,28 @@ void testCli::StatementBecomesBook()
     QCOMPARE(proposals.at(4).toObject().value(u"EntryAccountMove"_s).toString(), u"Sparkonto"_s);
 
     const cRun dry = Run({u"book"_s, u"--all"_s, u"--dry-run"_s});
-    QVERIFY2(dry.Code == 0 && dry.Out.contains("Wohnung; Miete"_L1), dry.Text());
+    QVERIFY2(dry.Code == 0 && dry.Out.contains("Wohnung; Miete"_L1), qPrintable(dry.Text()));
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 7);
 
     // The one-off ones first: their balances do not depend on the day of the test.
     const QStringList ids = Column(proposals, u"ImportID"_s);
     const cRun some = Run({u"book"_s, u"--id"_s, ids.at(1), ids.at(3), ids.at(4), ids.at(5)});
-    QVERIFY2(some.Code == 0, some.Text());
+    QVERIFY2(some.Code == 0, qPrintable(some.Text()));
     const cRun balances = Run({u"balances"_s, u"--json"_s});
     QCOMPARE(Column(balances.Json(), u"TemplateName"_s), QStringList({u"Girokonto"_s, u"Sparkonto"_s, u"Bargeld"_s}));
     QVERIFY2(balances.Out.contains("\"Balance\": -335.51"_L1) && balances.Out.contains("\"Balance\": 250.00"_L1),
-             balances.Text());
+             qPrintable(balances.Text()));
 
     QCOMPARE(Run({u"book"_s, u"--all"_s}).Code, 0);
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 0);
     const cRun entries = Run({u"entries"_s, u"--from"_s, u"2024-03-01"_s, u"--to"_s, u"31.03.2024"_s, u"--json"_s});
     QCOMPARE(Column(entries.Json(), u"EntryDate"_s),
-             QStringList({u"2024-03-01"_s, u"2024-03-04"_s, u"2024-03-05"_s, u"2024-03-06"_s, u"2024-03-08"_s, u"2024-03-11"_s}));
-    QVERIFY2(entries.Out.contains("\"EntryValue\": 12.40"_L1), entries.Text());
+             QStringList({u"2024-03-01"_s, u"2024-03-04"_s, u"2024-03-05"_s, u"2024-03-06"_s, u"2024-03-08"_s,
+                          u"2024-03-11"_s}));
+    QVERIFY2(entries.Out.contains("\"EntryValue\": 12.40"_L1), qPrintable(entries.Text()));
     const cRun april = Run({u"entries"_s, u"--from"_s, u"2024-04-01"_s, u"--to"_s, u"2024-04-30"_s, u"--json"_s});
-    QCOMPARE(Column(april.Json(), u"EntryCategory"_s), QStringList({u"Wohnung; Miete"_s, u"Einkommen; Lohn / Gehalt"_s}));
+    QCOMPARE(Column(april.Json(), u"EntryCategory"_s),
+             QStringList({u"Wohnung; Miete"_s, u"Einkommen; Lohn / Gehalt"_s}));
 }
 
 void testCli::ImportTwiceStagesNothing()
@@ -187,15 +190,15 @@ void testCli::EntriesAreFiltered_data()
     QTest::addColumn<QStringList>("filter");
     QTest::addColumn<QStringList>("days");
 
-    QTest::addRow("kind") << QStringList {u"--kind"_s, u"Ausgabe"_s}
-                          << QStringList {u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s};
-    QTest::addRow("kind in the plural") << QStringList {u"--kind"_s, u"Umbuchungen"_s} << QStringList {u"2024-03-08"_s};
-    QTest::addRow("category with its sub-categories") << QStringList {u"--category"_s, u"Haushalt"_s}
-                                                      << QStringList {u"2024-03-04"_s, u"2024-03-06"_s};
-    QTest::addRow("account, transfers into it too") << QStringList {u"--account"_s, u"Sparkonto"_s}
-                                                    << QStringList {u"2024-03-08"_s};
-    QTest::addRow("words in any case and without umlauts") << QStringList {u"--filter"_s, u"KORNBLUME baecker"_s}
-                                                           << QStringList {u"2024-03-11"_s};
+    QTest::addRow("kind") << QStringList{u"--kind"_s, u"Ausgabe"_s}
+                          << QStringList{u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s};
+    QTest::addRow("kind in the plural") << QStringList{u"--kind"_s, u"Umbuchungen"_s} << QStringList{u"2024-03-08"_s};
+    QTest::addRow("category with its sub-categories")
+        << QStringList{u"--category"_s, u"Haushalt"_s} << QStringList{u"2024-03-04"_s, u"2024-03-06"_s};
+    QTest::addRow("account, transfers into it too")
+        << QStringList{u"--account"_s, u"Sparkonto"_s} << QStringList{u"2024-03-08"_s};
+    QTest::addRow("words in any case and without umlauts")
+        << QStringList{u"--filter"_s, u"KORNBLUME baecker"_s} << QStringList{u"2024-03-11"_s};
 }
 
 void testCli::EntriesAreFiltered()
@@ -205,8 +208,8 @@ void testCli::EntriesAreFiltered()
     ImportBoth();
     const QStringList ids = Column(Run({u"propose"_s, u"--json"_s}).Json(), u"ImportID"_s);
     QCOMPARE(Run({u"book"_s, u"--id"_s, ids.at(1), ids.at(3), ids.at(4), ids.at(5)}).Code, 0);
-    const cRun run = Run(QStringList {u"entries"_s, u"--period"_s, u"Alle Buchungen"_s, u"--json"_s} + filter);
-    QVERIFY2(run.Code == 0, run.Text());
+    const cRun run = Run(QStringList{u"entries"_s, u"--period"_s, u"Alle Buchungen"_s, u"--json"_s} + filter);
+    QVERIFY2(run.Code == 0, qPrintable(run.Text()));
     QCOMPARE(Column(run.Json(), u"EntryDate"_s), days);
 }
 
@@ -216,7 +219,7 @@ void testCli::CsvKeepsSeparatorsInsideFields()
     const QStringList ids = Column(Run({u"propose"_s, u"--json"_s}).Json(), u"ImportID"_s);
     QCOMPARE(Run({u"book"_s, u"--id"_s, ids.at(1)}).Code, 0);
     const QString csv = Run({u"entries"_s, u"--period"_s, u"Alle Buchungen"_s, u"--csv"_s}).Out;
-    QVERIFY2(csv.contains("\"Haushalt; Lebensmittel\";64,21;"_L1), csv.toUtf8());
+    QVERIFY2(csv.contains("\"Haushalt; Lebensmittel\";64,21;"_L1), qPrintable(csv));
 }
 
 void testCli::DemoIsTheSameTwice()
@@ -225,19 +228,20 @@ void testCli::DemoIsTheSameTwice()
     const QString two = Path(u"two.db"_s);
     QCOMPARE(Run({u"demo"_s, one}).Code, 0);
     QCOMPARE(Run({u"demo"_s, two}).Code, 0);
-    const QString entries = Run({u"--database"_s, one, u"entries"_s, u"--period"_s, u"Letztes Jahr"_s, u"--json"_s}).Out;
+    const QString entries =
+        Run({u"--database"_s, one, u"entries"_s, u"--period"_s, u"Letztes Jahr"_s, u"--json"_s}).Out;
     QVERIFY(QJsonDocument::fromJson(entries.toUtf8()).array().size() > 400);
     QCOMPARE(Run({u"--database"_s, two, u"entries"_s, u"--period"_s, u"Letztes Jahr"_s, u"--json"_s}).Out, entries);
     const cRun again = Run({u"demo"_s, one});
-    QVERIFY2(again.Code == 1 && again.Error.contains("gibt es schon"_L1), again.Text());
+    QVERIFY2(again.Code == 1 && again.Error.contains("gibt es schon"_L1), qPrintable(again.Text()));
 }
 
 void testCli::CheckFindsSoundBook()
 {
     const cRun fresh = Run({u"check"_s});
-    QVERIFY2(fresh.Code == 0 && fresh.Out.contains("setting"_L1), fresh.Text());
+    QVERIFY2(fresh.Code == 0 && fresh.Out.contains("setting"_L1), qPrintable(fresh.Text()));
     const cRun second = Run({u"check"_s});
-    QVERIFY2(second.Code == 0 && !second.Out.contains("setting"_L1), second.Text());
+    QVERIFY2(second.Code == 0 && !second.Out.contains("setting"_L1), qPrintable(second.Text()));
 }
 
 void testCli::UsageErrors_data()
@@ -245,20 +249,21 @@ void testCli::UsageErrors_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("text");
 
-    QTest::addRow("no command") << QStringList {} << u"fehlt der Befehl"_s;
-    QTest::addRow("unknown command") << QStringList {u"frobnicate"_s} << u"'frobnicate'"_s;
-    QTest::addRow("unknown option") << QStringList {u"staged"_s, u"--fast"_s} << u"'--fast'"_s;
-    QTest::addRow("option of another command") << QStringList {u"balances"_s, u"--all"_s} << u"'--all'"_s;
-    QTest::addRow("import without file") << QStringList {u"import"_s} << u"DATEI"_s;
-    QTest::addRow("value missing") << QStringList {u"entries"_s, u"--account"_s} << u"--account"_s;
-    QTest::addRow("too many arguments") << QStringList {u"balances"_s, u"now"_s} << u"'now'"_s;
-    QTest::addRow("book nothing") << QStringList {u"book"_s} << u"--all"_s;
-    QTest::addRow("book all and one") << QStringList {u"book"_s, u"--all"_s, u"--id"_s, u"1"_s} << u"--id"_s;
-    QTest::addRow("number that is none") << QStringList {u"book"_s, u"--id"_s, u"x"_s} << u"'x'"_s;
-    QTest::addRow("unknown period") << QStringList {u"entries"_s, u"--period"_s, u"Morgen"_s} << u"Letzter Monat"_s;
-    QTest::addRow("unknown kind") << QStringList {u"entries"_s, u"--kind"_s, u"Geschenk"_s} << u"Umbuchung"_s;
-    QTest::addRow("date that is none") << QStringList {u"entries"_s, u"--from"_s, u"gestern"_s} << u"Datum"_s;
-    QTest::addRow("period and date") << QStringList {u"entries"_s, u"--from"_s, u"2024-01-01"_s, u"--period"_s, u"Letztes Jahr"_s}
+    QTest::addRow("no command") << QStringList{} << u"fehlt der Befehl"_s;
+    QTest::addRow("unknown command") << QStringList{u"frobnicate"_s} << u"'frobnicate'"_s;
+    QTest::addRow("unknown option") << QStringList{u"staged"_s, u"--fast"_s} << u"'--fast'"_s;
+    QTest::addRow("option of another command") << QStringList{u"balances"_s, u"--all"_s} << u"'--all'"_s;
+    QTest::addRow("import without file") << QStringList{u"import"_s} << u"DATEI"_s;
+    QTest::addRow("value missing") << QStringList{u"entries"_s, u"--account"_s} << u"--account"_s;
+    QTest::addRow("too many arguments") << QStringList{u"balances"_s, u"now"_s} << u"'now'"_s;
+    QTest::addRow("book nothing") << QStringList{u"book"_s} << u"--all"_s;
+    QTest::addRow("book all and one") << QStringList{u"book"_s, u"--all"_s, u"--id"_s, u"1"_s} << u"--id"_s;
+    QTest::addRow("number that is none") << QStringList{u"book"_s, u"--id"_s, u"x"_s} << u"'x'"_s;
+    QTest::addRow("unknown period") << QStringList{u"entries"_s, u"--period"_s, u"Morgen"_s} << u"Letzter Monat"_s;
+    QTest::addRow("unknown kind") << QStringList{u"entries"_s, u"--kind"_s, u"Geschenk"_s} << u"Umbuchung"_s;
+    QTest::addRow("date that is none") << QStringList{u"entries"_s, u"--from"_s, u"gestern"_s} << u"Datum"_s;
+    QTest::addRow("period and date") << QStringList{u"entries"_s, u"--from"_s, u"2024-01-01"_s, u"--period"_s,
+                                                    u"Letztes Jahr"_s}
                                      << u"--period"_s;
 }
 
@@ -267,9 +272,9 @@ void testCli::UsageErrors()
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, text);
     const cRun run = Run(arguments);
-    QVERIFY2(run.Code == 2, run.Text());
-    QVERIFY2(run.Error.contains(text), run.Text());
-    QVERIFY2(run.Out.isEmpty(), run.Text());
+    QVERIFY2(run.Code == 2, qPrintable(run.Text()));
+    QVERIFY2(run.Error.contains(text), qPrintable(run.Text()));
+    QVERIFY2(run.Out.isEmpty(), qPrintable(run.Text()));
 }
 
 void testCli::FaultyDatabases_data()
@@ -290,11 +295,12 @@ void testCli::FaultyDatabases()
     if (!content.isNull()) {
         (void)WriteFile(u"book.db"_s, content);
     }
-    for (const QStringList& command : {QStringList {u"balances"_s}, QStringList {u"import"_s, m_giro}, QStringList {u"check"_s}}) {
-        const cRun run = Run(QStringList {u"--database"_s, path} + command);
-        QVERIFY2(run.Code == 1, run.Text());
-        QVERIFY2(run.Error.contains(text) && run.Error.contains(path), run.Text());
-        QVERIFY2(!run.Error.contains(u'?'), run.Text()); // nobody is there to answer
+    for (const QStringList& command :
+         {QStringList{u"balances"_s}, QStringList{u"import"_s, m_giro}, QStringList{u"check"_s}}) {
+        const cRun run = Run(QStringList{u"--database"_s, path} + command);
+        QVERIFY2(run.Code == 1, qPrintable(run.Text()));
+        QVERIFY2(run.Error.contains(text) && run.Error.contains(path), qPrintable(run.Text()));
+        QVERIFY2(!run.Error.contains(u'?'), qPrintable(run.Text())); // nobody is there to answer
     }
     QCOMPARE(QFile::exists(path), !content.isNull());
     if (!content.isNull()) {
@@ -318,9 +324,9 @@ void testCli::FaultyStatements()
     QFETCH(const QByteArray, content);
     const QString broken = WriteFile(u"broken.sta"_s, content);
     const cRun run = Run({u"import"_s, broken, Path(u"missing.sta"_s), m_giro, u"--json"_s});
-    QVERIFY2(run.Code == 1, run.Text());
+    QVERIFY2(run.Code == 1, qPrintable(run.Text()));
     QCOMPARE(Column(run.Json(), u"staged"_s), QStringList({u"0"_s, u"0"_s, u"6"_s}));
-    QVERIFY2(run.Error.contains(broken) && run.Error.contains("missing.sta"_L1), run.Text());
+    QVERIFY2(run.Error.contains(broken) && run.Error.contains("missing.sta"_L1), qPrintable(run.Text()));
 }
 
 void testCli::MissingTemplateIsADamagedInstallation()
@@ -328,7 +334,7 @@ void testCli::MissingTemplateIsADamagedInstallation()
     const QString program = Path(u"kontorelle-cli"_s);
     QVERIFY(QFile::copy(QStringLiteral(CLI_PROGRAM), program));
     const cRun run = RunProgram(program, {u"--profile"_s, m_folder->path(), u"balances"_s});
-    QVERIFY2(run.Code == 1 && run.Error.contains("Die Installation ist beschädigt."_L1), run.Text());
+    QVERIFY2(run.Code == 1 && run.Error.contains(u"Die Installation ist beschädigt."_s), qPrintable(run.Text()));
 }
 
 void testCli::LockedDatabaseIsReadButNotWritten()
@@ -337,7 +343,7 @@ void testCli::LockedDatabaseIsReadButNotWritten()
     cFileLock lock;
     QCOMPARE(lock.Take(Database()), eLockState::Held);
     const cRun write = Run({u"book"_s, u"--all"_s});
-    QVERIFY2(write.Code == 1 && write.Error.contains("testCli"_L1), write.Text());
+    QVERIFY2(write.Code == 1 && write.Error.contains("testCli"_L1), qPrintable(write.Text()));
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 6);
     lock.Release();
     QCOMPARE(Run({u"book"_s, u"--all"_s}).Code, 0);
@@ -349,7 +355,7 @@ void testCli::ReadingChangesNothing()
     QVERIFY(QFile::copy(QStringLiteral(TEMPLATE), path));
     for (const QString& command : {u"staged"_s, u"propose"_s, u"entries"_s, u"balances"_s}) {
         const cRun run = Run({u"--database"_s, path, command});
-        QVERIFY2(run.Code == 0, run.Text());
+        QVERIFY2(run.Code == 0, qPrintable(run.Text()));
     }
     QFile before(QStringLiteral(TEMPLATE));
     QFile after(path);
@@ -375,7 +381,7 @@ void testCli::KilledImportKeepsWhatItStaged()
     QVERIFY(import.waitForFinished());
 
     const cRun check = Run({u"check"_s});
-    QVERIFY2(check.Code == 0, check.Text());
+    QVERIFY2(check.Code == 0, qPrintable(check.Text()));
     const qsizetype kept = Run({u"staged"_s, u"--json"_s}).Json().size();
     QVERIFY(kept >= seen && kept < count);
     const QJsonObject rest = Run({u"import"_s, file, u"--json"_s}).Json().at(0).toObject();

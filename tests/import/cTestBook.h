@@ -16,16 +16,6 @@
 // A fresh book in a temporary file, with the accounts and categories of the template.
 struct cTestBook
 {
-    cTestBook()
-    {
-        Database.Open(Path(), eOpenMode::Create);
-        QFile script(QStringLiteral(TEST_DATA "/../../data/template.sql"));
-        if (script.open(QIODevice::ReadOnly)) {
-            Database.ExecuteScript(script.readAll().toStdString());
-        }
-        modSchema::Upgrade(Database);
-    }
-
     [[nodiscard]] QString Path() const { return m_folder.filePath(QStringLiteral("data.db")); }
 
     // What another program would do to the file.
@@ -37,13 +27,27 @@ struct cTestBook
     }
 
 private:
+    // Runs between the members below: the settings read the open database.
+    bool Make()
+    {
+        Database.Open(Path(), eOpenMode::Create);
+        QFile script(QStringLiteral(TEST_DATA "/../../data/template.sql"));
+        if (!script.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        Database.ExecuteScript(script.readAll().toStdString());
+        modSchema::Upgrade(Database);
+        return true;
+    }
+
     QTemporaryDir m_folder;
 
 public:
     cFakeUser User;
     cDatabase Database;
-    cDataAccess Data {Database, User};
-    cSettings Settings {Data};
-    cImportHiveCache Hive {Data};
-    cAccountMap Accounts {Data, Settings};
+    bool IsMade = Make();
+    cDataAccess Data{Database, User};
+    cSettings Settings{Data};
+    cImportHiveCache Hive{Data};
+    cAccountMap Accounts{Data, Settings};
 };

@@ -44,9 +44,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("typeCode");
         QTest::addColumn<QString>("reference");
         QTest::addColumn<double>("value");
-        QTest::newRow("entry date and mark") << u"0902270227DR0,96NMSCNONREF"_s << u"DR"_s << u"0,96"_s << u"NMSC"_s
-                                             << u"NONREF"_s << -0.96;
-        QTest::newRow("no entry date") << u"200219C65,00NMSC"_s << u"C"_s << u"65,00"_s << u"NMSC"_s << QString() << 65.0;
+        QTest::newRow("entry date and mark")
+            << u"0902270227DR0,96NMSCNONREF"_s << u"DR"_s << u"0,96"_s << u"NMSC"_s << u"NONREF"_s << -0.96;
+        QTest::newRow("no entry date") << u"200219C65,00NMSC"_s << u"C"_s << u"65,00"_s << u"NMSC"_s << QString()
+                                       << 65.0;
         QTest::newRow("cancelled debit counts as debit")
             << u"2002010219RDR1027,25N068A//B"_s << u"RD"_s << u"1027,25"_s << u"N068"_s << u"A"_s << -1027.25;
         QTest::newRow("cancelled credit counts as credit")
@@ -55,8 +56,8 @@ private Q_SLOTS:
                                     << -2402.0;
         QTest::newRow("whole amount") << u"1105240524D1234,N192"_s << u"D"_s << u"1234,00"_s << u"N192"_s << QString()
                                       << -1234.0;
-        QTest::newRow("one decimal place") << u"131017D620,3NSTON"_s << u"D"_s << u"620,30"_s << u"NSTO"_s << u"N"_s
-                                           << -620.3;
+        QTest::newRow("one decimal place")
+            << u"131017D620,3NSTON"_s << u"D"_s << u"620,30"_s << u"NSTO"_s << u"N"_s << -620.3;
         QTest::newRow("small letters") << u"200219d7,50NMSC"_s << u"d"_s << u"7,50"_s << u"NMSC"_s << QString() << -7.5;
     }
 
@@ -64,8 +65,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, line);
         QFETCH(double, value);
-        const modMT940::cTransaction transaction
-            = modMT940::Parse(With(line, u"x"_s)).Statements.value(0).Transactions.value(0);
+        const modMT940::cTransaction transaction =
+            modMT940::Parse(With(line, u"x"_s)).Statements.value(0).Transactions.value(0);
         QTEST(transaction.Mark, "mark");
         QTEST(transaction.Amount, "amount");
         QTEST(transaction.TypeCode, "typeCode");
@@ -132,7 +133,8 @@ private Q_SLOTS:
 
     void takesDefaults()
     {
-        const cStatementRead read = modMT940::Read(u":61:991301D1,00N\n:61:D\n:62F:D26\n-\n-\n:61:260101D1,00N\n"_s, u"4711"_s);
+        const cStatementRead read =
+            modMT940::Read(u":61:991301D1,00N\n:61:D\n:62F:D26\n-\n-\n:61:260101D1,00N\n"_s, u"4711"_s);
         QCOMPARE(read.Entries.size(), 2);
         QCOMPARE(read.Entries.first().ImportAccount, u"4711"_s);
         QCOMPARE(read.Entries.first().ImportDate, QDate(1001, 1, 1));
@@ -140,17 +142,17 @@ private Q_SLOTS:
         for (const cReadProblem& problem : read.Problems) {
             lines.append(problem.Line);
         }
-        QCOMPARE(lines, (QList<int> {1, 2, 3}));
+        QCOMPARE(lines, (QList<int>{1, 2, 3}));
     }
 
     void balances_data()
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<qint64>("cents");
-        QTest::newRow("credit") << u"C260131EUR000001,5"_s << qint64 {150};
-        QTest::newRow("debit") << u"D260131EUR12,34"_s << qint64 {-1234};
-        QTest::newRow("only cents") << u"C260131EUR,5"_s << qint64 {50};
-        QTest::newRow("zero") << u"C260131EUR0,00"_s << qint64 {0};
+        QTest::newRow("credit") << u"C260131EUR000001,5"_s << qint64{150};
+        QTest::newRow("debit") << u"D260131EUR12,34"_s << qint64{-1234};
+        QTest::newRow("only cents") << u"C260131EUR,5"_s << qint64{50};
+        QTest::newRow("zero") << u"C260131EUR0,00"_s << qint64{0};
     }
 
     void balances()
@@ -160,7 +162,8 @@ private Q_SLOTS:
         QCOMPARE(modMT940::Read(u":20:A\r\n:25:1\r\n:62F:"_s + line, {}).ClosingBalance, std::optional<qint64>(cents));
     }
 
-    // Details without a transaction end the reading, and since staging comes after reading, nothing of the text is kept.
+    // Details without a transaction end the reading, and since staging comes after reading, nothing of the text is
+    // kept.
     void failsOnDetailsBeforeTransaction()
     {
         const QString good = With(u"260101D1,00N"_s, u"x"_s);

@@ -16,8 +16,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("repaired");
         QTest::newRow("envelope") << u"{1:F01X}\r\n{2:O940}\r\n{4:\r\n:20:A\r\n-}\r\n"_s << u":20:A\r\n-\r\n"_s;
-        QTest::newRow("envelope on one line") << u"\x01{1:F01X}{2:O940}{4:\n:20:A\n-}\x03\x01{1:F01X}{4:\n:20:B\n-}{5:{MAC:0}}\x03\n"_s
-                                              << u":20:A\n-\n:20:B\n-\n"_s;
+        QTest::newRow("envelope on one line")
+            << u"\x01{1:F01X}{2:O940}{4:\n:20:A\n-}\x03\x01{1:F01X}{4:\n:20:B\n-}{5:{MAC:0}}\x03\n"_s
+            << u":20:A\n-\n:20:B\n-\n"_s;
         QTest::newRow("first tag behind the envelope") << u"{1:X}{4::20:A\n:25:1\n"_s << u":20:A\n:25:1\n"_s;
         QTest::newRow("separator with control character") << u":20:A\n-\x03\n"_s << u":20:A\n-\n"_s;
         QTest::newRow("no separator") << u":20:A\r\n:62F:C\r\n:20:B\r\n"_s << u":20:A\r\n:62F:C\r\n-\r\n:20:B\r\n"_s;
@@ -62,8 +63,9 @@ private Q_SLOTS:
 
     void keepsLineNumbers()
     {
-        const auto repaired = modMT940Repair::Repair(u"{1:\n:20:A\n:86:"_s + QString(61, u'x') + u"\n:KO:\n:20:B\n:25:");
-        QCOMPARE(repaired.Lines, (QList<int> {2, 3, 5, 5, 6})); // the fourth is the separator that was put in
+        const auto repaired =
+            modMT940Repair::Repair(u"{1:\n:20:A\n:86:"_s + QString(61, u'x') + u"\n:KO:\n:20:B\n:25:");
+        QCOMPARE(repaired.Lines, (QList<int>{2, 3, 5, 5, 6})); // the fourth is the separator that was put in
     }
 };
 

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "app/cFileLock.h"
+#include "app/cSingleInstance.h"
+#include "core/cAmountFormat.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "views/cNavigator.h"
+
+#include <QString>
+
+#include <memory>
+
+class cClock;
+class cMainModel;
+class cRegistry;
+class cRescue;
+class cShell;
+class cStartUp;
+class cUser;
+class frmMain;
+
+// Puts the window program together and brings it up: ports, book, models, main window. Opens the windows that commands
+// ask for.
+class cMainProgram final : public cNavigator
+{
+public:
+    struct cPorts
+    {
+        cShell& Shell;
+        cRegistry& Registry;
+        cUser& User;
+        cRescue& Rescue;
+        const cClock& Clock;
+    };
+
+    cMainProgram(const cPorts& ports, const QString& version);
+    ~cMainProgram() override;
+
+    // Runs the start-up with its questions and shows the window. An empty path is the database of the configuration.
+    // False when the program has to end: the user declined every remedy, or the book is already open in another window,
+    // which was brought to the front.
+    [[nodiscard]] bool Start(const QString& database);
+
+    // The window; only after a successful start.
+    [[nodiscard]] frmMain& Window() { return *m_window; }
+
+    void OpenEntryEditor(int entryId) override;
+    void OpenImport() override;
+    void OpenColumnChooser() override;
+    void EndProgram() override;
+
+private:
+    [[nodiscard]] bool OpenBook(cStartUp& startUp, const QString& database);
+    [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
+    [[nodiscard]] bool OpenForeign(const QString& path);
+    void BuildWindow();
+
+    cPorts m_ports;
+    QString m_version;
+    cConfiguration m_configuration;
+    cBook m_book;
+    cFileLock m_lock;
+    cSingleInstance m_instance;
+    cAmountFormat m_format {m_configuration};
+    std::unique_ptr<cMainModel> m_model;
+    std::unique_ptr<frmMain> m_window;
+};

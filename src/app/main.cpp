@@ -1,0 +1,79 @@
+#include "app/cMainProgram.h"
+#include "app/cQtRegistry.h"
+#include "app/cQtRescue.h"
+#include "app/cQtShell.h"
+#include "app/cQtUser.h"
+#include "app/cSystemClock.h"
+#include "app/modLocale.h"
+#include "base/cText.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Without a screen the toolkit would end the process with a message that helps nobody.
+bool HasDisplay()
+{
+#ifdef Q_OS_LINUX
+    const bool isNamed = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return isNamed || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+#else
+    return true;
+#endif
+}
+
+int RefuseWithoutDisplay()
+{
+    std::fputs("Kontorelle: Hier gibt es keinen Bildschirm (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n"
+               "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n",
+               stderr);
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    modLocale::UseUtf8();
+    if (!HasDisplay()) {
+        return RefuseWithoutDisplay();
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"kontorelle"_s);
+    QApplication::setApplicationDisplayName(u"Kontorelle"_s);
+    QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
+    QApplication::setDesktopFileName(u"kontorelle"_s);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QTranslator buttons; // the toolkit's own texts, such as those of the standard buttons
+    if (buttons.load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&buttons);
+    }
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption({u"profile"_s, cText::Tr("Ordner für Daten und Einstellungen statt der üblichen."), u"ORDNER"_s});
+    parser.addPositionalArgument(u"datenbank"_s, cText::Tr("Datenbank, die geöffnet wird."), u"[DATENBANK]"_s);
+    parser.process(application);
+
+    const QString profile = parser.value(u"profile"_s);
+    cQtShell shell(profile);
+    cQtRegistry registry(profile);
+    cQtUser user;
+    cQtRescue rescue;
+    const cSystemClock clock;
+    cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
+    if (!program.Start(parser.positionalArguments().value(0))) {
+        return 0; // the user knows why
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,92 @@
+#include "base/cText.h"
+#include "base/cVocabulary.h"
+#include "base/modDate.h"
+#include "base/modFold.h"
+#include "base/modMD5.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testText final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Placeholders() const
+    {
+        QCOMPARE(cText::Fill(u"{0} von {1}, {0}"_s, {u"a"_s, u"b"_s}), u"a von b, a"_s);
+        QCOMPARE(cText::Fill(u"{0}"_s, {u"{1}"_s, u"b"_s}), u"{1}"_s); // a value is not filled again
+        QCOMPARE(cText::Fill(u"{2} {x} {"_s, {u"a"_s}), u"{2} {x} {"_s);
+    }
+
+    void Dates_data() const
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QDate>("date");
+        QTest::newRow("day") << u"2024-02-29"_s << QDate(2024, 2, 29);
+        QTest::newRow("with time") << u"2024-02-29 12:30:00"_s << QDate(2024, 2, 29);
+        QTest::newRow("day that does not exist") << u"2023-02-29"_s << QDate();
+        QTest::newRow("longer without time") << u"2024-02-291"_s << QDate();
+        QTest::newRow("short") << u"2024-2-9"_s << QDate();
+        QTest::newRow("sign instead of digit") << u"2024-02--1"_s << QDate();
+        QTest::newRow("German") << u"29.02.2024"_s << QDate();
+    }
+
+    void Dates() const
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QDate, date);
+        QCOMPARE(modDate::FromIso(text), date);
+    }
+
+    void GermanDates() const
+    {
+        QCOMPARE(modDate::ToGerman(QDate(2024, 2, 9)), u"09.02.2024"_s);
+        QCOMPARE(modDate::FromGerman(u" 9.2.24 "_s), QDate(2024, 2, 9));
+        QCOMPARE(modDate::FromGerman(u"09.02.2024"_s), QDate(2024, 2, 9));
+        QVERIFY(!modDate::FromGerman(u"31.4.2024"_s).isValid());
+        QVERIFY(!modDate::FromGerman(u"9.2"_s).isValid());
+        QVERIFY(modDate::ToIso(QDate(12000, 1, 1)).isEmpty());
+    }
+
+    void Search_data() const
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<bool>("isFound");
+        QTest::newRow("umlaut left out") << u"Müller"_s << u"muller"_s << true;
+        QTest::newRow("umlaut spelled out") << u"Müller"_s << u"mueller"_s << true;
+        QTest::newRow("umlaut in the search") << u"Mueller"_s << u"müller"_s << true;
+        QTest::newRow("sharp s") << u"Straße"_s << u"STRASSE"_s << true;
+        QTest::newRow("accent") << u"Café"_s << u"cafe"_s << true;
+        QTest::newRow("words in any order") << u"Miete Wohnung März"_s << u"maerz  miete"_s << true;
+        QTest::newRow("one word missing") << u"Miete Wohnung"_s << u"miete strom"_s << false;
+        QTest::newRow("nothing asked") << u"Miete"_s << u" "_s << true;
+    }
+
+    void Search() const
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, search);
+        QFETCH(const bool, isFound);
+        QCOMPARE(modFold::HoldsAll(modFold::Fold(text), modFold::Words(search)), isFound);
+    }
+
+    void UnknownWordsStay() const
+    {
+        const cVocabulary words({"Einmalig", "Täglich"});
+        QVERIFY(words.Contains(u"Täglich"_s));
+        QCOMPARE(words.ToStored(u"Alle 5 Tage"_s), u"Alle 5 Tage"_s);
+        QCOMPARE(words.ToShown(u"Täglich"_s), u"Täglich"_s);
+    }
+
+    void Digest() const
+    {
+        QCOMPARE(modMD5::Hex(u"abc"_s), u"900150983cd24fb0d6963f7d28e17f72"_s);
+        QCOMPARE(modMD5::Hex(u"ä"_s), u"8419b71c87a225a2c70b50486fbee545"_s); // the bytes of UTF-8
+    }
+};
+
+QTEST_GUILESS_MAIN(testText)
+#include "testText.moc"

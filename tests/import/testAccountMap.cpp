@@ -1,0 +1,80 @@
+#include "cTestBook.h"
+#include "import/modAccountNumber.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testAccountMap : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sameAccount_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("bankCode");
+        QTest::addColumn<QString>("other");
+        QTest::addColumn<bool>("isSame");
+        const QString iban = u"DE81100200300001234567"_s;
+        QTest::newRow("blanks and case") << u"de81 1002 0030 0001 2345 67"_s << QString() << iban << true;
+        QTest::newRow("leading zeros") << u"0001234567"_s << QString() << u"1234567"_s << true;
+        QTest::newRow("IBAN and number") << iban << QString() << u"1234567"_s << true;
+        QTest::newRow("number and IBAN, bank known") << u"1234567"_s << u"10020030"_s << iban << true;
+        QTest::newRow("number of another bank") << u"1234567"_s << u"99920030"_s << iban << false;
+        QTest::newRow("BIC says nothing") << u"1234567"_s << u"HOHEDE01XXX"_s << iban << true;
+        QTest::newRow("foreign IBAN") << u"CH8110020030000123456"_s << QString() << u"1234567"_s << false;
+        QTest::newRow("zeros are no account") << u"0000"_s << QString() << u"DE81100200300000000000"_s << false;
+        QTest::newRow("other number") << u"1234568"_s << QString() << iban << false;
+    }
+
+    void sameAccount()
+    {
+        QFETCH(QString, number);
+        QFETCH(QString, bankCode);
+        QFETCH(QString, other);
+        QTEST(modAccountNumber::IsSame(number, bankCode, other), "isSame");
+    }
+
+    void asksOnce()
+    {
+        cTestBook book;
+        QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
+        QVERIFY(book.Accounts.Ask(u"123"_s, book.User).isEmpty()); // the user gives up
+        QCOMPARE(book.User.LastChoice.Proposal, u"Girokonto"_s);
+        book.User.Choices = {u"Sparkonto"_s};
+        QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
+        QCOMPARE(book.User.Asked.size(), 2);
+        QCOMPARE(book.Settings.Get(u"KTO:123"_s), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.Proposal(u"DE81100200300000000123"_s), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.Unknown({u"123"_s, u"4"_s}), QStringList(u"4"_s));
+    }
+
+    void addsNewAccount()
+    {
+        cTestBook book;
+        book.User.Choices = {u" Konto <123> "_s};
+        QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Konto 123"_s);
+        QVERIFY(book.Data.FindAccount(u"Konto 123"_s));
+        QCOMPARE(book.Accounts.Proposal(u"12"_s), u"Konto 123"_s); // named like the number
+        QVERIFY(!book.Accounts.Assign(u"9"_s, u" <> "_s));
+    }
+
+    void forgetsAccountsThatAreGone()
+    {
+        cTestBook book;
+        QVERIFY(book.Accounts.Assign(u"123"_s, u"Sparkonto"_s));
+        cImportEntry row;
+        row.ImportAccount = u"123"_s;
+        row.ImportBeneficiaryAccount = u"123"_s;
+        QCOMPARE(book.Accounts.getAssignedAccount(row)->TemplateName, u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.getAssignedAccountTo(row)->TemplateName, u"Sparkonto"_s);
+        QVERIFY(book.Data.DeleteTemplate(book.Data.FindAccount(u"Sparkonto"_s)->ID));
+        QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
+        QVERIFY(!book.Accounts.getAssignedAccount(row) && !book.Accounts.getAssignedAccountTo(row));
+    }
+};
+
+QTEST_GUILESS_MAIN(testAccountMap)
+#include "testAccountMap.moc"

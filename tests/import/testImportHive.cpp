@@ -1,0 +1,166 @@
+#include "import/cImportHive.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cImportEntry Row(int id, const QString& account, double value, int entryId = -1)
+{
+    cImportEntry row;
+    row.ID = id;
+    row.ImportAccount = account;
+    row.ImportDate = QDate(2026, 1, 1).addDays(id % 3);
+    row.ImportValue = value;
+    row.ImportAssigned = entryId > -1;
+    row.ImportAssignedEntry = entryId;
+    return row;
+}
+
+cImportEntryList Rows()
+{
+    return {Row(1, u"A"_s, -1.5, 7), Row(2, u"A"_s, 2.0), Row(4, u"B"_s, 3.0, 5), Row(5, u"A"_s, 4.0, 7),
+            Row(9, u"a"_s, 5.0)};
+}
+
+QList<int> Ids(const cImportEntryList& rows)
+{
+    QList<int> ids;
+    std::transform(rows.begin(), rows.end(), std::back_inserter(ids), [](const cImportEntry& row) { return row.ID; });
+    return ids;
+}
+
+} // namespace
+
+class testImportHive : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void emptyTableGivesNothing()
+    {
+        cImportHive hive;
+        hive.setImportEntryList({});
+        QVERIFY(hive.getImportEntryList().isEmpty());
+        QCOMPARE(hive.GetImportEntryCountByNumber(u"A"_s), 0);
+        QCOMPARE(hive.GetImportEntrySumByNumber(u"A"_s), 0.0);
+        QVERIFY(!hive.IsImportEntryAvail(-1));
+        QVERIFY(!hive.IsImportItemAvail(Row(1, u"A"_s, 1.0)));
+        QVERIFY(!hive.GetImportEntryByID(1));
+        QVERIFY(!hive.GetImportEntryByAssignedID(-1));
+        QVERIFY(hive.GetImportEntriesByAssignedID(7).isEmpty());
+        QVERIFY(hive.GetImportEntryByArea(7, QDate(2026, 1, 1), QDate(2026, 12, 31)).isEmpty());
+    }
+
+    void looksUp_data()
+    {
+        QTest::addColumn<bool>("isDescending");
+        QTest::newRow("ascending") << false;
+        QTest::newRow("descending") << true;
+    }
+
+    void looksUp()
+    {
+        QFETCH(bool, isDescending);
+        cImportEntryList rows = Rows();
+        if (isDescending) {
+            std::reverse(rows.begin(), rows.end());
+        }
+        cImportHive hive;
+        hive.setImportEntryList(rows);
+        for (int id = 0; id <= 10; ++id) {
+            QCOMPARE(hive.GetImportEntryByID(id).has_value(), Ids(rows).contains(id));
+        }
+        QCOMPARE(hive.GetImportEntryByAssignedID(7)->ID, isDescending ? 5 : 1);
+        QCOMPARE(Ids(hive.GetImportEntriesByAssignedID(-1)), isDescending ? (QList<int>{9, 2}) : (QList<int>{2, 9}));
+        QVERIFY(hive.IsImportEntryAvail(5) && !hive.IsImportEntryAvail(6));
+        QCOMPARE(hive.GetImportEntryCountByNumber(u"A"_s), 3);
+        QCOMPARE(hive.GetImportEntrySumByNumber(u"A"_s), 4.5);
+    }
+
+    void areaIncludesBothEnds()
+    {
+        cImportHive hive;
+        hive.setImportEntryList(Rows()); // rows 1 and 5 of entry 7 on the 2nd and 3rd
+        QCOMPARE(Ids(hive.GetImportEntryByArea(7, QDate(2026, 1, 2), QDate(2026, 1, 3))), (QList<int>{1, 5}));
+        QCOMPARE(Ids(hive.GetImportEntryByArea(7, QDate(2026, 1, 3), QDate(2026, 1, 9))), (QList<int>{5}));
+    }
+
+    void duplicateTestComparesAsIsEqual_data()
+    {
+        cImportEntry other = Row(0, u"A"_s, 2.0);
+        other.ImportDate = QDate(2026, 1, 3);
+        QTest::addColumn<cImportEntry>("entry");
+        QTest::addColumn<bool>("isDuplicate");
+        QTest::newRow("same") << other << true;
+        const auto changed = [&](auto change) {
+            cImportEntry entry = other;
+            change(entry);
+            return entry;
+        };
+        QTest::newRow("kind") << changed([](auto& e) { e.ImportType = u"x"_s; }) << true;
+        QTest::newRow("currency") << changed([](auto& e) { e.ImportCurrency = u"x"_s; }) << true;
+        QTest::newRow("day") << changed([](auto& e) { e.ImportDate = QDate(2026, 1, 4); }) << false;
+        QTest::newRow("account case") << changed([](auto& e) { e.ImportAccount = u"a"_s; }) << false;
+        QTest::newRow("name") << changed([](auto& e) { e.ImportBeneficiary = u"x"_s; }) << false;
+        QTest::newRow("counterparty") << changed([](auto& e) { e.ImportBeneficiaryAccount = u"x"_s; }) << false;
+        QTest::newRow("bank") << changed([](auto& e) { e.ImportBeneficiaryBLZ = u"x"_s; }) << false;
+        QTest::newRow("purpose") << changed([](auto& e) { e.ImportPurpose = u"x"_s; }) << false;
+        QTest::newRow("amount") << changed([](auto& e) { e.ImportValue = 2.01; }) << false;
+    }
+
+    void duplicateTestComparesAsIsEqual()
+    {
+        QFETCH(cImportEntry, entry);
+        cImportHive hive;
+        hive.setImportEntryList(Rows());
+        QTEST(hive.IsImportItemAvail(entry), "isDuplicate");
+    }
+
+    // Random writes: afterwards every lookup answers as a hive that was loaded afresh, and the duplicate test as a
+    // scan.
+    void staysInStep()
+    {
+        QRandomGenerator random(20260315);
+        const QList<double> values{0.0, -0.0, 1.0, 2.0, std::numeric_limits<double>::quiet_NaN()};
+        cImportEntryList rows = Rows();
+        cImportHive hive;
+        hive.setImportEntryList(rows);
+        for (int step = 0; step < 600; ++step) {
+            const int valueCount = step < 400 ? 4 : 5;
+            cImportEntry row = Row(random.bounded(1, 40), random.bounded(2) == 0 ? u"A"_s : u"B"_s,
+                                   values.at(random.bounded(valueCount)), random.bounded(-1, 6));
+            const auto place = std::lower_bound(rows.begin(), rows.end(), row.ID,
+                                                [](const cImportEntry& left, int id) { return left.ID < id; });
+            const bool isThere = place != rows.end() && place->ID == row.ID;
+            QCOMPARE(hive.IsImportItemAvail(row), std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& known) {
+                         return known.isEqual(row);
+                     }));
+            if (!isThere) {
+                rows.insert(place, row);
+                hive.Add(row);
+            } else if (random.bounded(2) == 0) {
+                *place = row;
+                hive.Change(row);
+            } else {
+                rows.erase(place);
+                hive.Remove(row.ID);
+            }
+            cImportHive fresh;
+            fresh.setImportEntryList(rows);
+            QCOMPARE(Ids(hive.getImportEntryList()), Ids(rows));
+            for (int entryId = -1; entryId < 6; ++entryId) {
+                QCOMPARE(Ids(hive.GetImportEntriesByAssignedID(entryId)),
+                         Ids(fresh.GetImportEntriesByAssignedID(entryId)));
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(testImportHive)
+#include "testImportHive.moc"

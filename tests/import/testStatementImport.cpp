@@ -1,0 +1,210 @@
+#include "base/modAmount.h"
+#include "cTestBook.h"
+#include "import/cStatementImport.h"
+#include "import/modMT940.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
+
+class cCancel final : public cProgress
+{
+public:
+    explicit cCancel(int after) : m_left(after) {}
+    void showProgressBar(int /*maximum*/) override {}
+    void addProgressValue(int /*steps*/) override { --m_left; }
+    [[nodiscard]] bool IsCancelled() const override { return m_left <= 0; }
+
+private:
+    int m_left;
+};
+
+QString Many(int count)
+{
+    QString text = u":20:A\r\n:25:1\r\n:60F:C260101EUR0,00\r\n"_s;
+    for (int i = 0; i < count; ++i) {
+        text += u":61:260101D1,00NTRF\r\n:86:105?20Nummer "_s + QString::number(i) + u"\r\n";
+    }
+    return text + u":62F:C260101EUR0,00\r\n-\r\n";
+}
+
+} // namespace
+
+class testStatementImport : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stagesOnce()
+    {
+        cTestBook book;
+        cStatementImport import(book.Data, book.Hive);
+        cNoProgress progress;
+        const cImportResult first = import.ImportFile(fixture, {}, progress);
+        QCOMPARE(first.Format, u"SWIFT-Kontoauszug (MT940/MT942-Datei)"_s);
+        QCOMPARE(QList<int>({first.Read, first.Staged, first.Zero, first.Failed}), QList<int>({6, 5, 1, 0}));
+        QCOMPARE(first.ClosingBalance, std::optional<qint64>(520000));
+        QCOMPARE(first.Accounts, QStringList({u"1234567"_s, u"7654321"_s}));
+        const cImportResult second = import.ImportFile(fixture, {}, progress);
+        QCOMPARE(second.Staged, 0);
+        QCOMPARE(second.Duplicates.size(), 5);
+        QCOMPARE(import.ImportFile(fixture, {eDuplicateTest::Skip, {}}, progress).Staged, 5);
+        QCOMPARE(book.Data.GetImportEntries(), book.Hive.GetImportHive().getImportEntryList());
+    }
+
+    void refusesWhatIsNoStatement_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("empty") << u"a.sta"_s << QByteArray() << u"Die Datei ist leer"_s;
+        QTest::newRow("binary") << u"a.sta"_s
+                                << QByteArray("\x7F"
+                                              "ELF\0\0:20::61::86:",
+                                              18)
+                                << u"Unbekanntes Dateiformat"_s;
+        QTest::newRow("spreadsheet") << u"a.xls"_s << QByteArray("\xD0\xCF\0", 3)
+                                     << u"wird noch nicht gelesen: Tabellen"_s;
+        QTest::newRow("text") << u"a.txt"_s << QByteArray("Hallo") << u"wird noch nicht gelesen: Character Separated"_s;
+        QTest::newRow("PDF") << u"a.pdf"_s << QByteArray("%PDF") << u"kann nicht eingelesen werden: Portable"_s;
+    }
+
+    void refusesWhatIsNoStatement()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, message);
+        cTestBook book;
+        QTemporaryDir folder;
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        cNoProgress progress;
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportFile(file.fileName(), {}, progress);
+        QVERIFY(result.IsRefused);
+        QVERIFY2(result.Message.contains(message), qPrintable(result.Message));
+        QVERIFY(book.User.Shown.isEmpty());
+    }
+
+    void missingFileIsRefused()
+    {
+        cTestBook book;
+        cNoProgress progress;
+        const cImportResult result =
+            cStatementImport(book.Data, book.Hive).ImportFile(u"/nirgends/x.sta"_s, {}, progress);
+        QVERIFY(result.IsRefused && result.Message.startsWith(u"Die Datei kann nicht geöffnet werden"));
+    }
+
+    void fileCutInATagKeepsWhatIsBefore()
+    {
+        cTestBook book;
+        cNoProgress progress;
+        const QString text = Many(3);
+        const QString cut = text.left(text.lastIndexOf(u":61:") + 2);
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a.mt940"_s, cut, {}, progress);
+        QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({2, 2}));
+        QVERIFY(!result.ClosingBalance);
+    }
+
+    void cancelKeepsWhatIsStaged()
+    {
+        cTestBook book;
+        cCancel progress(2);
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(500), {}, progress);
+        QVERIFY(result.IsCancelled);
+        QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({500, 200}));
+        QCOMPARE(book.Data.GetImportEntries().size(), 200);
+    }
+
+    void readOnlyDatabaseIsToldOnce()
+    {
+        cTestBook book;
+        book.Database.Open(book.Path(), eOpenMode::ReadOnly);
+        cNoProgress progress;
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(50), {}, progress);
+        QVERIFY(result.IsRefused && result.Message.contains(u"nur zum Lesen"));
+        QVERIFY(book.User.Shown.isEmpty());
+    }
+
+    // One refusal concerns one record, two in a row concern the database.
+    void givesUpOnARefusingDatabase()
+    {
+        cTestBook book;
+        book.WriteBehind("CREATE TRIGGER full BEFORE INSERT ON import WHEN (SELECT COUNT(*) FROM import) >= 3 "
+                         "OR NEW.ImportPurpose = 'Nummer 1' BEGIN SELECT RAISE(ABORT, 'voll'); END");
+        cNoProgress progress;
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(50), {}, progress);
+        QCOMPARE(QList<int>({result.Staged, result.Failed}), QList<int>({3, 47}));
+        QCOMPARE(book.User.Shown.size(), 3);
+        QVERIFY(result.Message.contains(u"47 Umsätze nicht angenommen"));
+        QCOMPARE(result.Problems.last().Text, result.Message);
+    }
+
+    void onlineTextReturnsClosingBalance()
+    {
+        cTestBook book;
+        cNoProgress progress;
+        cStatementImport import(book.Data, book.Hive);
+        const QString text = u":20:A\r\n:61:260101D1,00NTRF\r\n:62F:D260101EUR12,34\r\n"_s;
+        QCOMPARE(import.ImportMT940(progress, {}, text, u"4711"_s), -12.34);
+        QCOMPARE(book.Hive.GetImportHive().GetImportEntryCountByNumber(u"4711"_s), 1);
+        QCOMPARE(import.ImportMT940(progress, {}, text + u":20:B\r\n:86:x\r\n", u"4711"_s), 0.0);
+        QCOMPARE(import.ImportMT940(progress, {}, {}, {}), 0.0);
+    }
+
+    void stagingNormalises_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<eStaged>("outcome");
+        QTest::addColumn<qint64>("cents");
+        QTest::newRow("rounded") << 12.3449 << eStaged::Staged << qint64{1234};
+        QTest::newRow("zero") << 0.0 << eStaged::Zero << qint64{0};
+        QTest::newRow("less than a cent is not zero") << 0.001 << eStaged::Staged << qint64{0};
+    }
+
+    void stagingNormalises()
+    {
+        QFETCH(double, value);
+        QFETCH(qint64, cents);
+        cTestBook book;
+        cImportEntry entry;
+        entry.ImportDate = QDate(2026, 1, 1);
+        entry.ImportBeneficiary = u"O'Brien"_s;
+        entry.ImportPurpose = u"O'Brien"_s;
+        entry.ImportValue = value;
+        entry.ImportAssigned = true;
+        entry.ImportAssignedEntry = 5;
+        QTEST(cStaging(book.Hive).StageImportEntry(entry, eDuplicateTest::Test), "outcome");
+        const cImportEntry stored = book.Data.GetImportEntries().value(0);
+        QCOMPARE(modAmount::ToCents(stored.ImportValue), cents);
+        if (stored.ID != 0) {
+            QCOMPARE(stored.ImportBeneficiary, u"OBrien"_s);
+            QCOMPARE(stored.ImportPurpose, u"O'Brien"_s);
+            QCOMPARE(stored.ImportAssignedEntry, -1);
+        }
+    }
+
+    void seesWritesOfOthers()
+    {
+        cTestBook book;
+        cNoProgress progress;
+        cStatementImport import(book.Data, book.Hive);
+        QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 4);
+        book.WriteBehind("DELETE FROM import WHERE ID = 2");
+        QCOMPARE(book.Hive.GetImportHive(eKeepCache::Yes).Count(), 4);
+        QCOMPARE(book.Hive.GetImportHive().Count(), 3);
+        QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 1); // the deleted row comes back
+        QVERIFY(book.Hive.Remove(1));
+        QCOMPARE(book.Hive.GetImportHive(eKeepCache::Yes).Count(), 3);
+        QVERIFY(book.Hive.RemoveAll());
+        QCOMPARE(book.Hive.GetImportHive().Count(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(testStatementImport)
+#include "testStatementImport.moc"

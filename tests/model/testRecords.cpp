@@ -1,0 +1,157 @@
+#include "model/cImportEntry.h"
+#include "model/cTemplateItem.h"
+#include "model/modFlags.h"
+#include "model/modPeriod.h"
+#include "model/modWord.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testRecords final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PeriodNames_data() const
+    {
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<QDate>("start");
+        QTest::addColumn<QDate>("end");
+        const QDate march(2024, 3, 31);
+        const QDate january(2024, 1, 15);
+        const QDate november(2024, 11, 30);
+        QTest::newRow("Alle Buchungen") << march << QDate() << QDate();
+        QTest::newRow("Aktueller Tag") << march << march << march;
+        QTest::newRow("Buchungen bis heute") << march << QDate(1001, 1, 1) << march;
+        QTest::newRow("Aktueller Monat") << march << QDate(2024, 3, 1) << march;
+        QTest::newRow("Aktuelles Quartal") << march << QDate(2024, 1, 1) << march;
+        QTest::newRow("Aktuelles Jahr") << march << QDate(2024, 1, 1) << QDate(2024, 12, 31);
+        QTest::newRow("Letzter Monat") << march << QDate(2024, 2, 1) << QDate(2024, 2, 29);
+        QTest::newRow("Letztes Quartal") << january << QDate(2023, 10, 1) << QDate(2023, 12, 31);
+        QTest::newRow("Letztes Jahr") << january << QDate(2023, 1, 1) << QDate(2023, 12, 31);
+        QTest::newRow("Nächster Monat") << november << QDate(2024, 12, 1) << QDate(2024, 12, 31);
+        QTest::newRow("Nächstes Quartal") << november << QDate(2025, 1, 1) << QDate(2025, 3, 31);
+        QTest::newRow("Nächstes Jahr") << november << QDate(2025, 1, 1) << QDate(2025, 12, 31);
+        QTest::newRow("Freier Zeitraum") << march << QDate(2020, 5, 5) << QDate(2020, 6, 6);
+    }
+
+    void PeriodNames() const
+    {
+        QFETCH(const QDate, today);
+        QFETCH(const QDate, start);
+        QFETCH(const QDate, end);
+        const QString name = QString::fromUtf8(QTest::currentDataTag());
+        const modPeriod::cRange expected{start, end};
+        QVERIFY(modPeriod::Range(name, today, {QDate(2020, 5, 5), QDate(2020, 6, 6)}) == expected);
+        QVERIFY(modWord::Periods().Contains(name));
+    }
+
+    void CategoryPaths_data() const
+    {
+        QTest::addColumn<QString>("category");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("nothing") << QString() << QString() << u"Keine Angabe"_s;
+        QTest::newRow("sub-category alone") << QString() << u"Lotto"_s << u"Sonstiges; Lotto"_s;
+        QTest::newRow("main category alone") << u"Haushalt"_s << QString() << u"Haushalt"_s;
+        QTest::newRow("both") << u"Haushalt"_s << u"Strom"_s << u"Haushalt; Strom"_s;
+    }
+
+    void CategoryPaths() const
+    {
+        QFETCH(const QString, category);
+        QFETCH(const QString, name);
+        QFETCH(const QString, path);
+        cTemplateItem item;
+        item.TemplateCategory = category;
+        item.TemplateName = name;
+        QCOMPARE(modTemplate::Path(item), path);
+    }
+
+    void TemplateTexts() const
+    {
+        QCOMPARE(modTemplate::CleanName(u"Haus & Garten; <'\"x>"_s), u"Haus  Garten x"_s);
+        cTemplateItem item;
+        item.TemplateVisible = u"nein"_s;
+        item.TemplatePriority = u"hoch"_s;
+        item.TemplateDefaultValue = u"12,5"_s;
+        QVERIFY(modTemplate::IsVisible(item));
+        QCOMPARE(modTemplate::Priority(item), 0);
+        QCOMPARE(modTemplate::DefaultValueCents(item), 1250);
+    }
+
+    void FlagsKeepUnknownParts() const
+    {
+        const QString flags = modFlags::Set(u"farbe=rot;Notiz;split=3"_s, u"split"_s, u"4"_s);
+        QCOMPARE(modFlags::Get(flags, u"split"_s), u"4"_s);
+        QCOMPARE(modFlags::Set(flags, u"split"_s, {}), u"farbe=rot;Notiz"_s);
+        QCOMPARE(modFlags::Get(u"splitter=1"_s, u"split"_s), QString());
+    }
+
+    void StagedRowIsNormalised() const
+    {
+        cImportEntry entry;
+        entry.ImportBeneficiary = u"O'Brien"_s;
+        entry.ImportPurpose = u"it's"_s;
+        entry.ImportValue = 12.3449;
+        entry.ImportAssigned = true;
+        entry.ImportAssignedEntry = 4;
+        QVERIFY(entry.Validate());
+        QCOMPARE(entry.ImportBeneficiary, u"OBrien"_s);
+        QCOMPARE(entry.ImportPurpose, u"it's"_s);
+        QCOMPARE(entry.ImportValue, 12.34);
+        QVERIFY(!entry.ImportAssigned);
+        QCOMPARE(entry.ImportAssignedEntry, -1);
+        entry.ImportValue = 0.125;
+        QVERIFY(entry.Validate());
+        QCOMPARE(entry.ImportValue, 0.12); // halves go to the even cent
+    }
+
+    void Duplicates_data() const
+    {
+        using fnChange = void (*)(cImportEntry&);
+        QTest::addColumn<fnChange>("change");
+        QTest::addColumn<bool>("isDuplicate");
+        const auto add = [](const char* name, fnChange change, bool isDuplicate) {
+            QTest::newRow(name) << change << isDuplicate;
+        };
+        add(
+            "same", [](cImportEntry&) {}, true);
+        add(
+            "other booking text", [](cImportEntry& row) { row.ImportType = u"Lastschrift"_s; }, true);
+        add(
+            "other currency", [](cImportEntry& row) { row.ImportCurrency = u"USD"_s; }, true);
+        add(
+            "other day", [](cImportEntry& row) { row.ImportDate = row.ImportDate.addDays(1); }, false);
+        add(
+            "other case", [](cImportEntry& row) { row.ImportPurpose = u"MIETE"_s; }, false);
+        add(
+            "other bank", [](cImportEntry& row) { row.ImportBeneficiaryBLZ = u"1"_s; }, false);
+        add(
+            "other amount", [](cImportEntry& row) { row.ImportValue += 0.01; }, false);
+    }
+
+    void Duplicates() const
+    {
+        using fnChange = void (*)(cImportEntry&);
+        QFETCH(const fnChange, change);
+        QFETCH(const bool, isDuplicate);
+        cImportEntry first;
+        first.ImportDate = QDate(2024, 1, 1);
+        first.ImportPurpose = u"Miete"_s;
+        first.ImportValue = -500.0;
+        cImportEntry second = first;
+        change(second);
+        QCOMPARE(first.isEqual(second), isDuplicate);
+    }
+
+    void ViewWordsBecomeQueryWords() const
+    {
+        QCOMPARE(modWord::QueryType(u"Umbuchung"_s), u"Umbuchungen"_s);
+        QCOMPARE(modWord::QueryType(u"Alle Buchungsarten"_s), u"Alle Buchungen"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(testRecords)
+#include "testRecords.moc"

@@ -1,0 +1,155 @@
+#include "base/modDate.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cEntryItem Series(const QString& interval, QDate start, QDate end = modRecurrence::OpenEnd)
+{
+    cEntryItem entry;
+    entry.ID = 7;
+    entry.EntryDate = start;
+    entry.EntryDateEnd = end;
+    entry.EntryInterval = interval;
+    entry.EntryValue = 1000;
+    return entry;
+}
+
+cEntryItemList Expanded(const cEntryItem& entry, const modPeriod::cRange& period,
+                        const cEntryItemFixModList& fixMods = {})
+{
+    cEntryItemList occurrences;
+    modRecurrence::Expand(entry, period, fixMods, occurrences);
+    return occurrences;
+}
+
+QString Days(const cEntryItemList& occurrences)
+{
+    QStringList days;
+    for (const cEntryItem& occurrence : occurrences) {
+        days.append(modDate::ToIso(occurrence.EntryDate));
+    }
+    return days.join(u' ');
+}
+
+} // namespace
+
+class testRecurrence final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Occurrences_data() const
+    {
+        QTest::addColumn<QString>("interval");
+        QTest::addColumn<QDate>("start");
+        QTest::addColumn<QDate>("end");
+        QTest::addColumn<QDate>("from");
+        QTest::addColumn<QDate>("to");
+        QTest::addColumn<QString>("days");
+        const QDate open = modRecurrence::OpenEnd;
+        QTest::newRow("weekly") << u"Wöchentlich"_s << QDate(2024, 1, 1) << open << QDate(2024, 1, 10)
+                                << QDate(2024, 1, 20) << u"2024-01-15"_s;
+        QTest::newRow("both ends of the period count")
+            << u"Wöchentlich"_s << QDate(2024, 1, 1) << open << QDate(2024, 1, 8) << QDate(2024, 1, 15)
+            << u"2024-01-08 2024-01-15"_s;
+        QTest::newRow("end of month drifts") << u"Monatlich"_s << QDate(2024, 1, 31) << open << QDate(2024, 2, 1)
+                                             << QDate(2024, 4, 30) << u"2024-02-29 2024-03-29 2024-04-29"_s;
+        QTest::newRow("leap day drifts") << u"Jährlich"_s << QDate(2024, 2, 29) << open << QDate(2024, 1, 1)
+                                         << QDate(2028, 12, 31)
+                                         << u"2024-02-29 2025-02-28 2026-02-28 2027-02-28 2028-02-28"_s;
+        QTest::newRow("four weeks are not a month")
+            << u"Alle 4 Wochen"_s << QDate(2024, 1, 1) << open << QDate(2024, 1, 1) << QDate(2024, 2, 29)
+            << u"2024-01-01 2024-01-29 2024-02-26"_s;
+        QTest::newRow("own end before the period's")
+            << u"Alle 2 Monate"_s << QDate(2024, 1, 15) << QDate(2024, 5, 15) << QDate(2024, 1, 1)
+            << QDate(2024, 12, 31) << u"2024-01-15 2024-03-15 2024-05-15"_s;
+        QTest::newRow("open period, closed series")
+            << u"Alle 6 Monate"_s << QDate(2024, 1, 15) << QDate(2024, 7, 14) << QDate() << QDate() << u"2024-01-15"_s;
+        QTest::newRow("starts behind the period")
+            << u"Täglich"_s << QDate(2025, 1, 1) << open << QDate(2024, 1, 1) << QDate(2024, 12, 31) << QString();
+        QTest::newRow("unknown interval happens once") << u"Alle 5 Tage"_s << QDate(2024, 1, 1) << open
+                                                       << QDate(2024, 1, 1) << QDate(2024, 12, 31) << u"2024-01-01"_s;
+    }
+
+    void Occurrences() const
+    {
+        QFETCH(const QString, interval);
+        QFETCH(const QDate, start);
+        QFETCH(const QDate, end);
+        QFETCH(const QDate, from);
+        QFETCH(const QDate, to);
+        QFETCH(const QString, days);
+        QCOMPARE(Days(Expanded(Series(interval, start, end), {from, to})), days);
+    }
+
+    void OldEndsAreOpen() const
+    {
+        const cEntryItemList occurrences = Expanded(Series(u"Jährlich"_s, QDate(2020, 1, 1), QDate(1899, 12, 30)), {});
+        QCOMPARE(occurrences.size(), 31);
+        QCOMPARE(occurrences.last().EntryDate, QDate(2050, 1, 1));
+        QCOMPARE(modRecurrence::EffectiveEnd(QDate(1939, 12, 31)), modRecurrence::OpenEnd);
+        QCOMPARE(modRecurrence::EffectiveEnd(QDate(1940, 1, 1)), QDate(1940, 1, 1));
+        QCOMPARE(modRecurrence::OpenEnd, QDate(2050, 1, 1));
+    }
+
+    // The limit counts from the start of the series, also what lies before the period: a very old daily series runs
+    // dry.
+    void TenThousandSteps() const
+    {
+        const cEntryItem daily = Series(u"Täglich"_s, QDate(2000, 1, 1));
+        const cEntryItemList all = Expanded(daily, {});
+        QCOMPARE(all.size(), 10'001);
+        QCOMPARE(all.last().EntryDate, QDate(2000, 1, 1).addDays(10'000));
+        QCOMPARE(Expanded(daily, {QDate(2028, 1, 1), QDate(2028, 12, 31)}).size(), 0);
+    }
+
+    void Periods_data() const
+    {
+        QTest::addColumn<QString>("interval");
+        QTest::addColumn<QDate>("start");
+        QTest::addColumn<QDate>("end");
+        const QDate day(2024, 2, 14);
+        QTest::newRow("once") << u"Einmalig"_s << day << day;
+        QTest::newRow("day") << u"Täglich"_s << day << day;
+        QTest::newRow("week") << u"Wöchentlich"_s << day << QDate(2024, 2, 20);
+        QTest::newRow("month") << u"Monatlich"_s << QDate(2024, 2, 1) << QDate(2024, 2, 29);
+        QTest::newRow("quarter") << u"Alle 3 Monate"_s << day << QDate(2024, 5, 13);
+        QTest::newRow("year") << u"Jährlich"_s << QDate(2024, 1, 1) << QDate(2024, 12, 31);
+    }
+
+    void Periods() const
+    {
+        QFETCH(const QString, interval);
+        QFETCH(const QDate, start);
+        QFETCH(const QDate, end);
+        const modPeriod::cRange expected{start, end};
+        QVERIFY(modRecurrence::OccurrencePeriod(QDate(2024, 2, 14), interval) == expected);
+    }
+
+    void Corrections() const
+    {
+        cEntryItemFixMod february;
+        february.EntryStartDate = QDate(2024, 2, 1); // the month's first day, not the occurrence's
+        february.EntryComment = u"Nachlass"_s;
+        cEntryItemFixMod beside;
+        beside.EntryStartDate = QDate(2024, 3, 15);
+        beside.EntryValue = 99;
+        const cEntryItemList found = Expanded(Series(u"Monatlich"_s, QDate(2024, 1, 15)),
+                                              {QDate(2024, 1, 1), QDate(2024, 3, 31)}, {february, beside});
+        QCOMPARE(Days(found), u"2024-01-15 2024-02-15 2024-03-15"_s);
+        QCOMPARE(found[1].EntryValue, 0); // corrected to nothing, and still there
+        QVERIFY(found[1].IsCorrected);
+        QCOMPARE(found[1].CorrectionComment, u"Nachlass"_s);
+        QCOMPARE(found[2].EntryValue, 1000);
+        QVERIFY(!found[2].IsCorrected);
+        QCOMPARE(modRecurrence::CorrectionLabel(february), u"Manuelle Korrektur vom 01.02.2024"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(testRecurrence)
+#include "testRecurrence.moc"
