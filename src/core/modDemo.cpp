@@ -17,7 +17,7 @@ constexpr int BookedRows = 120;
 
 bool WriteStartBalances(cDataAccess& data, QDate day)
 {
-    return data.SetStartGuthaben(u"Girokonto"_s, 184250, day) && data.SetStartGuthaben(u"Sparkonto"_s, 420000, day)
+    return data.SetStartGuthaben(u"Girokonto"_s, 424250, day) && data.SetStartGuthaben(u"Sparkonto"_s, 420000, day)
         && data.SetStartGuthaben(u"Bargeld"_s, 9500, day);
 }
 

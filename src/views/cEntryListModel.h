@@ -74,6 +74,7 @@ public:
     // invalid when the list is sorted otherwise or ends before.
     [[nodiscard]] QModelIndex IndexNear(QDate day) const;
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
+    [[nodiscard]] bool HasBalances() const { return m_content.StartBalance.has_value(); }
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& child) const override;

@@ -7,13 +7,16 @@
 
 #include <QHeaderView>
 #include <QMenu>
+#include <QPainter>
 
+#include <algorithm>
 #include <array>
 
 namespace {
 
 // Widths in average characters of the font, so that they fit at every font size and scale.
-constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths{13, 14, 28, 24, 34, 19, 16, 16};
+constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths {14, 14, 27, 23, 30, 18, 16, 16};
+constexpr int leastDescription = 16;
 
 } // namespace
 
@@ -21,6 +24,8 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
 {
     setModel(&m_model);
     setItemDelegate(new cEntryDelegate(this));
+    setRootIsDecorated(false); // heads of groups draw their own arrow, so that the dates stay in line
+    setIndentation(0);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);
@@ -28,11 +33,23 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
     setAllColumnsShowFocus(true);
     setExpandsOnDoubleClick(false);
     setAccessibleName(cText::Tr("Liste der Einträge"));
+    header()->setStretchLastSection(false);
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
     header()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header(), &QWidget::customContextMenuRequested, this,
             [this](const QPoint& at) { OpenColumnMenu(header()->mapToGlobal(at)); });
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        if (m_model.EntryAt(index) == nullptr) {
+            setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+        }
+    });
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        m_fitsDescription = m_fitsDescription && (m_isFitting || !isVisible());
+        if (column != cEntryListModel::Description) {
+            FitDescription();
+        }
+    });
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cEntryTree::RestoreSelection);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &cEntryTree::ReportSelection);
@@ -42,12 +59,51 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
 void cEntryTree::SetDefaultLayout()
 {
     const int character = fontMetrics().averageCharWidth();
+    m_isFitting = true;
     for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
         header()->moveSection(header()->visualIndex(column), column);
-        header()->setSectionHidden(column, false);
         header()->resizeSection(column, defaultWidths.at(static_cast<std::size_t>(column)) * character);
     }
+    m_isFitting = false;
+    m_fitsDescription = true;
+    m_isShown.fill(true);
+    ShowColumns();
     sortByColumn(cEntryListModel::Date, Qt::AscendingOrder);
+}
+
+void cEntryTree::ShowColumns()
+{
+    m_isFitting = true;
+    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
+        const bool hasContent = column != cEntryListModel::Balance || m_model.HasBalances();
+        header()->setSectionHidden(column, !m_isShown.at(static_cast<std::size_t>(column)) || !hasContent);
+    }
+    m_isFitting = false;
+    FitDescription();
+}
+
+void cEntryTree::ShowColumn(int column, bool isShown)
+{
+    m_isShown.at(static_cast<std::size_t>(column)) = isShown;
+    ShowColumns();
+}
+
+void cEntryTree::FitDescription()
+{
+    if (!m_fitsDescription || m_isFitting || header()->isSectionHidden(cEntryListModel::Description)) {
+        return;
+    }
+    const int others = header()->length() - header()->sectionSize(cEntryListModel::Description);
+    const int least = leastDescription * fontMetrics().averageCharWidth();
+    m_isFitting = true;
+    header()->resizeSection(cEntryListModel::Description, qMax(least, viewport()->width() - others));
+    m_isFitting = false;
+}
+
+void cEntryTree::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    FitDescription();
 }
 
 QString cEntryTree::LayoutText() const
@@ -55,8 +111,10 @@ QString cEntryTree::LayoutText() const
     cListLayout layout;
     for (int visual = 0; visual < header()->count(); ++visual) {
         const int column = header()->logicalIndex(visual);
+        const bool isFitted = column == cEntryListModel::Description && m_fitsDescription;
         const bool isHidden = header()->isSectionHidden(column);
-        layout.Columns.push_back({column, isHidden ? 0 : header()->sectionSize(column), !isHidden});
+        layout.Columns.push_back({column, isHidden || isFitted ? 0 : header()->sectionSize(column),
+                                  m_isShown.at(static_cast<std::size_t>(column))});
     }
     layout.SortColumn = header()->sortIndicatorSection();
     layout.IsDescending = header()->sortIndicatorOrder() == Qt::DescendingOrder;
@@ -71,13 +129,17 @@ void cEntryTree::SetLayoutText(const QString& text)
         return;
     }
     int visual = 0;
+    m_isFitting = true;
     for (const cListLayout::cColumn& column : layout->Columns) {
         header()->moveSection(header()->visualIndex(column.Column), visual++);
         if (column.Width > 0) {
             header()->resizeSection(column.Column, column.Width);
         }
-        header()->setSectionHidden(column.Column, !column.IsShown);
+        m_fitsDescription = m_fitsDescription && (column.Column != cEntryListModel::Description || column.Width == 0);
+        m_isShown.at(static_cast<std::size_t>(column.Column)) = column.IsShown;
     }
+    m_isFitting = false;
+    ShowColumns();
     sortByColumn(layout->SortColumn, layout->IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
@@ -92,11 +154,9 @@ void cEntryTree::OpenColumnMenu(const QPoint& globalPosition)
     for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
         QAction* action = menu.addAction(m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
         action->setCheckable(true);
-        action->setChecked(!header()->isSectionHidden(column));
-        const bool isLast = action->isChecked() && header()->hiddenSectionCount() == cEntryListModel::ColumnCount - 1;
-        action->setEnabled(!isLast);
-        connect(action, &QAction::toggled, this,
-                [this, column](bool isShown) { header()->setSectionHidden(column, !isShown); });
+        action->setChecked(m_isShown.at(static_cast<std::size_t>(column)));
+        action->setEnabled(!action->isChecked() || std::count(m_isShown.begin(), m_isShown.end(), true) > 1);
+        connect(action, &QAction::toggled, this, [this, column](bool isShown) { ShowColumn(column, isShown); });
     }
     menu.addSeparator();
     connect(menu.addAction(cText::Tr("Spalten auf den Anfang zurückstellen")), &QAction::triggered, this,
@@ -141,6 +201,7 @@ QList<cEntryListModel::cKey> cEntryTree::SelectedKeys() const
 
 void cEntryTree::RestoreSelection()
 {
+    ShowColumns();
     expandToDepth(0);
     QItemSelection selection;
     const QModelIndexList rows = m_model.IndexesOf(m_selected);
@@ -161,6 +222,36 @@ void cEntryTree::ReportSelection()
     if (!m_isRebuilding) {
         Q_EMIT SelectionKeysChanged(SelectedKeys());
     }
+}
+
+void cEntryTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (m_model.EntryAt(index) != nullptr) {
+        QTreeView::drawRow(painter, option, index);
+        return;
+    }
+    // The head of a group: its name runs over the columns up to the sum.
+    const QRect row = option.rect;
+    const bool isSelected = selectionModel()->isSelected(index);
+    painter->fillRect(row, isSelected ? option.palette.highlight() : option.palette.button());
+    QStyleOption arrow;
+    arrow.rect = QRect(row.left() + 2, row.top(), row.height(), row.height());
+    arrow.palette = option.palette;
+    arrow.state = QStyle::State_Enabled;
+    const QStyle::PrimitiveElement shape = isExpanded(index) ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight;
+    style()->drawPrimitive(shape, &arrow, painter, this);
+    QFont font = option.font;
+    font.setBold(true);
+    painter->setFont(font);
+    painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::ButtonText));
+    const int sumLeft = columnViewportPosition(cEntryListModel::Amount);
+    const int sumWidth = columnWidth(cEntryListModel::Amount) - 6;
+    const QString sum = index.siblingAtColumn(cEntryListModel::Amount).data().toString();
+    painter->drawText(QRect(sumLeft, row.top(), sumWidth, row.height()), Qt::AlignRight | Qt::AlignVCenter, sum);
+    const int left = arrow.rect.right() + 4;
+    const int width = sumLeft > left ? sumLeft - left - 8 : row.right() - left;
+    const QString name = painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, width);
+    painter->drawText(QRect(left, row.top(), width, row.height()), Qt::AlignLeft | Qt::AlignVCenter, name);
 }
 
 void cEntryTree::paintEvent(QPaintEvent* event)

@@ -4,6 +4,8 @@
 
 #include <QTreeView>
 
+#include <array>
+
 // The entry list on screen: columns that can be chosen, moved and remembered, a selection that survives a rebuild, and
 // a text where there is nothing to show.
 class cEntryTree final : public QTreeView
@@ -25,9 +27,14 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void SetDefaultLayout();
+    void ShowColumns(); // as chosen; the balance only while there is one
+    void FitDescription(); // gives the description what the other columns leave
+    void ShowColumn(int column, bool isShown);
     void KeepSelection();
     void RestoreSelection();
     void ReportSelection();
@@ -37,5 +44,8 @@ private:
     QList<cEntryListModel::cKey> m_selected;
     cEntryListModel::cKey m_current;
     QString m_emptyHint;
+    std::array<bool, cEntryListModel::ColumnCount> m_isShown {}; // as the user wants it
     bool m_isRebuilding = false;
+    bool m_fitsDescription = true; // until the user sets a width
+    bool m_isFitting = false;
 };

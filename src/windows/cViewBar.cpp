@@ -117,6 +117,7 @@ void cViewBar::ShowDay(QDateEdit& edit, QDate day)
     const QSignalBlocker blocker(edit);
     edit.setDate(day.isValid() && day > openDay ? day : openDay);
     edit.setReadOnly(!m_model.IsFreePeriod());
+    edit.setCalendarPopup(m_model.IsFreePeriod());
     edit.setButtonSymbols(m_model.IsFreePeriod() ? QDateEdit::UpDownArrows : QDateEdit::NoButtons);
 }
 

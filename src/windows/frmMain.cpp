@@ -106,7 +106,7 @@ void frmMain::BuildPages(QWidget* statements)
     m_splitter->setSizes({character * 42, character * 140});
     setCentralWidget(m_splitter);
     statusBar()->addPermanentWidget(m_database);
-    resize(character * 190, fontMetrics().height() * 44);
+    resize(character * 205, fontMetrics().height() * 50);
 }
 
 QWidget* frmMain::BuildEntryPage()
@@ -196,7 +196,7 @@ void frmMain::ResetLayout()
     m_tree->SetLayoutText({});
     setWindowState(Qt::WindowNoState);
     const int character = fontMetrics().averageCharWidth();
-    resize(character * 190, fontMetrics().height() * 44);
+    resize(character * 205, fontMetrics().height() * 50);
 }
 
 void frmMain::ShowStatements()

@@ -9,18 +9,23 @@
 class cTestFile
 {
 public:
-    static constexpr const char* Tables
-        = "CREATE TABLE data (ID INTEGER PRIMARY KEY, EntryDate TEXT, EntryDateEnd TEXT, EntryType TEXT, EntryInterval TEXT,"
-          " EntryAccount TEXT, EntryAccountMove TEXT, EntryCategory TEXT, EntryValue TEXT, EntryDescription TEXT);"
-          "CREATE TABLE template (ID INTEGER PRIMARY KEY, EntryType TEXT, EntryInterval TEXT, TemplateType TEXT,"
-          " TemplateVisible TEXT, TemplateCategory TEXT, TemplateName TEXT, TemplateComment TEXT, TemplatePriority TEXT,"
-          " TemplateVAT TEXT, TemplateDefaultValue TEXT);"
-          "CREATE TABLE import (ID INTEGER PRIMARY KEY, ImportAccount TEXT, ImportDate TEXT, ImportType TEXT, ImportPurpose TEXT,"
-          " ImportBeneficiary TEXT, ImportBeneficiaryAccount TEXT, ImportBeneficiaryBLZ TEXT, ImportValue TEXT,"
-          " ImportCurrency TEXT, ImportAssigned TEXT, ImportAssignedEntry TEXT);"
-          "INSERT INTO template (TemplateType, TemplateName) VALUES ('Konto', 'Girokonto');";
+    static constexpr const char* Tables =
+        "CREATE TABLE data (ID INTEGER PRIMARY KEY, EntryDate TEXT, EntryDateEnd TEXT, EntryType TEXT, EntryInterval "
+        "TEXT,"
+        " EntryAccount TEXT, EntryAccountMove TEXT, EntryCategory TEXT, EntryValue TEXT, EntryDescription TEXT);"
+        "CREATE TABLE template (ID INTEGER PRIMARY KEY, EntryType TEXT, EntryInterval TEXT, TemplateType TEXT,"
+        " TemplateVisible TEXT, TemplateCategory TEXT, TemplateName TEXT, TemplateComment TEXT, TemplatePriority TEXT,"
+        " TemplateVAT TEXT, TemplateDefaultValue TEXT);"
+        "CREATE TABLE import (ID INTEGER PRIMARY KEY, ImportAccount TEXT, ImportDate TEXT, ImportType TEXT, "
+        "ImportPurpose TEXT,"
+        " ImportBeneficiary TEXT, ImportBeneficiaryAccount TEXT, ImportBeneficiaryBLZ TEXT, ImportValue TEXT,"
+        " ImportCurrency TEXT, ImportAssigned TEXT, ImportAssignedEntry TEXT);"
+        "INSERT INTO template (TemplateType, TemplateName) VALUES ('Konto', 'Girokonto');";
 
-    [[nodiscard]] QString Path(const QString& name = QStringLiteral("data.db")) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString Path(const QString& name = QStringLiteral("data.db")) const
+    {
+        return m_folder.filePath(name);
+    }
     [[nodiscard]] QString Folder() const { return m_folder.path(); }
 
     // Runs statements on a file, which is made when missing.

@@ -53,11 +53,14 @@ private Q_SLOTS:
         const cTestFile file;
         cDatabase database;
         database.Open(file.Make(), eOpenMode::ReadWrite);
-        const cBoundList codes {type, interval};
-        database.Execute("INSERT INTO template (ID, TemplateType, EntryType, EntryInterval) VALUES (9, 'Kategorie', ?, ?)", codes);
-        database.Execute("INSERT INTO template (ID, TemplateType, EntryType, EntryInterval) VALUES (10, 'Konto', ?, ?)", codes);
+        const cBoundList codes{type, interval};
+        database.Execute(
+            "INSERT INTO template (ID, TemplateType, EntryType, EntryInterval) VALUES (9, 'Kategorie', ?, ?)", codes);
+        database.Execute("INSERT INTO template (ID, TemplateType, EntryType, EntryInterval) VALUES (10, 'Konto', ?, ?)",
+                         codes);
         modSchema::Upgrade(database);
-        QCOMPARE(cTestFile::Value(database, "SELECT EntryType || '/' || EntryInterval FROM template WHERE ID = 9"), words);
+        QCOMPARE(cTestFile::Value(database, "SELECT EntryType || '/' || EntryInterval FROM template WHERE ID = 9"),
+                 words);
         QCOMPARE(cTestFile::Value(database, "SELECT EntryInterval FROM template WHERE ID = 10"), interval);
     }
 
@@ -79,12 +82,13 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("sql");
         QTest::addColumn<eDatabaseFault>("fault");
-        QTest::newRow("text") << QByteArray("Dies ist keine Datenbank, sondern ein längerer Text.\n").repeated(40) << QString()
-                              << eDatabaseFault::Damaged;
+        QTest::newRow("text") << QByteArray("Dies ist keine Datenbank, sondern ein längerer Text.\n").repeated(40)
+                              << QString() << eDatabaseFault::Damaged;
         QTest::newRow("empty file") << QByteArray() << QString() << eDatabaseFault::Damaged;
-        QTest::newRow("header and rubbish") << QByteArray("SQLite format 3\0", 16) + QByteArray(2000, 'x') << QString()
-                                            << eDatabaseFault::Damaged;
-        QTest::newRow("without table data") << QByteArray() << u"CREATE TABLE other (ID INTEGER)"_s << eDatabaseFault::Damaged;
+        QTest::newRow("header and rubbish")
+            << QByteArray("SQLite format 3\0", 16) + QByteArray(2000, 'x') << QString() << eDatabaseFault::Damaged;
+        QTest::newRow("without table data")
+            << QByteArray() << u"CREATE TABLE other (ID INTEGER)"_s << eDatabaseFault::Damaged;
         QTest::newRow("just the table") << QByteArray() << u"CREATE TABLE data (ID INTEGER)"_s << eDatabaseFault::None;
     }
 
@@ -130,7 +134,7 @@ private Q_SLOTS:
         QVERIFY(modSchema::StandIn(database));
         cFakeUser user;
         cDataAccess data(database, user);
-        QCOMPARE(data.GetEntries({.Start = {}, .End = QDate(2024, 3, 31)}).size(), 3);
+        QCOMPARE(data.GetEntries({{}, QDate(2024, 3, 31), {}, {}, {}}).size(), 3);
         QVERIFY(data.GetSettings().isEmpty());
         QVERIFY(data.IsReadOnly());
         QCOMPARE(user.Shown, QStringList());
@@ -176,12 +180,8 @@ private Q_SLOTS:
 
     void DefaultDatabaseWithoutRoom() const
     {
-        class cFullShell final : public cFakeShellBase
-        {
-        public:
-            bool CopyFile(const QString& /*from*/, const QString& /*to*/) override { return false; }
-        };
-        cFullShell shell;
+        cFakeShell shell;
+        shell.IsFull = true;
         cFakeUser user;
         cTestFile::Write(shell.InstalledFile(u"template.dat"_s), "template");
         (void)modSchema::GetDefaultDatabase(shell, user);

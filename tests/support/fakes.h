@@ -102,7 +102,7 @@ public:
         return Folder(QStringLiteral("program")) + u'/' + name;
     }
     bool FileExists(const QString& path) const override { return QFileInfo::exists(path); }
-    bool CopyFile(const QString& from, const QString& to) override { return QFile::copy(from, to); }
+    bool CopyFile(const QString& from, const QString& to) override { return !IsFull && QFile::copy(from, to); }
     bool RenameFile(const QString& from, const QString& to) override { return QFile::rename(from, to); }
     QString CurrencySymbol() const override { return Currency; }
     bool OpenRegionalSettings() override
@@ -121,6 +121,7 @@ public:
 
     QString Currency = QStringLiteral("€");
     int RegionalSettingsOpened = 0;
+    bool IsFull = false; // no room for another file
 
 private:
     QTemporaryDir m_root;

@@ -24,6 +24,15 @@ public:
     [[nodiscard]] bool AskPassword(const std::function<bool(const QString&)>& /*isRight*/) override { return false; }
 };
 
+// A program that was killed in the middle of a write leaves a journal behind, which only a connection that may write
+// can roll back; so a file that cannot be read as it is gets a second try.
+eDatabaseFault Fault(const QString& path)
+{
+    cDatabase probe;
+    const eDatabaseFault fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly);
+    return fault == eDatabaseFault::None ? fault : modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+}
+
 // What keeps the file from being opened, with what to do about it; empty when nothing does.
 QString Hindrance(const QString& path, const cShell& shell)
 {
@@ -34,8 +43,7 @@ QString Hindrance(const QString& path, const cShell& shell)
             "Aufruf ohne --database beginnt ein neues Buch.",
             {path});
     }
-    cDatabase probe;
-    switch (modSchema::OpenValid(probe, path, eOpenMode::ReadOnly)) {
+    switch (Fault(path)) {
     case eDatabaseFault::None: return {};
     case eDatabaseFault::Busy:
         return cText::Tr(

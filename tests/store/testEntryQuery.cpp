@@ -1,0 +1,165 @@
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cTestFile.h"
+#include "store/modSchema.h"
+#include "support/fakes.h"
+
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// One-off entries 1 to 8, series 11 to 16
+constexpr const char* household =
+    "INSERT INTO data (ID, EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, EntryAccountMove,"
+    " EntryCategory, EntryValue) VALUES"
+    " (1, '2024-01-31', '2050-01-01', 'Ausgabe', 'Einmalig', 'Giro', '', 'Haus; Strom', '10.00'),"
+    " (2, '2024-02-01', '2050-01-01', 'Einnahme', 'Einmalig', 'Giro', '', 'Haus', '20.00'),"
+    " (3, '2024-02-29 10:00:00', '2050-01-01', 'Umbuchung', 'Einmalig', 'Giro', 'Spar', 'Haus; Allgemein', '30.00'),"
+    " (4, '2024-03-01', '2050-01-01', 'Ausgabe', 'Einmalig', 'Spar', '', 'Haushalt; Essen', '40.00'),"
+    " (5, '2024-02-10', '2050-01-01', 'Ausgabe', 'Einmalig', 'O''''Hara', '', 'Kid''''s; Spiel', '50.00'),"
+    " (6, 'irgendwann', '', 'Ausgabe', 'Einmalig', 'Giro', '', 'Haus; Gas', 'viel'),"
+    " (7, '2024-02-05', '2050-01-01', 'Einnahme', 'Einmalig', 'Spar', '', 'Allgemein; Startguthaben', '70.00'),"
+    " (8, '2024-02-05', '2050-01-01', 'Einnahme', 'Einmalig', 'giro', '', 'Haus; Strom', '80.00'),"
+    " (11, '2024-01-15', '2024-02-20', 'Ausgabe', 'Monatlich', 'Giro', '', 'Haus; Miete', '1.00'),"
+    " (12, '2023-01-01', '2023-12-31', 'Ausgabe', 'Monatlich', 'Giro', '', 'Haus; Miete', '2.00'),"
+    " (13, '2024-02-28', '1899-12-30', 'Umbuchung', 'Wöchentlich', 'Spar', 'Giro', 'Haus', '3.00'),"
+    " (14, '2024-02-10', '2050-01-01', 'Ausgabe', 'Alle 5 Tage', 'Giro', '', 'Haus', '4.00'),"
+    " (15, '2024-01-10', '2050-01-01', 'Ausgabe', 'Alle 5 Tage', 'Giro', '', 'Haus', '5.00'),"
+    " (16, '2024-03-02', '2050-01-01', 'Einnahme', 'Monatlich', 'Spar', '', 'Allgemein; Startguthaben', '6.00');";
+
+struct cHousehold
+{
+    cHousehold()
+    {
+        Database.Open(File.Make(household), eOpenMode::ReadWrite);
+        modSchema::Upgrade(Database);
+        Database.ExecuteScript("INSERT INTO datamod (EntryRelation, EntryStartDate, EntryValue, EntryComment) VALUES"
+                               " (11, '2024-02-01', '0.00', 'frei'), (12, '2024-02-01', '9.00', 'fremd')");
+    }
+
+    cTestFile File;
+    cFakeUser User;
+    cDatabase Database;
+    cDataAccess Data{Database, User};
+};
+
+QString Ids(const cEntryItemList& entries)
+{
+    QStringList ids;
+    for (const cEntryItem& entry : entries) {
+        ids.append(QString::number(entry.ID));
+    }
+    return ids.join(u' ');
+}
+
+cEntryQuery February(const QString& type = {}, const QString& account = {}, const QString& category = {})
+{
+    return {QDate(2024, 2, 1), QDate(2024, 2, 29), type, account, category, eBookingKind::All};
+}
+
+QString Text(const QString& type, const QString& account, const QString& move, qint64 cents)
+{
+    return QStringList{type, account, move, QString::number(cents)}.join(u'|');
+}
+
+} // namespace
+
+class testEntryQuery final : public QObject
+{
+    Q_OBJECT
+
+    // Every query is asked for its entries and for its sums.
+    static void AddQueries()
+    {
+        QTest::addColumn<cEntryQuery>("query");
+        QTest::addColumn<QString>("ids");
+        const auto add = [](const char* name, const cEntryQuery& query, const char* ids) {
+            QTest::newRow(name) << query << QString::fromUtf8(ids);
+        };
+        add("period includes its ends", February(), "2 7 8 5 3 11 14 13");
+        add("everything of one-off", {{}, {}, {}, {}, {}, eBookingKind::Single}, "6 1 2 7 8 5 3 4");
+        add("open start", {{}, QDate(2024, 1, 31), {}, {}, {}, eBookingKind::All},
+            "1 12 12 12 12 12 12 12 12 12 12 12 12 15 11");
+        add("open end", {QDate(2024, 3, 1), {}, {}, {}, u"Haushalt"_s, eBookingKind::All}, "4");
+        add("series only", {QDate(2024, 2, 1), QDate(2024, 2, 29), {}, {}, {}, eBookingKind::Fix}, "11 14 13");
+        add("series that ended before", {QDate(2024, 2, 21), QDate(2024, 2, 27), {}, {}, {}, eBookingKind::Fix}, "");
+        add("income", February(u"Einnahmen"_s), "2 7 8");
+        add("expenses", February(u"Ausgaben"_s), "5 11 14");
+        add("transfers", February(u"Umbuchungen"_s), "3 13");
+        add("income of an account", February(u"Einnahmen"_s, u"Giro"_s), "2 13");
+        add("expenses of an account", February(u"Ausgaben"_s, u"Giro"_s), "3 11 14");
+        add("transfers of an account", February(u"Umbuchungen"_s, u"Spar"_s), "3 13");
+        add("all of an account", February(u"Alle Buchungen"_s, u"Spar"_s), "7 3 13");
+        add("account with apostrophe", February({}, u"O'Hara"_s), "5");
+        add("category with apostrophe", February({}, {}, u"Kid's"_s), "5");
+        add("category and what begins like it", {{}, {}, {}, {}, u"Haus"_s, eBookingKind::Single}, "6 1 2 8 3 4");
+        add("main category alone", {{}, {}, {}, {}, u"Haus; Allgemein"_s, eBookingKind::Single}, "2");
+        add("sub-category", {{}, {}, {}, {}, u"Haus; Strom"_s, eBookingKind::Single}, "1 8");
+        add("injection", February({}, u"x' OR '1'='1"_s), "");
+    }
+
+private Q_SLOTS:
+    void Entries_data() const { AddQueries(); }
+
+    void Entries() const
+    {
+        QFETCH(const cEntryQuery, query);
+        QFETCH(const QString, ids);
+        cHousehold book;
+        QCOMPARE(Ids(book.Data.GetEntries(query)), ids);
+        QCOMPARE(book.User.Shown, QStringList());
+    }
+
+    void Sums_data() const { AddQueries(); }
+
+    // The short way over four columns adds up to what the entries themselves give.
+    void Sums() const
+    {
+        QFETCH(const cEntryQuery, query);
+        cHousehold book;
+        for (const bool withStartBalance : {true, false}) {
+            QMap<QString, qint64> expected;
+            for (const cEntryItem& entry : book.Data.GetEntries(query)) {
+                if (withStartBalance || entry.EntryCategory != modWord::Startguthaben) {
+                    expected[Text(entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, 0)] += entry.EntryValue;
+                }
+            }
+            QMap<QString, qint64> found;
+            for (const cAccountSum& sum : book.Data.GetSums(query, withStartBalance)) {
+                found[Text(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, 0)] += sum.Cents;
+            }
+            QCOMPARE(found, expected);
+        }
+    }
+
+    void OccurrencesAreCorrected() const
+    {
+        cHousehold book;
+        const cEntryItemList series = book.Data.GetEntries({{}, {}, {}, {}, u"Haus; Miete"_s, eBookingKind::Fix});
+        const auto corrected =
+            std::find_if(series.begin(), series.end(), [](const cEntryItem& entry) { return entry.IsCorrected; });
+        QVERIFY(corrected != series.end());
+        QCOMPARE(Text(u"11"_s, corrected->EntryCategory, corrected->CorrectionComment, corrected->EntryValue),
+                 u"11|Haus; Miete|frei|0"_s);
+        QCOMPARE(corrected->EntryDate, QDate(2024, 2, 15));
+        QCOMPARE(std::count_if(series.begin(), series.end(), [](const cEntryItem& entry) { return entry.IsCorrected; }),
+                 1);
+    }
+
+    void OtherLookups() const
+    {
+        cHousehold book;
+        QCOMPARE(Ids(book.Data.GetEntriesByTarget(u"Giro"_s, u"Spar"_s, u"Umbuchung"_s)), u"3"_s);
+        QCOMPARE(Ids(book.Data.GetEntriesOfAccount(u"Spar"_s)), u"3 4 7 13 16"_s);
+        QCOMPARE(book.Data.CountEntriesOfCategory(u"Haus; Miete"_s), 2);
+        QVERIFY(book.Data.ChangeEntryCategory(u"Kid's; Neu"_s, u"Kid's; Spiel"_s));
+        QCOMPARE(book.Data.LoadEntry(5)->EntryCategory, u"Kid's; Neu"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(testEntryQuery)
+#include "testEntryQuery.moc"
