@@ -27,10 +27,12 @@ cMainProgram::~cMainProgram() = default;
 bool cMainProgram::Start(const QString& database)
 {
     cStartUp startUp({m_ports.Shell, m_ports.User, m_ports.Rescue, m_ports.Clock}, m_configuration, m_version);
+    m_language.Use({}, m_ports.Shell); // until the book says otherwise
     startUp.CheckCurrency();
     if (!OpenBook(startUp, database)) {
         return false;
     }
+    m_language.Use(m_configuration.GetSetting(QStringLiteral("LanguageName")), m_ports.Shell);
     BuildWindow();
     m_window->RestoreLayout();
     m_window->show();
@@ -45,8 +47,9 @@ bool cMainProgram::Start(const QString& database)
 
 bool cMainProgram::OpenBook(cStartUp& startUp, const QString& database)
 {
-    const cStartUp::cFound found
-        = database.isEmpty() ? startUp.FindDatabase() : cStartUp::cFound {QDir::cleanPath(QDir().absoluteFilePath(database))};
+    const cStartUp::cFound found = database.isEmpty()
+        ? startUp.FindDatabase()
+        : cStartUp::cFound{QDir::cleanPath(QDir().absoluteFilePath(database))};
     if (!OpenLocked(startUp, found.Path, found.IsFresh)) {
         return false;
     }
@@ -70,11 +73,11 @@ bool cMainProgram::OpenLocked(cStartUp& startUp, const QString& path, bool isFre
 
 bool cMainProgram::OpenForeign(const QString& path)
 {
-    const eAnswer answer
-        = m_ports.User.Ask({.Text = cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}.\nMöchten Sie sie nur zum Lesen "
-                                              "öffnen?",
-                                              {QDir::toNativeSeparators(path), cFileLock::Holder(path)}),
-                            .Title = {}});
+    const eAnswer answer =
+        m_ports.User.Ask({.Text = cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}.\nMöchten Sie sie nur zum Lesen "
+                                            "öffnen?",
+                                            {QDir::toNativeSeparators(path), cFileLock::Holder(path)}),
+                          .Title = {}});
     if (answer != eAnswer::Yes || !m_book.OpenForReading(path)) {
         return false;
     }
@@ -84,9 +87,9 @@ bool cMainProgram::OpenForeign(const QString& path)
 
 void cMainProgram::BuildWindow()
 {
-    m_model = std::make_unique<cMainModel>(cMainModel::cParts {m_book.Data(), m_book.Settings(), m_configuration, m_format,
-                                                               m_ports.User, m_ports.Clock, m_ports.Shell, *this,
-                                                               m_book.Path()});
+    m_model = std::make_unique<cMainModel>(cMainModel::cParts{m_book.Data(), m_book.Settings(), m_configuration,
+                                                              m_format, m_ports.User, m_ports.Clock, m_ports.Shell,
+                                                              *this, m_book.Path()});
     m_window = std::make_unique<frmMain>(*m_model, new QWidget);
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
 }
@@ -94,8 +97,8 @@ void cMainProgram::BuildWindow()
 void cMainProgram::OpenEntryEditor(int entryId)
 {
     cEntryEditor editor(m_book.Data(), m_ports.User, m_ports.Clock);
-    const std::optional<cEntryEditor::cFields> fields
-        = entryId == 0 ? editor.Start(m_model->View().FilterAccount()) : editor.Load(entryId);
+    const std::optional<cEntryEditor::cFields> fields =
+        entryId == 0 ? editor.Start(m_model->View().FilterAccount()) : editor.Load(entryId);
     if (!fields) {
         m_model->BookChanged(); // the entry is gone, so the list is old
         return;
@@ -105,9 +108,14 @@ void cMainProgram::OpenEntryEditor(int entryId)
     form.exec();
 }
 
-void cMainProgram::OpenImport()
+void cMainProgram::ShowStatements()
 {
     m_window->ShowStatements();
+}
+
+void cMainProgram::OpenImport()
+{
+    ShowStatements();
 }
 
 void cMainProgram::OpenColumnChooser()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/cFileLock.h"
+#include "app/cLanguage.h"
 #include "app/cSingleInstance.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
@@ -42,8 +43,10 @@ public:
     // which was brought to the front.
     [[nodiscard]] bool Start(const QString& database);
 
-    // The window; only after a successful start.
+    // The window and its model; only after a successful start.
     [[nodiscard]] frmMain& Window() { return *m_window; }
+    [[nodiscard]] cMainModel& Model() { return *m_model; }
+    void ShowStatements(); // brings the page for bank statements to the front
 
     void OpenEntryEditor(int entryId) override;
     void OpenImport() override;
@@ -60,9 +63,10 @@ private:
     QString m_version;
     cConfiguration m_configuration;
     cBook m_book;
+    cLanguage m_language;
     cFileLock m_lock;
     cSingleInstance m_instance;
-    cAmountFormat m_format {m_configuration};
+    cAmountFormat m_format{m_configuration};
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<frmMain> m_window;
 };

@@ -9,9 +9,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLibraryInfo>
 #include <QLocale>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -52,11 +50,6 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
     QApplication::setDesktopFileName(u"kontorelle"_s);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QTranslator buttons; // the toolkit's own texts, such as those of the standard buttons
-    if (buttons.load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&buttons);
-    }
-
     QCommandLineParser parser;
     parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
     parser.addHelpOption();

@@ -8,7 +8,7 @@ cImportHiveCache::cImportHiveCache(cDataAccess& data) : m_data(data)
 
 const cImportHive& cImportHiveCache::GetImportHive(eKeepCache keepCache)
 {
-    const bool isGoodEnough = m_isLoaded && (keepCache == eKeepCache::Yes || IsCurrent());
+    const bool isGoodEnough = m_isLoaded && (keepCache == eKeepCache::Yes || m_data.ImportVersion() == m_version);
     if (!isGoodEnough) {
         // The version is taken before the rows: a write that slips in between is noticed by the next access.
         m_version = m_data.ImportVersion();
@@ -18,21 +18,17 @@ const cImportHive& cImportHiveCache::GetImportHive(eKeepCache keepCache)
     return m_hive;
 }
 
-bool cImportHiveCache::IsCurrent()
-{
-    return m_isLoaded && m_data.ImportVersion() == m_version;
-}
-
 template <typename tWrite, typename tApply>
 bool cImportHiveCache::Write(const tWrite& write, const tApply& apply)
 {
-    const bool wasCurrent = IsCurrent();
     if (!write()) {
         return false;
     }
-    if (wasCurrent) {
+    // One step further means that nobody else has written since the rows were read; otherwise the next access reads
+    // them.
+    if (m_isLoaded && m_data.ImportVersion() == m_version + 1) {
         apply();
-        m_version = m_data.ImportVersion();
+        ++m_version;
     }
     return true;
 }

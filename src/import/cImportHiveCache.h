@@ -28,7 +28,6 @@ private:
     // Runs a write; `apply` brings the hive in step when nobody else has written in between.
     template <typename tWrite, typename tApply>
     [[nodiscard]] bool Write(const tWrite& write, const tApply& apply);
-    [[nodiscard]] bool IsCurrent();
 
     cDataAccess& m_data;
     cImportHive m_hive;

@@ -26,6 +26,9 @@ QStringView KeywordAt(QStringView text)
 qsizetype NextKeyword(QStringView text)
 {
     for (qsizetype plus = text.indexOf(u'+'); plus >= 0; plus = text.indexOf(u'+', plus + 1)) {
+        if (plus == 0 || !text[plus - 1].isLetter()) {
+            continue;
+        }
         for (const qsizetype length : {4, 3}) {
             const qsizetype start = plus - length;
             if (start >= 0 && KeywordAt(text.mid(start)).size() == length + 1) {

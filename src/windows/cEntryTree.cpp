@@ -15,7 +15,7 @@
 namespace {
 
 // Widths in average characters of the font, so that they fit at every font size and scale.
-constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths {14, 14, 27, 23, 30, 18, 16, 16};
+constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths{14, 14, 27, 23, 30, 18, 16, 16};
 constexpr int leastDescription = 16;
 
 } // namespace
@@ -238,7 +238,8 @@ void cEntryTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, 
     arrow.rect = QRect(row.left() + 2, row.top(), row.height(), row.height());
     arrow.palette = option.palette;
     arrow.state = QStyle::State_Enabled;
-    const QStyle::PrimitiveElement shape = isExpanded(index) ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight;
+    const QStyle::PrimitiveElement shape =
+        isExpanded(index) ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight;
     style()->drawPrimitive(shape, &arrow, painter, this);
     QFont font = option.font;
     font.setBold(true);

@@ -1,0 +1,100 @@
+#include "bench/cBenchBook.h"
+#include "core/cAmountFormat.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "model/modPeriod.h"
+#include "store/cDataAccess.h"
+#include "views/cMainModel.h"
+#include "views/cNavigator.h"
+
+#include <QCoreApplication>
+
+#include <benchmark/benchmark.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+// One refresh of the main model beside the queries it makes.
+
+namespace {
+
+class cNoNavigator final : public cNavigator
+{
+public:
+    void OpenEntryEditor(int /*entryId*/) override {}
+    void OpenImport() override {}
+    void OpenColumnChooser() override {}
+    void EndProgram() override {}
+};
+
+struct cScene
+{
+    cBook& Book = cBenchBook::Large().Book();
+    cFakeRegistry Registry;
+    cFakeUser User;
+    cFakeShell Shell;
+    cFakeClock Clock{cBenchBook::Today};
+    cNoNavigator Navigator;
+    cConfiguration Configuration{Registry};
+    cAmountFormat Format{Configuration};
+    cMainModel Model{{Book.Data(), Book.Settings(), Configuration, Format, User, Clock, Shell, Navigator, Book.Path()}};
+};
+
+cEntryQuery MonthQuery()
+{
+    const modPeriod::cRange month = modPeriod::Month(cBenchBook::Today, 0);
+    cEntryQuery query;
+    query.Start = month.Start;
+    query.End = month.End;
+    return query;
+}
+
+void RefreshOfMonth(benchmark::State& state)
+{
+    cScene scene;
+    scene.Model.RestoreView(false);
+    scene.Model.ChoosePeriod(u"Aktueller Monat"_s);
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        scene.Model.RefreshView();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(RefreshOfMonth)->Unit(benchmark::kMillisecond);
+
+void QueriesOfMonth(benchmark::State& state)
+{
+    cDataAccess& data = cBenchBook::Large().Book().Data();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(data.GetEntries(MonthQuery()));
+    }
+}
+BENCHMARK(QueriesOfMonth)->Unit(benchmark::kMillisecond);
+
+// After a change of entries the balances are added up anew.
+void RefreshAfterBooking(benchmark::State& state)
+{
+    cScene scene;
+    scene.Model.RestoreView(false);
+    scene.Model.ChoosePeriod(u"Aktueller Monat"_s);
+    for (auto _ : state) {
+        scene.Model.BookChanged();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(RefreshAfterBooking)->Unit(benchmark::kMillisecond);
+
+void QueriesAfterBooking(benchmark::State& state)
+{
+    cDataAccess& data = cBenchBook::Large().Book().Data();
+    cEntryQuery toToday;
+    toToday.End = cBenchBook::Today;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(data.GetEntries(MonthQuery()));
+        benchmark::DoNotOptimize(data.GetSums(toToday, true));
+        benchmark::DoNotOptimize(data.GetAccounts());
+        benchmark::DoNotOptimize(data.CountOpenImports());
+    }
+}
+BENCHMARK(QueriesAfterBooking)->Unit(benchmark::kMillisecond);
+
+} // namespace

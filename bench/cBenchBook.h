@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/cBook.h"
+#include "support/fakes.h"
+
+#include <QDate>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
+
+// A book of the example household in a temporary folder.
+class cBenchBook
+{
+public:
+    // Without entries it is a new book.
+    explicit cBenchBook(int entries);
+
+    [[nodiscard]] cBook& Book() { return *m_book; }
+    [[nodiscard]] QString Path() const { return m_folder.filePath(QStringLiteral("book.db")); }
+
+    // The same 100,000 entries for all measurements of a run.
+    [[nodiscard]] static cBenchBook& Large();
+
+    static constexpr QDate Today = QDate::fromJulianDay(2461115); // 2026-03-15
+
+private:
+    QTemporaryDir m_folder;
+    cFakeUser m_user;
+    std::unique_ptr<cBook> m_book;
+};

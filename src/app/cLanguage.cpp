@@ -1,0 +1,23 @@
+#include "app/cLanguage.h"
+
+#include "base/cShell.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+void cLanguage::Use(const QString& code, const cShell& shell)
+{
+    QCoreApplication::removeTranslator(&m_program);
+    QCoreApplication::removeTranslator(&m_toolkit);
+    const bool isForeign =
+        !code.isEmpty() && code != u"de" && m_program.load(shell.InstalledFile(u"kontorelle_%1.qm"_s.arg(code)));
+    if (isForeign) {
+        QCoreApplication::installTranslator(&m_program);
+    }
+    const QString toolkit = u"qtbase_"_s + (isForeign ? code : u"de"_s);
+    if (m_toolkit.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&m_toolkit);
+    }
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QTranslator>
+
+class cShell;
+
+// The language of the user interface. German is what the program is written in; other languages are catalogues
+// "kontorelle_<code>.qm" beside the program, and the toolkit brings its own texts.
+class cLanguage
+{
+public:
+    // Changes to the language with this code ("de", "en"); an empty or unknown one is German.
+    void Use(const QString& code, const cShell& shell);
+
+private:
+    QTranslator m_program;
+    QTranslator m_toolkit;
+};

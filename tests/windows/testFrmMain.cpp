@@ -1,0 +1,216 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cMainModel.h"
+#include "views/cNavigator.h"
+#include "windows/cEntryTree.h"
+#include "windows/frmMain.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class cCountingNavigator final : public cNavigator
+{
+public:
+    void OpenEntryEditor(int entryId) override { Editors.append(entryId); }
+    void OpenImport() override {}
+    void OpenColumnChooser() override {}
+    void EndProgram() override { ++Ended; }
+
+    QList<int> Editors;
+    int Ended = 0;
+};
+
+class cScene
+{
+public:
+    cScene()
+    {
+        First = Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Wocheneinkauf"_s; });
+        Second = Book.Add([](cEntryItem& entry) {
+            entry.EntryAccount = u"Bargeld"_s;
+            entry.EntryDate = QDate(2026, 3, 12);
+        });
+        Window.RestoreLayout();
+        Window.show();
+        Model.RestoreView(false);
+        QTest::qWait(5);
+        Window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Window));
+        Tree().setFocus();
+    }
+
+    cEntryTree& Tree() { return *Window.findChild<cEntryTree*>(); }
+    void Select(int row) { Tree().setCurrentIndex(Model.Entries().index(row, 0)); }
+
+    cTestBook Book;
+    cAmountFormat Format{Book.Configuration};
+    cCountingNavigator Navigator;
+    cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
+                      Navigator, Book.Path()}};
+    QWidget* Statements = new QWidget;
+    frmMain Window{Model, Statements};
+    cEntryItem First;
+    cEntryItem Second;
+};
+
+} // namespace
+
+class testFrmMain final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void KeysReachTheCommands();
+    void DeleteInAFieldDeletesText();
+    void SelectionSurvivesARefresh();
+    void ColumnLayoutIsKept();
+    void ClickOnAnAccountFilters();
+    void FreePeriodOpensTheDayFields();
+    void EveryControlHasANameForScreenReaders();
+    void MnemonicsAreUniqueInEachMenu();
+};
+
+void testFrmMain::KeysReachTheCommands()
+{
+    cScene scene;
+    QTest::keyClick(&scene.Tree(), Qt::Key_N, Qt::ControlModifier);
+    QTest::keyClick(&scene.Tree(), Qt::Key_F5);
+    QTest::keyClick(&scene.Tree(), Qt::Key_E, Qt::ControlModifier); // nothing is selected
+    scene.Select(1);
+    QTest::keyClick(&scene.Tree(), Qt::Key_E, Qt::ControlModifier);
+    QCOMPARE(scene.Navigator.Editors, QList<int>({0, 0, scene.Second.ID}));
+    scene.Book.User.Answers = {eAnswer::Yes};
+    QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
+    QCOMPARE(scene.Book.Data.CountEntries(), 1);
+    scene.Select(0);
+    scene.Window.ShowStatements();
+    QTest::keyClick(&scene.Window, Qt::Key_Delete); // the list is not in front
+    QCOMPARE(scene.Book.Data.CountEntries(), 1);
+    QTest::keyClick(&scene.Window, Qt::Key_Q, Qt::AltModifier);
+    QCOMPARE(scene.Navigator.Ended, 1);
+}
+
+void testFrmMain::DeleteInAFieldDeletesText()
+{
+    cScene scene;
+    scene.Select(0);
+    auto* filter = scene.Window.findChild<QLineEdit*>(QString(), Qt::FindChildrenRecursively);
+    for (QLineEdit* edit : scene.Window.findChildren<QLineEdit*>()) {
+        filter = edit->placeholderText().isEmpty() ? filter : edit;
+    }
+    filter->setFocus();
+    QTest::keyClicks(filter, u"wochen"_s);
+    QTest::qWait(5);
+    QCOMPARE(scene.Model.Entries().rowCount(), 1);
+    QTest::keyClick(filter, Qt::Key_Home);
+    QTest::keyClick(filter, Qt::Key_Delete);
+    QCOMPARE(filter->text(), u"ochen"_s);
+    QVERIFY(scene.Book.User.Asked.isEmpty());
+}
+
+void testFrmMain::SelectionSurvivesARefresh()
+{
+    cScene scene;
+    scene.Select(1);
+    scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 1, 1); });
+    scene.Model.BookChanged();
+    QCOMPARE(scene.Tree().SelectedKeys(), QList<cEntryListModel::cKey>({{scene.Second.ID, scene.Second.EntryDate}}));
+    QCOMPARE(scene.Tree().currentIndex().row(), 2);
+    scene.Model.ChooseGrouping(u"Nach Monat"_s);
+    QCOMPARE(scene.Tree().SelectedKeys().size(), 1);
+    QVERIFY(scene.Tree().isExpanded(scene.Model.Entries().index(0, 0)));
+}
+
+void testFrmMain::ColumnLayoutIsKept()
+{
+    cScene scene;
+    scene.Tree().SetLayoutText(u"6,90,1|0,80,1|1,70,0|2,150,1|3,120,1|4,0,1|5,100,1|7,100,1|sort,6,1"_s);
+    const QString layout = scene.Tree().LayoutText();
+    QVERIFY(layout.startsWith(u"6,90,1|0,80,1|1,0,0|"_s));
+    scene.Window.close();
+    QCOMPARE(scene.Book.Settings->Get(u"MainList"_s), layout);
+    scene.Model.ResetView();
+    QVERIFY(scene.Tree().LayoutText().startsWith(u"0,"_s));
+}
+
+void testFrmMain::ClickOnAnAccountFilters()
+{
+    cScene scene;
+    QTreeView* accounts = nullptr;
+    for (QTreeView* view : scene.Window.findChildren<QTreeView*>()) {
+        accounts = view == &scene.Tree() ? accounts : view;
+    }
+    const QRect row = accounts->visualRect(scene.Model.AccountList().index(4, 0));
+    QTest::mouseClick(accounts->viewport(), Qt::LeftButton, {}, row.center());
+    QCOMPARE(scene.Model.View().Account, u"Bargeld"_s);
+    QCOMPARE(scene.Model.Entries().rowCount(), 1);
+    QTest::mouseDClick(accounts->viewport(), Qt::LeftButton, {}, row.center());
+    QCOMPARE(scene.Model.View().Account, modWord::AlleKonten);
+}
+
+void testFrmMain::FreePeriodOpensTheDayFields()
+{
+    cScene scene;
+    const QList<QDateEdit*> days = scene.Window.findChildren<QDateEdit*>();
+    QVERIFY(days.constFirst()->isReadOnly());
+    scene.Model.ChoosePeriod(modWord::FreierZeitraum);
+    QVERIFY(!days.constFirst()->isReadOnly());
+    days.constLast()->setDate(QDate(2026, 3, 11));
+    QCOMPARE(scene.Model.Entries().rowCount(), 1);
+    scene.Model.ChoosePeriod(modWord::AlleBuchungen);
+    QCOMPARE(days.constFirst()->text(), u"offen"_s);
+}
+
+void testFrmMain::EveryControlHasANameForScreenReaders()
+{
+    cScene scene;
+    QSet<const QWidget*> labelled;
+    for (const QLabel* label : scene.Window.findChildren<QLabel*>()) {
+        labelled.insert(label->buddy());
+    }
+    for (const QWidget* widget : scene.Window.findChildren<QWidget*>()) {
+        const bool isField = qobject_cast<const QComboBox*>(widget) != nullptr
+            || qobject_cast<const QDateEdit*>(widget) != nullptr || qobject_cast<const QTreeView*>(widget) != nullptr;
+        const bool isInner = widget->objectName().startsWith(u"qt_"_s)
+            || qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr
+            || widget->parentWidget()->inherits("QComboBoxPrivateContainer");
+        if (isField && !isInner) {
+            QVERIFY2(labelled.contains(widget) || !widget->accessibleName().isEmpty(),
+                     widget->metaObject()->className());
+        }
+    }
+}
+
+void testFrmMain::MnemonicsAreUniqueInEachMenu()
+{
+    cScene scene;
+    QHash<QString, QSet<QChar>> used;
+    for (const QAction* action : scene.Window.findChildren<QAction*>()) {
+        const qsizetype at = action->text().indexOf(u'&');
+        if (at < 0 || action->parent() == nullptr || !action->data().isValid()) {
+            continue;
+        }
+        const QString menu = qobject_cast<const QWidget*>(action->parent()) != nullptr
+            ? static_cast<const QWidget*>(action->parent())->objectName()
+                + QString::number(reinterpret_cast<quintptr>(action->parent()))
+            : QString();
+        const QChar letter = action->text().at(at + 1).toLower();
+        QVERIFY2(!used[menu].contains(letter), qPrintable(action->text()));
+        used[menu].insert(letter);
+    }
+    QVERIFY(used.size() >= 3);
+}
+
+QTEST_MAIN(testFrmMain)
+#include "testFrmMain.moc"

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Renders every window to PNG: light, dark, and light at 200 %.  tools/screenshots.sh [FOLDER]
+set -eu
+cd "$(dirname "$(readlink -f "$0")")/.."
+folder=${1:-build/bilder}
+program=build/dev/bin/kontorelle-screenshots
+cmake --build build/dev --target kontorelle-screenshots
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-/tmp} LC_ALL=C.UTF-8
+"$program" "$folder" light
+"$program" "$folder" dark
+QT_SCALE_FACTOR=2 "$program" "$folder/200" light
