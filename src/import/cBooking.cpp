@@ -31,6 +31,11 @@ bool HasAssigned(cImportHiveCache& hive, cImportEntry row, int entryId)
     return hive.Change(row);
 }
 
+bool IsJoiningTransfer(const cProposal& proposal)
+{
+    return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
+}
+
 } // namespace
 
 cBooking::cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
@@ -82,7 +87,8 @@ cBookingResult cBooking::Book(int rowId, const cEntryItem& entry)
 {
     QHash<int, cProposal> proposals = Propose({rowId});
     if (const auto proposal = proposals.find(rowId); proposal != proposals.end()) {
-        const bool isSameKind = proposal->Entry.EntryType == entry.EntryType;
+        const bool isSameKind =
+            proposal->Entry.EntryType == entry.EntryType && proposal->Entry.EntryInterval == entry.EntryInterval;
         proposal->Entry = entry;
         proposal->PartnerRow = isSameKind ? proposal->PartnerRow : 0;
         proposal->ExistingEntry = isSameKind ? proposal->ExistingEntry : 0;
@@ -110,7 +116,7 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
             return Join(*row, proposal, *match, result);
         }
-    } else if (proposal.ExistingEntry != 0 && m_data.LoadEntry(proposal.ExistingEntry)) {
+    } else if (IsJoiningTransfer(proposal) && m_data.LoadEntry(proposal.ExistingEntry)) {
         return JoinTransfer(*row, proposal.ExistingEntry, result);
     }
     return BookNew(*row, proposal, series, result);

@@ -55,6 +55,7 @@ void cAccountListModel::SetAccounts(const cTemplateItemList& accounts, const QHa
         }
     }
     std::vector<cRow> otherRows;
+    otherRows.reserve(others.size());
     for (const auto& [name, row] : others) {
         otherRows.push_back(row);
     }

@@ -1,8 +1,8 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "store/cTestFile.h"
 #include "store/modSchema.h"
+#include "support/cTestFile.h"
 #include "support/fakes.h"
 
 #include <QTest>

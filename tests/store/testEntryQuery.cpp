@@ -1,7 +1,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "store/cTestFile.h"
 #include "store/modSchema.h"
+#include "support/cTestFile.h"
 #include "support/fakes.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "store/cDataAccess.h"
 #include "store/cOpenSequence.h"
-#include "store/cTestFile.h"
 #include "store/modSchema.h"
+#include "support/cTestFile.h"
 #include "support/fakes.h"
 
 #include <QDir>
@@ -24,7 +24,7 @@ const QString damaged = u"Dies ist keine Datenbank. "_s.repeated(50);
 // A machine with a template and one database file.
 struct cMachine
 {
-    cMachine() { file.Make("INSERT INTO template (TemplateType, TemplateName) VALUES ('Konto', 'Neu');", Template()); }
+    cMachine() { cTestFile::Run(Template(), std::string(cTestFile::Tables)); }
 
     [[nodiscard]] QString Template() const { return Shell.InstalledFile(u"template.dat"_s); }
     [[nodiscard]] QString Path() const { return file.Path(); }
@@ -68,9 +68,9 @@ auto AsOrdinaryUser()
     });
 }
 
-constexpr QFile::Permissions readable = QFile::ReadOwner | QFile::ReadOther;
-constexpr QFile::Permissions open = readable | QFile::ExeOwner | QFile::ExeOther;
-constexpr QFile::Permissions writable = QFile::WriteOwner | QFile::WriteOther;
+constexpr QFile::Permissions readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+constexpr QFile::Permissions enterable = readable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+constexpr QFile::Permissions writable = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
 
 const QString ended = u"Die Software wird jetzt beendet. Bitte korrigieren Sie dieses Konfigurationsproblem."_s;
 const QString faulty =
@@ -170,19 +170,19 @@ private Q_SLOTS:
         QCOMPARE(machine.Others(), QStringList());
     }
 
-    // What an unfinished write of the damaged file left behind must not be played into the restored one.
+    // What SQLite keeps beside a file belongs to its content: it goes aside with the damaged one.
     void RestoredBackupStartsClean() const
     {
         cMachine machine;
         cTestFile::Write(machine.Path(), damaged.toUtf8());
-        cTestFile::Write(machine.Path() + u"-journal"_s, "rest");
+        cTestFile::Write(machine.Path() + u"-shm"_s, "rest");
         machine.Rescue.Backup = machine.file.Make(std::string(oneEntry) + lastOpenedByUs, u"good.backup"_s);
         machine.User.Answers = {eAnswer::Yes};
         QCOMPARE(machine.Run(), eOpenResult::Opened);
         QCOMPARE(machine.Entries(), 1);
         QCOMPARE(machine.Others(),
-                 QStringList({u"data.db.2026-03-15.beschaedigt"_s, u"data.db.2026-03-15.beschaedigt-journal"_s,
-                              u"good.backup"_s}));
+                 QStringList(
+                     {u"data.db.2026-03-15.beschaedigt"_s, u"data.db.2026-03-15.beschaedigt-shm"_s, u"good.backup"_s}));
     }
 
     void DamagedBackupIsNotRestored() const
@@ -223,7 +223,7 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Asked.size(), 2);
         QVERIFY(machine.User.Asked[1].contains(u"von einem anderen Programm benutzt"_s));
         QCOMPARE(machine.User.Shown, QStringList(ended));
-        QCOMPARE(machine.Others(), QStringList(u"data.db-journal"_s)); // of the other one
+        QCOMPARE(machine.Others(), QStringList());
     }
 
     void FileBeingWrittenOpensForReading() const
@@ -247,12 +247,11 @@ private Q_SLOTS:
         QTest::addColumn<eOpenResult>("result");
         QTest::addColumn<QString>("message");
         const QString reading = u"Die Datenbank '%1' kann nur gelesen werden. Änderungen werden nicht gespeichert."_s;
-        QTest::newRow("read-only file") << (open | writable) << readable
-                                        << eOpenResult::OpenedReadOnly << reading;
+        QTest::newRow("read-only file") << (enterable | writable) << readable << eOpenResult::OpenedReadOnly << reading;
         QTest::newRow("read-only folder")
-            << open << (readable | writable) << eOpenResult::OpenedReadOnly << reading;
+            << enterable << (readable | writable) << eOpenResult::OpenedReadOnly << reading;
         QTest::newRow("unreadable file")
-            << (open | writable) << QFile::Permissions() << eOpenResult::Ended
+            << (enterable | writable) << QFile::Permissions() << eOpenResult::Ended
             << u"Die Datenbank '%1' kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte."_s;
     }
 
@@ -277,7 +276,7 @@ private Q_SLOTS:
             }
             machine.Database.Close();
         }
-        QVERIFY(QFile::setPermissions(machine.file.Folder(), open | writable));
+        QVERIFY(QFile::setPermissions(machine.file.Folder(), enterable | writable));
         QVERIFY(QFile::setPermissions(machine.Path(), readable | writable));
         QVERIFY(cTestFile::Bytes(machine.Path()) == before);
         QCOMPARE(machine.Others(), QStringList());

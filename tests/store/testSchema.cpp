@@ -1,6 +1,6 @@
 #include "store/cDataAccess.h"
-#include "store/cTestFile.h"
 #include "store/modSchema.h"
+#include "support/cTestFile.h"
 #include "support/fakes.h"
 
 #include <QTest>

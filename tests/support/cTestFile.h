@@ -33,6 +33,7 @@ public:
     {
         cDatabase database;
         database.Open(path, eOpenMode::Create);
+        database.Execute("PRAGMA synchronous=OFF");
         database.ExecuteScript(sql);
     }
 

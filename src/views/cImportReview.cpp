@@ -1,0 +1,394 @@
+#include "views/cImportReview.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cSettings.h"
+#include "import/cAccountMap.h"
+#include "import/cBooking.h"
+#include "import/cImportHiveCache.h"
+#include "import/cImportResult.h"
+#include "import/cProposer.h"
+#include "import/cStatementImport.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/modImportText.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString openOnlySetting = u"HideBookedEntries"_s;
+const QString layoutSetting = u"ImportList"_s;
+
+} // namespace
+
+struct cImportReview::cWorks
+{
+    explicit cWorks(const cParts& parts)
+        : Hive(parts.Data),
+          Accounts(parts.Data, parts.Settings),
+          Booking(parts.Data, Hive, Accounts),
+          Import(parts.Data, Hive)
+    {
+    }
+
+    // One proposer per state of the book: it reads what the user chose before only once.
+    [[nodiscard]] cProposal Propose(const cImportEntry& row, cDataAccess& data)
+    {
+        auto known = Proposals.find(row.ID);
+        if (known == Proposals.end()) {
+            if (!Proposer) {
+                Proposer = std::make_unique<cProposer>(data, Hive, Accounts);
+            }
+            known = Proposals.insert(row.ID, Proposer->Propose(row));
+        }
+        return *known;
+    }
+
+    void ForgetProposals()
+    {
+        Proposer.reset();
+        Proposals.clear();
+    }
+
+    cImportHiveCache Hive;
+    cAccountMap Accounts;
+    cBooking Booking;
+    cStatementImport Import;
+    std::unique_ptr<cProposer> Proposer;
+    QHash<int, cProposal> Proposals;
+};
+
+cImportReview::cImportReview(const cParts& parts, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_works(std::make_unique<cWorks>(parts)),
+      m_rows(*this, parts.Format)
+{
+    m_rows.SetShow(IsOpenOnly() ? cStagedListModel::eShow::OpenOnly : cStagedListModel::eShow::All);
+}
+
+cImportReview::~cImportReview() = default;
+
+void cImportReview::LoadRows()
+{
+    m_works->ForgetProposals();
+    const cImportHive& hive = m_works->Hive.GetImportHive();
+    m_choices.removeIf([&](const auto& choice) {
+        const std::optional<cImportEntry> row = hive.GetImportEntryByID(choice.key());
+        return !row || row->ImportAssigned;
+    });
+    m_rows.SetRows(hive.getImportEntryList());
+}
+
+void cImportReview::Refresh()
+{
+    LoadRows();
+    Q_EMIT RowsChanged();
+}
+
+void cImportReview::ChooseFiles(cProgress& progress)
+{
+    const QStringList paths =
+        m_parts.User.ChooseFiles(cText::Tr("Kontoauszüge importieren"),
+                                 cText::Tr("CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;"
+                                           "*.ofx;*.qif|Alle Dateien|*.*"));
+    if (!paths.isEmpty()) {
+        ImportFiles(paths, progress);
+    }
+}
+
+void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
+{
+    m_summary.clear();
+    m_duplicates.clear();
+    QStringList numbers;
+    QStringList refusals;
+    for (const QString& path : paths) {
+        const cImportResult result = m_works->Import.ImportFile(path, {}, progress);
+        Report(result);
+        if (result.IsRefused) {
+            refusals.append(QFileInfo(path).fileName() + u'\n' + result.Message);
+        }
+        numbers.append(result.Accounts);
+        if (result.IsCancelled) {
+            break;
+        }
+    }
+    // The list stands behind the questions that follow, so that the user sees what they are about.
+    Refresh();
+    Q_EMIT SummaryChanged();
+    ShowRefusals(refusals);
+    AskAccounts(numbers);
+}
+
+void cImportReview::Report(const cImportResult& result)
+{
+    m_summary.append(modImportText::Summary(result, m_parts.Format));
+    m_duplicates.append(result.Duplicates);
+}
+
+void cImportReview::ShowRefusals(const QStringList& refusals)
+{
+    if (!refusals.isEmpty()) {
+        m_parts.User.Show(eTone::Exclamation, refusals.join(u"\n\n"_s));
+    }
+}
+
+void cImportReview::AskAccounts(const QStringList& numbers)
+{
+    QStringList unknown = m_works->Accounts.Unknown(numbers);
+    unknown.removeDuplicates();
+    if (unknown.isEmpty() || IsReadOnly()) {
+        return;
+    }
+    for (const QString& number : std::as_const(unknown)) {
+        if (m_works->Accounts.Ask(number, m_parts.User).isEmpty()) {
+            m_summary.append(modImportText::NoAccount(number));
+        }
+    }
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged(); // the list of accounts may have grown, and open rows belong to accounts now
+}
+
+QStringList cImportReview::Duplicates() const
+{
+    QStringList texts;
+    for (const cImportEntry& row : m_duplicates) {
+        texts.append(modImportText::Row(row, m_parts.Format));
+    }
+    return texts;
+}
+
+void cImportReview::StageDuplicates(const QList<int>& places)
+{
+    cStaging staging(m_works->Hive);
+    int staged = 0;
+    QList<int> taken = places;
+    std::sort(taken.begin(), taken.end(), std::greater<>());
+    for (const int place : std::as_const(taken)) {
+        if (place < 0 || place >= m_duplicates.size()) {
+            continue;
+        }
+        if (staging.StageImportEntry(m_duplicates[place], eDuplicateTest::Skip) != eStaged::Staged) {
+            break; // the user has been told
+        }
+        m_duplicates.removeAt(place);
+        ++staged;
+    }
+    m_summary = {cText::Tr("{0} trotzdem übernommen.", {modImportText::Count(staged)})};
+    Refresh();
+    Q_EMIT SummaryChanged();
+}
+
+void cImportReview::DropDuplicates()
+{
+    m_duplicates.clear();
+    Q_EMIT SummaryChanged();
+}
+
+void cImportReview::Book(const QList<int>& rowIds, cProgress& progress)
+{
+    QStringList numbers;
+    const cImportEntryList asked = OpenRows(rowIds);
+    for (const cImportEntry& row : asked) {
+        numbers.append(row.ImportAccount);
+    }
+    numbers.removeDuplicates();
+    AskAccounts(numbers);
+    const cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
+    m_summary = modImportText::Booked(result);
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged();
+}
+
+cImportEntryList cImportReview::OpenRows(const QList<int>& rowIds)
+{
+    cImportEntryList rows;
+    const cImportHive& hive = m_works->Hive.GetImportHive();
+    for (const int id : rowIds) {
+        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id); row && !row->ImportAssigned) {
+            rows.append(*row);
+        }
+    }
+    return rows;
+}
+
+// The proposals with what the user chose instead.
+QHash<int, cProposal> cImportReview::Chosen(const cImportEntryList& rows)
+{
+    QHash<int, cProposal> proposals;
+    for (const cImportEntry& row : rows) {
+        cProposal proposal = m_works->Propose(row, m_parts.Data);
+        const cChoice choice = m_choices.value(row.ID);
+        if (!choice.Category.isEmpty()) {
+            proposal.Entry.EntryCategory = choice.Category;
+        }
+        if (!choice.Interval.isEmpty() && choice.Interval != proposal.Entry.EntryInterval) {
+            proposal.Entry.EntryInterval = choice.Interval;
+            proposal.ExistingEntry = 0; // the series that it belonged to has another interval
+        }
+        proposals.insert(row.ID, proposal);
+    }
+    return proposals;
+}
+
+void cImportReview::Delete(const QList<int>& rowIds)
+{
+    if (rowIds.isEmpty()) {
+        return;
+    }
+    const QString question = rowIds.size() == 1
+        ? cText::Tr("Soll der markierte Umsatz gelöscht werden?\nEin daraus gebuchter Eintrag bleibt bestehen.")
+        : cText::Tr("Sollen die {0} markierten Umsätze gelöscht werden?\nDaraus gebuchte Einträge bleiben bestehen.",
+                    {QString::number(rowIds.size())});
+    if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
+        return;
+    }
+    int deleted = 0;
+    for (const int id : rowIds) {
+        if (!m_works->Hive.Remove(id)) {
+            break; // the user has been told, and the next one would fail the same way
+        }
+        m_choices.remove(id);
+        ++deleted;
+    }
+    m_summary = {cText::Tr("{0} gelöscht.", {modImportText::Count(deleted)})};
+    Refresh();
+    Q_EMIT SummaryChanged();
+}
+
+bool cImportReview::IsOpenOnly() const
+{
+    return m_parts.Settings.GetBool(openOnlySetting);
+}
+
+void cImportReview::SetOpenOnly(bool isOpenOnly)
+{
+    m_parts.Settings.SetBool(openOnlySetting, isOpenOnly);
+    m_rows.SetShow(isOpenOnly ? cStagedListModel::eShow::OpenOnly : cStagedListModel::eShow::All);
+    Q_EMIT RowsChanged();
+}
+
+void cImportReview::SetFilter(const QString& text)
+{
+    m_rows.SetFilter(text);
+    Q_EMIT RowsChanged();
+}
+
+QStringList cImportReview::Categories() const
+{
+    QStringList paths;
+    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    for (const cTemplateItem& item : items) {
+        if (item.TemplateType == modWord::Kategorie && modTemplate::IsVisible(item)) {
+            paths.append(modTemplate::Path(item));
+        }
+    }
+    paths.sort(Qt::CaseInsensitive);
+    paths.removeDuplicates();
+    return paths;
+}
+
+QStringList cImportReview::Intervals()
+{
+    return modWord::Intervals().Shown();
+}
+
+QString cImportReview::StoredInterval(const QString& shown)
+{
+    return modWord::Intervals().ToStored(shown);
+}
+
+bool cImportReview::IsReadOnly() const
+{
+    return m_parts.Data.IsReadOnly();
+}
+
+QString cImportReview::EmptyTitle() const
+{
+    return cText::Tr("Keine Daten");
+}
+
+QString cImportReview::EmptyHint() const
+{
+    if (m_rows.TotalCount() == 0) {
+        return cText::Tr("Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. "
+                         "Gelesen werden Dateien im Format MT940 und MT942.");
+    }
+    if (IsOpenOnly() && m_rows.OpenCount() == 0) {
+        return cText::Tr("Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.");
+    }
+    return cText::Tr("Kein Umsatz passt zum Filter.");
+}
+
+QString cImportReview::CountText() const
+{
+    return cText::Tr("{0} offen, {1} insgesamt",
+                     {QString::number(m_rows.OpenCount()), QString::number(m_rows.TotalCount())});
+}
+
+QString cImportReview::Layout() const
+{
+    return m_parts.Settings.Get(layoutSetting);
+}
+
+void cImportReview::SaveLayout(const QString& layout)
+{
+    if (layout != Layout() && !IsReadOnly()) {
+        m_parts.Settings.Set(layoutSetting, layout);
+    }
+}
+
+cStagedInfo cImportReview::Info(const cImportEntry& row)
+{
+    if (row.ImportAssigned) {
+        return BookedInfo(row);
+    }
+    const cProposal proposal = m_works->Propose(row, m_parts.Data);
+    const cChoice choice = m_choices.value(row.ID);
+    const bool isOwnChoice = !choice.Category.isEmpty() || !choice.Interval.isEmpty();
+    return {modImportText::Accounts(proposal.Entry),
+            choice.Category.isEmpty() ? proposal.Entry.EntryCategory : choice.Category,
+            choice.Interval.isEmpty() ? proposal.Entry.EntryInterval : choice.Interval,
+            isOwnChoice ? cText::Tr("von Hand gewählt") : modImportText::Reason(proposal)};
+}
+
+cStagedInfo cImportReview::BookedInfo(const cImportEntry& row)
+{
+    const std::optional<cEntryItem> entry = m_works->Accounts.getAssignedEntry(row);
+    return entry ? cStagedInfo{modImportText::Accounts(*entry), entry->EntryCategory, entry->EntryInterval, {}}
+                 : cStagedInfo{m_works->Accounts.AccountOf(row.ImportAccount), {}, {}, {}};
+}
+
+bool cImportReview::SetCategory(const cImportEntry& row, const QString& category)
+{
+    const QStringList paths = Categories();
+    const auto path = std::find_if(paths.begin(), paths.end(), [&](const QString& known) {
+        return known.compare(category.trimmed(), Qt::CaseInsensitive) == 0;
+    });
+    if (path == paths.end()) {
+        return false;
+    }
+    m_choices[row.ID].Category = *path;
+    return true;
+}
+
+bool cImportReview::SetInterval(const cImportEntry& row, const QString& interval)
+{
+    if (!modWord::Intervals().Contains(interval)) {
+        return false;
+    }
+    m_choices[row.ID].Interval = interval;
+    return true;
+}

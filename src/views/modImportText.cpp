@@ -1,0 +1,116 @@
+#include "views/modImportText.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "import/cBooking.h"
+#include "import/cImportResult.h"
+#include "import/cProposal.h"
+
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype shownProblems = 20; // more lines tell the user nothing new
+
+QString Read(const cImportResult& result, const cAmountFormat& format)
+{
+    QStringList parts{cText::Tr("{0} gelesen", {QString::number(result.Read)}),
+                      cText::Tr("{0} neu", {QString::number(result.Staged)})};
+    if (!result.Duplicates.isEmpty()) {
+        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(result.Duplicates.size())}));
+    }
+    if (result.Zero > 0) {
+        parts.append(cText::Tr("{0} ohne Betrag", {QString::number(result.Zero)}));
+    }
+    if (result.Failed > 0) {
+        parts.append(cText::Tr("{0} nicht gespeichert", {QString::number(result.Failed)}));
+    }
+    if (result.IsCancelled) {
+        parts.append(cText::Tr("abgebrochen"));
+    }
+    if (result.ClosingBalance) {
+        parts.append(cText::Tr("Schlusssaldo {0}", {format.Cents(*result.ClosingBalance)}));
+    }
+    return parts.join(u", "_s);
+}
+
+QString Problem(const cReadProblem& problem)
+{
+    return problem.Line > 0 ? cText::Tr("Zeile {0}: {1}", {QString::number(problem.Line), problem.Text}) : problem.Text;
+}
+
+} // namespace
+
+QString modImportText::Count(int rows)
+{
+    return rows == 1 ? cText::Tr("Ein Umsatz") : cText::Tr("{0} Umsätze", {QString::number(rows)});
+}
+
+QStringList modImportText::Summary(const cImportResult& result, const cAmountFormat& format)
+{
+    const QString name = QFileInfo(result.File).fileName();
+    if (result.IsRefused) {
+        return {cText::Tr("{0}: nicht eingelesen. {1}", {name, result.Message})};
+    }
+    QStringList lines{cText::Tr("{0}: {1}", {name, Read(result, format)})};
+    for (const cReadProblem& problem : result.Problems.first(qMin(result.Problems.size(), shownProblems))) {
+        lines.append(Problem(problem));
+    }
+    if (result.Problems.size() > shownProblems) {
+        lines.append(cText::Tr("… und {0} weitere Zeilen", {QString::number(result.Problems.size() - shownProblems)}));
+    }
+    return lines;
+}
+
+QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
+{
+    QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(modAmount::ToCents(row.ImportValue)),
+                      row.ImportBeneficiary.simplified(),
+                      (row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose).simplified()};
+    parts.removeAll(QString());
+    return parts.join(u"  ·  "_s);
+}
+
+QStringList modImportText::Booked(const cBookingResult& result)
+{
+    QStringList parts{cText::Tr("{0} gebucht", {Count(result.Rows)})};
+    parts.append(result.Entries == 1 ? cText::Tr("ein neuer Eintrag")
+                                     : cText::Tr("{0} neue Einträge", {QString::number(result.Entries)}));
+    if (result.Joined > 0) {
+        parts.append(cText::Tr("{0} zu vorhandenen Einträgen", {QString::number(result.Joined)}));
+    }
+    if (result.Failed > 0) {
+        parts.append(
+            cText::Tr("{0} nicht gebucht, weil die Datenbank nicht schreibt", {QString::number(result.Failed)}));
+    }
+    QStringList lines{parts.join(u", "_s) + u'.'};
+    for (const QString& number : result.UnknownAccounts) {
+        lines.append(NoAccount(number));
+    }
+    return lines;
+}
+
+QString modImportText::NoAccount(const QString& number)
+{
+    return number.isEmpty()
+        ? cText::Tr("Umsätze ohne Kontonummer haben noch kein Konto und werden nicht gebucht.")
+        : cText::Tr("Die Kontonummer {0} hat noch kein Konto; ihre Umsätze werden nicht gebucht.", {number});
+}
+
+QString modImportText::Accounts(const cEntryItem& entry)
+{
+    return entry.EntryAccountMove.isEmpty() ? entry.EntryAccount : entry.EntryAccount + u" → " + entry.EntryAccountMove;
+}
+
+QString modImportText::Reason(const cProposal& proposal)
+{
+    if (proposal.ExistingEntry == 0) {
+        return proposal.Reason;
+    }
+    const QString belongs = cText::Tr("gehört zu einem vorhandenen Eintrag");
+    return proposal.Reason.isEmpty() ? belongs : cText::Tr("{0}; {1}", {proposal.Reason, belongs});
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class cAmountFormat;
+struct cBookingResult;
+struct cEntryItem;
+struct cImportEntry;
+struct cImportResult;
+struct cProposal;
+
+// What the page of bank statements says, in words.
+namespace modImportText {
+
+// "ein Umsatz", "3 Umsätze"
+[[nodiscard]] QString Count(int rows);
+
+// What came of a file, and the lines of it that could not be read.
+[[nodiscard]] QStringList Summary(const cImportResult& result, const cAmountFormat& format);
+
+// A transaction in one line.
+[[nodiscard]] QString Row(const cImportEntry& row, const cAmountFormat& format);
+
+[[nodiscard]] QStringList Booked(const cBookingResult& result);
+
+// Rows of a number that still has no account
+[[nodiscard]] QString NoAccount(const QString& number);
+
+// "Girokonto", for a transfer "Girokonto → Sparkonto"
+[[nodiscard]] QString Accounts(const cEntryItem& entry);
+
+[[nodiscard]] QString Reason(const cProposal& proposal);
+
+} // namespace modImportText

@@ -1,0 +1,139 @@
+#include "core/cAmountFormat.h"
+#include "core/cConfiguration.h"
+#include "support/fakes.h"
+
+#include <QLocale>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Answers with a fixed text, in which "{0}" is the number it was given.
+class cFixedFormatter final : public cCultureFormatter
+{
+public:
+    explicit cFixedFormatter(QString text) : m_text(std::move(text)) {}
+    QString Currency(double amount) const override
+    {
+        return QString(m_text).replace(u"{0}"_s, QString::number(amount));
+    }
+
+private:
+    QString m_text;
+};
+
+struct cFormat
+{
+    explicit cFormat(const QString& culture = {})
+    {
+        Registry.Write(cConfiguration::RegistryKey, u"LanguageCurrency"_s, culture);
+    }
+
+    cFakeRegistry Registry;
+    cConfiguration Configuration{Registry};
+    cAmountFormat Format{Configuration};
+};
+
+} // namespace
+
+class testAmountFormat final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() const { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+
+    void Cultures_data() const
+    {
+        QTest::addColumn<QString>("culture");
+        QTest::addColumn<double>("amount");
+        QTest::addColumn<bool>("isNegative");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("none chosen") << QString() << 1234.5 << false << u"1.234,50\u00A0€"_s;
+        QTest::newRow("unknown culture") << u"xx-YY"_s << 1234.5 << false << u"1.234,50\u00A0€"_s;
+        QTest::newRow("name with hyphen") << u"en-GB"_s << 1234.5 << false << u"£1,234.50"_s;
+        QTest::newRow("name with underscore") << u"en_GB"_s << 1234.5 << false << u"£1,234.50"_s;
+        QTest::newRow("the sign is not the amount's") << QString() << -1234.5 << false << u"1.234,50\u00A0€"_s;
+        QTest::newRow("negative asked for") << QString() << 12.0 << true << u"-12,00\u00A0€"_s;
+        QTest::newRow("negative amount, negative asked for") << QString() << -12.0 << true << u"-12,00\u00A0€"_s;
+        QTest::newRow("half a cent") << QString() << 1.005 << false << u"1,01\u00A0€"_s;
+        QTest::newRow("nothing has no sign") << QString() << 0.004 << true << u"0,00\u00A0€"_s;
+        QTest::newRow("rupiah, whole") << u"id-ID"_s << 15000.0 << false << u"15.000"_s;
+        QTest::newRow("rupiah with decimals") << u"id-ID"_s << 1234.5 << false << u"1.234,50"_s;
+    }
+
+    void Cultures() const
+    {
+        QFETCH(const QString, culture);
+        QFETCH(const double, amount);
+        QFETCH(bool, isNegative);
+        QFETCH(const QString, text);
+        cFormat format(culture);
+        QCOMPARE(format.Format.FormatAmount(amount, isNegative), text);
+    }
+
+    void Repairs_data() const
+    {
+        QTest::addColumn<QString>("formatted");
+        QTest::addColumn<bool>("isStripped");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Swiss minus") << u"SFr.-12.00"_s << false << u"SFr. -12.00"_s;
+        QTest::newRow("rupiah below zero") << u"-Rp1.000,00"_s << false << u"-1.000"_s;
+        QTest::newRow("rupiah sign elsewhere") << u"5 Rp,00"_s << false << u"5 Rp,00"_s;
+        QTest::newRow("markup kept") << u"<1'000\">"_s << false << u"<1'000\">"_s;
+        QTest::newRow("markup stripped") << u"<1'000\">"_s << true << u"1000"_s;
+    }
+
+    void Repairs() const
+    {
+        QFETCH(const QString, formatted);
+        QFETCH(const bool, isStripped);
+        QFETCH(const QString, text);
+        cFormat format;
+        cAmountFormat repaired(format.Configuration,
+                               [&](const QString&) { return std::make_unique<cFixedFormatter>(formatted); });
+        bool isNegative = false;
+        QCOMPARE(repaired.FormatAmount(1.0, isNegative, {.StripMarkup = isStripped}), text);
+    }
+
+    void SignFromText() const
+    {
+        cFormat format;
+        bool isNegative = false;
+        QCOMPARE(format.Format.FormatAmount(u"-12,50"_s, isNegative, {.SignFromText = true}), u"-12,50\u00A0€"_s);
+        QVERIFY(isNegative);
+        QCOMPARE(format.Format.FormatAmount(u"12,50"_s, isNegative, {.SignFromText = true}), u"-12,50\u00A0€"_s);
+        QCOMPARE(format.Format.Cents(-5), u"-0,05\u00A0€"_s);
+    }
+
+    void PlainIgnoresTheCulture() const
+    {
+        cFormat format(u"id-ID"_s);
+        bool isNegative = false;
+        QCOMPARE(format.Format.FormatAmount(3.456, isNegative, {.Plain = true}), u"3,46"_s);
+        QCOMPARE(format.Format.FormatAmount(-1234.5, isNegative, {.Plain = true}), u"-1234,50"_s);
+    }
+
+    // The culture is looked up once; only the other setting replaces it.
+    void FormatterIsKept() const
+    {
+        cFormat format(u"de-DE"_s);
+        QStringList made;
+        cAmountFormat counted(format.Configuration, [&](const QString& culture) {
+            made.append(culture);
+            return std::make_unique<cFixedFormatter>(u"{0}"_s);
+        });
+        QCOMPARE(counted.Cents(-150), u"-1.5"_s);
+        format.Registry.Write(cConfiguration::RegistryKey, u"LanguageCurrency"_s, u"en-GB"_s);
+        (void)counted.Cents(1);
+        QCOMPARE(made, QStringList(u"de-DE"_s));
+        format.Registry.Write(cConfiguration::RegistryKey, u"LanguageFormat"_s, u"de-CH"_s);
+        counted.UseFormatCulture();
+        (void)counted.Cents(1);
+        QCOMPARE(made, QStringList({u"de-DE"_s, u"de-CH"_s}));
+    }
+};
+
+QTEST_GUILESS_MAIN(testAmountFormat)
+#include "testAmountFormat.moc"

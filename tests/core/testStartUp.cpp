@@ -1,0 +1,166 @@
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "core/cStartUp.h"
+#include "store/cDataAccess.h"
+#include "support/cTestFile.h"
+#include "support/fakes.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A machine with an installed program and nothing of the user's yet.
+struct cMachine
+{
+    cMachine() { cTestFile::Run(Template(), cTestFile::Tables); }
+
+    [[nodiscard]] QString Template() const { return Shell.InstalledFile(u"template.dat"_s); }
+    [[nodiscard]] QString Default() { return Shell.DataFolder() + u"/data.db"_s; }
+
+    void Configure(const QString& path) { Registry.Write(cConfiguration::RegistryKey, u"Database"_s, path); }
+
+    cFakeShell Shell;
+    cFakeUser User;
+    cFakeRescue Rescue;
+    cFakeClock Clock{QDate(2026, 3, 15)};
+    cFakeRegistry Registry;
+    cConfiguration Configuration{Registry};
+    cBook Book{User};
+    cStartUp StartUp{{Shell, User, Rescue, Clock}, Configuration, u"0.1.0"_s};
+    cTestFile File;
+};
+
+} // namespace
+
+class testStartUp final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OldCurrency_data() const
+    {
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<eAnswer>("answer");
+        QTest::addColumn<int>("asked");
+        QTest::addColumn<int>("opened");
+        QTest::newRow("euro") << u"€"_s << eAnswer::Yes << 0 << 0;
+        QTest::newRow("mark, in any form") << u" dm "_s << eAnswer::Yes << 1 << 1;
+        QTest::newRow("mark, and it stays") << u"DM"_s << eAnswer::No << 1 << 0;
+        QTest::newRow("another with these letters") << u"DMX"_s << eAnswer::Yes << 0 << 0;
+    }
+
+    void OldCurrency() const
+    {
+        QFETCH(const QString, symbol);
+        QFETCH(const eAnswer, answer);
+        QFETCH(const int, asked);
+        QFETCH(const int, opened);
+        cMachine machine;
+        machine.Shell.Currency = symbol;
+        machine.User.Answers = {answer};
+        machine.StartUp.CheckCurrency();
+        QCOMPARE(machine.User.Asked.size(), asked);
+        QCOMPARE(machine.Shell.RegionalSettingsOpened, opened);
+        QCOMPARE(machine.User.Shown,
+                 opened == 0
+                     ? QStringList()
+                     : QStringList(u"Die Software muss neu gestartet werden, wenn die Währung umgestellt wurde."_s));
+    }
+
+    void FirstStartIsSilent() const
+    {
+        cMachine machine;
+        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QCOMPARE(machine.User.Shown + machine.User.Asked, QStringList());
+        QCOMPARE(machine.Book.Path(), machine.Default());
+        QVERIFY(machine.StartUp.IsNewVersion());
+        QCOMPARE(machine.Configuration.GetSetting(u"FirstInstall"_s), u"2026-03-15"_s);
+        QCOMPARE(machine.Configuration.GetSetting(u"LastVersion"_s), u"0.1.0"_s);
+        QCOMPARE(QDir(machine.Shell.DataFolder()).entryList(QDir::Files), QStringList(u"data.db"_s)); // no copy of it
+
+        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(!machine.StartUp.IsNewVersion());
+        QVERIFY(machine.Book.Added().isEmpty());
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    void ConfiguredDatabase() const
+    {
+        cMachine machine;
+        machine.Configure(machine.File.Make({}, u"mine.db"_s));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QCOMPARE(machine.Book.Path(), machine.File.Path(u"mine.db"_s));
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    void ConfiguredDatabaseIsGone() const
+    {
+        cMachine machine;
+        machine.Configure(u"/gone/data.db"_s);
+        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QCOMPARE(machine.Book.Path(), machine.Default());
+        QCOMPARE(machine.User.Shown,
+                 QStringList(u"Die Datenbank '/gone/data.db' wurde nicht gefunden. Der "
+                             u"Standard-Datenbank-Pfad wird verwendet!"_s));
+        QCOMPARE(machine.Configuration.GetSetting(u"Database"_s), u"/gone/data.db"_s); // a disk may come back
+    }
+
+    void DamagedInstallation() const
+    {
+        cMachine machine;
+        QVERIFY(QFile::remove(machine.Template()));
+        machine.User.Answers = {eAnswer::No};
+        QVERIFY(!machine.StartUp.OpenBook(machine.Book));
+        QCOMPARE(machine.User.Shown.size(), 3);
+        QVERIFY(machine.User.Shown[0].startsWith(u"Die Installation ist beschädigt."_s));
+        QCOMPARE(machine.User.Shown[1], u"Die Standard-Datenbank konnte nicht gefunden werden!"_s);
+        QVERIFY(machine.User.Shown[2].startsWith(u"Die Software wird jetzt beendet."_s));
+        QVERIFY(!machine.Configuration.SaveSetting(u"MainKonto"_s, u"x"_s, eSettingPlace::Database));
+    }
+
+    void ChosenDatabaseIsRemembered() const
+    {
+        cMachine machine;
+        cTestFile::Write(machine.Default(), QByteArray("damaged").repeated(300));
+        machine.Rescue.Database = machine.File.Make({}, u"other.db"_s);
+        machine.User.Answers = {eAnswer::No, eAnswer::Yes};
+        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QCOMPARE(machine.Configuration.GetSetting(u"Database"_s), machine.File.Path(u"other.db"_s));
+    }
+
+    // Whoever holds the settings of a book keeps them when another file is opened.
+    void AnotherFileInTheSameBook() const
+    {
+        cMachine machine;
+        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        cSettings& settings = machine.Book.Settings();
+        QVERIFY(settings.Set(u"MainKonto"_s, u"first"_s));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, machine.File.Make()));
+        QCOMPARE(settings.Get(u"MainKonto"_s), QString());
+        QVERIFY(settings.Set(u"MainKonto"_s, u"second"_s));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, machine.Default()));
+        QCOMPARE(settings.Get(u"MainKonto"_s), u"first"_s);
+    }
+
+    void OpenWithoutQuestions() const
+    {
+        cMachine machine;
+        QVERIFY(machine.Book.Open(machine.File.Make()));
+        QCOMPARE(machine.Book.Added().size(), 24);
+        QCOMPARE(machine.Book.Data().GetAccounts().size(), 1);
+        cTestFile::Write(machine.File.Path(u"text.db"_s), QByteArray("text").repeated(300));
+        QVERIFY(!machine.Book.Open(machine.File.Path(u"text.db"_s)));
+        QVERIFY(!machine.Book.Open(machine.File.Path(u"missing.db"_s)));
+        QVERIFY(!machine.Book.IsOpen());
+        QCOMPARE(machine.User.Shown.size(), 2);
+        QVERIFY(machine.User.Shown[0].contains(u"keine gültige Datenbank"_s));
+        QVERIFY(machine.User.Shown[1].contains(u"kann nicht gelesen werden"_s));
+    }
+};
+
+QTEST_GUILESS_MAIN(testStartUp)
+#include "testStartUp.moc"
