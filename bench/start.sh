@@ -12,19 +12,17 @@ fi
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# Idle is the first moment at which the process used no processor time for 60 ms; prints milliseconds and KiB.
+# Idle is the last moment before the main thread did nothing for 100 ms; prints milliseconds and KiB.
 measure() {
-  local begin pid used last still now
+  local begin pid used last=0 still=0 now
   begin=$(date +%s%N)
+  now=$begin
   "$@" >/dev/null 2>&1 &
   pid=$!
-  last=-1
-  still=0
-  while [ $still -lt 3 ]; do
-    sleep 0.02
-    used=$(sed 's/.*) //' "/proc/$pid/stat" | cut -d' ' -f12,13 | tr ' ' '+')
-    used=$((used))
-    if [ "$used" -gt 0 ] && [ "$used" = "$last" ]; then still=$((still + 1)); else still=0; now=$(date +%s%N); fi
+  while [ $still -lt 20 ]; do
+    sleep 0.005
+    read -r used _ < "/proc/$pid/schedstat"   # nanoseconds on a processor
+    if [ "$used" -gt 4000000 ] && [ $((used - last)) -lt 100000 ]; then still=$((still + 1)); else still=0; now=$(date +%s%N); fi
     last=$used
   done
   echo "$(((now - begin) / 1000000)) $(sed -n 's/^Pss: *\([0-9]*\) kB/\1/p' "/proc/$pid/smaps_rollup")"

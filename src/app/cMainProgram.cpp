@@ -7,8 +7,10 @@
 #include "core/cStartUp.h"
 #include "store/cDataAccess.h"
 #include "views/cEntryEditor.h"
+#include "views/cImportReview.h"
 #include "views/cMainModel.h"
 #include "windows/frmBuchung.h"
+#include "windows/frmImport.h"
 #include "windows/frmMain.h"
 
 #include <QApplication>
@@ -90,8 +92,20 @@ void cMainProgram::BuildWindow()
     m_model = std::make_unique<cMainModel>(cMainModel::cParts{m_book.Data(), m_book.Settings(), m_configuration,
                                                               m_format, m_ports.User, m_ports.Clock, m_ports.Shell,
                                                               *this, m_book.Path()});
-    m_window = std::make_unique<frmMain>(*m_model, new QWidget);
+    m_review = std::make_unique<cImportReview>(
+        cImportReview::cParts {m_book.Data(), m_book.Settings(), m_format, m_ports.User});
+    m_statements = new frmImport(*m_review);
+    m_window = std::make_unique<frmMain>(*m_model, m_statements);
+    ConnectPages();
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
+}
+
+void cMainProgram::ConnectPages()
+{
+    QObject::connect(m_review.get(), &cImportReview::EntriesChanged, m_model.get(), &cMainModel::BookChanged);
+    QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_model.get(), &cMainModel::StagedRowsChanged);
+    QObject::connect(m_model.get(), &cMainModel::StagedRowsReleased, m_review.get(), &cImportReview::Refresh);
+    QObject::connect(m_window.get(), &frmMain::FilesDropped, m_statements, &frmImport::ImportFiles);
 }
 
 void cMainProgram::OpenEntryEditor(int entryId)
@@ -116,6 +130,7 @@ void cMainProgram::ShowStatements()
 void cMainProgram::OpenImport()
 {
     ShowStatements();
+    m_statements->ChooseFiles();
 }
 
 void cMainProgram::OpenColumnChooser()

@@ -13,12 +13,14 @@
 #include <memory>
 
 class cClock;
+class cImportReview;
 class cMainModel;
 class cRegistry;
 class cRescue;
 class cShell;
 class cStartUp;
 class cUser;
+class frmImport;
 class frmMain;
 
 // Puts the window program together and brings it up: ports, book, models, main window. Opens the windows that commands
@@ -46,6 +48,7 @@ public:
     // The window and its model; only after a successful start.
     [[nodiscard]] frmMain& Window() { return *m_window; }
     [[nodiscard]] cMainModel& Model() { return *m_model; }
+    [[nodiscard]] cImportReview& Review() { return *m_review; }
     void ShowStatements(); // brings the page for bank statements to the front
 
     void OpenEntryEditor(int entryId) override;
@@ -58,6 +61,7 @@ private:
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
+    void ConnectPages();
 
     cPorts m_ports;
     QString m_version;
@@ -68,5 +72,7 @@ private:
     cSingleInstance m_instance;
     cAmountFormat m_format{m_configuration};
     std::unique_ptr<cMainModel> m_model;
+    std::unique_ptr<cImportReview> m_review;
     std::unique_ptr<frmMain> m_window;
+    frmImport* m_statements = nullptr; // a page of the window
 };

@@ -89,8 +89,8 @@ public:
     [[nodiscard]] bool ReleaseImports(int entryId); // its rows are unassigned again
     [[nodiscard]] QStringList GetImportAccounts();
     [[nodiscard]] QHash<QString, int> CountOpenImports(); // own account number to number of unassigned rows
-    // Goes up by one with every write to table `import`, and by more when another connection has written: whoever caches
-    // the table compares it.
+    // Goes up by one with every write to table `import`, and by more when another connection has written: whoever
+    // caches the table compares it.
     [[nodiscard]] quint64 ImportVersion();
 
     // Table `account`

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -111,9 +113,51 @@ bool IsBeforePeriod(const cEntryItem& entry, const cEntryQuery& query)
     return query.Start.isValid() && entry.EntryDate < query.Start && !modRecurrence::IsRecurring(entry.EntryInterval);
 }
 
+// Stable, so that entries of one day stay in the order of the rows.
+void SortByDate(cEntryItemList& entries)
+{
+    const auto isEarlier = [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; };
+    if (std::is_sorted(entries.cbegin(), entries.cend(), isEarlier)) {
+        return;
+    }
+    std::vector<std::pair<qint64, qsizetype>> order; // day and position
+    order.reserve(static_cast<size_t>(entries.size()));
+    for (const cEntryItem& entry : std::as_const(entries)) {
+        order.emplace_back(entry.EntryDate.toJulianDay(), static_cast<qsizetype>(order.size()));
+    }
+    std::sort(order.begin(), order.end());
+    cEntryItemList sorted;
+    sorted.reserve(entries.size());
+    for (const auto& [day, position] : order) {
+        sorted.append(std::move(entries[position]));
+    }
+    entries = std::move(sorted);
+}
+
+// Reads rows as they lie in the table. False when a date is not just a day: only SQLite knows where that row belongs.
+bool ReadUnordered(cDatabase& database, const cCondition& where, cEntryItemList& entries)
+{
+    constexpr size_t plainDay = 10; // "yyyy-mm-dd"
+    cEntryReader reader;
+    cRows rows(database, cEntryReader::Select + where.Sql, where.Values);
+    while (rows.Next()) {
+        const cEntryItem& entry = entries.emplace_back(reader.Read(rows));
+        if (rows.Bytes(1).size() != plainDay || !entry.EntryDate.isValid()) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
 {
+    // SQLite carries all columns through its sorter, which takes longer than to read them. So the days are sorted here.
     const cCondition where = ConditionOf(query, eRepetition::Once);
+    if (ReadUnordered(database, where, entries)) {
+        SortByDate(entries);
+        return;
+    }
+    entries.clear();
     cEntryReader reader;
     cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
     while (rows.Next()) {

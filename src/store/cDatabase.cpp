@@ -12,9 +12,11 @@
 
 struct cDatabase::cConnection
 {
+    cConnection(const QString& path, int flags, int busyTimeout) : Handle(path.toStdString(), flags, busyTimeout) {}
+
     SQLite::Database Handle;
     // Prepared statements that nobody is using at the moment, by their text
-    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle{};
+    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle;
 };
 
 struct cRows::cState
@@ -59,12 +61,13 @@ auto Translate(tCall call)
 
 int FlagsOf(eOpenMode mode)
 {
+    // The program has one thread, so the connection needs no locks of its own: they cost a fifth of the time of a scan.
     switch (mode) {
-    case eOpenMode::ReadOnly: return SQLite::OPEN_READONLY;
-    case eOpenMode::Create: return SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE;
+    case eOpenMode::ReadOnly: return SQLite::OPEN_READONLY | SQLite::OPEN_NOMUTEX;
+    case eOpenMode::Create: return SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX;
     case eOpenMode::ReadWrite: break;
     }
-    return SQLite::OPEN_READWRITE;
+    return SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX;
 }
 
 void Bind(SQLite::Statement& statement, const cBoundList& values)
@@ -93,10 +96,7 @@ cDatabase::~cDatabase() = default;
 void cDatabase::Open(const QString& path, eOpenMode mode)
 {
     Close();
-    m_connection = Translate([&] {
-        return std::unique_ptr<cConnection>(
-            new cConnection{SQLite::Database(path.toStdString(), FlagsOf(mode), m_busyTimeout)});
-    });
+    m_connection = Translate([&] { return std::make_unique<cConnection>(path, FlagsOf(mode), m_busyTimeout); });
     m_path = path;
     m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
 }

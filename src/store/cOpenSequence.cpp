@@ -135,6 +135,7 @@ cOpenSequence::eStep cOpenSequence::OfferOtherPath()
 
 void cOpenSequence::Repair()
 {
+    m_origin = eOrigin::Existing; // whatever comes in its place may be somebody's data
     if (AskAboutFault(
             cText::Tr("Die Datenbank '{0}' ist beschädigt oder keine gültige Datenbank. Bitte laden Sie eine "
                       "Datenbanksicherung oder ändern Sie den Datenbankpfad. Möchten Sie jetzt eine Datensicherung "

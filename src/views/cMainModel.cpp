@@ -184,6 +184,14 @@ void cMainModel::BookChanged()
     RefreshView();
 }
 
+void cMainModel::StagedRowsChanged()
+{
+    m_balancesOf = QDate();
+    m_accountItems = m_parts.Data.GetAccounts(); // a new bank account may have brought a new account
+    tmrRefreshAccounts.start(0);
+    Q_EMIT ViewChanged();
+}
+
 void cMainModel::ChoosePeriod(const QString& name)
 {
     if (!modWord::Periods().Contains(name)) {

@@ -80,8 +80,10 @@ public:
     // The selected occurrences, given by the list.
     void SetSelection(const QList<cEntryListModel::cKey>& selection);
 
-    // After entries, accounts or staged rows changed elsewhere.
+    // After entries or accounts changed elsewhere.
     void BookChanged();
+    // After staged rows came, went or were booked: their numbers stand beside the accounts.
+    void StagedRowsChanged();
 
     // Renames an account with all its questions.
     void RenameAccount(const QString& oldName);

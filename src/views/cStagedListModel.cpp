@@ -231,7 +231,7 @@ QString cStagedListModel::Tip(const cImportEntry& row, int column) const
         return Text(row, column);
     }
     QStringList lines{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
-                      (row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
+                      QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
     lines.removeAll(QString());
     return lines.join(u'\n');
 }
@@ -247,7 +247,7 @@ QVariant cStagedListModel::data(const QModelIndex& index, int role) const
     case Qt::EditRole: return index.column() == Interval ? InfoOf(row).Interval : Text(row, index.column());
     case Qt::ToolTipRole: return Tip(row, index.column());
     case Qt::TextAlignmentRole:
-        return index.column() == Amount ? QVariant(int{Qt::AlignRight | Qt::AlignVCenter}) : QVariant();
+        return index.column() == Amount ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case ToneRole: return row.ImportValue > 0.0 ? 1 : (row.ImportValue < 0.0 ? 2 : 0);
     case RowIdRole: return row.ID;
     case BookedRole: return row.ImportAssigned;
@@ -283,7 +283,8 @@ QVariant cStagedListModel::headerData(int section, Qt::Orientation orientation, 
         return {};
     }
     if (role == Qt::TextAlignmentRole) {
-        return int{(section == Amount ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter};
+        return QVariant::fromValue(Qt::Alignment(section == Amount ? Qt::AlignRight : Qt::AlignLeft)
+                                   | Qt::AlignVCenter);
     }
     if (role != Qt::DisplayRole) {
         return {};

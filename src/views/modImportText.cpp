@@ -108,9 +108,6 @@ QString modImportText::Accounts(const cEntryItem& entry)
 
 QString modImportText::Reason(const cProposal& proposal)
 {
-    if (proposal.ExistingEntry == 0) {
-        return proposal.Reason;
-    }
-    const QString belongs = cText::Tr("gehört zu einem vorhandenen Eintrag");
-    return proposal.Reason.isEmpty() ? belongs : cText::Tr("{0}; {1}", {proposal.Reason, belongs});
+    const QString reason = proposal.Reason.isEmpty() ? cText::Tr("keine Regel passt") : proposal.Reason;
+    return proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
 }

@@ -1,4 +1,4 @@
-#include "cTestBook.h"
+#include "cImportBook.h"
 #include "import/modAccountNumber.h"
 
 #include <QTest>
@@ -38,7 +38,7 @@ private Q_SLOTS:
 
     void asksOnce()
     {
-        cTestBook book;
+        cImportBook book;
         QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
         QVERIFY(book.Accounts.Ask(u"123"_s, book.User).isEmpty()); // the user gives up
         QCOMPARE(book.User.LastChoice.Proposal, u"Girokonto"_s);
@@ -46,14 +46,14 @@ private Q_SLOTS:
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.User.Asked.size(), 2);
-        QCOMPARE(book.Settings.Get(u"KTO:123"_s), u"Sparkonto"_s);
+        QCOMPARE(book.Settings->Get(u"KTO:123"_s), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Proposal(u"DE81100200300000000123"_s), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Unknown({u"123"_s, u"4"_s}), QStringList(u"4"_s));
     }
 
     void addsNewAccount()
     {
-        cTestBook book;
+        cImportBook book;
         book.User.Choices = {u" Konto <123> "_s};
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Konto 123"_s);
         QVERIFY(book.Data.FindAccount(u"Konto 123"_s));
@@ -63,7 +63,7 @@ private Q_SLOTS:
 
     void forgetsAccountsThatAreGone()
     {
-        cTestBook book;
+        cImportBook book;
         QVERIFY(book.Accounts.Assign(u"123"_s, u"Sparkonto"_s));
         cImportEntry row;
         row.ImportAccount = u"123"_s;

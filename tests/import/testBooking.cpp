@@ -1,4 +1,4 @@
-#include "cTestBook.h"
+#include "cImportBook.h"
 #include "import/cBooking.h"
 #include "import/cProposer.h"
 #include "import/cStatementImport.h"
@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cBank : cTestBook
+struct cBank : cImportBook
 {
     cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
 

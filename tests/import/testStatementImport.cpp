@@ -1,5 +1,5 @@
 #include "base/modAmount.h"
-#include "cTestBook.h"
+#include "cImportBook.h"
 #include "import/cStatementImport.h"
 #include "import/modMT940.h"
 
@@ -41,7 +41,7 @@ class testStatementImport : public QObject
 private Q_SLOTS:
     void stagesOnce()
     {
-        cTestBook book;
+        cImportBook book;
         cStatementImport import(book.Data, book.Hive);
         cNoProgress progress;
         const cImportResult first = import.ImportFile(fixture, {}, progress);
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
         QFETCH(QString, message);
-        cTestBook book;
+        cImportBook book;
         QTemporaryDir folder;
         QFile file(folder.filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void missingFileIsRefused()
     {
-        cTestBook book;
+        cImportBook book;
         cNoProgress progress;
         const cImportResult result =
             cStatementImport(book.Data, book.Hive).ImportFile(u"/nirgends/x.sta"_s, {}, progress);
@@ -102,7 +102,7 @@ private Q_SLOTS:
 
     void fileCutInATagKeepsWhatIsBefore()
     {
-        cTestBook book;
+        cImportBook book;
         cNoProgress progress;
         const QString text = Many(3);
         const QString cut = text.left(text.lastIndexOf(u":61:") + 2);
@@ -113,7 +113,7 @@ private Q_SLOTS:
 
     void cancelKeepsWhatIsStaged()
     {
-        cTestBook book;
+        cImportBook book;
         cCancel progress(2);
         const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(500), {}, progress);
         QVERIFY(result.IsCancelled);
@@ -123,7 +123,7 @@ private Q_SLOTS:
 
     void readOnlyDatabaseIsToldOnce()
     {
-        cTestBook book;
+        cImportBook book;
         book.Database.Open(book.Path(), eOpenMode::ReadOnly);
         cNoProgress progress;
         const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(50), {}, progress);
@@ -134,7 +134,7 @@ private Q_SLOTS:
     // One refusal concerns one record, two in a row concern the database.
     void givesUpOnARefusingDatabase()
     {
-        cTestBook book;
+        cImportBook book;
         book.WriteBehind("CREATE TRIGGER full BEFORE INSERT ON import WHEN (SELECT COUNT(*) FROM import) >= 3 "
                          "OR NEW.ImportPurpose = 'Nummer 1' BEGIN SELECT RAISE(ABORT, 'voll'); END");
         cNoProgress progress;
@@ -147,7 +147,7 @@ private Q_SLOTS:
 
     void onlineTextReturnsClosingBalance()
     {
-        cTestBook book;
+        cImportBook book;
         cNoProgress progress;
         cStatementImport import(book.Data, book.Hive);
         const QString text = u":20:A\r\n:61:260101D1,00NTRF\r\n:62F:D260101EUR12,34\r\n"_s;
@@ -171,7 +171,7 @@ private Q_SLOTS:
     {
         QFETCH(double, value);
         QFETCH(qint64, cents);
-        cTestBook book;
+        cImportBook book;
         cImportEntry entry;
         entry.ImportDate = QDate(2026, 1, 1);
         entry.ImportBeneficiary = u"O'Brien"_s;
@@ -191,7 +191,7 @@ private Q_SLOTS:
 
     void seesWritesOfOthers()
     {
-        cTestBook book;
+        cImportBook book;
         cNoProgress progress;
         cStatementImport import(book.Data, book.Hive);
         QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 4);

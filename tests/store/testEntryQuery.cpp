@@ -81,6 +81,8 @@ class testEntryQuery final : public QObject
             QTest::newRow(name) << query << QString::fromUtf8(ids);
         };
         add("period includes its ends", February(), "2 7 8 5 3 11 14 13");
+        add("rows out of date order", {QDate(2024, 1, 1), QDate(2024, 2, 10), {}, {}, {}, eBookingKind::Single},
+            "1 2 7 8 5");
         add("everything of one-off", {{}, {}, {}, {}, {}, eBookingKind::Single}, "6 1 2 7 8 5 3 4");
         add("open start", {{}, QDate(2024, 1, 31), {}, {}, {}, eBookingKind::All},
             "1 12 12 12 12 12 12 12 12 12 12 12 12 15 11");

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/cProgress.h"
+
+#include <QString>
+
+#include <memory>
+
+class QProgressDialog;
+class QWidget;
+
+// Progress in a box over the window. It appears only when the step takes a while, and keeps the user's hands off the
+// rest of the program until then.
+class cProgressBox final : public cProgress
+{
+public:
+    cProgressBox(QWidget* parent, const QString& text);
+    ~cProgressBox() override;
+
+    void showProgressBar(int maximum) override;
+    void addProgressValue(int steps) override;
+    [[nodiscard]] bool IsCancelled() const override;
+
+private:
+    std::unique_ptr<QProgressDialog> m_dialog;
+};

@@ -1,0 +1,201 @@
+#include "base/cProgress.h"
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cImportReview.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
+
+// A new book with the page over it.
+struct cPage : cTestBook
+{
+    // The giro statement with both account numbers assigned.
+    void ImportFixture()
+    {
+        User.Choices = {u"Girokonto"_s, u"Sparkonto"_s};
+        Review.ImportFiles({fixture}, Progress);
+    }
+
+    QString Cell(int row, int column) { return Review.Rows().index(row, column).data().toString(); }
+
+    QList<int> AllIds()
+    {
+        QList<int> ids;
+        for (int row = 0; row < Review.Rows().rowCount(); ++row) {
+            ids.append(Review.Rows().IdAt(Review.Rows().index(row, 0)));
+        }
+        return ids;
+    }
+
+    cAmountFormat Format{Configuration};
+    cNoProgress Progress;
+    cImportReview Review{{Data, *Settings, Format, User}};
+};
+
+const QString space = u"\u00A0"_s; // before the currency sign
+
+} // namespace
+
+class testImportReview : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void importsWithItsQuestions()
+    {
+        cPage page;
+        QVERIFY(page.Review.EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
+        QSignalSpy rows(&page.Review, &cImportReview::RowsChanged);
+        page.ImportFixture();
+        QVERIFY(!rows.isEmpty());
+        QCOMPARE(page.User.Asked,
+                 (QStringList{u"Zu welchem Konto gehören die Umsätze der Kontonummer 1234567?"_s,
+                              u"Zu welchem Konto gehören die Umsätze der Kontonummer 7654321?"_s}));
+        QCOMPARE(page.Review.Summary(),
+                 QStringList(u"giro.sta: 6 gelesen, 5 neu, 1 ohne Betrag, Schlusssaldo 5.200,00"_s + space + u'€'));
+        QCOMPARE(page.Review.CountText(), u"5 offen, 5 insgesamt"_s);
+        page.Review.ImportFiles({fixture}, page.Progress);
+        QCOMPARE(page.User.Asked.size(), 2);
+        QCOMPARE(page.Review.Duplicates().size(), 5);
+    }
+
+    void showsRows()
+    {
+        cPage page;
+        page.ImportFixture();
+        const QStringList groceries{u"offen"_s,
+                                    u"03.01.2026"_s,
+                                    u"REWE Markt Hohenfels"_s,
+                                    u"REWE SAGT DANKE"_s,
+                                    u"-23,10"_s + space + u'€',
+                                    u"Girokonto"_s,
+                                    u"Haushalt; Lebensmittel"_s,
+                                    u"Einmalig"_s,
+                                    u"Regel: rewe"_s};
+        for (int column = 0; column < cStagedListModel::ColumnCount; ++column) {
+            QCOMPARE(page.Cell(0, column), groceries.at(column));
+        }
+        QCOMPARE(page.Review.Rows().index(0, 0).data(cStagedListModel::ToneRole).toInt(), 2);
+        QCOMPARE(page.Review.Rows().index(2, 0).data(cStagedListModel::ToneRole).toInt(), 1);
+        QCOMPARE(page.Cell(3, cStagedListModel::Account), u"Girokonto → Sparkonto"_s);
+    }
+
+    void takesDuplicatesAllTheSame()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.Review.ImportFiles({fixture}, page.Progress);
+        QVERIFY(page.Review.Duplicates().at(1).startsWith(u"04.01.2026  ·  -650,00"));
+        page.Review.StageDuplicates({1, 0, 99});
+        QCOMPARE(page.Review.Duplicates().size(), 3);
+        QCOMPARE(page.Review.CountText(), u"7 offen, 7 insgesamt"_s);
+        page.Review.DropDuplicates();
+        QVERIFY(page.Review.Duplicates().isEmpty());
+    }
+
+    void booksWhatTheUserChose()
+    {
+        cPage page;
+        page.ImportFixture();
+        cStagedListModel& rows = page.Review.Rows();
+        QVERIFY(rows.setData(rows.index(0, cStagedListModel::Category), u"freizeit; geschenke"_s, Qt::EditRole));
+        QVERIFY(!rows.setData(rows.index(0, cStagedListModel::Category), u"Unbekannt"_s, Qt::EditRole));
+        QVERIFY(!rows.setData(rows.index(0, cStagedListModel::Interval), u"manchmal"_s, Qt::EditRole));
+        QVERIFY(!rows.setData(rows.index(0, cStagedListModel::Purpose), u"x"_s, Qt::EditRole));
+        QCOMPARE(page.Cell(0, cStagedListModel::Reason), u"von Hand gewählt"_s);
+        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
+        page.Review.Book(page.AllIds(), page.Progress);
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(page.Review.Summary(), QStringList(u"5 Umsätze gebucht, 4 neue Einträge."_s)); // a transfer takes two
+        QCOMPARE(page.Data.CountEntries(), 4);
+        QCOMPARE(page.Cell(0, cStagedListModel::State), u"gebucht"_s);
+        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
+        QVERIFY(!rows.flags(rows.index(0, cStagedListModel::Category)).testFlag(Qt::ItemIsEditable));
+        page.Review.SetOpenOnly(true);
+        QCOMPARE(rows.rowCount(), 0);
+        QVERIFY(page.Review.EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
+        QVERIFY(page.Settings->GetBool(u"HideBookedEntries"_s));
+    }
+
+    void asksAgainBeforeBooking()
+    {
+        cPage page;
+        page.Review.ImportFiles({fixture}, page.Progress); // the user gives up on both questions
+        QCOMPARE(page.Cell(0, cStagedListModel::Account), u"1234567 (kein Konto)"_s);
+        page.User.Choices = {u"Girokonto"_s, std::nullopt};
+        page.Review.Book(page.AllIds(), page.Progress);
+        QCOMPARE(page.Data.CountEntries(), 4);
+        QCOMPARE(page.Review.Summary().last(),
+                 u"Die Kontonummer 7654321 hat noch kein Konto; ihre Umsätze werden nicht gebucht."_s);
+    }
+
+    void deletesAfterAQuestion()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.Review.Book({page.AllIds().first()}, page.Progress);
+        page.Review.Delete(page.AllIds());
+        QCOMPARE(page.Review.Rows().rowCount(), 5);
+        page.User.Answers = {eAnswer::Yes};
+        page.Review.Delete(page.AllIds());
+        QVERIFY(page.User.Asked.last().contains(u"gebuchte Einträge bleiben bestehen"));
+        QCOMPARE(page.Review.Rows().rowCount(), 0);
+        QCOMPARE(page.Data.CountEntries(), 1);
+    }
+
+    void filtersAndSorts_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QStringList>("names");
+        const QString rewe = u"REWE Markt Hohenfels"_s;
+        const QString rent = u"Hausverwaltung Tannert  und Sohn"_s;
+        const QString work = u"Werkzeugbau Ammersbek GmbH"_s;
+        const QString own = u"Jonte Sandmeier"_s;
+        QTest::newRow("by amount") << QString() << int{cStagedListModel::Amount}
+                                   << QStringList{rent, own, rewe, own, work};
+        QTest::newRow("by name") << QString() << int{cStagedListModel::Counterparty}
+                                 << QStringList{rent, own, own, rewe, work};
+        QTest::newRow("by proposal") << QString() << int{cStagedListModel::Category}
+                                     << QStringList{own, own, work, rewe, rent};
+        QTest::newRow("umlaut as typed") << u"rücklage"_s << int{cStagedListModel::Date} << QStringList{own, own};
+        QTest::newRow("two words") << u"miete linden"_s << int{cStagedListModel::Date} << QStringList{rent};
+        QTest::newRow("amount") << u"2.410,55"_s << int{cStagedListModel::Date} << QStringList{work};
+        QTest::newRow("nothing") << u"xyz"_s << int{cStagedListModel::Date} << QStringList();
+    }
+
+    void filtersAndSorts()
+    {
+        QFETCH(QString, filter);
+        QFETCH(int, column);
+        cPage page;
+        page.ImportFixture();
+        page.Review.SetFilter(filter);
+        page.Review.Rows().sort(column, Qt::AscendingOrder);
+        QStringList names;
+        for (int row = 0; row < page.Review.Rows().rowCount(); ++row) {
+            names.append(page.Cell(row, cStagedListModel::Counterparty));
+        }
+        QTEST(names, "names");
+    }
+
+    void saysWhyAFileIsRefused()
+    {
+        cPage page;
+        QFile file(page.Shell.Folder(u"data"_s) + u"/auszug.pdf");
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("%PDF") == 4);
+        file.close();
+        page.Review.ImportFiles({file.fileName()}, page.Progress);
+        QVERIFY(page.User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
+        QVERIFY(page.Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
+    }
+};
+
+QTEST_GUILESS_MAIN(testImportReview)
+#include "testImportReview.moc"

@@ -1,0 +1,151 @@
+#include "base/cProgress.h"
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cImportReview.h"
+#include "windows/cStagedTree.h"
+#include "windows/frmImport.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
+
+class cScene
+{
+public:
+    cScene()
+    {
+        Book.User.Choices = {u"Girokonto"_s, u"Sparkonto"_s};
+        Page.ImportFiles({fixture});
+        Page.resize(1200, 600);
+        Page.show();
+        Page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Page));
+        Tree.setFocus();
+    }
+
+    void Select(int row)
+    {
+        Tree.clearSelection();
+        Tree.setCurrentIndex(Review.Rows().index(row, 0));
+    }
+    QString Cell(int row, int column) { return Review.Rows().index(row, column).data().toString(); }
+    QPushButton& Button(const QString& text)
+    {
+        const QList<QPushButton*> buttons = Page.findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) {
+            if (button->text().remove(u'&') == text) {
+                return *button;
+            }
+        }
+        qFatal("no such button");
+    }
+
+    cTestBook Book;
+    cAmountFormat Format{Book.Configuration};
+    cImportReview Review{{Book.Data, *Book.Settings, Format, Book.User}};
+    frmImport Page{Review};
+    cStagedTree& Tree = *Page.findChild<cStagedTree*>();
+};
+
+} // namespace
+
+class testFrmImport final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keysBookAndDelete()
+    {
+        cScene scene;
+        scene.Select(0);
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(scene.Book.Data.CountEntries(), 1);
+        scene.Select(1);
+        QTest::keyClick(scene.Page.findChild<QPlainTextEdit*>(), Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(scene.Book.Data.CountEntries(), 2);
+        scene.Select(2);
+        QTest::keyClick(&scene.Tree, Qt::Key_Delete); // the user says no
+        QCOMPARE(scene.Review.Rows().rowCount(), 5);
+        scene.Book.User.Answers = {eAnswer::Yes};
+        QTest::keyClick(&scene.Tree, Qt::Key_Delete);
+        QCOMPARE(scene.Review.Rows().rowCount(), 4);
+        QVERIFY(!scene.Button(u"Buchen"_s).isEnabled()); // nothing is selected any more
+    }
+
+    void typingPartOfACategoryFindsIt()
+    {
+        cScene scene;
+        scene.Tree.selectAll();
+        scene.Tree.selectionModel()->setCurrentIndex(scene.Review.Rows().index(0, cStagedListModel::Category),
+                                                     QItemSelectionModel::NoUpdate);
+        QTest::keyClick(&scene.Tree, Qt::Key_F2);
+        auto* combo = scene.Tree.findChild<QComboBox*>();
+        QVERIFY(combo != nullptr && combo->isEditable());
+        QTest::keyClicks(combo, u"geschenke"_s);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        // The choice goes to all selected rows.
+        QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), scene.Cell(4, cStagedListModel::Category));
+        QVERIFY(scene.Cell(4, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
+    }
+
+    void droppedFilesAreRead()
+    {
+        cScene scene;
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(fixture), QUrl(u"https://example.org/x.sta"_s)});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&scene.Page, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&scene.Page, &drop);
+        auto* duplicates = scene.Page.findChild<QListWidget*>();
+        QTRY_COMPARE(duplicates->count(), 5);
+        QVERIFY(duplicates->isVisible());
+        QVERIFY(!scene.Button(u"Trotzdem übernehmen"_s).isEnabled());
+        duplicates->setCurrentRow(2);
+        scene.Button(u"Trotzdem übernehmen"_s).click();
+        QCOMPARE(duplicates->count(), 4);
+        QCOMPARE(scene.Review.Rows().rowCount(), 6);
+    }
+
+    void columnsAreKept()
+    {
+        cScene scene;
+        scene.Tree.sortByColumn(cStagedListModel::Amount, Qt::DescendingOrder);
+        scene.Page.hide();
+        frmImport other(scene.Review);
+        QCOMPARE(other.findChild<cStagedTree*>()->LayoutText(), scene.Tree.LayoutText());
+        QCOMPARE(scene.Cell(0, cStagedListModel::Counterparty), u"Werkzeugbau Ammersbek GmbH"_s);
+    }
+
+    void everyControlHasAName()
+    {
+        cScene scene;
+        const QList<QAbstractButton*> buttons = scene.Page.findChildren<QAbstractButton*>();
+        for (const QAbstractButton* button : buttons) {
+            const bool isOwn = button->parentWidget() == &scene.Page || button->inherits("QPushButton");
+            QVERIFY(!isOwn || button->text().contains(u'&'));
+        }
+        for (const QWidget* widget :
+             QWidgetList{&scene.Tree, scene.Page.findChild<QListWidget*>(), scene.Page.findChild<QPlainTextEdit*>()}) {
+            QVERIFY(!widget->accessibleName().isEmpty());
+        }
+    }
+};
+
+QTEST_MAIN(testFrmImport)
+#include "testFrmImport.moc"
