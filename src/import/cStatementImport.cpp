@@ -86,7 +86,7 @@ public:
         }
     }
 
-    bool IsHopeless() const { return m_inARow >= 2; }
+    [[nodiscard]] bool IsHopeless() const { return m_inARow >= 2; }
 
     void GiveUp(int rest) { m_result.Failed += rest; }
 

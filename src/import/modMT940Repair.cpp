@@ -91,7 +91,7 @@ public:
         return m_isChanged;
     }
 
-    modMT940Repair::cRepaired Result() const
+    [[nodiscard]] modMT940Repair::cRepaired Result() const
     {
         modMT940Repair::cRepaired repaired;
         for (const cLine& line : m_kept) {

@@ -5,12 +5,12 @@
 #include "windows/cProgressBox.h"
 #include "windows/cStagedDelegate.h"
 #include "windows/cStagedTree.h"
+#include "windows/modDrop.h"
 #include "windows/modIcon.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -18,7 +18,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
-#include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,18 +25,6 @@ namespace {
 
 constexpr int mostSummaryLines = 5; // more of them scroll
 constexpr int duplicateLines = 5;
-
-QStringList DroppedFiles(const QMimeData& data)
-{
-    QStringList paths;
-    const QList<QUrl> urls = data.urls();
-    for (const QUrl& url : urls) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
-            paths.append(url.toLocalFile());
-        }
-    }
-    return paths;
-}
 
 } // namespace
 
@@ -241,7 +228,7 @@ void frmImport::hideEvent(QHideEvent* event)
 
 void frmImport::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!m_review.IsReadOnly() && !DroppedFiles(*event->mimeData()).isEmpty()) {
+    if (!m_review.IsReadOnly() && !modDrop::Files(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
@@ -251,5 +238,5 @@ void frmImport::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     // The other program waits until the drop is over; questions come after that.
     QMetaObject::invokeMethod(
-        this, [this, paths = DroppedFiles(*event->mimeData())] { ImportFiles(paths); }, Qt::QueuedConnection);
+        this, [this, paths = modDrop::Files(*event->mimeData())] { ImportFiles(paths); }, Qt::QueuedConnection);
 }

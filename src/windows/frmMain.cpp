@@ -7,13 +7,13 @@
 #include "windows/cEntryTree.h"
 #include "windows/cSumBar.h"
 #include "windows/cViewBar.h"
+#include "windows/modDrop.h"
 #include "windows/modIcon.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
@@ -22,25 +22,8 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
-#include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-QStringList DroppedFiles(const QMimeData& data)
-{
-    QStringList paths;
-    const QList<QUrl> urls = data.urls();
-    for (const QUrl& url : urls) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
-            paths.append(url.toLocalFile());
-        }
-    }
-    return paths;
-}
-
-} // namespace
 
 frmMain::frmMain(cMainModel& model, QWidget* statements, QWidget* parent)
     : QMainWindow(parent),
@@ -242,7 +225,7 @@ void frmMain::changeEvent(QEvent* event)
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!DroppedFiles(*event->mimeData()).isEmpty()) {
+    if (!modDrop::Files(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
@@ -250,5 +233,5 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event)
 void frmMain::dropEvent(QDropEvent* event)
 {
     ShowStatements();
-    Q_EMIT FilesDropped(DroppedFiles(*event->mimeData()));
+    Q_EMIT FilesDropped(modDrop::Files(*event->mimeData()));
 }

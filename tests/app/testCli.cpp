@@ -1,4 +1,6 @@
 #include "app/cFileLock.h"
+#include "app/cQtRegistry.h"
+#include "store/cDatabase.h"
 
 #include <QDate>
 #include <QDir>
@@ -72,6 +74,8 @@ private Q_SLOTS:
     void FaultyStatements();
     void MissingTemplateIsADamagedInstallation();
     void LockedDatabaseIsReadButNotWritten();
+    void DatabaseThatAnotherProgramWritesTo();
+    void PasswordKeepsDataClosed();
     void ReadingChangesNothing();
     void KilledImportKeepsWhatItStaged();
 
@@ -347,6 +351,39 @@ void testCli::LockedDatabaseIsReadButNotWritten()
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 6);
     lock.Release();
     QCOMPARE(Run({u"book"_s, u"--all"_s}).Code, 0);
+}
+
+void testCli::DatabaseThatAnotherProgramWritesTo()
+{
+    QCOMPARE(Run({u"import"_s, m_giro}).Code, 0);
+    cDatabase other;
+    other.Open(Database(), eOpenMode::ReadWrite);
+    other.Execute("BEGIN IMMEDIATE");
+    const cRun write = Run({u"book"_s, u"--all"_s});
+    QVERIFY2(write.Code == 1 && write.Error.contains("Beenden Sie es"_L1), qPrintable(write.Text()));
+    QVERIFY2(!write.Error.contains(u'?'), qPrintable(write.Text()));
+    QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 6);
+}
+
+void testCli::PasswordKeepsDataClosed()
+{
+    QCOMPARE(Run({u"import"_s, m_giro}).Code, 0);
+    cQtRegistry registry(m_folder->path());
+    const QString key = u"SOFTWARE\\Veltrino Kontorelle"_s;
+    QVERIFY(registry.Write(key, u"PasswortAktiv"_s, u"True"_s) && registry.Write(key, u"Passwort"_s, u"geheim"_s));
+    for (const QByteArray& password : {QByteArray(), QByteArray("falsch")}) {
+        if (!password.isEmpty()) {
+            qputenv("KONTORELLE_PASSWORT", password);
+        }
+        for (const QStringList& command : {QStringList{u"staged"_s}, QStringList{u"book"_s, u"--all"_s}}) {
+            const cRun run = Run(command);
+            QVERIFY2(run.Code == 1 && run.Out.isEmpty() && run.Error.contains("Passwort"_L1), qPrintable(run.Text()));
+        }
+    }
+    qputenv("KONTORELLE_PASSWORT", QByteArray("geheim"));
+    const cRun run = Run({u"staged"_s, u"--open"_s, u"--json"_s});
+    qunsetenv("KONTORELLE_PASSWORT");
+    QCOMPARE(run.Json().size(), 6);
 }
 
 void testCli::ReadingChangesNothing()

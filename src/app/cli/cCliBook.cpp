@@ -1,7 +1,7 @@
 #include "app/cli/cCliBook.h"
 
+#include "app/cli/cConsoleRescue.h"
 #include "app/cli/cConsoleUser.h"
-#include "base/cRescue.h"
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "core/cSettings.h"
@@ -15,26 +15,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Nobody is there to choose a file or to type a password.
-class cNoRescue final : public cRescue
-{
-public:
-    [[nodiscard]] std::optional<QString> ChooseDatabase(const QString& /*current*/) override { return std::nullopt; }
-    [[nodiscard]] std::optional<QString> ChooseBackup(const QString& /*folder*/) override { return std::nullopt; }
-    [[nodiscard]] bool AskPassword(const std::function<bool(const QString&)>& /*isRight*/) override { return false; }
-};
-
 // A program that was killed in the middle of a write leaves a journal behind, which only a connection that may write
 // can roll back; so a file that cannot be read as it is gets a second try.
-eDatabaseFault Fault(const QString& path)
+eDatabaseFault Fault(const QString& path, eCliAccess access)
 {
     cDatabase probe;
-    const eDatabaseFault fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly);
-    return fault == eDatabaseFault::None ? fault : modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+    eDatabaseFault fault = eDatabaseFault::None;
+    if (access == eCliAccess::Read) {
+        fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly);
+        return fault == eDatabaseFault::None ? fault : modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+    }
+    fault = modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+    return fault == eDatabaseFault::None ? probe.ProbeWrite() : fault;
 }
 
 // What keeps the file from being opened, with what to do about it; empty when nothing does.
-QString Hindrance(const QString& path, const cShell& shell)
+QString Hindrance(const QString& path, eCliAccess access, const cShell& shell)
 {
     if (!shell.FileExists(path)) {
         return cText::Tr(
@@ -43,7 +39,7 @@ QString Hindrance(const QString& path, const cShell& shell)
             "Aufruf ohne --database beginnt ein neues Buch.",
             {path});
     }
-    switch (Fault(path)) {
+    switch (Fault(path, access)) {
     case eDatabaseFault::None: return {};
     case eDatabaseFault::Busy:
         return cText::Tr(
@@ -52,6 +48,11 @@ QString Hindrance(const QString& path, const cShell& shell)
             {path});
     case eDatabaseFault::NoAccess:
         return cText::Tr("Die Datenbank '{0}' kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte.", {path});
+    case eDatabaseFault::ReadOnly:
+        return cText::Tr("Die Datenbank '{0}' kann nur gelesen werden. Bitte prüfen Sie die Zugriffsrechte.", {path});
+    case eDatabaseFault::Full:
+        return cText::Tr("In die Datenbank '{0}' kann nicht geschrieben werden. Bitte prüfen Sie den Speicherplatz.",
+                         {path});
     default:
         return cText::Tr(
             "Die Datenbank '{0}' ist beschädigt oder keine gültige Datenbank. Das Fenster von Kontorelle kann "
@@ -93,7 +94,7 @@ cCliBook::cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> 
 
 std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess access, const cCliPorts& ports)
 {
-    cNoRescue rescue;
+    cConsoleRescue rescue;
     auto configuration = std::make_unique<cConfiguration>(ports.Registry);
     cStartUp startUp({ports.Shell, ports.User, rescue, ports.Clock}, *configuration, QStringLiteral(APP_VERSION));
     const cStartUp::cFound found = database.isEmpty()
@@ -102,7 +103,7 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
     if (ports.User.HasFailed()) {
         return nullptr;
     }
-    if (const QString hindrance = Hindrance(found.Path, ports.Shell); !hindrance.isEmpty()) {
+    if (const QString hindrance = Hindrance(found.Path, access, ports.Shell); !hindrance.isEmpty()) {
         modConsole::Error(hindrance);
         return nullptr;
     }
@@ -115,6 +116,9 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
         configuration->SetDatabase(&book->Settings());
     } else if (!TakeLock(lock, found.Path) || !startUp.OpenBook(*book, found) || book->IsReadOnly()) {
         return nullptr; // why it can be read only has been shown while it was opened
+    }
+    if (!startUp.AskPassword()) {
+        return nullptr;
     }
     return std::unique_ptr<cCliBook>(new cCliBook(std::move(book), std::move(configuration), std::move(lock)));
 }

@@ -1,0 +1,164 @@
+#include "app/cFileLock.h"
+#include "app/cQtRegistry.h"
+#include "app/cQtShell.h"
+#include "app/cSingleInstance.h"
+#include "app/modQtFilter.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <thread>
+
+using namespace Qt::Literals::StringLiterals;
+
+// The adapters to the machine, against a real folder.
+class testAdapters final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void RegistryKeepsKeysApart();
+    void ProfileDoesNotSeeTheMachine();
+    void DataFolderLiesBelowTheProfile();
+    void CopyOfReadOnlyFileCanBeWritten();
+    void LockIsForOne();
+    void TwoPathsOfOneFileShareTheLock();
+    void LeftoverLockIsTakenOver();
+    void SecondStartRaisesTheFirst();
+    void NobodyToRaise();
+    void FiltersForFileDialogs_data();
+    void FiltersForFileDialogs();
+
+private:
+    [[nodiscard]] QString NewFile(const QString& name) const
+    {
+        QFile file(m_folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly)) {
+            qFatal("cannot write test file");
+        }
+        return file.fileName();
+    }
+
+    QTemporaryDir m_folder;
+    const QString m_key = u"SOFTWARE\\Veltrino Kontorelle"_s;
+    const QString m_legacyKey = u"SOFTWARE\\KontorelleFreeware"_s;
+};
+
+void testAdapters::RegistryKeepsKeysApart()
+{
+    const QString text = u"C:\\Müller, \"Haushalt\"; 100 %"_s;
+    QVERIFY(cQtRegistry(m_folder.path()).Write(m_key, u"Database"_s, text));
+    cQtRegistry registry(m_folder.path());
+    QCOMPARE(registry.Read(eRegistryScope::User, m_key, u"Database"_s), text);
+    QCOMPARE(registry.Read(eRegistryScope::User, m_legacyKey, u"Database"_s), QString());
+    QVERIFY(registry.Delete(m_key, u"Database"_s) && registry.Delete(m_key, u"Database"_s));
+    QCOMPARE(registry.Read(eRegistryScope::User, m_key, u"Database"_s), QString());
+}
+
+void testAdapters::ProfileDoesNotSeeTheMachine()
+{
+    cQtRegistry registry(m_folder.path());
+    QVERIFY(registry.Write(m_legacyKey, u"Passwort"_s, u"x"_s));
+    QCOMPARE(registry.Read(eRegistryScope::Machine, m_legacyKey, u"Passwort"_s), QString());
+}
+
+void testAdapters::DataFolderLiesBelowTheProfile()
+{
+    const QString profile = m_folder.filePath(u"new/profile"_s);
+    const QString folder = cQtShell(profile).DataFolder();
+    QCOMPARE(folder, profile + u"/Veltrino Kontorelle"_s);
+    QVERIFY(QFileInfo(folder).isDir());
+}
+
+void testAdapters::CopyOfReadOnlyFileCanBeWritten()
+{
+    const QString source = NewFile(u"template"_s);
+    QVERIFY(QFile::setPermissions(source, QFileDevice::ReadOwner));
+    const QString copy = m_folder.filePath(u"copy"_s);
+    cQtShell shell(m_folder.path());
+    QVERIFY(shell.CopyFile(source, copy));
+    QVERIFY(QFile::permissions(copy).testFlag(QFileDevice::WriteOwner));
+    QVERIFY(!shell.CopyFile(source, copy)); // what is there stays
+}
+
+void testAdapters::LockIsForOne()
+{
+    const QString path = NewFile(u"book.db"_s);
+    cFileLock first;
+    cFileLock second;
+    QCOMPARE(first.Take(path), eLockState::Held);
+    QCOMPARE(first.Take(path), eLockState::Held);
+    QCOMPARE(second.Take(path), eLockState::Foreign);
+    QVERIFY(cFileLock::Holder(path).contains(QCoreApplication::applicationName()));
+    first.Release();
+    QCOMPARE(cFileLock::Holder(path), QString());
+    QCOMPARE(second.Take(path), eLockState::Held);
+}
+
+void testAdapters::TwoPathsOfOneFileShareTheLock()
+{
+    const QString path = NewFile(u"one.db"_s);
+    const QString link = m_folder.filePath(u"link.db"_s);
+    QVERIFY(QFile::link(path, link));
+    cFileLock first;
+    cFileLock second;
+    QCOMPARE(first.Take(path), eLockState::Held);
+    QCOMPARE(second.Take(link), eLockState::Foreign);
+    QCOMPARE(second.Take(m_folder.path() + u"/./one.db"_s), eLockState::Foreign);
+}
+
+void testAdapters::LeftoverLockIsTakenOver()
+{
+    const QString path = NewFile(u"left.db"_s);
+    QFile lock(path + u".lock"_s);
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    // A process number beyond what the system gives out: that program is gone.
+    lock.write("99999999\nkontorelle\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    lock.close();
+    cFileLock mine;
+    QCOMPARE(mine.Take(path), eLockState::Held);
+}
+
+void testAdapters::SecondStartRaisesTheFirst()
+{
+    const QString path = NewFile(u"shown.db"_s);
+    cSingleInstance first;
+    first.Listen(path);
+    QSignalSpy raised(&first, &cSingleInstance::RaiseRequested);
+    bool isAnswered = false;
+    std::thread second([&] { isAnswered = cSingleInstance::RaiseOther(path); });
+    QVERIFY(raised.wait());
+    second.join();
+    QVERIFY(isAnswered);
+}
+
+void testAdapters::NobodyToRaise()
+{
+    QVERIFY(!cSingleInstance::RaiseOther(NewFile(u"alone.db"_s)));
+}
+
+void testAdapters::FiltersForFileDialogs_data()
+{
+    QTest::addColumn<QString>("pairs");
+    QTest::addColumn<QString>("filter");
+
+    QTest::addRow("one mask") << u"Datenbanken|*.db"_s << u"Datenbanken (*.db)"_s;
+    QTest::addRow("several masks, then all")
+        << u"Auszüge|*.csv;*.mt940|Alle Dateien|*.*"_s << u"Auszüge (*.csv *.mt940);;Alle Dateien (*)"_s;
+    QTest::addRow("name without mask") << u"Alle"_s << QString();
+}
+
+void testAdapters::FiltersForFileDialogs()
+{
+    QFETCH(const QString, pairs);
+    QFETCH(const QString, filter);
+    QCOMPARE(modQtFilter::FromPairs(pairs), filter);
+}
+
+QTEST_GUILESS_MAIN(testAdapters)
+#include "testAdapters.moc"
