@@ -15,6 +15,9 @@ public:
     // Counts `steps` more and gives the user interface a chance to draw.
     virtual void addProgressValue(int steps) = 0;
 
+    // The run is over; what follows may be a question.
+    virtual void hideProgressBar() = 0;
+
     // True once the user has asked to stop; what is already written stays.
     [[nodiscard]] virtual bool IsCancelled() const = 0;
 };
@@ -25,5 +28,6 @@ class cNoProgress final : public cProgress
 public:
     void showProgressBar(int /*maximum*/) override {}
     void addProgressValue(int /*steps*/) override {}
+    void hideProgressBar() override { }
     [[nodiscard]] bool IsCancelled() const override { return false; }
 };

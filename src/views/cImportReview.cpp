@@ -112,6 +112,8 @@ void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
     m_duplicates.clear();
     QStringList numbers;
     QStringList refusals;
+    const cImportEntryList before = m_works->Hive.GetImportHive().getImportEntryList();
+    const int newest = before.isEmpty() ? 0 : before.constLast().ID;
     for (const QString& path : paths) {
         const cImportResult result = m_works->Import.ImportFile(path, {}, progress);
         Report(result);
@@ -123,11 +125,25 @@ void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
             break;
         }
     }
+    progress.hideProgressBar();
     // The list stands behind the questions that follow, so that the user sees what they are about.
     Refresh();
     Q_EMIT SummaryChanged();
     ShowRefusals(refusals);
     AskAccounts(numbers);
+    ReportNew(newest);
+}
+
+void cImportReview::ReportNew(int newest)
+{
+    QList<int> ids;
+    const cImportEntryList rows = m_works->Hive.GetImportHive().getImportEntryList();
+    for (const cImportEntry& row : rows) {
+        if (row.ID > newest) {
+            ids.append(row.ID);
+        }
+    }
+    Q_EMIT RowsStaged(ids);
 }
 
 void cImportReview::Report(const cImportResult& result)
@@ -270,7 +286,8 @@ void cImportReview::Delete(const QList<int>& rowIds)
 
 bool cImportReview::IsOpenOnly() const
 {
-    return m_parts.Settings.GetBool(openOnlySetting);
+    // What waits is what the page is for, so a new book starts with it alone.
+    return m_parts.Settings.Get(openOnlySetting).isEmpty() || m_parts.Settings.GetBool(openOnlySetting);
 }
 
 void cImportReview::SetOpenOnly(bool isOpenOnly)

@@ -78,6 +78,7 @@ public:
 
 Q_SIGNALS:
     void RowsChanged();    // staged rows came, went or were booked
+    void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
     void SummaryChanged(); // Summary or Duplicates
     void EntriesChanged(); // the book itself changed
 
@@ -97,6 +98,7 @@ private:
     void Report(const cImportResult& result);
     void ShowRefusals(const QStringList& refusals);
     void AskAccounts(const QStringList& numbers);
+    void ReportNew(int newest); // rows with a higher ID
     [[nodiscard]] cImportEntryList OpenRows(const QList<int>& rowIds);
     [[nodiscard]] QHash<int, cProposal> Chosen(const cImportEntryList& rows);
     [[nodiscard]] cStagedInfo BookedInfo(const cImportEntry& row);

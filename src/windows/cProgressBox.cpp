@@ -27,6 +27,12 @@ void cProgressBox::addProgressValue(int steps)
     m_dialog->setValue(qMin(m_dialog->value() + steps, m_dialog->maximum()));
 }
 
+void cProgressBox::hideProgressBar()
+{
+    m_dialog->hide();
+    m_dialog->reset();
+}
+
 bool cProgressBox::IsCancelled() const
 {
     return m_dialog->wasCanceled();

@@ -13,7 +13,7 @@
 namespace {
 
 // Widths in average characters of the font, so that they fit at every font size and scale.
-constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{11, 13, 29, 24, 15, 18, 27, 14, 26};
+constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{10, 13, 26, 24, 14, 14, 26, 13, 22};
 constexpr int leastPurpose = 16;
 
 bool IsEnter(const QKeyEvent& event)
@@ -117,20 +117,43 @@ void cStagedTree::KeepSelection()
 {
     m_selected = SelectedIds();
     m_current = m_model.IdAt(currentIndex());
+    m_currentRow = currentIndex().row();
 }
 
 void cStagedTree::RestoreSelection()
 {
-    QItemSelection selection;
     const QModelIndexList rows = m_model.IndexesOf(m_selected);
-    for (const QModelIndex& row : rows) {
-        selection.select(row, row.siblingAtColumn(cStagedListModel::ColumnCount - 1));
+    const bool isGone = rows.isEmpty() && m_selected.size() == 1 && m_currentRow >= 0;
+    if (isGone && m_model.rowCount() > 0) {
+        // A single row that was booked or deleted hands the selection on, so that Enter works down the list.
+        setCurrentIndex(m_model.index(qMin(m_currentRow, m_model.rowCount() - 1), 0));
+        return;
     }
     const QModelIndexList current = m_model.IndexesOf({m_current});
     if (!current.isEmpty()) {
         selectionModel()->setCurrentIndex(current.constFirst(), QItemSelectionModel::NoUpdate);
     }
+    Select(rows);
+}
+
+void cStagedTree::Select(const QModelIndexList& rows)
+{
+    QItemSelection selection;
+    for (const QModelIndex& row : rows) {
+        selection.select(row, row.siblingAtColumn(cStagedListModel::ColumnCount - 1));
+    }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void cStagedTree::SelectIds(const QList<int>& ids)
+{
+    const QModelIndexList rows = m_model.IndexesOf(ids);
+    if (!rows.isEmpty()) {
+        selectionModel()->setCurrentIndex(rows.constFirst(), QItemSelectionModel::NoUpdate);
+        Select(rows);
+        scrollTo(rows.constFirst());
+    }
+    setFocus();
 }
 
 // The keys of the list go before those of the main window, where Del means entries of the book.

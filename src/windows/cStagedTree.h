@@ -14,6 +14,7 @@ public:
     explicit cStagedTree(cStagedListModel& model, QWidget* parent = nullptr);
 
     [[nodiscard]] QList<int> SelectedIds() const;
+    void SelectIds(const QList<int>& ids); // and takes the focus, so that Enter books them
 
     void SetEmptyText(const QString& title, const QString& hint);
     [[nodiscard]] QString LayoutText() const;
@@ -33,11 +34,13 @@ private:
     void FitPurpose(); // the purpose takes the room that the other columns leave
     void KeepSelection();
     void RestoreSelection();
+    void Select(const QModelIndexList& rows);
 
     cStagedListModel& m_model;
     QString m_emptyTitle;
     QString m_emptyHint;
     QList<int> m_selected; // while the model is rebuilt
     int m_current = 0;
+    int m_currentRow = -1;
     bool m_isFitting = false;
 };

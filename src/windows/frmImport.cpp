@@ -127,6 +127,7 @@ void frmImport::Connect()
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmImport::ShowButtons);
     connect(m_duplicatesList, &QListWidget::itemSelectionChanged, this, &frmImport::ShowButtons);
     connect(&m_review, &cImportReview::RowsChanged, this, &frmImport::ShowRows);
+    connect(&m_review, &cImportReview::RowsStaged, m_tree, &cStagedTree::SelectIds);
     connect(&m_review, &cImportReview::SummaryChanged, this, &frmImport::ShowSummary);
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(key)), this);
