@@ -93,7 +93,7 @@ void cMainProgram::BuildWindow()
                                                               m_format, m_ports.User, m_ports.Clock, m_ports.Shell,
                                                               *this, m_book.Path()});
     m_review = std::make_unique<cImportReview>(
-        cImportReview::cParts {m_book.Data(), m_book.Settings(), m_format, m_ports.User});
+        cImportReview::cParts{m_book.Data(), m_book.Settings(), m_format, m_ports.User});
     m_statements = new frmImport(*m_review);
     m_window = std::make_unique<frmMain>(*m_model, m_statements);
     ConnectPages();

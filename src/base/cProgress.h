@@ -28,6 +28,6 @@ class cNoProgress final : public cProgress
 public:
     void showProgressBar(int /*maximum*/) override {}
     void addProgressValue(int /*steps*/) override {}
-    void hideProgressBar() override { }
+    void hideProgressBar() override {}
     [[nodiscard]] bool IsCancelled() const override { return false; }
 };

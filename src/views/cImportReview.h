@@ -77,10 +77,10 @@ public:
     void SaveLayout(const QString& layout);
 
 Q_SIGNALS:
-    void RowsChanged();    // staged rows came, went or were booked
+    void RowsChanged();                     // staged rows came, went or were booked
     void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
-    void SummaryChanged(); // Summary or Duplicates
-    void EntriesChanged(); // the book itself changed
+    void SummaryChanged();                  // Summary or Duplicates
+    void EntriesChanged();                  // the book itself changed
 
 private:
     struct cWorks; // the tools of the import floor

@@ -32,7 +32,7 @@ protected:
 
 private:
     void SetDefaultLayout();
-    void ShowColumns(); // as chosen; the balance only while there is one
+    void ShowColumns();    // as chosen; the balance only while there is one
     void FitDescription(); // gives the description what the other columns leave
     void ShowColumn(int column, bool isShown);
     void KeepSelection();
@@ -44,7 +44,7 @@ private:
     QList<cEntryListModel::cKey> m_selected;
     cEntryListModel::cKey m_current;
     QString m_emptyHint;
-    std::array<bool, cEntryListModel::ColumnCount> m_isShown {}; // as the user wants it
+    std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
     bool m_isRebuilding = false;
     bool m_fitsDescription = true; // until the user sets a width
     bool m_isFitting = false;

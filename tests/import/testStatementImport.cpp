@@ -17,7 +17,7 @@ public:
     explicit cCancel(int after) : m_left(after) {}
     void showProgressBar(int /*maximum*/) override {}
     void addProgressValue(int /*steps*/) override { --m_left; }
-    void hideProgressBar() override { }
+    void hideProgressBar() override {}
     [[nodiscard]] bool IsCancelled() const override { return m_left <= 0; }
 
 private:

@@ -8,6 +8,6 @@
 struct cTestFormat
 {
     cFakeRegistry Registry;
-    cConfiguration Configuration {Registry};
-    cAmountFormat Format {Configuration};
+    cConfiguration Configuration{Registry};
+    cAmountFormat Format{Configuration};
 };

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void booksWhatTheUserChose()
     {
         cPage page;
+        page.Review.SetOpenOnly(false);
         page.ImportFixture();
         cStagedListModel& rows = page.Review.Rows();
         QVERIFY(rows.setData(rows.index(0, cStagedListModel::Category), u"freizeit; geschenke"_s, Qt::EditRole));
@@ -138,6 +139,8 @@ private Q_SLOTS:
     void deletesAfterAQuestion()
     {
         cPage page;
+        QVERIFY(page.Review.IsOpenOnly());
+        page.Review.SetOpenOnly(false);
         page.ImportFixture();
         page.Review.Book({page.AllIds().first()}, page.Progress);
         page.Review.Delete(page.AllIds());

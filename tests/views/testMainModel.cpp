@@ -98,7 +98,7 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format {Book.Configuration};
+    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
     std::unique_ptr<cMainModel> Model;
     cEntryItem Rent;
