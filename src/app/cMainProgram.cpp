@@ -14,6 +14,7 @@
 #include "windows/frmMain.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QDir>
 
 cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
@@ -94,8 +95,8 @@ void cMainProgram::BuildWindow()
                                                               *this, m_book.Path()});
     m_review = std::make_unique<cImportReview>(
         cImportReview::cParts{m_book.Data(), m_book.Settings(), m_format, m_ports.User});
-    m_statements = new frmImport(*m_review);
-    m_window = std::make_unique<frmMain>(*m_model, m_statements);
+    m_statementsPage = new QWidget;
+    m_window = std::make_unique<frmMain>(*m_model, m_statementsPage);
     ConnectPages();
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
 }
@@ -105,7 +106,20 @@ void cMainProgram::ConnectPages()
     QObject::connect(m_review.get(), &cImportReview::EntriesChanged, m_model.get(), &cMainModel::BookChanged);
     QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_model.get(), &cMainModel::StagedRowsChanged);
     QObject::connect(m_model.get(), &cMainModel::StagedRowsReleased, m_review.get(), &cImportReview::Refresh);
-    QObject::connect(m_window.get(), &frmMain::FilesDropped, m_statements, &frmImport::ImportFiles);
+    QObject::connect(m_window.get(), &frmMain::StatementsShown, m_review.get(), [this] { (void)Statements(); });
+    QObject::connect(m_window.get(), &frmMain::FilesDropped, m_review.get(),
+                     [this](const QStringList& paths) { Statements().ImportFiles(paths); });
+}
+
+frmImport& cMainProgram::Statements()
+{
+    if (m_statements == nullptr) {
+        auto* layout = new QVBoxLayout(m_statementsPage);
+        layout->setContentsMargins(0, 0, 0, 0);
+        m_statements = new frmImport(*m_review, m_statementsPage);
+        layout->addWidget(m_statements);
+    }
+    return *m_statements;
 }
 
 void cMainProgram::OpenEntryEditor(int entryId)
@@ -130,7 +144,7 @@ void cMainProgram::ShowStatements()
 void cMainProgram::OpenImport()
 {
     ShowStatements();
-    m_statements->ChooseFiles();
+    Statements().ChooseFiles();
 }
 
 void cMainProgram::OpenColumnChooser()

@@ -22,6 +22,7 @@ class cStartUp;
 class cUser;
 class frmImport;
 class frmMain;
+class QWidget;
 
 // Puts the window program together and brings it up: ports, book, models, main window. Opens the windows that commands
 // ask for.
@@ -62,6 +63,7 @@ private:
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
     void ConnectPages();
+    [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
 
     cPorts m_ports;
     QString m_version;
@@ -74,5 +76,6 @@ private:
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;
     std::unique_ptr<frmMain> m_window;
-    frmImport* m_statements = nullptr; // a page of the window
+    QWidget* m_statementsPage = nullptr; // of the window; empty until it is first shown
+    frmImport* m_statements = nullptr;
 };

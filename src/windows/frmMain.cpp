@@ -118,6 +118,9 @@ void frmMain::Connect()
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
     connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) {
+        if (page == 1) {
+            Q_EMIT StatementsShown();
+        }
         m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
     });
     connect(m_hint, &QLabel::linkActivated, this, [this] { m_model.Execute(modCommand::ViewFuture); });

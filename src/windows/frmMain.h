@@ -35,6 +35,7 @@ public:
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
+    void StatementsShown(); // the page for bank statements came to the front
 
 protected:
     void closeEvent(QCloseEvent* event) override;
