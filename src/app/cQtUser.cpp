@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -73,7 +74,36 @@ std::optional<QString> cQtUser::Choose(const cChoice& choice)
     return dialog.textValue().trimmed();
 }
 
+int cQtUser::Decide(const cDecision& decision)
+{
+    QMessageBox box(QMessageBox::Question, TitleOr(decision.Title), decision.Text, QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton*> options;
+    for (const QString& option : decision.Options) {
+        options.append(box.addButton(option, QMessageBox::AcceptRole));
+    }
+    box.setEscapeButton(box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole));
+    box.setDefaultButton(qobject_cast<QPushButton*>(options.value(0)));
+    box.exec();
+    return static_cast<int>(options.indexOf(box.clickedButton()));
+}
+
 QStringList cQtUser::ChooseFiles(const QString& title, const QString& filter)
 {
     return QFileDialog::getOpenFileNames(QApplication::activeWindow(), title, {}, modQtFilter::FromPairs(filter));
+}
+
+QString cQtUser::ChooseSavePath(const QString& title, const QString& filter, const QString& proposal)
+{
+    QFileDialog dialog(QApplication::activeWindow(), title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(modQtFilter::FromPairs(filter));
+    dialog.setDefaultSuffix(modQtFilter::FirstEnding(filter));
+    const QFileInfo proposed(proposal);
+    if (proposed.isAbsolute()) {
+        dialog.setDirectory(proposed.absolutePath());
+    }
+    dialog.selectFile(proposed.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -9,5 +9,7 @@ public:
     void Show(eTone tone, const QString& text, const QString& title = {}) override;
     [[nodiscard]] eAnswer Ask(const cQuestion& question) override;
     [[nodiscard]] std::optional<QString> Choose(const cChoice& choice) override;
+    [[nodiscard]] int Decide(const cDecision& decision) override;
     [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter) override;
+    [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal) override;
 };

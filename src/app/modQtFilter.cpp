@@ -14,3 +14,9 @@ QString modQtFilter::FromPairs(const QString& filter)
     }
     return result.join(u";;"_s);
 }
+
+QString modQtFilter::FirstEnding(const QString& filter)
+{
+    const QString mask = filter.section(u'|', 1, 1).section(u';', 0, 0);
+    return mask.startsWith("*."_L1) && mask != "*.*"_L1 ? mask.mid(2) : QString();
+}

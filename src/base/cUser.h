@@ -27,6 +27,14 @@ struct cChoice
     bool AllowNew = false;
 };
 
+// Several ways to go on, each with a button of its own.
+struct cDecision
+{
+    QString Text;
+    QString Title;
+    QStringList Options; // German button texts in their order; the first one is the default
+};
+
 // The person in front of the screen (or the command line that stands in for one).
 class cUser
 {
@@ -44,6 +52,14 @@ public:
     // The chosen or typed text; empty optional when the user gives up.
     [[nodiscard]] virtual std::optional<QString> Choose(const cChoice& choice) = 0;
 
+    // The chosen option, counted from 0; -1 when the user gives up.
+    [[nodiscard]] virtual int Decide(const cDecision& decision) = 0;
+
     // Existing files to open. `filter` has the form "Name|*.a;*.b|Name|*.*". Empty when the user gives up.
     [[nodiscard]] virtual QStringList ChooseFiles(const QString& title, const QString& filter) = 0;
+
+    // A path to write to; the user has agreed to replace a file that exists there. `proposal` is a name or a full path.
+    // The first pattern of the filter gives the ending where none was typed. Empty when the user gives up.
+    [[nodiscard]] virtual QString ChooseSavePath(const QString& title, const QString& filter,
+                                                 const QString& proposal) = 0;
 };

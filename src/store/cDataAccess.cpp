@@ -4,7 +4,7 @@
 #include "base/cUser.h"
 #include "store/cDatabase.h"
 
-cDataAccess::cDataAccess(cDatabase& database, cUser& user) : m_database(database), m_user(user)
+cDataAccess::cDataAccess(cDatabase& database, cUser& user) : m_database(database), m_user(user), m_journal(database)
 {
 }
 
@@ -47,17 +47,61 @@ bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
             isKnown = rows.Next() && rows.Integer(0) > 0;
         }
         if (isKnown) {
+            m_journal.Keep(cJournal::eTable::Settings, "SettingName=?", {name});
             m_database.Execute("UPDATE setting SET SettingValue=?, SettingDefault=? WHERE SettingName = ?",
                                {value, value, name});
         } else {
             m_database.Execute("INSERT INTO setting (SettingName, SettingValue, SettingDefault) VALUES (?, ?, ?)",
                                {name, value, value});
+            m_journal.NoteAdded(cJournal::eTable::Settings, m_database.LastInsertId());
         }
     });
 }
 
 bool cDataAccess::DeleteSetting(const QString& name)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteSetting\n{0}"),
-               [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteSetting\n{0}"), [&] {
+        m_journal.Keep(cJournal::eTable::Settings, "SettingName = ?", {name});
+        m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name});
+    });
+}
+
+void cDataAccess::BeginStep(const QString& name)
+{
+    m_journal.Begin(name);
+}
+
+void cDataAccess::EndStep()
+{
+    m_journal.End();
+}
+
+void cDataAccess::RevertStep()
+{
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: RevertStep\n{0}"), [&] { m_journal.Revert(); });
+}
+
+QString cDataAccess::UndoName() const
+{
+    return m_journal.UndoName();
+}
+
+QString cDataAccess::RedoName() const
+{
+    return m_journal.RedoName();
+}
+
+bool cDataAccess::Undo()
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: Undo\n{0}"), [&] { m_journal.Undo(); });
+}
+
+bool cDataAccess::Redo()
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: Redo\n{0}"), [&] { m_journal.Redo(); });
+}
+
+void cDataAccess::ForgetSteps()
+{
+    m_journal.Forget();
 }

@@ -6,6 +6,7 @@
 #include "model/cImportEntry.h"
 #include "model/cOnlineAccount.h"
 #include "model/cTemplateItem.h"
+#include "store/cJournal.h"
 
 #include <QHash>
 #include <QList>
@@ -56,6 +57,11 @@ public:
     [[nodiscard]] int CountEntries();
     [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
+    // Numbers of entries by their exact category path, and by the accounts they have as source or target.
+    [[nodiscard]] QHash<QString, int> CountEntriesByCategory();
+    [[nodiscard]] QHash<QString, int> CountEntriesByAccount();
+    // Gives every entry with exactly this account as source or target the other one.
+    [[nodiscard]] bool MoveEntriesToAccount(const QString& newName, const QString& oldName);
     [[nodiscard]] QStringList GetEntryAccounts();
 
     // Start balance of an account: its one-off entry in the category of start balances.
@@ -106,6 +112,18 @@ public:
     [[nodiscard]] bool ChangeSettingItem(const QString& name, const QString& value); // adds it when missing
     [[nodiscard]] bool DeleteSetting(const QString& name);
 
+    // Undo. What is written between BeginStep and EndStep is one step of the user; use cUndoStep rather than these. A
+    // write to a table of the book outside of a step cannot be taken back, and neither can the steps before it.
+    void BeginStep(const QString& name);
+    void EndStep();
+    void RevertStep(); // takes back what the open step has written
+    // The name of the step that Undo or Redo would work on; empty when there is none.
+    [[nodiscard]] QString UndoName() const;
+    [[nodiscard]] QString RedoName() const;
+    [[nodiscard]] bool Undo();
+    [[nodiscard]] bool Redo();
+    void ForgetSteps(); // another file was opened
+
     // True when nothing can be written: the file was opened for reading only.
     [[nodiscard]] bool IsReadOnly() const;
 
@@ -115,4 +133,5 @@ private:
 
     cDatabase& m_database;
     cUser& m_user;
+    cJournal m_journal;
 };

@@ -79,6 +79,17 @@ int Count(cDatabase& database, const std::string& sql, const cBoundList& values)
     return rows.Next() ? static_cast<int>(rows.Integer(0)) : 0;
 }
 
+// Number of rows by the doubled text in the first column.
+QHash<QString, int> CountByText(cDatabase& database, const std::string& sql)
+{
+    QHash<QString, int> counts;
+    cRows rows(database, sql);
+    while (rows.Next()) {
+        counts[modRow::ReadDoubled(rows.Bytes(0))] += static_cast<int>(rows.Integer(1));
+    }
+    return counts;
+}
+
 std::optional<cEntryItem> First(const cEntryItemList& entries)
 {
     return entries.isEmpty() ? std::nullopt : std::optional(entries.first());
@@ -93,6 +104,7 @@ bool cDataAccess::AddNewEntry(cEntryItem& entry)
                            "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags) "
                            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
                            EntryValues(entry, NewForm(entry)));
+        m_journal.NoteAdded(cJournal::eTable::Data, m_database.LastInsertId());
         entry = First(ReadEntries(m_database, " ORDER BY ID DESC LIMIT 1", {})).value_or(entry);
     });
 }
@@ -102,6 +114,7 @@ bool cDataAccess::ChangeEntry(const cEntryItem& entry)
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntry\n{0}"), [&] {
         cBoundList values = EntryValues(entry, KeptForm(m_database, entry));
         values.emplace_back(entry.ID);
+        m_journal.Keep(cJournal::eTable::Data, "ID = ?", {entry.ID});
         m_database.Execute("UPDATE data SET EntryDate=?, EntryDateEnd=?, EntryType=?, EntryInterval=?, EntryAccount=?, "
                            "EntryAccountMove=?, EntryCategory=?, EntryValue=?, EntryDescription=?, EntryFlags=? "
                            "WHERE ID = ?",
@@ -112,8 +125,10 @@ bool cDataAccess::ChangeEntry(const cEntryItem& entry)
 bool cDataAccess::DeleteEntry(int id)
 {
     return ReleaseImports(id) && DeleteEntryModByRelation(id)
-        && Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntry\n{0}"),
-               [&] { m_database.Execute("DELETE FROM data WHERE ID = ?", {id}); });
+        && Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntry\n{0}"), [&] {
+               m_journal.Keep(cJournal::eTable::Data, "ID = ?", {id});
+               m_database.Execute("DELETE FROM data WHERE ID = ?", {id});
+           });
 }
 
 bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldName)
@@ -122,6 +137,8 @@ bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldN
     // this leaves untouched, so it stays; renaming an account moves the remaining entries by itself.
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryAccount\n{0}"), [&] {
         const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
+        m_journal.Keep(cJournal::eTable::Data, "EntryAccount=lower(?) OR EntryAccountMove=lower(?)",
+                       {names[1], names[1]});
         m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=lower(?)", names);
         m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=lower(?)", names);
     });
@@ -130,6 +147,7 @@ bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldN
 bool cDataAccess::ChangeEntryCategory(const QString& newPath, const QString& oldPath)
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryCategory\n{0}"), [&] {
+        m_journal.Keep(cJournal::eTable::Data, "EntryCategory=?", {modRow::Doubled(oldPath)});
         m_database.Execute("UPDATE data SET EntryCategory=? WHERE EntryCategory=?",
                            {modRow::Doubled(newPath), modRow::Doubled(oldPath)});
     });
@@ -187,6 +205,39 @@ int cDataAccess::CountEntriesOfCategory(const QString& path)
         count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryCategory LIKE ?", {modRow::Doubled(path)});
     });
     return count;
+}
+
+QHash<QString, int> cDataAccess::CountEntriesByCategory()
+{
+    QHash<QString, int> counts;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountEntriesByCategory\n{0}"), [&] {
+        counts = CountByText(m_database,
+                             "SELECT EntryCategory, COUNT(*) FROM data WHERE EntryCategory IS NOT NULL "
+                             "GROUP BY EntryCategory");
+    });
+    return counts;
+}
+
+QHash<QString, int> cDataAccess::CountEntriesByAccount()
+{
+    QHash<QString, int> counts;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountEntriesByAccount\n{0}"), [&] {
+        counts = CountByText(m_database,
+                             "SELECT EntryAccount AS Name, COUNT(*) FROM data WHERE Name <> '' GROUP BY Name "
+                             "UNION ALL SELECT EntryAccountMove AS Name, COUNT(*) FROM data "
+                             "WHERE Name <> '' AND Name <> EntryAccount GROUP BY Name");
+    });
+    return counts;
+}
+
+bool cDataAccess::MoveEntriesToAccount(const QString& newName, const QString& oldName)
+{
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: MoveEntriesToAccount\n{0}"), [&] {
+        const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
+        m_journal.Keep(cJournal::eTable::Data, "EntryAccount=? OR EntryAccountMove=?", {names[1], names[1]});
+        m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=?", names);
+        m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=?", names);
+    });
 }
 
 QStringList cDataAccess::GetEntryAccounts()

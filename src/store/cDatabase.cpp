@@ -79,8 +79,10 @@ void Bind(SQLite::Statement& statement, const cBoundList& values)
             statement.bind(index, text->toStdString());
         } else if (const auto* number = std::get_if<qint64>(&value)) {
             statement.bind(index, int64_t{*number});
+        } else if (const auto* real = std::get_if<double>(&value)) {
+            statement.bind(index, *real);
         } else {
-            statement.bind(index, std::get<double>(value));
+            statement.bind(index);
         }
     }
 }
@@ -267,6 +269,24 @@ qint64 cRows::Integer(int column) const
 double cRows::Real(int column) const
 {
     return m_state->Columns[static_cast<size_t>(column)].getDouble();
+}
+
+cBoundList cRows::Values() const
+{
+    cBoundList values;
+    for (int i = 0; i < static_cast<int>(m_state->Columns.size()); ++i) {
+        const SQLite::Column& source = m_state->Columns[static_cast<size_t>(i)];
+        if (source.isInteger()) {
+            values.emplace_back(Integer(i));
+        } else if (source.isFloat()) {
+            values.emplace_back(Real(i));
+        } else if (source.isNull()) {
+            values.emplace_back(std::monostate());
+        } else {
+            values.emplace_back(Text(i));
+        }
+    }
+    return values;
 }
 
 int cRows::Changes() const

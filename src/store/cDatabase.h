@@ -28,8 +28,8 @@ private:
     eDatabaseFault m_fault;
 };
 
-// Values for the "?" of a statement, in their order.
-using cBound = std::variant<qint64, double, QString>;
+// Values for the "?" of a statement, in their order; the last alternative is NULL.
+using cBound = std::variant<qint64, double, QString, std::monostate>;
 using cBoundList = std::vector<cBound>;
 
 // The one connection to the database file. All failures are thrown as cDatabaseError unless a comment says otherwise.
@@ -105,6 +105,9 @@ public:
     [[nodiscard]] QString Text(int column) const;
     [[nodiscard]] qint64 Integer(int column) const;
     [[nodiscard]] double Real(int column) const;
+
+    // The whole current row, each value with the type it is stored with.
+    [[nodiscard]] cBoundList Values() const;
 
     // Rows changed by the statement.
     [[nodiscard]] int Changes() const;

@@ -34,6 +34,20 @@ public:
         return Choices.empty() ? std::nullopt : Take(Choices);
     }
 
+    int Decide(const cDecision& decision) override
+    {
+        Asked.append(decision.Text);
+        LastDecision = decision;
+        return Decisions.empty() ? -1 : Take(Decisions);
+    }
+
+    QString ChooseSavePath(const QString& /*title*/, const QString& filter, const QString& proposal) override
+    {
+        Asked.append(filter);
+        LastProposal = proposal;
+        return SavePath;
+    }
+
     QStringList ChooseFiles(const QString& /*title*/, const QString& filter) override
     {
         Asked.append(filter);
@@ -46,6 +60,10 @@ public:
     std::deque<std::optional<QString>> Choices; // an empty queue gives up
     QStringList Files;
     cChoice LastChoice;
+    std::deque<int> Decisions; // an empty queue gives up
+    cDecision LastDecision;
+    QString SavePath; // empty gives up
+    QString LastProposal;
 
 private:
     template <typename tQueue>

@@ -40,3 +40,15 @@ QStringList cConsoleUser::ChooseFiles(const QString& /*title*/, const QString& /
 {
     return {};
 }
+
+int cConsoleUser::Decide(const cDecision& decision)
+{
+    m_hasFailed = true;
+    modConsole::Error(decision.Text);
+    return -1;
+}
+
+QString cConsoleUser::ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/)
+{
+    return {};
+}

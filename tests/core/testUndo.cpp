@@ -1,0 +1,187 @@
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cUndoStep.h"
+#include "support/testBook.h"
+
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Everything that stands in the book, value by value.
+QStringList Dump(cDatabase& database)
+{
+    QStringList lines;
+    for (const char* table : {"data", "datamod", "template", "import", "setting"}) {
+        cRows rows(database, std::string("SELECT * FROM ") + table + " ORDER BY ID");
+        while (rows.Next()) {
+            QStringList cells{QString::fromLatin1(table)};
+            const cBoundList values = rows.Values();
+            for (int i = 0; i < static_cast<int>(values.size()); ++i) {
+                cells.append(QString::number(values[static_cast<size_t>(i)].index()) + u':' + rows.Text(i));
+            }
+            lines.append(cells.join(u'|'));
+        }
+    }
+    return lines;
+}
+
+cEntryItemFixMod FixMod(int entryId, qint64 cents)
+{
+    cEntryItemFixMod fixMod;
+    fixMod.EntryRelation = entryId;
+    fixMod.EntryModType = modWord::Betrag;
+    fixMod.EntryStartDate = QDate(2026, 2, 1);
+    fixMod.EntryEndDate = QDate(2026, 2, 28);
+    fixMod.EntryValue = cents;
+    return fixMod;
+}
+
+using fnAction = std::function<bool(cTestBook&, const cEntryItem&)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(fnAction)
+
+class testUndo final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void StepsGoBackAndForth_data();
+    void StepsGoBackAndForth();
+    void FailedStepLeavesNothing();
+    void WriteOutsideForgets();
+    void StepsFollowEachOther();
+};
+
+void testUndo::StepsGoBackAndForth_data()
+{
+    QTest::addColumn<fnAction>("Action");
+
+    QTest::newRow("entry with correction and bank row deleted")
+        << fnAction([](cTestBook& book, const cEntryItem& entry) { return book.Data.DeleteEntry(entry.ID); });
+    QTest::newRow("entry added and changed in the same step") << fnAction([](cTestBook& book, const cEntryItem& entry) {
+        cEntryItem copy = entry;
+        return book.Data.AddNewEntry(copy) && book.Data.ChangeEntry(copy);
+    });
+    QTest::newRow("correction replaced") << fnAction(
+        [](cTestBook& book, const cEntryItem& entry) { return book.Data.AddNewEntryMod(FixMod(entry.ID, 5)); });
+    QTest::newRow("category renamed in entries") << fnAction([](cTestBook& book, const cEntryItem& entry) {
+        return book.Data.ChangeEntryCategory(u"Neu; Kid's"_s, entry.EntryCategory);
+    });
+    QTest::newRow("account moved") << fnAction(
+        [](cTestBook& book, const cEntryItem&) { return book.Data.ChangeEntryAccount(u"Giro"_s, u"girokonto"_s); });
+    QTest::newRow("template added, other deleted") << fnAction([](cTestBook& book, const cEntryItem&) {
+        cTemplateItem item = book.Data.GetTemplates().constFirst();
+        const int id = item.ID;
+        return book.Data.AddNewTemplate(item) && book.Data.DeleteTemplate(id);
+    });
+    QTest::newRow("all bank rows deleted")
+        << fnAction([](cTestBook& book, const cEntryItem&) { return book.Data.DeleteAllImports(); });
+    QTest::newRow("setting under the same name in another row") << fnAction([](cTestBook& book, const cEntryItem&) {
+        return book.Settings->Delete(u"KTO:1"_s) && book.Settings->Set(u"andere"_s, u"1"_s)
+            && book.Settings->Set(u"KTO:1"_s, u"Sparkonto"_s);
+    });
+}
+
+void testUndo::StepsGoBackAndForth()
+{
+    QFETCH(fnAction, Action);
+    cTestBook book;
+    QVERIFY(book.Settings->Set(u"KTO:1"_s, u"Girokonto"_s));
+    const cEntryItem entry = book.Add([](cEntryItem& item) {
+        item.EntryCategory = u"Haushalt; Kid's"_s;
+        item.EntryInterval = u"Monatlich"_s;
+    });
+    QVERIFY(book.Data.AddNewEntryMod(FixMod(entry.ID, 4711)));
+    cImportEntry row;
+    row.ImportAccount = u"1"_s;
+    row.ImportDate = entry.EntryDate;
+    row.ImportValue = -10;
+    row.ImportAssigned = true;
+    row.ImportAssignedEntry = entry.ID;
+    QVERIFY(book.Data.AddNewImportEntry(row));
+    // Older files hold what this program would write in another form.
+    book.Database.Execute("UPDATE data SET EntryDate='2026-03-10 00:00:00', EntryValue=10, EntryFlags=NULL, "
+                          "EntryAccount='girokonto'");
+
+    const QStringList before = Dump(book.Database);
+    {
+        const cUndoStep step(book.Data, u"etwas getan"_s);
+        QVERIFY(Action(book, entry));
+    }
+    const QStringList after = Dump(book.Database);
+    QVERIFY(after != before);
+    const quint64 version = book.Data.ImportVersion();
+    QCOMPARE(book.Data.UndoName(), u"etwas getan"_s);
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(Dump(book.Database), before);
+    QCOMPARE(book.Data.UndoName(), QString());
+    QCOMPARE(book.Data.RedoName(), u"etwas getan"_s);
+    QVERIFY(book.Data.Redo());
+    QCOMPARE(Dump(book.Database), after);
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(Dump(book.Database), before);
+    // Whoever keeps the bank rows in memory has to see that they changed.
+    const bool touchesImports = after.filter(u"import|"_s) != before.filter(u"import|"_s);
+    QVERIFY(!touchesImports || book.Data.ImportVersion() != version);
+    QCOMPARE(book.User.Shown, QStringList());
+}
+
+void testUndo::FailedStepLeavesNothing()
+{
+    cTestBook book;
+    const cEntryItem entry = book.Add([](cEntryItem&) {});
+    const QStringList before = Dump(book.Database);
+    {
+        cUndoStep step(book.Data, u"halb"_s);
+        cEntryItem copy = entry;
+        QVERIFY(book.Data.AddNewEntry(copy));
+        QVERIFY(book.Data.DeleteEntry(entry.ID));
+        QVERIFY(!step.Revert());
+    }
+    QCOMPARE(Dump(book.Database), before);
+    QCOMPARE(book.Data.UndoName(), QString());
+}
+
+void testUndo::WriteOutsideForgets()
+{
+    cTestBook book;
+    const cEntryItem entry = book.Add([](cEntryItem&) {});
+    {
+        const cUndoStep step(book.Data, u"gelöscht"_s);
+        QVERIFY(book.Data.DeleteEntry(entry.ID));
+    }
+    QVERIFY(book.Settings->Set(u"MainFilter"_s, u"x"_s)); // choices of the view change nothing
+    QCOMPARE(book.Data.UndoName(), u"gelöscht"_s);
+    (void)book.Add([](cEntryItem&) {}); // may have taken the ID of the deleted entry
+    QCOMPARE(book.Data.UndoName(), QString());
+}
+
+void testUndo::StepsFollowEachOther()
+{
+    cTestBook book;
+    const QStringList before = Dump(book.Database);
+    for (int i = 1; i <= 3; ++i) {
+        const cUndoStep step(book.Data, QString::number(i));
+        const cUndoStep inner(book.Data, u"innen"_s);
+        (void)book.Add([](cEntryItem&) {});
+    }
+    QVERIFY(book.Data.Undo() && book.Data.Undo());
+    QCOMPARE(book.Data.UndoName(), u"1"_s);
+    QCOMPARE(book.Data.RedoName(), u"2"_s);
+    {
+        const cUndoStep step(book.Data, u"anders"_s);
+        (void)book.Add([](cEntryItem&) {});
+    }
+    QCOMPARE(book.Data.RedoName(), QString()); // the way forward has changed
+    QVERIFY(book.Data.Undo() && book.Data.Undo());
+    QCOMPARE(Dump(book.Database), before);
+}
+
+QTEST_GUILESS_MAIN(testUndo)
+#include "testUndo.moc"
