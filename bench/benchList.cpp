@@ -7,6 +7,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <vector>
+
 using namespace Qt::Literals::StringLiterals;
 
 // The entry list over 100,000 entries: built, sorted, grouped, filtered.
@@ -66,14 +68,50 @@ void Group(benchmark::State& state)
 }
 BENCHMARK(Group)->DenseRange(1, 7)->Unit(benchmark::kMillisecond);
 
-void Filter(benchmark::State& state)
+// The first letter after the list was loaded, when its texts are folded.
+void FilterFirstKey(benchmark::State& state)
 {
     cScene scene;
-    scene.List.SetContent(scene.Content, {}, modWord::KeineGruppierung);
     for (auto _ : state) {
-        scene.List.SetFilter(u"rewe"_s);
+        state.PauseTiming();
+        scene.List.SetContent(scene.Content, {}, modWord::KeineGruppierung);
+        state.ResumeTiming();
+        scene.List.SetFilter(u"e"_s);
     }
+    state.counters["found"] = static_cast<double>(scene.List.Sums().Count);
 }
-BENCHMARK(Filter)->Unit(benchmark::kMillisecond);
+BENCHMARK(FilterFirstKey)->Unit(benchmark::kMillisecond);
+
+// One key, from the text before it to the text with it.
+void FilterKey(benchmark::State& state)
+{
+    struct cKey
+    {
+        const char16_t* Before;
+        const char16_t* After;
+        const char16_t* Grouping;
+    };
+    static const std::vector<cKey> keys{
+        {u"", u"e", u"Keine Gruppierung"},         {u"e", u"", u"Keine Gruppierung"},
+        {u"", u"rewe", u"Keine Gruppierung"},      {u"rew", u"rewe", u"Keine Gruppierung"},
+        {u"", u"lebensmittel", u"Nach Monat"},     {u"", u"giro ausgabe ü", u"Keine Gruppierung"},
+        {u"", u"1", u"Keine Gruppierung"},         {u"", u"12,5", u"Keine Gruppierung"},
+        {u"", u"05.2024 rewe", u"Nach Kategorie"}, {u"", u"-", u"Keine Gruppierung"},
+    };
+    cScene scene;
+    const cKey& key = keys.at(static_cast<std::size_t>(state.range(0)));
+    scene.List.SetContent(scene.Content, u"x"_s, QString::fromUtf16(key.Grouping));
+    for (auto _ : state) {
+        state.PauseTiming();
+        scene.List.SetFilter(QString::fromUtf16(key.Before));
+        state.ResumeTiming();
+        scene.List.SetFilter(QString::fromUtf16(key.After));
+    }
+    state.counters["found"] = static_cast<double>(scene.List.Sums().Count);
+    const QString label = u"'%1' to '%2', %3"_s.arg(QString::fromUtf16(key.Before), QString::fromUtf16(key.After),
+                                                    QString::fromUtf16(key.Grouping));
+    state.SetLabel(label.toStdString());
+}
+BENCHMARK(FilterKey)->DenseRange(0, 9)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -4,8 +4,8 @@
 #include "core/cSettings.h"
 #include "model/modPeriod.h"
 #include "store/cDataAccess.h"
+#include "support/cFakeNavigator.h"
 #include "views/cMainModel.h"
-#include "views/cNavigator.h"
 
 #include <QCoreApplication>
 
@@ -17,15 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class cNoNavigator final : public cNavigator
-{
-public:
-    void OpenEntryEditor(int /*entryId*/) override {}
-    void OpenImport() override {}
-    void OpenColumnChooser() override {}
-    void EndProgram() override {}
-};
-
 struct cScene
 {
     cBook& Book = cBenchBook::Large().Book();
@@ -33,7 +24,7 @@ struct cScene
     cFakeUser User;
     cFakeShell Shell;
     cFakeClock Clock{cBenchBook::Today};
-    cNoNavigator Navigator;
+    cFakeNavigator Navigator;
     cConfiguration Configuration{Registry};
     cAmountFormat Format{Configuration};
     cMainModel Model{{Book.Data(), Book.Settings(), Configuration, Format, User, Clock, Shell, Navigator, Book.Path()}};

@@ -5,312 +5,313 @@
     <name>cText</name>
     <message>
         <source>{0} (Prozess {1} auf {2})</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} (process {1} on {2})</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; wurde nicht gefunden. Prüfen Sie den Pfad, oder legen Sie sie an: &quot;kontorelle-cli demo DATEI&quot; schreibt einen Beispielhaushalt, das Fenster von Kontorelle oder ein Aufruf ohne --database beginnt ein neues Buch.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; was not found. Check the path, or create the file: &quot;kontorelle-cli demo FILE&quot; writes an example household, and the Kontorelle window or a call without --database starts a new book.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; wird gerade von einem anderen Programm benutzt. Beenden Sie es, und versuchen Sie es noch einmal.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is being used by another program. Close that program and try again.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; cannot be read. Please check the access rights.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; ist beschädigt oder keine gültige Datenbank. Das Fenster von Kontorelle kann eine Datensicherung zurückspielen; mit --database nennen Sie eine andere Datei.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is damaged or not a valid database. The Kontorelle window can restore a backup; use --database to name another file.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie es noch einmal; lesende Befehle gehen auch so.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is in use: {1}. Close that program and try again; commands that only read work all the same.</translation>
     </message>
     <message>
         <source>In den Ordner der Datenbank &apos;{0}&apos; kann nicht geschrieben werden. Bitte prüfen Sie die Zugriffsrechte.</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder of the database &apos;{0}&apos; cannot be written to. Please check the access rights.</translation>
     </message>
     <message>
         <source>Unbekannte Option &apos;--{0}&apos; vor dem Befehl.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown option &apos;--{0}&apos; before the command.</translation>
     </message>
     <message>
         <source>Der Befehl &apos;{0}&apos; kennt die Option &apos;--{1}&apos; nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>The command &apos;{0}&apos; has no option &apos;--{1}&apos;.</translation>
     </message>
     <message>
         <source>Die Option &apos;--{0}&apos; hat keinen Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The option &apos;--{0}&apos; takes no value.</translation>
     </message>
     <message>
         <source>Nach &apos;--{0}&apos; fehlt {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;--{0}&apos; must be followed by {1}.</translation>
     </message>
     <message>
         <source>Den Befehl &apos;{0}&apos; gibt es nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no command &apos;{0}&apos;.</translation>
     </message>
     <message>
         <source>Es fehlt der Befehl.</source>
-        <translation type="unfinished"></translation>
+        <translation>The command is missing.</translation>
     </message>
     <message>
         <source>Nach &apos;{0}&apos; fehlt {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; must be followed by {1}.</translation>
     </message>
     <message>
         <source>Mit &apos;{0}&apos; kann der Befehl &apos;{1}&apos; nichts anfangen.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; means nothing to the command &apos;{1}&apos;.</translation>
     </message>
     <message>
         <source>Ohne Konto im Buch</source>
-        <translation type="unfinished"></translation>
+        <translation>No account in the book</translation>
     </message>
     <message>
         <source>Gruppe</source>
-        <translation type="unfinished"></translation>
+        <translation>Group</translation>
     </message>
     <message>
         <source>Konto</source>
-        <translation type="unfinished"></translation>
+        <translation>Account</translation>
     </message>
     <message>
         <source>Kontostand</source>
-        <translation type="unfinished"></translation>
+        <translation>Balance</translation>
     </message>
     <message>
         <source>Offene Umsätze</source>
-        <translation type="unfinished"></translation>
+        <translation>Open transactions</translation>
     </message>
     <message>
         <source>Summe</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Bitte entweder --all oder --id mit Nummern angeben.</source>
-        <translation type="unfinished"></translation>
+        <translation>Please give either --all or --id with numbers.</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist keine Nummer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; is not a number.</translation>
     </message>
     <message>
         <source>Einen offenen Umsatz mit der Nummer {0} gibt es nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no open transaction with the number {0}.</translation>
     </message>
     <message>
         <source>(unbekannt)</source>
-        <translation type="unfinished"></translation>
+        <translation>(unknown)</translation>
     </message>
     <message>
         <source>gehört zu Eintrag {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>belongs to entry {0}</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Art</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Betrag</source>
-        <translation type="unfinished"></translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>Kategorie</source>
-        <translation type="unfinished"></translation>
+        <translation>Category</translation>
     </message>
     <message>
         <source>Intervall</source>
-        <translation type="unfinished"></translation>
+        <translation>Interval</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Grund</source>
-        <translation type="unfinished"></translation>
+        <translation>Reason</translation>
     </message>
     <message>
         <source>{0} Einträge neu, {1} Umsätze zugeordnet</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} new entries, {1} transactions assigned</translation>
     </message>
     <message>
         <source>, davon {0} zu vorhandenen Einträgen</source>
-        <translation type="unfinished"></translation>
+        <translation>, {0} of them to existing entries</translation>
     </message>
     <message>
         <source>{0} Umsätze konnten nicht gebucht werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} transactions could not be booked.</translation>
     </message>
     <message>
         <source>Die Kontonummer &apos;{0}&apos; gehört zu keinem Konto; ihre Umsätze bleiben offen. Lesen Sie den Auszug mit --book-account NAME noch einmal ein.</source>
-        <translation type="unfinished"></translation>
+        <translation>The account number &apos;{0}&apos; belongs to no account; its transactions stay open. Import the statement again with --book-account NAME.</translation>
     </message>
     <message>
         <source>{0}: gültige Datenbank, {1} Einträge, {2} Umsätze</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}: valid database, {1} entries, {2} transactions</translation>
     </message>
     <message>
         <source>Beim Öffnen ergänzt: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Added on opening: {0}</translation>
     </message>
     <message>
         <source>Die Datei ist unbeschädigt.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is intact.</translation>
     </message>
     <message>
         <source>Die Datei ist beschädigt. Bitte spielen Sie eine Datensicherung zurück.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is damaged. Please restore a backup.</translation>
     </message>
     <message>
         <source>Ausgabe als JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>output as JSON</translation>
     </message>
     <message>
         <source>liest Kontoauszüge ein; die Umsätze warten dann auf das Buchen</source>
-        <translation type="unfinished"></translation>
+        <translation>imports statements; the transactions then wait to be booked</translation>
     </message>
     <message>
         <source>eigene Kontonummer für Auszüge, die keine nennen</source>
-        <translation type="unfinished"></translation>
+        <translation>own account number for statements that give none</translation>
     </message>
     <message>
         <source>Konto im Haushaltsbuch für neue Kontonummern</source>
-        <translation type="unfinished"></translation>
+        <translation>account in the book for new account numbers</translation>
     </message>
     <message>
         <source>auch Umsätze übernehmen, die schon vorhanden sind</source>
-        <translation type="unfinished"></translation>
+        <translation>also accept transactions that are already there</translation>
     </message>
     <message>
         <source>zeigt die eingelesenen Umsätze</source>
-        <translation type="unfinished"></translation>
+        <translation>shows the imported transactions</translation>
     </message>
     <message>
         <source>nur die noch nicht gebuchten</source>
-        <translation type="unfinished"></translation>
+        <translation>only those not yet booked</translation>
     </message>
     <message>
         <source>zeigt zu jedem offenen Umsatz, wie er gebucht würde, und warum</source>
-        <translation type="unfinished"></translation>
+        <translation>shows for each open transaction how it would be booked, and why</translation>
     </message>
     <message>
         <source>bucht offene Umsätze so, wie &quot;propose&quot; es zeigt</source>
-        <translation type="unfinished"></translation>
+        <translation>books open transactions as shown by &quot;propose&quot;</translation>
     </message>
     <message>
         <source>alle offenen Umsätze</source>
-        <translation type="unfinished"></translation>
+        <translation>all open transactions</translation>
     </message>
     <message>
         <source>die Umsätze mit diesen Nummern (Spalte ID)</source>
-        <translation type="unfinished"></translation>
+        <translation>the transactions with these numbers (column ID)</translation>
     </message>
     <message>
         <source>nur zeigen, nichts ändern</source>
-        <translation type="unfinished"></translation>
+        <translation>only show, change nothing</translation>
     </message>
     <message>
         <source>zeigt die Einträge eines Zeitraums, wiederkehrende mit jedem Vorkommen; ohne Angabe das aktuelle Jahr</source>
-        <translation type="unfinished"></translation>
+        <translation>shows the entries of a period, recurring ones with every occurrence; the current year unless told otherwise</translation>
     </message>
     <message>
         <source>Zeitraum, zum Beispiel &quot;Letzter Monat&quot; oder &quot;Alle Buchungen&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>period, for example &quot;Letzter Monat&quot; (last month) or &quot;Alle Buchungen&quot; (all entries)</translation>
     </message>
     <message>
         <source>erster Tag, als 2026-01-31 oder 31.01.2026</source>
-        <translation type="unfinished"></translation>
+        <translation>first day, as 2026-01-31 or 31.01.2026</translation>
     </message>
     <message>
         <source>letzter Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>last day</translation>
     </message>
     <message>
         <source>nur dieses Konto</source>
-        <translation type="unfinished"></translation>
+        <translation>only this account</translation>
     </message>
     <message>
         <source>Einnahme, Ausgabe oder Umbuchung</source>
-        <translation type="unfinished"></translation>
+        <translation>Einnahme (income), Ausgabe (expense) or Umbuchung (transfer)</translation>
     </message>
     <message>
         <source>diese Kategorie und ihre Unterkategorien: &quot;Wohnung&quot;, &quot;Wohnung; Miete&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>this category and its subcategories: &quot;Wohnung&quot;, &quot;Wohnung; Miete&quot;</translation>
     </message>
     <message>
         <source>nur Einträge, die alle diese Wörter enthalten</source>
-        <translation type="unfinished"></translation>
+        <translation>only entries that contain all these words</translation>
     </message>
     <message>
         <source>Ausgabe als CSV-Datei für Tabellenprogramme</source>
-        <translation type="unfinished"></translation>
+        <translation>output as a CSV file for spreadsheet programs</translation>
     </message>
     <message>
         <source>zeigt die Kontostände von heute</source>
-        <translation type="unfinished"></translation>
+        <translation>shows the account balances of today</translation>
     </message>
     <message>
         <source>prüft die Datenbank und sagt, was beim Öffnen ergänzt wurde</source>
-        <translation type="unfinished"></translation>
+        <translation>checks the database and tells what was added on opening</translation>
     </message>
     <message>
         <source>schreibt den Beispielhaushalt in eine neue Datenbank</source>
-        <translation type="unfinished"></translation>
+        <translation>writes the example household to a new database</translation>
     </message>
     <message>
         <source>größeres Buch mit so vielen Einträgen</source>
-        <translation type="unfinished"></translation>
+        <translation>larger book with this many entries</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist keine Anzahl.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; is not a count.</translation>
     </message>
     <message>
         <source>Die Datei &apos;{0}&apos; gibt es schon. Bitte nennen Sie eine neue.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &apos;{0}&apos; already exists. Please name a new one.</translation>
     </message>
     <message>
         <source>Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.
 Die Datei &apos;template.dat&apos; konnte nicht gefunden werden!</source>
-        <translation type="unfinished"></translation>
+        <translation>The installation is damaged. Reinstalling could solve the problem.
+The file &apos;template.dat&apos; could not be found!</translation>
     </message>
     <message>
         <source>Die Datei &apos;{0}&apos; kann nicht geschrieben werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &apos;{0}&apos; cannot be written.</translation>
     </message>
     <message>
         <source>{0}: Beispielhaushalt mit {1} Einträgen</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}: example household with {1} entries</translation>
     </message>
     <message>
         <source>Bitte entweder --period oder --from und --to angeben.</source>
-        <translation type="unfinished"></translation>
+        <translation>Please give either --period or --from and --to.</translation>
     </message>
     <message>
         <source>Ein Datum wird als 2026-01-31 oder 31.01.2026 geschrieben.</source>
-        <translation type="unfinished"></translation>
+        <translation>A date is written as 2026-01-31 or 31.01.2026.</translation>
     </message>
     <message>
         <source>Den Zeitraum &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no period &apos;{0}&apos;. Possible are: {1}.</translation>
     </message>
     <message>
         <source>Die Buchungsart &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no entry type &apos;{0}&apos;. Possible are: {1}.</translation>
     </message>
     <message>
         <source>Das Konto &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no account &apos;{0}&apos;. Possible are: {1}.</translation>
     </message>
     <message>
         <source>Kontorelle auf der Befehlszeile
@@ -319,11 +320,16 @@ Aufruf: kontorelle-cli [--database DATEI] [--profile ORDNER] BEFEHL ...
 
 Befehle:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Kontorelle on the command line
+
+Usage: kontorelle-cli [--database FILE] [--profile FOLDER] COMMAND ...
+
+Commands:
+</translation>
     </message>
     <message>
         <source>zeigt diese Hilfe; &quot;hilfe BEFEHL&quot; zeigt die eines Befehls</source>
-        <translation type="unfinished"></translation>
+        <translation>shows this help; &quot;hilfe COMMAND&quot; shows that of a command</translation>
     </message>
     <message>
         <source>
@@ -333,1347 +339,2565 @@ Allgemein:
 
 Ergebnis: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+General:
+  --database FILE    the database; if not given, the one that the window opens
+  --profile FOLDER   data folder and settings are kept below this folder
+
+Result: 0 done, 1 failed, 2 wrong usage. Messages go to standard error.
+</translation>
     </message>
     <message>
         <source>Aufruf: kontorelle-cli [--database DATEI] [--profile ORDNER] {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Usage: kontorelle-cli [--database FILE] [--profile FOLDER] {0}</translation>
     </message>
     <message>
         <source> [OPTIONEN]</source>
-        <translation type="unfinished"></translation>
+        <translation> [OPTIONS]</translation>
     </message>
     <message>
         <source>Optionen:</source>
-        <translation type="unfinished"></translation>
+        <translation>Options:</translation>
     </message>
     <message>
         <source>{0}: {1}, {2} Umsätze gelesen, {3} neu</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}: {1}, {2} transactions read, {3} new</translation>
     </message>
     <message>
         <source>, {0} schon vorhanden</source>
-        <translation type="unfinished"></translation>
+        <translation>, {0} already there</translation>
     </message>
     <message>
         <source>, {0} ohne Betrag</source>
-        <translation type="unfinished"></translation>
+        <translation>, {0} without an amount</translation>
     </message>
     <message>
         <source>, {0} nicht gespeichert</source>
-        <translation type="unfinished"></translation>
+        <translation>, {0} not saved</translation>
     </message>
     <message>
         <source>, Endsaldo {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>, closing balance {0}</translation>
     </message>
     <message>
         <source>  schon vorhanden: {0}  {1}  {2}</source>
-        <translation type="unfinished"></translation>
+        <translation>  already there: {0}  {1}  {2}</translation>
     </message>
     <message>
         <source>  Zeile {0}: {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>  Line {0}: {1}</translation>
     </message>
     <message>
         <source>Der Kontonummer &apos;{0}&apos; konnte kein Konto zugeordnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No account could be assigned to the account number &apos;{0}&apos;.</translation>
     </message>
     <message>
         <source>Die Kontonummer &apos;{0}&apos; gehört nun zum Konto &apos;{1}&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>The account number &apos;{0}&apos; now belongs to the account &apos;{1}&apos;.</translation>
     </message>
     <message>
         <source>&quot;kontorelle-cli hilfe&quot; zeigt alle Befehle.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;kontorelle-cli hilfe&quot; shows all commands.</translation>
     </message>
     <message>
         <source>gebucht ({0})</source>
-        <translation type="unfinished"></translation>
+        <translation>booked ({0})</translation>
     </message>
     <message>
         <source>offen</source>
-        <translation type="unfinished"></translation>
+        <translation>open</translation>
     </message>
     <message>
         <source>Empfänger</source>
-        <translation type="unfinished"></translation>
+        <translation>Payee</translation>
     </message>
     <message>
         <source>Zweck</source>
-        <translation type="unfinished"></translation>
+        <translation>Purpose</translation>
     </message>
     <message>
         <source>Stand</source>
-        <translation type="unfinished"></translation>
+        <translation>State</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}.
 Möchten Sie sie nur zum Lesen öffnen?</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is in use: {1}.
+Do you want to open it read-only?</translation>
     </message>
     <message>
         <source>Datenbank wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose database</translation>
     </message>
     <message>
         <source>Datenbanken|*.db|Alle Dateien|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Databases|*.db|All files|*.*</translation>
     </message>
     <message>
         <source>Datensicherung laden</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore backup</translation>
     </message>
     <message>
         <source>Backup-Datei|*.backup|Alle Dateien|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup file|*.backup|All files|*.*</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Ja</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yes</translation>
     </message>
     <message>
         <source>&amp;Nein</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Kontorelle, das Haushaltsbuch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontorelle, the household accounts book</translation>
     </message>
     <message>
         <source>Ordner für Daten und Einstellungen statt der üblichen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder for data and settings instead of the usual ones.</translation>
     </message>
     <message>
         <source>Datenbank, die geöffnet wird.</source>
-        <translation type="unfinished"></translation>
+        <translation>Database to open.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; wird gerade von einem anderen Programm benutzt.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is being used by another program.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; ist beschädigt oder keine gültige Datenbank.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is damaged or not a valid database.</translation>
     </message>
     <message>
         <source>Die eingestellte Währung (Deutsche Mark) ist veraltet.
 Möchten Sie Ihr System auf Euro umstellen?</source>
-        <translation type="unfinished"></translation>
+        <translation>The currency set on this system (Deutsche Mark) is out of date.
+Do you want to change your system to euros?</translation>
     </message>
     <message>
         <source>Die Software muss neu gestartet werden, wenn die Währung umgestellt wurde.</source>
-        <translation type="unfinished"></translation>
+        <translation>The program must be restarted once the currency has been changed.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; wurde nicht gefunden. Der Standard-Datenbank-Pfad wird verwendet!</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; was not found. The default database path will be used!</translation>
     </message>
     <message>
         <source>Die Standard-Datenbank konnte nicht gefunden werden!</source>
-        <translation type="unfinished"></translation>
+        <translation>The default database could not be found!</translation>
     </message>
     <message>
         <source>Der Kontoauszug nennt keine Kontonummer.
 Zu welchem Konto gehören seine Umsätze?</source>
-        <translation type="unfinished"></translation>
+        <translation>The statement gives no account number.
+Which account do its transactions belong to?</translation>
     </message>
     <message>
         <source>Zu welchem Konto gehören die Umsätze der Kontonummer {0}?</source>
-        <translation type="unfinished"></translation>
+        <translation>Which account do the transactions of account number {0} belong to?</translation>
     </message>
     <message>
         <source>Konto zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Assign account</translation>
     </message>
     <message>
         <source>Laut Kontoauszug</source>
-        <translation type="unfinished"></translation>
+        <translation>According to statement</translation>
     </message>
     <message>
         <source>gelernt aus {0} Buchung von {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>learned from {0} entry received from {1}</translation>
     </message>
     <message>
         <source>gelernt aus {0} Buchungen von {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>learned from {0} entries received from {1}</translation>
     </message>
     <message>
         <source>gelernt aus {0} Buchung an {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>learned from {0} entry paid to {1}</translation>
     </message>
     <message>
         <source>gelernt aus {0} Buchungen an {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>learned from {0} entries paid to {1}</translation>
     </message>
     <message>
         <source>Regel: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Rule: {0}</translation>
     </message>
     <message>
         <source>eigenes Konto: an {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>own account: to {0}</translation>
     </message>
     <message>
         <source>eigenes Konto: von {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>own account: from {0}</translation>
     </message>
     <message>
         <source>Die Datei kann nicht geöffnet werden: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The file cannot be opened: {0}</translation>
     </message>
     <message>
         <source>Die Datei ist zu groß für einen Kontoauszug: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is too large for a statement: {0}</translation>
     </message>
     <message>
         <source>Die Datei kann nicht gelesen werden: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The file cannot be read: {0}</translation>
     </message>
     <message>
         <source>Die Datei ist leer: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is empty: {0}</translation>
     </message>
     <message>
         <source>Die Datenbank hat {0} Umsätze nicht angenommen. Sie können die Datei später noch einmal einlesen; was schon übernommen ist, wird dabei erkannt.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database did not accept {0} transactions. You can import the file again later; what has already been imported will be recognised.</translation>
     </message>
     <message>
         <source>Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht übernommen werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database is open read-only. Statements cannot be imported.</translation>
     </message>
     <message>
         <source>Der Umsatz hat keinen Betrag: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The transaction has no amount: {0}</translation>
     </message>
     <message>
         <source>Der Schlusssaldo ist nicht lesbar: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The closing balance is not readable: {0}</translation>
     </message>
     <message>
         <source>Angaben zu einem Umsatz (:86:) stehen vor dem ersten Umsatz (:61:) des Auszugs. Die Datei wurde nicht übernommen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Details of a transaction (:86:) come before the first transaction (:61:) of the statement. The file was not imported.</translation>
     </message>
     <message>
         <source>Das Buchungsdatum ist kein Datum: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The booking date is not a date: {0}</translation>
     </message>
     <message>
         <source>Der Betrag ist keine Zahl: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The amount is not a number: {0}</translation>
     </message>
     <message>
         <source>Tabellenkalkulation (XLS/XLSX-Datei)</source>
-        <translation type="unfinished"></translation>
+        <translation>Spreadsheet (XLS/XLSX file)</translation>
     </message>
     <message>
         <source>Portable Document Format (PDF-Datei)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Document Format (PDF file)</translation>
     </message>
     <message>
         <source>Unbekanntes Dateiformat</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown file format</translation>
     </message>
     <message>
         <source>SWIFT-Kontoauszug (MT940/MT942-Datei)</source>
-        <translation type="unfinished"></translation>
+        <translation>SWIFT statement (MT940/MT942 file)</translation>
     </message>
     <message>
         <source>Open Financial Exchange (OFX-Datei)</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Financial Exchange (OFX file)</translation>
     </message>
     <message>
         <source>Quicken Interchange Format (QIF-Datei)</source>
-        <translation type="unfinished"></translation>
+        <translation>Quicken Interchange Format (QIF file)</translation>
     </message>
     <message>
         <source>Character Separated Values (CSV-Datei)</source>
-        <translation type="unfinished"></translation>
+        <translation>Character Separated Values (CSV file)</translation>
     </message>
     <message>
         <source>Dieses Format kann nicht eingelesen werden: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>This format cannot be imported: {0}</translation>
     </message>
     <message>
         <source>Dieses Format wird noch nicht gelesen: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>This format is not supported yet: {0}</translation>
     </message>
     <message>
         <source>Keine Angabe</source>
-        <translation type="unfinished"></translation>
+        <translation>Not specified</translation>
     </message>
     <message>
         <source>Sonstiges; {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Miscellaneous; {0}</translation>
     </message>
     <message>
         <source>Manuelle Korrektur vom {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual correction dated {0}</translation>
     </message>
     <message>
         <source>Einnahme</source>
-        <translation type="unfinished"></translation>
+        <translation>Income</translation>
     </message>
     <message>
         <source>Ausgabe</source>
-        <translation type="unfinished"></translation>
+        <translation>Expense</translation>
     </message>
     <message>
         <source>Umbuchung</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfer</translation>
     </message>
     <message>
         <source>Einmalig</source>
-        <translation type="unfinished"></translation>
+        <translation>One-off</translation>
     </message>
     <message>
         <source>Täglich</source>
-        <translation type="unfinished"></translation>
+        <translation>Daily</translation>
     </message>
     <message>
         <source>Wöchentlich</source>
-        <translation type="unfinished"></translation>
+        <translation>Weekly</translation>
     </message>
     <message>
         <source>Alle 2 Wochen</source>
-        <translation type="unfinished"></translation>
+        <translation>Every 2 weeks</translation>
     </message>
     <message>
         <source>Alle 4 Wochen</source>
-        <translation type="unfinished"></translation>
+        <translation>Every 4 weeks</translation>
     </message>
     <message>
         <source>Monatlich</source>
-        <translation type="unfinished"></translation>
+        <translation>Monthly</translation>
     </message>
     <message>
         <source>Alle 2 Monate</source>
-        <translation type="unfinished"></translation>
+        <translation>Every 2 months</translation>
     </message>
     <message>
         <source>Alle 3 Monate</source>
-        <translation type="unfinished"></translation>
+        <translation>Every 3 months</translation>
     </message>
     <message>
         <source>Alle 6 Monate</source>
-        <translation type="unfinished"></translation>
+        <translation>Every 6 months</translation>
     </message>
     <message>
         <source>Jährlich</source>
-        <translation type="unfinished"></translation>
+        <translation>Yearly</translation>
     </message>
     <message>
         <source>Alle Buchungen</source>
-        <translation type="unfinished"></translation>
+        <translation>All entries</translation>
     </message>
     <message>
         <source>Aktueller Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Today</translation>
     </message>
     <message>
         <source>Buchungen bis heute</source>
-        <translation type="unfinished"></translation>
+        <translation>Entries up to today</translation>
     </message>
     <message>
         <source>Aktueller Monat</source>
-        <translation type="unfinished"></translation>
+        <translation>This month</translation>
     </message>
     <message>
         <source>Aktuelles Quartal</source>
-        <translation type="unfinished"></translation>
+        <translation>This quarter</translation>
     </message>
     <message>
         <source>Aktuelles Jahr</source>
-        <translation type="unfinished"></translation>
+        <translation>This year</translation>
     </message>
     <message>
         <source>Letzter Monat</source>
-        <translation type="unfinished"></translation>
+        <translation>Last month</translation>
     </message>
     <message>
         <source>Letztes Quartal</source>
-        <translation type="unfinished"></translation>
+        <translation>Last quarter</translation>
     </message>
     <message>
         <source>Letztes Jahr</source>
-        <translation type="unfinished"></translation>
+        <translation>Last year</translation>
     </message>
     <message>
         <source>Nächster Monat</source>
-        <translation type="unfinished"></translation>
+        <translation>Next month</translation>
     </message>
     <message>
         <source>Nächstes Quartal</source>
-        <translation type="unfinished"></translation>
+        <translation>Next quarter</translation>
     </message>
     <message>
         <source>Nächstes Jahr</source>
-        <translation type="unfinished"></translation>
+        <translation>Next year</translation>
     </message>
     <message>
         <source>Freier Zeitraum</source>
-        <translation type="unfinished"></translation>
+        <translation>Custom period</translation>
     </message>
     <message>
         <source>Alle Buchungsarten</source>
-        <translation type="unfinished"></translation>
+        <translation>All entry types</translation>
     </message>
     <message>
         <source>Keine Gruppierung</source>
-        <translation type="unfinished"></translation>
+        <translation>No grouping</translation>
     </message>
     <message>
         <source>Nach Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>By date</translation>
     </message>
     <message>
         <source>Nach Woche</source>
-        <translation type="unfinished"></translation>
+        <translation>By week</translation>
     </message>
     <message>
         <source>Nach Monat</source>
-        <translation type="unfinished"></translation>
+        <translation>By month</translation>
     </message>
     <message>
         <source>Nach Sparte</source>
-        <translation type="unfinished"></translation>
+        <translation>By main category</translation>
     </message>
     <message>
         <source>Nach Kategorie</source>
-        <translation type="unfinished"></translation>
+        <translation>By category</translation>
     </message>
     <message>
         <source>Nach Konto</source>
-        <translation type="unfinished"></translation>
+        <translation>By account</translation>
     </message>
     <message>
         <source>Nach Buchungsart</source>
-        <translation type="unfinished"></translation>
+        <translation>By entry type</translation>
     </message>
     <message>
         <source>ERROR: GetSettings
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetSettings
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeSettingItem
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeSettingItem
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteSetting
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteSetting
+{0}</translation>
     </message>
     <message>
         <source>ERROR: AddNewEntry
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: AddNewEntry
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeEntry
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeEntry
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteEntry
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteEntry
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeEntryAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeEntryAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeEntryCategory
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeEntryCategory
+{0}</translation>
     </message>
     <message>
         <source>ERROR: LoadEntry
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: LoadEntry
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetEntriesByTarget
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetEntriesByTarget
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetEntriesOfAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetEntriesOfAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: CountEntries
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: CountEntries
+{0}</translation>
     </message>
     <message>
         <source>ERROR: CountEntriesOfAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: CountEntriesOfAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: CountEntriesOfCategory
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: CountEntriesOfCategory
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetEntryAccounts
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetEntryAccounts
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetStartGuthaben
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetStartGuthaben
+{0}</translation>
     </message>
     <message>
         <source>ERROR: SetStartGuthaben
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: SetStartGuthaben
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetEntryMods
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetEntryMods
+{0}</translation>
     </message>
     <message>
         <source>ERROR: AddNewEntryMod
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: AddNewEntryMod
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeEntryMod
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeEntryMod
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteEntryMod
 </source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteEntryMod
+</translation>
     </message>
     <message>
         <source>ERROR: DeleteEntryModByRelation
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteEntryModByRelation
+{0}</translation>
     </message>
     <message>
         <source>FEHLER: GetImportEntries
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetImportEntries
+{0}</translation>
     </message>
     <message>
         <source>ERROR: AddNewImportEntry
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: AddNewImportEntry
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeImportEntry
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeImportEntry
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteImport
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteImport
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteAllImports
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteAllImports
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ReleaseImports
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ReleaseImports
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetImportAccounts
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetImportAccounts
+{0}</translation>
     </message>
     <message>
         <source>ERROR: CountOpenImports
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: CountOpenImports
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ImportVersion
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ImportVersion
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetOnlineAccounts
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetOnlineAccounts
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetNewOnlineAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetNewOnlineAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeOnlineAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeOnlineAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteOnlineAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteOnlineAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: FindOnlineAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: FindOnlineAccount
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetEntries
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetEntries
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetSums
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetSums
+{0}</translation>
     </message>
     <message>
         <source>ERROR: AddNewTemplate
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: AddNewTemplate
+{0}</translation>
     </message>
     <message>
         <source>ERROR: ChangeTemplate
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: ChangeTemplate
+{0}</translation>
     </message>
     <message>
         <source>ERROR: DeleteTemplate
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: DeleteTemplate
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetTemplates
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetTemplates
+{0}</translation>
     </message>
     <message>
         <source>ERROR: GetAccounts
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetAccounts
+{0}</translation>
     </message>
     <message>
         <source>ERROR: FindTemplate
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: FindTemplate
+{0}</translation>
     </message>
     <message>
         <source>ERROR: FindAccount
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: FindAccount
+{0}</translation>
     </message>
     <message>
         <source>Fehlerhafte Konfiguration!</source>
-        <translation type="unfinished"></translation>
+        <translation>Faulty configuration!</translation>
     </message>
     <message>
         <source>Die Software wird jetzt beendet. Bitte korrigieren Sie dieses Konfigurationsproblem.</source>
-        <translation type="unfinished"></translation>
+        <translation>The program will now close. Please correct this configuration problem.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; wurde nicht gefunden.
 Möchten Sie jetzt einen neuen Datenbankpfad wählen?</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; was not found.
+Do you want to choose a new database path now?</translation>
     </message>
     <message>
         <source>Die Konfiguration ist fehlerhaft oder Ihre Datenbank wurde beschädigt. Die Software wird jetzt beendet.
 Bitte korrigieren Sie dieses Konfigurationsproblem.</source>
-        <translation type="unfinished"></translation>
+        <translation>The configuration is faulty or your database has been damaged. The program will now close.
+Please correct this configuration problem.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; wird gerade von einem anderen Programm benutzt.
 Möchten Sie es noch einmal versuchen?</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is being used by another program.
+Do you want to try again?</translation>
     </message>
     <message>
         <source>Möchten Sie jetzt den Datenbankpfad ändern?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to change the database path now?</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; ist beschädigt oder keine gültige Datenbank. Bitte laden Sie eine Datenbanksicherung oder ändern Sie den Datenbankpfad. Möchten Sie jetzt eine Datensicherung zurück spielen?</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; is damaged or not a valid database. Please restore a backup or change the database path. Do you want to restore a backup now?</translation>
     </message>
     <message>
         <source>Möchten Sie die beschädigte Datenbank löschen und neu initialisieren?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to delete the damaged database and set up a new one?</translation>
     </message>
     <message>
         <source>Die Datensicherung &apos;{0}&apos; ist beschädigt oder keine gültige Datenbank.</source>
-        <translation type="unfinished"></translation>
+        <translation>The backup &apos;{0}&apos; is damaged or not a valid database.</translation>
     </message>
     <message>
         <source>Die bisherige Datei wurde als &apos;{0}&apos; aufgehoben.</source>
-        <translation type="unfinished"></translation>
+        <translation>The previous file has been kept as &apos;{0}&apos;.</translation>
     </message>
     <message>
         <source>Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den Speicherplatz: 
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The database could not be created. Please check the access rights and the disk space: 
+{0}</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; kann nur gelesen werden. Änderungen werden nicht gespeichert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; can only be read. Changes will not be saved.</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; kann nur gelesen werden, weil vor ihrer Umstellung keine Sicherungskopie angelegt werden konnte:
 {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; can only be read because no backup copy could be made before its conversion:
+{1}</translation>
     </message>
     <message>
         <source>Die Datenbank &apos;{0}&apos; kann nur gelesen werden, weil sie nicht umgestellt werden konnte. Bitte prüfen Sie den Speicherplatz.
 Es fehlt: {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>The database &apos;{0}&apos; can only be read because it could not be converted. Please check the disk space.
+Missing: {1}</translation>
     </message>
     <message>
         <source>Möchten Sie die Datenbank nur zum Lesen öffnen?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to open the database read-only?</translation>
     </message>
     <message>
         <source>Tabelle {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Table {0}</translation>
     </message>
     <message>
         <source>Spalte {0}.{1}</source>
-        <translation type="unfinished"></translation>
+        <translation>Column {0}.{1}</translation>
     </message>
     <message>
         <source>Index {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Index {0}</translation>
     </message>
     <message>
         <source>FEHLER: GetDefaultDatabase
  {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR: GetDefaultDatabase
+ {0}</translation>
     </message>
     <message>
         <source>Der Datenordner konnte nicht angelegt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The data folder could not be created.</translation>
     </message>
     <message>
         <source>Konten</source>
-        <translation type="unfinished"></translation>
+        <translation>Accounts</translation>
     </message>
     <message>
         <source>Ohne Kontoeintrag</source>
-        <translation type="unfinished"></translation>
+        <translation>Not in the account list</translation>
     </message>
     <message>
         <source>Gesamt</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>{0} Umsätze warten auf die Buchung</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} transactions waiting to be booked</translation>
     </message>
     <message>
         <source>Offen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bitte erst neue Kategorien anlegen und diese Buchung einordnen!</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bitte erst eine Kategorie wählen!</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bitte erst eine Buchungsart wählen!</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bitte erst neue Konten anlegen und diese Buchung einordnen!</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bitte erst ein Konto wählen!</source>
-        <translation type="unfinished"></translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Der Zeitraum für diesen Eintrag wurde modifiziert.
 Die manuellen Korrekturen gehen dadurch verloren.
 Soll der Eintrag trotzdem gespeichert werden?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Eintrag konnte nicht erstellt werden!</source>
-        <translation type="unfinished"></translation>
+        <translation>The period of this entry has been changed.
+Its manual corrections will be lost.
+Do you want to save the entry anyway?</translation>
     </message>
     <message>
         <source>Buchungsart</source>
-        <translation type="unfinished"></translation>
+        <translation>Entry type</translation>
     </message>
     <message>
         <source>Beschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>Description</translation>
     </message>
     <message>
         <source>Saldo</source>
-        <translation type="unfinished"></translation>
+        <translation>Balance</translation>
     </message>
     <message>
         <source>{0}, korrigiert</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}, corrected</translation>
     </message>
     <message>
         <source>Betrag für diesen Zeitraum von Hand korrigiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Amount corrected by hand for this period.</translation>
     </message>
     <message>
         <source>Kontoauszüge importieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Import statements</translation>
     </message>
     <message>
         <source>CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle Dateien|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV/XLS/MT940/MT942/OFX/QIF file|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|All files|*.*</translation>
     </message>
     <message>
         <source>{0} trotzdem übernommen.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} imported anyway.</translation>
     </message>
     <message>
         <source>Soll der markierte Umsatz gelöscht werden?
 Ein daraus gebuchter Eintrag bleibt bestehen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to delete the selected transaction?
+An entry booked from it will remain.</translation>
     </message>
     <message>
         <source>Sollen die {0} markierten Umsätze gelöscht werden?
 Daraus gebuchte Einträge bleiben bestehen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to delete the {0} selected transactions?
+Entries booked from them will remain.</translation>
     </message>
     <message>
         <source>Umsätze löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete transactions</translation>
     </message>
     <message>
         <source>{0} gelöscht.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} deleted.</translation>
     </message>
     <message>
         <source>Keine Daten</source>
-        <translation type="unfinished"></translation>
+        <translation>No data</translation>
     </message>
     <message>
         <source>Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. Gelesen werden Dateien im Format MT940 und MT942.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drag a statement from your bank here or choose “Import file…”. Files in the formats MT940 and MT942 can be read.</translation>
     </message>
     <message>
         <source>Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.</source>
-        <translation type="unfinished"></translation>
+        <translation>All transactions have been booked. Untick “Open only” to see the booked ones as well.</translation>
     </message>
     <message>
         <source>Kein Umsatz passt zum Filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>No transaction matches the filter.</translation>
     </message>
     <message>
         <source>{0} offen, {1} insgesamt</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} open, {1} in total</translation>
     </message>
     <message>
         <source>von Hand gewählt</source>
-        <translation type="unfinished"></translation>
+        <translation>chosen by hand</translation>
     </message>
     <message>
         <source>Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige aktiviert werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>Future entries are currently hidden. Do you want to show them?</translation>
     </message>
     <message>
         <source>Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum Beispiel &quot;gnome-calculator&quot; oder &quot;kcalc&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No calculator was found on this system. Please install one, for example &quot;gnome-calculator&quot; or &quot;kcalc&quot;.</translation>
     </message>
     <message>
         <source>Eintrag löschen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;{0}&apos; vom {1} über {2}</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;{0}&apos; ({1} seit {2})</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Möchten Sie den Eintrag {0} löschen?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Möchten Sie die {0} ausgewählten Einträge löschen?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete entry</translation>
     </message>
     <message>
         <source>1 Eintrag</source>
-        <translation type="unfinished"></translation>
+        <translation>1 entry</translation>
     </message>
     <message>
         <source>{0} Einträge</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} entries</translation>
     </message>
     <message>
         <source>Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.</source>
-        <translation type="unfinished"></translation>
+        <translation>With the recurring entries, “All entries” reaches to the year 2050.</translation>
     </message>
     <message>
         <source>Einmalige und fixe Buchungen sind ausgeblendet. Das Menü Ansicht blendet sie wieder ein.</source>
-        <translation type="unfinished"></translation>
+        <translation>One-off and recurring entries are hidden. The View menu shows them again.</translation>
     </message>
     <message>
         <source>Kein Eintrag dieser Ansicht enthält &apos;{0}&apos;. Löschen Sie den Filter, um alles zu sehen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No entry in this view contains &apos;{0}&apos;. Clear the filter to see everything.</translation>
     </message>
     <message>
         <source>Erfassen Sie mit Strg+N den ersten Eintrag, oder lesen Sie mit Strg+I einen Kontoauszug Ihrer Bank ein.</source>
-        <translation type="unfinished"></translation>
+        <translation>Press Ctrl+N to enter the first entry, or Ctrl+I to import a statement from your bank.</translation>
     </message>
     <message>
         <source>Für diese Auswahl gibt es keine Einträge. Wählen Sie einen anderen Zeitraum oder ein anderes Konto.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no entries for this selection. Choose another period or another account.</translation>
     </message>
     <message>
         <source>{0} (nur lesen)</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} (read-only)</translation>
     </message>
     <message>
         <source>Kontostände heute</source>
-        <translation type="unfinished"></translation>
+        <translation>Balances today</translation>
     </message>
     <message>
         <source>Kontostände im Zeitraum</source>
-        <translation type="unfinished"></translation>
+        <translation>Balances in the period</translation>
     </message>
     <message>
         <source>kein Konto</source>
-        <translation type="unfinished"></translation>
+        <translation>no account</translation>
     </message>
     <message>
         <source>{0} (kein Konto)</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} (no account)</translation>
     </message>
     <message>
         <source>gebucht</source>
-        <translation type="unfinished"></translation>
+        <translation>booked</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Empfänger / Auftraggeber</source>
-        <translation type="unfinished"></translation>
+        <translation>Payee / payer</translation>
     </message>
     <message>
         <source>Verwendungszweck</source>
-        <translation type="unfinished"></translation>
+        <translation>Purpose</translation>
     </message>
     <message>
         <source>Grund des Vorschlags</source>
-        <translation type="unfinished"></translation>
+        <translation>Reason</translation>
     </message>
     <message>
         <source>Neuer Name für das Konto &apos;{0}&apos;:</source>
-        <translation type="unfinished"></translation>
+        <translation>New name for the account &apos;{0}&apos;:</translation>
     </message>
     <message>
         <source>Konto umbenennen</source>
-        <translation type="unfinished"></translation>
+        <translation>Rename account</translation>
     </message>
     <message>
         <source>Der Kontoname darf nicht leer sein!</source>
-        <translation type="unfinished"></translation>
+        <translation>The account name must not be empty!</translation>
     </message>
     <message>
         <source>Dieser Kontoname existiert bereits!</source>
-        <translation type="unfinished"></translation>
+        <translation>This account name already exists!</translation>
     </message>
     <message>
         <source>Es existieren bereits Buchungen zu diesem Konto.
 Sollen die Quell/Zielkonten der Buchungen von &apos;{0}&apos; auf &apos;{1}&apos; geändert werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>There are already entries for this account.
+Do you want to change the source/target accounts of the entries from &apos;{0}&apos; to &apos;{1}&apos;?</translation>
     </message>
     <message>
         <source>Die Kategorie &apos;{0}&apos; existiert bereits!</source>
-        <translation type="unfinished"></translation>
+        <translation>The category &apos;{0}&apos; already exists!</translation>
     </message>
     <message>
         <source>Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Kontoauszug importieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Import statement</translation>
     </message>
     <message>
         <source>Liest Kontoauszüge aus Dateien Ihrer Bank ein.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imports statements from files of your bank.</translation>
     </message>
     <message>
         <source>Beenden</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit</translation>
     </message>
     <message>
         <source>Beendet das Programm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quits the program.</translation>
     </message>
     <message>
         <source>Bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit</translation>
     </message>
     <message>
         <source>Neuer Eintrag</source>
-        <translation type="unfinished"></translation>
+        <translation>New entry</translation>
     </message>
     <message>
         <source>Erfasst eine Einnahme, Ausgabe oder Umbuchung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enters an income, an expense or a transfer.</translation>
     </message>
     <message>
         <source>Eintrag bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit entry</translation>
     </message>
     <message>
         <source>Öffnet den ausgewählten Eintrag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opens the selected entry.</translation>
     </message>
     <message>
         <source>Löscht die ausgewählten Einträge nach einer Rückfrage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deletes the selected entries after asking.</translation>
     </message>
     <message>
         <source>Ansicht</source>
-        <translation type="unfinished"></translation>
+        <translation>View</translation>
     </message>
     <message>
         <source>Kontostand (aller Konten)</source>
-        <translation type="unfinished"></translation>
+        <translation>Balance (all accounts)</translation>
     </message>
     <message>
         <source>Zeigt die Kontostände bis heute statt nur des gewählten Zeitraums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows the balances up to today instead of only those of the chosen period.</translation>
     </message>
     <message>
         <source>Einmalige-Buchungen</source>
-        <translation type="unfinished"></translation>
+        <translation>One-off entries</translation>
     </message>
     <message>
         <source>Zeigt Einträge, die nur einmal vorkommen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows entries that occur only once.</translation>
     </message>
     <message>
         <source>Fixe-Buchungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Recurring entries</translation>
     </message>
     <message>
         <source>Zeigt Einträge, die sich wiederholen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows entries that repeat.</translation>
     </message>
     <message>
         <source>Zukünftige-Buchung</source>
-        <translation type="unfinished"></translation>
+        <translation>Future entries</translation>
     </message>
     <message>
         <source>Zeigt auch Einträge nach dem heutigen Tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Also shows entries after today.</translation>
     </message>
     <message>
         <source>Startguthaben</source>
-        <translation type="unfinished"></translation>
+        <translation>Opening balances</translation>
     </message>
     <message>
         <source>Zeigt auch die Startguthaben der Konten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Also shows the opening balances of the accounts.</translation>
     </message>
     <message>
         <source>Spalten modifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose columns</translation>
     </message>
     <message>
         <source>Wählt, welche Spalten die Liste zeigt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chooses which columns the list shows.</translation>
     </message>
     <message>
         <source>Einstellungen zurücksetzen</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset settings</translation>
     </message>
     <message>
         <source>Stellt Ansicht, Spalten und Fenstergröße auf den Anfang zurück.</source>
-        <translation type="unfinished"></translation>
+        <translation>Resets view, columns and window size to their defaults.</translation>
     </message>
     <message>
         <source>Extras</source>
-        <translation type="unfinished"></translation>
+        <translation>Tools</translation>
     </message>
     <message>
         <source>Taschenrechner</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculator</translation>
     </message>
     <message>
         <source>Startet den Taschenrechner des Systems.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starts the system&apos;s calculator.</translation>
     </message>
     <message>
         <source>Woche {0}/{1} ab {2}</source>
-        <translation type="unfinished"></translation>
+        <translation>Week {0}/{1} from {2}</translation>
     </message>
     <message>
         <source>{0} gelesen</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} read</translation>
     </message>
     <message>
         <source>{0} neu</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} new</translation>
     </message>
     <message>
         <source>{0} schon vorhanden</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} already there</translation>
     </message>
     <message>
         <source>{0} ohne Betrag</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} without an amount</translation>
     </message>
     <message>
         <source>{0} nicht gespeichert</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} not saved</translation>
     </message>
     <message>
         <source>abgebrochen</source>
-        <translation type="unfinished"></translation>
+        <translation>cancelled</translation>
     </message>
     <message>
         <source>Schlusssaldo {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>closing balance {0}</translation>
     </message>
     <message>
         <source>Zeile {0}: {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>Line {0}: {1}</translation>
     </message>
     <message>
         <source>Ein Umsatz</source>
-        <translation type="unfinished"></translation>
+        <translation>1 transaction</translation>
     </message>
     <message>
         <source>{0} Umsätze</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} transactions</translation>
     </message>
     <message>
         <source>{0}: nicht eingelesen. {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}: not imported. {1}</translation>
     </message>
     <message>
         <source>{0}: {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}: {1}</translation>
     </message>
     <message>
         <source>… und {0} weitere Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>… and {0} more lines</translation>
     </message>
     <message>
         <source>{0} gebucht</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} booked</translation>
     </message>
     <message>
         <source>ein neuer Eintrag</source>
-        <translation type="unfinished"></translation>
+        <translation>1 new entry</translation>
     </message>
     <message>
         <source>{0} neue Einträge</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} new entries</translation>
     </message>
     <message>
         <source>{0} zu vorhandenen Einträgen</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} assigned to existing entries</translation>
     </message>
     <message>
         <source>{0} nicht gebucht, weil die Datenbank nicht schreibt</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} not booked because the database could not be written</translation>
     </message>
     <message>
         <source>Umsätze ohne Kontonummer haben noch kein Konto und werden nicht gebucht.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transactions without an account number have no account yet and will not be booked.</translation>
     </message>
     <message>
         <source>Die Kontonummer {0} hat noch kein Konto; ihre Umsätze werden nicht gebucht.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gehört zu einem vorhandenen Eintrag</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{0}; {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>The account number {0} has no account yet; its transactions will not be booked.</translation>
     </message>
     <message>
         <source>&amp;Nur dieses Konto zeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Show only this account</translation>
     </message>
     <message>
         <source>&amp;Alle Konten zeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Show &amp;all accounts</translation>
     </message>
     <message>
         <source>Konto &amp;umbenennen…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rename account…</translation>
     </message>
     <message>
         <source>Liste der Einträge</source>
-        <translation type="unfinished"></translation>
+        <translation>List of entries</translation>
     </message>
     <message>
         <source>Spalten auf den Anfang zurückstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset columns</translation>
     </message>
     <message>
         <source>Einnahmen:</source>
-        <translation type="unfinished"></translation>
+        <translation>Income:</translation>
     </message>
     <message>
         <source>Ausgaben:</source>
-        <translation type="unfinished"></translation>
+        <translation>Expenses:</translation>
     </message>
     <message>
         <source>Summe:</source>
-        <translation type="unfinished"></translation>
+        <translation>Total:</translation>
     </message>
     <message>
         <source>Erster Tag des Zeitraums</source>
-        <translation type="unfinished"></translation>
+        <translation>First day of the period</translation>
     </message>
     <message>
         <source>Letzter Tag des Zeitraums</source>
-        <translation type="unfinished"></translation>
+        <translation>Last day of the period</translation>
     </message>
     <message>
         <source>&amp;Zeitraum:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Period:</translation>
     </message>
     <message>
         <source>&amp;von:</source>
-        <translation type="unfinished"></translation>
+        <translation>fro&amp;m:</translation>
     </message>
     <message>
         <source>b&amp;is:</source>
-        <translation type="unfinished"></translation>
+        <translation>t&amp;o:</translation>
     </message>
     <message>
         <source>&amp;Konto:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Account:</translation>
     </message>
     <message>
         <source>B&amp;uchungsart:</source>
-        <translation type="unfinished"></translation>
+        <translation>Entry t&amp;ype:</translation>
     </message>
     <message>
         <source>&amp;Gruppierung:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grouping:</translation>
     </message>
     <message>
         <source>&amp;Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fi&amp;lter:</translation>
     </message>
     <message>
         <source>Text, Kategorie oder Betrag</source>
-        <translation type="unfinished"></translation>
+        <translation>Text, category or amount</translation>
     </message>
     <message>
         <source>Alle Konten</source>
-        <translation type="unfinished"></translation>
+        <translation>All accounts</translation>
     </message>
     <message>
         <source>&amp;Nach Konto:</source>
-        <translation type="unfinished"></translation>
+        <translation>To acco&amp;unt:</translation>
     </message>
     <message>
         <source>&amp;endet am</source>
-        <translation type="unfinished"></translation>
+        <translation>e&amp;nds on</translation>
     </message>
     <message>
         <source>Nach dem Speichern &amp;schließen</source>
-        <translation type="unfinished"></translation>
+        <translation>Close after sa&amp;ving</translation>
     </message>
     <message>
         <source>&amp;Betrag (€):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Amount (€):</translation>
     </message>
     <message>
         <source>&amp;Kategorie:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cate&amp;gory:</translation>
     </message>
     <message>
         <source>Buchungs&amp;art:</source>
-        <translation type="unfinished"></translation>
+        <translation>Entry &amp;type:</translation>
     </message>
     <message>
         <source>K&amp;onto:</source>
-        <translation type="unfinished"></translation>
+        <translation>Acc&amp;ount:</translation>
     </message>
     <message>
         <source>&amp;Datum:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Date:</translation>
     </message>
     <message>
         <source>&amp;Intervall:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interval:</translation>
     </message>
     <message>
         <source>Besch&amp;reibung:</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;escription:</translation>
     </message>
     <message>
         <source>Letzter Tag der Serie</source>
-        <translation type="unfinished"></translation>
+        <translation>Last day of the series</translation>
     </message>
     <message>
         <source>Werkzeugleiste</source>
-        <translation type="unfinished"></translation>
+        <translation>Toolbar</translation>
     </message>
     <message>
         <source>Bu&amp;chungen</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ntries</translation>
     </message>
     <message>
         <source>Kont&amp;oauszüge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Statements</translation>
     </message>
     <message>
         <source>Zukünftige ausblenden</source>
-        <translation type="unfinished"></translation>
+        <translation>Hide future entries</translation>
     </message>
     <message>
         <source>Passwortschutz</source>
-        <translation type="unfinished"></translation>
+        <translation>Password protection</translation>
     </message>
     <message>
         <source>&amp;Bitte geben Sie das Passwort der Datenbank ein:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Please enter the password of the database:</translation>
     </message>
     <message>
         <source>Das Passwort ist nicht richtig. Bitte versuchen Sie es noch einmal.</source>
-        <translation type="unfinished"></translation>
+        <translation>The password is not correct. Please try again.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; kann nur gelesen werden. Bitte prüfen Sie die Zugriffsrechte.</source>
+        <translation>The database &apos;{0}&apos; can only be read. Please check the access rights.</translation>
+    </message>
+    <message>
+        <source>In die Datenbank &apos;{0}&apos; kann nicht geschrieben werden. Bitte prüfen Sie den Speicherplatz.</source>
+        <translation>The database &apos;{0}&apos; cannot be written to. Please check the disk space.</translation>
+    </message>
+    <message>
+        <source>Passwort:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Die Datenbank ist mit einem Passwort geschützt. Bitte nennen Sie es in der Umgebungsvariable KONTORELLE_PASSWORT.</source>
+        <translation>The database is protected by a password. Please give it in the environment variable KONTORELLE_PASSWORT.</translation>
+    </message>
+    <message>
+        <source>Das Passwort ist nicht richtig.</source>
+        <translation>The password is not correct.</translation>
+    </message>
+    <message>
+        <source>keine Regel passt</source>
+        <translation>no rule matches</translation>
+    </message>
+    <message>
+        <source>{0}; gehört zu einem vorhandenen Eintrag</source>
+        <translation>{0}; belongs to an existing entry</translation>
+    </message>
+    <message>
+        <source>Liste der Bankumsätze</source>
+        <translation>List of bank transactions</translation>
+    </message>
+    <message>
+        <source>Datei i&amp;mportieren…</source>
+        <translation>&amp;Import file…</translation>
+    </message>
+    <message>
+        <source>B&amp;uchen</source>
+        <translation>&amp;Book</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>&amp;Nur offene</source>
+        <translation>&amp;Open only</translation>
+    </message>
+    <message>
+        <source>Trot&amp;zdem übernehmen</source>
+        <translation>Import an&amp;yway</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Ergebnis</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>Bucht die markierten Umsätze (Eingabetaste)</source>
+        <translation>Books the selected transactions (Enter)</translation>
+    </message>
+    <message>
+        <source>Löscht die markierten Umsätze (Entf); gebuchte Einträge bleiben</source>
+        <translation>Deletes the selected transactions (Del); booked entries remain</translation>
+    </message>
+    <message>
+        <source>Name, Zweck, Betrag …</source>
+        <translation>Name, purpose, amount…</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter:</source>
+        <translation>Fi&amp;lter:</translation>
+    </message>
+    <message>
+        <source>Schon vorhandene Umsätze</source>
+        <translation>Transactions already there</translation>
+    </message>
+    <message>
+        <source>Der Kontoauszug wird eingelesen …</source>
+        <translation>Importing the statement…</translation>
+    </message>
+    <message>
+        <source>Die Umsätze werden gebucht …</source>
+        <translation>Booking the transactions…</translation>
+    </message>
+    <message>
+        <source>Schon vorhanden und nicht noch einmal übernommen:</source>
+        <translation>Already there and not imported again:</translation>
+    </message>
+    <message>
+        <source>ERROR: RevertStep
+{0}</source>
+        <translation>ERROR: RevertStep
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: Undo
+{0}</source>
+        <translation>ERROR: Undo
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: Redo
+{0}</source>
+        <translation>ERROR: Redo
+{0}</translation>
+    </message>
+    <message>
+        <source>heute</source>
+        <translation>today</translation>
+    </message>
+    <message>
+        <source>gestern</source>
+        <translation>yesterday</translation>
+    </message>
+    <message>
+        <source>vorgestern</source>
+        <translation>day before yesterday</translation>
+    </message>
+    <message>
+        <source>morgen</source>
+        <translation>tomorrow</translation>
+    </message>
+    <message>
+        <source>übermorgen</source>
+        <translation>day after tomorrow</translation>
+    </message>
+    <message>
+        <source>In den Ordner &apos;{0}&apos; kann nicht geschrieben werden. Bitte prüfen Sie die Zugriffsrechte und den Speicherplatz.</source>
+        <translation>The folder &apos;{0}&apos; cannot be written to. Please check the access rights and the disk space.</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung braucht einen anderen Namen als die Datenbank.</source>
+        <translation>The backup needs a different name from the database.</translation>
+    </message>
+    <message>
+        <source>Die Kopie kann nicht gelesen werden.</source>
+        <translation>The copy cannot be read.</translation>
+    </message>
+    <message>
+        <source>Die Kopie ist beschädigt: {0}</source>
+        <translation>The copy is damaged: {0}</translation>
+    </message>
+    <message>
+        <source>Die automatische Datensicherung konnte nicht erstellt werden:
+{0}</source>
+        <translation>The automatic backup could not be made:
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: CountEntriesByCategory
+{0}</source>
+        <translation>ERROR: CountEntriesByCategory
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: CountEntriesByAccount
+{0}</source>
+        <translation>ERROR: CountEntriesByAccount
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: MoveEntriesToAccount
+{0}</source>
+        <translation>ERROR: MoveEntriesToAccount
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: GetEntriesOfSplit
+{0}</source>
+        <translation>ERROR: GetEntriesOfSplit
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: GetDescriptionUses
+{0}</source>
+        <translation>ERROR: GetDescriptionUses
+{0}</translation>
+    </message>
+    <message>
+        <source>ERROR: GetRecentCategories
+{0}</source>
+        <translation>ERROR: GetRecentCategories
+{0}</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung &apos;{0}&apos; enthält:
+{1}.
+
+Möchten Sie diese Datensicherung laden?</source>
+        <translation>The backup &apos;{0}&apos; contains:
+{1}.
+
+Do you want to restore this backup?</translation>
+    </message>
+    <message>
+        <source>Datei vom {0} {1}</source>
+        <translation>file of {0} {1}</translation>
+    </message>
+    <message>
+        <source>{0}, der letzte vom {1}, {2}</source>
+        <translation>{0}, the last of {1}, {2}</translation>
+    </message>
+    <message>
+        <source>{0}, {1}</source>
+        <translation>{0}, {1}</translation>
+    </message>
+    <message>
+        <source>Kontoauszug eingelesen</source>
+        <translation>Statement imported</translation>
+    </message>
+    <message>
+        <source>Umsätze trotzdem übernommen</source>
+        <translation>Transactions imported anyway</translation>
+    </message>
+    <message>
+        <source>{0} gelöscht</source>
+        <translation>{0} deleted</translation>
+    </message>
+    <message>
+        <source>Konto &apos;{0}&apos; umbenannt</source>
+        <translation>Account &apos;{0}&apos; renamed</translation>
+    </message>
+    <message>
+        <source>Der Name der Kategorie darf nicht leer sein!</source>
+        <translation>The name of the category must not be empty!</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos; umbenannt</source>
+        <translation>Category &apos;{0}&apos; renamed</translation>
+    </message>
+    <message>
+        <source>Die Hauptkategorie &apos;{0}&apos; existiert bereits!</source>
+        <translation>The main category &apos;{0}&apos; already exists!</translation>
+    </message>
+    <message>
+        <source>Hauptkategorie &apos;{0}&apos; umbenannt</source>
+        <translation>Main category &apos;{0}&apos; renamed</translation>
+    </message>
+    <message>
+        <source>Kontogruppe &apos;{0}&apos; umbenannt</source>
+        <translation>Account group &apos;{0}&apos; renamed</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts, wohin die Buchungen gehen könnten.</source>
+        <translation>There is nowhere the entries could be moved to.</translation>
+    </message>
+    <message>
+        <source>Die Kategorie &apos;{0}&apos;</source>
+        <translation>The category &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Nur die Kategorie löschen</source>
+        <translation>Delete the category only</translation>
+    </message>
+    <message>
+        <source>Die Hauptkategorie &apos;{0}&apos;</source>
+        <translation>The main category &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Die Hauptkategorie &apos;{0}&apos; mit {1} Unterkategorien</source>
+        <translation>The main category &apos;{0}&apos; with {1} subcategories</translation>
+    </message>
+    <message>
+        <source>Nur die Kategorien löschen</source>
+        <translation>Delete the categories only</translation>
+    </message>
+    <message>
+        <source>Kategorie löschen</source>
+        <translation>Delete category</translation>
+    </message>
+    <message>
+        <source>{0} wird von keiner Buchung verwendet.
+Möchten Sie sie löschen?</source>
+        <translation>{0} is not used by any entry.
+Do you want to delete it?</translation>
+    </message>
+    <message>
+        <source>{0} wird von {1} verwendet.
+Ohne Verschieben behalten die Buchungen ihre alte Kategorie und bleiben überall sichtbar.</source>
+        <translation>{0} is used by {1}.
+Unless they are moved, the entries keep their old category and stay visible everywhere.</translation>
+    </message>
+    <message>
+        <source>Buchungen verschieben und löschen</source>
+        <translation>Move the entries and delete</translation>
+    </message>
+    <message>
+        <source>Neue Kategorie für {0}:</source>
+        <translation>New category for {0}:</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos; gelöscht</source>
+        <translation>Category &apos;{0}&apos; deleted</translation>
+    </message>
+    <message>
+        <source>{0} Kategorien gelöscht</source>
+        <translation>{0} categories deleted</translation>
+    </message>
+    <message>
+        <source>Kategorie, in der &apos;{0}&apos; aufgehen soll:</source>
+        <translation>Category to merge &apos;{0}&apos; into:</translation>
+    </message>
+    <message>
+        <source>Kategorien zusammenführen</source>
+        <translation>Merge categories</translation>
+    </message>
+    <message>
+        <source>Die Kategorie &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no category &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>{0} von &apos;{1}&apos; nach &apos;{2}&apos; verschieben?</source>
+        <translation>Move {0} from &apos;{1}&apos; to &apos;{2}&apos;?</translation>
+    </message>
+    <message>
+        <source>{0} von &apos;{1}&apos; nach &apos;{2}&apos; verschieben und die Kategorie &apos;{1}&apos; löschen?</source>
+        <translation>Move {0} from &apos;{1}&apos; to &apos;{2}&apos; and delete the category &apos;{1}&apos;?</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos; mit &apos;{1}&apos; zusammengeführt</source>
+        <translation>Category &apos;{0}&apos; merged into &apos;{1}&apos;</translation>
+    </message>
+    <message>
+        <source>Hauptkategorie, in der &apos;{0}&apos; aufgehen soll:</source>
+        <translation>Main category to merge &apos;{0}&apos; into:</translation>
+    </message>
+    <message>
+        <source>Die Hauptkategorie &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no main category &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Alles aus &apos;{0}&apos; kommt nach &apos;{1}&apos;: {2} Kategorien und {3}. Gleichnamige Unterkategorien werden zusammengeführt.
+Möchten Sie fortfahren?</source>
+        <translation>Everything in &apos;{0}&apos; moves to &apos;{1}&apos;: {2} categories and {3}. Subcategories of the same name are merged.
+Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>Hauptkategorie &apos;{0}&apos; mit &apos;{1}&apos; zusammengeführt</source>
+        <translation>Main category &apos;{0}&apos; merged into &apos;{1}&apos;</translation>
+    </message>
+    <message>
+        <source>Konto löschen</source>
+        <translation>Delete account</translation>
+    </message>
+    <message>
+        <source>Das letzte Konto kann nicht gelöscht werden: Jede Buchung braucht ein Konto.</source>
+        <translation>The last account cannot be deleted: every entry needs an account.</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; wird von keiner Buchung verwendet.
+Möchten Sie es löschen?</source>
+        <translation>The account &apos;{0}&apos; is not used by any entry.
+Do you want to delete it?</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; wird von {1} verwendet.
+Ohne Verschieben behalten die Buchungen ihr altes Konto und bleiben überall sichtbar.</source>
+        <translation>The account &apos;{0}&apos; is used by {1}.
+Unless they are moved, the entries keep their old account and stay visible everywhere.</translation>
+    </message>
+    <message>
+        <source>Nur das Konto löschen</source>
+        <translation>Delete the account only</translation>
+    </message>
+    <message>
+        <source>Neues Konto für {0}:</source>
+        <translation>New account for {0}:</translation>
+    </message>
+    <message>
+        <source>Konto &apos;{0}&apos; gelöscht</source>
+        <translation>Account &apos;{0}&apos; deleted</translation>
+    </message>
+    <message>
+        <source>Konto, in dem &apos;{0}&apos; aufgehen soll:</source>
+        <translation>Account to merge &apos;{0}&apos; into:</translation>
+    </message>
+    <message>
+        <source>Konten zusammenführen</source>
+        <translation>Merge accounts</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no account &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>{0} von &apos;{1}&apos; nach &apos;{2}&apos; verschieben und das Konto &apos;{1}&apos; löschen?
+Die Startguthaben werden addiert, die Bankkontonummern gehen mit.</source>
+        <translation>Move {0} from &apos;{1}&apos; to &apos;{2}&apos; and delete the account &apos;{1}&apos;?
+The opening balances are added up, and the bank account numbers move along.</translation>
+    </message>
+    <message>
+        <source>Konto &apos;{0}&apos; mit &apos;{1}&apos; zusammengeführt</source>
+        <translation>Account &apos;{0}&apos; merged into &apos;{1}&apos;</translation>
+    </message>
+    <message>
+        <source>Neue Datenbank</source>
+        <translation>New database</translation>
+    </message>
+    <message>
+        <source>Legt eine neue, leere Datenbank an und wechselt zu ihr.</source>
+        <translation>Creates a new, empty database and switches to it.</translation>
+    </message>
+    <message>
+        <source>Datenbank wechseln</source>
+        <translation>Switch database</translation>
+    </message>
+    <message>
+        <source>Öffnet eine andere Datenbank.</source>
+        <translation>Opens another database.</translation>
+    </message>
+    <message>
+        <source>Datensicherung erstellen</source>
+        <translation>Make backup</translation>
+    </message>
+    <message>
+        <source>Kopiert die Datenbank in eine Sicherungsdatei.</source>
+        <translation>Copies the database to a backup file.</translation>
+    </message>
+    <message>
+        <source>Ersetzt die Datenbank durch den Stand einer Sicherungsdatei.</source>
+        <translation>Replaces the database with the contents of a backup file.</translation>
+    </message>
+    <message>
+        <source>Daten exportieren</source>
+        <translation>Export data</translation>
+    </message>
+    <message>
+        <source>Schreibt die gezeigten Einträge als CSV-, Excel-, HTML- oder QIF-Datei.</source>
+        <translation>Writes the entries shown to a CSV, Excel, HTML or QIF file.</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Druckt die gezeigten Einträge.</source>
+        <translation>Prints the entries shown.</translation>
+    </message>
+    <message>
+        <source>Seitenansicht</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>Zeigt, wie die Einträge gedruckt aussehen.</source>
+        <translation>Shows what the entries will look like in print.</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Nimmt die letzte Änderung zurück.</source>
+        <translation>Undoes the last change.</translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Führt die zurückgenommene Änderung wieder aus.</source>
+        <translation>Makes the undone change again.</translation>
+    </message>
+    <message>
+        <source>Betrag für diesen Zeitraum korrigieren</source>
+        <translation>Correct amount for this period</translation>
+    </message>
+    <message>
+        <source>Gibt einem Vorkommen einer Serie einen anderen Betrag.</source>
+        <translation>Gives one occurrence of a series a different amount.</translation>
+    </message>
+    <message>
+        <source>Nur dieses Mal auslassen</source>
+        <translation>Skip this time only</translation>
+    </message>
+    <message>
+        <source>Setzt den Betrag eines Vorkommens einer Serie auf null.</source>
+        <translation>Sets the amount of one occurrence of a series to zero.</translation>
+    </message>
+    <message>
+        <source>Startguthaben festlegen</source>
+        <translation>Set opening balance</translation>
+    </message>
+    <message>
+        <source>Legt fest, mit welchem Betrag ein Konto beginnt.</source>
+        <translation>Sets the amount an account starts with.</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Sucht Einträge nach Text, Betrag, Zeitraum und mehr.</source>
+        <translation>Searches entries by text, amount, period and more.</translation>
+    </message>
+    <message>
+        <source>Kategorie/Konto bearbeiten</source>
+        <translation>Edit categories/accounts</translation>
+    </message>
+    <message>
+        <source>Verwaltet Kategorien und Konten.</source>
+        <translation>Manages categories and accounts.</translation>
+    </message>
+    <message>
+        <source>Setzt, ändert oder entfernt das Passwort dieser Datenbank.</source>
+        <translation>Sets, changes or removes the password of this database.</translation>
+    </message>
+    <message>
+        <source>Ländereinstellungen</source>
+        <translation>Regional settings</translation>
+    </message>
+    <message>
+        <source>Wählt Sprache, Zahlenformat und Währung.</source>
+        <translation>Chooses language, number format and currency.</translation>
+    </message>
+    <message>
+        <source>Ein Betrag ist keine Zahl.</source>
+        <translation>One amount is not a number.</translation>
+    </message>
+    <message>
+        <source>Die Summe stimmt.</source>
+        <translation>The amounts add up.</translation>
+    </message>
+    <message>
+        <source>Rest: {0}</source>
+        <translation>Remainder: {0}</translation>
+    </message>
+    <message>
+        <source>1 Buchung</source>
+        <translation>1 entry</translation>
+    </message>
+    <message>
+        <source>{0} Buchungen</source>
+        <translation>{0} entries</translation>
+    </message>
+    <message>
+        <source>(leere Kategorie)</source>
+        <translation>(empty category)</translation>
+    </message>
+    <message>
+        <source>An der Kategorie &apos;{0}&apos; erkennt das Programm die Startguthaben der Konten.
+Sie kann deshalb weder umbenannt noch gelöscht werden.</source>
+        <translation>The program recognises the opening balances of the accounts by the category &apos;{0}&apos;.
+It can therefore be neither renamed nor deleted.</translation>
+    </message>
+    <message>
+        <source>Nur diesen Zeitraum</source>
+        <translation>This period only</translation>
+    </message>
+    <message>
+        <source>Ab hier</source>
+        <translation>From here on</translation>
+    </message>
+    <message>
+        <source>Ganze Serie</source>
+        <translation>Whole series</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; vom {1} gehört zu einer Serie ({2} seit {3}).
+Was möchten Sie ändern?</source>
+        <translation>&apos;{0}&apos; of {1} belongs to a series ({2} since {3}).
+What do you want to change?</translation>
+    </message>
+    <message>
+        <source>Serie bearbeiten</source>
+        <translation>Edit series</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; vom {1} bis {2}</source>
+        <translation>&apos;{0}&apos; from {1} to {2}</translation>
+    </message>
+    <message>
+        <source>Betrag von &apos;{0}&apos; korrigiert</source>
+        <translation>Amount of &apos;{0}&apos; corrected</translation>
+    </message>
+    <message>
+        <source>Ausgelassen</source>
+        <translation>Skipped</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; einmal ausgelassen</source>
+        <translation>&apos;{0}&apos; skipped once</translation>
+    </message>
+    <message>
+        <source>Korrektur von &apos;{0}&apos; entfernt</source>
+        <translation>Correction of &apos;{0}&apos; removed</translation>
+    </message>
+    <message>
+        <source>CSV-Datei</source>
+        <translation>CSV file</translation>
+    </message>
+    <message>
+        <source>Excel-Datei</source>
+        <translation>Excel file</translation>
+    </message>
+    <message>
+        <source>HTML-Datei</source>
+        <translation>HTML file</translation>
+    </message>
+    <message>
+        <source>QIF-Datei</source>
+        <translation>QIF file</translation>
+    </message>
+    <message>
+        <source>Alle Dateien</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>Zielkonto</source>
+        <translation>Target account</translation>
+    </message>
+    <message>
+        <source>Einnahmen</source>
+        <translation>Income</translation>
+    </message>
+    <message>
+        <source>Ausgaben</source>
+        <translation>Expenses</translation>
+    </message>
+    <message>
+        <source>ausgeblendet</source>
+        <translation>hidden</translation>
+    </message>
+    <message>
+        <source>nicht angelegt</source>
+        <translation>not set up</translation>
+    </message>
+    <message>
+        <source>(ohne Unterkategorie)</source>
+        <translation>(no subcategory)</translation>
+    </message>
+    <message>
+        <source>geschlossen</source>
+        <translation>closed</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist gerade geöffnet. Bitte wählen Sie einen anderen Namen.</source>
+        <translation>The database &apos;{0}&apos; is currently open. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist bereits geöffnet.</source>
+        <translation>The database &apos;{0}&apos; is already open.</translation>
+    </message>
+    <message>
+        <source>Andere Datei wählen …</source>
+        <translation>Choose another file…</translation>
+    </message>
+    <message>
+        <source>&amp;Datenbank, die geöffnet wird:</source>
+        <translation>&amp;Database to open:</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung konnte nicht erstellt werden:
+{0}</source>
+        <translation>The backup could not be made:
+{0}</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung &apos;{0}&apos; wurde erstellt und geprüft. Sie enthält:
+{1}.</source>
+        <translation>The backup &apos;{0}&apos; has been made and checked. It contains:
+{1}.</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung wurde geladen. Die bisherige Datenbank wurde als &apos;{0}&apos; aufgehoben.</source>
+        <translation>The backup has been restored. The previous database has been kept as &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung &apos;{0}&apos; enthält:
+{1}.
+
+Die geöffnete Datenbank &apos;{2}&apos; enthält:
+{3}.
+
+Möchten Sie die geöffnete Datenbank durch die Datensicherung ersetzen? Die bisherige Datei bleibt unter anderem Namen erhalten.</source>
+        <translation>The backup &apos;{0}&apos; contains:
+{1}.
+
+The open database &apos;{2}&apos; contains:
+{3}.
+
+Do you want to replace the open database with the backup? The previous file will be kept under another name.</translation>
+    </message>
+    <message>
+        <source>Serie ab {0} bearbeiten</source>
+        <translation>Edit series from {0}</translation>
+    </message>
+    <message>
+        <source>Betrag ({0}):</source>
+        <translation>Amount ({0}):</translation>
+    </message>
+    <message>
+        <source>Bisher wurde noch kein Startguthaben festgelegt:</source>
+        <translation>No opening balance has been set so far:</translation>
+    </message>
+    <message>
+        <source>Bisheriges Startguthaben: {0} am {1}</source>
+        <translation>Current opening balance: {0} on {1}</translation>
+    </message>
+    <message>
+        <source>ohne Ende</source>
+        <translation>no end</translation>
+    </message>
+    <message>
+        <source>{0} Mal</source>
+        <translation>{0} times</translation>
+    </message>
+    <message>
+        <source>{0}, keine weiteren Termine</source>
+        <translation>{0}, no further dates</translation>
+    </message>
+    <message>
+        <source>{0}, nächste Termine: {1}</source>
+        <translation>{0}, next dates: {1}</translation>
+    </message>
+    <message>
+        <source>Deutschland</source>
+        <translation>Germany</translation>
+    </message>
+    <message>
+        <source>Österreich</source>
+        <translation>Austria</translation>
+    </message>
+    <message>
+        <source>Schweiz</source>
+        <translation>Switzerland</translation>
+    </message>
+    <message>
+        <source>Luxemburg</source>
+        <translation>Luxembourg</translation>
+    </message>
+    <message>
+        <source>Großbritannien</source>
+        <translation>United Kingdom</translation>
+    </message>
+    <message>
+        <source>Irland</source>
+        <translation>Ireland</translation>
+    </message>
+    <message>
+        <source>Vereinigte Staaten</source>
+        <translation>United States</translation>
+    </message>
+    <message>
+        <source>wie im Zahlenformat</source>
+        <translation>as in the number format</translation>
+    </message>
+    <message>
+        <source>Euro</source>
+        <translation>Euro</translation>
+    </message>
+    <message>
+        <source>Schweizer Franken</source>
+        <translation>Swiss franc</translation>
+    </message>
+    <message>
+        <source>Britisches Pfund</source>
+        <translation>Pound sterling</translation>
+    </message>
+    <message>
+        <source>US-Dollar</source>
+        <translation>US dollar</translation>
+    </message>
+    <message>
+        <source>Dänische Krone</source>
+        <translation>Danish krone</translation>
+    </message>
+    <message>
+        <source>Polnischer Złoty</source>
+        <translation>Polish złoty</translation>
+    </message>
+    <message>
+        <source>Tschechische Krone</source>
+        <translation>Czech koruna</translation>
+    </message>
+    <message>
+        <source>Ungarischer Forint</source>
+        <translation>Hungarian forint</translation>
+    </message>
+    <message>
+        <source>Indonesische Rupiah</source>
+        <translation>Indonesian rupiah</translation>
+    </message>
+    <message>
+        <source>Die Einstellungen konnten nicht gespeichert werden.</source>
+        <translation>The settings could not be saved.</translation>
+    </message>
+    <message>
+        <source>Die neue Sprache gilt ab dem nächsten Start des Programms.</source>
+        <translation>The new language takes effect the next time the program starts.</translation>
+    </message>
+    <message>
+        <source>Das Passwort wurde geändert.</source>
+        <translation>The password has been changed.</translation>
+    </message>
+    <message>
+        <source>Das Passwort wurde gesetzt. Es wird beim nächsten Öffnen der Datenbank abgefragt.</source>
+        <translation>The password has been set. It will be asked for the next time the database is opened.</translation>
+    </message>
+    <message>
+        <source>Das Passwort wurde entfernt. Frühere Datensicherungen behalten ihr Passwort.</source>
+        <translation>The password has been removed. Earlier backups keep their password.</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie ein neues Passwort ein.</source>
+        <translation>Please enter a new password.</translation>
+    </message>
+    <message>
+        <source>Die beiden neuen Passwörter stimmen nicht überein.</source>
+        <translation>The two new passwords do not match.</translation>
+    </message>
+    <message>
+        <source>Das Passwort konnte nicht gespeichert werden.</source>
+        <translation>The password could not be saved.</translation>
+    </message>
+    <message>
+        <source>Startguthaben von &apos;{0}&apos; festgelegt</source>
+        <translation>Opening balance of &apos;{0}&apos; set</translation>
+    </message>
+    <message>
+        <source>zuletzt</source>
+        <translation>recent</translation>
+    </message>
+    <message>
+        <source>Kalender (F4)</source>
+        <translation>Calendar (F4)</translation>
+    </message>
+    <message>
+        <source>Kalender</source>
+        <translation>Calendar</translation>
+    </message>
+    <message>
+        <source>Auch 3, 3.5., +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender</source>
+        <translation>Also 3, 3.5., +7, today or yesterday; the arrow keys change the date, F4 opens the calendar</translation>
+    </message>
+    <message>
+        <source>Die Liste enthält keine Einträge, die exportiert werden könnten.</source>
+        <translation>The list contains no entries to export.</translation>
+    </message>
+    <message>
+        <source>Kontorelle-Einträge-{0}</source>
+        <translation>Kontorelle-entries-{0}</translation>
+    </message>
+    <message>
+        <source>Am Ende des Dateinamens &apos;{0}&apos; ist nicht zu erkennen, in welchem Format exportiert werden soll.
+Möglich sind: {1}.</source>
+        <translation>The end of the file name &apos;{0}&apos; does not tell which format to export to.
+Possible are: {1}.</translation>
+    </message>
+    <message>
+        <source>1 Eintrag wurde nach &apos;{0}&apos; exportiert.</source>
+        <translation>1 entry has been exported to &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>{0} Einträge wurden nach &apos;{1}&apos; exportiert.</source>
+        <translation>{0} entries have been exported to &apos;{1}&apos;.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; konnte nicht geschrieben werden: {1}
+Was dort schon stand, ist unverändert.</source>
+        <translation>The file &apos;{0}&apos; could not be written: {1}
+What was already there is unchanged.</translation>
+    </message>
+    <message>
+        <source>Einträge</source>
+        <translation>Entries</translation>
+    </message>
+    <message>
+        <source>Eine Excel-Datei fasst höchstens {0} Zeilen.</source>
+        <translation>An Excel file holds at most {0} rows.</translation>
+    </message>
+    <message>
+        <source>Die Excel-Datei konnte nicht zusammengestellt werden.</source>
+        <translation>The Excel file could not be put together.</translation>
+    </message>
+    <message>
+        <source>Seite {0} von {1}</source>
+        <translation>Page {0} of {1}</translation>
+    </message>
+    <message>
+        <source>{0} bis {1}</source>
+        <translation>{0} to {1}</translation>
+    </message>
+    <message>
+        <source>{0} ({1} bis {2})</source>
+        <translation>{0} ({1} to {2})</translation>
+    </message>
+    <message>
+        <source>einmalige</source>
+        <translation>one-off</translation>
+    </message>
+    <message>
+        <source>fixe</source>
+        <translation>recurring</translation>
+    </message>
+    <message>
+        <source>zukünftige</source>
+        <translation>future</translation>
+    </message>
+    <message>
+        <source>Einträge: {0}</source>
+        <translation>Entries: {0}</translation>
+    </message>
+    <message>
+        <source>Zeitraum: {0}</source>
+        <translation>Period: {0}</translation>
+    </message>
+    <message>
+        <source>Konto: {0}</source>
+        <translation>Account: {0}</translation>
+    </message>
+    <message>
+        <source>Buchungsart: {0}</source>
+        <translation>Entry type: {0}</translation>
+    </message>
+    <message>
+        <source>Filter: {0}</source>
+        <translation>Filter: {0}</translation>
+    </message>
+    <message>
+        <source>Gruppierung: {0}</source>
+        <translation>Grouping: {0}</translation>
+    </message>
+    <message>
+        <source>Ausgeblendet: {0}</source>
+        <translation>Hidden: {0}</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ({1} seit {2})</source>
+        <translation>&apos;{0}&apos; ({1} since {2})</translation>
+    </message>
+    <message>
+        <source>Möchten Sie den Eintrag {0} löschen?</source>
+        <translation>Do you want to delete the entry {0}?</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; vom {1} über {2}</source>
+        <translation>&apos;{0}&apos; of {1} for {2}</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die {0} ausgewählten Einträge löschen?</source>
+        <translation>Do you want to delete the {0} selected entries?</translation>
+    </message>
+    <message>
+        <source>Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:</source>
+        <translation>This removes all occurrences of these series, past and future, together with their corrections:</translation>
+    </message>
+    <message>
+        <source>Er ist Teil einer aufgeteilten Buchung mit {0} weiteren Teilen.</source>
+        <translation>It is part of a split entry with {0} more parts.</translation>
+    </message>
+    <message>
+        <source>Darunter sind Teile aufgeteilter Buchungen mit {0} weiteren Teilen.</source>
+        <translation>Among them are parts of split entries with {0} more parts.</translation>
+    </message>
+    <message>
+        <source>Nur diesen Teil löschen</source>
+        <translation>Delete this part only</translation>
+    </message>
+    <message>
+        <source>Nur die ausgewählten löschen</source>
+        <translation>Delete the selected ones only</translation>
+    </message>
+    <message>
+        <source>Alle Teile löschen</source>
+        <translation>Delete all parts</translation>
+    </message>
+    <message>
+        <source>Eintrag gelöscht</source>
+        <translation>Entry deleted</translation>
+    </message>
+    <message>
+        <source>{0} Einträge gelöscht</source>
+        <translation>{0} entries deleted</translation>
+    </message>
+    <message>
+        <source>Eine Umbuchung kann nicht aufgeteilt werden.</source>
+        <translation>A transfer cannot be split.</translation>
+    </message>
+    <message>
+        <source>Ein Eintrag mit manuellen Korrekturen kann nicht aufgeteilt werden.</source>
+        <translation>An entry with manual corrections cannot be split.</translation>
+    </message>
+    <message>
+        <source>Teile mit manuellen Korrekturen können nicht zusammengefasst werden.</source>
+        <translation>Parts with manual corrections cannot be combined.</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die Aufteilung aufheben?
+Aus {0} Teilen wird ein Eintrag mit Kategorie und Beschreibung des ersten Teils.</source>
+        <translation>Do you want to undo the split?
+{0} parts become one entry with the category and description of the first part.</translation>
+    </message>
+    <message>
+        <source>Bitte erst neue Kategorien anlegen und diese Buchung einordnen!</source>
+        <translation>Please create new categories first and assign this entry to one!</translation>
+    </message>
+    <message>
+        <source>Bitte erst eine Kategorie wählen!</source>
+        <translation>Please choose a category first!</translation>
+    </message>
+    <message>
+        <source>Bitte erst eine Buchungsart wählen!</source>
+        <translation>Please choose an entry type first!</translation>
+    </message>
+    <message>
+        <source>Bitte erst neue Konten anlegen und diese Buchung einordnen!</source>
+        <translation>Please create new accounts first and assign this entry to one!</translation>
+    </message>
+    <message>
+        <source>Bitte erst ein Konto wählen!</source>
+        <translation>Please choose an account first!</translation>
+    </message>
+    <message>
+        <source>Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von {0}.</source>
+        <translation>The parts do not add up to the whole amount. A remainder of {0} is left.</translation>
+    </message>
+    <message>
+        <source>Eintrag konnte nicht erstellt werden!</source>
+        <translation>The entry could not be created!</translation>
+    </message>
+    <message>
+        <source>Eintrag &apos;{0}&apos; angelegt</source>
+        <translation>Entry &apos;{0}&apos; created</translation>
+    </message>
+    <message>
+        <source>Eintrag &apos;{0}&apos; geändert</source>
+        <translation>Entry &apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>{0} ({1})</source>
+        <translation>{0} ({1})</translation>
+    </message>
+    <message>
+        <source>Teilbeträge</source>
+        <translation>Part amounts</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}.</source>
+        <translation>The database &apos;{0}&apos; is in use: {1}.</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung konnte nicht geladen werden:
+{0}</source>
+        <translation>The backup could not be restored:
+{0}</translation>
+    </message>
+    <message>
+        <source>Auch die bisherige Datenbank &apos;{0}&apos; kann nicht mehr geöffnet werden. Die Software wird jetzt beendet.</source>
+        <translation>The previous database &apos;{0}&apos; can no longer be opened either. The program will now close.</translation>
+    </message>
+    <message>
+        <source>&amp;Sprache:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>Eine andere Sprache gilt ab dem nächsten Start.</source>
+        <translation>A different language takes effect at the next start.</translation>
+    </message>
+    <message>
+        <source>&amp;Zahlenformat:</source>
+        <translation>&amp;Number format:</translation>
+    </message>
+    <message>
+        <source>&amp;Währung:</source>
+        <translation>&amp;Currency:</translation>
+    </message>
+    <message>
+        <source>Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet.</source>
+        <translation>A currency brings its own way of writing amounts. Amounts are not converted.</translation>
+    </message>
+    <message>
+        <source>Betrag:</source>
+        <translation>Amount:</translation>
+    </message>
+    <message>
+        <source>Negativer Betrag:</source>
+        <translation>Negative amount:</translation>
+    </message>
+    <message>
+        <source>Datum:</source>
+        <translation>Date:</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Passwort an&amp;zeigen</source>
+        <translation>&amp;Show password</translation>
+    </message>
+    <message>
+        <source>Passwörter an&amp;zeigen</source>
+        <translation>&amp;Show passwords</translation>
+    </message>
+    <message>
+        <source>Passwort vergessen? Eine Datensicherung ohne Passwort lässt sich mit &quot;kontorelle-cli restore&quot; laden; &quot;kontorelle-cli password --remove&quot; entfernt das Passwort dieser Datenbank. Die Datei selbst ist nicht verschlüsselt.</source>
+        <translation>Forgotten the password? A backup without a password can be restored with &quot;kontorelle-cli restore&quot;; &quot;kontorelle-cli password --remove&quot; removes the password of this database. The file itself is not encrypted.</translation>
+    </message>
+    <message>
+        <source>Kontorelle fragt nach dem Passwort, bevor es die Daten zeigt. Das hält neugierige Blicke fern, mehr nicht: Die Datei selbst ist nicht verschlüsselt. Wer sie kopieren kann, kann sie mit anderen Programmen lesen.</source>
+        <translation>Kontorelle asks for the password before it shows the data. That keeps prying eyes away, but no more: the file itself is not encrypted. Anyone who can copy it can read it with other programs.</translation>
+    </message>
+    <message>
+        <source>&amp;Bisheriges Passwort:</source>
+        <translation>&amp;Current password:</translation>
+    </message>
+    <message>
+        <source>&amp;Neues Passwort:</source>
+        <translation>&amp;New password:</translation>
+    </message>
+    <message>
+        <source>Neues Passwort &amp;wiederholen:</source>
+        <translation>&amp;Repeat new password:</translation>
+    </message>
+    <message>
+        <source>Passwort &amp;entfernen</source>
+        <translation>Re&amp;move password</translation>
+    </message>
+    <message>
+        <source>Passwort än&amp;dern</source>
+        <translation>C&amp;hange password</translation>
+    </message>
+    <message>
+        <source>Passwort &amp;setzen</source>
+        <translation>Set &amp;password</translation>
+    </message>
+    <message>
+        <source>Das Passwort ist nicht richtig. Der nächste Versuch ist in {0} s möglich.</source>
+        <translation>The password is not correct. You can try again in {0} s.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Betrag.</source>
+        <translation>&apos;{0}&apos; is not an amount.</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos; geändert</source>
+        <translation>Category &apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos; verschoben</source>
+        <translation>Category &apos;{0}&apos; moved</translation>
+    </message>
+    <message>
+        <source>Eine Hauptkategorie ohne Unterkategorien muss direkt bebuchbar sein.</source>
+        <translation>A main category without subcategories must accept entries itself.</translation>
+    </message>
+    <message>
+        <source>Hauptkategorie &apos;{0}&apos; geändert</source>
+        <translation>Main category &apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>Das letzte offene Konto kann nicht geschlossen werden: Jede Buchung braucht ein Konto.</source>
+        <translation>The last open account cannot be closed: every entry needs an account.</translation>
+    </message>
+    <message>
+        <source>Die Kontonummer {0} gehört bisher zum Konto &apos;{1}&apos;.
+Soll sie künftig zu &apos;{2}&apos; gehören?</source>
+        <translation>The account number {0} has belonged to the account &apos;{1}&apos; so far.
+Should it belong to &apos;{2}&apos; from now on?</translation>
+    </message>
+    <message>
+        <source>Konto &apos;{0}&apos; geändert</source>
+        <translation>Account &apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>&amp;Rest einsetzen</source>
+        <translation>&amp;Fill in remainder</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile entfernen</source>
+        <translation>&amp;Remove row</translation>
+    </message>
+    <message>
+        <source>Setzt den Rest in die gewählte Zeile ein</source>
+        <translation>Adds the remainder to the selected row</translation>
+    </message>
+    <message>
+        <source>Entfernt die gewählte Zeile (Entf)</source>
+        <translation>Removes the selected row (Del)</translation>
+    </message>
+    <message>
+        <source>&amp;Betrag:</source>
+        <translation>&amp;Amount:</translation>
+    </message>
+    <message>
+        <source>&amp;Kommentar:</source>
+        <translation>&amp;Comment:</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Korrektur &amp;entfernen</source>
+        <translation>&amp;Remove correction</translation>
+    </message>
+    <message>
+        <source>Im Zeitraum um diesen Tag gibt es keine Buchung der Serie.</source>
+        <translation>The series has no entry in the period around this day.</translation>
     </message>
 </context>
 </TS>

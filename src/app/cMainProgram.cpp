@@ -1,27 +1,38 @@
 #include "app/cMainProgram.h"
 
+#include "app/cNavigation.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
-#include "store/cDataAccess.h"
-#include "views/cEntryEditor.h"
 #include "views/cImportReview.h"
 #include "views/cMainModel.h"
-#include "windows/frmBuchung.h"
-#include "windows/frmImport.h"
 #include "windows/frmMain.h"
 
-#include <QApplication>
-#include <QBoxLayout>
+#include <QCoreApplication>
 #include <QDir>
+#include <QTimer>
+
+namespace {
+
+constexpr int backupDelay = 2000; // milliseconds after the window stands, so that nobody waits for the copy
+
+} // namespace
 
 cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
     : m_ports(ports),
       m_version(version),
       m_configuration(ports.Registry),
-      m_book(ports.User)
+      m_book(ports.User),
+      m_bookSwitch({{ports.Shell, ports.User, ports.Rescue, ports.Clock},
+                    ports.Registry,
+                    m_configuration,
+                    m_book,
+                    m_lock,
+                    version},
+                   Hooks()),
+      m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration)
 {
 }
 
@@ -45,6 +56,7 @@ bool cMainProgram::Start(const QString& database)
     }
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
+    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
     return true;
 }
 
@@ -90,69 +102,34 @@ bool cMainProgram::OpenForeign(const QString& path)
 
 void cMainProgram::BuildWindow()
 {
+    m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
+        m_book, m_configuration, m_format, m_ports.User, m_ports.Rescue, m_ports.Shell, m_ports.Clock, m_bookSwitch});
     m_model = std::make_unique<cMainModel>(cMainModel::cParts{m_book.Data(), m_book.Settings(), m_configuration,
                                                               m_format, m_ports.User, m_ports.Clock, m_ports.Shell,
-                                                              *this, m_book.Path()});
+                                                              *m_navigation, m_book.Path()});
     m_review = std::make_unique<cImportReview>(
         cImportReview::cParts{m_book.Data(), m_book.Settings(), m_format, m_ports.User});
-    m_statementsPage = new QWidget;
-    m_window = std::make_unique<frmMain>(*m_model, m_statementsPage);
-    ConnectPages();
+    m_window = std::make_unique<frmMain>(*m_model);
+    m_navigation->Connect(*m_model, *m_review, *m_window);
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
 }
 
-void cMainProgram::ConnectPages()
+cBookSwitch::cHooks cMainProgram::Hooks()
 {
-    QObject::connect(m_review.get(), &cImportReview::EntriesChanged, m_model.get(), &cMainModel::BookChanged);
-    QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_model.get(), &cMainModel::StagedRowsChanged);
-    QObject::connect(m_model.get(), &cMainModel::StagedRowsReleased, m_review.get(), &cImportReview::Refresh);
-    QObject::connect(m_window.get(), &frmMain::StatementsShown, m_review.get(), [this] { (void)Statements(); });
-    QObject::connect(m_window.get(), &frmMain::FilesDropped, m_review.get(),
-                     [this](const QStringList& paths) { Statements().ImportFiles(paths); });
+    return {[this] { m_window->SaveLayout(); }, [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
+            // Without the questions and the storing that closing a window brings: there is nothing to store into.
+            [] { QCoreApplication::exit(1); }};
 }
 
-frmImport& cMainProgram::Statements()
+void cMainProgram::ShowOtherBook(bool isNewVersion)
 {
-    if (m_statements == nullptr) {
-        auto* layout = new QVBoxLayout(m_statementsPage);
-        layout->setContentsMargins(0, 0, 0, 0);
-        m_statements = new frmImport(*m_review, m_statementsPage);
-        layout->addWidget(m_statements);
+    if (m_lock.IsHeld()) {
+        m_instance.Listen(m_book.Path());
     }
-    return *m_statements;
-}
-
-void cMainProgram::OpenEntryEditor(int entryId)
-{
-    cEntryEditor editor(m_book.Data(), m_ports.User, m_ports.Clock);
-    const std::optional<cEntryEditor::cFields> fields =
-        entryId == 0 ? editor.Start(m_model->View().FilterAccount()) : editor.Load(entryId);
-    if (!fields) {
-        m_model->BookChanged(); // the entry is gone, so the list is old
-        return;
-    }
-    frmBuchung form(editor, *fields, m_window.get());
-    QObject::connect(&form, &frmBuchung::EntrySaved, m_model.get(), &cMainModel::BookChanged);
-    form.exec();
-}
-
-void cMainProgram::ShowStatements()
-{
-    m_window->ShowStatements();
-}
-
-void cMainProgram::OpenImport()
-{
-    ShowStatements();
-    Statements().ChooseFiles();
-}
-
-void cMainProgram::OpenColumnChooser()
-{
-    m_window->ShowColumnMenu();
-}
-
-void cMainProgram::EndProgram()
-{
-    m_window->close();
+    m_format.CultureChanged();
+    m_navigation->BookSwitched();
+    m_model->BookSwitched(m_book.Path(), isNewVersion);
+    m_window->RestoreLayout();
+    m_window->ShowToday();
+    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
 }

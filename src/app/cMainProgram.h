@@ -1,12 +1,13 @@
 #pragma once
 
+#include "app/cBookSwitch.h"
 #include "app/cFileLock.h"
 #include "app/cLanguage.h"
 #include "app/cSingleInstance.h"
 #include "core/cAmountFormat.h"
+#include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
-#include "views/cNavigator.h"
 
 #include <QString>
 
@@ -15,18 +16,16 @@
 class cClock;
 class cImportReview;
 class cMainModel;
+class cNavigation;
 class cRegistry;
 class cRescue;
 class cShell;
 class cStartUp;
 class cUser;
-class frmImport;
 class frmMain;
-class QWidget;
 
-// Puts the window program together and brings it up: ports, book, models, main window. Opens the windows that commands
-// ask for.
-class cMainProgram final : public cNavigator
+// Puts the window program together and brings it up: ports, book, models, main window.
+class cMainProgram final
 {
 public:
     struct cPorts
@@ -39,7 +38,9 @@ public:
     };
 
     cMainProgram(const cPorts& ports, const QString& version);
-    ~cMainProgram() override;
+    cMainProgram(const cMainProgram&) = delete;
+    cMainProgram& operator=(const cMainProgram&) = delete;
+    ~cMainProgram();
 
     // Runs the start-up with its questions and shows the window. An empty path is the database of the configuration.
     // False when the program has to end: the user declined every remedy, or the book is already open in another window,
@@ -50,20 +51,15 @@ public:
     [[nodiscard]] frmMain& Window() { return *m_window; }
     [[nodiscard]] cMainModel& Model() { return *m_model; }
     [[nodiscard]] cImportReview& Review() { return *m_review; }
-    void ShowStatements(); // brings the page for bank statements to the front
-
-    void OpenEntryEditor(int entryId) override;
-    void OpenImport() override;
-    void OpenColumnChooser() override;
-    void EndProgram() override;
+    [[nodiscard]] cNavigation& Navigation() { return *m_navigation; }
 
 private:
     [[nodiscard]] bool OpenBook(cStartUp& startUp, const QString& database);
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
-    void ConnectPages();
-    [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
+    [[nodiscard]] cBookSwitch::cHooks Hooks();
+    void ShowOtherBook(bool isNewVersion);
 
     cPorts m_ports;
     QString m_version;
@@ -73,9 +69,10 @@ private:
     cFileLock m_lock;
     cSingleInstance m_instance;
     cAmountFormat m_format{m_configuration};
+    cBookSwitch m_bookSwitch;
+    cBackupPlan m_backups;
+    std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;
     std::unique_ptr<frmMain> m_window;
-    QWidget* m_statementsPage = nullptr; // of the window; empty until it is first shown
-    frmImport* m_statements = nullptr;
 };

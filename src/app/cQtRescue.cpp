@@ -34,6 +34,6 @@ std::optional<QString> cQtRescue::ChooseBackup(const QString& folder)
 
 bool cQtRescue::AskPassword(const std::function<bool(const QString&)>& isRight)
 {
-    frmPasswort prompt(isRight, QApplication::activeWindow());
+    frmPasswort prompt(m_tries, isRight, QApplication::activeWindow());
     return prompt.exec() == QDialog::Accepted;
 }

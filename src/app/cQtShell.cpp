@@ -59,9 +59,8 @@ bool cQtShell::CopyFile(const QString& from, const QString& to)
     if (!QFile::copy(from, to)) {
         return false;
     }
-    // A template installed by the system may be read-only, its copy is the user's own.
-    QFile copy(to);
-    return copy.setPermissions(copy.permissions() | QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    // A template installed by the system may be read-only and open to everybody; its copy is the user's own.
+    return QFile::setPermissions(to, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 bool cQtShell::RenameFile(const QString& from, const QString& to)

@@ -100,10 +100,18 @@ QString cQtUser::ChooseSavePath(const QString& title, const QString& filter, con
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilter(modQtFilter::FromPairs(filter));
     dialog.setDefaultSuffix(modQtFilter::FirstEnding(filter));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, &filter](const QString& chosen) {
+        dialog.setDefaultSuffix(modQtFilter::ChosenEnding(filter, chosen));
+    });
     const QFileInfo proposed(proposal);
     if (proposed.isAbsolute()) {
         dialog.setDirectory(proposed.absolutePath());
     }
     dialog.selectFile(proposed.fileName());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString cQtUser::ChooseFolder(const QString& title, const QString& current)
+{
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, current);
 }

@@ -12,4 +12,5 @@ public:
     [[nodiscard]] int Decide(const cDecision& decision) override;
     [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter) override;
     [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal) override;
+    [[nodiscard]] QString ChooseFolder(const QString& title, const QString& current) override;
 };

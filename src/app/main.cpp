@@ -6,6 +6,7 @@
 #include "app/cSystemClock.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
+#include "windows/cStyle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -44,6 +45,7 @@ int main(int argc, char* argv[])
     if (!HasDisplay()) {
         return RefuseWithoutDisplay();
     }
+    QApplication::setStyle(new cStyle); // before the application, which would make another one first
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"kontorelle"_s);
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);

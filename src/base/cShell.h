@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] virtual bool FileExists(const QString& path) const = 0;
 
-    // Copies a file; an existing target is not overwritten. False on failure.
+    // Copies a file; an existing target is not overwritten. Only the user can read the copy. False on failure.
     [[nodiscard]] virtual bool CopyFile(const QString& from, const QString& to) = 0;
 
     // Gives a file another name on the same volume; an existing target is not overwritten. False on failure.

@@ -59,7 +59,10 @@ public:
     [[nodiscard]] virtual QStringList ChooseFiles(const QString& title, const QString& filter) = 0;
 
     // A path to write to; the user has agreed to replace a file that exists there. `proposal` is a name or a full path.
-    // The first pattern of the filter gives the ending where none was typed. Empty when the user gives up.
+    // The chosen pattern of the filter gives the ending where none was typed. Empty when the user gives up.
     [[nodiscard]] virtual QString ChooseSavePath(const QString& title, const QString& filter,
                                                  const QString& proposal) = 0;
+
+    // A folder; `current` is shown first. Empty when the user gives up.
+    [[nodiscard]] virtual QString ChooseFolder(const QString& title, const QString& current) = 0;
 };

@@ -45,6 +45,13 @@ QString WithoutRupiah(QString text)
     return text.remove(u"Rp"_s);
 }
 
+// The two forms that the culture's formatter renders badly.
+QString CurrencyText(const cCultureFormatter& formatter, qint64 signedCents)
+{
+    QString text = formatter.Currency(modAmount::ToEuros(signedCents));
+    return WithoutRupiah(text.replace(u"SFr.-"_s, u"SFr. -"_s));
+}
+
 } // namespace
 
 cAmountFormat::cAmountFormat(const cConfiguration& configuration, fnMakeFormatter makeFormatter)
@@ -80,6 +87,19 @@ void cAmountFormat::UseFormatCulture()
     m_formatter = m_makeFormatter(m_configuration.GetSetting(u"LanguageFormat"_s));
 }
 
+void cAmountFormat::CultureChanged()
+{
+    m_formatter.reset();
+    if (m_configuration.GetSetting(u"LanguageCurrency"_s).isEmpty()) {
+        UseFormatCulture();
+    }
+}
+
+QString cAmountFormat::Sample(const QString& culture, qint64 signedCents)
+{
+    return CurrencyText(*MakeFormatter(culture), signedCents);
+}
+
 std::unique_ptr<cCultureFormatter> cAmountFormat::MakeFormatter(const QString& culture)
 {
     QLocale locale(QString(culture).replace(u'-', u'_'));
@@ -94,6 +114,5 @@ QString cAmountFormat::Currency(qint64 signedCents) const
     if (!m_formatter) {
         m_formatter = m_makeFormatter(m_configuration.GetSetting(u"LanguageCurrency"_s));
     }
-    QString text = m_formatter->Currency(modAmount::ToEuros(signedCents));
-    return WithoutRupiah(text.replace(u"SFr.-"_s, u"SFr. -"_s));
+    return CurrencyText(*m_formatter, signedCents);
 }

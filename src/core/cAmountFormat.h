@@ -48,6 +48,13 @@ public:
     // Goes on with the culture of the setting "LanguageFormat" in place of the currency's.
     void UseFormatCulture();
 
+    // To be called after another book was opened or its culture settings were changed: the next amount is written in
+    // the culture of the currency, or in that of the format where no currency is chosen.
+    void CultureChanged();
+
+    // What an amount of cents looks like in a culture that nobody has chosen yet.
+    [[nodiscard]] static QString Sample(const QString& culture, qint64 signedCents);
+
     // A formatter over the library's locales.
     [[nodiscard]] static std::unique_ptr<cCultureFormatter> MakeFormatter(const QString& culture);
 
@@ -56,6 +63,6 @@ private:
 
     const cConfiguration& m_configuration;
     fnMakeFormatter m_makeFormatter;
-    mutable std::unique_ptr<cCultureFormatter> m_formatter; // made on first use and kept for the whole run
+    mutable std::unique_ptr<cCultureFormatter> m_formatter; // made on first use and kept until the culture changes
     QString m_decimalSign;
 };

@@ -43,8 +43,7 @@ bool cBook::Open(const QString& path)
         fault = eDatabaseFault::NoAccess;
     }
     if (fault != eDatabaseFault::None) {
-        m_user.Show(eTone::Critical, Refusal(fault, path));
-        return false;
+        return Refuse(fault, path);
     }
     LoadSettings();
     return true;
@@ -58,8 +57,7 @@ bool cBook::OpenForReading(const QString& path)
         fault = eDatabaseFault::NoAccess;
     }
     if (fault != eDatabaseFault::None) {
-        m_user.Show(eTone::Critical, Refusal(fault, path));
-        return false;
+        return Refuse(fault, path);
     }
     LoadSettings();
     return true;
@@ -74,6 +72,28 @@ bool cBook::OpenWithQuestions(const QString& path, bool isFresh, const cPorts& p
     m_added = sequence.Added();
     LoadSettings();
     return true;
+}
+
+bool cBook::TryOpen(const QString& path, bool isFresh, const cPorts& ports)
+{
+    const eDatabaseFault fault = modSchema::OpenValid(*m_database, path, eOpenMode::ReadWrite);
+    if (fault != eDatabaseFault::None) {
+        return Refuse(fault, path);
+    }
+    cOpenSequence sequence(*m_database, {ports.Shell, m_user, ports.Rescue}, ports.Version, ports.Today,
+                           eRefusal::KeepsOldBook);
+    if (sequence.Run(path, isFresh ? eOrigin::Fresh : eOrigin::Existing) == eOpenResult::Ended) {
+        return false;
+    }
+    m_added = sequence.Added();
+    LoadSettings();
+    return true;
+}
+
+bool cBook::Refuse(eDatabaseFault fault, const QString& path)
+{
+    m_user.Show(eTone::Critical, Refusal(fault, path));
+    return false;
 }
 
 void cBook::Close()
@@ -98,6 +118,7 @@ QString cBook::Path() const
 
 void cBook::LoadSettings()
 {
+    m_data->ForgetSteps(); // they are of another file
     if (m_settings) {
         m_settings->Reload();
     } else {

@@ -12,6 +12,7 @@ class cRescue;
 class cSettings;
 class cShell;
 class cUser;
+enum class eDatabaseFault;
 
 // An open book: the database with its operations and settings. The objects behind Data() and Database() live as long as
 // the book, the one behind Settings() from the first opening on; all of them serve the file that was opened last.
@@ -45,6 +46,10 @@ public:
     // end. `isFresh` says that the file was just copied from the template. False when the program has to end.
     [[nodiscard]] bool OpenWithQuestions(const QString& path, bool isFresh, const cPorts& ports);
 
+    // Opens a user's file while another book stays open elsewhere: a file that is no usable database is refused with a
+    // message instead of questions. For the rest like OpenWithQuestions.
+    [[nodiscard]] bool TryOpen(const QString& path, bool isFresh, const cPorts& ports);
+
     void Close();
 
     [[nodiscard]] bool IsOpen() const;
@@ -59,6 +64,7 @@ public:
     [[nodiscard]] cSettings& Settings() { return *m_settings; }
 
 private:
+    [[nodiscard]] bool Refuse(eDatabaseFault fault, const QString& path);
     void LoadSettings();
 
     cUser& m_user;

@@ -53,8 +53,17 @@ bool cStartUp::OpenBook(cBook& book, const cFound& found)
         // The user chose another file on the way: the next start begins with it.
         m_configuration.SaveSetting(u"Database"_s, book.Path(), eSettingPlace::Registry);
     }
-    m_configuration.SetDatabase(&book.Settings());
-    NoteVersion(book);
+    Connect(book);
+    return true;
+}
+
+bool cStartUp::TryBook(cBook& book, const cFound& found)
+{
+    m_configuration.SetDatabase(nullptr);
+    if (!book.TryOpen(found.Path, found.IsFresh, {m_ports.Shell, m_ports.Rescue, m_version, m_ports.Clock.Today()})) {
+        return false;
+    }
+    Connect(book);
     return true;
 }
 
@@ -82,8 +91,9 @@ cStartUp::cFound cStartUp::FindDatabase() const
     return standard;
 }
 
-void cStartUp::NoteVersion(cBook& book)
+void cStartUp::Connect(cBook& book)
 {
+    m_configuration.SetDatabase(&book.Settings());
     cSettings& settings = book.Settings();
     if (settings.Get(u"FirstInstall"_s).isEmpty()) {
         settings.Set(u"FirstInstall"_s, modDate::ToIso(m_ports.Clock.Today()));

@@ -42,6 +42,9 @@ public:
     [[nodiscard]] bool OpenBook(cBook& book, const QString& path = {});
     [[nodiscard]] bool OpenBook(cBook& book, const cFound& found);
 
+    // Opens a book while another one stays open elsewhere: a file that is no usable database is refused with a message.
+    [[nodiscard]] bool TryBook(cBook& book, const cFound& found);
+
     // Asks for the password when that is switched on. False keeps the data closed.
     [[nodiscard]] bool AskPassword() const;
 
@@ -49,7 +52,7 @@ public:
     [[nodiscard]] bool IsNewVersion() const { return m_isNewVersion; }
 
 private:
-    void NoteVersion(cBook& book);
+    void Connect(cBook& book); // its settings come first from now on
 
     cPorts m_ports;
     cConfiguration& m_configuration;

@@ -18,6 +18,19 @@ bool IsDigest(const QString& text)
         && std::all_of(text.begin(), text.end(), [](QChar c) { return u"0123456789abcdefABCDEF"_s.contains(c); });
 }
 
+// Looks at every character, so that the time says nothing about how much of it was right.
+bool IsSameDigest(const QString& one, const QString& other)
+{
+    if (one.size() != other.size()) {
+        return false;
+    }
+    int difference = 0;
+    for (qsizetype i = 0; i < one.size(); ++i) {
+        difference |= one[i].unicode() ^ other[i].unicode();
+    }
+    return difference == 0;
+}
+
 } // namespace
 
 QString modPassword::ToStored(const QString& password)
@@ -28,12 +41,25 @@ QString modPassword::ToStored(const QString& password)
 bool modPassword::Matches(const QString& typed, const QString& stored)
 {
     // A digest is never taken for the password itself: whoever reads it in the file could type it.
-    return IsDigest(stored) ? stored.compare(ToStored(typed), Qt::CaseInsensitive) == 0 : stored == typed;
+    return IsSameDigest(ToStored(typed), IsDigest(stored) ? stored.toLower() : ToStored(stored));
 }
 
 bool modPassword::IsActive(const cConfiguration& configuration)
 {
     return cSettings::ToBool(configuration.GetSetting(u"PasswortAktiv"_s));
+}
+
+bool modPassword::Set(cConfiguration& configuration, const QString& password)
+{
+    return configuration.SaveSetting(u"Passwort"_s, ToStored(password), eSettingPlace::Database)
+        && configuration.SaveSetting(u"PasswortAktiv"_s, cSettings::FromBool(true), eSettingPlace::Database);
+}
+
+bool modPassword::Remove(cConfiguration& configuration)
+{
+    // The switch is stored as off rather than deleted: an empty place would let a value of the registry through.
+    return configuration.SaveSetting(u"PasswortAktiv"_s, cSettings::FromBool(false), eSettingPlace::Database)
+        && configuration.SaveSetting(u"Passwort"_s, {}, eSettingPlace::Database);
 }
 
 bool modPassword::Admit(const cConfiguration& configuration, cRescue& rescue)

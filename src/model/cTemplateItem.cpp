@@ -4,9 +4,27 @@
 #include "base/modAmount.h"
 #include "model/modWord.h"
 
+#include <QHash>
+
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const QString separator = u"; "_s;
+
+// The smallest position in each group: where the group stands as a whole.
+QHash<QString, int> GroupPositions(const cTemplateItemList& items)
+{
+    QHash<QString, int> positions;
+    for (const cTemplateItem& item : items) {
+        const QString group = modTemplate::GroupOf(item);
+        const int position = modTemplate::Priority(item);
+        positions[group] = qMin(positions.value(group, position), position);
+    }
+    return positions;
+}
 
 QString JoinPath(const cTemplateItem& item, const QString& nothing, const QString& unsorted)
 {
@@ -19,7 +37,7 @@ QString JoinPath(const cTemplateItem& item, const QString& nothing, const QStrin
     if (item.TemplateName.isEmpty()) {
         return item.TemplateCategory;
     }
-    return item.TemplateCategory + u"; " + item.TemplateName;
+    return item.TemplateCategory + separator + item.TemplateName;
 }
 
 } // namespace
@@ -63,4 +81,49 @@ QString modTemplate::Path(const cTemplateItem& item)
 QString modTemplate::ShownPath(const cTemplateItem& item)
 {
     return JoinPath(item, cText::Tr("Keine Angabe"), cText::Tr("Sonstiges; {0}"));
+}
+
+QString modTemplate::MainOf(const QString& path)
+{
+    return path.section(separator, 0, 0);
+}
+
+QString modTemplate::SubOf(const QString& path)
+{
+    return path.section(separator, 1);
+}
+
+QString modTemplate::Join(const QString& main, const QString& sub)
+{
+    return sub.isEmpty() ? main : QString(main + separator + sub);
+}
+
+QString modTemplate::WithMain(const QString& path, const QString& main)
+{
+    return Join(main, SubOf(path));
+}
+
+QString modTemplate::GroupOf(const cTemplateItem& item)
+{
+    return IsAccount(item) ? item.TemplateCategory : MainOf(Path(item));
+}
+
+cTemplateItemList modTemplate::InOrder(cTemplateItemList items)
+{
+    const QHash<QString, int> positions = GroupPositions(items);
+    std::stable_sort(items.begin(), items.end(), [&](const cTemplateItem& a, const cTemplateItem& b) {
+        const QString groupA = GroupOf(a);
+        const QString groupB = GroupOf(b);
+        if (groupA != groupB) {
+            const int left = positions.value(groupA);
+            const int right = positions.value(groupB);
+            return left != right ? left < right : groupA.localeAwareCompare(groupB) < 0;
+        }
+        if (a.TemplateName.isEmpty() != b.TemplateName.isEmpty()) {
+            return a.TemplateName.isEmpty();
+        }
+        return Priority(a) != Priority(b) ? Priority(a) < Priority(b)
+                                          : a.TemplateName.localeAwareCompare(b.TemplateName) < 0;
+    });
+    return items;
 }

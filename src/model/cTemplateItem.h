@@ -45,4 +45,19 @@ namespace modTemplate {
 // The path for display: the words that the program supplies itself are translated.
 [[nodiscard]] QString ShownPath(const cTemplateItem& item);
 
+// The two halves of a path; the second one is empty for a main category itself.
+[[nodiscard]] QString MainOf(const QString& path);
+[[nodiscard]] QString SubOf(const QString& path);
+[[nodiscard]] QString Join(const QString& main, const QString& sub);
+
+// The path with another main category.
+[[nodiscard]] QString WithMain(const QString& path, const QString& main);
+
+// What an item stands below in lists: main category of its path, or the group of an account.
+[[nodiscard]] QString GroupOf(const cTemplateItem& item);
+
+// In the order that the user gave them, as every list should offer them: groups stay together and stand where their
+// first item stands, the main category itself comes before its sub-categories, and equal positions go by name.
+[[nodiscard]] cTemplateItemList InOrder(cTemplateItemList items);
+
 } // namespace modTemplate

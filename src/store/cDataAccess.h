@@ -29,6 +29,14 @@ struct cAccountSum
     qint64 Cents = 0;
 };
 
+// An earlier description with category and account of its latest use.
+struct cDescriptionUse
+{
+    QString Description;
+    QString Category;
+    QString Account;
+};
+
 // Every operation on the database. A failure is shown to the user once, with the operation's name and the database's
 // own words, and returned as false, an empty optional or an empty list; nothing is retried.
 class cDataAccess
@@ -63,6 +71,12 @@ public:
     // Gives every entry with exactly this account as source or target the other one.
     [[nodiscard]] bool MoveEntriesToAccount(const QString& newName, const QString& oldName);
     [[nodiscard]] QStringList GetEntryAccounts();
+    // The entries that carry the mark of this split group, not expanded, first part first.
+    [[nodiscard]] cEntryItemList GetEntriesOfSplit(int group);
+    // Of the `entries` newest rows, start balances left out: their descriptions, often and lately used ones first, and
+    // their categories, newest first.
+    [[nodiscard]] QList<cDescriptionUse> GetDescriptionUses(int entries);
+    [[nodiscard]] QStringList GetRecentCategories(int entries);
 
     // Start balance of an account: its one-off entry in the category of start balances.
     [[nodiscard]] std::optional<cEntryItem> GetStartGuthaben(const QString& account);

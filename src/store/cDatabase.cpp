@@ -159,6 +159,8 @@ eDatabaseFault cDatabase::ProbeWrite() noexcept
 
 void cDatabase::BackupTo(const QString& path)
 {
+    // Made beforehand, so that nobody else can read the copy at any moment. Where this fails, SQLite says why.
+    QFile(path).open(QIODevice::NewOnly | QIODevice::WriteOnly, QFile::ReadOwner | QFile::WriteOwner);
     try {
         Translate([&] {
             SQLite::Database target(path.toStdString(), FlagsOf(eOpenMode::Create), m_busyTimeout);

@@ -63,7 +63,8 @@ public:
     // Takes the write lock and lets go of it again: None when the file can be written now. Does not throw.
     [[nodiscard]] eDatabaseFault ProbeWrite() noexcept;
 
-    // Copies the whole database into a new file, also while others read it. A file half written is removed.
+    // Copies the whole database into a new file, also while others read it. Only the file's owner can read it. A file
+    // half written is removed.
     void BackupTo(const QString& path);
 
     // What SQLite finds wrong with the file; empty when it is sound.

@@ -5,25 +5,19 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "store/modBookFile.h"
 #include "store/modSchema.h"
 
 #include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-// Files that SQLite keeps beside a database. They belong to its content: left behind, they would be played into
-// whatever file comes in its place.
-const QStringList companions{u"-journal"_s, u"-wal"_s, u"-shm"_s};
-
-} // namespace
-
-cOpenSequence::cOpenSequence(cDatabase& database, const cPorts& ports, QString version, QDate today)
+cOpenSequence::cOpenSequence(cDatabase& database, const cPorts& ports, QString version, QDate today, eRefusal refusal)
     : m_database(database),
       m_ports(ports),
       m_version(std::move(version)),
-      m_today(today)
+      m_today(today),
+      m_refusal(refusal)
 {
 }
 
@@ -52,7 +46,9 @@ bool cOpenSequence::AskAboutFault(const QString& text) const
 
 cOpenSequence::eStep cOpenSequence::End(const QString& text) const
 {
-    m_ports.User.Show(eTone::Information, text);
+    if (m_refusal == eRefusal::EndsProgram) {
+        m_ports.User.Show(eTone::Information, text);
+    }
     return eStep::End;
 }
 
@@ -149,21 +145,35 @@ void cOpenSequence::Repair()
     }
 }
 
-// Lets the user choose until the backup is a usable database; nothing is replaced before.
+// Lets the user choose until the backup is a usable database and the one wanted; nothing is replaced before.
 void cOpenSequence::RestoreBackup()
 {
     const QString folder = QFileInfo(m_path).absolutePath();
     while (const std::optional<QString> backup = m_ports.Rescue.ChooseBackup(folder)) {
-        cDatabase probe;
-        if (modSchema::OpenValid(probe, *backup, eOpenMode::ReadOnly) == eDatabaseFault::None) {
-            probe.Close();
+        const eAnswer answer = AskAboutBackup(*backup);
+        if (answer == eAnswer::Yes) {
             (void)ReplaceFile(*backup);
+        }
+        if (answer != eAnswer::No) {
             return;
         }
-        m_ports.User.Show(
-            eTone::Exclamation,
-            cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {*backup}));
     }
+}
+
+// Says what a backup holds and asks whether it is the right one. No: another one is to be chosen.
+eAnswer cOpenSequence::AskAboutBackup(const QString& backup) const
+{
+    const modBookFile::cContent content = modBookFile::Look(backup);
+    if (!modBookFile::IsSound(content)) {
+        m_ports.User.Show(eTone::Exclamation,
+                          cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup}));
+        return eAnswer::No;
+    }
+    return m_ports.User.Ask(
+        {.Text = cText::Tr("Die Datensicherung '{0}' enthält:\n{1}.\n\nMöchten Sie diese Datensicherung laden?",
+                           {backup, modBookFile::Describe(content)}),
+         .Title = cText::Tr("Datensicherung laden"),
+         .Buttons = eButtons::YesNoCancel});
 }
 
 void cOpenSequence::Initialise()
@@ -184,7 +194,8 @@ void cOpenSequence::Initialise()
 // Puts a copy of `source` in the place of the damaged file, which stays beside it under another name.
 bool cOpenSequence::ReplaceFile(const QString& source)
 {
-    const QString kept = KeepAside();
+    m_database.Close();
+    const QString kept = modBookFile::KeepAside(m_ports.Shell, m_path, m_today, u"beschaedigt"_s);
     if (!kept.isEmpty() && m_ports.Shell.CopyFile(source, m_path)) {
         m_ports.User.Show(eTone::Information, cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {kept}));
         return true;
@@ -198,22 +209,6 @@ bool cOpenSequence::ReplaceFile(const QString& source)
                   "Speicherplatz: \n{0}",
                   {QFileInfo(m_path).absolutePath()}));
     return false;
-}
-
-// Renames the file and what SQLite keeps beside it; the new name, empty on failure.
-QString cOpenSequence::KeepAside()
-{
-    m_database.Close();
-    const QString kept = FreeName(u"beschaedigt"_s);
-    if (!m_ports.Shell.RenameFile(m_path, kept)) {
-        return {};
-    }
-    for (const QString& ending : companions) {
-        if (m_ports.Shell.FileExists(m_path + ending)) {
-            (void)m_ports.Shell.RenameFile(m_path + ending, kept + ending);
-        }
-    }
-    return kept;
 }
 
 // The valid database is open: makes it current, or settles for reading.
@@ -282,20 +277,9 @@ QString cOpenSequence::CopyBeforeUpgrade()
         return {};
     }
     try {
-        m_database.BackupTo(FreeName(u"backup"_s));
+        m_database.BackupTo(modBookFile::FreeName(m_ports.Shell, m_path, m_today, u"backup"_s));
         return {};
     } catch (const cDatabaseError& error) {
         return error.Text();
     }
-}
-
-// "<database>.<day>.<ending>", with a number when that name is taken.
-QString cOpenSequence::FreeName(const QString& ending) const
-{
-    const QString start = m_path + u'.' + modDate::ToIso(m_today);
-    QString name = start + u'.' + ending;
-    for (int number = 2; m_ports.Shell.FileExists(name); ++number) {
-        name = start + u'-' + QString::number(number) + u'.' + ending;
-    }
-    return name;
 }

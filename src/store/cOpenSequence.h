@@ -9,11 +9,15 @@
 class cRescue;
 class cShell;
 class cUser;
+enum class eAnswer;
 
 enum class eOpenResult { Opened, OpenedReadOnly, Ended };
 
 // Whether a file has just been copied from the template and holds nothing that could be lost.
 enum class eOrigin { Existing, Fresh };
+
+// What a refusal means: the end of the program, or that another book stays open.
+enum class eRefusal { EndsProgram, KeepsOldBook };
 
 // Everything that happens between a path and an open, current database, with all questions to the user. Nothing is
 // deleted: what is replaced stays beside the database under another name.
@@ -27,8 +31,10 @@ public:
         cRescue& Rescue;
     };
 
-    // `version` is the running program's; `today` dates the copies.
-    cOpenSequence(cDatabase& database, const cPorts& ports, QString version, QDate today);
+    // `version` is the running program's; `today` dates the copies. Where a refusal keeps the old book, the messages do
+    // not speak of the program's end.
+    cOpenSequence(cDatabase& database, const cPorts& ports, QString version, QDate today,
+                  eRefusal refusal = eRefusal::EndsProgram);
 
     // Opens the file, or another one that the user chooses on the way. After `Ended` the reason has been shown, no
     // database is open and the program has nothing left to do.
@@ -54,19 +60,19 @@ private:
     void Repair();
     void RestoreBackup();
     void Initialise();
+    [[nodiscard]] eAnswer AskAboutBackup(const QString& backup) const;
     [[nodiscard]] bool ReplaceFile(const QString& source);
-    [[nodiscard]] QString KeepAside();
 
     [[nodiscard]] eOpenResult Prepare();
     [[nodiscard]] eOpenResult AskForReading();
     [[nodiscard]] eOpenResult OpenForReading(const QString& message);
     [[nodiscard]] QString CopyBeforeUpgrade();
-    [[nodiscard]] QString FreeName(const QString& ending) const;
 
     cDatabase& m_database;
     cPorts m_ports;
     QString m_version;
     QDate m_today;
+    eRefusal m_refusal;
     QString m_path;
     eOrigin m_origin = eOrigin::Existing;
     QStringList m_added;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <span>
 
 using namespace Qt::Literals::StringLiterals;
@@ -81,11 +82,32 @@ bool Exists(cDatabase& database, const char* kind, const char* name)
     return rows.Next() && rows.Integer(0) > 0;
 }
 
-bool HasColumn(cDatabase& database, const cColumn& column)
+// The columns of a table in lower case, because their names do not differ by case. Read at once: asked for one by one
+// they would be a noticeable part of the start.
+QStringList ColumnsOf(cDatabase& database, const char* table)
 {
-    cRows rows(database, "SELECT COUNT(*) FROM pragma_table_info(?, 'main') WHERE name = ? COLLATE NOCASE",
-               {QString::fromUtf8(column.Table), QString::fromUtf8(column.Name)});
-    return rows.Next() && rows.Integer(0) > 0;
+    QStringList names;
+    cRows rows(database, "SELECT name FROM pragma_table_info(?, 'main')", {QString::fromUtf8(table)});
+    while (rows.Next()) {
+        names.append(rows.Text(0).toLower());
+    }
+    return names;
+}
+
+std::vector<cColumn> AbsentColumns(cDatabase& database)
+{
+    std::map<std::string_view, QStringList> present;
+    std::vector<cColumn> absent;
+    for (const cColumn& column : AddedColumns()) {
+        const auto [columns, isNew] = present.try_emplace(column.Table);
+        if (isNew) {
+            columns->second = ColumnsOf(database, column.Table);
+        }
+        if (!columns->second.contains(QString::fromUtf8(column.Name).toLower())) {
+            absent.push_back(column);
+        }
+    }
+    return absent;
 }
 
 // Tables and columns that belong to a current database and are not there.
@@ -97,11 +119,8 @@ QStringList AbsentParts(cDatabase& database)
             parts.append(cText::Tr("Tabelle {0}", {QString::fromUtf8(table.Name)}));
         }
     }
-    for (const cColumn& column : AddedColumns()) {
-        if (!HasColumn(database, column)) {
-            parts.append(
-                cText::Tr("Spalte {0}.{1}", {QString::fromUtf8(column.Table), QString::fromUtf8(column.Name)}));
-        }
+    for (const cColumn& column : AbsentColumns(database)) {
+        parts.append(cText::Tr("Spalte {0}.{1}", {QString::fromUtf8(column.Table), QString::fromUtf8(column.Name)}));
     }
     return parts;
 }
@@ -169,8 +188,8 @@ void CreateIndexes(cDatabase& database)
 void ShowWithColumns(cDatabase& database, const char* table)
 {
     std::string missing;
-    for (const cColumn& column : AddedColumns()) {
-        if (std::string_view(column.Table) == table && !HasColumn(database, column)) {
+    for (const cColumn& column : AbsentColumns(database)) {
+        if (std::string_view(column.Table) == table) {
             missing.append(", '' AS ").append(column.Name);
         }
     }
@@ -264,6 +283,9 @@ QStringList modSchema::Upgrade(cDatabase& database)
     ConvertCodes(database, "EntryInterval", intervalWords);
     CompleteAccounts(database);
     CreateIndexes(database);
+    if (before.isEmpty()) {
+        return {};
+    }
     const QStringList after = Absent(database);
     QStringList added;
     std::copy_if(before.begin(), before.end(), std::back_inserter(added),

@@ -2,39 +2,68 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
-#include "base/cUser.h"
-#include "base/modAmount.h"
-#include "model/cEntryItem.h"
+#include "base/modDate.h"
+#include "base/modSum.h"
+#include "model/modBalance.h"
 #include "model/modRecurrence.h"
+#include "model/modSeries.h"
+#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/cEntryDefaults.h"
+#include "views/cSplitGroup.h"
+#include "views/cStartBalance.h"
+#include "views/modEntryFields.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QString AmountText(qint64 cents)
+cEntryEditor::cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, const cAmountFormat* format)
+    : m_data(data),
+      m_user(user),
+      m_clock(clock),
+      m_format(format),
+      m_suggestions(data)
 {
-    return modAmount::CentsToText(cents).replace(u'.', u',');
 }
-
-bool HasOtherPeriod(const cEntryItem& a, const cEntryItem& b)
-{
-    return a.EntryDate != b.EntryDate || a.EntryInterval != b.EntryInterval
-        || modRecurrence::EffectiveEnd(a.EntryDateEnd) != modRecurrence::EffectiveEnd(b.EntryDateEnd);
-}
-
-} // namespace
 
 cEntryEditor::cFields cEntryEditor::Start(const QString& account)
 {
-    m_id = 0;
+    m_ids.clear();
+    m_from = {};
     cFields fields;
-    fields.Amount = AmountText(0);
+    fields.Amount = modSum::ToText(0);
     fields.Date = m_clock.Today();
     fields.Account = account;
+    return fields;
+}
+
+cEntryEditor::cFields cEntryEditor::StartBalance(const QString& account)
+{
+    m_ids.clear();
+    m_from = {};
+    cFields fields = cStartBalance(m_data).Show(account.isEmpty() ? Accounts().value(0) : account);
+    fields.Date = fields.Date.isValid() ? fields.Date : m_clock.Today();
+    return fields;
+}
+
+cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
+{
+    const QDate end = modRecurrence::EffectiveEnd(entry.EntryDateEnd);
+    cFields fields;
+    fields.Amount = modSum::ToText(entry.EntryValue);
+    fields.IsAmountTyped = true;
+    fields.IsAccountChosen = true;
+    fields.Description = entry.EntryDescription;
+    fields.Category = entry.EntryCategory;
+    fields.Type = entry.EntryType;
+    fields.Account = entry.EntryAccount;
+    fields.Target = entry.EntryAccountMove;
+    fields.Date = entry.EntryDate;
+    fields.HasEnd = modRecurrence::IsRecurring(entry.EntryInterval) && end != modRecurrence::OpenEnd;
+    fields.End = fields.HasEnd ? end : QDate();
+    fields.Interval = entry.EntryInterval;
     return fields;
 }
 
@@ -44,158 +73,152 @@ std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
     if (!entry) {
         return std::nullopt;
     }
-    m_id = id;
-    const QDate end = modRecurrence::EffectiveEnd(entry->EntryDateEnd);
-    cFields fields;
-    fields.Amount = AmountText(entry->EntryValue);
-    fields.IsAmountTyped = true;
-    fields.Description = entry->EntryDescription;
-    fields.Category = entry->EntryCategory;
-    fields.Type = entry->EntryType;
-    fields.Account = entry->EntryAccount;
-    fields.Target = entry->EntryAccountMove;
-    fields.Date = entry->EntryDate;
-    fields.HasEnd = modRecurrence::IsRecurring(entry->EntryInterval) && end != modRecurrence::OpenEnd;
-    fields.End = fields.HasEnd ? end : QDate();
-    fields.Interval = entry->EntryInterval;
+    m_ids = {id};
+    m_from = {};
+    if (cStartBalance(m_data).IsOne(*entry)) {
+        return cStartBalance(m_data).Show(entry->EntryAccount);
+    }
+    cFields fields = FieldsOf(*entry);
+    const cEntryItemList parts = cSplitGroup(m_data).Parts(*entry);
+    // Parts that no longer belong to one day and account cannot be shown as one; each is an entry of its own then.
+    if (parts.size() > 1 && modSplit::IsWhole(parts)) {
+        cSplitGroup::Show(parts, fields);
+        m_ids.clear();
+        for (const cEntryItem& part : parts) {
+            m_ids.append(part.ID);
+        }
+        return fields;
+    }
+    fields.Corrections = m_data.GetEntryMods(id);
+    std::sort(fields.Corrections.begin(), fields.Corrections.end(),
+              [](const auto& a, const auto& b) { return a.EntryStartDate < b.EntryStartDate; });
     return fields;
+}
+
+std::optional<cEntryEditor::cFields> cEntryEditor::LoadFrom(int id, QDate day)
+{
+    std::optional<cFields> fields = Load(id);
+    const std::optional<cEntryItem> entry = m_data.LoadEntry(id);
+    const std::optional<cEntryItem> occurrence = entry ? modSeries::OccurrenceAt(*entry, day) : std::nullopt;
+    if (!fields || !occurrence || occurrence->EntryDate <= entry->EntryDate) {
+        return fields;
+    }
+    m_from = occurrence->EntryDate;
+    fields->Date = m_from;
+    const QDate start = modSeries::CorrectionFor(*occurrence).EntryStartDate;
+    fields->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate < start; });
+    return fields;
+}
+
+QString cEntryEditor::Title(const cFields& fields) const
+{
+    if (fields.Face == eEntryFace::StartBalance) {
+        return cText::Tr("Startguthaben");
+    }
+    if (m_from.isValid()) {
+        return cText::Tr("Serie ab {0} bearbeiten", {modDate::ToGerman(m_from)});
+    }
+    return IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten");
+}
+
+QString cEntryEditor::AmountLabel() const
+{
+    QString symbol;
+    const QString amount = modEntryFields::Money(0, m_format);
+    for (const QChar c : amount) {
+        if (!c.isDigit() && !c.isSpace() && c != u',' && c != u'.') {
+            symbol.append(c);
+        }
+    }
+    return cText::Tr("Betrag ({0}):", {symbol});
+}
+
+QString cEntryEditor::StartBalanceText(const QString& account) const
+{
+    const std::optional<cEntryItem> stored = m_data.GetStartGuthaben(account);
+    if (!stored) {
+        return cText::Tr("Bisher wurde noch kein Startguthaben festgelegt:");
+    }
+    return cText::Tr(
+        "Bisheriges Startguthaben: {0} am {1}",
+        {modEntryFields::Money(modBalance::Effect(*stored, {}), m_format), modDate::ToGerman(stored->EntryDate)});
 }
 
 QStringList cEntryEditor::Categories() const
 {
-    QStringList paths;
-    const cTemplateItemList templates = m_data.GetTemplates();
-    for (const cTemplateItem& item : templates) {
-        if (!modTemplate::IsAccount(item) && modTemplate::IsVisible(item)) {
-            paths.append(modTemplate::Path(item));
-        }
-    }
-    std::sort(paths.begin(), paths.end(),
-              [](const QString& a, const QString& b) { return a.localeAwareCompare(b) < 0; });
-    return paths;
+    return cEntrySuggestions::VisibleCategories(m_data);
 }
 
 QStringList cEntryEditor::Accounts() const
 {
-    QStringList names;
-    const cTemplateItemList accounts = m_data.GetAccounts();
-    for (const cTemplateItem& account : accounts) {
-        if (modTemplate::IsVisible(account)) {
-            names.append(account.TemplateName);
-        }
-    }
-    return names;
+    return cEntrySuggestions::VisibleAccounts(m_data);
 }
 
 void cEntryEditor::ChooseCategory(const QString& path, cFields& fields) const
 {
-    fields.Category = path;
-    if (!fields.IsAmountTyped) {
-        fields.Amount = AmountText(0);
-    }
-    const cTemplateItemList templates = m_data.GetTemplates();
-    const auto chosen = std::find_if(templates.begin(), templates.end(), [&](const cTemplateItem& item) {
-        return !modTemplate::IsAccount(item) && modTemplate::Path(item) == path;
-    });
-    if (chosen == templates.end()) {
-        return;
-    }
-    // A category may hold a word of the filters, such as "Alle Buchungsarten"; that is no kind of entry.
-    if (fields.Type.isEmpty() && modWord::EntryTypes().Contains(chosen->EntryType)) {
-        fields.Type = chosen->EntryType;
-    }
-    if (fields.Interval.isEmpty() && modWord::Intervals().Contains(chosen->EntryInterval)) {
-        fields.Interval = chosen->EntryInterval;
+    cEntryDefaults(m_data).TakeCategory(path, fields);
+}
+
+void cEntryEditor::ChooseDescription(const QString& text, cFields& fields)
+{
+    cEntryDefaults(m_data).TakeDescription(text, m_suggestions, fields);
+}
+
+void cEntryEditor::ChoosePartCategory(qsizetype row, const QString& path, cFields& fields) const
+{
+    cEntryDefaults(m_data).TakePartCategory(row, path, fields);
+}
+
+void cEntryEditor::ChoosePartDescription(qsizetype row, const QString& text, cFields& fields)
+{
+    cEntryDefaults(m_data).TakePartDescription(row, text, m_suggestions, fields);
+}
+
+void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
+{
+    fields.Account = account;
+    fields.IsAccountChosen = true;
+    if (fields.Face == eEntryFace::StartBalance && !fields.IsAmountTyped) {
+        const cFields stored = cStartBalance(m_data).Show(account);
+        fields.Amount = stored.Amount;
+        fields.Date = stored.Date.isValid() ? stored.Date : fields.Date;
+        fields.DateText = stored.Date.isValid() ? QString() : fields.DateText;
     }
 }
 
-bool cEntryEditor::Refuse(const QString& text)
+bool cEntryEditor::ShowsTarget(const cFields& fields)
 {
-    m_user.Show(eTone::Exclamation, text);
-    return false;
+    return fields.Face == eEntryFace::Normal && fields.Type == modWord::Umbuchung;
 }
 
-bool cEntryEditor::Check(const cFields& fields)
+bool cEntryEditor::ShowsSeries(const cFields& fields)
 {
-    if (fields.Category.isEmpty()) {
-        return Refuse(Categories().isEmpty()
-                          ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
-                          : cText::Tr("Bitte erst eine Kategorie wählen!"));
-    }
-    if (fields.Type.isEmpty()) {
-        return Refuse(cText::Tr("Bitte erst eine Buchungsart wählen!"));
-    }
-    if (fields.Account.isEmpty()) {
-        return Refuse(Accounts().isEmpty() ? cText::Tr("Bitte erst neue Konten anlegen und diese Buchung einordnen!")
-                                           : cText::Tr("Bitte erst ein Konto wählen!"));
-    }
-    return true;
+    return fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);
 }
 
-std::optional<cEntryItem> cEntryEditor::Build(const cFields& fields, qint64 cents) const
+bool cEntryEditor::ShowsCorrections(const cFields& fields) const
 {
-    cEntryItem entry;
-    if (m_id != 0) {
-        const std::optional<cEntryItem> stored = m_data.LoadEntry(m_id);
-        if (!stored) {
-            return std::nullopt;
-        }
-        entry = *stored;
-    }
-    const bool isTransfer = fields.Type == modWord::Umbuchung;
-    if (isTransfer && (fields.Target.isEmpty() || fields.Target == fields.Account)) {
-        return std::nullopt; // money has to arrive somewhere else
-    }
-    entry.EntryDate = fields.Date.isValid() ? fields.Date : m_clock.Today();
-    entry.EntryDateEnd = fields.HasEnd && fields.End.isValid() ? fields.End : modRecurrence::OpenEnd;
-    entry.EntryType = fields.Type;
-    entry.EntryInterval = fields.Interval.isEmpty() ? modWord::Einmalig : fields.Interval;
-    entry.EntryAccount = fields.Account;
-    entry.EntryAccountMove = isTransfer ? fields.Target : QString();
-    entry.EntryCategory = fields.Category;
-    entry.EntryValue = cents;
-    entry.EntryDescription = fields.Description;
-    if (modRecurrence::IsRecurring(entry.EntryInterval) && entry.EntryDateEnd < entry.EntryDate) {
-        return std::nullopt;
-    }
-    return entry;
+    return m_ids.size() == 1 && fields.Face == eEntryFace::Normal && ShowsSeries(fields);
 }
 
-bool cEntryEditor::LosesCorrections(const cEntryItem& entry) const
+cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
 {
-    const std::optional<cEntryItem> stored = m_data.LoadEntry(m_id);
-    return stored && modRecurrence::IsRecurring(stored->EntryInterval) && HasOtherPeriod(*stored, entry)
-        && !m_data.GetEntryMods(m_id).isEmpty();
-}
-
-bool cEntryEditor::Change(const cEntryItem& entry)
-{
-    if (!LosesCorrections(entry)) {
-        return m_data.ChangeEntry(entry);
+    constexpr int shownDays = 3;
+    const cEntryItem series = modEntryFields::Series(fields, m_clock.Today());
+    cPreview preview;
+    preview.IsSeries = ShowsSeries(fields) && series.EntryDate.isValid() && series.EntryDateEnd.isValid();
+    if (!preview.IsSeries) {
+        return preview;
     }
-    const eAnswer answer =
-        m_user.Ask({.Text = cText::Tr("Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen "
-                                      "Korrekturen gehen dadurch verloren.\nSoll der Eintrag trotzdem "
-                                      "gespeichert werden?"),
-                    .Title = {}});
-    return answer == eAnswer::Yes && m_data.ChangeEntry(entry) && m_data.DeleteEntryModByRelation(m_id);
-}
-
-cEntryEditor::eSaved cEntryEditor::Save(const cFields& fields)
-{
-    const std::optional<double> amount = modAmount::TryReadGerman(fields.Amount);
-    if (!amount) {
-        return eSaved::BadAmount;
+    preview.Count = modSeries::Count(series);
+    preview.Next = modSeries::Next(series, m_clock.Today(), shownDays);
+    QStringList days;
+    for (const QDate day : std::as_const(preview.Next)) {
+        days.append(modDate::ToGerman(day));
     }
-    if (!Check(fields)) {
-        return eSaved::Refused;
-    }
-    const qint64 cents = modAmount::ToCents(*amount);
-    std::optional<cEntryItem> entry = Build(fields, cents < 0 ? -cents : cents);
-    if (!entry) {
-        (void)Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!"));
-        return eSaved::Refused;
-    }
-    const bool isStored = IsNew() ? m_data.AddNewEntry(*entry) : Change(*entry);
-    return isStored ? eSaved::Saved : eSaved::Refused;
+    const bool isOpen = series.EntryDateEnd == modRecurrence::OpenEnd;
+    const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
+    preview.Text = days.isEmpty() ? cText::Tr("{0}, keine weiteren Termine", {count})
+                                  : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
+    return preview;
 }

@@ -5,6 +5,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
+#include "views/cEntryFilter.h"
 #include "views/modEntryOrder.h"
 
 #include <QHash>
@@ -32,25 +33,6 @@ bool IsMoneyColumn(int column)
     return column == cEntryListModel::Amount || column == cEntryListModel::Balance;
 }
 
-QString AccountText(const cEntryItem& entry)
-{
-    return entry.EntryType == modWord::Umbuchung ? entry.EntryAccount + u" → " + entry.EntryAccountMove
-                                                 : entry.EntryAccount;
-}
-
-modFold::cFolded Searched(const cEntryItem& entry, const QString& amount)
-{
-    const QString text = QStringList{modDate::ToGerman(entry.EntryDate),
-                                     modWord::EntryTypes().ToShown(entry.EntryType),
-                                     entry.EntryCategory,
-                                     AccountText(entry),
-                                     entry.EntryDescription,
-                                     modWord::Intervals().ToShown(entry.EntryInterval),
-                                     amount}
-                             .join(u'\n');
-    return modFold::Fold(text);
-}
-
 std::size_t At(int index)
 {
     return static_cast<std::size_t>(index);
@@ -69,19 +51,26 @@ cEntryListModel::~cEntryListModel() = default;
 void cEntryListModel::SetContent(cContent content, const QString& filter, const QString& grouping)
 {
     beginResetModel();
+    m_filter.reset();
     m_content = std::move(content);
     m_words = modFold::Words(filter);
     m_grouping = grouping;
     RunBalances();
-    Rebuild();
+    Order();
+    Select(m_all);
     endResetModel();
 }
 
 void cEntryListModel::SetFilter(const QString& text)
 {
+    const QList<modFold::cFolded> words = modFold::Words(text);
+    if (words == m_words) {
+        return;
+    }
     beginResetModel();
-    m_words = modFold::Words(text);
-    Rebuild();
+    const bool isNarrower = modFold::IsNarrower(words, m_words);
+    m_words = words;
+    Select(isNarrower ? m_order : m_all);
     endResetModel();
 }
 
@@ -90,6 +79,7 @@ void cEntryListModel::SetGrouping(const QString& grouping)
     beginResetModel();
     m_grouping = grouping;
     Order();
+    Select(m_all);
     endResetModel();
 }
 
@@ -99,39 +89,21 @@ void cEntryListModel::sort(int column, Qt::SortOrder order)
     m_sortColumn = column;
     m_sortOrder = order;
     Order();
+    Select(m_all);
     endResetModel();
-}
-
-void cEntryListModel::Rebuild()
-{
-    Select();
-    Order();
-}
-
-void cEntryListModel::Select()
-{
-    m_order.clear();
-    m_sums = {};
-    for (int i = 0; i < static_cast<int>(m_content.Entries.size()); ++i) {
-        const cEntryItem& entry = m_content.Entries.at(i);
-        const bool isHidden = !m_content.HiddenCategory.isEmpty() && entry.EntryCategory == m_content.HiddenCategory;
-        if (isHidden || (!m_words.isEmpty() && !modFold::HoldsAll(Searched(entry, Text(i, Amount)), m_words))) {
-            continue;
-        }
-        m_order.push_back(i);
-        const qint64 effect = Effect(i);
-        (effect < 0 ? m_sums.Expense : m_sums.Income) += effect < 0 ? -effect : effect;
-    }
-    m_sums.Count = static_cast<qsizetype>(m_order.size());
 }
 
 void cEntryListModel::Order()
 {
-    m_groups.clear();
-    std::sort(m_order.begin(), m_order.end());
-    const modEntryOrder::cRanked groups = modEntryOrder::Groups(m_content.Entries, m_order, m_grouping);
+    m_all.clear();
+    for (int i = 0; i < static_cast<int>(m_content.Entries.size()); ++i) {
+        if (m_content.HiddenCategory.isEmpty() || m_content.Entries.at(i).EntryCategory != m_content.HiddenCategory) {
+            m_all.push_back(i);
+        }
+    }
+    modEntryOrder::cRanked groups = modEntryOrder::Groups(m_content.Entries, m_all, m_grouping);
     const std::vector<qint64> keys = SortKeys();
-    std::vector<int> positions(m_order.size());
+    std::vector<int> positions(m_all.size());
     std::iota(positions.begin(), positions.end(), 0);
     const bool isUp = m_sortOrder == Qt::AscendingOrder;
     std::stable_sort(positions.begin(), positions.end(), [&](int a, int b) {
@@ -140,28 +112,54 @@ void cEntryListModel::Order()
         }
         return isUp ? keys[At(a)] < keys[At(b)] : keys[At(b)] < keys[At(a)];
     });
-    std::vector<int> order;
-    std::vector<qint64> ranks;
-    for (const int position : positions) {
-        order.push_back(m_order[At(position)]);
+    m_groupOf.assign(groups.Ranks.empty() ? 0 : At(static_cast<int>(m_content.Entries.size())), 0);
+    m_groupNames = std::move(groups.Names);
+    for (int& position : positions) {
+        const int entry = m_all[At(position)];
         if (!groups.Ranks.empty()) {
-            ranks.push_back(groups.Ranks[At(position)]);
+            m_groupOf[At(entry)] = static_cast<int>(groups.Ranks[At(position)]);
         }
+        position = entry;
     }
-    m_order = std::move(order);
-    FormGroups(ranks, groups.Names);
+    m_all = std::move(positions);
 }
 
-void cEntryListModel::FormGroups(const std::vector<qint64>& ranks, const QStringList& names)
+void cEntryListModel::Select(const std::vector<int>& among)
 {
-    for (std::size_t i = 0; i < ranks.size(); ++i) {
-        if (i == 0 || ranks[i] != ranks[i - 1]) {
-            const QString& name = names.at(ranks[i]);
-            m_groups.push_back({name.isEmpty() ? cText::Tr("Keine Angabe") : name, static_cast<int>(i), 0, 0});
+    if (m_words.isEmpty()) {
+        m_order = among;
+    } else {
+        if (!m_filter) {
+            m_filter = std::make_unique<cEntryFilter>(m_content.Entries, m_format);
+        }
+        m_order = m_filter->Find(m_words, among, [this](int entry) {
+            return cEntryFilter::ShownCents(m_content.Entries.at(entry), m_content.Account);
+        });
+    }
+    Sum();
+}
+
+void cEntryListModel::Sum()
+{
+    m_groups.clear();
+    m_sums = {};
+    int group = -1;
+    for (int position = 0; position < static_cast<int>(m_order.size()); ++position) {
+        const int entry = m_order[At(position)];
+        const qint64 effect = Effect(entry);
+        (effect < 0 ? m_sums.Expense : m_sums.Income) += effect < 0 ? -effect : effect;
+        if (m_groupOf.empty()) {
+            continue;
+        }
+        if (m_groupOf[At(entry)] != group) {
+            group = m_groupOf[At(entry)];
+            const QString& name = m_groupNames.at(group);
+            m_groups.push_back({name.isEmpty() ? cText::Tr("Keine Angabe") : name, position, 0, 0});
         }
         ++m_groups.back().Count;
-        m_groups.back().Sum += Effect(m_order[i]);
+        m_groups.back().Sum += effect;
     }
+    m_sums.Count = static_cast<qsizetype>(m_order.size());
 }
 
 void cEntryListModel::RunBalances()
@@ -185,17 +183,17 @@ void cEntryListModel::RunBalances()
 
 std::vector<qint64> cEntryListModel::SortKeys() const
 {
-    const int count = static_cast<int>(m_order.size());
+    const int count = static_cast<int>(m_all.size());
     if (m_sortColumn == Date || IsMoneyColumn(m_sortColumn)) {
         std::vector<qint64> keys;
-        keys.reserve(m_order.size());
-        for (const int entry : m_order) {
+        keys.reserve(m_all.size());
+        for (const int entry : m_all) {
             keys.push_back(m_sortColumn == Amount ? Effect(entry)
                                                   : m_content.Entries.at(entry).EntryDate.toJulianDay());
         }
         return keys;
     }
-    return modEntryOrder::Rank(count, [&](int i) { return Text(m_order[At(i)], m_sortColumn); }).Ranks;
+    return modEntryOrder::Rank(count, [&](int i) { return Text(m_all[At(i)], m_sortColumn); }).Ranks;
 }
 
 qint64 cEntryListModel::Effect(int entry) const
@@ -318,6 +316,10 @@ QVariant cEntryListModel::EntryData(int entry, int column, int role) const
     case Qt::ToolTipRole: return Tip(item);
     case FutureRole: return item.EntryDate > m_content.Today;
     case CorrectedRole: return item.IsCorrected;
+    case CentsRole: {
+        const std::optional<qint64> cents = Cents(entry, column);
+        return cents ? QVariant(*cents) : QVariant();
+    }
     case ToneRole: {
         if (column == Balance) {
             return m_balances.empty() || m_balances[At(entry)] >= 0 ? Neutral : Expense;
@@ -337,6 +339,12 @@ QVariant cEntryListModel::GroupData(const cGroup& group, int column, int role) c
     if (role == ToneRole) {
         return group.Sum < 0 ? Expense : Income;
     }
+    if (role == NameRole) {
+        return group.Name;
+    }
+    if (role == CentsRole) {
+        return column == Amount ? QVariant(group.Sum) : QVariant();
+    }
     if (role != Qt::DisplayRole) {
         return {};
     }
@@ -353,20 +361,31 @@ QString cEntryListModel::Text(int entry, int column) const
     case Date: return modDate::ToGerman(item.EntryDate);
     case Type: return modWord::EntryTypes().ToShown(item.EntryType);
     case Category: return item.EntryCategory;
-    case Account: return AccountText(item);
+    case Account: return cEntryFilter::AccountText(item);
     case Description: return item.EntryDescription;
     case Interval: {
         const QString interval = modWord::Intervals().ToShown(item.EntryInterval);
         return item.IsCorrected ? cText::Tr("{0}, korrigiert", {interval}) : interval;
     }
-    case Amount: {
-        const bool isExpense = item.EntryType == modWord::Ausgabe;
-        const bool leavesAccount = item.EntryType == modWord::Umbuchung && item.EntryAccount == m_content.Account;
-        return m_format.Cents(isExpense || leavesAccount ? -item.EntryValue : item.EntryValue);
+    case Amount:
+    case Balance: {
+        const std::optional<qint64> cents = Cents(entry, column);
+        return cents ? m_format.Cents(*cents) : QString();
     }
-    case Balance: return m_balances.empty() || m_sortColumn != Date ? QString() : m_format.Cents(m_balances[At(entry)]);
     default: return {};
     }
+}
+
+std::optional<qint64> cEntryListModel::Cents(int entry, int column) const
+{
+    if (column == Balance) {
+        const bool isShown = !m_balances.empty() && m_sortColumn == Date;
+        return isShown ? std::optional(m_balances[At(entry)]) : std::nullopt;
+    }
+    if (column != Amount) {
+        return std::nullopt;
+    }
+    return cEntryFilter::ShownCents(m_content.Entries.at(entry), m_content.Account);
 }
 
 QString cEntryListModel::Tip(const cEntryItem& entry) const

@@ -8,10 +8,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 class cAmountFormat;
+class cEntryFilter;
 
 // The entry list: occurrences in rows, optionally gathered in groups with count and sum. The records never move;
 // sorting, grouping and filtering only rebuild the order in which they are shown.
@@ -27,6 +29,8 @@ public:
         FutureRole,              // bool: lies after today
         CorrectedRole,           // bool: amount of this period corrected by hand
         GroupRole,               // bool: the row is the head of a group
+        CentsRole,               // qint64: signed cents of a money column; invalid where the list shows none
+        NameRole,                // text: name of a group, without its count
     };
 
     // What an amount means, for whoever paints it.
@@ -74,6 +78,7 @@ public:
     // invalid when the list is sorted otherwise or ends before.
     [[nodiscard]] QModelIndex IndexNear(QDate day) const;
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
+    [[nodiscard]] const QString& ShownAccount() const { return m_content.Account; } // empty: all accounts
     [[nodiscard]] bool HasBalances() const { return m_content.StartBalance.has_value(); }
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -93,14 +98,15 @@ private:
         qint64 Sum = 0;
     };
 
-    void Rebuild();
-    void Select(); // decides which entries are shown and adds them up
-    void Order();  // sorts them and forms the groups
-    void FormGroups(const std::vector<qint64>& ranks, const QStringList& names);
+    void Order(); // sorts and groups all entries
+    // Decides which of `among` are shown, in this order.
+    void Select(const std::vector<int>& among);
+    void Sum(); // adds up what is shown, as a whole and by group
     void RunBalances();
     [[nodiscard]] std::vector<qint64> SortKeys() const;
     [[nodiscard]] qint64 Effect(int entry) const;
-    [[nodiscard]] int EntryIndex(const QModelIndex& index) const; // -1 for the head of a group
+    [[nodiscard]] int EntryIndex(const QModelIndex& index) const;           // -1 for the head of a group
+    [[nodiscard]] std::optional<qint64> Cents(int entry, int column) const; // empty where none is shown
     [[nodiscard]] QString Text(int entry, int column) const;
     [[nodiscard]] QVariant EntryData(int entry, int column, int role) const;
     [[nodiscard]] QVariant GroupData(const cGroup& group, int column, int role) const;
@@ -112,7 +118,11 @@ private:
     QString m_grouping;
     int m_sortColumn = Date;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    std::vector<int> m_order; // shown entries in their order
+    std::vector<int> m_all;     // all entries in their order, so that filtering does not sort
+    std::vector<int> m_order;   // those that are shown
+    std::vector<int> m_groupOf; // group by entry; empty without grouping
+    QStringList m_groupNames;
+    std::unique_ptr<cEntryFilter> m_filter; // made when something is typed for the first time
     std::vector<cGroup> m_groups;
     std::vector<qint64> m_balances; // by entry; empty when there is none to show
     cSums m_sums;

@@ -15,6 +15,7 @@
 #include "import/cStatementImport.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
 #include "views/modImportText.h"
 
 #include <QFileInfo>
@@ -108,6 +109,7 @@ void cImportReview::ChooseFiles(cProgress& progress)
 
 void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
 {
+    const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"));
     m_summary.clear();
     m_duplicates.clear();
     QStringList numbers;
@@ -187,6 +189,7 @@ QStringList cImportReview::Duplicates() const
 
 void cImportReview::StageDuplicates(const QList<int>& places)
 {
+    const cUndoStep step(m_parts.Data, cText::Tr("Umsätze trotzdem übernommen"));
     cStaging staging(m_works->Hive);
     int staged = 0;
     QList<int> taken = places;
@@ -214,6 +217,7 @@ void cImportReview::DropDuplicates()
 
 void cImportReview::Book(const QList<int>& rowIds, cProgress& progress)
 {
+    const cUndoStep step(m_parts.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     QStringList numbers;
     const cImportEntryList asked = OpenRows(rowIds);
     for (const cImportEntry& row : asked) {
@@ -271,6 +275,7 @@ void cImportReview::Delete(const QList<int>& rowIds)
     if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
         return;
     }
+    const cUndoStep step(m_parts.Data, cText::Tr("{0} gelöscht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     int deleted = 0;
     for (const int id : rowIds) {
         if (!m_works->Hive.Remove(id)) {

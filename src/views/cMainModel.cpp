@@ -11,7 +11,9 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/cEntryDelete.h"
 #include "views/cNavigator.h"
+#include "views/cSeriesChange.h"
 #include "views/cTemplateFlow.h"
 #include "views/modCommand.h"
 
@@ -182,6 +184,7 @@ void cMainModel::BookChanged()
     m_balancesOf = QDate();
     m_accountItems = m_parts.Data.GetAccounts();
     RefreshView();
+    Q_EMIT BookRefreshed();
 }
 
 void cMainModel::StagedRowsChanged()
@@ -305,12 +308,15 @@ bool cMainModel::Execute(int command)
         return true;
     }
     switch (known->Id) {
-    case modCommand::NewEntry: m_parts.Navigator.OpenEntryEditor(0); break;
-    case modCommand::EditEntry: m_parts.Navigator.OpenEntryEditor(m_selection.constFirst().ID); break;
-    case modCommand::DeleteEntry: DeleteSelected(); break;
-    case modCommand::ImportStatement: m_parts.Navigator.OpenImport(); break;
+    case modCommand::NewEntry: m_parts.Navigator.OpenNewEntry(); break;
+    case modCommand::EditEntry: m_parts.Navigator.OpenEntry(First().ID, First().Day); break;
+    case modCommand::DeleteEntry: Delete(m_selection); break;
+    case modCommand::CorrectPeriod: m_parts.Navigator.OpenCorrection(First().ID, First().Day); break;
+    case modCommand::SkipPeriod: SkipPeriod(); break;
+    case modCommand::Undo: StepThrough(&cDataAccess::Undo); break;
+    case modCommand::Redo: StepThrough(&cDataAccess::Redo); break;
+    case modCommand::EditTemplates: m_parts.Navigator.OpenTemplates({}); break;
     case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
-    case modCommand::ChooseColumns: m_parts.Navigator.OpenColumnChooser(); break;
     case modCommand::ResetView: ResetView(); break;
     case modCommand::Calculator: StartCalculator(); break;
     case modCommand::ViewSingle:
@@ -318,6 +324,19 @@ bool cMainModel::Execute(int command)
     case modCommand::ViewFuture:
     case modCommand::ViewStart:
     case modCommand::ViewAccountValues: ToggleView(QString::fromUtf8(known->Setting)); break;
+    case modCommand::ImportStatement:
+    case modCommand::Export:
+    case modCommand::Print:
+    case modCommand::PrintPreview:
+    case modCommand::ChooseColumns:
+    case modCommand::Password:
+    case modCommand::MakeBackup:
+    case modCommand::RestoreBackup:
+    case modCommand::SwitchDatabase:
+    case modCommand::NewDatabase:
+    case modCommand::Search:
+    case modCommand::StartBalance:
+    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     }
     return true;
 }
@@ -325,11 +344,51 @@ bool cMainModel::Execute(int command)
 bool cMainModel::IsEnabled(int command) const
 {
     const modCommand::cCommand* known = modCommand::Find(command);
-    if (known == nullptr || (known->Writes && IsReadOnly())) {
+    if (known == nullptr || (modCommand::Has(*known, modCommand::Writes) && IsReadOnly())) {
         return false;
     }
-    const bool needsSelection = known->Id == modCommand::EditEntry || known->Id == modCommand::DeleteEntry;
-    return !needsSelection || !m_selection.isEmpty();
+    if (known->Id == modCommand::Undo || known->Id == modCommand::Redo) {
+        return !StepName(known->Id).isEmpty();
+    }
+    if (modCommand::Has(*known, modCommand::NeedsOccurrence)) {
+        return m_selection.size() == 1 && m_isSeriesSelected;
+    }
+    return !modCommand::Has(*known, modCommand::NeedsEntry) || !m_selection.isEmpty();
+}
+
+QString cMainModel::StepName(int command) const
+{
+    return command == modCommand::Undo ? m_parts.Data.UndoName() : m_parts.Data.RedoName();
+}
+
+QString cMainModel::MenuText(int command) const
+{
+    const modCommand::cCommand* known = modCommand::Find(command);
+    if (known == nullptr) {
+        return {};
+    }
+    const QString text = modCommand::MenuText(*known);
+    const bool isStep = known->Id == modCommand::Undo || known->Id == modCommand::Redo;
+    const QString name = isStep ? StepName(known->Id).replace(u'&', u"&&"_s) : QString();
+    return name.isEmpty() ? text : cText::Tr("{0}: {1}", {text, name});
+}
+
+void cMainModel::StepThrough(bool (cDataAccess::*step)())
+{
+    if ((m_parts.Data.*step)()) {
+        m_parts.Settings.Reload(); // account numbers of the bank may have been part of it
+        SetSelection({});
+        BookChanged();
+        Q_EMIT StagedRowsReleased();
+    }
+}
+
+void cMainModel::SkipPeriod()
+{
+    cSeriesChange change(m_parts.Data, m_parts.User);
+    if (change.SkipPeriod(First().ID, First().Day)) {
+        BookChanged();
+    }
 }
 
 void cMainModel::StartCalculator()
@@ -345,69 +404,39 @@ void cMainModel::StartCalculator()
 void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
 {
     m_selection = selection;
+    m_isSeriesSelected = false;
+    if (m_selection.size() == 1) {
+        const std::optional<cEntryItem> entry = m_parts.Data.LoadEntry(First().ID);
+        m_isSeriesSelected = entry && modRecurrence::IsRecurring(entry->EntryInterval);
+    }
     Q_EMIT SelectionChanged();
 }
 
-QList<int> cMainModel::SelectedIds() const
+void cMainModel::Delete(const QList<cEntryListModel::cKey>& keys)
 {
-    QList<int> ids;
-    for (const cEntryListModel::cKey& key : m_selection) {
-        if (!ids.contains(key.ID)) {
-            ids.append(key.ID);
-        }
+    cEntryDelete flow(m_parts.Data, m_parts.User, m_parts.Format);
+    if (flow.Delete(keys)) {
+        SetSelection({});
+        BookChanged();
+        Q_EMIT StagedRowsReleased();
     }
-    return ids;
 }
 
-void cMainModel::DeleteSelected()
+void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 {
-    const QList<int> ids = SelectedIds();
-    const eAnswer answer = m_parts.User.Ask({.Text = DeleteQuestion(ids), .Title = cText::Tr("Eintrag löschen")});
-    if (answer != eAnswer::Yes) {
-        return;
+    if (m_view.Account == oldName) {
+        m_view.Account = newName;
     }
-    for (const int id : ids) {
-        if (!m_parts.Data.DeleteEntry(id)) {
-            break;
-        }
-    }
-    m_selection.clear();
     BookChanged();
-    Q_EMIT StagedRowsReleased();
-    Q_EMIT SelectionChanged();
 }
 
-QString cMainModel::DeleteQuestion(const QList<int>& ids) const
+void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
 {
-    QStringList series;
-    QString single;
-    for (const int id : ids) {
-        const std::optional<cEntryItem> entry = m_parts.Data.LoadEntry(id);
-        if (!entry) {
-            continue;
-        }
-        const QString name = entry->EntryDescription.isEmpty() ? entry->EntryCategory : entry->EntryDescription;
-        single = cText::Tr("'{0}' vom {1} über {2}",
-                           {name, modDate::ToGerman(entry->EntryDate), m_parts.Format.Cents(entry->EntryValue)});
-        if (modRecurrence::IsRecurring(entry->EntryInterval)) {
-            series.append(cText::Tr(
-                "'{0}' ({1} seit {2})",
-                {name, modWord::Intervals().ToShown(entry->EntryInterval), modDate::ToGerman(entry->EntryDate)}));
-        }
-    }
-    QString text = ids.size() == 1
-        ? cText::Tr("Möchten Sie den Eintrag {0} löschen?", {single})
-        : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?", {QString::number(ids.size())});
-    if (!series.isEmpty()) {
-        constexpr qsizetype most = 8;
-        const QString more = series.size() > most ? u"\n…"_s : QString();
-        text +=
-            u"\n\n"_s
-            + cText::Tr(
-                "Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:")
-            + u'\n' + series.mid(0, most).join(u'\n') + more;
-    }
-    return text;
+    m_parts.DatabasePath = path;
+    m_balancesOf = QDate();
+    SetSelection({});
+    RestoreView(isNewVersion);
+    Q_EMIT StagedRowsReleased();
 }
 
 void cMainModel::RenameAccount(const QString& oldName)
@@ -415,8 +444,7 @@ void cMainModel::RenameAccount(const QString& oldName)
     cTemplateFlow flow(m_parts.Data, m_parts.Settings, m_parts.User);
     const QString name = flow.AskRenameAccount(oldName);
     if (name != oldName) {
-        m_view.Account = m_view.Account == oldName ? name : m_view.Account;
-        BookChanged();
+        AccountRenamed(oldName, name);
     }
 }
 

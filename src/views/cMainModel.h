@@ -76,14 +76,25 @@ public:
     bool Execute(int command);
     [[nodiscard]] bool IsEnabled(int command) const;
     [[nodiscard]] bool IsChecked(const QString& key) const;
+    // The caption with its mnemonic; Undo and Redo name the step that they work on.
+    [[nodiscard]] QString MenuText(int command) const;
 
     // The selected occurrences, given by the list.
     void SetSelection(const QList<cEntryListModel::cKey>& selection);
 
+    // Deletes the entries of these occurrences after the questions that go with it.
+    void Delete(const QList<cEntryListModel::cKey>& keys);
+
     // After entries or accounts changed elsewhere.
     void BookChanged();
+    void AccountRenamed(const QString& oldName, const QString& newName);
+    // After another database was opened behind the same objects: shows it in its own view state.
+    void BookSwitched(const QString& path, bool isNewVersion);
     // After staged rows came, went or were booked: their numbers stand beside the accounts.
     void StagedRowsChanged();
+
+    // Starts the system's calculator, or says that there is none.
+    void StartCalculator();
 
     // Renames an account with all its questions.
     void RenameAccount(const QString& oldName);
@@ -115,22 +126,23 @@ public:
 Q_SIGNALS:
     void ViewChanged();    // selectors, switches, hint
     void EntriesChanged(); // list and sums were rebuilt
+    void BookRefreshed();  // the book itself may have changed, not only the view
     void LayoutReset();    // column layouts and window size were set back
     void SelectionChanged();
-    void StagedRowsReleased(); // entries were deleted, their bank transactions wait again
+    void StagedRowsReleased(); // bank transactions may wait again, or be gone
 
 private:
     void LoadEntries();
     void ShowFilter();
-    void StartCalculator();
     void RefreshAccounts();
-    void DeleteSelected();
-    [[nodiscard]] QString DeleteQuestion(const QList<int>& ids) const;
+    void SkipPeriod();
+    void StepThrough(bool (cDataAccess::*step)());
+    [[nodiscard]] QString StepName(int command) const;
+    [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const QString& key, eSwitch state);
     [[nodiscard]] bool* Switch(const QString& key);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
     [[nodiscard]] QHash<QString, int> OpenByAccount() const;
-    [[nodiscard]] QList<int> SelectedIds() const;
 
     cParts m_parts;
     cViewState m_view;
@@ -139,6 +151,7 @@ private:
     cTemplateItemList m_accountItems;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
     QList<cEntryListModel::cKey> m_selection;
+    bool m_isSeriesSelected = false; // the one selected line belongs to a series
     QTimer tmrRefreshList;
     QTimer tmrRefreshAccounts;
 };

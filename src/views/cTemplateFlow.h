@@ -8,7 +8,8 @@ class cDataAccess;
 class cSettings;
 class cUser;
 
-// Changes to accounts and categories that touch entries, with the questions that go with them.
+// New names for accounts and categories, with the questions that go with them. Every function is one step of the user
+// that can be taken back.
 class cTemplateFlow
 {
 public:
@@ -25,12 +26,24 @@ public:
     // Renames an account. Where entries refer to it, asks whether they go along. False when nothing was changed.
     bool RenameAccount(const QString& oldName, const QString& newName);
 
-    // Gives a category other names and moves its entries along. False when nothing was changed.
+    // Gives a category other names and moves its entries along: also the way to another main category. False when
+    // nothing was changed.
     bool RenameCategory(const cTemplateItem& category, const QString& newMain, const QString& newSub);
 
+    // Renames a main category, all its sub-categories with it, and their entries. False when nothing was changed.
+    bool RenameMain(const QString& oldMain, const QString& newMain);
+
+    // Gives all accounts of a group another group. False when nothing was changed.
+    bool RenameGroup(const QString& oldGroup, const QString& newGroup);
+
 private:
-    void MoveEntries(const QString& oldName, const QString& newName);
-    void MoveBankAccounts(const QString& oldName, const QString& newName);
+    [[nodiscard]] bool MoveEntries(const QString& oldName, const QString& newName);
+    [[nodiscard]] bool WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries);
+    [[nodiscard]] bool WriteMain(const QString& oldMain, const QString& newMain);
+    [[nodiscard]] bool IsTaken(const cTemplateItem& renamed) const;
+    [[nodiscard]] bool HoldsProtected(const QString& main) const;
+    [[nodiscard]] bool IsMainTaken(const QString& newMain, const QString& oldMain) const;
+    bool Refuse(const QString& text);
 
     cDataAccess& m_data;
     cSettings& m_settings;

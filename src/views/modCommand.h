@@ -14,10 +14,26 @@ enum eId : int {
     EditEntry = 101,
     DeleteEntry = 102,
     ImportStatement = 103,
+    Export = 104,
+    Print = 105,
+    PrintPreview = 106,
     Quit = 107,
     ChooseColumns = 108,
+    Password = 109,
     ResetView = 110,
+    MakeBackup = 111,
+    RestoreBackup = 112,
+    SwitchDatabase = 114,
+    EditTemplates = 115,
+    NewDatabase = 117,
+    Undo = 118,
+    Redo = 119,
+    CorrectPeriod = 120,
+    SkipPeriod = 121,
     Calculator = 204,
+    Search = 301,
+    StartBalance = 304,
+    National = 305,
     ViewSingle = 401,
     ViewFix = 402,
     ViewFuture = 403,
@@ -25,27 +41,40 @@ enum eId : int {
     ViewAccountValues = 405,
 };
 
+enum eTrait : int {
+    Plain = 0,
+    InToolBar = 1,
+    StartsGroup = 2,     // a line above it in the menu
+    Writes = 4,          // not offered on a book that can only be read
+    NeedsEntry = 8,      // works on the selected entries
+    NeedsOccurrence = 16 // works on one selected occurrence of a series
+};
+
 struct cCommand
 {
     eId Id;
-    const char* Menu;     // German title of the menu, in the order of the table
-    const char* Caption;  // German, for menu and tool bar
-    const char* Mnemonic; // the caption's letter that opens it from the keyboard
-    const char* Keys;     // portable key sequences joined by "|"
-    const char* Icon;     // name of the picture; empty for none
-    const char* Setting;  // key of the view switch that a check command turns; empty for plain commands
-    bool IsInToolBar;
-    bool Writes;      // not offered on a book that can only be read
-    const char* Hint; // one sentence for status bar and tool tip
+    const char* Menu;    // German title of the menu, in the order of the table
+    const char* Caption; // German, with "&" before the letter that opens it from the keyboard
+    const char* Keys;    // portable key sequences joined by "|"
+    const char* Icon;    // name of the picture; empty for none
+    const char* Setting; // key of the view switch that a check command turns; empty for plain commands
+    int Traits;          // of eTrait
+    const char* Hint;    // one sentence for status bar and tool tip
 };
+
+[[nodiscard]] constexpr bool Has(const cCommand& command, eTrait trait)
+{
+    return (command.Traits & trait) != 0;
+}
 
 [[nodiscard]] std::span<const cCommand> All();
 
 // Null for a number that no command has.
 [[nodiscard]] const cCommand* Find(int id);
 
-// The caption in the user's language with "&" before its mnemonic.
+// The caption in the user's language, with "&" before its mnemonic and without.
 [[nodiscard]] QString MenuText(const cCommand& command);
+[[nodiscard]] QString PlainText(const cCommand& command);
 
 [[nodiscard]] QStringList Keys(const cCommand& command);
 

@@ -31,7 +31,9 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         const int kind = index.data(cAccountListModel::KindRole).toInt();
         const bool isChosen = index.data(cAccountListModel::ChosenRole).toBool();
-        option->font.setBold(kind == cAccountListModel::Total || isChosen);
+        if (kind == cAccountListModel::Total || isChosen) {
+            option->font.setBold(true);
+        }
         if (kind == cAccountListModel::Group) {
             option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
         } else if (index.data(cAccountListModel::ToneRole).toBool()) {

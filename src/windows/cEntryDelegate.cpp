@@ -12,8 +12,13 @@ QSize cEntryDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelI
 void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->font.setBold(index.data(cEntryListModel::GroupRole).toBool());
-    option->font.setItalic(index.data(cEntryListModel::FutureRole).toBool());
+    // A font that nobody writes to stays the list's own, which has been looked up before.
+    if (index.data(cEntryListModel::GroupRole).toBool()) {
+        option->font.setBold(true);
+    }
+    if (index.data(cEntryListModel::FutureRole).toBool()) {
+        option->font.setItalic(true);
+    }
     const bool isMoney = index.column() == cEntryListModel::Amount || index.column() == cEntryListModel::Balance;
     const bool isCorrection =
         index.column() == cEntryListModel::Interval && index.data(cEntryListModel::CorrectedRole).toBool();

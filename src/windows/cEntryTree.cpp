@@ -164,6 +164,18 @@ void cEntryTree::OpenColumnMenu(const QPoint& globalPosition)
     menu.exec(globalPosition);
 }
 
+QList<int> cEntryTree::ShownColumns() const
+{
+    QList<int> columns;
+    for (int visual = 0; visual < header()->count(); ++visual) {
+        const int column = header()->logicalIndex(visual);
+        if (!header()->isSectionHidden(column)) {
+            columns.append(column);
+        }
+    }
+    return columns;
+}
+
 void cEntryTree::SetEmptyHint(const QString& hint)
 {
     m_emptyHint = hint;
@@ -201,8 +213,12 @@ QList<cEntryListModel::cKey> cEntryTree::SelectedKeys() const
 
 void cEntryTree::RestoreSelection()
 {
+    // One by one before the view is laid out anew, which then happens only once; expandToDepth() moves all groups that
+    // follow for each that it opens.
+    for (int group = 0; m_model.IsGrouped() && group < m_model.rowCount(); ++group) {
+        expand(m_model.index(group, 0));
+    }
     ShowColumns();
-    expandToDepth(0);
     QItemSelection selection;
     const QModelIndexList rows = m_model.IndexesOf(m_selected);
     for (const QModelIndex& row : rows) {

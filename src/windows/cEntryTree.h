@@ -20,6 +20,7 @@ public:
     void ShowColumnMenu();                   // below the header, for the keyboard too
     void SetEmptyHint(const QString& hint);
     void ScrollTo(QDate day);
+    [[nodiscard]] QList<int> ShownColumns() const; // of the model, in the order on screen
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups
 
 Q_SIGNALS:

@@ -46,11 +46,16 @@ QLabel* cSumBar::AddSum(const QString& title)
     return value;
 }
 
-void cSumBar::ShowSums(const cMainModel& model)
+void cSumBar::ShowSums(const cTexts& texts)
 {
     const QColor text = palette().color(QPalette::WindowText);
-    m_count->setText(model.CountText());
-    Show(*m_income, model.IncomeText(), modTone::Income(palette()));
-    Show(*m_expense, model.ExpenseText(), modTone::Expense(palette()));
-    Show(*m_total, model.TotalText(), text);
+    m_count->setText(texts.Count);
+    Show(*m_income, texts.Income, modTone::Income(palette()));
+    Show(*m_expense, texts.Expense, modTone::Expense(palette()));
+    Show(*m_total, texts.Total, text);
+}
+
+void cSumBar::ShowSums(const cMainModel& model)
+{
+    ShowSums({model.CountText(), model.IncomeText(), model.ExpenseText(), model.TotalText()});
 }

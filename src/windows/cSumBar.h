@@ -11,8 +11,17 @@ class cSumBar final : public QWidget
     Q_OBJECT
 
 public:
+    struct cTexts
+    {
+        QString Count;
+        QString Income;
+        QString Expense;
+        QString Total;
+    };
+
     explicit cSumBar(QWidget* parent = nullptr);
 
+    void ShowSums(const cTexts& texts);
     void ShowSums(const cMainModel& model);
 
 private:

@@ -1,208 +1,174 @@
 #include "windows/frmBuchung.h"
 
 #include "base/cText.h"
-#include "model/modWord.h"
+#include "windows/cCorrectionsPage.h"
+#include "windows/cEntryForm.h"
 
+#include <QBoxLayout>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QCompleter>
-#include <QDateEdit>
 #include <QDialogButtonBox>
-#include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Light red behind an amount that is no number; the text on it is dark in every theme.
-const QColor badAmount(245, 160, 160);
-
-void AddWords(QComboBox& combo, const cVocabulary& words)
-{
-    const QStringList stored = words.Stored();
-    for (const QString& word : stored) {
-        combo.addItem(words.ToShown(word), word);
-    }
-}
-
-// Chooses a stored text; one that is not offered (an account that was deleted, say) is offered as well, so that saving
-// does not change it.
-void Choose(QComboBox& combo, const QString& stored)
-{
-    if (!stored.isEmpty() && combo.findData(stored) < 0) {
-        combo.addItem(stored, stored);
-    }
-    combo.setCurrentIndex(combo.findData(stored));
-}
-
-QDateEdit* MakeDay(QWidget* parent)
-{
-    auto* edit = new QDateEdit(parent);
-    edit->setCalendarPopup(true);
-    edit->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    return edit;
-}
+constexpr int savedLines = 5;
+constexpr int correctionsPage = 1;
 
 } // namespace
 
-frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryEditor::cFields& fields, QWidget* parent)
+frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryFields& fields, QWidget* parent)
     : QDialog(parent),
       m_editor(editor),
-      m_fields(fields),
-      txtBetrag(new QLineEdit(this)),
-      txtBeschreibung(new QLineEdit(this)),
-      cboKategorie(new QComboBox(this)),
-      cboBuchungsart(new QComboBox(this)),
-      cboKonto(new QComboBox(this)),
-      cboNachKonto(new QComboBox(this)),
-      lblNachKonto(new QLabel(cText::Tr("&Nach Konto:"), this)),
-      EntryDate(MakeDay(this)),
-      EntryDateCheck(new QCheckBox(cText::Tr("&endet am"), this)),
-      EntryDateEnd(MakeDay(this)),
-      cboInterval(new QComboBox(this)),
-      chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern &schließen"), this))
+      m_form(new cEntryForm(editor, fields)),
+      m_corrections(new cCorrectionsPage(editor.Today(), [this] { return m_form->Read(); })),
+      m_pages(new QTabWidget(this)),
+      chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern s&chließen"), this)),
+      m_savedBox(new QWidget(this)),
+      m_saved(new QListWidget(m_savedBox)),
+      m_buttons(new QDialogButtonBox(this)),
+      m_split(nullptr)
 {
-    setWindowTitle(m_editor.IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten"));
     Build();
-    Offer();
-    ShowFields();
     Connect();
-    txtBetrag->selectAll();
-    txtBetrag->setFocus();
+    ShowFace();
+    m_shown = m_form->Read();
+    m_form->FocusFirst();
 }
 
 void frmBuchung::Build()
 {
-    auto* form = new QFormLayout(this);
-    form->addRow(cText::Tr("&Betrag (€):"), txtBetrag);
-    form->addRow(cText::Tr("&Kategorie:"), cboKategorie);
-    form->addRow(cText::Tr("Buchungs&art:"), cboBuchungsart);
-    form->addRow(cText::Tr("K&onto:"), cboKonto);
-    lblNachKonto->setBuddy(cboNachKonto);
-    form->addRow(lblNachKonto, cboNachKonto);
-    form->addRow(cText::Tr("&Datum:"), EntryDate);
-    form->addRow(cText::Tr("&Intervall:"), cboInterval);
-    form->addRow(EntryDateCheck, EntryDateEnd);
-    form->addRow(cText::Tr("Besch&reibung:"), txtBeschreibung);
+    chkCloseDialog->setObjectName(u"chkCloseDialog"_s);
     chkCloseDialog->setChecked(true);
     chkCloseDialog->setVisible(m_editor.IsNew());
-    form->addRow(QString(), chkCloseDialog);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);
-    form->addRow(buttons);
-    buttons->button(QDialogButtonBox::Save)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &frmBuchung::Save);
-    connect(buttons, &QDialogButtonBox::rejected, this, &frmBuchung::reject);
-    txtBetrag->setAlignment(Qt::AlignRight);
-    txtBeschreibung->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
-    EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
-    cboKategorie->setEditable(true);
-    cboKategorie->setInsertPolicy(QComboBox::NoInsert);
-    cboKategorie->completer()->setFilterMode(Qt::MatchContains);
-    cboKategorie->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    m_pages->setDocumentMode(true);
+    m_pages->tabBar()->setAccessibleName(cText::Tr("Seiten"));
+    m_pages->addTab(m_form, cText::Tr("Eintrag"));
+    m_pages->addTab(m_corrections, cText::Tr("Korrekturen"));
+    BuildSaved();
+    BuildButtons();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_savedBox);
+    layout->addWidget(chkCloseDialog);
+    layout->addWidget(m_buttons);
+    setTabOrder(m_pages, chkCloseDialog);
+    setTabOrder(chkCloseDialog, m_buttons);
 }
 
-void frmBuchung::Offer()
+void frmBuchung::BuildSaved()
 {
-    const QStringList categories = m_editor.Categories();
-    for (const QString& path : categories) {
-        cboKategorie->addItem(path, path);
-    }
-    const QStringList accounts = m_editor.Accounts();
-    for (const QString& account : accounts) {
-        cboKonto->addItem(account, account);
-        cboNachKonto->addItem(account, account);
-    }
-    AddWords(*cboBuchungsart, modWord::EntryTypes());
-    AddWords(*cboInterval, modWord::Intervals());
+    auto* label = new QLabel(cText::Tr("Gerade gespeichert:"), m_savedBox);
+    label->setBuddy(m_saved);
+    m_saved->setObjectName(u"lstGespeichert"_s);
+    m_saved->setFocusPolicy(Qt::NoFocus); // nothing to do there
+    m_saved->setUniformItemSizes(true);
+    m_saved->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_saved->setFixedHeight((fontMetrics().height() + 2) * savedLines + 2 * m_saved->frameWidth());
+    auto* layout = new QVBoxLayout(m_savedBox);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(label);
+    layout->addWidget(m_saved);
+    m_savedBox->hide();
 }
 
-void frmBuchung::ShowFields()
+void frmBuchung::BuildButtons()
 {
-    txtBetrag->setText(m_fields.Amount);
-    txtBeschreibung->setText(m_fields.Description);
-    Choose(*cboKategorie, m_fields.Category);
-    Choose(*cboBuchungsart, m_fields.Type);
-    Choose(*cboKonto, m_fields.Account);
-    Choose(*cboNachKonto, m_fields.Target);
-    Choose(*cboInterval, m_fields.Interval);
-    EntryDate->setDate(m_fields.Date);
-    EntryDateCheck->setChecked(m_fields.HasEnd);
-    EntryDateEnd->setDate(m_fields.HasEnd ? m_fields.End : m_fields.Date.addYears(1));
-    EntryDateEnd->setEnabled(m_fields.HasEnd);
-    ShowTransfer();
+    QPushButton* save = m_buttons->addButton(cText::Tr("&Speichern"), QDialogButtonBox::AcceptRole);
+    m_buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole)->setAutoDefault(false);
+    m_split = m_buttons->addButton(QString(), QDialogButtonBox::ResetRole);
+    m_split->setObjectName(u"cmdAufteilen"_s);
+    m_split->setAutoDefault(false);
+    save->setDefault(true);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &frmBuchung::Save);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &frmBuchung::reject);
 }
 
 void frmBuchung::Connect()
 {
-    connect(txtBetrag, &QLineEdit::textEdited, this, [this] {
-        m_fields.IsAmountTyped = true;
-        txtBetrag->setPalette(palette());
-    });
-    connect(cboKategorie, &QComboBox::activated, this, &frmBuchung::ChooseCategory);
-    connect(cboKategorie->lineEdit(), &QLineEdit::editingFinished, this, &frmBuchung::ChooseCategory);
-    connect(cboBuchungsart, &QComboBox::currentIndexChanged, this, &frmBuchung::ShowTransfer);
-    connect(EntryDateCheck, &QCheckBox::toggled, EntryDateEnd, &QWidget::setEnabled);
-}
-
-void frmBuchung::ShowTransfer()
-{
-    const bool isTransfer = cboBuchungsart->currentData().toString() == modWord::Umbuchung;
-    lblNachKonto->setVisible(isTransfer);
-    cboNachKonto->setVisible(isTransfer);
-}
-
-cEntryEditor::cFields frmBuchung::Read() const
-{
-    cEntryEditor::cFields fields = m_fields;
-    const int category = cboKategorie->findText(cboKategorie->currentText());
-    fields.Amount = txtBetrag->text();
-    fields.Description = txtBeschreibung->text();
-    fields.Category = category < 0 ? QString() : cboKategorie->itemData(category).toString();
-    fields.Type = cboBuchungsart->currentData().toString();
-    fields.Account = cboKonto->currentData().toString();
-    fields.Target = cboNachKonto->currentData().toString();
-    fields.Date = EntryDate->date();
-    fields.HasEnd = EntryDateCheck->isChecked();
-    fields.End = EntryDateEnd->date();
-    fields.Interval = cboInterval->currentData().toString();
-    return fields;
-}
-
-void frmBuchung::ChooseCategory()
-{
-    const cEntryEditor::cFields read = Read();
-    if (read.Category != m_fields.Category) {
-        m_fields = read;
-        m_editor.ChooseCategory(read.Category, m_fields);
-        ShowFields();
+    connect(m_split, &QPushButton::clicked, this, &frmBuchung::ToggleSplit);
+    connect(m_form, &cEntryForm::CalculatorRequested, this, &frmBuchung::CalculatorRequested);
+    connect(m_form, &cEntryForm::CorrectionsChanged, this, &frmBuchung::ShowCorrections);
+    connect(m_corrections, &cCorrectionsPage::CorrectionsEdited, m_form, &cEntryForm::SetCorrections);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(key)), this);
+        connect(shortcut, &QShortcut::activated, this, &frmBuchung::Save);
     }
+}
+
+void frmBuchung::ShowFace()
+{
+    const cEntryFields fields = m_form->Read();
+    setWindowTitle(m_editor.Title(fields));
+    m_split->setVisible(fields.Face != eEntryFace::StartBalance);
+    m_split->setText(fields.Face == eEntryFace::Split ? cText::Tr("Nicht auf&teilen") : cText::Tr("Auf&teilen"));
+    ShowCorrections();
+}
+
+void frmBuchung::ShowCorrections()
+{
+    const cEntryFields fields = m_form->Read();
+    const bool hasPage = m_editor.ShowsCorrections(fields);
+    m_pages->setTabVisible(correctionsPage, hasPage);
+    m_pages->tabBar()->setVisible(hasPage); // one page alone needs no tab
+    m_pages->setTabText(correctionsPage, cText::Tr("Korrekturen ({0})", {QString::number(fields.Corrections.size())}));
+    m_corrections->ShowLines();
+}
+
+void frmBuchung::ToggleSplit()
+{
+    m_form->Settle();
+    cEntryFields fields = m_form->Read();
+    if (fields.Face != eEntryFace::Split) {
+        m_editor.UseSplit(fields);
+    } else if (!m_editor.UseNormal(fields)) {
+        return;
+    }
+    m_form->Show(fields);
+    ShowFace();
+    m_form->FocusFirst();
 }
 
 void frmBuchung::Save()
 {
-    const cEntryEditor::eSaved saved = m_editor.Save(Read());
-    if (saved == cEntryEditor::eSaved::BadAmount) {
-        QPalette colors = txtBetrag->palette();
-        colors.setColor(QPalette::Base, badAmount);
-        colors.setColor(QPalette::Text, Qt::black);
-        txtBetrag->setPalette(colors);
-        txtBetrag->setFocus();
-        return;
-    }
-    if (saved == cEntryEditor::eSaved::Refused) {
+    m_form->Settle();
+    const bool isNew = m_editor.IsNew();
+    const cEntryFields fields = m_form->Read();
+    const cEntryEditor::eSaved saved = m_editor.Save(fields);
+    if (saved != cEntryEditor::eSaved::Saved) {
+        m_pages->setCurrentWidget(m_form);
+        m_form->ShowFailure(saved);
         return;
     }
     Q_EMIT EntrySaved();
-    if (chkCloseDialog->isChecked() || !m_editor.IsNew()) {
+    if (chkCloseDialog->isChecked() || !isNew) {
         accept();
         return;
     }
-    m_fields = Read();
-    m_fields.Description.clear();
-    m_fields.Category.clear();
-    m_fields.IsAmountTyped = false;
-    ShowFields();
-    txtBetrag->selectAll();
-    txtBetrag->setFocus();
+    GoOn(fields);
+}
+
+// The window stays for the next entry.
+void frmBuchung::GoOn(const cEntryFields& saved)
+{
+    m_form->Show(m_editor.Next(saved));
+    m_shown = m_form->Read();
+    m_saved->clear();
+    m_saved->addItems(m_editor.LastSaved());
+    m_savedBox->show();
+    m_form->FocusFirst();
+}
+
+void frmBuchung::reject()
+{
+    m_form->Settle();
+    if (m_editor.MayClose(m_shown, m_form->Read())) {
+        QDialog::reject();
+    }
 }

@@ -4,45 +4,48 @@
 
 #include <QDialog>
 
+class cCorrectionsPage;
+class cEntryForm;
 class QCheckBox;
-class QComboBox;
-class QDateEdit;
-class QLabel;
-class QLineEdit;
+class QDialogButtonBox;
+class QListWidget;
+class QPushButton;
+class QTabWidget;
 
-// The form for one entry: its fields, filled from and saved through the editor.
+// The window for one entry: new, changed, split, or the start balance of an account. The fields say which.
 class frmBuchung final : public QDialog
 {
     Q_OBJECT
 
 public:
-    frmBuchung(cEntryEditor& editor, const cEntryEditor::cFields& fields, QWidget* parent = nullptr);
+    frmBuchung(cEntryEditor& editor, const cEntryFields& fields, QWidget* parent = nullptr);
+
+    // Asks before typed contents are lost.
+    void reject() override;
 
 Q_SIGNALS:
     void EntrySaved();
+    void CalculatorRequested();
 
 private:
     void Build();
+    void BuildButtons();
+    void BuildSaved();
     void Connect();
-    void Offer(); // fills the choices
-    void ShowFields();
-    void ShowTransfer();
-    [[nodiscard]] cEntryEditor::cFields Read() const;
-    void ChooseCategory();
+    void ShowFace();
+    void ShowCorrections();
+    void ToggleSplit();
     void Save();
+    void GoOn(const cEntryFields& saved);
 
     cEntryEditor& m_editor;
-    cEntryEditor::cFields m_fields;
-    QLineEdit* txtBetrag;
-    QLineEdit* txtBeschreibung;
-    QComboBox* cboKategorie;
-    QComboBox* cboBuchungsart;
-    QComboBox* cboKonto;
-    QComboBox* cboNachKonto;
-    QLabel* lblNachKonto;
-    QDateEdit* EntryDate;
-    QCheckBox* EntryDateCheck;
-    QDateEdit* EntryDateEnd;
-    QComboBox* cboInterval;
+    cEntryForm* m_form;
+    cCorrectionsPage* m_corrections;
+    QTabWidget* m_pages;
     QCheckBox* chkCloseDialog;
+    QWidget* m_savedBox;
+    QListWidget* m_saved;
+    QDialogButtonBox* m_buttons;
+    QPushButton* m_split;
+    cEntryFields m_shown; // before anything was typed
 };

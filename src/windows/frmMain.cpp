@@ -9,6 +9,7 @@
 #include "windows/cViewBar.h"
 #include "windows/modDrop.h"
 #include "windows/modIcon.h"
+#include "windows/modPlace.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -25,11 +26,27 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-frmMain::frmMain(cMainModel& model, QWidget* statements, QWidget* parent)
+namespace {
+
+// The areas for windows of all screens, the one of `first` in front.
+QList<QRect> FreeAreas(const QScreen& first)
+{
+    QList<QRect> areas{first.availableGeometry()};
+    const QList<QScreen*> screens = first.virtualSiblings();
+    for (const QScreen* screen : screens) {
+        areas.append(screen->availableGeometry());
+    }
+    return areas;
+}
+
+} // namespace
+
+frmMain::frmMain(cMainModel& model, QWidget* parent)
     : QMainWindow(parent),
       m_model(model),
       m_splitter(new QSplitter(this)),
       m_tabs(new QTabWidget(this)),
+      m_statements(new QWidget(this)),
       m_accounts(new cAccountPanel(model.AccountList(), this)),
       m_viewBar(new cViewBar(model, this)),
       m_hint(new QLabel(this)),
@@ -39,8 +56,9 @@ frmMain::frmMain(cMainModel& model, QWidget* statements, QWidget* parent)
 {
     setAcceptDrops(true);
     setWindowIcon(modIcon::Program());
+    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
     BuildCommands();
-    BuildPages(statements);
+    BuildPages();
     Connect();
 }
 
@@ -56,31 +74,39 @@ void frmMain::BuildCommands()
         if (!menus.contains(title)) {
             menus.insert(title, menuBar()->addMenu(u'&' + title));
         }
-        QAction* action = menus.value(title)->addAction(modCommand::MenuText(command));
+        if (modCommand::Has(command, modCommand::StartsGroup)) {
+            menus.value(title)->addSeparator();
+        }
+        QAction* action = menus.value(title)->addAction(m_model.MenuText(command.Id));
         QList<QKeySequence> keys;
         const QStringList keyTexts = modCommand::Keys(command);
         for (const QString& key : keyTexts) {
             keys.append(QKeySequence(key, QKeySequence::PortableText));
         }
         action->setShortcuts(keys);
-        action->setIconText(cText::Tr(command.Caption));
+        action->setIconText(modCommand::PlainText(command));
         action->setIcon(modIcon::Get(QString::fromUtf8(command.Icon)));
         action->setStatusTip(cText::Tr(command.Hint));
         action->setCheckable(*command.Setting != '\0');
         action->setData(command.Id);
         connect(action, &QAction::triggered, this, [this, id = command.Id] { m_model.Execute(id); });
         m_actions.insert(command.Id, action);
-        if (command.IsInToolBar) {
+        if (modCommand::Has(command, modCommand::InToolBar)) {
             toolBar->addAction(action);
+        }
+        if (modCommand::Has(command, modCommand::NeedsEntry) || modCommand::Has(command, modCommand::NeedsOccurrence)) {
+            m_tree->addAction(action);
         }
     }
 }
 
-void frmMain::BuildPages(QWidget* statements)
+void frmMain::BuildPages()
 {
     m_tabs->setDocumentMode(true);
     m_tabs->addTab(BuildEntryPage(), cText::Tr("Bu&chungen"));
-    m_tabs->addTab(statements, cText::Tr("Kont&oauszüge"));
+    auto* statements = new QVBoxLayout(m_statements);
+    statements->setContentsMargins(0, 0, 0, 0);
+    m_tabs->addTab(m_statements, cText::Tr("Kont&oauszüge"));
     m_splitter->addWidget(m_accounts);
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(1, 1);
@@ -110,7 +136,7 @@ void frmMain::Connect()
 {
     connect(&m_model, &cMainModel::ViewChanged, this, &frmMain::ShowView);
     connect(&m_model, &cMainModel::EntriesChanged, this, &frmMain::ShowEntries);
-    connect(&m_model, &cMainModel::SelectionChanged, this, &frmMain::ShowSelection);
+    connect(&m_model, &cMainModel::SelectionChanged, this, &frmMain::ShowCommands);
     connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
     connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
@@ -129,16 +155,20 @@ void frmMain::Connect()
 void frmMain::RestoreLayout()
 {
     const cMainModel::cPlacement placement = m_model.RestoreLayout();
-    const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
-    m_isSized = placement.Width > 0 && screen()->availableVirtualGeometry().intersects(place);
-    if (m_isSized) {
-        setGeometry(place);
+    if (placement.Width > 0) {
+        const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
+        setGeometry(modPlace::Visible(place, FreeAreas(*screen())));
     }
     if (placement.State == 2) {
         setWindowState(Qt::WindowMaximized);
     }
     m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
-    ShowSelection();
+    ShowCommands();
+}
+
+QList<int> frmMain::EntryColumns() const
+{
+    return m_tree->ShownColumns();
 }
 
 void frmMain::ShowToday()
@@ -162,6 +192,7 @@ void frmMain::ShowView()
         u"%1 <a href=\"#\">%2</a>"_s.arg(hint.toHtmlEscaped(), cText::Tr("Zukünftige ausblenden").toHtmlEscaped()));
     m_database->setText(m_model.DatabaseText());
     setWindowTitle(m_model.WindowTitle());
+    ShowCommands(); // what can be undone may have changed
 }
 
 void frmMain::ShowEntries()
@@ -170,10 +201,11 @@ void frmMain::ShowEntries()
     m_tree->SetEmptyHint(m_model.Entries().rowCount() == 0 ? m_model.EmptyHint() : QString());
 }
 
-void frmMain::ShowSelection()
+void frmMain::ShowCommands()
 {
     for (auto action = m_actions.begin(); action != m_actions.end(); ++action) {
         action.value()->setEnabled(m_model.IsEnabled(action.key()));
+        action.value()->setText(m_model.MenuText(action.key()));
     }
 }
 

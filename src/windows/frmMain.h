@@ -21,13 +21,16 @@ class frmMain final : public QMainWindow
     Q_OBJECT
 
 public:
-    // Takes over the page for bank statements.
-    frmMain(cMainModel& model, QWidget* statements, QWidget* parent = nullptr);
+    explicit frmMain(cMainModel& model, QWidget* parent = nullptr);
 
     // Place and columns as they were; called once before the window is shown.
     void RestoreLayout();
 
     void ShowToday(); // scrolls the list to the current day and gives it the focus
+
+    [[nodiscard]] QWidget& StatementsPage() { return *m_statements; } // with an empty layout, for whoever fills it
+    [[nodiscard]] QList<int> EntryColumns() const;                    // of the entry list, in the order on screen
+    void SaveLayout();                                                // place and columns; also done on closing
 
     void ShowStatements(); // brings the page for bank statements to the front
     void ShowColumnMenu();
@@ -45,24 +48,23 @@ protected:
 
 private:
     void BuildCommands();
-    void BuildPages(QWidget* statements);
+    void BuildPages();
     QWidget* BuildEntryPage();
     void Connect();
     void ShowView();
     void ShowEntries();
-    void ShowSelection();
+    void ShowCommands();
     void ResetLayout();
-    void SaveLayout();
 
     cMainModel& m_model;
     QHash<int, QAction*> m_actions; // by command number
     QSplitter* m_splitter;
     QTabWidget* m_tabs;
+    QWidget* m_statements;
     cAccountPanel* m_accounts;
     cViewBar* m_viewBar;
     QLabel* m_hint;
     cEntryTree* m_tree;
     cSumBar* m_sums;
     QLabel* m_database;
-    bool m_isSized = false; // a stored place was applied
 };

@@ -1,13 +1,22 @@
 #pragma once
 
+#include "views/cPasswordFlow.h"
+
 #include <QDialog>
 
 #include <functional>
+#include <initializer_list>
 
+class QCheckBox;
+class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
+class QTimer;
+class QVBoxLayout;
 
-// Asks for the password of the database. Accepted once the right one was typed; there is no limit of tries.
+// The password of a book: asks for it before the data is shown, or lets the user set, change and remove it. After a
+// wrong password the buttons that try again wait.
 class frmPasswort final : public QDialog
 {
     Q_OBJECT
@@ -15,13 +24,37 @@ class frmPasswort final : public QDialog
 public:
     using cCheck = std::function<bool(const QString&)>;
 
-    explicit frmPasswort(cCheck isRight, QWidget* parent = nullptr);
+    // Asks; accepted once the right password was typed. `tries` is kept by the caller from one window to the next.
+    frmPasswort(cPasswordTries& tries, cCheck isRight, QWidget* parent = nullptr);
+    // Lets the user manage the password of the open book.
+    explicit frmPasswort(cPasswordFlow& flow, QWidget* parent = nullptr);
     ~frmPasswort() override;
 
 private:
+    void BuildPrompt();
+    void BuildFlow();
+    void AddText(const QString& text);
+    [[nodiscard]] QLineEdit* AddField(const QString& label, const char* name);
+    void Finish(const QString& doCaption, const QString& leaveCaption);
+    void ShowLetters(bool isShown);
     void Try();
+    void SetPassword();
+    void RemovePassword();
+    void Take(cPasswordFlow::eResult result);
+    void Refuse();
+    void Wait(); // shows how long it takes and lets go when it is over
 
+    cPasswordTries& m_tries;
     cCheck m_isRight;
-    QLineEdit* m_password;
+    cPasswordFlow* m_flow = nullptr; // null when asking
+    QVBoxLayout* m_layout;
+    QTimer* tmrWait;
+    QLineEdit* m_old = nullptr;
+    QLineEdit* m_new = nullptr;
+    QLineEdit* m_repeated = nullptr;
+    QCheckBox* m_showLetters;
     QLabel* m_message;
+    QDialogButtonBox* m_buttons;
+    QPushButton* m_do = nullptr;
+    QPushButton* m_remove = nullptr;
 };

@@ -25,7 +25,7 @@ private Q_SLOTS:
     void RegistryKeepsKeysApart();
     void ProfileDoesNotSeeTheMachine();
     void DataFolderLiesBelowTheProfile();
-    void CopyOfReadOnlyFileCanBeWritten();
+    void CopyIsTheUsersOwn();
     void LockIsForOne();
     void TwoPathsOfOneFileShareTheLock();
     void LeftoverLockIsTakenOver();
@@ -75,14 +75,18 @@ void testAdapters::DataFolderLiesBelowTheProfile()
     QVERIFY(QFileInfo(folder).isDir());
 }
 
-void testAdapters::CopyOfReadOnlyFileCanBeWritten()
+void testAdapters::CopyIsTheUsersOwn()
 {
     const QString source = NewFile(u"template"_s);
-    QVERIFY(QFile::setPermissions(source, QFileDevice::ReadOwner));
+    QVERIFY(
+        QFile::setPermissions(source, QFileDevice::ReadOwner | QFileDevice::ReadOther)); // as the system installs it
     const QString copy = m_folder.filePath(u"copy"_s);
     cQtShell shell(m_folder.path());
     QVERIFY(shell.CopyFile(source, copy));
+    constexpr QFileDevice::Permissions others =
+        QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ReadOther | QFileDevice::WriteOther;
     QVERIFY(QFile::permissions(copy).testFlag(QFileDevice::WriteOwner));
+    QVERIFY(!QFile::permissions(copy).testAnyFlags(others));
     QVERIFY(!shell.CopyFile(source, copy)); // what is there stays
 }
 

@@ -60,6 +60,11 @@ private Q_SLOTS:
         QTest::newRow("umlaut in the search") << u"Mueller"_s << u"müller"_s << true;
         QTest::newRow("sharp s") << u"Straße"_s << u"STRASSE"_s << true;
         QTest::newRow("accent") << u"Café"_s << u"cafe"_s << true;
+        QTest::newRow("capital umlaut") << u"ÜBERWEISUNG"_s << u"ueber"_s << true;
+        QTest::newRow("capital accent") << u"ÉCLAIR"_s << u"eclair"_s << true;
+        QTest::newRow("letter of the east") << u"Škoda – Dvořák"_s << u"dvorak skoda"_s << true;
+        QTest::newRow("letter and mark apart") << u"Cafe\u0301"_s << u"café"_s << true;
+        QTest::newRow("sign that has no case") << u"25 × 4 €"_s << u"× €"_s << true;
         QTest::newRow("words in any order") << u"Miete Wohnung März"_s << u"maerz  miete"_s << true;
         QTest::newRow("one word missing") << u"Miete Wohnung"_s << u"miete strom"_s << false;
         QTest::newRow("nothing asked") << u"Miete"_s << u" "_s << true;
@@ -71,6 +76,32 @@ private Q_SLOTS:
         QFETCH(const QString, search);
         QFETCH(const bool, isFound);
         QCOMPARE(modFold::HoldsAll(modFold::Fold(text), modFold::Words(search)), isFound);
+    }
+
+    void FindsInAllTextsAtOnce_data() const
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QList<int>>("found");
+        QTest::newRow("several times in one text") << u"a"_s << QList<int>{0, 1, 2, 4};
+        QTest::newRow("spelled out") << u"baecker"_s << QList<int>{1, 4};
+        QTest::newRow("umlaut in the search") << u"bäcker"_s << QList<int>{1, 4};
+        QTest::newRow("umlaut in the search, none in the text") << u"größe"_s << QList<int>{5};
+        QTest::newRow("not across two texts") << u"ab"_s << QList<int>{};
+    }
+
+    void FindsInAllTextsAtOnce() const
+    {
+        QFETCH(const QString, word);
+        QFETCH(const QList<int>, found);
+        modFold::cTexts texts;
+        const QStringList all{u"Banana"_s, u"Bäckerei"_s, u"Café"_s, QString(), u"baeckerei"_s, u"Groesse"_s};
+        for (int i = 0; i < all.size(); ++i) {
+            QCOMPARE(texts.Add(all.at(i)), i);
+        }
+        const std::vector<bool> isFound = texts.Find(modFold::Fold(word));
+        for (int i = 0; i < all.size(); ++i) {
+            QCOMPARE(isFound.at(static_cast<size_t>(i)), found.contains(i));
+        }
     }
 
     void UnknownWordsStay() const

@@ -132,6 +132,14 @@ private Q_SLOTS:
         counted.UseFormatCulture();
         (void)counted.Cents(1);
         QCOMPARE(made, QStringList({u"de-DE"_s, u"de-CH"_s}));
+        // After the settings were changed the currency comes first again, and the format where none is chosen.
+        counted.CultureChanged();
+        (void)counted.Cents(1);
+        QCOMPARE(made.constLast(), u"en-GB"_s);
+        format.Registry.Write(cConfiguration::RegistryKey, u"LanguageCurrency"_s, {});
+        counted.CultureChanged();
+        (void)counted.Cents(1);
+        QCOMPARE(made.mid(2), QStringList({u"en-GB"_s, u"de-CH"_s}));
     }
 };
 

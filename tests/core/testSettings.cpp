@@ -208,6 +208,24 @@ private Q_SLOTS:
         QCOMPARE(modPassword::Admit(configuration, rescue), isRight);
         QCOMPARE(rescue.PasswordsAsked, 1);
     }
+
+    // A password belongs to its book; what older versions left in the registry counts only where the book says nothing.
+    void PasswordTravelsWithTheBook() const
+    {
+        cOpened opened;
+        cSettings settings(opened.Data);
+        cFakeRegistry registry;
+        registry.Values.insert(Current(u"PasswortAktiv"_s), u"True"_s);
+        registry.Values.insert(Current(u"Passwort"_s), u"old"_s);
+        cConfiguration configuration(registry);
+        configuration.SetDatabase(&settings);
+        QVERIFY(modPassword::Set(configuration, u"Größe"_s));
+        QVERIFY(modPassword::IsActive(configuration));
+        QVERIFY(modPassword::Matches(u"Größe"_s, configuration.GetSetting(u"Passwort"_s)));
+        QCOMPARE(registry.Values.value(Current(u"Passwort"_s)), u"old"_s);
+        QVERIFY(modPassword::Remove(configuration));
+        QVERIFY(!modPassword::IsActive(configuration));
+    }
 };
 
 QTEST_GUILESS_MAIN(testSettings)

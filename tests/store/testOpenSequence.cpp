@@ -177,12 +177,25 @@ private Q_SLOTS:
         cTestFile::Write(machine.Path(), damaged.toUtf8());
         cTestFile::Write(machine.Path() + u"-shm"_s, "rest");
         machine.Rescue.Backup = machine.file.Make(std::string(oneEntry) + lastOpenedByUs, u"good.backup"_s);
-        machine.User.Answers = {eAnswer::Yes};
+        machine.User.Answers = {eAnswer::Yes, eAnswer::No, eAnswer::Yes}; // no: another one, which is the same here
         QCOMPARE(machine.Run(), eOpenResult::Opened);
+        QVERIFY(machine.User.Asked.constLast().contains(u"good.backup' enthält:\n1 Eintrag, Datei vom "_s));
         QCOMPARE(machine.Entries(), 1);
         QCOMPARE(machine.Others(),
                  QStringList(
                      {u"data.db.2026-03-15.beschaedigt"_s, u"data.db.2026-03-15.beschaedigt-shm"_s, u"good.backup"_s}));
+    }
+
+    // The user who has seen what the backup holds may leave everything as it is.
+    void UnwantedBackupIsNotRestored() const
+    {
+        cMachine machine;
+        cTestFile::Write(machine.Path(), damaged.toUtf8());
+        machine.Rescue.Backup = machine.file.Make(oneEntry, u"good.backup"_s);
+        machine.User.Answers = {eAnswer::Yes, eAnswer::Cancel};
+        QCOMPARE(machine.Run(), eOpenResult::Ended);
+        QCOMPARE(machine.User.Shown, QStringList(faulty));
+        QCOMPARE(cTestFile::Bytes(machine.Path()), damaged.toUtf8());
     }
 
     void DamagedBackupIsNotRestored() const
@@ -312,6 +325,7 @@ private Q_SLOTS:
             cDatabase kept;
             kept.Open(copy, eOpenMode::ReadOnly);
             QCOMPARE(cTestFile::Value(kept, "SELECT EntryAccount FROM data"), u"Giro"_s);
+            QVERIFY(!QFile::permissions(copy).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
             QVERIFY(modSchema::Missing(kept).contains(u"Spalte data.EntryFlags"_s)); // from before the upgrade
         }
     }

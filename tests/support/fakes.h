@@ -48,6 +48,8 @@ public:
         return SavePath;
     }
 
+    QString ChooseFolder(const QString& /*title*/, const QString& /*current*/) override { return Folder; }
+
     QStringList ChooseFiles(const QString& /*title*/, const QString& filter) override
     {
         Asked.append(filter);
@@ -64,6 +66,7 @@ public:
     cDecision LastDecision;
     QString SavePath; // empty gives up
     QString LastProposal;
+    QString Folder; // empty gives up
 
 private:
     template <typename tQueue>

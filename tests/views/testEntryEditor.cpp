@@ -1,3 +1,4 @@
+#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/cEntryEditor.h"
 
@@ -31,6 +32,19 @@ private Q_SLOTS:
     void CategoryFillsOnlyWhatIsOpen();
     void OtherPeriodCostsCorrections_data();
     void OtherPeriodCostsCorrections();
+    void ProposesRecurringValues_data();
+    void ProposesRecurringValues();
+    void TypedDays_data();
+    void TypedDays();
+    void NextEntryKeepsDayAccountAndKind();
+    void DescriptionBringsItsLatestUse();
+    void FindsCategories();
+    void PreviewsSeries_data();
+    void PreviewsSeries();
+    void StartBalanceHasItsSign();
+    void StartBalanceFollowsTheAccount();
+    void NamesTheStep();
+    void LabelNamesTheCurrency();
 };
 
 void testEntryEditor::ChecksInOrder_data()
@@ -90,6 +104,8 @@ void testEntryEditor::StoresWhatWasTyped()
     cEntryEditor::cFields fields = Fields();
     fields.Amount = u"-1.012,50"_s; // the sign is the kind's business
     fields.Target = u"Sparkonto"_s; // left over from a transfer
+    fields.HasEnd = true;           // and from a series
+    fields.End = QDate(2026, 12, 31);
     fields.Description = u"Oma's Garten"_s;
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
     const std::optional<cEntryItem> stored = book.Data.LoadEntry(1);
@@ -166,6 +182,244 @@ void testEntryEditor::OtherPeriodCostsCorrections()
     QCOMPARE(book.Data.GetEntryMods(series.ID).size(), corrections);
     QCOMPARE(book.Data.LoadEntry(series.ID)->EntryDescription, description);
     QCOMPARE(book.User.Asked.size(), changesDate ? 1 : 0);
+}
+
+void testEntryEditor::ProposesRecurringValues_data()
+{
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<bool>("isTyped");
+    QTest::addColumn<QString>("amount");
+    QTest::newRow("recurring") << u"Monatlich"_s << false << u"850,00"_s;
+    QTest::newRow("recurring, typed") << u"Monatlich"_s << true << u"7"_s;
+    QTest::newRow("a limit only") << modWord::Einmalig << false << u"0,00"_s;
+    QTest::newRow("without interval") << QString() << false << u"0,00"_s;
+}
+
+void testEntryEditor::ProposesRecurringValues()
+{
+    QFETCH(QString, interval);
+    QFETCH(bool, isTyped);
+    cTestBook book;
+    cTemplateItem rent;
+    rent.TemplateType = modWord::Kategorie;
+    rent.TemplateName = u"Pacht"_s;
+    rent.EntryInterval = interval;
+    rent.TemplateDefaultValue = u"850.00"_s;
+    QVERIFY(book.Data.AddNewTemplate(rent));
+    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields;
+    fields.Amount = u"7"_s;
+    fields.IsAmountTyped = isTyped;
+    editor.ChooseCategory(modTemplate::Path(rent), fields);
+    QTEST(fields.Amount, "amount");
+}
+
+void testEntryEditor::TypedDays_data()
+{
+    QTest::addColumn<QString>("day");
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<int>("saved");
+    QTest::addColumn<QDate>("stored");
+    using enum eEntrySaved;
+    QTest::newRow("typed wins") << u"3.5."_s << QString() << int(Saved) << QDate(2026, 5, 3);
+    QTest::newRow("blank is the chosen day") << u" "_s << u"+400"_s << int(Saved) << QDate(2026, 3, 10);
+    QTest::newRow("no day") << u"bald"_s << QString() << int(BadDate) << QDate();
+    QTest::newRow("no last day") << u"3.5."_s << u"nie"_s << int(BadEnd) << QDate();
+    QTest::newRow("ends before it begins") << u"3.5."_s << u"2.5."_s << int(Refused) << QDate();
+}
+
+void testEntryEditor::TypedDays()
+{
+    QFETCH(QString, day);
+    QFETCH(QString, end);
+    QFETCH(int, saved);
+    cTestBook book;
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields = Fields();
+    fields.Interval = u"Monatlich"_s;
+    fields.Date = QDate(2026, 3, 10);
+    fields.DateText = day;
+    fields.HasEnd = true;
+    fields.EndText = end;
+    QCOMPARE(int(editor.Save(fields)), saved);
+    const std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
+    QTEST(entry ? entry->EntryDate : QDate(), "stored");
+}
+
+void testEntryEditor::NextEntryKeepsDayAccountAndKind()
+{
+    cTestBook book;
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields = Fields();
+    fields.DateText = u"3."_s;
+    fields.Interval = u"Monatlich"_s;
+    for (int i = 1; i <= 6; ++i) {
+        fields.Description = QString::number(i);
+        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    }
+    QCOMPARE(editor.LastSaved().size(), 5);
+    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50 €"_s);
+    const cEntryEditor::cFields next = editor.Next(fields);
+    QVERIFY(editor.IsNew());
+    QCOMPARE(next.Date, QDate(2026, 3, 3));
+    QCOMPARE(next.Account, fields.Account);
+    QCOMPARE(next.Type, fields.Type);
+    QCOMPARE(next.Amount, u"0,00"_s);
+    QVERIFY(next.Description.isEmpty() && next.Category.isEmpty() && next.Interval.isEmpty() && !next.IsAmountTyped);
+}
+
+void testEntryEditor::DescriptionBringsItsLatestUse()
+{
+    cTestBook book;
+    const auto add = [&](const QString& description, const QString& category, const QString& account) {
+        (void)book.Add([&](cEntryItem& entry) {
+            entry.EntryDescription = description;
+            entry.EntryCategory = category;
+            entry.EntryAccount = account;
+        });
+    };
+    add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Girokonto"_s);
+    add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
+    add(u"Wärme d'Oro"_s, u"Nicht; Angelegt"_s, u"Geschlossen"_s);
+    add(u"Wirt"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
+
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    QCOMPARE(editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
+    QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
+    cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
+    editor.ChooseDescription(u"Wärme d'Oro"_s, fields); // category and account are gone
+    QCOMPARE(fields.Category, QString());
+    QCOMPARE(fields.Account, u"Girokonto"_s);
+    editor.ChooseDescription(u"Bäcker"_s, fields);
+    QCOMPARE(fields.Category, u"Haushalt; Lebensmittel"_s);
+    QCOMPARE(fields.Account, u"Bargeld"_s);
+    editor.ChooseAccount(u"Sparkonto"_s, fields);
+    editor.ChooseDescription(u"Wirt"_s, fields);
+    QCOMPARE(fields.Account, u"Sparkonto"_s); // the user's choice stays
+
+    cEntryEditor::cFields saved = Fields();
+    saved.Description = u"Zoo"_s;
+    QCOMPARE(editor.Save(saved), cEntryEditor::eSaved::Saved);
+    QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Zoo"_s); // without reading the book again
+}
+
+void testEntryEditor::FindsCategories()
+{
+    cTestBook book;
+    const cTemplateItemList shipped = book.Data.GetTemplates();
+    for (const cTemplateItem& item : shipped) {
+        QVERIFY(modTemplate::IsAccount(item) || book.Data.DeleteTemplate(item.ID));
+    }
+    const QStringList paths{u"Auto; Bußgeld"_s, u"Bücher"_s, u"Haus; Strom"_s, u"Haus; Müllabfuhr"_s, u"Reise; Büro"_s};
+    for (const QString& path : paths) {
+        cTemplateItem item;
+        item.TemplateType = modWord::Kategorie;
+        item.TemplateCategory = path.section(u"; "_s, 0, 0);
+        item.TemplateName = path.section(u"; "_s, 1);
+        QVERIFY(book.Data.AddNewTemplate(item));
+    }
+    (void)book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haus; Müllabfuhr"_s; });
+    (void)book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Gelöscht"_s; });
+    cEntrySuggestions suggestions(book.Data);
+    QCOMPARE(suggestions.Categories(u"hau"_s), QStringList({u"Haus; Müllabfuhr"_s, u"Haus; Strom"_s}));
+    QCOMPARE(suggestions.Categories(u"BUE"_s), QStringList({u"Bücher"_s, u"Reise; Büro"_s}));
+    QCOMPARE(suggestions.Categories(u"mull haus"_s), QStringList({u"Haus; Müllabfuhr"_s}));
+    QCOMPARE(suggestions.Categories(u"uss"_s), QStringList({u"Auto; Bußgeld"_s}));
+    QCOMPARE(suggestions.Categories({}).value(0), u"Haus; Müllabfuhr"_s);
+    QCOMPARE(suggestions.CategoryMeant(u"haus; strom"_s), u"Haus; Strom"_s);
+    QCOMPARE(suggestions.CategoryMeant(u"strom"_s), u"Haus; Strom"_s);
+    QCOMPARE(suggestions.CategoryMeant(u"Gelöscht"_s), QString());
+}
+
+void testEntryEditor::PreviewsSeries_data()
+{
+    QTest::addColumn<QString>("day");
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("open") << u"20.1."_s << QString()
+                          << u"ohne Ende, nächste Termine: 20.03.2026, 20.04.2026, 20.05.2026"_s;
+    QTest::newRow("bounded") << u"20.1."_s << u"30.4."_s << u"4 Mal, nächste Termine: 20.03.2026, 20.04.2026"_s;
+    QTest::newRow("over") << u"20.1."_s << u"1.3."_s << u"2 Mal, keine weiteren Termine"_s;
+    QTest::newRow("unreadable") << u"irgendwann"_s << QString() << QString();
+}
+
+void testEntryEditor::PreviewsSeries()
+{
+    QFETCH(QString, day);
+    QFETCH(QString, end);
+    cTestBook book;
+    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields;
+    fields.Interval = u"Monatlich"_s;
+    fields.DateText = day;
+    fields.HasEnd = !end.isEmpty();
+    fields.EndText = end;
+    QTEST(editor.Preview(fields).Text, "text");
+}
+
+void testEntryEditor::StartBalanceHasItsSign()
+{
+    cTestBook book;
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
+    QCOMPARE(fields.Date, book.Clock.Day);
+    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
+    fields.Amount = u"-100-20,5"_s;
+    fields.DateText = u"1.1."_s;
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
+    QCOMPARE(stored.EntryType, modWord::Ausgabe);
+    QCOMPARE(stored.EntryValue, 12050);
+    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50 € am 01.01.2026"_s);
+
+    fields = editor.Load(stored.ID).value();
+    QCOMPARE(fields.Face, eEntryFace::StartBalance);
+    QCOMPARE(fields.Amount, u"-120,50"_s);
+    fields.Amount = u"7"_s;
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryType, modWord::Einnahme);
+    QCOMPARE(book.Data.CountEntries(), 1);
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryValue, 12050);
+}
+
+void testEntryEditor::StartBalanceFollowsTheAccount()
+{
+    cTestBook book;
+    QVERIFY(book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2025, 1, 1)));
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
+    editor.ChooseAccount(u"Bargeld"_s, fields);
+    QCOMPARE(fields.Amount, u"5,00"_s);
+    QCOMPARE(fields.Date, QDate(2025, 1, 1));
+    fields.IsAmountTyped = true;
+    editor.ChooseAccount(u"Girokonto"_s, fields);
+    QCOMPARE(fields.Amount, u"5,00"_s);
+    fields.Account.clear();
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+    QCOMPARE(book.User.Shown, QStringList({u"Bitte erst ein Konto wählen!"_s}));
+}
+
+void testEntryEditor::NamesTheStep()
+{
+    cTestBook book;
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    QCOMPARE(editor.Save(Fields()), cEntryEditor::eSaved::Saved);
+    QCOMPARE(book.Data.UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
+    cEntryEditor::cFields fields = editor.Load(editor.SavedId()).value();
+    fields.Description = u"Miete"_s;
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    QCOMPARE(book.Data.UndoName(), u"Eintrag 'Miete' geändert"_s);
+}
+
+void testEntryEditor::LabelNamesTheCurrency()
+{
+    cTestBook book;
+    const cAmountFormat german(book.Configuration);
+    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &german).AmountLabel(), u"Betrag (€):"_s);
+    QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"en_US"_s));
+    const cAmountFormat american(book.Configuration);
+    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &american).AmountLabel(), u"Betrag ($):"_s);
 }
 
 QTEST_GUILESS_MAIN(testEntryEditor)

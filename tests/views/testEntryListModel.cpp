@@ -34,6 +34,7 @@ cEntryListModel::cContent Content()
                        Entry(4, QDate(2026, 4, 1), u"Geldanlage"_s, 2000, modWord::Umbuchung),
                        Entry(5, QDate(2026, 1, 2), {}, 100)};
     content.Entries[1].EntryDescription = u"Café Größenwahn"_s;
+    content.Entries[3].EntryInterval = u"Monatlich"_s;
     content.Entries[4].IsCorrected = true;
     content.Today = QDate(2026, 3, 15);
     return content;
@@ -63,6 +64,9 @@ private Q_SLOTS:
     void Groups();
     void Finds_data();
     void Finds();
+    void FiltersInOrderAndGroups();
+    void FindsAmountsAsShown_data();
+    void FindsAmountsAsShown();
     void FindsRowsAgainAfterRegrouping();
     void MarksWhatIsSpecial();
     void TransfersCountWithAnAccount();
@@ -148,6 +152,13 @@ void testEntryListModel::Finds_data()
     QTest::newRow("no entry has both") << u"lohn café"_s << 0;
     QTest::newRow("amount") << u"90,00"_s << 1;
     QTest::newRow("day") << u"01.03.2026"_s << 2;
+    QTest::newRow("part of a day") << u".12.20"_s << 1;
+    QTest::newRow("amount with its sign") << u"-5,00"_s << 1;
+    QTest::newRow("amount with its currency") << u"90,00 €"_s << 1;
+    QTest::newRow("kind") << u"einnahme"_s << 1;
+    QTest::newRow("both accounts of a transfer") << u"giro sparkonto"_s << 1;
+    QTest::newRow("interval") << u"monatlich"_s << 1;
+    QTest::newRow("not across two columns") << u"äpfelgirokonto"_s << 0;
     QTest::newRow("only blanks") << u"   "_s << 5;
 }
 
@@ -160,6 +171,66 @@ void testEntryListModel::Finds()
     model.SetContent(Content(), filter, modWord::KeineGruppierung);
     QCOMPARE(model.rowCount(), rows);
     QCOMPARE(model.Sums().Count, rows);
+    model.SetFilter({});
+    QString typed;
+    for (const QChar c : filter) { // letter by letter it comes to the same
+        model.SetFilter(typed += c);
+    }
+    QCOMPARE(model.rowCount(), rows);
+}
+
+// What is typed narrows and widens the list again without a new sort.
+void testEntryListModel::FiltersInOrderAndGroups()
+{
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
+    model.SetContent(Content(), {}, u"Nach Sparte"_s);
+    model.sort(cEntryListModel::Amount, Qt::DescendingOrder);
+    const QStringList groups = Rows(model);
+    model.SetFilter(u"haushalt"_s);
+    QCOMPARE(Rows(model), QStringList({u"Haushalt  (2)=-8,00"_s}));
+    QCOMPARE(model.Sums(), (cEntryListModel::cSums{0, 800, 2}));
+    QCOMPARE(model.EntryAt(model.index(0, 0, model.index(0, 0)))->EntryValue, 300);
+    model.SetFilter(u"haushalt cafe"_s);
+    QCOMPARE(Rows(model), QStringList({u"Haushalt  (1)=-3,00"_s}));
+    model.SetFilter(u"x"_s);
+    QCOMPARE(model.rowCount(), 0);
+    model.SetGrouping(modWord::KeineGruppierung);
+    QCOMPARE(model.rowCount(), 0); // still filtered
+    model.SetGrouping(u"Nach Sparte"_s);
+    model.SetFilter({});
+    QCOMPARE(Rows(model), groups);
+}
+
+// The rules by which amounts are searched are learnt from the formatter, or asked where it has its own.
+void testEntryListModel::FindsAmountsAsShown_data()
+{
+    QTest::addColumn<QString>("culture");
+    QTest::addColumn<qint64>("cents");
+    QTest::addColumn<QString>("filter");
+    QTest::newRow("euros") << QString() << qint64(123450) << u"-1.234,50"_s;
+    QTest::newRow("dollars") << u"en-US"_s << qint64(123450) << u"($1,234.50)"_s;
+    QTest::newRow("francs in front of the amount") << u"de-CH"_s << qint64(5) << u"0.05"_s;
+    QTest::newRow("currency as a word") << u"de-CH"_s << qint64(100) << u"Chf"_s;
+    QTest::newRow("rupiah without decimals") << u"id-ID"_s << qint64(1500000) << u"15.000"_s;
+    QTest::newRow("groups of two digits") << u"hi-IN"_s << qint64(1234567800) << u"1,23,45,678.00"_s;
+    QTest::newRow("no group for four digits") << u"es-ES"_s << qint64(123450) << u"1234,50"_s;
+}
+
+void testEntryListModel::FindsAmountsAsShown()
+{
+    QFETCH(QString, culture);
+    QFETCH(qint64, cents);
+    QFETCH(QString, filter);
+    cTestFormat format;
+    format.Registry.Write(cConfiguration::RegistryKey, u"LanguageCurrency"_s, culture);
+    cEntryListModel model(format.Format);
+    cEntryListModel::cContent content;
+    content.Entries = {Entry(1, QDate(2026, 3, 1), {}, cents)};
+    model.SetContent(content, filter, modWord::KeineGruppierung);
+    QCOMPARE(model.rowCount(), 1);
+    model.SetFilter(filter + u'7');
+    QCOMPARE(model.rowCount(), 0);
 }
 
 void testEntryListModel::FindsRowsAgainAfterRegrouping()

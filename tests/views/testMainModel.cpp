@@ -1,7 +1,7 @@
 #include "core/cAmountFormat.h"
+#include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/cMainModel.h"
-#include "views/cNavigator.h"
 #include "views/modCommand.h"
 
 #include <QSignalSpy>
@@ -10,17 +10,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-class cFakeNavigator final : public cNavigator
-{
-public:
-    void OpenEntryEditor(int entryId) override { Opened.append(u"Eintrag %1"_s.arg(entryId)); }
-    void OpenImport() override { Opened.append(u"Import"_s); }
-    void OpenColumnChooser() override { Opened.append(u"Spalten"_s); }
-    void EndProgram() override { Opened.append(u"Ende"_s); }
-
-    QStringList Opened;
-};
 
 // A book of January to March 2026 seen on 15 March: salary and shopping on the current account, one transfer to the
 // savings account, a start balance of the year before, rent every month, one purchase in the future.
@@ -128,6 +117,7 @@ private Q_SLOTS:
     void RunningBalanceBeginsBeforeThePeriod();
     void FilterKeepsWhatIsLoaded();
     void DeletesAfterSayingWhatASeriesMeans();
+    void UndoBringsTheBookBack();
     void CommandsDispatch();
     void RenamesAnAccountWithItsEntries();
     void ReadOnlyBookOffersNoWriting();
@@ -330,19 +320,43 @@ void testMainModel::DeletesAfterSayingWhatASeriesMeans()
     scene.Model->Execute(modCommand::DeleteEntry);
     QCOMPARE(scene.Book.Data.CountEntries(), 4);
     QCOMPARE(scene.Model->Entries().rowCount(), 3);
+    QVERIFY(scene.Model->MenuText(modCommand::Undo).endsWith(scene.Book.Data.UndoName()));
     scene.Model->Execute(modCommand::DeleteEntry); // nothing is selected any more
     QCOMPARE(scene.Book.User.Asked.size(), 2);
+}
+
+void testMainModel::UndoBringsTheBookBack()
+{
+    cScene scene;
+    const QSignalSpy released(scene.Model.get(), &cMainModel::StagedRowsReleased);
+    QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
+    scene.Select({scene.Rent});
+    scene.Model->Execute(modCommand::SkipPeriod);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    scene.Select({scene.Rent});
+    scene.Model->Execute(modCommand::DeleteEntry);
+    QCOMPARE(scene.Model->Entries().rowCount(), 3);
+    scene.Model->Execute(modCommand::Undo);
+    QCOMPARE(scene.Model->Entries().rowCount(), 15);
+    QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
+    QCOMPARE(released.size(), 2); // bank rows may have come back with it
+    scene.Model->Execute(modCommand::Undo);
+    QVERIFY(scene.Book.Data.GetEntryMods(scene.Rent.ID).isEmpty());
+    QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
+    scene.Model->Execute(modCommand::Redo);
+    QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
 }
 
 void testMainModel::CommandsDispatch()
 {
     cScene scene;
     scene.Select({scene.Future});
-    for (const int id : {100, 101, 103, 108, 107}) {
+    for (const int id : {100, 101, 103, 108, 115, 120, 107}) {
         QVERIFY(scene.Model->Execute(id));
     }
-    QCOMPARE(scene.Navigator.Opened,
-             QStringList({u"Eintrag 0"_s, u"Eintrag %1"_s.arg(scene.Future.ID), u"Import"_s, u"Spalten"_s, u"Ende"_s}));
+    // 120 needs an occurrence of a series
+    const QString future = u"Eintrag %1 2026-03-20"_s.arg(scene.Future.ID);
+    QCOMPARE(scene.Navigator.Opened, QStringList({u"neu"_s, future, u"103"_s, u"108"_s, u"Kategorien "_s, u"Ende"_s}));
     scene.Model->Execute(modCommand::ViewFix);
     QVERIFY(!cSettings::ToBool(scene.Book.Settings->Get(u"ViewFixBooking"_s)));
     QVERIFY(!scene.Model->Execute(999));

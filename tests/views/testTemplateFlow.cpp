@@ -15,6 +15,7 @@ private Q_SLOTS:
     void RenamesAnAccount();
     void BankAccountFollowsTheName();
     void RenamesACategoryWithItsEntries();
+    void MainCategoryTakesItsPathsAlong();
     void ReadsOnlyWholeLayouts_data();
     void ReadsOnlyWholeLayouts();
 };
@@ -64,14 +65,14 @@ void testTemplateFlow::RenamesAnAccount()
 void testTemplateFlow::BankAccountFollowsTheName()
 {
     cTestBook book;
-    cImportEntry row;
-    row.ImportAccount = u"4711"_s;
-    row.ImportValue = 1;
-    QVERIFY(book.Data.AddNewImportEntry(row));
     book.Settings->Set(u"KTO:4711"_s, u"Bargeld"_s);
     QVERIFY(cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, u"Kasse"_s));
     QVERIFY(book.User.Asked.isEmpty()); // no entry refers to the account
     QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Kasse"_s);
+    QCOMPARE(book.Data.UndoName(), u"Konto 'Bargeld' umbenannt"_s);
+    QVERIFY(book.Data.Undo());
+    book.Settings->Reload();
+    QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Bargeld"_s);
 }
 
 void testTemplateFlow::RenamesACategoryWithItsEntries()
@@ -85,6 +86,23 @@ void testTemplateFlow::RenamesACategoryWithItsEntries()
     QCOMPARE(book.User.Shown.size(), 1);
     QVERIFY(flow.RenameCategory(*category, u"Haushalt"_s, u"Essen & Trinken"_s));
     QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haushalt; Essen  Trinken"_s);
+}
+
+void testTemplateFlow::MainCategoryTakesItsPathsAlong()
+{
+    cTestBook book;
+    const cEntryItem entry = book.Add([](cEntryItem&) {});
+    const cEntryItem own = book.Add([](cEntryItem& e) { e.EntryCategory = u"Haushalt"_s; });
+    const cEntryItem other = book.Add([](cEntryItem& e) { e.EntryCategory = u"Haushaltsgeld; Mai"_s; });
+    cTemplateFlow flow(book.Data, *book.Settings, book.User);
+    QVERIFY(flow.RenameMain(u"Haushalt"_s, u"Haus"_s));
+    QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haus; Lebensmittel"_s);
+    QCOMPARE(book.Data.LoadEntry(own.ID)->EntryCategory, u"Haus"_s);
+    QCOMPARE(book.Data.LoadEntry(other.ID)->EntryCategory, u"Haushaltsgeld; Mai"_s);
+    QVERIFY(book.Data.FindTemplate(u"Haus"_s, u"Lebensmittel"_s));
+    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s));
+    QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haushalt; Lebensmittel"_s);
 }
 
 void testTemplateFlow::ReadsOnlyWholeLayouts_data()

@@ -1,7 +1,7 @@
 #include "core/cAmountFormat.h"
+#include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/cMainModel.h"
-#include "views/cNavigator.h"
 #include "windows/cEntryTree.h"
 #include "windows/frmMain.h"
 
@@ -18,18 +18,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-class cCountingNavigator final : public cNavigator
-{
-public:
-    void OpenEntryEditor(int entryId) override { Editors.append(entryId); }
-    void OpenImport() override {}
-    void OpenColumnChooser() override {}
-    void EndProgram() override { ++Ended; }
-
-    QList<int> Editors;
-    int Ended = 0;
-};
 
 class cScene
 {
@@ -55,11 +43,10 @@ public:
 
     cTestBook Book;
     cAmountFormat Format{Book.Configuration};
-    cCountingNavigator Navigator;
+    cFakeNavigator Navigator;
     cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
                       Navigator, Book.Path()}};
-    QWidget* Statements = new QWidget;
-    frmMain Window{Model, Statements};
+    frmMain Window{Model};
     cEntryItem First;
     cEntryItem Second;
 };
@@ -89,7 +76,10 @@ void testFrmMain::KeysReachTheCommands()
     QTest::keyClick(&scene.Tree(), Qt::Key_E, Qt::ControlModifier); // nothing is selected
     scene.Select(1);
     QTest::keyClick(&scene.Tree(), Qt::Key_E, Qt::ControlModifier);
-    QCOMPARE(scene.Navigator.Editors, QList<int>({0, 0, scene.Second.ID}));
+    QCOMPARE(scene.Navigator.Opened,
+             QStringList(
+                 {u"neu"_s, u"neu"_s, u"Eintrag %1 "_s.arg(scene.Second.ID) + modDate::ToIso(scene.Second.EntryDate)}));
+    scene.Navigator.Opened.clear();
     scene.Book.User.Answers = {eAnswer::Yes};
     QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
     QCOMPARE(scene.Book.Data.CountEntries(), 1);
@@ -98,7 +88,7 @@ void testFrmMain::KeysReachTheCommands()
     QTest::keyClick(&scene.Window, Qt::Key_Delete); // the list is not in front
     QCOMPARE(scene.Book.Data.CountEntries(), 1);
     QTest::keyClick(&scene.Window, Qt::Key_Q, Qt::AltModifier);
-    QCOMPARE(scene.Navigator.Ended, 1);
+    QCOMPARE(scene.Navigator.Opened, QStringList{u"Ende"_s});
 }
 
 void testFrmMain::DeleteInAFieldDeletesText()

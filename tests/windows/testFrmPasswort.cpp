@@ -1,10 +1,50 @@
+#include "core/modPassword.h"
+#include "support/testBook.h"
+#include "support/windowFaults.h"
 #include "windows/frmPasswort.h"
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Lets the window's clock strike without waiting for it.
+void PassSeconds(const QDialog& window, int seconds)
+{
+    auto* timer = window.findChild<QTimer*>(u"tmrWait"_s);
+    for (int i = 0; i < seconds; ++i) {
+        QVERIFY(timer->isActive());
+        QMetaObject::invokeMethod(timer, "timeout");
+    }
+}
+
+QLineEdit* Field(const QDialog& window, const QString& name)
+{
+    return window.findChild<QLineEdit*>(name);
+}
+
+QPushButton* Button(const QDialog& window, const QString& text)
+{
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    for (QPushButton* button : buttons) {
+        if (button->text().remove(u'&') == text) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+QString Message(const QDialog& window)
+{
+    return window.findChild<QLabel*>(u"message"_s)->text();
+}
+
+} // namespace
 
 class testFrmPasswort final : public QObject
 {
@@ -12,35 +52,99 @@ class testFrmPasswort final : public QObject
 
 private Q_SLOTS:
     void StaysUntilThePasswordIsRight();
+    void WaitOutlivesTheWindow();
     void EscapeGivesUp();
+    void SetsAndRemoves();
+    void WrongOldPasswordWaits();
 };
 
 void testFrmPasswort::StaysUntilThePasswordIsRight()
 {
-    frmPasswort prompt([](const QString& typed) { return typed == "geheim"_L1; });
+    cPasswordTries tries;
+    frmPasswort prompt(tries, [](const QString& typed) { return typed == "geheim"_L1; });
     prompt.show();
-    auto* password = prompt.findChild<QLineEdit*>();
-    auto* message = prompt.findChild<QLabel*>(u"message"_s);
+    QLineEdit* password = Field(prompt, u"old"_s);
     QCOMPARE(password->echoMode(), QLineEdit::Password);
+    int wait = 1;
     for (const char* wrong : {"", "Geheim", "geheim "}) {
         QTest::keyClicks(password, QString::fromLatin1(wrong));
         QTest::keyClick(password, Qt::Key_Return);
         QVERIFY(prompt.isVisible());
-        QCOMPARE(message->text(), u"Das Passwort ist nicht richtig. Bitte versuchen Sie es noch einmal."_s);
+        QCOMPARE(windowFaults::All(prompt), QStringList());
+        QCOMPARE(Message(prompt),
+                 u"Das Passwort ist nicht richtig. Der nächste Versuch ist in %1 s möglich."_s.arg(wait));
+        password->setText(u"geheim"_s);
+        QTest::keyClick(password, Qt::Key_Return); // the right one has to wait as well
+        QVERIFY(prompt.isVisible() && !Button(prompt, u"OK"_s)->isEnabled());
+        PassSeconds(prompt, wait);
+        QCOMPARE(Message(prompt), u"Das Passwort ist nicht richtig. Bitte versuchen Sie es noch einmal."_s);
+        password->clear();
+        wait *= 2;
     }
-    QTest::keyClicks(password, u"geheim"_s); // the wrong one is selected, so typing replaces it
-    QCOMPARE(message->text(), QString());
+    QTest::keyClicks(password, u"geheim"_s);
     QTest::keyClick(password, Qt::Key_Return);
     QCOMPARE(prompt.result(), static_cast<int>(QDialog::Accepted));
 }
 
+void testFrmPasswort::WaitOutlivesTheWindow()
+{
+    cPasswordTries tries;
+    tries.NoteWrong();
+    tries.NoteWrong();
+    frmPasswort prompt(tries, [](const QString&) { return true; });
+    prompt.show();
+    QVERIFY(!Button(prompt, u"OK"_s)->isEnabled());
+    PassSeconds(prompt, 2);
+    QVERIFY(Button(prompt, u"OK"_s)->isEnabled());
+}
+
 void testFrmPasswort::EscapeGivesUp()
 {
-    frmPasswort prompt([](const QString&) { return true; });
+    cPasswordTries tries;
+    frmPasswort prompt(tries, [](const QString&) { return true; });
     prompt.show();
     QTest::keyClick(&prompt, Qt::Key_Escape);
     QCOMPARE(prompt.result(), static_cast<int>(QDialog::Rejected));
     QVERIFY(!prompt.isVisible());
+}
+
+void testFrmPasswort::SetsAndRemoves()
+{
+    cTestBook book;
+    cPasswordFlow flow(book.Data, book.Configuration, book.User);
+    {
+        frmPasswort window(flow);
+        window.show();
+        QVERIFY(Field(window, u"old"_s) == nullptr);
+        QTest::keyClicks(Field(window, u"new"_s), u"eins"_s);
+        QTest::keyClick(Field(window, u"new"_s), Qt::Key_Return); // not repeated yet
+        QVERIFY(window.isVisible() && !flow.HasPassword());
+        QTest::keyClicks(Field(window, u"repeated"_s), u"eins"_s);
+        QTest::keyClick(Field(window, u"repeated"_s), Qt::Key_Return);
+        QVERIFY(!window.isVisible() && flow.HasPassword());
+    }
+    frmPasswort window(flow);
+    window.show();
+    QCOMPARE(windowFaults::All(window), QStringList());
+    QTest::keyClicks(Field(window, u"old"_s), u"eins"_s);
+    QTest::mouseClick(Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
+    QVERIFY(!window.isVisible() && !flow.HasPassword());
+}
+
+void testFrmPasswort::WrongOldPasswordWaits()
+{
+    cTestBook book;
+    QVERIFY(modPassword::Set(book.Configuration, u"eins"_s));
+    cPasswordFlow flow(book.Data, book.Configuration, book.User);
+    frmPasswort window(flow);
+    window.show();
+    QTest::mouseClick(Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
+    QVERIFY(window.isVisible() && flow.HasPassword());
+    for (const QString& button : {u"Passwort ändern"_s, u"Passwort entfernen"_s}) {
+        QVERIFY(!Button(window, button)->isEnabled());
+    }
+    PassSeconds(window, 1);
+    QVERIFY(Button(window, u"Passwort ändern"_s)->isEnabled());
 }
 
 QTEST_MAIN(testFrmPasswort)

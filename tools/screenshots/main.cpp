@@ -3,22 +3,36 @@
 // The pictures are named after window and palette. The scale comes from QT_SCALE_FACTOR, as for every program.
 
 #include "app/cMainProgram.h"
+#include "app/cNavigation.h"
 #include "app/cQtRegistry.h"
 #include "app/cQtRescue.h"
 #include "app/cQtShell.h"
 #include "app/cQtUser.h"
 #include "base/cClock.h"
+#include "core/cAmountFormat.h"
+#include "core/cBook.h"
 #include "core/modDemo.h"
 #include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/cEntryEditor.h"
 #include "views/cMainModel.h"
+#include "views/cSeriesChange.h"
+#include "views/cTemplateManager.h"
+#include "windows/cListPrinter.h"
 #include "windows/frmBuchung.h"
+#include "windows/frmKategorie.h"
+#include "windows/frmKorrektur.h"
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -166,6 +180,142 @@ bool TakeEmpty(cCamera& camera)
     return true;
 }
 
+// Categories and accounts of a book that has one of everything: limits, a hidden one, old paths.
+bool TakeCategories(cCamera& camera)
+{
+    QTemporaryDir folder;
+    cQtShell shell(folder.path());
+    cQtRegistry registry(folder.path());
+    cQtUser user;
+    cFixedClock clock;
+    cBook book(user);
+    const QString path = folder.filePath(u"Haushalt.db"_s);
+    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
+    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = today})
+        || !book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
+        return false;
+    }
+    cConfiguration configuration(registry);
+    configuration.SetDatabase(&book.Settings());
+    cAmountFormat format(configuration);
+    cTemplateManager manager({book.Data(), book.Settings(), format, user, clock});
+    frmKategorie window(manager);
+    window.show();
+    (void)window.Select(u"Haushalt; Lebensmittel"_s);
+    camera.Take(window, u"kategorien"_s);
+    (void)window.Select(u"Haushalt; Wochenmarkt"_s);
+    camera.Take(window, u"kategorien-nicht-angelegt"_s);
+    (void)window.Select(u"Haushalt"_s);
+    camera.Take(window, u"kategorien-haupt"_s);
+    (void)window.Select(u"Girokonto"_s);
+    camera.Take(window, u"konten"_s);
+    return true;
+}
+
+cEntryFields SplitFields(cEntryEditor& editor)
+{
+    cEntryFields fields = editor.Start(u"Girokonto"_s);
+    fields.Face = eEntryFace::Split;
+    fields.Amount = u"50,00"_s;
+    fields.Type = modWord::Ausgabe;
+    fields.Parts = {{.Category = u"Haushalt; Lebensmittel"_s, .Description = u"Wocheneinkauf"_s, .Amount = u"31,50"_s},
+                    {.Category = u"Haushalt; Putz- und Waschmittel"_s, .Description = {}, .Amount = u"9,99"_s},
+                    {.Category = u"Haushalt; Getränke"_s, .Description = u"Pfand zurück"_s, .Amount = u"-3,25"_s}};
+    return fields;
+}
+
+// The ID of a monthly entry with a corrected period; 0 when it could not be stored.
+int AddCorrectedSeries(cEntryEditor& editor, cSeriesChange& change)
+{
+    cEntryFields fields = editor.Start(u"Girokonto"_s);
+    fields.Amount = u"29,90"_s;
+    fields.Category = u"Freizeit; Sport"_s;
+    fields.Description = u"Beitrag Kletterhalle"_s;
+    fields.Type = modWord::Ausgabe;
+    fields.Date = QDate(2026, 1, 5);
+    fields.Interval = u"Monatlich"_s;
+    const bool isStored = editor.Save(fields) == cEntryEditor::eSaved::Saved;
+    const int id = editor.SavedId();
+    return isStored && change.CorrectPeriod(id, QDate(2026, 8, 5), 1500, u"Halle im Umbau"_s)
+            && change.SkipPeriod(id, QDate(2026, 12, 5))
+        ? id
+        : 0;
+}
+
+void TakeForm(cCamera& camera, cEntryEditor& editor, const cEntryFields& fields, const QString& name)
+{
+    frmBuchung form(editor, fields);
+    form.show();
+    camera.Take(form, name);
+    auto& pages = *form.findChild<QTabWidget*>();
+    if (pages.isTabVisible(1)) {
+        pages.setCurrentIndex(1);
+        camera.Take(form, name + u"-korrekturen"_s);
+    }
+}
+
+// Every face of the entry editor, and the small form for one occurrence.
+bool TakeEditor(cCamera& camera)
+{
+    QTemporaryDir folder;
+    cQtShell shell(folder.path());
+    cQtUser user;
+    cFixedClock clock;
+    cBook book(user);
+    const QString path = folder.filePath(u"Haushalt.db"_s);
+    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
+    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = today})) {
+        return false;
+    }
+    cEntryEditor editor(book.Data(), user, clock);
+    cSeriesChange change(book.Data(), user);
+    const int series = AddCorrectedSeries(editor, change);
+    const std::optional<cEntryFields> fields = editor.Load(series);
+    const auto period = change.StartPeriod(series, QDate(2026, 8, 5));
+    if (!fields || !period) {
+        return false;
+    }
+    TakeForm(camera, editor, *fields, u"eintrag-serie"_s);
+    TakeForm(camera, editor, SplitFields(editor), u"eintrag-aufgeteilt"_s);
+    TakeForm(camera, editor, editor.StartBalance(u"Sparkonto"_s), u"eintrag-startguthaben"_s);
+    frmKorrektur correction(change, *period);
+    correction.show();
+    camera.Take(correction, u"korrektur"_s);
+    return true;
+}
+
+// The list as it is printed, and its preview.
+bool TakePrinted(cCamera& camera)
+{
+    cStage stage(cStage::eBook::Demo);
+    if (!stage.IsReady()) {
+        return false;
+    }
+    cMainModel& model = stage.Program().Model();
+    model.ChooseAccount(u"Girokonto"_s);
+    model.ChoosePeriod(u"Aktuelles Quartal"_s);
+    model.ChooseGrouping(u"Nach Monat"_s);
+    camera.TakeDialog(u"seitenansicht"_s, [&] { stage.Program().Navigation().Open(modCommand::PrintPreview); });
+
+    cListPrinter printer(model.Entries(), stage.Program().Window().EntryColumns(),
+                         {u"Buchungen"_s, {u"Konto: Girokonto"_s}, u"Haushalt"_s, {{u"Summe"_s, model.TotalText()}}});
+    constexpr QSize paper(794, 1123); // A4 at 96 dots per inch
+    constexpr int margin = 57;
+    int count = 1;
+    for (int page = 0; page < count; ++page) {
+        QImage image(paper, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        count = printer.LayOut(image, QRectF(image.rect()).adjusted(margin, margin, -margin, -margin));
+        QPainter painter(&image);
+        printer.PaintPage(painter, page);
+        painter.end();
+        QLabel sheet;
+        sheet.setPixmap(QPixmap::fromImage(image));
+        camera.Take(sheet, u"druck-%1"_s.arg(page + 1));
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -182,5 +332,8 @@ int main(int argc, char* argv[])
         QApplication::setPalette(DarkPalette());
     }
     cCamera camera(arguments.at(1), arguments.at(2));
-    return TakeDemo(camera) && TakeEmpty(camera) && camera.IsGood() ? 0 : 1;
+    return TakeDemo(camera) && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakePrinted(camera)
+            && camera.IsGood()
+        ? 0
+        : 1;
 }

@@ -4,6 +4,7 @@
 #include "app/cli/cConsoleUser.h"
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "core/cBackup.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
 #include "store/cDatabase.h"
@@ -117,10 +118,15 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
     } else if (!TakeLock(lock, found.Path) || !startUp.OpenBook(*book, found) || book->IsReadOnly()) {
         return nullptr; // why it can be read only has been shown while it was opened
     }
-    if (!startUp.AskPassword()) {
+    if (access != eCliAccess::Unlock && !startUp.AskPassword()) {
         return nullptr;
     }
     return std::unique_ptr<cCliBook>(new cCliBook(std::move(book), std::move(configuration), std::move(lock)));
+}
+
+QString cCliBook::MakeBackup(const QString& target, cShell& shell)
+{
+    return cBackup(m_book->Database(), shell).Make(target);
 }
 
 QStringList cCliBook::IntegrityProblems()

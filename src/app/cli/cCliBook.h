@@ -40,7 +40,12 @@ public:
 
     // An amount of signed cents for people.
     [[nodiscard]] QString AmountText(qint64 cents) const { return m_format.Cents(cents); }
+    [[nodiscard]] const cAmountFormat& Format() const { return m_format; }
     [[nodiscard]] const cBook& File() const { return *m_book; }
+    [[nodiscard]] cSettings& Settings() { return m_book->Settings(); }
+    [[nodiscard]] cConfiguration& Configuration() { return *m_configuration; }
+    // Writes a checked copy of the book; what went wrong, empty when it is there.
+    [[nodiscard]] QString MakeBackup(const QString& target, cShell& shell);
     // What SQLite finds wrong with the file; empty when it is sound.
     [[nodiscard]] QStringList IntegrityProblems();
 

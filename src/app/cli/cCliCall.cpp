@@ -22,6 +22,13 @@ const cCliOption* FindIn(const QList<cCliOption>& options, const QString& name)
     return found == options.end() ? nullptr : &*found;
 }
 
+const cCliCommand* FindCommand(const QList<cCliCommand>& commands, const QString& name)
+{
+    const auto found = std::find_if(commands.begin(), commands.end(),
+                                    [&](const cCliCommand& command) { return command.Name == name; });
+    return found == commands.end() ? nullptr : &*found;
+}
+
 } // namespace
 
 cCliCall cCliCall::Parse(const QStringList& arguments, const QList<cCliCommand>& commands)
@@ -41,6 +48,7 @@ cCliCall cCliCall::Parse(const QStringList& arguments, const QList<cCliCommand>&
     }
     call.m_wantsHelp = call.m_wantsHelp || call.Has(u"help"_s);
     if (call.m_error.isEmpty() && !call.m_wantsHelp) {
+        call.CheckOptions();
         call.CheckCounts();
     }
     return call;
@@ -77,6 +85,9 @@ void cCliCall::TakeOption(const QString& text, QStringList& rest)
 
 void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& commands)
 {
+    if (TakeSecondWord(text, commands)) {
+        return;
+    }
     if (m_wantsHelp || m_command != nullptr) {
         m_arguments.append(text);
         return;
@@ -85,17 +96,36 @@ void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& comma
         m_wantsHelp = true;
         return;
     }
-    const auto found = std::find_if(commands.begin(), commands.end(),
-                                    [&](const cCliCommand& command) { return command.Name == text; });
-    if (found == commands.end()) {
+    m_command = FindCommand(commands, text);
+    if (m_command == nullptr) {
         m_error = cText::Tr("Den Befehl '{0}' gibt es nicht.", {text});
-        return;
     }
-    m_command = &*found;
+}
+
+bool cCliCall::TakeSecondWord(const QString& text, const QList<cCliCommand>& commands)
+{
+    const cCliCommand* command =
+        m_command != nullptr && m_arguments.isEmpty() ? FindCommand(commands, m_command->Name + u' ' + text) : nullptr;
+    m_command = command != nullptr ? command : m_command;
+    return command != nullptr;
+}
+
+// Options that stood between the two words of a command were read as those of the first word.
+void cCliCall::CheckOptions()
+{
+    const QStringList names = m_options.keys();
+    for (const QString& name : names) {
+        if (m_command != nullptr && FindOption(name) == nullptr) {
+            m_error = cText::Tr("Der Befehl '{0}' kennt die Option '--{1}' nicht.", {m_command->Name, name});
+        }
+    }
 }
 
 void cCliCall::CheckCounts()
 {
+    if (!m_error.isEmpty()) {
+        return;
+    }
     if (m_command == nullptr) {
         m_error = cText::Tr("Es fehlt der Befehl.");
     } else if (m_arguments.size() < m_command->MinArguments) {
@@ -104,6 +134,12 @@ void cCliCall::CheckCounts()
         m_error = cText::Tr("Mit '{0}' kann der Befehl '{1}' nichts anfangen.",
                             {m_arguments.at(m_command->MaxArguments), m_command->Name});
     }
+}
+
+eCliAccess cCliCall::Access() const
+{
+    const bool onlyReads = !m_command->ReadsWith.isEmpty() && Has(m_command->ReadsWith);
+    return onlyReads ? eCliAccess::Read : m_command->Access;
 }
 
 QString cCliCall::Value(const QString& option) const

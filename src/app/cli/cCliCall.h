@@ -8,7 +8,12 @@
 struct cCliContext;
 
 // What a command needs of the database.
-enum class eCliAccess { None, Read, Write };
+enum class eCliAccess {
+    None,
+    Read,
+    Write,
+    Unlock, // like Write, but nobody is asked for the password
+};
 
 // An option of a command. Without a placeholder for its value it is a switch.
 struct cCliOption
@@ -21,12 +26,13 @@ struct cCliOption
 // One command of the command line program.
 struct cCliCommand
 {
-    QString Name;
+    QString Name;        // two words for what is done with the things that the first one lists
     QString Arguments{}; // as the help shows them
     QString Help;
     int MinArguments = 0;
     int MaxArguments = 0;
     eCliAccess Access = eCliAccess::Read;
+    QString ReadsWith{}; // with this option it only reads, whatever Access says
     QList<cCliOption> Options{};
     int (*Run)(const cCliContext&) = nullptr; // gives the exit code
 };
@@ -50,6 +56,7 @@ public:
     [[nodiscard]] const QString& Error() const { return m_error; }
     [[nodiscard]] bool WantsHelp() const { return m_wantsHelp; }
     [[nodiscard]] const cCliCommand* Command() const { return m_command; } // null when help is wanted
+    [[nodiscard]] eCliAccess Access() const;                               // only with a command
     [[nodiscard]] const QStringList& Arguments() const { return m_arguments; }
     [[nodiscard]] bool Has(const QString& option) const { return m_options.contains(option); }
     [[nodiscard]] QString Value(const QString& option) const; // the last one given; empty when missing
@@ -59,6 +66,8 @@ private:
     [[nodiscard]] const cCliOption* FindOption(const QString& name) const;
     void TakeOption(const QString& text, QStringList& rest);
     void TakeArgument(const QString& text, const QList<cCliCommand>& commands);
+    [[nodiscard]] bool TakeSecondWord(const QString& text, const QList<cCliCommand>& commands);
+    void CheckOptions();
     void CheckCounts();
 
     QString m_error;

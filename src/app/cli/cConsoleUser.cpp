@@ -19,20 +19,33 @@ void modConsole::Error(const QString& text)
 void cConsoleUser::Show(eTone tone, const QString& text, const QString& /*title*/)
 {
     m_hasFailed = m_hasFailed || tone == eTone::Critical;
+    m_hasSpoken = true;
     modConsole::Error(text);
+}
+
+void cConsoleUser::Refuse(const QString& question)
+{
+    Show(eTone::Critical, question);
+    if (!m_answers.Hint.isEmpty()) {
+        modConsole::Error(m_answers.Hint);
+    }
 }
 
 eAnswer cConsoleUser::Ask(const cQuestion& question)
 {
-    m_hasFailed = true;
-    modConsole::Error(question.Text);
+    if (m_answers.Answer) {
+        return *m_answers.Answer;
+    }
+    Refuse(question.Text);
     return question.Buttons == eButtons::YesNo ? eAnswer::No : eAnswer::Cancel;
 }
 
 std::optional<QString> cConsoleUser::Choose(const cChoice& choice)
 {
-    m_hasFailed = true;
-    modConsole::Error(choice.Text);
+    if (m_answers.Choice && (choice.AllowNew || choice.Items.contains(*m_answers.Choice))) {
+        return m_answers.Choice;
+    }
+    Refuse(m_answers.Choice ? cText::Tr("'{0}' ist hier nicht möglich.", {*m_answers.Choice}) : choice.Text);
     return std::nullopt;
 }
 
@@ -43,12 +56,19 @@ QStringList cConsoleUser::ChooseFiles(const QString& /*title*/, const QString& /
 
 int cConsoleUser::Decide(const cDecision& decision)
 {
-    m_hasFailed = true;
-    modConsole::Error(decision.Text);
+    if (m_answers.Decision) {
+        return *m_answers.Decision;
+    }
+    Refuse(decision.Text);
     return -1;
 }
 
 QString cConsoleUser::ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/)
+{
+    return {};
+}
+
+QString cConsoleUser::ChooseFolder(const QString& /*title*/, const QString& /*current*/)
 {
     return {};
 }

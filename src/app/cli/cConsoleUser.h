@@ -2,8 +2,11 @@
 
 #include "base/cUser.h"
 
+#include <optional>
+
 // The command line stands in for the user: messages go to the error output, and nobody can be asked. A question is
-// shown with what to do instead, and answered with the answer that changes nothing.
+// answered with what the options of the command say to it; else it is shown with what to do instead, and answered with
+// the answer that changes nothing.
 class cConsoleUser final : public cUser
 {
 public:
@@ -13,12 +16,29 @@ public:
     [[nodiscard]] int Decide(const cDecision& decision) override;
     [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter) override;
     [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal) override;
+    [[nodiscard]] QString ChooseFolder(const QString& title, const QString& current) override;
+
+    // What the options of the command answer beforehand.
+    struct cAnswers
+    {
+        std::optional<eAnswer> Answer;
+        std::optional<int> Decision;   // an option, counted from 0
+        std::optional<QString> Choice; // has to be one of the items
+        QString Hint;                  // said after a question without answer: what to do about it
+    };
+    void Prepare(const cAnswers& answers) { m_answers = answers; }
 
     // True once a message of a failure was shown.
     [[nodiscard]] bool HasFailed() const { return m_hasFailed; }
+    // True once anything was shown.
+    [[nodiscard]] bool HasSpoken() const { return m_hasSpoken; }
 
 private:
+    void Refuse(const QString& question);
+
+    cAnswers m_answers;
     bool m_hasFailed = false;
+    bool m_hasSpoken = false;
 };
 
 // The two outputs of the program, in UTF-8 whatever the terminal is set to.

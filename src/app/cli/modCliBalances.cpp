@@ -1,3 +1,5 @@
+#include "app/cli/modCliBalances.h"
+
 #include "app/cli/cCliBook.h"
 #include "app/cli/cCliTable.h"
 #include "app/cli/cConsoleUser.h"
@@ -11,18 +13,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cBalance
-{
-    QString Group;
-    QString Account;
-    qint64 Cents = 0;
-    int Open = 0; // bank transactions that wait to be booked
-};
-
 // The accounts of the book, then names that only entries have (of a renamed account, say): no money may be missing.
-QList<cBalance> AllAccounts(cCliBook& book, const QList<cAccountSum>& sums)
+QList<cCliBalance> AllAccounts(cCliBook& book, const QList<cAccountSum>& sums)
 {
-    QList<cBalance> list;
+    QList<cCliBalance> list;
     QStringList names;
     const cTemplateItemList accounts = book.Data.GetAccounts();
     for (const cTemplateItem& account : accounts) {
@@ -40,32 +34,10 @@ QList<cBalance> AllAccounts(cCliBook& book, const QList<cAccountSum>& sums)
     return list;
 }
 
-QList<cBalance> Load(const cCliContext& context)
-{
-    cCliBook& book = *context.Book;
-    cEntryQuery query;
-    query.End = context.Clock.Today();
-    const QList<cAccountSum> sums = book.Data.GetSums(query, true);
-    QHash<QString, int> open;
-    const QHash<QString, int> openByNumber = book.Data.CountOpenImports();
-    for (auto count = openByNumber.begin(); count != openByNumber.end(); ++count) {
-        open[book.Accounts.AccountOf(count.key())] += *count;
-    }
-    QList<cBalance> list = AllAccounts(book, sums);
-    for (cBalance& balance : list) {
-        balance.Open = open.value(balance.Account);
-        for (const cAccountSum& sum : sums) {
-            balance.Cents +=
-                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, balance.Account);
-        }
-    }
-    return list;
-}
-
-void PrintJson(const QList<cBalance>& list)
+void PrintJson(const QList<cCliBalance>& list)
 {
     QStringList objects;
-    for (const cBalance& balance : list) {
+    for (const cCliBalance& balance : list) {
         cJsonObject json;
         json.Text(u"TemplateCategory"_s, balance.Group)
             .Text(u"TemplateName"_s, balance.Account)
@@ -76,7 +48,7 @@ void PrintJson(const QList<cBalance>& list)
     modConsole::Out(modJson::Array(objects) + u'\n');
 }
 
-void Print(const cCliBook& book, const QList<cBalance>& list)
+void Print(const cCliBook& book, const QList<cCliBalance>& list)
 {
     cCliTable table({{cText::Tr("Gruppe")},
                      {cText::Tr("Konto")},
@@ -84,7 +56,7 @@ void Print(const cCliBook& book, const QList<cBalance>& list)
                      {cText::Tr("Offene Umsätze"), eAlign::Right}});
     qint64 total = 0;
     int open = 0;
-    for (const cBalance& balance : list) {
+    for (const cCliBalance& balance : list) {
         table.Add({balance.Group, balance.Account, book.AmountText(balance.Cents), QString::number(balance.Open)});
         total += balance.Cents;
         open += balance.Open;
@@ -93,15 +65,43 @@ void Print(const cCliBook& book, const QList<cBalance>& list)
     modConsole::Out(table.ToString());
 }
 
-} // namespace
-
-int modCliCommands::Balances(const cCliContext& context)
+int Run(const cCliContext& context)
 {
-    const QList<cBalance> list = Load(context);
+    const QList<cCliBalance> list = modCliBalances::Load(context);
     if (context.Call.Has(u"json"_s)) {
         PrintJson(list);
     } else {
         Print(*context.Book, list);
     }
     return modExit::Done;
+}
+
+} // namespace
+
+QList<cCliBalance> modCliBalances::Load(const cCliContext& context)
+{
+    cCliBook& book = *context.Book;
+    cEntryQuery query;
+    query.End = context.Clock.Today();
+    const QList<cAccountSum> sums = book.Data.GetSums(query, true);
+    QHash<QString, int> open;
+    const QHash<QString, int> openByNumber = book.Data.CountOpenImports();
+    for (auto count = openByNumber.begin(); count != openByNumber.end(); ++count) {
+        open[book.Accounts.AccountOf(count.key())] += *count;
+    }
+    QList<cCliBalance> list = AllAccounts(book, sums);
+    for (cCliBalance& balance : list) {
+        balance.Open = open.value(balance.Account);
+        for (const cAccountSum& sum : sums) {
+            balance.Cents +=
+                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, balance.Account);
+        }
+    }
+    return list;
+}
+
+cCliCommand modCliCommands::BalancesCommand()
+{
+    return {
+        .Name = u"balances"_s, .Help = cText::Tr("zeigt die Kontostände von heute"), .Options = {Json()}, .Run = Run};
 }

@@ -130,9 +130,7 @@ int Report(const cBookingResult& result)
     return result.Failed == 0 && result.UnknownAccounts.isEmpty() ? modExit::Done : modExit::Failed;
 }
 
-} // namespace
-
-int modCliCommands::Propose(const cCliContext& context)
+int RunPropose(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     const QList<int> ids = OpenRows(book);
@@ -145,7 +143,7 @@ int modCliCommands::Propose(const cCliContext& context)
     return modExit::Done;
 }
 
-int modCliCommands::Book(const cCliContext& context)
+int RunBook(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     const QList<int> open = OpenRows(book);
@@ -163,4 +161,27 @@ int modCliCommands::Book(const cCliContext& context)
     }
     cNoProgress progress;
     return Report(book.Booking.Book(*chosen, proposals, progress));
+}
+
+} // namespace
+
+cCliCommand modCliCommands::ProposeCommand()
+{
+    return {.Name = u"propose"_s,
+            .Help = cText::Tr("zeigt zu jedem offenen Umsatz, wie er gebucht würde, und warum"),
+            .Options = {Json()},
+            .Run = RunPropose};
+}
+
+cCliCommand modCliCommands::BookCommand()
+{
+    return {.Name = u"book"_s,
+            .Arguments = u"(--all | --id N...)"_s,
+            .Help = cText::Tr("bucht offene Umsätze so, wie \"propose\" es zeigt"),
+            .MaxArguments = Any,
+            .Access = eCliAccess::Write,
+            .Options = {{u"all"_s, {}, cText::Tr("alle offenen Umsätze")},
+                        {u"id"_s, u"N..."_s, cText::Tr("die Umsätze mit diesen Nummern (Spalte ID)")},
+                        {u"dry-run"_s, {}, cText::Tr("nur zeigen, nichts ändern")}},
+            .Run = RunBook};
 }

@@ -5,7 +5,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-int modCliCommands::Check(const cCliContext& context)
+namespace {
+
+int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     modConsole::Out(cText::Tr("{0}: gültige Datenbank, {1} Einträge, {2} Umsätze",
@@ -25,4 +27,14 @@ int modCliCommands::Check(const cCliContext& context)
                          : cText::Tr("Die Datei ist beschädigt. Bitte spielen Sie eine Datensicherung zurück."))
                     + u'\n');
     return problems.isEmpty() ? modExit::Done : modExit::Failed;
+}
+
+} // namespace
+
+cCliCommand modCliCommands::CheckCommand()
+{
+    return {.Name = u"check"_s,
+            .Help = cText::Tr("prüft die Datenbank und sagt, was beim Öffnen ergänzt wurde"),
+            .Access = eCliAccess::Write,
+            .Run = Run};
 }

@@ -2,6 +2,8 @@
 
 #include "app/cli/cCliCall.h"
 
+#include <limits>
+
 class cClock;
 class cCliBook;
 class cConsoleUser;
@@ -17,17 +19,41 @@ struct cCliContext
     cCliBook* Book; // the open database; null for a command that needs none
 };
 
-// The commands of the command line program; each gives the exit code.
+// The commands of the command line program. What one does stands beside its description.
 namespace modCliCommands {
 
-[[nodiscard]] int Import(const cCliContext& context);
-[[nodiscard]] int Staged(const cCliContext& context);
-[[nodiscard]] int Propose(const cCliContext& context);
-[[nodiscard]] int Book(const cCliContext& context);
-[[nodiscard]] int Entries(const cCliContext& context);
-[[nodiscard]] int Balances(const cCliContext& context);
-[[nodiscard]] int Check(const cCliContext& context);
-[[nodiscard]] int Demo(const cCliContext& context);
+[[nodiscard]] cCliCommand ImportCommand();
+[[nodiscard]] cCliCommand StagedCommand();
+[[nodiscard]] cCliCommand ProposeCommand();
+[[nodiscard]] cCliCommand BookCommand();
+[[nodiscard]] cCliCommand EntriesCommand();
+[[nodiscard]] cCliCommand SearchCommand();
+[[nodiscard]] cCliCommand AddCommand();
+[[nodiscard]] cCliCommand ChangeCommand();
+[[nodiscard]] cCliCommand DeleteCommand();
+[[nodiscard]] cCliCommand CorrectCommand();
+[[nodiscard]] cCliCommand CategoriesCommand();
+[[nodiscard]] cCliCommand CategoriesAddCommand();
+[[nodiscard]] cCliCommand CategoriesRenameCommand();
+[[nodiscard]] cCliCommand CategoriesMergeCommand();
+[[nodiscard]] cCliCommand CategoriesDeleteCommand();
+[[nodiscard]] cCliCommand AccountsCommand();
+[[nodiscard]] cCliCommand AccountsAddCommand();
+[[nodiscard]] cCliCommand AccountsRenameCommand();
+[[nodiscard]] cCliCommand AccountsDeleteCommand();
+[[nodiscard]] cCliCommand AccountsStartCommand();
+[[nodiscard]] cCliCommand BalancesCommand();
+[[nodiscard]] cCliCommand CheckCommand();
+[[nodiscard]] cCliCommand DemoCommand();
+
+[[nodiscard]] int Backup(const cCliContext& context);
+[[nodiscard]] int Restore(const cCliContext& context);
+[[nodiscard]] int Password(const cCliContext& context);
+
+inline constexpr int Any = std::numeric_limits<int>::max(); // number of arguments
+
+// The option that several commands share.
+[[nodiscard]] cCliOption Json();
 
 // All of them, with their options and their help.
 [[nodiscard]] const QList<cCliCommand>& All();

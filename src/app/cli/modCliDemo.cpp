@@ -9,7 +9,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-int modCliCommands::Demo(const cCliContext& context)
+namespace {
+
+int Run(const cCliContext& context)
 {
     const QString path = context.Call.Arguments().constFirst();
     bool isNumber = true;
@@ -41,4 +43,18 @@ int modCliCommands::Demo(const cCliContext& context)
         cText::Tr("{0}: Beispielhaushalt mit {1} Einträgen", {path, QString::number(book.Data().CountEntries())})
         + u'\n');
     return modExit::Done;
+}
+
+} // namespace
+
+cCliCommand modCliCommands::DemoCommand()
+{
+    return {.Name = u"demo"_s,
+            .Arguments = u"DATEI"_s,
+            .Help = cText::Tr("schreibt den Beispielhaushalt in eine neue Datenbank"),
+            .MinArguments = 1,
+            .MaxArguments = 1,
+            .Access = eCliAccess::None,
+            .Options = {{u"entries"_s, u"ANZAHL"_s, cText::Tr("größeres Buch mit so vielen Einträgen")}},
+            .Run = Run};
 }

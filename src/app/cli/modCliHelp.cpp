@@ -28,10 +28,16 @@ QString modCliHelp::All(const QList<cCliCommand>& commands)
     QString text = cText::Tr("Kontorelle auf der Befehlszeile\n\n"
                              "Aufruf: kontorelle-cli [--database DATEI] [--profile ORDNER] BEFEHL ...\n\n"
                              "Befehle:\n");
+    qsizetype longest = 10;
     for (const cCliCommand& command : commands) {
-        text += Column(command.Name, 10) + command.Help + u'\n';
+        longest = qMax(longest, command.Name.size());
     }
-    text += Column(u"hilfe"_s, 10) + cText::Tr("zeigt diese Hilfe; \"hilfe BEFEHL\" zeigt die eines Befehls") + u'\n';
+    const int width = static_cast<int>(longest);
+    for (const cCliCommand& command : commands) {
+        text += Column(command.Name, width) + command.Help + u'\n';
+    }
+    text +=
+        Column(u"hilfe"_s, width) + cText::Tr("zeigt diese Hilfe; \"hilfe BEFEHL\" zeigt die eines Befehls") + u'\n';
     return text
         + cText::Tr(
                "\nAllgemein:\n"

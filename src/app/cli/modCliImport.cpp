@@ -85,9 +85,7 @@ bool AssignAccounts(const cCliContext& context, const QStringList& numbers)
     return true;
 }
 
-} // namespace
-
-int modCliCommands::Import(const cCliContext& context)
+int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     cStatementImport reader(book.Data, book.Hive);
@@ -112,4 +110,21 @@ int modCliCommands::Import(const cCliContext& context)
         modConsole::Out(modJson::Array(objects) + u'\n');
     }
     return isDone ? modExit::Done : modExit::Failed;
+}
+
+} // namespace
+
+cCliCommand modCliCommands::ImportCommand()
+{
+    return {.Name = u"import"_s,
+            .Arguments = u"DATEI..."_s,
+            .Help = cText::Tr("liest Kontoauszüge ein; die Umsätze warten dann auf das Buchen"),
+            .MinArguments = 1,
+            .MaxArguments = Any,
+            .Access = eCliAccess::Write,
+            .Options = {{u"account"_s, u"NUMMER"_s, cText::Tr("eigene Kontonummer für Auszüge, die keine nennen")},
+                        {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
+                        {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
+                        Json()},
+            .Run = Run};
 }

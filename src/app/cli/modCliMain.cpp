@@ -18,7 +18,7 @@ namespace {
 int ShowHelp(const cCliCall& call)
 {
     const QList<cCliCommand>& commands = modCliCommands::All();
-    const QString topic = call.Command() != nullptr ? call.Command()->Name : call.Arguments().value(0);
+    const QString topic = call.Command() != nullptr ? call.Command()->Name : call.Arguments().join(u' ');
     const auto command =
         std::find_if(commands.begin(), commands.end(), [&](const cCliCommand& known) { return known.Name == topic; });
     if (command == commands.end() && !topic.isEmpty()) {
@@ -47,8 +47,8 @@ int modCliMain::Run(const QStringList& arguments)
     cConsoleUser user;
     cSystemClock clock;
     std::unique_ptr<cCliBook> book;
-    if (call.Command()->Access != eCliAccess::None) {
-        book = cCliBook::Open(call.Value(u"database"_s), call.Command()->Access, {shell, registry, user, clock});
+    if (call.Access() != eCliAccess::None) {
+        book = cCliBook::Open(call.Value(u"database"_s), call.Access(), {shell, registry, user, clock});
         if (!book) {
             return modExit::Failed;
         }

@@ -21,6 +21,31 @@ cJsonObject modCliRecord::Entry(const cEntryItem& entry)
     return json;
 }
 
+cJsonObject modCliRecord::FixMod(const cEntryItemFixMod& fixMod)
+{
+    cJsonObject json;
+    json.Number(u"ID"_s, fixMod.ID)
+        .Number(u"EntryRelation"_s, fixMod.EntryRelation)
+        .Text(u"EntryModType"_s, fixMod.EntryModType)
+        .Date(u"EntryStartDate"_s, fixMod.EntryStartDate)
+        .Date(u"EntryEndDate"_s, fixMod.EntryEndDate)
+        .Amount(u"EntryValue"_s, fixMod.EntryValue)
+        .Text(u"EntryComment"_s, fixMod.EntryComment);
+    return json;
+}
+
+cJsonObject modCliRecord::Template(const cTemplateItem& item)
+{
+    cJsonObject json;
+    json.Number(u"ID"_s, item.ID)
+        .Text(u"TemplateCategory"_s, item.TemplateCategory)
+        .Text(u"TemplateName"_s, item.TemplateName)
+        .Text(u"TemplateComment"_s, item.TemplateComment)
+        .Number(u"TemplatePriority"_s, modTemplate::Priority(item))
+        .Truth(u"TemplateVisible"_s, modTemplate::IsVisible(item));
+    return json;
+}
+
 cJsonObject modCliRecord::Row(const cImportEntry& row)
 {
     cJsonObject json;

@@ -17,9 +17,7 @@ QString State(const cImportEntry& row)
                               : cText::Tr("offen");
 }
 
-} // namespace
-
-int modCliCommands::Staged(const cCliContext& context)
+int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     cImportEntryList rows = book.Hive.GetImportHive().getImportEntryList();
@@ -47,4 +45,14 @@ int modCliCommands::Staged(const cCliContext& context)
     }
     modConsole::Out(table.ToString());
     return modExit::Done;
+}
+
+} // namespace
+
+cCliCommand modCliCommands::StagedCommand()
+{
+    return {.Name = u"staged"_s,
+            .Help = cText::Tr("zeigt die eingelesenen Umsätze"),
+            .Options = {{u"open"_s, {}, cText::Tr("nur die noch nicht gebuchten")}, Json()},
+            .Run = Run};
 }

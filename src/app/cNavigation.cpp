@@ -1,0 +1,223 @@
+#include "app/cNavigation.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "core/cBook.h"
+#include "core/cSettings.h"
+#include "views/cEntryExport.h"
+#include "views/cEntryExtract.h"
+#include "views/cImportReview.h"
+#include "views/cMainModel.h"
+#include "views/cNationalSettings.h"
+#include "views/cPasswordFlow.h"
+#include "views/cSearchModel.h"
+#include "views/cSeriesChange.h"
+#include "views/cTemplateManager.h"
+#include "views/modViewText.h"
+#include "windows/cListPrinter.h"
+#include "windows/cProgressBox.h"
+#include "windows/frmBuchung.h"
+#include "windows/frmImport.h"
+#include "windows/frmKategorie.h"
+#include "windows/frmKorrektur.h"
+#include "windows/frmLaender.h"
+#include "windows/frmMain.h"
+#include "windows/frmPasswort.h"
+#include "windows/frmSuche.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+
+cNavigation::cNavigation(const cParts& parts)
+    : m_parts(parts),
+      m_books({parts.Book, parts.Configuration, parts.User, parts.Rescue, parts.Shell, parts.Clock, parts.Host}),
+      m_printer(parts.User)
+{
+}
+
+cNavigation::~cNavigation() = default;
+
+void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& window)
+{
+    m_model = &model;
+    m_review = &review;
+    m_window = &window;
+    QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged);
+    QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged);
+    QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::Refresh);
+    QObject::connect(&window, &frmMain::StatementsShown, &review, [this] { (void)Statements(); });
+    QObject::connect(&window, &frmMain::FilesDropped, &review,
+                     [this](const QStringList& paths) { Statements().ImportFiles(paths); });
+}
+
+QWidget* cNavigation::Parent() const
+{
+    QWidget* front = QApplication::activeWindow();
+    return front != nullptr ? front : m_window;
+}
+
+frmImport& cNavigation::Statements()
+{
+    if (m_statements == nullptr) {
+        m_statements = new frmImport(*m_review, &m_window->StatementsPage());
+        m_window->StatementsPage().layout()->addWidget(m_statements);
+    }
+    return *m_statements;
+}
+
+void cNavigation::ShowStatements()
+{
+    m_window->ShowStatements();
+}
+
+void cNavigation::BookChanged()
+{
+    m_model->BookChanged();
+}
+
+void cNavigation::BookSwitched()
+{
+    delete m_search;
+    m_search = nullptr;
+    m_searchModel.reset();
+}
+
+void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields)
+{
+    if (!fields) {
+        BookChanged(); // the entry is gone, so the list is old
+        return;
+    }
+    frmBuchung form(editor, *fields, Parent());
+    QObject::connect(&form, &frmBuchung::EntrySaved, m_model, &cMainModel::BookChanged);
+    QObject::connect(&form, &frmBuchung::CalculatorRequested, m_model, &cMainModel::StartCalculator);
+    form.exec();
+}
+
+void cNavigation::OpenNewEntry()
+{
+    cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
+    OpenEditor(editor, editor.Start(m_model->View().FilterAccount()));
+}
+
+void cNavigation::OpenEntry(int entryId, QDate day)
+{
+    cSeriesChange series(m_parts.Book.Data(), m_parts.User);
+    cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
+    switch (series.AskWhatToEdit(entryId, day)) {
+    case cSeriesChange::eEdit::Nothing: break;
+    case cSeriesChange::eEdit::Period: OpenCorrection(entryId, day); break;
+    case cSeriesChange::eEdit::FromHere: OpenEditor(editor, editor.LoadFrom(entryId, day)); break;
+    case cSeriesChange::eEdit::Entry: OpenEditor(editor, editor.Load(entryId)); break;
+    }
+}
+
+void cNavigation::OpenCorrection(int entryId, QDate day)
+{
+    cSeriesChange series(m_parts.Book.Data(), m_parts.User);
+    const std::optional<cSeriesChange::cPeriodFields> fields = series.StartPeriod(entryId, day);
+    if (!fields) {
+        BookChanged();
+        return;
+    }
+    frmKorrektur form(series, *fields, Parent());
+    QObject::connect(&form, &frmKorrektur::CorrectionSaved, m_model, &cMainModel::BookChanged);
+    form.exec();
+}
+
+void cNavigation::OpenStartBalance()
+{
+    cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
+    OpenEditor(editor, editor.StartBalance(m_model->View().FilterAccount()));
+}
+
+void cNavigation::OpenTemplates(const QString& path)
+{
+    cTemplateManager manager(
+        {m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User, m_parts.Clock});
+    QObject::connect(&manager, &cTemplateManager::BookChanged, m_model, &cMainModel::BookChanged);
+    QObject::connect(&manager, &cTemplateManager::AccountRenamed, m_model, &cMainModel::AccountRenamed);
+    frmKategorie form(manager, Parent());
+    if (!path.isEmpty()) {
+        form.Select(path);
+    }
+    form.exec();
+}
+
+void cNavigation::OpenSearch()
+{
+    if (m_search == nullptr) {
+        m_searchModel = std::make_unique<cSearchModel>(
+            cSearchModel::cParts{m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.Clock});
+        m_search = new frmSuche(*m_searchModel, m_window);
+        QObject::connect(m_search, &frmSuche::EditRequested, m_model,
+                         [this](const cEntryListModel::cKey& key) { OpenEntry(key.ID, key.Day); });
+        QObject::connect(m_search, &frmSuche::DeleteRequested, m_model, &cMainModel::Delete);
+        QObject::connect(m_model, &cMainModel::BookRefreshed, m_search, &frmSuche::Refresh);
+        QObject::connect(m_model, &cMainModel::LayoutReset, m_search, &frmSuche::ResetLayout);
+    }
+    m_search->Present();
+}
+
+void cNavigation::OpenImport()
+{
+    ShowStatements();
+    Statements().ChooseFiles();
+}
+
+void cNavigation::OpenPassword()
+{
+    cPasswordFlow flow(m_parts.Book.Data(), m_parts.Configuration, m_parts.User);
+    frmPasswort form(flow, Parent());
+    form.exec();
+}
+
+void cNavigation::OpenNationalSettings()
+{
+    cNationalSettings settings(
+        {m_parts.Book.Data(), m_parts.Configuration, m_parts.Format, m_parts.User, m_parts.Clock});
+    QObject::connect(&settings, &cNationalSettings::CultureChanged, m_model, &cMainModel::BookChanged);
+    QObject::connect(&settings, &cNationalSettings::CultureChanged, m_review, &cImportReview::Refresh);
+    frmLaender form(settings, Parent());
+    form.exec();
+}
+
+void cNavigation::Export()
+{
+    cEntryExtract extract = cEntryExtract::From(m_model->Entries());
+    extract.Title = modViewText::Title(m_model->View());
+    extract.View = modViewText::Lines(m_model->View(), m_model->ShownRange());
+    cProgressBox progress(Parent(), cText::Tr("Die Einträge werden geschrieben …"));
+    cEntryExport(m_parts.User, m_parts.Format, progress).Run(extract, m_parts.Clock.Today());
+}
+
+void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))
+{
+    cListPrinter pages(m_model->Entries(), m_window->EntryColumns(), cListPrinter::HeadOf(*m_model));
+    (m_printer.*way)(pages, Parent());
+}
+
+void cNavigation::Open(modCommand::eId command)
+{
+    switch (command) {
+    case modCommand::ImportStatement: OpenImport(); break;
+    case modCommand::Export: Export(); break;
+    case modCommand::Print: Print(&cQtPrinter::Print); break;
+    case modCommand::PrintPreview: Print(&cQtPrinter::Preview); break;
+    case modCommand::ChooseColumns: m_window->ShowColumnMenu(); break;
+    case modCommand::Password: OpenPassword(); break;
+    case modCommand::MakeBackup: m_books.MakeBackup(); break;
+    case modCommand::RestoreBackup: m_books.LoadBackup(); break;
+    case modCommand::SwitchDatabase: m_books.SwitchBook(); break;
+    case modCommand::NewDatabase: m_books.NewBook(); break;
+    case modCommand::Search: OpenSearch(); break;
+    case modCommand::StartBalance: OpenStartBalance(); break;
+    case modCommand::National: OpenNationalSettings(); break;
+    default: break; // done by the model itself
+    }
+}
+
+void cNavigation::EndProgram()
+{
+    m_window->close();
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "app/cQtPrinter.h"
+#include "views/cBookFlow.h"
+#include "views/cEntryEditor.h"
+#include "views/cNavigator.h"
+
+#include <QString>
+
+#include <memory>
+
+class cAmountFormat;
+class cBook;
+class cBookHost;
+class cClock;
+class cConfiguration;
+class cImportReview;
+class cMainModel;
+class cRescue;
+class cSearchModel;
+class cShell;
+class cUser;
+class frmImport;
+class frmMain;
+class frmSuche;
+struct cEntryFields;
+
+// Opens the windows that commands ask for and tells the main model when they have changed the book.
+class cNavigation final : public cNavigator
+{
+public:
+    struct cParts
+    {
+        cBook& Book;
+        cConfiguration& Configuration;
+        cAmountFormat& Format;
+        cUser& User;
+        cRescue& Rescue;
+        cShell& Shell;
+        const cClock& Clock;
+        cBookHost& Host;
+    };
+
+    explicit cNavigation(const cParts& parts);
+    ~cNavigation() override;
+
+    // The windows and models that stay open; called once they are there.
+    void Connect(cMainModel& model, cImportReview& review, frmMain& window);
+    void BookSwitched(); // another file is open: what still shows the former one is closed
+
+    [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
+    void ShowStatements();                 // brings the page for bank statements to the front
+
+    void OpenNewEntry() override;
+    void OpenEntry(int entryId, QDate day) override;
+    void OpenCorrection(int entryId, QDate day) override;
+    void OpenTemplates(const QString& path) override;
+    void Open(modCommand::eId command) override;
+    void EndProgram() override;
+
+private:
+    [[nodiscard]] QWidget* Parent() const; // of a window that is opened now: the one in front
+    void OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields);
+    void OpenStartBalance();
+    void OpenSearch();
+    void OpenImport();
+    void OpenPassword();
+    void OpenNationalSettings();
+    void Export();
+    void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
+    void BookChanged();
+
+    cParts m_parts;
+    cBookFlow m_books;
+    cQtPrinter m_printer;
+    cMainModel* m_model = nullptr;
+    cImportReview* m_review = nullptr;
+    frmMain* m_window = nullptr;
+    frmImport* m_statements = nullptr;
+    std::unique_ptr<cSearchModel> m_searchModel; // from the first search on
+    frmSuche* m_search = nullptr;
+};

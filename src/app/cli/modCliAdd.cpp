@@ -1,0 +1,24 @@
+#include "app/cli/cCliEntryForm.h"
+#include "app/cli/modCliCommands.h"
+#include "base/cText.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+int Run(const cCliContext& context)
+{
+    return cCliEntryForm(context).Add();
+}
+
+} // namespace
+
+cCliCommand modCliCommands::AddCommand()
+{
+    return {.Name = u"add"_s,
+            .Help = cText::Tr("legt einen Eintrag an; was fehlt, kommt von der Kategorie oder vom letzten Eintrag mit "
+                              "diesem Text, das Konto sonst vom ersten und der Tag von heute"),
+            .Access = eCliAccess::Write,
+            .Options = cCliEntryForm::Options(),
+            .Run = Run};
+}

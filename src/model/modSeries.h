@@ -1,0 +1,32 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
+
+#include <QDate>
+#include <QList>
+
+#include <optional>
+
+// Questions about one recurring entry as it stands in the book, not expanded.
+namespace modSeries {
+
+// True when first day, last day or interval differ.
+[[nodiscard]] bool HasOtherPeriod(const cEntryItem& a, const cEntryItem& b);
+
+// The occurrence whose period holds the day, uncorrected; empty when there is none.
+[[nodiscard]] std::optional<cEntryItem> OccurrenceAt(const cEntryItem& series, QDate day);
+
+// The first `count` days of the series from `from` on; fewer when it ends before.
+[[nodiscard]] QList<QDate> Next(const cEntryItem& series, QDate from, int count);
+
+// Number of occurrences up to the end of the series; 0 when it has no end.
+[[nodiscard]] int Count(const cEntryItem& series);
+
+// True when the correction's period is the period of one of the occurrences.
+[[nodiscard]] bool HasPeriod(const cEntryItem& series, const cEntryItemFixMod& fixMod);
+
+// An empty correction for the period of an occurrence.
+[[nodiscard]] cEntryItemFixMod CorrectionFor(const cEntryItem& occurrence);
+
+} // namespace modSeries

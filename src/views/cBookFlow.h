@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class cBook;
+class cBookHost;
+class cClock;
+class cConfiguration;
+class cRescue;
+class cShell;
+class cUser;
+
+// The commands around whole books with all their questions: a new one, another one, a backup and the way back.
+class cBookFlow
+{
+public:
+    struct cParts
+    {
+        cBook& Book;
+        cConfiguration& Configuration;
+        cUser& User;
+        cRescue& Rescue;
+        cShell& Shell;
+        const cClock& Clock;
+        cBookHost& Host;
+    };
+
+    static constexpr int MostBooks = 10; // kept in the list
+
+    explicit cBookFlow(const cParts& parts) : m_parts(parts) {}
+
+    void NewBook();    // "Neue Datenbank"
+    void SwitchBook(); // "Datenbank wechseln"
+    void MakeBackup(); // "Datensicherung erstellen"
+    void LoadBackup(); // "Datensicherung laden"
+
+    // The other books that can be switched to, the one used last first.
+    [[nodiscard]] QStringList Books() const;
+
+private:
+    [[nodiscard]] QString AskForNewPath() const;
+    [[nodiscard]] bool CopyTemplate(const QString& path) const;
+    void ShowCannotCreate(const QString& path) const;
+    [[nodiscard]] QString AskForBook() const;
+    [[nodiscard]] bool IsWanted(const QString& backup) const;
+    void Open(const QString& path) const;
+    void Remember(const QString& former, const QString& current) const;
+    [[nodiscard]] bool IsOpenBook(const QString& path) const;
+    [[nodiscard]] QString LastFolder() const;
+    [[nodiscard]] QString BackupFolder() const;
+
+    cParts m_parts;
+};

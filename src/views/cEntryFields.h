@@ -1,0 +1,49 @@
+#pragma once
+
+#include "model/cEntryItemFixMod.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+// Which form the editor shows.
+enum class eEntryFace { Normal, Split, StartBalance };
+
+// What came of saving. BadAmount, BadPart, BadDate and BadEnd come without message: the field is coloured and keeps the
+// focus. Refused has shown its message, or the user has declined.
+enum class eEntrySaved { Saved, BadAmount, BadPart, BadDate, BadEnd, Refused };
+
+// One row of the split table.
+struct cSplitPart
+{
+    int ID = 0; // of the stored part; 0 for a new one
+    QString Category;
+    QString Description;
+    QString Amount; // as typed, sums too; below zero it is of the opposite kind (a deposit returned at the checkout)
+
+    bool operator==(const cSplitPart&) const = default;
+};
+
+// The fields of the entry editor as the user sees them.
+struct cEntryFields
+{
+    eEntryFace Face = eEntryFace::Normal;
+    QString Amount;               // as typed; in the split face the whole amount, in the start-balance face with sign
+    bool IsAmountTyped = false;   // the user has edited the amount
+    bool IsAccountChosen = false; // the user has chosen the account, so that a proposal leaves it alone
+    QString Description;
+    QString Category; // path; empty while none is chosen
+    QString Type;     // stored word; empty while none is chosen
+    QString Account;
+    QString Target;   // only for transfers
+    QDate Date;       // invalid means today
+    QString DateText; // the day as typed; what stands here counts instead of Date
+    bool HasEnd = false;
+    QDate End;                        // only with HasEnd
+    QString EndText;                  // the last day as typed; what stands here counts instead of End
+    QString Interval;                 // stored word; empty while none is chosen
+    QList<cSplitPart> Parts;          // only in the split face; rows without any text are passed over
+    cEntryItemFixModList Corrections; // of an existing series, by period; taken over on saving
+
+    bool operator==(const cEntryFields&) const = default;
+};

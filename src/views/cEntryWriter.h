@@ -1,0 +1,45 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
+
+#include <QDate>
+#include <QList>
+
+class cDataAccess;
+class cUser;
+
+// One entry to store. The ID says which stored row it replaces; 0 for a new one.
+struct cEntryWrite
+{
+    cEntryItem Entry;
+    cEntryItemFixModList Corrections; // all that it is to have afterwards
+};
+
+// Stores the rows of one entry (one, or the parts of a split one) with their corrections, and asks before corrections
+// are lost.
+class cEntryWriter
+{
+public:
+    cEntryWriter(cDataAccess& data, cUser& user) : m_data(data), m_user(user) {}
+
+    // Rows whose period changed lose their corrections: asked before anything is written. Clears those corrections.
+    // False when the user declines. `from` as in Write.
+    [[nodiscard]] bool AskLosses(QList<cEntryWrite>& rows, QDate from);
+
+    // Adds, changes and removes. With a valid `from`, the stored series end the day before and new ones begin; what was
+    // assigned or corrected from then on goes along. Sets the IDs. On failure the caller takes its undo step back.
+    [[nodiscard]] bool Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from);
+
+private:
+    [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
+    [[nodiscard]] bool WriteRow(cEntryWrite& row);
+    [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);
+    [[nodiscard]] bool EndBefore(int id, QDate from);
+    [[nodiscard]] bool MoveImports(int oldId, int newId, QDate from);
+    [[nodiscard]] bool WriteCorrections(const cEntryWrite& row);
+    [[nodiscard]] bool MarkGroup(QList<cEntryWrite>& rows);
+
+    cDataAccess& m_data;
+    cUser& m_user;
+};

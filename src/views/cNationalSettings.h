@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+class cAmountFormat;
+class cClock;
+class cConfiguration;
+class cDataAccess;
+class cUser;
+
+// The language of the program and the form of its numbers and amounts, as they can be chosen.
+class cNationalSettings final : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct cParts
+    {
+        cDataAccess& Data;
+        cConfiguration& Configuration;
+        cAmountFormat& Format;
+        cUser& User;
+        const cClock& Clock;
+    };
+
+    // One item of a list: what is stored and what is shown.
+    struct cOption
+    {
+        QString Stored;
+        QString Shown;
+    };
+
+    // The stored texts.
+    struct cFields
+    {
+        QString Language;
+        QString Format;
+        QString Currency; // empty: as the format has it
+    };
+
+    // What the program writes with certain fields.
+    struct cPreview
+    {
+        QString Amount;
+        QString Negative;
+        QString Date;
+    };
+
+    explicit cNationalSettings(const cParts& parts, QObject* parent = nullptr);
+
+    [[nodiscard]] static QList<cOption> Languages();
+    [[nodiscard]] static QList<cOption> Formats();
+    [[nodiscard]] static QList<cOption> Currencies();
+
+    // The fields in force; a book that says nothing is German.
+    [[nodiscard]] cFields Current() const;
+    [[nodiscard]] cPreview Preview(const cFields& fields) const;
+
+    // Stores the fields; amounts follow at once, another language with the next start, which is said. False when the
+    // book refuses.
+    [[nodiscard]] bool Save(const cFields& fields);
+
+Q_SIGNALS:
+    void CultureChanged(); // amounts on the screen are old
+
+private:
+    cParts m_parts;
+};

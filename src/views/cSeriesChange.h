@@ -1,0 +1,59 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+
+class cDataAccess;
+class cUser;
+
+// What can be done to one occurrence of a series from the entry list. `day` is the day of the occurrence. Every writing
+// call is one step that can be undone, and false when nothing was changed.
+class cSeriesChange
+{
+public:
+    // What the user wants to change. Entry: the entry as a whole (cEntryEditor::Load). FromHere:
+    // cEntryEditor::LoadFrom. Period: the amount of this occurrence only (StartPeriod and SavePeriod).
+    enum class eEdit { Nothing, Period, FromHere, Entry };
+
+    // The small form for the amount of one period.
+    struct cPeriodFields
+    {
+        int EntryId = 0;
+        QDate Day;      // of the occurrence
+        QString Title;  // "'Miete' vom 01.03.2026 bis 31.03.2026"
+        QString Amount; // as typed, sums too; the amount that counts now
+        QString Comment;
+        bool IsCorrected = false; // there is a correction that can be removed
+    };
+
+    enum class eSaved { Saved, BadAmount, Refused };
+
+    cSeriesChange(cDataAccess& data, cUser& user) : m_data(data), m_user(user) {}
+
+    // Asks what is meant when an occurrence is edited. One-off entries are Entry without question; the first occurrence
+    // is not offered FromHere, which would be the whole series.
+    [[nodiscard]] eEdit AskWhatToEdit(int entryId, QDate day);
+
+    // True when the entry is a series with an occurrence on this day.
+    [[nodiscard]] bool IsOccurrence(int entryId, QDate day);
+
+    [[nodiscard]] std::optional<cPeriodFields> StartPeriod(int entryId, QDate day);
+    [[nodiscard]] eSaved SavePeriod(const cPeriodFields& fields);
+
+    [[nodiscard]] bool CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment);
+    [[nodiscard]] bool SkipPeriod(int entryId, QDate day); // amount 0, comment "Ausgelassen"
+    [[nodiscard]] bool RemoveCorrection(int entryId, QDate day);
+    [[nodiscard]] std::optional<cEntryItemFixMod> Correction(int entryId, QDate day);
+
+private:
+    [[nodiscard]] std::optional<cEntryItem> Occurrence(int entryId, QDate day);
+    [[nodiscard]] bool Store(const cEntryItem& occurrence, qint64 cents, const QString& comment, const QString& step);
+
+    cDataAccess& m_data;
+    cUser& m_user;
+};

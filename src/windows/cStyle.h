@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QProxyStyle>
+
+// The style of the desktop with the program's own pictures for what overflowing bars and the filter's clear button
+// show. The style's own ones are read from files as soon as a bar is made, visible or not, and with them every image
+// plugin of the toolkit: a good part of the whole start.
+class cStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                     const QWidget* widget) const override;
+};

@@ -1,0 +1,135 @@
+#include "app/cQtRegistry.h"
+#include "core/cConfiguration.h"
+#include "core/modPassword.h"
+#include "store/cDatabase.h"
+#include "support/cTestFile.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cRun
+{
+    int Code = -1;
+    QString Out;
+    QString Error;
+};
+
+} // namespace
+
+// The commands around whole books, end to end.
+class testCliBackup final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void ThereAndBack();
+    void NothingIsReplacedUnasked();
+    void DamagedBook();
+    void ForgottenPassword();
+
+private:
+    // Runs with a profile of its own in the temporary folder.
+    [[nodiscard]] cRun Run(const QStringList& arguments) const;
+    [[nodiscard]] QString Path(const QString& name) const { return m_folder->filePath(name); }
+    [[nodiscard]] QString Book() const { return Path(u"Veltrino Kontorelle/data.db"_s); }
+    [[nodiscard]] QString Entries() const;
+    void AddEntry() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void testCliBackup::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QCOMPARE(Run({u"balances"_s}).Code, 0); // makes the book
+    AddEntry();
+}
+
+cRun testCliBackup::Run(const QStringList& arguments) const
+{
+    QProcess process;
+    process.start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
+    if (!process.waitForFinished()) {
+        return {};
+    }
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+}
+
+QString testCliBackup::Entries() const
+{
+    cDatabase database;
+    database.Open(Book(), eOpenMode::ReadOnly);
+    return cTestFile::Value(database, "SELECT COUNT(*) FROM data");
+}
+
+void testCliBackup::AddEntry() const
+{
+    cTestFile::Run(Book(), "INSERT INTO data (EntryDate) VALUES ('2026-01-31')");
+}
+
+void testCliBackup::ThereAndBack()
+{
+    const QString backup = Path(u"one.backup"_s);
+    const cRun made = Run({u"backup"_s, backup});
+    QVERIFY2(made.Code == 0, qPrintable(made.Error));
+    QVERIFY2(made.Out.contains("one.backup: 1 Eintrag, der letzte vom 31.01.2026"_L1), qPrintable(made.Out));
+    QVERIFY(!QFile::permissions(backup).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
+    QVERIFY(!QFile::permissions(Book()).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
+    AddEntry();
+    const cRun asked = Run({u"restore"_s, backup});
+    QCOMPARE(asked.Code, 1);
+    QVERIFY2(asked.Out.contains("1 Eintrag"_L1) && asked.Out.contains("2 Einträge"_L1), qPrintable(asked.Out));
+    QVERIFY(asked.Error.contains("--yes"_L1));
+    QCOMPARE(Entries(), u"2"_s);
+    const cRun restored = Run({u"restore"_s, backup, u"--yes"_s});
+    QVERIFY2(restored.Code == 0, qPrintable(restored.Error));
+    QVERIFY(restored.Out.contains(".ersetzt"_L1));
+    QCOMPARE(Entries(), u"1"_s);
+}
+
+void testCliBackup::NothingIsReplacedUnasked()
+{
+    const QString backup = Path(u"old.backup"_s);
+    cTestFile::Write(backup, "old");
+    QCOMPARE(Run({u"backup"_s, backup}).Code, 1);
+    QCOMPARE(cTestFile::Bytes(backup), QByteArray("old"));
+    QVERIFY(Run({u"restore"_s, backup, u"--yes"_s}).Error.contains("beschädigt"_L1));
+    QVERIFY(Run({u"restore"_s, Book(), u"--yes"_s}).Error.contains("die Datenbank selbst"_L1));
+    QCOMPARE(Run({u"backup"_s, backup, u"--yes"_s}).Code, 0);
+    QCOMPARE(Entries(), u"1"_s);
+}
+
+// A book that no command can open any more is what backups are for.
+void testCliBackup::DamagedBook()
+{
+    const QString backup = Path(u"one.backup"_s);
+    QCOMPARE(Run({u"backup"_s, backup}).Code, 0);
+    cTestFile::Write(Book(), QByteArray("damaged").repeated(300));
+    const cRun restored = Run({u"restore"_s, backup, u"--yes"_s});
+    QVERIFY2(restored.Code == 0 && restored.Out.contains("beschädigt"_L1), qPrintable(restored.Error));
+    QCOMPARE(Entries(), u"1"_s);
+}
+
+void testCliBackup::ForgottenPassword()
+{
+    cQtRegistry registry(m_folder->path());
+    QVERIFY(registry.Write(cConfiguration::RegistryKey, u"PasswortAktiv"_s, u"True"_s));
+    QVERIFY(registry.Write(cConfiguration::RegistryKey, u"Passwort"_s, modPassword::ToStored(u"geheim"_s)));
+    QCOMPARE(Run({u"backup"_s}).Code, 1);
+    QVERIFY(Run({u"password"_s}).Out.contains("mit Passwort"_L1));
+    QCOMPARE(Run({u"balances"_s}).Code, 1);
+    QCOMPARE(Run({u"password"_s, u"--remove"_s}).Code, 0);
+    QCOMPARE(Run({u"balances"_s}).Code, 0);
+    QVERIFY(Run({u"password"_s}).Out.contains("ohne Passwort"_L1));
+}
+
+QTEST_GUILESS_MAIN(testCliBackup)
+#include "testCliBackup.moc"

@@ -1,0 +1,131 @@
+#include "app/cQtPrinter.h"
+#include "app/modQtFilter.h"
+#include "windows/cPrintable.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Five pages that note when they are painted.
+class cFivePages final : public cPrintable
+{
+public:
+    [[nodiscard]] QString Title() const override { return u"Fünf"_s; }
+    int LayOut(QPaintDevice& /*device*/, const QRectF& area) override
+    {
+        Area = area;
+        return 5;
+    }
+    void PaintPage(QPainter& painter, int page) const override
+    {
+        painter.drawRect(Area);
+        Painted.append(page + 1);
+    }
+
+    QRectF Area;
+    mutable QList<int> Painted;
+};
+
+} // namespace
+
+class testQtPrinter final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PrintsWhatTheDialogAskedFor_data();
+    void PrintsWhatTheDialogAskedFor();
+    void TurnedPaperIsLaidOutAnew();
+    void FileThatCannotBeWritten();
+    void EndingFollowsTheChosenFilter_data();
+    void EndingFollowsTheChosenFilter();
+};
+
+void testQtPrinter::PrintsWhatTheDialogAskedFor_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("order");
+    QTest::addColumn<int>("copies");
+    QTest::addColumn<QList<int>>("pages");
+
+    const int forwards = QPrinter::FirstPageFirst;
+    QTest::newRow("all") << 0 << 0 << forwards << 1 << QList<int>{1, 2, 3, 4, 5};
+    QTest::newRow("range") << 2 << 3 << forwards << 1 << QList<int>{2, 3};
+    QTest::newRow("range beyond the end") << 4 << 99 << forwards << 1 << QList<int>{4, 5};
+    QTest::newRow("last page first") << 1 << 3 << int(QPrinter::LastPageFirst) << 1 << QList<int>{3, 2, 1};
+    QTest::newRow("copies of a printer that makes none itself") << 1 << 2 << forwards << 2 << QList<int>{1, 2, 1, 2};
+}
+
+void testQtPrinter::PrintsWhatTheDialogAskedFor()
+{
+    QFETCH(const int, from);
+    QFETCH(const int, to);
+    QFETCH(const int, order);
+    QFETCH(const int, copies);
+    QFETCH(const QList<int>, pages);
+    QTemporaryDir folder;
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath(u"a.pdf"_s));
+    printer.setFromTo(from, to);
+    printer.setPageOrder(static_cast<QPrinter::PageOrder>(order));
+    printer.setCopyCount(copies);
+    cFivePages content;
+    QVERIFY(cQtPrinter::Spool(printer, content));
+    QCOMPARE(content.Painted, pages);
+    QFile file(printer.outputFileName());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().count("/Type /Page\n"), pages.size());
+}
+
+void testQtPrinter::TurnedPaperIsLaidOutAnew()
+{
+    QTemporaryDir folder;
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath(u"a.pdf"_s));
+    cFivePages content;
+    QVERIFY(cQtPrinter::Spool(printer, content));
+    QVERIFY(content.Area.height() > content.Area.width());
+    printer.setPageOrientation(QPageLayout::Landscape);
+    QVERIFY(cQtPrinter::Spool(printer, content));
+    QVERIFY(content.Area.width() > content.Area.height());
+}
+
+void testQtPrinter::FileThatCannotBeWritten()
+{
+    QTemporaryDir folder;
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath(u"missing/a.pdf"_s));
+    cFivePages content;
+    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
+    QVERIFY(!cQtPrinter::Spool(printer, content));
+}
+
+void testQtPrinter::EndingFollowsTheChosenFilter_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("ending");
+
+    QTest::newRow("first") << u"CSV-Datei (*.csv)"_s << u"csv"_s;
+    QTest::newRow("second") << u"Excel-Datei (*.xlsx)"_s << u"xlsx"_s;
+    QTest::newRow("all files") << u"Alle Dateien (*)"_s << u"csv"_s;
+}
+
+void testQtPrinter::EndingFollowsTheChosenFilter()
+{
+    QFETCH(const QString, chosen);
+    QFETCH(const QString, ending);
+    QCOMPARE(modQtFilter::ChosenEnding(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|Alle Dateien|*.*"_s, chosen), ending);
+}
+
+QTEST_MAIN(testQtPrinter)
+#include "testQtPrinter.moc"

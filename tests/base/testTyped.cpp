@@ -1,0 +1,119 @@
+#include "base/modAmount.h"
+#include "base/modDayText.h"
+#include "base/modSum.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+// What people type into the fields for amounts and days.
+class testTyped final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Sums_data();
+    void Sums();
+    void PlainAmountsAsTheReader_data();
+    void PlainAmountsAsTheReader();
+    void Days_data();
+    void Days();
+};
+
+namespace {
+
+constexpr qint64 nothing = -999'999; // no number
+
+}
+
+void testTyped::Sums_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qint64>("cents");
+    const auto row = [](const char* text, qint64 cents) { QTest::newRow(text) << QString::fromUtf8(text) << cents; };
+    row("12,50+3,99*2-1", 1948);
+    row("(10+5)*2/3", 1000);
+    row("2*-3", -600);
+    row("5--3", 800);
+    row("10-3-2", 500);
+    row("100/2/5", 1000);
+    row("10/3", 333);
+    row("0,01/2", 1);
+    row("-0,01/2", -1);
+    row("1.005", 100500);
+    row("1,005", 101);
+    row("12.50", 1250);
+    row("1.5", 150);
+    row("0.125", 13);
+    row("1234.567", 123457);
+    row("1.234.567,8", 123456780);
+    row("1,234.50", 123450);
+    row("1,234,567", 123456700);
+    row("3 × 4,20 €", 1260);
+    row(".5", 50);
+    row("12,50−", -1250);
+    for (const char* wrong : {"", "€", "zwölf", "12+*3", "(1+2", "1+2)", "5/0", "0/0", "1.2.3", "12.34,5", "1,2,3",
+                              "1,23.45,6", "--5", "5+3-", "1e5", "99999999999999"}) {
+        row(wrong, nothing);
+    }
+}
+
+void testTyped::Sums()
+{
+    QFETCH(QString, text);
+    QTEST(modSum::Evaluate(text).value_or(nothing), "cents");
+}
+
+void testTyped::PlainAmountsAsTheReader_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char* text : {"0", "12", "12,5", "12,50", "-12,50", "12,50-", "+12,50", "12,50+", "1.234,50", "1.234",
+                             "1.234.567", ",50", "5,", " 1 234,50 ", "1,005", "12,345", "0,285", "(12,50)"}) {
+        QTest::newRow(text) << QString::fromUtf8(text);
+    }
+}
+
+void testTyped::PlainAmountsAsTheReader()
+{
+    QFETCH(QString, text);
+    QCOMPARE(modSum::Evaluate(text).value_or(nothing), modAmount::ToCents(modAmount::ReadGerman(text)));
+}
+
+void testTyped::Days_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QDate>("day");
+    const auto row = [](const char* text, QDate day) { QTest::newRow(text) << QString::fromUtf8(text) << day; };
+    row("3", QDate(2026, 3, 3));
+    row("31.", QDate(2026, 3, 31)); // still to come, and all the same in this month
+    row("3.5", QDate(2026, 5, 3));
+    row(" 3. 5. ", QDate(2026, 5, 3));
+    row("3,5", QDate(2026, 5, 3));
+    row("3.5.26", QDate(2026, 5, 3));
+    row("03.05.1999", QDate(1999, 5, 3));
+    row("0305", QDate(2026, 5, 3));
+    row("030527", QDate(2027, 5, 3));
+    row("03052027", QDate(2027, 5, 3));
+    row("2026-05-03", QDate(2026, 5, 3));
+    row("+7", QDate(2026, 3, 22));
+    row("-15", QDate(2026, 2, 28));
+    row("Heute", QDate(2026, 3, 15));
+    row("gestern", QDate(2026, 3, 14));
+    row("vorgestern", QDate(2026, 3, 13));
+    row("morgen", QDate(2026, 3, 16));
+    row("ÜBERMORGEN", QDate(2026, 3, 17));
+    row("uebermorgen", QDate(2026, 3, 17));
+    for (const char* wrong : {"", "0", "32", "30.2.", "3.13.", "3.5.6", "3..5", "305", ".", "+", "+x", "+99999", "bald",
+                              "3.5.26.1", "12345678901"}) {
+        row(wrong, QDate());
+    }
+}
+
+void testTyped::Days()
+{
+    QFETCH(QString, text);
+    QTEST(modDayText::Read(text, QDate(2026, 3, 15)), "day");
+}
+
+QTEST_GUILESS_MAIN(testTyped)
+#include "testTyped.moc"

@@ -1,0 +1,263 @@
+#include "core/cBackup.h"
+#include "core/cBackupPlan.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "store/cDatabase.h"
+#include "store/modBookFile.h"
+#include "store/modSchema.h"
+#include "support/cTestFile.h"
+#include "support/fakes.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr const char* twoEntries = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');"
+                                   "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2025-12-01', 'Giro');";
+
+bool IsPrivate(const QString& path)
+{
+    constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    return !QFile::permissions(path).testAnyFlags(others);
+}
+
+QStringList FilesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files, QDir::Name);
+}
+
+// An open book with two entries and what works on it.
+struct cMachine
+{
+    cMachine()
+    {
+        if (!Book.Open(File.Make(twoEntries))) {
+            qFatal("cannot open the book");
+        }
+        Configuration.SetDatabase(&Book.Settings());
+    }
+
+    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
+    [[nodiscard]] QString Copies() const { return File.Folder() + u"/Sicherungen"_s; }
+
+    cTestFile File;
+    cFakeShell Shell;
+    cFakeUser User;
+    cFakeClock Clock{QDate(2026, 3, 15)};
+    cFakeRegistry Registry;
+    cConfiguration Configuration{Registry};
+    cBook Book{User};
+    cBackup Backup{Book.Database(), Shell};
+    cBackupPlan Plan{{Shell, User, Clock}, Book, Configuration};
+};
+
+// A book with a page of its bank transactions overwritten: it opens, and only a look at all of it shows the damage.
+QString MakeHalfDamaged(const cTestFile& file)
+{
+    std::string rows;
+    for (int i = 0; i < 2000; ++i) {
+        rows += "INSERT INTO import (ImportDate, ImportPurpose) VALUES ('2026-01-01', 'Umsatz mit etwas Text');";
+    }
+    const QString path = file.Make(rows, u"half.db"_s);
+    QByteArray bytes = cTestFile::Bytes(path);
+    constexpr int page = 4096;
+    bytes.replace(bytes.size() / 2 / page * page, page, QByteArray(page, 'x'));
+    cTestFile::Write(path, bytes);
+    return path;
+}
+
+} // namespace
+
+class testBackup final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CopyHoldsTheBook() const
+    {
+        cMachine machine;
+        const QString target = machine.Path(u"neu/Kontorelle.backup"_s); // the folder is not there yet
+        QCOMPARE(machine.Backup.Make(target), QString());
+        QVERIFY(IsPrivate(target));
+        const modBookFile::cContent content = modBookFile::Look(target);
+        QVERIFY(modBookFile::IsSound(content));
+        QCOMPARE(content.Entries, 2);
+        QCOMPARE(content.LastEntry, QDate(2026, 1, 31));
+        QVERIFY(modBookFile::Describe(content).startsWith(u"2 Einträge, der letzte vom 31.01.2026, Datei vom "_s));
+
+        cTestFile::Write(target, "an older copy");
+        QCOMPARE(machine.Backup.Make(target), QString());
+        QCOMPARE(modBookFile::Look(target).Entries, 2);
+        QCOMPARE(FilesIn(machine.Path(u"neu"_s)), QStringList(u"Kontorelle.backup"_s));
+    }
+
+    void BadCopyReplacesNothing() const
+    {
+        cTestFile file;
+        cFakeShell shell;
+        cDatabase damaged;
+        QCOMPARE(modSchema::OpenValid(damaged, MakeHalfDamaged(file), eOpenMode::ReadWrite), eDatabaseFault::None);
+        const QString target = file.Path(u"good.backup"_s);
+        cTestFile::Write(target, "good");
+        QVERIFY(cBackup(damaged, shell).Make(target).startsWith(u"Die Kopie ist beschädigt"_s));
+        QCOMPARE(cTestFile::Bytes(target), QByteArray("good"));
+        QCOMPARE(FilesIn(file.Folder()), QStringList({u"good.backup"_s, u"half.db"_s}));
+    }
+
+    void BookIsNotItsOwnCopy() const
+    {
+        cMachine machine;
+        QVERIFY(QFile::link(machine.Path(u"data.db"_s), machine.Path(u"link.backup"_s)));
+        QVERIFY(!machine.Backup.Make(machine.Path(u"link.backup"_s)).isEmpty());
+        QVERIFY(!machine.Backup.Make(machine.Path(u"sub/../data.db"_s)).isEmpty());
+        QCOMPARE(modBookFile::Look(machine.Path(u"data.db"_s)).Entries, 2);
+    }
+
+    void RestoredFileKeepsTheFormerOne() const
+    {
+        cMachine machine;
+        const QString path = machine.Book.Path();
+        const QString backup = machine.File.Make({}, u"empty.backup"_s);
+        const cBackup::cRestored restored = machine.Backup.Restore(path, backup, QDate(2026, 3, 15));
+        QCOMPARE(restored.Problem, QString());
+        QCOMPARE(restored.Kept, path + u".2026-03-15.ersetzt"_s);
+        QCOMPARE(modBookFile::Look(path).Entries, 0);
+        QCOMPARE(modBookFile::Look(restored.Kept).Entries, 2);
+        QVERIFY(IsPrivate(path));
+        QVERIFY(machine.Backup.PutBack(path, restored.Kept));
+        QCOMPARE(modBookFile::Look(path).Entries, 2);
+        QCOMPARE(FilesIn(machine.File.Folder()), QStringList({u"data.db"_s, u"empty.backup"_s}));
+    }
+
+    void BadBackupLeavesTheBookOpen() const
+    {
+        cMachine machine;
+        const QString bad = machine.Path(u"bad.backup"_s);
+        cTestFile::Write(bad, "no database at all");
+        for (const QString& backup : {bad, MakeHalfDamaged(machine.File), machine.Path(u"missing.backup"_s)}) {
+            QVERIFY(!machine.Backup.Restore(machine.Book.Path(), backup, QDate(2026, 3, 15)).Problem.isEmpty());
+            QVERIFY(machine.Book.IsOpen());
+        }
+        QCOMPARE(FilesIn(machine.File.Folder()), QStringList({u"bad.backup"_s, u"data.db"_s, u"half.db"_s}));
+    }
+
+    void Surplus_data() const
+    {
+        QTest::addColumn<QStringList>("days");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QStringList>("surplus");
+        const QStringList week{u"2026-03-01"_s, u"2026-03-02"_s, u"2026-03-03"_s, u"2026-03-04"_s};
+        QTest::newRow("fewer than the count") << week << 4 << QStringList();
+        QTest::newRow("the oldest go") << week << 2 << QStringList({u"2026-03-02"_s, u"2026-03-01"_s});
+        QTest::newRow("the last of a month stays")
+            << QStringList({u"2025-03-07"_s, u"2026-01-30"_s, u"2026-01-31"_s, u"2026-02-01"_s, u"2026-03-01"_s}) << 1
+            << QStringList(u"2026-01-30"_s);
+    }
+
+    void Surplus() const
+    {
+        QFETCH(const QStringList, days);
+        QFETCH(const int, count);
+        QFETCH(const QStringList, surplus);
+        QList<QDate> list;
+        for (const QString& day : days) {
+            list.append(QDate::fromString(day, Qt::ISODate));
+        }
+        QStringList result;
+        const QList<QDate> found = cBackupPlan::Surplus(list, count);
+        for (const QDate day : found) {
+            result.append(day.toString(Qt::ISODate));
+        }
+        QCOMPARE(result, surplus);
+    }
+
+    void OneCopyADay() const
+    {
+        cMachine machine;
+        machine.Plan.RunIfDue();
+        const QStringList first(u"data-auto-2026-03-15.backup"_s);
+        QCOMPARE(FilesIn(machine.Copies()), first);
+        QCOMPARE(machine.Plan.Copies().size(), 1);
+        QVERIFY(QFile::remove(machine.Plan.Copies().constFirst().Path));
+        machine.Plan.RunIfDue();
+        QCOMPARE(FilesIn(machine.Copies()), QStringList());
+        machine.Clock.Day = QDate(2026, 3, 16);
+        machine.Plan.RunIfDue();
+        QCOMPARE(FilesIn(machine.Copies()), QStringList(u"data-auto-2026-03-16.backup"_s));
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    void OnlyOwnCopiesGo() const
+    {
+        cMachine machine;
+        const QStringList foreign{u"Kontorelle-2026-01-01.backup"_s,    u"andere-auto-2026-01-01.backup"_s,
+                                  u"data-auto-2026-01-01.backup.neu"_s, u"data-auto-2026-01-1.backup"_s,
+                                  u"data-auto-2026-01-01-2.backup"_s,   u"my data-auto-2026-01-01.backup"_s};
+        const QStringList own{u"data-auto-2026-01-01.backup"_s, u"data-auto-2026-01-02.backup"_s};
+        QVERIFY(QDir().mkpath(machine.Copies()));
+        for (const QString& name : foreign + own) {
+            cTestFile::Write(machine.Copies() + u'/' + name, "copy");
+        }
+        QVERIFY(machine.Plan.Save(1, {}));
+        machine.Plan.RunIfDue();
+        QStringList left = foreign + QStringList({own[1], u"data-auto-2026-03-15.backup"_s});
+        left.sort();
+        QStringList found = FilesIn(machine.Copies());
+        found.sort();
+        QCOMPARE(found, left);
+    }
+
+    // Two books of one name may share a folder that the user chose.
+    void SharedFolder() const
+    {
+        cMachine one;
+        cMachine two;
+        const QString shared = one.Path(u"shared"_s);
+        for (cMachine* machine : {&one, &two}) {
+            QVERIFY(machine->Plan.Save(10, shared));
+            machine->Plan.RunIfDue();
+            QCOMPARE(machine->Plan.Copies().size(), 1);
+        }
+        QCOMPARE(FilesIn(shared).size(), 2);
+    }
+
+    void FailureIsToldOnceADay() const
+    {
+        cMachine machine;
+        cTestFile::Write(machine.Copies(), "a file where the folder should be");
+        machine.Plan.RunIfDue();
+        machine.Plan.RunIfDue();
+        QCOMPARE(machine.User.Shown.size(), 1);
+        QVERIFY(machine.User.Shown[0].startsWith(u"Die automatische Datensicherung konnte nicht erstellt werden:"_s));
+        QVERIFY(QFile::remove(machine.Copies()));
+        machine.Plan.RunIfDue(); // a later try of the same day may work
+        QCOMPARE(machine.Plan.Copies().size(), 1);
+    }
+
+    void NothingToCopy_data() const
+    {
+        QTest::addColumn<QString>("count");
+        QTest::addColumn<QString>("sql");
+        QTest::newRow("switched off") << u"0"_s << QString();
+        QTest::newRow("no entries") << u"10"_s << u"DELETE FROM data"_s;
+    }
+
+    void NothingToCopy() const
+    {
+        QFETCH(const QString, count);
+        QFETCH(const QString, sql);
+        cMachine machine;
+        QVERIFY(machine.Book.Settings().Set(u"BackupCount"_s, count));
+        machine.Book.Database().ExecuteScript(sql.toStdString());
+        machine.Plan.RunIfDue();
+        QVERIFY(!QFileInfo::exists(machine.Copies()));
+    }
+};
+
+QTEST_GUILESS_MAIN(testBackup)
+#include "testBackup.moc"

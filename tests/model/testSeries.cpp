@@ -1,0 +1,116 @@
+#include "model/modRecurrence.h"
+#include "model/modSeries.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cEntryItem Series(const QString& interval, QDate start, QDate end = modRecurrence::OpenEnd)
+{
+    cEntryItem series;
+    series.EntryInterval = interval;
+    series.EntryDate = start;
+    series.EntryDateEnd = end;
+    return series;
+}
+
+} // namespace
+
+class testSeries final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OccurrenceOfADay_data();
+    void OccurrenceOfADay();
+    void NextDays();
+    void CountsToTheEnd();
+    void KeepsCorrectionsOnlyOfSamePeriods_data();
+    void KeepsCorrectionsOnlyOfSamePeriods();
+    void PartsThatMakeOneWhole();
+};
+
+void testSeries::OccurrenceOfADay_data()
+{
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<QDate>("occurrence");
+    QTest::newRow("month before its occurrence") << u"Monatlich"_s << QDate(2026, 5, 1) << QDate(2026, 5, 28);
+    QTest::newRow("week from its occurrence") << u"Wöchentlich"_s << QDate(2026, 2, 9) << QDate(2026, 2, 7);
+    QTest::newRow("year") << u"Jährlich"_s << QDate(2028, 1, 1) << QDate(2028, 1, 31);
+    QTest::newRow("before the series") << u"Wöchentlich"_s << QDate(2026, 1, 30) << QDate();
+    QTest::newRow("after its end") << u"Monatlich"_s << QDate(2029, 1, 1) << QDate();
+    QTest::newRow("one-off") << modWord::Einmalig << QDate(2026, 1, 31) << QDate();
+}
+
+void testSeries::OccurrenceOfADay()
+{
+    QFETCH(QString, interval);
+    QFETCH(QDate, day);
+    const cEntryItem series = Series(interval, QDate(2026, 1, 31), QDate(2028, 12, 31));
+    const std::optional<cEntryItem> found = modSeries::OccurrenceAt(series, day);
+    QTEST(found ? found->EntryDate : QDate(), "occurrence");
+}
+
+void testSeries::NextDays()
+{
+    const cEntryItem series = Series(u"Monatlich"_s, QDate(2026, 1, 31), QDate(2026, 5, 30));
+    QCOMPARE(modSeries::Next(series, QDate(2026, 2, 28), 3),
+             QList<QDate>({QDate(2026, 2, 28), QDate(2026, 3, 28), QDate(2026, 4, 28)}));
+    QCOMPARE(modSeries::Next(series, QDate(2026, 5, 1), 3), QList<QDate>({QDate(2026, 5, 28)}));
+    QVERIFY(modSeries::Next(Series(modWord::Einmalig, QDate(2026, 1, 31)), QDate(2026, 1, 1), 3).isEmpty());
+}
+
+void testSeries::CountsToTheEnd()
+{
+    QCOMPARE(modSeries::Count(Series(u"Monatlich"_s, QDate(2026, 1, 31), QDate(2026, 5, 30))), 5);
+    QCOMPARE(modSeries::Count(Series(u"Monatlich"_s, QDate(2026, 1, 31), QDate(1899, 12, 30))), 0);
+}
+
+void testSeries::KeepsCorrectionsOnlyOfSamePeriods_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<bool>("kept");
+    const QDate same(2026, 1, 5);
+    QTest::newRow("another day of the month") << u"Monatlich"_s << u"Monatlich"_s << QDate(2026, 1, 20) << true;
+    QTest::newRow("another day of the week") << u"Wöchentlich"_s << u"Wöchentlich"_s << QDate(2026, 1, 6) << false;
+    QTest::newRow("month becomes quarter") << u"Monatlich"_s << u"Alle 3 Monate"_s << same << false;
+    QTest::newRow("day becomes week") << u"Täglich"_s << u"Wöchentlich"_s << same << false;
+}
+
+void testSeries::KeepsCorrectionsOnlyOfSamePeriods()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, interval);
+    QFETCH(QDate, start);
+    const cEntryItem old = Series(before, QDate(2026, 1, 5));
+    const cEntryItemFixMod fixMod = modSeries::CorrectionFor(modSeries::OccurrenceAt(old, QDate(2026, 3, 9)).value());
+    QTEST(modSeries::HasPeriod(Series(interval, start), fixMod), "kept");
+}
+
+void testSeries::PartsThatMakeOneWhole()
+{
+    cEntryItem part = Series(modWord::Einmalig, QDate(2026, 1, 31));
+    part.EntryType = modWord::Ausgabe;
+    part.EntryValue = 1500;
+    cEntryItem other = part;
+    other.EntryType = modWord::Einnahme;
+    other.EntryValue = 500;
+    other.EntryDateEnd = QDate(); // stored without end by another program
+    QVERIFY(modSplit::IsWhole({part, other}));
+    QCOMPARE(modSplit::Net({part, other}), -1000);
+    other.EntryType = modWord::Umbuchung;
+    QVERIFY(!modSplit::IsWhole({part, other}));
+    other = part;
+    other.EntryDate = other.EntryDate.addDays(1);
+    QVERIFY(!modSplit::IsWhole({part, other}));
+}
+
+QTEST_GUILESS_MAIN(testSeries)
+#include "testSeries.moc"

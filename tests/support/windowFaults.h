@@ -1,0 +1,158 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMetaObject>
+#include <QStringList>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QTabBar>
+
+// What keeps somebody from using a window without mouse or eyes, or from reading it. All of it is looked up in the
+// widgets that are in sight.
+namespace windowFaults {
+
+inline QString Named(const QWidget& widget)
+{
+    QString text = QString::fromLatin1(widget.metaObject()->className()) + u' ' + widget.objectName();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        text += u' ' + button->text();
+    } else if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        text += u' ' + label->text();
+    }
+    return text;
+}
+
+template <typename tVisit>
+void ForEachVisible(const QWidget& window, tVisit visit)
+{
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->isVisibleTo(&window) && widget->window() == &window) {
+            visit(*widget);
+        }
+    }
+}
+
+// Controls that the tabulator key reaches and a screen reader has no name for.
+inline QStringList Nameless(const QWidget& window)
+{
+    QStringList faults;
+    ForEachVisible(window, [&](const QWidget& widget) {
+        const QWidget* parent = widget.parentWidget();
+        const bool isInner = qobject_cast<const QComboBox*>(parent) != nullptr
+            || qobject_cast<const QAbstractSpinBox*>(parent) != nullptr;
+        if (isInner || !widget.focusPolicy().testFlag(Qt::TabFocus)
+            || qobject_cast<const QTabBar*>(&widget) != nullptr) {
+            return;
+        }
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
+        if (face == nullptr || face->text(QAccessible::Name).isEmpty()) {
+            faults.append(QStringLiteral("no name: ") + Named(widget));
+        }
+    });
+    return faults;
+}
+
+inline void NoteMnemonic(const QString& text, const QString& owner, QStringList& used, QStringList& faults)
+{
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    if (key.isEmpty()) {
+        return;
+    }
+    if (used.contains(key.toString())) {
+        faults.append(QStringLiteral("%1 twice: %2 in %3").arg(key.toString(), text, owner));
+    }
+    used.append(key.toString());
+}
+
+// Letters that two controls in sight, or two lines of a menu, answer to.
+inline QStringList DoubleMnemonics(const QWidget& window)
+{
+    QStringList faults;
+    QStringList used;
+    ForEachVisible(window, [&](const QWidget& widget) {
+        if (const auto* label = qobject_cast<const QLabel*>(&widget); label != nullptr && label->buddy() != nullptr) {
+            NoteMnemonic(label->text(), Named(window), used, faults);
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+            NoteMnemonic(button->text(), Named(window), used, faults);
+        } else if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) {
+            NoteMnemonic(group->title(), Named(window), used, faults);
+        } else if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                NoteMnemonic(tabs->tabText(i), Named(window), used, faults);
+            }
+        } else if (const auto* bar = qobject_cast<const QMenuBar*>(&widget)) {
+            for (const QAction* menu : bar->actions()) {
+                NoteMnemonic(menu->text(), Named(window), used, faults);
+            }
+        }
+    });
+    for (const QMenu* menu : window.findChildren<QMenu*>()) {
+        QStringList lines;
+        for (const QAction* action : menu->actions()) {
+            NoteMnemonic(action->text(), menu->title(), lines, faults);
+        }
+    }
+    return faults;
+}
+
+inline bool IsLabelClipped(const QLabel& label)
+{
+    if (label.text().isEmpty()) {
+        return false;
+    }
+    if (label.wordWrap()) {
+        return label.heightForWidth(label.width()) > label.height();
+    }
+    const QSize needed = label.minimumSizeHint();
+    return needed.width() > label.width() || needed.height() > label.height();
+}
+
+inline bool IsButtonClipped(const QAbstractButton& button)
+{
+    const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    const int icon = button.icon().isNull() ? 0 : button.iconSize().width();
+    return !button.text().isEmpty() && (text.width() + icon > button.width() || text.height() > button.height());
+}
+
+inline bool IsChoiceClipped(const QComboBox& combo)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    option.editable = combo.isEditable();
+    const QRect field =
+        combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
+    return combo.fontMetrics().horizontalAdvance(combo.currentText()) > field.width();
+}
+
+// Texts that do not fit into their place.
+inline QStringList Clipped(const QWidget& window)
+{
+    QStringList faults;
+    ForEachVisible(window, [&](const QWidget& widget) {
+        const auto* label = qobject_cast<const QLabel*>(&widget);
+        const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        const auto* combo = qobject_cast<const QComboBox*>(&widget);
+        const bool isClipped = (label != nullptr && IsLabelClipped(*label))
+            || (button != nullptr && IsButtonClipped(*button)) || (combo != nullptr && IsChoiceClipped(*combo));
+        if (isClipped) {
+            faults.append(QStringLiteral("clipped: ") + Named(widget));
+        }
+    });
+    return faults;
+}
+
+inline QStringList All(const QWidget& window)
+{
+    return Nameless(window) + DoubleMnemonics(window) + Clipped(window);
+}
+
+} // namespace windowFaults

@@ -1,0 +1,271 @@
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "store/cDatabase.h"
+#include "store/modBookFile.h"
+#include "support/cTestFile.h"
+#include "support/fakes.h"
+#include "views/cBookFlow.h"
+#include "views/cBookHost.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
+
+// The program: notes what it is asked for.
+class cFakeHost final : public cBookHost
+{
+public:
+    bool IsInUse(const QString& path) override { return path == Used; }
+    bool Switch(const QString& path, eBookOrigin origin) override
+    {
+        Switched = path;
+        Origin = origin;
+        return Works;
+    }
+    std::optional<QString> Restore(const QString& backup) override
+    {
+        Restored = backup;
+        return Works ? std::optional(u"/kept"_s) : std::nullopt;
+    }
+
+    QString Used;
+    QString Switched;
+    QString Restored;
+    eBookOrigin Origin = eBookOrigin::Existing;
+    bool Works = true;
+};
+
+struct cMachine
+{
+    cMachine()
+    {
+        if (!Book.Open(File.Make(oneEntry))) {
+            qFatal("cannot open the book");
+        }
+        cTestFile::Run(Shell.InstalledFile(u"template.dat"_s), cTestFile::Tables);
+    }
+
+    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
+    [[nodiscard]] QString List() const { return Configuration.GetSetting(u"DatabaseList"_s); }
+    void SetList(const QStringList& books)
+    {
+        Configuration.SaveSetting(u"DatabaseList"_s, books.join(u'|'), eSettingPlace::Registry);
+    }
+
+    cTestFile File;
+    cFakeShell Shell;
+    cFakeUser User;
+    cFakeRescue Rescue;
+    cFakeClock Clock{QDate(2026, 3, 15)};
+    cFakeRegistry Registry;
+    cConfiguration Configuration{Registry};
+    cBook Book{User};
+    cFakeHost Host;
+    cBookFlow Flow{{Book, Configuration, User, Rescue, Shell, Clock, Host}};
+};
+
+} // namespace
+
+class testBookFlow final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void NewBook() const
+    {
+        cMachine machine;
+        machine.User.SavePath = machine.Path(u"neu.db"_s);
+        machine.Flow.NewBook();
+        QCOMPARE(machine.User.Asked, QStringList(u"Datenbanken|*.db|Alle Dateien|*.*"_s));
+        QCOMPARE(machine.User.LastProposal, machine.Path(u"Kontorelle-Neu"_s));
+        QCOMPARE(machine.Host.Switched, machine.Path(u"neu.db"_s));
+        QCOMPARE(machine.Host.Origin, eBookOrigin::Fresh);
+        QCOMPARE(modBookFile::Look(machine.Path(u"neu.db"_s)).Entries, 0);
+        QCOMPARE(machine.List(), QString(machine.Path(u"neu.db"_s) + u'|' + machine.Path(u"data.db"_s)));
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    void NewBookInPlaceOfAFile_data() const
+    {
+        QTest::addColumn<bool>("works");
+        QTest::newRow("the former file is kept") << true;
+        QTest::newRow("what cannot be opened leaves all as it was") << false;
+    }
+
+    void NewBookInPlaceOfAFile() const
+    {
+        QFETCH(const bool, works);
+        cMachine machine;
+        machine.Host.Works = works;
+        const QString path = machine.File.Make(oneEntry, u"other.db"_s);
+        machine.User.SavePath = path;
+        machine.Flow.NewBook();
+        const QString kept = path + u".2026-03-15.ersetzt"_s;
+        QCOMPARE(QFileInfo::exists(kept), works);
+        QCOMPARE(modBookFile::Look(works ? kept : path).Entries, 1);
+        QCOMPARE(machine.User.Shown,
+                 works ? QStringList(u"Die bisherige Datei wurde als '%1' aufgehoben."_s.arg(kept)) : QStringList());
+        QCOMPARE(machine.List().isEmpty(), !works);
+    }
+
+    void NoNewBook_data() const
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isFull");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("user gives up") << QString() << false << QString();
+        QTest::newRow("the open book") << u"data.db"_s << false << u"ist gerade geöffnet"_s;
+        QTest::newRow("somebody else's book") << u"used.db"_s << false << QString(); // the host says so
+        QTest::newRow("disk full") << u"neu.db"_s << true << u"Die Datenbank konnte nicht erstellt werden."_s;
+    }
+
+    void NoNewBook() const
+    {
+        QFETCH(const QString, name);
+        QFETCH(const bool, isFull);
+        QFETCH(const QString, message);
+        cMachine machine;
+        machine.Host.Used = machine.Path(u"used.db"_s);
+        machine.Shell.IsFull = isFull;
+        machine.User.SavePath = name.isEmpty() ? QString() : machine.Path(name);
+        machine.Flow.NewBook();
+        QCOMPARE(machine.Host.Switched, QString());
+        QCOMPARE(machine.User.Shown.size(), message.isEmpty() ? 0 : 1);
+        QVERIFY(machine.User.Shown.join(u'\n').contains(message));
+        QCOMPARE(QDir(machine.File.Folder()).entryList(QDir::Files), QStringList(u"data.db"_s));
+    }
+
+    void SwitchFromTheList() const
+    {
+        cMachine machine;
+        const QString first = machine.File.Make({}, u"first.db"_s);
+        const QString second = machine.File.Make({}, u"second.db"_s);
+        const QString missing = machine.Path(u"stick/missing.db"_s);
+        machine.SetList({first, machine.Path(u"data.db"_s), missing, second});
+        QCOMPARE(machine.Flow.Books(), QStringList({first, second})); // neither the open one nor the missing one
+        machine.User.Choices = {second};
+        machine.Flow.SwitchBook();
+        QCOMPARE(machine.User.LastChoice.Items, QStringList({first, second, u"Andere Datei wählen …"_s}));
+        QCOMPARE(machine.Host.Switched, second);
+        QCOMPARE(machine.Host.Origin, eBookOrigin::Existing);
+        QCOMPARE(machine.List(), QStringList({second, machine.Path(u"data.db"_s), first, missing}).join(u'|'));
+    }
+
+    void SwitchToAnotherFile_data() const
+    {
+        QTest::addColumn<bool>("hasList");
+        QTest::addColumn<bool>("works");
+        QTest::newRow("nothing in the list") << false << true;
+        QTest::newRow("not in the list") << true << true;
+        QTest::newRow("it does not open") << true << false;
+    }
+
+    void SwitchToAnotherFile() const
+    {
+        QFETCH(const bool, hasList);
+        QFETCH(const bool, works);
+        cMachine machine;
+        machine.Host.Works = works;
+        machine.SetList(hasList ? QStringList(machine.File.Make({}, u"first.db"_s)) : QStringList());
+        const QString before = machine.List();
+        machine.Rescue.Database = machine.File.Make({}, u"other.db"_s);
+        machine.User.Choices = {u"Andere Datei wählen …"_s};
+        machine.Flow.SwitchBook();
+        QCOMPARE(machine.Host.Switched, machine.Path(u"other.db"_s));
+        QCOMPARE(machine.List().startsWith(machine.Path(u"other.db"_s)), works);
+        QVERIFY(works || machine.List() == before);
+    }
+
+    void OpenBookIsNotOpenedAgain() const
+    {
+        cMachine machine;
+        QVERIFY(QFile::link(machine.Path(u"data.db"_s), machine.Path(u"link.db"_s)));
+        machine.Rescue.Database = machine.Path(u"link.db"_s);
+        machine.Rescue.Backup = machine.Path(u"link.db"_s);
+        machine.Flow.SwitchBook();
+        machine.Flow.LoadBackup();
+        QCOMPARE(machine.Host.Switched + machine.Host.Restored, QString());
+        QCOMPARE(machine.User.Shown.size(), 2);
+        QVERIFY(machine.User.Shown[0].endsWith(u"ist bereits geöffnet."_s));
+    }
+
+    void ListIsShortAndWithoutItsSeparator() const
+    {
+        cMachine machine;
+        QStringList books;
+        for (int i = 0; i < 20; ++i) {
+            books.append(machine.Path(u"%1.db"_s.arg(i)));
+        }
+        machine.SetList(books);
+        machine.Rescue.Database = machine.File.Make({}, u"a|b.db"_s);
+        machine.Flow.SwitchBook();
+        const QStringList list = machine.List().split(u'|');
+        QCOMPARE(list.size(), cBookFlow::MostBooks);
+        QCOMPARE(list[0], machine.Path(u"data.db"_s));
+    }
+
+    void MakeBackup() const
+    {
+        cMachine machine;
+        const QString target = machine.Path(u"stick/Kontorelle-2026-03-15.backup"_s);
+        machine.User.SavePath = target;
+        machine.Flow.MakeBackup();
+        QCOMPARE(machine.User.Asked, QStringList(u"Backup-Datei|*.backup|Alle Dateien|*.*"_s));
+        QCOMPARE(machine.User.LastProposal, machine.Path(u"Kontorelle-2026-03-15.backup"_s));
+        QCOMPARE(modBookFile::Look(target).Entries, 1);
+        QCOMPARE(machine.User.Shown.size(), 1);
+        QVERIFY(machine.User.Shown[0].contains(u"1 Eintrag, der letzte vom 31.01.2026"_s));
+        machine.User.SavePath = machine.Path(u"data.db"_s);
+        machine.Flow.MakeBackup();
+        QCOMPARE(machine.User.LastProposal, target); // the folder used last
+        QVERIFY(machine.User.Shown.constLast().startsWith(u"Die Datensicherung konnte nicht erstellt werden:"_s));
+    }
+
+    void LoadBackup_data() const
+    {
+        QTest::addColumn<eAnswer>("answer");
+        QTest::addColumn<bool>("works");
+        QTest::newRow("wanted") << eAnswer::Yes << true;
+        QTest::newRow("not the right one") << eAnswer::No << true;
+        QTest::newRow("wanted, and its password is not known") << eAnswer::Yes << false;
+    }
+
+    void LoadBackup() const
+    {
+        QFETCH(const eAnswer, answer);
+        QFETCH(const bool, works);
+        cMachine machine;
+        machine.Host.Works = works;
+        const QString backup = machine.File.Make(std::string(oneEntry) + oneEntry, u"old.backup"_s);
+        machine.Rescue.Backup = backup;
+        machine.User.Answers = {answer};
+        machine.Flow.LoadBackup();
+        QCOMPARE(machine.User.Asked.size(), 1);
+        QVERIFY(machine.User.Asked[0].contains(u"old.backup' enthält:\n2 Einträge, der letzte vom 31.01.2026"_s));
+        QVERIFY(machine.User.Asked[0].contains(u"data.db' enthält:\n1 Eintrag, der letzte vom 31.01.2026"_s));
+        QCOMPARE(machine.Host.Restored, answer == eAnswer::Yes ? backup : QString());
+        QCOMPARE(machine.User.Shown.size(), answer == eAnswer::Yes && works ? 1 : 0);
+    }
+
+    void DamagedBackup() const
+    {
+        cMachine machine;
+        machine.Rescue.Backup = machine.Path(u"bad.backup"_s);
+        cTestFile::Write(*machine.Rescue.Backup, "no database");
+        machine.Flow.LoadBackup();
+        QCOMPARE(machine.User.Asked, QStringList());
+        QCOMPARE(machine.User.Shown,
+                 QStringList(u"Die Datensicherung '%1' ist beschädigt oder keine gültige Datenbank."_s.arg(
+                     *machine.Rescue.Backup)));
+        QCOMPARE(machine.Host.Restored, QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(testBookFlow)
+#include "testBookFlow.moc"

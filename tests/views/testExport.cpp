@@ -1,0 +1,472 @@
+#include "base/cProgress.h"
+#include "core/cAmountFormat.h"
+#include "model/modWord.h"
+#include "support/fakes.h"
+#include "support/testFormat.h"
+#include "views/cEntryExport.h"
+#include "views/cEntryListModel.h"
+#include "views/cViewState.h"
+#include "views/modViewText.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+
+#include <minizip/unzip.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cEntryItem Entry(QDate day, const QString& type, qint64 cents, const QString& category, const QString& text)
+{
+    cEntryItem entry;
+    entry.EntryDate = day;
+    entry.EntryType = type;
+    entry.EntryInterval = modWord::Einmalig;
+    entry.EntryAccount = u"Girokonto"_s;
+    entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+    entry.EntryCategory = category;
+    entry.EntryValue = cents;
+    entry.EntryDescription = text;
+    return entry;
+}
+
+cEntryListModel::cContent Content(const QString& account = {})
+{
+    cEntryListModel::cContent content;
+    content.Entries = {
+        Entry(QDate(2026, 2, 27), modWord::Einnahme, 250000, u"Einkommen; Lohn / Gehalt"_s, u"Lohn; \"Februar\""_s),
+        Entry(QDate(2026, 3, 1), modWord::Ausgabe, 123456, u"Wohnung; Miete"_s, u"=1+1 <b>"_s),
+        Entry(QDate(2026, 3, 2), modWord::Umbuchung, 10000, u"Geldanlage"_s, u"Rücklage"_s),
+        Entry(QDate(2026, 3, 9), modWord::Ausgabe, 5, {}, u"zwei\nZeilen"_s)};
+    content.Entries[1].EntryInterval = u"Monatlich"_s;
+    content.Entries[1].IsCorrected = true;
+    content.Entries[1].CorrectionComment = u"Nachzahlung"_s;
+    content.Account = account;
+    content.Today = QDate(2026, 3, 15);
+    return content;
+}
+
+class cCancelled final : public cProgress
+{
+public:
+    void showProgressBar(int /*maximum*/) override {}
+    void addProgressValue(int /*steps*/) override {}
+    void hideProgressBar() override {}
+    [[nodiscard]] bool IsCancelled() const override { return true; }
+};
+
+// The cells of a written table: "A2" to its value; a formula as "formula -> value".
+class cTable
+{
+public:
+    explicit cTable(const QByteArray& bytes)
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"table.xlsx"_s);
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+            qFatal("cannot write test file");
+        }
+        file.close();
+        m_zip = unzOpen(QFile::encodeName(path).constData());
+        ReadTexts(Part("xl/sharedStrings.xml"));
+        Sheet = Part("xl/worksheets/sheet1.xml");
+        Styles = Part("xl/styles.xml");
+        ReadCells();
+        unzClose(m_zip);
+    }
+
+    [[nodiscard]] QString At(const QString& cell) const { return m_cells.value(cell); }
+    [[nodiscard]] QStringList Row(int row) const
+    {
+        QStringList texts;
+        for (QChar column = u'A'; column <= u'J'; column = QChar(column.unicode() + 1)) {
+            texts.append(At(column + QString::number(row)));
+        }
+        while (!texts.isEmpty() && texts.constLast().isEmpty()) {
+            texts.removeLast();
+        }
+        return texts;
+    }
+
+    QByteArray Sheet;
+    QByteArray Styles;
+
+private:
+    QByteArray Part(const char* name)
+    {
+        QByteArray content;
+        if (m_zip == nullptr || unzLocateFile(m_zip, name, 1) != UNZ_OK || unzOpenCurrentFile(m_zip) != UNZ_OK) {
+            return content;
+        }
+        QByteArray buffer(65536, '\0');
+        int count = 0;
+        while ((count = unzReadCurrentFile(m_zip, buffer.data(), static_cast<unsigned>(buffer.size()))) > 0) {
+            content.append(buffer.constData(), count);
+        }
+        unzCloseCurrentFile(m_zip);
+        return content;
+    }
+
+    void ReadTexts(const QByteArray& xml)
+    {
+        QXmlStreamReader reader(xml);
+        while (!reader.atEnd()) {
+            if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == "t"_L1) {
+                m_texts.append(reader.readElementText());
+            }
+        }
+    }
+
+    void ReadCells()
+    {
+        QXmlStreamReader reader(Sheet);
+        QString cell;
+        bool isText = false;
+        while (!reader.atEnd()) {
+            if (reader.readNext() != QXmlStreamReader::StartElement) {
+                continue;
+            }
+            if (reader.name() == "c"_L1) {
+                cell = reader.attributes().value("r"_L1).toString();
+                isText = reader.attributes().value("t"_L1) == "s"_L1;
+            } else if (reader.name() == "f"_L1) {
+                m_cells[cell] = reader.readElementText() + u" -> "_s;
+            } else if (reader.name() == "v"_L1) {
+                const QString value = reader.readElementText();
+                m_cells[cell] += isText ? m_texts.value(value.toInt()) : value;
+            }
+        }
+    }
+
+    unzFile m_zip = nullptr;
+    QStringList m_texts;
+    QHash<QString, QString> m_cells;
+};
+
+} // namespace
+
+class testExport final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void TakesWhatTheListShows();
+    void CsvIsForTablePrograms();
+    void CsvKeepsFormulasAsText_data();
+    void CsvKeepsFormulasAsText();
+    void CsvNamesTheGroup();
+    void XlsxHoldsDatesAndNumbers();
+    void XlsxSumsWithoutTransfers();
+    void XlsxSumsOfOneAccount();
+    void XlsxKeepsOddDatesAndTexts();
+    void HtmlStandsAlone();
+    void QifOfOneAccount();
+    void QifOfAllAccounts();
+    void FormatComesFromTheEnding_data();
+    void FormatComesFromTheEnding();
+    void SaysWhatWasWritten();
+    void FailureKeepsTheOldFile();
+    void NothingToExport();
+    void ViewInWords();
+
+private:
+    [[nodiscard]] cEntryExtract Extract() const
+    {
+        cEntryExtract extract = cEntryExtract::From(*m_model);
+        extract.Title = u"Einträge & mehr"_s;
+        extract.View = {u"Zeitraum: Alle Buchungen"_s};
+        return extract;
+    }
+    [[nodiscard]] QByteArray Bytes(modExport::eFormat format)
+    {
+        const cEntryExtract extract = Extract();
+        return modExport::Write(format, {extract, m_format.Format, m_progress}).Bytes.value_or(QByteArray());
+    }
+    [[nodiscard]] QStringList Lines(modExport::eFormat format) { return QString::fromUtf8(Bytes(format)).split(u'\n'); }
+
+    cTestFormat m_format;
+    cNoProgress m_progress;
+    std::unique_ptr<cEntryListModel> m_model;
+};
+
+void testExport::init()
+{
+    m_model = std::make_unique<cEntryListModel>(m_format.Format);
+    m_model->SetContent(Content(), {}, modWord::KeineGruppierung);
+}
+
+void testExport::TakesWhatTheListShows()
+{
+    m_model->sort(cEntryListModel::Date, Qt::DescendingOrder);
+    m_model->SetGrouping(u"Nach Monat"_s);
+    m_model->SetFilter(u"girokonto"_s);
+    const cEntryExtract extract = cEntryExtract::From(*m_model);
+    QCOMPARE(extract.Groups.size(), 2U);
+    qint64 sum = 0;
+    for (const cEntryExtract::cGroup& group : extract.Groups) {
+        qint64 groupSum = 0;
+        for (qsizetype row = group.First; row < group.First + group.Count; ++row) {
+            groupSum += extract.Rows[static_cast<std::size_t>(row)].Effect;
+        }
+        QCOMPARE(groupSum, group.Sum);
+        sum += group.Sum;
+    }
+    QCOMPARE(sum, m_model->Sums().Total());
+    QCOMPARE(extract.Total(), m_model->Sums().Total());
+    QCOMPARE(extract.Rows.front().Entry.EntryDate, QDate(2026, 2, 27)); // groups upwards, rows downwards
+    QCOMPARE(extract.Rows[1].Entry.EntryDate, QDate(2026, 3, 9));
+    m_model->SetFilter(u"miete"_s);
+    QCOMPARE(cEntryExtract::From(*m_model).Rows.size(), 1U);
+}
+
+void testExport::CsvIsForTablePrograms()
+{
+    const QByteArray bytes = Bytes(modExport::eFormat::Csv);
+    QVERIFY(bytes.startsWith("\xEF\xBB\xBF"));
+    QCOMPARE(
+        QString::fromUtf8(bytes.mid(3)),
+        u"Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Intervall;Betrag\r\n"
+        "27.02.2026;Einnahme;\"Einkommen; Lohn / Gehalt\";Girokonto;;\"Lohn; \"\"Februar\"\"\";Einmalig;2500,00\r\n"
+        "01.03.2026;Ausgabe;\"Wohnung; Miete\";Girokonto;;'=1+1 <b>;Monatlich, korrigiert;-1234,56\r\n"
+        "02.03.2026;Umbuchung;Geldanlage;Girokonto;Sparkonto;Rücklage;Einmalig;100,00\r\n"
+        "09.03.2026;Ausgabe;;Girokonto;;\"zwei\nZeilen\";Einmalig;-0,05\r\n"_s);
+}
+
+void testExport::CsvKeepsFormulasAsText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("field");
+
+    QTest::newRow("formula") << u"=SUM(A1)"_s << u"'=SUM(A1)"_s;
+    QTest::newRow("plus, as in phone numbers") << u"+49 30 1"_s << u"'+49 30 1"_s;
+    QTest::newRow("minus") << u"-2"_s << u"'-2"_s;
+    QTest::newRow("at") << u"@home"_s << u"'@home"_s;
+    QTest::newRow("tabulator before it") << u"\t=1"_s << u"'\t=1"_s;
+    QTest::newRow("quoted as well") << u"=A;B"_s << u"\"'=A;B\""_s;
+    QTest::newRow("sign inside") << u"Miete - März"_s << u"Miete - März"_s;
+}
+
+void testExport::CsvKeepsFormulasAsText()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, field);
+    cEntryListModel::cContent content;
+    content.Entries = {Entry(QDate(2026, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, text)};
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    QCOMPARE(Lines(modExport::eFormat::Csv).at(1),
+             u"01.03.2026;Ausgabe;Auto;Girokonto;"_s + field + u";Einmalig;-1,00\r"_s);
+}
+
+void testExport::CsvNamesTheGroup()
+{
+    m_model->SetGrouping(u"Nach Buchungsart"_s);
+    QStringList starts;
+    const QStringList lines = Lines(modExport::eFormat::Csv);
+    for (const QString& line : lines) {
+        starts.append(line.section(u';', 0, 1));
+    }
+    QCOMPARE(starts.mid(1, 2), QStringList({u"Ausgabe;01.03.2026"_s, u"Ausgabe;09.03.2026"_s}));
+    QVERIFY(starts.contains(u"Umbuchung;02.03.2026"_s));
+}
+
+void testExport::XlsxHoldsDatesAndNumbers()
+{
+    const cTable table(Bytes(modExport::eFormat::Xlsx));
+    QCOMPARE(table.Row(1).size(), 8);
+    QCOMPARE(table.Row(3),
+             QStringList({u"46082"_s,
+                          u"Ausgabe"_s,
+                          u"Wohnung; Miete"_s,
+                          u"Girokonto"_s,
+                          {},
+                          u"=1+1 <b>"_s,
+                          u"Monatlich, korrigiert"_s,
+                          u"-1234.56"_s}));
+    QVERIFY(table.Sheet.contains("state=\"frozen\""));
+    QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:H5\"/>"));
+    QVERIFY(table.Styles.contains("dd.mm.yyyy"));
+    QVERIFY2(table.Styles.contains("#,##0.00&quot;\u00a0€&quot;"), table.Styles.constData());
+}
+
+void testExport::XlsxSumsWithoutTransfers()
+{
+    m_model->SetGrouping(u"Nach Monat"_s);
+    const cTable table(Bytes(modExport::eFormat::Xlsx));
+    QVERIFY2(table.At(u"A4"_s).endsWith("(3)"_L1), qPrintable(table.At(u"A4"_s)));
+    QCOMPARE(table.At(u"H4"_s), u"SUMIF(B5:B7,\"<>Umbuchung\",H5:H7) -> -1234.61"_s);
+    QCOMPARE(table.At(u"H9"_s), u"SUMIFS(H2:H7,B2:B7,\"Einnahme\") -> 2500"_s);
+    QCOMPARE(table.At(u"H10"_s), u"SUMIFS(H2:H7,B2:B7,\"Ausgabe\") -> -1234.61"_s);
+    QCOMPARE(table.At(u"H11"_s), u"SUM(H9:H10) -> 1265.39"_s);
+}
+
+void testExport::XlsxSumsOfOneAccount()
+{
+    cEntryListModel::cContent content = Content(u"Girokonto"_s);
+    content.StartBalance = 100000;
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    const cTable table(Bytes(modExport::eFormat::Xlsx));
+    QCOMPARE(table.At(u"H4"_s), u"-100"_s); // the transfer leaves the account
+    QCOMPARE(table.At(u"I5"_s), u"2165.39"_s);
+    QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H5,B2:B5,\"?*\",H2:H5,\"<0\") -> -1334.61"_s);
+}
+
+void testExport::XlsxKeepsOddDatesAndTexts()
+{
+    cEntryListModel::cContent content;
+    content.Entries = {
+        Entry(QDate(1899, 12, 31), modWord::Ausgabe, 100, u"Auto"_s, QString(40000, u'ä')),
+        Entry(QDate(1900, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, u"\u0001 \U0001F600"_s),
+    };
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    const cTable table(Bytes(modExport::eFormat::Xlsx));
+    QCOMPARE(table.At(u"A2"_s), u"31.12.1899"_s);
+    QCOMPARE(table.At(u"A3"_s), u"61"_s);
+    QCOMPARE(table.At(u"E2"_s).size(), 32767);
+    QVERIFY(table.At(u"E3"_s).endsWith(u"\U0001F600"_s));
+}
+
+void testExport::HtmlStandsAlone()
+{
+    m_model->SetGrouping(u"Nach Monat"_s);
+    const QString html = QString::fromUtf8(Bytes(modExport::eFormat::Html));
+    QVERIFY(html.contains(u"<title>Einträge &amp; mehr</title>"_s));
+    QVERIFY(html.contains("=1+1 &lt;b&gt;"_L1) && !html.contains("<b>"_L1));
+    QVERIFY(html.contains("zwei<br>Zeilen"_L1));
+    for (const QString& outside : {u"http"_s, u"src="_s, u"href="_s, u"url("_s, u"@import"_s, u"<script"_s}) {
+        QVERIFY2(!html.contains(outside), qPrintable(outside));
+    }
+    QCOMPARE(html.count("<tr class=\"g\">"_L1), 2);
+    QCOMPARE(html.count("<tr"_L1), 1 + 2 + 4 + 3);
+    QVERIFY(html.contains(u"<th colspan=\"7\">Summe</th><th class=\"m\">1.265,39\u00a0€</th>"_s));
+}
+
+void testExport::QifOfOneAccount()
+{
+    m_model->SetContent(Content(u"Sparkonto"_s), {}, modWord::KeineGruppierung);
+    m_model->SetFilter(u"Rücklage"_s);
+    QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
+             u"!Type:Bank\nD02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
+}
+
+void testExport::QifOfAllAccounts()
+{
+    QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
+             u"!Account\nNGirokonto\nTBank\n^\n!Type:Bank\n"
+             "D27.02.2026\nT2500.00\nPLohn; \"Februar\"\nLEinkommen:Lohn - Gehalt\n^\n"
+             "D01.03.2026\nT-1234.56\nP=1+1 <b>\nMMonatlich, Nachzahlung\nLWohnung:Miete\n^\n"
+             "D02.03.2026\nT-100.00\nPRücklage\nL[Sparkonto]\n^\n"
+             "D09.03.2026\nT-0.05\nPzwei Zeilen\n^\n"
+             "!Account\nNSparkonto\nTBank\n^\n!Type:Bank\n"
+             "D02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
+}
+
+void testExport::FormatComesFromTheEnding_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("start"); // empty: refused
+
+    QTest::newRow("csv") << u"a.csv"_s << QByteArray("\xEF\xBB\xBF");
+    QTest::newRow("no ending") << u"a"_s << QByteArray("\xEF\xBB\xBF");
+    QTest::newRow("text") << u"a.txt"_s << QByteArray("\xEF\xBB\xBF");
+    QTest::newRow("Excel, in capitals") << u"a.XLSX"_s << QByteArray("PK");
+    QTest::newRow("html") << u"a.htm"_s << QByteArray("<!DOCTYPE html>");
+    QTest::newRow("qif") << u"a.qif"_s << QByteArray("!Account");
+    QTest::newRow("another program's file") << u"a.pdf"_s << QByteArray();
+    QTest::newRow("a book") << u"data.db"_s << QByteArray();
+}
+
+void testExport::FormatComesFromTheEnding()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, start);
+    QTemporaryDir folder;
+    cFakeUser user;
+    user.SavePath = folder.filePath(name);
+    const cEntryExport::eDone done = cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15));
+    QFile file(user.SavePath);
+    if (start.isEmpty()) {
+        QCOMPARE(done, cEntryExport::eDone::Failed);
+        QVERIFY2(user.Shown.value(0).contains(".csv, .xlsx, .html, .qif"_L1), qPrintable(user.Shown.value(0)));
+        QVERIFY(!file.exists());
+        return;
+    }
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().startsWith(start));
+}
+
+void testExport::SaysWhatWasWritten()
+{
+    QTemporaryDir folder;
+    cFakeUser user;
+    user.SavePath = folder.filePath(u"a.csv"_s);
+    QCOMPARE(cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15)),
+             cEntryExport::eDone::Written);
+    QCOMPARE(user.Asked,
+             QStringList(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|HTML-Datei|*.html|QIF-Datei|*.qif|"
+                         "Alle Dateien|*.*"_s));
+    QCOMPARE(user.LastProposal, u"Kontorelle-Einträge-2026-03-15"_s);
+    QCOMPARE(user.Shown, QStringList(u"4 Einträge wurden nach '%1' exportiert."_s.arg(user.SavePath)));
+}
+
+void testExport::FailureKeepsTheOldFile()
+{
+    QTemporaryDir folder;
+    cFakeUser user;
+    user.SavePath = folder.filePath(u"a.csv"_s);
+    QFile file(user.SavePath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    file.close();
+    cEntryListModel::cContent content;
+    content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    cCancelled cancelled;
+    QCOMPARE(cEntryExport(user, m_format.Format, cancelled).Run(Extract(), QDate(2026, 3, 15)),
+             cEntryExport::eDone::GivenUp);
+    QVERIFY(user.Shown.isEmpty());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("old"));
+
+    user.SavePath = folder.filePath(u"missing/a.csv"_s);
+    QCOMPARE(cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15)),
+             cEntryExport::eDone::Failed);
+    QVERIFY2(user.Shown.value(0).contains(user.SavePath), qPrintable(user.Shown.value(0)));
+}
+
+void testExport::NothingToExport()
+{
+    cFakeUser user;
+    m_model->SetFilter(u"gibt es nicht"_s);
+    QCOMPARE(cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15)),
+             cEntryExport::eDone::Failed);
+    QVERIFY(user.Asked.isEmpty());
+    QCOMPARE(user.Shown.size(), 1);
+}
+
+void testExport::ViewInWords()
+{
+    cViewState view;
+    view.Period = u"Letzter Monat"_s;
+    view.Account = modWord::AlleKonten;
+    view.Type = modWord::AlleBuchungsarten;
+    view.Grouping = modWord::KeineGruppierung;
+    const modPeriod::cRange range{QDate(2026, 2, 1), QDate(2026, 2, 28)};
+    QCOMPARE(modViewText::Lines(view, range), QStringList(u"Zeitraum: Letzter Monat (01.02.2026 – 28.02.2026)"_s));
+    view.Account = u"Girokonto"_s;
+    view.Type = modWord::Ausgabe;
+    view.Filter = u" Miete "_s;
+    view.ShowsFix = false;
+    QCOMPARE(modViewText::Lines(view, range).mid(1),
+             QStringList({u"Konto: Girokonto"_s, u"Buchungsart: Ausgabe"_s, u"Ohne wiederkehrende Einträge"_s,
+                          u"Filter: Miete"_s}));
+    view.Period = u"Buchungen bis heute"_s;
+    QCOMPARE(modViewText::Lines(view, {QDate(1001, 1, 1), QDate(2026, 3, 15)}).constFirst(),
+             u"Zeitraum: Buchungen bis heute (15.03.2026)"_s);
+}
+
+QTEST_GUILESS_MAIN(testExport)
+#include "testExport.moc"

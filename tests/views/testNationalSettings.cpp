@@ -1,0 +1,86 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cNationalSettings.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QChar space = u'\u00a0'; // between amount and symbol
+
+struct cMachine
+{
+    cTestBook Book;
+    cAmountFormat Format{Book.Configuration};
+    cNationalSettings Settings{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+};
+
+} // namespace
+
+class testNationalSettings final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Preview_data() const
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("currency");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("negative");
+        QTest::newRow("german") << u"de-DE"_s << QString() << QString(u"1.234,56"_s + space + u'€')
+                                << QString(u"-1.234,56"_s + space + u'€');
+        QTest::newRow("the currency decides") << u"de-DE"_s << u"en-GB"_s << u"£1,234.56"_s << u"(£1,234.56)"_s;
+        QTest::newRow("repaired form") << u"de-DE"_s << u"id-ID"_s << u"1.234,56"_s << u"-1.234,56"_s;
+    }
+
+    void Preview() const
+    {
+        QFETCH(const QString, format);
+        QFETCH(const QString, currency);
+        cMachine machine;
+        const cNationalSettings::cPreview preview = machine.Settings.Preview({u"de"_s, format, currency});
+        QTEST(preview.Amount, "amount");
+        QTEST(preview.Negative, "negative");
+        QCOMPARE(preview.Date, u"15.03.2026"_s);
+    }
+
+    void AmountsFollowAtOnce() const
+    {
+        cMachine machine;
+        QCOMPARE(machine.Format.Cents(100), QString(u"1,00"_s + space + u'€'));
+        QSignalSpy changed(&machine.Settings, &cNationalSettings::CultureChanged);
+        const cNationalSettings::cFields british{u"de"_s, u"en-GB"_s, {}};
+        QVERIFY(machine.Settings.Save(british));
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(machine.Format.Cents(100), u"£1.00"_s);
+        QCOMPARE(machine.Settings.Current().Format, british.Format);
+        QCOMPARE(machine.Book.User.Shown, QStringList()); // the language is the same
+    }
+
+    void LanguageWaitsForTheNextStart() const
+    {
+        cMachine machine;
+        QCOMPARE(machine.Settings.Current().Language, u"de"_s);
+        QVERIFY(machine.Settings.Save({u"en"_s, u"de-DE"_s, {}}));
+        QCOMPARE(machine.Book.Settings->Get(u"LanguageName"_s), u"en"_s);
+        QCOMPARE(machine.Book.User.Shown, QStringList(u"Die neue Sprache gilt ab dem nächsten Start des Programms."_s));
+    }
+
+    // Every offered culture is known to the library: an unknown one would silently be German.
+    void EveryCultureIsKnown() const
+    {
+        const QList<cNationalSettings::cOption> options =
+            cNationalSettings::Formats() + cNationalSettings::Currencies().mid(1);
+        for (const cNationalSettings::cOption& option : options) {
+            const QLocale locale(QString(option.Stored).replace(u'-', u'_'));
+            QCOMPARE(locale.name().replace(u'_', u'-'), option.Stored);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(testNationalSettings)
+#include "testNationalSettings.moc"

@@ -1,0 +1,263 @@
+#include "support/testBook.h"
+#include "views/cEntryEditor.h"
+#include "views/cSeriesChange.h"
+#include "views/modCorrections.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString lossQuestion = u"Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen Korrekturen gehen "
+                             "dadurch verloren.\nSoll der Eintrag trotzdem gespeichert werden?"_s;
+
+// Rent of 10 euros on the 10th of each month since March 2026.
+cEntryItem AddRent(cTestBook& book)
+{
+    return book.Add([](cEntryItem& entry) {
+        entry.EntryInterval = u"Monatlich"_s;
+        entry.EntryDescription = u"Miete"_s;
+    });
+}
+
+// "2026-04-01 12.50 text" of each correction, by period.
+QStringList Corrections(cTestBook& book, int id)
+{
+    QStringList texts;
+    const cEntryItemFixModList fixMods = book.Data.GetEntryMods(id);
+    for (const cEntryItemFixMod& fixMod : fixMods) {
+        texts.append(QStringList{fixMod.EntryStartDate.toString(Qt::ISODate), QString::number(fixMod.EntryValue),
+                                 fixMod.EntryComment}
+                         .join(u' '));
+    }
+    texts.sort();
+    return texts;
+}
+
+} // namespace
+
+class testSeriesChange final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AsksWhatToEdit_data();
+    void AsksWhatToEdit();
+    void CorrectsOnePeriod();
+    void SkipsAndTakesBack();
+    void PeriodForm();
+    void PageOfCorrections();
+    void PageIsStoredWithTheEntry();
+    void FromHereSplitsTheSeries();
+    void FromHereAsksForLostCorrections_data();
+    void FromHereAsksForLostCorrections();
+    void FromHereTakesBankRowsAlong();
+};
+
+void testSeriesChange::AsksWhatToEdit_data()
+{
+    using enum cSeriesChange::eEdit;
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<int>("options");
+    QTest::addColumn<int>("edit");
+    const QString monthly = u"Monatlich"_s;
+    const QDate may(2026, 5, 10);
+    QTest::newRow("this period") << monthly << may << 0 << 3 << int(Period);
+    QTest::newRow("from here") << monthly << may << 1 << 3 << int(FromHere);
+    QTest::newRow("whole") << monthly << may << 2 << 3 << int(Entry);
+    QTest::newRow("given up") << monthly << may << -1 << 3 << int(Nothing);
+    QTest::newRow("first occurrence") << monthly << QDate(2026, 3, 10) << 1 << 2 << int(Entry);
+    QTest::newRow("no occurrence") << monthly << QDate(2026, 5, 11) << 0 << 0 << int(Entry);
+    QTest::newRow("one-off") << modWord::Einmalig << QDate(2026, 3, 10) << 0 << 0 << int(Entry);
+}
+
+void testSeriesChange::AsksWhatToEdit()
+{
+    QFETCH(QString, interval);
+    QFETCH(QDate, day);
+    QFETCH(int, choice);
+    QFETCH(int, options);
+    cTestBook book;
+    const int id = book.Add([&](cEntryItem& entry) { entry.EntryInterval = interval; }).ID;
+    book.User.Decisions = {choice};
+    QTEST(int(cSeriesChange(book.Data, book.User).AskWhatToEdit(id, day)), "edit");
+    QCOMPARE(book.User.LastDecision.Options.size(), options);
+}
+
+void testSeriesChange::CorrectsOnePeriod()
+{
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 1250, u"Nachzahlung"_s));
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 31), -1300, u"neu"_s)); // same period, any day of it
+    QVERIFY(!change.CorrectPeriod(id, QDate(2026, 2, 10), 1, {}));          // before the series
+    QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1300 neu"_s}));
+    QCOMPARE(book.Data.GetEntryMods(id).first().EntryEndDate, QDate(2026, 5, 31));
+    QCOMPARE(book.Data.UndoName(), u"Betrag von 'Miete' korrigiert"_s);
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1250 Nachzahlung"_s}));
+}
+
+void testSeriesChange::SkipsAndTakesBack()
+{
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    QVERIFY(!change.RemoveCorrection(id, QDate(2026, 4, 10)));
+    QVERIFY(change.SkipPeriod(id, QDate(2026, 4, 10)));
+    QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
+    QVERIFY(change.RemoveCorrection(id, QDate(2026, 4, 10)));
+    QVERIFY(Corrections(book, id).isEmpty());
+}
+
+void testSeriesChange::PeriodForm()
+{
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
+    QCOMPARE(fields.Title, u"'Miete' vom 01.04.2026 bis 30.04.2026"_s);
+    QCOMPARE(fields.Amount, u"10,00"_s);
+    QVERIFY(!fields.IsCorrected);
+    fields.Amount = u"zwölf"_s;
+    QCOMPARE(change.SavePeriod(fields), cSeriesChange::eSaved::BadAmount);
+    fields.Amount = u"10+2,5"_s;
+    QCOMPARE(change.SavePeriod(fields), cSeriesChange::eSaved::Saved);
+    fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
+    QCOMPARE(fields.Amount, u"12,50"_s);
+    QVERIFY(fields.IsCorrected);
+}
+
+void testSeriesChange::PageOfCorrections()
+{
+    using enum modCorrections::eSet;
+    cEntryFields fields;
+    fields.Interval = u"Wöchentlich"_s;
+    fields.Date = QDate(2026, 3, 2);
+    const QDate today(2026, 3, 15);
+    QCOMPARE(modCorrections::Set(u"30.3."_s, u"-5"_s, u"spät"_s, today, fields), Done);
+    QCOMPARE(modCorrections::Set(u"heute"_s, u"4+4"_s, u"früh"_s, today, fields), Done);
+    QCOMPARE(modCorrections::Set(u"10.3."_s, u"7"_s, u"früher"_s, today, fields), Done); // same week
+    QCOMPARE(modCorrections::Set(u"1.3."_s, u"7"_s, {}, today, fields), NoOccurrence);
+    QCOMPARE(modCorrections::Set(u"bald"_s, u"7"_s, {}, today, fields), BadDate);
+    QCOMPARE(modCorrections::Set(u"10.3."_s, u"viel"_s, {}, today, fields), BadAmount);
+    const QList<modCorrections::cLine> lines = modCorrections::Lines(fields);
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines.first().Label, u"Manuelle Korrektur vom 09.03.2026"_s);
+    QCOMPARE(lines.first().Period, u"09.03.2026 – 15.03.2026"_s);
+    QCOMPARE(lines.first().Amount, u"7,00"_s);
+    QCOMPARE(lines.last().Amount, u"5,00"_s);
+}
+
+void testSeriesChange::PageIsStoredWithTheEntry()
+{
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 3, 10), 1, u"weg"_s));
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 2, u"bleibt"_s));
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 3, u"anders"_s));
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryFields fields = editor.Load(id).value();
+    QVERIFY(editor.ShowsCorrections(fields));
+    QCOMPARE(modCorrections::Change(2, u"30"_s, u"geändert"_s, fields), modCorrections::eSet::Done);
+    modCorrections::Remove(0, fields);
+    QCOMPARE(modCorrections::Set(u"1.6."_s, u"4"_s, u"neu"_s, book.Clock.Day, fields), modCorrections::eSet::Done);
+    QCOMPARE(Corrections(book, id).size(), 3); // nothing is stored before the entry is
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    QCOMPARE(Corrections(book, id),
+             QStringList({u"2026-04-01 2 bleibt"_s, u"2026-05-01 3000 geändert"_s, u"2026-06-01 400 neu"_s}));
+    QVERIFY(book.User.Asked.isEmpty());
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(Corrections(book, id),
+             QStringList({u"2026-03-01 1 weg"_s, u"2026-04-01 2 bleibt"_s, u"2026-05-01 3 anders"_s}));
+}
+
+void testSeriesChange::FromHereSplitsTheSeries()
+{
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 2, u"dieser"_s));
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
+    QCOMPARE(fields.Date, QDate(2026, 5, 10));
+    QCOMPARE(fields.Corrections.size(), 2);
+    fields.Amount = u"11"_s;
+    fields.DateText = u"20.5."_s; // another day of the month: the periods are the same
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    QVERIFY(book.User.Asked.isEmpty());
+
+    const cEntryItem old = book.Data.LoadEntry(id).value();
+    QCOMPARE(old.EntryDateEnd, QDate(2026, 5, 9));
+    QCOMPARE(old.EntryValue, 1000);
+    QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 1 früher"_s}));
+    const cEntryItem next = book.Data.LoadEntry(editor.SavedId()).value();
+    QVERIFY(next.ID != id);
+    QCOMPARE(next.EntryDate, QDate(2026, 5, 20));
+    QCOMPARE(next.EntryValue, 1100);
+    QCOMPARE(Corrections(book, next.ID), QStringList({u"2026-05-01 2 dieser"_s, u"2026-08-01 3 später"_s}));
+
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.CountEntries(), 1);
+    QCOMPARE(Corrections(book, id).size(), 3);
+    QCOMPARE(book.Data.LoadEntry(id)->EntryDateEnd, modRecurrence::OpenEnd);
+}
+
+void testSeriesChange::FromHereAsksForLostCorrections_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("old");
+    QTest::addColumn<int>("entries");
+    const QString early = u"2026-04-01 1 früher"_s;
+    QTest::newRow("no saves nothing") << int(eAnswer::No) << QStringList({early, u"2026-08-01 3 später"_s}) << 1;
+    QTest::newRow("yes keeps the earlier ones") << int(eAnswer::Yes) << QStringList({early}) << 2;
+}
+
+void testSeriesChange::FromHereAsksForLostCorrections()
+{
+    QFETCH(int, answer);
+    QFETCH(QStringList, old);
+    QFETCH(int, entries);
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
+    QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
+    fields.Interval = u"Alle 3 Monate"_s;
+    book.User.Answers = {static_cast<eAnswer>(answer)};
+    (void)editor.Save(fields);
+    QCOMPARE(book.User.Asked, QStringList({lossQuestion}));
+    QCOMPARE(Corrections(book, id), old);
+    QCOMPARE(book.Data.CountEntries(), entries);
+    QVERIFY(entries == 1 || Corrections(book, editor.SavedId()).isEmpty());
+}
+
+void testSeriesChange::FromHereTakesBankRowsAlong()
+{
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    for (const QDate day : {QDate(2026, 4, 11), QDate(2026, 5, 8)}) {
+        cImportEntry row;
+        row.ImportDate = day;
+        row.ImportAssigned = true;
+        row.ImportAssignedEntry = id;
+        QVERIFY(book.Data.AddNewImportEntry(row));
+    }
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    QCOMPARE(editor.Save(editor.LoadFrom(id, QDate(2026, 5, 10)).value()), cEntryEditor::eSaved::Saved);
+    const cImportEntryList rows = book.Data.GetImportEntries();
+    QCOMPARE(rows.at(0).ImportAssignedEntry, id);
+    QCOMPARE(rows.at(1).ImportAssignedEntry, editor.SavedId());
+}
+
+QTEST_GUILESS_MAIN(testSeriesChange)
+#include "testSeriesChange.moc"

@@ -1,0 +1,506 @@
+#include "support/testBook.h"
+#include "views/cEntryEditor.h"
+#include "views/cSeriesChange.h"
+#include "windows/cSplitTable.h"
+#include "windows/frmBuchung.h"
+#include "windows/frmKorrektur.h"
+#include "windows/modBadField.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// What the user has under the fingers: keys go to whatever has the focus.
+void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+}
+
+void Type(const QString& text)
+{
+    for (const QChar letter : text) { // the first one may open a field in a table
+        QTest::keyClicks(QApplication::focusWidget(), letter);
+    }
+}
+
+void TypeAndTab(const QString& text)
+{
+    Type(text);
+    Key(Qt::Key_Tab);
+}
+
+QString FocusName()
+{
+    return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
+}
+
+void Show(QDialog& dialog)
+{
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+}
+
+// The editor on a small book, with its window in front.
+class cScene
+{
+public:
+    explicit cScene(const cEntryFields& fields = {}) { Open(fields); }
+
+    void Open(const cEntryFields& fields)
+    {
+        const bool isGiven = !fields.Account.isEmpty();
+        Form = std::make_unique<frmBuchung>(Editor, isGiven ? fields : Editor.Start(u"Girokonto"_s));
+        Show(*Form);
+    }
+    void OpenEntry(int id) { Open(Editor.Load(id).value_or(cEntryFields())); }
+
+    template <typename tWidget>
+    tWidget& Find(const QString& name)
+    {
+        auto* widget = Form->findChild<tWidget*>(name);
+        if (widget == nullptr) {
+            qFatal("no such control");
+        }
+        return *widget;
+    }
+    QLineEdit& Line(const QString& name) { return Find<QLineEdit>(name); }
+    QComboBox& Box(const QString& name) { return Find<QComboBox>(name); }
+
+    // All entries of the book, oldest first.
+    cEntryItemList Entries()
+    {
+        cEntryItemList entries;
+        for (int id = 1; id <= 20; ++id) {
+            if (const std::optional<cEntryItem> entry = Book.Data.LoadEntry(id)) {
+                entries.append(*entry);
+            }
+        }
+        return entries;
+    }
+
+    cTestBook Book;
+    cEntryEditor Editor{Book.Data, Book.User, Book.Clock};
+    std::unique_ptr<frmBuchung> Form;
+};
+
+cEntryItem AddRent(cTestBook& book)
+{
+    return book.Add([](cEntryItem& entry) {
+        entry.EntryDate = QDate(2026, 1, 1);
+        entry.EntryInterval = u"Monatlich"_s;
+        entry.EntryCategory = u"Wohnung; Miete"_s;
+        entry.EntryDescription = u"Miete"_s;
+        entry.EntryValue = 75000;
+    });
+}
+
+// Answers the next modal form, which blocks the caller.
+template <typename tAnswer>
+void AnswerForm(tAnswer answer)
+{
+    QTimer::singleShot(0, qApp, [answer] {
+        auto* form = qobject_cast<frmKorrektur*>(QApplication::activeModalWidget());
+        QVERIFY(form != nullptr);
+        answer(*form);
+        form->close();
+    });
+}
+
+} // namespace
+
+class testFrmBuchung final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FromOpeningToSavedWithoutMouse();
+    void CategoryIsFoundByTyping_data();
+    void CategoryIsFoundByTyping();
+    void EscapeClosesTheListFirst();
+    void DescriptionBringsCategoryAndAccount();
+    void BadAmountIsRedUntilItIsEdited();
+    void SeriesShowsItsNextDays();
+    void TransferShowsTheTarget();
+    void StaysOpenForTheNextEntry();
+    void AsksBeforeTypedContentsAreLost();
+    void SplitFromTheKeyboard();
+    void BadPartIsRed();
+    void CorrectionsOfASeries();
+    void CorrectsOneOccurrence();
+    void StartBalance();
+};
+
+void testFrmBuchung::FromOpeningToSavedWithoutMouse()
+{
+    cScene scene;
+    QSignalSpy saved(scene.Form.get(), &frmBuchung::EntrySaved);
+    QCOMPARE(FocusName(), u"txtBetrag"_s);
+    TypeAndTab(u"12,50+3,99*2-1"_s);
+    QCOMPARE(scene.Line(u"txtBetrag"_s).text(), u"19,48"_s);
+    TypeAndTab(u"lebens"_s);
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), u"Haushalt; Lebensmittel"_s);
+    TypeAndTab(u"Wochenmarkt"_s);
+    QCOMPARE(FocusName(), u"EntryDate"_s);
+    TypeAndTab(u"-7"_s);
+    QCOMPARE(scene.Line(u"EntryDate"_s).text(), u"08.03.2026"_s);
+    QCOMPARE(FocusName(), u"cboKonto"_s);
+    Key(Qt::Key_Tab);
+    QCOMPARE(FocusName(), u"cboBuchungsart"_s);
+    QCOMPARE(scene.Box(u"cboBuchungsart"_s).currentData().toString(), modWord::Ausgabe);
+    Key(Qt::Key_Tab);
+    QCOMPARE(FocusName(), u"cboInterval"_s);
+    Key(Qt::Key_Tab);
+    QCOMPARE(FocusName(), u"chkCloseDialog"_s);
+    Key(Qt::Key_Tab);
+    auto* save = qobject_cast<QPushButton*>(QApplication::focusWidget());
+    QVERIFY(save != nullptr && save->isDefault());
+    Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    Key(Qt::Key_Return);
+    QCOMPARE(saved.size(), 1);
+    QVERIFY(!scene.Form->isVisible());
+    const cEntryItem entry = scene.Entries().value(0);
+    QCOMPARE(entry.EntryValue, 1948);
+    QCOMPARE(entry.EntryCategory, u"Haushalt; Lebensmittel"_s);
+    QCOMPARE(entry.EntryDescription, u"Wochenmarkt"_s);
+    QCOMPARE(entry.EntryDate, QDate(2026, 3, 8));
+    QCOMPARE(entry.EntryAccount, u"Girokonto"_s);
+    QCOMPARE(entry.EntryType, modWord::Ausgabe);
+    QCOMPARE(entry.EntryInterval, modWord::Einmalig);
+}
+
+void testFrmBuchung::CategoryIsFoundByTyping_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QList<Qt::Key>>("keys");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("Enter takes the first") << u"lebensm"_s << QList{Qt::Key_Return} << u"Haushalt; Lebensmittel"_s;
+    QTest::newRow("Tab too, umlauts are blind") << u"getranke"_s << QList{Qt::Key_Tab} << u"Haushalt; Getränke"_s;
+    QTest::newRow("words of both levels") << u"kinder kleid"_s << QList{Qt::Key_Return} << u"Kinder; Kleidung"_s;
+    QTest::newRow("Down to the second") << u"kleidung"_s << QList{Qt::Key_Down, Qt::Key_Return}
+                                        << u"Kinder; Kleidung"_s;
+    QTest::newRow("typed, list closed, field left")
+        << u"werkstatt"_s << QList{Qt::Key_Escape, Qt::Key_Tab} << u"Auto; Werkstatt"_s;
+    QTest::newRow("nothing of that name") << u"xyz"_s << QList{Qt::Key_Tab} << QString();
+}
+
+void testFrmBuchung::CategoryIsFoundByTyping()
+{
+    QFETCH(QString, typed);
+    QFETCH(QList<Qt::Key>, keys);
+    QFETCH(QString, path);
+    cScene scene;
+    scene.Box(u"cboKategorie"_s).setFocus();
+    Type(typed);
+    for (const Qt::Key key : keys) {
+        Key(key);
+    }
+    QVERIFY(scene.Form->isVisible());
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), path.isEmpty() ? typed : path);
+    // A category that was picked brings its kind.
+    QCOMPARE(scene.Box(u"cboBuchungsart"_s).currentData().toString(), path.isEmpty() ? QString() : modWord::Ausgabe);
+}
+
+void testFrmBuchung::EscapeClosesTheListFirst()
+{
+    cScene scene;
+    scene.Box(u"cboKategorie"_s).setFocus();
+    Type(u"mi"_s);
+    Key(Qt::Key_Escape);
+    QVERIFY(scene.Form->isVisible());
+    scene.Book.User.Answers = {eAnswer::Yes};
+    Key(Qt::Key_Escape);
+    QVERIFY(!scene.Form->isVisible());
+}
+
+void testFrmBuchung::DescriptionBringsCategoryAndAccount()
+{
+    cScene scene;
+    scene.Book.Add([](cEntryItem& entry) {
+        entry.EntryDescription = u"Bäckerei Krume"_s;
+        entry.EntryAccount = u"Bargeld"_s;
+    });
+    scene.Line(u"txtBeschreibung"_s).setFocus();
+    Type(u"krum"_s);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Return);
+    QCOMPARE(scene.Line(u"txtBeschreibung"_s).text(), u"Bäckerei Krume"_s);
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), u"Haushalt; Lebensmittel"_s);
+    QCOMPARE(scene.Box(u"cboKonto"_s).currentText(), u"Bargeld"_s);
+    // Without a step into the list the text is what was typed.
+    scene.Line(u"txtBeschreibung"_s).clear();
+    TypeAndTab(u"krum"_s);
+    QCOMPARE(scene.Line(u"txtBeschreibung"_s).text(), u"krum"_s);
+}
+
+void testFrmBuchung::BadAmountIsRedUntilItIsEdited()
+{
+    cScene scene;
+    QLineEdit& amount = scene.Line(u"txtBetrag"_s);
+    TypeAndTab(u"12,,5"_s);
+    Key(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(amount.palette().color(QPalette::Base), QColor(245, 160, 160));
+    QCOMPARE(amount.palette().color(QPalette::Text), QColor(Qt::black));
+    QCOMPARE(FocusName(), u"txtBetrag"_s);
+    QVERIFY(scene.Book.User.Shown.isEmpty());
+    Type(u"12"_s);
+    QVERIFY(!modBadField::IsMarked(amount));
+    Key(Qt::Key_Return); // the next check speaks, and leads to its field
+    QCOMPARE(scene.Book.User.Shown, QStringList(u"Bitte erst eine Kategorie wählen!"_s));
+    QCOMPARE(FocusName(), u"cboKategorie"_s);
+    scene.Line(u"EntryDate"_s).setText(u"31.2."_s);
+    Key(Qt::Key_Return);
+    QCOMPARE(scene.Book.Data.CountEntries(), 0);
+}
+
+void testFrmBuchung::SeriesShowsItsNextDays()
+{
+    cScene scene;
+    auto& preview = scene.Find<QLabel>(u"lblVorschau"_s);
+    QVERIFY(!preview.isVisible());
+    scene.Box(u"cboKategorie"_s).setFocus();
+    TypeAndTab(u"wohnung miete"_s); // brings its monthly interval
+    QVERIFY(preview.isVisible());
+    QVERIFY(preview.text().contains(u"15.03.2026, 15.04.2026, 15.05.2026"_s));
+    scene.Line(u"EntryDate"_s).setFocus();
+    scene.Line(u"EntryDate"_s).selectAll();
+    Type(u"20."_s);
+    QVERIFY(preview.text().contains(u"20.03.2026, 20.04.2026"_s));
+    scene.Find<QCheckBox>(u"EntryDateCheck"_s).setFocus();
+    Key(Qt::Key_Space);
+    TypeAndTab({});
+    scene.Line(u"EntryDateEnd"_s).setText(u"30.4.2026"_s);
+    QVERIFY(preview.text().startsWith(u"2 Mal"_s));
+}
+
+void testFrmBuchung::TransferShowsTheTarget()
+{
+    cScene scene;
+    QVERIFY(!scene.Box(u"cboNachKonto"_s).isVisible());
+    scene.Box(u"cboBuchungsart"_s).setFocus();
+    Type(u"U"_s);
+    QVERIFY(scene.Box(u"cboNachKonto"_s).isVisible());
+    Key(Qt::Key_Tab);
+    QCOMPARE(FocusName(), u"cboNachKonto"_s);
+    scene.Box(u"cboBuchungsart"_s).setFocus();
+    Key(Qt::Key_Up);
+    QVERIFY(!scene.Box(u"cboNachKonto"_s).isVisible());
+}
+
+void testFrmBuchung::StaysOpenForTheNextEntry()
+{
+    cScene scene;
+    scene.Find<QCheckBox>(u"chkCloseDialog"_s).setChecked(false);
+    scene.Line(u"EntryDate"_s).setText(u"3.2.26"_s);
+    const int accounts = scene.Box(u"cboKonto"_s).count();
+    for (int i = 1; i <= 7; ++i) {
+        QCOMPARE(FocusName(), u"txtBetrag"_s);
+        TypeAndTab(QString::number(i));
+        TypeAndTab(u"lebens"_s);
+        Type(u"Einkauf"_s);
+        Key(Qt::Key_Return);
+        QCOMPARE(scene.Book.Data.CountEntries(), i);
+    }
+    QCOMPARE(scene.Line(u"EntryDate"_s).text(), u"03.02.2026"_s);
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), QString());
+    QCOMPARE(scene.Line(u"txtBeschreibung"_s).text(), QString());
+    QCOMPARE(scene.Box(u"cboKonto"_s).count(), accounts);
+    auto& list = scene.Find<QListWidget>(u"lstGespeichert"_s);
+    QVERIFY(list.isVisible());
+    QCOMPARE(list.count(), 5);
+    QVERIFY(list.item(0)->text().contains(u"7,00"_s));
+    Key(Qt::Key_Escape); // what was saved is no reason to ask
+    QVERIFY(!scene.Form->isVisible());
+    QVERIFY(scene.Book.User.Asked.isEmpty());
+}
+
+void testFrmBuchung::AsksBeforeTypedContentsAreLost()
+{
+    cScene scene;
+    TypeAndTab(u"5"_s);
+    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    Key(Qt::Key_Escape);
+    QVERIFY(scene.Form->isVisible());
+    QCOMPARE(scene.Line(u"txtBetrag"_s).text(), u"5,00"_s);
+    Key(Qt::Key_Escape);
+    QVERIFY(!scene.Form->isVisible());
+    scene.Open({});
+    Key(Qt::Key_Escape);
+    QVERIFY(!scene.Form->isVisible());
+    QCOMPARE(scene.Book.User.Asked.size(), 2);
+}
+
+void testFrmBuchung::SplitFromTheKeyboard()
+{
+    cScene scene;
+    auto& table = scene.Find<cSplitTable>(u"rptSplit"_s);
+    TypeAndTab(u"50"_s);
+    TypeAndTab(u"lebens"_s);
+    Type(u"Großeinkauf"_s.remove(u'ß'));
+    Key(Qt::Key_T, Qt::AltModifier);
+    QTRY_VERIFY(table.isVisible()); // the button goes down and up again
+    QVERIFY(!scene.Box(u"cboKategorie"_s).isVisible());
+    QCOMPARE(table.Parts().first().Category, u"Haushalt; Lebensmittel"_s);
+    table.ChooseCell(0, cSplitTable::Amount);
+    TypeAndTab(u"30+1,5"_s);
+    QCOMPARE(table.item(0, cSplitTable::Amount)->text(), u"31,50"_s);
+    QCOMPARE(scene.Find<QLabel>(u"lblRest"_s).text(), u"Rest: 18,50"_s);
+    TypeAndTab(u"getranke"_s); // the next line's category is open already
+    TypeAndTab(u"Saft"_s);
+    QCOMPARE(table.Parts().at(1).Category, u"Haushalt; Getränke"_s);
+    Key(Qt::Key_R, Qt::AltModifier);
+    QTRY_COMPARE(table.Parts().at(1).Amount, u"18,50"_s);
+    QCOMPARE(table.rowCount(), 3); // an empty line waits at the end
+    table.ChooseCell(2, cSplitTable::Category);
+    Key(Qt::Key_Delete); // which stays
+    QCOMPARE(table.rowCount(), 3);
+    Key(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY2(!scene.Form->isVisible(), qPrintable(scene.Book.User.Shown.join(u'|')));
+    QCOMPARE(scene.Book.Data.CountEntries(), 2);
+
+    // Opened again it is split, and a line can go.
+    scene.OpenEntry(2);
+    auto& again = scene.Find<cSplitTable>(u"rptSplit"_s);
+    QVERIFY(again.isVisible());
+    QCOMPARE(scene.Line(u"txtBetrag"_s).text(), u"50,00"_s);
+    again.ChooseCell(1, cSplitTable::Amount);
+    Key(Qt::Key_Delete);
+    again.ChooseCell(0, cSplitTable::Amount);
+    Key(Qt::Key_R, Qt::AltModifier);
+    QTRY_COMPARE(again.Parts().first().Amount, u"50,00"_s);
+}
+
+void testFrmBuchung::BadPartIsRed()
+{
+    cScene scene;
+    TypeAndTab(u"50"_s);
+    TypeAndTab(u"lebens"_s);
+    Key(Qt::Key_T, Qt::AltModifier);
+    auto& table = scene.Find<cSplitTable>(u"rptSplit"_s);
+    QTRY_VERIFY(table.isVisible());
+    table.ChooseCell(0, cSplitTable::Amount);
+    Type(u"1,,2"_s);
+    Key(Qt::Key_Return, Qt::ControlModifier); // from within the cell
+    QVERIFY(scene.Form->isVisible());
+    const QTableWidgetItem& amount = *table.item(0, cSplitTable::Amount);
+    QCOMPARE(amount.background().color(), modBadField::Color());
+    QCOMPARE(table.currentItem(), &amount);
+    TypeAndTab(u"50"_s);
+    QCOMPARE(amount.background().style(), Qt::NoBrush);
+}
+
+void testFrmBuchung::CorrectionsOfASeries()
+{
+    cScene scene;
+    const int rent = AddRent(scene.Book).ID;
+    scene.OpenEntry(rent);
+    auto& list = scene.Find<QTreeWidget>(u"lstKorrekturen"_s);
+    QVERIFY(!list.isVisible());
+    Key(Qt::Key_Tab, Qt::ControlModifier); // to the other page
+    QVERIFY(list.isVisible());
+    const auto press = [&](const QString& text) {
+        const QList<QPushButton*> buttons = scene.Form->findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) {
+            if (button->text() == text) {
+                QVERIFY(button->isEnabled());
+                button->click();
+            }
+        }
+        Show(*scene.Form); // behind a modal form no window is active
+    };
+    AnswerForm([](frmKorrektur& form) {
+        form.findChild<QLineEdit*>(u"txtTag"_s)->setText(u"1.1.2020"_s); // before the series
+        form.findChild<QLineEdit*>(u"txtBetrag"_s)->setText(u"700+20"_s);
+        form.findChild<QLineEdit*>(u"txtKommentar"_s)->setText(u"Mietminderung"_s);
+        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        QVERIFY(form.isVisible());
+        QVERIFY(!form.findChild<QLabel*>(u"message"_s)->text().isEmpty());
+        form.findChild<QLineEdit*>(u"txtTag"_s)->setText(u"20.2.2026"_s);
+        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+    });
+    press(u"&Hinzufügen…"_s);
+    QCOMPARE(list.topLevelItemCount(), 1);
+    QCOMPARE(list.topLevelItem(0)->text(0), u"Manuelle Korrektur vom 01.02.2026"_s);
+    QCOMPARE(list.topLevelItem(0)->text(3), u"720,00"_s);
+    AnswerForm([](frmKorrektur& form) {
+        form.findChild<QLineEdit*>(u"txtBetrag"_s)->setText(u"710"_s);
+        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+    });
+    press(u"&Ändern…"_s);
+    QCOMPARE(list.topLevelItem(0)->text(3), u"710,00"_s);
+    QVERIFY(scene.Book.Data.GetEntryMods(rent).isEmpty()); // until it is saved
+    Key(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(scene.Book.Data.GetEntryMods(rent).size(), 1);
+    QCOMPARE(scene.Book.Data.GetEntryMods(rent).first().EntryComment, u"Mietminderung"_s);
+
+    scene.OpenEntry(rent);
+    QCOMPARE(scene.Find<QTreeWidget>(u"lstKorrekturen"_s).topLevelItemCount(), 1);
+    press(u"Ent&fernen"_s);
+    QCOMPARE(scene.Find<QTreeWidget>(u"lstKorrekturen"_s).topLevelItemCount(), 0);
+    Key(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(scene.Book.Data.GetEntryMods(rent).isEmpty());
+}
+
+void testFrmBuchung::CorrectsOneOccurrence()
+{
+    cTestBook book;
+    const int rent = AddRent(book).ID;
+    cSeriesChange change(book.Data, book.User);
+    frmKorrektur form(change, change.StartPeriod(rent, QDate(2026, 2, 1)).value());
+    QSignalSpy saved(&form, &frmKorrektur::CorrectionSaved);
+    Show(form);
+    QCOMPARE(FocusName(), u"txtBetrag"_s);
+    Type(u"7x"_s);
+    Key(Qt::Key_Return);
+    QVERIFY(form.isVisible());
+    QVERIFY(modBadField::IsMarked(*form.findChild<QLineEdit*>(u"txtBetrag"_s)));
+    TypeAndTab(u"700,5"_s);
+    Type(u"Gutschrift"_s);
+    Key(Qt::Key_Return);
+    QVERIFY(!form.isVisible());
+    const std::optional<cEntryItemFixMod> correction = change.Correction(rent, QDate(2026, 2, 1));
+    QVERIFY(correction);
+    QCOMPARE(correction->EntryValue, 70050);
+    QCOMPARE(correction->EntryComment, u"Gutschrift"_s);
+
+    frmKorrektur again(change, change.StartPeriod(rent, QDate(2026, 2, 1)).value());
+    QSignalSpy removed(&again, &frmKorrektur::CorrectionSaved);
+    Show(again);
+    Key(Qt::Key_E, Qt::AltModifier);
+    QTRY_VERIFY(!change.Correction(rent, QDate(2026, 2, 1)));
+    QCOMPARE(saved.size() + removed.size(), 2);
+}
+
+void testFrmBuchung::StartBalance()
+{
+    cScene scene;
+    scene.Open(scene.Editor.StartBalance(u"Sparkonto"_s));
+    for (const QString& hidden : {u"cboKategorie"_s, u"cboBuchungsart"_s, u"cboInterval"_s, u"cboNachKonto"_s}) {
+        QVERIFY(!scene.Box(hidden).isVisible());
+    }
+    const QList<QLabel*> labels = scene.Form->findChildren<QLabel*>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+        return label->isVisible() && label->text() == u"Bisher wurde noch kein Startguthaben festgelegt:"_s;
+    }));
+    QCOMPARE(FocusName(), u"txtBetrag"_s);
+    Type(u"1.250,5"_s);
+    Key(Qt::Key_Return);
+    QCOMPARE(scene.Entries().value(0).EntryCategory, modWord::Startguthaben);
+    QCOMPARE(scene.Entries().value(0).EntryAccount, u"Sparkonto"_s);
+    QCOMPARE(scene.Entries().value(0).EntryValue, 125050);
+}
+
+QTEST_MAIN(testFrmBuchung)
+#include "testFrmBuchung.moc"

@@ -1,0 +1,249 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cTemplateManager.h"
+#include "windows/cTemplateTree.h"
+#include "windows/frmKategorie.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString food = u"Haushalt; Lebensmittel"_s;
+const QString drinks = u"Haushalt; Getränke"_s;
+
+class cScene
+{
+public:
+    cScene()
+    {
+        Id = Book.Add([](cEntryItem&) {}).ID;
+        Manager.Refresh();
+        Window.show();
+        Activate();
+    }
+
+    void Activate()
+    {
+        Window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Window));
+    }
+    // The field whose label has this text.
+    template <typename tField>
+    tField& Field(const QString& label)
+    {
+        const QList<QLabel*> labels = Window.findChildren<QLabel*>();
+        for (const QLabel* each : labels) {
+            if (each->isVisible() && each->text().remove(u'&') == label) {
+                return *qobject_cast<tField*>(each->buddy());
+            }
+        }
+        qFatal("no such field");
+    }
+    QAbstractButton& Button(const QString& text)
+    {
+        const QList<QAbstractButton*> buttons = Window.findChildren<QAbstractButton*>();
+        for (QAbstractButton* button : buttons) {
+            if (button->isVisible() && button->text().remove(u'&') == text) {
+                return *button;
+            }
+        }
+        qFatal("no such button");
+    }
+    QString Selected()
+    {
+        const cTemplateNode* node = Tree(Tabs.currentIndex()).Current();
+        return node == nullptr ? QString() : node->Path;
+    }
+    cTemplateTree& Tree(int page = 0) { return *qobject_cast<cTemplateTree*>(Tabs.widget(page)); }
+
+    cTestBook Book;
+    int Id = 0;
+    cAmountFormat Format{Book.Configuration};
+    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
+    frmKategorie Window{Manager};
+    QTabWidget& Tabs = *Window.findChild<QTabWidget*>();
+};
+
+} // namespace
+
+class testFrmKategorie final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensAtACategoryOrAccount()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(food));
+        QCOMPARE(scene.Selected(), food);
+        QCOMPARE(scene.Field<QLineEdit>(u"Name:"_s).text(), u"Lebensmittel"_s);
+        QVERIFY(scene.Window.Select(u"Auto; Nie gehört"_s));
+        QCOMPARE(scene.Selected(), u"Auto"_s);
+        QVERIFY(scene.Window.Select(u"Sparkonto"_s));
+        QCOMPARE(scene.Tabs.currentIndex(), 1);
+        QCOMPARE(scene.Field<QComboBox>(u"Gruppe:"_s).currentText(), u"Bankkonten"_s);
+        QVERIFY(!scene.Window.Select(u"Nichts"_s));
+    }
+
+    void whatWasTypedIsSavedOnLeavingTheLine()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(food));
+        scene.Tree().setFocus();
+        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        QTRY_VERIFY(scene.Field<QLineEdit>(u"Name:"_s).hasFocus());
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Name:"_s), u"Essen"_s);
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Monatslimit (€):"_s), u"400"_s);
+        scene.Tree().setFocus();
+        QTest::keyClick(&scene.Tree(), Qt::Key_Down);
+        QTRY_COMPARE(scene.Book.Data.LoadEntry(scene.Id)->EntryCategory, u"Haushalt; Essen"_s);
+        QTRY_COMPARE(scene.Field<QLineEdit>(u"Name:"_s).text(), u"Getränke"_s);
+        QCOMPARE(scene.Selected(), drinks);
+        QCOMPARE(scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Essen"_s)->TemplateDefaultValue, u"400.00"_s);
+    }
+
+    void refusedChangesKeepTheLineAndTheWindow()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(food));
+        QLineEdit& limit = scene.Field<QLineEdit>(u"Monatslimit (€):"_s);
+        QTest::keyClicks(&limit, u"viel"_s);
+        scene.Tree().setFocus();
+        QTest::keyClick(&scene.Tree(), Qt::Key_Down);
+        QTRY_COMPARE(scene.Book.User.Shown.size(), 1);
+        QTRY_COMPARE(scene.Selected(), food);
+        QCOMPARE(limit.text(), u"viel"_s);
+        scene.Tabs.setCurrentIndex(1);
+        QTRY_COMPARE(scene.Tabs.currentIndex(), 0);
+        scene.Window.reject();
+        QVERIFY(scene.Window.isVisible());
+        scene.Button(u"Verwerfen"_s).click();
+        QVERIFY(limit.text().isEmpty());
+        QCOMPARE(scene.Selected(), food);
+        scene.Window.reject();
+        QVERIFY(!scene.Window.isVisible());
+    }
+
+    void keysAddMoveAndDelete()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(food));
+        scene.Tree().setFocus();
+        scene.Book.User.Choices = {u"Backwaren"_s, drinks};
+        QTest::keyClick(&scene.Tree(), Qt::Key_Insert);
+        QCOMPARE(scene.Selected(), u"Haushalt; Backwaren"_s);
+        QTest::keyClick(&scene.Tree(), Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(scene.Selected(), u"Haushalt; Backwaren"_s);
+        QCOMPARE(scene.Book.Data.UndoName(), u"Reihenfolge geändert"_s);
+        QVERIFY(scene.Window.Select(food));
+        scene.Book.User.Decisions = {0};
+        QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
+        QCOMPARE(scene.Book.Data.LoadEntry(scene.Id)->EntryCategory, drinks);
+        QCOMPARE(scene.Selected(), drinks); // the next line takes its place
+        QCOMPARE(scene.Field<QLineEdit>(u"Name:"_s).text(), u"Getränke"_s);
+    }
+
+    void aLineWithoutDefinitionOffersWhatCanBeDone()
+    {
+        cScene scene;
+        scene.Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haushalt; Altes"_s; });
+        scene.Manager.Refresh();
+        QVERIFY(scene.Window.Select(u"Haushalt; Altes"_s));
+        QVERIFY(!scene.Button(u"Löschen…"_s).isEnabled());
+        scene.Button(u"Anlegen"_s).click();
+        QCOMPARE(scene.Field<QLineEdit>(u"Name:"_s).text(), u"Altes"_s);
+        QVERIFY(scene.Button(u"Löschen…"_s).isEnabled());
+        QVERIFY(scene.Window.Select(u"Auto"_s));
+        QVERIFY(!scene.Field<QComboBox>(u"Buchungsart:"_s).isEnabled()); // only its sub-categories have entries
+        scene.Button(u"Direkt bebuchbar, ohne Unterkategorie"_s).click();
+        QVERIFY(scene.Field<QComboBox>(u"Buchungsart:"_s).isEnabled());
+        scene.Button(u"Speichern"_s).click();
+        QVERIFY(scene.Book.Data.FindTemplate(u"Auto"_s, QString()));
+    }
+
+    void accountIsWrittenAsAWhole()
+    {
+        cScene scene;
+        scene.Book.User.Answers = {eAnswer::Yes};
+        QVERIFY(scene.Window.Select(u"Girokonto"_s));
+        scene.Field<QLineEdit>(u"Name:"_s).setText(u"Hauskonto"_s);
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Startguthaben (€):"_s), u"-100"_s);
+        QTest::keyClicks(&scene.Field<QPlainTextEdit>(u"Kontonummern für Import:"_s), u"DE99 1"_s);
+        scene.Window.reject();
+        QVERIFY(!scene.Window.isVisible());
+        QCOMPARE(scene.Book.Data.LoadEntry(scene.Id)->EntryAccount, u"Hauskonto"_s);
+        QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryValue, 10000);
+        QCOMPARE(scene.Book.Settings->Get(u"KTO:DE991"_s), u"Hauskonto"_s);
+        QCOMPARE(scene.Book.Data.UndoName(), u"Konto 'Girokonto' umbenannt"_s);
+    }
+
+    void changesElsewhereLeaveWhatIsTyped()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(food));
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Bemerkung:"_s), u"neu"_s);
+        scene.Book.Add([](cEntryItem&) {});
+        scene.Manager.Refresh();
+        QCOMPARE(scene.Field<QLineEdit>(u"Bemerkung:"_s).text(), u"neu"_s);
+        QCOMPARE(scene.Manager.Categories().IndexOf(food).siblingAtColumn(4).data().toString(), u"2"_s);
+        QCOMPARE(scene.Selected(), food);
+    }
+
+    void branchesStayOpenUntilNextTime()
+    {
+        cScene scene;
+        scene.Tree().expand(scene.Manager.Categories().IndexOf(u"Auto"_s));
+        scene.Window.reject();
+        const frmKategorie other(scene.Manager);
+        auto* tree = qobject_cast<cTemplateTree*>(other.findChild<QTabWidget*>()->widget(0));
+        QVERIFY(tree->isExpanded(scene.Manager.Categories().IndexOf(u"Auto"_s)));
+        QVERIFY(!tree->isExpanded(scene.Manager.Categories().IndexOf(u"Haushalt"_s)));
+    }
+
+    // On every kind of line: each field has a name, and each letter leads to one place.
+    void everyFieldHasANameAndALetterOfItsOwn()
+    {
+        cScene scene;
+        scene.Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haushalt; Altes"_s; });
+        scene.Manager.Refresh();
+        for (const QString& line : {food, u"Auto"_s, u"Haushalt; Altes"_s, u"Girokonto"_s}) {
+            QVERIFY(scene.Window.Select(line));
+            QStringList letters{u"k"_s, u"t"_s}; // of the two pages
+            QWidgetList named;
+            const QWidgetList widgets = scene.Window.findChildren<QWidget*>();
+            for (QWidget* widget : widgets) {
+                const auto* label = qobject_cast<QLabel*>(widget);
+                const auto* button = qobject_cast<QAbstractButton*>(widget);
+                const QString text = label != nullptr ? label->text() : button != nullptr ? button->text() : QString();
+                const qsizetype place = text.indexOf(u'&');
+                if (place >= 0) {
+                    letters.append(text.mid(place + 1, 1).toLower());
+                }
+                if (label != nullptr && label->buddy() != nullptr) {
+                    named.append(label->buddy());
+                }
+            }
+            QCOMPARE(letters.removeDuplicates(), 0);
+            for (const QWidget* widget : widgets) {
+                const bool isField = widget->inherits("QLineEdit") || widget->inherits("QComboBox")
+                    || widget->inherits("QPlainTextEdit") || widget->inherits("QTreeView")
+                    || widget->inherits("QDateEdit");
+                if (isField && widget->isVisible() && !widget->parentWidget()->inherits("QComboBox")
+                    && !widget->parentWidget()->inherits("QDateEdit")) {
+                    QVERIFY(named.contains(widget) || !widget->accessibleName().isEmpty());
+                }
+            }
+        }
+    }
+};
+
+QTEST_MAIN(testFrmKategorie)
+#include "testFrmKategorie.moc"

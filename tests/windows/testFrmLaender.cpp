@@ -1,0 +1,70 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "support/windowFaults.h"
+#include "views/cNationalSettings.h"
+#include "windows/frmLaender.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cMachine
+{
+    cTestBook Book;
+    cAmountFormat Format{Book.Configuration};
+    cNationalSettings Settings{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+};
+
+void Choose(QComboBox& combo, const QString& stored)
+{
+    combo.setCurrentIndex(combo.findData(stored));
+}
+
+} // namespace
+
+class testFrmLaender final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PreviewFollowsTheChoice();
+    void UnknownCultureStays();
+};
+
+void testFrmLaender::PreviewFollowsTheChoice()
+{
+    cMachine machine;
+    frmLaender window(machine.Settings);
+    window.show();
+    QCOMPARE(windowFaults::All(window), QStringList());
+    const QList<QComboBox*> combos = window.findChildren<QComboBox*>();
+    QCOMPARE(combos.size(), 3);
+    auto* amount = window.findChild<QLabel*>(u"amount"_s);
+    Choose(*combos[1], u"en-IE"_s);
+    QCOMPARE(amount->text(), u"€1,234.56"_s);
+    Choose(*combos[2], u"en-US"_s);
+    QCOMPARE(amount->text(), u"$1,234.56"_s);
+    QVERIFY(machine.Book.Settings->Get(u"LanguageCurrency"_s).isEmpty()); // nothing is stored yet
+    QTest::keyClick(&window, Qt::Key_Return);
+    QVERIFY(!window.isVisible());
+    QCOMPARE(machine.Book.Settings->Get(u"LanguageCurrency"_s), u"en-US"_s);
+    QCOMPARE(machine.Book.Settings->Get(u"LanguageFormat"_s), u"en-IE"_s);
+}
+
+// What another program has stored is not lost when something else is changed.
+void testFrmLaender::UnknownCultureStays()
+{
+    cMachine machine;
+    QVERIFY(machine.Book.Settings->Set(u"LanguageFormat"_s, u"fr_FR"_s));
+    frmLaender window(machine.Settings);
+    window.show();
+    QTest::keyClick(&window, Qt::Key_Return);
+    QCOMPARE(machine.Book.Settings->Get(u"LanguageFormat"_s), u"fr-FR"_s);
+}
+
+QTEST_MAIN(testFrmLaender)
+#include "testFrmLaender.moc"

@@ -1,0 +1,97 @@
+#include "core/cBackupPlan.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "support/cTestFile.h"
+#include "support/fakes.h"
+#include "support/windowFaults.h"
+#include "views/cBackupSettings.h"
+#include "windows/frmSicherungen.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cMachine
+{
+    cMachine()
+    {
+        if (!Book.Open(File.Make("INSERT INTO data (EntryDate) VALUES ('2026-01-31')"))) {
+            qFatal("cannot open the book");
+        }
+        Configuration.SetDatabase(&Book.Settings());
+        Plan.RunIfDue();
+    }
+
+    cTestFile File;
+    cFakeShell Shell;
+    cFakeUser User;
+    cFakeClock Clock;
+    cFakeRegistry Registry;
+    cConfiguration Configuration{Registry};
+    cBook Book{User};
+    cBackupPlan Plan{{Shell, User, Clock}, Book, Configuration};
+    cBackupSettings Settings{{Book, Configuration, User, Shell, Clock}};
+};
+
+} // namespace
+
+class testFrmSicherungen final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FolderAndNumber();
+    void UnusableFolderIsRefused();
+};
+
+void testFrmSicherungen::FolderAndNumber()
+{
+    cMachine machine;
+    frmSicherungen window(machine.Settings);
+    window.show();
+    QCOMPARE(windowFaults::All(window), QStringList());
+    auto* count = window.findChild<QSpinBox*>();
+    auto* copies = window.findChild<QListWidget*>();
+    QCOMPARE(count->value(), cBackupPlan::DefaultCount);
+    QCOMPARE(copies->count(), 1);
+    QVERIFY(copies->item(0)->text().startsWith(u"15.03.2026, "_s));
+    machine.User.Folder = machine.File.Path(u"neu"_s);
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    const auto choose = std::find_if(buttons.begin(), buttons.end(),
+                                     [](QPushButton* button) { return button->text().contains(u"hlen"_s); });
+    QVERIFY(choose != buttons.end());
+    QTest::mouseClick(*choose, Qt::LeftButton);
+    count->setValue(3);
+    QTest::keyClick(&window, Qt::Key_Return);
+    QVERIFY(!window.isVisible());
+    QCOMPARE(machine.Plan.Count(), 3);
+    QCOMPARE(machine.Plan.Folder(), machine.File.Path(u"neu"_s));
+    QVERIFY(QDir(machine.Plan.Folder()).exists());
+}
+
+void testFrmSicherungen::UnusableFolderIsRefused()
+{
+    cMachine machine;
+    frmSicherungen window(machine.Settings);
+    window.show();
+    for (const QString& folder : {u"relativ"_s, machine.File.Path(u"data.db/unter"_s)}) {
+        const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
+        QCOMPARE(fields.size(), 1);
+
+        fields.constFirst()->setText(folder);
+        QTest::keyClick(&window, Qt::Key_Return);
+        QVERIFY(window.isVisible());
+        QCOMPARE(machine.User.Shown.constLast(), u"In den Ordner '%1' kann nicht geschrieben werden."_s.arg(folder));
+    }
+    QCOMPARE(machine.Plan.Folder(), machine.Plan.DefaultFolder());
+}
+
+QTEST_MAIN(testFrmSicherungen)
+#include "testFrmSicherungen.moc"

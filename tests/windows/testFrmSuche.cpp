@@ -1,0 +1,177 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cSearchModel.h"
+#include "windows/cEntryTree.h"
+#include "windows/frmSuche.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class cScene
+{
+public:
+    cScene()
+    {
+        Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Rewe"_s; });
+        Book.Add([](cEntryItem& entry) {
+            entry.EntryDescription = u"Miete"_s;
+            entry.EntryCategory = u"Wohnen; Miete"_s;
+            entry.EntryDate = QDate(2025, 6, 1);
+            entry.EntryValue = 70000;
+        });
+        Window.Present();
+        QVERIFY(QTest::qWaitForWindowActive(&Window));
+        QCoreApplication::processEvents();
+    }
+
+    template <typename tWidget>
+    tWidget& Labelled(const QString& text)
+    {
+        const QList<QLabel*> labels = Window.findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            if (label->text().remove(u'&') == text) {
+                return *qobject_cast<tWidget*>(label->buddy());
+            }
+        }
+        qFatal("no such label");
+    }
+
+    cTestBook Book;
+    cAmountFormat Format{Book.Configuration};
+    cSearchModel Search{{Book.Data, *Book.Settings, Format, Book.Clock}};
+    frmSuche Window{Search};
+    cEntryTree& Tree = *Window.findChild<cEntryTree*>();
+    QLineEdit& Text = Labelled<QLineEdit>(u"Suchtext:"_s);
+};
+
+} // namespace
+
+class testFrmSuche final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keysSearchOpenAndDelete()
+    {
+        cScene scene;
+        QVERIFY(scene.Text.hasFocus());
+        QSignalSpy edits(&scene.Window, &frmSuche::EditRequested);
+        QSignalSpy deletions(&scene.Window, &frmSuche::DeleteRequested);
+        QTest::keyClicks(&scene.Text, u"rewe"_s);
+        QTest::keyClick(&scene.Text, Qt::Key_Return); // does not wait for the pause
+        QCOMPARE(scene.Tree.model()->rowCount(), 1);
+        QVERIFY(scene.Tree.hasFocus());
+        QCOMPARE(edits.size(), 0);
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(edits.size(), 1);
+        QCOMPARE(edits.at(0).at(0).value<cEntryListModel::cKey>(), (cEntryListModel::cKey{1, QDate(2026, 3, 10)}));
+        QTest::keyClick(&scene.Tree, Qt::Key_Delete);
+        QCOMPARE(deletions.size(), 1);
+        QVERIFY(scene.Book.Data.DeleteEntry(1));
+        scene.Window.Refresh();
+        QCOMPARE(scene.Tree.model()->rowCount(), 0);
+        QTest::keyClick(&scene.Tree, Qt::Key_Delete);
+        QCOMPARE(deletions.size(), 1);
+    }
+
+    void fieldsNarrowTogether()
+    {
+        cScene scene;
+        auto& period = scene.Labelled<QComboBox>(u"Zeitraum:"_s);
+        auto& start = scene.Labelled<QLineEdit>(u"von:"_s);
+        period.setCurrentIndex(period.findData(u"Letztes Jahr"_s));
+        QCOMPARE(start.text(), u"01.01.2025"_s);
+        QVERIFY(!start.isEnabled());
+        QCOMPARE(scene.Tree.model()->rowCount(), 1);
+        scene.Window.findChild<QCheckBox*>()->setChecked(true); // corrected only
+        QCOMPARE(scene.Tree.model()->rowCount(), 0);
+        const QList<QAbstractButton*> buttons = scene.Window.findChildren<QAbstractButton*>();
+        for (QAbstractButton* button : buttons) {
+            if (button->text() == u"&Neue Suche") {
+                button->click();
+            }
+        }
+        QCOMPARE(period.currentIndex(), 0);
+        QVERIFY(scene.Text.hasFocus());
+        auto& category = scene.Labelled<QComboBox>(u"Kategorie:"_s);
+        category.setCurrentIndex(category.findData(u"Haushalt"_s));
+        QCOMPARE(scene.Tree.model()->rowCount(), 1);
+    }
+
+    void aSecondAmountAppearsWhenNeeded()
+    {
+        cScene scene;
+        auto& rule = scene.Labelled<QComboBox>(u"Betrag:"_s);
+        auto& upper = scene.Labelled<QLineEdit>(u"und:"_s);
+        QVERIFY(!upper.isVisible());
+        rule.setCurrentIndex(3);
+        QVERIFY(upper.isVisible());
+        upper.setText(u"50"_s);
+        QTRY_COMPARE(scene.Tree.model()->rowCount(), 1);
+        rule.setCurrentIndex(0); // what is out of sight does not count
+        QCOMPARE(scene.Tree.model()->rowCount(), 0);
+    }
+
+    void columnsAreKept()
+    {
+        cScene scene;
+        scene.Tree.sortByColumn(cEntryListModel::Amount, Qt::DescendingOrder);
+        const QString layout = scene.Tree.LayoutText();
+        QTest::keyClick(&scene.Text, Qt::Key_Escape);
+        QVERIFY(!scene.Window.isVisible());
+        QCOMPARE(scene.Book.Settings->Get(u"FilterList"_s), layout);
+        const frmSuche other(scene.Search);
+        QCOMPARE(other.findChild<cEntryTree*>()->LayoutText(), layout);
+    }
+
+    void everyControlHasANameAndALetterOfItsOwn()
+    {
+        cScene scene;
+        QSet<QChar> letters;
+        const auto take = [&letters](const QString& text) {
+            const qsizetype at = text.indexOf(u'&');
+            QVERIFY2(at >= 0, qPrintable(text));
+            const QChar letter = text.at(at + 1).toLower();
+            QVERIFY2(!letters.contains(letter), qPrintable(text));
+            letters.insert(letter);
+        };
+        QSet<const QWidget*> named;
+        const QList<QLabel*> labels = scene.Window.findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            if (label->buddy() != nullptr) {
+                take(label->text());
+                named.insert(label->buddy());
+            }
+        }
+        const QList<QAbstractButton*> buttons = scene.Window.findChildren<QAbstractButton*>();
+        for (const QAbstractButton* button : buttons) {
+            if (qobject_cast<const QPushButton*>(button) != nullptr
+                || qobject_cast<const QCheckBox*>(button) != nullptr) {
+                take(button->text());
+                named.insert(button);
+            }
+        }
+        for (const QWidget* next = scene.Text.nextInFocusChain(); next != &scene.Text;
+             next = next->nextInFocusChain()) {
+            const bool isOwn = (next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr;
+            const bool isPart = qobject_cast<const QComboBox*>(next->parentWidget()) != nullptr;
+            if (isOwn && !isPart && next->isVisible()) {
+                QVERIFY2(named.contains(next) || !next->accessibleName().isEmpty(), next->metaObject()->className());
+            }
+        }
+    }
+};
+
+QTEST_MAIN(testFrmSuche)
+#include "testFrmSuche.moc"
