@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
+#include "store/cDataAccess.h"
 #include "views/cEntryExport.h"
 #include "views/cEntryExtract.h"
 #include "views/cImportReview.h"
@@ -89,9 +90,17 @@ void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFie
         return;
     }
     frmBuchung form(editor, *fields, Parent());
-    QObject::connect(&form, &frmBuchung::EntrySaved, m_model, &cMainModel::BookChanged);
+    QObject::connect(&form, &frmBuchung::EntrySaved, m_model, [this, &editor] { ShowSaved(editor.SavedId()); });
     QObject::connect(&form, &frmBuchung::CalculatorRequested, m_model, &cMainModel::StartCalculator);
     form.exec();
+}
+
+void cNavigation::ShowSaved(int entryId)
+{
+    BookChanged();
+    if (const std::optional<cEntryItem> entry = m_parts.Book.Data().LoadEntry(entryId)) {
+        m_window->ShowEntry({entry->ID, entry->EntryDate});
+    }
 }
 
 void cNavigation::OpenNewEntry()
@@ -107,7 +116,10 @@ void cNavigation::OpenEntry(int entryId, QDate day)
     switch (series.AskWhatToEdit(entryId, day)) {
     case cSeriesChange::eEdit::Nothing: break;
     case cSeriesChange::eEdit::Period: OpenCorrection(entryId, day); break;
-    case cSeriesChange::eEdit::FromHere: OpenEditor(editor, editor.LoadFrom(entryId, day)); break;
+    case cSeriesChange::eEdit::FromHere:
+        OpenEditor(editor, editor.LoadFrom(entryId, day));
+        m_review->Refresh(); // bank transactions went along with the later part of the series
+        break;
     case cSeriesChange::eEdit::Entry: OpenEditor(editor, editor.Load(entryId)); break;
     }
 }
@@ -139,7 +151,7 @@ void cNavigation::OpenTemplates(const QString& path)
     QObject::connect(&manager, &cTemplateManager::AccountRenamed, m_model, &cMainModel::AccountRenamed);
     frmKategorie form(manager, Parent());
     if (!path.isEmpty()) {
-        form.Select(path);
+        (void)form.Select(path);
     }
     form.exec();
 }

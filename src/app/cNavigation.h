@@ -69,6 +69,7 @@ private:
     void Export();
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void BookChanged();
+    void ShowSaved(int entryId);
 
     cParts m_parts;
     cBookFlow m_books;

@@ -106,7 +106,10 @@ void cQtPrinter::Preview(cPrintable& content, QWidget* parent)
     if (parent != nullptr) {
         dialog.resize(parent->size());
     }
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&content](QPrinter* target) { (void)Spool(*target, content); });
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&content](QPrinter* target) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        (void)Spool(*target, content);
+        QApplication::restoreOverrideCursor();
+    });
     dialog.exec();
 }

@@ -45,8 +45,8 @@ int main(int argc, char* argv[])
     if (!HasDisplay()) {
         return RefuseWithoutDisplay();
     }
-    QApplication::setStyle(new cStyle); // before the application, which would make another one first
     QApplication application(argc, argv);
+    QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
     QApplication::setApplicationName(u"kontorelle"_s);
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
     QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));

@@ -90,9 +90,6 @@ void cAmountFormat::UseFormatCulture()
 void cAmountFormat::CultureChanged()
 {
     m_formatter.reset();
-    if (m_configuration.GetSetting(u"LanguageCurrency"_s).isEmpty()) {
-        UseFormatCulture();
-    }
 }
 
 QString cAmountFormat::Sample(const QString& culture, qint64 signedCents)
@@ -112,7 +109,8 @@ std::unique_ptr<cCultureFormatter> cAmountFormat::MakeFormatter(const QString& c
 QString cAmountFormat::Currency(qint64 signedCents) const
 {
     if (!m_formatter) {
-        m_formatter = m_makeFormatter(m_configuration.GetSetting(u"LanguageCurrency"_s));
+        const QString currency = m_configuration.GetSetting(u"LanguageCurrency"_s);
+        m_formatter = m_makeFormatter(currency.isEmpty() ? m_configuration.GetSetting(u"LanguageFormat"_s) : currency);
     }
     return CurrencyText(*m_formatter, signedCents);
 }

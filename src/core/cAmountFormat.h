@@ -27,7 +27,8 @@ struct cAmountOptions
     bool SignFromText = false; // an amount below zero asks for the negative form
 };
 
-// Every amount that the user sees. The culture is the setting "LanguageCurrency"; without one it is German.
+// Every amount that the user sees. The culture is the setting "LanguageCurrency", else
+// "LanguageFormat"; without both it is German.
 class cAmountFormat
 {
 public:
@@ -48,8 +49,7 @@ public:
     // Goes on with the culture of the setting "LanguageFormat" in place of the currency's.
     void UseFormatCulture();
 
-    // To be called after another book was opened or its culture settings were changed: the next amount is written in
-    // the culture of the currency, or in that of the format where no currency is chosen.
+    // To be called after another book was opened or its culture settings were changed.
     void CultureChanged();
 
     // What an amount of cents looks like in a culture that nobody has chosen yet.

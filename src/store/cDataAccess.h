@@ -77,6 +77,7 @@ public:
     // their categories, newest first.
     [[nodiscard]] QList<cDescriptionUse> GetDescriptionUses(int entries);
     [[nodiscard]] QStringList GetRecentCategories(int entries);
+    [[nodiscard]] QString GetLastAccount(); // of the newest entry; empty in a new book
 
     // Start balance of an account: its one-off entry in the category of start balances.
     [[nodiscard]] std::optional<cEntryItem> GetStartGuthaben(const QString& account);

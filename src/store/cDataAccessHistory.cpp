@@ -58,3 +58,14 @@ QStringList cDataAccess::GetRecentCategories(int entries)
     });
     return paths;
 }
+
+QString cDataAccess::GetLastAccount()
+{
+    QString account;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetLastAccount\n{0}"), [&] {
+        cRows rows(m_database, "SELECT EntryAccount FROM data WHERE EntryCategory <> ? ORDER BY ID DESC LIMIT 1",
+                   {modWord::Startguthaben});
+        account = rows.Next() ? modRow::ReadDoubled(rows.Bytes(0)) : QString();
+    });
+    return account;
+}

@@ -35,8 +35,15 @@ cEntryEditor::cFields cEntryEditor::Start(const QString& account)
     cFields fields;
     fields.Amount = modSum::ToText(0);
     fields.Date = m_clock.Today();
-    fields.Account = account;
+    fields.Account = account.isEmpty() ? ProposedAccount() : account;
     return fields;
+}
+
+QString cEntryEditor::ProposedAccount() const
+{
+    const QStringList accounts = Accounts();
+    const QString last = m_data.GetLastAccount();
+    return accounts.contains(last) ? last : accounts.size() == 1 ? accounts.constFirst() : QString();
 }
 
 cEntryEditor::cFields cEntryEditor::StartBalance(const QString& account)

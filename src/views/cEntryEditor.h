@@ -37,7 +37,7 @@ public:
     // Without `format` amounts are written with the euro sign.
     cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, const cAmountFormat* format = nullptr);
 
-    // The fields of a new entry, with the account preselected where one is given.
+    // The fields of a new entry on the account that is given, else on that of the newest entry.
     [[nodiscard]] cFields Start(const QString& account);
 
     // The start-balance face for an account, filled with what is stored; empty account: the first one.
@@ -117,6 +117,7 @@ private:
     [[nodiscard]] bool HasCorrections(const cFields& fields) const;
     [[nodiscard]] QString StepName(const cEntryItem& entry) const;
     void Remember(const QList<cEntryWrite>& rows);
+    [[nodiscard]] QString ProposedAccount() const;
     [[nodiscard]] bool Refuse(const QString& text) const;
 
     cDataAccess& m_data;

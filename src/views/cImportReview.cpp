@@ -311,13 +311,12 @@ void cImportReview::SetFilter(const QString& text)
 QStringList cImportReview::Categories() const
 {
     QStringList paths;
-    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    const cTemplateItemList items = modTemplate::InOrder(m_parts.Data.GetTemplates());
     for (const cTemplateItem& item : items) {
         if (item.TemplateType == modWord::Kategorie && modTemplate::IsVisible(item)) {
             paths.append(modTemplate::Path(item));
         }
     }
-    paths.sort(Qt::CaseInsensitive);
     paths.removeDuplicates();
     return paths;
 }

@@ -44,7 +44,7 @@ void cMainModel::RestoreView(bool isNewVersion)
     if (isNewBook) {
         m_parts.Settings.ResetViewDefaults();
     }
-    m_accountItems = m_parts.Data.GetAccounts();
+    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
     m_view.Restore(m_parts.Settings, Accounts());
     if (isNewVersion && !isNewBook) {
         ResetView();
@@ -182,7 +182,7 @@ QHash<QString, int> cMainModel::OpenByAccount() const
 void cMainModel::BookChanged()
 {
     m_balancesOf = QDate();
-    m_accountItems = m_parts.Data.GetAccounts();
+    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
     RefreshView();
     Q_EMIT BookRefreshed();
 }
@@ -190,7 +190,7 @@ void cMainModel::BookChanged()
 void cMainModel::StagedRowsChanged()
 {
     m_balancesOf = QDate();
-    m_accountItems = m_parts.Data.GetAccounts(); // a new bank account may have brought a new account
+    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts()); // a new bank account may have brought a new account
     tmrRefreshAccounts.start(0);
     Q_EMIT ViewChanged();
 }

@@ -225,6 +225,18 @@ QString cTemplateManager::AskName(const QString& text, const QString& title)
         .trimmed();
 }
 
+// The name may lose characters on the way, and then the entries have to follow it.
+QString cTemplateManager::AddKnown(const QString& name, const std::function<QString()>& add, fnMoveEntries move)
+{
+    const QString known = name; // the line that it comes from goes with the next look at the book
+    cUndoStep step(m_parts.Data, cText::Tr("'{0}' angelegt", {known}));
+    const QString added = add();
+    if (!added.isEmpty() && added != known) {
+        Tell((m_parts.Data.*move)(added, known) || step.Revert());
+    }
+    return added;
+}
+
 QString cTemplateManager::AskAdd(const cTemplateNode* near)
 {
     if (near == nullptr) {
@@ -235,7 +247,9 @@ QString cTemplateManager::AskAdd(const cTemplateNode* near)
     }
     const QString main = modTemplate::MainOf(near->Path);
     if (near->Kind == eTemplateNode::UnknownCategory) {
-        return AddCategory(main, modTemplate::SubOf(near->Path));
+        return AddKnown(
+            near->Path, [&] { return AddCategory(main, modTemplate::SubOf(near->Path)); },
+            &cDataAccess::ChangeEntryCategory);
     }
     const QString name =
         AskName(cText::Tr("Name der neuen Unterkategorie von '{0}':", {main}), cText::Tr("Neue Kategorie"));
@@ -255,7 +269,8 @@ QString cTemplateManager::AskAddMain()
 QString cTemplateManager::AskAddAccount(const cTemplateNode* near)
 {
     if (near != nullptr && near->Kind == eTemplateNode::UnknownAccount) {
-        return AddAccount(near->Path, {});
+        return AddKnown(
+            near->Path, [&] { return AddAccount(near->Path, {}); }, &cDataAccess::MoveEntriesToAccount);
     }
     QString group = near != nullptr && near->Kind == eTemplateNode::Group ? near->Path : Groups().value(0);
     if (near != nullptr && near->Kind == eTemplateNode::Account) {

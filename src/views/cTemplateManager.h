@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class cAmountFormat;
@@ -96,6 +97,9 @@ Q_SIGNALS:
     void AccountRenamed(const QString& oldName, const QString& newName);
 
 private:
+    using fnMoveEntries = bool (cDataAccess::*)(const QString& newName, const QString& oldName);
+
+    [[nodiscard]] QString AddKnown(const QString& name, const std::function<QString()>& add, fnMoveEntries move);
     [[nodiscard]] QString AskName(const QString& text, const QString& title);
     [[nodiscard]] std::optional<cTemplateItem> FindCategory(const QString& path) const;
     [[nodiscard]] bool HasMain(const QString& main) const;

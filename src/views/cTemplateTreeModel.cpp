@@ -49,10 +49,7 @@ QModelIndex cTemplateTreeModel::Find(tMatch isMatch) const
 
 QModelIndex cTemplateTreeModel::IndexOf(const cTemplateNode& node) const
 {
-    return Find([&](const cTemplateNode& other) {
-        const bool isSame = node.Id > 0 ? other.Id == node.Id : other.Path == node.Path;
-        return isSame && other.Kind == node.Kind;
-    });
+    return Find([&](const cTemplateNode& other) { return other.IsSame(node); });
 }
 
 QModelIndex cTemplateTreeModel::IndexOf(const QString& path) const

@@ -19,6 +19,11 @@ struct cTemplateNode
     int OwnEntries = 0;
     bool IsQuiet = false; // hidden, closed, or without definition
 
+    // The same line, also after its names have changed when it has a definition.
+    [[nodiscard]] bool IsSame(const cTemplateNode& other) const
+    {
+        return Kind == other.Kind && Id == other.Id && (Id > 0 || Path == other.Path);
+    }
     [[nodiscard]] bool IsUnknown() const
     {
         return Kind == eTemplateNode::UnknownCategory || Kind == eTemplateNode::UnknownAccount;

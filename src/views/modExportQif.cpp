@@ -88,8 +88,8 @@ public:
     // many of them look for that first line. Several accounts are each introduced by name.
     [[nodiscard]] QByteArray Text() const
     {
-        if (m_order.size() == 1) {
-            return "!Type:Bank\n" + m_records.value(m_order.constFirst());
+        if (m_order.size() < 2) {
+            return "!Type:Bank\n" + m_records.value(m_order.value(0));
         }
         QByteArray text;
         for (const QString& account : m_order) {

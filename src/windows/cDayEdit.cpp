@@ -5,12 +5,14 @@
 #include "base/modDayText.h"
 #include "windows/modIcon.h"
 #include "windows/modPopup.h"
+#include "windows/modTone.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QTextCharFormat>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,6 +80,10 @@ void cDayEdit::OpenCalendar()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(calendar);
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    QTextCharFormat weekend;
+    weekend.setForeground(modTone::Expense(palette())); // readable on dark windows too
+    calendar->setWeekdayTextFormat(Qt::Saturday, weekend);
+    calendar->setWeekdayTextFormat(Qt::Sunday, weekend);
     calendar->setSelectedDate(Day().isValid() ? Day() : m_today);
     const auto take = [this, popup](QDate day) {
         popup->close();

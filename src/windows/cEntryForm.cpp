@@ -3,7 +3,6 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "model/modWord.h"
-#include "views/modSplitParts.h"
 #include "windows/cAmountEdit.h"
 #include "windows/cCategoryBox.h"
 #include "windows/cDayEdit.h"
@@ -11,6 +10,7 @@
 #include "windows/cSplitPage.h"
 #include "windows/cSplitTable.h"
 #include "windows/modBadField.h"
+#include "windows/modChoice.h"
 #include "windows/modIcon.h"
 #include "windows/modProposal.h"
 #include "windows/modTone.h"
@@ -21,39 +21,11 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QComboBox* MakeChoice(QWidget* parent, const QString& openText)
-{
-    auto* combo = new QComboBox(parent);
-    combo->setPlaceholderText(openText);
-    combo->setMinimumContentsLength(16);
-    combo->setMaxVisibleItems(16);
-    return combo;
-}
-
-void AddWords(QComboBox& combo, const cVocabulary& words)
-{
-    const QStringList stored = words.Stored();
-    for (const QString& word : stored) {
-        combo.addItem(words.ToShown(word), word);
-    }
-}
-
-// Chooses a stored text; one that is not offered (an account that was deleted, say) is offered as well, so that saving
-// does not change it.
-void Choose(QComboBox& combo, const QString& stored)
-{
-    if (!stored.isEmpty() && combo.findData(stored) < 0) {
-        combo.addItem(stored, stored);
-    }
-    combo.setCurrentIndex(combo.findData(stored));
-}
 
 void ShowDay(cDayEdit& edit, QDate day, const QString& typed)
 {
@@ -73,21 +45,21 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       cboKategorie(new cCategoryBox(editor.Suggestions(), this)),
       txtBeschreibung(new QLineEdit(this)),
       EntryDate(new cDayEdit(editor.Today(), this)),
-      cboKonto(MakeChoice(this, cText::Tr("bitte wählen"))),
-      cboBuchungsart(MakeChoice(this, cText::Tr("bitte wählen"))),
-      cboNachKonto(MakeChoice(this, cText::Tr("bitte wählen"))),
-      cboInterval(MakeChoice(this, modWord::Intervals().ToShown(modWord::Einmalig))),
+      cboKonto(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboBuchungsart(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboNachKonto(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboInterval(modChoice::Make(this, modWord::Intervals().ToShown(modWord::Einmalig))),
       m_seriesRow(new QWidget(this)),
       EntryDateCheck(new QCheckBox(cText::Tr("endet a&m"), m_seriesRow)),
       EntryDateEnd(new cDayEdit(editor.Today(), m_seriesRow)),
       m_preview(new QLabel(this)),
-      m_split(new cSplitPage(editor.Suggestions(), this))
+      m_split(new cSplitPage(
+          editor, [this] { return Read(); }, this))
 {
     Build();
     OrderTabs();
     Offer();
     Connect();
-    ConnectSplit();
     Show(fields);
 }
 
@@ -196,14 +168,15 @@ void cEntryForm::Offer()
         cboKonto->addItem(account, account);
         cboNachKonto->addItem(account, account);
     }
-    AddWords(*cboBuchungsart, modWord::EntryTypes());
-    AddWords(*cboInterval, modWord::Intervals());
+    modChoice::AddWords(*cboBuchungsart, modWord::EntryTypes());
+    modChoice::AddWords(*cboInterval, modWord::Intervals());
 }
 
 void cEntryForm::Connect()
 {
     connect(txtBetrag, &QLineEdit::textEdited, this, [this] { m_fields.IsAmountTyped = true; });
-    connect(txtBetrag, &QLineEdit::textChanged, this, &cEntryForm::ShowRest);
+    connect(txtBetrag, &QLineEdit::textChanged, m_split, &cSplitPage::ShowRest);
+    connect(m_split, &cSplitPage::DefaultsTaken, this, &cEntryForm::TakeDefaults);
     connect(cboKategorie, &cCategoryBox::PathPicked, this, &cEntryForm::ChooseCategory);
     cPickList* descriptions = modProposal::AddDescriptions(*txtBeschreibung, m_editor.Suggestions());
     connect(descriptions, &cPickList::Picked, this, &cEntryForm::ChooseDescription);
@@ -216,14 +189,6 @@ void cEntryForm::Connect()
     connect(EntryDateEnd, &QLineEdit::textChanged, this, &cEntryForm::ShowSeries);
 }
 
-void cEntryForm::ConnectSplit()
-{
-    connect(&m_split->Table(), &cSplitTable::PartsEdited, this, &cEntryForm::ShowRest);
-    connect(&m_split->Table(), &cSplitTable::CategoryPicked, this, &cEntryForm::ChoosePartCategory);
-    connect(&m_split->Table(), &cSplitTable::DescriptionPicked, this, &cEntryForm::ChoosePartDescription);
-    connect(m_split, &cSplitPage::RestRequested, this, &cEntryForm::FillRest);
-}
-
 void cEntryForm::Show(const cEntryFields& fields)
 {
     m_fields = fields;
@@ -231,15 +196,15 @@ void cEntryForm::Show(const cEntryFields& fields)
     cboKategorie->SetPath(fields.Category);
     txtBeschreibung->setText(fields.Description);
     ShowDay(*EntryDate, fields.Date, fields.DateText);
-    Choose(*cboKonto, fields.Account);
-    Choose(*cboBuchungsart, fields.Type);
-    Choose(*cboNachKonto, fields.Target);
-    Choose(*cboInterval, fields.Interval);
+    modChoice::Choose(*cboKonto, fields.Account);
+    modChoice::Choose(*cboBuchungsart, fields.Type);
+    modChoice::Choose(*cboNachKonto, fields.Target);
+    modChoice::Choose(*cboInterval, fields.Interval);
     EntryDateCheck->setChecked(fields.HasEnd);
     EntryDateEnd->setEnabled(fields.HasEnd);
     ShowDay(*EntryDateEnd, fields.HasEnd ? fields.End : fields.Date.addYears(1), fields.EndText);
-    m_split->Table().ShowParts(fields.Parts);
     ShowFace();
+    m_split->ShowParts(fields);
     Q_EMIT CorrectionsChanged();
 }
 
@@ -289,7 +254,6 @@ void cEntryForm::ShowFace()
     m_split->setVisible(face == eEntryFace::Split);
     ShowTarget();
     ShowSeries();
-    ShowRest();
 }
 
 void cEntryForm::ShowTarget()
@@ -306,13 +270,6 @@ void cEntryForm::ShowSeries()
     m_preview->setText(isSeries ? m_editor.Preview(fields).Text : QString());
 }
 
-void cEntryForm::ShowRest()
-{
-    if (m_fields.Face == eEntryFace::Split) {
-        m_split->ShowRest(modSplitParts::RestText(Read()));
-    }
-}
-
 void cEntryForm::ChooseCategory(const QString& path)
 {
     cEntryFields fields = Read();
@@ -320,27 +277,11 @@ void cEntryForm::ChooseCategory(const QString& path)
     Show(fields);
 }
 
-void cEntryForm::ChoosePartCategory(int line, const QString& path)
+// What a part brings for the whole; the other fields stay as they are being typed.
+void cEntryForm::TakeDefaults(const cEntryFields& fields)
 {
-    cEntryFields fields = Read();
-    m_editor.ChoosePartCategory(line, path, fields);
-    ShowParts(fields);
-}
-
-void cEntryForm::ChoosePartDescription(int line, const QString& text)
-{
-    cEntryFields fields = Read();
-    m_editor.ChoosePartDescription(line, text, fields);
-    ShowParts(fields);
-}
-
-// The parts and what they bring for the whole; the other fields stay as they are being typed.
-void cEntryForm::ShowParts(const cEntryFields& fields)
-{
-    m_split->Table().ShowParts(fields.Parts);
-    Choose(*cboBuchungsart, fields.Type);
-    Choose(*cboInterval, fields.Interval);
-    ShowRest();
+    modChoice::Choose(*cboBuchungsart, fields.Type);
+    modChoice::Choose(*cboInterval, fields.Interval);
 }
 
 void cEntryForm::ChooseDescription(const QString& text)
@@ -355,14 +296,6 @@ void cEntryForm::ChooseAccount()
     cEntryFields fields = Read();
     m_editor.ChooseAccount(fields.Account, fields);
     Show(fields);
-}
-
-void cEntryForm::FillRest(int line)
-{
-    cEntryFields fields = Read();
-    if (modSplitParts::FillRest(line, fields)) {
-        ShowParts(fields);
-    }
 }
 
 void cEntryForm::FocusFirst()
@@ -389,10 +322,7 @@ void cEntryForm::ShowFailure(cEntryEditor::eSaved saved)
     case cEntryEditor::eSaved::BadAmount: field = txtBetrag; break;
     case cEntryEditor::eSaved::BadDate: field = EntryDate; break;
     case cEntryEditor::eSaved::BadEnd: field = EntryDateEnd; break;
-    case cEntryEditor::eSaved::BadPart:
-        m_split->Table().MarkAmount(m_editor.FailedPart());
-        m_split->Table().ChooseCell(m_editor.FailedPart(), cSplitTable::Amount);
-        return;
+    case cEntryEditor::eSaved::BadPart: m_split->ShowBadPart(); return;
     case cEntryEditor::eSaved::Refused: FocusOpen(); return;
     case cEntryEditor::eSaved::Saved: return;
     }

@@ -49,19 +49,14 @@ private:
     void AddShortRow(const QString& text, QWidget* field);
     void Offer(); // fills the choices
     void Connect();
-    void ConnectSplit();
     void OrderTabs();
     void ShowFace();
     void ShowTarget();
     void ShowSeries();
-    void ShowRest();
     void ChooseCategory(const QString& path);
-    void ChoosePartCategory(int line, const QString& path);
-    void ChoosePartDescription(int line, const QString& text);
-    void ShowParts(const cEntryFields& fields);
+    void TakeDefaults(const cEntryFields& fields);
     void ChooseDescription(const QString& text);
     void ChooseAccount();
-    void FillRest(int line);
     void FocusOpen();
 
     cEntryEditor& m_editor;

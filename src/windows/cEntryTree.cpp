@@ -197,6 +197,20 @@ void cEntryTree::KeepSelection()
     m_isRebuilding = true;
     m_current = m_model.KeyAt(currentIndex());
     m_selected = SelectedKeys();
+    QModelIndex top = indexAt(QPoint());
+    while (top.isValid() && m_model.EntryAt(top) == nullptr) {
+        top = indexBelow(top); // the head of a group is not found again
+    }
+    m_top = m_model.KeyAt(top);
+}
+
+void cEntryTree::Select(const cEntryListModel::cKey& key)
+{
+    const QModelIndexList rows = m_model.IndexesOf({key});
+    if (!rows.isEmpty()) {
+        setCurrentIndex(rows.constFirst());
+        scrollTo(rows.constFirst());
+    }
 }
 
 QList<cEntryListModel::cKey> cEntryTree::SelectedKeys() const
@@ -223,6 +237,10 @@ void cEntryTree::RestoreSelection()
     const QModelIndexList rows = m_model.IndexesOf(m_selected);
     for (const QModelIndex& row : rows) {
         selection.select(row, row.siblingAtColumn(cEntryListModel::ColumnCount - 1));
+    }
+    const QModelIndexList top = m_model.IndexesOf({m_top});
+    if (!top.isEmpty()) {
+        scrollTo(top.constFirst(), PositionAtTop);
     }
     const QModelIndexList current = m_model.IndexesOf({m_current});
     if (!current.isEmpty()) {

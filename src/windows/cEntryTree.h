@@ -20,6 +20,7 @@ public:
     void ShowColumnMenu();                   // below the header, for the keyboard too
     void SetEmptyHint(const QString& hint);
     void ScrollTo(QDate day);
+    void Select(const cEntryListModel::cKey& key); // and brings it into sight; nothing when it is not in the list
     [[nodiscard]] QList<int> ShownColumns() const; // of the model, in the order on screen
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups
 
@@ -44,6 +45,7 @@ private:
     cEntryListModel& m_model;
     QList<cEntryListModel::cKey> m_selected;
     cEntryListModel::cKey m_current;
+    cEntryListModel::cKey m_top; // first line in sight before the list was rebuilt
     QString m_emptyHint;
     std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
     bool m_isRebuilding = false;

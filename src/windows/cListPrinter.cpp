@@ -65,7 +65,7 @@ cListPrinter::~cListPrinter() = default;
 
 cListPrinter::cHead cListPrinter::HeadOf(const cMainModel& model)
 {
-    return {cText::Tr("Buchungen"),
+    return {modViewText::Title(model.View()),
             modViewText::Lines(model.View(), model.ShownRange()),
             cText::Tr("Kontorelle, {0}", {modDate::ToGerman(model.Today())}),
             {{cText::Tr("Einnahmen"), model.IncomeText()},

@@ -1,28 +1,41 @@
 #include "windows/cSplitPage.h"
 
 #include "base/cText.h"
+#include "views/cEntryEditor.h"
+#include "views/modSplitParts.h"
 #include "windows/cSplitTable.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
-cSplitPage::cSplitPage(cEntrySuggestions& suggestions, QWidget* parent)
+cSplitPage::cSplitPage(cEntryEditor& editor, fnFields fields, QWidget* parent)
     : QWidget(parent),
-      m_table(new cSplitTable(suggestions, this)),
+      m_editor(editor),
+      m_fields(std::move(fields)),
+      m_table(new cSplitTable(editor.Suggestions(), this)),
       m_rest(new QLabel(this)),
       m_fill(new QPushButton(cText::Tr("&Rest einsetzen"), this)),
       m_remove(new QPushButton(cText::Tr("&Zeile entfernen"), this))
+{
+    Build();
+    connect(m_fill, &QPushButton::clicked, this, &cSplitPage::FillRest);
+    connect(m_remove, &QPushButton::clicked, this, &cSplitPage::RemoveLine);
+    connect(m_table, &cSplitTable::PartsEdited, this, &cSplitPage::ShowRest);
+    connect(m_table, &cSplitTable::CategoryPicked, this, &cSplitPage::ChooseCategory);
+    connect(m_table, &cSplitTable::DescriptionPicked, this, &cSplitPage::ChooseDescription);
+}
+
+void cSplitPage::Build()
 {
     m_rest->setObjectName(QStringLiteral("lblRest"));
     QFont font = m_rest->font();
     font.setBold(true);
     m_rest->setFont(font);
-    m_rest->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_fill->setToolTip(cText::Tr("Setzt den Rest in die gewählte Zeile ein"));
     m_fill->setAutoDefault(false);
-    m_remove->setAutoDefault(false);
     m_remove->setToolTip(cText::Tr("Entfernt die gewählte Zeile (Entf)"));
+    m_remove->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->addWidget(m_fill);
     row->addWidget(m_remove);
@@ -32,23 +45,54 @@ cSplitPage::cSplitPage(cEntrySuggestions& suggestions, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table, 1);
     layout->addLayout(row);
-    setTabOrder(m_table, m_fill);
-    setTabOrder(m_fill, m_remove);
-    connect(m_fill, &QPushButton::clicked, this, &cSplitPage::RequestRest);
-    connect(m_remove, &QPushButton::clicked, m_table, [this] {
-        m_table->Commit();
-        m_table->RemoveLine();
-    });
 }
 
-void cSplitPage::ShowRest(const QString& text)
+void cSplitPage::ShowParts(const cEntryFields& fields)
 {
-    m_rest->setText(text);
+    m_table->ShowParts(fields.Parts);
+    ShowRest();
 }
 
-void cSplitPage::RequestRest()
+void cSplitPage::ShowRest()
+{
+    m_rest->setText(modSplitParts::RestText(m_fields()));
+}
+
+void cSplitPage::ShowBadPart()
+{
+    m_table->MarkAmount(m_editor.FailedPart());
+    m_table->ChooseCell(m_editor.FailedPart(), cSplitTable::Amount);
+}
+
+void cSplitPage::ChooseCategory(int line, const QString& path)
+{
+    cEntryFields fields = m_fields();
+    m_editor.ChoosePartCategory(line, path, fields);
+    ShowParts(fields);
+    Q_EMIT DefaultsTaken(fields);
+}
+
+void cSplitPage::ChooseDescription(int line, const QString& text)
+{
+    cEntryFields fields = m_fields();
+    m_editor.ChoosePartDescription(line, text, fields);
+    ShowParts(fields);
+    Q_EMIT DefaultsTaken(fields);
+}
+
+void cSplitPage::FillRest()
 {
     m_table->Commit();
-    Q_EMIT RestRequested(m_table->currentRow());
+    cEntryFields fields = m_fields();
+    if (modSplitParts::FillRest(m_table->currentRow(), fields)) {
+        ShowParts(fields);
+    }
+    m_table->setFocus();
+}
+
+void cSplitPage::RemoveLine()
+{
+    m_table->Commit();
+    m_table->RemoveLine();
     m_table->setFocus();
 }

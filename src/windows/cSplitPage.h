@@ -1,8 +1,12 @@
 #pragma once
 
+#include "views/cEntryFields.h"
+
 #include <QWidget>
 
-class cEntrySuggestions;
+#include <functional>
+
+class cEntryEditor;
 class cSplitTable;
 class QLabel;
 class QPushButton;
@@ -13,20 +17,33 @@ class cSplitPage final : public QWidget
     Q_OBJECT
 
 public:
-    explicit cSplitPage(cEntrySuggestions& suggestions, QWidget* parent = nullptr);
+    using fnFields = std::function<cEntryFields()>;
+
+    // `fields` gives the entry as it is typed at the moment, with the parts of this page.
+    cSplitPage(cEntryEditor& editor, fnFields fields, QWidget* parent = nullptr);
 
     [[nodiscard]] cSplitTable& Table() { return *m_table; }
     [[nodiscard]] const cSplitTable& Table() const { return *m_table; }
 
-    void ShowRest(const QString& text);
+    void ShowParts(const cEntryFields& fields);
+    void ShowRest();
+
+    // Colours the amount of the part that could not be saved and moves there.
+    void ShowBadPart();
 
 Q_SIGNALS:
-    // The rest is to go into this line.
-    void RestRequested(int line);
+    // A part has brought the kind or the interval of the whole.
+    void DefaultsTaken(const cEntryFields& fields);
 
 private:
-    void RequestRest();
+    void Build();
+    void ChooseCategory(int line, const QString& path);
+    void ChooseDescription(int line, const QString& text);
+    void FillRest();
+    void RemoveLine();
 
+    cEntryEditor& m_editor;
+    fnFields m_fields;
     cSplitTable* m_table;
     QLabel* m_rest;
     QPushButton* m_fill;

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "model/modWord.h"
+#include "views/cTemplateManager.h"
 #include "windows/modTone.h"
 
 #include <QBoxLayout>
@@ -148,8 +149,8 @@ void cTemplatePanel::BuildFields()
     AddRow({}, m_bookable);
     AddRow(cText::Tr("&Buchungsart:"), m_type);
     AddRow(cText::Tr("&Intervall:"), m_interval);
-    AddRow(cText::Tr("&Monatslimit (€):"), m_limit);
-    AddRow(cText::Tr("Start&guthaben (€):"), m_startRow);
+    AddRow(cText::Tr("&Monatslimit:"), m_limit);
+    AddRow(cText::Tr("Start&guthaben:"), m_startRow);
     AddRow(cText::Tr("Kontonummern &für Import:"), m_numbers);
     AddRow({}, m_numbersHint);
     AddRow(cText::Tr("Beme&rkung:"), m_comment);
@@ -254,26 +255,39 @@ void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& grou
     m_visible->setChecked(fields.IsVisible);
 }
 
-void cTemplatePanel::Show(const cTemplateNode& node, const cTemplateFields& fields, const cTexts& texts)
+void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNode* node)
 {
-    m_kind = node.Kind;
-    m_title->setText(texts.Title);
-    m_hint->setText(texts.Hint);
-    m_numbersHint->setText(texts.NumbersHint);
+    if (node == nullptr) {
+        m_title->clear();
+        m_hint->setText(cText::Tr("Hier ist noch nichts angelegt."));
+        ShowRows(nullptr);
+        return;
+    }
+    m_kind = node->Kind;
+    m_title->setText(manager.Title(*node));
+    m_hint->setText(manager.Hint(*node));
+    const bool isOfAccounts = node->IsOfAccounts();
+    m_numbersHint->setText(isOfAccounts ? manager.NumbersHint() : QString());
+    if (const std::optional<cTemplateFields> fields = manager.Load(*node)) {
+        ShowFields(*node, *fields, isOfAccounts ? manager.Groups() : manager.Mains());
+        m_name->setEnabled(!manager.IsNameFixed(*node));
+        m_group->setEnabled(!manager.IsNameFixed(*node) && !m_isReadOnly);
+    } else {
+        ShowNote(*node);
+    }
+}
+
+void cTemplatePanel::ShowFields(const cTemplateNode& node, const cTemplateFields& fields, const QStringList& groups)
+{
     m_hasFields = false; // what changes now is nobody's change
-    Fill(fields, texts.Groups);
+    Fill(fields, groups);
     ShowRows(&node);
-    m_name->setEnabled(!texts.IsNameFixed);
-    m_group->setEnabled(!texts.IsNameFixed && !m_isReadOnly);
     ShowBookable();
     TakeAsLoaded();
 }
 
-void cTemplatePanel::ShowNote(const cTemplateNode& node, const cTexts& texts)
+void cTemplatePanel::ShowNote(const cTemplateNode& node)
 {
-    m_kind = node.Kind;
-    m_title->setText(texts.Title);
-    m_hint->setText(texts.Hint);
     ShowRows(nullptr);
     const auto show = [this](QPushButton* button, bool isShown, const QString& text) {
         button->setVisible(isShown && !m_isReadOnly);
@@ -282,13 +296,6 @@ void cTemplatePanel::ShowNote(const cTemplateNode& node, const cTexts& texts)
     show(m_add, node.IsUnknown(), cText::Tr("&Anlegen"));
     show(m_merge, node.IsUnknown(), cText::Tr("&Buchungen verschieben…"));
     show(m_rename, node.Kind == eTemplateNode::Group, cText::Tr("Gruppe umb&enennen…"));
-}
-
-void cTemplatePanel::ShowNothing(const QString& hint)
-{
-    m_title->clear();
-    m_hint->setText(hint);
-    ShowRows(nullptr);
 }
 
 void cTemplatePanel::SetReadOnly(bool isReadOnly)

@@ -7,6 +7,7 @@
 
 #include <vector>
 
+class cTemplateManager;
 class QCheckBox;
 class QComboBox;
 class QDateEdit;
@@ -22,21 +23,10 @@ class cTemplatePanel final : public QWidget
     Q_OBJECT
 
 public:
-    // What stands around the fields.
-    struct cTexts
-    {
-        QString Title;
-        QString Hint;
-        QString NumbersHint;
-        QStringList Groups; // to choose from: main categories, or groups of accounts
-        bool IsNameFixed = false;
-    };
-
     explicit cTemplatePanel(QWidget* parent = nullptr);
 
-    void Show(const cTemplateNode& node, const cTemplateFields& fields, const cTexts& texts);
-    void ShowNote(const cTemplateNode& node, const cTexts& texts); // a line without fields
-    void ShowNothing(const QString& hint);
+    // The fields of a line, or what can be done with one that has none; null for no line at all.
+    void ShowLine(const cTemplateManager& manager, const cTemplateNode* node);
     void SetReadOnly(bool isReadOnly);
 
     [[nodiscard]] cTemplateFields Fields() const;
@@ -61,6 +51,8 @@ private:
         QString Text;
     };
 
+    void ShowFields(const cTemplateNode& node, const cTemplateFields& fields, const QStringList& groups);
+    void ShowNote(const cTemplateNode& node);
     void Build();
     void BuildFields();
     void BuildButtons();

@@ -26,9 +26,10 @@ constexpr int correctionsPage = 1;
 frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryFields& fields, QWidget* parent)
     : QDialog(parent),
       m_editor(editor),
-      m_form(new cEntryForm(editor, fields)),
-      m_corrections(new cCorrectionsPage(editor.Today(), [this] { return m_form->Read(); })),
       m_pages(new QTabWidget(this)),
+      m_form(new cEntryForm(editor, fields, m_pages)),
+      m_corrections(new cCorrectionsPage(
+          editor.Today(), [this] { return m_form->Read(); }, m_pages)),
       chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern s&chließen"), this)),
       m_savedBox(new QWidget(this)),
       m_saved(new QListWidget(m_savedBox)),
@@ -58,8 +59,6 @@ void frmBuchung::Build()
     layout->addWidget(m_savedBox);
     layout->addWidget(chkCloseDialog);
     layout->addWidget(m_buttons);
-    setTabOrder(m_pages, chkCloseDialog);
-    setTabOrder(chkCloseDialog, m_buttons);
 }
 
 void frmBuchung::BuildSaved()
@@ -81,11 +80,15 @@ void frmBuchung::BuildSaved()
 void frmBuchung::BuildButtons()
 {
     QPushButton* save = m_buttons->addButton(cText::Tr("&Speichern"), QDialogButtonBox::AcceptRole);
-    m_buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole)->setAutoDefault(false);
+    QPushButton* cancel = m_buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole);
+    cancel->setAutoDefault(false);
     m_split = m_buttons->addButton(QString(), QDialogButtonBox::ResetRole);
     m_split->setObjectName(u"cmdAufteilen"_s);
     m_split->setAutoDefault(false);
     save->setDefault(true);
+    setTabOrder(chkCloseDialog, save);
+    setTabOrder(save, cancel);
+    setTabOrder(cancel, m_split);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &frmBuchung::Save);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &frmBuchung::reject);
 }

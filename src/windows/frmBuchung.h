@@ -39,9 +39,9 @@ private:
     void GoOn(const cEntryFields& saved);
 
     cEntryEditor& m_editor;
+    QTabWidget* m_pages;
     cEntryForm* m_form;
     cCorrectionsPage* m_corrections;
-    QTabWidget* m_pages;
     QCheckBox* chkCloseDialog;
     QWidget* m_savedBox;
     QListWidget* m_saved;

@@ -49,8 +49,6 @@ frmKategorie::frmKategorie(cTemplateManager& manager, QWidget* parent)
     resize(fontMetrics().averageCharWidth() * windowWidth, fontMetrics().lineSpacing() * windowHeight);
 }
 
-frmKategorie::~frmKategorie() = default;
-
 QAction* frmKategorie::MakeAction(const QString& icon, const QString& text, const QKeySequence& key,
                                   const std::function<void()>& run)
 {
@@ -70,8 +68,10 @@ void frmKategorie::BuildActions()
     m_addMain =
         MakeAction(u"neu"_s, cText::Tr("Neue &Hauptkategorie…"), Qt::SHIFT | Qt::Key_Insert, [this] { AddMain(); });
     m_rename = MakeAction(u"bearbeiten"_s, cText::Tr("Umbenennen"), Qt::Key_F2, [this] { Rename(); });
-    m_merge = MakeAction(u"zusammen"_s, cText::Tr("&Zusammenführen…"), {}, [this] { Merge(); });
-    m_delete = MakeAction(u"loeschen"_s, cText::Tr("&Löschen…"), QKeySequence::Delete, [this] { Delete(); });
+    m_merge =
+        MakeAction(u"zusammen"_s, cText::Tr("&Zusammenführen…"), {}, [this] { Run(&cTemplateManager::AskMerge); });
+    m_delete = MakeAction(u"loeschen"_s, cText::Tr("&Löschen…"), QKeySequence::Delete,
+                          [this] { Run(&cTemplateManager::Delete); });
     m_up = MakeAction(u"hoch"_s, cText::Tr("Nach &oben"), Qt::ALT | Qt::Key_Up, [this] { Move(eDirection::Up); });
     m_down =
         MakeAction(u"runter"_s, cText::Tr("Nach &unten"), Qt::ALT | Qt::Key_Down, [this] { Move(eDirection::Down); });
@@ -117,10 +117,10 @@ void frmKategorie::Connect()
     connect(m_categories, &cTemplateTree::Chosen, this, &frmKategorie::ChooseLine);
     connect(m_accounts, &cTemplateTree::Chosen, this, &frmKategorie::ChooseLine);
     connect(m_tabs, &QTabWidget::currentChanged, this, &frmKategorie::ChooseLine);
-    connect(m_panel, &cTemplatePanel::SaveRequested, this, &frmKategorie::Leave);
+    connect(m_panel, &cTemplatePanel::SaveRequested, this, &frmKategorie::Save);
     connect(m_panel, &cTemplatePanel::DiscardRequested, this, &frmKategorie::Discard);
     connect(m_panel, &cTemplatePanel::AddRequested, this, &frmKategorie::Add);
-    connect(m_panel, &cTemplatePanel::MergeRequested, this, &frmKategorie::Merge);
+    connect(m_panel, &cTemplatePanel::MergeRequested, m_merge, &QAction::trigger);
     connect(m_panel, &cTemplatePanel::RenameRequested, this, &frmKategorie::Rename);
     connect(&m_manager.Accounts(), &QAbstractItemModel::modelReset, this, &frmKategorie::ShowLine); // built last
 }
@@ -206,25 +206,13 @@ void frmKategorie::Go(const QString& path)
 void frmKategorie::ShowLine()
 {
     const cTemplateNode* node = Tree().Current();
-    const bool isSame = m_shown && node != nullptr && m_shown->Kind == node->Kind && m_shown->Id == node->Id;
+    const bool isSame = m_shown && node != nullptr && m_shown->IsSame(*node);
     if (m_isWaiting || (isSame && m_panel->IsChanged())) {
         return; // the book was read again while somebody types
     }
     m_shown = node == nullptr ? std::nullopt : std::optional(*node);
     ShowActions();
-    if (node == nullptr) {
-        m_panel->ShowNothing(cText::Tr("Hier ist noch nichts angelegt."));
-        return;
-    }
-    const bool isOfAccounts = node->IsOfAccounts();
-    const cTemplatePanel::cTexts texts{
-        m_manager.Title(*node), m_manager.Hint(*node), isOfAccounts ? m_manager.NumbersHint() : QString(),
-        isOfAccounts ? m_manager.Groups() : m_manager.Mains(), m_manager.IsNameFixed(*node)};
-    if (const std::optional<cTemplateFields> fields = m_manager.Load(*node)) {
-        m_panel->Show(*node, *fields, texts);
-    } else {
-        m_panel->ShowNote(*node, texts);
-    }
+    m_panel->ShowLine(m_manager, node);
 }
 
 void frmKategorie::ShowActions()
@@ -238,6 +226,13 @@ void frmKategorie::ShowActions()
     m_merge->setEnabled(m_shown && m_manager.CanMerge(*m_shown));
     m_up->setEnabled(m_shown && m_manager.CanMove(*m_shown));
     m_down->setEnabled(m_up->isEnabled());
+}
+
+void frmKategorie::Save()
+{
+    if (Leave()) {
+        Tree().setFocus();
+    }
 }
 
 void frmKategorie::Discard()
@@ -279,27 +274,20 @@ void frmKategorie::Rename()
 }
 
 // The manager gets a copy of the line: what the panel shows changes while it works.
-void frmKategorie::Run(const std::function<void(const cTemplateNode&)>& action)
+void frmKategorie::Run(fnAction action)
 {
     if (Leave() && m_shown) {
         const cTemplateNode node = *m_shown;
-        action(node);
+        (m_manager.*action)(node);
     }
-}
-
-void frmKategorie::Delete()
-{
-    Run([this](const cTemplateNode& node) { m_manager.Delete(node); });
-}
-
-void frmKategorie::Merge()
-{
-    Run([this](const cTemplateNode& node) { m_manager.AskMerge(node); });
 }
 
 void frmKategorie::Move(cTemplateManager::eDirection direction)
 {
-    Run([this, direction](const cTemplateNode& node) { m_manager.Move(node, direction); });
+    if (Leave() && m_shown) {
+        const cTemplateNode node = *m_shown;
+        m_manager.Move(node, direction);
+    }
 }
 
 void frmKategorie::done(int result)

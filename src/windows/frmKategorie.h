@@ -21,7 +21,6 @@ class frmKategorie final : public QDialog
 
 public:
     explicit frmKategorie(cTemplateManager& manager, QWidget* parent = nullptr);
-    ~frmKategorie() override;
 
     // Goes to a category ("Haupt; Unter", "Haupt") or to an account. A category that is not there leads to its main
     // category; false when that is not there either.
@@ -30,6 +29,8 @@ public:
     void done(int result) override; // every way to close: stays open when a change is refused
 
 private:
+    using fnAction = bool (cTemplateManager::*)(const cTemplateNode&);
+
     void BuildActions();
     QAction* MakeAction(const QString& icon, const QString& text, const QKeySequence& key,
                         const std::function<void()>& run);
@@ -42,12 +43,11 @@ private:
     void ChooseLine();
     void ShowLine();
     void ShowActions();
+    void Save();
     void Discard();
     void Add();
     void AddMain();
-    void Run(const std::function<void(const cTemplateNode&)>& action);
-    void Delete();
-    void Merge();
+    void Run(fnAction action);
     void Move(cTemplateManager::eDirection direction);
     void Rename();
     void Go(const QString& path); // to what was just added or renamed

@@ -22,8 +22,8 @@ frmLaender::frmLaender(cNationalSettings& settings, QWidget* parent)
     AddHint(cText::Tr("Eine andere Sprache gilt ab dem nächsten Start."));
     m_format = AddChoice(cText::Tr("&Zahlenformat:"), cNationalSettings::Formats(), fields.Format);
     m_currency = AddChoice(cText::Tr("&Währung:"), cNationalSettings::Currencies(), fields.Currency);
-    AddHint(
-        cText::Tr("Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet."));
+    AddHint(cText::Tr("Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet. "
+                      "Das Datum steht immer in der Form Tag.Monat.Jahr."));
     m_amount = AddSample(cText::Tr("Betrag:"), "amount");
     m_negative = AddSample(cText::Tr("Negativer Betrag:"), "negative");
     m_date = AddSample(cText::Tr("Datum:"), "date");

@@ -217,6 +217,11 @@ void frmMain::ResetLayout()
     resize(character * 205, fontMetrics().height() * 50);
 }
 
+void frmMain::ShowEntry(const cEntryListModel::cKey& key)
+{
+    m_tree->Select(key);
+}
+
 void frmMain::ShowStatements()
 {
     m_tabs->setCurrentIndex(1);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/cEntryListModel.h"
+
 #include <QHash>
 #include <QMainWindow>
 #include <QStringList>
@@ -32,7 +34,8 @@ public:
     [[nodiscard]] QList<int> EntryColumns() const;                    // of the entry list, in the order on screen
     void SaveLayout();                                                // place and columns; also done on closing
 
-    void ShowStatements(); // brings the page for bank statements to the front
+    void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
+    void ShowStatements();                            // brings the page for bank statements to the front
     void ShowColumnMenu();
     void Raise(); // in front of other windows, also out of the task bar
 

@@ -1,6 +1,7 @@
 #include "windows/frmSicherungen.h"
 
 #include "base/cText.h"
+#include "windows/modWrapped.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -10,6 +11,12 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSpinBox>
+
+namespace {
+
+constexpr int shownCopies = 7; // more of them scroll
+
+} // namespace
 
 frmSicherungen::frmSicherungen(cBackupSettings& settings, QWidget* parent)
     : QDialog(parent),
@@ -23,7 +30,9 @@ frmSicherungen::frmSicherungen(cBackupSettings& settings, QWidget* parent)
 
     auto* copies = new QListWidget(this);
     copies->addItems(m_settings.Copies());
+    copies->setFixedHeight((copies->fontMetrics().height() + 2) * shownCopies + 2 * copies->frameWidth());
     copies->setSelectionMode(QAbstractItemView::NoSelection);
+    copies->setAccessibleName(cText::Tr("Vorhandene Sicherungen"));
     form->addRow(cText::Tr("&Vorhanden:"), copies);
 
     auto* buttons = new QDialogButtonBox(this);
@@ -36,13 +45,10 @@ frmSicherungen::frmSicherungen(cBackupSettings& settings, QWidget* parent)
 
 void frmSicherungen::BuildFields(QFormLayout& form)
 {
-    auto* text =
-        new QLabel(cText::Tr("Beim ersten Start an einem Tag sichert Kontorelle die Datenbank. Neben den letzten "
-                             "Sicherungen bleibt die letzte jedes Monats erhalten."),
-                   this);
-    text->setWordWrap(true);
-    text->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
-    form.addRow(text);
+    constexpr int columns = 72;
+    form.addRow(modWrapped::Make(cText::Tr("Beim ersten Start an einem Tag sichert Kontorelle die Datenbank. Neben den "
+                                           "letzten Sicherungen bleibt die letzte jedes Monats erhalten."),
+                                 columns, this));
 
     const cBackupSettings::cFields fields = m_settings.Current();
     m_count->setRange(0, cBackupSettings::MostCount);

@@ -32,9 +32,17 @@ frmSuche::frmSuche(cSearchModel& model, QWidget* parent)
     setWindowTitle(cText::Tr("Suchen"));
     Build();
     Connect();
-    m_tree->SetLayoutText(m_model.Layout());
+    ResetLayout();
+    if (!m_model.Layout().isEmpty()) {
+        m_tree->SetLayoutText(m_model.Layout());
+    }
     ShowFound();
     ShowButtons();
+}
+
+frmSuche::~frmSuche()
+{
+    hide(); // the columns are kept also when the program ends with the search still open
 }
 
 void frmSuche::Build()
@@ -155,6 +163,7 @@ void frmSuche::Refresh()
 void frmSuche::ResetLayout()
 {
     m_tree->SetLayoutText({});
+    m_tree->sortByColumn(cEntryListModel::Date, Qt::DescendingOrder); // what is looked for is mostly not long ago
 }
 
 void frmSuche::showEvent(QShowEvent* event)

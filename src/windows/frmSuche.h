@@ -19,6 +19,7 @@ class frmSuche final : public QDialog
 
 public:
     explicit frmSuche(cSearchModel& model, QWidget* parent = nullptr);
+    ~frmSuche() override;
 
     void Present();     // shows the window in front, ready to type
     void Refresh();     // after the book changed

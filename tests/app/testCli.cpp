@@ -1,6 +1,7 @@
 #include "app/cFileLock.h"
 #include "app/cQtRegistry.h"
 #include "store/cDatabase.h"
+#include "support/cCliRun.h"
 
 #include <QDate>
 #include <QDir>
@@ -17,23 +18,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cRun
-{
-    int Code = -1;
-    QString Out;
-    QString Error;
-
-    [[nodiscard]] QJsonArray Json() const { return QJsonDocument::fromJson(Out.toUtf8()).array(); }
-    [[nodiscard]] QString Text() const { return Out + u'\n' + Error; }
-};
+using cRun = cCliRun;
 
 QStringList Column(const QJsonArray& array, const QString& name)
 {
-    QStringList list;
-    for (const auto& value : array) {
-        list.append(value.toObject().value(name).toVariant().toString());
-    }
-    return list;
+    return cRun::Column(array, name);
 }
 
 // A statement with many different transactions.
@@ -64,6 +53,10 @@ private Q_SLOTS:
     void EntriesAreFiltered_data();
     void EntriesAreFiltered();
     void CsvKeepsSeparatorsInsideFields();
+    void ExportsTheSelection_data();
+    void ExportsTheSelection();
+    void ExportRefuses_data();
+    void ExportRefuses();
     void DemoIsTheSameTwice();
     void CheckFindsSoundBook();
     void UsageErrors_data();
@@ -80,7 +73,6 @@ private Q_SLOTS:
     void KilledImportKeepsWhatItStaged();
 
 private:
-    [[nodiscard]] static cRun RunProgram(const QString& program, const QStringList& arguments);
     // Runs with a profile of its own in the temporary folder.
     [[nodiscard]] cRun Run(const QStringList& arguments) const;
     void ImportBoth() const;
@@ -98,20 +90,9 @@ void testCli::init()
     m_folder = std::make_unique<QTemporaryDir>();
 }
 
-cRun testCli::RunProgram(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished()) {
-        return {};
-    }
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
-}
-
 cRun testCli::Run(const QStringList& arguments) const
 {
-    return RunProgram(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
+    return cRun::Start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
 }
 
 QString testCli::WriteFile(const QString& name, const QByteArray& content) const
@@ -226,6 +207,69 @@ void testCli::CsvKeepsSeparatorsInsideFields()
     QVERIFY2(csv.contains("\"Haushalt; Lebensmittel\";64,21;"_L1), qPrintable(csv));
 }
 
+void testCli::ExportsTheSelection_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("start");
+
+    QTest::addRow("by ending") << QStringList{} << QByteArray("!Type:Bank\nD04.03.2024\nT-64.21\n");
+    QTest::addRow("by name") << QStringList{u"--format"_s, u"csv"_s}
+                             << QByteArray("\xEF\xBB\xBF"
+                                           "Datum;Buchungsart;");
+    QTest::addRow("Excel") << QStringList{u"--format"_s, u"xlsx"_s} << QByteArray("PK");
+    QTest::addRow("page") << QStringList{u"--format"_s, u"html"_s} << QByteArray("<!DOCTYPE html>");
+    QTest::addRow("nothing selected") << QStringList{u"--filter"_s, u"Mondstaub"_s} << QByteArray("!Type:Bank\n");
+}
+
+void testCli::ExportsTheSelection()
+{
+    QFETCH(const QStringList, options);
+    QFETCH(const QByteArray, start);
+    ImportBoth();
+    const QStringList ids = Column(Run({u"propose"_s, u"--json"_s}).Json(), u"ImportID"_s);
+    QCOMPARE(Run({u"book"_s, u"--id"_s, ids.at(1), ids.at(4)}).Code, 0);
+    const QString path = WriteFile(u"out.qif"_s, "old"); // is replaced
+    const cRun run = Run(QStringList{u"export"_s, path, u"--period"_s, u"Alle Buchungen"_s, u"--account"_s,
+                                     u"Girokonto"_s, u"--kind"_s, u"Ausgabe"_s}
+                         + options);
+    QVERIFY2(run.Code == 0, qPrintable(run.Text()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    QVERIFY2(content.startsWith(start), content.left(200).constData());
+    const bool isEmpty = options.contains(u"Mondstaub"_s);
+    QVERIFY2(run.Out.startsWith(isEmpty ? "0 Eintr"_L1 : "2 Eintr"_L1), qPrintable(run.Text()));
+}
+
+void testCli::ExportRefuses_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("text");
+
+    QTest::addRow("unknown ending") << u"out.pdf"_s << QStringList{} << 2 << u"csv, xlsx, html, qif"_s;
+    QTest::addRow("unknown format") << u"out.csv"_s << QStringList{u"--format"_s, u"ods"_s} << 2 << u"'ods'"_s;
+    QTest::addRow("the book itself") << u"Veltrino Kontorelle/data.db"_s << QStringList{u"--format"_s, u"csv"_s} << 2
+                                     << u"Datenbank"_s;
+    QTest::addRow("unknown period") << u"out.csv"_s << QStringList{u"--period"_s, u"Morgen"_s} << 2 << u"Morgen"_s;
+    QTest::addRow("folder that is not there") << u"missing/out.csv"_s << QStringList{} << 1 << u"missing"_s;
+}
+
+void testCli::ExportRefuses()
+{
+    QFETCH(const QString, file);
+    QFETCH(const QStringList, options);
+    QFETCH(const int, code);
+    QFETCH(const QString, text);
+    QCOMPARE(Run({u"balances"_s}).Code, 0); // makes the book
+    const cRun run = Run(QStringList{u"export"_s, Path(file)} + options);
+    QVERIFY2(run.Code == code, qPrintable(run.Text()));
+    QVERIFY2(run.Error.contains(text) && run.Out.isEmpty(), qPrintable(run.Text()));
+    QCOMPARE(Run({u"check"_s}).Code, 0);
+    QVERIFY(!QFile::exists(Path(u"out.csv"_s)));
+}
+
 void testCli::DemoIsTheSameTwice()
 {
     const QString one = Path(u"one.db"_s);
@@ -265,7 +309,7 @@ void testCli::UsageErrors_data()
     QTest::addRow("number that is none") << QStringList{u"book"_s, u"--id"_s, u"x"_s} << u"'x'"_s;
     QTest::addRow("unknown period") << QStringList{u"entries"_s, u"--period"_s, u"Morgen"_s} << u"Letzter Monat"_s;
     QTest::addRow("unknown kind") << QStringList{u"entries"_s, u"--kind"_s, u"Geschenk"_s} << u"Umbuchung"_s;
-    QTest::addRow("date that is none") << QStringList{u"entries"_s, u"--from"_s, u"gestern"_s} << u"Datum"_s;
+    QTest::addRow("date that is none") << QStringList{u"entries"_s, u"--from"_s, u"irgendwann"_s} << u"Datum"_s;
     QTest::addRow("period and date") << QStringList{u"entries"_s, u"--from"_s, u"2024-01-01"_s, u"--period"_s,
                                                     u"Letztes Jahr"_s}
                                      << u"--period"_s;
@@ -337,7 +381,7 @@ void testCli::MissingTemplateIsADamagedInstallation()
 {
     const QString program = Path(u"kontorelle-cli"_s);
     QVERIFY(QFile::copy(QStringLiteral(CLI_PROGRAM), program));
-    const cRun run = RunProgram(program, {u"--profile"_s, m_folder->path(), u"balances"_s});
+    const cRun run = cRun::Start(program, {u"--profile"_s, m_folder->path(), u"balances"_s});
     QVERIFY2(run.Code == 1 && run.Error.contains(u"Die Installation ist beschädigt."_s), qPrintable(run.Text()));
 }
 

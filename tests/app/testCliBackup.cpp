@@ -2,25 +2,14 @@
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
 #include "store/cDatabase.h"
+#include "support/cCliRun.h"
 #include "support/cTestFile.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-struct cRun
-{
-    int Code = -1;
-    QString Out;
-    QString Error;
-};
-
-} // namespace
 
 // The commands around whole books, end to end.
 class testCliBackup final : public QObject
@@ -36,7 +25,7 @@ private Q_SLOTS:
 
 private:
     // Runs with a profile of its own in the temporary folder.
-    [[nodiscard]] cRun Run(const QStringList& arguments) const;
+    [[nodiscard]] cCliRun Run(const QStringList& arguments) const;
     [[nodiscard]] QString Path(const QString& name) const { return m_folder->filePath(name); }
     [[nodiscard]] QString Book() const { return Path(u"Veltrino Kontorelle/data.db"_s); }
     [[nodiscard]] QString Entries() const;
@@ -52,15 +41,9 @@ void testCliBackup::init()
     AddEntry();
 }
 
-cRun testCliBackup::Run(const QStringList& arguments) const
+cCliRun testCliBackup::Run(const QStringList& arguments) const
 {
-    QProcess process;
-    process.start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
-    if (!process.waitForFinished()) {
-        return {};
-    }
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+    return cCliRun::Start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
 }
 
 QString testCliBackup::Entries() const
@@ -78,18 +61,18 @@ void testCliBackup::AddEntry() const
 void testCliBackup::ThereAndBack()
 {
     const QString backup = Path(u"one.backup"_s);
-    const cRun made = Run({u"backup"_s, backup});
+    const cCliRun made = Run({u"backup"_s, backup});
     QVERIFY2(made.Code == 0, qPrintable(made.Error));
     QVERIFY2(made.Out.contains("one.backup: 1 Eintrag, der letzte vom 31.01.2026"_L1), qPrintable(made.Out));
     QVERIFY(!QFile::permissions(backup).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
     QVERIFY(!QFile::permissions(Book()).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
     AddEntry();
-    const cRun asked = Run({u"restore"_s, backup});
+    const cCliRun asked = Run({u"restore"_s, backup});
     QCOMPARE(asked.Code, 1);
-    QVERIFY2(asked.Out.contains("1 Eintrag"_L1) && asked.Out.contains("2 Einträge"_L1), qPrintable(asked.Out));
+    QVERIFY2(asked.Out.contains("1 Eintrag"_L1) && asked.Out.contains(u"2 Einträge"_s), qPrintable(asked.Out));
     QVERIFY(asked.Error.contains("--yes"_L1));
     QCOMPARE(Entries(), u"2"_s);
-    const cRun restored = Run({u"restore"_s, backup, u"--yes"_s});
+    const cCliRun restored = Run({u"restore"_s, backup, u"--yes"_s});
     QVERIFY2(restored.Code == 0, qPrintable(restored.Error));
     QVERIFY(restored.Out.contains(".ersetzt"_L1));
     QCOMPARE(Entries(), u"1"_s);
@@ -101,7 +84,7 @@ void testCliBackup::NothingIsReplacedUnasked()
     cTestFile::Write(backup, "old");
     QCOMPARE(Run({u"backup"_s, backup}).Code, 1);
     QCOMPARE(cTestFile::Bytes(backup), QByteArray("old"));
-    QVERIFY(Run({u"restore"_s, backup, u"--yes"_s}).Error.contains("beschädigt"_L1));
+    QVERIFY(Run({u"restore"_s, backup, u"--yes"_s}).Error.contains(u"beschädigt"_s));
     QVERIFY(Run({u"restore"_s, Book(), u"--yes"_s}).Error.contains("die Datenbank selbst"_L1));
     QCOMPARE(Run({u"backup"_s, backup, u"--yes"_s}).Code, 0);
     QCOMPARE(Entries(), u"1"_s);
@@ -113,8 +96,8 @@ void testCliBackup::DamagedBook()
     const QString backup = Path(u"one.backup"_s);
     QCOMPARE(Run({u"backup"_s, backup}).Code, 0);
     cTestFile::Write(Book(), QByteArray("damaged").repeated(300));
-    const cRun restored = Run({u"restore"_s, backup, u"--yes"_s});
-    QVERIFY2(restored.Code == 0 && restored.Out.contains("beschädigt"_L1), qPrintable(restored.Error));
+    const cCliRun restored = Run({u"restore"_s, backup, u"--yes"_s});
+    QVERIFY2(restored.Code == 0 && restored.Out.contains(u"beschädigt"_s), qPrintable(restored.Error));
     QCOMPARE(Entries(), u"1"_s);
 }
 

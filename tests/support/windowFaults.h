@@ -49,7 +49,7 @@ inline QStringList Nameless(const QWidget& window)
         const QWidget* parent = widget.parentWidget();
         const bool isInner = qobject_cast<const QComboBox*>(parent) != nullptr
             || qobject_cast<const QAbstractSpinBox*>(parent) != nullptr;
-        if (isInner || !widget.focusPolicy().testFlag(Qt::TabFocus)
+        if (isInner || (widget.focusPolicy() & Qt::TabFocus) == 0
             || qobject_cast<const QTabBar*>(&widget) != nullptr) {
             return;
         }

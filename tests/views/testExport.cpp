@@ -455,14 +455,17 @@ void testExport::ViewInWords()
     view.Type = modWord::AlleBuchungsarten;
     view.Grouping = modWord::KeineGruppierung;
     const modPeriod::cRange range{QDate(2026, 2, 1), QDate(2026, 2, 28)};
-    QCOMPARE(modViewText::Lines(view, range), QStringList(u"Zeitraum: Letzter Monat (01.02.2026 – 28.02.2026)"_s));
+    QCOMPARE(modViewText::Lines(view, range),
+             QStringList({u"Zeitraum: Letzter Monat (01.02.2026 bis 28.02.2026)"_s, u"Konto: Alle Konten"_s}));
     view.Account = u"Girokonto"_s;
     view.Type = modWord::Ausgabe;
     view.Filter = u" Miete "_s;
-    view.ShowsFix = false;
+    view.Grouping = u"Nach Woche"_s;
+    view.ShowsFuture = false;
+    QCOMPARE(modViewText::Title(view), u"Einträge: Girokonto"_s);
     QCOMPARE(modViewText::Lines(view, range).mid(1),
-             QStringList({u"Konto: Girokonto"_s, u"Buchungsart: Ausgabe"_s, u"Ohne wiederkehrende Einträge"_s,
-                          u"Filter: Miete"_s}));
+             QStringList({u"Konto: Girokonto"_s, u"Buchungsart: Ausgabe"_s, u"Filter: Miete"_s,
+                          u"Gruppierung: Nach Woche"_s, u"Ausgeblendet: zukünftige"_s}));
     view.Period = u"Buchungen bis heute"_s;
     QCOMPARE(modViewText::Lines(view, {QDate(1001, 1, 1), QDate(2026, 3, 15)}).constFirst(),
              u"Zeitraum: Buchungen bis heute (15.03.2026)"_s);

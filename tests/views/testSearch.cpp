@@ -93,7 +93,7 @@ class testSearch final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void finds_data()
+    void Finds_data()
     {
         QTest::addColumn<cSearchQuery>("query");
         QTest::addColumn<QStringList>("found");
@@ -121,7 +121,7 @@ private Q_SLOTS:
         row("from the bank", {.IsFromBank = true}, {u"Rewe 10.03."_s});
     }
 
-    void finds()
+    void Finds()
     {
         QFETCH(const cSearchQuery, query);
         QFETCH(const QStringList, found);
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(cScene::Names(scene.Search.Find(query)), found);
     }
 
-    void showsWhatWasFoundWithSums()
+    void ShowsWhatWasFoundWithSums()
     {
         cScene scene;
         scene.Model.Open();
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(scene.Model.EmptyHint().startsWith(u"Geben Sie oben ein"));
     }
 
-    void understandsAmounts_data()
+    void UnderstandsAmounts_data()
     {
         using eRule = cSearchModel::eAmountRule;
         QTest::addColumn<cSearchModel::cFields>("fields");
@@ -177,7 +177,7 @@ private Q_SLOTS:
         row("no amount is left out", eRule::Exactly, u"zehn"_s, {}, 9);
     }
 
-    void understandsAmounts()
+    void UnderstandsAmounts()
     {
         QFETCH(const cSearchModel::cFields, fields);
         QFETCH(const int, rows);
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !cSearchModel::IsAmount(fields.Amount));
     }
 
-    void readsTheBookOnlyWhenItHasTo()
+    void ReadsTheBookOnlyWhenItHasTo()
     {
         cScene scene;
         scene.Model.Search({.Text = u"e"_s});
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Model.Entries().rowCount(), 1);
     }
 
-    void searchesOnceTypingPauses()
+    void SearchesOnceTypingPauses()
     {
         cScene scene;
         scene.Model.Open();
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Model.Entries().rowCount(), 1);
     }
 
-    void offersChoices()
+    void OffersChoices()
     {
         cScene scene;
         QVERIFY(!scene.Model.Periods().contains(modWord::AlleBuchungen));
@@ -229,9 +229,6 @@ private Q_SLOTS:
         QCOMPARE(scene.Model.Days({.Period = u"Letzter Monat"_s}), Days({2026, 2, 1}, {2026, 2, 28}));
     }
 };
-
-Q_DECLARE_METATYPE(cSearchQuery)
-Q_DECLARE_METATYPE(cSearchModel::cFields)
 
 QTEST_GUILESS_MAIN(testSearch)
 #include "testSearch.moc"

@@ -352,7 +352,8 @@ void testTemplateManager::AddsWhereTheSelectionIs()
 void testTemplateManager::ListsPathsThatNoCategoryHas()
 {
     cScene scene;
-    const QStringList paths{u"Haushalt; Altes"_s, u"Haushalt"_s, u"Früher; Pacht"_s, u"Keine Angabe"_s, QString()};
+    const QStringList paths{u"Haushalt; Altes"_s, u"Haushalt"_s, u"Früher; Pacht & Miete"_s, u"Keine Angabe"_s,
+                            QString()};
     for (const QString& path : paths) {
         scene.Book.Add([&](cEntryItem& entry) { entry.EntryCategory = path; });
     }
@@ -370,9 +371,10 @@ void testTemplateManager::ListsPathsThatNoCategoryHas()
     QCOMPARE(scene.Category(food).Entries, 5);
     QVERIFY(scene.Manager.AskMerge(scene.Account(u"Altes Konto"_s)));
     QCOMPARE(scene.Account(u"Bargeld"_s).Entries, 1);
-    const cTemplateNode unknown = scene.Category(u"Früher; Pacht"_s);
-    QCOMPARE(scene.Manager.AskAdd(&unknown), u"Früher; Pacht"_s);
-    QVERIFY(scene.Has(u"Früher; Pacht"_s));
+    const cTemplateNode unknown = scene.Category(u"Früher; Pacht & Miete"_s);
+    QCOMPARE(scene.Manager.AskAdd(&unknown), u"Früher; Pacht  Miete"_s);
+    QCOMPARE(scene.Category(u"Früher; Pacht  Miete"_s).Entries, 1); // the entries follow the cleaned name
+    QVERIFY(scene.Has(u"Früher; Pacht  Miete"_s));
     QVERIFY(scene.Manager.RenameCategory(u"Haushalt"_s, u"Haus"_s)); // what is not defined goes along
     QCOMPARE(scene.Category(u"Haus; Altes"_s).Entries, 1);
     QVERIFY(!scene.Manager.Categories().IndexOf(u"Haushalt; Altes"_s).isValid());

@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTest::keyClick(&scene.Tree(), Qt::Key_F2);
         QTRY_VERIFY(scene.Field<QLineEdit>(u"Name:"_s).hasFocus());
         QTest::keyClicks(&scene.Field<QLineEdit>(u"Name:"_s), u"Essen"_s);
-        QTest::keyClicks(&scene.Field<QLineEdit>(u"Monatslimit (€):"_s), u"400"_s);
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Monatslimit:"_s), u"400"_s);
         scene.Tree().setFocus();
         QTest::keyClick(&scene.Tree(), Qt::Key_Down);
         QTRY_COMPARE(scene.Book.Data.LoadEntry(scene.Id)->EntryCategory, u"Haushalt; Essen"_s);
@@ -114,7 +114,7 @@ private Q_SLOTS:
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
-        QLineEdit& limit = scene.Field<QLineEdit>(u"Monatslimit (€):"_s);
+        QLineEdit& limit = scene.Field<QLineEdit>(u"Monatslimit:"_s);
         QTest::keyClicks(&limit, u"viel"_s);
         scene.Tree().setFocus();
         QTest::keyClick(&scene.Tree(), Qt::Key_Down);
@@ -175,7 +175,7 @@ private Q_SLOTS:
         scene.Book.User.Answers = {eAnswer::Yes};
         QVERIFY(scene.Window.Select(u"Girokonto"_s));
         scene.Field<QLineEdit>(u"Name:"_s).setText(u"Hauskonto"_s);
-        QTest::keyClicks(&scene.Field<QLineEdit>(u"Startguthaben (€):"_s), u"-100"_s);
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Startguthaben:"_s), u"-100"_s);
         QTest::keyClicks(&scene.Field<QPlainTextEdit>(u"Kontonummern für Import:"_s), u"DE99 1"_s);
         scene.Window.reject();
         QVERIFY(!scene.Window.isVisible());

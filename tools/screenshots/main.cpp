@@ -24,12 +24,15 @@
 #include "windows/frmKorrektur.h"
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
+#include "windows/frmSuche.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -158,13 +161,10 @@ bool TakeDemo(cCamera& camera)
     model.ChooseGrouping(modWord::KeineGruppierung);
     model.ChoosePeriod(modWord::AlleBuchungen);
     camera.Take(window, u"hauptfenster-alle"_s);
-    program.ShowStatements();
+    program.Navigation().ShowStatements();
     camera.Take(window, u"kontoauszuege"_s);
-    camera.TakeDialog(u"eintrag-neu"_s, [&] { program.OpenEntryEditor(0); });
-    camera.TakeDialog(u"eintrag"_s, [&] { program.OpenEntryEditor(15); });
-    frmPasswort password([](const QString&) { return false; });
-    password.show();
-    camera.Take(password, u"passwort"_s);
+    camera.TakeDialog(u"eintrag-neu"_s, [&] { program.Navigation().OpenNewEntry(); });
+    camera.TakeDialog(u"eintrag"_s, [&] { program.Navigation().OpenEntry(15, today); });
     return true;
 }
 
@@ -175,7 +175,7 @@ bool TakeEmpty(cCamera& camera)
         return false;
     }
     camera.Take(stage.Program().Window(), u"hauptfenster-leer"_s);
-    stage.Program().ShowStatements();
+    stage.Program().Navigation().ShowStatements();
     camera.Take(stage.Program().Window(), u"kontoauszuege-leer"_s);
     return true;
 }
@@ -284,6 +284,45 @@ bool TakeEditor(cCamera& camera)
     return true;
 }
 
+// The search before anything was typed, and with results.
+bool TakeSearch(cCamera& camera)
+{
+    cStage stage(cStage::eBook::Demo);
+    if (!stage.IsReady()) {
+        return false;
+    }
+    stage.Program().Navigation().Open(modCommand::Search);
+    auto* window = stage.Program().Window().findChild<frmSuche*>();
+    if (window == nullptr) {
+        return false;
+    }
+    camera.Take(*window, u"suchen-leer"_s);
+    window->findChild<QLineEdit*>()->setText(u"bäcker"_s);
+    QEventLoop typing; // the search waits for a pause
+    QTimer::singleShot(500, &typing, &QEventLoop::quit);
+    typing.exec();
+    camera.Take(*window, u"suchen"_s);
+    return true;
+}
+
+// Password, national settings and automatic backups.
+bool TakeSettings(cCamera& camera)
+{
+    cStage stage(cStage::eBook::Demo);
+    if (!stage.IsReady()) {
+        return false;
+    }
+    cNavigation& navigation = stage.Program().Navigation();
+    cPasswordTries tries;
+    tries.NoteWrong();
+    frmPasswort prompt(tries, [](const QString&) { return false; });
+    prompt.show();
+    camera.Take(prompt, u"passwort"_s);
+    camera.TakeDialog(u"passwort-setzen"_s, [&] { navigation.Open(modCommand::Password); });
+    camera.TakeDialog(u"laender"_s, [&] { navigation.Open(modCommand::National); });
+    return true;
+}
+
 // The list as it is printed, and its preview.
 bool TakePrinted(cCamera& camera)
 {
@@ -310,6 +349,7 @@ bool TakePrinted(cCamera& camera)
         printer.PaintPage(painter, page);
         painter.end();
         QLabel sheet;
+        sheet.setFixedSize(paper); // by itself it stays smaller than the screen
         sheet.setPixmap(QPixmap::fromImage(image));
         camera.Take(sheet, u"druck-%1"_s.arg(page + 1));
     }
@@ -332,8 +372,8 @@ int main(int argc, char* argv[])
         QApplication::setPalette(DarkPalette());
     }
     cCamera camera(arguments.at(1), arguments.at(2));
-    return TakeDemo(camera) && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakePrinted(camera)
-            && camera.IsGood()
+    return TakeDemo(camera) && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera)
+            && TakeSettings(camera) && TakePrinted(camera) && camera.IsGood()
         ? 0
         : 1;
 }

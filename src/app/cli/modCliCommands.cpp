@@ -53,6 +53,7 @@ const QList<cCliCommand>& modCliCommands::All()
         BookCommand(),
         EntriesCommand(),
         SearchCommand(),
+        ExportCommand(),
         AddCommand(),
         ChangeCommand(),
         DeleteCommand(),

@@ -27,6 +27,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand ProposeCommand();
 [[nodiscard]] cCliCommand BookCommand();
 [[nodiscard]] cCliCommand EntriesCommand();
+[[nodiscard]] cCliCommand ExportCommand();
 [[nodiscard]] cCliCommand SearchCommand();
 [[nodiscard]] cCliCommand AddCommand();
 [[nodiscard]] cCliCommand ChangeCommand();

@@ -1,0 +1,424 @@
+#include "app/cFileLock.h"
+#include "support/cCliRun.h"
+#include "support/cTestFile.h"
+
+#include <QDate>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+// Keeping the book from the command line, end to end: the program itself on a new book each time.
+class testCliEntries final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void AddFillsWhatIsMissing_data();
+    void AddFillsWhatIsMissing();
+    void AddRemembersDescriptions();
+    void ChangeLeavesTheRest();
+    void EndOfASeries();
+    void OneOccurrence();
+    void FromHereOn();
+    void LostCorrectionsNeedYes();
+    void DeleteSaysWhatFirst();
+    void PartsOfASplitEntry();
+    void StartBalances();
+    void Search_data();
+    void Search();
+    void Categories();
+    void CategoryDeletedWithItsEntriesMoved();
+    void Accounts();
+    void Refused_data();
+    void Refused();
+    void CorrectionsAreListedWhileTheBookIsLocked();
+    void HelpKnowsTwoWords();
+
+private:
+    [[nodiscard]] cCliRun Run(const QStringList& arguments) const;
+    // Runs what has to succeed: a line of arguments, separated by "|".
+    cCliRun Do(const QString& line) const;
+    // The ID of a new entry.
+    [[nodiscard]] QString Add(const QString& line) const;
+    [[nodiscard]] QString Database() const { return m_folder->filePath(u"Veltrino Kontorelle/data.db"_s); }
+    [[nodiscard]] QString Value(const std::string& sql) const;
+    [[nodiscard]] int CountEntries() const { return Value("SELECT COUNT(*) FROM data").toInt(); }
+    [[nodiscard]] QString Content() const; // of the tables that the commands write to
+    // Day, kind, amount, account, target, category, interval and text of every entry that the JSON output lists.
+    [[nodiscard]] QStringList Stored(const QString& line) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void testCliEntries::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+cCliRun testCliEntries::Run(const QStringList& arguments) const
+{
+    return cCliRun::Start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
+}
+
+cCliRun testCliEntries::Do(const QString& line) const
+{
+    const cCliRun run = Run(line.split(u'|'));
+    if (run.Code != 0) {
+        qFatal("%s: %s", qPrintable(line), qPrintable(run.Text()));
+    }
+    return run;
+}
+
+QString testCliEntries::Add(const QString& line) const
+{
+    return Do(u"add|--json|"_s + line).Column(u"ID"_s).value(0);
+}
+
+QString testCliEntries::Value(const std::string& sql) const
+{
+    cDatabase database;
+    database.Open(Database(), eOpenMode::ReadOnly);
+    return cTestFile::Value(database, sql);
+}
+
+QString testCliEntries::Content() const
+{
+    return Value("SELECT group_concat(ID || EntryDate || EntryDateEnd || EntryType || EntryInterval || EntryAccount ||"
+                 " EntryAccountMove || EntryCategory || EntryValue || EntryDescription) FROM data")
+        + Value("SELECT group_concat(EntryStartDate || EntryValue) FROM datamod")
+        + Value("SELECT group_concat(TemplateCategory || TemplateName || TemplateDefaultValue) FROM template");
+}
+
+QStringList testCliEntries::Stored(const QString& line) const
+{
+    QStringList rows;
+    const QJsonArray array = Do(line).Json();
+    for (const auto& value : array) {
+        QStringList cells;
+        for (const QString& name :
+             {u"EntryDate"_s, u"EntryType"_s, u"EntryValue"_s, u"EntryAccount"_s, u"EntryAccountMove"_s,
+              u"EntryCategory"_s, u"EntryInterval"_s, u"EntryDescription"_s}) {
+            cells.append(value.toObject().value(name).toVariant().toString());
+        }
+        rows.append(cells.join(u'|'));
+    }
+    return rows;
+}
+
+void testCliEntries::AddFillsWhatIsMissing_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("stored");
+
+    QTest::addRow("kind, interval and account by default")
+        << u"--amount|12,50+3,99|--category|Haushalt; Lebensmittel|--date|5.3.2026"_s
+        << u"2026-03-05|Ausgabe|16.49|Girokonto||Haushalt; Lebensmittel|Einmalig|"_s;
+    QTest::addRow("sub-category alone in other letters")
+        << u"--amount|650|--category|MIETE|--date|2026-03-01|--text|Lindenhof"_s
+        << u"2026-03-01|Ausgabe|650|Girokonto||Wohnung; Miete|Monatlich|Lindenhof"_s;
+    QTest::addRow("what is named wins")
+        << u"--amount|-7|--category|Wohnung;Miete|--kind|einnahme|--interval|jaehrlich|--account|bargeld|--date|1.3.26"_s
+        << u"2026-03-01|Einnahme|7|Bargeld||Wohnung; Miete|Jährlich|"_s;
+    QTest::addRow("a target makes a transfer")
+        << u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|1.3.26"_s
+        << u"2026-03-01|Umbuchung|100|Girokonto|Sparkonto|Haushalt; Lebensmittel|Einmalig|"_s;
+}
+
+void testCliEntries::AddFillsWhatIsMissing()
+{
+    QFETCH(const QString, options);
+    QTEST(Stored(u"add|--json|"_s + options).join(u'\n'), "stored");
+}
+
+void testCliEntries::AddRemembersDescriptions()
+{
+    (void)Add(u"--amount|5|--category|Haushalt; Getränke|--account|Bargeld|--date|1.3.2026|--text|Saftladen"_s);
+    QCOMPARE(Stored(u"add|--json|--amount|8|--text|Saftladen|--date|2.3.2026"_s),
+             QStringList{u"2026-03-02|Ausgabe|8|Bargeld||Haushalt; Getränke|Einmalig|Saftladen"_s});
+    Do(u"categories|add|Wohnung; Stellplatz|--limit|45|--interval|Monatlich"_s);
+    QCOMPARE(Stored(u"add|--json|--category|Stellplatz|--date|1.3.2026"_s),
+             QStringList{u"2026-03-01|Ausgabe|45|Girokonto||Wohnung; Stellplatz|Monatlich|"_s});
+}
+
+void testCliEntries::ChangeLeavesTheRest()
+{
+    const QString id = Add(u"--amount|5|--category|Haushalt; Getränke|--account|Bargeld|--date|1.3.2026|--text|Saft"_s);
+    QCOMPARE(Stored(u"change|%1|--json|--amount|6,20"_s.arg(id)),
+             QStringList{u"2026-03-01|Ausgabe|6.2|Bargeld||Haushalt; Getränke|Einmalig|Saft"_s});
+    QCOMPARE(Stored(u"change|%1|--json|--text||--category|Lebensmittel|--date|2.3.2026"_s.arg(id)),
+             QStringList{u"2026-03-02|Ausgabe|6.2|Bargeld||Haushalt; Lebensmittel|Einmalig|"_s});
+    QCOMPARE(Stored(u"search|--json|--period|Alle Buchungen"_s).size(), 1);
+}
+
+void testCliEntries::EndOfASeries()
+{
+    const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|1.3.2026|--end|31.5.2026"_s);
+    const QString count = u"search|--json|--from|1.1.2026|--to|31.12.2026"_s;
+    QCOMPARE(Stored(count).size(), 3);
+    Do(u"change|%1|--end|ohne"_s.arg(id));
+    QCOMPARE(Stored(count).size(), 10);
+}
+
+void testCliEntries::OneOccurrence()
+{
+    const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
+    const QString spring = u"search|--json|--from|1.3.2026|--to|31.5.2026"_s;
+    const auto amounts = [&] { return Do(spring).Column(u"EntryValue"_s); };
+    Do(u"correct|%1|2026-03-20|700|--comment|Nachzahlung"_s.arg(id)); // any day of the period
+    Do(u"change|%1|--only|3.4.2026|--amount|600+20"_s.arg(id));
+    Do(u"correct|%1|3.5.2026|--skip"_s.arg(id));
+    QCOMPARE(amounts(), QStringList({u"700"_s, u"620"_s, u"0"_s}));
+    const cCliRun list = Do(u"correct|%1|--list|--json"_s.arg(id));
+    QCOMPARE(list.Column(u"EntryStartDate"_s), QStringList({u"2026-03-01"_s, u"2026-04-01"_s, u"2026-05-01"_s}));
+    QCOMPARE(list.Column(u"EntryComment"_s), QStringList({u"Nachzahlung"_s, QString(), u"Ausgelassen"_s}));
+    QVERIFY2(list.Out.contains("\"EntryValue\": 700.00"_L1), qPrintable(list.Text()));
+
+    Do(u"correct|%1|3.3.2026|710"_s.arg(id)); // keeps the comment
+    Do(u"correct|%1|3.4.2026|--remove"_s.arg(id));
+    Do(u"correct|%1|3.5.2026|640"_s.arg(id)); // is no longer left out
+    QCOMPARE(amounts(), QStringList({u"710"_s, u"650"_s, u"640"_s}));
+    QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Column(u"EntryComment"_s),
+             QStringList({u"Nachzahlung"_s, QString()}));
+    QCOMPARE(Stored(u"search|--json|--corrected"_s).size(), 2);
+}
+
+void testCliEntries::FromHereOn()
+{
+    const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
+    Do(u"correct|%1|3.2.2026|655"_s.arg(id));
+    const QString later = Do(u"change|%1|--from|3.3.2026|--amount|690|--json"_s.arg(id)).Column(u"ID"_s).value(0);
+    QVERIFY(later != id);
+    const cCliRun search = Do(u"search|--json|--from|1.1.2026|--to|30.4.2026"_s);
+    QCOMPARE(search.Column(u"ID"_s), QStringList({id, id, later, later}));
+    QCOMPARE(search.Column(u"EntryValue"_s), QStringList({u"650"_s, u"655"_s, u"690"_s, u"690"_s}));
+}
+
+void testCliEntries::LostCorrectionsNeedYes()
+{
+    const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
+    Do(u"correct|%1|3.2.2026|655"_s.arg(id));
+    const QStringList change{u"change"_s, id, u"--interval"_s, u"Jährlich"_s};
+    const cCliRun refused = Run(change);
+    QVERIFY2(refused.Code == 1 && refused.Error.contains("Korrekturen gehen dadurch verloren"_L1)
+                 && refused.Error.contains("--yes"_L1),
+             qPrintable(refused.Text()));
+    QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Json().size(), 1);
+    QCOMPARE(Run(change + QStringList{u"--yes"_s}).Code, 0);
+    QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Json().size(), 0);
+}
+
+void testCliEntries::DeleteSaysWhatFirst()
+{
+    const QString one = Add(u"--amount|5|--category|Haushalt; Getränke|--date|1.3.2026"_s);
+    const QString series = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026|--text|Lindenhof"_s);
+    const cCliRun asked = Run({u"delete"_s, one, series});
+    QVERIFY2(asked.Code == 1 && asked.Error.contains("'Lindenhof' (Monatlich seit 03.01.2026)"_L1)
+                 && asked.Error.contains("--yes"_L1) && !asked.Error.contains("--all-parts"_L1),
+             qPrintable(asked.Text()));
+    QCOMPARE(Run({u"delete"_s, one, u"4711"_s, u"--yes"_s}).Code, 1);
+    QCOMPARE(CountEntries(), 2);
+    Do(u"delete|%1|%2|%1|--yes"_s.arg(one, series));
+    QCOMPARE(CountEntries(), 0);
+}
+
+void testCliEntries::PartsOfASplitEntry()
+{
+    const QString food = Add(u"--amount|10|--category|Haushalt; Lebensmittel|--date|1.3.2026|--text|Markt"_s);
+    const QString drink = Add(u"--amount|4|--category|Haushalt; Getränke|--date|1.3.2026"_s);
+    const QString deposit = Add(u"--amount|3|--category|Haushalt; Getränke|--kind|Einnahme|--date|1.3.2026"_s);
+    cTestFile::Run(Database(), u"UPDATE data SET EntryFlags = 'split=%1'"_s.arg(food).toStdString());
+
+    // The amount is that of the part, the day that of the whole group.
+    const cCliRun changed = Do(u"change|%1|--json|--amount|5|--date|2.3.2026"_s.arg(drink));
+    QCOMPARE(changed.Column(u"EntryValue"_s), QStringList({u"10"_s, u"5"_s, u"3"_s}));
+    QCOMPARE(changed.Column(u"EntryDate"_s), QStringList(3, u"2026-03-02"_s));
+    QCOMPARE(changed.Column(u"EntryType"_s), QStringList({u"Ausgabe"_s, u"Ausgabe"_s, u"Einnahme"_s}));
+    const cCliRun tooMuch = Run({u"change"_s, deposit, u"--amount"_s, u"20"_s});
+    QVERIFY2(tooMuch.Code == 1 && tooMuch.Error.contains("unter null"_L1), qPrintable(tooMuch.Text()));
+
+    const cCliRun asked = Run({u"delete"_s, deposit});
+    QVERIFY2(asked.Code == 1 && asked.Error.contains("2 weiteren Teilen"_L1) && asked.Error.contains("--all-parts"_L1),
+             qPrintable(asked.Text()));
+    Do(u"delete|%1|--yes"_s.arg(deposit));
+    QCOMPARE(CountEntries(), 2);
+    Do(u"delete|%1|--yes|--all-parts"_s.arg(drink));
+    QCOMPARE(CountEntries(), 0);
+}
+
+void testCliEntries::StartBalances()
+{
+    Do(u"accounts|start|Sparkonto|-250,50|--date|1.1.2026"_s);
+    Do(u"accounts|start|sparkonto|1.000,00"_s); // keeps the day
+    QCOMPARE(Stored(u"search|--json|Startguthaben"_s),
+             QStringList{u"2026-01-01|Einnahme|1000|Sparkonto||Allgemein; Startguthaben|Einmalig|Startguthaben"_s});
+    const QString id = Do(u"search|--json|Startguthaben"_s).Column(u"ID"_s).value(0);
+    QCOMPARE(Stored(u"change|%1|--json|--amount|-20"_s.arg(id)).value(0).section(u'|', 1, 2), u"Ausgabe|20"_s);
+    QCOMPARE(Run({u"change"_s, id, u"--category"_s, u"Miete"_s}).Code, 2);
+}
+
+void testCliEntries::Search_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QStringList>("texts");
+
+    QTest::addRow("words, umlauts spelled out") << u"MAERZ bäcker"_s << QStringList{u"Bäckerei März"_s};
+    QTest::addRow("exact amount") << u"--amount|-12,40"_s << QStringList{u"Bäckerei März"_s};
+    QTest::addRow("range of amounts") << u"--min|12|--max|50"_s << QStringList{u"Bäckerei März"_s, u"Gehalt"_s};
+    QTest::addRow("period") << u"--from|2026-03-05|--to|31.3.2026"_s << QStringList{u"Gehalt"_s, u"Rücklage"_s};
+    QTest::addRow("account, transfers into it too") << u"--account|sparkonto"_s << QStringList{u"Rücklage"_s};
+    QTest::addRow("kind") << u"--kind|Einnahmen"_s << QStringList{u"Gehalt"_s};
+    QTest::addRow("main category") << u"--category|haushalt"_s << QStringList{u"Bäckerei März"_s, u"Rücklage"_s};
+    QTest::addRow("all together") << u"Rück|--kind|Umbuchung|--min|99"_s << QStringList{u"Rücklage"_s};
+    QTest::addRow("from the bank") << u"--from-bank"_s << QStringList{};
+}
+
+void testCliEntries::Search()
+{
+    QFETCH(const QString, options);
+    (void)Add(u"--amount|12,40|--category|Haushalt; Lebensmittel|--date|1.3.2026|--text|Bäckerei März"_s);
+    (void)Add(u"--amount|50|--category|Lohn / Gehalt|--interval|Einmalig|--date|5.3.2026|--text|Gehalt"_s);
+    (void)Add(
+        u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|6.3.2026|--text|Rücklage"_s);
+    QTEST(Do(u"search|--json|"_s + options).Column(u"EntryDescription"_s), "texts");
+}
+
+void testCliEntries::Categories()
+{
+    Do(u"categories|add|Hobby;Modellbahn|--kind|Ausgabe|--interval|Monatlich|--limit|30"_s);
+    (void)Add(u"--amount|12|--category|Modellbahn|--date|1.3.2026"_s);
+    Do(u"categories|rename|modellbahn|Eisenbahn"_s); // stays below its main category
+    const cCliRun list = Do(u"categories|--json"_s);
+    const QJsonObject last = list.Json().last().toObject();
+    QCOMPARE(last.value(u"EntryCategory"_s).toString(), u"Hobby; Eisenbahn"_s);
+    QCOMPARE(last.value(u"EntryInterval"_s).toString(), u"Monatlich"_s);
+    QCOMPARE(last.value(u"Entries"_s).toInt(), 1);
+    QVERIFY2(list.Out.contains("\"TemplateDefaultValue\": 30.00"_L1), qPrintable(list.Text()));
+
+    const QStringList merge{u"categories"_s, u"merge"_s, u"Eisenbahn"_s, u"Haushalt; Getränke"_s};
+    QCOMPARE(Run(merge).Code, 1);
+    QCOMPARE(Do(u"categories|--json"_s).Out, list.Out);
+    QCOMPARE(Run(merge + QStringList{u"--yes"_s}).Code, 0);
+    QCOMPARE(Stored(u"search|--json|--category|Getränke"_s).size(), 1);
+    QVERIFY(!Do(u"categories|--json"_s).Out.contains("Eisenbahn"_L1));
+}
+
+void testCliEntries::CategoryDeletedWithItsEntriesMoved()
+{
+    (void)Add(u"--amount|12|--category|Haushalt; Getränke|--date|1.3.2026"_s);
+    const cCliRun asked = Run({u"categories"_s, u"delete"_s, u"Getränke"_s});
+    QVERIFY2(asked.Code == 1 && asked.Error.contains("1 Buchung"_L1) && asked.Error.contains("--move-to"_L1),
+             qPrintable(asked.Text()));
+    Do(u"categories|delete|Getränke|--move-to|Lebensmittel|--yes"_s);
+    QCOMPARE(Stored(u"search|--json|--category|Lebensmittel"_s).size(), 1);
+    Do(u"categories|delete|Lebensmittel|--yes"_s); // its entry keeps the path
+    const QJsonObject unknown = Do(u"categories|--json"_s).Json().last().toObject();
+    QCOMPARE(unknown.value(u"EntryCategory"_s).toString(), u"Haushalt; Lebensmittel"_s);
+    QCOMPARE(unknown.value(u"ID"_s).toInt(), 0);
+}
+
+void testCliEntries::Accounts()
+{
+    Do(u"accounts|add|Depot|--group|Anlage"_s);
+    Do(u"accounts|start|Depot|1000|--date|1.1.2026"_s);
+    (void)Add(u"--amount|10|--category|Haushalt; Lebensmittel|--account|Depot|--date|1.3.2026"_s);
+    const QStringList rename{u"accounts"_s, u"rename"_s, u"Depot"_s, u"Fonds"_s};
+    const cCliRun asked = Run(rename);
+    QVERIFY2(asked.Code == 1 && asked.Error.contains("--entries yes"_L1), qPrintable(asked.Text()));
+    QCOMPARE(Run(rename + QStringList{u"--entries"_s, u"ja"_s}).Code, 0);
+    const cCliRun list = Do(u"accounts|--json"_s);
+    const QJsonObject fonds = list.Json().last().toObject();
+    QCOMPARE(fonds.value(u"TemplateName"_s).toString(), u"Fonds"_s);
+    QCOMPARE(fonds.value(u"TemplateCategory"_s).toString(), u"Anlage"_s);
+    QCOMPARE(fonds.value(u"StartDate"_s).toString(), u"2026-01-01"_s);
+    QVERIFY2(list.Out.contains("\"Balance\": 990.00, \"StartBalance\": 1000.00"_L1), qPrintable(list.Text()));
+
+    QCOMPARE(Run({u"accounts"_s, u"delete"_s, u"Fonds"_s}).Code, 1);
+    Do(u"accounts|delete|Fonds|--move-to|Bargeld|--yes"_s);
+    QCOMPARE(Stored(u"search|--json|--account|Bargeld"_s).size(), 2);
+    QVERIFY(!Do(u"accounts|--json"_s).Out.contains("Fonds"_L1));
+}
+
+void testCliEntries::Refused_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("text");
+
+    QTest::addRow("no amount") << u"add|--category|Lebensmittel"_s << 2 << u"--amount"_s;
+    QTest::addRow("amount that is none") << u"add|--amount|12k|--category|Lebensmittel"_s << 2 << u"'12k'"_s;
+    QTest::addRow("no category") << u"add|--amount|5"_s << 1 << u"Bitte erst eine Kategorie wählen!"_s;
+    QTest::addRow("unknown category") << u"add|--amount|5|--category|Lebens"_s << 1 << u"Haushalt; Lebensmittel"_s;
+    QTest::addRow("ambiguous category") << u"add|--amount|5|--category|Kleidung"_s << 1 << u"mehrere"_s;
+    QTest::addRow("category of start balances")
+        << u"add|--amount|5|--category|Startguthaben"_s << 2 << u"accounts start"_s;
+    QTest::addRow("unknown account") << u"add|--amount|5|--category|Miete|--account|Mars"_s << 1 << u"Girokonto"_s;
+    QTest::addRow("unknown interval") << u"add|--amount|5|--category|Miete|--interval|oft"_s << 2 << u"Monatlich"_s;
+    QTest::addRow("day that is none") << u"add|--amount|5|--category|Miete|--date|31.2."_s << 2 << u"'31.2.'"_s;
+    QTest::addRow("transfer to nowhere") << u"add|--amount|5|--category|Miete|--kind|Umbuchung"_s << 2
+                                         << u"--to-account"_s;
+    QTest::addRow("transfer to itself") << u"add|--amount|5|--category|Miete|--to-account|Girokonto"_s << 2
+                                        << u"zwei verschiedene"_s;
+    QTest::addRow("target of an expense")
+        << u"add|--amount|5|--category|Miete|--kind|Ausgabe|--to-account|Sparkonto"_s << 2 << u"Umbuchung"_s;
+    QTest::addRow("end of a single entry")
+        << u"add|--amount|5|--category|Lebensmittel|--end|31.12.2026"_s << 2 << u"--interval"_s;
+    QTest::addRow("end before start") << u"add|--amount|5|--category|Miete|--date|1.3.2026|--end|1.2.2026"_s << 2
+                                      << u"01.03.2026"_s;
+    QTest::addRow("change of nothing") << u"change|1"_s << 2 << u"--amount"_s;
+    QTest::addRow("change of an entry that is not there") << u"change|77|--amount|5"_s << 1 << u"77"_s;
+    QTest::addRow("more than the amount of one occurrence")
+        << u"change|1|--only|3.3.2026|--text|x"_s << 2 << u"nur der Betrag"_s;
+    QTest::addRow("no occurrence on that day") << u"change|1|--from|3.3.2019|--amount|5"_s << 1 << u"03.01.2026"_s;
+    QTest::addRow("new start before the split")
+        << u"change|1|--from|3.3.2026|--date|1.2.2026"_s << 2 << u"03.03.2026"_s;
+    QTest::addRow("correction two ways") << u"correct|1|3.3.2026|5|--skip"_s << 2 << u"--remove"_s;
+    QTest::addRow("correction of nothing") << u"correct|1|3.3.2026"_s << 2 << u"--list"_s;
+    QTest::addRow("removal of no correction") << u"correct|1|3.3.2026|--remove"_s << 1 << u"nicht korrigiert"_s;
+    QTest::addRow("search for nothing") << u"search"_s << 2 << u"Suchwort"_s;
+    QTest::addRow("two kinds of amounts") << u"search|--amount|5|--min|3"_s << 2 << u"--max"_s;
+    QTest::addRow("limit that is no amount") << u"categories|add|Neu|--limit|viel"_s << 2 << u"'viel'"_s;
+    QTest::addRow("category that is there") << u"categories|add|Wohnung; Miete"_s << 1 << u"existiert bereits"_s;
+    QTest::addRow("protected category") << u"categories|delete|Startguthaben|--yes"_s << 1 << u"Startguthaben"_s;
+    QTest::addRow("option before the second word") << u"categories|--json|add|Neu"_s << 2 << u"'--json'"_s;
+    QTest::addRow("unknown second word") << u"accounts|frobnicate"_s << 2 << u"'frobnicate'"_s;
+    QTest::addRow("account that is there") << u"accounts|add|Girokonto"_s << 1 << u"existiert bereits"_s;
+    QTest::addRow("start balance that is no amount") << u"accounts|start|Girokonto|viel"_s << 2 << u"'viel'"_s;
+}
+
+void testCliEntries::Refused()
+{
+    QFETCH(const QString, line);
+    QFETCH(const QString, text);
+    QCOMPARE(Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s), u"1"_s);
+    const QString before = Content();
+    const cCliRun run = Run(line.split(u'|'));
+    QTEST(run.Code, "code");
+    QVERIFY2(run.Error.contains(text) && run.Out.isEmpty(), qPrintable(run.Text()));
+    QCOMPARE(Content(), before);
+}
+
+void testCliEntries::CorrectionsAreListedWhileTheBookIsLocked()
+{
+    const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
+    cFileLock lock;
+    QCOMPARE(lock.Take(Database()), eLockState::Held);
+    QCOMPARE(Run({u"correct"_s, id, u"--list"_s}).Code, 0);
+    const cCliRun write = Run({u"correct"_s, id, u"3.3.2026"_s, u"5"_s});
+    QVERIFY2(write.Code == 1 && write.Error.contains("in Benutzung"_L1), qPrintable(write.Text()));
+}
+
+void testCliEntries::HelpKnowsTwoWords()
+{
+    for (const QString& line : {u"hilfe|categories|add"_s, u"categories|add|--help"_s}) {
+        const cCliRun help = Do(line);
+        QVERIFY2(help.Out.contains("categories add PFAD"_L1) && help.Out.contains("--limit"_L1),
+                 qPrintable(help.Text()));
+    }
+}
+
+QTEST_GUILESS_MAIN(testCliEntries)
+#include "testCliEntries.moc"
