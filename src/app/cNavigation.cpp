@@ -5,6 +5,7 @@
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
+#include "views/cBackupSettings.h"
 #include "views/cEntryExport.h"
 #include "views/cEntryExtract.h"
 #include "views/cImportReview.h"
@@ -24,6 +25,7 @@
 #include "windows/frmLaender.h"
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
+#include "windows/frmSicherungen.h"
 #include "windows/frmSuche.h"
 
 #include <QApplication>
@@ -81,6 +83,7 @@ void cNavigation::BookSwitched()
     delete m_search;
     m_search = nullptr;
     m_searchModel.reset();
+    m_password.reset();
 }
 
 void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields)
@@ -179,8 +182,17 @@ void cNavigation::OpenImport()
 
 void cNavigation::OpenPassword()
 {
-    cPasswordFlow flow(m_parts.Book.Data(), m_parts.Configuration, m_parts.User);
-    frmPasswort form(flow, Parent());
+    if (!m_password) {
+        m_password = std::make_unique<cPasswordFlow>(m_parts.Book.Data(), m_parts.Configuration, m_parts.User);
+    }
+    frmPasswort form(*m_password, Parent());
+    form.exec();
+}
+
+void cNavigation::OpenBackupSettings()
+{
+    cBackupSettings settings({m_parts.Book, m_parts.Configuration, m_parts.User, m_parts.Shell, m_parts.Clock});
+    frmSicherungen form(settings, Parent());
     form.exec();
 }
 
@@ -224,6 +236,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::NewDatabase: m_books.NewBook(); break;
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
+    case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
     default: break; // done by the model itself
     }

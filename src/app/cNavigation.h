@@ -16,6 +16,7 @@ class cClock;
 class cConfiguration;
 class cImportReview;
 class cMainModel;
+class cPasswordFlow;
 class cRescue;
 class cSearchModel;
 class cShell;
@@ -65,6 +66,7 @@ private:
     void OpenSearch();
     void OpenImport();
     void OpenPassword();
+    void OpenBackupSettings();
     void OpenNationalSettings();
     void Export();
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
@@ -78,6 +80,7 @@ private:
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;
     frmImport* m_statements = nullptr;
+    std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on
     frmSuche* m_search = nullptr;
 };

@@ -336,6 +336,7 @@ bool cMainModel::Execute(int command)
     case modCommand::NewDatabase:
     case modCommand::Search:
     case modCommand::StartBalance:
+    case modCommand::BackupSettings:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     }
     return true;

@@ -11,7 +11,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 29> commands{{
+constexpr std::array<cCommand, 30> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", "", Plain,
      QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "", "",
@@ -76,6 +76,9 @@ constexpr std::array<cCommand, 29> commands{{
      Plain, QT_TRANSLATE_NOOP("cText", "Startet den Taschenrechner des Systems.")},
     {Password, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Passwortschutz"), "", "", "",
      Writes | StartsGroup, QT_TRANSLATE_NOOP("cText", "Setzt, ändert oder entfernt das Passwort dieser Datenbank.")},
+    {BackupSettings, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Automatische Datensicherung"),
+     "", "", "", Writes,
+     QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
     {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "", "",
      Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
 }};

@@ -30,6 +30,7 @@ enum eId : int {
     Redo = 119,
     CorrectPeriod = 120,
     SkipPeriod = 121,
+    BackupSettings = 122,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,

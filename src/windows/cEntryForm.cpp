@@ -123,6 +123,7 @@ void cEntryForm::BuildAmount()
     row->addWidget(txtBetrag);
     row->addWidget(calculator);
     txtBetrag->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
+    txtBetrag->setAccessibleName(m_editor.AmountLabel());
     txtBetrag->setToolTip(cText::Tr("Auch eine Rechnung, etwa 12,50+3,99*2"));
     m_amountRow->setFocusProxy(txtBetrag);
 }

@@ -15,13 +15,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qreal gap = 7;     // points between columns
+constexpr qreal gap = 7;     // points between texts side by side
 constexpr qreal padding = 2; // points above and below a row
 
 // Sizes of text that are tried one after the other until the columns fit.
 constexpr std::array<qreal, 4> sizes{9, 8, 7, 6};
-constexpr int longestWord = 24; // characters; what is longer may be broken
-constexpr std::size_t mostSamples = 1000;
 
 const QColor lineColor(0xB8, 0xB8, 0xB8);
 const QColor groupColor(0xEA, 0xEA, 0xEA);
@@ -55,8 +53,8 @@ cListPrinter::cListPrinter(const cEntryListModel& model, const QList<int>& colum
 {
     for (const int column : columns) {
         const bool isFixed = IsMoneyColumn(column) || column == cEntryListModel::Date;
-        m_columns.push_back({model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                             column == cEntryListModel::Amount, IsMoneyColumn(column), isFixed});
+        m_columns.Add({model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                       column == cEntryListModel::Amount, IsMoneyColumn(column), isFixed});
     }
     TakeRows(model, columns);
 }
@@ -100,111 +98,27 @@ void cListPrinter::TakeRows(const cEntryListModel& model, const QList<int>& colu
 int cListPrinter::LayOut(QPaintDevice& device, const QRectF& area)
 {
     m_area = area;
+    std::vector<const QStringList*> rows;
+    for (const cRow& row : m_rows) {
+        if (!row.IsGroup) {
+            rows.push_back(&row.Cells);
+        }
+    }
     for (const qreal size : sizes) {
         m_text = std::make_unique<cPageText>(device, size);
-        MeasureColumns();
-        if (FitColumns()) {
+        if (m_columns.Fit(rows, *m_text, area.left(), area.right())) {
             break;
         }
     }
-    PlaceColumns();
     BreakPages();
     return static_cast<int>(m_pages.size());
-}
-
-void cListPrinter::MeasureColumns()
-{
-    for (std::size_t i = 0; i < m_columns.size(); ++i) {
-        MeasureColumn(i);
-    }
-}
-
-void cListPrinter::MeasureColumn(std::size_t index)
-{
-    cColumn& column = m_columns[index];
-    const qreal title = m_text->BoldWidth(column.Title);
-    column.Word = title;
-    column.Natural = title;
-    const std::size_t step = m_rows.size() / mostSamples + 1;
-    std::vector<qreal> widths{title};
-    qsizetype longest = 0;
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const QString text = m_rows[i].IsGroup ? QString() : m_rows[i].Cells.at(static_cast<qsizetype>(index));
-        // Measuring is dear: every text of a short list is measured, of a long one a sample and what is not shorter
-        // than the longest text so far. In the columns of digits, which never break, the longest one is the widest.
-        if (!text.isEmpty() && (text.size() >= longest || i % step == 0)) {
-            longest = qMax(longest, text.size());
-            widths.push_back(m_text->Width(text));
-            const QStringList words = text.split(u' ');
-            for (const QString& word : words) {
-                column.Word = qMax(column.Word, m_text->Width(word));
-            }
-        }
-    }
-    std::sort(widths.begin(), widths.end());
-    column.Natural = qMax(title, widths.back());
-    column.Word = qMin(column.Word, qMax(title, m_text->Width(QString(longestWord, u'n'))));
-    column.Typical = qMax(column.Word, widths[widths.size() * 4 / 5]);
-}
-
-bool cListPrinter::FitColumns()
-{
-    qreal room = m_area.width() - m_text->Points(gap) * (static_cast<qreal>(m_columns.size()) - 1);
-    for (cColumn& column : m_columns) {
-        column.Width = column.IsFixed ? column.Natural : 0;
-        room -= column.Width;
-    }
-    room = qMax(room, static_cast<qreal>(m_columns.size()));
-    const bool isFine = Widen(&cColumn::Word, room);
-    (void)(isFine && Widen(&cColumn::Typical, room) && Widen(&cColumn::Natural, room));
-    return isFine;
-}
-
-bool cListPrinter::Widen(qreal cColumn::*width, qreal& room)
-{
-    std::vector<cColumn*> wanting;
-    for (cColumn& column : m_columns) {
-        if (column.Width < column.*width) {
-            wanting.push_back(&column);
-        }
-    }
-    const auto want = [width](const cColumn* column) { return column->*width - column->Width; };
-    std::sort(wanting.begin(), wanting.end(),
-              [&want](const cColumn* a, const cColumn* b) { return want(a) < want(b); });
-    // Who wants little gets it, the others share what is left.
-    bool isEnough = true;
-    for (std::size_t i = 0; i < wanting.size(); ++i) {
-        const qreal share = room / static_cast<qreal>(wanting.size() - i);
-        const qreal more = qMin(want(wanting[i]), share);
-        isEnough = isEnough && more >= want(wanting[i]);
-        wanting[i]->Width += more;
-        room -= more;
-    }
-    return isEnough;
-}
-
-// What the columns leave goes to the last one that breaks its texts, so that the amounts end at the right edge.
-void cListPrinter::PlaceColumns()
-{
-    qreal length = m_text->Points(gap) * (static_cast<qreal>(m_columns.size()) - 1);
-    cColumn* widest = &m_columns.front();
-    for (cColumn& column : m_columns) {
-        length += column.Width;
-        widest = !column.IsFixed && (widest->IsFixed || column.Natural >= widest->Natural) ? &column : widest;
-    }
-    widest->Width += qMax(0.0, m_area.width() - length);
-    qreal left = m_area.left();
-    for (cColumn& column : m_columns) {
-        column.Left = left;
-        left += column.Width + m_text->Points(gap);
-    }
 }
 
 qreal cListPrinter::RowHeight(const cRow& row) const
 {
     qsizetype lines = 1;
     for (qsizetype i = 0; !row.IsGroup && i < row.Cells.size(); ++i) {
-        const cColumn& column = m_columns[static_cast<std::size_t>(i)];
+        const cPrintColumn& column = m_columns.All()[static_cast<std::size_t>(i)];
         if (!column.IsFixed) {
             lines = qMax(lines, m_text->Wrap(row.Cells.at(i), column.Width).size());
         }
@@ -335,7 +249,7 @@ void cListPrinter::PaintColumnHeads(QPainter& painter, qreal& y) const
 {
     const qreal height = m_text->LineHeight() + m_text->Points(2 * padding);
     painter.setFont(m_text->Bold());
-    for (const cColumn& column : m_columns) {
+    for (const cPrintColumn& column : m_columns.All()) {
         if (column.IsMoney) {
             DrawRight(painter, column.Left + column.Width, y, height, column.Title);
         } else {
@@ -350,9 +264,10 @@ void cListPrinter::PaintColumnHeads(QPainter& painter, qreal& y) const
 
 qreal cListPrinter::SumRight() const
 {
+    const std::vector<cPrintColumn>& columns = m_columns.All();
     const auto amount =
-        std::find_if(m_columns.begin(), m_columns.end(), [](const cColumn& column) { return column.IsAmount; });
-    return amount == m_columns.end() ? m_area.right() : amount->Left + amount->Width;
+        std::find_if(columns.begin(), columns.end(), [](const cPrintColumn& column) { return column.IsAmount; });
+    return amount == columns.end() ? m_area.right() : amount->Left + amount->Width;
 }
 
 void cListPrinter::PaintGroup(QPainter& painter, const QString& name, const QString& sum, qreal& y) const
@@ -375,7 +290,7 @@ void cListPrinter::PaintRow(QPainter& painter, const cRow& row, qreal& y) const
     painter.setPen(Qt::black);
     painter.setFont(m_text->Text());
     for (qsizetype i = 0; i < row.Cells.size(); ++i) {
-        const cColumn& column = m_columns[static_cast<std::size_t>(i)];
+        const cPrintColumn& column = m_columns.All()[static_cast<std::size_t>(i)];
         if (column.IsMoney) {
             DrawRight(painter, column.Left + column.Width, top, line, row.Cells.at(i));
             continue;

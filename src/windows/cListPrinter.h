@@ -2,6 +2,7 @@
 
 #include "windows/cPageText.h"
 #include "windows/cPrintable.h"
+#include "windows/cPrintColumns.h"
 
 #include <QList>
 #include <QString>
@@ -49,19 +50,6 @@ private:
         QStringList Cells; // of a group: name and sum
         bool IsGroup = false;
     };
-    struct cColumn
-    {
-        QString Title;
-        bool IsAmount = false; // sums stand under it
-        bool IsMoney = false;
-        bool IsFixed = false; // never narrower than its texts
-        // Widths that are better and better: no word is broken, most texts fill one line, all texts do.
-        qreal Word = 0;
-        qreal Typical = 0;
-        qreal Natural = 0;
-        qreal Left = 0;
-        qreal Width = 0;
-    };
     struct cPage
     {
         std::size_t First = 0;  // row
@@ -72,12 +60,6 @@ private:
     class cFlow;
 
     void TakeRows(const cEntryListModel& model, const QList<int>& columns);
-    void MeasureColumns();
-    void MeasureColumn(std::size_t index);
-    [[nodiscard]] bool FitColumns(); // false when words have to be broken
-    // Widens the columns to one of their widths, or as far as the room goes; then it is false.
-    [[nodiscard]] bool Widen(qreal cColumn::*width, qreal& room);
-    void PlaceColumns();
     void BreakPages();
     [[nodiscard]] qreal RowHeight(const cRow& row) const;
     [[nodiscard]] qreal HeadHeight() const; // of title and view, on the first page
@@ -92,7 +74,7 @@ private:
     void PaintFoot(QPainter& painter, int page) const;
 
     cHead m_head;
-    std::vector<cColumn> m_columns;
+    cPrintColumns m_columns;
     std::vector<cRow> m_rows;
     std::vector<cPage> m_pages;
     std::unique_ptr<cPageText> m_text; // fonts and measures of the device

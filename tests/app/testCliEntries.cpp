@@ -2,7 +2,6 @@
 #include "support/cCliRun.h"
 #include "support/cTestFile.h"
 
-#include <QDate>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -139,9 +138,10 @@ void testCliEntries::AddRemembersDescriptions()
     (void)Add(u"--amount|5|--category|Haushalt; Getränke|--account|Bargeld|--date|1.3.2026|--text|Saftladen"_s);
     QCOMPARE(Stored(u"add|--json|--amount|8|--text|Saftladen|--date|2.3.2026"_s),
              QStringList{u"2026-03-02|Ausgabe|8|Bargeld||Haushalt; Getränke|Einmalig|Saftladen"_s});
+    // A limit that recurs is also the amount; the account is that of the latest entry.
     Do(u"categories|add|Wohnung; Stellplatz|--limit|45|--interval|Monatlich"_s);
     QCOMPARE(Stored(u"add|--json|--category|Stellplatz|--date|1.3.2026"_s),
-             QStringList{u"2026-03-01|Ausgabe|45|Girokonto||Wohnung; Stellplatz|Monatlich|"_s});
+             QStringList{u"2026-03-01|Ausgabe|45|Bargeld||Wohnung; Stellplatz|Monatlich|"_s});
 }
 
 void testCliEntries::ChangeLeavesTheRest()
@@ -289,7 +289,7 @@ void testCliEntries::Search()
 void testCliEntries::Categories()
 {
     Do(u"categories|add|Hobby;Modellbahn|--kind|Ausgabe|--interval|Monatlich|--limit|30"_s);
-    (void)Add(u"--amount|12|--category|Modellbahn|--date|1.3.2026"_s);
+    (void)Add(u"--amount|12|--category|Modellbahn|--interval|Einmalig|--date|1.3.2026"_s);
     Do(u"categories|rename|modellbahn|Eisenbahn"_s); // stays below its main category
     const cCliRun list = Do(u"categories|--json"_s);
     const QJsonObject last = list.Json().last().toObject();
@@ -375,6 +375,8 @@ void testCliEntries::Refused_data()
     QTest::addRow("no occurrence on that day") << u"change|1|--from|3.3.2019|--amount|5"_s << 1 << u"03.01.2026"_s;
     QTest::addRow("new start before the split")
         << u"change|1|--from|3.3.2026|--date|1.2.2026"_s << 2 << u"03.03.2026"_s;
+    QTest::addRow("variable of a script that is not set") << u"change|1|--amount|5|--only|"_s << 2 << u"'--only'"_s;
+    QTest::addRow("day of no occurrence") << u"correct|1||5"_s << 2 << u"Tag"_s;
     QTest::addRow("correction two ways") << u"correct|1|3.3.2026|5|--skip"_s << 2 << u"--remove"_s;
     QTest::addRow("correction of nothing") << u"correct|1|3.3.2026"_s << 2 << u"--list"_s;
     QTest::addRow("removal of no correction") << u"correct|1|3.3.2026|--remove"_s << 1 << u"nicht korrigiert"_s;

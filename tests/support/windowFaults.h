@@ -15,6 +15,7 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
+#include <QToolButton>
 
 // What keeps somebody from using a window without mouse or eyes, or from reading it. All of it is looked up in the
 // widgets that are in sight.
@@ -49,7 +50,7 @@ inline QStringList Nameless(const QWidget& window)
         const QWidget* parent = widget.parentWidget();
         const bool isInner = qobject_cast<const QComboBox*>(parent) != nullptr
             || qobject_cast<const QAbstractSpinBox*>(parent) != nullptr;
-        if (isInner || (widget.focusPolicy() & Qt::TabFocus) == 0
+        if (isInner || widget.focusProxy() != nullptr || (widget.focusPolicy() & Qt::TabFocus) == 0
             || qobject_cast<const QTabBar*>(&widget) != nullptr) {
             return;
         }
@@ -118,6 +119,10 @@ inline bool IsLabelClipped(const QLabel& label)
 
 inline bool IsButtonClipped(const QAbstractButton& button)
 {
+    const auto* tool = qobject_cast<const QToolButton*>(&button);
+    if (tool != nullptr && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !button.icon().isNull()) {
+        return false; // its text is for the screen reader
+    }
     const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
     const int icon = button.icon().isNull() ? 0 : button.iconSize().width();
     return !button.text().isEmpty() && (text.width() + icon > button.width() || text.height() > button.height());

@@ -80,7 +80,11 @@ void cCliCall::TakeOption(const QString& text, QStringList& rest)
         m_error = cText::Tr("Nach '--{0}' fehlt {1}.", {name, option->Value});
         return;
     }
-    m_options[name].append(hasValue ? text.section(u'=', 1) : rest.takeFirst());
+    const QString value = hasValue ? text.section(u'=', 1) : rest.takeFirst();
+    if (value.isEmpty() && !option->MayBeEmpty) {
+        m_error = cText::Tr("Nach '--{0}' fehlt {1}.", {name, option->Value});
+    }
+    m_options[name].append(value);
 }
 
 void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& commands)

@@ -21,6 +21,7 @@ struct cCliOption
     QString Name; // without the dashes
     QString Value;
     QString Help;
+    bool MayBeEmpty = false; // else an empty value is refused: a variable of the script is probably not set
 };
 
 // One command of the command line program.

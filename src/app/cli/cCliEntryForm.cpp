@@ -46,7 +46,7 @@ QList<cCliOption> cCliEntryForm::Options()
         {u"date"_s, u"DATUM"_s, cText::Tr("Tag, bei Serien der erste: 2026-01-31, 31.1., gestern, +7")},
         {u"interval"_s, u"INTERVALL"_s, cText::Tr("Einmalig, Monatlich, \"Alle 3 Monate\", Jährlich ...")},
         {u"end"_s, u"DATUM"_s, cText::Tr("letzter Tag einer Serie, oder \"ohne\"")},
-        {u"text"_s, u"TEXT"_s, cText::Tr("Beschreibung")},
+        {u"text"_s, u"TEXT"_s, cText::Tr("Beschreibung"), true},
         modCliCommands::Json()};
 }
 

@@ -100,6 +100,9 @@ QDate cCliReader::Occurrence(int id, const QString& text)
 {
     constexpr int shownDays = 3;
     const QDate day = Day(text);
+    if (text.isEmpty()) {
+        Misused(cText::Tr("Bitte nennen Sie den Tag des Vorkommens."));
+    }
     const std::optional<cEntryItem> series = m_context.Book->Data.LoadEntry(id);
     if (!series || !day.isValid()) {
         return {};

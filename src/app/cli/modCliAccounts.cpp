@@ -196,7 +196,7 @@ cCliCommand modCliCommands::AccountsAddCommand()
             .MinArguments = 1,
             .MaxArguments = 1,
             .Access = eCliAccess::Write,
-            .Options = {{u"group"_s, u"NAME"_s, cText::Tr("Kontogruppe; ohne Angabe die erste")}},
+            .Options = {{u"group"_s, u"NAME"_s, cText::Tr("Kontogruppe; ohne Angabe die erste"), true}},
             .Run = Add};
 }
 

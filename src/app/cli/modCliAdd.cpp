@@ -16,8 +16,9 @@ int Run(const cCliContext& context)
 cCliCommand modCliCommands::AddCommand()
 {
     return {.Name = u"add"_s,
-            .Help = cText::Tr("legt einen Eintrag an; was fehlt, kommt von der Kategorie oder vom letzten Eintrag mit "
-                              "diesem Text, das Konto sonst vom ersten und der Tag von heute"),
+            .Help =
+                cText::Tr("legt einen Eintrag an; was fehlt, kommt von der Kategorie und von früheren Einträgen, der "
+                          "Tag ist sonst heute"),
             .Access = eCliAccess::Write,
             .Options = cCliEntryForm::Options(),
             .Run = Run};

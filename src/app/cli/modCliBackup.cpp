@@ -72,9 +72,7 @@ int Replace(const cCliContext& context, const QString& path, const QString& back
     return modExit::Done;
 }
 
-} // namespace
-
-int modCliCommands::Backup(const cCliContext& context)
+int RunBackup(const cCliContext& context)
 {
     const QString book = context.Book->File().Path();
     const QString name = u"Kontorelle-"_s + modDate::ToIso(context.Clock.Today()) + u".backup"_s;
@@ -91,7 +89,7 @@ int modCliCommands::Backup(const cCliContext& context)
     return modExit::Done;
 }
 
-int modCliCommands::Restore(const cCliContext& context)
+int RunRestore(const cCliContext& context)
 {
     const QString backup = FullPath(context.Call.Arguments().constFirst());
     const QString path = BookPath(context);
@@ -112,4 +110,28 @@ int modCliCommands::Restore(const cCliContext& context)
                       "bisherige Datei unter anderem Namen erhalten bleibt."));
     }
     return Replace(context, path, backup);
+}
+
+} // namespace
+
+cCliCommand modCliCommands::BackupCommand()
+{
+    return {.Name = u"backup"_s,
+            .Arguments = u"[DATEI]"_s,
+            .Help = cText::Tr("schreibt eine Datensicherung und prüft sie; ohne Angabe neben die Datenbank"),
+            .MaxArguments = 1,
+            .Options = {{u"yes"_s, {}, cText::Tr("eine vorhandene Datei ersetzen")}},
+            .Run = RunBackup};
+}
+
+cCliCommand modCliCommands::RestoreCommand()
+{
+    return {.Name = u"restore"_s,
+            .Arguments = u"DATEI"_s,
+            .Help = cText::Tr("zeigt, was eine Datensicherung enthält, und lädt sie anstelle der Datenbank"),
+            .MinArguments = 1,
+            .MaxArguments = 1,
+            .Access = eCliAccess::None,
+            .Options = {{u"yes"_s, {}, cText::Tr("wirklich laden; die bisherige Datei bleibt unter anderem Namen")}},
+            .Run = RunRestore};
 }

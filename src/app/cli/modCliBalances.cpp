@@ -4,7 +4,6 @@
 #include "app/cli/cCliTable.h"
 #include "app/cli/cConsoleUser.h"
 #include "app/cli/cJsonObject.h"
-#include "app/cli/modCliCommands.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "model/modBalance.h"

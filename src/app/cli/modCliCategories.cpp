@@ -8,8 +8,6 @@
 #include "store/cUndoStep.h"
 #include "views/cTemplateManager.h"
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

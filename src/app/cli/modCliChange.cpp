@@ -5,8 +5,6 @@
 #include "app/cli/modCliFlow.h"
 #include "base/cText.h"
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -46,10 +46,9 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand BalancesCommand();
 [[nodiscard]] cCliCommand CheckCommand();
 [[nodiscard]] cCliCommand DemoCommand();
-
-[[nodiscard]] int Backup(const cCliContext& context);
-[[nodiscard]] int Restore(const cCliContext& context);
-[[nodiscard]] int Password(const cCliContext& context);
+[[nodiscard]] cCliCommand BackupCommand();
+[[nodiscard]] cCliCommand RestoreCommand();
+[[nodiscard]] cCliCommand PasswordCommand();
 
 inline constexpr int Any = std::numeric_limits<int>::max(); // number of arguments
 

@@ -10,7 +10,6 @@
 #include "views/cSeriesChange.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -140,7 +139,7 @@ cCliCommand modCliCommands::CorrectCommand()
             .ReadsWith = u"list"_s,
             .Options = {{u"skip"_s, {}, cText::Tr("das Vorkommen auslassen (Betrag 0)")},
                         {u"remove"_s, {}, cText::Tr("die Korrektur entfernen")},
-                        {u"comment"_s, u"TEXT"_s, cText::Tr("Kommentar zur Korrektur")},
+                        {u"comment"_s, u"TEXT"_s, cText::Tr("Kommentar zur Korrektur"), true},
                         {u"list"_s, {}, cText::Tr("die Korrekturen zeigen")},
                         Json()},
             .Run = Run};

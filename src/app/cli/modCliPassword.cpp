@@ -6,8 +6,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
 // Needs no password: the file is not encrypted, so whoever can write to it could remove the setting with any program.
-int modCliCommands::Password(const cCliContext& context)
+int Run(const cCliContext& context)
 {
     cConfiguration& configuration = context.Book->Configuration();
     const QString path = context.Book->File().Path();
@@ -24,4 +26,15 @@ int modCliCommands::Password(const cCliContext& context)
     }
     modConsole::Out(cText::Tr("{0}: Das Passwort wurde entfernt.", {path}) + u'\n');
     return modExit::Done;
+}
+
+} // namespace
+
+cCliCommand modCliCommands::PasswordCommand()
+{
+    return {.Name = u"password"_s,
+            .Help = cText::Tr("sagt, ob die Datenbank ein Passwort hat, und entfernt ein vergessenes"),
+            .Access = eCliAccess::Unlock,
+            .Options = {{u"remove"_s, {}, cText::Tr("das Passwort entfernen; die Datei ist nicht verschlüsselt")}},
+            .Run = Run};
 }

@@ -52,7 +52,7 @@ QList<cCliOption> modCliSelection::Options()
             {u"kind"_s, u"ART"_s, cText::Tr("Einnahme, Ausgabe oder Umbuchung")},
             {u"category"_s, u"PFAD"_s,
              cText::Tr("diese Kategorie und ihre Unterkategorien: \"Wohnung\", \"Wohnung; Miete\"")},
-            {u"filter"_s, u"TEXT"_s, cText::Tr("nur Einträge, die alle diese Wörter enthalten")}};
+            {u"filter"_s, u"TEXT"_s, cText::Tr("nur Einträge, die alle diese Wörter enthalten"), true}};
 }
 
 modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)

@@ -1,0 +1,210 @@
+#include "base/cText.h"
+#include "core/cAmountFormat.h"
+#include "core/cBook.h"
+#include "support/cFakeNavigator.h"
+#include "support/testBook.h"
+#include "support/windowFaults.h"
+#include "views/cBackupSettings.h"
+#include "views/cEntryEditor.h"
+#include "views/cImportReview.h"
+#include "views/cMainModel.h"
+#include "views/cNationalSettings.h"
+#include "views/cPasswordFlow.h"
+#include "views/cSearchModel.h"
+#include "views/cSeriesChange.h"
+#include "views/cTemplateManager.h"
+#include "windows/frmBuchung.h"
+#include "windows/frmImport.h"
+#include "windows/frmKategorie.h"
+#include "windows/frmKorrektur.h"
+#include "windows/frmLaender.h"
+#include "windows/frmMain.h"
+#include "windows/frmPasswort.h"
+#include "windows/frmSicherungen.h"
+#include "windows/frmSuche.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A book with what the windows can show: a series with a correction, a purchase in parts, a row from the bank.
+struct cScene
+{
+    cScene()
+    {
+        Series = Book.Add([](cEntryItem& entry) {
+            entry.EntryInterval = u"Monatlich"_s;
+            entry.EntryDescription = u"Miete"_s;
+        });
+        cEntryItemFixMod fixMod;
+        fixMod.EntryRelation = Series.ID;
+        fixMod.EntryModType = modWord::Betrag;
+        fixMod.EntryStartDate = QDate(2026, 4, 1);
+        fixMod.EntryEndDate = QDate(2026, 4, 30);
+        Prepare(Book.Data.AddNewEntryMod(fixMod));
+        Part = Book.Add([](cEntryItem& entry) { entry.EntryValue = 500; });
+        Part.EntryFlags = u"split=%1"_s.arg(Part.ID);
+        Prepare(Book.Data.ChangeEntry(Part));
+        (void)Book.Add([this](cEntryItem& entry) { entry.EntryFlags = Part.EntryFlags; });
+        cImportEntry row;
+        row.ImportAccount = u"1234567"_s;
+        row.ImportDate = QDate(2026, 3, 12);
+        row.ImportPurpose = u"Einkauf"_s;
+        row.ImportValue = -12.5;
+        Prepare(Book.Data.AddNewImportEntry(row));
+    }
+
+    static void Prepare(bool isDone)
+    {
+        if (!isDone) {
+            qFatal("the book was not filled");
+        }
+    }
+
+    cTestBook Book;
+    cEntryItem Series;
+    cEntryItem Part;
+    cAmountFormat Format{Book.Configuration};
+    cFakeNavigator Navigator;
+    cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
+                      Navigator, Book.Path()}};
+    cImportReview Review{{Book.Data, *Book.Settings, Format, Book.User}};
+    cEntryEditor Editor{Book.Data, Book.User, Book.Clock, &Format};
+    cSeriesChange Change{Book.Data, Book.User};
+    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
+    cSearchModel SearchModel{{Book.Data, *Book.Settings, Format, Book.Clock}};
+    cPasswordFlow Password{Book.Data, Book.Configuration, Book.User};
+    cBook File{Book.User};
+    cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
+    cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+};
+
+using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
+
+std::unique_ptr<QWidget> MakeEditor(cScene& scene, const std::optional<cEntryFields>& fields)
+{
+    return fields ? std::make_unique<frmBuchung>(scene.Editor, *fields) : nullptr;
+}
+
+// Shows every page of every book of tabs once and collects the faults of each.
+QStringList FaultsOfAllPages(QWidget& window)
+{
+    QStringList faults;
+    const auto look = [&] {
+        QTest::qWait(5);
+        faults += windowFaults::All(window);
+    };
+    look();
+    const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
+    for (QTabWidget* tabs : books) {
+        for (int page = 1; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            look();
+        }
+    }
+    faults.removeDuplicates();
+    return faults;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(fnMake)
+
+// Nobody needs a mouse, a screen reader finds a name for everything, and no text is cut off, also in large type.
+class testEveryWindow final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CanBeReadAndOperated_data();
+    void CanBeReadAndOperated();
+    void FaultsAreFound();
+};
+
+void testEveryWindow::CanBeReadAndOperated_data()
+{
+    QTest::addColumn<fnMake>("Make");
+    QTest::addColumn<int>("Scale");
+
+    const QList<std::pair<const char*, fnMake>> windows{
+        {"main window",
+         [](cScene& scene) {
+             auto window = std::make_unique<frmMain>(scene.Model);
+             window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
+             scene.Model.RestoreView(false);
+             return window;
+         }},
+        {"new entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Start({})); }},
+        {"series", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Load(scene.Series.ID)); }},
+        {"split entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Load(scene.Part.ID)); }},
+        {"start balance", [](cScene& scene) { return MakeEditor(scene, scene.Editor.StartBalance({})); }},
+        {"correction",
+         [](cScene& scene) {
+             const auto fields = scene.Change.StartPeriod(scene.Series.ID, QDate(2026, 4, 10));
+             return fields ? std::make_unique<frmKorrektur>(scene.Change, *fields) : nullptr;
+         }},
+        {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
+        {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
+        {"password", [](cScene& scene) { return std::make_unique<frmPasswort>(scene.Password); }},
+        {"password prompt",
+         [](cScene& scene) {
+             return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
+         }},
+        {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
+        {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
+    };
+    for (const auto& [name, make] : windows) {
+        for (const int scale : {1, 2}) {
+            QTest::addRow("%s, type size %d", name, scale) << make << scale;
+        }
+    }
+}
+
+void testEveryWindow::CanBeReadAndOperated()
+{
+    QFETCH(fnMake, Make);
+    QFETCH(int, Scale);
+    const QFont font = QApplication::font();
+    QFont scaled = font;
+    scaled.setPointSizeF(font.pointSizeF() * Scale);
+    QApplication::setFont(scaled);
+    cScene scene;
+    const std::unique_ptr<QWidget> window = Make(scene);
+    QApplication::setFont(font);
+    QVERIFY(window);
+    window->show();
+    const QStringList faults = FaultsOfAllPages(*window);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+void testEveryWindow::FaultsAreFound()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* first = new QPushButton(u"&Speichern"_s);
+    auto* second = new QPushButton(u"&Suchen"_s);
+    auto* nameless = new QLineEdit;
+    auto* label = new QLabel(u"Ein Text, der nicht hineinpasst"_s);
+    label->setFixedWidth(20);
+    for (QWidget* widget : {static_cast<QWidget*>(first), static_cast<QWidget*>(second),
+                            static_cast<QWidget*>(nameless), static_cast<QWidget*>(label)}) {
+        layout->addWidget(widget);
+    }
+    window.show();
+    QCOMPARE(windowFaults::DoubleMnemonics(window).size(), 1);
+    QCOMPARE(windowFaults::Nameless(window).size(), 1);
+    QCOMPARE(windowFaults::Clipped(window).size(), 1);
+}
+
+QTEST_MAIN(testEveryWindow)
+#include "testEveryWindow.moc"
