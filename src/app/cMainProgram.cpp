@@ -116,7 +116,11 @@ void cMainProgram::BuildWindow()
 
 cBookSwitch::cHooks cMainProgram::Hooks()
 {
-    return {[this] { m_window->SaveLayout(); }, [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
+    return {[this] {
+                m_navigation->LeaveBook();
+                m_window->SaveLayout();
+            },
+            [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
             // Without the questions and the storing that closing a window brings: there is nothing to store into.
             [] { QCoreApplication::exit(1); }};
 }
@@ -127,7 +131,6 @@ void cMainProgram::ShowOtherBook(bool isNewVersion)
         m_instance.Listen(m_book.Path());
     }
     m_format.CultureChanged();
-    m_navigation->BookSwitched();
     m_model->BookSwitched(m_book.Path(), isNewVersion);
     m_window->RestoreLayout();
     m_window->ShowToday();

@@ -78,7 +78,7 @@ void cNavigation::BookChanged()
     m_model->BookChanged();
 }
 
-void cNavigation::BookSwitched()
+void cNavigation::LeaveBook()
 {
     delete m_search;
     m_search = nullptr;

@@ -24,6 +24,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
+
+} // namespace
+
 cMainModel::cMainModel(const cParts& parts, QObject* parent)
     : QObject(parent),
       m_parts(parts),
@@ -32,6 +38,9 @@ cMainModel::cMainModel(const cParts& parts, QObject* parent)
 {
     tmrRefreshList.setSingleShot(true);
     tmrRefreshAccounts.setSingleShot(true);
+    tmrSaveView.setSingleShot(true);
+    tmrSaveView.setInterval(saveDelay);
+    connect(&tmrSaveView, &QTimer::timeout, this, &cMainModel::SaveView);
     connect(&tmrRefreshList, &QTimer::timeout, this, &cMainModel::ShowFilter);
     connect(&tmrRefreshAccounts, &QTimer::timeout, this, &cMainModel::RefreshAccounts);
 }
@@ -55,11 +64,13 @@ void cMainModel::RestoreView(bool isNewVersion)
 
 void cMainModel::SaveView()
 {
+    tmrSaveView.stop();
     m_view.Save(m_parts.Settings);
 }
 
 void cMainModel::SaveLayout(const cPlacement& placement)
 {
+    SaveView();
     const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
                               QString::number(placement.Width), QString::number(placement.Height)};
     m_parts.Configuration.SaveSetting(u"WindowSize"_s, numbers.join(u'|'), eSettingPlace::Database);
@@ -190,7 +201,8 @@ void cMainModel::BookChanged()
 void cMainModel::StagedRowsChanged()
 {
     m_balancesOf = QDate();
-    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts()); // a new bank account may have brought a new account
+    m_accountItems =
+        modTemplate::InOrder(m_parts.Data.GetAccounts()); // a new bank account may have brought a new account
     tmrRefreshAccounts.start(0);
     Q_EMIT ViewChanged();
 }
@@ -262,7 +274,7 @@ void cMainModel::TypeFilter(const QString& text)
 
 void cMainModel::ShowFilter()
 {
-    SaveView();
+    tmrSaveView.start(); // each letter would be a write to the disk
     m_entries.SetFilter(m_view.Filter);
     Q_EMIT EntriesChanged();
 }

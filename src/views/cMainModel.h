@@ -154,4 +154,5 @@ private:
     bool m_isSeriesSelected = false; // the one selected line belongs to a series
     QTimer tmrRefreshList;
     QTimer tmrRefreshAccounts;
+    QTimer tmrSaveView;
 };

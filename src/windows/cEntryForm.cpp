@@ -307,7 +307,12 @@ void cEntryForm::FocusFirst()
 
 void cEntryForm::FocusOpen()
 {
-    const QList<QComboBox*> boxes{cboKategorie, cboBuchungsart, cboKonto, cboNachKonto};
+    if (cboKategorie->isVisible() && cboKategorie->Path().isEmpty()) {
+        cboKategorie->setFocus(); // whatever was typed there names no category
+        cboKategorie->lineEdit()->selectAll();
+        return;
+    }
+    const QList<QComboBox*> boxes{cboBuchungsart, cboKonto, cboNachKonto};
     for (QComboBox* box : boxes) {
         if (box->isVisible() && box->currentText().isEmpty()) {
             box->setFocus();
