@@ -66,10 +66,8 @@ QString cBackup::Make(const QString& target)
 // Copies and looks whether the copy is a sound book; what is wrong with it.
 QString cBackup::MakeChecked(cDatabase& source, const QString& copy)
 {
-    try {
-        source.BackupTo(copy);
-    } catch (const cDatabaseError& error) {
-        return error.Fault() == eDatabaseFault::NoAccess ? CannotWrite(copy) : error.Text();
+    if (const std::optional<cDatabaseError> error = modBookFile::Copy(source, copy)) {
+        return error->Fault() == eDatabaseFault::NoAccess ? CannotWrite(copy) : error->Text();
     }
     const modBookFile::cContent content = modBookFile::Look(copy);
     if (content.Fault != eDatabaseFault::None) {

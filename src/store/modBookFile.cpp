@@ -26,6 +26,16 @@ void ReadEntries(cDatabase& database, modBookFile::cContent& content)
 
 } // namespace
 
+std::optional<cDatabaseError> modBookFile::Copy(cDatabase& database, const QString& path)
+{
+    try {
+        database.BackupTo(path);
+        return std::nullopt;
+    } catch (const cDatabaseError& error) {
+        return error;
+    }
+}
+
 modBookFile::cContent modBookFile::Look(const QString& path)
 {
     cContent content;

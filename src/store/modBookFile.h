@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class cShell;
 
 // A book as a file: what it holds, and how another file takes its place without anything being lost.
@@ -20,6 +22,9 @@ struct cContent
     QDate LastEntry;    // latest day of an entry; invalid when there is none
     QDateTime Modified; // of the file
 };
+
+// Copies the whole open database into a new file. Why that failed; nothing is left behind then.
+[[nodiscard]] std::optional<cDatabaseError> Copy(cDatabase& database, const QString& path);
 
 // Reads a whole file; it is left untouched.
 [[nodiscard]] cContent Look(const QString& path);

@@ -217,7 +217,8 @@ void cImportReview::DropDuplicates()
 
 void cImportReview::Book(const QList<int>& rowIds, cProgress& progress)
 {
-    const cUndoStep step(m_parts.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    const cUndoStep step(m_parts.Data,
+                         cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     QStringList numbers;
     const cImportEntryList asked = OpenRows(rowIds);
     for (const cImportEntry& row : asked) {
@@ -275,7 +276,8 @@ void cImportReview::Delete(const QList<int>& rowIds)
     if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
         return;
     }
-    const cUndoStep step(m_parts.Data, cText::Tr("{0} gelöscht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    const cUndoStep step(m_parts.Data,
+                         cText::Tr("{0} gelöscht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     int deleted = 0;
     for (const int id : rowIds) {
         if (!m_works->Hive.Remove(id)) {

@@ -66,7 +66,7 @@ private:
     const cEntryExtract& m_extract;
     std::vector<cColumn> m_columns;
     cWorkbook m_book;
-    int m_amount = 0; // the first column of money; the balances stand behind it
+    int m_amount = 0;    // the first column of money; the balances stand behind it
     qsizetype m_row = 1; // the next one to write, counted from 0
 };
 

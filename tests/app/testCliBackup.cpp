@@ -2,7 +2,7 @@
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
 #include "store/cDatabase.h"
-#include "support/cCliRun.h"
+#include "cCliRun.h"
 #include "support/cTestFile.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 #include "app/cFileLock.h"
-#include "support/cCliRun.h"
+#include "cCliRun.h"
 #include "support/cTestFile.h"
 
 #include <QTemporaryDir>

@@ -223,6 +223,7 @@ void testMainModel::RestoresTheView()
     scene.Model->ChooseGrouping(u"Nach Monat"_s);
     scene.Model->TypeFilter(u"bäcker"_s);
     cScene::Settle();
+    scene.Model->SaveLayout({}); // on closing, also what was typed just before
     scene.Start();
     QCOMPARE(scene.Model->View().Period, u"Letzter Monat"_s);
     QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
