@@ -298,20 +298,8 @@ The file &apos;template.dat&apos; could not be found!</translation>
         <translation>Please give either --period or --from and --to.</translation>
     </message>
     <message>
-        <source>Ein Datum wird als 2026-01-31 oder 31.01.2026 geschrieben.</source>
-        <translation>A date is written as 2026-01-31 or 31.01.2026.</translation>
-    </message>
-    <message>
-        <source>Den Zeitraum &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation>There is no period &apos;{0}&apos;. Possible are: {1}.</translation>
-    </message>
-    <message>
-        <source>Die Buchungsart &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation>There is no entry type &apos;{0}&apos;. Possible are: {1}.</translation>
-    </message>
-    <message>
         <source>Das Konto &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation>There is no account &apos;{0}&apos;. Possible are: {1}.</translation>
+        <translation>There is no account &apos;{0}&apos;. Possible values: {1}.</translation>
     </message>
     <message>
         <source>Kontorelle auf der Befehlszeile
@@ -1352,16 +1340,8 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <translation>File</translation>
     </message>
     <message>
-        <source>Kontoauszug importieren</source>
-        <translation>Import statement</translation>
-    </message>
-    <message>
         <source>Liest Kontoauszüge aus Dateien Ihrer Bank ein.</source>
         <translation>Imports statements from files of your bank.</translation>
-    </message>
-    <message>
-        <source>Beenden</source>
-        <translation>Quit</translation>
     </message>
     <message>
         <source>Beendet das Programm.</source>
@@ -1396,32 +1376,16 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <translation>View</translation>
     </message>
     <message>
-        <source>Kontostand (aller Konten)</source>
-        <translation>Balance (all accounts)</translation>
-    </message>
-    <message>
         <source>Zeigt die Kontostände bis heute statt nur des gewählten Zeitraums.</source>
         <translation>Shows the balances up to today instead of only those of the chosen period.</translation>
-    </message>
-    <message>
-        <source>Einmalige-Buchungen</source>
-        <translation>One-off entries</translation>
     </message>
     <message>
         <source>Zeigt Einträge, die nur einmal vorkommen.</source>
         <translation>Shows entries that occur only once.</translation>
     </message>
     <message>
-        <source>Fixe-Buchungen</source>
-        <translation>Recurring entries</translation>
-    </message>
-    <message>
         <source>Zeigt Einträge, die sich wiederholen.</source>
         <translation>Shows entries that repeat.</translation>
-    </message>
-    <message>
-        <source>Zukünftige-Buchung</source>
-        <translation>Future entries</translation>
     </message>
     <message>
         <source>Zeigt auch Einträge nach dem heutigen Tag.</source>
@@ -1429,23 +1393,15 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>Startguthaben</source>
-        <translation>Opening balances</translation>
+        <translation>Opening balance</translation>
     </message>
     <message>
         <source>Zeigt auch die Startguthaben der Konten.</source>
         <translation>Also shows the opening balances of the accounts.</translation>
     </message>
     <message>
-        <source>Spalten modifizieren</source>
-        <translation>Choose columns</translation>
-    </message>
-    <message>
         <source>Wählt, welche Spalten die Liste zeigt.</source>
         <translation>Chooses which columns the list shows.</translation>
-    </message>
-    <message>
-        <source>Einstellungen zurücksetzen</source>
-        <translation>Reset settings</translation>
     </message>
     <message>
         <source>Stellt Ansicht, Spalten und Fenstergröße auf den Anfang zurück.</source>
@@ -1628,18 +1584,6 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <translation>To acco&amp;unt:</translation>
     </message>
     <message>
-        <source>&amp;endet am</source>
-        <translation>e&amp;nds on</translation>
-    </message>
-    <message>
-        <source>Nach dem Speichern &amp;schließen</source>
-        <translation>Close after sa&amp;ving</translation>
-    </message>
-    <message>
-        <source>&amp;Betrag (€):</source>
-        <translation>&amp;Amount (€):</translation>
-    </message>
-    <message>
         <source>&amp;Kategorie:</source>
         <translation>Cate&amp;gory:</translation>
     </message>
@@ -1658,10 +1602,6 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     <message>
         <source>&amp;Intervall:</source>
         <translation>&amp;Interval:</translation>
-    </message>
-    <message>
-        <source>Besch&amp;reibung:</source>
-        <translation>D&amp;escription:</translation>
     </message>
     <message>
         <source>Letzter Tag der Serie</source>
@@ -2146,16 +2086,8 @@ The opening balances are added up, and the bank account numbers move along.</tra
         <translation>Shows what the entries will look like in print.</translation>
     </message>
     <message>
-        <source>Rückgängig</source>
-        <translation>Undo</translation>
-    </message>
-    <message>
         <source>Nimmt die letzte Änderung zurück.</source>
         <translation>Undoes the last change.</translation>
-    </message>
-    <message>
-        <source>Wiederholen</source>
-        <translation>Redo</translation>
     </message>
     <message>
         <source>Führt die zurückgenommene Änderung wieder aus.</source>
@@ -2170,16 +2102,8 @@ The opening balances are added up, and the bank account numbers move along.</tra
         <translation>Gives one occurrence of a series a different amount.</translation>
     </message>
     <message>
-        <source>Nur dieses Mal auslassen</source>
-        <translation>Skip this time only</translation>
-    </message>
-    <message>
         <source>Setzt den Betrag eines Vorkommens einer Serie auf null.</source>
         <translation>Sets the amount of one occurrence of a series to zero.</translation>
-    </message>
-    <message>
-        <source>Startguthaben festlegen</source>
-        <translation>Set opening balance</translation>
     </message>
     <message>
         <source>Legt fest, mit welchem Betrag ein Konto beginnt.</source>
@@ -2192,10 +2116,6 @@ The opening balances are added up, and the bank account numbers move along.</tra
     <message>
         <source>Sucht Einträge nach Text, Betrag, Zeitraum und mehr.</source>
         <translation>Searches entries by text, amount, period and more.</translation>
-    </message>
-    <message>
-        <source>Kategorie/Konto bearbeiten</source>
-        <translation>Edit categories/accounts</translation>
     </message>
     <message>
         <source>Verwaltet Kategorien und Konten.</source>
@@ -2545,7 +2465,7 @@ Do you want to replace the open database with the backup? The previous file will
         <source>Am Ende des Dateinamens &apos;{0}&apos; ist nicht zu erkennen, in welchem Format exportiert werden soll.
 Möglich sind: {1}.</source>
         <translation>The end of the file name &apos;{0}&apos; does not tell which format to export to.
-Possible are: {1}.</translation>
+Possible endings: {1}.</translation>
     </message>
     <message>
         <source>1 Eintrag wurde nach &apos;{0}&apos; exportiert.</source>
@@ -2582,16 +2502,8 @@ What was already there is unchanged.</translation>
         <translation>{0} to {1}</translation>
     </message>
     <message>
-        <source>{0} ({1} bis {2})</source>
-        <translation>{0} ({1} to {2})</translation>
-    </message>
-    <message>
         <source>einmalige</source>
         <translation>one-off</translation>
-    </message>
-    <message>
-        <source>fixe</source>
-        <translation>recurring</translation>
     </message>
     <message>
         <source>zukünftige</source>
@@ -2646,12 +2558,12 @@ What was already there is unchanged.</translation>
         <translation>This removes all occurrences of these series, past and future, together with their corrections:</translation>
     </message>
     <message>
-        <source>Er ist Teil einer aufgeteilten Buchung mit {0} weiteren Teilen.</source>
-        <translation>It is part of a split entry with {0} more parts.</translation>
+        <source>Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: {0}</source>
+        <translation>It belongs to a split entry. Further parts: {0}</translation>
     </message>
     <message>
-        <source>Darunter sind Teile aufgeteilter Buchungen mit {0} weiteren Teilen.</source>
-        <translation>Among them are parts of split entries with {0} more parts.</translation>
+        <source>Darunter sind Teile aufgeteilter Einträge. Weitere Teile: {0}</source>
+        <translation>Among them are parts of split entries. Further parts: {0}</translation>
     </message>
     <message>
         <source>Nur diesen Teil löschen</source>
@@ -2728,10 +2640,6 @@ Aus {0} Teilen wird ein Eintrag mit Kategorie und Beschreibung des ersten Teils.
         <translation>Entry &apos;{0}&apos; changed</translation>
     </message>
     <message>
-        <source>{0} ({1})</source>
-        <translation>{0} ({1})</translation>
-    </message>
-    <message>
         <source>Teilbeträge</source>
         <translation>Part amounts</translation>
     </message>
@@ -2764,10 +2672,6 @@ Aus {0} Teilen wird ein Eintrag mit Kategorie und Beschreibung des ersten Teils.
     <message>
         <source>&amp;Währung:</source>
         <translation>&amp;Currency:</translation>
-    </message>
-    <message>
-        <source>Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet.</source>
-        <translation>A currency brings its own way of writing amounts. Amounts are not converted.</translation>
     </message>
     <message>
         <source>Betrag:</source>
@@ -2838,10 +2742,6 @@ Aus {0} Teilen wird ein Eintrag mit Kategorie und Beschreibung des ersten Teils.
         <translation>Category &apos;{0}&apos; changed</translation>
     </message>
     <message>
-        <source>Kategorie &apos;{0}&apos; verschoben</source>
-        <translation>Category &apos;{0}&apos; moved</translation>
-    </message>
-    <message>
         <source>Eine Hauptkategorie ohne Unterkategorien muss direkt bebuchbar sein.</source>
         <translation>A main category without subcategories must accept entries itself.</translation>
     </message>
@@ -2881,7 +2781,7 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     </message>
     <message>
         <source>&amp;Betrag:</source>
-        <translation>&amp;Amount:</translation>
+        <translation>Amo&amp;unt:</translation>
     </message>
     <message>
         <source>&amp;Kommentar:</source>
@@ -2898,6 +2798,1100 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     <message>
         <source>Im Zeitraum um diesen Tag gibt es keine Buchung der Serie.</source>
         <translation>The series has no entry in the period around this day.</translation>
+    </message>
+    <message>
+        <source>Betrag, auch als Rechnung: &quot;12,50+3,99&quot;</source>
+        <translation>amount, also as a calculation: &quot;12.50+3.99&quot;</translation>
+    </message>
+    <message>
+        <source>Kategorie: &quot;Wohnung; Miete&quot;, oder &quot;Miete&quot;, wenn es nur eine gibt</source>
+        <translation>category: &quot;Wohnung; Miete&quot;, or just &quot;Miete&quot; if there is only one</translation>
+    </message>
+    <message>
+        <source>Zielkonto einer Umbuchung</source>
+        <translation>target account of a transfer</translation>
+    </message>
+    <message>
+        <source>Tag, bei Serien der erste: 2026-01-31, 31.1., gestern, +7</source>
+        <translation>day, the first one of a series: 2026-01-31, 31.1., yesterday, +7</translation>
+    </message>
+    <message>
+        <source>Einmalig, Monatlich, &quot;Alle 3 Monate&quot;, Jährlich ...</source>
+        <translation>Einmalig (one-off), Monatlich (monthly), &quot;Alle 3 Monate&quot; (every 3 months), Jährlich (yearly) ...</translation>
+    </message>
+    <message>
+        <source>letzter Tag einer Serie, oder &quot;ohne&quot;</source>
+        <translation>last day of a series, or &quot;ohne&quot; (none)</translation>
+    </message>
+    <message>
+        <source>Ein Zielkonto hat nur eine Umbuchung.</source>
+        <translation>Only a transfer has a target account.</translation>
+    </message>
+    <message>
+        <source>Ein Startguthaben legt der Befehl &quot;accounts start&quot; fest.</source>
+        <translation>Use the command &quot;accounts start&quot; to set an opening balance.</translation>
+    </message>
+    <message>
+        <source>Ein Teil einer aufgeteilten Buchung kann keine Umbuchung sein.</source>
+        <translation>A part of a split entry cannot be a transfer.</translation>
+    </message>
+    <message>
+        <source>Die Teile der aufgeteilten Buchung kämen zusammen unter null.</source>
+        <translation>The parts of the split entry would add up to less than zero.</translation>
+    </message>
+    <message>
+        <source>Ein Startguthaben hat nur einen Betrag und einen Tag.</source>
+        <translation>An opening balance has only an amount and a day.</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie den Betrag mit --amount.</source>
+        <translation>Please give the amount with --amount.</translation>
+    </message>
+    <message>
+        <source>Einen letzten Tag hat nur eine Serie. Bitte nennen Sie auch --interval.</source>
+        <translation>Only a series has a last day. Please give --interval as well.</translation>
+    </message>
+    <message>
+        <source>Der letzte Tag liegt vor dem ersten ({0}).</source>
+        <translation>The last day is before the first one ({0}).</translation>
+    </message>
+    <message>
+        <source>Die geänderte Serie kann nicht vor dem {0} beginnen.</source>
+        <translation>The changed series cannot begin before {0}.</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie das Zielkonto der Umbuchung mit --to-account.</source>
+        <translation>Please give the target account of the transfer with --to-account.</translation>
+    </message>
+    <message>
+        <source>Eine Umbuchung braucht zwei verschiedene Konten: --account und --to-account.</source>
+        <translation>A transfer needs two different accounts: --account and --to-account.</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird trotzdem gespeichert.</source>
+        <translation>Use --yes to save anyway.</translation>
+    </message>
+    <message>
+        <source>Dazu dient die Option {0}.</source>
+        <translation>Use the option {0} for this.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Datum. Möglich sind 2026-01-31, 31.01.2026, 31.1., heute, gestern oder +7.</source>
+        <translation>&apos;{0}&apos; is not a date. You can write 2026-01-31, 31.01.2026, 31.1., today, yesterday or +7.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Betrag. Möglich sind 12,50 oder eine Rechnung wie 12,50+3,99.</source>
+        <translation>&apos;{0}&apos; is not an amount. You can write 12.50 or a calculation such as 12.50+3.99.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist keine Nummer. Die Nummern stehen in der Spalte ID.</source>
+        <translation>&apos;{0}&apos; is not a number. The numbers are in the column ID.</translation>
+    </message>
+    <message>
+        <source>Einen Eintrag mit der Nummer {0} gibt es nicht.</source>
+        <translation>There is no entry with the number {0}.</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie den Tag des Vorkommens.</source>
+        <translation>Please give the day of the occurrence.</translation>
+    </message>
+    <message>
+        <source>Eintrag {0} ist keine Serie.</source>
+        <translation>Entry {0} is not a series.</translation>
+    </message>
+    <message>
+        <source>Die Serie {0} hat am {1} kein Vorkommen.</source>
+        <translation>The series {0} has no occurrence on {1}.</translation>
+    </message>
+    <message>
+        <source>Danach kommen: {0}.</source>
+        <translation>The next ones are: {0}.</translation>
+    </message>
+    <message>
+        <source>{0} Möglich sind: {1}.</source>
+        <translation>{0} Possible values: {1}.</translation>
+    </message>
+    <message>
+        <source>Die Buchungsart &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no entry type &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Das Intervall &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no interval &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; kann mehrere Kategorien meinen: {1}.</source>
+        <translation>&apos;{0}&apos; can mean several categories: {1}.</translation>
+    </message>
+    <message>
+        <source>&quot;kontorelle-cli categories&quot; zeigt alle, &quot;categories add&quot; legt eine neue an.</source>
+        <translation>&quot;kontorelle-cli categories&quot; shows all of them, &quot;categories add&quot; creates a new one.</translation>
+    </message>
+    <message>
+        <source>Ähnlich sind: {0}.</source>
+        <translation>Similar ones: {0}.</translation>
+    </message>
+    <message>
+        <source>Den Zeitraum &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no period &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist hier nicht möglich.</source>
+        <translation>&apos;{0}&apos; is not possible here.</translation>
+    </message>
+    <message>
+        <source>Am</source>
+        <translation>As of</translation>
+    </message>
+    <message>
+        <source>Bankkontonummern</source>
+        <translation>Bank account numbers</translation>
+    </message>
+    <message>
+        <source>Buchungen</source>
+        <translation>Entries</translation>
+    </message>
+    <message>
+        <source>Nach --entries steht yes oder no.</source>
+        <translation>--entries must be followed by yes or no.</translation>
+    </message>
+    <message>
+        <source>Mit --entries yes gehen die Buchungen mit, mit --entries no behalten sie den alten Kontonamen.</source>
+        <translation>With --entries yes the entries move along, with --entries no they keep the old account name.</translation>
+    </message>
+    <message>
+        <source>zeigt die Konten mit Kontostand, Startguthaben und Bankkontonummern</source>
+        <translation>shows the accounts with balance, opening balance and bank account numbers</translation>
+    </message>
+    <message>
+        <source>legt ein Konto an</source>
+        <translation>creates an account</translation>
+    </message>
+    <message>
+        <source>Kontogruppe; ohne Angabe die erste</source>
+        <translation>account group; the first one unless told otherwise</translation>
+    </message>
+    <message>
+        <source>benennt ein Konto um</source>
+        <translation>renames an account</translation>
+    </message>
+    <message>
+        <source>ob die Buchungen des Kontos mitgehen</source>
+        <translation>whether the entries of the account move along</translation>
+    </message>
+    <message>
+        <source>löscht ein Konto</source>
+        <translation>deletes an account</translation>
+    </message>
+    <message>
+        <source>Konto für die Einträge; ohne Angabe behalten sie das alte</source>
+        <translation>account for the entries; if not given, they keep the old one</translation>
+    </message>
+    <message>
+        <source>wirklich löschen</source>
+        <translation>really delete</translation>
+    </message>
+    <message>
+        <source>legt das Startguthaben eines Kontos fest</source>
+        <translation>sets the opening balance of an account</translation>
+    </message>
+    <message>
+        <source>Tag; ohne Angabe der bisherige, sonst heute</source>
+        <translation>day; if not given, the current one, otherwise today</translation>
+    </message>
+    <message>
+        <source>legt einen Eintrag an; was fehlt, kommt von der Kategorie und von früheren Einträgen, der Tag ist sonst heute</source>
+        <translation>creates an entry; what is missing comes from the category and from earlier entries, and the day is today unless told otherwise</translation>
+    </message>
+    <message>
+        <source>beschädigt oder keine gültige Datenbank</source>
+        <translation>damaged or not a valid database</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie es noch einmal.</source>
+        <translation>The database &apos;{0}&apos; is in use: {1}. Close that program and try again.</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung wurde geladen.</source>
+        <translation>The backup has been restored.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; gibt es schon. Mit --yes wird sie ersetzt.</source>
+        <translation>The file &apos;{0}&apos; already exists. Use --yes to replace it.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist die Datenbank selbst.</source>
+        <translation>&apos;{0}&apos; is the database itself.</translation>
+    </message>
+    <message>
+        <source>Datensicherung  {0}</source>
+        <translation>Backup    {0}</translation>
+    </message>
+    <message>
+        <source>Datenbank       {0}</source>
+        <translation>Database  {0}</translation>
+    </message>
+    <message>
+        <source>Datenbank       {0}: gibt es noch nicht
+</source>
+        <translation>Database  {0}: does not exist yet
+</translation>
+    </message>
+    <message>
+        <source>Es wurde nichts geändert. Mit --yes tritt die Datensicherung an die Stelle der Datenbank, deren bisherige Datei unter anderem Namen erhalten bleibt.</source>
+        <translation>Nothing has been changed. With --yes the backup takes the place of the database, whose previous file is kept under another name.</translation>
+    </message>
+    <message>
+        <source>schreibt eine Datensicherung und prüft sie; ohne Angabe neben die Datenbank</source>
+        <translation>writes a backup and checks it; next to the database unless told otherwise</translation>
+    </message>
+    <message>
+        <source>eine vorhandene Datei ersetzen</source>
+        <translation>replace an existing file</translation>
+    </message>
+    <message>
+        <source>zeigt, was eine Datensicherung enthält, und lädt sie anstelle der Datenbank</source>
+        <translation>shows what a backup contains, and restores it in place of the database</translation>
+    </message>
+    <message>
+        <source>wirklich laden; die bisherige Datei bleibt unter anderem Namen</source>
+        <translation>really restore; the previous file is kept under another name</translation>
+    </message>
+    <message>
+        <source>nur in Einträgen</source>
+        <translation>only in entries</translation>
+    </message>
+    <message>
+        <source>Monatslimit</source>
+        <translation>Monthly limit</translation>
+    </message>
+    <message>
+        <source>Ein Monatslimit kann nicht unter null liegen.</source>
+        <translation>A monthly limit cannot be less than zero.</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos; angelegt</source>
+        <translation>Category &apos;{0}&apos; created</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird zusammengeführt.</source>
+        <translation>Use --yes to merge.</translation>
+    </message>
+    <message>
+        <source>zeigt die Kategorien</source>
+        <translation>shows the categories</translation>
+    </message>
+    <message>
+        <source>legt eine Kategorie an: &quot;Wohnung&quot; oder &quot;Wohnung; Miete&quot;</source>
+        <translation>creates a category: &quot;Wohnung&quot; or &quot;Wohnung; Miete&quot;</translation>
+    </message>
+    <message>
+        <source>Buchungsart, die die Kategorie vorschlägt</source>
+        <translation>entry type that the category suggests</translation>
+    </message>
+    <message>
+        <source>Intervall, das sie vorschlägt</source>
+        <translation>interval that it suggests</translation>
+    </message>
+    <message>
+        <source>benennt eine Kategorie um, oder setzt sie unter eine andere Hauptkategorie; die Einträge gehen mit</source>
+        <translation>renames a category, or moves it to another main category; the entries move along</translation>
+    </message>
+    <message>
+        <source>lässt eine Kategorie mit ihren Einträgen in einer anderen aufgehen</source>
+        <translation>merges a category and its entries into another one</translation>
+    </message>
+    <message>
+        <source>löscht eine Kategorie, eine Hauptkategorie mit allen Unterkategorien</source>
+        <translation>deletes a category, a main category with all its subcategories</translation>
+    </message>
+    <message>
+        <source>Kategorie für die Einträge; ohne Angabe behalten sie die alte</source>
+        <translation>category for the entries; if not given, they keep the old one</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie, was sich ändern soll, zum Beispiel --amount.</source>
+        <translation>Please say what to change, for example --amount.</translation>
+    </message>
+    <message>
+        <source>Bitte entweder --only oder --from angeben.</source>
+        <translation>Please give either --only or --from.</translation>
+    </message>
+    <message>
+        <source>Mit --only kann nur der Betrag geändert werden.</source>
+        <translation>With --only you can change the amount only.</translation>
+    </message>
+    <message>
+        <source>ändert an einem Eintrag, was die Optionen nennen; von einer Serie alles, ein Vorkommen oder alles ab einem Tag</source>
+        <translation>changes what the options name in an entry; of a series everything, one occurrence, or everything from a day on</translation>
+    </message>
+    <message>
+        <source>nur den Betrag des Vorkommens an diesem Tag</source>
+        <translation>only the amount of the occurrence on this day</translation>
+    </message>
+    <message>
+        <source>die Serie von diesem Vorkommen an</source>
+        <translation>the series from this occurrence on</translation>
+    </message>
+    <message>
+        <source>{0} statt {1}</source>
+        <translation>{0} instead of {1}</translation>
+    </message>
+    <message>
+        <source>Von</source>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>Bis</source>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>Kommentar</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Das Vorkommen vom {0} ist nicht korrigiert.</source>
+        <translation>The occurrence of {0} is not corrected.</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie nach der Nummer den Tag und dann den neuen Betrag, --skip oder --remove; oder nur --list.</source>
+        <translation>After the number, please give the day and then the new amount, --skip or --remove; or just --list.</translation>
+    </message>
+    <message>
+        <source>gibt einem Vorkommen einer Serie einen anderen Betrag, oder zeigt alle Korrekturen</source>
+        <translation>gives one occurrence of a series a different amount, or shows all corrections</translation>
+    </message>
+    <message>
+        <source>das Vorkommen auslassen (Betrag 0)</source>
+        <translation>skip the occurrence (amount 0)</translation>
+    </message>
+    <message>
+        <source>die Korrektur entfernen</source>
+        <translation>remove the correction</translation>
+    </message>
+    <message>
+        <source>Kommentar zur Korrektur</source>
+        <translation>comment on the correction</translation>
+    </message>
+    <message>
+        <source>die Korrekturen zeigen</source>
+        <translation>show the corrections</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird gelöscht, mit --yes --all-parts auch die anderen Teile.</source>
+        <translation>Use --yes to delete, and --yes --all-parts to delete the other parts as well.</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird gelöscht.</source>
+        <translation>Use --yes to delete.</translation>
+    </message>
+    <message>
+        <source>sagt, was gelöscht würde, und löscht es mit --yes; Serien ganz, mit ihren Korrekturen</source>
+        <translation>tells what would be deleted, and deletes it with --yes; series as a whole, with their corrections</translation>
+    </message>
+    <message>
+        <source>alle Teile einer aufgeteilten Buchung, nicht nur diesen</source>
+        <translation>all parts of a split entry, not just this one</translation>
+    </message>
+    <message>
+        <source>Das Format &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation>There is no format &apos;{0}&apos;. Possible values: {1}.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist die Datenbank selbst. Bitte einen anderen Namen angeben.</source>
+        <translation>&apos;{0}&apos; is the database itself. Please give another name.</translation>
+    </message>
+    <message>
+        <source>{0} nach &apos;{1}&apos; exportiert.</source>
+        <translation>{0} exported to &apos;{1}&apos;.</translation>
+    </message>
+    <message>
+        <source>schreibt die Einträge eines Zeitraums in eine Datei für andere Programme; ohne Angabe das aktuelle Jahr</source>
+        <translation>writes the entries of a period to a file for other programs; the current year unless told otherwise</translation>
+    </message>
+    <message>
+        <source>csv, xlsx, html oder qif; ohne Angabe entscheidet die Endung der Datei</source>
+        <translation>csv, xlsx, html or qif; if not given, the extension of the file decides</translation>
+    </message>
+    <message>
+        <source>Rückfragen mit Ja beantworten</source>
+        <translation>answer questions with yes</translation>
+    </message>
+    <message>
+        <source>Es wurde nichts geändert. {0}</source>
+        <translation>Nothing has been changed. {0}</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird gelöscht; --move-to verschiebt vorher die Buchungen.</source>
+        <translation>Use --yes to delete; --move-to moves the entries first.</translation>
+    </message>
+    <message>
+        <source>Es wurde nichts geändert.</source>
+        <translation>Nothing has been changed.</translation>
+    </message>
+    <message>
+        <source>{0}: mit Passwort; &quot;password --remove&quot; entfernt es</source>
+        <translation>{0}: with a password; &quot;password --remove&quot; removes it</translation>
+    </message>
+    <message>
+        <source>{0}: ohne Passwort</source>
+        <translation>{0}: without a password</translation>
+    </message>
+    <message>
+        <source>Das Passwort konnte nicht entfernt werden.</source>
+        <translation>The password could not be removed.</translation>
+    </message>
+    <message>
+        <source>{0}: Das Passwort wurde entfernt.</source>
+        <translation>{0}: The password has been removed.</translation>
+    </message>
+    <message>
+        <source>sagt, ob die Datenbank ein Passwort hat, und entfernt ein vergessenes</source>
+        <translation>tells whether the database has a password, and removes a forgotten one</translation>
+    </message>
+    <message>
+        <source>das Passwort entfernen; die Datei ist nicht verschlüsselt</source>
+        <translation>remove the password; the file is not encrypted</translation>
+    </message>
+    <message>
+        <source>Bitte entweder --amount oder --min und --max angeben.</source>
+        <translation>Please give either --amount or --min and --max.</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie ein Suchwort oder eine Option.</source>
+        <translation>Please give a word to search for or an option.</translation>
+    </message>
+    <message>
+        <source>{0}, Einnahmen {1}, Ausgaben {2}, Saldo {3}</source>
+        <translation>{0}, income {1}, expenses {2}, balance {3}</translation>
+    </message>
+    <message>
+        <source>sucht im ganzen Buch Einträge, die alle Wörter enthalten und zu allen Optionen passen</source>
+        <translation>searches the whole book for entries that contain all words and match all options</translation>
+    </message>
+    <message>
+        <source>genau dieser Betrag</source>
+        <translation>exactly this amount</translation>
+    </message>
+    <message>
+        <source>mindestens dieser Betrag</source>
+        <translation>at least this amount</translation>
+    </message>
+    <message>
+        <source>höchstens dieser Betrag</source>
+        <translation>at most this amount</translation>
+    </message>
+    <message>
+        <source>Zeitraum, zum Beispiel &quot;Letzter Monat&quot;</source>
+        <translation>period, for example &quot;Letzter Monat&quot; (last month)</translation>
+    </message>
+    <message>
+        <source>erster Tag</source>
+        <translation>first day</translation>
+    </message>
+    <message>
+        <source>diese Kategorie und ihre Unterkategorien</source>
+        <translation>this category and its subcategories</translation>
+    </message>
+    <message>
+        <source>nur von Hand korrigierte Vorkommen</source>
+        <translation>only occurrences corrected by hand</translation>
+    </message>
+    <message>
+        <source>nur Einträge, zu denen ein Umsatz der Bank gehört</source>
+        <translation>only entries with a bank transaction</translation>
+    </message>
+    <message>
+        <source>Die Einträge werden geschrieben …</source>
+        <translation>Writing the entries…</translation>
+    </message>
+    <message>
+        <source>Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker oder den Namen der Datei.</source>
+        <translation>Printing failed. Please check the printer or the file name.</translation>
+    </message>
+    <message>
+        <source>ERROR: GetLastAccount
+{0}</source>
+        <translation>ERROR: GetLastAccount
+{0}</translation>
+    </message>
+    <message>
+        <source>Ordner für automatische Datensicherungen</source>
+        <translation>Folder for automatic backups</translation>
+    </message>
+    <message>
+        <source>In den Ordner &apos;{0}&apos; kann nicht geschrieben werden.</source>
+        <translation>The folder &apos;{0}&apos; cannot be written to.</translation>
+    </message>
+    <message>
+        <source>Die Eingaben sind noch nicht gespeichert.
+Soll das Fenster trotzdem geschlossen werden?</source>
+        <translation>Your changes have not been saved yet.
+Do you want to close the window anyway?</translation>
+    </message>
+    <message>
+        <source>{0} Treffer</source>
+        <translation>{0} found</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Betrag, die Suche lässt ihn außer Acht.</source>
+        <translation>&apos;{0}&apos; is not an amount; the search ignores it.</translation>
+    </message>
+    <message>
+        <source>Der Zeitraum endet, bevor er beginnt.</source>
+        <translation>The period ends before it begins.</translation>
+    </message>
+    <message>
+        <source>Von Serien erscheint jedes Vorkommen bis heute, spätere findet ein Zeitraum mit Ende.</source>
+        <translation>Series are shown with every occurrence up to today; a period with an end finds later ones.</translation>
+    </message>
+    <message>
+        <source>Geben Sie oben ein, wonach Sie suchen: ein Wort, einen Betrag, eine Kategorie …</source>
+        <translation>Enter above what you are looking for: a word, an amount, a category…</translation>
+    </message>
+    <message>
+        <source>Kein Eintrag passt zu allen Angaben. Weniger Wörter oder ein längerer Zeitraum finden mehr.</source>
+        <translation>No entry matches everything you entered. Fewer words or a longer period will find more.</translation>
+    </message>
+    <message>
+        <source>Konto &apos;{0}&apos; angelegt</source>
+        <translation>Account &apos;{0}&apos; created</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; angelegt</source>
+        <translation>&apos;{0}&apos; created</translation>
+    </message>
+    <message>
+        <source>Name der neuen Unterkategorie von &apos;{0}&apos;:</source>
+        <translation>Name of the new subcategory of &apos;{0}&apos;:</translation>
+    </message>
+    <message>
+        <source>Neue Kategorie</source>
+        <translation>New category</translation>
+    </message>
+    <message>
+        <source>Name der neuen Hauptkategorie:</source>
+        <translation>Name of the new main category:</translation>
+    </message>
+    <message>
+        <source>Name des neuen Kontos:</source>
+        <translation>Name of the new account:</translation>
+    </message>
+    <message>
+        <source>Neues Konto</source>
+        <translation>New account</translation>
+    </message>
+    <message>
+        <source>Neuer Name für die Kontogruppe &apos;{0}&apos;:</source>
+        <translation>New name for the account group &apos;{0}&apos;:</translation>
+    </message>
+    <message>
+        <source>Kontogruppe umbenennen</source>
+        <translation>Rename account group</translation>
+    </message>
+    <message>
+        <source>Reihenfolge geändert</source>
+        <translation>Order changed</translation>
+    </message>
+    <message>
+        <source>{0}, davon {1} ohne Unterkategorie</source>
+        <translation>{0}, {1} of them without a subcategory</translation>
+    </message>
+    <message>
+        <source>Kontogruppe mit {0}.</source>
+        <translation>Account group with {0}.</translation>
+    </message>
+    <message>
+        <source>Diese Kategorie ist nicht angelegt, aber {0} stehen unter diesem Namen.
+Sie können die Kategorie anlegen oder die Buchungen in eine andere verschieben.</source>
+        <translation>This category is not set up, but the book has {0} under this name.
+You can create the category or move the entries to another one.</translation>
+    </message>
+    <message>
+        <source>Dieses Konto ist nicht angelegt, aber {0} stehen unter diesem Namen.
+Sie können das Konto anlegen oder die Buchungen in ein anderes verschieben.</source>
+        <translation>This account is not set up, but the book has {0} under this name.
+You can create the account or move the entries to another one.</translation>
+    </message>
+    <message>
+        <source>Noch ohne Konto: {0}</source>
+        <translation>Not yet assigned to an account: {0}</translation>
+    </message>
+    <message>
+        <source>&amp;Neue Datenbank</source>
+        <translation>&amp;New database</translation>
+    </message>
+    <message>
+        <source>Datenbank &amp;wechseln</source>
+        <translation>&amp;Switch database</translation>
+    </message>
+    <message>
+        <source>Dat&amp;ensicherung erstellen</source>
+        <translation>&amp;Make backup</translation>
+    </message>
+    <message>
+        <source>Datensicherung &amp;laden</source>
+        <translation>&amp;Restore backup</translation>
+    </message>
+    <message>
+        <source>&amp;Kontoauszug importieren</source>
+        <translation>&amp;Import statement</translation>
+    </message>
+    <message>
+        <source>Daten e&amp;xportieren</source>
+        <translation>E&amp;xport data</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken</source>
+        <translation>&amp;Print</translation>
+    </message>
+    <message>
+        <source>&amp;Seitenansicht</source>
+        <translation>Print pre&amp;view</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Rückgängig</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederholen</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Eintrag</source>
+        <translation>&amp;New entry</translation>
+    </message>
+    <message>
+        <source>Eintrag &amp;bearbeiten</source>
+        <translation>&amp;Edit entry</translation>
+    </message>
+    <message>
+        <source>Eintrag &amp;löschen</source>
+        <translation>&amp;Delete entry</translation>
+    </message>
+    <message>
+        <source>Betrag für diesen Zeitraum &amp;korrigieren</source>
+        <translation>&amp;Correct amount for this period</translation>
+    </message>
+    <message>
+        <source>Nur dieses M&amp;al auslassen</source>
+        <translation>S&amp;kip this time only</translation>
+    </message>
+    <message>
+        <source>&amp;Startguthaben festlegen</source>
+        <translation>Set &amp;opening balance</translation>
+    </message>
+    <message>
+        <source>S&amp;uchen</source>
+        <translation>&amp;Search</translation>
+    </message>
+    <message>
+        <source>&amp;Kontostand (aller Konten)</source>
+        <translation>&amp;Balance (all accounts)</translation>
+    </message>
+    <message>
+        <source>&amp;Einmalige-Buchungen</source>
+        <translation>&amp;One-off entries</translation>
+    </message>
+    <message>
+        <source>&amp;Fixe-Buchungen</source>
+        <translation>&amp;Recurring entries</translation>
+    </message>
+    <message>
+        <source>&amp;Zukünftige-Buchung</source>
+        <translation>&amp;Future entries</translation>
+    </message>
+    <message>
+        <source>&amp;Startguthaben</source>
+        <translation>Opening b&amp;alances</translation>
+    </message>
+    <message>
+        <source>S&amp;palten modifizieren</source>
+        <translation>&amp;Choose columns</translation>
+    </message>
+    <message>
+        <source>Einstellungen zu&amp;rücksetzen</source>
+        <translation>Reset &amp;settings</translation>
+    </message>
+    <message>
+        <source>&amp;Kategorie/Konto bearbeiten</source>
+        <translation>&amp;Edit categories/accounts</translation>
+    </message>
+    <message>
+        <source>&amp;Taschenrechner</source>
+        <translation>&amp;Calculator</translation>
+    </message>
+    <message>
+        <source>&amp;Passwortschutz</source>
+        <translation>&amp;Password protection</translation>
+    </message>
+    <message>
+        <source>&amp;Automatische Datensicherung</source>
+        <translation>&amp;Automatic backup</translation>
+    </message>
+    <message>
+        <source>Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.</source>
+        <translation>Chooses how many backups the program keeps by itself, and where.</translation>
+    </message>
+    <message>
+        <source>&amp;Ländereinstellungen</source>
+        <translation>&amp;Regional settings</translation>
+    </message>
+    <message>
+        <source>Zeitraum: {0} ({1})</source>
+        <translation>Period: {0} ({1})</translation>
+    </message>
+    <message>
+        <source>wiederkehrende</source>
+        <translation>recurring</translation>
+    </message>
+    <message>
+        <source>In der Liste auch mit {0}</source>
+        <translation>In the list also with {0}</translation>
+    </message>
+    <message>
+        <source>&amp;Hinzufügen…</source>
+        <translation>&amp;Add…</translation>
+    </message>
+    <message>
+        <source>&amp;Ändern…</source>
+        <translation>&amp;Change…</translation>
+    </message>
+    <message>
+        <source>Ent&amp;fernen</source>
+        <translation>Re&amp;move</translation>
+    </message>
+    <message>
+        <source>Korrekturen</source>
+        <translation>Corrections</translation>
+    </message>
+    <message>
+        <source>Korrektur</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>Zeitraum</source>
+        <translation>Period</translation>
+    </message>
+    <message>
+        <source>Die Korrektur gilt für den Zeitraum, in dem der Tag liegt.</source>
+        <translation>The correction applies to the period that contains the day.</translation>
+    </message>
+    <message>
+        <source>bitte wählen</source>
+        <translation>please choose</translation>
+    </message>
+    <message>
+        <source>endet a&amp;m</source>
+        <translation>e&amp;nds on</translation>
+    </message>
+    <message>
+        <source>B&amp;eschreibung:</source>
+        <translation>D&amp;escription:</translation>
+    </message>
+    <message>
+        <source>Taschenrechner starten (Strg+R)</source>
+        <translation>Start calculator (Ctrl+R)</translation>
+    </message>
+    <message>
+        <source>Auch eine Rechnung, etwa 12,50+3,99*2</source>
+        <translation>Also a calculation, such as 12.50+3.99*2</translation>
+    </message>
+    <message>
+        <source>Kontorelle, {0}</source>
+        <translation>Kontorelle, {0}</translation>
+    </message>
+    <message>
+        <source>{0} – Fortsetzung</source>
+        <translation>{0} – continued</translation>
+    </message>
+    <message>
+        <source>genau</source>
+        <translation>exactly</translation>
+    </message>
+    <message>
+        <source>mindestens</source>
+        <translation>at least</translation>
+    </message>
+    <message>
+        <source>höchstens</source>
+        <translation>at most</translation>
+    </message>
+    <message>
+        <source>zwischen</source>
+        <translation>between</translation>
+    </message>
+    <message>
+        <source>un&amp;d:</source>
+        <translation>a&amp;nd:</translation>
+    </message>
+    <message>
+        <source>Nur ko&amp;rrigierte</source>
+        <translation>Co&amp;rrected only</translation>
+    </message>
+    <message>
+        <source>Nur &amp;mit Bankumsatz</source>
+        <translation>With &amp;bank transaction only</translation>
+    </message>
+    <message>
+        <source>Wörter, Teile von Wörtern, Betrag oder Datum</source>
+        <translation>Words, parts of words, amount or date</translation>
+    </message>
+    <message>
+        <source>&amp;Suchtext:</source>
+        <translation>&amp;Search text:</translation>
+    </message>
+    <message>
+        <source>Ka&amp;tegorie:</source>
+        <translation>Cate&amp;gory:</translation>
+    </message>
+    <message>
+        <source>Gesuchter Betrag</source>
+        <translation>Amount to find</translation>
+    </message>
+    <message>
+        <source>Größter gesuchter Betrag</source>
+        <translation>Largest amount to find</translation>
+    </message>
+    <message>
+        <source>Beliebig</source>
+        <translation>Any</translation>
+    </message>
+    <message>
+        <source>Alle Kategorien</source>
+        <translation>All categories</translation>
+    </message>
+    <message>
+        <source>(keine Vorgabe)</source>
+        <translation>(no default)</translation>
+    </message>
+    <message>
+        <source>&amp;Verwerfen</source>
+        <translation>Disca&amp;rd</translation>
+    </message>
+    <message>
+        <source>am</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>Tag des Startguthabens</source>
+        <translation>Day of the opening balance</translation>
+    </message>
+    <message>
+        <source>kein Limit</source>
+        <translation>no limit</translation>
+    </message>
+    <message>
+        <source>keines</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>IBAN oder Kontonummer, eine je Zeile</source>
+        <translation>IBAN or account number, one per line</translation>
+    </message>
+    <message>
+        <source>Nam&amp;e:</source>
+        <translation>Nam&amp;e:</translation>
+    </message>
+    <message>
+        <source>H&amp;auptkategorie:</source>
+        <translation>Main c&amp;ategory:</translation>
+    </message>
+    <message>
+        <source>&amp;Buchungsart:</source>
+        <translation>Entr&amp;y type:</translation>
+    </message>
+    <message>
+        <source>&amp;Monatslimit:</source>
+        <translation>Mont&amp;hly limit:</translation>
+    </message>
+    <message>
+        <source>Start&amp;guthaben:</source>
+        <translation>&amp;Opening balance:</translation>
+    </message>
+    <message>
+        <source>Kontonummern &amp;für Import:</source>
+        <translation>Account numbers &amp;for import:</translation>
+    </message>
+    <message>
+        <source>Beme&amp;rkung:</source>
+        <translation>Remar&amp;k:</translation>
+    </message>
+    <message>
+        <source>Änderungen werden auch beim Verlassen der Zeile gespeichert</source>
+        <translation>Changes are also saved when you leave the row</translation>
+    </message>
+    <message>
+        <source>Gru&amp;ppe:</source>
+        <translation>Grou&amp;p:</translation>
+    </message>
+    <message>
+        <source>&amp;Direkt bebuchbar, ohne Unterkategorie</source>
+        <translation>Accepts entries itself, without a su&amp;bcategory</translation>
+    </message>
+    <message>
+        <source>Offenes Konto, &amp;wird angeboten</source>
+        <translation>Open account, a&amp;vailable for selection</translation>
+    </message>
+    <message>
+        <source>In Aus&amp;wahllisten anbieten</source>
+        <translation>A&amp;vailable in selection lists</translation>
+    </message>
+    <message>
+        <source>Hier ist noch nichts angelegt.</source>
+        <translation>Nothing has been set up here yet.</translation>
+    </message>
+    <message>
+        <source>&amp;Anlegen</source>
+        <translation>Cr&amp;eate</translation>
+    </message>
+    <message>
+        <source>&amp;Buchungen verschieben…</source>
+        <translation>Mo&amp;ve entries…</translation>
+    </message>
+    <message>
+        <source>Gruppe umb&amp;enennen…</source>
+        <translation>Rename gr&amp;oup…</translation>
+    </message>
+    <message>
+        <source>Nach dem Speichern s&amp;chließen</source>
+        <translation>Close after sa&amp;ving</translation>
+    </message>
+    <message>
+        <source>Seiten</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Eintrag</source>
+        <translation>Entry</translation>
+    </message>
+    <message>
+        <source>Gerade gespeichert:</source>
+        <translation>Just saved:</translation>
+    </message>
+    <message>
+        <source>Nicht auf&amp;teilen</source>
+        <translation>Do not s&amp;plit</translation>
+    </message>
+    <message>
+        <source>Auf&amp;teilen</source>
+        <translation>S&amp;plit</translation>
+    </message>
+    <message>
+        <source>Korrekturen ({0})</source>
+        <translation>Corrections ({0})</translation>
+    </message>
+    <message>
+        <source>Kategorien und Konten</source>
+        <translation>Categories and accounts</translation>
+    </message>
+    <message>
+        <source>Kategorien</source>
+        <translation>Categories</translation>
+    </message>
+    <message>
+        <source>&amp;Neu…</source>
+        <translation>&amp;New…</translation>
+    </message>
+    <message>
+        <source>Neue &amp;Hauptkategorie…</source>
+        <translation>New &amp;main category…</translation>
+    </message>
+    <message>
+        <source>Umbenennen</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>&amp;Zusammenführen…</source>
+        <translation>Mer&amp;ge…</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen…</source>
+        <translation>&amp;Delete…</translation>
+    </message>
+    <message>
+        <source>Nach &amp;oben</source>
+        <translation>Move &amp;up</translation>
+    </message>
+    <message>
+        <source>Nach &amp;unten</source>
+        <translation>Move do&amp;wn</translation>
+    </message>
+    <message>
+        <source>&amp;Kategorien</source>
+        <translation>&amp;Categories</translation>
+    </message>
+    <message>
+        <source>Kon&amp;ten</source>
+        <translation>Accoun&amp;ts</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>C&amp;lose</translation>
+    </message>
+    <message>
+        <source>Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet. Das Datum steht immer in der Form Tag.Monat.Jahr.</source>
+        <translation>A currency brings its own way of writing amounts. Amounts are not converted. Dates are always written as day.month.year.</translation>
+    </message>
+    <message>
+        <source>Automatische Datensicherung</source>
+        <translation>Automatic backup</translation>
+    </message>
+    <message>
+        <source>Vorhandene Sicherungen</source>
+        <translation>Existing backups</translation>
+    </message>
+    <message>
+        <source>&amp;Vorhanden:</source>
+        <translation>&amp;Existing:</translation>
+    </message>
+    <message>
+        <source>Beim ersten Start an einem Tag sichert Kontorelle die Datenbank. Neben den letzten Sicherungen bleibt die letzte jedes Monats erhalten.</source>
+        <translation>Kontorelle backs up the database the first time it starts on any day. Besides the latest backups, the last one of every month is kept.</translation>
+    </message>
+    <message>
+        <source>keine</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>&amp;Letzte Sicherungen:</source>
+        <translation>&amp;Latest backups:</translation>
+    </message>
+    <message>
+        <source>&amp;Wählen …</source>
+        <translation>&amp;Choose…</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner:</source>
+        <translation>&amp;Folder:</translation>
+    </message>
+    <message>
+        <source>&amp;Eintrag bearbeiten</source>
+        <translation>&amp;Edit entry</translation>
+    </message>
+    <message>
+        <source>&amp;Neue Suche</source>
+        <translation>Ne&amp;w search</translation>
+    </message>
+    <message>
+        <source>Gefundene Einträge</source>
+        <translation>Entries found</translation>
+    </message>
+    <message>
+        <source>Öffnet den gewählten Eintrag (Eingabetaste)</source>
+        <translation>Opens the selected entry (Enter)</translation>
+    </message>
+    <message>
+        <source>Löscht die gewählten Einträge (Entf)</source>
+        <translation>Deletes the selected entries (Del)</translation>
+    </message>
+    <message>
+        <source>Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen.</source>
+        <translation>An account number must be entered to assign the data to an account.</translation>
     </message>
 </context>
 </TS>

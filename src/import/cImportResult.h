@@ -21,8 +21,12 @@ struct cImportResult
     cImportEntryList Duplicates; // not staged because an equal row is; each can be staged with eDuplicateTest::Skip
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cReadProblem> Problems;         // lines that could not be read
-    QStringList Accounts;     // own account numbers of the file in their order; "" for statements without one
-    bool IsRefused = false;   // nothing was read; Message says why
-    bool IsCancelled = false; // the user stopped; what was staged until then stays
-    QString Message;          // German; empty when all went well
+    QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
+    QStringList Accounts;      // own account numbers of the file in their order; "" for statements without one
+    bool IsRefused = false;    // nothing was read; Message says why
+    bool IsCancelled = false;  // the user stopped; what was staged until then stays
+    QString Message;           // German; empty when all went well
+    bool NeedsAccount = false; // refused only because the file names no account and none was given
+    QString Layout;            // name of the table layout that was recognised
+    QString LayoutKey;         // of a table, for cTableMemory
 };

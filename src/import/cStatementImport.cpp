@@ -3,9 +3,9 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "import/cStatementSource.h"
 #include "import/modMT940.h"
 #include "import/modStatementFormat.h"
-#include "import/modStatementText.h"
 #include "store/cDataAccess.h"
 
 #include <QDir>
@@ -107,31 +107,36 @@ void ReportFailures(cImportResult& result)
 
 } // namespace
 
-cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive) : m_data(data), m_staging(hive)
+cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory)
+    : m_data(data),
+      m_staging(hive),
+      m_memory(memory)
 {
 }
 
 cImportResult cStatementImport::ImportFile(const QString& path, const cImportOptions& options, cProgress& progress)
 {
-    cImportResult result;
-    result.File = path;
     const cFileContent content = ReadFile(path);
     if (!content.Failure.isEmpty()) {
+        cImportResult result;
+        result.File = path;
         return Refuse(std::move(result), content.Failure);
     }
-    if (modStatementText::IsBinary(content.Bytes)) {
-        const eStatementFormat byName = DetectStatementFormat(path, {});
-        return RefuseFormat(std::move(result), byName == eStatementFormat::Csv ? eStatementFormat::Unknown : byName);
-    }
-    return ImportText(path, modStatementText::Decode(content.Bytes), options, progress);
+    return Import(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
 }
 
 cImportResult cStatementImport::ImportText(const QString& path, const QString& text, const cImportOptions& options,
                                            cProgress& progress)
 {
+    return Import({path, {}, text}, options, progress);
+}
+
+cImportResult cStatementImport::Import(const cStatementSource& source, const cImportOptions& options,
+                                       cProgress& progress)
+{
     cImportResult result;
-    result.File = path;
-    const eStatementFormat format = DetectStatementFormat(path, text);
+    result.File = source.Name;
+    const eStatementFormat format = modStatementFormat::Detect(source);
     const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
     if (reader == nullptr) {
         return RefuseFormat(std::move(result), format);
@@ -142,7 +147,19 @@ cImportResult cStatementImport::ImportText(const QString& path, const QString& t
                       cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht "
                                 "übernommen werden."));
     }
-    const cStatementRead read = reader(text, options.DefaultAccount);
+    const cStatementRead read =
+        reader(source, {options.DefaultAccount, options.MissingPurpose, options.Table, m_memory});
+    result.Layout = read.Layout;
+    result.LayoutKey = read.LayoutKey;
+    result.NeedsAccount = read.NeedsAccount;
+    if (!read.Refusal.isEmpty() || read.NeedsAccount) {
+        result.Problems = read.Problems;
+        result.Skipped = read.Skipped;
+        return Refuse(std::move(result),
+                      read.Refusal.isEmpty() ? cText::Tr("Es muss eine Kontonummer eingegeben werden, um die Daten "
+                                                         "einem Konto zuzuordnen.")
+                                             : read.Refusal);
+    }
     progress.showProgressBar(static_cast<int>(read.Entries.size()));
     Stage(read, options, progress, result);
     return result;
@@ -165,6 +182,7 @@ void cStatementImport::Stage(const cStatementRead& read, const cImportOptions& o
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;
+    result.Skipped = read.Skipped;
     result.Accounts = AccountsOf(read.Entries);
     cTally tally(result);
     for (int i = 0; i < result.Read; ++i) {

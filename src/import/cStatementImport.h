@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/cImportResult.h"
+#include "import/cReadOptions.h"
 #include "import/cStaging.h"
 
 #include <QString>
@@ -8,18 +9,22 @@
 class cDataAccess;
 class cImportHiveCache;
 class cProgress;
+struct cStatementSource;
 
 struct cImportOptions
 {
     eDuplicateTest Duplicates = eDuplicateTest::Test;
     QString DefaultAccount; // own account number for statements that do not name theirs
+    eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
+    cTableChoice Table; // what the user chose for a file in rows and columns
 };
 
 // Statement files into staged rows.
 class cStatementImport
 {
 public:
-    cStatementImport(cDataAccess& data, cImportHiveCache& hive);
+    // With a memory, layouts that the user confirmed once are read the same way again. It outlives the import.
+    cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory = nullptr);
 
     // Reads a file of any format the program knows and stages its transactions. Whatever the file holds, the result
     // says what happened; only a refusing database shows a message of its own.
@@ -36,8 +41,11 @@ public:
                        const QString& defaultAccount);
 
 private:
+    [[nodiscard]] cImportResult Import(const cStatementSource& source, const cImportOptions& options,
+                                       cProgress& progress);
     void Stage(const cStatementRead& read, const cImportOptions& options, cProgress& progress, cImportResult& result);
 
     cDataAccess& m_data;
     cStaging m_staging;
+    const cTableMemory* m_memory;
 };

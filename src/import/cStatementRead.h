@@ -2,6 +2,7 @@
 
 #include "model/cImportEntry.h"
 
+#include <QDate>
 #include <QList>
 #include <QString>
 
@@ -16,10 +17,38 @@ struct cReadProblem
     bool operator==(const cReadProblem&) const = default;
 };
 
-// What a reader makes of a statement text: records that are not staged yet.
+// Why a row of the file is no booking.
+enum class eSkipped { Pending, Balance, Unreadable, OtherCurrency };
+
+// A row that was read but is not to be staged. The user can have it staged all the same when it has an amount.
+struct cSkippedRow
+{
+    cReadProblem Reason;
+    eSkipped Kind = eSkipped::Unreadable;
+    cImportEntry Entry;
+};
+
+// The bank's balance of one of the accounts in the file.
+struct cAccountBalance
+{
+    QString Account;
+    qint64 Cents = 0; // signed
+    QDate Date;       // invalid when the file does not say
+
+    bool operator==(const cAccountBalance&) const = default;
+};
+
+// What a reader makes of a statement file: records that are not staged yet. A file with several accounts is one list;
+// each record carries its account.
 struct cStatementRead
 {
     cImportEntryList Entries;
-    std::optional<qint64> ClosingBalance; // cents, signed
+    std::optional<qint64> ClosingBalance; // cents, signed; the last one of the file
     QList<cReadProblem> Problems;
+    QList<cSkippedRow> Skipped;
+    QList<cAccountBalance> Balances; // closing balances by account, where the format has them
+    QString Refusal;                 // German; why nothing could be read at all. Empty when the file was read
+    bool NeedsAccount = false;       // no account in the file and none was given: nothing may be staged
+    QString Layout;                  // name of the table layout (a bank's) that was recognised
+    QString LayoutKey;               // under which the layout's account and columns are remembered; empty: no table
 };

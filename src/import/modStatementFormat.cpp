@@ -2,6 +2,8 @@
 
 #include "base/cText.h"
 #include "import/modMT940.h"
+#include "import/modStatementText.h"
+#include "import/table/modTable.h"
 
 #include <QStringList>
 
@@ -17,53 +19,58 @@ bool EndsIn(const QString& name, const QStringList& ends)
     return std::any_of(ends.begin(), ends.end(), [&](const QString& end) { return name.endsWith(end); });
 }
 
-bool IsSpreadsheet(const QString& name, const QString& /*text*/)
+bool IsSpreadsheet(const QString& name, const cStatementSource& /*source*/)
 {
     return EndsIn(name, {u".XLSX"_s, u".XLS"_s});
 }
 
-bool IsPdf(const QString& name, const QString& /*text*/)
+bool IsPdf(const QString& name, const cStatementSource& /*source*/)
 {
     return EndsIn(name, {u".PDF"_s});
 }
 
-bool IsRefused(const QString& name, const QString& /*text*/)
+bool IsRefused(const QString& name, const cStatementSource& /*source*/)
 {
     return EndsIn(name, {u".LNK"_s, u".SHS"_s});
 }
 
-bool IsMt940(const QString& name, const QString& text)
+bool IsMt940(const QString& name, const cStatementSource& source)
 {
-    const bool hasOpening = text.contains(u":60F:") || text.contains(u":60M:");
-    const bool hasClosing = text.contains(u":62F:") || text.contains(u":62M:");
-    const bool hasLines = text.contains(u":20:") && text.contains(u":61:");
+    const bool hasOpening = source.Text.contains(u":60F:") || source.Text.contains(u":60M:");
+    const bool hasClosing = source.Text.contains(u":62F:") || source.Text.contains(u":62M:");
+    const bool hasLines = source.Text.contains(u":20:") && source.Text.contains(u":61:");
     // A file that already calls itself so need not have details to every transaction.
     const bool isNamedSo = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s});
-    return (hasOpening && hasClosing) || (hasLines && (isNamedSo || text.contains(u":86:")));
+    return (hasOpening && hasClosing) || (hasLines && (isNamedSo || source.Text.contains(u":86:")));
 }
 
-bool IsOfx(const QString& /*name*/, const QString& text)
+bool IsOfx(const QString& /*name*/, const cStatementSource& source)
 {
-    return (text.contains(u"<OFX>") || text.contains(u"OFXHEADER")) && text.contains(u"<BANKTRANLIST>")
-        && text.contains(u"</OFX>");
+    return (source.Text.contains(u"<OFX>") || source.Text.contains(u"OFXHEADER"))
+        && source.Text.contains(u"<BANKTRANLIST>") && source.Text.contains(u"</OFX>");
 }
 
-bool IsQif(const QString& /*name*/, const QString& text)
+bool IsQif(const QString& /*name*/, const cStatementSource& source)
 {
-    const QString start = text.left(11).toUpper();
+    const QString start = source.Text.left(11).toUpper();
     return start.startsWith(u"!TYPE:BANK") || start.startsWith(u"!TYPE:CCARD");
 }
 
-bool IsAnything(const QString& /*name*/, const QString& /*text*/)
+bool IsText(const QString& /*name*/, const cStatementSource& source)
 {
-    return true;
+    return source.Bytes.isEmpty() || !source.Text.isEmpty();
+}
+
+cStatementRead ReadMt940(const cStatementSource& source, const cReadOptions& options)
+{
+    return modMT940::Read(source.Text, options.Account);
 }
 
 struct cFormat
 {
     eStatementFormat Format;
     const char* Name; // display name
-    bool (*IsOfFormat)(const QString& upperName, const QString& text);
+    bool (*IsOfFormat)(const QString& upperName, const cStatementSource& source);
     modStatementFormat::cReader Read; // null: known, but not read
 };
 
@@ -74,39 +81,52 @@ constexpr std::array formats = {
     cFormat{eStatementFormat::Pdf, QT_TRANSLATE_NOOP("cText", "Portable Document Format (PDF-Datei)"), IsPdf, nullptr},
     cFormat{eStatementFormat::Unknown, QT_TRANSLATE_NOOP("cText", "Unbekanntes Dateiformat"), IsRefused, nullptr},
     cFormat{eStatementFormat::Mt940, QT_TRANSLATE_NOOP("cText", "SWIFT-Kontoauszug (MT940/MT942-Datei)"), IsMt940,
-            modMT940::Read},
+            ReadMt940},
     cFormat{eStatementFormat::Ofx, QT_TRANSLATE_NOOP("cText", "Open Financial Exchange (OFX-Datei)"), IsOfx, nullptr},
     cFormat{eStatementFormat::Qif, QT_TRANSLATE_NOOP("cText", "Quicken Interchange Format (QIF-Datei)"), IsQif,
             nullptr},
-    cFormat{eStatementFormat::Csv, QT_TRANSLATE_NOOP("cText", "Character Separated Values (CSV-Datei)"), IsAnything,
-            nullptr},
+    cFormat{eStatementFormat::Csv, QT_TRANSLATE_NOOP("cText", "Character Separated Values (CSV-Datei)"), IsText,
+            modTable::Read},
 };
 
-const cFormat& Find(eStatementFormat format)
+const cFormat* Find(eStatementFormat format)
 {
     const auto* const found =
         std::find_if(formats.begin(), formats.end(), [&](const cFormat& known) { return known.Format == format; });
-    return found == formats.end() ? formats.back() : *found;
+    return found == formats.end() ? nullptr : found;
 }
 
 } // namespace
 
 eStatementFormat DetectStatementFormat(const QString& fileName, const QString& text)
 {
-    const QString upperName = fileName.toUpper();
+    return modStatementFormat::Detect({fileName, {}, text});
+}
+
+cStatementSource modStatementFormat::Source(const QString& fileName, const QByteArray& bytes, eCharset charset)
+{
+    const bool isText = charset != eCharset::Detect || !modStatementText::IsBinary(bytes);
+    return {fileName, bytes, isText ? modStatementText::Decode(bytes, charset) : QString()};
+}
+
+eStatementFormat modStatementFormat::Detect(const cStatementSource& source)
+{
+    const QString upperName = source.Name.toUpper();
     const auto* const found = std::find_if(formats.begin(), formats.end(),
-                                           [&](const cFormat& format) { return format.IsOfFormat(upperName, text); });
+                                           [&](const cFormat& format) { return format.IsOfFormat(upperName, source); });
     return found == formats.end() ? eStatementFormat::Unknown : found->Format;
 }
 
 QString modStatementFormat::Name(eStatementFormat format)
 {
-    return cText::Tr(Find(format).Name);
+    const cFormat* const known = Find(format);
+    return known == nullptr ? QString() : cText::Tr(known->Name);
 }
 
 modStatementFormat::cReader modStatementFormat::Reader(eStatementFormat format)
 {
-    return Find(format).Read;
+    const cFormat* const known = Find(format);
+    return known == nullptr ? nullptr : known->Read;
 }
 
 QString modStatementFormat::Refusal(eStatementFormat format)

@@ -1,18 +1,27 @@
 #pragma once
 
+#include "import/cReadOptions.h"
 #include "import/cStatementRead.h"
+#include "import/cStatementSource.h"
 
 #include <QString>
 
-enum class eStatementFormat { Spreadsheet, Pdf, Unknown, Mt940, Ofx, Qif, Csv };
+enum class eStatementFormat { Spreadsheet, Pdf, Unknown, Mt940, Camt, Ofx, Qif, Csv };
 
 // The format of a statement file, by the end of its name and by its content.
 [[nodiscard]] eStatementFormat DetectStatementFormat(const QString& fileName, const QString& text);
 
 namespace modStatementFormat {
 
-// Turns a statement text into records; `account` stands for statements that do not name their own.
-using cReader = cStatementRead (*)(const QString& text, const QString& account);
+// Turns a statement file into records. Nothing is thrown: what cannot be read becomes a problem or a refusal.
+using cReader = cStatementRead (*)(const cStatementSource& source, const cReadOptions& options);
+
+// The bytes with their text, where they are text.
+[[nodiscard]] cStatementSource Source(const QString& fileName, const QByteArray& bytes,
+                                      eCharset charset = eCharset::Detect);
+
+// The format by name, text and bytes.
+[[nodiscard]] eStatementFormat Detect(const cStatementSource& source);
 
 // The name under which the user sees a format.
 [[nodiscard]] QString Name(eStatementFormat format);

@@ -62,12 +62,34 @@ bool IsAscii(const QString& text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
+// The upper half of code page 850, which older programs still write.
+constexpr QStringView dosPart =
+    u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜø£Ø×ƒáíóúñÑªº¿®¬½¼¡«»░▒▓│┤ÁÂÀ©╣║╗╝¢¥┐└┴┬├─┼ãÃ╚╔╩╦╠═╬¤ðÐÊËÈıÍÎÏ┘┌█▄¦Ì▀ÓßÔÒõÕµþÞÚÛÙýÝ¯´"
+    u"\u00AD±‗¾¶§÷¸°¨·¹³²■\u00A0";
+static_assert(dosPart.size() == 128);
+
+QString FromDos(const QByteArray& bytes)
+{
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& c : text) {
+        if (c.unicode() >= 0x80 && c.unicode() < 0x100) {
+            c = dosPart[c.unicode() - 0x80];
+        }
+    }
+    return text;
+}
+
+QString DecodeAs(const QByteArray& bytes, QStringConverter::Encoding encoding)
+{
+    QStringDecoder decoder(encoding);
+    return decoder.decode(bytes);
+}
+
 QString DecodeBytes(const QByteArray& bytes)
 {
     if (const auto marked = QStringConverter::encodingForData(bytes);
         marked && (*marked == QStringConverter::Utf16LE || *marked == QStringConverter::Utf16BE)) {
-        QStringDecoder decoder(*marked);
-        return decoder.decode(bytes);
+        return DecodeAs(bytes, *marked);
     }
     const QByteArray content = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
     if (const std::optional<QString> text = Strict(content, QStringConverter::Utf8)) {
@@ -82,6 +104,20 @@ QString modStatementText::Decode(const QByteArray& bytes)
 {
     // The database ends a text at its first NUL; what is staged must be what is read back.
     return DecodeBytes(bytes).remove(QChar::Null);
+}
+
+QString modStatementText::Decode(const QByteArray& bytes, eCharset charset)
+{
+    QString text;
+    switch (charset) {
+    case eCharset::Detect: return Decode(bytes);
+    case eCharset::Utf8: text = DecodeAs(bytes, QStringConverter::Utf8); break;
+    case eCharset::Windows1252: text = FromWindows(bytes); break;
+    case eCharset::Cp850: text = FromDos(bytes); break;
+    case eCharset::Utf16LE: text = DecodeAs(bytes, QStringConverter::Utf16LE); break;
+    case eCharset::Utf16BE: text = DecodeAs(bytes, QStringConverter::Utf16BE); break;
+    }
+    return text.remove(QChar::Null);
 }
 
 QString modStatementText::DecodeField(const QString& text)

@@ -3,11 +3,16 @@
 #include <QByteArray>
 #include <QString>
 
+enum class eCharset { Detect, Utf8, Windows1252, Cp850, Utf16LE, Utf16BE };
+
 // The bytes of a statement file as text.
 namespace modStatementText {
 
 // Byte order mark (UTF-8, UTF-16), else strict UTF-8, else Windows-1252. Any bytes give some text.
 [[nodiscard]] QString Decode(const QByteArray& bytes);
+
+// The same with a character set that the user chose.
+[[nodiscard]] QString Decode(const QByteArray& bytes, eCharset charset);
 
 // Repairs a single field: letters that a bank wrote as UTF-8 into a file that as a whole is not UTF-8. All other texts
 // come back unchanged.

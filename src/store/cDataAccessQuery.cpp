@@ -28,13 +28,11 @@ struct cCondition
     }
 };
 
+// Who compares the days of one-off entries with the period.
+enum class eDays { ByStatement, ByReader };
+
 void AddPeriod(cCondition& where, const cEntryQuery& query, eRepetition repetition)
 {
-    if (repetition == eRepetition::Once) {
-        where.Add("EntryInterval = 'Einmalig'");
-    } else {
-        where.Add("EntryInterval <> 'Einmalig'");
-    }
     if (query.Start.isValid() && repetition == eRepetition::Once) {
         where.Add(" AND date(EntryDate) >= ?", {modDate::ToIso(query.Start)});
     } else if (query.Start.isValid()) {
@@ -85,10 +83,13 @@ void AddCategory(cCondition& where, const QString& category)
     }
 }
 
-cCondition ConditionOf(const cEntryQuery& query, eRepetition repetition)
+cCondition ConditionOf(const cEntryQuery& query, eRepetition repetition, eDays days = eDays::ByStatement)
 {
     cCondition where{" WHERE ", {}};
-    AddPeriod(where, query, repetition);
+    where.Add(repetition == eRepetition::Once ? "EntryInterval = 'Einmalig'" : "EntryInterval <> 'Einmalig'");
+    if (days == eDays::ByStatement) {
+        AddPeriod(where, query, repetition);
+    }
     AddType(where, query.Type, query.Account);
     AddCategory(where, query.Category);
     return where;
@@ -134,16 +135,35 @@ void SortByDate(cEntryItemList& entries)
     entries = std::move(sorted);
 }
 
-// Reads rows as they lie in the table. False when a date is not just a day: only SQLite knows where that row belongs.
-bool ReadUnordered(cDatabase& database, const cCondition& where, cEntryItemList& entries)
+enum class eDay { Inside, Outside, Unclear };
+
+// Where a stored day lies. SQLite's date() would take most of the time of a scan, and for a plain day it says nothing
+// new. Unclear: the text is something else, and only SQLite knows what.
+eDay Place(std::string_view bytes, const cEntryQuery& query)
 {
     constexpr size_t plainDay = 10; // "yyyy-mm-dd"
+    const QDate day = bytes.size() == plainDay ? modRow::ReadDate(bytes) : QDate();
+    if (!day.isValid()) {
+        return eDay::Unclear;
+    }
+    const bool isBefore = query.Start.isValid() && day < query.Start;
+    const bool isAfter = query.End.isValid() && day > query.End;
+    return isBefore || isAfter ? eDay::Outside : eDay::Inside;
+}
+
+// Reads rows as they lie in the table. False when one of the days is unclear.
+bool ReadUnordered(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+{
+    const cCondition where = ConditionOf(query, eRepetition::Once, eDays::ByReader);
     cEntryReader reader;
     cRows rows(database, cEntryReader::Select + where.Sql, where.Values);
     while (rows.Next()) {
-        const cEntryItem& entry = entries.emplace_back(reader.Read(rows));
-        if (rows.Bytes(1).size() != plainDay || !entry.EntryDate.isValid()) {
+        const eDay day = Place(rows.Bytes(1), query);
+        if (day == eDay::Unclear) {
             return false;
+        }
+        if (day == eDay::Inside) {
+            entries.append(reader.Read(rows));
         }
     }
     return true;
@@ -152,12 +172,12 @@ bool ReadUnordered(cDatabase& database, const cCondition& where, cEntryItemList&
 void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
 {
     // SQLite carries all columns through its sorter, which takes longer than to read them. So the days are sorted here.
-    const cCondition where = ConditionOf(query, eRepetition::Once);
-    if (ReadUnordered(database, where, entries)) {
+    if (ReadUnordered(database, query, entries)) {
         SortByDate(entries);
         return;
     }
     entries.clear();
+    const cCondition where = ConditionOf(query, eRepetition::Once);
     cEntryReader reader;
     cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
     while (rows.Next()) {
@@ -236,17 +256,26 @@ private:
     size_t m_last = 0;
 };
 
-void SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBalance, cSums& sums)
+// False when one of the days is unclear; only possible while the reader looks at them.
+bool SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBalance, eDays days, cSums& sums)
 {
-    cCondition where = ConditionOf(query, eRepetition::Once);
+    cCondition where = ConditionOf(query, eRepetition::Once, days);
     if (!withStartBalance) {
         where.Add(" AND IFNULL(EntryCategory, '') <> ?", {modWord::Startguthaben});
     }
-    cRows rows(database, "SELECT EntryType, EntryAccount, EntryAccountMove, EntryValue FROM data" + where.Sql,
+    cRows rows(database,
+               "SELECT EntryDate, EntryType, EntryAccount, EntryAccountMove, EntryValue FROM data" + where.Sql,
                where.Values);
     while (rows.Next()) {
-        sums.Add(rows.Bytes(0), rows.Bytes(1), rows.Bytes(2), modRow::ReadCents(rows.Bytes(3)).value_or(0));
+        const eDay day = days == eDays::ByStatement ? eDay::Inside : Place(rows.Bytes(0), query);
+        if (day == eDay::Unclear) {
+            return false;
+        }
+        if (day == eDay::Inside) {
+            sums.Add(rows.Bytes(1), rows.Bytes(2), rows.Bytes(3), modRow::ReadCents(rows.Bytes(4)).value_or(0));
+        }
     }
+    return true;
 }
 
 void SumRecurring(cDatabase& database, const cEntryQuery& query, bool withStartBalance, cSums& sums)
@@ -281,8 +310,9 @@ QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStart
 {
     cSums sums;
     const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetSums\n{0}"), [&] {
-        if (query.Kind != eBookingKind::Fix) {
-            SumSingle(m_database, query, withStartBalance, sums);
+        if (query.Kind != eBookingKind::Fix && !SumSingle(m_database, query, withStartBalance, eDays::ByReader, sums)) {
+            sums = {};
+            (void)SumSingle(m_database, query, withStartBalance, eDays::ByStatement, sums);
         }
         if (query.Kind != eBookingKind::Single) {
             SumRecurring(m_database, query, withStartBalance, sums);

@@ -119,8 +119,8 @@ bool cEntryDelete::AskParts(cEntryItemList& entries, const cEntryItemList& other
     const bool isOne = entries.size() == 1;
     const int choice = m_user.Decide(
         {.Text = Question(entries) + u"\n\n"_s
-             + (isOne ? cText::Tr("Er ist Teil einer aufgeteilten Buchung mit {0} weiteren Teilen.", {more})
-                      : cText::Tr("Darunter sind Teile aufgeteilter Buchungen mit {0} weiteren Teilen.", {more})),
+             + (isOne ? cText::Tr("Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: {0}", {more})
+                      : cText::Tr("Darunter sind Teile aufgeteilter Einträge. Weitere Teile: {0}", {more})),
          .Title = cText::Tr("Eintrag löschen"),
          .Options = {isOne ? cText::Tr("Nur diesen Teil löschen") : cText::Tr("Nur die ausgewählten löschen"),
                      cText::Tr("Alle Teile löschen")}});

@@ -213,7 +213,7 @@ QString cSearchModel::IncomeText() const
 
 QString cSearchModel::ExpenseText() const
 {
-    return m_parts.Format.Cents(m_entries.Sums().Expense);
+    return m_parts.Format.Cents(-m_entries.Sums().Expense);
 }
 
 QString cSearchModel::TotalText() const

@@ -196,6 +196,8 @@ void cEntryTree::KeepSelection()
 {
     m_isRebuilding = true;
     m_current = m_model.KeyAt(currentIndex());
+    m_next = m_model.KeyAt(FirstUnselected(currentIndex()));
+    m_isCurrentInSight = viewport()->rect().intersects(visualRect(currentIndex()));
     m_selected = SelectedKeys();
     QModelIndex top = indexAt(QPoint());
     while (top.isValid() && m_model.EntryAt(top) == nullptr) {
@@ -208,7 +210,9 @@ void cEntryTree::Select(const cEntryListModel::cKey& key)
 {
     const QModelIndexList rows = m_model.IndexesOf({key});
     if (!rows.isEmpty()) {
-        setCurrentIndex(rows.constFirst());
+        // Not the view's own: that looks at the keys held down, and Ctrl+Enter would add to the selection.
+        selectionModel()->setCurrentIndex(rows.constFirst(),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         scrollTo(rows.constFirst());
     }
 }
@@ -225,6 +229,35 @@ QList<cEntryListModel::cKey> cEntryTree::SelectedKeys() const
     return keys;
 }
 
+// The line itself, or the first one below it that is not selected: it is there still when the selected ones are
+// deleted.
+QModelIndex cEntryTree::FirstUnselected(const QModelIndex& line) const
+{
+    QModelIndex below = line;
+    while (below.isValid() && selectionModel()->isSelected(below)) {
+        below = indexBelow(below);
+    }
+    return below;
+}
+
+// The keys go on from where they were. Without a current line the view would take the first one when it next gets the
+// focus, and jump to it.
+void cEntryTree::RestoreCurrent()
+{
+    const QModelIndex top = m_model.IndexesOf({m_top}).value(0);
+    QModelIndex current = m_model.IndexesOf({m_current}).value(0);
+    current = current.isValid() ? current : m_model.IndexesOf({m_next}).value(0);
+    current = current.isValid() ? current : top;
+    qDebug("cur %d next %d top %d -> %d", m_current.ID, m_next.ID, m_top.ID, int(current.isValid()));
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    if (top.isValid()) {
+        scrollTo(top, PositionAtTop);
+    }
+    if (m_isCurrentInSight && current.isValid()) {
+        scrollTo(current);
+    }
+}
+
 void cEntryTree::RestoreSelection()
 {
     // One by one before the view is laid out anew, which then happens only once; expandToDepth() moves all groups that
@@ -238,14 +271,7 @@ void cEntryTree::RestoreSelection()
     for (const QModelIndex& row : rows) {
         selection.select(row, row.siblingAtColumn(cEntryListModel::ColumnCount - 1));
     }
-    const QModelIndexList top = m_model.IndexesOf({m_top});
-    if (!top.isEmpty()) {
-        scrollTo(top.constFirst(), PositionAtTop);
-    }
-    const QModelIndexList current = m_model.IndexesOf({m_current});
-    if (!current.isEmpty()) {
-        selectionModel()->setCurrentIndex(current.constFirst(), QItemSelectionModel::NoUpdate);
-    }
+    RestoreCurrent();
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     m_isRebuilding = false;
     ReportSelection();

@@ -39,16 +39,20 @@ private:
     void ShowColumn(int column, bool isShown);
     void KeepSelection();
     void RestoreSelection();
+    void RestoreCurrent();
+    [[nodiscard]] QModelIndex FirstUnselected(const QModelIndex& line) const;
     void ReportSelection();
     void OpenColumnMenu(const QPoint& globalPosition);
 
     cEntryListModel& m_model;
     QList<cEntryListModel::cKey> m_selected;
     cEntryListModel::cKey m_current;
-    cEntryListModel::cKey m_top; // first line in sight before the list was rebuilt
+    cEntryListModel::cKey m_next; // takes the place of the current line when that is gone
+    cEntryListModel::cKey m_top;  // first line in sight before the list was rebuilt
     QString m_emptyHint;
     std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
     bool m_isRebuilding = false;
+    bool m_isCurrentInSight = false;
     bool m_fitsDescription = true; // until the user sets a width
     bool m_isFitting = false;
 };

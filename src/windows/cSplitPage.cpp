@@ -62,6 +62,7 @@ void cSplitPage::ShowBadPart()
 {
     m_table->MarkAmount(m_editor.FailedPart());
     m_table->ChooseCell(m_editor.FailedPart(), cSplitTable::Amount);
+    m_table->clearSelection(); // its colour would hide the mark
 }
 
 void cSplitPage::ChooseCategory(int line, const QString& path)

@@ -121,8 +121,8 @@ void frmSuche::ShowButtons()
 void frmSuche::GoToList()
 {
     Search();
-    if (!m_tree->currentIndex().isValid()) {
-        m_tree->setCurrentIndex(m_model.Entries().index(0, 0));
+    if (m_tree->SelectedKeys().isEmpty()) {
+        m_tree->setCurrentIndex(m_model.Entries().index(0, 0)); // Enter and Del have something to act on
     }
     m_tree->setFocus();
 }

@@ -1,7 +1,7 @@
 #include "app/cFileLock.h"
 #include "app/cQtRegistry.h"
-#include "store/cDatabase.h"
 #include "cCliRun.h"
+#include "store/cDatabase.h"
 
 #include <QDate>
 #include <QDir>

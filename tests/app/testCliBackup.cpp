@@ -1,8 +1,8 @@
 #include "app/cQtRegistry.h"
+#include "cCliRun.h"
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
 #include "store/cDatabase.h"
-#include "cCliRun.h"
 #include "support/cTestFile.h"
 
 #include <QDir>

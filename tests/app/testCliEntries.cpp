@@ -241,7 +241,7 @@ void testCliEntries::PartsOfASplitEntry()
     QVERIFY2(tooMuch.Code == 1 && tooMuch.Error.contains("unter null"_L1), qPrintable(tooMuch.Text()));
 
     const cCliRun asked = Run({u"delete"_s, deposit});
-    QVERIFY2(asked.Code == 1 && asked.Error.contains("2 weiteren Teilen"_L1) && asked.Error.contains("--all-parts"_L1),
+    QVERIFY2(asked.Code == 1 && asked.Error.contains("Weitere Teile: 2"_L1) && asked.Error.contains("--all-parts"_L1),
              qPrintable(asked.Text()));
     Do(u"delete|%1|--yes"_s.arg(deposit));
     QCOMPARE(CountEntries(), 2);

@@ -96,7 +96,7 @@ void testEntryDelete::QuestionNamesWhatGoes()
     QVERIFY(!flow.Delete({{series, QDate(2026, 3, 10)}, {series, QDate(2026, 4, 10)}}));
     QCOMPARE(book.User.Asked.at(0),
              u"Möchten Sie den Eintrag 'Teil' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\n"
-             "Er ist Teil einer aufgeteilten Buchung mit 2 weiteren Teilen."_s);
+             "Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: 2"_s);
     QCOMPARE(book.User.Asked.at(1),
              u"Möchten Sie den Eintrag 'Miete' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\nDamit verschwinden alle "
              "Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:\n"

@@ -61,6 +61,8 @@ private Q_SLOTS:
     void KeysReachTheCommands();
     void DeleteInAFieldDeletesText();
     void SelectionSurvivesARefresh();
+    void DeletingGoesOnWithTheNextLine();
+    void SavedEntryIsTheOnlyOneSelected();
     void ColumnLayoutIsKept();
     void ClickOnAnAccountFilters();
     void FreePeriodOpensTheDayFields();
@@ -120,6 +122,32 @@ void testFrmMain::SelectionSurvivesARefresh()
     scene.Model.ChooseGrouping(u"Nach Monat"_s);
     QCOMPARE(scene.Tree().SelectedKeys().size(), 1);
     QVERIFY(scene.Tree().isExpanded(scene.Model.Entries().index(0, 0)));
+}
+
+void testFrmMain::DeletingGoesOnWithTheNextLine()
+{
+    cScene scene;
+    for (int day = 1; day <= 3; ++day) {
+        scene.Book.Add([day](cEntryItem& entry) { entry.EntryDate = QDate(2026, 1, day); });
+    }
+    scene.Model.BookChanged();
+    scene.Select(1);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
+    qDebug() << scene.Model.Entries().rowCount() << scene.Tree().currentIndex() << scene.Book.User.Answers.size();
+    QCOMPARE(scene.Model.Entries().KeyAt(scene.Tree().currentIndex()).Day, QDate(2026, 1, 3));
+    QVERIFY(scene.Tree().SelectedKeys().isEmpty());
+}
+
+// Saved with Ctrl+Enter: the key held down is not meant for the list.
+void testFrmMain::SavedEntryIsTheOnlyOneSelected()
+{
+    cScene scene;
+    scene.Select(0);
+    QTest::keyPress(&scene.Window, Qt::Key_Control, Qt::ControlModifier);
+    scene.Window.ShowEntry({scene.Second.ID, scene.Second.EntryDate});
+    QTest::keyRelease(&scene.Window, Qt::Key_Control);
+    QCOMPARE(scene.Tree().SelectedKeys(), QList<cEntryListModel::cKey>({{scene.Second.ID, scene.Second.EntryDate}}));
 }
 
 void testFrmMain::ColumnLayoutIsKept()

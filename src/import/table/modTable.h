@@ -1,0 +1,36 @@
+#pragma once
+
+#include "import/cStatementRead.h"
+#include "import/table/cTableLayout.h"
+
+#include <memory>
+
+class cTable;
+struct cReadOptions;
+struct cStatementSource;
+
+// Statements in rows and columns: character-separated files, and whatever other readers turn into a table.
+namespace modTable {
+
+// The layout of a character-separated text and its rows, as they would be read.
+struct cOpened
+{
+    cTableLayout Layout;
+    std::shared_ptr<const cTable> Table; // all rows, those above the header included
+};
+
+[[nodiscard]] cOpened Open(const cStatementSource& source, const cReadOptions& options);
+
+// Finds header and columns of a table that is there already (a spreadsheet's rows).
+[[nodiscard]] cTableLayout Detect(const cTable& table, const cReadOptions& options);
+
+// The rows of a table through a layout.
+[[nodiscard]] cStatementRead ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options);
+
+// Detects and reads a table.
+[[nodiscard]] cStatementRead ReadTable(const cTable& table, const cReadOptions& options);
+
+// Reads a character-separated text: the entry in the list of formats.
+[[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
+
+} // namespace modTable

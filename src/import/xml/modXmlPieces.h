@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <vector>
+
+// Large XML documents in pieces, so that a statement of 100,000 transactions never stands in memory as one tree.
+namespace modXmlPieces {
+
+struct cPieces
+{
+    QByteArray Skeleton;                // the document with an empty element, <x piece="n"/>, for each piece
+    std::vector<QByteArrayView> Pieces; // the elements with their tags, views into the document
+};
+
+// Cuts out every element of one of the names; a namespace prefix is not looked at. Elements inside a piece stay there,
+// and what is never closed stays where it is, so that the parser of the skeleton meets the mistake.
+[[nodiscard]] cPieces Cut(QByteArrayView xml, QByteArrayView name);
+
+} // namespace modXmlPieces
