@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,6 +17,8 @@ void cLanguage::Use(const QString& code, const cShell& shell)
     if (isForeign) {
         QCoreApplication::installTranslator(&m_program);
     }
+    // Days and months in calendars and groups; amounts have their own culture.
+    QLocale::setDefault(isForeign ? QLocale(code) : QLocale(QLocale::German, QLocale::Germany));
     const QString toolkit = u"qtbase_"_s + (isForeign ? code : u"de"_s);
     if (m_toolkit.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&m_toolkit);

@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLocale>
 
 #include <cstdio>
 
@@ -51,7 +50,6 @@ int main(int argc, char* argv[])
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
     QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
     QApplication::setDesktopFileName(u"kontorelle"_s);
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QCommandLineParser parser;
     parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
     parser.addHelpOption();

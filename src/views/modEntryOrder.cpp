@@ -17,6 +17,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// The language of the names of days and months: the program's own, German where nobody has chosen one.
+QLocale Names()
+{
+    const QLocale chosen;
+    return chosen.language() == QLocale::C ? QLocale(QLocale::German) : chosen;
+}
+
 // Numbers of unique texts in the order of their first appearance.
 std::vector<int> Unique(int count, const std::function<QString(int)>& text, QStringList& unique)
 {
@@ -86,7 +93,7 @@ qint64 MonthKey(QDate day)
 
 QString DayName(QDate day)
 {
-    return QLocale(QLocale::German).dayName(day.dayOfWeek()) + u", "_s + modDate::ToGerman(day);
+    return Names().dayName(day.dayOfWeek()) + u", "_s + modDate::ToGerman(day);
 }
 
 QString WeekName(QDate day)
@@ -99,7 +106,7 @@ QString WeekName(QDate day)
 
 QString MonthName(QDate day)
 {
-    return QLocale(QLocale::German).standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
+    return Names().standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
 }
 
 constexpr std::array<cDateGrouping, 3> dateGroupings{{
