@@ -45,8 +45,10 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     m_model = &model;
     m_review = &review;
     m_window = &window;
-    QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged);
-    QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged);
+    // Queued, because what can be taken back is known only when the review has finished its step.
+    QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged, Qt::QueuedConnection);
+    QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged,
+                     Qt::QueuedConnection);
     QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::Refresh);
     QObject::connect(&window, &frmMain::StatementsShown, &review, [this] { (void)Statements(); });
     QObject::connect(&window, &frmMain::FilesDropped, &review,

@@ -68,6 +68,8 @@ std::optional<QString> cQtUser::Choose(const cChoice& choice)
     dialog.setComboBoxItems(choice.Items);
     dialog.setComboBoxEditable(choice.AllowNew);
     dialog.setTextValue(choice.Proposal);
+    // Room for the title as well, which the layout does not count.
+    dialog.resize(dialog.fontMetrics().averageCharWidth() * 60, dialog.sizeHint().height());
     if (dialog.exec() != QDialog::Accepted || dialog.textValue().trimmed().isEmpty()) {
         return std::nullopt;
     }

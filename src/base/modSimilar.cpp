@@ -168,8 +168,8 @@ class cRunFinder
 public:
     [[nodiscard]] cRun Find(const cNumbers& a, const cPlaces& places, const cRange& range)
     {
-        size_t count = Begin(a.data() + range.FirstA, range.EndA - range.FirstA,
-                             cWindow<words>(places, range.FirstB, range.EndB));
+        size_t count =
+            Begin(a.data() + range.FirstA, range.EndA - range.FirstA, cWindow<words>(places, range.FirstB, range.EndB));
         cRun run;
         while (count > 0) {
             ++run.Length;
@@ -183,7 +183,7 @@ public:
 private:
     using cBits = std::array<quint64, words>;
 
-    // The runs of one character; their number.
+    // The runs of one character, without those in the middle of a longer run; their number.
     [[nodiscard]] size_t Begin(const quint16* a, size_t length, const cWindow<words> window)
     {
         if (m_open.size() < length) {
@@ -194,13 +194,16 @@ private:
         cBits* places = m_places.data();
         cBits* starts = m_starts.data();
         quint32* open = m_open.data();
+        cBits before{};
         size_t count = 0;
         for (size_t i = 0; i < length; ++i) {
             const cBits row = window.Row(a[i]);
+            const cBits begin = WithoutFollowers(row, before);
+            before = row;
             places[i] = row;
-            starts[i] = row;
+            starts[i] = begin;
             open[count] = static_cast<quint32>(i);
-            count += IsAny(row) ? 1 : 0;
+            count += IsAny(begin) ? size_t{1} : 0;
         }
         return count;
     }
@@ -217,9 +220,20 @@ private:
             const cBits bits = Common(starts[i], MovedDown(places[i], length));
             starts[i] = bits;
             open[left] = i;
-            left += IsAny(bits) ? 1 : 0;
+            left += IsAny(bits) ? size_t{1} : 0;
         }
         return left;
+    }
+
+    // Without the places that continue a run from the character before: that run is the longer one.
+    [[nodiscard]] static cBits WithoutFollowers(cBits bits, const cBits& before)
+    {
+        quint64 carry = 0;
+        for (size_t i = 0; i < words; ++i) {
+            bits[i] &= ~((before[i] << 1) | carry);
+            carry = before[i] >> (wordBits - 1);
+        }
+        return bits;
     }
 
     [[nodiscard]] static bool IsAny(const cBits& bits)
@@ -263,9 +277,9 @@ private:
         return word * wordBits + static_cast<size_t>(std::countr_zero(bits[word]));
     }
 
-    std::vector<cBits> m_places;  // of each character of a, in the range of b
-    std::vector<cBits> m_starts;  // of the runs of the present length that start at each character of a
-    std::vector<quint32> m_open;  // the characters of a where such runs start, in front of the list
+    std::vector<cBits> m_places; // of each character of a, in the range of b
+    std::vector<cBits> m_starts; // of the runs of the present length that start at each character of a
+    std::vector<quint32> m_open; // the characters of a where such runs start, in front of the list
 };
 
 // Counts the matching characters of two texts.

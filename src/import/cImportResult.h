@@ -28,5 +28,5 @@ struct cImportResult
     QString Message;           // German; empty when all went well
     bool NeedsAccount = false; // refused only because the file names no account and none was given
     QString Layout;            // name of the table layout that was recognised
-    QString LayoutKey;         // of a table, for cTableMemory
+    QString AccountKey;        // of a table, for cTableMemory
 };

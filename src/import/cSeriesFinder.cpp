@@ -2,41 +2,13 @@
 
 #include "import/cImportHiveCache.h"
 #include "import/modCounterparty.h"
+#include "import/modOccurrence.h"
 #include "model/modRecurrence.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
-
-constexpr int farthestDays = 15; // banks book a standing order some days early or late, but never half a month
-
-// Half the distance of two occurrences, so that a transaction never has two nearest ones.
-int ReachOf(const QString& interval)
-{
-    const QDate start(2001, 1, 1);
-    const auto step = static_cast<int>(start.daysTo(modRecurrence::Next(start, interval)));
-    return std::min(farthestDays, step / 2);
-}
-
-cEntryItemList Around(const cEntryItem& series, QDate day, const cEntryItemFixModList& fixMods)
-{
-    const int reach = ReachOf(series.EntryInterval);
-    cEntryItemList occurrences;
-    modRecurrence::Expand(series, {day.addDays(-reach), day.addDays(reach)}, fixMods, occurrences);
-    return occurrences;
-}
-
-std::optional<cEntryItem> Nearest(const cEntryItem& series, QDate day, const cEntryItemFixModList& fixMods)
-{
-    const cEntryItemList occurrences = Around(series, day, fixMods);
-    const auto nearest =
-        std::min_element(occurrences.begin(), occurrences.end(), [&](const auto& left, const auto& right) {
-            return std::abs(left.EntryDate.daysTo(day)) < std::abs(right.EntryDate.daysTo(day));
-        });
-    return nearest == occurrences.end() ? std::nullopt : std::optional(*nearest);
-}
 
 bool IsLike(const cEntryItem& series, const cEntryItem& entry)
 {
@@ -98,7 +70,8 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
 
 std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const cImportEntry& row)
 {
-    const std::optional<cEntryItem> occurrence = Nearest(series, row.ImportDate, m_data.GetEntryMods(series.ID));
+    const std::optional<cEntryItem> occurrence =
+        modOccurrence::Nearest(series, row.ImportDate, m_data.GetEntryMods(series.ID));
     if (!occurrence || IsTaken(series, occurrence->EntryDate, row.ID)) {
         return std::nullopt;
     }
@@ -108,11 +81,12 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
 
 bool cSeriesFinder::IsTaken(const cEntryItem& series, QDate occurrence, int rowId)
 {
-    const QDate from = occurrence.addDays(-farthestDays);
-    const QDate to = occurrence.addDays(farthestDays);
+    const int reach = modOccurrence::Reach(series.EntryInterval);
+    const QDate from = occurrence.addDays(-reach);
+    const QDate to = occurrence.addDays(reach);
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).GetImportEntryByArea(series.ID, from, to);
     return std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
-        const std::optional<cEntryItem> paid = Nearest(series, row.ImportDate, {});
+        const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, {});
         return row.ID != rowId && paid && paid->EntryDate == occurrence;
     });
 }

@@ -150,7 +150,7 @@ cImportResult cStatementImport::Import(const cStatementSource& source, const cIm
     const cStatementRead read =
         reader(source, {options.DefaultAccount, options.MissingPurpose, options.Table, m_memory});
     result.Layout = read.Layout;
-    result.LayoutKey = read.LayoutKey;
+    result.AccountKey = read.AccountKey;
     result.NeedsAccount = read.NeedsAccount;
     if (!read.Refusal.isEmpty() || read.NeedsAccount) {
         result.Problems = read.Problems;

@@ -16,7 +16,7 @@ struct cImportOptions
     eDuplicateTest Duplicates = eDuplicateTest::Test;
     QString DefaultAccount; // own account number for statements that do not name theirs
     eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
-    cTableChoice Table; // what the user chose for a file in rows and columns
+    cTableChoice Table = {}; // what the user chose for a file in rows and columns
 };
 
 // Statement files into staged rows.

@@ -50,5 +50,5 @@ struct cStatementRead
     QString Refusal;                 // German; why nothing could be read at all. Empty when the file was read
     bool NeedsAccount = false;       // no account in the file and none was given: nothing may be staged
     QString Layout;                  // name of the table layout (a bank's) that was recognised
-    QString LayoutKey;               // under which the layout's account and columns are remembered; empty: no table
+    QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
 };

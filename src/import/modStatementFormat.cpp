@@ -2,8 +2,11 @@
 
 #include "base/cText.h"
 #include "import/modMT940.h"
+#include "import/modQif.h"
 #include "import/modStatementText.h"
 #include "import/table/modTable.h"
+#include "import/xml/modCamt.h"
+#include "import/xml/modOfx.h"
 
 #include <QStringList>
 
@@ -40,20 +43,23 @@ bool IsMt940(const QString& name, const cStatementSource& source)
     const bool hasClosing = source.Text.contains(u":62F:") || source.Text.contains(u":62M:");
     const bool hasLines = source.Text.contains(u":20:") && source.Text.contains(u":61:");
     // A file that already calls itself so need not have details to every transaction.
-    const bool isNamedSo = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s});
+    const bool isNamedSo = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s, u".STA"_s});
     return (hasOpening && hasClosing) || (hasLines && (isNamedSo || source.Text.contains(u":86:")));
 }
 
 bool IsOfx(const QString& /*name*/, const cStatementSource& source)
 {
-    return (source.Text.contains(u"<OFX>") || source.Text.contains(u"OFXHEADER"))
-        && source.Text.contains(u"<BANKTRANLIST>") && source.Text.contains(u"</OFX>");
+    return modOfx::IsOfx(source.Text);
 }
 
 bool IsQif(const QString& /*name*/, const cStatementSource& source)
 {
-    const QString start = source.Text.left(11).toUpper();
-    return start.startsWith(u"!TYPE:BANK") || start.startsWith(u"!TYPE:CCARD");
+    return modQif::IsQif(source.Text);
+}
+
+bool IsCamt(const QString& /*name*/, const cStatementSource& source)
+{
+    return modCamt::IsCamt(source);
 }
 
 bool IsText(const QString& /*name*/, const cStatementSource& source)
@@ -82,9 +88,11 @@ constexpr std::array formats = {
     cFormat{eStatementFormat::Unknown, QT_TRANSLATE_NOOP("cText", "Unbekanntes Dateiformat"), IsRefused, nullptr},
     cFormat{eStatementFormat::Mt940, QT_TRANSLATE_NOOP("cText", "SWIFT-Kontoauszug (MT940/MT942-Datei)"), IsMt940,
             ReadMt940},
-    cFormat{eStatementFormat::Ofx, QT_TRANSLATE_NOOP("cText", "Open Financial Exchange (OFX-Datei)"), IsOfx, nullptr},
+    cFormat{eStatementFormat::Ofx, QT_TRANSLATE_NOOP("cText", "Open Financial Exchange (OFX-Datei)"), IsOfx,
+            modOfx::Read},
     cFormat{eStatementFormat::Qif, QT_TRANSLATE_NOOP("cText", "Quicken Interchange Format (QIF-Datei)"), IsQif,
-            nullptr},
+            modQif::Read},
+    cFormat{eStatementFormat::Camt, QT_TRANSLATE_NOOP("cText", "SEPA-Kontoauszug (camt-Datei)"), IsCamt, modCamt::Read},
     cFormat{eStatementFormat::Csv, QT_TRANSLATE_NOOP("cText", "Character Separated Values (CSV-Datei)"), IsText,
             modTable::Read},
 };

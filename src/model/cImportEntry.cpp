@@ -1,6 +1,22 @@
 #include "model/cImportEntry.h"
 
+#include "base/modSimilar.h"
+
+#include <algorithm>
 #include <cmath>
+
+namespace {
+
+constexpr qsizetype prefixLength = 12;
+constexpr double prefixBonus = 1.05; // purposes that begin alike come from the same form
+
+double PurposeScore(const QString& a, const QString& b)
+{
+    const double score = modSimilar::Similarity(a, b);
+    return a.left(prefixLength) == b.left(prefixLength) ? score * prefixBonus : score;
+}
+
+} // namespace
 
 bool cImportEntry::Validate()
 {
@@ -19,4 +35,19 @@ bool cImportEntry::isEqual(const cImportEntry& other) const
         && ImportBeneficiaryAccount == other.ImportBeneficiaryAccount && ImportBeneficiary == other.ImportBeneficiary
         && ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ && ImportPurpose == other.ImportPurpose
         && !(ImportValue < other.ImportValue) && !(other.ImportValue < ImportValue);
+}
+
+double cImportEntry::isSimilar(const cImportEntry& other) const
+{
+    const bool areExpenses = ImportValue < 0.0 && other.ImportValue < 0.0;
+    const bool areIncome = ImportValue > 0.0 && other.ImportValue > 0.0;
+    if (!areExpenses && !areIncome) {
+        return 0.0;
+    }
+    double score = PurposeScore(ImportPurpose, other.ImportPurpose);
+    // Who pays often signs in many ways, so income goes by its amount; who is paid has one name.
+    score += areExpenses ? modSimilar::Similarity(ImportBeneficiary, other.ImportBeneficiary)
+                         : std::min(ImportValue, other.ImportValue) / std::max(ImportValue, other.ImportValue);
+    constexpr double impossible = 3.0; // nothing above gets there; a sum that does is worth nothing
+    return score > impossible ? 0.0 : score / 2.0;
 }

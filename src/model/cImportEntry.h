@@ -28,6 +28,10 @@ struct cImportEntry
     // text and currency take no part, so a statement in another format is recognised.
     [[nodiscard]] bool isEqual(const cImportEntry& other) const;
 
+    // How likely the other row is a transaction of the same kind, from 0 to 1.025: expenses by purpose and
+    // counterparty, income by purpose and amount. 0 for an expense beside an income.
+    [[nodiscard]] double isSimilar(const cImportEntry& other) const;
+
     bool operator==(const cImportEntry&) const = default;
 };
 

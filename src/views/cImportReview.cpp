@@ -13,6 +13,7 @@
 #include "import/cImportResult.h"
 #include "import/cProposer.h"
 #include "import/cStatementImport.h"
+#include "import/table/cTableMemory.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -37,7 +38,8 @@ struct cImportReview::cWorks
         : Hive(parts.Data),
           Accounts(parts.Data, parts.Settings),
           Booking(parts.Data, Hive, Accounts),
-          Import(parts.Data, Hive)
+          Memory(parts.Settings),
+          Import(parts.Data, Hive, &Memory)
     {
     }
 
@@ -63,6 +65,7 @@ struct cImportReview::cWorks
     cImportHiveCache Hive;
     cAccountMap Accounts;
     cBooking Booking;
+    cTableMemory Memory;
     cStatementImport Import;
     std::unique_ptr<cProposer> Proposer;
     QHash<int, cProposal> Proposals;
@@ -117,7 +120,7 @@ void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
     const cImportEntryList before = m_works->Hive.GetImportHive().getImportEntryList();
     const int newest = before.isEmpty() ? 0 : before.constLast().ID;
     for (const QString& path : paths) {
-        const cImportResult result = m_works->Import.ImportFile(path, {}, progress);
+        const cImportResult result = ImportFile(path, progress);
         Report(result);
         if (result.IsRefused) {
             refusals.append(QFileInfo(path).fileName() + u'\n' + result.Message);
@@ -134,6 +137,37 @@ void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
     ShowRefusals(refusals);
     AskAccounts(numbers);
     ReportNew(newest);
+}
+
+// A file that does not name its account is read with the number that the user gives.
+cImportResult cImportReview::ImportFile(const QString& path, cProgress& progress)
+{
+    const cImportResult result = m_works->Import.ImportFile(path, {}, progress);
+    if (!result.NeedsAccount) {
+        return result;
+    }
+    QStringList numbers = m_works->Memory.Accounts(result.AccountKey);
+    for (const auto& [number, account] : m_works->Accounts.Mapping()) {
+        numbers.append(number);
+    }
+    numbers.removeDuplicates();
+    const std::optional<QString> given =
+        m_parts.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
+                             .Title = cText::Tr("Kontonummer"),
+                             .Items = numbers,
+                             .Proposal = numbers.value(0),
+                             .AllowNew = true});
+    const QString number = given ? given->simplified() : QString();
+    if (number.isEmpty()) {
+        return result;
+    }
+    cImportOptions options;
+    options.DefaultAccount = number;
+    const cImportResult second = m_works->Import.ImportFile(path, options, progress);
+    if (!second.IsRefused) {
+        m_works->Memory.SaveAccount(second.AccountKey, number);
+    }
+    return second;
 }
 
 void cImportReview::ReportNew(int newest)

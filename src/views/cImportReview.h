@@ -95,6 +95,7 @@ private:
     bool SetInterval(const cImportEntry& row, const QString& interval) override;
 
     void LoadRows();
+    [[nodiscard]] cImportResult ImportFile(const QString& path, cProgress& progress);
     void Report(const cImportResult& result);
     void ShowRefusals(const QStringList& refusals);
     void AskAccounts(const QStringList& numbers);

@@ -57,11 +57,15 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
         return {cText::Tr("{0}: nicht eingelesen. {1}", {name, result.Message})};
     }
     QStringList lines{cText::Tr("{0}: {1}", {name, Read(result, format)})};
-    for (const cReadProblem& problem : result.Problems.first(qMin(result.Problems.size(), shownProblems))) {
+    QList<cReadProblem> problems = result.Problems;
+    for (const cSkippedRow& row : result.Skipped) {
+        problems.append(row.Reason);
+    }
+    for (const cReadProblem& problem : problems.first(qMin(problems.size(), shownProblems))) {
         lines.append(Problem(problem));
     }
-    if (result.Problems.size() > shownProblems) {
-        lines.append(cText::Tr("… und {0} weitere Zeilen", {QString::number(result.Problems.size() - shownProblems)}));
+    if (problems.size() > shownProblems) {
+        lines.append(cText::Tr("… und {0} weitere Zeilen", {QString::number(problems.size() - shownProblems)}));
     }
     return lines;
 }

@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTreeWidget>
@@ -41,11 +42,25 @@ cCorrectionsPage::cCorrectionsPage(QDate today, fnFields fields, QWidget* parent
     connect(m_add, &QPushButton::clicked, this, &cCorrectionsPage::Add);
     connect(m_change, &QPushButton::clicked, this, &cCorrectionsPage::Change);
     connect(m_remove, &QPushButton::clicked, this, &cCorrectionsPage::Remove);
-    connect(m_list, &QTreeWidget::itemActivated, this, &cCorrectionsPage::Change);
+    connect(m_list, &QTreeWidget::itemDoubleClicked, this, &cCorrectionsPage::Change);
+    m_list->installEventFilter(this);
     connect(m_list, &QTreeWidget::currentItemChanged, this, &cCorrectionsPage::ShowButtons);
     auto* del = new QShortcut(QKeySequence(QKeySequence::Delete), m_list);
     del->setContext(Qt::WidgetShortcut);
     connect(del, &QShortcut::activated, this, &cCorrectionsPage::Remove);
+}
+
+// The list itself would pass Enter on to the window's default button, which saves and closes.
+bool cCorrectionsPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_list && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            Change();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void cCorrectionsPage::Build()

@@ -29,6 +29,9 @@ public:
 Q_SIGNALS:
     void CorrectionsEdited(const cEntryItemFixModList& corrections);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void Build();
     void ShowButtons();

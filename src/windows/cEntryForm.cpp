@@ -249,7 +249,7 @@ void cEntryForm::ShowFace()
     m_startText->setVisible(face == eEntryFace::StartBalance);
     m_startText->setText(face == eEntryFace::StartBalance ? m_editor.StartBalanceText(m_fields.Account) : QString());
     m_form->setRowVisible(cboKategorie, face == eEntryFace::Normal);
-    m_form->setRowVisible(txtBeschreibung, face != eEntryFace::Split);
+    m_form->setRowVisible(txtBeschreibung, face == eEntryFace::Normal); // a start balance has one of its own
     m_form->setRowVisible(cboBuchungsart, face != eEntryFace::StartBalance);
     m_form->setRowVisible(cboInterval, face != eEntryFace::StartBalance);
     m_split->setVisible(face == eEntryFace::Split);

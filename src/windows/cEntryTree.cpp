@@ -22,6 +22,8 @@ constexpr int leastDescription = 16;
 
 cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
 {
+    // Before the base class hears of it and forgets which line stands where.
+    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
     setModel(&m_model);
     setItemDelegate(new cEntryDelegate(this));
     setRootIsDecorated(false); // heads of groups draw their own arrow, so that the dates stay in line
@@ -50,7 +52,6 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
             FitDescription();
         }
     });
-    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cEntryTree::RestoreSelection);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &cEntryTree::ReportSelection);
     SetDefaultLayout();
@@ -248,7 +249,6 @@ void cEntryTree::RestoreCurrent()
     QModelIndex current = m_model.IndexesOf({m_current}).value(0);
     current = current.isValid() ? current : m_model.IndexesOf({m_next}).value(0);
     current = current.isValid() ? current : top;
-    qDebug("cur %d next %d top %d -> %d", m_current.ID, m_next.ID, m_top.ID, int(current.isValid()));
     selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     if (top.isValid()) {
         scrollTo(top, PositionAtTop);

@@ -4,6 +4,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+int cStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* more) const
+{
+    // The toolkit would give pictures only to those buttons whose text it knows.
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+}
+
 QIcon cStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
     switch (icon) {

@@ -10,6 +10,8 @@ class cStyle final : public QProxyStyle
     Q_OBJECT
 
 public:
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* more) const override;
     [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                                      const QWidget* widget) const override;
 };

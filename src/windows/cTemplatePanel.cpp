@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -268,6 +269,7 @@ void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNo
     m_hint->setText(manager.Hint(*node));
     const bool isOfAccounts = node->IsOfAccounts();
     m_numbersHint->setText(isOfAccounts ? manager.NumbersHint() : QString());
+    m_numbersHint->setMinimumHeight(m_numbersHint->heightForWidth(m_numbers->width())); // a form cuts wrapped lines
     if (const std::optional<cTemplateFields> fields = manager.Load(*node)) {
         ShowFields(*node, *fields, isOfAccounts ? manager.Groups() : manager.Mains());
         m_name->setEnabled(!manager.IsNameFixed(*node));
@@ -334,6 +336,16 @@ cTemplateFields cTemplatePanel::Fields() const
     fields.IsVisible = m_visible->isChecked();
     fields.IsBookable = m_bookable->isChecked();
     return fields;
+}
+
+// Escape gives up what was typed before it closes the window.
+void cTemplatePanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && IsChanged()) {
+        Q_EMIT DiscardRequested();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 bool cTemplatePanel::IsChanged() const

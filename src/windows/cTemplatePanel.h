@@ -42,6 +42,9 @@ Q_SIGNALS:
     void MergeRequested();
     void RenameRequested();
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     // A line of the form. Its mnemonic is there only while it is shown, because the same letter serves another one.
     struct cRow

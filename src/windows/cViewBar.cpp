@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
@@ -87,7 +88,9 @@ void cViewBar::Build()
     grid->addWidget(m_filter, 1, 6);
     m_filter->setClearButtonEnabled(true);
     m_filter->setPlaceholderText(cText::Tr("Text, Kategorie oder Betrag"));
-    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
+    connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+            m_filter, &QLineEdit::clear);
+    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 14); // leaves room for the balances on a small screen
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_account->setMinimumContentsLength(14);
     grid->setColumnStretch(6, 1);
@@ -139,7 +142,6 @@ void cViewBar::ShowView()
     ShowDay(*m_start, range.Start);
     ShowDay(*m_end, range.End);
     if (m_filter->text() != view.Filter) {
-        const QSignalBlocker filterBlocker(m_filter);
-        m_filter->setText(view.Filter);
+        m_filter->setText(view.Filter); // unblocked: its clear button listens too
     }
 }

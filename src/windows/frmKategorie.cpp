@@ -5,11 +5,13 @@
 #include "windows/cTemplatePanel.h"
 #include "windows/cTemplateTree.h"
 #include "windows/modIcon.h"
+#include "windows/modPlace.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 
@@ -46,7 +48,8 @@ frmKategorie::frmKategorie(cTemplateManager& manager, QWidget* parent)
     m_categories->SelectFirst();
     ShowLine();
     m_categories->setFocus();
-    resize(fontMetrics().averageCharWidth() * windowWidth, fontMetrics().lineSpacing() * windowHeight);
+    const QSize wanted(fontMetrics().averageCharWidth() * windowWidth, fontMetrics().lineSpacing() * windowHeight);
+    resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
 
 QAction* frmKategorie::MakeAction(const QString& icon, const QString& text, const QKeySequence& key,

@@ -115,7 +115,7 @@ void frmMain::BuildPages()
     m_splitter->setSizes({character * 42, character * 140});
     setCentralWidget(m_splitter);
     statusBar()->addPermanentWidget(m_database);
-    resize(character * 205, fontMetrics().height() * 50);
+    resize(modPlace::Fitting({character * 205, fontMetrics().height() * 50}, screen()->availableGeometry()));
 }
 
 QWidget* frmMain::BuildEntryPage()
@@ -214,7 +214,7 @@ void frmMain::ResetLayout()
     m_tree->SetLayoutText({});
     setWindowState(Qt::WindowNoState);
     const int character = fontMetrics().averageCharWidth();
-    resize(character * 205, fontMetrics().height() * 50);
+    resize(modPlace::Fitting({character * 205, fontMetrics().height() * 50}, screen()->availableGeometry()));
 }
 
 void frmMain::ShowEntry(const cEntryListModel::cKey& key)

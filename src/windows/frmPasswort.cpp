@@ -26,7 +26,6 @@ frmPasswort::frmPasswort(cPasswordTries& tries, cCheck isRight, QWidget* parent)
       m_isRight(std::move(isRight)),
       m_layout(new QVBoxLayout(this)),
       tmrWait(new QTimer(this)),
-      m_showLetters(new QCheckBox(cText::Tr("Passwort an&zeigen"), this)),
       m_message(new QLabel(this)),
       m_buttons(new QDialogButtonBox(this))
 {
@@ -39,7 +38,6 @@ frmPasswort::frmPasswort(cPasswordFlow& flow, QWidget* parent)
       m_flow(&flow),
       m_layout(new QVBoxLayout(this)),
       tmrWait(new QTimer(this)),
-      m_showLetters(new QCheckBox(cText::Tr("Passwörter an&zeigen"), this)),
       m_message(new QLabel(this)),
       m_buttons(new QDialogButtonBox(this))
 {
@@ -51,8 +49,7 @@ frmPasswort::~frmPasswort() = default;
 void frmPasswort::BuildPrompt()
 {
     m_old = AddField(cText::Tr("&Bitte geben Sie das Passwort der Datenbank ein:"), "old");
-    m_layout->addWidget(m_showLetters);
-    m_layout->addWidget(m_message);
+    AddShowLetters(cText::Tr("Passwort an&zeigen"));
     AddText(cText::Tr("Passwort vergessen? Eine Datensicherung ohne Passwort lässt sich mit \"kontorelle-cli restore\" "
                       "laden; \"kontorelle-cli password --remove\" entfernt das Passwort dieser Datenbank. Die Datei "
                       "selbst ist nicht verschlüsselt."));
@@ -72,8 +69,7 @@ void frmPasswort::BuildFlow()
     }
     m_new = AddField(cText::Tr("&Neues Passwort:"), "new");
     m_repeated = AddField(cText::Tr("Neues Passwort &wiederholen:"), "repeated");
-    m_layout->addWidget(m_showLetters);
-    m_layout->addWidget(m_message);
+    AddShowLetters(cText::Tr("Passwörter an&zeigen"));
     if (hasPassword) {
         m_remove = m_buttons->addButton(cText::Tr("Passwort &entfernen"), QDialogButtonBox::DestructiveRole);
         m_remove->setAutoDefault(false);
@@ -100,6 +96,15 @@ QLineEdit* frmPasswort::AddField(const QString& label, const char* name)
     return field;
 }
 
+// After the fields, so that the keys start there.
+void frmPasswort::AddShowLetters(const QString& text)
+{
+    auto* showLetters = new QCheckBox(text, this);
+    connect(showLetters, &QCheckBox::toggled, this, &frmPasswort::ShowLetters);
+    m_layout->addWidget(showLetters);
+    m_layout->addWidget(m_message);
+}
+
 void frmPasswort::Finish(const QString& doCaption, const QString& leaveCaption)
 {
     setWindowTitle(cText::Tr("Passwortschutz"));
@@ -112,11 +117,11 @@ void frmPasswort::Finish(const QString& doCaption, const QString& leaveCaption)
     tmrWait->setObjectName(u"tmrWait"_s);
     tmrWait->setInterval(second);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_showLetters, &QCheckBox::toggled, this, &frmPasswort::ShowLetters);
     connect(tmrWait, &QTimer::timeout, this, [this] {
         m_tries.SecondPassed();
         Wait();
     });
+    (m_old != nullptr ? m_old : m_new)->setFocus();
     if (m_tries.Left() > 0) {
         Wait();
     }

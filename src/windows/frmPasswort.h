@@ -7,7 +7,6 @@
 #include <functional>
 #include <initializer_list>
 
-class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
@@ -35,6 +34,7 @@ private:
     void BuildFlow();
     void AddText(const QString& text);
     [[nodiscard]] QLineEdit* AddField(const QString& label, const char* name);
+    void AddShowLetters(const QString& text);
     void Finish(const QString& doCaption, const QString& leaveCaption);
     void ShowLetters(bool isShown);
     void Try();
@@ -52,7 +52,6 @@ private:
     QLineEdit* m_old = nullptr;
     QLineEdit* m_new = nullptr;
     QLineEdit* m_repeated = nullptr;
-    QCheckBox* m_showLetters;
     QLabel* m_message;
     QDialogButtonBox* m_buttons;
     QPushButton* m_do = nullptr;

@@ -6,12 +6,14 @@
 #include "windows/cSearchFields.h"
 #include "windows/cSumBar.h"
 #include "windows/modIcon.h"
+#include "windows/modPlace.h"
 #include "windows/modTone.h"
 
 #include <QBoxLayout>
 #include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 
@@ -55,7 +57,8 @@ void frmSuche::Build()
     layout->addLayout(BuildButtons());
     m_hint->setWordWrap(true);
     m_tree->setAccessibleName(cText::Tr("Gefundene Einträge"));
-    resize(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
+    const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
+    resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
 
 QHBoxLayout* frmSuche::BuildButtons()

@@ -7,8 +7,16 @@ namespace {
 // What has to be in sight to drag a window with the mouse: pixels of its upper edge.
 constexpr int gripWidth = 100;
 constexpr int gripHeight = 20;
+// What the frame of a window takes at the most; it is known only after the window was shown.
+constexpr int frameWidth = 16;
+constexpr int frameHeight = 48;
 
 } // namespace
+
+QSize modPlace::Fitting(const QSize& wanted, const QRect& screen)
+{
+    return wanted.boundedTo({screen.width() - frameWidth, screen.height() - frameHeight});
+}
 
 QRect modPlace::Visible(const QRect& place, const QList<QRect>& screens)
 {

@@ -10,4 +10,8 @@ namespace modPlace {
 // as it fits, in the middle of the first screen. `screens` are the areas that are free for windows.
 [[nodiscard]] QRect Visible(const QRect& place, const QList<QRect>& screens);
 
+// The size of a new window: as wanted, but with its frame no larger than the screen. `screen` is the area that is free
+// for windows.
+[[nodiscard]] QSize Fitting(const QSize& wanted, const QRect& screen);
+
 } // namespace modPlace

@@ -114,6 +114,8 @@ void AnswerForm(tAnswer answer)
     QTimer::singleShot(0, qApp, [answer] {
         auto* form = qobject_cast<frmKorrektur*>(QApplication::activeModalWidget());
         QVERIFY(form != nullptr);
+        form->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(form));
         answer(*form);
         form->close();
     });
@@ -424,11 +426,11 @@ void testFrmBuchung::CorrectionsOfASeries()
         form.findChild<QLineEdit*>(u"txtTag"_s)->setText(u"1.1.2020"_s); // before the series
         form.findChild<QLineEdit*>(u"txtBetrag"_s)->setText(u"700+20"_s);
         form.findChild<QLineEdit*>(u"txtKommentar"_s)->setText(u"Mietminderung"_s);
-        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        QTest::keyClick(form.findChild<QLineEdit*>(u"txtBetrag"_s), Qt::Key_Return);
         QVERIFY(form.isVisible());
         QVERIFY(!form.findChild<QLabel*>(u"message"_s)->text().isEmpty());
         form.findChild<QLineEdit*>(u"txtTag"_s)->setText(u"20.2.2026"_s);
-        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        QTest::keyClick(form.findChild<QLineEdit*>(u"txtBetrag"_s), Qt::Key_Return);
     });
     press(u"&Hinzufügen…"_s);
     QCOMPARE(list.topLevelItemCount(), 1);
@@ -436,7 +438,7 @@ void testFrmBuchung::CorrectionsOfASeries()
     QCOMPARE(list.topLevelItem(0)->text(3), u"720,00"_s);
     AnswerForm([](frmKorrektur& form) {
         form.findChild<QLineEdit*>(u"txtBetrag"_s)->setText(u"710"_s);
-        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        QTest::keyClick(form.findChild<QLineEdit*>(u"txtBetrag"_s), Qt::Key_Return);
     });
     press(u"&Ändern…"_s);
     QCOMPARE(list.topLevelItem(0)->text(3), u"710,00"_s);
@@ -490,6 +492,7 @@ void testFrmBuchung::StartBalance()
     for (const QString& hidden : {u"cboKategorie"_s, u"cboBuchungsart"_s, u"cboInterval"_s, u"cboNachKonto"_s}) {
         QVERIFY(!scene.Box(hidden).isVisible());
     }
+    QVERIFY(!scene.Form->findChild<QWidget*>(u"txtBeschreibung"_s)->isVisible()); // it would be lost
     const QList<QLabel*> labels = scene.Form->findChildren<QLabel*>();
     QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
         return label->isVisible() && label->text() == u"Bisher wurde noch kein Startguthaben festgelegt:"_s;

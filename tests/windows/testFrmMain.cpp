@@ -4,6 +4,7 @@
 #include "views/cMainModel.h"
 #include "windows/cEntryTree.h"
 #include "windows/frmMain.h"
+#include "windows/modPlace.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void SelectionSurvivesARefresh();
     void DeletingGoesOnWithTheNextLine();
     void SavedEntryIsTheOnlyOneSelected();
+    void NewWindowsFitTheScreen();
     void ColumnLayoutIsKept();
     void ClickOnAnAccountFilters();
     void FreePeriodOpensTheDayFields();
@@ -134,7 +136,6 @@ void testFrmMain::DeletingGoesOnWithTheNextLine()
     scene.Select(1);
     scene.Book.User.Answers = {eAnswer::Yes};
     QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
-    qDebug() << scene.Model.Entries().rowCount() << scene.Tree().currentIndex() << scene.Book.User.Answers.size();
     QCOMPARE(scene.Model.Entries().KeyAt(scene.Tree().currentIndex()).Day, QDate(2026, 1, 3));
     QVERIFY(scene.Tree().SelectedKeys().isEmpty());
 }
@@ -148,6 +149,13 @@ void testFrmMain::SavedEntryIsTheOnlyOneSelected()
     scene.Window.ShowEntry({scene.Second.ID, scene.Second.EntryDate});
     QTest::keyRelease(&scene.Window, Qt::Key_Control);
     QCOMPARE(scene.Tree().SelectedKeys(), QList<cEntryListModel::cKey>({{scene.Second.ID, scene.Second.EntryDate}}));
+}
+
+void testFrmMain::NewWindowsFitTheScreen()
+{
+    const QRect screen(0, 0, 1024, 768);
+    QVERIFY(screen.contains(QRect({}, modPlace::Fitting({1230, 850}, screen))));
+    QCOMPARE(modPlace::Fitting({600, 400}, screen), QSize(600, 400));
 }
 
 void testFrmMain::ColumnLayoutIsKept()

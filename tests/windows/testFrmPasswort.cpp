@@ -3,6 +3,8 @@
 #include "support/windowFaults.h"
 #include "windows/frmPasswort.h"
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -55,6 +57,7 @@ private Q_SLOTS:
     void WaitOutlivesTheWindow();
     void EscapeGivesUp();
     void SetsAndRemoves();
+    void KeysStartInTheFirstField();
     void WrongOldPasswordWaits();
 };
 
@@ -129,6 +132,28 @@ void testFrmPasswort::SetsAndRemoves()
     QTest::keyClicks(Field(window, u"old"_s), u"eins"_s);
     QTest::mouseClick(Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
     QVERIFY(!window.isVisible() && !flow.HasPassword());
+}
+
+void testFrmPasswort::KeysStartInTheFirstField()
+{
+    cTestBook book;
+    cPasswordFlow flow(book.Data, book.Configuration, book.User);
+    frmPasswort window(flow);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    for (const QString& field : {u"new"_s, u"repeated"_s}) {
+        QCOMPARE(QApplication::focusWidget(), Field(window, field));
+        QTest::keyClicks(QApplication::focusWidget(), u"eins"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QVERIFY(qobject_cast<QCheckBox*>(QApplication::focusWidget()) != nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QVERIFY(flow.HasPassword());
+    cPasswordTries tries;
+    frmPasswort prompt(tries, [](const QString&) { return true; });
+    prompt.show();
+    QCOMPARE(prompt.focusWidget(), Field(prompt, u"old"_s));
 }
 
 void testFrmPasswort::WrongOldPasswordWaits()

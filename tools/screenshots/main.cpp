@@ -11,6 +11,7 @@
 #include "base/cClock.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
+#include "core/cSettings.h"
 #include "core/modDemo.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -195,6 +196,7 @@ bool TakeCategories(cCamera& camera)
         || !book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
         return false;
     }
+    book.Settings().Reload(); // the household was written past them
     cConfiguration configuration(registry);
     configuration.SetDatabase(&book.Settings());
     cAmountFormat format(configuration);

@@ -96,6 +96,21 @@ QList<int> cCliReader::Ids(const QStringList& texts)
     return ids;
 }
 
+std::optional<cImportEntry> cCliReader::StagedRow(const QString& text)
+{
+    bool isNumber = false;
+    const int id = text.toInt(&isNumber);
+    if (!isNumber) {
+        Misused(cText::Tr("'{0}' ist keine Nummer. Die Nummern stehen in der Spalte ID.", {text}));
+        return std::nullopt;
+    }
+    std::optional<cImportEntry> row = m_context.Book->Hive.GetImportHive().GetImportEntryByID(id);
+    if (!row) {
+        Missing(cText::Tr("Einen Umsatz mit der Nummer {0} gibt es nicht.", {text}));
+    }
+    return row;
+}
+
 QDate cCliReader::Occurrence(int id, const QString& text)
 {
     constexpr int shownDays = 3;

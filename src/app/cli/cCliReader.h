@@ -1,12 +1,15 @@
 #pragma once
 
 #include "app/cli/modCliCommands.h"
+#include "model/cImportEntry.h"
 #include "model/modPeriod.h"
 
 #include <QDate>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 // Which names are understood.
 enum class eCliNames {
@@ -26,8 +29,9 @@ public:
     [[nodiscard]] qint64 Cents(const QString& text); // sums too; with sign
     [[nodiscard]] int Id(const QString& text);
     [[nodiscard]] QList<int> Ids(const QStringList& texts);
-    [[nodiscard]] QString Kind(const QString& text);     // stored words
-    [[nodiscard]] QString Interval(const QString& text); //
+    [[nodiscard]] std::optional<cImportEntry> StagedRow(const QString& text); // empty is a problem too
+    [[nodiscard]] QString Kind(const QString& text);                          // stored words
+    [[nodiscard]] QString Interval(const QString& text);                      //
     // Names in any letter case; of a category its sub-category alone is enough when there is only one of that name.
     [[nodiscard]] QString Account(const QString& text, eCliNames names = eCliNames::Defined);
     [[nodiscard]] QString Category(const QString& text, eCliNames names = eCliNames::Defined);

@@ -26,6 +26,9 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand StagedCommand();
 [[nodiscard]] cCliCommand ProposeCommand();
 [[nodiscard]] cCliCommand BookCommand();
+[[nodiscard]] cCliCommand MatchCommand();
+[[nodiscard]] cCliCommand AssignCommand();
+[[nodiscard]] cCliCommand ReleaseCommand();
 [[nodiscard]] cCliCommand EntriesCommand();
 [[nodiscard]] cCliCommand ExportCommand();
 [[nodiscard]] cCliCommand SearchCommand();

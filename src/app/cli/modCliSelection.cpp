@@ -67,6 +67,10 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     const QString accountText = call.Value(u"account"_s);
     const QString account =
         accountText == modWord::AlleKonten ? QString() : reader.Account(accountText, eCliNames::Used);
+    // "Wohnung; Allgemein" stands for what is booked on the main category itself and is no path of its own.
+    const QString categoryText = call.Value(u"category"_s);
+    const QString category =
+        categoryText.endsWith(u"; Allgemein"_s) ? categoryText : reader.Category(categoryText, eCliNames::Used);
     if (!reader.IsGood()) {
         selection.Code = reader.Report();
         return selection;
@@ -76,7 +80,7 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     query.End = selection.Days.End;
     query.Type = modWord::QueryType(kind);
     query.Account = account;
-    query.Category = call.Value(u"category"_s);
+    query.Category = category;
     selection.Entries = book.Data.GetEntries(query);
     const QList<modFold::cFolded> words = modFold::Words(call.Value(u"filter"_s));
     selection.Entries.removeIf([&](const cEntryItem& entry) { return !IsFound(book, entry, words); });

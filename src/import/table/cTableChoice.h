@@ -5,6 +5,7 @@
 
 #include <QChar>
 #include <QString>
+#include <QStringView>
 
 #include <optional>
 
@@ -13,6 +14,9 @@ enum class eNumberFormat { Detect, German, English };
 enum class eDateOrder { DayMonthYear, MonthDayYear, YearMonthDay };
 // Card statements count what was spent as positive.
 enum class eSignRule { AsWritten, Negated };
+
+// In the place of a known layout's name: none is to be used, not even a detected one.
+inline constexpr QStringView noProfile = u"-";
 
 // What the user chose about a table; everything left empty is detected.
 struct cTableChoice

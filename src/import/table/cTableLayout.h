@@ -23,8 +23,11 @@ struct cTableLayout
     eDateOrder Date = eDateOrder::DayMonthYear;
     eSignRule Sign = eSignRule::AsWritten;
     eDetails Details = eDetails::None;
-    QString Profile; // name of the known layout; empty when there is none
-    QString Key;     // hash of the header for the memory
+    QString Currency;     // of all rows where no column holds it
+    QString OnlyCurrency; // rows in another one are no bookings of the account; empty: all are
+    QString Profile;      // name of the known layout; empty when there is none
+    QString Key;          // hash of the header for the memory; empty without a header
+    QString AccountKey;   // the same with the lines above it
 
     // A table can only be read with a date and an amount.
     [[nodiscard]] bool IsReadable() const

@@ -1,5 +1,7 @@
 #include "import/table/modCell.h"
 
+#include <QList>
+
 #include <algorithm>
 
 namespace {

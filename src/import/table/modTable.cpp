@@ -1,23 +1,162 @@
 #include "import/table/modTable.h"
 
+#include "base/cText.h"
 #include "import/cReadOptions.h"
 #include "import/cStatementSource.h"
 #include "import/table/cTable.h"
+#include "import/table/cTableMemory.h"
+#include "import/table/modColumnWords.h"
+#include "import/table/modTableAbove.h"
+#include "import/table/modTableContents.h"
+#include "import/table/modTableDetails.h"
+#include "import/table/modTableHeader.h"
+#include "import/table/modTableProfile.h"
+#include "import/table/modTableRows.h"
+#include "import/table/modTableText.h"
 
-modTable::cOpened modTable::Open(const cStatementSource& /*source*/, const cReadOptions& /*options*/)
+#include <algorithm>
+
+namespace {
+
+constexpr int probedLines = 60; // the searched ones, and those below them that hold the first data
+
+QList<modTableHeader::cProbe> ProbesOf(QStringView text)
 {
-    return {};
+    QList<modTableHeader::cProbe> probes;
+    while (!text.isEmpty() && probes.size() < probedLines) {
+        const auto* const end =
+            std::find_if(text.begin(), text.end(), [](QChar c) { return c == u'\n' || c == u'\r'; });
+        const qsizetype size = end - text.begin();
+        probes.append({text.left(size), {}});
+        text = text.mid(size + (text.mid(size).startsWith(u"\r\n") ? 2 : 1));
+    }
+    return probes;
 }
 
-cTableLayout modTable::Detect(const cTable& /*table*/, const cReadOptions& /*options*/)
+QList<modTableHeader::cProbe> ProbesOf(const cTable& table)
 {
-    return {};
+    QList<modTableHeader::cProbe> probes;
+    for (int row = 0; row < qMin(table.RowCount(), probedLines); ++row) {
+        QStringList cells = table.Row(row);
+        cells.append(cells.isEmpty() ? QStringList(QString()) : QStringList());
+        probes.append({{}, cells});
+    }
+    return probes;
 }
 
-cStatementRead modTable::ReadRows(const cTable& /*table*/, const cTableLayout& /*layout*/,
-                                  const cReadOptions& /*options*/)
+// True when the first rows have the text of Austrian banks as their purpose.
+bool IsAustrian(const cTable& table, const cTableLayout& layout)
 {
-    return {};
+    const int end = qMin(table.RowCount(), layout.FirstRow + 3);
+    for (int row = layout.FirstRow; row < end; ++row) {
+        if (!modTableDetails::IsAustrian(table.Cell(row, layout.Map.Purpose[0]))) {
+            return false;
+        }
+    }
+    return layout.FirstRow < end;
+}
+
+void SetColumns(const cTable& table, const cReadOptions& options, cTableLayout& layout)
+{
+    const QStringList names = layout.Map.Names;
+    const bool isNamed =
+        !options.Table.Profile.isEmpty() && modTableProfile::ApplyNamed(options.Table.Profile, names, layout);
+    const bool isKnown = isNamed || (options.Memory != nullptr && options.Memory->LoadMap(layout.Key, layout))
+        || (options.Table.Profile != noProfile && modTableProfile::Apply(names, layout));
+    if (isKnown) {
+        return;
+    }
+    if (names.isEmpty() || !layout.IsReadable()) {
+        layout.Origin = eMapOrigin::Contents;
+    }
+    modTableContents::Complete(table, layout);
+    if (names.isEmpty() && IsAustrian(table, layout)) {
+        layout.Details = eDetails::Austrian;
+    }
+}
+
+// What the user chose goes before everything.
+void TakeChoice(const cTableChoice& choice, cTableLayout& layout)
+{
+    if (choice.Map) {
+        const QStringList names = layout.Map.Names;
+        layout.Map = *choice.Map;
+        layout.Map.Names = names;
+        layout.Origin = eMapOrigin::User;
+    }
+    layout.Number = choice.Number.value_or(layout.Number);
+    layout.Date = choice.Date.value_or(layout.Date);
+    layout.Sign = choice.Sign.value_or(layout.Sign);
+}
+
+cTableLayout LayoutOf(const cTable& table, const modTableHeader::cFound& found, const cReadOptions& options)
+{
+    cTableLayout layout;
+    layout.Separator = found.Separator;
+    layout.HeaderRow = found.Header;
+    layout.FirstRow = found.First;
+    if (found.Header >= 0 && found.Header < table.RowCount()) {
+        const QStringList names = table.Row(found.Header);
+        layout.Map = modColumnWords::Detect(names);
+        layout.Key = cTableMemory::KeyOf(names);
+        layout.AccountKey = cTableMemory::KeyOf(names + QStringList(modTableAbove::Read(table, found.Header).Labels));
+    }
+    SetColumns(table, options, layout);
+    TakeChoice(options.Table, layout);
+    modTableContents::CompleteCurrency(layout);
+    return layout;
+}
+
+// The account of rows that do not name their own.
+QString AccountOf(const modTableAbove::cAbove& above, const cTableLayout& layout, const cReadOptions& options)
+{
+    if (!above.Account.isEmpty()) {
+        return above.Account;
+    }
+    if (!options.Account.isEmpty() || options.Memory == nullptr) {
+        return options.Account;
+    }
+    return options.Memory->Account(layout.AccountKey);
+}
+
+} // namespace
+
+modTable::cOpened modTable::Open(const cStatementSource& source, const cReadOptions& options)
+{
+    const modTableHeader::cFound found = modTableHeader::Find(ProbesOf(source.Text), options.Table, options.Memory);
+    const auto table = std::make_shared<const cTable>(
+        modTableText::Split(source.Text, found.Separator, found.Header >= 0 ? found.Header : found.First));
+    return {LayoutOf(*table, found, options), table};
+}
+
+cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
+{
+    return LayoutOf(table, modTableHeader::Find(ProbesOf(table), options.Table, options.Memory), options);
+}
+
+cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
+{
+    if (!layout.IsReadable()) {
+        cStatementRead read;
+        read.Refusal = cText::Tr("In der Datei sind keine Spalten mit Datum und Betrag zu erkennen.");
+        return read;
+    }
+    const modTableAbove::cAbove above =
+        modTableAbove::Read(table, layout.HeaderRow >= 0 ? layout.HeaderRow : layout.FirstRow);
+    cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options));
+    if (!options.Table.Account.isEmpty()) {
+        for (cImportEntry& entry : read.Entries) {
+            entry.ImportAccount = options.Table.Account;
+        }
+    }
+    read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),
+                                    [](const cImportEntry& entry) { return entry.ImportAccount.isEmpty(); });
+    if (!read.ClosingBalance && above.Balance) {
+        read.ClosingBalance = above.Balance->Cents;
+        const QString account = read.Entries.isEmpty() ? above.Account : read.Entries.first().ImportAccount;
+        read.Balances.append({account, above.Balance->Cents, above.Balance->Date});
+    }
+    return read;
 }
 
 cStatementRead modTable::ReadTable(const cTable& table, const cReadOptions& options)

@@ -6,11 +6,6 @@
 // From the text of an OFX file to XML. OFX 1 is SGML whose values have no end tags. All texts are UTF-8.
 namespace modOfxText {
 
-// Brings a text that banks took liberties with into the form that ToXml expects: comments and processing instructions
-// go, every tag stands on a line of its own, "&" and "<" in values are escaped, values and empty elements get their end
-// tags, tags that close nothing go.
-[[nodiscard]] QByteArray Repair(const QByteArray& text);
-
 // Gives every line "<TAG>value" its end tag and drops what stands before "<OFX>". Nothing else is changed: a text with
 // several tags on a line, comments or empty elements without end tag does not become XML by this.
 [[nodiscard]] QByteArray ToXml(const QByteArray& text);

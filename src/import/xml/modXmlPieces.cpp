@@ -38,16 +38,19 @@ qsizetype BehindTag(QByteArrayView text, qsizetype from)
     return text.size();
 }
 
-// The name in a tag, without "<", "/" and namespace prefix.
-QByteArrayView LocalName(QByteArrayView tag)
+// Whether the tag at `at`, behind its "<" and "/", is of the name; a namespace prefix does not count.
+bool IsNamed(QByteArrayView text, qsizetype at, QByteArrayView name)
 {
-    qsizetype from = tag.startsWith("</") ? 2 : 1;
-    qsizetype end = from;
-    while (end < tag.size() && std::strchr(" \t\r\n/>", tag[end]) == nullptr) {
-        from = tag[end] == ':' ? end + 1 : from;
-        ++end;
+    qsizetype from = at;
+    for (; at < text.size(); ++at) {
+        const char c = text[at];
+        if (c == ':') {
+            from = at + 1;
+        } else if (c == '>' || c == '/' || c == ' ' || c == '\n' || c == '\r' || c == '\t') {
+            break;
+        }
     }
-    return tag.mid(from, end - from);
+    return at - from == name.size() && text.sliced(from, at - from) == name;
 }
 
 class cCutter
@@ -58,13 +61,11 @@ public:
     modXmlPieces::cPieces Run()
     {
         for (qsizetype at = Find(m_xml, '<', 0); at >= 0; at = Find(m_xml, '<', at)) {
-            const QByteArrayView rest = m_xml.mid(at);
-            if (rest.startsWith("<!--")) {
-                at = Behind(m_xml, "-->", at + 4);
-            } else if (rest.startsWith("<![CDATA[")) {
-                at = Behind(m_xml, "]]>", at + 9);
+            const char next = at + 1 < m_xml.size() ? m_xml[at + 1] : '\0';
+            if (next == '!') {
+                at = BehindSpecial(at);
             } else {
-                at = TakeTag(at);
+                at = TakeTag(at, next == '/');
             }
         }
         Copy(m_xml.size());
@@ -72,29 +73,48 @@ public:
     }
 
 private:
-    // Returns the place behind the tag.
-    qsizetype TakeTag(qsizetype at)
+    [[nodiscard]] qsizetype BehindSpecial(qsizetype at) const
     {
-        const qsizetype end = BehindTag(m_xml, at + 1);
-        const QByteArrayView tag = m_xml.mid(at, end - at);
-        if (tag.endsWith("/>") || LocalName(tag) != m_name) {
+        const QByteArrayView rest = m_xml.sliced(at);
+        if (rest.startsWith("<!--")) {
+            return Behind(m_xml, "-->", at + 4);
+        }
+        return rest.startsWith("<![CDATA[") ? Behind(m_xml, "]]>", at + 9) : at + 2;
+    }
+
+    // Returns a place before the next "<": values of attributes hold none.
+    qsizetype TakeTag(qsizetype at, bool isClosing)
+    {
+        const qsizetype start = at + (isClosing ? 2 : 1);
+        if (!IsNamed(m_xml, start, m_name)) {
+            return start;
+        }
+        const qsizetype end = BehindTag(m_xml, start);
+        if (m_xml[end - 1] == '>' && m_xml[end - 2] == '/') {
             return end;
         }
-        if (!tag.startsWith("</")) {
+        if (!isClosing) {
             m_start = m_depth == 0 ? at : m_start;
             ++m_depth;
         } else if (m_depth > 0 && --m_depth == 0) {
-            Copy(m_start);
-            m_result.Skeleton += "<x piece=\"" + QByteArray::number(qsizetype(m_result.Pieces.size())) + "\"/>";
-            m_result.Pieces.push_back(m_xml.mid(m_start, end - m_start));
-            m_copied = end;
+            AddPiece(end);
         }
         return end;
     }
 
+    void AddPiece(qsizetype end)
+    {
+        Copy(m_start);
+        m_result.Skeleton.append("<x piece=\"");
+        m_result.Skeleton.append(QByteArray::number(qsizetype(m_result.Pieces.size())));
+        m_result.Skeleton.append("\"/>");
+        m_result.Pieces.push_back(m_xml.sliced(m_start, end - m_start));
+        m_copied = end;
+    }
+
     void Copy(qsizetype end)
     {
-        m_result.Skeleton += m_xml.mid(m_copied, end - m_copied);
+        m_result.Skeleton.append(m_xml.sliced(m_copied, end - m_copied));
         m_copied = end;
     }
 

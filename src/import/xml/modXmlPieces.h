@@ -12,9 +12,15 @@ struct cPieces
 {
     QByteArray Skeleton;                // the document with an empty element, <x piece="n"/>, for each piece
     std::vector<QByteArrayView> Pieces; // the elements with their tags, views into the document
+
+    // Empty when there is no piece of this number: a file may hold elements that look like ours.
+    [[nodiscard]] QByteArrayView At(unsigned int number) const
+    {
+        return number < Pieces.size() ? Pieces[number] : QByteArrayView();
+    }
 };
 
-// Cuts out every element of one of the names; a namespace prefix is not looked at. Elements inside a piece stay there,
+// Cuts out every element of the name; a namespace prefix is not looked at. Elements inside a piece stay there,
 // and what is never closed stays where it is, so that the parser of the skeleton meets the mistake.
 [[nodiscard]] cPieces Cut(QByteArrayView xml, QByteArrayView name);
 

@@ -1,0 +1,117 @@
+#include "import/table/cTableMemory.h"
+
+#include "base/modMD5.h"
+#include "core/cSettings.h"
+
+#include <QStringList>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString mapPrefix = u"MAP:"_s;
+// Numbers themselves are assigned under "KTO:" too; they never begin like this.
+const QString accountPrefix = u"KTO:MAP:"_s;
+const QString bankCodePrefix = u"BLZ:"_s;
+
+// The numbers of a map in the order in which they are stored. New ones go to the end.
+QList<int*> Places(cColumnMap& map)
+{
+    return {&map.Date,        &map.Text,     &map.Purpose[0], &map.Purpose[1], &map.Purpose[2], &map.Name,
+            &map.Account,     &map.BankCode, &map.Name2,      &map.Account2,   &map.BankCode2,  &map.Amount,
+            &map.Credit,      &map.Debit,    &map.Currency,   &map.Indicator,  &map.Payer,      &map.OwnAccount,
+            &map.OwnBankCode, &map.Status,   &map.Balance};
+}
+
+// The value when it is one of an enumeration with `count` values, else the first one.
+template <typename eValue>
+eValue Checked(int value, int count)
+{
+    return static_cast<eValue>(value >= 0 && value < count ? value : 0);
+}
+
+} // namespace
+
+QString cTableMemory::KeyOf(const QStringList& header)
+{
+    return modMD5::Hex(header.join(u';'));
+}
+
+bool cTableMemory::HasMap(const QString& key) const
+{
+    return !key.isEmpty() && !m_settings.Get(mapPrefix + key).isEmpty();
+}
+
+bool cTableMemory::LoadMap(const QString& key, cTableLayout& layout) const
+{
+    const QStringList values = m_settings.Get(mapPrefix + key).split(u';');
+    cColumnMap map;
+    const QList<int*> places = Places(map);
+    constexpr qsizetype rules = 5; // column count, number, date, sign, details
+    if (key.isEmpty() || values.size() != places.size() + rules || values.at(0).toInt() != layout.Map.Names.size()) {
+        return false;
+    }
+    map.Names = layout.Map.Names;
+    map.ColumnCount = static_cast<int>(map.Names.size());
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        const int column = values.at(rules + i).toInt();
+        *places.at(i) = column < map.ColumnCount ? column : -1;
+    }
+    layout.Map = map;
+    layout.Number = Checked<eNumberFormat>(values.at(1).toInt(), 3);
+    layout.Date = Checked<eDateOrder>(values.at(2).toInt(), 3);
+    layout.Sign = Checked<eSignRule>(values.at(3).toInt(), 2);
+    layout.Details = Checked<eDetails>(values.at(4).toInt(), 3);
+    layout.Origin = eMapOrigin::Memory;
+    return true;
+}
+
+bool cTableMemory::SaveMap(const QString& key, const cTableLayout& layout)
+{
+    if (key.isEmpty()) {
+        return false;
+    }
+    cColumnMap map = layout.Map;
+    QStringList values{QString::number(map.Names.size()), QString::number(static_cast<int>(layout.Number)),
+                       QString::number(static_cast<int>(layout.Date)), QString::number(static_cast<int>(layout.Sign)),
+                       QString::number(static_cast<int>(layout.Details))};
+    for (const int* place : Places(map)) {
+        values.append(QString::number(*place));
+    }
+    return m_settings.Set(mapPrefix + key, values.join(u';'));
+}
+
+QStringList cTableMemory::Accounts(const QString& accountKey) const
+{
+    return accountKey.isEmpty() ? QStringList()
+                                : m_settings.Get(accountPrefix + accountKey).split(u'|', Qt::SkipEmptyParts);
+}
+
+QString cTableMemory::Account(const QString& accountKey) const
+{
+    const QStringList accounts = Accounts(accountKey);
+    return accounts.size() == 1 ? accounts.first() : QString();
+}
+
+bool cTableMemory::SaveAccount(const QString& accountKey, const QString& account)
+{
+    if (accountKey.isEmpty() || account.isEmpty()) {
+        return false;
+    }
+    QStringList accounts = Accounts(accountKey);
+    if (accounts.contains(account)) {
+        return true;
+    }
+    accounts.append(account);
+    return m_settings.Set(accountPrefix + accountKey, accounts.join(u'|'));
+}
+
+QString cTableMemory::BankCode(const QString& accountKey) const
+{
+    return accountKey.isEmpty() ? QString() : m_settings.Get(bankCodePrefix + accountKey);
+}
+
+bool cTableMemory::SaveBankCode(const QString& accountKey, const QString& bankCode)
+{
+    return !accountKey.isEmpty() && m_settings.Set(bankCodePrefix + accountKey, bankCode);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "import/table/cColumnMap.h"
+
+#include <QStringList>
+
+// Columns told by the words of the header alone.
+namespace modColumnWords {
+
+// What the vocabulary makes of the cleaned header fields.
+[[nodiscard]] cColumnMap Detect(const QStringList& header);
+
+} // namespace modColumnWords

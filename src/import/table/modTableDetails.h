@@ -1,0 +1,18 @@
+#pragma once
+
+#include "import/table/cTableLayout.h"
+
+#include <QStringView>
+
+struct cImportEntry;
+
+// Texts of some banks that hold counterparty and purpose in one.
+namespace modTableDetails {
+
+// Takes the purpose of the record apart.
+void Apply(eDetails details, cImportEntry& entry);
+
+// True for "... BG/000002462 BIC IBAN name", the text of Austrian banks.
+[[nodiscard]] bool IsAustrian(QStringView text);
+
+} // namespace modTableDetails

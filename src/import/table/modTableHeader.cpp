@@ -1,0 +1,181 @@
+#include "import/table/modTableHeader.h"
+
+#include "import/table/modColumnWords.h"
+#include "import/table/modTableProfile.h"
+#include "import/table/modTableText.h"
+#include "import/table/modTableValue.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using modTableHeader::cFound;
+using modTableHeader::cProbe;
+
+bool IsEmpty(const cProbe& probe)
+{
+    const auto isBlank = [](const auto& text) {
+        return std::all_of(text.begin(), text.end(),
+                           [](QChar c) { return c.isSpace() || c == u';' || c == u',' || c == u'"'; });
+    };
+    return probe.Cells.isEmpty() ? isBlank(probe.Line) : std::all_of(probe.Cells.begin(), probe.Cells.end(), isBlank);
+}
+
+class cSearch
+{
+public:
+    cSearch(const QList<cProbe>& probes, const cTableChoice& choice, const cTableMemory* memory)
+        : m_probes(probes),
+          m_choice(choice),
+          m_memory(memory)
+    {
+    }
+
+    [[nodiscard]] cFound Run() const
+    {
+        if (m_choice.HeaderLine) {
+            return Chosen(*m_choice.HeaderLine - 1);
+        }
+        int header = FirstHeader([this](int place) { return IsKnown(place); });
+        if (header < 0) {
+            header = FirstHeader([this](int place) { return IsTold(place); });
+        }
+        return header >= 0 ? At(header) : AboveData();
+    }
+
+private:
+    [[nodiscard]] QChar SeparatorOf(int place) const
+    {
+        return m_choice.Separator.value_or(modTableText::SeparatorOf(m_probes.at(place).Line));
+    }
+
+    [[nodiscard]] QStringList Cells(int place) const
+    {
+        return modTableHeader::CellsOf(m_probes.at(place), SeparatorOf(place));
+    }
+
+    [[nodiscard]] cFound At(int header) const { return {header, header + 1, SeparatorOf(header)}; }
+
+    [[nodiscard]] cFound Chosen(int header) const
+    {
+        if (header >= 0 && header < m_probes.size()) {
+            return At(header);
+        }
+        cFound found = AboveData();
+        found.Header = -1;
+        return found;
+    }
+
+    // The first of the lines that the test accepts; -1 when there is none.
+    [[nodiscard]] int FirstHeader(auto isHeader) const
+    {
+        const int end = qMin(static_cast<int>(m_probes.size()), modTableHeader::searchedLines);
+        for (int place = 0; place < end; ++place) {
+            if (!IsEmpty(m_probes.at(place)) && isHeader(place)) {
+                return place;
+            }
+        }
+        return -1;
+    }
+
+    [[nodiscard]] bool IsKnown(int place) const
+    {
+        const QStringList cells = Cells(place);
+        cTableLayout layout;
+        return cells.size() >= 3
+            && ((m_memory != nullptr && m_memory->HasMap(cTableMemory::KeyOf(cells)))
+                || (m_choice.Profile != noProfile && modTableProfile::Apply(cells, layout)));
+    }
+
+    [[nodiscard]] bool IsTold(int place) const
+    {
+        const QStringList cells = Cells(place);
+        if (cells.size() < 3) {
+            return false;
+        }
+        const cColumnMap map = modColumnWords::Detect(cells);
+        const bool hasAmount = map.Amount >= 0 || map.Debit >= 0 || map.Credit >= 0;
+        return map.Date >= 0 && hasAmount && HasDateBelow(place, SeparatorOf(place));
+    }
+
+    [[nodiscard]] bool HasDateBelow(int place, QChar separator) const
+    {
+        for (int next = place + 1; next < m_probes.size(); ++next) {
+            if (!IsEmpty(m_probes.at(next))) {
+                const QStringList cells = modTableHeader::CellsOf(m_probes.at(next), separator);
+                return std::any_of(cells.begin(), cells.end(), modTableValue::IsDate);
+            }
+        }
+        return false;
+    }
+
+    [[nodiscard]] static bool IsData(const QStringList& cells)
+    {
+        return cells.size() >= 3 && std::any_of(cells.begin(), cells.end(), modTableValue::IsDate)
+            && std::any_of(cells.begin(), cells.end(), modTableValue::IsAmount);
+    }
+
+    // The separator with which the line is a row of data; null when there is none.
+    [[nodiscard]] QChar DataSeparator(int place) const
+    {
+        if (m_choice.Separator) {
+            return IsData(modTableHeader::CellsOf(m_probes.at(place), *m_choice.Separator)) ? *m_choice.Separator
+                                                                                            : QChar();
+        }
+        constexpr std::array separators{u';', u'\t', u',', u'|'};
+        const auto* const found = std::find_if(separators.begin(), separators.end(), [&](char16_t separator) {
+            return IsData(modTableHeader::CellsOf(m_probes.at(place), separator));
+        });
+        return found == separators.end() ? QChar() : QChar(*found);
+    }
+
+    [[nodiscard]] cFound AboveData() const
+    {
+        for (int place = 0; place < m_probes.size(); ++place) {
+            const QChar separator = DataSeparator(place);
+            if (!separator.isNull()) {
+                return {HeaderAbove(place, separator), place, separator};
+            }
+        }
+        return {-1, 0, m_probes.isEmpty() ? QChar(u';') : SeparatorOf(0)};
+    }
+
+    // The next line above that is not empty, when it has names without a digit.
+    [[nodiscard]] int HeaderAbove(int place, QChar separator) const
+    {
+        int above = place - 1;
+        while (above >= 0 && IsEmpty(m_probes.at(above))) {
+            --above;
+        }
+        if (above < 0) {
+            return -1;
+        }
+        const QStringList cells = modTableHeader::CellsOf(m_probes.at(above), separator);
+        const bool hasDigit = std::any_of(cells.begin(), cells.end(), [](const QString& cell) {
+            return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.isDigit(); });
+        });
+        return cells.size() >= 3 && !hasDigit ? above : -1;
+    }
+
+    const QList<cProbe>& m_probes;
+    const cTableChoice& m_choice;
+    const cTableMemory* m_memory;
+};
+
+} // namespace
+
+QStringList modTableHeader::CellsOf(const cProbe& probe, QChar separator)
+{
+    if (!probe.Cells.isEmpty()) {
+        return probe.Cells;
+    }
+    const cTable table = modTableText::Split(probe.Line.toString(), separator, 1);
+    return table.RowCount() == 0 ? QStringList() : table.Row(0);
+}
+
+modTableHeader::cFound modTableHeader::Find(const QList<cProbe>& probes, const cTableChoice& choice,
+                                            const cTableMemory* memory)
+{
+    return cSearch(probes, choice, memory).Run();
+}

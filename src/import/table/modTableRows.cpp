@@ -1,0 +1,391 @@
+#include "import/table/modTableRows.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "import/modAccountNumber.h"
+#include "import/modSepaPurpose.h"
+#include "import/table/cTable.h"
+#include "import/table/modCell.h"
+#include "import/table/modTableAbove.h"
+#include "import/table/modTableDetails.h"
+#include "import/table/modTableValue.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate noDate(1001, 1, 1); // what is no date is staged on this day
+
+constexpr std::array pendingWords = {u"vorgemerkt", u"pending",       u"ausstehend",     u"memo",       u"offen",
+                                     u"reserviert", u"nicht gebucht", u"in bearbeitung", u"authorised", u"authorized"};
+constexpr std::array balanceWords = {u"Anfangssaldo",     u"Endsaldo",         u"Schlusssaldo", u"Startsaldo",
+                                     u"Opening balance",  u"Closing balance",  u"Turnover",     u"Kontostand",
+                                     u"Alter Kontostand", u"Neuer Kontostand", u"Saldo",        u"Saldovortrag",
+                                     u"Anfangsbestand",   u"Endbestand"};
+constexpr std::array closingWords = {u"Endsaldo", u"Schlusssaldo", u"Closing balance", u"Neuer Kontostand"};
+constexpr QStringView bookingDayWords = u"Buchungstag|Buchungsdatum|Buchung|Booking date";
+
+bool IsOneOf(QStringView cell, const auto& words)
+{
+    return std::any_of(words.begin(), words.end(), [&](const char16_t* word) {
+        const QStringView known(word);
+        return cell.size() == known.size() && cell.compare(known, Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool HasDigit(QStringView cell)
+{
+    return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+void Collapse(QString& text, QChar c)
+{
+    const QString once(1, c);
+    const QString twice(2, c);
+    while (text.contains(twice)) {
+        text.replace(twice, once);
+    }
+}
+
+// Texts that come back in row after row are kept once.
+class cRepeated
+{
+public:
+    [[nodiscard]] QString Of(QStringView cell)
+    {
+        if (cell != m_text) {
+            m_text = cell.toString();
+        }
+        return m_text;
+    }
+
+private:
+    QString m_text;
+};
+
+class cRowReader
+{
+public:
+    cRowReader(const cTable& table, const cTableLayout& layout, const QString& account)
+        : m_table(table),
+          m_layout(layout),
+          m_map(layout.Map),
+          m_account(account),
+          m_number(layout.Number)
+    {
+        if (m_number == eNumberFormat::Detect) {
+            DetectNumber();
+        }
+        for (int column = 0; column < m_map.Names.size(); ++column) {
+            if (column != m_map.Date && modCell::MatchesList(m_map.Names.at(column), bookingDayWords)) {
+                m_bookingDay = column;
+            }
+        }
+    }
+
+    [[nodiscard]] cStatementRead Run()
+    {
+        m_read.Layout = m_layout.Profile;
+        m_read.AccountKey = m_layout.AccountKey;
+        m_read.Entries.reserve(m_table.RowCount() - qMin(m_layout.FirstRow, m_table.RowCount()));
+        for (m_row = m_layout.FirstRow; m_row < m_table.RowCount(); ++m_row) {
+            ReadRow();
+        }
+        CloseBalance();
+        return std::move(m_read);
+    }
+
+private:
+    [[nodiscard]] QStringView Cell(int column) const { return m_table.Cell(m_row, column); }
+
+    void DetectNumber()
+    {
+        modTableValue::cNumberVote vote;
+        for (int row = m_layout.FirstRow; row < m_table.RowCount(); ++row) {
+            for (const int column : {m_map.Amount, m_map.Debit, m_map.Credit}) {
+                vote.Add(m_table.Cell(row, column));
+            }
+        }
+        m_number = vote.Decide();
+        if (vote.IsDoubtful()) {
+            m_read.Problems.append({0, cText::Tr("Der Punkt in den Beträgen wurde als Tausenderpunkt gelesen.")});
+        }
+    }
+
+    void ReadRow()
+    {
+        if (IsBlank() || IsHeaderAgain()) {
+            return;
+        }
+        if (IsBalanceRow()) {
+            TakeBalanceRow();
+            return;
+        }
+        const QStringView amount = Cell(m_map.Amount);
+        const bool hasSides = !Cell(m_map.Debit).isEmpty() || !Cell(m_map.Credit).isEmpty();
+        if (m_table.CellCount(m_row) <= m_map.Date || (amount.isEmpty() && !hasSides)) {
+            Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat keinen Betrag: {0}", {Start()}));
+            return;
+        }
+        const std::optional<double> value = ValueOf(amount);
+        cImportEntry entry = ToEntry(value.value_or(0.0));
+        if (IsPending()) {
+            Skip(eSkipped::Pending, cText::Tr("Der Umsatz ist noch vorgemerkt: {0}", {Start()}), entry);
+        } else if (!entry.ImportDate.isValid() && !HasDigit(Cell(m_map.Date))) {
+            Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat kein Datum: {0}", {Start()}), entry);
+        } else if (!m_layout.OnlyCurrency.isEmpty() && entry.ImportCurrency != m_layout.OnlyCurrency) {
+            Skip(eSkipped::OtherCurrency,
+                 cText::Tr("Der Umsatz in {0} verändert das Guthaben nicht: {1}", {entry.ImportCurrency, Start()}),
+                 entry);
+        } else {
+            Take(entry, value.has_value());
+        }
+    }
+
+    [[nodiscard]] bool IsBlank() const
+    {
+        for (int column = 0; column < m_table.CellCount(m_row); ++column) {
+            if (!Cell(column).isEmpty()) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    // Some banks repeat the header on every page.
+    [[nodiscard]] bool IsHeaderAgain() const
+    {
+        return !m_map.Names.isEmpty() && !m_map.Names.first().isEmpty() && Cell(0) == m_map.Names.first()
+            && m_table.Row(m_row) == m_map.Names;
+    }
+
+    // The beginning of the row, as the user finds it in the file.
+    [[nodiscard]] QString Start() const { return m_table.Row(m_row).join(u';').left(60); }
+
+    [[nodiscard]] cReadProblem Problem(const QString& text) const { return {m_table.Line(m_row), text}; }
+
+    void Skip(eSkipped kind, const QString& reason, const cImportEntry& entry = {})
+    {
+        m_read.Skipped.append({Problem(reason), kind, entry});
+    }
+
+    [[nodiscard]] QStringView FindCell(const auto& words) const
+    {
+        for (int column = 0; column < m_table.CellCount(m_row); ++column) {
+            const QStringView cell = Cell(column);
+            if (cell.size() >= 5 && cell.size() <= 16 && IsOneOf(cell, words)) {
+                return cell;
+            }
+        }
+        return {};
+    }
+
+    [[nodiscard]] bool IsBalanceRow() const { return !FindCell(balanceWords).isEmpty(); }
+
+    void TakeBalanceRow()
+    {
+        Skip(eSkipped::Balance, cText::Tr("Die Zeile ist ein Saldo und kein Umsatz: {0}", {Start()}));
+        if (!FindCell(closingWords).isEmpty()) {
+            if (const std::optional<double> value = ValueOf(Cell(m_map.Amount))) {
+                m_closing = modAmount::ToCents(*value);
+                m_closingDate = modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date);
+            }
+        }
+    }
+
+    // Empty when the cell is no number.
+    [[nodiscard]] std::optional<double> ValueOf(QStringView amount) const
+    {
+        if (amount.isEmpty()) {
+            return Signed(SidesValue());
+        }
+        std::optional<double> value = modTableValue::ReadAmount(amount, m_number);
+        if (value && m_map.Indicator >= 0) {
+            const int sign = modTableValue::IndicatorSign(Cell(m_map.Indicator));
+            value = sign == 0 ? *value : std::abs(*value) * sign;
+        }
+        return value ? std::optional<double>(Signed(*value)) : value;
+    }
+
+    [[nodiscard]] double Signed(double value) const { return m_layout.Sign == eSignRule::Negated ? -value : value; }
+
+    [[nodiscard]] double SidesValue() const
+    {
+        const auto size = [&](int column) {
+            return std::abs(modTableValue::ReadAmount(Cell(column), m_number).value_or(0.0));
+        };
+        const double debit = size(m_map.Debit);
+        return debit != 0.0 ? -debit : size(m_map.Credit);
+    }
+
+    [[nodiscard]] cImportEntry ToEntry(double value)
+    {
+        cImportEntry entry;
+        entry.ImportAccount = OwnAccount();
+        entry.ImportDate = modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date);
+        entry.ImportType = m_type.Of(Cell(m_map.Text));
+        entry.ImportPurpose = Purpose();
+        entry.ImportBeneficiary = Cell(m_map.Payer >= 0 && value > 0 ? m_map.Payer : m_map.Name).toString();
+        entry.ImportBeneficiaryAccount = CounterAccount();
+        entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
+        entry.ImportValue = value;
+        entry.ImportCurrency = m_map.Currency >= 0 ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
+        modTableDetails::Apply(m_layout.Details, entry);
+        return entry;
+    }
+
+    [[nodiscard]] QString OwnAccount()
+    {
+        const QStringView cell = Cell(m_map.OwnAccount);
+        if (cell.isEmpty()) {
+            return m_account;
+        }
+        if (cell != m_ownCell) {
+            m_ownCell = cell.toString();
+            m_ownAccount = modTableAbove::OwnNumber(cell);
+        }
+        return m_ownAccount;
+    }
+
+    [[nodiscard]] QString CounterAccount() const
+    {
+        const QStringView cell = Cell(m_map.Account);
+        return cell.contains(u' ') && modTableValue::IsIban(cell) ? modAccountNumber::Compact(cell.toString())
+                                                                  : cell.toString();
+    }
+
+    [[nodiscard]] QString Purpose() const
+    {
+        QString joined = Cell(m_map.Purpose[0]).toString();
+        for (const int column : {m_map.Purpose[1], m_map.Purpose[2]}) {
+            if (column >= 0) {
+                joined += u' ' + Cell(column);
+            }
+        }
+        return modTableRows::CleanPurpose(std::move(joined));
+    }
+
+    [[nodiscard]] bool IsPending() const
+    {
+        const auto isPending = [&](int column) {
+            return column >= 0 && (Cell(column).isEmpty() || IsOneOf(Cell(column), pendingWords));
+        };
+        const QStringView status = Cell(m_map.Status);
+        return isPending(m_map.Date) || isPending(m_bookingDay) || (!status.isEmpty() && IsOneOf(status, pendingWords));
+    }
+
+    void Take(cImportEntry& entry, bool isNumber)
+    {
+        if (!isNumber) {
+            m_read.Problems.append(Problem(cText::Tr("Der Betrag ist keine Zahl: {0}", {Start()})));
+        }
+        if (!entry.ImportDate.isValid()) {
+            m_read.Problems.append(
+                Problem(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {Cell(m_map.Date).toString()})));
+            entry.ImportDate = noDate;
+        }
+        if (Cell(m_map.Status).contains(u"vorgemerkt", Qt::CaseInsensitive)) {
+            m_read.Problems.append(Problem(
+                cText::Tr("Die Bank nennt diesen Umsatz noch vorgemerkt. Er wurde übernommen, weil er schon ein "
+                          "Buchungsdatum hat: {0}",
+                          {Start()})));
+        }
+        TakeBalance(entry);
+        m_read.Entries.append(std::move(entry));
+    }
+
+    // The balance column of the rows in the order of the file.
+    void TakeBalance(const cImportEntry& entry)
+    {
+        if (m_map.Balance < 0) {
+            return;
+        }
+        const std::optional<double> balance = modTableValue::ReadAmount(Cell(m_map.Balance), m_number);
+        if (!balance) {
+            return;
+        }
+        const cPoint point{entry.ImportDate, modAmount::ToCents(*balance), modAmount::ToCents(entry.ImportValue)};
+        if (m_pointCount < 2) {
+            m_points.at(static_cast<std::size_t>(m_pointCount)) = point;
+        }
+        m_lastPoint = point;
+        ++m_pointCount;
+    }
+
+    // Banks list the newest row first or last; the balances themselves say which it is, else the days.
+    [[nodiscard]] bool IsNewestFirst() const
+    {
+        const auto& [first, second] = m_points;
+        if (m_pointCount > 1 && first.Balance - second.Balance == first.Value) {
+            return true;
+        }
+        const bool isAscending = m_pointCount > 1 && second.Balance - first.Balance == second.Value;
+        return !isAscending && first.Date >= m_lastPoint.Date;
+    }
+
+    void CloseBalance()
+    {
+        if (!m_closing && m_pointCount > 0) {
+            const cPoint& newest = IsNewestFirst() ? m_points[0] : m_lastPoint;
+            m_closing = newest.Balance;
+            m_closingDate = newest.Date;
+        }
+        if (!m_closing) {
+            return;
+        }
+        m_read.ClosingBalance = m_closing;
+        const bool isOneAccount = std::all_of(m_read.Entries.begin(), m_read.Entries.end(), [&](const auto& entry) {
+            return entry.ImportAccount == m_read.Entries.first().ImportAccount;
+        });
+        if (isOneAccount && !m_read.Entries.isEmpty()) {
+            m_read.Balances.append({m_read.Entries.first().ImportAccount, *m_closing, m_closingDate});
+        }
+    }
+
+    struct cPoint
+    {
+        QDate Date;
+        qint64 Balance = 0;
+        qint64 Value = 0;
+    };
+
+    const cTable& m_table;
+    const cTableLayout& m_layout;
+    const cColumnMap& m_map;
+    QString m_account;
+    eNumberFormat m_number;
+    int m_bookingDay = -1;
+    int m_row = 0;
+    cStatementRead m_read;
+    cRepeated m_type;
+    cRepeated m_currency;
+    QString m_ownCell;
+    QString m_ownAccount;
+    std::optional<qint64> m_closing;
+    QDate m_closingDate;
+    std::array<cPoint, 2> m_points;
+    cPoint m_lastPoint;
+    int m_pointCount = 0;
+};
+
+} // namespace
+
+QString modTableRows::CleanPurpose(QString joined)
+{
+    joined.replace(u';', u' ').replace(u'"', u' ');
+    if (joined.contains(u'<')) {
+        joined.replace(u"<BR>"_s, u"\n"_s);
+        Collapse(joined, u'\n');
+    }
+    Collapse(joined, u' ');
+    return modSepaPurpose::Rewrite(joined);
+}
+
+cStatementRead modTableRows::Read(const cTable& table, const cTableLayout& layout, const QString& account)
+{
+    return cRowReader(table, layout, account).Run();
+}

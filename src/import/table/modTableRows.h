@@ -1,0 +1,18 @@
+#pragma once
+
+#include "import/cStatementRead.h"
+#include "import/table/cTableLayout.h"
+
+class cTable;
+
+// Rows of a table as transactions.
+namespace modTableRows {
+
+// Purpose columns joined by a blank, without ";" and quotes, "<BR>" as a line break, doubled blanks and line breaks
+// once, and SEPA keywords resolved.
+[[nodiscard]] QString CleanPurpose(QString joined);
+
+// All rows from the first one of data on. `account` stands for rows that do not name the owner's account.
+[[nodiscard]] cStatementRead Read(const cTable& table, const cTableLayout& layout, const QString& account);
+
+} // namespace modTableRows

@@ -1,0 +1,132 @@
+#include "import/table/modTableText.h"
+
+namespace {
+
+// A quote that is not closed within so many characters was meant as a letter.
+constexpr qsizetype longestQuoted = 4 * 1024;
+
+class cSplitter
+{
+public:
+    cSplitter(const QString& text, QChar separator, cTable& table)
+        : m_text(text),
+          m_separator(separator),
+          m_table(table)
+    {
+    }
+
+    void Run(int firstLine)
+    {
+        while (m_at < m_text.size()) {
+            m_table.AddRow(m_line + 1);
+            m_isOneLine = m_line < firstLine;
+            ReadRow();
+        }
+    }
+
+private:
+    [[nodiscard]] QChar At(qsizetype place) const { return place < m_text.size() ? m_text[place] : QChar(u'\n'); }
+
+    // True for what ends a field at this place.
+    [[nodiscard]] bool IsEnd(qsizetype place) const
+    {
+        const QChar c = At(place);
+        return c == m_separator || c == u'\n' || c == u'\r';
+    }
+
+    [[nodiscard]] qsizetype PastBlanks(qsizetype place) const
+    {
+        while (At(place) == u' ') {
+            ++place;
+        }
+        return place;
+    }
+
+    void ReadRow()
+    {
+        do {
+            ReadField();
+        } while (m_at < m_text.size() && m_text[m_at++] == m_separator);
+        // The loop has stepped over what ended the last field.
+        if (m_at > 0 && m_at < m_text.size() && m_text[m_at - 1] == u'\r' && m_text[m_at] == u'\n') {
+            ++m_at;
+        }
+        ++m_line;
+    }
+
+    void ReadField()
+    {
+        const qsizetype start = PastBlanks(m_at);
+        if (At(start) == u'"' && start < m_text.size() && ReadQuoted(start + 1)) {
+            return;
+        }
+        qsizetype end = m_at;
+        while (end < m_text.size() && !IsEnd(end)) {
+            ++end;
+        }
+        m_table.AddSlice(m_at, end - m_at);
+        m_at = end;
+    }
+
+    // False, and nothing taken, when the quote is never closed.
+    bool ReadQuoted(qsizetype start)
+    {
+        bool hasDoubled = false;
+        int lineBreaks = 0;
+        const qsizetype limit = qMin(m_text.size(), start + longestQuoted);
+        for (qsizetype place = start; place < limit; ++place) {
+            const QChar c = m_text[place];
+            if (c == u'\n') {
+                if (m_isOneLine) {
+                    return false;
+                }
+                ++lineBreaks;
+            } else if (c == u'"') {
+                if (place + 1 < m_text.size() && m_text[place + 1] == u'"') {
+                    hasDoubled = true;
+                    ++place;
+                } else if (const qsizetype next = PastBlanks(place + 1); IsEnd(next)) {
+                    Take(start, place - start, hasDoubled);
+                    m_line += lineBreaks;
+                    m_at = next;
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    void Take(qsizetype start, qsizetype size, bool hasDoubled)
+    {
+        if (!hasDoubled) {
+            m_table.AddSlice(start, size);
+            return;
+        }
+        const QString field = m_text.mid(start, size).replace(QStringLiteral("\"\""), QStringLiteral("\""));
+        m_table.AddCell(field);
+    }
+
+    const QString& m_text;
+    QChar m_separator;
+    cTable& m_table;
+    qsizetype m_at = 0;
+    int m_line = 0;
+    bool m_isOneLine = false;
+};
+
+} // namespace
+
+QChar modTableText::SeparatorOf(QStringView headerLine)
+{
+    if (headerLine.contains(u';')) {
+        return u';';
+    }
+    return headerLine.contains(u',') ? QChar(u',') : QChar(u'\t');
+}
+
+cTable modTableText::Split(const QString& text, QChar separator, int firstLine)
+{
+    cTable table(text);
+    cSplitter(text, separator, table).Run(firstLine);
+    return table;
+}

@@ -1,0 +1,235 @@
+#include "import/table/modTableValue.h"
+
+#include "base/modAmount.h"
+#include "import/modAccountNumber.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+bool IsDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool IsDateSign(QChar c)
+{
+    return c == u'.' || c == u'/' || c == u'-';
+}
+
+// The text in front of a time such as "15:12:22" or "T15:12".
+QStringView WithoutTime(QStringView cell)
+{
+    const qsizetype colon = cell.indexOf(u':');
+    if (colon < 0) {
+        return cell;
+    }
+    const QStringView before = cell.left(colon);
+    const qsizetype cut = qMax(before.lastIndexOf(u' '), before.lastIndexOf(u'T'));
+    return cut > 0 ? cell.left(cut) : cell;
+}
+
+struct cDigits
+{
+    int Value = 0;
+    int Size = 0;
+};
+
+struct cDateParts
+{
+    std::array<cDigits, 3> Parts;
+    int Count = 0; // 4 for more than three
+};
+
+cDateParts PartsOf(QStringView text)
+{
+    cDateParts parts;
+    bool isInside = false;
+    for (const QChar c : text) {
+        if (IsDigit(c)) {
+            parts.Count += isInside ? 0 : 1;
+            isInside = true;
+            if (parts.Count > 3) {
+                return parts;
+            }
+            cDigits& part = parts.Parts.at(static_cast<std::size_t>(parts.Count - 1));
+            if (++part.Size > 8) {
+                return {};
+            }
+            part.Value = part.Value * 10 + (c.unicode() - u'0');
+        } else if (IsDateSign(c)) {
+            isInside = false;
+        }
+    }
+    return parts;
+}
+
+QDate ToDate(const cDigits& year, const cDigits& month, const cDigits& day)
+{
+    const bool isFit = (year.Size == 4 || year.Size == 2) && month.Size <= 2 && day.Size <= 2;
+    return isFit ? QDate(year.Size == 2 ? 2000 + year.Value : year.Value, month.Value, day.Value) : QDate();
+}
+
+bool IsNumberSign(QChar c)
+{
+    return c == u'.' || c == u',' || c == u'+' || c == u'-';
+}
+
+// Letters of more than a currency code make the cell a text.
+constexpr int longestCode = 4;
+
+// Digits and number signs alone; empty for a text.
+QString NumberOf(QStringView cell)
+{
+    QString number;
+    number.reserve(cell.size());
+    int letters = 0;
+    for (const QChar c : cell) {
+        if (IsDigit(c) || IsNumberSign(c)) {
+            number.append(c);
+        } else if (c == QChar(u'\u2212') || c == QChar(u'\u2013')) {
+            number.append(u'-');
+        } else if (c.isLetter() && ++letters > longestCode) {
+            return {};
+        }
+    }
+    return number;
+}
+
+// The sign that a single letter behind the number gives.
+int LetterSign(QStringView cell)
+{
+    if (cell.size() < 2 || cell[cell.size() - 2].isLetter()) {
+        return 0;
+    }
+    const QChar last = cell.back();
+    return last == u'S' || last == u'H' ? modTableValue::IndicatorSign(cell.right(1)) : 0;
+}
+
+constexpr std::array debitWords = {u"S", u"SOLL", u"D", u"DEBIT", u"DR", u"DBIT", u"AF", u"-"};
+constexpr std::array creditWords = {u"H", u"HABEN", u"K", u"C", u"CREDIT", u"CR", u"CRDT", u"BIJ", u"+"};
+
+bool IsOneOf(QStringView cell, const auto& words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](const char16_t* word) { return cell.compare(QStringView(word), Qt::CaseInsensitive) == 0; });
+}
+
+} // namespace
+
+QDate modTableValue::ReadDate(QStringView cell, eDateOrder order)
+{
+    const cDateParts found = PartsOf(WithoutTime(cell));
+    const auto& [first, second, third] = found.Parts;
+    if (found.Count == 1 && first.Size == 8) {
+        return {first.Value / 10000, first.Value / 100 % 100, first.Value % 100};
+    }
+    if (found.Count != 3) {
+        return {};
+    }
+    if (first.Size == 4 || order == eDateOrder::YearMonthDay) {
+        return ToDate(first, second, third);
+    }
+    return order == eDateOrder::MonthDayYear ? ToDate(third, first, second) : ToDate(third, second, first);
+}
+
+bool modTableValue::IsDate(QStringView cell)
+{
+    const QStringView day = WithoutTime(cell).trimmed();
+    const bool isPlain =
+        day.size() >= 6 && std::all_of(day.begin(), day.end(), [](QChar c) { return IsDigit(c) || IsDateSign(c); });
+    if (!isPlain) {
+        return false;
+    }
+    const QDate date = ReadDate(day);
+    return date.isValid() && date.year() >= 1970 && date.year() < 2100;
+}
+
+QString modTableValue::ToGerman(QStringView cell, eNumberFormat format)
+{
+    QString number = NumberOf(cell);
+    if (format == eNumberFormat::Detect) {
+        cNumberVote vote;
+        vote.Add(cell);
+        format = vote.Decide();
+    }
+    if (format == eNumberFormat::English) {
+        number.remove(u',').replace(u'.', u',');
+    }
+    return number;
+}
+
+std::optional<double> modTableValue::ReadAmount(QStringView cell, eNumberFormat format)
+{
+    const std::optional<double> amount = modAmount::TryReadGerman(ToGerman(cell, format));
+    const int sign = LetterSign(cell);
+    return amount && sign != 0 ? std::abs(*amount) * sign : amount;
+}
+
+bool modTableValue::IsAmount(QStringView cell)
+{
+    if (IsDate(cell)) {
+        return false;
+    }
+    const QString number = ToGerman(cell, eNumberFormat::Detect);
+    const bool hasCurrency =
+        std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.category() == QChar::Symbol_Currency; })
+        || cell.endsWith(u" EUR");
+    return (number.contains(u',') || hasCurrency) && modAmount::TryReadGerman(number).has_value();
+}
+
+int modTableValue::IndicatorSign(QStringView cell)
+{
+    const QStringView word = cell.trimmed();
+    if (word.isEmpty() || word.size() > 6) {
+        return 0;
+    }
+    return IsOneOf(word, debitWords) ? -1 : (IsOneOf(word, creditWords) ? 1 : 0);
+}
+
+bool modTableValue::IsIban(QStringView cell)
+{
+    const QString compact = modAccountNumber::Compact(cell.toString());
+    if (compact.size() < 15 || compact.size() > 34) {
+        return false;
+    }
+    const auto isLetter = [&](qsizetype at) { return compact[at] >= u'A' && compact[at] <= u'Z'; };
+    return isLetter(0) && isLetter(1) && IsDigit(compact[2]) && IsDigit(compact[3])
+        && std::count_if(compact.begin(), compact.end(), IsDigit) >= 10
+        && std::all_of(compact.begin(), compact.end(), [](QChar c) { return IsDigit(c) || (c >= u'A' && c <= u'Z'); });
+}
+
+void modTableValue::cNumberVote::Add(QStringView cell)
+{
+    const qsizetype point = cell.lastIndexOf(u'.');
+    const qsizetype comma = cell.lastIndexOf(u',');
+    const auto digitsBehind = [&](qsizetype place) {
+        qsizetype count = 0;
+        while (place + 1 + count < cell.size() && IsDigit(cell[place + 1 + count])) {
+            ++count;
+        }
+        return count;
+    };
+    if (point >= 0 && comma >= 0) {
+        ++(point > comma ? m_english : m_german);
+    } else if (comma >= 0) {
+        const bool isGrouped = cell.count(u',') > 1;
+        m_english += isGrouped ? 1 : 0;
+        m_german += isGrouped ? 0 : 1;
+    } else if (point >= 0 && cell.count(u'.') > 1) {
+        ++m_german;
+    } else if (point >= 0) {
+        const qsizetype decimals = digitsBehind(point);
+        m_thousands += decimals == 3 ? 1 : 0;
+        m_points += decimals > 0 && decimals != 3 ? 1 : 0; // three could be a group of thousands
+    }
+}
+
+eNumberFormat modTableValue::cNumberVote::Decide() const
+{
+    if (m_english > 0 || m_german > 0) {
+        return m_english > m_german ? eNumberFormat::English : eNumberFormat::German;
+    }
+    return m_points > 0 ? eNumberFormat::English : eNumberFormat::German;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "import/cReadOptions.h"
+#include "import/cStatementRead.h"
+#include "import/cStatementSource.h"
+
+// Account reports, statements and advices of ISO 20022: camt.052, camt.053 and camt.054 in every version, as a file or
+// as several in a zip archive.
+namespace modCamt {
+
+// True for such a file, and for a zip archive of XML files.
+[[nodiscard]] bool IsCamt(const cStatementSource& source);
+
+// The booked transactions of all statements; those that are only announced become skipped rows. The amount has the sign
+// that the bank gives it, also where money comes back.
+[[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
+
+} // namespace modCamt

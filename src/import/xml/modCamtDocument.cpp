@@ -1,0 +1,200 @@
+#include "import/xml/modCamtDocument.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "import/modAccountNumber.h"
+#include "import/modStatementText.h"
+#include "import/xml/cCamtEntry.h"
+#include "import/xml/modXmlNode.h"
+#include "import/xml/modXmlPieces.h"
+
+#include <algorithm>
+#include <array>
+#include <pugixml.hpp>
+
+using namespace Qt::Literals::StringLiterals;
+using modXmlNode::IsText;
+using modXmlNode::Text;
+
+namespace {
+
+constexpr qsizetype headSize = 4000; // characters in which the message must name itself
+
+// The messages, and the statements in them: account reports, statements, advices.
+struct cMessage
+{
+    const char* Message;
+    const char* Statement;
+};
+
+constexpr std::array messages = {
+    cMessage{"BkToCstmrAcctRpt", "Rpt"},
+    cMessage{"BkToCstmrStmt", "Stmt"},
+    cMessage{"BkToCstmrDbtCdtNtfctn", "Ntfctn"},
+};
+
+cStatementRead Refused(const QString& reason)
+{
+    cStatementRead read;
+    read.Refusal = reason;
+    return read;
+}
+
+// The lines of places that come in ascending order.
+class cLines
+{
+public:
+    explicit cLines(QByteArrayView text) : m_text(text) {}
+
+    int LineOf(QByteArrayView part)
+    {
+        const qsizetype at = part.data() - m_text.data();
+        if (at > m_at) {
+            m_line += static_cast<int>(std::count(m_text.begin() + m_at, m_text.begin() + at, '\n'));
+            m_at = at;
+        }
+        return m_line;
+    }
+
+private:
+    QByteArrayView m_text;
+    qsizetype m_at = 0;
+    int m_line = 1;
+};
+
+class cReader
+{
+public:
+    cReader(const QByteArray& xml, const cReadOptions& options)
+        : m_pieces(modXmlPieces::Cut(xml, "Ntry")),
+          m_lines(xml),
+          m_options(options)
+    {
+        m_read.Entries.reserve(qsizetype(m_pieces.Pieces.size()));
+    }
+
+    cStatementRead Run()
+    {
+        pugi::xml_document skeleton;
+        const bool isXml = modXmlNode::Load(skeleton, m_pieces.Skeleton);
+        if (isXml && !TakeMessages(skeleton)) {
+            return Refused(cText::Tr("Die XML-Datei ist kein Kontoauszug (camt.052, camt.053, camt.054)."));
+        }
+        if (!isXml || m_isBroken) {
+            return Refused(cText::Tr("Die XML-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
+        }
+        return std::move(m_read);
+    }
+
+private:
+    // False when there is none.
+    bool TakeMessages(const pugi::xml_document& document)
+    {
+        bool isKnown = false;
+        for (const cMessage& known : messages) {
+            for (const pugi::xml_node& message : document.document_element().children(known.Message)) {
+                isKnown = true;
+                for (const pugi::xml_node& statement : message.children(known.Statement)) {
+                    TakeStatement(statement);
+                }
+            }
+        }
+        return isKnown;
+    }
+
+    void TakeStatement(const pugi::xml_node& statement)
+    {
+        const pugi::xml_node id = statement.child("Acct").child("Id");
+        const QString iban = Text(id.child("IBAN"));
+        const QString number = modAccountNumber::Compact(iban.isEmpty() ? Text(id.child("Othr").child("Id")) : iban);
+        m_account = number.isEmpty() ? m_options.Account : number;
+        m_read.NeedsAccount = m_read.NeedsAccount || m_account.isEmpty();
+        for (const pugi::xml_node& balance : statement.children("Bal")) {
+            TakeBalance(balance);
+        }
+        for (const pugi::xml_node& piece : statement.children("x")) {
+            TakeEntry(m_pieces.At(piece.attribute("piece").as_uint()));
+        }
+    }
+
+    // Only the closing balance of the day; interim and available balances come beside it.
+    void TakeBalance(const pugi::xml_node& balance)
+    {
+        const std::optional<qint64> cents = modAmount::CentsFromText(Text(balance.child("Amt")));
+        if (!cents || !IsText(balance.child("Tp").child("CdOrPrtry").child("Cd"), "CLBD")) {
+            return;
+        }
+        const bool isDebit = IsText(balance.child("CdtDbtInd"), "DBIT");
+        const pugi::xml_node date = balance.child("Dt");
+        const QString day = Text(date.child("Dt"));
+        m_read.ClosingBalance = isDebit ? -*cents : *cents;
+        m_read.Balances.append(
+            {m_account, *m_read.ClosingBalance, modDate::FromIso(day.isEmpty() ? Text(date.child("DtTm")) : day)});
+    }
+
+    void TakeEntry(QByteArrayView piece)
+    {
+        pugi::xml_document document;
+        if (!modXmlNode::Load(document, piece)) {
+            m_isBroken = true;
+            return;
+        }
+        const cCamtEntry entry(m_account, document.first_child());
+        cImportEntryList records = entry.Records();
+        if (!entry.IsBooked()) {
+            SkipPending(records, m_lines.LineOf(piece));
+            return;
+        }
+        CheckEntry(entry, records.first(), piece);
+        m_read.Entries += std::move(records);
+    }
+
+    void SkipPending(const cImportEntryList& records, int line)
+    {
+        for (const cImportEntry& record : records) {
+            m_read.Skipped.append({{line, cText::Tr("Der Umsatz ist nur vorgemerkt.")}, eSkipped::Pending, record});
+        }
+    }
+
+    void CheckEntry(const cCamtEntry& entry, const cImportEntry& record, QByteArrayView piece)
+    {
+        if (record.ImportDate.year() == 1001) {
+            Report(piece, cText::Tr("Der Umsatz hat kein lesbares Buchungsdatum."));
+        }
+        if (!entry.Cents()) {
+            Report(piece, cText::Tr("Der Umsatz hat keinen lesbaren Betrag."));
+        } else if (entry.IsClosedBatch()) {
+            Report(piece,
+                   cText::Tr("Die Sammelbuchung wurde nicht aufgeteilt, weil die Einzelbeträge fehlen oder nicht ihre "
+                             "Summe ergeben."));
+        }
+    }
+
+    void Report(QByteArrayView piece, const QString& text) { m_read.Problems.append({m_lines.LineOf(piece), text}); }
+
+    modXmlPieces::cPieces m_pieces;
+    cLines m_lines;
+    const cReadOptions& m_options;
+    cStatementRead m_read;
+    QString m_account; // of the statement at hand
+    bool m_isBroken = false;
+};
+
+} // namespace
+
+bool modCamtDocument::IsCamt(const QString& text)
+{
+    const QStringView head = QStringView(text).left(headSize);
+    return head.trimmed().startsWith(u'<')
+        && std::any_of(messages.begin(), messages.end(),
+                       [&](const cMessage& message) { return head.contains(QLatin1StringView(message.Message)); });
+}
+
+cStatementRead modCamtDocument::Read(const QByteArray& xml, const cReadOptions& options)
+{
+    if (!xml.isValidUtf8()) {
+        return Read(modStatementText::Decode(xml).toUtf8(), options);
+    }
+    return cReader(xml, options).Run();
+}

@@ -1,0 +1,205 @@
+#include "import/xml/modOfx.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "import/modStatementText.h"
+#include "import/xml/modOfxRepair.h"
+#include "import/xml/modOfxText.h"
+#include "import/xml/modXmlNode.h"
+#include "import/xml/modXmlPieces.h"
+
+#include <array>
+#include <pugixml.hpp>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
+
+// Where the statements of a kind of account stand.
+struct cKind
+{
+    const char* Messages;
+    const char* Response;
+    const char* Statement;
+    const char* Account;
+};
+
+constexpr std::array kinds = {
+    cKind{"BANKMSGSRSV1", "STMTTRNRS", "STMTRS", "BANKACCTFROM"},
+    cKind{"CREDITCARDMSGSRSV1", "CCSTMTTRNRS", "CCSTMTRS", "CCACCTFROM"},
+};
+
+QString TextOf(const pugi::xml_node& node, const char* child)
+{
+    return modXmlNode::Text(node.child(child));
+}
+
+// Year, month and day are the first eight characters; time and zone behind them do not count.
+QDate DateOf(QStringView text)
+{
+    const QDate date(text.left(4).toInt(), text.mid(4, 2).toInt(), text.mid(6, 2).toInt());
+    return date.isValid() ? date : noDate;
+}
+
+class cReader
+{
+public:
+    cReader(modXmlPieces::cPieces pieces, const cReadOptions& options) : m_pieces(std::move(pieces)), m_options(options)
+    {
+        m_read.Entries.reserve(qsizetype(m_pieces.Pieces.size()));
+    }
+
+    cStatementRead Run()
+    {
+        pugi::xml_document skeleton;
+        if (!modXmlNode::Load(skeleton, m_pieces.Skeleton)) {
+            return Broken();
+        }
+        for (const cKind& kind : kinds) {
+            for (const pugi::xml_node& messages : skeleton.child("OFX").children(kind.Messages)) {
+                for (const pugi::xml_node& response : messages.children(kind.Response)) {
+                    for (const pugi::xml_node& statement : response.children(kind.Statement)) {
+                        TakeStatement(statement, kind);
+                    }
+                }
+            }
+        }
+        if (!m_hasStatements) {
+            return Refused(cText::Tr("Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte."));
+        }
+        return m_isBroken ? Broken() : std::move(m_read);
+    }
+
+private:
+    static cStatementRead Refused(const QString& reason)
+    {
+        cStatementRead refused;
+        refused.Refusal = reason;
+        return refused;
+    }
+
+    static cStatementRead Broken()
+    {
+        return Refused(cText::Tr("Die OFX-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
+    }
+
+    void TakeStatement(const pugi::xml_node& statement, const cKind& kind)
+    {
+        m_hasStatements = true;
+        const QString named = TextOf(statement.child(kind.Account), "ACCTID");
+        m_account = named.isEmpty() ? m_options.Account : named;
+        m_currency = TextOf(statement, "CURDEF");
+        m_read.NeedsAccount = m_read.NeedsAccount || m_account.isEmpty();
+        for (const pugi::xml_node& list : statement.children("BANKTRANLIST")) {
+            for (const pugi::xml_node& piece : list.children("x")) {
+                TakeTransaction(m_pieces.At(piece.attribute("piece").as_uint()));
+            }
+        }
+        TakeBalance(statement.child("LEDGERBAL"));
+    }
+
+    void TakeTransaction(QByteArrayView piece)
+    {
+        pugi::xml_document document;
+        if (!modXmlNode::Load(document, piece)) {
+            m_isBroken = true;
+            return;
+        }
+        const pugi::xml_node node = document.first_child();
+        cImportEntry entry;
+        entry.ImportAccount = m_account;
+        entry.ImportDate = DateOf(TextOf(node, "DTPOSTED"));
+        entry.ImportPurpose = PurposeOf(node);
+        entry.ImportCurrency = m_currency;
+        entry.ImportValue = ReadValue(TextOf(node, "TRNAMT"));
+        if (entry.ImportDate == noDate) {
+            Report(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {TextOf(node, "DTPOSTED").left(40)}));
+        }
+        m_read.Entries.append(entry);
+    }
+
+    QString PurposeOf(const pugi::xml_node& node) const
+    {
+        const QString memo = modStatementText::DecodeField(TextOf(node, "MEMO"));
+        const bool takesName = memo.isEmpty() && m_options.MissingPurpose == eMissingPurpose::Name;
+        return takesName ? modStatementText::DecodeField(TextOf(node, "NAME")) : memo;
+    }
+
+    double ReadValue(const QString& amount)
+    {
+        const std::optional<double> value = modAmount::TryReadGerman(modOfxText::ToGermanAmount(amount));
+        if (!value) {
+            Report(cText::Tr("Der Betrag ist keine Zahl: {0}", {amount.left(40)}));
+        }
+        return value.value_or(0.0);
+    }
+
+    void TakeBalance(const pugi::xml_node& ledger)
+    {
+        const std::optional<double> euros =
+            modAmount::TryReadGerman(modOfxText::ToGermanAmount(TextOf(ledger, "BALAMT")));
+        if (!euros) {
+            return;
+        }
+        const QDate date = DateOf(TextOf(ledger, "DTASOF"));
+        m_read.ClosingBalance = modAmount::ToCents(*euros);
+        m_read.Balances.append({m_account, *m_read.ClosingBalance, date == noDate ? QDate() : date});
+    }
+
+    void Report(const QString& text) { m_read.Problems.append({0, text}); }
+
+    modXmlPieces::cPieces m_pieces;
+    const cReadOptions& m_options;
+    cStatementRead m_read;
+    QString m_account; // of the statement at hand
+    QString m_currency;
+    bool m_hasStatements = false;
+    bool m_isBroken = false;
+};
+
+// OFX 1 names its character set in the header. Only the old DOS sets differ from what the text was decoded with.
+bool IsDosText(const QByteArray& bytes)
+{
+    const QByteArray header = bytes.left(1000);
+    return header.contains("CHARSET:850") || header.contains("CHARSET:437");
+}
+
+// The text of the file in UTF-8.
+QByteArray Utf8(const cStatementSource& source, const cReadOptions& options)
+{
+    const bool isLeftToUs = options.Table.Charset == eCharset::Detect;
+    const bool hasBytes = isLeftToUs && !source.Bytes.isEmpty();
+    if (hasBytes && source.Bytes.isValidUtf8()) {
+        return source.Bytes;
+    }
+    const bool isDos = hasBytes && IsDosText(source.Bytes);
+    return (isDos ? modStatementText::Decode(source.Bytes, eCharset::Cp850) : source.Text).toUtf8();
+}
+
+} // namespace
+
+bool modOfx::IsOfx(const QString& text)
+{
+    const bool isMarked = text.contains(u"<OFX>") || text.contains(u"OFXHEADER");
+    if (isMarked && text.contains(u"<BANKTRANLIST>") && text.contains(u"</OFX>")) {
+        return true;
+    }
+    // Statements without transactions, of a securities account, or cut off: still better refused or read as what they
+    // are than taken for a table.
+    const QString start = text.left(2000);
+    return start.contains(u"OFXHEADER") && start.contains(u"<OFX>", Qt::CaseInsensitive);
+}
+
+cStatementRead modOfx::Read(const cStatementSource& source, const cReadOptions& options)
+{
+    QByteArray text = modOfxRepair::Repair(Utf8(source, options));
+    text = modOfxText::ToXml(text); // the repaired text is large and not needed any more
+    return ReadXml(text, options);
+}
+
+cStatementRead modOfx::ReadXml(const QByteArray& xml, const cReadOptions& options)
+{
+    return cReader(modXmlPieces::Cut(xml, "STMTTRN"), options).Run();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "import/cReadOptions.h"
+#include "import/cStatementRead.h"
+#include "import/cStatementSource.h"
+
+#include <QByteArray>
+
+// Open Financial Exchange: statements of bank accounts and credit cards.
+namespace modOfx {
+
+// True for a text that is such a file, whatever it holds.
+[[nodiscard]] bool IsOfx(const QString& text);
+
+// The transactions of all statements of the file. A file without statements gives an empty list.
+[[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
+
+// The same from the XML that a text was turned into (UTF-8). A refusal when it is no XML.
+[[nodiscard]] cStatementRead ReadXml(const QByteArray& xml, const cReadOptions& options);
+
+} // namespace modOfx

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArray>
+
+// OFX texts as banks really write them.
+namespace modOfxRepair {
+
+// Brings a text that banks took liberties with into the form that modOfxText::ToXml expects: comments and processing
+// instructions go, every tag stands on a line of its own, "&" and "<" in values are escaped, values and empty elements
+// get their end tags, tags that close nothing go.
+[[nodiscard]] QByteArray Repair(const QByteArray& text);
+
+} // namespace modOfxRepair

@@ -1,0 +1,40 @@
+#include "import/xml/modXmlNode.h"
+
+#include <cstring>
+
+namespace {
+
+class cPrefixRemover : public pugi::xml_tree_walker
+{
+public:
+    bool for_each(pugi::xml_node& node) override // name given by the library
+    {
+        const char* const colon = std::strchr(node.name(), ':');
+        if (colon != nullptr) {
+            node.set_name(QByteArray(colon + 1).constData());
+        }
+        return true;
+    }
+};
+
+} // namespace
+
+bool modXmlNode::Load(pugi::xml_document& document, QByteArrayView xml)
+{
+    constexpr unsigned int flags = pugi::parse_minimal | pugi::parse_escapes | pugi::parse_cdata | pugi::parse_eol
+        | pugi::parse_embed_pcdata | pugi::parse_wconv_attribute;
+    const pugi::xml_parse_result result =
+        document.load_buffer(xml.data(), static_cast<std::size_t>(xml.size()), flags, pugi::encoding_utf8);
+    cPrefixRemover remover;
+    return result && document.traverse(remover);
+}
+
+QString modXmlNode::Text(const pugi::xml_node& node)
+{
+    return QString::fromUtf8(node.child_value()).replace(u'\n', u' ').trimmed();
+}
+
+bool modXmlNode::IsText(const pugi::xml_node& node, const char* text)
+{
+    return QByteArrayView(node.child_value()).trimmed() == QByteArrayView(text);
+}

@@ -1,0 +1,127 @@
+#include "cCliRun.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Two purchases and a rent, which was raised.
+constexpr const char* statement =
+    ":20:STARTUMS\r\n:25:99900010/4711000815\r\n:60F:C260201EUR900,00\r\n"
+    ":61:260203D23,10N024NONREF\r\n:86:106?00KARTENZAHLUNG?20SVWZ+Danke?32REWE Markt\r\n"
+    ":61:260204D660,00N024NONREF\r\n:86:106?00DAUERAUFTRAG?20SVWZ+Miete Februar?32Tann\r\n"
+    ":61:260205D4,20N024NONREF\r\n:86:106?00KARTENZAHLUNG?20SVWZ+Brezen?32Korn\r\n"
+    ":62F:C260205EUR212,70\r\n-\r\n";
+
+} // namespace
+
+// Matching from the command line, end to end: the program itself on a new book each time.
+class testCliMatch final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QFile file(m_folder->filePath(u"giro.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(statement);
+        file.close();
+        m_rent = Add(u"Ausgabe|--date|2026-01-01|--amount|650|--category|Wohnung; Miete|--interval|Monatlich|"
+                     "--text|Miete Tann"_s);
+        m_food = Add(u"Ausgabe|--date|2026-02-02|--amount|23,10|--category|Haushalt; Lebensmittel|--text|REWE"_s);
+        Do(u"import|"_s + file.fileName() + u"|--book-account|Girokonto"_s);
+        m_rows = Do(u"staged|--json"_s).Column(u"ID"_s);
+        QCOMPARE(m_rows.size(), 3);
+    }
+
+    void Match()
+    {
+        const cCliRun tried = Do(u"match|--dry-run|--json"_s);
+        QCOMPARE(Assigned(), QStringList({u"-1"_s, u"-1"_s, u"-1"_s}));
+        const cCliRun done = Do(u"match|--json"_s);
+        QCOMPARE(done.Out, tried.Out);
+        QCOMPARE(done.Column(u"State"_s), QStringList({u"assigned"_s, u"assigned"_s, u"left"_s}));
+        QCOMPARE(Assigned(), QStringList({m_food, m_rent, u"-1"_s}));
+        QVERIFY(Do(u"correct|--json|--list|"_s + m_rent).Json().isEmpty());
+        QVERIFY(Do(u"match"_s).Out.contains(u"0 Umsätze zugeordnet, 0 vorgeschlagen, 1 bleiben offen"_s));
+    }
+
+    void MatchCorrects()
+    {
+        Do(u"match|--correct"_s);
+        QCOMPARE(Do(u"correct|--json|--list|"_s + m_rent).Column(u"EntryValue"_s), QStringList(u"660"_s));
+    }
+
+    void AssignAndRelease()
+    {
+        QCOMPARE(Do(u"match|--json|--candidates|"_s + m_rows.at(0)).Column(u"EntryID"_s), QStringList(m_food));
+        Do(u"assign|"_s + m_rows.at(2) + u'|' + m_food);
+        Do(u"assign|--correct|"_s + m_rows.at(1) + u'|' + m_rent + u"|1.2.2026"_s);
+        QCOMPARE(Assigned(), QStringList({u"-1"_s, m_rent, m_food}));
+        QCOMPARE(Do(u"correct|--json|--list|"_s + m_rent).Column(u"EntryStartDate"_s), QStringList(u"2026-02-01"_s));
+        Do(u"release|"_s + m_rows.at(1) + u'|' + m_rows.at(2));
+        QCOMPARE(Assigned(), QStringList({u"-1"_s, u"-1"_s, u"-1"_s}));
+    }
+
+    void Refused_data() const
+    {
+        QTest::addColumn<QString>("line"); // {0} the first row, {r} the rent, {f} the purchase
+        QTest::addColumn<int>("code");
+        QTest::newRow("no such row") << u"assign|999|{f}"_s << 1;
+        QTest::newRow("no such entry") << u"assign|{0}|999"_s << 1;
+        QTest::newRow("no number") << u"assign|eins|{f}"_s << 2;
+        QTest::newRow("another occurrence") << u"assign|{0}|{r}|1.3.2026"_s << 1;
+        QTest::newRow("a day of what is no series") << u"assign|{0}|{f}|1.2.2026"_s << 1;
+        QTest::newRow("not assigned") << u"release|{0}"_s << 1;
+        QTest::newRow("candidates of nothing") << u"match|--candidates|999"_s << 1;
+    }
+
+    void Refused()
+    {
+        QFETCH(QString, line);
+        QFETCH(const int, code);
+        line.replace(u"{0}"_s, m_rows.at(0)).replace(u"{r}"_s, m_rent).replace(u"{f}"_s, m_food);
+        const cCliRun run = Run(line);
+        QVERIFY2(run.Code == code && !run.Error.isEmpty(), qPrintable(run.Text()));
+        QCOMPARE(Assigned(), QStringList({u"-1"_s, u"-1"_s, u"-1"_s}));
+    }
+
+private:
+    [[nodiscard]] cCliRun Run(const QString& line) const
+    {
+        return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
+                              QStringList{u"--profile"_s, m_folder->path()} + line.split(u'|'));
+    }
+
+    // Runs what has to succeed.
+    cCliRun Do(const QString& line) const
+    {
+        const cCliRun run = Run(line);
+        if (run.Code != 0) {
+            qFatal("%s: %s", qPrintable(line), qPrintable(run.Text()));
+        }
+        return run;
+    }
+
+    [[nodiscard]] QString Add(const QString& line) const
+    {
+        return Do(u"add|--json|--account|Girokonto|--kind|"_s + line).Column(u"ID"_s).value(0);
+    }
+
+    [[nodiscard]] QStringList Assigned() const { return Do(u"staged|--json"_s).Column(u"ImportAssignedEntry"_s); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QStringList m_rows;
+    QString m_rent;
+    QString m_food;
+};
+
+QTEST_GUILESS_MAIN(testCliMatch)
+#include "testCliMatch.moc"

@@ -1,0 +1,282 @@
+#include "import/modMT940.h"
+#include "import/modStatementFormat.h"
+#include "import/xml/modCamt.h"
+#include "import/xml/modCamtText.h"
+#include "import/xml/modXmlPieces.h"
+#include "import/xml/modZip.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QByteArray Fixture(const QString& name)
+{
+    QFile file(QStringLiteral(TEST_DATA "/camt/") + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+cStatementRead ReadBytes(const QByteArray& bytes, const QString& account = {})
+{
+    cReadOptions options;
+    options.Account = account;
+    return modCamt::Read(modStatementFormat::Source(u"a.xml"_s, bytes), options);
+}
+
+// A camt.052 report, in the old form of the elements, around the given entries.
+QByteArray With(const QByteArray& entries)
+{
+    return "<Document><BkToCstmrAcctRpt><Rpt><Acct><Id><Othr><Id>7</Id></Othr></Id></Acct>" + entries
+        + "</Rpt></BkToCstmrAcctRpt></Document>";
+}
+
+QByteArray Entry(const QByteArray& amount, const QByteArray& mark, const QByteArray& rest)
+{
+    return "<Ntry><Amt Ccy=\"EUR\">" + amount + "</Amt><CdtDbtInd>" + mark
+        + "</CdtDbtInd><Sts>BOOK</Sts><BookgDt><Dt>2026-01-02</Dt></BookgDt>" + rest + "</Ntry>";
+}
+
+QByteArray Detail(const QByteArray& inner)
+{
+    return "<TxDtls>" + inner + "</TxDtls>";
+}
+
+const QByteArray bothSides =
+    "<RltdPties><Dbtr><Nm>Zahler</Nm></Dbtr><DbtrAcct><Id><IBAN>DE1</IBAN></Id></DbtrAcct>"
+    "<Cdtr><Nm>Empf\xC3\xA4nger</Nm></Cdtr><CdtrAcct><Id><IBAN>DE2</IBAN></Id></CdtrAcct></RltdPties>"
+    "<RltdAgts><DbtrAgt><FinInstnId><BIC>ZAHLDEFF</BIC></FinInstnId></DbtrAgt>"
+    "<CdtrAgt><FinInstnId><ClrSysMmbId><MmbId>20030040</MmbId></ClrSysMmbId></FinInstnId></CdtrAgt></RltdAgts>";
+
+} // namespace
+
+class testCamt : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The same month as the bank hands it out in both formats: whoever reads both gets no booking twice.
+    void equalsMt940()
+    {
+        const cStatementRead camt = ReadBytes(Fixture(u"giro.xml"_s));
+        const cStatementRead swift = modMT940::Read(QString::fromUtf8(Fixture(u"giro.sta"_s)), {});
+        QCOMPARE(camt.Entries, swift.Entries);
+        QCOMPARE(camt.Entries.size(), 3);
+        QCOMPARE(camt.ClosingBalance, std::optional<qint64>(-1234));
+        QCOMPARE(camt.Balances.value(0), (cAccountBalance{u"DE02100200300001234567"_s, -1234, QDate(2026, 1, 31)}));
+        QVERIFY(camt.Problems.isEmpty());
+    }
+
+    // In the character set that the bytes have, whatever the first line says; or already decoded by somebody else.
+    void readsAnyCharacterSet()
+    {
+        const QString text = QString::fromUtf8(Fixture(u"giro.xml"_s));
+        const cImportEntryList entries = ReadBytes(Fixture(u"giro.xml"_s)).Entries;
+        QCOMPARE(ReadBytes(text.toLatin1()).Entries, entries);
+        QCOMPARE(ReadBytes("\xEF\xBB\xBF" + text.toUtf8()).Entries, entries);
+        QCOMPARE(modCamt::Read({u"a.xml"_s, {}, text}, {}).Entries, entries);
+    }
+
+    void leavesPendingOut()
+    {
+        const cStatementRead read = ReadBytes(Fixture(u"giro.xml"_s));
+        QCOMPARE(read.Skipped.size(), 1);
+        QCOMPARE(read.Skipped.first().Kind, eSkipped::Pending);
+        QCOMPARE(read.Skipped.first().Entry.ImportPurpose, u"Kiosk"_s);
+        QCOMPARE(read.Skipped.first().Reason.Line, 46);
+    }
+
+    void prefixesDoNotCount()
+    {
+        QByteArray prefixed = Fixture(u"giro.xml"_s);
+        prefixed.replace("</", "</n:").replace("<", "<n:").replace("<n:/n:", "</n:").replace("<n:?", "<?");
+        prefixed.replace("xmlns=", "xmlns:n=");
+        QVERIFY(prefixed.contains("<n:Ntry>"));
+        QCOMPARE(ReadBytes(prefixed).Entries, ReadBytes(Fixture(u"giro.xml"_s)).Entries);
+    }
+
+    void takesCounterpartyBySide_data()
+    {
+        QTest::addColumn<QByteArray>("amount");
+        QTest::addColumn<QByteArray>("mark");
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("bank");
+        QTest::addColumn<double>("value");
+        const QString creditor = u"Empfänger DE2"_s;
+        const QString debtor = u"Zahler DE1"_s;
+        QTest::newRow("out") << QByteArray("5.00") << QByteArray("DBIT") << QByteArray() << creditor << u"20030040"_s
+                             << -5.0;
+        QTest::newRow("in") << QByteArray("5.00") << QByteArray("CRDT") << QByteArray() << debtor << u"ZAHLDEFF"_s
+                            << 5.0;
+        QTest::newRow("money comes back") << QByteArray("5.00") << QByteArray("CRDT")
+                                          << QByteArray("<RvslInd>true</RvslInd>") << creditor << u"20030040"_s << 5.0;
+        QTest::newRow("five decimals") << QByteArray("8.85000") << QByteArray("CRDT") << QByteArray() << debtor
+                                       << u"ZAHLDEFF"_s << 8.85;
+    }
+
+    void takesCounterpartyBySide()
+    {
+        QFETCH(QByteArray, amount);
+        QFETCH(QByteArray, mark);
+        QFETCH(QByteArray, before);
+        const QByteArray entry = Entry(amount, mark, before + "<NtryDtls>" + Detail(bothSides) + "</NtryDtls>");
+        const cImportEntry read = ReadBytes(With(entry)).Entries.value(0);
+        QTEST(QString(read.ImportBeneficiary + u' ' + read.ImportBeneficiaryAccount), "name");
+        QTEST(read.ImportBeneficiaryBLZ, "bank");
+        QTEST(read.ImportValue, "value");
+        QCOMPARE(read.ImportAccount, u"7"_s);
+    }
+
+    void neverTakesOwnAccountAsCounterparty()
+    {
+        const QByteArray entry = Entry("5.00", "CRDT", "<NtryDtls>" + Detail(bothSides) + "</NtryDtls>");
+        const cStatementRead read = ReadBytes(With(entry).replace("<Id>7</Id>", "<Id>DE1</Id>"));
+        QCOMPARE(read.Entries.value(0).ImportBeneficiaryAccount, u"DE2"_s);
+    }
+
+    void splitsBatch_data()
+    {
+        QTest::addColumn<QByteArray>("details");
+        QTest::addColumn<QList<double>>("values");
+        QTest::addColumn<int>("problems");
+        const QByteArray three = R"(<Amt Ccy="EUR">3.00</Amt>)";
+        const QByteArray two = R"(<AmtDtls><TxAmt><Amt Ccy="EUR">2.00</Amt></TxAmt></AmtDtls>)";
+        const QByteArray back = R"(<Amt Ccy="EUR">1.00</Amt><CdtDbtInd>CRDT</CdtDbtInd>)";
+        QTest::newRow("sum agrees") << QByteArray(Detail(three) + Detail(two)) << QList<double>{-3, -2} << 0;
+        QTest::newRow("sum of both signs")
+            << QByteArray(Detail(three) + Detail(three) + Detail(back)) << QList<double>{-3, -3, 1} << 0;
+        QTest::newRow("sum differs") << QByteArray(Detail(three) + Detail(three)) << QList<double>{-5} << 1;
+        QTest::newRow("an amount is missing") << QByteArray(Detail(three) + Detail({})) << QList<double>{-5} << 1;
+        QTest::newRow("another currency")
+            << QByteArray(Detail(three) + Detail(two)).replace("EUR", "USD") << QList<double>{-5} << 1;
+        QTest::newRow("single detail says otherwise") << Detail(three) << QList<double>{-5} << 0;
+    }
+
+    void splitsBatch()
+    {
+        QFETCH(QByteArray, details);
+        QFETCH(int, problems);
+        const cStatementRead read = ReadBytes(With(Entry("5.00", "DBIT", "<NtryDtls>" + details + "</NtryDtls>")));
+        QList<double> values;
+        for (const cImportEntry& entry : read.Entries) {
+            values.append(entry.ImportValue);
+        }
+        QTEST(values, "values");
+        QCOMPARE(read.Problems.size(), problems);
+    }
+
+    void writesPurposeAsMt940_data()
+    {
+        QTest::addColumn<QStringList>("lines");
+        QTest::addColumn<QString>("endToEnd");
+        QTest::addColumn<QString>("purpose");
+        QTest::newRow("references are left out") << QStringList{u"Miete"_s} << u"E1"_s << u"Miete"_s;
+        QTest::newRow("references only when there is nothing else") << QStringList() << u"E1"_s << u"EREF+E1"_s;
+        QTest::newRow("lines that are subfields already")
+            << QStringList{u"EREF+E1"_s, u"SVWZ+Rechnung vom 12.03.202"_s, u"6"_s} << u"E1"_s
+            << u"Rechnung vom 12.03.202 6"_s;
+        QTest::newRow("keywords inside of the text") << QStringList{u"EREF+E1 SVWZ+Miete fuer den Monat Januar 2026"_s}
+                                                     << u"E1"_s << u"Miete fuer den Monat Januar 2026"_s;
+        QTest::newRow("ten subfields") << QStringList{QString(400, u'x')} << QString()
+                                       << QStringList(10, QString(27, u'x')).join(u' ');
+        QTest::newRow("nothing") << QStringList() << QString() << QString();
+    }
+
+    void writesPurposeAsMt940()
+    {
+        QFETCH(QStringList, lines);
+        QFETCH(QString, endToEnd);
+        modCamtText::cPurpose purpose;
+        purpose.Lines = lines;
+        purpose.EndToEnd = endToEnd;
+        QTEST(modCamtText::Purpose(purpose), "purpose");
+    }
+
+    void readsArchive()
+    {
+        const QByteArray zip = Fixture(u"auszuege.zip"_s);
+        QCOMPARE(modStatementFormat::Detect(modStatementFormat::Source(u"a.zip"_s, zip)), eStatementFormat::Camt);
+        const cStatementRead read = ReadBytes(zip);
+        QCOMPARE(read.Refusal, QString());
+        QCOMPARE(read.Entries, ReadBytes(Fixture(u"giro.xml"_s)).Entries);
+        QCOMPARE(read.ClosingBalance, std::optional<qint64>(-2000)); // of the later file, which stands first
+    }
+
+    void limitsUnpackedSize()
+    {
+        const QByteArray zip = Fixture(u"auszuege.zip"_s);
+        const QString name = modZip::Names(zip).value(1);
+        const qsizetype size = Fixture(u"giro.xml"_s).size();
+        QCOMPARE(name, u"2026-01/januar.xml"_s);
+        QVERIFY(modZip::Read(zip, name, size));
+        QVERIFY(!modZip::Read(zip, name, size - 1));
+        QVERIFY(!modZip::Read(zip, u"februar"_s));
+    }
+
+    void refusesDamagedArchives()
+    {
+        const QByteArray zip = Fixture(u"auszuege.zip"_s);
+        for (qsizetype size = 0; size < zip.size() - 8; ++size) { // the last bytes carry nothing that is needed
+            QVERIFY(modZip::Names(zip.left(size)).isEmpty());
+        }
+        int refused = 0;
+        for (qsizetype i = 60; i < 500; ++i) {
+            QByteArray damaged = zip;
+            damaged[i] = static_cast<char>(damaged[i] ^ 0x55);
+            const cStatementRead read = ReadBytes(damaged);
+            QVERIFY(read.Refusal.isEmpty() || read.Entries.isEmpty());
+            refused += read.Refusal.isEmpty() ? 0 : 1;
+        }
+        QVERIFY(refused > 400);
+    }
+
+    void refusesWhatIsNoStatement_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::newRow("another message") << QByteArray("<Document><CstmrCdtTrfInitn/></Document>");
+        QTest::newRow("no XML") << QByteArray("BkToCstmrStmt");
+        QTest::newRow("entry in pieces") << With("<Ntry><Amt></Ntry>");
+        QTest::newRow("entry without end") << With("<Ntry><Amt>1</Amt>");
+    }
+
+    void refusesWhatIsNoStatement()
+    {
+        QFETCH(QByteArray, xml);
+        const cStatementRead read = ReadBytes(xml);
+        QVERIFY(!read.Refusal.isEmpty());
+        QVERIFY(read.Entries.isEmpty() && !read.ClosingBalance);
+    }
+
+    void everyPrefixIsRefused()
+    {
+        const QByteArray xml = Fixture(u"giro.xml"_s).trimmed();
+        for (qsizetype size = 1; size < xml.size(); ++size) {
+            const cStatementRead read = ReadBytes(xml.left(size));
+            QVERIFY2(!read.Refusal.isEmpty() && read.Entries.isEmpty(), xml.left(size).right(20).constData());
+        }
+    }
+
+    // Entities that point to files or grow without end stay the letters that they are.
+    void resolvesNoEntities()
+    {
+        const QByteArray entry =
+            Entry("5.00", "DBIT", "<NtryDtls>" + Detail("<RmtInf><Ustrd>a&x;b</Ustrd></RmtInf>") + "</NtryDtls>");
+        const cStatementRead read =
+            ReadBytes("<!DOCTYPE Document [<!ENTITY x SYSTEM \"file:///etc/hostname\">]>" + With(entry));
+        QCOMPARE(read.Entries.value(0).ImportPurpose, u"a&x;b"_s);
+    }
+
+    // A file may hold elements that look like the reader's own marks.
+    void foreignMarksAreRefused()
+    {
+        QVERIFY(!ReadBytes(With("<x piece=\"7\"/>")).Refusal.isEmpty());
+        const modXmlPieces::cPieces pieces = modXmlPieces::Cut("<a><b c='>'>1<b/><b>2</b></b><!--<b>--></a>", "b");
+        QCOMPARE(pieces.Skeleton, QByteArray("<a><x piece=\"0\"/><!--<b>--></a>"));
+        QCOMPARE(pieces.Pieces.size(), std::size_t{1});
+    }
+};
+
+QTEST_GUILESS_MAIN(testCamt)
+#include "testCamt.moc"

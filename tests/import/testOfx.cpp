@@ -1,0 +1,198 @@
+#include "import/modStatementFormat.h"
+#include "import/xml/modOfx.h"
+#include "import/xml/modOfxRepair.h"
+#include "import/xml/modOfxText.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QByteArray Fixture()
+{
+    QFile file(QStringLiteral(TEST_DATA "/ofx/giro.ofx"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+cStatementRead ReadBytes(const QByteArray& bytes, eMissingPurpose missing = eMissingPurpose::Empty)
+{
+    cReadOptions options;
+    options.MissingPurpose = missing;
+    return modOfx::Read(modStatementFormat::Source(u"a.ofx"_s, bytes), options);
+}
+
+// A bank statement around the given transactions.
+QByteArray With(const QByteArray& transactions, const QByteArray& header = "OFXHEADER:100\n")
+{
+    return header
+        + "<OFX>\n<BANKMSGSRSV1>\n<STMTTRNRS>\n<STMTRS>\n<CURDEF>EUR\n<BANKACCTFROM>\n<ACCTID>7\n</BANKACCTFROM>\n"
+          "<BANKTRANLIST>\n"
+        + transactions + "</BANKTRANLIST>\n</STMTRS>\n</STMTTRNRS>\n</BANKMSGSRSV1>\n</OFX>\n";
+}
+
+} // namespace
+
+class testOfx : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void addsEndTags_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("xml");
+        QTest::newRow("value without end tag") << QByteArray("<OFX>\n<A>1") << QByteArray("<OFX>\n<A>1</A>\n");
+        QTest::newRow("value with end tag") << QByteArray("<OFX>\n<A>1</A>") << QByteArray("<OFX>\n<A>1</A>\n");
+        QTest::newRow("blanks and returns")
+            << QByteArray("<OFX>\r\n\t <A>1 \r\n</OFX>") << QByteArray("<OFX>\n<A>1</A>\n</OFX>\n");
+        QTest::newRow("header is dropped") << QByteArray("DATA:X\n\n<OFX>\n") << QByteArray("<OFX>\n\n");
+        QTest::newRow("no document") << QByteArray("<A>1\n") << QByteArray();
+    }
+
+    void addsEndTags()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(modOfxText::ToXml(text), "xml");
+    }
+
+    void repairsText_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("repaired");
+        QTest::newRow("tags on one line")
+            << QByteArray("<OFX><A>1<B>2</OFX>") << QByteArray("<OFX>\n<A>1</A>\n<B>2</B>\n</OFX>\n");
+        QTest::newRow("empty leaf without end tag")
+            << QByteArray("<OFX><A><B>2</OFX>") << QByteArray("<OFX>\n<A></A>\n<B>2</B>\n</OFX>\n");
+        QTest::newRow("empty leaves in several elements")
+            << QByteArray("<X><Y><A></Y><B></X>") << QByteArray("<X>\n<Y>\n<A></A>\n</Y>\n<B></B>\n</X>\n");
+        QTest::newRow("single tag") << QByteArray("<X><A/></X>") << QByteArray("<X>\n<A></A>\n</X>\n");
+        QTest::newRow("comments and declarations")
+            << QByteArray("<!-- <X> --><?xml a?><X><A>1<!-- c -->2</X>") << QByteArray("<X>\n<A>12</A>\n</X>\n");
+        QTest::newRow("ampersands") << QByteArray("<A>a & b &amp; &#228; &nbsp;")
+                                    << QByteArray("<A>a &amp; b &amp; &#228; &amp;nbsp;</A>\n");
+        QTest::newRow("less than") << QByteArray("<A>1 < 2 <3") << QByteArray("<A>1 &lt; 2 &lt;3</A>\n");
+        QTest::newRow("character data") << QByteArray("<A><![CDATA[<b> & &amp;]]>")
+                                        << QByteArray("<A>&lt;b> &amp; &amp;amp;</A>\n");
+        QTest::newRow("value on two lines") << QByteArray("<A>one\r\ntwo\n") << QByteArray("<A>one  two</A>\n");
+        QTest::newRow("end tag too many") << QByteArray("<X></B></X>") << QByteArray("<X>\n</X>\n");
+        QTest::newRow("small letters") << QByteArray("<ofx><a>1</a></ofx>") << QByteArray("<OFX>\n<A>1</A>\n</OFX>\n");
+    }
+
+    void repairsText()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(modOfxRepair::Repair(text), "repaired");
+    }
+
+    void readsAmounts_data()
+    {
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("german");
+        QTest::newRow("point") << u"-23.10"_s << u"-23,10"_s;
+        QTest::newRow("comma") << u"-23,10"_s << u"-23,10"_s;
+        QTest::newRow("grouped with points") << u"1.234,50"_s << u"1234,50"_s;
+        QTest::newRow("grouped with commas") << u"1,234.50"_s << u"1234,50"_s;
+        QTest::newRow("millions") << u"1.234.567"_s << u"1234567"_s;
+        QTest::newRow("whole") << u"+5"_s << u"+5"_s;
+    }
+
+    void readsAmounts()
+    {
+        QFETCH(QString, amount);
+        QTEST(modOfxText::ToGermanAmount(amount), "german");
+    }
+
+    void readsBankAndCard()
+    {
+        const cStatementRead read = ReadBytes(Fixture());
+        QCOMPARE(read.Refusal, QString());
+        QCOMPARE(read.Entries.size(), 4);
+        const cImportEntry& first = read.Entries.first();
+        QCOMPARE(first.ImportAccount, u"0001234567"_s);
+        QCOMPARE(first.ImportDate, QDate(2026, 1, 2));
+        QCOMPARE(first.ImportPurpose, u"Brot & Brötchen"_s);
+        QCOMPARE(first.ImportCurrency, u"EUR"_s);
+        QCOMPARE(first.ImportValue, -23.10);
+        QVERIFY(first.ImportType.isEmpty() && first.ImportBeneficiary.isEmpty());
+        QVERIFY(first.ImportBeneficiaryAccount.isEmpty() && first.ImportBeneficiaryBLZ.isEmpty());
+        QCOMPARE(read.Entries.at(1).ImportValue, 1234.50);
+        QCOMPARE(read.Entries.at(2).ImportPurpose, u"Kino <3 & Popcorn"_s);
+        QCOMPARE(read.Entries.at(3).ImportAccount, u"4711XXXX0815"_s);
+        QCOMPARE(read.Entries.at(3).ImportCurrency, u"USD"_s);
+        QCOMPARE(read.ClosingBalance, std::optional<qint64>(-999));
+        QCOMPARE(read.Balances.first(), (cAccountBalance{u"0001234567"_s, 120640, QDate(2026, 1, 31)}));
+        QVERIFY(read.Problems.isEmpty() && !read.NeedsAccount);
+    }
+
+    // Somebody else may have decoded the text already.
+    void readsTextWithoutBytes()
+    {
+        const cStatementRead read = modOfx::Read({u"a.ofx"_s, {}, QString::fromUtf8(Fixture())}, {});
+        QCOMPARE(read.Entries, ReadBytes(Fixture()).Entries);
+    }
+
+    void nameStandsInForMissingPurpose()
+    {
+        QVERIFY(ReadBytes(Fixture()).Entries.at(1).ImportPurpose.isEmpty());
+        const cStatementRead read = ReadBytes(Fixture(), eMissingPurpose::Name);
+        QCOMPARE(read.Entries.at(0).ImportPurpose, u"Brot & Brötchen"_s);
+        QCOMPARE(read.Entries.at(1).ImportPurpose, u"Lohnbüro Tann"_s);
+    }
+
+    void honoursCharacterSetOfHeader_data()
+    {
+        QTest::addColumn<QByteArray>("charset");
+        QTest::addColumn<QByteArray>("umlaut");
+        QTest::newRow("Windows") << QByteArray("1252") << QByteArray("\xFC");
+        QTest::newRow("DOS") << QByteArray("850") << QByteArray("\x81");
+        QTest::newRow("UTF-8 all the same") << QByteArray("1252") << QByteArray("\xC3\xBC");
+    }
+
+    void honoursCharacterSetOfHeader()
+    {
+        QFETCH(QByteArray, charset);
+        QFETCH(QByteArray, umlaut);
+        const QByteArray bytes =
+            With("<STMTTRN>\n<DTPOSTED>20260102\n<TRNAMT>1.00\n<MEMO>Lohnb" + umlaut + "ro\n</STMTTRN>\n",
+                 "OFXHEADER:100\nCHARSET:" + charset + "\n\n");
+        QCOMPARE(ReadBytes(bytes).Entries.value(0).ImportPurpose, u"Lohnbüro"_s);
+    }
+
+    void reportsWhatIsUnreadable()
+    {
+        const cStatementRead read = ReadBytes(With("<STMTTRN><DTPOSTED>2026<TRNAMT>viel</STMTTRN>"));
+        QCOMPARE(read.Entries.size(), 1);
+        QCOMPARE(read.Entries.first().ImportDate, QDate(1001, 1, 1));
+        QCOMPARE(read.Problems.size(), 2);
+    }
+
+    void asksForMissingAccount()
+    {
+        const QByteArray bytes = With("<STMTTRN><DTPOSTED>20260102<TRNAMT>1</STMTTRN>").replace("<ACCTID>7\n", "");
+        QVERIFY(ReadBytes(bytes).NeedsAccount);
+    }
+
+    // A file that was cut off is refused as a whole, wherever it ends.
+    void everyPrefixIsRefused()
+    {
+        const QByteArray bytes = Fixture();
+        for (qsizetype size = bytes.indexOf("<OFX>"); size < bytes.size() - 8; ++size) {
+            const cStatementRead read = ReadBytes(bytes.left(size));
+            QVERIFY2(read.Entries.isEmpty() && !read.Refusal.isEmpty(), bytes.left(size).right(20).constData());
+        }
+    }
+
+    // The bare conversion does not read what only the repair makes readable.
+    void bareConversionRefusesSeveralTagsOnLine()
+    {
+        const QByteArray bytes = With("<STMTTRN><DTPOSTED>20260102<TRNAMT>1</STMTTRN>\n");
+        QVERIFY(!modOfx::ReadXml(modOfxText::ToXml(bytes), {}).Refusal.isEmpty());
+        const QByteArray lines = With("<STMTTRN>\n<DTPOSTED>20260102\n<TRNAMT>1\n</STMTTRN>\n");
+        QCOMPARE(modOfx::ReadXml(modOfxText::ToXml(lines), {}).Entries.size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(testOfx)
+#include "testOfx.moc"

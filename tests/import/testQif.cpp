@@ -1,0 +1,157 @@
+#include "import/modQif.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Fixture()
+{
+    QFile file(QStringLiteral(TEST_DATA "/qif/giro.qif"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+cStatementRead ReadText(const QString& text, const cReadOptions& options = {})
+{
+    return modQif::Read({u"a.qif"_s, {}, text}, options);
+}
+
+QString Days(const cStatementRead& read)
+{
+    QStringList days;
+    for (const cImportEntry& entry : read.Entries) {
+        days.append(entry.ImportDate.toString(Qt::ISODate));
+    }
+    return days.join(u' ');
+}
+
+} // namespace
+
+class testQif : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recognises_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isQif");
+        QTest::newRow("bank") << u"!Type:Bank\nD1.1.26"_s << true;
+        QTest::newRow("capitals") << u"!TYPE:CCARD\n"_s << true;
+        QTest::newRow("behind a list") << u"!Account\nNGiro\n^\n!type:bank\n"_s << true;
+        QTest::newRow("behind a remark") << u"# aus dem Archiv\n\n!Option:MDY\n!Type:Bank\n"_s << true;
+        QTest::newRow("table") << u"Datum;Betrag\n1.1.26;!Type:Bank\n"_s << false;
+        QTest::newRow("nothing") << QString() << false;
+    }
+
+    void recognises()
+    {
+        QFETCH(QString, text);
+        QTEST(modQif::IsQif(text), "isQif");
+    }
+
+    void findsOrderOfDays_data()
+    {
+        QTest::addColumn<QString>("dates");
+        QTest::addColumn<QString>("days");
+        QTest::addColumn<int>("problems");
+        QTest::newRow("a day above 12 decides for all") << u"1/2/26|29/12/26"_s << u"2026-02-01 2026-12-29"_s << 0;
+        QTest::newRow("month first") << u"1/2/26|12/29/26"_s << u"2026-01-02 2026-12-29"_s << 0;
+        QTest::newRow("open: month first, and said so") << u"1/2/26"_s << u"2026-01-02"_s << 1;
+        QTest::newRow("open without effect") << u"2/2/26"_s << u"2026-02-02"_s << 0;
+        QTest::newRow("points: day first") << u"1.2.26"_s << u"2026-02-01"_s << 0;
+        QTest::newRow("year first") << u"2026-02-01"_s << u"2026-02-01"_s << 0;
+        QTest::newRow("blanks and apostrophe") << u"1/ 2'04|31/ 1'04"_s << u"2004-02-01 2004-01-31"_s << 0;
+        QTest::newRow("last century") << u"31/1/94"_s << u"1994-01-31"_s << 0;
+        QTest::newRow("no date") << u"gestern|31/2/26"_s << u"1001-01-01 1001-01-01"_s << 2;
+    }
+
+    void findsOrderOfDays()
+    {
+        QFETCH(QString, dates);
+        QFETCH(int, problems);
+        QString text = u"!Type:Bank\n"_s;
+        for (const QString& date : dates.split(u'|')) {
+            text += u"D"_s + date + u"\nT1.00\n^\n"_s;
+        }
+        const cStatementRead read = ReadText(text);
+        QTEST(Days(read), "days");
+        QCOMPARE(read.Problems.size(), problems);
+    }
+
+    void takesChosenOrder()
+    {
+        cReadOptions options;
+        options.Table.Date = eDateOrder::DayMonthYear;
+        const cStatementRead read = ReadText(u"!Type:Bank\nD1/2/26\nT1\n^\n"_s, options);
+        QCOMPARE(Days(read), u"2026-02-01"_s);
+        QVERIFY(read.Problems.isEmpty());
+    }
+
+    void readsAmounts_data()
+    {
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<double>("value");
+        QTest::newRow("English") << u"-1,010.50"_s << -1010.5;
+        QTest::newRow("grouped whole number") << u"30,020"_s << 30020.0;
+        QTest::newRow("decimal comma") << u"-4,50"_s << -4.5;
+        QTest::newRow("German") << u"1.234,50"_s << 1234.5;
+        QTest::newRow("millions") << u"1,234,567.00"_s << 1234567.0;
+    }
+
+    void readsAmounts()
+    {
+        QFETCH(QString, amount);
+        QTEST(ReadText(u"!Type:Bank\nD31.1.26\nT"_s + amount).Entries.value(0).ImportValue, "value");
+    }
+
+    void readsFile()
+    {
+        const cStatementRead read = ReadText(Fixture());
+        QCOMPARE(Days(read), u"2026-01-03 2026-01-15 2026-01-17 2026-01-20"_s);
+        QVERIFY(read.Problems.isEmpty());
+        const cImportEntry& first = read.Entries.first();
+        QCOMPARE(first.ImportAccount, u"Girokonto"_s);
+        QCOMPARE(first.ImportType, u"Haushalt:Lebensmittel"_s);
+        QCOMPARE(first.ImportPurpose, u"Brot"_s);
+        QCOMPARE(first.ImportBeneficiary, u"Krume & Sohn"_s);
+        QCOMPARE(first.ImportValue, -23.10);
+        QCOMPARE(read.Entries.at(1).ImportValue, 1234.50);
+        QCOMPARE(read.Entries.at(2).ImportType, u"Haushalt, Kleidung"_s);
+        QCOMPARE(read.Entries.at(2).ImportPurpose, u"Handtücher, Socken"_s);
+        QCOMPARE(read.Entries.at(3).ImportValue, -4.5); // without its "^"
+    }
+
+    // The number that the user gives names the only account; several accounts must stay apart.
+    void givenAccountComesFirst()
+    {
+        cReadOptions options;
+        options.Account = u"4711"_s;
+        QCOMPARE(ReadText(Fixture(), options).Entries.first().ImportAccount, u"4711"_s);
+        const QString two = Fixture() + u"^\n!Account\nNSparen\n^\n!Type:Bank\nD31/1'26\nT1\n^\n"_s;
+        const cStatementRead read = ReadText(two, options);
+        QCOMPARE(read.Entries.first().ImportAccount, u"Girokonto"_s);
+        QCOMPARE(read.Entries.last().ImportAccount, u"Sparen"_s);
+        QVERIFY(!read.NeedsAccount);
+        QVERIFY(ReadText(u"!Type:Bank\nD31.1.26\nT1\n"_s).NeedsAccount);
+    }
+
+    void splitsWithoutTotalAreSummed()
+    {
+        const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\nSa\n$-1.50\nSb\n$-2.25\n^\n"_s);
+        QCOMPARE(read.Entries.value(0).ImportValue, -3.75);
+    }
+
+    void everyPrefixIsRead()
+    {
+        const QString text = Fixture();
+        for (qsizetype size = 0; size <= text.size(); ++size) {
+            QVERIFY(ReadText(text.left(size)).Entries.size() <= 4);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(testQif)
+#include "testQif.moc"
