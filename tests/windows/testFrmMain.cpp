@@ -70,6 +70,8 @@ private Q_SLOTS:
     void FreePeriodOpensTheDayFields();
     void EveryControlHasANameForScreenReaders();
     void MnemonicsAreUniqueInEachMenu();
+    void PlaceIsInReach_data();
+    void PlaceIsInReach();
 };
 
 void testFrmMain::KeysReachTheCommands()
@@ -236,6 +238,27 @@ void testFrmMain::MnemonicsAreUniqueInEachMenu()
         used[menu].insert(letter);
     }
     QVERIFY(used.size() >= 3);
+}
+
+void testFrmMain::PlaceIsInReach_data()
+{
+    QTest::addColumn<QRect>("Place");
+    QTest::addColumn<QRect>("Shown");
+
+    const QRect left(100, 100, 800, 600);
+    QTest::newRow("on the first screen") << left << left;
+    QTest::newRow("on the second screen") << left.translated(1400, 0) << left.translated(1400, 0);
+    QTest::newRow("half outside") << left.translated(-700, 300) << left.translated(-700, 300);
+    QTest::newRow("screen is gone") << left.translated(5000, 0) << QRect(240, 200, 800, 600);
+    QTest::newRow("edge above the screen") << left.translated(0, -400) << QRect(240, 200, 800, 600);
+    QTest::newRow("too large for what is left") << QRect(5000, 0, 3000, 2000) << QRect(0, 0, 1280, 1000);
+}
+
+void testFrmMain::PlaceIsInReach()
+{
+    QFETCH(QRect, Place);
+    QFETCH(QRect, Shown);
+    QCOMPARE(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), Shown);
 }
 
 QTEST_MAIN(testFrmMain)
