@@ -99,21 +99,39 @@ QList<int> StageRows(cDataAccess& data, cImportHiveCache& hive, const QString& a
     return ids;
 }
 
+// A book of 100,000 entries with rows that wait.
+struct cStaged
+{
+    cBenchBook Book{100000};
+    cDataAccess& Data = Book.Book().Data();
+    cAccountMap Accounts{Data, Book.Book().Settings()};
+    cImportHiveCache Hive{Data};
+    QList<int> Ids;
+
+    cStaged()
+    {
+        const QString account = MainAccount(Data);
+        if (!Accounts.Assign(u"4711"_s, account)) {
+            qFatal("no account");
+        }
+        Ids = StageRows(Data, Hive, account);
+    }
+};
+
+cStaged& Staged()
+{
+    static cStaged staged;
+    return staged;
+}
+
 void Match(benchmark::State& state, eMatchRun run)
 {
-    cBenchBook book(100000);
-    cDataAccess& data = book.Book().Data();
-    cAccountMap accounts(data, book.Book().Settings());
-    const QString account = MainAccount(data);
-    cImportHiveCache hive(data);
-    if (!accounts.Assign(u"4711"_s, account)) {
-        qFatal("no account");
-    }
-    const QList<int> ids = StageRows(data, hive, account);
+    cStaged& staged = Staged();
     for (auto _ : state) {
-        cUndoStep step(data, u"bench"_s);
+        cUndoStep step(staged.Data, u"bench"_s);
         cNoProgress progress;
-        const cMatchResult result = cMatcher(data, hive, accounts).MatchAll(ids, progress, run);
+        const cMatchResult result =
+            cMatcher(staged.Data, staged.Hive, staged.Accounts).MatchAll(staged.Ids, progress, run);
         state.PauseTiming();
         state.counters["assigned"] = static_cast<double>(result.Assigned.size());
         state.counters["proposed"] = static_cast<double>(result.Proposed.size());
@@ -123,5 +141,18 @@ void Match(benchmark::State& state, eMatchRun run)
 }
 BENCHMARK_CAPTURE(Match, Try, eMatchRun::Try)->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Match, Write, eMatchRun::Write)->Iterations(3)->Unit(benchmark::kMillisecond);
+
+// What a window asks for when the user steps through the rows.
+void CandidatesOfOneRow(benchmark::State& state)
+{
+    cStaged& staged = Staged();
+    qsizetype i = 0;
+    for (auto _ : state) {
+        cMatcher matcher(staged.Data, staged.Hive, staged.Accounts);
+        benchmark::DoNotOptimize(matcher.Candidates(staged.Ids.at(i)));
+        i = (i + 101) % staged.Ids.size();
+    }
+}
+BENCHMARK(CandidatesOfOneRow)->Unit(benchmark::kMillisecond);
 
 } // namespace

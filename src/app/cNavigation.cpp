@@ -15,6 +15,7 @@
 #include "views/cSearchModel.h"
 #include "views/cSeriesChange.h"
 #include "views/cTemplateManager.h"
+#include "views/modCommand.h"
 #include "views/modViewText.h"
 #include "windows/cListPrinter.h"
 #include "windows/cProgressBox.h"
@@ -170,6 +171,8 @@ void cNavigation::OpenSearch()
         QObject::connect(m_search, &frmSuche::EditRequested, m_model,
                          [this](const cEntryListModel::cKey& key) { OpenEntry(key.ID, key.Day); });
         QObject::connect(m_search, &frmSuche::DeleteRequested, m_model, &cMainModel::Delete);
+        QObject::connect(m_search, &frmSuche::UndoRequested, m_model, [this] { m_model->Execute(modCommand::Undo); });
+        QObject::connect(m_search, &frmSuche::RedoRequested, m_model, [this] { m_model->Execute(modCommand::Redo); });
         QObject::connect(m_model, &cMainModel::BookRefreshed, m_search, &frmSuche::Refresh);
         QObject::connect(m_model, &cMainModel::LayoutReset, m_search, &frmSuche::ResetLayout);
     }

@@ -40,6 +40,6 @@ struct cMatchResult
     int Failed = 0;                       // matches that were not written because the database refused
     bool IsCancelled = false;             // nothing was written
 
-    // "3 Umsätze zugeordnet, 1 vorgeschlagen, 5 bleiben offen"
+    // "Zugeordnet: 3, vorgeschlagen: 1, offen: 5"
     [[nodiscard]] QString Summary() const;
 };

@@ -88,6 +88,9 @@ cMatchText::cLikeness cMatchText::Compare(const cMatchText& row, const cMatchTex
 {
     using modMatchScore::eTextMatch;
     const cCovered words = row.Covered(entry.m_payeeWords);
+    if (words.Payee >= 1.0) {
+        return {1.0, eTextMatch::Payee};
+    }
     const double payee = std::max(Likeness(row.m_payee, entry.m_payee), words.Payee);
     const double purpose =
         std::max({Likeness(row.m_purpose, entry.m_payee), Likeness(row.m_whole, entry.m_payee), words.Both});

@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
+#include <unordered_map>
 
 namespace {
 
@@ -50,6 +51,17 @@ struct cRowSense
         return cMatchText::Compare(Text, text);
     }
 };
+
+// Amount and day; what the texts say is not known yet.
+modMatchScore::cEvidence EvidenceOf(const cImportEntry& row, const cMatchIndex::cItem& item)
+{
+    modMatchScore::cEvidence evidence;
+    evidence.RowCents = std::abs(modAmount::ToCents(row.ImportValue));
+    evidence.EntryCents = std::abs(item.Cents);
+    evidence.Days = static_cast<int>(item.Entry.EntryDate.daysTo(row.ImportDate));
+    evidence.IsSeries = item.IsSeries;
+    return evidence;
+}
 
 cEntryItemFixMod CorrectionTo(const cEntryItem& occurrence, qint64 cents)
 {
@@ -153,9 +165,8 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
     std::optional<cRowSense> sense;
     for (const size_t number : around) {
         const cMatchIndex::cItem& item = index->Item(number);
-        modMatchScore::cEvidence evidence{std::abs(cents), std::abs(item.Cents),
-                                          static_cast<int>(item.Entry.EntryDate.daysTo(row.ImportDate)), twins == 1,
-                                          item.IsSeries};
+        modMatchScore::cEvidence evidence = EvidenceOf(row, item);
+        evidence.IsOnly = twins == 1;
         if (!modMatchScore::IsPossible(evidence) || (!withTaken && index->IsTaken(number, row.ID))) {
             continue;
         }

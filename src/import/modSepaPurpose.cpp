@@ -9,17 +9,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array keywords = {u"IBAN+", u"BIC+",  u"EREF+", u"DEBT+", u"SVWZ+", u"ABWA+",
-                                 u"ABWE+", u"MREF+", u"CRED+", u"KREF+", u"PURP+", u"MDAT+",
-                                 u"ORCR+", u"ORMR+", u"DDAT+", u"OAMT+", u"COAM+"};
+constexpr std::array<QStringView, 17> keywords = {u"IBAN+", u"BIC+",  u"EREF+", u"DEBT+", u"SVWZ+", u"ABWA+",
+                                                  u"ABWE+", u"MREF+", u"CRED+", u"KREF+", u"PURP+", u"MDAT+",
+                                                  u"ORCR+", u"ORMR+", u"DDAT+", u"OAMT+", u"COAM+"};
 
 // The keyword at the start of the text; empty when there is none.
 QStringView KeywordAt(QStringView text)
 {
-    const auto* const found = std::find_if(keywords.begin(), keywords.end(), [&](const char16_t* keyword) {
-        return text.startsWith(QStringView(keyword), Qt::CaseInsensitive);
+    const auto* const found = std::find_if(keywords.begin(), keywords.end(), [&](QStringView keyword) {
+        return text.startsWith(keyword, Qt::CaseInsensitive);
     });
-    return found == keywords.end() ? QStringView() : QStringView(*found);
+    return found == keywords.end() ? QStringView() : *found;
 }
 
 // Where the next keyword begins; the end of the text when there is none. All keywords end in "+".

@@ -86,13 +86,14 @@ constexpr std::array formats = {
             IsSpreadsheet, nullptr},
     cFormat{eStatementFormat::Pdf, QT_TRANSLATE_NOOP("cText", "Portable Document Format (PDF-Datei)"), IsPdf, nullptr},
     cFormat{eStatementFormat::Unknown, QT_TRANSLATE_NOOP("cText", "Unbekanntes Dateiformat"), IsRefused, nullptr},
+    // Looks at the head of the text only, so it is asked before those that search all of it.
+    cFormat{eStatementFormat::Camt, QT_TRANSLATE_NOOP("cText", "SEPA-Kontoauszug (camt-Datei)"), IsCamt, modCamt::Read},
     cFormat{eStatementFormat::Mt940, QT_TRANSLATE_NOOP("cText", "SWIFT-Kontoauszug (MT940/MT942-Datei)"), IsMt940,
             ReadMt940},
     cFormat{eStatementFormat::Ofx, QT_TRANSLATE_NOOP("cText", "Open Financial Exchange (OFX-Datei)"), IsOfx,
             modOfx::Read},
     cFormat{eStatementFormat::Qif, QT_TRANSLATE_NOOP("cText", "Quicken Interchange Format (QIF-Datei)"), IsQif,
             modQif::Read},
-    cFormat{eStatementFormat::Camt, QT_TRANSLATE_NOOP("cText", "SEPA-Kontoauszug (camt-Datei)"), IsCamt, modCamt::Read},
     cFormat{eStatementFormat::Csv, QT_TRANSLATE_NOOP("cText", "Character Separated Values (CSV-Datei)"), IsText,
             modTable::Read},
 };

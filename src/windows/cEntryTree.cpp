@@ -187,6 +187,7 @@ void cEntryTree::ScrollTo(QDate day)
 {
     const QModelIndex row = m_model.IndexNear(day);
     if (row.isValid()) {
+        selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate); // the keys start there
         scrollTo(row, PositionAtCenter);
     } else if (!m_model.IsGrouped()) {
         scrollToBottom();

@@ -128,8 +128,8 @@ void cSearchFields::Build()
     grid->setColumnMinimumWidth(2, fontMetrics().averageCharWidth());
     Add(*grid, 0, 3, cText::Tr("Ka&tegorie:"), m_category);
     Add(*grid, 1, 3, cText::Tr("&Konto:"), m_account);
-    grid->addWidget(MakeLabel(cText::Tr("Buchungs&art:"), *m_type), 2, 3);
-    grid->addLayout(BuildMarks(), 2, 4);
+    Add(*grid, 2, 3, cText::Tr("Buchungs&art:"), m_type);
+    grid->addLayout(BuildMarks(), 3, 4); // a line of their own keeps the window narrow enough for a small screen
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(4, 1);
     const std::array<QWidget*, 12> order{m_text,     m_period,   m_start,   m_end,  m_amountRule,  m_amount,
@@ -176,8 +176,6 @@ QHBoxLayout* cSearchFields::BuildAmount()
 QHBoxLayout* cSearchFields::BuildMarks()
 {
     auto* row = MakeRow();
-    row->addWidget(m_type);
-    row->addSpacing(4);
     row->addWidget(m_isCorrected);
     row->addWidget(m_isFromBank);
     row->addStretch();

@@ -220,6 +220,7 @@ void frmMain::ResetLayout()
 void frmMain::ShowEntry(const cEntryListModel::cKey& key)
 {
     m_tree->Select(key);
+    m_tree->setFocus(); // Ctrl+Z in the filter would take back what was typed there
 }
 
 void frmMain::ShowStatements()

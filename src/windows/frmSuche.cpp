@@ -89,6 +89,10 @@ void frmSuche::Connect()
     connect(m_delete, &QPushButton::clicked, this, &frmSuche::Delete);
     connect(m_clear, &QPushButton::clicked, m_fields, &cSearchFields::Clear);
     connect(m_close, &QPushButton::clicked, this, &QDialog::close);
+    // What was deleted here is taken back here as well; the keys of the main window do not reach this one.
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, this), &QShortcut::activated, this, &frmSuche::UndoRequested);
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, this), &QShortcut::activated, this,
+            &frmSuche::RedoRequested);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
                 &frmSuche::Edit);

@@ -28,6 +28,8 @@ public:
 Q_SIGNALS:
     void EditRequested(const cEntryListModel::cKey& key);
     void DeleteRequested(const QList<cEntryListModel::cKey>& keys);
+    void UndoRequested();
+    void RedoRequested();
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(done.Column(u"State"_s), QStringList({u"assigned"_s, u"assigned"_s, u"left"_s}));
         QCOMPARE(Assigned(), QStringList({m_food, m_rent, u"-1"_s}));
         QVERIFY(Do(u"correct|--json|--list|"_s + m_rent).Json().isEmpty());
-        QVERIFY(Do(u"match"_s).Out.contains(u"0 Umsätze zugeordnet, 0 vorgeschlagen, 1 bleiben offen"_s));
+        QVERIFY(Do(u"match"_s).Out.contains(u"Zugeordnet: 0, vorgeschlagen: 0, offen: 1"_s));
     }
 
     void MatchCorrects()

@@ -167,6 +167,14 @@ private Q_SLOTS:
         QCOMPARE(read.Problems.size(), problems);
     }
 
+    void wholeBatchKeepsTexts()
+    {
+        const QByteArray details =
+            Detail("<RmtInf><Ustrd>Lohn Tann</Ustrd></RmtInf>") + Detail("<AddtlTxInf>Lohn Linde</AddtlTxInf>");
+        const cStatementRead read = ReadBytes(With(Entry("5.00", "DBIT", "<NtryDtls>" + details + "</NtryDtls>")));
+        QCOMPARE(read.Entries.value(0).ImportPurpose, u"Lohn Tann Lohn Linde"_s);
+    }
+
     void writesPurposeAsMt940_data()
     {
         QTest::addColumn<QStringList>("lines");

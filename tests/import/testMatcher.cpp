@@ -186,8 +186,7 @@ void testMatcher::AnEntryTakesOneRow() const
     const cMatchResult result = bank.Match({second, first, first});
     QCOMPARE(Counts(result), QList<int>({1, 0, 1, 1}));
     QCOMPARE(bank.EntryOf(first), entry);
-    QCOMPARE(result.Summary(),
-             u"1 Umsätze zugeordnet, 0 vorgeschlagen, 1 bleiben offen, davon 1 mit möglichen Einträgen"_s);
+    QCOMPARE(result.Summary(), u"Zugeordnet: 1, vorgeschlagen: 0, offen: 1, davon mit möglichen Einträgen: 1"_s);
     QCOMPARE(Counts(bank.Match({second})), QList<int>({0, 0, 1, 0}));
     QVERIFY(bank.Candidates(second).first().IsTaken);
     QVERIFY(!bank.Candidates(first).first().IsTaken);

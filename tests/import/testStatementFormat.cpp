@@ -23,6 +23,7 @@ private Q_SLOTS:
         QTest::newRow("MT942 by tags") << u"a.txt"_s << u":20:x:61:x:86:"_s << eStatementFormat::Mt940;
         QTest::newRow("no details, but named so") << u"a.MT940"_s << u":20:x:61:x"_s << eStatementFormat::Mt940;
         QTest::newRow("no details") << u"a.txt"_s << u":20:x:61:x"_s << eStatementFormat::Csv;
+        QTest::newRow("MT940 without balances and details") << u"a.sta"_s << u":20:x:61:x"_s << eStatementFormat::Mt940;
         QTest::newRow("named so, other content") << u"a.mt940"_s << u"Datum;Betrag"_s << eStatementFormat::Csv;
         QTest::newRow("OFX") << u"a.txt"_s << u"OFXHEADER:100 <BANKTRANLIST> </OFX>"_s << eStatementFormat::Ofx;
         QTest::newRow("OFX without list") << u"a.ofx"_s << u"<OFX></OFX>"_s << eStatementFormat::Csv;
@@ -41,9 +42,10 @@ private Q_SLOTS:
     void refusesByName()
     {
         QVERIFY(modStatementFormat::Reader(eStatementFormat::Mt940) != nullptr);
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Csv) == nullptr);
-        QCOMPARE(modStatementFormat::Refusal(eStatementFormat::Csv),
-                 u"Dieses Format wird noch nicht gelesen: Character Separated Values (CSV-Datei)"_s);
+        QVERIFY(modStatementFormat::Reader(eStatementFormat::Csv) != nullptr);
+        QVERIFY(modStatementFormat::Reader(eStatementFormat::Pdf) == nullptr);
+        QCOMPARE(modStatementFormat::Refusal(eStatementFormat::Pdf),
+                 u"Dieses Format kann nicht eingelesen werden: Portable Document Format (PDF-Datei)"_s);
         QCOMPARE(modStatementFormat::Name(eStatementFormat::Unknown), u"Unbekanntes Dateiformat"_s);
     }
 };

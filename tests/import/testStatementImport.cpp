@@ -70,7 +70,7 @@ private Q_SLOTS:
                                 << u"Unbekanntes Dateiformat"_s;
         QTest::newRow("spreadsheet") << u"a.xls"_s << QByteArray("\xD0\xCF\0", 3)
                                      << u"wird noch nicht gelesen: Tabellen"_s;
-        QTest::newRow("text") << u"a.txt"_s << QByteArray("Hallo") << u"wird noch nicht gelesen: Character Separated"_s;
+        QTest::newRow("text") << u"a.txt"_s << QByteArray("Hallo") << u"keine Spalten mit Datum und Betrag"_s;
         QTest::newRow("PDF") << u"a.pdf"_s << QByteArray("%PDF") << u"kann nicht eingelesen werden: Portable"_s;
     }
 

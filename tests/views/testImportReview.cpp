@@ -47,6 +47,26 @@ class testImportReview : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // A file in rows and columns that does not say whose it is.
+    void asksForTheNumberOnce()
+    {
+        const QString file = QStringLiteral(TEST_DATA "/csv/consors.csv");
+        cPage page;
+        page.User.Choices = {std::nullopt};
+        page.Review.ImportFiles({file}, page.Progress);
+        QCOMPARE(page.User.Shown.size(), 1); // given up: nothing is read, and the reason is shown
+        QCOMPARE(page.Data.GetImportEntries().size(), 0);
+        page.User.Choices = {u" 4711 "_s, u"Girokonto"_s};
+        page.Review.ImportFiles({file}, page.Progress);
+        QVERIFY(page.User.Asked.contains(u"consors.csv\nEs muss eine Kontonummer eingegeben werden, um die Daten einem "
+                                         "Konto zuzuordnen."_s));
+        QCOMPARE(page.Data.GetImportEntries().value(0).ImportAccount, u"4711"_s);
+        page.User.Asked.clear();
+        page.Review.ImportFiles({file}, page.Progress);
+        QCOMPARE(page.User.Asked, QStringList());
+        QCOMPARE(page.Review.Duplicates().size(), 1);
+    }
+
     void importsWithItsQuestions()
     {
         cPage page;

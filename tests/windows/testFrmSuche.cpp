@@ -82,6 +82,9 @@ private Q_SLOTS:
         QCOMPARE(scene.Tree.model()->rowCount(), 0);
         QTest::keyClick(&scene.Tree, Qt::Key_Delete);
         QCOMPARE(deletions.size(), 1);
+        QSignalSpy undos(&scene.Window, &frmSuche::UndoRequested);
+        QTest::keyClick(&scene.Tree, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(undos.size(), 1);
     }
 
     void fieldsNarrowTogether()

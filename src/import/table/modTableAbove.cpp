@@ -14,7 +14,7 @@ constexpr QStringView accountWords =
     u"*Kontonummer*|Konto|Konto:|Konto-Nr*|Kontonr*|IBAN*|Account*|*Kreditkarte*|Karte|"
     u"Karte:|Kartennummer*";
 constexpr QStringView balanceWords = u"*Kontostand*|Saldo*|*Endsaldo*|*Closing balance*";
-constexpr QStringView oldBalanceWords = u"*alter *|*Anfang*|*Opening*";
+constexpr QStringView oldBalanceWords = u"*alter *|*letzter *|*Anfang*|*Opening*";
 
 bool IsDigit(QChar c)
 {

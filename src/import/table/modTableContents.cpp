@@ -123,7 +123,12 @@ private:
         }
     }
 
-    [[nodiscard]] const cFacts& Facts(int column) const { return m_facts.at(column); }
+    // Columns beyond those that were looked at hold nothing.
+    [[nodiscard]] const cFacts& Facts(int column) const
+    {
+        static const cFacts nothing;
+        return column < m_facts.size() ? m_facts.at(column) : nothing;
+    }
 
     [[nodiscard]] bool IsNamed(int column, QStringView words) const
     {

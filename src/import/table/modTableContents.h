@@ -10,8 +10,7 @@ namespace modTableContents {
 // Completes and corrects the columns of a layout that no bank's profile gave.
 void Complete(const cTable& table, cTableLayout& layout);
 
-// An own account column that holds the number of the file's owner, a currency in the amount's name ("Betrag (EUR)"):
-// what is right for every layout.
+// Takes the currency from the name of the amount ("Betrag (EUR)") where no column holds it.
 void CompleteCurrency(cTableLayout& layout);
 
 } // namespace modTableContents

@@ -170,7 +170,7 @@ QStringList modTableHeader::CellsOf(const cProbe& probe, QChar separator)
     if (!probe.Cells.isEmpty()) {
         return probe.Cells;
     }
-    const cTable table = modTableText::Split(probe.Line.toString(), separator, 1);
+    const cTable table = modTableText::Split(probe.Line.toString(), separator, 0);
     return table.RowCount() == 0 ? QStringList() : table.Row(0);
 }
 

@@ -165,7 +165,8 @@ constexpr std::array profiles = {
              u"type=Type",
              eNumberFormat::English, eSignRule::Negated},
     cProfile{u"UBS", u"Abschlussdatum;…;Belastung;Gutschrift;…;Beschreibung1;Beschreibung2;Beschreibung3;…",
-             u"date=Abschlussdatum;debit=Belastung;credit=Gutschrift;purpose=Beschreibung1;purpose2=Beschreibung2;"
+             u"date=Abschlussdatum;currency=Währung;debit=Belastung;credit=Gutschrift;purpose=Beschreibung1;purpose2="
+             u"Beschreibung2;"
              u"purpose3=Beschreibung3"},
 };
 

@@ -20,20 +20,21 @@ namespace {
 
 const QDate noDate(1001, 1, 1); // what is no date is staged on this day
 
-constexpr std::array pendingWords = {u"vorgemerkt", u"pending",       u"ausstehend",     u"memo",       u"offen",
-                                     u"reserviert", u"nicht gebucht", u"in bearbeitung", u"authorised", u"authorized"};
-constexpr std::array balanceWords = {u"Anfangssaldo",     u"Endsaldo",         u"Schlusssaldo", u"Startsaldo",
-                                     u"Opening balance",  u"Closing balance",  u"Turnover",     u"Kontostand",
-                                     u"Alter Kontostand", u"Neuer Kontostand", u"Saldo",        u"Saldovortrag",
-                                     u"Anfangsbestand",   u"Endbestand"};
-constexpr std::array closingWords = {u"Endsaldo", u"Schlusssaldo", u"Closing balance", u"Neuer Kontostand"};
+constexpr std::array<QStringView, 10> pendingWords = {u"vorgemerkt", u"pending",    u"ausstehend",    u"memo",
+                                                      u"offen",      u"reserviert", u"nicht gebucht", u"in bearbeitung",
+                                                      u"authorised", u"authorized"};
+constexpr std::array<QStringView, 14> balanceWords = {
+    u"Anfangssaldo",    u"Endsaldo",     u"Schlusssaldo",   u"Startsaldo",       u"Opening balance",
+    u"Closing balance", u"Turnover",     u"Kontostand",     u"Alter Kontostand", u"Neuer Kontostand",
+    u"Saldo",           u"Saldovortrag", u"Anfangsbestand", u"Endbestand"};
+constexpr std::array<QStringView, 5> closingWords = {u"Endsaldo", u"Schlusssaldo", u"Closing balance", u"Kontostand",
+                                                     u"Neuer Kontostand"};
 constexpr QStringView bookingDayWords = u"Buchungstag|Buchungsdatum|Buchung|Booking date";
 
 bool IsOneOf(QStringView cell, const auto& words)
 {
-    return std::any_of(words.begin(), words.end(), [&](const char16_t* word) {
-        const QStringView known(word);
-        return cell.size() == known.size() && cell.compare(known, Qt::CaseInsensitive) == 0;
+    return std::any_of(words.begin(), words.end(), [&](QStringView word) {
+        return cell.size() == word.size() && cell.compare(word, Qt::CaseInsensitive) == 0;
     });
 }
 
@@ -177,7 +178,7 @@ private:
     {
         for (int column = 0; column < m_table.CellCount(m_row); ++column) {
             const QStringView cell = Cell(column);
-            if (cell.size() >= 5 && cell.size() <= 16 && IsOneOf(cell, words)) {
+            if (cell.size() >= 5 && cell.size() <= 16 && cell.front().isLetter() && IsOneOf(cell, words)) {
                 return cell;
             }
         }
@@ -190,11 +191,25 @@ private:
     {
         Skip(eSkipped::Balance, cText::Tr("Die Zeile ist ein Saldo und kein Umsatz: {0}", {Start()}));
         if (!FindCell(closingWords).isEmpty()) {
-            if (const std::optional<double> value = ValueOf(Cell(m_map.Amount))) {
+            if (const std::optional<double> value = BalanceValue()) {
                 m_closing = modAmount::ToCents(*value);
                 m_closingDate = modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date);
             }
         }
+    }
+
+    // In the column of amounts, or where the row has one at all.
+    [[nodiscard]] std::optional<double> BalanceValue() const
+    {
+        if (!Cell(m_map.Amount).isEmpty()) {
+            return ValueOf(Cell(m_map.Amount));
+        }
+        for (int column = 0; column < m_table.CellCount(m_row); ++column) {
+            if (modTableValue::IsAmount(Cell(column))) {
+                return modTableValue::ReadAmount(Cell(column), m_number);
+            }
+        }
+        return std::nullopt;
     }
 
     // Empty when the cell is no number.

@@ -20,6 +20,7 @@ public:
         while (m_at < m_text.size()) {
             m_table.AddRow(m_line + 1);
             m_isOneLine = m_line < firstLine;
+            m_current = m_isOneLine ? SeparatorHere() : m_separator;
             ReadRow();
         }
     }
@@ -27,11 +28,17 @@ public:
 private:
     [[nodiscard]] QChar At(qsizetype place) const { return place < m_text.size() ? m_text[place] : QChar(u'\n'); }
 
+    [[nodiscard]] QChar SeparatorHere() const
+    {
+        const QStringView rest = QStringView(m_text).mid(m_at);
+        return modTableText::SeparatorOf(rest.left(qMax(qsizetype{0}, rest.indexOf(u'\n'))));
+    }
+
     // True for what ends a field at this place.
     [[nodiscard]] bool IsEnd(qsizetype place) const
     {
         const QChar c = At(place);
-        return c == m_separator || c == u'\n' || c == u'\r';
+        return c == m_current || c == u'\n' || c == u'\r';
     }
 
     [[nodiscard]] qsizetype PastBlanks(qsizetype place) const
@@ -46,7 +53,7 @@ private:
     {
         do {
             ReadField();
-        } while (m_at < m_text.size() && m_text[m_at++] == m_separator);
+        } while (m_at < m_text.size() && m_text[m_at++] == m_current);
         // The loop has stepped over what ended the last field.
         if (m_at > 0 && m_at < m_text.size() && m_text[m_at - 1] == u'\r' && m_text[m_at] == u'\n') {
             ++m_at;
@@ -108,6 +115,7 @@ private:
 
     const QString& m_text;
     QChar m_separator;
+    QChar m_current; // the lines above the header have separators of their own
     cTable& m_table;
     qsizetype m_at = 0;
     int m_line = 0;

@@ -107,13 +107,14 @@ int LetterSign(QStringView cell)
     return last == u'S' || last == u'H' ? modTableValue::IndicatorSign(cell.right(1)) : 0;
 }
 
-constexpr std::array debitWords = {u"S", u"SOLL", u"D", u"DEBIT", u"DR", u"DBIT", u"AF", u"-"};
-constexpr std::array creditWords = {u"H", u"HABEN", u"K", u"C", u"CREDIT", u"CR", u"CRDT", u"BIJ", u"+"};
+constexpr std::array<QStringView, 8> debitWords = {u"S", u"SOLL", u"D", u"DEBIT", u"DR", u"DBIT", u"AF", u"-"};
+constexpr std::array<QStringView, 9> creditWords = {u"H",  u"HABEN", u"K",   u"C", u"CREDIT",
+                                                    u"CR", u"CRDT",  u"BIJ", u"+"};
 
 bool IsOneOf(QStringView cell, const auto& words)
 {
     return std::any_of(words.begin(), words.end(),
-                       [&](const char16_t* word) { return cell.compare(QStringView(word), Qt::CaseInsensitive) == 0; });
+                       [&](QStringView word) { return cell.compare(word, Qt::CaseInsensitive) == 0; });
 }
 
 } // namespace
@@ -202,27 +203,31 @@ bool modTableValue::IsIban(QStringView cell)
 
 void modTableValue::cNumberVote::Add(QStringView cell)
 {
-    const qsizetype point = cell.lastIndexOf(u'.');
-    const qsizetype comma = cell.lastIndexOf(u',');
-    const auto digitsBehind = [&](qsizetype place) {
-        qsizetype count = 0;
-        while (place + 1 + count < cell.size() && IsDigit(cell[place + 1 + count])) {
-            ++count;
+    int points = 0;
+    int commas = 0;
+    bool isPointLast = false;
+    int decimals = 0; // digits behind the last sign
+    bool isCounting = false;
+    for (const QChar c : cell) {
+        if (c == u'.' || c == u',') {
+            isPointLast = c == u'.';
+            ++(isPointLast ? points : commas);
+            decimals = 0;
+            isCounting = true;
+        } else {
+            isCounting = isCounting && IsDigit(c);
+            decimals += isCounting ? 1 : 0;
         }
-        return count;
-    };
-    if (point >= 0 && comma >= 0) {
-        ++(point > comma ? m_english : m_german);
-    } else if (comma >= 0) {
-        const bool isGrouped = cell.count(u',') > 1;
-        m_english += isGrouped ? 1 : 0;
-        m_german += isGrouped ? 0 : 1;
-    } else if (point >= 0 && cell.count(u'.') > 1) {
+    }
+    if (points > 0 && commas > 0) {
+        ++(isPointLast ? m_english : m_german);
+    } else if (commas > 0) {
+        ++(commas > 1 ? m_english : m_german);
+    } else if (points > 1) {
         ++m_german;
-    } else if (point >= 0) {
-        const qsizetype decimals = digitsBehind(point);
+    } else if (points == 1) {
         m_thousands += decimals == 3 ? 1 : 0;
-        m_points += decimals > 0 && decimals != 3 ? 1 : 0; // three could be a group of thousands
+        m_points += decimals > 0 && decimals != 3 ? 1 : 0;
     }
 }
 

@@ -150,7 +150,7 @@ void AppendText(QStringList& lines, const pugi::xml_node& node)
     }
 }
 
-// Free lines; where there are none, the reference and the remarks of the structured form.
+// Free lines; where there are none, the reference and the remarks of the structured form, or what the bank adds.
 QStringList RemittanceOf(const pugi::xml_node& detail)
 {
     QStringList lines;
@@ -162,6 +162,9 @@ QStringList RemittanceOf(const pugi::xml_node& detail)
     for (const pugi::xml_node& node : remittance.children("Strd")) {
         AppendText(structured, node.child("CdtrRefInf").child("Ref"));
         AppendText(structured, node.child("AddtlRmtInf"));
+    }
+    if (lines.isEmpty() && structured.isEmpty()) {
+        AppendText(lines, detail.child("AddtlTxInf")); // card payments often have their text there
     }
     return lines.isEmpty() ? structured : lines;
 }
@@ -177,6 +180,16 @@ QString PurposeOf(const pugi::xml_node& entry, const pugi::xml_node& detail)
     purpose.Creditor = isDebit ? CreditorIdOf(detail) : QString();
     purpose.Lines = RemittanceOf(detail);
     purpose.UltimateOriginator = NameOf(detail.child("RltdPties").child(originator.Ultimate));
+    return modCamtText::Purpose(purpose);
+}
+
+// The texts of all transactions, as far as there is room.
+QString PurposeOfBatch(const std::vector<pugi::xml_node>& details)
+{
+    modCamtText::cPurpose purpose;
+    for (const pugi::xml_node& detail : details) {
+        purpose.Lines += RemittanceOf(detail);
+    }
     return modCamtText::Purpose(purpose);
 }
 
@@ -221,8 +234,13 @@ void cCamtEntry::SplitBatch()
 
 cImportEntryList cCamtEntry::Records() const
 {
+    if (IsClosedBatch()) {
+        cImportEntry record = Record({}, m_cents.value_or(0));
+        record.ImportPurpose = modStatementText::DecodeField(PurposeOfBatch(m_details));
+        return {record};
+    }
     if (m_parts.empty()) {
-        const pugi::xml_node detail = m_details.size() == 1 ? m_details.front() : pugi::xml_node();
+        const pugi::xml_node detail = m_details.empty() ? pugi::xml_node() : m_details.front();
         return {Record(detail, m_cents.value_or(0))};
     }
     cImportEntryList records;
@@ -246,8 +264,7 @@ cImportEntry cCamtEntry::Record(const pugi::xml_node& detail, qint64 cents) cons
     cImportEntry record;
     record.ImportAccount = m_account;
     record.ImportDate = value.isValid() ? value : noDate;
-    record.ImportType =
-        modStatementText::DecodeField(FirstOf(Text(m_entry.child("AddtlNtryInf")), Text(detail.child("AddtlTxInf"))));
+    record.ImportType = modStatementText::DecodeField(Text(m_entry.child("AddtlNtryInf")));
     record.ImportPurpose = modStatementText::DecodeField(PurposeOf(m_entry, detail));
     record.ImportBeneficiary = modStatementText::DecodeField(modCamtText::Name(party.Name));
     record.ImportBeneficiaryAccount = party.Account;

@@ -1,6 +1,7 @@
 #include "import/xml/modCamt.h"
 
 #include "base/cText.h"
+#include "import/modStatementText.h"
 #include "import/xml/modCamtDocument.h"
 #include "import/xml/modZip.h"
 
@@ -12,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr qsizetype headSize = 8000;                         // bytes in which the message must name itself
 constexpr qint64 largestArchive = qint64{512} * 1024 * 1024; // bytes of all its files together, unpacked
 
 bool IsXmlName(const QString& name)
@@ -72,15 +74,17 @@ cStatementRead ReadArchive(const QByteArray& zip, const cReadOptions& options)
 
 bool modCamt::IsCamt(const cStatementSource& source)
 {
-    return source.Text.isEmpty() ? modZip::IsZip(source.Bytes) && !XmlNames(source.Bytes).isEmpty()
-                                 : modCamtDocument::IsCamt(source.Text);
+    if (modZip::IsZip(source.Bytes)) {
+        return !XmlNames(source.Bytes).isEmpty();
+    }
+    return modCamtDocument::IsCamt(source.Bytes.isEmpty() ? source.Text
+                                                          : modStatementText::Decode(source.Bytes.left(headSize)));
 }
 
 cStatementRead modCamt::Read(const cStatementSource& source, const cReadOptions& options)
 {
-    if (source.Text.isEmpty()) {
+    if (modZip::IsZip(source.Bytes)) {
         return ReadArchive(source.Bytes, options);
     }
-    const bool hasUtf8 = !source.Bytes.isEmpty() && source.Bytes.isValidUtf8();
-    return modCamtDocument::Read(hasUtf8 ? source.Bytes : source.Text.toUtf8(), options);
+    return modCamtDocument::Read(source.Bytes.isEmpty() ? source.Text.toUtf8() : source.Bytes, options);
 }

@@ -55,8 +55,11 @@ QString modCamtText::Name(const QString& name)
 
 QString modCamtText::Purpose(const cPurpose& purpose)
 {
+    if (AreSubfields(purpose.Lines)) {
+        return modSepaPurpose::Rewrite(Joined(purpose.Lines, purposeSubfields));
+    }
     const QString remittance = purpose.Lines.join(u' ').trimmed();
-    if (AreSubfields(purpose.Lines) || BeginsWithKeyword(remittance)) {
+    if (BeginsWithKeyword(remittance)) {
         return modSepaPurpose::Rewrite(remittance);
     }
     QStringList subfields;

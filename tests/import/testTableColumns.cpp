@@ -1,0 +1,172 @@
+#include "import/table/modCell.h"
+#include "import/table/modColumnWords.h"
+#include "import/table/modTableRows.h"
+#include "import/table/modTableText.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// "date=1 amount=6": what is set, in a fixed order.
+QString Shown(const cColumnMap& map)
+{
+    const QList<std::pair<QString, int>> fields = {
+        {u"date"_s, map.Date},         {u"text"_s, map.Text},       {u"purpose"_s, map.Purpose[0]},
+        {u"p2"_s, map.Purpose[1]},     {u"p3"_s, map.Purpose[2]},   {u"name"_s, map.Name},
+        {u"account"_s, map.Account},   {u"bank"_s, map.BankCode},   {u"name2"_s, map.Name2},
+        {u"account2"_s, map.Account2}, {u"bank2"_s, map.BankCode2}, {u"amount"_s, map.Amount},
+        {u"debit"_s, map.Debit},       {u"credit"_s, map.Credit},   {u"currency"_s, map.Currency}};
+    QStringList shown;
+    for (const auto& [name, column] : fields) {
+        if (column >= 0) {
+            shown.append(name + u'=' + QString::number(column));
+        }
+    }
+    return shown.join(u' ');
+}
+
+} // namespace
+
+class testTableColumns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wordsOfTheHeader_data()
+    {
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<QString>("map");
+        const auto row = [](const char* name, const QString& header, const QString& map) {
+            QTest::newRow(name) << header << map;
+        };
+        row("value day replaces booking day, Währung is not told",
+            u"Buchungstag;Valuta;Auftraggeber/Empfänger;Kontonummer;BLZ;Verwendungszweck;Betrag;Währung"_s,
+            u"date=1 purpose=5 name=2 account=3 bank=4 amount=6"_s);
+        row("Konto alone is not told", u"Datum;Konto;Betrag"_s, u"date=0 amount=2"_s);
+        row("first of the days by 'Datum'", u"Datum;Wertstellungsdatum;Betrag"_s, u"date=0 amount=2"_s);
+        row("any letter case", u"bUCHUNGSTAG;BETRAG eur"_s, u"date=0 amount=1"_s);
+        row("text without purpose becomes the purpose", u"Datum;Buchungstext;Betrag"_s, u"date=0 purpose=1 amount=2"_s);
+        row("text beside a purpose", u"Datum;Buchungstext;Verwendungszweck;Betrag"_s,
+            u"date=0 text=1 purpose=2 amount=3"_s);
+        row("three lines of purpose", u"Datum;VWZ1;VWZ2;VWZ3;Betrag"_s, u"date=0 purpose=1 p2=2 p3=3 amount=4"_s);
+        row("debit and credit", u"Datum;Soll;Haben"_s, u"date=0 debit=1 credit=2"_s);
+        row("Gutschrift counts as debit, Belastung as credit", u"Datum;Gutschrift;Belastung"_s,
+            u"date=0 debit=1 credit=2"_s);
+        row("later amount replaces", u"Datum;Betrag;Umsatz"_s, u"date=0 amount=2"_s);
+        row("Soll/Haben does not", u"Datum;Betrag;Soll/Haben"_s, u"date=0 amount=1"_s);
+        row("nor a currency", u"Datum;Betrag;Umsatz Währung"_s, u"date=0 amount=1"_s);
+        row("who made it is no amount", u"Umsatz getätigt von;Belegdatum;Betrag"_s, u"date=1 amount=2"_s);
+        row("'buchung' counts in the first column only", u"Buchungszeit;Buchungszeit;Betrag"_s, u"date=0 amount=2"_s);
+        row("one name: the first account is the owner's",
+            u"Datum;Kontonummer;BLZ;Empfänger;Kontonummer 2;BLZ/BIC;Betrag"_s,
+            u"date=0 name=3 account=4 bank=5 account2=1 bank2=2 amount=6"_s);
+        row("two names: nothing is swapped", u"Datum;Empfänger 1;Kontonummer 1;Empfänger 2;Kontonummer 2;Betrag"_s,
+            u"date=0 name=1 account=2 name2=3 account2=4 amount=5"_s);
+        row("without a name all are names", u"Datum;Kontonummer;BLZ;Betrag"_s, u"date=0 name=1 amount=3"_s);
+        row("counter account by its own columns",
+            u"Datum;Kontonummer;Name;Gegenkonto;Gegenkonto BLZ;Gegenkonto Inhaber;Betrag"_s,
+            u"date=0 name=5 account=3 bank=4 bank2=1 amount=6"_s);
+        row("Dutch", u"Datum;Tegenrekening;Bedrag (EUR);MutatieSoort;Mededelingen"_s,
+            u"date=0 text=3 purpose=4 name=1 amount=2"_s);
+    }
+
+    void wordsOfTheHeader()
+    {
+        QFETCH(QString, header);
+        const cColumnMap map = modColumnWords::Detect(header.split(u';'));
+        QCOMPARE(map.ColumnCount, header.count(u';') + 1);
+        QTEST(Shown(map), "map");
+    }
+
+    void wildcards_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<bool>("isMatch");
+        QTest::newRow("whole name") << u"Umsatz"_s << u"Betrag|umsatz"_s << true;
+        QTest::newRow("not a part") << u"Umsatzart"_s << u"Umsatz"_s << false;
+        QTest::newRow("star") << u"Mein Umsatz heute"_s << u"*umsatz*"_s << true;
+        QTest::newRow("star needs nothing") << u"Umsatz"_s << u"*Umsatz*"_s << true;
+        QTest::newRow("star goes on looking") << u"Vwz Zeile 11"_s << u"Vwz*1"_s << true;
+        QTest::newRow("one character") << u"A1"_s << u"A?"_s << true;
+        QTest::newRow("digit") << u"A1"_s << u"A#"_s << true;
+        QTest::newRow("no digit") << u"AB"_s << u"A#"_s << false;
+        QTest::newRow("class") << u"Ab"_s << u"A[xb-c]"_s << true;
+        QTest::newRow("class turned round") << u"Ab"_s << u"A[!xb-c]"_s << false;
+        QTest::newRow("empty alternative") << QString() << u"A|"_s << true;
+    }
+
+    void wildcards()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, list);
+        QTEST(modCell::MatchesList(name, list), "isMatch");
+    }
+
+    void separators()
+    {
+        QCOMPARE(modTableText::SeparatorOf(u"a,b;c\td"), QChar(u';'));
+        QCOMPARE(modTableText::SeparatorOf(u"a,b\tc"), QChar(u','));
+        QCOMPARE(modTableText::SeparatorOf(u"a\tb"), QChar(u'\t'));
+        QCOMPARE(modTableText::SeparatorOf(u"a"), QChar(u'\t'));
+    }
+
+    void splits_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("rows"); // cells joined by "|"
+        const auto row = [](const char* name, const QString& text, const QStringList& rows) {
+            QTest::newRow(name) << text << rows;
+        };
+        row("line ends", u"a;b\r\nc\nd;\re"_s, {u"a|b"_s, u"c"_s, u"d|"_s, u"e"_s});
+        row("blanks and quotes go", u" a ; \"b\" ;\" c \""_s, {u"a|b|c"_s});
+        row("separator, break and doubled quote inside", u"\"a;b\nc\"\"d\"\"e\";f\ng"_s, {u"a;bc\"d\"e|f"_s, u"g"_s});
+        row("quote in the middle is a letter", u"a\"b;c\"\nd"_s, {u"a\"b|c\""_s, u"d"_s});
+        row("inner quotes that nobody doubled", u"\"Hotel \"Sonne\" Ulm\";b"_s, {u"Hotel \"Sonne\" Ulm|b"_s});
+        row("quote without end", u"\"a;b\nc;d"_s, {u"\"a|b"_s, u"c|d"_s});
+        row("empty fields", u"\"\";;\"\"\n;"_s, {u"||"_s, u"|"_s});
+        row("tabs inside become blanks", u"\"a\tb\";c"_s, {u"a b|c"_s});
+        row("empty lines stay rows", u"a\n\nb"_s, {u"a"_s, QString(), u"b"_s});
+    }
+
+    void splits()
+    {
+        QFETCH(QString, text);
+        const cTable table = modTableText::Split(text, u';', 0);
+        QStringList rows;
+        for (int row = 0; row < table.RowCount(); ++row) {
+            rows.append(table.Row(row).join(u'|'));
+        }
+        QTEST(rows, "rows");
+    }
+
+    void linesAboveTheHeaderStandForThemselves()
+    {
+        const cTable table = modTableText::Split(u"\"offen;x\nKonto;1\na,b\n\"1\n2\",3\n4"_s, u',', 2);
+        QCOMPARE(table.RowCount(), 5);
+        QCOMPARE(table.Row(1), QStringList({u"Konto"_s, u"1"_s}));
+        QCOMPARE(table.Row(3), QStringList({u"12"_s, u"3"_s}));
+        QCOMPARE(table.Line(4), 6);
+    }
+
+    void purposes_data()
+    {
+        QTest::addColumn<QString>("joined");
+        QTest::addColumn<QString>("purpose");
+        QTest::newRow("signs become blanks") << u"a;b\"c\""_s << u"a b c"_s;
+        QTest::newRow("doubled blanks") << u"a    b"_s << u"a b"_s;
+        QTest::newRow("line breaks") << u"a<BR><BR>b"_s << u"a\nb"_s;
+        QTest::newRow("SEPA") << u"EREF+1SVWZ+MieteABWA+Otto"_s << u"Miete (Otto)"_s;
+    }
+
+    void purposes()
+    {
+        QFETCH(QString, joined);
+        QTEST(modTableRows::CleanPurpose(joined), "purpose");
+    }
+};
+
+QTEST_GUILESS_MAIN(testTableColumns)
+#include "testTableColumns.moc"

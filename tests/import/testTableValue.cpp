@@ -1,0 +1,119 @@
+#include "import/table/modTableValue.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testTableValue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dates_data()
+    {
+        QTest::addColumn<QString>("cell");
+        QTest::addColumn<QDate>("date");
+        QTest::newRow("German") << u"03.02.2025"_s << QDate(2025, 2, 3);
+        QTest::newRow("short") << u"3.2.25"_s << QDate(2025, 2, 3);
+        QTest::newRow("two-digit years are of this century") << u"01.01.99"_s << QDate(2099, 1, 1);
+        QTest::newRow("other signs") << u"03-02/2025"_s << QDate(2025, 2, 3);
+        QTest::newRow("year first") << u"2025-02-03"_s << QDate(2025, 2, 3);
+        QTest::newRow("digits alone") << u"20250203"_s << QDate(2025, 2, 3);
+        QTest::newRow("with time") << u"03.02.2025 14:30:59"_s << QDate(2025, 2, 3);
+        QTest::newRow("with time and zone") << u"2025-02-03T14:30:00+01:00"_s << QDate(2025, 2, 3);
+        QTest::newRow("with letters") << u"Mo. 03.02.2025"_s << QDate(2025, 2, 3);
+        QTest::newRow("no such day") << u"30.02.2025"_s << QDate();
+        QTest::newRow("a number") << u"12"_s << QDate();
+        QTest::newRow("many digits") << u"999999999999999999999.1.1"_s << QDate();
+        QTest::newRow("empty") << QString() << QDate();
+    }
+
+    void dates()
+    {
+        QFETCH(QString, cell);
+        QTEST(modTableValue::ReadDate(cell), "date");
+    }
+
+    void otherOrders()
+    {
+        QCOMPARE(modTableValue::ReadDate(u"02/03/2025", eDateOrder::MonthDayYear), QDate(2025, 2, 3));
+        QCOMPARE(modTableValue::ReadDate(u"25-02-03", eDateOrder::YearMonthDay), QDate(2025, 2, 3));
+        QCOMPARE(modTableValue::ReadDate(u"2025-02-03", eDateOrder::MonthDayYear), QDate(2025, 2, 3));
+    }
+
+    void amounts_data()
+    {
+        QTest::addColumn<QString>("cell");
+        QTest::addColumn<QString>("number"); // empty: no number
+        const auto row = [](const char* cell, const char* number) {
+            QTest::newRow(cell) << QString::fromUtf8(cell) << QString::fromUtf8(number);
+        };
+        row("1.234,56-", "-1234.56");
+        row("(12,00)", "12");
+        row("-10,80 €", "-10.8");
+        row("EUR 1.234,50", "1234.5");
+        row("+$1,327.49", "1327.49");
+        row("-$76.00", "-76");
+        row("56.78", "56.78");
+        row("1.450", "1450");
+        row("1'095.00", "1095");
+        row("\u22125,00", "-5");
+        row("12,50 S", "-12.5");
+        row("12,50 H", "12.5");
+        row("siehe Anlage 3", "");
+        row("", "");
+        row("1,2,3 4-5", "");
+    }
+
+    void amounts()
+    {
+        QFETCH(QString, cell);
+        const std::optional<double> amount = modTableValue::ReadAmount(cell, eNumberFormat::Detect);
+        QTEST(amount ? QString::number(*amount, 'g', 12) : QString(), "number");
+    }
+
+    void formatOfAColumn_data()
+    {
+        QTest::addColumn<QStringList>("cells");
+        QTest::addColumn<eNumberFormat>("format");
+        const auto row = [](const char* name, const QStringList& cells, eNumberFormat format) {
+            QTest::newRow(name) << cells << format;
+        };
+        row("a point with two digits and never a comma", {u"10.50"_s, u"-4.0"_s, u"1"_s}, eNumberFormat::English);
+        row("one comma makes points group", {u"10.50"_s, u"1,00"_s}, eNumberFormat::German);
+        row("thousands alone", {u"1.450"_s, u"29.000"_s}, eNumberFormat::German);
+        row("thousands beside decimals", {u"29.000"_s, u"3.5"_s}, eNumberFormat::English);
+        row("both signs", {u"1,234.50"_s, u"5.00"_s}, eNumberFormat::English);
+        row("several groups", {u"1.234.567"_s}, eNumberFormat::German);
+        row("nothing", {}, eNumberFormat::German);
+    }
+
+    void formatOfAColumn()
+    {
+        QFETCH(QStringList, cells);
+        modTableValue::cNumberVote vote;
+        for (const QString& cell : cells) {
+            vote.Add(cell);
+        }
+        QTEST(vote.Decide(), "format");
+        QCOMPARE(vote.IsDoubtful(), cells.value(0) == u"1.450");
+    }
+
+    void looksLike()
+    {
+        QVERIFY(modTableValue::IsDate(u"2025-03-01 15:12:22"));
+        QVERIFY(!modTableValue::IsDate(u"Kontostand vom 31.01.2025"));
+        QVERIFY(!modTableValue::IsDate(u"12345678"));
+        QVERIFY(modTableValue::IsAmount(u"-48,00"));
+        QVERIFY(!modTableValue::IsAmount(u"31.01.2025"));
+        QVERIFY(!modTableValue::IsAmount(u"00012345864"));
+        QVERIFY(modTableValue::IsIban(u"DE02 1203 0000 0000 2020 51"));
+        QVERIFY(!modTableValue::IsIban(u"Deutsche Bahn Fernverkehr"));
+        QCOMPARE(modTableValue::IndicatorSign(u"Soll"), -1);
+        QCOMPARE(modTableValue::IndicatorSign(u"h"), 1);
+        QCOMPARE(modTableValue::IndicatorSign(u"x"), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(testTableValue)
+#include "testTableValue.moc"
