@@ -34,7 +34,7 @@ only '\b(TODO|FIXME|XXX)\b'                          'none/'                 'fi
 only '#include "store/'   'src/(store|app)/|src/(core|import|views)/[^/]+\.cpp|tests/|bench/|tools/' 'the store is reached by sources of core, import and views only'
 only '#include "import/'  'src/(import|app)/|src/views/[^/]+\.cpp|tests/|bench/|tools/' 'readers are composed in sources of views/'
 only '#include "views/'   'src/(views|windows|app)/|tests/|bench/|tools/' 'nothing below views/ sees it'
-only '#include "(windows|app)/' 'src/(windows|app)/|tests/(windows|app)/|tools/' 'nothing below windows/ sees it'
+only '#include "(windows|app)/' 'src/(windows|app)/|tests/(windows|app)/|bench/|tools/' 'nothing below windows/ sees it'
 
 # Texts explain themselves: they lean on no paper that a reader does not have.
 papers='[Ss]pec[i]fication|spec[.]md|\bParts? [0-9]+[.][0-9]|\bissu[e]\b|\bshared[/]|implement[e]r'
