@@ -368,10 +368,6 @@ Result: 0 done, 1 failed, 2 wrong usage. Messages go to standard error.
         <translation>, closing balance {0}</translation>
     </message>
     <message>
-        <source>  schon vorhanden: {0}  {1}  {2}</source>
-        <translation>  already there: {0}  {1}  {2}</translation>
-    </message>
-    <message>
         <source>  Zeile {0}: {1}</source>
         <translation>  Line {0}: {1}</translation>
     </message>
@@ -604,10 +600,6 @@ Which account do its transactions belong to?</translation>
     <message>
         <source>Dieses Format kann nicht eingelesen werden: {0}</source>
         <translation>This format cannot be imported: {0}</translation>
-    </message>
-    <message>
-        <source>Dieses Format wird noch nicht gelesen: {0}</source>
-        <translation>This format is not supported yet: {0}</translation>
     </message>
     <message>
         <source>Keine Angabe</source>
@@ -1208,10 +1200,6 @@ Entries booked from them will remain.</translation>
     <message>
         <source>Keine Daten</source>
         <translation>No data</translation>
-    </message>
-    <message>
-        <source>Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. Gelesen werden Dateien im Format MT940 und MT942.</source>
-        <translation>Drag a statement from your bank here or choose “Import file…”. Files in the formats MT940 and MT942 can be read.</translation>
     </message>
     <message>
         <source>Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.</source>
@@ -3892,6 +3880,492 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen.</source>
         <translation>An account number must be entered to assign the data to an account.</translation>
+    </message>
+    <message>
+        <source>Einen Umsatz mit der Nummer {0} gibt es nicht.</source>
+        <translation>There is no transaction with the number {0}.</translation>
+    </message>
+    <message>
+        <source>Der Umsatz vom {0} liegt dem Vorkommen vom {1} am nächsten und zählt zu diesem.</source>
+        <translation>The transaction of {0} is closest to the occurrence of {1} and counts towards that one.</translation>
+    </message>
+    <message>
+        <source>Umsatz {0} gehört zu Eintrag {1} vom {2}.</source>
+        <translation>Transaction {0} belongs to entry {1} of {2}.</translation>
+    </message>
+    <message>
+        <source>Das Vorkommen ist nun {0} statt {1}.</source>
+        <translation>The occurrence is now {0} instead of {1}.</translation>
+    </message>
+    <message>
+        <source>Der Umsatz ist {0}, das Vorkommen {1}; --correct gleicht es an.</source>
+        <translation>The transaction is {0}, the occurrence {1}; use --correct to adjust it.</translation>
+    </message>
+    <message>
+        <source>Die Serie {0} hat in der Nähe des {1} kein Vorkommen.</source>
+        <translation>The series {0} has no occurrence near {1}.</translation>
+    </message>
+    <message>
+        <source>Umsatz zugeordnet</source>
+        <translation>Transaction assigned</translation>
+    </message>
+    <message>
+        <source>Der Umsatz {0} ist nicht zugeordnet.</source>
+        <translation>The transaction {0} is not assigned.</translation>
+    </message>
+    <message>
+        <source>Umsätze freigegeben</source>
+        <translation>Transactions detached</translation>
+    </message>
+    <message>
+        <source>{0} Umsätze freigegeben</source>
+        <translation>{0} transactions detached</translation>
+    </message>
+    <message>
+        <source>ordnet einen Umsatz einem Eintrag zu; bei einer Serie dem Vorkommen, das am nächsten liegt</source>
+        <translation>assigns a transaction to an entry; of a series, to the closest occurrence</translation>
+    </message>
+    <message>
+        <source>das Vorkommen auf den Betrag des Umsatzes korrigieren</source>
+        <translation>correct the occurrence to the amount of the transaction</translation>
+    </message>
+    <message>
+        <source>löst Umsätze von ihren Einträgen; diese bleiben</source>
+        <translation>detaches transactions from their entries; the entries remain</translation>
+    </message>
+    <message>
+        <source>zeigt als JSON, woran eine Datei erkannt wird und wie &quot;import&quot; sie lesen würde</source>
+        <translation>shows as JSON what a file is recognised by and how &quot;import&quot; would read it</translation>
+    </message>
+    <message>
+        <source>  neu: {0}</source>
+        <translation>  new: {0}</translation>
+    </message>
+    <message>
+        <source>  schon vorhanden: {0}</source>
+        <translation>  already there: {0}</translation>
+    </message>
+    <message>
+        <source>eigene Kontonummer für Auszüge, die keine nennen; sie wird für CSV-Dateien gleichen Aufbaus gemerkt</source>
+        <translation>own account number for statements that give none; it is remembered for CSV files of the same layout</translation>
+    </message>
+    <message>
+        <source>nur lesen und zeigen, was neu wäre</source>
+        <translation>only read and show what would be new</translation>
+    </message>
+    <message>
+        <source>Umsatz</source>
+        <translation>Transaction</translation>
+    </message>
+    <message>
+        <source>Güte</source>
+        <translation>Score</translation>
+    </message>
+    <message>
+        <source>zugeordnet</source>
+        <translation>assigned</translation>
+    </message>
+    <message>
+        <source>vorgeschlagen</source>
+        <translation>proposed</translation>
+    </message>
+    <message>
+        <source>möglich</source>
+        <translation>possible</translation>
+    </message>
+    <message>
+        <source>vergeben</source>
+        <translation>taken</translation>
+    </message>
+    <message>
+        <source>Die Kontonummer &apos;{0}&apos; gehört zu keinem Konto; ihre Umsätze bleiben offen.</source>
+        <translation>The account number &apos;{0}&apos; belongs to no account; its transactions stay open.</translation>
+    </message>
+    <message>
+        <source>Umsätze zugeordnet</source>
+        <translation>Transactions assigned</translation>
+    </message>
+    <message>
+        <source>ordnet offene Umsätze den Einträgen zu, die schon im Haushaltsbuch stehen</source>
+        <translation>assigns open transactions to entries that are already in the book</translation>
+    </message>
+    <message>
+        <source>nur zeigen, wozu dieser Umsatz gehören kann</source>
+        <translation>only show what this transaction may belong to</translation>
+    </message>
+    <message>
+        <source>Vorkommen von Serien auf den Betrag des Umsatzes korrigieren</source>
+        <translation>correct occurrences of series to the amount of the transaction</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist keine Spalte. Möglich sind: {1}, jeweils mit der Nummer der Spalte, ab 0 gezählt: &quot;datum=0,betrag=5,zweck=3&quot;.</source>
+        <translation>&apos;{0}&apos; is not a column. Possible values: {1}, each with the number of the column, counted from 0: &quot;datum=0,betrag=5,zweck=3&quot;.</translation>
+    </message>
+    <message>
+        <source>--map braucht wenigstens &quot;datum&quot; und &quot;betrag&quot; (oder &quot;soll&quot;, &quot;haben&quot;).</source>
+        <translation>--map needs at least &quot;datum&quot; (date) and &quot;betrag&quot; (amount), or else &quot;soll&quot; (debit) or &quot;haben&quot; (credit).</translation>
+    </message>
+    <message>
+        <source>Den Zeichensatz &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation>There is no character set &apos;{0}&apos;. Possible values: {1}.</translation>
+    </message>
+    <message>
+        <source>Das Profil &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation>There is no profile &apos;{0}&apos;. Possible values: {1}.</translation>
+    </message>
+    <message>
+        <source>Zeichensatz, wenn Umlaute falsch erscheinen: {0}</source>
+        <translation>character set, if umlauts come out wrong: {0}</translation>
+    </message>
+    <message>
+        <source>bekannter Aufbau einer CSV-Datei, zum Beispiel &quot;DKB&quot;; &quot;-&quot; für keinen</source>
+        <translation>known layout of a CSV file, for example &quot;DKB&quot;; &quot;-&quot; for none</translation>
+    </message>
+    <message>
+        <source>alle Spalten einer CSV-Datei mit ihrer Nummer, ab 0 gezählt: &quot;datum=0,betrag=5,zweck=3&quot;; möglich sind {0}</source>
+        <translation>all columns of a CSV file with their numbers, counted from 0: &quot;datum=0,betrag=5,zweck=3&quot;; possible are {0}</translation>
+    </message>
+    <message>
+        <source>Zugeordnet: {0}, vorgeschlagen: {1}, offen: {2}</source>
+        <translation>Assigned: {0}, proposed: {1}, open: {2}</translation>
+    </message>
+    <message>
+        <source>, davon mit möglichen Einträgen: {0}</source>
+        <translation>, of these with possible entries: {0}</translation>
+    </message>
+    <message>
+        <source>; Umbuchungen zwischen eigenen Konten: {0}</source>
+        <translation>; transfers between own accounts: {0}</translation>
+    </message>
+    <message>
+        <source>; nicht gespeichert: {0}</source>
+        <translation>; not saved: {0}</translation>
+    </message>
+    <message>
+        <source>Betrag {0} statt {1}</source>
+        <translation>amount {0} instead of {1}</translation>
+    </message>
+    <message>
+        <source>einziger Eintrag mit diesem Betrag</source>
+        <translation>only entry with this amount</translation>
+    </message>
+    <message>
+        <source>gleicher Betrag</source>
+        <translation>same amount</translation>
+    </message>
+    <message>
+        <source>gleicher Tag</source>
+        <translation>same day</translation>
+    </message>
+    <message>
+        <source>einen Tag später</source>
+        <translation>one day later</translation>
+    </message>
+    <message>
+        <source>einen Tag früher</source>
+        <translation>one day earlier</translation>
+    </message>
+    <message>
+        <source>{0} Tage später</source>
+        <translation>{0} days later</translation>
+    </message>
+    <message>
+        <source>{0} Tage früher</source>
+        <translation>{0} days earlier</translation>
+    </message>
+    <message>
+        <source>passende Kategorie</source>
+        <translation>matching category</translation>
+    </message>
+    <message>
+        <source>Text ähnlich</source>
+        <translation>similar text</translation>
+    </message>
+    <message>
+        <source>Empfänger ähnlich</source>
+        <translation>similar payee</translation>
+    </message>
+    <message>
+        <source>wie frühere Umsätze</source>
+        <translation>like earlier transactions</translation>
+    </message>
+    <message>
+        <source>eigenes Konto</source>
+        <translation>own account</translation>
+    </message>
+    <message>
+        <source>Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen wurde der Monat zuerst.</source>
+        <translation>The file leaves open whether the day or the month comes first. It was read with the month first.</translation>
+    </message>
+    <message>
+        <source>SEPA-Kontoauszug (camt-Datei)</source>
+        <translation>SEPA statement (camt file)</translation>
+    </message>
+    <message>
+        <source>Die Tabelle ist zu groß für einen Kontoauszug.</source>
+        <translation>The table is too large for a statement.</translation>
+    </message>
+    <message>
+        <source>WAHR</source>
+        <translation>TRUE</translation>
+    </message>
+    <message>
+        <source>FALSCH</source>
+        <translation>FALSE</translation>
+    </message>
+    <message>
+        <source>Die Tabelle ist beschädigt oder zu groß. Es wurde nichts übernommen.</source>
+        <translation>The table is damaged or too large. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist beschädigt oder keine Arbeitsmappe. Es wurde nichts übernommen.</source>
+        <translation>The file is damaged or not a workbook. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>In der Datei sind keine Spalten mit Datum und Betrag zu erkennen.</source>
+        <translation>No columns with date and amount can be recognised in the file.</translation>
+    </message>
+    <message>
+        <source>Der Punkt in den Beträgen wurde als Tausenderpunkt gelesen.</source>
+        <translation>The point in the amounts was read as a thousands separator.</translation>
+    </message>
+    <message>
+        <source>Die Zeile hat keinen Betrag: {0}</source>
+        <translation>The line has no amount: {0}</translation>
+    </message>
+    <message>
+        <source>Der Umsatz ist noch vorgemerkt: {0}</source>
+        <translation>The transaction is still pending: {0}</translation>
+    </message>
+    <message>
+        <source>Die Zeile hat kein Datum: {0}</source>
+        <translation>The line has no date: {0}</translation>
+    </message>
+    <message>
+        <source>Der Umsatz in {0} verändert das Guthaben nicht: {1}</source>
+        <translation>The transaction in {0} does not change the balance: {1}</translation>
+    </message>
+    <message>
+        <source>Die Zeile ist ein Saldo und kein Umsatz: {0}</source>
+        <translation>The line is a balance, not a transaction: {0}</translation>
+    </message>
+    <message>
+        <source>Die Bank nennt diesen Umsatz noch vorgemerkt. Er wurde übernommen, weil er schon ein Buchungsdatum hat: {0}</source>
+        <translation>The bank still calls this transaction pending. It was imported because it already has a booking date: {0}</translation>
+    </message>
+    <message>
+        <source>Die Arbeitsmappe ist mit einem Kennwort geschützt. Bitte speichern Sie sie ohne Kennwort und lesen Sie sie noch einmal ein.</source>
+        <translation>The workbook is protected by a password. Please save it without a password and import it again.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitsmappe ist zu groß für einen Kontoauszug.</source>
+        <translation>The workbook is too large for a statement.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitsmappe kann nicht zwischengespeichert werden: {0}</source>
+        <translation>The workbook cannot be stored temporarily: {0}</translation>
+    </message>
+    <message>
+        <source>Die Arbeitsmappe ist beschädigt, verschlüsselt oder zu groß. Es wurde nichts übernommen.</source>
+        <translation>The workbook is damaged, encrypted or too large. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Das Tabellenblatt &apos;{0}&apos; ist zu groß für einen Kontoauszug.</source>
+        <translation>The sheet &apos;{0}&apos; is too large for a statement.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; im ZIP-Archiv ist beschädigt, verschlüsselt oder zu groß. Es wurde nichts übernommen.</source>
+        <translation>The file &apos;{0}&apos; in the ZIP archive is damaged, encrypted or too large. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; im ZIP-Archiv: {1}</source>
+        <translation>The file &apos;{0}&apos; in the ZIP archive: {1}</translation>
+    </message>
+    <message>
+        <source>Die XML-Datei ist kein Kontoauszug (camt.052, camt.053, camt.054).</source>
+        <translation>The XML file is not a statement (camt.052, camt.053, camt.054).</translation>
+    </message>
+    <message>
+        <source>Die XML-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen.</source>
+        <translation>The XML file is damaged or incomplete. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Der Umsatz ist nur vorgemerkt.</source>
+        <translation>The transaction is only pending.</translation>
+    </message>
+    <message>
+        <source>Der Umsatz hat kein lesbares Buchungsdatum.</source>
+        <translation>The transaction has no readable booking date.</translation>
+    </message>
+    <message>
+        <source>Der Umsatz hat keinen lesbaren Betrag.</source>
+        <translation>The transaction has no readable amount.</translation>
+    </message>
+    <message>
+        <source>Die Sammelbuchung wurde nicht aufgeteilt, weil die Einzelbeträge fehlen oder nicht ihre Summe ergeben.</source>
+        <translation>The collective transaction was not split, because its single amounts are missing or do not add up to its total.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte.</source>
+        <translation>The file contains no statement of a bank account or credit card.</translation>
+    </message>
+    <message>
+        <source>Die OFX-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen.</source>
+        <translation>The OFX file is damaged or incomplete. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Kein passender Eintrag</source>
+        <translation>No matching entry</translation>
+    </message>
+    <message>
+        <source>Gesucht wurde im Konto {0} nach Einträgen mit ähnlichem Betrag, bis {1} Tage vor und nach dem {2}. „Buchen“ macht aus dem Umsatz einen neuen Eintrag.</source>
+        <translation>The account {0} was searched for entries with a similar amount, up to {1} days before and after {2}. “Book” turns the transaction into a new entry.</translation>
+    </message>
+    <message>
+        <source>hat schon einen Umsatz; {0}</source>
+        <translation>already has a transaction; {0}</translation>
+    </message>
+    <message>
+        <source>Passt zu</source>
+        <translation>Match</translation>
+    </message>
+    <message>
+        <source>Kontonummer</source>
+        <translation>Account number</translation>
+    </message>
+    <message>
+        <source>{0} abgeglichen</source>
+        <translation>{0} matched</translation>
+    </message>
+    <message>
+        <source>Konto einer Kontonummer gewählt</source>
+        <translation>Account of an account number chosen</translation>
+    </message>
+    <message>
+        <source>Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. Gelesen werden Dateien im Format MT940, MT942, CSV, XLS, XLSX, OFX, QIF und camt.</source>
+        <translation>Drag a statement from your bank here or choose “Import file…”. Files in the formats MT940, MT942, CSV, XLS, XLSX, OFX, QIF and camt can be read.</translation>
+    </message>
+    <message>
+        <source>Es wurde nichts geändert, weil die Datenbank nicht schreibt.</source>
+        <translation>Nothing has been changed because the database could not be written.</translation>
+    </message>
+    <message>
+        <source>Bei einem zugeordneten Umsatz weicht der Betrag von der Serie ab.
+Soll die Serie für diesen Zeitraum auf den Betrag des Kontoauszugs korrigiert werden?</source>
+        <translation>The amount of one assigned transaction differs from the series.
+Do you want to correct the series for this period to the amount of the statement?</translation>
+    </message>
+    <message>
+        <source>Bei {0} zugeordneten Umsätzen weicht der Betrag von der Serie ab.
+Sollen die Serien für diese Zeiträume auf die Beträge des Kontoauszugs korrigiert werden?</source>
+        <translation>The amounts of {0} assigned transactions differ from the series.
+Do you want to correct the series for these periods to the amounts of the statement?</translation>
+    </message>
+    <message>
+        <source>Eine Serie auf den Betrag des Kontoauszugs korrigiert.</source>
+        <translation>One series corrected to the amount of the statement.</translation>
+    </message>
+    <message>
+        <source>{0} Beträge von Serien korrigiert.</source>
+        <translation>{0} amounts of series corrected.</translation>
+    </message>
+    <message>
+        <source>Abgleichen abgebrochen, es wurde nichts zugeordnet.</source>
+        <translation>Matching cancelled, nothing has been assigned.</translation>
+    </message>
+    <message>
+        <source>Umsätze abgleichen</source>
+        <translation>Match transactions</translation>
+    </message>
+    <message>
+        <source>Der Umsatz beträgt {0}, die Serie {1}.
+Soll die Serie für diesen Zeitraum auf den Betrag des Kontoauszugs korrigiert werden?</source>
+        <translation>The transaction is {0}, the series {1}.
+Do you want to correct the series for this period to the amount of the statement?</translation>
+    </message>
+    <message>
+        <source>Umsatz zuordnen</source>
+        <translation>Assign transaction</translation>
+    </message>
+    <message>
+        <source>Umsatz zugeordnet: {0}</source>
+        <translation>Transaction assigned: {0}</translation>
+    </message>
+    <message>
+        <source>{0} gelöst</source>
+        <translation>{0} detached</translation>
+    </message>
+    <message>
+        <source>{0} gelöst und wieder offen. Einträge bleiben im Haushaltsbuch.</source>
+        <translation>{0} detached and open again. Entries remain in the book.</translation>
+    </message>
+    <message>
+        <source>passt zu {0}</source>
+        <translation>matches {0}</translation>
+    </message>
+    <message>
+        <source>Umsätze ohne Kontonummer haben noch kein Konto und bleiben offen.</source>
+        <translation>Transactions without an account number have no account yet and stay open.</translation>
+    </message>
+    <message>
+        <source>Die Kontonummer {0} hat noch kein Konto; ihre Umsätze bleiben offen.</source>
+        <translation>The account number {0} has no account yet; its transactions stay open.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; vom {1}</source>
+        <translation>&apos;{0}&apos; of {1}</translation>
+    </message>
+    <message>
+        <source>{0} ({1})</source>
+        <translation>{0} ({1})</translation>
+    </message>
+    <message>
+        <source>{0} %</source>
+        <translation>{0}%</translation>
+    </message>
+    <message>
+        <source>Ab&amp;gleichen</source>
+        <translation>&amp;Match</translation>
+    </message>
+    <message>
+        <source>Zuo&amp;rdnen…</source>
+        <translation>&amp;Assign…</translation>
+    </message>
+    <message>
+        <source>L&amp;ösen</source>
+        <translation>De&amp;tach</translation>
+    </message>
+    <message>
+        <source>Findet zu den markierten oder allen gezeigten offenen Umsätzen die Einträge, die schon im Haushaltsbuch stehen (Strg+G)</source>
+        <translation>Finds the entries already in the book for the selected open transactions, or for all those shown (Ctrl+G)</translation>
+    </message>
+    <message>
+        <source>Zeigt die Einträge, zu denen der markierte Umsatz gehören kann (Strg+R)</source>
+        <translation>Shows the entries that the selected transaction may belong to (Ctrl+R)</translation>
+    </message>
+    <message>
+        <source>Macht die markierten gebuchten Umsätze wieder offen; die Einträge bleiben</source>
+        <translation>Makes the selected booked transactions open again; the entries remain</translation>
+    </message>
+    <message>
+        <source>Me&amp;hr</source>
+        <translation>Mo&amp;re</translation>
+    </message>
+    <message>
+        <source>Die Umsätze werden abgeglichen …</source>
+        <translation>Matching the transactions…</translation>
+    </message>
+    <message>
+        <source>&amp;Einträge, zu denen der Umsatz gehören kann:</source>
+        <translation>&amp;Entries the transaction may belong to:</translation>
+    </message>
+    <message>
+        <source>Mögliche Einträge</source>
+        <translation>Possible entries</translation>
+    </message>
+    <message>
+        <source>&amp;Zuordnen</source>
+        <translation>&amp;Assign</translation>
     </message>
 </context>
 </TS>

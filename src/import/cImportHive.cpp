@@ -70,6 +70,23 @@ void cImportHive::setImportEntryList(cImportEntryList entries)
     }
 }
 
+QStringList cImportHive::AccountsOf(const cImportEntryList& entries)
+{
+    QStringList accounts;
+    for (const cImportEntry& entry : entries) {
+        // Rows of one account stand together: the list is rarely searched.
+        if (accounts.isEmpty() || (accounts.last() != entry.ImportAccount && !accounts.contains(entry.ImportAccount))) {
+            accounts.append(entry.ImportAccount);
+        }
+    }
+    return accounts;
+}
+
+int cImportHive::NextId() const
+{
+    return m_entries.isEmpty() ? 1 : qMax(m_entries.first().ID, m_entries.last().ID) + 1;
+}
+
 qsizetype cImportHive::FindRow(int id) const
 {
     return Bisect(m_entries, id, IdOf);

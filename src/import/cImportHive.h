@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -17,6 +18,10 @@ public:
     // Takes the rows, sorted by ID upwards or downwards, and builds the assignment index.
     void setImportEntryList(cImportEntryList entries);
     [[nodiscard]] cImportEntryList getImportEntryList() const { return m_entries; }
+    // The own account numbers of a list in their order.
+    [[nodiscard]] static QStringList AccountsOf(const cImportEntryList& entries);
+    // An ID above that of every row.
+    [[nodiscard]] int NextId() const;
     [[nodiscard]] int Count() const { return static_cast<int>(m_entries.size()); }
 
     // True when a staged row is assigned to the entry.

@@ -27,6 +27,7 @@ struct cImportResult
     bool IsCancelled = false;  // the user stopped; what was staged until then stays
     QString Message;           // German; empty when all went well
     bool NeedsAccount = false; // refused only because the file names no account and none was given
+    cImportEntryList Rows;     // with eStagingRun::Try: what would have been staged
     QString Layout;            // name of the table layout that was recognised
     QString AccountKey;        // of a table, for cTableMemory
 };

@@ -3,6 +3,13 @@
 #include "import/cImportHiveCache.h"
 #include "model/cImportEntry.h"
 
+cStaging::cStaging(cImportHiveCache& hive, eStagingRun run) : m_hive(hive)
+{
+    if (run == eStagingRun::Try) {
+        m_trial = hive.GetImportHive();
+    }
+}
+
 eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
 {
     const bool isZero = !(entry.ImportValue < 0.0) && !(entry.ImportValue > 0.0);
@@ -10,8 +17,29 @@ eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
         return eStaged::Zero;
     }
     entry.Validate();
-    if (test == eDuplicateTest::Test && m_hive.GetImportHive().IsImportItemAvail(entry)) {
+    if (test == eDuplicateTest::Test && Hive().IsImportItemAvail(entry)) {
         return eStaged::Duplicate;
     }
-    return m_hive.Add(entry) ? eStaged::Staged : eStaged::Failed;
+    return Add(entry) ? eStaged::Staged : eStaged::Failed;
+}
+
+QStringList cStaging::Accounts()
+{
+    return cImportHive::AccountsOf(Hive().getImportEntryList());
+}
+
+const cImportHive& cStaging::Hive()
+{
+    return m_trial ? *m_trial : m_hive.GetImportHive();
+}
+
+bool cStaging::Add(cImportEntry& entry)
+{
+    if (!m_trial) {
+        return m_hive.Add(entry);
+    }
+    cImportEntry row = entry;
+    row.ID = m_trial->NextId();
+    m_trial->Add(row);
+    return true;
 }

@@ -1,21 +1,37 @@
 #pragma once
 
+#include "import/cImportHive.h"
+
+#include <QStringList>
+
+#include <optional>
+
 class cImportHiveCache;
 struct cImportEntry;
 
 enum class eDuplicateTest { Test, Skip };
 enum class eStaged { Staged, Zero, Duplicate, Failed };
+enum class eStagingRun { Write, Try };
 
 // The one way into table `import`, shared by all readers and by the online fetch.
 class cStaging
 {
 public:
-    explicit cStaging(cImportHiveCache& hive) : m_hive(hive) {}
+    // With eStagingRun::Try nothing is written; the object remembers the rows that it would have stored, so that it
+    // answers as if it had.
+    explicit cStaging(cImportHiveCache& hive, eStagingRun run = eStagingRun::Write);
 
     // Normalises the record and stores it, unless its amount is exactly 0 or an equal row is already staged. On Staged
-    // the record carries its ID. On Failed the user has already been told.
+    // the record carries its ID (0 when nothing is written). On Failed the user has already been told.
     [[nodiscard]] eStaged StageImportEntry(cImportEntry& entry, eDuplicateTest test);
 
+    // The own account numbers of the staged rows, in the order of the rows.
+    [[nodiscard]] QStringList Accounts();
+
 private:
+    [[nodiscard]] const cImportHive& Hive();
+    [[nodiscard]] bool Add(cImportEntry& entry);
+
     cImportHiveCache& m_hive;
+    std::optional<cImportHive> m_trial;
 };

@@ -4,13 +4,17 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "import/cStatementSource.h"
+#include "import/modAccountNumber.h"
 #include "import/modMT940.h"
 #include "import/modStatementFormat.h"
 #include "store/cDataAccess.h"
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -57,15 +61,51 @@ cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
     return Refuse(std::move(result), modStatementFormat::Refusal(format));
 }
 
-QStringList AccountsOf(const cImportEntryList& entries)
+// The form in which an account is staged: statements in one format name it by its number, others by its IBAN.
+class cKnownAccounts
 {
-    QStringList accounts;
-    for (const cImportEntry& entry : entries) {
-        if (accounts.isEmpty() || (accounts.last() != entry.ImportAccount && !accounts.contains(entry.ImportAccount))) {
-            accounts.append(entry.ImportAccount);
+public:
+    explicit cKnownAccounts(QStringList staged) : m_staged(std::move(staged)) {}
+
+    // The number itself when nothing is staged of the account, and when it could be several.
+    [[nodiscard]] const QString& FormOf(const QString& number)
+    {
+        auto known = m_forms.find(number);
+        if (known == m_forms.end()) {
+            known = m_forms.insert(number, Find(number));
         }
+        return *known;
     }
-    return accounts;
+
+private:
+    [[nodiscard]] QString Find(const QString& number) const
+    {
+        if (m_staged.contains(number)) {
+            return number;
+        }
+        QStringList same;
+        std::copy_if(m_staged.begin(), m_staged.end(), std::back_inserter(same),
+                     [&](const QString& staged) { return modAccountNumber::IsSame(number, {}, staged); });
+        return same.size() == 1 ? same.first() : number;
+    }
+
+    QStringList m_staged;
+    QHash<QString, QString> m_forms;
+};
+
+// Gives every row the form of its account that is staged already.
+void UseKnownAccounts(const QStringList& staged, cStatementRead& read)
+{
+    cKnownAccounts known(staged);
+    for (cImportEntry& entry : read.Entries) {
+        entry.ImportAccount = known.FormOf(entry.ImportAccount);
+    }
+    for (cSkippedRow& row : read.Skipped) {
+        row.Entry.ImportAccount = known.FormOf(row.Entry.ImportAccount);
+    }
+    for (cAccountBalance& balance : read.Balances) {
+        balance.Account = known.FormOf(balance.Account);
+    }
 }
 
 // Counts what becomes of each transaction. A database that refuses twice in a row will refuse the rest as well, and
@@ -109,6 +149,7 @@ void ReportFailures(cImportResult& result)
 
 cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory)
     : m_data(data),
+      m_hive(hive),
       m_staging(hive),
       m_memory(memory)
 {
@@ -142,13 +183,12 @@ cImportResult cStatementImport::Import(const cStatementSource& source, const cIm
         return RefuseFormat(std::move(result), format);
     }
     result.Format = modStatementFormat::Name(format);
-    if (m_data.IsReadOnly()) {
+    if (m_data.IsReadOnly() && options.Run == eStagingRun::Write) {
         return Refuse(std::move(result),
                       cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht "
                                 "übernommen werden."));
     }
-    const cStatementRead read =
-        reader(source, {options.DefaultAccount, options.MissingPurpose, options.Table, m_memory});
+    cStatementRead read = reader(source, {options.DefaultAccount, options.MissingPurpose, options.Table, m_memory});
     result.Layout = read.Layout;
     result.AccountKey = read.AccountKey;
     result.NeedsAccount = read.NeedsAccount;
@@ -161,7 +201,7 @@ cImportResult cStatementImport::Import(const cStatementSource& source, const cIm
                                              : read.Refusal);
     }
     progress.showProgressBar(static_cast<int>(read.Entries.size()));
-    Stage(read, options, progress, result);
+    Stage(std::move(read), options, progress, result);
     return result;
 }
 
@@ -169,21 +209,32 @@ double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& 
                                      const QString& defaultAccount)
 {
     progress.showProgressBar(modMT940::ProgressMaximum(text));
-    const cStatementRead read = modMT940::Read(text, defaultAccount);
+    cStatementRead read = modMT940::Read(text, defaultAccount);
     progress.addProgressValue(static_cast<int>(text.count(u":86:")));
     cImportResult result;
-    Stage(read, options, progress, result);
-    return modAmount::ToEuros(read.ClosingBalance.value_or(0));
+    Stage(std::move(read), options, progress, result);
+    return modAmount::ToEuros(result.ClosingBalance.value_or(0));
 }
 
-void cStatementImport::Stage(const cStatementRead& read, const cImportOptions& options, cProgress& progress,
+cStaging& cStatementImport::StagingFor(eStagingRun run)
+{
+    if (run == eStagingRun::Write) {
+        m_trial.reset(); // it would not know what is written now
+        return m_staging;
+    }
+    return m_trial ? *m_trial : m_trial.emplace(m_hive, run);
+}
+
+void cStatementImport::Stage(cStatementRead read, const cImportOptions& options, cProgress& progress,
                              cImportResult& result)
 {
+    cStaging& staging = StagingFor(options.Run);
+    UseKnownAccounts(staging.Accounts(), read);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;
     result.Skipped = read.Skipped;
-    result.Accounts = AccountsOf(read.Entries);
+    result.Accounts = cImportHive::AccountsOf(read.Entries);
     cTally tally(result);
     for (int i = 0; i < result.Read; ++i) {
         if (i > 0 && i % progressStep == 0) {
@@ -194,7 +245,11 @@ void cStatementImport::Stage(const cStatementRead& read, const cImportOptions& o
             break;
         }
         cImportEntry entry = read.Entries.at(i);
-        tally.Count(m_staging.StageImportEntry(entry, options.Duplicates), entry);
+        const eStaged outcome = staging.StageImportEntry(entry, options.Duplicates);
+        tally.Count(outcome, entry);
+        if (outcome == eStaged::Staged && options.Run == eStagingRun::Try) {
+            result.Rows.append(entry);
+        }
         if (tally.IsHopeless()) {
             tally.GiveUp(result.Read - i - 1);
             break;

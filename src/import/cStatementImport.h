@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class cDataAccess;
 class cImportHiveCache;
 class cProgress;
@@ -17,6 +19,7 @@ struct cImportOptions
     QString DefaultAccount; // own account number for statements that do not name theirs
     eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
     cTableChoice Table = {}; // what the user chose for a file in rows and columns
+    eStagingRun Run = eStagingRun::Write;
 };
 
 // Statement files into staged rows.
@@ -27,7 +30,8 @@ public:
     cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory = nullptr);
 
     // Reads a file of any format the program knows and stages its transactions. Whatever the file holds, the result
-    // says what happened; only a refusing database shows a message of its own.
+    // says what happened; only a refusing database shows a message of its own. An account that is already staged under
+    // its other form (IBAN or number) keeps that form, so that a booking is known again in another format.
     [[nodiscard]] cImportResult ImportFile(const QString& path, const cImportOptions& options, cProgress& progress);
 
     // The same for a text whose format the name and the content tell.
@@ -43,9 +47,12 @@ public:
 private:
     [[nodiscard]] cImportResult Import(const cStatementSource& source, const cImportOptions& options,
                                        cProgress& progress);
-    void Stage(const cStatementRead& read, const cImportOptions& options, cProgress& progress, cImportResult& result);
+    [[nodiscard]] cStaging& StagingFor(eStagingRun run);
+    void Stage(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result);
 
     cDataAccess& m_data;
+    cImportHiveCache& m_hive;
     cStaging m_staging;
+    std::optional<cStaging> m_trial; // of files that are only tried one after the other
     const cTableMemory* m_memory;
 };

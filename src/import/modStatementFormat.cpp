@@ -4,6 +4,7 @@
 #include "import/modMT940.h"
 #include "import/modQif.h"
 #include "import/modStatementText.h"
+#include "import/table/modSpreadsheet.h"
 #include "import/table/modTable.h"
 #include "import/xml/modCamt.h"
 #include "import/xml/modOfx.h"
@@ -22,9 +23,9 @@ bool EndsIn(const QString& name, const QStringList& ends)
     return std::any_of(ends.begin(), ends.end(), [&](const QString& end) { return name.endsWith(end); });
 }
 
-bool IsSpreadsheet(const QString& name, const cStatementSource& /*source*/)
+bool IsSpreadsheet(const QString& name, const cStatementSource& source)
 {
-    return EndsIn(name, {u".XLSX"_s, u".XLS"_s});
+    return EndsIn(name, {u".XLSX"_s, u".XLS"_s}) || modSpreadsheet::IsWorkbook(source);
 }
 
 bool IsPdf(const QString& name, const cStatementSource& /*source*/)
@@ -83,7 +84,7 @@ struct cFormat
 // Asked from top to bottom, the first recogniser that agrees decides. A new format is one line here.
 constexpr std::array formats = {
     cFormat{eStatementFormat::Spreadsheet, QT_TRANSLATE_NOOP("cText", "Tabellenkalkulation (XLS/XLSX-Datei)"),
-            IsSpreadsheet, nullptr},
+            IsSpreadsheet, modSpreadsheet::Read},
     cFormat{eStatementFormat::Pdf, QT_TRANSLATE_NOOP("cText", "Portable Document Format (PDF-Datei)"), IsPdf, nullptr},
     cFormat{eStatementFormat::Unknown, QT_TRANSLATE_NOOP("cText", "Unbekanntes Dateiformat"), IsRefused, nullptr},
     // Looks at the head of the text only, so it is asked before those that search all of it.
@@ -140,7 +141,5 @@ modStatementFormat::cReader modStatementFormat::Reader(eStatementFormat format)
 
 QString modStatementFormat::Refusal(eStatementFormat format)
 {
-    const bool isForeign = format == eStatementFormat::Unknown || format == eStatementFormat::Pdf;
-    return isForeign ? cText::Tr("Dieses Format kann nicht eingelesen werden: {0}", {Name(format)})
-                     : cText::Tr("Dieses Format wird noch nicht gelesen: {0}", {Name(format)});
+    return cText::Tr("Dieses Format kann nicht eingelesen werden: {0}", {Name(format)});
 }

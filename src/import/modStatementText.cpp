@@ -120,6 +120,15 @@ QString modStatementText::Decode(const QByteArray& bytes, eCharset charset)
     return text.remove(QChar::Null);
 }
 
+eCharset modStatementText::CharsetOf(const QByteArray& bytes)
+{
+    const auto marked = QStringConverter::encodingForData(bytes);
+    if (marked == QStringConverter::Utf16LE || marked == QStringConverter::Utf16BE) {
+        return marked == QStringConverter::Utf16LE ? eCharset::Utf16LE : eCharset::Utf16BE;
+    }
+    return Strict(bytes, QStringConverter::Utf8) ? eCharset::Utf8 : eCharset::Windows1252;
+}
+
 QString modStatementText::DecodeField(const QString& text)
 {
     if (IsAscii(text)) {

@@ -14,6 +14,9 @@ namespace modStatementText {
 // The same with a character set that the user chose.
 [[nodiscard]] QString Decode(const QByteArray& bytes, eCharset charset);
 
+// The character set that Decode takes when it is not told one.
+[[nodiscard]] eCharset CharsetOf(const QByteArray& bytes);
+
 // Repairs a single field: letters that a bank wrote as UTF-8 into a file that as a whole is not UTF-8. All other texts
 // come back unchanged.
 [[nodiscard]] QString DecodeField(const QString& text);

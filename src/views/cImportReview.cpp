@@ -17,6 +17,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/cAssignList.h"
 #include "views/modImportText.h"
 
 #include <QFileInfo>
@@ -39,7 +40,8 @@ struct cImportReview::cWorks
           Accounts(parts.Data, parts.Settings),
           Booking(parts.Data, Hive, Accounts),
           Memory(parts.Settings),
-          Import(parts.Data, Hive, &Memory)
+          Import(parts.Data, Hive, &Memory),
+          Matching({parts.Data, parts.Format, parts.User, Hive, Accounts, Booking})
     {
     }
 
@@ -60,6 +62,7 @@ struct cImportReview::cWorks
     {
         Proposer.reset();
         Proposals.clear();
+        Matching.ForgetProposals();
     }
 
     cImportHiveCache Hive;
@@ -67,6 +70,7 @@ struct cImportReview::cWorks
     cBooking Booking;
     cTableMemory Memory;
     cStatementImport Import;
+    cMatchFlow Matching;
     std::unique_ptr<cProposer> Proposer;
     QHash<int, cProposal> Proposals;
 };
@@ -253,18 +257,93 @@ void cImportReview::Book(const QList<int>& rowIds, cProgress& progress)
 {
     const cUndoStep step(m_parts.Data,
                          cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
-    QStringList numbers;
-    const cImportEntryList asked = OpenRows(rowIds);
-    for (const cImportEntry& row : asked) {
-        numbers.append(row.ImportAccount);
-    }
-    numbers.removeDuplicates();
-    AskAccounts(numbers);
+    AskAccountsOf(OpenRows(rowIds));
     const cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
     m_summary = modImportText::Booked(result);
     Refresh();
     Q_EMIT SummaryChanged();
     Q_EMIT EntriesChanged();
+}
+
+cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
+{
+    if (IsReadOnly()) {
+        return {};
+    }
+    const cImportHive& hive = m_works->Hive.GetImportHive();
+    const auto isBooked = [&](int id) {
+        const std::optional<cImportEntry> row = hive.GetImportEntryByID(id);
+        return row && row->ImportAssigned;
+    };
+    const bool hasBooked = std::any_of(rowIds.begin(), rowIds.end(), isBooked);
+    return {.Change = !rowIds.isEmpty(),
+            .Match = m_rows.OpenCount() > 0,
+            .Assign = rowIds.size() == 1 && !hasBooked,
+            .Release = hasBooked};
+}
+
+void cImportReview::Match(const QList<int>& rowIds, cProgress& progress)
+{
+    QList<int> ids;
+    const cImportEntryList chosen = OpenRows(rowIds);
+    for (const cImportEntry& row : chosen) {
+        ids.append(row.ID);
+    }
+    if (ids.size() < 2) {
+        // One row is selected nearly always, because the selection moves on from row to row.
+        ids = m_rows.OpenIds();
+    }
+    if (ids.isEmpty()) {
+        return;
+    }
+    const cUndoStep step(m_parts.Data,
+                         cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(ids.size()))}));
+    AskAccountsOf(OpenRows(ids));
+    Report(m_works->Matching.Match(ids, progress));
+}
+
+std::unique_ptr<cAssignList> cImportReview::StartAssign(const QList<int>& rowIds)
+{
+    const cImportEntryList rows = rowIds.size() == 1 ? OpenRows(rowIds) : cImportEntryList();
+    if (rows.isEmpty()) {
+        return nullptr;
+    }
+    const cUndoStep step(m_parts.Data, cText::Tr("Konto einer Kontonummer gewählt"));
+    AskAccountsOf(rows);
+    auto list = std::make_unique<cAssignList>(m_works->Matching, rows.constFirst());
+    connect(list.get(), &cAssignList::Tried, this, qOverload<const cMatchFlow::cOutcome&>(&cImportReview::Report));
+    return list;
+}
+
+void cImportReview::Release(const QList<int>& rowIds)
+{
+    Report(m_works->Matching.Release(rowIds));
+}
+
+void cImportReview::Report(const cMatchFlow::cOutcome& outcome)
+{
+    if (outcome.Lines.isEmpty()) {
+        return;
+    }
+    if (!outcome.IsDone) {
+        m_parts.Settings.Reload(); // an account chosen just before may have been taken back with the rest
+    }
+    m_summary = outcome.Lines;
+    Refresh();
+    Q_EMIT SummaryChanged();
+    if (outcome.HasCorrected) {
+        Q_EMIT EntriesChanged();
+    }
+}
+
+void cImportReview::AskAccountsOf(const cImportEntryList& rows)
+{
+    QStringList numbers;
+    for (const cImportEntry& row : rows) {
+        numbers.append(row.ImportAccount);
+    }
+    numbers.removeDuplicates();
+    AskAccounts(numbers);
 }
 
 cImportEntryList cImportReview::OpenRows(const QList<int>& rowIds)
@@ -381,7 +460,7 @@ QString cImportReview::EmptyHint() const
 {
     if (m_rows.TotalCount() == 0) {
         return cText::Tr("Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. "
-                         "Gelesen werden Dateien im Format MT940 und MT942.");
+                         "Gelesen werden Dateien im Format MT940, MT942, CSV, XLS, XLSX, OFX, QIF und camt.");
     }
     if (IsOpenOnly() && m_rows.OpenCount() == 0) {
         return cText::Tr("Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.");
@@ -415,10 +494,12 @@ cStagedInfo cImportReview::Info(const cImportEntry& row)
     const cProposal proposal = m_works->Propose(row, m_parts.Data);
     const cChoice choice = m_choices.value(row.ID);
     const bool isOwnChoice = !choice.Category.isEmpty() || !choice.Interval.isEmpty();
+    const QString reason = isOwnChoice ? cText::Tr("von Hand gewählt") : modImportText::Reason(proposal);
+    const QString match = m_works->Matching.Proposal(row.ID);
     return {modImportText::Accounts(proposal.Entry),
             choice.Category.isEmpty() ? proposal.Entry.EntryCategory : choice.Category,
             choice.Interval.isEmpty() ? proposal.Entry.EntryInterval : choice.Interval,
-            isOwnChoice ? cText::Tr("von Hand gewählt") : modImportText::Reason(proposal)};
+            match.isEmpty() ? reason : match}; // booking would add what is there already, so this goes first
 }
 
 cStagedInfo cImportReview::BookedInfo(const cImportEntry& row)

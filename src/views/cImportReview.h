@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cImportEntry.h"
+#include "views/cMatchFlow.h"
 #include "views/cStagedListModel.h"
 
 #include <QHash>
@@ -11,6 +12,7 @@
 #include <memory>
 
 class cAmountFormat;
+class cAssignList;
 class cDataAccess;
 class cProgress;
 class cSettings;
@@ -54,6 +56,25 @@ public:
 
     // Books the rows as shown. Those that are booked already are passed over.
     void Book(const QList<int>& rowIds, cProgress& progress);
+
+    // What can be done with the rows that are selected.
+    struct cActions
+    {
+        bool Change = false; // book and delete
+        bool Match = false;  // also without a selection
+        bool Assign = false;
+        bool Release = false;
+    };
+    [[nodiscard]] cActions ActionsFor(const QList<int>& rowIds);
+    // Assigns open rows to the entries in the book that they belong to: those given when they are several, else all
+    // that are shown.
+    void Match(const QList<int>& rowIds, cProgress& progress);
+    // The entries that one open row may belong to; empty when it is not one row, or it is not open. The list tells the
+    // review what was assigned, and the review outlives it.
+    [[nodiscard]] std::unique_ptr<cAssignList> StartAssign(const QList<int>& rowIds);
+    // Sets booked rows back to open; the entries stay.
+    void Release(const QList<int>& rowIds);
+
     // Removes the rows after a question; entries made from them stay.
     void Delete(const QList<int>& rowIds);
 
@@ -97,10 +118,12 @@ private:
     void LoadRows();
     [[nodiscard]] cImportResult ImportFile(const QString& path, cProgress& progress);
     void Report(const cImportResult& result);
+    void Report(const cMatchFlow::cOutcome& outcome);
     void ShowRefusals(const QStringList& refusals);
     void AskAccounts(const QStringList& numbers);
     void ReportNew(int newest); // rows with a higher ID
     [[nodiscard]] cImportEntryList OpenRows(const QList<int>& rowIds);
+    void AskAccountsOf(const cImportEntryList& rows);
     [[nodiscard]] QHash<int, cProposal> Chosen(const cImportEntryList& rows);
     [[nodiscard]] cStagedInfo BookedInfo(const cImportEntry& row);
 

@@ -181,6 +181,17 @@ QModelIndexList cStagedListModel::IndexesOf(const QList<int>& ids) const
     return indexes;
 }
 
+QList<int> cStagedListModel::OpenIds() const
+{
+    QList<int> ids;
+    for (const qsizetype i : m_order) {
+        if (!m_rows.at(i).ImportAssigned) {
+            ids.append(m_rows.at(i).ID);
+        }
+    }
+    return ids;
+}
+
 const cStagedInfo& cStagedListModel::InfoOf(const cImportEntry& row) const
 {
     auto found = m_info.find(row.ID);

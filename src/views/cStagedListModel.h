@@ -63,6 +63,7 @@ public:
 
     [[nodiscard]] int IdAt(const QModelIndex& index) const;
     [[nodiscard]] QModelIndexList IndexesOf(const QList<int>& ids) const;
+    [[nodiscard]] QList<int> OpenIds() const; // of the rows shown
     [[nodiscard]] qsizetype TotalCount() const { return m_rows.size(); }
     [[nodiscard]] qsizetype OpenCount() const { return m_openCount; }
 

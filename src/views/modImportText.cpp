@@ -6,9 +6,12 @@
 #include "core/cAmountFormat.h"
 #include "import/cBooking.h"
 #include "import/cImportResult.h"
+#include "import/cMatch.h"
 #include "import/cProposal.h"
 
 #include <QFileInfo>
+
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -103,6 +106,29 @@ QString modImportText::NoAccount(const QString& number)
     return number.isEmpty()
         ? cText::Tr("Umsätze ohne Kontonummer haben noch kein Konto und werden nicht gebucht.")
         : cText::Tr("Die Kontonummer {0} hat noch kein Konto; ihre Umsätze werden nicht gebucht.", {number});
+}
+
+QString modImportText::NoAccountToMatch(const QString& number)
+{
+    return number.isEmpty()
+        ? cText::Tr("Umsätze ohne Kontonummer haben noch kein Konto und bleiben offen.")
+        : cText::Tr("Die Kontonummer {0} hat noch kein Konto; ihre Umsätze bleiben offen.", {number});
+}
+
+QString modImportText::EntryName(const cEntryItem& entry)
+{
+    const QString text = entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
+    return cText::Tr("'{0}' vom {1}", {text.simplified(), entry.EntryDate.toString(u"dd.MM."_s)});
+}
+
+QString modImportText::Candidate(const cMatchCandidate& candidate)
+{
+    return cText::Tr("{0} ({1})", {EntryName(candidate.Entry), Percent(candidate.Score)});
+}
+
+QString modImportText::Percent(double share)
+{
+    return cText::Tr("{0} %", {QString::number(std::lround(share * 100.0))});
 }
 
 QString modImportText::Accounts(const cEntryItem& entry)

@@ -8,6 +8,7 @@ struct cBookingResult;
 struct cEntryItem;
 struct cImportEntry;
 struct cImportResult;
+struct cMatchCandidate;
 struct cProposal;
 
 // What the page of bank statements says, in words.
@@ -26,6 +27,18 @@ namespace modImportText {
 
 // Rows of a number that still has no account
 [[nodiscard]] QString NoAccount(const QString& number);
+
+// The same where such rows are compared with entries
+[[nodiscard]] QString NoAccountToMatch(const QString& number);
+
+// An entry or an occurrence by its text, else by its category: "'Miete' vom 03.03."
+[[nodiscard]] QString EntryName(const cEntryItem& entry);
+
+// With how well it fits: "'Miete' vom 03.03. (85 %)"
+[[nodiscard]] QString Candidate(const cMatchCandidate& candidate);
+
+// A share from 0 to 1: "85 %"
+[[nodiscard]] QString Percent(double share);
 
 // "Girokonto", for a transfer "Girokonto → Sparkonto"
 [[nodiscard]] QString Accounts(const cEntryItem& entry);

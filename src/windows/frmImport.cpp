@@ -1,19 +1,23 @@
 #include "windows/frmImport.h"
 
 #include "base/cText.h"
+#include "views/cAssignList.h"
 #include "views/cImportReview.h"
+#include "windows/cDuplicatesBox.h"
 #include "windows/cProgressBox.h"
 #include "windows/cStagedDelegate.h"
 #include "windows/cStagedTree.h"
+#include "windows/frmZuordnung.h"
 #include "windows/modDrop.h"
 #include "windows/modIcon.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -24,7 +28,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int mostSummaryLines = 5; // more of them scroll
-constexpr int duplicateLines = 5;
 
 } // namespace
 
@@ -33,16 +36,14 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
       m_review(review),
       m_import(new QPushButton(modIcon::Get(u"import"_s), cText::Tr("Datei i&mportieren…"), this)),
       m_book(new QPushButton(modIcon::Get(u"buchen"_s), cText::Tr("B&uchen"), this)),
-      m_delete(new QPushButton(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
+      m_match(new QPushButton(modIcon::Get(u"zusammen"_s), cText::Tr("Ab&gleichen"), this)),
+      m_assign(new QPushButton(cText::Tr("Zuo&rdnen…"), this)),
+      m_release(new QAction(cText::Tr("L&ösen"), this)),
+      m_delete(new QAction(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
       m_openOnly(new QCheckBox(cText::Tr("&Nur offene"), this)),
       m_filter(new QLineEdit(this)),
       m_count(new QLabel(this)),
       m_tree(new cStagedTree(review.Rows(), this)),
-      m_duplicates(new QWidget(this)),
-      m_duplicatesTitle(new QLabel(this)),
-      m_duplicatesList(new QListWidget(this)),
-      m_stageDuplicates(new QPushButton(cText::Tr("Trot&zdem übernehmen"), this)),
-      m_dropDuplicates(new QPushButton(cText::Tr("&Schließen"), this)),
       m_summary(new QPlainTextEdit(this))
 {
     setAcceptDrops(true);
@@ -50,7 +51,7 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
     layout->setContentsMargins(8, 8, 8, 4);
     layout->addLayout(BuildBar());
     layout->addWidget(m_tree, 1);
-    layout->addWidget(BuildDuplicates());
+    layout->addWidget(new cDuplicatesBox(m_review, this));
     layout->addWidget(m_summary);
     m_summary->setReadOnly(true);
     m_summary->setTabChangesFocus(true);
@@ -64,7 +65,9 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
 QBoxLayout* frmImport::BuildBar()
 {
     m_book->setToolTip(cText::Tr("Bucht die markierten Umsätze (Eingabetaste)"));
-    m_delete->setToolTip(cText::Tr("Löscht die markierten Umsätze (Entf); gebuchte Einträge bleiben"));
+    m_match->setToolTip(cText::Tr("Findet zu den markierten oder allen gezeigten offenen Umsätzen die Einträge, die "
+                                  "schon im Haushaltsbuch stehen (Strg+G)"));
+    m_assign->setToolTip(cText::Tr("Zeigt die Einträge, zu denen der markierte Umsatz gehören kann (Strg+R)"));
     m_openOnly->setChecked(m_review.IsOpenOnly());
     m_filter->setClearButtonEnabled(true);
     m_filter->setPlaceholderText(cText::Tr("Name, Zweck, Betrag …"));
@@ -73,7 +76,9 @@ QBoxLayout* frmImport::BuildBar()
     auto* bar = new QHBoxLayout;
     bar->addWidget(m_import);
     bar->addWidget(m_book);
-    bar->addWidget(m_delete);
+    bar->addWidget(m_match);
+    bar->addWidget(m_assign);
+    bar->addWidget(BuildMore());
     bar->addSpacing(12);
     bar->addWidget(m_openOnly);
     bar->addSpacing(12);
@@ -84,26 +89,17 @@ QBoxLayout* frmImport::BuildBar()
     return bar;
 }
 
-QWidget* frmImport::BuildDuplicates()
+QPushButton* frmImport::BuildMore()
 {
-    auto* buttons = new QVBoxLayout;
-    buttons->addWidget(m_stageDuplicates);
-    buttons->addWidget(m_dropDuplicates);
-    buttons->addStretch();
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_duplicatesList, 1);
-    row->addLayout(buttons);
-    auto* layout = new QVBoxLayout(m_duplicates);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_duplicatesTitle);
-    layout->addLayout(row);
-    m_duplicatesTitle->setBuddy(m_duplicatesList);
-    m_duplicatesList->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_duplicatesList->setUniformItemSizes(true);
-    m_duplicatesList->setAccessibleName(cText::Tr("Schon vorhandene Umsätze"));
-    m_duplicatesList->setFixedHeight((fontMetrics().height() + 2) * duplicateLines
-                                     + 2 * m_duplicatesList->frameWidth());
-    return m_duplicates;
+    auto* menu = new QMenu(this);
+    menu->setToolTipsVisible(true);
+    menu->addAction(m_release);
+    menu->addAction(m_delete);
+    m_release->setToolTip(cText::Tr("Macht die markierten gebuchten Umsätze wieder offen; die Einträge bleiben"));
+    m_delete->setToolTip(cText::Tr("Löscht die markierten Umsätze (Entf); gebuchte Einträge bleiben"));
+    auto* more = new QPushButton(cText::Tr("Me&hr"), this);
+    more->setMenu(menu);
+    return more;
 }
 
 void frmImport::Connect()
@@ -117,23 +113,38 @@ void frmImport::Connect()
     connect(delegate, &cStagedDelegate::Chosen, this, &frmImport::TakeChoice);
     connect(m_import, &QPushButton::clicked, this, &frmImport::ChooseFiles);
     connect(m_book, &QPushButton::clicked, this, &frmImport::BookSelected);
-    connect(m_delete, &QPushButton::clicked, this, &frmImport::DeleteSelected);
     connect(m_tree, &cStagedTree::BookRequested, this, &frmImport::BookSelected);
     connect(m_tree, &cStagedTree::DeleteRequested, this, &frmImport::DeleteSelected);
     connect(m_openOnly, &QCheckBox::toggled, &m_review, &cImportReview::SetOpenOnly);
     connect(m_filter, &QLineEdit::textChanged, &m_review, &cImportReview::SetFilter);
-    connect(m_stageDuplicates, &QPushButton::clicked, this, &frmImport::StageDuplicates);
-    connect(m_dropDuplicates, &QPushButton::clicked, &m_review, &cImportReview::DropDuplicates);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmImport::ShowButtons);
-    connect(m_duplicatesList, &QListWidget::itemSelectionChanged, this, &frmImport::ShowButtons);
     connect(&m_review, &cImportReview::RowsChanged, this, &frmImport::ShowRows);
     connect(&m_review, &cImportReview::RowsStaged, m_tree, &cStagedTree::SelectIds);
     connect(&m_review, &cImportReview::SummaryChanged, this, &frmImport::ShowSummary);
-    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(key)), this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, &frmImport::BookSelected);
-    }
+    ConnectActions();
+}
+
+void frmImport::ConnectActions()
+{
+    connect(m_match, &QPushButton::clicked, this, &frmImport::Match);
+    connect(m_assign, &QPushButton::clicked, this, &frmImport::AssignSelected);
+    connect(m_release, &QAction::triggered, this, &frmImport::ReleaseSelected);
+    connect(m_delete, &QAction::triggered, this, &frmImport::DeleteSelected);
+    // Through the buttons, so that a key does nothing when its button cannot.
+    AddKey(Qt::CTRL | Qt::Key_Return, m_book);
+    AddKey(Qt::CTRL | Qt::Key_Enter, m_book);
+    AddKey(Qt::CTRL | Qt::Key_G, m_match);
+    AddKey(Qt::CTRL | Qt::Key_R, m_assign);
+    m_release->setShortcut(Qt::CTRL | Qt::Key_L);
+    m_release->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(m_release);
+}
+
+void frmImport::AddKey(const QKeySequence& keys, QPushButton* button)
+{
+    auto* shortcut = new QShortcut(keys, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
 }
 
 void frmImport::ChooseFiles()
@@ -154,6 +165,24 @@ void frmImport::BookSelected()
     m_review.Book(m_tree->SelectedIds(), progress);
 }
 
+void frmImport::Match()
+{
+    cProgressBox progress(this, cText::Tr("Die Umsätze werden abgeglichen …"));
+    m_review.Match(m_tree->SelectedIds(), progress);
+}
+
+void frmImport::AssignSelected()
+{
+    if (const std::unique_ptr<cAssignList> list = m_review.StartAssign(m_tree->SelectedIds())) {
+        frmZuordnung(*list, this).exec();
+    }
+}
+
+void frmImport::ReleaseSelected()
+{
+    m_review.Release(m_tree->SelectedIds());
+}
+
 void frmImport::DeleteSelected()
 {
     m_review.Delete(m_tree->SelectedIds());
@@ -172,16 +201,6 @@ void frmImport::TakeChoice(const QModelIndex& index, const QString& text)
     }
 }
 
-void frmImport::StageDuplicates()
-{
-    QList<int> places;
-    const QModelIndexList rows = m_duplicatesList->selectionModel()->selectedRows();
-    for (const QModelIndex& row : rows) {
-        places.append(row.row());
-    }
-    m_review.StageDuplicates(places);
-}
-
 void frmImport::ShowRows()
 {
     m_tree->SetEmptyText(m_review.EmptyTitle(), m_review.EmptyHint());
@@ -191,11 +210,13 @@ void frmImport::ShowRows()
 
 void frmImport::ShowButtons()
 {
-    const bool canChange = !m_review.IsReadOnly() && m_tree->selectionModel()->hasSelection();
-    m_book->setEnabled(canChange);
-    m_delete->setEnabled(canChange);
+    const cImportReview::cActions can = m_review.ActionsFor(m_tree->SelectedIds());
+    m_book->setEnabled(can.Change);
+    m_match->setEnabled(can.Match);
+    m_assign->setEnabled(can.Assign);
+    m_release->setEnabled(can.Release);
+    m_delete->setEnabled(can.Change);
     m_import->setEnabled(!m_review.IsReadOnly());
-    m_stageDuplicates->setEnabled(!m_duplicatesList->selectedItems().isEmpty());
 }
 
 void frmImport::ShowSummary()
@@ -206,13 +227,6 @@ void frmImport::ShowSummary()
     const int shown = qBound(1, static_cast<int>(lines.size()), mostSummaryLines);
     const int frame = m_summary->frameWidth() + static_cast<int>(m_summary->document()->documentMargin());
     m_summary->setFixedHeight(fontMetrics().lineSpacing() * shown + 2 * frame + 4);
-
-    const QStringList duplicates = m_review.Duplicates();
-    m_duplicates->setVisible(!duplicates.isEmpty());
-    m_duplicatesList->clear();
-    m_duplicatesList->addItems(duplicates);
-    m_duplicatesTitle->setText(cText::Tr("Schon vorhanden und nicht noch einmal übernommen:"));
-    ShowButtons();
 }
 
 void frmImport::showEvent(QShowEvent* event)

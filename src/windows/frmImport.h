@@ -5,11 +5,12 @@
 
 class cImportReview;
 class cStagedTree;
+class QAction;
 class QBoxLayout;
 class QCheckBox;
+class QKeySequence;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -32,12 +33,16 @@ protected:
 
 private:
     QBoxLayout* BuildBar();
-    QWidget* BuildDuplicates();
+    QPushButton* BuildMore();
     void Connect();
+    void ConnectActions();
+    void AddKey(const QKeySequence& keys, QPushButton* button);
     void BookSelected();
+    void Match();
+    void AssignSelected();
+    void ReleaseSelected();
     void DeleteSelected();
     void TakeChoice(const QModelIndex& index, const QString& text);
-    void StageDuplicates();
     void ShowRows();
     void ShowButtons();
     void ShowSummary();
@@ -45,15 +50,13 @@ private:
     cImportReview& m_review;
     QPushButton* m_import;
     QPushButton* m_book;
-    QPushButton* m_delete;
+    QPushButton* m_match;
+    QPushButton* m_assign;
+    QAction* m_release;
+    QAction* m_delete;
     QCheckBox* m_openOnly;
     QLineEdit* m_filter;
     QLabel* m_count;
     cStagedTree* m_tree;
-    QWidget* m_duplicates;
-    QLabel* m_duplicatesTitle;
-    QListWidget* m_duplicatesList;
-    QPushButton* m_stageDuplicates;
-    QPushButton* m_dropDuplicates;
     QPlainTextEdit* m_summary;
 };

@@ -69,7 +69,7 @@ private Q_SLOTS:
                                               18)
                                 << u"Unbekanntes Dateiformat"_s;
         QTest::newRow("spreadsheet") << u"a.xls"_s << QByteArray("\xD0\xCF\0", 3)
-                                     << u"wird noch nicht gelesen: Tabellen"_s;
+                                     << u"ist beschädigt oder keine Arbeitsmappe"_s;
         QTest::newRow("text") << u"a.txt"_s << QByteArray("Hallo") << u"keine Spalten mit Datum und Betrag"_s;
         QTest::newRow("PDF") << u"a.pdf"_s << QByteArray("%PDF") << u"kann nicht eingelesen werden: Portable"_s;
     }
@@ -156,6 +156,55 @@ private Q_SLOTS:
         QCOMPARE(book.Hive.GetImportHive().GetImportEntryCountByNumber(u"4711"_s), 1);
         QCOMPARE(import.ImportMT940(progress, {}, text + u":20:B\r\n:86:x\r\n", u"4711"_s), 0.0);
         QCOMPARE(import.ImportMT940(progress, {}, {}, {}), 0.0);
+    }
+
+    void knowsAccountInItsOtherForm_data()
+    {
+        QTest::addColumn<QByteArray>("line"); // of the account in the file that is read first
+        QTest::addColumn<QString>("account");
+        QTest::addColumn<int>("duplicates");
+        QTest::newRow("bank code and number") << QByteArray("10020030/0001234567") << u"1234567"_s << 3;
+        QTest::newRow("number") << QByteArray("1234567") << u"1234567"_s << 3;
+        QTest::newRow("IBAN") << QByteArray("DE02100200300001234567") << u"DE02100200300001234567"_s << 3;
+        QTest::newRow("another account") << QByteArray("1234568") << u"1234568"_s << 0;
+    }
+
+    // The same month as MT940 and as camt, which names the account by its IBAN.
+    void knowsAccountInItsOtherForm()
+    {
+        QFETCH(const QByteArray, line);
+        QFETCH(const QString, account);
+        QFETCH(const int, duplicates);
+        QFile file(QStringLiteral(TEST_DATA "/camt/giro.sta"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll().replace("DE02100200300001234567", line));
+        cImportBook book;
+        cNoProgress progress;
+        cStatementImport import(book.Data, book.Hive);
+        QCOMPARE(import.ImportText(u"giro.sta"_s, text, {}, progress).Accounts, QStringList(account));
+        const cImportResult second = import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
+        QCOMPARE(second.Duplicates.size(), duplicates);
+        QCOMPARE(second.Accounts, QStringList(duplicates > 0 ? account : u"DE02100200300001234567"_s));
+        QCOMPARE(second.Skipped.first().Entry.ImportAccount, second.Accounts.first());
+    }
+
+    void triesWithoutWriting()
+    {
+        cImportBook book;
+        cNoProgress progress;
+        cStatementImport import(book.Data, book.Hive);
+        cImportOptions options;
+        options.Run = eStagingRun::Try;
+        const cImportResult tried = import.ImportFile(fixture, options, progress);
+        QCOMPARE(QList<int>({tried.Read, tried.Staged, tried.Zero}), QList<int>({6, 5, 1}));
+        QCOMPARE(import.ImportFile(fixture, options, progress).Duplicates.size(), 5); // as if the first had been staged
+        QVERIFY(book.Data.GetImportEntries().isEmpty());
+        QVERIFY(import.ImportFile(fixture, {}, progress).Rows.isEmpty());
+        cImportEntryList staged = book.Data.GetImportEntries();
+        for (cImportEntry& row : staged) {
+            row.ID = 0;
+        }
+        QCOMPARE(tried.Rows, staged);
     }
 
     void stagingNormalises_data()

@@ -4,6 +4,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "views/cAssignList.h"
 #include "views/cBackupSettings.h"
 #include "views/cEntryEditor.h"
 #include "views/cImportReview.h"
@@ -22,6 +23,7 @@
 #include "windows/frmPasswort.h"
 #include "windows/frmSicherungen.h"
 #include "windows/frmSuche.h"
+#include "windows/frmZuordnung.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -56,12 +58,15 @@ struct cScene
         Part.EntryFlags = u"split=%1"_s.arg(Part.ID);
         Prepare(Book.Data.ChangeEntry(Part));
         (void)Book.Add([this](cEntryItem& entry) { entry.EntryFlags = Part.EntryFlags; });
+        (void)Book.Add([](cEntryItem& entry) { entry.EntryValue = 1250; });
         cImportEntry row;
         row.ImportAccount = u"1234567"_s;
         row.ImportDate = QDate(2026, 3, 12);
         row.ImportPurpose = u"Einkauf"_s;
         row.ImportValue = -12.5;
+        Book.Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
         Prepare(Book.Data.AddNewImportEntry(row));
+        Row = row.ID;
     }
 
     static void Prepare(bool isDone)
@@ -74,6 +79,7 @@ struct cScene
     cTestBook Book;
     cEntryItem Series;
     cEntryItem Part;
+    int Row = 0;
     cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
     cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
@@ -86,6 +92,7 @@ struct cScene
     cPasswordFlow Password{Book.Data, Book.Configuration, Book.User};
     cBook File{Book.User};
     cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
+    std::unique_ptr<cAssignList> Candidates;
     cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
 };
 
@@ -155,6 +162,11 @@ void testEveryWindow::CanBeReadAndOperated_data()
          }},
         {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
         {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
+        {"assignment",
+         [](cScene& scene) {
+             scene.Candidates = scene.Review.StartAssign({scene.Row});
+             return std::make_unique<frmZuordnung>(*scene.Candidates);
+         }},
         {"password", [](cScene& scene) { return std::make_unique<frmPasswort>(scene.Password); }},
         {"password prompt",
          [](cScene& scene) {

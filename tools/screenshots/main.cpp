@@ -15,7 +15,9 @@
 #include "core/modDemo.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/cAssignList.h"
 #include "views/cEntryEditor.h"
+#include "views/cImportReview.h"
 #include "views/cMainModel.h"
 #include "views/cSeriesChange.h"
 #include "views/cTemplateManager.h"
@@ -26,6 +28,7 @@
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
 #include "windows/frmSuche.h"
+#include "windows/frmZuordnung.h"
 
 #include <QApplication>
 #include <QDir>
@@ -145,6 +148,24 @@ private:
     bool m_isGood = true;
 };
 
+// The entries that an open bank transaction may belong to, and the list without any.
+void TakeAssignment(cCamera& camera, cImportReview& review)
+{
+    const QList<int> ids = review.Rows().OpenIds();
+    bool hasFull = false;
+    bool hasEmpty = false;
+    for (const int id : ids) {
+        const std::unique_ptr<cAssignList> list = review.StartAssign({id});
+        bool& isTaken = list->rowCount() > 0 ? hasFull : hasEmpty;
+        if (!isTaken) {
+            isTaken = true;
+            frmZuordnung window(*list);
+            window.show();
+            camera.Take(window, list->rowCount() > 0 ? u"zuordnung"_s : u"zuordnung-leer"_s);
+        }
+    }
+}
+
 bool TakeDemo(cCamera& camera)
 {
     cStage stage(cStage::eBook::Demo);
@@ -164,6 +185,7 @@ bool TakeDemo(cCamera& camera)
     camera.Take(window, u"hauptfenster-alle"_s);
     program.Navigation().ShowStatements();
     camera.Take(window, u"kontoauszuege"_s);
+    TakeAssignment(camera, program.Review());
     camera.TakeDialog(u"eintrag-neu"_s, [&] { program.Navigation().OpenNewEntry(); });
     camera.TakeDialog(u"eintrag"_s, [&] { program.Navigation().OpenEntry(15, today); });
     return true;

@@ -13,6 +13,7 @@ const QList<cCliCommand>& modCliCommands::All()
 {
     static const QList<cCliCommand> commands{
         ImportCommand(),
+        DetectCommand(),
         StagedCommand(),
         ProposeCommand(),
         BookCommand(),

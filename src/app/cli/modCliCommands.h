@@ -23,6 +23,7 @@ struct cCliContext
 namespace modCliCommands {
 
 [[nodiscard]] cCliCommand ImportCommand();
+[[nodiscard]] cCliCommand DetectCommand();
 [[nodiscard]] cCliCommand StagedCommand();
 [[nodiscard]] cCliCommand ProposeCommand();
 [[nodiscard]] cCliCommand BookCommand();

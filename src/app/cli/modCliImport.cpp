@@ -1,19 +1,56 @@
 #include "app/cli/cCliBook.h"
+#include "app/cli/cCliReader.h"
 #include "app/cli/cConsoleUser.h"
 #include "app/cli/cJsonObject.h"
 #include "app/cli/modCliCommands.h"
+#include "app/cli/modCliRecord.h"
+#include "app/cli/modCliTableChoice.h"
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "base/modDate.h"
 #include "import/cStatementImport.h"
+#include "import/modAccountNumber.h"
+#include "import/table/cTableMemory.h"
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString ToJson(const cImportResult& result)
+constexpr qsizetype shownRows = 100; // of a trial; --json has them all
+
+QString KindName(eSkipped kind)
 {
+    switch (kind) {
+    case eSkipped::Pending: return u"pending"_s;
+    case eSkipped::Balance: return u"balance"_s;
+    case eSkipped::Unreadable: return u"unreadable"_s;
+    case eSkipped::OtherCurrency: return u"otherCurrency"_s;
+    }
+    return {};
+}
+
+QString ToJson(const cSkippedRow& row)
+{
+    cJsonObject json;
+    json.Number(u"line"_s, row.Reason.Line)
+        .Text(u"kind"_s, KindName(row.Kind))
+        .Text(u"text"_s, row.Reason.Text)
+        .Date(u"date"_s, row.Entry.ImportDate)
+        .Amount(u"amount"_s, modAmount::ToCents(row.Entry.ImportValue))
+        .Text(u"beneficiary"_s, row.Entry.ImportBeneficiary)
+        .Text(u"purpose"_s, row.Entry.ImportPurpose);
+    return json.ToString();
+}
+
+QString ToJson(const cImportResult& result, eStagingRun run)
+{
+    QStringList skipped;
+    for (const cSkippedRow& row : result.Skipped) {
+        skipped.append(ToJson(row));
+    }
     QStringList problems;
     for (const cReadProblem& problem : result.Problems) {
         problems.append(cJsonObject().Number(u"line"_s, problem.Line).Text(u"text"_s, problem.Text).ToString());
@@ -21,6 +58,7 @@ QString ToJson(const cImportResult& result)
     cJsonObject json;
     json.Text(u"file"_s, result.File)
         .Text(u"format"_s, result.Format)
+        .Text(u"layout"_s, result.Layout)
         .Number(u"read"_s, result.Read)
         .Number(u"staged"_s, result.Staged)
         .Number(u"duplicates"_s, result.Duplicates.size())
@@ -28,7 +66,15 @@ QString ToJson(const cImportResult& result)
         .Number(u"failed"_s, result.Failed)
         .Raw(u"closingBalance"_s, result.ClosingBalance ? modAmount::CentsToText(*result.ClosingBalance) : u"null"_s)
         .Raw(u"problems"_s, u'[' + problems.join(u", "_s) + u']')
+        .Raw(u"skipped"_s, u'[' + skipped.join(u", "_s) + u']')
         .Text(u"message"_s, result.Message);
+    if (run == eStagingRun::Try) {
+        QStringList rows;
+        for (const cImportEntry& row : result.Rows) {
+            rows.append(modCliRecord::Row(row).ToString());
+        }
+        json.Raw(u"rows"_s, modJson::Array(rows));
+    }
     return json.ToString();
 }
 
@@ -36,7 +82,8 @@ QString Summary(const cImportResult& result, const cCliBook& book)
 {
     QString text =
         cText::Tr("{0}: {1}, {2} Umsätze gelesen, {3} neu",
-                  {result.File, result.Format, QString::number(result.Read), QString::number(result.Staged)});
+                  {result.File, result.Layout.isEmpty() ? result.Format : result.Format + u" – "_s + result.Layout,
+                   QString::number(result.Read), QString::number(result.Staged)});
     if (!result.Duplicates.isEmpty()) {
         text += cText::Tr(", {0} schon vorhanden", {QString::number(result.Duplicates.size())});
     }
@@ -50,21 +97,36 @@ QString Summary(const cImportResult& result, const cCliBook& book)
         + (result.ClosingBalance ? cText::Tr(", Endsaldo {0}", {book.AmountText(*result.ClosingBalance)}) : QString());
 }
 
+QString RowText(const cImportEntry& row, const cCliBook& book)
+{
+    return modDate::ToGerman(row.ImportDate) + u"  "_s + book.AmountText(modAmount::ToCents(row.ImportValue)) + u"  "_s
+        + row.ImportBeneficiary;
+}
+
+void Print(const cReadProblem& problem)
+{
+    modConsole::Error(problem.Line > 0 ? cText::Tr("  Zeile {0}: {1}", {QString::number(problem.Line), problem.Text})
+                                       : u"  "_s + problem.Text);
+}
+
 void Print(const cImportResult& result, const cCliBook& book)
 {
-    if (!result.IsRefused) {
-        modConsole::Out(Summary(result, book) + u'\n');
+    QString text = result.IsRefused ? QString() : Summary(result, book) + u'\n';
+    for (const cImportEntry& row : result.Rows.first(qMin(result.Rows.size(), shownRows))) {
+        text += cText::Tr("  neu: {0}", {RowText(row, book)}) + u'\n';
+    }
+    if (result.Rows.size() > shownRows) {
+        text += cText::Tr("  … und {0} weitere", {QString::number(result.Rows.size() - shownRows)}) + u'\n';
     }
     for (const cImportEntry& row : result.Duplicates) {
-        modConsole::Out(cText::Tr("  schon vorhanden: {0}  {1}  {2}",
-                                  {modDate::ToGerman(row.ImportDate),
-                                   book.AmountText(modAmount::ToCents(row.ImportValue)), row.ImportBeneficiary})
-                        + u'\n');
+        text += cText::Tr("  schon vorhanden: {0}", {RowText(row, book)}) + u'\n';
     }
+    modConsole::Out(text);
     for (const cReadProblem& problem : result.Problems) {
-        modConsole::Error(problem.Line > 0
-                              ? cText::Tr("  Zeile {0}: {1}", {QString::number(problem.Line), problem.Text})
-                              : u"  "_s + problem.Text);
+        Print(problem);
+    }
+    for (const cSkippedRow& row : result.Skipped) {
+        Print(row.Reason);
     }
 }
 
@@ -85,21 +147,43 @@ bool AssignAccounts(const cCliContext& context, const QStringList& numbers)
     return true;
 }
 
-int Run(const cCliContext& context)
+// The number that was given for files that name no account is remembered for the next one of the same layout.
+void RememberAccount(const cImportResult& result, const QString& number, cTableMemory& memory)
+{
+    const bool isUsed = std::any_of(result.Accounts.begin(), result.Accounts.end(), [&](const QString& account) {
+        return modAccountNumber::IsSame(account, {}, number);
+    });
+    if (isUsed && !number.isEmpty() && !result.AccountKey.isEmpty()) {
+        memory.SaveAccount(result.AccountKey, number);
+    }
+}
+
+// What a file leaves behind beside its rows. False when the book refuses.
+bool Settle(const cCliContext& context, const cImportResult& result, const cImportOptions& options,
+            cTableMemory& memory)
+{
+    if (options.Run == eStagingRun::Try) {
+        return true;
+    }
+    RememberAccount(result, options.DefaultAccount, memory);
+    return AssignAccounts(context, result.Accounts);
+}
+
+int ImportFiles(const cCliContext& context, const cImportOptions& options)
 {
     cCliBook& book = *context.Book;
-    cStatementImport reader(book.Data, book.Hive);
-    const cImportOptions options{context.Call.Has(u"keep-duplicates"_s) ? eDuplicateTest::Skip : eDuplicateTest::Test,
-                                 context.Call.Value(u"account"_s)};
+    cTableMemory memory(book.Settings());
+    cStatementImport reader(book.Data, book.Hive, &memory);
     cNoProgress progress;
     bool isDone = true;
     QStringList objects;
     for (const QString& file : context.Call.Arguments()) {
         const cImportResult result = reader.ImportFile(file, options, progress);
         isDone = isDone && !result.IsRefused && result.Failed == 0;
-        isDone = AssignAccounts(context, result.Accounts) && isDone;
-        objects.append(ToJson(result));
-        if (!context.Call.Has(u"json"_s)) {
+        isDone = Settle(context, result, options, memory) && isDone;
+        if (context.Call.Has(u"json"_s)) {
+            objects.append(ToJson(result, options.Run));
+        } else {
             Print(result, book);
         }
         if (!result.Message.isEmpty()) {
@@ -112,6 +196,17 @@ int Run(const cCliContext& context)
     return isDone ? modExit::Done : modExit::Failed;
 }
 
+int Run(const cCliContext& context)
+{
+    cCliReader reader(context);
+    cImportOptions options;
+    options.Duplicates = context.Call.Has(u"keep-duplicates"_s) ? eDuplicateTest::Skip : eDuplicateTest::Test;
+    options.DefaultAccount = context.Call.Value(u"account"_s);
+    options.Table = modCliTableChoice::Read(context.Call, reader);
+    options.Run = context.Call.Has(u"dry-run"_s) ? eStagingRun::Try : eStagingRun::Write;
+    return reader.IsGood() ? ImportFiles(context, options) : reader.Report();
+}
+
 } // namespace
 
 cCliCommand modCliCommands::ImportCommand()
@@ -122,9 +217,15 @@ cCliCommand modCliCommands::ImportCommand()
             .MinArguments = 1,
             .MaxArguments = Any,
             .Access = eCliAccess::Write,
-            .Options = {{u"account"_s, u"NUMMER"_s, cText::Tr("eigene Kontonummer für Auszüge, die keine nennen")},
-                        {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
-                        {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
-                        Json()},
+            .ReadsWith = u"dry-run"_s,
+            .Options =
+                QList<cCliOption>{
+                    {u"account"_s, u"NUMMER"_s,
+                     cText::Tr("eigene Kontonummer für Auszüge, die keine nennen; sie wird für "
+                               "CSV-Dateien gleichen Aufbaus gemerkt")},
+                    {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
+                    {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
+                    {u"dry-run"_s, {}, cText::Tr("nur lesen und zeigen, was neu wäre")}}
+                + modCliTableChoice::Options() + QList<cCliOption>{Json()},
             .Run = Run};
 }

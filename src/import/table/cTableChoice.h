@@ -30,5 +30,5 @@ struct cTableChoice
     std::optional<eSignRule> Sign;
     QString Profile; // name of a known layout to be taken instead of the detected one
     QString Account; // own account number; goes before what the file says
-    QString Sheet;   // of a spreadsheet with several; empty: the first one that reads
+    QString Sheet;   // of a spreadsheet with several; empty: the one with the most transactions
 };

@@ -1,0 +1,135 @@
+#include "windows/frmZuordnung.h"
+
+#include "base/cText.h"
+#include "views/cAssignList.h"
+#include "windows/modEmptyText.h"
+#include "windows/modPlace.h"
+#include "windows/modTone.h"
+
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+
+#include <array>
+
+namespace {
+
+// Widths in average characters of the font; the last column takes the rest.
+constexpr std::array<int, cAssignList::ColumnCount> widths{13, 28, 28, 14, 10, 50};
+
+class cAssignDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override
+    {
+        return {120, option.fontMetrics.height() + 8};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int tone = index.column() == cAssignList::Amount ? index.data(cAssignList::ToneRole).toInt() : 0;
+        if (index.data(cAssignList::TakenRole).toBool()) {
+            option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
+        } else if (tone != 0) {
+            const QColor color = tone == 1 ? modTone::Income(option->palette) : modTone::Expense(option->palette);
+            option->palette.setColor(QPalette::Text, color);
+        }
+    }
+};
+
+class cAssignTree final : public QTreeView
+{
+public:
+    cAssignTree(cAssignList& list, QWidget* parent) : QTreeView(parent), m_list(list) { setModel(&list); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QTreeView::paintEvent(event);
+        if (m_list.rowCount() == 0) {
+            modEmptyText::Paint(*viewport(), m_list.EmptyTitle(), m_list.EmptyHint());
+        }
+    }
+
+private:
+    cAssignList& m_list;
+};
+
+} // namespace
+
+frmZuordnung::frmZuordnung(cAssignList& list, QWidget* parent)
+    : QDialog(parent),
+      m_list(list),
+      m_tree(new cAssignTree(list, this))
+{
+    setWindowTitle(cText::Tr("Umsatz zuordnen"));
+    Build();
+    SetColumns();
+    m_tree->setCurrentIndex(m_list.index(m_list.Proposed(), 0));
+    m_tree->setFocus();
+}
+
+void frmZuordnung::Build()
+{
+    auto* text = new QLabel(m_list.RowText(), this);
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    QFont bold = text->font();
+    bold.setBold(true);
+    text->setFont(bold);
+    auto* label = new QLabel(cText::Tr("&Einträge, zu denen der Umsatz gehören kann:"), this);
+    label->setBuddy(m_tree);
+    m_tree->setItemDelegate(new cAssignDelegate(this));
+    m_tree->setRootIsDecorated(false);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setAlternatingRowColors(true);
+    m_tree->setAllColumnsShowFocus(true);
+    m_tree->setAccessibleName(cText::Tr("Mögliche Einträge"));
+    // Enter goes to the default button, which does the same.
+    connect(m_tree, &QTreeView::doubleClicked, this, &frmZuordnung::Assign);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(text);
+    layout->addWidget(label);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(BuildButtons());
+    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 20);
+    resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+}
+
+QDialogButtonBox* frmZuordnung::BuildButtons()
+{
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* assign = buttons->addButton(cText::Tr("&Zuordnen"), QDialogButtonBox::AcceptRole);
+    QPushButton* cancel = buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole);
+    const bool isEmpty = m_list.rowCount() == 0;
+    assign->setEnabled(!isEmpty);
+    (isEmpty ? cancel : assign)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &frmZuordnung::Assign);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    return buttons;
+}
+
+void frmZuordnung::SetColumns()
+{
+    const int character = fontMetrics().averageCharWidth();
+    for (int column = 0; column < cAssignList::ColumnCount; ++column) {
+        m_tree->header()->resizeSection(column, widths.at(static_cast<std::size_t>(column)) * character);
+    }
+    m_tree->header()->setSectionsMovable(false);
+}
+
+void frmZuordnung::Assign()
+{
+    if (m_list.Assign(m_tree->currentIndex().row())) {
+        accept();
+    }
+}

@@ -1,0 +1,278 @@
+#include "base/cProgress.h"
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cAssignList.h"
+#include "views/cImportReview.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate day(2026, 3, 3);
+const QString space = u"\u00A0"_s; // before the currency sign
+
+// A book whose bank account is known, with the page of statements over it.
+struct cPage : cTestBook
+{
+    cPage()
+    {
+        Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Review.SetOpenOnly(false);
+    }
+
+    int Stage(double value, const QString& name, const QString& number = u"1234567"_s)
+    {
+        cImportEntry row;
+        row.ImportAccount = number;
+        row.ImportDate = day;
+        row.ImportBeneficiary = name;
+        row.ImportValue = value;
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+        Review.Refresh();
+        return row.ID;
+    }
+
+    int Spend(qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
+    {
+        return Add([&](cEntryItem& entry) {
+                   entry.EntryDate = day;
+                   entry.EntryValue = cents;
+                   entry.EntryDescription = text;
+                   entry.EntryInterval = interval;
+               })
+            .ID;
+    }
+
+    // The IDs of the entries that the rows belong to, -1 for an open one.
+    QList<int> Assigned()
+    {
+        QList<int> ids;
+        const cImportEntryList rows = Data.GetImportEntries();
+        for (const cImportEntry& row : rows) {
+            ids.append(row.ImportAssigned ? row.ImportAssignedEntry : -1);
+        }
+        return ids;
+    }
+
+    QString Reason(int row) { return Review.Rows().index(row, cStagedListModel::Reason).data().toString(); }
+
+    cAmountFormat Format{Configuration};
+    cNoProgress Progress;
+    cImportReview Review{{Data, *Settings, Format, User}};
+};
+
+QString Cell(const cAssignList& list, int row, int column)
+{
+    return list.index(row, column).data().toString();
+}
+
+} // namespace
+
+class testImportMatch final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void MatchesInOneStep() const;
+    void MatchesWhatIsSelected() const;
+    void OffersToCorrectSeries_data() const;
+    void OffersToCorrectSeries() const;
+    void RefusedCorrectionTakesAllBack() const;
+    void AsksForTheAccount() const;
+    void ShowsWhatItIsNotSureOf() const;
+    void AssignsByHand() const;
+    void AsksBeforeASeriesIsCorrected() const;
+    void SaysWhyThereIsNoEntry() const;
+    void Releases() const;
+};
+
+void testImportMatch::MatchesInOneStep() const
+{
+    cPage page;
+    const int entry = page.Spend(2310, u"REWE"_s);
+    (void)page.Stage(-23.1, u"REWE"_s);
+    (void)page.Stage(-99, u"Jana"_s);
+    QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
+    page.Review.Match({}, page.Progress);
+    QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
+    QCOMPARE(page.Review.Summary(),
+             QStringList({u"Zugeordnet: 1, vorgeschlagen: 0, offen: 1."_s,
+                          u"03.03.2026  ·  -23,10"_s + space + u"€  ·  REWE: 'REWE' vom 03.03. (100 %)"_s}));
+    QCOMPARE(entries.size(), 0); // the book is as it was
+    QCOMPARE(page.Review.CountText(), u"1 offen, 2 insgesamt"_s);
+    QCOMPARE(page.Data.UndoName(), u"2 Umsätze abgeglichen"_s);
+    QVERIFY(page.Data.Undo());
+    QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
+}
+
+void testImportMatch::MatchesWhatIsSelected() const
+{
+    cPage page;
+    QList<int> rows;
+    QList<int> entries;
+    for (const QString& name : {u"Rewe"_s, u"Aldi"_s, u"Edeka"_s, u"Penny"_s}) {
+        const int cents = 1000 * static_cast<int>(rows.size() + 1);
+        entries.append(page.Spend(cents, name));
+        rows.append(page.Stage(-cents / 100.0, name));
+    }
+    page.Review.Match(rows.first(2), page.Progress);
+    QCOMPARE(page.Assigned(), QList<int>({entries.at(0), entries.at(1), -1, -1}));
+    page.Review.SetFilter(u"penny"_s);
+    page.Review.Match({rows.at(2)}, page.Progress); // a single one is where the user stands
+    QCOMPARE(page.Assigned(), QList<int>({entries.at(0), entries.at(1), -1, entries.at(3)}));
+}
+
+void testImportMatch::OffersToCorrectSeries_data() const
+{
+    QTest::addColumn<eAnswer>("answer");
+    QTest::addColumn<int>("corrections");
+    QTest::newRow("yes") << eAnswer::Yes << 1;
+    QTest::newRow("no") << eAnswer::No << 0;
+}
+
+void testImportMatch::OffersToCorrectSeries() const
+{
+    QFETCH(const eAnswer, answer);
+    QFETCH(const int, corrections);
+    cPage page;
+    const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
+    (void)page.Stage(-660, u"Miete Tann"_s);
+    page.User.Answers = {answer};
+    QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
+    page.Review.Match({}, page.Progress);
+    QVERIFY(page.User.Asked.value(0).startsWith(u"Bei einem zugeordneten Umsatz weicht der Betrag von der Serie ab."));
+    QCOMPARE(page.Assigned(), QList<int>{rent});
+    QCOMPARE(page.Data.GetEntryMods(rent).size(), corrections);
+    QCOMPARE(entries.size(), corrections);
+    QVERIFY(page.Data.Undo());
+    QCOMPARE(page.Assigned(), QList<int>{-1});
+    QCOMPARE(page.Data.GetEntryMods(rent).size(), 0);
+}
+
+void testImportMatch::RefusedCorrectionTakesAllBack() const
+{
+    cPage page;
+    const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
+    const int row = page.Stage(-660, u"Miete Tann"_s);
+    page.Database.ExecuteScript("CREATE TRIGGER full BEFORE INSERT ON datamod BEGIN SELECT RAISE(ABORT, 'voll'); END;");
+    page.User.Answers = {eAnswer::Yes, eAnswer::Yes};
+    const QStringList nothing(u"Es wurde nichts geändert, weil die Datenbank nicht schreibt."_s);
+    page.Review.Match({}, page.Progress);
+    QCOMPARE(page.Review.Summary(), nothing);
+    QCOMPARE(page.Assigned(), QList<int>{-1});
+    const auto list = page.Review.StartAssign({row});
+    QVERIFY(!list->Assign(0));
+    QCOMPARE(page.Review.Summary(), nothing);
+    QCOMPARE(page.Assigned(), QList<int>{-1});
+    QCOMPARE(page.User.Shown.size(), 2);
+    QVERIFY(page.Data.GetEntryMods(rent).isEmpty());
+}
+
+void testImportMatch::AsksForTheAccount() const
+{
+    cPage page;
+    const int entry = page.Spend(2310, u"REWE"_s);
+    (void)page.Stage(-23.1, u"REWE"_s, u"4711"_s);
+    page.Review.Match({}, page.Progress); // the user gives up
+    QCOMPARE(page.Review.Summary().last(), u"Die Kontonummer 4711 hat noch kein Konto; ihre Umsätze bleiben offen."_s);
+    QVERIFY(page.Data.UndoName().isEmpty());
+    page.User.Choices = {u"Girokonto"_s};
+    page.Review.Match({}, page.Progress);
+    QCOMPARE(page.Assigned(), QList<int>{entry});
+}
+
+void testImportMatch::ShowsWhatItIsNotSureOf() const
+{
+    cPage page;
+    const int entry = page.Spend(2310, {});
+    (void)page.Stage(-23.1, u"Jana"_s);
+    const QString before = page.Reason(0);
+    page.Review.Match({}, page.Progress);
+    QCOMPARE(page.Assigned(), QList<int>{-1});
+    QCOMPARE(page.Reason(0), u"passt zu 'Haushalt; Lebensmittel' vom 03.03. (80 %)"_s);
+    // It is no longer true when the entry is gone.
+    QVERIFY(page.Data.DeleteEntry(entry));
+    page.Review.Refresh();
+    QCOMPARE(page.Reason(0), before);
+}
+
+void testImportMatch::AssignsByHand() const
+{
+    cPage page;
+    const int shop = page.Spend(5000, u"Schuhhaus"_s);
+    const int boots = page.Spend(5000, u"Stiefel"_s);
+    const int first = page.Stage(-50, u"Schuhhaus"_s);
+    const int second = page.Stage(-50, u"Schuhhaus"_s);
+    QVERIFY(page.Review.StartAssign({first})->Assign(0));
+    QCOMPARE(page.Assigned(), QList<int>({shop, -1}));
+    QVERIFY(!page.Review.StartAssign({first})); // booked
+    QVERIFY(!page.Review.StartAssign({first, second}));
+
+    const std::unique_ptr<cAssignList> list = page.Review.StartAssign({second});
+    QCOMPARE(list->RowText(), u"03.03.2026  ·  -50,00"_s + space + u"€  ·  Schuhhaus"_s);
+    QCOMPARE(list->rowCount(), 2);
+    const QStringList taken{u"03.03.2026"_s, u"Schuhhaus"_s, u"Haushalt; Lebensmittel"_s, u"-50,00"_s + space + u'€',
+                            u"100 %"_s};
+    for (int column = 0; column < taken.size(); ++column) {
+        QCOMPARE(Cell(*list, 0, column), taken.at(column));
+    }
+    QVERIFY(Cell(*list, 0, cAssignList::Reason).startsWith(u"hat schon einen Umsatz; "));
+    QCOMPARE(list->Proposed(), 1); // the free one
+    QVERIFY(list->Assign(list->Proposed()));
+    QCOMPARE(page.Assigned(), QList<int>({shop, boots}));
+    QCOMPARE(page.Review.Summary(), QStringList(u"Umsatz zugeordnet: 'Stiefel' vom 03.03."_s));
+    QCOMPARE(page.Data.UndoName(), u"Umsatz zugeordnet"_s);
+}
+
+void testImportMatch::AsksBeforeASeriesIsCorrected() const
+{
+    cPage page;
+    const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
+    const std::unique_ptr<cAssignList> list = page.Review.StartAssign({page.Stage(-660, u"Miete Tann"_s)});
+    QVERIFY(!list->Assign(0)); // the user gives up
+    QVERIFY(page.User.Asked.value(0).startsWith(u"Der Umsatz beträgt 660,00"_s + space + u"€, die Serie 650,00"_s));
+    QCOMPARE(page.Assigned(), QList<int>{-1});
+    page.User.Answers = {eAnswer::Yes};
+    QVERIFY(list->Assign(0));
+    QCOMPARE(page.Assigned(), QList<int>{rent});
+    QCOMPARE(page.Data.GetEntryMods(rent).value(0).EntryValue, 66000);
+    QVERIFY(page.Data.Undo());
+    QCOMPARE(page.Data.GetEntryMods(rent).size(), 0);
+}
+
+void testImportMatch::SaysWhyThereIsNoEntry() const
+{
+    cPage page;
+    const std::unique_ptr<cAssignList> none = page.Review.StartAssign({page.Stage(-1, u"X"_s)});
+    QCOMPARE(none->Proposed(), -1);
+    QVERIFY(!none->Assign(none->Proposed()));
+    QVERIFY(none->EmptyHint().startsWith(u"Gesucht wurde im Konto Girokonto"));
+    const std::unique_ptr<cAssignList> unknown = page.Review.StartAssign({page.Stage(-1, u"X"_s, u"4711"_s)});
+    QVERIFY(unknown->EmptyHint().startsWith(u"Die Kontonummer 4711 hat noch kein Konto"));
+}
+
+void testImportMatch::Releases() const
+{
+    cPage page;
+    const int entry = page.Spend(2310, u"REWE"_s);
+    const int booked = page.Stage(-23.1, u"REWE"_s);
+    const int open = page.Stage(-99, u"Jana"_s);
+    page.Review.Match({}, page.Progress);
+    QVERIFY(page.Review.ActionsFor({booked}).Release && !page.Review.ActionsFor({booked}).Assign);
+    QVERIFY(page.Review.ActionsFor({open}).Assign && !page.Review.ActionsFor({open}).Release);
+    page.Review.Release({open, booked});
+    QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
+    QCOMPARE(page.Review.Summary(),
+             QStringList(u"Ein Umsatz gelöst und wieder offen. Einträge bleiben im Haushaltsbuch."_s));
+    QVERIFY(page.Data.LoadEntry(entry));
+    QVERIFY(page.Data.Undo());
+    QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
+}
+
+QTEST_GUILESS_MAIN(testImportMatch)
+#include "testImportMatch.moc"

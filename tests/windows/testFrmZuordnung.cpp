@@ -1,0 +1,172 @@
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cAssignList.h"
+#include "views/cImportReview.h"
+#include "windows/cStagedTree.h"
+#include "windows/frmImport.h"
+#include "windows/frmZuordnung.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate day(2026, 3, 3);
+
+// The page with three open rows; entries of the book are like the first two, the second one not for certain.
+struct cScene : cTestBook
+{
+    cScene()
+    {
+        Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Review.SetOpenOnly(false);
+        Spend(2310, u"REWE"_s);
+        Spend(5000, u"Schuhe"_s);
+        Stage(-23.1, u"REWE"_s);
+        Stage(-50, u"Jana"_s);
+        Stage(-99, u"Unbekannt"_s);
+        Page.resize(1200, 600);
+        Page.show();
+        Page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Page));
+        Tree.setFocus();
+    }
+
+    void Spend(qint64 cents, const QString& text)
+    {
+        Add([&](cEntryItem& entry) {
+            entry.EntryDate = day;
+            entry.EntryValue = cents;
+            entry.EntryDescription = text;
+        });
+    }
+
+    void Stage(double value, const QString& name)
+    {
+        cImportEntry row;
+        row.ImportAccount = u"1234567"_s;
+        row.ImportDate = day;
+        row.ImportBeneficiary = name;
+        row.ImportValue = value;
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+    }
+
+    void Select(int row) { Tree.setCurrentIndex(Review.Rows().index(row, 0)); }
+    QString State(int row) { return Review.Rows().index(row, cStagedListModel::State).data().toString(); }
+    QStringList States() { return {State(0), State(1), State(2)}; }
+
+    // Opens the window for the current row with the key, and gives it another one.
+    void AssignWith(Qt::Key key)
+    {
+        HasOpened = false;
+        QTimer::singleShot(0, &Page, [key, this] {
+            QWidget* window = QApplication::activeModalWidget();
+            HasOpened = qobject_cast<frmZuordnung*>(window) != nullptr;
+            if (HasOpened) {
+                QTest::keyClick(window->findChild<QTreeView*>(), key);
+                window->close();
+            }
+        });
+        Press(Qt::Key_R);
+    }
+
+    void Press(Qt::Key key)
+    {
+        Page.activateWindow(); // another window may have been in front
+        QVERIFY(QTest::qWaitForWindowActive(&Page));
+        QTest::keyClick(&Tree, key, Qt::ControlModifier);
+    }
+
+    cAmountFormat Format{Configuration};
+    cImportReview Review{{Data, *Settings, Format, User}};
+    frmImport Page{Review};
+    cStagedTree& Tree = *Page.findChild<cStagedTree*>();
+    bool HasOpened = false;
+};
+
+const QString open = u"offen"_s;
+const QString booked = u"gebucht"_s;
+
+} // namespace
+
+class testFrmZuordnung final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void KeysMatchAssignAndRelease() const;
+    void DoubleClickAssigns() const;
+    void EmptyListCannotAssign() const;
+    void NothingWithoutASelection() const;
+};
+
+void testFrmZuordnung::KeysMatchAssignAndRelease() const
+{
+    cScene scene;
+    scene.Select(1);
+    scene.Press(Qt::Key_G);
+    QCOMPARE(scene.States(), QStringList({booked, open, open}));
+    QVERIFY(scene.Page.findChild<QPlainTextEdit*>()->toPlainText().startsWith(u"Zugeordnet: 1, vorgeschlagen: 1"));
+    scene.AssignWith(Qt::Key_Escape);
+    QVERIFY(scene.HasOpened);
+    QCOMPARE(scene.State(1), open);
+    scene.AssignWith(Qt::Key_Return);
+    QVERIFY(scene.HasOpened);
+    QCOMPARE(scene.State(1), booked);
+    scene.Tree.selectAll();
+    scene.Press(Qt::Key_L);
+    QCOMPARE(scene.States(), QStringList({open, open, open}));
+}
+
+void testFrmZuordnung::DoubleClickAssigns() const
+{
+    cScene scene;
+    const auto list = scene.Review.StartAssign({scene.Review.Rows().IdAt(scene.Review.Rows().index(1, 0))});
+    frmZuordnung window(*list);
+    window.show();
+    auto& tree = *window.findChild<QTreeView*>();
+    const QPoint place = tree.visualRect(list->index(0, cAssignList::Description)).center();
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, place);
+    QCOMPARE(window.result(), int{QDialog::Accepted});
+    QCOMPARE(scene.State(1), booked);
+}
+
+void testFrmZuordnung::EmptyListCannotAssign() const
+{
+    cScene scene;
+    const auto list = scene.Review.StartAssign({scene.Review.Rows().IdAt(scene.Review.Rows().index(2, 0))});
+    frmZuordnung window(*list);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(window.findChild<QTreeView*>(), Qt::Key_Return);
+    QVERIFY(!window.isVisible()); // Enter leaves it
+    QCOMPARE(window.result(), int{QDialog::Rejected});
+}
+
+// What cannot be done has neither a button nor a key.
+void testFrmZuordnung::NothingWithoutASelection() const
+{
+    cScene scene;
+    scene.Tree.clearSelection();
+    scene.AssignWith(Qt::Key_Escape);
+    QTest::qWait(1);
+    QVERIFY(!scene.HasOpened);
+    const QList<QAction*> actions = scene.Page.actions();
+    QVERIFY(!actions.isEmpty());
+    QVERIFY(std::none_of(actions.begin(), actions.end(), [](const QAction* action) { return action->isEnabled(); }));
+}
+
+QTEST_MAIN(testFrmZuordnung)
+#include "testFrmZuordnung.moc"
