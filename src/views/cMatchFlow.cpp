@@ -100,7 +100,7 @@ QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     for (const cMatch& match : result.Assigned.first(qMin(result.Assigned.size(), shownMatches))) {
         const cImportEntry row = hive.GetImportEntryByID(match.RowId).value_or(cImportEntry());
-        lines.append(cText::Tr("{0}: {1}",
+        lines.append(cText::Tr("{0} → {1}",
                                {modImportText::Row(row, m_parts.Format), modImportText::Candidate(match.Candidate)}));
     }
     if (result.Assigned.size() > shownMatches) {

@@ -20,7 +20,7 @@
 namespace {
 
 // Widths in average characters of the font; the last column takes the rest.
-constexpr std::array<int, cAssignList::ColumnCount> widths{13, 28, 28, 14, 10, 50};
+constexpr std::array<int, cAssignList::ColumnCount> widths{13, 26, 26, 14, 10, 20};
 
 class cAssignDelegate final : public QStyledItemDelegate
 {
@@ -101,7 +101,7 @@ void frmZuordnung::Build()
     layout->addWidget(label);
     layout->addWidget(m_tree, 1);
     layout->addWidget(BuildButtons());
-    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 20);
+    const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 22);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
 

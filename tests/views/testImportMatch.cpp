@@ -102,7 +102,7 @@ void testImportMatch::MatchesInOneStep() const
     QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
     QCOMPARE(page.Review.Summary(),
              QStringList({u"Zugeordnet: 1, vorgeschlagen: 0, offen: 1."_s,
-                          u"03.03.2026  ·  -23,10"_s + space + u"€  ·  REWE: 'REWE' vom 03.03. (100 %)"_s}));
+                          u"03.03.2026  ·  -23,10"_s + space + u"€  ·  REWE → 'REWE' vom 03.03. (100 %)"_s}));
     QCOMPARE(entries.size(), 0); // the book is as it was
     QCOMPARE(page.Review.CountText(), u"1 offen, 2 insgesamt"_s);
     QCOMPARE(page.Data.UndoName(), u"2 Umsätze abgeglichen"_s);

@@ -70,6 +70,7 @@ struct cScene : cTestBook
     void AssignWith(Qt::Key key)
     {
         HasOpened = false;
+        Activate();
         QTimer::singleShot(0, &Page, [key, this] {
             QWidget* window = QApplication::activeModalWidget();
             HasOpened = qobject_cast<frmZuordnung*>(window) != nullptr;
@@ -78,13 +79,18 @@ struct cScene : cTestBook
                 window->close();
             }
         });
-        Press(Qt::Key_R);
+        QTest::keyClick(&Tree, Qt::Key_R, Qt::ControlModifier);
+    }
+
+    void Activate()
+    {
+        Page.activateWindow(); // another window may have been in front
+        QVERIFY(QTest::qWaitForWindowActive(&Page));
     }
 
     void Press(Qt::Key key)
     {
-        Page.activateWindow(); // another window may have been in front
-        QVERIFY(QTest::qWaitForWindowActive(&Page));
+        Activate();
         QTest::keyClick(&Tree, key, Qt::ControlModifier);
     }
 

@@ -9,6 +9,7 @@
 #include "app/cQtShell.h"
 #include "app/cQtUser.h"
 #include "base/cClock.h"
+#include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
@@ -186,6 +187,9 @@ bool TakeDemo(cCamera& camera)
     program.Navigation().ShowStatements();
     camera.Take(window, u"kontoauszuege"_s);
     TakeAssignment(camera, program.Review());
+    cNoProgress progress;
+    program.Review().Match({}, progress);
+    camera.Take(window, u"kontoauszuege-abgeglichen"_s);
     camera.TakeDialog(u"eintrag-neu"_s, [&] { program.Navigation().OpenNewEntry(); });
     camera.TakeDialog(u"eintrag"_s, [&] { program.Navigation().OpenEntry(15, today); });
     return true;

@@ -192,6 +192,9 @@ private:
             line = row.attribute("r").as_int(line + 1);
             builder.BeginRow(line);
             ReadRow(row, builder);
+            if (builder.IsFull()) {
+                break;
+            }
         }
         if (builder.IsFull()) {
             m_book.Refusal = cText::Tr("Das Tabellenblatt '{0}' ist zu groß für einen Kontoauszug.", {name});
