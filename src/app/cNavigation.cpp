@@ -50,7 +50,7 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged, Qt::QueuedConnection);
     QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged,
                      Qt::QueuedConnection);
-    QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::Refresh);
+    QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::StartAfresh);
     QObject::connect(&window, &frmMain::StatementsShown, &review, [this] { (void)Statements(); });
     QObject::connect(&window, &frmMain::FilesDropped, &review,
                      [this](const QStringList& paths) { Statements().ImportFiles(paths); });

@@ -103,6 +103,14 @@ void cImportReview::Refresh()
     Q_EMIT RowsChanged();
 }
 
+void cImportReview::StartAfresh()
+{
+    m_summary.clear();
+    m_duplicates.clear();
+    Refresh();
+    Q_EMIT SummaryChanged();
+}
+
 void cImportReview::ChooseFiles(cProgress& progress)
 {
     const QStringList paths =

@@ -41,6 +41,9 @@ public:
     // Reads the staged rows anew, when another part of the program may have changed them or the book.
     void Refresh();
 
+    // The same, after something was undone or another book was opened: what the last action did is not true any more.
+    void StartAfresh();
+
     // Lets the user choose statement files and reads them.
     void ChooseFiles(cProgress& progress);
     // Reads the files, asks for the accounts of new numbers, and says in Summary what came of each.
