@@ -4106,14 +4106,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>The table is too large for a statement.</translation>
     </message>
     <message>
-        <source>WAHR</source>
-        <translation>TRUE</translation>
-    </message>
-    <message>
-        <source>FALSCH</source>
-        <translation>FALSE</translation>
-    </message>
-    <message>
         <source>Die Tabelle ist beschädigt oder zu groß. Es wurde nichts übernommen.</source>
         <translation>The table is damaged or too large. Nothing was imported.</translation>
     </message>
@@ -4160,10 +4152,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>Die Arbeitsmappe ist zu groß für einen Kontoauszug.</source>
         <translation>The workbook is too large for a statement.</translation>
-    </message>
-    <message>
-        <source>Die Arbeitsmappe kann nicht zwischengespeichert werden: {0}</source>
-        <translation>The workbook cannot be stored temporarily: {0}</translation>
     </message>
     <message>
         <source>Die Arbeitsmappe ist beschädigt, verschlüsselt oder zu groß. Es wurde nichts übernommen.</source>
@@ -4366,6 +4354,14 @@ Do you want to correct the series for this period to the amount of the statement
     <message>
         <source>&amp;Zuordnen</source>
         <translation>&amp;Assign</translation>
+    </message>
+    <message>
+        <source>  … und {0} weitere</source>
+        <translation>  … and {0} more</translation>
+    </message>
+    <message>
+        <source>{0} → {1}</source>
+        <translation>{0} → {1}</translation>
     </message>
 </context>
 </TS>

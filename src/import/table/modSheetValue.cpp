@@ -1,7 +1,5 @@
 #include "import/table/modSheetValue.h"
 
-#include "base/cText.h"
-
 #include <QDate>
 #include <QTime>
 
@@ -149,5 +147,5 @@ cSheetCell modSheetValue::IsoDay(const QString& text)
 
 cSheetCell modSheetValue::Boolean(bool isTrue)
 {
-    return {isTrue ? cText::Tr("WAHR") : cText::Tr("FALSCH"), eSheetCell::Text};
+    return {isTrue ? u"WAHR"_s : u"FALSCH"_s, eSheetCell::Text};
 }
