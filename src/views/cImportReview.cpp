@@ -154,7 +154,9 @@ void cImportReview::ImportFiles(const QStringList& paths, cProgress& progress)
 // A file that does not name its account is read with the number that the user gives.
 cImportResult cImportReview::ImportFile(const QString& path, cProgress& progress)
 {
-    const cImportResult result = m_works->Import.ImportFile(path, {}, progress);
+    cImportOptions options;
+    options.MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
+    const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     if (!result.NeedsAccount) {
         return result;
     }
@@ -173,7 +175,6 @@ cImportResult cImportReview::ImportFile(const QString& path, cProgress& progress
     if (number.isEmpty()) {
         return result;
     }
-    cImportOptions options;
     options.DefaultAccount = number;
     const cImportResult second = m_works->Import.ImportFile(path, options, progress);
     if (!second.IsRefused) {

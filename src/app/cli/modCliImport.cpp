@@ -202,6 +202,7 @@ int Run(const cCliContext& context)
     cImportOptions options;
     options.Duplicates = context.Call.Has(u"keep-duplicates"_s) ? eDuplicateTest::Skip : eDuplicateTest::Test;
     options.DefaultAccount = context.Call.Value(u"account"_s);
+    options.MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
     options.Table = modCliTableChoice::Read(context.Call, reader);
     options.Run = context.Call.Has(u"dry-run"_s) ? eStagingRun::Try : eStagingRun::Write;
     return reader.IsGood() ? ImportFiles(context, options) : reader.Report();
