@@ -4363,5 +4363,17 @@ Do you want to correct the series for this period to the amount of the statement
         <source>{0} → {1}</source>
         <translation>{0} → {1}</translation>
     </message>
+    <message>
+        <source>Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon gibt:
+{1}
+Sollen daraus trotzdem neue Einträge werden? Bei Nein werden nur die übrigen gebucht.</source>
+        <translation>Of the selected transactions, {0} probably belong to entries that exist already:
+{1}
+Should they become new entries all the same? With No, only the others are booked.</translation>
+    </message>
+    <message>
+        <source>Umsätze buchen</source>
+        <translation>Book transactions</translation>
+    </message>
 </context>
 </TS>

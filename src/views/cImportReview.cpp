@@ -262,8 +262,41 @@ void cImportReview::DropDuplicates()
     Q_EMIT SummaryChanged();
 }
 
-void cImportReview::Book(const QList<int>& rowIds, cProgress& progress)
+// The rows that are to become new entries. Those that the last matching found an entry for would stand in the book
+// twice, so the user decides about them; empty when the user gives up.
+QList<int> cImportReview::AskAboutMatches(const QList<int>& rowIds)
 {
+    QList<int> others;
+    QStringList matches;
+    for (const int id : rowIds) {
+        const QString match = m_works->Matching.Proposal(id);
+        if (match.isEmpty()) {
+            others.append(id);
+        } else {
+            matches.append(match);
+        }
+    }
+    if (matches.isEmpty()) {
+        return rowIds;
+    }
+    constexpr qsizetype most = 8;
+    const QString more = matches.size() > most ? u"\n…"_s : QString();
+    const eAnswer answer = m_parts.User.Ask(
+        {.Text = cText::Tr("Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon "
+                           "gibt:\n{1}\nSollen daraus trotzdem neue Einträge werden? Bei Nein werden nur die übrigen "
+                           "gebucht.",
+                           {QString::number(matches.size()), matches.mid(0, most).join(u'\n') + more}),
+         .Title = cText::Tr("Umsätze buchen"),
+         .Buttons = eButtons::YesNoCancel});
+    return answer == eAnswer::Yes ? rowIds : answer == eAnswer::No ? others : QList<int>{};
+}
+
+void cImportReview::Book(const QList<int>& asked, cProgress& progress)
+{
+    const QList<int> rowIds = AskAboutMatches(asked);
+    if (rowIds.isEmpty()) {
+        return;
+    }
     const cUndoStep step(m_parts.Data,
                          cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     AskAccountsOf(OpenRows(rowIds));

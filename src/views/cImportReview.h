@@ -57,8 +57,9 @@ public:
     void StageDuplicates(const QList<int>& places);
     void DropDuplicates();
 
-    // Books the rows as shown. Those that are booked already are passed over.
-    void Book(const QList<int>& rowIds, cProgress& progress);
+    // Books the rows as shown. Those that are booked already are passed over; those that match an entry are asked
+    // about.
+    void Book(const QList<int>& asked, cProgress& progress);
 
     // What can be done with the rows that are selected.
     struct cActions
@@ -118,6 +119,7 @@ private:
     bool SetCategory(const cImportEntry& row, const QString& category) override;
     bool SetInterval(const cImportEntry& row, const QString& interval) override;
 
+    [[nodiscard]] QList<int> AskAboutMatches(const QList<int>& rowIds);
     void LoadRows();
     [[nodiscard]] cImportResult ImportFile(const QString& path, cProgress& progress);
     void Report(const cImportResult& result);

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void RefusedCorrectionTakesAllBack() const;
     void AsksForTheAccount() const;
     void ShowsWhatItIsNotSureOf() const;
+    void BookingAsksAboutMatches() const;
     void AssignsByHand() const;
     void AsksBeforeASeriesIsCorrected() const;
     void SaysWhyThereIsNoEntry() const;
@@ -199,6 +200,24 @@ void testImportMatch::ShowsWhatItIsNotSureOf() const
     QVERIFY(page.Data.DeleteEntry(entry));
     page.Review.Refresh();
     QCOMPARE(page.Reason(0), before);
+}
+
+void testImportMatch::BookingAsksAboutMatches() const
+{
+    cPage page;
+    (void)page.Spend(2310, {});
+    const int match = page.Stage(-23.1, u"Jana"_s);
+    const int other = page.Stage(-700, u"Werkstatt"_s);
+    page.Review.Match({}, page.Progress);
+    page.User.Answers = {eAnswer::Cancel, eAnswer::No, eAnswer::Yes};
+    page.Review.Book({match, other}, page.Progress);
+    QCOMPARE(page.Data.CountEntries(), 1);
+    page.Review.Book({match, other}, page.Progress);
+    QCOMPARE(page.Data.CountEntries(), 2);
+    QCOMPARE(page.Assigned().at(0), -1);
+    page.Review.Book({match}, page.Progress);
+    QCOMPARE(page.Data.CountEntries(), 3);
+    QCOMPARE(page.User.Asked.size(), 3);
 }
 
 void testImportMatch::AssignsByHand() const
