@@ -15,11 +15,6 @@ namespace {
 
 const QString settingPrefix = u"KTO:"_s;
 
-QString SettingName(const QString& number)
-{
-    return settingPrefix + number;
-}
-
 QStringList VisibleNames(const cTemplateItemList& accounts)
 {
     QStringList names;
@@ -55,14 +50,24 @@ QString cAccountMap::AccountOf(const QString& number) const
     return Exists(account) ? account : QString();
 }
 
+QString cAccountMap::SettingName(const QString& number)
+{
+    return settingPrefix + number;
+}
+
+QString cAccountMap::NumberOf(const QString& settingName)
+{
+    return settingName.startsWith(settingPrefix, Qt::CaseInsensitive) ? settingName.mid(settingPrefix.size())
+                                                                      : QString();
+}
+
 QList<std::pair<QString, QString>> cAccountMap::Mapping() const
 {
     QList<std::pair<QString, QString>> mapping;
     for (const auto& [name, account] : m_data.GetSettings()) {
-        const bool isMapping =
-            name.startsWith(settingPrefix, Qt::CaseInsensitive) && name.size() > settingPrefix.size();
-        if (isMapping && Exists(account)) {
-            mapping.append({name.mid(settingPrefix.size()), account});
+        const QString number = NumberOf(name);
+        if (!number.isEmpty() && Exists(account)) {
+            mapping.append({number, account});
         }
     }
     return mapping;

@@ -1,6 +1,7 @@
 #include "views/cBankNumbers.h"
 
 #include "core/cSettings.h"
+#include "import/cAccountMap.h"
 #include "store/cDataAccess.h"
 
 #include <QRegularExpression>
@@ -9,19 +10,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-const QString prefix = u"KTO:"_s;
-
-} // namespace
-
 QList<std::pair<QString, QString>> cBankNumbers::All() const
 {
     QList<std::pair<QString, QString>> numbers;
     const QList<std::pair<QString, QString>> settings = m_data.GetSettings();
     for (const auto& [name, account] : settings) {
-        if (name.startsWith(prefix, Qt::CaseInsensitive) && name.size() > prefix.size()) {
-            numbers.append({name.mid(prefix.size()), account});
+        if (const QString number = cAccountMap::NumberOf(name); !number.isEmpty()) {
+            numbers.append({number, account});
         }
     }
     std::sort(numbers.begin(), numbers.end());
@@ -42,7 +37,7 @@ QStringList cBankNumbers::Of(const QString& account) const
 
 QString cBankNumbers::AccountOf(const QString& number) const
 {
-    return m_settings.Get(prefix + number);
+    return m_settings.Get(cAccountMap::SettingName(number));
 }
 
 QStringList cBankNumbers::Unassigned() const
@@ -55,12 +50,12 @@ QStringList cBankNumbers::Unassigned() const
 
 bool cBankNumbers::Assign(const QString& number, const QString& account)
 {
-    return m_settings.Set(prefix + number, account);
+    return m_settings.Set(cAccountMap::SettingName(number), account);
 }
 
 bool cBankNumbers::Release(const QString& number)
 {
-    return m_settings.Delete(prefix + number);
+    return m_settings.Delete(cAccountMap::SettingName(number));
 }
 
 bool cBankNumbers::Move(const QString& oldName, const QString& newName)

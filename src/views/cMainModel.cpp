@@ -7,6 +7,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
+#include "import/cAccountMap.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -185,7 +186,7 @@ QHash<QString, int> cMainModel::OpenByAccount() const
     QHash<QString, int> byAccount;
     const QHash<QString, int> byNumber = m_parts.Data.CountOpenImports();
     for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
-        byAccount[m_parts.Settings.Get(u"KTO:"_s + open.key())] += *open;
+        byAccount[m_parts.Settings.Get(cAccountMap::SettingName(open.key()))] += *open;
     }
     return byAccount;
 }

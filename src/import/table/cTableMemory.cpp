@@ -10,8 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString mapPrefix = u"MAP:"_s;
-// Numbers themselves are assigned under "KTO:" too; they never begin like this.
-const QString accountPrefix = u"KTO:MAP:"_s;
+// Not under "KTO:", where the name of a setting is a number of an account; a key never begins like this.
+const QString accountPrefix = u"MAP:KTO:"_s;
 const QString bankCodePrefix = u"BLZ:"_s;
 
 // The numbers of a map in the order in which they are stored. New ones go to the end.
