@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 // Shows how far a longer step has come and lets the user stop it.
 class cProgress
 {
@@ -14,6 +16,10 @@ public:
 
     // Counts `steps` more and gives the user interface a chance to draw.
     virtual void addProgressValue(int steps) = 0;
+
+    // Does work that cannot say how far it is, on another thread where somebody is watching. What it touches must not
+    // be touched by anybody else meanwhile.
+    virtual void Run(const std::function<void()>& work) { work(); }
 
     // The run is over; what follows may be a question.
     virtual void hideProgressBar() = 0;

@@ -32,6 +32,9 @@ public:
     // Opens the system's regional settings. False when none could be started.
     virtual bool OpenRegionalSettings() = 0;
 
+    // Opens an address in the system's browser. False when none could be started.
+    virtual bool OpenPage(const QString& url) = 0;
+
     // Starts the system's calculator. False when none could be started.
     virtual bool StartCalculator() = 0;
 };

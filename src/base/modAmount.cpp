@@ -40,6 +40,9 @@ std::optional<qint64> PlainCents(QStringView text)
     if (isNegative) {
         text = text.mid(1);
     }
+    if (text.isEmpty() || text.size() > 16) { // more digits need not fit into the value
+        return std::nullopt;
+    }
     qint64 value = 0;
     qsizetype decimals = -1;
     for (const QChar c : text) {
@@ -52,7 +55,7 @@ std::optional<qint64> PlainCents(QStringView text)
             return std::nullopt;
         }
     }
-    if (text.isEmpty() || text.size() > 16 || decimals > 2 || decimals == text.size() - 1) {
+    if (decimals > 2 || decimals == text.size() - 1) {
         return std::nullopt;
     }
     for (qsizetype i = decimals < 0 ? 0 : decimals; i < 2; ++i) {
@@ -65,6 +68,14 @@ std::optional<qint64> PlainCents(QStringView text)
 
 std::optional<double> modAmount::TryReadGerman(QStringView text)
 {
+    // Most amounts are plain. Below so many digits the quotient is the very number that the text stands for.
+    constexpr qsizetype mostExactDigits = 13;
+    if (text.size() <= mostExactDigits && !text.contains(u'.')) {
+        const std::optional<qint64> cents = PlainCents(text);
+        if (cents && *cents != 0) { // a zero may have a sign
+            return ToEuros(*cents);
+        }
+    }
     QString kept;
     for (const QChar c : text) {
         if (!passedOver.contains(c)) {

@@ -81,6 +81,21 @@ void cDataAccess::RevertStep()
     Try(QT_TRANSLATE_NOOP("cText", "ERROR: RevertStep\n{0}"), [&] { m_journal.Revert(); });
 }
 
+void cDataAccess::BeginPart()
+{
+    m_journal.BeginPart();
+}
+
+void cDataAccess::EndPart()
+{
+    m_journal.EndPart();
+}
+
+void cDataAccess::RevertPart()
+{
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: RevertStep\n{0}"), [&] { m_journal.RevertPart(); });
+}
+
 QString cDataAccess::UndoName() const
 {
     return m_journal.UndoName();

@@ -132,6 +132,10 @@ public:
     void BeginStep(const QString& name);
     void EndStep();
     void RevertStep(); // takes back what the open step has written
+    // A part of the open step; use cUndoPart rather than these.
+    void BeginPart();
+    void EndPart();
+    void RevertPart();
     // The name of the step that Undo or Redo would work on; empty when there is none.
     [[nodiscard]] QString UndoName() const;
     [[nodiscard]] QString RedoName() const;

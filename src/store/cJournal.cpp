@@ -1,5 +1,7 @@
 #include "store/cJournal.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr size_t mostSteps = 200; // kept at a time; older ones are forgotten
@@ -51,9 +53,47 @@ void cJournal::End()
 
 void cJournal::Revert()
 {
+    const std::size_t parts = m_parts.size();
+    while (!m_parts.empty()) {
+        EndPart(); // the oldest image of each row counts
+    }
     (void)Apply(m_open);
     m_open.Images.clear();
     m_open.Known.clear();
+    m_parts.resize(parts);
+}
+
+void cJournal::BeginPart()
+{
+    m_parts.push_back({m_open.Images.size(), {}});
+}
+
+void cJournal::EndPart()
+{
+    cPart part = std::move(m_parts.back());
+    m_parts.pop_back();
+    if (Known().empty()) {
+        Known() = std::move(part.Known); // all images are those of the part
+        return;
+    }
+    const auto isOlderKnown = [this](const cImage& image) { return !Known().insert({image.Table, image.Id}).second; };
+    std::vector<cImage>& images = m_open.Images;
+    const auto begin = images.begin() + static_cast<std::ptrdiff_t>(part.First);
+    images.erase(std::remove_if(begin, images.end(), isOlderKnown), images.end());
+}
+
+void cJournal::RevertPart()
+{
+    cPart& part = m_parts.back();
+    const auto begin = m_open.Images.begin() + static_cast<std::ptrdiff_t>(part.First);
+    (void)Apply({{}, {begin, m_open.Images.end()}, {}});
+    m_open.Images.erase(begin, m_open.Images.end());
+    part.Known.clear();
+}
+
+std::set<std::pair<cJournal::eTable, qint64>>& cJournal::Known()
+{
+    return m_parts.empty() ? m_open.Known : m_parts.back().Known;
 }
 
 bool cJournal::IsNoting(eTable table)
@@ -70,7 +110,7 @@ bool cJournal::IsNoting(eTable table)
 
 void cJournal::Note(cImage image)
 {
-    if (m_open.Known.insert({image.Table, image.Id}).second) {
+    if (Known().insert({image.Table, image.Id}).second) {
         m_open.Images.push_back(std::move(image));
     }
 }
@@ -122,6 +162,7 @@ void cJournal::Redo()
 void cJournal::Forget()
 {
     m_open = {m_open.Name, {}, {}};
+    std::fill(m_parts.begin(), m_parts.end(), cPart());
     m_undo.clear();
     m_redo.clear();
 }

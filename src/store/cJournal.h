@@ -26,6 +26,12 @@ public:
     // Takes back what the open step has written so far; the step goes on empty.
     void Revert();
 
+    // A part of the open step can be taken back by itself; parts may lie within parts. Outside of a step it does
+    // nothing.
+    void BeginPart();
+    void EndPart();
+    void RevertPart(); // the part goes on empty
+
     // Called before rows are changed or removed; `where` is the condition of the statement with its values.
     void Keep(eTable table, const std::string& where, const cBoundList& values);
     // Called after a row was added.
@@ -65,9 +71,20 @@ private:
     [[nodiscard]] cStep Apply(const cStep& step); // the step that leads back again
     void Write(const cImage& image);
 
+    // Rows get a new image within a part, so that they can come back to what they were when it began.
+    struct cPart
+    {
+        std::size_t First = 0; // of its images among those of the step
+        std::set<std::pair<eTable, qint64>> Known;
+    };
+
+    // The rows that already have their image in the step or in the innermost part.
+    [[nodiscard]] std::set<std::pair<eTable, qint64>>& Known();
+
     cDatabase& m_database;
     int m_depth = 0;
     cStep m_open;
+    std::vector<cPart> m_parts;
     std::deque<cStep> m_undo;
     std::deque<cStep> m_redo;
 };

@@ -23,3 +23,19 @@ public:
 private:
     cDataAccess& m_data;
 };
+
+// A part of a step that can be taken back while the rest of the step stays: one file of several. It needs an open step.
+class cUndoPart
+{
+public:
+    explicit cUndoPart(cDataAccess& data) : m_data(data) { m_data.BeginPart(); }
+    cUndoPart(const cUndoPart&) = delete;
+    cUndoPart& operator=(const cUndoPart&) = delete;
+    ~cUndoPart() { m_data.EndPart(); }
+
+    // Takes back what was written since this object was made.
+    void Revert() { m_data.RevertPart(); }
+
+private:
+    cDataAccess& m_data;
+};
