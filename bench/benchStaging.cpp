@@ -5,6 +5,7 @@
 #include "import/cBooking.h"
 #include "import/cImportHiveCache.h"
 #include "import/cStatementImport.h"
+#include "import/modMT940.h"
 #include "store/cDataAccess.h"
 
 #include <benchmark/benchmark.h>
@@ -79,6 +80,24 @@ void Stage(cBook& book, int first, int count)
     }
 }
 
+// The same rows through the database layer, without reader and without the search for duplicates.
+void InsertRows(benchmark::State& state)
+{
+    const cImportEntryList rows = modMT940::Read(Statement(0, Rows), {}).Entries;
+    for (auto _ : state) {
+        state.PauseTiming();
+        cBenchBook book(0);
+        cDataAccess& data = book.Book().Data();
+        state.ResumeTiming();
+        for (cImportEntry row : rows) {
+            if (!data.AddNewImportEntry(row)) {
+                qFatal("the insert failed");
+            }
+        }
+    }
+}
+BENCHMARK(InsertRows)->Iterations(5)->Unit(benchmark::kMillisecond);
+
 void StageIntoEmpty(benchmark::State& state)
 {
     const QString text = Statement(0, Rows);
@@ -93,7 +112,7 @@ void StageIntoEmpty(benchmark::State& state)
         state.counters["staged"] = result.Staged;
     }
 }
-BENCHMARK(StageIntoEmpty)->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(StageIntoEmpty)->Iterations(5)->Unit(benchmark::kMillisecond);
 
 void StageOnTopOf90000(benchmark::State& state)
 {

@@ -3,7 +3,7 @@
 # Builds nothing. With TIDY=1 clang-tidy runs too; it reads the commands of build/clang (cmake --preset clang).
 set -u
 cd "$(dirname "$(readlink -f "$0")")/.."
-code='src tests bench tools'
+code='src tests bench tools fuzz'
 texts='README.md doc data'
 failed=0
 fail() { echo "check: $1"; shift; printf '  %s\n' "$@"; failed=1; }
@@ -32,7 +32,7 @@ only '#include <Qt(Core|Widgets|Gui|Network|Test)>' 'none/'            'include 
 only '\b(TODO|FIXME|XXX)\b'                          'none/'                 'finish it, or leave it out and say so in doc/decisions.md'
 
 only '#include "store/'   'src/(store|app)/|src/(core|import|views)/[^/]+\.cpp|tests/|bench/|tools/' 'the store is reached by sources of core, import and views only'
-only '#include "import/'  'src/(import|app)/|src/views/[^/]+\.cpp|tests/|bench/|tools/' 'readers are composed in sources of views/'
+only '#include "import/'  'src/(import|app)/|src/views/[^/]+\.cpp|tests/|bench/|tools/|fuzz/' 'readers are composed in sources of views/'
 only '#include "views/'   'src/(views|windows|app)/|tests/|bench/|tools/' 'nothing below views/ sees it'
 only '#include "(windows|app)/' 'src/(windows|app)/|tests/(windows|app)/|bench/|tools/' 'nothing below windows/ sees it'
 

@@ -35,6 +35,9 @@ public:
     // account. Empty when it is somebody else's.
     [[nodiscard]] QString OwnAccountOf(const QString& number, const QString& bankCode) const;
 
+    // Where the mapping is kept, with what else the user decided about bank transactions.
+    [[nodiscard]] cSettings& Settings() const { return m_settings; }
+
     // The account to propose for a new number: one already known under its other form, one named like it, else the
     // first visible one. Empty when the book has no account.
     [[nodiscard]] QString Proposal(const QString& number) const;

@@ -22,12 +22,13 @@ struct cImportResult
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
-    QStringList Accounts;      // own account numbers of the file in their order; "" for statements without one
-    bool IsRefused = false;    // nothing was read; Message says why
-    bool IsCancelled = false;  // the user stopped; what was staged until then stays
-    QString Message;           // German; empty when all went well
-    bool NeedsAccount = false; // refused only because the file names no account and none was given
-    cImportEntryList Rows;     // with eStagingRun::Try: what would have been staged
-    QString Layout;            // name of the table layout that was recognised
-    QString AccountKey;        // of a table, for cTableMemory
+    QStringList Accounts;        // own account numbers of the file in their order; "" for statements without one
+    bool IsRefused = false;      // nothing was read; Message says why
+    bool IsCancelled = false;    // the user stopped; nothing of the file was staged
+    QString Message;             // German; empty when all went well
+    bool NeedsAccount = false;   // refused only because the file names no account and none was given
+    bool NeedsAssistant = false; // refused only because a table is not certain, see eUncertain
+    cImportEntryList Rows;       // with eStagingRun::Try: what would have been staged
+    QString Layout;              // name of the table layout that was recognised
+    QString AccountKey;          // of a table, for cTableMemory
 };

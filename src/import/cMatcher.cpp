@@ -34,7 +34,7 @@ struct cRowSense
     cRowSense(const cImportEntry& row, cProposer& proposer) : Proposal(proposer.Propose(row))
     {
         // The default category says nothing, and neither does that of a transfer.
-        const bool isKnown = !Proposal.Reason.isEmpty() && Proposal.Entry.EntryType != modWord::Umbuchung;
+        const bool isKnown = !Proposal.IsDefault && Proposal.Entry.EntryType != modWord::Umbuchung;
         Text = cMatchText(row.ImportBeneficiary, row.ImportPurpose, isKnown ? Proposal.Entry.EntryCategory : QString());
     }
 
@@ -166,8 +166,9 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
     for (const size_t number : around) {
         const cMatchIndex::cItem& item = index->Item(number);
         modMatchScore::cEvidence evidence = EvidenceOf(row, item);
-        evidence.IsOnly = twins == 1;
-        if (!modMatchScore::IsPossible(evidence) || (!withTaken && index->IsTaken(number, row.ID))) {
+        const bool isTaken = index->IsTaken(number, row.ID);
+        evidence.IsOnly = twins == 1 && !isTaken; // the one that is free
+        if (!modMatchScore::IsPossible(evidence) || (!withTaken && isTaken)) {
             continue;
         }
         if (!sense) {

@@ -5,8 +5,11 @@
 #include "import/cAccountMap.h"
 #include "import/cImportHiveCache.h"
 #include "import/cLearned.h"
+#include "import/cOwnRules.h"
+#include "import/cRuleMatcher.h"
 #include "import/cSeriesFinder.h"
 #include "import/cTransferFinder.h"
+#include "import/modOwnRule.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 
@@ -21,13 +24,24 @@ struct cProposer::cKnowledge
     cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
         : Learned(data, hive),
           Transfers(data, hive, accounts),
-          Series(data, hive)
+          Series(data, hive),
+          Rules(cOwnRules(accounts.Settings()).Load()),
+          Matcher(Rules)
     {
+    }
+
+    // The user's own rule for the row; null when there is none.
+    [[nodiscard]] const cOwnRule* OwnRule(const cImportEntry& row, const QString& account) const
+    {
+        const int place = Rules.isEmpty() ? -1 : Matcher.Find(cRuleRow(row, account));
+        return place < 0 ? nullptr : &Rules.at(place);
     }
 
     cLearned Learned;
     cTransferFinder Transfers;
     cSeriesFinder Series;
+    QList<cOwnRule> Rules;
+    cRuleMatcher Matcher;
 };
 
 namespace {
@@ -74,6 +88,23 @@ void TakeRule(cProposal& proposal, const cImportEntry& row, eRestriction restric
     }
 }
 
+void TakeOwnRule(cProposal& proposal, const cOwnRule& rule)
+{
+    const QString reason = cText::Tr("Eigene Regel: {0}", {modOwnRule::Label(rule)});
+    cEntryItem& entry = proposal.Entry;
+    if (!rule.Category.isEmpty()) {
+        // The interval of another category says nothing about this one: it would make a series of a purchase.
+        entry.EntryInterval = rule.Category == entry.EntryCategory ? entry.EntryInterval : modWord::Einmalig;
+        entry.EntryCategory = rule.Category;
+        proposal.IsDefault = false;
+    }
+    // Where the rest comes from, or that it is a transfer, remains worth knowing.
+    const bool isAll = !rule.Category.isEmpty() && entry.EntryType != modWord::Umbuchung;
+    proposal.Reason = isAll || proposal.Reason.isEmpty() ? reason : proposal.Reason + u"; "_s + reason;
+    entry.EntryInterval = rule.Interval.isEmpty() ? entry.EntryInterval : rule.Interval;
+    entry.EntryDescription = rule.Description.isEmpty() ? entry.EntryDescription : rule.Description;
+}
+
 void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfer)
 {
     const bool isOutgoing = proposal.Entry.EntryType == modWord::Ausgabe;
@@ -86,9 +117,11 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
                                  : cText::Tr("eigenes Konto: von {0}", {transfer.Other});
 }
 
-void TakeDefault(cEntryItem& entry, eRestriction restriction)
+void TakeDefault(cProposal& proposal, eRestriction restriction)
 {
-    if (entry.EntryCategory.isEmpty() && restriction == eRestriction::None) {
+    cEntryItem& entry = proposal.Entry;
+    proposal.IsDefault = entry.EntryCategory.isEmpty();
+    if (proposal.IsDefault && restriction == eRestriction::None) {
         entry.EntryInterval = modWord::Einmalig;
         entry.EntryCategory = u"Allgemein"_s;
     }
@@ -120,9 +153,15 @@ cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
         // What is written on a transfer between own accounts says nothing about a payee.
         TakeRule(proposal, row, restriction);
     }
-    TakeDefault(proposal.Entry, restriction);
+    TakeDefault(proposal, restriction);
+    const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);
     if (transfer) {
         TakeTransfer(proposal, *transfer);
+    }
+    // What the user has said explicitly goes before all that the program has learned or knows by itself. That keeps its
+    // order among itself: learned, then keywords, then the default.
+    if (own != nullptr) {
+        TakeOwnRule(proposal, *own);
     }
     if (proposal.ExistingEntry == 0) {
         if (const std::optional<cSeriesMatch> match = m_knowledge->Series.Find(row, proposal.Entry)) {

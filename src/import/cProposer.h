@@ -10,8 +10,9 @@ class cAccountMap;
 class cDataAccess;
 class cImportHiveCache;
 
-// Proposes entries for staged rows: from what the user did with earlier rows of the same counterparty, from the keyword
-// rules, and finally a default. What it knows of the book is read once, when it is made: make one per batch.
+// Proposes entries for staged rows: by the user's own rules, from what the user did with earlier rows of the same
+// counterparty, from the keyword rules, and finally a default. What it knows of the book is read once, when it is made:
+// make one per batch.
 class cProposer
 {
 public:

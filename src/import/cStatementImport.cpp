@@ -3,14 +3,17 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "core/cSettings.h"
+#include "import/cBankBalances.h"
 #include "import/cStatementSource.h"
 #include "import/modAccountNumber.h"
 #include "import/modMT940.h"
+#include "import/modStatementFile.h"
 #include "import/modStatementFormat.h"
+#include "import/table/cTableMemory.h"
 #include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
 
-#include <QDir>
-#include <QFile>
 #include <QHash>
 
 #include <algorithm>
@@ -19,40 +22,14 @@
 
 namespace {
 
-constexpr qint64 largestFile = qint64{512} * 1024 * 1024; // bytes; years of statements stay far below
-constexpr int progressStep = 100;                         // transactions between two looks at the user interface
+constexpr qsizetype quicklyRead = qsizetype{1} << 20; // bytes; the reader needs no progress below
+constexpr int progressStep = 100;                     // transactions between two looks at the user interface
 
 cImportResult Refuse(cImportResult result, const QString& message)
 {
     result.IsRefused = true;
     result.Message = message;
     return result;
-}
-
-// The bytes of the file, or the reason why there are none.
-struct cFileContent
-{
-    QByteArray Bytes;
-    QString Failure;
-};
-
-cFileContent ReadFile(const QString& path)
-{
-    const QString shownPath = QDir::toNativeSeparators(path);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, cText::Tr("Die Datei kann nicht geöffnet werden: {0}", {shownPath})};
-    }
-    if (file.size() > largestFile) {
-        return {{}, cText::Tr("Die Datei ist zu groß für einen Kontoauszug: {0}", {shownPath})};
-    }
-    cFileContent content{file.readAll(), {}};
-    if (file.error() != QFileDevice::NoError) {
-        content.Failure = cText::Tr("Die Datei kann nicht gelesen werden: {0}", {shownPath});
-    } else if (content.Bytes.isEmpty()) {
-        content.Failure = cText::Tr("Die Datei ist leer: {0}", {shownPath});
-    }
-    return content;
 }
 
 cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
@@ -135,6 +112,16 @@ private:
     int m_inARow = 0;
 };
 
+// The result of a file that the user stopped: it names the file and nothing that was in it.
+cImportResult Cancelled(const cImportResult& result)
+{
+    cImportResult cancelled;
+    cancelled.File = result.File;
+    cancelled.Format = result.Format;
+    cancelled.IsCancelled = true;
+    return cancelled;
+}
+
 void ReportFailures(cImportResult& result)
 {
     if (result.Failed > 0) {
@@ -147,62 +134,102 @@ void ReportFailures(cImportResult& result)
 
 } // namespace
 
-cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory)
+cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory,
+                                   cBankBalances* balances)
     : m_data(data),
       m_hive(hive),
       m_staging(hive),
-      m_memory(memory)
+      m_memory(memory),
+      m_balances(balances)
 {
 }
 
 cImportResult cStatementImport::ImportFile(const QString& path, const cImportOptions& options, cProgress& progress)
 {
-    const cFileContent content = ReadFile(path);
+    const modStatementFile::cContent content = modStatementFile::Read(path);
     if (!content.Failure.isEmpty()) {
         cImportResult result;
         result.File = path;
         return Refuse(std::move(result), content.Failure);
     }
-    return Import(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
+    return ImportSource(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
 }
 
 cImportResult cStatementImport::ImportText(const QString& path, const QString& text, const cImportOptions& options,
                                            cProgress& progress)
 {
-    return Import({path, {}, text}, options, progress);
+    return ImportSource({path, {}, text}, options, progress);
 }
 
-cImportResult cStatementImport::Import(const cStatementSource& source, const cImportOptions& options,
-                                       cProgress& progress)
+cImportResult cStatementImport::ImportSource(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress)
 {
     cImportResult result;
     result.File = source.Name;
     const eStatementFormat format = modStatementFormat::Detect(source);
-    const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
-    if (reader == nullptr) {
+    if (modStatementFormat::Reader(format) == nullptr) {
         return RefuseFormat(std::move(result), format);
     }
     result.Format = modStatementFormat::Name(format);
-    if (m_data.IsReadOnly() && options.Run == eStagingRun::Write) {
-        return Refuse(std::move(result),
-                      cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht "
-                                "übernommen werden."));
+    if (const QString reason = WhyNot(format, options); !reason.isEmpty()) {
+        return Refuse(std::move(result), reason);
     }
-    cStatementRead read = reader(source, {options.DefaultAccount, options.MissingPurpose, options.Table, m_memory});
+    cStatementRead read = Read(source, format, options, progress);
+    if (progress.IsCancelled()) {
+        result.IsCancelled = true;
+        return result;
+    }
     result.Layout = read.Layout;
     result.AccountKey = read.AccountKey;
     result.NeedsAccount = read.NeedsAccount;
-    if (!read.Refusal.isEmpty() || read.NeedsAccount) {
+    result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable
+        && (read.IsGuessed || read.NeedsAccount || !read.Refusal.isEmpty());
+    if (!read.Refusal.isEmpty() || read.NeedsAccount || result.NeedsAssistant) {
         result.Problems = read.Problems;
         result.Skipped = read.Skipped;
-        return Refuse(std::move(result),
-                      read.Refusal.isEmpty() ? cText::Tr("Es muss eine Kontonummer eingegeben werden, um die Daten "
-                                                         "einem Konto zuzuordnen.")
-                                             : read.Refusal);
+        return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
     }
     progress.showProgressBar(static_cast<int>(read.Entries.size()));
+    const cUndoStep step(m_data, cText::Tr("Kontoauszug eingelesen"));
+    cUndoPart part(m_data);
     Stage(std::move(read), options, progress, result);
+    if (result.IsCancelled) {
+        part.Revert();
+        result = Cancelled(result);
+    }
     return result;
+}
+
+// Why the file is not even read; empty when nothing speaks against it.
+QString cStatementImport::WhyNot(eStatementFormat format, const cImportOptions& options) const
+{
+    if (m_data.IsReadOnly() && options.Run == eStagingRun::Write) {
+        return cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht übernommen werden.");
+    }
+    const bool isForTables = options.Table.Map || !options.Table.Profile.isEmpty();
+    if (isForTables && !modStatementFormat::IsTable(format)) {
+        return cText::Tr("Spalten und Aufbau lassen sich nur bei Tabellen angeben. Die Datei ist keine: {0}",
+                         {modStatementFormat::Name(format)});
+    }
+    return {};
+}
+
+// A large file is read while the progress box stays alive. Its thread gets a memory of its own, because the settings
+// belong to this one.
+cStatementRead cStatementImport::Read(const cStatementSource& source, eStatementFormat format,
+                                      const cImportOptions& options, cProgress& progress)
+{
+    const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
+    cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory};
+    if (source.Bytes.size() <= quicklyRead) {
+        return reader(source, readOptions);
+    }
+    cSettings settings(m_data);
+    const cTableMemory memory(settings);
+    readOptions.Memory = m_memory == nullptr ? nullptr : &memory;
+    cStatementRead read;
+    progress.Run([&] { read = reader(source, readOptions); });
+    return read;
 }
 
 double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
@@ -257,4 +284,17 @@ void cStatementImport::Stage(cStatementRead read, const cImportOptions& options,
     }
     progress.addProgressValue(result.Read - result.Read / progressStep * progressStep);
     ReportFailures(result);
+    KeepBalances(read, options.Run, result);
+}
+
+// Of a file that was taken in part, the balances would only say that something is missing.
+void cStatementImport::KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result)
+{
+    const bool isComplete = !result.IsCancelled && result.Failed == 0;
+    if (m_balances == nullptr || m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
+        return;
+    }
+    if (!m_balances->Add(read.Balances, read.Entries)) {
+        result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
+    }
 }

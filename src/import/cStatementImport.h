@@ -3,15 +3,21 @@
 #include "import/cImportResult.h"
 #include "import/cReadOptions.h"
 #include "import/cStaging.h"
+#include "import/modStatementFormat.h"
 
 #include <QString>
 
 #include <optional>
 
+class cBankBalances;
 class cDataAccess;
 class cImportHiveCache;
 class cProgress;
 struct cStatementSource;
+
+// What becomes of a table whose columns were guessed, cannot be read or lack an account: it is read as far as that
+// goes, or the caller asks the user first.
+enum class eUncertain { Read, Ask };
 
 struct cImportOptions
 {
@@ -20,19 +26,26 @@ struct cImportOptions
     eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
     cTableChoice Table = {}; // what the user chose for a file in rows and columns
     eStagingRun Run = eStagingRun::Write;
+    eUncertain Uncertain = eUncertain::Read;
 };
 
 // Statement files into staged rows.
 class cStatementImport
 {
 public:
-    // With a memory, layouts that the user confirmed once are read the same way again. It outlives the import.
-    cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory = nullptr);
+    // With a memory, layouts that the user confirmed once are read the same way again. With `balances`, what the bank
+    // says its accounts hold is kept there. Both outlive the import.
+    cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory = nullptr,
+                     cBankBalances* balances = nullptr);
 
     // Reads a file of any format the program knows and stages its transactions. Whatever the file holds, the result
     // says what happened; only a refusing database shows a message of its own. An account that is already staged under
     // its other form (IBAN or number) keeps that form, so that a booking is known again in another format.
     [[nodiscard]] cImportResult ImportFile(const QString& path, const cImportOptions& options, cProgress& progress);
+
+    // The same for a file that was loaded before.
+    [[nodiscard]] cImportResult ImportSource(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress);
 
     // The same for a text whose format the name and the content tell.
     [[nodiscard]] cImportResult ImportText(const QString& path, const QString& text, const cImportOptions& options,
@@ -45,14 +58,17 @@ public:
                        const QString& defaultAccount);
 
 private:
-    [[nodiscard]] cImportResult Import(const cStatementSource& source, const cImportOptions& options,
-                                       cProgress& progress);
+    [[nodiscard]] cStatementRead Read(const cStatementSource& source, eStatementFormat format,
+                                      const cImportOptions& options, cProgress& progress);
+    [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;
     [[nodiscard]] cStaging& StagingFor(eStagingRun run);
     void Stage(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result);
+    void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;
     cStaging m_staging;
     std::optional<cStaging> m_trial; // of files that are only tried one after the other
     const cTableMemory* m_memory;
+    cBankBalances* m_balances;
 };

@@ -28,7 +28,7 @@ struct cSkippedRow
     cImportEntry Entry;
 };
 
-// The bank's balance of one of the accounts in the file.
+// The bank's balance of one of the accounts in the file, at the end or at the beginning of what the file lists.
 struct cAccountBalance
 {
     QString Account;
@@ -46,9 +46,15 @@ struct cStatementRead
     std::optional<qint64> ClosingBalance; // cents, signed; the last one of the file
     QList<cReadProblem> Problems;
     QList<cSkippedRow> Skipped;
-    QList<cAccountBalance> Balances; // closing balances by account, where the format has them
+    QList<cAccountBalance> Balances; // by account, where the format has them; the closing one comes last
     QString Refusal;                 // German; why nothing could be read at all. Empty when the file was read
     bool NeedsAccount = false;       // no account in the file and none was given: nothing may be staged
+    bool IsTable = false;            // made of rows and columns
+    bool IsGuessed = false;          // nothing but the contents told the columns of the table
     QString Layout;                  // name of the table layout (a bank's) that was recognised
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
+
+    // A file with more transactions is no household's statement: readers refuse it before it fills memory.
+    static constexpr qsizetype mostEntries = 500'000;
+    [[nodiscard]] static cStatementRead TooMany();
 };

@@ -2,12 +2,16 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "import/cMT940Lines.h"
+#include "import/cRepeatedText.h"
 #include "import/modMT940Repair.h"
 #include "import/modSepaPurpose.h"
 #include "import/modStatementText.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,9 +20,11 @@ namespace {
 using modMT940::cBalance;
 using modMT940::cParsed;
 using modMT940::cStatement;
+using modMT940::cStatementBalance;
 using modMT940::cTransaction;
 
 constexpr int structureSample = 11;                     // details lines that decide whether the text is structured
+constexpr qsizetype shortestTransaction = 100;          // characters; for most statements
 constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
 
 bool IsDigit(QStringView text, qsizetype at)
@@ -36,48 +42,12 @@ bool AreDigits(QStringView text, qsizetype from, qsizetype count)
     return true;
 }
 
-bool IsSeparatorLine(QStringView line)
-{
-    return line.trimmed() == u"-";
-}
-
 QStringView WithoutZeros(QStringView text)
 {
     while (text.startsWith(u'0')) {
         text = text.mid(1);
     }
     return text;
-}
-
-// A line with its continuation lines.
-struct cLine
-{
-    QString Text;
-    int Number = 0;
-};
-
-QList<QStringView> SplitLines(const QString& text)
-{
-    QList<QStringView> lines = QStringView(text).split(u"\r\n");
-    return lines.size() < 3 ? QStringView(text).split(u'\n') : lines;
-}
-
-// Lines without tag belong to the nearest line before them. Empty lines are gone.
-QList<cLine> JoinLines(const modMT940Repair::cRepaired& repaired)
-{
-    QList<cLine> joined;
-    int number = 0; // line of the text, from 0
-    const QList<QStringView> lines = SplitLines(repaired.Text);
-    for (const QStringView line : lines) {
-        const bool isContinuation = !line.startsWith(u':') && !IsSeparatorLine(line);
-        if (isContinuation && !joined.isEmpty()) {
-            joined.last().Text += line;
-        } else if (!line.isEmpty()) {
-            joined.append({line.toString(), repaired.Lines.value(number, number + 1)});
-        }
-        number += 1 + static_cast<int>(line.count(u'\n'));
-    }
-    return joined;
 }
 
 // The tag reaches to the first colon after the first character; empty when there is none.
@@ -93,22 +63,23 @@ bool IsNear(int count, int all)
 }
 
 // Whether the details are made of subfields: judged by the first lines only, and one line may be out of step.
-bool IsStructured(const QList<cLine>& lines)
+bool IsStructured(const modMT940Repair::cRepaired& repaired)
 {
     int all = 0;
     int structured = 0;
     int consistent = 0;
-    QStringView previous;
-    for (const cLine& line : lines) {
-        const QStringView text = line.Text;
-        if (TagOf(text) != u":86:" || all == structureSample) {
+    QString previous;
+    cMT940Lines lines(repaired);
+    while (all < structureSample && lines.Next()) {
+        const QStringView text = lines.Text;
+        if (TagOf(text) != u":86:") {
             continue;
         }
         const QStringView eighth = text.mid(7, 1);
         ++all;
         structured += eighth == u"?" && AreDigits(text, 4, 3) ? 1 : 0;
         consistent += eighth == previous ? 1 : 0;
-        previous = eighth;
+        previous = eighth.toString();
     }
     return IsNear(structured, all) || IsNear(consistent, all);
 }
@@ -181,16 +152,25 @@ void AddSubfield(cTransaction& transaction, int number, QStringView value)
     } else if (number == 10) {
         transaction.PrimaNota += value;
     } else if (number >= 20 && number <= 29) {
-        transaction.Purpose += value + u' ';
+        transaction.Purpose += value;
+        transaction.Purpose += u' ';
     } else if (number == 30) {
         transaction.BankCode += value;
     } else if (number == 31) {
         transaction.Account += value;
     } else if (number == 32 || number == 33) {
-        transaction.Name += value + u' ';
+        transaction.Name += value;
+        transaction.Name += u' ';
     } else if (number >= 60 && number <= 63) {
         transaction.PurposeContinuation += value;
     }
+}
+
+bool HasNotProvided(QStringView content)
+{
+    constexpr QStringView wanted = u"notprovided";
+    const auto isSame = [](QChar c, QChar lower) { return (c.unicode() | 0x20U) == lower.unicode(); };
+    return std::search(content.begin(), content.end(), wanted.begin(), wanted.end(), isSame) != content.end();
 }
 
 void ReadDetails(cTransaction& transaction, QStringView content)
@@ -199,8 +179,9 @@ void ReadDetails(cTransaction& transaction, QStringView content)
     transaction.Separator = content.mid(3, 1).toString();
     const QList<QStringView> pieces =
         transaction.Separator.isEmpty() ? QList<QStringView>() : content.split(transaction.Separator.front());
+    const bool hasNoReference = HasNotProvided(content); // quicker asked once
     for (qsizetype i = 1; i < pieces.size(); ++i) {
-        if (!pieces[i].contains(u"referenz notprovided", Qt::CaseInsensitive)) {
+        if (!hasNoReference || !pieces[i].contains(u"referenz notprovided", Qt::CaseInsensitive)) {
             AddSubfield(transaction, SubfieldNumber(pieces[i]), pieces[i].mid(2));
         }
     }
@@ -209,24 +190,45 @@ void ReadDetails(cTransaction& transaction, QStringView content)
     transaction.Name = transaction.Name.trimmed();
 }
 
-// Walks the joined lines and fills the statements.
+// Takes what a text is made of, in its order.
+class cTaker
+{
+public:
+    cTaker() = default;
+    cTaker(const cTaker&) = delete;
+    cTaker& operator=(const cTaker&) = delete;
+    virtual ~cTaker() = default;
+    // A transaction with its details. The statement may still miss what stands behind it.
+    virtual void TakeTransaction(const cStatement& statement, cTransaction transaction) = 0;
+    virtual void EndStatement(cStatement statement) = 0;
+};
+
+// Walks over the lines and hands on each transaction as soon as it is complete, so that a large text need not stand in
+// memory a second time.
 class cWalk
 {
 public:
-    cParsed Run(const QList<cLine>& lines)
+    explicit cWalk(cTaker& taker) : m_taker(taker) {}
+
+    // Everything but the statements.
+    cParsed Run(const modMT940Repair::cRepaired& repaired)
     {
-        m_isStructured = IsStructured(lines);
-        for (const cLine& line : lines) {
-            m_isNew = m_isNew || IsSeparatorLine(line.Text);
-            if (m_isNew) {
-                m_parsed.Statements.append(cStatement());
-                m_isNew = false;
+        m_isStructured = IsStructured(repaired);
+        cMT940Lines lines(repaired);
+        bool isFirst = true;
+        while (lines.Next()) {
+            if (!isFirst && lines.IsSeparator()) {
+                EndStatement();
             }
-            const QStringView tag = TagOf(line.Text);
-            if (!Take(tag, QStringView(line.Text).mid(tag.size()), line.Number)) {
-                Fail(line.Number);
-                break;
+            isFirst = false;
+            const QStringView tag = TagOf(lines.Text);
+            if (!Take(tag, lines.Text.mid(tag.size()), lines.Number)) {
+                Fail(lines.Number);
+                return std::move(m_parsed);
             }
+        }
+        if (!isFirst) {
+            EndStatement();
         }
         return std::move(m_parsed);
     }
@@ -235,39 +237,39 @@ private:
     // False when the line ends the reading.
     bool Take(QStringView tag, QStringView content, int number)
     {
-        cStatement& statement = m_parsed.Statements.last();
         if (tag == u":25:") {
-            statement.Account = WithoutZeros(content.mid(content.indexOf(u'/') + 1)).toString();
+            m_statement.Account = WithoutZeros(content.mid(content.indexOf(u'/') + 1)).toString();
         } else if (tag == u":60F:" || tag == u":60M:") {
-            statement.OpeningBalance = ReadBalance(content);
+            m_statement.OpeningBalance = ReadBalance(content);
         } else if (tag == u":61:") {
-            TakeTransaction(statement, content, number);
+            EndTransaction();
+            TakeTransaction(content, number);
         } else if (tag == u":86:") {
-            return TakeDetails(statement, content);
+            return TakeDetails(content);
         } else if (tag == u":62F:" || tag == u":62M:") {
             TakeClosing(content, number);
         }
         return true;
     }
 
-    void TakeTransaction(cStatement& statement, QStringView content, int number)
+    void TakeTransaction(QStringView content, int number)
     {
-        ++statement.TransactionCount;
-        statement.Transactions.append(ReadTransaction(content, number));
-        if (statement.Transactions.last().Amount.isEmpty()) {
+        ++m_statement.TransactionCount;
+        m_transaction = ReadTransaction(content, number);
+        if (m_transaction->Amount.isEmpty()) {
             Report(number, cText::Tr("Der Umsatz hat keinen Betrag: {0}", {content.left(40).toString()}));
         }
     }
 
-    bool TakeDetails(cStatement& statement, QStringView content)
+    bool TakeDetails(QStringView content)
     {
-        if (statement.Transactions.isEmpty()) {
+        if (!m_transaction) {
             return false;
         }
         if (m_isStructured) {
-            ReadDetails(statement.Transactions.last(), content);
+            ReadDetails(*m_transaction, content);
         } else {
-            statement.Transactions.last().BookingText = content.toString();
+            m_transaction->BookingText = content.toString();
         }
         ++m_parsed.DetailLines;
         return true;
@@ -280,13 +282,27 @@ private:
             return;
         }
         m_parsed.ClosingBalance = ReadBalance(content);
+        m_parsed.Closings.append({m_statement.Account, *m_parsed.ClosingBalance});
+    }
+
+    void EndTransaction()
+    {
+        if (m_transaction) {
+            m_taker.TakeTransaction(m_statement, *std::exchange(m_transaction, std::nullopt));
+        }
+    }
+
+    void EndStatement()
+    {
+        EndTransaction();
+        m_taker.EndStatement(std::exchange(m_statement, cStatement()));
     }
 
     // Details before the first transaction of their statement: the text is not what it seems, so none of it is taken.
     void Fail(int number)
     {
-        m_parsed.Statements.clear();
         m_parsed.ClosingBalance.reset();
+        m_parsed.Closings.clear();
         m_parsed.IsFailed = true;
         Report(number,
                cText::Tr("Angaben zu einem Umsatz (:86:) stehen vor dem ersten Umsatz (:61:) des Auszugs. "
@@ -295,9 +311,32 @@ private:
 
     void Report(int number, const QString& text) { m_parsed.Problems.append({number, text}); }
 
+    cTaker& m_taker;
     cParsed m_parsed;
+    cStatement m_statement;
+    std::optional<cTransaction> m_transaction; // to which details may follow
     bool m_isStructured = false;
-    bool m_isNew = true;
+};
+
+// Keeps all of it.
+class cKeeper : public cTaker
+{
+public:
+    void TakeTransaction(const cStatement& /*statement*/, cTransaction transaction) override
+    {
+        m_transactions.append(std::move(transaction));
+    }
+
+    void EndStatement(cStatement statement) override
+    {
+        statement.Transactions = std::exchange(m_transactions, {});
+        Statements.append(std::move(statement));
+    }
+
+    QList<cStatement> Statements;
+
+private:
+    QList<cTransaction> m_transactions;
 };
 
 // YYMMDD, always of this century; the first day of 1001 for anything else.
@@ -310,56 +349,113 @@ QDate ReadDate(QStringView text)
     return date.isValid() ? date : noDate;
 }
 
-cImportEntry ToEntry(const cStatement& statement, const cTransaction& transaction, const QString& account)
+// One without a day or an amount tells nothing.
+std::optional<cAccountBalance> ToBalance(const cStatementBalance& balance, const QString& account)
 {
-    const QString& date = transaction.ValueDate.isEmpty() ? statement.OpeningBalance.Date : transaction.ValueDate;
-    const double value = std::abs(modAmount::ReadGerman(transaction.Amount));
-    cImportEntry entry;
-    entry.ImportAccount = statement.Account.isEmpty() ? account : statement.Account;
-    entry.ImportDate = ReadDate(date);
-    entry.ImportType = modStatementText::DecodeField(transaction.BookingText);
-    entry.ImportPurpose = modStatementText::DecodeField(transaction.Purpose);
-    entry.ImportBeneficiary = modStatementText::DecodeField(transaction.Name);
-    entry.ImportBeneficiaryAccount = modStatementText::DecodeField(transaction.Account);
-    entry.ImportBeneficiaryBLZ = modStatementText::DecodeField(transaction.BankCode);
-    entry.ImportCurrency = statement.OpeningBalance.Currency;
-    // Cancellations count by the letter too: "RD" is negative although the bank pays money back with it.
-    entry.ImportValue = transaction.Mark.contains(u'D', Qt::CaseInsensitive) ? -value : value;
-    return entry;
+    const QDate date = ReadDate(balance.Balance.Date);
+    if (date == noDate || !modAmount::TryReadGerman(balance.Balance.Amount)) {
+        return std::nullopt;
+    }
+    const QString& own = balance.Account.isEmpty() ? account : balance.Account;
+    return cAccountBalance{own, modMT940::SignedCents(balance.Balance), date};
 }
 
-void CheckEntry(const cTransaction& transaction, const cImportEntry& entry, QList<cReadProblem>& problems)
+// Turns the transactions into records.
+class cRecorder : public cTaker
 {
-    if (entry.ImportDate == noDate) {
-        problems.append(
-            {transaction.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {transaction.ValueDate})});
+public:
+    explicit cRecorder(const QString& account) : m_account(account) {}
+
+    void TakeTransaction(const cStatement& statement, cTransaction transaction) override
+    {
+        if (!transaction.Amount.isEmpty() && !IsTooMany()) {
+            Read.Entries.append(ToEntry(statement, transaction));
+        }
     }
-    if (!modAmount::TryReadGerman(transaction.Amount)) {
-        problems.append({transaction.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {transaction.Amount.left(40)})});
+
+    // Account and currency are those that the whole statement names.
+    void EndStatement(cStatement statement) override
+    {
+        const QString& account = statement.Account.isEmpty() ? m_account : statement.Account;
+        bool isMorning = false;
+        const QDate opening = ReadDate(statement.OpeningBalance.Date);
+        for (; m_ended < Read.Entries.size(); ++m_ended) {
+            cImportEntry& entry = Read.Entries[m_ended];
+            entry.ImportAccount = account;
+            entry.ImportCurrency = statement.OpeningBalance.Currency;
+            isMorning = isMorning || entry.ImportDate == opening;
+            Read.NeedsAccount = Read.NeedsAccount || account.isEmpty();
+        }
+        if (std::optional<cAccountBalance> balance = ToBalance({account, statement.OpeningBalance}, {})) {
+            balance->Date = isMorning ? opening.addDays(-1) : opening; // what the day before ended with
+            Read.Balances.append(*balance);
+        }
     }
-}
+
+    [[nodiscard]] bool IsTooMany() const { return Read.Entries.size() > cStatementRead::mostEntries; }
+
+    cStatementRead Read;
+
+private:
+    cImportEntry ToEntry(const cStatement& statement, const cTransaction& transaction)
+    {
+        const QString& date = transaction.ValueDate.isEmpty() ? statement.OpeningBalance.Date : transaction.ValueDate;
+        const std::optional<double> amount = modAmount::TryReadGerman(transaction.Amount);
+        const double value = std::abs(amount.value_or(0.0));
+        cImportEntry entry;
+        entry.ImportDate = ReadDate(date);
+        entry.ImportType = m_type.Of(modStatementText::DecodeField(transaction.BookingText));
+        entry.ImportPurpose = modStatementText::DecodeField(transaction.Purpose);
+        entry.ImportBeneficiary = modStatementText::DecodeField(transaction.Name);
+        entry.ImportBeneficiaryAccount = modStatementText::DecodeField(transaction.Account);
+        entry.ImportBeneficiaryBLZ = m_bankCode.Of(modStatementText::DecodeField(transaction.BankCode));
+        // Cancellations count by the letter too: "RD" is negative although the bank pays money back with it.
+        entry.ImportValue = transaction.Mark.contains(u'D', Qt::CaseInsensitive) ? -value : value;
+        if (entry.ImportDate == noDate) {
+            Report(transaction.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {transaction.ValueDate}));
+        }
+        if (!amount) {
+            Report(transaction.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {transaction.Amount.left(40)}));
+        }
+        return entry;
+    }
+
+    void Report(int line, const QString& text) { Read.Problems.append({line, text}); }
+
+    QString m_account;     // of statements without a number
+    qsizetype m_ended = 0; // entries of the statements before
+    cRepeatedText m_type;
+    cRepeatedText m_bankCode;
+};
 
 } // namespace
 
 modMT940::cParsed modMT940::Parse(const QString& text)
 {
-    return cWalk().Run(JoinLines(modMT940Repair::Repair(text)));
+    cKeeper keeper;
+    cParsed parsed = cWalk(keeper).Run(modMT940Repair::Repair(text));
+    if (!parsed.IsFailed) {
+        parsed.Statements = std::move(keeper.Statements);
+    }
+    return parsed;
 }
 
 cStatementRead modMT940::Read(const QString& text, const QString& account)
 {
-    cParsed parsed = Parse(text);
-    cStatementRead read;
-    read.Problems = std::move(parsed.Problems);
+    cRecorder recorder(account);
+    recorder.Read.Entries.reserve(std::min(text.size() / shortestTransaction, cStatementRead::mostEntries));
+    const cParsed parsed = cWalk(recorder).Run(modMT940Repair::Repair(text));
+    if (recorder.IsTooMany()) {
+        return cStatementRead::TooMany();
+    }
+    cStatementRead read = parsed.IsFailed ? cStatementRead() : std::move(recorder.Read);
+    read.Problems += parsed.Problems;
     if (parsed.ClosingBalance) {
         read.ClosingBalance = SignedCents(*parsed.ClosingBalance);
     }
-    for (const cStatement& statement : std::as_const(parsed.Statements)) {
-        for (const cTransaction& transaction : statement.Transactions) {
-            if (!transaction.Amount.isEmpty()) {
-                read.Entries.append(ToEntry(statement, transaction, account));
-                CheckEntry(transaction, read.Entries.last(), read.Problems);
-            }
+    for (const cStatementBalance& closing : parsed.Closings) {
+        if (const std::optional<cAccountBalance> balance = ToBalance(closing, account)) {
+            read.Balances.append(*balance);
         }
     }
     std::stable_sort(read.Problems.begin(), read.Problems.end(),

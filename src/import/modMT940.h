@@ -48,10 +48,18 @@ struct cStatement
     int TransactionCount = 0;
 };
 
+// A balance with the account that it belongs to.
+struct cStatementBalance
+{
+    QString Account; // as in cStatement
+    cBalance Balance;
+};
+
 struct cParsed
 {
     QList<cStatement> Statements;
     std::optional<cBalance> ClosingBalance; // the last one of the text
+    QList<cStatementBalance> Closings;      // all of them in the order of the text
     QList<cReadProblem> Problems;
     int DetailLines = 0;   // :86: lines walked
     bool IsFailed = false; // a :86: line without its :61: line ended the reading; Statements is empty then

@@ -46,19 +46,16 @@ bool HasAtSignBreaks(const QString& text)
     return atSigns > breaks;
 }
 
-QList<cLine> Split(QStringView text)
+// The line at the place, which is moved behind it.
+cLine TakeLine(QStringView text, qsizetype& from, int number)
 {
-    QList<cLine> lines;
-    int number = 1;
-    for (qsizetype from = 0; from < text.size(); ++number) {
-        const qsizetype feed = text.indexOf(u'\n', from);
-        const qsizetype next = feed < 0 ? text.size() : feed + 1;
-        qsizetype end = feed < 0 ? text.size() : feed;
-        end -= end > from && feed >= 0 && text[end - 1] == u'\r' ? 1 : 0;
-        lines.append({text.mid(from, end - from), text.mid(end, next - end), number});
-        from = next;
-    }
-    return lines;
+    const qsizetype feed = text.indexOf(u'\n', from);
+    const qsizetype next = feed < 0 ? text.size() : feed + 1;
+    qsizetype end = feed < 0 ? text.size() : feed;
+    end -= end > from && feed >= 0 && text[end - 1] == u'\r' ? 1 : 0;
+    const cLine line{text.mid(from, end - from), text.mid(end, next - end), number};
+    from = next;
+    return line;
 }
 
 QStringView WithoutControls(QStringView line)
@@ -78,15 +75,20 @@ bool IsEnvelope(QStringView line)
     return line.size() >= 3 && line[0] == u'{' && line[1] >= u'1' && line[1] <= u'5' && line[2] == u':';
 }
 
+// Whether a text is only looked at, up to the first line that has to be changed.
+enum class eRepair { Look, Change };
+
 class cRepair
 {
 public:
-    explicit cRepair(const QString& text) : m_lines(Split(text)) {}
+    cRepair(QStringView text, eRepair repair) : m_text(text), m_repair(repair) {}
 
+    // True when something had or has to be changed.
     bool Run()
     {
-        for (const cLine& line : m_lines) {
-            Take(line);
+        qsizetype from = 0;
+        for (int number = 1; from < m_text.size() && !IsDone(); ++number) {
+            Take(TakeLine(m_text, from, number));
         }
         return m_isChanged;
     }
@@ -103,6 +105,15 @@ public:
     }
 
 private:
+    [[nodiscard]] bool IsDone() const { return m_isChanged && m_repair == eRepair::Look; }
+
+    // To be asked before any change.
+    bool BeginChange()
+    {
+        m_isChanged = true;
+        return m_repair == eRepair::Change;
+    }
+
     void Take(const cLine& line)
     {
         const QStringView bare = WithoutControls(line.Content);
@@ -110,7 +121,7 @@ private:
             TakeEnvelope(line, bare);
         } else if (bare.startsWith(u"-}") || (bare == u"-" && bare.size() != line.Content.trimmed().size())) {
             Replace(line, u"-");
-        } else if (line.Content.startsWith(u':') && !HasKnownTag(line.Content) && m_lastWidth >= wrapWidth) {
+        } else if (m_lastWidth >= wrapWidth && line.Content.startsWith(u':') && !HasKnownTag(line.Content)) {
             Join(line);
         } else {
             Separate(line);
@@ -121,7 +132,9 @@ private:
     // The envelope goes; a tag behind its last opening stays.
     void TakeEnvelope(const cLine& line, QStringView bare)
     {
-        m_isChanged = true;
+        if (!BeginChange()) {
+            return;
+        }
         const qsizetype block = bare.indexOf(u"{4:");
         const QStringView rest = block < 0 ? QStringView() : bare.mid(block + 3);
         if (HasKnownTag(rest)) {
@@ -133,13 +146,16 @@ private:
 
     void Replace(const cLine& line, QStringView content)
     {
-        m_isChanged = true;
-        Keep({content, line.End, line.Number});
+        if (BeginChange()) {
+            Keep({content, line.End, line.Number});
+        }
     }
 
     void Join(const cLine& line)
     {
-        m_isChanged = true;
+        if (!BeginChange()) {
+            return;
+        }
         m_kept.last().End = {};
         m_kept.append(line);
         m_lastWidth = line.Content.size();
@@ -149,8 +165,7 @@ private:
     // added.
     void Separate(const cLine& line)
     {
-        if (line.Content.startsWith(u":20:") && m_hasTag && !m_isSeparated) {
-            m_isChanged = true;
+        if (line.Content.startsWith(u":20:") && m_hasTag && !m_isSeparated && BeginChange()) {
             Keep({u"-", m_kept.last().End, line.Number});
         }
         m_hasTag = m_hasTag || HasKnownTag(line.Content);
@@ -158,15 +173,18 @@ private:
 
     void Keep(const cLine& line)
     {
-        m_kept.append(line);
-        m_starts.append(line.Number);
+        if (m_repair == eRepair::Change) {
+            m_kept.append(line);
+            m_starts.append(line.Number);
+        }
         m_lastWidth = line.Content.size();
         if (const QStringView bare = line.Content.trimmed(); !bare.isEmpty()) {
             m_isSeparated = bare == u"-";
         }
     }
 
-    QList<cLine> m_lines;
+    QStringView m_text;
+    eRepair m_repair;
     QList<cLine> m_kept;
     QList<int> m_starts; // numbers of the lines that begin a line of the result
     qsizetype m_lastWidth = 0;
@@ -181,9 +199,10 @@ modMT940Repair::cRepaired modMT940Repair::Repair(const QString& text)
 {
     const bool hasAtSigns = HasAtSignBreaks(text);
     const QString broken = hasAtSigns ? QString(text).replace(u"@@"_s, u"\r\n"_s) : text;
-    cRepair repair(broken);
-    if (!repair.Run()) {
+    if (!cRepair(broken, eRepair::Look).Run()) {
         return {broken, {}};
     }
+    cRepair repair(broken, eRepair::Change);
+    repair.Run();
     return repair.Result();
 }

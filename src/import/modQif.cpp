@@ -95,7 +95,7 @@ class cWalk
 public:
     QList<cRecord> Run(QStringView text)
     {
-        for (int number = 1; !text.isEmpty(); ++number) {
+        for (int number = 1; !text.isEmpty() && m_records.size() <= cStatementRead::mostEntries; ++number) {
             const QStringView line = TakeLine(text);
             if (line.startsWith(u'!')) {
                 EndRecord();
@@ -259,14 +259,14 @@ public:
     }
 
 private:
-    std::optional<double> ValueOf(const QString& amount) const
+    [[nodiscard]] std::optional<double> ValueOf(const QString& amount) const
     {
         const bool isGerman = m_options.Table.Number == eNumberFormat::German;
         return modAmount::TryReadGerman(isGerman ? amount : ToGerman(amount));
     }
 
     // A record without amount of its own is worth what its parts are.
-    std::optional<double> ValueOf(const cRecord& record) const
+    [[nodiscard]] std::optional<double> ValueOf(const cRecord& record) const
     {
         if (!record.Amount.isEmpty() || record.SplitAmounts.isEmpty()) {
             return ValueOf(record.Amount);
@@ -280,7 +280,7 @@ private:
 
     // The file knows accounts by the names that their owner gave them. The number of the user comes first, unless there
     // are several accounts to tell apart.
-    QString AccountOf(const cRecord& record) const
+    [[nodiscard]] QString AccountOf(const cRecord& record) const
     {
         const bool isNamed = m_hasSeveralAccounts || m_options.Account.isEmpty();
         return isNamed && !record.Account.isEmpty() ? record.Account : m_options.Account;
@@ -335,5 +335,7 @@ bool modQif::IsQif(const QString& text)
 
 cStatementRead modQif::Read(const cStatementSource& source, const cReadOptions& options)
 {
-    return cReader(cWalk().Run(source.Text), options).Run();
+    QList<cRecord> records = cWalk().Run(source.Text);
+    return records.size() > cStatementRead::mostEntries ? cStatementRead::TooMany()
+                                                        : cReader(std::move(records), options).Run();
 }

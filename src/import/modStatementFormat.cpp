@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "import/modMT940.h"
 #include "import/modQif.h"
+#include "import/modStatementArchive.h"
 #include "import/modStatementText.h"
 #include "import/table/modSpreadsheet.h"
 #include "import/table/modTable.h"
@@ -63,6 +64,11 @@ bool IsCamt(const QString& /*name*/, const cStatementSource& source)
     return modCamt::IsCamt(source);
 }
 
+bool IsArchive(const QString& /*name*/, const cStatementSource& source)
+{
+    return modStatementArchive::IsArchive(source);
+}
+
 bool IsText(const QString& /*name*/, const cStatementSource& source)
 {
     return source.Bytes.isEmpty() || !source.Text.isEmpty();
@@ -89,6 +95,8 @@ constexpr std::array formats = {
     cFormat{eStatementFormat::Unknown, QT_TRANSLATE_NOOP("cText", "Unbekanntes Dateiformat"), IsRefused, nullptr},
     // Looks at the head of the text only, so it is asked before those that search all of it.
     cFormat{eStatementFormat::Camt, QT_TRANSLATE_NOOP("cText", "SEPA-Kontoauszug (camt-Datei)"), IsCamt, modCamt::Read},
+    cFormat{eStatementFormat::Archive, QT_TRANSLATE_NOOP("cText", "ZIP-Archiv mit Kontoauszügen"), IsArchive,
+            modStatementArchive::Read},
     cFormat{eStatementFormat::Mt940, QT_TRANSLATE_NOOP("cText", "SWIFT-Kontoauszug (MT940/MT942-Datei)"), IsMt940,
             ReadMt940},
     cFormat{eStatementFormat::Ofx, QT_TRANSLATE_NOOP("cText", "Open Financial Exchange (OFX-Datei)"), IsOfx,
@@ -115,6 +123,10 @@ eStatementFormat DetectStatementFormat(const QString& fileName, const QString& t
 
 cStatementSource modStatementFormat::Source(const QString& fileName, const QByteArray& bytes, eCharset charset)
 {
+    const cStatementSource packed{fileName, bytes, {}};
+    if (modCamt::IsCamt(packed)) {
+        return packed; // its reader takes the bytes, which are many
+    }
     const bool isText = charset != eCharset::Detect || !modStatementText::IsBinary(bytes);
     return {fileName, bytes, isText ? modStatementText::Decode(bytes, charset) : QString()};
 }
@@ -131,6 +143,11 @@ QString modStatementFormat::Name(eStatementFormat format)
 {
     const cFormat* const known = Find(format);
     return known == nullptr ? QString() : cText::Tr(known->Name);
+}
+
+bool modStatementFormat::IsTable(eStatementFormat format)
+{
+    return format == eStatementFormat::Csv || format == eStatementFormat::Spreadsheet;
 }
 
 modStatementFormat::cReader modStatementFormat::Reader(eStatementFormat format)

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-enum class eStatementFormat { Spreadsheet, Pdf, Unknown, Mt940, Camt, Ofx, Qif, Csv };
+enum class eStatementFormat { Spreadsheet, Pdf, Unknown, Mt940, Camt, Archive, Ofx, Qif, Csv };
 
 // The format of a statement file, by the end of its name and by its content.
 [[nodiscard]] eStatementFormat DetectStatementFormat(const QString& fileName, const QString& text);
@@ -25,6 +25,9 @@ using cReader = cStatementRead (*)(const cStatementSource& source, const cReadOp
 
 // The name under which the user sees a format.
 [[nodiscard]] QString Name(eStatementFormat format);
+
+// True for rows and columns, which can be read with a layout that the user chooses.
+[[nodiscard]] bool IsTable(eStatementFormat format);
 
 // Null when the program cannot read the format.
 [[nodiscard]] cReader Reader(eStatementFormat format);

@@ -143,6 +143,8 @@ private Q_SLOTS:
             lines.append(problem.Line);
         }
         QCOMPARE(lines, (QList<int>{1, 2, 3}));
+        QVERIFY(!read.NeedsAccount);
+        QVERIFY(modMT940::Read(u":25:1\n:61:260101D1,00N\n-\n:61:260101D1,00N\n"_s, {}).NeedsAccount);
     }
 
     void balances_data()

@@ -175,6 +175,14 @@ void testMatcher::ReasonsAndOrder() const
              QStringList({QString::number(taken) + u" 1 gleicher Betrag, gleicher Tag, Empfänger ähnlich !"_s,
                           QString::number(late) + u" 0.793 gleicher Betrag, 4 Tage später, Empfänger ähnlich"_s,
                           QString::number(near) + u" 0.7 gleicher Betrag, gleicher Tag"_s}));
+    // The one that is left gains by it, those that are taken do not.
+    QVERIFY(cBooking(bank.Data, bank.Hive, bank.Accounts).Assign(bank.Stage(day, -50, u"Y"_s), late));
+    const QList<cMatchCandidate> left = bank.Candidates(bank.Stage(day, -50, u"Z"_s));
+    QCOMPARE(left.size(), 2);
+    QCOMPARE(left.at(0).Entry.ID, near);
+    QCOMPARE(left.at(0).Reason, u"einziger Eintrag mit diesem Betrag, gleicher Tag"_s);
+    QCOMPARE(left.at(1).Entry.ID, taken);
+    QCOMPARE(left.at(1).Reason, u"gleicher Betrag, gleicher Tag"_s);
 }
 
 void testMatcher::AnEntryTakesOneRow() const

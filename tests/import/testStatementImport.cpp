@@ -1,7 +1,9 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
+#include "import/cBankBalances.h"
 #include "import/cStatementImport.h"
 #include "import/modMT940.h"
+#include "store/cUndoStep.h"
 
 #include <QTest>
 
@@ -112,14 +114,46 @@ private Q_SLOTS:
         QVERIFY(!result.ClosingBalance);
     }
 
-    void cancelKeepsWhatIsStaged()
+    // Of several files in one step, the one that was stopped goes and the others stay.
+    void cancelTakesTheFileBack()
     {
         cImportBook book;
         cCancel progress(2);
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(500), {}, progress);
-        QVERIFY(result.IsCancelled);
-        QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({500, 200}));
-        QCOMPARE(book.Data.GetImportEntries().size(), 200);
+        cStatementImport import(book.Data, book.Hive);
+        {
+            const cUndoStep step(book.Data, u"eingelesen"_s);
+            QCOMPARE(import.ImportText(u"a"_s, Many(3), {}, progress).Staged, 3);
+            const cImportResult result = import.ImportText(u"b"_s, Many(500), {}, progress);
+            QVERIFY(result.IsCancelled);
+            QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({0, 0}));
+            QCOMPARE(book.Data.GetImportEntries().size(), 3);
+        }
+        QVERIFY(book.Data.Undo());
+        QCOMPARE(book.Data.GetImportEntries().size(), 0);
+        QVERIFY(book.Data.Redo());
+        QCOMPARE(book.Data.GetImportEntries().size(), 3);
+    }
+
+    // What the bank says is kept of files that were taken as a whole: both ends of a statement, each day of a table.
+    void keepsBalancesOfTheBank()
+    {
+        cImportBook book;
+        cBankBalances balances(*book.Settings);
+        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
+        cCancel cancelled(1);
+        QVERIFY(import.ImportText(u"a"_s, Many(500), {}, cancelled).IsCancelled);
+        cNoProgress progress;
+        QCOMPARE(
+            import.ImportText(u"a"_s, Many(5), {.DefaultAccount = {}, .Run = eStagingRun::Try}, progress).Rows.size(),
+            5);
+        QVERIFY(balances.Of(u"1"_s).isEmpty());
+        QCOMPARE(import.ImportText(u"a"_s, Many(2), {}, progress).Staged, 2);
+        QCOMPARE(balances.Of(u"1"_s), cBankBalanceList({{QDate(2025, 12, 31), 0}, {QDate(2026, 1, 1), 0}}));
+        const QString table = u"Buchungstag;Verwendungszweck;Betrag;Saldo\n04.05.2026;C;-10,00;60,00\n"
+                              "04.05.2026;B;-5,00;70,00\n02.05.2026;A;-25,00;75,00\n"_s;
+        QCOMPARE(import.ImportText(u"a.csv"_s, table, {.DefaultAccount = u"2"_s}, progress).Staged, 3);
+        QCOMPARE(balances.Of(u"2"_s),
+                 cBankBalanceList({{QDate(2026, 5, 1), 10000}, {QDate(2026, 5, 2), 7500}, {QDate(2026, 5, 4), 6000}}));
     }
 
     void readOnlyDatabaseIsToldOnce()

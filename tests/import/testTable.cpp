@@ -7,6 +7,7 @@
 #include "import/table/cTableMemory.h"
 #include "import/table/modTable.h"
 #include "import/table/modTableProfile.h"
+#include "import/table/modTableText.h"
 
 #include <QDir>
 #include <QTest>
@@ -266,6 +267,13 @@ private Q_SLOTS:
             const cStatementRead read = ReadText(text);
             QVERIFY(!read.Refusal.isEmpty() && read.Entries.isEmpty());
         }
+    }
+
+    void endlessRowsAreCut()
+    {
+        const cTable table = modTableText::Split(u"a"_s + QString(1000, u';') + u"\n1;\"2\n3\";4\n"_s, u';', 0);
+        QCOMPARE(table.CellCount(0), cTable::mostColumns);
+        QCOMPARE(table.Row(1), QStringList({u"1"_s, u"23"_s, u"4"_s}));
     }
 };
 

@@ -15,7 +15,7 @@ struct cSheetCell
 class cSheetBuilder
 {
 public:
-    static constexpr int mostColumns = 256;
+    static constexpr int mostColumns = cTable::mostColumns;
     static constexpr int mostCells =
         4'000'000; // of one sheet; keeps a small file with endless rows from filling memory
 

@@ -13,6 +13,11 @@ public:
     // A table whose cells are cut from this text with AddSlice.
     explicit cTable(const QString& text) : m_text(text) {}
 
+    // What is more than this is no statement, and would only fill memory.
+    static constexpr int mostColumns = 256;
+    static constexpr qsizetype mostCells = 8'000'000;
+    [[nodiscard]] bool IsFull() const { return m_cells.size() >= mostCells; }
+
     // Begins a row; `line` is its place in the file as the user counts it, from 1.
     void AddRow(int line) { m_rows.append({m_cells.size(), line}); }
     // Appends a cell to the last row. The text is cleaned: trimmed, enclosing quotes removed, no tabs and line breaks.

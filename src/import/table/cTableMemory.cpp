@@ -2,6 +2,7 @@
 
 #include "base/modMD5.h"
 #include "core/cSettings.h"
+#include "import/table/modTableProfile.h"
 
 #include <QStringList>
 
@@ -13,6 +14,7 @@ const QString mapPrefix = u"MAP:"_s;
 // Not under "KTO:", where the name of a setting is a number of an account; a key never begins like this.
 const QString accountPrefix = u"MAP:KTO:"_s;
 const QString bankCodePrefix = u"BLZ:"_s;
+const QString charsetPrefix = u"MAP:ZS:"_s;
 
 // The numbers of a map in the order in which they are stored. New ones go to the end.
 QList<int*> Places(cColumnMap& map)
@@ -48,10 +50,14 @@ bool cTableMemory::LoadMap(const QString& key, cTableLayout& layout) const
     cColumnMap map;
     const QList<int*> places = Places(map);
     constexpr qsizetype rules = 5; // column count, number, date, sign, details
-    if (key.isEmpty() || values.size() != places.size() + rules || values.at(0).toInt() != layout.Map.Names.size()) {
+    if (key.isEmpty() || (values.size() != places.size() + rules && values.size() != places.size() + rules + 1)
+        || values.at(0).toInt() != layout.Map.Names.size()) {
         return false;
     }
     map.Names = layout.Map.Names;
+    if (values.size() > places.size() + rules) {
+        modTableProfile::ApplyNamed(values.last(), map.Names, layout);
+    }
     map.ColumnCount = static_cast<int>(map.Names.size());
     for (qsizetype i = 0; i < places.size(); ++i) {
         const int column = values.at(rules + i).toInt();
@@ -78,7 +84,21 @@ bool cTableMemory::SaveMap(const QString& key, const cTableLayout& layout)
     for (const int* place : Places(map)) {
         values.append(QString::number(*place));
     }
+    if (!layout.Profile.isEmpty()) {
+        values.append(layout.Profile);
+    }
     return m_settings.Set(mapPrefix + key, values.join(u';'));
+}
+
+eCharset cTableMemory::Charset(const QString& key) const
+{
+    constexpr int charsets = 6;
+    return key.isEmpty() ? eCharset::Detect : Checked<eCharset>(m_settings.Get(charsetPrefix + key).toInt(), charsets);
+}
+
+bool cTableMemory::SaveCharset(const QString& key, eCharset charset)
+{
+    return !key.isEmpty() && m_settings.Set(charsetPrefix + key, QString::number(static_cast<int>(charset)));
 }
 
 QStringList cTableMemory::Accounts(const QString& accountKey) const

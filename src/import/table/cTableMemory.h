@@ -19,10 +19,16 @@ public:
     [[nodiscard]] static QString KeyOf(const QStringList& header);
 
     [[nodiscard]] bool HasMap(const QString& key) const;
-    // Puts columns, number format, date order and sign rule into the layout. False when nothing is remembered or the
+    // Puts columns, number format, date order and sign rule into the layout, on top of the known layout that they were
+    // made from. False when nothing is remembered or the
     // header has another number of columns.
     bool LoadMap(const QString& key, cTableLayout& layout) const;
     bool SaveMap(const QString& key, const cTableLayout& layout);
+
+    // The character set of files that name their columns like this when they are read without one. Detect when nothing
+    // is remembered.
+    [[nodiscard]] eCharset Charset(const QString& key) const;
+    bool SaveCharset(const QString& key, eCharset charset);
 
     // Empty when nothing is remembered, and when files of this kind were given different accounts.
     [[nodiscard]] QString Account(const QString& accountKey) const;

@@ -115,6 +115,11 @@ modTable::cOpened modSpreadsheet::Open(const cStatementSource& source, const cRe
     if (book.Sheets.isEmpty()) {
         return modTable::Open(source, options);
     }
+    return Open(book, options);
+}
+
+modTable::cOpened modSpreadsheet::Open(const cSpreadsheet& book, const cReadOptions& options)
+{
     const cSheetRead best = ReadBest(book.Sheets, options);
     return {best.Layout, std::make_shared<const cTable>(best.Sheet->Table)};
 }

@@ -26,6 +26,9 @@ namespace modSpreadsheet {
 // without rows when the file cannot be read.
 [[nodiscard]] modTable::cOpened Open(const cStatementSource& source, const cReadOptions& options);
 
+// The same for sheets that were loaded before; there must be one.
+[[nodiscard]] modTable::cOpened Open(const cSpreadsheet& book, const cReadOptions& options);
+
 // The entry in the list of formats.
 [[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
 

@@ -119,14 +119,38 @@ QString AccountOf(const modTableAbove::cAbove& above, const cTableLayout& layout
     return options.Memory->Account(layout.AccountKey);
 }
 
-} // namespace
-
-modTable::cOpened modTable::Open(const cStatementSource& source, const cReadOptions& options)
+modTable::cOpened OpenText(const cStatementSource& source, const cReadOptions& options)
 {
     const modTableHeader::cFound found = modTableHeader::Find(ProbesOf(source.Text), options.Table, options.Memory);
     const auto table = std::make_shared<const cTable>(
         modTableText::Split(source.Text, found.Separator, found.Header >= 0 ? found.Header : found.First));
     return {LayoutOf(*table, found, options), table};
+}
+
+} // namespace
+
+modTable::cOpened modTable::Open(const cStatementSource& source, const cReadOptions& options)
+{
+    cOpened opened = OpenText(source, options);
+    if (options.Memory == nullptr || options.Table.Charset != eCharset::Detect || source.Bytes.isEmpty()) {
+        return opened;
+    }
+    const eCharset charset = options.Memory->Charset(opened.Layout.Key);
+    return charset == eCharset::Detect
+        ? opened
+        : OpenText({source.Name, source.Bytes, modStatementText::Decode(source.Bytes, charset)}, options);
+}
+
+bool modTable::Remember(const cStatementSource& source, const cTableChoice& choice, const cTableLayout& layout,
+                        cTableMemory& memory)
+{
+    if (choice.Charset != eCharset::Detect && !source.Bytes.isEmpty()) {
+        cReadOptions plain;
+        plain.Table.HeaderLine = choice.HeaderLine;
+        const cStatementSource detected{source.Name, source.Bytes, modStatementText::Decode(source.Bytes)};
+        (void)memory.SaveCharset(OpenText(detected, plain).Layout.Key, choice.Charset);
+    }
+    return memory.SaveMap(layout.Key, layout);
 }
 
 cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
@@ -136,17 +160,27 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
 
 cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
 {
-    if (!layout.IsReadable()) {
+    if (!layout.IsReadable() || table.IsFull()) {
         cStatementRead read;
-        read.Refusal = cText::Tr("In der Datei sind keine Spalten mit Datum und Betrag zu erkennen.");
+        read.IsTable = true;
+        read.Refusal = table.IsFull() ? cText::Tr("Die Tabelle ist zu groß für einen Kontoauszug.")
+                                      : cText::Tr("In der Datei sind keine Spalten mit Datum und Betrag zu erkennen.");
         return read;
     }
     const modTableAbove::cAbove above =
         modTableAbove::Read(table, layout.HeaderRow >= 0 ? layout.HeaderRow : layout.FirstRow);
     cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options));
+    read.IsTable = true;
+    read.IsGuessed = layout.Origin == eMapOrigin::Contents;
     if (!options.Table.Account.isEmpty()) {
         for (cImportEntry& entry : read.Entries) {
             entry.ImportAccount = options.Table.Account;
+        }
+        for (cSkippedRow& row : read.Skipped) {
+            row.Entry.ImportAccount = options.Table.Account;
+        }
+        for (cAccountBalance& balance : read.Balances) {
+            balance.Account = options.Table.Account;
         }
     }
     read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),

@@ -6,6 +6,7 @@
 #include <memory>
 
 class cTable;
+class cTableMemory;
 struct cReadOptions;
 struct cStatementSource;
 
@@ -20,6 +21,11 @@ struct cOpened
 };
 
 [[nodiscard]] cOpened Open(const cStatementSource& source, const cReadOptions& options);
+
+// Keeps columns and rules of a table that was read with the choice for the next file with the same header. False when
+// it has none, or the settings cannot be written.
+bool Remember(const cStatementSource& source, const cTableChoice& choice, const cTableLayout& layout,
+              cTableMemory& memory);
 
 // Finds header and columns of a table that is there already (a spreadsheet's rows).
 [[nodiscard]] cTableLayout Detect(const cTable& table, const cReadOptions& options);

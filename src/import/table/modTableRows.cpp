@@ -140,7 +140,8 @@ private:
             Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat kein Datum: {0}", {Start()}), entry);
         } else if (!m_layout.OnlyCurrency.isEmpty() && entry.ImportCurrency != m_layout.OnlyCurrency) {
             Skip(eSkipped::OtherCurrency,
-                 cText::Tr("Der Umsatz in {0} verändert das Guthaben nicht: {1}", {entry.ImportCurrency, Start()}),
+                 cText::Tr("Der Umsatz in {0} verändert das Guthaben nicht: {1}",
+                           {entry.ImportCurrency.left(10), Start()}),
                  entry);
         } else {
             Take(entry, value.has_value());
@@ -300,7 +301,7 @@ private:
         }
         if (!entry.ImportDate.isValid()) {
             m_read.Problems.append(
-                Problem(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {Cell(m_map.Date).toString()})));
+                Problem(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {Cell(m_map.Date).left(40).toString()})));
             entry.ImportDate = noDate;
         }
         if (Cell(m_map.Status).contains(u"vorgemerkt", Qt::CaseInsensitive)) {
@@ -324,30 +325,28 @@ private:
             return;
         }
         const cPoint point{entry.ImportDate, modAmount::ToCents(*balance), modAmount::ToCents(entry.ImportValue)};
-        if (m_pointCount < 2) {
-            m_points.at(static_cast<std::size_t>(m_pointCount)) = point;
-        }
-        m_lastPoint = point;
-        ++m_pointCount;
+        m_points.push_back(point);
     }
 
     // Banks list the newest row first or last; the balances themselves say which it is, else the days.
     [[nodiscard]] bool IsNewestFirst() const
     {
-        const auto& [first, second] = m_points;
-        if (m_pointCount > 1 && first.Balance - second.Balance == first.Value) {
+        const bool hasTwo = m_points.size() > 1;
+        if (hasTwo && m_points[0].Balance - m_points[1].Balance == m_points[0].Value) {
             return true;
         }
-        const bool isAscending = m_pointCount > 1 && second.Balance - first.Balance == second.Value;
-        return !isAscending && first.Date >= m_lastPoint.Date;
+        const bool isAscending = hasTwo && m_points[1].Balance - m_points[0].Balance == m_points[1].Value;
+        return !isAscending && m_points.front().Date >= m_points.back().Date;
     }
 
     void CloseBalance()
     {
-        if (!m_closing && m_pointCount > 0) {
-            const cPoint& newest = IsNewestFirst() ? m_points[0] : m_lastPoint;
-            m_closing = newest.Balance;
-            m_closingDate = newest.Date;
+        if (!m_points.empty() && IsNewestFirst()) {
+            std::reverse(m_points.begin(), m_points.end());
+        }
+        if (!m_closing && !m_points.empty()) {
+            m_closing = m_points.back().Balance;
+            m_closingDate = m_points.back().Date;
         }
         if (!m_closing) {
             return;
@@ -357,7 +356,27 @@ private:
             return entry.ImportAccount == m_read.Entries.first().ImportAccount;
         });
         if (isOneAccount && !m_read.Entries.isEmpty()) {
+            KeepDays(m_read.Entries.first().ImportAccount);
             m_read.Balances.append({m_read.Entries.first().ImportAccount, *m_closing, m_closingDate});
+        }
+    }
+
+    // The balances that the file begins with and that each day but the last ends with; only when every row leads from
+    // one balance to the next, else the column means something else.
+    void KeepDays(const QString& account)
+    {
+        const auto isBroken = [](const cPoint& before, const cPoint& after) {
+            return after.Balance - before.Balance != after.Value || after.Date < before.Date;
+        };
+        if (m_points.empty() || std::adjacent_find(m_points.begin(), m_points.end(), isBroken) != m_points.end()) {
+            return;
+        }
+        m_read.Balances.append(
+            {account, m_points.front().Balance - m_points.front().Value, m_points.front().Date.addDays(-1)});
+        for (std::size_t i = 1; i < m_points.size(); ++i) {
+            if (m_points[i].Date != m_points[i - 1].Date) {
+                m_read.Balances.append({account, m_points[i - 1].Balance, m_points[i - 1].Date});
+            }
         }
     }
 
@@ -382,9 +401,7 @@ private:
     QString m_ownAccount;
     std::optional<qint64> m_closing;
     QDate m_closingDate;
-    std::array<cPoint, 2> m_points;
-    cPoint m_lastPoint;
-    int m_pointCount = 0;
+    std::vector<cPoint> m_points; // balances beside the rows
 };
 
 } // namespace

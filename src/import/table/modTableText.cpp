@@ -3,7 +3,9 @@
 namespace {
 
 // A quote that is not closed within so many characters was meant as a letter.
-constexpr qsizetype longestQuoted = 4 * 1024;
+constexpr qsizetype longestQuoted = 4096;
+// Characters that may be searched in vain for closing quotes. A file with more of them does not quote at all.
+constexpr qsizetype mostVainSteps = 100'000'000;
 
 class cSplitter
 {
@@ -17,8 +19,9 @@ public:
 
     void Run(int firstLine)
     {
-        while (m_at < m_text.size()) {
+        while (m_at < m_text.size() && !m_table.IsFull()) {
             m_table.AddRow(m_line + 1);
+            m_column = 0;
             m_isOneLine = m_line < firstLine;
             m_current = m_isOneLine ? SeparatorHere() : m_separator;
             ReadRow();
@@ -64,14 +67,15 @@ private:
     void ReadField()
     {
         const qsizetype start = PastBlanks(m_at);
-        if (At(start) == u'"' && start < m_text.size() && ReadQuoted(start + 1)) {
+        ++m_column;
+        if (At(start) == u'"' && start < m_text.size() && m_vainSteps < mostVainSteps && ReadQuoted(start + 1)) {
             return;
         }
         qsizetype end = m_at;
         while (end < m_text.size() && !IsEnd(end)) {
             ++end;
         }
-        m_table.AddSlice(m_at, end - m_at);
+        AddSlice(m_at, end - m_at);
         m_at = end;
     }
 
@@ -92,21 +96,34 @@ private:
                 if (place + 1 < m_text.size() && m_text[place + 1] == u'"') {
                     hasDoubled = true;
                     ++place;
-                } else if (const qsizetype next = PastBlanks(place + 1); IsEnd(next)) {
+                    continue;
+                }
+                const qsizetype next = PastBlanks(place + 1);
+                if (IsEnd(next)) {
                     Take(start, place - start, hasDoubled);
                     m_line += lineBreaks;
                     m_at = next;
                     return true;
                 }
+                m_vainSteps += next - place;
             }
         }
+        m_vainSteps += limit - start;
         return false;
+    }
+
+    // The cells at the end of an endless row are dropped.
+    void AddSlice(qsizetype start, qsizetype size)
+    {
+        if (m_column <= cTable::mostColumns) {
+            m_table.AddSlice(start, size);
+        }
     }
 
     void Take(qsizetype start, qsizetype size, bool hasDoubled)
     {
-        if (!hasDoubled) {
-            m_table.AddSlice(start, size);
+        if (!hasDoubled || m_column > cTable::mostColumns) {
+            AddSlice(start, size);
             return;
         }
         const QString field = m_text.mid(start, size).replace(QStringLiteral("\"\""), QStringLiteral("\""));
@@ -119,6 +136,8 @@ private:
     cTable& m_table;
     qsizetype m_at = 0;
     int m_line = 0;
+    int m_column = 0; // of the row at hand, from 1
+    qsizetype m_vainSteps = 0;
     bool m_isOneLine = false;
 };
 

@@ -197,7 +197,7 @@ private:
             }
         }
         if (builder.IsFull()) {
-            m_book.Refusal = cText::Tr("Das Tabellenblatt '{0}' ist zu groß für einen Kontoauszug.", {name});
+            m_book.Refusal = cText::Tr("Das Tabellenblatt '{0}' ist zu groß für einen Kontoauszug.", {name.left(40)});
         }
         m_book.Sheets.append(builder.Take());
     }

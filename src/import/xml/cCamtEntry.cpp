@@ -19,6 +19,8 @@ namespace {
 
 constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
 
+constexpr std::size_t mostDetails = 100'000; // a booking with more is not split
+
 // The elements of one side of a payment.
 struct cSide
 {
@@ -213,7 +215,7 @@ bool cCamtEntry::IsBooked() const
 // Details without amounts, in another currency, or with another sum leave the booking whole.
 void cCamtEntry::SplitBatch()
 {
-    if (m_details.size() < 2 || !m_cents) {
+    if (m_details.size() < 2 || m_details.size() > mostDetails || !m_cents) {
         return;
     }
     const char* const currency = m_entry.child("Amt").attribute("Ccy").value();

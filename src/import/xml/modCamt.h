@@ -4,11 +4,10 @@
 #include "import/cStatementRead.h"
 #include "import/cStatementSource.h"
 
-// Account reports, statements and advices of ISO 20022: camt.052, camt.053 and camt.054 in every version, as a file or
-// as several in a zip archive.
+// Account reports, statements and advices of ISO 20022: camt.052, camt.053 and camt.054 in every version.
 namespace modCamt {
 
-// True for such a file, and for a zip archive of XML files.
+// True for such a file.
 [[nodiscard]] bool IsCamt(const cStatementSource& source);
 
 // The booked transactions of all statements; those that are only announced become skipped rows. The amount has the sign

@@ -3,11 +3,14 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "base/modDate.h"
+#include "import/cRepeatedText.h"
 #include "import/modAccountNumber.h"
 #include "import/modStatementText.h"
 #include "import/xml/cCamtEntry.h"
 #include "import/xml/modXmlNode.h"
 #include "import/xml/modXmlPieces.h"
+
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -77,6 +80,9 @@ public:
     cStatementRead Run()
     {
         pugi::xml_document skeleton;
+        if (qsizetype(m_pieces.Pieces.size()) > cStatementRead::mostEntries) {
+            return cStatementRead::TooMany();
+        }
         const bool isXml = modXmlNode::Load(skeleton, m_pieces.Skeleton);
         if (isXml && !TakeMessages(skeleton)) {
             return Refused(cText::Tr("Die XML-Datei ist kein Kontoauszug (camt.052, camt.053, camt.054)."));
@@ -84,7 +90,7 @@ public:
         if (!isXml || m_isBroken) {
             return Refused(cText::Tr("Die XML-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
         }
-        return std::move(m_read);
+        return m_isTooLarge ? cStatementRead::TooMany() : std::move(m_read);
     }
 
 private:
@@ -110,32 +116,67 @@ private:
         const QString number = modAccountNumber::Compact(iban.isEmpty() ? Text(id.child("Othr").child("Id")) : iban);
         m_account = number.isEmpty() ? m_options.Account : number;
         m_read.NeedsAccount = m_read.NeedsAccount || m_account.isEmpty();
-        for (const pugi::xml_node& balance : statement.children("Bal")) {
-            TakeBalance(balance);
+        const qsizetype firstBalance = m_read.Balances.size();
+        m_openings = 0;
+        for (const eBalance kind : {eBalance::Opening, eBalance::Closing}) {
+            for (const pugi::xml_node& balance : statement.children("Bal")) {
+                TakeBalance(balance, kind);
+            }
         }
+        const qsizetype firstEntry = m_read.Entries.size();
         for (const pugi::xml_node& piece : statement.children("x")) {
-            TakeEntry(m_pieces.At(piece.attribute("piece").as_uint()));
+            TakeEntry(m_pieces.Take(piece.attribute("piece").as_uint()));
+        }
+        DateOpening(firstBalance, firstEntry);
+    }
+
+    enum class eBalance { Opening, Closing };
+
+    // A day cannot end with what its statement begins with: then the end of the day before is meant.
+    void DateOpening(qsizetype firstBalance, qsizetype firstEntry)
+    {
+        QSet<QDate> days;
+        for (qsizetype i = firstEntry; i < m_read.Entries.size(); ++i) {
+            days.insert(m_read.Entries.at(i).ImportDate);
+        }
+        for (qsizetype i = firstBalance; i < firstBalance + m_openings; ++i) {
+            QDate& date = m_read.Balances[i].Date;
+            date = days.contains(date) ? date.addDays(-1) : date;
         }
     }
 
-    // Only the closing balance of the day; interim and available balances come beside it.
-    void TakeBalance(const pugi::xml_node& balance)
+    // Only what the day begins and closes with; interim and available balances come beside it.
+    [[nodiscard]] static bool IsOfKind(const pugi::xml_node& balance, eBalance kind)
+    {
+        const pugi::xml_node code = balance.child("Tp").child("CdOrPrtry").child("Cd");
+        return kind == eBalance::Closing ? IsText(code, "CLBD") : IsText(code, "OPBD") || IsText(code, "PRCD");
+    }
+
+    void TakeBalance(const pugi::xml_node& balance, eBalance kind)
     {
         const std::optional<qint64> cents = modAmount::CentsFromText(Text(balance.child("Amt")));
-        if (!cents || !IsText(balance.child("Tp").child("CdOrPrtry").child("Cd"), "CLBD")) {
+        if (!cents || !IsOfKind(balance, kind)) {
             return;
         }
         const bool isDebit = IsText(balance.child("CdtDbtInd"), "DBIT");
         const pugi::xml_node date = balance.child("Dt");
         const QString day = Text(date.child("Dt"));
-        m_read.ClosingBalance = isDebit ? -*cents : *cents;
-        m_read.Balances.append(
-            {m_account, *m_read.ClosingBalance, modDate::FromIso(day.isEmpty() ? Text(date.child("DtTm")) : day)});
+        const qint64 value = isDebit ? -*cents : *cents;
+        if (kind == eBalance::Closing) {
+            m_read.ClosingBalance = value;
+        } else {
+            ++m_openings;
+        }
+        m_read.Balances.append({m_account, value, modDate::FromIso(day.isEmpty() ? Text(date.child("DtTm")) : day)});
     }
 
     void TakeEntry(QByteArrayView piece)
     {
         pugi::xml_document document;
+        m_isTooLarge = m_isTooLarge || m_read.Entries.size() + m_read.Skipped.size() > cStatementRead::mostEntries;
+        if (m_isTooLarge) {
+            return;
+        }
         if (!modXmlNode::Load(document, piece)) {
             m_isBroken = true;
             return;
@@ -145,6 +186,11 @@ private:
         if (!entry.IsBooked()) {
             SkipPending(records, m_lines.LineOf(piece));
             return;
+        }
+        for (cImportEntry& record : records) {
+            record.ImportType = m_type.Of(record.ImportType);
+            record.ImportCurrency = m_currency.Of(record.ImportCurrency);
+            record.ImportBeneficiaryBLZ = m_bankCode.Of(record.ImportBeneficiaryBLZ);
         }
         CheckEntry(entry, records.first(), piece);
         m_read.Entries += std::move(records);
@@ -177,8 +223,13 @@ private:
     cLines m_lines;
     const cReadOptions& m_options;
     cStatementRead m_read;
-    QString m_account; // of the statement at hand
+    QString m_account;        // of the statement at hand
+    qsizetype m_openings = 0; // opening balances of the statement at hand
+    cRepeatedText m_type;
+    cRepeatedText m_currency;
+    cRepeatedText m_bankCode;
     bool m_isBroken = false;
+    bool m_isTooLarge = false; // batches can hold more bookings than there are entries
 };
 
 } // namespace

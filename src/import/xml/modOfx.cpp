@@ -54,6 +54,9 @@ public:
     cStatementRead Run()
     {
         pugi::xml_document skeleton;
+        if (qsizetype(m_pieces.Pieces.size()) > cStatementRead::mostEntries) {
+            return cStatementRead::TooMany();
+        }
         if (!modXmlNode::Load(skeleton, m_pieces.Skeleton)) {
             return Broken();
         }
@@ -94,7 +97,7 @@ private:
         m_read.NeedsAccount = m_read.NeedsAccount || m_account.isEmpty();
         for (const pugi::xml_node& list : statement.children("BANKTRANLIST")) {
             for (const pugi::xml_node& piece : list.children("x")) {
-                TakeTransaction(m_pieces.At(piece.attribute("piece").as_uint()));
+                TakeTransaction(m_pieces.Take(piece.attribute("piece").as_uint()));
             }
         }
         TakeBalance(statement.child("LEDGERBAL"));

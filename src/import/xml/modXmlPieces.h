@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
+#include <utility>
 #include <vector>
 
 // Large XML documents in pieces, so that a statement of 100,000 transactions never stands in memory as one tree.
@@ -13,10 +14,10 @@ struct cPieces
     QByteArray Skeleton;                // the document with an empty element, <x piece="n"/>, for each piece
     std::vector<QByteArrayView> Pieces; // the elements with their tags, views into the document
 
-    // Empty when there is no piece of this number: a file may hold elements that look like ours.
-    [[nodiscard]] QByteArrayView At(unsigned int number) const
+    // The piece of this number, once: a file may hold elements that look like ours. Empty when there is none.
+    [[nodiscard]] QByteArrayView Take(unsigned int number)
     {
-        return number < Pieces.size() ? Pieces[number] : QByteArrayView();
+        return number < Pieces.size() ? std::exchange(Pieces[number], QByteArrayView()) : QByteArrayView();
     }
 };
 

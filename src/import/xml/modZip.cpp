@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int mostFiles = 2000;
-
 // The archive as the library's file functions see it.
 struct cMemory
 {
@@ -93,19 +91,27 @@ QString CurrentName(unzFile file)
     return outcome == UNZ_OK ? QString::fromLatin1(name.data()) : QString();
 }
 
-// The open file of the archive to its end.
+// The open file of the archive to its end. An archive that holds more than it says is damaged; so no more room is taken
+// than was looked at before.
 std::optional<QByteArray> ReadCurrent(unzFile file, qint64 limit)
 {
+    unz_file_info64 info{};
+    if (unzGetCurrentFileInfo64(file, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK
+        || info.uncompressed_size > static_cast<ZPOS64_T>(limit)) {
+        return std::nullopt;
+    }
+    const auto size = static_cast<qsizetype>(info.uncompressed_size);
     QByteArray content;
     std::array<char, 65536> buffer{};
     for (;;) {
         const int count = unzReadCurrentFile(file, buffer.data(), static_cast<unsigned int>(buffer.size()));
-        if (count < 0 || content.size() + count > limit) {
+        if (count < 0 || content.size() + count > size) {
             return std::nullopt;
         }
         if (count == 0) {
             return content;
         }
+        content.reserve(std::max(content.capacity(), std::min(size, 2 * (content.size() + count))));
         content.append(buffer.data(), count);
     }
 }

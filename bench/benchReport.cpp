@@ -1,0 +1,85 @@
+#include "bench/cBenchBook.h"
+#include "core/cAmountFormat.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/cReportSource.h"
+#include "views/modReport.h"
+#include "views/modReportHtml.h"
+
+#include <benchmark/benchmark.h>
+
+// Reports over 100,000 entries beside the query that loads these entries.
+
+namespace {
+
+struct cReportBench
+{
+    cReportBench() { Wish.Type = eReport::Sum; }
+
+    cBook& Book = cBenchBook::Large().Book();
+    cFakeRegistry Registry;
+    cConfiguration Configuration{Registry};
+    cAmountFormat Format{Configuration};
+    cFakeClock Clock{cBenchBook::Today};
+    cReportSource Source{Book.Data(), Book.Settings(), Clock, Format};
+    cReportWish Wish;
+};
+
+// The floor
+void ReportQuery(benchmark::State& state)
+{
+    cReportBench bench;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(bench.Book.Data().GetEntries({}));
+    }
+}
+BENCHMARK(ReportQuery)->Unit(benchmark::kMillisecond);
+
+// Query, figures and HTML
+void ReportFromTheBook(benchmark::State& state)
+{
+    cReportBench bench;
+    for (auto _ : state) {
+        bench.Source.Forget();
+        benchmark::DoNotOptimize(bench.Source.Html(bench.Wish));
+    }
+}
+BENCHMARK(ReportFromTheBook)->Unit(benchmark::kMillisecond);
+
+// Another report over the same entries
+void ReportOfAnotherType(benchmark::State& state)
+{
+    cReportBench bench;
+    (void)bench.Source.Html(bench.Wish);
+    for (auto _ : state) {
+        bench.Wish.Type = bench.Wish.Type == eReport::Sum ? eReport::Limit : eReport::Sum;
+        benchmark::DoNotOptimize(bench.Source.Html(bench.Wish));
+    }
+}
+BENCHMARK(ReportOfAnotherType)->Unit(benchmark::kMillisecond);
+
+void ReportHtmlAlone(benchmark::State& state)
+{
+    cReportBench bench;
+    const cReportFigures figures = bench.Source.Figures(bench.Wish);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(modReportHtml::Html(figures, bench.Wish, bench.Format));
+    }
+}
+BENCHMARK(ReportHtmlAlone)->Unit(benchmark::kMillisecond);
+
+void ReportEntriesOfALine(benchmark::State& state)
+{
+    cReportBench bench;
+    const cReportNode node{eReportKind::Expense, QStringLiteral("Haushalt"), QStringLiteral("Lebensmittel")};
+    qsizetype count = 0;
+    for (auto _ : state) {
+        count = bench.Source.EntriesOf(bench.Wish, node).size();
+    }
+    state.counters["entries"] = static_cast<double>(count);
+}
+BENCHMARK(ReportEntriesOfALine)->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "import/modStatementFormat.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
+#include <QString>
+
+// Statement readers against files that nobody has thought of.
+namespace modFuzz {
+
+// A reader and how its files are called.
+struct cTarget
+{
+    const char* Name;     // of the target and of its folder in corpus/
+    const char* FileName; // what a file of the format is called
+    eStatementFormat Format;
+};
+
+// Null when there is none of this name.
+[[nodiscard]] const cTarget* Find(const QString& name);
+
+// Different choices of a user, by their number.
+constexpr int optionSets = 4;
+[[nodiscard]] cReadOptions Options(int set);
+
+// Reads the bytes as the target's format and looks at what came out. What is wrong with it; empty when nothing is.
+[[nodiscard]] QString Fault(const cTarget& target, const QByteArray& bytes, int optionSet);
+
+// A listing ("=== name", a line break, the content, and so on) as an archive, so that the files in it can be changed
+// without spoiling the check sums. All other bytes come back as they are.
+[[nodiscard]] QByteArray Packed(const QByteArray& bytes);
+
+} // namespace modFuzz

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/cBankBalance.h"
+#include "model/cImportEntry.h"
+
+#include <QString>
+
+class cSettings;
+struct cAccountBalance;
+
+// The balances that statements named, kept per account and day in the settings "SALDO:" + number: with the transactions
+// alone nobody would see that one is missing.
+class cBankBalances
+{
+public:
+    explicit cBankBalances(cSettings& settings) : m_settings(settings) {}
+
+    // By day; those of one day in the order in which they came. What cannot be read is passed over.
+    [[nodiscard]] cBankBalanceList Of(const QString& account) const;
+
+    // Keeps the balances of a statement. One without a day gets that of the account's newest transaction in `entries`;
+    // without either, or without an account, it is dropped. False when the database refuses.
+    bool Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries);
+
+private:
+    bool Add(const QString& account, const cBankBalanceList& balances);
+
+    cSettings& m_settings;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// Statement files on the disk.
+namespace modStatementFile {
+
+// The bytes of a file, or the reason in German why there are none.
+struct cContent
+{
+    QByteArray Bytes;
+    QString Failure;
+};
+
+[[nodiscard]] cContent Read(const QString& path);
+
+// What the user is told where neither the file nor the user names the account.
+[[nodiscard]] QString NoAccount();
+
+} // namespace modStatementFile

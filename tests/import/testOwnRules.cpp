@@ -1,0 +1,287 @@
+#include "cImportBook.h"
+#include "import/cBooking.h"
+#include "import/cOwnRules.h"
+#include "import/cRuleMatcher.h"
+#include "import/cStaging.h"
+#include "import/modOwnRule.h"
+#include "model/modWord.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate day(2026, 1, 10);
+
+cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& account = {})
+{
+    cImportEntry row;
+    row.ImportAccount = u"111"_s;
+    row.ImportDate = day;
+    row.ImportValue = value;
+    row.ImportBeneficiary = name;
+    row.ImportBeneficiaryAccount = account;
+    row.ImportPurpose = purpose;
+    row.ImportType = u"KARTENZAHLUNG"_s;
+    return row;
+}
+
+cOwnRule Food(const QString& text)
+{
+    cOwnRule rule;
+    rule.Text = text;
+    rule.Category = u"Haushalt; Lebensmittel"_s;
+    return rule;
+}
+
+struct cBank : cImportBook
+{
+    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
+
+    int Stage(cImportEntry row)
+    {
+        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+    }
+
+    cProposal Propose(const cImportEntry& row)
+    {
+        const int id = Stage(row);
+        return cBooking(Data, Hive, Accounts).Propose({id}).value(id);
+    }
+
+    void Keep(const QList<cOwnRule>& rules) { QVERIFY(cOwnRules(*Settings).Save(rules)); }
+
+    bool IsReady = false;
+};
+
+// What a proposal says, in one line.
+QString Said(const cProposal& proposal)
+{
+    const cEntryItem& entry = proposal.Entry;
+    return QStringList{entry.EntryCategory, entry.EntryInterval, entry.EntryDescription, proposal.Reason}.join(u'|');
+}
+
+} // namespace
+
+class testOwnRules final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Matches_data() const
+    {
+        QTest::addColumn<cOwnRule>("rule");
+        QTest::addColumn<bool>("isMatch"); // of the row below
+        const auto text = [](const char* name, const QString& pattern, bool isMatch) {
+            QTest::newRow(name) << Food(pattern) << isMatch;
+        };
+        text("counterparty", u"Müller"_s, true);
+        text("purpose, other case", u"BREZEN"_s, true);
+        text("booking text", u"kartenzahlung"_s, true);
+        text("second alternative", u"rewe | brezen"_s, true);
+        text("run of characters", u"korn*brezen"_s, true);
+        text("run in the wrong order", u"brezen*korn"_s, false);
+        text("digit", u"nr 1#"_s, true);
+        text("class", u"nr [2-9]"_s, false);
+        text("doubled blanks", u"korn  und   brezen"_s, true);
+        text("word cut by the line", u"sonntagsbrot"_s, true);
+        text("words parted by the line", u"brot am"_s, true);
+        text("nothing but separators", u"|"_s, false);
+        const auto counterparty = [](const char* name, const QString& given, bool isMatch) {
+            cOwnRule rule = Food({});
+            rule.Counterparty = given;
+            QTest::newRow(name) << rule << isMatch;
+        };
+        counterparty("its name", u"mühle  müller"_s, true);
+        counterparty("part of its name", u"Müller"_s, false);
+        counterparty("its account", u"DE44 1002 0030 0000 0008 15"_s, true);
+        counterparty("its account in the old form", u"0000000815"_s, true);
+        counterparty("another account of the same end", u"DE44100200300000001815"_s, false);
+        const auto sign = [](const char* name, eRuleSign wanted, const QString& account, bool isMatch) {
+            cOwnRule rule = Food({});
+            rule.Sign = wanted;
+            rule.Account = account;
+            QTest::newRow(name) << rule << isMatch;
+        };
+        sign("money going out", eRuleSign::Out, {}, true);
+        sign("money coming in", eRuleSign::In, {}, false);
+        sign("own account by name", eRuleSign::Any, u"Girokonto"_s, true);
+        sign("own account by number", eRuleSign::Any, u"0000111000"_s, true);
+        sign("another own account", eRuleSign::Out, u"Sparkonto"_s, false);
+        cOwnRule off = Food(u"brezen"_s);
+        off.IsOn = false;
+        QTest::newRow("switched off") << off << false;
+    }
+
+    void Matches() const
+    {
+        QFETCH(const cOwnRule, rule);
+        QFETCH(const bool, isMatch);
+        cImportEntry row = Row(-4.2, u"Mühle Müller"_s, u"Korn und Brezen  Nr 17 Sonntags\nbrot\nam Markt"_s,
+                               u"DE44100200300000000815"_s);
+        row.ImportAccount = u"111000"_s;
+        QCOMPARE(cRuleMatcher({rule}).Find(cRuleRow(row, u"Girokonto"_s)), isMatch ? 0 : -1);
+    }
+
+    void FirstOneWins() const
+    {
+        cOwnRule off = Food(u"brezen"_s);
+        off.IsOn = false;
+        const cRuleMatcher matcher({off, Food(u"rewe"_s), Food(u"brez"_s), Food(u"brezen"_s)});
+        QCOMPARE(matcher.Find(cRuleRow(Row(-1, u"Korn"_s, u"Brezen"_s), {})), 2);
+    }
+
+    void StoredLines_data() const
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("isReadable");
+        QTest::newRow("all fields") << u"1;off;sign=in;text=a%3bb=c%25|d;counterparty=Müller & Söhne;account=Giro;"
+                                       "category=A; B;interval=Monatlich;description=x%0ay"_s
+                                    << false; // the category has a bare separator
+        QTest::newRow("escaped") << u"1;off;sign=in;text=a%3bb=c%25|d;counterparty=Müller & Söhne;account=Giro;"
+                                    "category=A%3b B;interval=Monatlich;description=x%0ay"_s
+                                 << true;
+        QTest::newRow("the least") << u"1;sign=out;category=A"_s << true;
+        QTest::newRow("later version") << u"2;text=a;category=A"_s << false;
+        QTest::newRow("condition that is not known") << u"1;text=a;weekday=3;category=A"_s << false;
+        QTest::newRow("broken escape") << u"1;text=a%zz;category=A"_s << false;
+        QTest::newRow("no such interval") << u"1;text=a;interval=Oft"_s << false;
+        QTest::newRow("no condition") << u"1;category=A"_s << false;
+        QTest::newRow("nothing to set") << u"1;text=a"_s << false;
+        QTest::newRow("other text") << u"rewe"_s << false;
+    }
+
+    // Whatever is stored comes out again as it was, and what cannot be read does nothing.
+    void StoredLines() const
+    {
+        QFETCH(const QString, line);
+        QFETCH(const bool, isReadable);
+        const cOwnRule rule = modOwnRule::FromLine(line);
+        QCOMPARE(rule.Unreadable.isEmpty(), isReadable);
+        QCOMPARE(rule.HasCondition() && rule.HasResult(), isReadable);
+        QCOMPARE(modOwnRule::ToLine(rule), line);
+    }
+
+    void UnreadableRulesSurvive() const
+    {
+        cBank bank;
+        bank.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=rewe;category=A\n"_s);
+        cOwnRules stored(*bank.Settings);
+        QList<cOwnRule> rules = stored.Load();
+        QCOMPARE(rules.size(), 2);
+        rules.append(Food(u"x"_s));
+        QVERIFY(stored.Save(rules));
+        QVERIFY(bank.Settings->Get(u"OwnRules"_s).startsWith(u"2;kind=later\n1;text=rewe;category=A\n"));
+        QCOMPARE(cOwnRules(*bank.Settings).Load(), rules);
+    }
+
+    void FollowsNewNames() const
+    {
+        cBank bank;
+        cOwnRule rule = Food(u"rewe"_s);
+        rule.Account = u"Girokonto"_s;
+        cOwnRule other = Food(u"x"_s);
+        other.Category = u"Haushaltshilfe"_s;
+        bank.Keep({rule, other});
+        cOwnRules stored(*bank.Settings);
+        QVERIFY(stored.RenameCategory(u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s));
+        QVERIFY(stored.RenameMain(u"Haushalt"_s, u"Daheim"_s));
+        QVERIFY(stored.RenameAccount(u"Girokonto"_s, u"Hauptkonto"_s));
+        rule.Category = u"Daheim; Essen"_s;
+        rule.Account = u"Hauptkonto"_s;
+        QCOMPARE(stored.Load(), QList<cOwnRule>({rule, other}));
+    }
+
+    void Proposals_data() const
+    {
+        QTest::addColumn<cOwnRule>("rule");
+        QTest::addColumn<cImportEntry>("row");
+        QTest::addColumn<QString>("said");
+        const cImportEntry power = Row(-60, u"Stadtwerke"_s, u"Abschlag"_s);
+        const cImportEntry unknown = Row(-60, u"Tann"_s, u"Abschlag"_s);
+        cOwnRule rule = Food(u"abschlag"_s);
+        QTest::newRow("before a keyword, whose interval does not count")
+            << rule << power << u"Haushalt; Lebensmittel|Einmalig|Stadtwerke - Abschlag|Eigene Regel: abschlag"_s;
+        rule.Category = u"Wohnung; Strom"_s;
+        QTest::newRow("the category of the keyword keeps its interval")
+            << rule << power << u"Wohnung; Strom|Monatlich|Stadtwerke - Abschlag|Eigene Regel: abschlag"_s;
+        rule.Interval = u"Jährlich"_s;
+        rule.Description = u"Strom"_s;
+        QTest::newRow("everything") << rule << power << u"Wohnung; Strom|Jährlich|Strom|Eigene Regel: abschlag"_s;
+        rule.Category.clear();
+        QTest::newRow("all but the category")
+            << rule << power << u"Wohnung; Strom|Jährlich|Strom|Regel: stadtwerke; Eigene Regel: abschlag"_s;
+        QTest::newRow("default category") << rule << unknown << u"Allgemein|Jährlich|Strom|Eigene Regel: abschlag"_s;
+    }
+
+    void Proposals() const
+    {
+        QFETCH(const cOwnRule, rule);
+        QFETCH(const cImportEntry, row);
+        QFETCH(const QString, said);
+        cBank bank;
+        bank.Keep({rule});
+        QCOMPARE(Said(bank.Propose(row)), said);
+    }
+
+    void BeforeWhatWasLearned() const
+    {
+        cBank bank;
+        QVERIFY(bank.IsReady);
+        cBooking booking(bank.Data, bank.Hive, bank.Accounts);
+        const int first = bank.Stage(Row(-5, u"Korn"_s, u"Brot"_s));
+        cEntryItem entry = booking.Propose({first}).value(first).Entry;
+        entry.EntryCategory = u"Freizeit"_s;
+        QCOMPARE(booking.Book(first, entry).Rows, 1);
+        QCOMPARE(bank.Propose(Row(-6, u"Korn"_s, u"Brot"_s)).Entry.EntryCategory, u"Freizeit"_s);
+        bank.Keep({Food(u"brot"_s)});
+        QCOMPARE(bank.Propose(Row(-7, u"Korn"_s, u"Brot"_s)).Entry.EntryCategory, u"Haushalt; Lebensmittel"_s);
+    }
+
+    void TransferStaysATransfer() const
+    {
+        cBank bank;
+        bank.Keep({Food(u"sparen"_s)});
+        const cProposal proposal = bank.Propose(Row(-50, u"Ich"_s, u"Sparen"_s, u"222"_s));
+        QCOMPARE(proposal.Entry.EntryType, modWord::Umbuchung);
+        QCOMPARE(proposal.Entry.EntryCategory, u"Haushalt; Lebensmittel"_s);
+        QCOMPARE(proposal.Reason, u"eigenes Konto: an Sparkonto; Eigene Regel: sparen"_s);
+    }
+
+    void FromARow_data() const
+    {
+        QTest::addColumn<cImportEntry>("row");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("counterparty");
+        QTest::newRow("name") << Row(-5, u"REWE  Markt"_s, u"Einkauf"_s) << QString() << u"REWE Markt"_s;
+        QTest::newRow("account only") << Row(-5, {}, u"Miete"_s, u"DE44100200300000000815"_s) << QString()
+                                      << u"DE44100200300000000815"_s;
+        QTest::newRow("purpose only") << Row(5, {}, u"Rechnung 4711 Vereinsbeitrag Kletterhalle vom 3.4."_s)
+                                      << u"Vereinsbeitrag Kletterhalle"_s << QString();
+        QTest::newRow("words apart") << Row(5, {}, u"Kletterhalle, Ref AB12CD Beitrag"_s) << u"Kletterhalle*Beitrag"_s
+                                     << QString();
+        QTest::newRow("one that collects for others")
+            << Row(-5, u"PayPal Europe"_s, u"PP.1234.PP Ihr Einkauf bei Strickwaren24"_s) << u"Einkauf"_s
+            << u"PayPal Europe"_s;
+        QTest::newRow("nothing but the booking text") << Row(-5, {}, u"0815"_s) << u"KARTENZAHLUNG"_s << QString();
+    }
+
+    void FromARow() const
+    {
+        QFETCH(const cImportEntry, row);
+        QFETCH(const QString, text);
+        QFETCH(const QString, counterparty);
+        const cOwnRule rule = modOwnRule::FromRow(row);
+        QCOMPARE(rule.Text, text);
+        QCOMPARE(rule.Counterparty, counterparty);
+        QCOMPARE(rule.Sign, row.ImportValue > 0 ? eRuleSign::In : eRuleSign::Out);
+        QCOMPARE(cRuleMatcher({rule}).Find(cRuleRow(row, {})), 0);
+    }
+};
+
+Q_DECLARE_METATYPE(cOwnRule)
+Q_DECLARE_METATYPE(cImportEntry)
+
+QTEST_GUILESS_MAIN(testOwnRules)
+#include "testOwnRules.moc"

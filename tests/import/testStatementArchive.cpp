@@ -1,0 +1,95 @@
+#include "import/modStatementArchive.h"
+#include "import/modStatementFormat.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <minizip/zip.h>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using cFiles = QList<std::pair<QString, QByteArray>>;
+
+QByteArray Zip(const cFiles& files)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.zip"_s);
+    zipFile zip = zipOpen64(QFile::encodeName(path).constData(), APPEND_STATUS_CREATE);
+    for (const auto& [name, content] : files) {
+        zipOpenNewFileInZip(zip, name.toLatin1().constData(), nullptr, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED, 6);
+        zipWriteInFileInZip(zip, content.constData(), static_cast<unsigned int>(content.size()));
+        zipCloseFileInZip(zip);
+    }
+    zipClose(zip, nullptr);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray Fixture(const QString& name)
+{
+    QFile file(QStringLiteral(TEST_DATA "/") + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+constexpr const char* table = "Datum;Verwendungszweck;Betrag\n03.02.2026;Kiosk;-4,20\n04.02.2026;vorgemerkt;x\n";
+
+} // namespace
+
+class testStatementArchive : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reads_data()
+    {
+        QTest::addColumn<cFiles>("files");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("text"); // of the refusal, else of the first problem
+        const std::pair<QString, QByteArray> swift{u"b/giro.sta"_s, Fixture(u"mt940/giro.sta"_s)};
+        const std::pair<QString, QByteArray> csv{u"a.csv"_s, table};
+        QTest::newRow("two formats") << cFiles{swift, csv} << 8 << u"a.csv: Der Betrag ist keine Zahl"_s;
+        QTest::newRow("a letter beside it")
+            << cFiles{swift, {u"Hinweis.pdf"_s, "%PDF"}} << 6 << u"Hinweis.pdf: Dieses"_s;
+        QTest::newRow("a text beside it") << cFiles{swift, {u"a.txt"_s, "Guten Tag"}} << 6 << u"a.txt: In der Datei"_s;
+        QTest::newRow("what a system puts beside it")
+            << cFiles{swift, {u"__MACOSX/b/._giro.sta"_s, "x"}, {u".DS_Store"_s, "x"}} << 6 << QString();
+        QTest::newRow("an archive within") << cFiles{swift, {u"c.zip"_s, Zip({csv})}} << 6 << u"c.zip: Dieses Format"_s;
+        QTest::newRow("nothing to read") << cFiles{{u"a.pdf"_s, "%PDF"}} << 0 << u"Im ZIP-Archiv ist kein"_s;
+        QTest::newRow("a message of another kind")
+            << cFiles{swift, {u"a.xml"_s, "<Document><CstmrCdtTrfInitn/></Document>"}} << 0 << u"Die Datei 'a.xml'"_s;
+        QTest::newRow("damaged statement")
+            << cFiles{swift, {u"a.ofx"_s, "<OFX><BANKTRANLIST><STMTTRN></OFX>"}} << 0 << u"Die Datei 'a.ofx'"_s;
+    }
+
+    void reads()
+    {
+        QFETCH(cFiles, files);
+        QFETCH(int, rows);
+        QFETCH(QString, text);
+        const cStatementSource source = modStatementFormat::Source(u"a.zip"_s, Zip(files));
+        QCOMPARE(modStatementFormat::Detect(source), eStatementFormat::Archive);
+        cReadOptions options;
+        options.Account = u"1"_s;
+        const cStatementRead read = modStatementArchive::Read(source, options);
+        QCOMPARE(read.Entries.size(), rows);
+        const QString said = read.Refusal.isEmpty() ? read.Problems.value(0).Text : read.Refusal;
+        QVERIFY2(text.isEmpty() ? said.isEmpty() : said.startsWith(text), qPrintable(said));
+    }
+
+    // An account given once must not take in the statements of several.
+    void accountsAreNotMixed()
+    {
+        const QByteArray one = Zip({{u"a.csv"_s, table}});
+        QVERIFY(modStatementArchive::Read({u"a.zip"_s, one, {}}, {}).NeedsAccount);
+        const QByteArray two = Zip({{u"a.csv"_s, table}, {u"b.csv"_s, table}});
+        QVERIFY(modStatementArchive::Read({u"a.zip"_s, two, {}}, {}).Refusal.startsWith(u"Mehrere Dateien"));
+    }
+};
+
+QTEST_GUILESS_MAIN(testStatementArchive)
+#include "testStatementArchive.moc"
