@@ -80,6 +80,14 @@ void cAccountListModel::SetChosen(const QString& account)
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
+void cAccountListModel::SetWarnings(const QHash<QString, QString>& texts)
+{
+    if (texts != m_warnings) {
+        m_warnings = texts;
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    }
+}
+
 QString cAccountListModel::AccountAt(const QModelIndex& index) const
 {
     if (!index.isValid() || m_rows[static_cast<std::size_t>(index.row())].Kind != Account) {
@@ -113,6 +121,19 @@ QString cAccountListModel::Text(const cRow& row, int column) const
     }
 }
 
+QString cAccountListModel::Warning(const cRow& row) const
+{
+    return row.Kind == Account ? m_warnings.value(row.Name) : QString();
+}
+
+QString cAccountListModel::Hint(const cRow& row, int column) const
+{
+    if (column == Open && row.Open > 0) {
+        return cText::Tr("{0} Umsätze warten auf die Buchung", {QString::number(row.Open)});
+    }
+    return Warning(row).isEmpty() ? Text(row, Name) : Warning(row);
+}
+
 QVariant cAccountListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid()) {
@@ -123,12 +144,14 @@ QVariant cAccountListModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole: return Text(row, index.column());
     case Qt::TextAlignmentRole:
         return index.column() == Name ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    case Qt::ToolTipRole:
-        return index.column() == Open && row.Open > 0
-            ? cText::Tr("{0} Umsätze warten auf die Buchung", {QString::number(row.Open)})
-            : Text(row, Name);
+    case Qt::ToolTipRole: return Hint(row, index.column());
+    case Qt::AccessibleTextRole:
+        return Warning(row).isEmpty() || index.column() == Open
+            ? Text(row, index.column())
+            : cText::Tr("{0}. Warnung: {1}", {Text(row, index.column()), Warning(row)});
     case KindRole: return row.Kind;
     case ToneRole: return row.Kind != Group && index.column() == Balance && row.Cents < 0;
+    case WarningRole: return !Warning(row).isEmpty() && index.column() != Open;
     case ChosenRole: return row.Kind == Account && row.Name == m_chosen;
     default: return {};
     }

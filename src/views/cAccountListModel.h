@@ -17,7 +17,7 @@ class cAccountListModel final : public QAbstractTableModel
 
 public:
     enum eColumn { Name, Balance, Open, ColumnCount };
-    enum eRole { KindRole = Qt::UserRole, ToneRole, ChosenRole };
+    enum eRole { KindRole = Qt::UserRole, ToneRole, ChosenRole, WarningRole };
     enum eKind { Group, Account, Total };
 
     explicit cAccountListModel(const cAmountFormat& format, QObject* parent = nullptr);
@@ -29,6 +29,8 @@ public:
     void SetAccounts(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
                      const QHash<QString, int>& open);
     void SetChosen(const QString& account); // empty: none
+    // What there is to warn of, by account name. It stays until the next call.
+    void SetWarnings(const QHash<QString, QString>& texts);
 
     // Account name of a row; empty for groups and the total.
     [[nodiscard]] QString AccountAt(const QModelIndex& index) const;
@@ -51,8 +53,11 @@ private:
 
     void AddGroup(const QString& name, const std::vector<cRow>& rows);
     [[nodiscard]] QString Text(const cRow& row, int column) const;
+    [[nodiscard]] QString Hint(const cRow& row, int column) const;
+    [[nodiscard]] QString Warning(const cRow& row) const;
 
     const cAmountFormat& m_format;
     std::vector<cRow> m_rows;
     QString m_chosen;
+    QHash<QString, QString> m_warnings;
 };

@@ -4,23 +4,11 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "views/modFileWrite.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-// What went wrong with the file; empty when it is complete.
-QString Replace(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    return isWritten ? QString() : file.errorString();
-}
-
-} // namespace
 
 cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, QDate today)
 {
@@ -60,7 +48,7 @@ cEntryExport::eDone cEntryExport::WriteFile(const cEntryExtract& extract, modExp
     if (!result.Bytes && result.Error.isEmpty()) {
         return eDone::GivenUp;
     }
-    const QString problem = result.Bytes ? Replace(path, *result.Bytes) : result.Error;
+    const QString problem = result.Bytes ? modFileWrite::Replace(path, *result.Bytes) : result.Error;
     if (!problem.isEmpty()) {
         return Refuse(
             cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",

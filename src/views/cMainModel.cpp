@@ -29,13 +29,25 @@ namespace {
 
 constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
 
+// One of the five View... switches; null for another key.
+bool* Switch(cViewState& view, const QString& key)
+{
+    const QHash<QString, bool*> switches{{u"ViewSingleBooking"_s, &view.ShowsSingle},
+                                         {u"ViewFixBooking"_s, &view.ShowsFix},
+                                         {u"ViewFutureBooking"_s, &view.ShowsFuture},
+                                         {u"ViewStartBooking"_s, &view.ShowsStart},
+                                         {u"ViewAccountValueAll"_s, &view.BalancesToToday}};
+    return switches.value(key);
+}
+
 } // namespace
 
 cMainModel::cMainModel(const cParts& parts, QObject* parent)
     : QObject(parent),
       m_parts(parts),
       m_entries(parts.Format),
-      m_accounts(parts.Format)
+      m_accounts(parts.Format),
+      m_limits(parts.Data, parts.Format, parts.Clock, m_accounts)
 {
     tmrRefreshList.setSingleShot(true);
     tmrRefreshAccounts.setSingleShot(true);
@@ -55,6 +67,7 @@ void cMainModel::RestoreView(bool isNewVersion)
         m_parts.Settings.ResetViewDefaults();
     }
     m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
+    m_detour.reset();
     m_view.Restore(m_parts.Settings, Accounts());
     if (isNewVersion && !isNewBook) {
         ResetView();
@@ -66,7 +79,7 @@ void cMainModel::RestoreView(bool isNewVersion)
 void cMainModel::SaveView()
 {
     tmrSaveView.stop();
-    m_view.Save(m_parts.Settings);
+    (m_detour ? m_detour->Before : m_view).Save(m_parts.Settings);
 }
 
 void cMainModel::SaveLayout(const cPlacement& placement)
@@ -98,6 +111,7 @@ void cMainModel::ResetView()
                                u"WindowState"_s, u"GroupEntries"_s}) {
         m_parts.Settings.Delete(key);
     }
+    m_detour.reset();
     m_view.Grouping = modWord::KeineGruppierung;
     m_view.Type = modWord::AlleBuchungsarten;
     m_view.Filter.clear();
@@ -127,6 +141,9 @@ void cMainModel::LoadEntries()
     cEntryListModel::cContent content;
     if (!m_view.ShowsNothing()) {
         content.Entries = m_parts.Data.GetEntries(query);
+        if (m_detour && m_detour->Selection.Pick) {
+            content.Entries = m_detour->Selection.Pick(content.Entries);
+        }
         content.StartBalance = StartBalance(query);
     }
     content.Account = query.Account;
@@ -138,7 +155,8 @@ void cMainModel::LoadEntries()
 
 std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
 {
-    const bool isNarrowed = query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
+    const bool isPicked = m_detour && m_detour->Selection.Pick;
+    const bool isNarrowed = isPicked || query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
     if (query.Account.isEmpty() || isNarrowed) {
         return std::nullopt;
     }
@@ -280,26 +298,19 @@ void cMainModel::ShowFilter()
     Q_EMIT EntriesChanged();
 }
 
-bool* cMainModel::Switch(const QString& key)
-{
-    const QHash<QString, bool*> switches{{u"ViewSingleBooking"_s, &m_view.ShowsSingle},
-                                         {u"ViewFixBooking"_s, &m_view.ShowsFix},
-                                         {u"ViewFutureBooking"_s, &m_view.ShowsFuture},
-                                         {u"ViewStartBooking"_s, &m_view.ShowsStart},
-                                         {u"ViewAccountValueAll"_s, &m_view.BalancesToToday}};
-    return switches.value(key);
-}
-
 void cMainModel::SetSwitch(const QString& key, eSwitch state)
 {
-    *Switch(key) = state == eSwitch::On;
+    *Switch(m_view, key) = state == eSwitch::On;
+    if (m_detour) {
+        *Switch(m_detour->Before, key) = state == eSwitch::On;
+    }
     m_parts.Settings.SetBool(key, state == eSwitch::On);
     m_balancesOf = QDate();
 }
 
 void cMainModel::ToggleView(const QString& key)
 {
-    const bool* state = Switch(key);
+    const bool* state = Switch(m_view, key);
     if (state != nullptr) {
         SetSwitch(key, *state ? eSwitch::Off : eSwitch::On);
         RefreshView();
@@ -308,6 +319,11 @@ void cMainModel::ToggleView(const QString& key)
 
 bool cMainModel::IsChecked(const QString& key) const
 {
+    if (m_detour) { // its switches are not stored
+        cViewState view = m_view;
+        const bool* state = Switch(view, key);
+        return state != nullptr && *state;
+    }
     return m_parts.Settings.GetBool(key);
 }
 
@@ -349,7 +365,9 @@ bool cMainModel::Execute(int command)
     case modCommand::NewDatabase:
     case modCommand::Search:
     case modCommand::StartBalance:
+    case modCommand::AccountStatement:
     case modCommand::BackupSettings:
+    case modCommand::Rules:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     }
     return true;
@@ -438,8 +456,8 @@ void cMainModel::Delete(const QList<cEntryListModel::cKey>& keys)
 
 void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 {
-    if (m_view.Account == oldName) {
-        m_view.Account = newName;
+    for (QString* account : {&m_view.Account, m_detour ? &m_detour->Before.Account : &m_view.Account}) {
+        *account = *account == oldName ? newName : *account;
     }
     BookChanged();
 }

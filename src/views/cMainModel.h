@@ -3,6 +3,8 @@
 #include "base/cUser.h"
 #include "views/cAccountListModel.h"
 #include "views/cEntryListModel.h"
+#include "views/cEntrySelection.h"
+#include "views/cLimitWatch.h"
 #include "views/cViewState.h"
 
 #include <QHash>
@@ -10,6 +12,8 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+
+#include <optional>
 
 class cAmountFormat;
 class cClock;
@@ -71,6 +75,14 @@ public:
     void ChooseGrouping(const QString& grouping);
     void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
     void ToggleView(const QString& key);  // one of the five View... switches
+
+    // Shows selected entries in place of the view, grouped by main category. None of it is stored; GoBack shows the
+    // view as it was before the first selection.
+    void ShowEntries(const cEntrySelection& selection);
+    void GoBack();
+    [[nodiscard]] bool IsSelection() const { return m_detour.has_value(); }
+    [[nodiscard]] QString SelectionText() const; // what is selected; empty without selection
+    [[nodiscard]] QStringList ViewLines() const; // what the list shows, in words, for print and export
 
     // One handler for menus, tool bar and keys. False for an unknown number.
     bool Execute(int command);
@@ -140,14 +152,22 @@ private:
     [[nodiscard]] QString StepName(int command) const;
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const QString& key, eSwitch state);
-    [[nodiscard]] bool* Switch(const QString& key);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
     [[nodiscard]] QHash<QString, int> OpenByAccount() const;
 
+    // A selection and the view that it stands in for.
+    struct cDetour
+    {
+        cViewState Before;
+        cEntrySelection Selection;
+    };
+
     cParts m_parts;
     cViewState m_view;
+    std::optional<cDetour> m_detour;
     cEntryListModel m_entries;
     cAccountListModel m_accounts;
+    cLimitWatch m_limits;
     cTemplateItemList m_accountItems;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
     QList<cEntryListModel::cKey> m_selection;

@@ -5,133 +5,79 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
-
-#include <QSet>
+#include "views/modEntryOrder.h"
 
 #include <algorithm>
-#include <map>
+#include <array>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Places of texts in alphabetical order, so that sorting compares numbers; equal texts share a place.
-std::vector<qint64> RanksOf(const QStringList& texts)
+// Ids of rows inside a group are spread, because views hash row and id into one number.
+constexpr quintptr idStep = 16;
+
+constexpr std::array<const char*, cStagedListModel::ColumnCount> titles{
+    QT_TRANSLATE_NOOP("cText", "Status"),
+    QT_TRANSLATE_NOOP("cText", "Datum"),
+    QT_TRANSLATE_NOOP("cText", "Empfänger / Auftraggeber"),
+    QT_TRANSLATE_NOOP("cText", "Verwendungszweck"),
+    QT_TRANSLATE_NOOP("cText", "Betrag"),
+    QT_TRANSLATE_NOOP("cText", "Konto"),
+    QT_TRANSLATE_NOOP("cText", "Kategorie"),
+    QT_TRANSLATE_NOOP("cText", "Intervall"),
+    QT_TRANSLATE_NOOP("cText", "Grund des Vorschlags"),
+};
+
+std::size_t At(int index)
 {
-    std::map<std::pair<QString, QString>, qint64> places; // folded, then as it is
-    QHash<QString, QString> folded;
-    for (const QString& text : texts) {
-        if (!folded.contains(text)) {
-            folded.insert(text, modFold::Fold(text).Plain);
-            places.emplace(std::pair(folded.value(text), text), 0);
-        }
-    }
-    qint64 next = 0;
-    for (auto& place : places) {
-        place.second = next++;
-    }
-    std::vector<qint64> ranks;
-    ranks.reserve(static_cast<std::size_t>(texts.size()));
-    for (const QString& text : texts) {
-        ranks.push_back(places.at(std::pair(folded.value(text), text)));
-    }
-    return ranks;
+    return static_cast<std::size_t>(index);
 }
 
 } // namespace
 
 cStagedListModel::cStagedListModel(cStagedSource& source, const cAmountFormat& format, QObject* parent)
-    : QAbstractTableModel(parent),
+    : QAbstractItemModel(parent),
       m_source(source),
-      m_format(format)
+      m_format(format),
+      m_order(format)
 {
 }
 
 void cStagedListModel::SetRows(cImportEntryList rows)
 {
     beginResetModel();
-    m_rows = std::move(rows);
-    m_openCount = std::count_if(m_rows.begin(), m_rows.end(), [](const auto& row) { return !row.ImportAssigned; });
+    m_order.SetRows(std::move(rows));
     m_info.clear();
-    Rebuild();
+    Arrange();
     endResetModel();
 }
 
-void cStagedListModel::SetShow(eShow show)
+void cStagedListModel::SetShown(const cStagedOrder::cShown& shown)
 {
     beginResetModel();
-    m_show = show;
-    Rebuild();
+    m_order.SetShown(shown);
+    Arrange();
     endResetModel();
 }
 
 void cStagedListModel::SetFilter(const QString& text)
 {
+    const QList<modFold::cFolded> words = modFold::Words(text);
+    if (words != m_order.Words()) {
+        beginResetModel();
+        m_order.SetWords(words);
+        endResetModel();
+    }
+}
+
+void cStagedListModel::SetGrouping(modStagedGroup::eGrouping grouping)
+{
     beginResetModel();
-    m_words = modFold::Words(text);
-    Rebuild();
+    m_order.SetGrouping(grouping);
+    Arrange();
     endResetModel();
-}
-
-void cStagedListModel::ForgetInfo()
-{
-    m_info.clear();
-    if (!m_order.empty()) {
-        Q_EMIT dataChanged(index(0, Account), index(rowCount() - 1, Reason));
-    }
-}
-
-bool cStagedListModel::IsShown(const cImportEntry& row) const
-{
-    if (m_show == eShow::OpenOnly && row.ImportAssigned) {
-        return false;
-    }
-    if (m_words.isEmpty()) {
-        return true;
-    }
-    const QStringList texts{row.ImportBeneficiary,
-                            row.ImportPurpose,
-                            row.ImportType,
-                            row.ImportBeneficiaryAccount,
-                            row.ImportAccount,
-                            Text(row, Amount),
-                            modDate::ToGerman(row.ImportDate)};
-    return modFold::HoldsAll(modFold::Fold(texts.join(u' ')), m_words);
-}
-
-void cStagedListModel::Rebuild()
-{
-    m_order.clear();
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        if (IsShown(m_rows.at(i))) {
-            m_order.push_back(i);
-        }
-    }
-    Order();
-}
-
-void cStagedListModel::Order()
-{
-    std::vector<qint64> keys(static_cast<std::size_t>(m_rows.size()));
-    if (m_sortColumn == Date || m_sortColumn == Amount || m_sortColumn == State) {
-        std::transform(m_rows.begin(), m_rows.end(), keys.begin(), [this](const cImportEntry& row) {
-            if (m_sortColumn == State) {
-                return qint64{row.ImportAssigned ? 1 : 0};
-            }
-            return m_sortColumn == Date ? row.ImportDate.toJulianDay() : modAmount::ToCents(row.ImportValue);
-        });
-    } else {
-        QStringList texts(m_rows.size());
-        for (const qsizetype i : m_order) {
-            texts[i] = Text(m_rows.at(i), m_sortColumn);
-        }
-        keys = RanksOf(texts);
-    }
-    const auto key = [&](qsizetype i) { return keys[static_cast<std::size_t>(i)]; };
-    std::stable_sort(m_order.begin(), m_order.end(), [&](qsizetype left, qsizetype right) {
-        return m_sortOrder == Qt::AscendingOrder ? key(left) < key(right) : key(right) < key(left);
-    });
 }
 
 void cStagedListModel::sort(int column, Qt::SortOrder order)
@@ -139,57 +85,188 @@ void cStagedListModel::sort(int column, Qt::SortOrder order)
     if (column < 0 || column >= ColumnCount) {
         return;
     }
-    Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    QList<int> ids;
-    std::transform(before.begin(), before.end(), std::back_inserter(ids),
-                   [this](const QModelIndex& old) { return IdAt(old); });
+    beginResetModel();
     m_sortColumn = column;
     m_sortOrder = order;
-    Rebuild();
-    QHash<int, int> places;
-    for (int row = 0; row < rowCount(); ++row) {
-        places.insert(RowAt(row).ID, row);
-    }
-    for (qsizetype i = 0; i < before.size(); ++i) {
-        const auto place = places.constFind(ids.at(i));
-        changePersistentIndex(before.at(i),
-                              place == places.constEnd() ? QModelIndex() : index(*place, before.at(i).column()));
-    }
-    Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+    Arrange();
+    endResetModel();
 }
 
-const cImportEntry& cStagedListModel::RowAt(int row) const
+void cStagedListModel::Arrange()
 {
-    return m_rows.at(m_order.at(static_cast<std::size_t>(row)));
+    // The newest day stands first when the days are sorted downwards, and names follow their column in the same way.
+    const int column = Grouping() == modStagedGroup::eGrouping::Day ? Date : Counterparty;
+    m_order.Arrange([this](const std::vector<int>& among) { return SortKeys(among); }, m_sortOrder,
+                    m_sortColumn == column ? m_sortOrder : Qt::AscendingOrder);
+}
+
+std::vector<qint64> cStagedListModel::SortKeys(const std::vector<int>& among) const
+{
+    const cImportEntryList& rows = m_order.Rows();
+    if (m_sortColumn != Date && m_sortColumn != Amount && m_sortColumn != State) {
+        return modEntryOrder::Rank(static_cast<int>(among.size()),
+                                   [&](int i) { return Text(rows.at(among[At(i)]), m_sortColumn); })
+            .Ranks;
+    }
+    std::vector<qint64> keys;
+    keys.reserve(among.size());
+    for (const int i : among) {
+        const cImportEntry& row = rows.at(i);
+        keys.push_back(m_sortColumn == State      ? (row.ImportAssigned ? 1 : 0)
+                           : m_sortColumn == Date ? row.ImportDate.toJulianDay()
+                                                  : modAmount::ToCents(row.ImportValue));
+    }
+    return keys;
+}
+
+void cStagedListModel::ForgetInfo()
+{
+    m_info.clear();
+    for (int row = 0; row < static_cast<int>(m_order.Groups().size()); ++row) {
+        const QModelIndex head = index(row, 0);
+        Q_EMIT dataChanged(index(0, 0, head), index(rowCount(head) - 1, Reason, head));
+    }
+    if (m_order.Groups().empty() && m_order.Count() > 0) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, Reason));
+    }
+}
+
+bool cStagedListModel::IsHead(const QModelIndex& index) const
+{
+    return index.isValid() && index.internalId() == 0 && !m_order.Groups().empty();
+}
+
+const cStagedOrder::cGroup& cStagedListModel::GroupOf(const QModelIndex& head) const
+{
+    return m_order.Groups()[At(head.row())];
+}
+
+int cStagedListModel::PositionOf(const QModelIndex& index) const
+{
+    if (!index.isValid() || IsHead(index)) {
+        return -1;
+    }
+    const int first = index.internalId() == 0 ? 0 : static_cast<int>(index.internalId() / idStep) - 1;
+    return first + index.row() < m_order.Count() ? first + index.row() : -1;
 }
 
 int cStagedListModel::IdAt(const QModelIndex& index) const
 {
-    return index.isValid() && index.row() < rowCount() ? RowAt(index.row()).ID : 0;
+    const int position = PositionOf(index);
+    return position < 0 ? 0 : m_order.At(position).ID;
 }
 
-QModelIndexList cStagedListModel::IndexesOf(const QList<int>& ids) const
+QModelIndex cStagedListModel::IndexAt(int position) const
 {
-    const QSet<int> wanted(ids.begin(), ids.end());
-    QModelIndexList indexes;
-    for (int row = 0; row < rowCount() && indexes.size() < wanted.size(); ++row) {
-        if (wanted.contains(RowAt(row).ID)) {
-            indexes.append(index(row, 0));
+    const int group = m_order.GroupAt(position);
+    return group < 0 ? index(position, 0) : index(position - m_order.Groups()[At(group)].First, 0, index(group, 0));
+}
+
+QList<int> cStagedListModel::IdsIn(const QItemSelection& selection) const
+{
+    std::vector<bool> isSelected(At(m_order.Count()));
+    const auto mark = [&](int first, int count) { std::fill_n(isSelected.begin() + first, count, true); };
+    for (const QItemSelectionRange& range : selection) {
+        if (!range.isValid()) {
+            continue;
+        }
+        if (range.parent().isValid()) {
+            mark(GroupOf(range.parent()).First + range.top(), range.height());
+        } else if (m_order.Groups().empty()) {
+            mark(range.top(), range.height());
+        }
+        for (int head = range.top(); IsHead(range.topLeft()) && head <= range.bottom(); ++head) {
+            const cStagedOrder::cGroup& group = m_order.Groups()[At(head)];
+            mark(group.First, group.Count);
         }
     }
-    return indexes;
+    QList<int> ids;
+    for (int position = 0; position < m_order.Count(); ++position) {
+        if (isSelected[At(position)]) {
+            ids.append(m_order.At(position).ID);
+        }
+    }
+    return ids;
+}
+
+// Rows that follow each other become one range: a view takes thousands of ranges very badly.
+QItemSelection cStagedListModel::SelectionOf(const QList<int>& ids) const
+{
+    QItemSelection selection;
+    const QList<int> positions = m_order.PositionsOf(ids);
+    QModelIndex first;
+    QModelIndex last;
+    for (const int position : positions) {
+        const QModelIndex row = IndexAt(position);
+        if (last.isValid() && row.internalId() == last.internalId() && row.row() == last.row() + 1) {
+            last = row;
+            continue;
+        }
+        if (first.isValid()) {
+            selection.append(QItemSelectionRange(first, last.siblingAtColumn(ColumnCount - 1)));
+        }
+        first = last = row;
+    }
+    if (first.isValid()) {
+        selection.append(QItemSelectionRange(first, last.siblingAtColumn(ColumnCount - 1)));
+    }
+    return selection;
+}
+
+QModelIndex cStagedListModel::IndexOf(int id) const
+{
+    const QList<int> positions = id == 0 ? QList<int>() : m_order.PositionsOf({id});
+    return positions.isEmpty() ? QModelIndex() : IndexAt(positions.constFirst());
+}
+
+QModelIndex cStagedListModel::HeadNamed(const QString& name) const
+{
+    const std::vector<cStagedOrder::cGroup>& groups = m_order.Groups();
+    const auto found =
+        std::find_if(groups.begin(), groups.end(), [&](const auto& group) { return group.Name == name; });
+    return found == groups.end() ? QModelIndex() : index(static_cast<int>(found - groups.begin()), 0);
 }
 
 QList<int> cStagedListModel::OpenIds() const
 {
     QList<int> ids;
-    for (const qsizetype i : m_order) {
-        if (!m_rows.at(i).ImportAssigned) {
-            ids.append(m_rows.at(i).ID);
+    for (int position = 0; position < m_order.Count(); ++position) {
+        if (!m_order.At(position).ImportAssigned) {
+            ids.append(m_order.At(position).ID);
         }
     }
     return ids;
+}
+
+QModelIndex cStagedListModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (row < 0 || column < 0 || row >= rowCount(parent) || column >= ColumnCount) {
+        return {};
+    }
+    const quintptr id = parent.isValid() ? (static_cast<quintptr>(GroupOf(parent).First) + 1) * idStep : 0;
+    return createIndex(row, column, id);
+}
+
+QModelIndex cStagedListModel::parent(const QModelIndex& child) const
+{
+    if (!child.isValid() || child.internalId() == 0) {
+        return {};
+    }
+    const int first = static_cast<int>(child.internalId() / idStep) - 1;
+    return createIndex(m_order.GroupAt(first), 0, quintptr(0));
+}
+
+int cStagedListModel::rowCount(const QModelIndex& parent) const
+{
+    if (!parent.isValid()) {
+        return m_order.Groups().empty() ? m_order.Count() : static_cast<int>(m_order.Groups().size());
+    }
+    return IsHead(parent) && parent.column() == 0 ? GroupOf(parent).Count : 0;
+}
+
+int cStagedListModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return ColumnCount;
 }
 
 const cStagedInfo& cStagedListModel::InfoOf(const cImportEntry& row) const
@@ -199,16 +276,6 @@ const cStagedInfo& cStagedListModel::InfoOf(const cImportEntry& row) const
         found = m_info.insert(row.ID, m_source.Info(row));
     }
     return *found;
-}
-
-int cStagedListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_order.size());
-}
-
-int cStagedListModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
 }
 
 QString cStagedListModel::AccountText(const cImportEntry& row) const
@@ -223,7 +290,10 @@ QString cStagedListModel::AccountText(const cImportEntry& row) const
 QString cStagedListModel::Text(const cImportEntry& row, int column) const
 {
     switch (column) {
-    case State: return row.ImportAssigned ? cText::Tr("gebucht") : cText::Tr("offen");
+    case State:
+        return row.ImportAssigned    ? cText::Tr("gebucht")
+            : InfoOf(row).IsDoubtful ? cText::Tr("doppelt?")
+                                     : cText::Tr("offen");
     case Date: return modDate::ToGerman(row.ImportDate);
     case Counterparty: return row.ImportBeneficiary;
     case Purpose: return row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose;
@@ -238,6 +308,9 @@ QString cStagedListModel::Text(const cImportEntry& row, int column) const
 
 QString cStagedListModel::Tip(const cImportEntry& row, int column) const
 {
+    if ((column == State || column == Reason) && InfoOf(row).IsDoubtful) {
+        return InfoOf(row).Hint;
+    }
     if (column != Counterparty && column != Purpose) {
         return Text(row, column);
     }
@@ -249,21 +322,58 @@ QString cStagedListModel::Tip(const cImportEntry& row, int column) const
 
 QVariant cStagedListModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= rowCount()) {
+    if (!index.isValid()) {
         return {};
     }
-    const cImportEntry& row = RowAt(index.row());
-    switch (role) {
-    case Qt::DisplayRole: return Text(row, index.column());
-    case Qt::EditRole: return index.column() == Interval ? InfoOf(row).Interval : Text(row, index.column());
-    case Qt::ToolTipRole: return Tip(row, index.column());
-    case Qt::TextAlignmentRole:
+    if (role == Qt::TextAlignmentRole) {
         return index.column() == Amount ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    }
+    if (IsHead(index)) {
+        return GroupData(GroupOf(index), index.column(), role);
+    }
+    const int position = PositionOf(index);
+    return position < 0 ? QVariant() : RowData(m_order.At(position), index.column(), role);
+}
+
+QVariant cStagedListModel::RowData(const cImportEntry& row, int column, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole: return Text(row, column);
+    case Qt::EditRole: return column == Interval ? InfoOf(row).Interval : Text(row, column);
+    case Qt::ToolTipRole: return Tip(row, column);
     case ToneRole: return row.ImportValue > 0.0 ? 1 : (row.ImportValue < 0.0 ? 2 : 0);
     case RowIdRole: return row.ID;
     case BookedRole: return row.ImportAssigned;
+    case GroupRole: return false;
+    case DoubtRole: return InfoOf(row).IsDoubtful;
     default: return {};
     }
+}
+
+QVariant cStagedListModel::GroupData(const cStagedOrder::cGroup& group, int column, int role) const
+{
+    if (role == GroupRole) {
+        return true;
+    }
+    if (role == NameRole) {
+        return group.Name;
+    }
+    if (role == RowIdRole) {
+        return 0;
+    }
+    if (role != Qt::DisplayRole) {
+        return {};
+    }
+    if (column == Amount) {
+        return m_format.Cents(group.Sum);
+    }
+    if (column != 0) {
+        return {};
+    }
+    const QStringList values{group.Name, QString::number(group.Count), QString::number(group.Open)};
+    return group.Open == group.Count ? cText::Tr("{0}  ({1} offen)", values)
+        : group.Open == 0            ? cText::Tr("{0}  ({1} gebucht)", values)
+                                     : cText::Tr("{0}  ({1}, davon {2} offen)", values);
 }
 
 bool cStagedListModel::setData(const QModelIndex& index, const QVariant& value, int role)
@@ -271,45 +381,32 @@ bool cStagedListModel::setData(const QModelIndex& index, const QVariant& value, 
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) {
         return false;
     }
-    const cImportEntry& row = RowAt(index.row());
+    const cImportEntry& row = m_order.At(PositionOf(index));
     const bool isTaken = index.column() == Category ? m_source.SetCategory(row, value.toString())
                                                     : m_source.SetInterval(row, value.toString());
     if (isTaken) {
         m_info.remove(row.ID);
-        Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), ColumnCount - 1));
+        Q_EMIT dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(ColumnCount - 1));
     }
     return isTaken;
 }
 
 Qt::ItemFlags cStagedListModel::flags(const QModelIndex& index) const
 {
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    const bool isChoice = index.isValid() && (index.column() == Category || index.column() == Interval);
-    return isChoice && !RowAt(index.row()).ImportAssigned ? flags | Qt::ItemIsEditable : flags;
+    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    const bool isChoice = index.column() == Category || index.column() == Interval;
+    const int position = PositionOf(index);
+    return isChoice && position >= 0 && !m_order.At(position).ImportAssigned ? flags | Qt::ItemIsEditable : flags;
 }
 
 QVariant cStagedListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal) {
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
         return {};
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::Alignment(section == Amount ? Qt::AlignRight : Qt::AlignLeft)
                                    | Qt::AlignVCenter);
     }
-    if (role != Qt::DisplayRole) {
-        return {};
-    }
-    switch (section) {
-    case State: return cText::Tr("Status");
-    case Date: return cText::Tr("Datum");
-    case Counterparty: return cText::Tr("Empfänger / Auftraggeber");
-    case Purpose: return cText::Tr("Verwendungszweck");
-    case Amount: return cText::Tr("Betrag");
-    case Account: return cText::Tr("Konto");
-    case Category: return cText::Tr("Kategorie");
-    case Interval: return cText::Tr("Intervall");
-    case Reason: return cText::Tr("Grund des Vorschlags");
-    default: return {};
-    }
+    return role == Qt::DisplayRole ? QVariant(cText::Tr(titles[At(section)])) : QVariant();
 }

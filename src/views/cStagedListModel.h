@@ -1,45 +1,21 @@
 #pragma once
 
-#include "base/modFold.h"
 #include "model/cImportEntry.h"
+#include "views/cStagedOrder.h"
+#include "views/cStagedSource.h"
 
-#include <QAbstractTableModel>
+#include <QAbstractItemModel>
 #include <QHash>
+#include <QItemSelection>
 #include <QString>
-#include <QStringList>
 
 #include <vector>
 
 class cAmountFormat;
 
-// What is known of a bank transaction beyond its row: where it goes, or where it went.
-struct cStagedInfo
-{
-    QString Account; // of the book; empty when the bank's number is not assigned yet
-    QString Category;
-    QString Interval; // stored word
-    QString Reason;   // why this category is proposed
-};
-
-// Where the list asks for what it shows beyond the rows. Asked for the rows in sight only, unless the list is sorted by
-// one of these columns.
-class cStagedSource
-{
-public:
-    cStagedSource() = default;
-    cStagedSource(const cStagedSource&) = delete;
-    cStagedSource& operator=(const cStagedSource&) = delete;
-    virtual ~cStagedSource() = default;
-
-    [[nodiscard]] virtual cStagedInfo Info(const cImportEntry& row) = 0;
-
-    // Takes the user's own choice for a row; false when it is none of the list.
-    virtual bool SetCategory(const cImportEntry& row, const QString& category) = 0;
-    virtual bool SetInterval(const cImportEntry& row, const QString& interval) = 0;
-};
-
-// The bank transactions that were read, one row each.
-class cStagedListModel final : public QAbstractTableModel
+// The bank transactions that were read, one row each, optionally gathered in groups with number and sum. The records
+// never move; sorting, grouping and filtering only rebuild the order in which they are shown.
+class cStagedListModel final : public QAbstractItemModel
 {
     Q_OBJECT
 
@@ -48,25 +24,35 @@ public:
 
     enum eRole {
         ToneRole = Qt::UserRole, // int: 1 income, 2 expense, 0 neither
-        RowIdRole,               // int: ID of the staged row
+        RowIdRole,               // int: ID of the staged row; 0 for the head of a group
         BookedRole,              // bool
+        GroupRole,               // bool: the row is the head of a group
+        NameRole,                // text: name of a group, without its numbers
+        DoubtRole,               // bool: the same transaction may be there twice
     };
-
-    enum class eShow { All, OpenOnly };
 
     cStagedListModel(cStagedSource& source, const cAmountFormat& format, QObject* parent = nullptr);
 
     void SetRows(cImportEntryList rows);
-    void SetShow(eShow show);
+    void SetShown(const cStagedOrder::cShown& shown);
+    [[nodiscard]] const cStagedOrder::cShown& Shown() const { return m_order.Shown(); }
     void SetFilter(const QString& text); // every word must be found
-    void ForgetInfo();                   // the source would answer differently now
+    void SetGrouping(modStagedGroup::eGrouping grouping);
+    [[nodiscard]] modStagedGroup::eGrouping Grouping() const { return m_order.Grouping(); }
+    void ForgetInfo(); // the source would answer differently now
 
-    [[nodiscard]] int IdAt(const QModelIndex& index) const;
-    [[nodiscard]] QModelIndexList IndexesOf(const QList<int>& ids) const;
+    [[nodiscard]] bool IsHead(const QModelIndex& index) const; // of a group
+    [[nodiscard]] int IdAt(const QModelIndex& index) const;    // 0 for the head of a group
+    // The rows of a selection, those of a selected group among them; each once, in their order.
+    [[nodiscard]] QList<int> IdsIn(const QItemSelection& selection) const;
+    [[nodiscard]] QItemSelection SelectionOf(const QList<int>& ids) const;
+    [[nodiscard]] QModelIndex IndexOf(int id) const;
+    [[nodiscard]] QModelIndex HeadNamed(const QString& name) const;
     [[nodiscard]] QList<int> OpenIds() const; // of the rows shown
-    [[nodiscard]] qsizetype TotalCount() const { return m_rows.size(); }
-    [[nodiscard]] qsizetype OpenCount() const { return m_openCount; }
+    [[nodiscard]] const cStagedOrder::cCounts& Counts() const { return m_order.Counts(); }
 
+    [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex& child) const override;
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -76,23 +62,22 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
-    void Rebuild(); // which rows are shown, in which order
-    void Order();
-    [[nodiscard]] bool IsShown(const cImportEntry& row) const;
-    [[nodiscard]] const cImportEntry& RowAt(int row) const;
+    void Arrange();
+    [[nodiscard]] std::vector<qint64> SortKeys(const std::vector<int>& among) const;
+    [[nodiscard]] const cStagedOrder::cGroup& GroupOf(const QModelIndex& head) const;
+    [[nodiscard]] int PositionOf(const QModelIndex& index) const; // -1 for the head of a group
+    [[nodiscard]] QModelIndex IndexAt(int position) const;
     [[nodiscard]] const cStagedInfo& InfoOf(const cImportEntry& row) const;
+    [[nodiscard]] QVariant RowData(const cImportEntry& row, int column, int role) const;
+    [[nodiscard]] QVariant GroupData(const cStagedOrder::cGroup& group, int column, int role) const;
     [[nodiscard]] QString Text(const cImportEntry& row, int column) const;
     [[nodiscard]] QString Tip(const cImportEntry& row, int column) const;
     [[nodiscard]] QString AccountText(const cImportEntry& row) const;
 
     cStagedSource& m_source;
     const cAmountFormat& m_format;
-    cImportEntryList m_rows;
-    std::vector<qsizetype> m_order;
-    QList<modFold::cFolded> m_words;
-    eShow m_show = eShow::All;
+    cStagedOrder m_order;
     int m_sortColumn = Date;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    qsizetype m_openCount = 0;
     mutable QHash<int, cStagedInfo> m_info; // by row ID, as far as it was asked for
 };

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cSettings.h"
+#include "import/cOwnRules.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -79,6 +80,7 @@ bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& ol
     cUndoStep step(m_data, cText::Tr("Konto '{0}' umbenannt", {oldName}));
     const bool isWritten = m_data.ChangeTemplate(account)
         && cBankNumbers(m_data, m_settings).Move(oldName, account.TemplateName)
+        && cOwnRules(m_settings).RenameAccount(oldName, account.TemplateName)
         && (!withEntries || MoveEntries(oldName, account.TemplateName));
     if (!isWritten) {
         (void)step.Revert();
@@ -127,7 +129,7 @@ bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString&
         return step.Revert();
     }
     const bool isMoved = m_data.CountEntriesOfCategory(oldPath) == 0 || m_data.ChangeEntryCategory(newPath, oldPath);
-    return isMoved || step.Revert();
+    return (isMoved && cOwnRules(m_settings).RenameCategory(oldPath, newPath)) || step.Revert();
 }
 
 bool cTemplateFlow::HoldsProtected(const QString& main) const
@@ -165,7 +167,7 @@ bool cTemplateFlow::RenameMain(const QString& oldMain, const QString& newMain)
         return Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {main}));
     }
     cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' umbenannt", {oldMain}));
-    return WriteMain(oldMain, main) || step.Revert();
+    return (WriteMain(oldMain, main) && cOwnRules(m_settings).RenameMain(oldMain, main)) || step.Revert();
 }
 
 bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)

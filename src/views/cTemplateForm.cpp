@@ -11,6 +11,7 @@
 #include "store/cUndoStep.h"
 #include "views/cBankNumbers.h"
 #include "views/cTemplateFlow.h"
+#include "views/modForecast.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -37,6 +38,22 @@ QString StoredLimit(const cTemplateItem& item, const QString& text)
         return item.TemplateDefaultValue;
     }
     return cents == 0 ? QString() : modAmount::CentsToText(cents);
+}
+
+// The limit of an account may be zero or below: what counts is whether there is one.
+QString StoredAccountLimit(const cTemplateItem& item, const QString& text)
+{
+    const std::optional<qint64> cents = modSum::Evaluate(text);
+    if (cents == modForecast::Limit(item)) {
+        return item.TemplateDefaultValue;
+    }
+    return cents ? modAmount::CentsToText(*cents) : QString();
+}
+
+QString ShownAccountLimit(const cTemplateItem& item)
+{
+    const std::optional<qint64> cents = modForecast::Limit(item);
+    return cents ? modSum::ToText(*cents) : QString();
 }
 
 QString ShownLimit(const cTemplateItem& item)
@@ -134,6 +151,7 @@ cTemplateFields cTemplateForm::LoadAccount(const cTemplateItem& item, QDate toda
     fields.Name = item.TemplateName;
     fields.Group = item.TemplateCategory;
     fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {})) : QString();
+    fields.Limit = ShownAccountLimit(item);
     fields.Date = start && start->EntryDate.isValid() ? start->EntryDate : today;
     fields.Numbers = cBankNumbers(m_data, m_settings).Of(item.TemplateName).join(u'\n');
     fields.Comment = item.TemplateComment;
@@ -153,7 +171,7 @@ std::optional<QString> cTemplateForm::Save(const cTemplateNode& node, const cTem
     if (fields == old) {
         return node.Path;
     }
-    if (!IsAmount(fields.Amount)) {
+    if (!IsAmount(fields.Amount) || !IsAmount(fields.Limit)) {
         return std::nullopt;
     }
     if (node.Kind == eTemplateNode::Main) {
@@ -320,6 +338,7 @@ bool cTemplateForm::WriteAccount(const cTemplateItem& item, const QString& name,
     cTemplateItem changed = *stored;
     changed.TemplateCategory = Cleaned(fields.Group);
     changed.TemplateComment = fields.Comment.trimmed();
+    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit);
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }

@@ -22,6 +22,7 @@ struct cTemplateFields
     QString Type;     // stored word; empty for none
     QString Interval; // stored word; empty for none
     QString Amount;   // as typed: monthly limit, or start balance; empty for none
+    QString Limit;    // of an account, as typed: below it there is a warning; empty for none
     QDate Date;       // of the start balance
     QString Numbers;  // the bank's numbers of the account, one a line
     QString Comment;

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cSettings.h"
+#include "import/cOwnRules.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -182,10 +183,11 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
     cUndoStep step(m_data, name);
     const bool isDeleted = std::all_of(doomed.Items.begin(), doomed.Items.end(),
                                        [&](const cTemplateItem& item) { return m_data.DeleteTemplate(item.ID); });
-    const bool isMoved = target.isEmpty()
-        || std::all_of(doomed.Paths.begin(), doomed.Paths.end(),
-                       [&](const QString& path) { return m_data.ChangeEntryCategory(target, path); });
-    return (isDeleted && isMoved) || step.Revert();
+    const bool isMoved =
+        target.isEmpty() || std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
+            return m_data.ChangeEntryCategory(target, path) && cOwnRules(m_settings).RenameCategory(path, target);
+        });
+    return Finish((isDeleted && isMoved) || step.Revert());
 }
 
 bool cTemplateRemoval::AskMergeCategory(const QString& sourcePath)
@@ -221,7 +223,9 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     cUndoStep step(m_data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
     const bool isDeleted = std::all_of(sources.begin(), sources.end(),
                                        [&](const cTemplateItem& item) { return m_data.DeleteTemplate(item.ID); });
-    return (isDeleted && m_data.ChangeEntryCategory(targetPath, sourcePath)) || step.Revert();
+    return (isDeleted && m_data.ChangeEntryCategory(targetPath, sourcePath)
+            && cOwnRules(m_settings).RenameCategory(sourcePath, targetPath))
+        || step.Revert();
 }
 
 bool cTemplateRemoval::AskMergeMain(const QString& source)
@@ -249,9 +253,11 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
     }
     cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' mit '{1}' zusammengeführt", {source, target}));
     const bool isWritten = WriteMergedMain(source, target)
-        && std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
-                               return m_data.ChangeEntryCategory(modTemplate::WithMain(path, target), path);
-                           });
+        && std::all_of(doomed.Paths.begin(), doomed.Paths.end(),
+                       [&](const QString& path) {
+                           return m_data.ChangeEntryCategory(modTemplate::WithMain(path, target), path);
+                       })
+        && cOwnRules(m_settings).RenameMain(source, target);
     return isWritten || step.Revert();
 }
 
@@ -311,7 +317,8 @@ bool cTemplateRemoval::RemoveAccount(const cTemplateItem& account, const QString
 
 bool cTemplateRemoval::MoveAccountEntries(const QString& source, const QString& target)
 {
-    return JoinStartBalances(source, target) && m_data.MoveEntriesToAccount(target, source);
+    return JoinStartBalances(source, target) && m_data.MoveEntriesToAccount(target, source)
+        && cOwnRules(m_settings).RenameAccount(source, target);
 }
 
 // Two start balances in one account: only one of them would ever be found again.

@@ -2,10 +2,13 @@
 
 #include "base/modAmount.h"
 #include "base/modDate.h"
+#include "core/cAmountFormat.h"
 
 #include <QFile>
 
 #include <xlsxwriter.h>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -69,6 +72,26 @@ void cWorkbook::MakeStyles(const QString& moneyPattern)
     format_set_bottom(m_styles[Head], LXW_BORDER_THIN);
 }
 
+// "0,00 €" gives `#,##0.00 "€"`. The signs of the numbers are those of the reader's system.
+QString cWorkbook::MoneyPattern(const cAmountFormat& format)
+{
+    const QString zero = format.Cents(0);
+    const auto isOfNumber = [](QChar sign) { return sign.isDigit() || sign == u',' || sign == u'.'; };
+    qsizetype first = 0;
+    while (first < zero.size() && !zero.at(first).isDigit()) {
+        ++first;
+    }
+    qsizetype end = first;
+    while (end < zero.size() && isOfNumber(zero.at(end))) {
+        ++end;
+    }
+    const auto quoted = [](const QString& text) {
+        return text.isEmpty() ? QString() : u'"' + QString(text).remove(u'"') + u'"';
+    };
+    const QString number = quoted(zero.left(first)) + u"#,##0.00"_s + quoted(zero.mid(end));
+    return number + u";-"_s + number;
+}
+
 void cWorkbook::SetTitle(const QString& title, const QString& comment)
 {
     QByteArray titleBytes = title.toUtf8();
@@ -110,6 +133,12 @@ void cWorkbook::WriteMoney(qsizetype row, int column, qint64 cents, eStyle style
 {
     const lxw_error error =
         worksheet_write_number(m_sheet, Row(row), Column(column), modAmount::ToEuros(cents), m_styles[style]);
+    m_isComplete = m_isComplete && error == LXW_NO_ERROR;
+}
+
+void cWorkbook::WriteCount(qsizetype row, int column, int count, eStyle style)
+{
+    const lxw_error error = worksheet_write_number(m_sheet, Row(row), Column(column), count, m_styles[style]);
     m_isComplete = m_isComplete && error == LXW_NO_ERROR;
 }
 

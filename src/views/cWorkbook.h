@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+class cAmountFormat;
+
 struct lxw_format;
 struct lxw_workbook;
 struct lxw_worksheet;
@@ -24,6 +26,9 @@ public:
     cWorkbook(const cWorkbook&) = delete;
     cWorkbook& operator=(const cWorkbook&) = delete;
 
+    // The number format of amounts with the currency sign where the program's own texts have it.
+    [[nodiscard]] static QString MoneyPattern(const cAmountFormat& format);
+
     // The most rows that a sheet holds.
     static constexpr qsizetype MaxRows = 1'048'576;
 
@@ -33,6 +38,7 @@ public:
     void WriteText(qsizetype row, int column, const QString& text, eStyle style);
     void WriteDate(qsizetype row, int column, QDate day);
     void WriteMoney(qsizetype row, int column, qint64 cents, eStyle style);
+    void WriteCount(qsizetype row, int column, int count, eStyle style);
     // `cents` is the result for programs that do not calculate.
     void WriteFormula(qsizetype row, int column, const QString& formula, qint64 cents, eStyle style);
     void WriteBlank(qsizetype row, int column, eStyle style);

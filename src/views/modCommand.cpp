@@ -11,7 +11,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 30> commands{{
+constexpr std::array<cCommand, 32> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", "", Plain,
      QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "", "",
@@ -72,6 +72,10 @@ constexpr std::array<cCommand, 30> commands{{
      "", "", Plain, QT_TRANSLATE_NOOP("cText", "Stellt Ansicht, Spalten und Fenstergröße auf den Anfang zurück.")},
     {EditTemplates, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Kategorie/Konto bearbeiten"), "",
      "", "", Plain, QT_TRANSLATE_NOOP("cText", "Verwaltet Kategorien und Konten.")},
+    {Rules, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Regeln…"), "", "", "", Writes,
+     QT_TRANSLATE_NOOP("cText", "Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.")},
+    {AccountStatement, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Kontoaus&zug anzeigen…"), "",
+     "", "", Plain, QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze eines Bankkontos mit ihrem Saldo.")},
     {Calculator, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Taschenrechner"), "", "rechner", "",
      Plain, QT_TRANSLATE_NOOP("cText", "Startet den Taschenrechner des Systems.")},
     {Password, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Passwortschutz"), "", "", "",

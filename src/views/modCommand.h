@@ -31,6 +31,8 @@ enum eId : int {
     CorrectPeriod = 120,
     SkipPeriod = 121,
     BackupSettings = 122,
+    Rules = 123,
+    AccountStatement = 124,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,

@@ -91,11 +91,6 @@ qint64 MonthKey(QDate day)
     return day.year() * 12LL + day.month();
 }
 
-QString DayName(QDate day)
-{
-    return Names().dayName(day.dayOfWeek()) + u", "_s + modDate::ToGerman(day);
-}
-
 QString WeekName(QDate day)
 {
     int year = 0;
@@ -110,7 +105,7 @@ QString MonthName(QDate day)
 }
 
 constexpr std::array<cDateGrouping, 3> dateGroupings{{
-    {u"Nach Datum", DayKey, DayName},
+    {u"Nach Datum", DayKey, modEntryOrder::DayName},
     {u"Nach Woche", WeekKey, WeekName},
     {u"Nach Monat", MonthKey, MonthName},
 }};
@@ -153,6 +148,11 @@ modEntryOrder::cRanked DateGroups(const cEntryItemList& entries, const std::vect
 }
 
 } // namespace
+
+QString modEntryOrder::DayName(QDate day)
+{
+    return Names().dayName(day.dayOfWeek()) + u", "_s + modDate::ToGerman(day);
+}
 
 modEntryOrder::cRanked modEntryOrder::Rank(int count, const std::function<QString(int)>& text)
 {

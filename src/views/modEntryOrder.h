@@ -25,4 +25,7 @@ struct cRanked
 // Gruppierung" and unknown words.
 [[nodiscard]] cRanked Groups(const cEntryItemList& entries, const std::vector<int>& shown, const QString& grouping);
 
+// "Samstag, 03.01.2026"
+[[nodiscard]] QString DayName(QDate day);
+
 } // namespace modEntryOrder

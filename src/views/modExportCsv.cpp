@@ -1,38 +1,10 @@
 #include "base/cText.h"
-#include "base/modAmount.h"
+#include "views/modCsv.h"
 #include "views/modExport.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr QChar separator = u';';
-
-// Table programs calculate what begins like a formula, even inside quotes. An apostrophe in front makes it plain text
-// for them and leaves it readable for everybody else. Amounts are not touched: their sign is meant.
-QString WithoutFormula(const QString& text)
-{
-    const bool isFormula = !text.isEmpty() && u"=+-@\t\r"_s.contains(text.front());
-    return isFormula ? u'\'' + text : text;
-}
-
-QString Quoted(QString text)
-{
-    const bool needsQuotes = text.contains(separator) || text.contains(u'"') || text.contains(u'\n')
-        || text.contains(u'\r') || text.startsWith(u' ') || text.endsWith(u' ');
-    return needsQuotes ? u'"' + text.replace(u'"', u"\"\""_s) + u'"' : text;
-}
-
-QString TextField(const QString& text)
-{
-    return Quoted(WithoutFormula(text));
-}
-
-// No grouping and no currency, so that every program takes it for a number.
-QString AmountField(std::optional<qint64> cents)
-{
-    return cents ? modAmount::CentsToText(*cents).replace(u'.', u',') : QString();
-}
 
 QStringList Titles(const std::vector<modExport::cColumn>& columns)
 {
@@ -47,8 +19,12 @@ QStringList Fields(const std::vector<modExport::cColumn>& columns, const cEntryE
 {
     QStringList fields;
     for (const modExport::cColumn& column : columns) {
-        const bool isMoney = column.Content == modExport::eContent::Money;
-        fields.append(isMoney ? AmountField(column.Cents(row)) : TextField(column.Text(row)));
+        if (column.Content != modExport::eContent::Money) {
+            fields.append(modCsv::Text(column.Text(row)));
+            continue;
+        }
+        const std::optional<qint64> cents = column.Cents(row);
+        fields.append(cents ? modCsv::Money(*cents) : QString());
     }
     return fields;
 }
@@ -81,13 +57,11 @@ modExport::cResult modExport::Csv(const cJob& job)
     const bool isGrouped = !job.Extract.Groups.empty();
     const std::vector<cColumn> columns = Columns(job.Extract);
     const QStringList first = isGrouped ? QStringList{cText::Tr("Gruppe")} : QStringList();
-    QByteArray bytes = "\xEF\xBB\xBF" + (first + Titles(columns)).join(separator).toUtf8() + "\r\n";
+    QByteArray bytes = modCsv::Mark + modCsv::Line(first + Titles(columns));
     cGroupName group(job.Extract.Groups);
     const bool isDone = ForEachRow(job, [&](qsizetype position, const cEntryExtract::cRow& row) {
-        if (isGrouped) {
-            bytes += TextField(group.At(position)).toUtf8() + QByteArray(1, separator.toLatin1());
-        }
-        bytes += Fields(columns, row).join(separator).toUtf8() + "\r\n";
+        const QStringList name = isGrouped ? QStringList{modCsv::Text(group.At(position))} : QStringList();
+        bytes += modCsv::Line(name + Fields(columns, row));
     });
     return isDone ? cResult{bytes, {}} : cResult{};
 }

@@ -1,5 +1,4 @@
 #include "base/cText.h"
-#include "core/cAmountFormat.h"
 #include "model/modWord.h"
 #include "views/cWorkbook.h"
 #include "views/modExport.h"
@@ -11,27 +10,6 @@ namespace {
 using modExport::cColumn;
 using modExport::eContent;
 
-// The number format of amounts with the currency sign where the program's own texts have it: "0,00 €" gives
-// `#,##0.00 "€"`. The signs of the numbers are those of the reader's system.
-QString MoneyPattern(const cAmountFormat& format)
-{
-    const QString zero = format.Cents(0);
-    const auto isOfNumber = [](QChar sign) { return sign.isDigit() || sign == u',' || sign == u'.'; };
-    qsizetype first = 0;
-    while (first < zero.size() && !zero.at(first).isDigit()) {
-        ++first;
-    }
-    qsizetype end = first;
-    while (end < zero.size() && isOfNumber(zero.at(end))) {
-        ++end;
-    }
-    const auto quoted = [](const QString& text) {
-        return text.isEmpty() ? QString() : u'"' + QString(text).remove(u'"') + u'"';
-    };
-    const QString number = quoted(zero.left(first)) + u"#,##0.00"_s + quoted(zero.mid(end));
-    return number + u";-"_s + number;
-}
-
 class cSheet
 {
 public:
@@ -39,7 +17,7 @@ public:
         : m_job(job),
           m_extract(job.Extract),
           m_columns(modExport::Columns(job.Extract)),
-          m_book(cText::Tr("Einträge"), MoneyPattern(job.Format))
+          m_book(cText::Tr("Einträge"), cWorkbook::MoneyPattern(job.Format))
     {
         while (m_columns[At(m_amount)].Content != eContent::Money) {
             ++m_amount;

@@ -32,9 +32,6 @@ QString Read(const cImportResult& result, const cAmountFormat& format)
     if (result.Failed > 0) {
         parts.append(cText::Tr("{0} nicht gespeichert", {QString::number(result.Failed)}));
     }
-    if (result.IsCancelled) {
-        parts.append(cText::Tr("abgebrochen"));
-    }
     if (result.ClosingBalance) {
         parts.append(cText::Tr("Schlusssaldo {0}", {format.Cents(*result.ClosingBalance)}));
     }
@@ -58,6 +55,9 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
     const QString name = QFileInfo(result.File).fileName();
     if (result.IsRefused) {
         return {cText::Tr("{0}: nicht eingelesen. {1}", {name, result.Message})};
+    }
+    if (result.IsCancelled) {
+        return {cText::Tr("{0}: abgebrochen, nichts davon übernommen.", {name})};
     }
     QStringList lines{cText::Tr("{0}: {1}", {name, Read(result, format)})};
     QList<cReadProblem> problems = result.Problems;
@@ -140,4 +140,10 @@ QString modImportText::Reason(const cProposal& proposal)
 {
     const QString reason = proposal.Reason.isEmpty() ? cText::Tr("keine Regel passt") : proposal.Reason;
     return proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
+}
+
+QString modImportText::TwinReason(modStagedTwins::eSame same)
+{
+    return same == modStagedTwins::eSame::Counterparty ? cText::Tr("gleicher Tag, Betrag und Gegenkonto")
+                                                       : cText::Tr("gleicher Tag, Betrag und ähnlicher Name");
 }

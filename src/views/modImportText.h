@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/modStagedTwins.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -44,5 +46,8 @@ namespace modImportText {
 [[nodiscard]] QString Accounts(const cEntryItem& entry);
 
 [[nodiscard]] QString Reason(const cProposal& proposal);
+
+// Why two transactions may be the same one
+[[nodiscard]] QString TwinReason(modStagedTwins::eSame same);
 
 } // namespace modImportText

@@ -20,7 +20,7 @@ struct cPage : cTestBook
     cPage()
     {
         Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
-        Review.SetOpenOnly(false);
+        Review.View().SetOpenOnly(false);
     }
 
     int Stage(double value, const QString& name, const QString& number = u"1234567"_s)
@@ -105,7 +105,7 @@ void testImportMatch::MatchesInOneStep() const
              QStringList({u"Zugeordnet: 1, vorgeschlagen: 0, offen: 1."_s,
                           u"03.03.2026  ·  -23,10"_s + space + u"€  ·  REWE → 'REWE' vom 03.03. (100 %)"_s}));
     QCOMPARE(entries.size(), 0); // the book is as it was
-    QCOMPARE(page.Review.CountText(), u"1 offen, 2 insgesamt"_s);
+    QCOMPARE(page.Review.View().CountText(), u"1 offen, 2 insgesamt"_s);
     QCOMPARE(page.Data.UndoName(), u"2 Umsätze abgeglichen"_s);
     QVERIFY(page.Data.Undo());
     QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
@@ -123,7 +123,7 @@ void testImportMatch::MatchesWhatIsSelected() const
     }
     page.Review.Match(rows.first(2), page.Progress);
     QCOMPARE(page.Assigned(), QList<int>({entries.at(0), entries.at(1), -1, -1}));
-    page.Review.SetFilter(u"penny"_s);
+    page.Review.View().SetFilter(u"penny"_s);
     page.Review.Match({rows.at(2)}, page.Progress); // a single one is where the user stands
     QCOMPARE(page.Assigned(), QList<int>({entries.at(0), entries.at(1), -1, entries.at(3)}));
 }

@@ -2,6 +2,7 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/cImportReview.h"
+#include "views/cStatementFiles.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -19,7 +20,22 @@ struct cPage : cTestBook
     void ImportFixture()
     {
         User.Choices = {u"Girokonto"_s, u"Sparkonto"_s};
-        Review.ImportFiles({fixture}, Progress);
+        Review.Files().ImportFiles({fixture}, Progress);
+    }
+
+    // A row of the giro account that came without a file.
+    template <typename tChange>
+    void AddRow(tChange change)
+    {
+        cImportEntry row;
+        row.ImportAccount = u"1234567"_s;
+        row.ImportDate = QDate(2026, 1, 20);
+        row.ImportValue = -7.5;
+        change(row);
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+        Review.Refresh();
     }
 
     QString Cell(int row, int column) { return Review.Rows().index(row, column).data().toString(); }
@@ -53,24 +69,24 @@ private Q_SLOTS:
         const QString file = QStringLiteral(TEST_DATA "/csv/consors.csv");
         cPage page;
         page.User.Choices = {std::nullopt};
-        page.Review.ImportFiles({file}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QCOMPARE(page.User.Shown.size(), 1); // given up: nothing is read, and the reason is shown
         QCOMPARE(page.Data.GetImportEntries().size(), 0);
         page.User.Choices = {u" 4711 "_s, u"Girokonto"_s};
-        page.Review.ImportFiles({file}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QVERIFY(page.User.Asked.contains(u"consors.csv\nEs muss eine Kontonummer eingegeben werden, um die Daten einem "
                                          "Konto zuzuordnen."_s));
         QCOMPARE(page.Data.GetImportEntries().value(0).ImportAccount, u"4711"_s);
         page.User.Asked.clear();
-        page.Review.ImportFiles({file}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QCOMPARE(page.User.Asked, QStringList());
-        QCOMPARE(page.Review.Duplicates().size(), 1);
+        QCOMPARE(page.Review.Files().LeftOut().size(), 1);
     }
 
     void importsWithItsQuestions()
     {
         cPage page;
-        QVERIFY(page.Review.EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
+        QVERIFY(page.Review.View().EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
         QSignalSpy rows(&page.Review, &cImportReview::RowsChanged);
         page.ImportFixture();
         QVERIFY(!rows.isEmpty());
@@ -79,10 +95,10 @@ private Q_SLOTS:
                               u"Zu welchem Konto gehören die Umsätze der Kontonummer 7654321?"_s}));
         QCOMPARE(page.Review.Summary(),
                  QStringList(u"giro.sta: 6 gelesen, 5 neu, 1 ohne Betrag, Schlusssaldo 5.200,00"_s + space + u'€'));
-        QCOMPARE(page.Review.CountText(), u"5 offen, 5 insgesamt"_s);
-        page.Review.ImportFiles({fixture}, page.Progress);
+        QCOMPARE(page.Review.View().CountText(), u"5 offen, 5 insgesamt"_s);
+        page.Review.Files().ImportFiles({fixture}, page.Progress);
         QCOMPARE(page.User.Asked.size(), 2);
-        QCOMPARE(page.Review.Duplicates().size(), 5);
+        QCOMPARE(page.Review.Files().LeftOut().size(), 5);
     }
 
     void showsRows()
@@ -110,19 +126,19 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.Review.ImportFiles({fixture}, page.Progress);
-        QVERIFY(page.Review.Duplicates().at(1).startsWith(u"04.01.2026  ·  -650,00"));
-        page.Review.StageDuplicates({1, 0, 99});
-        QCOMPARE(page.Review.Duplicates().size(), 3);
-        QCOMPARE(page.Review.CountText(), u"7 offen, 7 insgesamt"_s);
-        page.Review.DropDuplicates();
-        QVERIFY(page.Review.Duplicates().isEmpty());
+        page.Review.Files().ImportFiles({fixture}, page.Progress);
+        QVERIFY(page.Review.Files().LeftOut().at(1).startsWith(u"04.01.2026  ·  -650,00"));
+        page.Review.Files().StageLeftOut({1, 0, 99});
+        QCOMPARE(page.Review.Files().LeftOut().size(), 3);
+        QCOMPARE(page.Review.View().CountText(), u"7 offen, 7 insgesamt"_s);
+        page.Review.Files().DropLeftOut();
+        QVERIFY(page.Review.Files().LeftOut().isEmpty());
     }
 
     void booksWhatTheUserChose()
     {
         cPage page;
-        page.Review.SetOpenOnly(false);
+        page.Review.View().SetOpenOnly(false);
         page.ImportFixture();
         cStagedListModel& rows = page.Review.Rows();
         QVERIFY(rows.setData(rows.index(0, cStagedListModel::Category), u"freizeit; geschenke"_s, Qt::EditRole));
@@ -138,16 +154,16 @@ private Q_SLOTS:
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"gebucht"_s);
         QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
         QVERIFY(!rows.flags(rows.index(0, cStagedListModel::Category)).testFlag(Qt::ItemIsEditable));
-        page.Review.SetOpenOnly(true);
+        page.Review.View().SetOpenOnly(true);
         QCOMPARE(rows.rowCount(), 0);
-        QVERIFY(page.Review.EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
+        QVERIFY(page.Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
         QVERIFY(page.Settings->GetBool(u"HideBookedEntries"_s));
     }
 
     void asksAgainBeforeBooking()
     {
         cPage page;
-        page.Review.ImportFiles({fixture}, page.Progress); // the user gives up on both questions
+        page.Review.Files().ImportFiles({fixture}, page.Progress); // the user gives up on both questions
         QCOMPARE(page.Cell(0, cStagedListModel::Account), u"1234567 (kein Konto)"_s);
         page.User.Choices = {u"Girokonto"_s, std::nullopt};
         page.Review.Book(page.AllIds(), page.Progress);
@@ -159,8 +175,8 @@ private Q_SLOTS:
     void deletesAfterAQuestion()
     {
         cPage page;
-        QVERIFY(page.Review.IsOpenOnly());
-        page.Review.SetOpenOnly(false);
+        QVERIFY(page.Review.View().IsOpenOnly());
+        page.Review.View().SetOpenOnly(false);
         page.ImportFixture();
         page.Review.Book({page.AllIds().first()}, page.Progress);
         page.Review.Delete(page.AllIds());
@@ -199,7 +215,7 @@ private Q_SLOTS:
         QFETCH(int, column);
         cPage page;
         page.ImportFixture();
-        page.Review.SetFilter(filter);
+        page.Review.View().SetFilter(filter);
         page.Review.Rows().sort(column, Qt::AscendingOrder);
         QStringList names;
         for (int row = 0; row < page.Review.Rows().rowCount(); ++row) {
@@ -208,13 +224,117 @@ private Q_SLOTS:
         QTEST(names, "names");
     }
 
+    void oneCategoryForMany()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.Review.Book({page.AllIds().first()}, page.Progress);
+        page.Review.View().SetOpenOnly(false);
+        const QList<int> ids = page.AllIds().first(3);
+        QCOMPARE(page.Review.ChoiceTitle(ids), u"Kategorie für 2 Umsätze"_s); // one of them is booked
+        QVERIFY(!page.Review.Choose(ids, u"Unbekannt"_s, {}));
+        QVERIFY(page.Review.Choose(ids, u"freizeit; geschenke"_s, u"Jährlich"_s));
+        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Haushalt; Lebensmittel"_s);
+        for (const int row : {1, 2}) {
+            QCOMPARE(page.Cell(row, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
+            QCOMPARE(page.Cell(row, cStagedListModel::Interval), u"Jährlich"_s);
+        }
+    }
+
+    void acceptsWhatIsCertain()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.Review.AcceptProposals(page.Progress); // the user says no
+        QCOMPARE(page.User.Asked.last(),
+                 u"5 der gezeigten Umsätze haben einen sicheren Vorschlag. Sollen sie alle so gebucht werden?\nOffen "
+                 "bleiben: 1 ohne passenden Vorschlag."_s);
+        QCOMPARE(page.Data.CountEntries(), 0);
+        page.Review.View().SetFilter(u"rewe"_s);
+        page.User.Answers = {eAnswer::Yes};
+        page.Review.AcceptProposals(page.Progress);
+        QCOMPARE(page.Data.CountEntries(), 1); // only what is shown
+        page.Review.View().SetFilter({});
+        page.User.Answers = {eAnswer::Yes};
+        page.Review.AcceptProposals(page.Progress);
+        QCOMPARE(page.Review.View().CountText(), u"1 offen, 6 insgesamt"_s);
+        QVERIFY(page.Data.Undo()); // all of it is one step
+        QCOMPARE(page.Data.CountEntries(), 1);
+        page.Review.Refresh();
+        page.Review.View().SetFilter(u"unbekannt"_s);
+        page.Review.AcceptProposals(page.Progress);
+        QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
+    }
+
+    void asksBeforeBookingTwice()
+    {
+        cPage page;
+        page.ImportFixture();
+        cImportEntry rewe = page.Data.GetImportEntries().constFirst();
+        const int first = rewe.ID;
+        rewe.ImportPurpose = u"Kartenzahlung 4711"_s; // the same in another file
+        page.AddRow([&](cImportEntry& row) { row = rewe; });
+        QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
+        QVERIFY(page.Cell(0, cStagedListModel::Reason).startsWith(u"gleicher Tag, Betrag und"));
+        page.User.Answers = {eAnswer::Cancel};
+        page.Review.Book({first}, page.Progress);
+        QVERIFY(page.User.Asked.last().contains(u"noch einen, der derselbe sein kann"));
+        QCOMPARE(page.Data.CountEntries(), 0);
+        page.User.Answers = {eAnswer::No};
+        page.Review.Book(page.AllIds().first(2), page.Progress);
+        QCOMPARE(page.Data.CountEntries(), 1); // one of the two
+        QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
+        page.User.Answers = {eAnswer::Yes};
+        page.Review.Book(page.AllIds().first(1), page.Progress);
+        QCOMPARE(page.Data.CountEntries(), 2);
+    }
+
+    void aWindowForOneImport()
+    {
+        cPage page;
+        QVERIFY(page.Review.StartImportReview() == nullptr);
+        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Von früher"_s; });
+        page.ImportFixture();
+        QVERIFY(page.Review.StartImportReview(1) == nullptr); // nobody knows with which file it came
+        const std::unique_ptr<cImportReview> window = page.Review.StartImportReview();
+        QCOMPARE(window->View().CountText(), u"5 offen, 5 insgesamt"_s);
+        const int id = window->Rows().OpenIds().first();
+        QVERIFY(window->Choose({id}, u"Freizeit; Geschenke"_s, {}));
+        page.Review.Refresh();
+        QCOMPARE(page.Review.Rows().IndexOf(id).siblingAtColumn(cStagedListModel::Category).data().toString(),
+                 u"Freizeit; Geschenke"_s);
+        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
+        window->Book({id}, page.Progress);
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(page.Review.View().CountText(), u"5 offen, 6 insgesamt"_s);
+        QCOMPARE(page.Review.Summary(), window->Summary());
+    }
+
+    void keepsWhatIsShown()
+    {
+        cPage page;
+        page.ImportFixture();
+        cStagedView& view = page.Review.View();
+        view.SetGrouping(1);
+        view.SetOldHidden(true);
+        view.SetTitleShown(false);
+        QVERIFY(page.Settings->GetBool(u"HideOldImportEntries"_s));
+        QVERIFY(page.Settings->GetBool(u"HideAssignTitle"_s));
+        cImportReview other({page.Data, *page.Settings, page.Format, page.User});
+        QCOMPARE(other.View().Grouping(), 1);
+        QVERIFY(other.View().IsOldHidden() && !other.View().IsTitleShown());
+        view.SetGrouping(99);
+        QCOMPARE(view.Grouping(), 1);
+    }
+
     void saysWhyAFileIsRefused()
     {
         cPage page;
         QFile file(page.Shell.Folder(u"data"_s) + u"/auszug.pdf");
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("%PDF") == 4);
         file.close();
-        page.Review.ImportFiles({file.fileName()}, page.Progress);
+        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
         QVERIFY(page.User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
         QVERIFY(page.Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
     }

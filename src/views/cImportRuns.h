@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QList>
+
+class cSettings;
+
+// Which rows came together: the ranges of IDs of the latest imports and of their files, kept in the setting
+// "ImportRuns". IDs grow, so the rows of a file follow each other, and so do the files of an import.
+class cImportRuns
+{
+public:
+    struct cRange
+    {
+        int First = 0;
+        int Last = 0;
+        [[nodiscard]] bool IsEmpty() const { return Last == 0; }
+        bool operator==(const cRange&) const = default;
+    };
+
+    explicit cImportRuns(cSettings& settings) : m_settings(settings) {}
+
+    // A file of the import that is under way brought these rows.
+    void NoteFile(const QList<int>& ids);
+    // The import has ended with these rows. IDs that come again, because an import was undone, belong to the later one.
+    void NoteImport(const QList<int>& ids);
+
+    // The import that a row came with; empty for rows older than what is remembered.
+    [[nodiscard]] cRange ImportOf(int id) const;
+    [[nodiscard]] cRange Latest() const;
+    // All files, upwards.
+    [[nodiscard]] QList<cRange> Files() const;
+
+private:
+    [[nodiscard]] QList<QList<cRange>> Imports() const; // upwards, each with its files
+
+    cSettings& m_settings;
+    QList<cRange> m_files; // of the import that is under way
+};

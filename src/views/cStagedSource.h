@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+struct cImportEntry;
+
+// What is known of a bank transaction beyond its row: where it goes, or where it went.
+struct cStagedInfo
+{
+    QString Account; // of the book; empty when the bank's number is not assigned yet
+    QString Category;
+    QString Interval;        // stored word
+    QString Reason;          // why this category is proposed, or what speaks against booking the row
+    QString Hint;            // more about a doubt; empty without one
+    bool IsDoubtful = false; // the same transaction may be there twice
+};
+
+// Where the list asks for what it shows beyond the rows. Asked for the rows in sight only, unless the list is sorted by
+// one of these columns.
+class cStagedSource
+{
+public:
+    cStagedSource() = default;
+    cStagedSource(const cStagedSource&) = delete;
+    cStagedSource& operator=(const cStagedSource&) = delete;
+    virtual ~cStagedSource() = default;
+
+    [[nodiscard]] virtual cStagedInfo Info(const cImportEntry& row) = 0;
+
+    // Takes the user's own choice for a row; false when it is none of the list.
+    virtual bool SetCategory(const cImportEntry& row, const QString& category) = 0;
+    virtual bool SetInterval(const cImportEntry& row, const QString& interval) = 0;
+};

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "model/cImportEntry.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+class cAccountMap;
+class cAmountFormat;
+class cDataAccess;
+class cImportAssistant;
+class cImportHiveCache;
+class cProgress;
+class cSettings;
+class cUser;
+struct cImportResult;
+
+// Statement files into staged rows, with the questions that this takes.
+class cStatementFiles final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What it works with; all of it outlives this object.
+    struct cParts
+    {
+        cDataAccess& Data;
+        cSettings& Settings;
+        const cAmountFormat& Format;
+        cUser& User;
+        cImportHiveCache& Hive;
+        cAccountMap& Accounts;
+    };
+
+    explicit cStatementFiles(const cParts& parts, QObject* parent = nullptr);
+    ~cStatementFiles() override;
+
+    // Opens the window of the assistant; false when the user gives up. Without one only the account is asked for.
+    using fnAssist = std::function<bool(cImportAssistant&)>;
+    void SetAssist(fnAssist assist) { m_assist = std::move(assist); }
+
+    // Whether the user is asked how a file is to be read only where that is not certain, or always.
+    enum class eAssist { WhereNeeded, Always };
+
+    // The assistant for a file; null when the file cannot be opened. This object outlives it.
+    [[nodiscard]] std::unique_ptr<cImportAssistant> StartAssistant(const QString& path);
+
+    // Lets the user choose statement files and reads them.
+    void ChooseFiles(cProgress& progress, eAssist assist = eAssist::WhereNeeded);
+    // Reads the files and asks for the accounts of new numbers. A file that the user stops brings nothing.
+    void ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist = eAssist::WhereNeeded);
+
+    // Reads the last files once more with the assistant. What they brought and is still open goes, in the same step.
+    [[nodiscard]] bool CanReadAgain() const;
+    void ReadAgain(cProgress& progress);
+
+    // Asks which accounts of the book the numbers belong to, as far as that is not known.
+    void AskAccounts(const QStringList& numbers);
+
+    // The transactions of the last files that were not taken, as texts with the reason: what is there already, what is
+    // still pending.
+    [[nodiscard]] QStringList LeftOut() const;
+    // Takes these all the same; the numbers are places in LeftOut.
+    void StageLeftOut(const QList<int>& places);
+    void DropLeftOut();
+
+    // What the last files brought may be gone: something was undone, or another book was opened.
+    void StartAfresh();
+
+Q_SIGNALS:
+    // Staged rows came; the lines say what came of each file.
+    void Imported(const QStringList& lines);
+    // The accounts of numbers may be known now; the lines name those that are not.
+    void AccountsAsked(const QStringList& lines);
+    void FileStaged(const QList<int>& ids); // by one file of the import that is under way
+    void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
+    void LeftOutChanged();
+
+private:
+    struct cWorks; // the tools of the import floor
+
+    // A file of a run, with the rows that it brought.
+    struct cFile
+    {
+        QString Path;
+        QList<int> Rows;
+    };
+    struct cLeftOut
+    {
+        cImportEntry Entry;
+        QString Reason;
+    };
+    struct cRun; // what one run over several files has so far
+
+    void Run(const QList<cFile>& files, cProgress& progress, eAssist assist);
+    [[nodiscard]] cImportResult ImportFile(const cFile& file, cRun& run);
+    [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
+    [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cRun& run);
+    [[nodiscard]] cImportResult Assist(const cFile& file, cRun& run);
+    [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
+    [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
+    void KeepLeftOut(const cImportResult& result);
+    [[nodiscard]] int NewestRow();
+    [[nodiscard]] QList<int> RowsAbove(int newest);
+
+    cParts m_parts;
+    std::unique_ptr<cWorks> m_works;
+    fnAssist m_assist;
+    QList<cFile> m_last;
+    QList<cLeftOut> m_leftOut;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/cImportEntry.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+// Gathering bank transactions.
+namespace modStagedGroup {
+
+enum class eGrouping { None, Counterparty, Day };
+
+// The groups as the user sees them, in the order of their values, and the words they are stored under.
+[[nodiscard]] QStringList Shown();
+[[nodiscard]] QString Stored(eGrouping grouping);
+[[nodiscard]] eGrouping FromStored(const QString& word); // None for other words
+
+// The groups of a list: a number by place in `shown`, upwards in the order of the groups, and their names by number.
+struct cGroups
+{
+    std::vector<qint64> Numbers; // empty without grouping
+    QStringList Names;
+};
+[[nodiscard]] cGroups Gather(const cImportEntryList& rows, const std::vector<int>& shown, eGrouping grouping);
+
+} // namespace modStagedGroup

@@ -1,0 +1,225 @@
+#include "support/testBook.h"
+#include "support/testFormat.h"
+#include "views/cChartMaker.h"
+#include "views/cChartSave.h"
+#include "views/modChart.h"
+#include "views/modChartTable.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate today(2026, 3, 15);
+const modPeriod::cRange year{QDate(2026, 1, 1), QDate(2026, 12, 31)};
+
+struct cChartBook
+{
+    cChartBook()
+    {
+        Add(modWord::Ausgabe, QDate(2026, 1, 10), u"Wohnen; Miete"_s, 60000);
+        Add(modWord::Ausgabe, QDate(2026, 2, 10), u"Wohnen; Strom"_s, 10000);
+        Add(modWord::Ausgabe, QDate(2026, 2, 11), u"Wohnen"_s, 5000);
+        Add(modWord::Ausgabe, QDate(2026, 2, 12), u"Haushalt; Lebensmittel"_s, 25000);
+        Add(modWord::Ausgabe, QDate(2025, 2, 12), u"Haushalt; Lebensmittel"_s, 15000);
+        Add(modWord::Einnahme, QDate(2026, 1, 31), u"Arbeit; Gehalt"_s, 200000);
+        Add(modWord::Umbuchung, QDate(2026, 1, 31), u"Sparen"_s, 50000);
+        if (!Book.Data.SetStartGuthaben(u"Girokonto"_s, 12345, QDate(2026, 1, 1))) {
+            qFatal("no start balance");
+        }
+    }
+
+    void Add(const QString& type, QDate day, const QString& category, qint64 cents)
+    {
+        (void)Book.Add([&](cEntryItem& entry) {
+            entry.EntryType = type;
+            entry.EntryDate = day;
+            entry.EntryCategory = category;
+            entry.EntryValue = cents;
+            entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+        });
+    }
+
+    cChartData Make(const cChartWish& wish) { return cChartMaker(Book.Data, Format.Format, today).Make(wish); }
+
+    cTestBook Book;
+    cTestFormat Format;
+};
+
+// "name=cents" of every series at one label.
+QStringList Values(const cChartData& chart, int label)
+{
+    QStringList values;
+    for (const cChartSeries& series : chart.Series) {
+        const std::optional<qint64> cents = series.At(label);
+        values.append(series.Name + u'=' + (cents ? QString::number(*cents) : u"-"_s));
+    }
+    return values;
+}
+
+} // namespace
+
+class testChartData final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void slicesByCategory()
+    {
+        cChartBook book;
+        cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year};
+        const cChartData main = book.Make(wish);
+        QCOMPARE(Values(main, 0), (QStringList{u"Wohnen=75000"_s, u"Haushalt=25000"_s}));
+        QCOMPARE(main.Labels, QStringList{u"2026"_s});
+        QCOMPARE(main.PartText(0, 0).replace(QChar(QChar::Nbsp), u' '), u"Wohnen: 750,00 € (75 %)"_s);
+        const cChartTarget target = main.Series[0].TargetAt(0);
+        QCOMPARE(target.Kind, cChartTarget::eKind::Deeper);
+        wish.Group = target.Node->Group;
+        const cChartData below = book.Make(wish);
+        QCOMPARE(Values(below, 0), (QStringList{u"Miete=60000"_s, u"Strom=10000"_s, u"Sonstiges (Wohnen)=5000"_s}));
+        QVERIFY(!below.BackText.isEmpty());
+        QCOMPARE(
+            below.Series[1].TargetAt(0),
+            (cChartTarget{
+                cChartTarget::eKind::Entries, cReportNode{eReportKind::Expense, u"Wohnen"_s, u"Strom"_s}, {}, year}));
+    }
+
+    void laysTheYearBeforeBeside()
+    {
+        cChartBook book;
+        const cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year, .Second = cChartWish::YearBefore(year)};
+        const cChartData chart = book.Make(wish);
+        QCOMPARE(chart.Labels, (QStringList{u"2026"_s, u"2025"_s}));
+        QCOMPARE(Values(chart, 1), (QStringList{u"Wohnen=0"_s, u"Haushalt=15000"_s}));
+        const modPeriod::cRange leap{QDate(2027, 2, 1), QDate(2027, 2, 28)};
+        QCOMPARE(cChartWish::YearBefore({leap.Start.addYears(1), QDate(2028, 2, 29)}), leap);
+        QCOMPARE(cChartWish::YearBefore({QDate(2025, 2, 1), QDate(2025, 2, 28)}).End, QDate(2024, 2, 29));
+    }
+
+    void gathersSmallSlices()
+    {
+        cChartBook book;
+        for (int i = 0; i < 15; ++i) {
+            book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Gruppe %1"_s.arg(i), i < 9 ? 20000 : 100);
+        }
+        book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Sonstiges"_s, 30000);
+        const cChartData chart = book.Make({.Kind = eChartKind::ExpensePie, .Range = year});
+        QCOMPARE(chart.Series.size(), 11);
+        QCOMPARE(chart.Series[1].Name, u"Sonstiges"_s);   // the user's own
+        QCOMPARE(chart.Series.last().Name, u"Weitere"_s); // so the rest must not be called the same
+        QCOMPARE(chart.Series.last().At(0), 2 * 20000 + 6 * 100);
+        QCOMPARE(chart.Series.last().TargetAt(0).Kind, cChartTarget::eKind::None);
+        QCOMPARE(chart.Total(0), 100000 + 30000 + 9 * 20000 + 6 * 100);
+    }
+
+    void addsUpMonths()
+    {
+        cChartBook book;
+        cChartWish wish{.Kind = eChartKind::Months, .Range = year};
+        const cChartData chart = book.Make(wish);
+        QCOMPARE(chart.Labels.size(), 12);
+        QCOMPARE(chart.Labels[1], u"Februar 2026"_s);
+        QCOMPARE(chart.ShortLabels[1], u"Feb 26"_s);
+        QCOMPARE(Values(chart, 0), (QStringList{u"Einnahmen=200000"_s, u"Ausgaben=60000"_s, u"Überschuss=140000"_s}));
+        QCOMPARE(Values(chart, 1), (QStringList{u"Einnahmen=0"_s, u"Ausgaben=40000"_s, u"Überschuss=-40000"_s}));
+        QCOMPARE(chart.Today, 2);
+        QCOMPARE(chart.Series[1].TargetAt(1).Range, (modPeriod::cRange{QDate(2026, 2, 1), QDate(2026, 2, 28)}));
+        wish.Range = cChartWish::YearBefore(cChartWish::YearBefore(year));
+        QVERIFY(book.Make(wish).IsEmpty());
+        wish.Range = year;
+        wish.ShowsStart = true;
+        QCOMPARE(book.Make(wish).Series[0].At(0), 212345);
+        wish.ShowsFuture = false;
+        wish.Second = cChartWish::YearBefore(year);
+        const cChartData past = book.Make(wish);
+        QCOMPARE(past.Labels.size(), 3);
+        QCOMPARE(past.Series[4].Name, u"Ausgaben (2025)"_s);
+        QCOMPARE(past.Series[4].At(1), 15000);
+    }
+
+    void takesYearsForManyMonths()
+    {
+        cChartBook book;
+        book.Add(modWord::Ausgabe, QDate(1990, 5, 1), u"Alt"_s, 700);
+        const cChartData chart = book.Make({.Kind = eChartKind::Months});
+        QCOMPARE(chart.Labels.first(), u"1990"_s);
+        QCOMPARE(chart.Labels.last(), u"2026"_s);
+        QCOMPARE(chart.Series[1].At(0), 700);
+        QCOMPARE(chart.Series[1].At(36), 100000);
+    }
+
+    void stacksCategories()
+    {
+        cChartBook book;
+        const cChartData chart = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year});
+        QCOMPARE(Values(chart, 1), (QStringList{u"Wohnen=15000"_s, u"Haushalt=25000"_s}));
+        const cChartData below = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Group = u"Wohnen"_s});
+        QCOMPARE(Values(below, 1), (QStringList{u"Miete=0"_s, u"Strom=10000"_s, u"Sonstiges (Wohnen)=5000"_s}));
+    }
+
+    void followsBalances()
+    {
+        cChartBook book;
+        (void)book.Book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 3, 20);
+            entry.EntryDateEnd = QDate(2026, 5, 1);
+            entry.EntryInterval = u"Monatlich"_s;
+            entry.EntryValue = 70000;
+        });
+        book.Add(modWord::Einnahme, QDate(2026, 4, 30), u"Arbeit; Gehalt"_s, 200000);
+        const modPeriod::cRange month{QDate(2026, 2, 1), QDate(2026, 2, 28)};
+        const cChartData chart = book.Make({.Kind = eChartKind::Balances, .Range = month, .ForecastMonths = 2});
+        QCOMPARE(chart.Labels.first(), u"01.02.2026"_s);
+        QCOMPARE(chart.Labels.last(), u"15.05.2026"_s);
+        QCOMPARE(chart.Labels[chart.Today], u"15.03.2026"_s);
+        const qint64 february = 12345 - 15000 - 60000 + 200000; // of both accounts before the month
+        QCOMPARE(Values(chart, 0),
+                 (QStringList{u"Alle Konten=%1"_s.arg(february), u"Girokonto=%1"_s.arg(february - 50000),
+                              u"Sparkonto=50000"_s}));
+        QCOMPARE(chart.Marks.size(), 1);
+        QCOMPARE(chart.Labels[chart.Marks.first().Index], u"20.04.2026"_s);
+        QVERIFY(chart.Marks.first().Text.contains(u"20.04.2026"));
+        const cChartData savings = book.Make({.Kind = eChartKind::Balances, .Range = month, .Account = u"Sparkonto"_s});
+        QCOMPARE(savings.Series.size(), 1);
+        QCOMPARE(savings.Labels.last(), u"28.02.2026"_s);
+    }
+
+    void writesTheSameFigures()
+    {
+        cChartBook book;
+        cChartData pie = book.Make({.Kind = eChartKind::ExpensePie, .Range = year});
+        QCOMPARE(modChartTable::Csv(pie),
+                 QByteArray("\xEF\xBB\xBF"
+                            "Kategorie;2026;Anteil %\r\nWohnen;750,00;75,00\r\nHaushalt;250,00;25,00\r\n"));
+        pie.Series[0].IsHidden = true;
+        const cChartFigures figures = modChartTable::Figures(pie.Shown());
+        QCOMPARE(figures.Rows.size(), 2); // the other category and the sum
+        QCOMPARE(figures.Rows.last().Values, (QList<std::optional<qint64>>{25000, 10000}));
+        cChartData odd = pie.Shown();
+        odd.Series[0].Name = u"=1+1;\"x\""_s;
+        QVERIFY(modChartTable::Csv(odd).contains("\"'=1+1;\"\"x\"\"\";250,00"));
+    }
+
+    void saves()
+    {
+        cTestBook book;
+        cChartSave save(book.User, {[](const cChartData&) { return QByteArray("png"); }, {}});
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"bild.png"_s);
+        cChartData chart;
+        chart.Title = u"Ausgaben: Auto & Bahn"_s;
+        QVERIFY(!save.Run(chart, today)); // given up
+        QCOMPARE(book.User.LastProposal, u"Kontorelle-Ausgaben-Auto-Bahn-2026-03-15"_s);
+        QVERIFY(save.Write({}, path));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("png"));
+        QVERIFY(!save.Write({}, folder.filePath(u"bild.bmp"_s)));
+        QVERIFY(!save.Write({}, folder.filePath(u"fehlt/bild.png"_s)));
+        QCOMPARE(book.User.Shown.size(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(testChartData)
+#include "testChartData.moc"

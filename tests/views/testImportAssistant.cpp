@@ -1,0 +1,346 @@
+#include "base/cProgress.h"
+#include "core/cAmountFormat.h"
+#include "support/testBook.h"
+#include "views/cImportAssistant.h"
+#include "views/cImportReview.h"
+#include "views/cStatementFiles.h"
+
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using eField = cImportAssistant::eField;
+using fnChange = std::function<void(cImportAssistant&)>;
+
+// No bank's layout; nothing but the contents tell the columns, and no line names the account.
+constexpr const char* plain = "Tag;Was;Preis;Wert;Stand\n"
+                              "03.02.2026;Br\xE4zeln am Markt;2,00;-4,20;gebucht\n"
+                              "04.02.2026;Miete;3,00;-660,00;gebucht\n"
+                              "05.02.2026;Kiosk am Bahnhof;4,00;-1,00;vorgemerkt\n";
+
+// The progress of a user who stops after some steps.
+class cStopped final : public cProgress
+{
+public:
+    void showProgressBar(int /*maximum*/) override {}
+    void addProgressValue(int /*steps*/) override {}
+    void hideProgressBar() override {}
+    [[nodiscard]] bool IsCancelled() const override { return ++m_asked > 3; }
+
+private:
+    mutable int m_asked = 0;
+};
+
+// A new book whose assistant does what the test says.
+struct cPage : cTestBook
+{
+    cPage()
+    {
+        Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
+        Review.Files().SetAssist([this](cImportAssistant& assistant) {
+            ++Opened;
+            Answer(assistant);
+            return IsConfirmed;
+        });
+    }
+
+    QString Write(const QString& name, const QByteArray& content)
+    {
+        QFile file(Shell.Folder(u"data"_s) + u'/' + name);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+            qFatal("no file");
+        }
+        return file.fileName();
+    }
+
+    void Import(const QStringList& paths)
+    {
+        cNoProgress progress;
+        Review.Files().ImportFiles(paths, progress);
+    }
+
+    QStringList Purposes()
+    {
+        QStringList texts;
+        const cImportEntryList rows = Data.GetImportEntries();
+        for (const cImportEntry& row : rows) {
+            texts.append(row.ImportPurpose);
+        }
+        return texts;
+    }
+
+    fnChange Answer = [](cImportAssistant& assistant) { assistant.SetAccount(u"4711"_s); };
+    bool IsConfirmed = true;
+    int Opened = 0;
+    cAmountFormat Format{Configuration};
+    cImportReview Review{{Data, *Settings, Format, User}};
+};
+
+int Place(const QStringList& items, const QString& item)
+{
+    return static_cast<int>(items.indexOf(item));
+}
+
+fnChange Mean(int column, const QString& meaning)
+{
+    return [=](cImportAssistant& assistant) {
+        assistant.SetMeaning(column, Place(cImportAssistant::Meanings(), meaning));
+    };
+}
+
+fnChange Take(eField field, const QString& item)
+{
+    return [=](cImportAssistant& assistant) { assistant.Choose(field, Place(assistant.Items(field), item)); };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(fnChange)
+
+class testImportAssistant : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsWhatAChoiceDoes_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<fnChange>("change");
+        QTest::addColumn<QString>("row");
+        const fnChange nothing = [](cImportAssistant&) {};
+        const QByteArray dollars = "Date;Details;Amount\n02/03/2026;Lunch;\"1,234\"\n";
+        const QByteArray dkb = "Buchungsdatum;Zahlungsempfänger*in;Verwendungszweck;Betrag (€)\n"
+                               "03.02.26;Kiosk;Zeitung;-4,20\n";
+        QTest::newRow("as guessed") << QByteArray(plain) << nothing << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
+        QTest::newRow("another amount") << QByteArray(plain) << Mean(2, u"Betrag"_s)
+                                        << u"03.02.2026||Bräzeln am Markt|2,00 €|"_s;
+        QTest::newRow("a meaning moves") << QByteArray(plain) << Mean(1, u"Empfänger/Auftraggeber"_s)
+                                         << u"03.02.2026|Bräzeln am Markt||-4,20 €|"_s;
+        QTest::newRow("no day") << QByteArray(plain) << Mean(0, u"nicht lesen"_s) << u"||||"_s;
+        QTest::newRow("character set") << QByteArray(plain) << Take(eField::Charset, u"CP850 (DOS)"_s)
+                                       << u"03.02.2026||Brõzeln am Markt|-4,20 €|"_s;
+        QTest::newRow("no header") << QByteArray(plain)
+                                   << fnChange([](cImportAssistant& assistant) { assistant.SetHeaderLine(0); })
+                                   << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
+        QTest::newRow("header further down")
+            << QByteArray(plain) << fnChange([](cImportAssistant& assistant) { assistant.SetHeaderLine(3); })
+            << u"05.02.2026||Kiosk am Bahnhof|-1,00 €|"_s;
+        QTest::newRow("sign") << QByteArray(plain) << Take(eField::Sign, u"umgekehrt (Ausgaben ohne Minus)"_s)
+                              << u"03.02.2026||Bräzeln am Markt|4,20 €|"_s;
+        QTest::newRow("German number") << dollars << Take(eField::Number, u"1.234,50"_s)
+                                       << u"02.03.2026||Lunch|1,23 €|"_s;
+        QTest::newRow("English number") << dollars << Take(eField::Number, u"1,234.50"_s)
+                                        << u"02.03.2026||Lunch|1.234,00 €|"_s;
+        QTest::newRow("month first") << dollars << Take(eField::Date, u"Monat, Tag, Jahr"_s)
+                                     << u"03.02.2026||Lunch|1,23 €|"_s;
+        QTest::newRow("separator") << QByteArray("Datum|Text|Betrag\n03.02.2026|Kiosk|-4,20\n")
+                                   << Take(eField::Separator, u"senkrechter Strich"_s)
+                                   << u"03.02.2026||Kiosk|-4,20 €|"_s;
+        QTest::newRow("two-digit year") << dkb << nothing << u"03.02.2026|Kiosk|Zeitung|-4,20 €|"_s;
+        QTest::newRow("taken back") << QByteArray(plain) << fnChange([](cImportAssistant& assistant) {
+            assistant.SetHeaderLine(3);
+            assistant.Reset();
+        }) << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
+    }
+
+    void showsWhatAChoiceDoes()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(fnChange, change);
+        QFETCH(QString, row);
+        cPage page;
+        page.IsConfirmed = false;
+        QString shown;
+        page.Answer = [&](cImportAssistant& assistant) {
+            change(assistant);
+            const cImportAssistant::cRow first = assistant.Rows().value(0);
+            shown = QStringList{first.Day, first.Name, first.Purpose, first.Amount, first.Remark}.join(u'|');
+        };
+        cNoProgress progress;
+        page.Review.Files().ImportFiles({page.Write(u"a.csv"_s, file)}, progress, cStatementFiles::eAssist::Always);
+        QCOMPARE(shown.replace(u'\u00A0', u' '), row);
+        QCOMPARE(page.Data.GetImportEntries().size(), 0); // the user gave up
+    }
+
+    void saysWhatIsMissing()
+    {
+        cPage page;
+        page.IsConfirmed = false;
+        page.Answer = [](cImportAssistant& assistant) {
+            QCOMPARE(assistant.Problem(),
+                     u"Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen."_s);
+            QCOMPARE(assistant.Accounts(), QStringList(u"4711"_s));
+            assistant.SetAccount(u" DE89 3704 0044 0532 0130 00 "_s);
+            QVERIFY(assistant.CanImport());
+            QCOMPARE(assistant.BankCode(), u"37040044"_s);
+            QVERIFY2(assistant.CountText().contains(u"3 Umsätze neu"_s)
+                         || assistant.CountText().contains(u"2 Umsätze neu"_s),
+                     qPrintable(assistant.CountText()));
+            Mean(0, u"nicht lesen"_s)(assistant);
+            QVERIFY(assistant.Problem().startsWith(u"In der Datei sind keine Spalten"));
+        };
+        page.Import({page.Write(u"a.csv"_s, plain)});
+        QCOMPARE(page.Opened, 1);
+        QVERIFY(page.User.Shown.isEmpty()); // giving up is no fault
+        QVERIFY(page.Review.Summary().first().startsWith(u"a.csv: nicht eingelesen."));
+    }
+
+    // One answer holds for all files of the layout, now and later; another layout is asked about.
+    void asksOncePerLayout()
+    {
+        cPage page;
+        page.Answer = [](cImportAssistant& assistant) {
+            Mean(4, u"Stand (vorgemerkt, gebucht)"_s)(assistant);
+            assistant.SetAccount(u"4711"_s);
+            assistant.SetBankCode(u"12030000"_s);
+        };
+        const QString first = page.Write(u"1.csv"_s, plain);
+        const QString second = page.Write(u"2.csv"_s,
+                                          "Tag;Was;Preis;Wert;Stand\n06.02.2026;Bäcker;1,00;-2,00;gebucht\n"
+                                          "07.02.2026;Kino;1,00;-9,00;vorgemerkt\n");
+        page.Import({first, second});
+        QCOMPARE(page.Opened, 1);
+        QCOMPARE(page.Purposes(), QStringList({u"Bräzeln am Markt"_s, u"Miete"_s, u"Bäcker"_s}));
+        page.Import({second});
+        QCOMPARE(page.Opened, 1);
+        QCOMPARE(page.Data.GetImportEntries().size(), 3);
+        page.Import({page.Write(u"3.csv"_s, "Tag;Wert;Grund\n06.02.2026;-2,00;Bäcker\n")});
+        QCOMPARE(page.Opened, 2);
+        page.Answer = [](cImportAssistant& assistant) { // what was chosen can be seen and changed again
+            QVERIFY(assistant.FormatText().contains(u"wie beim letzten Mal"));
+            QCOMPARE(assistant.Account(), u"4711"_s);
+            QCOMPARE(assistant.BankCode(), u"12030000"_s);
+        };
+        cNoProgress progress;
+        page.Review.Files().ImportFiles({first}, progress, cStatementFiles::eAssist::Always);
+        QCOMPARE(page.Opened, 3);
+    }
+
+    // A known layout with other columns stays a known layout in all else.
+    void knownLayoutsCanBeChanged()
+    {
+        cPage page;
+        page.Answer = [](cImportAssistant& assistant) {
+            QVERIFY2(assistant.FormatText().contains(u"PayPal"), qPrintable(assistant.FormatText()));
+            Mean(3, u"Verwendungszweck"_s)(assistant);
+            assistant.SetAccount(u"4711"_s);
+        };
+        cNoProgress progress;
+        const QString paypal = QStringLiteral(TEST_DATA "/csv/paypal.csv");
+        page.Review.Files().ImportFiles({paypal}, progress, cStatementFiles::eAssist::Always);
+        const QStringList changed = page.Purposes();
+        QVERIFY(!changed.isEmpty());
+        page.Import({paypal}); // through the memory alone: also what the layout leaves out
+        QCOMPARE(page.Opened, 1);
+        QCOMPARE(page.Purposes(), changed);
+    }
+
+    void optionsHold()
+    {
+        cPage page;
+        page.Answer = [](cImportAssistant& assistant) {
+            QVERIFY(!assistant.AsksAccount() && !assistant.IsTable());
+            assistant.SetAvoidsDuplicates(false);
+        };
+        cNoProgress progress;
+        const QString file = QStringLiteral(TEST_DATA "/mt940/giro.sta");
+        for (int run = 0; run < 2; ++run) {
+            page.Review.Files().ImportFiles({file}, progress, cStatementFiles::eAssist::Always);
+        }
+        QCOMPARE(page.Data.GetImportEntries().size(), 10);
+    }
+
+    // Of a long table only the beginning is tried, of a statement with a beginning and an end all of it.
+    void longFilesCanBeTried()
+    {
+        cPage page;
+        page.IsConfirmed = false;
+        QStringList texts;
+        page.Answer = [&](cImportAssistant& assistant) {
+            assistant.SetAccount(u"4711"_s);
+            texts.append(assistant.Problem() + assistant.CountText().section(u' ', 0, 0));
+        };
+        const QByteArray entry = "<STMTTRN><TRNTYPE>DEBIT<DTPOSTED>20260203<TRNAMT>-1.00<FITID>1<MEMO>";
+        QByteArray ofx = "OFXHEADER:100\n<OFX><BANKMSGSRSV1><STMTTRNRS><STMTRS><CURDEF>EUR<BANKACCTFROM><BANKID>1"
+                         "<ACCTID>2</BANKACCTFROM><BANKTRANLIST>\n";
+        ofx += entry + QByteArray(600'000, 'x') + "</STMTTRN>\n" + entry + "y</STMTTRN>\n";
+        ofx += "</BANKTRANLIST></STMTRS></STMTTRNRS></BANKMSGSRSV1></OFX>\n";
+        QByteArray csv = "Datum;Text;Betrag\n";
+        for (int i = 0; i < 20'000; ++i) {
+            csv += "03.02.2026;Einkauf Nummer " + QByteArray::number(i) + " am Markt;-1,00\n";
+        }
+        cNoProgress progress;
+        page.Review.Files().ImportFiles({page.Write(u"a.ofx"_s, ofx), page.Write(u"a.csv"_s, csv)}, progress,
+                                        cStatementFiles::eAssist::Always);
+        QCOMPARE(texts.value(0), u"2"_s);
+        QVERIFY(texts.value(1).toInt() > 5'000 && texts.value(1).toInt() < 20'000);
+    }
+
+    void readsAgain()
+    {
+        cPage page;
+        page.Import({page.Write(u"a.csv"_s, plain)});
+        QCOMPARE(page.Purposes().size(), 3);
+        const int booked = page.Data.GetImportEntries().first().ID;
+        cNoProgress progress;
+        page.Review.Book({booked}, progress);
+        page.Answer = Mean(2, u"Betrag"_s);
+        QVERIFY(page.Review.Files().CanReadAgain());
+        page.Review.Files().ReadAgain(progress);
+        const cImportEntryList rows = page.Data.GetImportEntries();
+        QCOMPARE(rows.size(), 4); // the booked one stays
+        QCOMPARE(rows.first().ID, booked);
+        QCOMPARE(rows.last().ImportValue, 4.0);
+        QVERIFY(page.Data.Undo());
+        QCOMPARE(page.Data.GetImportEntries().size(), 3);
+        QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -1.0);
+        page.IsConfirmed = false;
+        page.Review.Files().ReadAgain(progress);
+        QCOMPARE(page.Data.GetImportEntries().size(), 3);
+    }
+
+    void aStoppedFileBringsNothing()
+    {
+        cPage page;
+        cStopped progress;
+        page.Review.Files().ImportFiles({QStringLiteral(TEST_DATA "/mt940/giro.sta")}, progress);
+        QCOMPARE(page.Data.GetImportEntries().size(), 0);
+        QCOMPARE(page.Review.Summary(), QStringList(u"giro.sta: abgebrochen, nichts davon übernommen."_s));
+        QVERIFY(page.Data.UndoName().isEmpty());
+    }
+
+    void pendingRowsCanBeTaken()
+    {
+        cPage page;
+        page.Answer = [](cImportAssistant& assistant) {
+            assistant.SetAccount(u"4711"_s);
+            Mean(4, u"Stand (vorgemerkt, gebucht)"_s)(assistant);
+            QVERIFY(assistant.LeftOut().first().startsWith(u"Zeile 4: Der Umsatz ist noch vorgemerkt"));
+        };
+        page.Import({page.Write(u"a.csv"_s, plain)});
+        QCOMPARE(page.Review.Files().LeftOut().size(), 1);
+        QVERIFY(page.Review.Files().LeftOut().first().endsWith(u"vorgemerkt"));
+        page.Review.Files().StageLeftOut({0});
+        QCOMPARE(page.Purposes().value(2), u"Kiosk am Bahnhof"_s);
+        QCOMPARE(page.Data.GetImportEntries().last().ImportAccount, u"4711"_s);
+    }
+
+    void offersAllStatements()
+    {
+        cPage page;
+        cNoProgress progress;
+        page.Review.Files().ChooseFiles(progress);
+        const QStringList filter = page.User.Asked.value(0).split(u'|');
+        QCOMPARE(filter.value(0), u"CSV/XLS/MT940/MT942/OFX/QIF-Datei"_s);
+        QCOMPARE(filter.value(1), u"*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif"_s);
+        QVERIFY(filter.value(3).contains(u"*.sta;") && filter.value(3).contains(u"*.zip;"));
+        QCOMPARE(filter.last(), u"*.*"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(testImportAssistant)
+#include "testImportAssistant.moc"

@@ -1,0 +1,127 @@
+#include "core/cSettings.h"
+#include "support/testBook.h"
+#include "views/cImportRuns.h"
+#include "views/modStagedTwins.h"
+
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using fnChange = std::function<void(cImportEntry&)>;
+
+// What a bank writes in one format.
+cImportEntry First()
+{
+    cImportEntry row;
+    row.ID = 1;
+    row.ImportAccount = u"DE12999000104711000815"_s;
+    row.ImportDate = QDate(2026, 3, 2);
+    row.ImportBeneficiary = u"Stadtwerke Talheim"_s;
+    row.ImportBeneficiaryAccount = u"DE02120300000000202051"_s;
+    row.ImportPurpose = u"Abschlag März"_s;
+    row.ImportValue = -84.5;
+    return row;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(fnChange)
+
+class testStagedTwins final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void finds_data()
+    {
+        QTest::addColumn<fnChange>("Change"); // of the same transaction in the words of another file
+        QTest::addColumn<int>("Found");       // 0: not, 1: by the account, 2: by the name
+        const auto add = [](const char* name, int found, const fnChange& change) {
+            QTest::newRow(name) << change << found;
+        };
+        add("other words", 1, [](auto& row) { row.ImportBeneficiary = u"SWT"_s; });
+        add("number instead of IBAN", 1, [](auto& row) { row.ImportBeneficiaryAccount = u"202051"_s; });
+        add("another number of the same own account", 1, [](auto& row) { row.ImportAccount = u"4711000815"_s; });
+        add("another own account", 0, [](auto& row) { row.ImportAccount = u"99"_s; });
+        add("another counterparty", 0, [](auto& row) { row.ImportBeneficiaryAccount = u"202052"_s; });
+        add("another day", 0, [](auto& row) { row.ImportDate = row.ImportDate.addDays(1); });
+        add("another amount", 0, [](auto& row) { row.ImportValue = -84.51; });
+        add("the other way round", 0, [](auto& row) { row.ImportValue = 84.5; });
+        add("no account, a name that is cut off", 2, [](auto& row) {
+            row.ImportBeneficiaryAccount.clear();
+            row.ImportBeneficiary = u"STADTWERKE TAL"_s;
+        });
+        add("no account, another name", 0, [](auto& row) {
+            row.ImportBeneficiaryAccount.clear();
+            row.ImportBeneficiary = u"Bäckerei Kornblume"_s;
+        });
+        add("no account, no name but in the purpose", 2, [](auto& row) {
+            row.ImportBeneficiaryAccount.clear();
+            row.ImportBeneficiary.clear();
+            row.ImportPurpose = u"Stadtwerke Talheim Abschlag"_s;
+        });
+        add("of the same file", 0, [](auto& row) { row.ID = 3; });
+        add("taken twice on purpose", 0, [](auto& row) { row.ImportPurpose = First().ImportPurpose; });
+    }
+
+    void finds()
+    {
+        QFETCH(fnChange, Change);
+        QFETCH(int, Found);
+        cImportEntry other = First();
+        other.ID = 10;
+        other.ImportPurpose = u"ABSCHLAG 03/26"_s;
+        Change(other);
+        const auto twins = modStagedTwins::Find(
+            {First(), other},
+            {.AccountOf = [](const QString& number) { return number.endsWith(u"4711000815") ? u"Giro"_s : QString(); },
+             .FileOf = [](int id) { return id < 5 ? 1 : 2; }});
+        const auto twin = twins.constFind(1);
+        QCOMPARE(twin == twins.constEnd() ? 0 : twin->Same == modStagedTwins::eSame::Counterparty ? 1 : 2, Found);
+        QCOMPARE(twins.contains(other.ID), Found != 0);
+    }
+
+    void aBookedRowIsNotMarkedButNamed()
+    {
+        cImportEntry open = First();
+        cImportEntry booked = First();
+        booked.ID = 9;
+        booked.ImportAssigned = true;
+        booked.ImportPurpose = u"x"_s;
+        cImportEntry third = First();
+        third.ID = 5;
+        third.ImportPurpose = u"y"_s;
+        const auto twins = modStagedTwins::Find(
+            {open, third, booked},
+            {.AccountOf = [](const QString& number) { return number; }, .FileOf = [](int) { return 0; }});
+        QCOMPARE(twins.size(), 2);
+        QCOMPARE(twins.value(1).RowId, 9); // rather than the other open one
+    }
+
+    void remembersWhatCameTogether()
+    {
+        using cRange = cImportRuns::cRange;
+        cTestBook book;
+        cImportRuns runs(*book.Settings);
+        QVERIFY(runs.Latest().IsEmpty());
+        runs.NoteImport({1, 2, 3});
+        runs.NoteFile({4, 5});
+        runs.NoteFile({});
+        runs.NoteFile({6});
+        runs.NoteImport({4, 5, 6});
+        QCOMPARE(cImportRuns(*book.Settings).ImportOf(5), (cRange{4, 6}));
+        QCOMPARE(runs.Files(), (QList<cRange>{{1, 3}, {4, 5}, {6, 6}}));
+        QVERIFY(runs.ImportOf(7).IsEmpty());
+        runs.NoteImport({}); // nothing new came
+        QCOMPARE(runs.Latest(), (cRange{4, 6}));
+        runs.NoteImport({4}); // after the last import was undone
+        QCOMPARE(runs.Files(), (QList<cRange>{{1, 3}, {4, 4}}));
+    }
+};
+
+QTEST_GUILESS_MAIN(testStagedTwins)
+#include "testStagedTwins.moc"

@@ -1,0 +1,323 @@
+#include "core/cAmountFormat.h"
+#include "support/cFakeNavigator.h"
+#include "support/testBook.h"
+#include "views/cMainModel.h"
+#include "views/cStatisticsModel.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A year of a household seen on 15 March 2026: rent every month, two purchases, one of which came back in part, salary,
+// a transfer.
+struct cScene
+{
+    cScene()
+    {
+        Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2026, 1, 1);
+            e.EntryInterval = u"Monatlich"_s;
+            e.EntryValue = 70000;
+            e.EntryCategory = u"Wohnung; Miete"_s;
+        });
+        Book.Add([](cEntryItem& e) { e.EntryValue = 5000; });
+        Book.Add([](cEntryItem& e) {
+            e.EntryValue = 2500;
+            e.EntryAccount = u"Bargeld"_s;
+            e.EntryCategory = u"Haushalt; Putz- und Waschmittel (auch Tücher)"_s;
+        });
+        Book.Add([](cEntryItem& e) {
+            e.EntryType = modWord::Einnahme;
+            e.EntryValue = 1000;
+        });
+        Book.Add([](cEntryItem& e) {
+            e.EntryType = modWord::Umbuchung;
+            e.EntryAccountMove = u"Sparkonto"_s;
+            e.EntryCategory = u"Wohnung; Miete"_s;
+        });
+        Main.RestoreView(false);
+        Main.ToggleView(u"ViewFixBooking"_s); // the user looks at one-off entries only
+        Main.ChooseAccount(u"Girokonto"_s);
+        Model.Restore();
+        Model.SetShown(true);
+    }
+
+    [[nodiscard]] QStringList Shown()
+    {
+        QStringList lines;
+        const cEntryListModel& list = Main.Entries();
+        for (int group = 0; group < list.rowCount(); ++group) {
+            lines.append(list.index(group, 0).data(cEntryListModel::NameRole).toString() + u' '
+                         + list.index(group, cEntryListModel::Amount).data(Qt::DisplayRole).toString());
+        }
+        return lines;
+    }
+
+    cTestBook Book;
+    cAmountFormat Format{Book.Configuration};
+    cFakeNavigator Navigator;
+    cMainModel Main{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
+                     Navigator, Book.Path()}};
+    cStatisticsModel Model{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock, Book.Shell, Navigator, Main}};
+};
+
+QString Days(const cViewState& view)
+{
+    return view.Free.Start.toString(u"dd.MM.yyyy"_s) + u'-' + view.Free.End.toString(u"dd.MM.yyyy"_s);
+}
+
+} // namespace
+
+class testStatisticsModel final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void LinksLead_data();
+    void LinksLead();
+    void LinkShowsItsEntriesAndTheWayBack();
+    void SelectionsAreNotStored();
+    void RefundsAreAmongTheEntriesOfALimit();
+    void FreePeriodEndsWithItsLastMonth();
+    void MonthsPushEachOther();
+    void SelectorsAreKept();
+    void WorksOnlyWhileSomebodyLooks();
+    void NewBookShowsItself();
+    void SwitchesOfTheViewCount();
+    void PrintedReportHasNoLinkData();
+    void ClickOnAPartOfAChartShowsItsEntries();
+    void BalancesShowTransfersToo();
+};
+
+void testStatisticsModel::LinksLead_data()
+{
+    QTest::addColumn<QString>("Link");
+    QTest::addColumn<QStringList>("Opened");
+    QTest::addColumn<QStringList>("Pages");
+    QTest::addColumn<bool>("ShowsEntries");
+
+    const QStringList none;
+    QTest::newRow("category") << u"editcategory://Haushalt; Lebensmittel/"_s
+                              << QStringList{u"Kategorien Haushalt; Lebensmittel"_s} << none << false;
+    QTest::newRow("page") << u"HTTP://www.example.org/a"_s << none << QStringList{u"HTTP://www.example.org/a"_s}
+                          << false;
+    QTest::newRow("entries, blanks as codes")
+        << u"SHOWENTRIES://Ausgaben|01.01.2026|31.12.2026|Alle%20Konten|Haushalt;%20Lebensmittel/"_s << none << none
+        << true;
+    QTest::newRow("four fields") << u"SHOWENTRIES://Ausgaben|01.01.2026|31.12.2026|Alle Konten"_s << none << none
+                                 << false;
+    QTest::newRow("printed report") << u"SHOWENTRIES://||||"_s << none << none << false;
+    QTest::newRow("something else") << u"file:///etc/passwd"_s << none << none << false;
+}
+
+void testStatisticsModel::LinksLead()
+{
+    QFETCH(QString, Link);
+    cScene scene;
+    scene.Model.FollowLink(Link);
+    QTEST(scene.Navigator.Opened, "Opened");
+    QTEST(scene.Book.Shell.Pages, "Pages");
+    QTEST(scene.Main.IsSelection(), "ShowsEntries");
+}
+
+void testStatisticsModel::LinkShowsItsEntriesAndTheWayBack()
+{
+    cScene scene;
+    QSignalSpy shown(&scene.Model, &cStatisticsModel::EntriesShown);
+    QSignalSpy chosen(&scene.Model, &cStatisticsModel::NodeChosen);
+    scene.Model.ChooseReport(eReport::Sum);
+    scene.Model.FollowLink(u"SHOWENTRIES://Ausgaben|01.01.2026|31.03.2026|Alle Konten|Wohnung; Miete"_s);
+    QCOMPARE(shown.size(), 1);
+    const auto node = scene.Model.Tree().NodeAt(chosen.constFirst().constFirst().toModelIndex());
+    QCOMPARE(node.Category.value_or(QString()), u"Miete"_s);
+    // The rent comes every month, although the user has hidden such entries, and the transfer does not count.
+    QCOMPARE(scene.Shown(), QStringList{u"Wohnung -2.100,00\u00a0€"_s});
+    const cViewState& view = scene.Main.View();
+    QCOMPARE(view.Period, modWord::FreierZeitraum);
+    QCOMPARE(Days(view), u"01.01.2026-31.03.2026"_s);
+    QCOMPARE(view.Account, modWord::AlleKonten);
+    QCOMPARE(view.Type, modWord::Ausgabe);
+    QCOMPARE(scene.Main.ViewLines().constLast(), u"Auswahl: Ausgaben › Wohnung › Miete"_s);
+
+    // A second one from there: the way back leads to where the user was before the first.
+    scene.Model.FollowLink(
+        u"SHOWENTRIES://Ausgaben|01.01.2026|31.03.2026|Alle Konten|Haushalt; Putz- und Waschmittel (auch Tücher)"_s);
+    QCOMPARE(scene.Shown(), QStringList{u"Haushalt -25,00\u00a0€"_s});
+    scene.Main.GoBack();
+    QVERIFY(!scene.Main.IsSelection());
+    QCOMPARE(scene.Main.View().Account, u"Girokonto"_s);
+    QCOMPARE(scene.Main.View().Period, modWord::AktuellesJahr);
+    QVERIFY(!scene.Main.View().ShowsFix);
+}
+
+void testStatisticsModel::SelectionsAreNotStored()
+{
+    cScene scene;
+    scene.Model.FollowLink(u"SHOWENTRIES://Einnahmen|01.01.2026|31.03.2026|Bargeld|Haushalt; "_s);
+    QVERIFY(scene.Main.IsChecked(u"ViewFixBooking"_s));
+    scene.Main.ChoosePeriod(u"Letzter Monat"_s); // the user looks around from there
+    scene.Main.SaveView();
+    QCOMPARE(scene.Book.Settings->Get(u"MainKonto"_s), u"Girokonto"_s);
+    QCOMPARE(scene.Book.Settings->Get(u"MainZeitraum"_s), modWord::AktuellesJahr);
+    QCOMPARE(scene.Book.Settings->Get(u"MainGruppierung"_s), modWord::KeineGruppierung);
+    QVERIFY(!scene.Book.Settings->GetBool(u"ViewFixBooking"_s));
+    scene.Main.ToggleView(u"ViewFutureBooking"_s); // a switch is meant to last
+    scene.Main.GoBack();
+    QVERIFY(!scene.Main.View().ShowsFuture);
+}
+
+// What the list adds up to is what the report says.
+void testStatisticsModel::RefundsAreAmongTheEntriesOfALimit()
+{
+    cScene scene;
+    std::optional<cTemplateItem> category = scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s);
+    QVERIFY(category);
+    category->TemplateDefaultValue = u"100"_s;
+    QVERIFY(scene.Book.Data.ChangeTemplate(*category));
+    scene.Model.BookChanged();
+    scene.Model.ChooseReport(eReport::Limit);
+    const cReportNode node{eReportKind::Expense, u"Haushalt"_s, u"Lebensmittel"_s};
+    const QModelIndex line = scene.Model.Tree().FindNode(node);
+    QVERIFY(line.isValid());
+    QCOMPARE(line.siblingAtColumn(cReportTreeModel::Amount).data().toString(), u"40,00\u00a0€"_s);
+    scene.Model.ShowNode(node);
+    QCOMPARE(scene.Shown(), QStringList{u"Haushalt -40,00\u00a0€"_s});
+    scene.Model.SetSpending(eReportSpending::Gross);
+    scene.Model.ShowNode(node);
+    QCOMPARE(scene.Shown(), QStringList{u"Haushalt -50,00\u00a0€"_s});
+}
+
+void testStatisticsModel::FreePeriodEndsWithItsLastMonth()
+{
+    cScene scene;
+    scene.Model.ChoosePeriod(modWord::FreierZeitraum);
+    QCOMPARE(scene.Model.Range(), (modPeriod::cRange{QDate(2026, 1, 1), QDate(2026, 12, 31)})); // as shown before
+    scene.Model.ChooseYear(2024);
+    scene.Model.ChooseLastMonth(2);
+    QCOMPARE(scene.Model.Range(), (modPeriod::cRange{QDate(2024, 1, 1), QDate(2024, 2, 29)}));
+    QVERIFY(scene.Model.Html().contains(u" vom 01.01.2024 bis 29.02.2024"_s));
+}
+
+void testStatisticsModel::MonthsPushEachOther()
+{
+    cStatisticsPeriod period{modWord::FreierZeitraum, 3, 5, 2026};
+    period.ChooseFirst(9);
+    QCOMPARE(period.LastMonth, 9);
+    period.ChooseLast(2);
+    QCOMPARE(period.FirstMonth, 2);
+}
+
+void testStatisticsModel::SelectorsAreKept()
+{
+    cScene scene;
+    scene.Model.ChooseReport(eReport::Limit);
+    scene.Model.ChooseAccount(u"Bargeld"_s);
+    scene.Model.ChoosePeriod(modWord::FreierZeitraum);
+    scene.Model.ChooseFirstMonth(4);
+    scene.Model.SetOrder(eReportOrder::ByAmount);
+    scene.Model.SetZoom(150);
+    scene.Model.SecondChart().ChooseKind(eChartKind::Balances);
+    scene.Model.SecondChart().ChooseCompare(cStatisticsChart::eCompare::YearBefore);
+    scene.Model.SecondChart().ChoosePeriod(u"Letztes Quartal"_s);
+
+    cStatisticsModel again({scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.User, scene.Book.Clock,
+                            scene.Book.Shell, scene.Navigator, scene.Main});
+    again.Restore();
+    QCOMPARE(again.Wish().Type, eReport::Limit);
+    QCOMPARE(again.Wish().Account, u"Bargeld"_s);
+    QCOMPARE(again.Range(), (modPeriod::cRange{QDate(2026, 4, 1), QDate(2026, 12, 31)}));
+    QCOMPARE(again.Wish().Order, eReportOrder::ByAmount);
+    QCOMPARE(again.Zoom(), 150);
+    QCOMPARE(again.SecondChart().Kind(), eChartKind::Balances);
+    QCOMPARE(again.SecondChart().Wish().Second->Start, QDate(2024, 10, 1));
+    QCOMPARE(again.SecondChart().Wish().Account, u"Bargeld"_s);
+    QCOMPARE(again.FirstChart().Kind(), eChartKind::ExpensePie);
+}
+
+void testStatisticsModel::WorksOnlyWhileSomebodyLooks()
+{
+    cScene scene;
+    scene.Model.SetShown(false);
+    QSignalSpy report(&scene.Model, &cStatisticsModel::ReportChanged);
+    QSignalSpy chart(&scene.Model.FirstChart(), &cStatisticsChart::Changed);
+    scene.Book.Add([](cEntryItem& e) { e.EntryValue = 9900; });
+    scene.Model.BookChanged();
+    QCOMPARE(report.size() + chart.size(), 0);
+    scene.Model.SetShown(true);
+    QCOMPARE(report.size(), 1);
+    QCOMPARE(chart.size(), 0);
+    scene.Model.ChoosePage(cStatisticsModel::ePage::Charts);
+    QCOMPARE(chart.size(), 1);
+    scene.Model.ChoosePage(cStatisticsModel::ePage::Report);
+    QCOMPARE(report.size(), 1); // nothing has changed meanwhile
+}
+
+void testStatisticsModel::NewBookShowsItself()
+{
+    cScene scene;
+    const QString before = scene.Model.Html();
+    scene.Book.Add([](cEntryItem& e) { e.EntryValue = 9900; });
+    scene.Model.BookChanged();
+    QVERIFY(scene.Model.Html() != before);
+    scene.Model.ChooseAccount(u"Bargeld"_s);
+    QVERIFY(scene.Model.Html().contains(u"für Konto 'Bargeld' vom"_s));
+}
+
+void testStatisticsModel::SwitchesOfTheViewCount()
+{
+    cScene scene;
+    scene.Book.Settings->SetBool(u"ViewFutureBooking"_s, false);
+    scene.Model.Restore();
+    scene.Model.ChooseReport(eReport::Sum);
+    QVERIFY(scene.Model.Html().contains(u"2.100,00"_s)); // three rents up to today
+    scene.Book.Settings->SetBool(u"ViewFutureBooking"_s, true);
+    scene.Model.ViewChanged();
+    QVERIFY(scene.Model.Html().contains(u"8.400,00"_s));
+}
+
+void testStatisticsModel::PrintedReportHasNoLinkData()
+{
+    cScene scene;
+    QVERIFY(scene.Model.Html().contains(u"SHOWENTRIES://Ausgaben|"_s));
+    const QString printed = scene.Model.PrintHtml();
+    QVERIFY(printed.contains(u"href=\"SHOWENTRIES://||||\""_s));
+    QVERIFY(!printed.contains(u"SHOWENTRIES://Ausgaben"_s));
+}
+
+void testStatisticsModel::ClickOnAPartOfAChartShowsItsEntries()
+{
+    cScene scene;
+    scene.Model.ChoosePage(cStatisticsModel::ePage::Charts);
+    cStatisticsChart& chart = scene.Model.FirstChart();
+    const auto seriesOf = [&](const QString& name) {
+        const QList<cChartSeries>& all = chart.Data().Series;
+        const auto found =
+            std::find_if(all.begin(), all.end(), [&](const cChartSeries& series) { return series.Name == name; });
+        return static_cast<int>(found - all.begin());
+    };
+    QVERIFY(!chart.Click(seriesOf(u"Wohnung"_s), 0)); // goes down first
+    const std::optional<cChartTarget> target = chart.Click(seriesOf(u"Miete"_s), 0);
+    QVERIFY(target);
+    scene.Model.ShowTarget(chart, *target);
+    QCOMPARE(scene.Shown(), QStringList{u"Wohnung -8.400,00\u00a0€"_s}); // twelve rents
+    QVERIFY(!chart.Data().BackText.isEmpty());
+    chart.GoUp();
+    QVERIFY(chart.Data().BackText.isEmpty());
+}
+
+void testStatisticsModel::BalancesShowTransfersToo()
+{
+    cScene scene;
+    scene.Model.FirstChart().ChooseKind(eChartKind::Balances);
+    cChartTarget target{cChartTarget::eKind::Entries};
+    target.Account = u"Sparkonto"_s;
+    target.Range = {QDate(2026, 3, 10), QDate(2026, 3, 10)};
+    scene.Model.ShowTarget(scene.Model.FirstChart(), target);
+    QCOMPARE(scene.Shown(), QStringList{u"Wohnung 10,00\u00a0€"_s});
+}
+
+QTEST_GUILESS_MAIN(testStatisticsModel)
+#include "testStatisticsModel.moc"
