@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/cAccountListModel.h"
+#include "windows/modIcon.h"
 #include "windows/modTone.h"
 
 #include <QBoxLayout>
@@ -36,8 +37,23 @@ protected:
         }
         if (kind == cAccountListModel::Group) {
             option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
+        } else if (index.data(cAccountListModel::WarningRole).toBool()) {
+            MarkWarning(*option, index);
         } else if (index.data(cAccountListModel::ToneRole).toBool()) {
             option->palette.setColor(QPalette::Text, modTone::Expense(option->palette));
+        }
+    }
+
+private:
+    // A sign beside the amount, so that nothing hangs on the colour alone.
+    static void MarkWarning(QStyleOptionViewItem& option, const QModelIndex& index)
+    {
+        option.palette.setColor(QPalette::Text, modTone::Warning(option.palette));
+        if (index.column() == cAccountListModel::Balance) {
+            static const QIcon sign = modIcon::Get(QStringLiteral("warnung"));
+            option.features |= QStyleOptionViewItem::HasDecoration;
+            option.icon = sign;
+            option.decorationSize = QSize(option.fontMetrics.height(), option.fontMetrics.height());
         }
     }
 };

@@ -4,10 +4,10 @@
 #include "views/cListLayout.h"
 #include "windows/cEntryDelegate.h"
 #include "windows/modEmptyText.h"
+#include "windows/modGroupHead.h"
 
 #include <QHeaderView>
 #include <QMenu>
-#include <QPainter>
 
 #include <algorithm>
 #include <array>
@@ -291,29 +291,7 @@ void cEntryTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, 
         QTreeView::drawRow(painter, option, index);
         return;
     }
-    // The head of a group: its name runs over the columns up to the sum.
-    const QRect row = option.rect;
-    const bool isSelected = selectionModel()->isSelected(index);
-    painter->fillRect(row, isSelected ? option.palette.highlight() : option.palette.button());
-    QStyleOption arrow;
-    arrow.rect = QRect(row.left() + 2, row.top(), row.height(), row.height());
-    arrow.palette = option.palette;
-    arrow.state = QStyle::State_Enabled;
-    const QStyle::PrimitiveElement shape =
-        isExpanded(index) ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight;
-    style()->drawPrimitive(shape, &arrow, painter, this);
-    QFont font = option.font;
-    font.setBold(true);
-    painter->setFont(font);
-    painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::ButtonText));
-    const int sumLeft = columnViewportPosition(cEntryListModel::Amount);
-    const int sumWidth = columnWidth(cEntryListModel::Amount) - 6;
-    const QString sum = index.siblingAtColumn(cEntryListModel::Amount).data().toString();
-    painter->drawText(QRect(sumLeft, row.top(), sumWidth, row.height()), Qt::AlignRight | Qt::AlignVCenter, sum);
-    const int left = arrow.rect.right() + 4;
-    const int width = sumLeft > left ? sumLeft - left - 8 : row.right() - left;
-    const QString name = painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, width);
-    painter->drawText(QRect(left, row.top(), width, row.height()), Qt::AlignLeft | Qt::AlignVCenter, name);
+    modGroupHead::Paint(*this, *painter, option, index, cEntryListModel::Amount);
 }
 
 void cEntryTree::paintEvent(QPaintEvent* event)

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "views/cAccountStatement.h"
 #include "views/cEntryListModel.h"
 #include "views/cMainModel.h"
 #include "views/modViewText.h"
@@ -59,38 +60,64 @@ cListPrinter::cListPrinter(const cEntryListModel& model, const QList<int>& colum
     TakeRows(model, columns);
 }
 
+cListPrinter::cListPrinter(const cAccountStatement& statement) : m_head(HeadOf(statement))
+{
+    using eColumn = cAccountStatement::eColumn;
+    const QList<int> columns{eColumn::Day, eColumn::Counterparty, eColumn::Purpose, eColumn::Amount, eColumn::Balance};
+    for (const int column : columns) {
+        const bool isMoney = column == eColumn::Amount || column == eColumn::Balance;
+        m_columns.Add({statement.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                       column == eColumn::Amount, isMoney, isMoney || column == eColumn::Day});
+    }
+    for (int row = 0; row < statement.rowCount(); ++row) {
+        TakeRow(statement.index(row, 0), columns);
+    }
+}
+
 cListPrinter::~cListPrinter() = default;
+
+cListPrinter::cHead cListPrinter::HeadOf(const cAccountStatement& statement)
+{
+    return {statement.Title(),
+            statement.Lines() + statement.Findings(),
+            cText::Tr("Kontorelle, {0}", {modDate::ToGerman(statement.Today())}),
+            {{cText::Tr("Einnahmen"), statement.IncomeText()},
+             {cText::Tr("Ausgaben"), statement.ExpenseText()},
+             {cText::Tr("Summe"), statement.TotalText()}}};
+}
 
 cListPrinter::cHead cListPrinter::HeadOf(const cMainModel& model)
 {
     return {modViewText::Title(model.View()),
-            modViewText::Lines(model.View(), model.ShownRange()),
+            model.ViewLines(),
             cText::Tr("Kontorelle, {0}", {modDate::ToGerman(model.Today())}),
             {{cText::Tr("Einnahmen"), model.IncomeText()},
              {cText::Tr("Ausgaben"), model.ExpenseText()},
              {cText::Tr("Summe"), model.TotalText()}}};
 }
 
+void cListPrinter::TakeRow(const QModelIndex& index, const QList<int>& columns)
+{
+    cRow row;
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        const QString text = index.siblingAtColumn(columns.at(i)).data().toString();
+        row.Cells.append(m_columns.All()[static_cast<std::size_t>(i)].IsMoney ? text : Breakable(text));
+    }
+    m_rows.push_back(row);
+}
+
 void cListPrinter::TakeRows(const cEntryListModel& model, const QList<int>& columns)
 {
-    const auto takeRow = [&](const QModelIndex& index) {
-        cRow row;
-        for (const int column : columns) {
-            const QString text = index.siblingAtColumn(column).data().toString();
-            row.Cells.append(IsMoneyColumn(column) ? text : Breakable(text));
-        }
-        m_rows.push_back(row);
-    };
     for (int top = 0; top < model.rowCount(); ++top) {
         const QModelIndex index = model.index(top, 0);
         if (!model.IsGrouped()) {
-            takeRow(index);
+            TakeRow(index, columns);
             continue;
         }
         m_rows.push_back(
             {{index.data().toString(), index.siblingAtColumn(cEntryListModel::Amount).data().toString()}, true});
         for (int row = 0; row < model.rowCount(index); ++row) {
-            takeRow(model.index(row, 0, index));
+            TakeRow(model.index(row, 0, index), columns);
         }
     }
 }
@@ -128,7 +155,11 @@ qreal cListPrinter::RowHeight(const cRow& row) const
 
 qreal cListPrinter::HeadHeight() const
 {
-    return m_text->TitleHeight() + static_cast<qreal>(m_head.View.size()) * m_text->LineHeight() + m_text->Points(10);
+    qsizetype lines = 0;
+    for (const QString& line : m_head.View) {
+        lines += m_text->Wrap(line, m_area.width()).size();
+    }
+    return m_text->TitleHeight() + static_cast<qreal>(lines) * m_text->LineHeight() + m_text->Points(10);
 }
 
 qreal cListPrinter::ColumnHeadHeight() const
@@ -239,8 +270,11 @@ void cListPrinter::PaintHead(QPainter& painter, qreal& y) const
     y += m_text->TitleHeight();
     painter.setFont(m_text->Text());
     for (const QString& line : m_head.View) {
-        DrawLeft(painter, m_area.left(), y, m_text->LineHeight(), m_text->Wrap(line, m_area.width()).constFirst());
-        y += m_text->LineHeight();
+        const QStringList wrapped = m_text->Wrap(line, m_area.width());
+        for (const QString& part : wrapped) {
+            DrawLeft(painter, m_area.left(), y, m_text->LineHeight(), part);
+            y += m_text->LineHeight();
+        }
     }
     y += m_text->Points(10);
 }

@@ -11,10 +11,11 @@
 #include <memory>
 #include <vector>
 
+class cAccountStatement;
 class cEntryListModel;
 class cMainModel;
 
-// The entry list on paper: title and view at the top, column heads on every page, groups with their sums, and the sums
+// A list on paper: title and view at the top, column heads on every page, groups with their sums, and the sums
 // of the list at the end. Black on white, whatever the program looks like. Takes its texts out of the model at once.
 class cListPrinter final : public cPrintable
 {
@@ -36,6 +37,8 @@ public:
     // What the main window looks at, in words.
     [[nodiscard]] static cHead HeadOf(const cMainModel& model);
 
+    // The statement of a bank account as it is shown.
+    explicit cListPrinter(const cAccountStatement& statement);
     // `columns` of the model in the order in which they are printed.
     cListPrinter(const cEntryListModel& model, const QList<int>& columns, cHead head);
     ~cListPrinter() override;
@@ -60,6 +63,8 @@ private:
     class cFlow;
 
     void TakeRows(const cEntryListModel& model, const QList<int>& columns);
+    void TakeRow(const QModelIndex& index, const QList<int>& columns);
+    [[nodiscard]] static cHead HeadOf(const cAccountStatement& statement);
     void BreakPages();
     [[nodiscard]] qreal RowHeight(const cRow& row) const;
     [[nodiscard]] qreal HeadHeight() const; // of title and view, on the first page

@@ -2,7 +2,9 @@
 
 #include "base/cText.h"
 
+#include <QEventLoop>
 #include <QProgressDialog>
+#include <QThread>
 
 cProgressBox::cProgressBox(QWidget* parent, const QString& text)
     : m_dialog(std::make_unique<QProgressDialog>(text, cText::Tr("Abbrechen"), 0, 0, parent))
@@ -25,6 +27,23 @@ void cProgressBox::showProgressBar(int maximum)
 void cProgressBox::addProgressValue(int steps)
 {
     m_dialog->setValue(qMin(m_dialog->value() + steps, m_dialog->maximum()));
+}
+
+void cProgressBox::Run(const std::function<void()>& work)
+{
+    const std::unique_ptr<QThread> thread(QThread::create(work));
+    QEventLoop loop;
+    QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    // The work itself cannot be stopped; the box stays until it has ended, and nothing of it is used then.
+    QObject::connect(m_dialog.get(), &QProgressDialog::canceled, &loop, [this] { m_dialog->show(); });
+    thread->start();
+    // Until the box keeps the user's hands off the program, nothing may reach it.
+    if (!thread->wait(static_cast<unsigned long>(m_dialog->minimumDuration()))) {
+        m_dialog->setRange(0, 0);
+        m_dialog->show();
+        loop.exec();
+        thread->wait();
+    }
 }
 
 void cProgressBox::hideProgressBar()

@@ -19,6 +19,7 @@ public:
 
     void showProgressBar(int maximum) override;
     void addProgressValue(int steps) override;
+    void Run(const std::function<void()>& work) override;
     void hideProgressBar() override;
     [[nodiscard]] bool IsCancelled() const override;
 

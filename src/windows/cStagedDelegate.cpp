@@ -22,7 +22,10 @@ void cStagedDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
 {
     QStyledItemDelegate::initStyleOption(option, index);
     const int tone = index.column() == cStagedListModel::Amount ? index.data(cStagedListModel::ToneRole).toInt() : 0;
-    if (index.data(cStagedListModel::BookedRole).toBool() || index.column() == cStagedListModel::Reason) {
+    const bool saysWhy = index.column() == cStagedListModel::Reason || index.column() == cStagedListModel::State;
+    if (saysWhy && index.data(cStagedListModel::DoubtRole).toBool()) {
+        option->palette.setColor(QPalette::Text, modTone::Expense(option->palette));
+    } else if (index.data(cStagedListModel::BookedRole).toBool() || index.column() == cStagedListModel::Reason) {
         option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
     } else if (tone != 0) {
         const QColor color = tone == 1 ? modTone::Income(option->palette) : modTone::Expense(option->palette);

@@ -4,7 +4,9 @@
 #include "views/cListLayout.h"
 #include "views/cStagedListModel.h"
 #include "windows/modEmptyText.h"
+#include "windows/modGroupHead.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -12,21 +14,29 @@
 
 namespace {
 
-// Widths in average characters of the font, so that they fit at every font size and scale.
-constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{10, 13, 26, 24, 14, 14, 26, 13, 22};
-constexpr int leastPurpose = 16;
+// Widths in average characters of the font, so that they fit at every font size and scale. A column is never narrower
+// than its title.
+constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{9, 14, 26, 32, 13, 12, 26, 11, 24};
 
 bool IsEnter(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+bool IsMenuKey(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
+}
+
 } // namespace
 
 cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
 {
+    // Before the base class hears of it and forgets which line stands where.
+    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cStagedTree::KeepSelection);
     setModel(&m_model);
-    setRootIsDecorated(false);
+    setRootIsDecorated(false); // heads of groups draw their own arrow
+    setIndentation(0);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(false); // the cell with the focus is the one that F2 edits
@@ -43,19 +53,36 @@ cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(p
             FitPurpose();
         }
     });
-    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cStagedTree::KeepSelection);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cStagedTree::RestoreSelection);
+    ConnectGroups();
     SetLayoutText({});
+}
+
+void cStagedTree::ConnectGroups()
+{
+    const auto name = [](const QModelIndex& head) { return head.data(cStagedListModel::NameRole).toString(); };
+    connect(this, &QTreeView::collapsed, this, [=, this](const QModelIndex& head) { m_closed.insert(name(head)); });
+    connect(this, &QTreeView::expanded, this, [=, this](const QModelIndex& head) { m_closed.remove(name(head)); });
+    OpenGroups();
+}
+
+void cStagedTree::ExpandGroups()
+{
+    m_closed.clear();
+    expandToDepth(0);
+}
+
+void cStagedTree::CollapseGroups()
+{
+    for (int group = 0; group < m_model.rowCount(); ++group) {
+        m_closed.insert(m_model.index(group, 0).data(cStagedListModel::NameRole).toString());
+    }
+    collapseAll();
 }
 
 QList<int> cStagedTree::SelectedIds() const
 {
-    QList<int> ids;
-    const QModelIndexList rows = selectionModel()->selectedRows();
-    for (const QModelIndex& row : rows) {
-        ids.append(m_model.IdAt(row));
-    }
-    return ids;
+    return m_model.IdsIn(selectionModel()->selection());
 }
 
 void cStagedTree::SetEmptyText(const QString& title, const QString& hint)
@@ -78,15 +105,25 @@ QString cStagedTree::LayoutText() const
     return layout.ToText();
 }
 
-void cStagedTree::SetLayoutText(const QString& text)
+int cStagedTree::DefaultWidth(int column) const
 {
-    const int character = fontMetrics().averageCharWidth();
-    const cListLayout layout = cListLayout::FromText(text, cStagedListModel::ColumnCount).value_or(cListLayout());
-    m_isFitting = true;
+    const int wanted = defaultWidths.at(static_cast<std::size_t>(column)) * fontMetrics().averageCharWidth();
+    return qMax(wanted, header()->sectionSizeHint(column));
+}
+
+void cStagedTree::SetDefaultColumns()
+{
     for (int column = 0; column < cStagedListModel::ColumnCount; ++column) {
         header()->moveSection(header()->visualIndex(column), column);
-        header()->resizeSection(column, defaultWidths.at(static_cast<std::size_t>(column)) * character);
+        header()->resizeSection(column, DefaultWidth(column));
     }
+}
+
+void cStagedTree::SetLayoutText(const QString& text)
+{
+    const cListLayout layout = cListLayout::FromText(text, cStagedListModel::ColumnCount).value_or(cListLayout());
+    m_isFitting = true;
+    SetDefaultColumns();
     int visual = 0;
     for (const cListLayout::cColumn& column : layout.Columns) {
         header()->moveSection(header()->visualIndex(column.Column), visual++);
@@ -107,51 +144,111 @@ void cStagedTree::FitPurpose()
         return;
     }
     const int others = header()->length() - header()->sectionSize(cStagedListModel::Purpose);
-    const int least = leastPurpose * fontMetrics().averageCharWidth();
     m_isFitting = true;
-    header()->resizeSection(cStagedListModel::Purpose, qMax(least, viewport()->width() - others));
+    header()->resizeSection(cStagedListModel::Purpose,
+                            qMax(DefaultWidth(cStagedListModel::Purpose), viewport()->width() - others));
     m_isFitting = false;
+}
+
+cStagedTree::cLine cStagedTree::LineAt(const QModelIndex& index) const
+{
+    return {m_model.IdAt(index), index.siblingAtColumn(0).data(cStagedListModel::NameRole).toString()};
+}
+
+QModelIndex cStagedTree::IndexOf(const cLine& line) const
+{
+    return line.Id != 0 ? m_model.IndexOf(line.Id) : m_model.HeadNamed(line.Head);
+}
+
+// The line of the same kind below, else the one above: after a row comes a row, after a group the next group.
+QModelIndex cStagedTree::Neighbour(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    if (m_model.IsHead(index)) {
+        const int next = index.row() + 1 < m_model.rowCount() ? index.row() + 1 : index.row() - 1;
+        return m_model.index(next, 0);
+    }
+    QModelIndex below = indexBelow(index);
+    while (m_model.IsHead(below)) {
+        below = indexBelow(below);
+    }
+    QModelIndex above = below.isValid() ? QModelIndex() : indexAbove(index);
+    while (m_model.IsHead(above)) {
+        above = indexAbove(above);
+    }
+    return below.isValid() ? below : above;
 }
 
 void cStagedTree::KeepSelection()
 {
-    m_selected = SelectedIds();
-    m_current = m_model.IdAt(currentIndex());
-    m_currentRow = currentIndex().row();
+    m_kept = {};
+    QItemSelection rows;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        if (!m_model.IsHead(range.topLeft())) {
+            rows.append(range);
+            continue;
+        }
+        for (int head = range.top(); head <= range.bottom(); ++head) {
+            m_kept.Heads.append(LineAt(m_model.index(head, 0)).Head);
+        }
+    }
+    m_kept.Ids = m_model.IdsIn(rows);
+    m_kept.Current = LineAt(currentIndex());
+    m_kept.Column = qMax(0, currentIndex().column());
+    if (m_kept.Ids.size() + m_kept.Heads.size() == 1) {
+        m_kept.Next = LineAt(Neighbour(currentIndex()));
+    }
+}
+
+void cStagedTree::OpenGroups()
+{
+    for (int group = 0; group < m_model.rowCount(); ++group) {
+        const QModelIndex head = m_model.index(group, 0);
+        if (!m_model.IsHead(head)) {
+            return;
+        }
+        if (!m_closed.contains(head.data(cStagedListModel::NameRole).toString())) {
+            expand(head);
+        }
+    }
 }
 
 void cStagedTree::RestoreSelection()
 {
-    const QModelIndexList rows = m_model.IndexesOf(m_selected);
-    const bool isGone = rows.isEmpty() && m_selected.size() == 1 && m_currentRow >= 0;
-    if (isGone && m_model.rowCount() > 0) {
-        // A single row that was booked or deleted hands the selection on, so that Enter works down the list.
-        setCurrentIndex(m_model.index(qMin(m_currentRow, m_model.rowCount() - 1), 0));
+    OpenGroups();
+    const bool wasOne = m_kept.Ids.size() + m_kept.Heads.size() == 1;
+    QItemSelection selection = m_model.SelectionOf(m_kept.Ids);
+    for (const QString& name : std::as_const(m_kept.Heads)) {
+        const QModelIndex head = m_model.HeadNamed(name);
+        if (head.isValid()) {
+            selection.append(QItemSelectionRange(head, head.siblingAtColumn(cStagedListModel::ColumnCount - 1)));
+        }
+    }
+    const QModelIndex current = IndexOf(m_kept.Current);
+    const QModelIndex next = wasOne && selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
+    if (next.isValid()) {
+        // A single line that was booked or deleted hands the selection on, so that Enter works down the list.
+        selectionModel()->setCurrentIndex(next.siblingAtColumn(m_kept.Column),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         return;
     }
-    const QModelIndexList current = m_model.IndexesOf({m_current});
-    if (!current.isEmpty()) {
-        selectionModel()->setCurrentIndex(current.constFirst(), QItemSelectionModel::NoUpdate);
-    }
-    Select(rows);
-}
-
-void cStagedTree::Select(const QModelIndexList& rows)
-{
-    QItemSelection selection;
-    for (const QModelIndex& row : rows) {
-        selection.select(row, row.siblingAtColumn(cStagedListModel::ColumnCount - 1));
+    if (current.isValid()) {
+        selectionModel()->setCurrentIndex(current.siblingAtColumn(m_kept.Column), QItemSelectionModel::NoUpdate);
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
 void cStagedTree::SelectIds(const QList<int>& ids)
 {
-    const QModelIndexList rows = m_model.IndexesOf(ids);
-    if (!rows.isEmpty()) {
-        selectionModel()->setCurrentIndex(rows.constFirst(), QItemSelectionModel::NoUpdate);
-        Select(rows);
-        scrollTo(rows.constFirst());
+    const QItemSelection selection = m_model.SelectionOf(ids);
+    if (!selection.isEmpty()) {
+        const QModelIndex first = selection.constFirst().topLeft();
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+        scrollTo(first);
     }
     setFocus();
 }
@@ -161,7 +258,7 @@ bool cStagedTree::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (key.key() == Qt::Key_Delete || IsEnter(key)) {
+        if (key.key() == Qt::Key_Delete || (IsEnter(key) && key.modifiers() == Qt::NoModifier) || IsMenuKey(key)) {
             event->accept();
             return true;
         }
@@ -175,8 +272,47 @@ void cStagedTree::keyPressEvent(QKeyEvent* event)
         Q_EMIT BookRequested();
     } else if (event->key() == Qt::Key_Delete) {
         Q_EMIT DeleteRequested();
+    } else if (IsMenuKey(*event)) {
+        OpenMenuAtCurrent();
     } else {
         QTreeView::keyPressEvent(event);
+    }
+}
+
+// The arrow of a group opens and closes it and leaves the selection alone.
+void cStagedTree::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex head = indexAt(event->pos()).siblingAtColumn(0);
+    const QRect line(0, visualRect(head).top(), viewport()->width(), visualRect(head).height());
+    if (event->button() == Qt::LeftButton && m_model.IsHead(head)
+        && modGroupHead::ArrowIn(line).contains(event->pos())) {
+        setExpanded(head, !isExpanded(head));
+        return;
+    }
+    QTreeView::mousePressEvent(event);
+}
+
+void cStagedTree::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        OpenMenuAtCurrent();
+    } else {
+        Q_EMIT MenuRequested(event->globalPos());
+    }
+}
+
+void cStagedTree::OpenMenuAtCurrent()
+{
+    const QRect cell = visualRect(currentIndex()).intersected(viewport()->rect());
+    Q_EMIT MenuRequested(viewport()->mapToGlobal(cell.isEmpty() ? QPoint() : cell.bottomLeft()));
+}
+
+void cStagedTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (m_model.IsHead(index)) {
+        modGroupHead::Paint(*this, *painter, option, index, cStagedListModel::Amount);
+    } else {
+        QTreeView::drawRow(painter, option, index);
     }
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QTreeView>
 
 class cStagedListModel;
 
-// The list of bank transactions: keys, columns and the text of its empty state.
+// The list of bank transactions: keys, columns, groups and the text of its empty state.
 class cStagedTree final : public QTreeView
 {
     Q_OBJECT
@@ -13,34 +15,64 @@ class cStagedTree final : public QTreeView
 public:
     explicit cStagedTree(cStagedListModel& model, QWidget* parent = nullptr);
 
-    [[nodiscard]] QList<int> SelectedIds() const;
-    void SelectIds(const QList<int>& ids); // and takes the focus, so that Enter books them
+    [[nodiscard]] QList<int> SelectedIds() const; // with all rows of the groups that are selected
+    void SelectIds(const QList<int>& ids);        // and takes the focus, so that Enter books them
 
     void SetEmptyText(const QString& title, const QString& hint);
     [[nodiscard]] QString LayoutText() const;
     void SetLayoutText(const QString& text); // the default columns for a text that does not fit
 
+    void ExpandGroups();
+    void CollapseGroups();
+
 Q_SIGNALS:
     void BookRequested();
     void DeleteRequested();
+    void MenuRequested(const QPoint& globalPosition);
 
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    // A line as it is found again after the model was rebuilt: a row, or the head of a group.
+    struct cLine
+    {
+        int Id = 0;
+        QString Head;
+    };
+
+    // What is kept while the model is rebuilt.
+    struct cKept
+    {
+        QList<int> Ids; // selected rows
+        QStringList Heads;
+        cLine Current;
+        cLine Next; // takes over when the only selected line is gone
+        int Column = 0;
+    };
+
+    void ConnectGroups();
+    void SetDefaultColumns();
     void FitPurpose(); // the purpose takes the room that the other columns leave
+    [[nodiscard]] int DefaultWidth(int column) const;
+    [[nodiscard]] cLine LineAt(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex IndexOf(const cLine& line) const;
+    [[nodiscard]] QModelIndex Neighbour(const QModelIndex& index) const;
     void KeepSelection();
     void RestoreSelection();
-    void Select(const QModelIndexList& rows);
+    void OpenGroups();
+    void OpenMenuAtCurrent();
 
     cStagedListModel& m_model;
     QString m_emptyTitle;
     QString m_emptyHint;
-    QList<int> m_selected; // while the model is rebuilt
-    int m_current = 0;
-    int m_currentRow = -1;
+    QSet<QString> m_closed; // groups that the user has closed
+    cKept m_kept;
     bool m_isFitting = false;
 };

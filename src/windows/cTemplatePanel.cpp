@@ -212,13 +212,17 @@ void cTemplatePanel::ShowRows(const cTemplateNode* node)
     const bool isMain = node != nullptr && node->Kind == eTemplateNode::Main;
     const bool isAccount = node != nullptr && node->Kind == eTemplateNode::Account;
     const bool isCategory = node != nullptr && !isAccount;
+    SetText(m_limit, isAccount ? cText::Tr("Kontol&imit:") : cText::Tr("&Monatslimit:"));
+    m_limit->setToolTip(
+        isAccount ? cText::Tr("Fällt der Kontostand in den nächsten 60 Tagen darunter, warnt die Kontenliste.")
+                  : QString());
     SetText(m_group, isAccount ? cText::Tr("Gru&ppe:") : cText::Tr("H&auptkategorie:"));
     ShowRow(m_name, node != nullptr);
     ShowRow(m_group, node != nullptr && !isMain);
     ShowRow(m_bookable, isMain);
     ShowRow(m_type, isCategory);
     ShowRow(m_interval, isCategory);
-    ShowRow(m_limit, isCategory);
+    ShowRow(m_limit, node != nullptr);
     ShowRow(m_startRow, isAccount);
     ShowRow(m_numbers, isAccount);
     ShowRow(m_numbersHint, isAccount && !m_numbersHint->text().isEmpty());
@@ -247,7 +251,7 @@ void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& grou
     m_bookable->setChecked(fields.IsBookable);
     ChooseWord(*m_type, fields.Type);
     ChooseWord(*m_interval, fields.Interval);
-    m_limit->setText(isAccount ? QString() : fields.Amount);
+    m_limit->setText(isAccount ? fields.Limit : fields.Amount);
     m_start->setText(isAccount ? fields.Amount : QString());
     m_date->setDate(fields.Date);
     m_numbers->setPlainText(fields.Numbers);
@@ -330,6 +334,7 @@ cTemplateFields cTemplatePanel::Fields() const
     fields.Type = m_type->currentData().toString();
     fields.Interval = m_interval->currentData().toString();
     fields.Amount = isAccount ? m_start->text() : m_limit->text();
+    fields.Limit = isAccount ? m_limit->text() : QString();
     fields.Date = m_date->date();
     fields.Numbers = m_numbers->toPlainText();
     fields.Comment = m_comment->text();

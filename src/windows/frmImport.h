@@ -4,14 +4,9 @@
 #include <QWidget>
 
 class cImportReview;
-class cStagedTree;
+class cStagedPanel;
+class cSummaryText;
 class QAction;
-class QBoxLayout;
-class QCheckBox;
-class QKeySequence;
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 
 // The page of bank statements: reads files, shows what is staged with its proposals, books and deletes.
@@ -25,38 +20,31 @@ public:
     void ChooseFiles(); // lets the user choose statement files and reads them
     void ImportFiles(const QStringList& paths);
 
+    // Opens the window for the rows that came with the same import as this one, or with the latest one for row 0.
+    void ReviewImport(int rowId = 0);
+
+    void ResetLayout(); // of the columns, as the settings have it now
+
 protected:
     void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
-    QBoxLayout* BuildBar();
-    QPushButton* BuildMore();
+    void Build();
     void Connect();
-    void ConnectActions();
-    void AddKey(const QKeySequence& keys, QPushButton* button);
-    void BookSelected();
-    void Match();
-    void AssignSelected();
-    void ReleaseSelected();
-    void DeleteSelected();
-    void TakeChoice(const QModelIndex& index, const QString& text);
+    void SetAssistant();
+    void ChooseWithAssistant();
+    void ReadAgain();
     void ShowRows();
-    void ShowButtons();
+    void ShowStaged(const QList<int>& ids);
     void ShowSummary();
 
     cImportReview& m_review;
     QPushButton* m_import;
-    QPushButton* m_book;
-    QPushButton* m_match;
-    QPushButton* m_assign;
-    QAction* m_release;
-    QAction* m_delete;
-    QCheckBox* m_openOnly;
-    QLineEdit* m_filter;
-    QLabel* m_count;
-    cStagedTree* m_tree;
-    QPlainTextEdit* m_summary;
+    QAction* m_assistant;
+    QAction* m_again;
+    QPushButton* m_reviewImport; // offered while the summary of an import is in sight
+    cStagedPanel* m_panel;
+    cSummaryText* m_summary;
 };

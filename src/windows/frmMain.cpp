@@ -4,6 +4,7 @@
 #include "views/cMainModel.h"
 #include "views/modCommand.h"
 #include "windows/cAccountPanel.h"
+#include "windows/cBackBar.h"
 #include "windows/cEntryTree.h"
 #include "windows/cSumBar.h"
 #include "windows/cViewBar.h"
@@ -17,8 +18,8 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -28,17 +29,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The areas for windows of all screens, the one of `first` in front.
-QList<QRect> FreeAreas(const QScreen& first)
-{
-    QList<QRect> areas{first.availableGeometry()};
-    const QList<QScreen*> screens = first.virtualSiblings();
-    for (const QScreen* screen : screens) {
-        areas.append(screen->availableGeometry());
-    }
-    return areas;
-}
-
 } // namespace
 
 frmMain::frmMain(cMainModel& model, QWidget* parent)
@@ -47,7 +37,9 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_splitter(new QSplitter(this)),
       m_tabs(new QTabWidget(this)),
       m_statements(new QWidget(this)),
+      m_statistics(new QWidget(this)),
       m_accounts(new cAccountPanel(model.AccountList(), this)),
+      m_backBar(new cBackBar(this)),
       m_viewBar(new cViewBar(model, this)),
       m_hint(new QLabel(this)),
       m_tree(new cEntryTree(model.Entries(), this)),
@@ -104,9 +96,11 @@ void frmMain::BuildPages()
 {
     m_tabs->setDocumentMode(true);
     m_tabs->addTab(BuildEntryPage(), cText::Tr("Bu&chungen"));
-    auto* statements = new QVBoxLayout(m_statements);
-    statements->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* page : {m_statements, m_statistics}) {
+        (new QVBoxLayout(page))->setContentsMargins(0, 0, 0, 0);
+    }
     m_tabs->addTab(m_statements, cText::Tr("Kont&oauszüge"));
+    m_tabs->addTab(m_statistics, cText::Tr("Aus&wertung"));
     m_splitter->addWidget(m_accounts);
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(1, 1);
@@ -115,7 +109,7 @@ void frmMain::BuildPages()
     m_splitter->setSizes({character * 42, character * 140});
     setCentralWidget(m_splitter);
     statusBar()->addPermanentWidget(m_database);
-    resize(modPlace::Fitting({character * 205, fontMetrics().height() * 50}, screen()->availableGeometry()));
+    TakeUsualSize();
 }
 
 QWidget* frmMain::BuildEntryPage()
@@ -123,6 +117,7 @@ QWidget* frmMain::BuildEntryPage()
     auto* page = new QWidget(this);
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(8, 8, 8, 4);
+    layout->addWidget(m_backBar);
     layout->addWidget(m_viewBar);
     layout->addWidget(m_hint);
     layout->addWidget(m_tree, 1);
@@ -144,11 +139,12 @@ void frmMain::Connect()
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
     connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) {
-        if (page == 1) {
-            Q_EMIT StatementsShown();
-        }
+        Q_EMIT PageShown(static_cast<ePage>(page));
         m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
     });
+    connect(m_backBar, &cBackBar::BackRequested, this, &frmMain::GoBack);
+    connect(m_backBar, &cBackBar::CloseRequested, &m_model, &cMainModel::GoBack);
+    connect(new QShortcut(QKeySequence(u"Alt+Left"_s), this), &QShortcut::activated, this, &frmMain::GoBack);
     connect(m_hint, &QLabel::linkActivated, this, [this] { m_model.Execute(modCommand::ViewFuture); });
 }
 
@@ -157,7 +153,7 @@ void frmMain::RestoreLayout()
     const cMainModel::cPlacement placement = m_model.RestoreLayout();
     if (placement.Width > 0) {
         const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
-        setGeometry(modPlace::Visible(place, FreeAreas(*screen())));
+        setGeometry(modPlace::Visible(place, modPlace::FreeAreas(*screen())));
     }
     if (placement.State == 2) {
         setWindowState(Qt::WindowMaximized);
@@ -179,6 +175,7 @@ void frmMain::ShowToday()
 
 void frmMain::ShowView()
 {
+    m_backBar->ShowText(m_model.SelectionText());
     m_viewBar->ShowView();
     m_accounts->SetTitle(m_model.BalancesTitle());
     for (const modCommand::cCommand& command : modCommand::All()) {
@@ -213,6 +210,11 @@ void frmMain::ResetLayout()
 {
     m_tree->SetLayoutText({});
     setWindowState(Qt::WindowNoState);
+    TakeUsualSize();
+}
+
+void frmMain::TakeUsualSize()
+{
     const int character = fontMetrics().averageCharWidth();
     resize(modPlace::Fitting({character * 205, fontMetrics().height() * 50}, screen()->availableGeometry()));
 }
@@ -223,14 +225,33 @@ void frmMain::ShowEntry(const cEntryListModel::cKey& key)
     m_tree->setFocus(); // Ctrl+Z in the filter would take back what was typed there
 }
 
-void frmMain::ShowStatements()
+void frmMain::ShowPage(ePage page)
 {
-    m_tabs->setCurrentIndex(1);
+    m_tabs->setCurrentIndex(static_cast<int>(page));
+    if (page == ePage::Entries) {
+        m_tree->setFocus();
+    }
+    if (m_model.IsSelection()) {
+        m_tree->scrollToTop();
+    }
+}
+
+frmMain::ePage frmMain::Page() const
+{
+    return static_cast<ePage>(m_tabs->currentIndex());
+}
+
+void frmMain::GoBack()
+{
+    if (m_model.IsSelection()) {
+        m_model.GoBack();
+        ShowPage(ePage::Statistics);
+    }
 }
 
 void frmMain::ShowColumnMenu()
 {
-    m_tabs->setCurrentIndex(0);
+    ShowPage(ePage::Entries);
     m_tree->ShowColumnMenu();
 }
 
@@ -273,6 +294,6 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event)
 
 void frmMain::dropEvent(QDropEvent* event)
 {
-    ShowStatements();
+    ShowPage(ePage::Statements);
     Q_EMIT FilesDropped(modDrop::Files(*event->mimeData()));
 }

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 class cAccountPanel;
+class cBackBar;
 class cEntryTree;
 class cMainModel;
 class cSumBar;
@@ -17,12 +18,14 @@ class QSplitter;
 class QTabWidget;
 
 // The main window: menus, tool bar and keys from the command table, accounts at the left, the entry list with its
-// selectors and sums, and a page for bank statements.
+// selectors and sums, and pages for bank statements and for statistics.
 class frmMain final : public QMainWindow
 {
     Q_OBJECT
 
 public:
+    enum class ePage { Entries, Statements, Statistics };
+
     explicit frmMain(cMainModel& model, QWidget* parent = nullptr);
 
     // Place and columns as they were; called once before the window is shown.
@@ -31,17 +34,19 @@ public:
     void ShowToday(); // scrolls the list to the current day and gives it the focus
 
     [[nodiscard]] QWidget& StatementsPage() { return *m_statements; } // with an empty layout, for whoever fills it
-    [[nodiscard]] QList<int> EntryColumns() const;                    // of the entry list, in the order on screen
-    void SaveLayout();                                                // place and columns; also done on closing
+    [[nodiscard]] QWidget& StatisticsPage() { return *m_statistics; }
+    [[nodiscard]] ePage Page() const;              // the one in front
+    [[nodiscard]] QList<int> EntryColumns() const; // of the entry list, in the order on screen
+    void SaveLayout();                             // place and columns; also done on closing
 
     void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
-    void ShowStatements();                            // brings the page for bank statements to the front
+    void ShowPage(ePage page);                        // brings it to the front
     void ShowColumnMenu();
     void Raise(); // in front of other windows, also out of the task bar
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
-    void StatementsShown(); // the page for bank statements came to the front
+    void PageShown(frmMain::ePage page); // it came to the front
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -58,13 +63,17 @@ private:
     void ShowEntries();
     void ShowCommands();
     void ResetLayout();
+    void TakeUsualSize();
+    void GoBack();
 
     cMainModel& m_model;
     QHash<int, QAction*> m_actions; // by command number
     QSplitter* m_splitter;
     QTabWidget* m_tabs;
     QWidget* m_statements;
+    QWidget* m_statistics;
     cAccountPanel* m_accounts;
+    cBackBar* m_backBar;
     cViewBar* m_viewBar;
     QLabel* m_hint;
     cEntryTree* m_tree;

@@ -1,5 +1,7 @@
 #include "windows/modPlace.h"
 
+#include <QScreen>
+
 #include <algorithm>
 
 namespace {
@@ -12,6 +14,16 @@ constexpr int frameWidth = 16;
 constexpr int frameHeight = 48;
 
 } // namespace
+
+QList<QRect> modPlace::FreeAreas(const QScreen& first)
+{
+    QList<QRect> areas{first.availableGeometry()};
+    const QList<QScreen*> screens = first.virtualSiblings();
+    for (const QScreen* screen : screens) {
+        areas.append(screen->availableGeometry());
+    }
+    return areas;
+}
 
 QSize modPlace::Fitting(const QSize& wanted, const QRect& screen)
 {

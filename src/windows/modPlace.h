@@ -3,12 +3,17 @@
 #include <QList>
 #include <QRect>
 
+class QScreen;
+
 // Where a window may stand.
 namespace modPlace {
 
 // The place itself when enough of its upper edge to take hold of lies on one of the screens; else the same size, as far
 // as it fits, in the middle of the first screen. `screens` are the areas that are free for windows.
 [[nodiscard]] QRect Visible(const QRect& place, const QList<QRect>& screens);
+
+// The areas for windows of all screens, the one of `first` in front.
+[[nodiscard]] QList<QRect> FreeAreas(const QScreen& first);
 
 // The size of a new window: as wanted, but with its frame no larger than the screen. `screen` is the area that is free
 // for windows.

@@ -11,6 +11,9 @@ namespace modTone {
 [[nodiscard]] QColor Income(const QPalette& palette);
 [[nodiscard]] QColor Expense(const QPalette& palette);
 
+// What wants to be looked at before it becomes a problem.
+[[nodiscard]] QColor Warning(const QPalette& palette);
+
 // Text that stays in the background: hints, empty states.
 [[nodiscard]] QColor Quiet(const QPalette& palette);
 

@@ -4,25 +4,38 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "views/cAccountStatement.h"
 #include "views/cAssignList.h"
 #include "views/cBackupSettings.h"
+#include "views/cChartMaker.h"
 #include "views/cEntryEditor.h"
+#include "views/cImportAssistant.h"
 #include "views/cImportReview.h"
 #include "views/cMainModel.h"
 #include "views/cNationalSettings.h"
 #include "views/cPasswordFlow.h"
+#include "views/cRuleList.h"
 #include "views/cSearchModel.h"
 #include "views/cSeriesChange.h"
+#include "views/cStatementFiles.h"
+#include "views/cStatisticsModel.h"
 #include "views/cTemplateManager.h"
+#include "windows/chart/cChartBox.h"
 #include "windows/frmBuchung.h"
 #include "windows/frmImport.h"
+#include "windows/frmImportAssistent.h"
+#include "windows/frmImportReview.h"
 #include "windows/frmKategorie.h"
+#include "windows/frmKontoauszug.h"
 #include "windows/frmKorrektur.h"
 #include "windows/frmLaender.h"
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
+#include "windows/frmRegeln.h"
 #include "windows/frmSicherungen.h"
+#include "windows/frmStatistik.h"
 #include "windows/frmSuche.h"
+#include "windows/frmUmsatzKategorie.h"
 #include "windows/frmZuordnung.h"
 
 #include <QApplication>
@@ -85,6 +98,8 @@ struct cScene
     cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
                       Navigator, Book.Path()}};
     cImportReview Review{{Book.Data, *Book.Settings, Format, Book.User}};
+    cStatisticsModel Statistics{
+        {Book.Data, *Book.Settings, Format, Book.User, Book.Clock, Book.Shell, Navigator, Model}};
     cEntryEditor Editor{Book.Data, Book.User, Book.Clock, &Format};
     cSeriesChange Change{Book.Data, Book.User};
     cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
@@ -93,6 +108,10 @@ struct cScene
     cBook File{Book.User};
     cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
     std::unique_ptr<cAssignList> Candidates;
+    std::unique_ptr<cImportReview> OneImport;
+    std::unique_ptr<cImportAssistant> Assistant;
+    std::unique_ptr<cAccountStatement> Statement;
+    cRuleList Rules{{Book.Data, *Book.Settings, Format, Book.User}};
     cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
 };
 
@@ -101,6 +120,12 @@ using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
 std::unique_ptr<QWidget> MakeEditor(cScene& scene, const std::optional<cEntryFields>& fields)
 {
     return fields ? std::make_unique<frmBuchung>(scene.Editor, *fields) : nullptr;
+}
+
+std::unique_ptr<QWidget> MakeAssistant(cScene& scene, const QString& file)
+{
+    scene.Assistant = scene.Review.Files().StartAssistant(QStringLiteral(TEST_DATA "/") + file);
+    return scene.Assistant ? std::make_unique<frmImportAssistent>(*scene.Assistant) : nullptr;
 }
 
 // Shows every page of every book of tabs once and collects the faults of each.
@@ -149,6 +174,9 @@ void testEveryWindow::CanBeReadAndOperated_data()
              auto window = std::make_unique<frmMain>(scene.Model);
              window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
              scene.Model.RestoreView(false);
+             scene.Statistics.Restore();
+             window->StatisticsPage().layout()->addWidget(
+                 new frmStatistik(scene.Statistics, &window->StatisticsPage()));
              return window;
          }},
         {"new entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Start({})); }},
@@ -167,12 +195,45 @@ void testEveryWindow::CanBeReadAndOperated_data()
              scene.Candidates = scene.Review.StartAssign({scene.Row});
              return std::make_unique<frmZuordnung>(*scene.Candidates);
          }},
+        {"import assistant with a table", [](cScene& scene) { return MakeAssistant(scene, u"csv/dkb.csv"_s); }},
+        {"import assistant with a statement", [](cScene& scene) { return MakeAssistant(scene, u"mt940/giro.sta"_s); }},
+        {"account statement",
+         [](cScene& scene) {
+             scene.Book.Settings->Set(u"SALDO:1234567"_s, u"2026-03-01=10000;2026-03-31=5000"_s);
+             scene.Statement = std::make_unique<cAccountStatement>(
+                 cAccountStatement::cParts{scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.Clock});
+             return std::make_unique<frmKontoauszug>(*scene.Statement);
+         }},
+        {"one import",
+         [](cScene& scene) {
+             scene.Book.Settings->Set(u"ImportRuns"_s, u"%1-%1"_s.arg(scene.Row));
+             scene.OneImport = scene.Review.StartImportReview();
+             return std::make_unique<frmImportReview>(*scene.OneImport);
+         }},
+        {"category of transactions",
+         [](cScene& scene) { return std::make_unique<frmUmsatzKategorie>(scene.Review, QList<int>{scene.Row}); }},
+        {"chart",
+         [](cScene& scene) {
+             auto box = std::make_unique<cChartBox>();
+             cChartMaker maker(scene.Book.Data, scene.Format, scene.Book.Clock.Today());
+             const cChartWish wish{.Kind = eChartKind::ExpensePie, .Group = u"Haushalt"_s};
+             box->SetData(maker.Make(wish)); // with the way back to all categories
+             return box;
+         }},
         {"password", [](cScene& scene) { return std::make_unique<frmPasswort>(scene.Password); }},
         {"password prompt",
          [](cScene& scene) {
              return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
          }},
         {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
+        {"rules",
+         [](cScene& scene) {
+             cOwnRule rule;
+             rule.Text = u"einkauf"_s;
+             rule.Category = u"Haushalt; Lebensmittel"_s;
+             scene.Rules.SetDraft(rule);
+             return scene.Rules.Save() ? std::make_unique<frmRegeln>(scene.Rules) : nullptr;
+         }},
         {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     };
     for (const auto& [name, make] : windows) {

@@ -2,6 +2,7 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/cImportReview.h"
+#include "windows/cProgressBox.h"
 #include "windows/cStagedTree.h"
 #include "windows/frmImport.h"
 
@@ -9,10 +10,13 @@
 #include <QComboBox>
 #include <QDropEvent>
 #include <QListWidget>
+#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
@@ -69,7 +73,7 @@ private Q_SLOTS:
     void keysBookAndDelete()
     {
         cScene scene;
-        scene.Review.SetOpenOnly(false);
+        scene.Review.View().SetOpenOnly(false);
         QCOMPARE(scene.Tree.SelectedIds().size(), 5); // what was just read waits for Enter
         scene.Select(0);
         QTest::keyClick(&scene.Tree, Qt::Key_Return);
@@ -104,6 +108,47 @@ private Q_SLOTS:
         QVERIFY(scene.Cell(4, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
     }
 
+    void enterBooksAGroup()
+    {
+        cScene scene;
+        scene.Review.View().SetGrouping(1);
+        cStagedListModel& rows = scene.Review.Rows();
+        const QModelIndex own = rows.HeadNamed(u"Jonte Sandmeier"_s);
+        scene.Tree.setCurrentIndex(own);
+        QCOMPARE(scene.Tree.SelectedIds().size(), 2);
+        QTest::keyClick(&scene.Tree, Qt::Key_Left);
+        QVERIFY(!scene.Tree.isExpanded(own));
+        scene.Review.Refresh();
+        const QModelIndex same = rows.HeadNamed(u"Jonte Sandmeier"_s);
+        QVERIFY(scene.Tree.selectionModel()->isSelected(same) && !scene.Tree.isExpanded(same));
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(rows.Counts().Open, 3);
+        QVERIFY(rows.IsHead(scene.Tree.currentIndex())); // the next group waits for Enter
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(rows.Counts().Open, 2);
+        // The arrow opens and closes without selecting.
+        const QModelIndex last = rows.index(rows.rowCount() - 1, 0);
+        const QPoint arrow = scene.Tree.visualRect(last).topLeft() + QPoint(8, 8);
+        QTest::mouseClick(scene.Tree.viewport(), Qt::LeftButton, {}, arrow);
+        QVERIFY(!scene.Tree.isExpanded(last));
+    }
+
+    void theMenuOfTheKeyboard()
+    {
+        cScene scene;
+        QStringList lines;
+        QTimer::singleShot(0, &scene.Page, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            for (const QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
+                lines.append(action->isEnabled() ? action->text().remove(u'&') : QString());
+            }
+            QApplication::activePopupWidget()->close();
+        });
+        QTest::keyClick(&scene.Tree, Qt::Key_F10, Qt::ShiftModifier);
+        QVERIFY(lines.contains(u"Kategorie für 5 Umsätze…"_s));
+        QVERIFY(!lines.contains(u"Zuordnen…"_s)); // takes a single row
+    }
+
     void droppedFilesAreRead()
     {
         cScene scene;
@@ -132,6 +177,21 @@ private Q_SLOTS:
         frmImport other(scene.Review);
         QCOMPARE(other.findChild<cStagedTree*>()->LayoutText(), scene.Tree.LayoutText());
         QCOMPARE(scene.Cell(0, cStagedListModel::Counterparty), u"Werkzeugbau Ammersbek GmbH"_s);
+    }
+
+    // The work ends only when the window's own events go on meanwhile.
+    void longReadingKeepsTheProgramAlive()
+    {
+        QWidget page;
+        page.show();
+        cProgressBox box(&page, u"Lesen"_s);
+        QSemaphore done;
+        QTimer::singleShot(0, &page, [&] {
+            QVERIFY(QApplication::activeModalWidget() != nullptr); // and nobody can reach the page behind
+            done.release();
+        });
+        box.Run([&] { done.acquire(); });
+        QVERIFY(!box.IsCancelled());
     }
 
     void everyControlHasAName()

@@ -2,6 +2,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/cMainModel.h"
+#include "windows/cBackBar.h"
 #include "windows/cEntryTree.h"
 #include "windows/frmMain.h"
 #include "windows/modPlace.h"
@@ -70,6 +71,7 @@ private Q_SLOTS:
     void FreePeriodOpensTheDayFields();
     void EveryControlHasANameForScreenReaders();
     void MnemonicsAreUniqueInEachMenu();
+    void WayBackFromASelection();
     void PlaceIsInReach_data();
     void PlaceIsInReach();
 };
@@ -90,7 +92,7 @@ void testFrmMain::KeysReachTheCommands()
     QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
     QCOMPARE(scene.Book.Data.CountEntries(), 1);
     scene.Select(0);
-    scene.Window.ShowStatements();
+    scene.Window.ShowPage(frmMain::ePage::Statements);
     QTest::keyClick(&scene.Window, Qt::Key_Delete); // the list is not in front
     QCOMPARE(scene.Book.Data.CountEntries(), 1);
     QTest::keyClick(&scene.Window, Qt::Key_Q, Qt::AltModifier);
@@ -238,6 +240,23 @@ void testFrmMain::MnemonicsAreUniqueInEachMenu()
         used[menu].insert(letter);
     }
     QVERIFY(used.size() >= 3);
+}
+
+void testFrmMain::WayBackFromASelection()
+{
+    cScene scene;
+    auto& bar = *scene.Window.findChild<cBackBar*>();
+    QTest::keyClick(&scene.Tree(), Qt::Key_Left, Qt::AltModifier); // there is no way back yet
+    QVERIFY(!bar.isVisible());
+    QCOMPARE(scene.Window.Page(), frmMain::ePage::Entries);
+    scene.Model.ShowEntries({u"Ausgaben"_s, modWord::Ausgabe, u"Bargeld"_s, {}});
+    QVERIFY(bar.isVisible());
+    QVERIFY(bar.findChild<QLabel*>()->text() == u"Ausgaben");
+    QCOMPARE(scene.Model.Entries().Sums().Count, 1);
+    QTest::keyClick(&scene.Tree(), Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(scene.Window.Page(), frmMain::ePage::Statistics);
+    QVERIFY(!bar.isVisible());
+    QCOMPARE(scene.Model.Entries().Sums().Count, 2);
 }
 
 void testFrmMain::PlaceIsInReach_data()

@@ -2,6 +2,8 @@
 #include "support/testBook.h"
 #include "views/cAssignList.h"
 #include "views/cImportReview.h"
+#include "windows/cStagedActions.h"
+#include "windows/cStagedPanel.h"
 #include "windows/cStagedTree.h"
 #include "windows/frmImport.h"
 #include "windows/frmZuordnung.h"
@@ -28,7 +30,7 @@ struct cScene : cTestBook
     cScene()
     {
         Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
-        Review.SetOpenOnly(false);
+        Review.View().SetOpenOnly(false);
         Spend(2310, u"REWE"_s);
         Spend(5000, u"Schuhe"_s);
         Stage(-23.1, u"REWE"_s);
@@ -169,9 +171,10 @@ void testFrmZuordnung::NothingWithoutASelection() const
     scene.AssignWith(Qt::Key_Escape);
     QTest::qWait(1);
     QVERIFY(!scene.HasOpened);
-    const QList<QAction*> actions = scene.Page.actions();
-    QVERIFY(!actions.isEmpty());
-    QVERIFY(std::none_of(actions.begin(), actions.end(), [](const QAction* action) { return action->isEnabled(); }));
+    const cStagedActions& actions = scene.Page.findChild<cStagedPanel*>()->Actions();
+    for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Assign, cStagedActions::Release}) {
+        QVERIFY(!actions.Get(id)->isEnabled());
+    }
 }
 
 QTEST_MAIN(testFrmZuordnung)

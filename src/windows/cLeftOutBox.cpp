@@ -1,7 +1,7 @@
-#include "windows/cDuplicatesBox.h"
+#include "windows/cLeftOutBox.h"
 
 #include "base/cText.h"
-#include "views/cImportReview.h"
+#include "views/cStatementFiles.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -14,28 +14,28 @@ constexpr int shownLines = 5; // more of them scroll
 
 } // namespace
 
-cDuplicatesBox::cDuplicatesBox(cImportReview& review, QWidget* parent)
+cLeftOutBox::cLeftOutBox(cStatementFiles& files, QWidget* parent)
     : QWidget(parent),
-      m_review(review),
+      m_files(files),
       m_list(new QListWidget(this)),
       m_stage(new QPushButton(cText::Tr("Trot&zdem übernehmen"), this)),
       m_drop(new QPushButton(cText::Tr("&Schließen"), this))
 {
     Build();
-    connect(m_stage, &QPushButton::clicked, this, &cDuplicatesBox::Stage);
-    connect(m_drop, &QPushButton::clicked, &m_review, &cImportReview::DropDuplicates);
-    connect(m_list, &QListWidget::itemSelectionChanged, this, &cDuplicatesBox::ShowButtons);
-    connect(&m_review, &cImportReview::SummaryChanged, this, &cDuplicatesBox::Fill);
+    connect(m_stage, &QPushButton::clicked, this, &cLeftOutBox::Stage);
+    connect(m_drop, &QPushButton::clicked, &m_files, &cStatementFiles::DropLeftOut);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &cLeftOutBox::ShowButtons);
+    connect(&m_files, &cStatementFiles::LeftOutChanged, this, &cLeftOutBox::Fill);
     Fill();
 }
 
-void cDuplicatesBox::Build()
+void cLeftOutBox::Build()
 {
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setUniformItemSizes(true);
-    m_list->setAccessibleName(cText::Tr("Schon vorhandene Umsätze"));
+    m_list->setAccessibleName(cText::Tr("Nicht übernommene Umsätze"));
     m_list->setFixedHeight((fontMetrics().height() + 2) * shownLines + 2 * m_list->frameWidth());
-    auto* title = new QLabel(cText::Tr("Schon vorhanden und nicht noch einmal übernommen:"), this);
+    auto* title = new QLabel(cText::Tr("Nicht übernommen, mit dem Grund:"), this);
     title->setBuddy(m_list);
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(m_stage);
@@ -50,26 +50,26 @@ void cDuplicatesBox::Build()
     layout->addLayout(row);
 }
 
-void cDuplicatesBox::Fill()
+void cLeftOutBox::Fill()
 {
-    const QStringList duplicates = m_review.Duplicates();
-    setVisible(!duplicates.isEmpty());
+    const QStringList rows = m_files.LeftOut();
+    setVisible(!rows.isEmpty());
     m_list->clear();
-    m_list->addItems(duplicates);
+    m_list->addItems(rows);
     ShowButtons();
 }
 
-void cDuplicatesBox::ShowButtons()
+void cLeftOutBox::ShowButtons()
 {
     m_stage->setEnabled(!m_list->selectedItems().isEmpty());
 }
 
-void cDuplicatesBox::Stage()
+void cLeftOutBox::Stage()
 {
     QList<int> places;
     const QModelIndexList rows = m_list->selectionModel()->selectedRows();
     for (const QModelIndex& row : rows) {
         places.append(row.row());
     }
-    m_review.StageDuplicates(places);
+    m_files.StageLeftOut(places);
 }

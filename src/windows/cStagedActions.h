@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <array>
+
+class cImportReview;
+class cStagedTree;
+class QAction;
+class QMenu;
+class QWidget;
+
+// What can be done with the selected bank transactions, as actions for buttons, menus and keys.
+class cStagedActions final : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum eId { Book, Accept, Choose, Match, Assign, Release, Delete, Rule, Import, Count };
+
+    // The keys work in `page`, which all of it outlives.
+    cStagedActions(cImportReview& review, cStagedTree& tree, QWidget& page);
+
+    [[nodiscard]] QAction* Get(eId id) const { return m_actions.at(static_cast<std::size_t>(id)); }
+    void Run(eId id);
+    void BookAll(); // what the list shows
+
+    // Takes a text that was chosen in a cell for all selected rows, when the cell is one of theirs.
+    void TakeChoice(const QModelIndex& index, const QString& text);
+
+    void ShowState();
+    void OpenMenu(const QPoint& globalPosition);
+
+Q_SIGNALS:
+    void ImportRequested(int rowId); // to see the rows that came with the same import
+
+private:
+    void BookRows(const QList<int>& ids);
+    void AcceptProposals();
+    void ChooseCategory();
+    void MatchRows();
+    void AssignRow();
+    void StartRule();
+    void AddGroupLines(QMenu& menu);
+
+    cImportReview& m_review;
+    cStagedTree& m_tree;
+    QWidget& m_page;
+    std::array<QAction*, Count> m_actions{};
+};

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QModelIndex;
+class QPushButton;
+class QTabWidget;
+class QTreeView;
+class cChartPane;
+class cPeriodPicker;
+class cReportPane;
+class cStatisticsModel;
+
+// The page of the main window for reports and charts.
+class frmStatistik final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit frmStatistik(cStatisticsModel& model, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    void PrintRequested();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    QWidget* BuildReportPage();
+    QWidget* BuildChartPage();
+    QWidget* BuildSelectors();
+    void BuildTree();
+    void BuildSaveMenu();
+    void Connect();
+    void ConnectChart(cChartPane& pane);
+    void ShowSelectors();
+    void ShowReport();
+    void ShowNode(const QModelIndex& index);
+    void SaveChart(cChartPane& pane);
+
+    cStatisticsModel& m_model;
+    QTabWidget* m_pages;
+    QComboBox* m_account;
+    QComboBox* m_type;
+    cPeriodPicker* m_period;
+    QCheckBox* m_byAmount;
+    QCheckBox* m_gross;
+    QPushButton* m_save;
+    QPushButton* m_print;
+    QTreeView* m_tree;
+    cReportPane* m_report;
+};

@@ -1,0 +1,219 @@
+#include "windows/report/cReportContainer.h"
+
+#include "windows/report/modReportStyle.h"
+
+#include <QFontMetricsF>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int dotsPerInch = 96; // pixels of a page are measured so
+
+QRect ToRect(const litehtml::position& place)
+{
+    return {place.x, place.y, place.width, place.height};
+}
+
+QColor ToColor(const litehtml::web_color& color)
+{
+    return {color.red, color.green, color.blue, color.alpha};
+}
+
+cReportCanvas& Canvas(litehtml::uint_ptr handle)
+{
+    return *reinterpret_cast<cReportCanvas*>(handle);
+}
+
+} // namespace
+
+cReportContainer::cReportContainer(const QString& family) : m_family(family), m_familyBytes(family.toStdString())
+{
+}
+
+QString cReportContainer::TakeClicked()
+{
+    return std::exchange(m_clicked, {});
+}
+
+litehtml::uint_ptr cReportContainer::Handle(cReportCanvas& canvas)
+{
+    return reinterpret_cast<litehtml::uint_ptr>(&canvas);
+}
+
+litehtml::uint_ptr cReportContainer::create_font(const char* /*faceName*/, int size, int weight,
+                                                 litehtml::font_style italic, unsigned int decoration,
+                                                 litehtml::font_metrics* metrics)
+{
+    QFont font(m_family);
+    font.setPixelSize(std::max(1, size));
+    font.setBold(weight >= 600);
+    font.setItalic(italic == litehtml::fontStyleItalic);
+    font.setUnderline((decoration & litehtml::font_decoration_underline) != 0);
+    font.setHintingPreference(QFont::PreferNoHinting); // the same widths at every magnification
+    const QFontMetricsF measures(font);
+    auto made = std::make_unique<cFont>(cFont{font, qRound(measures.ascent())});
+    if (metrics != nullptr) {
+        metrics->ascent = made->Ascent;
+        metrics->descent = qRound(measures.descent());
+        metrics->height = metrics->ascent + metrics->descent;
+        metrics->x_height = qRound(measures.xHeight());
+        metrics->draw_spaces = decoration != 0;
+    }
+    m_fonts.push_back(std::move(made));
+    return reinterpret_cast<litehtml::uint_ptr>(m_fonts.back().get());
+}
+
+void cReportContainer::delete_font(litehtml::uint_ptr font)
+{
+    std::erase_if(m_fonts,
+                  [font](const auto& each) { return reinterpret_cast<litehtml::uint_ptr>(each.get()) == font; });
+}
+
+int cReportContainer::text_width(const char* text, litehtml::uint_ptr font)
+{
+    return qRound(QFontMetricsF(reinterpret_cast<const cFont*>(font)->Font).horizontalAdvance(QString::fromUtf8(text)));
+}
+
+void cReportContainer::draw_text(litehtml::uint_ptr handle, const char* text, litehtml::uint_ptr font,
+                                 litehtml::web_color color, const litehtml::position& place)
+{
+    const cFont& used = *reinterpret_cast<const cFont*>(font);
+    Canvas(handle).Text(ToRect(place), place.y + used.Ascent, QString::fromUtf8(text), used.Font, ToColor(color));
+}
+
+int cReportContainer::pt_to_px(int points) const
+{
+    return points * dotsPerInch / 72;
+}
+
+int cReportContainer::get_default_font_size() const
+{
+    return modReportStyle::FontSize;
+}
+
+const char* cReportContainer::get_default_font_name() const
+{
+    return m_familyBytes.c_str();
+}
+
+void cReportContainer::draw_list_marker(litehtml::uint_ptr handle, const litehtml::list_marker& marker)
+{
+    using enum cReportCanvas::eMark;
+    const bool isSquare = marker.marker_type == litehtml::list_style_type_square;
+    const bool isCircle = marker.marker_type == litehtml::list_style_type_circle;
+    Canvas(handle).Mark(ToRect(marker.pos), isSquare ? Square : isCircle ? Circle : Disc, ToColor(marker.color));
+}
+
+void cReportContainer::draw_background(litehtml::uint_ptr handle, const litehtml::background_paint& background)
+{
+    if (background.color.alpha != 0) { // transparent ones come here too
+        Canvas(handle).Fill(ToRect(background.clip_box), ToColor(background.color));
+    }
+}
+
+void cReportContainer::draw_borders(litehtml::uint_ptr handle, const litehtml::borders& borders,
+                                    const litehtml::position& place, bool /*root*/)
+{
+    const auto fill = [&](const litehtml::border& border, const QRect& area) {
+        const bool isDrawn = border.width > 0 && border.style > litehtml::border_style_hidden;
+        if (isDrawn && border.color.alpha != 0) {
+            Canvas(handle).Fill(area, ToColor(border.color));
+        }
+    };
+    const QRect box = ToRect(place);
+    fill(borders.top, {box.x(), box.y(), box.width(), borders.top.width});
+    fill(borders.bottom, {box.x(), place.bottom() - borders.bottom.width, box.width(), borders.bottom.width});
+    fill(borders.left, {box.x(), box.y(), borders.left.width, box.height()});
+    fill(borders.right, {place.right() - borders.right.width, box.y(), borders.right.width, box.height()});
+}
+
+void cReportContainer::on_anchor_click(const char* url, const litehtml::element::ptr& /*element*/)
+{
+    m_clicked = QString::fromUtf8(url);
+}
+
+void cReportContainer::set_cursor(const char* cursor)
+{
+    m_isOverLink = QLatin1StringView(cursor) == QLatin1StringView("pointer");
+}
+
+void cReportContainer::set_clip(const litehtml::position& place, const litehtml::border_radiuses& /*radius*/,
+                                bool /*validX*/, bool /*validY*/)
+{
+    if (m_canvas != nullptr) {
+        m_canvas->Clip(ToRect(place));
+    }
+}
+
+void cReportContainer::del_clip()
+{
+    if (m_canvas != nullptr) {
+        m_canvas->Unclip();
+    }
+}
+
+void cReportContainer::get_client_rect(litehtml::position& client) const
+{
+    client = litehtml::position(0, 0, m_width, 1);
+}
+
+std::shared_ptr<litehtml::element> cReportContainer::create_element(const char* /*tag*/,
+                                                                    const litehtml::string_map& /*attributes*/,
+                                                                    const std::shared_ptr<litehtml::document>& /*doc*/)
+{
+    return nullptr; // the library's own elements
+}
+
+void cReportContainer::get_media_features(litehtml::media_features& media) const
+{
+    media.type = litehtml::media_type_screen;
+    media.width = m_width;
+    media.device_width = m_width;
+    media.height = 1;
+    media.device_height = 1;
+    media.color = 8;
+    media.color_index = 0;
+    media.monochrome = 0;
+    media.resolution = dotsPerInch;
+}
+
+void cReportContainer::get_language(litehtml::tstring& language, litehtml::tstring& culture) const
+{
+    language = "de";
+    culture = "de-DE";
+}
+
+// A report holds neither pictures nor files of its own, no forms and no transformed texts.
+
+void cReportContainer::load_image(const char* /*source*/, const char* /*base*/, bool /*redraw*/)
+{
+}
+
+void cReportContainer::get_image_size(const char* /*source*/, const char* /*base*/, litehtml::size& size)
+{
+    size = {};
+}
+
+void cReportContainer::set_caption(const char* /*caption*/)
+{
+}
+
+void cReportContainer::set_base_url(const char* /*base*/)
+{
+}
+
+void cReportContainer::link(const std::shared_ptr<litehtml::document>& /*document*/,
+                            const litehtml::element::ptr& /*element*/)
+{
+}
+
+void cReportContainer::transform_text(litehtml::tstring& /*text*/, litehtml::text_transform /*transform*/)
+{
+}
+
+void cReportContainer::import_css(litehtml::tstring& text, const litehtml::tstring& /*url*/,
+                                  litehtml::tstring& /*base*/)
+{
+    text.clear();
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "windows/cPrintable.h"
+
+#include <QString>
+
+// Pages as a PDF file, A4 upright.
+namespace modReportPdf {
+
+// False when the file cannot be written.
+[[nodiscard]] bool Write(cPrintable& content, const QString& path);
+
+} // namespace modReportPdf

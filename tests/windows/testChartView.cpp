@@ -1,0 +1,270 @@
+#include "windows/chart/cChartAxis.h"
+#include "windows/chart/cChartBox.h"
+#include "windows/chart/cChartTable.h"
+#include "windows/chart/cChartView.h"
+#include "windows/chart/modChartColour.h"
+#include "windows/chart/modChartPainter.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QSvgRenderer>
+#include <QTest>
+#include <QToolButton>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Two series over three labels, the second one with a gap.
+cChartData Chart(eChart kind)
+{
+    cChartData chart;
+    chart.Kind = kind;
+    chart.Title = u"Versuch"_s;
+    chart.BackText = u"Zurück"_s;
+    chart.LabelTitle = u"Monat"_s;
+    chart.Labels = kind == eChart::Pie ? QStringList{u"2026"_s} : QStringList{u"Januar"_s, u"Februar"_s, u"März"_s};
+    chart.Series = {{.Name = u"Miete"_s, .Cents = {30000, 30000, 60000}, .Colour = 0},
+                    {.Name = u"Strom"_s, .Cents = {10000, std::nullopt, -10000}, .Colour = 1}};
+    return chart;
+}
+
+struct cStage
+{
+    explicit cStage(const cChartData& chart)
+    {
+        View.SetData(chart);
+        View.resize(700, 420);
+        View.show();
+        (void)QTest::qWaitForWindowExposed(&View);
+    }
+
+    QPointF Anchor(const cChartPart& part) const { return View.Layout().AnchorOf(part).value_or(QPointF(-1, -1)); }
+    void Click(QPointF position) { QTest::mouseClick(&View, Qt::LeftButton, {}, position.toPoint()); }
+
+    cChartView View;
+};
+
+using cColour = std::array<double, 3>;
+using cMatrix = std::array<cColour, 3>;
+
+// What a colour looks like with one kind of cone missing, in linear light (Machado, Oliveira and Fernandes, 2009).
+constexpr std::array<cMatrix, 4> eyes{
+    {{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}},
+     {{{0.152286, 1.052583, -0.204868}, {0.114503, 0.786281, 0.099216}, {-0.003882, -0.048116, 1.051998}}},
+     {{{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}},
+     {{{1.255528, -0.076749, -0.178779}, {-0.078411, 0.930809, 0.147602}, {0.004733, 0.691367, 0.303900}}}}};
+
+double Linear(double part)
+{
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+cColour Times(const cMatrix& matrix, const cColour& colour)
+{
+    cColour result{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        for (std::size_t j = 0; j < 3; ++j) {
+            result[i] += matrix[i][j] * colour[j];
+        }
+    }
+    return result;
+}
+
+// CIELAB, where distances are as large as they look.
+cColour Seen(const QColor& colour, const cMatrix& eye)
+{
+    const cColour linear{Linear(colour.redF()), Linear(colour.greenF()), Linear(colour.blueF())};
+    const cMatrix toXyz{{{0.4124 / 0.9505, 0.3576 / 0.9505, 0.1805 / 0.9505},
+                         {0.2126, 0.7152, 0.0722},
+                         {0.0193 / 1.089, 0.1192 / 1.089, 0.9505 / 1.089}}};
+    cColour xyz = Times(toXyz, Times(eye, linear));
+    for (double& part : xyz) {
+        part = part > 0.008856 ? std::cbrt(part) : 7.787 * std::max(0.0, part) + 16.0 / 116;
+    }
+    return {116 * xyz[1] - 16, 500 * (xyz[0] - xyz[1]), 200 * (xyz[1] - xyz[2])};
+}
+
+double Distance(const cColour& a, const cColour& b)
+{
+    return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
+}
+
+} // namespace
+
+class testChartView final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void answersWhereItPaints_data()
+    {
+        QTest::addColumn<eChart>("kind");
+        QTest::newRow("pie") << eChart::Pie;
+        QTest::newRow("columns") << eChart::Columns;
+        QTest::newRow("stacked") << eChart::StackedColumns;
+        QTest::newRow("line") << eChart::Line;
+    }
+
+    // Each part answers at its place, its colour is there in the picture, and a click names it.
+    void answersWhereItPaints()
+    {
+        QFETCH(eChart, kind);
+        cStage stage(Chart(kind));
+        const QImage picture = stage.View.grab().toImage();
+        QSignalSpy clicks(&stage.View, &cChartView::PartClicked);
+        int found = 0;
+        for (int series = 0; series < 2; ++series) {
+            for (int index = 0; index < stage.View.Data().Labels.size(); ++index) {
+                const cChartPart part{series, index};
+                const bool isThere = series == 0 || index != 1;
+                QCOMPARE(stage.View.Layout().AnchorOf(part).has_value(), isThere);
+                if (!isThere) {
+                    continue;
+                }
+                QCOMPARE(stage.View.PartAt(stage.Anchor(part)), part);
+                if (kind != eChart::Pie) { // its shares stand in the middle of the slices
+                    const QColor expected = modChartColour::Series(series, stage.View.palette());
+                    const QColor painted =
+                        picture.pixelColor((stage.Anchor(part) * picture.devicePixelRatio()).toPoint());
+                    QVERIFY2(qAbs(expected.red() - painted.red()) < 100 && qAbs(expected.blue() - painted.blue()) < 100,
+                             qPrintable(painted.name() + u' ' + expected.name()));
+                }
+                stage.Click(stage.Anchor(part));
+                QCOMPARE(clicks.size(), ++found);
+                QCOMPARE(clicks.last(), (QVariantList{series, index}));
+            }
+        }
+        QVERIFY(!stage.View.PartAt(QPointF(2, 2)));
+    }
+
+    void movesByKeys()
+    {
+        cStage stage(Chart(eChart::Columns));
+        stage.View.activateWindow();
+        stage.View.setFocus(Qt::TabFocusReason);
+        QTRY_COMPARE(stage.View.CurrentPart(), (cChartPart{0, 0}));
+        QTest::keyClick(&stage.View, Qt::Key_Right);
+        QCOMPARE(stage.View.accessibleName(), u"Diagramm Versuch: Miete, Februar: 300,00"_s);
+        QTest::keyClick(&stage.View, Qt::Key_Down); // the gap
+        QCOMPARE(stage.View.CurrentPart(), (cChartPart{0, 1}));
+        QTest::keyClick(&stage.View, Qt::Key_PageDown);
+        QTest::keyClick(&stage.View, Qt::Key_Down);
+        QCOMPARE(stage.View.CurrentPart(), (cChartPart{1, 2}));
+        QTest::keyClick(&stage.View, Qt::Key_Left); // over the gap
+        QCOMPARE(stage.View.CurrentPart(), (cChartPart{1, 0}));
+        QSignalSpy clicks(&stage.View, &cChartView::PartClicked);
+        QTest::keyClick(&stage.View, Qt::Key_Return);
+        QCOMPARE(clicks.value(0), (QVariantList{1, 0}));
+        QSignalSpy back(&stage.View, &cChartView::BackRequested);
+        QTest::keyClick(&stage.View, Qt::Key_Backspace);
+        QCOMPARE(back.size(), 1);
+        QTest::keyClick(&stage.View, Qt::Key_Tab); // into the legend
+        QTest::keyClick(&stage.View, Qt::Key_Right);
+        QTest::keyClick(&stage.View, Qt::Key_Space);
+        QVERIFY(stage.View.Data().Series[1].IsHidden);
+        QVERIFY(stage.View.accessibleName().endsWith(u"Strom, ausgeblendet"));
+    }
+
+    void switchesSeries()
+    {
+        cStage stage(Chart(eChart::StackedColumns));
+        stage.Click(stage.View.Layout().Legend.at(0).Area.center());
+        QCOMPARE(stage.View.ShownData().Series.size(), 1);
+        QVERIFY(!stage.View.Layout().AnchorOf({0, 0}));
+        QCOMPARE(stage.View.Layout().Axis.Max(), 10000); // nothing is below it any more
+        QCOMPARE(stage.View.SeriesAt(0), 1);
+        stage.Click(stage.View.Layout().Legend.at(0).Area.center());
+        QCOMPARE(stage.View.ShownData().Series.size(), 2);
+    }
+
+    void showsTheSameInTheTable()
+    {
+        cChartBox box;
+        box.SetData(Chart(eChart::Columns));
+        box.resize(700, 420);
+        box.show();
+        box.ShowTable(true);
+        const cChartTableModel& figures = box.findChild<cChartTable*>()->Figures();
+        QCOMPARE(figures.rowCount(), 4); // and the sum
+        for (int series = 0; series < 2; ++series) {
+            for (int index = 0; index < 3; ++index) {
+                const std::optional<qint64> cents = box.View().Data().Series[series].At(index);
+                QCOMPARE(figures.data(figures.index(index, series + 1), Qt::DisplayRole).toString(),
+                         cents ? box.View().Data().MoneyText(*cents) : QString());
+            }
+        }
+        QCOMPARE(figures.data(figures.index(3, 1), Qt::DisplayRole).toString(), u"1200,00"_s);
+        Q_EMIT box.View().SeriesSwitched();
+        QTest::mouseClick(&box.View(), Qt::LeftButton, {}, box.View().Layout().Legend.at(0).Area.center().toPoint());
+        QCOMPARE(figures.columnCount(), 2);
+        QSignalSpy clicks(&box, &cChartBox::PartClicked);
+        Q_EMIT box.findChild<cChartTable*>()->activated(figures.index(0, 1));
+        QCOMPARE(clicks.value(0), (QVariantList{1, 0})); // counted with the hidden series
+    }
+
+    void paintsIntoFiles()
+    {
+        const cChartData chart = Chart(eChart::Columns);
+        const QImage picture = QImage::fromData(modChartPainter::Png(chart, {400, 300}), "PNG");
+        QCOMPARE(picture.size(), QSize(800, 600));
+        QSvgRenderer svg(modChartPainter::Svg(chart, {400, 300}));
+        QVERIFY(svg.isValid());
+        QCOMPARE(svg.viewBox(), QRect(0, 0, 400, 300));
+        cChartData nothing;
+        nothing.Kind = eChart::Pie;
+        nothing.Labels = {u"2026"_s};
+        nothing.Series = {{.Name = u"Erstattung"_s, .Cents = {-500}}};
+        cStage stage(nothing); // no slice can be drawn
+        QVERIFY(stage.View.Layout().Hits.empty());
+        QVERIFY(stage.View.Layout().Legend.empty());
+    }
+
+    void dividesTheAxis_data()
+    {
+        QTest::addColumn<qint64>("smallest");
+        QTest::addColumn<qint64>("largest");
+        QTest::addColumn<QList<qint64>>("ticks");
+
+        QTest::newRow("up") << qint64(0) << qint64(9500) << QList<qint64>{0, 2000, 4000, 6000, 8000, 10000};
+        QTest::newRow("both") << qint64(-1) << qint64(399) << QList<qint64>{-100, 0, 100, 200, 300, 400};
+        QTest::newRow("down") << qint64(-5000) << qint64(0) << QList<qint64>{-5000, -4000, -3000, -2000, -1000, 0};
+        QTest::newRow("nothing") << qint64(0) << qint64(0) << QList<qint64>{0, 1};
+        QTest::newRow("far above") << qint64(100010) << qint64(100049)
+                                   << QList<qint64>{100010, 100020, 100030, 100040, 100050};
+    }
+
+    void dividesTheAxis()
+    {
+        QFETCH(qint64, smallest);
+        QFETCH(qint64, largest);
+        QTEST(cChartAxis(smallest, largest, 5).Ticks(), "ticks");
+    }
+
+    void staysApartForEveryEye()
+    {
+        constexpr double enough = 18; // CIELAB; 2 can be seen side by side, 10 at a glance
+        QPalette dark(QColor(45, 47, 51));
+        dark.setColor(QPalette::Base, QColor(30, 32, 35));
+        for (const QPalette& palette : {QPalette(Qt::white), dark}) {
+            for (const cMatrix& eye : eyes) {
+                for (int a = 0; a < modChartColour::Count; ++a) {
+                    const cColour seen = Seen(modChartColour::Series(a, palette), eye);
+                    QVERIFY(Distance(seen, Seen(palette.color(QPalette::Base), eye)) > enough);
+                    for (int b = 0; b < a; ++b) {
+                        QVERIFY2(Distance(seen, Seen(modChartColour::Series(b, palette), eye)) > enough,
+                                 qPrintable(u"%1 %2"_s.arg(a).arg(b)));
+                    }
+                }
+            }
+        }
+    }
+};
+
+QTEST_MAIN(testChartView)
+#include "testChartView.moc"
