@@ -5,6 +5,7 @@
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
+#include "views/cAccountStatement.h"
 #include "views/cBackupSettings.h"
 #include "views/cEntryExport.h"
 #include "views/cEntryExtract.h"
@@ -12,22 +13,29 @@
 #include "views/cMainModel.h"
 #include "views/cNationalSettings.h"
 #include "views/cPasswordFlow.h"
+#include "views/cRuleList.h"
 #include "views/cSearchModel.h"
 #include "views/cSeriesChange.h"
+#include "views/cStatisticsModel.h"
 #include "views/cTemplateManager.h"
 #include "views/modCommand.h"
 #include "views/modViewText.h"
+#include "windows/cChartPrinter.h"
 #include "windows/cListPrinter.h"
 #include "windows/cProgressBox.h"
 #include "windows/frmBuchung.h"
 #include "windows/frmImport.h"
 #include "windows/frmKategorie.h"
+#include "windows/frmKontoauszug.h"
 #include "windows/frmKorrektur.h"
 #include "windows/frmLaender.h"
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
+#include "windows/frmRegeln.h"
 #include "windows/frmSicherungen.h"
+#include "windows/frmStatistik.h"
 #include "windows/frmSuche.h"
+#include "windows/report/cReportPrinter.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -51,9 +59,18 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged,
                      Qt::QueuedConnection);
     QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::StartAfresh);
-    QObject::connect(&window, &frmMain::StatementsShown, &review, [this] { (void)Statements(); });
+    QObject::connect(&window, &frmMain::PageShown, &model, [this](frmMain::ePage page) { BuildPage(page); });
     QObject::connect(&window, &frmMain::FilesDropped, &review,
                      [this](const QStringList& paths) { Statements().ImportFiles(paths); });
+}
+
+void cNavigation::BuildPage(frmMain::ePage page)
+{
+    if (page == frmMain::ePage::Statements) {
+        (void)Statements();
+    } else if (page == frmMain::ePage::Statistics) {
+        (void)Statistics();
+    }
 }
 
 QWidget* cNavigation::Parent() const
@@ -71,9 +88,28 @@ frmImport& cNavigation::Statements()
     return *m_statements;
 }
 
+cStatisticsModel& cNavigation::Statistics()
+{
+    if (m_statistics == nullptr) {
+        m_statistics = std::make_unique<cStatisticsModel>(
+            cStatisticsModel::cParts{m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User,
+                                     m_parts.Clock, m_parts.Shell, *this, *m_model});
+        m_statistics->Restore();
+        m_statisticsPage = new frmStatistik(*m_statistics, &m_window->StatisticsPage());
+        m_window->StatisticsPage().layout()->addWidget(m_statisticsPage);
+        QObject::connect(m_model, &cMainModel::BookRefreshed, m_statistics.get(), &cStatisticsModel::BookChanged);
+        QObject::connect(m_model, &cMainModel::ViewChanged, m_statistics.get(), &cStatisticsModel::ViewChanged);
+        QObject::connect(m_statistics.get(), &cStatisticsModel::EntriesShown, m_window,
+                         [this] { m_window->ShowPage(frmMain::ePage::Entries); });
+        QObject::connect(m_statisticsPage, &frmStatistik::PrintRequested, m_model,
+                         [this] { Print(&cQtPrinter::Print); });
+    }
+    return *m_statistics;
+}
+
 void cNavigation::ShowStatements()
 {
-    m_window->ShowStatements();
+    m_window->ShowPage(frmMain::ePage::Statements);
 }
 
 void cNavigation::BookChanged()
@@ -87,6 +123,12 @@ void cNavigation::LeaveBook()
     m_search = nullptr;
     m_searchModel.reset();
     m_password.reset();
+    if (m_window->Page() == frmMain::ePage::Statistics) {
+        m_window->ShowPage(frmMain::ePage::Entries);
+    }
+    delete m_statisticsPage;
+    m_statisticsPage = nullptr;
+    m_statistics.reset(); // the other book has its own selectors
 }
 
 void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields)
@@ -185,6 +227,24 @@ void cNavigation::OpenImport()
     Statements().ChooseFiles();
 }
 
+void cNavigation::OpenAccountStatement()
+{
+    cAccountStatement statement({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.Clock});
+    frmKontoauszug form(statement, Parent());
+    QObject::connect(&form, &frmKontoauszug::EntryRequested, m_model, [&](int entryId, QDate day) {
+        OpenEntry(entryId, day);
+        statement.Reload();
+    });
+    const auto print = [&](void (cQtPrinter::*way)(cPrintable&, QWidget*)) {
+        cListPrinter pages(statement);
+        (m_printer.*way)(pages, &form);
+    };
+    QObject::connect(&form, &frmKontoauszug::PrintRequested, &form, [print] { print(&cQtPrinter::Print); });
+    QObject::connect(&form, &frmKontoauszug::PreviewRequested, &form, [print] { print(&cQtPrinter::Preview); });
+    QObject::connect(&form, &frmKontoauszug::ExportRequested, &form, [&] { Export(statement); });
+    form.exec();
+}
+
 void cNavigation::OpenPassword()
 {
     if (!m_password) {
@@ -211,18 +271,49 @@ void cNavigation::OpenNationalSettings()
     form.exec();
 }
 
+void cNavigation::OpenRules()
+{
+    cRuleList rules({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User});
+    QObject::connect(&rules, &cRuleList::RulesChanged, m_review, &cImportReview::Refresh);
+    frmRegeln form(rules, Parent());
+    form.exec();
+}
+
 void cNavigation::Export()
 {
     cEntryExtract extract = cEntryExtract::From(m_model->Entries());
     extract.Title = modViewText::Title(m_model->View());
-    extract.View = modViewText::Lines(m_model->View(), m_model->ShownRange());
+    extract.View = m_model->ViewLines();
     cProgressBox progress(Parent(), cText::Tr("Die Einträge werden geschrieben …"));
     cEntryExport(m_parts.User, m_parts.Format, progress).Run(extract, m_parts.Clock.Today());
 }
 
+void cNavigation::Export(const cAccountStatement& statement)
+{
+    cProgressBox progress(Parent(), cText::Tr("Der Kontoauszug wird geschrieben …"));
+    cEntryExport(m_parts.User, m_parts.Format, progress).Run(statement.Extract(), m_parts.Clock.Today());
+}
+
 void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))
 {
+    if (m_window->Page() == frmMain::ePage::Statistics) {
+        PrintStatistics(way);
+        return;
+    }
     cListPrinter pages(m_model->Entries(), m_window->EntryColumns(), cListPrinter::HeadOf(*m_model));
+    (m_printer.*way)(pages, Parent());
+}
+
+void cNavigation::PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*))
+{
+    cStatisticsModel& statistics = Statistics();
+    const QString foot = QApplication::applicationDisplayName();
+    if (statistics.Page() == cStatisticsModel::ePage::Charts) {
+        cChartPrinter pages({statistics.FirstChart().Data(), statistics.SecondChart().Data()}, foot);
+        (m_printer.*way)(pages, Parent());
+        return;
+    }
+    cReportPrinter pages(statistics.PrintHtml(), QApplication::font().family(), foot);
     (m_printer.*way)(pages, Parent());
 }
 
@@ -241,8 +332,10 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::NewDatabase: m_books.NewBook(); break;
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
+    case modCommand::AccountStatement: OpenAccountStatement(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
+    case modCommand::Rules: OpenRules(); break;
     default: break; // done by the model itself
     }
 }

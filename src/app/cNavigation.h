@@ -4,11 +4,13 @@
 #include "views/cBookFlow.h"
 #include "views/cEntryEditor.h"
 #include "views/cNavigator.h"
+#include "windows/frmMain.h"
 
 #include <QString>
 
 #include <memory>
 
+class cAccountStatement;
 class cAmountFormat;
 class cBook;
 class cBookHost;
@@ -20,9 +22,10 @@ class cPasswordFlow;
 class cRescue;
 class cSearchModel;
 class cShell;
+class cStatisticsModel;
 class cUser;
 class frmImport;
-class frmMain;
+class frmStatistik;
 class frmSuche;
 struct cEntryFields;
 
@@ -49,8 +52,9 @@ public:
     void Connect(cMainModel& model, cImportReview& review, frmMain& window);
     void LeaveBook(); // before the file is closed: so are the windows that show it
 
-    [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
-    void ShowStatements();                 // brings the page for bank statements to the front
+    [[nodiscard]] frmImport& Statements();        // built on first use, so that the start does not wait for it
+    void ShowStatements();                        // brings the page for bank statements to the front
+    [[nodiscard]] cStatisticsModel& Statistics(); // the same for the statistics; its page is built with it
 
     void OpenNewEntry() override;
     void OpenEntry(int entryId, QDate day) override;
@@ -60,16 +64,21 @@ public:
     void EndProgram() override;
 
 private:
+    void BuildPage(frmMain::ePage page);
     [[nodiscard]] QWidget* Parent() const; // of a window that is opened now: the one in front
     void OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields);
     void OpenStartBalance();
     void OpenSearch();
     void OpenImport();
+    void OpenAccountStatement();
     void OpenPassword();
     void OpenBackupSettings();
     void OpenNationalSettings();
+    void OpenRules();
     void Export();
+    void Export(const cAccountStatement& statement);
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
+    void PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void BookChanged();
     void ShowSaved(int entryId);
 
@@ -80,6 +89,8 @@ private:
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;
     frmImport* m_statements = nullptr;
+    std::unique_ptr<cStatisticsModel> m_statistics; // from the first look on
+    frmStatistik* m_statisticsPage = nullptr;
     std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on
     frmSuche* m_search = nullptr;

@@ -84,6 +84,15 @@ bool cQtShell::OpenRegionalSettings()
                        {u"xfce4-settings-manager"_s, {}}});
 }
 
+bool cQtShell::OpenPage(const QString& url)
+{
+    return StartFirst({{u"rundll32.exe"_s, {u"url.dll,FileProtocolHandler"_s, url}},
+                       {u"xdg-open"_s, {url}},
+                       {u"gio"_s, {u"open"_s, url}},
+                       {u"kde-open5"_s, {url}},
+                       {u"exo-open"_s, {url}}});
+}
+
 bool cQtShell::StartCalculator()
 {
     return StartFirst({{u"calc.exe"_s, {}},

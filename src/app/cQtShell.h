@@ -16,6 +16,7 @@ public:
     [[nodiscard]] bool RenameFile(const QString& from, const QString& to) override;
     [[nodiscard]] QString CurrencySymbol() const override;
     bool OpenRegionalSettings() override;
+    bool OpenPage(const QString& url) override;
     bool StartCalculator() override;
 
 private:

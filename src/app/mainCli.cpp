@@ -1,13 +1,46 @@
 #include "app/cli/modCliMain.h"
+#include "app/cQtPaint.h"
 #include "app/modLocale.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+// Only what stops the program: that the toolkit misses a folder or a theme is no news to who wants a file.
+void TellWhenFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    }
+}
+
+// Starting the toolkit takes longer than most commands do, so only where something is painted. It paints into files, a
+// screen is not needed.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    if (!modCliMain::NeedsPaint(arguments)) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(TellWhenFatal);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
     modLocale::UseUtf8();
-    QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kontorelle-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
-    return modCliMain::Run(QCoreApplication::arguments().mid(1));
+    cQtPaint paint;
+    return modCliMain::Run(QCoreApplication::arguments().mid(1), paint);
 }

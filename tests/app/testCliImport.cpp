@@ -74,6 +74,22 @@ private Q_SLOTS:
         QCOMPARE(staged.Column(u"ImportPurpose"_s).value(0), u"Brõzeln"_s);
     }
 
+    void ColumnsAreRemembered()
+    {
+        Do({u"import"_s, m_table, u"--account"_s, u"1"_s, u"--map"_s, u"datum=0,betrag=2,zweck=1"_s, u"--remember"_s});
+        const cCliRun again = Do({u"import"_s, m_table, u"--json"_s});
+        QCOMPARE(again.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 3);
+        const cCliRun found = Do({u"detect"_s, m_table, u"--json"_s});
+        QVERIFY2(found.Out.contains(u"\"origin\": \"memory\""_s), qPrintable(found.Text()));
+        QFile file(m_table);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("Tag;W\x84hrung;Wert\n03.02.2026;\x8E;-4,20\n") > 0);
+        file.close();
+        Do({u"import"_s, m_table, u"--account"_s, u"1"_s, u"--charset"_s, u"cp850"_s, u"--map"_s,
+            u"datum=0,zweck=1,betrag=2"_s, u"--remember"_s});
+        const cCliRun cp850 = Do({u"import"_s, m_table, u"--account"_s, u"1"_s, u"--json"_s});
+        QCOMPARE(cp850.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 1);
+    }
+
     void SkippedRowsAndLayoutAreTold()
     {
         const cCliRun run = Do({u"import"_s, m_table, u"--json"_s, u"--account"_s, u"1"_s, u"--map"_s,
@@ -137,6 +153,8 @@ private Q_SLOTS:
         QTest::newRow("column") << import + QStringList{u"--map"_s, u"datum=0,preis=2"_s} << 2 << u"'preis=2'"_s;
         QTest::newRow("column without number") << import + QStringList{u"--map"_s, u"datum"_s} << 2 << u"'datum'"_s;
         QTest::newRow("no amount") << import + QStringList{u"--map"_s, u"datum=0"_s} << 2 << u"\"betrag\""_s;
+        QTest::newRow("columns of no table")
+            << QStringList{u"import"_s, m_giro, u"--map"_s, u"datum=0,betrag=2"_s} << 1 << u"nur bei Tabellen"_s;
         QTest::newRow("nothing to detect")
             << QStringList{u"detect"_s, u"missing.csv"_s} << 1 << u"kann nicht geöffnet werden"_s;
     }

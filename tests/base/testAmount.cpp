@@ -79,6 +79,7 @@ private Q_SLOTS:
         QTest::newRow("empty") << QString() << false << qint64{0};
         QTest::newRow("word") << u"viel"_s << false << qint64{0};
         QTest::newRow("infinite") << u"inf"_s << false << qint64{0};
+        QTest::newRow("more digits than fit") << u"30055555555555555555"_s << true << qint64{9'000'000'000'000'000};
     }
 
     void StoredText() const

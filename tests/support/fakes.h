@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <deque>
@@ -131,6 +132,11 @@ public:
         ++RegionalSettingsOpened;
         return true;
     }
+    bool OpenPage(const QString& url) override
+    {
+        Pages.append(url);
+        return true;
+    }
     bool StartCalculator() override { return true; }
 
     QString Folder(const QString& name) const
@@ -142,6 +148,7 @@ public:
 
     QString Currency = QStringLiteral("€");
     int RegionalSettingsOpened = 0;
+    QStringList Pages;
     bool IsFull = false; // no room for another file
 
 private:

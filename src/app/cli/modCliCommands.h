@@ -6,6 +6,7 @@
 
 class cClock;
 class cCliBook;
+class cCliPaint;
 class cConsoleUser;
 class cShell;
 
@@ -17,6 +18,7 @@ struct cCliContext
     const cClock& Clock;
     cShell& Shell;
     cCliBook* Book; // the open database; null for a command that needs none
+    cCliPaint& Paint;
 };
 
 // The commands of the command line program. What one does stands beside its description.
@@ -25,13 +27,23 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand ImportCommand();
 [[nodiscard]] cCliCommand DetectCommand();
 [[nodiscard]] cCliCommand StagedCommand();
+[[nodiscard]] cCliCommand StatementCommand();
 [[nodiscard]] cCliCommand ProposeCommand();
 [[nodiscard]] cCliCommand BookCommand();
 [[nodiscard]] cCliCommand MatchCommand();
 [[nodiscard]] cCliCommand AssignCommand();
 [[nodiscard]] cCliCommand ReleaseCommand();
+[[nodiscard]] cCliCommand RulesCommand();
+[[nodiscard]] cCliCommand RulesAddCommand();
+[[nodiscard]] cCliCommand RulesDeleteCommand();
+[[nodiscard]] cCliCommand RulesMoveCommand();
+[[nodiscard]] cCliCommand RulesSwitchCommand();
+[[nodiscard]] cCliCommand RulesTestCommand();
 [[nodiscard]] cCliCommand EntriesCommand();
 [[nodiscard]] cCliCommand ExportCommand();
+[[nodiscard]] cCliCommand ReportCommand();
+[[nodiscard]] cCliCommand ChartCommand();
+[[nodiscard]] cCliCommand ForecastCommand();
 [[nodiscard]] cCliCommand SearchCommand();
 [[nodiscard]] cCliCommand AddCommand();
 [[nodiscard]] cCliCommand ChangeCommand();

@@ -9,9 +9,13 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "base/modDate.h"
+#include "import/cBankBalances.h"
 #include "import/cStatementImport.h"
+#include "import/cStatementSource.h"
 #include "import/modAccountNumber.h"
+#include "import/modStatementFile.h"
 #include "import/table/cTableMemory.h"
+#include "import/table/modSpreadsheet.h"
 
 #include <algorithm>
 
@@ -169,11 +173,35 @@ bool Settle(const cCliContext& context, const cImportResult& result, const cImpo
     return AssignAccounts(context, result.Accounts);
 }
 
+// With --remember the layout of a table is read the same way next time. False when it cannot be remembered.
+bool RememberLayout(const cCliContext& context, const QString& file, const cImportOptions& options,
+                    cTableMemory& memory)
+{
+    if (!context.Call.Has(u"remember"_s) || options.Run == eStagingRun::Try) {
+        return true;
+    }
+    const cStatementSource source =
+        modStatementFormat::Source(file, modStatementFile::Read(file).Bytes, options.Table.Charset);
+    const eStatementFormat format = modStatementFormat::Detect(source);
+    const cReadOptions read{options.DefaultAccount, options.MissingPurpose, options.Table, &memory};
+    const cTableLayout layout = format == eStatementFormat::Csv ? modTable::Open(source, read).Layout
+        : format == eStatementFormat::Spreadsheet               ? modSpreadsheet::Open(source, read).Layout
+                                                                : cTableLayout();
+    if (layout.IsReadable() && modTable::Remember(source, options.Table, layout, memory)) {
+        return true;
+    }
+    modConsole::Error(cText::Tr("{0}: Der Aufbau kann nicht gemerkt werden. Das geht nur bei Tabellen mit einer Zeile "
+                                "für die Spaltennamen.",
+                                {file}));
+    return false;
+}
+
 int ImportFiles(const cCliContext& context, const cImportOptions& options)
 {
     cCliBook& book = *context.Book;
     cTableMemory memory(book.Settings());
-    cStatementImport reader(book.Data, book.Hive, &memory);
+    cBankBalances balances(book.Settings());
+    cStatementImport reader(book.Data, book.Hive, &memory, &balances);
     cNoProgress progress;
     bool isDone = true;
     QStringList objects;
@@ -181,6 +209,7 @@ int ImportFiles(const cCliContext& context, const cImportOptions& options)
         const cImportResult result = reader.ImportFile(file, options, progress);
         isDone = isDone && !result.IsRefused && result.Failed == 0;
         isDone = Settle(context, result, options, memory) && isDone;
+        isDone = (result.IsRefused || RememberLayout(context, file, options, memory)) && isDone;
         if (context.Call.Has(u"json"_s)) {
             objects.append(ToJson(result, options.Run));
         } else {
@@ -226,6 +255,9 @@ cCliCommand modCliCommands::ImportCommand()
                                "CSV-Dateien gleichen Aufbaus gemerkt")},
                     {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
                     {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
+                    {u"remember"_s,
+                     {},
+                     cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},
                     {u"dry-run"_s, {}, cText::Tr("nur lesen und zeigen, was neu wäre")}}
                 + modCliTableChoice::Options() + QList<cCliOption>{Json()},
             .Run = Run};

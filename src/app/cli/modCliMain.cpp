@@ -31,7 +31,15 @@ int ShowHelp(const cCliCall& call)
 
 } // namespace
 
-int modCliMain::Run(const QStringList& arguments)
+bool modCliMain::NeedsPaint(const QStringList& arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        const QString name = argument.section(u'=', 0, 0);
+        return name == u"--pdf" || name == u"--png" || name == u"--svg";
+    });
+}
+
+int modCliMain::Run(const QStringList& arguments, cCliPaint& paint)
 {
     const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
     if (!call.Error().isEmpty()) {
@@ -53,6 +61,6 @@ int modCliMain::Run(const QStringList& arguments)
             return modExit::Failed;
         }
     }
-    const int code = call.Command()->Run({call, user, clock, shell, book.get()});
+    const int code = call.Command()->Run({call, user, clock, shell, book.get(), paint});
     return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
 }

@@ -1,0 +1,25 @@
+#include "app/cQtPaint.h"
+
+#include "views/cChartData.h"
+#include "windows/chart/modChartPainter.h"
+#include "windows/report/cReportPrinter.h"
+#include "windows/report/modReportPdf.h"
+
+#include <QApplication>
+#include <QSaveFile>
+
+bool cQtPaint::PaintReport(const QString& html, const QString& path)
+{
+    cReportPrinter pages(html, QApplication::font().family(), QStringLiteral("Kontorelle"));
+    return modReportPdf::Write(pages, path);
+}
+
+bool cQtPaint::PaintChart(const cChartData& chart, const QString& path)
+{
+    constexpr QSize size(1000, 600);
+    const bool isSvg = path.endsWith(QLatin1StringView(".svg"), Qt::CaseInsensitive);
+    const QByteArray picture = isSvg ? modChartPainter::Svg(chart, size) : modChartPainter::Png(chart, size);
+    QSaveFile file(path);
+    return !picture.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size()
+        && file.commit();
+}

@@ -1,0 +1,121 @@
+#include "cCliRun.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+// Reports from the command line: the program itself on a small book.
+class testCliReport final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void AsTable();
+    void AsJson();
+    void Files();
+    void Refused_data();
+    void Refused();
+
+private:
+    [[nodiscard]] cCliRun Run(const QString& line) const;
+    [[nodiscard]] QJsonObject Json(const QString& line) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+cCliRun testCliReport::Run(const QString& line) const
+{
+    return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
+                          QStringList{u"--profile"_s, m_folder->path()} + line.split(u'|'));
+}
+
+QJsonObject testCliReport::Json(const QString& line) const
+{
+    return QJsonDocument::fromJson(Run(line + u"|--json"_s).Out.toUtf8()).object();
+}
+
+void testCliReport::initTestCase()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    for (const QString& entry :
+         {u"--amount|300|--category|Wohnung; Strom|--date|2026-02-01|--interval|Einmalig"_s,
+          u"--amount|20|--category|Auto; Benzin|--date|2026-02-03|--account|Bargeld"_s,
+          u"--amount|1000|--category|Einkommen; Freiberuflich|--kind|Einnahme|--date|2026-02-05"_s,
+          u"--amount|5|--category|Auto; Benzin|--date|2099-01-01|--account|Bargeld"_s}) {
+        QCOMPARE(Run(u"add|"_s + entry).Code, 0);
+    }
+    QCOMPARE(Run(u"accounts|start|Girokonto|50|--date|2026-01-01"_s).Code, 0);
+}
+
+void testCliReport::AsTable()
+{
+    const cCliRun run = Run(u"report|Summe|aller|Werte|--period|Alle Buchungen|--by-amount|--no-future"_s);
+    QCOMPARE(run.Code, 0);
+    const QString text = QString(run.Out).replace(u'\u00A0', u' ').simplified();
+    QVERIFY2(text.contains(u"Ausgaben 320,00 € 2 Wohnung 300,00 € 1 Strom 300,00 € 1 Auto 20,00 €"_s),
+             qPrintable(run.Out));
+}
+
+// Nothing that the window has chosen to hide is missing, unless it is asked for.
+void testCliReport::AsJson()
+{
+    const QString line = u"report|summe|--period|Alle Buchungen"_s;
+    QCOMPARE(Json(line).value(u"Difference"_s).toDouble(), 725.0);
+    QCOMPARE(Json(line + u"|--no-start|--no-future"_s).value(u"Difference"_s).toDouble(), 680.0);
+    const QJsonObject cash = Json(line + u"|--account|bargeld"_s).value(u"Expense"_s).toObject();
+    QCOMPARE(cash.value(u"Amount"_s).toDouble(), 25.0);
+    QCOMPARE(cash.value(u"Entries"_s).toInt(), 2);
+    const QJsonObject february = Json(u"report|DURCHSCHNITT|--from|2026-02-01|--to|28.2.2026"_s);
+    QCOMPARE(february.value(u"Income"_s).toObject().value(u"Amount"_s).toDouble(), 1123.46); // 1000 / 27 * 364 / 12
+}
+
+void testCliReport::Files()
+{
+    const QString page = m_folder->filePath(u"b.html"_s);
+    const QString pdf = m_folder->filePath(u"b.pdf"_s);
+    const QString table = m_folder->filePath(u"b.csv"_s);
+    const cCliRun run =
+        Run(u"report|summe|--html|%1|--csv|%2|--pdf|%3|--from|2026-02-01|--to|2026-02-28"_s.arg(page, table, pdf));
+    QCOMPARE(run.Code, 0);
+    QCOMPARE(run.Out, QString()); // the figures have gone into the files
+    QFile painted(pdf);
+    QVERIFY(painted.open(QIODevice::ReadOnly));
+    QVERIFY(painted.read(5) == "%PDF-");
+    QFile html(page);
+    QVERIFY(html.open(QIODevice::ReadOnly));
+    QVERIFY(html.readAll().contains("SHOWENTRIES://Ausgaben|01.02.2026|28.02.2026|Alle Konten|Auto; Benzin"));
+    QFile csv(table);
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    QVERIFY(csv.readAll().contains("Ausgaben;Wohnung;Strom;300,00;1"));
+}
+
+void testCliReport::Refused_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("no such report") << u"report|mittel"_s << 2 << u"durchschnitt, summe, limit"_s;
+    QTest::newRow("no such account") << u"report|summe|--account|Nirgends"_s << 1 << u"Nirgends"_s;
+    QTest::newRow("period and days") << u"report|summe|--period|Letzter Monat|--from|2026-01-01"_s << 2
+                                     << u"--period"_s;
+    QTest::newRow("the book itself") << u"report|summe|--html|%1/Veltrino Kontorelle/data.db"_s << 2
+                                     << u"Datenbank selbst"_s;
+    QTest::newRow("no such folder") << u"report|summe|--html|%1/nirgends/b.html"_s << 1 << u"nirgends"_s;
+}
+
+void testCliReport::Refused()
+{
+    QFETCH(QString, line);
+    const cCliRun run = Run(line.replace(u"%1"_s, m_folder->path()));
+    QTEST(run.Code, "code");
+    QFETCH(QString, said);
+    QVERIFY2(run.Error.contains(said), qPrintable(run.Text()));
+}
+
+QTEST_GUILESS_MAIN(testCliReport)
+#include "testCliReport.moc"

@@ -1,0 +1,122 @@
+#include "cCliRun.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr const char* statement = ":20:STARTUMS\r\n:25:99900010/4711000815\r\n:60F:C260201EUR900,00\r\n"
+                                  ":61:260203D23,10N024NONREF\r\n:86:106?00KARTENZAHLUNG?20SVWZ+Danke?32REWE Markt\r\n"
+                                  ":61:260205D4,20N024NONREF\r\n:86:106?00KARTENZAHLUNG?20SVWZ+Brezen?32Korn\r\n"
+                                  ":62F:C260205EUR872,70\r\n-\r\n";
+
+} // namespace
+
+// The user's own rules from the command line, end to end: the program itself on a new book each time.
+class testCliRules final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_file = m_folder->filePath(u"giro.sta"_s);
+        QFile file(m_file);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(statement);
+        file.close();
+        Do(u"import|"_s + m_file + u"|--book-account|Girokonto"_s);
+        Do(u"rules|add|--text|brezen|--kind|Ausgabe|--account|Girokonto|--category|Freizeit; Kino / Theater"_s);
+        Do(u"rules|add|--counterparty|Korn|--category|Haushalt; Getränke|--interval|monatlich|--description|Brot"_s);
+    }
+
+    void ListAndOrder()
+    {
+        QCOMPARE(List(u"Rows"_s), QStringList({u"1"_s, u"0"_s}));
+        QCOMPARE(List(u"EntryAccount"_s), QStringList({u"Girokonto"_s, QString()}));
+        Do(u"rules|move|2|1"_s);
+        QCOMPARE(List(u"Rows"_s), QStringList({u"1"_s, u"0"_s}));
+        QCOMPARE(List(u"EntryInterval"_s), QStringList({u"Monatlich"_s, QString()}));
+        Do(u"rules|switch|1|off"_s);
+        QCOMPARE(List(u"Rows"_s), QStringList({u"0"_s, u"1"_s}));
+        QVERIFY(Do(u"rules"_s).Out.contains(u"Text enthält „brezen“, Ausgabe, Konto Girokonto"_s));
+        QCOMPARE(Run(u"rules|delete|1"_s).Code, 1);
+        Do(u"rules|delete|1|--yes"_s);
+        QCOMPARE(List(u"Text"_s), QStringList(u"brezen"_s));
+    }
+
+    // The rule shows in what is proposed, and a file can be tried without reading it in.
+    void Applied()
+    {
+        QCOMPARE(Do(u"propose|--json"_s).Column(u"Reason"_s),
+                 QStringList({u"Regel: rewe"_s, u"Eigene Regel: brezen"_s}));
+        Do(u"rules|move|2|1"_s);
+        const QJsonArray rows = Do(u"rules|test|--json|"_s + m_file).Json();
+        QCOMPARE(rows.size(), 2);
+        QVERIFY(rows.at(0)[u"Rule"_s].isNull());
+        QCOMPARE(rows.at(1)[u"Rule"_s][u"EntryDescription"_s].toString(), u"Brot"_s);
+        QCOMPARE(Do(u"rules|test|2|--json"_s).Json().at(0)[u"Rule"_s][u"Number"_s].toInt(), 1);
+    }
+
+    void FromARow()
+    {
+        Do(u"rules|add|--from|2|--category|Haushalt; Getränke"_s);
+        QCOMPARE(List(u"Counterparty"_s), QStringList({u"Korn"_s, QString(), u"Korn"_s})); // before the one it had
+        QCOMPARE(List(u"EntryType"_s).constFirst(), u"Ausgabe"_s);
+    }
+
+    void Refused_data() const
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<int>("code");
+        QTest::newRow("no condition") << u"rules|add|--category|Haushalt"_s << 1;
+        QTest::newRow("nothing to set") << u"rules|add|--text|x"_s << 1;
+        QTest::newRow("no such category") << u"rules|add|--text|x|--category|Rohrpost"_s << 1;
+        QTest::newRow("no kind of a bank's") << u"rules|add|--text|x|--kind|Umbuchung|--category|Haushalt"_s << 2;
+        QTest::newRow("no such rule") << u"rules|delete|3|--yes"_s << 1;
+        QTest::newRow("no number") << u"rules|move|eins|2"_s << 2;
+        QTest::newRow("neither on nor off") << u"rules|switch|1|vielleicht"_s << 2;
+        QTest::newRow("no such row") << u"rules|test|99"_s << 1;
+        QTest::newRow("no such file") << u"rules|test|fehlt.sta"_s << 1;
+    }
+
+    void Refused()
+    {
+        QFETCH(const QString, line);
+        QFETCH(const int, code);
+        const cCliRun run = Run(line);
+        QVERIFY2(run.Code == code && !run.Error.isEmpty(), qPrintable(run.Text()));
+        QCOMPARE(List(u"Number"_s), QStringList({u"1"_s, u"2"_s}));
+    }
+
+private:
+    [[nodiscard]] cCliRun Run(const QString& line) const
+    {
+        return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
+                              QStringList{u"--profile"_s, m_folder->path()} + line.split(u'|'));
+    }
+
+    // Runs what has to succeed.
+    cCliRun Do(const QString& line) const
+    {
+        const cCliRun run = Run(line);
+        if (run.Code != 0) {
+            qFatal("%s: %s", qPrintable(line), qPrintable(run.Text()));
+        }
+        return run;
+    }
+
+    [[nodiscard]] QStringList List(const QString& name) const { return Do(u"rules|--json"_s).Column(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_file;
+};
+
+QTEST_GUILESS_MAIN(testCliRules)
+#include "testCliRules.moc"

@@ -1,0 +1,48 @@
+#include "cCliRun.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Its rows do not lead from the first balance to the last one: an expense of 23.10 euros is missing.
+constexpr const char* incomplete =
+    ":20:STARTUMS\r\n:25:99900010/4711000815\r\n:60F:C260201EUR900,00\r\n"
+    ":61:260204D660,00N024NONREF\r\n:86:106?00DAUERAUFTRAG?20SVWZ+Miete Februar?32Tann\r\n"
+    ":62F:C260205EUR216,90\r\n-\r\n";
+
+} // namespace
+
+// The statement of a bank account from the command line, from the file of the bank to what is wrong with it.
+class testCliStatement final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ShowsWhatIsMissing()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath(u"giro.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(incomplete);
+        file.close();
+        const auto run = [&](const QString& words) {
+            return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
+                                  QStringList{u"--profile"_s, folder.path()} + words.split(u'|'));
+        };
+        QCOMPARE(run(u"import|--book-account|Girokonto|"_s + file.fileName()).Code, 0);
+        const QJsonObject all =
+            QJsonDocument::fromJson(run(u"statement|--account|girokonto|--json"_s).Out.toUtf8()).object();
+        QCOMPARE(cCliRun::Column(all.value(u"Differences"_s).toArray(), u"Missing"_s), QStringList(u"-23.1"_s));
+        QCOMPARE(cCliRun::Column(all.value(u"Differences"_s).toArray(), u"From"_s), QStringList(u"2026-02-02"_s));
+        QCOMPARE(cCliRun::Column(all.value(u"Rows"_s).toArray(), u"Balance"_s), QStringList(u"216.9"_s));
+        QVERIFY(run(u"statement|--from|2026-02-05"_s).Out.contains(u"Ab dem 02.02.2026 fehlen 23,10"));
+        QCOMPARE(run(u"statement|--account|4712"_s).Code, 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(testCliStatement)
+#include "testCliStatement.moc"
