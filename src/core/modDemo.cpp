@@ -6,6 +6,7 @@
 #include "store/cDataAccess.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -79,6 +80,37 @@ bool WriteEvents(cDataAccess& data, cEntryItemList list)
     return std::all_of(list.begin(), list.end(), [&](cEntryItem& entry) { return data.AddNewEntry(entry); });
 }
 
+struct cLimit
+{
+    const char* Path;
+    const char* Amount; // a month, as it is stored
+};
+
+constexpr std::array<cLimit, 8> limits{{
+    {"Haushalt; Lebensmittel", "650.00"},
+    {"Haushalt; Anschaffungen", "150.00"},
+    {"Alltag; Kleidung", "120.00"},
+    {"Alltag; Bücher und Zeitschriften", "30.00"},
+    {"Auto; Benzin", "180.00"},
+    {"Auto; Parken", "20.00"},
+    {"Freizeit; Restaurant / Café", "150.00"},
+    {"Kinder; Spielzeug", "40.00"},
+}};
+
+// What the family wants to spend in a month at most.
+bool WriteLimits(cDataAccess& data)
+{
+    return std::all_of(limits.begin(), limits.end(), [&](const cLimit& limit) {
+        const QString path = QString::fromUtf8(limit.Path);
+        std::optional<cTemplateItem> item = data.FindTemplate(modTemplate::MainOf(path), modTemplate::SubOf(path));
+        if (!item) {
+            return false;
+        }
+        item->TemplateDefaultValue = QString::fromLatin1(limit.Amount);
+        return data.ChangeTemplate(*item);
+    });
+}
+
 // The bank's account numbers under the names that the accounts have in the book.
 bool WriteMapping(cDataAccess& data)
 {
@@ -104,5 +136,6 @@ bool modDemo::Write(cDataAccess& data, const cDemoPlan& plan)
     const auto fixed = static_cast<int>(series.size() + events.size()) + startBalances;
     const int purchases = plan.Entries == 0 ? UsualPurchases(plan) : qMax(plan.Entries - fixed, 0) + OpenRows;
     return WriteStartBalances(data, FirstDay(plan)) && WriteSeries(data, plan, series) && WriteEvents(data, events)
-        && WritePurchases(data, Purchases(plan, purchases)) && WriteRows(data, Mail(plan)) && WriteMapping(data);
+        && WritePurchases(data, Purchases(plan, purchases)) && WriteRows(data, Mail(plan)) && WriteMapping(data)
+        && WriteLimits(data);
 }

@@ -10,26 +10,43 @@
 #include "app/cQtUser.h"
 #include "base/cClock.h"
 #include "base/cProgress.h"
+#include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "core/modDemo.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "tools/screenshots/cCamera.h"
+#include "tools/screenshots/takeAssistant.h"
+#include "tools/screenshots/takeReview.h"
+#include "views/cAccountStatement.h"
 #include "views/cAssignList.h"
+#include "views/cChartMaker.h"
 #include "views/cEntryEditor.h"
 #include "views/cImportReview.h"
+#include "views/cLimitWatch.h"
 #include "views/cMainModel.h"
+#include "views/cRuleList.h"
 #include "views/cSeriesChange.h"
+#include "views/cStatisticsModel.h"
 #include "views/cTemplateManager.h"
+#include "windows/cAccountPanel.h"
+#include "windows/cChartPrinter.h"
+#include "windows/chart/cChartBox.h"
 #include "windows/cListPrinter.h"
 #include "windows/frmBuchung.h"
 #include "windows/frmKategorie.h"
+#include "windows/frmKontoauszug.h"
 #include "windows/frmKorrektur.h"
 #include "windows/frmMain.h"
 #include "windows/frmPasswort.h"
+#include "windows/frmRegeln.h"
+#include "windows/frmStatistik.h"
 #include "windows/frmSuche.h"
 #include "windows/frmZuordnung.h"
+#include "windows/report/cReportPane.h"
+#include "windows/report/cReportPrinter.h"
 
 #include <QApplication>
 #include <QDir>
@@ -50,12 +67,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QDate today(2026, 11, 21);
-
 class cFixedClock final : public cClock
 {
 public:
-    [[nodiscard]] QDate Today() const override { return today; }
+    [[nodiscard]] QDate Today() const override { return sceneDay; }
 };
 
 QPalette DarkPalette()
@@ -73,13 +88,6 @@ QPalette DarkPalette()
     return palette;
 }
 
-void Settle()
-{
-    for (int i = 0; i < 20; ++i) {
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-}
-
 // One program on a book of its own in a temporary profile.
 class cStage
 {
@@ -92,7 +100,7 @@ public:
         QFile::copy(m_shell.InstalledFile(u"template.dat"_s), path);
         if (kind == eBook::Demo) {
             cBook book(m_user);
-            m_isReady = book.Open(path) && modDemo::Write(book.Data(), {.Today = today});
+            m_isReady = book.Open(path) && modDemo::Write(book.Data(), {.Today = sceneDay});
         }
         m_isReady = m_program.Start(path);
         m_program.Window().resize(1280, 800);
@@ -111,42 +119,6 @@ private:
     cFixedClock m_clock;
     cMainProgram m_program{{m_shell, m_registry, m_user, m_rescue, m_clock}, QStringLiteral(APP_VERSION)};
     bool m_isReady = false;
-};
-
-class cCamera
-{
-public:
-    cCamera(const QString& folder, const QString& palette) : m_folder(folder), m_palette(palette) {}
-
-    void Take(QWidget& widget, const QString& name)
-    {
-        Settle();
-        const QString path = QDir(m_folder).filePath(u"%1-%2.png"_s.arg(name, m_palette));
-        m_isGood = widget.grab().save(path) && m_isGood;
-        std::printf("%s\n", qPrintable(path));
-    }
-
-    // Opens a dialog through `open`, which blocks, and takes its picture from within.
-    template <typename tOpen>
-    void TakeDialog(const QString& name, tOpen open)
-    {
-        QTimer::singleShot(50, qApp, [&] {
-            QWidget* dialog = QApplication::activeModalWidget();
-            m_isGood = dialog != nullptr && m_isGood;
-            if (dialog != nullptr) {
-                Take(*dialog, name);
-                dialog->close();
-            }
-        });
-        open();
-    }
-
-    [[nodiscard]] bool IsGood() const { return m_isGood; }
-
-private:
-    QString m_folder;
-    QString m_palette;
-    bool m_isGood = true;
 };
 
 // The entries that an open bank transaction may belong to, and the list without any.
@@ -191,7 +163,7 @@ bool TakeDemo(cCamera& camera)
     program.Review().Match({}, progress);
     camera.Take(window, u"kontoauszuege-abgeglichen"_s);
     camera.TakeDialog(u"eintrag-neu"_s, [&] { program.Navigation().OpenNewEntry(); });
-    camera.TakeDialog(u"eintrag"_s, [&] { program.Navigation().OpenEntry(15, today); });
+    camera.TakeDialog(u"eintrag"_s, [&] { program.Navigation().OpenEntry(15, sceneDay); });
     return true;
 }
 
@@ -218,7 +190,7 @@ bool TakeCategories(cCamera& camera)
     cBook book(user);
     const QString path = folder.filePath(u"Haushalt.db"_s);
     QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = today})
+    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})
         || !book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
         return false;
     }
@@ -292,7 +264,7 @@ bool TakeEditor(cCamera& camera)
     cBook book(user);
     const QString path = folder.filePath(u"Haushalt.db"_s);
     QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = today})) {
+    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
         return false;
     }
     cEntryEditor editor(book.Data(), user, clock);
@@ -333,6 +305,106 @@ bool TakeSearch(cCamera& camera)
     return true;
 }
 
+// A list as it is printed.
+void TakePages(cCamera& camera, cPrintable& printer, const QString& name)
+{
+    constexpr QSize paper(794, 1123); // A4 at 96 dots per inch
+    constexpr int margin = 57;
+    int count = 1;
+    for (int page = 0; page < count; ++page) {
+        QImage image(paper, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        count = printer.LayOut(image, QRectF(image.rect()).adjusted(margin, margin, -margin, -margin));
+        QPainter painter(&image);
+        printer.PaintPage(painter, page);
+        painter.end();
+        QLabel sheet;
+        sheet.setFixedSize(paper); // by itself it stays smaller than the screen
+        sheet.setPixmap(QPixmap::fromImage(image));
+        camera.Take(sheet, name + u"-%1"_s.arg(page + 1));
+    }
+}
+
+// The statement of a bank account: no row, no balance of the bank, one that agrees, one that differs; and on paper.
+bool TakeStatement(cCamera& camera)
+{
+    QTemporaryDir folder;
+    cQtShell shell(folder.path());
+    cQtRegistry registry(folder.path());
+    cQtUser user;
+    cFixedClock clock;
+    cBook book(user);
+    const QString path = folder.filePath(u"Haushalt.db"_s);
+    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
+    if (!book.Open(path)) {
+        return false;
+    }
+    cConfiguration configuration(registry);
+    configuration.SetDatabase(&book.Settings());
+    cAmountFormat format(configuration);
+    const cAccountStatement::cParts parts{book.Data(), book.Settings(), format, clock};
+    const auto take = [&](const QString& name) {
+        cAccountStatement statement(parts);
+        frmKontoauszug window(statement);
+        window.show();
+        camera.Take(window, name);
+    };
+    take(u"kontoauszug-leer"_s);
+    if (!modDemo::Write(book.Data(), {.Today = sceneDay})) {
+        return false;
+    }
+    book.Settings().Reload(); // the household was written past them
+    take(u"kontoauszug-ohne-saldo"_s);
+    const cImportEntry newest = book.Data().GetImportEntries().last();
+    const QString name = u"SALDO:"_s + newest.ImportAccount;
+    const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
+    book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
+    take(u"kontoauszug"_s);
+    cAccountStatement statement(parts);
+    cListPrinter printer(statement);
+    TakePages(camera, printer, u"druck-kontoauszug"_s);
+    return true;
+}
+
+// The user's own rules: none yet, a list of them, and a new one made from a transaction.
+bool TakeRules(cCamera& camera)
+{
+    QTemporaryDir folder;
+    cQtShell shell(folder.path());
+    cQtRegistry registry(folder.path());
+    cQtUser user;
+    cBook book(user);
+    const QString path = folder.filePath(u"Haushalt.db"_s);
+    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
+    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
+        return false;
+    }
+    book.Settings().Reload(); // the household was written past them
+    cConfiguration configuration(registry);
+    configuration.SetDatabase(&book.Settings());
+    cAmountFormat format(configuration);
+    const cRuleList::cParts parts{book.Data(), book.Settings(), format, user};
+    const auto take = [&](const QString& name, const cImportEntry* row) {
+        cRuleList rules(parts);
+        if (row != nullptr) {
+            rules.StartFrom(*row, u"Haushalt; Lebensmittel"_s);
+        }
+        frmRegeln window(rules);
+        window.show();
+        camera.Take(window, name);
+    };
+    take(u"regeln-leer"_s, nullptr);
+    book.Settings().Set(u"OwnRules"_s,
+                        u"1;sign=out;text=bäcker|konditorei;category=Haushalt%3b Lebensmittel\n"
+                        "1;counterparty=Hausverwaltung Lindenhof;account=Girokonto;category=Wohnung%3b Miete;"
+                        "interval=Monatlich;description=Miete Lindenhof\n"
+                        "1;off;text=amazon;category=Haushalt%3b Anschaffungen\n2;weekday=7;category=Haushalt"_s);
+    take(u"regeln"_s, nullptr);
+    const cImportEntryList rows = book.Data().GetImportEntries();
+    take(u"regeln-aus-umsatz"_s, rows.isEmpty() ? nullptr : &rows.constLast());
+    return !rows.isEmpty();
+}
+
 // Password, national settings and automatic backups.
 bool TakeSettings(cCamera& camera)
 {
@@ -351,6 +423,104 @@ bool TakeSettings(cCamera& camera)
     return true;
 }
 
+// Every report and the charts, and the entries behind a line.
+bool TakeStatistics(cCamera& camera)
+{
+    cStage stage(cStage::eBook::Demo);
+    if (!stage.IsReady()) {
+        return false;
+    }
+    frmMain& window = stage.Program().Window();
+    cStatisticsModel& model = stage.Program().Navigation().Statistics();
+    window.ShowPage(frmMain::ePage::Statistics);
+    for (const auto& [type, name] : {std::pair{eReport::Average, u"durchschnitt"_s},
+                                     std::pair{eReport::Sum, u"summe"_s}, std::pair{eReport::Limit, u"limit"_s}}) {
+        model.ChooseReport(type);
+        camera.Take(window, u"bericht-"_s + name);
+        cReportPrinter pages(model.PrintHtml(), QApplication::font().family(), u"Kontorelle"_s);
+        TakePages(camera, pages, u"druck-"_s + name);
+    }
+    model.ChooseReport(eReport::Sum);
+    auto* report = window.findChild<cReportPane*>();
+    report->ShowFind();
+    report->findChild<QLineEdit*>()->setText(u"geldanlage"_s);
+    camera.Take(window, u"bericht-suchen"_s);
+    report->HideFind();
+    camera.TakeDialog(u"seitenansicht-bericht"_s, [&] { stage.Program().Navigation().Open(modCommand::PrintPreview); });
+    model.ChoosePage(cStatisticsModel::ePage::Charts);
+    window.findChild<frmStatistik*>()->findChild<QTabWidget*>()->setCurrentIndex(1);
+    camera.Take(window, u"diagramme"_s);
+    model.FirstChart().ChooseKind(eChartKind::ExpenseMonths);
+    model.SecondChart().ChooseKind(eChartKind::Balances);
+    camera.Take(window, u"diagramme-verlauf"_s);
+    cChartPrinter charts({model.FirstChart().Data(), model.SecondChart().Data()}, u"Kontorelle"_s);
+    TakePages(camera, charts, u"druck-diagramme"_s);
+    model.ShowNode({eReportKind::Expense, u"Wohnung"_s});
+    camera.Take(window, u"bericht-eintraege"_s);
+    return true;
+}
+
+// Every chart by itself, with what makes it difficult: one slice, two periods, ten years, a forecast below a limit, the
+// table, and nothing to show.
+bool TakeCharts(cCamera& camera)
+{
+    QTemporaryDir folder;
+    cQtShell shell(folder.path());
+    cQtRegistry registry(folder.path());
+    cQtUser user;
+    const cFixedClock clock;
+    cBook book(user);
+    const QString path = folder.filePath(u"Haushalt.db"_s);
+    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
+    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
+        return false;
+    }
+    cTemplateItem account = book.Data().FindAccount(u"Girokonto"_s).value_or(cTemplateItem{});
+    account.TemplateDefaultValue = u"28800.00"_s;
+    const cConfiguration configuration(registry);
+    const cAmountFormat format(configuration);
+    cChartMaker maker(book.Data(), format, sceneDay);
+    if (!book.Data().ChangeTemplate(account)) {
+        return false;
+    }
+    const auto take = [&](const cChartWish& wish, const QString& name) {
+        cChartBox box;
+        box.SetData(maker.Make(wish));
+        box.resize(box.fontMetrics().averageCharWidth() * 120, box.fontMetrics().height() * 26);
+        box.show();
+        camera.Take(box, u"diagramm-"_s + name);
+        if (wish.Kind == eChartKind::Months) {
+            box.ShowTable(true);
+            camera.Take(box, u"diagramm-tabelle"_s);
+        }
+    };
+    const modPeriod::cRange year = modPeriod::Year(sceneDay, 0);
+    const modPeriod::cRange before = cChartWish::YearBefore(year);
+    take({.Kind = eChartKind::ExpensePie, .Range = year}, u"ausgaben"_s);
+    take({.Kind = eChartKind::ExpensePie, .Range = year, .Group = u"Haushalt"_s}, u"haushalt"_s);
+    take({.Kind = eChartKind::ExpensePie, .Range = year, .Second = before}, u"ausgaben-vorjahr"_s);
+    take({.Kind = eChartKind::IncomePie, .Range = year}, u"einnahmen"_s);
+    take({.Kind = eChartKind::Months, .Range = year}, u"monate"_s);
+    take({.Kind = eChartKind::Months, .Range = {sceneDay.addYears(-3), sceneDay}}, u"drei-jahre"_s);
+    take({.Kind = eChartKind::Months, .Range = year, .Second = before}, u"monate-vorjahr"_s);
+    take({.Kind = eChartKind::ExpenseMonths, .Range = year}, u"kategorien"_s);
+    take({.Kind = eChartKind::Balances, .Range = year, .ForecastMonths = 6}, u"verlauf"_s);
+    take({.Kind = eChartKind::Balances, .Range = year, .Account = u"Girokonto"_s, .ForecastMonths = 12},
+         u"girokonto"_s);
+    take(
+        {.Kind = eChartKind::ExpensePie, .Range = {sceneDay.addYears(30), sceneDay.addYears(31)}, .ShowsFuture = false},
+        u"leer"_s);
+    cAccountListModel accounts(format);
+    cLimitWatch watch(book.Data(), format, clock, accounts);
+    accounts.SetAccounts(book.Data().GetAccounts(), {{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
+    watch.Look();
+    cAccountPanel panel(accounts);
+    panel.SetTitle(u"Kontostände"_s);
+    panel.show();
+    camera.Take(panel, u"konten-warnung"_s);
+    return true;
+}
+
 // The list as it is printed, and its preview.
 bool TakePrinted(cCamera& camera)
 {
@@ -366,21 +536,7 @@ bool TakePrinted(cCamera& camera)
 
     cListPrinter printer(model.Entries(), stage.Program().Window().EntryColumns(),
                          {u"Buchungen"_s, {u"Konto: Girokonto"_s}, u"Haushalt"_s, {{u"Summe"_s, model.TotalText()}}});
-    constexpr QSize paper(794, 1123); // A4 at 96 dots per inch
-    constexpr int margin = 57;
-    int count = 1;
-    for (int page = 0; page < count; ++page) {
-        QImage image(paper, QImage::Format_RGB32);
-        image.fill(Qt::white);
-        count = printer.LayOut(image, QRectF(image.rect()).adjusted(margin, margin, -margin, -margin));
-        QPainter painter(&image);
-        printer.PaintPage(painter, page);
-        painter.end();
-        QLabel sheet;
-        sheet.setFixedSize(paper); // by itself it stays smaller than the screen
-        sheet.setPixmap(QPixmap::fromImage(image));
-        camera.Take(sheet, u"druck-%1"_s.arg(page + 1));
-    }
+    TakePages(camera, printer, u"druck"_s);
     return true;
 }
 
@@ -400,8 +556,10 @@ int main(int argc, char* argv[])
         QApplication::setPalette(DarkPalette());
     }
     cCamera camera(arguments.at(1), arguments.at(2));
-    return TakeDemo(camera) && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera)
-            && TakeSettings(camera) && TakePrinted(camera) && camera.IsGood()
+    return TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeEmpty(camera) && TakeEditor(camera)
+            && TakeCategories(camera) && TakeSearch(camera) && TakeRules(camera) && TakeReview(camera)
+            && TakeSettings(camera) && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera)
+            && camera.IsGood()
         ? 0
         : 1;
 }

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QApplication>
+#include <QDate>
+#include <QDir>
+#include <QEventLoop>
+#include <QString>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdio>
+
+// The day of all pictures.
+inline const QDate sceneDay(2026, 11, 21);
+
+// Lets everything that is waiting be done and painted.
+inline void Settle()
+{
+    for (int i = 0; i < 20; ++i) {
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+}
+
+// Takes pictures of windows into files of one folder, named after window and palette.
+class cCamera
+{
+public:
+    cCamera(const QString& folder, const QString& palette) : m_folder(folder), m_palette(palette) {}
+
+    void Take(QWidget& widget, const QString& name)
+    {
+        Settle();
+        const QString path = QDir(m_folder).filePath(QStringLiteral("%1-%2.png").arg(name, m_palette));
+        m_isGood = widget.grab().save(path) && m_isGood;
+        std::printf("%s\n", qPrintable(path));
+    }
+
+    // Opens a dialog through `open`, which blocks, and takes its picture from within.
+    template <typename tOpen>
+    void TakeDialog(const QString& name, tOpen open)
+    {
+        QTimer::singleShot(50, qApp, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            m_isGood = dialog != nullptr && m_isGood;
+            if (dialog != nullptr) {
+                Take(*dialog, name);
+                dialog->close();
+            }
+        });
+        open();
+    }
+
+    [[nodiscard]] bool IsGood() const { return m_isGood; }
+
+private:
+    QString m_folder;
+    QString m_palette;
+    bool m_isGood = true;
+};
