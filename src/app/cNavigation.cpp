@@ -84,6 +84,8 @@ frmImport& cNavigation::Statements()
     if (m_statements == nullptr) {
         m_statements = new frmImport(*m_review, &m_window->StatementsPage());
         m_window->StatementsPage().layout()->addWidget(m_statements);
+        QObject::connect(m_statements, &frmImport::StatementRequested, m_model, [this] { OpenAccountStatement(); });
+        QObject::connect(m_model, &cMainModel::LayoutReset, m_statements, &frmImport::ResetLayout);
     }
     return *m_statements;
 }

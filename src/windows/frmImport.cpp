@@ -29,6 +29,7 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
       m_import(new QPushButton(modIcon::Get(u"import"_s), cText::Tr("Datei i&mportieren…"), this)),
       m_assistant(new QAction(cText::Tr("Import&assistent…"), this)),
       m_again(new QAction(cText::Tr("&Noch einmal mit dem Assistenten…"), this)),
+      m_statement(new QAction(cText::Tr("&Kontoauszug anzeigen…"), this)),
       m_reviewImport(new QPushButton(cText::Tr("&Diesen Import durchsehen…"), this)),
       m_panel(new cStagedPanel(review, this)),
       m_summary(new cSummaryText(this))
@@ -46,10 +47,13 @@ void frmImport::Build()
     m_panel->AddFirst(m_import);
     m_panel->AddMore(m_assistant);
     m_panel->AddMore(m_again);
+    m_panel->AddMore(m_statement);
     m_assistant->setToolTip(cText::Tr("Zeigt vor dem Einlesen, wie eine Datei gelesen wird; Spalten und Konto lassen "
                                       "sich dort ändern"));
     m_again->setToolTip(cText::Tr("Liest die zuletzt eingelesenen Dateien anders ein; was von ihnen noch offen ist, "
                                   "wird dabei ersetzt"));
+    m_statement->setToolTip(cText::Tr("Zeigt die Umsätze eines Bankkontos mit dem Kontostand nach jedem und vergleicht "
+                                      "ihn mit dem, den die Bank nennt"));
     m_reviewImport->setToolTip(cText::Tr("Zeigt nur die Umsätze der zuletzt eingelesenen Dateien in einem Fenster"));
     auto* result = new QHBoxLayout;
     result->addWidget(m_summary, 1);
@@ -67,6 +71,7 @@ void frmImport::Connect()
     connect(m_import, &QPushButton::clicked, this, &frmImport::ChooseFiles);
     connect(m_assistant, &QAction::triggered, this, &frmImport::ChooseWithAssistant);
     connect(m_again, &QAction::triggered, this, &frmImport::ReadAgain);
+    connect(m_statement, &QAction::triggered, this, &frmImport::StatementRequested);
     connect(m_reviewImport, &QPushButton::clicked, this, [this] { ReviewImport(); });
     connect(&m_panel->Actions(), &cStagedActions::ImportRequested, this, &frmImport::ReviewImport);
     connect(&m_review, &cImportReview::RowsChanged, this, &frmImport::ShowRows);

@@ -25,6 +25,9 @@ public:
 
     void ResetLayout(); // of the columns, as the settings have it now
 
+Q_SIGNALS:
+    void StatementRequested(); // the rows of an account with its balances
+
 protected:
     void showEvent(QShowEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -44,6 +47,7 @@ private:
     QPushButton* m_import;
     QAction* m_assistant;
     QAction* m_again;
+    QAction* m_statement;
     QPushButton* m_reviewImport; // offered while the summary of an import is in sight
     cStagedPanel* m_panel;
     cSummaryText* m_summary;
