@@ -35,7 +35,7 @@ QByteArray Transaction(QByteArray pattern, int row)
     return pattern.replace("%1", number.rightJustified(9, '0'))
         .replace("%2", QByteArray::number(1 + row % 90))
         .replace("%3", names.at(row % names.size()))
-        .replace("%4", "DE12999000104820000" + QByteArray::number(100 + row % 200))
+        .replace("%4", QByteArray::number(100 + row % 200).prepend("DE12999000104820000"))
         .replace("%5", Day(row, QStringLiteral("yyMMdd")))
         .replace("%6", Day(row, QStringLiteral("dd.MM.yyyy")))
         .replace("%7", Day(row, QStringLiteral("yyyyMMdd")))
@@ -91,7 +91,7 @@ int Write(const QString& folder)
         }
         file.write(sample.Head);
         for (int row = 0; row < rows; ++row) {
-            file.write(Transaction(sample.Row, row));
+            file.write(Transaction(QByteArray(sample.Row), row));
         }
         file.write(sample.Tail);
     }

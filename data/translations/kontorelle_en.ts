@@ -1170,10 +1170,6 @@ Do you want to save the entry anyway?</translation>
         <translation>Import statements</translation>
     </message>
     <message>
-        <source>CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle Dateien|*.*</source>
-        <translation>CSV/XLS/MT940/MT942/OFX/QIF file|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|All files|*.*</translation>
-    </message>
-    <message>
         <source>{0} trotzdem übernommen.</source>
         <translation>{0} imported anyway.</translation>
     </message>
@@ -1430,10 +1426,6 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     <message>
         <source>{0} nicht gespeichert</source>
         <translation>{0} not saved</translation>
-    </message>
-    <message>
-        <source>abgebrochen</source>
-        <translation>cancelled</translation>
     </message>
     <message>
         <source>Schlusssaldo {0}</source>
@@ -1700,20 +1692,12 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <translation>Fi&amp;lter:</translation>
     </message>
     <message>
-        <source>Schon vorhandene Umsätze</source>
-        <translation>Transactions already there</translation>
-    </message>
-    <message>
         <source>Der Kontoauszug wird eingelesen …</source>
         <translation>Importing the statement…</translation>
     </message>
     <message>
         <source>Die Umsätze werden gebucht …</source>
         <translation>Booking the transactions…</translation>
-    </message>
-    <message>
-        <source>Schon vorhanden und nicht noch einmal übernommen:</source>
-        <translation>Already there and not imported again:</translation>
     </message>
     <message>
         <source>ERROR: RevertStep
@@ -4374,6 +4358,1732 @@ Should they become new entries all the same? With No, only the others are booked
     <message>
         <source>Umsätze buchen</source>
         <translation>Book transactions</translation>
+    </message>
+    <message>
+        <source>Der Name &apos;{0}&apos; muss auf .{1} enden.</source>
+        <translation>The name &apos;{0}&apos; must end in .{1}.</translation>
+    </message>
+    <message>
+        <source>Bitte mit --png, --svg oder --csv angeben, wohin das Diagramm geschrieben werden soll.</source>
+        <translation>Please say with --png, --svg or --csv where to write the chart.</translation>
+    </message>
+    <message>
+        <source>Die Vorschau reicht von 0 bis {0} Monate.</source>
+        <translation>The forecast covers from 0 to {0} months.</translation>
+    </message>
+    <message>
+        <source>Das Diagramm &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation>There is no chart &apos;{0}&apos;. Possible values: {1}.</translation>
+    </message>
+    <message>
+        <source>Schreiben nicht möglich</source>
+        <translation>Writing is not possible</translation>
+    </message>
+    <message>
+        <source>Für dieses Diagramm gibt es keine Daten.</source>
+        <translation>There is no data for this chart.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; konnte nicht geschrieben werden: {1}</source>
+        <translation>The file &apos;{0}&apos; could not be written: {1}</translation>
+    </message>
+    <message>
+        <source>zeichnet ein Diagramm: {0}; ohne Angabe für das aktuelle Jahr</source>
+        <translation>draws a chart: {0}; of the current year unless told otherwise</translation>
+    </message>
+    <message>
+        <source>als Bild</source>
+        <translation>as a picture</translation>
+    </message>
+    <message>
+        <source>als Vektorgrafik</source>
+        <translation>as a vector graphic</translation>
+    </message>
+    <message>
+        <source>die Zahlen für eine Tabellenkalkulation</source>
+        <translation>the figures for a spreadsheet</translation>
+    </message>
+    <message>
+        <source>daneben das &quot;Vorjahr&quot; oder ein anderer Zeitraum</source>
+        <translation>beside it, &quot;Vorjahr&quot; (year before) or another period</translation>
+    </message>
+    <message>
+        <source>die Unterkategorien dieser Hauptkategorie</source>
+        <translation>the subcategories of this main category</translation>
+    </message>
+    <message>
+        <source>Verlauf: Monate der Vorschau, ohne Angabe 12</source>
+        <translation>verlauf (balances): months of the forecast, 12 unless told otherwise</translation>
+    </message>
+    <message>
+        <source>Verlauf: Vorschau mit dem Durchschnitt der Einzelausgaben</source>
+        <translation>verlauf (balances): forecast with the average of one-off expenses</translation>
+    </message>
+    <message>
+        <source>ohne Einträge nach heute</source>
+        <translation>without entries after today</translation>
+    </message>
+    <message>
+        <source>ohne Startguthaben</source>
+        <translation>without opening balances</translation>
+    </message>
+    <message>
+        <source>Heute</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>Tiefster Stand</source>
+        <translation>Lowest balance</translation>
+    </message>
+    <message>
+        <source>Die Vorschau reicht von 1 bis {0} Monate.</source>
+        <translation>The forecast covers from 1 to {0} months.</translation>
+    </message>
+    <message>
+        <source>sagt die Kontostände voraus: aus wiederkehrenden und schon eingetragenen Buchungen</source>
+        <translation>forecasts the account balances: from recurring entries and those already entered</translation>
+    </message>
+    <message>
+        <source>so viele Monate weit, 1 bis 12; ohne Angabe 12</source>
+        <translation>this many months ahead, 1 to 12; 12 unless told otherwise</translation>
+    </message>
+    <message>
+        <source>auch mit dem Durchschnitt der Einzelausgaben des letzten Jahres</source>
+        <translation>also with the average of last year&apos;s one-off expenses</translation>
+    </message>
+    <message>
+        <source>{0}: Der Aufbau kann nicht gemerkt werden. Das geht nur bei Tabellen mit einer Zeile für die Spaltennamen.</source>
+        <translation>{0}: The layout cannot be remembered. This only works for tables with a line of column names.</translation>
+    </message>
+    <message>
+        <source>Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken</source>
+        <translation>remember columns and layout for the next table with the same column names</translation>
+    </message>
+    <message>
+        <source>Den Bericht &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation>There is no report &apos;{0}&apos;. Possible values: {1}.</translation>
+    </message>
+    <message>
+        <source>Überschuss/Verlust</source>
+        <translation>Surplus/deficit</translation>
+    </message>
+    <message>
+        <source>Sparte</source>
+        <translation>Main category</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>Sonstiges</source>
+        <translation>Miscellaneous</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; konnte nicht geschrieben werden.</source>
+        <translation>The file &apos;{0}&apos; could not be written.</translation>
+    </message>
+    <message>
+        <source>rechnet einen Bericht aus: durchschnitt (je Monat), summe oder limit; ohne Angabe für das aktuelle Jahr</source>
+        <translation>calculates a report: durchschnitt (average per month), summe (total) or limit; of the current year unless told otherwise</translation>
+    </message>
+    <message>
+        <source>nach Betrag geordnet statt nach Namen</source>
+        <translation>sorted by amount instead of by name</translation>
+    </message>
+    <message>
+        <source>Limit: Ausgaben ohne Abzug von Erstattungen</source>
+        <translation>limit: expenses without deducting refunds</translation>
+    </message>
+    <message>
+        <source>ohne Einträge nach dem heutigen Tag</source>
+        <translation>without entries after today</translation>
+    </message>
+    <message>
+        <source>schreibt den Bericht als HTML-Seite</source>
+        <translation>writes the report as an HTML page</translation>
+    </message>
+    <message>
+        <source>schreibt den Bericht als PDF-Datei</source>
+        <translation>writes the report as a PDF file</translation>
+    </message>
+    <message>
+        <source>schreibt die Zahlen als CSV-Datei</source>
+        <translation>writes the figures as a CSV file</translation>
+    </message>
+    <message>
+        <source>schreibt die Zahlen als Excel-Datei</source>
+        <translation>writes the figures as an Excel file</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist keine Nummer. Die Nummern stehen in der Spalte Nr.</source>
+        <translation>&apos;{0}&apos; is not a number. The numbers are in the column No.</translation>
+    </message>
+    <message>
+        <source>Eine Regel mit der Nummer {0} gibt es nicht.</source>
+        <translation>There is no rule with the number {0}.</translation>
+    </message>
+    <message>
+        <source>Nr.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>Wenn</source>
+        <translation>If</translation>
+    </message>
+    <message>
+        <source>Dann</source>
+        <translation>Then</translation>
+    </message>
+    <message>
+        <source>Umsätze</source>
+        <translation>Transactions</translation>
+    </message>
+    <message>
+        <source>aus</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>Ein Umsatz ist Einnahme oder Ausgabe.</source>
+        <translation>A transaction is either income or an expense.</translation>
+    </message>
+    <message>
+        <source>Möglich sind on und off.</source>
+        <translation>Possible values: on and off.</translation>
+    </message>
+    <message>
+        <source>Regel</source>
+        <translation>Rule</translation>
+    </message>
+    <message>
+        <source>zeigt die eigenen Regeln für Umsätze in ihrer Reihenfolge; die erste, die passt, gilt</source>
+        <translation>shows your own rules for transactions in their order; the first one that matches applies</translation>
+    </message>
+    <message>
+        <source>legt eine Regel an; mindestens eine Bedingung und eine Angabe, was sie vorschlägt</source>
+        <translation>creates a rule; needs at least one condition and one thing to suggest</translation>
+    </message>
+    <message>
+        <source>Bedingung: Empfänger, Zweck oder Buchungstext enthält das; | trennt mehrere, * steht für beliebige Zeichen</source>
+        <translation>condition: payee, purpose or booking text contains this; | separates several, * stands for any characters</translation>
+    </message>
+    <message>
+        <source>Bedingung: Name oder Kontonummer des Empfängers</source>
+        <translation>condition: name or account number of the payee</translation>
+    </message>
+    <message>
+        <source>Bedingung: Einnahme oder Ausgabe</source>
+        <translation>condition: Einnahme (income) or Ausgabe (expense)</translation>
+    </message>
+    <message>
+        <source>Bedingung: eigenes Konto</source>
+        <translation>condition: own account</translation>
+    </message>
+    <message>
+        <source>Kategorie, die sie vorschlägt</source>
+        <translation>category that it suggests</translation>
+    </message>
+    <message>
+        <source>Beschreibung, die sie vorschlägt</source>
+        <translation>description that it suggests</translation>
+    </message>
+    <message>
+        <source>Bedingungen aus diesem Umsatz; die anderen Optionen gehen vor</source>
+        <translation>conditions from this transaction; the other options take precedence</translation>
+    </message>
+    <message>
+        <source>löscht eine Regel</source>
+        <translation>deletes a rule</translation>
+    </message>
+    <message>
+        <source>setzt eine Regel an eine andere Stelle der Reihenfolge</source>
+        <translation>moves a rule to another place in the order</translation>
+    </message>
+    <message>
+        <source>schaltet eine Regel ein oder aus</source>
+        <translation>switches a rule on or off</translation>
+    </message>
+    <message>
+        <source>zeigt, welche Regel für einen Umsatz oder für die Umsätze einer Datei gilt</source>
+        <translation>shows which rule applies to a transaction or to the transactions of a file</translation>
+    </message>
+    <message>
+        <source>Mit --account muss die Kontonummer genannt werden. Es gibt: {0}</source>
+        <translation>Please give the account number with --account. Possible values: {0}</translation>
+    </message>
+    <message>
+        <source>Von diesem Konto ist kein Umsatz eingelesen: {0}</source>
+        <translation>No transaction of this account has been imported: {0}</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; hat mehrere Kontonummern: {1}</source>
+        <translation>&apos;{0}&apos; has several account numbers: {1}</translation>
+    </message>
+    <message>
+        <source>zeigt den Auszug eines Bankkontos und vergleicht seinen Saldo mit der Bank</source>
+        <translation>shows the statement of a bank account and compares its balance with the bank</translation>
+    </message>
+    <message>
+        <source>Kontonummer, IBAN oder Konto des Buchs</source>
+        <translation>account number, IBAN or account of the book</translation>
+    </message>
+    <message>
+        <source>Der Kontoauszug wird geschrieben …</source>
+        <translation>Writing the statement…</translation>
+    </message>
+    <message>
+        <source>Eigene Regel: {0}</source>
+        <translation>Own rule: {0}</translation>
+    </message>
+    <message>
+        <source>Spalten und Aufbau lassen sich nur bei Tabellen angeben. Die Datei ist keine: {0}</source>
+        <translation>Columns and layout can be given for tables only. The file is not one: {0}</translation>
+    </message>
+    <message>
+        <source>Der Kontostand der Bank konnte nicht gespeichert werden.</source>
+        <translation>The balance given by the bank could not be saved.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat zu viele Umsätze für einen Kontoauszug. Es wurde nichts übernommen.</source>
+        <translation>The file has too many transactions for a statement. Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Das ZIP-Archiv enthält zu viele Dateien.</source>
+        <translation>The ZIP archive contains too many files.</translation>
+    </message>
+    <message>
+        <source>Im ZIP-Archiv ist kein Kontoauszug, der gelesen werden kann.</source>
+        <translation>The ZIP archive contains no statement that can be read.</translation>
+    </message>
+    <message>
+        <source>Mehrere Dateien im ZIP-Archiv nennen ihr Konto nicht. Entpacken Sie das Archiv, und lesen Sie die Dateien einzeln ein.</source>
+        <translation>Several files in the ZIP archive do not name their account. Unpack the archive and import the files one by one.</translation>
+    </message>
+    <message>
+        <source>ZIP-Archiv mit Kontoauszügen</source>
+        <translation>ZIP archive with statements</translation>
+    </message>
+    <message>
+        <source>{0}. Warnung: {1}</source>
+        <translation>{0}. Warning: {1}</translation>
+    </message>
+    <message>
+        <source>ohne Kontonummer</source>
+        <translation>no account number</translation>
+    </message>
+    <message>
+        <source>1 Umsatz</source>
+        <translation>1 transaction</translation>
+    </message>
+    <message>
+        <source>Es ist noch kein Kontoauszug eingelesen.</source>
+        <translation>No statement has been imported yet.</translation>
+    </message>
+    <message>
+        <source>Kein Umsatz gefunden</source>
+        <translation>No transactions found</translation>
+    </message>
+    <message>
+        <source>Lesen Sie mit &quot;Kontoauszug importieren&quot; (Strg+I) eine Datei Ihrer Bank ein.</source>
+        <translation>Use &quot;Import statement&quot; (Ctrl+I) to import a file from your bank.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie einen anderen Zeitraum, oder ändern Sie den Suchtext.</source>
+        <translation>Choose another period, or change the search text.</translation>
+    </message>
+    <message>
+        <source>Kontoauszug {0}</source>
+        <translation>Statement {0}</translation>
+    </message>
+    <message>
+        <source>Kontonummer: {0}</source>
+        <translation>Account number: {0}</translation>
+    </message>
+    <message>
+        <source>Zeitraum: {0} bis {1}</source>
+        <translation>Period: {0} to {1}</translation>
+    </message>
+    <message>
+        <source>Suchtext: {0}</source>
+        <translation>Search text: {0}</translation>
+    </message>
+    <message>
+        <source>{0}: keine Angabe</source>
+        <translation>{0}: not specified</translation>
+    </message>
+    <message>
+        <source>{0}: {1} ({2})</source>
+        <translation>{0}: {1} ({2})</translation>
+    </message>
+    <message>
+        <source>PNG-Bild|*.png|SVG-Bild|*.svg|CSV-Datei (Zahlen)|*.csv</source>
+        <translation>PNG picture|*.png|SVG picture|*.svg|CSV file (figures)|*.csv</translation>
+    </message>
+    <message>
+        <source>Diagramm speichern</source>
+        <translation>Save chart</translation>
+    </message>
+    <message>
+        <source>Am Ende des Dateinamens &apos;{0}&apos; ist nicht zu erkennen, wie das Diagramm gespeichert werden soll.
+Möglich sind: .png, .svg, .csv.</source>
+        <translation>The end of the file name &apos;{0}&apos; does not tell how to save the chart.
+Possible endings: .png, .svg, .csv.</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; liegt mit {1} unter seinem Limit von {2}.</source>
+        <translation>The balance of the account &apos;{0}&apos; is {1}, below its limit of {2}.</translation>
+    </message>
+    <message>
+        <source>Am {0} fällt das Konto &apos;{1}&apos; mit &apos;{2}&apos; ({3}) auf {4} und damit unter sein Limit von {5}.</source>
+        <translation>On {0}, &apos;{2}&apos; ({3}) takes the account &apos;{1}&apos; to {4} and so below its limit of {5}.</translation>
+    </message>
+    <message>
+        <source>{0} (Datei {1} von {2})</source>
+        <translation>{0} (file {1} of {2})</translation>
+    </message>
+    <message>
+        <source>{0} – {1}</source>
+        <translation>{0} – {1}</translation>
+    </message>
+    <message>
+        <source>Spalte {0}</source>
+        <translation>Column {0}</translation>
+    </message>
+    <message>
+        <source>Die Kontonummer wird automatisch ermittelt.</source>
+        <translation>The account number is determined automatically.</translation>
+    </message>
+    <message>
+        <source>Die Bankleitzahl wird automatisch ermittelt.</source>
+        <translation>The bank code is determined automatically.</translation>
+    </message>
+    <message>
+        <source>{0}; ersetzt, was davon noch offen ist</source>
+        <translation>{0}; replaces what is still open of it</translation>
+    </message>
+    <message>
+        <source>{0} (nur der Anfang der großen Datei)</source>
+        <translation>{0} (only the beginning of the large file)</translation>
+    </message>
+    <message>
+        <source>Markieren Sie Umsätze: die Eingabetaste bucht sie, Strg+R ordnet einen davon einem Eintrag zu, der schon im Haushaltsbuch steht.</source>
+        <translation>Select transactions: Enter books them, Ctrl+R assigns one of them to an entry that is already in the book.</translation>
+    </message>
+    <message>
+        <source>{0} markiert, davon {1} offen, Summe {2}</source>
+        <translation>{0} selected, {1} of them open, total {2}</translation>
+    </message>
+    <message>
+        <source>{0}  →  gebucht unter {1}, {2}</source>
+        <translation>{0}  →  booked under {1}, {2}</translation>
+    </message>
+    <message>
+        <source>{0}  →  {1}, {2}: {4}</source>
+        <translation>{0}  →  {1}, {2}: {4}</translation>
+    </message>
+    <message>
+        <source>Kategorie für einen Umsatz</source>
+        <translation>Category for 1 transaction</translation>
+    </message>
+    <message>
+        <source>Kategorie für {0} Umsätze</source>
+        <translation>Category for {0} transactions</translation>
+    </message>
+    <message>
+        <source>Auswahl: {0}</source>
+        <translation>Selection: {0}</translation>
+    </message>
+    <message>
+        <source>HTML-Datei|*.html|CSV-Datei|*.csv|Excel-Datei|*.xlsx|Alle Dateien|*.*</source>
+        <translation>HTML file|*.html|CSV file|*.csv|Excel file|*.xlsx|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Bericht speichern</source>
+        <translation>Save report</translation>
+    </message>
+    <message>
+        <source>Am Ende des Dateinamens &apos;{0}&apos; ist nicht zu erkennen, in welchem Format der Bericht gespeichert werden soll.
+Möglich sind: {1}.</source>
+        <translation>The end of the file name &apos;{0}&apos; does not tell which format to save the report in.
+Possible endings: {1}.</translation>
+    </message>
+    <message>
+        <source>Der Bericht wurde nach &apos;{0}&apos; gespeichert.</source>
+        <translation>The report has been saved to &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>{0} wie: {1}
+Vorschlag: {2}</source>
+        <translation>{0} as: {1}
+Suggestion: {2}</translation>
+    </message>
+    <message>
+        <source>Regel angelegt</source>
+        <translation>Rule created</translation>
+    </message>
+    <message>
+        <source>Regel geändert</source>
+        <translation>Rule changed</translation>
+    </message>
+    <message>
+        <source>Die Regel wurde geändert. Soll sie gespeichert werden?</source>
+        <translation>The rule has been changed. Do you want to save it?</translation>
+    </message>
+    <message>
+        <source>Regeln</source>
+        <translation>Rules</translation>
+    </message>
+    <message>
+        <source>Soll diese Regel gelöscht werden?
+{0}</source>
+        <translation>Do you want to delete this rule?
+{0}</translation>
+    </message>
+    <message>
+        <source>Regel löschen</source>
+        <translation>Delete rule</translation>
+    </message>
+    <message>
+        <source>Regel gelöscht</source>
+        <translation>Rule deleted</translation>
+    </message>
+    <message>
+        <source>Regel verschoben</source>
+        <translation>Rule moved</translation>
+    </message>
+    <message>
+        <source>Regel eingeschaltet</source>
+        <translation>Rule switched on</translation>
+    </message>
+    <message>
+        <source>Regel ausgeschaltet</source>
+        <translation>Rule switched off</translation>
+    </message>
+    <message>
+        <source>Es sind keine Umsätze eingelesen, an denen sich die Regel erproben ließe.</source>
+        <translation>No transactions have been imported that the rule could be tried on.</translation>
+    </message>
+    <message>
+        <source>passt auf {0} von {1} Umsätzen</source>
+        <translation>matches {0} of {1} transactions</translation>
+    </message>
+    <message>
+        <source>; bei {0} davon gilt schon eine Regel weiter oben</source>
+        <translation>; for {0} of them, a rule further up already applies</translation>
+    </message>
+    <message>
+        <source>Noch keine Regel</source>
+        <translation>No rules yet</translation>
+    </message>
+    <message>
+        <source>Eine Regel sagt, welche Kategorie Umsätze bekommen, die Sie an Text, Empfänger oder Betrag erkennen. Rechts legen Sie die erste an.</source>
+        <translation>A rule tells which category to give to transactions that you recognise by text, payee or amount. Create the first one on the right.</translation>
+    </message>
+    <message>
+        <source>doppelt?</source>
+        <translation>duplicate?</translation>
+    </message>
+    <message>
+        <source>{0}  ({1} offen)</source>
+        <translation>{0}  ({1} open)</translation>
+    </message>
+    <message>
+        <source>{0}  ({1} gebucht)</source>
+        <translation>{0}  ({1} booked)</translation>
+    </message>
+    <message>
+        <source>{0}  ({1}, davon {2} offen)</source>
+        <translation>{0}  ({1}, {2} of them open)</translation>
+    </message>
+    <message>
+        <source>Die Umsätze dieses Imports sind nicht mehr da.</source>
+        <translation>The transactions of this import are no longer there.</translation>
+    </message>
+    <message>
+        <source>Kein Umsatz passt zum Filter. {0} ältere sind ausgeblendet; ohne den Haken bei „Ältere ausblenden“ sehen Sie auch diese.</source>
+        <translation>No transaction matches the filter. {0} older ones are hidden; untick “Hide older” to see these as well.</translation>
+    </message>
+    <message>
+        <source>{0} offen, {1} insgesamt, {2} ältere ausgeblendet</source>
+        <translation>{0} open, {1} in total, {2} older hidden</translation>
+    </message>
+    <message>
+        <source>CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;*.xls;*.xlsx;*.ofx;*.qfx;*.qif|Alle Dateien|*.*</source>
+        <translation>CSV/XLS/MT940/MT942/OFX/QIF file|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|All statements|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;*.xls;*.xlsx;*.ofx;*.qfx;*.qif|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Kontoauszug noch einmal eingelesen</source>
+        <translation>Statement imported again</translation>
+    </message>
+    <message>
+        <source>Der Importassistent wurde abgebrochen.</source>
+        <translation>The import assistant was cancelled.</translation>
+    </message>
+    <message>
+        <source>schon vorhanden</source>
+        <translation>already there</translation>
+    </message>
+    <message>
+        <source>Ausgaben nach Kategorie</source>
+        <translation>Expenses by category</translation>
+    </message>
+    <message>
+        <source>Einnahmen nach Kategorie</source>
+        <translation>Income by category</translation>
+    </message>
+    <message>
+        <source>Einnahmen und Ausgaben je Monat</source>
+        <translation>Income and expenses per month</translation>
+    </message>
+    <message>
+        <source>Ausgaben je Monat</source>
+        <translation>Expenses per month</translation>
+    </message>
+    <message>
+        <source>Einnahmen je Monat</source>
+        <translation>Income per month</translation>
+    </message>
+    <message>
+        <source>Verlauf der Kontostände</source>
+        <translation>Balances over time</translation>
+    </message>
+    <message>
+        <source>Alle Einträge</source>
+        <translation>All entries</translation>
+    </message>
+    <message>
+        <source>Als PDF speichern</source>
+        <translation>Save as PDF</translation>
+    </message>
+    <message>
+        <source>PDF-Datei|*.pdf|Alle Dateien|*.*</source>
+        <translation>PDF file|*.pdf|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Für diese Tage ist kein Umsatz eingelesen; wahrscheinlich fehlt ein Kontoauszug.</source>
+        <translation>No transactions have been imported for these days; a statement is probably missing.</translation>
+    </message>
+    <message>
+        <source>Vergleichen Sie die Umsätze dieser Tage mit dem Auszug der Bank.</source>
+        <translation>Compare the transactions of these days with the bank&apos;s statement.</translation>
+    </message>
+    <message>
+        <source>Am {1} gibt es zwei Umsätze über diesen Betrag, &apos;{0}&apos; und &apos;{2}&apos;; wahrscheinlich ist einer doppelt eingelesen.</source>
+        <translation>On {1} there are two transactions of this amount, &apos;{0}&apos; and &apos;{2}&apos;; one of them has probably been imported twice.</translation>
+    </message>
+    <message>
+        <source>Über diesen Betrag gibt es den Umsatz &apos;{0}&apos; vom {1}. Hat die Bank ihn zweimal, wurde der zweite beim Einlesen für eine Wiederholung gehalten.</source>
+        <translation>There is a transaction of this amount, &apos;{0}&apos; of {1}. If the bank has it twice, the second one was taken for a repetition when it was imported.</translation>
+    </message>
+    <message>
+        <source>Aus diesen Tagen wurde vermutlich ein eingelesener Umsatz gelöscht.</source>
+        <translation>One imported transaction of these days has probably been deleted.</translation>
+    </message>
+    <message>
+        <source>Aus diesen Tagen wurden vermutlich {0} eingelesene Umsätze gelöscht.</source>
+        <translation>{0} imported transactions of these days have probably been deleted.</translation>
+    </message>
+    <message>
+        <source>Am {0} nennt die Bank {1}, wenige Tage davor und danach stimmt der Saldo: wahrscheinlich hat sie Umsätze an anderen Tagen gebucht, als dort steht.</source>
+        <translation>On {0} the bank gives {1}; a few days before and after, the balance is right: the bank has probably booked transactions on other days than those shown there.</translation>
+    </message>
+    <message>
+        <source>Ab dem {0} fehlen {1} an Ausgaben (spätestens am {2}):</source>
+        <translation>From {0}, expenses of {1} are missing (by {2} at the latest):</translation>
+    </message>
+    <message>
+        <source>Ab dem {0} fehlen {1} an Einnahmen (spätestens am {2}):</source>
+        <translation>From {0}, income of {1} is missing (by {2} at the latest):</translation>
+    </message>
+    <message>
+        <source>Die Bank hat für dieses Konto noch keinen Kontostand genannt. Der Saldo beginnt deshalb bei null und lässt sich nicht prüfen.</source>
+        <translation>The bank has not given a balance for this account yet. The balance therefore starts at zero and cannot be checked.</translation>
+    </message>
+    <message>
+        <source>Kontostand der Bank: {0} am {1}. Ein weiterer, mit dem sich die Umsätze prüfen ließen, ist nicht bekannt.</source>
+        <translation>Balance at the bank: {0} on {1}. No other one is known that the transactions could be checked against.</translation>
+    </message>
+    <message>
+        <source>Die Umsätze stimmen mit allen {2} Kontoständen der Bank überein, zuletzt {0} am {1}.</source>
+        <translation>The transactions agree with all {2} balances given by the bank, most recently {0} on {1}.</translation>
+    </message>
+    <message>
+        <source>Davor gibt es {0} weitere Abweichungen.</source>
+        <translation>Before that there are {0} further differences.</translation>
+    </message>
+    <message>
+        <source>Diese Kontonummer ist noch keinem Konto Ihres Buchs zugeordnet.</source>
+        <translation>This account number is not yet assigned to any account of your book.</translation>
+    </message>
+    <message>
+        <source>Zum Konto &apos;{0}&apos; gehören mehrere Kontonummern; mit seinen Einträgen lässt sich der Auszug deshalb nicht vergleichen.</source>
+        <translation>Several account numbers belong to the account &apos;{0}&apos;; the statement can therefore not be compared with its entries.</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; stimmt am {1} mit der Bank überein: {2}.</source>
+        <translation>The account &apos;{0}&apos; agrees with the bank on {1}: {2}.</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; steht am {1} auf {2}, das sind {5} mehr als bei der Bank ({3}).</source>
+        <translation>The account &apos;{0}&apos; stands at {2} on {1}, which is {5} more than at the bank ({3}).</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; steht am {1} auf {2}, das sind {5} weniger als bei der Bank ({3}).</source>
+        <translation>The account &apos;{0}&apos; stands at {2} on {1}, which is {5} less than at the bank ({3}).</translation>
+    </message>
+    <message>
+        <source>Seit dem {4} stimmen beide nicht mehr überein.</source>
+        <translation>The two have not agreed since {4}.</translation>
+    </message>
+    <message>
+        <source>Sie stimmten schon am {4} nicht überein; vielleicht fehlt das Startguthaben.</source>
+        <translation>They already differed on {4}; perhaps the opening balance is missing.</translation>
+    </message>
+    <message>
+        <source>ab {0}</source>
+        <translation>from {0}</translation>
+    </message>
+    <message>
+        <source>bis {0}</source>
+        <translation>until {0}</translation>
+    </message>
+    <message>
+        <source>alle Buchungen</source>
+        <translation>all entries</translation>
+    </message>
+    <message>
+        <source>{0}. Quartal {1}</source>
+        <translation>Q{0} {1}</translation>
+    </message>
+    <message>
+        <source>alle Konten</source>
+        <translation>all accounts</translation>
+    </message>
+    <message>
+        <source>Konto &apos;{0}&apos;</source>
+        <translation>account &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Tiefster Stand: {0} am {1}</source>
+        <translation>Lowest balance: {0} on {1}</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>Limit {0}</source>
+        <translation>Limit {0}</translation>
+    </message>
+    <message>
+        <source>Weitere</source>
+        <translation>Others</translation>
+    </message>
+    <message>
+        <source>{0}, blasser daneben: {1}</source>
+        <translation>{0}, paler beside it: {1}</translation>
+    </message>
+    <message>
+        <source>{0} je Jahr nach Kategorien</source>
+        <translation>{0} per year by category</translation>
+    </message>
+    <message>
+        <source>{0} je Monat nach Kategorien</source>
+        <translation>{0} per month by category</translation>
+    </message>
+    <message>
+        <source>Jahr</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Monat</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Überschuss</source>
+        <translation>Surplus</translation>
+    </message>
+    <message>
+        <source>Einnahmen und Ausgaben je Jahr</source>
+        <translation>Income and expenses per year</translation>
+    </message>
+    <message>
+        <source>Einnahmen: {0}</source>
+        <translation>Income: {0}</translation>
+    </message>
+    <message>
+        <source>Ausgaben: {0}</source>
+        <translation>Expenses: {0}</translation>
+    </message>
+    <message>
+        <source>Einnahmen nach Kategorien</source>
+        <translation>Income by category</translation>
+    </message>
+    <message>
+        <source>Ausgaben nach Kategorien</source>
+        <translation>Expenses by category</translation>
+    </message>
+    <message>
+        <source>Anteil</source>
+        <translation>Share</translation>
+    </message>
+    <message>
+        <source>nicht lesen</source>
+        <translation>do not read</translation>
+    </message>
+    <message>
+        <source>Buchungstag</source>
+        <translation>Booking date</translation>
+    </message>
+    <message>
+        <source>Soll (Ausgaben)</source>
+        <translation>Debit (expenses)</translation>
+    </message>
+    <message>
+        <source>Haben (Einnahmen)</source>
+        <translation>Credit (income)</translation>
+    </message>
+    <message>
+        <source>Soll/Haben-Kennzeichen</source>
+        <translation>Debit/credit mark</translation>
+    </message>
+    <message>
+        <source>Verwendungszweck 2</source>
+        <translation>Purpose 2</translation>
+    </message>
+    <message>
+        <source>Verwendungszweck 3</source>
+        <translation>Purpose 3</translation>
+    </message>
+    <message>
+        <source>Empfänger/Auftraggeber</source>
+        <translation>Payee/payer</translation>
+    </message>
+    <message>
+        <source>Auftraggeber bei Eingängen</source>
+        <translation>Payer of incoming payments</translation>
+    </message>
+    <message>
+        <source>Gegenkonto</source>
+        <translation>Other party&apos;s account</translation>
+    </message>
+    <message>
+        <source>Bankleitzahl/BIC des Gegenkontos</source>
+        <translation>Bank code/BIC of other party</translation>
+    </message>
+    <message>
+        <source>Art des Umsatzes</source>
+        <translation>Type of transaction</translation>
+    </message>
+    <message>
+        <source>Währung</source>
+        <translation>Currency</translation>
+    </message>
+    <message>
+        <source>eigene Bankleitzahl</source>
+        <translation>own bank code</translation>
+    </message>
+    <message>
+        <source>Stand (vorgemerkt, gebucht)</source>
+        <translation>State (pending, booked)</translation>
+    </message>
+    <message>
+        <source>&amp;Regeln…</source>
+        <translation>R&amp;ules…</translation>
+    </message>
+    <message>
+        <source>Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.</source>
+        <translation>Manages your own rules for the categories of transactions.</translation>
+    </message>
+    <message>
+        <source>Kontoaus&amp;zug anzeigen…</source>
+        <translation>Show &amp;statement…</translation>
+    </message>
+    <message>
+        <source>Zeigt die Umsätze eines Bankkontos mit ihrem Saldo.</source>
+        <translation>Shows the transactions of a bank account with their balance.</translation>
+    </message>
+    <message>
+        <source>vorgemerkt</source>
+        <translation>pending</translation>
+    </message>
+    <message>
+        <source>nicht lesbar</source>
+        <translation>not readable</translation>
+    </message>
+    <message>
+        <source>andere Währung</source>
+        <translation>other currency</translation>
+    </message>
+    <message>
+        <source>vom {0} bis {1}</source>
+        <translation>from {0} to {1}</translation>
+    </message>
+    <message>
+        <source>zusammen {0}</source>
+        <translation>{0} in total</translation>
+    </message>
+    <message>
+        <source>{0} ausgelassen</source>
+        <translation>{0} skipped</translation>
+    </message>
+    <message>
+        <source>schon vorhanden: {0}</source>
+        <translation>already there: {0}</translation>
+    </message>
+    <message>
+        <source>ohne Betrag: {0}</source>
+        <translation>without an amount: {0}</translation>
+    </message>
+    <message>
+        <source>… und {0} weitere</source>
+        <translation>… and {0} more</translation>
+    </message>
+    <message>
+        <source>{0}: abgebrochen, nichts davon übernommen.</source>
+        <translation>{0}: cancelled, nothing of it imported.</translation>
+    </message>
+    <message>
+        <source>gleicher Tag, Betrag und Gegenkonto</source>
+        <translation>same day, amount and other party&apos;s account</translation>
+    </message>
+    <message>
+        <source>gleicher Tag, Betrag und ähnlicher Name</source>
+        <translation>same day, amount and similar name</translation>
+    </message>
+    <message>
+        <source>Durchschnittswerte</source>
+        <translation>Averages</translation>
+    </message>
+    <message>
+        <source>Summe aller Werte</source>
+        <translation>Total of all values</translation>
+    </message>
+    <message>
+        <source>Sonstiges ({0})</source>
+        <translation>Miscellaneous ({0})</translation>
+    </message>
+    <message>
+        <source>Durchschnitt pro Monat</source>
+        <translation>Average per month</translation>
+    </message>
+    <message>
+        <source>Ausgegeben</source>
+        <translation>Spent</translation>
+    </message>
+    <message>
+        <source>Dieser Bericht wurde am {0} erstellt.</source>
+        <translation>This report was made on {0}.</translation>
+    </message>
+    <message>
+        <source>Summe der Einnahmen und Ausgaben für den gewählten Zeitraum.</source>
+        <translation>Total income and expenses in the chosen period.</translation>
+    </message>
+    <message>
+        <source>Durchschnittswerte pro Monat (Jahresmittelwert {0} bei {1} Tagen) der Einnahmen und Ausgaben.</source>
+        <translation>Average income and expenses per month (mean of the year {0} with {1} days).</translation>
+    </message>
+    <message>
+        <source>Verlust</source>
+        <translation>Deficit</translation>
+    </message>
+    <message>
+        <source>von</source>
+        <translation>of</translation>
+    </message>
+    <message>
+        <source>Limit-Bericht</source>
+        <translation>Limit report</translation>
+    </message>
+    <message>
+        <source>{0} für {1} vom {2} bis {3}</source>
+        <translation>{0} for {1} from {2} to {3}</translation>
+    </message>
+    <message>
+        <source>{0} ohne passenden Vorschlag</source>
+        <translation>{0} without a matching suggestion</translation>
+    </message>
+    <message>
+        <source>{0} wahrscheinlich schon im Haushaltsbuch</source>
+        <translation>{0} probably already in the book</translation>
+    </message>
+    <message>
+        <source>{0} vielleicht doppelt</source>
+        <translation>{0} possibly duplicated</translation>
+    </message>
+    <message>
+        <source>Offen bleiben: {0}.</source>
+        <translation>Staying open: {0}.</translation>
+    </message>
+    <message>
+        <source>Keiner der gezeigten Umsätze hat einen sicheren Vorschlag.</source>
+        <translation>None of the transactions shown has a reliable suggestion.</translation>
+    </message>
+    <message>
+        <source>Ein gezeigter Umsatz hat einen sicheren Vorschlag. Soll er so gebucht werden?</source>
+        <translation>One of the transactions shown has a reliable suggestion. Do you want to book it that way?</translation>
+    </message>
+    <message>
+        <source>{0} der gezeigten Umsätze haben einen sicheren Vorschlag. Sollen sie alle so gebucht werden?</source>
+        <translation>{0} of the transactions shown have a reliable suggestion. Do you want to book them all that way?</translation>
+    </message>
+    <message>
+        <source>Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
+{1}
+Sollen sie trotzdem gebucht werden? Bei Nein werden nur die übrigen gebucht.</source>
+        <translation>For {0} of the transactions there is another one that may be the same, for example from a file in another format:
+{1}
+Should they be booked all the same? With No, only the others are booked.</translation>
+    </message>
+    <message>
+        <source>Vorschläge annehmen</source>
+        <translation>Accept suggestions</translation>
+    </message>
+    <message>
+        <source>nicht lesbar: {0}</source>
+        <translation>not readable: {0}</translation>
+    </message>
+    <message>
+        <source>Text enthält {0}</source>
+        <translation>Text contains {0}</translation>
+    </message>
+    <message>
+        <source> oder </source>
+        <translation> or </translation>
+    </message>
+    <message>
+        <source>von {0}</source>
+        <translation>from {0}</translation>
+    </message>
+    <message>
+        <source>an {0}</source>
+        <translation>to {0}</translation>
+    </message>
+    <message>
+        <source>Konto {0}</source>
+        <translation>account {0}</translation>
+    </message>
+    <message>
+        <source>wird nicht angewandt</source>
+        <translation>is not applied</translation>
+    </message>
+    <message>
+        <source>Diese Regel ist beschädigt oder stammt von einer neueren Version. Sie bleibt, wie sie ist.</source>
+        <translation>This rule is damaged or comes from a newer version. It stays as it is.</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie an, woran die Regel einen Umsatz erkennt.</source>
+        <translation>Please say what the rule recognises a transaction by.</translation>
+    </message>
+    <message>
+        <source>Der Text &apos;{0}&apos; passt auf jeden Umsatz.</source>
+        <translation>The text &apos;{0}&apos; matches every transaction.</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie an, was die Regel vorschlagen soll.</source>
+        <translation>Please say what the rule should suggest.</translation>
+    </message>
+    <message>
+        <source>Ohne Namen</source>
+        <translation>No name</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Nach Empfänger / Auftraggeber</source>
+        <translation>By payee / payer</translation>
+    </message>
+    <message>
+        <source>Nach Tag</source>
+        <translation>By day</translation>
+    </message>
+    <message>
+        <source>Semikolon</source>
+        <translation>Semicolon</translation>
+    </message>
+    <message>
+        <source>Komma</source>
+        <translation>Comma</translation>
+    </message>
+    <message>
+        <source>Tabulator</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>senkrechter Strich</source>
+        <translation>vertical bar</translation>
+    </message>
+    <message>
+        <source>Automatisch ({0})</source>
+        <translation>Automatic ({0})</translation>
+    </message>
+    <message>
+        <source>keiner</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Automatisch</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>1.234,50</source>
+        <translation>1.234,50</translation>
+    </message>
+    <message>
+        <source>1,234.50</source>
+        <translation>1,234.50</translation>
+    </message>
+    <message>
+        <source>Tag, Monat, Jahr</source>
+        <translation>Day, month, year</translation>
+    </message>
+    <message>
+        <source>Monat, Tag, Jahr</source>
+        <translation>Month, day, year</translation>
+    </message>
+    <message>
+        <source>Jahr, Monat, Tag</source>
+        <translation>Year, month, day</translation>
+    </message>
+    <message>
+        <source>wie in der Datei</source>
+        <translation>as in the file</translation>
+    </message>
+    <message>
+        <source>umgekehrt (Ausgaben ohne Minus)</source>
+        <translation>reversed (expenses without minus)</translation>
+    </message>
+    <message>
+        <source>Spalten an ihren Namen erkannt</source>
+        <translation>columns recognised by their names</translation>
+    </message>
+    <message>
+        <source>Spalten aus dem Inhalt geraten, bitte prüfen</source>
+        <translation>columns guessed from the contents, please check</translation>
+    </message>
+    <message>
+        <source>bekannter Aufbau: {0}</source>
+        <translation>known layout: {0}</translation>
+    </message>
+    <message>
+        <source>Spalten wie beim letzten Mal</source>
+        <translation>columns as last time</translation>
+    </message>
+    <message>
+        <source>Spalten von Hand gewählt</source>
+        <translation>columns chosen by hand</translation>
+    </message>
+    <message>
+        <source>Zurück zur Auswertung</source>
+        <translation>Back to statistics</translation>
+    </message>
+    <message>
+        <source>Alt+Links</source>
+        <translation>Alt+Left</translation>
+    </message>
+    <message>
+        <source>Auswahl aufheben</source>
+        <translation>Clear selection</translation>
+    </message>
+    <message>
+        <source>Zeigt wieder die Einträge von vorher</source>
+        <translation>Shows the previous entries again</translation>
+    </message>
+    <message>
+        <source>mit Durchschnitt</source>
+        <translation>with average</translation>
+    </message>
+    <message>
+        <source>Diagramm</source>
+        <translation>Chart</translation>
+    </message>
+    <message>
+        <source>kein Vergleich</source>
+        <translation>no comparison</translation>
+    </message>
+    <message>
+        <source>Jahr davor</source>
+        <translation>Year before</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Comparison</translation>
+    </message>
+    <message>
+        <source>Legt einen zweiten Zeitraum daneben</source>
+        <translation>Puts a second period beside it</translation>
+    </message>
+    <message>
+        <source>keine Vorschau</source>
+        <translation>no forecast</translation>
+    </message>
+    <message>
+        <source>1 Monat voraus</source>
+        <translation>1 month ahead</translation>
+    </message>
+    <message>
+        <source>{0} Monate voraus</source>
+        <translation>{0} months ahead</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Forecast</translation>
+    </message>
+    <message>
+        <source>Die Vorschau zieht auch ab, was im Schnitt einmalig ausgegeben wird</source>
+        <translation>The forecast also deducts average one-off spending</translation>
+    </message>
+    <message>
+        <source>Diagramme</source>
+        <translation>Charts</translation>
+    </message>
+    <message>
+        <source>Tabelle</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>Zeigt dieselben Zahlen als Tabelle</source>
+        <translation>Shows the same figures as a table</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Kopiert das Diagramm in die Zwischenablage</source>
+        <translation>Copies the chart to the clipboard</translation>
+    </message>
+    <message>
+        <source>&amp;Bild kopieren</source>
+        <translation>Copy &amp;picture</translation>
+    </message>
+    <message>
+        <source>&amp;Zahlen kopieren</source>
+        <translation>Copy &amp;figures</translation>
+    </message>
+    <message>
+        <source>Speichern…</source>
+        <translation>Save…</translation>
+    </message>
+    <message>
+        <source>Speichert das Diagramm als Bild oder als Zahlen</source>
+        <translation>Saves the chart as a picture or as figures</translation>
+    </message>
+    <message>
+        <source>Zahlen des Diagramms</source>
+        <translation>Figures of the chart</translation>
+    </message>
+    <message>
+        <source>Pfeiltasten wählen einen Teil, die Eingabetaste zeigt seine Buchungen, Tab führt zur Legende.</source>
+        <translation>The arrow keys choose a part, Enter shows its entries, Tab leads to the legend.</translation>
+    </message>
+    <message>
+        <source>{0}, ausgeblendet</source>
+        <translation>{0}, hidden</translation>
+    </message>
+    <message>
+        <source>{0}, eingeblendet</source>
+        <translation>{0}, shown</translation>
+    </message>
+    <message>
+        <source>Legende: {0}, ausgeblendet</source>
+        <translation>Legend: {0}, hidden</translation>
+    </message>
+    <message>
+        <source>Legende: {0}, eingeblendet</source>
+        <translation>Legend: {0}, shown</translation>
+    </message>
+    <message>
+        <source>Diagramm {0}</source>
+        <translation>Chart {0}</translation>
+    </message>
+    <message>
+        <source>&amp;Spalten der Datei, darüber ihre Bedeutung:</source>
+        <translation>Columns of the &amp;file, with their meaning above:</translation>
+    </message>
+    <message>
+        <source>Zeilen der Datei</source>
+        <translation>Lines of the file</translation>
+    </message>
+    <message>
+        <source>Gelesene Umsätze</source>
+        <translation>Transactions read</translation>
+    </message>
+    <message>
+        <source>So wird &amp;gelesen:</source>
+        <translation>As it will be &amp;read:</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Bedeutung von {0}</source>
+        <translation>Meaning of {0}</translation>
+    </message>
+    <message>
+        <source>Nicht übernommene Umsätze</source>
+        <translation>Transactions not imported</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen, mit dem Grund:</source>
+        <translation>Not imported, with the reason:</translation>
+    </message>
+    <message>
+        <source>Erster Monat</source>
+        <translation>First month</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Alle &amp;Vorschläge annehmen</source>
+        <translation>Acce&amp;pt all suggestions</translation>
+    </message>
+    <message>
+        <source>Bucht alle gezeigten offenen Umsätze, deren Vorschlag gelernt ist, aus einer Regel kommt oder zu einer Serie oder einem eigenen Konto gehört</source>
+        <translation>Books all open transactions shown whose suggestion is learned, comes from a rule or belongs to a series or to one of your own accounts</translation>
+    </message>
+    <message>
+        <source>&amp;Kategorie…</source>
+        <translation>Cate&amp;gory…</translation>
+    </message>
+    <message>
+        <source>Wählt eine Kategorie und ein Intervall für die markierten Umsätze (Strg+K)</source>
+        <translation>Chooses a category and an interval for the selected transactions (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>R&amp;egel aus Umsatz…</source>
+        <translation>R&amp;ule from transaction…</translation>
+    </message>
+    <message>
+        <source>Legt eine eigene Regel an, die Umsätze wie diesen erkennt</source>
+        <translation>Creates a rule of your own that recognises transactions like this one</translation>
+    </message>
+    <message>
+        <source>Nur Umsätze dieses &amp;Imports…</source>
+        <translation>This &amp;import only…</translation>
+    </message>
+    <message>
+        <source>Zeigt die Umsätze, die mit dem markierten eingelesen wurden, in einem Fenster</source>
+        <translation>Shows the transactions that were imported together with the selected one in a window</translation>
+    </message>
+    <message>
+        <source>Gruppen &amp;aufklappen</source>
+        <translation>E&amp;xpand groups</translation>
+    </message>
+    <message>
+        <source>Gruppen &amp;zuklappen</source>
+        <translation>&amp;Collapse groups</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile über der Liste zeigen</source>
+        <translation>Show &amp;line above the list</translation>
+    </message>
+    <message>
+        <source>&amp;Ältere ausblenden</source>
+        <translation>&amp;Hide older</translation>
+    </message>
+    <message>
+        <source>Die Zeile sagt, was aus den markierten Umsätzen wird</source>
+        <translation>The line tells what will become of the selected transactions</translation>
+    </message>
+    <message>
+        <source>Blendet Umsätze aus, die mehr als drei Monate älter sind als der neueste ihres Kontos</source>
+        <translation>Hides transactions more than three months older than the latest one of their account</translation>
+    </message>
+    <message>
+        <source>Gru&amp;ppieren:</source>
+        <translation>Gro&amp;uping:</translation>
+    </message>
+    <message>
+        <source>Kontol&amp;imit:</source>
+        <translation>Account l&amp;imit:</translation>
+    </message>
+    <message>
+        <source>Fällt der Kontostand in den nächsten 60 Tagen darunter, warnt die Kontenliste.</source>
+        <translation>If the balance falls below this within the next 60 days, the account list gives a warning.</translation>
+    </message>
+    <message>
+        <source>Import&amp;assistent…</source>
+        <translation>Import &amp;assistant…</translation>
+    </message>
+    <message>
+        <source>&amp;Noch einmal mit dem Assistenten…</source>
+        <translation>A&amp;gain with the assistant…</translation>
+    </message>
+    <message>
+        <source>&amp;Kontoauszug anzeigen…</source>
+        <translation>Show &amp;statement…</translation>
+    </message>
+    <message>
+        <source>&amp;Diesen Import durchsehen…</source>
+        <translation>Revie&amp;w this import…</translation>
+    </message>
+    <message>
+        <source>Zeigt vor dem Einlesen, wie eine Datei gelesen wird; Spalten und Konto lassen sich dort ändern</source>
+        <translation>Shows how a file will be read before it is imported; columns and account can be changed there</translation>
+    </message>
+    <message>
+        <source>Liest die zuletzt eingelesenen Dateien anders ein; was von ihnen noch offen ist, wird dabei ersetzt</source>
+        <translation>Imports the most recently imported files in a different way; what is still open of them is replaced</translation>
+    </message>
+    <message>
+        <source>Zeigt die Umsätze eines Bankkontos mit dem Kontostand nach jedem und vergleicht ihn mit dem, den die Bank nennt</source>
+        <translation>Shows the transactions of a bank account with the balance after each one and compares it with the one given by the bank</translation>
+    </message>
+    <message>
+        <source>Zeigt nur die Umsätze der zuletzt eingelesenen Dateien in einem Fenster</source>
+        <translation>Shows only the transactions of the most recently imported files in a window</translation>
+    </message>
+    <message>
+        <source>&amp;Kontonummer:</source>
+        <translation>Account &amp;number:</translation>
+    </message>
+    <message>
+        <source>&amp;Bankleitzahl:</source>
+        <translation>&amp;Bank code:</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile mit den Spaltennamen:</source>
+        <translation>Line with the &amp;column names:</translation>
+    </message>
+    <message>
+        <source>&amp;Identische Buchungen verhindern</source>
+        <translation>Pre&amp;vent identical entries</translation>
+    </message>
+    <message>
+        <source>&amp;Empfänger als Verwendungszweck, wenn keiner angegeben ist</source>
+        <translation>&amp;Payee as purpose if none is given</translation>
+    </message>
+    <message>
+        <source>Nicht &amp;oder nur mit Vorbehalt übernommen:</source>
+        <translation>Not imported, or &amp;only with reservations:</translation>
+    </message>
+    <message>
+        <source>Importassistent</source>
+        <translation>Import assistant</translation>
+    </message>
+    <message>
+        <source>Bekannter &amp;Aufbau:</source>
+        <translation>Known &amp;layout:</translation>
+    </message>
+    <message>
+        <source>Zei&amp;chensatz:</source>
+        <translation>C&amp;haracter set:</translation>
+    </message>
+    <message>
+        <source>&amp;Trennzeichen:</source>
+        <translation>&amp;Separator:</translation>
+    </message>
+    <message>
+        <source>Za&amp;hlen:</source>
+        <translation>N&amp;umbers:</translation>
+    </message>
+    <message>
+        <source>&amp;Vorzeichen:</source>
+        <translation>Si&amp;gn:</translation>
+    </message>
+    <message>
+        <source>Tabe&amp;llenblatt:</source>
+        <translation>Shee&amp;t:</translation>
+    </message>
+    <message>
+        <source>I&amp;mportieren</source>
+        <translation>I&amp;mport</translation>
+    </message>
+    <message>
+        <source>&amp;Neu erkennen</source>
+        <translation>R&amp;ecognise again</translation>
+    </message>
+    <message>
+        <source>Verwirft, was hier über die Tabelle gewählt wurde</source>
+        <translation>Discards what was chosen here about the table</translation>
+    </message>
+    <message>
+        <source>gehört zum Konto {0}</source>
+        <translation>belongs to the account {0}</translation>
+    </message>
+    <message>
+        <source>&amp;Alle gezeigten buchen</source>
+        <translation>Book all &amp;shown</translation>
+    </message>
+    <message>
+        <source>Umsätze eines Imports durchsehen</source>
+        <translation>Review the transactions of an import</translation>
+    </message>
+    <message>
+        <source>&amp;Fertig</source>
+        <translation>&amp;Done</translation>
+    </message>
+    <message>
+        <source>Schließt das Fenster; was offen ist, wartet auf der Seite „Kontoauszüge“</source>
+        <translation>Closes the window; what is open waits on the page “Statements”</translation>
+    </message>
+    <message>
+        <source>Umsätze des Kontoauszugs</source>
+        <translation>Transactions of the statement</translation>
+    </message>
+    <message>
+        <source>Ein&amp;trag öffnen</source>
+        <translation>Open &amp;entry</translation>
+    </message>
+    <message>
+        <source>Kopi&amp;eren</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken…</source>
+        <translation>P&amp;rint…</translation>
+    </message>
+    <message>
+        <source>Seitenansi&amp;cht…</source>
+        <translation>Print pre&amp;view…</translation>
+    </message>
+    <message>
+        <source>E&amp;xportieren…</source>
+        <translation>E&amp;xport…</translation>
+    </message>
+    <message>
+        <source>Kontoauszug</source>
+        <translation>Statement</translation>
+    </message>
+    <message>
+        <source>Vergleich der Salden</source>
+        <translation>Comparison of the balances</translation>
+    </message>
+    <message>
+        <source>Öffnet den Eintrag, als der dieser Umsatz gebucht ist (Eingabetaste)</source>
+        <translation>Opens the entry that this transaction is booked as (Enter)</translation>
+    </message>
+    <message>
+        <source>Kopiert die markierten Umsätze, sonst alle (Strg+C)</source>
+        <translation>Copies the selected transactions, or else all (Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Aus&amp;wertung</source>
+        <translation>Statisti&amp;cs</translation>
+    </message>
+    <message>
+        <source>Regeln für Umsätze</source>
+        <translation>Rules for transactions</translation>
+    </message>
+    <message>
+        <source>&amp;Regeln; es gilt die oberste, die passt:</source>
+        <translation>&amp;Rules; the topmost one that matches applies:</translation>
+    </message>
+    <message>
+        <source>&amp;Neu</source>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>Wenn alles zutrifft, was angegeben ist</source>
+        <translation>If everything given here is true</translation>
+    </message>
+    <message>
+        <source>rewe|edeka oder miete*garten</source>
+        <translation>rewe|edeka or rent*garden</translation>
+    </message>
+    <message>
+        <source>Gesucht wird in Empfänger, Verwendungszweck und Buchungstext, ohne auf Groß- und Kleinschreibung zu achten.
+| trennt mehrere Möglichkeiten. * steht für beliebig viele Zeichen, ? für eines, # für eine Ziffer.</source>
+        <translation>Searches payee, purpose and booking text, ignoring upper and lower case.
+| separates alternatives. * stands for any number of characters, ? for one, # for a digit.</translation>
+    </message>
+    <message>
+        <source>&amp;Text enthält:</source>
+        <translation>&amp;Text contains:</translation>
+    </message>
+    <message>
+        <source>Name oder Kontonummer</source>
+        <translation>Name or account number</translation>
+    </message>
+    <message>
+        <source>&amp;Empfänger ist:</source>
+        <translation>&amp;Payee is:</translation>
+    </message>
+    <message>
+        <source>Einnahme oder Ausgabe</source>
+        <translation>Income or expense</translation>
+    </message>
+    <message>
+        <source>nur Einnahmen</source>
+        <translation>Income only</translation>
+    </message>
+    <message>
+        <source>nur Ausgaben</source>
+        <translation>Expenses only</translation>
+    </message>
+    <message>
+        <source>&amp;Betrag ist:</source>
+        <translation>A&amp;mount is:</translation>
+    </message>
+    <message>
+        <source>jedes Konto</source>
+        <translation>any account</translation>
+    </message>
+    <message>
+        <source>Ei&amp;genes Konto:</source>
+        <translation>Own &amp;account:</translation>
+    </message>
+    <message>
+        <source>Dann schlage vor</source>
+        <translation>Then suggest</translation>
+    </message>
+    <message>
+        <source>wie ohne Regel</source>
+        <translation>as without a rule</translation>
+    </message>
+    <message>
+        <source>Empfänger und Verwendungszweck</source>
+        <translation>Payee and purpose</translation>
+    </message>
+    <message>
+        <source>Be&amp;schreibung:</source>
+        <translation>D&amp;escription:</translation>
+    </message>
+    <message>
+        <source>Beispiele</source>
+        <translation>Examples</translation>
+    </message>
+    <message>
+        <source>Regel s&amp;peichern</source>
+        <translation>&amp;Save rule</translation>
+    </message>
+    <message>
+        <source>&amp;Nach Betrag geordnet</source>
+        <translation>Sorted &amp;by amount</translation>
+    </message>
+    <message>
+        <source>Ohne Abzug &amp;von Erstattungen</source>
+        <translation>&amp;Without deducting refunds</translation>
+    </message>
+    <message>
+        <source>S&amp;peichern</source>
+        <translation>Save rep&amp;ort</translation>
+    </message>
+    <message>
+        <source>Dr&amp;ucken …</source>
+        <translation>Pr&amp;int…</translation>
+    </message>
+    <message>
+        <source>Be&amp;richt</source>
+        <translation>&amp;Report</translation>
+    </message>
+    <message>
+        <source>Dia&amp;gramme</source>
+        <translation>C&amp;harts</translation>
+    </message>
+    <message>
+        <source>Berich&amp;t:</source>
+        <translation>Report t&amp;ype:</translation>
+    </message>
+    <message>
+        <source>Die größten Beträge zuerst statt der Reihe nach dem Namen</source>
+        <translation>The largest amounts first instead of in the order of the names</translation>
+    </message>
+    <message>
+        <source>Zählt alle Ausgaben, auch wenn ein Teil auf derselben Kategorie zurückkam</source>
+        <translation>Counts all expenses, even if part of the money came back in the same category</translation>
+    </message>
+    <message>
+        <source>Als &amp;PDF speichern…</source>
+        <translation>Save as &amp;PDF…</translation>
+    </message>
+    <message>
+        <source>Als &amp;HTML-Seite oder Tabelle speichern…</source>
+        <translation>Save as &amp;HTML page or table…</translation>
+    </message>
+    <message>
+        <source>Zahlen des Berichts</source>
+        <translation>Figures of the report</translation>
+    </message>
+    <message>
+        <source>&amp;Einträge zeigen</source>
+        <translation>Show &amp;entries</translation>
+    </message>
+    <message>
+        <source>&amp;Kategorie bearbeiten</source>
+        <translation>Edit &amp;category</translation>
+    </message>
+    <message>
+        <source>Erstes Diagramm</source>
+        <translation>First chart</translation>
+    </message>
+    <message>
+        <source>Zweites Diagramm</source>
+        <translation>Second chart</translation>
+    </message>
+    <message>
+        <source>wie vorgeschlagen</source>
+        <translation>as suggested</translation>
+    </message>
+    <message>
+        <source>Ü&amp;bernehmen</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>Gilt für die markierten Umsätze, sobald sie gebucht werden. Was leer bleibt, wird nicht geändert.</source>
+        <translation>Applies to the selected transactions as soon as they are booked. What is left empty will not be changed.</translation>
+    </message>
+    <message>
+        <source>Im Bericht suchen</source>
+        <translation>Find in report</translation>
+    </message>
+    <message>
+        <source>Voriger Fund</source>
+        <translation>Previous match</translation>
+    </message>
+    <message>
+        <source>Nächster Fund</source>
+        <translation>Next match</translation>
+    </message>
+    <message>
+        <source>Suche schließen</source>
+        <translation>Close search</translation>
+    </message>
+    <message>
+        <source>{0} von {1}</source>
+        <translation>{0} of {1}</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>&amp;Kopieren</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Alles markieren</source>
+        <translation>Select &amp;all</translation>
+    </message>
+    <message>
+        <source>Im Bericht &amp;suchen …</source>
+        <translation>&amp;Find in report…</translation>
+    </message>
+    <message>
+        <source>&amp;Vergrößern</source>
+        <translation>Zoom &amp;in</translation>
+    </message>
+    <message>
+        <source>Verk&amp;leinern</source>
+        <translation>Zoom &amp;out</translation>
+    </message>
+    <message>
+        <source>&amp;Normale Größe</source>
+        <translation>&amp;Normal size</translation>
     </message>
 </context>
 </TS>

@@ -30,7 +30,8 @@ QString QuestionFor(const QString& number)
 {
     return number.isEmpty()
         ? cText::Tr("Der Kontoauszug nennt keine Kontonummer.\nZu welchem Konto gehören seine Umsätze?")
-        : cText::Tr("Zu welchem Konto gehören die Umsätze der Kontonummer {0}?", {number});
+        : cText::Tr("Zu welchem Konto gehören die Umsätze der Kontonummer {0}?\nEin neuer Name legt ein Konto an.",
+                    {number});
 }
 
 } // namespace
@@ -97,7 +98,23 @@ QString cAccountMap::Proposal(const QString& number) const
     const auto named = std::find_if(names.begin(), names.end(), [&](const QString& name) {
         return !number.isEmpty() && name.contains(number, Qt::CaseInsensitive);
     });
-    return named != names.end() ? *named : names.value(0);
+    return named != names.end() ? *named : FreeAccount();
+}
+
+// Nothing rather than an account that has its number already: two banks would be mixed up there.
+QString cAccountMap::FreeAccount() const
+{
+    const cTemplateItemList accounts = m_data.GetAccounts();
+    const QList<std::pair<QString, QString>> mapping = Mapping();
+    const auto first = std::find_if(accounts.begin(), accounts.end(), modTemplate::IsVisible);
+    // Of the group of the first one, so that the purse is not proposed.
+    const auto free = std::find_if(first, accounts.end(), [&](const cTemplateItem& account) {
+        const bool isTaken = std::any_of(mapping.begin(), mapping.end(),
+                                         [&](const auto& known) { return known.second == account.TemplateName; });
+        return modTemplate::IsVisible(account) && !isTaken
+            && modTemplate::GroupOf(account) == modTemplate::GroupOf(*first);
+    });
+    return free == accounts.end() ? QString() : free->TemplateName;
 }
 
 bool cAccountMap::Assign(const QString& number, const QString& account)

@@ -39,7 +39,7 @@ public:
     [[nodiscard]] cSettings& Settings() const { return m_settings; }
 
     // The account to propose for a new number: one already known under its other form, one named like it, else the
-    // first visible one. Empty when the book has no account.
+    // first one of the group of the first that has no number yet. Empty when there is none.
     [[nodiscard]] QString Proposal(const QString& number) const;
 
     // Remembers the account for the number; an account that does not exist yet is added to the book. False when the
@@ -59,6 +59,7 @@ public:
     [[nodiscard]] std::optional<cEntryItem> getAssignedEntry(const cImportEntry& row) const;
 
 private:
+    [[nodiscard]] QString FreeAccount() const;
     [[nodiscard]] bool Exists(const QString& account) const;
 
     cDataAccess& m_data;

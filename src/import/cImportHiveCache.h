@@ -5,7 +5,8 @@
 
 class cDataAccess;
 
-enum class eKeepCache { No, Yes };
+// FromOthers: writes of other connections are not looked for, which costs a look into the file each time.
+enum class eKeepCache { No, FromOthers, Yes };
 
 // The program's one view of table `import`. Writes that go through it are applied in memory; writes of others are
 // noticed by the next access.
@@ -22,9 +23,12 @@ public:
     [[nodiscard]] bool Add(cImportEntry& entry); // sets entry.ID
     [[nodiscard]] bool Change(const cImportEntry& entry);
     [[nodiscard]] bool Remove(int id);
+    // Removes rows until the database refuses, and gives the number of those that are gone.
+    [[nodiscard]] int Remove(const QList<int>& ids);
     [[nodiscard]] bool RemoveAll();
 
 private:
+    [[nodiscard]] bool IsGoodEnough(eKeepCache keepCache);
     // Runs a write; `apply` brings the hive in step when nobody else has written in between.
     template <typename tWrite, typename tApply>
     [[nodiscard]] bool Write(const tWrite& write, const tApply& apply);
@@ -32,5 +36,5 @@ private:
     cDataAccess& m_data;
     cImportHive m_hive;
     bool m_isLoaded = false;
-    quint64 m_version = 0;
+    quint64 m_version = 0; // of the table when the rows were read, one further with each write applied since
 };

@@ -17,7 +17,7 @@ eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
         return eStaged::Zero;
     }
     entry.Validate();
-    if (test == eDuplicateTest::Test && Hive().IsImportItemAvail(entry)) {
+    if (test == eDuplicateTest::Test && Hive(eKeepCache::FromOthers).IsImportItemAvail(entry)) {
         return eStaged::Duplicate;
     }
     return Add(entry) ? eStaged::Staged : eStaged::Failed;
@@ -25,12 +25,12 @@ eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
 
 QStringList cStaging::Accounts()
 {
-    return cImportHive::AccountsOf(Hive().getImportEntryList());
+    return cImportHive::AccountsOf(Hive(eKeepCache::No).getImportEntryList());
 }
 
-const cImportHive& cStaging::Hive()
+const cImportHive& cStaging::Hive(eKeepCache keepCache)
 {
-    return m_trial ? *m_trial : m_hive.GetImportHive();
+    return m_trial ? *m_trial : m_hive.GetImportHive(keepCache);
 }
 
 bool cStaging::Add(cImportEntry& entry)

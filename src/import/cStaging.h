@@ -11,6 +11,7 @@ struct cImportEntry;
 
 enum class eDuplicateTest { Test, Skip };
 enum class eStaged { Staged, Zero, Duplicate, Failed };
+enum class eKeepCache;
 enum class eStagingRun { Write, Try };
 
 // The one way into table `import`, shared by all readers and by the online fetch.
@@ -25,11 +26,12 @@ public:
     // the record carries its ID (0 when nothing is written). On Failed the user has already been told.
     [[nodiscard]] eStaged StageImportEntry(cImportEntry& entry, eDuplicateTest test);
 
-    // The own account numbers of the staged rows, in the order of the rows.
+    // The own account numbers of the staged rows, in the order of the rows. Asked before the records of a file are
+    // staged, because it also looks for what other programs have written; the single records do not.
     [[nodiscard]] QStringList Accounts();
 
 private:
-    [[nodiscard]] const cImportHive& Hive();
+    [[nodiscard]] const cImportHive& Hive(eKeepCache keepCache);
     [[nodiscard]] bool Add(cImportEntry& entry);
 
     cImportHiveCache& m_hive;

@@ -74,7 +74,7 @@ private:
         const modStatementFormat::cReader reader =
             format == eStatementFormat::Archive ? nullptr : modStatementFormat::Reader(format);
         if (reader == nullptr) {
-            PassOver(name, modStatementFormat::Refusal(format));
+            Note(name, modStatementFormat::Refusal(format));
             return {};
         }
         const cStatementRead read = reader(source, m_options);
@@ -83,15 +83,15 @@ private:
             return {};
         }
         if (format == eStatementFormat::Csv && !name.endsWith(u".xml", Qt::CaseInsensitive)) {
-            PassOver(name, read.Refusal); // any text comes to this reader, also that of a letter
+            Note(name, read.Refusal); // any text comes to this reader, also that of a letter
             return {};
         }
         return cText::Tr("Die Datei '{0}' im ZIP-Archiv: {1}", {name, read.Refusal});
     }
 
-    void PassOver(const QString& name, const QString& reason)
+    void Note(const QString& name, const QString& text)
     {
-        m_all.Problems.append({0, cText::Tr("{0}: {1}", {name, reason})});
+        m_all.Problems.append({0, cText::Tr("{0}: {1}", {name, text})});
     }
 
     void Add(const QString& name, const cStatementRead& read)
@@ -106,6 +106,9 @@ private:
         for (cSkippedRow row : read.Skipped) {
             row.Reason.Text = cText::Tr("{0}: {1}", {name, row.Reason.Text});
             m_all.Skipped.append(row);
+        }
+        if (read.IsGuessed) {
+            Note(name, cText::Tr("Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze."));
         }
         if (read.NeedsAccount) {
             ++m_nameless;

@@ -113,6 +113,8 @@ public:
     // Goes up by one with every write to table `import`, and by more when another connection has written: whoever
     // caches the table compares it.
     [[nodiscard]] quint64 ImportVersion();
+    // The same as far as it is known without asking the file: writes of other connections are not looked for.
+    [[nodiscard]] quint64 KnownImportVersion() const;
 
     // Table `account`
     [[nodiscard]] QList<cOnlineAccount> GetOnlineAccounts();         // newest first

@@ -144,6 +144,11 @@ QHash<QString, int> cDataAccess::CountOpenImports()
     return counts;
 }
 
+quint64 cDataAccess::KnownImportVersion() const
+{
+    return m_database.KnownImportVersion();
+}
+
 quint64 cDataAccess::ImportVersion()
 {
     quint64 version = 0;

@@ -74,6 +74,7 @@ public:
     void NoteImportWrite() noexcept { ++m_importVersion; }
     // Differs from every earlier value once table `import` may have changed, by this connection or by another.
     [[nodiscard]] quint64 ImportVersion();
+    [[nodiscard]] quint64 KnownImportVersion() const noexcept { return m_importVersion; } // does not ask the file
 
 private:
     friend class cRows;

@@ -47,6 +47,9 @@ private Q_SLOTS:
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.User.Asked.size(), 2);
         QCOMPARE(book.Settings->Get(u"KTO:123"_s), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.Proposal(u"4"_s), u"Girokonto"_s);
+        QVERIFY(book.Accounts.Assign(u"5"_s, u"Girokonto"_s));
+        QCOMPARE(book.Accounts.Proposal(u"4"_s), QString()); // every account of a bank has its number
         QCOMPARE(book.Accounts.Proposal(u"DE81100200300000000123"_s), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Unknown({u"123"_s, u"4"_s}), QStringList(u"4"_s));
     }

@@ -136,12 +136,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<bool>("isReadable");
+        QTest::newRow("separator that is not escaped") << u"1;text=a;category=A; B"_s << false;
         QTest::newRow("all fields") << u"1;off;sign=in;text=a%3bb=c%25|d;counterparty=Müller & Söhne;account=Giro;"
-                                       "category=A; B;interval=Monatlich;description=x%0ay"_s
-                                    << false; // the category has a bare separator
-        QTest::newRow("escaped") << u"1;off;sign=in;text=a%3bb=c%25|d;counterparty=Müller & Söhne;account=Giro;"
-                                    "category=A%3b B;interval=Monatlich;description=x%0ay"_s
-                                 << true;
+                                       "category=A%3b B;interval=Monatlich;description=x%0ay"_s
+                                    << true;
         QTest::newRow("the least") << u"1;sign=out;category=A"_s << true;
         QTest::newRow("later version") << u"2;text=a;category=A"_s << false;
         QTest::newRow("condition that is not known") << u"1;text=a;weekday=3;category=A"_s << false;
@@ -161,36 +159,6 @@ private Q_SLOTS:
         QCOMPARE(rule.Unreadable.isEmpty(), isReadable);
         QCOMPARE(rule.HasCondition() && rule.HasResult(), isReadable);
         QCOMPARE(modOwnRule::ToLine(rule), line);
-    }
-
-    void UnreadableRulesSurvive() const
-    {
-        cBank bank;
-        bank.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=rewe;category=A\n"_s);
-        cOwnRules stored(*bank.Settings);
-        QList<cOwnRule> rules = stored.Load();
-        QCOMPARE(rules.size(), 2);
-        rules.append(Food(u"x"_s));
-        QVERIFY(stored.Save(rules));
-        QVERIFY(bank.Settings->Get(u"OwnRules"_s).startsWith(u"2;kind=later\n1;text=rewe;category=A\n"));
-        QCOMPARE(cOwnRules(*bank.Settings).Load(), rules);
-    }
-
-    void FollowsNewNames() const
-    {
-        cBank bank;
-        cOwnRule rule = Food(u"rewe"_s);
-        rule.Account = u"Girokonto"_s;
-        cOwnRule other = Food(u"x"_s);
-        other.Category = u"Haushaltshilfe"_s;
-        bank.Keep({rule, other});
-        cOwnRules stored(*bank.Settings);
-        QVERIFY(stored.RenameCategory(u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s));
-        QVERIFY(stored.RenameMain(u"Haushalt"_s, u"Daheim"_s));
-        QVERIFY(stored.RenameAccount(u"Girokonto"_s, u"Hauptkonto"_s));
-        rule.Category = u"Daheim; Essen"_s;
-        rule.Account = u"Hauptkonto"_s;
-        QCOMPARE(stored.Load(), QList<cOwnRule>({rule, other}));
     }
 
     void Proposals_data() const

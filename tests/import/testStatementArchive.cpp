@@ -53,6 +53,9 @@ private Q_SLOTS:
         const std::pair<QString, QByteArray> swift{u"b/giro.sta"_s, Fixture(u"mt940/giro.sta"_s)};
         const std::pair<QString, QByteArray> csv{u"a.csv"_s, table};
         QTest::newRow("two formats") << cFiles{swift, csv} << 8 << u"a.csv: Der Betrag ist keine Zahl"_s;
+        QTest::newRow("columns without names")
+            << cFiles{swift, {u"a.csv"_s, "03.02.2026;Kiosk;-4,20\n04.02.2026;Kino;-9,00\n"}} << 8
+            << u"a.csv: Die Spalten sind aus dem Inhalt geraten"_s;
         QTest::newRow("a letter beside it")
             << cFiles{swift, {u"Hinweis.pdf"_s, "%PDF"}} << 6 << u"Hinweis.pdf: Dieses"_s;
         QTest::newRow("a text beside it") << cFiles{swift, {u"a.txt"_s, "Guten Tag"}} << 6 << u"a.txt: In der Datei"_s;

@@ -504,6 +504,7 @@ bool TakeCharts(cCamera& camera)
     take({.Kind = eChartKind::Months, .Range = {sceneDay.addYears(-3), sceneDay}}, u"drei-jahre"_s);
     take({.Kind = eChartKind::Months, .Range = year, .Second = before}, u"monate-vorjahr"_s);
     take({.Kind = eChartKind::ExpenseMonths, .Range = year}, u"kategorien"_s);
+    take({.Kind = eChartKind::ExpenseMonths, .Range = year, .Second = before}, u"kategorien-vorjahr"_s);
     take({.Kind = eChartKind::Balances, .Range = year, .ForecastMonths = 6}, u"verlauf"_s);
     take({.Kind = eChartKind::Balances, .Range = year, .Account = u"Girokonto"_s, .ForecastMonths = 12},
          u"girokonto"_s);

@@ -121,7 +121,7 @@ modTable::cOpened modSpreadsheet::Open(const cStatementSource& source, const cRe
 modTable::cOpened modSpreadsheet::Open(const cSpreadsheet& book, const cReadOptions& options)
 {
     const cSheetRead best = ReadBest(book.Sheets, options);
-    return {best.Layout, std::make_shared<const cTable>(best.Sheet->Table)};
+    return {best.Layout, std::make_shared<const cTable>(best.Sheet->Table), best.Sheet->Name};
 }
 
 cStatementRead modSpreadsheet::Read(const cStatementSource& source, const cReadOptions& options)

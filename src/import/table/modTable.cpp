@@ -162,7 +162,7 @@ cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layou
 {
     if (!layout.IsReadable() || table.IsFull()) {
         cStatementRead read;
-        read.IsTable = true;
+        read.IsTable = layout.Map.ColumnCount > 1; // else there is nothing to choose from
         read.Refusal = table.IsFull() ? cText::Tr("Die Tabelle ist zu groß für einen Kontoauszug.")
                                       : cText::Tr("In der Datei sind keine Spalten mit Datum und Betrag zu erkennen.");
         return read;

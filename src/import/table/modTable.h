@@ -18,6 +18,7 @@ struct cOpened
 {
     cTableLayout Layout;
     std::shared_ptr<const cTable> Table; // all rows, those above the header included
+    QString Sheet = {};                  // its name, in a file with sheets
 };
 
 [[nodiscard]] cOpened Open(const cStatementSource& source, const cReadOptions& options);

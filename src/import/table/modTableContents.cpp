@@ -8,6 +8,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -218,6 +219,7 @@ private:
                     && Facts(column).Amounts > 0;
             });
             m_map.Amount = better < 0 ? m_map.Amount : better;
+            ReplaceMisnamedAmount();
         }
         if (m_map.Amount >= 0) {
             return;
@@ -230,6 +232,20 @@ private:
         if (m_map.Debit < 0 || m_map.Credit < 0) {
             GuessAmount();
         }
+    }
+
+    // "Umsatz vom" is named like an amount and holds days.
+    void ReplaceMisnamedAmount()
+    {
+        if (Facts(m_map.Amount).Dates == 0) {
+            return;
+        }
+        const int misnamed = std::exchange(m_map.Amount, -1);
+        GuessAmount();
+        if (m_map.Amount < 0 && m_map.Debit < 0) {
+            m_map.Amount = misnamed;
+        }
+        m_layout.Origin = eMapOrigin::Contents;
     }
 
     [[nodiscard]] bool IsAmountColumn(int column) const
