@@ -1,12 +1,12 @@
 #include "app/cQtPaint.h"
 
 #include "views/cChartData.h"
+#include "views/modFileWrite.h"
 #include "windows/chart/modChartPainter.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/modReportPdf.h"
 
 #include <QApplication>
-#include <QSaveFile>
 
 bool cQtPaint::PaintReport(const QString& html, const QString& path)
 {
@@ -19,7 +19,5 @@ bool cQtPaint::PaintChart(const cChartData& chart, const QString& path)
     constexpr QSize size(1000, 600);
     const bool isSvg = path.endsWith(QLatin1StringView(".svg"), Qt::CaseInsensitive);
     const QByteArray picture = isSvg ? modChartPainter::Svg(chart, size) : modChartPainter::Png(chart, size);
-    QSaveFile file(path);
-    return !picture.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size()
-        && file.commit();
+    return !picture.isEmpty() && modFileWrite::Replace(path, picture).isEmpty();
 }

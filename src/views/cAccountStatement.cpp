@@ -129,6 +129,7 @@ void cAccountStatement::TypeFilter(const QString& text)
 void cAccountStatement::SetFilter(const QString& text)
 {
     m_timer.stop();
+    m_typed = text;
     const QList<modFold::cFolded> words = modFold::Words(text);
     if (words == m_words) {
         return;
@@ -225,7 +226,7 @@ QString cAccountStatement::IncomeText() const
 
 QString cAccountStatement::ExpenseText() const
 {
-    return m_parts.Format.Cents(-m_expense);
+    return m_parts.Format.Cents(m_expense);
 }
 
 QString cAccountStatement::TotalText() const

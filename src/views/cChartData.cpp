@@ -73,12 +73,17 @@ QString cChartData::ShareText(int series, int index) const
     return cText::Tr("{0} %", {QLocale(QLocale::German).toString(share, 'f', share < 9.95 ? 1 : 0)});
 }
 
+QString cChartData::LabelOf(int series, int index) const
+{
+    return Series.value(series).OwnLabels.value(index, Labels.value(index));
+}
+
 QString cChartData::PartText(int series, int index) const
 {
     const std::optional<qint64> cents = Series.value(series).At(index);
     const QString name = Series.value(series).Name;
     const QString where =
-        Labels.size() > 1 || Kind != eChart::Pie ? cText::Tr("{0}, {1}", {name, Labels.value(index)}) : name;
+        Labels.size() > 1 || Kind != eChart::Pie ? cText::Tr("{0}, {1}", {name, LabelOf(series, index)}) : name;
     if (!cents) {
         return cText::Tr("{0}: keine Angabe", {where});
     }

@@ -45,6 +45,7 @@ struct cChartSeries
     eShape Shape = eShape::Natural;
     bool IsDashed = false;     // what lies behind `Today` is not booked yet and looks like it
     bool IsComparison = false; // of the period laid beside; drawn paler
+    QStringList OwnLabels{};   // where the chart's labels are not its own: those of a period laid beside
     bool IsHidden = false;     // switched off in the legend: still named there, and nothing else
 
     [[nodiscard]] std::optional<qint64> At(int index) const { return Cents.value(index); }
@@ -84,6 +85,7 @@ struct cChartData
     // The same without decimals where they are zero, as an axis shows it.
     [[nodiscard]] QString AxisText(qint64 cents) const;
     [[nodiscard]] QString ShortLabel(int index) const;
+    [[nodiscard]] QString LabelOf(int series, int index) const; // with its own one
     [[nodiscard]] bool IsHidden(int series) const { return Series.value(series).IsHidden; }
     // The chart without its hidden series.
     [[nodiscard]] cChartData Shown() const;

@@ -128,7 +128,8 @@ bool cImportAssistant::IsOffered(eField field) const
 QStringList cImportAssistant::Items(eField field) const
 {
     if (field == eField::Sheet) {
-        QStringList names{modTableField::Automatic()};
+        QStringList names{
+            modTableField::Automatic(m_works->Choice.Sheet.isEmpty() ? m_works->Opened.Sheet : QString())};
         for (const cSheet& sheet : m_works->Book.Sheets) {
             names.append(sheet.Name);
         }
@@ -268,9 +269,9 @@ void cImportAssistant::SetAccount(const QString& number)
     }
 }
 
-QString cImportAssistant::BookAccount() const
+QString cImportAssistant::BookAccount(const QString& number) const
 {
-    return m_parts.Accounts.AccountOf(Account());
+    return m_parts.Accounts.AccountOf(number);
 }
 
 QString cImportAssistant::BankCode() const
@@ -355,8 +356,12 @@ void cImportAssistant::ReadPreview()
     if (IsTable()) {
         const int first = m_works->Opened.Layout.FirstRow;
         const int end = qMin(m_works->Opened.Table->RowCount(), first + ShownRows);
+        cTableLayout layout = m_works->Opened.Layout;
+        layout.Number = NumberOf(m_works->Opened);
+        layout.HeaderRow = -1;
+        layout.FirstRow = 0;
         for (int row = first; row < end; ++row) {
-            m_rows.append(Preview(row));
+            m_rows.append(Preview(row, layout));
         }
         return;
     }
@@ -373,8 +378,9 @@ void cImportAssistant::ReadPreview()
     }
 }
 
-// Reads one row of the table by itself, so that the user sees what became of it and of no other.
-cImportAssistant::cRow cImportAssistant::Preview(int row) const
+// Reads one row of the table by itself, so that the user sees what became of it and of no other. In `layout` it is the
+// first one.
+cImportAssistant::cRow cImportAssistant::Preview(int row, const cTableLayout& layout) const
 {
     const cTable& table = *m_works->Opened.Table;
     cRow shown;
@@ -385,10 +391,6 @@ cImportAssistant::cRow cImportAssistant::Preview(int row) const
     for (const QString& cell : std::as_const(shown.Cells)) {
         one.AddCell(cell);
     }
-    cTableLayout layout = m_works->Opened.Layout;
-    layout.Number = NumberOf(m_works->Opened);
-    layout.HeaderRow = -1;
-    layout.FirstRow = 0;
     if (!layout.IsReadable()) {
         return shown;
     }
@@ -438,6 +440,9 @@ bool cImportAssistant::Adopt(const cImportAssistant& other)
     if (from.Format != m_works->Format || layout.Key != from.Opened.Layout.Key
         || layout.AccountKey != from.Opened.Layout.AccountKey || (IsTable() && layout.Key.isEmpty())) {
         return false;
+    }
+    if (m_works->FileAccounts.isEmpty() && m_parts.Memory.Accounts(layout.AccountKey).size() > 1) {
+        return false; // files of the kind come from several accounts, and nothing in this one tells from which
     }
     m_avoidsDuplicates = other.m_avoidsDuplicates;
     m_usesPayee = other.m_usesPayee;

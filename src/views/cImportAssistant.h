@@ -15,6 +15,7 @@ class cImportHiveCache;
 class cTableMemory;
 struct cImportOptions;
 struct cStatementSource;
+struct cTableLayout;
 
 // How one statement file is to be read, decided by the user: what the file looks like, what each column of a table
 // means and which account it belongs to. Every change is tried at once, so that the user sees what would come of it.
@@ -85,7 +86,7 @@ public:
     [[nodiscard]] QString Account() const;
     [[nodiscard]] QStringList Accounts() const; // to choose from: remembered, staged and mapped ones
     void SetAccount(const QString& number);
-    [[nodiscard]] QString BookAccount() const; // where the number's transactions go, as far as that is known
+    [[nodiscard]] QString BookAccount(const QString& number) const; // where its transactions go, if that is known
     [[nodiscard]] QString BankCode() const;
     void SetBankCode(const QString& bankCode) { m_bankCode = bankCode.simplified(); }
     [[nodiscard]] static QStringList AutomaticTexts(); // in the place of both
@@ -123,7 +124,7 @@ private:
     void Touch();
     void Evaluate();
     void ReadPreview();
-    [[nodiscard]] cRow Preview(int row) const;
+    [[nodiscard]] cRow Preview(int row, const cTableLayout& layout) const;
 
     cParts m_parts;
     std::unique_ptr<cWorks> m_works;

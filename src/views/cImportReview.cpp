@@ -291,7 +291,7 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
     }
     const bool isTaken = (category.isEmpty() || m_works->Proposals.SetCategory(ids, category))
         && (interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval));
-    Rows().ForgetInfo();
+    m_view.ForgetInfo();
     return isTaken;
 }
 
@@ -448,13 +448,7 @@ void cImportReview::Delete(const QList<int>& rowIds)
     }
     const cUndoStep step(m_parts.Data,
                          cText::Tr("{0} gelöscht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
-    int deleted = 0;
-    for (const int id : rowIds) {
-        if (!m_works->Hive.Remove(id)) {
-            break; // the user has been told, and the next one would fail the same way
-        }
-        ++deleted;
-    }
+    const int deleted = m_works->Hive.Remove(rowIds);
     m_summary = {cText::Tr("{0} gelöscht.", {modImportText::Count(deleted)})};
     Refresh();
     Q_EMIT SummaryChanged();
@@ -463,14 +457,4 @@ void cImportReview::Delete(const QList<int>& rowIds)
 cStagedInfo cImportReview::Info(const cImportEntry& row)
 {
     return m_works->Proposals.Info(row);
-}
-
-bool cImportReview::SetCategory(const cImportEntry& row, const QString& category)
-{
-    return m_works->Proposals.SetCategory({row.ID}, category);
-}
-
-bool cImportReview::SetInterval(const cImportEntry& row, const QString& interval)
-{
-    return m_works->Proposals.SetInterval({row.ID}, interval);
 }

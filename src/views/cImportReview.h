@@ -121,8 +121,6 @@ private:
     cImportReview(const cParts& parts, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import);
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row) override;
-    bool SetCategory(const cImportEntry& row, const QString& category) override;
-    bool SetInterval(const cImportEntry& row, const QString& interval) override;
 
     [[nodiscard]] QList<int> AskAboutMatches(const QList<int>& rowIds);
     [[nodiscard]] QList<int> AskAboutTwins(const QList<int>& rowIds);

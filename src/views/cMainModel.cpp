@@ -17,6 +17,7 @@
 #include "views/cSeriesChange.h"
 #include "views/cTemplateFlow.h"
 #include "views/modCommand.h"
+#include "views/modSetting.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -67,7 +68,7 @@ void cMainModel::RestoreView(bool isNewVersion)
         m_parts.Settings.ResetViewDefaults();
     }
     m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
-    m_detour.reset();
+    LeaveSelection();
     m_view.Restore(m_parts.Settings, Accounts());
     if (isNewVersion && !isNewBook) {
         ResetView();
@@ -111,7 +112,7 @@ void cMainModel::ResetView()
                                u"WindowState"_s, u"GroupEntries"_s}) {
         m_parts.Settings.Delete(key);
     }
-    m_detour.reset();
+    LeaveSelection();
     m_view.Grouping = modWord::KeineGruppierung;
     m_view.Type = modWord::AlleBuchungsarten;
     m_view.Filter.clear();
@@ -579,7 +580,5 @@ QString cMainModel::Layout(const QString& key) const
 
 void cMainModel::SaveListLayout(const QString& key, const QString& layout)
 {
-    if (m_parts.Settings.Get(key) != layout) {
-        m_parts.Settings.Set(key, layout);
-    }
+    modSetting::Keep(m_parts.Settings, key, layout);
 }

@@ -145,6 +145,7 @@ Q_SIGNALS:
 
 private:
     void LoadEntries();
+    void LeaveSelection();
     void ShowFilter();
     void RefreshAccounts();
     void SkipPeriod();

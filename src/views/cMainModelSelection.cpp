@@ -28,9 +28,17 @@ void cMainModel::ShowEntries(const cEntrySelection& selection)
 void cMainModel::GoBack()
 {
     if (m_detour) {
+        LeaveSelection();
+        RefreshView();
+    }
+}
+
+// What the user had chosen holds again, without showing it yet.
+void cMainModel::LeaveSelection()
+{
+    if (m_detour) {
         m_view = m_detour->Before;
         m_detour.reset();
-        RefreshView();
     }
 }
 

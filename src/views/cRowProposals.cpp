@@ -44,7 +44,7 @@ void cRowProposals::Forget()
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     m_choices.removeIf([&](const auto& choice) {
         const std::optional<cImportEntry> row = hive.GetImportEntryByID(choice.key());
-        return !row || row->ImportAssigned;
+        return !row || row->ImportAssigned || !row->isEqual(choice.value().Row);
     });
 }
 
@@ -159,6 +159,18 @@ QStringList cRowProposals::Categories() const
     return cEntrySuggestions::VisibleCategories(m_parts.Data);
 }
 
+void cRowProposals::TakeChoice(const QList<int>& rowIds, QString cChoice::*field, const QString& value)
+{
+    const cImportHive& hive = m_parts.Hive.GetImportHive();
+    for (const int id : rowIds) {
+        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {
+            cChoice& choice = m_choices[id];
+            choice.Row = *row;
+            choice.*field = value;
+        }
+    }
+}
+
 bool cRowProposals::SetCategory(const QList<int>& rowIds, const QString& category)
 {
     const QStringList paths = Categories();
@@ -168,9 +180,7 @@ bool cRowProposals::SetCategory(const QList<int>& rowIds, const QString& categor
     if (path == paths.end()) {
         return false;
     }
-    for (const int id : rowIds) {
-        m_choices[id].Category = *path;
-    }
+    TakeChoice(rowIds, &cChoice::Category, *path);
     return true;
 }
 
@@ -179,8 +189,6 @@ bool cRowProposals::SetInterval(const QList<int>& rowIds, const QString& interva
     if (!modWord::Intervals().Contains(interval)) {
         return false;
     }
-    for (const int id : rowIds) {
-        m_choices[id].Interval = interval;
-    }
+    TakeChoice(rowIds, &cChoice::Interval, interval);
     return true;
 }

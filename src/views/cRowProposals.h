@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/cImportEntry.h"
 #include "views/cStagedSource.h"
 #include "views/modStagedTwins.h"
 
@@ -16,7 +17,6 @@ class cImportHiveCache;
 class cImportRuns;
 class cMatchFlow;
 class cProposer;
-struct cImportEntry;
 struct cProposal;
 
 // What each open bank transaction should become: as proposed, or as the user chose instead. Worked out for the rows
@@ -45,7 +45,7 @@ public:
     explicit cRowProposals(const cParts& parts);
     ~cRowProposals();
 
-    // The rows or the book are others now. Choices for rows that are gone or booked are dropped.
+    // The rows or the book are others now. Choices for rows that are gone, booked or others are dropped.
     void Forget();
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row);
@@ -62,11 +62,13 @@ public:
 private:
     struct cChoice
     {
+        cImportEntry Row; // that it was made for; the IDs of rows that are gone come again
         QString Category; // empty: as proposed
         QString Interval;
     };
 
     [[nodiscard]] const cProposal& Propose(const cImportEntry& row);
+    void TakeChoice(const QList<int>& rowIds, QString cChoice::*field, const QString& value);
     [[nodiscard]] cStagedInfo BookedInfo(const cImportEntry& row);
     void Warn(cStagedInfo& info, const modStagedTwins::cTwin& twin);
     void FindTwins();

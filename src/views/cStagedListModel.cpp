@@ -27,7 +27,7 @@ constexpr std::array<const char*, cStagedListModel::ColumnCount> titles{
     QT_TRANSLATE_NOOP("cText", "Konto"),
     QT_TRANSLATE_NOOP("cText", "Kategorie"),
     QT_TRANSLATE_NOOP("cText", "Intervall"),
-    QT_TRANSLATE_NOOP("cText", "Grund des Vorschlags"),
+    QT_TRANSLATE_NOOP("cText", "Grund"),
 };
 
 std::size_t At(int index)
@@ -374,21 +374,6 @@ QVariant cStagedListModel::GroupData(const cStagedOrder::cGroup& group, int colu
     return group.Open == group.Count ? cText::Tr("{0}  ({1} offen)", values)
         : group.Open == 0            ? cText::Tr("{0}  ({1} gebucht)", values)
                                      : cText::Tr("{0}  ({1}, davon {2} offen)", values);
-}
-
-bool cStagedListModel::setData(const QModelIndex& index, const QVariant& value, int role)
-{
-    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) {
-        return false;
-    }
-    const cImportEntry& row = m_order.At(PositionOf(index));
-    const bool isTaken = index.column() == Category ? m_source.SetCategory(row, value.toString())
-                                                    : m_source.SetInterval(row, value.toString());
-    if (isTaken) {
-        m_info.remove(row.ID);
-        Q_EMIT dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(ColumnCount - 1));
-    }
-    return isTaken;
 }
 
 Qt::ItemFlags cStagedListModel::flags(const QModelIndex& index) const

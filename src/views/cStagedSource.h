@@ -26,8 +26,4 @@ public:
     virtual ~cStagedSource() = default;
 
     [[nodiscard]] virtual cStagedInfo Info(const cImportEntry& row) = 0;
-
-    // Takes the user's own choice for a row; false when it is none of the list.
-    virtual bool SetCategory(const cImportEntry& row, const QString& category) = 0;
-    virtual bool SetInterval(const cImportEntry& row, const QString& interval) = 0;
 };

@@ -60,6 +60,12 @@ void cStagedView::SetRows(const cImportEntryList& rows)
     Q_EMIT Changed();
 }
 
+void cStagedView::ForgetInfo()
+{
+    m_rows.ForgetInfo();
+    Q_EMIT Changed();
+}
+
 bool cStagedView::IsOpenOnly() const
 {
     // What waits is what the page is for, so a new book starts with it alone.

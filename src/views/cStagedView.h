@@ -32,6 +32,7 @@ public:
 
     [[nodiscard]] cStagedListModel& Rows() { return m_rows; }
     void SetRows(const cImportEntryList& rows);
+    void ForgetInfo(); // what is known of the rows beyond themselves is different now
     [[nodiscard]] bool IsOfOneImport() const { return !m_import.IsEmpty(); }
 
     [[nodiscard]] bool IsOpenOnly() const;

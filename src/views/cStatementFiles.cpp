@@ -139,10 +139,15 @@ cImportResult cStatementFiles::ImportFile(const cFile& file, cRun& run)
     if (result.NeedsAssistant) {
         return Assist(file, run);
     }
-    if (result.IsRefused) {
-        run.Refusals.append(QFileInfo(file.Path).fileName() + u'\n' + result.Message);
-    }
+    NoteRefusal(result, run);
     return result;
+}
+
+void cStatementFiles::NoteRefusal(const cImportResult& result, cRun& run)
+{
+    if (result.IsRefused) {
+        run.Refusals.append(QFileInfo(result.File).fileName() + u'\n' + result.Message);
+    }
 }
 
 cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
@@ -163,13 +168,19 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
         numbers.append(number);
     }
     numbers.removeDuplicates();
+    QStringList shown; // with the account, which people know rather than its number
+    for (const QString& number : std::as_const(numbers)) {
+        const QString account = m_parts.Accounts.AccountOf(number);
+        shown.append(account.isEmpty() ? number : cText::Tr("{0} – {1}", {number, account}));
+    }
     const std::optional<QString> given =
         m_parts.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
                              .Title = cText::Tr("Kontonummer"),
-                             .Items = numbers,
-                             .Proposal = numbers.value(0),
+                             .Items = shown,
+                             .Proposal = shown.value(0),
                              .AllowNew = true});
-    const QString number = given ? given->simplified() : QString();
+    const QString typed = given ? given->simplified() : QString();
+    const QString number = numbers.value(shown.indexOf(typed), typed);
     if (number.isEmpty()) {
         return result;
     }
@@ -202,7 +213,7 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
     auto assistant = StartAssistant(file.Path);
     if (!assistant) {
         result.Message = modStatementFile::Read(file.Path).Failure;
-        run.Refusals.append(QFileInfo(file.Path).fileName() + u'\n' + result.Message);
+        NoteRefusal(result, run);
         return result;
     }
     assistant->SetPlace(run.Number, run.Count);
@@ -218,6 +229,7 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
     if (result.IsRefused || result.IsCancelled) {
         part.Revert();
         run.Newest = NewestRow();
+        NoteRefusal(result, run);
         return result;
     }
     m_last.last().Rows = booked;
@@ -238,14 +250,14 @@ bool cStatementFiles::IsAnswered(cImportAssistant& assistant, cRun& run)
 QList<int> cStatementFiles::RemoveOpen(const QList<int>& rows)
 {
     QList<int> booked;
+    QList<int> open;
+    const cImportHive& hive = m_parts.Hive.GetImportHive();
     for (const int id : rows) {
-        const std::optional<cImportEntry> row = m_parts.Hive.GetImportHive().GetImportEntryByID(id);
-        if (row && row->ImportAssigned) {
-            booked.append(id);
-        } else if (row && !m_parts.Hive.Remove(id)) {
-            break; // the user has been told; what stays is found to be there already
+        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {
+            (row->ImportAssigned ? booked : open).append(id);
         }
     }
+    (void)m_parts.Hive.Remove(open); // of a refusal the user has been told; what stays is found to be there already
     return booked;
 }
 

@@ -103,6 +103,7 @@ private:
     [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
     [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cRun& run);
     [[nodiscard]] cImportResult Assist(const cFile& file, cRun& run);
+    static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
     void KeepLeftOut(const cImportResult& result);

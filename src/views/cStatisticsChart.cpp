@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
+#include "views/modSetting.h"
 
 #include <algorithm>
 
@@ -59,9 +60,7 @@ void cStatisticsChart::Save()
     cSettings& settings = m_parts.Settings;
     m_period.Save(settings, m_prefix);
     const auto keep = [&](const QString& name, const QString& value) {
-        if (settings.Get(m_prefix + name) != value) {
-            settings.Set(m_prefix + name, value);
-        }
+        modSetting::Keep(settings, m_prefix + name, value);
     };
     keep(u"Diagramm"_s, QString::number(static_cast<int>(m_kind)));
     keep(u"Vergleich"_s, m_compare == eCompare::YearBefore ? u"Vorjahr"_s : m_second);

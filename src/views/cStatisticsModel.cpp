@@ -15,6 +15,7 @@
 #include "views/modReport.h"
 #include "views/modReportHtml.h"
 #include "views/modReportLink.h"
+#include "views/modSetting.h"
 
 #include <QDir>
 
@@ -70,10 +71,7 @@ tEnum Stored(const cSettings& settings, const QString& name, tEnum last, tEnum o
 template <typename tEnum>
 void Store(cSettings& settings, const QString& name, tEnum value)
 {
-    const QString text = QString::number(static_cast<int>(value));
-    if (settings.Get(prefix + name) != text) {
-        settings.Set(prefix + name, text);
-    }
+    modSetting::Keep(settings, prefix + name, QString::number(static_cast<int>(value)));
 }
 
 } // namespace
@@ -102,7 +100,6 @@ void cStatisticsModel::Restore()
     m_zoom = zoom > 0 ? zoom : 100;
     for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
         chart->Restore();
-        chart->SetAccount(Wish().Account);
     }
     m_switches = {Wish().ShowsFuture, Wish().ShowsStart};
     Q_EMIT SelectorsChanged();
@@ -150,9 +147,7 @@ void cStatisticsModel::Changed()
     Store(settings, u"Bericht"_s, m_type);
     Store(settings, u"Ordnung"_s, m_order);
     Store(settings, u"Erstattungen"_s, m_spending);
-    if (settings.Get(prefix + u"Konto"_s) != m_account) {
-        settings.Set(prefix + u"Konto"_s, m_account);
-    }
+    modSetting::Keep(settings, prefix + u"Konto"_s, m_account);
     m_period.Save(settings, prefix);
     Q_EMIT SelectorsChanged();
     m_isStale = true;
@@ -245,8 +240,10 @@ void cStatisticsModel::BookChanged()
     }
     m_source.Forget();
     m_isStale = true;
-    m_firstChart.Invalidate();
-    m_secondChart.Invalidate();
+    for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
+        chart->Invalidate();
+        chart->SetAccount(Wish().Account);
+    }
     Q_EMIT SelectorsChanged();
     SetShown(m_isShown);
 }

@@ -2,22 +2,13 @@
 
 #include "core/cSettings.h"
 #include "model/modWord.h"
+#include "views/modSetting.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr int firstYear = 1900;
-constexpr int lastYear = 2100;
-
-void Keep(cSettings& settings, const QString& key, const QString& value)
-{
-    if (settings.Get(key) != value) {
-        settings.Set(key, value);
-    }
-}
 
 int Stored(const cSettings& settings, const QString& key, int least, int most, int otherwise)
 {
@@ -75,13 +66,13 @@ void cStatisticsPeriod::Restore(const cSettings& settings, const QString& prefix
     Name = modWord::Periods().Contains(name) ? name : modWord::AktuellesJahr;
     FirstMonth = Stored(settings, prefix + u"VonMonat"_s, 1, 12, 1);
     LastMonth = Stored(settings, prefix + u"BisMonat"_s, FirstMonth, 12, 12);
-    Year = Stored(settings, prefix + u"Jahr"_s, firstYear, lastYear, today.year());
+    Year = Stored(settings, prefix + u"Jahr"_s, FirstYear, LastYear, today.year());
 }
 
 void cStatisticsPeriod::Save(cSettings& settings, const QString& prefix) const
 {
-    Keep(settings, prefix + u"Zeitraum"_s, Name);
-    Keep(settings, prefix + u"VonMonat"_s, QString::number(FirstMonth));
-    Keep(settings, prefix + u"BisMonat"_s, QString::number(LastMonth));
-    Keep(settings, prefix + u"Jahr"_s, QString::number(Year));
+    modSetting::Keep(settings, prefix + u"Zeitraum"_s, Name);
+    modSetting::Keep(settings, prefix + u"VonMonat"_s, QString::number(FirstMonth));
+    modSetting::Keep(settings, prefix + u"BisMonat"_s, QString::number(LastMonth));
+    modSetting::Keep(settings, prefix + u"Jahr"_s, QString::number(Year));
 }

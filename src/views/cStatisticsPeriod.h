@@ -11,6 +11,9 @@ class cSettings;
 // year.
 struct cStatisticsPeriod
 {
+    static constexpr int FirstYear = 1900; // that can be chosen
+    static constexpr int LastYear = 2100;
+
     QString Name; // stored word
     int FirstMonth = 1;
     int LastMonth = 12;

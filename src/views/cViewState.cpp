@@ -3,6 +3,7 @@
 #include "base/modDate.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
+#include "views/modSetting.h"
 
 #include <algorithm>
 
@@ -20,13 +21,6 @@ void RestoreDay(const cSettings& settings, const QString& key, QDate& day)
     const QDate stored = modDate::FromIso(settings.Get(key));
     if (stored.isValid()) {
         day = stored;
-    }
-}
-
-void Keep(cSettings& settings, const QString& key, const QString& value)
-{
-    if (settings.Get(key) != value) {
-        settings.Set(key, value);
     }
 }
 
@@ -58,13 +52,13 @@ void cViewState::Restore(const cSettings& settings, const QStringList& accounts)
 
 void cViewState::Save(cSettings& settings) const
 {
-    Keep(settings, u"MainBuchungsart"_s, Type);
-    Keep(settings, u"MainFilter"_s, Filter);
-    Keep(settings, u"MainZeitraum"_s, Period);
-    Keep(settings, u"MainZeitraumStart"_s, modDate::ToIso(Free.Start));
-    Keep(settings, u"MainZeitraumEnd"_s, modDate::ToIso(Free.End));
-    Keep(settings, u"MainKonto"_s, Account);
-    Keep(settings, u"MainGruppierung"_s, Grouping);
+    modSetting::Keep(settings, u"MainBuchungsart"_s, Type);
+    modSetting::Keep(settings, u"MainFilter"_s, Filter);
+    modSetting::Keep(settings, u"MainZeitraum"_s, Period);
+    modSetting::Keep(settings, u"MainZeitraumStart"_s, modDate::ToIso(Free.Start));
+    modSetting::Keep(settings, u"MainZeitraumEnd"_s, modDate::ToIso(Free.End));
+    modSetting::Keep(settings, u"MainKonto"_s, Account);
+    modSetting::Keep(settings, u"MainGruppierung"_s, Grouping);
 }
 
 QString cViewState::FilterAccount() const

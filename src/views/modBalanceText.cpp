@@ -98,6 +98,19 @@ private:
     qsizetype m_last;
 };
 
+// What is missing on one side may as well be too much on the other.
+QString Missing(const cFault& fault, const cAmountFormat& format)
+{
+    const QStringList values{modDate::ToGerman(fault.From), format.Cents(std::abs(fault.Missing)),
+                             modDate::ToGerman(fault.To)};
+    if (fault.From == fault.To) {
+        return fault.Missing < 0 ? cText::Tr("Am {0} fehlen {1} an Ausgaben:", values)
+                                 : cText::Tr("Am {0} fehlen {1} an Einnahmen:", values);
+    }
+    return fault.Missing < 0 ? cText::Tr("Ab dem {0} fehlen {1} an Ausgaben (spätestens am {2}):", values)
+                             : cText::Tr("Ab dem {0} fehlen {1} an Einnahmen (spätestens am {2}):", values);
+}
+
 QString Passing(const cPoint& point, const cAmountFormat& format)
 {
     return cText::Tr("Am {0} nennt die Bank {1}, wenige Tage davor und danach stimmt der Saldo: wahrscheinlich hat sie "
@@ -109,13 +122,7 @@ QString Passing(const cPoint& point, const cAmountFormat& format)
 
 QString modBalanceText::Fault(const cStatementLedger& ledger, const cFault& fault, const cAmountFormat& format)
 {
-    const QStringList values{modDate::ToGerman(fault.From), format.Cents(std::abs(fault.Missing)),
-                             modDate::ToGerman(fault.To)};
-    // What is missing on one side may as well be too much on the other.
-    const QString what = fault.Missing < 0
-        ? cText::Tr("Ab dem {0} fehlen {1} an Ausgaben (spätestens am {2}):", values)
-        : cText::Tr("Ab dem {0} fehlen {1} an Einnahmen (spätestens am {2}):", values);
-    return what + u' ' + cReasons(ledger, fault).Text();
+    return Missing(fault, format) + u' ' + cReasons(ledger, fault).Text();
 }
 
 QStringList modBalanceText::Bank(const cStatementLedger& ledger, const cAmountFormat& format)

@@ -1,6 +1,6 @@
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "views/modChart.h"
+#include "views/modChartFrame.h"
 
 #include <algorithm>
 
@@ -29,13 +29,6 @@ QString ShortLabel(QDate day, int count)
     return day.day() == 1 ? modChart::ShortMonthText(day) : QString();
 }
 
-QList<std::optional<qint64>> Values(const QList<qint64>& cents, int count)
-{
-    QList<std::optional<qint64>> values(count);
-    std::copy_n(cents.begin(), std::min<qsizetype>(count, cents.size()), values.begin());
-    return values;
-}
-
 bool HasMoney(const cBalanceLine& line)
 {
     return std::any_of(line.Cents.begin(), line.Cents.end(), [](qint64 cents) { return cents != 0; });
@@ -56,7 +49,7 @@ void AddLine(cChartData& data, const cBalanceDays& days, const cBalanceLine& lin
 {
     cChartSeries series;
     series.Name = line.Account.isEmpty() ? cText::Tr("Alle Konten") : line.Account;
-    series.Cents = Values(line.Cents, days.Count());
+    series.Cents = modChart::Values(line.Cents, days.Count());
     series.Targets = Targets(days, line.Account);
     series.Colour = colour;
     series.IsDashed = true;
@@ -92,10 +85,13 @@ void AddSecond(cChartData& data, const cBalanceDays& days, const QString& accoun
     const QString name = lines.first().Account.isEmpty() ? cText::Tr("Alle Konten") : lines.first().Account;
     const modPeriod::cRange range{days.First, days.Day(days.Count() - 1)};
     series.Name = cText::Tr("{0} ({1})", {name, modChart::RangeText(range)});
-    series.Cents = Values(lines.first().Cents, static_cast<int>(data.Labels.size()));
+    series.Cents = modChart::Values(lines.first().Cents, static_cast<int>(data.Labels.size()));
     series.Targets = Targets(days, lines.first().Account);
     series.Colour = data.Series.isEmpty() ? 0 : data.Series.first().Colour;
     series.IsComparison = true;
+    for (int day = 0; day < days.Count(); ++day) {
+        series.OwnLabels.append(modDate::ToGerman(days.Day(day)));
+    }
     data.Series.append(series);
 }
 

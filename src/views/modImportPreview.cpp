@@ -11,15 +11,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QString Line(const cReadProblem& problem)
-{
-    return problem.Line > 0 ? cText::Tr("Zeile {0}: {1}", {QString::number(problem.Line), problem.Text}) : problem.Text;
-}
-
-} // namespace
-
 QString modImportPreview::Kind(eSkipped kind)
 {
     switch (kind) {
@@ -58,10 +49,10 @@ QStringList modImportPreview::LeftOut(const cImportResult& result, const cAmount
 {
     QStringList lines;
     for (const cReadProblem& problem : result.Problems) {
-        lines.append(Line(problem));
+        lines.append(modImportText::Problem(problem));
     }
     for (const cSkippedRow& row : result.Skipped) {
-        lines.append(Line(row.Reason));
+        lines.append(modImportText::Problem(row.Reason));
     }
     for (const cImportEntry& row : result.Duplicates) {
         lines.append(cText::Tr("schon vorhanden: {0}", {modImportText::Row(row, format)}));

@@ -38,16 +38,16 @@ QString Read(const cImportResult& result, const cAmountFormat& format)
     return parts.join(u", "_s);
 }
 
-QString Problem(const cReadProblem& problem)
-{
-    return problem.Line > 0 ? cText::Tr("Zeile {0}: {1}", {QString::number(problem.Line), problem.Text}) : problem.Text;
-}
-
 } // namespace
 
 QString modImportText::Count(int rows)
 {
     return rows == 1 ? cText::Tr("Ein Umsatz") : cText::Tr("{0} Umsätze", {QString::number(rows)});
+}
+
+QString modImportText::Problem(const cReadProblem& problem)
+{
+    return problem.Line > 0 ? cText::Tr("Zeile {0}: {1}", {QString::number(problem.Line), problem.Text}) : problem.Text;
 }
 
 QStringList modImportText::Summary(const cImportResult& result, const cAmountFormat& format)

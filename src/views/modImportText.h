@@ -12,12 +12,16 @@ struct cImportEntry;
 struct cImportResult;
 struct cMatchCandidate;
 struct cProposal;
+struct cReadProblem;
 
 // What the page of bank statements says, in words.
 namespace modImportText {
 
 // "ein Umsatz", "3 Umsätze"
 [[nodiscard]] QString Count(int rows);
+
+// A line of a file that could not be read, with the reason.
+[[nodiscard]] QString Problem(const cReadProblem& problem);
 
 // What came of a file, and the lines of it that could not be read.
 [[nodiscard]] QStringList Summary(const cImportResult& result, const cAmountFormat& format);

@@ -21,9 +21,6 @@ namespace {
 const QDate earliest(1001, 1, 1);
 const QDate latest(9999, 12, 31);
 
-// Days before any household's first entry stand for an open start where months are counted.
-constexpr int firstYear = 1900;
-
 // Main category of entries without category path; the same word that categories without names have as path.
 const QString noCategory = u"Keine Angabe"_s;
 
@@ -288,8 +285,7 @@ int MonthsBetween(QDate first, QDate last)
 // The calendar months of a period. Where it is open, only the months that have entries are known to be meant.
 int Months(const modPeriod::cRange& range, const cEntryItemList& entries)
 {
-    const bool isOpen = !range.Start.isValid() || range.Start.year() < firstYear || !range.End.isValid();
-    if (!isOpen) {
+    if (modReport::HasStart(range) && range.End.isValid()) {
         return MonthsBetween(range.Start, range.End);
     }
     if (entries.isEmpty()) {
@@ -297,8 +293,8 @@ int Months(const modPeriod::cRange& range, const cEntryItemList& entries)
     }
     const auto isEarlier = [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; };
     const auto [first, last] = std::minmax_element(entries.begin(), entries.end(), isEarlier);
-    const bool hasStart = range.Start.isValid() && range.Start.year() >= firstYear;
-    return MonthsBetween(hasStart ? range.Start : first->EntryDate, range.End.isValid() ? range.End : last->EntryDate);
+    return MonthsBetween(modReport::HasStart(range) ? range.Start : first->EntryDate,
+                         range.End.isValid() ? range.End : last->EntryDate);
 }
 
 } // namespace
@@ -344,6 +340,12 @@ cReportBasis modReport::Basis(const cReportWish& wish, const cEntryItemList& ent
     basis.YearBasis = QDate(basis.Start.year(), 1, 1).daysTo(QDate(basis.End.year(), 12, 31));
     basis.Months = wish.Type == eReport::Limit ? Months(wish.Range, entries) : 1;
     return basis;
+}
+
+bool modReport::HasStart(const modPeriod::cRange& range)
+{
+    constexpr int firstYear = 1900;
+    return range.Start.isValid() && range.Start.year() >= firstYear;
 }
 
 cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReportWish& wish, const cReportNode& node,

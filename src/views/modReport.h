@@ -19,6 +19,10 @@ namespace modReport {
 // it is the month of the first or last of `entries`.
 [[nodiscard]] cReportBasis Basis(const cReportWish& wish, const cEntryItemList& entries);
 
+// Whether a period begins anywhere: a day before any household's first entry, as "Buchungen bis heute" has it, stands
+// for an open start.
+[[nodiscard]] bool HasStart(const modPeriod::cRange& range);
+
 // The entries that the line of a node counts, in the order given. Of the limit report only categories with a limit
 // count, so it needs the templates; the others do without.
 [[nodiscard]] cEntryItemList EntriesOf(const cEntryItemList& entries, const cReportWish& wish, const cReportNode& node,

@@ -69,10 +69,11 @@ std::optional<QString> RestOf(const QString& link, const QString& prefix)
 }
 
 // "Wohnung; " of a group's line has an empty second half; its ";" is cut off whether or not the blank has come along.
+// Other blanks belong to the name.
 QString WithoutEmptyHalf(const QString& path)
 {
     const QString trimmed = path.trimmed();
-    return trimmed.endsWith(u';') ? trimmed.chopped(1).trimmed() : trimmed;
+    return trimmed.endsWith(u';') ? path.left(path.lastIndexOf(u';')) : path;
 }
 
 cReportNode NodeOf(eReportKind kind, const QString& path)
@@ -101,7 +102,7 @@ modReportLink::cLink ReadEntries(const QString& rest)
     link.Account = account == modWord::AlleKonten ? QString() : account;
     link.Path = WithoutEmptyHalf(Decoded(fields.at(4)));
     link.Node = NodeOf(kind, link.Path);
-    link.Cut = NodeOf(kind, WithoutEmptyHalf(link.Path.section(u'(', 0, 0)));
+    link.Cut = NodeOf(kind, WithoutEmptyHalf(link.Path.section(u'(', 0, 0).trimmed()));
     return link;
 }
 

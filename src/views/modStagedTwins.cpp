@@ -3,6 +3,7 @@
 #include "base/modAmount.h"
 #include "base/modFold.h"
 #include "base/modSimilar.h"
+#include "import/modAccountNumber.h"
 
 #include <algorithm>
 #include <optional>
@@ -24,19 +25,10 @@ struct cPlace
     int Row = 0;
 };
 
-// A German IBAN ends with the account number, filled up with zeros to ten digits.
-QString AccountNumber(const QString& account)
+// Some formats fill the place of an account that is not known with zeros.
+bool HasNumber(const QString& account)
 {
-    QString plain = account.toUpper();
-    plain.remove(u' ');
-    if (plain.size() == 22 && plain.startsWith(u"DE")) {
-        plain = plain.last(10);
-    }
-    qsizetype zeros = 0;
-    while (zeros < plain.size() && plain.at(zeros) == u'0') {
-        ++zeros;
-    }
-    return plain.mid(zeros);
+    return std::any_of(account.begin(), account.end(), [](QChar c) { return c != u'0' && !c.isSpace(); });
 }
 
 // Who stands behind a row, by name or by what is written.
@@ -59,10 +51,11 @@ bool AreNamesAlike(const QString& a, const QString& b)
 
 std::optional<eSame> Compare(const cImportEntry& a, const cImportEntry& b)
 {
-    const QString first = AccountNumber(a.ImportBeneficiaryAccount);
-    const QString second = AccountNumber(b.ImportBeneficiaryAccount);
-    if (!first.isEmpty() && !second.isEmpty()) {
-        return first == second ? std::optional(eSame::Counterparty) : std::nullopt;
+    const QString& first = a.ImportBeneficiaryAccount;
+    const QString& second = b.ImportBeneficiaryAccount;
+    if (HasNumber(first) && HasNumber(second)) {
+        return modAccountNumber::IsSame(first, a.ImportBeneficiaryBLZ, second) ? std::optional(eSame::Counterparty)
+                                                                               : std::nullopt;
     }
     return AreNamesAlike(Name(a), Name(b)) ? std::optional(eSame::Name) : std::nullopt;
 }

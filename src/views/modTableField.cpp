@@ -53,12 +53,6 @@ QString Name(QChar separator)
     return found == separators.end() ? QString() : cText::Tr(found->Name);
 }
 
-// "Automatisch (UTF-8)"
-QString Automatic(const QString& found)
-{
-    return found.isEmpty() ? modTableField::Automatic() : cText::Tr("Automatisch ({0})", {found});
-}
-
 QStringList Profiles()
 {
     return QStringList(modTableField::Automatic()) + modTableProfile::Names() + QStringList(cText::Tr("keiner"));
@@ -66,7 +60,7 @@ QStringList Profiles()
 
 QStringList Charsets(eCharset found)
 {
-    QStringList items{Automatic(Name(found))};
+    QStringList items{modTableField::Automatic(Name(found))};
     for (const cCharset& known : charsets) {
         items.append(QString::fromUtf16(known.Name));
     }
@@ -75,7 +69,7 @@ QStringList Charsets(eCharset found)
 
 QStringList Separators(QChar found)
 {
-    QStringList items{Automatic(Name(found))};
+    QStringList items{modTableField::Automatic(Name(found))};
     for (const cSeparator& known : separators) {
         items.append(cText::Tr(known.Name));
     }
@@ -96,9 +90,9 @@ QString ProfileAt(int item)
 
 } // namespace
 
-QString modTableField::Automatic()
+QString modTableField::Automatic(const QString& found)
 {
-    return cText::Tr("Automatisch");
+    return found.isEmpty() ? cText::Tr("Automatisch") : cText::Tr("Automatisch ({0})", {found});
 }
 
 QStringList modTableField::Items(eField field, const cTableLayout& layout, eCharset charset)
@@ -157,6 +151,9 @@ void modTableField::Choose(eField field, int item, cTableChoice& choice)
 
 QString modTableField::OriginText(const cTableLayout& layout)
 {
+    if (!layout.IsReadable()) {
+        return cText::Tr("Tag und Betrag nicht erkannt, bitte wählen");
+    }
     switch (layout.Origin) {
     case eMapOrigin::Words: return cText::Tr("Spalten an ihren Namen erkannt");
     case eMapOrigin::Contents: return cText::Tr("Spalten aus dem Inhalt geraten, bitte prüfen");

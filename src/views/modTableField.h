@@ -13,7 +13,8 @@ struct cTableLayout;
 // file.
 namespace modTableField {
 
-[[nodiscard]] QString Automatic();
+// "Automatisch (UTF-8)", or without what was found.
+[[nodiscard]] QString Automatic(const QString& found = {});
 
 // `charset` is the one that the file seems to have.
 [[nodiscard]] QStringList Items(cImportAssistant::eField field, const cTableLayout& layout, eCharset charset);

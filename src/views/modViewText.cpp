@@ -4,19 +4,16 @@
 #include "base/modDate.h"
 #include "model/modWord.h"
 #include "views/cViewState.h"
+#include "views/modReport.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Days before any household's first entry stand for an open start.
-constexpr int firstYear = 1900;
-
 QString Days(const modPeriod::cRange& range)
 {
-    const bool hasStart = range.Start.isValid() && range.Start.year() >= firstYear;
     const QString end = modDate::ToGerman(range.End);
-    if (!hasStart || range.Start == range.End) {
+    if (!modReport::HasStart(range) || range.Start == range.End) {
         return end;
     }
     const QString start = modDate::ToGerman(range.Start);

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "windows/cRowDelegate.h"
 
 // Paints entries: income and expense in their colours, future rows in italics, group heads bold.
-class cEntryDelegate final : public QStyledItemDelegate
+class cEntryDelegate final : public cRowDelegate
 {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    using cRowDelegate::cRowDelegate;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

@@ -73,6 +73,7 @@ void cImportPreview::Build()
     m_read->setColumnCount(5);
     m_read->setHorizontalHeaderLabels({cText::Tr("Tag"), cText::Tr("Empfänger/Auftraggeber"),
                                        cText::Tr("Verwendungszweck"), cText::Tr("Betrag"), cText::Tr("Hinweis")});
+    m_read->horizontalHeaderItem(amountColumn)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int shownLines = 5; // at least; more of them with a taller window
     for (QTableWidget* table : {m_cells, m_read}) {
         table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * shownLines);
@@ -153,6 +154,7 @@ void cImportPreview::AddMeaning(int column, const QString& name)
     box->setFocusPolicy(Qt::StrongFocus);
     connect(box, &QComboBox::activated, this, [this, column](int meaning) { m_assistant.SetMeaning(column, meaning); });
     m_cells->setCellWidget(0, column, box);
+    setTabOrder(m_meanings.isEmpty() ? static_cast<QWidget*>(m_cells) : m_meanings.last(), box);
     m_meanings.append(box);
 }
 

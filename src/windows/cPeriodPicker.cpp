@@ -12,13 +12,6 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-namespace {
-
-constexpr int firstYear = 1900;
-constexpr int lastYear = 2100;
-
-} // namespace
-
 cPeriodPicker::cPeriodPicker(QWidget* parent)
     : QWidget(parent),
       m_name(new QComboBox(this)),
@@ -32,7 +25,7 @@ cPeriodPicker::cPeriodPicker(QWidget* parent)
     modChoice::AddWords(*m_name, modWord::Periods());
     m_name->setMaxVisibleItems(m_name->count());
     m_name->setAccessibleName(cText::Tr("Zeitraum"));
-    m_year->setRange(firstYear, lastYear);
+    m_year->setRange(cStatisticsPeriod::FirstYear, cStatisticsPeriod::LastYear);
     m_year->setSpecialValueText(QStringLiteral("–")); // an open end
     m_year->setKeyboardTracking(false);
     m_year->setAccessibleName(cText::Tr("Jahr"));
@@ -76,6 +69,6 @@ void cPeriodPicker::ShowPeriod(const cStatisticsPeriod& period, const modPeriod:
     const bool isOneYear = range.Start.year() == range.End.year(); // else the year does not belong to the first month
     show(*m_first, isOneYear ? range.Start : QDate(), period.FirstMonth);
     show(*m_last, range.End, period.LastMonth);
-    m_year->setValue(period.IsFree() ? period.Year : range.End.isValid() ? range.End.year() : firstYear);
+    m_year->setValue(period.IsFree() ? period.Year : range.End.isValid() ? range.End.year() : cStatisticsPeriod::FirstYear);
     m_year->setEnabled(period.IsFree());
 }

@@ -7,14 +7,9 @@
 
 #include <QHeaderView>
 
-QSize cRuleDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const
-{
-    return {120, RowHeight(option.fontMetrics)};
-}
-
 void cRuleDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    cRowDelegate::initStyleOption(option, index);
     if (index.data(cRuleList::QuietRole).toBool()) {
         option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
     }

@@ -1,18 +1,16 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "windows/cRowDelegate.h"
+
 #include <QTreeView>
 
 class cRuleList;
 
-// Rows that are cut instead of scrolled sideways; rules that are switched off stay in the background.
-class cRuleDelegate final : public QStyledItemDelegate
+// Rules that are switched off stay in the background.
+class cRuleDelegate final : public cRowDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] static int RowHeight(const QFontMetrics& metrics) { return metrics.height() + 8; }
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    using cRowDelegate::cRowDelegate;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

@@ -120,9 +120,7 @@ void cStagedActions::AcceptProposals()
 
 void cStagedActions::ChooseCategory()
 {
-    if (frmUmsatzKategorie(m_review, m_tree.SelectedIds(), &m_page).exec() == QDialog::Accepted) {
-        ShowState();
-    }
+    frmUmsatzKategorie(m_review, m_tree.SelectedIds(), &m_page).exec();
 }
 
 void cStagedActions::MatchRows()
@@ -154,7 +152,6 @@ void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
     } else {
         m_review.Choose(ids, text, {});
     }
-    ShowState();
 }
 
 void cStagedActions::ShowState()

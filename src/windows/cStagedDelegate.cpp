@@ -7,29 +7,20 @@
 #include <QCompleter>
 #include <QLineEdit>
 
-cStagedDelegate::cStagedDelegate(fnItems items, QObject* parent)
-    : QStyledItemDelegate(parent),
-      m_items(std::move(items))
+cStagedDelegate::cStagedDelegate(fnItems items, QObject* parent) : cRowDelegate(parent), m_items(std::move(items))
 {
-}
-
-QSize cStagedDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const
-{
-    return {120, option.fontMetrics.height() + 8};
 }
 
 void cStagedDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const int tone = index.column() == cStagedListModel::Amount ? index.data(cStagedListModel::ToneRole).toInt() : 0;
+    cRowDelegate::initStyleOption(option, index);
     const bool saysWhy = index.column() == cStagedListModel::Reason || index.column() == cStagedListModel::State;
     if (saysWhy && index.data(cStagedListModel::DoubtRole).toBool()) {
         option->palette.setColor(QPalette::Text, modTone::Expense(option->palette));
     } else if (index.data(cStagedListModel::BookedRole).toBool() || index.column() == cStagedListModel::Reason) {
         option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
-    } else if (tone != 0) {
-        const QColor color = tone == 1 ? modTone::Income(option->palette) : modTone::Expense(option->palette);
-        option->palette.setColor(QPalette::Text, color);
+    } else if (index.column() == cStagedListModel::Amount) {
+        SetTone(*option, index.data(cStagedListModel::ToneRole).toInt());
     }
 }
 

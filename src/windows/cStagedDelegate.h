@@ -1,12 +1,13 @@
 #pragma once
 
+#include "windows/cRowDelegate.h"
+
 #include <QStringList>
-#include <QStyledItemDelegate>
 
 #include <functional>
 
 // Cells of the list of bank transactions: amounts in their colour, and lists to choose category and interval from.
-class cStagedDelegate final : public QStyledItemDelegate
+class cStagedDelegate final : public cRowDelegate
 {
     Q_OBJECT
 
@@ -16,7 +17,6 @@ public:
 
     explicit cStagedDelegate(fnItems items, QObject* parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                         const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;

@@ -137,7 +137,6 @@ void cStagedPanel::Connect()
     connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_filter, &QLineEdit::clear);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &cStagedPanel::ShowSelection);
-    connect(&m_review.Rows(), &QAbstractItemModel::dataChanged, this, &cStagedPanel::ShowSelection);
     connect(&view, &cStagedView::Changed, this, &cStagedPanel::ShowView);
 }
 

@@ -16,7 +16,7 @@ namespace {
 
 // Widths in average characters of the font, so that they fit at every font size and scale. A column is never narrower
 // than its title.
-constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{9, 14, 26, 32, 13, 12, 26, 11, 24};
+constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{9, 14, 26, 17, 12, 11, 25, 11, 19};
 
 bool IsEnter(const QKeyEvent& event)
 {

@@ -5,6 +5,7 @@
 #include "windows/modPlace.h"
 #include "windows/modTone.h"
 
+#include <QAbstractItemView>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,12 +18,37 @@
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QStyledItemDelegate>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int shownLeftOut = 3; // lines; more of them scroll
+
+// Says behind a number which account of the book it belongs to; what is chosen stays the bare number.
+class cAccountDelegate final : public QStyledItemDelegate
+{
+public:
+    cAccountDelegate(const cImportAssistant& assistant, QObject* parent)
+        : QStyledItemDelegate(parent),
+          m_assistant(assistant)
+    {
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QString account = m_assistant.BookAccount(option->text);
+        if (!account.isEmpty()) {
+            option->text = cText::Tr("{0} – {1}", {option->text, account});
+        }
+    }
+
+private:
+    const cImportAssistant& m_assistant;
+};
 
 } // namespace
 
@@ -82,6 +108,21 @@ void frmImportAssistent::Build()
     layout->addWidget(m_leftOutLabel);
     layout->addWidget(m_leftOut);
     layout->addWidget(BuildButtons());
+    OrderTabs();
+}
+
+// As the fields stand; the preview and the buttons follow.
+void frmImportAssistent::OrderTabs()
+{
+    QList<QWidget*> order{m_account, m_bankCode};
+    for (const cField& field : std::as_const(m_fields)) {
+        order.append(field.Box);
+    }
+    order.insert(3, m_header); // beside the known layout
+    order << m_duplicates << m_payee;
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        setTabOrder(order.at(i - 1), order.at(i));
+    }
 }
 
 QGridLayout* frmImportAssistent::BuildFields()
@@ -109,6 +150,7 @@ void frmImportAssistent::BuildAccount(QGridLayout& grid)
     m_account->setInsertPolicy(QComboBox::NoInsert);
     m_account->addItems(m_assistant.Accounts());
     m_account->setMinimumContentsLength(24);
+    m_account->view()->setItemDelegate(new cAccountDelegate(m_assistant, m_account));
     grid.addWidget(m_automatic, 0, 0, 1, 4);
     m_placed = 2;
     Place(grid, m_accountLabel, m_account);
@@ -190,7 +232,7 @@ void frmImportAssistent::ShowAccount()
     if (m_bankCode->text().simplified() != m_assistant.BankCode()) {
         m_bankCode->setText(m_assistant.BankCode());
     }
-    const QString account = m_assistant.BookAccount();
+    const QString account = m_assistant.BookAccount(m_assistant.Account());
     m_account->setToolTip(account.isEmpty() ? QString() : cText::Tr("gehört zum Konto {0}", {account}));
 }
 

@@ -40,6 +40,7 @@ private:
     void AddField(QGridLayout& grid, cImportAssistant::eField field, const QString& label);
     void Place(QGridLayout& grid, QLabel* label, QWidget* field);
     QDialogButtonBox* BuildButtons();
+    void OrderTabs();
     void Connect();
     void Refresh();
     void ShowFields();

@@ -4,9 +4,9 @@
 #include "model/modWord.h"
 #include "views/cAccountStatement.h"
 #include "windows/cDayEdit.h"
+#include "windows/cStatementTree.h"
 #include "windows/cSumBar.h"
 #include "windows/modChoice.h"
-#include "windows/modEmptyText.h"
 #include "windows/modPlace.h"
 #include "windows/modTone.h"
 
@@ -15,14 +15,11 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
-#include <QStyledItemDelegate>
-#include <QTreeView>
 
 #include <algorithm>
 #include <array>
@@ -31,70 +28,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// Widths in average characters of the font; the purpose takes the rest.
-constexpr std::array<int, cAccountStatement::ColumnCount> widths{14, 24, 20, 14, 14, 10, 22};
-
-class cStatementDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override
-    {
-        return {120, option.fontMetrics.height() + 8};
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const int column = index.column();
-        const bool isMoney = column == cAccountStatement::Amount || column == cAccountStatement::Balance;
-        const int tone = isMoney ? index.data(cAccountStatement::ToneRole).toInt() : 0;
-        if (tone != 0) {
-            const QColor color = tone == 1 ? modTone::Income(option->palette) : modTone::Expense(option->palette);
-            option->palette.setColor(QPalette::Text, color);
-        } else if (column == cAccountStatement::State && index.data(cAccountStatement::BookedRole).toBool()) {
-            option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
-        }
-    }
-};
-
-class cStatementTree final : public QTreeView
-{
-public:
-    cStatementTree(cAccountStatement& statement, QWidget* parent) : QTreeView(parent), m_statement(statement)
-    {
-        setModel(&statement);
-        setItemDelegate(new cStatementDelegate(this));
-        setRootIsDecorated(false);
-        setUniformRowHeights(true);
-        setAlternatingRowColors(true);
-        setAllColumnsShowFocus(true);
-        setSelectionMode(ExtendedSelection);
-        setAccessibleName(cText::Tr("Umsätze des Kontoauszugs"));
-        header()->setSectionsMovable(false);
-        header()->setStretchLastSection(false);
-        header()->setSectionResizeMode(cAccountStatement::Purpose, QHeaderView::Stretch);
-        for (int column = 0; column < cAccountStatement::ColumnCount; ++column) {
-            const int width = widths.at(static_cast<std::size_t>(column));
-            header()->resizeSection(column, width * fontMetrics().averageCharWidth());
-        }
-    }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QTreeView::paintEvent(event);
-        if (m_statement.rowCount() == 0) {
-            modEmptyText::Paint(*viewport(), m_statement.EmptyTitle(), m_statement.EmptyHint());
-        }
-    }
-
-private:
-    cAccountStatement& m_statement;
-};
 
 QLabel* LabelFor(QWidget& field, const QString& text)
 {

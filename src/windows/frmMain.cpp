@@ -27,10 +27,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-} // namespace
-
 frmMain::frmMain(cMainModel& model, QWidget* parent)
     : QMainWindow(parent),
       m_model(model),

@@ -5,6 +5,7 @@
 #include "model/modWord.h"
 #include "views/cRuleList.h"
 #include "windows/cCategoryBox.h"
+#include "windows/cRowDelegate.h"
 #include "windows/cRuleTree.h"
 #include "windows/modChoice.h"
 #include "windows/modPlace.h"
@@ -63,6 +64,10 @@ frmRegeln::frmRegeln(cRuleList& rules, QWidget* parent)
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
     ShowDraft();
     m_text->setFocus();
+    if (m_rules.IsNew() && !(m_text->text() + m_counterparty->text()).isEmpty()) {
+        m_category->setFocus(); // made from a transaction: what it is known by stands there already
+        m_category->lineEdit()->selectAll();
+    }
 }
 
 void frmRegeln::BuildList(QLayout& layout)
@@ -140,10 +145,24 @@ QGroupBox* frmRegeln::BuildResult()
     return group;
 }
 
+// The two groups have fields of one left edge.
+void frmRegeln::AlignFields()
+{
+    int widest = 0;
+    const QList<QLabel*> labels = m_conditions->findChildren<QLabel*>() + m_result->findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        widest = qMax(widest, label->sizeHint().width());
+    }
+    for (QLabel* label : labels) {
+        label->setMinimumWidth(widest);
+    }
+}
+
 void frmRegeln::BuildForm(QLayout& layout)
 {
     m_conditions = BuildConditions();
     m_result = BuildResult();
+    AlignFields();
     layout.addWidget(m_conditions);
     layout.addWidget(m_result);
     m_trial->setTextFormat(Qt::PlainText);
@@ -153,9 +172,8 @@ void frmRegeln::BuildForm(QLayout& layout)
     layout.addWidget(m_trial);
     m_examples->setAccessibleName(cText::Tr("Beispiele"));
     m_examples->setSelectionMode(QAbstractItemView::NoSelection);
-    m_examples->setItemDelegate(new cRuleDelegate(this));
-    m_examples->setMinimumHeight(cRuleDelegate::RowHeight(fontMetrics()) * shownExamples
-                                 + 2 * m_examples->frameWidth());
+    m_examples->setItemDelegate(new cRowDelegate(this));
+    m_examples->setMinimumHeight(cRowDelegate::RowHeight(fontMetrics()) * shownExamples + 2 * m_examples->frameWidth());
     layout.addWidget(m_examples);
 }
 

@@ -30,6 +30,7 @@ private:
     void BuildListButtons(QLayout& layout);
     [[nodiscard]] QGroupBox* BuildConditions();
     [[nodiscard]] QGroupBox* BuildResult();
+    void AlignFields();
     void BuildForm(QLayout& layout);
     void BuildButtons(QLayout& layout);
     void Connect();

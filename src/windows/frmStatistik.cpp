@@ -253,6 +253,7 @@ void frmStatistik::SaveChart(cChartPane& pane)
 
 void frmStatistik::showEvent(QShowEvent* event)
 {
+    ShowSelectors(); // an import may have brought an account
     m_model.SetShown(true);
     QWidget::showEvent(event);
 }

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/cAssignList.h"
+#include "windows/cRowDelegate.h"
 #include "windows/modEmptyText.h"
 #include "windows/modPlace.h"
 #include "windows/modTone.h"
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include <array>
@@ -22,26 +22,19 @@ namespace {
 // Widths in average characters of the font; the last column takes the rest.
 constexpr std::array<int, cAssignList::ColumnCount> widths{13, 26, 26, 14, 10, 20};
 
-class cAssignDelegate final : public QStyledItemDelegate
+class cAssignDelegate final : public cRowDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override
-    {
-        return {120, option.fontMetrics.height() + 8};
-    }
+    using cRowDelegate::cRowDelegate;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const int tone = index.column() == cAssignList::Amount ? index.data(cAssignList::ToneRole).toInt() : 0;
+        cRowDelegate::initStyleOption(option, index);
         if (index.data(cAssignList::TakenRole).toBool()) {
             option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
-        } else if (tone != 0) {
-            const QColor color = tone == 1 ? modTone::Income(option->palette) : modTone::Expense(option->palette);
-            option->palette.setColor(QPalette::Text, color);
+        } else if (index.column() == cAssignList::Amount) {
+            SetTone(*option, index.data(cAssignList::ToneRole).toInt());
         }
     }
 };

@@ -45,7 +45,8 @@ void modGroupHead::Paint(const QTreeView& view, QPainter& painter, const QStyleO
     painter.setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::ButtonText));
     // A sum that is wider than its column takes room from the name: without its sign it would be another one.
     const QString sum = head.siblingAtColumn(sumColumn).data().toString();
-    const int sumRight = view.columnViewportPosition(sumColumn) + view.columnWidth(sumColumn) - 6;
+    const int margin = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1; // as cells have it
+    const int sumRight = view.columnViewportPosition(sumColumn) + view.columnWidth(sumColumn) - margin;
     const int sumLeft = sumRight - qMax(view.columnWidth(sumColumn) - 6, painter.fontMetrics().horizontalAdvance(sum));
     painter.drawText(QRect(sumLeft, line.top(), sumRight - sumLeft, line.height()), Qt::AlignRight | Qt::AlignVCenter,
                      sum);

@@ -38,12 +38,11 @@ void testCliChart::initTestCase()
          {u"add|--amount|300|--category|Wohnung; Strom|--date|2026-02-01|--interval|Einmalig"_s,
           u"add|--amount|20|--category|Auto; Benzin|--date|2026-02-03|--interval|Einmalig"_s,
           u"accounts|start|Girokonto|50|--date|2026-01-01"_s,
-          u"add|--amount|100|--category|Wohnung; Miete|--text|Miete|--interval|Einmalig|--date|+5"_s}) {
+          u"add|--amount|100|--category|Wohnung; Miete|--text|Miete|--interval|Einmalig|--date|+5"_s,
+          u"accounts|limit|girokonto|-300"_s}) {
         const cCliRun run = Run(line);
         QVERIFY2(run.Code == 0, qPrintable(run.Error));
     }
-    cTestFile::Run(m_folder->filePath(u"Veltrino Kontorelle/data.db"_s),
-                   "UPDATE template SET TemplateDefaultValue = '-300.00' WHERE TemplateName = 'Girokonto'");
 }
 
 void testCliChart::WritesFiles()
@@ -69,6 +68,8 @@ void testCliChart::Forecasts()
     QCOMPARE(warning.value(u"EntryDescription"_s).toString(), u"Miete"_s);
     QCOMPARE(warning.value(u"Date"_s).toString(), account.value(u"LowestDate"_s).toString());
     QVERIFY(Run(u"forecast"_s).Out.contains(u"unter sein Limit"_s));
+    QCOMPARE(Run(u"accounts|limit|Girokonto|ohne"_s).Code, 0);
+    QVERIFY(!Run(u"forecast"_s).Out.contains(u"Limit"_s));
 }
 
 void testCliChart::Refuses_data()

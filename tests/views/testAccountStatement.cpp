@@ -194,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(typed.count(), 0); // waits for a pause
         QTRY_COMPARE(statement.rowCount(), 2);
         QCOMPARE(statement.IncomeText(), scene.Format.Cents(1000));
-        QCOMPARE(statement.ExpenseText(), scene.Format.Cents(500));
+        QCOMPARE(statement.ExpenseText(), scene.Format.Cents(-500));
         QCOMPARE(statement.Extract().Rows.size(), std::size_t{2});
     }
 

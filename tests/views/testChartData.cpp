@@ -136,6 +136,7 @@ private Q_SLOTS:
         QCOMPARE(past.Labels.size(), 3);
         QCOMPARE(past.Series[4].Name, u"Ausgaben (2025)"_s);
         QCOMPARE(past.Series[4].At(1), 15000);
+        QVERIFY(past.PartText(4, 1).startsWith(u"Ausgaben (2025), Februar 2025: "));
     }
 
     void takesYearsForManyMonths()
@@ -155,6 +156,12 @@ private Q_SLOTS:
         const cChartData chart = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year});
         QCOMPARE(Values(chart, 1), (QStringList{u"Wohnen=15000"_s, u"Haushalt=25000"_s}));
         const cChartData below = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Group = u"Wohnen"_s});
+        const cChartData beside =
+            book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Second = cChartWish::YearBefore(year)});
+        QCOMPARE(
+            Values(beside, 1),
+            (QStringList{u"Wohnen=15000"_s, u"Haushalt=25000"_s, u"Wohnen (2025)=0"_s, u"Haushalt (2025)=15000"_s}));
+        QCOMPARE(beside.Series[3].Colour, beside.Series[1].Colour);
         QCOMPARE(Values(below, 1), (QStringList{u"Miete=0"_s, u"Strom=10000"_s, u"Sonstiges (Wohnen)=5000"_s}));
     }
 

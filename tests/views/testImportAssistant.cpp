@@ -220,6 +220,21 @@ private Q_SLOTS:
         QCOMPARE(page.Opened, 3);
     }
 
+    // Where files of one kind come from several accounts, the answer for one says nothing about the next.
+    void asksAboutEachFileOfSeveralAccounts()
+    {
+        cPage page;
+        page.Answer = [&](cImportAssistant& assistant) { assistant.SetAccount(QString::number(4711 + page.Opened)); };
+        const QString first = page.Write(u"1.csv"_s, plain);
+        const QString second = page.Write(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
+        cNoProgress progress;
+        for (int account = 0; account < 2; ++account) {
+            page.Review.Files().ImportFiles({first}, progress, cStatementFiles::eAssist::Always);
+        }
+        page.Import({first, second});
+        QCOMPARE(page.Opened, 4);
+    }
+
     // A known layout with other columns stays a known layout in all else.
     void knownLayoutsCanBeChanged()
     {

@@ -91,8 +91,10 @@ private Q_SLOTS:
         page.ImportFixture();
         QVERIFY(!rows.isEmpty());
         QCOMPARE(page.User.Asked,
-                 (QStringList{u"Zu welchem Konto gehören die Umsätze der Kontonummer 1234567?"_s,
-                              u"Zu welchem Konto gehören die Umsätze der Kontonummer 7654321?"_s}));
+                 (QStringList{u"Zu welchem Konto gehören die Umsätze der Kontonummer 1234567?\n"
+                              "Ein neuer Name legt ein Konto an."_s,
+                              u"Zu welchem Konto gehören die Umsätze der Kontonummer 7654321?\n"
+                              "Ein neuer Name legt ein Konto an."_s}));
         QCOMPARE(page.Review.Summary(),
                  QStringList(u"giro.sta: 6 gelesen, 5 neu, 1 ohne Betrag, Schlusssaldo 5.200,00"_s + space + u'€'));
         QCOMPARE(page.Review.View().CountText(), u"5 offen, 5 insgesamt"_s);
@@ -141,10 +143,10 @@ private Q_SLOTS:
         page.Review.View().SetOpenOnly(false);
         page.ImportFixture();
         cStagedListModel& rows = page.Review.Rows();
-        QVERIFY(rows.setData(rows.index(0, cStagedListModel::Category), u"freizeit; geschenke"_s, Qt::EditRole));
-        QVERIFY(!rows.setData(rows.index(0, cStagedListModel::Category), u"Unbekannt"_s, Qt::EditRole));
-        QVERIFY(!rows.setData(rows.index(0, cStagedListModel::Interval), u"manchmal"_s, Qt::EditRole));
-        QVERIFY(!rows.setData(rows.index(0, cStagedListModel::Purpose), u"x"_s, Qt::EditRole));
+        const QList<int> first{rows.IdAt(rows.index(0, 0))};
+        QVERIFY(page.Review.Choose(first, u"freizeit; geschenke"_s, {}));
+        QVERIFY(!page.Review.Choose(first, u"Unbekannt"_s, {}));
+        QVERIFY(!page.Review.Choose(first, {}, u"manchmal"_s));
         QCOMPARE(page.Cell(0, cStagedListModel::Reason), u"von Hand gewählt"_s);
         QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
         page.Review.Book(page.AllIds(), page.Progress);
@@ -158,6 +160,20 @@ private Q_SLOTS:
         QCOMPARE(rows.rowCount(), 0);
         QVERIFY(page.Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
         QVERIFY(page.Settings->GetBool(u"HideBookedEntries"_s));
+    }
+
+    // The number of a row that is gone comes again.
+    void forgetsTheChoiceForARowThatIsAnotherOne()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"Geschenk"_s; });
+        const int last = page.AllIds().last();
+        QVERIFY(page.Review.Choose({last}, u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(page.Data.DeleteImport(last));
+        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"etwas ganz anderes"_s; });
+        QCOMPARE(page.AllIds().last(), last);
+        QCOMPARE(page.Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
     }
 
     void asksAgainBeforeBooking()

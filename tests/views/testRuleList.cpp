@@ -262,7 +262,7 @@ void testRuleList::FromARow() const
 void testRuleList::UnreadableStays() const
 {
     cScene scene;
-    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A"_s);
+    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A\n"_s);
     cRuleList list(scene.Parts());
     QVERIFY(!list.CanEdit() && !list.Save());
     QVERIFY(!list.Switch(0, true));
@@ -278,7 +278,8 @@ void testRuleList::RenamedCategoriesAndAccounts() const
     cScene scene;
     cOwnRule rule = Rule(u"rewe"_s);
     rule.Account = u"Girokonto"_s;
-    scene.Keep({rule});
+    const cOwnRule other = Rule(u"x"_s, u"Haushaltshilfe"_s); // begins alike, and is another one
+    scene.Keep({rule, other});
     cTemplateManager manager({scene.Data, *scene.Settings, scene.Format, scene.User, scene.Clock});
     QVERIFY(manager.RenameCategory(u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s));
     QVERIFY(manager.RenameCategory(u"Haushalt"_s, u"Daheim"_s));
@@ -286,6 +287,7 @@ void testRuleList::RenamedCategoriesAndAccounts() const
     const cOwnRule renamed = cOwnRules(*scene.Settings).Load().value(0);
     QCOMPARE(renamed.Category, u"Daheim; Essen"_s);
     QCOMPARE(renamed.Account, u"Hauptkonto"_s);
+    QCOMPARE(cOwnRules(*scene.Settings).Load().value(1), other);
     scene.User.Answers = {eAnswer::Yes};
     QVERIFY(manager.MergeCategory(u"Daheim; Essen"_s, u"Daheim; Getränke"_s));
     QCOMPARE(cOwnRules(*scene.Settings).Load().value(0).Category, u"Daheim; Getränke"_s);

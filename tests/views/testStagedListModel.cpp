@@ -20,8 +20,6 @@ public:
         Asked.append(row.ID);
         return {};
     }
-    bool SetCategory(const cImportEntry& /*row*/, const QString& /*category*/) override { return true; }
-    bool SetInterval(const cImportEntry& /*row*/, const QString& /*interval*/) override { return true; }
 
     QList<int> Asked;
 };

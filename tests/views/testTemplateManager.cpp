@@ -98,6 +98,7 @@ private Q_SLOTS:
     void AddsWhereTheSelectionIs();
     void ListsPathsThatNoCategoryHas();
     void WritesStartBalances();
+    void WritesAccountLimits();
     void AssignsBankNumbers();
     void DeletesAnAccount();
     void MergesAccounts();
@@ -399,6 +400,23 @@ void testTemplateManager::WritesStartBalances()
     QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryDate, QDate(2026, 2, 1));
     QVERIFY(save({}, QDate(2026, 2, 1)));
     QVERIFY(!scene.Book.Data.GetStartGuthaben(u"Bargeld"_s));
+}
+
+// Zero and an overdraft are limits too; only an empty field is none.
+void testTemplateManager::WritesAccountLimits()
+{
+    cScene scene;
+    const auto save = [&](const QString& text) {
+        return scene.Save(scene.Account(u"Bargeld"_s), [&](cTemplateFields& fields) { fields.Limit = text; });
+    };
+    for (const auto& [typed, stored] : {std::pair{u"0"_s, u"0.00"_s}, std::pair{u"-500"_s, u"-500.00"_s},
+                                        std::pair{u"50+50"_s, u"100.00"_s}, std::pair{QString(), QString()}}) {
+        QVERIFY(save(typed));
+        QCOMPARE(scene.Book.Data.FindAccount(u"Bargeld"_s)->TemplateDefaultValue, stored);
+    }
+    QVERIFY(save(u"7"_s));
+    QVERIFY(!save(u"viel"_s));
+    QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"7,00"_s);
 }
 
 void testTemplateManager::AssignsBankNumbers()

@@ -183,6 +183,22 @@ private Q_SLOTS:
         QCOMPARE(stage.View.ShownData().Series.size(), 2);
     }
 
+    // A stack beside has no legend of its own: what is switched off goes there too.
+    void switchesTheStackBeside()
+    {
+        cChartData chart = Chart(eChart::StackedColumns);
+        chart.Series += chart.Series;
+        chart.Series[2].IsComparison = true;
+        chart.Series[3].IsComparison = true;
+        cStage stage(chart);
+        QCOMPARE(stage.View.Layout().Legend.size(), 2U);
+        QVERIFY(stage.Anchor({2, 0}).x() > stage.Anchor({0, 0}).x());
+        QCOMPARE(stage.Anchor({2, 0}).y(), stage.Anchor({0, 0}).y());
+        stage.Click(stage.View.Layout().Legend.at(0).Area.center());
+        QVERIFY(stage.View.Data().IsHidden(0) && stage.View.Data().IsHidden(2));
+        QVERIFY(!stage.View.Data().IsHidden(3));
+    }
+
     void showsTheSameInTheTable()
     {
         cChartBox box;

@@ -7,6 +7,7 @@
 #include "app/cli/modCliRecord.h"
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "model/modBalance.h"
 #include "views/cBankNumbers.h"
@@ -178,6 +179,25 @@ int Start(const cCliContext& context)
     return modCliFlow::Finish(context, balance.Save(account, cents, day.isValid() ? day : context.Clock.Today()));
 }
 
+int Limit(const cCliContext& context)
+{
+    cCliReader reader(context);
+    const QString name = reader.Account(context.Call.Arguments().constFirst());
+    const QString text = context.Call.Arguments().constLast();
+    const bool isNone = text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
+    const qint64 cents = isNone ? 0 : reader.Cents(text);
+    if (!reader.IsGood()) {
+        return reader.Report();
+    }
+    cDataAccess& data = context.Book->Data;
+    std::optional<cTemplateItem> account = data.FindAccount(name);
+    if (!account) {
+        return modExit::Failed;
+    }
+    account->TemplateDefaultValue = isNone ? QString() : modAmount::CentsToText(cents);
+    return modCliFlow::Finish(context, data.ChangeTemplate(*account));
+}
+
 } // namespace
 
 cCliCommand modCliCommands::AccountsCommand()
@@ -236,4 +256,15 @@ cCliCommand modCliCommands::AccountsStartCommand()
             .Access = eCliAccess::Write,
             .Options = {{u"date"_s, u"DATUM"_s, cText::Tr("Tag; ohne Angabe der bisherige, sonst heute")}},
             .Run = Start};
+}
+
+cCliCommand modCliCommands::AccountsLimitCommand()
+{
+    return {.Name = u"accounts limit"_s,
+            .Arguments = u"NAME BETRAG"_s,
+            .Help = cText::Tr("legt fest, vor welchem Kontostand gewarnt wird; \"ohne\" entfernt das Limit"),
+            .MinArguments = 2,
+            .MaxArguments = 2,
+            .Access = eCliAccess::Write,
+            .Run = Limit};
 }

@@ -59,6 +59,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand AccountsRenameCommand();
 [[nodiscard]] cCliCommand AccountsDeleteCommand();
 [[nodiscard]] cCliCommand AccountsStartCommand();
+[[nodiscard]] cCliCommand AccountsLimitCommand();
 [[nodiscard]] cCliCommand BalancesCommand();
 [[nodiscard]] cCliCommand CheckCommand();
 [[nodiscard]] cCliCommand DemoCommand();

@@ -134,14 +134,16 @@ void Print(const cImportResult& result, const cCliBook& book)
     }
 }
 
-// Numbers that the book does not know yet get an account, so that their rows can be booked.
+// Numbers that the book does not know yet get an account, so that their rows can be booked; one of their own where no
+// account is free.
 bool AssignAccounts(const cCliContext& context, const QStringList& numbers)
 {
     cCliBook& book = *context.Book;
     const QStringList unknown = book.Accounts.Unknown(numbers);
     for (const QString& number : unknown) {
         const QString wanted = context.Call.Value(u"book-account"_s);
-        const QString account = wanted.isEmpty() ? book.Accounts.Proposal(number) : wanted;
+        const QString proposal = book.Accounts.Proposal(number);
+        const QString account = !wanted.isEmpty() ? wanted : proposal.isEmpty() ? number : proposal;
         if (!book.Accounts.Assign(number, account)) {
             modConsole::Error(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
             return false;

@@ -179,7 +179,14 @@ void cChartView::Click(const cChartPart& part)
 
 void cChartView::Switch(int series)
 {
-    m_data.Series[series].IsHidden = !m_data.Series[series].IsHidden;
+    const bool isHidden = !m_data.IsHidden(series);
+    for (cChartSeries& each : m_data.Series) {
+        // A stack laid beside has no item of its own in the legend; it goes with the one of its colour.
+        const bool isBeside = m_data.Kind == eChart::StackedColumns && each.IsComparison
+            && each.Colour == m_data.Series.at(series).Colour;
+        each.IsHidden = isBeside ? isHidden : each.IsHidden;
+    }
+    m_data.Series[series].IsHidden = isHidden;
     if (m_state.Current && m_data.IsHidden(m_state.Current->Series)) {
         m_state.Current.reset();
     }

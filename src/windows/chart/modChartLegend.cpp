@@ -12,6 +12,18 @@ namespace {
 constexpr int mostInRows = 6;       // more series stand in a list beside the chart
 constexpr double swatchWidth = 1.5; // em, with the gap behind it
 
+// The series that the legend names. A stack laid beside has the colours of the first one and needs no names of its own.
+QList<int> Items(const cChartScene& scene)
+{
+    QList<int> items;
+    for (int series = 0; series < scene.SeriesCount(); ++series) {
+        if (scene.Data.Kind != eChart::StackedColumns || !scene.Data.Series[series].IsComparison) {
+            items.append(series);
+        }
+    }
+    return items;
+}
+
 // Two pies share a list; what is which stands above the figures.
 bool HasHeader(const cChartScene& scene)
 {
@@ -65,7 +77,8 @@ double ItemWidth(const cChartScene& scene, int series)
 double ListWidth(const cChartScene& scene, double room)
 {
     double widest = 0;
-    for (int series = 0; series < scene.SeriesCount(); ++series) {
+    const QList<int> items = Items(scene);
+    for (const int series : items) {
         widest = std::max(widest, ItemWidth(scene, series));
     }
     const double share = scene.Data.Kind == eChart::Pie ? 0.58 : 0.3;
@@ -76,13 +89,17 @@ double ListWidth(const cChartScene& scene, double room)
 void LayOutList(const cChartScene& scene, cChartLayout& layout, const QRectF& area)
 {
     const double most = scene.Em() * 1.65;
-    const int rows = scene.SeriesCount() + (HasHeader(scene) ? 1 : 0);
+    const QList<int> items = Items(scene);
+    const int rows = static_cast<int>(items.size()) + (HasHeader(scene) ? 1 : 0);
     const double height = std::clamp(area.height() / std::max(1, rows), scene.Em() * 1.1, most);
     const double used = height * rows;
     const bool isPie = scene.Data.Kind == eChart::Pie;
     double y = area.top() + (isPie ? std::max(0.0, (area.height() - used) / 2) : 0.0);
     y += HasHeader(scene) ? height : 0.0;
-    for (int series = 0; series < scene.SeriesCount() && y + height <= area.bottom() + 1; ++series) {
+    for (const int series : items) {
+        if (y + height > area.bottom() + 1) {
+            break;
+        }
         layout.Legend.push_back({series, QRectF(area.left(), y, area.width(), height)});
         y += height;
     }
@@ -114,7 +131,8 @@ void LayOutRows(const cChartScene& scene, cChartLayout& layout)
     const double height = scene.Em() * 1.5;
     double x = layout.Plot.left();
     double y = layout.Plot.top() - scene.Em() * 0.2;
-    for (int series = 0; series < scene.SeriesCount(); ++series) {
+    const QList<int> items = Items(scene);
+    for (const int series : items) {
         const double width = std::min(ItemWidth(scene, series), layout.Plot.width());
         if (x > layout.Plot.left() && x + width > layout.Plot.right()) {
             x = layout.Plot.left();
@@ -180,7 +198,7 @@ void modChartLegend::LayOut(const cChartScene& scene, cChartLayout& layout)
     if (scene.Data.Kind == eChart::Pie) {
         const bool isWide = layout.Plot.width() > layout.Plot.height() * 1.1;
         isWide ? LayOutBesidePie(scene, layout) : LayOutBelowPie(scene, layout);
-    } else if (scene.SeriesCount() > mostInRows && layout.Plot.width() > scene.Em() * 30) {
+    } else if (Items(scene).size() > mostInRows && layout.Plot.width() > scene.Em() * 30) {
         const double width = ListWidth(scene, layout.Plot.width());
         const QRectF area(layout.Plot.right() - width, layout.Plot.top(), width, layout.Plot.height());
         layout.Plot.setRight(area.left() - scene.Em() * 0.5);

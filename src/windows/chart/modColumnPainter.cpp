@@ -30,14 +30,28 @@ bool IsColumn(const cChartScene& scene, int series)
     return !scene.IsLine(series) && !scene.Data.IsHidden(series);
 }
 
-// Heights of the stacks at one label.
-void TakeStack(const cChartScene& scene, int index, cSpan& span)
+// A period laid beside has stacks of its own.
+enum class eStack { Own, Beside };
+
+bool IsIn(const cChartScene& scene, int series, eStack stack)
+{
+    return IsColumn(scene, series) && scene.Data.Series[series].IsComparison == (stack == eStack::Beside);
+}
+
+bool HasBeside(const cChartScene& scene)
+{
+    return std::any_of(scene.Data.Series.begin(), scene.Data.Series.end(),
+                       [](const cChartSeries& series) { return series.IsComparison; });
+}
+
+// Heights of one stack.
+void TakeStack(const cChartScene& scene, int index, eStack stack, cSpan& span)
 {
     qint64 up = 0;
     qint64 down = 0;
     for (int series = 0; series < scene.SeriesCount(); ++series) {
         const qint64 cents = scene.Data.Series[series].At(index).value_or(0);
-        if (IsColumn(scene, series)) {
+        if (IsIn(scene, series, stack)) {
             (cents > 0 ? up : down) += cents;
         }
     }
@@ -50,7 +64,8 @@ cSpan SpanOf(const cChartScene& scene)
     cSpan span;
     for (int index = 0; index < scene.LabelCount(); ++index) {
         if (scene.Data.Kind == eChart::StackedColumns) {
-            TakeStack(scene, index, span);
+            TakeStack(scene, index, eStack::Own, span);
+            TakeStack(scene, index, eStack::Beside, span);
         }
         for (int series = 0; series < scene.SeriesCount(); ++series) {
             const bool isAlone = scene.Data.Kind != eChart::StackedColumns || scene.IsLine(series);
@@ -88,20 +103,29 @@ void LayOutBeside(const cChartScene& scene, cChartLayout& layout, int index, dou
     }
 }
 
-void LayOutStack(const cChartScene& scene, cChartLayout& layout, int index, double slot)
+void PileUp(const cChartScene& scene, cChartLayout& layout, int index, eStack stack, const QRectF& column)
 {
-    const double width = std::min(scene.Em() * 4, slot * groupShare);
-    const double left = scene.XOf(layout, index) - width / 2;
     qint64 up = 0;
     qint64 down = 0;
     for (int series = 0; series < scene.SeriesCount(); ++series) {
         const qint64 cents = scene.Data.Series[series].At(index).value_or(0);
-        if (!IsColumn(scene, series) || cents == 0) {
+        if (!IsIn(scene, series, stack) || cents == 0) {
             continue;
         }
         qint64& end = cents > 0 ? up : down;
-        layout.Hits.push_back({{series, index}, Column(layout, left, width, end, end + cents)});
+        layout.Hits.push_back({{series, index}, Column(layout, column.left(), column.width(), end, end + cents)});
         end += cents;
+    }
+}
+
+void LayOutStacks(const cChartScene& scene, cChartLayout& layout, int index, double slot, bool hasBeside)
+{
+    const int count = hasBeside ? 2 : 1;
+    const double width = std::min(scene.Em() * 4, slot * groupShare) / count;
+    const double left = scene.XOf(layout, index) - width * count / 2;
+    PileUp(scene, layout, index, eStack::Own, QRectF(left, 0, width, 1));
+    if (hasBeside) {
+        PileUp(scene, layout, index, eStack::Beside, QRectF(left + width, 0, width, 1));
     }
 }
 
@@ -183,9 +207,10 @@ void modColumnPainter::LayOut(const cChartScene& scene, cChartLayout& layout)
     scene.LayOutAxes(layout, span.Smallest, span.Largest);
     const double slot = layout.Plot.width() / std::max(1, scene.LabelCount());
     layout.Reach = std::min(scene.Em() * 0.5, slot / 2);
+    const bool hasBeside = HasBeside(scene);
     for (int index = 0; index < scene.LabelCount(); ++index) {
         if (scene.Data.Kind == eChart::StackedColumns) {
-            LayOutStack(scene, layout, index, slot);
+            LayOutStacks(scene, layout, index, slot, hasBeside);
         } else {
             LayOutBeside(scene, layout, index, slot);
         }

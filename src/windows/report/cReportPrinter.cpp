@@ -52,15 +52,16 @@ int cReportPrinter::PageEnd(const std::vector<cLine>& lines, int top, int height
     const int limit = top + height;
     // The first line that is not wholly on the page.
     auto cut = std::find_if(lines.begin(), lines.end(), [limit](const cLine& line) { return line.Bottom > limit; });
-    if (cut == lines.end() || cut->Top >= limit) {
+    if (cut == lines.end()) {
         return limit;
     }
-    int end = cut->Top;
-    while (cut != lines.begin() && std::prev(cut)->KeepsWithNext) {
-        --cut;
+    int end = std::min(cut->Top, limit);
+    auto first = cut;
+    while (first != lines.begin() && std::prev(first)->KeepsWithNext) {
+        --first;
     }
-    if (cut->Top > top) {
-        end = cut->Top;
+    if (first != cut && first->Top > top) {
+        end = first->Top;
     }
     return end > top ? end : limit;
 }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+// Cells of a list whose rows are all of one height. Asking the font once per row keeps long lists quick, and texts that
+// are too long are cut instead of scrolled sideways.
+class cRowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] static int RowHeight(const QFontMetrics& metrics) { return metrics.height() + 8; }
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    // The colour of an amount: 1 income, 2 expense, 0 neither.
+    static void SetTone(QStyleOptionViewItem& option, int tone);
+};
