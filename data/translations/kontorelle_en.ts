@@ -486,10 +486,6 @@ Zu welchem Konto gehören seine Umsätze?</source>
 Which account do its transactions belong to?</translation>
     </message>
     <message>
-        <source>Zu welchem Konto gehören die Umsätze der Kontonummer {0}?</source>
-        <translation>Which account do the transactions of account number {0} belong to?</translation>
-    </message>
-    <message>
         <source>Konto zuordnen</source>
         <translation>Assign account</translation>
     </message>
@@ -1290,10 +1286,6 @@ Entries booked from them will remain.</translation>
         <translation>Purpose</translation>
     </message>
     <message>
-        <source>Grund des Vorschlags</source>
-        <translation>Reason</translation>
-    </message>
-    <message>
         <source>Neuer Name für das Konto &apos;{0}&apos;:</source>
         <translation>New name for the account &apos;{0}&apos;:</translation>
     </message>
@@ -2046,16 +2038,8 @@ The opening balances are added up, and the bank account numbers move along.</tra
         <translation>Print</translation>
     </message>
     <message>
-        <source>Druckt die gezeigten Einträge.</source>
-        <translation>Prints the entries shown.</translation>
-    </message>
-    <message>
         <source>Seitenansicht</source>
         <translation>Print preview</translation>
-    </message>
-    <message>
-        <source>Zeigt, wie die Einträge gedruckt aussehen.</source>
-        <translation>Shows what the entries will look like in print.</translation>
     </message>
     <message>
         <source>Nimmt die letzte Änderung zurück.</source>
@@ -4348,14 +4332,6 @@ Do you want to correct the series for this period to the amount of the statement
         <translation>{0} → {1}</translation>
     </message>
     <message>
-        <source>Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon gibt:
-{1}
-Sollen daraus trotzdem neue Einträge werden? Bei Nein werden nur die übrigen gebucht.</source>
-        <translation>Of the selected transactions, {0} probably belong to entries that exist already:
-{1}
-Should they become new entries all the same? With No, only the others are booked.</translation>
-    </message>
-    <message>
         <source>Umsätze buchen</source>
         <translation>Book transactions</translation>
     </message>
@@ -4418,10 +4394,6 @@ Should they become new entries all the same? With No, only the others are booked
     <message>
         <source>Verlauf: Vorschau mit dem Durchschnitt der Einzelausgaben</source>
         <translation>verlauf (balances): forecast with the average of one-off expenses</translation>
-    </message>
-    <message>
-        <source>ohne Einträge nach heute</source>
-        <translation>without entries after today</translation>
     </message>
     <message>
         <source>ohne Startguthaben</source>
@@ -4924,24 +4896,8 @@ Suggestion: {2}</translation>
         <translation>already there</translation>
     </message>
     <message>
-        <source>Ausgaben nach Kategorie</source>
-        <translation>Expenses by category</translation>
-    </message>
-    <message>
-        <source>Einnahmen nach Kategorie</source>
-        <translation>Income by category</translation>
-    </message>
-    <message>
         <source>Einnahmen und Ausgaben je Monat</source>
         <translation>Income and expenses per month</translation>
-    </message>
-    <message>
-        <source>Ausgaben je Monat</source>
-        <translation>Expenses per month</translation>
-    </message>
-    <message>
-        <source>Einnahmen je Monat</source>
-        <translation>Income per month</translation>
     </message>
     <message>
         <source>Verlauf der Kontostände</source>
@@ -5328,14 +5284,6 @@ Suggestion: {2}</translation>
         <translation>{0} of the transactions shown have a reliable suggestion. Do you want to book them all that way?</translation>
     </message>
     <message>
-        <source>Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
-{1}
-Sollen sie trotzdem gebucht werden? Bei Nein werden nur die übrigen gebucht.</source>
-        <translation>For {0} of the transactions there is another one that may be the same, for example from a file in another format:
-{1}
-Should they be booked all the same? With No, only the others are booked.</translation>
-    </message>
-    <message>
         <source>Vorschläge annehmen</source>
         <translation>Accept suggestions</translation>
     </message>
@@ -5490,10 +5438,6 @@ Should they be booked all the same? With No, only the others are booked.</transl
     <message>
         <source>Zeigt wieder die Einträge von vorher</source>
         <translation>Shows the previous entries again</translation>
-    </message>
-    <message>
-        <source>mit Durchschnitt</source>
-        <translation>with average</translation>
     </message>
     <message>
         <source>Diagramm</source>
@@ -5718,10 +5662,6 @@ Should they be booked all the same? With No, only the others are booked.</transl
     <message>
         <source>&amp;Kontoauszug anzeigen…</source>
         <translation>Show &amp;statement…</translation>
-    </message>
-    <message>
-        <source>&amp;Diesen Import durchsehen…</source>
-        <translation>Revie&amp;w this import…</translation>
     </message>
     <message>
         <source>Zeigt vor dem Einlesen, wie eine Datei gelesen wird; Spalten und Konto lassen sich dort ändern</source>
@@ -5970,10 +5910,6 @@ Should they be booked all the same? With No, only the others are booked.</transl
         <translation>Save rep&amp;ort</translation>
     </message>
     <message>
-        <source>Dr&amp;ucken …</source>
-        <translation>Pr&amp;int…</translation>
-    </message>
-    <message>
         <source>Be&amp;richt</source>
         <translation>&amp;Report</translation>
     </message>
@@ -6070,10 +6006,6 @@ Should they be booked all the same? With No, only the others are booked.</transl
         <translation>Select &amp;all</translation>
     </message>
     <message>
-        <source>Im Bericht &amp;suchen …</source>
-        <translation>&amp;Find in report…</translation>
-    </message>
-    <message>
         <source>&amp;Vergrößern</source>
         <translation>Zoom &amp;in</translation>
     </message>
@@ -6084,6 +6016,111 @@ Should they be booked all the same? With No, only the others are booked.</transl
     <message>
         <source>&amp;Normale Größe</source>
         <translation>&amp;Normal size</translation>
+    </message>
+    <message>
+        <source>Der letzte Tag liegt vor dem ersten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>legt fest, vor welchem Kontostand gewarnt wird; &quot;ohne&quot; entfernt das Limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 Umsatz freigegeben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{0}: {1}, 1 Umsatz gelesen, {3} neu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zu welchem Konto gehören die Umsätze der Kontonummer {0}?
+Ein neuer Name legt ein Konto an.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 Umsatz wartet auf die Buchung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Im Konto {0} gibt es bis {1} Tage vor und nach dem {2} keinen Eintrag in dieser Richtung. „Buchen“ macht aus dem Umsatz einen neuen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Diagramm wurde nach &apos;{0}&apos; gespeichert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ausgaben je Monat nach Kategorien</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Einnahmen je Monat nach Kategorien</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noch hat keine Kategorie ein Monatslimit. Sie legen eines unter „Extras“, „Kategorie/Konto bearbeiten“ fest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Am {0} fehlen {1} an Ausgaben:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Am {0} fehlen {1} an Einnahmen:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Druckt die gezeigten Einträge oder die Auswertung.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeigt, wie der Ausdruck aussieht.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon gibt:
+{1}
+Sollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
+{1}
+Sollen diese offen bleiben? Bei Nein werden auch sie gebucht.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag und Betrag nicht erkannt, bitte wählen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mit Einzelausgaben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diesen &amp;Import durchsehen…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dr&amp;ucken…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Auch Einträge zeigen, die weniger passen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alle Einträge dieser Tage, zum Beispiel wenn mehrere Umsätze einen Eintrag bezahlen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Im Bericht &amp;suchen…</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -16,6 +16,7 @@
 #include "views/cRuleList.h"
 #include "views/cSearchModel.h"
 #include "views/cSeriesChange.h"
+#include "views/cStatementFiles.h"
 #include "views/cStatisticsModel.h"
 #include "views/cTemplateManager.h"
 #include "views/modCommand.h"
@@ -125,6 +126,7 @@ void cNavigation::LeaveBook()
     m_search = nullptr;
     m_searchModel.reset();
     m_password.reset();
+    m_review->Files().ForgetFiles();
     if (m_window->Page() == frmMain::ePage::Statistics) {
         m_window->ShowPage(frmMain::ePage::Entries);
     }

@@ -15,6 +15,12 @@
 
 namespace {
 
+// A file is named after the document, without what comes after the last dot: that would be the year of a date.
+QString DocumentName(const cPrintable& content)
+{
+    return content.Title().replace(u'.', u'-');
+}
+
 // The pages of one copy in the order in which they are wanted, counted from 0.
 std::vector<int> Wanted(const QPrinter& printer, int count)
 {
@@ -76,7 +82,7 @@ bool cQtPrinter::Spool(QPrinter& printer, cPrintable& content)
 void cQtPrinter::Print(cPrintable& content, QWidget* parent)
 {
     QPrinter& printer = Printer();
-    printer.setDocName(content.Title());
+    printer.setDocName(DocumentName(content));
     QPrintDialog dialog(&printer, parent);
     dialog.setWindowTitle(cText::Tr("Drucken"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
@@ -96,7 +102,7 @@ void cQtPrinter::Print(cPrintable& content, QWidget* parent)
 void cQtPrinter::Preview(cPrintable& content, QWidget* parent)
 {
     QPrinter& printer = Printer();
-    printer.setDocName(content.Title());
+    printer.setDocName(DocumentName(content));
     // Range, order and copies were only meant for the last print.
     printer.setFromTo(0, 0);
     printer.setPageOrder(QPrinter::FirstPageFirst);

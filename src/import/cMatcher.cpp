@@ -150,7 +150,7 @@ void cMatcher::ReadIndexes(const std::vector<cImportEntry>& rows)
     }
 }
 
-std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t place, bool withTaken)
+std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t place, eWanted wanted)
 {
     std::vector<cPair> pairs;
     cMatchIndex* index = IndexFor(row);
@@ -168,7 +168,8 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
         modMatchScore::cEvidence evidence = EvidenceOf(row, item);
         const bool isTaken = index->IsTaken(number, row.ID);
         evidence.IsOnly = twins == 1 && !isTaken; // the one that is free
-        if (!modMatchScore::IsPossible(evidence) || (!withTaken && isTaken)) {
+        const bool isPossible = wanted == eWanted::All || modMatchScore::IsPossible(evidence);
+        if (!isPossible || (wanted == eWanted::Free && isTaken)) {
             continue;
         }
         if (!sense) {
@@ -177,7 +178,8 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
         const cMatchText::cLikeness likeness = sense->Compare(item.Entry, index->Text(number));
         evidence.Text = likeness.Value;
         evidence.TextMatch = likeness.Kind;
-        if (const double score = modMatchScore::Score(evidence); score >= modMatchScore::ListAt) {
+        const double score = modMatchScore::Score(evidence);
+        if (wanted == eWanted::All || score >= modMatchScore::ListAt) {
             pairs.push_back({place, number, index, score, evidence.Days, modMatchScore::Reason(evidence)});
         }
     }
@@ -196,14 +198,14 @@ cMatchCandidate cMatcher::CandidateOf(const cPair& pair, const cImportEntry& row
     return candidate;
 }
 
-QList<cMatchCandidate> cMatcher::Candidates(int rowId)
+QList<cMatchCandidate> cMatcher::Candidates(int rowId, eCandidates which)
 {
     QList<cMatchCandidate> candidates;
     const std::optional<cImportEntry> row = m_hive.GetImportHive().GetImportEntryByID(rowId);
     if (!row) {
         return candidates;
     }
-    std::vector<cPair> pairs = PairsOf(*row, 0, true);
+    std::vector<cPair> pairs = PairsOf(*row, 0, which == eCandidates::All ? eWanted::All : eWanted::Likely);
     std::sort(pairs.begin(), pairs.end(), IsBetter);
     for (const cPair& pair : pairs) {
         candidates.append(CandidateOf(pair, *row));
@@ -277,7 +279,7 @@ cMatchResult cMatcher::MatchAll(const QList<int>& rowIds, cProgress& progress, e
             result.IsCancelled = true;
             return result;
         }
-        std::vector<cPair> found = PairsOf(rows[place], place, false);
+        std::vector<cPair> found = PairsOf(rows[place], place, eWanted::Free);
         std::move(found.begin(), found.end(), std::back_inserter(pairs));
     }
     progress.addProgressValue(static_cast<int>(rows.size() % progressStep));

@@ -19,6 +19,7 @@ class cMatchIndex;
 class cProgress;
 
 enum class eMatchRun { Try, Write };
+enum class eCandidates { Likely, All }; // All: every entry of the same direction in those days
 
 // Finds the entries of the book that staged rows belong to, see modMatchScore. What it knows of the book is read when
 // it is first needed: make one per question or batch.
@@ -32,7 +33,7 @@ public:
 
     // The entries that the row may belong to, best first, also those that other rows have. Empty when the row's account
     // number has no account, or the row is gone.
-    [[nodiscard]] QList<cMatchCandidate> Candidates(int rowId);
+    [[nodiscard]] QList<cMatchCandidate> Candidates(int rowId, eCandidates which = eCandidates::Likely);
 
     // What it means to assign the row to an entry by hand: of a series the occurrence nearest to the row, with a
     // correction offered when the amount differs. Score and reason stay empty. Empty when row or entry are gone, or
@@ -46,6 +47,7 @@ public:
 
 private:
     struct cKnowledge;
+    enum class eWanted { Free, Likely, All }; // Free: likely, and no other row has it
     // A row and an item of its account's index that go together.
     struct cPair
     {
@@ -60,7 +62,7 @@ private:
     [[nodiscard]] static bool IsBetter(const cPair& a, const cPair& b);
     [[nodiscard]] cMatchIndex* IndexFor(const cImportEntry& row);
     void ReadIndexes(const std::vector<cImportEntry>& rows);
-    [[nodiscard]] std::vector<cPair> PairsOf(const cImportEntry& row, size_t place, bool withTaken);
+    [[nodiscard]] std::vector<cPair> PairsOf(const cImportEntry& row, size_t place, eWanted wanted);
     [[nodiscard]] cMatchCandidate CandidateOf(const cPair& pair, const cImportEntry& row) const;
     [[nodiscard]] std::vector<cImportEntry> OpenRows(const QList<int>& rowIds, cMatchResult& result);
     void Distribute(std::vector<cPair> pairs, const std::vector<cImportEntry>& rows, cMatchResult& result);

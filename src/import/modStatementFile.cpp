@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = qint64{512} * 1024 * 1024; // bytes; years of statements stay far below
+constexpr qint64 largestFile = qint64{256} * 1024 * 1024; // bytes; years of statements stay far below
 
 } // namespace
 

@@ -129,7 +129,8 @@ QString cAccountListModel::Warning(const cRow& row) const
 QString cAccountListModel::Hint(const cRow& row, int column) const
 {
     if (column == Open && row.Open > 0) {
-        return cText::Tr("{0} Umsätze warten auf die Buchung", {QString::number(row.Open)});
+        return row.Open == 1 ? cText::Tr("1 Umsatz wartet auf die Buchung")
+                             : cText::Tr("{0} Umsätze warten auf die Buchung", {QString::number(row.Open)});
     }
     return Warning(row).isEmpty() ? Text(row, Name) : Warning(row);
 }

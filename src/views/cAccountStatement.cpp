@@ -7,6 +7,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/modBalanceText.h"
+#include "views/modImportText.h"
 
 #include <algorithm>
 #include <array>
@@ -368,15 +369,6 @@ QString cAccountStatement::Text(qsizetype row, int column) const
     }
 }
 
-QString cAccountStatement::Tip(qsizetype row) const
-{
-    const cImportEntry& entry = m_ledger.Rows().at(row);
-    QStringList lines{entry.ImportBeneficiary, entry.ImportPurpose, entry.ImportType,
-                      QString(entry.ImportBeneficiaryAccount + u' ' + entry.ImportBeneficiaryBLZ).trimmed()};
-    lines.removeAll(QString());
-    return lines.join(u'\n');
-}
-
 QVariant cAccountStatement::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount()) {
@@ -387,7 +379,9 @@ QVariant cAccountStatement::data(const QModelIndex& index, int role) const
     const qint64 cents = column == Balance ? m_ledger.BalanceAfter(row + 1) : m_ledger.CentsOf(row);
     switch (role) {
     case Qt::DisplayRole: return Text(row, column);
-    case Qt::ToolTipRole: return column == Counterparty || column == Purpose ? Tip(row) : Text(row, column);
+    case Qt::ToolTipRole:
+        return column == Counterparty || column == Purpose ? modImportText::Details(m_ledger.Rows().at(row))
+                                                           : Text(row, column);
     case Qt::TextAlignmentRole:
         return IsMoney(column) ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case ToneRole: return column == Balance ? (cents < 0 ? 2 : 0) : (cents > 0 ? 1 : 2);

@@ -107,7 +107,6 @@ private:
     [[nodiscard]] qsizetype RowAt(int row) const { return m_shown[static_cast<std::size_t>(row)]; }
     [[nodiscard]] cListFilter& Texts();
     [[nodiscard]] QString Text(qsizetype row, int column) const;
-    [[nodiscard]] QString Tip(qsizetype row) const;
     [[nodiscard]] const QString& CategoryOf(const cImportEntry& row) const;
 
     cParts m_parts;

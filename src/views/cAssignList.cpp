@@ -24,12 +24,26 @@ cAssignList::cAssignList(cMatchFlow& flow, const cImportEntry& row, QObject* par
       m_flow(flow),
       m_row(row)
 {
-    const cMatchFlow::cParts& parts = m_flow.Parts();
-    const QList<cMatchCandidate> found = cMatcher(parts.Data, parts.Hive, parts.Accounts).Candidates(row.ID);
-    m_candidates.assign(found.begin(), found.end());
+    Read();
 }
 
 cAssignList::~cAssignList() = default;
+
+void cAssignList::Read()
+{
+    const cMatchFlow::cParts& parts = m_flow.Parts();
+    const eCandidates which = m_scope == eScope::All ? eCandidates::All : eCandidates::Likely;
+    const QList<cMatchCandidate> found = cMatcher(parts.Data, parts.Hive, parts.Accounts).Candidates(m_row.ID, which);
+    m_candidates.assign(found.begin(), found.end());
+}
+
+void cAssignList::SetScope(eScope scope)
+{
+    beginResetModel();
+    m_scope = scope;
+    Read();
+    endResetModel();
+}
 
 QString cAssignList::RowText() const
 {
@@ -69,9 +83,16 @@ QString cAssignList::EmptyHint() const
     if (account.isEmpty()) {
         return modImportText::NoAccountToMatch(m_row.ImportAccount);
     }
+    const QStringList values{account, QString::number(modMatchScore::FarthestDays),
+                             modDate::ToGerman(m_row.ImportDate)};
+    if (m_scope == eScope::All) {
+        return cText::Tr("Im Konto {0} gibt es bis {1} Tage vor und nach dem {2} keinen Eintrag in dieser Richtung. "
+                         "„Buchen“ macht aus dem Umsatz einen neuen.",
+                         values);
+    }
     return cText::Tr("Gesucht wurde im Konto {0} nach Einträgen mit ähnlichem Betrag, bis {1} Tage vor und nach dem "
                      "{2}. „Buchen“ macht aus dem Umsatz einen neuen Eintrag.",
-                     {account, QString::number(modMatchScore::FarthestDays), modDate::ToGerman(m_row.ImportDate)});
+                     values);
 }
 
 int cAssignList::rowCount(const QModelIndex& parent) const

@@ -20,6 +20,8 @@ public:
         TakenRole,               // bool: another transaction belongs to it already
     };
 
+    enum class eScope { Likely, All }; // All: every entry of these days that goes the same direction
+
     // `flow` outlives the list.
     cAssignList(cMatchFlow& flow, const cImportEntry& row, QObject* parent = nullptr);
     ~cAssignList() override;
@@ -27,6 +29,9 @@ public:
     [[nodiscard]] QString RowText() const; // the transaction in one line
     // The place to start at: the best entry that no other transaction has; -1 when the list is empty.
     [[nodiscard]] int Proposed() const;
+
+    [[nodiscard]] eScope Scope() const { return m_scope; }
+    void SetScope(eScope scope);
 
     // Assigns the transaction to the entry at this place; false when the user gave up or the database refused.
     [[nodiscard]] bool Assign(int place);
@@ -45,8 +50,10 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QString Text(const cMatchCandidate& candidate, int column) const;
+    void Read();
 
     cMatchFlow& m_flow;
     cImportEntry m_row;
+    eScope m_scope = eScope::Likely;
     std::vector<cMatchCandidate> m_candidates;
 };

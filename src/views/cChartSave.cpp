@@ -29,6 +29,11 @@ QString FileName(QString title)
     return title;
 }
 
+QString Title()
+{
+    return cText::Tr("Diagramm speichern");
+}
+
 } // namespace
 
 cChartSave::cChartSave(cUser& user, cPictures pictures) : m_user(user), m_pictures(std::move(pictures))
@@ -39,7 +44,7 @@ bool cChartSave::Run(const cChartData& data, QDate today)
 {
     const QString filter = cText::Tr("PNG-Bild|*.png|SVG-Bild|*.svg|CSV-Datei (Zahlen)|*.csv");
     const QString proposal = u"Kontorelle-%1-%2"_s.arg(FileName(data.Title), modDate::ToIso(today));
-    const QString path = m_user.ChooseSavePath(cText::Tr("Diagramm speichern"), filter, proposal);
+    const QString path = m_user.ChooseSavePath(Title(), filter, proposal);
     return !path.isEmpty() && Write(data, path);
 }
 
@@ -58,15 +63,18 @@ bool cChartSave::Write(const cChartData& data, const QString& path)
                                 "werden soll.\nMöglich sind: .png, .svg, .csv.",
                                 {QDir::toNativeSeparators(path)}));
     }
-    const QString problem = modFileWrite::Replace(path, bytes);
-    return problem.isEmpty()
-        || Refuse(
-               cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
-                         {QDir::toNativeSeparators(path), problem}));
+    const QString shown = QDir::toNativeSeparators(path);
+    if (const QString problem = modFileWrite::Replace(path, bytes); !problem.isEmpty()) {
+        return Refuse(
+            cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
+                      {shown, problem}));
+    }
+    m_user.Show(eTone::Information, cText::Tr("Das Diagramm wurde nach '{0}' gespeichert.", {shown}), Title());
+    return true;
 }
 
 bool cChartSave::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Critical, text, cText::Tr("Diagramm speichern"));
+    m_user.Show(eTone::Critical, text, Title());
     return false;
 }

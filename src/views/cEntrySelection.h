@@ -15,4 +15,5 @@ struct cEntrySelection
     QString Account; // empty: all accounts
     modPeriod::cRange Range;
     std::function<cEntryItemList(const cEntryItemList& entries)> Pick{}; // those among the view's entries; none: all
+    bool WithFuture = false; // also where the view hides what is still to come: a forecast counts it
 };

@@ -65,6 +65,10 @@ cImportReview::cImportReview(const cParts& parts, QObject* parent)
     connect(&Files(), &cStatementFiles::FileStaged, this,
             [this](const QList<int>& ids) { m_works->Runs.NoteFile(ids); });
     connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);
+    connect(&Files(), &cStatementFiles::MoreStaged, this, [this](const QList<int>& ids) {
+        m_works->Runs.NoteMore(ids);
+        Q_EMIT RowsStaged(ids);
+    });
 }
 
 cImportReview::cImportReview(const cParts& parts, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
@@ -167,7 +171,7 @@ QList<int> cImportReview::AskAboutMatches(const QList<int>& rowIds)
         return rowIds;
     }
     const eAnswer answer = m_parts.User.Ask(modReviewQuestion::Matches(matches));
-    return answer == eAnswer::Yes ? rowIds : answer == eAnswer::No ? others : QList<int>{};
+    return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
 }
 
 // The same for rows that may be there twice. Of two that are both to be booked the first one is none too many.
@@ -189,7 +193,7 @@ QList<int> cImportReview::AskAboutTwins(const QList<int>& rowIds)
         return rowIds;
     }
     const eAnswer answer = m_parts.User.Ask(modReviewQuestion::Twins(twins));
-    return answer == eAnswer::Yes ? rowIds : answer == eAnswer::No ? others : QList<int>{};
+    return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
 }
 
 void cImportReview::Book(const QList<int>& asked, cProgress& progress)

@@ -50,6 +50,15 @@ QString TextOf(const QList<cRange>& files)
     return parts.join(u',');
 }
 
+// Leaves the rows below the ID.
+void CutAt(QList<cRange>& files, int id)
+{
+    files.removeIf([&](const cRange& file) { return file.First >= id; });
+    if (!files.isEmpty()) {
+        files.last().Last = qMin(files.constLast().Last, id - 1);
+    }
+}
+
 } // namespace
 
 QList<QList<cRange>> cImportRuns::Imports() const
@@ -80,8 +89,27 @@ void cImportRuns::NoteImport(const QList<int>& ids)
     }
     const cRange whole = RangeOf(ids);
     QList<QList<cRange>> imports = Imports();
-    imports.removeIf([&](const QList<cRange>& import) { return Whole(import).Last >= whole.First; });
+    for (QList<cRange>& import : imports) {
+        CutAt(import, whole.First);
+    }
+    imports.removeIf([](const QList<cRange>& import) { return import.isEmpty(); });
     imports.append(files.isEmpty() ? QList<cRange>{whole} : files);
+    Store(imports);
+}
+
+void cImportRuns::NoteMore(const QList<int>& ids)
+{
+    QList<QList<cRange>> imports = Imports();
+    if (ids.isEmpty() || imports.isEmpty()) {
+        NoteImport(ids);
+        return;
+    }
+    imports.last().last().Last = RangeOf(ids).Last;
+    Store(imports);
+}
+
+void cImportRuns::Store(const QList<QList<cRange>>& imports)
+{
     QStringList texts;
     for (const QList<cRange>& import : imports.last(qMin(imports.size(), mostImports))) {
         texts.append(TextOf(import));

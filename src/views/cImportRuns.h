@@ -23,6 +23,8 @@ public:
     void NoteFile(const QList<int>& ids);
     // The import has ended with these rows. IDs that come again, because an import was undone, belong to the later one.
     void NoteImport(const QList<int>& ids);
+    // The latest import got these rows afterwards.
+    void NoteMore(const QList<int>& ids);
 
     // The import that a row came with; empty for rows older than what is remembered.
     [[nodiscard]] cRange ImportOf(int id) const;
@@ -32,6 +34,7 @@ public:
 
 private:
     [[nodiscard]] QList<QList<cRange>> Imports() const; // upwards, each with its files
+    void Store(const QList<QList<cRange>>& imports);
 
     cSettings& m_settings;
     QList<cRange> m_files; // of the import that is under way

@@ -238,14 +238,19 @@ void cMainModel::ChoosePeriod(const QString& name)
         const QDate today = m_parts.Clock.Today();
         m_view.Free = shown.Start.isValid() && shown.End.isValid() ? shown : modPeriod::Year(today, 0);
     }
-    if (modPeriod::IsNext(name) && !m_view.ShowsFuture
+    OfferFuture(name);
+    RefreshView();
+}
+
+void cMainModel::OfferFuture(const QString& period)
+{
+    if (modPeriod::IsNext(period) && !m_view.ShowsFuture
         && m_parts.User.Ask({.Text = cText::Tr("Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige "
                                                "aktiviert werden?"),
                              .Title = {}})
             == eAnswer::Yes) {
         SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
     }
-    RefreshView();
 }
 
 void cMainModel::ChooseFreeRange(const modPeriod::cRange& range)

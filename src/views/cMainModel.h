@@ -74,7 +74,9 @@ public:
     void ChooseType(const QString& type);
     void ChooseGrouping(const QString& grouping);
     void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
-    void ToggleView(const QString& key);  // one of the five View... switches
+    // Asks whether entries after today are to be shown, when the period holds nothing else. The caller refreshes.
+    void OfferFuture(const QString& period);
+    void ToggleView(const QString& key); // one of the five View... switches
 
     // Shows selected entries in place of the view, grouped by main category. None of it is stored; GoBack shows the
     // view as it was before the first selection.

@@ -22,6 +22,7 @@ void cMainModel::ShowEntries(const cEntrySelection& selection)
     // The figure counts entries of every kind, so the list has to show them.
     m_view.ShowsSingle = true;
     m_view.ShowsFix = true;
+    m_view.ShowsFuture = m_detour->Before.ShowsFuture || selection.WithFuture;
     RefreshView();
 }
 

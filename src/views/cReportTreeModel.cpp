@@ -112,6 +112,18 @@ QString cReportTreeModel::Text(const cLine& line, int column) const
     return column == Name ? line.Label : m_format.Cents(column == Amount ? line.Amount.Cents : line.Amount.Limit);
 }
 
+// With the name, which may be longer than its place.
+QString cReportTreeModel::Explanation(const cLine& line) const
+{
+    const QString amount = m_figures.Type == eReport::Limit
+        ? cText::Tr("{0} von {1}", {Text(line, Amount), Text(line, Limit)})
+        : Text(line, Amount);
+    const QString entries = line.Amount.Entries == 1
+        ? cText::Tr("1 Eintrag")
+        : cText::Tr("{0} Einträge", {QString::number(line.Amount.Entries)});
+    return line.Label + u": " + amount + u'\n' + entries;
+}
+
 QVariant cReportTreeModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid()) {
@@ -121,15 +133,8 @@ QVariant cReportTreeModel::data(const QModelIndex& index, int role) const
     const bool isMoney = index.column() != Name;
     switch (role) {
     case Qt::DisplayRole: return Text(line, index.column());
-    case Qt::ToolTipRole:
-        return line.Amount.Entries == 1 ? cText::Tr("1 Eintrag")
-                                        : cText::Tr("{0} Einträge", {QString::number(line.Amount.Entries)});
+    case Qt::ToolTipRole: return Explanation(line);
     case Qt::TextAlignmentRole: return isMoney ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
-    case CentsRole:
-        return isMoney ? QVariant(index.column() == Amount ? line.Amount.Cents : line.Amount.Limit) : QVariant();
-    case KindRole: return static_cast<int>(line.Node.Kind);
-    case OverLimitRole: return line.Amount.Limit > 0 && line.Amount.Cents > line.Amount.Limit;
-    case EntriesRole: return line.Amount.Entries;
     default: return {};
     }
 }

@@ -16,12 +16,6 @@ class cReportTreeModel final : public QAbstractItemModel
 
 public:
     enum eColumn { Name, Amount, Limit };
-    enum eRole {
-        CentsRole = Qt::UserRole, // qint64: cents of a money column
-        KindRole,                 // int of eReportKind
-        OverLimitRole,            // bool: more was spent than the limit allows
-        EntriesRole,              // int: number of entries behind the line
-    };
 
     explicit cReportTreeModel(const cAmountFormat& format, QObject* parent = nullptr);
 
@@ -56,6 +50,7 @@ private:
     [[nodiscard]] const cLine& At(const QModelIndex& index) const;
     [[nodiscard]] const std::vector<int>& Children(const QModelIndex& parent) const;
     [[nodiscard]] QString Text(const cLine& line, int column) const;
+    [[nodiscard]] QString Explanation(const cLine& line) const;
 
     const cAmountFormat& m_format;
     cReportFigures m_figures;

@@ -6,6 +6,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
 #include "views/modEntryOrder.h"
+#include "views/modImportText.h"
 
 #include <algorithm>
 #include <array>
@@ -314,10 +315,7 @@ QString cStagedListModel::Tip(const cImportEntry& row, int column) const
     if (column != Counterparty && column != Purpose) {
         return Text(row, column);
     }
-    QStringList lines{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
-                      QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
-    lines.removeAll(QString());
-    return lines.join(u'\n');
+    return modImportText::Details(row);
 }
 
 QVariant cStagedListModel::data(const QModelIndex& index, int role) const

@@ -320,6 +320,7 @@ void cStatementFiles::StageLeftOut(const QList<int>& places)
 {
     const cUndoStep step(m_parts.Data, cText::Tr("Umsätze trotzdem übernommen"));
     cStaging staging(m_parts.Hive);
+    const int newest = NewestRow();
     int staged = 0;
     QList<int> taken = places;
     std::sort(taken.begin(), taken.end(), std::greater<>());
@@ -335,6 +336,24 @@ void cStatementFiles::StageLeftOut(const QList<int>& places)
     }
     Q_EMIT Imported({cText::Tr("{0} trotzdem übernommen.", {modImportText::Count(staged)})});
     Q_EMIT LeftOutChanged();
+    const bool isFirst =
+        std::all_of(m_last.begin(), m_last.end(), [](const cFile& file) { return file.Rows.isEmpty(); });
+    const QList<int> rows = RowsAbove(newest);
+    if (rows.isEmpty()) {
+        return;
+    }
+    if (isFirst && !m_last.isEmpty()) {
+        m_last.last().Rows = rows;
+        Q_EMIT RowsStaged(rows);
+    } else {
+        Q_EMIT MoreStaged(rows);
+    }
+}
+
+void cStatementFiles::ForgetFiles()
+{
+    m_last.clear();
+    DropLeftOut();
 }
 
 void cStatementFiles::StartAfresh()

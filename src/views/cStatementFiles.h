@@ -72,6 +72,7 @@ public:
 
     // What the last files brought may be gone: something was undone, or another book was opened.
     void StartAfresh();
+    void ForgetFiles(); // the last ones, because they were those of another book
 
 Q_SIGNALS:
     // Staged rows came; the lines say what came of each file.
@@ -80,6 +81,7 @@ Q_SIGNALS:
     void AccountsAsked(const QStringList& lines);
     void FileStaged(const QList<int>& ids); // by one file of the import that is under way
     void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
+    void MoreStaged(const QList<int>& ids); // the same import got these later, as the user wanted
     void LeftOutChanged();
 
 private:

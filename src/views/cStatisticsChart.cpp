@@ -27,12 +27,9 @@ cStatisticsChart::cStatisticsChart(const cParts& parts, const QString& prefix, e
 
 QStringList cStatisticsChart::Kinds()
 {
-    return {cText::Tr("Ausgaben nach Kategorie"),
-            cText::Tr("Einnahmen nach Kategorie"),
-            cText::Tr("Einnahmen und Ausgaben je Monat"),
-            cText::Tr("Ausgaben je Monat"),
-            cText::Tr("Einnahmen je Monat"),
-            cText::Tr("Verlauf der Kontostände")};
+    return {cText::Tr("Ausgaben nach Kategorien"),           cText::Tr("Einnahmen nach Kategorien"),
+            cText::Tr("Einnahmen und Ausgaben je Monat"),    cText::Tr("Ausgaben je Monat nach Kategorien"),
+            cText::Tr("Einnahmen je Monat nach Kategorien"), cText::Tr("Verlauf der Kontostände")};
 }
 
 void cStatisticsChart::Restore()
@@ -136,6 +133,7 @@ void cStatisticsChart::ChoosePeriod(const QString& name)
     m_period.Choose(name, m_parts.Clock.Today());
     Save();
     Invalidate();
+    Q_EMIT PeriodChosen(name);
 }
 
 void cStatisticsChart::ChooseFirstMonth(int month)

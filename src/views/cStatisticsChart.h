@@ -69,6 +69,7 @@ public:
 
 Q_SIGNALS:
     void Changed(); // selectors or chart
+    void PeriodChosen(const QString& name);
 
 private:
     void Refresh();

@@ -14,7 +14,6 @@
 #include "views/modChart.h"
 #include "views/modReport.h"
 #include "views/modReportHtml.h"
-#include "views/modReportLink.h"
 #include "views/modSetting.h"
 
 #include <QDir>
@@ -84,6 +83,13 @@ cStatisticsModel::cStatisticsModel(const cParts& parts, QObject* parent)
       m_firstChart({parts.Data, parts.Settings, parts.Format, parts.Clock}, prefix + u"1"_s, eChartKind::ExpensePie),
       m_secondChart({parts.Data, parts.Settings, parts.Format, parts.Clock}, prefix + u"2"_s, eChartKind::Months)
 {
+    for (const cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
+        connect(chart, &cStatisticsChart::PeriodChosen, this, [this, chart](const QString& name) {
+            if (!chart->HasForecast()) { // which shows what comes in any case
+                OfferFuture(name);
+            }
+        });
+    }
 }
 
 void cStatisticsModel::Restore()
@@ -167,6 +173,14 @@ void cStatisticsModel::Refresh()
     }
 }
 
+QString cStatisticsModel::Hint() const
+{
+    return IsLimit() && m_tree.Figures().Expense.Groups.isEmpty()
+        ? cText::Tr("Noch hat keine Kategorie ein Monatslimit. Sie legen eines unter „Extras“, „Kategorie/Konto "
+                    "bearbeiten“ fest.")
+        : QString();
+}
+
 QString cStatisticsModel::PrintHtml()
 {
     cReportWish wish = Wish();
@@ -191,7 +205,18 @@ void cStatisticsModel::ChooseAccount(const QString& account)
 void cStatisticsModel::ChoosePeriod(const QString& name)
 {
     m_period.Choose(name, m_parts.Clock.Today());
+    OfferFuture(name);
     Changed();
+}
+
+void cStatisticsModel::OfferFuture(const QString& period)
+{
+    if (!Wish().ShowsFuture) {
+        m_parts.Main.OfferFuture(period);
+        if (Wish().ShowsFuture) {
+            m_parts.Main.RefreshView();
+        }
+    }
 }
 
 void cStatisticsModel::ChooseFirstMonth(int month)
@@ -292,7 +317,7 @@ void cStatisticsModel::ShowTarget(const cStatisticsChart& chart, const cChartTar
     }
     const bool isBalance = chart.Kind() == eChartKind::Balances; // every entry moves a balance, transfers too
     m_parts.Main.ShowEntries({cText::Tr("Alle Einträge"), modWord::AlleBuchungsarten, target.Account, target.Range,
-                              isBalance ? nullptr : Picker(wish)});
+                              isBalance ? nullptr : Picker(wish), isBalance});
     Q_EMIT EntriesShown();
 }
 
@@ -303,30 +328,45 @@ void cStatisticsModel::EditCategory(const cReportNode& node)
     }
 }
 
-void cStatisticsModel::FollowLink(const QString& link)
+void cStatisticsModel::FollowLink(const QString& link, const QString& name)
 {
     const modReportLink::cLink parsed = modReportLink::Parse(link);
     if (const auto* edit = std::get_if<modReportLink::cEditCategory>(&parsed)) {
         m_parts.Navigator.OpenTemplates(edit->Path);
     } else if (const auto* entries = std::get_if<modReportLink::cShowEntries>(&parsed)) {
-        FollowEntries(entries->Node, entries->Cut, entries->Range, entries->Account);
+        FollowEntries(*entries, name);
     } else if (const auto* page = std::get_if<modReportLink::cOpenPage>(&parsed)) {
         (void)m_parts.Shell.OpenPage(page->Url);
     }
 }
 
-void cStatisticsModel::FollowEntries(const cReportNode& exact, const cReportNode& cut, const modPeriod::cRange& range,
-                                     const QString& account)
+QModelIndex cStatisticsModel::LineOf(const modReportLink::cShowEntries& link, const QString& name) const
 {
-    const QModelIndex index = m_tree.FindNode(exact).isValid() ? m_tree.FindNode(exact) : m_tree.FindNode(cut);
+    const cReportNode& node = link.Node;
+    const QList<cReportGroup>& groups = m_tree.Figures().Section(node.Kind).Groups;
+    for (const cReportGroup& group : groups) {
+        for (const cReportCategory& category : group.Categories) {
+            const bool isOwn = !node.Category && group.Name == node.Group && category.Name.isEmpty();
+            if (isOwn && category.Label.simplified() == name) {
+                return m_tree.FindNode({node.Kind, node.Group, u""_s});
+            }
+        }
+    }
+    const QModelIndex index = m_tree.FindNode(node);
+    return index.isValid() ? index : m_tree.FindNode(link.Cut);
+}
+
+void cStatisticsModel::FollowEntries(const modReportLink::cShowEntries& link, const QString& name)
+{
+    const QModelIndex index = LineOf(link, name);
     cReportWish wish = Wish();
-    wish.Range = range;
-    wish.Account = account;
+    wish.Range = link.Range;
+    wish.Account = link.Account;
     if (index.isValid()) {
         Q_EMIT NodeChosen(index);
         ShowSelected(wish, m_tree.NodeAt(index));
     } else {
-        ShowSelected(wish, exact);
+        ShowSelected(wish, link.Node);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "views/cReportWish.h"
 #include "views/cStatisticsChart.h"
 #include "views/cStatisticsPeriod.h"
+#include "views/modReportLink.h"
 
 #include <QObject>
 #include <QString>
@@ -74,13 +75,15 @@ public:
     [[nodiscard]] bool IsLimit() const { return m_type == eReport::Limit; }
 
     [[nodiscard]] const QString& Html() const { return m_html; }
-    [[nodiscard]] QString PrintHtml(); // the same report without links
+    [[nodiscard]] QString Hint() const; // what can be done about an empty report; none: nothing
+    [[nodiscard]] QString PrintHtml();  // the same report without links
     [[nodiscard]] cReportTreeModel& Tree() { return m_tree; }
     [[nodiscard]] cStatisticsChart& FirstChart() { return m_firstChart; }
     [[nodiscard]] cStatisticsChart& SecondChart() { return m_secondChart; }
 
-    // What a click means. A link of no known kind does nothing.
-    void FollowLink(const QString& link);
+    // What a click means. A link of no known kind does nothing. `name`: the words that it stands on; a main category
+    // and what is booked on it directly have the same link.
+    void FollowLink(const QString& link, const QString& name = {});
     void ShowNode(const cReportNode& node);
     void ShowTarget(const cStatisticsChart& chart, const cChartTarget& target);
     void EditCategory(const cReportNode& node); // in the category management
@@ -102,11 +105,12 @@ Q_SIGNALS:
     void EntriesShown();                       // the entry list shows a selection now
 
 private:
+    void OfferFuture(const QString& period);
     void Changed(); // a selector: stores and refreshes
     void Refresh();
     void ShowSelected(const cReportWish& wish, const cReportNode& node);
-    void FollowEntries(const cReportNode& exact, const cReportNode& cut, const modPeriod::cRange& range,
-                       const QString& account);
+    void FollowEntries(const modReportLink::cShowEntries& link, const QString& name);
+    [[nodiscard]] QModelIndex LineOf(const modReportLink::cShowEntries& link, const QString& name) const;
     [[nodiscard]] QString TypeOf(const cReportWish& wish, const cReportNode& node) const;
     [[nodiscard]] bool IsReportShown() const { return m_isShown && m_page == ePage::Report; }
 

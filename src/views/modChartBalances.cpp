@@ -68,8 +68,8 @@ QList<cBalanceLine> LinesOf(const cBalanceDays& days, const QString& account)
             lines.append(line);
         }
     }
-    // With a single account the sum would say the same once more.
-    if (account.isEmpty() && lines.size() == 2) {
+    // With a single account the sum would say the same once more, and without any it says nothing.
+    if (account.isEmpty() && lines.size() <= 2) {
         lines.removeFirst();
     }
     return lines;

@@ -82,6 +82,14 @@ QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
     return parts.join(u"  ·  "_s);
 }
 
+QString modImportText::Details(const cImportEntry& row)
+{
+    QStringList lines{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
+                      QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
 QStringList modImportText::Booked(const cBookingResult& result)
 {
     QStringList parts{cText::Tr("{0} gebucht", {Count(result.Rows)})};

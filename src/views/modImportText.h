@@ -29,6 +29,9 @@ namespace modImportText {
 // A transaction in one line.
 [[nodiscard]] QString Row(const cImportEntry& row, const cAmountFormat& format);
 
+// All that a transaction says beside day and amount, in lines
+[[nodiscard]] QString Details(const cImportEntry& row);
+
 [[nodiscard]] QStringList Booked(const cBookingResult& result);
 
 // Rows of a number that still has no account

@@ -248,12 +248,14 @@ QString cWriter::LimitLine(const QString& label, const cReportAmount& amount, eW
 }
 
 // What every browser needs to draw the lines as the program does: lists end at the same place, long names wrap, and
-// empty parts of a bar keep their height. Links lead to lists of the program and nowhere in a file.
+// the parts of a bar keep their height and small percentages their text. Links lead to lists of the program and nowhere
+// in a file.
 QString PageStyle()
 {
     return u"body{font-family:sans-serif;font-size:13px}dir,ul{margin:0 0 0 40px;padding-left:0}"
            "dir div,ul div{height:auto !important;min-height:23px}"
-           "td div{display:block !important;height:17px !important;min-height:0;padding:2px 0 !important}"
+           "td div{display:block !important;height:17px !important;min-height:0;padding:2px 0 !important;"
+           "overflow:visible !important}td div[style*=\"display:table\"]{position:relative;z-index:1}"
            "a{pointer-events:none}"_s;
 }
 

@@ -45,8 +45,7 @@ QString Certain(int count)
 cQuestion modReviewQuestion::Matches(const QStringList& lines)
 {
     return {.Text = cText::Tr("Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon "
-                              "gibt:\n{1}\nSollen daraus trotzdem neue Einträge werden? Bei Nein werden nur die "
-                              "übrigen gebucht.",
+                              "gibt:\n{1}\nSollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.",
                               {QString::number(lines.size()), Examples(lines)}),
             .Title = cText::Tr("Umsätze buchen"),
             .Buttons = eButtons::YesNoCancel};
@@ -55,8 +54,8 @@ cQuestion modReviewQuestion::Matches(const QStringList& lines)
 cQuestion modReviewQuestion::Twins(const QStringList& lines)
 {
     return {.Text = cText::Tr("Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer "
-                              "Datei in einem anderen Format:\n{1}\nSollen sie trotzdem gebucht werden? Bei Nein "
-                              "werden nur die übrigen gebucht.",
+                              "Datei in einem anderen Format:\n{1}\nSollen diese offen bleiben? Bei Nein "
+                              "werden auch sie gebucht.",
                               {QString::number(lines.size()), Examples(lines)}),
             .Title = cText::Tr("Umsätze buchen"),
             .Buttons = eButtons::YesNoCancel};

@@ -17,7 +17,8 @@ struct cNumbers
     int Twice = 0;   // another row may be the same
 };
 
-// About rows that probably belong to entries of the book, one line each. No: only the others.
+// About rows that probably belong to entries of the book, one line each. Yes, where Enter goes: only the others are
+// booked. No: these too.
 [[nodiscard]] cQuestion Matches(const QStringList& lines);
 
 // The same about rows that may be there twice.

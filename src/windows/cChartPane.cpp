@@ -30,7 +30,7 @@ cChartPane::cChartPane(cStatisticsChart& model, const QString& name, QWidget* pa
       m_period(new cPeriodPicker(this)),
       m_compare(new QComboBox(this)),
       m_forecast(new QComboBox(this)),
-      m_average(new QCheckBox(cText::Tr("mit Durchschnitt"), this)),
+      m_average(new QCheckBox(cText::Tr("mit Einzelausgaben"), this)),
       m_box(new cChartBox(this))
 {
     setAccessibleName(name);

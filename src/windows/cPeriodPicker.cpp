@@ -69,6 +69,8 @@ void cPeriodPicker::ShowPeriod(const cStatisticsPeriod& period, const modPeriod:
     const bool isOneYear = range.Start.year() == range.End.year(); // else the year does not belong to the first month
     show(*m_first, isOneYear ? range.Start : QDate(), period.FirstMonth);
     show(*m_last, range.End, period.LastMonth);
-    m_year->setValue(period.IsFree() ? period.Year : range.End.isValid() ? range.End.year() : cStatisticsPeriod::FirstYear);
+    m_year->setValue(period.IsFree()           ? period.Year
+                         : range.End.isValid() ? range.End.year()
+                                               : cStatisticsPeriod::FirstYear);
     m_year->setEnabled(period.IsFree());
 }

@@ -34,8 +34,10 @@ void cProgressBox::Run(const std::function<void()>& work)
     const std::unique_ptr<QThread> thread(QThread::create(work));
     QEventLoop loop;
     QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
-    // The work itself cannot be stopped; the box stays until it has ended, and nothing of it is used then.
-    QObject::connect(m_dialog.get(), &QProgressDialog::canceled, &loop, [this] { m_dialog->show(); });
+    // The work itself cannot be stopped; the box stays until it has ended, and nothing of it is used then. Queued,
+    // because a box that is being closed hides itself after it has said so.
+    QObject::connect(
+        m_dialog.get(), &QProgressDialog::canceled, &loop, [this] { m_dialog->show(); }, Qt::QueuedConnection);
     thread->start();
     // Until the box keeps the user's hands off the program, nothing may reach it.
     if (!thread->wait(static_cast<unsigned long>(m_dialog->minimumDuration()))) {

@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyle>
 
 #include <array>
 
@@ -16,7 +17,7 @@ namespace {
 
 // Widths in average characters of the font, so that they fit at every font size and scale. A column is never narrower
 // than its title.
-constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{9, 14, 26, 17, 12, 11, 25, 11, 19};
+constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{11, 14, 26, 18, 13, 11, 25, 11, 22};
 
 bool IsEnter(const QKeyEvent& event)
 {
@@ -108,7 +109,10 @@ QString cStagedTree::LayoutText() const
 int cStagedTree::DefaultWidth(int column) const
 {
     const int wanted = defaultWidths.at(static_cast<std::size_t>(column)) * fontMetrics().averageCharWidth();
-    return qMax(wanted, header()->sectionSizeHint(column));
+    // Without the arrow of the sorted column, which only one of them has: the reason is to be in sight as well.
+    const QString title = m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header()) + 1);
+    return qMax(wanted, header()->fontMetrics().horizontalAdvance(title) + margins);
 }
 
 void cStagedTree::SetDefaultColumns()

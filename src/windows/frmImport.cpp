@@ -30,7 +30,7 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
       m_assistant(new QAction(cText::Tr("Import&assistent…"), this)),
       m_again(new QAction(cText::Tr("&Noch einmal mit dem Assistenten…"), this)),
       m_statement(new QAction(cText::Tr("&Kontoauszug anzeigen…"), this)),
-      m_reviewImport(new QPushButton(cText::Tr("&Diesen Import durchsehen…"), this)),
+      m_reviewImport(new QPushButton(cText::Tr("Diesen &Import durchsehen…"), this)),
       m_panel(new cStagedPanel(review, this)),
       m_summary(new cSummaryText(this))
 {
@@ -121,6 +121,7 @@ void frmImport::ReviewImport(int rowId)
 
 void frmImport::ResetLayout()
 {
+    m_review.View().SetGrouping(0);
     m_panel->ResetLayout();
 }
 

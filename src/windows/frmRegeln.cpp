@@ -64,7 +64,7 @@ frmRegeln::frmRegeln(cRuleList& rules, QWidget* parent)
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
     ShowDraft();
     m_text->setFocus();
-    if (m_rules.IsNew() && !(m_text->text() + m_counterparty->text()).isEmpty()) {
+    if (m_rules.IsNew() && !(m_text->text().isEmpty() && m_counterparty->text().isEmpty())) {
         m_category->setFocus(); // made from a transaction: what it is known by stands there already
         m_category->lineEdit()->selectAll();
     }

@@ -8,23 +8,21 @@
 #include "windows/chart/cChartBox.h"
 #include "windows/chart/modChartPainter.h"
 #include "windows/cPeriodPicker.h"
+#include "windows/cReportTree.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
 #include "windows/report/modReportPdf.h"
 
-#include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QShortcut>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTabWidget>
-#include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,8 +45,9 @@ frmStatistik::frmStatistik(cStatisticsModel& model, QWidget* parent)
       m_byAmount(new QCheckBox(cText::Tr("&Nach Betrag geordnet"), this)),
       m_gross(new QCheckBox(cText::Tr("Ohne Abzug &von Erstattungen"), this)),
       m_save(new QPushButton(cText::Tr("S&peichern"), this)),
-      m_print(new QPushButton(cText::Tr("Dr&ucken …"), this)),
-      m_tree(new QTreeView(this)),
+      m_print(new QPushButton(cText::Tr("Dr&ucken…"), this)),
+      m_hint(new QLabel(this)),
+      m_tree(new cReportTree(model.Tree(), this)),
       m_report(new cReportPane(this))
 {
     auto* corner = new QWidget(this);
@@ -121,47 +120,22 @@ void frmStatistik::BuildSaveMenu()
 
 QWidget* frmStatistik::BuildReportPage()
 {
-    BuildTree();
     auto* split = new QSplitter(this);
     split->addWidget(m_tree);
     split->addWidget(m_report);
     split->setStretchFactor(1, 1);
     split->setChildrenCollapsible(false);
     const int character = fontMetrics().averageCharWidth();
-    split->setSizes({character * 38, character * 110});
+    split->setSizes({character * 44, character * 110});
+    m_hint->setWordWrap(true);
+    m_hint->setContentsMargins(8, 4, 8, 6);
     auto* page = new QWidget(this);
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(BuildSelectors());
+    layout->addWidget(m_hint);
     layout->addWidget(split, 1);
     return page;
-}
-
-void frmStatistik::BuildTree()
-{
-    m_tree->setModel(&m_model.Tree());
-    m_tree->setAccessibleName(cText::Tr("Zahlen des Berichts"));
-    m_tree->setUniformRowHeights(true);
-    m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_tree->setHeaderHidden(true); // the report says what the amounts are
-    m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(QHeaderView::Fixed);
-    m_tree->header()->setSectionResizeMode(cReportTreeModel::Name, QHeaderView::Stretch);
-    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
-    auto* show = new QAction(cText::Tr("&Einträge zeigen"), m_tree);
-    auto* edit = new QAction(cText::Tr("&Kategorie bearbeiten"), m_tree);
-    m_tree->addActions({show, edit});
-    connect(show, &QAction::triggered, this, [this] { ShowNode(m_tree->currentIndex()); });
-    connect(edit, &QAction::triggered, this, [this] {
-        if (m_tree->currentIndex().isValid()) {
-            m_model.EditCategory(m_model.Tree().NodeAt(m_tree->currentIndex()));
-        }
-    });
-    connect(m_tree, &QTreeView::clicked, this, &frmStatistik::ShowNode);
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-        connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
-                [this] { ShowNode(m_tree->currentIndex()); });
-    }
 }
 
 QWidget* frmStatistik::BuildChartPage()
@@ -174,7 +148,12 @@ QWidget* frmStatistik::BuildChartPage()
     split->setChildrenCollapsible(false);
     ConnectChart(*first);
     ConnectChart(*second);
-    return split;
+    auto* page = new QScrollArea(this); // two charts side by side must not make the window wider than a small screen
+    page->setFrameShape(QFrame::NoFrame);
+    page->setWidgetResizable(true);
+    page->setFocusPolicy(Qt::NoFocus);
+    page->setWidget(split);
+    return page;
 }
 
 void frmStatistik::ConnectChart(cChartPane& pane)
@@ -209,6 +188,8 @@ void frmStatistik::Connect()
     connect(&m_model, &cStatisticsModel::SelectorsChanged, this, &frmStatistik::ShowSelectors);
     connect(&m_model, &cStatisticsModel::ReportChanged, this, &frmStatistik::ShowReport);
     connect(&m_model, &cStatisticsModel::NodeChosen, m_tree, &QTreeView::setCurrentIndex);
+    connect(m_tree, &cReportTree::EntriesRequested, &m_model, &cStatisticsModel::ShowNode);
+    connect(m_tree, &cReportTree::EditRequested, &m_model, &cStatisticsModel::EditCategory);
 }
 
 void frmStatistik::ShowSelectors()
@@ -230,17 +211,8 @@ void frmStatistik::ShowSelectors()
 void frmStatistik::ShowReport()
 {
     m_report->View().SetReport(m_model.Html());
-    m_tree->expandToDepth(m_model.IsLimit() ? 1 : 0);
-    m_tree->setColumnHidden(cReportTreeModel::Limit, true); // it stands in the report beside the tree
-    QAbstractItemView& tree = *m_tree;
-    m_tree->header()->resizeSection(cReportTreeModel::Amount, tree.sizeHintForColumn(cReportTreeModel::Amount));
-}
-
-void frmStatistik::ShowNode(const QModelIndex& index)
-{
-    if (index.isValid()) {
-        m_model.ShowNode(m_model.Tree().NodeAt(index));
-    }
+    m_hint->setText(m_model.Hint());
+    m_hint->setHidden(m_hint->text().isEmpty());
 }
 
 void frmStatistik::SaveChart(cChartPane& pane)

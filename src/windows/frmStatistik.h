@@ -4,13 +4,13 @@
 
 class QCheckBox;
 class QComboBox;
-class QModelIndex;
+class QLabel;
 class QPushButton;
 class QTabWidget;
-class QTreeView;
 class cChartPane;
 class cPeriodPicker;
 class cReportPane;
+class cReportTree;
 class cStatisticsModel;
 
 // The page of the main window for reports and charts.
@@ -32,13 +32,11 @@ private:
     QWidget* BuildReportPage();
     QWidget* BuildChartPage();
     QWidget* BuildSelectors();
-    void BuildTree();
     void BuildSaveMenu();
     void Connect();
     void ConnectChart(cChartPane& pane);
     void ShowSelectors();
     void ShowReport();
-    void ShowNode(const QModelIndex& index);
     void SaveChart(cChartPane& pane);
 
     cStatisticsModel& m_model;
@@ -50,6 +48,7 @@ private:
     QCheckBox* m_gross;
     QPushButton* m_save;
     QPushButton* m_print;
-    QTreeView* m_tree;
+    QLabel* m_hint; // what the user can do about an empty report
+    cReportTree* m_tree;
     cReportPane* m_report;
 };

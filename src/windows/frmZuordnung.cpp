@@ -8,6 +8,7 @@
 #include "windows/modTone.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -93,19 +94,37 @@ void frmZuordnung::Build()
     layout->addWidget(text);
     layout->addWidget(label);
     layout->addWidget(m_tree, 1);
+    layout->addWidget(BuildScope());
     layout->addWidget(BuildButtons());
+    ShowState();
     const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 22);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+}
+
+QCheckBox* frmZuordnung::BuildScope()
+{
+    auto* scope = new QCheckBox(cText::Tr("&Auch Einträge zeigen, die weniger passen"), this);
+    scope->setToolTip(cText::Tr("Alle Einträge dieser Tage, zum Beispiel wenn mehrere Umsätze einen Eintrag bezahlen"));
+    connect(scope, &QCheckBox::toggled, this, [this](bool isAll) {
+        m_list.SetScope(isAll ? cAssignList::eScope::All : cAssignList::eScope::Likely);
+        m_tree->setCurrentIndex(m_list.index(m_list.Proposed(), 0));
+        ShowState();
+    });
+    return scope;
+}
+
+void frmZuordnung::ShowState()
+{
+    const bool isEmpty = m_list.rowCount() == 0;
+    m_assign->setEnabled(!isEmpty);
+    (isEmpty ? m_cancel : m_assign)->setDefault(true);
 }
 
 QDialogButtonBox* frmZuordnung::BuildButtons()
 {
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* assign = buttons->addButton(cText::Tr("&Zuordnen"), QDialogButtonBox::AcceptRole);
-    QPushButton* cancel = buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole);
-    const bool isEmpty = m_list.rowCount() == 0;
-    assign->setEnabled(!isEmpty);
-    (isEmpty ? cancel : assign)->setDefault(true);
+    m_assign = buttons->addButton(cText::Tr("&Zuordnen"), QDialogButtonBox::AcceptRole);
+    m_cancel = buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &frmZuordnung::Assign);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;

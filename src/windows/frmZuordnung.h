@@ -3,7 +3,9 @@
 #include <QDialog>
 
 class cAssignList;
+class QCheckBox;
 class QDialogButtonBox;
+class QPushButton;
 class QTreeView;
 
 // Lets the user choose the entry that a bank transaction belongs to.
@@ -17,10 +19,14 @@ public:
 
 private:
     void Build();
+    QCheckBox* BuildScope();
     QDialogButtonBox* BuildButtons();
+    void ShowState();
     void SetColumns();
     void Assign();
 
     cAssignList& m_list;
     QTreeView* m_tree;
+    QPushButton* m_assign = nullptr;
+    QPushButton* m_cancel = nullptr;
 };

@@ -25,6 +25,22 @@ struct cCliRun
                 QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
     }
 
+    // Runs a line (arguments with "|" between them) on the books of a folder.
+    [[nodiscard]] static cCliRun Line(const QString& folder, const QString& line)
+    {
+        return Start(QStringLiteral(CLI_PROGRAM), QStringList{QStringLiteral("--profile"), folder} + line.split(u'|'));
+    }
+
+    // The same for a line that has to succeed.
+    static cCliRun GoodLine(const QString& folder, const QString& line)
+    {
+        cCliRun run = Line(folder, line);
+        if (run.Code != 0) {
+            qFatal("%s: %s", qPrintable(line), qPrintable(run.Text()));
+        }
+        return run;
+    }
+
     [[nodiscard]] QJsonArray Json() const { return QJsonDocument::fromJson(Out.toUtf8()).array(); }
     [[nodiscard]] QString Text() const { return Out + u'\n' + Error; }
 

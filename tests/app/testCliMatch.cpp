@@ -94,21 +94,8 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] cCliRun Run(const QString& line) const
-    {
-        return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
-                              QStringList{u"--profile"_s, m_folder->path()} + line.split(u'|'));
-    }
-
-    // Runs what has to succeed.
-    cCliRun Do(const QString& line) const
-    {
-        const cCliRun run = Run(line);
-        if (run.Code != 0) {
-            qFatal("%s: %s", qPrintable(line), qPrintable(run.Text()));
-        }
-        return run;
-    }
+    [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
+    cCliRun Do(const QString& line) const { return cCliRun::GoodLine(m_folder->path(), line); }
 
     [[nodiscard]] QString Add(const QString& line) const
     {

@@ -30,8 +30,7 @@ private:
 
 cCliRun testCliReport::Run(const QString& line) const
 {
-    return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
-                          QStringList{u"--profile"_s, m_folder->path()} + line.split(u'|'));
+    return cCliRun::Line(m_folder->path(), line);
 }
 
 QJsonObject testCliReport::Json(const QString& line) const

@@ -123,6 +123,8 @@ private Q_SLOTS:
         row("empty line below the header", u"Datum;Verwendungszweck;Betrag\n\n03.02.2025;a;5,00"_s,
             {u"2025-02-03 5.00 1"_s});
         row("header in other words", u"Tag;Was;Preis\n03.02.2025;a;5,00"_s, {u"2025-02-03 5.00 1"_s});
+        row("month first", u"Tag|Betrag|Text\n01/13/2026|12.5|a\n02/01/2026|-1,200.00|b"_s,
+            {u"2026-01-13 12.50 1"_s, u"2026-02-01 -1200.00 1"_s});
         row("days under the name of an amount", u"Umsatz vom;Was;Soviel\n03.02.2025;a;-5,00"_s,
             {u"2025-02-03 -5.00 1"_s});
         row("no header, tabs", u"03.02.2025\ta, b\t-5,00\t95,00\n04.02.2025\tc\t6,00\t101,00"_s,

@@ -190,6 +190,7 @@ private Q_SLOTS:
         const cChartData savings = book.Make({.Kind = eChartKind::Balances, .Range = month, .Account = u"Sparkonto"_s});
         QCOMPARE(savings.Series.size(), 1);
         QCOMPARE(savings.Labels.last(), u"28.02.2026"_s);
+        QVERIFY(book.Make({.Kind = eChartKind::Balances, .Range = {QDate(1990, 1, 1), QDate(1990, 1, 31)}}).IsEmpty());
     }
 
     void writesTheSameFigures()
@@ -224,7 +225,7 @@ private Q_SLOTS:
         QCOMPARE(file.readAll(), QByteArray("png"));
         QVERIFY(!save.Write({}, folder.filePath(u"bild.bmp"_s)));
         QVERIFY(!save.Write({}, folder.filePath(u"fehlt/bild.png"_s)));
-        QCOMPARE(book.User.Shown.size(), 2);
+        QCOMPARE(book.User.Shown.size(), 3); // also that it is done
     }
 };
 

@@ -177,9 +177,7 @@ private Q_SLOTS:
             assistant.SetAccount(u" DE89 3704 0044 0532 0130 00 "_s);
             QVERIFY(assistant.CanImport());
             QCOMPARE(assistant.BankCode(), u"37040044"_s);
-            QVERIFY2(assistant.CountText().contains(u"3 Umsätze neu"_s)
-                         || assistant.CountText().contains(u"2 Umsätze neu"_s),
-                     qPrintable(assistant.CountText()));
+            QVERIFY(assistant.CountText().startsWith(u"3 Umsätze neu"));
             Mean(0, u"nicht lesen"_s)(assistant);
             QVERIFY(assistant.Problem().startsWith(u"In der Datei sind keine Spalten"));
         };

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void ShowsWhatItIsNotSureOf() const;
     void BookingAsksAboutMatches() const;
     void AssignsByHand() const;
+    void AssignsParts() const;
     void AsksBeforeASeriesIsCorrected() const;
     void SaysWhyThereIsNoEntry() const;
     void Releases() const;
@@ -209,7 +210,7 @@ void testImportMatch::BookingAsksAboutMatches() const
     const int match = page.Stage(-23.1, u"Jana"_s);
     const int other = page.Stage(-700, u"Werkstatt"_s);
     page.Review.Match({}, page.Progress);
-    page.User.Answers = {eAnswer::Cancel, eAnswer::No, eAnswer::Yes};
+    page.User.Answers = {eAnswer::Cancel, eAnswer::Yes, eAnswer::No};
     page.Review.Book({match, other}, page.Progress);
     QCOMPARE(page.Data.CountEntries(), 1);
     page.Review.Book({match, other}, page.Progress);
@@ -246,6 +247,19 @@ void testImportMatch::AssignsByHand() const
     QCOMPARE(page.Assigned(), QList<int>({shop, boots}));
     QCOMPARE(page.Review.Summary(), QStringList(u"Umsatz zugeordnet: 'Stiefel' vom 03.03."_s));
     QCOMPARE(page.Data.UndoName(), u"Umsatz zugeordnet"_s);
+}
+
+void testImportMatch::AssignsParts() const
+{
+    cPage page;
+    const int bill = page.Spend(10000, u"Werkstatt"_s);
+    for (const int row : {page.Stage(-30, u"Rate 1"_s), page.Stage(-70, u"Rate 2"_s)}) {
+        const std::unique_ptr<cAssignList> list = page.Review.StartAssign({row});
+        QCOMPARE(list->rowCount(), 0); // nobody would guess it
+        list->SetScope(cAssignList::eScope::All);
+        QVERIFY(list->Assign(0));
+    }
+    QCOMPARE(page.Assigned(), QList<int>({bill, bill}));
 }
 
 void testImportMatch::AsksBeforeASeriesIsCorrected() const

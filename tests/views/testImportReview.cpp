@@ -133,6 +133,8 @@ private Q_SLOTS:
         page.Review.Files().StageLeftOut({1, 0, 99});
         QCOMPARE(page.Review.Files().LeftOut().size(), 3);
         QCOMPARE(page.Review.View().CountText(), u"7 offen, 7 insgesamt"_s);
+        page.Review.Files().StageLeftOut({0});
+        QCOMPARE(page.Review.StartImportReview(0)->View().CountText(), u"3 offen, 3 insgesamt"_s); // one import
         page.Review.Files().DropLeftOut();
         QVERIFY(page.Review.Files().LeftOut().isEmpty());
     }
@@ -297,11 +299,11 @@ private Q_SLOTS:
         page.Review.Book({first}, page.Progress);
         QVERIFY(page.User.Asked.last().contains(u"noch einen, der derselbe sein kann"));
         QCOMPARE(page.Data.CountEntries(), 0);
-        page.User.Answers = {eAnswer::No};
+        page.User.Answers = {eAnswer::Yes};
         page.Review.Book(page.AllIds().first(2), page.Progress);
         QCOMPARE(page.Data.CountEntries(), 1); // one of the two
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
-        page.User.Answers = {eAnswer::Yes};
+        page.User.Answers = {eAnswer::No};
         page.Review.Book(page.AllIds().first(1), page.Progress);
         QCOMPARE(page.Data.CountEntries(), 2);
     }

@@ -194,6 +194,25 @@ private Q_SLOTS:
         QVERIFY(!box.IsCancelled());
     }
 
+    // The work goes on, so the page must not be reached before it has ended.
+    void aClosedBoxComesBack()
+    {
+        QWidget page;
+        page.show();
+        cProgressBox box(&page, u"Lesen"_s);
+        QSemaphore done;
+        bool isBack = false;
+        QTimer::singleShot(0, &page, [&] {
+            QApplication::activeModalWidget()->close();
+            QTimer::singleShot(0, &page, [&] {
+                isBack = QApplication::activeModalWidget() != nullptr;
+                done.release();
+            });
+        });
+        box.Run([&] { done.acquire(); });
+        QVERIFY(isBack && box.IsCancelled());
+    }
+
     void everyControlHasAName()
     {
         cScene scene;

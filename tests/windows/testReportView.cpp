@@ -1,5 +1,7 @@
 #include "support/testFormat.h"
+#include "views/cReportTreeModel.h"
 #include "views/modReportHtml.h"
+#include "windows/cReportTree.h"
 #include "windows/report/cReportDocument.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
@@ -34,14 +36,20 @@ cReportGroup Group(const QString& name, qint64 cents, qint64 limit, const QStrin
     return group;
 }
 
+cReportFigures Figures(eReport type, const QList<cReportGroup>& groups)
+{
+    cReportFigures figures;
+    figures.Type = type;
+    figures.Expense.Groups = groups;
+    return figures;
+}
+
 QString Html(eReport type, const QList<cReportGroup>& groups)
 {
     cTestFormat format;
-    cReportFigures figures;
-    figures.Type = type;
+    cReportFigures figures = Figures(type, groups);
     figures.Basis.Start = QDate(2026, 1, 1);
     figures.Basis.End = QDate(2026, 12, 31);
-    figures.Expense.Groups = groups;
     cReportWish wish;
     wish.Type = type;
     wish.Range = {figures.Basis.Start, figures.Basis.End};
@@ -113,6 +121,7 @@ private Q_SLOTS:
     void PagesEndBetweenLines_data();
     void PagesEndBetweenLines();
     void NothingIsLostBetweenPages();
+    void TreeStaysAsItWas();
 };
 
 void testReportView::LinesOfAllLevelsEndAtTheSamePlace()
@@ -186,6 +195,7 @@ void testReportView::ClickArrivesAfterItsEvent()
     QCOMPARE(scene.Clicks.size(), 0); // the report must not change under the event
     QTRY_COMPARE(scene.Clicks.size(), 1);
     QCOMPARE(scene.Clicks.constFirst().constFirst().toString(), rentLink);
+    QCOMPARE(scene.Clicks.constFirst().constLast().toString(), u"Miete (Wohnung)"_s);
     QCOMPARE(scene.View.PlainText(), u"anders"_s);
 }
 
@@ -301,6 +311,7 @@ void testReportView::PagesEndBetweenLines_data()
     QTest::newRow("a line ends with the page") << cLines{{0, 100}, {100, 130}} << 0 << 100;
     QTest::newRow("a headline goes along") << cLines{{0, 30}, {40, 70, true}, {80, 110}} << 0 << 40;
     QTest::newRow("two headlines go along") << cLines{{0, 30}, {35, 50, true}, {55, 70, true}, {80, 110}} << 0 << 35;
+    QTest::newRow("the page ends behind a headline") << cLines{{0, 60}, {70, 95, true}, {105, 130}} << 0 << 70;
     QTest::newRow("nothing but headlines") << cLines{{0, 30, true}, {40, 70, true}, {80, 110}} << 0 << 80;
     QTest::newRow("higher than a page") << cLines{{0, 250}} << 100 << 200;
 }
@@ -343,6 +354,25 @@ void testReportView::NothingIsLostBetweenPages()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.read(5) == "%PDF-");
     QVERIFY(!modReportPdf::Write(printer, folder.filePath(u"nirgends/bericht.pdf"_s)));
+}
+
+// Also when its first group has gone meanwhile.
+void testReportView::TreeStaysAsItWas()
+{
+    const cTestFormat format;
+    cReportTreeModel model(format.Format);
+    const cReportGroup flat = Group(u"Wohnung"_s, 700, 0, {u"Miete"_s});
+    model.SetFigures(Figures(eReport::Sum, {Group(u"Haushalt"_s, 100, 0, {u"Brot"_s}), flat}));
+    cReportTree tree(model);
+    const auto at = [&](const QString& group) { return model.FindNode({eReportKind::Expense, group}); };
+    const cReportNode rent{eReportKind::Expense, u"Wohnung"_s, u"Miete"_s};
+    tree.expand(at(u"Wohnung"_s));
+    tree.setCurrentIndex(model.FindNode(rent));
+    model.SetFigures(Figures(eReport::Sum, {flat}));
+    QCOMPARE(tree.currentIndex(), model.FindNode(rent));
+    QVERIFY(tree.isExpanded(at(u"Wohnung"_s)));
+    model.SetFigures(Figures(eReport::Average, {flat})); // another report opens as it always does
+    QVERIFY(!tree.isExpanded(at(u"Wohnung"_s)));
 }
 
 QTEST_MAIN(testReportView)

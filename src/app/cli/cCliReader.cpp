@@ -246,7 +246,11 @@ modPeriod::cRange cCliReader::Period(const QString& name)
     }
     if (hasDays) {
         const QDate start = Day(call.Value(u"from"_s));
-        return {start, Day(call.Value(u"to"_s))};
+        const QDate end = Day(call.Value(u"to"_s));
+        if (start.isValid() && end.isValid() && end < start) {
+            Misused(cText::Tr("Der letzte Tag liegt vor dem ersten."));
+        }
+        return {start, end};
     }
     if (!call.Has(u"period"_s)) {
         return modPeriod::Range(name, m_context.Clock.Today(), {});

@@ -91,7 +91,9 @@ int RunRelease(const cCliContext& context)
             return modExit::Failed;
         }
     }
-    modConsole::Out(cText::Tr("{0} Umsätze freigegeben", {QString::number(ids.size())}) + u'\n');
+    const QString text = ids.size() == 1 ? cText::Tr("1 Umsatz freigegeben")
+                                         : cText::Tr("{0} Umsätze freigegeben", {QString::number(ids.size())});
+    modConsole::Out(text + u'\n');
     return modExit::Done;
 }
 

@@ -99,7 +99,6 @@ cChartWish ReadWish(const cCliContext& context, cCliReader& reader)
         wish.Group = reader.Category(call.Value(u"category"_s), eCliNames::Used);
     }
     wish.ShowsFuture = !call.Has(u"no-future"_s);
-    wish.ShowsStart = !call.Has(u"no-start"_s);
     wish.ShowsAverage = call.Has(u"average"_s);
     wish.ForecastMonths = ReadMonths(context, reader);
     CheckTargets(context, reader);
@@ -162,7 +161,6 @@ cCliCommand modCliCommands::ChartCommand()
                         {u"category"_s, u"NAME"_s, cText::Tr("die Unterkategorien dieser Hauptkategorie")},
                         {u"months"_s, u"ZAHL"_s, cText::Tr("Verlauf: Monate der Vorschau, ohne Angabe 12")},
                         {u"average"_s, {}, cText::Tr("Verlauf: Vorschau mit dem Durchschnitt der Einzelausgaben")},
-                        {u"no-future"_s, {}, cText::Tr("ohne Einträge nach heute")},
-                        {u"no-start"_s, {}, cText::Tr("ohne Startguthaben")}},
+                        {u"no-future"_s, {}, cText::Tr("ohne Einträge nach dem heutigen Tag")}},
             .Run = Run};
 }

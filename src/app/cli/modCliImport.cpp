@@ -84,10 +84,11 @@ QString ToJson(const cImportResult& result, eStagingRun run)
 
 QString Summary(const cImportResult& result, const cCliBook& book)
 {
-    QString text =
-        cText::Tr("{0}: {1}, {2} Umsätze gelesen, {3} neu",
-                  {result.File, result.Layout.isEmpty() ? result.Format : result.Format + u" – "_s + result.Layout,
-                   QString::number(result.Read), QString::number(result.Staged)});
+    const QStringList values{result.File,
+                             result.Layout.isEmpty() ? result.Format : result.Format + u" – "_s + result.Layout,
+                             QString::number(result.Read), QString::number(result.Staged)};
+    QString text = result.Read == 1 ? cText::Tr("{0}: {1}, 1 Umsatz gelesen, {3} neu", values)
+                                    : cText::Tr("{0}: {1}, {2} Umsätze gelesen, {3} neu", values);
     if (!result.Duplicates.isEmpty()) {
         text += cText::Tr(", {0} schon vorhanden", {QString::number(result.Duplicates.size())});
     }

@@ -104,6 +104,7 @@ public:
     void Run()
     {
         CompleteDate();
+        DecideDateOrder();
         MoveOwnAccounts();
         CompleteAmount();
         CompleteIndicator();
@@ -173,6 +174,24 @@ private:
             return facts.Dates > 0 && facts.Dates * 2 >= facts.Filled && facts.Filled * 2 >= m_rows;
         });
         m_map.Date = found < 0 ? m_map.Date : found;
+    }
+
+    // A part above 12 that cannot be the month decides for all rows.
+    void DecideDateOrder()
+    {
+        const int end = qMin(m_table.RowCount(), m_layout.FirstRow + surveyedRows);
+        bool isOther = false;
+        for (int row = m_layout.FirstRow; row < end; ++row) {
+            const QStringView cell = m_table.Cell(row, m_map.Date);
+            if (!modTableValue::IsDate(cell)) {
+                continue;
+            }
+            if (!modTableValue::ReadDate(cell, eDateOrder::MonthDayYear).isValid()) {
+                return;
+            }
+            isOther = isOther || !modTableValue::ReadDate(cell).isValid();
+        }
+        m_layout.Date = isOther ? eDateOrder::MonthDayYear : m_layout.Date;
     }
 
     // The owner's own number is not the other side's, whatever the header calls it.

@@ -143,8 +143,9 @@ bool modTableValue::IsDate(QStringView cell)
     if (!isPlain) {
         return false;
     }
-    const QDate date = ReadDate(day);
-    return date.isValid() && date.year() >= 1970 && date.year() < 2100;
+    const auto isDay = [](QDate date) { return date.isValid() && date.year() >= 1970 && date.year() < 2100; };
+    // With strokes the month may come first.
+    return isDay(ReadDate(day)) || (day.contains(u'/') && isDay(ReadDate(day, eDateOrder::MonthDayYear)));
 }
 
 QString modTableValue::ToGerman(QStringView cell, eNumberFormat format)

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int mostInRows = 6;       // more series stand in a list beside the chart
 constexpr double swatchWidth = 1.5; // em, with the gap behind it
+constexpr double leastName = 7;     // em, with the swatch; a name cut shorter says nothing
 
 // The series that the legend names. A stack laid beside has the colours of the first one and needs no names of its own.
 QList<int> Items(const cChartScene& scene)
@@ -43,12 +44,14 @@ QStringList Figures(const cChartScene& scene, int series)
     return figures;
 }
 
-// The widths of the columns of figures, each with the gap before it.
+// The widths of the columns of figures, each with the gap before it. What stands above the first one has the room above
+// the names too.
 QList<double> FigureWidths(const cChartScene& scene)
 {
     QList<double> widths;
     for (int index = 0; HasHeader(scene) && index < scene.LabelCount(); ++index) {
-        widths.append(scene.Metrics.horizontalAdvance(scene.Data.Labels[index]) + scene.Em() * 1.2);
+        const QString above = index > 0 ? scene.Data.Labels[index] : QString();
+        widths.append(scene.Metrics.horizontalAdvance(above) + scene.Em() * 1.2);
     }
     for (int series = 0; series < scene.SeriesCount(); ++series) {
         const QStringList figures = Figures(scene, series);
@@ -81,8 +84,12 @@ double ListWidth(const cChartScene& scene, double room)
     for (const int series : items) {
         widest = std::max(widest, ItemWidth(scene, series));
     }
-    const double share = scene.Data.Kind == eChart::Pie ? 0.58 : 0.3;
-    return std::min(widest + Sum(FigureWidths(scene)), room * share);
+    const double figures = Sum(FigureWidths(scene));
+    if (scene.Data.Kind != eChart::Pie) {
+        return std::min(widest, room * 0.3);
+    }
+    const double least = std::min(figures + std::min(widest, scene.Em() * leastName), room * 0.75);
+    return std::min(widest + figures, std::max(room * 0.58, least));
 }
 
 // Items below each other within the area, in its middle. What has no room is left out: the table has it.
@@ -169,8 +176,9 @@ void PaintFigures(QPainter& painter, const cChartScene& scene, const QRectF& row
     double right = row.right();
     for (qsizetype i = figures.size() - 1; i >= 0; --i) {
         painter.setPen(i == 0 ? first : modTone::Quiet(scene.Style.Palette));
-        painter.drawText(QRectF(right - widths[i], row.top(), widths[i], row.height()),
-                         Qt::AlignRight | Qt::AlignVCenter, figures[i]);
+        const double left = i == 0 ? row.left() : right - widths[i];
+        painter.drawText(QRectF(left, row.top(), right - left, row.height()), Qt::AlignRight | Qt::AlignVCenter,
+                         scene.Metrics.elidedText(figures[i], Qt::ElideRight, right - left));
         right -= widths[i];
     }
 }

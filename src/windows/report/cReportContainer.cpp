@@ -31,7 +31,7 @@ cReportContainer::cReportContainer(const QString& family) : m_family(family), m_
 {
 }
 
-QString cReportContainer::TakeClicked()
+litehtml::element::ptr cReportContainer::TakeClicked()
 {
     return std::exchange(m_clicked, {});
 }
@@ -128,9 +128,9 @@ void cReportContainer::draw_borders(litehtml::uint_ptr handle, const litehtml::b
     fill(borders.right, {place.right() - borders.right.width, box.y(), borders.right.width, box.height()});
 }
 
-void cReportContainer::on_anchor_click(const char* url, const litehtml::element::ptr& /*element*/)
+void cReportContainer::on_anchor_click(const char* /*url*/, const litehtml::element::ptr& element)
 {
-    m_clicked = QString::fromUtf8(url);
+    m_clicked = element;
 }
 
 void cReportContainer::set_cursor(const char* cursor)

@@ -17,7 +17,7 @@ public:
     explicit cReportContainer(const QString& family);
 
     void SetWidth(int width) { m_width = width; }
-    [[nodiscard]] QString TakeClicked(); // the link of the last click, exactly as it stands in the page; then empty
+    [[nodiscard]] litehtml::element::ptr TakeClicked(); // the link of the last click; then none
     [[nodiscard]] bool IsOverLink() const { return m_isOverLink; }
 
     static litehtml::uint_ptr Handle(cReportCanvas& canvas);
@@ -68,6 +68,6 @@ private:
     std::vector<std::unique_ptr<cFont>> m_fonts;
     cReportCanvas* m_canvas = nullptr;
     int m_width = 0;
-    QString m_clicked;
+    litehtml::element::ptr m_clicked;
     bool m_isOverLink = false;
 };

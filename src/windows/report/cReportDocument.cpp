@@ -3,6 +3,8 @@
 #include "windows/report/cReportContainer.h"
 #include "windows/report/modReportStyle.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -46,6 +48,14 @@ void CollectWords(const litehtml::element& element, cReportDocument::cLink& link
             link.Places.append(PlaceOf(*child));
         }
     }
+}
+
+// In the order of the page.
+litehtml::elements_vector LinkElements(litehtml::document& document)
+{
+    litehtml::elements_vector elements = document.root()->select_all("a");
+    std::erase_if(elements, [](const litehtml::element::ptr& element) { return element->get_attr("href") == nullptr; });
+    return elements;
 }
 
 } // namespace
@@ -119,14 +129,11 @@ const QList<cReportDocument::cLink>& cReportDocument::Links() const
 QList<cReportDocument::cLink> cReportDocument::FindLinks() const
 {
     QList<cLink> links;
-    const litehtml::elements_vector elements = m_document->root()->select_all("a");
+    const litehtml::elements_vector elements = LinkElements(*m_document);
     for (const litehtml::element::ptr& element : elements) {
-        const char* address = element->get_attr("href");
-        if (address != nullptr) {
-            cLink link{QString::fromUtf8(address), {}, {}};
-            CollectWords(*element, link);
-            links.append(link);
-        }
+        cLink link{QString::fromUtf8(element->get_attr("href")), {}, {}};
+        CollectWords(*element, link);
+        links.append(link);
     }
     return links;
 }
@@ -144,11 +151,14 @@ void cReportDocument::MousePress(QPoint point)
     m_document->on_lbutton_down(point.x(), point.y(), point.x(), point.y(), boxes);
 }
 
-QString cReportDocument::MouseRelease(QPoint point)
+int cReportDocument::MouseRelease(QPoint point)
 {
     litehtml::position::vector boxes;
     m_document->on_lbutton_up(point.x(), point.y(), point.x(), point.y(), boxes);
-    return m_container->TakeClicked();
+    const litehtml::element::ptr clicked = m_container->TakeClicked();
+    const litehtml::elements_vector elements = LinkElements(*m_document);
+    const auto found = std::find(elements.begin(), elements.end(), clicked);
+    return found == elements.end() ? -1 : static_cast<int>(found - elements.begin());
 }
 
 void cReportDocument::MouseLeave()

@@ -52,7 +52,7 @@ public:
     // The mouse at a point of the page. A click is complete with Release; what it hit is its result, empty for nothing.
     void MouseMove(QPoint point);
     void MousePress(QPoint point);
-    [[nodiscard]] QString MouseRelease(QPoint point);
+    [[nodiscard]] int MouseRelease(QPoint point); // the link that was clicked, counted from 0; -1 for none
     void MouseLeave();
     [[nodiscard]] bool IsOverLink() const;
 

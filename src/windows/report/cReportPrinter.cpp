@@ -51,7 +51,8 @@ int cReportPrinter::PageEnd(const std::vector<cLine>& lines, int top, int height
 {
     const int limit = top + height;
     // The first line that is not wholly on the page.
-    auto cut = std::find_if(lines.begin(), lines.end(), [limit](const cLine& line) { return line.Bottom > limit; });
+    const auto cut =
+        std::find_if(lines.begin(), lines.end(), [limit](const cLine& line) { return line.Bottom > limit; });
     if (cut == lines.end()) {
         return limit;
     }

@@ -55,7 +55,8 @@ cReportView::cReportView(QWidget* parent)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     tmrURLEntkoppler.setSingleShot(true);
     tmrURLEntkoppler.setInterval(0);
-    connect(&tmrURLEntkoppler, &QTimer::timeout, this, [this] { Q_EMIT LinkClicked(m_followed); });
+    connect(&tmrURLEntkoppler, &QTimer::timeout, this,
+            [this] { Q_EMIT LinkClicked(m_followed.first, m_followed.second); });
     AddActions();
 }
 
@@ -72,7 +73,7 @@ void cReportView::AddActions()
     };
     add(cText::Tr("&Kopieren"), {QKeySequence::Copy}, [this] { Copy(); });
     add(cText::Tr("&Alles markieren"), {QKeySequence::SelectAll}, [this] { SelectAll(); });
-    add(cText::Tr("Im Bericht &suchen …"), {QKeySequence::Find}, [this] { Q_EMIT FindRequested(); });
+    add(cText::Tr("Im Bericht &suchen…"), {QKeySequence::Find}, [this] { Q_EMIT FindRequested(); });
     add(cText::Tr("&Vergrößern"), {QKeySequence::ZoomIn, QKeySequence(u"Ctrl+="_s)}, [this] { ZoomIn(); });
     add(cText::Tr("Verk&leinern"), {QKeySequence::ZoomOut}, [this] { ZoomOut(); });
     add(cText::Tr("&Normale Größe"), {QKeySequence(u"Ctrl+0"_s)}, [this] { SetZoom(100); });
@@ -106,7 +107,10 @@ void cReportView::Fit()
     m_fit = 1;
     const qreal width = viewport()->width() / Scale();
     m_document->LayOut(static_cast<int>(width));
-    m_fit = std::clamp(width / std::max(1, m_document->Size().width()), smallest, 1.0);
+    const int needed = m_document->Size().width();
+    if (needed > width) {
+        m_fit = std::clamp(width / (needed + modReportStyle::Margin), smallest, 1.0);
+    }
     m_zoom = zoom;
 }
 
@@ -299,10 +303,11 @@ void cReportView::FocusLink(int link)
     viewport()->update();
 }
 
-void cReportView::Follow(const QString& link)
+void cReportView::Follow(int link)
 {
     // Whoever listens may put another report in place of this one, which must not happen within its own event.
-    m_followed = link;
+    const cReportDocument::cLink& followed = m_document->Links().at(link);
+    m_followed = {followed.Address, followed.Name};
     tmrURLEntkoppler.start();
 }
 
@@ -402,8 +407,8 @@ void cReportView::mouseReleaseEvent(QMouseEvent* event)
         m_document->MouseLeave();
         return;
     }
-    const QString link = m_document->MouseRelease(ToPage(event->position().toPoint()));
-    if (!link.isEmpty()) {
+    const int link = m_document->MouseRelease(ToPage(event->position().toPoint()));
+    if (link >= 0) {
         Follow(link);
     }
 }
@@ -440,7 +445,7 @@ void cReportView::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && m_link >= 0) {
-        Follow(m_document->Links().at(m_link).Address);
+        Follow(m_link);
     } else if (event->key() == Qt::Key_Home) {
         verticalScrollBar()->setValue(0);
     } else if (event->key() == Qt::Key_End) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
 
 class cReportDocument;
 
@@ -49,7 +50,8 @@ public:
     void ScrollTo(int position);
 
 Q_SIGNALS:
-    void LinkClicked(const QString& link); // the link's text exactly as it stands in the page
+    // The address exactly as it stands in the page, and the words that it stands on.
+    void LinkClicked(const QString& address, const QString& name);
     void ZoomChanged(int percent);
     void FindRequested();
 
@@ -74,7 +76,7 @@ private:
     void Fit();
     void Show(const QRect& place); // scrolls there; pixels of the page
     void FocusLink(int link);
-    void Follow(const QString& link);
+    void Follow(int link);
     void FindAll();
     void PaintMarks(QPainter& painter) const;
     void PaintFocus(QPainter& painter) const;
@@ -94,6 +96,6 @@ private:
     QString m_findText;
     QList<int> m_found;
     int m_foundNumber = 0;
-    QString m_followed;
+    std::pair<QString, QString> m_followed; // address and words of a link
     QTimer tmrURLEntkoppler;
 };

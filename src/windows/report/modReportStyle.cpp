@@ -28,7 +28,8 @@ div > dir { margin-bottom: 14px; }
 /* A long name takes a second line and the row grows with it. */
 dir div, ul div { height: auto !important; min-height: 23px; }
 
-/* The bar of a limit: its empty boxes keep their height, and small percentages their width. */
-td div { display: block !important; height: 17px !important; min-height: 0; padding: 2px 0; }
+/* The bar of a limit: its empty boxes keep their height, and small percentages their text. */
+td div { display: block !important; height: 17px !important; min-height: 0; padding: 2px 0; overflow: visible !important; }
+td div[style*="display:table"] { position: relative; z-index: 1; white-space: nowrap; }
 )css";
 }

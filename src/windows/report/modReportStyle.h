@@ -7,5 +7,6 @@ namespace modReportStyle {
 [[nodiscard]] const char* MasterSheet();
 
 inline constexpr int FontSize = 13; // pixels of the page for plain text
+inline constexpr int Margin = 20;   // pixels beside the report
 
 } // namespace modReportStyle
