@@ -6019,108 +6019,113 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>Der letzte Tag liegt vor dem ersten.</source>
-        <translation type="unfinished"></translation>
+        <translation>The last day is before the first.</translation>
     </message>
     <message>
         <source>legt fest, vor welchem Kontostand gewarnt wird; &quot;ohne&quot; entfernt das Limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sets the balance below which you are warned; &quot;ohne&quot; (none) removes the limit</translation>
     </message>
     <message>
         <source>1 Umsatz freigegeben</source>
-        <translation type="unfinished"></translation>
+        <translation>1 transaction released</translation>
     </message>
     <message>
         <source>{0}: {1}, 1 Umsatz gelesen, {3} neu</source>
-        <translation type="unfinished"></translation>
+        <translation>{0}: {1}, 1 transaction read, {3} new</translation>
     </message>
     <message>
         <source>Zu welchem Konto gehören die Umsätze der Kontonummer {0}?
 Ein neuer Name legt ein Konto an.</source>
-        <translation type="unfinished"></translation>
+        <translation>To which account do the transactions of account number {0} belong?
+A new name creates an account.</translation>
     </message>
     <message>
         <source>Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze.</source>
-        <translation type="unfinished"></translation>
+        <translation>The columns were guessed from the contents. Please check the transactions.</translation>
     </message>
     <message>
         <source>1 Umsatz wartet auf die Buchung</source>
-        <translation type="unfinished"></translation>
+        <translation>1 transaction is waiting to be booked</translation>
     </message>
     <message>
         <source>Im Konto {0} gibt es bis {1} Tage vor und nach dem {2} keinen Eintrag in dieser Richtung. „Buchen“ macht aus dem Umsatz einen neuen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Account {0} has no entry in this direction within {1} days before and after {2}. “Book” makes a new one of the transaction.</translation>
     </message>
     <message>
         <source>Das Diagramm wurde nach &apos;{0}&apos; gespeichert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The chart was saved to &apos;{0}&apos;.</translation>
     </message>
     <message>
         <source>Ausgaben je Monat nach Kategorien</source>
-        <translation type="unfinished"></translation>
+        <translation>Expenses per month by category</translation>
     </message>
     <message>
         <source>Einnahmen je Monat nach Kategorien</source>
-        <translation type="unfinished"></translation>
+        <translation>Income per month by category</translation>
     </message>
     <message>
         <source>Noch hat keine Kategorie ein Monatslimit. Sie legen eines unter „Extras“, „Kategorie/Konto bearbeiten“ fest.</source>
-        <translation type="unfinished"></translation>
+        <translation>No category has a monthly limit yet. You set one under “Extras”, “Edit categories/accounts”.</translation>
     </message>
     <message>
         <source>Am {0} fehlen {1} an Ausgaben:</source>
-        <translation type="unfinished"></translation>
+        <translation>On {0}, {1} of expenses are missing:</translation>
     </message>
     <message>
         <source>Am {0} fehlen {1} an Einnahmen:</source>
-        <translation type="unfinished"></translation>
+        <translation>On {0}, {1} of income are missing:</translation>
     </message>
     <message>
         <source>Druckt die gezeigten Einträge oder die Auswertung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prints the entries shown or the statistics.</translation>
     </message>
     <message>
         <source>Zeigt, wie der Ausdruck aussieht.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows what the printout will look like.</translation>
     </message>
     <message>
         <source>Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon gibt:
 {1}
 Sollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Of the selected transactions, {0} probably belong to entries that exist already:
+{1}
+Shall they stay open? With No, they become new entries too.</translation>
     </message>
     <message>
         <source>Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
 {1}
 Sollen diese offen bleiben? Bei Nein werden auch sie gebucht.</source>
-        <translation type="unfinished"></translation>
+        <translation>For {0} of the transactions there is another one that may be the same, for example from a file in another format:
+{1}
+Shall these stay open? With No, they are booked too.</translation>
     </message>
     <message>
         <source>Tag und Betrag nicht erkannt, bitte wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Day and amount not recognised, please choose</translation>
     </message>
     <message>
         <source>mit Einzelausgaben</source>
-        <translation type="unfinished"></translation>
+        <translation>with one-off expenses</translation>
     </message>
     <message>
         <source>Diesen &amp;Import durchsehen…</source>
-        <translation type="unfinished"></translation>
+        <translation>Review this &amp;import…</translation>
     </message>
     <message>
         <source>Dr&amp;ucken…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Print…</translation>
     </message>
     <message>
         <source>&amp;Auch Einträge zeigen, die weniger passen</source>
-        <translation type="unfinished"></translation>
+        <translation>Show entries that fit less well &amp;too</translation>
     </message>
     <message>
         <source>Alle Einträge dieser Tage, zum Beispiel wenn mehrere Umsätze einen Eintrag bezahlen</source>
-        <translation type="unfinished"></translation>
+        <translation>All entries of these days, for example when several transactions pay for one entry</translation>
     </message>
     <message>
         <source>Im Bericht &amp;suchen…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Find in report…</translation>
     </message>
 </context>
 </TS>

@@ -96,11 +96,6 @@ QString cAccountListModel::AccountAt(const QModelIndex& index) const
     return m_rows[static_cast<std::size_t>(index.row())].Name;
 }
 
-qint64 cAccountListModel::TotalCents() const
-{
-    return m_rows.empty() ? 0 : m_rows.back().Cents;
-}
-
 int cAccountListModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());

@@ -34,7 +34,6 @@ public:
 
     // Account name of a row; empty for groups and the total.
     [[nodiscard]] QString AccountAt(const QModelIndex& index) const;
-    [[nodiscard]] qint64 TotalCents() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

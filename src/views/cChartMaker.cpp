@@ -6,14 +6,18 @@
 #include "views/cForecast.h"
 #include "views/modChart.h"
 #include "views/modForecast.h"
+#include "views/modReport.h"
 
 #include <algorithm>
 
 namespace {
 
-// Without the future a range ends today at the latest.
+// Without the future a range ends today at the latest. One that begins before any entry can, begins with the first.
 modPeriod::cRange Cut(modPeriod::cRange range, const cChartWish& wish, QDate today)
 {
+    if (!modReport::HasStart(range)) {
+        range.Start = {};
+    }
     if (!wish.ShowsFuture && (!range.End.isValid() || range.End > today)) {
         range.End = today;
     }

@@ -28,9 +28,8 @@ struct cChartWish
     QString Account{};                         // empty: all
     std::optional<QString> Group{};            // the categories below this group; none: the groups themselves
     bool ShowsFuture = true;                   // entries after today count
-    bool ShowsStart = false;   // start balances count among income and expense; balances hold them always
-    bool ShowsAverage = false; // the forecast also takes off what is spent once on average
-    int ForecastMonths = 0;    // Balances: months after today, up to 12; 0 for none
+    bool ShowsAverage = false;                 // the forecast also takes off what is spent once on average
+    int ForecastMonths = 0;                    // Balances: months after today, up to 12; 0 for none
 
     // The same days one year earlier; an open side stays open. The last day of a month stays the last one.
     [[nodiscard]] static modPeriod::cRange YearBefore(const modPeriod::cRange& range);

@@ -72,7 +72,7 @@ cReportWish modChart::ReportWish(const cChartWish& wish, const modPeriod::cRange
     report.Account = wish.Account;
     report.Range = range;
     report.ShowsFuture = wish.ShowsFuture;
-    report.ShowsStart = wish.ShowsStart;
+    report.ShowsStart = false; // they are no income of the period; balances hold them
     report.Order = eReportOrder::ByAmount;
     report.Today = today;
     return report;

@@ -12,6 +12,8 @@
 #include "model/modSeries.h"
 #include "model/modWord.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <iterator>
 
@@ -47,6 +49,13 @@ void cCliReader::Keep(int code, const QString& problem)
     if (IsGood()) {
         m_code = code;
         m_problem = problem;
+    }
+}
+
+void cCliReader::CheckTarget(const QString& path)
+{
+    if (QFileInfo(path) == QFileInfo(m_context.Book->File().Path())) {
+        Misused(cText::Tr("'{0}' ist die Datenbank selbst. Bitte einen anderen Namen angeben.", {path}));
     }
 }
 

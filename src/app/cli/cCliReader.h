@@ -40,6 +40,9 @@ public:
     // Of the options --period, --from and --to; `name` where none of them is given.
     [[nodiscard]] modPeriod::cRange Period(const QString& name);
 
+    // A file that is going to be written must not be the book itself.
+    void CheckTarget(const QString& path);
+
     // Says that the call itself is wrong, or that the book does not have what it names.
     void Misused(const QString& problem) { Keep(modExit::Usage, problem); }
     void Missing(const QString& problem) { Keep(modExit::Failed, problem); }

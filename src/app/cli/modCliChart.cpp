@@ -35,9 +35,8 @@ void CheckTargets(const cCliContext& context, cCliReader& reader)
         }
         const QString path = context.Call.Value(target);
         hasTarget = true;
-        if (QFileInfo(path) == QFileInfo(context.Book->File().Path())) {
-            reader.Misused(cText::Tr("'{0}' ist die Datenbank selbst. Bitte einen anderen Namen angeben.", {path}));
-        } else if (target != u"csv" && QFileInfo(path).suffix().toLower() != target) {
+        reader.CheckTarget(path);
+        if (target != u"csv" && QFileInfo(path).suffix().toLower() != target) {
             reader.Misused(cText::Tr("Der Name '{0}' muss auf .{1} enden.", {path, target}));
         }
     }

@@ -49,9 +49,7 @@ int Run(const cCliContext& context)
     const QString path = context.Call.Arguments().constFirst();
     cCliReader reader(context);
     const std::optional<modExport::eFormat> format = Format(context.Call, reader);
-    if (QFileInfo(path) == QFileInfo(context.Book->File().Path())) {
-        reader.Misused(cText::Tr("'{0}' ist die Datenbank selbst. Bitte einen anderen Namen angeben.", {path}));
-    }
+    reader.CheckTarget(path);
     if (!format || !reader.IsGood()) {
         return reader.Report();
     }

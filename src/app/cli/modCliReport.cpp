@@ -14,8 +14,6 @@
 #include "views/modReport.h"
 #include "views/modReportHtml.h"
 
-#include <QFileInfo>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -65,9 +63,8 @@ cReportWish ReadWish(const cCliContext& context, cCliReader& reader)
     wish.Spending = call.Has(u"gross"_s) ? eReportSpending::Gross : eReportSpending::Net;
     const QStringList options = FileOptions();
     for (const QString& option : options) {
-        if (call.Has(option) && QFileInfo(call.Value(option)) == QFileInfo(context.Book->File().Path())) {
-            reader.Misused(
-                cText::Tr("'{0}' ist die Datenbank selbst. Bitte einen anderen Namen angeben.", {call.Value(option)}));
+        if (call.Has(option)) {
+            reader.CheckTarget(call.Value(option));
         }
     }
     return wish;

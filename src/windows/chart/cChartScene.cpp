@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -64,6 +65,23 @@ void cChartScene::LayOutAxes(cChartLayout& layout, qint64 smallest, qint64 large
         width = std::max(width, Metrics.horizontalAdvance(Data.AxisText(tick)));
     }
     layout.Plot.setLeft(layout.Plot.left() + width + Em() * 0.6);
+}
+
+void cChartScene::LayOutLines(cChartLayout& layout) const
+{
+    layout.Points.resize(static_cast<std::size_t>(SeriesCount()));
+    for (int series = 0; series < SeriesCount(); ++series) {
+        if (!IsLine(series) || Data.IsHidden(series)) {
+            continue;
+        }
+        std::vector<QPointF>& points = layout.Points[static_cast<std::size_t>(series)];
+        points.reserve(static_cast<std::size_t>(LabelCount()));
+        for (int index = 0; index < LabelCount(); ++index) {
+            const std::optional<qint64> cents = Data.Series[series].At(index);
+            const double y = cents ? layout.Axis.Y(*cents, layout.Plot) : std::numeric_limits<double>::quiet_NaN();
+            points.emplace_back(XOf(layout, index), y);
+        }
+    }
 }
 
 void cChartScene::PaintAxes(QPainter& painter, const cChartLayout& layout) const

@@ -50,7 +50,6 @@ struct cChartScene
     [[nodiscard]] int LabelCount() const { return static_cast<int>(Data.Labels.size()); }
     [[nodiscard]] QColor Colour(int series) const; // paler for a comparison
     [[nodiscard]] QColor Text() const { return Style.Palette.color(QPalette::Text); }
-    [[nodiscard]] bool IsMarked(const cChartPart& part) const { return State.Hovered == part || State.Current == part; }
     // True for what is not booked yet.
     [[nodiscard]] bool IsAhead(int series, int index) const;
     // True for a series that is drawn as a line.
@@ -59,6 +58,7 @@ struct cChartScene
     // Plot, axis and labels of every chart with axes: works out the axis for the amounts, and paints grid, labels, the
     // time ahead and the limit.
     void LayOutAxes(cChartLayout& layout, qint64 smallest, qint64 largest) const;
+    void LayOutLines(cChartLayout& layout) const; // the points of every line; needs the axis
     void PaintAxes(QPainter& painter, const cChartLayout& layout) const;
     [[nodiscard]] double XOf(const cChartLayout& layout, int index) const;
 

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -129,22 +128,6 @@ void LayOutStacks(const cChartScene& scene, cChartLayout& layout, int index, dou
     }
 }
 
-void LayOutLines(const cChartScene& scene, cChartLayout& layout)
-{
-    layout.Points.resize(static_cast<std::size_t>(scene.SeriesCount()));
-    for (int series = 0; series < scene.SeriesCount(); ++series) {
-        if (!scene.IsLine(series) || scene.Data.IsHidden(series)) {
-            continue;
-        }
-        std::vector<QPointF>& points = layout.Points[static_cast<std::size_t>(series)];
-        for (int index = 0; index < scene.LabelCount(); ++index) {
-            const std::optional<qint64> cents = scene.Data.Series[series].At(index);
-            const double y = cents ? layout.Axis.Y(*cents, layout.Plot) : std::numeric_limits<double>::quiet_NaN();
-            points.emplace_back(scene.XOf(layout, index), y);
-        }
-    }
-}
-
 // Round at the end that is not on zero.
 QPainterPath Rounded(const QRectF& box, bool isDown)
 {
@@ -215,7 +198,7 @@ void modColumnPainter::LayOut(const cChartScene& scene, cChartLayout& layout)
             LayOutBeside(scene, layout, index, slot);
         }
     }
-    LayOutLines(scene, layout);
+    scene.LayOutLines(layout);
 }
 
 void modColumnPainter::Paint(QPainter& painter, const cChartScene& scene, const cChartLayout& layout)

@@ -35,23 +35,6 @@ std::pair<qint64, qint64> SpanOf(const cChartScene& scene)
                       : std::pair(std::min<qint64>(0, smallest), std::max<qint64>(0, largest));
 }
 
-void LayOutPoints(const cChartScene& scene, cChartLayout& layout)
-{
-    layout.Points.resize(static_cast<std::size_t>(scene.SeriesCount()));
-    for (int series = 0; series < scene.SeriesCount(); ++series) {
-        if (scene.Data.IsHidden(series)) {
-            continue;
-        }
-        std::vector<QPointF>& points = layout.Points[static_cast<std::size_t>(series)];
-        points.reserve(static_cast<std::size_t>(scene.LabelCount()));
-        for (int index = 0; index < scene.LabelCount(); ++index) {
-            const std::optional<qint64> cents = scene.Data.Series[series].At(index);
-            const double y = cents ? layout.Axis.Y(*cents, layout.Plot) : std::numeric_limits<double>::quiet_NaN();
-            points.emplace_back(scene.XOf(layout, index), y);
-        }
-    }
-}
-
 // A soft surface below the first line gives the eye a hold.
 void PaintSurface(QPainter& painter, const cChartScene& scene, const cChartLayout& layout)
 {
@@ -123,7 +106,7 @@ void modLinePainter::LayOut(const cChartScene& scene, cChartLayout& layout)
     const auto [smallest, largest] = SpanOf(scene);
     scene.LayOutAxes(layout, smallest, largest);
     layout.Reach = scene.Em() * 1.2;
-    LayOutPoints(scene, layout);
+    scene.LayOutLines(layout);
 }
 
 void modLinePainter::Paint(QPainter& painter, const cChartScene& scene, const cChartLayout& layout)

@@ -38,20 +38,9 @@ QPainterPath Slice(const cChartLayout::cCircle& circle, double from, double span
     return path;
 }
 
-qint64 ShownTotal(const cChartScene& scene, int index)
-{
-    qint64 total = 0;
-    for (int series = 0; series < scene.SeriesCount(); ++series) {
-        if (!scene.Data.IsHidden(series)) {
-            total += std::max<qint64>(0, scene.Data.Series[series].At(index).value_or(0));
-        }
-    }
-    return total;
-}
-
 void LayOutSlices(const cChartScene& scene, cChartLayout& layout, const cChartLayout::cCircle& circle)
 {
-    const qint64 total = ShownTotal(scene, circle.Index);
+    const qint64 total = scene.Data.Total(circle.Index);
     double from = 0;
     for (int series = 0; series < scene.SeriesCount() && total > 0; ++series) {
         const qint64 cents = scene.Data.Series[series].At(circle.Index).value_or(0);
@@ -71,7 +60,7 @@ void LayOutSlices(const cChartScene& scene, cChartLayout& layout, const cChartLa
 void PaintShare(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit,
                 const cChartLayout::cCircle& circle, const QColor& colour)
 {
-    const double total = static_cast<double>(ShownTotal(scene, hit.Part.Index));
+    const double total = static_cast<double>(scene.Data.Total(hit.Part.Index));
     const double share = static_cast<double>(scene.Data.Series[hit.Part.Series].At(hit.Part.Index).value_or(0)) / total;
     const double arc = share * 2 * std::numbers::pi * (circle.Outer + circle.Inner) / 2;
     const QString text = QString::number(qRound(share * 100)) + QChar(QChar::Nbsp) + u'%';
@@ -84,9 +73,29 @@ void PaintShare(QPainter& painter, const cChartScene& scene, const cChartLayout:
     }
 }
 
+// Below the sum: from and to in two lines where one is too narrow, and nothing where those are too.
+void PaintPeriod(QPainter& painter, const cChartScene& scene, const cChartLayout::cCircle& circle)
+{
+    const double room = circle.Inner * 1.7;
+    QString label = scene.Data.Labels.value(circle.Index);
+    if (scene.Metrics.horizontalAdvance(label) > room) {
+        label.replace(QChar(0x2013), QStringLiteral("\u2013\n"));
+    }
+    const QSizeF needed = scene.Metrics.size(0, label);
+    const double scale = std::min(1.0, room / std::max(1.0, needed.width()));
+    const double gap = scene.Em() * 0.25;
+    if (scale < 0.75 || gap + needed.height() * scale > circle.Inner * 0.9) {
+        return;
+    }
+    painter.setFont(ScaledFont(scene.Style.Font, scale));
+    painter.setPen(modTone::Quiet(scene.Style.Palette));
+    const QRectF box = Square(circle.Centre, circle.Inner).adjusted(0, circle.Inner + gap, 0, 0);
+    painter.drawText(box, Qt::AlignHCenter | Qt::AlignTop, label);
+}
+
 void PaintMiddle(QPainter& painter, const cChartScene& scene, const cChartLayout::cCircle& circle)
 {
-    const QString sum = scene.Data.MoneyText(ShownTotal(scene, circle.Index));
+    const QString sum = scene.Data.MoneyText(scene.Data.Total(circle.Index));
     QFont font = scene.Style.Font;
     font.setBold(true);
     const double room = circle.Inner * 1.7;
@@ -98,10 +107,7 @@ void PaintMiddle(QPainter& painter, const cChartScene& scene, const cChartLayout
     painter.setPen(scene.Text());
     const QRectF box = Square(circle.Centre, circle.Inner);
     painter.drawText(box.adjusted(0, 0, 0, -scene.Em() * 0.7), Qt::AlignCenter, sum);
-    painter.setFont(scene.Style.Font);
-    painter.setPen(modTone::Quiet(scene.Style.Palette));
-    const QString label = scene.Metrics.elidedText(scene.Data.Labels.value(circle.Index), Qt::ElideRight, room);
-    painter.drawText(box.adjusted(0, scene.Em() * 1.7, 0, 0), Qt::AlignCenter, label);
+    PaintPeriod(painter, scene, circle);
 }
 
 void PaintSlice(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit,
