@@ -6113,7 +6113,7 @@ Shall these stay open? With No, they are booked too.</translation>
     </message>
     <message>
         <source>Dr&amp;ucken…</source>
-        <translation>&amp;Print…</translation>
+        <translation>Pr&amp;int…</translation>
     </message>
     <message>
         <source>&amp;Auch Einträge zeigen, die weniger passen</source>

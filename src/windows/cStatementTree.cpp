@@ -13,7 +13,7 @@
 namespace {
 
 // Widths in average characters of the font; the purpose takes the rest.
-constexpr std::array<int, cAccountStatement::ColumnCount> widths{14, 30, 20, 14, 14, 10, 25};
+constexpr std::array<int, cAccountStatement::ColumnCount> widths{13, 28, 20, 14, 14, 9, 22};
 
 class cStatementDelegate final : public cRowDelegate
 {

@@ -77,7 +77,7 @@ void frmKontoauszug::Build()
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_sums);
     layout->addLayout(BuildButtons());
-    const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
+    const QSize wanted(fontMetrics().averageCharWidth() * 185, fontMetrics().height() * 40);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
 
