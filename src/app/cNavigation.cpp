@@ -313,7 +313,7 @@ void cNavigation::PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*)
     cStatisticsModel& statistics = Statistics();
     const QString foot = QApplication::applicationDisplayName();
     if (statistics.Page() == cStatisticsModel::ePage::Charts) {
-        cChartPrinter pages({statistics.FirstChart().Data(), statistics.SecondChart().Data()}, foot);
+        cChartPrinter pages(m_statisticsPage->ShownCharts(), foot);
         (m_printer.*way)(pages, Parent());
         return;
     }

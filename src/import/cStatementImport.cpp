@@ -189,6 +189,9 @@ cImportResult cStatementImport::ImportSource(const cStatementSource& source, con
         result.Skipped = read.Skipped;
         return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
     }
+    if (read.IsGuessed) {
+        read.Problems.prepend({0, modStatementFile::GuessedColumns()});
+    }
     progress.showProgressBar(static_cast<int>(read.Entries.size()));
     const cUndoStep step(m_data, cText::Tr("Kontoauszug eingelesen"));
     cUndoPart part(m_data);

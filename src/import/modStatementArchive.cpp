@@ -1,6 +1,7 @@
 #include "import/modStatementArchive.h"
 
 #include "base/cText.h"
+#include "import/modStatementFile.h"
 #include "import/modStatementFormat.h"
 #include "import/xml/modZip.h"
 
@@ -108,7 +109,7 @@ private:
             m_all.Skipped.append(row);
         }
         if (read.IsGuessed) {
-            Note(name, cText::Tr("Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze."));
+            Note(name, modStatementFile::GuessedColumns());
         }
         if (read.NeedsAccount) {
             ++m_nameless;

@@ -34,3 +34,8 @@ QString modStatementFile::NoAccount()
 {
     return cText::Tr("Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen.");
 }
+
+QString modStatementFile::GuessedColumns()
+{
+    return cText::Tr("Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze.");
+}

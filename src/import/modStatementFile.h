@@ -17,5 +17,7 @@ struct cContent
 
 // What the user is told where neither the file nor the user names the account.
 [[nodiscard]] QString NoAccount();
+// What the user is told where nothing but the contents told the columns of a table, and nobody was asked.
+[[nodiscard]] QString GuessedColumns();
 
 } // namespace modStatementFile

@@ -17,7 +17,6 @@ public:
     // `name` tells the two panes apart for who cannot see where they stand.
     cChartPane(cStatisticsChart& model, const QString& name, QWidget* parent = nullptr);
 
-    [[nodiscard]] cStatisticsChart& Model() { return m_model; }
     [[nodiscard]] cChartBox& Box() { return *m_box; }
 
 Q_SIGNALS:

@@ -141,13 +141,9 @@ QWidget* frmStatistik::BuildReportPage()
 QWidget* frmStatistik::BuildChartPage()
 {
     auto* split = new QSplitter(this);
-    auto* first = new cChartPane(m_model.FirstChart(), cText::Tr("Erstes Diagramm"), this);
-    auto* second = new cChartPane(m_model.SecondChart(), cText::Tr("Zweites Diagramm"), this);
-    split->addWidget(first);
-    split->addWidget(second);
+    AddChart(m_model.FirstChart(), cText::Tr("Erstes Diagramm"), *split);
+    AddChart(m_model.SecondChart(), cText::Tr("Zweites Diagramm"), *split);
     split->setChildrenCollapsible(false);
-    ConnectChart(*first);
-    ConnectChart(*second);
     auto* page = new QScrollArea(this); // two charts side by side must not make the window wider than a small screen
     page->setFrameShape(QFrame::NoFrame);
     page->setWidgetResizable(true);
@@ -156,14 +152,26 @@ QWidget* frmStatistik::BuildChartPage()
     return page;
 }
 
-void frmStatistik::ConnectChart(cChartPane& pane)
+void frmStatistik::AddChart(cStatisticsChart& chart, const QString& name, QSplitter& split)
 {
-    connect(&pane, &cChartPane::PartClicked, this, [this, &pane](int series, int index) {
-        if (const std::optional<cChartTarget> target = pane.Model().Click(series, index)) {
-            m_model.ShowTarget(pane.Model(), *target);
+    auto* pane = new cChartPane(chart, name, this);
+    split.addWidget(pane);
+    m_charts.append(pane);
+    connect(pane, &cChartPane::PartClicked, this, [this, &chart](int series, int index) {
+        if (const std::optional<cChartTarget> target = chart.Click(series, index)) {
+            m_model.ShowTarget(chart, *target);
         }
     });
-    connect(&pane, &cChartPane::SaveRequested, this, [this, &pane] { SaveChart(pane); });
+    connect(pane, &cChartPane::SaveRequested, this, [this, pane] { SaveChart(*pane); });
+}
+
+QList<cChartData> frmStatistik::ShownCharts() const
+{
+    QList<cChartData> charts;
+    for (cChartPane* pane : m_charts) {
+        charts.append(pane->Box().ShownData());
+    }
+    return charts;
 }
 
 void frmStatistik::Connect()

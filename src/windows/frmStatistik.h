@@ -1,16 +1,20 @@
 #pragma once
 
+#include "views/cChartData.h"
+
 #include <QWidget>
 
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
+class QSplitter;
 class QTabWidget;
 class cChartPane;
 class cPeriodPicker;
 class cReportPane;
 class cReportTree;
+class cStatisticsChart;
 class cStatisticsModel;
 
 // The page of the main window for reports and charts.
@@ -20,6 +24,8 @@ class frmStatistik final : public QWidget
 
 public:
     explicit frmStatistik(cStatisticsModel& model, QWidget* parent = nullptr);
+
+    [[nodiscard]] QList<cChartData> ShownCharts() const; // without the series that are switched off
 
 Q_SIGNALS:
     void PrintRequested();
@@ -34,7 +40,7 @@ private:
     QWidget* BuildSelectors();
     void BuildSaveMenu();
     void Connect();
-    void ConnectChart(cChartPane& pane);
+    void AddChart(cStatisticsChart& chart, const QString& name, QSplitter& split);
     void ShowSelectors();
     void ShowReport();
     void SaveChart(cChartPane& pane);
@@ -51,4 +57,5 @@ private:
     QLabel* m_hint; // what the user can do about an empty report
     cReportTree* m_tree;
     cReportPane* m_report;
+    QList<cChartPane*> m_charts;
 };
