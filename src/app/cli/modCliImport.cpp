@@ -105,7 +105,7 @@ QString Summary(const cImportResult& result, const cCliBook& book)
 QString RowText(const cImportEntry& row, const cCliBook& book)
 {
     return modDate::ToGerman(row.ImportDate) + u"  "_s + book.AmountText(modAmount::ToCents(row.ImportValue)) + u"  "_s
-        + row.ImportBeneficiary;
+        + (row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary);
 }
 
 void Print(const cReadProblem& problem)
