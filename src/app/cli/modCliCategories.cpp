@@ -18,10 +18,11 @@ cTemplateManager::cParts Parts(const cCliContext& context)
     return {book.Data, book.Settings(), book.Format(), context.User, context.Clock};
 }
 
-// "Wohnung;Miete" as paths are stored.
+// "Wohnung;Miete" as paths are stored, without the characters that names cannot have.
 QString NewPath(const QString& text)
 {
-    return modTemplate::Join(text.section(u';', 0, 0).trimmed(), text.section(u';', 1).trimmed());
+    return modTemplate::Join(modTemplate::CleanName(text.section(u';', 0, 0).trimmed()),
+                             modTemplate::CleanName(text.section(u';', 1).trimmed()));
 }
 
 // The categories in their order, then the paths that only entries have; those have no ID.
