@@ -465,6 +465,9 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
     for (QString* account : {&m_view.Account, m_detour ? &m_detour->Before.Account : &m_view.Account}) {
         *account = *account == oldName ? newName : *account;
     }
+    if (m_parts.Settings.Get(modSetting::StatisticsAccount) == oldName) {
+        m_parts.Settings.Set(modSetting::StatisticsAccount, newName);
+    }
     BookChanged();
 }
 

@@ -95,9 +95,7 @@ cStatisticsModel::cStatisticsModel(const cParts& parts, QObject* parent)
 void cStatisticsModel::Restore()
 {
     const cSettings& settings = m_parts.Settings;
-    const QString account = settings.Get(prefix + u"Konto"_s);
     m_type = Stored(settings, u"Bericht"_s, eReport::Limit, eReport::Average);
-    m_account = Accounts().contains(account) ? account : modWord::AlleKonten;
     m_period.Restore(settings, prefix, m_parts.Clock.Today());
     m_order = Stored(settings, u"Ordnung"_s, eReportOrder::ByAmount, eReportOrder::ByName);
     m_spending = Stored(settings, u"Erstattungen"_s, eReportSpending::Gross, eReportSpending::Net);
@@ -108,7 +106,6 @@ void cStatisticsModel::Restore()
         chart->Restore();
     }
     m_switches = {Wish().ShowsFuture, Wish().ShowsStart};
-    Q_EMIT SelectorsChanged();
     BookChanged();
 }
 
@@ -153,7 +150,6 @@ void cStatisticsModel::Changed()
     Store(settings, u"Bericht"_s, m_type);
     Store(settings, u"Ordnung"_s, m_order);
     Store(settings, u"Erstattungen"_s, m_spending);
-    modSetting::Keep(settings, prefix + u"Konto"_s, m_account);
     m_period.Save(settings, prefix);
     Q_EMIT SelectorsChanged();
     m_isStale = true;
@@ -197,6 +193,7 @@ void cStatisticsModel::ChooseReport(eReport type)
 void cStatisticsModel::ChooseAccount(const QString& account)
 {
     m_account = Accounts().contains(account) ? account : modWord::AlleKonten;
+    modSetting::Keep(m_parts.Settings, modSetting::StatisticsAccount, m_account);
     m_firstChart.SetAccount(Wish().Account);
     m_secondChart.SetAccount(Wish().Account);
     Changed();
@@ -260,9 +257,8 @@ void cStatisticsModel::SetZoom(int percent)
 
 void cStatisticsModel::BookChanged()
 {
-    if (!Accounts().contains(m_account)) {
-        m_account = modWord::AlleKonten; // for now: it may come back
-    }
+    const QString account = m_parts.Settings.Get(modSetting::StatisticsAccount);
+    m_account = Accounts().contains(account) ? account : modWord::AlleKonten; // which may come back
     m_source.Forget();
     m_isStale = true;
     for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {

@@ -85,7 +85,7 @@ private Q_SLOTS:
     void MonthsPushEachOther();
     void SelectorsAreKept();
     void WorksOnlyWhileSomebodyLooks();
-    void LostAccountGivesWayToAll();
+    void AccountIsFollowedAsLongAsItIsThere();
     void SwitchesOfTheViewCount();
     void PrintedReportHasNoLinkData();
     void ClickOnAPartOfAChartShowsItsEntries();
@@ -260,15 +260,20 @@ void testStatisticsModel::WorksOnlyWhileSomebodyLooks()
     QCOMPARE(report.size(), 1); // nothing has changed meanwhile
 }
 
-void testStatisticsModel::LostAccountGivesWayToAll()
+void testStatisticsModel::AccountIsFollowedAsLongAsItIsThere()
 {
     cScene scene;
     scene.Model.ChooseAccount(u"Bargeld"_s);
     QVERIFY(scene.Model.Html().contains(u"für Konto 'Bargeld' vom"_s));
     const std::optional<cTemplateItem> account = scene.Book.Data.FindAccount(u"Bargeld"_s);
-    QVERIFY(account && scene.Book.Data.DeleteTemplate(account->ID));
+    connect(&scene.Main, &cMainModel::BookRefreshed, &scene.Model, &cStatisticsModel::BookChanged);
+    cTemplateItem renamed = account.value_or(cTemplateItem{});
+    renamed.TemplateName = u"Börse"_s;
+    QVERIFY(scene.Book.Data.ChangeTemplate(renamed));
+    scene.Main.AccountRenamed(u"Bargeld"_s, u"Börse"_s);
+    QVERIFY(scene.Model.Html().contains(u"für Konto 'Börse' vom"_s));
+    QVERIFY(scene.Book.Data.DeleteTemplate(renamed.ID));
     scene.Main.BookChanged();
-    scene.Model.BookChanged();
     QVERIFY(scene.Model.Html().contains(u"für alle Konten vom"_s));
     QCOMPARE(scene.Model.FirstChart().Wish().Account, QString());
 }
