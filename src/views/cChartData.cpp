@@ -19,6 +19,18 @@ bool cChartData::IsEmpty() const
     });
 }
 
+void cChartData::HideAsIn(const cChartData& earlier)
+{
+    if (Kind != earlier.Kind || Title != earlier.Title) {
+        return;
+    }
+    for (cChartSeries& series : Series) {
+        series.IsHidden = std::any_of(earlier.Series.begin(), earlier.Series.end(), [&](const cChartSeries& old) {
+            return old.IsHidden && old.Name == series.Name && old.IsComparison == series.IsComparison;
+        });
+    }
+}
+
 cChartData cChartData::Shown() const
 {
     cChartData shown = *this;

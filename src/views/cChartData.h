@@ -87,6 +87,8 @@ struct cChartData
     [[nodiscard]] QString ShortLabel(int index) const;
     [[nodiscard]] QString LabelOf(int series, int index) const; // with its own one
     [[nodiscard]] bool IsHidden(int series) const { return Series.value(series).IsHidden; }
+    // Hides the series that the same chart of earlier figures had hidden.
+    void HideAsIn(const cChartData& earlier);
     // The chart without its hidden series.
     [[nodiscard]] cChartData Shown() const;
     // Sum of the positive values of one label over the series that are shown: what the slices of a pie are parts of.

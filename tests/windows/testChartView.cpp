@@ -179,6 +179,8 @@ private Q_SLOTS:
         QVERIFY(!stage.View.Layout().AnchorOf({0, 0}));
         QCOMPARE(stage.View.Layout().Axis.Max(), 10000); // nothing is below it any more
         QCOMPARE(stage.View.SeriesAt(0), 1);
+        stage.View.SetData(Chart(eChart::StackedColumns)); // the book has changed
+        QVERIFY(stage.View.Data().IsHidden(0));
         stage.Click(stage.View.Layout().Legend.at(0).Area.center());
         QCOMPARE(stage.View.ShownData().Series.size(), 2);
     }

@@ -45,7 +45,9 @@ cChartView::~cChartView() = default;
 
 void cChartView::SetData(const cChartData& chart)
 {
-    m_data = chart;
+    cChartData next = chart;
+    next.HideAsIn(m_data); // what the reader switched off stays off when the book changes
+    m_data = next;
     m_state = {};
     Say({});
     Invalidate();
