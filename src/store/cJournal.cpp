@@ -28,6 +28,31 @@ std::string InsertText(cJournal::eTable table, size_t columns)
     return text + ")";
 }
 
+// The writes that take a step back are one transaction: all of them or none, and one journal file for all.
+class cTransaction
+{
+public:
+    explicit cTransaction(cDatabase& database) : m_database(database) { m_database.Execute("BEGIN IMMEDIATE"); }
+    cTransaction(const cTransaction&) = delete;
+    cTransaction& operator=(const cTransaction&) = delete;
+    ~cTransaction()
+    {
+        if (m_isOpen) {
+            m_database.TryExecute("ROLLBACK");
+        }
+    }
+
+    void Commit()
+    {
+        m_database.Execute("COMMIT");
+        m_isOpen = false;
+    }
+
+private:
+    cDatabase& m_database;
+    bool m_isOpen = true;
+};
+
 } // namespace
 
 void cJournal::Begin(const QString& name)
@@ -176,6 +201,10 @@ cJournal::cImage cJournal::Current(eTable table, qint64 id)
 cJournal::cStep cJournal::Apply(const cStep& step)
 {
     cStep back{step.Name, {}, {}};
+    if (step.Images.empty()) {
+        return back; // a book that can only be read has no more than that
+    }
+    cTransaction transaction(m_database);
     for (const cImage& image : step.Images) {
         back.Images.push_back(Current(image.Table, image.Id));
         back.Known.insert({image.Table, image.Id});
@@ -191,6 +220,7 @@ cJournal::cStep cJournal::Apply(const cStep& step)
             Write(image);
         }
     }
+    transaction.Commit();
     return back;
 }
 
