@@ -248,8 +248,5 @@ private Q_SLOTS:
     }
 };
 
-Q_DECLARE_METATYPE(cOwnRule)
-Q_DECLARE_METATYPE(cImportEntry)
-
 QTEST_GUILESS_MAIN(testOwnRules)
 #include "testOwnRules.moc"

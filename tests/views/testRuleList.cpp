@@ -310,7 +310,5 @@ void testRuleList::Words() const
     QCOMPARE(modRuleText::Result(rule), u"Monatlich, „Essen“"_s);
 }
 
-Q_DECLARE_METATYPE(cOwnRule)
-
 QTEST_GUILESS_MAIN(testRuleList)
 #include "testRuleList.moc"
