@@ -171,11 +171,7 @@ QString cWriter::Explanation() const
 
 void cWriter::WriteResult()
 {
-    const qint64 difference = m_figures.Difference();
-    const QString label = difference > 0 ? cText::Tr("Überschuss")
-        : difference < 0                 ? cText::Tr("Verlust")
-                                         : cText::Tr("Überschuss/Verlust");
-    m_html += Explanation() + label + u": "_s + Money(std::abs(difference));
+    m_html += Explanation() + modReportHtml::Result(m_figures, m_format).toHtmlEscaped();
 }
 
 void cWriter::WriteSection(const cReportSection& section, const QString& colour)
@@ -271,6 +267,15 @@ QString modReportHtml::Page(const cReportFigures& figures, const cReportWish& wi
     return u"<!DOCTYPE html>\n<html lang=\"de\"><head><meta charset=\"utf-8\"><title>"_s
         + Heading(figures).toHtmlEscaped() + u"</title><style>"_s + PageStyle() + u"</style></head><body>\n"_s
         + Html(figures, wish, format) + u"\n</body></html>\n"_s;
+}
+
+QString modReportHtml::Result(const cReportFigures& figures, const cAmountFormat& format)
+{
+    const qint64 difference = figures.Difference();
+    const QString label = difference > 0 ? cText::Tr("Überschuss")
+        : difference < 0                 ? cText::Tr("Verlust")
+                                         : cText::Tr("Überschuss/Verlust");
+    return label + u": "_s + format.Cents(std::abs(difference));
 }
 
 QString modReportHtml::Heading(const cReportFigures& figures)

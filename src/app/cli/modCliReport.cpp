@@ -132,7 +132,7 @@ public:
     {
         QString text = modReportHtml::Heading(m_figures) + u'\n';
         if (m_figures.Type != eReport::Limit) {
-            text += cText::Tr("Überschuss/Verlust") + u": "_s + m_book.AmountText(m_figures.Difference()) + u'\n';
+            text += modReportHtml::Result(m_figures, m_book.Format()) + u'\n';
             Add(m_figures.Income);
         }
         Add(m_figures.Expense);
