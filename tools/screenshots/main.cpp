@@ -18,6 +18,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "tools/screenshots/cCamera.h"
+#include "tools/screenshots/cDemoBook.h"
 #include "tools/screenshots/takeAssistant.h"
 #include "tools/screenshots/takeReview.h"
 #include "views/cAccountStatement.h"
@@ -66,12 +67,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-class cFixedClock final : public cClock
-{
-public:
-    [[nodiscard]] QDate Today() const override { return sceneDay; }
-};
 
 QPalette DarkPalette()
 {
@@ -182,23 +177,12 @@ bool TakeEmpty(cCamera& camera)
 // Categories and accounts of a book that has one of everything: limits, a hidden one, old paths.
 bool TakeCategories(cCamera& camera)
 {
-    QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtRegistry registry(folder.path());
-    cQtUser user;
-    cFixedClock clock;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})
-        || !book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
+    cDemoBook scene;
+    if (!scene.IsReady()
+        || !scene.Book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
         return false;
     }
-    book.Settings().Reload(); // the household was written past them
-    cConfiguration configuration(registry);
-    configuration.SetDatabase(&book.Settings());
-    cAmountFormat format(configuration);
-    cTemplateManager manager({book.Data(), book.Settings(), format, user, clock});
+    cTemplateManager manager({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User, scene.Clock});
     frmKategorie window(manager);
     window.show();
     (void)window.Select(u"Haushalt; Lebensmittel"_s);
@@ -257,18 +241,12 @@ void TakeForm(cCamera& camera, cEntryEditor& editor, const cEntryFields& fields,
 // Every face of the entry editor, and the small form for one occurrence.
 bool TakeEditor(cCamera& camera)
 {
-    QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtUser user;
-    cFixedClock clock;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
+    cDemoBook scene;
+    if (!scene.IsReady()) {
         return false;
     }
-    cEntryEditor editor(book.Data(), user, clock);
-    cSeriesChange change(book.Data(), user);
+    cEntryEditor editor(scene.Book.Data(), scene.User, scene.Clock);
+    cSeriesChange change(scene.Book.Data(), scene.User);
     const int series = AddCorrectedSeries(editor, change);
     const std::optional<cEntryFields> fields = editor.Load(series);
     const auto period = change.StartPeriod(series, QDate(2026, 8, 5));
@@ -328,21 +306,11 @@ void TakePages(cCamera& camera, cPrintable& printer, const QString& name)
 // The statement of a bank account: no row, no balance of the bank, one that agrees, one that differs; and on paper.
 bool TakeStatement(cCamera& camera)
 {
-    QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtRegistry registry(folder.path());
-    cQtUser user;
-    cFixedClock clock;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path)) {
+    cDemoBook scene(cDemoBook::eContent::Nothing);
+    if (!scene.IsReady()) {
         return false;
     }
-    cConfiguration configuration(registry);
-    configuration.SetDatabase(&book.Settings());
-    cAmountFormat format(configuration);
-    const cAccountStatement::cParts parts{book.Data(), book.Settings(), format, clock};
+    const cAccountStatement::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.Clock};
     const auto take = [&](const QString& name) {
         cAccountStatement statement(parts);
         frmKontoauszug window(statement);
@@ -350,15 +318,15 @@ bool TakeStatement(cCamera& camera)
         camera.Take(window, name);
     };
     take(u"kontoauszug-leer"_s);
-    if (!modDemo::Write(book.Data(), {.Today = sceneDay})) {
+    if (!modDemo::Write(scene.Book.Data(), {.Today = sceneDay})) {
         return false;
     }
-    book.Settings().Reload(); // the household was written past them
+    scene.Book.Settings().Reload(); // the household was written past them
     take(u"kontoauszug-ohne-saldo"_s);
-    const cImportEntry newest = book.Data().GetImportEntries().last();
+    const cImportEntry newest = scene.Book.Data().GetImportEntries().last();
     const QString name = u"SALDO:"_s + newest.ImportAccount;
     const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
-    book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
+    scene.Book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
     take(u"kontoauszug"_s);
     cAccountStatement statement(parts);
     cListPrinter printer(statement);
@@ -369,21 +337,11 @@ bool TakeStatement(cCamera& camera)
 // The user's own rules: none yet, a list of them, and a new one made from a transaction.
 bool TakeRules(cCamera& camera)
 {
-    QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtRegistry registry(folder.path());
-    cQtUser user;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
+    cDemoBook scene;
+    if (!scene.IsReady()) {
         return false;
     }
-    book.Settings().Reload(); // the household was written past them
-    cConfiguration configuration(registry);
-    configuration.SetDatabase(&book.Settings());
-    cAmountFormat format(configuration);
-    const cRuleList::cParts parts{book.Data(), book.Settings(), format, user};
+    const cRuleList::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User};
     const auto take = [&](const QString& name, const cImportEntry* row) {
         cRuleList rules(parts);
         if (row != nullptr) {
@@ -394,13 +352,13 @@ bool TakeRules(cCamera& camera)
         camera.Take(window, name);
     };
     take(u"regeln-leer"_s, nullptr);
-    book.Settings().Set(u"OwnRules"_s,
-                        u"1;sign=out;text=bäcker|konditorei;category=Haushalt%3b Lebensmittel\n"
-                        "1;counterparty=Hausverwaltung Lindenhof;account=Girokonto;category=Wohnung%3b Miete;"
-                        "interval=Monatlich;description=Miete Lindenhof\n"
-                        "1;off;text=amazon;category=Haushalt%3b Anschaffungen\n2;weekday=7;category=Haushalt"_s);
+    scene.Book.Settings().Set(u"OwnRules"_s,
+                              u"1;sign=out;text=bäcker|konditorei;category=Haushalt%3b Lebensmittel\n"
+                              "1;counterparty=Hausverwaltung Lindenhof;account=Girokonto;category=Wohnung%3b Miete;"
+                              "interval=Monatlich;description=Miete Lindenhof\n"
+                              "1;off;text=amazon;category=Haushalt%3b Anschaffungen\n2;weekday=7;category=Haushalt"_s);
     take(u"regeln"_s, nullptr);
-    const cImportEntryList rows = book.Data().GetImportEntries();
+    const cImportEntryList rows = scene.Book.Data().GetImportEntries();
     take(u"regeln-aus-umsatz"_s, rows.isEmpty() ? nullptr : &rows.constLast());
     return !rows.isEmpty();
 }
@@ -464,23 +422,14 @@ bool TakeStatistics(cCamera& camera)
 // table, and nothing to show.
 bool TakeCharts(cCamera& camera)
 {
-    QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtRegistry registry(folder.path());
-    cQtUser user;
-    const cFixedClock clock;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
+    cDemoBook scene;
+    if (!scene.IsReady()) {
         return false;
     }
-    cTemplateItem account = book.Data().FindAccount(u"Girokonto"_s).value_or(cTemplateItem{});
+    cTemplateItem account = scene.Book.Data().FindAccount(u"Girokonto"_s).value_or(cTemplateItem{});
     account.TemplateDefaultValue = u"28800.00"_s;
-    const cConfiguration configuration(registry);
-    const cAmountFormat format(configuration);
-    cChartMaker maker(book.Data(), format, sceneDay);
-    if (!book.Data().ChangeTemplate(account)) {
+    cChartMaker maker(scene.Book.Data(), scene.Format, sceneDay);
+    if (!scene.Book.Data().ChangeTemplate(account)) {
         return false;
     }
     const auto take = [&](const cChartWish& wish, const QString& name) {
@@ -511,9 +460,9 @@ bool TakeCharts(cCamera& camera)
     take(
         {.Kind = eChartKind::ExpensePie, .Range = {sceneDay.addYears(30), sceneDay.addYears(31)}, .ShowsFuture = false},
         u"leer"_s);
-    cAccountListModel accounts(format);
-    cLimitWatch watch(book.Data(), format, clock, accounts);
-    accounts.SetAccounts(book.Data().GetAccounts(), {{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
+    cAccountListModel accounts(scene.Format);
+    cLimitWatch watch(scene.Book.Data(), scene.Format, scene.Clock, accounts);
+    accounts.SetAccounts(scene.Book.Data().GetAccounts(), {{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
     watch.Look();
     cAccountPanel panel(accounts);
     panel.SetTitle(u"Kontostände"_s);

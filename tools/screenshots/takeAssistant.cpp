@@ -8,6 +8,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "tools/screenshots/cCamera.h"
+#include "tools/screenshots/cDemoBook.h"
 #include "views/cImportAssistant.h"
 #include "views/cImportReview.h"
 #include "views/cStatementFiles.h"
@@ -20,14 +21,8 @@ using namespace Qt::Literals::StringLiterals;
 
 bool TakeAssistant(cCamera& camera)
 {
-    const QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtRegistry registry(folder.path());
-    cQtUser user;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    QFile file(folder.filePath(u"umsaetze.csv"_s));
+    cDemoBook scene(cDemoBook::eContent::Nothing);
+    QFile file(scene.Folder.filePath(u"umsaetze.csv"_s));
     const QByteArray table = "Umsätze;Konto Familie Sandmeier\n"
                              "Tag;Partner;Was;Preis;Wert;Zustand\n"
                              "02.11.2026;Bäckerei Krume;Brot und Brezeln;1;-7,80;gebucht\n"
@@ -35,14 +30,11 @@ bool TakeAssistant(cCamera& camera)
                              "05.11.2026;Werkzeugbau Ammersbek GmbH;Lohn;1;2.410,55;gebucht\n"
                              "06.11.2026;Kino am Ring;;2;-19,00;gebucht\n"
                              "19.11.2026;Tankstelle;Kartenzahlung;1;-61,37;vorgemerkt\n";
-    if (!book.Open(path) || !file.open(QIODevice::WriteOnly) || file.write(table) != table.size()) {
+    if (!scene.IsReady() || !file.open(QIODevice::WriteOnly) || file.write(table) != table.size()) {
         return false;
     }
     file.close();
-    cConfiguration configuration(registry);
-    configuration.SetDatabase(&book.Settings());
-    const cAmountFormat format(configuration);
-    cImportReview review({book.Data(), book.Settings(), format, user});
+    cImportReview review({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User});
     const auto assistant = review.Files().StartAssistant(file.fileName());
     if (!assistant) {
         return false;

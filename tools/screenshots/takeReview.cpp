@@ -10,6 +10,7 @@
 #include "core/modDemo.h"
 #include "store/cDataAccess.h"
 #include "tools/screenshots/cCamera.h"
+#include "tools/screenshots/cDemoBook.h"
 #include "views/cImportReview.h"
 #include "windows/cStagedTree.h"
 #include "windows/frmImport.h"
@@ -25,30 +26,20 @@ using namespace Qt::Literals::StringLiterals;
 
 bool TakeReview(cCamera& camera)
 {
-    QTemporaryDir folder;
-    cQtShell shell(folder.path());
-    cQtRegistry registry(folder.path());
-    cQtUser user;
-    cBook book(user);
-    const QString path = folder.filePath(u"Haushalt.db"_s);
-    QFile::copy(shell.InstalledFile(u"template.dat"_s), path);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), {.Today = sceneDay})) {
+    cDemoBook scene;
+    if (!scene.IsReady()) {
         return false;
     }
-    book.Settings().Reload(); // the household was written past them
-    const cImportEntryList rows = book.Data().GetImportEntries();
+    const cImportEntryList rows = scene.Book.Data().GetImportEntries();
     const auto open =
         std::find_if(rows.begin(), rows.end(), [](const cImportEntry& row) { return !row.ImportAssigned; });
     cImportEntry twin = open == rows.end() ? cImportEntry() : *open;
     twin.ImportPurpose = u"KARTENZAHLUNG OHNE BELEG"_s;
-    if (!book.Data().AddNewImportEntry(twin)) {
+    if (!scene.Book.Data().AddNewImportEntry(twin)) {
         return false;
     }
-    book.Settings().Set(u"ImportRuns"_s, u"%1-%2"_s.arg(twin.ID - 20).arg(twin.ID));
-    cConfiguration configuration(registry);
-    configuration.SetDatabase(&book.Settings());
-    cAmountFormat format(configuration);
-    cImportReview review({book.Data(), book.Settings(), format, user});
+    scene.Book.Settings().Set(u"ImportRuns"_s, u"%1-%2"_s.arg(twin.ID - 20).arg(twin.ID));
+    cImportReview review({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User});
     frmImport page(review);
     page.resize(1280, 700);
     page.show();

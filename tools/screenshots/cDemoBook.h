@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/cQtRegistry.h"
+#include "app/cQtShell.h"
+#include "app/cQtUser.h"
+#include "base/cClock.h"
+#include "core/cAmountFormat.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+
+#include <QTemporaryDir>
+
+class cFixedClock final : public cClock
+{
+public:
+    [[nodiscard]] QDate Today() const override;
+};
+
+// A book of its own in a temporary folder, with everything that a window needs around it.
+class cDemoBook
+{
+public:
+    enum class eContent { Household, Nothing };
+
+    explicit cDemoBook(eContent content = eContent::Household);
+
+    [[nodiscard]] bool IsReady() const { return m_isReady; } // open and filled
+
+    QTemporaryDir Folder;
+    cQtShell Shell{Folder.path()};
+    cQtRegistry Registry{Folder.path()};
+    cQtUser User;
+    cFixedClock Clock;
+    cBook Book{User};
+    cConfiguration Configuration{Registry};
+    cAmountFormat Format{Configuration};
+
+private:
+    bool m_isReady = false;
+};
