@@ -18,6 +18,7 @@
 #include "views/modImportText.h"
 
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <vector>
@@ -61,12 +62,19 @@ void cStatementFiles::ChooseFiles(cProgress& progress, eAssist assist)
 
 void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist)
 {
-    const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"));
-    QList<cFile> files;
-    for (const QString& path : paths) {
-        files.append({path, {}});
+    m_waiting.append(paths);
+    if (m_isRunning) {
+        return; // dropped before the progress box stood in the way: the run under way takes them next
     }
-    Run(files, progress, assist);
+    const QScopedValueRollback running(m_isRunning, true);
+    while (!m_waiting.isEmpty()) {
+        const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"));
+        QList<cFile> files;
+        for (const QString& path : std::exchange(m_waiting, {})) {
+            files.append({path, {}});
+        }
+        Run(files, progress, assist);
+    }
 }
 
 bool cStatementFiles::CanReadAgain() const

@@ -115,6 +115,8 @@ private:
     cParts m_parts;
     std::unique_ptr<cWorks> m_works;
     fnAssist m_assist;
+    QStringList m_waiting; // files that came while others were read
+    bool m_isRunning = false;
     QList<cFile> m_last;
     QList<cLeftOut> m_leftOut;
 };

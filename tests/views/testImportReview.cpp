@@ -83,6 +83,24 @@ private Q_SLOTS:
         QCOMPARE(page.Review.Files().LeftOut().size(), 1);
     }
 
+    // Files can be dropped while others are read, before the progress box stands in the way.
+    void readsFilesThatComeMeanwhileAfterwards()
+    {
+        cPage page;
+        cStatementFiles& files = page.Review.Files();
+        bool isFirst = true;
+        connect(&files, &cStatementFiles::FileStaged, this, [&] {
+            if (std::exchange(isFirst, false)) {
+                files.ImportFiles({fixture}, page.Progress);
+                QCOMPARE(page.Review.Summary(), QStringList());
+            }
+        });
+        page.ImportFixture();
+        QCOMPARE(page.Data.GetImportEntries().size(), 5);
+        QCOMPARE(files.LeftOut().size(), 5);
+        QVERIFY(page.Review.Summary().constFirst().contains(u"0 neu"_s));
+    }
+
     void importsWithItsQuestions()
     {
         cPage page;
