@@ -38,6 +38,7 @@ protected:
 
 cTemplateTree::cTemplateTree(cTemplateTreeModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
 {
+    setContextMenuPolicy(Qt::ActionsContextMenu);
     setModel(&m_model);
     setItemDelegate(new cTemplateDelegate(this));
     setUniformRowHeights(true);

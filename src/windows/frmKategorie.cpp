@@ -78,8 +78,6 @@ void frmKategorie::BuildActions()
     m_up = MakeAction(u"hoch"_s, cText::Tr("Nach &oben"), Qt::ALT | Qt::Key_Up, [this] { Move(eDirection::Up); });
     m_down =
         MakeAction(u"runter"_s, cText::Tr("Nach &unten"), Qt::ALT | Qt::Key_Down, [this] { Move(eDirection::Down); });
-    m_categories->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_accounts->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 QBoxLayout* frmKategorie::BuildBar()
@@ -102,7 +100,6 @@ void frmKategorie::BuildLayout()
     splitter->addWidget(m_tabs);
     splitter->addWidget(m_panel);
     splitter->setStretchFactor(0, 1);
-    splitter->setStretchFactor(1, 0);
     splitter->setSizes({character * treeWidth, character * panelWidth});
     splitter->setChildrenCollapsible(false);
     auto* buttons = new QDialogButtonBox(this);
@@ -138,7 +135,6 @@ bool frmKategorie::Select(const QString& path)
     if (!Leave()) {
         return false;
     }
-    const QString main = path.section(u';', 0, 0).trimmed();
     m_tabs->setCurrentWidget(m_categories);
     if (m_categories->Select(path)) {
         return true;
@@ -147,7 +143,7 @@ bool frmKategorie::Select(const QString& path)
         m_tabs->setCurrentWidget(m_accounts);
         return true;
     }
-    return m_categories->Select(main);
+    return m_categories->Select(path.section(u';', 0, 0).trimmed()); // its main category
 }
 
 // The user goes elsewhere. What was typed is saved first, but only once the tree is done with the key or the click.
