@@ -2,8 +2,8 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "store/cDataAccess.h"
-#include "views/cChartMaker.h"
-#include "views/cForecast.h"
+#include "views/chart/cChartMaker.h"
+#include "views/chart/cForecast.h"
 #include "windows/chart/modChartPainter.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "bench/cBenchBook.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "views/cEntryEditor.h"
+#include "views/entry/cEntryEditor.h"
 
 #include <benchmark/benchmark.h>
 

@@ -3,7 +3,7 @@
 #include "core/cConfiguration.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "views/cEntryListModel.h"
+#include "views/list/cEntryListModel.h"
 
 #include <benchmark/benchmark.h>
 

@@ -5,7 +5,7 @@
 #include "model/modPeriod.h"
 #include "store/cDataAccess.h"
 #include "support/cFakeNavigator.h"
-#include "views/cMainModel.h"
+#include "views/main/cMainModel.h"
 
 #include <QCoreApplication>
 

@@ -4,9 +4,9 @@
 #include "core/cSettings.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "views/cReportSource.h"
-#include "views/modReport.h"
-#include "views/modReportHtml.h"
+#include "views/report/cReportSource.h"
+#include "views/report/modReport.h"
+#include "views/report/modReportHtml.h"
 
 #include <benchmark/benchmark.h>
 

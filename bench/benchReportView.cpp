@@ -3,10 +3,10 @@
 #include "core/cConfiguration.h"
 #include "model/modWord.h"
 #include "support/cFakeNavigator.h"
-#include "views/cMainModel.h"
-#include "views/cStatisticsModel.h"
-#include "windows/frmStatistik.h"
+#include "views/main/cMainModel.h"
+#include "views/statistics/cStatisticsModel.h"
 #include "windows/report/cReportView.h"
+#include "windows/statistics/frmStatistik.h"
 
 #include <QApplication>
 

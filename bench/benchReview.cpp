@@ -4,8 +4,8 @@
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/cImportReview.h"
-#include "windows/frmImport.h"
+#include "views/statement/cImportReview.h"
+#include "windows/statement/frmImport.h"
 
 #include <QCoreApplication>
 #include <QStringList>

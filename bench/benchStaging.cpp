@@ -1,11 +1,11 @@
 #include "base/cProgress.h"
 #include "bench/cBenchBook.h"
 #include "core/cSettings.h"
-#include "import/cAccountMap.h"
-#include "import/cBooking.h"
-#include "import/cImportHiveCache.h"
-#include "import/cStatementImport.h"
-#include "import/modMT940.h"
+#include "import/mt940/modMT940.h"
+#include "import/propose/cBooking.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
+#include "import/stage/cStatementImport.h"
 #include "store/cDataAccess.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,6 @@
 #include "bench/cBenchBook.h"
-#include "views/cEntryEditor.h"
-#include "windows/frmBuchung.h"
+#include "views/entry/cEntryEditor.h"
+#include "windows/entry/frmBuchung.h"
 
 #include <QApplication>
 

@@ -4,7 +4,7 @@
 //   readStatement --floor FILE   the floor
 //   readStatement --write FOLDER  writes 100,000 transactions in each format; bench/reading.sh does all of it
 
-#include "import/modStatementFormat.h"
+#include "import/stage/modStatementFormat.h"
 
 #include <QByteArrayList>
 #include <QDate>

@@ -1,6 +1,6 @@
 #include "modFuzz.h"
 
-#include "import/xml/modZip.h"
+#include "import/zip/modZip.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/modStatementFormat.h"
+#include "import/stage/modStatementFormat.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/cStartUp.h"
-#include "views/cBookHost.h"
+#include "views/book/cBookHost.h"
 
 #include <QString>
 

@@ -6,9 +6,9 @@
 #include "base/cUser.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
-#include "views/cImportReview.h"
-#include "views/cMainModel.h"
-#include "windows/frmMain.h"
+#include "views/main/cMainModel.h"
+#include "views/statement/cImportReview.h"
+#include "windows/main/frmMain.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -5,38 +5,38 @@
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
-#include "views/cAccountStatement.h"
-#include "views/cBackupSettings.h"
-#include "views/cEntryExport.h"
-#include "views/cEntryExtract.h"
-#include "views/cImportReview.h"
-#include "views/cMainModel.h"
-#include "views/cNationalSettings.h"
-#include "views/cPasswordFlow.h"
-#include "views/cRuleList.h"
-#include "views/cSearchModel.h"
-#include "views/cSeriesChange.h"
-#include "views/cStatementFiles.h"
-#include "views/cStatisticsModel.h"
-#include "views/cTemplateManager.h"
-#include "views/modCommand.h"
-#include "views/modViewText.h"
-#include "windows/cChartPrinter.h"
-#include "windows/cListPrinter.h"
-#include "windows/cProgressBox.h"
-#include "windows/frmBuchung.h"
-#include "windows/frmImport.h"
-#include "windows/frmKategorie.h"
-#include "windows/frmKontoauszug.h"
-#include "windows/frmKorrektur.h"
-#include "windows/frmLaender.h"
-#include "windows/frmMain.h"
-#include "windows/frmPasswort.h"
-#include "windows/frmRegeln.h"
-#include "windows/frmSicherungen.h"
-#include "windows/frmStatistik.h"
-#include "windows/frmSuche.h"
+#include "views/book/cBackupSettings.h"
+#include "views/book/cNationalSettings.h"
+#include "views/book/cPasswordFlow.h"
+#include "views/entry/cSeriesChange.h"
+#include "views/export/cEntryExport.h"
+#include "views/export/cEntryExtract.h"
+#include "views/list/cSearchModel.h"
+#include "views/main/cMainModel.h"
+#include "views/main/modCommand.h"
+#include "views/main/modViewText.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cRuleListModel.h"
+#include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementListModel.h"
+#include "views/statistics/cStatisticsModel.h"
+#include "views/template/cTemplateManager.h"
+#include "windows/book/frmLaender.h"
+#include "windows/book/frmPasswort.h"
+#include "windows/book/frmSicherungen.h"
+#include "windows/chart/cChartPrinter.h"
+#include "windows/entry/frmBuchung.h"
+#include "windows/entry/frmKorrektur.h"
+#include "windows/main/frmMain.h"
+#include "windows/main/frmSuche.h"
+#include "windows/print/cListPrinter.h"
 #include "windows/report/cReportPrinter.h"
+#include "windows/statement/frmImport.h"
+#include "windows/statement/frmKontoauszug.h"
+#include "windows/statement/frmRegeln.h"
+#include "windows/statistics/frmStatistik.h"
+#include "windows/template/frmKategorie.h"
+#include "windows/widget/cProgressBox.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -233,7 +233,7 @@ void cNavigation::OpenImport()
 
 void cNavigation::OpenAccountStatement()
 {
-    cAccountStatement statement({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.Clock});
+    cStatementListModel statement({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.Clock});
     frmKontoauszug form(statement, Parent());
     QObject::connect(&form, &frmKontoauszug::EntryRequested, m_model, [&](int entryId, QDate day) {
         OpenEntry(entryId, day);
@@ -277,8 +277,8 @@ void cNavigation::OpenNationalSettings()
 
 void cNavigation::OpenRules()
 {
-    cRuleList rules({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User});
-    QObject::connect(&rules, &cRuleList::RulesChanged, m_review, &cImportReview::Refresh);
+    cRuleListModel rules({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User});
+    QObject::connect(&rules, &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
     frmRegeln form(rules, Parent());
     form.exec();
 }
@@ -292,7 +292,7 @@ void cNavigation::Export()
     cEntryExport(m_parts.User, m_parts.Format, progress).Run(extract, m_parts.Clock.Today());
 }
 
-void cNavigation::Export(const cAccountStatement& statement)
+void cNavigation::Export(const cStatementListModel& statement)
 {
     cProgressBox progress(Parent(), cText::Tr("Der Kontoauszug wird geschrieben …"));
     cEntryExport(m_parts.User, m_parts.Format, progress).Run(statement.Extract(), m_parts.Clock.Today());

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "app/cQtPrinter.h"
-#include "views/cBookFlow.h"
-#include "views/cEntryEditor.h"
-#include "views/cNavigator.h"
-#include "windows/frmMain.h"
+#include "views/book/cBookFlow.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/main/cNavigator.h"
+#include "windows/main/frmMain.h"
 
 #include <QString>
 
 #include <memory>
 
-class cAccountStatement;
+class cStatementListModel;
 class cAmountFormat;
 class cBook;
 class cBookHost;
@@ -76,7 +76,7 @@ private:
     void OpenNationalSettings();
     void OpenRules();
     void Export();
-    void Export(const cAccountStatement& statement);
+    void Export(const cStatementListModel& statement);
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void BookChanged();

@@ -1,7 +1,7 @@
 #include "app/cQtPaint.h"
 
-#include "views/cChartData.h"
-#include "views/modFileWrite.h"
+#include "views/chart/cChartData.h"
+#include "views/list/modFileWrite.h"
 #include "windows/chart/modChartPainter.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/modReportPdf.h"

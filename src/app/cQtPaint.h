@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/cli/cCliPaint.h"
+#include "cli/cCliPaint.h"
 
 // Paints with the toolkit. Needs a QApplication.
 class cQtPaint final : public cCliPaint

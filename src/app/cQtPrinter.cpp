@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "windows/cPrintable.h"
+#include "windows/print/cPrintable.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -2,7 +2,7 @@
 
 #include "app/modQtFilter.h"
 #include "base/cText.h"
-#include "windows/frmPasswort.h"
+#include "windows/book/frmPasswort.h"
 
 #include <QApplication>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/cRescue.h"
-#include "views/cPasswordTries.h"
+#include "views/book/cPasswordTries.h"
 
 // File dialogs and the password prompt, shown before the main window works and when another book is opened.
 class cQtRescue final : public cRescue

@@ -6,7 +6,7 @@
 #include "app/cSystemClock.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
-#include "windows/cStyle.h"
+#include "windows/widget/cStyle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

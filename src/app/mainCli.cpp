@@ -1,6 +1,6 @@
-#include "app/cli/modCliMain.h"
 #include "app/cQtPaint.h"
 #include "app/modLocale.h"
+#include "cli/modCliMain.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 #include "app/cQtPrinter.h"
 #include "app/modQtFilter.h"
-#include "windows/cPrintable.h"
+#include "windows/print/cPrintable.h"
 
 #include <QFile>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/cAccountMap.h"
-#include "import/cImportHiveCache.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
 #include "support/testBook.h"
 
 #include <string>

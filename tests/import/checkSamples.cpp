@@ -3,8 +3,8 @@
 
 #include "base/modAmount.h"
 #include "base/modDate.h"
-#include "import/cImportHive.h"
-#include "import/modStatementFormat.h"
+#include "import/stage/cImportHive.h"
+#include "import/stage/modStatementFormat.h"
 
 #include <QDir>
 #include <QFile>

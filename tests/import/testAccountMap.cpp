@@ -1,5 +1,5 @@
 #include "cImportBook.h"
-#include "import/modAccountNumber.h"
+#include "import/read/modAccountNumber.h"
 
 #include <QTest>
 

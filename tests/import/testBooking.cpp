@@ -1,7 +1,7 @@
 #include "cImportBook.h"
-#include "import/cBooking.h"
-#include "import/cProposer.h"
-#include "import/cStatementImport.h"
+#include "import/propose/cBooking.h"
+#include "import/propose/cProposer.h"
+#include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 

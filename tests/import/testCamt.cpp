@@ -1,10 +1,10 @@
-#include "import/modMT940.h"
-#include "import/modStatementArchive.h"
-#include "import/modStatementFormat.h"
+#include "import/mt940/modMT940.h"
+#include "import/stage/modStatementArchive.h"
+#include "import/stage/modStatementFormat.h"
 #include "import/xml/modCamt.h"
 #include "import/xml/modCamtText.h"
 #include "import/xml/modXmlPieces.h"
-#include "import/xml/modZip.h"
+#include "import/zip/modZip.h"
 
 #include <QFile>
 #include <QTest>

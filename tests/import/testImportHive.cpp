@@ -1,4 +1,4 @@
-#include "import/cImportHive.h"
+#include "import/stage/cImportHive.h"
 
 #include <QRandomGenerator>
 #include <QTest>

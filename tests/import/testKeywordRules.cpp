@@ -1,6 +1,6 @@
-#include "import/cWildcard.h"
-#include "import/modKeywordRules.h"
-#include "import/modKeywordTable.h"
+#include "import/propose/cWildcard.h"
+#include "import/propose/modKeywordRules.h"
+#include "import/propose/modKeywordTable.h"
 #include "model/cImportEntry.h"
 #include "model/modWord.h"
 

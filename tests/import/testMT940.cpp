@@ -1,6 +1,6 @@
-#include "import/modMT940.h"
-#include "import/modSepaPurpose.h"
-#include "import/modStatementText.h"
+#include "import/mt940/modMT940.h"
+#include "import/read/modSepaPurpose.h"
+#include "import/read/modStatementText.h"
 
 #include <QFile>
 #include <QTest>

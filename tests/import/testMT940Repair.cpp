@@ -1,4 +1,4 @@
-#include "import/modMT940Repair.h"
+#include "import/mt940/modMT940Repair.h"
 
 #include <QFile>
 #include <QTest>

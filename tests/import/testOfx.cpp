@@ -1,4 +1,4 @@
-#include "import/modStatementFormat.h"
+#include "import/stage/modStatementFormat.h"
 #include "import/xml/modOfx.h"
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"

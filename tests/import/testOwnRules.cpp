@@ -1,9 +1,9 @@
 #include "cImportBook.h"
-#include "import/cBooking.h"
-#include "import/cOwnRules.h"
-#include "import/cRuleMatcher.h"
-#include "import/cStaging.h"
-#include "import/modOwnRule.h"
+#include "import/propose/cBooking.h"
+#include "import/propose/cOwnRules.h"
+#include "import/propose/cRuleMatcher.h"
+#include "import/propose/modOwnRule.h"
+#include "import/stage/cStaging.h"
 #include "model/modWord.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "import/modQif.h"
+#include "import/qif/modQif.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "cXlsFile.h"
-#include "import/modStatementFormat.h"
-#include "import/table/modSheetValue.h"
-#include "import/table/modSpreadsheet.h"
+#include "import/sheet/modSheetValue.h"
+#include "import/sheet/modSpreadsheet.h"
+#include "import/stage/modStatementFormat.h"
 
 #include <QFile>
 #include <QTemporaryDir>

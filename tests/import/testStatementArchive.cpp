@@ -1,5 +1,5 @@
-#include "import/modStatementArchive.h"
-#include "import/modStatementFormat.h"
+#include "import/stage/modStatementArchive.h"
+#include "import/stage/modStatementFormat.h"
 
 #include <QFile>
 #include <QTemporaryDir>

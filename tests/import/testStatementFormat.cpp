@@ -1,4 +1,4 @@
-#include "import/modStatementFormat.h"
+#include "import/stage/modStatementFormat.h"
 
 #include <QTest>
 

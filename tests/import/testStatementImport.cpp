@@ -1,8 +1,8 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
-#include "import/cBankBalances.h"
-#include "import/cStatementImport.h"
-#include "import/modMT940.h"
+#include "import/mt940/modMT940.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/cStatementImport.h"
 #include "store/cUndoStep.h"
 
 #include <QTest>

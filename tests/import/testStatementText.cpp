@@ -1,4 +1,4 @@
-#include "import/modStatementText.h"
+#include "import/read/modStatementText.h"
 
 #include <QTest>
 

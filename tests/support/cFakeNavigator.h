@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/modDate.h"
-#include "views/cNavigator.h"
+#include "views/main/cNavigator.h"
 
 #include <QStringList>
 

@@ -4,8 +4,8 @@
 #include "store/modBookFile.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
-#include "views/cBookFlow.h"
-#include "views/cBookHost.h"
+#include "views/book/cBookFlow.h"
+#include "views/book/cBookHost.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 #include "support/testBook.h"
 #include "support/testFormat.h"
-#include "views/cChartMaker.h"
-#include "views/cChartSave.h"
-#include "views/modChart.h"
-#include "views/modChartTable.h"
+#include "views/chart/cChartMaker.h"
+#include "views/chart/cChartSave.h"
+#include "views/chart/modChart.h"
+#include "views/chart/modChartTable.h"
 
 #include <QTest>
 

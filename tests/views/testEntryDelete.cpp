@@ -1,6 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cEntryDelete.h"
+#include "views/entry/cEntryDelete.h"
 
 #include <QTest>
 

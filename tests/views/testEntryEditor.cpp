@@ -1,6 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cEntryEditor.h"
+#include "views/entry/cEntryEditor.h"
 
 #include <QTest>
 

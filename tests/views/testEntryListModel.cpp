@@ -2,7 +2,7 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "support/testFormat.h"
-#include "views/cEntryListModel.h"
+#include "views/list/cEntryListModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>

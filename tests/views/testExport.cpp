@@ -3,10 +3,10 @@
 #include "model/modWord.h"
 #include "support/fakes.h"
 #include "support/testFormat.h"
-#include "views/cEntryExport.h"
-#include "views/cEntryListModel.h"
-#include "views/cViewState.h"
-#include "views/modViewText.h"
+#include "views/export/cEntryExport.h"
+#include "views/list/cEntryListModel.h"
+#include "views/main/cViewState.h"
+#include "views/main/modViewText.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
-#include "views/cAccountListModel.h"
-#include "views/cForecast.h"
-#include "views/cLimitWatch.h"
+#include "views/chart/cForecast.h"
+#include "views/main/cAccountListModel.h"
+#include "views/main/cLimitWatch.h"
 
 #include <QTest>
 

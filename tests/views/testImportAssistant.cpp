@@ -1,9 +1,9 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cImportAssistant.h"
-#include "views/cImportReview.h"
-#include "views/cStatementFiles.h"
+#include "views/statement/cImportAssistant.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cStatementFiles.h"
 
 #include <QTest>
 

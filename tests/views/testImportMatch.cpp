@@ -1,8 +1,8 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cAssignList.h"
-#include "views/cImportReview.h"
+#include "views/statement/cAssignListModel.h"
+#include "views/statement/cImportReview.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -66,7 +66,7 @@ struct cPage : cTestBook
     cImportReview Review{{Data, *Settings, Format, User}};
 };
 
-QString Cell(const cAssignList& list, int row, int column)
+QString Cell(const cAssignListModel& list, int row, int column)
 {
     return list.index(row, column).data().toString();
 }
@@ -233,7 +233,7 @@ void testImportMatch::AssignsByHand() const
     QVERIFY(!page.Review.StartAssign({first})); // booked
     QVERIFY(!page.Review.StartAssign({first, second}));
 
-    const std::unique_ptr<cAssignList> list = page.Review.StartAssign({second});
+    const std::unique_ptr<cAssignListModel> list = page.Review.StartAssign({second});
     QCOMPARE(list->RowText(), u"03.03.2026  ·  -50,00"_s + space + u"€  ·  Schuhhaus"_s);
     QCOMPARE(list->rowCount(), 2);
     const QStringList taken{u"03.03.2026"_s, u"Schuhhaus"_s, u"Haushalt; Lebensmittel"_s, u"-50,00"_s + space + u'€',
@@ -241,7 +241,7 @@ void testImportMatch::AssignsByHand() const
     for (int column = 0; column < taken.size(); ++column) {
         QCOMPARE(Cell(*list, 0, column), taken.at(column));
     }
-    QVERIFY(Cell(*list, 0, cAssignList::Reason).startsWith(u"hat schon einen Umsatz; "));
+    QVERIFY(Cell(*list, 0, cAssignListModel::Reason).startsWith(u"hat schon einen Umsatz; "));
     QCOMPARE(list->Proposed(), 1); // the free one
     QVERIFY(list->Assign(list->Proposed()));
     QCOMPARE(page.Assigned(), QList<int>({shop, boots}));
@@ -254,9 +254,9 @@ void testImportMatch::AssignsParts() const
     cPage page;
     const int bill = page.Spend(10000, u"Werkstatt"_s);
     for (const int row : {page.Stage(-30, u"Rate 1"_s), page.Stage(-70, u"Rate 2"_s)}) {
-        const std::unique_ptr<cAssignList> list = page.Review.StartAssign({row});
+        const std::unique_ptr<cAssignListModel> list = page.Review.StartAssign({row});
         QCOMPARE(list->rowCount(), 0); // nobody would guess it
-        list->SetScope(cAssignList::eScope::All);
+        list->SetScope(cAssignListModel::eScope::All);
         QVERIFY(list->Assign(0));
     }
     QCOMPARE(page.Assigned(), QList<int>({bill, bill}));
@@ -266,7 +266,7 @@ void testImportMatch::AsksBeforeASeriesIsCorrected() const
 {
     cPage page;
     const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
-    const std::unique_ptr<cAssignList> list = page.Review.StartAssign({page.Stage(-660, u"Miete Tann"_s)});
+    const std::unique_ptr<cAssignListModel> list = page.Review.StartAssign({page.Stage(-660, u"Miete Tann"_s)});
     QVERIFY(!list->Assign(0)); // the user gives up
     QVERIFY(page.User.Asked.value(0).startsWith(u"Der Umsatz beträgt 660,00"_s + space + u"€, die Serie 650,00"_s));
     QCOMPARE(page.Assigned(), QList<int>{-1});
@@ -281,11 +281,11 @@ void testImportMatch::AsksBeforeASeriesIsCorrected() const
 void testImportMatch::SaysWhyThereIsNoEntry() const
 {
     cPage page;
-    const std::unique_ptr<cAssignList> none = page.Review.StartAssign({page.Stage(-1, u"X"_s)});
+    const std::unique_ptr<cAssignListModel> none = page.Review.StartAssign({page.Stage(-1, u"X"_s)});
     QCOMPARE(none->Proposed(), -1);
     QVERIFY(!none->Assign(none->Proposed()));
     QVERIFY(none->EmptyHint().startsWith(u"Gesucht wurde im Konto Girokonto"));
-    const std::unique_ptr<cAssignList> unknown = page.Review.StartAssign({page.Stage(-1, u"X"_s, u"4711"_s)});
+    const std::unique_ptr<cAssignListModel> unknown = page.Review.StartAssign({page.Stage(-1, u"X"_s, u"4711"_s)});
     QVERIFY(unknown->EmptyHint().startsWith(u"Die Kontonummer 4711 hat noch kein Konto"));
 }
 

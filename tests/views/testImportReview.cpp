@@ -1,8 +1,8 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cImportReview.h"
-#include "views/cStatementFiles.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cStatementFiles.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -351,7 +351,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        cStagedView& view = page.Review.View();
+        cStagedChoice& view = page.Review.View();
         view.SetGrouping(1);
         view.SetOldHidden(true);
         view.SetTitleShown(false);

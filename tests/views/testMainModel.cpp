@@ -1,8 +1,8 @@
 #include "core/cAmountFormat.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
-#include "views/cMainModel.h"
-#include "views/modCommand.h"
+#include "views/main/cMainModel.h"
+#include "views/main/modCommand.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,6 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cNationalSettings.h"
+#include "views/book/cNationalSettings.h"
 
 #include <QSignalSpy>
 #include <QTest>

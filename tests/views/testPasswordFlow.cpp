@@ -1,6 +1,6 @@
 #include "core/modPassword.h"
 #include "support/testBook.h"
-#include "views/cPasswordFlow.h"
+#include "views/book/cPasswordFlow.h"
 
 #include <QTest>
 

@@ -3,13 +3,13 @@
 #include "store/cDataAccess.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
-#include "views/cReportExport.h"
-#include "views/cReportSource.h"
-#include "views/cReportTreeModel.h"
-#include "views/modReport.h"
-#include "views/modReportExport.h"
-#include "views/modReportHtml.h"
-#include "views/modReportLink.h"
+#include "views/report/cReportExport.h"
+#include "views/report/cReportSource.h"
+#include "views/report/cReportTreeModel.h"
+#include "views/report/modReport.h"
+#include "views/report/modReportExport.h"
+#include "views/report/modReportHtml.h"
+#include "views/report/modReportLink.h"
 
 #include <QAbstractItemModelTester>
 #include <QFile>

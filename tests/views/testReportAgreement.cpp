@@ -3,11 +3,11 @@
 #include "model/modBalance.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
-#include "views/cChartMaker.h"
-#include "views/cEntryListModel.h"
-#include "views/cReportSource.h"
-#include "views/cReportTreeModel.h"
-#include "views/modReport.h"
+#include "views/chart/cChartMaker.h"
+#include "views/list/cEntryListModel.h"
+#include "views/report/cReportSource.h"
+#include "views/report/cReportTreeModel.h"
+#include "views/report/modReport.h"
 
 #include <QTest>
 

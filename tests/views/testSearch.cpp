@@ -1,6 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cSearchModel.h"
+#include "views/list/cSearchModel.h"
 
 #include <QSignalSpy>
 #include <QTest>

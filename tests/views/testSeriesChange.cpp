@@ -1,7 +1,7 @@
 #include "support/testBook.h"
-#include "views/cEntryEditor.h"
-#include "views/cSeriesChange.h"
-#include "views/modCorrections.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/cSeriesChange.h"
+#include "views/entry/modCorrections.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "model/modSplit.h"
 #include "support/testBook.h"
-#include "views/cEntryEditor.h"
-#include "views/modSplitParts.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/modSplitParts.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "support/fakes.h"
-#include "views/cStagedListModel.h"
+#include "views/statement/cStagedListModel.h"
 
 #include <QTest>
 

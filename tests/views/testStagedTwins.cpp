@@ -1,7 +1,7 @@
 #include "core/cSettings.h"
 #include "support/testBook.h"
-#include "views/cImportRuns.h"
-#include "views/modStagedTwins.h"
+#include "views/statement/cImportRuns.h"
+#include "views/statement/modStagedTwins.h"
 
 #include <QTest>
 

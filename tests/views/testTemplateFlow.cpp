@@ -1,6 +1,6 @@
 #include "support/testBook.h"
-#include "views/cListLayout.h"
-#include "views/cTemplateFlow.h"
+#include "views/list/cListLayout.h"
+#include "views/template/cTemplateFlow.h"
 
 #include <QTest>
 

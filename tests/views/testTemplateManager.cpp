@@ -1,6 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cTemplateManager.h"
+#include "views/template/cTemplateManager.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -4,39 +4,39 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
-#include "views/cAccountStatement.h"
-#include "views/cAssignList.h"
-#include "views/cBackupSettings.h"
-#include "views/cChartMaker.h"
-#include "views/cEntryEditor.h"
-#include "views/cImportAssistant.h"
-#include "views/cImportReview.h"
-#include "views/cMainModel.h"
-#include "views/cNationalSettings.h"
-#include "views/cPasswordFlow.h"
-#include "views/cRuleList.h"
-#include "views/cSearchModel.h"
-#include "views/cSeriesChange.h"
-#include "views/cStatementFiles.h"
-#include "views/cStatisticsModel.h"
-#include "views/cTemplateManager.h"
+#include "views/book/cBackupSettings.h"
+#include "views/book/cNationalSettings.h"
+#include "views/book/cPasswordFlow.h"
+#include "views/chart/cChartMaker.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/cSeriesChange.h"
+#include "views/list/cSearchModel.h"
+#include "views/main/cMainModel.h"
+#include "views/statement/cAssignListModel.h"
+#include "views/statement/cImportAssistant.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cRuleListModel.h"
+#include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementListModel.h"
+#include "views/statistics/cStatisticsModel.h"
+#include "views/template/cTemplateManager.h"
+#include "windows/book/frmLaender.h"
+#include "windows/book/frmPasswort.h"
+#include "windows/book/frmSicherungen.h"
 #include "windows/chart/cChartBox.h"
-#include "windows/frmBuchung.h"
-#include "windows/frmImport.h"
-#include "windows/frmImportAssistent.h"
-#include "windows/frmImportReview.h"
-#include "windows/frmKategorie.h"
-#include "windows/frmKontoauszug.h"
-#include "windows/frmKorrektur.h"
-#include "windows/frmLaender.h"
-#include "windows/frmMain.h"
-#include "windows/frmPasswort.h"
-#include "windows/frmRegeln.h"
-#include "windows/frmSicherungen.h"
-#include "windows/frmStatistik.h"
-#include "windows/frmSuche.h"
-#include "windows/frmUmsatzKategorie.h"
-#include "windows/frmZuordnung.h"
+#include "windows/entry/frmBuchung.h"
+#include "windows/entry/frmKorrektur.h"
+#include "windows/main/frmMain.h"
+#include "windows/main/frmSuche.h"
+#include "windows/statement/frmImport.h"
+#include "windows/statement/frmImportAssistent.h"
+#include "windows/statement/frmImportReview.h"
+#include "windows/statement/frmKontoauszug.h"
+#include "windows/statement/frmRegeln.h"
+#include "windows/statement/frmUmsatzKategorie.h"
+#include "windows/statement/frmZuordnung.h"
+#include "windows/statistics/frmStatistik.h"
+#include "windows/template/frmKategorie.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -107,11 +107,11 @@ struct cScene
     cPasswordFlow Password{Book.Data, Book.Configuration, Book.User};
     cBook File{Book.User};
     cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
-    std::unique_ptr<cAssignList> Candidates;
+    std::unique_ptr<cAssignListModel> Candidates;
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
-    std::unique_ptr<cAccountStatement> Statement;
-    cRuleList Rules{{Book.Data, *Book.Settings, Format, Book.User}};
+    std::unique_ptr<cStatementListModel> Statement;
+    cRuleListModel Rules{{Book.Data, *Book.Settings, Format, Book.User}};
     cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
 };
 
@@ -200,8 +200,8 @@ void testEveryWindow::CanBeReadAndOperated_data()
         {"account statement",
          [](cScene& scene) {
              scene.Book.Settings->Set(u"SALDO:1234567"_s, u"2026-03-01=10000;2026-03-31=5000"_s);
-             scene.Statement = std::make_unique<cAccountStatement>(
-                 cAccountStatement::cParts{scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.Clock});
+             scene.Statement = std::make_unique<cStatementListModel>(
+                 cStatementListModel::cParts{scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.Clock});
              return std::make_unique<frmKontoauszug>(*scene.Statement);
          }},
         {"one import",

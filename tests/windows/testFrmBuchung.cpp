@@ -1,10 +1,10 @@
 #include "support/testBook.h"
-#include "views/cEntryEditor.h"
-#include "views/cSeriesChange.h"
-#include "windows/cSplitTable.h"
-#include "windows/frmBuchung.h"
-#include "windows/frmKorrektur.h"
-#include "windows/modBadField.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/cSeriesChange.h"
+#include "windows/entry/cSplitTable.h"
+#include "windows/entry/frmBuchung.h"
+#include "windows/entry/frmKorrektur.h"
+#include "windows/widget/modBadField.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,10 +1,10 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cImportReview.h"
-#include "windows/cProgressBox.h"
-#include "windows/cStagedTree.h"
-#include "windows/frmImport.h"
+#include "views/statement/cImportReview.h"
+#include "windows/statement/cStagedTree.h"
+#include "windows/statement/frmImport.h"
+#include "windows/widget/cProgressBox.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cTemplateManager.h"
-#include "windows/cTemplateTree.h"
-#include "windows/frmKategorie.h"
+#include "views/template/cTemplateManager.h"
+#include "windows/template/cTemplateTree.h"
+#include "windows/template/frmKategorie.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
-#include "views/cNationalSettings.h"
-#include "windows/frmLaender.h"
+#include "views/book/cNationalSettings.h"
+#include "windows/book/frmLaender.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -1,11 +1,11 @@
 #include "core/cAmountFormat.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
-#include "views/cMainModel.h"
-#include "windows/cBackBar.h"
-#include "windows/cEntryTree.h"
-#include "windows/frmMain.h"
-#include "windows/modPlace.h"
+#include "views/main/cMainModel.h"
+#include "windows/main/cBackBar.h"
+#include "windows/main/cEntryTree.h"
+#include "windows/main/frmMain.h"
+#include "windows/widget/modPlace.h"
 
 #include <QAction>
 #include <QComboBox>

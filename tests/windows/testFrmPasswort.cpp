@@ -1,7 +1,7 @@
 #include "core/modPassword.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
-#include "windows/frmPasswort.h"
+#include "windows/book/frmPasswort.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -4,8 +4,8 @@
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "support/windowFaults.h"
-#include "views/cBackupSettings.h"
-#include "windows/frmSicherungen.h"
+#include "views/book/cBackupSettings.h"
+#include "windows/book/frmSicherungen.h"
 
 #include <QDir>
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
-#include "views/cSearchModel.h"
-#include "windows/cEntryTree.h"
-#include "windows/frmSuche.h"
+#include "views/list/cSearchModel.h"
+#include "windows/main/cEntryTree.h"
+#include "windows/main/frmSuche.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

@@ -1,12 +1,12 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "views/cAssignList.h"
-#include "views/cImportReview.h"
-#include "windows/cStagedActions.h"
-#include "windows/cStagedPanel.h"
-#include "windows/cStagedTree.h"
-#include "windows/frmImport.h"
-#include "windows/frmZuordnung.h"
+#include "views/statement/cAssignListModel.h"
+#include "views/statement/cImportReview.h"
+#include "windows/statement/cStagedActions.h"
+#include "windows/statement/cStagedPanel.h"
+#include "windows/statement/cStagedTree.h"
+#include "windows/statement/frmImport.h"
+#include "windows/statement/frmZuordnung.h"
 
 #include <QAction>
 #include <QApplication>
@@ -144,7 +144,7 @@ void testFrmZuordnung::DoubleClickAssigns() const
     frmZuordnung window(*list);
     window.show();
     auto& tree = *window.findChild<QTreeView*>();
-    const QPoint place = tree.visualRect(list->index(0, cAssignList::Description)).center();
+    const QPoint place = tree.visualRect(list->index(0, cAssignListModel::Description)).center();
     QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, place);
     QCOMPARE(window.result(), int{QDialog::Accepted});

@@ -1,7 +1,7 @@
 #include "model/modWord.h"
 #include "support/testFormat.h"
-#include "views/cEntryListModel.h"
-#include "windows/cListPrinter.h"
+#include "views/list/cEntryListModel.h"
+#include "windows/print/cListPrinter.h"
 
 #include <QBuffer>
 #include <QGuiApplication>

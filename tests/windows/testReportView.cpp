@@ -1,13 +1,13 @@
 #include "support/testFormat.h"
-#include "views/cReportTreeModel.h"
-#include "views/modReportHtml.h"
-#include "windows/cReportTree.h"
+#include "views/report/cReportTreeModel.h"
+#include "views/report/modReportHtml.h"
 #include "windows/report/cReportDocument.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
 #include "windows/report/modReportPdf.h"
 #include "windows/report/modReportTone.h"
+#include "windows/statistics/cReportTree.h"
 
 #include <QAccessible>
 #include <QApplication>

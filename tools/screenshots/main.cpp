@@ -21,33 +21,33 @@
 #include "tools/screenshots/cDemoBook.h"
 #include "tools/screenshots/takeAssistant.h"
 #include "tools/screenshots/takeReview.h"
-#include "views/cAccountStatement.h"
-#include "views/cAssignList.h"
-#include "views/cChartMaker.h"
-#include "views/cEntryEditor.h"
-#include "views/cImportReview.h"
-#include "views/cLimitWatch.h"
-#include "views/cMainModel.h"
-#include "views/cRuleList.h"
-#include "views/cSeriesChange.h"
-#include "views/cStatisticsModel.h"
-#include "views/cTemplateManager.h"
-#include "windows/cAccountPanel.h"
-#include "windows/cChartPrinter.h"
+#include "views/chart/cChartMaker.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/cSeriesChange.h"
+#include "views/main/cLimitWatch.h"
+#include "views/main/cMainModel.h"
+#include "views/statement/cAssignListModel.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cRuleListModel.h"
+#include "views/statement/cStatementListModel.h"
+#include "views/statistics/cStatisticsModel.h"
+#include "views/template/cTemplateManager.h"
+#include "windows/book/frmPasswort.h"
 #include "windows/chart/cChartBox.h"
-#include "windows/cListPrinter.h"
-#include "windows/frmBuchung.h"
-#include "windows/frmKategorie.h"
-#include "windows/frmKontoauszug.h"
-#include "windows/frmKorrektur.h"
-#include "windows/frmMain.h"
-#include "windows/frmPasswort.h"
-#include "windows/frmRegeln.h"
-#include "windows/frmStatistik.h"
-#include "windows/frmSuche.h"
-#include "windows/frmZuordnung.h"
+#include "windows/chart/cChartPrinter.h"
+#include "windows/entry/frmBuchung.h"
+#include "windows/entry/frmKorrektur.h"
+#include "windows/main/cAccountPanel.h"
+#include "windows/main/frmMain.h"
+#include "windows/main/frmSuche.h"
+#include "windows/print/cListPrinter.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
+#include "windows/statement/frmKontoauszug.h"
+#include "windows/statement/frmRegeln.h"
+#include "windows/statement/frmZuordnung.h"
+#include "windows/statistics/frmStatistik.h"
+#include "windows/template/frmKategorie.h"
 
 #include <QApplication>
 #include <QDir>
@@ -123,7 +123,7 @@ void TakeAssignment(cCamera& camera, cImportReview& review)
     bool hasFull = false;
     bool hasEmpty = false;
     for (const int id : ids) {
-        const std::unique_ptr<cAssignList> list = review.StartAssign({id});
+        const std::unique_ptr<cAssignListModel> list = review.StartAssign({id});
         bool& isTaken = list->rowCount() > 0 ? hasFull : hasEmpty;
         if (!isTaken) {
             isTaken = true;
@@ -310,9 +310,9 @@ bool TakeStatement(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    const cAccountStatement::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.Clock};
+    const cStatementListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.Clock};
     const auto take = [&](const QString& name) {
-        cAccountStatement statement(parts);
+        cStatementListModel statement(parts);
         frmKontoauszug window(statement);
         window.show();
         camera.Take(window, name);
@@ -328,7 +328,7 @@ bool TakeStatement(cCamera& camera)
     const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
     scene.Book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
     take(u"kontoauszug"_s);
-    cAccountStatement statement(parts);
+    cStatementListModel statement(parts);
     cListPrinter printer(statement);
     TakePages(camera, printer, u"druck-kontoauszug"_s);
     return true;
@@ -341,9 +341,9 @@ bool TakeRules(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    const cRuleList::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User};
+    const cRuleListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User};
     const auto take = [&](const QString& name, const cImportEntry* row) {
-        cRuleList rules(parts);
+        cRuleListModel rules(parts);
         if (row != nullptr) {
             rules.StartFrom(*row, u"Haushalt; Lebensmittel"_s);
         }

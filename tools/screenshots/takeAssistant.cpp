@@ -9,10 +9,10 @@
 #include "core/cSettings.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
-#include "views/cImportAssistant.h"
-#include "views/cImportReview.h"
-#include "views/cStatementFiles.h"
-#include "windows/frmImportAssistent.h"
+#include "views/statement/cImportAssistant.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cStatementFiles.h"
+#include "windows/statement/frmImportAssistent.h"
 
 #include <QFile>
 #include <QTemporaryDir>

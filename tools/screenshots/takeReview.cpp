@@ -11,11 +11,11 @@
 #include "store/cDataAccess.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
-#include "views/cImportReview.h"
-#include "windows/cStagedTree.h"
-#include "windows/frmImport.h"
-#include "windows/frmImportReview.h"
-#include "windows/frmUmsatzKategorie.h"
+#include "views/statement/cImportReview.h"
+#include "windows/statement/cStagedTree.h"
+#include "windows/statement/frmImport.h"
+#include "windows/statement/frmImportReview.h"
+#include "windows/statement/frmUmsatzKategorie.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/table/cColumnMap.h"
+#include "import/read/cColumnMap.h"
 
 #include <QStringList>
 

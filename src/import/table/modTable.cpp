@@ -1,8 +1,8 @@
 #include "import/table/modTable.h"
 
 #include "base/cText.h"
-#include "import/cReadOptions.h"
-#include "import/cStatementSource.h"
+#include "import/read/cReadOptions.h"
+#include "import/read/cStatementSource.h"
 #include "import/table/cTable.h"
 #include "import/table/cTableMemory.h"
 #include "import/table/modColumnWords.h"

@@ -1,7 +1,7 @@
 #include "import/table/modTableAbove.h"
 
 #include "base/modAmount.h"
-#include "import/modAccountNumber.h"
+#include "import/read/modAccountNumber.h"
 #include "import/table/cTable.h"
 #include "import/table/modCell.h"
 #include "import/table/modTableValue.h"

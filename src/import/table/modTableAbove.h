@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/cStatementRead.h"
+#include "import/read/cStatementRead.h"
 
 class cTable;
 

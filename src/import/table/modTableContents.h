@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/table/cTableLayout.h"
+#include "import/read/cTableLayout.h"
 
 class cTable;
 

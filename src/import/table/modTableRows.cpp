@@ -2,8 +2,8 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "import/modAccountNumber.h"
-#include "import/modSepaPurpose.h"
+#include "import/read/modAccountNumber.h"
+#include "import/read/modSepaPurpose.h"
 #include "import/table/cTable.h"
 #include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"

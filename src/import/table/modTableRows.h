@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/cStatementRead.h"
-#include "import/table/cTableLayout.h"
+#include "import/read/cStatementRead.h"
+#include "import/read/cTableLayout.h"
 
 class cTable;
 

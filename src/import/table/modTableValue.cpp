@@ -1,7 +1,7 @@
 #include "import/table/modTableValue.h"
 
 #include "base/modAmount.h"
-#include "import/modAccountNumber.h"
+#include "import/read/modAccountNumber.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/table/cTableChoice.h"
+#include "import/read/cTableChoice.h"
 
 #include <QDate>
 #include <QString>

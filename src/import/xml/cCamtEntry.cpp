@@ -2,8 +2,8 @@
 
 #include "base/modAmount.h"
 #include "base/modDate.h"
-#include "import/modAccountNumber.h"
-#include "import/modStatementText.h"
+#include "import/read/modAccountNumber.h"
+#include "import/read/modStatementText.h"
 #include "import/xml/modCamtText.h"
 #include "import/xml/modXmlNode.h"
 

@@ -1,6 +1,6 @@
 #include "import/xml/modCamt.h"
 
-#include "import/modStatementText.h"
+#include "import/read/modStatementText.h"
 #include "import/xml/modCamtDocument.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "import/cReadOptions.h"
-#include "import/cStatementRead.h"
-#include "import/cStatementSource.h"
+#include "import/read/cReadOptions.h"
+#include "import/read/cStatementRead.h"
+#include "import/read/cStatementSource.h"
 
 // Account reports, statements and advices of ISO 20022: camt.052, camt.053 and camt.054 in every version.
 namespace modCamt {

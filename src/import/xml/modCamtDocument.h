@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/cReadOptions.h"
-#include "import/cStatementRead.h"
+#include "import/read/cReadOptions.h"
+#include "import/read/cStatementRead.h"
 
 #include <QByteArray>
 #include <QString>

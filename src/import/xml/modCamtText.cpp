@@ -1,6 +1,6 @@
 #include "import/xml/modCamtText.h"
 
-#include "import/modSepaPurpose.h"
+#include "import/read/modSepaPurpose.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "import/modStatementText.h"
+#include "import/read/modStatementText.h"
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"
 #include "import/xml/modXmlNode.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "import/cReadOptions.h"
-#include "import/cStatementRead.h"
-#include "import/cStatementSource.h"
+#include "import/read/cReadOptions.h"
+#include "import/read/cStatementRead.h"
+#include "import/read/cStatementSource.h"
 
 #include <QByteArray>
 

@@ -1,11 +1,11 @@
 #include "windows/chart/cChartBox.h"
 
 #include "base/cText.h"
-#include "views/modChartTable.h"
+#include "views/chart/modChartTable.h"
 #include "windows/chart/cChartTable.h"
 #include "windows/chart/cChartView.h"
 #include "windows/chart/modChartPainter.h"
-#include "windows/modIcon.h"
+#include "windows/widget/modIcon.h"
 
 #include <QBoxLayout>
 #include <QClipboard>

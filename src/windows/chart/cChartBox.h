@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/cChartData.h"
+#include "views/chart/cChartData.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/cChartTableModel.h"
+#include "views/chart/cChartTableModel.h"
 
 #include <QTableView>
 

@@ -1,6 +1,6 @@
 #include "windows/chart/modChartColour.h"
 
-#include "windows/modTone.h"
+#include "windows/widget/modTone.h"
 
 #include <array>
 

@@ -5,7 +5,7 @@
 #include "windows/chart/modColumnPainter.h"
 #include "windows/chart/modLinePainter.h"
 #include "windows/chart/modPiePainter.h"
-#include "windows/modTone.h"
+#include "windows/widget/modTone.h"
 
 #include <QBuffer>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "windows/report/cReportPrinter.h"
 
 #include "base/cText.h"
-#include "windows/cPageText.h"
+#include "windows/print/cPageText.h"
 #include "windows/report/cPainterCanvas.h"
 
 #include <QPainter>

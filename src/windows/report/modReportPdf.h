@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/cPrintable.h"
+#include "windows/print/cPrintable.h"
 
 #include <QString>
 

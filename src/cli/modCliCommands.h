@@ -1,0 +1,78 @@
+#pragma once
+
+#include "cli/cCliCall.h"
+
+#include <limits>
+
+class cClock;
+class cCliBook;
+class cCliPaint;
+class cConsoleUser;
+class cShell;
+
+// What a command works with.
+struct cCliContext
+{
+    const cCliCall& Call;
+    cConsoleUser& User;
+    const cClock& Clock;
+    cShell& Shell;
+    cCliBook* Book; // the open database; null for a command that needs none
+    cCliPaint& Paint;
+};
+
+// The commands of the command line program. What one does stands beside its description.
+namespace modCliCommands {
+
+[[nodiscard]] cCliCommand ImportCommand();
+[[nodiscard]] cCliCommand DetectCommand();
+[[nodiscard]] cCliCommand StagedCommand();
+[[nodiscard]] cCliCommand StatementCommand();
+[[nodiscard]] cCliCommand ProposeCommand();
+[[nodiscard]] cCliCommand BookCommand();
+[[nodiscard]] cCliCommand MatchCommand();
+[[nodiscard]] cCliCommand AssignCommand();
+[[nodiscard]] cCliCommand ReleaseCommand();
+[[nodiscard]] cCliCommand RulesCommand();
+[[nodiscard]] cCliCommand RulesAddCommand();
+[[nodiscard]] cCliCommand RulesDeleteCommand();
+[[nodiscard]] cCliCommand RulesMoveCommand();
+[[nodiscard]] cCliCommand RulesSwitchCommand();
+[[nodiscard]] cCliCommand RulesTestCommand();
+[[nodiscard]] cCliCommand EntriesCommand();
+[[nodiscard]] cCliCommand ExportCommand();
+[[nodiscard]] cCliCommand ReportCommand();
+[[nodiscard]] cCliCommand ChartCommand();
+[[nodiscard]] cCliCommand ForecastCommand();
+[[nodiscard]] cCliCommand SearchCommand();
+[[nodiscard]] cCliCommand AddCommand();
+[[nodiscard]] cCliCommand ChangeCommand();
+[[nodiscard]] cCliCommand DeleteCommand();
+[[nodiscard]] cCliCommand CorrectCommand();
+[[nodiscard]] cCliCommand CategoriesCommand();
+[[nodiscard]] cCliCommand CategoriesAddCommand();
+[[nodiscard]] cCliCommand CategoriesRenameCommand();
+[[nodiscard]] cCliCommand CategoriesMergeCommand();
+[[nodiscard]] cCliCommand CategoriesDeleteCommand();
+[[nodiscard]] cCliCommand AccountsCommand();
+[[nodiscard]] cCliCommand AccountsAddCommand();
+[[nodiscard]] cCliCommand AccountsRenameCommand();
+[[nodiscard]] cCliCommand AccountsDeleteCommand();
+[[nodiscard]] cCliCommand AccountsStartCommand();
+[[nodiscard]] cCliCommand AccountsLimitCommand();
+[[nodiscard]] cCliCommand BalancesCommand();
+[[nodiscard]] cCliCommand CheckCommand();
+[[nodiscard]] cCliCommand DemoCommand();
+[[nodiscard]] cCliCommand BackupCommand();
+[[nodiscard]] cCliCommand RestoreCommand();
+[[nodiscard]] cCliCommand PasswordCommand();
+
+inline constexpr int Any = std::numeric_limits<int>::max(); // number of arguments
+
+// The option that several commands share.
+[[nodiscard]] cCliOption Json();
+
+// All of them, with their options and their help.
+[[nodiscard]] const QList<cCliCommand>& All();
+
+} // namespace modCliCommands

@@ -1,0 +1,146 @@
+#include "cli/modCliCorrect.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "cli/cCliBook.h"
+#include "cli/cCliReader.h"
+#include "cli/cCliTable.h"
+#include "cli/modCliFlow.h"
+#include "cli/modCliRecord.h"
+#include "views/entry/cSeriesChange.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using cKey = cEntryListModel::cKey;
+
+int Finish(const cCliContext& context, const cKey& occurrence, bool isDone)
+{
+    if (isDone) {
+        cSeriesChange change(context.Book->Data, context.User);
+        const auto period = change.StartPeriod(occurrence.ID, occurrence.Day);
+        const auto correction = change.Correction(occurrence.ID, occurrence.Day);
+        const auto series = context.Book->Data.LoadEntry(occurrence.ID);
+        const QString plain = series ? context.Book->AmountText(series->EntryValue) : QString();
+        const QString amount =
+            correction ? cText::Tr("{0} statt {1}", {context.Book->AmountText(correction->EntryValue), plain}) : plain;
+        modConsole::Out((period ? period->Title + u": "_s + amount : amount) + u'\n');
+    }
+    return isDone ? modExit::Done : modCliFlow::Finish(context, false);
+}
+
+int List(const cCliContext& context, int id)
+{
+    cEntryItemFixModList fixMods = context.Book->Data.GetEntryMods(id);
+    std::sort(fixMods.begin(), fixMods.end(),
+              [](const auto& a, const auto& b) { return a.EntryStartDate < b.EntryStartDate; });
+    if (context.Call.Has(u"json"_s)) {
+        QStringList objects;
+        for (const cEntryItemFixMod& fixMod : std::as_const(fixMods)) {
+            objects.append(modCliRecord::FixMod(fixMod).ToString());
+        }
+        modConsole::Out(modJson::Array(objects) + u'\n');
+        return modExit::Done;
+    }
+    cCliTable table(
+        {{cText::Tr("Von")}, {cText::Tr("Bis")}, {cText::Tr("Betrag"), eAlign::Right}, {cText::Tr("Kommentar")}});
+    for (const cEntryItemFixMod& fixMod : std::as_const(fixMods)) {
+        table.Add({modDate::ToGerman(fixMod.EntryStartDate), modDate::ToGerman(fixMod.EntryEndDate),
+                   context.Book->AmountText(fixMod.EntryValue), fixMod.EntryComment});
+    }
+    modConsole::Out(table.ToString());
+    return modExit::Done;
+}
+
+int Remove(const cCliContext& context, const cKey& occurrence)
+{
+    cSeriesChange change(context.Book->Data, context.User);
+    if (!change.Correction(occurrence.ID, occurrence.Day)) {
+        modConsole::Error(
+            cText::Tr("Das Vorkommen vom {0} ist nicht korrigiert.", {modDate::ToGerman(occurrence.Day)}));
+        return modExit::Failed;
+    }
+    return Finish(context, occurrence, change.RemoveCorrection(occurrence.ID, occurrence.Day));
+}
+
+int Skip(const cCliContext& context, const cKey& occurrence)
+{
+    cSeriesChange change(context.Book->Data, context.User);
+    const bool isDone = context.Call.Has(u"comment"_s)
+        ? change.CorrectPeriod(occurrence.ID, occurrence.Day, 0, context.Call.Value(u"comment"_s))
+        : change.SkipPeriod(occurrence.ID, occurrence.Day);
+    return Finish(context, occurrence, isDone);
+}
+
+// How many ways to correct the call names; one is right.
+qsizetype CountWays(const cCliCall& call)
+{
+    return qMax<qsizetype>(0, call.Arguments().size() - 2) + (call.Has(u"skip"_s) ? 1 : 0)
+        + (call.Has(u"remove"_s) ? 1 : 0);
+}
+
+void CheckUse(const cCliCall& call, cCliReader& reader)
+{
+    const qsizetype count = call.Arguments().size();
+    if (call.Has(u"list"_s) ? count != 1 || CountWays(call) > 0 : count < 2 || CountWays(call) != 1) {
+        reader.Misused(cText::Tr("Bitte nennen Sie nach der Nummer den Tag und dann den neuen Betrag, --skip oder "
+                                 "--remove; oder nur --list."));
+    }
+}
+
+int Run(const cCliContext& context)
+{
+    const cCliCall& call = context.Call;
+    cCliReader reader(context);
+    CheckUse(call, reader);
+    const bool isList = call.Has(u"list"_s);
+    const int id = reader.Id(call.Arguments().constFirst());
+    const QDate day = isList ? QDate() : reader.Occurrence(id, call.Arguments().value(1));
+    const qint64 cents = reader.Cents(call.Arguments().value(2));
+    if (!reader.IsGood()) {
+        return reader.Report();
+    }
+    if (isList) {
+        return List(context, id);
+    }
+    if (call.Has(u"remove"_s)) {
+        return Remove(context, {id, day});
+    }
+    return call.Has(u"skip"_s)
+        ? Skip(context, {id, day})
+        : modCliCorrect::Correct(context, {id, day}, cents,
+                                 call.Has(u"comment"_s) ? std::optional(call.Value(u"comment"_s)) : std::nullopt);
+}
+
+} // namespace
+
+int modCliCorrect::Correct(const cCliContext& context, const cEntryListModel::cKey& occurrence, qint64 cents,
+                           const std::optional<QString>& comment)
+{
+    cSeriesChange change(context.Book->Data, context.User);
+    const std::optional<cEntryItemFixMod> before = change.Correction(occurrence.ID, occurrence.Day);
+    // The comment of an occurrence that was left out says nothing about its new amount.
+    const QString kept = before && before->EntryValue != 0 ? before->EntryComment : QString();
+    return Finish(context, occurrence,
+                  change.CorrectPeriod(occurrence.ID, occurrence.Day, cents, comment.value_or(kept)));
+}
+
+cCliCommand modCliCommands::CorrectCommand()
+{
+    return {.Name = u"correct"_s,
+            .Arguments = u"ID (DATUM (BETRAG | --skip | --remove) | --list)"_s,
+            .Help = cText::Tr("gibt einem Vorkommen einer Serie einen anderen Betrag, oder zeigt alle Korrekturen"),
+            .MinArguments = 1,
+            .MaxArguments = 3,
+            .Access = eCliAccess::Write,
+            .ReadsWith = u"list"_s,
+            .Options = {{u"skip"_s, {}, cText::Tr("das Vorkommen auslassen (Betrag 0)")},
+                        {u"remove"_s, {}, cText::Tr("die Korrektur entfernen")},
+                        {u"comment"_s, u"TEXT"_s, cText::Tr("Kommentar zur Korrektur"), true},
+                        {u"list"_s, {}, cText::Tr("die Korrekturen zeigen")},
+                        Json()},
+            .Run = Run};
+}

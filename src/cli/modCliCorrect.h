@@ -1,0 +1,16 @@
+#pragma once
+
+#include "cli/modCliCommands.h"
+#include "views/list/cEntryListModel.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace modCliCorrect {
+
+// Gives one occurrence of a series another amount and says so; without `comment` an earlier one stays. The exit code.
+[[nodiscard]] int Correct(const cCliContext& context, const cEntryListModel::cKey& occurrence, qint64 cents,
+                          const std::optional<QString>& comment);
+
+} // namespace modCliCorrect

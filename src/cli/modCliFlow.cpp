@@ -1,0 +1,45 @@
+#include "cli/modCliFlow.h"
+
+#include "base/cText.h"
+#include "cli/cCliBook.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+cCliOption modCliFlow::Yes()
+{
+    return {u"yes"_s, {}, cText::Tr("Rückfragen mit Ja beantworten")};
+}
+
+cConsoleUser::cAnswers modCliFlow::Answers(const cCliContext& context, const QString& hint)
+{
+    cConsoleUser::cAnswers answers;
+    answers.Hint = cText::Tr("Es wurde nichts geändert. {0}", {hint});
+    if (context.Call.Has(u"yes"_s)) {
+        answers.Answer = eAnswer::Yes;
+    }
+    return answers;
+}
+
+cConsoleUser::cAnswers modCliFlow::RemovalAnswers(const cCliContext& context, const QString& target)
+{
+    enum eWay { MoveAndDelete, OnlyDelete }; // in the order in which they are offered
+    cConsoleUser::cAnswers answers =
+        Answers(context, cText::Tr("Mit --yes wird gelöscht; --move-to verschiebt vorher die Buchungen."));
+    if (answers.Answer) {
+        answers.Decision = target.isEmpty() ? OnlyDelete : MoveAndDelete;
+        answers.Choice = target;
+    }
+    return answers;
+}
+
+int modCliFlow::Finish(const cCliContext& context, bool isDone)
+{
+    if (isDone) {
+        modConsole::Out(context.Book->Data.UndoName() + u'\n'); // the step's name says what was done
+        return modExit::Done;
+    }
+    if (!context.User.HasSpoken()) {
+        modConsole::Error(cText::Tr("Es wurde nichts geändert."));
+    }
+    return modExit::Failed;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/cConsoleUser.h"
+#include "cli/modCliCommands.h"
+
+#include <QString>
+
+// What commands that write have in common.
+namespace modCliFlow {
+
+// The option --yes, and the answers that go with it: with it every question is answered with yes, without it `hint` is
+// said after the question.
+[[nodiscard]] cCliOption Yes();
+[[nodiscard]] cConsoleUser::cAnswers Answers(const cCliContext& context, const QString& hint);
+
+// The same for a category or an account that goes: its entries are moved to `target`, or keep what they have where none
+// is given.
+[[nodiscard]] cConsoleUser::cAnswers RemovalAnswers(const cCliContext& context, const QString& target);
+
+// Says what was done, or that nothing was where nothing has been said yet. The exit code.
+[[nodiscard]] int Finish(const cCliContext& context, bool isDone);
+
+} // namespace modCliFlow

@@ -1,0 +1,66 @@
+#include "cli/modCliMain.h"
+
+#include "app/cQtRegistry.h"
+#include "app/cQtShell.h"
+#include "app/cSystemClock.h"
+#include "base/cText.h"
+#include "cli/cCliBook.h"
+#include "cli/cConsoleUser.h"
+#include "cli/modCliCommands.h"
+#include "cli/modCliHelp.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+int ShowHelp(const cCliCall& call)
+{
+    const QList<cCliCommand>& commands = modCliCommands::All();
+    const QString topic = call.Command() != nullptr ? call.Command()->Name : call.Arguments().join(u' ');
+    const auto command =
+        std::find_if(commands.begin(), commands.end(), [&](const cCliCommand& known) { return known.Name == topic; });
+    if (command == commands.end() && !topic.isEmpty()) {
+        modConsole::Error(cText::Tr("Den Befehl '{0}' gibt es nicht.", {topic}));
+        return modExit::Usage;
+    }
+    modConsole::Out(topic.isEmpty() ? modCliHelp::All(commands) : modCliHelp::Of(*command));
+    return modExit::Done;
+}
+
+} // namespace
+
+bool modCliMain::NeedsPaint(const QStringList& arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        const QString name = argument.section(u'=', 0, 0);
+        return name == u"--pdf" || name == u"--png" || name == u"--svg";
+    });
+}
+
+int modCliMain::Run(const QStringList& arguments, cCliPaint& paint)
+{
+    const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
+    if (!call.Error().isEmpty()) {
+        modConsole::Error(call.Error() + u' ' + cText::Tr("\"kontorelle-cli hilfe\" zeigt alle Befehle."));
+        return modExit::Usage;
+    }
+    if (call.WantsHelp()) {
+        return ShowHelp(call);
+    }
+    const QString profile = call.Value(u"profile"_s);
+    cQtShell shell(profile);
+    cQtRegistry registry(profile);
+    cConsoleUser user;
+    cSystemClock clock;
+    std::unique_ptr<cCliBook> book;
+    if (call.Access() != eCliAccess::None) {
+        book = cCliBook::Open(call.Value(u"database"_s), call.Access(), {shell, registry, user, clock});
+        if (!book) {
+            return modExit::Failed;
+        }
+    }
+    const int code = call.Command()->Run({call, user, clock, shell, book.get(), paint});
+    return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
+}

@@ -1,0 +1,91 @@
+#include "cli/modCliSelection.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "base/modFold.h"
+#include "cli/cCliBook.h"
+#include "cli/cCliReader.h"
+#include "model/modWord.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The same texts that the filter of the entry list looks at.
+bool IsFound(const cCliBook& book, const cEntryItem& entry, const QList<modFold::cFolded>& words)
+{
+    const QString text = QStringList{modDate::ToGerman(entry.EntryDate),
+                                     entry.EntryType,
+                                     entry.EntryCategory,
+                                     entry.EntryAccount,
+                                     entry.EntryAccountMove,
+                                     entry.EntryDescription,
+                                     entry.EntryInterval,
+                                     book.AmountText(entry.EntryValue)}
+                             .join(u'\n');
+    return modFold::HoldsAll(modFold::Fold(text), words);
+}
+
+cViewState View(const cCliCall& call, const QString& kind, const QString& account)
+{
+    cViewState view;
+    const bool hasDays = call.Has(u"from"_s) || call.Has(u"to"_s);
+    const QString period = call.Has(u"period"_s) ? call.Value(u"period"_s) : modWord::AktuellesJahr;
+    view.Period = hasDays ? modWord::FreierZeitraum : period;
+    view.Account = account.isEmpty() ? modWord::AlleKonten : account;
+    view.Type = kind.isEmpty() ? modWord::AlleBuchungsarten : kind;
+    view.Grouping = modWord::KeineGruppierung;
+    view.Filter = QStringList{call.Value(u"category"_s), call.Value(u"filter"_s)}.join(u' ').trimmed();
+    return view;
+}
+
+} // namespace
+
+QList<cCliOption> modCliSelection::Options()
+{
+    return {{u"period"_s, u"NAME"_s, cText::Tr("Zeitraum, zum Beispiel \"Letzter Monat\" oder \"Alle Buchungen\"")},
+            {u"from"_s, u"DATUM"_s, cText::Tr("erster Tag, als 2026-01-31 oder 31.01.2026")},
+            {u"to"_s, u"DATUM"_s, cText::Tr("letzter Tag")},
+            {u"account"_s, u"NAME"_s, cText::Tr("nur dieses Konto")},
+            {u"kind"_s, u"ART"_s, cText::Tr("Einnahme, Ausgabe oder Umbuchung")},
+            {u"category"_s, u"PFAD"_s,
+             cText::Tr("diese Kategorie und ihre Unterkategorien: \"Wohnung\", \"Wohnung; Miete\"")},
+            {u"filter"_s, u"TEXT"_s, cText::Tr("nur Einträge, die alle diese Wörter enthalten"), true}};
+}
+
+modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
+{
+    cCliBook& book = *context.Book;
+    const cCliCall& call = context.Call;
+    cCliReader reader(context);
+    cSelection selection;
+    selection.Days = reader.Period(modWord::AktuellesJahr);
+    const QString kindText = call.Value(u"kind"_s);
+    const QString kind = kindText == modWord::AlleBuchungsarten ? QString() : reader.Kind(kindText);
+    const QString accountText = call.Value(u"account"_s);
+    const QString account =
+        accountText == modWord::AlleKonten ? QString() : reader.Account(accountText, eCliNames::Used);
+    // "Wohnung; Allgemein" stands for what is booked on the main category itself and is no path of its own.
+    const QString categoryText = call.Value(u"category"_s);
+    const QString category =
+        categoryText.endsWith(u"; Allgemein"_s) ? categoryText : reader.Category(categoryText, eCliNames::Used);
+    if (!reader.IsGood()) {
+        selection.Code = reader.Report();
+        return selection;
+    }
+    cEntryQuery query;
+    query.Start = selection.Days.Start;
+    query.End = selection.Days.End;
+    query.Type = modWord::QueryType(kind);
+    query.Account = account;
+    query.Category = category;
+    selection.Entries = book.Data.GetEntries(query);
+    const QList<modFold::cFolded> words = modFold::Words(call.Value(u"filter"_s));
+    selection.Entries.removeIf([&](const cEntryItem& entry) { return !IsFound(book, entry, words); });
+    std::stable_sort(selection.Entries.begin(), selection.Entries.end(),
+                     [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
+    selection.View = View(call, kind, account);
+    return selection;
+}

@@ -1,0 +1,475 @@
+#include "import/mt940/modMT940.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "import/mt940/cMT940Lines.h"
+#include "import/mt940/modMT940Repair.h"
+#include "import/read/cRepeatedText.h"
+#include "import/read/modSepaPurpose.h"
+#include "import/read/modStatementText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using modMT940::cBalance;
+using modMT940::cParsed;
+using modMT940::cStatement;
+using modMT940::cStatementBalance;
+using modMT940::cTransaction;
+
+constexpr int structureSample = 11;                     // details lines that decide whether the text is structured
+constexpr qsizetype shortestTransaction = 100;          // characters; for most statements
+constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
+
+bool IsDigit(QStringView text, qsizetype at)
+{
+    return at < text.size() && text[at] >= u'0' && text[at] <= u'9';
+}
+
+bool AreDigits(QStringView text, qsizetype from, qsizetype count)
+{
+    for (qsizetype i = from; i < from + count; ++i) {
+        if (!IsDigit(text, i)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QStringView WithoutZeros(QStringView text)
+{
+    while (text.startsWith(u'0')) {
+        text = text.mid(1);
+    }
+    return text;
+}
+
+// The tag reaches to the first colon after the first character; empty when there is none.
+QStringView TagOf(QStringView line)
+{
+    const qsizetype colon = line.indexOf(u':', 1);
+    return colon < 0 ? QStringView() : line.left(colon + 1);
+}
+
+bool IsNear(int count, int all)
+{
+    return std::abs(count - all) < 2;
+}
+
+// Whether the details are made of subfields: judged by the first lines only, and one line may be out of step.
+bool IsStructured(const modMT940Repair::cRepaired& repaired)
+{
+    int all = 0;
+    int structured = 0;
+    int consistent = 0;
+    QString previous;
+    cMT940Lines lines(repaired);
+    while (all < structureSample && lines.Next()) {
+        const QStringView text = lines.Text;
+        if (TagOf(text) != u":86:") {
+            continue;
+        }
+        const QStringView eighth = text.mid(7, 1);
+        ++all;
+        structured += eighth == u"?" && AreDigits(text, 4, 3) ? 1 : 0;
+        consistent += eighth == previous ? 1 : 0;
+        previous = eighth.toString();
+    }
+    return IsNear(structured, all) || IsNear(consistent, all);
+}
+
+cBalance ReadBalance(QStringView content)
+{
+    const QStringView amount = WithoutZeros(content.mid(10));
+    return {content.left(1).toString(), content.mid(1, 6).toString(), content.mid(7, 3).toString(),
+            (amount.startsWith(u',') ? u"0"_s : QString()) + amount};
+}
+
+// The amount with two decimal places: "1234," stands for whole euros.
+QString PadAmount(QStringView amount)
+{
+    if (amount.endsWith(u',')) {
+        return amount + u"00"_s;
+    }
+    const bool hasOnePlace = amount.size() > 1 && amount[amount.size() - 2] == u',';
+    return hasOnePlace ? amount + u"0"_s : amount.toString();
+}
+
+// Second letters of a mark: "CR" and "DR", "RC" and "RD".
+bool IsMarkLetter(QStringView text, qsizetype at)
+{
+    return at < text.size() && u"cdrCDR"_s.contains(text[at]);
+}
+
+cTransaction ReadTransaction(QStringView content, int line)
+{
+    cTransaction transaction;
+    transaction.Line = line;
+    qsizetype at = IsDigit(content, 6) ? 10 : 6;
+    const qsizetype markSize = IsMarkLetter(content, at + 1) ? 2 : 1;
+    const QStringView mark = content.mid(at, markSize);
+    at += markSize;
+    at += IsDigit(content, at) ? 0 : 1; // funds code
+    const qsizetype comma = content.indexOf(u',', at);
+    if (comma < 0) {
+        return transaction;
+    }
+    qsizetype end = comma + 1;
+    while (end < comma + 3 && IsDigit(content, end)) {
+        ++end;
+    }
+    transaction.ValueDate = content.left(6).toString();
+    transaction.Mark = mark.toString();
+    transaction.Amount = PadAmount(content.mid(at, end - at));
+    transaction.TypeCode = content.mid(end, 4).toString();
+    const QStringView reference = content.mid(end + 4);
+    const qsizetype slashes = reference.indexOf(u"//");
+    transaction.CustomerReference = (slashes < 0 ? reference : reference.left(slashes)).toString();
+    return transaction;
+}
+
+// The leading digits of the first two characters as a number.
+int SubfieldNumber(QStringView piece)
+{
+    int number = 0;
+    for (qsizetype i = 0; i < 2 && IsDigit(piece, i); ++i) {
+        number = number * 10 + (piece[i].unicode() - u'0');
+    }
+    return number;
+}
+
+void AddSubfield(cTransaction& transaction, int number, QStringView value)
+{
+    if (number == 0) {
+        transaction.BookingText += AreDigits(value, 0, 3) ? value.mid(3) : value;
+        transaction.BookingText += u' ';
+    } else if (number == 10) {
+        transaction.PrimaNota += value;
+    } else if (number >= 20 && number <= 29) {
+        transaction.Purpose += value;
+        transaction.Purpose += u' ';
+    } else if (number == 30) {
+        transaction.BankCode += value;
+    } else if (number == 31) {
+        transaction.Account += value;
+    } else if (number == 32 || number == 33) {
+        transaction.Name += value;
+        transaction.Name += u' ';
+    } else if (number >= 60 && number <= 63) {
+        transaction.PurposeContinuation += value;
+    }
+}
+
+bool HasNotProvided(QStringView content)
+{
+    constexpr QStringView wanted = u"notprovided";
+    const auto isSame = [](QChar c, QChar lower) { return (c.unicode() | 0x20U) == lower.unicode(); };
+    return std::search(content.begin(), content.end(), wanted.begin(), wanted.end(), isSame) != content.end();
+}
+
+void ReadDetails(cTransaction& transaction, QStringView content)
+{
+    transaction.BusinessCode = content.left(3).toString();
+    transaction.Separator = content.mid(3, 1).toString();
+    const QList<QStringView> pieces =
+        transaction.Separator.isEmpty() ? QList<QStringView>() : content.split(transaction.Separator.front());
+    const bool hasNoReference = HasNotProvided(content); // quicker asked once
+    for (qsizetype i = 1; i < pieces.size(); ++i) {
+        if (!hasNoReference || !pieces[i].contains(u"referenz notprovided", Qt::CaseInsensitive)) {
+            AddSubfield(transaction, SubfieldNumber(pieces[i]), pieces[i].mid(2));
+        }
+    }
+    transaction.BookingText = transaction.BookingText.trimmed();
+    transaction.Purpose = modSepaPurpose::Rewrite(transaction.Purpose.trimmed());
+    transaction.Name = transaction.Name.trimmed();
+}
+
+// Takes what a text is made of, in its order.
+class cTaker
+{
+public:
+    cTaker() = default;
+    cTaker(const cTaker&) = delete;
+    cTaker& operator=(const cTaker&) = delete;
+    virtual ~cTaker() = default;
+    // A transaction with its details. The statement may still miss what stands behind it.
+    virtual void TakeTransaction(const cStatement& statement, cTransaction transaction) = 0;
+    virtual void EndStatement(cStatement statement) = 0;
+};
+
+// Walks over the lines and hands on each transaction as soon as it is complete, so that a large text need not stand in
+// memory a second time.
+class cWalk
+{
+public:
+    explicit cWalk(cTaker& taker) : m_taker(taker) {}
+
+    // Everything but the statements.
+    cParsed Run(const modMT940Repair::cRepaired& repaired)
+    {
+        m_isStructured = IsStructured(repaired);
+        cMT940Lines lines(repaired);
+        bool isFirst = true;
+        while (lines.Next()) {
+            if (!isFirst && lines.IsSeparator()) {
+                EndStatement();
+            }
+            isFirst = false;
+            const QStringView tag = TagOf(lines.Text);
+            if (!Take(tag, lines.Text.mid(tag.size()), lines.Number)) {
+                Fail(lines.Number);
+                return std::move(m_parsed);
+            }
+        }
+        if (!isFirst) {
+            EndStatement();
+        }
+        return std::move(m_parsed);
+    }
+
+private:
+    // False when the line ends the reading.
+    bool Take(QStringView tag, QStringView content, int number)
+    {
+        if (tag == u":25:") {
+            m_statement.Account = WithoutZeros(content.mid(content.indexOf(u'/') + 1)).toString();
+        } else if (tag == u":60F:" || tag == u":60M:") {
+            m_statement.OpeningBalance = ReadBalance(content);
+        } else if (tag == u":61:") {
+            EndTransaction();
+            TakeTransaction(content, number);
+        } else if (tag == u":86:") {
+            return TakeDetails(content);
+        } else if (tag == u":62F:" || tag == u":62M:") {
+            TakeClosing(content, number);
+        }
+        return true;
+    }
+
+    void TakeTransaction(QStringView content, int number)
+    {
+        ++m_statement.TransactionCount;
+        m_transaction = ReadTransaction(content, number);
+        if (m_transaction->Amount.isEmpty()) {
+            Report(number, cText::Tr("Der Umsatz hat keinen Betrag: {0}", {content.left(40).toString()}));
+        }
+    }
+
+    bool TakeDetails(QStringView content)
+    {
+        if (!m_transaction) {
+            return false;
+        }
+        if (m_isStructured) {
+            ReadDetails(*m_transaction, content);
+        } else {
+            m_transaction->BookingText = content.toString();
+        }
+        ++m_parsed.DetailLines;
+        return true;
+    }
+
+    void TakeClosing(QStringView content, int number)
+    {
+        if (content.size() < 11) {
+            Report(number, cText::Tr("Der Schlusssaldo ist nicht lesbar: {0}", {content.toString()}));
+            return;
+        }
+        m_parsed.ClosingBalance = ReadBalance(content);
+        m_parsed.Closings.append({m_statement.Account, *m_parsed.ClosingBalance});
+    }
+
+    void EndTransaction()
+    {
+        if (m_transaction) {
+            m_taker.TakeTransaction(m_statement, *std::exchange(m_transaction, std::nullopt));
+        }
+    }
+
+    void EndStatement()
+    {
+        EndTransaction();
+        m_taker.EndStatement(std::exchange(m_statement, cStatement()));
+    }
+
+    // Details before the first transaction of their statement: the text is not what it seems, so none of it is taken.
+    void Fail(int number)
+    {
+        m_parsed.ClosingBalance.reset();
+        m_parsed.Closings.clear();
+        m_parsed.IsFailed = true;
+        Report(number,
+               cText::Tr("Angaben zu einem Umsatz (:86:) stehen vor dem ersten Umsatz (:61:) des Auszugs. "
+                         "Die Datei wurde nicht übernommen."));
+    }
+
+    void Report(int number, const QString& text) { m_parsed.Problems.append({number, text}); }
+
+    cTaker& m_taker;
+    cParsed m_parsed;
+    cStatement m_statement;
+    std::optional<cTransaction> m_transaction; // to which details may follow
+    bool m_isStructured = false;
+};
+
+// Keeps all of it.
+class cKeeper : public cTaker
+{
+public:
+    void TakeTransaction(const cStatement& /*statement*/, cTransaction transaction) override
+    {
+        m_transactions.append(std::move(transaction));
+    }
+
+    void EndStatement(cStatement statement) override
+    {
+        statement.Transactions = std::exchange(m_transactions, {});
+        Statements.append(std::move(statement));
+    }
+
+    QList<cStatement> Statements;
+
+private:
+    QList<cTransaction> m_transactions;
+};
+
+// YYMMDD, always of this century; the first day of 1001 for anything else.
+QDate ReadDate(QStringView text)
+{
+    if (text.size() != 6 || !AreDigits(text, 0, 6)) {
+        return noDate;
+    }
+    const QDate date(2000 + text.left(2).toInt(), text.mid(2, 2).toInt(), text.mid(4, 2).toInt());
+    return date.isValid() ? date : noDate;
+}
+
+// One without a day or an amount tells nothing.
+std::optional<cAccountBalance> ToBalance(const cStatementBalance& balance, const QString& account)
+{
+    const QDate date = ReadDate(balance.Balance.Date);
+    if (date == noDate || !modAmount::TryReadGerman(balance.Balance.Amount)) {
+        return std::nullopt;
+    }
+    const QString& own = balance.Account.isEmpty() ? account : balance.Account;
+    return cAccountBalance{own, modMT940::SignedCents(balance.Balance), date};
+}
+
+// Turns the transactions into records.
+class cRecorder : public cTaker
+{
+public:
+    explicit cRecorder(const QString& account) : m_account(account) {}
+
+    void TakeTransaction(const cStatement& statement, cTransaction transaction) override
+    {
+        if (!transaction.Amount.isEmpty() && !IsTooMany()) {
+            Read.Entries.append(ToEntry(statement, transaction));
+        }
+    }
+
+    // Account and currency are those that the whole statement names.
+    void EndStatement(cStatement statement) override
+    {
+        const QString& account = statement.Account.isEmpty() ? m_account : statement.Account;
+        bool isMorning = false;
+        const QDate opening = ReadDate(statement.OpeningBalance.Date);
+        for (; m_ended < Read.Entries.size(); ++m_ended) {
+            cImportEntry& entry = Read.Entries[m_ended];
+            entry.ImportAccount = account;
+            entry.ImportCurrency = statement.OpeningBalance.Currency;
+            isMorning = isMorning || entry.ImportDate == opening;
+            Read.NeedsAccount = Read.NeedsAccount || account.isEmpty();
+        }
+        if (std::optional<cAccountBalance> balance = ToBalance({account, statement.OpeningBalance}, {})) {
+            balance->Date = isMorning ? opening.addDays(-1) : opening; // what the day before ended with
+            Read.Balances.append(*balance);
+        }
+    }
+
+    [[nodiscard]] bool IsTooMany() const { return Read.Entries.size() > cStatementRead::mostEntries; }
+
+    cStatementRead Read;
+
+private:
+    cImportEntry ToEntry(const cStatement& statement, const cTransaction& transaction)
+    {
+        const QString& date = transaction.ValueDate.isEmpty() ? statement.OpeningBalance.Date : transaction.ValueDate;
+        const std::optional<double> amount = modAmount::TryReadGerman(transaction.Amount);
+        const double value = std::abs(amount.value_or(0.0));
+        cImportEntry entry;
+        entry.ImportDate = ReadDate(date);
+        entry.ImportType = m_type.Of(modStatementText::DecodeField(transaction.BookingText));
+        entry.ImportPurpose = modStatementText::DecodeField(transaction.Purpose);
+        entry.ImportBeneficiary = modStatementText::DecodeField(transaction.Name);
+        entry.ImportBeneficiaryAccount = modStatementText::DecodeField(transaction.Account);
+        entry.ImportBeneficiaryBLZ = m_bankCode.Of(modStatementText::DecodeField(transaction.BankCode));
+        // Cancellations count by the letter too: "RD" is negative although the bank pays money back with it.
+        entry.ImportValue = transaction.Mark.contains(u'D', Qt::CaseInsensitive) ? -value : value;
+        if (entry.ImportDate == noDate) {
+            Report(transaction.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {transaction.ValueDate}));
+        }
+        if (!amount) {
+            Report(transaction.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {transaction.Amount.left(40)}));
+        }
+        return entry;
+    }
+
+    void Report(int line, const QString& text) { Read.Problems.append({line, text}); }
+
+    QString m_account;     // of statements without a number
+    qsizetype m_ended = 0; // entries of the statements before
+    cRepeatedText m_type;
+    cRepeatedText m_bankCode;
+};
+
+} // namespace
+
+modMT940::cParsed modMT940::Parse(const QString& text)
+{
+    cKeeper keeper;
+    cParsed parsed = cWalk(keeper).Run(modMT940Repair::Repair(text));
+    if (!parsed.IsFailed) {
+        parsed.Statements = std::move(keeper.Statements);
+    }
+    return parsed;
+}
+
+cStatementRead modMT940::Read(const QString& text, const QString& account)
+{
+    cRecorder recorder(account);
+    recorder.Read.Entries.reserve(std::min(text.size() / shortestTransaction, cStatementRead::mostEntries));
+    const cParsed parsed = cWalk(recorder).Run(modMT940Repair::Repair(text));
+    if (recorder.IsTooMany()) {
+        return cStatementRead::TooMany();
+    }
+    cStatementRead read = parsed.IsFailed ? cStatementRead() : std::move(recorder.Read);
+    read.Problems += parsed.Problems;
+    if (parsed.ClosingBalance) {
+        read.ClosingBalance = SignedCents(*parsed.ClosingBalance);
+    }
+    for (const cStatementBalance& closing : parsed.Closings) {
+        if (const std::optional<cAccountBalance> balance = ToBalance(closing, account)) {
+            read.Balances.append(*balance);
+        }
+    }
+    std::stable_sort(read.Problems.begin(), read.Problems.end(),
+                     [](const cReadProblem& left, const cReadProblem& right) { return left.Line < right.Line; });
+    return read;
+}
+
+qint64 modMT940::SignedCents(const cBalance& balance)
+{
+    const qint64 cents = modAmount::ToCents(modAmount::ReadGerman(balance.Amount));
+    return balance.Mark.contains(u'C', Qt::CaseInsensitive) ? cents : -cents;
+}
+
+int modMT940::ProgressMaximum(const QString& text)
+{
+    return 2 * static_cast<int>(text.count(u":86:\r\n"));
+}

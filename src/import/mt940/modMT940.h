@@ -1,0 +1,79 @@
+#pragma once
+
+#include "import/read/cStatementRead.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// SWIFT statements: MT940 (end of day) and MT942 (intraday).
+namespace modMT940 {
+
+// Opening or closing balance, the texts as they stand.
+struct cBalance
+{
+    QString Mark; // "C" or "D"
+    QString Date; // YYMMDD
+    QString Currency;
+    QString Amount; // without leading zeros
+};
+
+// A :61: line and the :86: line behind it.
+struct cTransaction
+{
+    QString Mark;              // "C", "D", "RC", "RD", also with the third letter of a currency code
+    QString ValueDate;         // YYMMDD
+    QString Amount;            // German number; empty when the line could not be read
+    QString TypeCode;          // four characters
+    QString CustomerReference; // kept, not staged
+    QString BusinessCode;      // three digits
+    QString Separator;
+    QString BookingText;
+    QString PrimaNota;
+    QString Purpose;
+    QString BankCode;
+    QString Account;
+    QString Name;
+    QString PurposeContinuation; // kept, not staged
+    int Line = 0;
+};
+
+struct cStatement
+{
+    QString Account;
+    QString Reference; // not filled
+    cBalance OpeningBalance;
+    QList<cTransaction> Transactions;
+    int TransactionCount = 0;
+};
+
+// A balance with the account that it belongs to.
+struct cStatementBalance
+{
+    QString Account; // as in cStatement
+    cBalance Balance;
+};
+
+struct cParsed
+{
+    QList<cStatement> Statements;
+    std::optional<cBalance> ClosingBalance; // the last one of the text
+    QList<cStatementBalance> Closings;      // all of them in the order of the text
+    QList<cReadProblem> Problems;
+    int DetailLines = 0;   // :86: lines walked
+    bool IsFailed = false; // a :86: line without its :61: line ended the reading; Statements is empty then
+};
+
+[[nodiscard]] cParsed Parse(const QString& text);
+
+// Parses and turns the transactions into records, in their order. `account` stands for statements without a number.
+[[nodiscard]] cStatementRead Read(const QString& text, const QString& account);
+
+// Cents of a closing balance: negative unless its mark contains "C".
+[[nodiscard]] qint64 SignedCents(const cBalance& balance);
+
+// The progress maximum: twice the number of :86: tags that are followed by a line break.
+[[nodiscard]] int ProgressMaximum(const QString& text);
+
+} // namespace modMT940

@@ -1,0 +1,204 @@
+#include "import/propose/cBooking.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "import/propose/cProposer.h"
+#include "import/propose/cSeriesFinder.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int progressStep = 25; // rows between two looks at the user interface
+
+// A row that is there and free.
+std::optional<cImportEntry> OpenRow(cImportHiveCache& hive, int rowId)
+{
+    std::optional<cImportEntry> row = hive.GetImportHive().GetImportEntryByID(rowId);
+    return row && !row->ImportAssigned ? row : std::nullopt;
+}
+
+bool HasAssigned(cImportHiveCache& hive, cImportEntry row, int entryId)
+{
+    row.ImportAssigned = entryId > -1;
+    row.ImportAssignedEntry = entryId;
+    return hive.Change(row);
+}
+
+bool IsJoiningTransfer(const cProposal& proposal)
+{
+    return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
+}
+
+} // namespace
+
+cBooking::cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
+    : m_data(data),
+      m_hive(hive),
+      m_accounts(accounts)
+{
+}
+
+QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
+{
+    QHash<int, cProposal> proposals;
+    cProposer proposer(m_data, m_hive, m_accounts);
+    for (const int rowId : rowIds) {
+        if (const std::optional<cImportEntry> row = OpenRow(m_hive, rowId)) {
+            proposals.insert(rowId, proposer.Propose(*row));
+        }
+    }
+    return proposals;
+}
+
+cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals, cProgress& progress)
+{
+    cBookingResult result;
+    cSeriesFinder series(m_data, m_hive);
+    progress.showProgressBar(static_cast<int>(rowIds.size()));
+    int failuresInARow = 0;
+    for (qsizetype i = 0; i < rowIds.size() && !progress.IsCancelled(); ++i) {
+        if (i > 0 && i % progressStep == 0) {
+            progress.addProgressValue(progressStep);
+        }
+        const auto proposal = proposals.constFind(rowIds.at(i));
+        const bool isKnown = proposal != proposals.constEnd();
+        const eOutcome outcome = isKnown ? BookRow(rowIds.at(i), *proposal, series, result) : eOutcome::Skipped;
+        result.Skipped += outcome == eOutcome::Skipped ? 1 : 0;
+        result.Failed += outcome == eOutcome::Failed ? 1 : 0;
+        failuresInARow = outcome == eOutcome::Failed ? failuresInARow + 1 : 0;
+        if (failuresInARow == 2) {
+            // Every refusal shows a message, and a database that refuses twice will refuse the rest as well.
+            result.Failed += static_cast<int>(rowIds.size() - i - 1);
+            break;
+        }
+    }
+    progress.addProgressValue(static_cast<int>(rowIds.size()) % progressStep);
+    return result;
+}
+
+cBookingResult cBooking::Book(int rowId, const cEntryItem& entry)
+{
+    QHash<int, cProposal> proposals = Propose({rowId});
+    if (const auto proposal = proposals.find(rowId); proposal != proposals.end()) {
+        const bool isSameKind =
+            proposal->Entry.EntryType == entry.EntryType && proposal->Entry.EntryInterval == entry.EntryInterval;
+        proposal->Entry = entry;
+        proposal->PartnerRow = isSameKind ? proposal->PartnerRow : 0;
+        proposal->ExistingEntry = isSameKind ? proposal->ExistingEntry : 0;
+    }
+    cNoProgress progress;
+    return Book({rowId}, proposals, progress);
+}
+
+cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinder& series, cBookingResult& result)
+{
+    const std::optional<cImportEntry> row = OpenRow(m_hive, rowId);
+    if (!row) {
+        return eOutcome::Skipped;
+    }
+    if (proposal.Entry.EntryAccount.isEmpty()) {
+        proposal.Entry.EntryAccount = m_accounts.AccountOf(row->ImportAccount);
+    }
+    if (proposal.Entry.EntryAccount.isEmpty()) {
+        if (!result.UnknownAccounts.contains(row->ImportAccount)) {
+            result.UnknownAccounts.append(row->ImportAccount);
+        }
+        return eOutcome::NoAccount;
+    }
+    if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
+        if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
+            return Join(*row, proposal, *match, result);
+        }
+    } else if (IsJoiningTransfer(proposal) && m_data.LoadEntry(proposal.ExistingEntry)) {
+        return JoinTransfer(*row, proposal.ExistingEntry, result);
+    }
+    return BookNew(*row, proposal, series, result);
+}
+
+cBooking::eOutcome cBooking::BookNew(const cImportEntry& row, const cProposal& proposal, cSeriesFinder& series,
+                                     cBookingResult& result)
+{
+    cEntryItem entry = proposal.Entry;
+    if (!m_data.AddNewEntry(entry)) {
+        return eOutcome::Failed;
+    }
+    if (!HasAssigned(m_hive, row, entry.ID)) {
+        // Without its row the entry would come a second time with the next attempt. The user knows of the failure
+        // already.
+        const bool isTakenBack = m_data.DeleteEntry(entry.ID);
+        result.Entries += isTakenBack ? 0 : 1;
+        return eOutcome::Failed;
+    }
+    ++result.Entries;
+    ++result.Rows;
+    result.EntryIds.append(entry.ID);
+    series.Learn(row, entry);
+    AssignPartner(proposal.PartnerRow, entry.ID, result);
+    return eOutcome::Booked;
+}
+
+cBooking::eOutcome cBooking::Join(const cImportEntry& row, const cProposal& proposal, const cSeriesMatch& match,
+                                  cBookingResult& result)
+{
+    if (!HasAssigned(m_hive, row, match.Series.ID)) {
+        return eOutcome::Failed;
+    }
+    if (proposal.Entry.EntryValue != match.Expected) {
+        const cEntryItemFixMod fixMod{0,
+                                      match.Series.ID,
+                                      modWord::Betrag,
+                                      match.Period.Start,
+                                      match.Period.End,
+                                      proposal.Entry.EntryValue,
+                                      cText::Tr("Laut Kontoauszug")};
+        if (!m_data.AddNewEntryMod(fixMod)) {
+            return HasAssigned(m_hive, row, -1) ? eOutcome::Failed : eOutcome::Booked;
+        }
+    }
+    ++result.Rows;
+    ++result.Joined;
+    AssignPartner(proposal.PartnerRow, match.Series.ID, result);
+    return eOutcome::Booked;
+}
+
+cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, int entryId, cBookingResult& result)
+{
+    if (!HasAssigned(m_hive, row, entryId)) {
+        return eOutcome::Failed;
+    }
+    ++result.Rows;
+    ++result.Joined;
+    return eOutcome::Booked;
+}
+
+void cBooking::AssignPartner(int partnerRow, int entryId, cBookingResult& result)
+{
+    const std::optional<cImportEntry> partner = partnerRow != 0 ? OpenRow(m_hive, partnerRow) : std::nullopt;
+    if (!partner) {
+        return;
+    }
+    if (HasAssigned(m_hive, *partner, entryId)) {
+        ++result.Rows;
+    } else {
+        ++result.Failed; // the row stays open; its next proposal finds the transfer in the book
+    }
+}
+
+bool cBooking::Assign(int rowId, int entryId)
+{
+    const std::optional<cImportEntry> row = m_hive.GetImportHive().GetImportEntryByID(rowId);
+    return row && m_data.LoadEntry(entryId) && HasAssigned(m_hive, *row, entryId);
+}
+
+bool cBooking::Unassign(int rowId)
+{
+    const std::optional<cImportEntry> row = m_hive.GetImportHive().GetImportEntryByID(rowId);
+    return row && HasAssigned(m_hive, *row, -1);
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "import/propose/cProposal.h"
+#include "model/cEntryItem.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class cAccountMap;
+class cDataAccess;
+class cImportHiveCache;
+class cProgress;
+class cSeriesFinder;
+struct cImportEntry;
+struct cSeriesMatch;
+
+// What became of a run of bookings.
+struct cBookingResult
+{
+    int Entries = 0;             // entries added to the book
+    int Rows = 0;                // staged rows assigned, partners of transfers included
+    int Joined = 0;              // of these: rows that went to an entry which was there before
+    int Skipped = 0;             // rows that were already assigned or are gone
+    int Failed = 0;              // rows that the database did not take
+    QStringList UnknownAccounts; // own account numbers without an account of the book; their rows were not booked
+    QList<int> EntryIds;         // of the entries added, in their order
+};
+
+// Staged rows into entries.
+class cBooking
+{
+public:
+    cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
+
+    // Proposals by row ID, in one batch. Rows that are assigned or gone get none.
+    [[nodiscard]] QHash<int, cProposal> Propose(const QList<int>& rowIds);
+
+    // Books the rows as proposed; a proposal may have been edited by the user before. Both rows of a transfer go to one
+    // entry. A failed assignment takes its new entry back. After two failures in a row the rest is given up and counted
+    // as failed.
+    [[nodiscard]] cBookingResult Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals,
+                                      cProgress& progress);
+
+    // One row into one entry. `entry` without account gets the one of the row's number.
+    [[nodiscard]] cBookingResult Book(int rowId, const cEntryItem& entry);
+
+    // Assigns a row to an entry that is in the book already.
+    [[nodiscard]] bool Assign(int rowId, int entryId);
+
+    // Sets the row back to not booked; its entry stays.
+    [[nodiscard]] bool Unassign(int rowId);
+
+private:
+    enum class eOutcome { Booked, Skipped, NoAccount, Failed };
+
+    [[nodiscard]] eOutcome BookRow(int rowId, cProposal proposal, cSeriesFinder& series, cBookingResult& result);
+    [[nodiscard]] eOutcome BookNew(const cImportEntry& row, const cProposal& proposal, cSeriesFinder& series,
+                                   cBookingResult& result);
+    [[nodiscard]] eOutcome Join(const cImportEntry& row, const cProposal& proposal, const cSeriesMatch& match,
+                                cBookingResult& result);
+    [[nodiscard]] eOutcome JoinTransfer(const cImportEntry& row, int entryId, cBookingResult& result);
+    void AssignPartner(int partnerRow, int entryId, cBookingResult& result);
+
+    cDataAccess& m_data;
+    cImportHiveCache& m_hive;
+    const cAccountMap& m_accounts;
+};

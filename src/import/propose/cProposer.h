@@ -1,0 +1,29 @@
+#pragma once
+
+#include "import/propose/cProposal.h"
+#include "import/propose/modKeywordRules.h"
+#include "model/cImportEntry.h"
+
+#include <memory>
+
+class cAccountMap;
+class cDataAccess;
+class cImportHiveCache;
+
+// Proposes entries for staged rows: by the user's own rules, from what the user did with earlier rows of the same
+// counterparty, from the keyword rules, and finally a default. What it knows of the book is read once, when it is made:
+// make one per batch.
+class cProposer
+{
+public:
+    cProposer(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
+    ~cProposer();
+    cProposer(const cProposer&) = delete;
+    cProposer& operator=(const cProposer&) = delete;
+
+    [[nodiscard]] cProposal Propose(const cImportEntry& row, eRestriction restriction = eRestriction::None);
+
+private:
+    struct cKnowledge;
+    std::unique_ptr<cKnowledge> m_knowledge;
+};

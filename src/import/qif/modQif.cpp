@@ -1,0 +1,341 @@
+#include "import/qif/modQif.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
+constexpr int headLines = 50;                           // lines among which a header must stand
+
+enum class eSection { None, Bank, Account, Other };
+
+struct cRecord
+{
+    QString Account;
+    QString Date;
+    QString Amount;
+    QString Payee;
+    QString Memo;
+    QString Category;
+    QStringList SplitCategories;
+    QStringList SplitMemos;
+    QStringList SplitAmounts;
+    int Line = 0; // of its first field; 0: no field yet
+};
+
+// A date as its three numbers in the order of the file.
+struct cParts
+{
+    int First = 0;
+    int Second = 0;
+    int Third = 0;
+    bool HasPoint = false;
+    bool IsYearFirst = false;
+    bool IsNewCentury = false; // "'" before the year stands for 2000
+};
+
+// The text up to the line break, which is taken off `rest`.
+QStringView TakeLine(QStringView& rest)
+{
+    const qsizetype feed = rest.indexOf(u'\n');
+    const QStringView line = feed < 0 ? rest : rest.left(feed);
+    rest = feed < 0 ? QStringView() : rest.mid(feed + 1);
+    return line.trimmed();
+}
+
+bool StartsWith(QStringView line, QLatin1StringView start)
+{
+    return line.startsWith(start, Qt::CaseInsensitive);
+}
+
+// Switches such as "!Option:AutoSwitch" leave the section as it is.
+eSection SectionOf(QStringView header, eSection current)
+{
+    if (StartsWith(header, "!account"_L1)) {
+        return eSection::Account;
+    }
+    if (!StartsWith(header, "!type:"_L1)) {
+        return current;
+    }
+    constexpr std::array banks = {"bank"_L1, "ccard"_L1, "cash"_L1, "oth a"_L1, "oth l"_L1};
+    const QStringView type = header.mid(6).trimmed();
+    const bool isBank = std::any_of(banks.begin(), banks.end(), [&](auto bank) { return StartsWith(type, bank); });
+    return isBank ? eSection::Bank : eSection::Other;
+}
+
+void TakeField(cRecord& record, QChar letter, const QString& value)
+{
+    switch (letter.toUpper().unicode()) {
+    case u'D': record.Date = record.Date.isEmpty() ? value : record.Date; break; // splits may have dates of their own
+    case u'T': record.Amount = value; break;
+    case u'U':
+        record.Amount = record.Amount.isEmpty() ? value : record.Amount;
+        break; // the same again, by newer programs
+    case u'P': record.Payee = value; break;
+    case u'M': record.Memo = value; break;
+    case u'L': record.Category = value; break;
+    case u'S': record.SplitCategories.append(value); break;
+    case u'E': record.SplitMemos.append(value); break;
+    case u'$': record.SplitAmounts.append(value); break;
+    default: break;
+    }
+}
+
+class cWalk
+{
+public:
+    QList<cRecord> Run(QStringView text)
+    {
+        for (int number = 1; !text.isEmpty() && m_records.size() <= cStatementRead::mostEntries; ++number) {
+            const QStringView line = TakeLine(text);
+            if (line.startsWith(u'!')) {
+                EndRecord();
+                m_section = SectionOf(line, m_section);
+            } else if (line.startsWith(u'^')) {
+                EndRecord();
+            } else if (!line.isEmpty()) {
+                Take(line.front(), line.mid(1).trimmed().toString(), number);
+            }
+        }
+        EndRecord(); // the last "^" is often missing
+        return std::move(m_records);
+    }
+
+private:
+    void Take(QChar letter, const QString& value, int number)
+    {
+        if (m_section == eSection::Account && letter.toUpper() == u'N') {
+            m_account = value;
+        } else if (m_section == eSection::Bank) {
+            m_record.Line = m_record.Line == 0 ? number : m_record.Line;
+            TakeField(m_record, letter, value);
+        }
+    }
+
+    void EndRecord()
+    {
+        if (m_record.Line > 0) {
+            m_record.Account = m_account;
+            m_records.append(m_record);
+        }
+        m_record = {};
+    }
+
+    QList<cRecord> m_records;
+    cRecord m_record;
+    QString m_account; // name of the account whose transactions follow
+    eSection m_section = eSection::None;
+};
+
+// "6/ 1'94", "29.12.2010", "2017-12-22"; empty when there are no three numbers.
+std::optional<cParts> PartsOf(const QString& date)
+{
+    std::array<int, 3> numbers{};
+    std::size_t count = 0;
+    qsizetype digits = 0; // of the number at hand
+    cParts parts;
+    for (const QChar c : date) {
+        if (c >= u'0' && c <= u'9') {
+            count += digits == 0 ? 1 : 0;
+            if (count > numbers.size() || ++digits > 4) {
+                return std::nullopt;
+            }
+            numbers.at(count - 1) = numbers.at(count - 1) * 10 + (c.unicode() - u'0');
+            parts.IsYearFirst = parts.IsYearFirst || (count == 1 && digits == 4);
+        } else if (c != u' ') {
+            parts.HasPoint = parts.HasPoint || c == u'.';
+            parts.IsNewCentury = parts.IsNewCentury || c == u'\'';
+            digits = 0;
+        }
+    }
+    parts.First = numbers[0];
+    parts.Second = numbers[1];
+    parts.Third = numbers[2];
+    return count == 3 ? std::optional(parts) : std::nullopt;
+}
+
+int FullYear(const cParts& parts)
+{
+    if (parts.Third >= 100) {
+        return parts.Third;
+    }
+    // The format is older than the century: years without "'" reach back.
+    return parts.Third + (parts.IsNewCentury || parts.Third < 70 ? 2000 : 1900);
+}
+
+QDate DateOf(const QString& text, eDateOrder order)
+{
+    const std::optional<cParts> parts = PartsOf(text);
+    QDate date;
+    if (parts && (parts->IsYearFirst || order == eDateOrder::YearMonthDay)) {
+        date = QDate(parts->First, parts->Second, parts->Third);
+    } else if (parts) {
+        const bool isDayFirst = order == eDateOrder::DayMonthYear;
+        date = QDate(FullYear(*parts), isDayFirst ? parts->Second : parts->First,
+                     isDayFirst ? parts->First : parts->Second);
+    }
+    return date.isValid() ? date : noDate;
+}
+
+struct cOrder
+{
+    eDateOrder Order = eDateOrder::MonthDayYear;
+    bool IsGuessed = false; // and another order would give other days
+};
+
+cOrder OrderOf(const QList<cRecord>& records)
+{
+    int dayFirst = 0;
+    int monthFirst = 0;
+    bool hasPoint = false;
+    bool isOpen = false;
+    for (const cRecord& record : records) {
+        const std::optional<cParts> parts = PartsOf(record.Date);
+        if (parts && !parts->IsYearFirst) {
+            dayFirst += parts->First > 12 ? 1 : 0;
+            monthFirst += parts->Second > 12 ? 1 : 0;
+            hasPoint = hasPoint || parts->HasPoint;
+            isOpen = isOpen || parts->First != parts->Second;
+        }
+    }
+    if (dayFirst != monthFirst) {
+        return {dayFirst > monthFirst ? eDateOrder::DayMonthYear : eDateOrder::MonthDayYear, false};
+    }
+    return {hasPoint ? eDateOrder::DayMonthYear : eDateOrder::MonthDayYear, isOpen && !hasPoint};
+}
+
+// English numbers; a single comma that does not stand before three digits is a decimal comma all the same.
+QString ToGerman(const QString& amount)
+{
+    const qsizetype point = amount.lastIndexOf(u'.');
+    const qsizetype comma = amount.lastIndexOf(u',');
+    const bool isCommaDecimal = comma > point && amount.count(u',') == 1 && (point >= 0 || amount.size() - comma != 4);
+    QString german = amount;
+    if (isCommaDecimal) {
+        return german;
+    }
+    const bool isGrouping = amount.count(u'.') > 1;
+    return german.remove(u',').replace(u'.', isGrouping ? QString() : u","_s);
+}
+
+QStringList Unique(QStringList texts)
+{
+    texts.removeDuplicates();
+    return texts;
+}
+
+class cReader
+{
+public:
+    cReader(QList<cRecord> records, const cReadOptions& options) : m_records(std::move(records)), m_options(options)
+    {
+        const cOrder order = OrderOf(m_records);
+        m_order = options.Table.Date.value_or(order.Order);
+        if (order.IsGuessed && !options.Table.Date) {
+            m_read.Problems.append({0,
+                                    cText::Tr("Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen "
+                                              "wurde der Monat zuerst.")});
+        }
+        m_hasSeveralAccounts = std::any_of(m_records.begin(), m_records.end(), [&](const cRecord& record) {
+            return record.Account != m_records.first().Account;
+        });
+    }
+
+    cStatementRead Run()
+    {
+        for (const cRecord& record : std::as_const(m_records)) {
+            Take(record);
+        }
+        return std::move(m_read);
+    }
+
+private:
+    [[nodiscard]] std::optional<double> ValueOf(const QString& amount) const
+    {
+        const bool isGerman = m_options.Table.Number == eNumberFormat::German;
+        return modAmount::TryReadGerman(isGerman ? amount : ToGerman(amount));
+    }
+
+    // A record without amount of its own is worth what its parts are.
+    [[nodiscard]] std::optional<double> ValueOf(const cRecord& record) const
+    {
+        if (!record.Amount.isEmpty() || record.SplitAmounts.isEmpty()) {
+            return ValueOf(record.Amount);
+        }
+        double sum = 0.0;
+        for (const QString& amount : record.SplitAmounts) {
+            sum += ValueOf(amount).value_or(0.0);
+        }
+        return sum;
+    }
+
+    // The file knows accounts by the names that their owner gave them. The number of the user comes first, unless there
+    // are several accounts to tell apart.
+    [[nodiscard]] QString AccountOf(const cRecord& record) const
+    {
+        const bool isNamed = m_hasSeveralAccounts || m_options.Account.isEmpty();
+        return isNamed && !record.Account.isEmpty() ? record.Account : m_options.Account;
+    }
+
+    void Take(const cRecord& record)
+    {
+        const bool isSplit = !record.SplitCategories.isEmpty();
+        const std::optional<double> value = ValueOf(record);
+        cImportEntry entry;
+        entry.ImportAccount = AccountOf(record);
+        entry.ImportDate = DateOf(record.Date, m_order);
+        entry.ImportType = isSplit ? Unique(record.SplitCategories).join(u", ") : record.Category;
+        entry.ImportPurpose = record.Memo.isEmpty() ? record.SplitMemos.join(u", ") : record.Memo;
+        entry.ImportBeneficiary = record.Payee;
+        entry.ImportValue = value.value_or(0.0);
+        if (entry.ImportPurpose.isEmpty() && m_options.MissingPurpose == eMissingPurpose::Name) {
+            entry.ImportPurpose = record.Payee;
+        }
+        if (entry.ImportDate == noDate) {
+            Report(record.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {record.Date.left(40)}));
+        }
+        if (!value) {
+            Report(record.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {record.Amount.left(40)}));
+        }
+        m_read.NeedsAccount = m_read.NeedsAccount || entry.ImportAccount.isEmpty();
+        m_read.Entries.append(entry);
+    }
+
+    void Report(int line, const QString& text) { m_read.Problems.append({line, text}); }
+
+    QList<cRecord> m_records;
+    const cReadOptions& m_options;
+    cStatementRead m_read;
+    eDateOrder m_order = eDateOrder::MonthDayYear;
+    bool m_hasSeveralAccounts = false;
+};
+
+} // namespace
+
+bool modQif::IsQif(const QString& text)
+{
+    QStringView rest = text;
+    for (int i = 0; i < headLines && !rest.isEmpty(); ++i) {
+        const QStringView line = TakeLine(rest);
+        if (StartsWith(line, "!type:"_L1) || StartsWith(line, "!account"_L1) || StartsWith(line, "!option:"_L1)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+cStatementRead modQif::Read(const cStatementSource& source, const cReadOptions& options)
+{
+    QList<cRecord> records = cWalk().Run(source.Text);
+    return records.size() > cStatementRead::mostEntries ? cStatementRead::TooMany()
+                                                        : cReader(std::move(records), options).Run();
+}

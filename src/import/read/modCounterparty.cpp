@@ -1,0 +1,20 @@
+#include "import/read/modCounterparty.h"
+
+#include "import/read/modAccountNumber.h"
+#include "model/cImportEntry.h"
+
+QString modCounterparty::AccountKey(const cImportEntry& row)
+{
+    return modAccountNumber::Compact(row.ImportBeneficiaryAccount);
+}
+
+QString modCounterparty::NameKey(const cImportEntry& row)
+{
+    return row.ImportBeneficiary.simplified().toCaseFolded();
+}
+
+QString modCounterparty::Key(const cImportEntry& row)
+{
+    const QString account = AccountKey(row);
+    return account.isEmpty() ? NameKey(row) : account;
+}

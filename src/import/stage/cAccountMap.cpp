@@ -1,0 +1,177 @@
+#include "import/stage/cAccountMap.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "core/cSettings.h"
+#include "import/read/modAccountNumber.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString settingPrefix = u"KTO:"_s;
+
+QStringList VisibleNames(const cTemplateItemList& accounts)
+{
+    QStringList names;
+    for (const cTemplateItem& account : accounts) {
+        if (modTemplate::IsVisible(account)) {
+            names.append(account.TemplateName);
+        }
+    }
+    return names;
+}
+
+QString QuestionFor(const QString& number)
+{
+    return number.isEmpty()
+        ? cText::Tr("Der Kontoauszug nennt keine Kontonummer.\nZu welchem Konto gehören seine Umsätze?")
+        : cText::Tr("Zu welchem Konto gehören die Umsätze der Kontonummer {0}?\nEin neuer Name legt ein Konto an.",
+                    {number});
+}
+
+} // namespace
+
+cAccountMap::cAccountMap(cDataAccess& data, cSettings& settings) : m_data(data), m_settings(settings)
+{
+}
+
+bool cAccountMap::Exists(const QString& account) const
+{
+    return !account.isEmpty() && m_data.FindAccount(account).has_value();
+}
+
+QString cAccountMap::AccountOf(const QString& number) const
+{
+    const QString account = m_settings.Get(SettingName(number));
+    return Exists(account) ? account : QString();
+}
+
+QString cAccountMap::SettingName(const QString& number)
+{
+    return settingPrefix + number;
+}
+
+QString cAccountMap::NumberOf(const QString& settingName)
+{
+    return settingName.startsWith(settingPrefix, Qt::CaseInsensitive) ? settingName.mid(settingPrefix.size())
+                                                                      : QString();
+}
+
+QList<std::pair<QString, QString>> cAccountMap::Mapping() const
+{
+    QList<std::pair<QString, QString>> mapping;
+    for (const auto& [name, account] : m_data.GetSettings()) {
+        const QString number = NumberOf(name);
+        if (!number.isEmpty() && Exists(account)) {
+            mapping.append({number, account});
+        }
+    }
+    return mapping;
+}
+
+QString cAccountMap::OwnAccountOf(const QString& number, const QString& bankCode) const
+{
+    if (number.trimmed().isEmpty()) {
+        return {};
+    }
+    if (const QString direct = AccountOf(number); !direct.isEmpty()) {
+        return direct;
+    }
+    const QList<std::pair<QString, QString>> mapping = Mapping();
+    const auto found = std::find_if(mapping.begin(), mapping.end(), [&](const auto& known) {
+        return modAccountNumber::IsSame(number, bankCode, known.first);
+    });
+    return found == mapping.end() ? QString() : found->second;
+}
+
+QString cAccountMap::Proposal(const QString& number) const
+{
+    if (const QString known = OwnAccountOf(number, {}); !known.isEmpty()) {
+        return known;
+    }
+    const QStringList names = VisibleNames(m_data.GetAccounts());
+    const auto named = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+        return !number.isEmpty() && name.contains(number, Qt::CaseInsensitive);
+    });
+    return named != names.end() ? *named : FreeAccount();
+}
+
+// Nothing rather than an account that has its number already: two banks would be mixed up there.
+QString cAccountMap::FreeAccount() const
+{
+    const cTemplateItemList accounts = m_data.GetAccounts();
+    const QList<std::pair<QString, QString>> mapping = Mapping();
+    const auto first = std::find_if(accounts.begin(), accounts.end(), modTemplate::IsVisible);
+    // Of the group of the first one, so that the purse is not proposed.
+    const auto free = std::find_if(first, accounts.end(), [&](const cTemplateItem& account) {
+        const bool isTaken = std::any_of(mapping.begin(), mapping.end(),
+                                         [&](const auto& known) { return known.second == account.TemplateName; });
+        return modTemplate::IsVisible(account) && !isTaken
+            && modTemplate::GroupOf(account) == modTemplate::GroupOf(*first);
+    });
+    return free == accounts.end() ? QString() : free->TemplateName;
+}
+
+bool cAccountMap::Assign(const QString& number, const QString& account)
+{
+    const QString given = account.trimmed();
+    const QString name = Exists(given) ? given : modTemplate::CleanName(given);
+    if (name.isEmpty()) {
+        return false;
+    }
+    if (!Exists(name)) {
+        cTemplateItem item;
+        item.TemplateType = modWord::Konto;
+        item.TemplateName = name;
+        if (!m_data.AddNewTemplate(item)) {
+            return false;
+        }
+    }
+    return m_settings.Set(SettingName(number), name);
+}
+
+QString cAccountMap::Ask(const QString& number, cUser& user)
+{
+    if (const QString known = AccountOf(number); !known.isEmpty()) {
+        return known;
+    }
+    cChoice choice;
+    choice.Text = QuestionFor(number);
+    choice.Title = cText::Tr("Konto zuordnen");
+    choice.Items = VisibleNames(m_data.GetAccounts());
+    choice.Proposal = Proposal(number);
+    choice.AllowNew = true;
+    const std::optional<QString> answer = user.Choose(choice);
+    return answer && Assign(number, *answer) ? AccountOf(number) : QString();
+}
+
+QStringList cAccountMap::Unknown(const QStringList& numbers) const
+{
+    QStringList unknown;
+    std::copy_if(numbers.begin(), numbers.end(), std::back_inserter(unknown),
+                 [&](const QString& number) { return AccountOf(number).isEmpty(); });
+    return unknown;
+}
+
+std::optional<cTemplateItem> cAccountMap::getAssignedAccount(const cImportEntry& row) const
+{
+    const QString account = m_settings.Get(SettingName(row.ImportAccount));
+    return account.isEmpty() ? std::nullopt : m_data.FindAccount(account);
+}
+
+std::optional<cTemplateItem> cAccountMap::getAssignedAccountTo(const cImportEntry& row) const
+{
+    const QString account = OwnAccountOf(row.ImportBeneficiaryAccount, row.ImportBeneficiaryBLZ);
+    return account.isEmpty() ? std::nullopt : m_data.FindAccount(account);
+}
+
+std::optional<cEntryItem> cAccountMap::getAssignedEntry(const cImportEntry& row) const
+{
+    return row.ImportAssigned && row.ImportAssignedEntry > -1 ? m_data.LoadEntry(row.ImportAssignedEntry)
+                                                              : std::nullopt;
+}

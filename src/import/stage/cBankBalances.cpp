@@ -1,0 +1,96 @@
+#include "import/stage/cBankBalances.h"
+
+#include "base/modDate.h"
+#include "core/cSettings.h"
+#include "import/read/cStatementRead.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// One setting for an account: "2026-05-31=21270;2026-06-30=-500".
+QString SettingName(const QString& account)
+{
+    return u"SALDO:"_s + account;
+}
+
+std::optional<cBankBalance> FromText(const QString& text)
+{
+    const QStringList parts = text.split(u'=');
+    bool isNumber = false;
+    const qint64 cents = parts.value(1).toLongLong(&isNumber);
+    const QDate day = modDate::FromIso(parts.value(0));
+    return parts.size() == 2 && isNumber && day.isValid() ? std::optional(cBankBalance{day, cents}) : std::nullopt;
+}
+
+QString ToText(const cBankBalance& balance)
+{
+    return modDate::ToIso(balance.Day) + u'=' + QString::number(balance.Cents);
+}
+
+QDate NewestDay(const cImportEntryList& entries, const QString& account)
+{
+    QDate newest;
+    for (const cImportEntry& entry : entries) {
+        if (entry.ImportAccount == account && (!newest.isValid() || newest < entry.ImportDate)) {
+            newest = entry.ImportDate;
+        }
+    }
+    return newest;
+}
+
+} // namespace
+
+cBankBalanceList cBankBalances::Of(const QString& account) const
+{
+    cBankBalanceList balances;
+    const QStringList texts = m_settings.Get(SettingName(account)).split(u';', Qt::SkipEmptyParts);
+    for (const QString& text : texts) {
+        if (const std::optional<cBankBalance> balance = FromText(text)) {
+            balances.append(*balance);
+        }
+    }
+    std::stable_sort(balances.begin(), balances.end(),
+                     [](const cBankBalance& a, const cBankBalance& b) { return a.Day < b.Day; });
+    return balances;
+}
+
+bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries)
+{
+    QMap<QString, cBankBalanceList> byAccount;
+    for (const cAccountBalance& balance : balances) {
+        const QDate day = balance.Date.isValid() ? balance.Date : NewestDay(entries, balance.Account);
+        if (day.isValid() && !balance.Account.isEmpty()) {
+            byAccount[balance.Account].append({day, balance.Cents});
+        }
+    }
+    bool isDone = true;
+    for (auto account = byAccount.constKeyValueBegin(); account != byAccount.constKeyValueEnd(); ++account) {
+        isDone = Add(account->first, account->second) && isDone;
+    }
+    return isDone;
+}
+
+bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances)
+{
+    cBankBalanceList known = Of(account);
+    const qsizetype before = known.size();
+    for (const cBankBalance& balance : balances) {
+        // A year of daily balances is a few hundred items, and the same file may well be read again.
+        if (!known.contains(balance)) {
+            known.append(balance);
+        }
+    }
+    if (known.size() == before) {
+        return true;
+    }
+    QStringList texts;
+    std::transform(known.begin(), known.end(), std::back_inserter(texts), ToText);
+    return m_settings.Set(SettingName(account), texts.join(u';'));
+}

@@ -1,0 +1,261 @@
+#include "import/stage/cImportHive.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+
+namespace {
+
+// Position of the element whose key is `key`, or -1. The first and the last element tell the direction of the list.
+template <typename tList, typename tKey>
+qsizetype Bisect(const tList& list, int key, const tKey& keyOf)
+{
+    if (list.isEmpty()) {
+        return -1;
+    }
+    const bool isAscending = keyOf(list.first()) <= keyOf(list.last());
+    qsizetype low = 0;
+    qsizetype high = list.size() - 1;
+    while (low <= high) {
+        const qsizetype middle = (low + high) / 2;
+        const int found = keyOf(list.at(middle));
+        if (found == key) {
+            return middle;
+        }
+        if ((found < key) == isAscending) {
+            low = middle + 1;
+        } else {
+            high = middle - 1;
+        }
+    }
+    return -1;
+}
+
+int IdOf(const cImportEntry& entry)
+{
+    return entry.ID;
+}
+
+// The place that keeps a list sorted upwards.
+template <typename tList, typename tKey>
+qsizetype PlaceFor(const tList& list, int key, const tKey& keyOf)
+{
+    if (list.isEmpty() || keyOf(list.last()) < key) {
+        return list.size();
+    }
+    const auto place = std::lower_bound(list.begin(), list.end(), key,
+                                        [&](const auto& element, int value) { return keyOf(element) < value; });
+    return place - list.begin();
+}
+
+// Equal by cImportEntry::isEqual means an equal hash, as long as both amounts are numbers.
+size_t CompareHash(const cImportEntry& entry)
+{
+    const double value = entry.ImportValue + 0.0; // -0.0 becomes 0.0: the two compare as equal
+    return qHashMulti(0, entry.ImportDate.toJulianDay(), entry.ImportAccount, entry.ImportBeneficiaryAccount,
+                      entry.ImportBeneficiary, entry.ImportBeneficiaryBLZ, entry.ImportPurpose,
+                      std::bit_cast<quint64>(value));
+}
+
+} // namespace
+
+void cImportHive::setImportEntryList(cImportEntryList entries)
+{
+    m_entries = std::move(entries);
+    m_groups.clear();
+    m_isIndexed = false;
+    m_index.clear();
+    for (const cImportEntry& entry : std::as_const(m_entries)) {
+        AddToGroup(entry.ImportAssignedEntry, entry.ID);
+    }
+}
+
+QStringList cImportHive::AccountsOf(const cImportEntryList& entries)
+{
+    QStringList accounts;
+    for (const cImportEntry& entry : entries) {
+        // Rows of one account stand together: the list is rarely searched.
+        if (accounts.isEmpty() || (accounts.last() != entry.ImportAccount && !accounts.contains(entry.ImportAccount))) {
+            accounts.append(entry.ImportAccount);
+        }
+    }
+    return accounts;
+}
+
+int cImportHive::NextId() const
+{
+    return m_entries.isEmpty() ? 1 : qMax(m_entries.first().ID, m_entries.last().ID) + 1;
+}
+
+qsizetype cImportHive::FindRow(int id) const
+{
+    return Bisect(m_entries, id, IdOf);
+}
+
+qsizetype cImportHive::FindGroup(int entryId) const
+{
+    return Bisect(m_groups, entryId, [](const cGroup& group) { return group.EntryId; });
+}
+
+bool cImportHive::IsImportEntryAvail(int entryId) const
+{
+    return FindGroup(entryId) >= 0;
+}
+
+int cImportHive::GetImportEntryCountByNumber(const QString& account) const
+{
+    return static_cast<int>(std::count_if(m_entries.begin(), m_entries.end(),
+                                          [&](const cImportEntry& entry) { return entry.ImportAccount == account; }));
+}
+
+double cImportHive::GetImportEntrySumByNumber(const QString& account) const
+{
+    double sum = 0.0;
+    for (const cImportEntry& entry : m_entries) {
+        sum += entry.ImportAccount == account ? entry.ImportValue : 0.0;
+    }
+    return sum;
+}
+
+bool cImportHive::IsImportItemAvail(const cImportEntry& entry) const
+{
+    BuildIndex();
+    if (m_oddValues > 0 || std::isnan(entry.ImportValue)) {
+        return std::any_of(m_entries.begin(), m_entries.end(),
+                           [&](const cImportEntry& row) { return row.isEqual(entry); });
+    }
+    const auto [first, last] = m_index.equal_range(CompareHash(entry));
+    return std::any_of(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqual(entry); });
+}
+
+std::optional<cImportEntry> cImportHive::GetImportEntryByID(int id) const
+{
+    const qsizetype row = FindRow(id);
+    return row < 0 ? std::nullopt : std::optional(m_entries.at(row));
+}
+
+std::optional<cImportEntry> cImportHive::GetImportEntryByAssignedID(int entryId) const
+{
+    const qsizetype group = FindGroup(entryId);
+    return group < 0 ? std::nullopt : GetImportEntryByID(m_groups.at(group).RowIds.first());
+}
+
+cImportEntryList cImportHive::GetImportEntriesByAssignedID(int entryId) const
+{
+    cImportEntryList entries;
+    const qsizetype group = FindGroup(entryId);
+    if (group < 0) {
+        return entries;
+    }
+    entries.reserve(m_groups.at(group).RowIds.size());
+    for (const int rowId : m_groups.at(group).RowIds) {
+        entries.append(m_entries.at(FindRow(rowId)));
+    }
+    return entries;
+}
+
+cImportEntryList cImportHive::GetImportEntryByArea(int entryId, QDate from, QDate to) const
+{
+    cImportEntryList entries = GetImportEntriesByAssignedID(entryId);
+    entries.removeIf([&](const cImportEntry& entry) { return entry.ImportDate < from || entry.ImportDate > to; });
+    return entries;
+}
+
+void cImportHive::Add(const cImportEntry& entry)
+{
+    m_entries.insert(PlaceFor(m_entries, entry.ID, IdOf), entry);
+    AddToGroup(entry.ImportAssignedEntry, entry.ID);
+    if (m_isIndexed) {
+        AddToIndex(entry);
+    }
+}
+
+void cImportHive::Change(const cImportEntry& entry)
+{
+    const qsizetype row = FindRow(entry.ID);
+    if (row < 0) {
+        return;
+    }
+    const cImportEntry before = m_entries.at(row);
+    m_entries[row] = entry;
+    if (before.ImportAssignedEntry != entry.ImportAssignedEntry) {
+        RemoveFromGroup(before.ImportAssignedEntry, entry.ID);
+        AddToGroup(entry.ImportAssignedEntry, entry.ID);
+    }
+    if (m_isIndexed) {
+        RemoveFromIndex(before);
+        AddToIndex(entry);
+    }
+}
+
+void cImportHive::Remove(int id)
+{
+    const qsizetype row = FindRow(id);
+    if (row < 0) {
+        return;
+    }
+    const cImportEntry before = m_entries.takeAt(row);
+    RemoveFromGroup(before.ImportAssignedEntry, id);
+    if (m_isIndexed) {
+        RemoveFromIndex(before);
+    }
+}
+
+void cImportHive::Clear()
+{
+    setImportEntryList({});
+}
+
+void cImportHive::AddToGroup(int entryId, int rowId)
+{
+    const qsizetype found = FindGroup(entryId);
+    if (found < 0) {
+        const qsizetype place = PlaceFor(m_groups, entryId, [](const cGroup& group) { return group.EntryId; });
+        m_groups.insert(place, {entryId, {rowId}});
+        return;
+    }
+    QList<int>& rows = m_groups[found].RowIds;
+    const bool isDescending = m_entries.size() > 1 && m_entries.first().ID > m_entries.last().ID;
+    rows.insert(isDescending ? rows.size() : PlaceFor(rows, rowId, [](int id) { return id; }), rowId);
+}
+
+void cImportHive::RemoveFromGroup(int entryId, int rowId)
+{
+    const qsizetype found = FindGroup(entryId);
+    if (found < 0) {
+        return;
+    }
+    QList<int>& rows = m_groups[found].RowIds;
+    if (const qsizetype place = Bisect(rows, rowId, [](int id) { return id; }); place >= 0) {
+        rows.removeAt(place);
+    }
+    if (rows.isEmpty()) {
+        m_groups.removeAt(found);
+    }
+}
+
+void cImportHive::AddToIndex(const cImportEntry& entry) const
+{
+    m_oddValues += std::isnan(entry.ImportValue) ? 1 : 0;
+    m_index.insert(CompareHash(entry), entry.ID);
+}
+
+void cImportHive::RemoveFromIndex(const cImportEntry& entry) const
+{
+    m_oddValues -= std::isnan(entry.ImportValue) ? 1 : 0;
+    m_index.remove(CompareHash(entry), entry.ID);
+}
+
+void cImportHive::BuildIndex() const
+{
+    if (m_isIndexed) {
+        return;
+    }
+    m_index.clear();
+    m_index.reserve(m_entries.size());
+    m_oddValues = 0;
+    for (const cImportEntry& entry : m_entries) {
+        AddToIndex(entry);
+    }
+    m_isIndexed = true;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "import/read/cStatementRead.h"
+#include "model/cImportEntry.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// What became of a statement file.
+struct cImportResult
+{
+    QString File;   // path as given
+    QString Format; // display name
+    int Read = 0;   // transactions in the file
+    int Staged = 0;
+    int Zero = 0;   // transactions without amount, never staged
+    int Failed = 0; // transactions that the database did not take, those behind the point of giving up included
+    cImportEntryList Duplicates; // not staged because an equal row is; each can be staged with eDuplicateTest::Skip
+    std::optional<qint64> ClosingBalance; // cents, signed
+    QList<cReadProblem> Problems;         // lines that could not be read
+    QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
+    QStringList Accounts;        // own account numbers of the file in their order; "" for statements without one
+    bool IsRefused = false;      // nothing was read; Message says why
+    bool IsCancelled = false;    // the user stopped; nothing of the file was staged
+    QString Message;             // German; empty when all went well
+    bool NeedsAccount = false;   // refused only because the file names no account and none was given
+    bool NeedsAssistant = false; // refused only because a table is not certain, see eUncertain
+    cImportEntryList Rows;       // with eStagingRun::Try: what would have been staged
+    QString Layout;              // name of the table layout that was recognised
+    QString AccountKey;          // of a table, for cTableMemory
+};

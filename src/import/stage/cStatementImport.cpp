@@ -1,0 +1,303 @@
+#include "import/stage/cStatementImport.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "core/cSettings.h"
+#include "import/mt940/modMT940.h"
+#include "import/read/cStatementSource.h"
+#include "import/read/modAccountNumber.h"
+#include "import/read/modStatementFile.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/modStatementFormat.h"
+#include "import/table/cTableMemory.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace {
+
+constexpr qsizetype quicklyRead = qsizetype{1} << 20; // bytes; the reader needs no progress below
+constexpr int progressStep = 100;                     // transactions between two looks at the user interface
+
+cImportResult Refuse(cImportResult result, const QString& message)
+{
+    result.IsRefused = true;
+    result.Message = message;
+    return result;
+}
+
+cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
+{
+    result.Format = modStatementFormat::Name(format);
+    return Refuse(std::move(result), modStatementFormat::Refusal(format));
+}
+
+// The form in which an account is staged: statements in one format name it by its number, others by its IBAN.
+class cKnownAccounts
+{
+public:
+    explicit cKnownAccounts(QStringList staged) : m_staged(std::move(staged)) {}
+
+    // The number itself when nothing is staged of the account, and when it could be several.
+    [[nodiscard]] const QString& FormOf(const QString& number)
+    {
+        auto known = m_forms.find(number);
+        if (known == m_forms.end()) {
+            known = m_forms.insert(number, Find(number));
+        }
+        return *known;
+    }
+
+private:
+    [[nodiscard]] QString Find(const QString& number) const
+    {
+        if (m_staged.contains(number)) {
+            return number;
+        }
+        QStringList same;
+        std::copy_if(m_staged.begin(), m_staged.end(), std::back_inserter(same),
+                     [&](const QString& staged) { return modAccountNumber::IsSame(number, {}, staged); });
+        return same.size() == 1 ? same.first() : number;
+    }
+
+    QStringList m_staged;
+    QHash<QString, QString> m_forms;
+};
+
+// Gives every row the form of its account that is staged already.
+void UseKnownAccounts(const QStringList& staged, cStatementRead& read)
+{
+    cKnownAccounts known(staged);
+    for (cImportEntry& entry : read.Entries) {
+        entry.ImportAccount = known.FormOf(entry.ImportAccount);
+    }
+    for (cSkippedRow& row : read.Skipped) {
+        row.Entry.ImportAccount = known.FormOf(row.Entry.ImportAccount);
+    }
+    for (cAccountBalance& balance : read.Balances) {
+        balance.Account = known.FormOf(balance.Account);
+    }
+}
+
+// Counts what becomes of each transaction. A database that refuses twice in a row will refuse the rest as well, and
+// every refusal shows a message: it is not asked any further.
+class cTally
+{
+public:
+    explicit cTally(cImportResult& result) : m_result(result) {}
+
+    void Count(eStaged outcome, const cImportEntry& entry)
+    {
+        m_inARow = outcome == eStaged::Failed ? m_inARow + 1 : 0;
+        switch (outcome) {
+        case eStaged::Staged: ++m_result.Staged; break;
+        case eStaged::Zero: ++m_result.Zero; break;
+        case eStaged::Duplicate: m_result.Duplicates.append(entry); break;
+        case eStaged::Failed: ++m_result.Failed; break;
+        }
+    }
+
+    [[nodiscard]] bool IsHopeless() const { return m_inARow >= 2; }
+
+    void GiveUp(int rest) { m_result.Failed += rest; }
+
+private:
+    cImportResult& m_result;
+    int m_inARow = 0;
+};
+
+// The result of a file that the user stopped: it names the file and nothing that was in it.
+cImportResult Cancelled(const cImportResult& result)
+{
+    cImportResult cancelled;
+    cancelled.File = result.File;
+    cancelled.Format = result.Format;
+    cancelled.IsCancelled = true;
+    return cancelled;
+}
+
+void ReportFailures(cImportResult& result)
+{
+    if (result.Failed > 0) {
+        result.Message = cText::Tr("Die Datenbank hat {0} Umsätze nicht angenommen. Sie können die Datei später noch "
+                                   "einmal einlesen; was schon übernommen ist, wird dabei erkannt.",
+                                   {QString::number(result.Failed)});
+        result.Problems.append({0, result.Message});
+    }
+}
+
+} // namespace
+
+cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory,
+                                   cBankBalances* balances)
+    : m_data(data),
+      m_hive(hive),
+      m_staging(hive),
+      m_memory(memory),
+      m_balances(balances)
+{
+}
+
+cImportResult cStatementImport::ImportFile(const QString& path, const cImportOptions& options, cProgress& progress)
+{
+    const modStatementFile::cContent content = modStatementFile::Read(path);
+    if (!content.Failure.isEmpty()) {
+        cImportResult result;
+        result.File = path;
+        return Refuse(std::move(result), content.Failure);
+    }
+    return ImportSource(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
+}
+
+cImportResult cStatementImport::ImportText(const QString& path, const QString& text, const cImportOptions& options,
+                                           cProgress& progress)
+{
+    return ImportSource({path, {}, text}, options, progress);
+}
+
+cImportResult cStatementImport::ImportSource(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress)
+{
+    cImportResult result;
+    result.File = source.Name;
+    const eStatementFormat format = modStatementFormat::Detect(source);
+    if (modStatementFormat::Reader(format) == nullptr) {
+        return RefuseFormat(std::move(result), format);
+    }
+    result.Format = modStatementFormat::Name(format);
+    if (const QString reason = WhyNot(format, options); !reason.isEmpty()) {
+        return Refuse(std::move(result), reason);
+    }
+    cStatementRead read = Read(source, format, options, progress);
+    if (progress.IsCancelled()) {
+        result.IsCancelled = true;
+        return result;
+    }
+    result.Layout = read.Layout;
+    result.AccountKey = read.AccountKey;
+    result.NeedsAccount = read.NeedsAccount;
+    result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable
+        && (read.IsGuessed || read.NeedsAccount || !read.Refusal.isEmpty());
+    if (!read.Refusal.isEmpty() || read.NeedsAccount || result.NeedsAssistant) {
+        result.Problems = read.Problems;
+        result.Skipped = read.Skipped;
+        return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
+    }
+    if (read.IsGuessed) {
+        read.Problems.prepend({0, modStatementFile::GuessedColumns()});
+    }
+    progress.showProgressBar(static_cast<int>(read.Entries.size()));
+    const cUndoStep step(m_data, cText::Tr("Kontoauszug eingelesen"));
+    cUndoPart part(m_data);
+    Stage(std::move(read), options, progress, result);
+    if (result.IsCancelled) {
+        part.Revert();
+        result = Cancelled(result);
+    }
+    return result;
+}
+
+// Why the file is not even read; empty when nothing speaks against it.
+QString cStatementImport::WhyNot(eStatementFormat format, const cImportOptions& options) const
+{
+    if (m_data.IsReadOnly() && options.Run == eStagingRun::Write) {
+        return cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht übernommen werden.");
+    }
+    const bool isForTables = options.Table.Map || !options.Table.Profile.isEmpty();
+    if (isForTables && !modStatementFormat::IsTable(format)) {
+        return cText::Tr("Spalten und Aufbau lassen sich nur bei Tabellen angeben. Die Datei ist keine: {0}",
+                         {modStatementFormat::Name(format)});
+    }
+    return {};
+}
+
+// A large file is read while the progress box stays alive. Its thread gets a memory of its own, because the settings
+// belong to this one.
+cStatementRead cStatementImport::Read(const cStatementSource& source, eStatementFormat format,
+                                      const cImportOptions& options, cProgress& progress)
+{
+    const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
+    cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory};
+    if (source.Bytes.size() <= quicklyRead) {
+        return reader(source, readOptions);
+    }
+    cSettings settings(m_data);
+    const cTableMemory memory(settings);
+    readOptions.Memory = m_memory == nullptr ? nullptr : &memory;
+    cStatementRead read;
+    progress.Run([&] { read = reader(source, readOptions); });
+    return read;
+}
+
+double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
+                                     const QString& defaultAccount)
+{
+    progress.showProgressBar(modMT940::ProgressMaximum(text));
+    cStatementRead read = modMT940::Read(text, defaultAccount);
+    progress.addProgressValue(static_cast<int>(text.count(u":86:")));
+    cImportResult result;
+    Stage(std::move(read), options, progress, result);
+    return modAmount::ToEuros(result.ClosingBalance.value_or(0));
+}
+
+cStaging& cStatementImport::StagingFor(eStagingRun run)
+{
+    if (run == eStagingRun::Write) {
+        m_trial.reset(); // it would not know what is written now
+        return m_staging;
+    }
+    return m_trial ? *m_trial : m_trial.emplace(m_hive, run);
+}
+
+void cStatementImport::Stage(cStatementRead read, const cImportOptions& options, cProgress& progress,
+                             cImportResult& result)
+{
+    cStaging& staging = StagingFor(options.Run);
+    UseKnownAccounts(staging.Accounts(), read);
+    result.Read = static_cast<int>(read.Entries.size());
+    result.ClosingBalance = read.ClosingBalance;
+    result.Problems = read.Problems;
+    result.Skipped = read.Skipped;
+    result.Accounts = cImportHive::AccountsOf(read.Entries);
+    cTally tally(result);
+    for (int i = 0; i < result.Read; ++i) {
+        if (i > 0 && i % progressStep == 0) {
+            progress.addProgressValue(progressStep);
+        }
+        if (progress.IsCancelled()) {
+            result.IsCancelled = true;
+            break;
+        }
+        cImportEntry entry = read.Entries.at(i);
+        const eStaged outcome = staging.StageImportEntry(entry, options.Duplicates);
+        tally.Count(outcome, entry);
+        if (outcome == eStaged::Staged && options.Run == eStagingRun::Try) {
+            result.Rows.append(entry);
+        }
+        if (tally.IsHopeless()) {
+            tally.GiveUp(result.Read - i - 1);
+            break;
+        }
+    }
+    progress.addProgressValue(result.Read - result.Read / progressStep * progressStep);
+    ReportFailures(result);
+    KeepBalances(read, options.Run, result);
+}
+
+// Of a file that was taken in part, the balances would only say that something is missing.
+void cStatementImport::KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result)
+{
+    const bool isComplete = !result.IsCancelled && result.Failed == 0;
+    if (m_balances == nullptr || m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
+        return;
+    }
+    if (!m_balances->Add(read.Balances, read.Entries)) {
+        result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
+    }
+}

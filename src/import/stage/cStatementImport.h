@@ -1,0 +1,74 @@
+#pragma once
+
+#include "import/read/cReadOptions.h"
+#include "import/stage/cImportResult.h"
+#include "import/stage/cStaging.h"
+#include "import/stage/modStatementFormat.h"
+
+#include <QString>
+
+#include <optional>
+
+class cBankBalances;
+class cDataAccess;
+class cImportHiveCache;
+class cProgress;
+struct cStatementSource;
+
+// What becomes of a table whose columns were guessed, cannot be read or lack an account: it is read as far as that
+// goes, or the caller asks the user first.
+enum class eUncertain { Read, Ask };
+
+struct cImportOptions
+{
+    eDuplicateTest Duplicates = eDuplicateTest::Test;
+    QString DefaultAccount; // own account number for statements that do not name theirs
+    eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
+    cTableChoice Table = {}; // what the user chose for a file in rows and columns
+    eStagingRun Run = eStagingRun::Write;
+    eUncertain Uncertain = eUncertain::Read;
+};
+
+// Statement files into staged rows.
+class cStatementImport
+{
+public:
+    // With a memory, layouts that the user confirmed once are read the same way again. With `balances`, what the bank
+    // says its accounts hold is kept there. Both outlive the import.
+    cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory = nullptr,
+                     cBankBalances* balances = nullptr);
+
+    // Reads a file of any format the program knows and stages its transactions. Whatever the file holds, the result
+    // says what happened; only a refusing database shows a message of its own. An account that is already staged under
+    // its other form (IBAN or number) keeps that form, so that a booking is known again in another format.
+    [[nodiscard]] cImportResult ImportFile(const QString& path, const cImportOptions& options, cProgress& progress);
+
+    // The same for a file that was loaded before.
+    [[nodiscard]] cImportResult ImportSource(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress);
+
+    // The same for a text whose format the name and the content tell.
+    [[nodiscard]] cImportResult ImportText(const QString& path, const QString& text, const cImportOptions& options,
+                                           cProgress& progress);
+
+    // Stages the transactions of an MT940 or MT942 text, as the online fetch hands it over. The closing balance in
+    // euros, negative unless its mark contains "C"; 0 when there is none or when a :86: line stands before its :61:
+    // line, in which case nothing is staged, because the text is read to its end before the first transaction is.
+    double ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
+                       const QString& defaultAccount);
+
+private:
+    [[nodiscard]] cStatementRead Read(const cStatementSource& source, eStatementFormat format,
+                                      const cImportOptions& options, cProgress& progress);
+    [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;
+    [[nodiscard]] cStaging& StagingFor(eStagingRun run);
+    void Stage(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result);
+    void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
+
+    cDataAccess& m_data;
+    cImportHiveCache& m_hive;
+    cStaging m_staging;
+    std::optional<cStaging> m_trial; // of files that are only tried one after the other
+    const cTableMemory* m_memory;
+    cBankBalances* m_balances;
+};

@@ -1,0 +1,66 @@
+#include "views/book/cBackupSettings.h"
+
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cBackupPlan.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+
+namespace {
+
+cBackupPlan PlanOf(const cBackupSettings::cParts& parts)
+{
+    return {{parts.Shell, parts.User, parts.Clock}, parts.Book, parts.Configuration};
+}
+
+// Makes the folder when it is missing, so that a wrong one shows now and not when the first backup is due.
+bool IsUsable(const QString& folder)
+{
+    return QDir().mkpath(folder) && QFileInfo(folder).isWritable();
+}
+
+} // namespace
+
+cBackupSettings::cFields cBackupSettings::Current() const
+{
+    const cBackupPlan plan = PlanOf(m_parts);
+    return {plan.Count(), QDir::toNativeSeparators(plan.Folder())};
+}
+
+QStringList cBackupSettings::Copies() const
+{
+    QStringList lines;
+    const QLocale german(QLocale::German, QLocale::Germany);
+    for (const auto& [path, day] : PlanOf(m_parts).Copies()) {
+        lines.append(
+            cText::Tr("{0}, {1}", {modDate::ToGerman(day), german.formattedDataSize(QFileInfo(path).size(), 1)}));
+    }
+    return lines;
+}
+
+QString cBackupSettings::ChooseFolder(const QString& current) const
+{
+    const QString chosen = m_parts.User.ChooseFolder(cText::Tr("Ordner für automatische Datensicherungen"), current);
+    return chosen.isEmpty() ? current : QDir::toNativeSeparators(chosen);
+}
+
+bool cBackupSettings::Save(const cFields& fields) const
+{
+    const QString folder = QDir::fromNativeSeparators(fields.Folder.trimmed());
+    if (fields.Count > 0 && !folder.isEmpty() && (QDir::isRelativePath(folder) || !IsUsable(folder))) {
+        m_parts.User.Show(eTone::Exclamation,
+                          cText::Tr("In den Ordner '{0}' kann nicht geschrieben werden.", {fields.Folder}));
+        return false;
+    }
+    if (!PlanOf(m_parts).Save(fields.Count, folder)) {
+        m_parts.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,246 @@
+#include "views/book/cBookFlow.h"
+
+#include "base/cClock.h"
+#include "base/cRescue.h"
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cBackup.h"
+#include "core/cBackupPlan.h"
+#include "core/cBook.h"
+#include "core/cConfiguration.h"
+#include "store/cDatabase.h"
+#include "store/modBookFile.h"
+#include "views/book/cBookHost.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const char* const databaseFilter = QT_TRANSLATE_NOOP("cText", "Datenbanken|*.db|Alle Dateien|*.*");
+const char* const backupFilter = QT_TRANSLATE_NOOP("cText", "Backup-Datei|*.backup|Alle Dateien|*.*");
+
+QString Shown(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+} // namespace
+
+void cBookFlow::NewBook()
+{
+    const QString path = AskForNewPath();
+    if (path.isEmpty()) {
+        return;
+    }
+    // The user agreed to replace a file that is there, but it may be a book: it stays under another name.
+    const bool isTaken = m_parts.Shell.FileExists(path);
+    const QString kept =
+        isTaken ? modBookFile::KeepAside(m_parts.Shell, path, m_parts.Clock.Today(), u"ersetzt"_s) : QString();
+    if (isTaken && kept.isEmpty()) {
+        ShowCannotCreate(path);
+        return;
+    }
+    const QString former = m_parts.Book.Path();
+    if (!CopyTemplate(path) || !m_parts.Host.Switch(path, eBookOrigin::Fresh)) {
+        (void)cBackup(m_parts.Book.Database(), m_parts.Shell).PutBack(path, kept);
+        return;
+    }
+    Remember(former, path);
+    if (!kept.isEmpty()) {
+        m_parts.User.Show(eTone::Information,
+                          cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {Shown(kept)}));
+    }
+}
+
+// A place for a new book; empty when the user gives up.
+QString cBookFlow::AskForNewPath() const
+{
+    const QString folder = QFileInfo(m_parts.Book.Path()).absolutePath();
+    const QString path = m_parts.User.ChooseSavePath(cText::Tr("Neue Datenbank"), cText::Tr(databaseFilter),
+                                                     QDir(folder).filePath(u"Kontorelle-Neu"_s));
+    if (!path.isEmpty() && IsOpenBook(path)) {
+        m_parts.User.Show(
+            eTone::Exclamation,
+            cText::Tr("Die Datenbank '{0}' ist gerade geöffnet. Bitte wählen Sie einen anderen Namen.", {Shown(path)}));
+        return {};
+    }
+    return path.isEmpty() || m_parts.Host.IsInUse(path) ? QString() : path;
+}
+
+bool cBookFlow::CopyTemplate(const QString& path) const
+{
+    const QString source = m_parts.Shell.InstalledFile(u"template.dat"_s);
+    if (!m_parts.Shell.FileExists(source)) {
+        m_parts.User.Show(
+            eTone::Critical,
+            cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie Datei "
+                      "'template.dat' konnte nicht gefunden werden!"));
+        return false;
+    }
+    if (!m_parts.Shell.CopyFile(source, path)) {
+        ShowCannotCreate(path);
+        return false;
+    }
+    return true;
+}
+
+void cBookFlow::ShowCannotCreate(const QString& path) const
+{
+    m_parts.User.Show(
+        eTone::Critical,
+        cText::Tr(
+            "Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den Speicherplatz: "
+            "\n{0}",
+            {Shown(QFileInfo(path).absolutePath())}));
+}
+
+void cBookFlow::SwitchBook()
+{
+    const QString path = AskForBook();
+    if (path.isEmpty()) {
+        return;
+    }
+    if (IsOpenBook(path)) {
+        m_parts.User.Show(eTone::Information, cText::Tr("Die Datenbank '{0}' ist bereits geöffnet.", {Shown(path)}));
+        return;
+    }
+    Open(path);
+}
+
+// One of the known books, or a file of the user's choice; empty when the user gives up.
+QString cBookFlow::AskForBook() const
+{
+    const QString current = m_parts.Book.Path();
+    const QStringList books = Books();
+    if (books.isEmpty()) {
+        return m_parts.Rescue.ChooseDatabase(current).value_or(QString());
+    }
+    QStringList items;
+    for (const QString& book : books) {
+        items.append(Shown(book));
+    }
+    const QString other = cText::Tr("Andere Datei wählen …");
+    const std::optional<QString> chosen = m_parts.User.Choose({.Text = cText::Tr("&Datenbank, die geöffnet wird:"),
+                                                               .Title = cText::Tr("Datenbank wechseln"),
+                                                               .Items = items + QStringList(other),
+                                                               .Proposal = items.constFirst()});
+    if (chosen && *chosen == other) {
+        return m_parts.Rescue.ChooseDatabase(current).value_or(QString());
+    }
+    return chosen ? books.value(items.indexOf(*chosen)) : QString();
+}
+
+void cBookFlow::Open(const QString& path) const
+{
+    const QString former = m_parts.Book.Path();
+    if (m_parts.Host.Switch(path, eBookOrigin::Existing)) {
+        Remember(former, path);
+    }
+}
+
+void cBookFlow::MakeBackup()
+{
+    const QString name = u"Kontorelle-"_s + modDate::ToIso(m_parts.Clock.Today()) + u".backup"_s;
+    const QString target = m_parts.User.ChooseSavePath(cText::Tr("Datensicherung erstellen"), cText::Tr(backupFilter),
+                                                       QDir(LastFolder()).filePath(name));
+    if (target.isEmpty()) {
+        return;
+    }
+    const QString problem = cBackup(m_parts.Book.Database(), m_parts.Shell).Make(target);
+    if (!problem.isEmpty()) {
+        m_parts.User.Show(eTone::Critical,
+                          cText::Tr("Die Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
+        return;
+    }
+    m_parts.Configuration.SaveSetting(u"LastBackupFolder"_s, QFileInfo(target).absolutePath(), eSettingPlace::Registry);
+    m_parts.User.Show(eTone::Information,
+                      cText::Tr("Die Datensicherung '{0}' wurde erstellt und geprüft. Sie enthält:\n{1}.",
+                                {Shown(target), modBookFile::Describe(modBookFile::Look(target))}));
+}
+
+void cBookFlow::LoadBackup()
+{
+    const std::optional<QString> backup = m_parts.Rescue.ChooseBackup(BackupFolder());
+    if (!backup) {
+        return;
+    }
+    if (IsOpenBook(*backup)) {
+        m_parts.User.Show(eTone::Information, cText::Tr("Die Datenbank '{0}' ist bereits geöffnet.", {Shown(*backup)}));
+        return;
+    }
+    if (!IsWanted(*backup)) {
+        return;
+    }
+    const std::optional<QString> kept = m_parts.Host.Restore(*backup);
+    if (kept) {
+        m_parts.User.Show(eTone::Information,
+                          cText::Tr("Die Datensicherung wurde geladen. Die bisherige Datenbank wurde "
+                                    "als '{0}' aufgehoben.",
+                                    {Shown(*kept)}));
+    }
+}
+
+// Shows what the backup holds beside what it would replace, and asks.
+bool cBookFlow::IsWanted(const QString& backup) const
+{
+    const modBookFile::cContent content = modBookFile::Look(backup);
+    if (!modBookFile::IsSound(content)) {
+        m_parts.User.Show(
+            eTone::Exclamation,
+            cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {Shown(backup)}));
+        return false;
+    }
+    const QString book = m_parts.Book.Path();
+    return m_parts.User.Ask(
+               {.Text = cText::Tr("Die Datensicherung '{0}' enthält:\n{1}.\n\nDie geöffnete Datenbank '{2}' "
+                                  "enthält:\n{3}.\n\nMöchten Sie die geöffnete Datenbank durch die Datensicherung "
+                                  "ersetzen? Die bisherige Datei bleibt unter anderem Namen erhalten.",
+                                  {Shown(backup), modBookFile::Describe(content), Shown(book),
+                                   modBookFile::Describe(modBookFile::Look(book))}),
+                .Title = cText::Tr("Datensicherung laden")})
+        == eAnswer::Yes;
+}
+
+QStringList cBookFlow::Books() const
+{
+    QStringList books = m_parts.Configuration.GetSetting(u"DatabaseList"_s).split(u'|', Qt::SkipEmptyParts);
+    books.removeIf([&](const QString& book) { return IsOpenBook(book) || !m_parts.Shell.FileExists(book); });
+    return books;
+}
+
+// Puts both books at the front of the list. One that is missing at the moment may lie on a drive that comes back, so it
+// stays in the list.
+void cBookFlow::Remember(const QString& former, const QString& current) const
+{
+    QStringList books{current, former};
+    books += m_parts.Configuration.GetSetting(u"DatabaseList"_s).split(u'|', Qt::SkipEmptyParts);
+    // The list has no way to write a name that contains its own separator.
+    books.removeIf([](const QString& book) { return book.contains(u'|'); });
+    books.removeDuplicates();
+    m_parts.Configuration.SaveSetting(u"DatabaseList"_s, books.mid(0, MostBooks).join(u'|'), eSettingPlace::Registry);
+}
+
+bool cBookFlow::IsOpenBook(const QString& path) const
+{
+    return cBackup::IsSameFile(path, m_parts.Book.Path());
+}
+
+// The folder of the last backup, else that of the book.
+QString cBookFlow::LastFolder() const
+{
+    const QString folder = m_parts.Configuration.GetSetting(u"LastBackupFolder"_s);
+    return !folder.isEmpty() && QDir(folder).exists() ? folder : QFileInfo(m_parts.Book.Path()).absolutePath();
+}
+
+// Where backups are found: those of the user, else those that the program makes by itself.
+QString cBookFlow::BackupFolder() const
+{
+    const cBackupPlan plan({m_parts.Shell, m_parts.User, m_parts.Clock}, m_parts.Book, m_parts.Configuration);
+    const bool hasOwn = !m_parts.Configuration.GetSetting(u"LastBackupFolder"_s).isEmpty();
+    return !hasOwn && !plan.Copies().isEmpty() ? plan.Folder() : LastFolder();
+}

@@ -1,0 +1,82 @@
+#include "views/book/cNationalSettings.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cConfiguration.h"
+#include "store/cDataAccess.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qint64 sampleCents = 123456;
+
+// Names are stored as cultures, "de-DE", and read with "-" or "_".
+QString Culture(const QString& stored, const QString& missing)
+{
+    return stored.isEmpty() ? missing : QString(stored).replace(u'_', u'-');
+}
+
+} // namespace
+
+cNationalSettings::cNationalSettings(const cParts& parts, QObject* parent) : QObject(parent), m_parts(parts)
+{
+}
+
+QList<cNationalSettings::cOption> cNationalSettings::Languages()
+{
+    return {{u"de"_s, u"Deutsch"_s}, {u"en"_s, u"English"_s}};
+}
+
+QList<cNationalSettings::cOption> cNationalSettings::Formats()
+{
+    return {{u"de-DE"_s, cText::Tr("Deutschland")},       {u"de-AT"_s, cText::Tr("Österreich")},
+            {u"de-CH"_s, cText::Tr("Schweiz")},           {u"de-LU"_s, cText::Tr("Luxemburg")},
+            {u"en-GB"_s, cText::Tr("Großbritannien")},    {u"en-IE"_s, cText::Tr("Irland")},
+            {u"en-US"_s, cText::Tr("Vereinigte Staaten")}};
+}
+
+QList<cNationalSettings::cOption> cNationalSettings::Currencies()
+{
+    return {{QString(), cText::Tr("wie im Zahlenformat")}, {u"de-DE"_s, cText::Tr("Euro")},
+            {u"de-CH"_s, cText::Tr("Schweizer Franken")},  {u"en-GB"_s, cText::Tr("Britisches Pfund")},
+            {u"en-US"_s, cText::Tr("US-Dollar")},          {u"da-DK"_s, cText::Tr("Dänische Krone")},
+            {u"pl-PL"_s, cText::Tr("Polnischer Złoty")},   {u"cs-CZ"_s, cText::Tr("Tschechische Krone")},
+            {u"hu-HU"_s, cText::Tr("Ungarischer Forint")}, {u"id-ID"_s, cText::Tr("Indonesische Rupiah")}};
+}
+
+cNationalSettings::cFields cNationalSettings::Current() const
+{
+    const cConfiguration& configuration = m_parts.Configuration;
+    const QString language = configuration.GetSetting(u"LanguageName"_s);
+    return {language.isEmpty() ? u"de"_s : language, Culture(configuration.GetSetting(u"LanguageFormat"_s), u"de-DE"_s),
+            Culture(configuration.GetSetting(u"LanguageCurrency"_s), {})};
+}
+
+cNationalSettings::cPreview cNationalSettings::Preview(const cFields& fields) const
+{
+    const QString culture = fields.Currency.isEmpty() ? fields.Format : fields.Currency;
+    return {cAmountFormat::Sample(culture, sampleCents), cAmountFormat::Sample(culture, -sampleCents),
+            modDate::ToGerman(m_parts.Clock.Today())};
+}
+
+bool cNationalSettings::Save(const cFields& fields)
+{
+    const cFields before = Current();
+    cConfiguration& configuration = m_parts.Configuration;
+    const bool isStored = !m_parts.Data.IsReadOnly()
+        && configuration.SaveSetting(u"LanguageName"_s, fields.Language, eSettingPlace::Database)
+        && configuration.SaveSetting(u"LanguageFormat"_s, fields.Format, eSettingPlace::Database)
+        && configuration.SaveSetting(u"LanguageCurrency"_s, fields.Currency, eSettingPlace::Database);
+    m_parts.Format.CultureChanged();
+    Q_EMIT CultureChanged();
+    if (!isStored) {
+        m_parts.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
+    } else if (fields.Language != before.Language) {
+        m_parts.User.Show(eTone::Information, cText::Tr("Die neue Sprache gilt ab dem nächsten Start des Programms."));
+    }
+    return isStored;
+}

@@ -1,0 +1,82 @@
+#include "views/chart/cChartMaker.h"
+
+#include "core/cAmountFormat.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/chart/cForecast.h"
+#include "views/chart/modChart.h"
+#include "views/chart/modForecast.h"
+#include "views/report/modReport.h"
+
+#include <algorithm>
+
+namespace {
+
+// Without the future a range ends today at the latest. One that begins before any entry can, begins with the first.
+modPeriod::cRange Cut(modPeriod::cRange range, const cChartWish& wish, QDate today)
+{
+    if (!modReport::HasStart(range)) {
+        range.Start = {};
+    }
+    if (!wish.ShowsFuture && (!range.End.isValid() || range.End > today)) {
+        range.End = today;
+    }
+    return range;
+}
+
+modChart::cPeriod Fetch(cDataAccess& data, const modPeriod::cRange& range, const QString& account)
+{
+    cEntryQuery query;
+    query.Start = range.Start;
+    query.End = range.End;
+    query.Account = account;
+    return {range, data.GetEntries(query)};
+}
+
+std::optional<qint64> LimitOf(cDataAccess& data, const QString& account)
+{
+    const std::optional<cTemplateItem> item = account.isEmpty() ? std::nullopt : data.FindAccount(account);
+    return item ? modForecast::Limit(*item) : std::nullopt;
+}
+
+} // namespace
+
+cChartData cChartMaker::Make(const cChartWish& wish)
+{
+    if (wish.Kind == eChartKind::Balances) {
+        return MakeBalances(wish);
+    }
+    const auto money = [&format = m_format](qint64 cents) { return format.Cents(cents); };
+    modChart::cInput input{wish, Fetch(m_data, Cut(wish.Range, wish, m_today), wish.Account), {}, m_today, money};
+    if (wish.Second) {
+        input.Second = Fetch(m_data, Cut(*wish.Second, wish, m_today), wish.Account);
+    }
+    switch (wish.Kind) {
+    case eChartKind::ExpensePie:
+    case eChartKind::IncomePie: return modChart::Pie(input);
+    case eChartKind::ExpenseMonths:
+    case eChartKind::IncomeMonths: return modChart::MonthsByCategory(input);
+    case eChartKind::Months:
+    case eChartKind::Balances: break;
+    }
+    return modChart::Months(input);
+}
+
+cChartData cChartMaker::MakeBalances(const cChartWish& wish)
+{
+    cForecast forecast(m_data, m_today);
+    const auto average = wish.ShowsAverage ? cForecast::eAverage::With : cForecast::eAverage::Without;
+    // The forecast is wanted on its own, whatever the period and the switch for future entries say.
+    const QDate ahead = m_today.addMonths(std::clamp(wish.ForecastMonths, 0, cForecast::MostMonths));
+    modPeriod::cRange range = Cut(wish.Range, wish, m_today);
+    range.End = range.End.isValid() && wish.Range.End.isValid() ? range.End : m_today;
+    range.End = wish.ForecastMonths > 0 ? std::max(range.End, ahead) : range.End;
+    const cBalanceDays days = forecast.Days(range, average);
+    modChart::cBalanceInput input{wish,    days,
+                                  {},      LimitOf(m_data, wish.Account),
+                                  m_today, [&format = m_format](qint64 cents) { return format.Cents(cents); }};
+    if (wish.Second && wish.Second->Start.isValid() && wish.Second->End.isValid()) {
+        input.Second = forecast.Days(Cut(*wish.Second, wish, m_today), cForecast::eAverage::Without);
+    }
+    return modChart::Balances(input);
+}

@@ -1,0 +1,139 @@
+#include "views/chart/cForecast.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "model/modBalance.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/chart/modForecast.h"
+
+#include <algorithm>
+
+namespace {
+
+QDate FirstDay(const cEntryItemList& entries, QDate latest)
+{
+    QDate first = latest;
+    for (const cEntryItem& entry : entries) {
+        first = std::min(first, entry.EntryDate);
+    }
+    return first;
+}
+
+} // namespace
+
+QHash<QString, qint64> cForecast::BalancesBefore(QDate day)
+{
+    cEntryQuery query;
+    query.End = day.addDays(-1);
+    QHash<QString, qint64> balances;
+    const QList<cAccountSum> sums = m_data.GetSums(query, true);
+    for (const cAccountSum& sum : sums) {
+        const auto add = [&](const QString& account) {
+            balances[account] +=
+                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, account);
+        };
+        add(sum.EntryAccount);
+        if (sum.EntryType == modWord::Umbuchung && sum.EntryAccountMove != sum.EntryAccount) {
+            add(sum.EntryAccountMove);
+        }
+    }
+    return balances;
+}
+
+QStringList cForecast::AccountNames()
+{
+    QStringList names;
+    const cTemplateItemList accounts = modTemplate::InOrder(m_data.GetAccounts());
+    for (const cTemplateItem& account : accounts) {
+        names.append(account.TemplateName);
+    }
+    return names;
+}
+
+cBalanceDays cForecast::Days(const modPeriod::cRange& range, eAverage average)
+{
+    modForecast::cInput input;
+    input.First = range.Start;
+    input.Last = std::min(range.End, m_today.addMonths(MostMonths));
+    if (input.First.isValid() && input.Last < input.First) {
+        return {};
+    }
+    cEntryQuery query;
+    query.Start = input.First;
+    query.End = input.Last;
+    input.Accounts = AccountNames();
+    input.Entries = m_data.GetEntries(query);
+    if (input.First.isValid()) {
+        input.Opening = BalancesBefore(input.First);
+    } else {
+        input.First = FirstDay(input.Entries, std::min(m_today, input.Last));
+    }
+    cBalanceDays days = modForecast::Days(input);
+    if (average == eAverage::With && input.Last > m_today) {
+        AddAverage(days);
+    }
+    return days;
+}
+
+void cForecast::AddAverage(cBalanceDays& days)
+{
+    cEntryQuery spending;
+    spending.Start = m_today.addYears(-1).addDays(1);
+    spending.End = m_today;
+    spending.Kind = eBookingKind::Single;
+    const cEntryItemList entries = m_data.GetEntries(spending);
+    modForecast::AddAverage(days, modForecast::Average(entries, spending.Start, m_today), m_today);
+}
+
+cBalanceDays cForecast::Ahead(int months, eAverage average)
+{
+    return Days({m_today, m_today.addMonths(months)}, average);
+}
+
+QList<cLimitWarning> cForecast::Warnings()
+{
+    cTemplateItemList accounts = modTemplate::InOrder(m_data.GetAccounts());
+    accounts.removeIf(
+        [](const cTemplateItem& account) { return !modTemplate::IsVisible(account) || !modForecast::Limit(account); });
+    if (accounts.isEmpty()) {
+        return {};
+    }
+    modForecast::cInput input;
+    input.First = m_today;
+    input.Last = m_today.addDays(WarningDays);
+    cEntryQuery query;
+    query.Start = input.First;
+    query.End = input.Last;
+    input.Opening = BalancesBefore(input.First);
+    input.Entries = m_data.GetEntries(query);
+    for (const cTemplateItem& account : std::as_const(accounts)) {
+        input.Accounts.append(account.TemplateName);
+    }
+    const cBalanceDays days = modForecast::Days(input);
+    QList<cLimitWarning> warnings;
+    for (const cTemplateItem& account : std::as_const(accounts)) {
+        const auto warning =
+            modForecast::Below(days, account.TemplateName, *modForecast::Limit(account), input.Entries, m_today);
+        if (warning) {
+            warnings.append(*warning);
+        }
+    }
+    return warnings;
+}
+
+QString cForecast::Text(const cLimitWarning& warning, const cAmountFormat& format)
+{
+    const QString limit = format.Cents(warning.Limit);
+    const QString balance = format.Cents(warning.Cents);
+    if (warning.Entry.ID == 0) {
+        return cText::Tr("Das Konto '{0}' liegt mit {1} unter seinem Limit von {2}.",
+                         {warning.Account, balance, limit});
+    }
+    const QString what =
+        warning.Entry.EntryDescription.isEmpty() ? warning.Entry.EntryCategory : warning.Entry.EntryDescription;
+    const QString amount = format.Cents(modBalance::Effect(warning.Entry, warning.Account));
+    return cText::Tr("Am {0} fällt das Konto '{1}' mit '{2}' ({3}) auf {4} und damit unter sein Limit von {5}.",
+                     {modDate::ToGerman(warning.Day), warning.Account, what, amount, balance, limit});
+}

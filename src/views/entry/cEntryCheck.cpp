@@ -1,0 +1,108 @@
+#include "views/entry/cEntryCheck.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modSum.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "views/entry/cEntrySuggestions.h"
+#include "views/entry/modEntryFields.h"
+#include "views/entry/modSplitParts.h"
+
+#include <algorithm>
+
+namespace {
+
+bool IsSplit(const cEntryFields& fields)
+{
+    return fields.Face == eEntryFace::Split;
+}
+
+} // namespace
+
+eEntrySaved cEntryCheck::Check(const cEntryFields& fields)
+{
+    if (const eEntrySaved amounts = CheckAmounts(fields); amounts != eEntrySaved::Saved) {
+        return amounts;
+    }
+    const bool isRight = fields.Face == eEntryFace::StartBalance ? CheckAccount(fields) : CheckChoices(fields);
+    return isRight ? CheckDays(fields) : eEntrySaved::Refused;
+}
+
+eEntrySaved cEntryCheck::CheckAmounts(const cEntryFields& fields)
+{
+    if (!modSum::Evaluate(fields.Amount)) {
+        return eEntrySaved::BadAmount;
+    }
+    for (int row = 0; IsSplit(fields) && row < fields.Parts.size(); ++row) {
+        const cSplitPart& part = fields.Parts.at(row);
+        if (!modSplitParts::IsBlank(part) && !modSum::Evaluate(part.Amount)) {
+            m_failedPart = row;
+            return eEntrySaved::BadPart;
+        }
+    }
+    return eEntrySaved::Saved;
+}
+
+bool cEntryCheck::CheckChoices(const cEntryFields& fields)
+{
+    if (!HasCategory(fields)) {
+        return Refuse(cEntrySuggestions::VisibleCategories(m_data).isEmpty()
+                          ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
+                          : cText::Tr("Bitte erst eine Kategorie wählen!"));
+    }
+    if (fields.Type.isEmpty()) {
+        return Refuse(cText::Tr("Bitte erst eine Buchungsart wählen!"));
+    }
+    return CheckAccount(fields) && (!IsSplit(fields) || CheckParts(fields));
+}
+
+bool cEntryCheck::HasCategory(const cEntryFields& fields)
+{
+    if (!IsSplit(fields)) {
+        return !fields.Category.isEmpty();
+    }
+    const auto missing = std::find_if(fields.Parts.begin(), fields.Parts.end(), [](const cSplitPart& part) {
+        return part.Category.isEmpty() && !modSplitParts::IsBlank(part);
+    });
+    const bool isMissing = missing != fields.Parts.end();
+    if (!isMissing && modSplitParts::CountFilled(fields) > 0) {
+        return true;
+    }
+    m_failedPart = isMissing ? static_cast<int>(missing - fields.Parts.begin()) : 0;
+    return false;
+}
+
+bool cEntryCheck::CheckAccount(const cEntryFields& fields) const
+{
+    return !fields.Account.isEmpty()
+        || Refuse(cEntrySuggestions::VisibleAccounts(m_data).isEmpty()
+                      ? cText::Tr("Bitte erst neue Konten anlegen und diese Buchung einordnen!")
+                      : cText::Tr("Bitte erst ein Konto wählen!"));
+}
+
+bool cEntryCheck::CheckParts(const cEntryFields& fields) const
+{
+    if (fields.Type == modWord::Umbuchung) {
+        return Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
+    }
+    const qint64 rest = modSplitParts::Rest(fields).value_or(0);
+    return rest == 0
+        || Refuse(cText::Tr("Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von {0}.",
+                            {modEntryFields::Money(rest, m_format)}));
+}
+
+eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
+{
+    if (!modEntryFields::FirstDay(fields, m_today).isValid()) {
+        return eEntrySaved::BadDate;
+    }
+    const bool isSeries = fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);
+    return isSeries && !modEntryFields::LastDay(fields, m_today).isValid() ? eEntrySaved::BadEnd : eEntrySaved::Saved;
+}
+
+bool cEntryCheck::Refuse(const QString& text) const
+{
+    m_user.Show(eTone::Exclamation, text);
+    return false;
+}

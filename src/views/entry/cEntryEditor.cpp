@@ -1,0 +1,231 @@
+#include "views/entry/cEntryEditor.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "base/modSum.h"
+#include "model/modBalance.h"
+#include "model/modRecurrence.h"
+#include "model/modSeries.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/entry/cEntryDefaults.h"
+#include "views/entry/cSplitGroup.h"
+#include "views/entry/cStartBalance.h"
+#include "views/entry/modEntryFields.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+cEntryEditor::cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, const cAmountFormat* format)
+    : m_data(data),
+      m_user(user),
+      m_clock(clock),
+      m_format(format),
+      m_suggestions(data)
+{
+}
+
+cEntryEditor::cFields cEntryEditor::Start(const QString& account)
+{
+    m_ids.clear();
+    m_from = {};
+    cFields fields;
+    fields.Amount = modSum::ToText(0);
+    fields.Date = m_clock.Today();
+    fields.Account = account.isEmpty() ? ProposedAccount() : account;
+    return fields;
+}
+
+QString cEntryEditor::ProposedAccount() const
+{
+    const QStringList accounts = Accounts();
+    const QString last = m_data.GetLastAccount();
+    return accounts.contains(last) ? last : accounts.size() == 1 ? accounts.constFirst() : QString();
+}
+
+cEntryEditor::cFields cEntryEditor::StartBalance(const QString& account)
+{
+    m_ids.clear();
+    m_from = {};
+    cFields fields = cStartBalance(m_data).Show(account.isEmpty() ? Accounts().value(0) : account);
+    fields.Date = fields.Date.isValid() ? fields.Date : m_clock.Today();
+    return fields;
+}
+
+cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
+{
+    const QDate end = modRecurrence::EffectiveEnd(entry.EntryDateEnd);
+    cFields fields;
+    fields.Amount = modSum::ToText(entry.EntryValue);
+    fields.IsAmountTyped = true;
+    fields.IsAccountChosen = true;
+    fields.Description = entry.EntryDescription;
+    fields.Category = entry.EntryCategory;
+    fields.Type = entry.EntryType;
+    fields.Account = entry.EntryAccount;
+    fields.Target = entry.EntryAccountMove;
+    fields.Date = entry.EntryDate;
+    fields.HasEnd = modRecurrence::IsRecurring(entry.EntryInterval) && end != modRecurrence::OpenEnd;
+    fields.End = fields.HasEnd ? end : QDate();
+    fields.Interval = entry.EntryInterval;
+    return fields;
+}
+
+std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
+{
+    const std::optional<cEntryItem> entry = m_data.LoadEntry(id);
+    if (!entry) {
+        return std::nullopt;
+    }
+    m_ids = {id};
+    m_from = {};
+    if (cStartBalance(m_data).IsOne(*entry)) {
+        return cStartBalance(m_data).Show(entry->EntryAccount);
+    }
+    cFields fields = FieldsOf(*entry);
+    const cEntryItemList parts = cSplitGroup(m_data).Parts(*entry);
+    // Parts that no longer belong to one day and account cannot be shown as one; each is an entry of its own then.
+    if (parts.size() > 1 && modSplit::IsWhole(parts)) {
+        cSplitGroup::Show(parts, fields);
+        m_ids.clear();
+        for (const cEntryItem& part : parts) {
+            m_ids.append(part.ID);
+        }
+        return fields;
+    }
+    fields.Corrections = m_data.GetEntryMods(id);
+    std::sort(fields.Corrections.begin(), fields.Corrections.end(),
+              [](const auto& a, const auto& b) { return a.EntryStartDate < b.EntryStartDate; });
+    return fields;
+}
+
+std::optional<cEntryEditor::cFields> cEntryEditor::LoadFrom(int id, QDate day)
+{
+    std::optional<cFields> fields = Load(id);
+    const std::optional<cEntryItem> entry = m_data.LoadEntry(id);
+    const std::optional<cEntryItem> occurrence = entry ? modSeries::OccurrenceAt(*entry, day) : std::nullopt;
+    if (!fields || !occurrence || occurrence->EntryDate <= entry->EntryDate) {
+        return fields;
+    }
+    m_from = occurrence->EntryDate;
+    fields->Date = m_from;
+    const QDate start = modSeries::CorrectionFor(*occurrence).EntryStartDate;
+    fields->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate < start; });
+    return fields;
+}
+
+QString cEntryEditor::Title(const cFields& fields) const
+{
+    if (fields.Face == eEntryFace::StartBalance) {
+        return cText::Tr("Startguthaben");
+    }
+    if (m_from.isValid()) {
+        return cText::Tr("Serie ab {0} bearbeiten", {modDate::ToGerman(m_from)});
+    }
+    return IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten");
+}
+
+QString cEntryEditor::AmountLabel() const
+{
+    QString symbol;
+    const QString amount = modEntryFields::Money(0, m_format);
+    for (const QChar c : amount) {
+        if (!c.isDigit() && !c.isSpace() && c != u',' && c != u'.') {
+            symbol.append(c);
+        }
+    }
+    return cText::Tr("Betrag ({0}):", {symbol});
+}
+
+QString cEntryEditor::StartBalanceText(const QString& account) const
+{
+    const std::optional<cEntryItem> stored = m_data.GetStartGuthaben(account);
+    if (!stored) {
+        return cText::Tr("Bisher wurde noch kein Startguthaben festgelegt:");
+    }
+    return cText::Tr(
+        "Bisheriges Startguthaben: {0} am {1}",
+        {modEntryFields::Money(modBalance::Effect(*stored, {}), m_format), modDate::ToGerman(stored->EntryDate)});
+}
+
+QStringList cEntryEditor::Categories() const
+{
+    return cEntrySuggestions::VisibleCategories(m_data);
+}
+
+QStringList cEntryEditor::Accounts() const
+{
+    return cEntrySuggestions::VisibleAccounts(m_data);
+}
+
+void cEntryEditor::ChooseCategory(const QString& path, cFields& fields) const
+{
+    cEntryDefaults(m_data).TakeCategory(path, fields);
+}
+
+void cEntryEditor::ChooseDescription(const QString& text, cFields& fields)
+{
+    cEntryDefaults(m_data).TakeDescription(text, m_suggestions, fields);
+}
+
+void cEntryEditor::ChoosePartCategory(qsizetype row, const QString& path, cFields& fields) const
+{
+    cEntryDefaults(m_data).TakePartCategory(row, path, fields);
+}
+
+void cEntryEditor::ChoosePartDescription(qsizetype row, const QString& text, cFields& fields)
+{
+    cEntryDefaults(m_data).TakePartDescription(row, text, m_suggestions, fields);
+}
+
+void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
+{
+    fields.Account = account;
+    fields.IsAccountChosen = true;
+    if (fields.Face == eEntryFace::StartBalance && !fields.IsAmountTyped) {
+        const cFields stored = cStartBalance(m_data).Show(account);
+        fields.Amount = stored.Amount;
+        fields.Date = stored.Date.isValid() ? stored.Date : fields.Date;
+        fields.DateText = stored.Date.isValid() ? QString() : fields.DateText;
+    }
+}
+
+bool cEntryEditor::ShowsTarget(const cFields& fields)
+{
+    return fields.Face == eEntryFace::Normal && fields.Type == modWord::Umbuchung;
+}
+
+bool cEntryEditor::ShowsSeries(const cFields& fields)
+{
+    return fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);
+}
+
+bool cEntryEditor::ShowsCorrections(const cFields& fields) const
+{
+    return m_ids.size() == 1 && fields.Face == eEntryFace::Normal && ShowsSeries(fields);
+}
+
+cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
+{
+    constexpr int shownDays = 3;
+    const cEntryItem series = modEntryFields::Series(fields, m_clock.Today());
+    cPreview preview;
+    preview.IsSeries = ShowsSeries(fields) && series.EntryDate.isValid() && series.EntryDateEnd.isValid();
+    if (!preview.IsSeries) {
+        return preview;
+    }
+    preview.Count = modSeries::Count(series);
+    preview.Next = modSeries::Next(series, m_clock.Today(), shownDays);
+    QStringList days;
+    for (const QDate day : std::as_const(preview.Next)) {
+        days.append(modDate::ToGerman(day));
+    }
+    const bool isOpen = series.EntryDateEnd == modRecurrence::OpenEnd;
+    const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
+    preview.Text = days.isEmpty() ? cText::Tr("{0}, keine weiteren Termine", {count})
+                                  : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
+    return preview;
+}

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "views/entry/cEntryFields.h"
+#include "views/entry/cEntrySuggestions.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class cAmountFormat;
+class cClock;
+class cDataAccess;
+class cUser;
+struct cEntryWrite;
+
+// The entry editor without its window: three faces, fields as the user sees them, defaults, checks in their order, and
+// saving. Every saving is one step that can be undone.
+class cEntryEditor
+{
+public:
+    using cFields = cEntryFields;
+    using eSaved = eEntrySaved;
+
+    // What a series comes to.
+    struct cPreview
+    {
+        bool IsSeries = false;
+        int Count = 0;     // 0: without end
+        QList<QDate> Next; // up to three days from today on
+        QString Text;      // both for the user: "12 Mal, nächste Termine: 01.04.2026, 01.05.2026, 01.06.2026"
+    };
+
+    // Without `format` amounts are written with the euro sign.
+    cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, const cAmountFormat* format = nullptr);
+
+    // The fields of a new entry on the account that is given, else on that of the newest entry.
+    [[nodiscard]] cFields Start(const QString& account);
+
+    // The start-balance face for an account, filled with what is stored; empty account: the first one.
+    [[nodiscard]] cFields StartBalance(const QString& account);
+
+    // The fields of an existing entry; empty when there is none with this ID. A part of a split purchase opens the
+    // whole group in the split face, a start balance its own face.
+    [[nodiscard]] std::optional<cFields> Load(int id);
+
+    // The fields of a series for changing it from the occurrence on this day. Saving ends the old series the day before
+    // and adds a new one. For the first occurrence and for one-off entries the same as Load.
+    [[nodiscard]] std::optional<cFields> LoadFrom(int id, QDate day);
+
+    // The day from which typed distances such as "+7" count.
+    [[nodiscard]] QDate Today() const;
+
+    // True when nothing was typed since `shown`, or the user agrees to lose it.
+    [[nodiscard]] bool MayClose(const cFields& shown, const cFields& now) const;
+
+    [[nodiscard]] bool IsNew() const { return m_ids.isEmpty(); }
+    [[nodiscard]] QString Title(const cFields& fields) const; // of the window
+    [[nodiscard]] QString AmountLabel() const;                // "Betrag ({0}):" with the currency's symbol
+    // What is said above the start-balance face: that there is none yet, or which one there is.
+    [[nodiscard]] QString StartBalanceText(const QString& account) const;
+
+    // Choices in the order in which they are offered.
+    [[nodiscard]] QStringList Categories() const;
+    [[nodiscard]] QStringList Accounts() const;
+    // Earlier descriptions and the search in the categories; loaded when first asked.
+    [[nodiscard]] cEntrySuggestions& Suggestions() { return m_suggestions; }
+
+    // Takes over what the category proposes: an amount that nobody typed starts at zero again, or at the category's
+    // value where that recurs; kind and interval are filled where they are still open.
+    void ChooseCategory(const QString& path, cFields& fields) const;
+    // A picked proposal brings the category (while none is chosen) and the account (unless the user chose one) of its
+    // latest use. Any other text is just the description.
+    void ChooseDescription(const QString& text, cFields& fields);
+    // The same for a row of the split table; a row that does not exist is passed over.
+    void ChoosePartCategory(qsizetype row, const QString& path, cFields& fields) const;
+    void ChoosePartDescription(qsizetype row, const QString& text, cFields& fields);
+    // In the start-balance face, shows what is stored for the account, unless an amount was typed.
+    void ChooseAccount(const QString& account, cFields& fields) const;
+
+    // The target account and its label are there only for a transfer.
+    [[nodiscard]] static bool ShowsTarget(const cFields& fields);
+    // First and last day, count and next days are there only for a series.
+    [[nodiscard]] static bool ShowsSeries(const cFields& fields);
+    // Corrections can be listed: an existing series in the normal face.
+    [[nodiscard]] bool ShowsCorrections(const cFields& fields) const;
+
+    // Turns the entry into a split one: what is there becomes the first part. Refused, with a message, for transfers
+    // and for series with corrections, whose amounts would be right for no part; the face then stays.
+    void UseSplit(cFields& fields) const;
+    // Turns a split entry into a plain one with the first part's category and description. Asks when several parts are
+    // there. False when it stays split.
+    [[nodiscard]] bool UseNormal(cFields& fields) const;
+
+    [[nodiscard]] cPreview Preview(const cFields& fields) const;
+
+    // Checks the fields in their order, shows the message of the first failure, and stores the entry.
+    [[nodiscard]] eSaved Save(const cFields& fields);
+    [[nodiscard]] int FailedPart() const { return m_failedPart; } // the row that BadPart or a missing category is about
+    [[nodiscard]] int SavedId() const { return m_savedId; }       // of the entry, or of the first part
+
+    // The fields for the next new entry after one was saved: face, date, account and kind stay.
+    [[nodiscard]] cFields Next(const cFields& saved);
+    // What was saved since the editor was opened, newest first, at most five.
+    [[nodiscard]] const QStringList& LastSaved() const { return m_lastSaved; }
+
+private:
+    [[nodiscard]] cFields FieldsOf(const cEntryItem& entry) const;
+    [[nodiscard]] eSaved Store(const cFields& fields);
+    [[nodiscard]] eSaved SaveStartBalance(const cFields& fields);
+    [[nodiscard]] std::optional<cEntryItem> Whole(const cFields& fields) const;
+    [[nodiscard]] QList<cEntryWrite> Build(const cFields& fields) const;
+    [[nodiscard]] cEntryItemFixModList CorrectionsOf(const cEntryItem& stored, const cFields& fields) const;
+    [[nodiscard]] bool HasCorrections(const cFields& fields) const;
+    [[nodiscard]] QString StepName(const cEntryItem& entry) const;
+    void Remember(const QList<cEntryWrite>& rows);
+    [[nodiscard]] QString ProposedAccount() const;
+    [[nodiscard]] bool Refuse(const QString& text) const;
+
+    cDataAccess& m_data;
+    cUser& m_user;
+    const cClock& m_clock;
+    const cAmountFormat* m_format;
+    cEntrySuggestions m_suggestions;
+    QList<int> m_ids; // rows that are edited: one, or the parts of a group; empty for a new entry
+    QDate m_from;     // a series is changed from this occurrence on; invalid for the whole
+    int m_failedPart = -1;
+    int m_savedId = 0;
+    QStringList m_lastSaved;
+};

@@ -1,0 +1,230 @@
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "base/modSum.h"
+#include "model/modRecurrence.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/entry/cEntryCheck.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/cEntryWriter.h"
+#include "views/entry/cSplitGroup.h"
+#include "views/entry/cStartBalance.h"
+#include "views/entry/modEntryFields.h"
+#include "views/entry/modSplitParts.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostRemembered = 5;
+
+bool IsSplit(const cEntryFields& fields)
+{
+    return fields.Face == eEntryFace::Split;
+}
+
+} // namespace
+
+void cEntryEditor::UseSplit(cFields& fields) const
+{
+    if (fields.Type == modWord::Umbuchung) {
+        (void)Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
+        return;
+    }
+    if (HasCorrections(fields)) {
+        (void)Refuse(cText::Tr("Ein Eintrag mit manuellen Korrekturen kann nicht aufgeteilt werden."));
+        return;
+    }
+    fields.Face = eEntryFace::Split;
+    fields.Parts = {{m_ids.value(0), fields.Category, fields.Description, fields.Amount}};
+}
+
+bool cEntryEditor::UseNormal(cFields& fields) const
+{
+    if (HasCorrections(fields)) {
+        return Refuse(cText::Tr("Teile mit manuellen Korrekturen können nicht zusammengefasst werden."));
+    }
+    const qsizetype parts = modSplitParts::CountFilled(fields);
+    if (parts > 1) {
+        const eAnswer answer =
+            m_user.Ask({.Text = cText::Tr("Möchten Sie die Aufteilung aufheben?\nAus {0} Teilen wird ein Eintrag mit "
+                                          "Kategorie und Beschreibung des ersten Teils.",
+                                          {QString::number(parts)}),
+                        .Title = {}});
+        if (answer != eAnswer::Yes) {
+            return false;
+        }
+    }
+    const cSplitPart first = fields.Parts.value(0);
+    fields.Face = eEntryFace::Normal;
+    fields.Category = first.Category;
+    fields.Description = first.Description;
+    fields.Parts.clear();
+    return true;
+}
+
+QDate cEntryEditor::Today() const
+{
+    return m_clock.Today();
+}
+
+bool cEntryEditor::MayClose(const cFields& shown, const cFields& now) const
+{
+    if (now == shown) {
+        return true;
+    }
+    return m_user.Ask({.Text = cText::Tr("Die Eingaben sind noch nicht gespeichert.\nSoll das Fenster trotzdem "
+                                         "geschlossen werden?"),
+                       .Title = {}})
+        == eAnswer::Yes;
+}
+
+bool cEntryEditor::HasCorrections(const cFields& fields) const
+{
+    if (m_ids.size() == 1) {
+        return !fields.Corrections.isEmpty();
+    }
+    return std::any_of(m_ids.begin(), m_ids.end(), [&](int id) { return !m_data.GetEntryMods(id).isEmpty(); });
+}
+
+bool cEntryEditor::Refuse(const QString& text) const
+{
+    m_user.Show(eTone::Exclamation, text);
+    return false;
+}
+
+cEntryEditor::eSaved cEntryEditor::Save(const cFields& fields)
+{
+    cEntryCheck check(m_data, m_user, m_format, m_clock.Today());
+    const eSaved checked = check.Check(fields);
+    m_failedPart = check.FailedPart();
+    if (checked != eSaved::Saved) {
+        return checked;
+    }
+    return fields.Face == eEntryFace::StartBalance ? SaveStartBalance(fields) : Store(fields);
+}
+
+cEntryEditor::eSaved cEntryEditor::SaveStartBalance(const cFields& fields)
+{
+    const qint64 cents = modSum::Evaluate(fields.Amount).value_or(0);
+    const QDate day = modEntryFields::FirstDay(fields, m_clock.Today());
+    return cStartBalance(m_data).Save(fields.Account, cents, day) ? eSaved::Saved : eSaved::Refused;
+}
+
+// What all rows of the entry share. Nothing when it cannot be stored: money of a transfer has to arrive somewhere else,
+// and a series has to have a day.
+std::optional<cEntryItem> cEntryEditor::Whole(const cFields& fields) const
+{
+    cEntryItem entry = modEntryFields::Series(fields, m_clock.Today());
+    const bool isTransfer = fields.Type == modWord::Umbuchung;
+    const bool isNowhere = isTransfer && (fields.Target.isEmpty() || fields.Target == fields.Account);
+    if (isNowhere || (ShowsSeries(fields) && entry.EntryDateEnd < entry.EntryDate)) {
+        return std::nullopt;
+    }
+    entry.EntryType = fields.Type;
+    entry.EntryAccount = fields.Account;
+    entry.EntryAccountMove = isTransfer ? fields.Target : QString();
+    entry.EntryCategory = fields.Category;
+    entry.EntryValue = std::abs(modSum::Evaluate(fields.Amount).value_or(0));
+    entry.EntryDescription = fields.Description;
+    return entry;
+}
+
+QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
+{
+    std::optional<cEntryItem> whole = Whole(fields);
+    if (!whole) {
+        return {};
+    }
+    whole->ID = m_ids.value(0);
+    const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields.Parts) : cEntryItemList{*whole};
+    QList<cEntryWrite> rows;
+    for (cEntryItem entry : entries) {
+        const std::optional<cEntryItem> stored = entry.ID > 0 ? m_data.LoadEntry(entry.ID) : cEntryItem{};
+        if (!stored) {
+            return {}; // it was deleted meanwhile
+        }
+        entry.EntryFlags = stored->EntryFlags;
+        rows.append({entry, CorrectionsOf(*stored, fields)});
+    }
+    return rows;
+}
+
+cEntryItemFixModList cEntryEditor::CorrectionsOf(const cEntryItem& stored, const cFields& fields) const
+{
+    if (m_ids.size() <= 1) {
+        return stored.ID == 0 ? cEntryItemFixModList{} : fields.Corrections;
+    }
+    cEntryItemFixModList fixMods = m_data.GetEntryMods(stored.ID);
+    if (m_from.isValid()) {
+        const QDate start = modRecurrence::OccurrencePeriod(m_from, stored.EntryInterval).Start;
+        fixMods.removeIf([&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate < start; });
+    }
+    return fixMods;
+}
+
+cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
+{
+    QList<cEntryWrite> rows = Build(fields);
+    if (rows.isEmpty()) {
+        (void)Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!"));
+        return eSaved::Refused;
+    }
+    cEntryWriter writer(m_data, m_user);
+    if (!writer.AskLosses(rows, m_from)) {
+        return eSaved::Refused;
+    }
+    QList<int> removed = m_ids;
+    removed.removeIf([&](int id) {
+        return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
+    });
+    cUndoStep step(m_data, StepName(rows.first().Entry));
+    if (!writer.Write(rows, removed, m_from)) {
+        (void)step.Revert();
+        return eSaved::Refused;
+    }
+    Remember(rows);
+    return eSaved::Saved;
+}
+
+QString cEntryEditor::StepName(const cEntryItem& entry) const
+{
+    const QString name = modEntryFields::Name(entry);
+    return IsNew() ? cText::Tr("Eintrag '{0}' angelegt", {name}) : cText::Tr("Eintrag '{0}' geändert", {name});
+}
+
+void cEntryEditor::Remember(const QList<cEntryWrite>& rows)
+{
+    cEntryItemList entries;
+    for (const cEntryWrite& row : rows) {
+        entries.append(row.Entry);
+        m_suggestions.Note(row.Entry);
+    }
+    const cEntryItem& first = entries.first();
+    const qint64 cents = first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(entries);
+    m_savedId = first.ID;
+    m_lastSaved.prepend(modDate::ToGerman(first.EntryDate) + u"  "_s + modEntryFields::Name(first) + u"  "_s
+                        + modEntryFields::Money(cents, m_format));
+    m_lastSaved = m_lastSaved.mid(0, mostRemembered);
+}
+
+cEntryEditor::cFields cEntryEditor::Next(const cFields& saved)
+{
+    if (saved.Face == eEntryFace::StartBalance) {
+        return StartBalance(saved.Account);
+    }
+    cFields next = Start(saved.Account);
+    next.Face = saved.Face;
+    next.IsAccountChosen = saved.IsAccountChosen;
+    next.Type = saved.Type;
+    next.Target = saved.Target;
+    next.Date = modEntryFields::FirstDay(saved, m_clock.Today());
+    return next;
+}

@@ -1,0 +1,143 @@
+#include "views/entry/cEntryWriter.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "model/modRecurrence.h"
+#include "model/modSeries.h"
+#include "store/cDataAccess.h"
+#include "views/entry/cSplitGroup.h"
+
+#include <algorithm>
+
+namespace {
+
+const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
+{
+    const auto found = std::find_if(fixMods.begin(), fixMods.end(),
+                                    [&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate == start; });
+    return found == fixMods.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
+{
+    const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
+    if (!stored || row.Corrections.isEmpty() || !modRecurrence::IsRecurring(stored->EntryInterval)) {
+        return false;
+    }
+    if (!from.isValid()) {
+        return modSeries::HasOtherPeriod(*stored, row.Entry);
+    }
+    return !std::all_of(row.Corrections.begin(), row.Corrections.end(),
+                        [&](const cEntryItemFixMod& fixMod) { return modSeries::HasPeriod(row.Entry, fixMod); });
+}
+
+bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
+{
+    QList<cEntryWrite*> losing;
+    for (cEntryWrite& row : rows) {
+        if (Loses(row, from)) {
+            losing.append(&row);
+        }
+    }
+    if (losing.isEmpty()) {
+        return true;
+    }
+    const eAnswer answer =
+        m_user.Ask({.Text = cText::Tr("Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen "
+                                      "Korrekturen gehen dadurch verloren.\nSoll der Eintrag trotzdem "
+                                      "gespeichert werden?"),
+                    .Title = {}});
+    if (answer != eAnswer::Yes) {
+        return false;
+    }
+    for (cEntryWrite* row : losing) {
+        row->Corrections.clear();
+    }
+    return true;
+}
+
+bool cEntryWriter::Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from)
+{
+    const auto remove = [&](int id) { return from.isValid() ? EndBefore(id, from) : m_data.DeleteEntry(id); };
+    const auto write = [&](cEntryWrite& row) {
+        return from.isValid() && row.Entry.ID > 0 ? WriteFrom(row, from) : WriteRow(row);
+    };
+    return std::all_of(rows.begin(), rows.end(), write) && std::all_of(removed.begin(), removed.end(), remove)
+        && ((rows.size() == 1 && removed.isEmpty()) || MarkGroup(rows));
+}
+
+bool cEntryWriter::WriteRow(cEntryWrite& row)
+{
+    const bool isStored = row.Entry.ID == 0 ? m_data.AddNewEntry(row.Entry) : m_data.ChangeEntry(row.Entry);
+    return isStored && WriteCorrections(row);
+}
+
+bool cEntryWriter::WriteFrom(cEntryWrite& row, QDate from)
+{
+    const int oldId = row.Entry.ID;
+    const std::optional<cEntryItem> old = m_data.LoadEntry(oldId);
+    if (!old) {
+        return false;
+    }
+    row.Entry.ID = 0;
+    // What the bank booked some days before the occurrence still belongs to it.
+    const QDate start = modRecurrence::OccurrencePeriod(from, old->EntryInterval).Start;
+    return EndBefore(oldId, from) && WriteRow(row) && MoveImports(oldId, row.Entry.ID, start);
+}
+
+bool cEntryWriter::EndBefore(int id, QDate from)
+{
+    std::optional<cEntryItem> series = m_data.LoadEntry(id);
+    if (!series) {
+        return false;
+    }
+    const QDate start = modRecurrence::OccurrencePeriod(from, series->EntryInterval).Start;
+    const cEntryItemFixModList fixMods = m_data.GetEntryMods(id);
+    for (const cEntryItemFixMod& fixMod : fixMods) {
+        if (fixMod.EntryStartDate >= start && !m_data.DeleteEntryMod(fixMod.ID)) {
+            return false;
+        }
+    }
+    series->EntryDateEnd = from.addDays(-1);
+    return m_data.ChangeEntry(*series);
+}
+
+bool cEntryWriter::MoveImports(int oldId, int newId, QDate from)
+{
+    cImportEntryList rows = m_data.GetImportEntries();
+    return std::all_of(rows.begin(), rows.end(), [&](cImportEntry& row) {
+        if (row.ImportAssignedEntry != oldId || row.ImportDate < from) {
+            return true;
+        }
+        row.ImportAssignedEntry = newId;
+        return m_data.ChangeImportEntry(row);
+    });
+}
+
+bool cEntryWriter::WriteCorrections(const cEntryWrite& row)
+{
+    const cEntryItemFixModList stored = m_data.GetEntryMods(row.Entry.ID);
+    for (const cEntryItemFixMod& fixMod : stored) {
+        if (Find(row.Corrections, fixMod.EntryStartDate) == nullptr && !m_data.DeleteEntryMod(fixMod.ID)) {
+            return false;
+        }
+    }
+    return std::all_of(row.Corrections.begin(), row.Corrections.end(), [&](cEntryItemFixMod fixMod) {
+        const cEntryItemFixMod* known = Find(stored, fixMod.EntryStartDate);
+        fixMod.EntryRelation = row.Entry.ID;
+        const bool isSame =
+            known != nullptr && known->EntryValue == fixMod.EntryValue && known->EntryComment == fixMod.EntryComment;
+        return isSame || m_data.AddNewEntryMod(fixMod);
+    });
+}
+
+bool cEntryWriter::MarkGroup(QList<cEntryWrite>& rows)
+{
+    cEntryItemList entries;
+    for (const cEntryWrite& row : rows) {
+        entries.append(row.Entry);
+    }
+    return cSplitGroup(m_data).Mark(entries);
+}

@@ -1,0 +1,130 @@
+#include "views/entry/cSeriesChange.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "base/modSum.h"
+#include "model/modRecurrence.h"
+#include "model/modSeries.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/entry/modEntryFields.h"
+
+#include <cstdlib>
+
+std::optional<cEntryItem> cSeriesChange::Occurrence(int entryId, QDate day)
+{
+    const std::optional<cEntryItem> series = m_data.LoadEntry(entryId);
+    return series && day.isValid() ? modSeries::OccurrenceAt(*series, day) : std::nullopt;
+}
+
+bool cSeriesChange::IsOccurrence(int entryId, QDate day)
+{
+    const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
+    return occurrence && occurrence->EntryDate == day;
+}
+
+cSeriesChange::eEdit cSeriesChange::AskWhatToEdit(int entryId, QDate day)
+{
+    const std::optional<cEntryItem> series = m_data.LoadEntry(entryId);
+    if (!series || !IsOccurrence(entryId, day)) {
+        return eEdit::Entry;
+    }
+    QList<eEdit> edits{eEdit::Period};
+    QStringList options{cText::Tr("Nur diesen Zeitraum")};
+    if (day > series->EntryDate) {
+        edits.append(eEdit::FromHere);
+        options.append(cText::Tr("Ab hier"));
+    }
+    edits.append(eEdit::Entry);
+    options.append(cText::Tr("Ganze Serie"));
+    const int choice = m_user.Decide(
+        {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nWas möchten Sie ändern?",
+                           {modEntryFields::Name(*series), modDate::ToGerman(day),
+                            modWord::Intervals().ToShown(series->EntryInterval), modDate::ToGerman(series->EntryDate)}),
+         .Title = cText::Tr("Serie bearbeiten"),
+         .Options = options});
+    return edits.value(choice, eEdit::Nothing);
+}
+
+std::optional<cEntryItemFixMod> cSeriesChange::Correction(int entryId, QDate day)
+{
+    const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
+    if (!occurrence) {
+        return std::nullopt;
+    }
+    const QDate start = modSeries::CorrectionFor(*occurrence).EntryStartDate;
+    const cEntryItemFixModList fixMods = m_data.GetEntryMods(entryId);
+    for (const cEntryItemFixMod& fixMod : fixMods) {
+        if (fixMod.EntryStartDate == start) {
+            return fixMod;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entryId, QDate day)
+{
+    const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
+    if (!occurrence) {
+        return std::nullopt;
+    }
+    const std::optional<cEntryItemFixMod> correction = Correction(entryId, day);
+    const cEntryItemFixMod period = modSeries::CorrectionFor(*occurrence);
+    cPeriodFields fields;
+    fields.EntryId = entryId;
+    fields.Day = occurrence->EntryDate;
+    fields.Title = cText::Tr("'{0}' vom {1} bis {2}",
+                             {modEntryFields::Name(*occurrence), modDate::ToGerman(period.EntryStartDate),
+                              modDate::ToGerman(period.EntryEndDate)});
+    fields.Amount = modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue);
+    fields.Comment = correction ? correction->EntryComment : QString();
+    fields.IsCorrected = correction.has_value();
+    return fields;
+}
+
+cSeriesChange::eSaved cSeriesChange::SavePeriod(const cPeriodFields& fields)
+{
+    const std::optional<qint64> cents = modSum::Evaluate(fields.Amount);
+    if (!cents) {
+        return eSaved::BadAmount;
+    }
+    return CorrectPeriod(fields.EntryId, fields.Day, *cents, fields.Comment) ? eSaved::Saved : eSaved::Refused;
+}
+
+bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment)
+{
+    const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
+    return occurrence
+        && Store(*occurrence, cents, comment,
+                 cText::Tr("Betrag von '{0}' korrigiert", {modEntryFields::Name(*occurrence)}));
+}
+
+bool cSeriesChange::SkipPeriod(int entryId, QDate day)
+{
+    const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
+    return occurrence
+        && Store(*occurrence, 0, cText::Tr("Ausgelassen"),
+                 cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(*occurrence)}));
+}
+
+bool cSeriesChange::Store(const cEntryItem& occurrence, qint64 cents, const QString& comment, const QString& step)
+{
+    cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence);
+    fixMod.EntryValue = std::abs(cents);
+    fixMod.EntryComment = comment;
+    cUndoStep undo(m_data, step);
+    return m_data.AddNewEntryMod(fixMod) || undo.Revert();
+}
+
+bool cSeriesChange::RemoveCorrection(int entryId, QDate day)
+{
+    const std::optional<cEntryItemFixMod> correction = Correction(entryId, day);
+    const std::optional<cEntryItem> entry = m_data.LoadEntry(entryId);
+    if (!correction || !entry) {
+        return false;
+    }
+    cUndoStep undo(m_data, cText::Tr("Korrektur von '{0}' entfernt", {modEntryFields::Name(*entry)}));
+    return m_data.DeleteEntryMod(correction->ID) || undo.Revert();
+}

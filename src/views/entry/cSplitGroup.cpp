@@ -1,0 +1,67 @@
+#include "views/entry/cSplitGroup.h"
+
+#include "base/modSum.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/entry/modSplitParts.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+const QString& Opposite(const QString& type)
+{
+    return type == modWord::Einnahme ? modWord::Ausgabe : modWord::Einnahme;
+}
+
+} // namespace
+
+cEntryItemList cSplitGroup::Parts(const cEntryItem& entry) const
+{
+    const int group = modSplit::Group(entry);
+    return group == 0 ? cEntryItemList{} : m_data.GetEntriesOfSplit(group);
+}
+
+bool cSplitGroup::Mark(const cEntryItemList& entries) const
+{
+    const int group = entries.size() > 1 ? entries.first().ID : 0;
+    return std::all_of(entries.begin(), entries.end(), [&](cEntryItem entry) {
+        const QString before = entry.EntryFlags;
+        modSplit::SetGroup(entry, group);
+        return entry.EntryFlags == before || m_data.ChangeEntry(entry);
+    });
+}
+
+void cSplitGroup::Show(const cEntryItemList& parts, cEntryFields& fields)
+{
+    const qint64 net = modSplit::Net(parts);
+    fields.Face = eEntryFace::Split;
+    fields.Type = net == 0 ? parts.first().EntryType : net > 0 ? modWord::Einnahme : modWord::Ausgabe;
+    fields.Amount = modSum::ToText(std::abs(net));
+    fields.Parts.clear();
+    for (const cEntryItem& part : parts) {
+        const qint64 cents = part.EntryType == fields.Type ? part.EntryValue : -part.EntryValue;
+        fields.Parts.append({part.ID, part.EntryCategory, part.EntryDescription, modSplitParts::AmountText(cents)});
+    }
+}
+
+cEntryItemList cSplitGroup::Build(const cEntryItem& whole, const QList<cSplitPart>& rows)
+{
+    cEntryItemList entries;
+    for (const cSplitPart& row : rows) {
+        if (modSplitParts::IsBlank(row)) {
+            continue;
+        }
+        const qint64 cents = modSum::Evaluate(row.Amount).value_or(0);
+        cEntryItem entry = whole;
+        entry.ID = row.ID;
+        entry.EntryCategory = row.Category;
+        entry.EntryDescription = row.Description;
+        entry.EntryType = cents < 0 ? Opposite(whole.EntryType) : whole.EntryType;
+        entry.EntryValue = std::abs(cents);
+        entries.append(entry);
+    }
+    return entries;
+}

@@ -1,0 +1,46 @@
+#include "views/entry/modEntryFields.h"
+
+#include "base/modDayText.h"
+#include "base/modSum.h"
+#include "core/cAmountFormat.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+
+QDate modEntryFields::FirstDay(const cEntryFields& fields, QDate today)
+{
+    if (!fields.DateText.trimmed().isEmpty()) {
+        return modDayText::Read(fields.DateText, today);
+    }
+    return fields.Date.isValid() ? fields.Date : today;
+}
+
+QDate modEntryFields::LastDay(const cEntryFields& fields, QDate today)
+{
+    if (!fields.HasEnd) {
+        return modRecurrence::OpenEnd;
+    }
+    if (!fields.EndText.trimmed().isEmpty()) {
+        return modDayText::Read(fields.EndText, today);
+    }
+    return fields.End.isValid() ? fields.End : modRecurrence::OpenEnd;
+}
+
+cEntryItem modEntryFields::Series(const cEntryFields& fields, QDate today)
+{
+    cEntryItem series;
+    series.EntryDate = FirstDay(fields, today);
+    series.EntryInterval = fields.Interval.isEmpty() ? modWord::Einmalig : fields.Interval;
+    const bool isSeries = modRecurrence::IsRecurring(series.EntryInterval);
+    series.EntryDateEnd = isSeries ? LastDay(fields, today) : modRecurrence::OpenEnd;
+    return series;
+}
+
+QString modEntryFields::Name(const cEntryItem& entry)
+{
+    return entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
+}
+
+QString modEntryFields::Money(qint64 cents, const cAmountFormat* format)
+{
+    return format != nullptr ? format->Cents(cents) : modSum::ToText(cents) + QStringLiteral(" €");
+}

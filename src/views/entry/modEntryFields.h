@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "views/entry/cEntryFields.h"
+
+#include <QDate>
+
+class cAmountFormat;
+
+// What the fields of the editor mean, day by day.
+namespace modEntryFields {
+
+// The first day: as typed, else the chosen one, else today. Invalid when the typed text is no day.
+[[nodiscard]] QDate FirstDay(const cEntryFields& fields, QDate today);
+
+// The last day, the open end without the switch or without a day. Invalid when the typed text is no day.
+[[nodiscard]] QDate LastDay(const cEntryFields& fields, QDate today);
+
+// An entry with the days and the interval of the fields, and nothing else.
+[[nodiscard]] cEntryItem Series(const cEntryFields& fields, QDate today);
+
+// How an entry is called in messages: its description, or its category where there is none.
+[[nodiscard]] QString Name(const cEntryItem& entry);
+
+// An amount for messages; without `format` with the euro sign.
+[[nodiscard]] QString Money(qint64 cents, const cAmountFormat* format);
+
+} // namespace modEntryFields

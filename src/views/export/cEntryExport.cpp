@@ -1,0 +1,64 @@
+#include "views/export/cEntryExport.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "views/list/modFileWrite.h"
+
+#include <QDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, QDate today)
+{
+    const QString title = cText::Tr("Daten exportieren");
+    if (extract.Rows.empty()) {
+        return Refuse(cText::Tr("Die Liste enthält keine Einträge, die exportiert werden könnten."));
+    }
+    // Without ending: the dialog adds the one of the kind of file that is chosen there.
+    const QString proposal = cText::Tr("Kontorelle-Einträge-{0}", {modDate::ToIso(today)});
+    const QString path = m_user.ChooseSavePath(title, modExport::Filter(), proposal);
+    if (path.isEmpty()) {
+        return eDone::GivenUp;
+    }
+    const std::optional<modExport::eFormat> format = modExport::FormatOf(path);
+    if (!format) {
+        return Refuse(
+            cText::Tr("Am Ende des Dateinamens '{0}' ist nicht zu erkennen, in welchem Format exportiert werden "
+                      "soll.\nMöglich sind: {1}.",
+                      {QDir::toNativeSeparators(path), u'.' + modExport::Names().join(u", ."_s)}));
+    }
+    const eDone done = WriteFile(extract, *format, path);
+    if (done == eDone::Written) {
+        const QString count = QString::number(extract.Rows.size());
+        const QString name = QDir::toNativeSeparators(path);
+        m_user.Show(eTone::Information,
+                    extract.Rows.size() == 1 ? cText::Tr("1 Eintrag wurde nach '{0}' exportiert.", {name})
+                                             : cText::Tr("{0} Einträge wurden nach '{1}' exportiert.", {count, name}),
+                    title);
+    }
+    return done;
+}
+
+cEntryExport::eDone cEntryExport::WriteFile(const cEntryExtract& extract, modExport::eFormat format,
+                                            const QString& path)
+{
+    const modExport::cResult result = modExport::Write(format, {extract, m_format, m_progress});
+    if (!result.Bytes && result.Error.isEmpty()) {
+        return eDone::GivenUp;
+    }
+    const QString problem = result.Bytes ? modFileWrite::Replace(path, *result.Bytes) : result.Error;
+    if (!problem.isEmpty()) {
+        return Refuse(
+            cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
+                      {QDir::toNativeSeparators(path), problem}));
+    }
+    return eDone::Written;
+}
+
+cEntryExport::eDone cEntryExport::Refuse(const QString& text)
+{
+    m_user.Show(eTone::Critical, text, cText::Tr("Daten exportieren"));
+    return eDone::Failed;
+}

@@ -1,0 +1,75 @@
+#include "views/list/cEntryFilter.h"
+
+#include "model/modWord.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <array>
+#include <unordered_map>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The words that many entries share. Entries of one query share their characters too, so addresses tell them apart;
+// equal words at two places are merely folded twice.
+using cShared = std::array<const QChar*, 5>;
+
+cShared Shared(const cEntryItem& entry)
+{
+    return {entry.EntryType.constData(), entry.EntryCategory.constData(), entry.EntryAccount.constData(),
+            entry.EntryAccountMove.constData(), entry.EntryInterval.constData()};
+}
+
+struct cSharedHash
+{
+    std::size_t operator()(const cShared& shared) const { return qHashRange(shared.begin(), shared.end()); }
+};
+
+QString Words(const cEntryItem& entry)
+{
+    return QStringList{modWord::EntryTypes().ToShown(entry.EntryType), entry.EntryCategory,
+                       cEntryFilter::AccountText(entry), modWord::Intervals().ToShown(entry.EntryInterval)}
+        .join(u'\n');
+}
+
+} // namespace
+
+cEntryFilter::cEntryFilter(const cEntryItemList& entries, const cAmountFormat& format) : m_filter(format)
+{
+    std::unordered_map<cShared, int, cSharedHash> known;
+    const QChar* lastDescription = nullptr;
+    int description = 0;
+    for (const cEntryItem& entry : entries) {
+        const auto [words, isNew] = known.try_emplace(Shared(entry), 0);
+        if (isNew) {
+            words->second = m_filter.AddText(Words(entry));
+        }
+        // The occurrences of a series follow each other with the same description.
+        if (entry.EntryDescription.constData() != lastDescription) {
+            lastDescription = entry.EntryDescription.constData();
+            description = m_filter.AddText(entry.EntryDescription);
+        }
+        m_filter.AddRow(words->second, description, entry.EntryDate);
+    }
+}
+
+QString cEntryFilter::AccountText(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Umbuchung ? entry.EntryAccount + u" → " + entry.EntryAccountMove
+                                                 : entry.EntryAccount;
+}
+
+qint64 cEntryFilter::ShownCents(const cEntryItem& entry, const QString& account)
+{
+    const bool isExpense = entry.EntryType == modWord::Ausgabe;
+    const bool leavesAccount = entry.EntryType == modWord::Umbuchung && entry.EntryAccount == account;
+    return isExpense || leavesAccount ? -entry.EntryValue : entry.EntryValue;
+}
+
+std::vector<int> cEntryFilter::Find(const QList<modFold::cFolded>& words, const std::vector<int>& among,
+                                    const cListFilter::fnCents& cents)
+{
+    return m_filter.Find(words, among, cents);
+}

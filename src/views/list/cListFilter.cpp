@@ -1,0 +1,76 @@
+#include "views/list/cListFilter.h"
+
+#include "base/modDate.h"
+
+#include <algorithm>
+
+namespace {
+
+bool IsPartOfDay(const QString& word)
+{
+    return std::all_of(word.begin(), word.end(), [](QChar c) { return c == u'.' || (c >= u'0' && c <= u'9'); });
+}
+
+std::size_t At(int index)
+{
+    return static_cast<std::size_t>(index);
+}
+
+} // namespace
+
+cListFilter::cListFilter(const cAmountFormat& format) : m_amounts(format)
+{
+}
+
+void cListFilter::AddRow(int text, int other, QDate day)
+{
+    m_rows.push_back({text, other, day});
+}
+
+std::vector<int> cListFilter::Find(const QList<modFold::cFolded>& words, const std::vector<int>& among,
+                                   const fnCents& cents)
+{
+    std::vector<cSearched> searched;
+    for (const modFold::cFolded& word : words) {
+        searched.push_back(Search(word));
+    }
+    // Writing a day or an amount takes longer than looking up a word, so it is left for what the words let pass.
+    std::stable_partition(searched.begin(), searched.end(),
+                          [](const cSearched& each) { return !each.MayBeDay && !each.MayBeAmount; });
+    std::vector<int> found;
+    for (const int row : among) {
+        if (std::all_of(searched.begin(), searched.end(),
+                        [&](const cSearched& each) { return Holds(row, each, cents); })) {
+            found.push_back(row);
+        }
+    }
+    return found;
+}
+
+cListFilter::cSearched cListFilter::Search(const modFold::cFolded& word) const
+{
+    return {word, m_texts.Find(word), IsPartOfDay(word.Plain), m_amounts.MayHold(word.Plain)};
+}
+
+bool cListFilter::Holds(int row, const cSearched& searched, const fnCents& cents)
+{
+    const cRow& place = m_rows[At(row)];
+    return searched.IsFound[At(place.Text)] || searched.IsFound[At(place.Other)]
+        || (searched.MayBeDay && HoldsDay(place.Day, searched.Word))
+        || (searched.MayBeAmount && HoldsAmount(cents(row), searched.Word));
+}
+
+bool cListFilter::HoldsDay(QDate day, const modFold::cFolded& word)
+{
+    if (day != m_day) {
+        m_day = day;
+        m_dayText = modDate::ToGerman(day);
+    }
+    return m_dayText.contains(word.Plain);
+}
+
+bool cListFilter::HoldsAmount(qint64 cents, const modFold::cFolded& word)
+{
+    m_amounts.Write(cents, m_amountText);
+    return m_amountText.contains(word.Plain);
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "base/modFold.h"
+#include "views/list/cAmountPattern.h"
+
+#include <QDate>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class cAmountFormat;
+
+// Finds the rows of a list that hold every word of a search text in their texts, their day or their amount. The texts
+// are folded once; after that a word costs a few milliseconds in a hundred thousand rows.
+class cListFilter
+{
+public:
+    using fnCents = std::function<qint64(int)>; // the amount of a row with its sign, as the list shows it
+
+    explicit cListFilter(const cAmountFormat& format);
+
+    // Takes a text in and returns its number. Several rows may share one.
+    int AddText(const QString& text) { return m_texts.Add(text); }
+    // Adds the next row: 0, 1, 2, ... It holds the two texts and the day.
+    void AddRow(int text, int other, QDate day);
+
+    // Those of `among` (numbers of rows) that hold all words, in the same order.
+    [[nodiscard]] std::vector<int> Find(const QList<modFold::cFolded>& words, const std::vector<int>& among,
+                                        const fnCents& cents);
+
+private:
+    struct cRow
+    {
+        int Text = 0;
+        int Other = 0;
+        QDate Day;
+    };
+
+    // A word and where it was found.
+    struct cSearched
+    {
+        modFold::cFolded Word;
+        std::vector<bool> IsFound; // by text
+        bool MayBeDay = false;
+        bool MayBeAmount = false;
+    };
+
+    [[nodiscard]] cSearched Search(const modFold::cFolded& word) const;
+    [[nodiscard]] bool Holds(int row, const cSearched& searched, const fnCents& cents);
+    [[nodiscard]] bool HoldsDay(QDate day, const modFold::cFolded& word);
+    [[nodiscard]] bool HoldsAmount(qint64 cents, const modFold::cFolded& word);
+
+    cAmountPattern m_amounts;
+    modFold::cTexts m_texts;
+    std::vector<cRow> m_rows;
+    QDate m_day; // of m_dayText, because rows of a day often follow each other
+    QString m_dayText;
+    QString m_amountText;
+};

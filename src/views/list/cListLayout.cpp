@@ -1,0 +1,66 @@
+#include "views/list/cListLayout.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <set>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+std::optional<cListLayout::cColumn> ReadColumn(const QString& part)
+{
+    const QStringList numbers = part.split(u',');
+    bool isColumn = false;
+    bool isWidth = false;
+    if (numbers.size() != 3) {
+        return std::nullopt;
+    }
+    const cListLayout::cColumn column{numbers.at(0).toInt(&isColumn), numbers.at(1).toInt(&isWidth),
+                                      numbers.at(2) == u"1"};
+    return isColumn && isWidth && column.Width >= 0 ? std::optional(column) : std::nullopt;
+}
+
+bool IsComplete(const cListLayout& layout, int columnCount)
+{
+    std::set<int> seen;
+    bool isAnyShown = false;
+    for (const cListLayout::cColumn& column : layout.Columns) {
+        seen.insert(column.Column);
+        isAnyShown = isAnyShown || column.IsShown;
+    }
+    const bool isWhole = static_cast<int>(seen.size()) == columnCount && seen.size() == layout.Columns.size();
+    return isWhole && isAnyShown && *seen.begin() == 0 && *seen.rbegin() == columnCount - 1;
+}
+
+} // namespace
+
+QString cListLayout::ToText() const
+{
+    QStringList parts;
+    for (const cColumn& column : Columns) {
+        parts.append(u"%1,%2,%3"_s.arg(column.Column).arg(column.Width).arg(column.IsShown ? 1 : 0));
+    }
+    parts.append(u"sort,%1,%2"_s.arg(SortColumn).arg(IsDescending ? 1 : 0));
+    return parts.join(u'|');
+}
+
+std::optional<cListLayout> cListLayout::FromText(const QString& text, int columnCount)
+{
+    cListLayout layout;
+    const QStringList parts = text.split(u'|', Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        if (part.startsWith(u"sort,")) {
+            layout.SortColumn = std::clamp(part.section(u',', 1, 1).toInt(), 0, columnCount - 1);
+            layout.IsDescending = part.section(u',', 2, 2) == u"1";
+            continue;
+        }
+        const std::optional<cColumn> column = ReadColumn(part);
+        if (!column) {
+            return std::nullopt;
+        }
+        layout.Columns.push_back(*column);
+    }
+    return IsComplete(layout, columnCount) ? std::optional(layout) : std::nullopt;
+}

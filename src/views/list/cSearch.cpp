@@ -1,0 +1,124 @@
+#include "views/list/cSearch.h"
+
+#include "base/cClock.h"
+#include "base/modFold.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/list/cEntryFilter.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+bool IsInCategory(const QString& path, const QString& category)
+{
+    return path == category || path.startsWith(category + u"; ");
+}
+
+bool IsOfAmount(qint64 cents, const cSearchQuery& query)
+{
+    return cents >= query.Least.value_or(cents) && cents <= query.Most.value_or(cents);
+}
+
+} // namespace
+
+bool cSearchQuery::IsEmpty() const
+{
+    cSearchQuery other = *this;
+    other.Text = other.Text.trimmed();
+    return other == cSearchQuery{};
+}
+
+cSearch::cSearch(cDataAccess& data, const cAmountFormat& format, const cClock& clock)
+    : m_data(data),
+      m_format(format),
+      m_clock(clock)
+{
+}
+
+cEntryItemList cSearch::Find(const cSearchQuery& query)
+{
+    const cEntryItemList entries = Narrow(Load(query), query);
+    const QList<modFold::cFolded> words = modFold::Words(query.Text);
+    if (words.isEmpty()) {
+        return entries;
+    }
+    std::vector<int> all(static_cast<std::size_t>(entries.size()));
+    std::iota(all.begin(), all.end(), 0);
+    const std::vector<int> found = cEntryFilter(entries, m_format).Find(words, all, [&](int entry) {
+        return cEntryFilter::ShownCents(entries.at(entry), query.Account);
+    });
+    cEntryItemList results;
+    for (const int entry : found) {
+        results.append(entries.at(entry));
+    }
+    return results;
+}
+
+cEntryItemList cSearch::Load(const cSearchQuery& query)
+{
+    cEntryQuery days;
+    days.Start = query.Days.Start;
+    days.End = query.Days.End;
+    days.Account = query.Account;
+    days.Type = modWord::QueryType(query.Type);
+    cEntryItemList entries = m_data.GetEntries(days);
+    if (!days.End.isValid()) {
+        DropFuture(entries);
+    }
+    return entries;
+}
+
+void cSearch::DropFuture(cEntryItemList& entries) const
+{
+    const QDate today = m_clock.Today();
+    int series = 0; // whose occurrences follow each other
+    entries.removeIf([&](const cEntryItem& entry) {
+        if (!modRecurrence::IsRecurring(entry.EntryInterval)) {
+            return false;
+        }
+        const bool isFirst = entry.ID != std::exchange(series, entry.ID);
+        return entry.EntryDate > today && !isFirst && !entry.IsCorrected;
+    });
+}
+
+cEntryItemList cSearch::Narrow(const cEntryItemList& loaded, const cSearchQuery& query)
+{
+    const bool isWide = query.Category.isEmpty() && !query.Least && !query.Most && !query.IsCorrected;
+    if (isWide && !query.IsFromBank) {
+        return loaded;
+    }
+    if (query.IsFromBank) {
+        ReadBankEntries();
+    }
+    cEntryItemList entries;
+    std::copy_if(loaded.begin(), loaded.end(), std::back_inserter(entries), [&](const cEntryItem& entry) {
+        return IsOfAmount(entry.EntryValue, query) && (!query.IsCorrected || entry.IsCorrected)
+            && (query.Category.isEmpty() || IsInCategory(entry.EntryCategory, query.Category))
+            && (!query.IsFromBank || m_bankEntries.contains(entry.ID));
+    });
+    return entries;
+}
+
+void cSearch::ReadBankEntries()
+{
+    const quint64 version = m_data.ImportVersion();
+    if (m_bankVersion == version) {
+        return;
+    }
+    m_bankVersion = version;
+    m_bankEntries.clear();
+    const cImportEntryList rows = m_data.GetImportEntries();
+    for (const cImportEntry& row : rows) {
+        if (row.ImportAssigned) {
+            m_bankEntries.insert(row.ImportAssignedEntry);
+        }
+    }
+}

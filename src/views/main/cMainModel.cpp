@@ -1,0 +1,482 @@
+#include "views/main/cMainModel.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "import/stage/cAccountMap.h"
+#include "model/modBalance.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/entry/cEntryDelete.h"
+#include "views/list/modSetting.h"
+#include "views/template/cTemplateFlow.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
+
+// One of the five View... switches; null for another key.
+bool* Switch(cViewState& view, const QString& key)
+{
+    const QHash<QString, bool*> switches{{u"ViewSingleBooking"_s, &view.ShowsSingle},
+                                         {u"ViewFixBooking"_s, &view.ShowsFix},
+                                         {u"ViewFutureBooking"_s, &view.ShowsFuture},
+                                         {u"ViewStartBooking"_s, &view.ShowsStart},
+                                         {u"ViewAccountValueAll"_s, &view.BalancesToToday}};
+    return switches.value(key);
+}
+
+} // namespace
+
+cMainModel::cMainModel(const cParts& parts, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_entries(parts.Format),
+      m_accounts(parts.Format),
+      m_limits(parts.Data, parts.Format, parts.Clock, m_accounts)
+{
+    tmrRefreshList.setSingleShot(true);
+    tmrRefreshAccounts.setSingleShot(true);
+    tmrSaveView.setSingleShot(true);
+    tmrSaveView.setInterval(saveDelay);
+    connect(&tmrSaveView, &QTimer::timeout, this, &cMainModel::SaveView);
+    connect(&tmrRefreshList, &QTimer::timeout, this, &cMainModel::ShowFilter);
+    connect(&tmrRefreshAccounts, &QTimer::timeout, this, &cMainModel::RefreshAccounts);
+}
+
+cMainModel::~cMainModel() = default;
+
+void cMainModel::RestoreView(bool isNewVersion)
+{
+    const bool isNewBook = m_parts.Settings.Get(u"MainZeitraum"_s).isEmpty();
+    if (isNewBook) {
+        m_parts.Settings.ResetViewDefaults();
+    }
+    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
+    LeaveSelection();
+    m_view.Restore(m_parts.Settings, Accounts());
+    if (isNewVersion && !isNewBook) {
+        ResetView();
+        return;
+    }
+    RefreshView();
+}
+
+void cMainModel::SaveView()
+{
+    tmrSaveView.stop();
+    (m_detour ? m_detour->Before : m_view).Save(m_parts.Settings);
+}
+
+void cMainModel::SaveLayout(const cPlacement& placement)
+{
+    SaveView();
+    const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
+                              QString::number(placement.Width), QString::number(placement.Height)};
+    m_parts.Configuration.SaveSetting(u"WindowSize"_s, numbers.join(u'|'), eSettingPlace::Database);
+    m_parts.Configuration.SaveSetting(u"WindowState"_s, QString::number(placement.State), eSettingPlace::Database);
+}
+
+cMainModel::cPlacement cMainModel::RestoreLayout() const
+{
+    const QStringList numbers = m_parts.Configuration.GetSetting(u"WindowSize"_s).split(u'|');
+    cPlacement placement;
+    placement.State = m_parts.Configuration.GetSetting(u"WindowState"_s).toInt();
+    if (numbers.size() == 4 && numbers.at(2).toInt() > 0 && numbers.at(3).toInt() > 0) {
+        placement.Left = numbers.at(0).toInt();
+        placement.Top = numbers.at(1).toInt();
+        placement.Width = numbers.at(2).toInt();
+        placement.Height = numbers.at(3).toInt();
+    }
+    return placement;
+}
+
+void cMainModel::ResetView()
+{
+    for (const QString& key : {u"FilterList"_s, u"ImportList"_s, u"KategorieList"_s, u"MainList"_s, u"WindowSize"_s,
+                               u"WindowState"_s, u"GroupEntries"_s}) {
+        m_parts.Settings.Delete(key);
+    }
+    LeaveSelection();
+    m_view.Grouping = modWord::KeineGruppierung;
+    m_view.Type = modWord::AlleBuchungsarten;
+    m_view.Filter.clear();
+    m_view.Period = modWord::AlleBuchungen;
+    m_view.Account = modWord::AlleKonten;
+    SetSwitch(u"ViewFixBooking"_s, eSwitch::On);
+    SetSwitch(u"ViewSingleBooking"_s, eSwitch::On);
+    SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+    // Off on purpose, unlike the defaults of a new book: a reset shows the balances of what is in sight.
+    SetSwitch(u"ViewAccountValueAll"_s, eSwitch::Off);
+    Q_EMIT LayoutReset();
+    RefreshView();
+}
+
+void cMainModel::RefreshView()
+{
+    SaveView();
+    LoadEntries();
+    tmrRefreshAccounts.start(0);
+    Q_EMIT ViewChanged();
+}
+
+void cMainModel::LoadEntries()
+{
+    const QDate today = m_parts.Clock.Today();
+    const cEntryQuery query = m_view.Query(today);
+    cEntryListModel::cContent content;
+    if (!m_view.ShowsNothing()) {
+        content.Entries = m_parts.Data.GetEntries(query);
+        if (m_detour && m_detour->Selection.Pick) {
+            content.Entries = m_detour->Selection.Pick(content.Entries);
+        }
+        content.StartBalance = StartBalance(query);
+    }
+    content.Account = query.Account;
+    content.Today = today;
+    content.HiddenCategory = m_view.ShowsStart ? QString() : modWord::Startguthaben;
+    m_entries.SetContent(std::move(content), m_view.Filter, m_view.Grouping);
+    Q_EMIT EntriesChanged();
+}
+
+std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
+{
+    const bool isPicked = m_detour && m_detour->Selection.Pick;
+    const bool isNarrowed = isPicked || query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
+    if (query.Account.isEmpty() || isNarrowed) {
+        return std::nullopt;
+    }
+    qint64 balance = 0;
+    if (query.Start.isValid()) {
+        cEntryQuery before;
+        before.Account = query.Account;
+        before.End = query.Start.addDays(-1);
+        const QList<cAccountSum> sums = m_parts.Data.GetSums(before, true);
+        for (const cAccountSum& sum : sums) {
+            balance +=
+                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
+        }
+    }
+    return balance;
+}
+
+void cMainModel::RefreshAccounts()
+{
+    const QDate today = m_parts.Clock.Today();
+    const bool isFresh = m_view.BalancesToToday && m_balancesOf == today;
+    if (isFresh) {
+        m_accounts.SetChosen(m_view.FilterAccount());
+        return;
+    }
+    QHash<QString, qint64> balances;
+    if (m_view.BalancesToToday || !m_view.ShowsNothing()) {
+        const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
+        const QList<cAccountSum> sums = m_parts.Data.GetSums(m_view.BalanceQuery(today), withStart);
+        for (const cAccountSum& sum : sums) {
+            const bool isTransfer = sum.EntryType == modWord::Umbuchung;
+            balances[sum.EntryAccount] += isTransfer || sum.EntryType != modWord::Einnahme ? -sum.Cents : sum.Cents;
+            if (isTransfer) {
+                balances[sum.EntryAccountMove] += sum.Cents;
+            }
+        }
+    }
+    m_accounts.SetAccounts(m_accountItems, balances, OpenByAccount());
+    m_accounts.SetChosen(m_view.FilterAccount());
+    m_balancesOf = m_view.BalancesToToday ? today : QDate();
+}
+
+QHash<QString, int> cMainModel::OpenByAccount() const
+{
+    QHash<QString, int> byAccount;
+    const QHash<QString, int> byNumber = m_parts.Data.CountOpenImports();
+    for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
+        byAccount[m_parts.Settings.Get(cAccountMap::SettingName(open.key()))] += *open;
+    }
+    return byAccount;
+}
+
+void cMainModel::BookChanged()
+{
+    m_balancesOf = QDate();
+    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
+    RefreshView();
+    Q_EMIT BookRefreshed();
+}
+
+void cMainModel::StagedRowsChanged()
+{
+    m_balancesOf = QDate();
+    m_accountItems =
+        modTemplate::InOrder(m_parts.Data.GetAccounts()); // a new bank account may have brought a new account
+    tmrRefreshAccounts.start(0);
+    Q_EMIT ViewChanged();
+}
+
+void cMainModel::ChoosePeriod(const QString& name)
+{
+    if (!modWord::Periods().Contains(name)) {
+        return;
+    }
+    const modPeriod::cRange shown = ShownRange();
+    m_view.Period = name;
+    if (IsFreePeriod() && !(m_view.Free.Start.isValid() && m_view.Free.End.isValid())) {
+        const QDate today = m_parts.Clock.Today();
+        m_view.Free = shown.Start.isValid() && shown.End.isValid() ? shown : modPeriod::Year(today, 0);
+    }
+    OfferFuture(name);
+    RefreshView();
+}
+
+void cMainModel::OfferFuture(const QString& period)
+{
+    if (modPeriod::IsNext(period) && !m_view.ShowsFuture
+        && m_parts.User.Ask({.Text = cText::Tr("Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige "
+                                               "aktiviert werden?"),
+                             .Title = {}})
+            == eAnswer::Yes) {
+        SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+    }
+}
+
+void cMainModel::ChooseFreeRange(const modPeriod::cRange& range)
+{
+    if (IsFreePeriod() && range != m_view.Free) {
+        m_view.Free = range;
+        RefreshView();
+    }
+}
+
+void cMainModel::ChooseAccount(const QString& account)
+{
+    const QString chosen = account.isEmpty() ? modWord::AlleKonten : account;
+    if (chosen != m_view.Account) {
+        m_view.Account = chosen;
+        RefreshView();
+    }
+}
+
+void cMainModel::ChooseType(const QString& type)
+{
+    if (modWord::ViewTypes().Contains(type)) {
+        m_view.Type = type;
+        RefreshView();
+    }
+}
+
+void cMainModel::ChooseGrouping(const QString& grouping)
+{
+    if (modWord::Groupings().Contains(grouping)) {
+        m_view.Grouping = grouping;
+        SaveView();
+        m_entries.SetGrouping(grouping);
+        Q_EMIT EntriesChanged();
+        Q_EMIT ViewChanged();
+    }
+}
+
+void cMainModel::TypeFilter(const QString& text)
+{
+    if (text != m_view.Filter) {
+        m_view.Filter = text;
+        tmrRefreshList.start(0);
+    }
+}
+
+void cMainModel::ShowFilter()
+{
+    tmrSaveView.start(); // each letter would be a write to the disk
+    m_entries.SetFilter(m_view.Filter);
+    Q_EMIT EntriesChanged();
+}
+
+void cMainModel::SetSwitch(const QString& key, eSwitch state)
+{
+    *Switch(m_view, key) = state == eSwitch::On;
+    if (m_detour) {
+        *Switch(m_detour->Before, key) = state == eSwitch::On;
+    }
+    m_parts.Settings.SetBool(key, state == eSwitch::On);
+    m_balancesOf = QDate();
+}
+
+void cMainModel::ToggleView(const QString& key)
+{
+    const bool* state = Switch(m_view, key);
+    if (state != nullptr) {
+        SetSwitch(key, *state ? eSwitch::Off : eSwitch::On);
+        RefreshView();
+    }
+}
+
+bool cMainModel::IsChecked(const QString& key) const
+{
+    if (m_detour) { // its switches are not stored
+        cViewState view = m_view;
+        const bool* state = Switch(view, key);
+        return state != nullptr && *state;
+    }
+    return m_parts.Settings.GetBool(key);
+}
+
+void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
+{
+    m_selection = selection;
+    m_isSeriesSelected = false;
+    if (m_selection.size() == 1) {
+        const std::optional<cEntryItem> entry = m_parts.Data.LoadEntry(First().ID);
+        m_isSeriesSelected = entry && modRecurrence::IsRecurring(entry->EntryInterval);
+    }
+    Q_EMIT SelectionChanged();
+}
+
+void cMainModel::Delete(const QList<cEntryListModel::cKey>& keys)
+{
+    cEntryDelete flow(m_parts.Data, m_parts.User, m_parts.Format);
+    if (flow.Delete(keys)) {
+        SetSelection({});
+        BookChanged();
+        Q_EMIT StagedRowsReleased();
+    }
+}
+
+void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
+{
+    for (QString* account : {&m_view.Account, m_detour ? &m_detour->Before.Account : &m_view.Account}) {
+        *account = *account == oldName ? newName : *account;
+    }
+    if (m_parts.Settings.Get(modSetting::StatisticsAccount) == oldName) {
+        m_parts.Settings.Set(modSetting::StatisticsAccount, newName);
+    }
+    BookChanged();
+}
+
+void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
+{
+    m_parts.DatabasePath = path;
+    m_balancesOf = QDate();
+    SetSelection({});
+    RestoreView(isNewVersion);
+    Q_EMIT StagedRowsReleased();
+}
+
+void cMainModel::RenameAccount(const QString& oldName)
+{
+    cTemplateFlow flow(m_parts.Data, m_parts.Settings, m_parts.User);
+    const QString name = flow.AskRenameAccount(oldName);
+    if (name != oldName) {
+        AccountRenamed(oldName, name);
+    }
+}
+
+modPeriod::cRange cMainModel::ShownRange() const
+{
+    return m_view.Range(m_parts.Clock.Today());
+}
+
+QDate cMainModel::Today() const
+{
+    return m_parts.Clock.Today();
+}
+
+bool cMainModel::IsFreePeriod() const
+{
+    return m_view.Period == modWord::FreierZeitraum;
+}
+
+QStringList cMainModel::Accounts() const
+{
+    QStringList names{modWord::AlleKonten};
+    for (const cTemplateItem& account : m_accountItems) {
+        names.append(account.TemplateName);
+    }
+    return names;
+}
+
+QString cMainModel::IncomeText() const
+{
+    return m_parts.Format.Cents(m_entries.Sums().Income);
+}
+
+QString cMainModel::ExpenseText() const
+{
+    return m_parts.Format.Cents(-m_entries.Sums().Expense);
+}
+
+QString cMainModel::TotalText() const
+{
+    return m_parts.Format.Cents(m_entries.Sums().Total());
+}
+
+QString cMainModel::CountText() const
+{
+    const qsizetype count = m_entries.Sums().Count;
+    return count == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(count)});
+}
+
+QString cMainModel::Hint() const
+{
+    const modPeriod::cRange range = ShownRange();
+    const bool reachesOpenEnd = m_view.ShowsFuture && m_view.ShowsFix && !range.End.isValid();
+    return reachesOpenEnd ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.")
+                          : QString();
+}
+
+QString cMainModel::EmptyHint() const
+{
+    if (m_view.ShowsNothing()) {
+        return cText::Tr("Einmalige und fixe Buchungen sind ausgeblendet. Das Menü Ansicht blendet sie wieder ein.");
+    }
+    if (!m_view.Filter.isEmpty()) {
+        return cText::Tr("Kein Eintrag dieser Ansicht enthält '{0}'. Löschen Sie den Filter, um alles zu sehen.",
+                         {m_view.Filter});
+    }
+    if (m_parts.Data.CountEntries() == 0) {
+        return cText::Tr(
+            "Erfassen Sie mit Strg+N den ersten Eintrag, oder lesen Sie mit Strg+I einen Kontoauszug Ihrer Bank "
+            "ein.");
+    }
+    return cText::Tr(
+        "Für diese Auswahl gibt es keine Einträge. Wählen Sie einen anderen Zeitraum oder ein anderes Konto.");
+}
+
+QString cMainModel::DatabaseText() const
+{
+    const QString path = QDir::toNativeSeparators(m_parts.DatabasePath);
+    return IsReadOnly() ? cText::Tr("{0} (nur lesen)", {path}) : path;
+}
+
+QString cMainModel::WindowTitle() const
+{
+    return u"%1 – Kontorelle"_s.arg(QFileInfo(m_parts.DatabasePath).completeBaseName());
+}
+
+QString cMainModel::BalancesTitle() const
+{
+    return m_view.BalancesToToday ? cText::Tr("Kontostände heute") : cText::Tr("Kontostände im Zeitraum");
+}
+
+bool cMainModel::IsReadOnly() const
+{
+    return m_parts.Data.IsReadOnly();
+}
+
+QString cMainModel::Layout(const QString& key) const
+{
+    return m_parts.Settings.Get(key);
+}
+
+void cMainModel::SaveListLayout(const QString& key, const QString& layout)
+{
+    modSetting::Keep(m_parts.Settings, key, layout);
+}

@@ -1,0 +1,181 @@
+#pragma once
+
+#include "base/cUser.h"
+#include "views/list/cEntryListModel.h"
+#include "views/list/cEntrySelection.h"
+#include "views/main/cAccountListModel.h"
+#include "views/main/cLimitWatch.h"
+#include "views/main/cViewState.h"
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+#include <optional>
+
+class cAmountFormat;
+class cClock;
+class cConfiguration;
+class cDataAccess;
+class cNavigator;
+class cSettings;
+class cShell;
+
+// The main window without its widgets: what the user looks at, the lists that show it, and every command.
+class cMainModel final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What the model works with; all of it outlives the model.
+    struct cParts
+    {
+        cDataAccess& Data;
+        cSettings& Settings;
+        cConfiguration& Configuration;
+        const cAmountFormat& Format;
+        cUser& User;
+        const cClock& Clock;
+        cShell& Shell;
+        cNavigator& Navigator;
+        QString DatabasePath;
+    };
+
+    enum class eSwitch { On, Off };
+
+    // Place and state of the main window as they are stored.
+    struct cPlacement
+    {
+        int Left = 0;
+        int Top = 0;
+        int Width = 0; // 0 when nothing usable is stored
+        int Height = 0;
+        int State = 0; // 0 normal, 1 minimised, 2 maximised
+    };
+
+    explicit cMainModel(const cParts& parts, QObject* parent = nullptr);
+    ~cMainModel() override;
+
+    // Reads the view state from the settings and shows it. `isNewVersion`: another version of the program opened this
+    // database last, so the view starts afresh.
+    void RestoreView(bool isNewVersion);
+    void SaveView();
+    void SaveLayout(const cPlacement& placement);
+    [[nodiscard]] cPlacement RestoreLayout() const;
+    void ResetView();
+    void RefreshView(); // loads the entries, adds up and shows them, writes the view state
+
+    // The selectors. Each stores and refreshes; an unknown word is not taken.
+    void ChoosePeriod(const QString& name);
+    void ChooseFreeRange(const modPeriod::cRange& range); // only while the free period is chosen
+    void ChooseAccount(const QString& account);           // empty: all accounts
+    void ChooseType(const QString& type);
+    void ChooseGrouping(const QString& grouping);
+    void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
+    // Asks whether entries after today are to be shown, when the period holds nothing else. The caller refreshes.
+    void OfferFuture(const QString& period);
+    void ToggleView(const QString& key); // one of the five View... switches
+
+    // Shows selected entries in place of the view, grouped by main category. None of it is stored; GoBack shows the
+    // view as it was before the first selection.
+    void ShowEntries(const cEntrySelection& selection);
+    void GoBack();
+    [[nodiscard]] bool IsSelection() const { return m_detour.has_value(); }
+    [[nodiscard]] QString SelectionText() const; // what is selected; empty without selection
+    [[nodiscard]] QStringList ViewLines() const; // what the list shows, in words, for print and export
+
+    // One handler for menus, tool bar and keys. False for an unknown number.
+    bool Execute(int command);
+    [[nodiscard]] bool IsEnabled(int command) const;
+    [[nodiscard]] bool IsChecked(const QString& key) const;
+    // The caption with its mnemonic; Undo and Redo name the step that they work on.
+    [[nodiscard]] QString MenuText(int command) const;
+
+    // The selected occurrences, given by the list.
+    void SetSelection(const QList<cEntryListModel::cKey>& selection);
+
+    // Deletes the entries of these occurrences after the questions that go with it.
+    void Delete(const QList<cEntryListModel::cKey>& keys);
+
+    // After entries or accounts changed elsewhere.
+    void BookChanged();
+    void AccountRenamed(const QString& oldName, const QString& newName);
+    // After another database was opened behind the same objects: shows it in its own view state.
+    void BookSwitched(const QString& path, bool isNewVersion);
+    // After staged rows came, went or were booked: their numbers stand beside the accounts.
+    void StagedRowsChanged();
+
+    // Starts the system's calculator, or says that there is none.
+    void StartCalculator();
+
+    // Renames an account with all its questions.
+    void RenameAccount(const QString& oldName);
+
+    [[nodiscard]] const cViewState& View() const { return m_view; }
+    [[nodiscard]] modPeriod::cRange ShownRange() const; // the days that the date fields show
+    [[nodiscard]] QDate Today() const;
+    [[nodiscard]] bool IsFreePeriod() const;
+    [[nodiscard]] QStringList Accounts() const; // "Alle Konten" first
+    [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
+    [[nodiscard]] cAccountListModel& AccountList() { return m_accounts; }
+
+    // Texts beside the list.
+    [[nodiscard]] QString IncomeText() const;
+    [[nodiscard]] QString ExpenseText() const;
+    [[nodiscard]] QString TotalText() const;
+    [[nodiscard]] QString CountText() const;
+    [[nodiscard]] QString Hint() const;      // a quiet line above the list; empty for none
+    [[nodiscard]] QString EmptyHint() const; // what to do when the list shows nothing
+    [[nodiscard]] QString DatabaseText() const;
+    [[nodiscard]] QString WindowTitle() const;
+    [[nodiscard]] QString BalancesTitle() const;
+    [[nodiscard]] bool IsReadOnly() const;
+
+    // Column layout of a list, as its window wrote it.
+    [[nodiscard]] QString Layout(const QString& key) const;
+    void SaveListLayout(const QString& key, const QString& layout);
+
+Q_SIGNALS:
+    void ViewChanged();    // selectors, switches, hint
+    void EntriesChanged(); // list and sums were rebuilt
+    void BookRefreshed();  // the book itself may have changed, not only the view
+    void LayoutReset();    // column layouts and window size were set back
+    void SelectionChanged();
+    void StagedRowsReleased(); // bank transactions may wait again, or be gone
+
+private:
+    void LoadEntries();
+    void LeaveSelection();
+    void ShowFilter();
+    void RefreshAccounts();
+    void SkipPeriod();
+    void StepThrough(bool (cDataAccess::*step)());
+    [[nodiscard]] QString StepName(int command) const;
+    [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
+    void SetSwitch(const QString& key, eSwitch state);
+    [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
+    [[nodiscard]] QHash<QString, int> OpenByAccount() const;
+
+    // A selection and the view that it stands in for.
+    struct cDetour
+    {
+        cViewState Before;
+        cEntrySelection Selection;
+    };
+
+    cParts m_parts;
+    cViewState m_view;
+    std::optional<cDetour> m_detour;
+    cEntryListModel m_entries;
+    cAccountListModel m_accounts;
+    cLimitWatch m_limits;
+    cTemplateItemList m_accountItems;
+    QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
+    QList<cEntryListModel::cKey> m_selection;
+    bool m_isSeriesSelected = false; // the one selected line belongs to a series
+    QTimer tmrRefreshList;
+    QTimer tmrRefreshAccounts;
+    QTimer tmrSaveView;
+};

@@ -1,0 +1,118 @@
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "core/cSettings.h"
+#include "store/cDataAccess.h"
+#include "views/entry/cSeriesChange.h"
+#include "views/main/cMainModel.h"
+#include "views/main/cNavigator.h"
+#include "views/main/modCommand.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// The part of the main model that carries out commands.
+
+bool cMainModel::Execute(int command)
+{
+    const modCommand::cCommand* known = modCommand::Find(command);
+    if (known == nullptr) {
+        return false;
+    }
+    if (!IsEnabled(command)) {
+        return true;
+    }
+    switch (known->Id) {
+    case modCommand::NewEntry: m_parts.Navigator.OpenNewEntry(); break;
+    case modCommand::EditEntry: m_parts.Navigator.OpenEntry(First().ID, First().Day); break;
+    case modCommand::DeleteEntry: Delete(m_selection); break;
+    case modCommand::CorrectPeriod: m_parts.Navigator.OpenCorrection(First().ID, First().Day); break;
+    case modCommand::SkipPeriod: SkipPeriod(); break;
+    case modCommand::Undo: StepThrough(&cDataAccess::Undo); break;
+    case modCommand::Redo: StepThrough(&cDataAccess::Redo); break;
+    case modCommand::EditTemplates: m_parts.Navigator.OpenTemplates({}); break;
+    case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
+    case modCommand::ResetView: ResetView(); break;
+    case modCommand::Calculator: StartCalculator(); break;
+    case modCommand::ViewSingle:
+    case modCommand::ViewFix:
+    case modCommand::ViewFuture:
+    case modCommand::ViewStart:
+    case modCommand::ViewAccountValues: ToggleView(QString::fromUtf8(known->Setting)); break;
+    case modCommand::ImportStatement:
+    case modCommand::Export:
+    case modCommand::Print:
+    case modCommand::PrintPreview:
+    case modCommand::ChooseColumns:
+    case modCommand::Password:
+    case modCommand::MakeBackup:
+    case modCommand::RestoreBackup:
+    case modCommand::SwitchDatabase:
+    case modCommand::NewDatabase:
+    case modCommand::Search:
+    case modCommand::StartBalance:
+    case modCommand::AccountStatement:
+    case modCommand::BackupSettings:
+    case modCommand::Rules:
+    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
+    }
+    return true;
+}
+
+bool cMainModel::IsEnabled(int command) const
+{
+    const modCommand::cCommand* known = modCommand::Find(command);
+    if (known == nullptr || (modCommand::Has(*known, modCommand::Writes) && IsReadOnly())) {
+        return false;
+    }
+    if (known->Id == modCommand::Undo || known->Id == modCommand::Redo) {
+        return !StepName(known->Id).isEmpty();
+    }
+    if (modCommand::Has(*known, modCommand::NeedsOccurrence)) {
+        return m_selection.size() == 1 && m_isSeriesSelected;
+    }
+    return !modCommand::Has(*known, modCommand::NeedsEntry) || !m_selection.isEmpty();
+}
+
+QString cMainModel::StepName(int command) const
+{
+    return command == modCommand::Undo ? m_parts.Data.UndoName() : m_parts.Data.RedoName();
+}
+
+QString cMainModel::MenuText(int command) const
+{
+    const modCommand::cCommand* known = modCommand::Find(command);
+    if (known == nullptr) {
+        return {};
+    }
+    const QString text = modCommand::MenuText(*known);
+    const bool isStep = known->Id == modCommand::Undo || known->Id == modCommand::Redo;
+    const QString name = isStep ? StepName(known->Id).replace(u'&', u"&&"_s) : QString();
+    return name.isEmpty() ? text : cText::Tr("{0}: {1}", {text, name});
+}
+
+void cMainModel::StepThrough(bool (cDataAccess::*step)())
+{
+    if ((m_parts.Data.*step)()) {
+        m_parts.Settings.Reload(); // account numbers of the bank may have been part of it
+        SetSelection({});
+        BookChanged();
+        Q_EMIT StagedRowsReleased();
+    }
+}
+
+void cMainModel::SkipPeriod()
+{
+    cSeriesChange change(m_parts.Data, m_parts.User);
+    if (change.SkipPeriod(First().ID, First().Day)) {
+        BookChanged();
+    }
+}
+
+void cMainModel::StartCalculator()
+{
+    if (!m_parts.Shell.StartCalculator()) {
+        m_parts.User.Show(
+            eTone::Exclamation,
+            cText::Tr("Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum "
+                      "Beispiel \"gnome-calculator\" oder \"kcalc\"."));
+    }
+}

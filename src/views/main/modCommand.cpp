@@ -1,0 +1,117 @@
+#include "views/main/modCommand.h"
+
+#include "base/cText.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+using namespace modCommand;
+
+namespace {
+
+constexpr std::array<cCommand, 32> commands{{
+    {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", "", Plain,
+     QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
+    {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "", "",
+     Plain, QT_TRANSLATE_NOOP("cText", "Öffnet eine andere Datenbank.")},
+    {MakeBackup, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Dat&ensicherung erstellen"), "", "",
+     "", StartsGroup, QT_TRANSLATE_NOOP("cText", "Kopiert die Datenbank in eine Sicherungsdatei.")},
+    {RestoreBackup, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datensicherung &laden"), "", "",
+     "", Plain, QT_TRANSLATE_NOOP("cText", "Ersetzt die Datenbank durch den Stand einer Sicherungsdatei.")},
+    {ImportStatement, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Kontoauszug importieren"),
+     "Ctrl+I", "import", "", InToolBar | Writes | StartsGroup,
+     QT_TRANSLATE_NOOP("cText", "Liest Kontoauszüge aus Dateien Ihrer Bank ein.")},
+    {Export, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Daten e&xportieren"), "", "", "", Plain,
+     QT_TRANSLATE_NOOP("cText", "Schreibt die gezeigten Einträge als CSV-, Excel-, HTML- oder QIF-Datei.")},
+    {Print, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Drucken"), "Ctrl+P", "", "", StartsGroup,
+     QT_TRANSLATE_NOOP("cText", "Druckt die gezeigten Einträge oder die Auswertung.")},
+    {PrintPreview, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Seitenansicht"), "", "", "", Plain,
+     QT_TRANSLATE_NOOP("cText", "Zeigt, wie der Ausdruck aussieht.")},
+    {Quit, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Beenden"), "Alt+Q", "", "", StartsGroup,
+     QT_TRANSLATE_NOOP("cText", "Beendet das Programm.")},
+    {Undo, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "&Rückgängig"), "Ctrl+Z", "zurueck", "",
+     Writes, QT_TRANSLATE_NOOP("cText", "Nimmt die letzte Änderung zurück.")},
+    {Redo, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "&Wiederholen"), "Ctrl+Y|Ctrl+Shift+Z",
+     "wieder", "", Writes, QT_TRANSLATE_NOOP("cText", "Führt die zurückgenommene Änderung wieder aus.")},
+    {NewEntry, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "&Neuer Eintrag"), "Ctrl+N|F5",
+     "neu", "", InToolBar | Writes | StartsGroup,
+     QT_TRANSLATE_NOOP("cText", "Erfasst eine Einnahme, Ausgabe oder Umbuchung.")},
+    {EditEntry, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "Eintrag &bearbeiten"), "Ctrl+E",
+     "bearbeiten", "", NeedsEntry | InToolBar, QT_TRANSLATE_NOOP("cText", "Öffnet den ausgewählten Eintrag.")},
+    {DeleteEntry, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "Eintrag &löschen"), "Del",
+     "loeschen", "", NeedsEntry | InToolBar | Writes,
+     QT_TRANSLATE_NOOP("cText", "Löscht die ausgewählten Einträge nach einer Rückfrage.")},
+    {CorrectPeriod, QT_TRANSLATE_NOOP("cText", "Bearbeiten"),
+     QT_TRANSLATE_NOOP("cText", "Betrag für diesen Zeitraum &korrigieren"), "", "", "",
+     NeedsOccurrence | Writes | StartsGroup,
+     QT_TRANSLATE_NOOP("cText", "Gibt einem Vorkommen einer Serie einen anderen Betrag.")},
+    {SkipPeriod, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "Nur dieses M&al auslassen"), "",
+     "", "", NeedsOccurrence | Writes,
+     QT_TRANSLATE_NOOP("cText", "Setzt den Betrag eines Vorkommens einer Serie auf null.")},
+    {StartBalance, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "&Startguthaben festlegen"), "",
+     "", "", Writes | StartsGroup, QT_TRANSLATE_NOOP("cText", "Legt fest, mit welchem Betrag ein Konto beginnt.")},
+    {Search, QT_TRANSLATE_NOOP("cText", "Bearbeiten"), QT_TRANSLATE_NOOP("cText", "S&uchen"), "F3", "suchen", "",
+     InToolBar | StartsGroup, QT_TRANSLATE_NOOP("cText", "Sucht Einträge nach Text, Betrag, Zeitraum und mehr.")},
+    {ViewAccountValues, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Kontostand (aller Konten)"),
+     "", "", "ViewAccountValueAll", Plain,
+     QT_TRANSLATE_NOOP("cText", "Zeigt die Kontostände bis heute statt nur des gewählten Zeitraums.")},
+    {ViewSingle, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Einmalige-Buchungen"), "", "",
+     "ViewSingleBooking", Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Einträge, die nur einmal vorkommen.")},
+    {ViewFix, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Fixe-Buchungen"), "", "",
+     "ViewFixBooking", Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Einträge, die sich wiederholen.")},
+    {ViewFuture, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Zukünftige-Buchung"), "",
+     "zukunft", "ViewFutureBooking", InToolBar,
+     QT_TRANSLATE_NOOP("cText", "Zeigt auch Einträge nach dem heutigen Tag.")},
+    {ViewStart, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Startguthaben"), "", "",
+     "ViewStartBooking", Plain, QT_TRANSLATE_NOOP("cText", "Zeigt auch die Startguthaben der Konten.")},
+    {ChooseColumns, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "S&palten modifizieren"), "",
+     "spalten", "", StartsGroup, QT_TRANSLATE_NOOP("cText", "Wählt, welche Spalten die Liste zeigt.")},
+    {ResetView, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "Einstellungen zu&rücksetzen"), "",
+     "", "", Plain, QT_TRANSLATE_NOOP("cText", "Stellt Ansicht, Spalten und Fenstergröße auf den Anfang zurück.")},
+    {EditTemplates, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Kategorie/Konto bearbeiten"), "",
+     "", "", Plain, QT_TRANSLATE_NOOP("cText", "Verwaltet Kategorien und Konten.")},
+    {Rules, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Regeln…"), "", "", "", Writes,
+     QT_TRANSLATE_NOOP("cText", "Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.")},
+    {AccountStatement, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Kontoaus&zug anzeigen…"), "",
+     "", "", Plain, QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze eines Bankkontos mit ihrem Saldo.")},
+    {Calculator, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Taschenrechner"), "", "rechner", "",
+     Plain, QT_TRANSLATE_NOOP("cText", "Startet den Taschenrechner des Systems.")},
+    {Password, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Passwortschutz"), "", "", "",
+     Writes | StartsGroup, QT_TRANSLATE_NOOP("cText", "Setzt, ändert oder entfernt das Passwort dieser Datenbank.")},
+    {BackupSettings, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Automatische Datensicherung"),
+     "", "", "", Writes,
+     QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
+    {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "", "",
+     Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
+}};
+
+} // namespace
+
+std::span<const cCommand> modCommand::All()
+{
+    return commands;
+}
+
+const cCommand* modCommand::Find(int id)
+{
+    const auto* const found =
+        std::find_if(commands.begin(), commands.end(), [id](const cCommand& command) { return command.Id == id; });
+    return found == commands.end() ? nullptr : found;
+}
+
+QString modCommand::MenuText(const cCommand& command)
+{
+    return cText::Tr(command.Caption);
+}
+
+QString modCommand::PlainText(const cCommand& command)
+{
+    return MenuText(command).remove(u'&');
+}
+
+QStringList modCommand::Keys(const cCommand& command)
+{
+    return QString::fromUtf8(command.Keys).split(u'|', Qt::SkipEmptyParts);
+}

@@ -1,0 +1,74 @@
+#include "views/main/modViewText.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "model/modWord.h"
+#include "views/main/cViewState.h"
+#include "views/report/modReport.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Days(const modPeriod::cRange& range)
+{
+    const QString end = modDate::ToGerman(range.End);
+    if (!modReport::HasStart(range) || range.Start == range.End) {
+        return end;
+    }
+    const QString start = modDate::ToGerman(range.Start);
+    return end.isEmpty() ? start : cText::Tr("{0} bis {1}", {start, end});
+}
+
+QString PeriodLine(const cViewState& view, const modPeriod::cRange& range)
+{
+    const QString name = modWord::Periods().ToShown(view.Period);
+    const QString days = Days(range);
+    return days.isEmpty() ? cText::Tr("Zeitraum: {0}", {name}) : cText::Tr("Zeitraum: {0} ({1})", {name, days});
+}
+
+QStringList Hidden(const cViewState& view)
+{
+    QStringList hidden;
+    if (!view.ShowsSingle) {
+        hidden.append(cText::Tr("einmalige"));
+    }
+    if (!view.ShowsFix) {
+        hidden.append(cText::Tr("wiederkehrende"));
+    }
+    if (!view.ShowsFuture) {
+        hidden.append(cText::Tr("zukünftige"));
+    }
+    if (!view.ShowsStart) {
+        hidden.append(cText::Tr("Startguthaben"));
+    }
+    return hidden;
+}
+
+} // namespace
+
+QString modViewText::Title(const cViewState& view)
+{
+    const QString account = view.FilterAccount();
+    return account.isEmpty() ? cText::Tr("Einträge") : cText::Tr("Einträge: {0}", {account});
+}
+
+QStringList modViewText::Lines(const cViewState& view, const modPeriod::cRange& range)
+{
+    const QString account = view.FilterAccount();
+    QStringList lines{PeriodLine(view, range),
+                      cText::Tr("Konto: {0}", {account.isEmpty() ? cText::Tr("Alle Konten") : account})};
+    if (view.Type != modWord::AlleBuchungsarten) {
+        lines.append(cText::Tr("Buchungsart: {0}", {modWord::ViewTypes().ToShown(view.Type)}));
+    }
+    if (const QString filter = view.Filter.trimmed(); !filter.isEmpty()) {
+        lines.append(cText::Tr("Filter: {0}", {filter}));
+    }
+    if (view.Grouping != modWord::KeineGruppierung) {
+        lines.append(cText::Tr("Gruppierung: {0}", {modWord::Groupings().ToShown(view.Grouping)}));
+    }
+    if (const QStringList hidden = Hidden(view); !hidden.isEmpty()) {
+        lines.append(cText::Tr("Ausgeblendet: {0}", {hidden.join(u", "_s)}));
+    }
+    return lines;
+}

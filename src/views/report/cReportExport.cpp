@@ -1,0 +1,91 @@
+#include "views/report/cReportExport.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "views/list/modFileWrite.h"
+#include "views/report/cReportSource.h"
+#include "views/report/modReport.h"
+#include "views/report/modReportExport.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Filter()
+{
+    return cText::Tr("HTML-Datei|*.html|CSV-Datei|*.csv|Excel-Datei|*.xlsx|Alle Dateien|*.*");
+}
+
+// A name without ending is a page; none for an ending of another kind of file.
+std::optional<cReportExport::eFormat> FormatOf(const QString& path)
+{
+    using enum cReportExport::eFormat;
+    const QString ending = QFileInfo(path).suffix().toLower();
+    if (ending.isEmpty() || ending == u"html" || ending == u"htm") {
+        return Html;
+    }
+    return ending == u"csv" ? std::optional(Csv) : ending == u"xlsx" ? std::optional(Xlsx) : std::nullopt;
+}
+
+QString Title()
+{
+    return cText::Tr("Bericht speichern");
+}
+
+} // namespace
+
+cReportExport::eDone cReportExport::Run(const cReportWish& wish)
+{
+    // Without ending: the dialog adds the one of the kind of file that is chosen there.
+    const QString proposal = u"Kontorelle-%1-%2"_s.arg(modReport::ShownName(wish.Type), modDate::ToIso(wish.Today));
+    const QString path = m_user.ChooseSavePath(Title(), Filter(), proposal);
+    if (path.isEmpty()) {
+        return eDone::GivenUp;
+    }
+    const std::optional<eFormat> format = FormatOf(path);
+    if (!format) {
+        return Refuse(
+            cText::Tr("Am Ende des Dateinamens '{0}' ist nicht zu erkennen, in welchem Format der Bericht gespeichert "
+                      "werden soll.\nMöglich sind: {1}.",
+                      {QDir::toNativeSeparators(path), u".html, .csv, .xlsx"_s}));
+    }
+    const eDone done = WriteFile(wish, *format, path);
+    if (done == eDone::Written) {
+        m_user.Show(eTone::Information,
+                    cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)}), Title());
+    }
+    return done;
+}
+
+cReportExport::eDone cReportExport::WriteFile(const cReportWish& wish, eFormat format, const QString& path)
+{
+    const std::optional<QByteArray> bytes = Bytes(wish, format);
+    const QString problem = bytes ? modFileWrite::Replace(path, *bytes)
+                                  : cText::Tr("Die Excel-Datei konnte nicht zusammengestellt werden.");
+    if (!problem.isEmpty()) {
+        return Refuse(
+            cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
+                      {QDir::toNativeSeparators(path), problem}));
+    }
+    return eDone::Written;
+}
+
+std::optional<QByteArray> cReportExport::Bytes(const cReportWish& wish, eFormat format)
+{
+    switch (format) {
+    case eFormat::Html: return m_source.Page(wish).toUtf8();
+    case eFormat::Csv: return modReportExport::Csv(m_source.Figures(wish));
+    case eFormat::Xlsx: return modReportExport::Xlsx(m_source.Figures(wish), m_format);
+    }
+    return std::nullopt;
+}
+
+cReportExport::eDone cReportExport::Refuse(const QString& text)
+{
+    m_user.Show(eTone::Critical, text, Title());
+    return eDone::Failed;
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "views/report/cReportFigures.h"
+
+#include <QString>
+
+#include <optional>
+
+class cAmountFormat;
+class cReportSource;
+class cUser;
+
+// Writes a report into a file: as a page, or its figures as a table.
+class cReportExport
+{
+public:
+    enum class eFormat { Html, Csv, Xlsx };
+    enum class eDone { Written, Failed, GivenUp };
+
+    cReportExport(cUser& user, cReportSource& source, const cAmountFormat& format)
+        : m_user(user),
+          m_source(source),
+          m_format(format)
+    {
+    }
+
+    // Lets the user choose a file, whose ending decides the format.
+    eDone Run(const cReportWish& wish);
+
+    // Writes the file and shows a message when that fails. A file that stands there already is replaced only once the
+    // new one is complete.
+    [[nodiscard]] eDone WriteFile(const cReportWish& wish, eFormat format, const QString& path);
+
+private:
+    [[nodiscard]] std::optional<QByteArray> Bytes(const cReportWish& wish, eFormat format);
+    [[nodiscard]] eDone Refuse(const QString& text);
+
+    cUser& m_user;
+    cReportSource& m_source;
+    const cAmountFormat& m_format;
+};

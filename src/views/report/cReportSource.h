@@ -1,0 +1,63 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cTemplateItem.h"
+#include "views/report/cReportFigures.h"
+
+#include <QString>
+
+#include <optional>
+
+class cAmountFormat;
+class cClock;
+class cDataAccess;
+class cSettings;
+
+// Reports over the open book. The entries of the last account and period stay in memory, so that another report or
+// another order of the same ones costs no query.
+class cReportSource
+{
+public:
+    // All of these outlive the source.
+    cReportSource(cDataAccess& data, const cSettings& settings, const cClock& clock, const cAmountFormat& format);
+
+    // A wish for a period by its stored name, with the switches of the view for future entries and start balances.
+    // `free` are the days of "Freier Zeitraum"; without account it is all of them ("Alle Konten" counts as none).
+    [[nodiscard]] cReportWish Wish(eReport type, const QString& account, const QString& period,
+                                   const modPeriod::cRange& free) const;
+
+    [[nodiscard]] const cReportFigures& Figures(const cReportWish& wish);
+    [[nodiscard]] QString Html(const cReportWish& wish); // as the view shows it
+    [[nodiscard]] QString Page(const cReportWish& wish); // as a file of its own
+
+    // The entries behind a node, by day.
+    [[nodiscard]] cEntryItemList EntriesOf(const cReportWish& wish, const cReportNode& node);
+    // All entries of the wish's account and period, transfers included.
+    [[nodiscard]] const cEntryItemList& Entries(const cReportWish& wish);
+
+    // The categories and accounts as they were loaded with them.
+    [[nodiscard]] const cTemplateItemList& Templates() const { return m_templates; }
+
+    // To be called when the book has changed.
+    void Forget();
+
+private:
+    // What the entries in memory were asked for.
+    struct cAsked
+    {
+        QString Account;
+        QDate Start;
+        QDate End;
+        bool operator==(const cAsked&) const = default;
+    };
+    [[nodiscard]] static cAsked Ask(const cReportWish& wish);
+
+    cDataAccess& m_data;
+    const cSettings& m_settings;
+    const cClock& m_clock;
+    const cAmountFormat& m_format;
+    std::optional<cAsked> m_asked;
+    cEntryItemList m_entries;
+    cTemplateItemList m_templates;
+    cReportFigures m_figures;
+};

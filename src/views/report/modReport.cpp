@@ -1,0 +1,426 @@
+#include "views/report/modReport.h"
+
+#include "base/cText.h"
+#include "model/modWord.h"
+
+#include <QCollator>
+#include <QHash>
+#include <QLocale>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// An open side of a period as a report shows it.
+const QDate earliest(1001, 1, 1);
+const QDate latest(9999, 12, 31);
+
+// Main category of entries without category path; the same word that categories without names have as path.
+const QString noCategory = u"Keine Angabe"_s;
+
+struct cType
+{
+    eReport Type;
+    const char* Name; // German
+    QString ShortName;
+};
+
+const std::array<cType, 3>& Types()
+{
+    static const std::array<cType, 3> types{
+        cType{eReport::Average, QT_TRANSLATE_NOOP("cText", "Durchschnittswerte"), u"durchschnitt"_s},
+        cType{eReport::Sum, QT_TRANSLATE_NOOP("cText", "Summe aller Werte"), u"summe"_s},
+        cType{eReport::Limit, QT_TRANSLATE_NOOP("cText", "Monatslimit"), u"limit"_s},
+    };
+    return types;
+}
+
+const cType& TypeOf(eReport type)
+{
+    return Types()[static_cast<std::size_t>(type)];
+}
+
+// The two halves of a category path.
+struct cPath
+{
+    QString Group;
+    QString Category;
+    bool operator==(const cPath&) const = default;
+};
+
+std::size_t qHash(const cPath& path, std::size_t seed = 0)
+{
+    return qHashMulti(seed, path.Group, path.Category);
+}
+
+cPath Split(const QString& path)
+{
+    return {path.isEmpty() ? noCategory : modTemplate::MainOf(path), modTemplate::SubOf(path)};
+}
+
+bool Counts(const cEntryItem& entry, const cReportWish& wish)
+{
+    const bool withStart = wish.Type == eReport::Sum && wish.ShowsStart;
+    return entry.EntryType != modWord::Umbuchung && (withStart || entry.EntryCategory != modWord::Startguthaben);
+}
+
+eReportKind KindOf(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Einnahme ? eReportKind::Income : eReportKind::Expense;
+}
+
+// Monthly limits of categories. The value of a category of income is what usually comes in, and no limit for anything.
+// Of several rows with the same path the first one with a limit holds.
+QHash<cPath, qint64> MonthlyLimits(const cTemplateItemList& templates)
+{
+    QHash<cPath, qint64> limits;
+    for (const cTemplateItem& item : templates) {
+        const qint64 limit = std::abs(modTemplate::DefaultValueCents(item));
+        const cPath path = Split(modTemplate::Path(item));
+        if (!modTemplate::IsAccount(item) && item.EntryType != modWord::Einnahme && limit > 0
+            && !limits.contains(path)) {
+            limits.insert(path, limit);
+        }
+    }
+    return limits;
+}
+
+// What lies on one category.
+struct cTotal
+{
+    qint64 Cents = 0;
+    int Entries = 0;
+};
+
+struct cSlot
+{
+    cPath Path;
+    cTotal Income{};
+    cTotal Expense{};
+    qint64 MonthlyLimit = 0;
+};
+
+// Totals by category, filled in one pass over the entries.
+class cSlots
+{
+public:
+    void Add(const cEntryItem& entry)
+    {
+        cSlot& slot = m_slots[Find(entry.EntryCategory)];
+        cTotal& total = KindOf(entry) == eReportKind::Income ? slot.Income : slot.Expense;
+        total.Cents += entry.EntryValue;
+        ++total.Entries;
+    }
+
+    void AddLimits(const QHash<cPath, qint64>& limits)
+    {
+        for (auto limit = limits.begin(); limit != limits.end(); ++limit) {
+            m_slots[Find(limit.key())].MonthlyLimit = *limit;
+        }
+    }
+
+    [[nodiscard]] const std::vector<cSlot>& All() const { return m_slots; }
+
+private:
+    // Different texts may stand for the same category: none, and the word for none.
+    std::size_t Find(const QString& text)
+    {
+        const auto known = m_byText.constFind(text);
+        if (known != m_byText.constEnd()) {
+            return *known;
+        }
+        const std::size_t slot = Find(Split(text));
+        m_byText.insert(text, slot);
+        return slot;
+    }
+
+    std::size_t Find(const cPath& path)
+    {
+        const std::size_t slot = m_byPath.value(path, m_slots.size());
+        if (slot == m_slots.size()) {
+            m_slots.push_back({path});
+            m_byPath.insert(path, slot);
+        }
+        return slot;
+    }
+
+    std::vector<cSlot> m_slots;
+    QHash<QString, std::size_t> m_byText;
+    QHash<cPath, std::size_t> m_byPath;
+};
+
+QString GroupLabel(const QString& group)
+{
+    if (group.isEmpty()) {
+        return cText::Tr("Sonstiges");
+    }
+    return group == noCategory ? cText::Tr("Keine Angabe") : group;
+}
+
+QString CategoryLabel(const cPath& path)
+{
+    if (path.Category.isEmpty()) {
+        return cText::Tr("Sonstiges ({0})", {GroupLabel(path.Group)});
+    }
+    return path.Group.isEmpty() ? path.Category : QString(path.Category + u" ("_s + path.Group + u')');
+}
+
+// Puts the lines of a section together.
+class cSectionBuilder
+{
+public:
+    cSectionBuilder(eReportKind kind, const cReportBasis& basis, eReport type) : m_basis(basis), m_type(type)
+    {
+        m_section.Kind = kind;
+        m_collator.setNumericMode(true);
+    }
+
+    void Add(const cPath& path, const cTotal& total, qint64 limit)
+    {
+        cReportAmount amount;
+        amount.Sum = total.Cents;
+        amount.Limit = limit;
+        amount.Entries = total.Entries;
+        cReportGroup& group = Group(path.Group);
+        group.Categories.append({path.Category, CategoryLabel(path), amount});
+        Sum(group.Amount, amount);
+        Sum(m_section.Amount, amount);
+    }
+
+    [[nodiscard]] cReportSection Take(eReportOrder order)
+    {
+        Finish(m_section.Amount);
+        for (cReportGroup& group : m_section.Groups) {
+            Finish(group.Amount);
+            for (cReportCategory& category : group.Categories) {
+                Finish(category.Amount);
+            }
+            Sort(group.Categories, order, [](const cReportCategory& category) {
+                return category.Name.isEmpty() ? cText::Tr("Sonstiges") : category.Name;
+            });
+        }
+        Sort(m_section.Groups, order, [](const cReportGroup& group) { return group.Label; });
+        return std::move(m_section);
+    }
+
+private:
+    cReportGroup& Group(const QString& name)
+    {
+        const auto known = m_groups.constFind(name);
+        if (known != m_groups.constEnd()) {
+            return m_section.Groups[*known];
+        }
+        m_groups.insert(name, m_section.Groups.size());
+        m_section.Groups.append({name, GroupLabel(name), {}});
+        return m_section.Groups.last();
+    }
+
+    static void Sum(cReportAmount& whole, const cReportAmount& part)
+    {
+        whole.Sum += part.Sum;
+        whole.Limit += part.Limit;
+        whole.Entries += part.Entries;
+    }
+
+    // Each line is the average of its own sum: a total made of rounded averages would drift away from the truth.
+    void Finish(cReportAmount& amount) const
+    {
+        amount.Cents = m_type == eReport::Average ? modReport::PerMonth(amount.Sum, m_basis) : amount.Sum;
+    }
+
+    template <typename tLine, typename tName>
+    void Sort(QList<tLine>& lines, eReportOrder order, tName name) const
+    {
+        std::sort(lines.begin(), lines.end(), [&](const tLine& a, const tLine& b) {
+            if (order == eReportOrder::ByAmount && a.Amount.Cents != b.Amount.Cents) {
+                return a.Amount.Cents > b.Amount.Cents;
+            }
+            const int compared = m_collator.compare(name(a), name(b));
+            return compared != 0 ? compared < 0 : a.Name < b.Name;
+        });
+    }
+
+    const cReportBasis& m_basis;
+    eReport m_type;
+    QCollator m_collator{QLocale(QLocale::German, QLocale::Germany)};
+    cReportSection m_section;
+    QHash<QString, qsizetype> m_groups;
+};
+
+cTotal Spent(const cSlot& slot, eReportSpending spending)
+{
+    if (spending == eReportSpending::Gross) {
+        return slot.Expense;
+    }
+    return {slot.Expense.Cents - slot.Income.Cents, slot.Expense.Entries + slot.Income.Entries};
+}
+
+void AddSlot(const cSlot& slot, cSectionBuilder& income, cSectionBuilder& expense)
+{
+    if (slot.Income.Entries > 0) {
+        income.Add(slot.Path, slot.Income, 0);
+    }
+    if (slot.Expense.Entries > 0) {
+        expense.Add(slot.Path, slot.Expense, 0);
+    }
+}
+
+bool IsBelow(const cPath& path, const cReportNode& node)
+{
+    return (!node.Group || *node.Group == path.Group) && (!node.Category || *node.Category == path.Category);
+}
+
+// From the first to the last month, both included.
+int MonthsBetween(QDate first, QDate last)
+{
+    return std::abs((last.year() - first.year()) * 12 + last.month() - first.month()) + 1;
+}
+
+// The calendar months of a period. Where it is open, only the months that have entries are known to be meant.
+int Months(const modPeriod::cRange& range, const cEntryItemList& entries)
+{
+    if (modReport::HasStart(range) && range.End.isValid()) {
+        return MonthsBetween(range.Start, range.End);
+    }
+    if (entries.isEmpty()) {
+        return 1;
+    }
+    const auto isEarlier = [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; };
+    const auto [first, last] = std::minmax_element(entries.begin(), entries.end(), isEarlier);
+    return MonthsBetween(modReport::HasStart(range) ? range.Start : first->EntryDate,
+                         range.End.isValid() ? range.End : last->EntryDate);
+}
+
+} // namespace
+
+cReportFigures modReport::Figures(const cEntryItemList& entries, const cTemplateItemList& templates,
+                                  const cReportWish& wish)
+{
+    cReportFigures figures;
+    figures.Type = wish.Type;
+    figures.Account = wish.Account;
+    figures.Basis = Basis(wish, entries);
+    cSlots totals;
+    for (const cEntryItem& entry : entries) {
+        if (Counts(entry, wish)) {
+            totals.Add(entry);
+        }
+    }
+    cSectionBuilder income(eReportKind::Income, figures.Basis, wish.Type);
+    cSectionBuilder expense(eReportKind::Expense, figures.Basis, wish.Type);
+    if (wish.Type == eReport::Limit) {
+        totals.AddLimits(MonthlyLimits(templates));
+    }
+    for (const cSlot& slot : totals.All()) {
+        if (wish.Type != eReport::Limit) {
+            AddSlot(slot, income, expense);
+        } else if (slot.MonthlyLimit > 0) {
+            expense.Add(slot.Path, Spent(slot, wish.Spending), slot.MonthlyLimit * figures.Basis.Months);
+        }
+    }
+    figures.Income = income.Take(wish.Order);
+    figures.Expense = expense.Take(wish.Order);
+    return figures;
+}
+
+cReportBasis modReport::Basis(const cReportWish& wish, const cEntryItemList& entries)
+{
+    cReportBasis basis;
+    basis.Start = wish.Range.Start.isValid() ? wish.Range.Start : earliest;
+    basis.End = wish.Range.End.isValid() ? wish.Range.End : latest;
+    basis.Days = std::max<qint64>(1, std::abs(basis.Start.daysTo(basis.End)));
+    // From the first to the last day of the years, so that a single common year has 364 and not 365: as many steps as
+    // `Days` counts for the same period, and the two have to fit each other.
+    basis.YearBasis = QDate(basis.Start.year(), 1, 1).daysTo(QDate(basis.End.year(), 12, 31));
+    basis.Months = wish.Type == eReport::Limit ? Months(wish.Range, entries) : 1;
+    return basis;
+}
+
+bool modReport::HasStart(const modPeriod::cRange& range)
+{
+    constexpr int firstYear = 1900;
+    return range.Start.isValid() && range.Start.year() >= firstYear;
+}
+
+cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReportWish& wish, const cReportNode& node,
+                                    const cTemplateItemList& templates)
+{
+    const bool isLimit = wish.Type == eReport::Limit;
+    const QHash<cPath, qint64> limits = isLimit ? MonthlyLimits(templates) : QHash<cPath, qint64>();
+    const bool withRefunds = isLimit && wish.Spending == eReportSpending::Net;
+    QHash<QString, bool> isBelow; // by category path as the entries have it
+    cEntryItemList found;
+    for (const cEntryItem& entry : entries) {
+        if (!Counts(entry, wish) || (KindOf(entry) != node.Kind && !withRefunds)) {
+            continue;
+        }
+        auto known = isBelow.constFind(entry.EntryCategory);
+        if (known == isBelow.constEnd()) {
+            const cPath path = Split(entry.EntryCategory);
+            known = isBelow.insert(entry.EntryCategory, IsBelow(path, node) && (!isLimit || limits.contains(path)));
+        }
+        if (*known) {
+            found.append(entry);
+        }
+    }
+    return found;
+}
+
+std::optional<cReportNode> modReport::NodeOf(const cEntryItem& entry, const cReportWish& wish)
+{
+    if (!Counts(entry, wish)) {
+        return std::nullopt;
+    }
+    const cPath path = Split(entry.EntryCategory);
+    return cReportNode{KindOf(entry), path.Group, path.Category};
+}
+
+qint64 modReport::PerMonth(qint64 cents, const cReportBasis& basis)
+{
+    // The product is exact and the quotient rounded once, so that halves are seen as halves.
+    return std::llround(static_cast<double>(cents) * static_cast<double>(basis.YearBasis)
+                        / (12.0 * static_cast<double>(basis.Days)));
+}
+
+QString modReport::Name(eReport type)
+{
+    return QString::fromUtf8(TypeOf(type).Name);
+}
+
+QString modReport::ShownName(eReport type)
+{
+    return cText::Tr(TypeOf(type).Name);
+}
+
+std::optional<eReport> modReport::TypeByName(const QString& name)
+{
+    for (const cType& type : Types()) {
+        for (const QString& known : {type.ShortName, Name(type.Type), ShownName(type.Type)}) {
+            if (name.compare(known, Qt::CaseInsensitive) == 0) {
+                return type.Type;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+QString modReport::ShownKind(eReportKind kind)
+{
+    return kind == eReportKind::Income ? cText::Tr("Einnahmen") : cText::Tr("Ausgaben");
+}
+
+QString modReport::AmountTitle(eReport type)
+{
+    switch (type) {
+    case eReport::Average: return cText::Tr("Durchschnitt pro Monat");
+    case eReport::Sum: return cText::Tr("Summe");
+    case eReport::Limit: return cText::Tr("Ausgegeben");
+    }
+    return {};
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cTemplateItem.h"
+#include "views/report/cReportFigures.h"
+
+#include <QString>
+
+#include <optional>
+
+// The figures of the reports: pure rules over entries and categories.
+namespace modReport {
+
+// The figures for a wish. `entries` are the occurrences of its period and account; what does not count is passed over.
+[[nodiscard]] cReportFigures Figures(const cEntryItemList& entries, const cTemplateItemList& templates,
+                                     const cReportWish& wish);
+
+// Days, year basis and months of the wish's period. An open side is 1 January 1001 and 31 December 9999; for the months
+// it is the month of the first or last of `entries`.
+[[nodiscard]] cReportBasis Basis(const cReportWish& wish, const cEntryItemList& entries);
+
+// Whether a period begins anywhere: a day before any household's first entry, as "Buchungen bis heute" has it, stands
+// for an open start.
+[[nodiscard]] bool HasStart(const modPeriod::cRange& range);
+
+// The entries that the line of a node counts, in the order given. Of the limit report only categories with a limit
+// count, so it needs the templates; the others do without.
+[[nodiscard]] cEntryItemList EntriesOf(const cEntryItemList& entries, const cReportWish& wish, const cReportNode& node,
+                                       const cTemplateItemList& templates = {});
+
+// The node of an entry; none when it does not count: transfers, and start balances where they are not wanted.
+[[nodiscard]] std::optional<cReportNode> NodeOf(const cEntryItem& entry, const cReportWish& wish);
+
+// A sum as average of a month, in whole cents, halves away from zero.
+[[nodiscard]] qint64 PerMonth(qint64 cents, const cReportBasis& basis);
+
+// The stored name of a report, "Durchschnittswerte" and so on.
+[[nodiscard]] QString Name(eReport type);
+// The same for the user.
+[[nodiscard]] QString ShownName(eReport type);
+// The report of a stored or shown name or of a short one ("durchschnitt", "summe", "limit"), in any letter case.
+[[nodiscard]] std::optional<eReport> TypeByName(const QString& name);
+
+// "Einnahmen" or "Ausgaben" for the user.
+[[nodiscard]] QString ShownKind(eReportKind kind);
+// What the amounts of a report are, as the title of their column.
+[[nodiscard]] QString AmountTitle(eReport type);
+
+} // namespace modReport

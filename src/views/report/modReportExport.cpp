@@ -1,0 +1,137 @@
+#include "views/report/modReportExport.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "views/export/cWorkbook.h"
+#include "views/export/modCsv.h"
+#include "views/report/modReport.h"
+#include "views/report/modReportHtml.h"
+
+#include <QStringList>
+
+#include <array>
+
+namespace {
+
+bool HasLimits(const cReportFigures& figures)
+{
+    return figures.Type == eReport::Limit;
+}
+
+// Limit and amount stand side by side, the number of entries last.
+QStringList Titles(const cReportFigures& figures)
+{
+    QStringList titles{cText::Tr("Art"), cText::Tr("Sparte"), cText::Tr("Kategorie"),
+                       modReport::AmountTitle(figures.Type)};
+    if (HasLimits(figures)) {
+        titles.append(cText::Tr("Limit"));
+    }
+    return titles << cText::Tr("Einträge");
+}
+
+// Calls `write` for every category with its section, its group and itself.
+template <typename tWrite>
+void ForEachCategory(const cReportFigures& figures, tWrite write)
+{
+    for (const cReportSection* section : {&figures.Income, &figures.Expense}) {
+        for (const cReportGroup& group : section->Groups) {
+            for (const cReportCategory& category : group.Categories) {
+                write(*section, group, category);
+            }
+        }
+    }
+}
+
+class cSheet
+{
+public:
+    cSheet(const cReportFigures& figures, const cAmountFormat& format)
+        : m_figures(figures),
+          m_book(modReport::ShownName(figures.Type), cWorkbook::MoneyPattern(format))
+    {
+    }
+
+    [[nodiscard]] std::optional<QByteArray> Write()
+    {
+        WriteHead();
+        ForEachCategory(m_figures, [this](const auto& section, const auto& group, const auto& category) {
+            WriteRow({modReport::ShownKind(section.Kind), group.Label, category.Name}, category.Amount,
+                     cWorkbook::Plain, cWorkbook::Money);
+        });
+        m_book.SetHead(m_row - 1, ColumnCount() - 1);
+        WriteSums();
+        return m_book.Close();
+    }
+
+private:
+    [[nodiscard]] int ColumnCount() const { return HasLimits(m_figures) ? 6 : 5; }
+
+    void WriteHead()
+    {
+        constexpr std::array<int, 6> widths{12, 26, 30, 22, 16, 10};
+        const QString heading = modReportHtml::Heading(m_figures);
+        m_book.SetTitle(heading, {});
+        // "&" begins a field of the page's head and foot, and the head holds 255 characters.
+        m_book.SetPrinting(QStringLiteral("&L") + QString(heading).replace(u'&', QStringLiteral("&&")).left(200),
+                           QStringLiteral("&R")
+                               + cText::Tr("Seite {0} von {1}", {QStringLiteral("&P"), QStringLiteral("&N")}));
+        const QStringList titles = Titles(m_figures);
+        for (int column = 0; column < ColumnCount(); ++column) {
+            m_book.SetColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+            m_book.WriteText(0, column, titles.at(column), cWorkbook::Head);
+        }
+    }
+
+    void WriteRow(const QStringList& texts, const cReportAmount& amount, cWorkbook::eStyle textStyle,
+                  cWorkbook::eStyle moneyStyle)
+    {
+        int column = 0;
+        for (const QString& text : texts) {
+            m_book.WriteText(m_row, column++, text, textStyle);
+        }
+        m_book.WriteMoney(m_row, column++, amount.Cents, moneyStyle);
+        if (HasLimits(m_figures)) {
+            m_book.WriteMoney(m_row, column++, amount.Limit, moneyStyle);
+        }
+        m_book.WriteCount(m_row, column, amount.Entries, textStyle);
+        ++m_row;
+    }
+
+    // The totals as the report has them: averages are not the sum of the averages above them.
+    void WriteSums()
+    {
+        ++m_row; // one row stays free, so that the filter ends above
+        for (const cReportSection* section : {&m_figures.Income, &m_figures.Expense}) {
+            if (section->Kind == eReportKind::Expense || !HasLimits(m_figures)) {
+                WriteRow({modReport::ShownKind(section->Kind), {}, {}}, section->Amount, cWorkbook::SumName,
+                         cWorkbook::SumMoney);
+            }
+        }
+    }
+
+    const cReportFigures& m_figures;
+    cWorkbook m_book;
+    qsizetype m_row = 1; // the next one to write, counted from 0
+};
+
+} // namespace
+
+QByteArray modReportExport::Csv(const cReportFigures& figures)
+{
+    QByteArray bytes = modCsv::Mark + modCsv::Line(Titles(figures));
+    ForEachCategory(figures, [&](const auto& section, const auto& group, const auto& category) {
+        QStringList fields{modReport::ShownKind(section.Kind), modCsv::Text(group.Label), modCsv::Text(category.Name),
+                           modCsv::Money(category.Amount.Cents)};
+        if (HasLimits(figures)) {
+            fields.append(modCsv::Money(category.Amount.Limit));
+        }
+        bytes += modCsv::Line(fields << QString::number(category.Amount.Entries));
+    });
+    return bytes;
+}
+
+std::optional<QByteArray> modReportExport::Xlsx(const cReportFigures& figures, const cAmountFormat& format)
+{
+    return cSheet(figures, format).Write();
+}

@@ -1,0 +1,464 @@
+#include "views/statement/cImportReview.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modAmount.h"
+#include "core/cAmountFormat.h"
+#include "core/cSettings.h"
+#include "import/propose/cBooking.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/entry/cEntrySuggestions.h"
+#include "views/statement/cAssignListModel.h"
+#include "views/statement/cRowProposals.h"
+#include "views/statement/cRuleListModel.h"
+#include "views/statement/cStatementFiles.h"
+#include "views/statement/modImportText.h"
+#include "views/statement/modReviewQuestion.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using eTrust = cRowProposals::eTrust;
+
+} // namespace
+
+struct cImportReview::cWorks
+{
+    explicit cWorks(const cParts& parts)
+        : Hive(parts.Data),
+          Accounts(parts.Data, parts.Settings),
+          Booking(parts.Data, Hive, Accounts),
+          Files({parts.Data, parts.Settings, parts.Format, parts.User, Hive, Accounts}),
+          Matching({parts.Data, parts.Format, parts.User, Hive, Accounts, Booking}),
+          Runs(parts.Settings),
+          Proposals({parts.Data, Hive, Accounts, Matching, Runs}),
+          Suggestions(parts.Data)
+    {
+    }
+
+    cImportHiveCache Hive;
+    cAccountMap Accounts;
+    cBooking Booking;
+    cStatementFiles Files;
+    cMatchFlow Matching;
+    cImportRuns Runs;
+    cRowProposals Proposals;
+    cEntrySuggestions Suggestions;
+};
+
+cImportReview::cImportReview(const cParts& parts, QObject* parent)
+    : cImportReview(parts, std::make_shared<cWorks>(parts), {})
+{
+    setParent(parent);
+    connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
+    connect(&Files(), &cStatementFiles::AccountsAsked, this, &cImportReview::ReportAccounts);
+    connect(&Files(), &cStatementFiles::FileStaged, this,
+            [this](const QList<int>& ids) { m_works->Runs.NoteFile(ids); });
+    connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);
+    connect(&Files(), &cStatementFiles::MoreStaged, this, [this](const QList<int>& ids) {
+        m_works->Runs.NoteMore(ids);
+        Q_EMIT RowsStaged(ids);
+    });
+}
+
+cImportReview::cImportReview(const cParts& parts, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
+    : m_parts(parts),
+      m_works(std::move(works)),
+      m_view({*this, parts.Data, parts.Settings, parts.Format}, import)
+{
+}
+
+cImportReview::~cImportReview() = default;
+
+cStatementFiles& cImportReview::Files()
+{
+    return m_works->Files;
+}
+
+std::unique_ptr<cImportReview> cImportReview::StartImportReview(int rowId)
+{
+    const cImportRuns::cRange import = rowId == 0 ? m_works->Runs.Latest() : m_works->Runs.ImportOf(rowId);
+    if (import.IsEmpty()) {
+        return nullptr;
+    }
+    std::unique_ptr<cImportReview> review(new cImportReview(m_parts, m_works, import)); // the constructor is private
+    review->LoadRows();
+    connect(review.get(), &cImportReview::RowsChanged, this, [this] {
+        LoadRows();
+        Q_EMIT RowsChanged();
+    });
+    connect(review.get(), &cImportReview::EntriesChanged, this, &cImportReview::EntriesChanged);
+    connect(&Files(), &cStatementFiles::AccountsAsked, review.get(), &cImportReview::LoadRows);
+    connect(review.get(), &cImportReview::SummaryChanged, this, [this, other = review.get()] {
+        m_summary = other->Summary();
+        Q_EMIT SummaryChanged();
+    });
+    return review;
+}
+
+bool cImportReview::HasImportOf(int rowId) const
+{
+    return !(rowId == 0 ? m_works->Runs.Latest() : m_works->Runs.ImportOf(rowId)).IsEmpty();
+}
+
+void cImportReview::LoadRows()
+{
+    m_view.SetRows(m_works->Hive.GetImportHive().getImportEntryList());
+}
+
+void cImportReview::Refresh()
+{
+    m_works->Proposals.Forget();
+    m_works->Suggestions.ForgetCategories();
+    LoadRows();
+    Q_EMIT RowsChanged();
+}
+
+void cImportReview::StartAfresh()
+{
+    m_summary.clear();
+    Files().StartAfresh();
+    Refresh();
+    Q_EMIT SummaryChanged();
+}
+
+void cImportReview::NoteStaged(const QList<int>& ids)
+{
+    m_works->Runs.NoteImport(ids);
+    Q_EMIT RowsStaged(ids);
+}
+
+void cImportReview::Report(const QStringList& lines)
+{
+    m_summary = lines;
+    Refresh();
+    Q_EMIT SummaryChanged();
+}
+
+void cImportReview::ReportAccounts(const QStringList& lines)
+{
+    m_summary.append(lines);
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged(); // the list of accounts may have grown, and open rows belong to accounts now
+}
+
+// The rows that are to become new entries. Those that the last matching found an entry for would stand in the book
+// twice, so the user decides about them; empty when the user gives up.
+QList<int> cImportReview::AskAboutMatches(const QList<int>& rowIds)
+{
+    QList<int> others;
+    QStringList matches;
+    for (const int id : rowIds) {
+        const QString match = m_works->Matching.Proposal(id);
+        if (match.isEmpty()) {
+            others.append(id);
+        } else {
+            matches.append(match);
+        }
+    }
+    if (matches.isEmpty()) {
+        return rowIds;
+    }
+    const eAnswer answer = m_parts.User.Ask(modReviewQuestion::Matches(matches));
+    return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
+}
+
+// The same for rows that may be there twice. Of two that are both to be booked the first one is none too many.
+QList<int> cImportReview::AskAboutTwins(const QList<int>& rowIds)
+{
+    QList<int> others;
+    QStringList twins;
+    const QSet<int> booked(rowIds.begin(), rowIds.end());
+    for (const cImportEntry& row : RowsOf(rowIds)) {
+        const std::optional<modStagedTwins::cTwin> twin = m_works->Proposals.TwinOf(row.ID);
+        if (!twin || (twin->RowId > row.ID && booked.contains(twin->RowId))) {
+            others.append(row.ID);
+        } else {
+            twins.append(cText::Tr("{0} ({1})",
+                                   {modImportText::Row(row, m_parts.Format), modImportText::TwinReason(twin->Same)}));
+        }
+    }
+    if (twins.isEmpty()) {
+        return rowIds;
+    }
+    const eAnswer answer = m_parts.User.Ask(modReviewQuestion::Twins(twins));
+    return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
+}
+
+void cImportReview::Book(const QList<int>& asked, cProgress& progress)
+{
+    BookAll(AskAboutTwins(AskAboutMatches(asked)), progress);
+}
+
+void cImportReview::BookAll(const QList<int>& rowIds, cProgress& progress)
+{
+    if (rowIds.isEmpty()) {
+        return;
+    }
+    const cUndoStep step(m_parts.Data,
+                         cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    AskAccountsOf(OpenRows(rowIds));
+    const cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
+    m_summary = modImportText::Booked(result);
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged();
+}
+
+void cImportReview::AcceptProposals(cProgress& progress)
+{
+    QList<int> certain;
+    modReviewQuestion::cNumbers numbers;
+    const cImportEntryList rows = OpenRows(Rows().OpenIds());
+    for (const cImportEntry& row : rows) {
+        switch (m_works->Proposals.TrustIn(row)) {
+        case eTrust::Certain: certain.append(row.ID); break;
+        case eTrust::Unknown: ++numbers.Unknown; break;
+        case eTrust::InBook: ++numbers.InBook; break;
+        case eTrust::Twice: ++numbers.Twice; break;
+        }
+    }
+    numbers.Certain = static_cast<int>(certain.size());
+    const cQuestion question = modReviewQuestion::Accept(numbers);
+    if (certain.isEmpty()) {
+        m_parts.User.Show(question.Tone, question.Text, question.Title);
+    } else if (m_parts.User.Ask(question) == eAnswer::Yes) {
+        BookAll(certain, progress);
+    }
+}
+
+cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
+{
+    const bool isOne = rowIds.size() == 1;
+    cActions can;
+    can.Import = !m_view.IsOfOneImport() && isOne && HasImportOf(rowIds.constFirst());
+    if (IsReadOnly()) {
+        return can;
+    }
+    const cImportEntryList rows = RowsOf(rowIds);
+    const auto isBooked = [](const cImportEntry& row) { return row.ImportAssigned; };
+    const bool hasBooked = std::any_of(rows.begin(), rows.end(), isBooked);
+    can.Change = !rowIds.isEmpty();
+    can.Choose = !std::all_of(rows.begin(), rows.end(), isBooked);
+    can.Match = Rows().Counts().Open > 0;
+    can.Accept = can.Match;
+    can.Assign = isOne && !hasBooked;
+    can.Release = hasBooked;
+    can.Rule = isOne;
+    return can;
+}
+
+QString cImportReview::SelectionText(const QList<int>& rowIds)
+{
+    const cImportEntryList rows = RowsOf(rowIds);
+    if (rows.isEmpty() && Rows().rowCount() == 0) {
+        return {};
+    }
+    if (rows.isEmpty()) {
+        return cText::Tr("Markieren Sie Umsätze: die Eingabetaste bucht sie, Strg+R ordnet einen davon einem Eintrag "
+                         "zu, der schon im Haushaltsbuch steht.");
+    }
+    if (rows.size() > 1) {
+        qint64 sum = 0;
+        for (const cImportEntry& row : rows) {
+            sum += modAmount::ToCents(row.ImportValue);
+        }
+        return cText::Tr("{0} markiert, davon {1} offen, Summe {2}",
+                         {modImportText::Count(static_cast<int>(rows.size())), QString::number(OpenRows(rowIds).size()),
+                          m_parts.Format.Cents(sum)});
+    }
+    const cImportEntry& row = rows.constFirst();
+    const cStagedInfo info = Info(row);
+    const QStringList values{modImportText::Row(row, m_parts.Format), info.Category,
+                             modWord::Intervals().ToShown(info.Interval), info.Account, info.Reason};
+    return row.ImportAssigned ? cText::Tr("{0}  →  gebucht unter {1}, {2}", {values.at(0), values.at(1), values.at(3)})
+                              : cText::Tr("{0}  →  {1}, {2}: {4}", values);
+}
+
+bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, const QString& interval)
+{
+    QList<int> ids;
+    const cImportEntryList rows = OpenRows(rowIds);
+    for (const cImportEntry& row : rows) {
+        ids.append(row.ID);
+    }
+    const bool isTaken = (category.isEmpty() || m_works->Proposals.SetCategory(ids, category))
+        && (interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval));
+    m_view.ForgetInfo();
+    return isTaken;
+}
+
+QString cImportReview::ChoiceTitle(const QList<int>& rowIds)
+{
+    const qsizetype count = OpenRows(rowIds).size();
+    return count == 1 ? cText::Tr("Kategorie für einen Umsatz")
+                      : cText::Tr("Kategorie für {0} Umsätze", {QString::number(count)});
+}
+
+QStringList cImportReview::Categories() const
+{
+    return m_works->Proposals.Categories();
+}
+
+cEntrySuggestions& cImportReview::Suggestions()
+{
+    return m_works->Suggestions;
+}
+
+QStringList cImportReview::Intervals()
+{
+    return modWord::Intervals().Shown();
+}
+
+QString cImportReview::StoredInterval(const QString& shown)
+{
+    return modWord::Intervals().ToStored(shown);
+}
+
+bool cImportReview::IsReadOnly() const
+{
+    return m_parts.Data.IsReadOnly();
+}
+
+void cImportReview::Match(const QList<int>& rowIds, cProgress& progress)
+{
+    QList<int> ids;
+    const cImportEntryList chosen = OpenRows(rowIds);
+    for (const cImportEntry& row : chosen) {
+        ids.append(row.ID);
+    }
+    if (ids.size() < 2) {
+        // One row is selected nearly always, because the selection moves on from row to row.
+        ids = Rows().OpenIds();
+    }
+    if (ids.isEmpty()) {
+        return;
+    }
+    const cUndoStep step(m_parts.Data,
+                         cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(ids.size()))}));
+    AskAccountsOf(OpenRows(ids));
+    ReportMatches(m_works->Matching.Match(ids, progress));
+}
+
+std::unique_ptr<cAssignListModel> cImportReview::StartAssign(const QList<int>& rowIds)
+{
+    const cImportEntryList rows = rowIds.size() == 1 ? OpenRows(rowIds) : cImportEntryList();
+    if (rows.isEmpty()) {
+        return nullptr;
+    }
+    const cUndoStep step(m_parts.Data, cText::Tr("Konto einer Kontonummer gewählt"));
+    AskAccountsOf(rows);
+    auto list = std::make_unique<cAssignListModel>(m_works->Matching, rows.constFirst());
+    connect(list.get(), &cAssignListModel::Tried, this, &cImportReview::ReportMatches);
+    return list;
+}
+
+void cImportReview::Release(const QList<int>& rowIds)
+{
+    ReportMatches(m_works->Matching.Release(rowIds));
+}
+
+void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
+{
+    if (outcome.Lines.isEmpty()) {
+        return;
+    }
+    if (!outcome.IsDone) {
+        m_parts.Settings.Reload(); // an account chosen just before may have been taken back with the rest
+    }
+    m_summary = outcome.Lines;
+    Refresh();
+    Q_EMIT SummaryChanged();
+    if (outcome.HasCorrected) {
+        Q_EMIT EntriesChanged();
+    }
+}
+
+std::unique_ptr<cRuleListModel> cImportReview::StartRule(const QList<int>& rowIds)
+{
+    const cImportEntryList rows = rowIds.size() == 1 ? RowsOf(rowIds) : cImportEntryList();
+    if (rows.isEmpty()) {
+        return nullptr;
+    }
+    const cImportEntry& row = rows.constFirst();
+    const cStagedInfo info = Info(row);
+    auto rules = std::make_unique<cRuleListModel>(
+        cRuleListModel::cParts{m_parts.Data, m_parts.Settings, m_parts.Format, m_parts.User});
+    rules->StartFrom(row, info.Category, info.Interval);
+    connect(rules.get(), &cRuleListModel::RulesChanged, this, &cImportReview::Refresh);
+    return rules;
+}
+
+void cImportReview::AskAccountsOf(const cImportEntryList& rows)
+{
+    QStringList numbers;
+    for (const cImportEntry& row : rows) {
+        numbers.append(row.ImportAccount);
+    }
+    numbers.removeDuplicates();
+    Files().AskAccounts(numbers);
+}
+
+cImportEntryList cImportReview::RowsOf(const QList<int>& rowIds)
+{
+    cImportEntryList rows;
+    const cImportHive& hive = m_works->Hive.GetImportHive();
+    for (const int id : rowIds) {
+        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {
+            rows.append(*row);
+        }
+    }
+    return rows;
+}
+
+cImportEntryList cImportReview::OpenRows(const QList<int>& rowIds)
+{
+    cImportEntryList rows = RowsOf(rowIds);
+    rows.removeIf([](const cImportEntry& row) { return row.ImportAssigned; });
+    return rows;
+}
+
+QHash<int, cProposal> cImportReview::Chosen(const cImportEntryList& rows)
+{
+    QHash<int, cProposal> proposals;
+    for (const cImportEntry& row : rows) {
+        proposals.insert(row.ID, m_works->Proposals.For(row));
+    }
+    return proposals;
+}
+
+void cImportReview::Delete(const QList<int>& rowIds)
+{
+    if (rowIds.isEmpty()) {
+        return;
+    }
+    const QString question = rowIds.size() == 1
+        ? cText::Tr("Soll der markierte Umsatz gelöscht werden?\nEin daraus gebuchter Eintrag bleibt bestehen.")
+        : cText::Tr("Sollen die {0} markierten Umsätze gelöscht werden?\nDaraus gebuchte Einträge bleiben bestehen.",
+                    {QString::number(rowIds.size())});
+    if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
+        return;
+    }
+    const cUndoStep step(m_parts.Data,
+                         cText::Tr("{0} gelöscht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    const int deleted = m_works->Hive.Remove(rowIds);
+    m_summary = {cText::Tr("{0} gelöscht.", {modImportText::Count(deleted)})};
+    Refresh();
+    Q_EMIT SummaryChanged();
+}
+
+cStagedInfo cImportReview::Info(const cImportEntry& row)
+{
+    return m_works->Proposals.Info(row);
+}

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "model/cImportEntry.h"
+#include "views/statement/cMatchFlow.h"
+#include "views/statement/cStagedChoice.h"
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class cAmountFormat;
+class cAssignListModel;
+class cDataAccess;
+class cEntrySuggestions;
+class cProgress;
+class cRuleListModel;
+class cSettings;
+class cStatementFiles;
+class cUser;
+struct cProposal;
+
+// The page of bank statements without its widgets: proposes, books, matches and deletes. The window for the rows of one
+// import has a review of its own, which shares what the user chose for them.
+class cImportReview final : public QObject, private cStagedSource
+{
+    Q_OBJECT
+
+public:
+    // What the review works with; all of it outlives the review.
+    struct cParts
+    {
+        cDataAccess& Data;
+        cSettings& Settings;
+        const cAmountFormat& Format;
+        cUser& User;
+    };
+
+    explicit cImportReview(const cParts& parts, QObject* parent = nullptr);
+    ~cImportReview() override;
+
+    // Reads the staged rows anew, when another part of the program may have changed them or the book.
+    void Refresh();
+
+    // The same, after something was undone or another book was opened: what the last action did is not true any more.
+    void StartAfresh();
+
+    // The reading of files. What came of them is in Summary.
+    [[nodiscard]] cStatementFiles& Files();
+
+    // What is shown, and how.
+    [[nodiscard]] cStagedChoice& View() { return m_view; }
+    [[nodiscard]] cStagedListModel& Rows() { return m_view.Rows(); }
+
+    // A review of the rows that came with the same import as this one, or with the latest one for row 0; empty when
+    // that is not known. It does not outlive this review, which follows what is done there.
+    [[nodiscard]] std::unique_ptr<cImportReview> StartImportReview(int rowId = 0);
+    [[nodiscard]] bool HasImportOf(int rowId) const;
+
+    // What the last action did, one line per file or step.
+    [[nodiscard]] QStringList Summary() const { return m_summary; }
+
+    // Books the rows as shown. Those that are booked already are passed over; those that match an entry or may be there
+    // twice are asked about.
+    void Book(const QList<int>& asked, cProgress& progress);
+    // Books all rows shown whose proposal is certain, after a question that names the numbers.
+    void AcceptProposals(cProgress& progress);
+
+    // What can be done with the rows that are selected.
+    struct cActions
+    {
+        bool Change = false; // book and delete
+        bool Choose = false; // category and interval
+        bool Match = false;  // also without a selection
+        bool Accept = false; // also without a selection
+        bool Assign = false;
+        bool Release = false;
+        bool Rule = false;
+        bool Import = false; // the rows of the same import
+    };
+    [[nodiscard]] cActions ActionsFor(const QList<int>& rowIds);
+    // What becomes of the selected rows, or became of them, in one line.
+    [[nodiscard]] QString SelectionText(const QList<int>& rowIds);
+
+    // Takes a category and an interval (stored word) for the open ones of the rows; what is empty stays as it is. False
+    // when one of them is none that can be chosen.
+    bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval);
+    [[nodiscard]] QString ChoiceTitle(const QList<int>& rowIds); // "Kategorie für 12 Umsätze"
+    [[nodiscard]] QStringList Categories() const;                // paths to choose from
+    [[nodiscard]] cEntrySuggestions& Suggestions();              // the same with what was used lately
+    [[nodiscard]] static QStringList Intervals();                // as the user sees them
+    [[nodiscard]] static QString StoredInterval(const QString& shown);
+
+    // Assigns open rows to the entries in the book that they belong to: those given when they are several, else all
+    // that are shown.
+    void Match(const QList<int>& rowIds, cProgress& progress);
+    // The entries that one open row may belong to; empty when it is not one row, or it is not open. The list tells the
+    // review what was assigned, and the review outlives it.
+    [[nodiscard]] std::unique_ptr<cAssignListModel> StartAssign(const QList<int>& rowIds);
+    // Sets booked rows back to open; the entries stay.
+    void Release(const QList<int>& rowIds);
+    // The user's own rules with a new one proposed from the row; the review follows what is stored, and outlives it.
+    [[nodiscard]] std::unique_ptr<cRuleListModel> StartRule(const QList<int>& rowIds);
+
+    // Removes the rows after a question; entries made from them stay.
+    void Delete(const QList<int>& rowIds);
+
+    [[nodiscard]] bool IsReadOnly() const;
+
+Q_SIGNALS:
+    void RowsChanged();                     // staged rows came, went or were booked
+    void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
+    void SummaryChanged();
+    void EntriesChanged(); // the book itself changed
+
+private:
+    struct cWorks; // the tools of the import floor
+
+    cImportReview(const cParts& parts, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import);
+
+    [[nodiscard]] cStagedInfo Info(const cImportEntry& row) override;
+
+    [[nodiscard]] QList<int> AskAboutMatches(const QList<int>& rowIds);
+    [[nodiscard]] QList<int> AskAboutTwins(const QList<int>& rowIds);
+    void BookAll(const QList<int>& rowIds, cProgress& progress);
+    void LoadRows();
+    void NoteStaged(const QList<int>& ids);
+    void Report(const QStringList& lines);
+    void ReportAccounts(const QStringList& lines);
+    void ReportMatches(const cMatchFlow::cOutcome& outcome);
+    [[nodiscard]] cImportEntryList RowsOf(const QList<int>& rowIds);
+    [[nodiscard]] cImportEntryList OpenRows(const QList<int>& rowIds);
+    void AskAccountsOf(const cImportEntryList& rows);
+    [[nodiscard]] QHash<int, cProposal> Chosen(const cImportEntryList& rows);
+
+    cParts m_parts;
+    std::shared_ptr<cWorks> m_works; // of the page, in the window too
+    cStagedChoice m_view;
+    QStringList m_summary;
+};

@@ -1,0 +1,146 @@
+#include "views/statement/cImportRuns.h"
+
+#include "core/cSettings.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using cRange = cImportRuns::cRange;
+
+const QString runsSetting = u"ImportRuns"_s;
+constexpr qsizetype mostImports = 50;
+
+cRange RangeOf(const QList<int>& ids)
+{
+    const auto [first, last] = std::minmax_element(ids.begin(), ids.end());
+    return {*first, *last};
+}
+
+cRange Whole(const QList<cRange>& files)
+{
+    return files.isEmpty() ? cRange() : cRange{files.constFirst().First, files.constLast().Last};
+}
+
+// "1-5,6-17": the files of an import
+QList<cRange> FilesIn(const QString& text)
+{
+    QList<cRange> files;
+    const QStringList parts = text.split(u',', Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        const cRange file{part.section(u'-', 0, 0).toInt(), part.section(u'-', 1).toInt()};
+        if (file.First > 0 && file.Last >= file.First) {
+            files.append(file);
+        }
+    }
+    return files;
+}
+
+QString TextOf(const QList<cRange>& files)
+{
+    QStringList parts;
+    for (const cRange& file : files) {
+        parts.append(u"%1-%2"_s.arg(file.First).arg(file.Last));
+    }
+    return parts.join(u',');
+}
+
+// Leaves the rows below the ID.
+void CutAt(QList<cRange>& files, int id)
+{
+    files.removeIf([&](const cRange& file) { return file.First >= id; });
+    if (!files.isEmpty()) {
+        files.last().Last = qMin(files.constLast().Last, id - 1);
+    }
+}
+
+} // namespace
+
+QList<QList<cRange>> cImportRuns::Imports() const
+{
+    QList<QList<cRange>> imports;
+    const QStringList texts = m_settings.Get(runsSetting).split(u';', Qt::SkipEmptyParts);
+    for (const QString& text : texts) {
+        const QList<cRange> files = FilesIn(text);
+        if (!files.isEmpty()) {
+            imports.append(files);
+        }
+    }
+    return imports;
+}
+
+void cImportRuns::NoteFile(const QList<int>& ids)
+{
+    if (!ids.isEmpty()) {
+        m_files.append(RangeOf(ids));
+    }
+}
+
+void cImportRuns::NoteImport(const QList<int>& ids)
+{
+    const QList<cRange> files = std::exchange(m_files, {});
+    if (ids.isEmpty()) {
+        return;
+    }
+    const cRange whole = RangeOf(ids);
+    QList<QList<cRange>> imports = Imports();
+    for (QList<cRange>& import : imports) {
+        CutAt(import, whole.First);
+    }
+    imports.removeIf([](const QList<cRange>& import) { return import.isEmpty(); });
+    imports.append(files.isEmpty() ? QList<cRange>{whole} : files);
+    Store(imports);
+}
+
+void cImportRuns::NoteMore(const QList<int>& ids)
+{
+    QList<QList<cRange>> imports = Imports();
+    if (ids.isEmpty() || imports.isEmpty()) {
+        NoteImport(ids);
+        return;
+    }
+    imports.last().last().Last = RangeOf(ids).Last;
+    Store(imports);
+}
+
+void cImportRuns::Store(const QList<QList<cRange>>& imports)
+{
+    QStringList texts;
+    for (const QList<cRange>& import : imports.last(qMin(imports.size(), mostImports))) {
+        texts.append(TextOf(import));
+    }
+    m_settings.Set(runsSetting, texts.join(u';'));
+}
+
+cRange cImportRuns::ImportOf(int id) const
+{
+    const QList<QList<cRange>> imports = Imports();
+    for (const QList<cRange>& import : imports) {
+        const cRange whole = Whole(import);
+        if (id >= whole.First && id <= whole.Last) {
+            return whole;
+        }
+    }
+    return {};
+}
+
+cRange cImportRuns::Latest() const
+{
+    const QList<QList<cRange>> imports = Imports();
+    return imports.isEmpty() ? cRange() : Whole(imports.constLast());
+}
+
+QList<cRange> cImportRuns::Files() const
+{
+    QList<cRange> files;
+    const QList<QList<cRange>> imports = Imports();
+    for (const QList<cRange>& import : imports) {
+        files.append(import);
+    }
+    return files;
+}

@@ -1,0 +1,173 @@
+#include "views/statement/cStagedChoice.h"
+
+#include "base/cText.h"
+#include "core/cSettings.h"
+#include "store/cDataAccess.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using eGrouping = modStagedGroup::eGrouping;
+
+const QString openOnlySetting = u"HideBookedEntries"_s;
+const QString oldSetting = u"HideOldImportEntries"_s;
+const QString titleSetting = u"HideAssignTitle"_s;
+const QString groupingSetting = u"ImportGrouping"_s;
+const QString layoutSetting = u"ImportList"_s;
+
+} // namespace
+
+cStagedChoice::cStagedChoice(const cParts& parts, const cImportRuns::cRange& import, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_import(import),
+      m_rows(parts.Source, parts.Format)
+{
+    m_rows.SetShown(Shown());
+    m_rows.SetGrouping(modStagedGroup::FromStored(m_parts.Settings.Get(groupingSetting)));
+}
+
+cStagedOrder::cShown cStagedChoice::Shown() const
+{
+    cStagedOrder::cShown shown;
+    shown.OpenOnly = IsOpenOnly();
+    shown.HidesOld = IsOldHidden() && !IsOfOneImport();
+    if (IsOfOneImport()) {
+        shown.FirstId = m_import.First;
+        shown.LastId = m_import.Last;
+    }
+    return shown;
+}
+
+void cStagedChoice::Show()
+{
+    m_rows.SetShown(Shown());
+    Q_EMIT Changed();
+}
+
+// Another window may have changed the settings, or another book has its own.
+void cStagedChoice::SetRows(const cImportEntryList& rows)
+{
+    if (m_rows.Shown() != Shown()) {
+        m_rows.SetShown(Shown());
+    }
+    const eGrouping grouping = modStagedGroup::FromStored(m_parts.Settings.Get(groupingSetting));
+    if (m_rows.Grouping() != grouping) {
+        m_rows.SetGrouping(grouping);
+    }
+    m_rows.SetRows(rows);
+    Q_EMIT Changed();
+}
+
+void cStagedChoice::ForgetInfo()
+{
+    m_rows.ForgetInfo();
+    Q_EMIT Changed();
+}
+
+bool cStagedChoice::IsOpenOnly() const
+{
+    // What waits is what the page is for, so a new book starts with it alone.
+    return m_parts.Settings.Get(openOnlySetting).isEmpty() || m_parts.Settings.GetBool(openOnlySetting);
+}
+
+void cStagedChoice::SetOpenOnly(bool isOpenOnly)
+{
+    m_parts.Settings.SetBool(openOnlySetting, isOpenOnly);
+    Show();
+}
+
+bool cStagedChoice::IsOldHidden() const
+{
+    return m_parts.Settings.GetBool(oldSetting);
+}
+
+void cStagedChoice::SetOldHidden(bool isHidden)
+{
+    m_parts.Settings.SetBool(oldSetting, isHidden);
+    Show();
+}
+
+bool cStagedChoice::IsTitleShown() const
+{
+    return !m_parts.Settings.GetBool(titleSetting);
+}
+
+void cStagedChoice::SetTitleShown(bool isShown)
+{
+    m_parts.Settings.SetBool(titleSetting, !isShown);
+    Q_EMIT Changed();
+}
+
+QStringList cStagedChoice::Groupings()
+{
+    return modStagedGroup::Shown();
+}
+
+int cStagedChoice::Grouping() const
+{
+    return static_cast<int>(m_rows.Grouping());
+}
+
+void cStagedChoice::SetGrouping(int place)
+{
+    if (place < 0 || place >= Groupings().size() || place == Grouping()) {
+        return;
+    }
+    const auto grouping = static_cast<eGrouping>(place);
+    m_parts.Settings.Set(groupingSetting, modStagedGroup::Stored(grouping));
+    m_rows.SetGrouping(grouping);
+    Q_EMIT Changed();
+}
+
+void cStagedChoice::SetFilter(const QString& text)
+{
+    m_rows.SetFilter(text);
+    Q_EMIT Changed();
+}
+
+QString cStagedChoice::EmptyTitle() const
+{
+    return cText::Tr("Keine Daten");
+}
+
+QString cStagedChoice::EmptyHint() const
+{
+    const cStagedOrder::cCounts& counts = m_rows.Counts();
+    if (counts.Total == 0) {
+        return IsOfOneImport()
+            ? cText::Tr("Die Umsätze dieses Imports sind nicht mehr da.")
+            : cText::Tr("Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. "
+                        "Gelesen werden Dateien im Format MT940, MT942, CSV, XLS, XLSX, OFX, QIF und camt.");
+    }
+    if (IsOpenOnly() && counts.Open == 0) {
+        return cText::Tr("Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.");
+    }
+    if (counts.Old > 0) {
+        return cText::Tr("Kein Umsatz passt zum Filter. {0} ältere sind ausgeblendet; ohne den Haken bei „Ältere "
+                         "ausblenden“ sehen Sie auch diese.",
+                         {QString::number(counts.Old)});
+    }
+    return cText::Tr("Kein Umsatz passt zum Filter.");
+}
+
+QString cStagedChoice::CountText() const
+{
+    const cStagedOrder::cCounts& counts = m_rows.Counts();
+    const QStringList values{QString::number(counts.Open), QString::number(counts.Total), QString::number(counts.Old)};
+    return counts.Old == 0 ? cText::Tr("{0} offen, {1} insgesamt", values)
+                           : cText::Tr("{0} offen, {1} insgesamt, {2} ältere ausgeblendet", values);
+}
+
+QString cStagedChoice::Layout() const
+{
+    return m_parts.Settings.Get(layoutSetting);
+}
+
+void cStagedChoice::SaveLayout(const QString& layout)
+{
+    if (layout != Layout() && !m_parts.Data.IsReadOnly()) {
+        m_parts.Settings.Set(layoutSetting, layout);
+    }
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "views/statement/cImportRuns.h"
+#include "views/statement/cStagedListModel.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class cAmountFormat;
+class cDataAccess;
+class cSettings;
+
+// What a list of bank transactions shows and how: all rows or those of one import, without booked and old ones, in
+// groups, and what it says about itself. The choices are kept in the settings.
+class cStagedChoice final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What the view works with; all of it outlives the view.
+    struct cParts
+    {
+        cStagedSource& Source;
+        cDataAccess& Data;
+        cSettings& Settings;
+        const cAmountFormat& Format;
+    };
+
+    // With a range only the rows of that import are shown, old ones among them.
+    explicit cStagedChoice(const cParts& parts, const cImportRuns::cRange& import = {}, QObject* parent = nullptr);
+
+    [[nodiscard]] cStagedListModel& Rows() { return m_rows; }
+    void SetRows(const cImportEntryList& rows);
+    void ForgetInfo(); // what is known of the rows beyond themselves is different now
+    [[nodiscard]] bool IsOfOneImport() const { return !m_import.IsEmpty(); }
+
+    [[nodiscard]] bool IsOpenOnly() const;
+    void SetOpenOnly(bool isOpenOnly); // kept in the setting "HideBookedEntries"
+    [[nodiscard]] bool IsOldHidden() const;
+    void SetOldHidden(bool isHidden);             // kept in the setting "HideOldImportEntries"
+    [[nodiscard]] bool IsTitleShown() const;      // the line that says what becomes of the selected rows
+    void SetTitleShown(bool isShown);             // its opposite is kept in the setting "HideAssignTitle"
+    [[nodiscard]] static QStringList Groupings(); // as the user sees them
+    [[nodiscard]] int Grouping() const;           // place in Groupings
+    void SetGrouping(int place);                  // kept in the setting "ImportGrouping"
+    void SetFilter(const QString& text);
+
+    // Headline and hint for a list that shows nothing.
+    [[nodiscard]] QString EmptyTitle() const;
+    [[nodiscard]] QString EmptyHint() const;
+    [[nodiscard]] QString CountText() const; // "12 offen, 30 insgesamt"
+
+    // Column layout of the list, as its window wrote it; kept in the setting "ImportList".
+    [[nodiscard]] QString Layout() const;
+    void SaveLayout(const QString& layout);
+
+Q_SIGNALS:
+    void Changed(); // what is shown, or how
+
+private:
+    [[nodiscard]] cStagedOrder::cShown Shown() const;
+    void Show();
+
+    cParts m_parts;
+    cImportRuns::cRange m_import;
+    cStagedListModel m_rows;
+};

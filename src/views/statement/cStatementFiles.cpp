@@ -1,0 +1,379 @@
+#include "views/statement/cStatementFiles.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "import/read/cStatementSource.h"
+#include "import/read/modStatementFile.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHiveCache.h"
+#include "import/stage/cImportResult.h"
+#include "import/stage/cStatementImport.h"
+#include "import/table/cTableMemory.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/statement/cImportAssistant.h"
+#include "views/statement/modImportPreview.h"
+#include "views/statement/modImportText.h"
+
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+struct cStatementFiles::cWorks
+{
+    explicit cWorks(const cParts& parts)
+        : Memory(parts.Settings),
+          Balances(parts.Settings),
+          Import(parts.Data, parts.Hive, &Memory, &Balances)
+    {
+    }
+
+    cTableMemory Memory;
+    cBankBalances Balances;
+    cStatementImport Import;
+};
+
+cStatementFiles::cStatementFiles(const cParts& parts, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_works(std::make_unique<cWorks>(parts))
+{
+}
+
+cStatementFiles::~cStatementFiles() = default;
+
+void cStatementFiles::ChooseFiles(cProgress& progress, eAssist assist)
+{
+    const QStringList paths = m_parts.User.ChooseFiles(
+        cText::Tr("Kontoauszüge importieren"),
+        cText::Tr("CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle "
+                  "Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;"
+                  "*.xls;*.xlsx;*.ofx;*.qfx;*.qif|Alle Dateien|*.*"));
+    if (!paths.isEmpty()) {
+        ImportFiles(paths, progress, assist);
+    }
+}
+
+void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist)
+{
+    m_waiting.append(paths);
+    if (m_isRunning) {
+        return; // dropped before the progress box stood in the way: the run under way takes them next
+    }
+    const QScopedValueRollback running(m_isRunning, true);
+    while (!m_waiting.isEmpty()) {
+        const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"));
+        QList<cFile> files;
+        for (const QString& path : std::exchange(m_waiting, {})) {
+            files.append({path, {}});
+        }
+        Run(files, progress, assist);
+    }
+}
+
+bool cStatementFiles::CanReadAgain() const
+{
+    return m_assist && !m_last.isEmpty() && !m_parts.Data.IsReadOnly();
+}
+
+void cStatementFiles::ReadAgain(cProgress& progress)
+{
+    const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug noch einmal eingelesen"));
+    const QList<cFile> files = m_last;
+    Run(files, progress, eAssist::Always);
+}
+
+struct cStatementFiles::cRun
+{
+    cProgress& Progress;
+    eAssist Assist;
+    int Count = 0;  // of the files
+    int Number = 0; // of the present one
+    int Newest = 0; // row before the present file
+    QStringList Lines;
+    QStringList Numbers;
+    QStringList Refusals;
+    QList<int> Rows; // staged
+    std::vector<std::unique_ptr<cImportAssistant>> Answered;
+};
+
+void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
+{
+    cRun run{progress, m_assist ? assist : eAssist::WhereNeeded, static_cast<int>(files.size()), 0, 0, {}, {}, {}, {},
+             {}};
+    m_leftOut.clear();
+    m_last.clear();
+    bool isStopped = false;
+    for (const cFile& file : files) {
+        m_last.append(file);
+        if (isStopped) {
+            continue;
+        }
+        ++run.Number;
+        run.Newest = NewestRow();
+        const cImportResult result = ImportFile(file, run);
+        const QList<int> rows = RowsAbove(run.Newest);
+        m_last.last().Rows.append(rows);
+        run.Rows.append(rows);
+        Q_EMIT FileStaged(rows);
+        run.Lines.append(modImportText::Summary(result, m_parts.Format));
+        KeepLeftOut(result);
+        run.Numbers.append(result.Accounts);
+        isStopped = result.IsCancelled;
+    }
+    progress.hideProgressBar();
+    // The list stands behind the questions that follow, so that the user sees what they are about.
+    Q_EMIT Imported(run.Lines);
+    Q_EMIT LeftOutChanged();
+    if (!run.Refusals.isEmpty()) {
+        m_parts.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
+    }
+    AskAccounts(run.Numbers);
+    Q_EMIT RowsStaged(run.Rows);
+}
+
+cImportResult cStatementFiles::ImportFile(const cFile& file, cRun& run)
+{
+    if (run.Assist == eAssist::Always) {
+        return Assist(file, run);
+    }
+    const cImportResult result = ImportUnasked(file.Path, run);
+    if (result.NeedsAssistant) {
+        return Assist(file, run);
+    }
+    NoteRefusal(result, run);
+    return result;
+}
+
+void cStatementFiles::NoteRefusal(const cImportResult& result, cRun& run)
+{
+    if (result.IsRefused) {
+        run.Refusals.append(QFileInfo(result.File).fileName() + u'\n' + result.Message);
+    }
+}
+
+cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
+{
+    cImportOptions options;
+    options.MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
+    options.Uncertain = m_assist ? eUncertain::Ask : eUncertain::Read;
+    const cImportResult result = m_works->Import.ImportFile(path, options, run.Progress);
+    return result.NeedsAccount && !result.NeedsAssistant ? AskForAccount(path, result, run) : result;
+}
+
+// A file that does not name its account is read with the number that the user gives.
+cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportResult& result, cRun& run)
+{
+    run.Progress.hideProgressBar();
+    QStringList numbers = m_works->Memory.Accounts(result.AccountKey);
+    for (const auto& [number, account] : m_parts.Accounts.Mapping()) {
+        numbers.append(number);
+    }
+    numbers.removeDuplicates();
+    QStringList shown; // with the account, which people know rather than its number
+    for (const QString& number : std::as_const(numbers)) {
+        const QString account = m_parts.Accounts.AccountOf(number);
+        shown.append(account.isEmpty() ? number : cText::Tr("{0} – {1}", {number, account}));
+    }
+    const std::optional<QString> given =
+        m_parts.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
+                             .Title = cText::Tr("Kontonummer"),
+                             .Items = shown,
+                             .Proposal = shown.value(0),
+                             .AllowNew = true});
+    const QString typed = given ? given->simplified() : QString();
+    const QString number = numbers.value(shown.indexOf(typed), typed);
+    if (number.isEmpty()) {
+        return result;
+    }
+    cImportOptions options;
+    options.MissingPurpose = eMissingPurpose::Name;
+    options.DefaultAccount = number;
+    const cImportResult second = m_works->Import.ImportFile(path, options, run.Progress);
+    if (!second.IsRefused && !second.IsCancelled) {
+        m_works->Memory.SaveAccount(second.AccountKey, number);
+    }
+    return second;
+}
+
+std::unique_ptr<cImportAssistant> cStatementFiles::StartAssistant(const QString& path)
+{
+    const modStatementFile::cContent content = modStatementFile::Read(path);
+    if (!content.Failure.isEmpty()) {
+        return nullptr;
+    }
+    const cImportAssistant::cParts parts{m_parts.Data, m_parts.Format, m_parts.Hive, m_parts.Accounts, m_works->Memory};
+    return std::make_unique<cImportAssistant>(parts, modStatementFormat::Source(path, content.Bytes));
+}
+
+cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
+{
+    run.Progress.hideProgressBar();
+    cImportResult result;
+    result.File = file.Path;
+    result.IsRefused = true;
+    auto assistant = StartAssistant(file.Path);
+    if (!assistant) {
+        result.Message = modStatementFile::Read(file.Path).Failure;
+        NoteRefusal(result, run);
+        return result;
+    }
+    assistant->SetPlace(run.Number, run.Count);
+    assistant->SetReplaced(static_cast<int>(file.Rows.size()));
+    if (!IsAnswered(*assistant, run)) {
+        result.Message = cText::Tr("Der Importassistent wurde abgebrochen.");
+        return result;
+    }
+    cUndoPart part(m_parts.Data);
+    const QList<int> booked = RemoveOpen(file.Rows);
+    run.Newest = NewestRow(); // the numbers of removed rows come again
+    result = m_works->Import.ImportSource(assistant->Source(), assistant->Options(), run.Progress);
+    if (result.IsRefused || result.IsCancelled) {
+        part.Revert();
+        run.Newest = NewestRow();
+        NoteRefusal(result, run);
+        return result;
+    }
+    m_last.last().Rows = booked;
+    assistant->Remember();
+    run.Answered.push_back(std::move(assistant));
+    return result;
+}
+
+// By what the user said about an earlier file of the same kind, or now.
+bool cStatementFiles::IsAnswered(cImportAssistant& assistant, cRun& run)
+{
+    return std::any_of(run.Answered.begin(), run.Answered.end(),
+                       [&](const auto& answered) { return assistant.Adopt(*answered); })
+        || m_assist(assistant);
+}
+
+// Those that are booked already stay and are given back.
+QList<int> cStatementFiles::RemoveOpen(const QList<int>& rows)
+{
+    QList<int> booked;
+    QList<int> open;
+    const cImportHive& hive = m_parts.Hive.GetImportHive();
+    for (const int id : rows) {
+        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {
+            (row->ImportAssigned ? booked : open).append(id);
+        }
+    }
+    (void)m_parts.Hive.Remove(open); // of a refusal the user has been told; what stays is found to be there already
+    return booked;
+}
+
+int cStatementFiles::NewestRow()
+{
+    return m_parts.Hive.GetImportHive().NextId() - 1;
+}
+
+QList<int> cStatementFiles::RowsAbove(int newest)
+{
+    QList<int> ids;
+    const cImportEntryList rows = m_parts.Hive.GetImportHive().getImportEntryList();
+    for (const cImportEntry& row : rows) {
+        if (row.ID > newest) {
+            ids.append(row.ID);
+        }
+    }
+    return ids;
+}
+
+// Rows without a day or an amount cannot be taken; the summary names them.
+void cStatementFiles::KeepLeftOut(const cImportResult& result)
+{
+    for (const cImportEntry& row : result.Duplicates) {
+        m_leftOut.append({row, cText::Tr("schon vorhanden")});
+    }
+    for (const cSkippedRow& row : result.Skipped) {
+        if (!result.IsRefused && row.Entry.ImportDate.isValid() && row.Entry.ImportValue != 0.0) {
+            m_leftOut.append({row.Entry, modImportPreview::Kind(row.Kind)});
+        }
+    }
+}
+
+void cStatementFiles::AskAccounts(const QStringList& numbers)
+{
+    QStringList unknown = m_parts.Accounts.Unknown(numbers);
+    unknown.removeDuplicates();
+    if (unknown.isEmpty() || m_parts.Data.IsReadOnly()) {
+        return;
+    }
+    QStringList lines;
+    for (const QString& number : std::as_const(unknown)) {
+        if (m_parts.Accounts.Ask(number, m_parts.User).isEmpty()) {
+            lines.append(modImportText::NoAccount(number));
+        }
+    }
+    Q_EMIT AccountsAsked(lines);
+}
+
+QStringList cStatementFiles::LeftOut() const
+{
+    QStringList texts;
+    for (const cLeftOut& row : m_leftOut) {
+        texts.append(modImportText::Row(row.Entry, m_parts.Format) + u"  ·  " + row.Reason);
+    }
+    return texts;
+}
+
+void cStatementFiles::StageLeftOut(const QList<int>& places)
+{
+    const cUndoStep step(m_parts.Data, cText::Tr("Umsätze trotzdem übernommen"));
+    cStaging staging(m_parts.Hive);
+    const int newest = NewestRow();
+    int staged = 0;
+    QList<int> taken = places;
+    std::sort(taken.begin(), taken.end(), std::greater<>());
+    for (const int place : std::as_const(taken)) {
+        if (place < 0 || place >= m_leftOut.size()) {
+            continue;
+        }
+        if (staging.StageImportEntry(m_leftOut[place].Entry, eDuplicateTest::Skip) != eStaged::Staged) {
+            break; // the user has been told
+        }
+        m_leftOut.removeAt(place);
+        ++staged;
+    }
+    Q_EMIT Imported({cText::Tr("{0} trotzdem übernommen.", {modImportText::Count(staged)})});
+    Q_EMIT LeftOutChanged();
+    const bool isFirst =
+        std::all_of(m_last.begin(), m_last.end(), [](const cFile& file) { return file.Rows.isEmpty(); });
+    const QList<int> rows = RowsAbove(newest);
+    if (rows.isEmpty()) {
+        return;
+    }
+    if (isFirst && !m_last.isEmpty()) {
+        m_last.last().Rows = rows;
+        Q_EMIT RowsStaged(rows);
+    } else {
+        Q_EMIT MoreStaged(rows);
+    }
+}
+
+void cStatementFiles::ForgetFiles()
+{
+    m_last.clear();
+    DropLeftOut();
+}
+
+void cStatementFiles::StartAfresh()
+{
+    for (cFile& file : m_last) {
+        file.Rows.clear();
+    }
+    DropLeftOut();
+}
+
+void cStatementFiles::DropLeftOut()
+{
+    m_leftOut.clear();
+    Q_EMIT LeftOutChanged();
+}

@@ -1,0 +1,189 @@
+#include "views/statement/modBalanceText.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "views/statement/cStatementLedger.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+using modBalanceCheck::cFault;
+using modBalanceCheck::cPoint;
+using modBalanceCheck::eVerdict;
+
+namespace {
+
+constexpr int mostNamed = 3; // differences in full; more would fill the window
+
+QString NameOf(const cImportEntry& row)
+{
+    const QString name = row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary;
+    constexpr qsizetype most = 40;
+    return name.size() > most ? name.left(most).trimmed() + u'…' : (name.isEmpty() ? row.ImportType : name);
+}
+
+// The rows of a fault, looked through for what may explain it.
+class cReasons
+{
+public:
+    cReasons(const cStatementLedger& ledger, const cFault& fault)
+        : m_ledger(ledger),
+          m_fault(fault),
+          m_first(static_cast<qsizetype>(fault.First)),
+          m_last(m_first + static_cast<qsizetype>(fault.Count))
+    {
+    }
+
+    [[nodiscard]] QString Text() const
+    {
+        if (m_fault.Count == 0) {
+            return cText::Tr("Für diese Tage ist kein Umsatz eingelesen; wahrscheinlich fehlt ein Kontoauszug.");
+        }
+        QStringList reasons{Twice(), Once(), Deleted()};
+        reasons.removeAll(QString());
+        return reasons.isEmpty() ? cText::Tr("Vergleichen Sie die Umsätze dieser Tage mit dem Auszug der Bank.")
+                                 : reasons.join(u' ');
+    }
+
+private:
+    // Two rows over the same amount, one of which is too much: the duplicate test was off, or they came in two formats.
+    [[nodiscard]] QString Twice() const
+    {
+        qsizetype before = -1;
+        for (qsizetype i = m_first; i < m_last; ++i) {
+            if (m_ledger.CentsOf(i) != -m_fault.Missing) {
+                continue;
+            }
+            const cImportEntry& row = m_ledger.Rows().at(i);
+            if (before >= 0 && m_ledger.Rows().at(before).ImportDate == row.ImportDate) {
+                return cText::Tr("Am {1} gibt es zwei Umsätze über diesen Betrag, '{0}' und '{2}'; wahrscheinlich ist "
+                                 "einer doppelt eingelesen.",
+                                 {NameOf(m_ledger.Rows().at(before)), modDate::ToGerman(row.ImportDate), NameOf(row)});
+            }
+            before = i;
+        }
+        return {};
+    }
+
+    // A row that the bank may have twice: equal ones of a day are taken once.
+    [[nodiscard]] QString Once() const
+    {
+        for (qsizetype i = m_first; i < m_last; ++i) {
+            const cImportEntry& row = m_ledger.Rows().at(i);
+            if (m_ledger.CentsOf(i) == m_fault.Missing) {
+                return cText::Tr("Über diesen Betrag gibt es den Umsatz '{0}' vom {1}. Hat die Bank ihn zweimal, wurde "
+                                 "der zweite beim Einlesen für eine Wiederholung gehalten.",
+                                 {NameOf(row), modDate::ToGerman(row.ImportDate)});
+            }
+        }
+        return {};
+    }
+
+    [[nodiscard]] QString Deleted() const
+    {
+        const int count = m_ledger.DeletedIn(m_fault);
+        if (count == 0) {
+            return {};
+        }
+        return count == 1 ? cText::Tr("Aus diesen Tagen wurde vermutlich ein eingelesener Umsatz gelöscht.")
+                          : cText::Tr("Aus diesen Tagen wurden vermutlich {0} eingelesene Umsätze gelöscht.",
+                                      {QString::number(count)});
+    }
+
+    const cStatementLedger& m_ledger;
+    const cFault& m_fault;
+    qsizetype m_first;
+    qsizetype m_last;
+};
+
+// What is missing on one side may as well be too much on the other.
+QString Missing(const cFault& fault, const cAmountFormat& format)
+{
+    const QStringList values{modDate::ToGerman(fault.From), format.Cents(std::abs(fault.Missing)),
+                             modDate::ToGerman(fault.To)};
+    if (fault.From == fault.To) {
+        return fault.Missing < 0 ? cText::Tr("Am {0} fehlen {1} an Ausgaben:", values)
+                                 : cText::Tr("Am {0} fehlen {1} an Einnahmen:", values);
+    }
+    return fault.Missing < 0 ? cText::Tr("Ab dem {0} fehlen {1} an Ausgaben (spätestens am {2}):", values)
+                             : cText::Tr("Ab dem {0} fehlen {1} an Einnahmen (spätestens am {2}):", values);
+}
+
+QString Passing(const cPoint& point, const cAmountFormat& format)
+{
+    return cText::Tr("Am {0} nennt die Bank {1}, wenige Tage davor und danach stimmt der Saldo: wahrscheinlich hat sie "
+                     "Umsätze an anderen Tagen gebucht, als dort steht.",
+                     {modDate::ToGerman(point.Day), format.Cents(point.Bank)});
+}
+
+} // namespace
+
+QString modBalanceText::Fault(const cStatementLedger& ledger, const cFault& fault, const cAmountFormat& format)
+{
+    return Missing(fault, format) + u' ' + cReasons(ledger, fault).Text();
+}
+
+QStringList modBalanceText::Bank(const cStatementLedger& ledger, const cAmountFormat& format)
+{
+    const modBalanceCheck::cResult& check = ledger.Check();
+    if (!check.IsAnchored) {
+        return {cText::Tr("Die Bank hat für dieses Konto noch keinen Kontostand genannt. Der Saldo beginnt deshalb bei "
+                          "null und lässt sich nicht prüfen.")};
+    }
+    const QStringList newest{format.Cents(check.Points.last().Bank), modDate::ToGerman(check.Points.last().Day)};
+    QStringList lines;
+    if (check.Faults.isEmpty()) {
+        const auto count = std::count_if(check.Points.begin(), check.Points.end(),
+                                         [](const cPoint& point) { return point.Verdict == eVerdict::Agrees; });
+        lines.append(count == 1
+                         ? cText::Tr("Kontostand der Bank: {0} am {1}. Ein weiterer, mit dem sich die Umsätze prüfen "
+                                     "ließen, ist nicht bekannt.",
+                                     newest)
+                         : cText::Tr("Die Umsätze stimmen mit allen {2} Kontoständen der Bank überein, zuletzt {0} "
+                                     "am {1}.",
+                                     newest + QStringList(QString::number(count))));
+    }
+    for (qsizetype i = 0; i < check.Faults.size() && i < mostNamed; ++i) {
+        lines.append(Fault(ledger, check.Faults.at(check.Faults.size() - 1 - i), format));
+    }
+    if (check.Faults.size() > mostNamed) {
+        lines.append(
+            cText::Tr("Davor gibt es {0} weitere Abweichungen.", {QString::number(check.Faults.size() - mostNamed)}));
+    }
+    const auto passing = std::find_if(check.Points.rbegin(), check.Points.rend(),
+                                      [](const cPoint& point) { return point.Verdict == eVerdict::Passing; });
+    if (passing != check.Points.rend()) {
+        lines.append(Passing(*passing, format));
+    }
+    return lines;
+}
+
+QString modBalanceText::Book(const cBookComparison& book, const QString& account, const cAmountFormat& format)
+{
+    using eState = cBookComparison::eState;
+    const QStringList values{account,
+                             modDate::ToGerman(book.Day),
+                             format.Cents(book.Book),
+                             format.Cents(book.Bank),
+                             modDate::ToGerman(book.From),
+                             format.Cents(std::abs(book.Book - book.Bank))};
+    switch (book.State) {
+    case eState::NoBalance: return {};
+    case eState::NotMapped: return cText::Tr("Diese Kontonummer ist noch keinem Konto Ihres Buchs zugeordnet.");
+    case eState::Shared:
+        return cText::Tr("Zum Konto '{0}' gehören mehrere Kontonummern; mit seinen Einträgen lässt sich der Auszug "
+                         "deshalb nicht vergleichen.",
+                         values);
+    case eState::Agrees: return cText::Tr("Das Konto '{0}' stimmt am {1} mit der Bank überein: {2}.", values);
+    case eState::Differs: break;
+    }
+    const QString what = book.Book > book.Bank
+        ? cText::Tr("Das Konto '{0}' steht am {1} auf {2}, das sind {5} mehr als bei der Bank ({3}).", values)
+        : cText::Tr("Das Konto '{0}' steht am {1} auf {2}, das sind {5} weniger als bei der Bank ({3}).", values);
+    return what + u' '
+        + (book.HasAgreed
+               ? cText::Tr("Seit dem {4} stimmen beide nicht mehr überein.", values)
+               : cText::Tr("Sie stimmten schon am {4} nicht überein; vielleicht fehlt das Startguthaben.", values));
+}

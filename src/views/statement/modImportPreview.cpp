@@ -1,0 +1,68 @@
+#include "views/statement/modImportPreview.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "import/stage/cImportResult.h"
+#include "views/statement/modImportText.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+QString modImportPreview::Kind(eSkipped kind)
+{
+    switch (kind) {
+    case eSkipped::Pending: return cText::Tr("vorgemerkt");
+    case eSkipped::Balance: return cText::Tr("Saldo");
+    case eSkipped::Unreadable: return cText::Tr("nicht lesbar");
+    case eSkipped::OtherCurrency: return cText::Tr("andere Währung");
+    }
+    return {};
+}
+
+QString modImportPreview::Count(const cImportResult& result, const cAmountFormat& format)
+{
+    QStringList parts{cText::Tr("{0} neu", {modImportText::Count(result.Staged)})};
+    if (!result.Rows.isEmpty()) {
+        const auto isEarlier = [](const cImportEntry& a, const cImportEntry& b) { return a.ImportDate < b.ImportDate; };
+        const auto [first, last] = std::minmax_element(result.Rows.begin(), result.Rows.end(), isEarlier);
+        qint64 sum = 0;
+        for (const cImportEntry& row : result.Rows) {
+            sum += modAmount::ToCents(row.ImportValue);
+        }
+        parts.append(
+            cText::Tr("vom {0} bis {1}", {modDate::ToGerman(first->ImportDate), modDate::ToGerman(last->ImportDate)}));
+        parts.append(cText::Tr("zusammen {0}", {format.Cents(sum)}));
+    }
+    if (!result.Duplicates.isEmpty()) {
+        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(result.Duplicates.size())}));
+    }
+    if (!result.Skipped.isEmpty()) {
+        parts.append(cText::Tr("{0} ausgelassen", {QString::number(result.Skipped.size())}));
+    }
+    return parts.join(u", "_s);
+}
+
+QStringList modImportPreview::LeftOut(const cImportResult& result, const cAmountFormat& format, qsizetype most)
+{
+    QStringList lines;
+    for (const cReadProblem& problem : result.Problems) {
+        lines.append(modImportText::Problem(problem));
+    }
+    for (const cSkippedRow& row : result.Skipped) {
+        lines.append(modImportText::Problem(row.Reason));
+    }
+    for (const cImportEntry& row : result.Duplicates) {
+        lines.append(cText::Tr("schon vorhanden: {0}", {modImportText::Row(row, format)}));
+    }
+    if (result.Zero > 0) {
+        lines.append(cText::Tr("ohne Betrag: {0}", {modImportText::Count(result.Zero)}));
+    }
+    if (lines.size() > most) {
+        const QString rest = QString::number(lines.size() - most);
+        lines = lines.first(most) + QStringList(cText::Tr("… und {0} weitere", {rest}));
+    }
+    return lines;
+}

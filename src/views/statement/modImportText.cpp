@@ -1,0 +1,157 @@
+#include "views/statement/modImportText.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "import/match/cMatch.h"
+#include "import/propose/cBooking.h"
+#include "import/propose/cProposal.h"
+#include "import/stage/cImportResult.h"
+
+#include <QFileInfo>
+
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype shownProblems = 20; // more lines tell the user nothing new
+
+QString Read(const cImportResult& result, const cAmountFormat& format)
+{
+    QStringList parts{cText::Tr("{0} gelesen", {QString::number(result.Read)}),
+                      cText::Tr("{0} neu", {QString::number(result.Staged)})};
+    if (!result.Duplicates.isEmpty()) {
+        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(result.Duplicates.size())}));
+    }
+    if (result.Zero > 0) {
+        parts.append(cText::Tr("{0} ohne Betrag", {QString::number(result.Zero)}));
+    }
+    if (result.Failed > 0) {
+        parts.append(cText::Tr("{0} nicht gespeichert", {QString::number(result.Failed)}));
+    }
+    if (result.ClosingBalance) {
+        parts.append(cText::Tr("Schlusssaldo {0}", {format.Cents(*result.ClosingBalance)}));
+    }
+    return parts.join(u", "_s);
+}
+
+} // namespace
+
+QString modImportText::Count(int rows)
+{
+    return rows == 1 ? cText::Tr("Ein Umsatz") : cText::Tr("{0} Umsätze", {QString::number(rows)});
+}
+
+QString modImportText::Problem(const cReadProblem& problem)
+{
+    return problem.Line > 0 ? cText::Tr("Zeile {0}: {1}", {QString::number(problem.Line), problem.Text}) : problem.Text;
+}
+
+QStringList modImportText::Summary(const cImportResult& result, const cAmountFormat& format)
+{
+    const QString name = QFileInfo(result.File).fileName();
+    if (result.IsRefused) {
+        return {cText::Tr("{0}: nicht eingelesen. {1}", {name, result.Message})};
+    }
+    if (result.IsCancelled) {
+        return {cText::Tr("{0}: abgebrochen, nichts davon übernommen.", {name})};
+    }
+    QStringList lines{cText::Tr("{0}: {1}", {name, Read(result, format)})};
+    QList<cReadProblem> problems = result.Problems;
+    for (const cSkippedRow& row : result.Skipped) {
+        problems.append(row.Reason);
+    }
+    for (const cReadProblem& problem : problems.first(qMin(problems.size(), shownProblems))) {
+        lines.append(Problem(problem));
+    }
+    if (problems.size() > shownProblems) {
+        lines.append(cText::Tr("… und {0} weitere Zeilen", {QString::number(problems.size() - shownProblems)}));
+    }
+    return lines;
+}
+
+QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
+{
+    QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(modAmount::ToCents(row.ImportValue)),
+                      row.ImportBeneficiary.simplified(),
+                      (row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose).simplified()};
+    parts.removeAll(QString());
+    return parts.join(u"  ·  "_s);
+}
+
+QString modImportText::Details(const cImportEntry& row)
+{
+    QStringList lines{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
+                      QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
+QStringList modImportText::Booked(const cBookingResult& result)
+{
+    QStringList parts{cText::Tr("{0} gebucht", {Count(result.Rows)})};
+    parts.append(result.Entries == 1 ? cText::Tr("ein neuer Eintrag")
+                                     : cText::Tr("{0} neue Einträge", {QString::number(result.Entries)}));
+    if (result.Joined > 0) {
+        parts.append(cText::Tr("{0} zu vorhandenen Einträgen", {QString::number(result.Joined)}));
+    }
+    if (result.Failed > 0) {
+        parts.append(
+            cText::Tr("{0} nicht gebucht, weil die Datenbank nicht schreibt", {QString::number(result.Failed)}));
+    }
+    QStringList lines{parts.join(u", "_s) + u'.'};
+    for (const QString& number : result.UnknownAccounts) {
+        lines.append(NoAccount(number));
+    }
+    return lines;
+}
+
+QString modImportText::NoAccount(const QString& number)
+{
+    return number.isEmpty()
+        ? cText::Tr("Umsätze ohne Kontonummer haben noch kein Konto und werden nicht gebucht.")
+        : cText::Tr("Die Kontonummer {0} hat noch kein Konto; ihre Umsätze werden nicht gebucht.", {number});
+}
+
+QString modImportText::NoAccountToMatch(const QString& number)
+{
+    return number.isEmpty()
+        ? cText::Tr("Umsätze ohne Kontonummer haben noch kein Konto und bleiben offen.")
+        : cText::Tr("Die Kontonummer {0} hat noch kein Konto; ihre Umsätze bleiben offen.", {number});
+}
+
+QString modImportText::EntryName(const cEntryItem& entry)
+{
+    const QString text = entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
+    return cText::Tr("'{0}' vom {1}", {text.simplified(), entry.EntryDate.toString(u"dd.MM."_s)});
+}
+
+QString modImportText::Candidate(const cMatchCandidate& candidate)
+{
+    return cText::Tr("{0} ({1})", {EntryName(candidate.Entry), Percent(candidate.Score)});
+}
+
+QString modImportText::Percent(double share)
+{
+    return cText::Tr("{0} %", {QString::number(std::lround(share * 100.0))});
+}
+
+QString modImportText::Accounts(const cEntryItem& entry)
+{
+    return entry.EntryAccountMove.isEmpty() ? entry.EntryAccount : entry.EntryAccount + u" → " + entry.EntryAccountMove;
+}
+
+QString modImportText::Reason(const cProposal& proposal)
+{
+    const QString reason = proposal.Reason.isEmpty() ? cText::Tr("keine Regel passt") : proposal.Reason;
+    return proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
+}
+
+QString modImportText::TwinReason(modStagedTwins::eSame same)
+{
+    return same == modStagedTwins::eSame::Counterparty ? cText::Tr("gleicher Tag, Betrag und Gegenkonto")
+                                                       : cText::Tr("gleicher Tag, Betrag und ähnlicher Name");
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "views/statement/modStagedTwins.h"
+
+#include <QString>
+#include <QStringList>
+
+class cAmountFormat;
+struct cBookingResult;
+struct cEntryItem;
+struct cImportEntry;
+struct cImportResult;
+struct cMatchCandidate;
+struct cProposal;
+struct cReadProblem;
+
+// What the page of bank statements says, in words.
+namespace modImportText {
+
+// "ein Umsatz", "3 Umsätze"
+[[nodiscard]] QString Count(int rows);
+
+// A line of a file that could not be read, with the reason.
+[[nodiscard]] QString Problem(const cReadProblem& problem);
+
+// What came of a file, and the lines of it that could not be read.
+[[nodiscard]] QStringList Summary(const cImportResult& result, const cAmountFormat& format);
+
+// A transaction in one line.
+[[nodiscard]] QString Row(const cImportEntry& row, const cAmountFormat& format);
+
+// All that a transaction says beside day and amount, in lines
+[[nodiscard]] QString Details(const cImportEntry& row);
+
+[[nodiscard]] QStringList Booked(const cBookingResult& result);
+
+// Rows of a number that still has no account
+[[nodiscard]] QString NoAccount(const QString& number);
+
+// The same where such rows are compared with entries
+[[nodiscard]] QString NoAccountToMatch(const QString& number);
+
+// An entry or an occurrence by its text, else by its category: "'Miete' vom 03.03."
+[[nodiscard]] QString EntryName(const cEntryItem& entry);
+
+// With how well it fits: "'Miete' vom 03.03. (85 %)"
+[[nodiscard]] QString Candidate(const cMatchCandidate& candidate);
+
+// A share from 0 to 1: "85 %"
+[[nodiscard]] QString Percent(double share);
+
+// "Girokonto", for a transfer "Girokonto → Sparkonto"
+[[nodiscard]] QString Accounts(const cEntryItem& entry);
+
+[[nodiscard]] QString Reason(const cProposal& proposal);
+
+// Why two transactions may be the same one
+[[nodiscard]] QString TwinReason(modStagedTwins::eSame same);
+
+} // namespace modImportText

@@ -1,0 +1,165 @@
+#include "views/statement/modTableField.h"
+
+#include "base/cText.h"
+#include "import/read/cTableLayout.h"
+#include "import/table/modTableProfile.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using eField = cImportAssistant::eField;
+
+struct cCharset
+{
+    eCharset Charset;
+    const char16_t* Name;
+};
+
+constexpr std::array charsets = {
+    cCharset{eCharset::Utf8, u"UTF-8"},          cCharset{eCharset::Windows1252, u"Windows-1252"},
+    cCharset{eCharset::Cp850, u"CP850 (DOS)"},   cCharset{eCharset::Utf16LE, u"UTF-16"},
+    cCharset{eCharset::Utf16BE, u"UTF-16 (BE)"},
+};
+
+struct cSeparator
+{
+    char16_t Separator;
+    const char* Name;
+};
+
+constexpr std::array separators = {
+    cSeparator{u';', QT_TRANSLATE_NOOP("cText", "Semikolon")},
+    cSeparator{u',', QT_TRANSLATE_NOOP("cText", "Komma")},
+    cSeparator{u'\t', QT_TRANSLATE_NOOP("cText", "Tabulator")},
+    cSeparator{u'|', QT_TRANSLATE_NOOP("cText", "senkrechter Strich")},
+};
+
+QString Name(eCharset charset)
+{
+    const auto* const found =
+        std::find_if(charsets.begin(), charsets.end(), [&](const cCharset& known) { return known.Charset == charset; });
+    return found == charsets.end() ? QString() : QString::fromUtf16(found->Name);
+}
+
+QString Name(QChar separator)
+{
+    const auto* const found = std::find_if(separators.begin(), separators.end(), [&](const cSeparator& known) {
+        return QChar(known.Separator) == separator;
+    });
+    return found == separators.end() ? QString() : cText::Tr(found->Name);
+}
+
+QStringList Profiles()
+{
+    return QStringList(modTableField::Automatic()) + modTableProfile::Names() + QStringList(cText::Tr("keiner"));
+}
+
+QStringList Charsets(eCharset found)
+{
+    QStringList items{modTableField::Automatic(Name(found))};
+    for (const cCharset& known : charsets) {
+        items.append(QString::fromUtf16(known.Name));
+    }
+    return items;
+}
+
+QStringList Separators(QChar found)
+{
+    QStringList items{modTableField::Automatic(Name(found))};
+    for (const cSeparator& known : separators) {
+        items.append(cText::Tr(known.Name));
+    }
+    return items;
+}
+
+int CurrentProfile(const QString& profile)
+{
+    const QStringList names = modTableProfile::Names();
+    return profile == noProfile ? static_cast<int>(names.size()) + 1 : static_cast<int>(names.indexOf(profile)) + 1;
+}
+
+QString ProfileAt(int item)
+{
+    const QStringList names = modTableProfile::Names();
+    return item == 0 ? QString() : names.value(item - 1, noProfile.toString());
+}
+
+} // namespace
+
+QString modTableField::Automatic(const QString& found)
+{
+    return found.isEmpty() ? cText::Tr("Automatisch") : cText::Tr("Automatisch ({0})", {found});
+}
+
+QStringList modTableField::Items(eField field, const cTableLayout& layout, eCharset charset)
+{
+    switch (field) {
+    case eField::Profile: return Profiles();
+    case eField::Charset: return Charsets(charset);
+    case eField::Separator: return Separators(layout.Separator);
+    case eField::Number: return {Automatic(), cText::Tr("1.234,50"), cText::Tr("1,234.50")};
+    case eField::Date:
+        return {cText::Tr("Tag, Monat, Jahr"), cText::Tr("Monat, Tag, Jahr"), cText::Tr("Jahr, Monat, Tag")};
+    case eField::Sign: return {cText::Tr("wie in der Datei"), cText::Tr("umgekehrt (Ausgaben ohne Minus)")};
+    case eField::Sheet: break;
+    }
+    return {};
+}
+
+int modTableField::Current(eField field, const cTableChoice& choice, const cTableLayout& layout)
+{
+    switch (field) {
+    case eField::Profile: return CurrentProfile(choice.Profile);
+    case eField::Charset: {
+        const auto* const found = std::find_if(charsets.begin(), charsets.end(),
+                                               [&](const cCharset& known) { return known.Charset == choice.Charset; });
+        return found == charsets.end() ? 0 : static_cast<int>(found - charsets.begin()) + 1;
+    }
+    case eField::Separator: {
+        const auto* const found = std::find_if(separators.begin(), separators.end(), [&](const cSeparator& known) {
+            return choice.Separator == QChar(known.Separator);
+        });
+        return found == separators.end() ? 0 : static_cast<int>(found - separators.begin()) + 1;
+    }
+    case eField::Number: return static_cast<int>(layout.Number);
+    case eField::Date: return static_cast<int>(layout.Date);
+    case eField::Sign: return static_cast<int>(layout.Sign);
+    case eField::Sheet: break;
+    }
+    return 0;
+}
+
+void modTableField::Choose(eField field, int item, cTableChoice& choice)
+{
+    const auto place = static_cast<std::size_t>(item - 1);
+    switch (field) {
+    case eField::Profile: choice.Profile = ProfileAt(item); break;
+    case eField::Charset: choice.Charset = item == 0 ? eCharset::Detect : charsets.at(place).Charset; break;
+    case eField::Separator:
+        choice.Separator = item == 0 ? std::optional<QChar>() : QChar(separators.at(place).Separator);
+        break;
+    case eField::Number: choice.Number = static_cast<eNumberFormat>(item); break;
+    case eField::Date: choice.Date = static_cast<eDateOrder>(item); break;
+    case eField::Sign: choice.Sign = static_cast<eSignRule>(item); break;
+    case eField::Sheet: break;
+    }
+}
+
+QString modTableField::OriginText(const cTableLayout& layout)
+{
+    if (!layout.IsReadable()) {
+        return cText::Tr("Tag und Betrag nicht erkannt, bitte wählen");
+    }
+    switch (layout.Origin) {
+    case eMapOrigin::Words: return cText::Tr("Spalten an ihren Namen erkannt");
+    case eMapOrigin::Contents: return cText::Tr("Spalten aus dem Inhalt geraten, bitte prüfen");
+    case eMapOrigin::Profile: return cText::Tr("bekannter Aufbau: {0}", {layout.Profile});
+    case eMapOrigin::Memory: return cText::Tr("Spalten wie beim letzten Mal");
+    case eMapOrigin::User: return cText::Tr("Spalten von Hand gewählt");
+    }
+    return {};
+}

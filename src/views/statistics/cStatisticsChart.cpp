@@ -1,0 +1,196 @@
+#include "views/statistics/cStatisticsChart.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "core/cSettings.h"
+#include "model/modWord.h"
+#include "views/list/modSetting.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kindCount = 6;
+constexpr int mostForecast = 12; // months
+
+} // namespace
+
+cStatisticsChart::cStatisticsChart(const cParts& parts, const QString& prefix, eChartKind kind, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_prefix(prefix),
+      m_kind(kind)
+{
+}
+
+QStringList cStatisticsChart::Kinds()
+{
+    return {cText::Tr("Ausgaben nach Kategorien"),           cText::Tr("Einnahmen nach Kategorien"),
+            cText::Tr("Einnahmen und Ausgaben je Monat"),    cText::Tr("Ausgaben je Monat nach Kategorien"),
+            cText::Tr("Einnahmen je Monat nach Kategorien"), cText::Tr("Verlauf der Kontostände")};
+}
+
+void cStatisticsChart::Restore()
+{
+    const cSettings& settings = m_parts.Settings;
+    m_period.Restore(settings, m_prefix, m_parts.Clock.Today());
+    bool isNumber = false;
+    const int kind = settings.Get(m_prefix + u"Diagramm"_s).toInt(&isNumber);
+    if (isNumber && kind >= 0 && kind < kindCount) {
+        m_kind = static_cast<eChartKind>(kind);
+    }
+    m_second = settings.Get(m_prefix + u"Vergleich"_s);
+    m_compare = m_second == u"Vorjahr"          ? eCompare::YearBefore
+        : modWord::Periods().Contains(m_second) ? eCompare::Period
+                                                : eCompare::Nothing;
+    const int months = settings.Get(m_prefix + u"Vorschau"_s).toInt(&isNumber);
+    m_forecastMonths = isNumber ? std::clamp(months, 0, mostForecast) : m_forecastMonths;
+    m_showsAverage = settings.GetBool(m_prefix + u"Durchschnitt"_s);
+    m_group.reset();
+    Invalidate();
+}
+
+void cStatisticsChart::Save()
+{
+    cSettings& settings = m_parts.Settings;
+    m_period.Save(settings, m_prefix);
+    const auto keep = [&](const QString& name, const QString& value) {
+        modSetting::Keep(settings, m_prefix + name, value);
+    };
+    keep(u"Diagramm"_s, QString::number(static_cast<int>(m_kind)));
+    keep(u"Vergleich"_s, m_compare == eCompare::YearBefore ? u"Vorjahr"_s : m_second);
+    keep(u"Vorschau"_s, QString::number(m_forecastMonths));
+    keep(u"Durchschnitt"_s, cSettings::FromBool(m_showsAverage));
+}
+
+void cStatisticsChart::SetAccount(const QString& account)
+{
+    if (account != m_account) {
+        m_account = account;
+        Invalidate();
+    }
+}
+
+void cStatisticsChart::SetShown(bool isShown)
+{
+    m_isShown = isShown;
+    if (isShown && m_isStale) {
+        Refresh();
+    }
+}
+
+void cStatisticsChart::Invalidate()
+{
+    m_isStale = true;
+    if (m_isShown) {
+        Refresh();
+    }
+}
+
+void cStatisticsChart::Refresh()
+{
+    cChartMaker maker(m_parts.Data, m_parts.Format, m_parts.Clock.Today());
+    m_data = maker.Make(Wish());
+    m_isStale = false;
+    Q_EMIT Changed();
+}
+
+cChartWish cStatisticsChart::Wish() const
+{
+    cChartWish wish;
+    wish.Kind = m_kind;
+    wish.Range = Range();
+    if (m_compare == eCompare::YearBefore) {
+        wish.Second = cChartWish::YearBefore(wish.Range);
+    } else if (m_compare == eCompare::Period) {
+        wish.Second = modPeriod::Range(m_second, m_parts.Clock.Today(), m_period.Free());
+    }
+    wish.Account = m_account;
+    wish.Group = m_group;
+    wish.ShowsFuture = m_parts.Settings.GetBool(u"ViewFutureBooking"_s);
+    wish.ShowsAverage = m_showsAverage;
+    wish.ForecastMonths = HasForecast() ? m_forecastMonths : 0;
+    return wish;
+}
+
+modPeriod::cRange cStatisticsChart::Range() const
+{
+    return m_period.Range(m_parts.Clock.Today());
+}
+
+void cStatisticsChart::ChooseKind(eChartKind kind)
+{
+    m_kind = kind;
+    m_group.reset();
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::ChoosePeriod(const QString& name)
+{
+    m_period.Choose(name, m_parts.Clock.Today());
+    Save();
+    Invalidate();
+    Q_EMIT PeriodChosen(name);
+}
+
+void cStatisticsChart::ChooseFirstMonth(int month)
+{
+    m_period.ChooseFirst(month);
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::ChooseLastMonth(int month)
+{
+    m_period.ChooseLast(month);
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::ChooseYear(int year)
+{
+    m_period.Year = year;
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::ChooseCompare(eCompare compare, const QString& period)
+{
+    m_compare = compare;
+    m_second = period;
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::ChooseForecast(int months)
+{
+    m_forecastMonths = std::clamp(months, 0, mostForecast);
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::ShowAverage(bool isShown)
+{
+    m_showsAverage = isShown;
+    Save();
+    Invalidate();
+}
+
+void cStatisticsChart::GoUp()
+{
+    m_group.reset();
+    Invalidate();
+}
+
+std::optional<cChartTarget> cStatisticsChart::Click(int series, int index)
+{
+    const cChartTarget target = m_data.Series.value(series).TargetAt(index);
+    if (target.Kind == cChartTarget::eKind::Deeper && target.Node) {
+        m_group = target.Node->Group;
+        Invalidate();
+    }
+    return target.Kind == cChartTarget::eKind::Entries ? std::optional(target) : std::nullopt;
+}

@@ -1,0 +1,395 @@
+#include "views/statistics/cStatisticsModel.h"
+
+#include "base/cClock.h"
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cSettings.h"
+#include "model/cTemplateItem.h"
+#include "model/modWord.h"
+#include "views/chart/modChart.h"
+#include "views/list/modSetting.h"
+#include "views/main/cMainModel.h"
+#include "views/main/cNavigator.h"
+#include "views/report/cReportExport.h"
+#include "views/report/modReport.h"
+#include "views/report/modReportHtml.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Keys of the page's settings begin so.
+const QString prefix = u"Statistik"_s;
+
+// What a selection of entries is, in words.
+QString TitleOf(const cReportNode& node)
+{
+    QStringList parts{modReport::ShownKind(node.Kind)};
+    if (node.Group) {
+        parts.append(node.Group->isEmpty() ? cText::Tr("Sonstiges") : *node.Group);
+    }
+    if (node.Category) {
+        parts.append(node.Category->isEmpty() ? cText::Tr("Sonstiges") : *node.Category);
+    }
+    return parts.join(u" › "_s);
+}
+
+std::function<cEntryItemList(const cEntryItemList&)> Picker(const cReportWish& wish, const cReportNode& node,
+                                                            const cTemplateItemList& templates)
+{
+    return [wish, node, templates](const cEntryItemList& entries) {
+        return modReport::EntriesOf(entries, wish, node, templates);
+    };
+}
+
+// Income and expense alike, as far as they count in the reports.
+std::function<cEntryItemList(const cEntryItemList&)> Picker(const cReportWish& wish)
+{
+    return [wish](const cEntryItemList& entries) {
+        cEntryItemList found;
+        std::copy_if(entries.begin(), entries.end(), std::back_inserter(found),
+                     [&](const cEntryItem& entry) { return modReport::NodeOf(entry, wish).has_value(); });
+        return found;
+    };
+}
+
+template <typename tEnum>
+tEnum Stored(const cSettings& settings, const QString& name, tEnum last, tEnum otherwise)
+{
+    bool isNumber = false;
+    const int value = settings.Get(prefix + name).toInt(&isNumber);
+    return isNumber && value >= 0 && value <= static_cast<int>(last) ? static_cast<tEnum>(value) : otherwise;
+}
+
+template <typename tEnum>
+void Store(cSettings& settings, const QString& name, tEnum value)
+{
+    modSetting::Keep(settings, prefix + name, QString::number(static_cast<int>(value)));
+}
+
+} // namespace
+
+cStatisticsModel::cStatisticsModel(const cParts& parts, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_source(parts.Data, parts.Settings, parts.Clock, parts.Format),
+      m_tree(parts.Format),
+      m_firstChart({parts.Data, parts.Settings, parts.Format, parts.Clock}, prefix + u"1"_s, eChartKind::ExpensePie),
+      m_secondChart({parts.Data, parts.Settings, parts.Format, parts.Clock}, prefix + u"2"_s, eChartKind::Months)
+{
+    for (const cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
+        connect(chart, &cStatisticsChart::PeriodChosen, this, [this, chart](const QString& name) {
+            if (!chart->HasForecast()) { // which shows what comes in any case
+                OfferFuture(name);
+            }
+        });
+    }
+}
+
+void cStatisticsModel::Restore()
+{
+    const cSettings& settings = m_parts.Settings;
+    m_type = Stored(settings, u"Bericht"_s, eReport::Limit, eReport::Average);
+    m_period.Restore(settings, prefix, m_parts.Clock.Today());
+    m_order = Stored(settings, u"Ordnung"_s, eReportOrder::ByAmount, eReportOrder::ByName);
+    m_spending = Stored(settings, u"Erstattungen"_s, eReportSpending::Gross, eReportSpending::Net);
+    m_page = Stored(settings, u"Seite"_s, ePage::Charts, ePage::Report);
+    const int zoom = settings.Get(prefix + u"Zoom"_s).toInt();
+    m_zoom = zoom > 0 ? zoom : 100;
+    for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
+        chart->Restore();
+    }
+    m_switches = {Wish().ShowsFuture, Wish().ShowsStart};
+    BookChanged();
+}
+
+void cStatisticsModel::SetShown(bool isShown)
+{
+    m_isShown = isShown;
+    m_firstChart.SetShown(isShown && m_page == ePage::Charts);
+    m_secondChart.SetShown(isShown && m_page == ePage::Charts);
+    if (IsReportShown() && m_isStale) {
+        Refresh();
+    }
+}
+
+void cStatisticsModel::ChoosePage(ePage page)
+{
+    m_page = page;
+    Store(m_parts.Settings, u"Seite"_s, page);
+    SetShown(m_isShown);
+}
+
+QStringList cStatisticsModel::Accounts() const
+{
+    return m_parts.Main.Accounts();
+}
+
+cReportWish cStatisticsModel::Wish() const
+{
+    cReportWish wish = m_source.Wish(m_type, m_account, m_period.Name, m_period.Free());
+    wish.Order = m_order;
+    wish.Spending = m_spending;
+    return wish;
+}
+
+modPeriod::cRange cStatisticsModel::Range() const
+{
+    return m_period.Range(m_parts.Clock.Today());
+}
+
+void cStatisticsModel::Changed()
+{
+    cSettings& settings = m_parts.Settings;
+    Store(settings, u"Bericht"_s, m_type);
+    Store(settings, u"Ordnung"_s, m_order);
+    Store(settings, u"Erstattungen"_s, m_spending);
+    m_period.Save(settings, prefix);
+    Q_EMIT SelectorsChanged();
+    m_isStale = true;
+    SetShown(m_isShown);
+}
+
+void cStatisticsModel::Refresh()
+{
+    const cReportWish wish = Wish();
+    const cReportFigures& figures = m_source.Figures(wish);
+    const QString html = modReportHtml::Html(figures, wish, m_parts.Format);
+    m_isStale = false;
+    if (html != m_html || figures != m_tree.Figures()) {
+        m_html = html;
+        m_tree.SetFigures(figures);
+        Q_EMIT ReportChanged();
+    }
+}
+
+QString cStatisticsModel::Hint() const
+{
+    return IsLimit() && m_tree.Figures().Expense.Groups.isEmpty()
+        ? cText::Tr("Noch hat keine Kategorie ein Monatslimit. Sie legen eines unter „Extras“, „Kategorie/Konto "
+                    "bearbeiten“ fest.")
+        : QString();
+}
+
+QString cStatisticsModel::PrintHtml()
+{
+    cReportWish wish = Wish();
+    wish.Links = eReportLinks::Off;
+    return m_source.Html(wish);
+}
+
+void cStatisticsModel::ChooseReport(eReport type)
+{
+    m_type = type;
+    Changed();
+}
+
+void cStatisticsModel::ChooseAccount(const QString& account)
+{
+    m_account = Accounts().contains(account) ? account : modWord::AlleKonten;
+    modSetting::Keep(m_parts.Settings, modSetting::StatisticsAccount, m_account);
+    m_firstChart.SetAccount(Wish().Account);
+    m_secondChart.SetAccount(Wish().Account);
+    Changed();
+}
+
+void cStatisticsModel::ChoosePeriod(const QString& name)
+{
+    m_period.Choose(name, m_parts.Clock.Today());
+    OfferFuture(name);
+    Changed();
+}
+
+void cStatisticsModel::OfferFuture(const QString& period)
+{
+    if (!Wish().ShowsFuture) {
+        m_parts.Main.OfferFuture(period);
+        if (Wish().ShowsFuture) {
+            m_parts.Main.RefreshView();
+        }
+    }
+}
+
+void cStatisticsModel::ChooseFirstMonth(int month)
+{
+    m_period.ChooseFirst(month);
+    Changed();
+}
+
+void cStatisticsModel::ChooseLastMonth(int month)
+{
+    m_period.ChooseLast(month);
+    Changed();
+}
+
+void cStatisticsModel::ChooseYear(int year)
+{
+    m_period.Year = year;
+    Changed();
+}
+
+void cStatisticsModel::SetOrder(eReportOrder order)
+{
+    m_order = order;
+    Changed();
+}
+
+void cStatisticsModel::SetSpending(eReportSpending spending)
+{
+    m_spending = spending;
+    Changed();
+}
+
+void cStatisticsModel::SetZoom(int percent)
+{
+    if (percent == m_zoom) {
+        return;
+    }
+    m_zoom = percent;
+    m_parts.Settings.Set(prefix + u"Zoom"_s, QString::number(percent));
+}
+
+void cStatisticsModel::BookChanged()
+{
+    const QString account = m_parts.Settings.Get(modSetting::StatisticsAccount);
+    m_account = Accounts().contains(account) ? account : modWord::AlleKonten; // which may come back
+    m_source.Forget();
+    m_isStale = true;
+    for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
+        chart->Invalidate();
+        chart->SetAccount(Wish().Account);
+    }
+    Q_EMIT SelectorsChanged();
+    SetShown(m_isShown);
+}
+
+void cStatisticsModel::ViewChanged()
+{
+    const cReportWish wish = Wish();
+    const std::pair switches(wish.ShowsFuture, wish.ShowsStart);
+    if (switches != m_switches) {
+        m_switches = switches;
+        m_isStale = true;
+        m_firstChart.Invalidate();
+        m_secondChart.Invalidate();
+        SetShown(m_isShown);
+    }
+}
+
+QString cStatisticsModel::TypeOf(const cReportWish& wish, const cReportNode& node) const
+{
+    if (wish.Type == eReport::Limit && wish.Spending == eReportSpending::Net) {
+        return modWord::AlleBuchungsarten; // what came back has been taken off, so it has to be seen
+    }
+    return node.Kind == eReportKind::Income ? modWord::Einnahme : modWord::Ausgabe;
+}
+
+void cStatisticsModel::ShowSelected(const cReportWish& wish, const cReportNode& node)
+{
+    m_parts.Main.ShowEntries(
+        {TitleOf(node), TypeOf(wish, node), wish.Account, wish.Range, Picker(wish, node, m_source.Templates())});
+    Q_EMIT EntriesShown();
+}
+
+void cStatisticsModel::ShowNode(const cReportNode& node)
+{
+    ShowSelected(Wish(), node);
+}
+
+void cStatisticsModel::ShowTarget(const cStatisticsChart& chart, const cChartTarget& target)
+{
+    cChartWish asked = chart.Wish();
+    asked.Account = target.Account;
+    const cReportWish wish = modChart::ReportWish(asked, target.Range, m_parts.Clock.Today());
+    if (target.Node) {
+        ShowSelected(wish, *target.Node);
+        return;
+    }
+    const bool isBalance = chart.Kind() == eChartKind::Balances; // every entry moves a balance, transfers too
+    m_parts.Main.ShowEntries({cText::Tr("Alle Einträge"), modWord::AlleBuchungsarten, target.Account, target.Range,
+                              isBalance ? nullptr : Picker(wish), isBalance});
+    Q_EMIT EntriesShown();
+}
+
+void cStatisticsModel::EditCategory(const cReportNode& node)
+{
+    if (node.Group) {
+        m_parts.Navigator.OpenTemplates(modTemplate::Join(*node.Group, node.Category.value_or(QString())));
+    }
+}
+
+void cStatisticsModel::FollowLink(const QString& link, const QString& name)
+{
+    const modReportLink::cLink parsed = modReportLink::Parse(link);
+    if (const auto* edit = std::get_if<modReportLink::cEditCategory>(&parsed)) {
+        m_parts.Navigator.OpenTemplates(edit->Path);
+    } else if (const auto* entries = std::get_if<modReportLink::cShowEntries>(&parsed)) {
+        FollowEntries(*entries, name);
+    } else if (const auto* page = std::get_if<modReportLink::cOpenPage>(&parsed)) {
+        (void)m_parts.Shell.OpenPage(page->Url);
+    }
+}
+
+QModelIndex cStatisticsModel::LineOf(const modReportLink::cShowEntries& link, const QString& name) const
+{
+    const cReportNode& node = link.Node;
+    const QList<cReportGroup>& groups = m_tree.Figures().Section(node.Kind).Groups;
+    for (const cReportGroup& group : groups) {
+        for (const cReportCategory& category : group.Categories) {
+            const bool isOwn = !node.Category && group.Name == node.Group && category.Name.isEmpty();
+            if (isOwn && category.Label.simplified() == name) {
+                return m_tree.FindNode({node.Kind, node.Group, u""_s});
+            }
+        }
+    }
+    const QModelIndex index = m_tree.FindNode(node);
+    return index.isValid() ? index : m_tree.FindNode(link.Cut);
+}
+
+void cStatisticsModel::FollowEntries(const modReportLink::cShowEntries& link, const QString& name)
+{
+    const QModelIndex index = LineOf(link, name);
+    cReportWish wish = Wish();
+    wish.Range = link.Range;
+    wish.Account = link.Account;
+    if (index.isValid()) {
+        Q_EMIT NodeChosen(index);
+        ShowSelected(wish, m_tree.NodeAt(index));
+    } else {
+        ShowSelected(wish, link.Node);
+    }
+}
+
+void cStatisticsModel::SavePdf(const fnPaintPdf& paint)
+{
+    const cReportWish wish = Wish();
+    const QString title = cText::Tr("Als PDF speichern");
+    const QString proposal = u"Kontorelle-%1-%2.pdf"_s.arg(modReport::ShownName(wish.Type), modDate::ToIso(wish.Today));
+    const QString path = m_parts.User.ChooseSavePath(title, cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"), proposal);
+    if (path.isEmpty()) {
+        return;
+    }
+    const QStringList shownPath{QDir::toNativeSeparators(path)};
+    if (paint(PrintHtml(), path)) {
+        m_parts.User.Show(eTone::Information, cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", shownPath), title);
+    } else {
+        m_parts.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", shownPath),
+                          title);
+    }
+}
+
+void cStatisticsModel::SaveFile()
+{
+    (void)cReportExport(m_parts.User, m_source, m_parts.Format).Run(Wish());
+}
+
+void cStatisticsModel::SaveChart(const cChartData& chart, const cChartSave::cPictures& pictures)
+{
+    (void)cChartSave(m_parts.User, pictures).Run(chart, m_parts.Clock.Today());
+}

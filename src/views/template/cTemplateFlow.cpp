@@ -1,0 +1,209 @@
+#include "views/template/cTemplateFlow.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "core/cSettings.h"
+#include "import/propose/cOwnRules.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/template/cBankNumbers.h"
+#include "views/template/modTemplateText.h"
+
+#include <algorithm>
+
+namespace {
+
+QString Cleaned(const QString& name)
+{
+    return modTemplate::CleanName(name.trimmed()).trimmed();
+}
+
+bool IsSame(const QString& a, const QString& b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+bool cTemplateFlow::Refuse(const QString& text)
+{
+    m_user.Show(eTone::Exclamation, text);
+    return false;
+}
+
+QString cTemplateFlow::AskRenameAccount(const QString& oldName)
+{
+    const std::optional<QString> name = m_user.Choose({.Text = cText::Tr("Neuer Name für das Konto '{0}':", {oldName}),
+                                                       .Title = cText::Tr("Konto umbenennen"),
+                                                       .Items = {},
+                                                       .Proposal = oldName,
+                                                       .AllowNew = true});
+    if (!name) {
+        return oldName;
+    }
+    return RenameAccount(oldName, *name) ? Cleaned(*name) : oldName;
+}
+
+bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName)
+{
+    const QString name = Cleaned(newName);
+    if (name.isEmpty()) {
+        return Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
+    }
+    std::optional<cTemplateItem> account = m_data.FindAccount(oldName);
+    if (!account || name == oldName) {
+        return false;
+    }
+    if (m_data.FindAccount(name)) {
+        return Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
+    }
+    eAnswer answer = eAnswer::No;
+    if (m_data.CountEntriesOfAccount(oldName) >= 1) {
+        answer = m_user.Ask(
+            {.Text = cText::Tr("Es existieren bereits Buchungen zu diesem Konto.\nSollen die Quell/Zielkonten "
+                               "der Buchungen von '{0}' auf '{1}' geändert werden?",
+                               {oldName, name}),
+             .Title = cText::Tr("Konto umbenennen"),
+             .Tone = eTone::Question,
+             .Buttons = eButtons::YesNoCancel});
+    }
+    if (answer == eAnswer::Cancel) {
+        return false;
+    }
+    account->TemplateName = name;
+    return WriteAccount(*account, oldName, answer == eAnswer::Yes);
+}
+
+bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries)
+{
+    cUndoStep step(m_data, cText::Tr("Konto '{0}' umbenannt", {oldName}));
+    const bool isWritten = m_data.ChangeTemplate(account)
+        && cBankNumbers(m_data, m_settings).Move(oldName, account.TemplateName)
+        && cOwnRules(m_settings).RenameAccount(oldName, account.TemplateName)
+        && (!withEntries || MoveEntries(oldName, account.TemplateName));
+    if (!isWritten) {
+        (void)step.Revert();
+        m_settings.Reload();
+    }
+    return isWritten;
+}
+
+bool cTemplateFlow::MoveEntries(const QString& oldName, const QString& newName)
+{
+    // The bulk change reaches only names stored in lower case; the rest goes over by its exact name.
+    return m_data.ChangeEntryAccount(newName, oldName) && m_data.MoveEntriesToAccount(newName, oldName);
+}
+
+bool cTemplateFlow::IsTaken(const cTemplateItem& renamed) const
+{
+    // Regardless of case, because the lists of entries are filtered like that: they would show both together.
+    const QString path = modTemplate::Path(renamed);
+    const cTemplateItemList items = m_data.GetTemplates();
+    return std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
+        return !modTemplate::IsAccount(item) && item.ID != renamed.ID && IsSame(modTemplate::Path(item), path);
+    });
+}
+
+bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString& newMain, const QString& newSub)
+{
+    cTemplateItem renamed = category;
+    renamed.TemplateCategory = Cleaned(newMain);
+    renamed.TemplateName = Cleaned(newSub);
+    const QString oldPath = modTemplate::Path(category);
+    const QString newPath = modTemplate::Path(renamed);
+    if (newPath == oldPath) {
+        return false;
+    }
+    if (modTemplateText::IsProtected(oldPath)) {
+        return Refuse(modTemplateText::ProtectedHint());
+    }
+    if (renamed.TemplateName.isEmpty() && !category.TemplateName.isEmpty()) {
+        return Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
+    }
+    if (IsTaken(renamed) || modTemplateText::IsProtected(newPath)) {
+        return Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {newPath}));
+    }
+    cUndoStep step(m_data, cText::Tr("Kategorie '{0}' umbenannt", {oldPath}));
+    if (!m_data.ChangeTemplate(renamed)) {
+        return step.Revert();
+    }
+    const bool isMoved = m_data.CountEntriesOfCategory(oldPath) == 0 || m_data.ChangeEntryCategory(newPath, oldPath);
+    return (isMoved && cOwnRules(m_settings).RenameCategory(oldPath, newPath)) || step.Revert();
+}
+
+bool cTemplateFlow::HoldsProtected(const QString& main) const
+{
+    const cTemplateItemList items = m_data.GetTemplates();
+    return IsSame(main, modTemplate::MainOf(modWord::Startguthaben))
+        && (m_data.CountEntriesOfCategory(modWord::Startguthaben) > 0
+            || std::any_of(items.begin(), items.end(), [](const cTemplateItem& item) {
+                   return !modTemplate::IsAccount(item) && modTemplateText::IsProtected(modTemplate::Path(item));
+               }));
+}
+
+bool cTemplateFlow::IsMainTaken(const QString& newMain, const QString& oldMain) const
+{
+    const cTemplateItemList items = m_data.GetTemplates();
+    return std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
+        const QString main = modTemplate::GroupOf(item);
+        return !modTemplate::IsAccount(item) && main != oldMain && IsSame(main, newMain);
+    });
+}
+
+bool cTemplateFlow::RenameMain(const QString& oldMain, const QString& newMain)
+{
+    const QString main = Cleaned(newMain);
+    if (main.isEmpty()) {
+        return Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
+    }
+    if (main == oldMain) {
+        return false;
+    }
+    if (HoldsProtected(oldMain)) {
+        return Refuse(modTemplateText::ProtectedHint());
+    }
+    if (IsMainTaken(main, oldMain)) {
+        return Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {main}));
+    }
+    cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' umbenannt", {oldMain}));
+    return (WriteMain(oldMain, main) && cOwnRules(m_settings).RenameMain(oldMain, main)) || step.Revert();
+}
+
+bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)
+{
+    const cTemplateItemList items = m_data.GetTemplates();
+    for (cTemplateItem item : items) {
+        if (!modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == oldMain) {
+            item.TemplateCategory = newMain;
+            if (!m_data.ChangeTemplate(item)) {
+                return false;
+            }
+        }
+    }
+    // Entries below paths that no category has go along, else they would stay behind under the old name.
+    const QStringList paths = m_data.CountEntriesByCategory().keys();
+    return std::all_of(paths.begin(), paths.end(), [&](const QString& path) {
+        return modTemplate::MainOf(path) != oldMain
+            || m_data.ChangeEntryCategory(modTemplate::WithMain(path, newMain), path);
+    });
+}
+
+bool cTemplateFlow::RenameGroup(const QString& oldGroup, const QString& newGroup)
+{
+    const QString group = Cleaned(newGroup);
+    if (group == oldGroup) {
+        return false;
+    }
+    cUndoStep step(m_data, cText::Tr("Kontogruppe '{0}' umbenannt", {oldGroup}));
+    const cTemplateItemList accounts = m_data.GetAccounts();
+    for (cTemplateItem account : accounts) {
+        if (account.TemplateCategory == oldGroup) {
+            account.TemplateCategory = group;
+            if (!m_data.ChangeTemplate(account)) {
+                return step.Revert();
+            }
+        }
+    }
+    return true;
+}

@@ -1,0 +1,495 @@
+#include "views/template/cTemplateManager.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "core/cAmountFormat.h"
+#include "core/cSettings.h"
+#include "model/modBalance.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/template/cBankNumbers.h"
+#include "views/template/cTemplateFlow.h"
+#include "views/template/cTemplateRemoval.h"
+#include "views/template/modTemplateNodes.h"
+#include "views/template/modTemplateOrder.h"
+#include "views/template/modTemplateText.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString layoutKey = u"KategorieList"_s;
+constexpr QChar layoutSeparator = u'#'; // between the two trees
+
+QString Cleaned(const QString& name)
+{
+    return modTemplate::CleanName(name.trimmed()).trimmed();
+}
+
+// Start balance of every account in one query: the first of its entries in their category.
+QHash<QString, qint64> StartBalances(cDataAccess& data)
+{
+    QHash<QString, cEntryItem> first;
+    cEntryQuery query;
+    query.Category = modWord::Startguthaben;
+    query.Kind = eBookingKind::Single;
+    const cEntryItemList entries = data.GetEntries(query);
+    for (const cEntryItem& entry : entries) {
+        const auto known = first.constFind(entry.EntryAccount);
+        if (entry.EntryCategory == modWord::Startguthaben && (known == first.constEnd() || entry.ID < known->ID)) {
+            first.insert(entry.EntryAccount, entry);
+        }
+    }
+    QHash<QString, qint64> balances;
+    for (const cEntryItem& entry : std::as_const(first)) {
+        balances.insert(entry.EntryAccount, modBalance::Effect(entry, {}));
+    }
+    return balances;
+}
+
+} // namespace
+
+cTemplateManager::cTemplateManager(const cParts& parts, QObject* parent)
+    : QObject(parent),
+      m_parts(parts),
+      m_categories({cText::Tr("Kategorie"), cText::Tr("Buchungsart"), cText::Tr("Intervall"), cText::Tr("Monatslimit"),
+                    cText::Tr("Buchungen")},
+                   {cTemplateTreeModel::CategoryLimit, cTemplateTreeModel::CategoryEntries}),
+      m_accounts(
+          {cText::Tr("Konto"), cText::Tr("Bankkontonummern"), cText::Tr("Startguthaben"), cText::Tr("Buchungen")},
+          {cTemplateTreeModel::AccountStart, cTemplateTreeModel::AccountEntries})
+{
+    Refresh();
+}
+
+cTemplateManager::~cTemplateManager() = default;
+
+void cTemplateManager::Refresh()
+{
+    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    const auto cents = [this](qint64 value) { return m_parts.Format.Cents(value); };
+    m_categories.SetBranches(modTemplateNodes::Categories(items, m_parts.Data.CountEntriesByCategory(), cents));
+    modTemplateNodes::cAccountFacts facts{m_parts.Data.CountEntriesByAccount(), StartBalances(m_parts.Data), {}};
+    const QList<std::pair<QString, QString>> numbers = cBankNumbers(m_parts.Data, m_parts.Settings).All();
+    for (const auto& [number, account] : numbers) {
+        facts.Numbers[account].append(number);
+    }
+    m_accounts.SetBranches(modTemplateNodes::Accounts(items, facts, cents));
+}
+
+bool cTemplateManager::IsReadOnly() const
+{
+    return m_parts.Data.IsReadOnly();
+}
+
+bool cTemplateManager::Refuse(const QString& text)
+{
+    m_parts.User.Show(eTone::Exclamation, text);
+    return false;
+}
+
+bool cTemplateManager::Tell(bool isDone)
+{
+    if (isDone) {
+        Refresh();
+        Q_EMIT BookChanged();
+    }
+    return isDone;
+}
+
+bool cTemplateManager::TellAccount(bool isDone, const QString& oldName, const QString& newName)
+{
+    if (isDone && oldName != newName) {
+        Q_EMIT AccountRenamed(oldName, newName);
+    }
+    return Tell(isDone);
+}
+
+std::optional<cTemplateFields> cTemplateManager::Load(const cTemplateNode& node) const
+{
+    return cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User).Load(node, m_parts.Clock.Today());
+}
+
+std::optional<QString> cTemplateManager::Save(const cTemplateNode& node, const cTemplateFields& old,
+                                              const cTemplateFields& fields)
+{
+    const QString oldName = node.Path; // the line itself goes when the trees are built anew
+    const bool isAccount = node.Kind == eTemplateNode::Account;
+    const std::optional<QString> name =
+        cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User).Save(node, old, fields);
+    if (name && fields != old) {
+        TellAccount(true, isAccount ? oldName : QString(), isAccount ? *name : QString());
+    }
+    return name;
+}
+
+std::optional<cTemplateItem> cTemplateManager::FindCategory(const QString& path) const
+{
+    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    const auto find = [&](Qt::CaseSensitivity sensitivity) {
+        return std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
+            return !modTemplate::IsAccount(item) && modTemplate::Path(item).compare(path, sensitivity) == 0;
+        });
+    };
+    const auto exact = find(Qt::CaseSensitive);
+    const auto found = exact != items.end() ? exact : find(Qt::CaseInsensitive);
+    return found == items.end() ? std::nullopt : std::optional(*found);
+}
+
+bool cTemplateManager::HasMain(const QString& main) const
+{
+    return Mains().contains(main);
+}
+
+int cTemplateManager::LastPriority(const QString& type, const QString& group) const
+{
+    int last = 0;
+    int lastOfGroup = -1;
+    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    for (const cTemplateItem& item : items) {
+        if (item.TemplateType != type) {
+            continue;
+        }
+        last = qMax(last, modTemplate::Priority(item));
+        if (modTemplate::GroupOf(item) == group) {
+            lastOfGroup = qMax(lastOfGroup, modTemplate::Priority(item));
+        }
+    }
+    return lastOfGroup >= 0 ? lastOfGroup : last;
+}
+
+QString cTemplateManager::Add(cTemplateItem item, const QString& stepName, const QString& name)
+{
+    item.TemplatePriority = QString::number(LastPriority(item.TemplateType, modTemplate::GroupOf(item)) + 1);
+    {
+        cUndoStep step(m_parts.Data, stepName);
+        if (!m_parts.Data.AddNewTemplate(item)) {
+            (void)step.Revert();
+            return {};
+        }
+    }
+    Tell(true);
+    return name;
+}
+
+QString cTemplateManager::AddCategory(const QString& main, const QString& sub)
+{
+    cTemplateItem item;
+    item.TemplateType = modWord::Kategorie;
+    item.TemplateCategory = Cleaned(main);
+    item.TemplateName = Cleaned(sub);
+    if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
+        (void)Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
+        return {};
+    }
+    const QString path = modTemplate::Path(item);
+    if (FindCategory(path)) {
+        (void)Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {path}));
+        return {};
+    }
+    // A new category is most likely of the kind of its main category or of the category beside it.
+    const cTemplateItemList items = modTemplate::InOrder(m_parts.Data.GetTemplates());
+    const auto model = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& other) {
+        return !modTemplate::IsAccount(other) && modTemplate::GroupOf(other) == modTemplate::MainOf(path);
+    });
+    item.EntryType = model == items.end() ? modWord::Ausgabe : model->EntryType;
+    item.EntryInterval = modWord::Einmalig;
+    return Add(item, cText::Tr("Kategorie '{0}' angelegt", {path}), path);
+}
+
+QString cTemplateManager::AddAccount(const QString& name, const QString& group)
+{
+    cTemplateItem item;
+    item.TemplateType = modWord::Konto;
+    item.TemplateCategory = Cleaned(group);
+    item.TemplateName = Cleaned(name);
+    if (item.TemplateName.isEmpty()) {
+        (void)Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
+        return {};
+    }
+    if (m_parts.Data.FindAccount(item.TemplateName)) {
+        (void)Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
+        return {};
+    }
+    return Add(item, cText::Tr("Konto '{0}' angelegt", {item.TemplateName}), item.TemplateName);
+}
+
+QString cTemplateManager::AskName(const QString& text, const QString& title)
+{
+    return m_parts.User.Choose({.Text = text, .Title = title, .Items = {}, .Proposal = {}, .AllowNew = true})
+        .value_or(QString())
+        .trimmed();
+}
+
+// The name may lose characters on the way, and then the entries have to follow it.
+QString cTemplateManager::AddKnown(const QString& name, const std::function<QString()>& add, fnMoveEntries move)
+{
+    const QString known = name; // the line that it comes from goes with the next look at the book
+    cUndoStep step(m_parts.Data, cText::Tr("'{0}' angelegt", {known}));
+    const QString added = add();
+    if (!added.isEmpty() && added != known) {
+        Tell((m_parts.Data.*move)(added, known) || step.Revert());
+    }
+    return added;
+}
+
+QString cTemplateManager::AskAdd(const cTemplateNode* near)
+{
+    if (near == nullptr) {
+        return AskAddMain();
+    }
+    if (near->IsOfAccounts()) {
+        return AskAddAccount(near);
+    }
+    const QString main = modTemplate::MainOf(near->Path);
+    if (near->Kind == eTemplateNode::UnknownCategory) {
+        return AddKnown(
+            near->Path, [&] { return AddCategory(main, modTemplate::SubOf(near->Path)); },
+            &cDataAccess::ChangeEntryCategory);
+    }
+    const QString name =
+        AskName(cText::Tr("Name der neuen Unterkategorie von '{0}':", {main}), cText::Tr("Neue Kategorie"));
+    return name.isEmpty() ? QString() : AddCategory(main, name);
+}
+
+QString cTemplateManager::AskAddMain()
+{
+    const QString name = AskName(cText::Tr("Name der neuen Hauptkategorie:"), cText::Tr("Neue Kategorie"));
+    if (HasMain(Cleaned(name))) {
+        (void)Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {Cleaned(name)}));
+        return {};
+    }
+    return name.isEmpty() ? QString() : AddCategory(name, {});
+}
+
+QString cTemplateManager::AskAddAccount(const cTemplateNode* near)
+{
+    if (near != nullptr && near->Kind == eTemplateNode::UnknownAccount) {
+        return AddKnown(
+            near->Path, [&] { return AddAccount(near->Path, {}); }, &cDataAccess::MoveEntriesToAccount);
+    }
+    QString group = near != nullptr && near->Kind == eTemplateNode::Group ? near->Path : Groups().value(0);
+    if (near != nullptr && near->Kind == eTemplateNode::Account) {
+        const std::optional<cTemplateItem> account = m_parts.Data.FindAccount(near->Path);
+        group = account ? account->TemplateCategory : group;
+    }
+    const QString name = AskName(cText::Tr("Name des neuen Kontos:"), cText::Tr("Neues Konto"));
+    return name.isEmpty() ? QString() : AddAccount(name, group);
+}
+
+bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& newPath)
+{
+    cTemplateFlow flow(m_parts.Data, m_parts.Settings, m_parts.User);
+    const QString sub = modTemplate::SubOf(newPath);
+    if (HasMain(oldPath) && sub.isEmpty()) {
+        return Tell(flow.RenameMain(oldPath, newPath));
+    }
+    const std::optional<cTemplateItem> category = FindCategory(oldPath);
+    if (!category) {
+        return Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {oldPath}));
+    }
+    return Tell(flow.RenameCategory(*category, modTemplate::MainOf(newPath), sub));
+}
+
+bool cTemplateManager::RenameAccount(const QString& oldName, const QString& newName)
+{
+    if (!m_parts.Data.FindAccount(oldName)) {
+        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {oldName}));
+    }
+    const bool isDone = cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).RenameAccount(oldName, newName);
+    return TellAccount(isDone, oldName, Cleaned(newName));
+}
+
+bool cTemplateManager::DeleteCategory(const QString& path)
+{
+    cTemplateRemoval removal(m_parts.Data, m_parts.Settings, m_parts.User);
+    if (HasMain(path)) {
+        return Tell(removal.DeleteMain(path));
+    }
+    const std::optional<cTemplateItem> category = FindCategory(path);
+    if (!category) {
+        return Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {path}));
+    }
+    return Tell(removal.DeleteCategory(*category));
+}
+
+bool cTemplateManager::DeleteAccount(const QString& name)
+{
+    if (!m_parts.Data.FindAccount(name)) {
+        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {name}));
+    }
+    return TellAccount(cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).DeleteAccount(name), name, {});
+}
+
+bool cTemplateManager::MergeCategory(const QString& sourcePath, const QString& targetPath)
+{
+    cTemplateRemoval removal(m_parts.Data, m_parts.Settings, m_parts.User);
+    const bool areMains = HasMain(sourcePath) && HasMain(targetPath);
+    return Tell(areMains ? removal.MergeMain(sourcePath, targetPath) : removal.MergeCategory(sourcePath, targetPath));
+}
+
+bool cTemplateManager::MergeAccount(const QString& source, const QString& target)
+{
+    const bool isDone = cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).MergeAccount(source, target);
+    return TellAccount(isDone, source, target);
+}
+
+bool cTemplateManager::CanDelete(const cTemplateNode& node) const
+{
+    return !IsReadOnly() && !node.IsUnknown() && node.Kind != eTemplateNode::Group;
+}
+
+bool cTemplateManager::CanMerge(const cTemplateNode& node) const
+{
+    return !IsReadOnly() && node.Kind != eTemplateNode::Group;
+}
+
+bool cTemplateManager::CanMove(const cTemplateNode& node) const
+{
+    return !IsReadOnly() && !node.IsUnknown();
+}
+
+bool cTemplateManager::Delete(const cTemplateNode& node)
+{
+    if (!CanDelete(node)) {
+        return false;
+    }
+    if (node.Kind == eTemplateNode::Account) {
+        return DeleteAccount(QString(node.Path));
+    }
+    if (node.Kind == eTemplateNode::Main) {
+        return DeleteCategory(QString(node.Path));
+    }
+    const std::optional<cTemplateItem> category = m_parts.Data.FindTemplate(node.Id);
+    return category && Tell(cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).DeleteCategory(*category));
+}
+
+bool cTemplateManager::AskMerge(const cTemplateNode& node)
+{
+    if (!CanMerge(node)) {
+        return false;
+    }
+    cTemplateRemoval removal(m_parts.Data, m_parts.Settings, m_parts.User);
+    const QString source = node.Path;
+    if (node.IsOfAccounts()) {
+        const QString target = removal.AskMergeAccount(source);
+        return TellAccount(!target.isEmpty(), source, target);
+    }
+    const bool isMain =
+        node.Kind == eTemplateNode::Main && modTemplateOrder::HasSubs(m_parts.Data.GetTemplates(), source);
+    return Tell(isMain ? removal.AskMergeMain(source) : removal.AskMergeCategory(source));
+}
+
+QString cTemplateManager::AskRenameGroup(const cTemplateNode& node)
+{
+    const QString oldGroup = node.Path;
+    const std::optional<QString> name =
+        m_parts.User.Choose({.Text = cText::Tr("Neuer Name für die Kontogruppe '{0}':", {Title(node)}),
+                             .Title = cText::Tr("Kontogruppe umbenennen"),
+                             .Items = {},
+                             .Proposal = oldGroup,
+                             .AllowNew = true});
+    const bool isDone =
+        name && cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).RenameGroup(oldGroup, *name);
+    return Tell(isDone) ? Cleaned(*name) : QString();
+}
+
+bool cTemplateManager::Move(const cTemplateNode& node, eDirection direction)
+{
+    if (!CanMove(node)) {
+        return false;
+    }
+    const QString& type = node.IsOfAccounts() ? modWord::Konto : modWord::Kategorie;
+    const cTemplateItemList before = modTemplateOrder::OfType(m_parts.Data.GetTemplates(), type);
+    const auto way = direction == eDirection::Up ? modTemplateOrder::eWay::Up : modTemplateOrder::eWay::Down;
+    const bool isGroup = node.Kind == eTemplateNode::Main || node.Kind == eTemplateNode::Group;
+    const cTemplateItemList after = isGroup ? modTemplateOrder::MoveGroup(before, node.Path, way)
+                                            : modTemplateOrder::MoveItem(before, node.Id, way);
+    return after != before && Tell(WriteOrder(before, after));
+}
+
+bool cTemplateManager::WriteOrder(const cTemplateItemList& before, const cTemplateItemList& after)
+{
+    const cTemplateItemList changed = modTemplateOrder::Renumbered(before, after);
+    cUndoStep step(m_parts.Data, cText::Tr("Reihenfolge geändert"));
+    const bool isWritten = std::all_of(changed.begin(), changed.end(),
+                                       [this](const cTemplateItem& item) { return m_parts.Data.ChangeTemplate(item); });
+    return isWritten || step.Revert();
+}
+
+QStringList cTemplateManager::Mains() const
+{
+    return modTemplateOrder::Groups(modTemplateOrder::OfType(m_parts.Data.GetTemplates(), modWord::Kategorie));
+}
+
+QStringList cTemplateManager::Groups() const
+{
+    return modTemplateOrder::Groups(modTemplateOrder::OfType(m_parts.Data.GetTemplates(), modWord::Konto));
+}
+
+bool cTemplateManager::IsNameFixed(const cTemplateNode& node) const
+{
+    return node.Kind == eTemplateNode::Category && modTemplateText::IsProtected(node.Path);
+}
+
+QString cTemplateManager::Title(const cTemplateNode& node) const
+{
+    return node.Kind == eTemplateNode::Group && node.Path.isEmpty() ? cText::Tr("Konten")
+                                                                    : modTemplateText::ShownPath(node.Path);
+}
+
+QString cTemplateManager::MainHint(const cTemplateNode& node) const
+{
+    const QString all = modTemplateText::Entries(node.Entries);
+    return node.Entries == node.OwnEntries
+        ? all
+        : cText::Tr("{0}, davon {1} ohne Unterkategorie", {all, QString::number(node.OwnEntries)});
+}
+
+QString cTemplateManager::Hint(const cTemplateNode& node) const
+{
+    const QString entries = modTemplateText::Entries(node.Entries);
+    switch (node.Kind) {
+    case eTemplateNode::Main: return MainHint(node);
+    case eTemplateNode::Group: return cText::Tr("Kontogruppe mit {0}.", {entries});
+    case eTemplateNode::UnknownCategory:
+        return cText::Tr("Diese Kategorie ist nicht angelegt, aber {0} stehen unter diesem Namen.\nSie können die "
+                         "Kategorie anlegen oder die Buchungen in eine andere verschieben.",
+                         {entries});
+    case eTemplateNode::UnknownAccount:
+        return cText::Tr("Dieses Konto ist nicht angelegt, aber {0} stehen unter diesem Namen.\nSie können das Konto "
+                         "anlegen oder die Buchungen in ein anderes verschieben.",
+                         {entries});
+    case eTemplateNode::Category: return IsNameFixed(node) ? modTemplateText::ProtectedHint() : entries;
+    case eTemplateNode::Account: return entries;
+    }
+    return {};
+}
+
+QString cTemplateManager::NumbersHint() const
+{
+    const QStringList numbers = cBankNumbers(m_parts.Data, m_parts.Settings).Unassigned();
+    return numbers.isEmpty() ? QString() : cText::Tr("Noch ohne Konto: {0}", {numbers.join(u", "_s)});
+}
+
+cTreeLayout cTemplateManager::CategoryLayout() const
+{
+    return cTreeLayout::FromText(m_parts.Settings.Get(layoutKey).section(layoutSeparator, 0, 0));
+}
+
+cTreeLayout cTemplateManager::AccountLayout() const
+{
+    return cTreeLayout::FromText(m_parts.Settings.Get(layoutKey).section(layoutSeparator, 1, 1));
+}
+
+void cTemplateManager::SaveLayout(const cTreeLayout& categories, const cTreeLayout& accounts)
+{
+    const QString text = categories.ToText() + layoutSeparator + accounts.ToText();
+    if (text != m_parts.Settings.Get(layoutKey)) {
+        m_parts.Settings.Set(layoutKey, text);
+    }
+}

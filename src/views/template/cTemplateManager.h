@@ -1,0 +1,117 @@
+#pragma once
+
+#include "model/cTemplateItem.h"
+#include "views/list/cTreeLayout.h"
+#include "views/template/cTemplateTreeModel.h"
+#include "views/template/cTemplateWriter.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+class cAmountFormat;
+class cClock;
+class cDataAccess;
+class cSettings;
+class cUser;
+
+// Management of categories and accounts without its window: the two trees, the fields of one line, and every action.
+// What is refused is said through the user; a false or empty result means that nothing was changed. Each action is one
+// step that can be taken back.
+class cTemplateManager final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What the manager works with; all of it outlives the manager.
+    struct cParts
+    {
+        cDataAccess& Data;
+        cSettings& Settings;
+        const cAmountFormat& Format;
+        cUser& User;
+        const cClock& Clock;
+    };
+
+    enum class eDirection { Up, Down };
+
+    explicit cTemplateManager(const cParts& parts, QObject* parent = nullptr);
+    ~cTemplateManager() override;
+
+    [[nodiscard]] cTemplateTreeModel& Categories() { return m_categories; }
+    [[nodiscard]] cTemplateTreeModel& Accounts() { return m_accounts; }
+    void Refresh(); // reads the book again
+    [[nodiscard]] bool IsReadOnly() const;
+
+    // See cTemplateWriter.
+    [[nodiscard]] std::optional<cTemplateFields> Load(const cTemplateNode& node) const;
+    [[nodiscard]] std::optional<QString> Save(const cTemplateNode& node, const cTemplateFields& old,
+                                              const cTemplateFields& fields);
+
+    // Adds a definition with these names. Its path or name; empty when refused.
+    QString AddCategory(const QString& main, const QString& sub);
+    QString AddAccount(const QString& name, const QString& group);
+    // The same after a question for the name. `near` is the selected line or null: the new one comes below the same
+    // main category or group. What only entries know is added under its own name, without a question.
+    QString AskAdd(const cTemplateNode* near);
+    QString AskAddMain();
+    QString AskAddAccount(const cTemplateNode* near);
+
+    // By path or name, as the command line has them. A main category goes with its sub-categories.
+    bool RenameCategory(const QString& oldPath, const QString& newPath);
+    bool RenameAccount(const QString& oldName, const QString& newName);
+    bool DeleteCategory(const QString& path);
+    bool DeleteAccount(const QString& name);
+    bool MergeCategory(const QString& sourcePath, const QString& targetPath);
+    bool MergeAccount(const QString& source, const QString& target);
+
+    // By line, as the window has them.
+    bool Delete(const cTemplateNode& node);
+    bool AskMerge(const cTemplateNode& node);
+    QString AskRenameGroup(const cTemplateNode& node);          // the group's new name; empty when refused
+    bool Move(const cTemplateNode& node, eDirection direction); // one place among its siblings
+
+    [[nodiscard]] bool CanDelete(const cTemplateNode& node) const;
+    [[nodiscard]] bool CanMerge(const cTemplateNode& node) const;
+    [[nodiscard]] bool CanMove(const cTemplateNode& node) const;
+
+    // What the form offers, and what it says above its fields.
+    [[nodiscard]] QStringList Mains() const;
+    [[nodiscard]] QStringList Groups() const;
+    [[nodiscard]] bool IsNameFixed(const cTemplateNode& node) const; // it can be neither renamed nor removed
+    [[nodiscard]] QString Title(const cTemplateNode& node) const;
+    [[nodiscard]] QString Hint(const cTemplateNode& node) const;
+    [[nodiscard]] QString NumbersHint() const; // bank numbers that no account has yet; empty for none
+
+    // Columns and open branches of both trees.
+    [[nodiscard]] cTreeLayout CategoryLayout() const;
+    [[nodiscard]] cTreeLayout AccountLayout() const;
+    void SaveLayout(const cTreeLayout& categories, const cTreeLayout& accounts);
+
+Q_SIGNALS:
+    void BookChanged();
+    // An account is now called `newName`, or its entries have gone to that one; empty when it was deleted.
+    void AccountRenamed(const QString& oldName, const QString& newName);
+
+private:
+    using fnMoveEntries = bool (cDataAccess::*)(const QString& newName, const QString& oldName);
+
+    [[nodiscard]] QString AddKnown(const QString& name, const std::function<QString()>& add, fnMoveEntries move);
+    [[nodiscard]] QString AskName(const QString& text, const QString& title);
+    [[nodiscard]] std::optional<cTemplateItem> FindCategory(const QString& path) const;
+    [[nodiscard]] bool HasMain(const QString& main) const;
+    [[nodiscard]] QString Add(cTemplateItem item, const QString& stepName, const QString& name);
+    [[nodiscard]] int LastPriority(const QString& type, const QString& group) const;
+    [[nodiscard]] bool WriteOrder(const cTemplateItemList& before, const cTemplateItemList& after);
+    [[nodiscard]] QString MainHint(const cTemplateNode& node) const;
+    bool TellAccount(bool isDone, const QString& oldName, const QString& newName);
+    bool Tell(bool isDone); // reads the book again and says so when something was changed
+    bool Refuse(const QString& text);
+
+    cParts m_parts;
+    cTemplateTreeModel m_categories;
+    cTemplateTreeModel m_accounts;
+};

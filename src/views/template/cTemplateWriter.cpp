@@ -1,0 +1,371 @@
+#include "views/template/cTemplateWriter.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modAmount.h"
+#include "base/modSum.h"
+#include "core/cSettings.h"
+#include "model/modBalance.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/chart/modForecast.h"
+#include "views/template/cBankNumbers.h"
+#include "views/template/cTemplateFlow.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Cleaned(const QString& name)
+{
+    return modTemplate::CleanName(name.trimmed()).trimmed();
+}
+
+QString StoredVisible(bool isVisible)
+{
+    return isVisible ? u"1"_s : u"0"_s;
+}
+
+// The limit as it is stored. An amount that reads the same keeps its form.
+QString StoredLimit(const cTemplateItem& item, const QString& text)
+{
+    const qint64 cents = std::abs(modSum::Evaluate(text).value_or(0));
+    if (cents == modTemplate::DefaultValueCents(item)) {
+        return item.TemplateDefaultValue;
+    }
+    return cents == 0 ? QString() : modAmount::CentsToText(cents);
+}
+
+// The limit of an account may be zero or below: what counts is whether there is one.
+QString StoredAccountLimit(const cTemplateItem& item, const QString& text)
+{
+    const std::optional<qint64> cents = modSum::Evaluate(text);
+    if (cents == modForecast::Limit(item)) {
+        return item.TemplateDefaultValue;
+    }
+    return cents ? modAmount::CentsToText(*cents) : QString();
+}
+
+QString ShownAccountLimit(const cTemplateItem& item)
+{
+    const std::optional<qint64> cents = modForecast::Limit(item);
+    return cents ? modSum::ToText(*cents) : QString();
+}
+
+QString ShownLimit(const cTemplateItem& item)
+{
+    const qint64 cents = modTemplate::DefaultValueCents(item);
+    return cents == 0 ? QString() : modSum::ToText(cents);
+}
+
+// What a category brings into a new entry.
+void TakeDefaults(cTemplateItem& item, const cTemplateFields& fields)
+{
+    item.EntryType = fields.Type;
+    item.EntryInterval = fields.Interval;
+    item.TemplateDefaultValue = StoredLimit(item, fields.Amount);
+    item.TemplateComment = fields.Comment.trimmed();
+}
+
+cTemplateFields DefaultsOf(const cTemplateItem& item)
+{
+    cTemplateFields fields;
+    fields.Type = item.EntryType;
+    fields.Interval = item.EntryInterval;
+    fields.Amount = ShownLimit(item);
+    fields.Comment = item.TemplateComment;
+    fields.IsVisible = modTemplate::IsVisible(item);
+    return fields;
+}
+
+bool IsBelow(const cTemplateItem& item, const QString& main)
+{
+    return !modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == main;
+}
+
+} // namespace
+
+bool cTemplateWriter::Refuse(const QString& text)
+{
+    m_user.Show(eTone::Exclamation, text);
+    return false;
+}
+
+bool cTemplateWriter::Step(const QString& name, const fnWrite& write)
+{
+    cUndoStep step(m_data, name);
+    if (write()) {
+        return true;
+    }
+    (void)step.Revert();
+    m_settings.Reload();
+    return false;
+}
+
+std::optional<cTemplateFields> cTemplateWriter::Load(const cTemplateNode& node, QDate today) const
+{
+    if (node.Kind == eTemplateNode::Main) {
+        return LoadMain(node.Path);
+    }
+    const std::optional<cTemplateItem> item = node.Id > 0 ? m_data.FindTemplate(node.Id) : std::nullopt;
+    if (!item) {
+        return std::nullopt;
+    }
+    if (node.Kind == eTemplateNode::Account) {
+        return LoadAccount(*item, today);
+    }
+    cTemplateFields fields = DefaultsOf(*item);
+    fields.Group = modTemplate::GroupOf(*item);
+    fields.Name = modTemplate::SubOf(modTemplate::Path(*item));
+    return fields;
+}
+
+cTemplateFields cTemplateWriter::LoadMain(const QString& main) const
+{
+    cTemplateFields fields;
+    bool isAnyVisible = false;
+    const cTemplateItemList items = m_data.GetTemplates();
+    for (const cTemplateItem& item : items) {
+        if (!IsBelow(item, main)) {
+            continue;
+        }
+        isAnyVisible = isAnyVisible || modTemplate::IsVisible(item);
+        if (!fields.IsBookable && modTemplate::Path(item) == main) {
+            fields = DefaultsOf(item);
+            fields.IsBookable = true;
+        }
+    }
+    fields.Name = main;
+    fields.IsVisible = isAnyVisible;
+    return fields;
+}
+
+cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate today) const
+{
+    const std::optional<cEntryItem> start = m_data.GetStartGuthaben(item.TemplateName);
+    cTemplateFields fields;
+    fields.Name = item.TemplateName;
+    fields.Group = item.TemplateCategory;
+    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {})) : QString();
+    fields.Limit = ShownAccountLimit(item);
+    fields.Date = start && start->EntryDate.isValid() ? start->EntryDate : today;
+    fields.Numbers = cBankNumbers(m_data, m_settings).Of(item.TemplateName).join(u'\n');
+    fields.Comment = item.TemplateComment;
+    fields.IsVisible = modTemplate::IsVisible(item);
+    return fields;
+}
+
+bool cTemplateWriter::IsAmount(const QString& text)
+{
+    return text.trimmed().isEmpty() || modSum::Evaluate(text)
+        || Refuse(cText::Tr("'{0}' ist kein Betrag.", {text.trimmed()}));
+}
+
+std::optional<QString> cTemplateWriter::Save(const cTemplateNode& node, const cTemplateFields& old,
+                                             const cTemplateFields& fields)
+{
+    if (fields == old) {
+        return node.Path;
+    }
+    if (!IsAmount(fields.Amount) || !IsAmount(fields.Limit)) {
+        return std::nullopt;
+    }
+    if (node.Kind == eTemplateNode::Main) {
+        return SaveMain(node, old, fields);
+    }
+    const std::optional<cTemplateItem> item = node.Id > 0 ? m_data.FindTemplate(node.Id) : std::nullopt;
+    if (!item) {
+        return std::nullopt;
+    }
+    return node.Kind == eTemplateNode::Account ? SaveAccount(*item, old, fields) : SaveCategory(*item, fields);
+}
+
+std::optional<QString> cTemplateWriter::SaveCategory(const cTemplateItem& item, const cTemplateFields& fields)
+{
+    const QString path = modTemplate::Path(item);
+    cTemplateItem wanted = item;
+    wanted.TemplateCategory = Cleaned(fields.Group);
+    wanted.TemplateName = Cleaned(fields.Name);
+    const bool isRenamed = modTemplate::Path(wanted) != path;
+    const QString name =
+        isRenamed ? cText::Tr("Kategorie '{0}' umbenannt", {path}) : cText::Tr("Kategorie '{0}' geändert", {path});
+    const bool isDone = Step(name, [&] {
+        const bool isNamed =
+            !isRenamed || cTemplateFlow(m_data, m_settings, m_user).RenameCategory(item, fields.Group, fields.Name);
+        return isNamed && WriteCategory(item, fields);
+    });
+    const std::optional<cTemplateItem> now = isDone ? m_data.FindTemplate(item.ID) : std::nullopt;
+    return now ? std::optional(modTemplate::Path(*now)) : std::nullopt;
+}
+
+bool cTemplateWriter::WriteCategory(const cTemplateItem& item, const cTemplateFields& fields)
+{
+    const std::optional<cTemplateItem> stored = m_data.FindTemplate(item.ID);
+    if (!stored) {
+        return false;
+    }
+    cTemplateItem changed = *stored;
+    TakeDefaults(changed, fields);
+    if (fields.IsVisible != modTemplate::IsVisible(changed)) {
+        changed.TemplateVisible = StoredVisible(fields.IsVisible);
+    }
+    return changed == *stored || m_data.ChangeTemplate(changed);
+}
+
+bool cTemplateWriter::CanSaveMain(const QString& main, const cTemplateFields& fields)
+{
+    const cTemplateItemList items = m_data.GetTemplates();
+    const bool hasSubs = std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
+        return IsBelow(item, main) && modTemplate::Path(item) != main;
+    });
+    return hasSubs || fields.IsBookable
+        || Refuse(cText::Tr("Eine Hauptkategorie ohne Unterkategorien muss direkt bebuchbar sein."));
+}
+
+std::optional<QString> cTemplateWriter::SaveMain(const cTemplateNode& node, const cTemplateFields& old,
+                                                 const cTemplateFields& fields)
+{
+    if (!CanSaveMain(node.Path, fields)) {
+        return std::nullopt;
+    }
+    const QString main = Cleaned(fields.Name);
+    const QString name = main == node.Path ? cText::Tr("Hauptkategorie '{0}' geändert", {node.Path})
+                                           : cText::Tr("Hauptkategorie '{0}' umbenannt", {node.Path});
+    const bool isDone = Step(name, [&] {
+        const bool isNamed = main == node.Path || cTemplateFlow(m_data, m_settings, m_user).RenameMain(node.Path, main);
+        return isNamed && WriteMain(node, main, old, fields);
+    });
+    return isDone ? std::optional(main) : std::nullopt;
+}
+
+bool cTemplateWriter::WriteMain(const cTemplateNode& node, const QString& main, const cTemplateFields& old,
+                                const cTemplateFields& fields)
+{
+    return WriteOwn(node, main, fields) && (fields.IsVisible == old.IsVisible || WriteVisible(main, fields.IsVisible));
+}
+
+// The definition of the main category itself comes and goes with its being bookable.
+bool cTemplateWriter::WriteOwn(const cTemplateNode& node, const QString& main, const cTemplateFields& fields)
+{
+    const std::optional<cTemplateItem> own = node.Id > 0 ? m_data.FindTemplate(node.Id) : std::nullopt;
+    if (!fields.IsBookable) {
+        return !own || m_data.DeleteTemplate(own->ID);
+    }
+    cTemplateItem item = own.value_or(cTemplateItem{});
+    TakeDefaults(item, fields);
+    if (own) {
+        return item == *own || m_data.ChangeTemplate(item);
+    }
+    // It takes the position of its first sub-category, so that the main category stays where it is.
+    const cTemplateItemList items = modTemplate::InOrder(m_data.GetTemplates());
+    const auto first =
+        std::find_if(items.begin(), items.end(), [&](const cTemplateItem& sub) { return IsBelow(sub, main); });
+    item.TemplateType = modWord::Kategorie;
+    item.TemplateCategory = main;
+    item.TemplatePriority = first == items.end() ? item.TemplatePriority : first->TemplatePriority;
+    return m_data.AddNewTemplate(item);
+}
+
+bool cTemplateWriter::WriteVisible(const QString& main, bool isVisible)
+{
+    const cTemplateItemList items = m_data.GetTemplates();
+    return std::all_of(items.begin(), items.end(), [&](cTemplateItem item) {
+        if (!IsBelow(item, main) || modTemplate::IsVisible(item) == isVisible) {
+            return true;
+        }
+        item.TemplateVisible = StoredVisible(isVisible);
+        return m_data.ChangeTemplate(item);
+    });
+}
+
+bool cTemplateWriter::StaysOpen(const cTemplateItem& account, const cTemplateFields& fields)
+{
+    const cTemplateItemList accounts = m_data.GetAccounts();
+    const bool isOtherOpen = std::any_of(accounts.begin(), accounts.end(), [&](const cTemplateItem& other) {
+        return other.ID != account.ID && modTemplate::IsVisible(other);
+    });
+    return fields.IsVisible || isOtherOpen
+        || Refuse(cText::Tr("Das letzte offene Konto kann nicht geschlossen werden: Jede Buchung braucht ein Konto."));
+}
+
+bool cTemplateWriter::ConfirmNumbers(const QString& account, const QString& text)
+{
+    const cBankNumbers bank(m_data, m_settings);
+    const QStringList numbers = cBankNumbers::Read(text);
+    return std::all_of(numbers.begin(), numbers.end(), [&](const QString& number) {
+        const QString owner = bank.AccountOf(number);
+        if (owner.isEmpty() || owner == account || !m_data.FindAccount(owner)) {
+            return true;
+        }
+        const eAnswer answer =
+            m_user.Ask({.Text = cText::Tr("Die Kontonummer {0} gehört bisher zum Konto '{1}'.\nSoll sie künftig zu "
+                                          "'{2}' gehören?",
+                                          {number, owner, account}),
+                        .Title = cText::Tr("Konto zuordnen")});
+        return answer == eAnswer::Yes;
+    });
+}
+
+std::optional<QString> cTemplateWriter::SaveAccount(const cTemplateItem& item, const cTemplateFields& old,
+                                                    const cTemplateFields& fields)
+{
+    const QString name = Cleaned(fields.Name);
+    if (!StaysOpen(item, fields) || !ConfirmNumbers(item.TemplateName, fields.Numbers)) {
+        return std::nullopt;
+    }
+    const bool isRenamed = name != item.TemplateName;
+    const QString step = isRenamed ? cText::Tr("Konto '{0}' umbenannt", {item.TemplateName})
+                                   : cText::Tr("Konto '{0}' geändert", {item.TemplateName});
+    const bool isDone = Step(step, [&] {
+        const bool isNamed =
+            !isRenamed || cTemplateFlow(m_data, m_settings, m_user).RenameAccount(item.TemplateName, name);
+        return isNamed && WriteAccount(item, name, old, fields);
+    });
+    return isDone ? std::optional(name) : std::nullopt;
+}
+
+bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const QString& name, const cTemplateFields& old,
+                                   const cTemplateFields& fields)
+{
+    const std::optional<cTemplateItem> stored = m_data.FindTemplate(item.ID);
+    if (!stored) {
+        return false;
+    }
+    cTemplateItem changed = *stored;
+    changed.TemplateCategory = Cleaned(fields.Group);
+    changed.TemplateComment = fields.Comment.trimmed();
+    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit);
+    if (fields.IsVisible != modTemplate::IsVisible(changed)) {
+        changed.TemplateVisible = StoredVisible(fields.IsVisible);
+    }
+    const bool isSameStart = fields.Amount == old.Amount && fields.Date == old.Date;
+    return (changed == *stored || m_data.ChangeTemplate(changed)) && (isSameStart || WriteStartBalance(name, fields))
+        && (fields.Numbers == old.Numbers || WriteNumbers(name, fields.Numbers));
+}
+
+bool cTemplateWriter::WriteStartBalance(const QString& account, const cTemplateFields& fields)
+{
+    if (!fields.Amount.trimmed().isEmpty()) {
+        return m_data.SetStartGuthaben(account, modSum::Evaluate(fields.Amount).value_or(0), fields.Date);
+    }
+    const std::optional<cEntryItem> start = m_data.GetStartGuthaben(account);
+    return !start || m_data.DeleteEntry(start->ID);
+}
+
+bool cTemplateWriter::WriteNumbers(const QString& account, const QString& text)
+{
+    cBankNumbers bank(m_data, m_settings);
+    const QStringList wanted = cBankNumbers::Read(text);
+    const QStringList stored = bank.Of(account);
+    return std::all_of(stored.begin(), stored.end(),
+                       [&](const QString& number) {
+                           return wanted.contains(number, Qt::CaseInsensitive) || bank.Release(number);
+                       })
+        && std::all_of(wanted.begin(), wanted.end(), [&](const QString& number) {
+               return bank.AccountOf(number) == account || bank.Assign(number, account);
+           });
+}

@@ -1,0 +1,30 @@
+#include "views/template/modTemplateText.h"
+
+#include "base/cText.h"
+#include "model/modWord.h"
+
+QString modTemplateText::Entries(int count)
+{
+    return count == 1 ? cText::Tr("1 Buchung") : cText::Tr("{0} Buchungen", {QString::number(count)});
+}
+
+QString modTemplateText::ShownPath(const QString& path)
+{
+    if (path.isEmpty()) {
+        return cText::Tr("(leere Kategorie)");
+    }
+    return path == QStringLiteral("Keine Angabe") ? cText::Tr("Keine Angabe") : path;
+}
+
+bool modTemplateText::IsProtected(const QString& path)
+{
+    return path.compare(modWord::Startguthaben, Qt::CaseInsensitive) == 0;
+}
+
+QString modTemplateText::ProtectedHint()
+{
+    return cText::Tr(
+        "An der Kategorie '{0}' erkennt das Programm die Startguthaben der Konten.\nSie kann deshalb weder "
+        "umbenannt noch gelöscht werden.",
+        {modWord::Startguthaben});
+}

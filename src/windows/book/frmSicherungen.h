@@ -1,0 +1,27 @@
+#pragma once
+
+#include "views/book/cBackupSettings.h"
+
+#include <QDialog>
+
+class QFormLayout;
+class QLineEdit;
+class QSpinBox;
+
+// Number and folder of the automatic backups, and those that are there.
+class frmSicherungen final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmSicherungen(cBackupSettings& settings, QWidget* parent = nullptr);
+
+private:
+    void BuildFields(QFormLayout& form);
+    void ChooseFolder();
+    void Save();
+
+    cBackupSettings& m_settings;
+    QSpinBox* m_count;
+    QLineEdit* m_folder;
+};

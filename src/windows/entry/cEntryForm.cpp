@@ -1,0 +1,338 @@
+#include "windows/entry/cEntryForm.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "model/modWord.h"
+#include "windows/entry/cSplitPage.h"
+#include "windows/entry/cSplitTable.h"
+#include "windows/widget/cAmountEdit.h"
+#include "windows/widget/cCategoryBox.h"
+#include "windows/widget/cDayEdit.h"
+#include "windows/widget/cPickList.h"
+#include "windows/widget/modBadField.h"
+#include "windows/widget/modChoice.h"
+#include "windows/widget/modIcon.h"
+#include "windows/widget/modProposal.h"
+#include "windows/widget/modTone.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void ShowDay(cDayEdit& edit, QDate day, const QString& typed)
+{
+    edit.setText(typed.isEmpty() ? modDate::ToGerman(day) : typed);
+}
+
+} // namespace
+
+cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget* parent)
+    : QWidget(parent),
+      m_editor(editor),
+      m_fields(fields),
+      m_form(new QFormLayout),
+      m_startText(new QLabel(this)),
+      m_amountRow(new QWidget(this)),
+      txtBetrag(new cAmountEdit(m_amountRow)),
+      cboKategorie(new cCategoryBox(editor.Suggestions(), this)),
+      txtBeschreibung(new QLineEdit(this)),
+      EntryDate(new cDayEdit(editor.Today(), this)),
+      cboKonto(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboBuchungsart(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboNachKonto(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboInterval(modChoice::Make(this, modWord::Intervals().ToShown(modWord::Einmalig))),
+      m_seriesRow(new QWidget(this)),
+      EntryDateCheck(new QCheckBox(cText::Tr("endet a&m"), m_seriesRow)),
+      EntryDateEnd(new cDayEdit(editor.Today(), m_seriesRow)),
+      m_preview(new QLabel(this)),
+      m_split(new cSplitPage(
+          editor, [this] { return Read(); }, this))
+{
+    Build();
+    OrderTabs();
+    Offer();
+    Connect();
+    Show(fields);
+}
+
+void cEntryForm::AddRow(const QString& text, QWidget* field)
+{
+    auto* label = new QLabel(text, this);
+    label->setBuddy(field->focusProxy() != nullptr ? field->focusProxy() : field);
+    m_form->addRow(label, field);
+}
+
+// A field that is no wider than what it holds.
+void cEntryForm::AddShortRow(const QString& text, QWidget* field)
+{
+    field->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    AddRow(text, field);
+}
+
+void cEntryForm::Build()
+{
+    BuildAmount();
+    BuildSeries();
+    m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    const bool isStart = m_fields.Face == eEntryFace::StartBalance;
+    if (isStart) {
+        AddRow(cText::Tr("K&onto:"), cboKonto); // it says which balance the rest is about
+    }
+    AddShortRow(u'&' + m_editor.AmountLabel(), m_amountRow);
+    AddRow(cText::Tr("&Kategorie:"), cboKategorie);
+    AddRow(cText::Tr("B&eschreibung:"), txtBeschreibung);
+    AddShortRow(cText::Tr("&Datum:"), EntryDate);
+    if (!isStart) {
+        AddRow(cText::Tr("K&onto:"), cboKonto);
+    }
+    AddRow(cText::Tr("Buchungs&art:"), cboBuchungsart);
+    AddRow(cText::Tr("&Nach Konto:"), cboNachKonto);
+    AddRow(cText::Tr("&Intervall:"), cboInterval);
+    m_form->addRow(QString(), m_seriesRow);
+    m_form->addRow(QString(), m_preview);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, layout->spacing(), 0, 0); // in line with the buttons below
+    layout->addWidget(m_startText);
+    layout->addLayout(m_form);
+    layout->addWidget(m_split, 1);
+    layout->addStretch(0);
+    m_startText->setWordWrap(true);
+    txtBeschreibung->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+}
+
+void cEntryForm::BuildAmount()
+{
+    auto* calculator = new QToolButton(m_amountRow);
+    calculator->setIcon(modIcon::Get(u"rechner"_s));
+    calculator->setToolTip(cText::Tr("Taschenrechner starten (Strg+R)"));
+    calculator->setAccessibleName(cText::Tr("Taschenrechner"));
+    calculator->setFocusPolicy(Qt::NoFocus); // the way from the amount to the category stays short
+    calculator->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    connect(calculator, &QToolButton::clicked, this, &cEntryForm::CalculatorRequested);
+    auto* row = new QHBoxLayout(m_amountRow);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(txtBetrag);
+    row->addWidget(calculator);
+    txtBetrag->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
+    txtBetrag->setAccessibleName(m_editor.AmountLabel());
+    txtBetrag->setToolTip(cText::Tr("Auch eine Rechnung, etwa 12,50+3,99*2"));
+    m_amountRow->setFocusProxy(txtBetrag);
+}
+
+void cEntryForm::BuildSeries()
+{
+    auto* row = new QHBoxLayout(m_seriesRow);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(EntryDateCheck);
+    row->addWidget(EntryDateEnd);
+    row->addStretch(1);
+    EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
+    m_preview->setObjectName(u"lblVorschau"_s);
+    QPalette colors = m_preview->palette();
+    colors.setColor(QPalette::WindowText, modTone::Quiet(colors));
+    m_preview->setPalette(colors);
+}
+
+void cEntryForm::OrderTabs()
+{
+    const QList<std::pair<QWidget*, QString>> named{
+        {txtBetrag, u"txtBetrag"_s},       {cboKategorie, u"cboKategorie"_s}, {txtBeschreibung, u"txtBeschreibung"_s},
+        {EntryDate, u"EntryDate"_s},       {cboKonto, u"cboKonto"_s},         {cboBuchungsart, u"cboBuchungsart"_s},
+        {cboNachKonto, u"cboNachKonto"_s}, {cboInterval, u"cboInterval"_s},   {EntryDateCheck, u"EntryDateCheck"_s},
+        {EntryDateEnd, u"EntryDateEnd"_s}};
+    for (qsizetype i = 0; i < named.size(); ++i) {
+        named.at(i).first->setObjectName(named.at(i).second);
+        if (i > 0) {
+            setTabOrder(named.at(i - 1).first, named.at(i).first);
+        }
+    }
+    setTabOrder(EntryDateEnd, m_split);
+    if (m_fields.Face == eEntryFace::StartBalance) {
+        setTabOrder(cboKonto, txtBetrag);
+        setTabOrder(txtBetrag, txtBeschreibung);
+    }
+}
+
+void cEntryForm::Offer()
+{
+    const QStringList accounts = m_editor.Accounts();
+    for (const QString& account : accounts) {
+        cboKonto->addItem(account, account);
+        cboNachKonto->addItem(account, account);
+    }
+    modChoice::AddWords(*cboBuchungsart, modWord::EntryTypes());
+    modChoice::AddWords(*cboInterval, modWord::Intervals());
+}
+
+void cEntryForm::Connect()
+{
+    connect(txtBetrag, &QLineEdit::textEdited, this, [this] { m_fields.IsAmountTyped = true; });
+    connect(txtBetrag, &QLineEdit::textChanged, m_split, &cSplitPage::ShowRest);
+    connect(m_split, &cSplitPage::DefaultsTaken, this, &cEntryForm::TakeDefaults);
+    connect(cboKategorie, &cCategoryBox::PathPicked, this, &cEntryForm::ChooseCategory);
+    cPickList* descriptions = modProposal::AddDescriptions(*txtBeschreibung, m_editor.Suggestions());
+    connect(descriptions, &cPickList::Picked, this, &cEntryForm::ChooseDescription);
+    connect(cboKonto, &QComboBox::activated, this, &cEntryForm::ChooseAccount);
+    connect(cboBuchungsart, &QComboBox::currentIndexChanged, this, &cEntryForm::ShowTarget);
+    connect(EntryDateCheck, &QCheckBox::toggled, EntryDateEnd, &QWidget::setEnabled);
+    connect(EntryDateCheck, &QCheckBox::toggled, this, &cEntryForm::ShowSeries);
+    connect(cboInterval, &QComboBox::currentIndexChanged, this, &cEntryForm::ShowSeries);
+    connect(EntryDate, &QLineEdit::textChanged, this, &cEntryForm::ShowSeries);
+    connect(EntryDateEnd, &QLineEdit::textChanged, this, &cEntryForm::ShowSeries);
+}
+
+void cEntryForm::Show(const cEntryFields& fields)
+{
+    m_fields = fields;
+    txtBetrag->setText(fields.Amount);
+    cboKategorie->SetPath(fields.Category);
+    txtBeschreibung->setText(fields.Description);
+    ShowDay(*EntryDate, fields.Date, fields.DateText);
+    modChoice::Choose(*cboKonto, fields.Account);
+    modChoice::Choose(*cboBuchungsart, fields.Type);
+    modChoice::Choose(*cboNachKonto, fields.Target);
+    modChoice::Choose(*cboInterval, fields.Interval);
+    EntryDateCheck->setChecked(fields.HasEnd);
+    EntryDateEnd->setEnabled(fields.HasEnd);
+    ShowDay(*EntryDateEnd, fields.HasEnd ? fields.End : fields.Date.addYears(1), fields.EndText);
+    ShowFace();
+    m_split->ShowParts(fields);
+    Q_EMIT CorrectionsChanged();
+}
+
+cEntryFields cEntryForm::Read() const
+{
+    cEntryFields fields = m_fields;
+    fields.Amount = txtBetrag->text();
+    fields.Category = cboKategorie->Path();
+    fields.Description = txtBeschreibung->text();
+    fields.Date = EntryDate->Day();
+    fields.DateText = EntryDate->text();
+    fields.Account = cboKonto->currentData().toString();
+    fields.Type = cboBuchungsart->currentData().toString();
+    fields.Target = cboNachKonto->currentData().toString();
+    fields.Interval = cboInterval->currentData().toString();
+    fields.HasEnd = EntryDateCheck->isChecked();
+    fields.End = fields.HasEnd ? EntryDateEnd->Day() : QDate();
+    fields.EndText = fields.HasEnd ? EntryDateEnd->text() : QString();
+    if (fields.Face == eEntryFace::Split) {
+        fields.Parts = m_split->Table().Parts();
+    }
+    return fields;
+}
+
+void cEntryForm::Settle()
+{
+    m_split->Table().Commit();
+    cboKategorie->Settle();
+    txtBetrag->Evaluate();
+}
+
+void cEntryForm::SetCorrections(const cEntryItemFixModList& corrections)
+{
+    m_fields.Corrections = corrections;
+    Q_EMIT CorrectionsChanged();
+}
+
+void cEntryForm::ShowFace()
+{
+    const eEntryFace face = m_fields.Face;
+    m_startText->setVisible(face == eEntryFace::StartBalance);
+    m_startText->setText(face == eEntryFace::StartBalance ? m_editor.StartBalanceText(m_fields.Account) : QString());
+    m_form->setRowVisible(cboKategorie, face == eEntryFace::Normal);
+    m_form->setRowVisible(txtBeschreibung, face == eEntryFace::Normal); // a start balance has one of its own
+    m_form->setRowVisible(cboBuchungsart, face != eEntryFace::StartBalance);
+    m_form->setRowVisible(cboInterval, face != eEntryFace::StartBalance);
+    m_split->setVisible(face == eEntryFace::Split);
+    ShowTarget();
+    ShowSeries();
+}
+
+void cEntryForm::ShowTarget()
+{
+    m_form->setRowVisible(cboNachKonto, cEntryEditor::ShowsTarget(Read()));
+}
+
+void cEntryForm::ShowSeries()
+{
+    const cEntryFields fields = Read();
+    const bool isSeries = cEntryEditor::ShowsSeries(fields);
+    m_form->setRowVisible(m_seriesRow, isSeries);
+    m_form->setRowVisible(m_preview, isSeries);
+    m_preview->setText(isSeries ? m_editor.Preview(fields).Text : QString());
+}
+
+void cEntryForm::ChooseCategory(const QString& path)
+{
+    cEntryFields fields = Read();
+    m_editor.ChooseCategory(path, fields);
+    Show(fields);
+}
+
+// What a part brings for the whole; the other fields stay as they are being typed.
+void cEntryForm::TakeDefaults(const cEntryFields& fields)
+{
+    modChoice::Choose(*cboBuchungsart, fields.Type);
+    modChoice::Choose(*cboInterval, fields.Interval);
+}
+
+void cEntryForm::ChooseDescription(const QString& text)
+{
+    cEntryFields fields = Read();
+    m_editor.ChooseDescription(text, fields);
+    Show(fields);
+}
+
+void cEntryForm::ChooseAccount()
+{
+    cEntryFields fields = Read();
+    m_editor.ChooseAccount(fields.Account, fields);
+    Show(fields);
+}
+
+void cEntryForm::FocusFirst()
+{
+    txtBetrag->setFocus();
+    txtBetrag->selectAll();
+}
+
+void cEntryForm::FocusOpen()
+{
+    if (cboKategorie->isVisible() && cboKategorie->Path().isEmpty()) {
+        cboKategorie->setFocus(); // whatever was typed there names no category
+        cboKategorie->lineEdit()->selectAll();
+        return;
+    }
+    const QList<QComboBox*> boxes{cboBuchungsart, cboKonto, cboNachKonto};
+    for (QComboBox* box : boxes) {
+        if (box->isVisible() && box->currentText().isEmpty()) {
+            box->setFocus();
+            return;
+        }
+    }
+}
+
+void cEntryForm::ShowFailure(cEntryEditor::eSaved saved)
+{
+    QLineEdit* field = nullptr;
+    switch (saved) {
+    case cEntryEditor::eSaved::BadAmount: field = txtBetrag; break;
+    case cEntryEditor::eSaved::BadDate: field = EntryDate; break;
+    case cEntryEditor::eSaved::BadEnd: field = EntryDateEnd; break;
+    case cEntryEditor::eSaved::BadPart: m_split->ShowBadPart(); return;
+    case cEntryEditor::eSaved::Refused: FocusOpen(); return;
+    case cEntryEditor::eSaved::Saved: return;
+    }
+    modBadField::Mark(*field);
+    field->setFocus();
+    field->selectAll();
+}

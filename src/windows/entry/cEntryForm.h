@@ -1,0 +1,80 @@
+#pragma once
+
+#include "views/entry/cEntryEditor.h"
+
+#include <QWidget>
+
+class cAmountEdit;
+class cCategoryBox;
+class cDayEdit;
+class cSplitPage;
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+
+// The fields of an entry in the face that they call for.
+class cEntryForm final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget* parent = nullptr);
+
+    void Show(const cEntryFields& fields);
+
+    [[nodiscard]] cEntryFields Read() const;
+
+    // Ends the input into the field with the keyboard focus as leaving it does.
+    void Settle();
+
+    void SetCorrections(const cEntryItemFixModList& corrections);
+
+    // Puts the keyboard focus where typing starts.
+    void FocusFirst();
+
+    // Colours what cannot be read, or moves to the first field that is still open.
+    void ShowFailure(cEntryEditor::eSaved saved);
+
+Q_SIGNALS:
+    void CalculatorRequested();
+    void CorrectionsChanged();
+
+private:
+    void Build();
+    void BuildAmount();
+    void BuildSeries();
+    void AddRow(const QString& text, QWidget* field);
+    void AddShortRow(const QString& text, QWidget* field);
+    void Offer(); // fills the choices
+    void Connect();
+    void OrderTabs();
+    void ShowFace();
+    void ShowTarget();
+    void ShowSeries();
+    void ChooseCategory(const QString& path);
+    void TakeDefaults(const cEntryFields& fields);
+    void ChooseDescription(const QString& text);
+    void ChooseAccount();
+    void FocusOpen();
+
+    cEntryEditor& m_editor;
+    cEntryFields m_fields; // as last shown; the controls hold what was typed since
+    QFormLayout* m_form;
+    QLabel* m_startText;
+    QWidget* m_amountRow;
+    cAmountEdit* txtBetrag;
+    cCategoryBox* cboKategorie;
+    QLineEdit* txtBeschreibung;
+    cDayEdit* EntryDate;
+    QComboBox* cboKonto;
+    QComboBox* cboBuchungsart;
+    QComboBox* cboNachKonto;
+    QComboBox* cboInterval;
+    QWidget* m_seriesRow;
+    QCheckBox* EntryDateCheck;
+    cDayEdit* EntryDateEnd;
+    QLabel* m_preview;
+    cSplitPage* m_split;
+};

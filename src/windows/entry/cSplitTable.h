@@ -1,0 +1,58 @@
+#pragma once
+
+#include "views/entry/cEntryFields.h"
+
+#include <QTableWidget>
+
+class cEntrySuggestions;
+
+// The parts of a split entry, one line each: category, description, amount. Below the last part there is always an
+// empty line for the next one. Tab goes from cell to cell and leaves the table behind the last one; Delete removes the
+// line.
+class cSplitTable final : public QTableWidget
+{
+    Q_OBJECT
+
+public:
+    enum eColumn { Category, Description, Amount, ColumnCount };
+
+    explicit cSplitTable(cEntrySuggestions& suggestions, QWidget* parent = nullptr);
+
+    // Shows the parts; a field that is open in a cell stays open.
+    void ShowParts(const QList<cSplitPart>& parts);
+
+    // All lines with the empty one.
+    [[nodiscard]] QList<cSplitPart> Parts() const;
+
+    void RemoveLine();
+
+    // Ends the input into a cell with its text kept.
+    void Commit();
+
+    // Colours the amount of a line that is no number, until it is changed.
+    void MarkAmount(int line);
+
+    // Moves the keyboard focus into a cell.
+    void ChooseCell(int line, int column);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void PartsEdited();
+    void CategoryPicked(int line, const QString& path);
+    void DescriptionPicked(int line, const QString& text);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    void AppendLine();
+    void ShowLine(int line, const cSplitPart& part);
+    void TakeChange(QTableWidgetItem& item);
+    [[nodiscard]] bool IsAtEnd(bool forward) const;
+    [[nodiscard]] bool IsOnEmptyLine() const;
+};

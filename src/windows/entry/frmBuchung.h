@@ -1,0 +1,51 @@
+#pragma once
+
+#include "views/entry/cEntryEditor.h"
+
+#include <QDialog>
+
+class cCorrectionsPage;
+class cEntryForm;
+class QCheckBox;
+class QDialogButtonBox;
+class QListWidget;
+class QPushButton;
+class QTabWidget;
+
+// The window for one entry: new, changed, split, or the start balance of an account. The fields say which.
+class frmBuchung final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmBuchung(cEntryEditor& editor, const cEntryFields& fields, QWidget* parent = nullptr);
+
+    // Asks before typed contents are lost.
+    void reject() override;
+
+Q_SIGNALS:
+    void EntrySaved();
+    void CalculatorRequested();
+
+private:
+    void Build();
+    void BuildButtons();
+    void BuildSaved();
+    void Connect();
+    void ShowFace();
+    void ShowCorrections();
+    void ToggleSplit();
+    void Save();
+    void GoOn(const cEntryFields& saved);
+
+    cEntryEditor& m_editor;
+    QTabWidget* m_pages;
+    cEntryForm* m_form;
+    cCorrectionsPage* m_corrections;
+    QCheckBox* chkCloseDialog;
+    QWidget* m_savedBox;
+    QListWidget* m_saved;
+    QDialogButtonBox* m_buttons;
+    QPushButton* m_split;
+    cEntryFields m_shown; // before anything was typed
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "views/entry/cSeriesChange.h"
+
+#include <QDate>
+#include <QDialog>
+#include <QString>
+
+#include <functional>
+
+class cAmountEdit;
+class cDayEdit;
+class QLabel;
+class QLineEdit;
+
+// The small form for another amount in one period of a recurring entry.
+class frmKorrektur final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    struct cValues
+    {
+        QString Day; // as typed; only where the form asks for it
+        QString Amount;
+        QString Comment;
+    };
+
+    enum class eTaken { Done, BadAmount, BadDay, NoOccurrence, Refused };
+
+    struct cParts
+    {
+        QString Text;                               // what is corrected
+        cValues Values;                             // to start with
+        QDate Today;                                // valid: the form asks for the day
+        std::function<eTaken(const cValues&)> Take; // stores the values
+        std::function<bool()> Remove;               // removes the correction; empty when there is none
+    };
+
+    explicit frmKorrektur(const cParts& parts, QWidget* parent = nullptr);
+
+    // For one occurrence in the entry list; saves and removes at once. `change` outlives the form.
+    frmKorrektur(cSeriesChange& change, const cSeriesChange::cPeriodFields& fields, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    void CorrectionSaved(); // or removed
+
+private:
+    void Build();
+    void BuildButtons(QLayout& layout);
+    void Save();
+    void Remove();
+    void ShowFailure(eTaken taken);
+
+    cParts m_parts;
+    cDayEdit* m_day;
+    cAmountEdit* txtBetrag;
+    QLineEdit* txtKommentar;
+    QLabel* m_message;
+};

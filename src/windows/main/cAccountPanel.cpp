@@ -1,0 +1,144 @@
+#include "windows/main/cAccountPanel.h"
+
+#include "base/cText.h"
+#include "views/main/cAccountListModel.h"
+#include "windows/widget/modIcon.h"
+#include "windows/widget/modTone.h"
+
+#include <QBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+
+namespace {
+
+class cAccountDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width() + 6, option.fontMetrics.height() + 10};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int kind = index.data(cAccountListModel::KindRole).toInt();
+        const bool isChosen = index.data(cAccountListModel::ChosenRole).toBool();
+        if (kind == cAccountListModel::Total || isChosen) {
+            option->font.setBold(true);
+        }
+        if (kind == cAccountListModel::Group) {
+            option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
+        } else if (index.data(cAccountListModel::WarningRole).toBool()) {
+            MarkWarning(*option, index);
+        } else if (index.data(cAccountListModel::ToneRole).toBool()) {
+            option->palette.setColor(QPalette::Text, modTone::Expense(option->palette));
+        }
+    }
+
+private:
+    // A sign beside the amount, so that nothing hangs on the colour alone.
+    static void MarkWarning(QStyleOptionViewItem& option, const QModelIndex& index)
+    {
+        option.palette.setColor(QPalette::Text, modTone::Warning(option.palette));
+        if (index.column() == cAccountListModel::Balance) {
+            static const QIcon sign = modIcon::Get(QStringLiteral("warnung"));
+            option.features |= QStyleOptionViewItem::HasDecoration;
+            option.icon = sign;
+            option.decorationSize = QSize(option.fontMetrics.height(), option.fontMetrics.height());
+        }
+    }
+};
+
+} // namespace
+
+cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
+    : QWidget(parent),
+      m_model(model),
+      m_title(new QLabel(this)),
+      m_view(new QTreeView(this))
+{
+    m_view->setModel(&m_model);
+    m_view->setItemDelegate(new cAccountDelegate(m_view));
+    m_view->setRootIsDecorated(false);
+    m_view->setIndentation(0);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->setAccessibleName(cText::Tr("Konten"));
+    m_view->header()->setStretchLastSection(false);
+    m_view->header()->setSectionResizeMode(cAccountListModel::Name, QHeaderView::Stretch);
+    m_view->header()->setSectionResizeMode(cAccountListModel::Balance, QHeaderView::ResizeToContents);
+    m_view->header()->setSectionResizeMode(cAccountListModel::Open, QHeaderView::ResizeToContents);
+    m_view->installEventFilter(this);
+    m_title->setBuddy(m_view);
+    QFont font = m_title->font();
+    font.setBold(true);
+    m_title->setFont(font);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 0, 6);
+    layout->addWidget(m_title);
+    layout->addWidget(m_view);
+    connect(m_view, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        const QString account = m_model.AccountAt(index);
+        if (!account.isEmpty()) {
+            Q_EMIT AccountChosen(account);
+        }
+    });
+    connect(m_view, &QTreeView::doubleClicked, this, [this] { Q_EMIT AccountChosen({}); });
+    connect(m_view, &QWidget::customContextMenuRequested, this, &cAccountPanel::OpenMenu);
+}
+
+void cAccountPanel::SetTitle(const QString& title)
+{
+    m_title->setText(title);
+}
+
+QString cAccountPanel::CurrentAccount() const
+{
+    return m_model.AccountAt(m_view->currentIndex());
+}
+
+bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key(); // the event says what it is
+        if (key == Qt::Key_Escape) {
+            Q_EMIT AccountChosen({});
+            return true;
+        }
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !CurrentAccount().isEmpty()) {
+            Q_EMIT AccountChosen(CurrentAccount());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void cAccountPanel::OpenMenu(const QPoint& position)
+{
+    const QString account = m_model.AccountAt(m_view->indexAt(position));
+    QMenu menu(this);
+    QAction* only = menu.addAction(cText::Tr("&Nur dieses Konto zeigen"));
+    QAction* all = menu.addAction(cText::Tr("&Alle Konten zeigen"));
+    menu.addSeparator();
+    QAction* rename = menu.addAction(cText::Tr("Konto &umbenennen…"));
+    only->setEnabled(!account.isEmpty());
+    rename->setEnabled(!account.isEmpty());
+    const QAction* chosen = menu.exec(m_view->viewport()->mapToGlobal(position));
+    if (chosen == only) {
+        Q_EMIT AccountChosen(account);
+    } else if (chosen == all) {
+        Q_EMIT AccountChosen({});
+    } else if (chosen == rename) {
+        Q_EMIT RenameRequested(account);
+    }
+}

@@ -1,0 +1,303 @@
+#include "windows/main/cEntryTree.h"
+
+#include "base/cText.h"
+#include "views/list/cListLayout.h"
+#include "windows/main/cEntryDelegate.h"
+#include "windows/widget/modEmptyText.h"
+#include "windows/widget/modGroupHead.h"
+
+#include <QHeaderView>
+#include <QMenu>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// Widths in average characters of the font, so that they fit at every font size and scale.
+constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths{14, 14, 27, 23, 30, 18, 16, 16};
+constexpr int leastDescription = 16;
+
+} // namespace
+
+cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
+{
+    // Before the base class hears of it and forgets which line stands where.
+    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
+    setModel(&m_model);
+    setItemDelegate(new cEntryDelegate(this));
+    setRootIsDecorated(false); // heads of groups draw their own arrow, so that the dates stay in line
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setSelectionMode(ExtendedSelection);
+    setSortingEnabled(true);
+    setAllColumnsShowFocus(true);
+    setExpandsOnDoubleClick(false);
+    setAccessibleName(cText::Tr("Liste der Einträge"));
+    header()->setStretchLastSection(false);
+    header()->setSectionsMovable(true);
+    header()->setFirstSectionMovable(true);
+    header()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { OpenColumnMenu(header()->mapToGlobal(at)); });
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        if (m_model.EntryAt(index) == nullptr) {
+            setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+        }
+    });
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        m_fitsDescription = m_fitsDescription && (m_isFitting || !isVisible());
+        if (column != cEntryListModel::Description) {
+            FitDescription();
+        }
+    });
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &cEntryTree::RestoreSelection);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &cEntryTree::ReportSelection);
+    SetDefaultLayout();
+}
+
+void cEntryTree::SetDefaultLayout()
+{
+    const int character = fontMetrics().averageCharWidth();
+    m_isFitting = true;
+    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
+        header()->moveSection(header()->visualIndex(column), column);
+        header()->resizeSection(column, defaultWidths.at(static_cast<std::size_t>(column)) * character);
+    }
+    m_isFitting = false;
+    m_fitsDescription = true;
+    m_isShown.fill(true);
+    ShowColumns();
+    sortByColumn(cEntryListModel::Date, Qt::AscendingOrder);
+}
+
+void cEntryTree::ShowColumns()
+{
+    m_isFitting = true;
+    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
+        const bool hasContent = column != cEntryListModel::Balance || m_model.HasBalances();
+        header()->setSectionHidden(column, !m_isShown.at(static_cast<std::size_t>(column)) || !hasContent);
+    }
+    m_isFitting = false;
+    FitDescription();
+}
+
+void cEntryTree::ShowColumn(int column, bool isShown)
+{
+    m_isShown.at(static_cast<std::size_t>(column)) = isShown;
+    ShowColumns();
+}
+
+void cEntryTree::FitDescription()
+{
+    if (!m_fitsDescription || m_isFitting || header()->isSectionHidden(cEntryListModel::Description)) {
+        return;
+    }
+    const int others = header()->length() - header()->sectionSize(cEntryListModel::Description);
+    const int least = leastDescription * fontMetrics().averageCharWidth();
+    m_isFitting = true;
+    header()->resizeSection(cEntryListModel::Description, qMax(least, viewport()->width() - others));
+    m_isFitting = false;
+}
+
+void cEntryTree::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    FitDescription();
+}
+
+QString cEntryTree::LayoutText() const
+{
+    cListLayout layout;
+    for (int visual = 0; visual < header()->count(); ++visual) {
+        const int column = header()->logicalIndex(visual);
+        const bool isFitted = column == cEntryListModel::Description && m_fitsDescription;
+        const bool isHidden = header()->isSectionHidden(column);
+        layout.Columns.push_back({column, isHidden || isFitted ? 0 : header()->sectionSize(column),
+                                  m_isShown.at(static_cast<std::size_t>(column))});
+    }
+    layout.SortColumn = header()->sortIndicatorSection();
+    layout.IsDescending = header()->sortIndicatorOrder() == Qt::DescendingOrder;
+    return layout.ToText();
+}
+
+void cEntryTree::SetLayoutText(const QString& text)
+{
+    SetDefaultLayout();
+    const std::optional<cListLayout> layout = cListLayout::FromText(text, cEntryListModel::ColumnCount);
+    if (!layout) {
+        return;
+    }
+    int visual = 0;
+    m_isFitting = true;
+    for (const cListLayout::cColumn& column : layout->Columns) {
+        header()->moveSection(header()->visualIndex(column.Column), visual++);
+        if (column.Width > 0) {
+            header()->resizeSection(column.Column, column.Width);
+        }
+        m_fitsDescription = m_fitsDescription && (column.Column != cEntryListModel::Description || column.Width == 0);
+        m_isShown.at(static_cast<std::size_t>(column.Column)) = column.IsShown;
+    }
+    m_isFitting = false;
+    ShowColumns();
+    sortByColumn(layout->SortColumn, layout->IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void cEntryTree::ShowColumnMenu()
+{
+    OpenColumnMenu(header()->mapToGlobal(header()->rect().bottomLeft()));
+}
+
+void cEntryTree::OpenColumnMenu(const QPoint& globalPosition)
+{
+    QMenu menu(this);
+    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
+        QAction* action = menu.addAction(m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        action->setCheckable(true);
+        action->setChecked(m_isShown.at(static_cast<std::size_t>(column)));
+        action->setEnabled(!action->isChecked() || std::count(m_isShown.begin(), m_isShown.end(), true) > 1);
+        connect(action, &QAction::toggled, this, [this, column](bool isShown) { ShowColumn(column, isShown); });
+    }
+    menu.addSeparator();
+    connect(menu.addAction(cText::Tr("Spalten auf den Anfang zurückstellen")), &QAction::triggered, this,
+            &cEntryTree::SetDefaultLayout);
+    menu.exec(globalPosition);
+}
+
+QList<int> cEntryTree::ShownColumns() const
+{
+    QList<int> columns;
+    for (int visual = 0; visual < header()->count(); ++visual) {
+        const int column = header()->logicalIndex(visual);
+        if (!header()->isSectionHidden(column)) {
+            columns.append(column);
+        }
+    }
+    return columns;
+}
+
+void cEntryTree::SetEmptyHint(const QString& hint)
+{
+    m_emptyHint = hint;
+    viewport()->update();
+}
+
+void cEntryTree::ScrollTo(QDate day)
+{
+    const QModelIndex row = m_model.IndexNear(day);
+    if (row.isValid()) {
+        selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate); // the keys start there
+        scrollTo(row, PositionAtCenter);
+    } else if (!m_model.IsGrouped()) {
+        scrollToBottom();
+    }
+}
+
+void cEntryTree::KeepSelection()
+{
+    m_isRebuilding = true;
+    m_current = m_model.KeyAt(currentIndex());
+    m_next = m_model.KeyAt(FirstUnselected(currentIndex()));
+    m_isCurrentInSight = viewport()->rect().intersects(visualRect(currentIndex()));
+    m_selected = SelectedKeys();
+    QModelIndex top = indexAt(QPoint());
+    while (top.isValid() && m_model.EntryAt(top) == nullptr) {
+        top = indexBelow(top); // the head of a group is not found again
+    }
+    m_top = m_model.KeyAt(top);
+}
+
+void cEntryTree::Select(const cEntryListModel::cKey& key)
+{
+    const QModelIndexList rows = m_model.IndexesOf({key});
+    if (!rows.isEmpty()) {
+        // Not the view's own: that looks at the keys held down, and Ctrl+Enter would add to the selection.
+        selectionModel()->setCurrentIndex(rows.constFirst(),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        scrollTo(rows.constFirst());
+    }
+}
+
+QList<cEntryListModel::cKey> cEntryTree::SelectedKeys() const
+{
+    QList<cEntryListModel::cKey> keys;
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    for (const QModelIndex& row : rows) {
+        if (m_model.EntryAt(row) != nullptr) {
+            keys.append(m_model.KeyAt(row));
+        }
+    }
+    return keys;
+}
+
+// The line itself, or the first one below it that is not selected: it is there still when the selected ones are
+// deleted.
+QModelIndex cEntryTree::FirstUnselected(const QModelIndex& line) const
+{
+    QModelIndex below = line;
+    while (below.isValid() && selectionModel()->isSelected(below)) {
+        below = indexBelow(below);
+    }
+    return below;
+}
+
+// The keys go on from where they were. Without a current line the view would take the first one when it next gets the
+// focus, and jump to it.
+void cEntryTree::RestoreCurrent()
+{
+    const QModelIndex top = m_model.IndexesOf({m_top}).value(0);
+    QModelIndex current = m_model.IndexesOf({m_current}).value(0);
+    current = current.isValid() ? current : m_model.IndexesOf({m_next}).value(0);
+    current = current.isValid() ? current : top;
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    if (top.isValid()) {
+        scrollTo(top, PositionAtTop);
+    }
+    if (m_isCurrentInSight && current.isValid()) {
+        scrollTo(current);
+    }
+}
+
+void cEntryTree::RestoreSelection()
+{
+    // One by one before the view is laid out anew, which then happens only once; expandToDepth() moves all groups that
+    // follow for each that it opens.
+    for (int group = 0; m_model.IsGrouped() && group < m_model.rowCount(); ++group) {
+        expand(m_model.index(group, 0));
+    }
+    ShowColumns();
+    QItemSelection selection;
+    const QModelIndexList rows = m_model.IndexesOf(m_selected);
+    for (const QModelIndex& row : rows) {
+        selection.select(row, row.siblingAtColumn(cEntryListModel::ColumnCount - 1));
+    }
+    RestoreCurrent();
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_isRebuilding = false;
+    ReportSelection();
+}
+
+void cEntryTree::ReportSelection()
+{
+    if (!m_isRebuilding) {
+        Q_EMIT SelectionKeysChanged(SelectedKeys());
+    }
+}
+
+void cEntryTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (m_model.EntryAt(index) != nullptr) {
+        QTreeView::drawRow(painter, option, index);
+        return;
+    }
+    modGroupHead::Paint(*this, *painter, option, index, cEntryListModel::Amount);
+}
+
+void cEntryTree::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_model.rowCount() == 0) {
+        modEmptyText::Paint(*viewport(), cText::Tr("Keine Daten"), m_emptyHint);
+    }
+}

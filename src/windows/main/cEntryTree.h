@@ -1,0 +1,58 @@
+#pragma once
+
+#include "views/list/cEntryListModel.h"
+
+#include <QTreeView>
+
+#include <array>
+
+// The entry list on screen: columns that can be chosen, moved and remembered, a selection that survives a rebuild, and
+// a text where there is nothing to show.
+class cEntryTree final : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit cEntryTree(cEntryListModel& model, QWidget* parent = nullptr);
+
+    [[nodiscard]] QString LayoutText() const;
+    void SetLayoutText(const QString& text); // an unreadable text gives the default layout
+    void ShowColumnMenu();                   // below the header, for the keyboard too
+    void SetEmptyHint(const QString& hint);
+    void ScrollTo(QDate day);
+    void Select(const cEntryListModel::cKey& key); // and brings it into sight; nothing when it is not in the list
+    [[nodiscard]] QList<int> ShownColumns() const; // of the model, in the order on screen
+    [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups
+
+Q_SIGNALS:
+    void SelectionKeysChanged(const QList<cEntryListModel::cKey>& keys);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void SetDefaultLayout();
+    void ShowColumns();    // as chosen; the balance only while there is one
+    void FitDescription(); // gives the description what the other columns leave
+    void ShowColumn(int column, bool isShown);
+    void KeepSelection();
+    void RestoreSelection();
+    void RestoreCurrent();
+    [[nodiscard]] QModelIndex FirstUnselected(const QModelIndex& line) const;
+    void ReportSelection();
+    void OpenColumnMenu(const QPoint& globalPosition);
+
+    cEntryListModel& m_model;
+    QList<cEntryListModel::cKey> m_selected;
+    cEntryListModel::cKey m_current;
+    cEntryListModel::cKey m_next; // takes the place of the current line when that is gone
+    cEntryListModel::cKey m_top;  // first line in sight before the list was rebuilt
+    QString m_emptyHint;
+    std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
+    bool m_isRebuilding = false;
+    bool m_isCurrentInSight = false;
+    bool m_fitsDescription = true; // until the user sets a width
+    bool m_isFitting = false;
+};

@@ -1,0 +1,295 @@
+#include "windows/main/frmMain.h"
+
+#include "base/cText.h"
+#include "views/main/cMainModel.h"
+#include "views/main/modCommand.h"
+#include "windows/main/cAccountPanel.h"
+#include "windows/main/cBackBar.h"
+#include "windows/main/cEntryTree.h"
+#include "windows/main/cSumBar.h"
+#include "windows/main/cViewBar.h"
+#include "windows/widget/modDrop.h"
+#include "windows/widget/modIcon.h"
+#include "windows/widget/modPlace.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QToolBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+frmMain::frmMain(cMainModel& model, QWidget* parent)
+    : QMainWindow(parent),
+      m_model(model),
+      m_splitter(new QSplitter(this)),
+      m_tabs(new QTabWidget(this)),
+      m_statements(new QWidget(this)),
+      m_statistics(new QWidget(this)),
+      m_accounts(new cAccountPanel(model.AccountList(), this)),
+      m_backBar(new cBackBar(this)),
+      m_viewBar(new cViewBar(model, this)),
+      m_hint(new QLabel(this)),
+      m_tree(new cEntryTree(model.Entries(), this)),
+      m_sums(new cSumBar(this)),
+      m_database(new QLabel(this))
+{
+    setAcceptDrops(true);
+    setWindowIcon(modIcon::Program());
+    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    BuildCommands();
+    BuildPages();
+    Connect();
+}
+
+void frmMain::BuildCommands()
+{
+    QHash<QString, QMenu*> menus;
+    auto* toolBar = addToolBar(cText::Tr("Werkzeugleiste"));
+    toolBar->setObjectName(u"toolBar"_s);
+    toolBar->setMovable(false);
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const modCommand::cCommand& command : modCommand::All()) {
+        const QString title = cText::Tr(command.Menu);
+        if (!menus.contains(title)) {
+            menus.insert(title, menuBar()->addMenu(u'&' + title));
+        }
+        if (modCommand::Has(command, modCommand::StartsGroup)) {
+            menus.value(title)->addSeparator();
+        }
+        QAction* action = menus.value(title)->addAction(m_model.MenuText(command.Id));
+        QList<QKeySequence> keys;
+        const QStringList keyTexts = modCommand::Keys(command);
+        for (const QString& key : keyTexts) {
+            keys.append(QKeySequence(key, QKeySequence::PortableText));
+        }
+        action->setShortcuts(keys);
+        action->setIconText(modCommand::PlainText(command));
+        action->setIcon(modIcon::Get(QString::fromUtf8(command.Icon)));
+        action->setStatusTip(cText::Tr(command.Hint));
+        action->setCheckable(*command.Setting != '\0');
+        action->setData(command.Id);
+        connect(action, &QAction::triggered, this, [this, id = command.Id] { m_model.Execute(id); });
+        m_actions.insert(command.Id, action);
+        if (modCommand::Has(command, modCommand::InToolBar)) {
+            toolBar->addAction(action);
+        }
+        if (modCommand::Has(command, modCommand::NeedsEntry) || modCommand::Has(command, modCommand::NeedsOccurrence)) {
+            m_tree->addAction(action);
+        }
+    }
+}
+
+void frmMain::BuildPages()
+{
+    m_tabs->setDocumentMode(true);
+    m_tabs->addTab(BuildEntryPage(), cText::Tr("Bu&chungen"));
+    for (QWidget* page : {m_statements, m_statistics}) {
+        (new QVBoxLayout(page))->setContentsMargins(0, 0, 0, 0);
+    }
+    m_tabs->addTab(m_statements, cText::Tr("Kont&oauszüge"));
+    m_tabs->addTab(m_statistics, cText::Tr("Aus&wertung"));
+    m_splitter->addWidget(m_accounts);
+    m_splitter->addWidget(m_tabs);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setChildrenCollapsible(false);
+    const int character = fontMetrics().averageCharWidth();
+    m_splitter->setSizes({character * 42, character * 140});
+    setCentralWidget(m_splitter);
+    statusBar()->addPermanentWidget(m_database);
+    TakeUsualSize();
+}
+
+QWidget* frmMain::BuildEntryPage()
+{
+    auto* page = new QWidget(this);
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(8, 8, 8, 4);
+    layout->addWidget(m_backBar);
+    layout->addWidget(m_viewBar);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_sums);
+    m_hint->setWordWrap(true);
+    m_hint->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    return page;
+}
+
+void frmMain::Connect()
+{
+    connect(&m_model, &cMainModel::ViewChanged, this, &frmMain::ShowView);
+    connect(&m_model, &cMainModel::EntriesChanged, this, &frmMain::ShowEntries);
+    connect(&m_model, &cMainModel::SelectionChanged, this, &frmMain::ShowCommands);
+    connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
+    connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
+    connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
+    connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
+    connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
+    // The keys of these commands belong to the list in front; the other page has its own.
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) {
+        Q_EMIT PageShown(static_cast<ePage>(page));
+        m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
+    });
+    connect(m_backBar, &cBackBar::BackRequested, this, &frmMain::GoBack);
+    connect(m_backBar, &cBackBar::CloseRequested, &m_model, &cMainModel::GoBack);
+    connect(new QShortcut(QKeySequence(u"Alt+Left"_s), this), &QShortcut::activated, this, &frmMain::GoBack);
+    connect(m_hint, &QLabel::linkActivated, this, [this] { m_model.Execute(modCommand::ViewFuture); });
+}
+
+void frmMain::RestoreLayout()
+{
+    const cMainModel::cPlacement placement = m_model.RestoreLayout();
+    if (placement.Width > 0) {
+        const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
+        setGeometry(modPlace::Visible(place, modPlace::FreeAreas(*screen())));
+    }
+    if (placement.State == 2) {
+        setWindowState(Qt::WindowMaximized);
+    }
+    m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
+    ShowCommands();
+}
+
+QList<int> frmMain::EntryColumns() const
+{
+    return m_tree->ShownColumns();
+}
+
+void frmMain::ShowToday()
+{
+    m_tree->ScrollTo(m_model.Today());
+    m_tree->setFocus();
+}
+
+void frmMain::ShowView()
+{
+    m_backBar->ShowText(m_model.SelectionText());
+    m_viewBar->ShowView();
+    m_accounts->SetTitle(m_model.BalancesTitle());
+    for (const modCommand::cCommand& command : modCommand::All()) {
+        if (*command.Setting != '\0') {
+            m_actions.value(command.Id)->setChecked(m_model.IsChecked(QString::fromUtf8(command.Setting)));
+        }
+    }
+    const QString hint = m_model.Hint();
+    m_hint->setVisible(!hint.isEmpty());
+    m_hint->setText(
+        u"%1 <a href=\"#\">%2</a>"_s.arg(hint.toHtmlEscaped(), cText::Tr("Zukünftige ausblenden").toHtmlEscaped()));
+    m_database->setText(m_model.DatabaseText());
+    setWindowTitle(m_model.WindowTitle());
+    ShowCommands(); // what can be undone may have changed
+}
+
+void frmMain::ShowEntries()
+{
+    m_sums->ShowSums(m_model);
+    m_tree->SetEmptyHint(m_model.Entries().rowCount() == 0 ? m_model.EmptyHint() : QString());
+}
+
+void frmMain::ShowCommands()
+{
+    for (auto action = m_actions.begin(); action != m_actions.end(); ++action) {
+        action.value()->setEnabled(m_model.IsEnabled(action.key()));
+        action.value()->setText(m_model.MenuText(action.key()));
+    }
+}
+
+void frmMain::ResetLayout()
+{
+    m_tree->SetLayoutText({});
+    setWindowState(Qt::WindowNoState);
+    TakeUsualSize();
+}
+
+void frmMain::TakeUsualSize()
+{
+    const int character = fontMetrics().averageCharWidth();
+    resize(modPlace::Fitting({character * 205, fontMetrics().height() * 50}, screen()->availableGeometry()));
+}
+
+void frmMain::ShowEntry(const cEntryListModel::cKey& key)
+{
+    m_tree->Select(key);
+    m_tree->setFocus(); // Ctrl+Z in the filter would take back what was typed there
+}
+
+void frmMain::ShowPage(ePage page)
+{
+    m_tabs->setCurrentIndex(static_cast<int>(page));
+    if (page == ePage::Entries) {
+        m_tree->setFocus();
+    }
+    if (m_model.IsSelection()) {
+        m_tree->scrollToTop();
+    }
+}
+
+frmMain::ePage frmMain::Page() const
+{
+    return static_cast<ePage>(m_tabs->currentIndex());
+}
+
+void frmMain::GoBack()
+{
+    if (m_model.IsSelection()) {
+        m_model.GoBack();
+        ShowPage(ePage::Statistics);
+    }
+}
+
+void frmMain::ShowColumnMenu()
+{
+    ShowPage(ePage::Entries);
+    m_tree->ShowColumnMenu();
+}
+
+void frmMain::Raise()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmMain::SaveLayout()
+{
+    const QRect place = isMaximized() || isMinimized() ? normalGeometry() : geometry();
+    const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+    m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
+    m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    SaveLayout();
+    QMainWindow::closeEvent(event);
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        m_sums->ShowSums(m_model);
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!modDrop::Files(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmMain::dropEvent(QDropEvent* event)
+{
+    ShowPage(ePage::Statements);
+    Q_EMIT FilesDropped(modDrop::Files(*event->mimeData()));
+}

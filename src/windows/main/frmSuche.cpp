@@ -1,0 +1,201 @@
+#include "windows/main/frmSuche.h"
+
+#include "base/cText.h"
+#include "views/list/cSearchModel.h"
+#include "windows/main/cEntryTree.h"
+#include "windows/main/cSearchFields.h"
+#include "windows/main/cSumBar.h"
+#include "windows/widget/modIcon.h"
+#include "windows/widget/modPlace.h"
+#include "windows/widget/modTone.h"
+
+#include <QBoxLayout>
+#include <QHideEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+frmSuche::frmSuche(cSearchModel& model, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint),
+      m_model(model),
+      m_fields(new cSearchFields(model, this)),
+      m_hint(new QLabel(this)),
+      m_tree(new cEntryTree(model.Entries(), this)),
+      m_sums(new cSumBar(this)),
+      m_edit(new QPushButton(modIcon::Get(u"bearbeiten"_s), cText::Tr("&Eintrag bearbeiten"), this)),
+      m_delete(new QPushButton(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
+      m_clear(new QPushButton(cText::Tr("&Neue Suche"), this)),
+      m_close(new QPushButton(cText::Tr("S&chließen"), this))
+{
+    setWindowTitle(cText::Tr("Suchen"));
+    Build();
+    Connect();
+    ResetLayout();
+    if (!m_model.Layout().isEmpty()) {
+        m_tree->SetLayoutText(m_model.Layout());
+    }
+    ShowFound();
+    ShowButtons();
+}
+
+frmSuche::~frmSuche()
+{
+    hide(); // the columns are kept also when the program ends with the search still open
+}
+
+void frmSuche::Build()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_fields);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_sums);
+    layout->addLayout(BuildButtons());
+    m_hint->setWordWrap(true);
+    m_tree->setAccessibleName(cText::Tr("Gefundene Einträge"));
+    const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
+    resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+}
+
+QHBoxLayout* frmSuche::BuildButtons()
+{
+    m_edit->setToolTip(cText::Tr("Öffnet den gewählten Eintrag (Eingabetaste)"));
+    m_delete->setToolTip(cText::Tr("Löscht die gewählten Einträge (Entf)"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_edit);
+    row->addWidget(m_delete);
+    row->addStretch();
+    row->addWidget(m_clear);
+    row->addWidget(m_close);
+    for (QPushButton* button : {m_edit, m_delete, m_clear, m_close}) {
+        button->setAutoDefault(false); // Enter belongs to the fields and to the list
+    }
+    return row;
+}
+
+void frmSuche::Connect()
+{
+    connect(m_fields, &cSearchFields::Typed, this, [this] { m_model.SearchSoon(m_fields->Read()); });
+    connect(m_fields, &cSearchFields::Chosen, this, &frmSuche::Search);
+    connect(m_fields, &cSearchFields::Left, this, &frmSuche::GoToList);
+    connect(&m_model, &cSearchModel::Found, this, &frmSuche::ShowFound);
+    connect(m_tree, &cEntryTree::SelectionKeysChanged, this, &frmSuche::ShowButtons);
+    connect(m_tree, &QTreeView::doubleClicked, this, &frmSuche::Edit);
+    connect(m_edit, &QPushButton::clicked, this, &frmSuche::Edit);
+    connect(m_delete, &QPushButton::clicked, this, &frmSuche::Delete);
+    connect(m_clear, &QPushButton::clicked, m_fields, &cSearchFields::Clear);
+    connect(m_close, &QPushButton::clicked, this, &QDialog::close);
+    // What was deleted here is taken back here as well; the keys of the main window do not reach this one.
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, this), &QShortcut::activated, this, &frmSuche::UndoRequested);
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, this), &QShortcut::activated, this,
+            &frmSuche::RedoRequested);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+                &frmSuche::Edit);
+    }
+    connect(new QShortcut(Qt::Key_Delete, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+            &frmSuche::Delete);
+}
+
+void frmSuche::Search()
+{
+    m_model.Search(m_fields->Read());
+}
+
+void frmSuche::ShowFound()
+{
+    const QString hint = m_model.Hint();
+    QPalette quiet = palette();
+    quiet.setColor(QPalette::WindowText, modTone::Quiet(quiet));
+    m_hint->setPalette(quiet);
+    m_hint->setText(hint);
+    m_hint->setVisible(!hint.isEmpty());
+    m_tree->SetEmptyHint(m_model.EmptyHint());
+    m_sums->ShowSums({m_model.CountText(), m_model.IncomeText(), m_model.ExpenseText(), m_model.TotalText()});
+}
+
+void frmSuche::ShowButtons()
+{
+    const qsizetype count = m_tree->SelectedKeys().size();
+    m_edit->setEnabled(count > 0);
+    m_delete->setEnabled(count > 0);
+}
+
+void frmSuche::GoToList()
+{
+    Search();
+    if (m_tree->SelectedKeys().isEmpty()) {
+        m_tree->setCurrentIndex(m_model.Entries().index(0, 0)); // Enter and Del have something to act on
+    }
+    m_tree->setFocus();
+}
+
+void frmSuche::Edit()
+{
+    const cEntryListModel::cKey key = m_model.Entries().KeyAt(m_tree->currentIndex());
+    if (key.ID != 0) {
+        Q_EMIT EditRequested(key);
+    }
+}
+
+void frmSuche::Delete()
+{
+    const QList<cEntryListModel::cKey> keys = m_tree->SelectedKeys();
+    if (!keys.isEmpty()) {
+        Q_EMIT DeleteRequested(keys);
+    }
+}
+
+void frmSuche::Present()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    m_fields->StartTyping();
+}
+
+void frmSuche::Refresh()
+{
+    if (isVisible()) {
+        m_fields->Offer();
+        m_model.Refresh();
+    }
+}
+
+void frmSuche::ResetLayout()
+{
+    m_tree->SetLayoutText({});
+    m_tree->sortByColumn(cEntryListModel::Date, Qt::DescendingOrder); // what is looked for is mostly not long ago
+}
+
+void frmSuche::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        m_fields->Offer();
+        // The window stands there before a large book is read.
+        QTimer::singleShot(0, this, [this] { m_model.Open(); });
+    }
+}
+
+void frmSuche::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous()) {
+        m_model.SaveLayout(m_tree->LayoutText());
+        m_model.Close();
+    }
+}
+
+void frmSuche::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        ShowFound(); // sums are coloured by the palette
+    }
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "views/list/cEntryListModel.h"
+
+#include <QDialog>
+
+class cEntryTree;
+class cSearchFields;
+class cSearchModel;
+class cSumBar;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+// The search: fields above, what they find below, with its sums. It stays open beside the main window.
+class frmSuche final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmSuche(cSearchModel& model, QWidget* parent = nullptr);
+    ~frmSuche() override;
+
+    void Present();     // shows the window in front, ready to type
+    void Refresh();     // after the book changed
+    void ResetLayout(); // columns as at first
+
+Q_SIGNALS:
+    void EditRequested(const cEntryListModel::cKey& key);
+    void DeleteRequested(const QList<cEntryListModel::cKey>& keys);
+    void UndoRequested();
+    void RedoRequested();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void Build();
+    QHBoxLayout* BuildButtons();
+    void Connect();
+    void Search();
+    void ShowFound();
+    void ShowButtons();
+    void GoToList();
+    void Edit();
+    void Delete();
+
+    cSearchModel& m_model;
+    cSearchFields* m_fields;
+    QLabel* m_hint;
+    cEntryTree* m_tree;
+    cSumBar* m_sums;
+    QPushButton* m_edit;
+    QPushButton* m_delete;
+    QPushButton* m_clear;
+    QPushButton* m_close;
+};

@@ -1,0 +1,196 @@
+#include "windows/statement/cStagedActions.h"
+
+#include "base/cText.h"
+#include "views/statement/cAssignListModel.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cRuleListModel.h"
+#include "windows/statement/cStagedTree.h"
+#include "windows/statement/frmRegeln.h"
+#include "windows/statement/frmUmsatzKategorie.h"
+#include "windows/statement/frmZuordnung.h"
+#include "windows/widget/cProgressBox.h"
+#include "windows/widget/modIcon.h"
+
+#include <QAction>
+#include <QMenu>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using cCan = cImportReview::cActions;
+
+struct cLine
+{
+    const char* Text;
+    const char16_t* Icon;
+    int Key; // with Ctrl; 0: none
+    bool cCan::*Can;
+    const char* Tip;
+};
+
+// In the order of eId.
+constexpr std::array<cLine, cStagedActions::Count> lines{{
+    {QT_TRANSLATE_NOOP("cText", "B&uchen"), u"buchen", Qt::Key_Return, &cCan::Change,
+     QT_TRANSLATE_NOOP("cText", "Bucht die markierten Umsätze (Eingabetaste)")},
+    {QT_TRANSLATE_NOOP("cText", "Alle &Vorschläge annehmen"), u"", 0, &cCan::Accept,
+     QT_TRANSLATE_NOOP("cText",
+                       "Bucht alle gezeigten offenen Umsätze, deren Vorschlag gelernt ist, aus einer Regel kommt oder "
+                       "zu einer Serie oder einem eigenen Konto gehört")},
+    {QT_TRANSLATE_NOOP("cText", "&Kategorie…"), u"", Qt::Key_K, &cCan::Choose,
+     QT_TRANSLATE_NOOP("cText", "Wählt eine Kategorie und ein Intervall für die markierten Umsätze (Strg+K)")},
+    {QT_TRANSLATE_NOOP("cText", "Ab&gleichen"), u"zusammen", Qt::Key_G, &cCan::Match,
+     QT_TRANSLATE_NOOP("cText",
+                       "Findet zu den markierten oder allen gezeigten offenen Umsätzen die Einträge, die schon im "
+                       "Haushaltsbuch stehen (Strg+G)")},
+    {QT_TRANSLATE_NOOP("cText", "Zuo&rdnen…"), u"", Qt::Key_R, &cCan::Assign,
+     QT_TRANSLATE_NOOP("cText", "Zeigt die Einträge, zu denen der markierte Umsatz gehören kann (Strg+R)")},
+    {QT_TRANSLATE_NOOP("cText", "L&ösen"), u"", Qt::Key_L, &cCan::Release,
+     QT_TRANSLATE_NOOP("cText", "Macht die markierten gebuchten Umsätze wieder offen; die Einträge bleiben")},
+    {QT_TRANSLATE_NOOP("cText", "&Löschen"), u"loeschen", 0, &cCan::Change,
+     QT_TRANSLATE_NOOP("cText", "Löscht die markierten Umsätze (Entf); gebuchte Einträge bleiben")},
+    {QT_TRANSLATE_NOOP("cText", "R&egel aus Umsatz…"), u"", 0, &cCan::Rule,
+     QT_TRANSLATE_NOOP("cText", "Legt eine eigene Regel an, die Umsätze wie diesen erkennt")},
+    {QT_TRANSLATE_NOOP("cText", "Nur Umsätze dieses &Imports…"), u"", 0, &cCan::Import,
+     QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze, die mit dem markierten eingelesen wurden, in einem Fenster")},
+}};
+
+} // namespace
+
+cStagedActions::cStagedActions(cImportReview& review, cStagedTree& tree, QWidget& page)
+    : QObject(&page),
+      m_review(review),
+      m_tree(tree),
+      m_page(page)
+{
+    for (int id = 0; id < Count; ++id) {
+        const cLine& line = lines.at(static_cast<std::size_t>(id));
+        auto* action = new QAction(modIcon::Get(QString::fromUtf16(line.Icon)), cText::Tr(line.Text), this);
+        action->setToolTip(cText::Tr(line.Tip));
+        if (line.Key != 0) {
+            action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(line.Key)));
+            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+            page.addAction(action);
+        }
+        connect(action, &QAction::triggered, this, [this, id] { Run(static_cast<eId>(id)); });
+        m_actions.at(static_cast<std::size_t>(id)) = action;
+    }
+    Get(Book)->setShortcuts({Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
+    connect(&m_tree, &cStagedTree::BookRequested, this, [this] { Run(Book); });
+    connect(&m_tree, &cStagedTree::DeleteRequested, this, [this] { Run(Delete); });
+    connect(&m_tree, &cStagedTree::MenuRequested, this, &cStagedActions::OpenMenu);
+}
+
+void cStagedActions::Run(eId id)
+{
+    if (!Get(id)->isEnabled()) {
+        return;
+    }
+    const QList<int> ids = m_tree.SelectedIds();
+    switch (id) {
+    case Book: BookRows(ids); break;
+    case Accept: AcceptProposals(); break;
+    case Choose: ChooseCategory(); break;
+    case Match: MatchRows(); break;
+    case Assign: AssignRow(); break;
+    case Release: m_review.Release(ids); break;
+    case Delete: m_review.Delete(ids); break;
+    case Rule: StartRule(); break;
+    case Import: Q_EMIT ImportRequested(ids.value(0)); break;
+    case Count: break;
+    }
+}
+
+void cStagedActions::BookRows(const QList<int>& ids)
+{
+    cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden gebucht …"));
+    m_review.Book(ids, progress);
+}
+
+void cStagedActions::BookAll()
+{
+    BookRows(m_review.Rows().OpenIds());
+}
+
+void cStagedActions::AcceptProposals()
+{
+    cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden gebucht …"));
+    m_review.AcceptProposals(progress);
+}
+
+void cStagedActions::ChooseCategory()
+{
+    frmUmsatzKategorie(m_review, m_tree.SelectedIds(), &m_page).exec();
+}
+
+void cStagedActions::MatchRows()
+{
+    cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden abgeglichen …"));
+    m_review.Match(m_tree.SelectedIds(), progress);
+}
+
+void cStagedActions::AssignRow()
+{
+    if (const std::unique_ptr<cAssignListModel> list = m_review.StartAssign(m_tree.SelectedIds())) {
+        frmZuordnung(*list, &m_page).exec();
+    }
+}
+
+void cStagedActions::StartRule()
+{
+    if (const std::unique_ptr<cRuleListModel> rules = m_review.StartRule(m_tree.SelectedIds())) {
+        frmRegeln(*rules, &m_page).exec();
+    }
+}
+
+void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
+{
+    const bool isSelected = m_tree.selectionModel()->isSelected(index);
+    const QList<int> ids = isSelected ? m_tree.SelectedIds() : QList<int>{m_review.Rows().IdAt(index)};
+    if (index.column() == cStagedListModel::Interval) {
+        m_review.Choose(ids, {}, cImportReview::StoredInterval(text));
+    } else {
+        m_review.Choose(ids, text, {});
+    }
+}
+
+void cStagedActions::ShowState()
+{
+    const QList<int> ids = m_tree.SelectedIds();
+    const cCan can = m_review.ActionsFor(ids);
+    for (int id = 0; id < Count; ++id) {
+        Get(static_cast<eId>(id))->setEnabled(can.*lines.at(static_cast<std::size_t>(id)).Can);
+    }
+    Get(Import)->setVisible(!m_review.View().IsOfOneImport());
+}
+
+void cStagedActions::OpenMenu(const QPoint& globalPosition)
+{
+    QMenu menu(&m_page);
+    menu.setToolTipsVisible(true);
+    for (const eId id : {Book, Choose, Assign, Match, Release, Delete}) {
+        menu.addAction(Get(id));
+    }
+    menu.addSeparator();
+    menu.addAction(Get(Rule));
+    menu.addAction(Get(Import));
+    AddGroupLines(menu);
+    // Here there is room for what the action is about.
+    const QString text = Get(Choose)->text();
+    if (Get(Choose)->isEnabled()) {
+        Get(Choose)->setText(m_review.ChoiceTitle(m_tree.SelectedIds()) + u'…');
+    }
+    menu.exec(globalPosition);
+    Get(Choose)->setText(text);
+}
+
+void cStagedActions::AddGroupLines(QMenu& menu)
+{
+    if (m_review.View().Grouping() == 0) {
+        return;
+    }
+    menu.addSeparator();
+    connect(menu.addAction(cText::Tr("Gruppen &aufklappen")), &QAction::triggered, &m_tree, &cStagedTree::ExpandGroups);
+    connect(menu.addAction(cText::Tr("Gruppen &zuklappen")), &QAction::triggered, &m_tree,
+            &cStagedTree::CollapseGroups);
+}

@@ -1,0 +1,176 @@
+#include "windows/statement/cStagedPanel.h"
+
+#include "base/cText.h"
+#include "views/statement/cImportReview.h"
+#include "windows/statement/cStagedActions.h"
+#include "windows/statement/cStagedDelegate.h"
+#include "windows/statement/cStagedTree.h"
+#include "windows/widget/cActionButton.h"
+#include "windows/widget/cElidedText.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int gap = 12; // between what does not belong together
+
+} // namespace
+
+cStagedPanel::cStagedPanel(cImportReview& review, QWidget* parent)
+    : QWidget(parent),
+      m_review(review),
+      m_tree(new cStagedTree(review.Rows(), this)),
+      m_actions(new cStagedActions(review, *m_tree, *this)),
+      m_more(new QMenu(this)),
+      m_showTitle(new QAction(cText::Tr("&Zeile über der Liste zeigen"), this)),
+      m_openOnly(new QCheckBox(cText::Tr("&Nur offene"), this)),
+      m_hideOld(new QCheckBox(cText::Tr("&Ältere ausblenden"), this)),
+      m_grouping(new QComboBox(this)),
+      m_filter(new QLineEdit(this)),
+      m_count(new QLabel(this)),
+      m_title(new cElidedText(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(BuildActions());
+    layout->addLayout(BuildView());
+    layout->addWidget(m_title);
+    layout->addWidget(m_tree, 1);
+    m_tree->SetLayoutText(m_review.View().Layout());
+    Connect();
+    ShowView();
+}
+
+QBoxLayout* cStagedPanel::BuildActions()
+{
+    m_bar = new QHBoxLayout;
+    for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Accept, cStagedActions::Choose,
+                                         cStagedActions::Match, cStagedActions::Assign}) {
+        QAction* action = m_actions->Get(id);
+        auto* button = new cActionButton(action, this);
+        button->setToolTip(action->toolTip());
+        m_bar->addWidget(button);
+    }
+    m_bar->addWidget(BuildMore());
+    m_bar->addStretch();
+    m_bar->addWidget(m_count);
+    return m_bar;
+}
+
+QPushButton* cStagedPanel::BuildMore()
+{
+    m_more->setToolTipsVisible(true);
+    for (const cStagedActions::eId id :
+         {cStagedActions::Release, cStagedActions::Delete, cStagedActions::Rule, cStagedActions::Import}) {
+        m_more->addAction(m_actions->Get(id));
+    }
+    m_more->addSeparator();
+    m_showTitle->setCheckable(true);
+    m_showTitle->setToolTip(cText::Tr("Die Zeile sagt, was aus den markierten Umsätzen wird"));
+    m_more->addAction(m_showTitle);
+    auto* more = new QPushButton(cText::Tr("Me&hr"), this);
+    more->setAutoDefault(false);
+    more->setMenu(m_more);
+    return more;
+}
+
+QBoxLayout* cStagedPanel::BuildView()
+{
+    m_hideOld->setToolTip(
+        cText::Tr("Blendet Umsätze aus, die mehr als drei Monate älter sind als der neueste ihres Kontos"));
+    m_hideOld->setVisible(!m_review.View().IsOfOneImport());
+    m_grouping->addItems(cStagedChoice::Groupings());
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setPlaceholderText(cText::Tr("Name, Zweck, Betrag …"));
+    auto* grouping = new QLabel(cText::Tr("Gru&ppieren:"), this);
+    grouping->setBuddy(m_grouping);
+    auto* filter = new QLabel(cText::Tr("Fil&ter:"), this);
+    filter->setBuddy(m_filter);
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(m_openOnly);
+    bar->addWidget(m_hideOld);
+    bar->addSpacing(gap);
+    bar->addWidget(grouping);
+    bar->addWidget(m_grouping);
+    bar->addSpacing(gap);
+    bar->addWidget(filter);
+    bar->addWidget(m_filter, 1);
+    return bar;
+}
+
+void cStagedPanel::AddFirst(QPushButton* button)
+{
+    m_bar->insertWidget(0, button);
+    setTabOrder(button, m_bar->itemAt(1)->widget());
+}
+
+void cStagedPanel::AddMore(QAction* action)
+{
+    m_more->insertAction(m_showTitle, action);
+}
+
+void cStagedPanel::Connect()
+{
+    cStagedChoice& view = m_review.View();
+    auto* delegate = new cStagedDelegate(
+        [this](int column) {
+            return column == cStagedListModel::Category ? m_review.Categories() : cImportReview::Intervals();
+        },
+        this);
+    m_tree->setItemDelegate(delegate);
+    connect(delegate, &cStagedDelegate::Chosen, m_actions, &cStagedActions::TakeChoice);
+    connect(m_openOnly, &QCheckBox::toggled, &view, &cStagedChoice::SetOpenOnly);
+    connect(m_hideOld, &QCheckBox::toggled, &view, &cStagedChoice::SetOldHidden);
+    connect(m_showTitle, &QAction::toggled, &view, &cStagedChoice::SetTitleShown);
+    connect(m_grouping, &QComboBox::activated, &view, &cStagedChoice::SetGrouping);
+    connect(m_filter, &QLineEdit::textChanged, &view, &cStagedChoice::SetFilter);
+    connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+            m_filter, &QLineEdit::clear);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &cStagedPanel::ShowSelection);
+    connect(&view, &cStagedChoice::Changed, this, &cStagedPanel::ShowView);
+}
+
+void cStagedPanel::ShowView()
+{
+    const cStagedChoice& view = m_review.View();
+    const QSignalBlocker open(m_openOnly);
+    const QSignalBlocker old(m_hideOld);
+    const QSignalBlocker title(m_showTitle);
+    m_openOnly->setChecked(view.IsOpenOnly());
+    m_hideOld->setChecked(view.IsOldHidden());
+    m_showTitle->setChecked(view.IsTitleShown());
+    m_grouping->setCurrentIndex(view.Grouping());
+    m_title->setVisible(view.IsTitleShown());
+    m_tree->SetEmptyText(view.EmptyTitle(), view.EmptyHint());
+    m_count->setText(view.CountText());
+    ShowSelection();
+}
+
+void cStagedPanel::ShowSelection()
+{
+    m_actions->ShowState();
+    if (m_review.View().IsTitleShown()) {
+        m_title->SetText(m_review.SelectionText(m_tree->SelectedIds()));
+    }
+}
+
+void cStagedPanel::ResetLayout()
+{
+    m_tree->SetLayoutText(m_review.View().Layout());
+}
+
+void cStagedPanel::hideEvent(QHideEvent* event)
+{
+    m_review.View().SaveLayout(m_tree->LayoutText());
+    QWidget::hideEvent(event);
+}

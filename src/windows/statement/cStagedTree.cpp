@@ -1,0 +1,335 @@
+#include "windows/statement/cStagedTree.h"
+
+#include "base/cText.h"
+#include "views/list/cListLayout.h"
+#include "views/statement/cStagedListModel.h"
+#include "windows/widget/modEmptyText.h"
+#include "windows/widget/modGroupHead.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QStyle>
+
+#include <array>
+
+namespace {
+
+// Widths in average characters of the font, so that they fit at every font size and scale. A column is never narrower
+// than its title.
+constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{11, 14, 26, 18, 13, 11, 25, 11, 22};
+
+bool IsEnter(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool IsMenuKey(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
+}
+
+} // namespace
+
+cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
+{
+    // Before the base class hears of it and forgets which line stands where.
+    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cStagedTree::KeepSelection);
+    setModel(&m_model);
+    setRootIsDecorated(false); // heads of groups draw their own arrow
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(false); // the cell with the focus is the one that F2 edits
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(DoubleClicked | EditKeyPressed);
+    setSortingEnabled(true);
+    setAccessibleName(cText::Tr("Liste der Bankumsätze"));
+    header()->setStretchLastSection(false);
+    header()->setSectionsMovable(true);
+    header()->setFirstSectionMovable(true);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (column != cStagedListModel::Purpose) {
+            FitPurpose();
+        }
+    });
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &cStagedTree::RestoreSelection);
+    ConnectGroups();
+    SetLayoutText({});
+}
+
+void cStagedTree::ConnectGroups()
+{
+    const auto name = [](const QModelIndex& head) { return head.data(cStagedListModel::NameRole).toString(); };
+    connect(this, &QTreeView::collapsed, this, [=, this](const QModelIndex& head) { m_closed.insert(name(head)); });
+    connect(this, &QTreeView::expanded, this, [=, this](const QModelIndex& head) { m_closed.remove(name(head)); });
+    OpenGroups();
+}
+
+void cStagedTree::ExpandGroups()
+{
+    m_closed.clear();
+    expandToDepth(0);
+}
+
+void cStagedTree::CollapseGroups()
+{
+    for (int group = 0; group < m_model.rowCount(); ++group) {
+        m_closed.insert(m_model.index(group, 0).data(cStagedListModel::NameRole).toString());
+    }
+    collapseAll();
+}
+
+QList<int> cStagedTree::SelectedIds() const
+{
+    return m_model.IdsIn(selectionModel()->selection());
+}
+
+void cStagedTree::SetEmptyText(const QString& title, const QString& hint)
+{
+    m_emptyTitle = title;
+    m_emptyHint = hint;
+    viewport()->update();
+}
+
+QString cStagedTree::LayoutText() const
+{
+    cListLayout layout;
+    for (int visual = 0; visual < header()->count(); ++visual) {
+        const int column = header()->logicalIndex(visual);
+        const bool isFitted = column == cStagedListModel::Purpose;
+        layout.Columns.push_back({column, isFitted ? 0 : header()->sectionSize(column), true});
+    }
+    layout.SortColumn = header()->sortIndicatorSection();
+    layout.IsDescending = header()->sortIndicatorOrder() == Qt::DescendingOrder;
+    return layout.ToText();
+}
+
+int cStagedTree::DefaultWidth(int column) const
+{
+    const int wanted = defaultWidths.at(static_cast<std::size_t>(column)) * fontMetrics().averageCharWidth();
+    // Without the arrow of the sorted column, which only one of them has: the reason is to be in sight as well.
+    const QString title = m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header()) + 1);
+    return qMax(wanted, header()->fontMetrics().horizontalAdvance(title) + margins);
+}
+
+void cStagedTree::SetDefaultColumns()
+{
+    for (int column = 0; column < cStagedListModel::ColumnCount; ++column) {
+        header()->moveSection(header()->visualIndex(column), column);
+        header()->resizeSection(column, DefaultWidth(column));
+    }
+}
+
+void cStagedTree::SetLayoutText(const QString& text)
+{
+    const cListLayout layout = cListLayout::FromText(text, cStagedListModel::ColumnCount).value_or(cListLayout());
+    m_isFitting = true;
+    SetDefaultColumns();
+    int visual = 0;
+    for (const cListLayout::cColumn& column : layout.Columns) {
+        header()->moveSection(header()->visualIndex(column.Column), visual++);
+        if (column.Width > 0) {
+            header()->resizeSection(column.Column, column.Width);
+        }
+    }
+    m_isFitting = false;
+    FitPurpose();
+    const bool isStored = !layout.Columns.empty();
+    sortByColumn(isStored ? layout.SortColumn : int{cStagedListModel::Date},
+                 layout.IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void cStagedTree::FitPurpose()
+{
+    if (m_isFitting) {
+        return;
+    }
+    const int others = header()->length() - header()->sectionSize(cStagedListModel::Purpose);
+    m_isFitting = true;
+    header()->resizeSection(cStagedListModel::Purpose,
+                            qMax(DefaultWidth(cStagedListModel::Purpose), viewport()->width() - others));
+    m_isFitting = false;
+}
+
+cStagedTree::cLine cStagedTree::LineAt(const QModelIndex& index) const
+{
+    return {m_model.IdAt(index), index.siblingAtColumn(0).data(cStagedListModel::NameRole).toString()};
+}
+
+QModelIndex cStagedTree::IndexOf(const cLine& line) const
+{
+    return line.Id != 0 ? m_model.IndexOf(line.Id) : m_model.HeadNamed(line.Head);
+}
+
+// The line of the same kind below, else the one above: after a row comes a row, after a group the next group.
+QModelIndex cStagedTree::Neighbour(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    if (m_model.IsHead(index)) {
+        const int next = index.row() + 1 < m_model.rowCount() ? index.row() + 1 : index.row() - 1;
+        return m_model.index(next, 0);
+    }
+    QModelIndex below = indexBelow(index);
+    while (m_model.IsHead(below)) {
+        below = indexBelow(below);
+    }
+    QModelIndex above = below.isValid() ? QModelIndex() : indexAbove(index);
+    while (m_model.IsHead(above)) {
+        above = indexAbove(above);
+    }
+    return below.isValid() ? below : above;
+}
+
+void cStagedTree::KeepSelection()
+{
+    m_kept = {};
+    QItemSelection rows;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        if (!m_model.IsHead(range.topLeft())) {
+            rows.append(range);
+            continue;
+        }
+        for (int head = range.top(); head <= range.bottom(); ++head) {
+            m_kept.Heads.append(LineAt(m_model.index(head, 0)).Head);
+        }
+    }
+    m_kept.Ids = m_model.IdsIn(rows);
+    m_kept.Current = LineAt(currentIndex());
+    m_kept.Column = qMax(0, currentIndex().column());
+    if (m_kept.Ids.size() + m_kept.Heads.size() == 1) {
+        m_kept.Next = LineAt(Neighbour(currentIndex()));
+    }
+}
+
+void cStagedTree::OpenGroups()
+{
+    for (int group = 0; group < m_model.rowCount(); ++group) {
+        const QModelIndex head = m_model.index(group, 0);
+        if (!m_model.IsHead(head)) {
+            return;
+        }
+        if (!m_closed.contains(head.data(cStagedListModel::NameRole).toString())) {
+            expand(head);
+        }
+    }
+}
+
+void cStagedTree::RestoreSelection()
+{
+    OpenGroups();
+    const bool wasOne = m_kept.Ids.size() + m_kept.Heads.size() == 1;
+    QItemSelection selection = m_model.SelectionOf(m_kept.Ids);
+    for (const QString& name : std::as_const(m_kept.Heads)) {
+        const QModelIndex head = m_model.HeadNamed(name);
+        if (head.isValid()) {
+            selection.append(QItemSelectionRange(head, head.siblingAtColumn(cStagedListModel::ColumnCount - 1)));
+        }
+    }
+    const QModelIndex current = IndexOf(m_kept.Current);
+    const QModelIndex next = wasOne && selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
+    if (next.isValid()) {
+        // A single line that was booked or deleted hands the selection on, so that Enter works down the list.
+        selectionModel()->setCurrentIndex(next.siblingAtColumn(m_kept.Column),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return;
+    }
+    if (current.isValid()) {
+        selectionModel()->setCurrentIndex(current.siblingAtColumn(m_kept.Column), QItemSelectionModel::NoUpdate);
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void cStagedTree::SelectIds(const QList<int>& ids)
+{
+    const QItemSelection selection = m_model.SelectionOf(ids);
+    if (!selection.isEmpty()) {
+        const QModelIndex first = selection.constFirst().topLeft();
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+        scrollTo(first);
+    }
+    setFocus();
+}
+
+// The keys of the list go before those of the main window, where Del means entries of the book.
+bool cStagedTree::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_Delete || (IsEnter(key) && key.modifiers() == Qt::NoModifier) || IsMenuKey(key)) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTreeView::event(event);
+}
+
+void cStagedTree::keyPressEvent(QKeyEvent* event)
+{
+    if (IsEnter(*event)) {
+        Q_EMIT BookRequested();
+    } else if (event->key() == Qt::Key_Delete) {
+        Q_EMIT DeleteRequested();
+    } else if (IsMenuKey(*event)) {
+        OpenMenuAtCurrent();
+    } else {
+        QTreeView::keyPressEvent(event);
+    }
+}
+
+// The arrow of a group opens and closes it and leaves the selection alone.
+void cStagedTree::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex head = indexAt(event->pos()).siblingAtColumn(0);
+    const QRect line(0, visualRect(head).top(), viewport()->width(), visualRect(head).height());
+    if (event->button() == Qt::LeftButton && m_model.IsHead(head)
+        && modGroupHead::ArrowIn(line).contains(event->pos())) {
+        setExpanded(head, !isExpanded(head));
+        return;
+    }
+    QTreeView::mousePressEvent(event);
+}
+
+void cStagedTree::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        OpenMenuAtCurrent();
+    } else {
+        Q_EMIT MenuRequested(event->globalPos());
+    }
+}
+
+void cStagedTree::OpenMenuAtCurrent()
+{
+    const QRect cell = visualRect(currentIndex()).intersected(viewport()->rect());
+    Q_EMIT MenuRequested(viewport()->mapToGlobal(cell.isEmpty() ? QPoint() : cell.bottomLeft()));
+}
+
+void cStagedTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (m_model.IsHead(index)) {
+        modGroupHead::Paint(*this, *painter, option, index, cStagedListModel::Amount);
+    } else {
+        QTreeView::drawRow(painter, option, index);
+    }
+}
+
+void cStagedTree::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_model.rowCount() == 0) {
+        modEmptyText::Paint(*viewport(), m_emptyTitle, m_emptyHint);
+    }
+}
+
+void cStagedTree::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    FitPurpose();
+}

@@ -1,0 +1,279 @@
+#include "windows/statement/frmImportAssistent.h"
+
+#include "base/cText.h"
+#include "windows/statement/cImportPreview.h"
+#include "windows/widget/modPlace.h"
+#include "windows/widget/modTone.h"
+
+#include <QAbstractItemView>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QStyledItemDelegate>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int shownLeftOut = 3; // lines; more of them scroll
+
+// Says behind a number which account of the book it belongs to; what is chosen stays the bare number.
+class cAccountDelegate final : public QStyledItemDelegate
+{
+public:
+    cAccountDelegate(const cImportAssistant& assistant, QObject* parent)
+        : QStyledItemDelegate(parent),
+          m_assistant(assistant)
+    {
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QString account = m_assistant.BookAccount(option->text);
+        if (!account.isEmpty()) {
+            option->text = cText::Tr("{0} – {1}", {option->text, account});
+        }
+    }
+
+private:
+    const cImportAssistant& m_assistant;
+};
+
+} // namespace
+
+frmImportAssistent::frmImportAssistent(cImportAssistant& assistant, QWidget* parent)
+    : QDialog(parent),
+      m_assistant(assistant),
+      m_file(new QLabel(this)),
+      m_format(new QLabel(this)),
+      m_automatic(new QLabel(cImportAssistant::AutomaticTexts().join(u'\n'), this)),
+      m_accountLabel(new QLabel(cText::Tr("&Kontonummer:"), this)),
+      m_account(new QComboBox(this)),
+      m_bankCodeLabel(new QLabel(cText::Tr("&Bankleitzahl:"), this)),
+      m_bankCode(new QLineEdit(this)),
+      m_headerLabel(new QLabel(cText::Tr("&Zeile mit den Spaltennamen:"), this)),
+      m_header(new QSpinBox(this)),
+      m_duplicates(new QCheckBox(cText::Tr("&Identische Buchungen verhindern"), this)),
+      m_payee(new QCheckBox(cText::Tr("&Empfänger als Verwendungszweck, wenn keiner angegeben ist"), this)),
+      m_preview(new cImportPreview(assistant, this)),
+      m_outcome(new QLabel(this)),
+      m_leftOutLabel(new QLabel(cText::Tr("Nicht &oder nur mit Vorbehalt übernommen:"), this)),
+      m_leftOut(new QPlainTextEdit(this))
+{
+    setWindowTitle(cText::Tr("Importassistent"));
+    Build();
+    Connect();
+    Refresh();
+    const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 46);
+    resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+}
+
+void frmImportAssistent::Build()
+{
+    for (QLabel* label : {m_file, m_format, m_outcome}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    QFont bold = font();
+    bold.setBold(true);
+    m_file->setFont(bold);
+    m_leftOutLabel->setBuddy(m_leftOut);
+    m_leftOut->setReadOnly(true);
+    m_leftOut->setTabChangesFocus(true);
+    m_leftOut->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_leftOut->setFixedHeight(fontMetrics().lineSpacing() * (shownLeftOut + 1) + 2 * m_leftOut->frameWidth());
+    auto* options = new QHBoxLayout;
+    options->addWidget(m_duplicates);
+    options->addSpacing(fontMetrics().averageCharWidth() * 3);
+    options->addWidget(m_payee);
+    options->addStretch();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_file);
+    layout->addWidget(m_format);
+    layout->addLayout(BuildFields());
+    layout->addLayout(options);
+    layout->addWidget(m_preview, 1);
+    layout->addWidget(m_outcome);
+    layout->addWidget(m_leftOutLabel);
+    layout->addWidget(m_leftOut);
+    layout->addWidget(BuildButtons());
+    OrderTabs();
+}
+
+// As the fields stand; the preview and the buttons follow.
+void frmImportAssistent::OrderTabs()
+{
+    QList<QWidget*> order{m_account, m_bankCode};
+    for (const cField& field : std::as_const(m_fields)) {
+        order.append(field.Box);
+    }
+    order.insert(3, m_header); // beside the known layout
+    order << m_duplicates << m_payee;
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        setTabOrder(order.at(i - 1), order.at(i));
+    }
+}
+
+QGridLayout* frmImportAssistent::BuildFields()
+{
+    using eField = cImportAssistant::eField;
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
+    BuildAccount(*grid);
+    AddField(*grid, eField::Profile, cText::Tr("Bekannter &Aufbau:"));
+    BuildHeaderLine(*grid);
+    AddField(*grid, eField::Charset, cText::Tr("Zei&chensatz:"));
+    AddField(*grid, eField::Separator, cText::Tr("&Trennzeichen:"));
+    AddField(*grid, eField::Number, cText::Tr("Za&hlen:"));
+    AddField(*grid, eField::Date, cText::Tr("&Datum:"));
+    AddField(*grid, eField::Sign, cText::Tr("&Vorzeichen:"));
+    AddField(*grid, eField::Sheet, cText::Tr("Tabe&llenblatt:"));
+    return grid;
+}
+
+void frmImportAssistent::BuildAccount(QGridLayout& grid)
+{
+    m_account->setEditable(true);
+    m_account->setInsertPolicy(QComboBox::NoInsert);
+    m_account->addItems(m_assistant.Accounts());
+    m_account->setMinimumContentsLength(24);
+    m_account->view()->setItemDelegate(new cAccountDelegate(m_assistant, m_account));
+    grid.addWidget(m_automatic, 0, 0, 1, 4);
+    m_placed = 2;
+    Place(grid, m_accountLabel, m_account);
+    Place(grid, m_bankCodeLabel, m_bankCode);
+}
+
+void frmImportAssistent::BuildHeaderLine(QGridLayout& grid)
+{
+    m_header->setSpecialValueText(cText::Tr("keine"));
+    m_header->setKeyboardTracking(false);
+    Place(grid, m_headerLabel, m_header);
+}
+
+void frmImportAssistent::AddField(QGridLayout& grid, cImportAssistant::eField field, const QString& label)
+{
+    m_fields.append({field, new QLabel(label, this), new QComboBox(this)});
+    Place(grid, m_fields.constLast().Label, m_fields.constLast().Box);
+}
+
+// Two fields stand side by side.
+void frmImportAssistent::Place(QGridLayout& grid, QLabel* label, QWidget* field)
+{
+    label->setBuddy(field);
+    grid.addWidget(label, m_placed / 2, m_placed % 2 * 2);
+    grid.addWidget(field, m_placed / 2, m_placed % 2 * 2 + 1);
+    ++m_placed;
+}
+
+QDialogButtonBox* frmImportAssistent::BuildButtons()
+{
+    auto* buttons = new QDialogButtonBox(this);
+    m_import = buttons->addButton(cText::Tr("I&mportieren"), QDialogButtonBox::AcceptRole);
+    m_import->setDefault(true);
+    buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole);
+    m_reset = buttons->addButton(cText::Tr("&Neu erkennen"), QDialogButtonBox::ResetRole);
+    m_reset->setToolTip(cText::Tr("Verwirft, was hier über die Tabelle gewählt wurde"));
+    connect(m_reset, &QPushButton::clicked, &m_assistant, &cImportAssistant::Reset);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    return buttons;
+}
+
+void frmImportAssistent::Connect()
+{
+    connect(m_account, &QComboBox::editTextChanged, &m_assistant, &cImportAssistant::SetAccount);
+    connect(m_bankCode, &QLineEdit::textEdited, &m_assistant, &cImportAssistant::SetBankCode);
+    connect(m_header, &QSpinBox::valueChanged, &m_assistant, &cImportAssistant::SetHeaderLine);
+    connect(m_duplicates, &QCheckBox::toggled, &m_assistant, &cImportAssistant::SetAvoidsDuplicates);
+    connect(m_payee, &QCheckBox::toggled, &m_assistant, &cImportAssistant::SetUsesPayee);
+    for (const cField& field : std::as_const(m_fields)) {
+        connect(field.Box, &QComboBox::activated, &m_assistant,
+                [this, name = field.Field](int item) { m_assistant.Choose(name, item); });
+    }
+    connect(&m_assistant, &cImportAssistant::Changed, this, &frmImportAssistent::Refresh);
+}
+
+void frmImportAssistent::Refresh()
+{
+    m_file->setText(m_assistant.FileText());
+    m_format->setText(m_assistant.FormatText());
+    ShowAccount();
+    ShowFields();
+    m_preview->Refresh();
+    ShowOutcome();
+}
+
+void frmImportAssistent::ShowAccount()
+{
+    const bool isAsked = m_assistant.AsksAccount();
+    m_automatic->setVisible(!isAsked);
+    for (QWidget* widget : {static_cast<QWidget*>(m_accountLabel), static_cast<QWidget*>(m_account),
+                            static_cast<QWidget*>(m_bankCodeLabel), static_cast<QWidget*>(m_bankCode)}) {
+        widget->setVisible(isAsked);
+    }
+    const QSignalBlocker blocker(m_account);
+    if (m_account->currentText().simplified() != m_assistant.Account()) {
+        m_account->setEditText(m_assistant.Account());
+    }
+    if (m_bankCode->text().simplified() != m_assistant.BankCode()) {
+        m_bankCode->setText(m_assistant.BankCode());
+    }
+    const QString account = m_assistant.BookAccount(m_assistant.Account());
+    m_account->setToolTip(account.isEmpty() ? QString() : cText::Tr("gehört zum Konto {0}", {account}));
+}
+
+void frmImportAssistent::ShowFields()
+{
+    for (const cField& field : std::as_const(m_fields)) {
+        const bool isOffered = m_assistant.IsOffered(field.Field);
+        field.Label->setVisible(isOffered);
+        field.Box->setVisible(isOffered);
+        if (isOffered) {
+            field.Box->clear();
+            field.Box->addItems(m_assistant.Items(field.Field));
+            field.Box->setCurrentIndex(m_assistant.Current(field.Field));
+        }
+    }
+    const bool isTable = m_assistant.IsTable();
+    m_headerLabel->setVisible(isTable);
+    m_header->setVisible(isTable);
+    m_reset->setVisible(isTable);
+    const QSignalBlocker header(m_header);
+    m_header->setRange(0, m_assistant.LastHeaderLine());
+    m_header->setValue(m_assistant.HeaderLine());
+    m_payee->setVisible(m_assistant.OffersPayee());
+    const QSignalBlocker duplicates(m_duplicates);
+    const QSignalBlocker payee(m_payee);
+    m_duplicates->setChecked(m_assistant.AvoidsDuplicates());
+    m_payee->setChecked(m_assistant.UsesPayee());
+}
+
+void frmImportAssistent::ShowOutcome()
+{
+    const QString problem = m_assistant.Problem();
+    QPalette colors = palette();
+    if (!problem.isEmpty()) {
+        colors.setColor(QPalette::WindowText, modTone::Expense(colors));
+    }
+    m_outcome->setPalette(colors);
+    m_outcome->setText(problem.isEmpty() ? m_assistant.CountText() : problem);
+    m_import->setEnabled(problem.isEmpty());
+    const QStringList lines = m_assistant.LeftOut();
+    m_leftOut->setPlainText(lines.join(u'\n'));
+    m_leftOut->setVisible(!lines.isEmpty());
+    m_leftOutLabel->setVisible(!lines.isEmpty());
+}

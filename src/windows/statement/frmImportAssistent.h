@@ -1,0 +1,70 @@
+#pragma once
+
+#include "views/statement/cImportAssistant.h"
+
+#include <QDialog>
+#include <QList>
+
+class cImportPreview;
+class QCheckBox;
+class QComboBox;
+class QDialogButtonBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QSpinBox;
+
+// Shows how a statement file would be read and lets the user change it before anything is taken from it.
+class frmImportAssistent final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // `assistant` outlives the window.
+    explicit frmImportAssistent(cImportAssistant& assistant, QWidget* parent = nullptr);
+
+private:
+    struct cField
+    {
+        cImportAssistant::eField Field;
+        QLabel* Label;
+        QComboBox* Box;
+    };
+
+    void Build();
+    QGridLayout* BuildFields();
+    void BuildAccount(QGridLayout& grid);
+    void BuildHeaderLine(QGridLayout& grid);
+    void AddField(QGridLayout& grid, cImportAssistant::eField field, const QString& label);
+    void Place(QGridLayout& grid, QLabel* label, QWidget* field);
+    QDialogButtonBox* BuildButtons();
+    void OrderTabs();
+    void Connect();
+    void Refresh();
+    void ShowFields();
+    void ShowAccount();
+    void ShowOutcome();
+
+    cImportAssistant& m_assistant;
+    int m_placed = 0; // fields in the grid
+    QLabel* m_file;
+    QLabel* m_format;
+    QLabel* m_automatic;
+    QLabel* m_accountLabel;
+    QComboBox* m_account;
+    QLabel* m_bankCodeLabel;
+    QLineEdit* m_bankCode;
+    QLabel* m_headerLabel;
+    QSpinBox* m_header;
+    QList<cField> m_fields;
+    QCheckBox* m_duplicates;
+    QCheckBox* m_payee;
+    cImportPreview* m_preview;
+    QLabel* m_outcome;
+    QLabel* m_leftOutLabel;
+    QPlainTextEdit* m_leftOut;
+    QPushButton* m_import = nullptr;
+    QPushButton* m_reset = nullptr;
+};

@@ -1,0 +1,275 @@
+#include "windows/statement/frmKontoauszug.h"
+
+#include "base/cText.h"
+#include "model/modWord.h"
+#include "views/statement/cStatementListModel.h"
+#include "windows/main/cSumBar.h"
+#include "windows/statement/cStatementTree.h"
+#include "windows/widget/cDayEdit.h"
+#include "windows/widget/modChoice.h"
+#include "windows/widget/modPlace.h"
+#include "windows/widget/modTone.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QLabel* LabelFor(QWidget& field, const QString& text)
+{
+    auto* label = new QLabel(text, field.parentWidget());
+    label->setBuddy(&field);
+    return label;
+}
+
+} // namespace
+
+frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
+    : QDialog(parent),
+      m_statement(statement),
+      m_account(new QComboBox(this)),
+      m_period(new QComboBox(this)),
+      m_start(new cDayEdit(statement.Today(), this)),
+      m_end(new cDayEdit(statement.Today(), this)),
+      m_filter(new QLineEdit(this)),
+      m_mark(new QFrame(this)),
+      m_finding(new QLabel(this)),
+      m_tree(new cStatementTree(statement, this)),
+      m_sums(new cSumBar(this)),
+      m_entry(new QPushButton(cText::Tr("Ein&trag öffnen"), this)),
+      m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
+      m_print(new QPushButton(cText::Tr("&Drucken…"), this)),
+      m_preview(new QPushButton(cText::Tr("Seitenansi&cht…"), this)),
+      m_export(new QPushButton(cText::Tr("E&xportieren…"), this))
+{
+    setWindowTitle(cText::Tr("Kontoauszug"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    Build();
+    Offer();
+    Connect();
+    ShowDays();
+    ShowRows();
+    m_tree->scrollToBottom();
+    m_tree->setFocus();
+}
+
+void frmKontoauszug::Build()
+{
+    auto* layout = new QVBoxLayout(this);
+    auto* grid = new QGridLayout;
+    BuildFields(*grid);
+    layout->addLayout(grid);
+    layout->addLayout(BuildFinding());
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_sums);
+    layout->addLayout(BuildButtons());
+    const QSize wanted(fontMetrics().averageCharWidth() * 185, fontMetrics().height() * 40);
+    resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+}
+
+void frmKontoauszug::BuildFields(QGridLayout& grid)
+{
+    m_filter->setPlaceholderText(cText::Tr("Wörter, Teile von Wörtern, Betrag oder Datum"));
+    m_filter->setClearButtonEnabled(true);
+    // A long number must not take the room from the text beside it on a small screen.
+    m_account->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_account->setMinimumContentsLength(20);
+    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(m_account, 1);
+    row->addWidget(LabelFor(*m_filter, cText::Tr("&Suchtext:")));
+    row->addWidget(m_filter, 1);
+    grid.setHorizontalSpacing(8);
+    grid.addWidget(LabelFor(*m_account, cText::Tr("&Konto:")), 0, 0);
+    grid.addLayout(row, 0, 1);
+    grid.addWidget(LabelFor(*m_period, cText::Tr("&Zeitraum:")), 1, 0);
+    grid.addLayout(BuildPeriod(), 1, 1);
+    const std::array<QWidget*, 6> order{m_account, m_filter, m_period, m_start, m_end, m_tree};
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        setTabOrder(order.at(i - 1), order.at(i));
+    }
+}
+
+QHBoxLayout* frmKontoauszug::BuildPeriod()
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(m_period);
+    row->addWidget(LabelFor(*m_start, cText::Tr("&von:")));
+    row->addWidget(m_start);
+    row->addWidget(LabelFor(*m_end, cText::Tr("b&is:")));
+    row->addWidget(m_end);
+    row->addStretch();
+    for (cDayEdit* edit : {m_start, m_end}) {
+        edit->setMinimumWidth(edit->sizeHint().width());
+    }
+    m_start->setAccessibleName(cText::Tr("Erster Tag des Zeitraums"));
+    m_end->setAccessibleName(cText::Tr("Letzter Tag des Zeitraums"));
+    return row;
+}
+
+QHBoxLayout* frmKontoauszug::BuildFinding()
+{
+    m_mark->setAutoFillBackground(true);
+    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() / 2);
+    m_finding->setTextFormat(Qt::PlainText);
+    m_finding->setWordWrap(true);
+    m_finding->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_finding->setAccessibleName(cText::Tr("Vergleich der Salden"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_mark);
+    row->addWidget(m_finding, 1);
+    return row;
+}
+
+QHBoxLayout* frmKontoauszug::BuildButtons()
+{
+    m_entry->setToolTip(cText::Tr("Öffnet den Eintrag, als der dieser Umsatz gebucht ist (Eingabetaste)"));
+    m_copy->setToolTip(cText::Tr("Kopiert die markierten Umsätze, sonst alle (Strg+C)"));
+    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    connect(close, &QPushButton::clicked, this, &QDialog::close);
+    auto* row = new QHBoxLayout;
+    for (QPushButton* button : {m_entry, m_copy, m_print, m_preview, m_export}) {
+        row->addWidget(button);
+    }
+    row->addStretch();
+    row->addWidget(close);
+    for (QPushButton* button : {m_entry, m_copy, m_print, m_preview, m_export, close}) {
+        button->setAutoDefault(false); // Enter belongs to the list
+    }
+    return row;
+}
+
+void frmKontoauszug::Offer()
+{
+    const QStringList texts = m_statement.AccountTexts();
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        m_account->addItem(texts.at(i), m_statement.Numbers().at(i));
+    }
+    m_account->setEnabled(!texts.isEmpty());
+    m_account->setCurrentIndex(m_account->findData(m_statement.Number()));
+    modChoice::AddWords(*m_period, modWord::Periods());
+    modChoice::Choose(*m_period, m_statement.Period());
+}
+
+void frmKontoauszug::Connect()
+{
+    connect(m_account, &QComboBox::currentIndexChanged, this, [this] {
+        m_statement.ChooseAccount(m_account->currentData().toString());
+        m_tree->scrollToBottom();
+    });
+    connect(m_period, &QComboBox::currentIndexChanged, this, &frmKontoauszug::ChoosePeriod);
+    for (cDayEdit* edit : {m_start, m_end}) {
+        connect(edit, &cDayEdit::DayEdited, this, [this] {
+            m_statement.ChooseFreeRange({m_start->Day(), m_end->Day()});
+        });
+    }
+    connect(m_filter, &QLineEdit::textChanged, &m_statement, &cStatementListModel::TypeFilter);
+    connect(&m_statement, &cStatementListModel::Changed, this, &frmKontoauszug::ShowRows);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmKontoauszug::ShowButtons);
+    connect(m_tree, &QTreeView::doubleClicked, this, &frmKontoauszug::OpenEntry);
+    connect(m_entry, &QPushButton::clicked, this, &frmKontoauszug::OpenEntry);
+    connect(m_copy, &QPushButton::clicked, this, &frmKontoauszug::Copy);
+    connect(m_print, &QPushButton::clicked, this, &frmKontoauszug::PrintRequested);
+    connect(m_preview, &QPushButton::clicked, this, &frmKontoauszug::PreviewRequested);
+    connect(m_export, &QPushButton::clicked, this, &frmKontoauszug::ExportRequested);
+    connect(new QShortcut(QKeySequence::Copy, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+            this, &frmKontoauszug::Copy);
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+                &frmKontoauszug::OpenEntry);
+    }
+}
+
+void frmKontoauszug::ChoosePeriod()
+{
+    m_statement.ChoosePeriod(m_period->currentData().toString());
+    ShowDays();
+}
+
+void frmKontoauszug::ShowDays()
+{
+    const modPeriod::cRange range = m_statement.Range();
+    m_start->SetDay(range.Start);
+    m_end->SetDay(range.End);
+    m_start->setEnabled(m_statement.IsFreePeriod());
+    m_end->setEnabled(m_statement.IsFreePeriod());
+}
+
+void frmKontoauszug::ShowRows()
+{
+    ShowFinding();
+    m_sums->ShowSums(
+        {m_statement.CountText(), m_statement.IncomeText(), m_statement.ExpenseText(), m_statement.TotalText()});
+    ShowButtons();
+}
+
+void frmKontoauszug::ShowFinding()
+{
+    using eFinding = cStatementListModel::eFinding;
+    const eFinding finding = m_statement.Finding();
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window,
+                    finding == eFinding::Bad
+                        ? modTone::Expense(palette())
+                        : (finding == eFinding::Good ? modTone::Income(palette()) : modTone::Quiet(palette())));
+    m_mark->setPalette(colors);
+    const QString text = m_statement.Findings().join(u'\n');
+    m_finding->setText(text);
+    m_finding->setVisible(!text.isEmpty());
+    m_mark->setVisible(!text.isEmpty());
+}
+
+void frmKontoauszug::ShowButtons()
+{
+    const bool hasRows = m_statement.rowCount() > 0;
+    m_entry->setEnabled(m_statement.EntryOf(m_tree->currentIndex().row()).has_value());
+    for (QPushButton* button : {m_copy, m_print, m_preview, m_export}) {
+        button->setEnabled(hasRows);
+    }
+}
+
+void frmKontoauszug::OpenEntry()
+{
+    const int row = m_tree->currentIndex().row();
+    if (const auto entry = m_statement.EntryOf(row)) {
+        Q_EMIT EntryRequested(entry->first, entry->second);
+        m_tree->setCurrentIndex(m_statement.index(row, 0)); // the rows may have been read again
+    }
+}
+
+std::vector<int> frmKontoauszug::SelectedRows() const
+{
+    std::vector<int> rows;
+    const QModelIndexList selected = m_tree->selectionModel()->selectedRows();
+    for (const QModelIndex& row : selected) {
+        rows.push_back(row.row());
+    }
+    if (rows.empty()) {
+        rows.resize(static_cast<std::size_t>(m_statement.rowCount()));
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void frmKontoauszug::Copy()
+{
+    QApplication::clipboard()->setText(m_statement.TextOf(SelectedRows()));
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QDate>
+#include <QDialog>
+
+#include <vector>
+
+class cStatementListModel;
+class cDayEdit;
+class cSumBar;
+class QComboBox;
+class QFrame;
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTreeView;
+
+// The statement of a bank account: its rows with their balances, and what these are worth beside those of the bank.
+class frmKontoauszug final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // `statement` outlives the window.
+    explicit frmKontoauszug(cStatementListModel& statement, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    void EntryRequested(int entryId, QDate day);
+    void PrintRequested();
+    void PreviewRequested();
+    void ExportRequested();
+
+private:
+    void Build();
+    void BuildFields(QGridLayout& grid);
+    QHBoxLayout* BuildPeriod();
+    QHBoxLayout* BuildFinding();
+    QHBoxLayout* BuildButtons();
+    void Offer(); // the accounts and the periods
+    void Connect();
+    void ChoosePeriod();
+    void ShowDays();
+    void ShowRows(); // all around the list
+    void ShowFinding();
+    void ShowButtons();
+    void OpenEntry();
+    void Copy();
+    [[nodiscard]] std::vector<int> SelectedRows() const; // all when none is selected
+
+    cStatementListModel& m_statement;
+    QComboBox* m_account;
+    QComboBox* m_period;
+    cDayEdit* m_start;
+    cDayEdit* m_end;
+    QLineEdit* m_filter;
+    QFrame* m_mark; // beside the findings, in their colour
+    QLabel* m_finding;
+    QTreeView* m_tree;
+    cSumBar* m_sums;
+    QPushButton* m_entry;
+    QPushButton* m_copy;
+    QPushButton* m_print;
+    QPushButton* m_preview;
+    QPushButton* m_export;
+};

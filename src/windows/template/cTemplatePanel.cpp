@@ -1,0 +1,379 @@
+#include "windows/template/cTemplatePanel.h"
+
+#include "base/cText.h"
+#include "model/modWord.h"
+#include "views/template/cTemplateManager.h"
+#include "windows/widget/modTone.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFormLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int numberLines = 3;
+
+void AddWords(QComboBox& box, const cVocabulary& words)
+{
+    box.addItem(cText::Tr("(keine Vorgabe)"), QString());
+    const QStringList stored = words.Stored();
+    for (const QString& word : stored) {
+        box.addItem(words.ToShown(word), word);
+    }
+}
+
+// Chooses a stored word; one that is not offered, from an older book, is kept as it is.
+void ChooseWord(QComboBox& box, const QString& word)
+{
+    if (box.findData(word) < 0) {
+        box.addItem(word, word);
+    }
+    box.setCurrentIndex(box.findData(word));
+}
+
+QString WithoutMnemonic(QString text)
+{
+    return text.remove(u'&');
+}
+
+} // namespace
+
+cTemplatePanel::cTemplatePanel(QWidget* parent)
+    : QWidget(parent),
+      m_title(new QLabel(this)),
+      m_hint(new QLabel(this)),
+      m_form(new QFormLayout),
+      m_group(new QComboBox(this)),
+      m_name(new QLineEdit(this)),
+      m_bookable(new QCheckBox(this)),
+      m_type(new QComboBox(this)),
+      m_interval(new QComboBox(this)),
+      m_limit(new QLineEdit(this)),
+      m_start(new QLineEdit(this)),
+      m_date(new QDateEdit(this)),
+      m_startRow(new QWidget(this)),
+      m_numbers(new QPlainTextEdit(this)),
+      m_numbersHint(new QLabel(this)),
+      m_comment(new QLineEdit(this)),
+      m_visible(new QCheckBox(this)),
+      m_save(new QPushButton(cText::Tr("&Speichern"), this)),
+      m_discard(new QPushButton(cText::Tr("&Verwerfen"), this)),
+      m_add(new QPushButton(this)),
+      m_merge(new QPushButton(this)),
+      m_rename(new QPushButton(this))
+{
+    Build();
+    BuildFields();
+    BuildButtons();
+    Connect();
+    ShowRows(nullptr);
+}
+
+void cTemplatePanel::Build()
+{
+    QFont font = m_title->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    m_title->setFont(font);
+    m_title->setWordWrap(true);
+    m_title->setTextFormat(Qt::PlainText);
+    for (QLabel* label : {m_hint, m_numbersHint}) {
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText);
+        QPalette quiet = label->palette();
+        quiet.setColor(QPalette::WindowText, modTone::Quiet(quiet));
+        label->setPalette(quiet);
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_title);
+    layout->addWidget(m_hint);
+    layout->addSpacing(fontMetrics().height() / 2);
+    auto* notes = new QHBoxLayout;
+    for (QPushButton* button : {m_add, m_merge, m_rename}) {
+        button->setAutoDefault(false);
+        notes->addWidget(button);
+    }
+    notes->addStretch();
+    layout->addLayout(notes);
+    layout->addLayout(m_form);
+    layout->addStretch();
+    m_form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+}
+
+void cTemplatePanel::AddRow(const QString& text, QWidget* field)
+{
+    auto* label = new QLabel(text, this);
+    m_form->addRow(label, field);
+    label->setBuddy(field == m_startRow ? m_start : field);
+    m_rows.push_back({label, field, text});
+}
+
+void cTemplatePanel::BuildFields()
+{
+    auto* start = new QHBoxLayout(m_startRow);
+    start->setContentsMargins(0, 0, 0, 0);
+    start->addWidget(m_start, 1);
+    start->addWidget(new QLabel(cText::Tr("am"), m_startRow));
+    start->addWidget(m_date);
+    m_date->setCalendarPopup(true);
+    m_date->setDisplayFormat(u"dd.MM.yyyy"_s);
+    m_date->setAccessibleName(cText::Tr("Tag des Startguthabens"));
+    m_group->setEditable(true);
+    m_group->setInsertPolicy(QComboBox::NoInsert);
+    for (QComboBox* box : {m_group, m_type, m_interval}) {
+        box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+    AddWords(*m_type, modWord::EntryTypes());
+    AddWords(*m_interval, modWord::Intervals());
+    for (QLineEdit* amount : {m_limit, m_start}) {
+        amount->setAlignment(Qt::AlignRight);
+    }
+    m_limit->setPlaceholderText(cText::Tr("kein Limit"));
+    m_start->setPlaceholderText(cText::Tr("keines"));
+    m_numbers->setTabChangesFocus(true);
+    m_numbers->setPlaceholderText(cText::Tr("IBAN oder Kontonummer, eine je Zeile"));
+    m_numbers->setFixedHeight(fontMetrics().lineSpacing() * numberLines + fontMetrics().height());
+
+    AddRow(cText::Tr("Nam&e:"), m_name);
+    AddRow(cText::Tr("H&auptkategorie:"), m_group);
+    AddRow({}, m_bookable);
+    AddRow(cText::Tr("&Buchungsart:"), m_type);
+    AddRow(cText::Tr("&Intervall:"), m_interval);
+    AddRow(cText::Tr("&Monatslimit:"), m_limit);
+    AddRow(cText::Tr("Start&guthaben:"), m_startRow);
+    AddRow(cText::Tr("Kontonummern &für Import:"), m_numbers);
+    AddRow({}, m_numbersHint);
+    AddRow(cText::Tr("Beme&rkung:"), m_comment);
+    AddRow({}, m_visible);
+}
+
+void cTemplatePanel::BuildButtons()
+{
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {m_save, m_discard}) {
+        button->setAutoDefault(false);
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    m_form->addRow(QString(), buttons);
+    m_save->setToolTip(cText::Tr("Änderungen werden auch beim Verlassen der Zeile gespeichert"));
+}
+
+void cTemplatePanel::Connect()
+{
+    for (QLineEdit* edit : {m_name, m_limit, m_start, m_comment}) {
+        connect(edit, &QLineEdit::textChanged, this, &cTemplatePanel::ShowChanged);
+    }
+    for (QComboBox* box : {m_group, m_type, m_interval}) {
+        connect(box, &QComboBox::currentTextChanged, this, &cTemplatePanel::ShowChanged);
+    }
+    for (QCheckBox* box : {m_bookable, m_visible}) {
+        connect(box, &QCheckBox::toggled, this, &cTemplatePanel::ShowChanged);
+    }
+    connect(m_bookable, &QCheckBox::toggled, this, &cTemplatePanel::ShowBookable);
+    connect(m_date, &QDateEdit::dateChanged, this, &cTemplatePanel::ShowChanged);
+    connect(m_numbers, &QPlainTextEdit::textChanged, this, &cTemplatePanel::ShowChanged);
+    connect(m_save, &QPushButton::clicked, this, &cTemplatePanel::SaveRequested);
+    connect(m_discard, &QPushButton::clicked, this, &cTemplatePanel::DiscardRequested);
+    connect(m_add, &QPushButton::clicked, this, &cTemplatePanel::AddRequested);
+    connect(m_merge, &QPushButton::clicked, this, &cTemplatePanel::MergeRequested);
+    connect(m_rename, &QPushButton::clicked, this, &cTemplatePanel::RenameRequested);
+}
+
+void cTemplatePanel::ShowRow(const QWidget* field, bool isShown)
+{
+    const auto row =
+        std::find_if(m_rows.begin(), m_rows.end(), [field](const cRow& each) { return each.Field == field; });
+    row->Label->setText(isShown ? row->Text : WithoutMnemonic(row->Text));
+    m_form->setRowVisible(row->Field, isShown);
+}
+
+void cTemplatePanel::SetText(const QWidget* field, const QString& text)
+{
+    const auto row =
+        std::find_if(m_rows.begin(), m_rows.end(), [field](const cRow& each) { return each.Field == field; });
+    row->Text = text;
+}
+
+// Which fields a line has; null for a line without any.
+void cTemplatePanel::ShowRows(const cTemplateNode* node)
+{
+    const bool isMain = node != nullptr && node->Kind == eTemplateNode::Main;
+    const bool isAccount = node != nullptr && node->Kind == eTemplateNode::Account;
+    const bool isCategory = node != nullptr && !isAccount;
+    SetText(m_limit, isAccount ? cText::Tr("Kontol&imit:") : cText::Tr("&Monatslimit:"));
+    m_limit->setToolTip(
+        isAccount ? cText::Tr("Fällt der Kontostand in den nächsten 60 Tagen darunter, warnt die Kontenliste.")
+                  : QString());
+    SetText(m_group, isAccount ? cText::Tr("Gru&ppe:") : cText::Tr("H&auptkategorie:"));
+    ShowRow(m_name, node != nullptr);
+    ShowRow(m_group, node != nullptr && !isMain);
+    ShowRow(m_bookable, isMain);
+    ShowRow(m_type, isCategory);
+    ShowRow(m_interval, isCategory);
+    ShowRow(m_limit, node != nullptr);
+    ShowRow(m_startRow, isAccount);
+    ShowRow(m_numbers, isAccount);
+    ShowRow(m_numbersHint, isAccount && !m_numbersHint->text().isEmpty());
+    ShowRow(m_comment, node != nullptr);
+    ShowRow(m_visible, node != nullptr);
+    m_bookable->setText(isMain ? cText::Tr("&Direkt bebuchbar, ohne Unterkategorie") : QString());
+    const QString visible =
+        isAccount ? cText::Tr("Offenes Konto, &wird angeboten") : cText::Tr("In Aus&wahllisten anbieten");
+    m_visible->setText(node == nullptr ? QString() : visible);
+    m_save->setVisible(node != nullptr && !m_isReadOnly);
+    m_discard->setVisible(node != nullptr && !m_isReadOnly);
+    m_hasFields = node != nullptr;
+    for (QPushButton* button : {m_add, m_merge, m_rename}) {
+        button->setVisible(false);
+        button->setText(QString());
+    }
+}
+
+void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& groups)
+{
+    const bool isAccount = m_kind == eTemplateNode::Account;
+    m_name->setText(fields.Name);
+    m_group->clear();
+    m_group->addItems(groups);
+    m_group->setCurrentText(fields.Group);
+    m_bookable->setChecked(fields.IsBookable);
+    ChooseWord(*m_type, fields.Type);
+    ChooseWord(*m_interval, fields.Interval);
+    m_limit->setText(isAccount ? fields.Limit : fields.Amount);
+    m_start->setText(isAccount ? fields.Amount : QString());
+    m_date->setDate(fields.Date);
+    m_numbers->setPlainText(fields.Numbers);
+    m_comment->setText(fields.Comment);
+    m_comment->setCursorPosition(0);
+    m_visible->setChecked(fields.IsVisible);
+}
+
+void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNode* node)
+{
+    if (node == nullptr) {
+        m_title->clear();
+        m_hint->setText(cText::Tr("Hier ist noch nichts angelegt."));
+        ShowRows(nullptr);
+        return;
+    }
+    m_kind = node->Kind;
+    m_title->setText(manager.Title(*node));
+    m_hint->setText(manager.Hint(*node));
+    const bool isOfAccounts = node->IsOfAccounts();
+    m_numbersHint->setText(isOfAccounts ? manager.NumbersHint() : QString());
+    m_numbersHint->setMinimumHeight(m_numbersHint->heightForWidth(m_numbers->width())); // a form cuts wrapped lines
+    if (const std::optional<cTemplateFields> fields = manager.Load(*node)) {
+        ShowFields(*node, *fields, isOfAccounts ? manager.Groups() : manager.Mains());
+        m_name->setEnabled(!manager.IsNameFixed(*node));
+        m_group->setEnabled(!manager.IsNameFixed(*node) && !m_isReadOnly);
+    } else {
+        ShowNote(*node);
+    }
+}
+
+void cTemplatePanel::ShowFields(const cTemplateNode& node, const cTemplateFields& fields, const QStringList& groups)
+{
+    m_hasFields = false; // what changes now is nobody's change
+    Fill(fields, groups);
+    ShowRows(&node);
+    ShowBookable();
+    TakeAsLoaded();
+}
+
+void cTemplatePanel::ShowNote(const cTemplateNode& node)
+{
+    ShowRows(nullptr);
+    const auto show = [this](QPushButton* button, bool isShown, const QString& text) {
+        button->setVisible(isShown && !m_isReadOnly);
+        button->setText(isShown ? text : QString());
+    };
+    show(m_add, node.IsUnknown(), cText::Tr("&Anlegen"));
+    show(m_merge, node.IsUnknown(), cText::Tr("&Buchungen verschieben…"));
+    show(m_rename, node.Kind == eTemplateNode::Group, cText::Tr("Gruppe umb&enennen…"));
+}
+
+void cTemplatePanel::SetReadOnly(bool isReadOnly)
+{
+    m_isReadOnly = isReadOnly;
+    for (QWidget* field : QWidgetList{m_bookable, m_type, m_interval, m_date, m_visible, m_group}) {
+        field->setEnabled(!isReadOnly);
+    }
+    for (QLineEdit* edit : {m_name, m_limit, m_start, m_comment}) {
+        edit->setReadOnly(isReadOnly);
+    }
+    m_numbers->setReadOnly(isReadOnly);
+}
+
+// The defaults belong to the main category itself; without it there is nothing that could have them.
+void cTemplatePanel::ShowBookable()
+{
+    const bool hasDefaults = m_kind != eTemplateNode::Main || m_bookable->isChecked();
+    for (QWidget* field : QWidgetList{m_type, m_interval, m_limit, m_comment}) {
+        field->setEnabled(hasDefaults && (!m_isReadOnly || field == m_limit || field == m_comment));
+    }
+}
+
+cTemplateFields cTemplatePanel::Fields() const
+{
+    cTemplateFields fields;
+    const bool isAccount = m_kind == eTemplateNode::Account;
+    fields.Name = m_name->text();
+    fields.Group = m_group->currentText();
+    fields.Type = m_type->currentData().toString();
+    fields.Interval = m_interval->currentData().toString();
+    fields.Amount = isAccount ? m_start->text() : m_limit->text();
+    fields.Limit = isAccount ? m_limit->text() : QString();
+    fields.Date = m_date->date();
+    fields.Numbers = m_numbers->toPlainText();
+    fields.Comment = m_comment->text();
+    fields.IsVisible = m_visible->isChecked();
+    fields.IsBookable = m_bookable->isChecked();
+    return fields;
+}
+
+// Escape gives up what was typed before it closes the window.
+void cTemplatePanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && IsChanged()) {
+        Q_EMIT DiscardRequested();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool cTemplatePanel::IsChanged() const
+{
+    return m_hasFields && !m_isReadOnly && Fields() != m_loaded;
+}
+
+void cTemplatePanel::TakeAsLoaded()
+{
+    m_loaded = Fields();
+    ShowChanged();
+}
+
+void cTemplatePanel::ShowChanged()
+{
+    const bool isChanged = IsChanged();
+    m_save->setEnabled(isChanged);
+    m_save->setDefault(isChanged);
+    m_discard->setEnabled(isChanged);
+}
+
+void cTemplatePanel::EditName()
+{
+    m_name->setFocus(Qt::ShortcutFocusReason);
+    m_name->selectAll();
+}

@@ -1,0 +1,128 @@
+#include "windows/widget/cDayEdit.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "base/modDayText.h"
+#include "windows/widget/modIcon.h"
+#include "windows/widget/modPopup.h"
+#include "windows/widget/modTone.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCalendarWidget>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QTextCharFormat>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The day after a step key; invalid for all other keys.
+QDate Stepped(QDate day, int key)
+{
+    switch (key) {
+    case Qt::Key_Up: return day.addDays(1);
+    case Qt::Key_Down: return day.addDays(-1);
+    case Qt::Key_PageUp: return day.addMonths(1);
+    case Qt::Key_PageDown: return day.addMonths(-1);
+    default: return {};
+    }
+}
+
+bool OpensCalendar(const QKeyEvent& event)
+{
+    return (event.key() == Qt::Key_F4 && event.modifiers() == Qt::NoModifier)
+        || (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
+}
+
+} // namespace
+
+cDayEdit::cDayEdit(QDate today, QWidget* parent) : QLineEdit(parent), m_today(today)
+{
+    QAction* calendar = addAction(modIcon::Get(u"kalender"_s), QLineEdit::TrailingPosition);
+    calendar->setToolTip(cText::Tr("Kalender (F4)"));
+    calendar->setText(cText::Tr("Kalender"));
+    connect(calendar, &QAction::triggered, this, &cDayEdit::OpenCalendar);
+    connect(this, &QLineEdit::textEdited, this, &cDayEdit::DayEdited);
+    setToolTip(cText::Tr("Auch 3, 3.5., +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender"));
+}
+
+void cDayEdit::SetDay(QDate day)
+{
+    setText(modDate::ToGerman(day));
+}
+
+QDate cDayEdit::Day() const
+{
+    return modDayText::Read(text(), m_today);
+}
+
+QSize cDayEdit::sizeHint() const
+{
+    const QSize hint = QLineEdit::sizeHint();
+    return {fontMetrics().horizontalAdvance(u"00.00.00000"_s) + 3 * hint.height() / 2, hint.height()};
+}
+
+void cDayEdit::Pick(QDate day)
+{
+    SetDay(day);
+    selectAll();
+    Q_EMIT textEdited(text()); // the user did it, if not letter by letter
+}
+
+void cDayEdit::OpenCalendar()
+{
+    auto* popup = new QWidget(this, Qt::Popup);
+    popup->setAttribute(Qt::WA_DeleteOnClose);
+    auto* calendar = new QCalendarWidget(popup);
+    auto* layout = new QVBoxLayout(popup);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(calendar);
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    QTextCharFormat weekend;
+    weekend.setForeground(modTone::Expense(palette())); // readable on dark windows too
+    calendar->setWeekdayTextFormat(Qt::Saturday, weekend);
+    calendar->setWeekdayTextFormat(Qt::Sunday, weekend);
+    calendar->setSelectedDate(Day().isValid() ? Day() : m_today);
+    const auto take = [this, popup](QDate day) {
+        popup->close();
+        Pick(day);
+    };
+    connect(calendar, &QCalendarWidget::clicked, this, take);
+    connect(calendar, &QCalendarWidget::activated, this, take);
+    popup->adjustSize();
+    popup->move(modPopup::Below(*this, popup->size()));
+    popup->show();
+    calendar->setFocus();
+}
+
+void cDayEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (OpensCalendar(*event)) {
+        OpenCalendar();
+        return;
+    }
+    const QDate day = Stepped(Day().isValid() ? Day() : m_today, event->key());
+    if (day.isValid() && event->modifiers() == Qt::NoModifier) {
+        Pick(day);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void cDayEdit::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::MouseFocusReason) {
+        QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+    }
+}
+
+void cDayEdit::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::PopupFocusReason && Day().isValid()) {
+        SetDay(Day());
+    }
+    QLineEdit::focusOutEvent(event);
+}

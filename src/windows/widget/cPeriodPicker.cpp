@@ -1,0 +1,76 @@
+#include "windows/widget/cPeriodPicker.h"
+
+#include "base/cText.h"
+#include "model/modWord.h"
+#include "views/statistics/cStatisticsPeriod.h"
+#include "windows/widget/modChoice.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QLabel>
+#include <QLocale>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+cPeriodPicker::cPeriodPicker(QWidget* parent)
+    : QWidget(parent),
+      m_name(new QComboBox(this)),
+      m_first(MakeMonths(cText::Tr("Erster Monat"))),
+      m_last(MakeMonths(cText::Tr("Letzter Monat"))),
+      m_year(new QSpinBox(this))
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    modChoice::AddWords(*m_name, modWord::Periods());
+    m_name->setMaxVisibleItems(m_name->count());
+    m_name->setAccessibleName(cText::Tr("Zeitraum"));
+    m_year->setRange(cStatisticsPeriod::FirstYear, cStatisticsPeriod::LastYear);
+    m_year->setSpecialValueText(QStringLiteral("–")); // an open end
+    m_year->setKeyboardTracking(false);
+    m_year->setAccessibleName(cText::Tr("Jahr"));
+    layout->addWidget(m_name);
+    Add(cText::Tr("von"), m_first);
+    Add(cText::Tr("bis"), m_last);
+    layout->addWidget(m_year);
+    layout->addStretch();
+    connect(m_name, &QComboBox::activated, this, [this] { Q_EMIT PeriodChosen(m_name->currentData().toString()); });
+    connect(m_first, &QComboBox::activated, this, [this](int index) { Q_EMIT FirstMonthChosen(index + 1); });
+    connect(m_last, &QComboBox::activated, this, [this](int index) { Q_EMIT LastMonthChosen(index + 1); });
+    connect(m_year, &QSpinBox::valueChanged, this, &cPeriodPicker::YearChosen);
+}
+
+QComboBox* cPeriodPicker::MakeMonths(const QString& name)
+{
+    auto* months = new QComboBox(this);
+    const QLocale locale;
+    for (int month = 1; month <= 12; ++month) {
+        months->addItem(locale.standaloneMonthName(month, QLocale::ShortFormat));
+    }
+    months->setMaxVisibleItems(months->count());
+    months->setAccessibleName(name);
+    return months;
+}
+
+void cPeriodPicker::Add(const QString& text, QWidget* field)
+{
+    layout()->addWidget(new QLabel(text, this));
+    layout()->addWidget(field);
+}
+
+void cPeriodPicker::ShowPeriod(const cStatisticsPeriod& period, const modPeriod::cRange& range)
+{
+    const QSignalBlocker yearBlocker(m_year);
+    modChoice::Choose(*m_name, period.Name);
+    const auto show = [&](QComboBox& months, QDate day, int chosen) {
+        months.setCurrentIndex(period.IsFree() ? chosen - 1 : day.isValid() ? day.month() - 1 : -1);
+        months.setEnabled(period.IsFree());
+    };
+    const bool isOneYear = range.Start.year() == range.End.year(); // else the year does not belong to the first month
+    show(*m_first, isOneYear ? range.Start : QDate(), period.FirstMonth);
+    show(*m_last, range.End, period.LastMonth);
+    m_year->setValue(period.IsFree()           ? period.Year
+                         : range.End.isValid() ? range.End.year()
+                                               : cStatisticsPeriod::FirstYear);
+    m_year->setEnabled(period.IsFree());
+}

@@ -1,0 +1,16 @@
+#include "windows/widget/cRowDelegate.h"
+
+#include "windows/widget/modTone.h"
+
+QSize cRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const
+{
+    return {120, RowHeight(option.fontMetrics)};
+}
+
+void cRowDelegate::SetTone(QStyleOptionViewItem& option, int tone)
+{
+    if (tone != 0) {
+        option.palette.setColor(QPalette::Text,
+                                tone == 1 ? modTone::Income(option.palette) : modTone::Expense(option.palette));
+    }
+}

@@ -1,0 +1,21 @@
+#include "windows/widget/cStyle.h"
+
+#include "windows/widget/modIcon.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+int cStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* more) const
+{
+    // The toolkit would give pictures only to those buttons whose text it knows.
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+}
+
+QIcon cStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_ToolBarHorizontalExtensionButton: return modIcon::Get(u"mehr"_s);
+    case SP_ToolBarVerticalExtensionButton: return modIcon::Get(u"mehr-unten"_s);
+    case SP_LineEditClearButton: return modIcon::Get(u"leeren"_s);
+    default: return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}

@@ -1,0 +1,46 @@
+#include "windows/widget/modPlace.h"
+
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+// What has to be in sight to drag a window with the mouse: pixels of its upper edge.
+constexpr int gripWidth = 100;
+constexpr int gripHeight = 20;
+// What the frame of a window takes at the most; it is known only after the window was shown.
+constexpr int frameWidth = 16;
+constexpr int frameHeight = 48;
+
+} // namespace
+
+QList<QRect> modPlace::FreeAreas(const QScreen& first)
+{
+    QList<QRect> areas{first.availableGeometry()};
+    const QList<QScreen*> screens = first.virtualSiblings();
+    for (const QScreen* screen : screens) {
+        areas.append(screen->availableGeometry());
+    }
+    return areas;
+}
+
+QSize modPlace::Fitting(const QSize& wanted, const QRect& screen)
+{
+    return wanted.boundedTo({screen.width() - frameWidth, screen.height() - frameHeight});
+}
+
+QRect modPlace::Visible(const QRect& place, const QList<QRect>& screens)
+{
+    const QRect edge(place.left(), place.top(), place.width(), gripHeight);
+    const bool isInReach = std::any_of(screens.begin(), screens.end(), [&](const QRect& screen) {
+        const QRect seen = screen.intersected(edge);
+        return seen.width() >= std::min(gripWidth, place.width()) && seen.height() == gripHeight;
+    });
+    if (isInReach || screens.isEmpty()) {
+        return place;
+    }
+    QRect moved(QPoint(), place.size().boundedTo(screens.constFirst().size()));
+    moved.moveCenter(screens.constFirst().center());
+    return moved;
+}

@@ -1,0 +1,314 @@
+#include "core/cAmountFormat.h"
+#include "import/propose/cOwnRules.h"
+#include "support/testBook.h"
+#include "views/statement/cRuleListModel.h"
+#include "views/statement/modRuleText.h"
+#include "views/template/cTemplateManager.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cOwnRule Rule(const QString& text, const QString& category = u"Haushalt; Lebensmittel"_s)
+{
+    cOwnRule rule;
+    rule.Text = text;
+    rule.Category = category;
+    return rule;
+}
+
+struct cScene : cTestBook
+{
+    cImportEntry Stage(double value, const QString& name, const QString& purpose = {})
+    {
+        cImportEntry row;
+        row.ImportAccount = u"1234567"_s;
+        row.ImportDate = QDate(2026, 3, 3).addDays(++m_count);
+        row.ImportBeneficiary = name;
+        row.ImportPurpose = purpose;
+        row.ImportValue = value;
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+        return row;
+    }
+
+    void Keep(const QList<cOwnRule>& rules) { QVERIFY(cOwnRules(*Settings).Save(rules)); }
+
+    // The stored texts in their order; those that are switched off in brackets.
+    QStringList Texts()
+    {
+        QStringList texts;
+        for (const cOwnRule& rule : cOwnRules(*Settings).Load()) {
+            texts.append(rule.IsOn ? rule.Text : u'(' + rule.Text + u')');
+        }
+        return texts;
+    }
+
+    cRuleListModel::cParts Parts() { return {Data, *Settings, Format, User}; }
+
+    cAmountFormat Format{Configuration};
+
+private:
+    int m_count = 0;
+};
+
+QStringList Counts(const cRuleListModel& list)
+{
+    QStringList counts;
+    for (int place = 0; place < list.rowCount(); ++place) {
+        counts.append(list.index(place, cRuleListModel::Count).data().toString());
+    }
+    return counts;
+}
+
+} // namespace
+
+class testRuleListModel final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Problems_data() const;
+    void Problems() const;
+    void AddsAndChanges() const;
+    void Refused() const;
+    void LeavingAsks() const;
+    void OrderAndSwitch() const;
+    void DeleteAsks() const;
+    void EachChangeIsUndone() const;
+    void Trial() const;
+    void FromARow() const;
+    void UnreadableStays() const;
+    void RenamedCategoriesAndAccounts() const;
+    void Words() const;
+};
+
+void testRuleListModel::Problems_data() const
+{
+    QTest::addColumn<cOwnRule>("rule");
+    QTest::addColumn<QString>("problem"); // its beginning
+    cOwnRule bare;
+    bare.Category = u"Haushalt; Lebensmittel"_s;
+    QTest::newRow("no condition") << bare << u"Bitte geben Sie an, woran"_s;
+    bare.Sign = eRuleSign::In;
+    QTest::newRow("a sign is one") << bare << QString();
+    QTest::newRow("nothing to set") << Rule(u"rewe"_s, {}) << u"Bitte geben Sie an, was"_s;
+    QTest::newRow("mere separators") << Rule(u" | "_s) << u"Der Text ' | ' passt auf jeden"_s;
+    QTest::newRow("an alternative of wildcards") << Rule(u"rewe|*?"_s) << u"Der Text 'rewe|*?' passt auf jeden"_s;
+    QTest::newRow("no such category") << Rule(u"rewe"_s, u"Rohrpost"_s) << u"Die Kategorie 'Rohrpost' gibt"_s;
+}
+
+void testRuleListModel::Problems() const
+{
+    QFETCH(const cOwnRule, rule);
+    QFETCH(const QString, problem);
+    cScene scene;
+    cRuleListModel list(scene.Parts());
+    list.SetDraft(rule);
+    QCOMPARE(list.Save(), problem.isEmpty());
+    QCOMPARE(scene.User.Shown.size(), problem.isEmpty() ? 0 : 1);
+    QVERIFY(scene.User.Shown.value(0).startsWith(problem));
+    QCOMPARE(list.rowCount(), problem.isEmpty() ? 1 : 0);
+}
+
+void testRuleListModel::AddsAndChanges() const
+{
+    cScene scene;
+    cRuleListModel list(scene.Parts());
+    const QSignalSpy changes(&list, &cRuleListModel::RulesChanged);
+    QVERIFY(list.IsNew() && !list.IsChanged());
+    list.SetDraft(Rule(u"rewe"_s));
+    QVERIFY(list.IsChanged());
+    QVERIFY(list.Save());
+    QVERIFY(!list.IsNew() && !list.IsChanged());
+    list.SetDraft(Rule(u"edeka"_s));
+    QVERIFY(list.Save());
+    list.StartNew();
+    list.SetDraft(Rule(u"aldi"_s));
+    QVERIFY(list.Save());
+    QCOMPARE(list.Place(), 1);
+    QCOMPARE(scene.Texts(), QStringList({u"edeka"_s, u"aldi"_s}));
+    QCOMPARE(changes.size(), 3);
+    QCOMPARE(cRuleListModel(scene.Parts()).Draft().Text, u"edeka"_s);
+}
+
+void testRuleListModel::Refused() const
+{
+    cScene scene;
+    scene.Keep({Rule(u"rewe"_s)});
+    cRuleListModel list(scene.Parts());
+    scene.Database.Execute("CREATE TRIGGER stop BEFORE UPDATE ON setting BEGIN SELECT RAISE(ABORT, 'voll'); END");
+    list.SetDraft(Rule(u"edeka"_s));
+    QVERIFY(!list.Save());
+    QCOMPARE(list.index(0, cRuleListModel::Rule).data().toString(), u"Text enthält „rewe“"_s);
+    QVERIFY(list.IsChanged()); // what was typed is still there
+    QCOMPARE(scene.User.Shown.size(), 1);
+}
+
+void testRuleListModel::LeavingAsks() const
+{
+    cScene scene;
+    scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
+    cRuleListModel list(scene.Parts());
+    QVERIFY(list.Choose(1));
+    QVERIFY(scene.User.Asked.isEmpty());
+    list.SetDraft(Rule(u"c"_s));
+    scene.User.Answers = {eAnswer::Cancel, eAnswer::No};
+    QVERIFY(!list.Choose(0));
+    QCOMPARE(list.Draft().Text, u"c"_s);
+    QVERIFY(list.Choose(0));
+    QCOMPARE(scene.Texts(), QStringList({u"a"_s, u"b"_s}));
+    // What is stored on leaving may push the rule that was chosen; it is opened all the same.
+    list.StartFrom(scene.Stage(-1, u"a"_s), u"Haushalt; Lebensmittel"_s);
+    scene.User.Answers = {eAnswer::Yes};
+    QVERIFY(list.Choose(1));
+    QCOMPARE(scene.Texts(), QStringList({u""_s, u"a"_s, u"b"_s}));
+    QCOMPARE(list.Draft().Text, u"b"_s);
+    list.SetDraft(Rule({}, {}));
+    scene.User.Answers = {eAnswer::Yes};
+    QVERIFY(!list.Leave()); // it cannot be stored like this
+}
+
+void testRuleListModel::OrderAndSwitch() const
+{
+    cScene scene;
+    scene.Stage(-1, u"REWE"_s);
+    scene.Stage(-2, u"REWE Süd"_s);
+    scene.Keep({Rule(u"rewe"_s), Rule(u"süd"_s), Rule(u"nord"_s)});
+    cRuleListModel list(scene.Parts());
+    QCOMPARE(Counts(list), QStringList({u"2"_s, u"0"_s, u"0"_s}));
+    QVERIFY(!list.CanMove(0, cRuleListModel::eMove::Up) && !list.CanMove(2, cRuleListModel::eMove::Down));
+    QVERIFY(list.Move(1, cRuleListModel::eMove::Up));
+    QCOMPARE(list.Place(), 0);
+    QCOMPARE(Counts(list), QStringList({u"1"_s, u"1"_s, u"0"_s}));
+    QVERIFY(list.setData(list.index(0, cRuleListModel::Rule), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(!list.IsChanged());
+    QCOMPARE(Counts(list), QStringList({u"0"_s, u"2"_s, u"0"_s}));
+    QVERIFY(list.MoveTo(0, 2));
+    QCOMPARE(scene.Texts(), QStringList({u"rewe"_s, u"nord"_s, u"(süd)"_s}));
+}
+
+void testRuleListModel::DeleteAsks() const
+{
+    cScene scene;
+    scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
+    cRuleListModel list(scene.Parts());
+    scene.User.Answers = {eAnswer::No, eAnswer::Yes, eAnswer::Yes};
+    QVERIFY(!list.Delete(1));
+    QVERIFY(scene.User.Asked.constFirst().contains(u"„b“"));
+    QVERIFY(list.Delete(1));
+    QCOMPARE(list.Draft().Text, u"a"_s);
+    QVERIFY(list.Delete(0));
+    QVERIFY(list.IsNew());
+    QVERIFY(scene.Texts().isEmpty());
+}
+
+void testRuleListModel::EachChangeIsUndone() const
+{
+    cScene scene;
+    scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
+    cRuleListModel list(scene.Parts());
+    QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
+    scene.User.Answers = {eAnswer::Yes};
+    QVERIFY(list.Delete(0));
+    QCOMPARE(scene.Data.UndoName(), u"Regel gelöscht"_s);
+    QVERIFY(scene.Data.Undo());
+    QVERIFY(scene.Data.Undo());
+    scene.Settings->Reload();
+    QCOMPARE(scene.Texts(), QStringList({u"a"_s, u"b"_s}));
+}
+
+void testRuleListModel::Trial() const
+{
+    cScene scene;
+    QCOMPARE(cRuleListModel(scene.Parts()).TrialText().section(u',', 0, 0), u"Es sind keine Umsätze eingelesen"_s);
+    for (int i = 0; i < 7; ++i) {
+        scene.Stage(-1.5, u"REWE %1"_s.arg(i));
+    }
+    scene.Stage(9, u"Tann"_s);
+    scene.Keep({Rule(u"rewe 6"_s), Rule(u"tann"_s)});
+    cRuleListModel list(scene.Parts());
+    list.StartNew();
+    QCOMPARE(list.TrialText(), u"passt auf 0 von 8 Umsätzen"_s);
+    QVERIFY(list.Examples().isEmpty());
+    list.SetDraft(Rule(u"rewe"_s));
+    QCOMPARE(list.TrialText(), u"passt auf 7 von 8 Umsätzen; bei 1 davon gilt schon eine Regel weiter oben"_s);
+    // The newest first, but before all those that the rule really gets.
+    QCOMPARE(list.Examples().size(), 5);
+    QVERIFY(list.Examples().constFirst().endsWith(u"REWE 5"));
+}
+
+void testRuleListModel::FromARow() const
+{
+    cScene scene;
+    const cImportEntry row = scene.Stage(-1, u"Korn"_s, u"Brot"_s);
+    scene.Keep({Rule(u"a"_s), Rule(u"brot"_s), Rule(u"c"_s)});
+    cRuleListModel list(scene.Parts());
+    list.StartFrom(row, u"Haushalt; Getränke"_s, u"Monatlich"_s);
+    QCOMPARE(list.Draft().Counterparty, u"Korn"_s);
+    QCOMPARE(list.Draft().Sign, eRuleSign::Out);
+    QCOMPARE(list.TrialText(), u"passt auf 1 von 1 Umsätzen"_s);
+    QVERIFY(list.IsChanged());
+    QVERIFY(list.Save());
+    // Before the one that had the transaction, else it would never come to it.
+    QCOMPARE(Counts(list), QStringList({u"0"_s, u"1"_s, u"0"_s, u"0"_s}));
+    QCOMPARE(list.index(1, cRuleListModel::Result).data().toString(), u"Haushalt; Getränke, Monatlich"_s);
+}
+
+void testRuleListModel::UnreadableStays() const
+{
+    cScene scene;
+    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A\n"_s);
+    cRuleListModel list(scene.Parts());
+    QVERIFY(!list.CanEdit() && !list.Save());
+    QVERIFY(!list.Switch(0, true));
+    QVERIFY(!list.flags(list.index(0, cRuleListModel::Rule)).testFlag(Qt::ItemIsUserCheckable));
+    QCOMPARE(list.index(0, cRuleListModel::Rule).data().toString(), u"nicht lesbar: 2;kind=later"_s);
+    QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
+    QCOMPARE(scene.Settings->Get(u"OwnRules"_s), u"1;text=a;category=A\n2;kind=later"_s);
+}
+
+// Rules follow what they name, and come back with it.
+void testRuleListModel::RenamedCategoriesAndAccounts() const
+{
+    cScene scene;
+    cOwnRule rule = Rule(u"rewe"_s);
+    rule.Account = u"Girokonto"_s;
+    const cOwnRule other = Rule(u"x"_s, u"Haushaltshilfe"_s); // begins alike, and is another one
+    scene.Keep({rule, other});
+    cTemplateManager manager({scene.Data, *scene.Settings, scene.Format, scene.User, scene.Clock});
+    QVERIFY(manager.RenameCategory(u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s));
+    QVERIFY(manager.RenameCategory(u"Haushalt"_s, u"Daheim"_s));
+    QVERIFY(manager.RenameAccount(u"Girokonto"_s, u"Hauptkonto"_s));
+    const cOwnRule renamed = cOwnRules(*scene.Settings).Load().value(0);
+    QCOMPARE(renamed.Category, u"Daheim; Essen"_s);
+    QCOMPARE(renamed.Account, u"Hauptkonto"_s);
+    QCOMPARE(cOwnRules(*scene.Settings).Load().value(1), other);
+    scene.User.Answers = {eAnswer::Yes};
+    QVERIFY(manager.MergeCategory(u"Daheim; Essen"_s, u"Daheim; Getränke"_s));
+    QCOMPARE(cOwnRules(*scene.Settings).Load().value(0).Category, u"Daheim; Getränke"_s);
+    while (!scene.Data.UndoName().isEmpty()) {
+        QVERIFY(scene.Data.Undo()); // true also when there is nothing left
+        scene.Settings->Reload();
+    }
+    QCOMPARE(cOwnRules(*scene.Settings).Load().value(0), rule);
+}
+
+void testRuleListModel::Words() const
+{
+    cOwnRule rule = Rule(u"rewe| edeka"_s, {});
+    rule.Counterparty = u"Markt"_s;
+    rule.Sign = eRuleSign::Out;
+    rule.Account = u"Girokonto"_s;
+    rule.Interval = u"Monatlich"_s;
+    rule.Description = u"Essen"_s;
+    QCOMPARE(modRuleText::Conditions(rule), u"Text enthält „rewe“ oder „edeka“, an Markt, Ausgabe, Konto Girokonto"_s);
+    QCOMPARE(modRuleText::Result(rule), u"Monatlich, „Essen“"_s);
+}
+
+QTEST_GUILESS_MAIN(testRuleListModel)
+#include "testRuleListModel.moc"

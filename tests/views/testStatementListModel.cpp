@@ -1,0 +1,213 @@
+#include "core/cAmountFormat.h"
+#include "import/read/cStatementRead.h"
+#include "import/stage/cBankBalances.h"
+#include "support/testBook.h"
+#include "views/statement/cStatementListModel.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString number = u"DE02100200300001234567"_s;
+
+// "0502 -2310 REWE": day of 2026, cents, counterparty.
+cImportEntry RowOf(const QString& text)
+{
+    const QStringList parts = text.split(u' ');
+    cImportEntry row;
+    row.ImportAccount = number;
+    row.ImportDate = QDate(2026, parts.at(0).left(2).toInt(), parts.at(0).mid(2).toInt());
+    row.ImportValue = parts.at(1).toDouble() / 100;
+    row.ImportBeneficiary = parts.value(2);
+    row.ImportPurpose = u"Zweck "_s + parts.value(2);
+    return row;
+}
+
+struct cScene : cTestBook
+{
+    cScene(const QString& rows, const QString& balances)
+    {
+        for (const QString& text : rows.split(u';', Qt::SkipEmptyParts)) {
+            cImportEntry row = RowOf(text);
+            if (!Data.AddNewImportEntry(row)) {
+                qFatal("row not added");
+            }
+        }
+        Settings->Set(u"SALDO:"_s + number, balances);
+        Settings->Set(u"KTO:"_s + number, u"Girokonto"_s);
+    }
+
+    // An entry of the account; income above zero.
+    void Enter(QDate day, int cents)
+    {
+        (void)Add([&](cEntryItem& entry) {
+            entry.EntryDate = day;
+            entry.EntryType = cents > 0 ? modWord::Einnahme : modWord::Ausgabe;
+            entry.EntryValue = std::abs(cents);
+        });
+    }
+
+    cAmountFormat Format{Configuration};
+};
+
+QString FaultsOf(const cStatementListModel& statement)
+{
+    QStringList texts;
+    for (const modBalanceCheck::cFault& fault : statement.Ledger().Check().Faults) {
+        texts.append(fault.From.toString(u"MMdd"_s) + u'-' + fault.To.toString(u"MMdd"_s) + u' '
+                     + QString::number(fault.Missing));
+    }
+    return texts.join(u';');
+}
+
+QString Column(const cStatementListModel& statement, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < statement.rowCount(); ++row) {
+        texts.append(statement.index(row, column).data().toString().remove(u"\u00A0€"_s));
+    }
+    return texts.join(u' ');
+}
+
+} // namespace
+
+class testStatementListModel final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ChecksBalances_data()
+    {
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("balances");
+        QTest::addColumn<QString>("shown"); // running balances
+        QTest::addColumn<QString>("faults");
+        QTest::addColumn<QString>("words"); // of the findings
+
+        const QString two = u"0502 -2310 REWE;0503 -1000 Korn"_s;
+        QTest::newRow("agrees") << two << u"2026-04-30=10000;2026-05-03=6690"_s << u"76,90 66,90"_s << QString()
+                                << u"stimmen mit allen 2 Kontoständen"_s;
+        QTest::newRow("unreadable values") << two << u"x;2026-13-01=5;2026-05-02=a;2026-04-30=10000;2026-05-03=6690;="_s
+                                           << u"76,90 66,90"_s << QString() << u"allen 2 Kontoständen"_s;
+        QTest::newRow("missing row") << u"0503 -1000 Korn"_s << u"2026-04-30=10000;2026-05-03=6690"_s << u"66,90"_s
+                                     << u"0501-0503 -2310"_s << u"Ab dem 01.05.2026 fehlen 23,10"_s;
+        QTest::newRow("missing income") << u"0503 -1000 Korn"_s << u"2026-04-30=10000;2026-05-03=9500"_s << u"95,00"_s
+                                        << u"0501-0503 500"_s << u"an Einnahmen"_s;
+        QTest::newRow("row twice") << u"0502 -2310 REWE;0502 -2310 REWE;0503 -1000 Korn"_s
+                                   << u"2026-04-30=10000;2026-05-03=6690"_s << u"100,00 76,90 66,90"_s
+                                   << u"0501-0503 2310"_s << u"doppelt eingelesen"_s;
+        QTest::newRow("equal rows taken once")
+            << two << u"2026-04-30=10000;2026-05-03=4380"_s << u"53,80 43,80"_s << u"0501-0503 -2310"_s
+            << u"der zweite beim Einlesen für eine Wiederholung gehalten"_s;
+        QTest::newRow("gap between statements")
+            << u"0502 -1000 A;0602 -1000 B"_s << u"2026-05-01=10000;2026-05-03=9000;2026-06-01=5000;2026-06-02=4000"_s
+            << u"50,00 40,00"_s << u"0504-0601 -4000"_s << u"wahrscheinlich fehlt ein Kontoauszug"_s;
+        QTest::newRow("two differences") << u"0502 -1000 A;0602 -1000 B"_s
+                                         << u"2026-05-01=10000;2026-05-03=8500;2026-06-02=7000"_s << u"80,00 70,00"_s
+                                         << u"0502-0503 -500;0504-0602 -500"_s << u"Ab dem 04.05.2026"_s;
+        QTest::newRow("no balance") << two << QString() << u"-23,10 -33,10"_s << QString()
+                                    << u"noch keinen Kontostand genannt"_s;
+        QTest::newRow("one balance only")
+            << two << u"2026-05-03=6690"_s << u"76,90 66,90"_s << QString() << u"Ein weiterer"_s;
+        QTest::newRow("several balances a day") << u"0502 -2310 A;0502 -1000 B;0503 500 C"_s
+                                                << u"2026-05-02=10000;2026-05-02=7690;2026-05-02=6690;2026-05-03=7190"_s
+                                                << u"76,90 66,90 71,90"_s << QString() << u"allen 4 Kontoständen"_s;
+        QTest::newRow("negative") << two << u"2026-04-30=1000;2026-05-03=-2310"_s << u"-13,10 -23,10"_s << QString()
+                                  << u"allen 2 Kontoständen"_s;
+        QTest::newRow("booked on another day") << u"0429 -500 A;0502 -2310 REWE;0505 -1000 B"_s
+                                               << u"2026-04-28=10500;2026-04-30=7690;2026-05-02=7690;2026-05-05=6690"_s
+                                               << u"100,00 76,90 66,90"_s << QString() << u"an anderen Tagen gebucht"_s;
+        QTest::newRow("balance behind the rows") << two << u"2026-05-03=6690;2026-05-31=5000"_s << u"60,00 50,00"_s
+                                                 << u"0504-0531 -1690"_s << u"kein Umsatz eingelesen"_s;
+    }
+
+    void ChecksBalances()
+    {
+        QFETCH(QString, rows);
+        QFETCH(QString, balances);
+        QFETCH(QString, words);
+        cScene scene(rows, balances);
+        const cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        QTEST(Column(statement, cStatementListModel::Balance), "shown");
+        QTEST(FaultsOf(statement), "faults");
+        const QString findings = statement.Findings().join(u'\n');
+        QVERIFY2(findings.contains(words), qPrintable(findings));
+    }
+
+    void DeletedRowsAreNoticed()
+    {
+        cScene scene(u"0502 -100 A;0502 -2310 B;0503 -1000 C"_s, u"2026-05-01=10000;2026-05-03=6590"_s);
+        QVERIFY(scene.Data.DeleteImport(2));
+        const cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        QVERIFY(statement.Findings().join(u' ').contains(u"ein eingelesener Umsatz gelöscht"));
+        QCOMPARE(statement.Finding(), cStatementListModel::eFinding::Bad);
+    }
+
+    void ComparesWithBook_data()
+    {
+        QTest::addColumn<QString>("entries"); // of the book, as rows
+        QTest::addColumn<QString>("words");
+        QTest::newRow("agrees") << u"0401 10000;0501 -2310;0503 -1000"_s << u"stimmt am 03.05.2026 mit der Bank"_s;
+        QTest::newRow("one too many") << u"0401 10000;0502 -2310;0503 -1000;0503 -1"_s << u"Seit dem 03.05.2026"_s;
+        QTest::newRow("one too few") << u"0401 10000;0503 -1000"_s << u"Seit dem 02.05.2026"_s;
+        QTest::newRow("later ones do not count") << u"0401 10000;0502 -2310;0503 -1000;0504 -1"_s << u"stimmt am"_s;
+        QTest::newRow("no start") << u"0502 -2310;0503 -1000"_s << u"schon am 01.05.2026 nicht überein"_s;
+    }
+
+    void ComparesWithBook()
+    {
+        QFETCH(QString, entries);
+        QFETCH(QString, words);
+        cScene scene(u"0502 -2310 REWE;0503 -1000 Korn"_s, u"2026-04-30=10000;2026-05-03=6690"_s);
+        for (const QString& entry : entries.split(u';')) {
+            scene.Enter(RowOf(entry).ImportDate, entry.mid(5).toInt());
+        }
+        const cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        QVERIFY2(statement.Findings().last().contains(words), qPrintable(statement.Findings().last()));
+    }
+
+    void ShowsPeriodAndFilter()
+    {
+        cScene scene(u"0502 -2310 REWE;0503 1000 Korn;0604 -500 Rewe;0605 -1 X"_s, u"2026-06-05=0"_s);
+        const cEntryItem entry = scene.Add([](cEntryItem&) {});
+        cImportEntry row = scene.Data.GetImportEntries().at(0);
+        row.ImportAssigned = true;
+        row.ImportAssignedEntry = entry.ID;
+        QVERIFY(scene.Data.ChangeImportEntry(row));
+        cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        QCOMPARE(Column(statement, cStatementListModel::State), u"gebucht offen offen offen"_s);
+        QCOMPARE(statement.index(0, cStatementListModel::Category).data().toString(), entry.EntryCategory);
+        QCOMPARE(statement.EntryOf(0)->first, entry.ID);
+        QVERIFY(!statement.EntryOf(1));
+        statement.SetFilter(u"rewe"_s);
+        QCOMPARE(Column(statement, cStatementListModel::Balance), u"-4,99 0,01"_s);
+        QCOMPARE(statement.TotalText(), scene.Format.Cents(-2810));
+        statement.ChoosePeriod(modWord::FreierZeitraum);
+        statement.ChooseFreeRange({QDate(2026, 5, 3), QDate(2026, 6, 4)});
+        QCOMPARE(Column(statement, cStatementListModel::Day), u"04.06.2026"_s);
+        QSignalSpy typed(&statement, &cStatementListModel::Changed);
+        statement.TypeFilter(u"1"_s);
+        statement.TypeFilter(QString());
+        QCOMPARE(typed.count(), 0); // waits for a pause
+        QTRY_COMPARE(statement.rowCount(), 2);
+        QCOMPARE(statement.IncomeText(), scene.Format.Cents(1000));
+        QCOMPARE(statement.ExpenseText(), scene.Format.Cents(-500));
+        QCOMPARE(statement.Extract().Rows.size(), std::size_t{2});
+    }
+
+    void KeepsBalances()
+    {
+        cScene scene({}, {});
+        cBankBalances balances(*scene.Settings);
+        const cImportEntryList entries{RowOf(u"0502 -1 A"_s), RowOf(u"0501 -1 B"_s)};
+        QVERIFY(balances.Add({{number, 500, QDate(2026, 5, 3)}, {number, -700, QDate()}, {QString(), 1, {}}}, entries));
+        QVERIFY(balances.Add({{number, 500, QDate(2026, 5, 3)}}, {}));
+        QCOMPARE(balances.Of(number), cBankBalanceList({{QDate(2026, 5, 2), -700}, {QDate(2026, 5, 3), 500}}));
+    }
+};
+
+QTEST_GUILESS_MAIN(testStatementListModel)
+#include "testStatementListModel.moc"
