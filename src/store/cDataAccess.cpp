@@ -47,23 +47,19 @@ bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
             isKnown = rows.Next() && rows.Integer(0) > 0;
         }
         if (isKnown) {
-            m_journal.Keep(cJournal::eTable::Settings, "SettingName=?", {name});
             m_database.Execute("UPDATE setting SET SettingValue=?, SettingDefault=? WHERE SettingName = ?",
                                {value, value, name});
         } else {
             m_database.Execute("INSERT INTO setting (SettingName, SettingValue, SettingDefault) VALUES (?, ?, ?)",
                                {name, value, value});
-            m_journal.NoteAdded(cJournal::eTable::Settings, m_database.LastInsertId());
         }
     });
 }
 
 bool cDataAccess::DeleteSetting(const QString& name)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteSetting\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::Settings, "SettingName = ?", {name});
-        m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name});
-    });
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteSetting\n{0}"),
+               [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
 }
 
 void cDataAccess::BeginStep(const QString& name)

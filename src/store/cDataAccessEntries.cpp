@@ -104,7 +104,6 @@ bool cDataAccess::AddNewEntry(cEntryItem& entry)
                            "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags) "
                            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
                            EntryValues(entry, NewForm(entry)));
-        m_journal.NoteAdded(cJournal::eTable::Data, m_database.LastInsertId());
         entry = First(ReadEntries(m_database, " ORDER BY ID DESC LIMIT 1", {})).value_or(entry);
     });
 }
@@ -114,7 +113,6 @@ bool cDataAccess::ChangeEntry(const cEntryItem& entry)
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntry\n{0}"), [&] {
         cBoundList values = EntryValues(entry, KeptForm(m_database, entry));
         values.emplace_back(entry.ID);
-        m_journal.Keep(cJournal::eTable::Data, "ID = ?", {entry.ID});
         m_database.Execute("UPDATE data SET EntryDate=?, EntryDateEnd=?, EntryType=?, EntryInterval=?, EntryAccount=?, "
                            "EntryAccountMove=?, EntryCategory=?, EntryValue=?, EntryDescription=?, EntryFlags=? "
                            "WHERE ID = ?",
@@ -125,10 +123,8 @@ bool cDataAccess::ChangeEntry(const cEntryItem& entry)
 bool cDataAccess::DeleteEntry(int id)
 {
     return ReleaseImports(id) && DeleteEntryModByRelation(id)
-        && Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntry\n{0}"), [&] {
-               m_journal.Keep(cJournal::eTable::Data, "ID = ?", {id});
-               m_database.Execute("DELETE FROM data WHERE ID = ?", {id});
-           });
+        && Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntry\n{0}"),
+               [&] { m_database.Execute("DELETE FROM data WHERE ID = ?", {id}); });
 }
 
 bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldName)
@@ -137,8 +133,6 @@ bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldN
     // this leaves untouched, so it stays; renaming an account moves the remaining entries by itself.
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryAccount\n{0}"), [&] {
         const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
-        m_journal.Keep(cJournal::eTable::Data, "EntryAccount=lower(?) OR EntryAccountMove=lower(?)",
-                       {names[1], names[1]});
         m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=lower(?)", names);
         m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=lower(?)", names);
     });
@@ -147,7 +141,6 @@ bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldN
 bool cDataAccess::ChangeEntryCategory(const QString& newPath, const QString& oldPath)
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryCategory\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::Data, "EntryCategory=?", {modRow::Doubled(oldPath)});
         m_database.Execute("UPDATE data SET EntryCategory=? WHERE EntryCategory=?",
                            {modRow::Doubled(newPath), modRow::Doubled(oldPath)});
     });
@@ -234,7 +227,6 @@ bool cDataAccess::MoveEntriesToAccount(const QString& newName, const QString& ol
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: MoveEntriesToAccount\n{0}"), [&] {
         const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
-        m_journal.Keep(cJournal::eTable::Data, "EntryAccount=? OR EntryAccountMove=?", {names[1], names[1]});
         m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=?", names);
         m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=?", names);
     });

@@ -38,13 +38,11 @@ bool cDataAccess::AddNewEntryMod(const cEntryItemFixMod& fixMod)
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewEntryMod\n{0}"), [&] {
         const cBoundList key{fixMod.EntryRelation, modDate::ToIso(fixMod.EntryStartDate)};
-        m_journal.Keep(cJournal::eTable::FixMods, "EntryRelation=? AND EntryStartDate=?", key);
         m_database.Execute("DELETE FROM datamod WHERE EntryRelation=? AND EntryStartDate=?", key);
         m_database.Execute(
             "INSERT INTO datamod (EntryRelation, EntryModType, EntryStartDate, EntryEndDate, EntryValue, "
             "EntryComment) VALUES (?, ?, ?, ?, ?, ?)",
             FixModValues(fixMod));
-        m_journal.NoteAdded(cJournal::eTable::FixMods, m_database.LastInsertId());
     });
 }
 
@@ -53,7 +51,6 @@ bool cDataAccess::ChangeEntryMod(const cEntryItemFixMod& fixMod)
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryMod\n{0}"), [&] {
         cBoundList values = FixModValues(fixMod);
         values.emplace_back(fixMod.ID);
-        m_journal.Keep(cJournal::eTable::FixMods, "ID = ?", {fixMod.ID});
         m_database.Execute("UPDATE datamod SET EntryRelation=?, EntryModType=?, EntryStartDate=?, EntryEndDate=?, "
                            "EntryValue=?, EntryComment=? WHERE ID = ?",
                            values);
@@ -63,16 +60,12 @@ bool cDataAccess::ChangeEntryMod(const cEntryItemFixMod& fixMod)
 bool cDataAccess::DeleteEntryMod(int id)
 {
     // The one message without the description
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntryMod\n"), [&] {
-        m_journal.Keep(cJournal::eTable::FixMods, "ID = ?", {id});
-        m_database.Execute("DELETE FROM datamod WHERE ID = ?", {id});
-    });
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntryMod\n"),
+               [&] { m_database.Execute("DELETE FROM datamod WHERE ID = ?", {id}); });
 }
 
 bool cDataAccess::DeleteEntryModByRelation(int entryId)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntryModByRelation\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::FixMods, "EntryRelation = ?", {entryId});
-        m_database.Execute("DELETE FROM datamod WHERE EntryRelation = ?", {entryId});
-    });
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntryModByRelation\n{0}"),
+               [&] { m_database.Execute("DELETE FROM datamod WHERE EntryRelation = ?", {entryId}); });
 }

@@ -72,7 +72,6 @@ bool cDataAccess::AddNewImportEntry(cImportEntry& entry)
             ImportValues(entry));
         m_database.NoteImportWrite();
         entry.ID = static_cast<int>(m_database.LastInsertId());
-        m_journal.NoteAdded(cJournal::eTable::Imports, entry.ID);
     });
 }
 
@@ -81,7 +80,6 @@ bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeImportEntry\n{0}"), [&] {
         cBoundList values = ImportValues(entry);
         values.emplace_back(entry.ID);
-        m_journal.Keep(cJournal::eTable::Imports, "ID = ?", {entry.ID});
         m_database.Execute("UPDATE import SET ImportAccount=?, ImportDate=?, ImportType=?, ImportPurpose=?, "
                            "ImportBeneficiary=?, ImportBeneficiaryAccount=?, ImportBeneficiaryBLZ=?, ImportValue=?, "
                            "ImportCurrency=?, ImportAssigned=?, ImportAssignedEntry=? WHERE ID = ?",
@@ -93,7 +91,6 @@ bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
 bool cDataAccess::DeleteImport(int id)
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteImport\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::Imports, "ID = ?", {id});
         m_database.Execute("DELETE FROM import WHERE ID = ?", {id});
         m_database.NoteImportWrite();
     });
@@ -102,7 +99,6 @@ bool cDataAccess::DeleteImport(int id)
 bool cDataAccess::DeleteAllImports()
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteAllImports\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::Imports, "1", {});
         m_database.Execute("DELETE FROM import");
         m_database.NoteImportWrite();
     });
@@ -111,7 +107,6 @@ bool cDataAccess::DeleteAllImports()
 bool cDataAccess::ReleaseImports(int entryId)
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ReleaseImports\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::Imports, "ImportAssignedEntry = ?", {entryId});
         m_database.Execute("UPDATE import SET ImportAssigned=?, ImportAssignedEntry=? WHERE ImportAssignedEntry = ?",
                            {isFalse, -1, entryId});
         m_database.NoteImportWrite();

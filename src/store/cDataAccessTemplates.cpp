@@ -64,7 +64,6 @@ bool cDataAccess::AddNewTemplate(cTemplateItem& item)
                            "TemplateCategory, TemplateName, TemplateComment, TemplatePriority, TemplateVAT, "
                            "TemplateDefaultValue) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
                            TemplateValues(item));
-        m_journal.NoteAdded(cJournal::eTable::Templates, m_database.LastInsertId());
         item = First(ReadTemplates(m_database, " ORDER BY ID DESC LIMIT 1", {})).value_or(item);
     });
 }
@@ -74,7 +73,6 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeTemplate\n{0}"), [&] {
         cBoundList values = TemplateValues(item);
         values.emplace_back(item.ID);
-        m_journal.Keep(cJournal::eTable::Templates, "ID = ?", {item.ID});
         m_database.Execute("UPDATE template SET EntryType=?, EntryInterval=?, TemplateType=?, TemplateVisible=?, "
                            "TemplateCategory=?, TemplateName=?, TemplateComment=?, TemplatePriority=?, TemplateVAT=?, "
                            "TemplateDefaultValue=? WHERE ID = ?",
@@ -84,10 +82,8 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
 
 bool cDataAccess::DeleteTemplate(int id)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteTemplate\n{0}"), [&] {
-        m_journal.Keep(cJournal::eTable::Templates, "ID = ?", {id});
-        m_database.Execute("DELETE FROM template WHERE ID = ?", {id});
-    });
+    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteTemplate\n{0}"),
+               [&] { m_database.Execute("DELETE FROM template WHERE ID = ?", {id}); });
 }
 
 cTemplateItemList cDataAccess::GetTemplates()

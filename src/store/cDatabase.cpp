@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+// The driver's header leaves them out otherwise; Debian's library has them.
+#define SQLITE_ENABLE_PREUPDATE_HOOK // NOLINT(cppcoreguidelines-macro-usage)
 #include <sqlite3.h>
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Column.h>
@@ -70,6 +72,15 @@ int FlagsOf(eOpenMode mode)
     return SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX;
 }
 
+void BindStored(SQLite::Statement& statement, int index, const cStoredBytes& stored)
+{
+    if (stored.IsText) {
+        statement.bind(index, stored.Bytes.toStdString());
+    } else {
+        statement.bind(index, stored.Bytes.constData(), static_cast<int>(stored.Bytes.size()));
+    }
+}
+
 void Bind(SQLite::Statement& statement, const cBoundList& values)
 {
     int index = 0;
@@ -81,13 +92,56 @@ void Bind(SQLite::Statement& statement, const cBoundList& values)
             statement.bind(index, int64_t{*number});
         } else if (const auto* real = std::get_if<double>(&value)) {
             statement.bind(index, *real);
+        } else if (const auto* stored = std::get_if<cStoredBytes>(&value)) {
+            BindStored(statement, index, *stored);
         } else {
             statement.bind(index);
         }
     }
 }
 
+cBound ValueOf(sqlite3_value* value)
+{
+    switch (sqlite3_value_type(value)) {
+    case SQLITE_INTEGER: return qint64{sqlite3_value_int64(value)};
+    case SQLITE_FLOAT: return sqlite3_value_double(value);
+    case SQLITE_NULL: return std::monostate();
+    default: break;
+    }
+    const bool isText = sqlite3_value_type(value) == SQLITE_TEXT;
+    const void* bytes = sqlite3_value_blob(value); // of a text: its bytes as they are
+    return cStoredBytes{QByteArray(static_cast<const char*>(bytes), sqlite3_value_bytes(value)), isText};
+}
+
+// Called by SQLite before it writes a row. A changed row ID is a row that goes and another that comes.
+void TellWatcher(void* watcher, sqlite3* connection, int operation, const char* database, const char* table,
+                 sqlite3_int64 oldId, sqlite3_int64 newId)
+{
+    if (std::string_view(database) != "main") {
+        return; // tables that only live as long as the connection
+    }
+    const auto& tell = *static_cast<const std::function<void(const cRowBefore&)>*>(watcher);
+    if (operation != SQLITE_INSERT) {
+        tell(cRowBefore(connection, table, oldId, true));
+    }
+    if (operation == SQLITE_INSERT || newId != oldId) {
+        tell(cRowBefore(connection, table, newId, false));
+    }
+}
+
 } // namespace
+
+cBoundList cRowBefore::Values() const
+{
+    cBoundList values;
+    const int columns = sqlite3_preupdate_count(m_connection);
+    for (int i = 0; i < columns; ++i) {
+        sqlite3_value* value = nullptr;
+        const bool isRead = sqlite3_preupdate_old(m_connection, i, &value) == SQLITE_OK && value != nullptr;
+        values.push_back(isRead ? ValueOf(value) : std::monostate());
+    }
+    return values;
+}
 
 cDatabase::cDatabase(int busyTimeout) : m_busyTimeout(busyTimeout)
 {
@@ -101,6 +155,20 @@ void cDatabase::Open(const QString& path, eOpenMode mode)
     m_connection = Translate([&] { return std::make_unique<cConnection>(path, FlagsOf(mode), m_busyTimeout); });
     m_path = path;
     m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
+    InstallWatcher();
+}
+
+void cDatabase::WatchRows(std::function<void(const cRowBefore&)> watcher)
+{
+    m_watcher = std::move(watcher);
+    InstallWatcher();
+}
+
+void cDatabase::InstallWatcher()
+{
+    if (m_connection) {
+        sqlite3_preupdate_hook(m_connection->Handle.getHandle(), m_watcher ? TellWatcher : nullptr, &m_watcher);
+    }
 }
 
 void cDatabase::Close() noexcept
@@ -271,24 +339,6 @@ qint64 cRows::Integer(int column) const
 double cRows::Real(int column) const
 {
     return m_state->Columns[static_cast<size_t>(column)].getDouble();
-}
-
-cBoundList cRows::Values() const
-{
-    cBoundList values;
-    for (int i = 0; i < static_cast<int>(m_state->Columns.size()); ++i) {
-        const SQLite::Column& source = m_state->Columns[static_cast<size_t>(i)];
-        if (source.isInteger()) {
-            values.emplace_back(Integer(i));
-        } else if (source.isFloat()) {
-            values.emplace_back(Real(i));
-        } else if (source.isNull()) {
-            values.emplace_back(std::monostate());
-        } else {
-            values.emplace_back(Text(i));
-        }
-    }
-    return values;
 }
 
 int cRows::Changes() const

@@ -1,14 +1,18 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
+
+struct sqlite3;
 
 enum class eOpenMode { ReadWrite, ReadOnly, Create };
 
@@ -28,9 +32,39 @@ private:
     eDatabaseFault m_fault;
 };
 
+// A text or BLOB as the file holds it: what is no valid text, too, comes back byte by byte.
+struct cStoredBytes
+{
+    QByteArray Bytes;
+    bool IsText = true;
+};
+
 // Values for the "?" of a statement, in their order; the last alternative is NULL.
-using cBound = std::variant<qint64, double, QString, std::monostate>;
+using cBound = std::variant<qint64, double, QString, cStoredBytes, std::monostate>;
 using cBoundList = std::vector<cBound>;
+
+// A row that is about to be added, changed or removed. It lives as long as the call that hands it over.
+class cRowBefore
+{
+public:
+    cRowBefore(sqlite3* connection, std::string_view table, qint64 rowId, bool isThere)
+        : Table(table),
+          RowId(rowId),
+          IsThere(isThere),
+          m_connection(connection)
+    {
+    }
+
+    std::string_view Table;
+    qint64 RowId;
+    bool IsThere; // false: it is about to be added
+
+    // All columns as they are before the write.
+    [[nodiscard]] cBoundList Values() const;
+
+private:
+    sqlite3* m_connection;
+};
 
 // The one connection to the database file. All failures are thrown as cDatabaseError unless a comment says otherwise.
 class cDatabase
@@ -70,6 +104,10 @@ public:
     // What SQLite finds wrong with the file; empty when it is sound.
     [[nodiscard]] QStringList IntegrityCheck();
 
+    // Called for each row of the file that a statement of this connection writes, just before it does. It must not
+    // throw and must not use the database.
+    void WatchRows(std::function<void(const cRowBefore&)> watcher);
+
     // Whoever writes to table `import` says so here.
     void NoteImportWrite() noexcept { ++m_importVersion; }
     // Differs from every earlier value once table `import` may have changed, by this connection or by another.
@@ -81,7 +119,9 @@ private:
     struct cConnection;
 
     [[nodiscard]] cConnection& Connection() const;
+    void InstallWatcher();
 
+    std::function<void(const cRowBefore&)> m_watcher;
     std::unique_ptr<cConnection> m_connection;
     QString m_path;
     int m_busyTimeout;
@@ -107,9 +147,6 @@ public:
     [[nodiscard]] QString Text(int column) const;
     [[nodiscard]] qint64 Integer(int column) const;
     [[nodiscard]] double Real(int column) const;
-
-    // The whole current row, each value with the type it is stored with.
-    [[nodiscard]] cBoundList Values() const;
 
     // Rows changed by the statement.
     [[nodiscard]] int Changes() const;

@@ -1,31 +1,35 @@
 #include "store/cJournal.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr size_t mostSteps = 200; // kept at a time; older ones are forgotten
 
-const char* TableName(cJournal::eTable table)
+constexpr std::array<std::string_view, 5> tables{"data", "datamod", "template", "import", "setting"};
+constexpr std::size_t imports = 3;
+constexpr std::size_t settings = 4;
+
+// The place of a table in the list; its end for a table that is nobody's step.
+std::size_t PlaceOf(std::string_view table)
 {
-    switch (table) {
-    case cJournal::eTable::Data: return "data";
-    case cJournal::eTable::FixMods: return "datamod";
-    case cJournal::eTable::Templates: return "template";
-    case cJournal::eTable::Imports: return "import";
-    case cJournal::eTable::Settings: return "setting";
-    }
-    return "";
+    return static_cast<std::size_t>(std::find(tables.begin(), tables.end(), table) - tables.begin());
 }
 
-// "INSERT OR REPLACE INTO t VALUES (?, ?, ...)": the first column of every table is its ID.
-std::string InsertText(cJournal::eTable table, size_t columns)
+// The statement that puts a whole row back. The row ID is named as well, because old tables may have no primary key.
+std::string InsertText(cDatabase& database, std::string_view table)
 {
-    std::string text = std::string("INSERT OR REPLACE INTO ") + TableName(table) + " VALUES (?";
-    for (size_t i = 1; i < columns; ++i) {
-        text += ", ?";
+    std::string columns = "rowid";
+    std::string values = "?";
+    cRows rows(database, "SELECT name FROM pragma_table_info(?)", {QString::fromLatin1(table)});
+    while (rows.Next()) {
+        columns += ", \"" + std::string(rows.Bytes(0)) + '"';
+        values += ", ?";
     }
-    return text + ")";
+    return "INSERT OR REPLACE INTO " + std::string(table) + " (" + columns + ") VALUES (" + values + ")";
 }
 
 // The writes that take a step back are one transaction: all of them or none, and one journal file for all.
@@ -54,6 +58,16 @@ private:
 };
 
 } // namespace
+
+cJournal::cJournal(cDatabase& database) : m_database(database)
+{
+    m_database.WatchRows([this](const cRowBefore& row) { Note(row); });
+}
+
+cJournal::~cJournal()
+{
+    m_database.WatchRows({});
+}
 
 void cJournal::Begin(const QString& name)
 {
@@ -101,7 +115,7 @@ void cJournal::EndPart()
         Known() = std::move(part.Known); // all images are those of the part
         return;
     }
-    const auto isOlderKnown = [this](const cImage& image) { return !Known().insert({image.Table, image.Id}).second; };
+    const auto isOlderKnown = [this](const cImage& image) { return !Known().insert(image.Key).second; };
     std::vector<cImage>& images = m_open.Images;
     const auto begin = images.begin() + static_cast<std::ptrdiff_t>(part.First);
     images.erase(std::remove_if(begin, images.end(), isOlderKnown), images.end());
@@ -116,46 +130,29 @@ void cJournal::RevertPart()
     part.Known.clear();
 }
 
-std::set<std::pair<cJournal::eTable, qint64>>& cJournal::Known()
+std::set<cJournal::cRowKey>& cJournal::Known()
 {
     return m_parts.empty() ? m_open.Known : m_parts.back().Known;
 }
 
-bool cJournal::IsNoting(eTable table)
+void cJournal::Note(const cRowBefore& row)
 {
-    if (m_depth > 0) {
-        return true;
-    }
-    // Choices of the view are stored all the time and are nobody's step.
-    if (table != eTable::Settings) {
-        Forget();
-    }
-    return false;
-}
-
-void cJournal::Note(cImage image)
-{
-    if (Known().insert({image.Table, image.Id}).second) {
-        m_open.Images.push_back(std::move(image));
-    }
-}
-
-void cJournal::Keep(eTable table, const std::string& where, const cBoundList& values)
-{
-    if (!IsNoting(table)) {
+    const cRowKey key{PlaceOf(row.Table), row.RowId};
+    if (key.first == tables.size()) {
         return;
     }
-    cRows rows(m_database, std::string("SELECT * FROM ") + TableName(table) + " WHERE " + where, values);
-    while (rows.Next()) {
-        Note({table, rows.Integer(0), rows.Values()});
+    if (m_back == nullptr && m_depth == 0) {
+        // A write outside of all steps: what they know may not be true any more. Only choices of the view are stored
+        // all the time and are nobody's step.
+        if (key.first != settings) {
+            Forget();
+        }
+        return;
     }
-}
-
-void cJournal::NoteAdded(eTable table, qint64 id)
-{
-    if (IsNoting(table)) {
-        Note({table, id, {}});
+    if (!(m_back != nullptr ? m_back->Known : Known()).insert(key).second) {
+        return;
     }
+    (m_back != nullptr ? *m_back : m_open).Images.push_back({key, row.IsThere ? row.Values() : cBoundList{}});
 }
 
 QString cJournal::UndoName() const
@@ -192,12 +189,6 @@ void cJournal::Forget()
     m_redo.clear();
 }
 
-cJournal::cImage cJournal::Current(eTable table, qint64 id)
-{
-    cRows rows(m_database, std::string("SELECT * FROM ") + TableName(table) + " WHERE ID = ?", {id});
-    return {table, id, rows.Next() ? rows.Values() : cBoundList{}};
-}
-
 cJournal::cStep cJournal::Apply(const cStep& step)
 {
     cStep back{step.Name, {}, {}};
@@ -205,33 +196,35 @@ cJournal::cStep cJournal::Apply(const cStep& step)
         return back; // a book that can only be read has no more than that
     }
     cTransaction transaction(m_database);
-    for (const cImage& image : step.Images) {
-        back.Images.push_back(Current(image.Table, image.Id));
-        back.Known.insert({image.Table, image.Id});
-    }
-    // What was not there goes first: a setting that comes back may bear the name of one that goes.
-    for (const cImage& image : step.Images) {
-        if (image.Values.empty()) {
-            Write(image);
-        }
-    }
-    for (const cImage& image : step.Images) {
-        if (!image.Values.empty()) {
-            Write(image);
-        }
-    }
+    m_back = &back;
+    const auto done = qScopeGuard([this] { m_back = nullptr; });
+    WriteBack(step.Images);
     transaction.Commit();
     return back;
 }
 
-void cJournal::Write(const cImage& image)
+void cJournal::WriteBack(const std::vector<cImage>& images)
 {
-    if (image.Values.empty()) {
-        m_database.Execute(std::string("DELETE FROM ") + TableName(image.Table) + " WHERE ID = ?", {image.Id});
-    } else {
-        m_database.Execute(InsertText(image.Table, image.Values.size()), image.Values);
+    // What was not there goes first: a setting that comes back may bear the name of one that goes.
+    for (const cImage& image : images) {
+        if (image.Values.empty()) {
+            m_database.Execute("DELETE FROM " + std::string(tables[image.Key.first]) + " WHERE rowid = ?",
+                               {image.Key.second});
+        }
     }
-    if (image.Table == eTable::Imports) {
+    std::array<std::string, tables.size()> inserts;
+    for (const auto& [key, values] : images) {
+        if (!values.empty()) {
+            std::string& insert = inserts[key.first];
+            if (insert.empty()) {
+                insert = InsertText(m_database, tables[key.first]);
+            }
+            cBoundList bound{key.second};
+            bound.insert(bound.end(), values.begin(), values.end());
+            m_database.Execute(insert, bound);
+        }
+    }
+    if (std::any_of(images.begin(), images.end(), [](const cImage& image) { return image.Key.first == imports; })) {
         m_database.NoteImportWrite();
     }
 }

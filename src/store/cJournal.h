@@ -6,19 +6,19 @@
 
 #include <deque>
 #include <set>
-#include <string>
 #include <utility>
 #include <vector>
 
-// What the program has written since a database was opened, in steps that can be taken back and done again. It keeps
-// the rows as they were, value by value, so that also texts in older or unreadable forms come back unchanged. Failures
-// are thrown as cDatabaseError.
+// What the program has written since a database was opened, in steps that can be taken back and done again. The
+// database tells it of every row before a statement writes it, and it keeps the row as it was, value by value, so that
+// also texts in older or unreadable forms come back unchanged. Failures are thrown as cDatabaseError.
 class cJournal
 {
 public:
-    enum class eTable { Data, FixMods, Templates, Imports, Settings };
-
-    explicit cJournal(cDatabase& database) : m_database(database) {}
+    explicit cJournal(cDatabase& database);
+    cJournal(const cJournal&) = delete;
+    cJournal& operator=(const cJournal&) = delete;
+    ~cJournal();
 
     // Everything written until End is one step of the user. A step within a step belongs to the outer one.
     void Begin(const QString& name);
@@ -32,11 +32,6 @@ public:
     void EndPart();
     void RevertPart(); // the part goes on empty
 
-    // Called before rows are changed or removed; `where` is the condition of the statement with its values.
-    void Keep(eTable table, const std::string& where, const cBoundList& values);
-    // Called after a row was added.
-    void NoteAdded(eTable table, qint64 id);
-
     // The name of the step that Undo or Redo would work on; empty when there is none.
     [[nodiscard]] QString UndoName() const;
     [[nodiscard]] QString RedoName() const;
@@ -49,11 +44,14 @@ public:
     void Forget();
 
 private:
+    // A row is known by its table (the place in the list of tables) and its row ID, which is its ID where that is the
+    // primary key.
+    using cRowKey = std::pair<std::size_t, qint64>;
+
     // One row as it was; without values it was not there.
     struct cImage
     {
-        eTable Table = eTable::Data;
-        qint64 Id = 0;
+        cRowKey Key;
         cBoundList Values;
     };
 
@@ -61,29 +59,26 @@ private:
     {
         QString Name;
         std::vector<cImage> Images;
-        std::set<std::pair<eTable, qint64>> Known; // rows that already have their image
+        std::set<cRowKey> Known; // rows that already have their image
     };
-
-    // False when a write cannot be noted: it then stands outside all steps, and what they know is of no use.
-    [[nodiscard]] bool IsNoting(eTable table);
-    void Note(cImage image);
-    [[nodiscard]] cImage Current(eTable table, qint64 id);
-    [[nodiscard]] cStep Apply(const cStep& step); // the step that leads back again
-    void Write(const cImage& image);
 
     // Rows get a new image within a part, so that they can come back to what they were when it began.
     struct cPart
     {
         std::size_t First = 0; // of its images among those of the step
-        std::set<std::pair<eTable, qint64>> Known;
+        std::set<cRowKey> Known;
     };
 
+    void Note(const cRowBefore& row);
+    void WriteBack(const std::vector<cImage>& images);
+    [[nodiscard]] cStep Apply(const cStep& step); // the step that leads back again
     // The rows that already have their image in the step or in the innermost part.
-    [[nodiscard]] std::set<std::pair<eTable, qint64>>& Known();
+    [[nodiscard]] std::set<cRowKey>& Known();
 
     cDatabase& m_database;
     int m_depth = 0;
     cStep m_open;
+    cStep* m_back = nullptr; // what a step that is being taken back overwrites
     std::vector<cPart> m_parts;
     std::deque<cStep> m_undo;
     std::deque<cStep> m_redo;

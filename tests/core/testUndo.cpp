@@ -11,19 +11,20 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Everything that stands in the book, value by value.
+// Everything that stands in the book, value by value with its type.
 QStringList Dump(cDatabase& database)
 {
     QStringList lines;
-    for (const char* table : {"data", "datamod", "template", "import", "setting"}) {
-        cRows rows(database, std::string("SELECT * FROM ") + table + " ORDER BY ID");
+    for (const QString& table : {u"data"_s, u"datamod"_s, u"template"_s, u"import"_s, u"setting"_s}) {
+        QStringList columns;
+        cRows names(database, "SELECT name FROM pragma_table_info(?)", {table});
+        while (names.Next()) {
+            columns.append(u"typeof(%1)||':'||hex(%1)"_s.arg(names.Text(0)));
+        }
+        const QString query = u"SELECT %1 FROM %2 ORDER BY ID"_s.arg(columns.join(u"||'|'||"_s), table);
+        cRows rows(database, query.toStdString());
         while (rows.Next()) {
-            QStringList cells{QString::fromLatin1(table)};
-            const cBoundList values = rows.Values();
-            for (int i = 0; i < static_cast<int>(values.size()); ++i) {
-                cells.append(QString::number(values[static_cast<size_t>(i)].index()) + u':' + rows.Text(i));
-            }
-            lines.append(cells.join(u'|'));
+            lines.append(table + u'|' + rows.Text(0));
         }
     }
     return lines;
@@ -53,6 +54,7 @@ class testUndo final : public QObject
 private Q_SLOTS:
     void StepsGoBackAndForth_data();
     void StepsGoBackAndForth();
+    void TableWithoutPrimaryKey();
     void FailedStepLeavesNothing();
     void WriteOutsideForgets();
     void StepsFollowEachOther();
@@ -107,7 +109,7 @@ void testUndo::StepsGoBackAndForth()
     QVERIFY(book.Data.AddNewImportEntry(row));
     // Older files hold what this program would write in another form.
     book.Database.Execute("UPDATE data SET EntryDate='2026-03-10 00:00:00', EntryValue=10, EntryFlags=NULL, "
-                          "EntryAccount='girokonto'");
+                          "EntryAccount='girokonto', EntryAccountMove=CAST(x'ff41' AS TEXT), EntryDescription=x'00ff'");
 
     const QStringList before = Dump(book.Database);
     {
@@ -130,6 +132,27 @@ void testUndo::StepsGoBackAndForth()
     const bool touchesImports = after.filter(u"import|"_s) != before.filter(u"import|"_s);
     QVERIFY(!touchesImports || book.Data.ImportVersion() != version);
     QCOMPARE(book.User.Shown, QStringList());
+}
+
+void testUndo::TableWithoutPrimaryKey()
+{
+    cTestBook book;
+    cEntryItem changed = book.Add([](cEntryItem&) {});
+    const cEntryItem deleted = book.Add([](cEntryItem&) {});
+    book.Database.ExecuteScript(
+        "CREATE TABLE old AS SELECT * FROM data; DROP TABLE data; ALTER TABLE old RENAME TO data");
+
+    const QStringList before = Dump(book.Database);
+    {
+        const cUndoStep step(book.Data, u"etwas getan"_s);
+        changed.EntryValue = 1;
+        QVERIFY(book.Data.ChangeEntry(changed) && book.Data.DeleteEntry(deleted.ID));
+    }
+    const QStringList after = Dump(book.Database);
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(Dump(book.Database), before);
+    QVERIFY(book.Data.Redo());
+    QCOMPARE(Dump(book.Database), after);
 }
 
 void testUndo::FailedStepLeavesNothing()
