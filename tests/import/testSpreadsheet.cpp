@@ -107,7 +107,7 @@ QByteArray ProtectedXls()
 
 const QByteArray html = R"(<!-- export --><HTML><head><style>td { a: b > c }</style></head><body>
 <table><tr><td>Kontoauszug<table id="t"><tr><th>Buchungstag<th>Verwendungszweck</th><th colspan='2'>Betrag</th><th>W&auml;hrung
-<tr><td>31.01.2026</td><td>B&uuml;cher &amp;<br>mehr &#8364; 5 < 6</td><td>-1.012,50</td><td></td><td>EUR</td></tr>
+<tr><td>31.01.2026</td><td>B&uuml;cher &amp;<br>mehr &#8364; 5 < 6 Espa&ntilde;a &euro; &nosuch; &</td><td>&minus;1.012,50</td><td></td><td>EUR</td></tr>
 <tr><td>01.02.2026</td><td>Gehalt</td><td>2.345,67</td></tr></table></table>)";
 
 const QByteArray sheetXml = R"(<?xml version="1.0"?><?mso-application progid="Excel.Sheet"?>
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QTest::newRow("XML of 2003") << u"a.xls"_s << sheetXml << two;
         QTest::newRow("XML of 2003 under its own name") << u"a.xml"_s << sheetXml << two;
         QTest::newRow("HTML") << u"a.xls"_s << html
-                              << QStringList{u"2026-01-31|-1012.500|Bücher & mehr € 5 < 6"_s, two.last()};
+                              << QStringList{u"2026-01-31|-1012.500|Bücher & mehr € 5 < 6 España € &nosuch &"_s, two.last()};
         QTest::newRow("text") << u"a.xls"_s
                               << "Buchungstag\tVerwendungszweck\tBetrag\r\n31.01.2026\tBücher\t-12,50\r\n"_ba
                                  "01.02.2026\tGehalt\t2.345,67"

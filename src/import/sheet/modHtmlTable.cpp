@@ -3,8 +3,9 @@
 #include "base/cText.h"
 #include "import/sheet/cSheetBuilder.h"
 
+#include <gumbo.h>
+
 #include <algorithm>
-#include <array>
 #include <utility>
 #include <vector>
 
@@ -15,48 +16,39 @@ namespace {
 constexpr qsizetype headSize = 4000; // characters in which the text must show what it is
 constexpr qsizetype mostTables = 2000;
 constexpr std::size_t deepest = 30; // tables inside of tables
-constexpr qsizetype longestEntity = 10;
 
-struct cEntity
+// The text nodes below the body of a document that has no elements of its own.
+QByteArray TextOf(const GumboOutput& document)
 {
-    QStringView Name;
-    char16_t Character;
-};
-
-constexpr std::array entities = {
-    cEntity{u"amp", u'&'},    cEntity{u"lt", u'<'},       cEntity{u"gt", u'>'},     cEntity{u"quot", u'"'},
-    cEntity{u"apos", u'\''},  cEntity{u"nbsp", u' '},     cEntity{u"euro", u'€'},   cEntity{u"auml", u'ä'},
-    cEntity{u"ouml", u'ö'},   cEntity{u"uuml", u'ü'},     cEntity{u"Auml", u'Ä'},   cEntity{u"Ouml", u'Ö'},
-    cEntity{u"Uuml", u'Ü'},   cEntity{u"szlig", u'ß'},    cEntity{u"minus", u'-'},  cEntity{u"ndash", u'–'},
-    cEntity{u"sect", u'§'},   cEntity{u"shy", u'\u00AD'}, cEntity{u"eacute", u'é'}, cEntity{u"egrave", u'è'},
-    cEntity{u"agrave", u'à'}, cEntity{u"ccedil", u'ç'},
-};
-
-// What stands between "&" and ";"; empty when nothing is known by this name.
-QString CharacterOf(QStringView name)
-{
-    if (name.startsWith(u'#')) {
-        const bool isHex = name.size() > 1 && name[1].toLower() == u'x';
-        bool isNumber = false;
-        const uint code = name.mid(isHex ? 2 : 1).toUInt(&isNumber, isHex ? 16 : 10);
-        const bool isCharacter = isNumber && code > 0 && code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
-        return isCharacter ? QString::fromUcs4(std::array{static_cast<char32_t>(code)}.data(), 1) : QString();
+    QByteArray text;
+    const GumboVector& parts = document.root->v.element.children; // head and body
+    for (unsigned int part = 0; part < parts.length; ++part) {
+        const auto* const node = static_cast<const GumboNode*>(parts.data[part]);
+        for (unsigned int i = 0; node->type == GUMBO_NODE_ELEMENT && i < node->v.element.children.length; ++i) {
+            const auto* const child = static_cast<const GumboNode*>(node->v.element.children.data[i]);
+            if (child->type == GUMBO_NODE_TEXT || child->type == GUMBO_NODE_WHITESPACE) {
+                text += child->v.text.text;
+            }
+        }
     }
-    const auto* const found =
-        std::find_if(entities.begin(), entities.end(), [&](const cEntity& entity) { return entity.Name == name; });
-    return found == entities.end() ? QString() : QString(QChar(found->Character));
+    return text;
 }
 
-QString WithoutEntities(QStringView text)
+// The text of a cell with its entities resolved, as a browser would. The parser only gets text: a tree of tags costs it
+// the square of their number, and a deep one overflows its stack.
+QString WithoutEntities(const QString& text)
 {
-    QString plain;
-    for (qsizetype at = 0; at < text.size();) {
-        const qsizetype end = text[at] == u'&' ? text.mid(at, longestEntity).indexOf(u';') : -1;
-        const QString character = end > 0 ? CharacterOf(text.mid(at + 1, end - 1)) : QString();
-        plain += character.isEmpty() ? QString(text[at]) : character;
-        at += character.isEmpty() ? 1 : end + 1;
+    if (!text.contains(u'&')) {
+        return text;
     }
-    return plain;
+    const QByteArray bytes = QString(text).replace(u'<', u"&lt;"_s).remove(QChar::Null).toUtf8();
+    GumboOptions options = kGumboDefaultOptions;
+    options.max_errors = 0;
+    GumboOutput* const document =
+        gumbo_parse_with_options(&options, bytes.constData(), static_cast<size_t>(bytes.size()));
+    const QString plain = QString::fromUtf8(TextOf(*document));
+    gumbo_destroy_output(&options, document);
+    return QString(plain).replace(u'\u2212', u'-'); // the typographic minus of amounts
 }
 
 // A tag without its brackets: `td colspan="2"`, `/td`.
