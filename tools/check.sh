@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What has to hold before a commit. "tools/check.sh" looks at changed files, "tools/check.sh --all" at every file.
-# Builds nothing. With TIDY=1 clang-tidy runs too; it reads the commands of build/clang (cmake --preset clang).
+# Builds nothing; clang-tidy has a script of its own, tools/tidy.sh.
 set -u
 cd "$(dirname "$(readlink -f "$0")")/.."
 code='src tests bench tools fuzz'
@@ -49,17 +49,31 @@ list_of() {
   echo "$folder/CMakeLists.txt"
 }
 
+# A word of its own, because one name may be the beginning or the end of another.
+is_listed() { tr -s ' ()' '\n' < "$2" | grep -qxF "$1"; }
+
 for f in "${files[@]}"; do
   name=$(basename "$f")
   case $f in
-    tests/*/test*.cpp) grep -qE "\b${name%.cpp}\b" "$(list_of "$f")" || fail 'test that is not built' "$f" ;;
+    tests/*/test*.cpp) is_listed "${name%.cpp}" "$(list_of "$f")" || fail 'test that is not built' "$f" ;;
     tests/*) ;;
-    *) grep -qF "$name" "$(list_of "$f")" || fail 'file that is not listed in CMakeLists.txt' "$f" ;;
+    *) list=$(list_of "$f"); is_listed "${f#"$(dirname "$list")"/}" "$list" || fail 'file that is not listed in CMakeLists.txt' "$f" ;;
   esac
+  if [ -f "${f%.cpp}.h" ] && [ "$f" != "${f%.cpp}.h" ]; then
+    grep -m1 '^#include' "$f" | grep -qE "[\"/]${name%.cpp}\.h\"" || fail 'own header is not the first one' "$f"
+  fi
   case $f in *.h) head -1 "$f" | grep -q '^#pragma once' || fail 'header without #pragma once' "$f" ;; esac
   lines=$(wc -l < "$f"); [ "$lines" -gt 600 ] && fail 'file over 600 lines' "$f: $lines"
   tail -c1 "$f" | grep -q . && fail 'no newline at end' "$f"
 done
+
+# Lists with a line for each file or test are sorted, so that everybody finds the same place for a new one.
+unsorted() {
+  LC_ALL=C awk '/^ +FILES$|^set\(tests$|^unit_tests\([a-z]+$/ { last = ""; on = 1; next } /\)/ { on = 0 }
+                on { if ($1 < last) print FILENAME ": " $1; last = $1 }' "$@"
+}
+hits=$(git ls-files '*CMakeLists.txt' | xargs -d '\n' -n1 bash -c "$(declare -f unsorted); unsorted \"\$@\"" _)
+[ -n "$hits" ] && fail 'not in its place in the sorted list' "$hits"
 
 if command -v clang-format >/dev/null; then
   hits=$(printf '%s\0' "${files[@]}" | xargs -0 clang-format --dry-run -Werror 2>&1 | sed -n 's/^\([^:]*\):.*-Wclang-format-violations.*/\1/p' | sort -u)
@@ -68,13 +82,5 @@ else
   fail 'clang-format is missing'
 fi
 
-if [ "${TIDY:-0}" = 1 ]; then
-  mapfile -t units < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
-  if [ ! -f build/clang/compile_commands.json ]; then
-    fail 'clang-tidy needs build/clang: cmake --preset clang && cmake --build --preset clang'
-  elif [ ${#units[@]} -gt 0 ]; then
-    printf '%s\0' "${units[@]}" | xargs -0 -n1 -P2 clang-tidy -p build/clang --quiet 2>/dev/null | grep -E 'warning:|error:' && fail 'clang-tidy'
-  fi
-fi
 [ $failed -eq 0 ] && echo 'check: all rules hold'
 exit $failed

@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
-# Installs the packages of tools/packages.txt that this machine does not have yet. Needs root or sudo only when one is missing.
+# Installs the packages of tools/packages.txt that this machine does not have yet, with --test those of
+# tools/packages-test.txt too. Needs root or sudo only when one is missing.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
-mapfile -t wanted < <(grep -vE '^[[:space:]]*(#|$)' tools/packages.txt)
+lists=(tools/packages.txt)
+[ "${1:-}" = --test ] && lists+=(tools/packages-test.txt)
+mapfile -t wanted < <(grep -hvE '^[[:space:]]*(#|$)' "${lists[@]}")
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
   echo "install: this is no Debian system. Please provide the equivalents of: ${wanted[*]}"
   exit 0
