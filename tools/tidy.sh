@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# clang-tidy over the changed units: what is not committed, or the last commit when everything is. With --all over all.
+# A changed header counts for every unit that includes it by name.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+if ! command -v clang-tidy >/dev/null; then
+  echo 'tidy: clang-tidy is not installed, nothing was looked at'
+  exit 0
+fi
+
+code='src tests tools fuzz bench'
+changed() {
+  local base=HEAD
+  [ -n "$(git status --porcelain -- $code)" ] || base=HEAD~1
+  git diff --name-only --diff-filter=ACMR "$base" -- $code 2>/dev/null || true
+  git ls-files -o --exclude-standard -- $code
+}
+
+if [ "${1:-}" = --all ]; then
+  mapfile -t units < <(find $code -name '*.cpp' | sort)
+else
+  mapfile -t files < <(changed | grep -E '\.(cpp|h)$' | sort -u || true)
+  mapfile -t units < <(
+    for file in "${files[@]}"; do
+      case $file in
+        *.cpp) echo "$file" ;;
+        *) grep -rlF "#include \"${file#src/}\"" $code --include='*.cpp' || true ;;
+      esac
+    done | sort -u)
+fi
+[ ${#units[@]} -gt 0 ] || { echo 'tidy: nothing changed'; exit 0; }
+
+if [ ! -f build/dev/compile_commands.json ]; then
+  echo 'tidy: build first, the commands are those of build/dev: tools/build.sh dev'
+  exit 1
+fi
+# g++'s precompiled header means nothing to clang; what it holds is included by name anyway.
+mkdir -p build/tidy
+sed -E 's# -Winvalid-pch| -include [^ ]*/cmake_pch\.hxx##g' build/dev/compile_commands.json > build/tidy/compile_commands.json
+
+# Only what the preset builds has a command to be read with.
+mapfile -t known < <(for unit in "${units[@]}"; do grep -qF "$PWD/$unit\"" build/tidy/compile_commands.json && echo "$unit"; done || true)
+echo "tidy: ${#known[@]} of ${#units[@]} units"
+[ ${#known[@]} -gt 0 ] || exit 0
+options=(-p build/tidy --quiet --extra-arg=-Wno-unknown-warning-option)
+if ! printf '%s\0' "${known[@]}" | xargs -0 -n1 -P"$(nproc)" clang-tidy "${options[@]}" > build/tidy/log 2>/dev/null; then
+  grep -E 'warning:|error:' build/tidy/log | sort -u
+  exit 1
+fi
+echo 'tidy: nothing found'
