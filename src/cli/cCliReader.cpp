@@ -233,6 +233,11 @@ QString cCliReader::Category(const QString& text, eCliNames names)
     return meant.value(0);
 }
 
+bool cCliReader::IsCategoryPath(const QString& text, eCliNames names) const
+{
+    return !Meant(Categories(names), text, Itself).isEmpty();
+}
+
 QString cCliReader::NoCategory(const QString& text, const QStringList& paths) const
 {
     constexpr qsizetype most = 10;

@@ -5,6 +5,7 @@
 #include "base/modFold.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
+#include "model/cTemplateItem.h"
 #include "model/modWord.h"
 
 #include <algorithm>
@@ -26,6 +27,28 @@ bool IsFound(const cCliBook& book, const cEntryItem& entry, const QList<modFold:
                                      book.AmountText(entry.EntryValue)}
                              .join(u'\n');
     return modFold::HoldsAll(modFold::Fold(text), words);
+}
+
+struct cCategoryChoice
+{
+    QString Path; // empty: all categories
+    bool HasSubs = true;
+
+    [[nodiscard]] bool Holds(const QString& path) const
+    {
+        return Path.isEmpty() || (HasSubs ? modTemplate::IsWithin(path, Path) : path == Path);
+    }
+};
+
+// "Wohnung; Allgemein" stands for what is booked on the main category itself, where it has no sub-category of that
+// name.
+cCategoryChoice ReadCategory(const QString& text, cCliReader& reader)
+{
+    const QString general = u"; Allgemein"_s;
+    if (text.endsWith(general) && !reader.IsCategoryPath(text, eCliNames::Used)) {
+        return {reader.Category(text.chopped(general.size()), eCliNames::Used), false};
+    }
+    return {reader.Category(text, eCliNames::Used)};
 }
 
 cViewState View(const cCliCall& call, const QString& kind, const QString& account)
@@ -67,10 +90,7 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     const QString accountText = call.Value(u"account"_s);
     const QString account =
         accountText == modWord::AlleKonten ? QString() : reader.Account(accountText, eCliNames::Used);
-    // "Wohnung; Allgemein" stands for what is booked on the main category itself and is no path of its own.
-    const QString categoryText = call.Value(u"category"_s);
-    const QString category =
-        categoryText.endsWith(u"; Allgemein"_s) ? categoryText : reader.Category(categoryText, eCliNames::Used);
+    const cCategoryChoice category = ReadCategory(call.Value(u"category"_s), reader);
     if (!reader.IsGood()) {
         selection.Code = reader.Report();
         return selection;
@@ -80,10 +100,10 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     query.End = selection.Days.End;
     query.Type = modWord::QueryType(kind);
     query.Account = account;
-    query.Category = category;
     selection.Entries = book.Data.GetEntries(query);
     const QList<modFold::cFolded> words = modFold::Words(call.Value(u"filter"_s));
-    selection.Entries.removeIf([&](const cEntryItem& entry) { return !IsFound(book, entry, words); });
+    selection.Entries.removeIf(
+        [&](const cEntryItem& entry) { return !category.Holds(entry.EntryCategory) || !IsFound(book, entry, words); });
     std::stable_sort(selection.Entries.begin(), selection.Entries.end(),
                      [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
     selection.View = View(call, kind, account);

@@ -98,6 +98,11 @@ QString modTemplate::Join(const QString& main, const QString& sub)
     return sub.isEmpty() ? main : QString(main + separator + sub);
 }
 
+bool modTemplate::IsWithin(const QString& path, const QString& category)
+{
+    return path == category || path.startsWith(category + separator);
+}
+
 QString modTemplate::WithMain(const QString& path, const QString& main)
 {
     return Join(main, SubOf(path));

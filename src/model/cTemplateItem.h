@@ -50,6 +50,9 @@ namespace modTemplate {
 [[nodiscard]] QString SubOf(const QString& path);
 [[nodiscard]] QString Join(const QString& main, const QString& sub);
 
+// True for the category itself, and for a sub-category of a main category.
+[[nodiscard]] bool IsWithin(const QString& path, const QString& category);
+
 // The path with another main category.
 [[nodiscard]] QString WithMain(const QString& path, const QString& main);
 

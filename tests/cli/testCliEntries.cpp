@@ -29,6 +29,8 @@ private Q_SLOTS:
     void StartBalances();
     void Search_data();
     void Search();
+    void CategoryOfAList_data();
+    void CategoryOfAList();
     void Categories();
     void CategoryDeletedWithItsEntriesMoved();
     void Accounts();
@@ -284,6 +286,28 @@ void testCliEntries::Search()
     (void)Add(
         u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|6.3.2026|--text|Rücklage"_s);
     QTEST(Do(u"search|--json|"_s + options).Column(u"EntryDescription"_s), "texts");
+}
+
+void testCliEntries::CategoryOfAList_data()
+{
+    QTest::addColumn<QString>("category");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addRow("no other that begins alike") << u"Haus"_s << QStringList{u"Dach"_s, u"Zaun"_s};
+    QTest::addRow("sub-category that is called general") << u"Auto; Allgemein"_s << QStringList{u"Wäsche"_s};
+    QTest::addRow("what is booked on the main category") << u"haus; Allgemein"_s << QStringList{u"Dach"_s};
+}
+
+void testCliEntries::CategoryOfAList()
+{
+    QFETCH(const QString, category);
+    for (const QString& path : {u"Haus"_s, u"Haus; Garten"_s, u"Auto; Allgemein"_s, u"Auto"_s}) {
+        Do(u"categories|add|"_s + path);
+    }
+    for (const QString& line : {u"Haus|--text|Dach"_s, u"Haus; Garten|--text|Zaun"_s, u"Lebensmittel|--text|Brot"_s,
+                                u"Auto; Allgemein|--text|Wäsche"_s, u"Auto|--text|Maut"_s}) {
+        (void)Add(u"--amount|5|--kind|Ausgabe|--interval|Einmalig|--category|"_s + line);
+    }
+    QTEST(Do(u"entries|--json|--category|"_s + category).Column(u"EntryDescription"_s), "texts");
 }
 
 void testCliEntries::Categories()

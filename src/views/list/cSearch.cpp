@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/modFold.h"
+#include "model/cTemplateItem.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -16,11 +17,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-bool IsInCategory(const QString& path, const QString& category)
-{
-    return path == category || path.startsWith(category + u"; ");
-}
 
 bool IsOfAmount(qint64 cents, const cSearchQuery& query)
 {
@@ -101,7 +97,7 @@ cEntryItemList cSearch::Narrow(const cEntryItemList& loaded, const cSearchQuery&
     cEntryItemList entries;
     std::copy_if(loaded.begin(), loaded.end(), std::back_inserter(entries), [&](const cEntryItem& entry) {
         return IsOfAmount(entry.EntryValue, query) && (!query.IsCorrected || entry.IsCorrected)
-            && (query.Category.isEmpty() || IsInCategory(entry.EntryCategory, query.Category))
+            && (query.Category.isEmpty() || modTemplate::IsWithin(entry.EntryCategory, query.Category))
             && (!query.IsFromBank || m_bankEntries.contains(entry.ID));
     });
     return entries;
