@@ -62,6 +62,21 @@ QString Hindrance(const QString& path, eCliAccess access, const cShell& shell)
     }
 }
 
+// The window asks its user what to do about a book that is gone. A script has nobody to ask, and must not go on with
+// another book.
+bool IsConfiguredBookThere(const cConfiguration& configuration, const cShell& shell)
+{
+    const QString path = configuration.GetSetting(u"Database"_s);
+    if (path.isEmpty() || shell.FileExists(path)) {
+        return true;
+    }
+    modConsole::Error(
+        cText::Tr("Die Datenbank '{0}', mit der das Fenster von Kontorelle zuletzt gearbeitet hat, wurde nicht "
+                  "gefunden. Prüfen Sie den Pfad, oder nennen Sie mit --database eine andere Datei.",
+                  {path}));
+    return false;
+}
+
 bool TakeLock(cFileLock& lock, const QString& path)
 {
     const eLockState state = lock.Take(path);
@@ -97,7 +112,11 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
 {
     cConsoleRescue rescue;
     auto configuration = std::make_unique<cConfiguration>(ports.Registry);
-    cStartUp startUp({ports.Shell, ports.User, rescue, ports.Clock}, *configuration, QStringLiteral(APP_VERSION));
+    if (database.isEmpty() && !IsConfiguredBookThere(*configuration, ports.Shell)) {
+        return nullptr;
+    }
+    cStartUp startUp({ports.Shell, ports.User, rescue, ports.Clock}, *configuration, QStringLiteral(APP_VERSION),
+                     eFrontEnd::CommandLine);
     const cStartUp::cFound found = database.isEmpty()
         ? startUp.FindDatabase()
         : cStartUp::cFound{QDir::cleanPath(QDir().absoluteFilePath(database))};

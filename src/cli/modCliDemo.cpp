@@ -4,8 +4,10 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "core/cBook.h"
+#include "core/cSettings.h"
 #include "core/modDemo.h"
 #include "store/cDataAccess.h"
+#include "store/modSchema.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,6 +41,8 @@ int Run(const cCliContext& context)
     if (!book.Open(path) || !modDemo::Write(book.Data(), modDemo::OfSize(entries, context.Clock.Today()))) {
         return modExit::Failed;
     }
+    // Nothing in it is older than this version, so nobody needs a copy of it before an upgrade.
+    book.Settings().Set(modSchema::CommandLineVersion, QStringLiteral(APP_VERSION));
     modConsole::Out(
         cText::Tr("{0}: Beispielhaushalt mit {1} Einträgen", {path, QString::number(book.Data().CountEntries())})
         + u'\n');

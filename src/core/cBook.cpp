@@ -39,8 +39,8 @@ bool cBook::Open(const QString& path)
     m_added.clear();
     if (fault == eDatabaseFault::None && !m_database->IsReadOnly()) {
         m_added = modSchema::Upgrade(*m_database);
-    } else if (fault == eDatabaseFault::None && !modSchema::StandIn(*m_database)) {
-        fault = eDatabaseFault::NoAccess;
+    } else if (fault == eDatabaseFault::None) {
+        fault = modSchema::StandIn(*m_database);
     }
     if (fault != eDatabaseFault::None) {
         return Refuse(fault, path);
@@ -53,8 +53,8 @@ bool cBook::OpenForReading(const QString& path)
 {
     eDatabaseFault fault = modSchema::OpenValid(*m_database, path, eOpenMode::ReadOnly);
     m_added.clear();
-    if (fault == eDatabaseFault::None && !modSchema::StandIn(*m_database)) {
-        fault = eDatabaseFault::NoAccess;
+    if (fault == eDatabaseFault::None) {
+        fault = modSchema::StandIn(*m_database);
     }
     if (fault != eDatabaseFault::None) {
         return Refuse(fault, path);

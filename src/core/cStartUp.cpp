@@ -13,10 +13,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-cStartUp::cStartUp(const cPorts& ports, cConfiguration& configuration, QString version)
+cStartUp::cStartUp(const cPorts& ports, cConfiguration& configuration, QString version, eFrontEnd frontEnd)
     : m_ports(ports),
       m_configuration(configuration),
-      m_version(std::move(version))
+      m_version(std::move(version)),
+      m_frontEnd(frontEnd)
 {
 }
 
@@ -98,5 +99,9 @@ void cStartUp::Connect(cBook& book)
     if (settings.Get(u"FirstInstall"_s).isEmpty()) {
         settings.Set(u"FirstInstall"_s, modDate::ToIso(m_ports.Clock.Today()));
     }
-    m_isNewVersion = settings.CheckVersion(m_version);
+    if (m_frontEnd == eFrontEnd::Window) {
+        m_isNewVersion = settings.CheckVersion(m_version);
+    } else if (settings.Get(modSchema::CommandLineVersion) != m_version) {
+        settings.Set(modSchema::CommandLineVersion, m_version);
+    }
 }

@@ -9,6 +9,9 @@ class cRescue;
 class cShell;
 class cUser;
 
+// Which part of the program opens a book. Each notes its version in it for itself.
+enum class eFrontEnd { Window, CommandLine };
+
 // The order in which the program comes up, as far as it needs no window.
 class cStartUp
 {
@@ -22,7 +25,8 @@ public:
     };
 
     // `version` is "major.minor.revision" of the running program.
-    cStartUp(const cPorts& ports, cConfiguration& configuration, QString version);
+    cStartUp(const cPorts& ports, cConfiguration& configuration, QString version,
+             eFrontEnd frontEnd = eFrontEnd::Window);
 
     // Offers to leave the German mark behind when the system still has it as currency.
     void CheckCurrency();
@@ -48,7 +52,7 @@ public:
     // Asks for the password when that is switched on. False keeps the data closed.
     [[nodiscard]] bool AskPassword() const;
 
-    // True when another version of the program opened this database last.
+    // True when the window of another version of the program opened this database last. Only the window is told.
     [[nodiscard]] bool IsNewVersion() const { return m_isNewVersion; }
 
 private:
@@ -57,5 +61,6 @@ private:
     cPorts m_ports;
     cConfiguration& m_configuration;
     QString m_version;
+    eFrontEnd m_frontEnd;
     bool m_isNewVersion = false;
 };

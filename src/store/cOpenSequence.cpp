@@ -259,7 +259,7 @@ eOpenResult cOpenSequence::OpenForReading(const QString& message)
         m_ports.User.Show(eTone::Exclamation, message);
     }
     const eDatabaseFault fault = modSchema::OpenValid(m_database, m_path, eOpenMode::ReadOnly);
-    if (fault == eDatabaseFault::None && modSchema::StandIn(m_database)) {
+    if (fault == eDatabaseFault::None && modSchema::StandIn(m_database) == eDatabaseFault::None) {
         return eOpenResult::OpenedReadOnly;
     }
     m_database.Close();
@@ -273,7 +273,7 @@ eOpenResult cOpenSequence::OpenForReading(const QString& message)
 // Keeps a copy of a database that this version of the program has not opened before. What went wrong, or empty.
 QString cOpenSequence::CopyBeforeUpgrade()
 {
-    if (m_origin == eOrigin::Fresh || modSchema::LastVersion(m_database) == m_version) {
+    if (m_origin == eOrigin::Fresh || modSchema::WasOpenedBy(m_database, m_version)) {
         return {};
     }
     try {

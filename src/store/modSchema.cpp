@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <set>
 #include <span>
 
 using namespace Qt::Literals::StringLiterals;
@@ -184,37 +185,63 @@ void CreateIndexes(cDatabase& database)
     }
 }
 
-// A temporary view that shows a table with empty columns in place of the missing ones.
-void ShowWithColumns(cDatabase& database, const char* table)
+// What the upgrade does to the tables and their rows.
+void BringUpToDate(cDatabase& database)
 {
-    std::string missing;
-    for (const cColumn& column : AbsentColumns(database)) {
-        if (std::string_view(column.Table) == table) {
-            missing.append(", '' AS ").append(column.Name);
+    AddTablesAndColumns(database);
+    ConvertCodes(database, "EntryType", typeWords);
+    ConvertCodes(database, "EntryInterval", intervalWords);
+    CompleteAccounts(database);
+    CreateIndexes(database);
+}
+
+// A table that does not know the columns has no such rows: the upgrade passes over it as well.
+bool HasRows(cDatabase& database, const std::string& table, const std::string& condition)
+{
+    try {
+        cRows rows(database, "SELECT 1 FROM main." + table + " WHERE " + condition + " LIMIT 1");
+        return rows.Next();
+    } catch (const cDatabaseError& error) {
+        if (error.Fault() != eDatabaseFault::Other) {
+            throw;
         }
-    }
-    if (!missing.empty()) {
-        database.Execute(std::string("CREATE TEMP VIEW ") + table + " AS SELECT *" + missing + " FROM main." + table);
+        return false;
     }
 }
 
+// The tables of the file with columns or rows that the upgrade would change.
+std::set<std::string> OutdatedTables(cDatabase& database)
+{
+    std::set<std::string> tables;
+    for (const cColumn& column : AbsentColumns(database)) {
+        if (Exists(database, "table", column.Table)) {
+            tables.insert(column.Table);
+        }
+    }
+    if (HasRows(database, "data", "EntryAccount = ''")) {
+        tables.insert("data");
+    }
+    if (HasRows(database, "template", "EntryType GLOB '[0-9]*' OR EntryInterval GLOB '[0-9]*'")) {
+        tables.insert("template");
+    }
+    return tables;
+}
+
+// Statements that name no schema find temporary tables before those of the file, so the upgrade works on the copies.
+// Afterwards nothing can be written, lest a change went into a copy and was lost without a word.
 void PutStandIns(cDatabase& database)
 {
+    database.Execute("PRAGMA temp_store=MEMORY"); // a household's figures belong into no other file
     for (const cTable& table : OwnTables()) {
         if (!Exists(database, "table", table.Name)) {
             database.Execute(std::string("CREATE TEMP TABLE ") + table.Name + " (" + table.Columns + ")");
         }
     }
-    if (!Exists(database, "table", "account")) {
-        for (const cColumn& column : AddedColumns()) {
-            if (std::string_view(column.Table) == "account") {
-                database.Execute(std::string("ALTER TABLE temp.account ADD ") + column.Name + " TEXT");
-            }
-        }
-    } else {
-        ShowWithColumns(database, "account");
+    for (const std::string& table : OutdatedTables(database)) {
+        database.Execute("CREATE TEMP TABLE " + table + " AS SELECT * FROM main." + table);
     }
-    ShowWithColumns(database, "data");
+    BringUpToDate(database);
+    database.Execute("PRAGMA query_only=ON");
 }
 
 } // namespace
@@ -278,11 +305,7 @@ QStringList modSchema::Upgrade(cDatabase& database)
     const QStringList before = Absent(database);
     database.TryExecute("PRAGMA synchronous=OFF");
     database.TryExecute("PRAGMA auto_vacuum=2");
-    AddTablesAndColumns(database);
-    ConvertCodes(database, "EntryType", typeWords);
-    ConvertCodes(database, "EntryInterval", intervalWords);
-    CompleteAccounts(database);
-    CreateIndexes(database);
+    BringUpToDate(database);
     if (before.isEmpty()) {
         return {};
     }
@@ -302,22 +325,23 @@ QStringList modSchema::Missing(cDatabase& database)
     }
 }
 
-bool modSchema::StandIn(cDatabase& database)
+eDatabaseFault modSchema::StandIn(cDatabase& database)
 {
     try {
         PutStandIns(database);
-        return true;
-    } catch (const cDatabaseError&) {
-        return false;
+        return eDatabaseFault::None;
+    } catch (const cDatabaseError& error) {
+        return error.Fault() == eDatabaseFault::Other ? eDatabaseFault::Damaged : error.Fault();
     }
 }
 
-QString modSchema::LastVersion(cDatabase& database)
+bool modSchema::WasOpenedBy(cDatabase& database, const QString& version)
 {
     try {
-        cRows rows(database, "SELECT SettingValue FROM setting WHERE SettingName = 'LastVersion'");
-        return rows.Next() ? rows.Text(0) : QString{};
+        cRows rows(database, "SELECT 1 FROM setting WHERE SettingName IN ('LastVersion', ?) AND SettingValue = ?",
+                   {CommandLineVersion, version});
+        return rows.Next();
     } catch (const cDatabaseError&) {
-        return {};
+        return false;
     }
 }

@@ -29,12 +29,16 @@ QStringList Upgrade(cDatabase& database);
 // Tables and columns that the program needs and the database does not have, in words for the user.
 [[nodiscard]] QStringList Missing(cDatabase& database);
 
-// Lets queries work on a database that must not be upgraded: temporary tables and views take the place of what is
-// missing. False when the file cannot be read after all.
-[[nodiscard]] bool StandIn(cDatabase& database);
+// Lets queries see a database that must not be written as it will be after its upgrade: temporary tables take the place
+// of what the upgrade would add or change. The connection refuses all writes from then on. None when that is done.
+[[nodiscard]] eDatabaseFault StandIn(cDatabase& database);
 
-// The version of the program that last opened the database; empty when it does not say.
-[[nodiscard]] QString LastVersion(cDatabase& database);
+// True when this version of the program, its window or its command line, has opened the database for writing before.
+[[nodiscard]] bool WasOpenedBy(cDatabase& database, const QString& version);
+
+// The setting in which the command line notes its version. "LastVersion" is the window's, which resets its view when
+// that one changes.
+inline const QString CommandLineVersion = QStringLiteral("LastCommandLineVersion");
 
 // Puts exactly one separator between a folder and a name.
 [[nodiscard]] QString JoinPath(const QString& folder, const QString& name);

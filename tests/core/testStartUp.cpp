@@ -88,6 +88,22 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Shown, QStringList());
     }
 
+    // The command line notes its version elsewhere: the window resets its view once for each version of its own.
+    void CommandLineLeavesTheChangeOfVersionToTheWindow() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make();
+        cStartUp commandLine({machine.Shell, machine.User, machine.Rescue, machine.Clock}, machine.Configuration,
+                             u"0.1.0"_s, eFrontEnd::CommandLine);
+        QVERIFY(commandLine.OpenBook(machine.Book, path));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, path));
+        QVERIFY(machine.StartUp.IsNewVersion());
+        QVERIFY(commandLine.OpenBook(machine.Book, path));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, path));
+        QVERIFY(!machine.StartUp.IsNewVersion());
+        QCOMPARE(QDir(machine.File.Folder()).entryList({u"*.backup"_s}).size(), 1);
+    }
+
     void ConfiguredDatabase() const
     {
         cMachine machine;

@@ -305,6 +305,11 @@ private Q_SLOTS:
         QTest::newRow("opened by another version")
             << QString(ours + u"UPDATE setting SET SettingValue = '0.0.9'"_s) << eOrigin::Existing << true;
         QTest::newRow("opened by this version") << ours << eOrigin::Existing << false;
+        QTest::newRow("opened by the command line of this version")
+            << QString(ours
+                       + u"UPDATE setting SET SettingValue = '0.0.9'; INSERT INTO setting (SettingName, "
+                         u"SettingValue) VALUES ('LastCommandLineVersion', '0.1.0')"_s)
+            << eOrigin::Existing << false;
         QTest::newRow("just made from the template") << QString() << eOrigin::Fresh << false;
     }
 

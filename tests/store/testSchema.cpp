@@ -131,7 +131,7 @@ private Q_SLOTS:
         const QByteArray before = cTestFile::Bytes(file.Path());
         cDatabase database;
         QCOMPARE(modSchema::OpenValid(database, file.Path(), eOpenMode::ReadOnly), eDatabaseFault::None);
-        QVERIFY(modSchema::StandIn(database));
+        QCOMPARE(modSchema::StandIn(database), eDatabaseFault::None);
         cFakeUser user;
         cDataAccess data(database, user);
         QCOMPARE(data.GetEntries({{}, QDate(2024, 3, 31), {}, {}, {}}).size(), 3);
@@ -142,6 +142,33 @@ private Q_SLOTS:
         QCOMPARE(user.Shown.size(), 1);
         database.Close();
         QVERIFY(cTestFile::Bytes(file.Path()) == before);
+    }
+
+    // Figures must not change because the window has opened the file in the meantime.
+    void ReadingSeesWhatTheUpgradeWillMake() const
+    {
+        const cTestFile file;
+        file.Make(
+            "INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, EntryValue) VALUES"
+            " ('2024-01-01', '2050-01-01', 'Ausgabe', 'Monatlich', '', '5.00'),"
+            " ('2024-01-02', '2050-01-01', 'Ausgabe', 'Einmalig', 'Bar', '7.00');"
+            "INSERT INTO template (EntryType, EntryInterval, TemplateType, TemplateCategory) VALUES"
+            " ('2', '6', 'Kategorie', 'Wohnung');");
+        cDatabase database;
+        cFakeUser user;
+        cDataAccess data(database, user);
+        const auto entries = [&] { return data.GetEntries({{}, QDate(2024, 3, 31), {}, u"Girokonto"_s, {}}); };
+        QCOMPARE(modSchema::OpenValid(database, file.Path(), eOpenMode::ReadOnly), eDatabaseFault::None);
+        QCOMPARE(modSchema::StandIn(database), eDatabaseFault::None);
+        const cEntryItemList before = entries();
+        const cTemplateItemList templates = data.GetTemplates();
+        QCOMPARE(before.size(), 3);
+        QCOMPARE(data.LoadEntry(1).value_or(cEntryItem{}).EntryAccount, u"Girokonto"_s);
+
+        QCOMPARE(modSchema::OpenValid(database, file.Path(), eOpenMode::ReadWrite), eDatabaseFault::None);
+        modSchema::Upgrade(database);
+        QVERIFY(entries() == before);
+        QVERIFY(data.GetTemplates() == templates);
     }
 
     void DefaultDatabase_data() const
