@@ -96,7 +96,7 @@ void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& comma
         m_arguments.append(text);
         return;
     }
-    if (text == "hilfe"_L1 || text == "help"_L1 || text == "-h"_L1) {
+    if (IsHelpWord(text)) {
         m_wantsHelp = true;
         return;
     }
@@ -104,6 +104,11 @@ void cCliCall::TakeArgument(const QString& text, const QList<cCliCommand>& comma
     if (m_command == nullptr) {
         m_error = cText::Tr("Den Befehl '{0}' gibt es nicht.", {text});
     }
+}
+
+bool cCliCall::IsHelpWord(const QString& text)
+{
+    return text == "hilfe"_L1 || text == "help"_L1 || text == "-h"_L1;
 }
 
 bool cCliCall::TakeSecondWord(const QString& text, const QList<cCliCommand>& commands)
@@ -142,7 +147,9 @@ void cCliCall::CheckCounts()
 
 eCliAccess cCliCall::Access() const
 {
-    const bool onlyReads = !m_command->ReadsWith.isEmpty() && Has(m_command->ReadsWith);
+    const QStringList& reading = m_command->ReadsWith;
+    const bool onlyReads =
+        std::any_of(reading.begin(), reading.end(), [this](const QString& option) { return Has(option); });
     return onlyReads ? eCliAccess::Read : m_command->Access;
 }
 

@@ -33,7 +33,7 @@ struct cCliCommand
     int MinArguments = 0;
     int MaxArguments = 0;
     eCliAccess Access = eCliAccess::Read;
-    QString ReadsWith{}; // with this option it only reads, whatever Access says
+    QStringList ReadsWith{}; // with one of these options it only reads, whatever Access says
     QList<cCliOption> Options{};
     int (*Run)(const cCliContext&) = nullptr; // gives the exit code
 };
@@ -53,6 +53,9 @@ class cCliCall
 public:
     // Reads the arguments after the program's name. What is wrong with them stands in Error().
     [[nodiscard]] static cCliCall Parse(const QStringList& arguments, const QList<cCliCommand>& commands);
+
+    // True for what asks for the help instead of a command.
+    [[nodiscard]] static bool IsHelpWord(const QString& text);
 
     [[nodiscard]] const QString& Error() const { return m_error; }
     [[nodiscard]] bool WantsHelp() const { return m_wantsHelp; }

@@ -15,7 +15,7 @@ QString cCliTable::Cut(qsizetype column, const QString& text) const
 {
     const int longest = m_columns.at(column).Longest;
     const QString line = text.simplified(); // bank texts may hold line breaks
-    return line.size() > longest ? line.left(longest - 1) + u'…' : line;
+    return longest > 0 && line.size() > longest ? line.left(longest - 1) + u'…' : line;
 }
 
 QString cCliTable::ToString() const

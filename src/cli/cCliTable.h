@@ -14,7 +14,7 @@ public:
     {
         QString Title;
         eAlign Align = eAlign::Left;
-        int Longest = 40; // longer texts are cut and end in an ellipsis
+        int Longest = 0; // longer texts are cut and end in an ellipsis; 0: never, so that names can be given back
     };
 
     explicit cCliTable(QList<cColumn> columns) : m_columns(std::move(columns)) {}

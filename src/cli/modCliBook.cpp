@@ -180,6 +180,7 @@ cCliCommand modCliCommands::BookCommand()
             .Help = cText::Tr("bucht offene Umsätze so, wie \"propose\" es zeigt"),
             .MaxArguments = Any,
             .Access = eCliAccess::Write,
+            .ReadsWith = {u"dry-run"_s},
             .Options = {{u"all"_s, {}, cText::Tr("alle offenen Umsätze")},
                         {u"id"_s, u"N..."_s, cText::Tr("die Umsätze mit diesen Nummern (Spalte ID)")},
                         {u"dry-run"_s, {}, cText::Tr("nur zeigen, nichts ändern")}},

@@ -69,7 +69,7 @@ QString State(const cTemplateItem& item)
 
 void Print(const cCliBook& book, const cTemplateItemList& items, const QHash<QString, int>& counts)
 {
-    cCliTable table({{cText::Tr("Kategorie"), eAlign::Left, 60},
+    cCliTable table({{cText::Tr("Kategorie")},
                      {cText::Tr("Art")},
                      {cText::Tr("Intervall")},
                      {cText::Tr("Monatslimit"), eAlign::Right},

@@ -5,6 +5,7 @@
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "cli/modCliFlow.h"
 #include "model/modWord.h"
 #include "views/chart/cChartMaker.h"
 #include "views/chart/cForecast.h"
@@ -133,6 +134,9 @@ int Run(const cCliContext& context)
             context.User.Show(eTone::Critical,
                               cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}", {path, problem}));
             return modExit::Failed;
+        }
+        if (!path.isEmpty()) {
+            modCliFlow::SayWritten(path);
         }
     }
     return modExit::Done;

@@ -136,7 +136,7 @@ cCliCommand modCliCommands::CorrectCommand()
             .MinArguments = 1,
             .MaxArguments = 3,
             .Access = eCliAccess::Write,
-            .ReadsWith = u"list"_s,
+            .ReadsWith = {u"list"_s},
             .Options = {{u"skip"_s, {}, cText::Tr("das Vorkommen auslassen (Betrag 0)")},
                         {u"remove"_s, {}, cText::Tr("die Korrektur entfernen")},
                         {u"comment"_s, u"TEXT"_s, cText::Tr("Kommentar zur Korrektur"), true},

@@ -32,6 +32,11 @@ cConsoleUser::cAnswers modCliFlow::RemovalAnswers(const cCliContext& context, co
     return answers;
 }
 
+void modCliFlow::SayWritten(const QString& path)
+{
+    modConsole::Out(cText::Tr("'{0}' geschrieben.", {path}) + u'\n');
+}
+
 int modCliFlow::Finish(const cCliContext& context, bool isDone)
 {
     if (isDone) {

@@ -17,6 +17,9 @@ namespace modCliFlow {
 // is given.
 [[nodiscard]] cConsoleUser::cAnswers RemovalAnswers(const cCliContext& context, const QString& target);
 
+// Says that a file was written.
+void SayWritten(const QString& path);
+
 // Says what was done, or that nothing was where nothing has been said yet. The exit code.
 [[nodiscard]] int Finish(const cCliContext& context, bool isDone);
 

@@ -250,7 +250,7 @@ cCliCommand modCliCommands::ImportCommand()
             .MinArguments = 1,
             .MaxArguments = Any,
             .Access = eCliAccess::Write,
-            .ReadsWith = u"dry-run"_s,
+            .ReadsWith = {u"dry-run"_s},
             .Options =
                 QList<cCliOption>{
                     {u"account"_s, u"NUMMER"_s,

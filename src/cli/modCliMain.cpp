@@ -18,7 +18,8 @@ namespace {
 int ShowHelp(const cCliCall& call)
 {
     const QList<cCliCommand>& commands = modCliCommands::All();
-    const QString topic = call.Command() != nullptr ? call.Command()->Name : call.Arguments().join(u' ');
+    const QString named = call.Command() != nullptr ? call.Command()->Name : call.Arguments().join(u' ');
+    const QString topic = cCliCall::IsHelpWord(named) ? QString() : named;
     const auto command =
         std::find_if(commands.begin(), commands.end(), [&](const cCliCommand& known) { return known.Name == topic; });
     if (command == commands.end() && !topic.isEmpty()) {

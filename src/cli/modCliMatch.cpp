@@ -78,7 +78,7 @@ cCliTable MatchTable()
                       {cText::Tr("Betrag"), eAlign::Right},
                       {cText::Tr("Text"), eAlign::Left, 30},
                       {cText::Tr("Güte"), eAlign::Right},
-                      {cText::Tr("Grund"), eAlign::Left, 80}});
+                      {cText::Tr("Grund")}});
 }
 
 void Print(const cCliBook& book, const cMatchResult& result)
@@ -175,7 +175,7 @@ cCliCommand modCliCommands::MatchCommand()
     return {.Name = u"match"_s,
             .Help = cText::Tr("ordnet offene Umsätze den Einträgen zu, die schon im Haushaltsbuch stehen"),
             .Access = eCliAccess::Write,
-            .ReadsWith = u"dry-run"_s,
+            .ReadsWith = {u"dry-run"_s, u"candidates"_s},
             .Options = {{u"dry-run"_s, {}, cText::Tr("nur zeigen, nichts ändern")},
                         {u"candidates"_s, u"UMSATZ"_s, cText::Tr("nur zeigen, wozu dieser Umsatz gehören kann")},
                         {u"correct"_s, {}, cText::Tr("Vorkommen von Serien auf den Betrag des Umsatzes korrigieren")},

@@ -13,10 +13,10 @@ int Run(const cCliContext& context)
 {
     cConfiguration& configuration = context.Book->Configuration();
     const QString path = context.Book->File().Path();
-    if (!context.Call.Has(u"remove"_s)) {
-        modConsole::Out((modPassword::IsActive(configuration)
-                             ? cText::Tr("{0}: mit Passwort; \"password --remove\" entfernt es", {path})
-                             : cText::Tr("{0}: ohne Passwort", {path}))
+    const bool isActive = modPassword::IsActive(configuration);
+    if (!isActive || !context.Call.Has(u"remove"_s)) {
+        modConsole::Out((isActive ? cText::Tr("{0}: mit Passwort; \"password --remove\" entfernt es", {path})
+                                  : cText::Tr("{0}: ohne Passwort", {path}))
                         + u'\n');
         return modExit::Done;
     }

@@ -7,6 +7,7 @@
 #include "cli/cConsoleUser.h"
 #include "cli/cJsonObject.h"
 #include "cli/modCliCommands.h"
+#include "cli/modCliFlow.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
 #include "views/report/cReportExport.h"
@@ -190,31 +191,44 @@ bool WritePdf(const cCliContext& context, cReportSource& source, cReportWish wis
     return isWritten;
 }
 
-// Writes the files that are asked for; what was not asked for goes to the console.
-int Write(const cCliContext& context, const cReportWish& wish)
+// Writes the files that are asked for; their paths, or nothing after a message.
+std::optional<QStringList> WriteFiles(const cCliContext& context, cReportSource& source, const cReportWish& wish)
 {
-    cReportSource source(context.Book->Data, context.Book->Settings(), context.Clock, context.Book->Format());
     cReportExport writer(context.User, source, context.Book->Format());
-    bool isWritten = false;
+    QStringList paths;
     for (const cTarget& target : Targets()) {
-        if (!context.Call.Has(target.Option)) {
+        const QString path = context.Call.Value(target.Option);
+        if (path.isEmpty()) {
             continue;
         }
-        if (writer.WriteFile(wish, target.Format, context.Call.Value(target.Option)) != cReportExport::eDone::Written) {
-            return modExit::Failed;
+        if (writer.WriteFile(wish, target.Format, path) != cReportExport::eDone::Written) {
+            return std::nullopt;
         }
-        isWritten = true;
+        paths.append(path);
     }
     if (context.Call.Has(u"pdf"_s)) {
         if (!WritePdf(context, source, wish)) {
-            return modExit::Failed;
+            return std::nullopt;
         }
-        isWritten = true;
+        paths.append(context.Call.Value(u"pdf"_s));
+    }
+    return paths;
+}
+
+// What was not asked for as a file goes to the console.
+int Write(const cCliContext& context, const cReportWish& wish)
+{
+    cReportSource source(context.Book->Data, context.Book->Settings(), context.Clock, context.Book->Format());
+    const std::optional<QStringList> paths = WriteFiles(context, source, wish);
+    if (!paths) {
+        return modExit::Failed;
     }
     if (context.Call.Has(u"json"_s)) {
         modConsole::Out(ToJson(source.Figures(wish), wish));
-    } else if (!isWritten) {
+    } else if (paths->isEmpty()) {
         modConsole::Out(cTextReport(*context.Book, source.Figures(wish)).Write());
+    } else {
+        std::for_each(paths->begin(), paths->end(), modCliFlow::SayWritten);
     }
     return context.User.HasFailed() ? modExit::Failed : modExit::Done;
 }

@@ -200,9 +200,9 @@ int Test(const cCliContext& context)
     cCliTable table({{cText::Tr("Datum")},
                      {cText::Tr("Betrag"), eAlign::Right},
                      {cText::Tr("Empfänger"), eAlign::Left, 30},
-                     {cText::Tr("Zweck")},
+                     {cText::Tr("Zweck"), eAlign::Left, 40},
                      {cText::Tr("Regel"), eAlign::Right},
-                     {cText::Tr("Dann"), eAlign::Left, 60}});
+                     {cText::Tr("Dann")}});
     for (const cImportEntry& row : rows) {
         const int place = matcher.Find(cRuleRow(row, book.Accounts.AccountOf(row.ImportAccount)));
         objects.append(modCliRecord::Row(row)

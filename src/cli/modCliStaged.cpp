@@ -36,7 +36,7 @@ int Run(const cCliContext& context)
                      {cText::Tr("Datum")},
                      {cText::Tr("Betrag"), eAlign::Right},
                      {cText::Tr("Empfänger"), eAlign::Left, 30},
-                     {cText::Tr("Zweck")},
+                     {cText::Tr("Zweck"), eAlign::Left, 40},
                      {cText::Tr("Stand")}});
     for (const cImportEntry& row : rows) {
         table.Add({QString::number(row.ID), modDate::ToGerman(row.ImportDate),

@@ -114,7 +114,7 @@ void PrintTable(const cStatementListModel& statement)
     for (int column = 0; column < cStatementListModel::ColumnCount; ++column) {
         const bool isMoney = column == cStatementListModel::Amount || column == cStatementListModel::Balance;
         columns.append({statement.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                        isMoney ? eAlign::Right : eAlign::Left, 30});
+                        isMoney ? eAlign::Right : eAlign::Left, column == cStatementListModel::Category ? 0 : 30});
     }
     cCliTable table(columns);
     for (int row = 0; row < statement.rowCount(); ++row) {

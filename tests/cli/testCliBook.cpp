@@ -1,0 +1,161 @@
+#include "app/cQtRegistry.h"
+#include "cCliRun.h"
+#include "core/cConfiguration.h"
+#include "support/cTestFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Makes of a book of today one that an older program left: no tables of its own, codes for words, no EntryFlags, and
+// entries that do not say their account.
+constexpr const char* ageing =
+    "DROP TABLE account; DROP TABLE setting; DROP TABLE datamod;"
+    "DROP INDEX dataID; DROP INDEX templateID; DROP INDEX importID; DROP INDEX importAssignedID;"
+    "ALTER TABLE data DROP COLUMN EntryFlags;"
+    "UPDATE data SET EntryAccount = '' WHERE ID % 5 = 0 AND EntryType <> 'Umbuchung';"
+    "UPDATE template SET EntryType = '2' WHERE EntryType = 'Ausgabe';"
+    "UPDATE template SET EntryInterval = '6' WHERE EntryInterval = 'Monatlich'";
+
+} // namespace
+
+// Which book the command line opens, and how it sees one that is not of today.
+class testCliBook final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OldBookIsReadAsItWillBe() const;
+    void ConfiguredBookIsGone() const;
+    void OneCopyForEachVersion() const;
+    void FaultyFiles_data() const;
+    void FaultyFiles() const;
+    void CommandsSayWhatTheyDid_data() const;
+    void CommandsSayWhatTheyDid() const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void testCliBook::OldBookIsReadAsItWillBe() const
+{
+    const QString path = m_folder.filePath(u"old.db"_s);
+    cCliRun::GoodLine(m_folder.path(), u"demo|"_s + path);
+    cTestFile::Run(path, ageing);
+    const QByteArray file = cTestFile::Bytes(path);
+    const auto read = [&] {
+        QStringList outputs;
+        for (const QString& line :
+             {u"balances|--json"_s, u"accounts|--json"_s, u"categories|--json"_s, u"forecast|--json"_s,
+              u"entries|--json|--period|Alle Buchungen|--account|Girokonto"_s, u"search|--json|miete"_s,
+              u"report|summe|--json"_s, u"report|limit|--json"_s, u"chart|ausgaben|--csv|%1/chart.csv"_s,
+              u"export|%1/out.csv|--account|Girokonto"_s, u"staged|--json"_s, u"propose|--json"_s,
+              u"match|--dry-run|--json"_s, u"book|--all|--dry-run"_s, u"statement|--json|--account|4711000815"_s}) {
+            const QString asked = line.contains(u'%') ? line.arg(m_folder.path()) : line;
+            outputs.append(cCliRun::GoodLine(m_folder.path(), u"--database|%1|%2"_s.arg(path, asked)).Text());
+        }
+        for (const QString& name : {u"chart.csv"_s, u"out.csv"_s}) {
+            outputs.append(QString::fromUtf8(cTestFile::Bytes(m_folder.filePath(name))));
+        }
+        return outputs;
+    };
+    const QStringList before = read();
+    QVERIFY(cTestFile::Bytes(path) == file);
+    cCliRun::GoodLine(m_folder.path(), u"--database|%1|check"_s.arg(path)); // upgrades
+    const QStringList after = read();
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        QVERIFY2(before.at(i) == after.at(i),
+                 qPrintable(before.at(i).left(500) + u"\n---\n"_s + after.at(i).left(500)));
+    }
+}
+
+void testCliBook::ConfiguredBookIsGone() const
+{
+    const QTemporaryDir profile;
+    const QString gone = profile.filePath(u"stick/haushalt.db"_s);
+    QVERIFY(cQtRegistry(profile.path()).Write(cConfiguration::RegistryKey, u"Database"_s, gone));
+    for (const QString& line : {u"balances"_s, u"check"_s, u"accounts|add|Depot"_s}) {
+        const cCliRun run = cCliRun::Line(profile.path(), line);
+        QVERIFY2(run.Code == 1 && run.Out.isEmpty() && run.Error.contains(gone), qPrintable(run.Text()));
+    }
+    QVERIFY(!QFile::exists(profile.filePath(u"Veltrino Kontorelle/data.db"_s)));
+}
+
+void testCliBook::OneCopyForEachVersion() const
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"book.db"_s);
+    cTestFile::Run(path, cTestFile::Tables);
+    const auto value = [&](const std::string& sql) {
+        cDatabase database;
+        database.Open(path, eOpenMode::ReadOnly);
+        return cTestFile::Value(database, sql);
+    };
+    for (const QString& name : {u"Depot"_s, u"Tagesgeld"_s}) {
+        cCliRun::GoodLine(folder.path(), u"--database|%1|accounts|add|%2"_s.arg(path, name));
+        QCOMPARE(QDir(folder.path()).entryList({u"*.backup"_s}).size(), 1);
+    }
+    // The window has to see that it has not been here yet.
+    QCOMPARE(value("SELECT COUNT(*) FROM setting WHERE SettingName = 'LastVersion'"), u"0"_s);
+}
+
+void testCliBook::FaultyFiles_data() const
+{
+    QTest::addColumn<QString>("line");
+    for (const QString& line : {u"check"_s, u"balances"_s, u"backup"_s, u"password"_s, u"restore|~/good.db|--yes"_s}) {
+        QTest::addRow("%s", qPrintable(line)) << line;
+    }
+}
+
+// None of them may touch the file, and only "restore" gets anywhere: it puts a good one in the place of the bad one.
+void testCliBook::FaultyFiles() const
+{
+    QFETCH(const QString, line);
+    const QTemporaryDir folder;
+    cTestFile::Run(folder.filePath(u"good.db"_s), cTestFile::Tables);
+    const QString path = folder.filePath(u"book.db"_s);
+    const bool isRestored = line.startsWith("restore"_L1);
+    const auto check = [&](const char* kind) {
+        const QByteArray before = cTestFile::Bytes(path);
+        const QString call = u"--database|%1|%2"_s.arg(path, QString(line).replace(u'~', folder.path()));
+        const cCliRun run = cCliRun::Line(folder.path(), call);
+        QVERIFY2(run.Code == (isRestored ? 0 : 1), qPrintable(QString::fromLatin1(kind) + run.Text()));
+        QVERIFY2(isRestored || (run.Out.isEmpty() && run.Error.contains(u"beschädigt"_s)), qPrintable(run.Text()));
+        QCOMPARE(cTestFile::Bytes(path) == before, !isRestored);
+        QVERIFY(QFile::remove(path));
+    };
+    cTestFile::Write(path, QByteArray());
+    check("empty");
+    cTestFile::Write(path, QByteArray("Dies ist ein Brief.\n").repeated(200));
+    check("letter");
+    cTestFile::Run(path, "CREATE TABLE bookmarks (ID INTEGER)");
+    check("somebody else's");
+    cTestFile::Write(path, QByteArray("SQLite format 3\0", 16) + QByteArray(4000, 'x'));
+    check("rubbish");
+}
+
+void testCliBook::CommandsSayWhatTheyDid_data() const
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("limit") << u"accounts|limit|girokonto|100"_s << u"Kontolimit von 'Girokonto' ist nun 100,00"_s;
+    QTest::newRow("no limit") << u"accounts|limit|girokonto|ohne"_s << u"Kontolimit von 'Girokonto' entfernt"_s;
+    QTest::newRow("help of the help") << u"hilfe|hilfe"_s << u"Befehle:"_s;
+    QTest::newRow("report as a page") << u"report|summe|--html|~/r.html"_s << u"/r.html' geschrieben."_s;
+    QTest::newRow("no password to remove") << u"password|--remove"_s << u": ohne Passwort"_s;
+}
+
+void testCliBook::CommandsSayWhatTheyDid() const
+{
+    QFETCH(QString, line);
+    QFETCH(const QString, text);
+    const cCliRun run = cCliRun::GoodLine(m_folder.path(), line.replace(u'~', m_folder.path()));
+    QVERIFY2(run.Out.contains(text) && run.Error.isEmpty(), qPrintable(run.Text()));
+}
+
+QTEST_GUILESS_MAIN(testCliBook)
+#include "testCliBook.moc"
