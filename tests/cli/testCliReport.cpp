@@ -81,7 +81,8 @@ void testCliReport::Files()
     const cCliRun run =
         Run(u"report|summe|--html|%1|--csv|%2|--pdf|%3|--from|2026-02-01|--to|2026-02-28"_s.arg(page, table, pdf));
     QCOMPARE(run.Code, 0);
-    QCOMPARE(run.Out, QString()); // the figures have gone into the files
+    QCOMPARE(run.Out.count(u'\n'), 3); // a line for each file; the figures have gone into them
+    QCOMPARE(run.Out.count(u"' geschrieben."_s), 3);
     QFile painted(pdf);
     QVERIFY(painted.open(QIODevice::ReadOnly));
     QVERIFY(painted.read(5) == "%PDF-");
