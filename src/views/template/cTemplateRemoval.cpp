@@ -16,7 +16,7 @@
 
 namespace {
 
-enum eWay { MoveAndDelete, OnlyDelete };
+enum eWay { GiveUp = -1, MoveAndDelete, OnlyDelete };
 
 bool IsCategoryOf(const cTemplateItem& item, const QString& path)
 {
@@ -41,7 +41,7 @@ bool cTemplateRemoval::Refuse(const QString& text)
 
 bool cTemplateRemoval::Ask(const QString& text, const QString& title)
 {
-    return m_user.Ask({.Text = text, .Title = title}) == eAnswer::Yes;
+    return m_user.Ask({.Text = text, .Title = title, .Default = eAnswer::No}) == eAnswer::Yes;
 }
 
 bool cTemplateRemoval::Finish(bool isWritten)
@@ -164,7 +164,8 @@ bool cTemplateRemoval::Delete(const cDoomed& doomed, const QString& onlyDelete)
                            "und bleiben überall sichtbar.",
                            {doomed.Shown, count}),
          .Title = title,
-         .Options = {cText::Tr("Buchungen verschieben und löschen"), onlyDelete}});
+         .Options = {cText::Tr("Buchungen verschieben und löschen"), onlyDelete},
+         .Default = eWay::GiveUp});
     if (way == eWay::OnlyDelete) {
         return Remove(doomed, {});
     }
@@ -296,7 +297,8 @@ bool cTemplateRemoval::DeleteAccount(const QString& name)
                            "altes Konto und bleiben überall sichtbar.",
                            {name, count}),
          .Title = title,
-         .Options = {cText::Tr("Buchungen verschieben und löschen"), cText::Tr("Nur das Konto löschen")}});
+         .Options = {cText::Tr("Buchungen verschieben und löschen"), cText::Tr("Nur das Konto löschen")},
+         .Default = eWay::GiveUp});
     if (way == eWay::OnlyDelete) {
         return RemoveAccount(*account, {});
     }
