@@ -10,6 +10,7 @@
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
 #include "model/modBalance.h"
+#include "store/cUndoStep.h"
 #include "views/entry/cStartBalance.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cTemplateManager.h"
@@ -195,7 +196,14 @@ int Limit(const cCliContext& context)
         return modExit::Failed;
     }
     account->TemplateDefaultValue = isNone ? QString() : modAmount::CentsToText(cents);
-    return modCliFlow::Finish(context, data.ChangeTemplate(*account));
+    bool isDone = false;
+    {
+        cUndoStep step(data,
+                       isNone ? cText::Tr("Kontolimit von '{0}' entfernt", {name})
+                              : cText::Tr("Kontolimit von '{0}' ist nun {1}", {name, context.Book->AmountText(cents)}));
+        isDone = data.ChangeTemplate(*account) || step.Revert();
+    }
+    return modCliFlow::Finish(context, isDone);
 }
 
 } // namespace
