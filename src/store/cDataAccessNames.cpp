@@ -73,7 +73,7 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
     const bool losesGroup = Loses(asked.TemplateCategory, stored->TemplateCategory);
     const bool isKept =
         Loses(asked.TemplateName, stored->TemplateName) || (losesGroup && !modTemplate::IsAccount(asked));
-    const cTemplateItem cleaned = WithFreeName(asked);
+    const cTemplateItem cleaned = IsClean(asked) ? asked : WithFreeName(asked);
     const bool isWritten = WriteTemplate(cleaned) && (!isKept || Follow(*stored, cleaned))
         && (!losesGroup || MoveGroup(*stored, cleaned.TemplateCategory)) && JoinGroups(cleaned);
     return isWritten || step.Revert();

@@ -12,8 +12,8 @@ class cNameKeepers
 public:
     cNameKeepers(cDataAccess& data, cSettings& settings) : m_data(data), m_settings(settings) {}
 
-    // Follows from now on every name that loses characters because its definition is saved. Data and settings outlive
-    // each other's use of this.
+    // Follows from now on every name that loses characters because its definition is saved. Both are those of the
+    // program's open book and live as long as it.
     static void Watch(cDataAccess& data, cSettings& settings);
 
     [[nodiscard]] bool RenameAccount(const QString& oldName, const QString& newName);

@@ -490,7 +490,7 @@ QString cTemplateManager::Hint(const cTemplateNode& node) const
 
 QString cTemplateManager::AmountLabel(const cTemplateFields& fields) const
 {
-    return modRecurrence::IsRecurring(fields.Interval) ? cText::Tr("Be&trag:") : cText::Tr("&Monatslimit:");
+    return modRecurrence::IsRecurring(fields.Interval) ? cText::Tr("Betra&g:") : cText::Tr("&Monatslimit:");
 }
 
 QString cTemplateManager::AmountHint(const cTemplateFields& fields) const

@@ -156,7 +156,7 @@ void cTemplatePanel::BuildFields()
     AddRow(cText::Tr("&Intervall:"), m_interval);
     AddRow(cText::Tr("&Monatslimit:"), m_limit);
     AddRow({}, m_limitHint);
-    AddRow(cText::Tr("Mehrwertste&uer in %:"), m_vat);
+    AddRow(cText::Tr("Mehrwertsteuer in &Prozent:"), m_vat);
     AddRow(cText::Tr("Start&guthaben:"), m_startRow);
     AddRow(cText::Tr("Kontonummern &für Import:"), m_numbers);
     AddRow({}, m_numbersHint);
