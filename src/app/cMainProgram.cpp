@@ -8,6 +8,7 @@
 #include "core/cStartUp.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
+#include "views/template/cNameKeepers.h"
 #include "windows/main/frmMain.h"
 
 #include <QCoreApplication>
@@ -102,6 +103,7 @@ bool cMainProgram::OpenForeign(const QString& path)
 
 void cMainProgram::BuildWindow()
 {
+    cNameKeepers::Watch(m_book.Data(), m_book.Settings());
     m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
         m_book, m_configuration, m_format, m_ports.User, m_ports.Rescue, m_ports.Shell, m_ports.Clock, m_bookSwitch});
     m_model = std::make_unique<cMainModel>(cMainModel::cParts{m_book.Data(), m_book.Settings(), m_configuration,

@@ -45,12 +45,16 @@ eAnswer cQtUser::Ask(const cQuestion& question)
     QMessageBox box(Icon(question.Tone), TitleOr(question.Title), question.Text, QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    const QPushButton* yes = box.addButton(cText::Tr("&Ja"), QMessageBox::YesRole);
+    QPushButton* yes = box.addButton(cText::Tr("&Ja"), QMessageBox::YesRole);
     QPushButton* no = box.addButton(cText::Tr("&Nein"), QMessageBox::NoRole);
-    box.setEscapeButton(no);
+    QPushButton* cancel = no;
     if (question.Buttons == eButtons::YesNoCancel) {
-        box.setEscapeButton(box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole));
+        cancel = box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole);
     }
+    box.setEscapeButton(cancel);
+    box.setDefaultButton(question.Default == eAnswer::Yes      ? yes
+                             : question.Default == eAnswer::No ? no
+                                                               : cancel);
     box.exec();
     if (box.clickedButton() == yes) {
         return eAnswer::Yes;
@@ -81,14 +85,15 @@ int cQtUser::Decide(const cDecision& decision)
     QMessageBox box(QMessageBox::Question, TitleOr(decision.Title), decision.Text, QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    QList<QAbstractButton*> options;
+    QList<QPushButton*> options;
     for (const QString& option : decision.Options) {
         options.append(box.addButton(option, QMessageBox::AcceptRole));
     }
-    box.setEscapeButton(box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole));
-    box.setDefaultButton(qobject_cast<QPushButton*>(options.value(0)));
+    QPushButton* cancel = box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole);
+    box.setEscapeButton(cancel);
+    box.setDefaultButton(options.value(decision.Default, cancel));
     box.exec();
-    return static_cast<int>(options.indexOf(box.clickedButton()));
+    return static_cast<int>(options.indexOf(qobject_cast<QPushButton*>(box.clickedButton())));
 }
 
 QStringList cQtUser::ChooseFiles(const QString& title, const QString& filter)

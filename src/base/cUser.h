@@ -15,6 +15,7 @@ struct cQuestion
     QString Title;
     eTone Tone = eTone::Question;
     eButtons Buttons = eButtons::YesNo;
+    eAnswer Default = eAnswer::Yes; // what Enter answers: No where a yes destroys something
 };
 
 // One item of a fixed list, or a new text where `AllowNew` is set.
@@ -32,7 +33,8 @@ struct cDecision
 {
     QString Text;
     QString Title;
-    QStringList Options; // German button texts in their order; the first one is the default
+    QStringList Options; // German button texts in their order
+    int Default = 0;     // what Enter chooses; -1, giving up, where every option destroys something
 };
 
 // The person in front of the screen (or the command line that stands in for one).

@@ -9,6 +9,7 @@
 #include "core/cStartUp.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
+#include "views/template/cNameKeepers.h"
 
 #include <QDir>
 
@@ -106,6 +107,7 @@ cCliBook::cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> 
       Hive(Data),
       Booking(Data, Hive, Accounts)
 {
+    cNameKeepers::Watch(Data, m_book->Settings());
 }
 
 std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess access, const cCliPorts& ports)

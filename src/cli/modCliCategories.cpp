@@ -5,6 +5,7 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
+#include "model/modRecurrence.h"
 #include "store/cUndoStep.h"
 #include "views/template/cTemplateManager.h"
 
@@ -16,6 +17,11 @@ cTemplateManager::cParts Parts(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     return {book.Data, book.Settings(), book.Format(), context.User, context.Clock};
+}
+
+bool IsNone(const QString& text)
+{
+    return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
 }
 
 // "Wohnung;Miete" as paths are stored, without the characters that names cannot have.
@@ -52,6 +58,8 @@ void PrintJson(const cTemplateItemList& items, const QHash<QString, int>& counts
                            .Text(u"EntryType"_s, item.EntryType)
                            .Text(u"EntryInterval"_s, item.EntryInterval)
                            .Amount(u"TemplateDefaultValue"_s, modTemplate::DefaultValueCents(item))
+                           .Amount(u"MonthlyLimit"_s, modTemplate::LimitCents(item, 1))
+                           .Text(u"TemplateVAT"_s, item.TemplateVAT)
                            .Text(u"EntryCategory"_s, modTemplate::Path(item))
                            .Number(u"Entries"_s, counts.value(modTemplate::Path(item)))
                            .ToString());
@@ -67,18 +75,27 @@ QString State(const cTemplateItem& item)
     return modTemplate::IsVisible(item) ? QString() : cText::Tr("ausgeblendet");
 }
 
+QString VatText(const cTemplateItem& item)
+{
+    const std::optional<qint64> rate = modTemplate::VatRate(item);
+    return rate ? modTemplate::VatText(*rate).replace(u'.', u',') + u" %" : item.TemplateVAT;
+}
+
 void Print(const cCliBook& book, const cTemplateItemList& items, const QHash<QString, int>& counts)
 {
     cCliTable table({{cText::Tr("Kategorie")},
                      {cText::Tr("Art")},
                      {cText::Tr("Intervall")},
+                     {cText::Tr("Betrag"), eAlign::Right},
                      {cText::Tr("Monatslimit"), eAlign::Right},
+                     {cText::Tr("MwSt."), eAlign::Right},
                      {cText::Tr("Buchungen"), eAlign::Right},
                      {cText::Tr("Stand")}});
+    const auto amount = [&book](qint64 cents) { return cents == 0 ? QString() : book.AmountText(cents); };
     for (const cTemplateItem& item : items) {
-        const qint64 limit = modTemplate::DefaultValueCents(item);
         const QString path = modTemplate::Path(item);
-        table.Add({path, item.EntryType, item.EntryInterval, limit == 0 ? QString() : book.AmountText(limit),
+        table.Add({path, item.EntryType, item.EntryInterval, amount(modTemplate::ProposedCents(item)),
+                   amount(modTemplate::LimitCents(item, 1)), item.TemplateVAT.isEmpty() ? QString() : VatText(item),
                    QString::number(counts.value(path)), State(item)});
     }
     modConsole::Out(table.ToString());
@@ -96,7 +113,45 @@ int List(const cCliContext& context)
     return modExit::Done;
 }
 
-bool SetDefaults(cTemplateManager& manager, const QString& path, const cTemplateFields& wanted)
+// What the options say a category is to propose; see SetDefaults.
+cTemplateFields Wanted(const cCliCall& call, cCliReader& reader)
+{
+    cTemplateFields wanted;
+    wanted.Type = reader.Kind(call.Value(u"kind"_s));
+    wanted.Interval = reader.Interval(call.Value(u"interval"_s));
+    wanted.Vat = call.Value(u"vat"_s);
+    if (call.Has(u"limit"_s) && call.Has(u"amount"_s)) {
+        reader.Misused(cText::Tr("--amount und --limit schließen einander aus."));
+    }
+    wanted.Amount = call.Value(call.Has(u"amount"_s) ? u"amount"_s : u"limit"_s);
+    if (!IsNone(wanted.Amount) && reader.Cents(wanted.Amount) < 0) {
+        reader.Misused(cText::Tr("Betrag und Monatslimit können nicht unter null liegen."));
+    }
+    return wanted;
+}
+
+// One column holds both: a limit for the month, or an amount for an interval that recurs. Says so when the option does
+// not fit the interval.
+bool FitsInterval(const cCliCall& call, const QString& interval)
+{
+    const bool isRecurring = modRecurrence::IsRecurring(interval);
+    if (call.Has(u"amount"_s) && !isRecurring) {
+        modConsole::Error(cText::Tr(
+            "--amount ist der Betrag je Intervall und braucht ein wiederkehrendes --interval; ein Monatslimit setzt "
+            "--limit."));
+        return false;
+    }
+    if (call.Has(u"limit"_s) && isRecurring && modRecurrence::TimesAYear(interval) != 12) {
+        modConsole::Error(cText::Tr("Beim Intervall '{0}' bitte --amount angeben, den Betrag je Intervall: Das "
+                                    "Monatslimit ergibt sich daraus.",
+                                    {interval}));
+        return false;
+    }
+    return true;
+}
+
+// Options that are not there leave what is stored.
+bool SetDefaults(const cCliCall& call, cTemplateManager& manager, const QString& path, const cTemplateFields& wanted)
 {
     const cTemplateNode* found = manager.Categories().NodeAt(manager.Categories().IndexOf(path));
     if (found == nullptr) {
@@ -107,24 +162,22 @@ bool SetDefaults(cTemplateManager& manager, const QString& path, const cTemplate
     if (!old) {
         return false;
     }
+    const auto take = [](const QString& text, const QString& stored) {
+        return text.isEmpty() ? stored : IsNone(text) ? QString() : text;
+    };
     cTemplateFields fields = *old;
-    fields.Type = wanted.Type.isEmpty() ? fields.Type : wanted.Type;
-    fields.Interval = wanted.Interval.isEmpty() ? fields.Interval : wanted.Interval;
-    fields.Amount = wanted.Amount.isEmpty() ? fields.Amount : wanted.Amount;
-    return manager.Save(node, *old, fields).has_value();
+    fields.Type = take(wanted.Type, fields.Type);
+    fields.Interval = take(wanted.Interval, fields.Interval);
+    fields.Amount = take(wanted.Amount, fields.Amount);
+    fields.Vat = take(wanted.Vat, fields.Vat);
+    return FitsInterval(call, fields.Interval) && manager.Save(node, *old, fields).has_value();
 }
 
 int Add(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
-    cTemplateFields wanted;
-    wanted.Type = reader.Kind(call.Value(u"kind"_s));
-    wanted.Interval = reader.Interval(call.Value(u"interval"_s));
-    wanted.Amount = call.Value(u"limit"_s);
-    if (reader.Cents(wanted.Amount) < 0) {
-        reader.Misused(cText::Tr("Ein Monatslimit kann nicht unter null liegen."));
-    }
+    const cTemplateFields wanted = Wanted(call, reader);
     if (!reader.IsGood()) {
         return reader.Report();
     }
@@ -134,9 +187,33 @@ int Add(const cCliContext& context)
     {
         cUndoStep step(context.Book->Data, cText::Tr("Kategorie '{0}' angelegt", {path}));
         const QString added = manager.AddCategory(modTemplate::MainOf(path), modTemplate::SubOf(path));
-        isDone = !added.isEmpty() && (SetDefaults(manager, added, wanted) || step.Revert());
+        isDone = !added.isEmpty() && (SetDefaults(call, manager, added, wanted) || step.Revert());
     }
     return modCliFlow::Finish(context, isDone);
+}
+
+int Change(const cCliContext& context)
+{
+    const cCliCall& call = context.Call;
+    cCliReader reader(context);
+    const QString path = reader.Category(call.Arguments().constFirst(), eCliNames::Used);
+    const cTemplateFields wanted = Wanted(call, reader);
+    if (!reader.IsGood()) {
+        return reader.Report();
+    }
+    cTemplateManager manager(Parts(context));
+    const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->Data.UndoName().isEmpty();
+    return modCliFlow::Finish(context, isDone);
+}
+
+QList<cCliOption> DefaultOptions()
+{
+    return {{u"kind"_s, u"ART"_s, cText::Tr("Buchungsart, die die Kategorie vorschlägt")},
+            {u"interval"_s, u"INTERVALL"_s, cText::Tr("Intervall, das sie vorschlägt")},
+            {u"amount"_s, u"BETRAG"_s,
+             cText::Tr("Betrag, den sie je Intervall vorschlägt; auf den Monat umgerechnet ihr Limit")},
+            {u"limit"_s, u"BETRAG"_s, cText::Tr("Monatslimit, wenn das Intervall nicht wiederkehrt")},
+            {u"vat"_s, u"PROZENT"_s, cText::Tr("Mehrwertsteuer, die in den Beträgen steckt")}};
 }
 
 int Rename(const cCliContext& context)
@@ -194,10 +271,20 @@ cCliCommand modCliCommands::CategoriesAddCommand()
             .MinArguments = 1,
             .MaxArguments = 1,
             .Access = eCliAccess::Write,
-            .Options = {{u"kind"_s, u"ART"_s, cText::Tr("Buchungsart, die die Kategorie vorschlägt")},
-                        {u"interval"_s, u"INTERVALL"_s, cText::Tr("Intervall, das sie vorschlägt")},
-                        {u"limit"_s, u"BETRAG"_s, cText::Tr("Monatslimit")}},
+            .Options = DefaultOptions(),
             .Run = Add};
+}
+
+cCliCommand modCliCommands::CategoriesChangeCommand()
+{
+    return {.Name = u"categories change"_s,
+            .Arguments = u"PFAD"_s,
+            .Help = cText::Tr("ändert, was eine Kategorie vorschlägt; \"ohne\" entfernt Betrag, Limit oder Steuer"),
+            .MinArguments = 1,
+            .MaxArguments = 1,
+            .Access = eCliAccess::Write,
+            .Options = DefaultOptions(),
+            .Run = Change};
 }
 
 cCliCommand modCliCommands::CategoriesRenameCommand()

@@ -39,6 +39,7 @@ const QList<cCliCommand>& modCliCommands::All()
         CorrectCommand(),
         CategoriesCommand(),
         CategoriesAddCommand(),
+        CategoriesChangeCommand(),
         CategoriesRenameCommand(),
         CategoriesMergeCommand(),
         CategoriesDeleteCommand(),

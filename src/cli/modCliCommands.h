@@ -51,6 +51,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand CorrectCommand();
 [[nodiscard]] cCliCommand CategoriesCommand();
 [[nodiscard]] cCliCommand CategoriesAddCommand();
+[[nodiscard]] cCliCommand CategoriesChangeCommand();
 [[nodiscard]] cCliCommand CategoriesRenameCommand();
 [[nodiscard]] cCliCommand CategoriesMergeCommand();
 [[nodiscard]] cCliCommand CategoriesDeleteCommand();

@@ -2,11 +2,13 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "model/modRecurrence.h"
 #include "model/modWord.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -60,6 +62,43 @@ int modTemplate::Priority(const cTemplateItem& item)
 qint64 modTemplate::DefaultValueCents(const cTemplateItem& item)
 {
     return modAmount::CentsFromText(item.TemplateDefaultValue).value_or(0);
+}
+
+qint64 modTemplate::ProposedCents(const cTemplateItem& item)
+{
+    return modRecurrence::IsRecurring(item.EntryInterval) ? std::abs(DefaultValueCents(item)) : 0;
+}
+
+qint64 modTemplate::LimitCents(const cTemplateItem& item, qint64 months)
+{
+    constexpr int monthsOfYear = 12;
+    if (item.EntryType == modWord::Einnahme) {
+        return 0; // what usually comes in limits nothing
+    }
+    const qint64 times = modRecurrence::TimesAYear(item.EntryInterval);
+    const qint64 value = std::abs(DefaultValueCents(item)) * months;
+    return times == 0 ? value : (value * times + monthsOfYear / 2) / monthsOfYear;
+}
+
+std::optional<qint64> modTemplate::VatRate(const cTemplateItem& item)
+{
+    const std::optional<qint64> rate = modAmount::CentsFromText(item.TemplateVAT);
+    return rate && *rate >= 0 ? rate : std::nullopt;
+}
+
+QString modTemplate::VatText(qint64 rate)
+{
+    QString text = modAmount::CentsToText(rate);
+    while (text.endsWith(u'0')) {
+        text.chop(1);
+    }
+    return text.endsWith(u'.') ? text.chopped(1) : text;
+}
+
+qint64 modTemplate::VatCents(qint64 cents, qint64 rate)
+{
+    const qint64 whole = 10'000 + rate;
+    return (2 * cents * rate + whole) / (2 * whole);
 }
 
 QString modTemplate::CleanName(const QString& name)

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 // A category or an account, a row of table `template`.
 struct cTemplateItem
 {
@@ -15,8 +17,8 @@ struct cTemplateItem
     QString TemplateName;                          // sub-category, or the name of an account
     QString TemplateComment;
     QString TemplatePriority = QStringLiteral("0"); // whole number
-    QString TemplateVAT;                            // amount text as in the database
-    QString TemplateDefaultValue;                   // amount text: monthly limit of a category
+    QString TemplateVAT;                            // percent as a number text; whatever older files hold
+    QString TemplateDefaultValue;                   // amount text: see LimitCents, and the limit of an account
 
     bool operator==(const cTemplateItem&) const = default;
 };
@@ -33,8 +35,25 @@ namespace modTemplate {
 // Whole number; 0 for a text that is none.
 [[nodiscard]] int Priority(const cTemplateItem& item);
 
-// Monthly limit in cents; 0 when there is none.
+// The value of a category in cents; 0 when there is none. Where the category's interval recurs it is what is paid each
+// time, else what may be spent in a month.
 [[nodiscard]] qint64 DefaultValueCents(const cTemplateItem& item);
+
+// What a new entry of the category will probably come to, in cents; 0 when nothing is proposed.
+[[nodiscard]] qint64 ProposedCents(const cTemplateItem& item);
+
+// What the value allows to be spent in so many calendar months, in cents: a year of 600.00 paid yearly is 600.00. 0
+// when there is no limit, as for a category of income.
+[[nodiscard]] qint64 LimitCents(const cTemplateItem& item, qint64 months);
+
+// The rate of the VAT in hundredths of a percent, 1900 for "19"; empty when there is none or none that can be read.
+[[nodiscard]] std::optional<qint64> VatRate(const cTemplateItem& item);
+
+// The rate as it is stored: "19", "5.5".
+[[nodiscard]] QString VatText(qint64 rate);
+
+// The VAT in an amount that includes it, both in cents.
+[[nodiscard]] qint64 VatCents(qint64 cents, qint64 rate);
 
 // The name without the characters that would break paths, reports or queries.
 [[nodiscard]] QString CleanName(const QString& name);

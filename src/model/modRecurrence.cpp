@@ -82,6 +82,18 @@ bool modRecurrence::IsRecurring(const QString& interval)
     return FindInterval(interval).Unit != eUnit::None;
 }
 
+int modRecurrence::TimesAYear(const QString& interval)
+{
+    const cInterval& found = FindInterval(interval);
+    switch (found.Unit) {
+    case eUnit::Day: return 365 / found.Step;
+    case eUnit::Month: return 12 / found.Step;
+    case eUnit::Year: return 1;
+    case eUnit::None: break;
+    }
+    return 0;
+}
+
 QDate modRecurrence::Next(QDate date, const QString& interval)
 {
     return AddStep(date, FindInterval(interval));

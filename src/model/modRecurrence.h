@@ -16,6 +16,9 @@ inline constexpr QDate OpenEnd = QDate::fromJulianDay(2469808); // 2050-01-01
 // True for a word of the interval table other than "Einmalig".
 [[nodiscard]] bool IsRecurring(const QString& interval);
 
+// How often the interval comes round in a year, 12 for "Monatlich"; 0 for one that does not recur.
+[[nodiscard]] int TimesAYear(const QString& interval);
+
 // The day one step after `date`. Months and years keep the day of the month, or take the last day of a shorter month.
 // The same day for an interval without step.
 [[nodiscard]] QDate Next(QDate date, const QString& interval);

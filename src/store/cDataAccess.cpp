@@ -70,10 +70,14 @@ void cDataAccess::BeginStep(const QString& name)
 void cDataAccess::EndStep()
 {
     m_journal.End();
+    if (!m_journal.IsOpen()) {
+        TellCleaned();
+    }
 }
 
 void cDataAccess::RevertStep()
 {
+    m_cleaned.clear();
     Try(QT_TRANSLATE_NOOP("cText", "ERROR: RevertStep\n{0}"), [&] { m_journal.Revert(); });
 }
 

@@ -37,6 +37,15 @@ struct cDescriptionUse
     QString Account;
 };
 
+// A name that lost the characters that names cannot have when its definition was saved.
+struct cCleanedName
+{
+    bool IsAccount = false;
+    QString Old; // name of the account, or path of the category
+    QString New;
+    int Entries = 0; // that went along
+};
+
 // Every operation on the database. A failure is shown to the user once, with the operation's name and the database's
 // own words, and returned as false, an empty optional or an empty list; nothing is retried.
 class cDataAccess
@@ -91,9 +100,15 @@ public:
     [[nodiscard]] bool DeleteEntryMod(int id);
     [[nodiscard]] bool DeleteEntryModByRelation(int entryId);
 
-    // Table `template`
-    [[nodiscard]] bool AddNewTemplate(cTemplateItem& item);       // cleans the names, sets item.ID
-    [[nodiscard]] bool ChangeTemplate(const cTemplateItem& item); // cleans the names
+    // Table `template`. Both clean the names. Older books hold names that are not clean: where a row loses characters
+    // although the caller has left that name as it was, its entries follow, and so do the other rows of its main
+    // category or group, which would else stay behind as a second one. The user is told at the end of the step. A name
+    // that is taken once it is clean gets a number.
+    [[nodiscard]] bool AddNewTemplate(cTemplateItem& item); // sets item.ID
+    [[nodiscard]] bool ChangeTemplate(const cTemplateItem& item);
+    // Called within the step for every name that was cleaned, so that what keeps names elsewhere follows as well.
+    using fnFollow = std::function<bool(const cCleanedName&)>;
+    void OnNameCleaned(fnFollow follow) { m_follow = std::move(follow); }
     [[nodiscard]] bool DeleteTemplate(int id);
     [[nodiscard]] cTemplateItemList GetTemplates();
     [[nodiscard]] cTemplateItemList GetAccounts();
@@ -149,10 +164,22 @@ public:
     [[nodiscard]] bool IsReadOnly() const;
 
 private:
+    [[nodiscard]] bool WriteTemplate(const cTemplateItem& item);
+    [[nodiscard]] cTemplateItemList UncleanTemplates();
+    [[nodiscard]] cTemplateItem WithFreeName(const cTemplateItem& item);
+    [[nodiscard]] bool Follow(const cTemplateItem& before, const cTemplateItem& now);
+    [[nodiscard]] bool FollowName(cCleanedName name);
+    [[nodiscard]] bool MoveGroup(const cTemplateItem& member, const QString& newGroup);
+    [[nodiscard]] bool MovePathsBelow(const QString& oldMain, const QString& newMain);
+    [[nodiscard]] bool JoinGroups(const cTemplateItem& written);
+    void TellCleaned();
+
     // Runs one operation; an exception becomes the message `operation` with its description, and false.
     bool Try(const char* message, const std::function<void()>& operation);
 
     cDatabase& m_database;
     cUser& m_user;
     cJournal m_journal;
+    fnFollow m_follow;
+    QList<cCleanedName> m_cleaned; // in the open step
 };

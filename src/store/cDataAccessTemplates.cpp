@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr const char* selectTemplate =
@@ -59,16 +61,17 @@ std::optional<cTemplateItem> First(const cTemplateItemList& items)
 
 bool cDataAccess::AddNewTemplate(cTemplateItem& item)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewTemplate\n{0}"), [&] {
+    const bool isAdded = Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewTemplate\n{0}"), [&] {
         m_database.Execute("INSERT INTO template (EntryType,  EntryInterval, TemplateType, TemplateVisible, "
                            "TemplateCategory, TemplateName, TemplateComment, TemplatePriority, TemplateVAT, "
                            "TemplateDefaultValue) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
                            TemplateValues(item));
         item = First(ReadTemplates(m_database, " ORDER BY ID DESC LIMIT 1", {})).value_or(item);
     });
+    return isAdded && JoinGroups(item);
 }
 
-bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
+bool cDataAccess::WriteTemplate(const cTemplateItem& item)
 {
     return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeTemplate\n{0}"), [&] {
         cBoundList values = TemplateValues(item);
@@ -90,6 +93,16 @@ cTemplateItemList cDataAccess::GetTemplates()
 {
     cTemplateItemList items;
     Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetTemplates\n{0}"), [&] { items = ReadTemplates(m_database, "", {}); });
+    return items;
+}
+
+cTemplateItemList cDataAccess::UncleanTemplates()
+{
+    cTemplateItemList items;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetTemplates\n{0}"), [&] {
+        items = ReadTemplates(m_database, " WHERE COALESCE(TemplateCategory, '') || COALESCE(TemplateName, '') GLOB ?",
+                              {u"*[&'<>\";]*"_s});
+    });
     return items;
 }
 

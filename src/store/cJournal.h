@@ -23,6 +23,7 @@ public:
     // Everything written until End is one step of the user. A step within a step belongs to the outer one.
     void Begin(const QString& name);
     void End();
+    [[nodiscard]] bool IsOpen() const { return m_depth > 0; }
     // Takes back what the open step has written so far; the step goes on empty.
     void Revert();
 

@@ -322,6 +322,15 @@ void testCliEntries::Categories()
     QCOMPARE(last.value(u"Entries"_s).toInt(), 1);
     QVERIFY2(list.Out.contains("\"TemplateDefaultValue\": 30.00"_L1), qPrintable(list.Text()));
 
+    // The value of a yearly category is what is paid once a year.
+    QVERIFY(Run({u"categories"_s, u"change"_s, u"Eisenbahn"_s, u"--interval"_s, u"Jährlich"_s, u"--limit"_s, u"50"_s})
+                .Error.contains("--amount"_L1));
+    QVERIFY(!Do(u"categories|change|Eisenbahn|--interval|Jährlich|--amount|600|--vat|7"_s).Out.isEmpty());
+    const QString yearly = Do(u"categories|--json"_s).Out;
+    QVERIFY2(yearly.contains("\"TemplateDefaultValue\": 600.00, \"MonthlyLimit\": 50.00, \"TemplateVAT\": \"7\""_L1),
+             qPrintable(yearly));
+    Do(u"categories|change|Eisenbahn|--interval|Monatlich|--amount|30|--vat|ohne"_s);
+
     const QStringList merge{u"categories"_s, u"merge"_s, u"Eisenbahn"_s, u"Haushalt; Getränke"_s};
     QCOMPARE(Run(merge).Code, 1);
     QCOMPARE(Do(u"categories|--json"_s).Out, list.Out);

@@ -81,6 +81,33 @@ private Q_SLOTS:
         QCOMPARE(modTemplate::DefaultValueCents(item), 1250);
     }
 
+    void ValueOfACategoryByItsInterval_data() const
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("interval");
+        QTest::addColumn<qint64>("proposed");
+        QTest::addColumn<qint64>("limitOfAYear");
+        QTest::newRow("a month's limit") << modWord::Ausgabe << modWord::Einmalig << qint64{0} << qint64{120'000};
+        QTest::newRow("monthly") << modWord::Ausgabe << u"Monatlich"_s << qint64{10'000} << qint64{120'000};
+        QTest::newRow("yearly") << modWord::Ausgabe << u"Jährlich"_s << qint64{10'000} << qint64{10'000};
+        QTest::newRow("quarterly") << modWord::Ausgabe << u"Alle 3 Monate"_s << qint64{10'000} << qint64{40'000};
+        QTest::newRow("weekly") << modWord::Ausgabe << u"Wöchentlich"_s << qint64{10'000} << qint64{520'000};
+        QTest::newRow("income") << modWord::Einnahme << u"Monatlich"_s << qint64{10'000} << qint64{0};
+        QTest::newRow("word of a filter") << QString() << u"Alle"_s << qint64{0} << qint64{120'000};
+    }
+
+    void ValueOfACategoryByItsInterval() const
+    {
+        QFETCH(const QString, kind);
+        QFETCH(const QString, interval);
+        cTemplateItem item;
+        item.EntryType = kind;
+        item.EntryInterval = interval;
+        item.TemplateDefaultValue = u"100"_s;
+        QTEST(modTemplate::ProposedCents(item), "proposed");
+        QTEST(modTemplate::LimitCents(item, 12), "limitOfAYear");
+    }
+
     void FlagsKeepUnknownParts() const
     {
         const QString flags = modFlags::Set(u"farbe=rot;Notiz;split=3"_s, u"split"_s, u"4"_s);

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void OtherPeriodCostsCorrections();
     void ProposesRecurringValues_data();
     void ProposesRecurringValues();
+    void SaysTheVatInTheAmount();
     void TypedDays_data();
     void TypedDays();
     void NextEntryKeepsDayAccountAndKind();
@@ -212,6 +213,23 @@ void testEntryEditor::ProposesRecurringValues()
     fields.IsAmountTyped = isTyped;
     editor.ChooseCategory(modTemplate::Path(rent), fields);
     QTEST(fields.Amount, "amount");
+}
+
+void testEntryEditor::SaysTheVatInTheAmount()
+{
+    cTestBook book;
+    cTemplateItem repair;
+    repair.TemplateType = modWord::Kategorie;
+    repair.TemplateName = u"Reparatur"_s;
+    repair.TemplateVAT = u"19"_s;
+    QVERIFY(book.Data.AddNewTemplate(repair));
+    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields;
+    fields.Category = modTemplate::Path(repair);
+    fields.Amount = u"100"_s;
+    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97 €"_s);
+    fields.Type = modWord::Umbuchung;
+    QCOMPARE(editor.VatText(fields), QString());
 }
 
 void testEntryEditor::TypedDays_data()

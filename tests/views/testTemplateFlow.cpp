@@ -13,6 +13,7 @@ class testTemplateFlow final : public QObject
 private Q_SLOTS:
     void RenamesAnAccount_data();
     void RenamesAnAccount();
+    void MovesTransfersThatLeadToTheAccount();
     void BankAccountFollowsTheName();
     void RenamesACategoryWithItsEntries();
     void MainCategoryTakesItsPathsAlong();
@@ -35,6 +36,10 @@ void testTemplateFlow::RenamesAnAccount_data()
     QTest::newRow("empty") << u"  "_s << int(eAnswer::Yes) << old << old << u"Der Kontoname darf nicht leer sein!"_s;
     QTest::newRow("empty once cleaned") << u"<>"_s << int(eAnswer::Yes) << old << old
                                         << u"Der Kontoname darf nicht leer sein!"_s;
+    QTest::newRow("taken in another letter case")
+        << u"sparkonto"_s << int(eAnswer::Yes) << old << old << u"Dieser Kontoname existiert bereits!"_s;
+    QTest::newRow("its own name in another letter case")
+        << u"BARGELD"_s << int(eAnswer::Yes) << u"BARGELD"_s << u"BARGELD"_s << QString();
     QTest::newRow("taken") << u"Sparkonto"_s << int(eAnswer::Yes) << old << old
                            << u"Dieser Kontoname existiert bereits!"_s;
 }
@@ -52,23 +57,48 @@ void testTemplateFlow::RenamesAnAccount()
         e.EntryType = modWord::Umbuchung;
         e.EntryAccountMove = u"Bargeld"_s;
     });
-    const cEntryItem lower = book.Add([](cEntryItem& e) { e.EntryAccount = u"bargeld"_s; });
+    const cEntryItem lower = book.Add([](cEntryItem& e) { e.EntryAccount = u"bargeld"_s; }); // another account
     book.User.Answers = {static_cast<eAnswer>(answer)};
     cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, name);
 
     QVERIFY(book.Data.FindAccount(account));
     QCOMPARE(book.Data.LoadEntry(out.ID)->EntryAccount, entry);
     QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, entry);
+    QCOMPARE(book.Data.LoadEntry(lower.ID)->EntryAccount, u"bargeld"_s);
     QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
+}
+
+// An account that transfers only lead to has entries as well, and one in lower case is no other than itself.
+void testTemplateFlow::MovesTransfersThatLeadToTheAccount()
+{
+    cTestBook book;
+    cTemplateItem item;
+    item.TemplateType = modWord::Konto;
+    item.TemplateName = u"börse"_s;
+    QVERIFY(book.Data.AddNewTemplate(item));
+    const cEntryItem in = book.Add([](cEntryItem& e) {
+        e.EntryType = modWord::Umbuchung;
+        e.EntryAccountMove = u"börse"_s;
+    });
+    const cEntryItem other = book.Add([](cEntryItem& e) { e.EntryAccount = u"Börse"_s; });
+    book.User.Answers = {eAnswer::Yes};
+    QVERIFY(cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"börse"_s, u"Kasse"_s));
+    QCOMPARE(book.User.Asked.size(), 1);
+    QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, u"Kasse"_s);
+    QCOMPARE(book.Data.LoadEntry(other.ID)->EntryAccount, u"Börse"_s);
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, u"börse"_s);
 }
 
 void testTemplateFlow::BankAccountFollowsTheName()
 {
     cTestBook book;
     book.Settings->Set(u"KTO:4711"_s, u"Bargeld"_s);
+    book.Settings->Set(u"MainKonto"_s, u"Bargeld"_s);
     QVERIFY(cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, u"Kasse"_s));
     QVERIFY(book.User.Asked.isEmpty()); // no entry refers to the account
     QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Kasse"_s);
+    QCOMPARE(book.Settings->Get(u"MainKonto"_s), u"Kasse"_s);
     QCOMPARE(book.Data.UndoName(), u"Konto 'Bargeld' umbenannt"_s);
     QVERIFY(book.Data.Undo());
     book.Settings->Reload();

@@ -12,6 +12,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -108,6 +110,20 @@ private Q_SLOTS:
         QTRY_COMPARE(scene.Field<QLineEdit>(u"Name:"_s).text(), u"Getränke"_s);
         QCOMPARE(scene.Selected(), drinks);
         QCOMPARE(scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Essen"_s)->TemplateDefaultValue, u"400.00"_s);
+    }
+
+    void saysWhatTheAmountIs()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(food));
+        QComboBox& interval = scene.Field<QComboBox>(u"Intervall:"_s);
+        QTest::keyClicks(&scene.Field<QLineEdit>(u"Monatslimit:"_s), u"600"_s);
+        interval.setCurrentIndex(interval.findData(u"Jährlich"_s));
+        QCOMPARE(scene.Field<QLineEdit>(u"Betrag:"_s).text(), u"600"_s);
+        const QList<QLabel*> labels = scene.Window.findChildren<QLabel*>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+            return label->isVisible() && label->text().contains(u"(Jährlich) und zählt als Monatslimit von 50,00");
+        }));
     }
 
     void refusedChangesKeepTheLineAndTheWindow()

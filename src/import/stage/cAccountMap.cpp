@@ -117,10 +117,23 @@ QString cAccountMap::FreeAccount() const
     return free == accounts.end() ? QString() : free->TemplateName;
 }
 
+// The account of this name, be it in another letter case, or the name as a new account would have it.
+QString cAccountMap::Known(const QString& typed) const
+{
+    if (Exists(typed)) {
+        return typed;
+    }
+    const QString name = modTemplate::CleanName(typed).trimmed();
+    const cTemplateItemList accounts = m_data.GetAccounts();
+    const auto same = std::find_if(accounts.begin(), accounts.end(), [&](const cTemplateItem& item) {
+        return item.TemplateName.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return same == accounts.end() ? name : same->TemplateName;
+}
+
 bool cAccountMap::Assign(const QString& number, const QString& account)
 {
-    const QString given = account.trimmed();
-    const QString name = Exists(given) ? given : modTemplate::CleanName(given);
+    const QString name = Known(account.trimmed());
     if (name.isEmpty()) {
         return false;
     }

@@ -61,6 +61,7 @@ public:
 private:
     [[nodiscard]] QString FreeAccount() const;
     [[nodiscard]] bool Exists(const QString& account) const;
+    [[nodiscard]] QString Known(const QString& typed) const;
 
     cDataAccess& m_data;
     cSettings& m_settings;

@@ -16,6 +16,7 @@
 #include "views/entry/modEntryFields.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -138,6 +139,25 @@ QString cEntryEditor::AmountLabel() const
         }
     }
     return cText::Tr("Betrag ({0}):", {symbol});
+}
+
+QString cEntryEditor::VatText(const cFields& fields) const
+{
+    if (fields.Face != eEntryFace::Normal || fields.Type == modWord::Umbuchung) {
+        return {};
+    }
+    const cTemplateItemList items = m_data.GetTemplates();
+    const auto category = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
+        return !modTemplate::IsAccount(item) && modTemplate::Path(item) == fields.Category;
+    });
+    const qint64 rate = category == items.end() ? 0 : modTemplate::VatRate(*category).value_or(0);
+    const qint64 cents = std::abs(modSum::Evaluate(fields.Amount).value_or(0));
+    if (rate == 0 || cents == 0) {
+        return {};
+    }
+    return cText::Tr("darin {0} % MwSt.: {1}",
+                     {modTemplate::VatText(rate).replace(u'.', u','),
+                      modEntryFields::Money(modTemplate::VatCents(cents, rate), m_format)});
 }
 
 QString cEntryEditor::StartBalanceText(const QString& account) const

@@ -60,6 +60,8 @@ public:
     [[nodiscard]] bool IsNew() const { return m_ids.isEmpty(); }
     [[nodiscard]] QString Title(const cFields& fields) const; // of the window
     [[nodiscard]] QString AmountLabel() const;                // "Betrag ({0}):" with the currency's symbol
+    // How much VAT the amount includes, where the category knows its rate: "darin 19 % MwSt.: 15,97 €". Else empty.
+    [[nodiscard]] QString VatText(const cFields& fields) const;
     // What is said above the start-balance face: that there is none yet, or which one there is.
     [[nodiscard]] QString StartBalanceText(const QString& account) const;
 

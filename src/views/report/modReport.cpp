@@ -75,16 +75,15 @@ eReportKind KindOf(const cEntryItem& entry)
     return entry.EntryType == modWord::Einnahme ? eReportKind::Income : eReportKind::Expense;
 }
 
-// Monthly limits of categories. The value of a category of income is what usually comes in, and no limit for anything.
-// Of several rows with the same path the first one with a limit holds.
-QHash<cPath, qint64> MonthlyLimits(const cTemplateItemList& templates)
+// Limits of categories for so many calendar months. Of several rows with the same path the first one with a limit
+// holds.
+QHash<cPath, qint64> Limits(const cTemplateItemList& templates, qint64 months)
 {
     QHash<cPath, qint64> limits;
     for (const cTemplateItem& item : templates) {
-        const qint64 limit = std::abs(modTemplate::DefaultValueCents(item));
+        const qint64 limit = modTemplate::LimitCents(item, months);
         const cPath path = Split(modTemplate::Path(item));
-        if (!modTemplate::IsAccount(item) && item.EntryType != modWord::Einnahme && limit > 0
-            && !limits.contains(path)) {
+        if (!modTemplate::IsAccount(item) && limit > 0 && !limits.contains(path)) {
             limits.insert(path, limit);
         }
     }
@@ -103,7 +102,7 @@ struct cSlot
     cPath Path;
     cTotal Income{};
     cTotal Expense{};
-    qint64 MonthlyLimit = 0;
+    qint64 Limit = 0; // for the whole period
 };
 
 // Totals by category, filled in one pass over the entries.
@@ -121,7 +120,7 @@ public:
     void AddLimits(const QHash<cPath, qint64>& limits)
     {
         for (auto limit = limits.begin(); limit != limits.end(); ++limit) {
-            m_slots[Find(limit.key())].MonthlyLimit = *limit;
+            m_slots[Find(limit.key())].Limit = *limit;
         }
     }
 
@@ -315,13 +314,13 @@ cReportFigures modReport::Figures(const cEntryItemList& entries, const cTemplate
     cSectionBuilder income(eReportKind::Income, figures.Basis, wish.Type);
     cSectionBuilder expense(eReportKind::Expense, figures.Basis, wish.Type);
     if (wish.Type == eReport::Limit) {
-        totals.AddLimits(MonthlyLimits(templates));
+        totals.AddLimits(Limits(templates, figures.Basis.Months));
     }
     for (const cSlot& slot : totals.All()) {
         if (wish.Type != eReport::Limit) {
             AddSlot(slot, income, expense);
-        } else if (slot.MonthlyLimit > 0) {
-            expense.Add(slot.Path, Spent(slot, wish.Spending), slot.MonthlyLimit * figures.Basis.Months);
+        } else if (slot.Limit > 0) {
+            expense.Add(slot.Path, Spent(slot, wish.Spending), slot.Limit);
         }
     }
     figures.Income = income.Take(wish.Order);
@@ -352,7 +351,7 @@ cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReport
                                     const cTemplateItemList& templates)
 {
     const bool isLimit = wish.Type == eReport::Limit;
-    const QHash<cPath, qint64> limits = isLimit ? MonthlyLimits(templates) : QHash<cPath, qint64>();
+    const QHash<cPath, qint64> limits = isLimit ? Limits(templates, 12) : QHash<cPath, qint64>();
     const bool withRefunds = isLimit && wish.Spending == eReportSpending::Net;
     QHash<QString, bool> isBelow; // by category path as the entries have it
     cEntryItemList found;

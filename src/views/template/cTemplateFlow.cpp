@@ -7,7 +7,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/template/cBankNumbers.h"
+#include "views/template/cNameKeepers.h"
 #include "views/template/modTemplateText.h"
 
 #include <algorithm>
@@ -55,11 +55,11 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     if (!account || name == oldName) {
         return false;
     }
-    if (m_data.FindAccount(name)) {
+    if (IsAccountTaken(name, account->ID)) {
         return Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
     }
     eAnswer answer = eAnswer::No;
-    if (m_data.CountEntriesOfAccount(oldName) >= 1) {
+    if (m_data.CountEntriesByAccount().value(oldName) >= 1) { // also those that only lead to it
         answer = m_user.Ask(
             {.Text = cText::Tr("Es existieren bereits Buchungen zu diesem Konto.\nSollen die Quell/Zielkonten "
                                "der Buchungen von '{0}' auf '{1}' geändert werden?",
@@ -79,8 +79,7 @@ bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& ol
 {
     cUndoStep step(m_data, cText::Tr("Konto '{0}' umbenannt", {oldName}));
     const bool isWritten = m_data.ChangeTemplate(account)
-        && cBankNumbers(m_data, m_settings).Move(oldName, account.TemplateName)
-        && cOwnRules(m_settings).RenameAccount(oldName, account.TemplateName)
+        && cNameKeepers(m_data, m_settings).RenameAccount(oldName, account.TemplateName)
         && (!withEntries || MoveEntries(oldName, account.TemplateName));
     if (!isWritten) {
         (void)step.Revert();
@@ -91,8 +90,19 @@ bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& ol
 
 bool cTemplateFlow::MoveEntries(const QString& oldName, const QString& newName)
 {
-    // The bulk change reaches only names stored in lower case; the rest goes over by its exact name.
-    return m_data.ChangeEntryAccount(newName, oldName) && m_data.MoveEntriesToAccount(newName, oldName);
+    // The bulk change looks for the old name in lower case: right for a name that is, while for any other it would take
+    // the entries of the account that is called so. What it does not reach goes over by its exact name.
+    const bool isFound = oldName == oldName.toLower();
+    return (!isFound || m_data.ChangeEntryAccount(newName, oldName)) && m_data.MoveEntriesToAccount(newName, oldName);
+}
+
+bool cTemplateFlow::IsAccountTaken(const QString& name, int exceptId) const
+{
+    // Regardless of case: two accounts that only differ in that are one too many for every list.
+    const cTemplateItemList accounts = m_data.GetAccounts();
+    return std::any_of(accounts.begin(), accounts.end(), [&](const cTemplateItem& account) {
+        return account.ID != exceptId && IsSame(account.TemplateName, name);
+    });
 }
 
 bool cTemplateFlow::IsTaken(const cTemplateItem& renamed) const
@@ -107,10 +117,13 @@ bool cTemplateFlow::IsTaken(const cTemplateItem& renamed) const
 
 bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString& newMain, const QString& newSub)
 {
-    cTemplateItem renamed = category;
-    renamed.TemplateCategory = Cleaned(newMain);
-    renamed.TemplateName = Cleaned(newSub);
     const QString oldPath = modTemplate::Path(category);
+    cTemplateItem renamed = category;
+    // A main category that stays keeps its stored name, so that one from an older book is cleaned with all its rows.
+    if (newMain != modTemplate::MainOf(oldPath)) {
+        renamed.TemplateCategory = Cleaned(newMain);
+    }
+    renamed.TemplateName = Cleaned(newSub);
     const QString newPath = modTemplate::Path(renamed);
     if (newPath == oldPath) {
         return false;
@@ -125,11 +138,32 @@ bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString&
         return Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {newPath}));
     }
     cUndoStep step(m_data, cText::Tr("Kategorie '{0}' umbenannt", {oldPath}));
-    if (!m_data.ChangeTemplate(renamed)) {
-        return step.Revert();
+    return (m_data.ChangeTemplate(renamed) && FollowPath(renamed.ID, oldPath)) || step.Revert();
+}
+
+bool cTemplateFlow::FollowPath(int id, const QString& oldPath)
+{
+    const std::optional<cTemplateItem> now = m_data.FindTemplate(id);
+    if (!now) {
+        return false;
     }
+    const QString newPath = modTemplate::Path(*now);
     const bool isMoved = m_data.CountEntriesOfCategory(oldPath) == 0 || m_data.ChangeEntryCategory(newPath, oldPath);
-    return (isMoved && cOwnRules(m_settings).RenameCategory(oldPath, newPath)) || step.Revert();
+    return isMoved && cNameKeepers(m_data, m_settings).RenameCategory(oldPath, newPath);
+}
+
+QString cTemplateFlow::CleanMain(const QString& main)
+{
+    const cTemplateItemList items = m_data.GetTemplates();
+    const auto below = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
+        return !modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == main;
+    });
+    if (modTemplate::CleanName(main) == main || below == items.end()) {
+        return main;
+    }
+    const bool isSaved = m_data.ChangeTemplate(*below);
+    const std::optional<cTemplateItem> now = isSaved ? m_data.FindTemplate(below->ID) : std::nullopt;
+    return now ? modTemplate::GroupOf(*now) : QString();
 }
 
 bool cTemplateFlow::HoldsProtected(const QString& main) const
@@ -175,8 +209,9 @@ bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)
     const cTemplateItemList items = m_data.GetTemplates();
     for (cTemplateItem item : items) {
         if (!modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == oldMain) {
+            const QString oldPath = modTemplate::Path(item);
             item.TemplateCategory = newMain;
-            if (!m_data.ChangeTemplate(item)) {
+            if (!m_data.ChangeTemplate(item) || !FollowPath(item.ID, oldPath)) {
                 return false;
             }
         }
@@ -192,7 +227,7 @@ bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)
 bool cTemplateFlow::RenameGroup(const QString& oldGroup, const QString& newGroup)
 {
     const QString group = Cleaned(newGroup);
-    if (group == oldGroup) {
+    if (group == oldGroup || newGroup == oldGroup) {
         return false;
     }
     cUndoStep step(m_data, cText::Tr("Kontogruppe '{0}' umbenannt", {oldGroup}));

@@ -36,6 +36,16 @@ public:
     // Gives all accounts of a group another group. False when nothing was changed.
     bool RenameGroup(const QString& oldGroup, const QString& newGroup);
 
+    // Entries and rules go from `oldPath` to the path that the category with this ID has now.
+    [[nodiscard]] bool FollowPath(int id, const QString& oldPath);
+
+    // The main category as it can be saved: one from an older book gives up characters in all its rows. Empty on
+    // failure.
+    [[nodiscard]] QString CleanMain(const QString& main);
+
+    // True when another account than the one with this ID is called so, be it in another letter case.
+    [[nodiscard]] bool IsAccountTaken(const QString& name, int exceptId) const;
+
 private:
     [[nodiscard]] bool MoveEntries(const QString& oldName, const QString& newName);
     [[nodiscard]] bool WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries);

@@ -3,9 +3,12 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modAmount.h"
+#include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cSettings.h"
 #include "model/modBalance.h"
+#include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -92,18 +95,38 @@ bool cTemplateManager::Refuse(const QString& text)
     return false;
 }
 
-bool cTemplateManager::Tell(bool isDone)
+QHash<int, QString> cTemplateManager::AccountNames() const
 {
-    if (isDone) {
-        Refresh();
-        Q_EMIT BookChanged();
+    QHash<int, QString> names;
+    for (const cTemplateBranch& branch : m_accounts.Branches()) {
+        for (const cTemplateNode& node : branch.Children) {
+            names.insert(node.Id, node.Path);
+        }
     }
-    return isDone;
+    names.remove(0);
+    return names;
 }
 
-bool cTemplateManager::TellAccount(bool isDone, const QString& oldName, const QString& newName)
+bool cTemplateManager::Tell(bool isDone)
 {
-    if (isDone && oldName != newName) {
+    if (!isDone) {
+        return false;
+    }
+    const QHash<int, QString> before = AccountNames();
+    Refresh();
+    const QHash<int, QString> now = AccountNames();
+    for (auto account = now.begin(); account != now.end(); ++account) {
+        if (const QString old = before.value(account.key(), *account); old != *account) {
+            Q_EMIT AccountRenamed(old, *account);
+        }
+    }
+    Q_EMIT BookChanged();
+    return true;
+}
+
+bool cTemplateManager::TellGone(bool isDone, const QString& oldName, const QString& newName)
+{
+    if (isDone) {
         Q_EMIT AccountRenamed(oldName, newName);
     }
     return Tell(isDone);
@@ -117,13 +140,9 @@ std::optional<cTemplateFields> cTemplateManager::Load(const cTemplateNode& node)
 std::optional<QString> cTemplateManager::Save(const cTemplateNode& node, const cTemplateFields& old,
                                               const cTemplateFields& fields)
 {
-    const QString oldName = node.Path; // the line itself goes when the trees are built anew
-    const bool isAccount = node.Kind == eTemplateNode::Account;
     const std::optional<QString> name =
         cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User).Save(node, old, fields);
-    if (name && fields != old) {
-        TellAccount(true, isAccount ? oldName : QString(), isAccount ? *name : QString());
-    }
+    Tell(name && fields != old);
     return name;
 }
 
@@ -211,7 +230,7 @@ QString cTemplateManager::AddAccount(const QString& name, const QString& group)
         (void)Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
         return {};
     }
-    if (m_parts.Data.FindAccount(item.TemplateName)) {
+    if (cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).IsAccountTaken(item.TemplateName, 0)) {
         (void)Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
         return {};
     }
@@ -300,8 +319,7 @@ bool cTemplateManager::RenameAccount(const QString& oldName, const QString& newN
     if (!m_parts.Data.FindAccount(oldName)) {
         return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {oldName}));
     }
-    const bool isDone = cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).RenameAccount(oldName, newName);
-    return TellAccount(isDone, oldName, Cleaned(newName));
+    return Tell(cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).RenameAccount(oldName, newName));
 }
 
 bool cTemplateManager::DeleteCategory(const QString& path)
@@ -322,7 +340,7 @@ bool cTemplateManager::DeleteAccount(const QString& name)
     if (!m_parts.Data.FindAccount(name)) {
         return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {name}));
     }
-    return TellAccount(cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).DeleteAccount(name), name, {});
+    return TellGone(cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).DeleteAccount(name), name, {});
 }
 
 bool cTemplateManager::MergeCategory(const QString& sourcePath, const QString& targetPath)
@@ -335,7 +353,7 @@ bool cTemplateManager::MergeCategory(const QString& sourcePath, const QString& t
 bool cTemplateManager::MergeAccount(const QString& source, const QString& target)
 {
     const bool isDone = cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).MergeAccount(source, target);
-    return TellAccount(isDone, source, target);
+    return TellGone(isDone, source, target);
 }
 
 bool cTemplateManager::CanDelete(const cTemplateNode& node) const
@@ -377,7 +395,7 @@ bool cTemplateManager::AskMerge(const cTemplateNode& node)
     const QString source = node.Path;
     if (node.IsOfAccounts()) {
         const QString target = removal.AskMergeAccount(source);
-        return TellAccount(!target.isEmpty(), source, target);
+        return TellGone(!target.isEmpty(), source, target);
     }
     const bool isMain =
         node.Kind == eTemplateNode::Main && modTemplateOrder::HasSubs(m_parts.Data.GetTemplates(), source);
@@ -468,6 +486,28 @@ QString cTemplateManager::Hint(const cTemplateNode& node) const
     case eTemplateNode::Account: return entries;
     }
     return {};
+}
+
+QString cTemplateManager::AmountLabel(const cTemplateFields& fields) const
+{
+    return modRecurrence::IsRecurring(fields.Interval) ? cText::Tr("Betra&g:") : cText::Tr("&Monatslimit:");
+}
+
+QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
+{
+    cTemplateItem item;
+    item.EntryType = fields.Type;
+    item.EntryInterval = fields.Interval;
+    item.TemplateDefaultValue = modAmount::CentsToText(modSum::Evaluate(fields.Amount).value_or(0));
+    const qint64 limit = modTemplate::LimitCents(item, 1);
+    if (!modRecurrence::IsRecurring(fields.Interval)) {
+        return limit > 0 ? cText::Tr("So viel darf in einem Kalendermonat ausgegeben werden.") : QString();
+    }
+    if (limit == 0) {
+        return cText::Tr("Wird neuen Einträgen vorgeschlagen.");
+    }
+    return cText::Tr("Wird neuen Einträgen vorgeschlagen ({0}) und zählt als Monatslimit von {1}.",
+                     {modWord::Intervals().ToShown(fields.Interval), m_parts.Format.Cents(limit)});
 }
 
 QString cTemplateManager::NumbersHint() const

@@ -5,6 +5,7 @@
 #include "views/template/cTemplateTreeModel.h"
 #include "views/template/cTemplateWriter.h"
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -84,6 +85,9 @@ public:
     [[nodiscard]] bool IsNameFixed(const cTemplateNode& node) const; // it can be neither renamed nor removed
     [[nodiscard]] QString Title(const cTemplateNode& node) const;
     [[nodiscard]] QString Hint(const cTemplateNode& node) const;
+    // What the amount of a category is, by its interval: the label of its field, and the line below it.
+    [[nodiscard]] QString AmountLabel(const cTemplateFields& fields) const;
+    [[nodiscard]] QString AmountHint(const cTemplateFields& fields) const;
     [[nodiscard]] QString NumbersHint() const; // bank numbers that no account has yet; empty for none
 
     // Columns and open branches of both trees.
@@ -107,8 +111,11 @@ private:
     [[nodiscard]] int LastPriority(const QString& type, const QString& group) const;
     [[nodiscard]] bool WriteOrder(const cTemplateItemList& before, const cTemplateItemList& after);
     [[nodiscard]] QString MainHint(const cTemplateNode& node) const;
-    bool TellAccount(bool isDone, const QString& oldName, const QString& newName);
-    bool Tell(bool isDone); // reads the book again and says so when something was changed
+    // Both read the book again and say so when something was changed: with every account that has another name now, or
+    // with one that is no more.
+    bool Tell(bool isDone);
+    bool TellGone(bool isDone, const QString& oldName, const QString& newName);
+    [[nodiscard]] QHash<int, QString> AccountNames() const; // by the ID of the definition
     bool Refuse(const QString& text);
 
     cParts m_parts;

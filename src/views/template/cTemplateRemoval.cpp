@@ -9,6 +9,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/template/cBankNumbers.h"
+#include "views/template/cTemplateFlow.h"
 #include "views/template/modTemplateText.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@
 
 namespace {
 
-enum eWay { MoveAndDelete, OnlyDelete };
+enum eWay { GiveUp = -1, MoveAndDelete, OnlyDelete };
 
 bool IsCategoryOf(const cTemplateItem& item, const QString& path)
 {
@@ -41,7 +42,7 @@ bool cTemplateRemoval::Refuse(const QString& text)
 
 bool cTemplateRemoval::Ask(const QString& text, const QString& title)
 {
-    return m_user.Ask({.Text = text, .Title = title}) == eAnswer::Yes;
+    return m_user.Ask({.Text = text, .Title = title, .Default = eAnswer::No}) == eAnswer::Yes;
 }
 
 bool cTemplateRemoval::Finish(bool isWritten)
@@ -164,7 +165,8 @@ bool cTemplateRemoval::Delete(const cDoomed& doomed, const QString& onlyDelete)
                            "und bleiben überall sichtbar.",
                            {doomed.Shown, count}),
          .Title = title,
-         .Options = {cText::Tr("Buchungen verschieben und löschen"), onlyDelete}});
+         .Options = {cText::Tr("Buchungen verschieben und löschen"), onlyDelete},
+         .Default = eWay::GiveUp});
     if (way == eWay::OnlyDelete) {
         return Remove(doomed, {});
     }
@@ -252,13 +254,13 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
         return false;
     }
     cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' mit '{1}' zusammengeführt", {source, target}));
-    const bool isWritten = WriteMergedMain(source, target)
-        && std::all_of(doomed.Paths.begin(), doomed.Paths.end(),
-                       [&](const QString& path) {
-                           return m_data.ChangeEntryCategory(modTemplate::WithMain(path, target), path);
-                       })
-        && cOwnRules(m_settings).RenameMain(source, target);
-    return isWritten || step.Revert();
+    const QString into = cTemplateFlow(m_data, m_settings, m_user).CleanMain(target);
+    const bool isWritten = !into.isEmpty() && WriteMergedMain(source, into)
+        && std::all_of(
+            doomed.Paths.begin(), doomed.Paths.end(),
+            [&](const QString& path) { return m_data.ChangeEntryCategory(modTemplate::WithMain(path, into), path); })
+        && cOwnRules(m_settings).RenameMain(source, into);
+    return Finish(isWritten || step.Revert());
 }
 
 bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& target)
@@ -268,9 +270,13 @@ bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& tar
         if (modTemplate::IsAccount(item) || modTemplate::GroupOf(item) != source) {
             return true;
         }
+        const QString oldPath = modTemplate::Path(item);
         item.TemplateCategory = target;
-        return CategoriesAt(items, modTemplate::Path(item)).isEmpty() ? m_data.ChangeTemplate(item)
-                                                                      : m_data.DeleteTemplate(item.ID);
+        const QString newPath = modTemplate::Path(item);
+        if (!CategoriesAt(items, newPath).isEmpty()) {
+            return m_data.ChangeEntryCategory(newPath, oldPath) && m_data.DeleteTemplate(item.ID);
+        }
+        return m_data.ChangeTemplate(item) && cTemplateFlow(m_data, m_settings, m_user).FollowPath(item.ID, oldPath);
     });
 }
 
@@ -296,7 +302,8 @@ bool cTemplateRemoval::DeleteAccount(const QString& name)
                            "altes Konto und bleiben überall sichtbar.",
                            {name, count}),
          .Title = title,
-         .Options = {cText::Tr("Buchungen verschieben und löschen"), cText::Tr("Nur das Konto löschen")}});
+         .Options = {cText::Tr("Buchungen verschieben und löschen"), cText::Tr("Nur das Konto löschen")},
+         .Default = eWay::GiveUp});
     if (way == eWay::OnlyDelete) {
         return RemoveAccount(*account, {});
     }

@@ -62,12 +62,37 @@ QString ShownLimit(const cTemplateItem& item)
     return cents == 0 ? QString() : modSum::ToText(cents);
 }
 
+// A percentage as typed: "19", "5,5", "7 %".
+std::optional<qint64> ReadVat(QString text)
+{
+    constexpr qint64 most = 10'000; // hundredths of a percent
+    const std::optional<qint64> rate = modSum::Evaluate(text.remove(u'%'));
+    return rate && *rate >= 0 && *rate < most ? rate : std::nullopt;
+}
+
+// A rate that reads the same keeps its form, and so does a text that is none, as long as nobody changes it.
+QString StoredVat(const cTemplateItem& item, const QString& text)
+{
+    const std::optional<qint64> rate = ReadVat(text);
+    if (text.trimmed() == item.TemplateVAT.trimmed() || (rate && rate == modTemplate::VatRate(item))) {
+        return item.TemplateVAT;
+    }
+    return rate ? modTemplate::VatText(*rate) : QString();
+}
+
+QString ShownVat(const cTemplateItem& item)
+{
+    const std::optional<qint64> rate = modTemplate::VatRate(item);
+    return rate ? modTemplate::VatText(*rate).replace(u'.', u',') : item.TemplateVAT;
+}
+
 // What a category brings into a new entry.
 void TakeDefaults(cTemplateItem& item, const cTemplateFields& fields)
 {
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
     item.TemplateDefaultValue = StoredLimit(item, fields.Amount);
+    item.TemplateVAT = StoredVat(item, fields.Vat);
     item.TemplateComment = fields.Comment.trimmed();
 }
 
@@ -77,6 +102,7 @@ cTemplateFields DefaultsOf(const cTemplateItem& item)
     fields.Type = item.EntryType;
     fields.Interval = item.EntryInterval;
     fields.Amount = ShownLimit(item);
+    fields.Vat = ShownVat(item);
     fields.Comment = item.TemplateComment;
     fields.IsVisible = modTemplate::IsVisible(item);
     return fields;
@@ -165,13 +191,20 @@ bool cTemplateWriter::IsAmount(const QString& text)
         || Refuse(cText::Tr("'{0}' ist kein Betrag.", {text.trimmed()}));
 }
 
+bool cTemplateWriter::IsVat(const QString& old, const QString& text)
+{
+    return text.trimmed().isEmpty() || text == old || ReadVat(text)
+        || Refuse(cText::Tr("'{0}' ist kein Steuersatz. Bitte geben Sie Prozente ein, zum Beispiel 19 oder 7.",
+                            {text.trimmed()}));
+}
+
 std::optional<QString> cTemplateWriter::Save(const cTemplateNode& node, const cTemplateFields& old,
                                              const cTemplateFields& fields)
 {
     if (fields == old) {
         return node.Path;
     }
-    if (!IsAmount(fields.Amount) || !IsAmount(fields.Limit)) {
+    if (!IsAmount(fields.Amount) || !IsAmount(fields.Limit) || !IsVat(old.Vat, fields.Vat)) {
         return std::nullopt;
     }
     if (node.Kind == eTemplateNode::Main) {
@@ -187,10 +220,9 @@ std::optional<QString> cTemplateWriter::Save(const cTemplateNode& node, const cT
 std::optional<QString> cTemplateWriter::SaveCategory(const cTemplateItem& item, const cTemplateFields& fields)
 {
     const QString path = modTemplate::Path(item);
-    cTemplateItem wanted = item;
-    wanted.TemplateCategory = Cleaned(fields.Group);
-    wanted.TemplateName = Cleaned(fields.Name);
-    const bool isRenamed = modTemplate::Path(wanted) != path;
+    // A name that nobody has touched is not renamed, even if it will not stay as it is.
+    const bool isRenamed =
+        fields.Name.trimmed() != modTemplate::SubOf(path) || fields.Group.trimmed() != modTemplate::MainOf(path);
     const QString name =
         isRenamed ? cText::Tr("Kategorie '{0}' umbenannt", {path}) : cText::Tr("Kategorie '{0}' geändert", {path});
     const bool isDone = Step(name, [&] {
@@ -232,12 +264,17 @@ std::optional<QString> cTemplateWriter::SaveMain(const cTemplateNode& node, cons
     if (!CanSaveMain(node.Path, fields)) {
         return std::nullopt;
     }
-    const QString main = Cleaned(fields.Name);
-    const QString name = main == node.Path ? cText::Tr("Hauptkategorie '{0}' geändert", {node.Path})
-                                           : cText::Tr("Hauptkategorie '{0}' umbenannt", {node.Path});
+    const bool isRenamed = fields.Name != node.Path;
+    const QString name = isRenamed ? cText::Tr("Hauptkategorie '{0}' umbenannt", {node.Path})
+                                   : cText::Tr("Hauptkategorie '{0}' geändert", {node.Path});
+    QString main = Cleaned(fields.Name);
     const bool isDone = Step(name, [&] {
-        const bool isNamed = main == node.Path || cTemplateFlow(m_data, m_settings, m_user).RenameMain(node.Path, main);
-        return isNamed && WriteMain(node, main, old, fields);
+        cTemplateFlow flow(m_data, m_settings, m_user);
+        if (isRenamed) {
+            return (main == node.Path || flow.RenameMain(node.Path, main)) && WriteMain(node, main, old, fields);
+        }
+        main = flow.CleanMain(node.Path);
+        return !main.isEmpty() && WriteMain(node, main, old, fields);
     });
     return isDone ? std::optional(main) : std::nullopt;
 }
@@ -314,36 +351,43 @@ std::optional<QString> cTemplateWriter::SaveAccount(const cTemplateItem& item, c
                                                     const cTemplateFields& fields)
 {
     const QString name = Cleaned(fields.Name);
+    // A name that nobody has touched is not renamed, even if it will not stay as it is.
+    const bool isRenamed = fields.Name != item.TemplateName && name != item.TemplateName;
     if (!StaysOpen(item, fields) || !ConfirmNumbers(item.TemplateName, fields.Numbers)) {
         return std::nullopt;
     }
-    const bool isRenamed = name != item.TemplateName;
     const QString step = isRenamed ? cText::Tr("Konto '{0}' umbenannt", {item.TemplateName})
                                    : cText::Tr("Konto '{0}' geändert", {item.TemplateName});
     const bool isDone = Step(step, [&] {
         const bool isNamed =
             !isRenamed || cTemplateFlow(m_data, m_settings, m_user).RenameAccount(item.TemplateName, name);
-        return isNamed && WriteAccount(item, name, old, fields);
+        return isNamed && WriteAccount(item, old, fields);
     });
-    return isDone ? std::optional(name) : std::nullopt;
+    const std::optional<cTemplateItem> now = isDone ? m_data.FindTemplate(item.ID) : std::nullopt;
+    return now ? std::optional(now->TemplateName) : std::nullopt;
 }
 
-bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const QString& name, const cTemplateFields& old,
-                                   const cTemplateFields& fields)
+bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFields& old, const cTemplateFields& fields)
 {
     const std::optional<cTemplateItem> stored = m_data.FindTemplate(item.ID);
     if (!stored) {
         return false;
     }
     cTemplateItem changed = *stored;
-    changed.TemplateCategory = Cleaned(fields.Group);
+    if (fields.Group != changed.TemplateCategory) {
+        changed.TemplateCategory = Cleaned(fields.Group);
+    }
     changed.TemplateComment = fields.Comment.trimmed();
     changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit);
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
+    if (changed != *stored && !m_data.ChangeTemplate(changed)) {
+        return false;
+    }
     const bool isSameStart = fields.Amount == old.Amount && fields.Date == old.Date;
-    return (changed == *stored || m_data.ChangeTemplate(changed)) && (isSameStart || WriteStartBalance(name, fields))
+    const QString name = m_data.FindTemplate(item.ID).value_or(changed).TemplateName;
+    return (isSameStart || WriteStartBalance(name, fields))
         && (fields.Numbers == old.Numbers || WriteNumbers(name, fields.Numbers));
 }
 

@@ -21,7 +21,8 @@ struct cTemplateFields
     QString Group;    // main category of a sub-category, or group of an account
     QString Type;     // stored word; empty for none
     QString Interval; // stored word; empty for none
-    QString Amount;   // as typed: monthly limit, or start balance; empty for none
+    QString Amount;   // as typed: value of a category (see modTemplate::LimitCents), or start balance; empty for none
+    QString Vat;      // of a category, as typed: percent; empty for none
     QString Limit;    // of an account, as typed: below it there is a warning; empty for none
     QDate Date;       // of the start balance
     QString Numbers;  // the bank's numbers of the account, one a line
@@ -66,14 +67,15 @@ private:
                                  const cTemplateFields& fields);
     [[nodiscard]] bool WriteOwn(const cTemplateNode& node, const QString& main, const cTemplateFields& fields);
     [[nodiscard]] bool WriteVisible(const QString& main, bool isVisible);
-    [[nodiscard]] bool WriteAccount(const cTemplateItem& item, const QString& name, const cTemplateFields& old,
+    [[nodiscard]] bool WriteAccount(const cTemplateItem& item, const cTemplateFields& old,
                                     const cTemplateFields& fields);
     [[nodiscard]] bool WriteStartBalance(const QString& account, const cTemplateFields& fields);
     [[nodiscard]] bool WriteNumbers(const QString& account, const QString& text);
     [[nodiscard]] bool CanSaveMain(const QString& main, const cTemplateFields& fields);
     [[nodiscard]] bool StaysOpen(const cTemplateItem& account, const cTemplateFields& fields);
     [[nodiscard]] bool ConfirmNumbers(const QString& account, const QString& text);
-    [[nodiscard]] bool IsAmount(const QString& text); // says so when it is none
+    [[nodiscard]] bool IsAmount(const QString& text);                  // says so when it is none
+    [[nodiscard]] bool IsVat(const QString& old, const QString& text); // says so when it is no rate
     bool Refuse(const QString& text);
     // One step, taken back when `write` fails.
     [[nodiscard]] bool Step(const QString& name, const fnWrite& write);

@@ -51,7 +51,7 @@ QString SubName(const QString& path)
 // The cells of a category behind its name, without the number of entries.
 QStringList Defaults(const cTemplateItem& item, const modTemplateNodes::fnCents& cents)
 {
-    const qint64 limit = modTemplate::DefaultValueCents(item);
+    const qint64 limit = modTemplate::LimitCents(item, 1);
     return {modWord::EntryTypes().ToShown(item.EntryType), modWord::Intervals().ToShown(item.EntryInterval),
             limit == 0 ? QString() : cents(limit)};
 }

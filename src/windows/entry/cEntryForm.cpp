@@ -42,6 +42,7 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       m_startText(new QLabel(this)),
       m_amountRow(new QWidget(this)),
       txtBetrag(new cAmountEdit(m_amountRow)),
+      m_vat(new QLabel(m_amountRow)),
       cboKategorie(new cCategoryBox(editor.Suggestions(), this)),
       txtBeschreibung(new QLineEdit(this)),
       EntryDate(new cDayEdit(editor.Today(), this)),
@@ -122,6 +123,8 @@ void cEntryForm::BuildAmount()
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(txtBetrag);
     row->addWidget(calculator);
+    row->addWidget(m_vat);
+    m_vat->setObjectName(u"lblMwSt"_s);
     txtBetrag->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
     txtBetrag->setAccessibleName(m_editor.AmountLabel());
     txtBetrag->setToolTip(cText::Tr("Auch eine Rechnung, etwa 12,50+3,99*2"));
@@ -137,9 +140,11 @@ void cEntryForm::BuildSeries()
     row->addStretch(1);
     EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
     m_preview->setObjectName(u"lblVorschau"_s);
-    QPalette colors = m_preview->palette();
-    colors.setColor(QPalette::WindowText, modTone::Quiet(colors));
-    m_preview->setPalette(colors);
+    for (QLabel* label : {m_preview, m_vat}) {
+        QPalette colors = label->palette();
+        colors.setColor(QPalette::WindowText, modTone::Quiet(colors));
+        label->setPalette(colors);
+    }
 }
 
 void cEntryForm::OrderTabs()
@@ -177,6 +182,7 @@ void cEntryForm::Connect()
 {
     connect(txtBetrag, &QLineEdit::textEdited, this, [this] { m_fields.IsAmountTyped = true; });
     connect(txtBetrag, &QLineEdit::textChanged, m_split, &cSplitPage::ShowRest);
+    connect(txtBetrag, &QLineEdit::textChanged, this, &cEntryForm::ShowVat);
     connect(m_split, &cSplitPage::DefaultsTaken, this, &cEntryForm::TakeDefaults);
     connect(cboKategorie, &cCategoryBox::PathPicked, this, &cEntryForm::ChooseCategory);
     cPickList* descriptions = modProposal::AddDescriptions(*txtBeschreibung, m_editor.Suggestions());
@@ -260,6 +266,12 @@ void cEntryForm::ShowFace()
 void cEntryForm::ShowTarget()
 {
     m_form->setRowVisible(cboNachKonto, cEntryEditor::ShowsTarget(Read()));
+    ShowVat();
+}
+
+void cEntryForm::ShowVat()
+{
+    m_vat->setText(m_editor.VatText(Read()));
 }
 
 void cEntryForm::ShowSeries()

@@ -52,6 +52,7 @@ private:
     void OrderTabs();
     void ShowFace();
     void ShowTarget();
+    void ShowVat();
     void ShowSeries();
     void ChooseCategory(const QString& path);
     void TakeDefaults(const cEntryFields& fields);
@@ -65,6 +66,7 @@ private:
     QLabel* m_startText;
     QWidget* m_amountRow;
     cAmountEdit* txtBetrag;
+    QLabel* m_vat;
     cCategoryBox* cboKategorie;
     QLineEdit* txtBeschreibung;
     cDayEdit* EntryDate;

@@ -60,6 +60,8 @@ cTemplatePanel::cTemplatePanel(QWidget* parent)
       m_type(new QComboBox(this)),
       m_interval(new QComboBox(this)),
       m_limit(new QLineEdit(this)),
+      m_limitHint(new QLabel(this)),
+      m_vat(new QLineEdit(this)),
       m_start(new QLineEdit(this)),
       m_date(new QDateEdit(this)),
       m_startRow(new QWidget(this)),
@@ -88,7 +90,7 @@ void cTemplatePanel::Build()
     m_title->setFont(font);
     m_title->setWordWrap(true);
     m_title->setTextFormat(Qt::PlainText);
-    for (QLabel* label : {m_hint, m_numbersHint}) {
+    for (QLabel* label : {m_hint, m_numbersHint, m_limitHint}) {
         label->setWordWrap(true);
         label->setTextFormat(Qt::PlainText);
         QPalette quiet = label->palette();
@@ -136,10 +138,12 @@ void cTemplatePanel::BuildFields()
     }
     AddWords(*m_type, modWord::EntryTypes());
     AddWords(*m_interval, modWord::Intervals());
-    for (QLineEdit* amount : {m_limit, m_start}) {
+    for (QLineEdit* amount : {m_limit, m_vat, m_start}) {
         amount->setAlignment(Qt::AlignRight);
     }
     m_limit->setPlaceholderText(cText::Tr("kein Limit"));
+    m_vat->setPlaceholderText(cText::Tr("keine"));
+    m_vat->setToolTip(cText::Tr("Der Eintrag zeigt damit, wie viel Mehrwertsteuer in seinem Betrag steckt."));
     m_start->setPlaceholderText(cText::Tr("keines"));
     m_numbers->setTabChangesFocus(true);
     m_numbers->setPlaceholderText(cText::Tr("IBAN oder Kontonummer, eine je Zeile"));
@@ -151,6 +155,8 @@ void cTemplatePanel::BuildFields()
     AddRow(cText::Tr("&Buchungsart:"), m_type);
     AddRow(cText::Tr("&Intervall:"), m_interval);
     AddRow(cText::Tr("&Monatslimit:"), m_limit);
+    AddRow({}, m_limitHint);
+    AddRow(cText::Tr("Mehrwertsteuer in &Prozent:"), m_vat);
     AddRow(cText::Tr("Start&guthaben:"), m_startRow);
     AddRow(cText::Tr("Kontonummern &für Import:"), m_numbers);
     AddRow({}, m_numbersHint);
@@ -172,7 +178,7 @@ void cTemplatePanel::BuildButtons()
 
 void cTemplatePanel::Connect()
 {
-    for (QLineEdit* edit : {m_name, m_limit, m_start, m_comment}) {
+    for (QLineEdit* edit : {m_name, m_limit, m_vat, m_start, m_comment}) {
         connect(edit, &QLineEdit::textChanged, this, &cTemplatePanel::ShowChanged);
     }
     for (QComboBox* box : {m_group, m_type, m_interval}) {
@@ -182,6 +188,10 @@ void cTemplatePanel::Connect()
         connect(box, &QCheckBox::toggled, this, &cTemplatePanel::ShowChanged);
     }
     connect(m_bookable, &QCheckBox::toggled, this, &cTemplatePanel::ShowBookable);
+    connect(m_limit, &QLineEdit::textChanged, this, &cTemplatePanel::ShowAmountHint);
+    for (QComboBox* box : {m_type, m_interval}) {
+        connect(box, &QComboBox::currentIndexChanged, this, &cTemplatePanel::ShowAmountHint);
+    }
     connect(m_date, &QDateEdit::dateChanged, this, &cTemplatePanel::ShowChanged);
     connect(m_numbers, &QPlainTextEdit::textChanged, this, &cTemplatePanel::ShowChanged);
     connect(m_save, &QPushButton::clicked, this, &cTemplatePanel::SaveRequested);
@@ -223,6 +233,8 @@ void cTemplatePanel::ShowRows(const cTemplateNode* node)
     ShowRow(m_type, isCategory);
     ShowRow(m_interval, isCategory);
     ShowRow(m_limit, node != nullptr);
+    ShowRow(m_limitHint, false);
+    ShowRow(m_vat, isCategory);
     ShowRow(m_startRow, isAccount);
     ShowRow(m_numbers, isAccount);
     ShowRow(m_numbersHint, isAccount && !m_numbersHint->text().isEmpty());
@@ -252,6 +264,7 @@ void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& grou
     ChooseWord(*m_type, fields.Type);
     ChooseWord(*m_interval, fields.Interval);
     m_limit->setText(isAccount ? fields.Limit : fields.Amount);
+    m_vat->setText(fields.Vat);
     m_start->setText(isAccount ? fields.Amount : QString());
     m_date->setDate(fields.Date);
     m_numbers->setPlainText(fields.Numbers);
@@ -268,6 +281,7 @@ void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNo
         ShowRows(nullptr);
         return;
     }
+    m_manager = &manager;
     m_kind = node->Kind;
     m_title->setText(manager.Title(*node));
     m_hint->setText(manager.Hint(*node));
@@ -289,6 +303,7 @@ void cTemplatePanel::ShowFields(const cTemplateNode& node, const cTemplateFields
     Fill(fields, groups);
     ShowRows(&node);
     ShowBookable();
+    ShowAmountHint();
     TakeAsLoaded();
 }
 
@@ -310,7 +325,7 @@ void cTemplatePanel::SetReadOnly(bool isReadOnly)
     for (QWidget* field : QWidgetList{m_bookable, m_type, m_interval, m_date, m_visible, m_group}) {
         field->setEnabled(!isReadOnly);
     }
-    for (QLineEdit* edit : {m_name, m_limit, m_start, m_comment}) {
+    for (QLineEdit* edit : {m_name, m_limit, m_vat, m_start, m_comment}) {
         edit->setReadOnly(isReadOnly);
     }
     m_numbers->setReadOnly(isReadOnly);
@@ -320,9 +335,25 @@ void cTemplatePanel::SetReadOnly(bool isReadOnly)
 void cTemplatePanel::ShowBookable()
 {
     const bool hasDefaults = m_kind != eTemplateNode::Main || m_bookable->isChecked();
-    for (QWidget* field : QWidgetList{m_type, m_interval, m_limit, m_comment}) {
-        field->setEnabled(hasDefaults && (!m_isReadOnly || field == m_limit || field == m_comment));
+    for (QWidget* field : QWidgetList{m_type, m_interval, m_limit, m_vat, m_comment}) {
+        const bool isEdit = qobject_cast<QLineEdit*>(field) != nullptr;
+        field->setEnabled(hasDefaults && (!m_isReadOnly || isEdit));
     }
+}
+
+// The amount of a category is another thing with another interval.
+void cTemplatePanel::ShowAmountHint()
+{
+    if (!m_hasFields || m_kind == eTemplateNode::Account) {
+        return;
+    }
+    const cTemplateFields fields = Fields();
+    const QString hint = m_manager->AmountHint(fields);
+    m_limitHint->setText(hint);
+    m_limitHint->setMinimumHeight(qMax(0, m_limitHint->heightForWidth(m_limit->width()))); // a form cuts wrapped lines
+    SetText(m_limit, m_manager->AmountLabel(fields));
+    ShowRow(m_limit, true);
+    ShowRow(m_limitHint, !hint.isEmpty());
 }
 
 cTemplateFields cTemplatePanel::Fields() const
@@ -335,6 +366,7 @@ cTemplateFields cTemplatePanel::Fields() const
     fields.Interval = m_interval->currentData().toString();
     fields.Amount = isAccount ? m_start->text() : m_limit->text();
     fields.Limit = isAccount ? m_limit->text() : QString();
+    fields.Vat = isAccount ? QString() : m_vat->text();
     fields.Date = m_date->date();
     fields.Numbers = m_numbers->toPlainText();
     fields.Comment = m_comment->text();

@@ -64,6 +64,7 @@ private:
     void ShowRow(const QWidget* field, bool isShown);
     void ShowRows(const cTemplateNode* node);
     void ShowBookable();
+    void ShowAmountHint();
     void ShowChanged();
     void Fill(const cTemplateFields& fields, const QStringList& groups);
     void SetText(const QWidget* field, const QString& text);
@@ -77,6 +78,8 @@ private:
     QComboBox* m_type;
     QComboBox* m_interval;
     QLineEdit* m_limit;
+    QLabel* m_limitHint;
+    QLineEdit* m_vat;
     QLineEdit* m_start;
     QDateEdit* m_date;
     QWidget* m_startRow;
@@ -90,6 +93,7 @@ private:
     QPushButton* m_merge;
     QPushButton* m_rename;
     std::vector<cRow> m_rows;
+    const cTemplateManager* m_manager = nullptr; // of the line that is shown
     cTemplateFields m_loaded;
     eTemplateNode m_kind = eTemplateNode::Main;
     bool m_hasFields = false;

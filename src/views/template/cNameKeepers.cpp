@@ -1,0 +1,34 @@
+#include "views/template/cNameKeepers.h"
+
+#include "core/cSettings.h"
+#include "import/propose/cOwnRules.h"
+#include "store/cDataAccess.h"
+#include "views/list/modSetting.h"
+#include "views/template/cBankNumbers.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+void cNameKeepers::Watch(cDataAccess& data, cSettings& settings)
+{
+    data.OnNameCleaned([&data, &settings](const cCleanedName& name) {
+        cNameKeepers keepers(data, settings);
+        return name.IsAccount ? keepers.RenameAccount(name.Old, name.New) : keepers.RenameCategory(name.Old, name.New);
+    });
+}
+
+bool cNameKeepers::RenameAccount(const QString& oldName, const QString& newName)
+{
+    const QStringList shown{u"MainKonto"_s, modSetting::StatisticsAccount};
+    return cBankNumbers(m_data, m_settings).Move(oldName, newName)
+        && cOwnRules(m_settings).RenameAccount(oldName, newName)
+        && std::all_of(shown.begin(), shown.end(), [&](const QString& setting) {
+               return m_settings.Get(setting) != oldName || m_settings.Set(setting, newName);
+           });
+}
+
+bool cNameKeepers::RenameCategory(const QString& oldPath, const QString& newPath)
+{
+    return cOwnRules(m_settings).RenameCategory(oldPath, newPath);
+}
