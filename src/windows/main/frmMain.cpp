@@ -27,6 +27,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int accountLetters = 42; // width of the accounts
+
+} // namespace
+
 frmMain::frmMain(cMainModel& model, QWidget* parent)
     : QMainWindow(parent),
       m_model(model),
@@ -101,8 +107,7 @@ void frmMain::BuildPages()
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setChildrenCollapsible(false);
-    const int character = fontMetrics().averageCharWidth();
-    m_splitter->setSizes({character * 42, character * 140});
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
     setCentralWidget(m_splitter);
     statusBar()->addPermanentWidget(m_database);
     TakeUsualSize();
@@ -265,6 +270,21 @@ void frmMain::SaveLayout()
     const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
     m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
+}
+
+// The accounts have room for long names in a wide window and leave most of a narrow one to the list.
+void frmMain::ShareWidth()
+{
+    if (!m_isSplitByHand) {
+        const int accounts = qMin(fontMetrics().averageCharWidth() * accountLetters, width() * 27 / 100);
+        m_splitter->setSizes({accounts, width() - accounts});
+    }
+}
+
+void frmMain::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    ShareWidth();
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
