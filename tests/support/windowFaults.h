@@ -11,8 +11,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaObject>
-#include <QStringList>
 #include <QRegularExpression>
+#include <QStringList>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
@@ -38,7 +38,8 @@ template <typename tVisit>
 void ForEachVisible(const QWidget& window, tVisit visit)
 {
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (widget->isVisibleTo(&window) && widget->window() == &window) {
+        const bool isDrawnAside = widget->mapTo(&window, QPoint(widget->width(), 0)).x() <= 0; // by a splitter
+        if (widget->isVisibleTo(&window) && widget->window() == &window && !isDrawnAside) {
             visit(*widget);
         }
     }
@@ -207,7 +208,9 @@ inline QStringList CutValues(const QWidget& window)
                 const bool isCut = NeededWidth(*view, text) > width || right > view->viewport()->width();
                 if (width > 0 && value.match(text).hasMatch() && isCut) {
                     faults.append(QStringLiteral("cut: %1 in %2, %3 to %4 of %5")
-                                      .arg(text, Named(*view)).arg(right - width).arg(right)
+                                      .arg(text, Named(*view))
+                                      .arg(right - width)
+                                      .arg(right)
                                       .arg(view->viewport()->width()));
                 }
             }

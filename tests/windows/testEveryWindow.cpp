@@ -144,7 +144,7 @@ QStringList FaultsOfAllPages(QWidget& window)
     look();
     const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
     for (QTabWidget* tabs : books) {
-        for (int page = 1; page < tabs->count(); ++page) {
+        for (int page = 0; page < tabs->count(); ++page) {
             tabs->setCurrentIndex(page);
             look();
         }

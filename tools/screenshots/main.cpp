@@ -49,6 +49,7 @@
 #include "windows/statement/frmZuordnung.h"
 #include "windows/statistics/frmStatistik.h"
 #include "windows/template/frmKategorie.h"
+#include "windows/widget/cStyle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -58,7 +59,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -502,7 +502,7 @@ int main(int argc, char* argv[])
         return 2;
     }
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new cStyle(u"Fusion"_s));
     if (arguments.at(2) == u"dark") {
         QApplication::setPalette(DarkPalette());
     }

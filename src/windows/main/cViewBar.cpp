@@ -70,8 +70,8 @@ void cViewBar::Build()
     auto* grid = new cFieldGrid(mostColumns, this);
     grid->AddField(cText::Tr("&Zeitraum:"), m_period);
     grid->AddField(cText::Tr("&von:"), modDayRange::Make(*m_start, *m_end, this));
-    grid->AddField(cText::Tr("&Konto:"), m_account);
     grid->AddField(cText::Tr("B&uchungsart:"), m_type);
+    grid->AddField(cText::Tr("&Konto:"), m_account);
     grid->AddField(cText::Tr("&Gruppierung:"), m_grouping);
     grid->AddField(cText::Tr("&Filter:"), m_filter);
     m_filter->setClearButtonEnabled(true);
@@ -80,7 +80,7 @@ void cViewBar::Build()
             m_filter, &QLineEdit::clear);
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_account->setMinimumContentsLength(14);
-    const QList<QWidget*> order{m_period, m_start, m_end, m_account, m_type, m_grouping, m_filter};
+    const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }

@@ -30,6 +30,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int accountLetters = 42; // width of the accounts
+constexpr int crampedLetters = 80; // width of a window that is too small for list and accounts
 
 } // namespace
 
@@ -106,7 +107,7 @@ void frmMain::BuildPages()
     m_splitter->addWidget(m_accounts);
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(1, 1);
-    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setCollapsible(1, false);
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
     setCentralWidget(m_splitter);
     statusBar()->addPermanentWidget(m_database);
@@ -272,11 +273,14 @@ void frmMain::SaveLayout()
     m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
 }
 
-// The accounts have room for long names in a wide window and leave most of a narrow one to the list.
+// The accounts have room for long names in a wide window and leave most of a narrow one to the list; where it has
+// hardly room for itself, they wait at the edge, from where they can be drawn.
 void frmMain::ShareWidth()
 {
     if (!m_isSplitByHand) {
-        const int accounts = qMin(fontMetrics().averageCharWidth() * accountLetters, width() * 27 / 100);
+        const int character = fontMetrics().averageCharWidth();
+        const bool hasRoom = width() > character * crampedLetters;
+        const int accounts = hasRoom ? qMin(character * accountLetters, width() / 4) : 0;
         m_splitter->setSizes({accounts, width() - accounts});
     }
 }

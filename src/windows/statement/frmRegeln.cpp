@@ -142,7 +142,7 @@ QGroupBox* frmRegeln::BuildResult()
 {
     auto* group = new QGroupBox(cText::Tr("Dann schlage vor"), this);
     auto* form = new QFormLayout(group);
-    m_category->setMinimumContentsLength(24);
+    m_category->setMinimumContentsLength(14);
     m_category->lineEdit()->setPlaceholderText(cText::Tr("wie ohne Regel"));
     form->addRow(cText::Tr("&Kategorie:"), m_category);
     m_interval->addItem(cText::Tr("wie ohne Regel"), QString());

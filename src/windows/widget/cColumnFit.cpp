@@ -14,7 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int leastLetters = 5; // of a text
+constexpr int leastLetters = 4;   // of a text
+constexpr int enoughLetters = 11; // for a word such as a kind or an interval
 
 } // namespace
 
@@ -29,7 +30,6 @@ cColumnFit::cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest)
     QHeaderView& header = *m_view.header();
     header.setStretchLastSection(false);
     header.setMinimumSectionSize(Letter() * 2);
-    header.setTextElideMode(Qt::ElideRight);
     m_view.viewport()->installEventFilter(this);
     connect(m_view.model(), &QAbstractItemModel::modelReset, this, [this] {
         Measure();
@@ -107,7 +107,8 @@ void cColumnFit::Fit()
         if (!header.isSectionHidden(column)) {
             const bool takesRest = column == m_rest && m_wanted.at(column) == 0;
             rest = takesRest ? static_cast<int>(shown.size()) : rest;
-            columns.append({Wanted(column), column == m_dragged ? Wanted(column) : m_least.at(column)});
+            const int least = column == m_dragged ? Wanted(column) : m_least.at(column);
+            columns.append({Wanted(column), enoughLetters * Letter(), least});
             shown.append(column);
         }
     }

@@ -44,15 +44,15 @@ std::vector<cFieldGrid::cPair> cFieldGrid::Pairs() const
     return pairs;
 }
 
-std::vector<cFieldGrid::cColumn> cFieldGrid::Columns(const std::vector<cPair>& pairs, std::size_t count) const
+std::vector<cFieldGrid::cColumn> cFieldGrid::Columns(const cPairs& pairs, std::size_t count)
 {
     std::vector<cColumn> columns(count);
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         cColumn& column = columns.at(i % count);
         const bool isAlone = i + 1 == pairs.size() && i % count == 0; // it has the whole row
-        column.Label = std::max(column.Label, pairs.at(i).Label->sizeHint().width());
-        column.Field = std::max(column.Field, isAlone && count > 1 ? 0 : pairs.at(i).Field->sizeHint().width());
-        column.WantsMore = column.WantsMore || pairs.at(i).Field->expandingDirections().testFlag(Qt::Horizontal);
+        column.Label = std::max(column.Label, pairs[i].Label->sizeHint().width());
+        column.Field = std::max(column.Field, isAlone && count > 1 ? 0 : pairs[i].Field->sizeHint().width());
+        column.WantsMore = column.WantsMore || pairs[i].Field->expandingDirections().testFlag(Qt::Horizontal);
     }
     return columns;
 }
@@ -66,16 +66,43 @@ int cFieldGrid::Width(const std::vector<cColumn>& columns) const
     return width;
 }
 
-// The most columns that have room; one column may be too wide.
-std::vector<cFieldGrid::cColumn> cFieldGrid::Fitting(const std::vector<cPair>& pairs, int width) const
+std::vector<cFieldGrid::cRow> cFieldGrid::AlignedRows(const cPairs& pairs, const std::vector<cColumn>& columns)
+{
+    std::vector<cRow> rows;
+    for (std::size_t first = 0; first < pairs.size(); first += columns.size()) {
+        rows.push_back({pairs.subspan(first, std::min(columns.size(), pairs.size() - first)), columns});
+    }
+    return rows;
+}
+
+// As many side by side as each row has room for, whatever stands below.
+std::vector<cFieldGrid::cRow> cFieldGrid::RaggedRows(const cPairs& pairs, int width) const
+{
+    std::vector<cRow> rows;
+    for (std::size_t first = 0; first < pairs.size();) {
+        std::size_t count = 1;
+        while (first + count < pairs.size() && Width(Columns(pairs.subspan(first, count + 1), count + 1)) <= width) {
+            ++count;
+        }
+        rows.push_back({pairs.subspan(first, count), Columns(pairs.subspan(first, count), count)});
+        first += count;
+    }
+    return rows;
+}
+
+// Aligned where two columns have room. Below that lines are saved first, and only then all fields stand in one column,
+// which may still be too wide.
+std::vector<cFieldGrid::cRow> cFieldGrid::Rows(const cPairs& pairs, int width) const
 {
     for (std::size_t count = std::min(m_mostColumns, pairs.size()); count > 1; --count) {
-        std::vector<cColumn> columns = Columns(pairs, count);
+        const std::vector<cColumn> columns = Columns(pairs, count);
         if (Width(columns) <= width) {
-            return columns;
+            return AlignedRows(pairs, columns);
         }
     }
-    return Columns(pairs, 1);
+    std::vector<cRow> ragged = m_mostColumns > 1 ? RaggedRows(pairs, width) : std::vector<cRow>();
+    const bool savesLines = !ragged.empty() && ragged.size() < pairs.size();
+    return savesLines ? ragged : AlignedRows(pairs, Columns(pairs, 1));
 }
 
 void cFieldGrid::Widen(std::vector<cColumn>& columns, int width) const
@@ -92,42 +119,39 @@ void cFieldGrid::Widen(std::vector<cColumn>& columns, int width) const
     }
 }
 
-void cFieldGrid::PlaceRow(const cRow& row, const std::vector<cColumn>& columns, const QRect& place) const
+void cFieldGrid::PlaceRow(const cRow& row, const QRect& place) const
 {
     const Qt::LayoutDirection direction = parentWidget()->layoutDirection();
-    const bool isAlone = row.Pairs.size() == 1;
+    const bool isAlone = row.Pairs.size() == 1 && row.Pairs[0].Field->expandingDirections().testFlag(Qt::Horizontal);
     int left = place.left();
     for (std::size_t i = 0; i < row.Pairs.size(); ++i) {
-        const int field = left + columns.at(i).Label + spacing();
-        const int width = isAlone ? place.right() + 1 - field : columns.at(i).Field;
-        const QRect labelPlace(left, place.top(), columns.at(i).Label, row.Height);
-        const QRect fieldPlace(field, place.top(), width, row.Height);
+        const cColumn& column = row.Columns.at(i);
+        const int field = left + column.Label + spacing();
+        const int width = isAlone ? place.right() + 1 - field : column.Field;
+        const QRect labelPlace(left, place.top(), column.Label, place.height());
+        const QRect fieldPlace(field, place.top(), width, place.height());
         row.Pairs[i].Label->setGeometry(QStyle::visualRect(direction, place, labelPlace));
         row.Pairs[i].Field->setGeometry(QStyle::visualRect(direction, place, fieldPlace));
-        left = field + columns.at(i).Field + ColumnGap();
+        left = field + column.Field + ColumnGap();
     }
 }
 
 int cFieldGrid::Arrange(const QRect& place, eArrange arrange) const
 {
     const std::vector<cPair> pairs = Pairs();
-    if (pairs.empty()) {
-        return 0;
-    }
-    std::vector<cColumn> columns = Fitting(pairs, place.width());
-    Widen(columns, place.width());
     int top = place.top();
-    for (std::size_t first = 0; first < pairs.size(); first += columns.size()) {
-        cRow row{std::span(pairs).subspan(first, std::min(columns.size(), pairs.size() - first))};
+    for (cRow& row : Rows(pairs, place.width())) {
+        Widen(row.Columns, place.width());
+        int height = 0;
         for (std::size_t i = 0; i < row.Pairs.size(); ++i) {
-            row.Height = std::max(row.Height, Height(*row.Pairs[i].Field, columns.at(i).Field));
+            height = std::max(height, Height(*row.Pairs[i].Field, row.Columns.at(i).Field));
         }
         if (arrange == eArrange::Place) {
-            PlaceRow(row, columns, QRect(place.left(), top, place.width(), row.Height));
+            PlaceRow(row, QRect(place.left(), top, place.width(), height));
         }
-        top += row.Height + spacing();
+        top += height + spacing();
     }
-    return top - spacing() - place.top();
+    return pairs.empty() ? 0 : top - spacing() - place.top();
 }
 
 QSize cFieldGrid::WantedSize() const

@@ -29,7 +29,7 @@ void cFlowLayout::AddField(QWidget* label, QWidget* field)
     auto* pair = new QHBoxLayout;
     pair->setContentsMargins(0, 0, 0, 0);
     pair->addWidget(label);
-    pair->addWidget(field, 1);
+    pair->addWidget(field);
     addChildLayout(pair);
     addItem(pair);
 }
