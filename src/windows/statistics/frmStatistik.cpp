@@ -120,8 +120,8 @@ QWidget* frmStatistik::BuildReportPage()
     split->addWidget(m_report);
     split->setStretchFactor(1, 1);
     split->setChildrenCollapsible(false);
-    const int character = fontMetrics().averageCharWidth();
-    split->setSizes({character * 44, character * 110});
+    split->setStretchFactor(0, 2); // the report needs more of a narrow page than the tree of its figures
+    split->setStretchFactor(1, 3);
     m_hint->setWordWrap(true);
     m_hint->setContentsMargins(8, 4, 8, 6);
     auto* page = new QWidget(this);
