@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Renders every window to PNG: light, dark, and light at 200 %.  tools/screenshots.sh [FOLDER]
+# Renders every window to PNG: light, dark, light at 200 %, and on a small screen in small and in large type.
+#   tools/screenshots.sh [FOLDER]
 set -eu
 cd "$(dirname "$(readlink -f "$0")")/.."
 folder=${1:-build/bilder}
@@ -9,3 +10,5 @@ export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-/tmp} LC_ALL
 "$program" "$folder" light
 "$program" "$folder" dark
 QT_SCALE_FACTOR=2 "$program" "$folder/200" light
+"$program" "$folder/klein" light 9 784 552 # 800 x 600 without what frame and desktop take
+"$program" "$folder/klein-gross" light 16 784 552

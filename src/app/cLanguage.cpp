@@ -8,10 +8,19 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+QString cLanguage::cGermanKeys::translate(const char* context, const char* text, const char* /*note*/,
+                                          int /*number*/) const
+{
+    const bool isEnter =
+        qstrcmp(context, "QShortcut") == 0 && (qstrcmp(text, "Return") == 0 || qstrcmp(text, "Enter") == 0);
+    return isEnter ? u"Eingabe"_s : QString();
+}
+
 void cLanguage::Use(const QString& code, const cShell& shell)
 {
     QCoreApplication::removeTranslator(&m_program);
     QCoreApplication::removeTranslator(&m_toolkit);
+    QCoreApplication::removeTranslator(&m_keys);
     const bool isForeign =
         !code.isEmpty() && code != u"de" && m_program.load(shell.InstalledFile(u"kontorelle_%1.qm"_s.arg(code)));
     if (isForeign) {
@@ -22,5 +31,8 @@ void cLanguage::Use(const QString& code, const cShell& shell)
     const QString toolkit = u"qtbase_"_s + (isForeign ? code : u"de"_s);
     if (m_toolkit.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&m_toolkit);
+    }
+    if (!isForeign) {
+        QCoreApplication::installTranslator(&m_keys); // the last one is asked first
     }
 }

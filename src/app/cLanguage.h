@@ -14,6 +14,16 @@ public:
     void Use(const QString& code, const cShell& shell);
 
 private:
+    // The toolkit's catalogue leaves the German key of that name in English.
+    class cGermanKeys final : public QTranslator
+    {
+    public:
+        [[nodiscard]] bool isEmpty() const override { return false; }
+        [[nodiscard]] QString translate(const char* context, const char* text, const char* note,
+                                        int number) const override;
+    };
+
+    cGermanKeys m_keys;
     QTranslator m_program;
     QTranslator m_toolkit;
 };

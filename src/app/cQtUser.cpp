@@ -4,9 +4,11 @@
 #include "base/cText.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -24,6 +26,26 @@ QMessageBox::Icon Icon(eTone tone)
     }
     return QMessageBox::NoIcon;
 }
+
+// A field that has just completed what was typed keeps the first Enter for itself; here it answers the question.
+class cEnterAnswers final : public QObject
+{
+public:
+    explicit cEnterAnswers(QDialog& dialog) : QObject(&dialog), m_dialog(dialog) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            m_dialog.accept();
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QDialog& m_dialog;
+};
 
 QString TitleOr(const QString& title)
 {
@@ -72,6 +94,9 @@ std::optional<QString> cQtUser::Choose(const cChoice& choice)
     dialog.setComboBoxItems(choice.Items);
     dialog.setComboBoxEditable(choice.AllowNew);
     dialog.setTextValue(choice.Proposal);
+    if (auto* items = dialog.findChild<QComboBox*>(); items != nullptr) {
+        items->installEventFilter(new cEnterAnswers(dialog));
+    }
     // Room for the title as well, which the layout does not count.
     dialog.resize(dialog.fontMetrics().averageCharWidth() * 60, dialog.sizeHint().height());
     if (dialog.exec() != QDialog::Accepted || dialog.textValue().trimmed().isEmpty()) {

@@ -11,11 +11,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaObject>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QToolButton>
+#include <QTreeView>
 
 // What keeps somebody from using a window without mouse or eyes, or from reading it. All of it is looked up in the
 // widgets that are in sight.
@@ -36,7 +38,8 @@ template <typename tVisit>
 void ForEachVisible(const QWidget& window, tVisit visit)
 {
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (widget->isVisibleTo(&window) && widget->window() == &window) {
+        const bool isDrawnAside = widget->mapTo(&window, QPoint(widget->width(), 0)).x() <= 0; // by a splitter
+        if (widget->isVisibleTo(&window) && widget->window() == &window && !isDrawnAside) {
             visit(*widget);
         }
     }
@@ -155,9 +158,70 @@ inline QStringList Clipped(const QWidget& window)
     return faults;
 }
 
+// Letters that the line below them makes another letter of: "bis" with its i underlined reads "bjs".
+inline QStringList MisreadMnemonics(const QWidget& window)
+{
+    QStringList faults;
+    ForEachVisible(window, [&](const QWidget& widget) {
+        const auto* label = qobject_cast<const QLabel*>(&widget);
+        const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        const QString text = label != nullptr ? label->text() : button != nullptr ? button->text() : QString();
+        if (text.contains(QStringLiteral("&i")) || text.contains(QStringLiteral("&j"))) {
+            faults.append(QStringLiteral("misread: ") + Named(widget));
+        }
+    });
+    return faults;
+}
+
+// A window that does not get as small as the room on a screen.
+inline QStringList TooLarge(const QWidget& window, QSize room)
+{
+    const QSize least = window.minimumSizeHint().expandedTo(window.minimumSize());
+    if (least.width() <= room.width() && least.height() <= room.height()) {
+        return {};
+    }
+    return {QStringLiteral("needs %1 x %2").arg(least.width()).arg(least.height())};
+}
+
+// What a cell's text needs with its margins.
+inline int NeededWidth(const QAbstractItemView& view, const QString& text)
+{
+    const int margin = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1;
+    return view.fontMetrics().horizontalAdvance(text) + 2 * margin;
+}
+
+// Days and amounts in lists that are cut off or out of sight.
+inline QStringList CutValues(const QWidget& window)
+{
+    static const QRegularExpression value(QStringLiteral("^-?[\\d.]+,\\d\\d\\s€$|^\\d\\d\\.\\d\\d\\.\\d{4}$"));
+    QStringList faults;
+    ForEachVisible(window, [&](const QWidget& widget) {
+        const auto* view = qobject_cast<const QTreeView*>(&widget);
+        if (view == nullptr) {
+            return;
+        }
+        for (QModelIndex row = view->model()->index(0, 0); row.isValid(); row = view->indexBelow(row)) {
+            for (int column = 0; column < view->model()->columnCount(); ++column) {
+                const QString text = row.siblingAtColumn(column).data().toString();
+                const int width = view->columnWidth(column);
+                const int right = view->columnViewportPosition(column) + width;
+                const bool isCut = NeededWidth(*view, text) > width || right > view->viewport()->width();
+                if (width > 0 && value.match(text).hasMatch() && isCut) {
+                    faults.append(QStringLiteral("cut: %1 in %2, %3 to %4 of %5")
+                                      .arg(text, Named(*view))
+                                      .arg(right - width)
+                                      .arg(right)
+                                      .arg(view->viewport()->width()));
+                }
+            }
+        }
+    });
+    return faults;
+}
+
 inline QStringList All(const QWidget& window)
 {
-    return Nameless(window) + DoubleMnemonics(window) + Clipped(window);
+    return Nameless(window) + DoubleMnemonics(window) + MisreadMnemonics(window) + Clipped(window) + CutValues(window);
 }
 
 } // namespace windowFaults

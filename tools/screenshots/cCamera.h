@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QDir>
 #include <QEventLoop>
+#include <QSize>
 #include <QString>
 #include <QTimer>
 #include <QWidget>
@@ -25,10 +26,19 @@ inline void Settle()
 class cCamera
 {
 public:
-    cCamera(const QString& folder, const QString& palette) : m_folder(folder), m_palette(palette) {}
+    // Windows are taken no larger than `screen`, where it is given.
+    cCamera(const QString& folder, const QString& palette, const QSize& screen = {})
+        : m_folder(folder),
+          m_palette(palette),
+          m_screen(screen)
+    {
+    }
 
     void Take(QWidget& widget, const QString& name)
     {
+        if (m_screen.isValid()) {
+            widget.resize(widget.size().boundedTo(m_screen));
+        }
         Settle();
         const QString path = QDir(m_folder).filePath(QStringLiteral("%1-%2.png").arg(name, m_palette));
         m_isGood = widget.grab().save(path) && m_isGood;
@@ -55,5 +65,6 @@ public:
 private:
     QString m_folder;
     QString m_palette;
+    QSize m_screen;
     bool m_isGood = true;
 };

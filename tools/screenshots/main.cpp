@@ -1,6 +1,7 @@
 // Renders the program's windows with the example household into PNG files, without a screen:
-//   kontorelle-screenshots FOLDER light|dark
-// The pictures are named after window and palette. The scale comes from QT_SCALE_FACTOR, as for every program.
+//   kontorelle-screenshots FOLDER light|dark [POINTS [WIDTH HEIGHT]]
+// POINTS is the type size, WIDTH and HEIGHT are the largest that a window may be. The pictures are named after window
+// and palette. The scale comes from QT_SCALE_FACTOR, as for every program.
 
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
@@ -48,6 +49,7 @@
 #include "windows/statement/frmZuordnung.h"
 #include "windows/statistics/frmStatistik.h"
 #include "windows/template/frmKategorie.h"
+#include "windows/widget/cStyle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -57,7 +59,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -496,16 +497,22 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 3 || !QDir().mkpath(arguments.at(1))) {
-        std::fputs("kontorelle-screenshots FOLDER light|dark\n", stderr);
+    if (arguments.size() < 3 || !QDir().mkpath(arguments.at(1))) {
+        std::fputs("kontorelle-screenshots FOLDER light|dark [POINTS [WIDTH HEIGHT]]\n", stderr);
         return 2;
     }
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new cStyle(u"Fusion"_s));
     if (arguments.at(2) == u"dark") {
         QApplication::setPalette(DarkPalette());
     }
-    cCamera camera(arguments.at(1), arguments.at(2));
+    if (const int points = arguments.value(3).toInt(); points > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
+    const QSize screen = arguments.size() > 5 ? QSize(arguments.at(4).toInt(), arguments.at(5).toInt()) : QSize();
+    cCamera camera(arguments.at(1), arguments.at(2), screen);
     return TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeEmpty(camera) && TakeEditor(camera)
             && TakeCategories(camera) && TakeSearch(camera) && TakeRules(camera) && TakeReview(camera)
             && TakeSettings(camera) && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera)

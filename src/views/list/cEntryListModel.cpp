@@ -6,6 +6,7 @@
 #include "model/modBalance.h"
 #include "model/modWord.h"
 #include "views/list/cEntryFilter.h"
+#include "views/list/modColumnWidth.h"
 #include "views/list/modEntryOrder.h"
 
 #include <QHash>
@@ -397,6 +398,20 @@ QString cEntryListModel::Tip(const cEntryItem& entry) const
     return entry.CorrectionComment.isEmpty() ? tip : tip + u'\n' + entry.CorrectionComment;
 }
 
+QString cEntryListModel::WidestAmount(int column) const
+{
+    qint64 least = 0;
+    qint64 most = 0;
+    for (const int entry : m_order) {
+        const qint64 cents = Cents(entry, column).value_or(0);
+        least = std::min(least, cents);
+        most = std::max(most, cents);
+    }
+    const QString negative = m_format.Cents(least);
+    const QString positive = m_format.Cents(most);
+    return negative.size() > positive.size() ? negative : positive;
+}
+
 QVariant cEntryListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
@@ -405,6 +420,9 @@ QVariant cEntryListModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::TextAlignmentRole) {
         return IsMoneyColumn(section) ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                                       : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    if (role == modColumnWidth::WidestRole) {
+        return IsMoneyColumn(section) ? QVariant(WidestAmount(section)) : QVariant();
     }
     return role == Qt::DisplayRole ? QVariant(cText::Tr(titles[At(section)])) : QVariant();
 }

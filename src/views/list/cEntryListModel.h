@@ -108,6 +108,7 @@ private:
     [[nodiscard]] int EntryIndex(const QModelIndex& index) const;           // -1 for the head of a group
     [[nodiscard]] std::optional<qint64> Cents(int entry, int column) const; // empty where none is shown
     [[nodiscard]] QString Text(int entry, int column) const;
+    [[nodiscard]] QString WidestAmount(int column) const; // of those that are shown
     [[nodiscard]] QVariant EntryData(int entry, int column, int role) const;
     [[nodiscard]] QVariant GroupData(const cGroup& group, int column, int role) const;
     [[nodiscard]] QString Tip(const cEntryItem& entry) const;

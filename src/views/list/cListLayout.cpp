@@ -43,7 +43,20 @@ QString cListLayout::ToText() const
         parts.append(u"%1,%2,%3"_s.arg(column.Column).arg(column.Width).arg(column.IsShown ? 1 : 0));
     }
     parts.append(u"sort,%1,%2"_s.arg(SortColumn).arg(IsDescending ? 1 : 0));
+    if (Letter > 0) {
+        parts.append(u"letter,%1"_s.arg(Letter));
+    }
     return parts.join(u'|');
+}
+
+cListLayout cListLayout::ForLetter(int letter) const
+{
+    cListLayout layout = *this;
+    layout.Letter = letter;
+    for (cColumn& column : layout.Columns) {
+        column.Width = Letter > 0 ? column.Width * letter / Letter : column.Width;
+    }
+    return layout;
 }
 
 std::optional<cListLayout> cListLayout::FromText(const QString& text, int columnCount)
@@ -54,6 +67,10 @@ std::optional<cListLayout> cListLayout::FromText(const QString& text, int column
         if (part.startsWith(u"sort,")) {
             layout.SortColumn = std::clamp(part.section(u',', 1, 1).toInt(), 0, columnCount - 1);
             layout.IsDescending = part.section(u',', 2, 2) == u"1";
+            continue;
+        }
+        if (part.startsWith(u"letter,")) {
+            layout.Letter = std::max(0, part.section(u',', 1, 1).toInt());
             continue;
         }
         const std::optional<cColumn> column = ReadColumn(part);

@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int second = 1000; // milliseconds
-constexpr int columns = 64;  // width of the texts in letters
+constexpr int columns = 60;  // width of the texts in letters
 
 } // namespace
 

@@ -45,7 +45,7 @@ frmSicherungen::frmSicherungen(cBackupSettings& settings, QWidget* parent)
 
 void frmSicherungen::BuildFields(QFormLayout& form)
 {
-    constexpr int columns = 72;
+    constexpr int columns = 60;
     form.addRow(modWrapped::Make(cText::Tr("Beim ersten Start an einem Tag sichert Kontorelle die Datenbank. Neben den "
                                            "letzten Sicherungen bleibt die letzte jedes Monats erhalten."),
                                  columns, this));

@@ -5,6 +5,7 @@
 #include "windows/chart/cChartTable.h"
 #include "windows/chart/cChartView.h"
 #include "windows/chart/modChartPainter.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modIcon.h"
 
 #include <QBoxLayout>
@@ -56,10 +57,10 @@ QLayout* cChartBox::BuildBar()
     connect(m_back, &QPushButton::clicked, this, &cChartBox::BackRequested);
     connect(m_switch, &QToolButton::toggled, this, &cChartBox::ShowTable);
     connect(save, &QToolButton::clicked, this, &cChartBox::SaveRequested);
-    auto* bar = new QHBoxLayout;
+    auto* bar = new cFlowLayout;
     bar->setSpacing(2);
     bar->addWidget(m_back);
-    bar->addStretch();
+    bar->AddStretch();
     for (QToolButton* button : {m_switch, copy, save}) {
         bar->addWidget(button);
     }

@@ -71,7 +71,6 @@ void cCorrectionsPage::Build()
         {cText::Tr("Korrektur"), cText::Tr("Zeitraum"), cText::Tr("Kommentar"), cText::Tr("Betrag")});
     m_list->headerItem()->setTextAlignment(amountColumn, Qt::AlignRight | Qt::AlignVCenter);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_list->setMinimumWidth(fontMetrics().averageCharWidth() * 88);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(commentColumn, QHeaderView::Stretch);
     m_list->setRootIsDecorated(false);

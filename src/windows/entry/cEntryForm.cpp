@@ -107,7 +107,7 @@ void cEntryForm::Build()
     layout->addWidget(m_split, 1);
     layout->addStretch(0);
     m_startText->setWordWrap(true);
-    txtBeschreibung->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    txtBeschreibung->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
 }
 
 void cEntryForm::BuildAmount()

@@ -150,7 +150,7 @@ QSize cSplitTable::sizeHint() const
 
 QSize cSplitTable::minimumSizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 70, sizeHint().height()};
+    return {fontMetrics().averageCharWidth() * 50, sizeHint().height()};
 }
 
 void cSplitTable::keyPressEvent(QKeyEvent* event)

@@ -84,7 +84,7 @@ void frmKorrektur::Build()
     m_message->setWordWrap(true);
     m_message->hide();
     layout->addWidget(m_message);
-    txtKommentar->setMinimumWidth(fontMetrics().averageCharWidth() * 60); // the title fits above it
+    txtKommentar->setMinimumWidth(fontMetrics().averageCharWidth() * 44); // the title fits above it
     BuildButtons(*layout);
 }
 

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int leastNameLetters = 13; // of an account
+
 class cAccountDelegate final : public QStyledItemDelegate
 {
 public:
@@ -79,6 +81,8 @@ cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
     m_view->header()->setSectionResizeMode(cAccountListModel::Balance, QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(cAccountListModel::Open, QHeaderView::ResizeToContents);
     m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &cAccountPanel::FitColumns);
     m_title->setBuddy(m_view);
     QFont font = m_title->font();
     font.setBold(true);
@@ -107,8 +111,25 @@ QString cAccountPanel::CurrentAccount() const
     return m_model.AccountAt(m_view->currentIndex());
 }
 
+// Names matter more than how many transactions are open; the name of a group has the whole line.
+void cAccountPanel::FitColumns()
+{
+    QHeaderView& header = *m_view->header();
+    const int others =
+        header.sectionSize(cAccountListModel::Balance) + header.sectionSizeHint(cAccountListModel::Open);
+    const int least = fontMetrics().averageCharWidth() * leastNameLetters;
+    header.setSectionHidden(cAccountListModel::Open, m_view->viewport()->width() - others < least);
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const int kind = m_model.index(row, 0).data(cAccountListModel::KindRole).toInt();
+        m_view->setFirstColumnSpanned(row, {}, kind == cAccountListModel::Group);
+    }
+}
+
 bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Resize) {
+        FitColumns();
+    }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key(); // the event says what it is
         if (key == Qt::Key_Escape) {

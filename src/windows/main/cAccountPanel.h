@@ -25,6 +25,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void FitColumns();
     void OpenMenu(const QPoint& position);
     [[nodiscard]] QString CurrentAccount() const;
 

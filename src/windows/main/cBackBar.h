@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class QLabel;
+class cElidedText;
 
 // Above a list that shows selected entries for a while: what they are, and the ways back.
 class cBackBar final : public QWidget
@@ -19,5 +19,5 @@ Q_SIGNALS:
     void CloseRequested(); // to the list as it was before
 
 private:
-    QLabel* m_text;
+    cElidedText* m_text;
 };

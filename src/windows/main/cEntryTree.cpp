@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
 #include "windows/main/cEntryDelegate.h"
+#include "windows/widget/cColumnFit.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modGroupHead.h"
 
@@ -14,9 +15,10 @@
 
 namespace {
 
-// Widths in average characters of the font, so that they fit at every font size and scale.
-constexpr std::array<int, cEntryListModel::ColumnCount> defaultWidths{14, 14, 27, 23, 30, 18, 16, 16};
-constexpr int leastDescription = 16;
+using eKind = cColumnFit::eKind;
+
+const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},   {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount},
+                                               {16, eKind::Amount}};
 
 } // namespace
 
@@ -35,7 +37,6 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
     setAllColumnsShowFocus(true);
     setExpandsOnDoubleClick(false);
     setAccessibleName(cText::Tr("Liste der Einträge"));
-    header()->setStretchLastSection(false);
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
     header()->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -46,12 +47,7 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
             setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
         }
     });
-    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
-        m_fitsDescription = m_fitsDescription && (m_isFitting || !isVisible());
-        if (column != cEntryListModel::Description) {
-            FitDescription();
-        }
-    });
+    m_fit = new cColumnFit(*this, columns, cEntryListModel::Description);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cEntryTree::RestoreSelection);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &cEntryTree::ReportSelection);
     SetDefaultLayout();
@@ -59,14 +55,7 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
 
 void cEntryTree::SetDefaultLayout()
 {
-    const int character = fontMetrics().averageCharWidth();
-    m_isFitting = true;
-    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
-        header()->moveSection(header()->visualIndex(column), column);
-        header()->resizeSection(column, defaultWidths.at(static_cast<std::size_t>(column)) * character);
-    }
-    m_isFitting = false;
-    m_fitsDescription = true;
+    m_fit->SetLayout(std::nullopt);
     m_isShown.fill(true);
     ShowColumns();
     sortByColumn(cEntryListModel::Date, Qt::AscendingOrder);
@@ -74,13 +63,11 @@ void cEntryTree::SetDefaultLayout()
 
 void cEntryTree::ShowColumns()
 {
-    m_isFitting = true;
     for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
         const bool hasContent = column != cEntryListModel::Balance || m_model.HasBalances();
-        header()->setSectionHidden(column, !m_isShown.at(static_cast<std::size_t>(column)) || !hasContent);
+        m_fit->SetShown(column, m_isShown.at(static_cast<std::size_t>(column)) && hasContent);
     }
-    m_isFitting = false;
-    FitDescription();
+    m_fit->Fit();
 }
 
 void cEntryTree::ShowColumn(int column, bool isShown)
@@ -89,36 +76,12 @@ void cEntryTree::ShowColumn(int column, bool isShown)
     ShowColumns();
 }
 
-void cEntryTree::FitDescription()
-{
-    if (!m_fitsDescription || m_isFitting || header()->isSectionHidden(cEntryListModel::Description)) {
-        return;
-    }
-    const int others = header()->length() - header()->sectionSize(cEntryListModel::Description);
-    const int least = leastDescription * fontMetrics().averageCharWidth();
-    m_isFitting = true;
-    header()->resizeSection(cEntryListModel::Description, qMax(least, viewport()->width() - others));
-    m_isFitting = false;
-}
-
-void cEntryTree::resizeEvent(QResizeEvent* event)
-{
-    QTreeView::resizeEvent(event);
-    FitDescription();
-}
-
 QString cEntryTree::LayoutText() const
 {
-    cListLayout layout;
-    for (int visual = 0; visual < header()->count(); ++visual) {
-        const int column = header()->logicalIndex(visual);
-        const bool isFitted = column == cEntryListModel::Description && m_fitsDescription;
-        const bool isHidden = header()->isSectionHidden(column);
-        layout.Columns.push_back({column, isHidden || isFitted ? 0 : header()->sectionSize(column),
-                                  m_isShown.at(static_cast<std::size_t>(column))});
+    cListLayout layout = m_fit->Layout();
+    for (cListLayout::cColumn& column : layout.Columns) {
+        column.IsShown = m_isShown.at(static_cast<std::size_t>(column.Column)); // the balance may just have nothing
     }
-    layout.SortColumn = header()->sortIndicatorSection();
-    layout.IsDescending = header()->sortIndicatorOrder() == Qt::DescendingOrder;
     return layout.ToText();
 }
 
@@ -129,17 +92,10 @@ void cEntryTree::SetLayoutText(const QString& text)
     if (!layout) {
         return;
     }
-    int visual = 0;
-    m_isFitting = true;
+    m_fit->SetLayout(layout);
     for (const cListLayout::cColumn& column : layout->Columns) {
-        header()->moveSection(header()->visualIndex(column.Column), visual++);
-        if (column.Width > 0) {
-            header()->resizeSection(column.Column, column.Width);
-        }
-        m_fitsDescription = m_fitsDescription && (column.Column != cEntryListModel::Description || column.Width == 0);
         m_isShown.at(static_cast<std::size_t>(column.Column)) = column.IsShown;
     }
-    m_isFitting = false;
     ShowColumns();
     sortByColumn(layout->SortColumn, layout->IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }

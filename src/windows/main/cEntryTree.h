@@ -6,6 +6,8 @@
 
 #include <array>
 
+class cColumnFit;
+
 // The entry list on screen: columns that can be chosen, moved and remembered, a selection that survives a rebuild, and
 // a text where there is nothing to show.
 class cEntryTree final : public QTreeView
@@ -30,12 +32,10 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void SetDefaultLayout();
-    void ShowColumns();    // as chosen; the balance only while there is one
-    void FitDescription(); // gives the description what the other columns leave
+    void ShowColumns(); // as chosen; the balance only while there is one
     void ShowColumn(int column, bool isShown);
     void KeepSelection();
     void RestoreSelection();
@@ -45,6 +45,7 @@ private:
     void OpenColumnMenu(const QPoint& globalPosition);
 
     cEntryListModel& m_model;
+    cColumnFit* m_fit;
     QList<cEntryListModel::cKey> m_selected;
     cEntryListModel::cKey m_current;
     cEntryListModel::cKey m_next; // takes the place of the current line when that is gone
@@ -53,6 +54,4 @@ private:
     std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
     bool m_isRebuilding = false;
     bool m_isCurrentInSight = false;
-    bool m_fitsDescription = true; // until the user sets a width
-    bool m_isFitting = false;
 };

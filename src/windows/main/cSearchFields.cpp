@@ -4,13 +4,14 @@
 #include "model/modWord.h"
 #include "windows/widget/cAmountEdit.h"
 #include "windows/widget/cDayEdit.h"
+#include "windows/widget/cFieldGrid.h"
 #include "windows/widget/modBadField.h"
+#include "windows/widget/modDayRange.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
@@ -23,32 +24,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int leastLetters = 20; // in sight of a name that is chosen
+
 constexpr std::array<std::pair<cSearchModel::eAmountRule, const char*>, 4> amountRules{{
     {cSearchModel::eAmountRule::Exactly, QT_TRANSLATE_NOOP("cText", "genau")},
     {cSearchModel::eAmountRule::AtLeast, QT_TRANSLATE_NOOP("cText", "mindestens")},
     {cSearchModel::eAmountRule::AtMost, QT_TRANSLATE_NOOP("cText", "höchstens")},
     {cSearchModel::eAmountRule::Between, QT_TRANSLATE_NOOP("cText", "zwischen")},
 }};
-
-QLabel* MakeLabel(const QString& text, QWidget& field)
-{
-    auto* label = new QLabel(text, field.parentWidget());
-    label->setBuddy(&field);
-    return label;
-}
-
-void Add(QGridLayout& grid, int row, int column, const QString& text, QWidget* field)
-{
-    grid.addWidget(MakeLabel(text, *field), row, column);
-    grid.addWidget(field, row, column + 1);
-}
-
-QHBoxLayout* MakeRow()
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    return row;
-}
 
 // Offers the words after one for no choice; what was chosen stays so if it is still there.
 void Fill(QComboBox& combo, const QString& all, const QStringList& shown, const QStringList& stored)
@@ -117,45 +100,31 @@ void cSearchFields::Build()
     m_category->setInsertPolicy(QComboBox::NoInsert);
     m_category->completer()->setFilterMode(Qt::MatchContains);
     m_category->completer()->setCompletionMode(QCompleter::PopupCompletion);
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
-    Add(*grid, 0, 0, cText::Tr("&Suchtext:"), m_text);
-    grid->addWidget(MakeLabel(cText::Tr("&Zeitraum:"), *m_period), 1, 0);
-    grid->addLayout(BuildPeriod(), 1, 1);
-    grid->addWidget(MakeLabel(cText::Tr("&Betrag:"), *m_amountRule), 2, 0);
-    grid->addLayout(BuildAmount(), 2, 1);
-    grid->setColumnMinimumWidth(2, fontMetrics().averageCharWidth());
-    Add(*grid, 0, 3, cText::Tr("Ka&tegorie:"), m_category);
-    Add(*grid, 1, 3, cText::Tr("&Konto:"), m_account);
-    Add(*grid, 2, 3, cText::Tr("Buchungs&art:"), m_type);
-    grid->addLayout(BuildMarks(), 3, 4); // a line of their own keeps the window narrow enough for a small screen
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(4, 1);
-    const std::array<QWidget*, 12> order{m_text,     m_period,   m_start,   m_end,  m_amountRule,  m_amount,
-                                         m_amountTo, m_category, m_account, m_type, m_isCorrected, m_isFromBank};
+    m_start->setAccessibleName(cText::Tr("Erster Tag des Zeitraums"));
+    m_end->setAccessibleName(cText::Tr("Letzter Tag des Zeitraums"));
+    for (QComboBox* combo : {m_category, m_account, m_type}) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // long names must not widen it
+        combo->setMinimumContentsLength(leastLetters);
+        combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+    constexpr int mostColumns = 2;
+    auto* grid = new cFieldGrid(mostColumns, this);
+    grid->AddField(cText::Tr("&Suchtext:"), m_text);
+    grid->AddField(cText::Tr("Ka&tegorie:"), m_category);
+    grid->AddField(cText::Tr("&Zeitraum:"), m_period);
+    grid->AddField(cText::Tr("&von:"), modDayRange::Make(*m_start, *m_end, this));
+    grid->AddField(cText::Tr("&Betrag:"), BuildAmount());
+    grid->AddField(cText::Tr("&Konto:"), m_account);
+    grid->AddField(cText::Tr("Buchungs&art:"), m_type);
+    grid->AddField(QString(), BuildMarks());
+    const std::array<QWidget*, 12> order{m_text,   m_category, m_period,  m_start, m_end,         m_amountRule,
+                                         m_amount, m_amountTo, m_account, m_type,  m_isCorrected, m_isFromBank};
     for (std::size_t i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
 }
 
-QHBoxLayout* cSearchFields::BuildPeriod()
-{
-    auto* row = MakeRow();
-    row->addWidget(m_period, 1);
-    row->addWidget(MakeLabel(cText::Tr("&von:"), *m_start));
-    row->addWidget(m_start);
-    row->addWidget(MakeLabel(cText::Tr("b&is:"), *m_end));
-    row->addWidget(m_end);
-    for (cDayEdit* edit : {m_start, m_end}) {
-        edit->setMinimumWidth(edit->sizeHint().width());
-    }
-    m_start->setAccessibleName(cText::Tr("Erster Tag des Zeitraums"));
-    m_end->setAccessibleName(cText::Tr("Letzter Tag des Zeitraums"));
-    return row;
-}
-
-QHBoxLayout* cSearchFields::BuildAmount()
+QWidget* cSearchFields::BuildAmount()
 {
     for (const auto& [rule, word] : amountRules) {
         m_amountRule->addItem(cText::Tr(word), static_cast<int>(rule));
@@ -165,21 +134,27 @@ QHBoxLayout* cSearchFields::BuildAmount()
     m_amountToLabel->setBuddy(m_amountTo);
     m_amount->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
     m_amountTo->setMinimumWidth(m_amount->minimumWidth());
-    auto* row = MakeRow();
+    auto* amounts = new QWidget(this);
+    auto* row = new QHBoxLayout(amounts);
+    row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_amountRule);
     row->addWidget(m_amount, 1);
     row->addWidget(m_amountToLabel);
     row->addWidget(m_amountTo, 1);
-    return row;
+    amounts->setFocusProxy(m_amountRule);
+    amounts->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return amounts;
 }
 
-QHBoxLayout* cSearchFields::BuildMarks()
+QWidget* cSearchFields::BuildMarks()
 {
-    auto* row = MakeRow();
+    auto* marks = new QWidget(this);
+    auto* row = new QHBoxLayout(marks);
+    row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_isCorrected);
     row->addWidget(m_isFromBank);
     row->addStretch();
-    return row;
+    return marks;
 }
 
 void cSearchFields::Connect()

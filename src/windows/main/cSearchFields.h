@@ -8,7 +8,6 @@ class cAmountEdit;
 class cDayEdit;
 class QCheckBox;
 class QComboBox;
-class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 
@@ -32,9 +31,8 @@ Q_SIGNALS:
 
 private:
     void Build();
-    QHBoxLayout* BuildPeriod();
-    QHBoxLayout* BuildAmount();
-    QHBoxLayout* BuildMarks();
+    QWidget* BuildAmount();
+    QWidget* BuildMarks();
     void Connect();
     void ShowFields(); // days of the period, second amount
 

@@ -2,9 +2,9 @@
 
 #include "base/cText.h"
 #include "views/main/cMainModel.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modTone.h"
 
-#include <QBoxLayout>
 #include <QLabel>
 
 namespace {
@@ -21,11 +21,11 @@ void Show(QLabel& label, const QString& text, const QColor& color)
 
 cSumBar::cSumBar(QWidget* parent) : QWidget(parent), m_count(new QLabel(this))
 {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(2, 2, 2, 2);
-    layout->setSpacing(6);
-    layout->addWidget(m_count);
-    layout->addStretch(1);
+    m_layout = new cFlowLayout(this);
+    m_layout->setContentsMargins(2, 2, 2, 2);
+    m_layout->setSpacing(6);
+    m_layout->addWidget(m_count);
+    m_layout->AddStretch();
     m_income = AddSum(cText::Tr("Einnahmen:"));
     m_expense = AddSum(cText::Tr("Ausgaben:"));
     m_total = AddSum(cText::Tr("Summe:"));
@@ -40,9 +40,8 @@ QLabel* cSumBar::AddSum(const QString& title)
     value->setFont(font);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value->setAccessibleName(title);
-    layout()->addWidget(name);
-    layout()->addWidget(value);
-    static_cast<QHBoxLayout*>(layout())->addSpacing(12); // the constructor made it one
+    m_layout->AddField(name, value);
+    m_layout->AddGap(12);
     return value;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class cFlowLayout;
 class cMainModel;
 class QLabel;
 
@@ -27,6 +28,7 @@ public:
 private:
     QLabel* AddSum(const QString& title);
 
+    cFlowLayout* m_layout;
     QLabel* m_count;
     QLabel* m_income;
     QLabel* m_expense;

@@ -3,16 +3,18 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/main/cMainModel.h"
+#include "windows/widget/cFieldGrid.h"
+#include "windows/widget/modDayRange.h"
 
 #include <QComboBox>
 #include <QDateEdit>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
+
+constexpr int mostColumns = 3; // of fields with their labels
 
 // A day that no book holds stands for an open side of the period; the field then shows its special text.
 const QDate openDay(1000, 1, 1);
@@ -40,14 +42,6 @@ QDateEdit* MakeDay(QWidget* parent, const QString& name)
     return edit;
 }
 
-void Add(QGridLayout& grid, int row, int column, const QString& text, QWidget* field)
-{
-    auto* label = new QLabel(text, field->parentWidget());
-    label->setBuddy(field);
-    grid.addWidget(label, row, column);
-    grid.addWidget(field, row, column + 1);
-}
-
 void Choose(QComboBox& combo, const QString& stored)
 {
     const QSignalBlocker blocker(combo);
@@ -73,28 +67,20 @@ cViewBar::cViewBar(cMainModel& model, QWidget* parent)
 
 void cViewBar::Build()
 {
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
-    Add(*grid, 0, 0, cText::Tr("&Zeitraum:"), m_period);
-    Add(*grid, 0, 2, cText::Tr("&von:"), m_start);
-    Add(*grid, 0, 4, cText::Tr("b&is:"), m_end);
-    Add(*grid, 1, 0, cText::Tr("&Konto:"), m_account);
-    Add(*grid, 1, 2, cText::Tr("B&uchungsart:"), m_type);
-    Add(*grid, 1, 4, cText::Tr("&Gruppierung:"), m_grouping);
-    auto* label = new QLabel(cText::Tr("&Filter:"), this);
-    label->setBuddy(m_filter);
-    grid->addWidget(label, 0, 6);
-    grid->addWidget(m_filter, 1, 6);
+    auto* grid = new cFieldGrid(mostColumns, this);
+    grid->AddField(cText::Tr("&Zeitraum:"), m_period);
+    grid->AddField(cText::Tr("&von:"), modDayRange::Make(*m_start, *m_end, this));
+    grid->AddField(cText::Tr("B&uchungsart:"), m_type);
+    grid->AddField(cText::Tr("&Konto:"), m_account);
+    grid->AddField(cText::Tr("&Gruppierung:"), m_grouping);
+    grid->AddField(cText::Tr("&Filter:"), m_filter);
     m_filter->setClearButtonEnabled(true);
     m_filter->setPlaceholderText(cText::Tr("Text, Kategorie oder Betrag"));
     connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_filter, &QLineEdit::clear);
-    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 14); // leaves room for the balances on a small screen
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_account->setMinimumContentsLength(14);
-    grid->setColumnStretch(6, 1);
-    const QList<QWidget*> order{m_period, m_start, m_end, m_account, m_type, m_grouping, m_filter};
+    const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }

@@ -27,6 +27,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int accountLetters = 42; // width of the accounts
+constexpr int crampedLetters = 80; // width of a window that is too small for list and accounts
+
+} // namespace
+
 frmMain::frmMain(cMainModel& model, QWidget* parent)
     : QMainWindow(parent),
       m_model(model),
@@ -100,9 +107,8 @@ void frmMain::BuildPages()
     m_splitter->addWidget(m_accounts);
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(1, 1);
-    m_splitter->setChildrenCollapsible(false);
-    const int character = fontMetrics().averageCharWidth();
-    m_splitter->setSizes({character * 42, character * 140});
+    m_splitter->setCollapsible(1, false);
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
     setCentralWidget(m_splitter);
     statusBar()->addPermanentWidget(m_database);
     TakeUsualSize();
@@ -265,6 +271,24 @@ void frmMain::SaveLayout()
     const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
     m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
+}
+
+// The accounts have room for long names in a wide window and leave most of a narrow one to the list; where it has
+// hardly room for itself, they wait at the edge, from where they can be drawn.
+void frmMain::ShareWidth()
+{
+    if (!m_isSplitByHand) {
+        const int character = fontMetrics().averageCharWidth();
+        const bool hasRoom = width() > character * crampedLetters;
+        const int accounts = hasRoom ? qMin(character * accountLetters, width() / 4) : 0;
+        m_splitter->setSizes({accounts, width() - accounts});
+    }
+}
+
+void frmMain::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    ShareWidth();
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

@@ -50,6 +50,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -64,6 +65,7 @@ private:
     void ShowCommands();
     void ResetLayout();
     void TakeUsualSize();
+    void ShareWidth();
     void GoBack();
 
     cMainModel& m_model;
@@ -79,4 +81,5 @@ private:
     cEntryTree* m_tree;
     cSumBar* m_sums;
     QLabel* m_database;
+    bool m_isSplitByHand = false;
 };

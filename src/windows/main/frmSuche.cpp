@@ -5,6 +5,7 @@
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSearchFields.h"
 #include "windows/main/cSumBar.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 #include "windows/widget/modTone.h"
@@ -61,14 +62,14 @@ void frmSuche::Build()
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
 
-QHBoxLayout* frmSuche::BuildButtons()
+QLayout* frmSuche::BuildButtons()
 {
     m_edit->setToolTip(cText::Tr("Öffnet den gewählten Eintrag (Eingabetaste)"));
     m_delete->setToolTip(cText::Tr("Löscht die gewählten Einträge (Entf)"));
-    auto* row = new QHBoxLayout;
+    auto* row = new cFlowLayout;
     row->addWidget(m_edit);
     row->addWidget(m_delete);
-    row->addStretch();
+    row->AddStretch();
     row->addWidget(m_clear);
     row->addWidget(m_close);
     for (QPushButton* button : {m_edit, m_delete, m_clear, m_close}) {

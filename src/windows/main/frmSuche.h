@@ -8,8 +8,8 @@ class cEntryTree;
 class cSearchFields;
 class cSearchModel;
 class cSumBar;
-class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
 
 // The search: fields above, what they find below, with its sums. It stays open beside the main window.
@@ -38,7 +38,7 @@ protected:
 
 private:
     void Build();
-    QHBoxLayout* BuildButtons();
+    QLayout* BuildButtons();
     void Connect();
     void Search();
     void ShowFound();

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace {
 
@@ -24,6 +25,10 @@ cLeftOutBox::cLeftOutBox(cStatementFiles& files, QWidget* parent)
     Build();
     connect(m_stage, &QPushButton::clicked, this, &cLeftOutBox::Stage);
     connect(m_drop, &QPushButton::clicked, &m_files, &cStatementFiles::DropLeftOut);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut(key, m_list, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+                &cLeftOutBox::Stage);
+    }
     connect(m_list, &QListWidget::itemSelectionChanged, this, &cLeftOutBox::ShowButtons);
     connect(&m_files, &cStatementFiles::LeftOutChanged, this, &cLeftOutBox::Fill);
     Fill();
@@ -34,6 +39,7 @@ void cLeftOutBox::Build()
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setUniformItemSizes(true);
     m_list->setAccessibleName(cText::Tr("Nicht übernommene Umsätze"));
+    m_stage->setToolTip(cText::Tr("Übernimmt die markierten Umsätze (Eingabetaste)"));
     m_list->setFixedHeight((fontMetrics().height() + 2) * shownLines + 2 * m_list->frameWidth());
     auto* title = new QLabel(cText::Tr("Nicht übernommen, mit dem Grund:"), this);
     title->setBuddy(m_list);

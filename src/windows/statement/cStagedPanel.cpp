@@ -7,6 +7,7 @@
 #include "windows/statement/cStagedTree.h"
 #include "windows/widget/cActionButton.h"
 #include "windows/widget/cElidedText.h"
+#include "windows/widget/cFlowLayout.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -51,9 +52,9 @@ cStagedPanel::cStagedPanel(cImportReview& review, QWidget* parent)
     ShowView();
 }
 
-QBoxLayout* cStagedPanel::BuildActions()
+cFlowLayout* cStagedPanel::BuildActions()
 {
-    m_bar = new QHBoxLayout;
+    m_bar = new cFlowLayout;
     for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Accept, cStagedActions::Choose,
                                          cStagedActions::Match, cStagedActions::Assign}) {
         QAction* action = m_actions->Get(id);
@@ -62,7 +63,7 @@ QBoxLayout* cStagedPanel::BuildActions()
         m_bar->addWidget(button);
     }
     m_bar->addWidget(BuildMore());
-    m_bar->addStretch();
+    m_bar->AddStretch();
     m_bar->addWidget(m_count);
     return m_bar;
 }
@@ -84,7 +85,7 @@ QPushButton* cStagedPanel::BuildMore()
     return more;
 }
 
-QBoxLayout* cStagedPanel::BuildView()
+cFlowLayout* cStagedPanel::BuildView()
 {
     m_hideOld->setToolTip(
         cText::Tr("Blendet Umsätze aus, die mehr als drei Monate älter sind als der neueste ihres Kontos"));
@@ -96,21 +97,19 @@ QBoxLayout* cStagedPanel::BuildView()
     grouping->setBuddy(m_grouping);
     auto* filter = new QLabel(cText::Tr("Fil&ter:"), this);
     filter->setBuddy(m_filter);
-    auto* bar = new QHBoxLayout;
+    auto* bar = new cFlowLayout;
     bar->addWidget(m_openOnly);
     bar->addWidget(m_hideOld);
-    bar->addSpacing(gap);
-    bar->addWidget(grouping);
-    bar->addWidget(m_grouping);
-    bar->addSpacing(gap);
-    bar->addWidget(filter);
-    bar->addWidget(m_filter, 1);
+    bar->AddGap(gap);
+    bar->AddField(grouping, m_grouping);
+    bar->AddGap(gap);
+    bar->AddField(filter, m_filter);
     return bar;
 }
 
 void cStagedPanel::AddFirst(QPushButton* button)
 {
-    m_bar->insertWidget(0, button);
+    m_bar->InsertFirst(button);
     setTabOrder(button, m_bar->itemAt(1)->widget());
 }
 

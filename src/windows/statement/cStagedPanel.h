@@ -3,11 +3,11 @@
 #include <QWidget>
 
 class cElidedText;
+class cFlowLayout;
 class cImportReview;
 class cStagedActions;
 class cStagedTree;
 class QAction;
-class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -36,8 +36,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    QBoxLayout* BuildActions();
-    QBoxLayout* BuildView();
+    cFlowLayout* BuildActions();
+    cFlowLayout* BuildView();
     QPushButton* BuildMore();
     void Connect();
     void ShowView();
@@ -46,7 +46,7 @@ private:
     cImportReview& m_review;
     cStagedTree* m_tree;
     cStagedActions* m_actions;
-    QBoxLayout* m_bar = nullptr;
+    cFlowLayout* m_bar = nullptr;
     QMenu* m_more;
     QAction* m_showTitle;
     QCheckBox* m_openOnly;

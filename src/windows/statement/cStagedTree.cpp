@@ -3,21 +3,20 @@
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
 #include "views/statement/cStagedListModel.h"
+#include "windows/widget/cColumnFit.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modGroupHead.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QStyle>
-
-#include <array>
 
 namespace {
 
-// Widths in average characters of the font, so that they fit at every font size and scale. A column is never narrower
-// than its title.
-constexpr std::array<int, cStagedListModel::ColumnCount> defaultWidths{11, 14, 26, 18, 13, 11, 25, 11, 22};
+using eKind = cColumnFit::eKind;
+
+const std::vector<cColumnFit::cColumn> columns{
+    {11}, {14, eKind::Day}, {26}, {18}, {13, eKind::Amount}, {11}, {25}, {11}, {22}};
 
 bool IsEnter(const QKeyEvent& event)
 {
@@ -46,14 +45,9 @@ cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(p
     setEditTriggers(DoubleClicked | EditKeyPressed);
     setSortingEnabled(true);
     setAccessibleName(cText::Tr("Liste der Bankumsätze"));
-    header()->setStretchLastSection(false);
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
-    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
-        if (column != cStagedListModel::Purpose) {
-            FitPurpose();
-        }
-    });
+    m_fit = new cColumnFit(*this, columns, cStagedListModel::Purpose);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cStagedTree::RestoreSelection);
     ConnectGroups();
     SetLayoutText({});
@@ -95,63 +89,15 @@ void cStagedTree::SetEmptyText(const QString& title, const QString& hint)
 
 QString cStagedTree::LayoutText() const
 {
-    cListLayout layout;
-    for (int visual = 0; visual < header()->count(); ++visual) {
-        const int column = header()->logicalIndex(visual);
-        const bool isFitted = column == cStagedListModel::Purpose;
-        layout.Columns.push_back({column, isFitted ? 0 : header()->sectionSize(column), true});
-    }
-    layout.SortColumn = header()->sortIndicatorSection();
-    layout.IsDescending = header()->sortIndicatorOrder() == Qt::DescendingOrder;
-    return layout.ToText();
-}
-
-int cStagedTree::DefaultWidth(int column) const
-{
-    const int wanted = defaultWidths.at(static_cast<std::size_t>(column)) * fontMetrics().averageCharWidth();
-    // Without the arrow of the sorted column, which only one of them has: the reason is to be in sight as well.
-    const QString title = m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    const int margins = 2 * (style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header()) + 1);
-    return qMax(wanted, header()->fontMetrics().horizontalAdvance(title) + margins);
-}
-
-void cStagedTree::SetDefaultColumns()
-{
-    for (int column = 0; column < cStagedListModel::ColumnCount; ++column) {
-        header()->moveSection(header()->visualIndex(column), column);
-        header()->resizeSection(column, DefaultWidth(column));
-    }
+    return m_fit->Layout().ToText();
 }
 
 void cStagedTree::SetLayoutText(const QString& text)
 {
-    const cListLayout layout = cListLayout::FromText(text, cStagedListModel::ColumnCount).value_or(cListLayout());
-    m_isFitting = true;
-    SetDefaultColumns();
-    int visual = 0;
-    for (const cListLayout::cColumn& column : layout.Columns) {
-        header()->moveSection(header()->visualIndex(column.Column), visual++);
-        if (column.Width > 0) {
-            header()->resizeSection(column.Column, column.Width);
-        }
-    }
-    m_isFitting = false;
-    FitPurpose();
-    const bool isStored = !layout.Columns.empty();
-    sortByColumn(isStored ? layout.SortColumn : int{cStagedListModel::Date},
-                 layout.IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
-}
-
-void cStagedTree::FitPurpose()
-{
-    if (m_isFitting) {
-        return;
-    }
-    const int others = header()->length() - header()->sectionSize(cStagedListModel::Purpose);
-    m_isFitting = true;
-    header()->resizeSection(cStagedListModel::Purpose,
-                            qMax(DefaultWidth(cStagedListModel::Purpose), viewport()->width() - others));
-    m_isFitting = false;
+    const std::optional<cListLayout> layout = cListLayout::FromText(text, cStagedListModel::ColumnCount);
+    m_fit->SetLayout(layout);
+    sortByColumn(layout ? layout->SortColumn : int{cStagedListModel::Date},
+                 layout && layout->IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 cStagedTree::cLine cStagedTree::LineAt(const QModelIndex& index) const
@@ -326,10 +272,4 @@ void cStagedTree::paintEvent(QPaintEvent* event)
     if (m_model.rowCount() == 0) {
         modEmptyText::Paint(*viewport(), m_emptyTitle, m_emptyHint);
     }
-}
-
-void cStagedTree::resizeEvent(QResizeEvent* event)
-{
-    QTreeView::resizeEvent(event);
-    FitPurpose();
 }

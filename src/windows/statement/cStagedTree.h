@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QTreeView>
 
+class cColumnFit;
 class cStagedListModel;
 
 // The list of bank transactions: keys, columns, groups and the text of its empty state.
@@ -37,7 +38,6 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     // A line as it is found again after the model was rebuilt: a row, or the head of a group.
@@ -58,9 +58,6 @@ private:
     };
 
     void ConnectGroups();
-    void SetDefaultColumns();
-    void FitPurpose(); // the purpose takes the room that the other columns leave
-    [[nodiscard]] int DefaultWidth(int column) const;
     [[nodiscard]] cLine LineAt(const QModelIndex& index) const;
     [[nodiscard]] QModelIndex IndexOf(const cLine& line) const;
     [[nodiscard]] QModelIndex Neighbour(const QModelIndex& index) const;
@@ -70,9 +67,9 @@ private:
     void OpenMenuAtCurrent();
 
     cStagedListModel& m_model;
+    cColumnFit* m_fit;
     QString m_emptyTitle;
     QString m_emptyHint;
     QSet<QString> m_closed; // groups that the user has closed
     cKept m_kept;
-    bool m_isFitting = false;
 };

@@ -2,18 +2,19 @@
 
 #include "base/cText.h"
 #include "views/statement/cStatementListModel.h"
+#include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modTone.h"
 
 #include <QHeaderView>
 
-#include <array>
-
 namespace {
 
-// Widths in average characters of the font; the purpose takes the rest.
-constexpr std::array<int, cStatementListModel::ColumnCount> widths{13, 28, 20, 14, 14, 9, 22};
+using eKind = cColumnFit::eKind;
+
+const std::vector<cColumnFit::cColumn> columns{{13, eKind::Day},    {28}, {20}, {14, eKind::Amount},
+                                               {14, eKind::Amount}, {9},  {22}};
 
 class cStatementDelegate final : public cRowDelegate
 {
@@ -48,12 +49,7 @@ cStatementTree::cStatementTree(cStatementListModel& statement, QWidget* parent)
     setSelectionMode(ExtendedSelection);
     setAccessibleName(cText::Tr("Umsätze des Kontoauszugs"));
     header()->setSectionsMovable(false);
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(cStatementListModel::Purpose, QHeaderView::Stretch);
-    for (int column = 0; column < cStatementListModel::ColumnCount; ++column) {
-        const int width = widths.at(static_cast<std::size_t>(column)) * fontMetrics().averageCharWidth();
-        header()->resizeSection(column, qMax(width, header()->sectionSizeHint(column)));
-    }
+    new cColumnFit(*this, columns, cStatementListModel::Purpose);
 }
 
 void cStatementTree::paintEvent(QPaintEvent* event)

@@ -2,6 +2,9 @@
 
 #include "base/cText.h"
 #include "windows/statement/cImportPreview.h"
+#include "windows/widget/cFieldGrid.h"
+#include "windows/widget/cFlowLayout.h"
+#include "windows/widget/cFormScroll.h"
 #include "windows/widget/modPlace.h"
 #include "windows/widget/modTone.h"
 
@@ -10,7 +13,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -93,20 +95,24 @@ void frmImportAssistent::Build()
     m_leftOut->setTabChangesFocus(true);
     m_leftOut->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_leftOut->setFixedHeight(fontMetrics().lineSpacing() * (shownLeftOut + 1) + 2 * m_leftOut->frameWidth());
-    auto* options = new QHBoxLayout;
+    auto* options = new cFlowLayout;
     options->addWidget(m_duplicates);
-    options->addSpacing(fontMetrics().averageCharWidth() * 3);
+    options->AddGap(fontMetrics().averageCharWidth() * 3);
     options->addWidget(m_payee);
-    options->addStretch();
+    auto* page = new QWidget(this); // all but the buttons scrolls on a small screen
+    auto* form = new QVBoxLayout(page);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->addWidget(m_file);
+    form->addWidget(m_format);
+    form->addWidget(m_automatic);
+    form->addLayout(BuildFields());
+    form->addLayout(options);
+    form->addWidget(m_preview, 1);
+    form->addWidget(m_outcome);
+    form->addWidget(m_leftOutLabel);
+    form->addWidget(m_leftOut);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_file);
-    layout->addWidget(m_format);
-    layout->addLayout(BuildFields());
-    layout->addLayout(options);
-    layout->addWidget(m_preview, 1);
-    layout->addWidget(m_outcome);
-    layout->addWidget(m_leftOutLabel);
-    layout->addWidget(m_leftOut);
+    layout->addWidget(new cFormScroll(page, this), 1);
     layout->addWidget(BuildButtons());
     OrderTabs();
 }
@@ -125,13 +131,11 @@ void frmImportAssistent::OrderTabs()
     }
 }
 
-QGridLayout* frmImportAssistent::BuildFields()
+QLayout* frmImportAssistent::BuildFields()
 {
     using eField = cImportAssistant::eField;
-    auto* grid = new QGridLayout;
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(3, 1);
-    grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
+    constexpr int mostColumns = 2;
+    auto* grid = new cFieldGrid(mostColumns);
     BuildAccount(*grid);
     AddField(*grid, eField::Profile, cText::Tr("Bekannter &Aufbau:"));
     BuildHeaderLine(*grid);
@@ -144,39 +148,37 @@ QGridLayout* frmImportAssistent::BuildFields()
     return grid;
 }
 
-void frmImportAssistent::BuildAccount(QGridLayout& grid)
+void frmImportAssistent::BuildAccount(cFieldGrid& grid)
 {
     m_account->setEditable(true);
     m_account->setInsertPolicy(QComboBox::NoInsert);
     m_account->addItems(m_assistant.Accounts());
     m_account->setMinimumContentsLength(24);
     m_account->view()->setItemDelegate(new cAccountDelegate(m_assistant, m_account));
-    grid.addWidget(m_automatic, 0, 0, 1, 4);
-    m_placed = 2;
-    Place(grid, m_accountLabel, m_account);
-    Place(grid, m_bankCodeLabel, m_bankCode);
+    m_account->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_accountLabel->setBuddy(m_account);
+    m_bankCodeLabel->setBuddy(m_bankCode);
+    grid.AddField(m_accountLabel, m_account);
+    grid.AddField(m_bankCodeLabel, m_bankCode);
 }
 
-void frmImportAssistent::BuildHeaderLine(QGridLayout& grid)
+void frmImportAssistent::BuildHeaderLine(cFieldGrid& grid)
 {
     m_header->setSpecialValueText(cText::Tr("keine"));
     m_header->setKeyboardTracking(false);
-    Place(grid, m_headerLabel, m_header);
+    m_headerLabel->setBuddy(m_header);
+    grid.AddField(m_headerLabel, m_header);
 }
 
-void frmImportAssistent::AddField(QGridLayout& grid, cImportAssistant::eField field, const QString& label)
+void frmImportAssistent::AddField(cFieldGrid& grid, cImportAssistant::eField field, const QString& label)
 {
-    m_fields.append({field, new QLabel(label, this), new QComboBox(this)});
-    Place(grid, m_fields.constLast().Label, m_fields.constLast().Box);
-}
-
-// Two fields stand side by side.
-void frmImportAssistent::Place(QGridLayout& grid, QLabel* label, QWidget* field)
-{
-    label->setBuddy(field);
-    grid.addWidget(label, m_placed / 2, m_placed % 2 * 2);
-    grid.addWidget(field, m_placed / 2, m_placed % 2 * 2 + 1);
-    ++m_placed;
+    auto* box = new QComboBox(this);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(24);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_fields.append({field, new QLabel(label, this), box});
+    m_fields.constLast().Label->setBuddy(box);
+    grid.AddField(m_fields.constLast().Label, box);
 }
 
 QDialogButtonBox* frmImportAssistent::BuildButtons()

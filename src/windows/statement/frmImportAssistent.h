@@ -5,12 +5,13 @@
 #include <QDialog>
 #include <QList>
 
+class cFieldGrid;
 class cImportPreview;
 class QCheckBox;
 class QComboBox;
 class QDialogButtonBox;
-class QGridLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -34,11 +35,10 @@ private:
     };
 
     void Build();
-    QGridLayout* BuildFields();
-    void BuildAccount(QGridLayout& grid);
-    void BuildHeaderLine(QGridLayout& grid);
-    void AddField(QGridLayout& grid, cImportAssistant::eField field, const QString& label);
-    void Place(QGridLayout& grid, QLabel* label, QWidget* field);
+    QLayout* BuildFields();
+    void BuildAccount(cFieldGrid& grid);
+    void BuildHeaderLine(cFieldGrid& grid);
+    void AddField(cFieldGrid& grid, cImportAssistant::eField field, const QString& label);
     QDialogButtonBox* BuildButtons();
     void OrderTabs();
     void Connect();
@@ -48,7 +48,6 @@ private:
     void ShowOutcome();
 
     cImportAssistant& m_assistant;
-    int m_placed = 0; // fields in the grid
     QLabel* m_file;
     QLabel* m_format;
     QLabel* m_automatic;

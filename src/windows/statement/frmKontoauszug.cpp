@@ -6,7 +6,10 @@
 #include "windows/main/cSumBar.h"
 #include "windows/statement/cStatementTree.h"
 #include "windows/widget/cDayEdit.h"
+#include "windows/widget/cFieldGrid.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modChoice.h"
+#include "windows/widget/modDayRange.h"
 #include "windows/widget/modPlace.h"
 #include "windows/widget/modTone.h"
 
@@ -14,7 +17,6 @@
 #include <QBoxLayout>
 #include <QClipboard>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -26,17 +28,6 @@
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-QLabel* LabelFor(QWidget& field, const QString& text)
-{
-    auto* label = new QLabel(text, field.parentWidget());
-    label->setBuddy(&field);
-    return label;
-}
-
-} // namespace
 
 frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
     : QDialog(parent),
@@ -70,9 +61,7 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
 void frmKontoauszug::Build()
 {
     auto* layout = new QVBoxLayout(this);
-    auto* grid = new QGridLayout;
-    BuildFields(*grid);
-    layout->addLayout(grid);
+    layout->addLayout(BuildFields());
     layout->addLayout(BuildFinding());
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_sums);
@@ -81,46 +70,27 @@ void frmKontoauszug::Build()
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
 
-void frmKontoauszug::BuildFields(QGridLayout& grid)
+QLayout* frmKontoauszug::BuildFields()
 {
     m_filter->setPlaceholderText(cText::Tr("Wörter, Teile von Wörtern, Betrag oder Datum"));
     m_filter->setClearButtonEnabled(true);
     // A long number must not take the room from the text beside it on a small screen.
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_account->setMinimumContentsLength(20);
-    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addWidget(m_account, 1);
-    row->addWidget(LabelFor(*m_filter, cText::Tr("&Suchtext:")));
-    row->addWidget(m_filter, 1);
-    grid.setHorizontalSpacing(8);
-    grid.addWidget(LabelFor(*m_account, cText::Tr("&Konto:")), 0, 0);
-    grid.addLayout(row, 0, 1);
-    grid.addWidget(LabelFor(*m_period, cText::Tr("&Zeitraum:")), 1, 0);
-    grid.addLayout(BuildPeriod(), 1, 1);
+    m_account->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_start->setAccessibleName(cText::Tr("Erster Tag des Zeitraums"));
+    m_end->setAccessibleName(cText::Tr("Letzter Tag des Zeitraums"));
+    constexpr int mostColumns = 2;
+    auto* grid = new cFieldGrid(mostColumns);
+    grid->AddField(cText::Tr("&Konto:"), m_account);
+    grid->AddField(cText::Tr("&Suchtext:"), m_filter);
+    grid->AddField(cText::Tr("&Zeitraum:"), m_period);
+    grid->AddField(cText::Tr("&von:"), modDayRange::Make(*m_start, *m_end, this));
     const std::array<QWidget*, 6> order{m_account, m_filter, m_period, m_start, m_end, m_tree};
     for (std::size_t i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
-}
-
-QHBoxLayout* frmKontoauszug::BuildPeriod()
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addWidget(m_period);
-    row->addWidget(LabelFor(*m_start, cText::Tr("&von:")));
-    row->addWidget(m_start);
-    row->addWidget(LabelFor(*m_end, cText::Tr("b&is:")));
-    row->addWidget(m_end);
-    row->addStretch();
-    for (cDayEdit* edit : {m_start, m_end}) {
-        edit->setMinimumWidth(edit->sizeHint().width());
-    }
-    m_start->setAccessibleName(cText::Tr("Erster Tag des Zeitraums"));
-    m_end->setAccessibleName(cText::Tr("Letzter Tag des Zeitraums"));
-    return row;
+    return grid;
 }
 
 QHBoxLayout* frmKontoauszug::BuildFinding()
@@ -137,17 +107,17 @@ QHBoxLayout* frmKontoauszug::BuildFinding()
     return row;
 }
 
-QHBoxLayout* frmKontoauszug::BuildButtons()
+QLayout* frmKontoauszug::BuildButtons()
 {
     m_entry->setToolTip(cText::Tr("Öffnet den Eintrag, als der dieser Umsatz gebucht ist (Eingabetaste)"));
     m_copy->setToolTip(cText::Tr("Kopiert die markierten Umsätze, sonst alle (Strg+C)"));
     auto* close = new QPushButton(cText::Tr("Schließen"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
-    auto* row = new QHBoxLayout;
+    auto* row = new cFlowLayout;
     for (QPushButton* button : {m_entry, m_copy, m_print, m_preview, m_export}) {
         row->addWidget(button);
     }
-    row->addStretch();
+    row->AddStretch();
     row->addWidget(close);
     for (QPushButton* button : {m_entry, m_copy, m_print, m_preview, m_export, close}) {
         button->setAutoDefault(false); // Enter belongs to the list

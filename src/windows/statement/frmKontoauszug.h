@@ -10,9 +10,9 @@ class cDayEdit;
 class cSumBar;
 class QComboBox;
 class QFrame;
-class QGridLayout;
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QTreeView;
@@ -34,10 +34,9 @@ Q_SIGNALS:
 
 private:
     void Build();
-    void BuildFields(QGridLayout& grid);
-    QHBoxLayout* BuildPeriod();
+    QLayout* BuildFields();
     QHBoxLayout* BuildFinding();
-    QHBoxLayout* BuildButtons();
+    QLayout* BuildButtons();
     void Offer(); // the accounts and the periods
     void Connect();
     void ChoosePeriod();

@@ -6,6 +6,8 @@
 #include "views/statement/cRuleListModel.h"
 #include "windows/statement/cRuleTree.h"
 #include "windows/widget/cCategoryBox.h"
+#include "windows/widget/cFlowLayout.h"
+#include "windows/widget/cFormScroll.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modChoice.h"
 #include "windows/widget/modPlace.h"
@@ -21,11 +23,13 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSplitter>
 
 namespace {
 
 constexpr int typingPause = 150; // milliseconds without typing
 constexpr int shownExamples = 5;
+constexpr int margin = 4; // beside the line that parts list and form
 
 } // namespace
 
@@ -49,15 +53,19 @@ frmRegeln::frmRegeln(cRuleListModel& rules, QWidget* parent)
     m_description->setObjectName(QStringLiteral("txtBeschreibung"));
     m_trial->setObjectName(QStringLiteral("trial"));
     auto* layout = new QVBoxLayout(this);
-    auto* halves = new QHBoxLayout;
-    auto* list = new QVBoxLayout;
-    auto* form = new QVBoxLayout;
-    halves->addLayout(list, 3);
-    halves->addSpacing(fontMetrics().averageCharWidth());
-    halves->addLayout(form, 2);
-    layout->addLayout(halves, 1);
-    BuildList(*list);
-    BuildForm(*form);
+    auto* halves = new QSplitter(this);
+    auto* list = new QWidget(this);
+    auto* form = new QWidget(this);
+    halves->addWidget(list);
+    halves->addWidget(new cFormScroll(form, this));
+    halves->setChildrenCollapsible(false);
+    halves->setStretchFactor(0, 3);
+    halves->setStretchFactor(1, 2);
+    layout->addWidget(halves, 1);
+    BuildList(*new QVBoxLayout(list));
+    BuildForm(*new QVBoxLayout(form));
+    list->layout()->setContentsMargins(0, 0, margin, 0);
+    form->layout()->setContentsMargins(margin, 0, 0, 0);
     BuildButtons(*layout);
     Connect();
     const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 34);
@@ -89,7 +97,7 @@ QPushButton* frmRegeln::AddButton(QLayout& layout, const QString& text)
 
 void frmRegeln::BuildListButtons(QLayout& layout)
 {
-    auto* row = new QHBoxLayout;
+    auto* row = new cFlowLayout;
     connect(AddButton(*row, cText::Tr("&Neu")), &QPushButton::clicked, this, [this] {
         if (m_rules.Leave()) {
             m_rules.StartNew();
@@ -97,7 +105,7 @@ void frmRegeln::BuildListButtons(QLayout& layout)
         }
     });
     m_delete = AddButton(*row, cText::Tr("&Löschen"));
-    row->addStretch(1);
+    row->AddStretch();
     m_up = AddButton(*row, cText::Tr("Nach &oben"));
     m_down = AddButton(*row, cText::Tr("Nach &unten"));
     connect(m_delete, &QPushButton::clicked, this, [this] { m_rules.Delete(m_rules.Place()); });
@@ -134,7 +142,7 @@ QGroupBox* frmRegeln::BuildResult()
 {
     auto* group = new QGroupBox(cText::Tr("Dann schlage vor"), this);
     auto* form = new QFormLayout(group);
-    m_category->setMinimumContentsLength(24);
+    m_category->setMinimumContentsLength(14);
     m_category->lineEdit()->setPlaceholderText(cText::Tr("wie ohne Regel"));
     form->addRow(cText::Tr("&Kategorie:"), m_category);
     m_interval->addItem(cText::Tr("wie ohne Regel"), QString());

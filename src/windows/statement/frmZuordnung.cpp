@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/statement/cAssignListModel.h"
+#include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modPlace.h"
@@ -16,12 +17,12 @@
 #include <QScreen>
 #include <QTreeView>
 
-#include <array>
-
 namespace {
 
-// Widths in average characters of the font; the last column takes the rest.
-constexpr std::array<int, cAssignListModel::ColumnCount> widths{13, 26, 26, 14, 10, 20};
+using eKind = cColumnFit::eKind;
+
+const std::vector<cColumnFit::cColumn> columns{{13, eKind::Day},    {26}, {26}, {14, eKind::Amount},
+                                               {10, eKind::Amount}, {20}};
 
 class cAssignDelegate final : public cRowDelegate
 {
@@ -67,7 +68,8 @@ frmZuordnung::frmZuordnung(cAssignListModel& list, QWidget* parent)
 {
     setWindowTitle(cText::Tr("Umsatz zuordnen"));
     Build();
-    SetColumns();
+    m_tree->header()->setSectionsMovable(false);
+    new cColumnFit(*m_tree, columns, cAssignListModel::Reason);
     m_tree->setCurrentIndex(m_list.index(m_list.Proposed(), 0));
     m_tree->setFocus();
 }
@@ -128,15 +130,6 @@ QDialogButtonBox* frmZuordnung::BuildButtons()
     connect(buttons, &QDialogButtonBox::accepted, this, &frmZuordnung::Assign);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;
-}
-
-void frmZuordnung::SetColumns()
-{
-    const int character = fontMetrics().averageCharWidth();
-    for (int column = 0; column < cAssignListModel::ColumnCount; ++column) {
-        m_tree->header()->resizeSection(column, widths.at(static_cast<std::size_t>(column)) * character);
-    }
-    m_tree->header()->setSectionsMovable(false);
 }
 
 void frmZuordnung::Assign()

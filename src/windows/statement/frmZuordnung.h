@@ -22,7 +22,6 @@ private:
     QCheckBox* BuildScope();
     QDialogButtonBox* BuildButtons();
     void ShowState();
-    void SetColumns();
     void Assign();
 
     cAssignListModel& m_list;

@@ -4,6 +4,7 @@
 #include "model/modWord.h"
 #include "views/statistics/cStatisticsChart.h"
 #include "windows/chart/cChartBox.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cPeriodPicker.h"
 
 #include <QBoxLayout>
@@ -63,12 +64,10 @@ void cChartPane::Build()
     m_forecast->setAccessibleName(cText::Tr("Vorschau"));
     m_average->setToolTip(cText::Tr("Die Vorschau zieht auch ab, was im Schnitt einmalig ausgegeben wird"));
     const auto row = [](std::initializer_list<QWidget*> widgets) {
-        auto* line = new QHBoxLayout;
-        line->setSpacing(6);
+        auto* line = new cFlowLayout;
         for (QWidget* widget : widgets) {
             line->addWidget(widget);
         }
-        line->addStretch();
         return line;
     };
     auto* layout = new QVBoxLayout(this);

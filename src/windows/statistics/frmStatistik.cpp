@@ -12,6 +12,8 @@
 #include "windows/report/modReportPdf.h"
 #include "windows/statistics/cChartPane.h"
 #include "windows/statistics/cReportTree.h"
+#include "windows/widget/cFieldGrid.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cPeriodPicker.h"
 
 #include <QBoxLayout>
@@ -77,22 +79,15 @@ QWidget* frmStatistik::BuildSelectors()
     for (const eReport type : {eReport::Average, eReport::Sum, eReport::Limit}) {
         m_type->addItem(modReport::ShownName(type), static_cast<int>(type));
     }
-    auto* label = new QLabel(cText::Tr("Berich&t:"), this);
-    label->setBuddy(m_type);
-    auto* periodLabel = new QLabel(cText::Tr("&Zeitraum:"), this);
-    periodLabel->setBuddy(&m_period->Names());
     auto* page = new QWidget(this);
-    auto* first = new QHBoxLayout;
-    first->setSpacing(6);
-    first->addWidget(label);
-    first->addWidget(m_type);
-    first->addSpacing(8);
-    first->addWidget(periodLabel);
-    first->addWidget(m_period, 1);
-    auto* second = new QHBoxLayout;
+    constexpr int mostColumns = 2;
+    auto* first = new cFieldGrid(mostColumns);
+    first->AddField(cText::Tr("Berich&t:"), m_type);
+    first->AddField(cText::Tr("&Zeitraum:"), m_period);
+    auto* second = new cFlowLayout;
     second->addWidget(m_byAmount);
     second->addWidget(m_gross);
-    second->addStretch();
+    second->AddStretch();
     second->addWidget(m_save);
     second->addWidget(m_print);
     auto* rows = new QVBoxLayout(page);
@@ -125,8 +120,8 @@ QWidget* frmStatistik::BuildReportPage()
     split->addWidget(m_report);
     split->setStretchFactor(1, 1);
     split->setChildrenCollapsible(false);
-    const int character = fontMetrics().averageCharWidth();
-    split->setSizes({character * 44, character * 110});
+    split->setStretchFactor(0, 2); // the report needs more of a narrow page than the tree of its figures
+    split->setStretchFactor(1, 3);
     m_hint->setWordWrap(true);
     m_hint->setContentsMargins(8, 4, 8, 6);
     auto* page = new QWidget(this);

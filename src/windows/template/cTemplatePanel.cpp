@@ -222,7 +222,7 @@ void cTemplatePanel::ShowRows(const cTemplateNode* node)
     const bool isMain = node != nullptr && node->Kind == eTemplateNode::Main;
     const bool isAccount = node != nullptr && node->Kind == eTemplateNode::Account;
     const bool isCategory = node != nullptr && !isAccount;
-    SetText(m_limit, isAccount ? cText::Tr("Kontol&imit:") : cText::Tr("&Monatslimit:"));
+    SetText(m_limit, isAccount ? cText::Tr("Kontoli&mit:") : cText::Tr("&Monatslimit:"));
     m_limit->setToolTip(
         isAccount ? cText::Tr("Fällt der Kontostand in den nächsten 60 Tagen darunter, warnt die Kontenliste.")
                   : QString());
@@ -287,7 +287,8 @@ void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNo
     m_hint->setText(manager.Hint(*node));
     const bool isOfAccounts = node->IsOfAccounts();
     m_numbersHint->setText(isOfAccounts ? manager.NumbersHint() : QString());
-    m_numbersHint->setMinimumHeight(m_numbersHint->heightForWidth(m_numbers->width())); // a form cuts wrapped lines
+    // A form cuts wrapped lines; a text that is empty answers -1.
+    m_numbersHint->setMinimumHeight(qMax(0, m_numbersHint->heightForWidth(m_numbers->width())));
     if (const std::optional<cTemplateFields> fields = manager.Load(*node)) {
         ShowFields(*node, *fields, isOfAccounts ? manager.Groups() : manager.Mains());
         m_name->setEnabled(!manager.IsNameFixed(*node));

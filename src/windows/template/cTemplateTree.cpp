@@ -1,6 +1,7 @@
 #include "windows/template/cTemplateTree.h"
 
 #include "views/list/cListLayout.h"
+#include "windows/widget/cColumnFit.h"
 #include "windows/widget/modTone.h"
 
 #include <QHeaderView>
@@ -9,8 +10,19 @@
 
 namespace {
 
-constexpr int leastWidth = 16; // in average characters; the names take what is left
-constexpr int margin = 3;
+constexpr int width = 16;     // of a column, in average characters
+constexpr int nameWidth = 30; // at least, where there is room; the names take what is left
+
+std::vector<cColumnFit::cColumn> ColumnsOf(const cTemplateTreeModel& model)
+{
+    std::vector<cColumnFit::cColumn> columns{{nameWidth}};
+    for (int column = 1; column < model.columnCount(); ++column) {
+        const int alignment = model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+        const bool isAmount = (alignment & Qt::AlignRight) != 0;
+        columns.push_back({width, isAmount ? cColumnFit::eKind::Amount : cColumnFit::eKind::Text});
+    }
+    return columns;
+}
 
 class cTemplateDelegate final : public QStyledItemDelegate
 {
@@ -45,8 +57,7 @@ cTemplateTree::cTemplateTree(cTemplateTreeModel& model, QWidget* parent) : QTree
     setAllColumnsShowFocus(true);
     setAlternatingRowColors(true);
     header()->setSectionsMovable(false);
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_fit = new cColumnFit(*this, ColumnsOf(m_model), 0);
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cTemplateTree::Keep);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cTemplateTree::Restore);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
@@ -140,23 +151,16 @@ void cTemplateTree::OpenThese(const QStringList& names)
 
 cTreeLayout cTemplateTree::Layout() const
 {
-    cListLayout columns;
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        columns.Columns.push_back({column, header()->sectionSize(column), true});
-    }
-    return {columns.ToText(), OpenBranches()};
+    return {m_fit->Layout().ToText(), OpenBranches()};
 }
 
 void cTemplateTree::SetLayout(const cTreeLayout& layout)
 {
-    const std::optional<cListLayout> columns = cListLayout::FromText(layout.Columns, m_model.columnCount());
-    for (int column = 1; column < m_model.columnCount(); ++column) {
-        const int width = columns ? columns->Columns.at(static_cast<size_t>(column)).Width : 0;
-        const QString title = m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int character = fontMetrics().averageCharWidth();
-        const int usual = qMax(leastWidth * character, fontMetrics().horizontalAdvance(title) + margin * character);
-        header()->resizeSection(column, width > 0 ? width : usual);
+    std::optional<cListLayout> columns = cListLayout::FromText(layout.Columns, m_model.columnCount());
+    if (columns && columns->Letter == 0) {
+        columns->Columns.front().Width = 0; // older layouts hold what the names just happened to get
     }
+    m_fit->SetLayout(columns);
     if (columns) {
         OpenThese(layout.Open);
     }

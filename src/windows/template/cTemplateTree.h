@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class cColumnFit;
+
 // The tree of categories or of accounts. It keeps the selected line and the open branches while the model is rebuilt.
 class cTemplateTree final : public QTreeView
 {
@@ -35,6 +37,7 @@ private:
     void OpenThese(const QStringList& names);
 
     cTemplateTreeModel& m_model;
+    cColumnFit* m_fit;
     QStringList m_open; // while the model is rebuilt
     std::optional<cTemplateNode> m_current;
     QPoint m_place; // row among its siblings, and row of its branch

@@ -4,6 +4,8 @@
 #include "windows/template/cTemplatePanel.h"
 #include "windows/template/cTemplateTree.h"
 #include "windows/widget/cActionButton.h"
+#include "windows/widget/cFlowLayout.h"
+#include "windows/widget/cFormScroll.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 
@@ -80,13 +82,12 @@ void frmKategorie::BuildActions()
         MakeAction(u"runter"_s, cText::Tr("Nach &unten"), Qt::ALT | Qt::Key_Down, [this] { Move(eDirection::Down); });
 }
 
-QBoxLayout* frmKategorie::BuildBar()
+QLayout* frmKategorie::BuildBar()
 {
-    auto* bar = new QHBoxLayout;
+    auto* bar = new cFlowLayout;
     for (QAction* action : {m_add, m_addMain, m_merge, m_delete, m_up, m_down}) {
         bar->addWidget(new cActionButton(action, this));
     }
-    bar->addStretch();
     return bar;
 }
 
@@ -98,7 +99,7 @@ void frmKategorie::BuildLayout()
     const int character = fontMetrics().averageCharWidth();
     auto* splitter = new QSplitter(this);
     splitter->addWidget(m_tabs);
-    splitter->addWidget(m_panel);
+    splitter->addWidget(new cFormScroll(m_panel, this));
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({character * treeWidth, character * panelWidth});
     splitter->setChildrenCollapsible(false);

@@ -10,7 +10,7 @@
 class cTemplatePanel;
 class cTemplateTree;
 class QAction;
-class QBoxLayout;
+class QLayout;
 class QTabWidget;
 
 // Categories and accounts: the trees on the left, the fields of the selected line on the right. What was typed is saved
@@ -34,7 +34,7 @@ private:
     void BuildActions();
     QAction* MakeAction(const QString& icon, const QString& text, const QKeySequence& key,
                         const std::function<void()>& run);
-    QBoxLayout* BuildBar();
+    QLayout* BuildBar();
     void BuildLayout();
     void Connect();
 

@@ -3,9 +3,9 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/statistics/cStatisticsPeriod.h"
+#include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modChoice.h"
 
-#include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
 #include <QLocale>
@@ -19,9 +19,7 @@ cPeriodPicker::cPeriodPicker(QWidget* parent)
       m_last(MakeMonths(cText::Tr("Letzter Monat"))),
       m_year(new QSpinBox(this))
 {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(6);
+    m_layout = new cFlowLayout(this);
     modChoice::AddWords(*m_name, modWord::Periods());
     m_name->setMaxVisibleItems(m_name->count());
     m_name->setAccessibleName(cText::Tr("Zeitraum"));
@@ -29,11 +27,11 @@ cPeriodPicker::cPeriodPicker(QWidget* parent)
     m_year->setSpecialValueText(QStringLiteral("–")); // an open end
     m_year->setKeyboardTracking(false);
     m_year->setAccessibleName(cText::Tr("Jahr"));
-    layout->addWidget(m_name);
+    setFocusProxy(m_name);
+    m_layout->addWidget(m_name);
     Add(cText::Tr("von"), m_first);
     Add(cText::Tr("bis"), m_last);
-    layout->addWidget(m_year);
-    layout->addStretch();
+    m_layout->addWidget(m_year);
     connect(m_name, &QComboBox::activated, this, [this] { Q_EMIT PeriodChosen(m_name->currentData().toString()); });
     connect(m_first, &QComboBox::activated, this, [this](int index) { Q_EMIT FirstMonthChosen(index + 1); });
     connect(m_last, &QComboBox::activated, this, [this](int index) { Q_EMIT LastMonthChosen(index + 1); });
@@ -54,8 +52,7 @@ QComboBox* cPeriodPicker::MakeMonths(const QString& name)
 
 void cPeriodPicker::Add(const QString& text, QWidget* field)
 {
-    layout()->addWidget(new QLabel(text, this));
-    layout()->addWidget(field);
+    m_layout->AddField(new QLabel(text, this), field);
 }
 
 void cPeriodPicker::ShowPeriod(const cStatisticsPeriod& period, const modPeriod::cRange& range)

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class cFlowLayout;
 class QComboBox;
 class QLabel;
 class QSpinBox;
@@ -19,7 +20,6 @@ public:
 
     // Sets everything without telling anybody. `range`: the days of the period.
     void ShowPeriod(const cStatisticsPeriod& period, const modPeriod::cRange& range);
-    [[nodiscard]] QComboBox& Names() { return *m_name; } // for a label
 
 Q_SIGNALS:
     void PeriodChosen(const QString& name); // stored word
@@ -31,6 +31,7 @@ private:
     [[nodiscard]] QComboBox* MakeMonths(const QString& name);
     void Add(const QString& text, QWidget* field);
 
+    cFlowLayout* m_layout;
     QComboBox* m_name;
     QComboBox* m_first;
     QComboBox* m_last;

@@ -2,9 +2,10 @@
 
 #include "windows/widget/modTone.h"
 
-QSize cRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const
+QSize cRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return {120, RowHeight(option.fontMetrics)};
+    const int text = option.fontMetrics.horizontalAdvance(index.data().toString());
+    return {text + 2 * option.fontMetrics.averageCharWidth(), RowHeight(option.fontMetrics)};
 }
 
 void cRowDelegate::SetTone(QStyleOptionViewItem& option, int tone)

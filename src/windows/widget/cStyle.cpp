@@ -19,3 +19,16 @@ QIcon cStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, cons
     default: return QProxyStyle::standardIcon(icon, option, widget);
     }
 }
+
+void cStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                         const QWidget* widget) const
+{
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element != CE_HeaderLabel || header == nullptr) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionHeader elided = *header;
+    elided.text = header->fontMetrics.elidedText(header->text, Qt::ElideRight, header->rect.width());
+    QProxyStyle::drawControl(element, &elided, painter, widget);
+}

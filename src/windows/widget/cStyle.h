@@ -10,8 +10,13 @@ class cStyle final : public QProxyStyle
     Q_OBJECT
 
 public:
+    using QProxyStyle::QProxyStyle;
+
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* more) const override;
     [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                                      const QWidget* widget) const override;
+    // Titles of narrow columns end in "…" like the texts below them.
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
 };

@@ -1,0 +1,46 @@
+#include "views/list/modColumnWidth.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+// Takes what is lacking from the widths, by their share of what they have above `bounds`; what is lacking still.
+int Shrink(QList<int>& widths, const QList<int>& bounds, int lacking)
+{
+    int above = 0;
+    for (qsizetype i = 0; i < widths.size(); ++i) {
+        above += widths.at(i) - bounds.at(i);
+    }
+    const int more = std::max(0, lacking - above);
+    int loss = lacking - more;
+    for (qsizetype i = 0; i < widths.size() && loss > 0; ++i) {
+        const int own = widths.at(i) - bounds.at(i);
+        const int share = static_cast<int>((qint64{loss} * own + above - 1) / above); // the rest is shared anew
+        widths[i] -= share;
+        loss -= share;
+        above -= own;
+    }
+    return more;
+}
+
+} // namespace
+
+QList<int> modColumnWidth::Share(const QList<cColumn>& columns, int rest, int room)
+{
+    QList<int> widths;
+    QList<int> enough;
+    QList<int> least;
+    for (const cColumn& column : columns) {
+        widths.append(std::max(column.Wanted, column.Least));
+        enough.append(std::clamp(column.Enough, column.Least, widths.constLast()));
+        least.append(column.Least);
+    }
+    const int left = room - std::accumulate(widths.begin(), widths.end(), 0);
+    if (left >= 0 && rest >= 0) {
+        widths[rest] += left;
+    } else if (left < 0) {
+        (void)Shrink(widths, least, Shrink(widths, enough, -left));
+    }
+    return widths;
+}

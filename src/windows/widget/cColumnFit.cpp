@@ -1,0 +1,181 @@
+#include "windows/widget/cColumnFit.h"
+
+#include "views/list/modColumnWidth.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QStyle>
+#include <QTreeView>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int leastLetters = 4;   // of a text
+constexpr int enoughLetters = 11; // for a word such as a kind or an interval
+
+} // namespace
+
+cColumnFit::cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest)
+    : QObject(&view),
+      m_view(view),
+      m_columns(std::move(columns)),
+      m_rest(rest),
+      m_wanted(static_cast<qsizetype>(m_columns.size()), 0),
+      m_least(static_cast<qsizetype>(m_columns.size()), 0)
+{
+    QHeaderView& header = *m_view.header();
+    header.setStretchLastSection(false);
+    header.setMinimumSectionSize(Letter() * 2);
+    m_view.viewport()->installEventFilter(this);
+    connect(m_view.model(), &QAbstractItemModel::modelReset, this, [this] {
+        Measure();
+        Fit();
+    });
+    connect(&header, &QHeaderView::sectionResized, this,
+            [this](int column, int /*before*/, int width) { TakeDragged(column, width); });
+    SetLayout(std::nullopt);
+}
+
+int cColumnFit::Letter() const
+{
+    return m_view.fontMetrics().averageCharWidth();
+}
+
+int cColumnFit::Wanted(int column) const
+{
+    const int wanted = m_wanted.at(column);
+    return wanted > 0 ? wanted : m_columns.at(static_cast<std::size_t>(column)).Letters * Letter();
+}
+
+QString cColumnFit::WidestAmount(int column) const
+{
+    const QAbstractItemModel& model = *m_view.model();
+    const QVariant known = model.headerData(column, Qt::Horizontal, modColumnWidth::WidestRole);
+    if (known.isValid()) {
+        return known.toString();
+    }
+    QString widest;
+    const auto look = [&](const QModelIndex& parent, const auto& again) -> void {
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            const QString text = model.index(row, column, parent).data().toString();
+            widest = text.size() > widest.size() ? text : widest;
+            again(model.index(row, 0, parent), again);
+        }
+    };
+    look({}, look);
+    return widest;
+}
+
+// What a day or an amount needs with its margins; the title of such a column is read whole as well.
+int cColumnFit::Least(int column) const
+{
+    const eKind kind = m_columns.at(static_cast<std::size_t>(column)).Kind;
+    if (kind == eKind::Text) {
+        return leastLetters * Letter();
+    }
+    const QString text = kind == eKind::Day ? u"00.00.0000"_s : WidestAmount(column);
+    const int margin = m_view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &m_view) + 1;
+    const int titleMargin = m_view.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, m_view.header()) + 1;
+    const QString title = m_view.model()->headerData(column, Qt::Horizontal).toString();
+    return std::max(m_view.fontMetrics().horizontalAdvance(text) + 2 * margin,
+                    m_view.header()->fontMetrics().horizontalAdvance(title) + 2 * titleMargin)
+        + Letter() / 2; // italics lean over
+}
+
+void cColumnFit::Measure()
+{
+    for (int column = 0; column < m_least.size(); ++column) {
+        m_least[column] = Least(column);
+    }
+}
+
+void cColumnFit::Fit()
+{
+    if (m_isFitting) {
+        return;
+    }
+    const QScopedValueRollback guard(m_isFitting, true);
+    QHeaderView& header = *m_view.header();
+    QList<int> shown;
+    QList<modColumnWidth::cColumn> columns;
+    int rest = -1;
+    for (int column = 0; column < m_wanted.size(); ++column) {
+        if (!header.isSectionHidden(column)) {
+            const bool takesRest = column == m_rest && m_wanted.at(column) == 0;
+            rest = takesRest ? static_cast<int>(shown.size()) : rest;
+            const int least = column == m_dragged ? Wanted(column) : m_least.at(column);
+            columns.append({Wanted(column), enoughLetters * Letter(), least});
+            shown.append(column);
+        }
+    }
+    const QList<int> widths = modColumnWidth::Share(columns, rest, m_view.viewport()->width());
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        header.resizeSection(shown.at(i), widths.at(i));
+    }
+}
+
+void cColumnFit::SetShown(int column, bool isShown)
+{
+    const QScopedValueRollback guard(m_isFitting, true); // the width that it gets then is nobody's wish
+    m_view.header()->setSectionHidden(column, !isShown);
+}
+
+// The column under the mouse gets what it is drawn to, the others give way.
+void cColumnFit::TakeDragged(int column, int width)
+{
+    const bool isByHand = !m_isFitting && m_view.isVisible() && width > 0;
+    if (isByHand) {
+        m_dragged = column;
+        m_wanted[column] = std::max(width, m_least.at(column));
+        Fit();
+        m_dragged = -1;
+    }
+}
+
+void cColumnFit::SetLayout(const std::optional<cListLayout>& layout)
+{
+    QHeaderView& header = *m_view.header();
+    m_wanted.fill(0);
+    for (int column = 0; column < m_wanted.size(); ++column) {
+        header.moveSection(header.visualIndex(column), column);
+    }
+    if (layout) {
+        const cListLayout scaled = layout->ForLetter(Letter());
+        int visual = 0;
+        for (const cListLayout::cColumn& column : scaled.Columns) {
+            header.moveSection(header.visualIndex(column.Column), visual++);
+            m_wanted[column.Column] = column.Width;
+        }
+    }
+    Measure();
+    Fit();
+}
+
+cListLayout cColumnFit::Layout() const
+{
+    const QHeaderView& header = *m_view.header();
+    cListLayout layout;
+    for (int visual = 0; visual < header.count(); ++visual) {
+        const int column = header.logicalIndex(visual);
+        layout.Columns.push_back({column, m_wanted.at(column), !header.isSectionHidden(column)});
+    }
+    layout.SortColumn = header.sortIndicatorSection();
+    layout.IsDescending = header.sortIndicatorOrder() == Qt::DescendingOrder;
+    layout.Letter = Letter();
+    return layout;
+}
+
+bool cColumnFit::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize) {
+        Fit();
+    } else if (event->type() == QEvent::FontChange) {
+        Measure();
+        Fit();
+    }
+    return QObject::eventFilter(watched, event);
+}

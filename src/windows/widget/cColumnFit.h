@@ -1,0 +1,56 @@
+#pragma once
+
+#include "views/list/cListLayout.h"
+
+#include <QList>
+#include <QObject>
+
+#include <optional>
+#include <vector>
+
+class QTreeView;
+
+// Keeps the columns of a list in its width: columns of texts give way before the list has to scroll, days and amounts
+// are never cut, and what is left goes to one column. Widths that the user drags are kept as what he wants, also while
+// the window is too narrow for them.
+class cColumnFit final : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class eKind { Text, Day, Amount };
+
+    struct cColumn
+    {
+        int Letters = 0; // width by default, in average letters of the font
+        eKind Kind = eKind::Text;
+    };
+
+    cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest);
+
+    // Order and widths; without a layout those by default. What is shown and sorted is up to the list.
+    void SetLayout(const std::optional<cListLayout>& layout);
+    [[nodiscard]] cListLayout Layout() const;
+
+    void SetShown(int column, bool isShown); // Fit() follows after the last one
+    void Fit();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Measure();
+    void TakeDragged(int column, int width);
+    [[nodiscard]] int Letter() const;
+    [[nodiscard]] int Wanted(int column) const; // pixels
+    [[nodiscard]] int Least(int column) const;
+    [[nodiscard]] QString WidestAmount(int column) const;
+
+    QTreeView& m_view;
+    std::vector<cColumn> m_columns;
+    int m_rest;
+    QList<int> m_wanted; // pixels as set by the user; 0: by default
+    QList<int> m_least;
+    int m_dragged = -1;
+    bool m_isFitting = false;
+};
