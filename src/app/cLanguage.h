@@ -5,6 +5,15 @@
 
 class cShell;
 
+// German names of keys that the toolkit leaves in English: "Strg+Eingabe" instead of "Strg+Return", in menus and hints.
+class cKeyNames final : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* context, const char* source, const char* disambiguation,
+                                    int n) const override;
+};
+
 // The language of the user interface. German is what the program is written in; other languages are catalogues
 // "kontorelle_<code>.qm" beside the program, and the toolkit brings its own texts.
 class cLanguage
@@ -16,4 +25,5 @@ public:
 private:
     QTranslator m_program;
     QTranslator m_toolkit;
+    cKeyNames m_keys;
 };
