@@ -1,10 +1,12 @@
 #include "base/cText.h"
+#include "base/modSum.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cCliTable.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
+#include "core/cAmountFormat.h"
 #include "store/cUndoStep.h"
 #include "views/template/cTemplateManager.h"
 
@@ -121,8 +123,9 @@ int Add(const cCliContext& context)
     cTemplateFields wanted;
     wanted.Type = reader.Kind(call.Value(u"kind"_s));
     wanted.Interval = reader.Interval(call.Value(u"interval"_s));
-    wanted.Amount = call.Value(u"limit"_s);
-    if (reader.Cents(wanted.Amount) < 0) {
+    const qint64 limit = reader.Cents(call.Value(u"limit"_s));
+    wanted.Amount = call.Has(u"limit"_s) ? modSum::ToText(limit, context.Book->Format().Decimal()) : QString();
+    if (limit < 0) {
         reader.Misused(cText::Tr("Ein Monatslimit kann nicht unter null liegen."));
     }
     if (!reader.IsGood()) {

@@ -104,7 +104,6 @@ private:
     [[nodiscard]] std::optional<cTemplateItem> FindCategory(const QString& path) const;
     [[nodiscard]] bool HasMain(const QString& main) const;
     [[nodiscard]] QString Add(cTemplateItem item, const QString& stepName, const QString& name);
-    [[nodiscard]] int LastPriority(const QString& type, const QString& group) const;
     [[nodiscard]] bool WriteOrder(const cTemplateItemList& before, const cTemplateItemList& after);
     [[nodiscard]] QString MainHint(const cTemplateNode& node) const;
     bool TellAccount(bool isDone, const QString& oldName, const QString& newName);

@@ -3,7 +3,6 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modAmount.h"
-#include "base/modSum.h"
 #include "core/cSettings.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
@@ -31,9 +30,9 @@ QString StoredVisible(bool isVisible)
 }
 
 // The limit as it is stored. An amount that reads the same keeps its form.
-QString StoredLimit(const cTemplateItem& item, const QString& text)
+QString StoredLimit(const cTemplateItem& item, const QString& text, eDecimal decimal)
 {
-    const qint64 cents = std::abs(modSum::Evaluate(text).value_or(0));
+    const qint64 cents = std::abs(modSum::Evaluate(text, decimal).value_or(0));
     if (cents == modTemplate::DefaultValueCents(item)) {
         return item.TemplateDefaultValue;
     }
@@ -41,42 +40,42 @@ QString StoredLimit(const cTemplateItem& item, const QString& text)
 }
 
 // The limit of an account may be zero or below: what counts is whether there is one.
-QString StoredAccountLimit(const cTemplateItem& item, const QString& text)
+QString StoredAccountLimit(const cTemplateItem& item, const QString& text, eDecimal decimal)
 {
-    const std::optional<qint64> cents = modSum::Evaluate(text);
+    const std::optional<qint64> cents = modSum::Evaluate(text, decimal);
     if (cents == modForecast::Limit(item)) {
         return item.TemplateDefaultValue;
     }
     return cents ? modAmount::CentsToText(*cents) : QString();
 }
 
-QString ShownAccountLimit(const cTemplateItem& item)
+QString ShownAccountLimit(const cTemplateItem& item, eDecimal decimal)
 {
     const std::optional<qint64> cents = modForecast::Limit(item);
-    return cents ? modSum::ToText(*cents) : QString();
+    return cents ? modSum::ToText(*cents, decimal) : QString();
 }
 
-QString ShownLimit(const cTemplateItem& item)
+QString ShownLimit(const cTemplateItem& item, eDecimal decimal)
 {
     const qint64 cents = modTemplate::DefaultValueCents(item);
-    return cents == 0 ? QString() : modSum::ToText(cents);
+    return cents == 0 ? QString() : modSum::ToText(cents, decimal);
 }
 
 // What a category brings into a new entry.
-void TakeDefaults(cTemplateItem& item, const cTemplateFields& fields)
+void TakeDefaults(cTemplateItem& item, const cTemplateFields& fields, eDecimal decimal)
 {
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
-    item.TemplateDefaultValue = StoredLimit(item, fields.Amount);
+    item.TemplateDefaultValue = StoredLimit(item, fields.Amount, decimal);
     item.TemplateComment = fields.Comment.trimmed();
 }
 
-cTemplateFields DefaultsOf(const cTemplateItem& item)
+cTemplateFields DefaultsOf(const cTemplateItem& item, eDecimal decimal)
 {
     cTemplateFields fields;
     fields.Type = item.EntryType;
     fields.Interval = item.EntryInterval;
-    fields.Amount = ShownLimit(item);
+    fields.Amount = ShownLimit(item, decimal);
     fields.Comment = item.TemplateComment;
     fields.IsVisible = modTemplate::IsVisible(item);
     return fields;
@@ -118,7 +117,7 @@ std::optional<cTemplateFields> cTemplateWriter::Load(const cTemplateNode& node, 
     if (node.Kind == eTemplateNode::Account) {
         return LoadAccount(*item, today);
     }
-    cTemplateFields fields = DefaultsOf(*item);
+    cTemplateFields fields = DefaultsOf(*item, m_decimal);
     fields.Group = modTemplate::GroupOf(*item);
     fields.Name = modTemplate::SubOf(modTemplate::Path(*item));
     return fields;
@@ -135,7 +134,7 @@ cTemplateFields cTemplateWriter::LoadMain(const QString& main) const
         }
         isAnyVisible = isAnyVisible || modTemplate::IsVisible(item);
         if (!fields.IsBookable && modTemplate::Path(item) == main) {
-            fields = DefaultsOf(item);
+            fields = DefaultsOf(item, m_decimal);
             fields.IsBookable = true;
         }
     }
@@ -150,8 +149,8 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
     cTemplateFields fields;
     fields.Name = item.TemplateName;
     fields.Group = item.TemplateCategory;
-    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {})) : QString();
-    fields.Limit = ShownAccountLimit(item);
+    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {}), m_decimal) : QString();
+    fields.Limit = ShownAccountLimit(item, m_decimal);
     fields.Date = start && start->EntryDate.isValid() ? start->EntryDate : today;
     fields.Numbers = cBankNumbers(m_data, m_settings).Of(item.TemplateName).join(u'\n');
     fields.Comment = item.TemplateComment;
@@ -161,8 +160,7 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
 
 bool cTemplateWriter::IsAmount(const QString& text)
 {
-    return text.trimmed().isEmpty() || modSum::Evaluate(text)
-        || Refuse(cText::Tr("'{0}' ist kein Betrag.", {text.trimmed()}));
+    return text.trimmed().isEmpty() || modSum::Evaluate(text, m_decimal) || Refuse(modSum::Fault(text, m_decimal));
 }
 
 std::optional<QString> cTemplateWriter::Save(const cTemplateNode& node, const cTemplateFields& old,
@@ -209,7 +207,7 @@ bool cTemplateWriter::WriteCategory(const cTemplateItem& item, const cTemplateFi
         return false;
     }
     cTemplateItem changed = *stored;
-    TakeDefaults(changed, fields);
+    TakeDefaults(changed, fields, m_decimal);
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
@@ -256,7 +254,7 @@ bool cTemplateWriter::WriteOwn(const cTemplateNode& node, const QString& main, c
         return !own || m_data.DeleteTemplate(own->ID);
     }
     cTemplateItem item = own.value_or(cTemplateItem{});
-    TakeDefaults(item, fields);
+    TakeDefaults(item, fields, m_decimal);
     if (own) {
         return item == *own || m_data.ChangeTemplate(item);
     }
@@ -338,7 +336,7 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const QString& nam
     cTemplateItem changed = *stored;
     changed.TemplateCategory = Cleaned(fields.Group);
     changed.TemplateComment = fields.Comment.trimmed();
-    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit);
+    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit, m_decimal);
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
@@ -350,7 +348,7 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const QString& nam
 bool cTemplateWriter::WriteStartBalance(const QString& account, const cTemplateFields& fields)
 {
     if (!fields.Amount.trimmed().isEmpty()) {
-        return m_data.SetStartGuthaben(account, modSum::Evaluate(fields.Amount).value_or(0), fields.Date);
+        return m_data.SetStartGuthaben(account, modSum::Evaluate(fields.Amount, m_decimal).value_or(0), fields.Date);
     }
     const std::optional<cEntryItem> start = m_data.GetStartGuthaben(account);
     return !start || m_data.DeleteEntry(start->ID);
