@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 namespace {
 
@@ -152,6 +153,7 @@ void cSplitTable::MarkAmount(int line)
         amount->setBackground(modBadField::Color());
         amount->setForeground(Qt::black);
         amount->setToolTip(modSum::Fault(amount->text(), m_decimal));
+        QToolTip::showText(viewport()->mapToGlobal(visualItemRect(amount).bottomLeft()), amount->toolTip(), this);
     }
 }
 

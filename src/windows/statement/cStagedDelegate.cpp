@@ -40,6 +40,7 @@ QWidget* cStagedDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
 QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& index) const
 {
     auto* box = new cCategoryBox(m_suggestions, parent, cCategoryBox::eNew::IsTold);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this] { m_declined.clear(); });
     const int tone = index.data(cStagedListModel::ToneRole).toInt();
     box->SetType(tone == 0 ? QString() : tone == 1 ? modWord::Einnahme : modWord::Ausgabe);
     auto* delegate = const_cast<cStagedDelegate*>(this);
@@ -94,6 +95,10 @@ void cStagedDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*model*
 {
     const auto* box = qobject_cast<cCategoryBox*>(editor);
     if (box != nullptr && !box->UnknownText().isEmpty()) {
+        if (box->UnknownText() == m_declined) {
+            return;
+        }
+        m_declined = box->UnknownText();
         // The question would take the focus from the field, which is at the moment being closed.
         auto* delegate = const_cast<cStagedDelegate*>(this);
         QMetaObject::invokeMethod(

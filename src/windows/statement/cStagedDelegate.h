@@ -16,8 +16,8 @@ public:
     // `intervals` as they are shown.
     cStagedDelegate(cEntrySuggestions& suggestions, QStringList intervals, QObject* parent = nullptr);
 
-    // The next category that is edited starts with this text.
-    void StartWith(const QString& typed) { m_start = typed; }
+    // The next category that is edited starts with this text, and leaving it unchanged asks no more.
+    void StartWith(const QString& typed) { m_start = m_declined = typed; }
 
     [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                         const QModelIndex& index) const override;
@@ -42,4 +42,5 @@ private:
     cEntrySuggestions& m_suggestions;
     QStringList m_intervals;
     mutable QString m_start;
+    mutable QString m_declined; // what was asked about already; leaving a field commits it more than once
 };
