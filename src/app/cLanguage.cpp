@@ -8,12 +8,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QString cLanguage::cGermanKeys::translate(const char* context, const char* text, const char* /*note*/,
-                                          int /*number*/) const
+QString cKeyNames::translate(const char* context, const char* source, const char* /*disambiguation*/, int /*n*/) const
 {
-    const bool isEnter =
-        qstrcmp(context, "QShortcut") == 0 && (qstrcmp(text, "Return") == 0 || qstrcmp(text, "Enter") == 0);
-    return isEnter ? u"Eingabe"_s : QString();
+    const bool isEnter = qstrcmp(source, "Return") == 0 || qstrcmp(source, "Enter") == 0;
+    return isEnter && qstrcmp(context, "QShortcut") == 0 ? u"Eingabe"_s : QString(); // null: ask the next one
 }
 
 void cLanguage::Use(const QString& code, const cShell& shell)
@@ -33,6 +31,6 @@ void cLanguage::Use(const QString& code, const cShell& shell)
         QCoreApplication::installTranslator(&m_toolkit);
     }
     if (!isForeign) {
-        QCoreApplication::installTranslator(&m_keys); // the last one is asked first
+        QCoreApplication::installTranslator(&m_keys); // asked before the toolkit's own
     }
 }

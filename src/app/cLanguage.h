@@ -5,6 +5,15 @@
 
 class cShell;
 
+// German names of keys that the toolkit leaves in English: "Strg+Eingabe" instead of "Strg+Return", in menus and hints.
+class cKeyNames final : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* context, const char* source, const char* disambiguation,
+                                    int n) const override;
+};
+
 // The language of the user interface. German is what the program is written in; other languages are catalogues
 // "kontorelle_<code>.qm" beside the program, and the toolkit brings its own texts.
 class cLanguage
@@ -14,16 +23,7 @@ public:
     void Use(const QString& code, const cShell& shell);
 
 private:
-    // The toolkit's catalogue leaves the German key of that name in English.
-    class cGermanKeys final : public QTranslator
-    {
-    public:
-        [[nodiscard]] bool isEmpty() const override { return false; }
-        [[nodiscard]] QString translate(const char* context, const char* text, const char* note,
-                                        int number) const override;
-    };
-
-    cGermanKeys m_keys;
     QTranslator m_program;
     QTranslator m_toolkit;
+    cKeyNames m_keys;
 };

@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "core/cAmountFormat.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
@@ -163,7 +164,7 @@ void cNavigation::OpenNewEntry()
 
 void cNavigation::OpenEntry(int entryId, QDate day)
 {
-    cSeriesChange series(m_parts.Book.Data(), m_parts.User);
+    cSeriesChange series(m_parts.Book.Data(), m_parts.User, m_parts.Format.Decimal());
     cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
     switch (series.AskWhatToEdit(entryId, day)) {
     case cSeriesChange::eEdit::Nothing: break;
@@ -178,7 +179,7 @@ void cNavigation::OpenEntry(int entryId, QDate day)
 
 void cNavigation::OpenCorrection(int entryId, QDate day)
 {
-    cSeriesChange series(m_parts.Book.Data(), m_parts.User);
+    cSeriesChange series(m_parts.Book.Data(), m_parts.User, m_parts.Format.Decimal());
     const std::optional<cSeriesChange::cPeriodFields> fields = series.StartPeriod(entryId, day);
     if (!fields) {
         BookChanged();

@@ -1,5 +1,6 @@
 #include "base/modSum.h"
 
+#include "base/cText.h"
 #include "base/modAmount.h"
 
 #include <QList>
@@ -28,8 +29,20 @@ bool IsGrouped(const QList<QStringView>& groups)
     return std::all_of(groups.begin() + 1, groups.end(), [](QStringView group) { return group.size() == 3; });
 }
 
+QChar Sign(eDecimal decimal)
+{
+    return decimal == eDecimal::Comma ? u',' : u'.';
+}
+
+// A single sign that could group: before exactly three digits, and no more than three in front of it. Nobody writes
+// "0.125" for one hundred and twenty-five.
+bool MayGroup(QStringView number, QChar sign)
+{
+    return number.count(sign) == 1 && !number.startsWith(u'0') && IsGrouped(number.split(sign));
+}
+
 // The position of the decimal sign, the size of the text when there is none, or -1 when the signs make no number.
-qsizetype DecimalPlace(QStringView number)
+qsizetype DecimalPlace(QStringView number, eDecimal decimal)
 {
     const qsizetype points = number.count(u'.');
     const qsizetype commas = number.count(u',');
@@ -42,18 +55,15 @@ qsizetype DecimalPlace(QStringView number)
     if (points > 0 && commas > 0) {
         return number.count(last) == 1 && IsGrouped(number.left(place).split(other)) ? place : -1;
     }
-    const QList<QStringView> groups = number.split(last);
     if (points + commas > 1) {
-        return IsGrouped(groups) ? number.size() : -1;
+        return IsGrouped(number.split(last)) ? number.size() : -1;
     }
-    // Nobody writes "0.125" for one hundred and twenty-five, nor types an amount to three decimals behind a point.
-    const bool isGroup = last == u'.' && IsGrouped(groups) && !number.startsWith(u'0');
-    return isGroup ? number.size() : place;
+    return last != Sign(decimal) && MayGroup(number, last) ? number.size() : place;
 }
 
-std::optional<double> ReadNumber(QStringView number)
+std::optional<double> ReadNumber(QStringView number, eDecimal decimal)
 {
-    const qsizetype place = DecimalPlace(number);
+    const qsizetype place = DecimalPlace(number, decimal);
     if (place < 0) {
         return std::nullopt;
     }
@@ -71,7 +81,7 @@ std::optional<double> ReadNumber(QStringView number)
 class cSumReader
 {
 public:
-    explicit cSumReader(QStringView text) : m_text(text) {}
+    cSumReader(QStringView text, eDecimal decimal) : m_text(text), m_decimal(decimal) {}
 
     std::optional<double> Read()
     {
@@ -79,6 +89,9 @@ public:
         const bool isWhole = m_isRight && m_at == m_text.size() && std::isfinite(value);
         return isWhole ? std::optional(value) : std::nullopt;
     }
+
+    // One of the numbers that were read may have been meant otherwise.
+    [[nodiscard]] bool HasDoubt() const { return m_hasDoubt; }
 
 private:
     bool Take(QChar c)
@@ -105,7 +118,11 @@ private:
 
     double ReadProduct()
     {
+        const bool hadDoubt = m_hasDoubt;
         double value = ReadFactor();
+        if (m_at < m_text.size() && (m_text[m_at] == u'*' || m_text[m_at] == u'/')) {
+            m_hasDoubt = hadDoubt;
+        }
         while (m_isRight) {
             if (Take(u'*')) {
                 value *= ReadFactor();
@@ -114,6 +131,7 @@ private:
             } else {
                 break;
             }
+            m_hasDoubt = hadDoubt;
         }
         return value;
     }
@@ -141,7 +159,9 @@ private:
         while (m_at < m_text.size() && (IsDigit(m_text[m_at]) || m_text[m_at] == u'.' || m_text[m_at] == u',')) {
             ++m_at;
         }
-        const std::optional<double> value = ReadNumber(m_text.mid(start, m_at - start));
+        const QStringView number = m_text.mid(start, m_at - start);
+        const std::optional<double> value = ReadNumber(number, m_decimal);
+        m_hasDoubt = m_hasDoubt || MayGroup(number, Sign(m_decimal));
         m_isRight = m_isRight && value;
         return value.value_or(0.0);
     }
@@ -149,15 +169,17 @@ private:
     static constexpr int deepest = 50; // parentheses within parentheses
 
     QStringView m_text;
+    eDecimal m_decimal;
     qsizetype m_at = 0;
     int m_depth = 0;
     bool m_isRight = true;
+    bool m_hasDoubt = false;
 };
 
 // Without what is passed over, and with one sign per operation.
 QString Simplified(const QString& text)
 {
-    constexpr QStringView passedOver = u" \u00A0\u202F\u2009\u00A4€\t'\"";
+    constexpr QStringView passedOver = u" \u00A0\u202F\u2009\u00A4€£$\t'\u2019\"";
     QString kept;
     for (const QChar c : text) {
         if (c == u'\u2212' || c == u'\u2013') {
@@ -183,20 +205,50 @@ QString WithSignInFront(const QString& text)
     return hasSign && isPlain ? text.back() + number : text;
 }
 
-} // namespace
+struct cSum
+{
+    std::optional<qint64> Cents;
+    bool IsDoubtful = false;
+};
 
-std::optional<qint64> modSum::Evaluate(const QString& text)
+cSum Read(const QString& text, eDecimal decimal)
 {
     constexpr double limit = 1.0e13; // euros; beyond it cents are no longer exact
     const QString sum = WithSignInFront(Simplified(text));
-    const std::optional<double> value = cSumReader(sum).Read();
+    cSumReader reader(sum, decimal);
+    const std::optional<double> value = reader.Read();
     if (!value || std::abs(*value) > limit) {
-        return std::nullopt;
+        return {};
     }
-    return modAmount::ToCents(*value);
+    return {modAmount::ToCents(*value), reader.HasDoubt()};
 }
 
-QString modSum::ToText(qint64 cents)
+} // namespace
+
+std::optional<qint64> modSum::Evaluate(const QString& text, eDecimal decimal)
 {
-    return modAmount::CentsToText(cents).replace(u'.', u',');
+    const cSum sum = Read(text, decimal);
+    return sum.IsDoubtful ? std::nullopt : sum.Cents;
+}
+
+bool modSum::IsDoubtful(const QString& text, eDecimal decimal)
+{
+    return Read(text, decimal).IsDoubtful;
+}
+
+QString modSum::Fault(const QString& text, eDecimal decimal)
+{
+    const eDecimal other = decimal == eDecimal::Comma ? eDecimal::Point : eDecimal::Comma;
+    const cSum sum = Read(text, decimal);
+    const cSum grouped = Read(text, other);
+    if (sum.IsDoubtful && grouped.Cents) {
+        return cText::Tr("'{0}' ist nicht eindeutig. Bitte schreiben Sie {1} oder {2}.",
+                         {text.trimmed(), ToText(*grouped.Cents, decimal), ToText(*sum.Cents, decimal)});
+    }
+    return cText::Tr("'{0}' ist kein Betrag.", {text.trimmed()});
+}
+
+QString modSum::ToText(qint64 cents, eDecimal decimal)
+{
+    return modAmount::CentsToText(cents).replace(u'.', Sign(decimal));
 }

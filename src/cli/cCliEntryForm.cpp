@@ -86,7 +86,7 @@ void cCliEntryForm::Fill(cEntryFields& fields)
 {
     const cCliCall& call = m_context.Call;
     if (Has("amount")) {
-        fields.Amount = call.Value(u"amount"_s);
+        fields.Amount = modSum::ToText(m_cents, fields.Decimal); // options are German, whatever the book shows
         fields.IsAmountTyped = true;
     }
     if (!m_account.isEmpty()) {
@@ -114,14 +114,15 @@ void cCliEntryForm::FillPart(int id, cEntryFields& fields)
     if (part == fields.Parts.end()) {
         return;
     }
-    const qint64 before = modSum::Evaluate(part->Amount).value_or(0);
+    const qint64 before = modSum::Evaluate(part->Amount, fields.Decimal).value_or(0);
     const qint64 size = std::abs(Has("amount") ? m_cents : before);
     const bool isOpposite = m_kind.isEmpty() ? before < 0 : m_kind != fields.Type;
-    part->Amount = modSplitParts::AmountText(isOpposite ? -size : size);
+    part->Amount = modSplitParts::AmountText(isOpposite ? -size : size, fields.Decimal);
     part->Category = m_category.isEmpty() ? part->Category : m_category;
     part->Description = Has("text") ? m_context.Call.Value(u"text"_s) : part->Description;
-    const qint64 whole = modSum::Evaluate(fields.Amount).value_or(0) - modSplitParts::Rest(fields).value_or(0);
-    fields.Amount = modSum::ToText(whole);
+    const qint64 whole =
+        modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0) - modSplitParts::Rest(fields).value_or(0);
+    fields.Amount = modSum::ToText(whole, fields.Decimal);
     if (m_kind == modWord::Umbuchung) {
         m_reader.Missing(cText::Tr("Ein Teil einer aufgeteilten Buchung kann keine Umbuchung sein."));
     } else if (whole < 0) {
@@ -135,7 +136,7 @@ void cCliEntryForm::FillBalance(cEntryFields& fields)
     if (!others.join(QString()).isEmpty() || Has("end") || Has("text")) {
         m_reader.Misused(cText::Tr("Ein Startguthaben hat nur einen Betrag und einen Tag."));
     }
-    fields.Amount = Has("amount") ? m_context.Call.Value(u"amount"_s) : fields.Amount;
+    fields.Amount = Has("amount") ? modSum::ToText(m_cents, fields.Decimal) : fields.Amount;
     fields.Date = m_day.isValid() ? m_day : fields.Date;
 }
 
@@ -146,7 +147,7 @@ int cCliEntryForm::Add()
     if (fields.Account.isEmpty()) {
         fields.Account = m_editor.Accounts().value(0);
     }
-    if (!Has("amount") && modSum::Evaluate(fields.Amount).value_or(0) == 0) {
+    if (!Has("amount") && modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0) == 0) {
         m_reader.Misused(cText::Tr("Bitte nennen Sie den Betrag mit --amount."));
     }
     return Save(fields, 0);

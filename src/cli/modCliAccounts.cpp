@@ -176,7 +176,7 @@ int Start(const cCliContext& context)
     if (const std::optional<cEntryItem> stored = data.GetStartGuthaben(account); stored && !day.isValid()) {
         day = stored->EntryDate;
     }
-    const cStartBalance balance(data);
+    const cStartBalance balance(data, eDecimal::Comma);
     return modCliFlow::Finish(context, balance.Save(account, cents, day.isValid() ? day : context.Clock.Today()));
 }
 

@@ -1,10 +1,12 @@
 #include "base/cText.h"
+#include "base/modSum.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cCliTable.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
+#include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
 #include "store/cUndoStep.h"
 #include "views/template/cTemplateManager.h"
@@ -114,8 +116,9 @@ int List(const cCliContext& context)
 }
 
 // What the options say a category is to propose; see SetDefaults.
-cTemplateFields Wanted(const cCliCall& call, cCliReader& reader)
+cTemplateFields Wanted(const cCliContext& context, cCliReader& reader)
 {
+    const cCliCall& call = context.Call;
     cTemplateFields wanted;
     wanted.Type = reader.Kind(call.Value(u"kind"_s));
     wanted.Interval = reader.Interval(call.Value(u"interval"_s));
@@ -123,10 +126,16 @@ cTemplateFields Wanted(const cCliCall& call, cCliReader& reader)
     if (call.Has(u"limit"_s) && call.Has(u"amount"_s)) {
         reader.Misused(cText::Tr("--amount und --limit schließen einander aus."));
     }
-    wanted.Amount = call.Value(call.Has(u"amount"_s) ? u"amount"_s : u"limit"_s);
-    if (!IsNone(wanted.Amount) && reader.Cents(wanted.Amount) < 0) {
+    const QString amount = call.Value(call.Has(u"amount"_s) ? u"amount"_s : u"limit"_s);
+    if (amount.isEmpty() || IsNone(amount)) {
+        wanted.Amount = amount;
+        return wanted;
+    }
+    const qint64 cents = reader.Cents(amount);
+    if (cents < 0) {
         reader.Misused(cText::Tr("Betrag und Monatslimit können nicht unter null liegen."));
     }
+    wanted.Amount = modSum::ToText(cents, context.Book->Format().Decimal()); // as the fields of a window would hold it
     return wanted;
 }
 
@@ -177,7 +186,7 @@ int Add(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
-    const cTemplateFields wanted = Wanted(call, reader);
+    const cTemplateFields wanted = Wanted(context, reader);
     if (!reader.IsGood()) {
         return reader.Report();
     }
@@ -197,7 +206,7 @@ int Change(const cCliContext& context)
     const cCliCall& call = context.Call;
     cCliReader reader(context);
     const QString path = reader.Category(call.Arguments().constFirst(), eCliNames::Used);
-    const cTemplateFields wanted = Wanted(call, reader);
+    const cTemplateFields wanted = Wanted(context, reader);
     if (!reader.IsGood()) {
         return reader.Report();
     }

@@ -82,6 +82,14 @@ QString cAmountFormat::Cents(qint64 signedCents) const
     return Currency(signedCents);
 }
 
+eDecimal cAmountFormat::Decimal() const
+{
+    const QString text = Currency(123456); // the library does not tell the signs of its currency texts
+    const qsizetype cents = text.indexOf(u"56"_s);
+    const bool isPoint = cents > 0 ? text.at(cents - 1) == u'.' : text.contains(u',');
+    return isPoint ? eDecimal::Point : eDecimal::Comma;
+}
+
 void cAmountFormat::UseFormatCulture()
 {
     m_formatter = m_makeFormatter(m_configuration.GetSetting(u"LanguageFormat"_s));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/modSum.h"
+
 #include <QString>
 
 #include <functional>
@@ -45,6 +47,9 @@ public:
 
     // The text of an amount in cents, with its own sign.
     [[nodiscard]] QString Cents(qint64 signedCents) const;
+
+    // The sign before the cents in these texts, which is the one that the user types.
+    [[nodiscard]] eDecimal Decimal() const;
 
     // Goes on with the culture of the setting "LanguageFormat" in place of the currency's.
     void UseFormatCulture();

@@ -171,3 +171,36 @@ cTemplateItemList modTemplate::InOrder(cTemplateItemList items)
     });
     return items;
 }
+
+int modTemplate::LastPriority(const cTemplateItemList& items, const QString& type, const QString& group)
+{
+    int last = 0;
+    int lastOfGroup = -1;
+    for (const cTemplateItem& item : items) {
+        if (item.TemplateType != type) {
+            continue;
+        }
+        last = std::max(last, Priority(item));
+        if (GroupOf(item) == group) {
+            lastOfGroup = std::max(lastOfGroup, Priority(item));
+        }
+    }
+    return lastOfGroup >= 0 ? lastOfGroup : last;
+}
+
+cTemplateItem modTemplate::NewCategory(const cTemplateItemList& items, const QString& main, const QString& sub)
+{
+    cTemplateItem item;
+    item.TemplateType = modWord::Kategorie;
+    item.TemplateCategory = CleanName(main.trimmed()).trimmed();
+    item.TemplateName = CleanName(sub.trimmed()).trimmed();
+    const QString group = GroupOf(item);
+    const cTemplateItemList ordered = InOrder(items);
+    const auto neighbour = std::find_if(ordered.begin(), ordered.end(), [&](const cTemplateItem& other) {
+        return !IsAccount(other) && GroupOf(other) == group;
+    });
+    item.EntryType = neighbour == ordered.end() ? modWord::Ausgabe : neighbour->EntryType;
+    item.EntryInterval = modWord::Einmalig;
+    item.TemplatePriority = QString::number(LastPriority(items, modWord::Kategorie, group) + 1);
+    return item;
+}

@@ -82,4 +82,11 @@ namespace modTemplate {
 // first item stands, the main category itself comes before its sub-categories, and equal positions go by name.
 [[nodiscard]] cTemplateItemList InOrder(cTemplateItemList items);
 
+// The highest position among the items of that type in that group, else of that type; 0 when there is none.
+[[nodiscard]] int LastPriority(const cTemplateItemList& items, const QString& type, const QString& group);
+
+// A category with these names, cleaned, at the end of its group. It happens once and is of the kind of its neighbours,
+// else an expense, because most are. Without any name when nothing is left of the two.
+[[nodiscard]] cTemplateItem NewCategory(const cTemplateItemList& items, const QString& main, const QString& sub);
+
 } // namespace modTemplate

@@ -1,4 +1,5 @@
 #include "app/cFileLock.h"
+#include "app/cLanguage.h"
 #include "app/cQtRegistry.h"
 #include "app/cQtShell.h"
 #include "app/cSingleInstance.h"
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void LeftoverLockIsTakenOver();
     void SecondStartRaisesTheFirst();
     void NobodyToRaise();
+    void KeysHaveGermanNames();
     void FiltersForFileDialogs_data();
     void FiltersForFileDialogs();
 
@@ -144,6 +146,14 @@ void testAdapters::SecondStartRaisesTheFirst()
 void testAdapters::NobodyToRaise()
 {
     QVERIFY(!cSingleInstance::RaiseOther(NewFile(u"alone.db"_s)));
+}
+
+void testAdapters::KeysHaveGermanNames()
+{
+    cLanguage language;
+    language.Use(u"de"_s, cQtShell(m_folder.path()));
+    QCOMPARE(QCoreApplication::translate("QShortcut", "Return"), u"Eingabe"_s);
+    QCOMPARE(QCoreApplication::translate("QWizard", "Return"), u"Return"_s);
 }
 
 void testAdapters::FiltersForFileDialogs_data()

@@ -1,6 +1,7 @@
 #include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
+#include "views/entry/modSplitParts.h"
 
 #include <QTest>
 
@@ -27,6 +28,8 @@ class testEntryEditor final : public QObject
 private Q_SLOTS:
     void ChecksInOrder_data();
     void ChecksInOrder();
+    void SaysWhichFieldKeepsItFromBeingBuilt_data();
+    void SaysWhichFieldKeepsItFromBeingBuilt();
     void SaysWhenThereIsNothingToChoose();
     void StoresWhatWasTyped();
     void CategoryFillsOnlyWhatIsOpen();
@@ -39,7 +42,7 @@ private Q_SLOTS:
     void TypedDays();
     void NextEntryKeepsDayAccountAndKind();
     void DescriptionBringsItsLatestUse();
-    void FindsCategories();
+    void AmountsAreTypedAsTheyAreShown();
     void PreviewsSeries_data();
     void PreviewsSeries();
     void StartBalanceHasItsSign();
@@ -58,7 +61,6 @@ void testEntryEditor::ChecksInOrder_data()
     QTest::newRow("kind before account") << QStringList({u"type"_s, u"account"_s})
                                          << u"Bitte erst eine Buchungsart wählen!"_s;
     QTest::newRow("account") << QStringList({u"account"_s}) << u"Bitte erst ein Konto wählen!"_s;
-    QTest::newRow("transfer to nowhere") << QStringList({u"target"_s}) << u"Eintrag konnte nicht erstellt werden!"_s;
 }
 
 void testEntryEditor::ChecksInOrder()
@@ -68,15 +70,48 @@ void testEntryEditor::ChecksInOrder()
     cEntryEditor::cFields fields = Fields();
     fields.Amount = emptied.contains(u"amount"_s) ? u"zwölf"_s : fields.Amount;
     fields.Category = emptied.contains(u"category"_s) ? QString() : fields.Category;
-    fields.Type = emptied.contains(u"type"_s) ? QString()
-        : emptied.contains(u"target"_s)       ? modWord::Umbuchung
-                                              : fields.Type;
+    fields.Type = emptied.contains(u"type"_s) ? QString() : fields.Type;
     fields.Account = emptied.contains(u"account"_s) ? QString() : fields.Account;
 
     cTestBook book;
     cEntryEditor editor(book.Data, book.User, book.Clock);
     QCOMPARE(editor.Save(fields), message.isEmpty() ? cEntryEditor::eSaved::BadAmount : cEntryEditor::eSaved::Refused);
     QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
+    QCOMPARE(book.Data.CountEntries(), 0);
+}
+
+void testEntryEditor::SaysWhichFieldKeepsItFromBeingBuilt_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<QString>("why");
+    using enum eEntrySaved;
+    QTest::newRow("nowhere") << modWord::Umbuchung << QString() << int(BadTarget)
+                             << u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s;
+    QTest::newRow("to itself") << modWord::Umbuchung << u"Girokonto"_s << int(BadTarget)
+                               << u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s;
+    QTest::newRow("ends before it begins")
+        << modWord::Ausgabe << QString() << int(BadEnd)
+        << u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s;
+}
+
+void testEntryEditor::SaysWhichFieldKeepsItFromBeingBuilt()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, target);
+    QFETCH(QString, why);
+    cTestBook book;
+    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor::cFields fields = Fields();
+    fields.Type = type;
+    fields.Target = target;
+    fields.Interval = u"Monatlich"_s;
+    fields.DateText = u"3.5."_s;
+    fields.HasEnd = type == modWord::Ausgabe;
+    fields.EndText = u"2.5."_s;
+    QTEST(int(editor.Save(fields)), "field");
+    QCOMPARE(book.User.Shown, QStringList(u"Eintrag konnte nicht erstellt werden!\n"_s + why));
     QCOMPARE(book.Data.CountEntries(), 0);
 }
 
@@ -243,7 +278,6 @@ void testEntryEditor::TypedDays_data()
     QTest::newRow("blank is the chosen day") << u" "_s << u"+400"_s << int(Saved) << QDate(2026, 3, 10);
     QTest::newRow("no day") << u"bald"_s << QString() << int(BadDate) << QDate();
     QTest::newRow("no last day") << u"3.5."_s << u"nie"_s << int(BadEnd) << QDate();
-    QTest::newRow("ends before it begins") << u"3.5."_s << u"2.5."_s << int(Refused) << QDate();
 }
 
 void testEntryEditor::TypedDays()
@@ -321,32 +355,32 @@ void testEntryEditor::DescriptionBringsItsLatestUse()
     QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Zoo"_s); // without reading the book again
 }
 
-void testEntryEditor::FindsCategories()
+void testEntryEditor::AmountsAreTypedAsTheyAreShown()
 {
     cTestBook book;
-    const cTemplateItemList shipped = book.Data.GetTemplates();
-    for (const cTemplateItem& item : shipped) {
-        QVERIFY(modTemplate::IsAccount(item) || book.Data.DeleteTemplate(item.ID));
-    }
-    const QStringList paths{u"Auto; Bußgeld"_s, u"Bücher"_s, u"Haus; Strom"_s, u"Haus; Müllabfuhr"_s, u"Reise; Büro"_s};
-    for (const QString& path : paths) {
-        cTemplateItem item;
-        item.TemplateType = modWord::Kategorie;
-        item.TemplateCategory = path.section(u"; "_s, 0, 0);
-        item.TemplateName = path.section(u"; "_s, 1);
-        QVERIFY(book.Data.AddNewTemplate(item));
-    }
-    (void)book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haus; Müllabfuhr"_s; });
-    (void)book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Gelöscht"_s; });
-    cEntrySuggestions suggestions(book.Data);
-    QCOMPARE(suggestions.Categories(u"hau"_s), QStringList({u"Haus; Müllabfuhr"_s, u"Haus; Strom"_s}));
-    QCOMPARE(suggestions.Categories(u"BUE"_s), QStringList({u"Bücher"_s, u"Reise; Büro"_s}));
-    QCOMPARE(suggestions.Categories(u"mull haus"_s), QStringList({u"Haus; Müllabfuhr"_s}));
-    QCOMPARE(suggestions.Categories(u"uss"_s), QStringList({u"Auto; Bußgeld"_s}));
-    QCOMPARE(suggestions.Categories({}).value(0), u"Haus; Müllabfuhr"_s);
-    QCOMPARE(suggestions.CategoryMeant(u"haus; strom"_s), u"Haus; Strom"_s);
-    QCOMPARE(suggestions.CategoryMeant(u"strom"_s), u"Haus; Strom"_s);
-    QCOMPARE(suggestions.CategoryMeant(u"Gelöscht"_s), QString());
+    QVERIFY(book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
+    const cAmountFormat british(book.Configuration);
+    cEntryEditor editor(book.Data, book.User, book.Clock, &british);
+    cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
+    QCOMPARE(fields.Amount, u"0.00"_s);
+    fields.Amount = u"1,234"_s;
+    fields.Category = u"Haushalt; Lebensmittel"_s;
+    fields.Type = modWord::Ausgabe;
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    QCOMPARE(book.Data.LoadEntry(editor.SavedId())->EntryValue, 123400);
+    fields = editor.Load(editor.SavedId()).value();
+    QCOMPARE(fields.Amount, u"1234.00"_s);
+    editor.UseSplit(fields);
+    fields.Parts = {{.Category = fields.Category, .Amount = u"1,000"_s},
+                    {.Category = fields.Category, .Amount = u"233.5"_s}};
+    QCOMPARE(modSplitParts::RestText(fields), u"Rest: 0.50"_s);
+    QVERIFY(modSplitParts::FillRest(1, fields));
+    QCOMPARE(fields.Parts.at(1).Amount, u"234.00"_s);
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    QVERIFY(editor.LastSaved().first().contains(u"£1,234.00"));
+
+    QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 150000, QDate(2026, 1, 1)));
+    QCOMPARE(editor.StartBalance(u"Girokonto"_s).Amount, u"1500.00"_s);
 }
 
 void testEntryEditor::PreviewsSeries_data()
@@ -438,6 +472,9 @@ void testEntryEditor::LabelNamesTheCurrency()
     QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"en_US"_s));
     const cAmountFormat american(book.Configuration);
     QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &american).AmountLabel(), u"Betrag ($):"_s);
+    QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"id-ID"_s));
+    const cAmountFormat indonesian(book.Configuration); // rupiah are shown without symbol
+    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &indonesian).AmountLabel(), u"Betrag:"_s);
 }
 
 QTEST_GUILESS_MAIN(testEntryEditor)

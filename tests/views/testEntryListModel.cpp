@@ -64,6 +64,8 @@ private Q_SLOTS:
     void Groups();
     void Finds_data();
     void Finds();
+    void FindsAmountsAsTheyAreTyped_data();
+    void FindsAmountsAsTheyAreTyped();
     void FiltersInOrderAndGroups();
     void FindsAmountsAsShown_data();
     void FindsAmountsAsShown();
@@ -138,6 +140,36 @@ void testEntryListModel::Groups()
     cEntryListModel model(format.Format);
     model.SetContent(Content(), {}, grouping);
     QCOMPARE(Rows(model), groups);
+}
+
+void testEntryListModel::FindsAmountsAsTheyAreTyped_data()
+{
+    QTest::addColumn<QString>("culture");
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("as shown") << u"de-DE"_s << u"1.234,5"_s << 1;
+    QTest::newRow("as in an amount field") << u"de-DE"_s << u"1234,50"_s << 1;
+    QTest::newRow("British") << u"en-GB"_s << u"1,234"_s << 1;
+    QTest::newRow("not British") << u"en-GB"_s << u"1.234"_s << 0;
+    QTest::newRow("apostrophe of the keyboard") << u"de-CH"_s << u"1'234.50"_s << 1;
+}
+
+void testEntryListModel::FindsAmountsAsTheyAreTyped()
+{
+    QFETCH(QString, culture);
+    QFETCH(QString, filter);
+    const cTestFormat book;
+    const cAmountFormat format(book.Configuration,
+                               [&](const QString&) { return cAmountFormat::MakeFormatter(culture); });
+    cEntryListModel model(format);
+    cEntryListModel::cContent content;
+    content.Entries = {Entry(1, QDate(2026, 3, 1), u"Haushalt"_s, 123450)};
+    model.SetContent(content, {}, modWord::KeineGruppierung);
+    QString typed;
+    for (const QChar c : filter) {
+        model.SetFilter(typed += c);
+    }
+    QTEST(model.rowCount(), "rows");
 }
 
 void testEntryListModel::Finds_data()

@@ -303,6 +303,23 @@ private Q_SLOTS:
         QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
     }
 
+    // "auto" and "bar" are part of many words.
+    void ambiguousKeywordsComeLast()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.User.Answers = {eAnswer::Yes};
+        page.Review.AcceptProposals(page.Progress);
+        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"Shell Autohof"_s; });
+        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"GA NR123 Bargeld"_s; });
+        page.Review.View().SetFilter(u"autohof"_s);
+        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Auto; Benzin"_s);
+        page.Review.View().SetFilter(u"bargeld"_s);
+        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Allgemein; Barauszahlung"_s);
+        page.Review.AcceptProposals(page.Progress); // nothing to be booked unseen
+        QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
+    }
+
     void asksBeforeBookingTwice()
     {
         cPage page;

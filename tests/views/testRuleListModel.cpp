@@ -74,6 +74,7 @@ class testRuleListModel final : public QObject
 private Q_SLOTS:
     void Problems_data() const;
     void Problems() const;
+    void OffersAMissingCategory() const;
     void AddsAndChanges() const;
     void Refused() const;
     void LeavingAsks() const;
@@ -99,7 +100,6 @@ void testRuleListModel::Problems_data() const
     QTest::newRow("nothing to set") << Rule(u"rewe"_s, {}) << u"Bitte geben Sie an, was"_s;
     QTest::newRow("mere separators") << Rule(u" | "_s) << u"Der Text ' | ' passt auf jeden"_s;
     QTest::newRow("an alternative of wildcards") << Rule(u"rewe|*?"_s) << u"Der Text 'rewe|*?' passt auf jeden"_s;
-    QTest::newRow("no such category") << Rule(u"rewe"_s, u"Rohrpost"_s) << u"Die Kategorie 'Rohrpost' gibt"_s;
 }
 
 void testRuleListModel::Problems() const
@@ -113,6 +113,24 @@ void testRuleListModel::Problems() const
     QCOMPARE(scene.User.Shown.size(), problem.isEmpty() ? 0 : 1);
     QVERIFY(scene.User.Shown.value(0).startsWith(problem));
     QCOMPARE(list.rowCount(), problem.isEmpty() ? 1 : 0);
+}
+
+void testRuleListModel::OffersAMissingCategory() const
+{
+    cScene scene;
+    cRuleListModel list(scene.Parts());
+    cOwnRule rule = Rule(u"rewe"_s, u"Rohrpost"_s);
+    rule.Sign = eRuleSign::In;
+    list.SetDraft(rule);
+    QVERIFY(!list.Save());
+    QCOMPARE(list.Draft().Category, u"Rohrpost"_s); // what was typed stays
+    scene.User.Answers = {eAnswer::Yes};
+    QVERIFY(list.Save());
+    QCOMPARE(scene.User.Asked.last(), u"Die Kategorie 'Rohrpost' gibt es noch nicht.\nSoll sie angelegt werden?"_s);
+    const cTemplateItemList items = scene.Data.GetTemplates();
+    QVERIFY(std::any_of(items.begin(), items.end(), [](const cTemplateItem& item) {
+        return modTemplate::Path(item) == u"Rohrpost" && item.EntryType == modWord::Einnahme;
+    }));
 }
 
 void testRuleListModel::AddsAndChanges() const

@@ -184,7 +184,20 @@ private Q_SLOTS:
         cScene scene;
         scene.Model.Search(fields);
         QCOMPARE(scene.Model.Entries().rowCount(), rows);
-        QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !cSearchModel::IsAmount(fields.Amount));
+        QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !scene.Model.IsAmount(fields.Amount));
+    }
+
+    void ReadsAmountsAsTheyAreShown()
+    {
+        cScene scene;
+        QVERIFY(scene.Book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
+        scene.Format.CultureChanged();
+        cSearchModel::cFields fields{.AmountRule = cSearchModel::eAmountRule::Exactly, .Amount = u"2,500"_s};
+        scene.Model.Search(fields);
+        QCOMPARE(scene.Model.Entries().rowCount(), 1);
+        fields.Amount = u"2.500"_s;
+        scene.Model.Search(fields);
+        QVERIFY(scene.Model.Hint().contains(u"nicht eindeutig"));
     }
 
     void ReadsTheBookOnlyWhenItHasTo()

@@ -130,6 +130,12 @@ void testSeriesChange::PeriodForm()
     fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
     QCOMPARE(fields.Amount, u"12,50"_s);
     QVERIFY(fields.IsCorrected);
+    cSeriesChange british(book.Data, book.User, eDecimal::Point);
+    fields = british.StartPeriod(id, QDate(2026, 4, 10)).value();
+    QCOMPARE(fields.Amount, u"12.50"_s);
+    fields.Amount = u"1,234"_s;
+    QCOMPARE(british.SavePeriod(fields), cSeriesChange::eSaved::Saved);
+    QCOMPARE(book.Data.GetEntryMods(id).first().EntryValue, 123400);
 }
 
 void testSeriesChange::PageOfCorrections()

@@ -439,6 +439,13 @@ void testTemplateManager::WritesAccountLimits()
     QVERIFY(save(u"7"_s));
     QVERIFY(!save(u"viel"_s));
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"7,00"_s);
+    QVERIFY(scene.Book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
+    scene.Format.CultureChanged();
+    QVERIFY(save(u"1,234"_s));
+    QCOMPARE(scene.Book.Data.FindAccount(u"Bargeld"_s)->TemplateDefaultValue, u"1234.00"_s);
+    QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"1234.00"_s);
+    QVERIFY(!save(u"1.234"_s));
+    QCOMPARE(scene.Book.User.Shown.last(), u"'1.234' ist nicht eindeutig. Bitte schreiben Sie 1234.00 oder 1.23."_s);
 }
 
 void testTemplateManager::AssignsBankNumbers()

@@ -136,6 +136,9 @@ private Q_SLOTS:
     void BadAmountIsRedUntilItIsEdited();
     void SeriesShowsItsNextDays();
     void TransferShowsTheTarget();
+    void EmptiedAmountIsZero();
+    void NewCategoryIsOffered();
+    void NewCategoryOfAPartIsOffered();
     void StaysOpenForTheNextEntry();
     void AsksBeforeTypedContentsAreLost();
     void SplitFromTheKeyboard();
@@ -296,9 +299,69 @@ void testFrmBuchung::TransferShowsTheTarget()
     QVERIFY(scene.Box(u"cboNachKonto"_s).isVisible());
     Key(Qt::Key_Tab);
     QCOMPARE(FocusName(), u"cboNachKonto"_s);
+    scene.Box(u"cboKategorie"_s).setFocus();
+    TypeAndTab(u"lebens"_s);
+    Key(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(FocusName(), u"cboNachKonto"_s);
+    QVERIFY(modBadField::IsMarked(scene.Box(u"cboNachKonto"_s)));
     scene.Box(u"cboBuchungsart"_s).setFocus();
     Key(Qt::Key_Up);
     QVERIFY(!scene.Box(u"cboNachKonto"_s).isVisible());
+}
+
+void testFrmBuchung::EmptiedAmountIsZero()
+{
+    cScene scene;
+    Type(u"5"_s);
+    Key(Qt::Key_Backspace);
+    Key(Qt::Key_Tab);
+    QCOMPARE(scene.Line(u"txtBetrag"_s).text(), u"0,00"_s);
+}
+
+void testFrmBuchung::NewCategoryIsOffered()
+{
+    cScene scene;
+    TypeAndTab(u"5"_s);
+    Type(u"Pony"_s);
+    Key(Qt::Key_Tab); // the offer is never taken by the way
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), u"Pony"_s);
+    QVERIFY(scene.Book.User.Asked.isEmpty());
+    scene.Box(u"cboKategorie"_s).setFocus();
+    Type(u"X"_s);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Return); // declined, and the text stays
+    QCOMPARE(scene.Book.User.Asked.size(), 1);
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), u"PonyX"_s);
+    Key(Qt::Key_Backspace);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Return);
+    QCOMPARE(scene.Box(u"cboKategorie"_s).currentText(), u"Pony"_s);
+    QCOMPARE(scene.Box(u"cboBuchungsart"_s).currentData().toString(), modWord::Ausgabe);
+    Key(Qt::Key_Return);
+    QCOMPARE(scene.Entries().value(0).EntryCategory, u"Pony"_s);
+}
+
+void testFrmBuchung::NewCategoryOfAPartIsOffered()
+{
+    cScene scene;
+    auto& table = scene.Find<cSplitTable>(u"rptSplit"_s);
+    TypeAndTab(u"50"_s);
+    Key(Qt::Key_T, Qt::AltModifier);
+    QTRY_VERIFY(table.isVisible());
+    Type(u"haus"_s); // where others match, too
+    QVERIFY(QApplication::focusWidget() != &table);
+    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    Key(Qt::Key_PageDown);
+    Key(Qt::Key_PageDown);
+    Key(Qt::Key_Return);
+    QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
+    QCOMPARE(table.item(0, cSplitTable::Category)->text(), u"haus"_s);
+    QCOMPARE(table.Parts().first().Category, QString());
+    table.ChooseCell(0, cSplitTable::Description);
+    Key(Qt::Key_Return, Qt::ControlModifier); // asks once more
+    QCOMPARE(table.item(0, cSplitTable::Category)->text(), u"haus"_s);
+    QCOMPARE(scene.Book.User.Asked.size(), 2);
 }
 
 void testFrmBuchung::StaysOpenForTheNextEntry()
@@ -355,7 +418,7 @@ void testFrmBuchung::SplitFromTheKeyboard()
     QTRY_VERIFY(table.isVisible()); // the button goes down and up again
     QVERIFY(!scene.Box(u"cboKategorie"_s).isVisible());
     QCOMPARE(table.Parts().first().Category, u"Haushalt; Lebensmittel"_s);
-    table.ChooseCell(0, cSplitTable::Amount);
+    QVERIFY(table.hasFocus()); // the first part has its category, so its amount comes next
     TypeAndTab(u"30+1,5"_s);
     QCOMPARE(table.item(0, cSplitTable::Amount)->text(), u"31,50"_s);
     QCOMPARE(scene.Find<QLabel>(u"lblRest"_s).text(), u"Rest: 18,50"_s);

@@ -100,12 +100,28 @@ private Q_SLOTS:
         auto* combo = scene.Tree.findChild<QComboBox*>();
         QVERIFY(combo != nullptr && combo->isEditable());
         QTest::keyClicks(combo, u"geschenke"_s);
-        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        QTest::keyClick(combo, Qt::Key_Return);
         // The choice goes to all selected rows.
         QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), scene.Cell(4, cStagedListModel::Category));
         QVERIFY(scene.Cell(4, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
+    }
+
+    void newCategoryIsOffered()
+    {
+        cScene scene;
+        scene.Tree.setCurrentIndex(scene.Review.Rows().index(0, cStagedListModel::Category));
+        QTest::keyClick(&scene.Tree, Qt::Key_F2);
+        const auto editor = [&] { return scene.Tree.findChild<QComboBox*>(); };
+        scene.Book.User.Asked.clear();
+        QTest::keyClicks(editor(), u"Ponyhof"_s);
+        QTest::keyClick(editor(), Qt::Key_Tab); // the user says no, and the text is still there
+        QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
+        QTRY_VERIFY(editor() != nullptr && editor()->currentText() == u"Ponyhof");
+        scene.Book.User.Answers = {eAnswer::Yes};
+        QTest::keyClick(editor(), Qt::Key_Down);
+        QTest::keyClick(editor(), Qt::Key_Down);
+        QTest::keyClick(editor(), Qt::Key_Return);
+        QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), u"Ponyhof"_s);
     }
 
     void enterBooksAGroup()

@@ -51,7 +51,7 @@ QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
     cProposer proposer(m_data, m_hive, m_accounts);
     for (const int rowId : rowIds) {
         if (const std::optional<cImportEntry> row = OpenRow(m_hive, rowId)) {
-            proposals.insert(rowId, proposer.Propose(*row));
+            proposals.insert(rowId, proposer.ProposeBest(*row));
         }
     }
     return proposals;

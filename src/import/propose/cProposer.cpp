@@ -170,3 +170,10 @@ cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
     }
     return proposal;
 }
+
+cProposal cProposer::ProposeBest(const cImportEntry& row)
+{
+    cProposal proposal = Propose(row, eRestriction::Restricted);
+    proposal.IsSure = !proposal.IsDefault;
+    return proposal.IsSure ? proposal : Propose(row);
+}

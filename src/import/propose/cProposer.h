@@ -23,6 +23,10 @@ public:
 
     [[nodiscard]] cProposal Propose(const cImportEntry& row, eRestriction restriction = eRestriction::None);
 
+    // For rows that are to be booked. Whether money comes or goes is known of them, which leaves the keywords that are
+    // part of many words ("bar", "auto") for those of which nothing else is known: a surer rule goes before them.
+    [[nodiscard]] cProposal ProposeBest(const cImportEntry& row);
+
 private:
     struct cKnowledge;
     std::unique_ptr<cKnowledge> m_knowledge;

@@ -20,7 +20,7 @@ bool IsSplit(const cEntryFields& fields)
 
 } // namespace
 
-eEntrySaved cEntryCheck::Check(const cEntryFields& fields)
+eEntrySaved cEntryCheck::Check(cEntryFields& fields)
 {
     if (const eEntrySaved amounts = CheckAmounts(fields); amounts != eEntrySaved::Saved) {
         return amounts;
@@ -31,12 +31,12 @@ eEntrySaved cEntryCheck::Check(const cEntryFields& fields)
 
 eEntrySaved cEntryCheck::CheckAmounts(const cEntryFields& fields)
 {
-    if (!modSum::Evaluate(fields.Amount)) {
+    if (!modSum::Evaluate(fields.Amount, fields.Decimal)) {
         return eEntrySaved::BadAmount;
     }
     for (int row = 0; IsSplit(fields) && row < fields.Parts.size(); ++row) {
         const cSplitPart& part = fields.Parts.at(row);
-        if (!modSplitParts::IsBlank(part) && !modSum::Evaluate(part.Amount)) {
+        if (!modSplitParts::IsBlank(part, fields.Decimal) && !modSum::Evaluate(part.Amount, fields.Decimal)) {
             m_failedPart = row;
             return eEntrySaved::BadPart;
         }
@@ -44,10 +44,13 @@ eEntrySaved cEntryCheck::CheckAmounts(const cEntryFields& fields)
     return eEntrySaved::Saved;
 }
 
-bool cEntryCheck::CheckChoices(const cEntryFields& fields)
+bool cEntryCheck::CheckChoices(cEntryFields& fields)
 {
+    if (!OfferNew(fields)) {
+        return false;
+    }
     if (!HasCategory(fields)) {
-        return Refuse(cEntrySuggestions::VisibleCategories(m_data).isEmpty()
+        return Refuse(cEntrySuggestions::VisibleCategories(m_parts.Data).isEmpty()
                           ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
                           : cText::Tr("Bitte erst eine Kategorie wählen!"));
     }
@@ -57,13 +60,35 @@ bool cEntryCheck::CheckChoices(const cEntryFields& fields)
     return CheckAccount(fields) && (!IsSplit(fields) || CheckParts(fields));
 }
 
+// Categories that are typed and not there yet; false when the user does not want one.
+bool cEntryCheck::OfferNew(cEntryFields& fields)
+{
+    const auto take = [&](QString& path, QString& typed) {
+        if (path.isEmpty() && !typed.isEmpty()) {
+            path = m_parts.Suggestions.OfferNew(typed, fields.Type);
+            typed = path.isEmpty() ? typed : QString();
+        }
+        return typed.isEmpty();
+    };
+    if (!IsSplit(fields)) {
+        return take(fields.Category, fields.CategoryText);
+    }
+    for (int row = 0; row < fields.Parts.size(); ++row) {
+        if (!take(fields.Parts[row].Category, fields.Parts[row].CategoryText)) {
+            m_failedPart = row;
+            return false;
+        }
+    }
+    return true;
+}
+
 bool cEntryCheck::HasCategory(const cEntryFields& fields)
 {
     if (!IsSplit(fields)) {
         return !fields.Category.isEmpty();
     }
-    const auto missing = std::find_if(fields.Parts.begin(), fields.Parts.end(), [](const cSplitPart& part) {
-        return part.Category.isEmpty() && !modSplitParts::IsBlank(part);
+    const auto missing = std::find_if(fields.Parts.begin(), fields.Parts.end(), [&](const cSplitPart& part) {
+        return part.Category.isEmpty() && !modSplitParts::IsBlank(part, fields.Decimal);
     });
     const bool isMissing = missing != fields.Parts.end();
     if (!isMissing && modSplitParts::CountFilled(fields) > 0) {
@@ -76,7 +101,7 @@ bool cEntryCheck::HasCategory(const cEntryFields& fields)
 bool cEntryCheck::CheckAccount(const cEntryFields& fields) const
 {
     return !fields.Account.isEmpty()
-        || Refuse(cEntrySuggestions::VisibleAccounts(m_data).isEmpty()
+        || Refuse(cEntrySuggestions::VisibleAccounts(m_parts.Data).isEmpty()
                       ? cText::Tr("Bitte erst neue Konten anlegen und diese Buchung einordnen!")
                       : cText::Tr("Bitte erst ein Konto wählen!"));
 }
@@ -103,6 +128,6 @@ eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
 
 bool cEntryCheck::Refuse(const QString& text) const
 {
-    m_user.Show(eTone::Exclamation, text);
+    m_parts.User.Show(eTone::Exclamation, text);
     return false;
 }

@@ -1,5 +1,6 @@
 #include "views/entry/cEntryDefaults.h"
 
+#include "base/cVocabulary.h"
 #include "base/modSum.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -10,37 +11,65 @@
 #include <cstdlib>
 #include <utility>
 
+namespace {
+
+// The category of that path; null for a path that only entries know.
+const cTemplateItem* Find(const cTemplateItemList& templates, const QString& path)
+{
+    const auto found = std::find_if(templates.begin(), templates.end(), [&](const cTemplateItem& item) {
+        return !modTemplate::IsAccount(item) && modTemplate::Path(item) == path;
+    });
+    return found == templates.end() ? nullptr : &*found;
+}
+
+// The first of the words that is one; a category may hold a word of the filters, such as "Alle Buchungsarten".
+QString First(const QStringList& words, const cVocabulary& known)
+{
+    const auto first =
+        std::find_if(words.begin(), words.end(), [&](const QString& word) { return known.Contains(word); });
+    return first == words.end() ? QString() : *first;
+}
+
+// Replaces what nobody has chosen.
+void Bring(const QString& word, QString& field, QString& brought)
+{
+    if (field.isEmpty() || field == brought) {
+        field = brought = word;
+    }
+}
+
+} // namespace
+
 void cEntryDefaults::TakeCategory(const QString& path, cEntryFields& fields) const
 {
     fields.Category = path;
-    if (!fields.IsAmountTyped) {
-        fields.Amount = modSum::ToText(0);
-    }
-    TakeTemplate(path, fields);
-}
-
-void cEntryDefaults::TakeTemplate(const QString& path, cEntryFields& fields) const
-{
-    const cTemplateItemList templates = m_data.GetTemplates();
-    const auto chosen = std::find_if(templates.begin(), templates.end(), [&](const cTemplateItem& item) {
-        return !modTemplate::IsAccount(item) && modTemplate::Path(item) == path;
-    });
-    if (chosen == templates.end()) {
+    fields.CategoryText = path.isEmpty() ? fields.CategoryText : QString();
+    TakeOpen({path}, fields);
+    if (fields.IsAmountTyped) {
         return;
     }
+    const cTemplateItemList templates = m_data.GetTemplates();
+    const cTemplateItem* chosen = Find(templates, path);
     // The value of a category is its monthly limit; only where it recurs is it also what will be paid.
-    const qint64 proposed =
-        modRecurrence::IsRecurring(chosen->EntryInterval) ? std::abs(modTemplate::DefaultValueCents(*chosen)) : 0;
-    if (!fields.IsAmountTyped && proposed != 0) {
-        fields.Amount = modSum::ToText(proposed);
+    const bool isProposed = chosen != nullptr && modRecurrence::IsRecurring(chosen->EntryInterval);
+    fields.Amount = modSum::ToText(isProposed ? std::abs(modTemplate::DefaultValueCents(*chosen)) : 0, fields.Decimal);
+}
+
+// Kind and interval, each from the first of the categories that brings one.
+void cEntryDefaults::TakeOpen(const QStringList& paths, cEntryFields& fields) const
+{
+    const cTemplateItemList templates = m_data.GetTemplates();
+    QStringList types;
+    QStringList intervals;
+    for (const QString& path : paths) {
+        if (const cTemplateItem* item = Find(templates, path)) {
+            types.append(item->EntryType);
+            intervals.append(item->EntryInterval);
+        }
     }
-    // A category may hold a word of the filters, such as "Alle Buchungsarten"; that is no kind of entry.
-    if (fields.Type.isEmpty() && modWord::EntryTypes().Contains(chosen->EntryType)) {
-        fields.Type = chosen->EntryType;
-    }
-    if (fields.Interval.isEmpty() && modWord::Intervals().Contains(chosen->EntryInterval)) {
-        fields.Interval = chosen->EntryInterval;
-    }
+    const QString type = First(types, modWord::EntryTypes());
+    Bring(type.isEmpty() ? fields.OpenType : type, fields.Type, fields.BroughtType);
+    Bring(First(intervals, modWord::Intervals()), fields.Interval, fields.BroughtInterval);
 }
 
 void cEntryDefaults::TakePartCategory(qsizetype row, const QString& path, cEntryFields& fields) const
@@ -49,17 +78,20 @@ void cEntryDefaults::TakePartCategory(qsizetype row, const QString& path, cEntry
         return;
     }
     fields.Parts[row].Category = path;
-    // The value of one category says nothing about the whole.
-    const bool isAmountTyped = std::exchange(fields.IsAmountTyped, true);
-    TakeTemplate(path, fields);
-    fields.IsAmountTyped = isAmountTyped;
+    fields.Parts[row].CategoryText.clear();
+    QStringList paths;
+    for (const cSplitPart& part : std::as_const(fields.Parts)) {
+        paths.append(part.Category);
+    }
+    TakeOpen(paths, fields); // but no amount: the value of one category says nothing about the whole
 }
 
 void cEntryDefaults::TakeDescription(const QString& text, cEntrySuggestions& suggestions, cEntryFields& fields) const
 {
     fields.Description = text;
     const cEntrySuggestions::cUse use = suggestions.LatestUse(text);
-    if (fields.Category.isEmpty() && cEntrySuggestions::VisibleCategories(m_data).contains(use.Category)) {
+    if (fields.Category.isEmpty() && fields.CategoryText.isEmpty()
+        && cEntrySuggestions::VisibleCategories(m_data).contains(use.Category)) {
         TakeCategory(use.Category, fields);
     }
     if (!fields.IsAccountChosen && cEntrySuggestions::VisibleAccounts(m_data).contains(use.Account)) {

@@ -3,6 +3,7 @@
 #include "views/entry/cEntryFields.h"
 
 #include <QString>
+#include <QStringList>
 
 class cDataAccess;
 class cEntrySuggestions;
@@ -23,7 +24,7 @@ public:
                              cEntryFields& fields) const;
 
 private:
-    void TakeTemplate(const QString& path, cEntryFields& fields) const;
+    void TakeOpen(const QStringList& paths, cEntryFields& fields) const;
 
     cDataAccess& m_data;
 };

@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "base/modSum.h"
+#include "core/cAmountFormat.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
@@ -25,7 +26,7 @@ cEntryEditor::cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, 
       m_user(user),
       m_clock(clock),
       m_format(format),
-      m_suggestions(data)
+      m_suggestions(data, user)
 {
 }
 
@@ -34,7 +35,8 @@ cEntryEditor::cFields cEntryEditor::Start(const QString& account)
     m_ids.clear();
     m_from = {};
     cFields fields;
-    fields.Amount = modSum::ToText(0);
+    fields.Decimal = Decimal();
+    fields.Amount = modSum::ToText(0, fields.Decimal);
     fields.Date = m_clock.Today();
     fields.Account = account.isEmpty() ? ProposedAccount() : account;
     return fields;
@@ -51,7 +53,7 @@ cEntryEditor::cFields cEntryEditor::StartBalance(const QString& account)
 {
     m_ids.clear();
     m_from = {};
-    cFields fields = cStartBalance(m_data).Show(account.isEmpty() ? Accounts().value(0) : account);
+    cFields fields = cStartBalance(m_data, Decimal()).Show(account.isEmpty() ? Accounts().value(0) : account);
     fields.Date = fields.Date.isValid() ? fields.Date : m_clock.Today();
     return fields;
 }
@@ -60,7 +62,8 @@ cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
 {
     const QDate end = modRecurrence::EffectiveEnd(entry.EntryDateEnd);
     cFields fields;
-    fields.Amount = modSum::ToText(entry.EntryValue);
+    fields.Decimal = Decimal();
+    fields.Amount = modSum::ToText(entry.EntryValue, fields.Decimal);
     fields.IsAmountTyped = true;
     fields.IsAccountChosen = true;
     fields.Description = entry.EntryDescription;
@@ -83,8 +86,8 @@ std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
     }
     m_ids = {id};
     m_from = {};
-    if (cStartBalance(m_data).IsOne(*entry)) {
-        return cStartBalance(m_data).Show(entry->EntryAccount);
+    if (cStartBalance(m_data, Decimal()).IsOne(*entry)) {
+        return cStartBalance(m_data, Decimal()).Show(entry->EntryAccount);
     }
     cFields fields = FieldsOf(*entry);
     const cEntryItemList parts = cSplitGroup(m_data).Parts(*entry);
@@ -129,6 +132,11 @@ QString cEntryEditor::Title(const cFields& fields) const
     return IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten");
 }
 
+eDecimal cEntryEditor::Decimal() const
+{
+    return m_format != nullptr ? m_format->Decimal() : eDecimal::Comma;
+}
+
 QString cEntryEditor::AmountLabel() const
 {
     QString symbol;
@@ -138,7 +146,7 @@ QString cEntryEditor::AmountLabel() const
             symbol.append(c);
         }
     }
-    return cText::Tr("Betrag ({0}):", {symbol});
+    return symbol.isEmpty() ? cText::Tr("Betrag:") : cText::Tr("Betrag ({0}):", {symbol});
 }
 
 QString cEntryEditor::VatText(const cFields& fields) const
@@ -196,6 +204,19 @@ void cEntryEditor::ChoosePartCategory(qsizetype row, const QString& path, cField
     cEntryDefaults(m_data).TakePartCategory(row, path, fields);
 }
 
+void cEntryEditor::OfferPartCategory(qsizetype row, const QString& typed, cFields& fields)
+{
+    if (row < 0 || row >= fields.Parts.size()) {
+        return;
+    }
+    fields.Parts[row].Category.clear();
+    fields.Parts[row].CategoryText = typed;
+    const QString path = m_suggestions.OfferNew(typed, ChosenType(fields));
+    if (!path.isEmpty()) {
+        ChoosePartCategory(row, path, fields);
+    }
+}
+
 void cEntryEditor::ChoosePartDescription(qsizetype row, const QString& text, cFields& fields)
 {
     cEntryDefaults(m_data).TakePartDescription(row, text, m_suggestions, fields);
@@ -206,11 +227,21 @@ void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
     fields.Account = account;
     fields.IsAccountChosen = true;
     if (fields.Face == eEntryFace::StartBalance && !fields.IsAmountTyped) {
-        const cFields stored = cStartBalance(m_data).Show(account);
+        const cFields stored = cStartBalance(m_data, Decimal()).Show(account);
         fields.Amount = stored.Amount;
         fields.Date = stored.Date.isValid() ? stored.Date : fields.Date;
         fields.DateText = stored.Date.isValid() ? QString() : fields.DateText;
     }
+}
+
+QString cEntryEditor::ChosenType(const cFields& fields)
+{
+    return fields.Type == fields.BroughtType ? QString() : fields.Type;
+}
+
+bool cEntryEditor::IsAmountOpen(const cFields& fields)
+{
+    return modSum::Evaluate(fields.Amount, fields.Decimal) == 0;
 }
 
 bool cEntryEditor::ShowsTarget(const cFields& fields)

@@ -59,7 +59,8 @@ public:
 
     [[nodiscard]] bool IsNew() const { return m_ids.isEmpty(); }
     [[nodiscard]] QString Title(const cFields& fields) const; // of the window
-    [[nodiscard]] QString AmountLabel() const;                // "Betrag ({0}):" with the currency's symbol
+    [[nodiscard]] QString AmountLabel() const; // "Betrag ({0}):" with the currency's symbol, if it has one
+    [[nodiscard]] eDecimal Decimal() const;    // how amounts are typed and shown
     // How much VAT the amount includes, where the category knows its rate: "darin 19 % MwSt.: 15,97 €". Else empty.
     [[nodiscard]] QString VatText(const cFields& fields) const;
     // What is said above the start-balance face: that there is none yet, or which one there is.
@@ -72,17 +73,26 @@ public:
     [[nodiscard]] cEntrySuggestions& Suggestions() { return m_suggestions; }
 
     // Takes over what the category proposes: an amount that nobody typed starts at zero again, or at the category's
-    // value where that recurs; kind and interval are filled where they are still open.
+    // value where that recurs; kind and interval are filled where they are still open. What an earlier category brought
+    // is open, and so is what came over from the entry before: it goes when this category brings something else or
+    // nothing.
     void ChooseCategory(const QString& path, cFields& fields) const;
     // A picked proposal brings the category (while none is chosen) and the account (unless the user chose one) of its
     // latest use. Any other text is just the description.
     void ChooseDescription(const QString& text, cFields& fields);
-    // The same for a row of the split table; a row that does not exist is passed over.
+    // The same as ChooseCategory and ChooseDescription for a row of the split table; a row that does not exist is
+    // passed over. Kind and interval of the whole follow the first part whose category brings one.
     void ChoosePartCategory(qsizetype row, const QString& path, cFields& fields) const;
+    // Asks whether the text shall become the part's category; it stands there in any case.
+    void OfferPartCategory(qsizetype row, const QString& typed, cFields& fields);
     void ChoosePartDescription(qsizetype row, const QString& text, cFields& fields);
     // In the start-balance face, shows what is stored for the account, unless an amount was typed.
     void ChooseAccount(const QString& account, cFields& fields) const;
 
+    // The kind that the user has chosen; empty while what stands there is open.
+    [[nodiscard]] static QString ChosenType(const cFields& fields);
+    // True while the amount is still to be typed.
+    [[nodiscard]] static bool IsAmountOpen(const cFields& fields);
     // The target account and its label are there only for a transfer.
     [[nodiscard]] static bool ShowsTarget(const cFields& fields);
     // First and last day, count and next days are there only for a series.
@@ -99,12 +109,14 @@ public:
 
     [[nodiscard]] cPreview Preview(const cFields& fields) const;
 
-    // Checks the fields in their order, shows the message of the first failure, and stores the entry.
-    [[nodiscard]] eSaved Save(const cFields& fields);
+    // Checks the fields in their order, shows the message of the first failure, and stores the entry. A text that names
+    // no category yet becomes one if the user agrees.
+    [[nodiscard]] eSaved Save(cFields fields);
     [[nodiscard]] int FailedPart() const { return m_failedPart; } // the row that BadPart or a missing category is about
     [[nodiscard]] int SavedId() const { return m_savedId; }       // of the entry, or of the first part
 
-    // The fields for the next new entry after one was saved: face, date, account and kind stay.
+    // The fields for the next new entry after one was saved: face, date, account and kind stay. The kind counts as
+    // open, so that the next category brings its own.
     [[nodiscard]] cFields Next(const cFields& saved);
     // What was saved since the editor was opened, newest first, at most five.
     [[nodiscard]] const QStringList& LastSaved() const { return m_lastSaved; }

@@ -30,6 +30,34 @@ bool IsSplit(const cEntryFields& fields)
     return fields.Face == eEntryFace::Split;
 }
 
+// The field because of which no entry can be built, and why.
+struct cFault
+{
+    eEntrySaved Field = eEntrySaved::Refused;
+    QString Why;
+};
+
+std::optional<cFault> FaultOf(const cEntryFields& fields, QDate today)
+{
+    const bool isTransfer = fields.Type == modWord::Umbuchung;
+    if (isTransfer && fields.Target.isEmpty()) {
+        return cFault{eEntrySaved::BadTarget,
+                      cText::Tr("Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt.")};
+    }
+    if (isTransfer && fields.Target == fields.Account) {
+        return cFault{
+            eEntrySaved::BadTarget,
+            cText::Tr("Nach Konto: Von '{0}' kann das Geld nur auf ein anderes Konto gehen.", {fields.Account})};
+    }
+    const cEntryItem series = modEntryFields::Series(fields, today);
+    if (cEntryEditor::ShowsSeries(fields) && series.EntryDateEnd < series.EntryDate) {
+        return cFault{eEntrySaved::BadEnd,
+                      cText::Tr("Endet am: Der letzte Tag ({0}) liegt vor dem ersten ({1}).",
+                                {modDate::ToGerman(series.EntryDateEnd), modDate::ToGerman(series.EntryDate)})};
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 void cEntryEditor::UseSplit(cFields& fields) const
@@ -43,7 +71,11 @@ void cEntryEditor::UseSplit(cFields& fields) const
         return;
     }
     fields.Face = eEntryFace::Split;
-    fields.Parts = {{m_ids.value(0), fields.Category, fields.Description, fields.Amount}};
+    fields.Parts = {{.ID = m_ids.value(0),
+                     .Category = fields.Category,
+                     .Description = fields.Description,
+                     .Amount = fields.Amount,
+                     .CategoryText = fields.CategoryText}};
 }
 
 bool cEntryEditor::UseNormal(cFields& fields) const
@@ -65,6 +97,7 @@ bool cEntryEditor::UseNormal(cFields& fields) const
     const cSplitPart first = fields.Parts.value(0);
     fields.Face = eEntryFace::Normal;
     fields.Category = first.Category;
+    fields.CategoryText = first.CategoryText;
     fields.Description = first.Description;
     fields.Parts.clear();
     return true;
@@ -100,9 +133,9 @@ bool cEntryEditor::Refuse(const QString& text) const
     return false;
 }
 
-cEntryEditor::eSaved cEntryEditor::Save(const cFields& fields)
+cEntryEditor::eSaved cEntryEditor::Save(cFields fields)
 {
-    cEntryCheck check(m_data, m_user, m_format, m_clock.Today());
+    cEntryCheck check({m_data, m_user, m_suggestions}, m_format, m_clock.Today());
     const eSaved checked = check.Check(fields);
     m_failedPart = check.FailedPart();
     if (checked != eSaved::Saved) {
@@ -113,9 +146,9 @@ cEntryEditor::eSaved cEntryEditor::Save(const cFields& fields)
 
 cEntryEditor::eSaved cEntryEditor::SaveStartBalance(const cFields& fields)
 {
-    const qint64 cents = modSum::Evaluate(fields.Amount).value_or(0);
+    const qint64 cents = modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0);
     const QDate day = modEntryFields::FirstDay(fields, m_clock.Today());
-    return cStartBalance(m_data).Save(fields.Account, cents, day) ? eSaved::Saved : eSaved::Refused;
+    return cStartBalance(m_data, fields.Decimal).Save(fields.Account, cents, day) ? eSaved::Saved : eSaved::Refused;
 }
 
 // What all rows of the entry share. Nothing when it cannot be stored: money of a transfer has to arrive somewhere else,
@@ -124,15 +157,14 @@ std::optional<cEntryItem> cEntryEditor::Whole(const cFields& fields) const
 {
     cEntryItem entry = modEntryFields::Series(fields, m_clock.Today());
     const bool isTransfer = fields.Type == modWord::Umbuchung;
-    const bool isNowhere = isTransfer && (fields.Target.isEmpty() || fields.Target == fields.Account);
-    if (isNowhere || (ShowsSeries(fields) && entry.EntryDateEnd < entry.EntryDate)) {
+    if (FaultOf(fields, m_clock.Today())) {
         return std::nullopt;
     }
     entry.EntryType = fields.Type;
     entry.EntryAccount = fields.Account;
     entry.EntryAccountMove = isTransfer ? fields.Target : QString();
     entry.EntryCategory = fields.Category;
-    entry.EntryValue = std::abs(modSum::Evaluate(fields.Amount).value_or(0));
+    entry.EntryValue = std::abs(modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0));
     entry.EntryDescription = fields.Description;
     return entry;
 }
@@ -144,7 +176,7 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
         return {};
     }
     whole->ID = m_ids.value(0);
-    const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields.Parts) : cEntryItemList{*whole};
+    const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields) : cEntryItemList{*whole};
     QList<cEntryWrite> rows;
     for (cEntryItem entry : entries) {
         const std::optional<cEntryItem> stored = entry.ID > 0 ? m_data.LoadEntry(entry.ID) : cEntryItem{};
@@ -174,8 +206,10 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
 {
     QList<cEntryWrite> rows = Build(fields);
     if (rows.isEmpty()) {
-        (void)Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!"));
-        return eSaved::Refused;
+        const cFault fault = FaultOf(fields, m_clock.Today())
+                                 .value_or(cFault{eSaved::Refused, cText::Tr("Er wurde inzwischen gelöscht.")});
+        (void)Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!") + u'\n' + fault.Why);
+        return fault.Field;
     }
     cEntryWriter writer(m_data, m_user);
     if (!writer.AskLosses(rows, m_from)) {
@@ -223,7 +257,7 @@ cEntryEditor::cFields cEntryEditor::Next(const cFields& saved)
     cFields next = Start(saved.Account);
     next.Face = saved.Face;
     next.IsAccountChosen = saved.IsAccountChosen;
-    next.Type = saved.Type;
+    next.Type = next.OpenType = next.BroughtType = saved.Type;
     next.Target = saved.Target;
     next.Date = modEntryFields::FirstDay(saved, m_clock.Today());
     return next;

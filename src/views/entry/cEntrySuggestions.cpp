@@ -1,10 +1,16 @@
 #include "views/entry/cEntrySuggestions.h"
 
+#include "base/cText.h"
+#include "base/cUser.h"
 #include "base/modFold.h"
 #include "model/cEntryItem.h"
 #include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -16,14 +22,25 @@ bool IsSame(const modFold::cFolded& a, const modFold::cFolded& b)
     return a.Plain == b.Plain || a.Spelled == b.Spelled || a.Plain == b.Spelled || a.Spelled == b.Plain;
 }
 
-// True when one of the levels of the path begins with the text.
-bool LevelBegins(const QString& path, const modFold::cFolded& start)
+bool Begins(const modFold::cFolded& text, const modFold::cFolded& start)
 {
-    const QStringList levels = path.split(QStringLiteral("; "));
-    return std::any_of(levels.begin(), levels.end(), [&](const QString& level) {
-        const modFold::cFolded folded = modFold::Fold(level);
-        return folded.Plain.startsWith(start.Plain) || folded.Spelled.startsWith(start.Spelled);
-    });
+    return text.Plain.startsWith(start.Plain) || text.Spelled.startsWith(start.Spelled);
+}
+
+bool HasWord(const QString& text, const QString& start)
+{
+    for (qsizetype at = text.indexOf(start); at >= 0; at = text.indexOf(start, at + 1)) {
+        if (at == 0 || !text.at(at - 1).isLetterOrNumber()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// The two halves of a path as somebody types it: "Garten; Pflanzen" or "Garten;Pflanzen".
+QString TypedPath(const QString& typed)
+{
+    return modTemplate::Join(typed.section(u';', 0, 0).simplified(), typed.section(u';', 1).simplified());
 }
 
 } // namespace
@@ -69,7 +86,17 @@ void cEntrySuggestions::LoadCategories()
 {
     if (!m_hasCategories) {
         m_hasCategories = true;
-        m_categories = VisibleCategories(m_data);
+        m_categories.clear();
+        const cTemplateItemList items = modTemplate::InOrder(m_data.GetTemplates());
+        for (const cTemplateItem& item : items) {
+            if (!modTemplate::IsAccount(item) && modTemplate::IsVisible(item)) {
+                const QString path = modTemplate::Path(item);
+                const QString sub = modTemplate::SubOf(path);
+                m_categories.append({path, item.EntryType, modFold::Fold(path),
+                                     modFold::Fold(sub.isEmpty() ? path : sub),
+                                     modFold::Fold(path + u' ' + item.TemplateComment)});
+            }
+        }
         m_recent = m_data.GetRecentCategories(readForCategories);
     }
 }
@@ -113,47 +140,113 @@ QStringList cEntrySuggestions::RecentCategories()
     LoadCategories();
     QStringList recent;
     for (const QString& path : std::as_const(m_recent)) {
-        if (m_categories.contains(path)) { // one that was deleted or hidden is not proposed
+        const bool isThere = std::any_of(m_categories.cbegin(), m_categories.cend(),
+                                         [&](const cKnown& known) { return known.Path == path; });
+        if (isThere) { // one that was deleted or hidden is not proposed
             recent.append(path);
         }
     }
     return recent;
 }
 
-QStringList cEntrySuggestions::Categories(const QString& typed)
+cEntrySuggestions::eRank cEntrySuggestions::Rank(const cKnown& known, const modFold::cFolded& text,
+                                                 const QList<modFold::cFolded>& words)
 {
-    const QStringList recent = RecentCategories();
-    const QList<modFold::cFolded> words = modFold::Words(typed);
-    const modFold::cFolded start = modFold::Fold(typed.trimmed());
-    QStringList beginning;
-    QStringList rest;
-    for (const QString& path : std::as_const(m_categories)) {
-        if (!recent.contains(path) && modFold::HoldsAll(modFold::Fold(path), words)) {
-            (LevelBegins(path, start) ? beginning : rest).append(path);
-        }
+    if (text.Plain.isEmpty()) {
+        return Anywhere;
     }
-    QStringList found;
-    for (const QString& path : recent) {
-        if (modFold::HoldsAll(modFold::Fold(path), words)) {
-            found.append(path);
-        }
+    if (!modFold::HoldsAll(known.Folded, words)) {
+        return modFold::HoldsAll(known.Remark, words) ? InRemark : NoMatch;
     }
-    return found + beginning + rest;
+    if (IsSame(known.Folded, text)) {
+        return Path;
+    }
+    if (IsSame(known.Name, text)) {
+        return Exact;
+    }
+    if (Begins(known.Name, text)) {
+        return BeginOfName;
+    }
+    const bool areBegins = std::all_of(words.begin(), words.end(), [&](const modFold::cFolded& word) {
+        return HasWord(known.Folded.Plain, word.Plain) || HasWord(known.Folded.Spelled, word.Spelled);
+    });
+    return areBegins ? BeginOfWord : Anywhere;
 }
 
-QString cEntrySuggestions::CategoryMeant(const QString& typed)
+QStringList cEntrySuggestions::Categories(const QString& typed, const QString& type)
 {
-    if (typed.trimmed().isEmpty()) {
-        return {};
+    struct cFound
+    {
+        std::tuple<int, qsizetype, bool> Key; // smaller ones go first
+        QString Path;
+    };
+    const QStringList recent = RecentCategories();
+    const QList<modFold::cFolded> words = modFold::Words(typed);
+    const modFold::cFolded text = modFold::Fold(typed.simplified());
+    std::vector<cFound> found;
+    for (const cKnown& known : std::as_const(m_categories)) {
+        const eRank rank = Rank(known, text, words);
+        if (rank != NoMatch) {
+            const qsizetype use = recent.indexOf(known.Path);
+            const bool isOther = !type.isEmpty() && known.Type != type;
+            found.push_back({{rank, use < 0 ? recent.size() : use, isOther}, known.Path});
+        }
     }
-    const QStringList found = Categories(typed);
-    const modFold::cFolded wanted = modFold::Fold(typed.simplified());
-    for (const QString& path : found) {
-        if (IsSame(modFold::Fold(path), wanted)) {
+    std::stable_sort(found.begin(), found.end(), [](const cFound& a, const cFound& b) { return a.Key < b.Key; });
+    QStringList paths;
+    for (const cFound& each : found) {
+        paths.append(each.Path);
+    }
+    return paths;
+}
+
+QString cEntrySuggestions::CategoryMeant(const QString& typed, const QString& type)
+{
+    return typed.trimmed().isEmpty() ? QString() : Categories(typed, type).value(0);
+}
+
+bool cEntrySuggestions::IsCategory(const QString& typed)
+{
+    return !PathOf(typed).isEmpty();
+}
+
+QString cEntrySuggestions::PathOf(const QString& typed)
+{
+    const modFold::cFolded wanted = modFold::Fold(TypedPath(typed));
+    const cTemplateItemList items = m_data.GetTemplates();
+    for (const cTemplateItem& item : items) {
+        const QString path = modTemplate::Path(item);
+        if (!modTemplate::IsAccount(item) && IsSame(modFold::Fold(path), wanted)) {
             return path;
         }
     }
-    return found.value(0);
+    return {};
+}
+
+QString cEntrySuggestions::OfferNew(const QString& typed, const QString& type)
+{
+    const QString there = PathOf(typed);
+    const QString path = TypedPath(typed);
+    cTemplateItem item =
+        modTemplate::NewCategory(m_data.GetTemplates(), modTemplate::MainOf(path), modTemplate::SubOf(path));
+    if (!there.isEmpty() || (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty())) {
+        return there;
+    }
+    const QString name = modTemplate::Path(item);
+    const eAnswer answer =
+        m_user.Ask({.Text = cText::Tr("Die Kategorie '{0}' gibt es noch nicht.\nSoll sie angelegt werden?", {name}),
+                    .Title = cText::Tr("Neue Kategorie")});
+    if (answer != eAnswer::Yes) {
+        return {};
+    }
+    item.EntryType = type.isEmpty() ? item.EntryType : type;
+    cUndoStep step(m_data, cText::Tr("Kategorie '{0}' angelegt", {name}));
+    if (!m_data.AddNewTemplate(item)) {
+        (void)step.Revert();
+        return {};
+    }
+    ForgetCategories();
+    return name;
 }
 
 void cEntrySuggestions::Note(const cEntryItem& entry)

@@ -78,7 +78,8 @@ std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entry
     fields.Title = cText::Tr("'{0}' vom {1} bis {2}",
                              {modEntryFields::Name(*occurrence), modDate::ToGerman(period.EntryStartDate),
                               modDate::ToGerman(period.EntryEndDate)});
-    fields.Amount = modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue);
+    fields.Amount = modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue, m_decimal);
+    fields.Decimal = m_decimal;
     fields.Comment = correction ? correction->EntryComment : QString();
     fields.IsCorrected = correction.has_value();
     return fields;
@@ -86,7 +87,7 @@ std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entry
 
 cSeriesChange::eSaved cSeriesChange::SavePeriod(const cPeriodFields& fields)
 {
-    const std::optional<qint64> cents = modSum::Evaluate(fields.Amount);
+    const std::optional<qint64> cents = modSum::Evaluate(fields.Amount, fields.Decimal);
     if (!cents) {
         return eSaved::BadAmount;
     }

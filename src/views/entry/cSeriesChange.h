@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/modSum.h"
 #include "model/cEntryItem.h"
 #include "model/cEntryItemFixMod.h"
 
@@ -28,12 +29,19 @@ public:
         QString Title;  // "'Miete' vom 01.03.2026 bis 31.03.2026"
         QString Amount; // as typed, sums too; the amount that counts now
         QString Comment;
+        eDecimal Decimal = eDecimal::Comma;
         bool IsCorrected = false; // there is a correction that can be removed
     };
 
     enum class eSaved { Saved, BadAmount, Refused };
 
-    cSeriesChange(cDataAccess& data, cUser& user) : m_data(data), m_user(user) {}
+    // `decimal` is the sign that typed and shown amounts have.
+    cSeriesChange(cDataAccess& data, cUser& user, eDecimal decimal = eDecimal::Comma)
+        : m_data(data),
+          m_user(user),
+          m_decimal(decimal)
+    {
+    }
 
     // Asks what is meant when an occurrence is edited. One-off entries are Entry without question; the first occurrence
     // is not offered FromHere, which would be the whole series.
@@ -56,4 +64,5 @@ private:
 
     cDataAccess& m_data;
     cUser& m_user;
+    eDecimal m_decimal;
 };

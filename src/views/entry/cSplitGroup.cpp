@@ -39,22 +39,25 @@ void cSplitGroup::Show(const cEntryItemList& parts, cEntryFields& fields)
     const qint64 net = modSplit::Net(parts);
     fields.Face = eEntryFace::Split;
     fields.Type = net == 0 ? parts.first().EntryType : net > 0 ? modWord::Einnahme : modWord::Ausgabe;
-    fields.Amount = modSum::ToText(std::abs(net));
+    fields.Amount = modSum::ToText(std::abs(net), fields.Decimal);
     fields.Parts.clear();
     for (const cEntryItem& part : parts) {
         const qint64 cents = part.EntryType == fields.Type ? part.EntryValue : -part.EntryValue;
-        fields.Parts.append({part.ID, part.EntryCategory, part.EntryDescription, modSplitParts::AmountText(cents)});
+        fields.Parts.append({.ID = part.ID,
+                             .Category = part.EntryCategory,
+                             .Description = part.EntryDescription,
+                             .Amount = modSplitParts::AmountText(cents, fields.Decimal)});
     }
 }
 
-cEntryItemList cSplitGroup::Build(const cEntryItem& whole, const QList<cSplitPart>& rows)
+cEntryItemList cSplitGroup::Build(const cEntryItem& whole, const cEntryFields& fields)
 {
     cEntryItemList entries;
-    for (const cSplitPart& row : rows) {
-        if (modSplitParts::IsBlank(row)) {
+    for (const cSplitPart& row : fields.Parts) {
+        if (modSplitParts::IsBlank(row, fields.Decimal)) {
             continue;
         }
-        const qint64 cents = modSum::Evaluate(row.Amount).value_or(0);
+        const qint64 cents = modSum::Evaluate(row.Amount, fields.Decimal).value_or(0);
         cEntryItem entry = whole;
         entry.ID = row.ID;
         entry.EntryCategory = row.Category;

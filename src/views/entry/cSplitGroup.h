@@ -23,8 +23,9 @@ public:
     // Fills kind, whole amount and rows of the fields from the parts.
     static void Show(const cEntryItemList& parts, cEntryFields& fields);
 
-    // The parts to store: `whole` with category, description, kind and amount of each filled row, and its ID.
-    [[nodiscard]] static cEntryItemList Build(const cEntryItem& whole, const QList<cSplitPart>& rows);
+    // The parts to store: `whole` with category, description, kind and amount of each filled row of the table, and its
+    // ID.
+    [[nodiscard]] static cEntryItemList Build(const cEntryItem& whole, const cEntryFields& fields);
 
 private:
     cDataAccess& m_data;

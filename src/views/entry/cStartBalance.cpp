@@ -22,7 +22,8 @@ cEntryFields cStartBalance::Show(const QString& account) const
     cEntryFields fields;
     fields.Face = eEntryFace::StartBalance;
     fields.Account = account;
-    fields.Amount = modSum::ToText(stored ? modBalance::Effect(*stored, {}) : 0);
+    fields.Amount = modSum::ToText(stored ? modBalance::Effect(*stored, {}) : 0, m_decimal);
+    fields.Decimal = m_decimal;
     fields.Date = stored ? stored->EntryDate : QDate();
     return fields;
 }

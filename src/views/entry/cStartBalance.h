@@ -11,7 +11,8 @@ class cDataAccess;
 class cStartBalance
 {
 public:
-    explicit cStartBalance(cDataAccess& data) : m_data(data) {}
+    // `decimal` is the sign that shown amounts have.
+    cStartBalance(cDataAccess& data, eDecimal decimal) : m_data(data), m_decimal(decimal) {}
 
     // True when this entry is the one that counts as start balance of its account.
     [[nodiscard]] bool IsOne(const cEntryItem& entry) const;
@@ -24,4 +25,5 @@ public:
 
 private:
     cDataAccess& m_data;
+    eDecimal m_decimal;
 };

@@ -18,7 +18,7 @@ QList<modCorrections::cLine> modCorrections::Lines(const cEntryFields& fields)
     for (const cEntryItemFixMod& fixMod : fields.Corrections) {
         lines.append({modRecurrence::CorrectionLabel(fixMod),
                       modDate::ToGerman(fixMod.EntryStartDate) + u" – "_s + modDate::ToGerman(fixMod.EntryEndDate),
-                      modSum::ToText(fixMod.EntryValue), fixMod.EntryComment});
+                      modSum::ToText(fixMod.EntryValue, fields.Decimal), fixMod.EntryComment});
     }
     return lines;
 }
@@ -35,7 +35,7 @@ modCorrections::eSet modCorrections::Set(const QString& dayText, const QString& 
     if (!occurrence) {
         return eSet::NoOccurrence;
     }
-    const std::optional<qint64> cents = modSum::Evaluate(amount);
+    const std::optional<qint64> cents = modSum::Evaluate(amount, fields.Decimal);
     if (!cents) {
         return eSet::BadAmount;
     }
@@ -56,7 +56,7 @@ modCorrections::eSet modCorrections::Set(const QString& dayText, const QString& 
 modCorrections::eSet modCorrections::Change(qsizetype line, const QString& amount, const QString& comment,
                                             cEntryFields& fields)
 {
-    const std::optional<qint64> cents = modSum::Evaluate(amount);
+    const std::optional<qint64> cents = modSum::Evaluate(amount, fields.Decimal);
     if (!cents || line < 0 || line >= fields.Corrections.size()) {
         return eSet::BadAmount;
     }

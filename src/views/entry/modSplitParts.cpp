@@ -8,33 +8,34 @@
 
 namespace {
 
-std::optional<qint64> CentsOf(const cSplitPart& part)
+std::optional<qint64> CentsOf(const cSplitPart& part, eDecimal decimal)
 {
-    return part.Amount.trimmed().isEmpty() ? 0 : modSum::Evaluate(part.Amount);
+    return part.Amount.trimmed().isEmpty() ? 0 : modSum::Evaluate(part.Amount, decimal);
 }
 
 } // namespace
 
-bool modSplitParts::IsBlank(const cSplitPart& part)
+bool modSplitParts::IsBlank(const cSplitPart& part, eDecimal decimal)
 {
-    return part.Category.isEmpty() && part.Description.trimmed().isEmpty() && CentsOf(part) == 0;
+    return part.Category.isEmpty() && part.CategoryText.isEmpty() && part.Description.trimmed().isEmpty()
+        && CentsOf(part, decimal) == 0;
 }
 
 qsizetype modSplitParts::CountFilled(const cEntryFields& fields)
 {
     return std::count_if(fields.Parts.begin(), fields.Parts.end(),
-                         [](const cSplitPart& part) { return !IsBlank(part); });
+                         [&](const cSplitPart& part) { return !IsBlank(part, fields.Decimal); });
 }
 
 std::optional<qint64> modSplitParts::Rest(const cEntryFields& fields)
 {
-    std::optional<qint64> rest = modSum::Evaluate(fields.Amount);
+    std::optional<qint64> rest = modSum::Evaluate(fields.Amount, fields.Decimal);
     if (!rest) {
         return std::nullopt;
     }
     *rest = std::abs(*rest);
     for (const cSplitPart& part : fields.Parts) {
-        const std::optional<qint64> cents = CentsOf(part);
+        const std::optional<qint64> cents = CentsOf(part, fields.Decimal);
         if (!cents) {
             return std::nullopt;
         }
@@ -49,7 +50,7 @@ QString modSplitParts::RestText(const cEntryFields& fields)
     if (!rest) {
         return cText::Tr("Ein Betrag ist keine Zahl.");
     }
-    return *rest == 0 ? cText::Tr("Die Summe stimmt.") : cText::Tr("Rest: {0}", {AmountText(*rest)});
+    return *rest == 0 ? cText::Tr("Die Summe stimmt.") : cText::Tr("Rest: {0}", {AmountText(*rest, fields.Decimal)});
 }
 
 bool modSplitParts::FillRest(qsizetype row, cEntryFields& fields)
@@ -59,11 +60,11 @@ bool modSplitParts::FillRest(qsizetype row, cEntryFields& fields)
         return false;
     }
     cSplitPart& part = fields.Parts[row];
-    part.Amount = AmountText(CentsOf(part).value_or(0) + *rest);
+    part.Amount = AmountText(CentsOf(part, fields.Decimal).value_or(0) + *rest, fields.Decimal);
     return true;
 }
 
-QString modSplitParts::AmountText(qint64 cents)
+QString modSplitParts::AmountText(qint64 cents, eDecimal decimal)
 {
-    return modSum::ToText(cents);
+    return modSum::ToText(cents, decimal);
 }

@@ -11,7 +11,7 @@
 namespace modSplitParts {
 
 // True for a row that nobody has filled in; such rows are not stored.
-[[nodiscard]] bool IsBlank(const cSplitPart& part);
+[[nodiscard]] bool IsBlank(const cSplitPart& part, eDecimal decimal = eDecimal::Comma);
 
 [[nodiscard]] qsizetype CountFilled(const cEntryFields& fields);
 
@@ -26,6 +26,6 @@ namespace modSplitParts {
 [[nodiscard]] bool FillRest(qsizetype row, cEntryFields& fields);
 
 // The form of amounts in the table: "#############0.00", so without grouping, with the decimal sign of the fields.
-[[nodiscard]] QString AmountText(qint64 cents);
+[[nodiscard]] QString AmountText(qint64 cents, eDecimal decimal = eDecimal::Comma);
 
 } // namespace modSplitParts

@@ -15,6 +15,11 @@ public:
     // Replaces `text`.
     void Write(qint64 cents, QString& text) const;
 
+    // The word as it would stand in an amount without groups, since "1234,50" is what the amount fields show.
+    [[nodiscard]] static QString Ungrouped(QString word) { return word.remove(u'\'').remove(u'\u2019'); }
+    // A text of Write without what separates groups.
+    [[nodiscard]] QString WithoutGroups(QString amount) const { return amount.remove(m_group); }
+
     // False when no amount can hold this folded word, because one of its characters never occurs in them.
     [[nodiscard]] bool MayHold(const QString& word) const;
 

@@ -49,7 +49,8 @@ std::vector<int> cListFilter::Find(const QList<modFold::cFolded>& words, const s
 
 cListFilter::cSearched cListFilter::Search(const modFold::cFolded& word) const
 {
-    return {word, m_texts.Find(word), IsPartOfDay(word.Plain), m_amounts.MayHold(word.Plain)};
+    const QString ungrouped = cAmountPattern::Ungrouped(word.Plain);
+    return {word, m_texts.Find(word), IsPartOfDay(word.Plain), m_amounts.MayHold(ungrouped), ungrouped};
 }
 
 bool cListFilter::Holds(int row, const cSearched& searched, const fnCents& cents)
@@ -57,7 +58,7 @@ bool cListFilter::Holds(int row, const cSearched& searched, const fnCents& cents
     const cRow& place = m_rows[At(row)];
     return searched.IsFound[At(place.Text)] || searched.IsFound[At(place.Other)]
         || (searched.MayBeDay && HoldsDay(place.Day, searched.Word))
-        || (searched.MayBeAmount && HoldsAmount(cents(row), searched.Word));
+        || (searched.MayBeAmount && HoldsAmount(cents(row), searched));
 }
 
 bool cListFilter::HoldsDay(QDate day, const modFold::cFolded& word)
@@ -69,8 +70,9 @@ bool cListFilter::HoldsDay(QDate day, const modFold::cFolded& word)
     return m_dayText.contains(word.Plain);
 }
 
-bool cListFilter::HoldsAmount(qint64 cents, const modFold::cFolded& word)
+bool cListFilter::HoldsAmount(qint64 cents, const cSearched& searched)
 {
     m_amounts.Write(cents, m_amountText);
-    return m_amountText.contains(word.Plain);
+    return m_amountText.contains(searched.Word.Plain)
+        || m_amounts.WithoutGroups(m_amountText).contains(searched.Ungrouped);
 }

@@ -44,12 +44,13 @@ private:
         std::vector<bool> IsFound; // by text
         bool MayBeDay = false;
         bool MayBeAmount = false;
+        QString Ungrouped{}; // see cAmountPattern
     };
 
     [[nodiscard]] cSearched Search(const modFold::cFolded& word) const;
     [[nodiscard]] bool Holds(int row, const cSearched& searched, const fnCents& cents);
     [[nodiscard]] bool HoldsDay(QDate day, const modFold::cFolded& word);
-    [[nodiscard]] bool HoldsAmount(qint64 cents, const modFold::cFolded& word);
+    [[nodiscard]] bool HoldsAmount(qint64 cents, const cSearched& searched);
 
     cAmountPattern m_amounts;
     modFold::cTexts m_texts;

@@ -19,16 +19,16 @@ constexpr int typingPause = 120; // milliseconds: longer than between two letter
 
 const QString layoutKey = u"FilterList"_s;
 
-std::optional<qint64> Cents(const QString& text)
+std::optional<qint64> Cents(const QString& text, eDecimal decimal)
 {
-    const std::optional<qint64> cents = modSum::Evaluate(text);
+    const std::optional<qint64> cents = modSum::Evaluate(text, decimal);
     return cents ? std::optional(std::abs(*cents)) : std::nullopt;
 }
 
-void SetAmounts(const cSearchModel::cFields& fields, cSearchQuery& query)
+void SetAmounts(const cSearchModel::cFields& fields, eDecimal decimal, cSearchQuery& query)
 {
     using eRule = cSearchModel::eAmountRule;
-    const std::optional<qint64> amount = Cents(fields.Amount);
+    const std::optional<qint64> amount = Cents(fields.Amount, decimal);
     switch (fields.AmountRule) {
     case eRule::Exactly: query.Least = query.Most = amount; return;
     case eRule::AtLeast: query.Least = amount; return;
@@ -36,7 +36,7 @@ void SetAmounts(const cSearchModel::cFields& fields, cSearchQuery& query)
     case eRule::Between: break;
     }
     query.Least = amount;
-    query.Most = Cents(fields.AmountTo);
+    query.Most = Cents(fields.AmountTo, decimal);
     if (query.Least && query.Most && *query.Least > *query.Most) {
         std::swap(query.Least, query.Most);
     }
@@ -139,7 +139,7 @@ cSearchQuery cSearchModel::Query(const cFields& fields) const
 {
     cSearchQuery query;
     query.Text = fields.Text;
-    SetAmounts(fields, query);
+    SetAmounts(fields, Decimal(), query);
     query.Days = Days(fields);
     query.Account = fields.Account;
     query.Type = fields.Type;
@@ -164,9 +164,14 @@ bool cSearchModel::IsFreePeriod(const cFields& fields)
     return fields.Period == modWord::FreierZeitraum;
 }
 
-bool cSearchModel::IsAmount(const QString& text)
+eDecimal cSearchModel::Decimal() const
 {
-    return text.trimmed().isEmpty() || modSum::Evaluate(text).has_value();
+    return m_parts.Format.Decimal();
+}
+
+bool cSearchModel::IsAmount(const QString& text) const
+{
+    return text.trimmed().isEmpty() || modSum::Evaluate(text, Decimal()).has_value();
 }
 
 QStringList cSearchModel::Periods() const
@@ -224,6 +229,9 @@ QString cSearchModel::TotalText() const
 QString cSearchModel::Hint() const
 {
     for (const QString& amount : {m_fields.Amount, m_fields.AmountTo}) {
+        if (modSum::IsDoubtful(amount, Decimal())) {
+            return modSum::Fault(amount, Decimal());
+        }
         if (!IsAmount(amount)) {
             return cText::Tr("'{0}' ist kein Betrag, die Suche lässt ihn außer Acht.", {amount});
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/modSum.h"
 #include "views/list/cEntryListModel.h"
 #include "views/list/cSearch.h"
 
@@ -64,7 +65,8 @@ public:
     [[nodiscard]] modPeriod::cRange Days(const cFields& fields) const;
     [[nodiscard]] QDate Today() const;
     [[nodiscard]] static bool IsFreePeriod(const cFields& fields);
-    [[nodiscard]] static bool IsAmount(const QString& text); // an empty one is right too
+    [[nodiscard]] bool IsAmount(const QString& text) const; // an empty one is right too
+    [[nodiscard]] eDecimal Decimal() const;                 // how amounts are typed
 
     [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
     [[nodiscard]] QString CountText() const;

@@ -42,7 +42,7 @@ struct cImportReview::cWorks
           Matching({parts.Data, parts.Format, parts.User, Hive, Accounts, Booking}),
           Runs(parts.Settings),
           Proposals({parts.Data, Hive, Accounts, Matching, Runs}),
-          Suggestions(parts.Data)
+          Suggestions(parts.Data, parts.User)
     {
     }
 
@@ -304,6 +304,18 @@ QString cImportReview::ChoiceTitle(const QList<int>& rowIds)
     const qsizetype count = OpenRows(rowIds).size();
     return count == 1 ? cText::Tr("Kategorie für einen Umsatz")
                       : cText::Tr("Kategorie für {0} Umsätze", {QString::number(count)});
+}
+
+QString cImportReview::TypeOf(const QList<int>& rowIds)
+{
+    const cImportEntryList rows = OpenRows(rowIds);
+    const auto isIn = [](const cImportEntry& row) { return row.ImportValue > 0.0; };
+    if (rows.isEmpty() || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
+            return isIn(row) != isIn(rows.constFirst());
+        })) {
+        return {};
+    }
+    return isIn(rows.constFirst()) ? modWord::Einnahme : modWord::Ausgabe;
 }
 
 QStringList cImportReview::Categories() const

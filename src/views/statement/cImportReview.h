@@ -89,8 +89,10 @@ public:
     bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval);
     [[nodiscard]] QString ChoiceTitle(const QList<int>& rowIds); // "Kategorie für 12 Umsätze"
     [[nodiscard]] QStringList Categories() const;                // paths to choose from
-    [[nodiscard]] cEntrySuggestions& Suggestions();              // the same with what was used lately
-    [[nodiscard]] static QStringList Intervals();                // as the user sees them
+    // The kind of entry that all these rows become by their sign; empty when they differ.
+    [[nodiscard]] QString TypeOf(const QList<int>& rowIds);
+    [[nodiscard]] cEntrySuggestions& Suggestions(); // the same with what was used lately
+    [[nodiscard]] static QStringList Intervals();   // as the user sees them
     [[nodiscard]] static QString StoredInterval(const QString& shown);
 
     // Assigns open rows to the entries in the book that they belong to: those given when they are several, else all

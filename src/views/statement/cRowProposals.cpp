@@ -55,7 +55,7 @@ const cProposal& cRowProposals::Propose(const cImportEntry& row)
         if (!m_proposer) {
             m_proposer = std::make_unique<cProposer>(m_parts.Data, m_parts.Hive, m_parts.Accounts);
         }
-        known = m_proposals.insert(row.ID, m_proposer->Propose(row));
+        known = m_proposals.insert(row.ID, m_proposer->ProposeBest(row));
     }
     return *known;
 }
@@ -85,7 +85,7 @@ cRowProposals::eTrust cRowProposals::TrustIn(const cImportEntry& row)
     const cProposal& proposal = Propose(row);
     // Of a transfer between own accounts everything is known, whatever its category.
     const bool isFounded =
-        !proposal.IsDefault || proposal.ExistingEntry != 0 || proposal.Entry.EntryType == modWord::Umbuchung;
+        proposal.IsSure || proposal.ExistingEntry != 0 || proposal.Entry.EntryType == modWord::Umbuchung;
     return isFounded || !m_choices.value(row.ID).Category.isEmpty() ? eTrust::Certain : eTrust::Unknown;
 }
 

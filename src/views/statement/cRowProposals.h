@@ -37,7 +37,7 @@ public:
     // How far a row can be booked without looking at it.
     enum class eTrust {
         Certain, // learned, by a rule, an own account, a series, or chosen by hand
-        Unknown, // nothing but the default
+        Unknown, // nothing but an ambiguous keyword or the default
         InBook,  // an entry of the book may be the same
         Twice,   // another row may be the same
     };

@@ -9,6 +9,7 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/cTemplateItem.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cEntrySuggestions.h"
@@ -36,7 +37,7 @@ cRuleListModel::cRuleListModel(const cParts& parts, QObject* parent)
     : QAbstractTableModel(parent),
       m_parts(parts),
       m_works(std::make_unique<cWorks>(parts)),
-      m_suggestions(std::make_unique<cEntrySuggestions>(parts.Data)),
+      m_suggestions(std::make_unique<cEntrySuggestions>(parts.Data, parts.User)),
       m_rules(m_works->Stored.Load())
 {
     m_works->Trial.SetRules(m_rules);
@@ -91,6 +92,11 @@ bool cRuleListModel::IsChanged() const
     return CanEdit() && m_draft != m_start;
 }
 
+QString cRuleListModel::TypeOf(const cOwnRule& rule)
+{
+    return rule.Sign == eRuleSign::Any ? QString() : rule.Sign == eRuleSign::In ? modWord::Einnahme : modWord::Ausgabe;
+}
+
 QStringList cRuleListModel::KnownCategories() const
 {
     QStringList paths = m_parts.Data.CountEntriesByCategory().keys();
@@ -129,10 +135,17 @@ bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
 
 bool cRuleListModel::Save()
 {
-    const QString problem = modRuleText::Problem(m_draft, KnownCategories());
+    const QString problem = modRuleText::Problem(m_draft);
     if (!problem.isEmpty()) {
         m_parts.User.Show(eTone::Exclamation, problem);
         return false;
+    }
+    if (!m_draft.Category.isEmpty() && !KnownCategories().contains(m_draft.Category)) {
+        const QString path = m_suggestions->OfferNew(m_draft.Category, TypeOf(m_draft));
+        if (path.isEmpty()) {
+            return false;
+        }
+        m_draft.Category = path;
     }
     QList<cOwnRule> rules = m_rules;
     if (m_isNew) {
@@ -238,7 +251,7 @@ bool cRuleListModel::Switch(int place, bool isOn)
 QString cRuleListModel::TrialText() const
 {
     if (!CanEdit()) {
-        return modRuleText::Problem(m_draft, {});
+        return modRuleText::Problem(m_draft);
     }
     const int total = m_works->Trial.Total();
     if (total == 0) {

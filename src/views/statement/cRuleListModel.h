@@ -76,6 +76,8 @@ public:
     // Some of them in one line each.
     [[nodiscard]] QStringList Examples() const;
 
+    // The kind of entry that the rule's sign asks for; empty for both.
+    [[nodiscard]] static QString TypeOf(const cOwnRule& rule);
     [[nodiscard]] cEntrySuggestions& Suggestions() { return *m_suggestions; }
     [[nodiscard]] QStringList Accounts() const;
 

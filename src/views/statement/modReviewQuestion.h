@@ -12,7 +12,7 @@ namespace modReviewQuestion {
 struct cNumbers
 {
     int Certain = 0;
-    int Unknown = 0; // nothing but the default is proposed
+    int Unknown = 0; // nothing but an ambiguous keyword or the default speaks for the proposal
     int InBook = 0;  // an entry of the book may be the same
     int Twice = 0;   // another row may be the same
 };

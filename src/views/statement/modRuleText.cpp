@@ -64,7 +64,7 @@ QString modRuleText::Result(const cOwnRule& rule)
     return parts.join(u", "_s);
 }
 
-QString modRuleText::Problem(const cOwnRule& rule, const QStringList& categories)
+QString modRuleText::Problem(const cOwnRule& rule)
 {
     if (!rule.Unreadable.isEmpty()) {
         return cText::Tr("Diese Regel ist beschädigt oder stammt von einer neueren Version. Sie bleibt, wie sie ist.");
@@ -79,9 +79,6 @@ QString modRuleText::Problem(const cOwnRule& rule, const QStringList& categories
     }
     if (!rule.HasResult()) {
         return cText::Tr("Bitte geben Sie an, was die Regel vorschlagen soll.");
-    }
-    if (!rule.Category.isEmpty() && !categories.contains(rule.Category)) {
-        return cText::Tr("Die Kategorie '{0}' gibt es nicht.", {rule.Category});
     }
     return {};
 }

@@ -15,6 +15,6 @@ namespace modRuleText {
 [[nodiscard]] QString Result(const cOwnRule& rule);
 
 // Why the rule cannot be stored, empty when it can. `categories` are the paths that the book knows.
-[[nodiscard]] QString Problem(const cOwnRule& rule, const QStringList& categories);
+[[nodiscard]] QString Problem(const cOwnRule& rule);
 
 } // namespace modRuleText

@@ -134,14 +134,15 @@ bool cTemplateManager::TellGone(bool isDone, const QString& oldName, const QStri
 
 std::optional<cTemplateFields> cTemplateManager::Load(const cTemplateNode& node) const
 {
-    return cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User).Load(node, m_parts.Clock.Today());
+    return cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User, m_parts.Format.Decimal())
+        .Load(node, m_parts.Clock.Today());
 }
 
 std::optional<QString> cTemplateManager::Save(const cTemplateNode& node, const cTemplateFields& old,
                                               const cTemplateFields& fields)
 {
     const std::optional<QString> name =
-        cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User).Save(node, old, fields);
+        cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User, m_parts.Format.Decimal()).Save(node, old, fields);
     Tell(name && fields != old);
     return name;
 }
@@ -164,26 +165,10 @@ bool cTemplateManager::HasMain(const QString& main) const
     return Mains().contains(main);
 }
 
-int cTemplateManager::LastPriority(const QString& type, const QString& group) const
-{
-    int last = 0;
-    int lastOfGroup = -1;
-    const cTemplateItemList items = m_parts.Data.GetTemplates();
-    for (const cTemplateItem& item : items) {
-        if (item.TemplateType != type) {
-            continue;
-        }
-        last = qMax(last, modTemplate::Priority(item));
-        if (modTemplate::GroupOf(item) == group) {
-            lastOfGroup = qMax(lastOfGroup, modTemplate::Priority(item));
-        }
-    }
-    return lastOfGroup >= 0 ? lastOfGroup : last;
-}
-
 QString cTemplateManager::Add(cTemplateItem item, const QString& stepName, const QString& name)
 {
-    item.TemplatePriority = QString::number(LastPriority(item.TemplateType, modTemplate::GroupOf(item)) + 1);
+    item.TemplatePriority = QString::number(
+        modTemplate::LastPriority(m_parts.Data.GetTemplates(), item.TemplateType, modTemplate::GroupOf(item)) + 1);
     {
         cUndoStep step(m_parts.Data, stepName);
         if (!m_parts.Data.AddNewTemplate(item)) {
@@ -197,10 +182,7 @@ QString cTemplateManager::Add(cTemplateItem item, const QString& stepName, const
 
 QString cTemplateManager::AddCategory(const QString& main, const QString& sub)
 {
-    cTemplateItem item;
-    item.TemplateType = modWord::Kategorie;
-    item.TemplateCategory = Cleaned(main);
-    item.TemplateName = Cleaned(sub);
+    const cTemplateItem item = modTemplate::NewCategory(m_parts.Data.GetTemplates(), main, sub);
     if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
         (void)Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
         return {};
@@ -210,13 +192,6 @@ QString cTemplateManager::AddCategory(const QString& main, const QString& sub)
         (void)Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {path}));
         return {};
     }
-    // A new category is most likely of the kind of its main category or of the category beside it.
-    const cTemplateItemList items = modTemplate::InOrder(m_parts.Data.GetTemplates());
-    const auto model = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& other) {
-        return !modTemplate::IsAccount(other) && modTemplate::GroupOf(other) == modTemplate::MainOf(path);
-    });
-    item.EntryType = model == items.end() ? modWord::Ausgabe : model->EntryType;
-    item.EntryInterval = modWord::Einmalig;
     return Add(item, cText::Tr("Kategorie '{0}' angelegt", {path}), path);
 }
 

@@ -108,7 +108,6 @@ private:
     [[nodiscard]] std::optional<cTemplateItem> FindCategory(const QString& path) const;
     [[nodiscard]] bool HasMain(const QString& main) const;
     [[nodiscard]] QString Add(cTemplateItem item, const QString& stepName, const QString& name);
-    [[nodiscard]] int LastPriority(const QString& type, const QString& group) const;
     [[nodiscard]] bool WriteOrder(const cTemplateItemList& before, const cTemplateItemList& after);
     [[nodiscard]] QString MainHint(const cTemplateNode& node) const;
     // Both read the book again and say so when something was changed: with every account that has another name now, or

@@ -3,7 +3,6 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modAmount.h"
-#include "base/modSum.h"
 #include "core/cSettings.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
@@ -31,9 +30,9 @@ QString StoredVisible(bool isVisible)
 }
 
 // The limit as it is stored. An amount that reads the same keeps its form.
-QString StoredLimit(const cTemplateItem& item, const QString& text)
+QString StoredLimit(const cTemplateItem& item, const QString& text, eDecimal decimal)
 {
-    const qint64 cents = std::abs(modSum::Evaluate(text).value_or(0));
+    const qint64 cents = std::abs(modSum::Evaluate(text, decimal).value_or(0));
     if (cents == modTemplate::DefaultValueCents(item)) {
         return item.TemplateDefaultValue;
     }
@@ -41,68 +40,69 @@ QString StoredLimit(const cTemplateItem& item, const QString& text)
 }
 
 // The limit of an account may be zero or below: what counts is whether there is one.
-QString StoredAccountLimit(const cTemplateItem& item, const QString& text)
+QString StoredAccountLimit(const cTemplateItem& item, const QString& text, eDecimal decimal)
 {
-    const std::optional<qint64> cents = modSum::Evaluate(text);
+    const std::optional<qint64> cents = modSum::Evaluate(text, decimal);
     if (cents == modForecast::Limit(item)) {
         return item.TemplateDefaultValue;
     }
     return cents ? modAmount::CentsToText(*cents) : QString();
 }
 
-QString ShownAccountLimit(const cTemplateItem& item)
+QString ShownAccountLimit(const cTemplateItem& item, eDecimal decimal)
 {
     const std::optional<qint64> cents = modForecast::Limit(item);
-    return cents ? modSum::ToText(*cents) : QString();
+    return cents ? modSum::ToText(*cents, decimal) : QString();
 }
 
-QString ShownLimit(const cTemplateItem& item)
+QString ShownLimit(const cTemplateItem& item, eDecimal decimal)
 {
     const qint64 cents = modTemplate::DefaultValueCents(item);
-    return cents == 0 ? QString() : modSum::ToText(cents);
+    return cents == 0 ? QString() : modSum::ToText(cents, decimal);
 }
 
 // A percentage as typed: "19", "5,5", "7 %".
-std::optional<qint64> ReadVat(QString text)
+std::optional<qint64> ReadVat(QString text, eDecimal decimal)
 {
     constexpr qint64 most = 10'000; // hundredths of a percent
-    const std::optional<qint64> rate = modSum::Evaluate(text.remove(u'%'));
+    const std::optional<qint64> rate = modSum::Evaluate(text.remove(u'%'), decimal);
     return rate && *rate >= 0 && *rate < most ? rate : std::nullopt;
 }
 
 // A rate that reads the same keeps its form, and so does a text that is none, as long as nobody changes it.
-QString StoredVat(const cTemplateItem& item, const QString& text)
+QString StoredVat(const cTemplateItem& item, const QString& text, eDecimal decimal)
 {
-    const std::optional<qint64> rate = ReadVat(text);
+    const std::optional<qint64> rate = ReadVat(text, decimal);
     if (text.trimmed() == item.TemplateVAT.trimmed() || (rate && rate == modTemplate::VatRate(item))) {
         return item.TemplateVAT;
     }
     return rate ? modTemplate::VatText(*rate) : QString();
 }
 
-QString ShownVat(const cTemplateItem& item)
+QString ShownVat(const cTemplateItem& item, eDecimal decimal)
 {
     const std::optional<qint64> rate = modTemplate::VatRate(item);
-    return rate ? modTemplate::VatText(*rate).replace(u'.', u',') : item.TemplateVAT;
+    const QChar separator = decimal == eDecimal::Comma ? u',' : u'.';
+    return rate ? modTemplate::VatText(*rate).replace(u'.', separator) : item.TemplateVAT;
 }
 
 // What a category brings into a new entry.
-void TakeDefaults(cTemplateItem& item, const cTemplateFields& fields)
+void TakeDefaults(cTemplateItem& item, const cTemplateFields& fields, eDecimal decimal)
 {
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
-    item.TemplateDefaultValue = StoredLimit(item, fields.Amount);
-    item.TemplateVAT = StoredVat(item, fields.Vat);
+    item.TemplateDefaultValue = StoredLimit(item, fields.Amount, decimal);
+    item.TemplateVAT = StoredVat(item, fields.Vat, decimal);
     item.TemplateComment = fields.Comment.trimmed();
 }
 
-cTemplateFields DefaultsOf(const cTemplateItem& item)
+cTemplateFields DefaultsOf(const cTemplateItem& item, eDecimal decimal)
 {
     cTemplateFields fields;
     fields.Type = item.EntryType;
     fields.Interval = item.EntryInterval;
-    fields.Amount = ShownLimit(item);
-    fields.Vat = ShownVat(item);
+    fields.Amount = ShownLimit(item, decimal);
+    fields.Vat = ShownVat(item, decimal);
     fields.Comment = item.TemplateComment;
     fields.IsVisible = modTemplate::IsVisible(item);
     return fields;
@@ -144,7 +144,7 @@ std::optional<cTemplateFields> cTemplateWriter::Load(const cTemplateNode& node, 
     if (node.Kind == eTemplateNode::Account) {
         return LoadAccount(*item, today);
     }
-    cTemplateFields fields = DefaultsOf(*item);
+    cTemplateFields fields = DefaultsOf(*item, m_decimal);
     fields.Group = modTemplate::GroupOf(*item);
     fields.Name = modTemplate::SubOf(modTemplate::Path(*item));
     return fields;
@@ -161,7 +161,7 @@ cTemplateFields cTemplateWriter::LoadMain(const QString& main) const
         }
         isAnyVisible = isAnyVisible || modTemplate::IsVisible(item);
         if (!fields.IsBookable && modTemplate::Path(item) == main) {
-            fields = DefaultsOf(item);
+            fields = DefaultsOf(item, m_decimal);
             fields.IsBookable = true;
         }
     }
@@ -176,8 +176,8 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
     cTemplateFields fields;
     fields.Name = item.TemplateName;
     fields.Group = item.TemplateCategory;
-    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {})) : QString();
-    fields.Limit = ShownAccountLimit(item);
+    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {}), m_decimal) : QString();
+    fields.Limit = ShownAccountLimit(item, m_decimal);
     fields.Date = start && start->EntryDate.isValid() ? start->EntryDate : today;
     fields.Numbers = cBankNumbers(m_data, m_settings).Of(item.TemplateName).join(u'\n');
     fields.Comment = item.TemplateComment;
@@ -187,13 +187,12 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
 
 bool cTemplateWriter::IsAmount(const QString& text)
 {
-    return text.trimmed().isEmpty() || modSum::Evaluate(text)
-        || Refuse(cText::Tr("'{0}' ist kein Betrag.", {text.trimmed()}));
+    return text.trimmed().isEmpty() || modSum::Evaluate(text, m_decimal) || Refuse(modSum::Fault(text, m_decimal));
 }
 
 bool cTemplateWriter::IsVat(const QString& old, const QString& text)
 {
-    return text.trimmed().isEmpty() || text == old || ReadVat(text)
+    return text.trimmed().isEmpty() || text == old || ReadVat(text, m_decimal)
         || Refuse(cText::Tr("'{0}' ist kein Steuersatz. Bitte geben Sie Prozente ein, zum Beispiel 19 oder 7.",
                             {text.trimmed()}));
 }
@@ -241,7 +240,7 @@ bool cTemplateWriter::WriteCategory(const cTemplateItem& item, const cTemplateFi
         return false;
     }
     cTemplateItem changed = *stored;
-    TakeDefaults(changed, fields);
+    TakeDefaults(changed, fields, m_decimal);
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
@@ -293,7 +292,7 @@ bool cTemplateWriter::WriteOwn(const cTemplateNode& node, const QString& main, c
         return !own || m_data.DeleteTemplate(own->ID);
     }
     cTemplateItem item = own.value_or(cTemplateItem{});
-    TakeDefaults(item, fields);
+    TakeDefaults(item, fields, m_decimal);
     if (own) {
         return item == *own || m_data.ChangeTemplate(item);
     }
@@ -378,7 +377,7 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFie
         changed.TemplateCategory = Cleaned(fields.Group);
     }
     changed.TemplateComment = fields.Comment.trimmed();
-    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit);
+    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit, m_decimal);
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
@@ -394,7 +393,7 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFie
 bool cTemplateWriter::WriteStartBalance(const QString& account, const cTemplateFields& fields)
 {
     if (!fields.Amount.trimmed().isEmpty()) {
-        return m_data.SetStartGuthaben(account, modSum::Evaluate(fields.Amount).value_or(0), fields.Date);
+        return m_data.SetStartGuthaben(account, modSum::Evaluate(fields.Amount, m_decimal).value_or(0), fields.Date);
     }
     const std::optional<cEntryItem> start = m_data.GetStartGuthaben(account);
     return !start || m_data.DeleteEntry(start->ID);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/modSum.h"
 #include "model/cTemplateItem.h"
 #include "views/template/cTemplateTreeModel.h"
 
@@ -37,10 +38,12 @@ struct cTemplateFields
 class cTemplateWriter
 {
 public:
-    cTemplateWriter(cDataAccess& data, cSettings& settings, cUser& user)
+    // `decimal` is the sign that typed and shown amounts have.
+    cTemplateWriter(cDataAccess& data, cSettings& settings, cUser& user, eDecimal decimal)
         : m_data(data),
           m_settings(settings),
-          m_user(user)
+          m_user(user),
+          m_decimal(decimal)
     {
     }
 
@@ -83,4 +86,5 @@ private:
     cDataAccess& m_data;
     cSettings& m_settings;
     cUser& m_user;
+    eDecimal m_decimal;
 };

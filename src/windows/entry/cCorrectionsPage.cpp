@@ -118,6 +118,7 @@ void cCorrectionsPage::Add()
     cEntryFields fields = m_fields();
     frmKorrektur form({.Text = cText::Tr("Die Korrektur gilt für den Zeitraum, in dem der Tag liegt."),
                        .Values = {.Day = cText::Tr("heute"), .Amount = fields.Amount, .Comment = {}},
+                       .Decimal = fields.Decimal,
                        .Today = m_today,
                        .Take =
                            [&](const frmKorrektur::cValues& values) {
@@ -141,6 +142,7 @@ void cCorrectionsPage::Change()
     const modCorrections::cLine text = modCorrections::Lines(fields).at(line);
     frmKorrektur form({.Text = text.Period,
                        .Values = {.Day = {}, .Amount = text.Amount, .Comment = text.Comment},
+                       .Decimal = fields.Decimal,
                        .Today = {},
                        .Take =
                            [&](const frmKorrektur::cValues& values) {

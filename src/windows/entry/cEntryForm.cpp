@@ -41,7 +41,7 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       m_form(new QFormLayout),
       m_startText(new QLabel(this)),
       m_amountRow(new QWidget(this)),
-      txtBetrag(new cAmountEdit(m_amountRow)),
+      txtBetrag(new cAmountEdit([this] { return m_fields.Decimal; }, m_amountRow, cAmountEdit::eEmpty::IsZero)),
       m_vat(new QLabel(m_amountRow)),
       cboKategorie(new cCategoryBox(editor.Suggestions(), this)),
       txtBeschreibung(new QLineEdit(this)),
@@ -189,6 +189,8 @@ void cEntryForm::Connect()
     connect(descriptions, &cPickList::Picked, this, &cEntryForm::ChooseDescription);
     connect(cboKonto, &QComboBox::activated, this, &cEntryForm::ChooseAccount);
     connect(cboBuchungsart, &QComboBox::currentIndexChanged, this, &cEntryForm::ShowTarget);
+    connect(cboBuchungsart, &QComboBox::activated, this, [this] { m_fields.BroughtType.clear(); });
+    connect(cboInterval, &QComboBox::activated, this, [this] { m_fields.BroughtInterval.clear(); });
     connect(EntryDateCheck, &QCheckBox::toggled, EntryDateEnd, &QWidget::setEnabled);
     connect(EntryDateCheck, &QCheckBox::toggled, this, &cEntryForm::ShowSeries);
     connect(cboInterval, &QComboBox::currentIndexChanged, this, &cEntryForm::ShowSeries);
@@ -200,7 +202,7 @@ void cEntryForm::Show(const cEntryFields& fields)
 {
     m_fields = fields;
     txtBetrag->setText(fields.Amount);
-    cboKategorie->SetPath(fields.Category);
+    cboKategorie->SetPath(fields.Category, fields.CategoryText);
     txtBeschreibung->setText(fields.Description);
     ShowDay(*EntryDate, fields.Date, fields.DateText);
     modChoice::Choose(*cboKonto, fields.Account);
@@ -220,6 +222,7 @@ cEntryFields cEntryForm::Read() const
     cEntryFields fields = m_fields;
     fields.Amount = txtBetrag->text();
     fields.Category = cboKategorie->Path();
+    fields.CategoryText = cboKategorie->UnknownText();
     fields.Description = txtBeschreibung->text();
     fields.Date = EntryDate->Day();
     fields.DateText = EntryDate->text();
@@ -265,7 +268,10 @@ void cEntryForm::ShowFace()
 
 void cEntryForm::ShowTarget()
 {
-    m_form->setRowVisible(cboNachKonto, cEntryEditor::ShowsTarget(Read()));
+    const cEntryFields fields = Read();
+    m_form->setRowVisible(cboNachKonto, cEntryEditor::ShowsTarget(fields));
+    cboKategorie->SetType(cEntryEditor::ChosenType(fields));
+    m_split->Table().SetType(cEntryEditor::ChosenType(fields));
     ShowVat();
 }
 
@@ -293,6 +299,8 @@ void cEntryForm::ChooseCategory(const QString& path)
 // What a part brings for the whole; the other fields stay as they are being typed.
 void cEntryForm::TakeDefaults(const cEntryFields& fields)
 {
+    m_fields.BroughtType = fields.BroughtType;
+    m_fields.BroughtInterval = fields.BroughtInterval;
     modChoice::Choose(*cboBuchungsart, fields.Type);
     modChoice::Choose(*cboInterval, fields.Interval);
 }
@@ -315,6 +323,15 @@ void cEntryForm::FocusFirst()
 {
     txtBetrag->setFocus();
     txtBetrag->selectAll();
+}
+
+void cEntryForm::FocusNext()
+{
+    if (m_fields.Face == eEntryFace::Split && !cEntryEditor::IsAmountOpen(Read())) {
+        m_split->Table().FocusOpen();
+    } else {
+        FocusFirst();
+    }
 }
 
 void cEntryForm::FocusOpen()
@@ -341,10 +358,14 @@ void cEntryForm::ShowFailure(cEntryEditor::eSaved saved)
     case cEntryEditor::eSaved::BadDate: field = EntryDate; break;
     case cEntryEditor::eSaved::BadEnd: field = EntryDateEnd; break;
     case cEntryEditor::eSaved::BadPart: m_split->ShowBadPart(); return;
+    case cEntryEditor::eSaved::BadTarget:
+        modBadField::Mark(*cboNachKonto);
+        cboNachKonto->setFocus();
+        return;
     case cEntryEditor::eSaved::Refused: FocusOpen(); return;
     case cEntryEditor::eSaved::Saved: return;
     }
-    modBadField::Mark(*field);
+    modBadField::Mark(*field, field == txtBetrag ? txtBetrag->Fault() : QString());
     field->setFocus();
     field->selectAll();
 }

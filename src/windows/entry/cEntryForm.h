@@ -34,6 +34,9 @@ public:
     // Puts the keyboard focus where typing starts.
     void FocusFirst();
 
+    // The same after the face has changed: with an amount, the split table comes next.
+    void FocusNext();
+
     // Colours what cannot be read, or moves to the first field that is still open.
     void ShowFailure(cEntryEditor::eSaved saved);
 

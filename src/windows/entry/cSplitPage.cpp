@@ -13,7 +13,7 @@ cSplitPage::cSplitPage(cEntryEditor& editor, fnFields fields, QWidget* parent)
     : QWidget(parent),
       m_editor(editor),
       m_fields(std::move(fields)),
-      m_table(new cSplitTable(editor.Suggestions(), this)),
+      m_table(new cSplitTable(editor.Suggestions(), editor.Decimal(), this)),
       m_rest(new QLabel(this)),
       m_fill(new QPushButton(cText::Tr("&Rest einsetzen"), this)),
       m_remove(new QPushButton(cText::Tr("&Zeile entfernen"), this))
@@ -24,6 +24,7 @@ cSplitPage::cSplitPage(cEntryEditor& editor, fnFields fields, QWidget* parent)
     connect(m_table, &cSplitTable::PartsEdited, this, &cSplitPage::ShowRest);
     connect(m_table, &cSplitTable::CategoryPicked, this, &cSplitPage::ChooseCategory);
     connect(m_table, &cSplitTable::DescriptionPicked, this, &cSplitPage::ChooseDescription);
+    connect(m_table, &cSplitTable::NewCategoryWanted, this, &cSplitPage::OfferCategory);
 }
 
 void cSplitPage::Build()
@@ -78,6 +79,15 @@ void cSplitPage::ChooseDescription(int line, const QString& text)
     cEntryFields fields = m_fields();
     m_editor.ChoosePartDescription(line, text, fields);
     ShowParts(fields);
+    Q_EMIT DefaultsTaken(fields);
+}
+
+void cSplitPage::OfferCategory(int line, const QString& typed)
+{
+    cEntryFields fields = m_fields();
+    m_editor.OfferPartCategory(line, typed, fields);
+    ShowParts(fields);
+    m_table->setFocus();
     Q_EMIT DefaultsTaken(fields);
 }
 

@@ -39,6 +39,7 @@ private:
     void Build();
     void ChooseCategory(int line, const QString& path);
     void ChooseDescription(int line, const QString& text);
+    void OfferCategory(int line, const QString& typed);
     void FillRest();
     void RemoveLine();
 

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 namespace {
 
@@ -16,7 +17,21 @@ constexpr int idRole = Qt::UserRole;
 
 } // namespace
 
-cSplitTable::cSplitTable(cEntrySuggestions& suggestions, QWidget* parent) : QTableWidget(0, ColumnCount, parent)
+cSplitTable::cSplitTable(cEntrySuggestions& suggestions, eDecimal decimal, QWidget* parent)
+    : QTableWidget(0, ColumnCount, parent),
+      m_decimal(decimal),
+      m_delegate(new cSplitDelegate(suggestions, decimal, this))
+{
+    Build();
+    setItemDelegate(m_delegate);
+    connect(m_delegate, &cSplitDelegate::CategoryPicked, this, &cSplitTable::CategoryPicked);
+    connect(m_delegate, &cSplitDelegate::DescriptionPicked, this, &cSplitTable::DescriptionPicked);
+    connect(m_delegate, &cSplitDelegate::NewCategoryWanted, this, &cSplitTable::NewCategoryWanted);
+    connect(this, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) { TakeChange(*item); });
+    ShowParts({});
+}
+
+void cSplitTable::Build()
 {
     setObjectName(QStringLiteral("rptSplit"));
     setAccessibleName(cText::Tr("Teilbeträge"));
@@ -34,12 +49,11 @@ cSplitTable::cSplitTable(cEntrySuggestions& suggestions, QWidget* parent) : QTab
     setSelectionMode(SingleSelection);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked | SelectedClicked);
     setWordWrap(false);
-    auto* delegate = new cSplitDelegate(suggestions, this);
-    setItemDelegate(delegate);
-    connect(delegate, &cSplitDelegate::CategoryPicked, this, &cSplitTable::CategoryPicked);
-    connect(delegate, &cSplitDelegate::DescriptionPicked, this, &cSplitTable::DescriptionPicked);
-    connect(this, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) { TakeChange(*item); });
-    ShowParts({});
+}
+
+void cSplitTable::SetType(const QString& type)
+{
+    m_delegate->SetType(type);
 }
 
 void cSplitTable::AppendLine()
@@ -55,7 +69,8 @@ void cSplitTable::AppendLine()
 
 void cSplitTable::ShowLine(int line, const cSplitPart& part)
 {
-    const QStringList texts{part.Category, part.Description, part.Amount};
+    item(line, Category)->setData(cSplitDelegate::PathRole, part.Category);
+    const QStringList texts{part.Category.isEmpty() ? part.CategoryText : part.Category, part.Description, part.Amount};
     for (int column = 0; column < ColumnCount; ++column) {
         if (item(line, column)->text() != texts.at(column)) {
             item(line, column)->setText(texts.at(column));
@@ -68,7 +83,7 @@ void cSplitTable::ShowParts(const QList<cSplitPart>& parts)
 {
     const QSignalBlocker blocker(this);
     QList<cSplitPart> lines = parts;
-    if (lines.isEmpty() || !modSplitParts::IsBlank(lines.last())) {
+    if (lines.isEmpty() || !modSplitParts::IsBlank(lines.last(), m_decimal)) {
         lines.append(cSplitPart());
     }
     const int count = static_cast<int>(lines.size());
@@ -88,10 +103,13 @@ QList<cSplitPart> cSplitTable::Parts() const
 {
     QList<cSplitPart> parts;
     for (int line = 0; line < rowCount(); ++line) {
-        parts.append({.ID = item(line, Category)->data(idRole).toInt(),
-                      .Category = item(line, Category)->text(),
+        const QTableWidgetItem& category = *item(line, Category);
+        const QString path = category.data(cSplitDelegate::PathRole).toString();
+        parts.append({.ID = category.data(idRole).toInt(),
+                      .Category = path,
                       .Description = item(line, Description)->text(),
-                      .Amount = item(line, Amount)->text()});
+                      .Amount = item(line, Amount)->text(),
+                      .CategoryText = path.isEmpty() ? category.text() : QString()});
     }
     return parts;
 }
@@ -102,7 +120,8 @@ void cSplitTable::TakeChange(QTableWidgetItem& item)
         const QSignalBlocker blocker(this);
         item.setData(Qt::BackgroundRole, {});
         item.setData(Qt::ForegroundRole, {});
-        if (!modSplitParts::IsBlank(Parts().last())) {
+        item.setToolTip({});
+        if (!modSplitParts::IsBlank(Parts().last(), m_decimal)) {
             AppendLine();
         }
     }
@@ -133,6 +152,8 @@ void cSplitTable::MarkAmount(int line)
         const QSignalBlocker blocker(this);
         amount->setBackground(modBadField::Color());
         amount->setForeground(Qt::black);
+        amount->setToolTip(modSum::Fault(amount->text(), m_decimal));
+        QToolTip::showText(viewport()->mapToGlobal(visualItemRect(amount).bottomLeft()), amount->toolTip(), this);
     }
 }
 
@@ -140,6 +161,11 @@ void cSplitTable::ChooseCell(int line, int column)
 {
     setCurrentCell(qBound(0, line, rowCount() - 1), column);
     setFocus();
+}
+
+void cSplitTable::FocusOpen()
+{
+    ChooseCell(0, Parts().constFirst().Category.isEmpty() ? Category : Amount);
 }
 
 QSize cSplitTable::sizeHint() const

@@ -135,7 +135,7 @@ void frmBuchung::ToggleSplit()
     }
     m_form->Show(fields);
     ShowFace();
-    m_form->FocusFirst();
+    m_form->FocusNext();
 }
 
 void frmBuchung::Save()

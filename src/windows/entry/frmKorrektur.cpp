@@ -28,6 +28,7 @@ frmKorrektur::cParts PartsFor(cSeriesChange& change, const cSeriesChange::cPerio
     frmKorrektur::cParts parts;
     parts.Text = fields.Title;
     parts.Values = {.Day = {}, .Amount = fields.Amount, .Comment = fields.Comment};
+    parts.Decimal = fields.Decimal;
     parts.Take = [&change, fields](const frmKorrektur::cValues& values) {
         cSeriesChange::cPeriodFields typed = fields;
         typed.Amount = values.Amount;
@@ -46,7 +47,7 @@ frmKorrektur::frmKorrektur(const cParts& parts, QWidget* parent)
     : QDialog(parent),
       m_parts(parts),
       m_day(new cDayEdit(parts.Today, this)),
-      txtBetrag(new cAmountEdit(this)),
+      txtBetrag(new cAmountEdit([this] { return m_parts.Decimal; }, this)),
       txtKommentar(new QLineEdit(this)),
       m_message(new QLabel(this))
 {
@@ -120,7 +121,8 @@ void frmKorrektur::ShowFailure(eTaken taken)
     const bool isDay = taken == eTaken::BadDay || taken == eTaken::NoOccurrence;
     m_message->setText(taken == eTaken::NoOccurrence
                            ? cText::Tr("Im Zeitraum um diesen Tag gibt es keine Buchung der Serie.")
-                           : QString());
+                           : taken == eTaken::BadAmount ? txtBetrag->Fault()
+                                                        : QString());
     m_message->setVisible(!m_message->text().isEmpty());
     if (isDay || taken == eTaken::BadAmount) {
         QLineEdit& field = isDay ? static_cast<QLineEdit&>(*m_day) : *txtBetrag;

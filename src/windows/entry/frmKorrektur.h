@@ -32,6 +32,7 @@ public:
     {
         QString Text;                               // what is corrected
         cValues Values;                             // to start with
+        eDecimal Decimal = eDecimal::Comma;         // how amounts are typed
         QDate Today;                                // valid: the form asks for the day
         std::function<eTaken(const cValues&)> Take; // stores the values
         std::function<bool()> Remove;               // removes the correction; empty when there is none

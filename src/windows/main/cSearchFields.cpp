@@ -60,9 +60,9 @@ QStringList ShownPeriods(const QStringList& stored)
     return shown;
 }
 
-void MarkAmount(cAmountEdit& edit)
+void MarkAmount(cAmountEdit& edit, const cSearchModel& model)
 {
-    if (!cSearchModel::IsAmount(edit.text())) {
+    if (!model.IsAmount(edit.text())) {
         modBadField::Mark(edit);
     }
 }
@@ -74,9 +74,9 @@ cSearchFields::cSearchFields(const cSearchModel& model, QWidget* parent)
       m_model(model),
       m_text(new QLineEdit(this)),
       m_amountRule(new QComboBox(this)),
-      m_amount(new cAmountEdit(this)),
+      m_amount(new cAmountEdit([this] { return m_model.Decimal(); }, this)),
       m_amountToLabel(new QLabel(cText::Tr("un&d:"), this)),
-      m_amountTo(new cAmountEdit(this)),
+      m_amountTo(new cAmountEdit([this] { return m_model.Decimal(); }, this)),
       m_period(new QComboBox(this)),
       m_start(new cDayEdit(model.Today(), this)),
       m_end(new cDayEdit(model.Today(), this)),
@@ -162,7 +162,7 @@ void cSearchFields::Connect()
     connect(m_text, &QLineEdit::textChanged, this, &cSearchFields::Typed);
     for (cAmountEdit* edit : {m_amount, m_amountTo}) {
         connect(edit, &QLineEdit::textChanged, this, &cSearchFields::Typed);
-        connect(edit, &QLineEdit::editingFinished, this, [edit] { MarkAmount(*edit); });
+        connect(edit, &QLineEdit::editingFinished, this, [this, edit] { MarkAmount(*edit, m_model); });
     }
     for (cDayEdit* edit : {m_start, m_end}) {
         connect(edit, &QLineEdit::textEdited, this, &cSearchFields::Typed);

@@ -1,6 +1,7 @@
 #include "windows/statement/cStagedActions.h"
 
 #include "base/cText.h"
+#include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleListModel.h"
@@ -152,6 +153,15 @@ void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
     } else {
         m_review.Choose(ids, text, {});
     }
+}
+
+bool cStagedActions::TakeNewCategory(const QModelIndex& index, const QString& typed)
+{
+    const QString path = m_review.Suggestions().OfferNew(typed, m_review.TypeOf({m_review.Rows().IdAt(index)}));
+    if (!path.isEmpty()) {
+        TakeChoice(index, path);
+    }
+    return !path.isEmpty();
 }
 
 void cStagedActions::ShowState()

@@ -29,6 +29,8 @@ public:
 
     // Takes a text that was chosen in a cell for all selected rows, when the cell is one of theirs.
     void TakeChoice(const QModelIndex& index, const QString& text);
+    // The same for a text that names no category yet, once the user agrees to make one of it; false when not.
+    bool TakeNewCategory(const QModelIndex& index, const QString& typed);
 
     void ShowState();
     void OpenMenu(const QPoint& globalPosition);

@@ -1,13 +1,17 @@
 #include "windows/statement/cStagedDelegate.h"
 
+#include "model/modWord.h"
 #include "views/statement/cStagedListModel.h"
+#include "windows/widget/cCategoryBox.h"
 #include "windows/widget/modTone.h"
 
 #include <QComboBox>
-#include <QCompleter>
 #include <QLineEdit>
 
-cStagedDelegate::cStagedDelegate(fnItems items, QObject* parent) : cRowDelegate(parent), m_items(std::move(items))
+cStagedDelegate::cStagedDelegate(cEntrySuggestions& suggestions, QStringList intervals, QObject* parent)
+    : cRowDelegate(parent),
+      m_suggestions(suggestions),
+      m_intervals(std::move(intervals))
 {
 }
 
@@ -27,20 +31,43 @@ void cStagedDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
 QWidget* cStagedDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                                        const QModelIndex& index) const
 {
-    auto* combo = new QComboBox(parent);
-    combo->addItems(m_items(index.column()));
-    combo->setMaxVisibleItems(16);
-    combo->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
+    QWidget* editor =
+        index.column() == cStagedListModel::Category ? CategoryEditor(parent, index) : IntervalEditor(parent);
+    editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
+    return editor;
+}
+
+QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& index) const
+{
+    auto* box = new cCategoryBox(m_suggestions, parent, cCategoryBox::eNew::IsTold);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this] { m_declined.clear(); });
+    const int tone = index.data(cStagedListModel::ToneRole).toInt();
+    box->SetType(tone == 0 ? QString() : tone == 1 ? modWord::Einnahme : modWord::Ausgabe);
     auto* delegate = const_cast<cStagedDelegate*>(this);
-    if (index.column() == cStagedListModel::Category) {
-        // Typing any part of a path finds it; the list of all stays one click away.
-        combo->setEditable(true);
-        combo->setInsertPolicy(QComboBox::NoInsert);
-        combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
-        combo->completer()->setFilterMode(Qt::MatchContains);
-        combo->completer()->setCaseSensitivity(Qt::CaseInsensitive);
-    }
-    // Also what the completer offers arrives here. The combo is still at work with the choice when it reports it.
+    // The list of proposals is still at work with the key or the click when it reports.
+    connect(
+        box, &cCategoryBox::PathPicked, box,
+        [delegate, box] {
+            Q_EMIT delegate->commitData(box);
+            Q_EMIT delegate->closeEditor(box);
+        },
+        Qt::QueuedConnection);
+    connect(
+        box, &cCategoryBox::NewWanted, box,
+        [delegate, box, place = QPersistentModelIndex(index)](const QString& typed) {
+            Q_EMIT delegate->closeEditor(box);
+            Q_EMIT delegate->NewCategoryWanted(place, typed);
+        },
+        Qt::QueuedConnection);
+    return box;
+}
+
+QWidget* cStagedDelegate::IntervalEditor(QWidget* parent) const
+{
+    auto* combo = new QComboBox(parent);
+    combo->addItems(m_intervals);
+    combo->setMaxVisibleItems(16);
+    auto* delegate = const_cast<cStagedDelegate*>(this);
     connect(
         combo, &QComboBox::activated, combo,
         [delegate, combo] {
@@ -53,19 +80,37 @@ QWidget* cStagedDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
 
 void cStagedDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
-    auto& combo = static_cast<QComboBox&>(*editor);
     const QString text = index.data(Qt::DisplayRole).toString();
-    combo.setCurrentIndex(combo.findText(text));
-    if (combo.isEditable()) {
-        combo.setEditText(text);
-        combo.lineEdit()->selectAll();
+    if (auto* box = qobject_cast<cCategoryBox*>(editor)) {
+        box->SetPath(m_start.isEmpty() ? text : QString(), m_start);
+        box->lineEdit()->selectAll();
+        m_start.clear();
+        return;
     }
+    auto& combo = static_cast<QComboBox&>(*editor);
+    combo.setCurrentIndex(combo.findText(text));
 }
 
 void cStagedDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*model*/, const QModelIndex& index) const
 {
-    const QString text = static_cast<const QComboBox&>(*editor).currentText();
-    if (text != index.data(Qt::DisplayRole).toString()) {
+    const auto* box = qobject_cast<cCategoryBox*>(editor);
+    if (box != nullptr && !box->UnknownText().isEmpty()) {
+        if (box->UnknownText() == m_declined) {
+            return;
+        }
+        m_declined = box->UnknownText();
+        // The question would take the focus from the field, which is at the moment being closed.
+        auto* delegate = const_cast<cStagedDelegate*>(this);
+        QMetaObject::invokeMethod(
+            delegate,
+            [delegate, place = QPersistentModelIndex(index), typed = box->UnknownText()] {
+                Q_EMIT delegate->NewCategoryWanted(place, typed);
+            },
+            Qt::QueuedConnection);
+        return;
+    }
+    const QString text = box != nullptr ? box->Path() : static_cast<const QComboBox&>(*editor).currentText();
+    if (!text.isEmpty() && text != index.data(Qt::DisplayRole).toString()) {
         Q_EMIT Chosen(index, text);
     }
 }

@@ -2,9 +2,10 @@
 
 #include "windows/widget/cRowDelegate.h"
 
+#include <QPersistentModelIndex>
 #include <QStringList>
 
-#include <functional>
+class cEntrySuggestions;
 
 // Cells of the list of bank transactions: amounts in their colour, and lists to choose category and interval from.
 class cStagedDelegate final : public cRowDelegate
@@ -12,10 +13,11 @@ class cStagedDelegate final : public cRowDelegate
     Q_OBJECT
 
 public:
-    // What a column offers when it is edited.
-    using fnItems = std::function<QStringList(int column)>;
+    // `intervals` as they are shown.
+    cStagedDelegate(cEntrySuggestions& suggestions, QStringList intervals, QObject* parent = nullptr);
 
-    explicit cStagedDelegate(fnItems items, QObject* parent = nullptr);
+    // The next category that is edited starts with this text, and leaving it unchanged asks no more.
+    void StartWith(const QString& typed) { m_start = m_declined = typed; }
 
     [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                         const QModelIndex& index) const override;
@@ -27,10 +29,18 @@ public:
 Q_SIGNALS:
     // The user chose a text for a cell; who listens decides which rows it goes to.
     void Chosen(const QModelIndex& index, const QString& text) const;
+    // The same for a text that names no category yet.
+    void NewCategoryWanted(const QPersistentModelIndex& index, const QString& typed) const;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
 private:
-    fnItems m_items;
+    [[nodiscard]] QWidget* CategoryEditor(QWidget* parent, const QModelIndex& index) const;
+    [[nodiscard]] QWidget* IntervalEditor(QWidget* parent) const;
+
+    cEntrySuggestions& m_suggestions;
+    QStringList m_intervals;
+    mutable QString m_start;
+    mutable QString m_declined; // what was asked about already; leaving a field commits it more than once
 };

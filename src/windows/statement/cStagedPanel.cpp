@@ -121,13 +121,16 @@ void cStagedPanel::AddMore(QAction* action)
 void cStagedPanel::Connect()
 {
     cStagedChoice& view = m_review.View();
-    auto* delegate = new cStagedDelegate(
-        [this](int column) {
-            return column == cStagedListModel::Category ? m_review.Categories() : cImportReview::Intervals();
-        },
-        this);
+    auto* delegate = new cStagedDelegate(m_review.Suggestions(), cImportReview::Intervals(), this);
     m_tree->setItemDelegate(delegate);
     connect(delegate, &cStagedDelegate::Chosen, m_actions, &cStagedActions::TakeChoice);
+    connect(delegate, &cStagedDelegate::NewCategoryWanted, this,
+            [this, delegate](const QPersistentModelIndex& index, const QString& typed) {
+                if (index.isValid() && !m_actions->TakeNewCategory(index, typed)) {
+                    delegate->StartWith(typed); // what was typed is not lost
+                    m_tree->edit(index);
+                }
+            });
     connect(m_openOnly, &QCheckBox::toggled, &view, &cStagedChoice::SetOpenOnly);
     connect(m_hideOld, &QCheckBox::toggled, &view, &cStagedChoice::SetOldHidden);
     connect(m_showTitle, &QAction::toggled, &view, &cStagedChoice::SetTitleShown);

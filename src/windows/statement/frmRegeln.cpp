@@ -251,6 +251,7 @@ void frmRegeln::ReadDraft()
     rule.Text = m_text->text().trimmed();
     rule.Counterparty = m_counterparty->text().trimmed();
     rule.Sign = static_cast<eRuleSign>(m_sign->currentData().toInt());
+    m_category->SetType(cRuleListModel::TypeOf(rule));
     rule.Account = m_account->currentData().toString();
     const QString path = m_category->Path();
     rule.Category = path.isEmpty() ? m_category->currentText().trimmed() : path;

@@ -30,6 +30,7 @@ frmUmsatzKategorie::frmUmsatzKategorie(cImportReview& review, const QList<int>& 
     m_interval->addItem(cText::Tr("wie vorgeschlagen"));
     m_interval->addItems(cImportReview::Intervals());
     m_category->lineEdit()->setPlaceholderText(cText::Tr("wie vorgeschlagen"));
+    m_category->SetType(m_review.TypeOf(m_rowIds));
     Build();
     m_category->setFocus();
 }
@@ -56,12 +57,12 @@ void frmUmsatzKategorie::Build()
 
 void frmUmsatzKategorie::accept()
 {
-    const QString category = m_category->Path();
-    if (category.isEmpty() && !m_category->currentText().trimmed().isEmpty()) {
+    if (!m_category->UnknownText().isEmpty() && !m_category->AskNew()) {
         modBadField::Mark(*m_category->lineEdit());
         m_category->setFocus();
         return;
     }
+    const QString category = m_category->Path();
     const QString interval =
         m_interval->currentIndex() > 0 ? cImportReview::StoredInterval(m_interval->currentText()) : QString();
     m_review.Choose(m_rowIds, category, interval);

@@ -1,19 +1,21 @@
 #include "windows/widget/cAmountEdit.h"
 
-#include "base/modSum.h"
-
 #include <QFocusEvent>
 
-cAmountEdit::cAmountEdit(QWidget* parent) : QLineEdit(parent)
+cAmountEdit::cAmountEdit(fnDecimal decimal, QWidget* parent, eEmpty empty)
+    : QLineEdit(parent),
+      m_decimal(std::move(decimal)),
+      m_empty(empty)
 {
     setAlignment(Qt::AlignRight);
 }
 
 void cAmountEdit::Evaluate()
 {
-    const std::optional<qint64> cents = modSum::Evaluate(text());
-    if (cents && modSum::ToText(*cents) != text()) {
-        setText(modSum::ToText(*cents));
+    const bool isZero = m_empty == eEmpty::IsZero && text().trimmed().isEmpty();
+    const std::optional<qint64> cents = isZero ? 0 : modSum::Evaluate(text(), m_decimal());
+    if (cents && modSum::ToText(*cents, m_decimal()) != text()) {
+        setText(modSum::ToText(*cents, m_decimal()));
         Q_EMIT Evaluated();
     }
 }

@@ -10,22 +10,26 @@
 
 namespace {
 
-QList<cPickRow> Rows(cEntrySuggestions& suggestions, const QString& typed)
+QList<cPickRow> Rows(cEntrySuggestions& suggestions, const QString& typed, const QString& type)
 {
-    const QStringList paths = suggestions.Categories(typed);
+    const QStringList paths = suggestions.Categories(typed, type);
     const QStringList recent = suggestions.RecentCategories();
     QList<cPickRow> rows;
     for (const QString& path : paths) {
         rows.append({path, recent.contains(path) ? cText::Tr("zuletzt") : QString()});
+    }
+    if (!typed.trimmed().isEmpty() && !suggestions.IsCategory(typed)) {
+        rows.append({cText::Tr("'{0}' neu anlegen…", {typed.simplified()}), {}, true});
     }
     return rows;
 }
 
 } // namespace
 
-cCategoryBox::cCategoryBox(cEntrySuggestions& suggestions, QWidget* parent)
+cCategoryBox::cCategoryBox(cEntrySuggestions& suggestions, QWidget* parent, eNew whoAsks)
     : QComboBox(parent),
       m_suggestions(suggestions),
+      m_whoAsks(whoAsks),
       m_list(nullptr)
 {
     setEditable(true);
@@ -33,29 +37,58 @@ cCategoryBox::cCategoryBox(cEntrySuggestions& suggestions, QWidget* parent)
     setInsertPolicy(NoInsert);
     lineEdit()->setAccessibleName(cText::Tr("Kategorie"));
     m_list = new cPickList(*lineEdit(), *this, cPickList::eChosen::FirstRow,
-                           [this](const QString& typed) { return Rows(m_suggestions, typed); });
+                           [this](const QString& typed) { return Rows(m_suggestions, typed, m_type); });
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { m_path.clear(); });
     connect(m_list, &cPickList::Picked, this, &cCategoryBox::Take);
+    connect(m_list, &cPickList::Offered, this, &cCategoryBox::WantNew);
 }
 
-void cCategoryBox::SetPath(const QString& path)
+void cCategoryBox::SetPath(const QString& path, const QString& typed)
 {
-    m_path = path;
-    setEditText(path);
+    m_path = m_told = path;
+    setEditText(path.isEmpty() ? typed : path);
 }
 
 QString cCategoryBox::Path() const
 {
     const QString typed = currentText().trimmed();
-    return m_path.isEmpty() && !typed.isEmpty() ? m_suggestions.CategoryMeant(typed) : m_path;
+    return m_path.isEmpty() && !typed.isEmpty() ? m_suggestions.CategoryMeant(typed, m_type) : m_path;
+}
+
+QString cCategoryBox::UnknownText() const
+{
+    return Path().isEmpty() ? currentText().trimmed() : QString();
 }
 
 void cCategoryBox::Settle()
 {
     const QString path = Path();
-    if (path != m_path) {
+    if (path.isEmpty() && !m_told.isEmpty()) {
+        m_told.clear(); // what stands there stays
+        Q_EMIT PathPicked({});
+    } else if (path != m_path) {
         Take(path);
     }
+}
+
+void cCategoryBox::WantNew()
+{
+    if (m_whoAsks == eNew::IsTold) {
+        Q_EMIT NewWanted(currentText().trimmed());
+        return;
+    }
+    (void)AskNew();
+}
+
+bool cCategoryBox::AskNew()
+{
+    m_isAsking = true;
+    const QString path = m_suggestions.OfferNew(currentText(), m_type);
+    m_isAsking = false;
+    if (!path.isEmpty()) {
+        Take(path);
+    }
+    return !path.isEmpty();
 }
 
 void cCategoryBox::showPopup()
@@ -72,7 +105,9 @@ void cCategoryBox::Take(const QString& path)
 void cCategoryBox::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
-    Settle();
+    if (!m_isAsking) {
+        Settle();
+    }
 }
 
 void cCategoryBox::wheelEvent(QWheelEvent* event)

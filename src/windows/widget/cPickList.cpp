@@ -14,6 +14,7 @@ namespace {
 
 constexpr int mostRows = 12;
 constexpr int noteRole = Qt::UserRole;
+constexpr int offerRole = Qt::UserRole + 1;
 constexpr int gap = 12; // between text and note
 
 // Draws the note at the right end of the line.
@@ -83,9 +84,11 @@ void cPickList::Fill(const QList<cPickRow>& rows)
     for (const cPickRow& row : rows) {
         auto* item = new QStandardItem(row.Text);
         item->setData(row.Note, noteRole);
+        item->setData(row.IsOffer, offerRole);
         m_items->appendRow(item);
     }
-    setCurrentIndex(m_chosen == eChosen::FirstRow ? m_items->index(0, 0) : QModelIndex());
+    const bool isFirst = m_chosen == eChosen::FirstRow && !rows.first().IsOffer;
+    setCurrentIndex(isFirst ? m_items->index(0, 0) : QModelIndex());
     scrollToTop();
 }
 
@@ -103,6 +106,10 @@ void cPickList::Take(const QModelIndex& index)
 {
     const QString text = index.data().toString();
     hide();
+    if (index.data(offerRole).toBool()) {
+        Q_EMIT Offered();
+        return;
+    }
     m_edit.setText(text);
     Q_EMIT Picked(text);
 }

@@ -14,6 +14,7 @@ struct cPickRow
 {
     QString Text;
     QString Note;
+    bool IsOffer = false; // not a text for the field but something to be done; it has to be chosen by hand
 };
 
 // The list of proposals below a text field. It follows the typing and is used from the keyboard: Down opens it, Up and
@@ -40,6 +41,7 @@ public:
 
 Q_SIGNALS:
     void Picked(const QString& text);
+    void Offered(); // the row that is an offer was picked; the field keeps its text
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,10 +1,24 @@
 #include "windows/widget/modBadField.h"
 
+#include <QComboBox>
 #include <QLineEdit>
+#include <QToolTip>
 
 namespace {
 
 constexpr QColor badField(245, 160, 160);
+
+void Colour(QWidget& field)
+{
+    QPalette colors = field.palette();
+    for (const QPalette::ColorRole back : {QPalette::Base, QPalette::Button}) { // a box without text field is a button
+        colors.setColor(back, badField);
+    }
+    for (const QPalette::ColorRole text : {QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
+        colors.setColor(text, Qt::black);
+    }
+    field.setPalette(colors);
+}
 
 } // namespace
 
@@ -13,14 +27,21 @@ QColor modBadField::Color()
     return badField;
 }
 
-void modBadField::Mark(QLineEdit& edit)
+void modBadField::Mark(QLineEdit& edit, const QString& why)
 {
-    QPalette colors = edit.palette();
-    colors.setColor(QPalette::Base, badField);
-    colors.setColor(QPalette::Text, Qt::black);
-    edit.setPalette(colors);
+    Colour(edit);
     QObject::connect(
         &edit, &QLineEdit::textEdited, &edit, [&edit] { Clear(edit); }, Qt::SingleShotConnection);
+    if (!why.isEmpty()) {
+        QToolTip::showText(edit.mapToGlobal(edit.rect().bottomLeft()), why, &edit);
+    }
+}
+
+void modBadField::Mark(QComboBox& box)
+{
+    Colour(box);
+    QObject::connect(
+        &box, &QComboBox::currentIndexChanged, &box, [&box] { box.setPalette({}); }, Qt::SingleShotConnection);
 }
 
 void modBadField::Clear(QLineEdit& edit)
@@ -28,7 +49,7 @@ void modBadField::Clear(QLineEdit& edit)
     edit.setPalette({});
 }
 
-bool modBadField::IsMarked(const QLineEdit& edit)
+bool modBadField::IsMarked(const QWidget& field)
 {
-    return edit.palette().color(QPalette::Active, QPalette::Base) == badField;
+    return field.palette().color(QPalette::Active, QPalette::Base) == badField;
 }
