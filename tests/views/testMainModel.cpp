@@ -351,7 +351,7 @@ void testMainModel::DeletesAfterSayingWhatASeriesMeans()
     cEntryItem march = scene.Rent;
     march.EntryDate = QDate(2026, 3, 1);
     scene.Select({scene.Rent, march});
-    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    scene.Book.User.Decisions = {-1, 1};
     scene.Model->Execute(modCommand::DeleteEntry);
     QCOMPARE(scene.Book.Data.CountEntries(), 5);
     QVERIFY(scene.Book.User.Asked.constFirst().contains(u"Monatlich seit 01.01.2026"_s));
@@ -370,7 +370,7 @@ void testMainModel::UndoBringsTheBookBack()
     QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
     scene.Select({scene.Rent});
     scene.Model->Execute(modCommand::SkipPeriod);
-    scene.Book.User.Answers = {eAnswer::Yes};
+    scene.Book.User.Decisions = {1};
     scene.Select({scene.Rent});
     scene.Model->Execute(modCommand::DeleteEntry);
     QCOMPARE(scene.Model->Entries().rowCount(), 3);
