@@ -4,6 +4,7 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "core/cBook.h"
+#include "core/cSettings.h"
 #include "core/modDemo.h"
 #include "store/cDataAccess.h"
 
@@ -39,6 +40,7 @@ int Run(const cCliContext& context)
     if (!book.Open(path) || !modDemo::Write(book.Data(), modDemo::OfSize(entries, context.Clock.Today()))) {
         return modExit::Failed;
     }
+    (void)book.Settings().CheckVersion(QStringLiteral(APP_VERSION)); // there is nothing older to keep a copy of
     modConsole::Out(
         cText::Tr("{0}: Beispielhaushalt mit {1} Einträgen", {path, QString::number(book.Data().CountEntries())})
         + u'\n');

@@ -29,6 +29,9 @@ QStringList Upgrade(cDatabase& database);
 // Tables and columns that the program needs and the database does not have, in words for the user.
 [[nodiscard]] QStringList Missing(cDatabase& database);
 
+// The same for what comes with the template, which no upgrade can bring back.
+[[nodiscard]] QStringList MissingOfTemplate(cDatabase& database);
+
 // Lets queries work on a database that must not be upgraded: temporary tables and views take the place of what is
 // missing. False when the file cannot be read after all.
 [[nodiscard]] bool StandIn(cDatabase& database);

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void FromHereOn();
     void LostCorrectionsNeedYes();
     void DeleteSaysWhatFirst();
+    void CheckSaysHowToMendHiddenEntries();
     void PartsOfASplitEntry();
     void StartBalances();
     void Search_data();
@@ -232,6 +233,35 @@ void testCliEntries::DeleteSaysWhatFirst()
              QStringList({u"650"_s, u"0"_s, u"650"_s}));
     Do(u"delete|%1|%2|%1|--yes"_s.arg(one, series));
     QCOMPARE(CountEntries(), 0);
+}
+
+void testCliEntries::CheckSaysHowToMendHiddenEntries()
+{
+    const QString day = Add(u"--amount|5|--category|Haushalt; Getränke|--text|Saft"_s);
+    const QString end = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
+    const QString gone = Add(u"--amount|7|--category|Haushalt; Getränke"_s);
+    const auto spoil = [&](const QString& id, const QString& change) {
+        cTestFile::Run(Database(), u"UPDATE data SET %1 WHERE ID = %2"_s.arg(change, id).toStdString());
+    };
+    spoil(day, u"EntryDate = 'gestern', EntryValue = 'fünf', EntryInterval = NULL"_s);
+    spoil(end, u"EntryDateEnd = '2026-01-01'"_s);
+    spoil(gone, u"EntryDate = ''"_s);
+    const cCliRun check = Run({u"check"_s});
+    QCOMPARE(check.Code, 1);
+    for (const QString& text :
+         {u"Die Datei ist unbeschädigt.\n3 Einträge"_s,
+          u"Eintrag %1, 'Saft': Tag 'gestern' nicht lesbar; kein Intervall; Betrag 'fünf' nicht lesbar\n"_s.arg(day),
+          u"\"change %1 --date DATUM --interval INTERVALL --amount BETRAG\" berichtigt ihn"_s.arg(day),
+          u"\"change %1 --end DATUM\" berichtigt ihn, \"delete %1 --yes\" löscht ihn."_s.arg(end)}) {
+        QVERIFY2(check.Out.contains(text), qPrintable(check.Text()));
+    }
+    Do(u"change|%1|--text|Apfelsaft"_s.arg(day));
+    QVERIFY(Run({u"check"_s}).Out.contains("Tag 'gestern'"_L1));
+    Do(u"change|%1|--date|1.3.2026|--interval|Einmalig|--amount|5"_s.arg(day));
+    Do(u"change|%1|--end|31.1.2026"_s.arg(end));
+    Do(u"delete|%1|--yes"_s.arg(gone));
+    Do(u"check"_s);
+    QCOMPARE(Stored(u"search|--json|--period|Alle Buchungen"_s).size(), 2);
 }
 
 void testCliEntries::PartsOfASplitEntry()

@@ -24,6 +24,7 @@ cEntryFields cStartBalance::Show(const QString& account) const
     fields.Account = account;
     fields.Amount = modSum::ToText(stored ? modBalance::Effect(*stored, {}) : 0);
     fields.Date = stored ? stored->EntryDate : QDate();
+    fields.IsDayKept = stored && !fields.Date.isValid();
     return fields;
 }
 
