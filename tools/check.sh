@@ -25,6 +25,7 @@ only '#include <(QtWidgets|QtGui|QtNetwork|QtSql)?/?(QWidget|QDialog|QMessageBox
 only 'sqlite3(_|\.h)|#include <SQLiteCpp'      'src/store/|tests/|bench/' 'the database driver is called in store/ only'
 only '"(SELECT|INSERT|UPDATE|DELETE|ALTER|CREATE|PRAGMA) ' 'src/store/|tests/|bench/' 'SQL text outside store/'
 only 'QDate(Time)?::current|QTime::current'    'src/app/'              'the current time comes from cClock'
+only 'QDateEdit|QDateTimeEdit'                 'none/'                 'days are typed in cDayEdit'
 only 'QMessageBox|QInputDialog'                'src/app/|tests/(windows|app)/' 'messages and questions go through cUser'
 only 'QSettings|QStandardPaths|QProcess|QLocale::system' 'src/app/|tests/(app|cli)/' 'the machine is reached through the ports of base/'
 only '\bthrow\b.*;|\bcatch \('                 'src/(store|app|cli)/|tests/|bench/' 'exceptions stay inside store/ and the adapters'

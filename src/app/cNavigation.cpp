@@ -7,6 +7,7 @@
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
 #include "views/book/cBackupSettings.h"
+#include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
 #include "views/book/cPasswordFlow.h"
 #include "views/entry/cSeriesChange.h"
@@ -24,6 +25,7 @@
 #include "views/template/cTemplateManager.h"
 #include "windows/book/frmLaender.h"
 #include "windows/book/frmPasswort.h"
+#include "windows/book/frmPruefung.h"
 #include "windows/book/frmSicherungen.h"
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
@@ -250,6 +252,21 @@ void cNavigation::OpenAccountStatement()
     form.exec();
 }
 
+void cNavigation::OpenCheck()
+{
+    cBookCheck check(m_parts.Book.Data(), m_parts.Format);
+    frmPruefung form(check, Parent());
+    QObject::connect(&form, &frmPruefung::EntryRequested, m_model, [&](int entryId) {
+        OpenEntry(entryId, {});
+        check.Reload();
+    });
+    QObject::connect(&form, &frmPruefung::DeleteRequested, m_model, [&](int entryId) {
+        m_model->Delete({{entryId, QDate()}});
+        check.Reload();
+    });
+    form.exec();
+}
+
 void cNavigation::OpenPassword()
 {
     if (!m_password) {
@@ -338,6 +355,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
+    case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
     case modCommand::Rules: OpenRules(); break;

@@ -71,6 +71,7 @@ private:
     void OpenSearch();
     void OpenImport();
     void OpenAccountStatement();
+    void OpenCheck();
     void OpenPassword();
     void OpenBackupSettings();
     void OpenNationalSettings();

@@ -149,12 +149,3 @@ QString cCliBook::MakeBackup(const QString& target, cShell& shell)
 {
     return cBackup(m_book->Database(), shell).Make(target);
 }
-
-QStringList cCliBook::IntegrityProblems()
-{
-    try {
-        return m_book->Database().IntegrityCheck();
-    } catch (const cDatabaseError& error) {
-        return {error.Text()};
-    }
-}

@@ -46,8 +46,6 @@ public:
     [[nodiscard]] cConfiguration& Configuration() { return *m_configuration; }
     // Writes a checked copy of the book; what went wrong, empty when it is there.
     [[nodiscard]] QString MakeBackup(const QString& target, cShell& shell);
-    // What SQLite finds wrong with the file; empty when it is sound.
-    [[nodiscard]] QStringList IntegrityProblems();
 
 private:
     cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock);

@@ -2,31 +2,65 @@
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "views/book/cBookCheck.h"
+#include "views/entry/modEntryFields.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// The option of "change" that mends a fault.
+QString Option(eEntryFault fault)
+{
+    switch (fault) {
+    case eEntryFault::Day: return u"--date DATUM"_s;
+    case eEntryFault::Interval: return u"--interval INTERVALL"_s;
+    case eEntryFault::End: return u"--end DATUM"_s;
+    case eEntryFault::Amount: return u"--amount BETRAG"_s;
+    }
+    return {};
+}
+
+void Show(const cFaultyEntry& faulty)
+{
+    QStringList options;
+    for (const eEntryFault fault : faulty.Faults) {
+        options.append(Option(fault));
+    }
+    const QString id = QString::number(faulty.Entry.ID);
+    modConsole::Out(
+        cText::Tr("Eintrag {0}, '{1}': {2}", {id, modEntryFields::Name(faulty.Entry), cBookCheck::FaultText(faulty)})
+        + u"\n  "_s
+        + cText::Tr("\"change {0} {1}\" berichtigt ihn, \"delete {0} --yes\" löscht ihn.", {id, options.join(u' ')})
+        + u'\n');
+}
+
+QString Head(cCliBook& book)
+{
+    const QString entries = QString::number(book.Data.CountEntries());
+    return book.Data.GetMissingParts().isEmpty()
+        ? cText::Tr("{0}: gültige Datenbank, {1} Einträge, {2} Umsätze",
+                    {book.File().Path(), entries, QString::number(book.Hive.GetImportHive().Count())})
+        : cText::Tr("{0}: {1} Einträge", {book.File().Path(), entries});
+}
+
 int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    modConsole::Out(cText::Tr("{0}: gültige Datenbank, {1} Einträge, {2} Umsätze",
-                              {book.File().Path(), QString::number(book.Data.CountEntries()),
-                               QString::number(book.Hive.GetImportHive().Count())})
-                    + u'\n');
+    modConsole::Out(Head(book) + u'\n');
     const QStringList added = book.File().Added();
     if (!added.isEmpty()) {
         modConsole::Out(cText::Tr("Beim Öffnen ergänzt: {0}", {added.join(u", "_s)}) + u'\n');
     }
-    const QStringList problems = book.IntegrityProblems();
-    for (const QString& problem : problems) {
+    const cBookCheck check(book.Data, book.Format());
+    for (const QString& problem : check.FileProblems()) {
         modConsole::Error(problem);
     }
-    modConsole::Out((problems.isEmpty()
-                         ? cText::Tr("Die Datei ist unbeschädigt.")
-                         : cText::Tr("Die Datei ist beschädigt. Bitte spielen Sie eine Datensicherung zurück."))
-                    + u'\n');
-    return problems.isEmpty() ? modExit::Done : modExit::Failed;
+    modConsole::Out(check.FileText() + u'\n' + check.EntriesText() + u'\n');
+    for (const cFaultyEntry& entry : check.Entries()) {
+        Show(entry);
+    }
+    return check.IsSound() ? modExit::Done : modExit::Failed;
 }
 
 } // namespace
@@ -34,7 +68,9 @@ int Run(const cCliContext& context)
 cCliCommand modCliCommands::CheckCommand()
 {
     return {.Name = u"check"_s,
-            .Help = cText::Tr("prüft die Datenbank und sagt, was beim Öffnen ergänzt wurde"),
+            .Help = cText::Tr(
+                "prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und sagt, "
+                "was beim Öffnen ergänzt wurde"),
             .Access = eCliAccess::Write,
             .Run = Run};
 }

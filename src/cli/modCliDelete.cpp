@@ -11,6 +11,21 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// The occurrence that --only or --from names; an invalid day when neither does.
+QDate Occurrence(const cCliContext& context, const QList<int>& ids, cCliReader& reader)
+{
+    const cCliCall& call = context.Call;
+    if (!call.Has(u"only"_s) && !call.Has(u"from"_s)) {
+        return {};
+    }
+    if (call.Has(u"only"_s) && call.Has(u"from"_s)) {
+        reader.Misused(cText::Tr("Bitte entweder --only oder --from angeben."));
+    } else if (ids.size() != 1) {
+        reader.Misused(cText::Tr("Mit --only und --from nennen Sie bitte nur eine Serie."));
+    }
+    return reader.Occurrence(ids.constFirst(), call.Value(call.Has(u"only"_s) ? u"only"_s : u"from"_s));
+}
+
 int Run(const cCliContext& context)
 {
     cCliReader reader(context);
@@ -21,6 +36,7 @@ int Run(const cCliContext& context)
             ids.append(id);
         }
     }
+    const QDate day = Occurrence(context, ids, reader);
     if (!reader.IsGood()) {
         return reader.Report();
     }
@@ -35,7 +51,9 @@ int Run(const cCliContext& context)
         answers.Decision = context.Call.Has(u"all-parts"_s) ? 1 : 0;
     }
     context.User.Prepare(answers);
-    return modCliFlow::Finish(context, remover.Delete(ids));
+    const eSeriesPart part = context.Call.Has(u"only"_s) ? eSeriesPart::OnlyThis : eSeriesPart::FromHere;
+    return modCliFlow::Finish(context,
+                              day.isValid() ? remover.Delete({ids.constFirst(), day}, part) : remover.Delete(ids));
 }
 
 } // namespace
@@ -44,11 +62,14 @@ cCliCommand modCliCommands::DeleteCommand()
 {
     return {.Name = u"delete"_s,
             .Arguments = u"ID..."_s,
-            .Help = cText::Tr("sagt, was gelöscht würde, und löscht es mit --yes; Serien ganz, mit ihren Korrekturen"),
+            .Help = cText::Tr("sagt, was gelöscht würde, und löscht es mit --yes; von einer Serie alles mit ihren "
+                              "Korrekturen, ein Vorkommen oder alles ab einem Tag"),
             .MinArguments = 1,
             .MaxArguments = Any,
             .Access = eCliAccess::Write,
-            .Options = {{u"yes"_s, {}, cText::Tr("wirklich löschen")},
+            .Options = {{u"only"_s, u"DATUM"_s, cText::Tr("nur das Vorkommen an diesem Tag: sein Betrag wird null")},
+                        {u"from"_s, u"DATUM"_s, cText::Tr("die Serie von diesem Vorkommen an")},
+                        {u"yes"_s, {}, cText::Tr("wirklich löschen")},
                         {u"all-parts"_s, {}, cText::Tr("alle Teile einer aufgeteilten Buchung, nicht nur diesen")}},
             .Run = Run};
 }

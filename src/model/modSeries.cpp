@@ -59,6 +59,12 @@ QList<QDate> modSeries::Next(const cEntryItem& series, QDate from, int count)
     return days;
 }
 
+QDate modSeries::Last(const cEntryItem& series)
+{
+    const cEntryItemList occurrences = Occurrences(series, {});
+    return occurrences.isEmpty() ? QDate() : occurrences.last().EntryDate;
+}
+
 int modSeries::Count(const cEntryItem& series)
 {
     if (modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd) {

@@ -20,6 +20,9 @@ namespace modSeries {
 // The first `count` days of the series from `from` on; fewer when it ends before.
 [[nodiscard]] QList<QDate> Next(const cEntryItem& series, QDate from, int count);
 
+// The last day of the series; invalid when it has none at all.
+[[nodiscard]] QDate Last(const cEntryItem& series);
+
 // Number of occurrences up to the end of the series; 0 when it has no end.
 [[nodiscard]] int Count(const cEntryItem& series);
 

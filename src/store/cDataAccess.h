@@ -3,6 +3,7 @@
 #include "model/cEntryItem.h"
 #include "model/cEntryItemFixMod.h"
 #include "model/cEntryQuery.h"
+#include "model/cFaultyEntry.h"
 #include "model/cImportEntry.h"
 #include "model/cOnlineAccount.h"
 #include "model/cTemplateItem.h"
@@ -74,6 +75,8 @@ public:
     [[nodiscard]] int CountEntries();
     [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
+    // Entries that no view shows or that do not count as they stand, by ID.
+    [[nodiscard]] QList<cFaultyEntry> GetFaultyEntries();
     // Numbers of entries by their exact category path, and by the accounts they have as source or target.
     [[nodiscard]] QHash<QString, int> CountEntriesByCategory();
     [[nodiscard]] QHash<QString, int> CountEntriesByAccount();
@@ -143,6 +146,11 @@ public:
     [[nodiscard]] QList<std::pair<QString, QString>> GetSettings();                  // name, value
     [[nodiscard]] bool ChangeSettingItem(const QString& name, const QString& value); // adds it when missing
     [[nodiscard]] bool DeleteSetting(const QString& name);
+
+    // The file itself: what SQLite finds wrong with it, and which tables and columns it should have brought and has
+    // not. Both in words, empty for a sound file.
+    [[nodiscard]] QStringList GetFileProblems();
+    [[nodiscard]] QStringList GetMissingParts();
 
     // Undo. What is written between BeginStep and EndStep is one step of the user; use cUndoStep rather than these. A
     // write to a table of the book outside of a step cannot be taken back, and neither can the steps before it.

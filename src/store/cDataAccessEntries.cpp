@@ -32,11 +32,14 @@ cStoredForm NewForm(const cEntryItem& entry)
 cStoredForm KeptForm(cDatabase& database, const cEntryItem& entry)
 {
     cStoredForm form = NewForm(entry);
-    cRows rows(database, "SELECT EntryDate, EntryDateEnd, EntryValue FROM data WHERE ID = ?", {entry.ID});
+    cRows rows(database, "SELECT EntryDate, EntryDateEnd, EntryValue, date(EntryDate) FROM data WHERE ID = ?",
+               {entry.ID});
     if (!rows.Next()) {
         return form;
     }
-    if (modRow::ReadDate(rows.Bytes(0)) == entry.EntryDate) {
+    // A readable day that SQLite cannot compare with a period hides the entry, so it is not kept in that form.
+    const bool isCompared = !entry.EntryDate.isValid() || rows.Text(3) == form.EntryDate;
+    if (isCompared && modRow::ReadDate(rows.Bytes(0)) == entry.EntryDate) {
         form.EntryDate = rows.Text(0);
     }
     if (entry.EntryDateEnd.isValid() && modRow::ReadDate(rows.Bytes(1)) == entry.EntryDateEnd) {

@@ -270,10 +270,12 @@ eOpenResult cOpenSequence::OpenForReading(const QString& message)
     return eOpenResult::Ended;
 }
 
-// Keeps a copy of a database that this version of the program has not opened before. What went wrong, or empty.
+// Keeps a copy of a database that this version of the program has not opened before. What went wrong, or empty. A file
+// that is still the template has nothing to lose: reading commands make a new book and leave it like that.
 QString cOpenSequence::CopyBeforeUpgrade()
 {
-    if (m_origin == eOrigin::Fresh || modSchema::WasOpenedBy(m_database, m_version)) {
+    if (m_origin == eOrigin::Fresh || modSchema::WasOpenedBy(m_database, m_version)
+        || modBookFile::IsCopy(m_path, m_ports.Shell.InstalledFile(u"template.dat"_s))) {
         return {};
     }
     try {

@@ -5,6 +5,7 @@
 #include "base/modDate.h"
 #include "store/modSchema.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
@@ -52,6 +53,14 @@ modBookFile::cContent modBookFile::Look(const QString& path)
         content.Problems.append(error.Text());
     }
     return content;
+}
+
+bool modBookFile::IsCopy(const QString& path, const QString& other)
+{
+    QFile one(path);
+    QFile two(other);
+    return one.open(QIODevice::ReadOnly) && two.open(QIODevice::ReadOnly) && one.size() == two.size()
+        && one.readAll() == two.readAll();
 }
 
 bool modBookFile::IsSound(const cContent& content)

@@ -29,6 +29,9 @@ struct cContent
 // Reads a whole file; it is left untouched.
 [[nodiscard]] cContent Look(const QString& path);
 
+// True when both files can be read and hold the same bytes.
+[[nodiscard]] bool IsCopy(const QString& path, const QString& other);
+
 [[nodiscard]] bool IsSound(const cContent& content);
 
 // "120 Einträge, der letzte vom 12.03.2026, Datei vom 13.03.2026 18:05"

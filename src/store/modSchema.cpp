@@ -12,6 +12,8 @@
 #include <map>
 #include <set>
 #include <span>
+#include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -122,6 +124,41 @@ QStringList AbsentParts(cDatabase& database)
     }
     for (const cColumn& column : AbsentColumns(database)) {
         parts.append(cText::Tr("Spalte {0}.{1}", {QString::fromUtf8(column.Table), QString::fromUtf8(column.Name)}));
+    }
+    return parts;
+}
+
+// The tables that come with the template, and columns that every statement names.
+const std::vector<std::pair<const char*, QStringList>>& ShippedTables()
+{
+    static const std::vector<std::pair<const char*, QStringList>> tables{
+        {"data",
+         {u"ID"_s, u"EntryDate"_s, u"EntryDateEnd"_s, u"EntryType"_s, u"EntryInterval"_s, u"EntryAccount"_s,
+          u"EntryAccountMove"_s, u"EntryCategory"_s, u"EntryValue"_s, u"EntryDescription"_s}},
+        {"template",
+         {u"ID"_s, u"EntryType"_s, u"EntryInterval"_s, u"TemplateType"_s, u"TemplateVisible"_s, u"TemplateCategory"_s,
+          u"TemplateName"_s, u"TemplateComment"_s, u"TemplatePriority"_s, u"TemplateVAT"_s, u"TemplateDefaultValue"_s}},
+        {"import",
+         {u"ID"_s, u"ImportAccount"_s, u"ImportDate"_s, u"ImportType"_s, u"ImportPurpose"_s, u"ImportBeneficiary"_s,
+          u"ImportBeneficiaryAccount"_s, u"ImportBeneficiaryBLZ"_s, u"ImportValue"_s, u"ImportCurrency"_s,
+          u"ImportAssigned"_s, u"ImportAssignedEntry"_s}}};
+    return tables;
+}
+
+QStringList AbsentShippedParts(cDatabase& database)
+{
+    QStringList parts;
+    for (const auto& [table, columns] : ShippedTables()) {
+        const QStringList present = ColumnsOf(database, table);
+        if (present.isEmpty()) {
+            parts.append(cText::Tr("Tabelle {0}", {QString::fromUtf8(table)}));
+            continue;
+        }
+        for (const QString& column : columns) {
+            if (!present.contains(column.toLower())) {
+                parts.append(cText::Tr("Spalte {0}.{1}", {QString::fromUtf8(table), column}));
+            }
+        }
     }
     return parts;
 }
@@ -319,6 +356,15 @@ QStringList modSchema::Missing(cDatabase& database)
         return AbsentParts(database);
     } catch (const cDatabaseError&) {
         return {};
+    }
+}
+
+QStringList modSchema::MissingOfTemplate(cDatabase& database)
+{
+    try {
+        return AbsentShippedParts(database);
+    } catch (const cDatabaseError& error) {
+        return {error.Text()};
     }
 }
 

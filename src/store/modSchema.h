@@ -29,6 +29,9 @@ QStringList Upgrade(cDatabase& database);
 // Tables and columns that the program needs and the database does not have, in words for the user.
 [[nodiscard]] QStringList Missing(cDatabase& database);
 
+// The same for what comes with the template, which no upgrade can bring back.
+[[nodiscard]] QStringList MissingOfTemplate(cDatabase& database);
+
 // Lets queries see a database that must not be written as it will be after its upgrade: temporary tables take the place
 // of what the upgrade would add or change. The connection refuses all writes from then on. None when that is done.
 [[nodiscard]] eDatabaseFault StandIn(cDatabase& database);

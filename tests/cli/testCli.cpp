@@ -2,9 +2,11 @@
 #include "app/cQtRegistry.h"
 #include "cCliRun.h"
 #include "store/cDatabase.h"
+#include "support/cTestFile.h"
 
 #include <QDate>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -286,10 +288,21 @@ void testCli::DemoIsTheSameTwice()
 
 void testCli::CheckFindsSoundBook()
 {
+    QCOMPARE(Run({u"balances"_s}).Code, 0); // makes the book and leaves it as it came
     const cRun fresh = Run({u"check"_s});
     QVERIFY2(fresh.Code == 0 && fresh.Out.contains("setting"_L1), qPrintable(fresh.Text()));
     const cRun second = Run({u"check"_s});
     QVERIFY2(second.Code == 0 && !second.Out.contains("setting"_L1), qPrintable(second.Text()));
+    QCOMPARE(Run({u"demo"_s, Path(u"demo.db"_s)}).Code, 0);
+    QCOMPARE(Run({u"--database"_s, Path(u"demo.db"_s), u"check"_s}).Code, 0);
+    QDirIterator copies(m_folder->path(), {u"*.backup"_s}, QDir::Files, QDirIterator::Subdirectories);
+    QVERIFY(!copies.hasNext()); // neither book held anything before
+
+    cTestFile::Run(Database(), "DROP TABLE import");
+    const cRun third = Run({u"check"_s});
+    QVERIFY2(third.Code == 1 && third.Out.contains("Es fehlt: Tabelle import"_L1) && third.Error.isEmpty()
+                 && !third.Out.contains("unbeschädigt"_L1),
+             qPrintable(third.Text()));
 }
 
 void testCli::UsageErrors_data()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void FromHereOn();
     void LostCorrectionsNeedYes();
     void DeleteSaysWhatFirst();
+    void CheckSaysHowToMendHiddenEntries();
     void PartsOfASplitEntry();
     void StartBalances();
     void Search_data();
@@ -223,8 +224,46 @@ void testCliEntries::DeleteSaysWhatFirst()
              qPrintable(asked.Text()));
     QCOMPARE(Run({u"delete"_s, one, u"4711"_s, u"--yes"_s}).Code, 1);
     QCOMPARE(CountEntries(), 2);
+    const cCliRun skipped = Run({u"delete"_s, series, u"--only"_s, u"10.2.2026"_s});
+    QVERIFY2(skipped.Code == 1 && skipped.Error.contains("'Lindenhof' vom 03.02.2026 auslassen?"_L1),
+             qPrintable(skipped.Text()));
+    QCOMPARE(Run({u"delete"_s, one, series, u"--from"_s, u"3.2.2026"_s, u"--yes"_s}).Code, 2);
+    QCOMPARE(Run({u"delete"_s, one, u"--only"_s, u"1.3.2026"_s, u"--yes"_s}).Code, 1); // no series
+    Do(u"delete|%1|--only|3.2.2026|--yes"_s.arg(series));
+    Do(u"delete|%1|--from|3.4.2026|--yes"_s.arg(series));
+    QCOMPARE(Do(u"search|Lindenhof|--json|--from|1.1.2026|--to|31.12.2026"_s).Column(u"EntryValue"_s),
+             QStringList({u"650"_s, u"0"_s, u"650"_s}));
     Do(u"delete|%1|%2|%1|--yes"_s.arg(one, series));
     QCOMPARE(CountEntries(), 0);
+}
+
+void testCliEntries::CheckSaysHowToMendHiddenEntries()
+{
+    const QString day = Add(u"--amount|5|--category|Haushalt; Getränke|--text|Saft"_s);
+    const QString end = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
+    const QString gone = Add(u"--amount|7|--category|Haushalt; Getränke"_s);
+    const auto spoil = [&](const QString& id, const QString& change) {
+        cTestFile::Run(Database(), u"UPDATE data SET %1 WHERE ID = %2"_s.arg(change, id).toStdString());
+    };
+    spoil(day, u"EntryDate = 'gestern', EntryValue = 'fünf', EntryInterval = NULL"_s);
+    spoil(end, u"EntryDateEnd = '2026-01-01'"_s);
+    spoil(gone, u"EntryDate = ''"_s);
+    const cCliRun check = Run({u"check"_s});
+    QCOMPARE(check.Code, 1);
+    for (const QString& text :
+         {u"Die Datei ist unbeschädigt.\n3 Einträge"_s,
+          u"Eintrag %1, 'Saft': Tag 'gestern' nicht lesbar; kein Intervall; Betrag 'fünf' nicht lesbar\n"_s.arg(day),
+          u"\"change %1 --date DATUM --interval INTERVALL --amount BETRAG\" berichtigt ihn"_s.arg(day),
+          u"\"change %1 --end DATUM\" berichtigt ihn, \"delete %1 --yes\" löscht ihn."_s.arg(end)}) {
+        QVERIFY2(check.Out.contains(text), qPrintable(check.Text()));
+    }
+    Do(u"change|%1|--text|Apfelsaft"_s.arg(day));
+    QVERIFY(Run({u"check"_s}).Out.contains("Tag 'gestern'"_L1));
+    Do(u"change|%1|--date|1.3.2026|--interval|Einmalig|--amount|5"_s.arg(day));
+    Do(u"change|%1|--end|31.1.2026"_s.arg(end));
+    Do(u"delete|%1|--yes"_s.arg(gone));
+    Do(u"check"_s);
+    QCOMPARE(Stored(u"search|--json|--period|Alle Buchungen"_s).size(), 2);
 }
 
 void testCliEntries::PartsOfASplitEntry()

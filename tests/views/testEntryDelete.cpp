@@ -24,6 +24,33 @@ void Fill(cTestBook& book)
     (void)book.Add([](cEntryItem& entry) { entry.EntryDescription = u"anderes"_s; });
 }
 
+// Two monthly series (1 and 2) from 10 March on, and a plain entry (3).
+void FillSeries(cTestBook& book)
+{
+    for (const QString& name : {u"Miete"_s, u"Strom"_s}) {
+        (void)book.Add([&](cEntryItem& entry) {
+            entry.EntryInterval = u"Monatlich"_s;
+            entry.EntryDescription = name;
+        });
+    }
+    (void)book.Add([](cEntryItem&) {});
+}
+
+// Days and amounts of the series in the first three months.
+QStringList Occurrences(cTestBook& book)
+{
+    QStringList texts;
+    cEntryQuery query;
+    query.End = QDate(2026, 5, 31);
+    query.Kind = eBookingKind::Fix;
+    const cEntryItemList entries = book.Data.GetEntries(query);
+    for (const cEntryItem& entry : entries) {
+        texts.append(QString::number(entry.ID) + u' ' + entry.EntryDate.toString(u"dd.MM."_s) + u' '
+                     + QString::number(entry.EntryValue));
+    }
+    return texts;
+}
+
 } // namespace
 
 class testEntryDelete final : public QObject
@@ -35,6 +62,11 @@ private Q_SLOTS:
     void AsksForPartsOnce();
     void QuestionNamesWhatGoes();
     void DeletingIsOneStep();
+    void SelectionWithSeriesAsksHowMuch_data();
+    void SelectionWithSeriesAsksHowMuch();
+    void PartOfASeriesGoes_data();
+    void PartOfASeriesGoes();
+    void EndedSeriesGivesBankRowsBack();
 };
 
 void testEntryDelete::AsksForPartsOnce_data()
@@ -93,7 +125,7 @@ void testEntryDelete::QuestionNamesWhatGoes()
     const cAmountFormat format(book.Configuration);
     cEntryDelete flow(book.Data, book.User, format);
     QVERIFY(!flow.Delete(QList<int>{3}));
-    QVERIFY(!flow.Delete({{series, QDate(2026, 3, 10)}, {series, QDate(2026, 4, 10)}}));
+    QVERIFY(!flow.Delete(QList<int>{series}));
     QCOMPARE(book.User.Asked.at(0),
              u"Möchten Sie den Eintrag 'Teil' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\n"
              "Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: 2"_s);
@@ -117,6 +149,105 @@ void testEntryDelete::DeletingIsOneStep()
     QVERIFY(book.Data.Undo());
     QCOMPARE(book.Data.CountEntries(), 4);
     QCOMPARE(book.Data.LoadEntry(3)->EntryFlags, u"split=1"_s);
+}
+
+void testEntryDelete::SelectionWithSeriesAsksHowMuch_data()
+{
+    using cKeys = QList<cEntryListModel::cKey>;
+    QTest::addColumn<cKeys>("keys");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<QStringList>("options");
+    const QDate march(2026, 3, 10);
+    const QDate april(2026, 4, 10);
+    QTest::newRow("an occurrence")
+        << cKeys{{1, april}}
+        << u"'Miete' vom 10.04.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie löschen?\n\n"
+           "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
+           "Ab hier: Was davor liegt, bleibt.\n"
+           "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
+        << QStringList{u"Nur dieses Mal"_s, u"Ab hier"_s, u"Ganze Serie"_s};
+    QTest::newRow("the first one, from which the series would be whole")
+        << cKeys{{1, march}}
+        << u"'Miete' vom 10.03.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie löschen?\n\n"
+           "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
+           "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
+        << QStringList{u"Nur dieses Mal"_s, u"Ganze Serie"_s};
+    QTest::newRow("several of two series, and a plain entry")
+        << cKeys{{1, march}, {2, april}, {3, march}, {1, april}, {1, april}}
+        << u"Ausgewählt sind 3 Vorkommen von 2 Serien:\n'Miete' (Monatlich seit 10.03.2026)\n'Strom' (Monatlich seit "
+           u"10.03.2026)\n"
+           "Außerdem werden gelöscht: 1 Eintrag\nWas möchten Sie löschen?\n\n"
+           "Nur diese Male: Der Betrag wird null, alles andere bleibt.\n"
+           "Ab hier: Was davor liegt, bleibt.\n"
+           "Ganze Serien: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
+        << QStringList{u"Nur diese Male"_s, u"Ab hier"_s, u"Ganze Serien"_s};
+}
+
+void testEntryDelete::SelectionWithSeriesAsksHowMuch()
+{
+    QFETCH(QList<cEntryListModel::cKey>, keys);
+    cTestBook book;
+    FillSeries(book);
+    const cAmountFormat format(book.Configuration);
+    QVERIFY(!cEntryDelete(book.Data, book.User, format).Delete(keys));
+    QTEST(book.User.LastDecision.Text, "question");
+    QTEST(book.User.LastDecision.Options, "options");
+    QCOMPARE(book.Data.UndoName(), QString()); // given up: nothing was written
+}
+
+void testEntryDelete::PartOfASeriesGoes_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("step");
+    QTest::addColumn<QStringList>("left"); // days and amounts until June, of series 1 and 2
+    QTest::newRow("only these") << 0 << u"3 Einträge gelöscht"_s
+                                << QStringList{u"1 10.03. 1000"_s, u"1 10.04. 0"_s,    u"1 10.05. 1000"_s,
+                                               u"2 10.03. 0"_s,    u"2 10.04. 1000"_s, u"2 10.05. 1000"_s};
+    QTest::newRow("from here, which is all of the second")
+        << 1 << u"3 Einträge gelöscht"_s << QStringList{u"1 10.03. 1000"_s};
+    QTest::newRow("whole") << 2 << u"3 Einträge gelöscht"_s << QStringList{};
+}
+
+void testEntryDelete::PartOfASeriesGoes()
+{
+    QFETCH(int, choice);
+    cTestBook book;
+    FillSeries(book);
+    const cAmountFormat format(book.Configuration);
+    const QStringList before = Occurrences(book);
+    book.User.Decisions = {choice};
+    QVERIFY(cEntryDelete(book.Data, book.User, format)
+                .Delete({{1, QDate(2026, 4, 10)}, {2, QDate(2026, 3, 10)}, {3, QDate(2026, 3, 10)}}));
+    QTEST(Occurrences(book), "left");
+    QTEST(book.Data.UndoName(), "step");
+    if (choice == 0) {
+        QCOMPARE(book.Data.GetEntryMods(1).constFirst().EntryComment, u"Ausgelassen"_s);
+    }
+    QVERIFY(book.Data.Undo());
+    QCOMPARE(Occurrences(book), before);
+    QCOMPARE(book.Data.CountEntries(), 3);
+}
+
+void testEntryDelete::EndedSeriesGivesBankRowsBack()
+{
+    cTestBook book;
+    FillSeries(book);
+    for (const int month : {3, 4}) {
+        cImportEntry row;
+        row.ImportDate = QDate(2026, month, 9);
+        row.ImportValue = -1000;
+        row.ImportAssigned = true;
+        row.ImportAssignedEntry = 1;
+        QVERIFY(book.Data.AddNewImportEntry(row));
+    }
+    const cAmountFormat format(book.Configuration);
+    book.User.Answers = {eAnswer::Yes};
+    QVERIFY(cEntryDelete(book.Data, book.User, format).Delete({1, QDate(2026, 4, 10)}, eSeriesPart::FromHere));
+    QCOMPARE(book.User.Asked.constFirst(),
+             u"Möchten Sie die Serie 'Miete' ab dem 10.04.2026 löschen?\nDie Vorkommen davor bleiben."_s);
+    const cImportEntryList rows = book.Data.GetImportEntries();
+    QVERIFY(rows.at(0).ImportAssigned);
+    QVERIFY(!rows.at(1).ImportAssigned);
 }
 
 QTEST_GUILESS_MAIN(testEntryDelete)

@@ -112,6 +112,8 @@ private Q_SLOTS:
     void NewVersionResetsTheView();
     void RestoresTheView();
     void FreePeriodStartsWithTheShownDays();
+    void FreeDaysThatCanBeNoPeriodAreReplaced_data();
+    void FreeDaysThatCanBeNoPeriodAreReplaced();
     void NextPeriodAsksForHiddenEntries();
     void BalancesToTodayOrOfThePeriod();
     void RunningBalanceBeginsBeforeThePeriod();
@@ -248,6 +250,41 @@ void testMainModel::FreePeriodStartsWithTheShownDays()
     scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)});
     QCOMPARE(scene.Model->Entries().Sums().Count, 2);
     QCOMPARE(scene.Book.Settings->Get(u"MainZeitraumEnd"_s), u"2026-01-31"_s);
+    scene.Model->ChooseFreeRange({QDate(2026, 3, 1), QDate(2026, 1, 31)}); // the other day comes along
+    QCOMPARE(scene.Model->ShownRange(), (modPeriod::cRange{QDate(2026, 3, 1), QDate(2026, 3, 1)}));
+    scene.Model->ResetView();
+    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+    scene.Model->ChoosePeriod(modWord::FreierZeitraum);
+    QCOMPARE(scene.Model->ShownRange().Start, QDate(2026, 2, 1)); // what was chosen before the reset is gone
+}
+
+void testMainModel::FreeDaysThatCanBeNoPeriodAreReplaced_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<QDate>("first");
+    QTest::addColumn<QDate>("last");
+    const QDate newYear(2026, 1, 1);
+    const QDate newYearsEve(2026, 12, 31);
+    QTest::newRow("a period") << u"2025-02-01"_s << u"2025-02-28"_s << QDate(2025, 2, 1) << QDate(2025, 2, 28);
+    QTest::newRow("open at one side") << QString() << u"2025-02-28"_s << QDate() << QDate(2025, 2, 28);
+    QTest::newRow("nothing stored") << QString() << QString() << newYear << newYearsEve;
+    QTest::newRow("end before start") << u"2026-03-01"_s << u"2026-01-31"_s << newYear << newYearsEve;
+    QTest::newRow("unreadable") << u"2026-03-01"_s << u"31.12.2026"_s << newYear << newYearsEve;
+    QTest::newRow("open sides of older versions") << u"1000-01-01"_s << u"1000-01-01"_s << newYear << newYearsEve;
+}
+
+void testMainModel::FreeDaysThatCanBeNoPeriodAreReplaced()
+{
+    QFETCH(QString, start);
+    QFETCH(QString, end);
+    cScene scene;
+    scene.Book.Settings->Set(u"MainZeitraum"_s, modWord::FreierZeitraum);
+    scene.Book.Settings->Set(u"MainZeitraumStart"_s, start);
+    scene.Book.Settings->Set(u"MainZeitraumEnd"_s, end);
+    scene.Start();
+    QTEST(scene.Model->ShownRange().Start, "first");
+    QTEST(scene.Model->ShownRange().End, "last");
 }
 
 void testMainModel::NextPeriodAsksForHiddenEntries()
@@ -314,7 +351,7 @@ void testMainModel::DeletesAfterSayingWhatASeriesMeans()
     cEntryItem march = scene.Rent;
     march.EntryDate = QDate(2026, 3, 1);
     scene.Select({scene.Rent, march});
-    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    scene.Book.User.Decisions = {-1, 1};
     scene.Model->Execute(modCommand::DeleteEntry);
     QCOMPARE(scene.Book.Data.CountEntries(), 5);
     QVERIFY(scene.Book.User.Asked.constFirst().contains(u"Monatlich seit 01.01.2026"_s));
@@ -333,7 +370,7 @@ void testMainModel::UndoBringsTheBookBack()
     QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
     scene.Select({scene.Rent});
     scene.Model->Execute(modCommand::SkipPeriod);
-    scene.Book.User.Answers = {eAnswer::Yes};
+    scene.Book.User.Decisions = {1};
     scene.Select({scene.Rent});
     scene.Model->Execute(modCommand::DeleteEntry);
     QCOMPARE(scene.Model->Entries().rowCount(), 3);

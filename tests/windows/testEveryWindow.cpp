@@ -5,6 +5,7 @@
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/book/cBackupSettings.h"
+#include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
 #include "views/book/cPasswordFlow.h"
 #include "views/chart/cChartMaker.h"
@@ -22,6 +23,7 @@
 #include "views/template/cTemplateManager.h"
 #include "windows/book/frmLaender.h"
 #include "windows/book/frmPasswort.h"
+#include "windows/book/frmPruefung.h"
 #include "windows/book/frmSicherungen.h"
 #include "windows/chart/cChartBox.h"
 #include "windows/entry/frmBuchung.h"
@@ -117,6 +119,7 @@ struct cScene
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
     cRuleListModel Rules{{Book.Data, *Book.Settings, Format, Book.User}};
+    cBookCheck Check{Book.Data, Format};
     cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
 };
 
@@ -238,6 +241,12 @@ void testEveryWindow::CanBeReadAndOperated_data()
              rule.Category = u"Haushalt; Lebensmittel"_s;
              scene.Rules.SetDraft(rule);
              return scene.Rules.Save() ? std::make_unique<frmRegeln>(scene.Rules) : nullptr;
+         }},
+        {"check of the book",
+         [](cScene& scene) {
+             scene.Book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
+             scene.Check.Reload();
+             return std::make_unique<frmPruefung>(scene.Check);
          }},
         {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     };

@@ -5,11 +5,12 @@
 #include "windows/main/cBackBar.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/frmMain.h"
+#include "windows/widget/cDayEdit.h"
+#include "windows/widget/modBadField.h"
 #include "windows/widget/modPlace.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -192,14 +193,27 @@ void testFrmMain::ClickOnAnAccountFilters()
 void testFrmMain::FreePeriodOpensTheDayFields()
 {
     cScene scene;
-    const QList<QDateEdit*> days = scene.Window.findChildren<QDateEdit*>();
+    const QList<cDayEdit*> days = scene.Window.findChildren<cDayEdit*>();
     QVERIFY(days.constFirst()->isReadOnly());
+    QTest::keyClick(days.constFirst(), Qt::Key_Up);
+    QCOMPARE(scene.Model.ShownRange().Start, QDate(2026, 1, 1));
     scene.Model.ChoosePeriod(modWord::FreierZeitraum);
     QVERIFY(!days.constFirst()->isReadOnly());
-    days.constLast()->setDate(QDate(2026, 3, 11));
+    days.constLast()->setFocus();
+    days.constLast()->selectAll();
+    QTest::keyClicks(days.constLast(), u"11.03.2026"_s);
+    QCOMPARE(scene.Model.ShownRange().End, QDate(2026, 12, 31)); // not before the whole day is typed
+    QTest::keyClick(days.constLast(), Qt::Key_Tab);
+    QCOMPARE(scene.Model.ShownRange().End, QDate(2026, 3, 11));
     QCOMPARE(scene.Model.Entries().rowCount(), 1);
+    days.constLast()->setFocus();
+    days.constLast()->setText(u"irgendwann"_s);
+    QTest::keyClick(days.constLast(), Qt::Key_Tab);
+    QVERIFY(modBadField::IsMarked(*days.constLast()));
+    QCOMPARE(scene.Model.ShownRange().End, QDate(2026, 3, 11));
     scene.Model.ChoosePeriod(modWord::AlleBuchungen);
-    QCOMPARE(days.constFirst()->text(), u"offen"_s);
+    QVERIFY(!modBadField::IsMarked(*days.constLast()));
+    QCOMPARE(days.constFirst()->text(), QString());
 }
 
 void testFrmMain::EveryControlHasANameForScreenReaders()
@@ -211,7 +225,7 @@ void testFrmMain::EveryControlHasANameForScreenReaders()
     }
     for (const QWidget* widget : scene.Window.findChildren<QWidget*>()) {
         const bool isField = qobject_cast<const QComboBox*>(widget) != nullptr
-            || qobject_cast<const QDateEdit*>(widget) != nullptr || qobject_cast<const QTreeView*>(widget) != nullptr;
+            || qobject_cast<const cDayEdit*>(widget) != nullptr || qobject_cast<const QTreeView*>(widget) != nullptr;
         const bool isInner = widget->objectName().startsWith(u"qt_"_s)
             || qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr
             || widget->parentWidget()->inherits("QComboBoxPrivateContainer");

@@ -119,7 +119,7 @@ bool cEntryCheck::CheckParts(const cEntryFields& fields) const
 
 eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
 {
-    if (!modEntryFields::FirstDay(fields, m_today).isValid()) {
+    if (!modEntryFields::FirstDay(fields, m_today).isValid() && !modEntryFields::KeepsDay(fields)) {
         return eEntrySaved::BadDate;
     }
     const bool isSeries = fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);

@@ -9,6 +9,8 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/entry/cEntryWriter.h"
+#include "views/entry/cSeriesChange.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/modEntryFields.h"
 
@@ -18,53 +20,99 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool Holds(const cEntryItemList& entries, int id)
+constexpr qsizetype mostNames = 8;
+
+QString SeriesName(const cEntryItem& entry)
 {
-    return std::any_of(entries.begin(), entries.end(), [&](const cEntryItem& entry) { return entry.ID == id; });
+    return cText::Tr("'{0}' ({1} seit {2})",
+                     {modEntryFields::Name(entry), modWord::Intervals().ToShown(entry.EntryInterval),
+                      modDate::ToGerman(entry.EntryDate)});
 }
 
-QStringList SeriesNames(const cEntryItemList& entries)
+QString Lines(const QStringList& names)
 {
-    QStringList names;
-    for (const cEntryItem& entry : entries) {
-        if (modRecurrence::IsRecurring(entry.EntryInterval)) {
-            names.append(cText::Tr("'{0}' ({1} seit {2})",
-                                   {modEntryFields::Name(entry), modWord::Intervals().ToShown(entry.EntryInterval),
-                                    modDate::ToGerman(entry.EntryDate)}));
-        }
+    return names.mid(0, mostNames).join(u'\n') + (names.size() > mostNames ? u"\n…"_s : QString());
+}
+
+QString CountOfEntries(qsizetype count)
+{
+    return count == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(count)});
+}
+
+QString CountOfSeries(qsizetype count)
+{
+    return count == 1 ? cText::Tr("1 Serie") : cText::Tr("{0} Serien", {QString::number(count)});
+}
+
+// Lines of the list that the targets stand for, and how many of the targets are series by occurrence.
+struct cCounts
+{
+    qsizetype Occurrences = 0;
+    qsizetype Series = 0;
+    qsizetype Entries = 0; // that go as a whole
+};
+
+cCounts Count(const cDeleteTargetList& targets)
+{
+    cCounts counts;
+    for (const cDeleteTarget& target : targets) {
+        counts.Occurrences += target.Days.size();
+        counts.Series += target.Days.isEmpty() ? 0 : 1;
+        counts.Entries += target.Days.isEmpty() ? 1 : 0;
     }
-    return names;
+    return counts;
+}
+
+QString StepName(const cDeleteTargetList& targets, eSeriesPart part)
+{
+    const cCounts counts = Count(targets);
+    const cDeleteTarget& first = targets.first();
+    const bool isOccurrence = targets.size() == 1 && !first.Days.isEmpty();
+    if (isOccurrence && part == eSeriesPart::OnlyThis && first.Days.size() == 1) {
+        return cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(first.Entry)});
+    }
+    if (isOccurrence && part == eSeriesPart::FromHere) {
+        return cText::Tr("'{0}' ab {1} gelöscht",
+                         {modEntryFields::Name(first.Entry), modDate::ToGerman(first.Days.first())});
+    }
+    const qsizetype lines = counts.Entries + (part == eSeriesPart::OnlyThis ? counts.Occurrences : counts.Series);
+    return lines == 1 ? cText::Tr("Eintrag gelöscht") : cText::Tr("{0} Einträge gelöscht", {QString::number(lines)});
 }
 
 } // namespace
 
 bool cEntryDelete::Delete(const QList<cEntryListModel::cKey>& selection)
 {
-    QList<int> ids;
-    for (const cEntryListModel::cKey& key : selection) {
-        if (!ids.contains(key.ID)) {
-            ids.append(key.ID);
-        }
+    const cDeleteTargetList targets = Targets(selection);
+    if (targets.isEmpty()) {
+        return false;
     }
-    return Delete(ids);
+    if (Count(targets).Series == 0) {
+        return Run(targets, eSeriesPart::Whole);
+    }
+    const std::optional<eSeriesPart> part = AskPart(targets);
+    if (!part) {
+        return false;
+    }
+    cDeleteTargetList all = targets;
+    const cDeleteTargetList others = OtherParts(targets);
+    return (others.isEmpty() || AskParts(all, others, {})) && Remove(all, *part);
 }
 
 bool cEntryDelete::Delete(const QList<int>& ids)
 {
-    cEntryItemList entries;
+    QList<cEntryListModel::cKey> keys;
     for (const int id : ids) {
-        if (const std::optional<cEntryItem> entry = m_data.LoadEntry(id)) {
-            entries.append(*entry);
-        }
+        keys.append({id, QDate()});
     }
-    if (entries.isEmpty()) {
-        return false;
-    }
-    const cEntryItemList others = OtherParts(entries);
-    const bool isWanted = others.isEmpty()
-        ? m_user.Ask({.Text = Question(entries), .Title = cText::Tr("Eintrag löschen")}) == eAnswer::Yes
-        : AskParts(entries, others);
-    return isWanted && Remove(entries);
+    const cDeleteTargetList targets = Targets(keys);
+    return !targets.isEmpty() && Run(targets, eSeriesPart::Whole);
+}
+
+bool cEntryDelete::Delete(const cEntryListModel::cKey& occurrence, eSeriesPart part)
+{
+    const cDeleteTargetList targets = Targets({occurrence});
+    return Count(targets).Series > 0 && Run(targets, part);
 }
 
 int cEntryDelete::CountParts(int id) const
@@ -73,79 +121,195 @@ int cEntryDelete::CountParts(int id) const
     return entry ? static_cast<int>(cSplitGroup(m_data).Parts(*entry).size()) : 0;
 }
 
-QString cEntryDelete::Question(const cEntryItemList& entries) const
+cDeleteTargetList cEntryDelete::Targets(const QList<cEntryListModel::cKey>& selection) const
 {
-    const cEntryItem& first = entries.first();
-    QString text = entries.size() == 1
-        ? cText::Tr("Möchten Sie den Eintrag {0} löschen?",
-                    {cText::Tr("'{0}' vom {1} über {2}",
-                               {modEntryFields::Name(first), modDate::ToGerman(first.EntryDate),
-                                m_format.Cents(first.EntryValue)})})
-        : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?", {QString::number(entries.size())});
-    const QStringList series = SeriesNames(entries);
-    if (!series.isEmpty()) {
-        constexpr qsizetype most = 8;
-        const QString more = series.size() > most ? u"\n…"_s : QString();
-        text +=
-            u"\n\n"_s
-            + cText::Tr(
-                "Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:")
-            + u'\n' + series.mid(0, most).join(u'\n') + more;
+    cDeleteTargetList targets;
+    cSeriesChange series(m_data, m_user);
+    for (const cEntryListModel::cKey& key : selection) {
+        auto target = std::find_if(targets.begin(), targets.end(),
+                                   [&](const cDeleteTarget& other) { return other.Entry.ID == key.ID; });
+        if (target == targets.end()) {
+            const std::optional<cEntryItem> entry = m_data.LoadEntry(key.ID);
+            if (!entry) {
+                continue;
+            }
+            target = targets.insert(targets.end(), {*entry, {}});
+        }
+        if (!target->Days.contains(key.Day) && series.IsOccurrence(key.ID, key.Day)) {
+            target->Days.append(key.Day);
+        }
     }
-    return text;
+    for (cDeleteTarget& target : targets) {
+        std::sort(target.Days.begin(), target.Days.end());
+    }
+    return targets;
 }
 
-// The parts that are not selected of all groups that are touched.
-cEntryItemList cEntryDelete::OtherParts(const cEntryItemList& entries) const
+// The parts that are not selected of all groups that are touched. What happens on some days happens to them on these.
+cDeleteTargetList cEntryDelete::OtherParts(const cDeleteTargetList& targets) const
 {
-    cEntryItemList others;
+    cDeleteTargetList others;
     QList<int> groups;
-    for (const cEntryItem& entry : entries) {
-        const int group = modSplit::Group(entry);
+    for (const cDeleteTarget& target : targets) {
+        const int group = modSplit::Group(target.Entry);
         if (group == 0 || groups.contains(group)) {
             continue;
         }
         groups.append(group);
-        const cEntryItemList parts = cSplitGroup(m_data).Parts(entry);
-        std::copy_if(parts.begin(), parts.end(), std::back_inserter(others),
-                     [&](const cEntryItem& part) { return !Holds(entries, part.ID); });
+        const cEntryItemList parts = cSplitGroup(m_data).Parts(target.Entry);
+        for (const cEntryItem& part : parts) {
+            if (std::none_of(targets.begin(), targets.end(),
+                             [&](const cDeleteTarget& other) { return other.Entry.ID == part.ID; })) {
+                others.append({part, target.Days});
+            }
+        }
     }
     return others;
 }
 
-bool cEntryDelete::AskParts(cEntryItemList& entries, const cEntryItemList& others)
+bool cEntryDelete::Run(cDeleteTargetList targets, eSeriesPart part)
+{
+    const cDeleteTargetList others = OtherParts(targets);
+    const QString question = Question(targets, part);
+    const bool isWanted = others.isEmpty()
+        ? m_user.Ask({.Text = question, .Title = cText::Tr("Eintrag löschen")}) == eAnswer::Yes
+        : AskParts(targets, others, question);
+    return isWanted && Remove(targets, part);
+}
+
+QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart part) const
+{
+    const cDeleteTarget& first = targets.first();
+    if (part == eSeriesPart::Whole || first.Days.isEmpty()) {
+        return WholeQuestion(targets);
+    }
+    const QString name = modEntryFields::Name(first.Entry);
+    const QDate day = first.Days.first();
+    if (part == eSeriesPart::OnlyThis) {
+        return cText::Tr("Möchten Sie '{0}' vom {1} auslassen?\nDer Betrag wird null, die Serie läuft weiter.",
+                         {name, modDate::ToGerman(day)});
+    }
+    return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.",
+                     {name, modDate::ToGerman(day)});
+}
+
+QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
+{
+    const cEntryItem& first = targets.first().Entry;
+    const QString day = first.EntryDate.isValid() ? modDate::ToGerman(first.EntryDate) : cText::Tr("(kein Tag)");
+    QString text = targets.size() == 1
+        ? cText::Tr(
+            "Möchten Sie den Eintrag {0} löschen?",
+            {cText::Tr("'{0}' vom {1} über {2}", {modEntryFields::Name(first), day, m_format.Cents(first.EntryValue)})})
+        : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?", {QString::number(targets.size())});
+    QStringList series;
+    for (const cDeleteTarget& target : targets) {
+        if (modRecurrence::IsRecurring(target.Entry.EntryInterval)) {
+            series.append(SeriesName(target.Entry));
+        }
+    }
+    if (!series.isEmpty()) {
+        text +=
+            u"\n\n"_s
+            + cText::Tr(
+                "Damit verschwinden alle Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:")
+            + u'\n' + Lines(series);
+    }
+    return text;
+}
+
+// What is selected, and what each of the options would leave.
+QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStringList& options)
+{
+    const cCounts counts = Count(targets);
+    QStringList names;
+    for (const cDeleteTarget& target : targets) {
+        names += target.Days.isEmpty() ? QStringList() : QStringList{SeriesName(target.Entry)};
+    }
+    const cDeleteTarget& first = targets.first();
+    QString text = counts.Occurrences == 1 && counts.Entries == 0
+        ? cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).",
+                    {modEntryFields::Name(first.Entry), modDate::ToGerman(first.Days.first()),
+                     modWord::Intervals().ToShown(first.Entry.EntryInterval), modDate::ToGerman(first.Entry.EntryDate)})
+        : cText::Tr("Ausgewählt sind {0} Vorkommen von {1}:",
+                    {QString::number(counts.Occurrences), CountOfSeries(counts.Series)})
+            + u'\n' + Lines(names);
+    if (counts.Entries > 0) {
+        text += u'\n' + cText::Tr("Außerdem werden gelöscht: {0}", {CountOfEntries(counts.Entries)});
+    }
+    text += u'\n' + cText::Tr("Was möchten Sie löschen?") + u"\n\n"_s
+        + cText::Tr("{0}: Der Betrag wird null, alles andere bleibt.", {options.first()});
+    if (options.size() > 2) {
+        text += u'\n' + cText::Tr("{0}: Was davor liegt, bleibt.", {options.at(1)});
+    }
+    return text + u'\n'
+        + cText::Tr("{0}: Auch alles Vergangene verschwindet, mit allen Korrekturen.", {options.last()});
+}
+
+std::optional<eSeriesPart> cEntryDelete::AskPart(const cDeleteTargetList& targets)
+{
+    const cCounts counts = Count(targets);
+    const bool isOne = counts.Occurrences == 1;
+    const bool hasLater = std::any_of(targets.begin(), targets.end(), [](const cDeleteTarget& target) {
+        return !target.Days.isEmpty() && target.Days.first() > target.Entry.EntryDate;
+    });
+    QList<eSeriesPart> parts{eSeriesPart::OnlyThis};
+    QStringList options{isOne ? cText::Tr("Nur dieses Mal") : cText::Tr("Nur diese Male")};
+    if (hasLater) {
+        parts.append(eSeriesPart::FromHere);
+        options.append(cText::Tr("Ab hier"));
+    }
+    parts.append(eSeriesPart::Whole);
+    options.append(counts.Series == 1 ? cText::Tr("Ganze Serie") : cText::Tr("Ganze Serien"));
+    const int choice = m_user.Decide(
+        {.Text = PartQuestion(targets, options), .Title = cText::Tr("Eintrag löschen"), .Options = options});
+    return choice >= 0 ? std::optional(parts.at(choice)) : std::nullopt;
+}
+
+bool cEntryDelete::AskParts(cDeleteTargetList& targets, const cDeleteTargetList& others, const QString& question)
 {
     const QString more = QString::number(others.size());
-    const bool isOne = entries.size() == 1;
+    const bool isOne = targets.size() == 1;
+    const QString before = question.isEmpty() ? QString() : QString(question + u"\n\n"_s);
     const int choice = m_user.Decide(
-        {.Text = Question(entries) + u"\n\n"_s
+        {.Text = before
              + (isOne ? cText::Tr("Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: {0}", {more})
                       : cText::Tr("Darunter sind Teile aufgeteilter Einträge. Weitere Teile: {0}", {more})),
          .Title = cText::Tr("Eintrag löschen"),
          .Options = {isOne ? cText::Tr("Nur diesen Teil löschen") : cText::Tr("Nur die ausgewählten löschen"),
                      cText::Tr("Alle Teile löschen")}});
     if (choice == 1) {
-        entries += others;
+        targets += others;
     }
     return choice >= 0;
 }
 
-bool cEntryDelete::Remove(const cEntryItemList& entries)
+bool cEntryDelete::Remove(const cDeleteTargetList& targets, eSeriesPart part)
 {
-    const cEntryItemList others = OtherParts(entries);
-    cUndoStep step(m_data,
-                   entries.size() == 1 ? cText::Tr("Eintrag gelöscht")
-                                       : cText::Tr("{0} Einträge gelöscht", {QString::number(entries.size())}));
-    for (const cEntryItem& entry : entries) {
-        if (!m_data.DeleteEntry(entry.ID)) {
-            return step.Revert();
-        }
+    const cDeleteTargetList others = OtherParts(targets);
+    cUndoStep step(m_data, StepName(targets, part));
+    if (!std::all_of(targets.begin(), targets.end(),
+                     [&](const cDeleteTarget& target) { return RemoveOne(target, part); })) {
+        return step.Revert();
     }
     // The IDs of deleted rows are given again, so no group may go on under the name of one.
-    for (const cEntryItem& other : others) {
-        if (!cSplitGroup(m_data).Mark(cSplitGroup(m_data).Parts(other))) {
+    for (const cDeleteTarget& other : others) {
+        if (!cSplitGroup(m_data).Mark(cSplitGroup(m_data).Parts(other.Entry))) {
             return step.Revert();
         }
     }
     return true;
+}
+
+bool cEntryDelete::RemoveOne(const cDeleteTarget& target, eSeriesPart part)
+{
+    const int id = target.Entry.ID;
+    if (part == eSeriesPart::OnlyThis && !target.Days.isEmpty()) {
+        cSeriesChange series(m_data, m_user);
+        return std::all_of(target.Days.begin(), target.Days.end(),
+                           [&](QDate day) { return series.SkipPeriod(id, day); });
+    }
+    const bool hasEarlier = !target.Days.isEmpty() && target.Days.first() > target.Entry.EntryDate;
+    return part == eSeriesPart::FromHere && hasEarlier ? cEntryWriter(m_data, m_user).End(id, target.Days.first())
+                                                       : m_data.DeleteEntry(id);
 }

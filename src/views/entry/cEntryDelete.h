@@ -3,14 +3,29 @@
 #include "model/cEntryItem.h"
 #include "views/list/cEntryListModel.h"
 
+#include <QDate>
 #include <QList>
 #include <QString>
+
+#include <optional>
 
 class cAmountFormat;
 class cDataAccess;
 class cUser;
 
-// Deletes entries after the questions that go with it: whole series, parts of split entries.
+// How much of a series is meant by an occurrence of it.
+enum class eSeriesPart { OnlyThis, FromHere, Whole };
+
+// An entry that goes: as a whole, or occurrences of it on these days, in their order.
+struct cDeleteTarget
+{
+    cEntryItem Entry;
+    QList<QDate> Days;
+};
+using cDeleteTargetList = QList<cDeleteTarget>;
+
+// Deletes entries after the questions that go with it: occurrences or whole series, parts of split entries. Everything
+// that one call deletes is one step that can be undone; false when nothing was changed.
 class cEntryDelete
 {
 public:
@@ -21,18 +36,31 @@ public:
     {
     }
 
-    // Asks once and deletes the entries of the selected lines in one step. False when nothing was changed.
+    // Deletes the entries of the selected lines. For occurrences of series asks how much of these is meant; the safe
+    // answer comes first: an occurrence that is deleted alone is left out, with the amount 0, like
+    // cSeriesChange::SkipPeriod.
     bool Delete(const QList<cEntryListModel::cKey>& selection);
+
+    // Deletes whole entries.
     bool Delete(const QList<int>& ids);
+
+    // Deletes a part of the series that this occurrence belongs to.
+    bool Delete(const cEntryListModel::cKey& occurrence, eSeriesPart part);
 
     // Number of parts of the group that the entry belongs to; 0 when it is no part.
     [[nodiscard]] int CountParts(int id) const;
 
 private:
-    [[nodiscard]] QString Question(const cEntryItemList& entries) const;
-    [[nodiscard]] cEntryItemList OtherParts(const cEntryItemList& entries) const;
-    [[nodiscard]] bool AskParts(cEntryItemList& entries, const cEntryItemList& others);
-    [[nodiscard]] bool Remove(const cEntryItemList& entries);
+    [[nodiscard]] cDeleteTargetList Targets(const QList<cEntryListModel::cKey>& selection) const;
+    [[nodiscard]] cDeleteTargetList OtherParts(const cDeleteTargetList& targets) const;
+    [[nodiscard]] bool Run(cDeleteTargetList targets, eSeriesPart part);
+    [[nodiscard]] std::optional<eSeriesPart> AskPart(const cDeleteTargetList& targets);
+    [[nodiscard]] bool AskParts(cDeleteTargetList& targets, const cDeleteTargetList& others, const QString& question);
+    [[nodiscard]] static QString PartQuestion(const cDeleteTargetList& targets, const QStringList& options);
+    [[nodiscard]] QString Question(const cDeleteTargetList& targets, eSeriesPart part) const;
+    [[nodiscard]] QString WholeQuestion(const cDeleteTargetList& targets) const;
+    [[nodiscard]] bool Remove(const cDeleteTargetList& targets, eSeriesPart part);
+    [[nodiscard]] bool RemoveOne(const cDeleteTarget& target, eSeriesPart part);
 
     cDataAccess& m_data;
     cUser& m_user;

@@ -54,7 +54,7 @@ cEntryEditor::cFields cEntryEditor::StartBalance(const QString& account)
     m_ids.clear();
     m_from = {};
     cFields fields = cStartBalance(m_data, Decimal()).Show(account.isEmpty() ? Accounts().value(0) : account);
-    fields.Date = fields.Date.isValid() ? fields.Date : m_clock.Today();
+    fields.Date = fields.Date.isValid() || fields.IsDayKept ? fields.Date : m_clock.Today();
     return fields;
 }
 
@@ -72,6 +72,7 @@ cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
     fields.Account = entry.EntryAccount;
     fields.Target = entry.EntryAccountMove;
     fields.Date = entry.EntryDate;
+    fields.IsDayKept = !entry.EntryDate.isValid();
     fields.HasEnd = modRecurrence::IsRecurring(entry.EntryInterval) && end != modRecurrence::OpenEnd;
     fields.End = fields.HasEnd ? end : QDate();
     fields.Interval = entry.EntryInterval;
@@ -229,8 +230,10 @@ void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
     if (fields.Face == eEntryFace::StartBalance && !fields.IsAmountTyped) {
         const cFields stored = cStartBalance(m_data, Decimal()).Show(account);
         fields.Amount = stored.Amount;
-        fields.Date = stored.Date.isValid() ? stored.Date : fields.Date;
-        fields.DateText = stored.Date.isValid() ? QString() : fields.DateText;
+        const bool isStored = stored.Date.isValid() || stored.IsDayKept;
+        fields.Date = isStored ? stored.Date : fields.Date;
+        fields.DateText = isStored ? QString() : fields.DateText;
+        fields.IsDayKept = stored.IsDayKept;
     }
 }
 
@@ -259,6 +262,14 @@ bool cEntryEditor::ShowsCorrections(const cFields& fields) const
     return m_ids.size() == 1 && fields.Face == eEntryFace::Normal && ShowsSeries(fields);
 }
 
+// What is said of a series without further days.
+QString cEntryEditor::EndedText(const cEntryItem& series, const QString& count)
+{
+    const QDate last = modSeries::Last(series);
+    return last.isValid() ? cText::Tr("{0}, beendet: zuletzt am {1}", {count, modDate::ToGerman(last)})
+                          : cText::Tr("Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin.");
+}
+
 cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
 {
     constexpr int shownDays = 3;
@@ -276,7 +287,7 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
     }
     const bool isOpen = series.EntryDateEnd == modRecurrence::OpenEnd;
     const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
-    preview.Text = days.isEmpty() ? cText::Tr("{0}, keine weiteren Termine", {count})
-                                  : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
+    preview.Text =
+        days.isEmpty() ? EndedText(series, count) : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
     return preview;
 }

@@ -123,6 +123,7 @@ public:
 
 private:
     [[nodiscard]] cFields FieldsOf(const cEntryItem& entry) const;
+    [[nodiscard]] static QString EndedText(const cEntryItem& series, const QString& count);
     [[nodiscard]] eSaved Store(const cFields& fields);
     [[nodiscard]] eSaved SaveStartBalance(const cFields& fields);
     [[nodiscard]] std::optional<cEntryItem> Whole(const cFields& fields) const;

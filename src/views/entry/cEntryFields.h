@@ -44,6 +44,8 @@ struct cEntryFields
     QString Target;   // only for transfers
     QDate Date;       // invalid means today
     QString DateText; // the day as typed; what stands here counts instead of Date
+    bool IsDayKept =
+        false; // the stored day cannot be read, and stays while neither Date nor DateText names another one
     bool HasEnd = false;
     QDate End;                        // only with HasEnd
     QString EndText;                  // the last day as typed; what stands here counts instead of End

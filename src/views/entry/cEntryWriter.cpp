@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr int noEntry = -1; // of a bank transaction that waits
+
 const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
 {
     const auto found = std::find_if(fixMods.begin(), fixMods.end(),
@@ -111,9 +113,17 @@ bool cEntryWriter::MoveImports(int oldId, int newId, QDate from)
         if (row.ImportAssignedEntry != oldId || row.ImportDate < from) {
             return true;
         }
+        row.ImportAssigned = row.ImportAssigned && newId != noEntry;
         row.ImportAssignedEntry = newId;
         return m_data.ChangeImportEntry(row);
     });
+}
+
+bool cEntryWriter::End(int id, QDate from)
+{
+    const std::optional<cEntryItem> series = m_data.LoadEntry(id);
+    return series && EndBefore(id, from)
+        && MoveImports(id, noEntry, modRecurrence::OccurrencePeriod(from, series->EntryInterval).Start);
 }
 
 bool cEntryWriter::WriteCorrections(const cEntryWrite& row)

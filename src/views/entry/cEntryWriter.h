@@ -31,6 +31,10 @@ public:
     // assigned or corrected from then on goes along. Sets the IDs. On failure the caller takes its undo step back.
     [[nodiscard]] bool Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from);
 
+    // Ends a stored series the day before its occurrence on `from`; later corrections go, and what the bank booked in
+    // later periods waits again. On failure the caller takes its undo step back.
+    [[nodiscard]] bool End(int id, QDate from);
+
 private:
     [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);

@@ -25,6 +25,7 @@ cEntryFields cStartBalance::Show(const QString& account) const
     fields.Amount = modSum::ToText(stored ? modBalance::Effect(*stored, {}) : 0, m_decimal);
     fields.Decimal = m_decimal;
     fields.Date = stored ? stored->EntryDate : QDate();
+    fields.IsDayKept = stored && !fields.Date.isValid();
     return fields;
 }
 

@@ -11,7 +11,12 @@ QDate modEntryFields::FirstDay(const cEntryFields& fields, QDate today)
     if (!fields.DateText.trimmed().isEmpty()) {
         return modDayText::Read(fields.DateText, today);
     }
-    return fields.Date.isValid() ? fields.Date : today;
+    return fields.Date.isValid() || fields.IsDayKept ? fields.Date : today;
+}
+
+bool modEntryFields::KeepsDay(const cEntryFields& fields)
+{
+    return fields.IsDayKept && !fields.Date.isValid() && fields.DateText.trimmed().isEmpty();
 }
 
 QDate modEntryFields::LastDay(const cEntryFields& fields, QDate today)

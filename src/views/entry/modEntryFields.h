@@ -10,8 +10,12 @@ class cAmountFormat;
 // What the fields of the editor mean, day by day.
 namespace modEntryFields {
 
-// The first day: as typed, else the chosen one, else today. Invalid when the typed text is no day.
+// The first day: as typed, else the chosen one, else today. Invalid when the typed text is no day, or when an
+// unreadable stored day is to stay (KeepsDay).
 [[nodiscard]] QDate FirstDay(const cEntryFields& fields, QDate today);
+
+// True when the day that is stored cannot be read and nobody has named another one: it must not become today.
+[[nodiscard]] bool KeepsDay(const cEntryFields& fields);
 
 // The last day, the open end without the switch or without a day. Invalid when the typed text is no day.
 [[nodiscard]] QDate LastDay(const cEntryFields& fields, QDate today);

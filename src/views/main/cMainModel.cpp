@@ -65,7 +65,7 @@ void cMainModel::RestoreView(bool isNewVersion)
     }
     m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
     LeaveSelection();
-    m_view.Restore(m_parts.Settings, Accounts());
+    m_view.Restore(m_parts.Settings, Accounts(), m_parts.Clock.Today());
     if (isNewVersion && !isNewBook) {
         ResetView();
         return;
@@ -113,6 +113,7 @@ void cMainModel::ResetView()
     m_view.Type = modWord::AlleBuchungsarten;
     m_view.Filter.clear();
     m_view.Period = modWord::AlleBuchungen;
+    m_view.Free = {}; // chosen again, the free period starts with the days in sight
     m_view.Account = modWord::AlleKonten;
     SetSwitch(u"ViewFixBooking"_s, eSwitch::On);
     SetSwitch(u"ViewSingleBooking"_s, eSwitch::On);
@@ -230,7 +231,7 @@ void cMainModel::ChoosePeriod(const QString& name)
     }
     const modPeriod::cRange shown = ShownRange();
     m_view.Period = name;
-    if (IsFreePeriod() && !(m_view.Free.Start.isValid() && m_view.Free.End.isValid())) {
+    if (IsFreePeriod() && m_view.Free == modPeriod::cRange{}) {
         const QDate today = m_parts.Clock.Today();
         m_view.Free = shown.Start.isValid() && shown.End.isValid() ? shown : modPeriod::Year(today, 0);
     }
@@ -251,10 +252,13 @@ void cMainModel::OfferFuture(const QString& period)
 
 void cMainModel::ChooseFreeRange(const modPeriod::cRange& range)
 {
-    if (IsFreePeriod() && range != m_view.Free) {
-        m_view.Free = range;
-        RefreshView();
+    if (!IsFreePeriod() || range == m_view.Free) {
+        return;
     }
+    const bool isTurned = range.End.isValid() && range.Start > range.End;
+    const QDate chosen = range.Start != m_view.Free.Start ? range.Start : range.End;
+    m_view.Free = isTurned ? modPeriod::cRange{chosen, chosen} : range;
+    RefreshView();
 }
 
 void cMainModel::ChooseAccount(const QString& account)

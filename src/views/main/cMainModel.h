@@ -69,8 +69,9 @@ public:
 
     // The selectors. Each stores and refreshes; an unknown word is not taken.
     void ChoosePeriod(const QString& name);
-    void ChooseFreeRange(const modPeriod::cRange& range); // only while the free period is chosen
-    void ChooseAccount(const QString& account);           // empty: all accounts
+    // Only while the free period is chosen. A day beyond the other one takes that along.
+    void ChooseFreeRange(const modPeriod::cRange& range);
+    void ChooseAccount(const QString& account); // empty: all accounts
     void ChooseType(const QString& type);
     void ChooseGrouping(const QString& grouping);
     void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn

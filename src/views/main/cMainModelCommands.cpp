@@ -50,6 +50,7 @@ bool cMainModel::Execute(int command)
     case modCommand::Search:
     case modCommand::StartBalance:
     case modCommand::AccountStatement:
+    case modCommand::CheckBook:
     case modCommand::BackupSettings:
     case modCommand::Rules:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;

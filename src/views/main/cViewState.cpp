@@ -16,12 +16,19 @@ QString Offered(const QString& stored, const QStringList& words, const QString& 
     return words.contains(stored) ? stored : otherwise;
 }
 
-void RestoreDay(const cSettings& settings, const QString& key, QDate& day)
+// Days before the one that "Buchungen bis heute" begins with were never meant by anybody: they stood for an open side.
+constexpr int firstYear = 1001;
+
+// The stored free days; an empty text leaves its side open. None for what can be no period: days that cannot be read,
+// or the last one before the first.
+modPeriod::cRange FreeRange(const QString& start, const QString& end)
 {
-    const QDate stored = modDate::FromIso(settings.Get(key));
-    if (stored.isValid()) {
-        day = stored;
-    }
+    const modPeriod::cRange range{modDate::FromIso(start), modDate::FromIso(end)};
+    const auto isRead = [](const QString& text, QDate day) {
+        return text.isEmpty() || (day.isValid() && day.year() >= firstYear);
+    };
+    const bool isTurned = range.End.isValid() && range.Start > range.End;
+    return isRead(start, range.Start) && isRead(end, range.End) && !isTurned ? range : modPeriod::cRange{};
 }
 
 eBookingKind Kind(const cViewState& view)
@@ -34,11 +41,13 @@ eBookingKind Kind(const cViewState& view)
 
 } // namespace
 
-void cViewState::Restore(const cSettings& settings, const QStringList& accounts)
+void cViewState::Restore(const cSettings& settings, const QStringList& accounts, QDate today)
 {
     Period = Offered(settings.Get(u"MainZeitraum"_s), modWord::Periods().Stored(), modWord::AktuellesJahr);
-    RestoreDay(settings, u"MainZeitraumStart"_s, Free.Start);
-    RestoreDay(settings, u"MainZeitraumEnd"_s, Free.End);
+    Free = FreeRange(settings.Get(u"MainZeitraumStart"_s), settings.Get(u"MainZeitraumEnd"_s));
+    if (Period == modWord::FreierZeitraum && Free == modPeriod::cRange{}) {
+        Free = modPeriod::Year(today, 0);
+    }
     Account = Offered(settings.Get(u"MainKonto"_s), accounts, modWord::AlleKonten);
     Type = Offered(settings.Get(u"MainBuchungsart"_s), modWord::ViewTypes().Stored(), modWord::AlleBuchungsarten);
     Grouping = Offered(settings.Get(u"MainGruppierung"_s), modWord::Groupings().Stored(), modWord::KeineGruppierung);

@@ -25,8 +25,8 @@ struct cViewState
     bool BalancesToToday = true; // false: balances of the chosen period
 
     // Reads every key; what the selectors do not offer becomes their fixed first position (for the period the current
-    // year). Free days without stored text stay as they are.
-    void Restore(const cSettings& settings, const QStringList& accounts);
+    // year). So do free days that can be no period while they are the chosen one.
+    void Restore(const cSettings& settings, const QStringList& accounts, QDate today);
 
     // Writes the seven selector keys that changed.
     void Save(cSettings& settings) const;

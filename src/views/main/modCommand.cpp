@@ -11,7 +11,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 32> commands{{
+constexpr std::array<cCommand, 33> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", "", Plain,
      QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "", "",
@@ -76,6 +76,8 @@ constexpr std::array<cCommand, 32> commands{{
      QT_TRANSLATE_NOOP("cText", "Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.")},
     {AccountStatement, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Kontoaus&zug anzeigen…"), "",
      "", "", Plain, QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze eines Bankkontos mit ihrem Saldo.")},
+    {CheckBook, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Prü&fen…"), "", "", "", Plain,
+     QT_TRANSLATE_NOOP("cText", "Sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und prüft die Datei.")},
     {Calculator, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Taschenrechner"), "", "rechner", "",
      Plain, QT_TRANSLATE_NOOP("cText", "Startet den Taschenrechner des Systems.")},
     {Password, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Passwortschutz"), "", "", "",

@@ -33,6 +33,7 @@ enum eId : int {
     BackupSettings = 122,
     Rules = 123,
     AccountStatement = 124,
+    CheckBook = 125,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,

@@ -89,6 +89,11 @@ bool cTemplateManager::IsReadOnly() const
     return m_parts.Data.IsReadOnly();
 }
 
+QDate cTemplateManager::Today() const
+{
+    return m_parts.Clock.Today();
+}
+
 bool cTemplateManager::Refuse(const QString& text)
 {
     m_parts.User.Show(eTone::Exclamation, text);

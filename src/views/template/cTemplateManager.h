@@ -5,6 +5,7 @@
 #include "views/template/cTemplateTreeModel.h"
 #include "views/template/cTemplateWriter.h"
 
+#include <QDate>
 #include <QHash>
 #include <QObject>
 #include <QString>
@@ -46,6 +47,7 @@ public:
     [[nodiscard]] cTemplateTreeModel& Accounts() { return m_accounts; }
     void Refresh(); // reads the book again
     [[nodiscard]] bool IsReadOnly() const;
+    [[nodiscard]] QDate Today() const;
 
     // See cTemplateWriter.
     [[nodiscard]] std::optional<cTemplateFields> Load(const cTemplateNode& node) const;

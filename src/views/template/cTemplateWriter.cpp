@@ -178,7 +178,7 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
     fields.Group = item.TemplateCategory;
     fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {}), m_decimal) : QString();
     fields.Limit = ShownAccountLimit(item, m_decimal);
-    fields.Date = start && start->EntryDate.isValid() ? start->EntryDate : today;
+    fields.Date = start ? start->EntryDate : today; // an unreadable day is shown as none, not as today
     fields.Numbers = cBankNumbers(m_data, m_settings).Of(item.TemplateName).join(u'\n');
     fields.Comment = item.TemplateComment;
     fields.IsVisible = modTemplate::IsVisible(item);
@@ -318,6 +318,13 @@ bool cTemplateWriter::WriteVisible(const QString& main, bool isVisible)
     });
 }
 
+bool cTemplateWriter::HasDay(const cTemplateFields& old, const cTemplateFields& fields)
+{
+    const bool isUnchanged = fields.Amount == old.Amount && fields.Date == old.Date;
+    return isUnchanged || fields.Amount.trimmed().isEmpty() || fields.Date.isValid()
+        || Refuse(cText::Tr("Bitte geben Sie den Tag des Startguthabens an, zum Beispiel 31.01.2026."));
+}
+
 bool cTemplateWriter::StaysOpen(const cTemplateItem& account, const cTemplateFields& fields)
 {
     const cTemplateItemList accounts = m_data.GetAccounts();
@@ -352,7 +359,7 @@ std::optional<QString> cTemplateWriter::SaveAccount(const cTemplateItem& item, c
     const QString name = Cleaned(fields.Name);
     // A name that nobody has touched is not renamed, even if it will not stay as it is.
     const bool isRenamed = fields.Name != item.TemplateName && name != item.TemplateName;
-    if (!StaysOpen(item, fields) || !ConfirmNumbers(item.TemplateName, fields.Numbers)) {
+    if (!HasDay(old, fields) || !StaysOpen(item, fields) || !ConfirmNumbers(item.TemplateName, fields.Numbers)) {
         return std::nullopt;
     }
     const QString step = isRenamed ? cText::Tr("Konto '{0}' umbenannt", {item.TemplateName})

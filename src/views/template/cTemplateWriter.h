@@ -25,7 +25,7 @@ struct cTemplateFields
     QString Amount;   // as typed: value of a category (see modTemplate::LimitCents), or start balance; empty for none
     QString Vat;      // of a category, as typed: percent; empty for none
     QString Limit;    // of an account, as typed: below it there is a warning; empty for none
-    QDate Date;       // of the start balance
+    QDate Date;       // of the start balance; invalid when none or none that can be read stands there
     QString Numbers;  // the bank's numbers of the account, one a line
     QString Comment;
     bool IsVisible = true;   // for a main category: of everything below it
@@ -75,6 +75,7 @@ private:
     [[nodiscard]] bool WriteStartBalance(const QString& account, const cTemplateFields& fields);
     [[nodiscard]] bool WriteNumbers(const QString& account, const QString& text);
     [[nodiscard]] bool CanSaveMain(const QString& main, const cTemplateFields& fields);
+    [[nodiscard]] bool HasDay(const cTemplateFields& old, const cTemplateFields& fields);
     [[nodiscard]] bool StaysOpen(const cTemplateItem& account, const cTemplateFields& fields);
     [[nodiscard]] bool ConfirmNumbers(const QString& account, const QString& text);
     [[nodiscard]] bool IsAmount(const QString& text);                  // says so when it is none

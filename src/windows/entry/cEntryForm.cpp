@@ -205,6 +205,7 @@ void cEntryForm::Show(const cEntryFields& fields)
     cboKategorie->SetPath(fields.Category, fields.CategoryText);
     txtBeschreibung->setText(fields.Description);
     ShowDay(*EntryDate, fields.Date, fields.DateText);
+    EntryDate->setPlaceholderText(fields.IsDayKept ? cText::Tr("nicht lesbar") : QString());
     modChoice::Choose(*cboKonto, fields.Account);
     modChoice::Choose(*cboBuchungsart, fields.Type);
     modChoice::Choose(*cboNachKonto, fields.Target);

@@ -3,11 +3,11 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/main/cMainModel.h"
+#include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/modDayRange.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -15,9 +15,6 @@
 namespace {
 
 constexpr int mostColumns = 3; // of fields with their labels
-
-// A day that no book holds stands for an open side of the period; the field then shows its special text.
-const QDate openDay(1000, 1, 1);
 
 QComboBox* MakeCombo(QWidget* parent, const cVocabulary& words)
 {
@@ -28,18 +25,6 @@ QComboBox* MakeCombo(QWidget* parent, const cVocabulary& words)
         combo->addItem(shown.at(i), stored.at(i));
     }
     return combo;
-}
-
-QDateEdit* MakeDay(QWidget* parent, const QString& name)
-{
-    auto* edit = new QDateEdit(parent);
-    edit->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    edit->setCalendarPopup(true);
-    edit->setKeyboardTracking(false);
-    edit->setMinimumDate(openDay);
-    edit->setSpecialValueText(cText::Tr("offen"));
-    edit->setAccessibleName(name);
-    return edit;
 }
 
 void Choose(QComboBox& combo, const QString& stored)
@@ -54,8 +39,8 @@ cViewBar::cViewBar(cMainModel& model, QWidget* parent)
     : QWidget(parent),
       m_model(model),
       m_period(MakeCombo(this, modWord::Periods())),
-      m_start(MakeDay(this, cText::Tr("Erster Tag des Zeitraums"))),
-      m_end(MakeDay(this, cText::Tr("Letzter Tag des Zeitraums"))),
+      m_start(MakeDay(cText::Tr("Erster Tag des Zeitraums"))),
+      m_end(MakeDay(cText::Tr("Letzter Tag des Zeitraums"))),
       m_account(new QComboBox(this)),
       m_type(MakeCombo(this, modWord::ViewTypes())),
       m_grouping(MakeCombo(this, modWord::Groupings())),
@@ -63,6 +48,15 @@ cViewBar::cViewBar(cMainModel& model, QWidget* parent)
 {
     Build();
     Connect();
+}
+
+cDayEdit* cViewBar::MakeDay(const QString& name)
+{
+    auto* edit = new cDayEdit(m_model.Today(), this);
+    edit->setPlaceholderText(cText::Tr("offen"));
+    edit->setAccessibleName(name);
+    edit->setMinimumWidth(edit->sizeHint().width());
+    return edit;
 }
 
 void cViewBar::Build()
@@ -96,18 +90,18 @@ void cViewBar::Connect()
     connect(m_grouping, &QComboBox::activated, this,
             [this] { m_model.ChooseGrouping(m_grouping->currentData().toString()); });
     connect(m_filter, &QLineEdit::textChanged, &m_model, &cMainModel::TypeFilter);
-    const auto chooseRange = [this] { m_model.ChooseFreeRange({m_start->date(), m_end->date()}); };
-    connect(m_start, &QDateEdit::dateChanged, this, chooseRange);
-    connect(m_end, &QDateEdit::dateChanged, this, chooseRange);
+    const auto chooseRange = [this] { m_model.ChooseFreeRange({m_start->Chosen(), m_end->Chosen()}); };
+    connect(m_start, &cDayEdit::DayChosen, this, chooseRange);
+    connect(m_end, &cDayEdit::DayChosen, this, chooseRange);
 }
 
-void cViewBar::ShowDay(QDateEdit& edit, QDate day)
+void cViewBar::ShowDay(cDayEdit& edit, QDate day)
 {
-    const QSignalBlocker blocker(edit);
-    edit.setDate(day.isValid() && day > openDay ? day : openDay);
-    edit.setReadOnly(!m_model.IsFreePeriod());
-    edit.setCalendarPopup(m_model.IsFreePeriod());
-    edit.setButtonSymbols(m_model.IsFreePeriod() ? QDateEdit::UpDownArrows : QDateEdit::NoButtons);
+    edit.SetDay(day);
+    edit.SetReadOnly(!m_model.IsFreePeriod());
+    if (edit.isReadOnly()) {
+        edit.setToolTip(cText::Tr("Andere Tage wählen Sie mit dem Zeitraum \"Freier Zeitraum\"."));
+    }
 }
 
 void cViewBar::ShowView()

@@ -4,9 +4,9 @@
 
 #include <QWidget>
 
+class cDayEdit;
 class cMainModel;
 class QComboBox;
-class QDateEdit;
 class QLineEdit;
 
 // The selectors above the list: period with its two days, account, kind of entry, grouping, and the text filter.
@@ -23,12 +23,13 @@ public:
 private:
     void Build();
     void Connect();
-    void ShowDay(QDateEdit& edit, QDate day);
+    cDayEdit* MakeDay(const QString& name);
+    void ShowDay(cDayEdit& edit, QDate day);
 
     cMainModel& m_model;
     QComboBox* m_period;
-    QDateEdit* m_start;
-    QDateEdit* m_end;
+    cDayEdit* m_start;
+    cDayEdit* m_end;
     QComboBox* m_account;
     QComboBox* m_type;
     QComboBox* m_grouping;

@@ -145,8 +145,8 @@ void frmKontoauszug::Connect()
     });
     connect(m_period, &QComboBox::currentIndexChanged, this, &frmKontoauszug::ChoosePeriod);
     for (cDayEdit* edit : {m_start, m_end}) {
-        connect(edit, &cDayEdit::DayEdited, this, [this] {
-            m_statement.ChooseFreeRange({m_start->Day(), m_end->Day()});
+        connect(edit, &cDayEdit::DayChosen, this, [this] {
+            m_statement.ChooseFreeRange({m_start->Chosen(), m_end->Chosen()});
         });
     }
     connect(m_filter, &QLineEdit::textChanged, &m_statement, &cStatementListModel::TypeFilter);

@@ -3,12 +3,12 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/widget/cDayEdit.h"
 #include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,8 +17,6 @@
 #include <QPushButton>
 
 #include <algorithm>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -49,7 +47,7 @@ QString WithoutMnemonic(QString text)
 
 } // namespace
 
-cTemplatePanel::cTemplatePanel(QWidget* parent)
+cTemplatePanel::cTemplatePanel(QDate today, QWidget* parent)
     : QWidget(parent),
       m_title(new QLabel(this)),
       m_hint(new QLabel(this)),
@@ -63,7 +61,7 @@ cTemplatePanel::cTemplatePanel(QWidget* parent)
       m_limitHint(new QLabel(this)),
       m_vat(new QLineEdit(this)),
       m_start(new QLineEdit(this)),
-      m_date(new QDateEdit(this)),
+      m_date(new cDayEdit(today, this)),
       m_startRow(new QWidget(this)),
       m_numbers(new QPlainTextEdit(this)),
       m_numbersHint(new QLabel(this)),
@@ -128,8 +126,6 @@ void cTemplatePanel::BuildFields()
     start->addWidget(m_start, 1);
     start->addWidget(new QLabel(cText::Tr("am"), m_startRow));
     start->addWidget(m_date);
-    m_date->setCalendarPopup(true);
-    m_date->setDisplayFormat(u"dd.MM.yyyy"_s);
     m_date->setAccessibleName(cText::Tr("Tag des Startguthabens"));
     m_group->setEditable(true);
     m_group->setInsertPolicy(QComboBox::NoInsert);
@@ -192,7 +188,7 @@ void cTemplatePanel::Connect()
     for (QComboBox* box : {m_type, m_interval}) {
         connect(box, &QComboBox::currentIndexChanged, this, &cTemplatePanel::ShowAmountHint);
     }
-    connect(m_date, &QDateEdit::dateChanged, this, &cTemplatePanel::ShowChanged);
+    connect(m_date, &QLineEdit::textChanged, this, &cTemplatePanel::ShowChanged);
     connect(m_numbers, &QPlainTextEdit::textChanged, this, &cTemplatePanel::ShowChanged);
     connect(m_save, &QPushButton::clicked, this, &cTemplatePanel::SaveRequested);
     connect(m_discard, &QPushButton::clicked, this, &cTemplatePanel::DiscardRequested);
@@ -266,7 +262,7 @@ void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& grou
     m_limit->setText(isAccount ? fields.Limit : fields.Amount);
     m_vat->setText(fields.Vat);
     m_start->setText(isAccount ? fields.Amount : QString());
-    m_date->setDate(fields.Date);
+    m_date->SetDay(fields.Date);
     m_numbers->setPlainText(fields.Numbers);
     m_comment->setText(fields.Comment);
     m_comment->setCursorPosition(0);
@@ -323,12 +319,13 @@ void cTemplatePanel::ShowNote(const cTemplateNode& node)
 void cTemplatePanel::SetReadOnly(bool isReadOnly)
 {
     m_isReadOnly = isReadOnly;
-    for (QWidget* field : QWidgetList{m_bookable, m_type, m_interval, m_date, m_visible, m_group}) {
+    for (QWidget* field : QWidgetList{m_bookable, m_type, m_interval, m_visible, m_group}) {
         field->setEnabled(!isReadOnly);
     }
     for (QLineEdit* edit : {m_name, m_limit, m_vat, m_start, m_comment}) {
         edit->setReadOnly(isReadOnly);
     }
+    m_date->SetReadOnly(isReadOnly);
     m_numbers->setReadOnly(isReadOnly);
 }
 

@@ -7,10 +7,10 @@
 
 #include <vector>
 
+class cDayEdit;
 class cTemplateManager;
 class QCheckBox;
 class QComboBox;
-class QDateEdit;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -23,7 +23,8 @@ class cTemplatePanel final : public QWidget
     Q_OBJECT
 
 public:
-    explicit cTemplatePanel(QWidget* parent = nullptr);
+    // Distances such as "+7" in a day count from `today`.
+    explicit cTemplatePanel(QDate today, QWidget* parent = nullptr);
 
     // The fields of a line, or what can be done with one that has none; null for no line at all.
     void ShowLine(const cTemplateManager& manager, const cTemplateNode* node);
@@ -81,7 +82,7 @@ private:
     QLabel* m_limitHint;
     QLineEdit* m_vat;
     QLineEdit* m_start;
-    QDateEdit* m_date;
+    cDayEdit* m_date;
     QWidget* m_startRow;
     QPlainTextEdit* m_numbers;
     QLabel* m_numbersHint;

@@ -34,7 +34,7 @@ frmKategorie::frmKategorie(cTemplateManager& manager, QWidget* parent)
       m_tabs(new QTabWidget(this)),
       m_categories(new cTemplateTree(manager.Categories(), this)),
       m_accounts(new cTemplateTree(manager.Accounts(), this)),
-      m_panel(new cTemplatePanel(this))
+      m_panel(new cTemplatePanel(manager.Today(), this))
 {
     setWindowTitle(cText::Tr("Kategorien und Konten"));
     m_categories->setAccessibleName(cText::Tr("Kategorien"));

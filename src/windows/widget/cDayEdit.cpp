@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "base/modDayText.h"
+#include "windows/widget/modBadField.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPopup.h"
 #include "windows/widget/modTone.h"
@@ -11,6 +12,7 @@
 #include <QBoxLayout>
 #include <QCalendarWidget>
 #include <QFocusEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QTextCharFormat>
 
@@ -38,24 +40,44 @@ bool OpensCalendar(const QKeyEvent& event)
 
 } // namespace
 
-cDayEdit::cDayEdit(QDate today, QWidget* parent) : QLineEdit(parent), m_today(today)
+cDayEdit::cDayEdit(QDate today, QWidget* parent)
+    : QLineEdit(parent),
+      m_today(today),
+      m_calendar(addAction(modIcon::Get(u"kalender"_s), QLineEdit::TrailingPosition))
 {
-    QAction* calendar = addAction(modIcon::Get(u"kalender"_s), QLineEdit::TrailingPosition);
-    calendar->setToolTip(cText::Tr("Kalender (F4)"));
-    calendar->setText(cText::Tr("Kalender"));
-    connect(calendar, &QAction::triggered, this, &cDayEdit::OpenCalendar);
-    connect(this, &QLineEdit::textEdited, this, &cDayEdit::DayEdited);
-    setToolTip(cText::Tr("Auch 3, 3.5., +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender"));
+    m_calendar->setToolTip(cText::Tr("Kalender (F4)"));
+    m_calendar->setText(cText::Tr("Kalender"));
+    connect(m_calendar, &QAction::triggered, this, &cDayEdit::OpenCalendar);
+    connect(this, &QLineEdit::returnPressed, this, &cDayEdit::TellChosen);
+    SetReadOnly(false);
+}
+
+void cDayEdit::SetReadOnly(bool isReadOnly)
+{
+    setReadOnly(isReadOnly);
+    m_calendar->setVisible(!isReadOnly);
+    setToolTip(isReadOnly
+                   ? QString()
+                   : cText::Tr("Auch 3, 3.5., +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender"));
 }
 
 void cDayEdit::SetDay(QDate day)
 {
+    m_chosen = day;
     setText(modDate::ToGerman(day));
+    if (modBadField::IsMarked(*this)) {
+        modBadField::Clear(*this);
+    }
 }
 
 QDate cDayEdit::Day() const
 {
     return modDayText::Read(text(), m_today);
+}
+
+bool cDayEdit::IsReadable() const
+{
+    return Day().isValid() || text().trimmed().isEmpty();
 }
 
 QSize cDayEdit::sizeHint() const
@@ -66,18 +88,28 @@ QSize cDayEdit::sizeHint() const
 
 void cDayEdit::Pick(QDate day)
 {
-    SetDay(day);
+    setText(modDate::ToGerman(day));
     selectAll();
     Q_EMIT textEdited(text()); // the user did it, if not letter by letter
+    TellChosen();
+}
+
+void cDayEdit::TellChosen()
+{
+    if (IsReadable() && Day() != m_chosen) {
+        m_chosen = Day();
+        Q_EMIT DayChosen();
+    }
 }
 
 void cDayEdit::OpenCalendar()
 {
-    auto* popup = new QWidget(this, Qt::Popup);
+    auto* popup = new QFrame(this, Qt::Popup);
+    popup->setFrameShape(QFrame::StyledPanel);
     popup->setAttribute(Qt::WA_DeleteOnClose);
     auto* calendar = new QCalendarWidget(popup);
     auto* layout = new QVBoxLayout(popup);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(1, 1, 1, 1);
     layout->addWidget(calendar);
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     QTextCharFormat weekend;
@@ -99,6 +131,10 @@ void cDayEdit::OpenCalendar()
 
 void cDayEdit::keyPressEvent(QKeyEvent* event)
 {
+    if (isReadOnly()) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
     if (OpensCalendar(*event)) {
         OpenCalendar();
         return;
@@ -121,8 +157,14 @@ void cDayEdit::focusInEvent(QFocusEvent* event)
 
 void cDayEdit::focusOutEvent(QFocusEvent* event)
 {
-    if (event->reason() != Qt::PopupFocusReason && Day().isValid()) {
-        SetDay(Day());
-    }
     QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::PopupFocusReason || isReadOnly()) {
+        return;
+    }
+    if (!IsReadable()) {
+        modBadField::Mark(*this);
+    } else if (Day().isValid()) {
+        setText(modDate::ToGerman(Day()));
+    }
+    TellChosen();
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+
+#include <QList>
+#include <QString>
+
+// What keeps an entry out of sight or out of the sums.
+enum class eEntryFault {
+    Day,      // none, or one that cannot be read: no period holds it
+    Interval, // none, or an unknown one together with a last day that hides it
+    End,      // a series that ends before it begins
+    Amount    // none, or one that cannot be read: it counts as 0
+};
+
+// An entry with faults, and what stands in the file where they are.
+struct cFaultyEntry
+{
+    cEntryItem Entry;
+    QString DayText;
+    QString AmountText;
+    QList<eEntryFault> Faults;
+};

@@ -1,0 +1,95 @@
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modRow.h"
+#include "store/modSchema.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+// What is wrong with a book: with its file, its tables, its entries.
+
+namespace {
+
+// The entries for which a condition holds.
+QSet<int> Where(cDatabase& database, const char* condition)
+{
+    QSet<int> ids;
+    cRows rows(database, std::string("SELECT ID FROM data WHERE ") + condition);
+    while (rows.Next()) {
+        ids.insert(static_cast<int>(rows.Integer(0)));
+    }
+    return ids;
+}
+
+// True for a last day that the query for series takes for the end, and that lies before the first one.
+bool EndsBeforeItBegins(const cEntryItem& entry)
+{
+    return entry.EntryDate.isValid() && modRecurrence::EffectiveEnd(entry.EntryDateEnd) < entry.EntryDate;
+}
+
+class cFaultReader
+{
+public:
+    explicit cFaultReader(cDatabase& database)
+        : m_withoutInterval(Where(database, "EntryInterval IS NULL")),
+          m_withoutDay(Where(database, "date(EntryDate) IS NULL"))
+    {
+    }
+
+    [[nodiscard]] cFaultyEntry Read(const cRows& row)
+    {
+        cFaultyEntry found{m_reader.Read(row), row.Text(1), row.Text(8), {}};
+        const cEntryItem& entry = found.Entry;
+        const bool isSeries = modRecurrence::IsRecurring(entry.EntryInterval);
+        const bool isKnown = isSeries || entry.EntryInterval == modWord::Einmalig;
+        const auto note = [&](bool isFaulty, eEntryFault fault) {
+            if (isFaulty) {
+                found.Faults.append(fault);
+            }
+        };
+        note(!entry.EntryDate.isValid() || m_withoutDay.contains(entry.ID), eEntryFault::Day);
+        note(m_withoutInterval.contains(entry.ID) || (!isKnown && EndsBeforeItBegins(entry)), eEntryFault::Interval);
+        note(isSeries && EndsBeforeItBegins(entry), eEntryFault::End);
+        note(!modRow::ReadCents(row.Bytes(8)), eEntryFault::Amount);
+        return found;
+    }
+
+private:
+    cEntryReader m_reader;
+    QSet<int> m_withoutInterval;
+    QSet<int> m_withoutDay; // that SQLite can compare with a period
+};
+
+} // namespace
+
+QList<cFaultyEntry> cDataAccess::GetFaultyEntries()
+{
+    QList<cFaultyEntry> faulty;
+    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetFaultyEntries\n{0}"), [&] {
+        cFaultReader reader(m_database);
+        cRows rows(m_database, cEntryReader::Select + std::string(" ORDER BY ID"));
+        while (rows.Next()) {
+            const cFaultyEntry entry = reader.Read(rows);
+            if (!entry.Faults.isEmpty()) {
+                faulty.append(entry);
+            }
+        }
+    });
+    return faulty;
+}
+
+QStringList cDataAccess::GetFileProblems()
+{
+    try {
+        return m_database.IntegrityCheck();
+    } catch (const cDatabaseError& error) {
+        return {error.Text()};
+    }
+}
+
+QStringList cDataAccess::GetMissingParts()
+{
+    return modSchema::MissingOfTemplate(m_database);
+}
