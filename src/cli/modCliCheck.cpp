@@ -1,4 +1,5 @@
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
@@ -10,9 +11,9 @@ namespace {
 int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    modConsole::Out(cText::Tr("{0}: gültige Datenbank, {1} Einträge, {2} Umsätze",
-                              {book.File().Path(), QString::number(book.Data.CountEntries()),
-                               QString::number(book.Hive.GetImportHive().Count())})
+    modConsole::Out(cText::Tr("{0}: gültige Datenbank, {1}, {2}",
+                              {book.File().Path(), modCount::Entries(book.Data.CountEntries()),
+                               modCount::Rows(book.Hive.GetImportHive().Count())})
                     + u'\n');
     const QStringList added = book.File().Added();
     if (!added.isEmpty()) {

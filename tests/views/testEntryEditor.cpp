@@ -339,6 +339,9 @@ void testEntryEditor::PreviewsSeries_data()
     QTest::newRow("open") << u"20.1."_s << QString()
                           << u"ohne Ende, nächste Termine: 20.03.2026, 20.04.2026, 20.05.2026"_s;
     QTest::newRow("bounded") << u"20.1."_s << u"30.4."_s << u"4 Mal, nächste Termine: 20.03.2026, 20.04.2026"_s;
+    QTest::newRow("one, and the last") << u"20.4."_s << u"30.4."_s << u"1 Mal, nächste Termine: 20.04.2026"_s;
+    QTest::newRow("end before the start")
+        << u"20.4."_s << u"1.3."_s << u"kein Termin, das Ende liegt vor dem ersten Tag"_s;
     QTest::newRow("over") << u"20.1."_s << u"1.3."_s << u"2 Mal, keine weiteren Termine"_s;
     QTest::newRow("unreadable") << u"irgendwann"_s << QString() << QString();
 }

@@ -223,7 +223,11 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
     for (const QDate day : std::as_const(preview.Next)) {
         days.append(modDate::ToGerman(day));
     }
-    const bool isOpen = series.EntryDateEnd == modRecurrence::OpenEnd;
+    const bool isOpen = modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd;
+    if (!isOpen && preview.Count == 0) {
+        preview.Text = cText::Tr("kein Termin, das Ende liegt vor dem ersten Tag");
+        return preview;
+    }
     const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
     preview.Text = days.isEmpty() ? cText::Tr("{0}, keine weiteren Termine", {count})
                                   : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});

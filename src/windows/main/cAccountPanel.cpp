@@ -87,12 +87,7 @@ cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
     layout->setContentsMargins(6, 6, 0, 6);
     layout->addWidget(m_title);
     layout->addWidget(m_view);
-    connect(m_view, &QTreeView::clicked, this, [this](const QModelIndex& index) {
-        const QString account = m_model.AccountAt(index);
-        if (!account.isEmpty()) {
-            Q_EMIT AccountChosen(account);
-        }
-    });
+    connect(m_view, &QTreeView::clicked, this, &cAccountPanel::Choose);
     connect(m_view, &QTreeView::doubleClicked, this, [this] { Q_EMIT AccountChosen({}); });
     connect(m_view, &QWidget::customContextMenuRequested, this, &cAccountPanel::OpenMenu);
 }
@@ -102,9 +97,11 @@ void cAccountPanel::SetTitle(const QString& title)
     m_title->setText(title);
 }
 
-QString cAccountPanel::CurrentAccount() const
+void cAccountPanel::Choose(const QModelIndex& row)
 {
-    return m_model.AccountAt(m_view->currentIndex());
+    if (const std::optional<QString> account = m_model.ChoiceAt(row)) {
+        Q_EMIT AccountChosen(*account);
+    }
 }
 
 bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
@@ -115,8 +112,8 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
             Q_EMIT AccountChosen({});
             return true;
         }
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !CurrentAccount().isEmpty()) {
-            Q_EMIT AccountChosen(CurrentAccount());
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            Choose(m_view->currentIndex());
             return true;
         }
     }

@@ -69,6 +69,9 @@ cViewBar::cViewBar(cMainModel& model, QWidget* parent)
 {
     Build();
     Connect();
+    for (auto* day : {m_start, m_end}) {
+        ShowDay(*day, m_model.Today()); // until the view is restored
+    }
 }
 
 void cViewBar::Build()

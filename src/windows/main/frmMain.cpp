@@ -27,6 +27,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+const QString pageSetting = u"MainSeite"_s; // number of the page in front
+
+} // namespace
+
 frmMain::frmMain(cMainModel& model, QWidget* parent)
     : QMainWindow(parent),
       m_model(model),
@@ -155,6 +161,7 @@ void frmMain::RestoreLayout()
         setWindowState(Qt::WindowMaximized);
     }
     m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
+    m_tree->SetGroupText(m_model.Layout(u"GroupEntries"_s));
     ShowCommands();
 }
 
@@ -165,8 +172,11 @@ QList<int> frmMain::EntryColumns() const
 
 void frmMain::ShowToday()
 {
+    m_tabs->setCurrentIndex(m_model.Layout(pageSetting).toInt()); // the tabs pass over a number that they do not have
     m_tree->ScrollTo(m_model.Today());
-    m_tree->setFocus();
+    if (Page() == ePage::Entries) {
+        m_tree->setFocus();
+    }
 }
 
 void frmMain::ShowView()
@@ -205,6 +215,7 @@ void frmMain::ShowCommands()
 void frmMain::ResetLayout()
 {
     m_tree->SetLayoutText({});
+    m_tree->SetGroupText({});
     setWindowState(Qt::WindowNoState);
     TakeUsualSize();
 }
@@ -265,6 +276,8 @@ void frmMain::SaveLayout()
     const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
     m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
+    m_model.SaveListLayout(u"GroupEntries"_s, m_tree->GroupText());
+    m_model.SaveListLayout(pageSetting, QString::number(m_tabs->currentIndex()));
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

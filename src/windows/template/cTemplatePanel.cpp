@@ -273,7 +273,8 @@ void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNo
     m_hint->setText(manager.Hint(*node));
     const bool isOfAccounts = node->IsOfAccounts();
     m_numbersHint->setText(isOfAccounts ? manager.NumbersHint() : QString());
-    m_numbersHint->setMinimumHeight(m_numbersHint->heightForWidth(m_numbers->width())); // a form cuts wrapped lines
+    // A form cuts wrapped lines. A label that never had a text says -1.
+    m_numbersHint->setMinimumHeight(qMax(0, m_numbersHint->heightForWidth(m_numbers->width())));
     if (const std::optional<cTemplateFields> fields = manager.Load(*node)) {
         ShowFields(*node, *fields, isOfAccounts ? manager.Groups() : manager.Mains());
         m_name->setEnabled(!manager.IsNameFixed(*node));
