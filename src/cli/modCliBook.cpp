@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliTable.h"
@@ -112,14 +113,16 @@ void PrintJson(const QList<int>& ids, const QHash<int, cProposal>& proposals)
 
 int Report(const cBookingResult& result)
 {
-    modConsole::Out(cText::Tr("{0} Einträge neu, {1} Umsätze zugeordnet",
-                              {QString::number(result.Entries), QString::number(result.Rows)})
-                    + (result.Joined > 0
-                           ? cText::Tr(", davon {0} zu vorhandenen Einträgen", {QString::number(result.Joined)})
-                           : QString())
-                    + u'\n');
+    const QString joined = result.Joined == 1
+        ? cText::Tr(", davon 1 zu einem vorhandenen Eintrag")
+        : cText::Tr(", davon {0} zu vorhandenen Einträgen", {QString::number(result.Joined)});
+    modConsole::Out(
+        cText::Tr("{0} neu, {1} zugeordnet", {modCount::Entries(result.Entries), modCount::Rows(result.Rows)})
+        + (result.Joined > 0 ? joined : QString()) + u'\n');
     if (result.Failed > 0) {
-        modConsole::Error(cText::Tr("{0} Umsätze konnten nicht gebucht werden.", {QString::number(result.Failed)}));
+        modConsole::Error(result.Failed == 1 ? cText::Tr("1 Umsatz konnte nicht gebucht werden.")
+                                             : cText::Tr("{0} Umsätze konnten nicht gebucht werden.",
+                                                         {QString::number(result.Failed)}));
     }
     for (const QString& number : result.UnknownAccounts) {
         modConsole::Error(

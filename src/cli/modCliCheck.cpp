@@ -1,4 +1,5 @@
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
@@ -37,11 +38,11 @@ void Show(const cFaultyEntry& faulty)
 
 QString Head(cCliBook& book)
 {
-    const QString entries = QString::number(book.Data.CountEntries());
+    const QString entries = modCount::Entries(book.Data.CountEntries());
     return book.Data.GetMissingParts().isEmpty()
-        ? cText::Tr("{0}: gültige Datenbank, {1} Einträge, {2} Umsätze",
-                    {book.File().Path(), entries, QString::number(book.Hive.GetImportHive().Count())})
-        : cText::Tr("{0}: {1} Einträge", {book.File().Path(), entries});
+        ? cText::Tr("{0}: gültige Datenbank, {1}, {2}",
+                    {book.File().Path(), entries, modCount::Rows(book.Hive.GetImportHive().Count())})
+        : cText::Tr("{0}: {1}", {book.File().Path(), entries});
 }
 
 int Run(const cCliContext& context)

@@ -1,6 +1,7 @@
 #include "base/cClock.h"
 #include "base/cProgress.h"
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
@@ -62,10 +63,8 @@ int Run(const cCliContext& context)
     if (writer.WriteFile(Extract(context, selection), *format, path) != cEntryExport::eDone::Written) {
         return modExit::Failed;
     }
-    const QString count = selection.Entries.size() == 1
-        ? cText::Tr("1 Eintrag")
-        : cText::Tr("{0} Einträge", {QString::number(selection.Entries.size())});
-    modConsole::Out(cText::Tr("{0} nach '{1}' exportiert.", {count, path}) + u'\n');
+    modConsole::Out(cText::Tr("{0} nach '{1}' exportiert.", {modCount::Entries(selection.Entries.size()), path})
+                    + u'\n');
     return modExit::Done;
 }
 

@@ -1,10 +1,12 @@
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliEntryList.h"
 #include "model/modBalance.h"
+#include "model/modWord.h"
 #include "views/list/cSearch.h"
 
 #include <algorithm>
@@ -49,19 +51,26 @@ cSearchQuery ReadQuery(const cCliCall& call, cCliReader& reader)
 
 void PrintSums(const cCliBook& book, const cEntryItemList& entries, const QString& account)
 {
+    qint64 start = 0;
     qint64 income = 0;
     qint64 expense = 0;
     for (const cEntryItem& entry : entries) {
         const qint64 effect = modBalance::Effect(entry, account);
+        if (entry.EntryCategory == modWord::Startguthaben) {
+            start += effect; // money that was there before is no income
+            continue;
+        }
         income += qMax<qint64>(0, effect);
         expense -= qMin<qint64>(0, effect);
     }
-    const QString count =
-        entries.size() == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(entries.size())});
-    modConsole::Out(
-        cText::Tr("{0}, Einnahmen {1}, Ausgaben {2}, Saldo {3}",
-                  {count, book.AmountText(income), book.AmountText(expense), book.AmountText(income - expense)})
-        + u'\n');
+    QStringList parts{modCount::Entries(entries.size())};
+    if (start != 0) {
+        parts.append(cText::Tr("Startguthaben {0}", {book.AmountText(start)}));
+    }
+    parts.append(
+        cText::Tr("Einnahmen {0}, Ausgaben {1}, Saldo {2}",
+                  {book.AmountText(income), book.AmountText(expense), book.AmountText(start + income - expense)}));
+    modConsole::Out(parts.join(u", "_s) + u'\n');
 }
 
 int Run(const cCliContext& context)

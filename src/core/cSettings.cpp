@@ -14,6 +14,12 @@ constexpr std::array keptOnReset{u"passwortaktiv", u"passwort", u"lastversion", 
 constexpr std::array viewSwitches{u"ViewSingleBooking", u"ViewFixBooking", u"ViewFutureBooking", u"ViewStartBooking",
                                   u"ViewAccountValueAll"};
 
+bool IsViewSwitch(const QString& name)
+{
+    return std::any_of(viewSwitches.begin(), viewSwitches.end(),
+                       [&](const char16_t* each) { return name.compare(QStringView(each), Qt::CaseInsensitive) == 0; });
+}
+
 bool IsKeptOnReset(const QString& lowerName)
 {
     const bool isListed =
@@ -67,7 +73,8 @@ bool cSettings::Delete(const QString& name)
 
 bool cSettings::GetBool(const QString& name) const
 {
-    return ToBool(Get(name));
+    const QString value = Get(name);
+    return ToBool(value) || (value.isEmpty() && IsViewSwitch(name));
 }
 
 bool cSettings::SetBool(const QString& name, bool value)

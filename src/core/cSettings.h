@@ -20,7 +20,8 @@ public:
     bool Set(const QString& name, const QString& value);  // false, and unchanged in memory, when the database refuses
     bool Delete(const QString& name);
 
-    // Truth values of the settings; see ToBool.
+    // Truth values of the settings; see ToBool. The five view switches are on until somebody switches them off; any
+    // other name that is unknown is false.
     [[nodiscard]] bool GetBool(const QString& name) const;
     bool SetBool(const QString& name, bool value);
 

@@ -2,6 +2,7 @@
 
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "store/modSchema.h"
 
@@ -70,8 +71,7 @@ bool modBookFile::IsSound(const cContent& content)
 
 QString modBookFile::Describe(const cContent& content)
 {
-    const QString count =
-        content.Entries == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(content.Entries)});
+    const QString count = modCount::Entries(content.Entries);
     const QString file = cText::Tr("Datei vom {0} {1}",
                                    {modDate::ToGerman(content.Modified.date()), content.Modified.toString(u"HH:mm"_s)});
     return content.LastEntry.isValid()

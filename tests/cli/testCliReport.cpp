@@ -18,6 +18,7 @@ private Q_SLOTS:
     void AsTable();
     void AsJson();
     void Files();
+    void RefundsUseUpNothing();
     void Refused_data();
     void Refused();
 
@@ -92,6 +93,16 @@ void testCliReport::Files()
     QFile csv(table);
     QVERIFY(csv.open(QIODevice::ReadOnly));
     QVERIFY(csv.readAll().contains("Ausgaben;Wohnung;Strom;300,00;1"));
+}
+
+// More came back than was spent: a share below zero says nothing.
+void testCliReport::RefundsUseUpNothing()
+{
+    QCOMPARE(Run(u"categories|add|Haushalt; Toaster|--limit|100"_s).Code, 0);
+    QCOMPARE(Run(u"add|--amount|50|--kind|Einnahme|--category|Haushalt; Toaster|--date|2025-02-06"_s).Code, 0);
+    const cCliRun run = Run(u"report|limit|--from|2025-02-01|--to|2025-02-28"_s);
+    const QString text = QString(run.Out).replace(u'\u00A0', u' ').simplified();
+    QVERIFY2(text.contains(u"Toaster -50,00 € 100,00 € 0 1"_s), qPrintable(run.Out));
 }
 
 void testCliReport::Refused_data()

@@ -67,6 +67,19 @@ private Q_SLOTS:
         QCOMPARE(cSettings::ToBool(cSettings::FromBool(isTrue)), isTrue);
     }
 
+    // A book of an older version knows only some of them.
+    void ViewSwitchesAreOnUntilSwitchedOff() const
+    {
+        cOpened book;
+        cSettings settings(book.Data);
+        QVERIFY(settings.Set(u"MainZeitraum"_s, u"Aktuelles Jahr"_s));
+        QVERIFY(settings.GetBool(u"ViewStartBooking"_s));
+        QVERIFY(settings.GetBool(u"viewAccountValueAll"_s));
+        QVERIFY(settings.SetBool(u"ViewStartBooking"_s, false));
+        QVERIFY(!settings.GetBool(u"ViewStartBooking"_s));
+        QVERIFY(!settings.GetBool(u"HideBookedEntries"_s));
+    }
+
     void NamesIgnoreCase() const
     {
         cOpened book;

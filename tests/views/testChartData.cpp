@@ -73,6 +73,11 @@ private Q_SLOTS:
         QCOMPARE(Values(main, 0), (QStringList{u"Wohnen=75000"_s, u"Haushalt=25000"_s}));
         QCOMPARE(main.Labels, QStringList{u"2026"_s});
         QCOMPARE(main.PartText(0, 0).replace(QChar(QChar::Nbsp), u' '), u"Wohnen: 750,00 € (75 %)"_s);
+        const cChartFigures::cColumn share{{}, true};
+        QCOMPARE(modChartTable::Text(main, share, 5400), u"54 %"_s);
+        QCOMPARE(modChartTable::Text(main, share, 996), u"10 %"_s);
+        QCOMPARE(modChartTable::Text(main, share, 540), u"5,4 %"_s);
+        QCOMPARE(modChartTable::Text(main, share, 502), u"5 %"_s);
         const cChartTarget target = main.Series[0].TargetAt(0);
         QCOMPARE(target.Kind, cChartTarget::eKind::Deeper);
         wish.Group = target.Node->Group;

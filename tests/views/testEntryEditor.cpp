@@ -394,6 +394,7 @@ void testEntryEditor::PreviewsSeries_data()
     QTest::newRow("over") << u"20.1."_s << u"1.3."_s << u"2 Mal, beendet: zuletzt am 20.02.2026"_s;
     QTest::newRow("never") << u"20.1."_s << u"1.1."_s
                            << u"Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin."_s;
+    QTest::newRow("one, and the last") << u"20.4."_s << u"30.4."_s << u"1 Mal, nächste Termine: 20.04.2026"_s;
     QTest::newRow("unreadable") << u"irgendwann"_s << QString() << QString();
 }
 

@@ -1,5 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
+#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
@@ -289,6 +290,10 @@ void testEntryListModel::MarksWhatIsSpecial()
     QVERIFY(model.index(4, 0).data(cEntryListModel::FutureRole).toBool()); // 1 April
     QVERIFY(!model.index(0, 0).data(cEntryListModel::FutureRole).toBool());
     QCOMPARE(model.index(1, cEntryListModel::Interval).data().toString(), u"Einmalig, korrigiert"_s);
+    cEntryListModel::cContent parts = Content();
+    modSplit::SetGroup(parts.Entries[0], 1);
+    model.SetContent(parts, {}, modWord::KeineGruppierung);
+    QCOMPARE(model.index(2, cEntryListModel::Interval).data().toString(), u"Einmalig, Teil"_s);
     QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), int(cEntryListModel::Income));
 }
 

@@ -163,6 +163,7 @@ private Q_SLOTS:
     void XlsxHoldsDatesAndNumbers();
     void XlsxSumsWithoutTransfers();
     void XlsxSumsOfOneAccount();
+    void StartBalancesAreNoIncome();
     void XlsxKeepsOddDatesAndTexts();
     void HtmlStandsAlone();
     void QifOfOneAccount();
@@ -313,6 +314,21 @@ void testExport::XlsxSumsOfOneAccount()
     QCOMPARE(table.At(u"H4"_s), u"-100"_s); // the transfer leaves the account
     QCOMPARE(table.At(u"I5"_s), u"2165.39"_s);
     QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H5,B2:B5,\"?*\",H2:H5,\"<0\") -> -1334.61"_s);
+}
+
+void testExport::StartBalancesAreNoIncome()
+{
+    cEntryListModel::cContent content = Content();
+    content.Entries.prepend(Entry(QDate(2026, 1, 1), modWord::Einnahme, 50000, modWord::Startguthaben, {}));
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    const cTable table(Bytes(modExport::eFormat::Xlsx));
+    QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H6,C2:C6,\"Allgemein; Startguthaben\") -> 500"_s);
+    QCOMPARE(table.At(u"H9"_s), u"SUMIFS(H2:H6,B2:B6,\"Einnahme\",C2:C6,\"<>Allgemein; Startguthaben\") -> 2500"_s);
+    QCOMPARE(table.At(u"H11"_s), u"SUM(H8:H10) -> 1765.39"_s);
+    const QString html = QString::fromUtf8(Bytes(modExport::eFormat::Html));
+    const qsizetype foot = html.indexOf(u"<tfoot>"_s);
+    QVERIFY(html.indexOf(u"Startguthaben"_s, foot) > foot);
+    QVERIFY(html.indexOf(u"2.500,00"_s, foot) > foot);
 }
 
 void testExport::XlsxKeepsOddDatesAndTexts()

@@ -108,7 +108,9 @@ class testMainModel final : public QObject
 private Q_SLOTS:
     void SumsFollowTheView_data();
     void SumsFollowTheView();
-    void NewBookStartsWithCurrentYear();
+    void NewBookStartsWithTheResetView();
+    void MissingSwitchesAreOn();
+    void ResetAsksFirst();
     void NewVersionResetsTheView();
     void RestoresTheView();
     void FreePeriodStartsWithTheShownDays();
@@ -135,27 +137,29 @@ void testMainModel::SumsFollowTheView_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<qint64>("income");
     QTest::addColumn<qint64>("expense");
+    QTest::addColumn<qint64>("total");
 
     const QString year = u"Aktuelles Jahr"_s;
     const QString all = modWord::AlleKonten;
     const QString types = modWord::AlleBuchungsarten;
     QTest::newRow("whole year, transfers neutral")
-        << year << all << types << QString() << 15 << qint64(200000) << qint64(844000);
+        << year << all << types << QString() << 15 << qint64(200000) << qint64(844000) << qint64(-644000);
     QTest::newRow("without future") << year << all << types << u"ViewFutureBooking"_s << 5 << qint64(200000)
-                                    << qint64(210000);
+                                    << qint64(210000) << qint64(-10000);
     QTest::newRow("only recurring") << year << all << types << u"ViewSingleBooking"_s << 12 << qint64(0)
-                                    << qint64(840000);
-    QTest::newRow("only one-off") << year << all << types << u"ViewFixBooking"_s << 3 << qint64(200000) << qint64(4000);
+                                    << qint64(840000) << qint64(-840000);
+    QTest::newRow("only one-off") << year << all << types << u"ViewFixBooking"_s << 3 << qint64(200000) << qint64(4000)
+                                  << qint64(196000);
     QTest::newRow("transfer out of the account")
-        << year << u"Girokonto"_s << u"Umbuchung"_s << QString() << 1 << qint64(0) << qint64(30000);
+        << year << u"Girokonto"_s << u"Umbuchung"_s << QString() << 1 << qint64(0) << qint64(30000) << qint64(-30000);
     QTest::newRow("transfer into the account is income")
-        << year << u"Sparkonto"_s << u"Einnahme"_s << QString() << 1 << qint64(30000) << qint64(0);
+        << year << u"Sparkonto"_s << u"Einnahme"_s << QString() << 1 << qint64(30000) << qint64(0) << qint64(30000);
     QTest::newRow("start balance hidden")
-        << u"Letztes Jahr"_s << all << types << u"ViewStartBooking"_s << 0 << qint64(0) << qint64(0);
-    QTest::newRow("start balance shown") << u"Letztes Jahr"_s << all << types << QString() << 1 << qint64(50000)
-                                         << qint64(0);
-    QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << QString() << 6 << qint64(250000)
-                                 << qint64(210000);
+        << u"Letztes Jahr"_s << all << types << u"ViewStartBooking"_s << 0 << qint64(0) << qint64(0) << qint64(0);
+    QTest::newRow("start balance is no income, but part of the sum")
+        << u"Letztes Jahr"_s << all << types << QString() << 1 << qint64(0) << qint64(0) << qint64(50000);
+    QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << QString() << 6 << qint64(200000)
+                                 << qint64(210000) << qint64(40000);
 }
 
 void testMainModel::SumsFollowTheView()
@@ -167,6 +171,7 @@ void testMainModel::SumsFollowTheView()
     QFETCH(int, count);
     QFETCH(qint64, income);
     QFETCH(qint64, expense);
+    QFETCH(qint64, total);
 
     cScene scene;
     if (!switchedOff.isEmpty()) {
@@ -176,13 +181,15 @@ void testMainModel::SumsFollowTheView()
     scene.Model->ChooseAccount(account);
     scene.Model->ChooseType(type);
 
-    const cEntryListModel::cSums expected{income, expense, count};
-    QCOMPARE(scene.Model->Entries().Sums().Count, expected.Count);
-    QCOMPARE(scene.Model->Entries().Sums().Income, expected.Income);
-    QCOMPARE(scene.Model->Entries().Sums().Expense, expected.Expense);
+    const cEntryListModel::cSums sums = scene.Model->Entries().Sums();
+    QCOMPARE(sums.Count, count);
+    QCOMPARE(sums.Income, income);
+    QCOMPARE(sums.Expense, expense);
+    QCOMPARE(sums.Total(), total);
+    QCOMPARE(scene.Model->StartText().isEmpty(), total == income - expense);
 }
 
-void testMainModel::NewBookStartsWithCurrentYear()
+void testMainModel::NewBookStartsWithTheResetView()
 {
     cTestBook book;
     const cAmountFormat format(book.Configuration);
@@ -191,12 +198,36 @@ void testMainModel::NewBookStartsWithCurrentYear()
                       navigator, book.Path()});
     model.RestoreView(true);
 
-    QCOMPARE(model.View().Period, u"Aktuelles Jahr"_s);
-    for (const QString& key : {u"ViewSingleBooking"_s, u"ViewFixBooking"_s, u"ViewFutureBooking"_s,
-                               u"ViewStartBooking"_s, u"ViewAccountValueAll"_s}) {
+    QCOMPARE(model.View().Period, modWord::AlleBuchungen);
+    for (const QString& key :
+         {u"ViewSingleBooking"_s, u"ViewFixBooking"_s, u"ViewFutureBooking"_s, u"ViewStartBooking"_s}) {
         QVERIFY2(model.IsChecked(key), qPrintable(key));
     }
+    QVERIFY(!model.IsChecked(u"ViewAccountValueAll"_s));
     QVERIFY(model.EmptyHint().contains(u"Strg+N"_s));
+}
+
+// Only the period is stored, as a book of an older version may have it.
+void testMainModel::MissingSwitchesAreOn()
+{
+    cScene scene;
+    scene.Book.Settings->Set(u"MainZeitraum"_s, u"Letztes Jahr"_s);
+    scene.Start();
+    QCOMPARE(scene.Model->Entries().rowCount(), 1);
+    QCOMPARE(scene.Model->TotalText(), Euro(u"500,00"_s));
+    QVERIFY(scene.Balances().contains(u"Gesamt "_s + Euro(u"400,00"_s)));
+    QVERIFY(scene.Model->IsChecked(u"ViewStartBooking"_s));
+}
+
+void testMainModel::ResetAsksFirst()
+{
+    cScene scene;
+    scene.Model->ChooseAccount(u"Sparkonto"_s);
+    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    scene.Model->Execute(modCommand::ResetView);
+    QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
+    scene.Model->Execute(modCommand::ResetView);
+    QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
 }
 
 void testMainModel::NewVersionResetsTheView()

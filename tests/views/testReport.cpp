@@ -110,6 +110,8 @@ private Q_SLOTS:
     void Figures();
     void Averages_data();
     void Averages();
+    void AveragesOfOpenPeriods_data();
+    void AveragesOfOpenPeriods();
     void MonthsOfALimit_data();
     void MonthsOfALimit();
     void Links_data();
@@ -279,8 +281,9 @@ void testReport::Averages_data()
     QTest::newRow("leap year") << modPeriod::cRange{QDate(2024, 1, 1), QDate(2024, 12, 31)} << 365LL << 365LL << 8333LL;
     QTest::newRow("one day") << modPeriod::cRange{QDate(2026, 5, 5), QDate(2026, 5, 5)} << 1LL << 364LL << 3033333LL;
     QTest::newRow("quarter") << modPeriod::cRange{QDate(2026, 1, 1), QDate(2026, 3, 31)} << 89LL << 364LL << 34082LL;
-    QTest::newRow("reaches into the next year")
-        << modPeriod::cRange{QDate(2025, 12, 1), QDate(2026, 1, 31)} << 61LL << 729LL << 99590LL;
+    QTest::newRow("two months of two years")
+        << modPeriod::cRange{QDate(2025, 12, 1), QDate(2026, 1, 31)} << 61LL << 729LL << 49795LL;
+    QTest::newRow("two years") << modPeriod::cRange{QDate(2025, 1, 1), QDate(2026, 12, 31)} << 729LL << 729LL << 4167LL;
 }
 
 void testReport::Averages()
@@ -291,6 +294,28 @@ void testReport::Averages()
     QTEST(basis.Days, "days");
     QTEST(basis.YearBasis, "yearBasis");
     QTEST(modReport::PerMonth(100000, basis), "average");
+}
+
+// What comes every month is its own average, however the period is chosen: open sides are those of the entries that
+// count.
+void testReport::AveragesOfOpenPeriods_data()
+{
+    QTest::addColumn<modPeriod::cRange>("range");
+    QTest::newRow("open") << modPeriod::cRange{};
+    QTest::newRow("up to today") << modPeriod::cRange{QDate(1001, 1, 1), QDate(2026, 12, 31)};
+    QTest::newRow("open end") << modPeriod::cRange{QDate(2025, 1, 1), {}};
+    QTest::newRow("two years") << modPeriod::cRange{QDate(2025, 1, 1), QDate(2026, 12, 31)};
+}
+
+void testReport::AveragesOfOpenPeriods()
+{
+    QFETCH(modPeriod::cRange, range);
+    QStringList lines{u"1999-01-01 Einnahme 700 Allgemein; Startguthaben"_s, u"2040-01-01 Umbuchung 900 Sparen"_s};
+    for (QDate day(2025, 1, 28); day.year() < 2027; day = day.addMonths(1)) {
+        lines.append(day.toString(Qt::ISODate) + u" Ausgabe 100000 Wohnung; Miete"_s);
+    }
+    const cReportFigures figures = modReport::Figures(Entries(lines), {}, Wish(eReport::Average, range));
+    QCOMPARE(Plain(figures.Expense), u"Wohnung 100000: Miete (Wohnung) 100000"_s);
 }
 
 void testReport::MonthsOfALimit_data()

@@ -269,7 +269,7 @@ void testRuleListModel::FromARow() const
     list.StartFrom(row, u"Haushalt; Getränke"_s, u"Monatlich"_s);
     QCOMPARE(list.Draft().Counterparty, u"Korn"_s);
     QCOMPARE(list.Draft().Sign, eRuleSign::Out);
-    QCOMPARE(list.TrialText(), u"passt auf 1 von 1 Umsätzen"_s);
+    QCOMPARE(list.TrialText(), u"passt auf 1 von 1 Umsatz"_s);
     QVERIFY(list.IsChanged());
     QVERIFY(list.Save());
     // Before the one that had the transaction, else it would never come to it.

@@ -68,6 +68,8 @@ private Q_SLOTS:
     void SavedEntryIsTheOnlyOneSelected();
     void NewWindowsFitTheScreen();
     void ColumnLayoutIsKept();
+    void ClosedGroupsStayClosed();
+    void PageInFrontIsKept();
     void ClickOnAnAccountFilters();
     void FreePeriodOpensTheDayFields();
     void EveryControlHasANameForScreenReaders();
@@ -175,6 +177,39 @@ void testFrmMain::ColumnLayoutIsKept()
     QVERIFY(scene.Tree().LayoutText().startsWith(u"0,"_s));
 }
 
+void testFrmMain::ClosedGroupsStayClosed()
+{
+    cScene scene;
+    scene.Model.ChooseGrouping(u"Nach Konto"_s);
+    const auto group = [&](int row) { return scene.Model.Entries().index(row, 0); };
+    const QString closed = group(0).data(cEntryListModel::NameRole).toString();
+    scene.Tree().collapse(group(0));
+    scene.Model.BookChanged();
+    QVERIFY(!scene.Tree().isExpanded(group(0)));
+    QVERIFY(scene.Tree().isExpanded(group(1)));
+    scene.Window.SaveLayout();
+    frmMain again(scene.Model);
+    again.RestoreLayout();
+    scene.Model.RestoreView(false);
+    auto& tree = *again.findChild<cEntryTree*>();
+    QCOMPARE(group(0).data(cEntryListModel::NameRole).toString(), closed);
+    QVERIFY(!tree.isExpanded(group(0)));
+    QVERIFY(tree.isExpanded(group(1)));
+    scene.Model.ResetView();
+    scene.Model.ChooseGrouping(u"Nach Konto"_s);
+    QVERIFY(tree.isExpanded(group(0)));
+}
+
+void testFrmMain::PageInFrontIsKept()
+{
+    cScene scene;
+    scene.Window.ShowPage(frmMain::ePage::Statements);
+    scene.Window.SaveLayout();
+    frmMain again(scene.Model);
+    again.ShowToday();
+    QCOMPARE(again.Page(), frmMain::ePage::Statements);
+}
+
 void testFrmMain::ClickOnAnAccountFilters()
 {
     cScene scene;
@@ -187,6 +222,11 @@ void testFrmMain::ClickOnAnAccountFilters()
     QCOMPARE(scene.Model.View().Account, u"Bargeld"_s);
     QCOMPARE(scene.Model.Entries().rowCount(), 1);
     QTest::mouseDClick(accounts->viewport(), Qt::LeftButton, {}, row.center());
+    QCOMPARE(scene.Model.View().Account, modWord::AlleKonten);
+    scene.Model.ChooseAccount(u"Bargeld"_s);
+    const cAccountListModel& list = scene.Model.AccountList();
+    QTest::mouseClick(accounts->viewport(), Qt::LeftButton, {},
+                      accounts->visualRect(list.index(list.rowCount() - 1, 0)).center()); // the total
     QCOMPARE(scene.Model.View().Account, modWord::AlleKonten);
 }
 

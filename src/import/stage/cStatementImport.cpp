@@ -3,6 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modCount.h"
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
@@ -125,9 +126,9 @@ cImportResult Cancelled(const cImportResult& result)
 void ReportFailures(cImportResult& result)
 {
     if (result.Failed > 0) {
-        result.Message = cText::Tr("Die Datenbank hat {0} Umsätze nicht angenommen. Sie können die Datei später noch "
+        result.Message = cText::Tr("Die Datenbank hat {0} nicht angenommen. Sie können die Datei später noch "
                                    "einmal einlesen; was schon übernommen ist, wird dabei erkannt.",
-                                   {QString::number(result.Failed)});
+                                   {modCount::Rows(result.Failed)});
         result.Problems.append({0, result.Message});
     }
 }

@@ -81,8 +81,14 @@ QString cChartData::ShareText(int series, int index) const
     if (total <= 0 || cents < 0 || IsHidden(series)) {
         return {};
     }
-    const double share = 100.0 * static_cast<double>(cents) / static_cast<double>(total);
-    return cText::Tr("{0} %", {QLocale(QLocale::German).toString(share, 'f', share < 9.95 ? 1 : 0)});
+    return PercentText(100.0 * static_cast<double>(cents) / static_cast<double>(total));
+}
+
+QString cChartData::PercentText(double percent)
+{
+    const qint64 tenths = std::llround(percent * 10.0);
+    const bool isWhole = std::abs(tenths) >= 100 || tenths % 10 == 0;
+    return cText::Tr("{0} %", {QLocale(QLocale::German).toString(percent, 'f', isWhole ? 0 : 1)});
 }
 
 QString cChartData::LabelOf(int series, int index) const

@@ -93,7 +93,9 @@ struct cChartData
     [[nodiscard]] cChartData Shown() const;
     // Sum of the positive values of one label over the series that are shown: what the slices of a pie are parts of.
     [[nodiscard]] qint64 Total(int index) const;
-    // What part of the total of its label a value is: "31,2 %"; empty where that means nothing.
+    // "54 %", and below ten per cent "5,4 %": a decimal only where it tells something.
+    [[nodiscard]] static QString PercentText(double percent);
+    // What part of the total of its label a value is, as such a text; empty where that means nothing.
     [[nodiscard]] QString ShareText(int series, int index) const;
     // A part in words: "Wohnen, 2026: 7.200,00 € (31,2 %)".
     [[nodiscard]] QString PartText(int series, int index) const;

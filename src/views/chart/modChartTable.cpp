@@ -112,9 +112,7 @@ QString modChartTable::Text(const cChartData& data, const cChartFigures::cColumn
         return {};
     }
     constexpr double hundredths = 100;
-    return column.IsShare
-        ? cText::Tr("{0} %", {QLocale(QLocale::German).toString(static_cast<double>(*value) / hundredths, 'f', 1)})
-        : data.MoneyText(*value);
+    return column.IsShare ? cChartData::PercentText(static_cast<double>(*value) / hundredths) : data.MoneyText(*value);
 }
 
 QByteArray modChartTable::Csv(const cChartData& data)

@@ -285,7 +285,7 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
     for (const QDate day : std::as_const(preview.Next)) {
         days.append(modDate::ToGerman(day));
     }
-    const bool isOpen = series.EntryDateEnd == modRecurrence::OpenEnd;
+    const bool isOpen = modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd;
     const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
     preview.Text =
         days.isEmpty() ? EndedText(series, count) : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});

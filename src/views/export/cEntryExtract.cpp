@@ -36,6 +36,7 @@ cEntryExtract cEntryExtract::From(const cEntryListModel& model)
     extract.Account = model.ShownAccount();
     extract.Income = model.Sums().Income;
     extract.Expense = model.Sums().Expense;
+    extract.Start = model.Sums().Start;
     extract.Rows.reserve(static_cast<std::size_t>(model.Sums().Count));
     for (int top = 0; top < model.rowCount(); ++top) {
         const QModelIndex index = model.index(top, 0);

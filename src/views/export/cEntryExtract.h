@@ -36,9 +36,10 @@ struct cEntryExtract
     std::vector<cRow> Rows;
     std::vector<cGroup> Groups; // in the order of the rows; empty when the list is not grouped
     qint64 Income = 0;
-    qint64 Expense = 0; // cents, not negative
+    qint64 Expense = 0;            // cents, not negative
+    std::optional<qint64> Start{}; // start balances, which are no income; empty where there are none
 
-    [[nodiscard]] qint64 Total() const { return Income - Expense; }
+    [[nodiscard]] qint64 Total() const { return Start.value_or(0) + Income - Expense; }
     [[nodiscard]] bool HasBalances() const;
     [[nodiscard]] bool HasTransfers() const;
 

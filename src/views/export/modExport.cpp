@@ -130,9 +130,14 @@ std::vector<modExport::cColumn> modExport::Columns(const cEntryExtract& extract)
 
 std::vector<modExport::cSum> modExport::Sums(const cEntryExtract& extract)
 {
-    return {{QT_TRANSLATE_NOOP("cText", "Einnahmen"), extract.Income},
-            {QT_TRANSLATE_NOOP("cText", "Ausgaben"), -extract.Expense},
-            {QT_TRANSLATE_NOOP("cText", "Summe"), extract.Total()}};
+    std::vector<cSum> sums;
+    if (extract.Start) {
+        sums.push_back({QT_TRANSLATE_NOOP("cText", "Startguthaben"), *extract.Start});
+    }
+    sums.push_back({QT_TRANSLATE_NOOP("cText", "Einnahmen"), extract.Income});
+    sums.push_back({QT_TRANSLATE_NOOP("cText", "Ausgaben"), -extract.Expense});
+    sums.push_back({QT_TRANSLATE_NOOP("cText", "Summe"), extract.Total()});
+    return sums;
 }
 
 bool modExport::Count(cProgress& progress, qsizetype done)

@@ -28,6 +28,7 @@ public:
 
 private:
     static constexpr int typeColumn = 1;
+    static constexpr int categoryColumn = 2;
 
     [[nodiscard]] static std::size_t At(int column) { return static_cast<std::size_t>(column); }
     [[nodiscard]] int ColumnCount() const { return static_cast<int>(m_columns.size()); }
@@ -51,7 +52,7 @@ private:
 modExport::cResult cSheet::Write()
 {
     const qsizetype lines = static_cast<qsizetype>(m_extract.Rows.size() + m_extract.Groups.size());
-    constexpr qsizetype linesAround = 5;
+    constexpr qsizetype linesAround = 6;
     if (lines + linesAround > cWorkbook::MaxRows) {
         return {std::nullopt,
                 cText::Tr("Eine Excel-Datei fasst höchstens {0} Zeilen.", {QString::number(cWorkbook::MaxRows)})};
@@ -125,9 +126,14 @@ void cSheet::WriteSums()
     const QString income = isAll ? modWord::EntryTypes().ToShown(modWord::Einnahme) : u"?*"_s;
     const QString expense = isAll ? modWord::EntryTypes().ToShown(modWord::Ausgabe) : u"?*"_s;
     const qsizetype first = m_row + 1; // one row stays free, so that the filter ends above
-    const QStringList formulas{SumFormula(income, isAll ? QString() : u">0"_s),
-                               SumFormula(expense, isAll ? QString() : u"<0"_s),
-                               u"=SUM("_s + Cells(m_amount, first, first + 1) + u')'};
+    QStringList formulas;
+    if (m_extract.Start) {
+        formulas.append(u"=SUMIFS(%1,%2,\"%3\")"_s.arg(Cells(m_amount, 1, m_row - 1),
+                                                       Cells(categoryColumn, 1, m_row - 1), modWord::Startguthaben));
+    }
+    formulas.append(SumFormula(income, isAll ? QString() : u">0"_s));
+    formulas.append(SumFormula(expense, isAll ? QString() : u"<0"_s));
+    formulas.append(u"=SUM("_s + Cells(m_amount, first, first + formulas.size() - 1) + u')');
     for (qsizetype i = 0; i < formulas.size(); ++i) {
         const modExport::cSum& sum = sums[At(static_cast<int>(i))];
         m_book.WriteText(first + i, 0, cText::Tr(sum.Title), cWorkbook::SumName);
@@ -153,13 +159,16 @@ QString cSheet::GroupFormula(qsizetype first, qsizetype last) const
     return u"=SUMIF(%1,\"<>%2\",%3)"_s.arg(Cells(typeColumn, first, last), transfer, amounts);
 }
 
-// Adds up the rows of a type, with a condition for the amount where one is given. The heads of groups have no type, so
-// that they are never counted twice.
+// Adds up the rows of a type but for start balances, with a condition for the amount where one is given. The heads of
+// groups have no type, so that they are never counted twice.
 QString cSheet::SumFormula(const QString& type, const QString& sign) const
 {
     const QString amounts = Cells(m_amount, 1, m_row - 1);
     const QString types = Cells(typeColumn, 1, m_row - 1);
-    const QString condition = sign.isEmpty() ? QString() : u",%1,\"%2\""_s.arg(amounts, sign);
+    QString condition = sign.isEmpty() ? QString() : u",%1,\"%2\""_s.arg(amounts, sign);
+    if (m_extract.Start) {
+        condition += u",%1,\"<>%2\""_s.arg(Cells(categoryColumn, 1, m_row - 1), modWord::Startguthaben);
+    }
     return u"=SUMIFS(%1,%2,\"%3\"%4)"_s.arg(amounts, types, type, condition);
 }
 

@@ -4,6 +4,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
+#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "views/list/cEntryFilter.h"
 #include "views/list/modColumnWidth.h"
@@ -140,6 +141,15 @@ void cEntryListModel::Select(const std::vector<int>& among)
     Sum();
 }
 
+void cEntryListModel::AddToSums(int entry, qint64 effect)
+{
+    if (m_content.Entries.at(entry).EntryCategory == modWord::Startguthaben) {
+        m_sums.Start = m_sums.Start.value_or(0) + effect;
+    } else {
+        (effect < 0 ? m_sums.Expense : m_sums.Income) += effect < 0 ? -effect : effect;
+    }
+}
+
 void cEntryListModel::Sum()
 {
     m_groups.clear();
@@ -148,7 +158,7 @@ void cEntryListModel::Sum()
     for (int position = 0; position < static_cast<int>(m_order.size()); ++position) {
         const int entry = m_order[At(position)];
         const qint64 effect = Effect(entry);
-        (effect < 0 ? m_sums.Expense : m_sums.Income) += effect < 0 ? -effect : effect;
+        AddToSums(entry, effect);
         if (m_groupOf.empty()) {
             continue;
         }
@@ -366,7 +376,8 @@ QString cEntryListModel::Text(int entry, int column) const
     case Description: return item.EntryDescription;
     case Interval: {
         const QString interval = modWord::Intervals().ToShown(item.EntryInterval);
-        return item.IsCorrected ? cText::Tr("{0}, korrigiert", {interval}) : interval;
+        const QString split = modSplit::Group(item) == 0 ? interval : cText::Tr("{0}, Teil", {interval});
+        return item.IsCorrected ? cText::Tr("{0}, korrigiert", {split}) : split;
     }
     case Amount:
     case Balance: {
@@ -392,7 +403,9 @@ std::optional<qint64> cEntryListModel::Cents(int entry, int column) const
 QString cEntryListModel::Tip(const cEntryItem& entry) const
 {
     if (!entry.IsCorrected) {
-        return entry.EntryDescription;
+        const QString part = cText::Tr("Teil eines aufgeteilten Eintrags; zum Bearbeiten öffnen sich alle Teile.");
+        return modSplit::Group(entry) == 0 ? entry.EntryDescription
+                                           : QString(entry.EntryDescription + u'\n' + part).trimmed();
     }
     const QString tip = cText::Tr("Betrag für diesen Zeitraum von Hand korrigiert.");
     return entry.CorrectionComment.isEmpty() ? tip : tip + u'\n' + entry.CorrectionComment;

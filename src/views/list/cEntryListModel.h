@@ -41,7 +41,9 @@ public:
         qint64 Income = 0;
         qint64 Expense = 0; // cents, not negative
         qsizetype Count = 0;
-        [[nodiscard]] qint64 Total() const { return Income - Expense; }
+        // Start balances: money that was there before, and so neither income nor expense. Empty where none is shown.
+        std::optional<qint64> Start{};
+        [[nodiscard]] qint64 Total() const { return Start.value_or(0) + Income - Expense; }
         bool operator==(const cSums&) const = default;
     };
 
@@ -78,6 +80,7 @@ public:
     // invalid when the list is sorted otherwise or ends before.
     [[nodiscard]] QModelIndex IndexNear(QDate day) const;
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
+    [[nodiscard]] const QString& Grouping() const { return m_grouping; }            // as it was set
     [[nodiscard]] const QString& ShownAccount() const { return m_content.Account; } // empty: all accounts
     [[nodiscard]] bool HasBalances() const { return m_content.StartBalance.has_value(); }
 
@@ -101,6 +104,7 @@ private:
     void Order(); // sorts and groups all entries
     // Decides which of `among` are shown, in this order.
     void Select(const std::vector<int>& among);
+    void AddToSums(int entry, qint64 effect);
     void Sum(); // adds up what is shown, as a whole and by group
     void RunBalances();
     [[nodiscard]] std::vector<qint64> SortKeys() const;

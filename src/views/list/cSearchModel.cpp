@@ -211,6 +211,12 @@ QString cSearchModel::CountText() const
     return cText::Tr("{0} Treffer", {QString::number(m_entries.Sums().Count)});
 }
 
+QString cSearchModel::StartText() const
+{
+    const std::optional<qint64> start = m_entries.Sums().Start;
+    return start ? m_parts.Format.Cents(*start) : QString();
+}
+
 QString cSearchModel::IncomeText() const
 {
     return m_parts.Format.Cents(m_entries.Sums().Income);

@@ -70,6 +70,7 @@ public:
 
     [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
     [[nodiscard]] QString CountText() const;
+    [[nodiscard]] QString StartText() const; // start balances; empty where none was found
     [[nodiscard]] QString IncomeText() const;
     [[nodiscard]] QString ExpenseText() const;
     [[nodiscard]] QString TotalText() const;

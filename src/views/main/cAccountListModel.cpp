@@ -96,6 +96,12 @@ QString cAccountListModel::AccountAt(const QModelIndex& index) const
     return m_rows[static_cast<std::size_t>(index.row())].Name;
 }
 
+std::optional<QString> cAccountListModel::ChoiceAt(const QModelIndex& index) const
+{
+    const bool isChoice = index.isValid() && m_rows[static_cast<std::size_t>(index.row())].Kind != Group;
+    return isChoice ? std::optional(AccountAt(index)) : std::nullopt;
+}
+
 int cAccountListModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -168,6 +174,5 @@ QVariant cAccountListModel::headerData(int section, Qt::Orientation orientation,
 
 Qt::ItemFlags cAccountListModel::flags(const QModelIndex& index) const
 {
-    const bool isAccount = !AccountAt(index).isEmpty();
-    return isAccount ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::ItemFlags(Qt::ItemIsEnabled);
+    return ChoiceAt(index) ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::ItemFlags(Qt::ItemIsEnabled);
 }

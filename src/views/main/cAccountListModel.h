@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 class cAmountFormat;
@@ -34,6 +35,8 @@ public:
 
     // Account name of a row; empty for groups and the total.
     [[nodiscard]] QString AccountAt(const QModelIndex& index) const;
+    // What choosing a row shows: its account, or all of them (empty) for the total; none for the head of a group.
+    [[nodiscard]] std::optional<QString> ChoiceAt(const QModelIndex& index) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
@@ -59,14 +60,10 @@ cMainModel::~cMainModel() = default;
 
 void cMainModel::RestoreView(bool isNewVersion)
 {
-    const bool isNewBook = m_parts.Settings.Get(u"MainZeitraum"_s).isEmpty();
-    if (isNewBook) {
-        m_parts.Settings.ResetViewDefaults();
-    }
     m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
     LeaveSelection();
     m_view.Restore(m_parts.Settings, Accounts(), m_parts.Clock.Today());
-    if (isNewVersion && !isNewBook) {
+    if (isNewVersion) {
         ResetView();
         return;
     }
@@ -407,6 +404,12 @@ QStringList cMainModel::Accounts() const
     return names;
 }
 
+QString cMainModel::StartText() const
+{
+    const std::optional<qint64> start = m_entries.Sums().Start;
+    return start ? m_parts.Format.Cents(*start) : QString();
+}
+
 QString cMainModel::IncomeText() const
 {
     return m_parts.Format.Cents(m_entries.Sums().Income);
@@ -424,8 +427,7 @@ QString cMainModel::TotalText() const
 
 QString cMainModel::CountText() const
 {
-    const qsizetype count = m_entries.Sums().Count;
-    return count == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(count)});
+    return modCount::Entries(m_entries.Sums().Count);
 }
 
 QString cMainModel::Hint() const
@@ -462,7 +464,9 @@ QString cMainModel::DatabaseText() const
 
 QString cMainModel::WindowTitle() const
 {
-    return u"%1 – Kontorelle"_s.arg(QFileInfo(m_parts.DatabasePath).completeBaseName());
+    const QString name = QFileInfo(m_parts.DatabasePath).completeBaseName();
+    const bool isUnnamed = name.compare(u"data"_s, Qt::CaseInsensitive) == 0; // "data.db", which nobody has chosen
+    return u"%1 – Kontorelle"_s.arg(isUnnamed ? cText::Tr("Haushaltsbuch") : name);
 }
 
 QString cMainModel::BalancesTitle() const

@@ -59,12 +59,12 @@ public:
     ~cMainModel() override;
 
     // Reads the view state from the settings and shows it. `isNewVersion`: another version of the program opened this
-    // database last, so the view starts afresh.
+    // database last, or none yet, so the view starts afresh.
     void RestoreView(bool isNewVersion);
     void SaveView();
     void SaveLayout(const cPlacement& placement);
     [[nodiscard]] cPlacement RestoreLayout() const;
-    void ResetView();
+    void ResetView();   // without a question; Execute asks before it
     void RefreshView(); // loads the entries, adds up and shows them, writes the view state
 
     // The selectors. Each stores and refreshes; an unknown word is not taken.
@@ -123,6 +123,7 @@ public:
     [[nodiscard]] cAccountListModel& AccountList() { return m_accounts; }
 
     // Texts beside the list.
+    [[nodiscard]] QString StartText() const; // start balances, which are no income; empty where the list has none
     [[nodiscard]] QString IncomeText() const;
     [[nodiscard]] QString ExpenseText() const;
     [[nodiscard]] QString TotalText() const;
@@ -130,7 +131,7 @@ public:
     [[nodiscard]] QString Hint() const;      // a quiet line above the list; empty for none
     [[nodiscard]] QString EmptyHint() const; // what to do when the list shows nothing
     [[nodiscard]] QString DatabaseText() const;
-    [[nodiscard]] QString WindowTitle() const;
+    [[nodiscard]] QString WindowTitle() const; // the book's name first
     [[nodiscard]] QString BalancesTitle() const;
     [[nodiscard]] bool IsReadOnly() const;
 
@@ -151,6 +152,7 @@ private:
     void LeaveSelection();
     void ShowFilter();
     void RefreshAccounts();
+    void AskResetView();
     void SkipPeriod();
     void StepThrough(bool (cDataAccess::*step)());
     [[nodiscard]] QString StepName(int command) const;

@@ -30,7 +30,7 @@ bool cMainModel::Execute(int command)
     case modCommand::Redo: StepThrough(&cDataAccess::Redo); break;
     case modCommand::EditTemplates: m_parts.Navigator.OpenTemplates({}); break;
     case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
-    case modCommand::ResetView: ResetView(); break;
+    case modCommand::ResetView: AskResetView(); break;
     case modCommand::Calculator: StartCalculator(); break;
     case modCommand::ViewSingle:
     case modCommand::ViewFix:
@@ -105,6 +105,17 @@ void cMainModel::SkipPeriod()
     cSeriesChange change(m_parts.Data, m_parts.User);
     if (change.SkipPeriod(First().ID, First().Day)) {
         BookChanged();
+    }
+}
+
+void cMainModel::AskResetView()
+{
+    const eAnswer answer =
+        m_parts.User.Ask({.Text = cText::Tr("Sollen Zeitraum, Konto, Filter, Gruppierung, Spalten und Fenstergröße auf "
+                                            "den Anfang zurückgestellt werden?\nIhre Einträge bleiben, wie sie sind."),
+                          .Title = cText::Tr("Einstellungen zurücksetzen")});
+    if (answer == eAnswer::Yes) {
+        ResetView();
     }
 }
 

@@ -59,14 +59,17 @@ struct cReportSection
     bool operator==(const cReportSection&) const = default;
 };
 
-// What the averages and limits of a period are reckoned with.
+// What the averages and limits of a period are reckoned with. Where the period is open, the months of its first and
+// last entry bound what is counted.
 struct cReportBasis
 {
     QDate Start; // first and last day as the report shows them; never invalid
     QDate End;
-    qint64 Days = 1;      // between start and end, at least 1
-    qint64 YearBasis = 0; // days from 1 January of the first year to 31 December of the last one
-    int Months = 1;       // calendar months that the period touches
+    qint64 YearBasis = 0;   // days from 1 January of the year of `Start` to 31 December of the year of `End`
+    qint64 Days = 1;        // counted days, from the first to the last one, at least 1
+    qint64 DaysOfYears = 0; // `YearBasis` of the counted days
+    int Years = 1;          // counted calendar years
+    int Months = 1;         // counted calendar months
 
     bool operator==(const cReportBasis&) const = default;
 };

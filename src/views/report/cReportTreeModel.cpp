@@ -1,6 +1,7 @@
 #include "views/report/cReportTreeModel.h"
 
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "core/cAmountFormat.h"
 #include "views/report/modReport.h"
 
@@ -118,10 +119,7 @@ QString cReportTreeModel::Explanation(const cLine& line) const
     const QString amount = m_figures.Type == eReport::Limit
         ? cText::Tr("{0} von {1}", {Text(line, Amount), Text(line, Limit)})
         : Text(line, Amount);
-    const QString entries = line.Amount.Entries == 1
-        ? cText::Tr("1 Eintrag")
-        : cText::Tr("{0} Einträge", {QString::number(line.Amount.Entries)});
-    return line.Label + u": " + amount + u'\n' + entries;
+    return line.Label + u": " + amount + u'\n' + modCount::Entries(line.Amount.Entries);
 }
 
 QVariant cReportTreeModel::data(const QModelIndex& index, int role) const

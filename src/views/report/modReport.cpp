@@ -281,19 +281,36 @@ int MonthsBetween(QDate first, QDate last)
     return std::abs((last.year() - first.year()) * 12 + last.month() - first.month()) + 1;
 }
 
-// The calendar months of a period. Where it is open, only the months that have entries are known to be meant.
-int Months(const modPeriod::cRange& range, const cEntryItemList& entries)
+// From the first to the last day of the years, so that a single common year has 364 and not 365: as many steps as a
+// period's days are counted, and the two have to fit each other.
+qint64 DaysOfYears(QDate first, QDate last)
 {
-    if (modReport::HasStart(range) && range.End.isValid()) {
-        return MonthsBetween(range.Start, range.End);
+    return QDate(first.year(), 1, 1).daysTo(QDate(last.year(), 12, 31));
+}
+
+// The days that count. Where the period is open, these are whole months, from that of the first entry on and up to that
+// of the last one: what comes once a month would otherwise come once more than there are months between its days.
+modPeriod::cRange Counted(const cReportWish& wish, const cReportBasis& shown, const cEntryItemList& entries)
+{
+    modPeriod::cRange counted{shown.Start, shown.End};
+    QDate first;
+    QDate last;
+    for (const cEntryItem& entry : entries) {
+        if (Counts(entry, wish)) {
+            first = first.isValid() ? std::min(first, entry.EntryDate) : entry.EntryDate;
+            last = last.isValid() ? std::max(last, entry.EntryDate) : entry.EntryDate;
+        }
     }
-    if (entries.isEmpty()) {
-        return 1;
+    if (!first.isValid()) {
+        return counted;
     }
-    const auto isEarlier = [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; };
-    const auto [first, last] = std::minmax_element(entries.begin(), entries.end(), isEarlier);
-    return MonthsBetween(modReport::HasStart(range) ? range.Start : first->EntryDate,
-                         range.End.isValid() ? range.End : last->EntryDate);
+    if (!modReport::HasStart(wish.Range)) {
+        counted.Start = modPeriod::Month(first, 0).Start;
+    }
+    if (!wish.Range.End.isValid()) {
+        counted.End = modPeriod::Month(last, 0).End;
+    }
+    return counted;
 }
 
 } // namespace
@@ -333,11 +350,12 @@ cReportBasis modReport::Basis(const cReportWish& wish, const cEntryItemList& ent
     cReportBasis basis;
     basis.Start = wish.Range.Start.isValid() ? wish.Range.Start : earliest;
     basis.End = wish.Range.End.isValid() ? wish.Range.End : latest;
-    basis.Days = std::max<qint64>(1, std::abs(basis.Start.daysTo(basis.End)));
-    // From the first to the last day of the years, so that a single common year has 364 and not 365: as many steps as
-    // `Days` counts for the same period, and the two have to fit each other.
-    basis.YearBasis = QDate(basis.Start.year(), 1, 1).daysTo(QDate(basis.End.year(), 12, 31));
-    basis.Months = wish.Type == eReport::Limit ? Months(wish.Range, entries) : 1;
+    basis.YearBasis = DaysOfYears(basis.Start, basis.End);
+    const modPeriod::cRange counted = Counted(wish, basis, entries);
+    basis.Days = std::max<qint64>(1, std::abs(counted.Start.daysTo(counted.End)));
+    basis.DaysOfYears = DaysOfYears(counted.Start, counted.End);
+    basis.Years = std::abs(counted.End.year() - counted.Start.year()) + 1;
+    basis.Months = MonthsBetween(counted.Start, counted.End);
     return basis;
 }
 
@@ -383,8 +401,8 @@ std::optional<cReportNode> modReport::NodeOf(const cEntryItem& entry, const cRep
 qint64 modReport::PerMonth(qint64 cents, const cReportBasis& basis)
 {
     // The product is exact and the quotient rounded once, so that halves are seen as halves.
-    return std::llround(static_cast<double>(cents) * static_cast<double>(basis.YearBasis)
-                        / (12.0 * static_cast<double>(basis.Days)));
+    return std::llround(static_cast<double>(cents) * static_cast<double>(basis.DaysOfYears)
+                        / (12.0 * static_cast<double>(basis.Days) * basis.Years));
 }
 
 QString modReport::Name(eReport type)

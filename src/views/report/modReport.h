@@ -15,8 +15,8 @@ namespace modReport {
 [[nodiscard]] cReportFigures Figures(const cEntryItemList& entries, const cTemplateItemList& templates,
                                      const cReportWish& wish);
 
-// Days, year basis and months of the wish's period. An open side is 1 January 1001 and 31 December 9999; for the months
-// it is the month of the first or last of `entries`.
+// What the wish's period is reckoned with. An open side is shown as 1 January 1001 or 31 December 9999 and counted from
+// or to the month of the first or last of `entries` that counts; without one, as it is shown.
 [[nodiscard]] cReportBasis Basis(const cReportWish& wish, const cEntryItemList& entries);
 
 // Whether a period begins anywhere: a day before any household's first entry, as "Buchungen bis heute" has it, stands

@@ -3,6 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "core/cAmountFormat.h"
 #include "import/match/cMatcher.h"
 #include "import/propose/cBooking.h"
@@ -104,7 +105,7 @@ QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
                                {modImportText::Row(row, m_parts.Format), modImportText::Candidate(match.Candidate)}));
     }
     if (result.Assigned.size() > shownMatches) {
-        lines.append(cText::Tr("… und {0} weitere Zeilen", {QString::number(result.Assigned.size() - shownMatches)}));
+        lines.append(modCount::MoreLines(result.Assigned.size() - shownMatches));
     }
     return lines;
 }

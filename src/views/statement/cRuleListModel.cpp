@@ -258,8 +258,9 @@ QString cRuleListModel::TrialText() const
         return cText::Tr("Es sind keine Umsätze eingelesen, an denen sich die Regel erproben ließe.");
     }
     const cRuleTrial::cFound found = m_works->Trial.Try(m_draft, m_place);
-    const QString text =
-        cText::Tr("passt auf {0} von {1} Umsätzen", {QString::number(found.Count), QString::number(total)});
+    const QStringList numbers{QString::number(found.Count), QString::number(total)};
+    const QString text = total == 1 ? cText::Tr("passt auf {0} von {1} Umsatz", numbers)
+                                    : cText::Tr("passt auf {0} von {1} Umsätzen", numbers);
     return found.Earlier == 0
         ? text
         : text + cText::Tr("; bei {0} davon gilt schon eine Regel weiter oben", {QString::number(found.Earlier)});

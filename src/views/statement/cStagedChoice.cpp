@@ -1,6 +1,7 @@
 #include "views/statement/cStagedChoice.h"
 
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
 
@@ -145,9 +146,9 @@ QString cStagedChoice::EmptyHint() const
         return cText::Tr("Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.");
     }
     if (counts.Old > 0) {
-        return cText::Tr("Kein Umsatz passt zum Filter. {0} ältere sind ausgeblendet; ohne den Haken bei „Ältere "
+        return cText::Tr("Kein Umsatz passt zum Filter. Ältere sind ausgeblendet ({0}); ohne den Haken bei „Ältere "
                          "ausblenden“ sehen Sie auch diese.",
-                         {QString::number(counts.Old)});
+                         {modCount::Rows(counts.Old)});
     }
     return cText::Tr("Kein Umsatz passt zum Filter.");
 }

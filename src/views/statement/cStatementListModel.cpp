@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
@@ -217,7 +218,7 @@ cStatementListModel::eFinding cStatementListModel::Finding() const
 
 QString cStatementListModel::CountText() const
 {
-    return m_shown.size() == 1 ? cText::Tr("1 Umsatz") : cText::Tr("{0} Umsätze", {QString::number(m_shown.size())});
+    return modCount::Rows(static_cast<qsizetype>(m_shown.size()));
 }
 
 QString cStatementListModel::IncomeText() const

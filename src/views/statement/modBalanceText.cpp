@@ -149,8 +149,9 @@ QStringList modBalanceText::Bank(const cStatementLedger& ledger, const cAmountFo
         lines.append(Fault(ledger, check.Faults.at(check.Faults.size() - 1 - i), format));
     }
     if (check.Faults.size() > mostNamed) {
-        lines.append(
-            cText::Tr("Davor gibt es {0} weitere Abweichungen.", {QString::number(check.Faults.size() - mostNamed)}));
+        const qsizetype more = check.Faults.size() - mostNamed;
+        lines.append(more == 1 ? cText::Tr("Davor gibt es eine weitere Abweichung.")
+                               : cText::Tr("Davor gibt es {0} weitere Abweichungen.", {QString::number(more)}));
     }
     const auto passing = std::find_if(check.Points.rbegin(), check.Points.rend(),
                                       [](const cPoint& point) { return point.Verdict == eVerdict::Passing; });

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "import/match/cMatch.h"
@@ -42,7 +43,7 @@ QString Read(const cImportResult& result, const cAmountFormat& format)
 
 QString modImportText::Count(int rows)
 {
-    return rows == 1 ? cText::Tr("Ein Umsatz") : cText::Tr("{0} Umsätze", {QString::number(rows)});
+    return rows == 1 ? cText::Tr("Ein Umsatz") : modCount::Rows(rows);
 }
 
 QString modImportText::Problem(const cReadProblem& problem)
@@ -68,7 +69,7 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
         lines.append(Problem(problem));
     }
     if (problems.size() > shownProblems) {
-        lines.append(cText::Tr("… und {0} weitere Zeilen", {QString::number(problems.size() - shownProblems)}));
+        lines.append(modCount::MoreLines(problems.size() - shownProblems));
     }
     return lines;
 }
@@ -96,7 +97,8 @@ QStringList modImportText::Booked(const cBookingResult& result)
     parts.append(result.Entries == 1 ? cText::Tr("ein neuer Eintrag")
                                      : cText::Tr("{0} neue Einträge", {QString::number(result.Entries)}));
     if (result.Joined > 0) {
-        parts.append(cText::Tr("{0} zu vorhandenen Einträgen", {QString::number(result.Joined)}));
+        parts.append(result.Joined == 1 ? cText::Tr("einer davon zu einem vorhandenen Eintrag")
+                                        : cText::Tr("{0} zu vorhandenen Einträgen", {QString::number(result.Joined)}));
     }
     if (result.Failed > 0) {
         parts.append(

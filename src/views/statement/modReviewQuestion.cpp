@@ -44,19 +44,30 @@ QString Certain(int count)
 
 cQuestion modReviewQuestion::Matches(const QStringList& lines)
 {
-    return {.Text = cText::Tr("Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon "
-                              "gibt:\n{1}\nSollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.",
-                              {QString::number(lines.size()), Examples(lines)}),
+    const QStringList values{QString::number(lines.size()), Examples(lines)};
+    return {.Text = lines.size() == 1
+                ? cText::Tr("Von den markierten Umsätzen gehört wahrscheinlich einer zu einem Eintrag, den es schon "
+                            "gibt:\n{1}\nSoll er offen bleiben? Bei Nein wird auch daraus ein neuer Eintrag.",
+                            values)
+                : cText::Tr("Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon "
+                            "gibt:\n{1}\nSollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.",
+                            values),
             .Title = cText::Tr("Umsätze buchen"),
             .Buttons = eButtons::YesNoCancel};
 }
 
 cQuestion modReviewQuestion::Twins(const QStringList& lines)
 {
-    return {.Text = cText::Tr("Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer "
-                              "Datei in einem anderen Format:\n{1}\nSollen diese offen bleiben? Bei Nein "
-                              "werden auch sie gebucht.",
-                              {QString::number(lines.size()), Examples(lines)}),
+    const QStringList values{QString::number(lines.size()), Examples(lines)};
+    return {.Text = lines.size() == 1
+                ? cText::Tr("Zu einem der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer "
+                            "Datei in einem anderen Format:\n{1}\nSoll er offen bleiben? Bei Nein wird auch er "
+                            "gebucht.",
+                            values)
+                : cText::Tr("Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer "
+                            "Datei in einem anderen Format:\n{1}\nSollen diese offen bleiben? Bei Nein "
+                            "werden auch sie gebucht.",
+                            values),
             .Title = cText::Tr("Umsätze buchen"),
             .Buttons = eButtons::YesNoCancel};
 }

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modBalance.h"
@@ -141,9 +142,9 @@ bool cTemplateRemoval::DeleteMain(const QString& main)
     cDoomed doomed = CollectMain(main);
     const auto subs = std::count_if(doomed.Items.begin(), doomed.Items.end(),
                                     [](const cTemplateItem& item) { return !item.TemplateName.isEmpty(); });
-    doomed.Shown = subs == 0
-        ? cText::Tr("Die Hauptkategorie '{0}'", {main})
-        : cText::Tr("Die Hauptkategorie '{0}' mit {1} Unterkategorien", {main, QString::number(subs)});
+    doomed.Shown = subs == 0 ? cText::Tr("Die Hauptkategorie '{0}'", {main})
+        : subs == 1          ? cText::Tr("Die Hauptkategorie '{0}' mit einer Unterkategorie", {main})
+                    : cText::Tr("Die Hauptkategorie '{0}' mit {1} Unterkategorien", {main, QString::number(subs)});
     return !doomed.Items.isEmpty() && Delete(doomed, cText::Tr("Nur die Kategorien löschen"));
 }
 
@@ -246,10 +247,10 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
     if (source == target || !Mains(source).contains(target)) {
         return Refuse(cText::Tr("Die Hauptkategorie '{0}' gibt es nicht.", {target}));
     }
-    const QString text =
-        cText::Tr("Alles aus '{0}' kommt nach '{1}': {2} Kategorien und {3}. Gleichnamige Unterkategorien werden "
-                  "zusammengeführt.\nMöchten Sie fortfahren?",
-                  {source, target, QString::number(doomed.Items.size()), modTemplateText::Entries(doomed.Entries)});
+    const QString text = cText::Tr(
+        "Alles aus '{0}' kommt nach '{1}': {2} und {3}. Gleichnamige Unterkategorien werden "
+        "zusammengeführt.\nMöchten Sie fortfahren?",
+        {source, target, modCount::Categories(doomed.Items.size()), modTemplateText::Entries(doomed.Entries)});
     if (!Ask(text, cText::Tr("Kategorien zusammenführen"))) {
         return false;
     }

@@ -1,11 +1,12 @@
 #include "views/template/modTemplateText.h"
 
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "model/modWord.h"
 
 QString modTemplateText::Entries(int count)
 {
-    return count == 1 ? cText::Tr("1 Buchung") : cText::Tr("{0} Buchungen", {QString::number(count)});
+    return modCount::Bookings(count);
 }
 
 QString modTemplateText::ShownPath(const QString& path)

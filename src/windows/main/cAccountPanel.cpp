@@ -91,12 +91,7 @@ cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
     layout->setContentsMargins(6, 6, 0, 6);
     layout->addWidget(m_title);
     layout->addWidget(m_view);
-    connect(m_view, &QTreeView::clicked, this, [this](const QModelIndex& index) {
-        const QString account = m_model.AccountAt(index);
-        if (!account.isEmpty()) {
-            Q_EMIT AccountChosen(account);
-        }
-    });
+    connect(m_view, &QTreeView::clicked, this, &cAccountPanel::Choose);
     connect(m_view, &QTreeView::doubleClicked, this, [this] { Q_EMIT AccountChosen({}); });
     connect(m_view, &QWidget::customContextMenuRequested, this, &cAccountPanel::OpenMenu);
 }
@@ -106,17 +101,18 @@ void cAccountPanel::SetTitle(const QString& title)
     m_title->setText(title);
 }
 
-QString cAccountPanel::CurrentAccount() const
+void cAccountPanel::Choose(const QModelIndex& row)
 {
-    return m_model.AccountAt(m_view->currentIndex());
+    if (const std::optional<QString> account = m_model.ChoiceAt(row)) {
+        Q_EMIT AccountChosen(*account);
+    }
 }
 
 // Names matter more than how many transactions are open; the name of a group has the whole line.
 void cAccountPanel::FitColumns()
 {
     QHeaderView& header = *m_view->header();
-    const int others =
-        header.sectionSize(cAccountListModel::Balance) + header.sectionSizeHint(cAccountListModel::Open);
+    const int others = header.sectionSize(cAccountListModel::Balance) + header.sectionSizeHint(cAccountListModel::Open);
     const int least = fontMetrics().averageCharWidth() * leastNameLetters;
     header.setSectionHidden(cAccountListModel::Open, m_view->viewport()->width() - others < least);
     for (int row = 0; row < m_model.rowCount(); ++row) {
@@ -136,8 +132,8 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
             Q_EMIT AccountChosen({});
             return true;
         }
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !CurrentAccount().isEmpty()) {
-            Q_EMIT AccountChosen(CurrentAccount());
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            Choose(m_view->currentIndex());
             return true;
         }
     }

@@ -4,10 +4,11 @@
 
 class cAccountListModel;
 class QLabel;
+class QModelIndex;
 class QTreeView;
 
-// Accounts with their balances, left of the list: a click (or Enter) filters by the account, a double click (or Escape)
-// shows all accounts again.
+// Accounts with their balances, left of the list: a click (or Enter) filters by the account, the total shows all
+// accounts again, as a double click or Escape do.
 class cAccountPanel final : public QWidget
 {
     Q_OBJECT
@@ -27,7 +28,7 @@ protected:
 private:
     void FitColumns();
     void OpenMenu(const QPoint& position);
-    [[nodiscard]] QString CurrentAccount() const;
+    void Choose(const QModelIndex& row);
 
     cAccountListModel& m_model;
     QLabel* m_title;

@@ -49,6 +49,8 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
     });
     m_fit = new cColumnFit(*this, columns, cEntryListModel::Description);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cEntryTree::RestoreSelection);
+    connect(this, &QTreeView::collapsed, this, &cEntryTree::KeepGroup);
+    connect(this, &QTreeView::expanded, this, &cEntryTree::KeepGroup);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &cEntryTree::ReportSelection);
     SetDefaultLayout();
 }
@@ -217,11 +219,7 @@ void cEntryTree::RestoreCurrent()
 
 void cEntryTree::RestoreSelection()
 {
-    // One by one before the view is laid out anew, which then happens only once; expandToDepth() moves all groups that
-    // follow for each that it opens.
-    for (int group = 0; m_model.IsGrouped() && group < m_model.rowCount(); ++group) {
-        expand(m_model.index(group, 0));
-    }
+    OpenGroups();
     ShowColumns();
     QItemSelection selection;
     const QModelIndexList rows = m_model.IndexesOf(m_selected);
@@ -232,6 +230,37 @@ void cEntryTree::RestoreSelection()
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     m_isRebuilding = false;
     ReportSelection();
+}
+
+// One by one before the view is laid out anew, which then happens only once; expandToDepth() moves all groups that
+// follow for each that it opens.
+void cEntryTree::OpenGroups()
+{
+    if (!m_model.IsGrouped()) {
+        return;
+    }
+    if (m_groups.Grouping != m_model.Grouping()) {
+        m_groups = {m_model.Grouping(), {}};
+    }
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex group = m_model.index(row, 0);
+        setExpanded(group, !m_groups.Closed.contains(group.data(cEntryListModel::NameRole).toString()));
+    }
+}
+
+void cEntryTree::KeepGroup(const QModelIndex& group)
+{
+    const QString name = group.data(cEntryListModel::NameRole).toString();
+    m_groups.Closed.removeAll(name);
+    if (!isExpanded(group)) {
+        m_groups.Closed.append(name);
+    }
+}
+
+void cEntryTree::SetGroupText(const QString& text)
+{
+    m_groups = cGroupLayout::FromText(text);
+    OpenGroups();
 }
 
 void cEntryTree::ReportSelection()

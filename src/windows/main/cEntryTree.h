@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/list/cEntryListModel.h"
+#include "views/list/cGroupLayout.h"
 
 #include <QTreeView>
 
@@ -19,7 +20,10 @@ public:
 
     [[nodiscard]] QString LayoutText() const;
     void SetLayoutText(const QString& text); // an unreadable text gives the default layout
-    void ShowColumnMenu();                   // below the header, for the keyboard too
+    // The closed groups, as cGroupLayout; an empty text opens all.
+    [[nodiscard]] QString GroupText() const { return m_groups.ToText(); }
+    void SetGroupText(const QString& text);
+    void ShowColumnMenu(); // below the header, for the keyboard too
     void SetEmptyHint(const QString& hint);
     void ScrollTo(QDate day);
     void Select(const cEntryListModel::cKey& key); // and brings it into sight; nothing when it is not in the list
@@ -39,6 +43,8 @@ private:
     void ShowColumn(int column, bool isShown);
     void KeepSelection();
     void RestoreSelection();
+    void OpenGroups(); // all but the closed ones
+    void KeepGroup(const QModelIndex& group);
     void RestoreCurrent();
     [[nodiscard]] QModelIndex FirstUnselected(const QModelIndex& line) const;
     void ReportSelection();
@@ -50,6 +56,7 @@ private:
     cEntryListModel::cKey m_current;
     cEntryListModel::cKey m_next; // takes the place of the current line when that is gone
     cEntryListModel::cKey m_top;  // first line in sight before the list was rebuilt
+    cGroupLayout m_groups;
     QString m_emptyHint;
     std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
     bool m_isRebuilding = false;

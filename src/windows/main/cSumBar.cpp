@@ -26,12 +26,13 @@ cSumBar::cSumBar(QWidget* parent) : QWidget(parent), m_count(new QLabel(this))
     m_layout->setSpacing(6);
     m_layout->addWidget(m_count);
     m_layout->AddStretch();
+    m_start = AddSum(cText::Tr("Startguthaben:"));
     m_income = AddSum(cText::Tr("Einnahmen:"));
     m_expense = AddSum(cText::Tr("Ausgaben:"));
     m_total = AddSum(cText::Tr("Summe:"));
 }
 
-QLabel* cSumBar::AddSum(const QString& title)
+cSumBar::cSum cSumBar::AddSum(const QString& title)
 {
     auto* name = new QLabel(title, this);
     auto* value = new QLabel(this);
@@ -42,19 +43,22 @@ QLabel* cSumBar::AddSum(const QString& title)
     value->setAccessibleName(title);
     m_layout->AddField(name, value);
     m_layout->AddGap(12);
-    return value;
+    return {name, value};
 }
 
 void cSumBar::ShowSums(const cTexts& texts)
 {
     const QColor text = palette().color(QPalette::WindowText);
     m_count->setText(texts.Count);
-    Show(*m_income, texts.Income, modTone::Income(palette()));
-    Show(*m_expense, texts.Expense, modTone::Expense(palette()));
-    Show(*m_total, texts.Total, text);
+    m_start.Name->setVisible(!texts.Start.isEmpty());
+    m_start.Value->setVisible(!texts.Start.isEmpty());
+    Show(*m_start.Value, texts.Start, text);
+    Show(*m_income.Value, texts.Income, modTone::Income(palette()));
+    Show(*m_expense.Value, texts.Expense, modTone::Expense(palette()));
+    Show(*m_total.Value, texts.Total, text);
 }
 
 void cSumBar::ShowSums(const cMainModel& model)
 {
-    ShowSums({model.CountText(), model.IncomeText(), model.ExpenseText(), model.TotalText()});
+    ShowSums({model.CountText(), model.IncomeText(), model.ExpenseText(), model.TotalText(), model.StartText()});
 }

@@ -6,7 +6,7 @@ class cFlowLayout;
 class cMainModel;
 class QLabel;
 
-// The sums of the shown entries: count, income, expense, total.
+// The sums of the shown entries: count, start balances where there are any, income, expense, total.
 class cSumBar final : public QWidget
 {
     Q_OBJECT
@@ -18,6 +18,7 @@ public:
         QString Income;
         QString Expense;
         QString Total;
+        QString Start{}; // start balances; empty: not shown
     };
 
     explicit cSumBar(QWidget* parent = nullptr);
@@ -26,11 +27,17 @@ public:
     void ShowSums(const cMainModel& model);
 
 private:
-    QLabel* AddSum(const QString& title);
+    struct cSum
+    {
+        QLabel* Name = nullptr;
+        QLabel* Value = nullptr;
+    };
+    cSum AddSum(const QString& title);
 
     cFlowLayout* m_layout;
     QLabel* m_count;
-    QLabel* m_income;
-    QLabel* m_expense;
-    QLabel* m_total;
+    cSum m_start;
+    cSum m_income;
+    cSum m_expense;
+    cSum m_total;
 };

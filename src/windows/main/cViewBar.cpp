@@ -48,6 +48,9 @@ cViewBar::cViewBar(cMainModel& model, QWidget* parent)
 {
     Build();
     Connect();
+    for (auto* day : {m_start, m_end}) {
+        ShowDay(*day, m_model.Today()); // until the view is restored
+    }
 }
 
 cDayEdit* cViewBar::MakeDay(const QString& name)

@@ -29,8 +29,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int accountLetters = 42; // width of the accounts
-constexpr int crampedLetters = 80; // width of a window that is too small for list and accounts
+constexpr int accountLetters = 42;          // width of the accounts
+constexpr int crampedLetters = 80;          // width of a window that is too small for list and accounts
+const QString pageSetting = u"MainSeite"_s; // number of the page in front
 
 } // namespace
 
@@ -161,6 +162,7 @@ void frmMain::RestoreLayout()
         setWindowState(Qt::WindowMaximized);
     }
     m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
+    m_tree->SetGroupText(m_model.Layout(u"GroupEntries"_s));
     ShowCommands();
 }
 
@@ -171,8 +173,11 @@ QList<int> frmMain::EntryColumns() const
 
 void frmMain::ShowToday()
 {
+    m_tabs->setCurrentIndex(m_model.Layout(pageSetting).toInt()); // the tabs pass over a number that they do not have
     m_tree->ScrollTo(m_model.Today());
-    m_tree->setFocus();
+    if (Page() == ePage::Entries) {
+        m_tree->setFocus();
+    }
 }
 
 void frmMain::ShowView()
@@ -211,6 +216,7 @@ void frmMain::ShowCommands()
 void frmMain::ResetLayout()
 {
     m_tree->SetLayoutText({});
+    m_tree->SetGroupText({});
     setWindowState(Qt::WindowNoState);
     TakeUsualSize();
 }
@@ -271,6 +277,8 @@ void frmMain::SaveLayout()
     const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
     m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
+    m_model.SaveListLayout(u"GroupEntries"_s, m_tree->GroupText());
+    m_model.SaveListLayout(pageSetting, QString::number(m_tabs->currentIndex()));
 }
 
 // The accounts have room for long names in a wide window and leave most of a narrow one to the list; where it has

@@ -31,7 +31,9 @@ public:
     // Place and columns as they were; called once before the window is shown.
     void RestoreLayout();
 
-    void ShowToday(); // scrolls the list to the current day and gives it the focus
+    // Once the view was restored: brings the page to the front that was there last, scrolls the list to the current day
+    // and gives it the focus where it is in front.
+    void ShowToday();
 
     [[nodiscard]] QWidget& StatementsPage() { return *m_statements; } // with an empty layout, for whoever fills it
     [[nodiscard]] QWidget& StatisticsPage() { return *m_statistics; }

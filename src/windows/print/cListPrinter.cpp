@@ -88,12 +88,16 @@ cListPrinter::cHead cListPrinter::HeadOf(const cStatementListModel& statement)
 
 cListPrinter::cHead cListPrinter::HeadOf(const cMainModel& model)
 {
-    return {modViewText::Title(model.View()),
-            model.ViewLines(),
-            cText::Tr("Kontorelle, {0}", {modDate::ToGerman(model.Today())}),
-            {{cText::Tr("Einnahmen"), model.IncomeText()},
-             {cText::Tr("Ausgaben"), model.ExpenseText()},
-             {cText::Tr("Summe"), model.TotalText()}}};
+    cHead head{modViewText::Title(model.View()),
+               model.ViewLines(),
+               cText::Tr("Kontorelle, {0}", {modDate::ToGerman(model.Today())}),
+               {{cText::Tr("Einnahmen"), model.IncomeText()},
+                {cText::Tr("Ausgaben"), model.ExpenseText()},
+                {cText::Tr("Summe"), model.TotalText()}}};
+    if (!model.StartText().isEmpty()) {
+        head.Sums.prepend({cText::Tr("Startguthaben"), model.StartText()});
+    }
+    return head;
 }
 
 void cListPrinter::TakeRow(const QModelIndex& index, const QList<int>& columns)

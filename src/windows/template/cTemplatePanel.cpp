@@ -283,7 +283,7 @@ void cTemplatePanel::ShowLine(const cTemplateManager& manager, const cTemplateNo
     m_hint->setText(manager.Hint(*node));
     const bool isOfAccounts = node->IsOfAccounts();
     m_numbersHint->setText(isOfAccounts ? manager.NumbersHint() : QString());
-    // A form cuts wrapped lines; a text that is empty answers -1.
+    // A form cuts wrapped lines. A label that never had a text says -1.
     m_numbersHint->setMinimumHeight(qMax(0, m_numbersHint->heightForWidth(m_numbers->width())));
     if (const std::optional<cTemplateFields> fields = manager.Load(*node)) {
         ShowFields(*node, *fields, isOfAccounts ? manager.Groups() : manager.Mains());

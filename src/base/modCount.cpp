@@ -1,0 +1,38 @@
+#include "base/modCount.h"
+
+#include "base/cText.h"
+
+namespace {
+
+QString Say(qsizetype count, const char* one, const char* many)
+{
+    return count == 1 ? cText::Tr(one) : cText::Tr(many, {QString::number(count)});
+}
+
+} // namespace
+
+QString modCount::Entries(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Eintrag"), QT_TRANSLATE_NOOP("cText", "{0} Einträge"));
+}
+
+QString modCount::Bookings(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Buchung"), QT_TRANSLATE_NOOP("cText", "{0} Buchungen"));
+}
+
+QString modCount::Categories(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Kategorie"), QT_TRANSLATE_NOOP("cText", "{0} Kategorien"));
+}
+
+QString modCount::Rows(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Umsatz"), QT_TRANSLATE_NOOP("cText", "{0} Umsätze"));
+}
+
+QString modCount::MoreLines(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "… und 1 weitere Zeile"),
+               QT_TRANSLATE_NOOP("cText", "… und {0} weitere Zeilen"));
+}
