@@ -118,7 +118,7 @@ private Q_SLOTS:
         QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
         QTRY_VERIFY(editor() != nullptr && editor()->currentText() == u"Ponyhof");
         scene.Book.User.Answers = {eAnswer::Yes};
-        QTest::keyClick(editor(), Qt::Key_Down);
+        QTest::keyClicks(editor(), u"Ponyhof"_s); // over the selected text
         QTest::keyClick(editor(), Qt::Key_Down);
         QTest::keyClick(editor(), Qt::Key_Return);
         QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), u"Ponyhof"_s);

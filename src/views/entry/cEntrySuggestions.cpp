@@ -225,14 +225,16 @@ QString cEntrySuggestions::PathOf(const QString& typed)
 
 QString cEntrySuggestions::OfferNew(const QString& typed, const QString& type)
 {
-    const QString there = PathOf(typed);
     const QString path = TypedPath(typed);
     cTemplateItem item =
         modTemplate::NewCategory(m_data.GetTemplates(), modTemplate::MainOf(path), modTemplate::SubOf(path));
-    if (!there.isEmpty() || (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty())) {
-        return there;
+    if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
+        return {};
     }
     const QString name = modTemplate::Path(item);
+    if (const QString there = PathOf(name); !there.isEmpty()) {
+        return there;
+    }
     const eAnswer answer =
         m_user.Ask({.Text = cText::Tr("Die Kategorie '{0}' gibt es noch nicht.\nSoll sie angelegt werden?", {name}),
                     .Title = cText::Tr("Neue Kategorie")});

@@ -128,6 +128,8 @@ void cStagedPanel::Connect()
             [this, delegate](const QPersistentModelIndex& index, const QString& typed) {
                 if (index.isValid() && !m_actions->TakeNewCategory(index, typed)) {
                     delegate->StartWith(typed); // what was typed is not lost
+                    m_tree->setFocus();         // closes a field that Tab has opened meanwhile
+                    m_tree->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
                     m_tree->edit(index);
                 }
             });
