@@ -7,6 +7,7 @@
 
 #include <vector>
 
+class cElidedText;
 class cTemplateManager;
 class QCheckBox;
 class QComboBox;
@@ -78,7 +79,7 @@ private:
     QComboBox* m_type;
     QComboBox* m_interval;
     QLineEdit* m_limit;
-    QLabel* m_limitHint;
+    cElidedText* m_limitHint;
     QLineEdit* m_vat;
     QLineEdit* m_start;
     QDateEdit* m_date;
