@@ -74,9 +74,7 @@ eAnswer cQtUser::Ask(const cQuestion& question)
         cancel = box.addButton(cText::Tr("Abbrechen"), QMessageBox::RejectRole);
     }
     box.setEscapeButton(cancel);
-    box.setDefaultButton(question.Default == eAnswer::Yes      ? yes
-                             : question.Default == eAnswer::No ? no
-                                                               : cancel);
+    box.setDefaultButton(question.Default == eAnswer::Yes ? yes : question.Default == eAnswer::No ? no : cancel);
     box.exec();
     if (box.clickedButton() == yes) {
         return eAnswer::Yes;

@@ -4,6 +4,7 @@
 #include "windows/template/cTemplateTree.h"
 #include "windows/template/frmKategorie.h"
 #include "windows/widget/cDayEdit.h"
+#include "windows/widget/cElidedText.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -121,9 +122,9 @@ private Q_SLOTS:
         QTest::keyClicks(&scene.Field<QLineEdit>(u"Monatslimit:"_s), u"600"_s);
         interval.setCurrentIndex(interval.findData(u"Jährlich"_s));
         QCOMPARE(scene.Field<QLineEdit>(u"Betrag:"_s).text(), u"600"_s);
-        const QList<QLabel*> labels = scene.Window.findChildren<QLabel*>();
-        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-            return label->isVisible() && label->text().contains(u"(Jährlich) und zählt als Monatslimit von 50,00");
+        const QList<cElidedText*> hints = scene.Window.findChildren<cElidedText*>();
+        QVERIFY(std::any_of(hints.begin(), hints.end(), [](const cElidedText* hint) {
+            return hint->isVisible() && hint->toolTip().startsWith(u"Wird vorgeschlagen; Monatslimit 50,00");
         }));
     }
 

@@ -479,15 +479,12 @@ QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
     item.TemplateDefaultValue = modAmount::CentsToText(modSum::Evaluate(fields.Amount).value_or(0));
-    const qint64 limit = modTemplate::LimitCents(item, 1);
     if (!modRecurrence::IsRecurring(fields.Interval)) {
-        return limit > 0 ? cText::Tr("So viel darf in einem Kalendermonat ausgegeben werden.") : QString();
+        return {}; // the label says it
     }
-    if (limit == 0) {
-        return cText::Tr("Wird neuen Einträgen vorgeschlagen.");
-    }
-    return cText::Tr("Wird neuen Einträgen vorgeschlagen ({0}) und zählt als Monatslimit von {1}.",
-                     {modWord::Intervals().ToShown(fields.Interval), m_parts.Format.Cents(limit)});
+    const qint64 limit = modTemplate::LimitCents(item, 1);
+    return limit == 0 ? cText::Tr("Wird vorgeschlagen")
+                      : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_parts.Format.Cents(limit)});
 }
 
 QString cTemplateManager::NumbersHint() const

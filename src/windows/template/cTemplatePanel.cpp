@@ -4,6 +4,7 @@
 #include "model/modWord.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/widget/cDayEdit.h"
+#include "windows/widget/cElidedText.h"
 #include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
@@ -58,7 +59,7 @@ cTemplatePanel::cTemplatePanel(QDate today, QWidget* parent)
       m_type(new QComboBox(this)),
       m_interval(new QComboBox(this)),
       m_limit(new QLineEdit(this)),
-      m_limitHint(new QLabel(this)),
+      m_limitHint(new cElidedText(this)),
       m_vat(new QLineEdit(this)),
       m_start(new QLineEdit(this)),
       m_date(new cDayEdit(today, this)),
@@ -88,13 +89,14 @@ void cTemplatePanel::Build()
     m_title->setFont(font);
     m_title->setWordWrap(true);
     m_title->setTextFormat(Qt::PlainText);
-    for (QLabel* label : {m_hint, m_numbersHint, m_limitHint}) {
+    for (QLabel* label : {m_hint, m_numbersHint}) {
         label->setWordWrap(true);
         label->setTextFormat(Qt::PlainText);
         QPalette quiet = label->palette();
         quiet.setColor(QPalette::WindowText, modTone::Quiet(quiet));
         label->setPalette(quiet);
     }
+    m_limitHint->setPalette(m_hint->palette());
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_title);
     layout->addWidget(m_hint);
@@ -152,7 +154,7 @@ void cTemplatePanel::BuildFields()
     AddRow(cText::Tr("&Intervall:"), m_interval);
     AddRow(cText::Tr("&Monatslimit:"), m_limit);
     AddRow({}, m_limitHint);
-    AddRow(cText::Tr("Mehrwertsteuer in &Prozent:"), m_vat);
+    AddRow(cText::Tr("MwSt. in &Prozent:"), m_vat);
     AddRow(cText::Tr("Start&guthaben:"), m_startRow);
     AddRow(cText::Tr("Kontonummern &für Import:"), m_numbers);
     AddRow({}, m_numbersHint);
@@ -347,8 +349,7 @@ void cTemplatePanel::ShowAmountHint()
     }
     const cTemplateFields fields = Fields();
     const QString hint = m_manager->AmountHint(fields);
-    m_limitHint->setText(hint);
-    m_limitHint->setMinimumHeight(qMax(0, m_limitHint->heightForWidth(m_limit->width()))); // a form cuts wrapped lines
+    m_limitHint->SetText(hint);
     SetText(m_limit, m_manager->AmountLabel(fields));
     ShowRow(m_limit, true);
     ShowRow(m_limitHint, !hint.isEmpty());

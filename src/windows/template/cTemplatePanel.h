@@ -8,6 +8,7 @@
 #include <vector>
 
 class cDayEdit;
+class cElidedText;
 class cTemplateManager;
 class QCheckBox;
 class QComboBox;
@@ -79,7 +80,7 @@ private:
     QComboBox* m_type;
     QComboBox* m_interval;
     QLineEdit* m_limit;
-    QLabel* m_limitHint;
+    cElidedText* m_limitHint;
     QLineEdit* m_vat;
     QLineEdit* m_start;
     cDayEdit* m_date;
