@@ -1,7 +1,4 @@
-#include "core/cAmountFormat.h"
-#include "support/testBook.h"
-#include "views/template/cNameKeepers.h"
-#include "views/template/cTemplateManager.h"
+#include "cTemplateScene.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -13,57 +10,7 @@ namespace {
 const QString food = u"Haushalt; Lebensmittel"_s;
 const QString drinks = u"Haushalt; Getränke"_s;
 
-// A book with three entries in one category, and the manager over it.
-class cScene
-{
-public:
-    cScene()
-    {
-        for (int i = 0; i < 3; ++i) {
-            Ids.append(Book.Add([](cEntryItem&) {}).ID);
-        }
-        Manager.Refresh();
-    }
-
-    cTemplateNode Category(const QString& path) { return Node(Manager.Categories(), path); }
-    cTemplateNode Account(const QString& name) { return Node(Manager.Accounts(), name); }
-    cTemplateNode Group(const QString& name)
-    {
-        const std::vector<cTemplateBranch>& branches = Manager.Accounts().Branches();
-        const auto found = std::find_if(branches.begin(), branches.end(),
-                                        [&](const cTemplateBranch& branch) { return branch.Node.Path == name; });
-        return found == branches.end() ? cTemplateNode{} : found->Node;
-    }
-    QString CategoryOf(int place) { return Book.Data.LoadEntry(Ids.at(place))->EntryCategory; }
-    bool Has(const QString& path)
-    {
-        return Manager.Categories().IndexOf(path).isValid() && !Category(path).IsUnknown();
-    }
-
-    // The fields of a line, changed and saved.
-    template <typename tChange>
-    std::optional<QString> Save(const cTemplateNode& node, tChange change)
-    {
-        const cTemplateFields old = Manager.Load(node).value_or(cTemplateFields{});
-        cTemplateFields fields = old;
-        change(fields);
-        return Manager.Save(node, old, fields);
-    }
-
-    cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
-    QList<int> Ids;
-
-private:
-    static cTemplateNode Node(const cTemplateTreeModel& tree, const QString& path)
-    {
-        const cTemplateNode* node = tree.NodeAt(tree.IndexOf(path));
-        return node == nullptr ? cTemplateNode{} : *node;
-    }
-};
-
-QStringList SubsOf(cScene& scene, const QString& main)
+QStringList SubsOf(cTemplateScene& scene, const QString& main)
 {
     QStringList names;
     for (const cTemplateBranch& branch : scene.Manager.Categories().Branches()) {
@@ -104,9 +51,6 @@ private Q_SLOTS:
     void AssignsBankNumbers();
     void DeletesAnAccount();
     void MergesAccounts();
-    void CleansNamesOfOlderBooks_data();
-    void CleansNamesOfOlderBooks();
-    void KeepsApartWhatCleaningMakesEqual();
     void MovesInTheOrder();
     void GroupsOfAccountsAreRenamed();
     void KeepsTheLayout();
@@ -114,7 +58,7 @@ private Q_SLOTS:
 
 void testTemplateManager::ListsWhatTheBookHolds()
 {
-    cScene scene;
+    cTemplateScene scene;
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, -5000, QDate(2026, 1, 1)));
     scene.Book.Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
     QVERIFY(scene.Save(scene.Category(food), [](cTemplateFields& fields) { fields.Amount = u"400,50"_s; }));
@@ -146,7 +90,7 @@ void testTemplateManager::DeletesACategory()
     QFETCH(QString, target);
     QFETCH(bool, isDeleted);
     QFETCH(QString, category);
-    cScene scene;
+    cTemplateScene scene;
     scene.Book.User.Decisions = {way};
     if (!target.isEmpty()) {
         scene.Book.User.Choices = {target};
@@ -169,7 +113,7 @@ void testTemplateManager::DeletesACategory()
 
 void testTemplateManager::DeletesAMainCategoryWithItsEntries()
 {
-    cScene scene;
+    cTemplateScene scene;
     const int old = scene.Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haushalt; Altes"_s; }).ID;
     scene.Book.User.Decisions = {0};
     scene.Book.User.Choices = {u"Freizeit; Hobby"_s};
@@ -196,7 +140,7 @@ void testTemplateManager::KeepsTheCategoryOfStartBalances_data()
 void testTemplateManager::KeepsTheCategoryOfStartBalances()
 {
     QFETCH(int, action);
-    cScene scene;
+    cTemplateScene scene;
     scene.Book.User.Answers = {eAnswer::Yes};
     cTemplateManager& manager = scene.Manager;
     const QString start = modWord::Startguthaben;
@@ -220,7 +164,7 @@ void testTemplateManager::KeepsTheCategoryOfStartBalances()
 
 void testTemplateManager::MergesIntoACategoryThatStaysAsItIs()
 {
-    cScene scene;
+    cTemplateScene scene;
     QVERIFY(scene.Save(scene.Category(drinks), [](cTemplateFields& fields) { fields.Amount = u"80"_s; }));
     const std::optional<cTemplateItem> target = scene.Book.Data.FindTemplate(scene.Category(drinks).Id);
     scene.Book.User.Choices = {drinks, drinks};
@@ -235,7 +179,7 @@ void testTemplateManager::MergesIntoACategoryThatStaysAsItIs()
 
 void testTemplateManager::MergesMainCategories()
 {
-    cScene scene;
+    cTemplateScene scene;
     QCOMPARE(scene.Manager.AddCategory(u"Alltag"_s, u"Lebensmittel"_s), u"Alltag; Lebensmittel"_s);
     scene.Book.User.Answers = {eAnswer::Yes};
     QVERIFY(scene.Manager.MergeCategory(u"Haushalt"_s, u"Alltag"_s));
@@ -250,7 +194,7 @@ void testTemplateManager::MergesMainCategories()
 
 void testTemplateManager::TakesBackWhatFailsHalfway()
 {
-    cScene scene;
+    cTemplateScene scene;
     scene.Book.Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
     scene.Book.Database.Execute("CREATE TRIGGER t BEFORE DELETE ON template BEGIN SELECT RAISE(ABORT, 'voll'); END");
     scene.Book.User.Answers = {eAnswer::Yes};
@@ -262,7 +206,7 @@ void testTemplateManager::TakesBackWhatFailsHalfway()
 
 void testTemplateManager::ChangesACategoryInOneStep()
 {
-    cScene scene;
+    cTemplateScene scene;
     const QSignalSpy changes(&scene.Manager, &cTemplateManager::BookChanged);
     const std::optional<QString> path = scene.Save(scene.Category(food), [](cTemplateFields& fields) {
         fields.Group = u"Alltag"_s;
@@ -289,7 +233,7 @@ void testTemplateManager::ChangesACategoryInOneStep()
 // What an older book holds is left alone until somebody gives a rate.
 void testTemplateManager::KeepsVatThatIsNoRate()
 {
-    cScene scene;
+    cTemplateScene scene;
     scene.Book.Database.ExecuteScript("UPDATE template SET TemplateVAT = 'voll'");
     const auto stored = [&scene] { return scene.Book.Data.FindTemplate(scene.Category(food).Id)->TemplateVAT; };
     QVERIFY(scene.Save(scene.Category(food), [](cTemplateFields& fields) { fields.Comment = u"x"_s; }));
@@ -325,7 +269,7 @@ void testTemplateManager::RefusesFields()
     QFETCH(QString, name);
     QFETCH(QString, amount);
     QFETCH(QString, message);
-    cScene scene;
+    cTemplateScene scene;
     const bool isAccount = scene.Manager.Accounts().IndexOf(path).isValid();
     const cTemplateItemList before = scene.Book.Data.GetTemplates();
     QVERIFY(!scene.Save(isAccount ? scene.Account(path) : scene.Category(path), [&](cTemplateFields& fields) {
@@ -340,7 +284,7 @@ void testTemplateManager::RefusesFields()
 
 void testTemplateManager::MainCategoryIsBookableOrNot()
 {
-    cScene scene;
+    cTemplateScene scene;
     const auto setBookable = [&](const QString& main, bool isBookable) {
         return scene.Save(scene.Category(main), [&](cTemplateFields& fields) { fields.IsBookable = isBookable; });
     };
@@ -357,7 +301,7 @@ void testTemplateManager::MainCategoryIsBookableOrNot()
 
 void testTemplateManager::AddsWhereTheSelectionIs()
 {
-    cScene scene;
+    cTemplateScene scene;
     scene.Book.User.Choices = {u"Backwaren"_s, u"Boot"_s, u"Tagesgeld"_s, u"Lebensmittel"_s};
     const cTemplateNode category = scene.Category(food);
     const cTemplateNode account = scene.Account(u"Girokonto"_s);
@@ -374,7 +318,7 @@ void testTemplateManager::AddsWhereTheSelectionIs()
 
 void testTemplateManager::ListsPathsThatNoCategoryHas()
 {
-    cScene scene;
+    cTemplateScene scene;
     const QStringList paths{u"Haushalt; Altes"_s, u"Haushalt"_s, u"Früher; Pacht & Miete"_s, u"Keine Angabe"_s,
                             QString()};
     for (const QString& path : paths) {
@@ -405,7 +349,7 @@ void testTemplateManager::ListsPathsThatNoCategoryHas()
 
 void testTemplateManager::WritesStartBalances()
 {
-    cScene scene;
+    cTemplateScene scene;
     const auto save = [&](const QString& amount, QDate date) {
         return scene.Save(scene.Account(u"Bargeld"_s), [&](cTemplateFields& fields) {
             fields.Amount = amount;
@@ -427,7 +371,7 @@ void testTemplateManager::WritesStartBalances()
 // Zero and an overdraft are limits too; only an empty field is none.
 void testTemplateManager::WritesAccountLimits()
 {
-    cScene scene;
+    cTemplateScene scene;
     const auto save = [&](const QString& text) {
         return scene.Save(scene.Account(u"Bargeld"_s), [&](cTemplateFields& fields) { fields.Limit = text; });
     };
@@ -450,7 +394,7 @@ void testTemplateManager::WritesAccountLimits()
 
 void testTemplateManager::AssignsBankNumbers()
 {
-    cScene scene;
+    cTemplateScene scene;
     cSettings& settings = *scene.Book.Settings;
     settings.Set(u"KTO:1"_s, u"Bargeld"_s);
     settings.Set(u"KTO:2"_s, u"Sparkonto"_s);
@@ -471,7 +415,7 @@ void testTemplateManager::AssignsBankNumbers()
 
 void testTemplateManager::DeletesAnAccount()
 {
-    cScene scene;
+    cTemplateScene scene;
     QSignalSpy renamed(&scene.Manager, &cTemplateManager::AccountRenamed);
     scene.Book.Settings->Set(u"KTO:1"_s, u"Girokonto"_s);
     scene.Book.User.Decisions = {1};
@@ -491,7 +435,7 @@ void testTemplateManager::DeletesAnAccount()
 
 void testTemplateManager::MergesAccounts()
 {
-    cScene scene;
+    cTemplateScene scene;
     QSignalSpy renamed(&scene.Manager, &cTemplateManager::AccountRenamed);
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, -1000, QDate(2026, 2, 1)));
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 2500, QDate(2026, 1, 1)));
@@ -514,123 +458,10 @@ void testTemplateManager::MergesAccounts()
     QCOMPARE(renamed.takeFirst(), (QVariantList{u"Girokonto"_s, u"Bargeld"_s}));
 }
 
-// A book from before names were cleaned: a main category with a sub-category that has characters of its own, one that
-// only entries know, and an account.
-class cOldBook : public cScene
-{
-public:
-    cOldBook()
-    {
-        Book.Database.ExecuteScript(
-            "UPDATE template SET TemplateCategory = 'Haus & Hof' WHERE TemplateCategory = 'Haushalt';"
-            "UPDATE template SET TemplateName = 'Obst & Gemüse' WHERE TemplateName = 'Lebensmittel';"
-            "UPDATE template SET TemplateName = 'Oma''s Konto' WHERE TemplateName = 'Girokonto';");
-        Food = Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haus & Hof; Obst & Gemüse"_s; }).ID;
-        Lost = Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haus & Hof; Altes"_s; }).ID;
-        Drinks = Book.Add([](cEntryItem& entry) {
-                         entry.EntryCategory = u"Haus & Hof; Getränke"_s;
-                         entry.EntryAccount = u"Oma's Konto"_s;
-                     })
-                     .ID;
-        Transfer = Book.Add([](cEntryItem& entry) {
-                           entry.EntryType = modWord::Umbuchung;
-                           entry.EntryAccount = u"Bargeld"_s;
-                           entry.EntryAccountMove = u"Oma's Konto"_s;
-                       })
-                       .ID;
-        Book.Settings->Set(u"KTO:1"_s, u"Oma's Konto"_s);
-        cNameKeepers::Watch(Book.Data, *Book.Settings);
-        Manager.Refresh();
-    }
-
-    QString Path(int id) { return Book.Data.LoadEntry(id)->EntryCategory; }
-
-    int Food = 0;
-    int Lost = 0;
-    int Drinks = 0;
-    int Transfer = 0;
-};
-
-void testTemplateManager::CleansNamesOfOlderBooks_data()
-{
-    QTest::addColumn<int>("action");
-    QTest::addColumn<QString>("main"); // of all its categories afterwards
-    QTest::addColumn<QString>("account");
-    const QString main = u"Haus & Hof"_s;
-    const QString account = u"Oma's Konto"_s;
-    QTest::newRow("a limit") << 0 << u"Haus  Hof"_s << account;
-    QTest::newRow("the order") << 1 << u"Haus  Hof"_s << account;
-    QTest::newRow("a renamed main category") << 2 << u"Daheim"_s << account;
-    QTest::newRow("a hidden main category") << 3 << u"Haus  Hof"_s << account;
-    QTest::newRow("another one goes there") << 4 << u"Haus  Hof"_s << account;
-    QTest::newRow("another main category goes there") << 5 << u"Haus  Hof"_s << account;
-    QTest::newRow("it goes elsewhere") << 6 << u"Freizeit"_s << account;
-    QTest::newRow("a limit of the account") << 7 << main << u"Omas Konto"_s;
-    QTest::newRow("the order of accounts") << 8 << main << u"Omas Konto"_s;
-}
-
-void testTemplateManager::CleansNamesOfOlderBooks()
-{
-    QFETCH(int, action);
-    QFETCH(QString, main);
-    QFETCH(QString, account);
-    cOldBook scene;
-    cTemplateManager& manager = scene.Manager;
-    QSignalSpy renamed(&manager, &cTemplateManager::AccountRenamed);
-    scene.Book.User.Answers = {eAnswer::Yes};
-    const auto limit = [](cTemplateFields& fields) { fields.Amount = fields.Limit = u"500"_s; };
-    const QString old = u"Haus & Hof"_s;
-    switch (action) {
-    case 0: QVERIFY(scene.Save(scene.Category(old + u"; Obst & Gemüse"), limit)); break;
-    case 1: QVERIFY(manager.Move(scene.Category(old), cTemplateManager::eDirection::Down)); break;
-    case 2: QVERIFY(manager.RenameCategory(old, u"Daheim"_s)); break;
-    case 3: QVERIFY(scene.Save(scene.Category(old), [](cTemplateFields& fields) { fields.IsVisible = false; })); break;
-    case 4: QVERIFY(manager.RenameCategory(u"Freizeit; Hobby"_s, old + u"; Hobby")); break;
-    case 5: QVERIFY(manager.MergeCategory(u"Freizeit"_s, old)); break;
-    case 6: QVERIFY(manager.MergeCategory(old, u"Freizeit"_s)); break;
-    case 7:
-        QVERIFY(scene.Save(scene.Account(u"Oma's Konto"_s), [](cTemplateFields& fields) { fields.Limit = u"5"_s; }));
-        break;
-    default: QVERIFY(manager.Move(scene.Account(u"Oma's Konto"_s), cTemplateManager::eDirection::Down));
-    }
-    const bool isClean = main != old;
-    QCOMPARE(scene.Path(scene.Food), QString(main + (isClean ? u"; Obst  Gemüse" : u"; Obst & Gemüse")));
-    QCOMPARE(scene.Path(scene.Lost), QString(main + u"; Altes"));
-    QCOMPARE(scene.Path(scene.Drinks), QString(main + u"; Getränke"));
-    QVERIFY(scene.Has(scene.Path(scene.Food)));
-    QVERIFY(scene.Has(scene.Path(scene.Drinks)));
-    QCOMPARE(scene.Manager.Mains().contains(old), !isClean);
-    QCOMPARE(scene.Book.Data.LoadEntry(scene.Drinks)->EntryAccount, account);
-    QCOMPARE(scene.Book.Data.LoadEntry(scene.Transfer)->EntryAccountMove, account);
-    QCOMPARE(scene.Book.Settings->Get(u"KTO:1"_s), account);
-    QVERIFY(scene.Book.Data.FindAccount(account));
-    QCOMPARE(renamed.size(), account == u"Omas Konto" ? 1 : 0);
-    QCOMPARE(scene.Book.User.Shown.size(), 1); // one line, whatever went along
-    QVERIFY2(scene.Book.User.Shown.constFirst().contains(u" heißt jetzt '"), qPrintable(scene.Book.User.Shown.first()));
-    QVERIFY(scene.Book.Data.Undo());
-    QCOMPARE(scene.Path(scene.Food), u"Haus & Hof; Obst & Gemüse"_s);
-    QCOMPARE(scene.Book.Data.LoadEntry(scene.Transfer)->EntryAccountMove, u"Oma's Konto"_s);
-}
-
-void testTemplateManager::KeepsApartWhatCleaningMakesEqual()
-{
-    cOldBook scene;
-    QVERIFY(!scene.Manager.AddAccount(u"Omas Konto"_s, {}).isEmpty());
-    const int other = scene.Book.Add([](cEntryItem& entry) { entry.EntryAccount = u"Omas Konto"_s; }).ID;
-    QVERIFY(scene.Save(scene.Account(u"Oma's Konto"_s), [](cTemplateFields& fields) { fields.Limit = u"5"_s; }));
-    QCOMPARE(scene.Book.User.Shown.constLast(),
-             u"'Oma's Konto' heißt jetzt 'Omas Konto 2', denn Namen dürfen die Zeichen & ' < > \" ; nicht enthalten. "
-             "2 Buchungen gingen mit."_s);
-    QCOMPARE(scene.Book.Data.LoadEntry(scene.Drinks)->EntryAccount, u"Omas Konto 2"_s);
-    QCOMPARE(scene.Book.Data.LoadEntry(other)->EntryAccount, u"Omas Konto"_s);
-    QVERIFY(scene.Save(scene.Account(u"Omas Konto 2"_s), [](cTemplateFields& fields) { fields.Limit = u"6"_s; }));
-    QVERIFY(scene.Book.Data.FindAccount(u"Omas Konto 2"_s));
-}
-
 void testTemplateManager::MovesInTheOrder()
 {
     using eDirection = cTemplateManager::eDirection;
-    cScene scene;
+    cTemplateScene scene;
     const QStringList subs = SubsOf(scene, u"Haushalt"_s);
     QVERIFY(!scene.Manager.Move(scene.Category(food), eDirection::Up)); // the first one; above it is the main category
     QVERIFY(scene.Manager.Move(scene.Category(food), eDirection::Down));
@@ -655,7 +486,7 @@ void testTemplateManager::MovesInTheOrder()
 
 void testTemplateManager::GroupsOfAccountsAreRenamed()
 {
-    cScene scene;
+    cTemplateScene scene;
     scene.Book.User.Choices = {u"Banken"_s};
     QCOMPARE(scene.Manager.AskRenameGroup(scene.Group(u"Bankkonten"_s)), u"Banken"_s);
     QCOMPARE(scene.Manager.Groups(), (QStringList{u"Banken"_s, u"Bargeld"_s}));
@@ -663,7 +494,7 @@ void testTemplateManager::GroupsOfAccountsAreRenamed()
 
 void testTemplateManager::KeepsTheLayout()
 {
-    cScene scene;
+    cTemplateScene scene;
     const cTreeLayout categories{u"0,80,1|1,40,1"_s, {u"Haus, Hof!"_s, u"Auto#2"_s}};
     const cTreeLayout accounts{u"0,90,1"_s, {QString::fromUtf8("Über")}};
     scene.Manager.SaveLayout(categories, accounts);
