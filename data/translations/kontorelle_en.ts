@@ -140,10 +140,6 @@
         <translation>Reason</translation>
     </message>
     <message>
-        <source>{0} Einträge neu, {1} Umsätze zugeordnet</source>
-        <translation>{0} new entries, {1} transactions assigned</translation>
-    </message>
-    <message>
         <source>, davon {0} zu vorhandenen Einträgen</source>
         <translation>, {0} of them to existing entries</translation>
     </message>
@@ -154,10 +150,6 @@
     <message>
         <source>Die Kontonummer &apos;{0}&apos; gehört zu keinem Konto; ihre Umsätze bleiben offen. Lesen Sie den Auszug mit --book-account NAME noch einmal ein.</source>
         <translation>The account number &apos;{0}&apos; belongs to no account; its transactions stay open. Import the statement again with --book-account NAME.</translation>
-    </message>
-    <message>
-        <source>{0}: gültige Datenbank, {1} Einträge, {2} Umsätze</source>
-        <translation>{0}: valid database, {1} entries, {2} transactions</translation>
     </message>
     <message>
         <source>Beim Öffnen ergänzt: {0}</source>
@@ -258,10 +250,6 @@
     <message>
         <source>zeigt die Kontostände von heute</source>
         <translation>shows the account balances of today</translation>
-    </message>
-    <message>
-        <source>prüft die Datenbank und sagt, was beim Öffnen ergänzt wurde</source>
-        <translation>checks the database and tells what was added on opening</translation>
     </message>
     <message>
         <source>schreibt den Beispielhaushalt in eine neue Datenbank</source>
@@ -536,10 +524,6 @@ Which account do its transactions belong to?</translation>
     <message>
         <source>Die Datei ist leer: {0}</source>
         <translation>The file is empty: {0}</translation>
-    </message>
-    <message>
-        <source>Die Datenbank hat {0} Umsätze nicht angenommen. Sie können die Datei später noch einmal einlesen; was schon übernommen ist, wird dabei erkannt.</source>
-        <translation>The database did not accept {0} transactions. You can import the file again later; what has already been imported will be recognised.</translation>
     </message>
     <message>
         <source>Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht übernommen werden.</source>
@@ -1524,10 +1508,6 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <translation>fro&amp;m:</translation>
     </message>
     <message>
-        <source>b&amp;is:</source>
-        <translation>t&amp;o:</translation>
-    </message>
-    <message>
         <source>&amp;Konto:</source>
         <translation>&amp;Account:</translation>
     </message>
@@ -1934,12 +1914,6 @@ Unless they are moved, the entries keep their old category and stay visible ever
         <translation>There is no main category &apos;{0}&apos;.</translation>
     </message>
     <message>
-        <source>Alles aus &apos;{0}&apos; kommt nach &apos;{1}&apos;: {2} Kategorien und {3}. Gleichnamige Unterkategorien werden zusammengeführt.
-Möchten Sie fortfahren?</source>
-        <translation>Everything in &apos;{0}&apos; moves to &apos;{1}&apos;: {2} categories and {3}. Subcategories of the same name are merged.
-Do you want to continue?</translation>
-    </message>
-    <message>
         <source>Hauptkategorie &apos;{0}&apos; mit &apos;{1}&apos; zusammengeführt</source>
         <translation>Main category &apos;{0}&apos; merged into &apos;{1}&apos;</translation>
     </message>
@@ -2280,10 +2254,6 @@ Do you want to replace the open database with the backup? The previous file will
     <message>
         <source>{0} Mal</source>
         <translation>{0} times</translation>
-    </message>
-    <message>
-        <source>{0}, keine weiteren Termine</source>
-        <translation>{0}, no further dates</translation>
     </message>
     <message>
         <source>{0}, nächste Termine: {1}</source>
@@ -3022,10 +2992,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>Monthly limit</translation>
     </message>
     <message>
-        <source>Ein Monatslimit kann nicht unter null liegen.</source>
-        <translation>A monthly limit cannot be less than zero.</translation>
-    </message>
-    <message>
         <source>Kategorie &apos;{0}&apos; angelegt</source>
         <translation>Category &apos;{0}&apos; created</translation>
     </message>
@@ -3142,10 +3108,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>Use --yes to delete.</translation>
     </message>
     <message>
-        <source>sagt, was gelöscht würde, und löscht es mit --yes; Serien ganz, mit ihren Korrekturen</source>
-        <translation>tells what would be deleted, and deletes it with --yes; series as a whole, with their corrections</translation>
-    </message>
-    <message>
         <source>alle Teile einer aufgeteilten Buchung, nicht nur diesen</source>
         <translation>all parts of a split entry, not just this one</translation>
     </message>
@@ -3216,10 +3178,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     <message>
         <source>Bitte nennen Sie ein Suchwort oder eine Option.</source>
         <translation>Please give a word to search for or an option.</translation>
-    </message>
-    <message>
-        <source>{0}, Einnahmen {1}, Ausgaben {2}, Saldo {3}</source>
-        <translation>{0}, income {1}, expenses {2}, balance {3}</translation>
     </message>
     <message>
         <source>sucht im ganzen Buch Einträge, die alle Wörter enthalten und zu allen Optionen passen</source>
@@ -4872,10 +4830,6 @@ Suggestion: {2}</translation>
         <translation>The transactions of this import are no longer there.</translation>
     </message>
     <message>
-        <source>Kein Umsatz passt zum Filter. {0} ältere sind ausgeblendet; ohne den Haken bei „Ältere ausblenden“ sehen Sie auch diese.</source>
-        <translation>No transaction matches the filter. {0} older ones are hidden; untick “Hide older” to see these as well.</translation>
-    </message>
-    <message>
         <source>{0} offen, {1} insgesamt, {2} ältere ausgeblendet</source>
         <translation>{0} open, {1} in total, {2} older hidden</translation>
     </message>
@@ -5644,10 +5598,6 @@ Suggestion: {2}</translation>
         <translation>Gro&amp;uping:</translation>
     </message>
     <message>
-        <source>Kontol&amp;imit:</source>
-        <translation>Account l&amp;imit:</translation>
-    </message>
-    <message>
         <source>Fällt der Kontostand in den nächsten 60 Tagen darunter, warnt die Kontenliste.</source>
         <translation>If the balance falls below this within the next 60 days, the account list gives a warning.</translation>
     </message>
@@ -6126,6 +6076,438 @@ Shall these stay open? With No, they are booked too.</translation>
     <message>
         <source>Im Bericht &amp;suchen…</source>
         <translation>&amp;Find in report…</translation>
+    </message>
+    <message>
+        <source>1 Kategorie</source>
+        <translation>1 category</translation>
+    </message>
+    <message>
+        <source>{0} Kategorien</source>
+        <translation>{0} categories</translation>
+    </message>
+    <message>
+        <source>… und 1 weitere Zeile</source>
+        <translation>… and 1 more line</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist nicht eindeutig. Bitte schreiben Sie {1} oder {2}.</source>
+        <translation>&apos;{0}&apos; is ambiguous. Please write {1} or {2}.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos;, mit der das Fenster von Kontorelle zuletzt gearbeitet hat, wurde nicht gefunden. Prüfen Sie den Pfad, oder nennen Sie mit --database eine andere Datei.</source>
+        <translation>The database &apos;{0}&apos;, which Kontorelle&apos;s window worked with last, was not found. Please check the path, or name another file with --database.</translation>
+    </message>
+    <message>
+        <source>Kontolimit von &apos;{0}&apos; entfernt</source>
+        <translation>Limit of account &apos;{0}&apos; removed</translation>
+    </message>
+    <message>
+        <source>Kontolimit von &apos;{0}&apos; ist nun {1}</source>
+        <translation>Limit of account &apos;{0}&apos; is now {1}</translation>
+    </message>
+    <message>
+        <source>, davon 1 zu einem vorhandenen Eintrag</source>
+        <translation>, 1 of them to an existing entry</translation>
+    </message>
+    <message>
+        <source>{0} neu, {1} zugeordnet</source>
+        <translation>{0} new, {1} assigned</translation>
+    </message>
+    <message>
+        <source>1 Umsatz konnte nicht gebucht werden.</source>
+        <translation>1 transaction could not be booked.</translation>
+    </message>
+    <message>
+        <source>MwSt.</source>
+        <translation>VAT</translation>
+    </message>
+    <message>
+        <source>--amount und --limit schließen einander aus.</source>
+        <translation>--amount and --limit exclude each other.</translation>
+    </message>
+    <message>
+        <source>Betrag und Monatslimit können nicht unter null liegen.</source>
+        <translation>Amount and monthly limit cannot be below zero.</translation>
+    </message>
+    <message>
+        <source>--amount ist der Betrag je Intervall und braucht ein wiederkehrendes --interval; ein Monatslimit setzt --limit.</source>
+        <translation>--amount is the amount per interval and needs a recurring --interval; --limit sets a monthly limit.</translation>
+    </message>
+    <message>
+        <source>Beim Intervall &apos;{0}&apos; bitte --amount angeben, den Betrag je Intervall: Das Monatslimit ergibt sich daraus.</source>
+        <translation>With the interval &apos;{0}&apos; please give --amount, the amount per interval: the monthly limit follows from it.</translation>
+    </message>
+    <message>
+        <source>Betrag, den sie je Intervall vorschlägt; auf den Monat umgerechnet ihr Limit</source>
+        <translation>Amount that it proposes per interval; converted to a month, its limit</translation>
+    </message>
+    <message>
+        <source>Monatslimit, wenn das Intervall nicht wiederkehrt</source>
+        <translation>Monthly limit, where the interval does not recur</translation>
+    </message>
+    <message>
+        <source>Mehrwertsteuer, die in den Beträgen steckt</source>
+        <translation>VAT that the amounts include</translation>
+    </message>
+    <message>
+        <source>ändert, was eine Kategorie vorschlägt; &quot;ohne&quot; entfernt Betrag, Limit oder Steuer</source>
+        <translation>changes what a category proposes; &quot;ohne&quot; removes amount, limit or tax</translation>
+    </message>
+    <message>
+        <source>Eintrag {0}, &apos;{1}&apos;: {2}</source>
+        <translation>Entry {0}, &apos;{1}&apos;: {2}</translation>
+    </message>
+    <message>
+        <source>&quot;change {0} {1}&quot; berichtigt ihn, &quot;delete {0} --yes&quot; löscht ihn.</source>
+        <translation>&quot;change {0} {1}&quot; mends it, &quot;delete {0} --yes&quot; deletes it.</translation>
+    </message>
+    <message>
+        <source>{0}: gültige Datenbank, {1}, {2}</source>
+        <translation>{0}: valid database, {1}, {2}</translation>
+    </message>
+    <message>
+        <source>prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und sagt, was beim Öffnen ergänzt wurde</source>
+        <translation>checks the database, looks for entries that cannot be seen or do not count, and says what was added on opening</translation>
+    </message>
+    <message>
+        <source>Mit --only und --from nennen Sie bitte nur eine Serie.</source>
+        <translation>With --only and --from please name one series only.</translation>
+    </message>
+    <message>
+        <source>sagt, was gelöscht würde, und löscht es mit --yes; von einer Serie alles mit ihren Korrekturen, ein Vorkommen oder alles ab einem Tag</source>
+        <translation>says what would be deleted, and deletes it with --yes; of a series everything with its corrections, one occurrence or everything from a day on</translation>
+    </message>
+    <message>
+        <source>nur das Vorkommen an diesem Tag: sein Betrag wird null</source>
+        <translation>only the occurrence on this day: its amount becomes zero</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; geschrieben.</source>
+        <translation>&apos;{0}&apos; written.</translation>
+    </message>
+    <message>
+        <source>Startguthaben {0}</source>
+        <translation>Start balance {0}</translation>
+    </message>
+    <message>
+        <source>Einnahmen {0}, Ausgaben {1}, Saldo {2}</source>
+        <translation>Income {0}, expenses {1}, balance {2}</translation>
+    </message>
+    <message>
+        <source>Die Datenbank hat {0} nicht angenommen. Sie können die Datei später noch einmal einlesen; was schon übernommen ist, wird dabei erkannt.</source>
+        <translation>The database did not accept {0}. You can import the file again later; what is already there will be recognised.</translation>
+    </message>
+    <message>
+        <source>ERROR: GetFaultyEntries
+{0}</source>
+        <translation>ERROR: GetFaultyEntries
+{0}</translation>
+    </message>
+    <message>
+        <source>1 Buchung ging mit.</source>
+        <translation>1 entry went along.</translation>
+    </message>
+    <message>
+        <source>{0} Buchungen gingen mit.</source>
+        <translation>{0} entries went along.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; geändert</source>
+        <translation>&apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; heißt jetzt &apos;{1}&apos;</source>
+        <translation>&apos;{0}&apos; is now called &apos;{1}&apos;</translation>
+    </message>
+    <message>
+        <source>{0}, denn Namen dürfen die Zeichen &amp; &apos; &lt; &gt; &quot; ; nicht enthalten.{1}</source>
+        <translation>{0}, because names cannot have the characters &amp; &apos; &lt; &gt; &quot; ;.{1}</translation>
+    </message>
+    <message>
+        <source>Was nicht stimmt</source>
+        <translation>What is wrong</translation>
+    </message>
+    <message>
+        <source>kein Tag</source>
+        <translation>no day</translation>
+    </message>
+    <message>
+        <source>Tag &apos;{0}&apos; nicht lesbar</source>
+        <translation>day &apos;{0}&apos; unreadable</translation>
+    </message>
+    <message>
+        <source>kein Intervall</source>
+        <translation>no interval</translation>
+    </message>
+    <message>
+        <source>Intervall &apos;{0}&apos; unbekannt</source>
+        <translation>interval &apos;{0}&apos; unknown</translation>
+    </message>
+    <message>
+        <source>endet am {0}, vor dem ersten Tag</source>
+        <translation>ends on {0}, before its first day</translation>
+    </message>
+    <message>
+        <source>kein Betrag</source>
+        <translation>no amount</translation>
+    </message>
+    <message>
+        <source>Betrag &apos;{0}&apos; nicht lesbar</source>
+        <translation>amount &apos;{0}&apos; unreadable</translation>
+    </message>
+    <message>
+        <source>Die Datei ist unvollständig. Bitte spielen Sie eine Datensicherung zurück. Es fehlt: {0}</source>
+        <translation>The file is incomplete. Please restore a backup. Missing: {0}</translation>
+    </message>
+    <message>
+        <source>Alle Einträge sind zu sehen und zählen mit.</source>
+        <translation>All entries can be seen and count.</translation>
+    </message>
+    <message>
+        <source>1 Eintrag ist nicht überall zu sehen oder zählt nicht mit:</source>
+        <translation>1 entry cannot be seen everywhere or does not count:</translation>
+    </message>
+    <message>
+        <source>{0} Einträge sind nicht überall zu sehen oder zählen nicht mit:</source>
+        <translation>{0} entries cannot be seen everywhere or do not count:</translation>
+    </message>
+    <message>
+        <source>1 Serie</source>
+        <translation>1 series</translation>
+    </message>
+    <message>
+        <source>{0} Serien</source>
+        <translation>{0} series</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ab {1} gelöscht</source>
+        <translation>Deleted &apos;{0}&apos; from {1} on</translation>
+    </message>
+    <message>
+        <source>Möchten Sie &apos;{0}&apos; vom {1} auslassen?
+Der Betrag wird null, die Serie läuft weiter.</source>
+        <translation>Do you want to skip &apos;{0}&apos; of {1}?
+The amount becomes zero, the series goes on.</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die Serie &apos;{0}&apos; ab dem {1} löschen?
+Die Vorkommen davor bleiben.</source>
+        <translation>Do you want to delete the series &apos;{0}&apos; from {1} on?
+The occurrences before that stay.</translation>
+    </message>
+    <message>
+        <source>(kein Tag)</source>
+        <translation>(no day)</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; vom {1} gehört zu einer Serie ({2} seit {3}).</source>
+        <translation>&apos;{0}&apos; of {1} belongs to a series ({2} since {3}).</translation>
+    </message>
+    <message>
+        <source>Ausgewählt sind {0} Vorkommen von {1}:</source>
+        <translation>Selected: {0} occurrences of {1}:</translation>
+    </message>
+    <message>
+        <source>Außerdem werden gelöscht: {0}</source>
+        <translation>Deleted as well: {0}</translation>
+    </message>
+    <message>
+        <source>Was möchten Sie löschen?</source>
+        <translation>What do you want to delete?</translation>
+    </message>
+    <message>
+        <source>{0}: Der Betrag wird null, alles andere bleibt.</source>
+        <translation>{0}: The amount becomes zero, everything else stays.</translation>
+    </message>
+    <message>
+        <source>{0}: Was davor liegt, bleibt.</source>
+        <translation>{0}: What lies before it stays.</translation>
+    </message>
+    <message>
+        <source>{0}: Auch alles Vergangene verschwindet, mit allen Korrekturen.</source>
+        <translation>{0}: Everything past goes as well, with all corrections.</translation>
+    </message>
+    <message>
+        <source>Nur dieses Mal</source>
+        <translation>Only this time</translation>
+    </message>
+    <message>
+        <source>Nur diese Male</source>
+        <translation>Only these times</translation>
+    </message>
+    <message>
+        <source>Ganze Serien</source>
+        <translation>Whole series</translation>
+    </message>
+    <message>
+        <source>darin {0} % MwSt.: {1}</source>
+        <translation>includes {0} % VAT: {1}</translation>
+    </message>
+    <message>
+        <source>{0}, beendet: zuletzt am {1}</source>
+        <translation>{0}, ended: last on {1}</translation>
+    </message>
+    <message>
+        <source>Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin.</source>
+        <translation>The series ends before its first day: it has no dates.</translation>
+    </message>
+    <message>
+        <source>Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt.</source>
+        <translation>To account: Please choose the account that receives the money.</translation>
+    </message>
+    <message>
+        <source>Nach Konto: Von &apos;{0}&apos; kann das Geld nur auf ein anderes Konto gehen.</source>
+        <translation>To account: Money from &apos;{0}&apos; can only go to another account.</translation>
+    </message>
+    <message>
+        <source>Endet am: Der letzte Tag ({0}) liegt vor dem ersten ({1}).</source>
+        <translation>Ends on: The last day ({0}) is before the first one ({1}).</translation>
+    </message>
+    <message>
+        <source>Er wurde inzwischen gelöscht.</source>
+        <translation>It has been deleted meanwhile.</translation>
+    </message>
+    <message>
+        <source>Die Kategorie &apos;{0}&apos; gibt es noch nicht.
+Soll sie angelegt werden?</source>
+        <translation>There is no category &apos;{0}&apos; yet.
+Shall it be created?</translation>
+    </message>
+    <message>
+        <source>{0}, Teil</source>
+        <translation>{0}, part</translation>
+    </message>
+    <message>
+        <source>Teil eines aufgeteilten Eintrags; zum Bearbeiten öffnen sich alle Teile.</source>
+        <translation>Part of a split entry; all parts open for editing.</translation>
+    </message>
+    <message>
+        <source>Haushaltsbuch</source>
+        <translation>Household book</translation>
+    </message>
+    <message>
+        <source>Sollen Zeitraum, Konto, Filter, Gruppierung, Spalten und Fenstergröße auf den Anfang zurückgestellt werden?
+Ihre Einträge bleiben, wie sie sind.</source>
+        <translation>Shall period, account, filter, grouping, columns and window size be set back to the beginning?
+Your entries stay as they are.</translation>
+    </message>
+    <message>
+        <source>Einstellungen zurücksetzen</source>
+        <translation>Reset settings</translation>
+    </message>
+    <message>
+        <source>Prü&amp;fen…</source>
+        <translation>Chec&amp;k…</translation>
+    </message>
+    <message>
+        <source>Sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und prüft die Datei.</source>
+        <translation>Looks for entries that cannot be seen or do not count, and checks the file.</translation>
+    </message>
+    <message>
+        <source>passt auf {0} von {1} Umsatz</source>
+        <translation>matches {0} of {1} transaction</translation>
+    </message>
+    <message>
+        <source>Kein Umsatz passt zum Filter. Ältere sind ausgeblendet ({0}); ohne den Haken bei „Ältere ausblenden“ sehen Sie auch diese.</source>
+        <translation>No transaction matches the filter. Older ones are hidden ({0}); without the tick at “Hide older ones” you see them as well.</translation>
+    </message>
+    <message>
+        <source>Davor gibt es eine weitere Abweichung.</source>
+        <translation>There is one more difference before that.</translation>
+    </message>
+    <message>
+        <source>einer davon zu einem vorhandenen Eintrag</source>
+        <translation>one of them to an existing entry</translation>
+    </message>
+    <message>
+        <source>Von den markierten Umsätzen gehört wahrscheinlich einer zu einem Eintrag, den es schon gibt:
+{1}
+Soll er offen bleiben? Bei Nein wird auch daraus ein neuer Eintrag.</source>
+        <translation>One of the marked transactions probably belongs to an entry that already exists:
+{1}
+Shall it stay open? With No it becomes a new entry as well.</translation>
+    </message>
+    <message>
+        <source>Zu einem der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
+{1}
+Soll er offen bleiben? Bei Nein wird auch er gebucht.</source>
+        <translation>For one of the transactions there is another one that may be the same, for instance from a file in another format:
+{1}
+Shall it stay open? With No it is booked as well.</translation>
+    </message>
+    <message>
+        <source>Betra&amp;g:</source>
+        <translation>A&amp;mount:</translation>
+    </message>
+    <message>
+        <source>Wird vorgeschlagen</source>
+        <translation>Is proposed</translation>
+    </message>
+    <message>
+        <source>Wird vorgeschlagen; Monatslimit {0}</source>
+        <translation>Is proposed; monthly limit {0}</translation>
+    </message>
+    <message>
+        <source>Die Hauptkategorie &apos;{0}&apos; mit einer Unterkategorie</source>
+        <translation>The main category &apos;{0}&apos; with one sub-category</translation>
+    </message>
+    <message>
+        <source>Alles aus &apos;{0}&apos; kommt nach &apos;{1}&apos;: {2} und {3}. Gleichnamige Unterkategorien werden zusammengeführt.
+Möchten Sie fortfahren?</source>
+        <translation>Everything in &apos;{0}&apos; goes to &apos;{1}&apos;: {2} and {3}. Sub-categories of the same name are merged.
+Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Steuersatz. Bitte geben Sie Prozente ein, zum Beispiel 19 oder 7.</source>
+        <translation>&apos;{0}&apos; is no tax rate. Please type a percentage, for example 19 or 7.</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie den Tag des Startguthabens an, zum Beispiel 31.01.2026.</source>
+        <translation>Please enter the day of the opening balance, for example 31.01.2026.</translation>
+    </message>
+    <message>
+        <source>Eintrag &amp;bearbeiten…</source>
+        <translation>&amp;Edit entry…</translation>
+    </message>
+    <message>
+        <source>Eintrag &amp;löschen…</source>
+        <translation>&amp;Delete entry…</translation>
+    </message>
+    <message>
+        <source>Buch prüfen</source>
+        <translation>Check book</translation>
+    </message>
+    <message>
+        <source>Startguthaben:</source>
+        <translation>Start balance:</translation>
+    </message>
+    <message>
+        <source>Andere Tage wählen Sie mit dem Zeitraum &quot;Freier Zeitraum&quot;.</source>
+        <translation>Other days are chosen with the period &quot;Custom period&quot;.</translation>
+    </message>
+    <message>
+        <source>Übernimmt die markierten Umsätze (Eingabetaste)</source>
+        <translation>Takes the selected transactions (Enter)</translation>
+    </message>
+    <message>
+        <source>Der Eintrag zeigt damit, wie viel Mehrwertsteuer in seinem Betrag steckt.</source>
+        <translation>The entry then shows how much VAT its amount includes.</translation>
+    </message>
+    <message>
+        <source>MwSt. in &amp;Prozent:</source>
+        <translation>VAT in &amp;percent:</translation>
+    </message>
+    <message>
+        <source>Kontoli&amp;mit:</source>
+        <translation>Account li&amp;mit:</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; neu anlegen…</source>
+        <translation>Create &apos;{0}&apos;…</translation>
+    </message>
+    <message>
+        <source>bis:</source>
+        <translation>to:</translation>
     </message>
 </context>
 </TS>
