@@ -115,8 +115,7 @@ QString cAccountPanel::CurrentAccount() const
 void cAccountPanel::FitColumns()
 {
     QHeaderView& header = *m_view->header();
-    const int others =
-        header.sectionSize(cAccountListModel::Balance) + header.sectionSizeHint(cAccountListModel::Open);
+    const int others = header.sectionSize(cAccountListModel::Balance) + header.sectionSizeHint(cAccountListModel::Open);
     const int least = fontMetrics().averageCharWidth() * leastNameLetters;
     header.setSectionHidden(cAccountListModel::Open, m_view->viewport()->width() - others < least);
     for (int row = 0; row < m_model.rowCount(); ++row) {
@@ -150,6 +149,8 @@ void cAccountPanel::OpenMenu(const QPoint& position)
     QMenu menu(this);
     QAction* only = menu.addAction(cText::Tr("&Nur dieses Konto zeigen"));
     QAction* all = menu.addAction(cText::Tr("&Alle Konten zeigen"));
+    only->setShortcut(Qt::Key_Return); // shown here; the list itself listens to them
+    all->setShortcut(Qt::Key_Escape);
     menu.addSeparator();
     QAction* rename = menu.addAction(cText::Tr("Konto &umbenennen…"));
     only->setEnabled(!account.isEmpty());

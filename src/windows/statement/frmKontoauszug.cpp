@@ -44,7 +44,7 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
       m_entry(new QPushButton(cText::Tr("Ein&trag öffnen"), this)),
       m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
       m_print(new QPushButton(cText::Tr("&Drucken…"), this)),
-      m_preview(new QPushButton(cText::Tr("Seitenansi&cht…"), this)),
+      m_preview(new QPushButton(cText::Tr("Seitenansi&cht"), this)),
       m_export(new QPushButton(cText::Tr("E&xportieren…"), this))
 {
     setWindowTitle(cText::Tr("Kontoauszug"));
