@@ -42,11 +42,13 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <functional>
 
@@ -285,14 +287,22 @@ void testEveryWindow::FaultsAreFound()
     auto* nameless = new QLineEdit;
     auto* label = new QLabel(u"Ein Text, der nicht hineinpasst"_s);
     label->setFixedWidth(20);
-    for (QWidget* widget : {static_cast<QWidget*>(first), static_cast<QWidget*>(second),
-                            static_cast<QWidget*>(nameless), static_cast<QWidget*>(label)}) {
+    auto* day = new QTreeWidget;
+    day->setAccessibleName(u"Tage"_s);
+    day->setHeaderLabels({u"Tag"_s, u"Bis"_s});
+    day->addTopLevelItem(new QTreeWidgetItem({u"01.01.2026"_s, u"31.01.2026"_s}));
+    day->setColumnWidth(0, 30);
+    for (QWidget* widget : QWidgetList{first, second, nameless, label, day, new QCheckBox(u"b&is"_s)}) {
         layout->addWidget(widget);
     }
     window.show();
     QCOMPARE(windowFaults::DoubleMnemonics(window).size(), 1);
     QCOMPARE(windowFaults::Nameless(window).size(), 1);
     QCOMPARE(windowFaults::Clipped(window).size(), 1);
+    QCOMPARE(windowFaults::MisreadMnemonics(window).size(), 1);
+    QCOMPARE(windowFaults::CutValues(window).size(), 1);
+    window.setMinimumWidth(smallScreen.width() + 1);
+    QCOMPARE(windowFaults::TooLarge(window, smallScreen).size(), 1);
 }
 
 QTEST_MAIN(testEveryWindow)

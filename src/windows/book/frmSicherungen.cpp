@@ -57,7 +57,7 @@ void frmSicherungen::BuildFields(QFormLayout& form)
     form.addRow(cText::Tr("&Letzte Sicherungen:"), m_count);
 
     m_folder->setText(fields.Folder);
-    auto* choose = new QPushButton(cText::Tr("&Wählen …"), this);
+    auto* choose = new QPushButton(cText::Tr("&Wählen…"), this);
     choose->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->addWidget(m_folder, 1);

@@ -43,6 +43,7 @@ QLayout* cChartBox::BuildBar()
     m_back->setFlat(true);
     m_back->setAutoDefault(false);
     m_back->setIcon(modIcon::Get(u"zurueck"_s));
+    m_back->setToolTip(cText::Tr("Rücktaste"));
     m_back->setVisible(false);
     m_switch = AddButton(cText::Tr("Tabelle"), cText::Tr("Zeigt dieselben Zahlen als Tabelle"));
     m_switch->setCheckable(true);

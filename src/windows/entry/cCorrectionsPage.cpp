@@ -76,6 +76,8 @@ void cCorrectionsPage::Build()
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
+    m_change->setToolTip(cText::Tr("Ändert die gewählte Korrektur (Eingabetaste)"));
+    m_remove->setToolTip(cText::Tr("Entfernt die gewählte Korrektur (Entf)"));
     auto* row = new QHBoxLayout;
     for (QPushButton* button : {m_add, m_change, m_remove}) {
         button->setAutoDefault(false);

@@ -146,6 +146,8 @@ void cAccountPanel::OpenMenu(const QPoint& position)
     QMenu menu(this);
     QAction* only = menu.addAction(cText::Tr("&Nur dieses Konto zeigen"));
     QAction* all = menu.addAction(cText::Tr("&Alle Konten zeigen"));
+    only->setShortcut(Qt::Key_Return); // shown here; the list itself listens to them
+    all->setShortcut(Qt::Key_Escape);
     menu.addSeparator();
     QAction* rename = menu.addAction(cText::Tr("Konto &umbenennen…"));
     only->setEnabled(!account.isEmpty());

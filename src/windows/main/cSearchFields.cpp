@@ -24,7 +24,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int leastLetters = 20; // in sight of a name that is chosen
+constexpr int leastLetters = 12; // in sight of a name that is chosen
 
 constexpr std::array<std::pair<cSearchModel::eAmountRule, const char*>, 4> amountRules{{
     {cSearchModel::eAmountRule::Exactly, QT_TRANSLATE_NOOP("cText", "genau")},

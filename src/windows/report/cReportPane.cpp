@@ -50,7 +50,7 @@ void cReportPane::BuildBar()
     });
     layout->addWidget(m_count);
     layout->addStretch();
-    connect(AddButton(u"✕"_s, cText::Tr("Suche schließen")), &QToolButton::clicked, this, &cReportPane::HideFind);
+    connect(AddButton(u"✕"_s, cText::Tr("Suche schließen (Esc)")), &QToolButton::clicked, this, &cReportPane::HideFind);
     connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_view->SetFindText(text);
         ShowCount();

@@ -76,6 +76,7 @@ void cImportPreview::Build()
     m_read->horizontalHeaderItem(amountColumn)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int shownLines = 5; // at least; more of them with a taller window
     for (QTableWidget* table : {m_cells, m_read}) {
+        table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
         table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * shownLines);
     }
     auto* layout = new QVBoxLayout(this);

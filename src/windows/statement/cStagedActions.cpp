@@ -52,7 +52,7 @@ constexpr std::array<cLine, cStagedActions::Count> lines{{
      QT_TRANSLATE_NOOP("cText", "Löscht die markierten Umsätze (Entf); gebuchte Einträge bleiben")},
     {QT_TRANSLATE_NOOP("cText", "R&egel aus Umsatz…"), u"", 0, &cCan::Rule,
      QT_TRANSLATE_NOOP("cText", "Legt eine eigene Regel an, die Umsätze wie diesen erkennt")},
-    {QT_TRANSLATE_NOOP("cText", "Nur Umsätze dieses &Imports…"), u"", 0, &cCan::Import,
+    {QT_TRANSLATE_NOOP("cText", "Nur Umsätze dieses &Imports"), u"", 0, &cCan::Import,
      QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze, die mit dem markierten eingelesen wurden, in einem Fenster")},
 }};
 

@@ -29,8 +29,8 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
       m_import(new QPushButton(modIcon::Get(u"import"_s), cText::Tr("Datei i&mportieren…"), this)),
       m_assistant(new QAction(cText::Tr("Import&assistent…"), this)),
       m_again(new QAction(cText::Tr("&Noch einmal mit dem Assistenten…"), this)),
-      m_statement(new QAction(cText::Tr("&Kontoauszug anzeigen…"), this)),
-      m_reviewImport(new QPushButton(cText::Tr("Diesen &Import durchsehen…"), this)),
+      m_statement(new QAction(cText::Tr("&Kontoauszug anzeigen"), this)),
+      m_reviewImport(new QPushButton(cText::Tr("Diesen &Import durchsehen"), this)),
       m_panel(new cStagedPanel(review, this)),
       m_summary(new cSummaryText(this))
 {

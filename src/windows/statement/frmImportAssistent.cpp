@@ -153,7 +153,7 @@ void frmImportAssistent::BuildAccount(cFieldGrid& grid)
     m_account->setEditable(true);
     m_account->setInsertPolicy(QComboBox::NoInsert);
     m_account->addItems(m_assistant.Accounts());
-    m_account->setMinimumContentsLength(24);
+    m_account->setMinimumContentsLength(15);
     m_account->view()->setItemDelegate(new cAccountDelegate(m_assistant, m_account));
     m_account->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_accountLabel->setBuddy(m_account);
@@ -174,7 +174,7 @@ void frmImportAssistent::AddField(cFieldGrid& grid, cImportAssistant::eField fie
 {
     auto* box = new QComboBox(this);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(24);
+    box->setMinimumContentsLength(15);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_fields.append({field, new QLabel(label, this), box});
     m_fields.constLast().Label->setBuddy(box);

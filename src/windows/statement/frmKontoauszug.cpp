@@ -8,6 +8,7 @@
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/cFlowLayout.h"
+#include "windows/widget/cSummaryText.h"
 #include "windows/widget/modChoice.h"
 #include "windows/widget/modDayRange.h"
 #include "windows/widget/modPlace.h"
@@ -17,7 +18,6 @@
 #include <QBoxLayout>
 #include <QClipboard>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -38,13 +38,13 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
       m_end(new cDayEdit(statement.Today(), this)),
       m_filter(new QLineEdit(this)),
       m_mark(new QFrame(this)),
-      m_finding(new QLabel(this)),
+      m_finding(new cSummaryText(this)),
       m_tree(new cStatementTree(statement, this)),
       m_sums(new cSumBar(this)),
       m_entry(new QPushButton(cText::Tr("Ein&trag öffnen"), this)),
       m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
       m_print(new QPushButton(cText::Tr("&Drucken…"), this)),
-      m_preview(new QPushButton(cText::Tr("Seitenansi&cht…"), this)),
+      m_preview(new QPushButton(cText::Tr("Seitenansi&cht"), this)),
       m_export(new QPushButton(cText::Tr("E&xportieren…"), this))
 {
     setWindowTitle(cText::Tr("Kontoauszug"));
@@ -97,9 +97,8 @@ QHBoxLayout* frmKontoauszug::BuildFinding()
 {
     m_mark->setAutoFillBackground(true);
     m_mark->setMinimumWidth(fontMetrics().averageCharWidth() / 2);
-    m_finding->setTextFormat(Qt::PlainText);
-    m_finding->setWordWrap(true);
-    m_finding->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_finding->setFrameShape(QFrame::NoFrame);
+    m_finding->viewport()->setAutoFillBackground(false);
     m_finding->setAccessibleName(cText::Tr("Vergleich der Salden"));
     auto* row = new QHBoxLayout;
     row->addWidget(m_mark);
@@ -200,10 +199,8 @@ void frmKontoauszug::ShowFinding()
                         ? modTone::Expense(palette())
                         : (finding == eFinding::Good ? modTone::Income(palette()) : modTone::Quiet(palette())));
     m_mark->setPalette(colors);
-    const QString text = m_statement.Findings().join(u'\n');
-    m_finding->setText(text);
-    m_finding->setVisible(!text.isEmpty());
-    m_mark->setVisible(!text.isEmpty());
+    m_finding->ShowLines(m_statement.Findings());
+    m_mark->setVisible(m_finding->isVisibleTo(this));
 }
 
 void frmKontoauszug::ShowButtons()

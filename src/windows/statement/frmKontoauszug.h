@@ -8,10 +8,10 @@
 class cStatementListModel;
 class cDayEdit;
 class cSumBar;
+class cSummaryText;
 class QComboBox;
 class QFrame;
 class QHBoxLayout;
-class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
@@ -55,7 +55,7 @@ private:
     cDayEdit* m_end;
     QLineEdit* m_filter;
     QFrame* m_mark; // beside the findings, in their colour
-    QLabel* m_finding;
+    cSummaryText* m_finding;
     QTreeView* m_tree;
     cSumBar* m_sums;
     QPushButton* m_entry;

@@ -182,6 +182,7 @@ void frmRegeln::BuildForm(QLayout& layout)
     m_examples->setSelectionMode(QAbstractItemView::NoSelection);
     m_examples->setItemDelegate(new cRowDelegate(this));
     m_examples->setMinimumHeight(cRowDelegate::RowHeight(fontMetrics()) * shownExamples + 2 * m_examples->frameWidth());
+    m_examples->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is left, at least those lines
     layout.addWidget(m_examples);
 }
 

@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QHeaderView>
-#include <QShortcut>
 
 namespace {
 
@@ -48,6 +47,9 @@ void cReportTree::AddActions()
     setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* show = new QAction(cText::Tr("&Einträge zeigen"), this);
     auto* edit = new QAction(cText::Tr("&Kategorie bearbeiten"), this);
+    show->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    show->setShortcutContext(Qt::WidgetShortcut);
+    show->setShortcutVisibleInContextMenu(true);
     addActions({show, edit});
     connect(show, &QAction::triggered, this, [this] { Request(currentIndex()); });
     connect(edit, &QAction::triggered, this, [this] {
@@ -55,10 +57,6 @@ void cReportTree::AddActions()
             Q_EMIT EditRequested(m_model.NodeAt(currentIndex()));
         }
     });
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-        connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
-                [this] { Request(currentIndex()); });
-    }
 }
 
 void cReportTree::Request(const QModelIndex& index)

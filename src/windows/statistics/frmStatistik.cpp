@@ -15,6 +15,7 @@
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cPeriodPicker.h"
+#include "windows/widget/cTurningSplitter.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -29,6 +30,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr int besideLetters = 110; // two charts stand side by side from this width on
 
 void Choose(QComboBox& combo, const QVariant& data)
 {
@@ -118,10 +121,11 @@ QWidget* frmStatistik::BuildReportPage()
     auto* split = new QSplitter(this);
     split->addWidget(m_tree);
     split->addWidget(m_report);
-    split->setStretchFactor(1, 1);
     split->setChildrenCollapsible(false);
-    split->setStretchFactor(0, 2); // the report needs more of a narrow page than the tree of its figures
-    split->setStretchFactor(1, 3);
+    split->setStretchFactor(0, 1); // the report needs more of a narrow page than the tree of its figures
+    split->setStretchFactor(1, 2);
+    const int character = fontMetrics().averageCharWidth();
+    split->setSizes({character * 40, character * 80});
     m_hint->setWordWrap(true);
     m_hint->setContentsMargins(8, 4, 8, 6);
     auto* page = new QWidget(this);
@@ -135,11 +139,10 @@ QWidget* frmStatistik::BuildReportPage()
 
 QWidget* frmStatistik::BuildChartPage()
 {
-    auto* split = new QSplitter(this);
+    auto* split = new cTurningSplitter(besideLetters, this);
     AddChart(m_model.FirstChart(), cText::Tr("Erstes Diagramm"), *split);
     AddChart(m_model.SecondChart(), cText::Tr("Zweites Diagramm"), *split);
-    split->setChildrenCollapsible(false);
-    auto* page = new QScrollArea(this); // two charts side by side must not make the window wider than a small screen
+    auto* page = new QScrollArea(this); // two charts must not make the window higher than a small screen
     page->setFrameShape(QFrame::NoFrame);
     page->setWidgetResizable(true);
     page->setFocusPolicy(Qt::NoFocus);

@@ -171,6 +171,7 @@ void cTemplatePanel::BuildButtons()
     }
     buttons->addStretch();
     m_form->addRow(QString(), buttons);
+    m_discard->setToolTip(cText::Tr("Stellt die Zeile wieder her, wie sie gespeichert ist (Esc)"));
     m_save->setToolTip(cText::Tr("Änderungen werden auch beim Verlassen der Zeile gespeichert"));
 }
 

@@ -10,12 +10,13 @@
 
 namespace {
 
-constexpr int width = 16;     // of a column, in average characters
+constexpr int width = 16; // of a column, in average characters
+constexpr int leastName = 16;
 constexpr int nameWidth = 30; // at least, where there is room; the names take what is left
 
 std::vector<cColumnFit::cColumn> ColumnsOf(const cTemplateTreeModel& model)
 {
-    std::vector<cColumnFit::cColumn> columns{{nameWidth}};
+    std::vector<cColumnFit::cColumn> columns{{nameWidth, cColumnFit::eKind::Text, leastName}};
     for (int column = 1; column < model.columnCount(); ++column) {
         const int alignment = model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
         const bool isAmount = (alignment & Qt::AlignRight) != 0;

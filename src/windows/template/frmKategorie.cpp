@@ -6,6 +6,7 @@
 #include "windows/widget/cActionButton.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cFormScroll.h"
+#include "windows/widget/cTurningSplitter.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 
@@ -14,7 +15,6 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QSplitter>
 #include <QTabWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,7 +24,8 @@ namespace {
 constexpr int windowWidth = 190; // in average characters
 constexpr int treeWidth = 110;
 constexpr int panelWidth = 80;
-constexpr int windowHeight = 40; // in lines
+constexpr int besideLetters = 110; // below that the fields stand under the tree
+constexpr int windowHeight = 40;   // in lines
 
 } // namespace
 
@@ -97,12 +98,12 @@ void frmKategorie::BuildLayout()
     m_tabs->addTab(m_accounts, cText::Tr("Kon&ten"));
     m_tabs->setDocumentMode(true);
     const int character = fontMetrics().averageCharWidth();
-    auto* splitter = new QSplitter(this);
+    auto* splitter = new cTurningSplitter(besideLetters, this);
     splitter->addWidget(m_tabs);
     splitter->addWidget(new cFormScroll(m_panel, this));
-    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(0, treeWidth);
+    splitter->setStretchFactor(1, panelWidth);
     splitter->setSizes({character * treeWidth, character * panelWidth});
-    splitter->setChildrenCollapsible(false);
     auto* buttons = new QDialogButtonBox(this);
     QPushButton* close = buttons->addButton(cText::Tr("S&chließen"), QDialogButtonBox::RejectRole);
     close->setAutoDefault(false);

@@ -14,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int leastLetters = 4;   // of a text
 constexpr int enoughLetters = 11; // for a word such as a kind or an interval
 
 } // namespace
@@ -73,11 +72,11 @@ QString cColumnFit::WidestAmount(int column) const
 // What a day or an amount needs with its margins; the title of such a column is read whole as well.
 int cColumnFit::Least(int column) const
 {
-    const eKind kind = m_columns.at(static_cast<std::size_t>(column)).Kind;
-    if (kind == eKind::Text) {
-        return leastLetters * Letter();
+    const cColumn& wish = m_columns.at(static_cast<std::size_t>(column));
+    if (wish.Kind == eKind::Text) {
+        return wish.LeastLetters * Letter();
     }
-    const QString text = kind == eKind::Day ? u"00.00.0000"_s : WidestAmount(column);
+    const QString text = wish.Kind == eKind::Day ? u"00.00.0000"_s : WidestAmount(column);
     const int margin = m_view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &m_view) + 1;
     const int titleMargin = m_view.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, m_view.header()) + 1;
     const QString title = m_view.model()->headerData(column, Qt::Horizontal).toString();

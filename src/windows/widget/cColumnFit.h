@@ -24,6 +24,7 @@ public:
     {
         int Letters = 0; // width by default, in average letters of the font
         eKind Kind = eKind::Text;
+        int LeastLetters = 4; // of a text; days and amounts keep what they need
     };
 
     cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest);

@@ -101,7 +101,7 @@ std::vector<cFieldGrid::cRow> cFieldGrid::Rows(const cPairs& pairs, int width) c
         }
     }
     std::vector<cRow> ragged = m_mostColumns > 1 ? RaggedRows(pairs, width) : std::vector<cRow>();
-    const bool savesLines = !ragged.empty() && ragged.size() < pairs.size();
+    const bool savesLines = !ragged.empty() && 3 * ragged.size() <= 2 * pairs.size(); // else it is not worth it
     return savesLines ? ragged : AlignedRows(pairs, Columns(pairs, 1));
 }
 
