@@ -3388,10 +3388,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>&amp;Delete entry</translation>
     </message>
     <message>
-        <source>Betrag für diesen Zeitraum &amp;korrigieren</source>
-        <translation>&amp;Correct amount for this period</translation>
-    </message>
-    <message>
         <source>Nur dieses M&amp;al auslassen</source>
         <translation>S&amp;kip this time only</translation>
     </message>
@@ -3442,10 +3438,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>&amp;Passwortschutz</source>
         <translation>&amp;Password protection</translation>
-    </message>
-    <message>
-        <source>&amp;Automatische Datensicherung</source>
-        <translation>&amp;Automatic backup</translation>
     </message>
     <message>
         <source>Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.</source>
@@ -3774,10 +3766,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>&amp;Letzte Sicherungen:</source>
         <translation>&amp;Latest backups:</translation>
-    </message>
-    <message>
-        <source>&amp;Wählen …</source>
-        <translation>&amp;Choose…</translation>
     </message>
     <message>
         <source>&amp;Ordner:</source>
@@ -5098,16 +5086,8 @@ Suggestion: {2}</translation>
         <translation>State (pending, booked)</translation>
     </message>
     <message>
-        <source>&amp;Regeln…</source>
-        <translation>R&amp;ules…</translation>
-    </message>
-    <message>
         <source>Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.</source>
         <translation>Manages your own rules for the categories of transactions.</translation>
-    </message>
-    <message>
-        <source>Kontoaus&amp;zug anzeigen…</source>
-        <translation>Show &amp;statement…</translation>
     </message>
     <message>
         <source>Zeigt die Umsätze eines Bankkontos mit ihrem Saldo.</source>
@@ -5562,10 +5542,6 @@ Suggestion: {2}</translation>
         <translation>Creates a rule of your own that recognises transactions like this one</translation>
     </message>
     <message>
-        <source>Nur Umsätze dieses &amp;Imports…</source>
-        <translation>This &amp;import only…</translation>
-    </message>
-    <message>
         <source>Zeigt die Umsätze, die mit dem markierten eingelesen wurden, in einem Fenster</source>
         <translation>Shows the transactions that were imported together with the selected one in a window</translation>
     </message>
@@ -5608,10 +5584,6 @@ Suggestion: {2}</translation>
     <message>
         <source>&amp;Noch einmal mit dem Assistenten…</source>
         <translation>A&amp;gain with the assistant…</translation>
-    </message>
-    <message>
-        <source>&amp;Kontoauszug anzeigen…</source>
-        <translation>Show &amp;statement…</translation>
     </message>
     <message>
         <source>Zeigt vor dem Einlesen, wie eine Datei gelesen wird; Spalten und Konto lassen sich dort ändern</source>
@@ -5728,10 +5700,6 @@ Suggestion: {2}</translation>
     <message>
         <source>&amp;Drucken…</source>
         <translation>P&amp;rint…</translation>
-    </message>
-    <message>
-        <source>Seitenansi&amp;cht…</source>
-        <translation>Print pre&amp;view…</translation>
     </message>
     <message>
         <source>E&amp;xportieren…</source>
@@ -5932,10 +5900,6 @@ Suggestion: {2}</translation>
         <translation>Next match</translation>
     </message>
     <message>
-        <source>Suche schließen</source>
-        <translation>Close search</translation>
-    </message>
-    <message>
         <source>{0} von {1}</source>
         <translation>{0} of {1}</translation>
     </message>
@@ -6056,10 +6020,6 @@ Shall these stay open? With No, they are booked too.</translation>
     <message>
         <source>mit Einzelausgaben</source>
         <translation>with one-off expenses</translation>
-    </message>
-    <message>
-        <source>Diesen &amp;Import durchsehen…</source>
-        <translation>Review this &amp;import…</translation>
     </message>
     <message>
         <source>Dr&amp;ucken…</source>
@@ -6508,6 +6468,62 @@ Do you want to continue?</translation>
     <message>
         <source>bis:</source>
         <translation>to:</translation>
+    </message>
+    <message>
+        <source>Betrag für diesen Zeitraum &amp;korrigieren…</source>
+        <translation>&amp;Correct amount for this period…</translation>
+    </message>
+    <message>
+        <source>&amp;Regeln</source>
+        <translation>R&amp;ules</translation>
+    </message>
+    <message>
+        <source>Kontoaus&amp;zug anzeigen</source>
+        <translation>Show &amp;statement</translation>
+    </message>
+    <message>
+        <source>&amp;Automatische Datensicherung…</source>
+        <translation>&amp;Automatic backup…</translation>
+    </message>
+    <message>
+        <source>&amp;Wählen…</source>
+        <translation>&amp;Choose…</translation>
+    </message>
+    <message>
+        <source>Rücktaste</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Ändert die gewählte Korrektur (Eingabetaste)</source>
+        <translation>Changes the selected correction (Enter)</translation>
+    </message>
+    <message>
+        <source>Entfernt die gewählte Korrektur (Entf)</source>
+        <translation>Removes the selected correction (Del)</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Close search (Esc)</translation>
+    </message>
+    <message>
+        <source>Nur Umsätze dieses &amp;Imports</source>
+        <translation>This &amp;import only</translation>
+    </message>
+    <message>
+        <source>&amp;Kontoauszug anzeigen</source>
+        <translation>Show &amp;statement</translation>
+    </message>
+    <message>
+        <source>Diesen &amp;Import durchsehen</source>
+        <translation>Review this &amp;import</translation>
+    </message>
+    <message>
+        <source>Seitenansi&amp;cht</source>
+        <translation>Print pre&amp;view</translation>
+    </message>
+    <message>
+        <source>Stellt die Zeile wieder her, wie sie gespeichert ist (Esc)</source>
+        <translation>Restores the line as it is stored (Esc)</translation>
     </message>
 </context>
 </TS>

@@ -11,7 +11,7 @@
 class cTemplateScene
 {
 public:
-    cScene()
+    cTemplateScene()
     {
         for (int i = 0; i < 3; ++i) {
             Ids.append(Book.Add([](cEntryItem&) {}).ID);

@@ -367,7 +367,7 @@ cTemplateFields cTemplatePanel::Fields() const
     fields.Amount = isAccount ? m_start->text() : m_limit->text();
     fields.Limit = isAccount ? m_limit->text() : QString();
     fields.Vat = isAccount ? QString() : m_vat->text();
-    fields.Date = m_date->date();
+    fields.Date = m_date->Day();
     fields.Numbers = m_numbers->toPlainText();
     fields.Comment = m_comment->text();
     fields.IsVisible = m_visible->isChecked();
