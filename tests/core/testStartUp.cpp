@@ -92,7 +92,8 @@ private Q_SLOTS:
     void CommandLineLeavesTheChangeOfVersionToTheWindow() const
     {
         cMachine machine;
-        const QString path = machine.File.Make();
+        const QString path =
+            machine.File.Make("INSERT INTO data (EntryDate) VALUES ('2026-01-01');"); // no mere template
         cStartUp commandLine({machine.Shell, machine.User, machine.Rescue, machine.Clock}, machine.Configuration,
                              u"0.1.0"_s, eFrontEnd::CommandLine);
         QVERIFY(commandLine.OpenBook(machine.Book, path));
