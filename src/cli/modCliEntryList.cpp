@@ -1,42 +1,29 @@
 #include "cli/modCliEntryList.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliTable.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliRecord.h"
+#include "views/export/modCsv.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString CsvField(QString text)
-{
-    return u'"' + text.replace(u'"', u"\"\""_s) + u'"';
-}
-
-// Semicolons and decimal commas, as German table programs expect; the byte order mark tells them that this is UTF-8.
+// The form in which the export writes tables: for German table programs, texts never taken for formulas.
 QString ToCsv(const cEntryItemList& entries)
 {
-    QString text = u"\uFEFFID;EntryDate;EntryType;EntryInterval;EntryAccount;EntryAccountMove;EntryCategory;EntryValue;"
-                   "EntryDescription\r\n"_s;
+    QByteArray text = "ID;EntryDate;EntryType;EntryInterval;EntryAccount;EntryAccountMove;EntryCategory;EntryValue;"
+                      "EntryDescription\r\n";
     for (const cEntryItem& entry : entries) {
-        const QString amount = modAmount::CentsToText(entry.EntryValue).replace(u'.', u',');
-        text += QStringList{QString::number(entry.ID),
-                            modDate::ToIso(entry.EntryDate),
-                            entry.EntryType,
-                            entry.EntryInterval,
-                            CsvField(entry.EntryAccount),
-                            CsvField(entry.EntryAccountMove),
-                            CsvField(entry.EntryCategory),
-                            amount,
-                            CsvField(entry.EntryDescription)}
-                    .join(u';')
-            + u"\r\n"_s;
+        text += modCsv::Line({QString::number(entry.ID), modDate::ToIso(entry.EntryDate), modCsv::Text(entry.EntryType),
+                              modCsv::Text(entry.EntryInterval), modCsv::Text(entry.EntryAccount),
+                              modCsv::Text(entry.EntryAccountMove), modCsv::Text(entry.EntryCategory),
+                              modCsv::Money(entry.EntryValue), modCsv::Text(entry.EntryDescription)});
     }
-    return text;
+    return QChar(QChar::ByteOrderMark) + QString::fromUtf8(text);
 }
 
 QString ToJson(const cEntryItemList& entries)
