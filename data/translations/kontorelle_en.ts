@@ -3052,10 +3052,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>only the amount of the occurrence on this day</translation>
     </message>
     <message>
-        <source>die Serie von diesem Vorkommen an</source>
-        <translation>the series from this occurrence on</translation>
-    </message>
-    <message>
         <source>{0} statt {1}</source>
         <translation>{0} instead of {1}</translation>
     </message>
@@ -6524,6 +6520,26 @@ Do you want to continue?</translation>
     <message>
         <source>Stellt die Zeile wieder her, wie sie gespeichert ist (Esc)</source>
         <translation>Restores the line as it is stored (Esc)</translation>
+    </message>
+    <message>
+        <source>Der Betrag {0} war für das Intervall &apos;{1}&apos; gemeint. Bitte geben Sie mit --interval auch --amount an, den Betrag je Intervall, oder --limit, das Monatslimit.</source>
+        <translation>The amount {0} was meant for the interval &apos;{1}&apos;. With --interval please also give --amount, the amount per interval, or --limit, the monthly limit.</translation>
+    </message>
+    <message>
+        <source>die Serie vom ersten Vorkommen an, das nicht davor liegt</source>
+        <translation>the series from the first occurrence on that does not lie before it</translation>
+    </message>
+    <message>
+        <source>kein Zielkonto</source>
+        <translation>no target account</translation>
+    </message>
+    <message>
+        <source>Die Einträge konnten nicht gelesen werden.</source>
+        <translation>The entries could not be read.</translation>
+    </message>
+    <message>
+        <source>Die Korrektur auf {0} geht dabei verloren.</source>
+        <translation>The correction to {0} gets lost.</translation>
     </message>
 </context>
 </TS>

@@ -161,7 +161,7 @@ int cCliEntryForm::Change(int id)
 
 int cCliEntryForm::ChangeFrom(int id, const QString& day)
 {
-    m_from = m_reader.Occurrence(id, day);
+    m_from = m_reader.Occurrence(id, day, eOccurrence::From);
     const std::optional<cEntryFields> fields = m_editor.LoadFrom(id, m_from);
     return fields ? ChangeLoaded(id, *fields) : m_reader.Report();
 }

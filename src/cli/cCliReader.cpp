@@ -120,7 +120,7 @@ std::optional<cImportEntry> cCliReader::StagedRow(const QString& text)
     return row;
 }
 
-QDate cCliReader::Occurrence(int id, const QString& text)
+QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
 {
     constexpr int shownDays = 3;
     const QDate day = Day(text);
@@ -135,11 +135,15 @@ QDate cCliReader::Occurrence(int id, const QString& text)
         Missing(cText::Tr("Eintrag {0} ist keine Serie.", {QString::number(id)}));
         return {};
     }
-    if (const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(*series, day)) {
+    const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(*series, day);
+    if (occurrence && (which == eOccurrence::OfPeriod || occurrence->EntryDate == day)) {
         return occurrence->EntryDate;
     }
     QStringList days;
     const QList<QDate> next = modSeries::Next(*series, qMax(day, series->EntryDate), shownDays);
+    if (which == eOccurrence::From && day >= series->EntryDate && !next.isEmpty()) {
+        return next.constFirst();
+    }
     for (const QDate other : next) {
         days.append(modDate::ToGerman(other));
     }

@@ -17,6 +17,10 @@ enum class eCliNames {
     Used,    // also those that only entries have; of categories also main categories as a whole
 };
 
+// Which occurrence of a series a day means: the one in whose period it lies, that of the very day, or the first one
+// that does not lie before it.
+enum class eOccurrence { OfPeriod, Exact, From };
+
 // Reads arguments as people type them. The first one that cannot be understood is kept with its exit code; what the
 // others then give does not matter.
 class cCliReader
@@ -38,7 +42,7 @@ public:
     // True when a whole path is meant by the text.
     [[nodiscard]] bool IsCategoryPath(const QString& text, eCliNames names) const;
     // The day of the occurrence of a series whose period holds the day named.
-    [[nodiscard]] QDate Occurrence(int id, const QString& text);
+    [[nodiscard]] QDate Occurrence(int id, const QString& text, eOccurrence which = eOccurrence::OfPeriod);
     // Of the options --period, --from and --to; `name` where none of them is given.
     [[nodiscard]] modPeriod::cRange Period(const QString& name);
 

@@ -174,6 +174,14 @@ bool SetDefaults(const cCliCall& call, cTemplateManager& manager, const QString&
     const auto take = [](const QString& text, const QString& stored) {
         return text.isEmpty() ? stored : IsNone(text) ? QString() : text;
     };
+    if (!wanted.Interval.isEmpty() && wanted.Interval != old->Interval && wanted.Amount.isEmpty()
+        && !old->Amount.isEmpty()) {
+        modConsole::Error(
+            cText::Tr("Der Betrag {0} war für das Intervall '{1}' gemeint. Bitte geben Sie mit --interval auch "
+                      "--amount an, den Betrag je Intervall, oder --limit, das Monatslimit.",
+                      {old->Amount, old->Interval}));
+        return false;
+    }
     cTemplateFields fields = *old;
     fields.Type = take(wanted.Type, fields.Type);
     fields.Interval = take(wanted.Interval, fields.Interval);

@@ -69,7 +69,8 @@ cCliCommand modCliCommands::ChangeCommand()
             .Access = eCliAccess::Write,
             .Options = cCliEntryForm::Options()
                 + QList<cCliOption>{{u"only"_s, u"DATUM"_s, cText::Tr("nur den Betrag des Vorkommens an diesem Tag")},
-                                    {u"from"_s, u"DATUM"_s, cText::Tr("die Serie von diesem Vorkommen an")},
+                                    {u"from"_s, u"DATUM"_s,
+                                     cText::Tr("die Serie vom ersten Vorkommen an, das nicht davor liegt")},
                                     modCliFlow::Yes()},
             .Run = Run};
 }

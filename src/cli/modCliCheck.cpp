@@ -18,6 +18,8 @@ QString Option(eEntryFault fault)
     case eEntryFault::Interval: return u"--interval INTERVALL"_s;
     case eEntryFault::End: return u"--end DATUM"_s;
     case eEntryFault::Amount: return u"--amount BETRAG"_s;
+    case eEntryFault::Account: return u"--account KONTO"_s;
+    case eEntryFault::Target: return u"--to-account KONTO"_s;
     }
     return {};
 }

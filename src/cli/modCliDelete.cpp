@@ -23,7 +23,8 @@ QDate Occurrence(const cCliContext& context, const QList<int>& ids, cCliReader& 
     } else if (ids.size() != 1) {
         reader.Misused(cText::Tr("Mit --only und --from nennen Sie bitte nur eine Serie."));
     }
-    return reader.Occurrence(ids.constFirst(), call.Value(call.Has(u"only"_s) ? u"only"_s : u"from"_s));
+    return call.Has(u"only"_s) ? reader.Occurrence(ids.constFirst(), call.Value(u"only"_s), eOccurrence::Exact)
+                               : reader.Occurrence(ids.constFirst(), call.Value(u"from"_s), eOccurrence::From);
 }
 
 int Run(const cCliContext& context)
@@ -68,7 +69,7 @@ cCliCommand modCliCommands::DeleteCommand()
             .MaxArguments = Any,
             .Access = eCliAccess::Write,
             .Options = {{u"only"_s, u"DATUM"_s, cText::Tr("nur das Vorkommen an diesem Tag: sein Betrag wird null")},
-                        {u"from"_s, u"DATUM"_s, cText::Tr("die Serie von diesem Vorkommen an")},
+                        {u"from"_s, u"DATUM"_s, cText::Tr("die Serie vom ersten Vorkommen an, das nicht davor liegt")},
                         {u"yes"_s, {}, cText::Tr("wirklich löschen")},
                         {u"all-parts"_s, {}, cText::Tr("alle Teile einer aufgeteilten Buchung, nicht nur diesen")}},
             .Run = Run};

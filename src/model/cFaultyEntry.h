@@ -10,7 +10,9 @@ enum class eEntryFault {
     Day,      // none, or one that cannot be read: no period holds it
     Interval, // none, or an unknown one together with a last day that hides it
     End,      // a series that ends before it begins
-    Amount    // none, or one that cannot be read: it counts as 0
+    Amount,   // none, or one that cannot be read: it counts as 0
+    Account,  // none: no balance counts it
+    Target    // a transfer without one: the money leaves an account and comes to none
 };
 
 // An entry with faults, and what stands in the file where they are.

@@ -76,7 +76,7 @@ public:
     [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
     // Entries that no view shows or that do not count as they stand, by ID.
-    [[nodiscard]] QList<cFaultyEntry> GetFaultyEntries();
+    [[nodiscard]] std::optional<QList<cFaultyEntry>> GetFaultyEntries();
     // Numbers of entries by their exact category path, and by the accounts they have as source or target.
     [[nodiscard]] QHash<QString, int> CountEntriesByCategory();
     [[nodiscard]] QHash<QString, int> CountEntriesByAccount();

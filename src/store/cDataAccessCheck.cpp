@@ -53,6 +53,8 @@ public:
         note(m_withoutInterval.contains(entry.ID) || (!isKnown && EndsBeforeItBegins(entry)), eEntryFault::Interval);
         note(isSeries && EndsBeforeItBegins(entry), eEntryFault::End);
         note(!modRow::ReadCents(row.Bytes(8)), eEntryFault::Amount);
+        note(entry.EntryAccount.isEmpty(), eEntryFault::Account);
+        note(entry.EntryType == modWord::Umbuchung && entry.EntryAccountMove.isEmpty(), eEntryFault::Target);
         return found;
     }
 
@@ -64,10 +66,10 @@ private:
 
 } // namespace
 
-QList<cFaultyEntry> cDataAccess::GetFaultyEntries()
+std::optional<QList<cFaultyEntry>> cDataAccess::GetFaultyEntries()
 {
     QList<cFaultyEntry> faulty;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetFaultyEntries\n{0}"), [&] {
+    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetFaultyEntries\n{0}"), [&] {
         cFaultReader reader(m_database);
         cRows rows(m_database, cEntryReader::Select + std::string(" ORDER BY ID"));
         while (rows.Next()) {
@@ -77,7 +79,7 @@ QList<cFaultyEntry> cDataAccess::GetFaultyEntries()
             }
         }
     });
-    return faulty;
+    return isRead ? std::optional(faulty) : std::nullopt;
 }
 
 QStringList cDataAccess::GetFileProblems()

@@ -224,13 +224,15 @@ void testCliEntries::DeleteSaysWhatFirst()
              qPrintable(asked.Text()));
     QCOMPARE(Run({u"delete"_s, one, u"4711"_s, u"--yes"_s}).Code, 1);
     QCOMPARE(CountEntries(), 2);
-    const cCliRun skipped = Run({u"delete"_s, series, u"--only"_s, u"10.2.2026"_s});
+    const cCliRun other = Run({u"delete"_s, series, u"--only"_s, u"10.2.2026"_s, u"--yes"_s});
+    QVERIFY2(other.Code == 1 && other.Error.contains("am 10.02.2026 kein Vorkommen"_L1), qPrintable(other.Text()));
+    const cCliRun skipped = Run({u"delete"_s, series, u"--only"_s, u"3.2.2026"_s});
     QVERIFY2(skipped.Code == 1 && skipped.Error.contains("'Lindenhof' vom 03.02.2026 auslassen?"_L1),
              qPrintable(skipped.Text()));
     QCOMPARE(Run({u"delete"_s, one, series, u"--from"_s, u"3.2.2026"_s, u"--yes"_s}).Code, 2);
     QCOMPARE(Run({u"delete"_s, one, u"--only"_s, u"1.3.2026"_s, u"--yes"_s}).Code, 1); // no series
     Do(u"delete|%1|--only|3.2.2026|--yes"_s.arg(series));
-    Do(u"delete|%1|--from|3.4.2026|--yes"_s.arg(series));
+    Do(u"delete|%1|--from|10.3.2026|--yes"_s.arg(series)); // not that of 3 March
     QCOMPARE(Do(u"search|Lindenhof|--json|--from|1.1.2026|--to|31.12.2026"_s).Column(u"EntryValue"_s),
              QStringList({u"650"_s, u"0"_s, u"650"_s}));
     Do(u"delete|%1|%2|%1|--yes"_s.arg(one, series));

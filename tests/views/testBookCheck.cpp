@@ -40,6 +40,8 @@ void testBookCheck::FindsWhatIsNotSeen_data()
     row("early end of an old series, which has none", u"EntryDateEnd = '1899-12-30'"_s, {}, 1);
     row("end of a one-off entry, which has none", u"EntryInterval = 'Einmalig', EntryDateEnd = '2026-03-09'"_s, {}, 1);
     row("unreadable amount", u"EntryValue = 'viel'"_s, u"Betrag 'viel' nicht lesbar"_s, 1);
+    row("no account", u"EntryAccount = NULL"_s, u"kein Konto"_s, 1);
+    row("transfer to nowhere", u"EntryType = 'Umbuchung'"_s, u"kein Zielkonto"_s, 1);
     row("two faults", u"EntryDate = '', EntryValue = ''"_s, u"kein Tag; kein Betrag"_s, 0);
 }
 
@@ -102,7 +104,7 @@ void testBookCheck::UnreadableDayOfAStartBalanceStays()
     cEntryFields fields = editor.StartBalance(u"Girokonto"_s);
     fields.Amount = u"200"_s;
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    const QList<cFaultyEntry> faulty = book.Data.GetFaultyEntries();
+    const QList<cFaultyEntry> faulty = book.Data.GetFaultyEntries().value_or(QList<cFaultyEntry>());
     QCOMPARE(faulty.size(), 1);
     QCOMPARE(faulty.first().DayText, u"Neujahr"_s);
     QCOMPARE(faulty.first().Entry.EntryValue, 20000);
@@ -113,12 +115,14 @@ void testBookCheck::SaysWhatTheFileLacks()
     cTestBook book;
     book.Database.Execute("DROP TABLE template");
     book.Database.Execute("ALTER TABLE import DROP COLUMN ImportCurrency");
+    book.Database.Execute("ALTER TABLE data DROP COLUMN EntryDescription");
     const cAmountFormat format(book.Configuration);
     const cBookCheck check(book.Data, format);
     QVERIFY(!check.IsSound());
     QCOMPARE(check.FileText(),
-             u"Die Datei ist unvollständig. Bitte spielen Sie eine Datensicherung zurück. Es fehlt: Tabelle template, "
-             "Spalte import.ImportCurrency"_s);
+             u"Die Datei ist unvollständig. Bitte spielen Sie eine Datensicherung zurück. Es fehlt: Spalte "
+             "data.EntryDescription, Tabelle template, Spalte import.ImportCurrency"_s);
+    QCOMPARE(check.EntriesText(), u"Die Einträge konnten nicht gelesen werden."_s);
 }
 
 QTEST_GUILESS_MAIN(testBookCheck)

@@ -34,6 +34,8 @@ QString TextOf(eEntryFault fault, const cFaultyEntry& entry)
     case eEntryFault::Amount:
         return entry.AmountText.isEmpty() ? cText::Tr("kein Betrag")
                                           : cText::Tr("Betrag '{0}' nicht lesbar", {entry.AmountText});
+    case eEntryFault::Account: return cText::Tr("kein Konto");
+    case eEntryFault::Target: return cText::Tr("kein Zielkonto");
     }
     return {};
 }
@@ -53,13 +55,15 @@ void cBookCheck::Reload()
     beginResetModel();
     m_problems = m_data.GetFileProblems();
     m_missing = m_data.GetMissingParts();
-    m_entries = m_data.GetFaultyEntries();
+    const std::optional<QList<cFaultyEntry>> entries = m_data.GetFaultyEntries();
+    m_isRead = entries.has_value();
+    m_entries = entries.value_or(QList<cFaultyEntry>());
     endResetModel();
 }
 
 bool cBookCheck::IsSound() const
 {
-    return IsFileSound() && m_entries.isEmpty();
+    return IsFileSound() && m_isRead && m_entries.isEmpty();
 }
 
 QString cBookCheck::FileText() const
@@ -75,6 +79,9 @@ QString cBookCheck::FileText() const
 
 QString cBookCheck::EntriesText() const
 {
+    if (!m_isRead) {
+        return cText::Tr("Die Einträge konnten nicht gelesen werden.");
+    }
     if (m_entries.isEmpty()) {
         return cText::Tr("Alle Einträge sind zu sehen und zählen mit.");
     }

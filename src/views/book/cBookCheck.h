@@ -49,5 +49,6 @@ private:
     const cAmountFormat& m_format;
     QStringList m_problems;
     QStringList m_missing;
+    bool m_isRead = false;
     QList<cFaultyEntry> m_entries;
 };

@@ -187,10 +187,19 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
     const QDate day = first.Days.first();
     if (part == eSeriesPart::OnlyThis) {
         return cText::Tr("Möchten Sie '{0}' vom {1} auslassen?\nDer Betrag wird null, die Serie läuft weiter.",
-                         {name, modDate::ToGerman(day)});
+                         {name, modDate::ToGerman(day)})
+            + LostCorrection(first.Entry.ID, day);
     }
     return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.",
                      {name, modDate::ToGerman(day)});
+}
+
+QString cEntryDelete::LostCorrection(int id, QDate day) const
+{
+    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_data, m_user).Correction(id, day);
+    return correction && correction->EntryValue != 0
+        ? u'\n' + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_format.Cents(correction->EntryValue)})
+        : QString();
 }
 
 QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const

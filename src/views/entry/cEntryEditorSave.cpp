@@ -115,7 +115,8 @@ bool cEntryEditor::MayClose(const cFields& shown, const cFields& now) const
     }
     return m_user.Ask({.Text = cText::Tr("Die Eingaben sind noch nicht gespeichert.\nSoll das Fenster trotzdem "
                                          "geschlossen werden?"),
-                       .Title = {}})
+                       .Title = {},
+                       .Default = eAnswer::No})
         == eAnswer::Yes;
 }
 

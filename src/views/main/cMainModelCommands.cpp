@@ -113,7 +113,8 @@ void cMainModel::AskResetView()
     const eAnswer answer =
         m_parts.User.Ask({.Text = cText::Tr("Sollen Zeitraum, Konto, Filter, Gruppierung, Spalten und Fenstergröße auf "
                                             "den Anfang zurückgestellt werden?\nIhre Einträge bleiben, wie sie sind."),
-                          .Title = cText::Tr("Einstellungen zurücksetzen")});
+                          .Title = cText::Tr("Einstellungen zurücksetzen"),
+                          .Default = eAnswer::No});
     if (answer == eAnswer::Yes) {
         ResetView();
     }

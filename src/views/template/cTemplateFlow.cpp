@@ -19,9 +19,10 @@ QString Cleaned(const QString& name)
     return modTemplate::CleanName(name.trimmed()).trimmed();
 }
 
+// Names that look the same in a list: letter case and further blanks tell nobody anything.
 bool IsSame(const QString& a, const QString& b)
 {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+    return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
 }
 
 } // namespace

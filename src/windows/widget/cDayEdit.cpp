@@ -55,6 +55,8 @@ cDayEdit::cDayEdit(QDate today, QWidget* parent)
 void cDayEdit::SetReadOnly(bool isReadOnly)
 {
     setReadOnly(isReadOnly);
+    // One that takes no typing must not look as if it did.
+    setEnabled(!isReadOnly);
     m_calendar->setVisible(!isReadOnly);
     setToolTip(isReadOnly
                    ? QString()
