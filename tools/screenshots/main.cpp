@@ -144,6 +144,7 @@ bool TakeDemo(cCamera& camera)
     cMainProgram& program = stage.Program();
     frmMain& window = program.Window();
     cMainModel& model = program.Model();
+    model.ChoosePeriod(u"Aktueller Monat"_s); // what most look at; a new book begins with everything
     camera.Take(window, u"hauptfenster"_s);
     model.ChooseAccount(u"Girokonto"_s);
     model.ChooseGrouping(u"Nach Monat"_s);
