@@ -31,7 +31,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int besideLetters = 110; // two charts stand side by side from this width on
+constexpr int besideLetters = 110; // two charts, or tree and report, stand side by side from this width on
 
 void Choose(QComboBox& combo, const QVariant& data)
 {
@@ -118,10 +118,9 @@ void frmStatistik::BuildSaveMenu()
 
 QWidget* frmStatistik::BuildReportPage()
 {
-    auto* split = new QSplitter(this);
+    auto* split = new cTurningSplitter(besideLetters, this);
     split->addWidget(m_tree);
     split->addWidget(m_report);
-    split->setChildrenCollapsible(false);
     split->setStretchFactor(0, 1); // the report needs more of a narrow page than the tree of its figures
     split->setStretchFactor(1, 2);
     const int character = fontMetrics().averageCharWidth();
