@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Reads 100,000 transactions in each format, every file beside the floor of reading it and counting its lines.
-# cmake --preset release -DAPP_BENCH=ON && cmake --build --preset release --target readStatement
+# cmake --preset release -DBUILD_TESTING=ON -DAPP_BENCH=ON && cmake --build --preset release --target readStatement
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
