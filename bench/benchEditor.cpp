@@ -50,7 +50,7 @@ void LoadPartOfSplit(benchmark::State& state)
     for (auto _ : state) {
         benchmark::DoNotOptimize(scene.Editor.Load(id));
     }
-    while (scene.Data.UndoName() != QString() && scene.Data.Undo()) {}
+    while (scene.Data.Journal().UndoName() != QString() && scene.Data.Journal().Undo()) {}
 }
 BENCHMARK(LoadPartOfSplit)->Unit(benchmark::kMillisecond);
 
@@ -80,7 +80,7 @@ void SaveInOpenEditor(benchmark::State& state)
         fields = scene.Editor.Next(fields);
         fields.Amount = u"12,50"_s;
     }
-    while (scene.Data.UndoName() != QString() && scene.Data.Undo()) {}
+    while (scene.Data.Journal().UndoName() != QString() && scene.Data.Journal().Undo()) {}
 }
 BENCHMARK(SaveInOpenEditor)->Unit(benchmark::kMillisecond)->Iterations(150);
 

@@ -232,7 +232,7 @@ void cCliEntryForm::Print(const cEntryFields& fields, int id) const
     const cEntryItemList parts = group == 0 ? cEntryItemList() : data.GetEntriesOfSplit(group);
     const bool isTable = !Has("json");
     if (isTable) {
-        modConsole::Out(data.UndoName() + u'\n');
+        modConsole::Out(data.Journal().UndoName() + u'\n');
     }
     modCliEntryList::Print(m_context, parts.isEmpty() && entry ? cEntryItemList{*entry} : parts);
     const cEntryEditor::cPreview preview = m_editor.Preview(fields);

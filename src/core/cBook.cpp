@@ -118,7 +118,7 @@ QString cBook::Path() const
 
 void cBook::LoadSettings()
 {
-    m_data->ForgetSteps(); // they are of another file
+    m_data->Journal().Forget(); // they are of another file
     if (m_settings) {
         m_settings->Reload();
     } else {

@@ -47,8 +47,8 @@ struct cCleanedName
     int Entries = 0; // that went along
 };
 
-// Every operation on the database. A failure is shown to the user once, with the operation's name and the database's
-// own words, and returned as false, an empty optional or an empty list; nothing is retried.
+// Every operation on the database. A failure is shown to the user once, with the operation's name and the
+// reason in German, and returned as false, an empty optional or an empty list; nothing is retried.
 class cDataAccess
 {
 public:
@@ -152,21 +152,8 @@ public:
     [[nodiscard]] QStringList GetFileProblems();
     [[nodiscard]] QStringList GetMissingParts();
 
-    // Undo. What is written between BeginStep and EndStep is one step of the user; use cUndoStep rather than these. A
-    // write to a table of the book outside of a step cannot be taken back, and neither can the steps before it.
-    void BeginStep(const QString& name);
-    void EndStep();
-    void RevertStep(); // takes back what the open step has written
-    // A part of the open step; use cUndoPart rather than these.
-    void BeginPart();
-    void EndPart();
-    void RevertPart();
-    // The name of the step that Undo or Redo would work on; empty when there is none.
-    [[nodiscard]] QString UndoName() const;
-    [[nodiscard]] QString RedoName() const;
-    [[nodiscard]] bool Undo();
-    [[nodiscard]] bool Redo();
-    void ForgetSteps(); // another file was opened
+    // The steps of the user; see cUndoStep.
+    [[nodiscard]] cJournal& Journal() { return m_journal; }
 
     // True when nothing can be written: the file was opened for reading only.
     [[nodiscard]] bool IsReadOnly() const;
@@ -180,10 +167,10 @@ private:
     [[nodiscard]] bool MoveGroup(const cTemplateItem& member, const QString& newGroup);
     [[nodiscard]] bool MovePathsBelow(const QString& oldMain, const QString& newMain);
     [[nodiscard]] bool JoinGroups(const cTemplateItem& written);
-    void TellCleaned();
+    void TellCleaned(bool isWritten);
 
-    // Runs one operation; an exception becomes the message `operation` with its description, and false.
-    bool Try(const char* message, const std::function<void()>& operation);
+    // Runs one operation; an exception becomes the message of that name, and false.
+    bool Try(const char* name, const std::function<void()>& operation);
 
     cDatabase& m_database;
     cUser& m_user;

@@ -5,7 +5,6 @@
 #include "store/modRow.h"
 #include "store/modSchema.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 // What is wrong with a book: with its file, its tables, its entries.
@@ -69,7 +68,7 @@ private:
 std::optional<QList<cFaultyEntry>> cDataAccess::GetFaultyEntries()
 {
     QList<cFaultyEntry> faulty;
-    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetFaultyEntries\n{0}"), [&] {
+    const bool isRead = Try("GetFaultyEntries", [&] {
         cFaultReader reader(m_database);
         cRows rows(m_database, cEntryReader::Select + std::string(" ORDER BY ID"));
         while (rows.Next()) {

@@ -4,8 +4,6 @@
 #include "store/cDatabase.h"
 #include "store/modRow.h"
 
-#include <QCoreApplication>
-
 #include <cstdlib>
 
 namespace {
@@ -25,7 +23,7 @@ cBoundList FixModValues(const cEntryItemFixMod& fixMod)
 cEntryItemFixModList cDataAccess::GetEntryMods(int entryId)
 {
     cEntryItemFixModList fixMods;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetEntryMods\n{0}"), [&] {
+    Try("GetEntryMods", [&] {
         cRows rows(m_database, std::string(modFixModRow::Select) + " WHERE EntryRelation = ?", {entryId});
         while (rows.Next()) {
             fixMods.append(modFixModRow::Read(rows));
@@ -36,7 +34,7 @@ cEntryItemFixModList cDataAccess::GetEntryMods(int entryId)
 
 bool cDataAccess::AddNewEntryMod(const cEntryItemFixMod& fixMod)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewEntryMod\n{0}"), [&] {
+    return Try("AddNewEntryMod", [&] {
         const cBoundList key{fixMod.EntryRelation, modDate::ToIso(fixMod.EntryStartDate)};
         m_database.Execute("DELETE FROM datamod WHERE EntryRelation=? AND EntryStartDate=?", key);
         m_database.Execute(
@@ -48,7 +46,7 @@ bool cDataAccess::AddNewEntryMod(const cEntryItemFixMod& fixMod)
 
 bool cDataAccess::ChangeEntryMod(const cEntryItemFixMod& fixMod)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeEntryMod\n{0}"), [&] {
+    return Try("ChangeEntryMod", [&] {
         cBoundList values = FixModValues(fixMod);
         values.emplace_back(fixMod.ID);
         m_database.Execute("UPDATE datamod SET EntryRelation=?, EntryModType=?, EntryStartDate=?, EntryEndDate=?, "
@@ -60,12 +58,11 @@ bool cDataAccess::ChangeEntryMod(const cEntryItemFixMod& fixMod)
 bool cDataAccess::DeleteEntryMod(int id)
 {
     // The one message without the description
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntryMod\n"),
-               [&] { m_database.Execute("DELETE FROM datamod WHERE ID = ?", {id}); });
+    return Try("DeleteEntryMod", [&] { m_database.Execute("DELETE FROM datamod WHERE ID = ?", {id}); });
 }
 
 bool cDataAccess::DeleteEntryModByRelation(int entryId)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteEntryModByRelation\n{0}"),
+    return Try("DeleteEntryModByRelation",
                [&] { m_database.Execute("DELETE FROM datamod WHERE EntryRelation = ?", {entryId}); });
 }

@@ -3,8 +3,6 @@
 #include "store/cDatabase.h"
 #include "store/modRow.h"
 
-#include <QCoreApplication>
-
 namespace {
 
 // The numbers under which a truth value stands in table `import`
@@ -49,7 +47,7 @@ cImportEntry ReadImport(const cRows& row, cWordCache& words)
 cImportEntryList cDataAccess::GetImportEntries()
 {
     cImportEntryList entries;
-    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "FEHLER: GetImportEntries\n{0}"), [&] {
+    const bool isRead = Try("GetImportEntries", [&] {
         cWordCache words(eQuotes::Doubled);
         cRows rows(m_database,
                    "SELECT ID, ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
@@ -64,7 +62,7 @@ cImportEntryList cDataAccess::GetImportEntries()
 
 bool cDataAccess::AddNewImportEntry(cImportEntry& entry)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewImportEntry\n{0}"), [&] {
+    return Try("AddNewImportEntry", [&] {
         m_database.Execute(
             "INSERT INTO import (ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
             "ImportBeneficiaryAccount, ImportBeneficiaryBLZ, ImportValue, ImportCurrency, ImportAssigned, "
@@ -77,7 +75,7 @@ bool cDataAccess::AddNewImportEntry(cImportEntry& entry)
 
 bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeImportEntry\n{0}"), [&] {
+    return Try("ChangeImportEntry", [&] {
         cBoundList values = ImportValues(entry);
         values.emplace_back(entry.ID);
         m_database.Execute("UPDATE import SET ImportAccount=?, ImportDate=?, ImportType=?, ImportPurpose=?, "
@@ -90,7 +88,7 @@ bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
 
 bool cDataAccess::DeleteImport(int id)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteImport\n{0}"), [&] {
+    return Try("DeleteImport", [&] {
         m_database.Execute("DELETE FROM import WHERE ID = ?", {id});
         m_database.NoteImportWrite();
     });
@@ -98,7 +96,7 @@ bool cDataAccess::DeleteImport(int id)
 
 bool cDataAccess::DeleteAllImports()
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteAllImports\n{0}"), [&] {
+    return Try("DeleteAllImports", [&] {
         m_database.Execute("DELETE FROM import");
         m_database.NoteImportWrite();
     });
@@ -106,7 +104,7 @@ bool cDataAccess::DeleteAllImports()
 
 bool cDataAccess::ReleaseImports(int entryId)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ReleaseImports\n{0}"), [&] {
+    return Try("ReleaseImports", [&] {
         m_database.Execute("UPDATE import SET ImportAssigned=?, ImportAssignedEntry=? WHERE ImportAssignedEntry = ?",
                            {isFalse, -1, entryId});
         m_database.NoteImportWrite();
@@ -116,7 +114,7 @@ bool cDataAccess::ReleaseImports(int entryId)
 QStringList cDataAccess::GetImportAccounts()
 {
     QStringList accounts;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetImportAccounts\n{0}"), [&] {
+    Try("GetImportAccounts", [&] {
         cRows rows(m_database, "SELECT DISTINCT ImportAccount FROM import");
         while (rows.Next()) {
             accounts.append(modRow::ReadDoubled(rows.Bytes(0)));
@@ -128,7 +126,7 @@ QStringList cDataAccess::GetImportAccounts()
 QHash<QString, int> cDataAccess::CountOpenImports()
 {
     QHash<QString, int> counts;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: CountOpenImports\n{0}"), [&] {
+    Try("CountOpenImports", [&] {
         cRows rows(m_database,
                    "SELECT ImportAccount, COUNT(*) FROM import "
                    "WHERE IFNULL(CAST(ImportAssigned AS INTEGER), 0) = 0 GROUP BY ImportAccount");
@@ -147,6 +145,6 @@ quint64 cDataAccess::KnownImportVersion() const
 quint64 cDataAccess::ImportVersion()
 {
     quint64 version = 0;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: ImportVersion\n{0}"), [&] { version = m_database.ImportVersion(); });
+    Try("ImportVersion", [&] { version = m_database.ImportVersion(); });
     return version;
 }

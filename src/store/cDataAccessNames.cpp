@@ -76,7 +76,7 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
     const cTemplateItem cleaned = IsClean(asked) ? asked : WithFreeName(asked);
     const bool isWritten = WriteTemplate(cleaned) && (!isKept || Follow(*stored, cleaned))
         && (!losesGroup || MoveGroup(*stored, cleaned.TemplateCategory)) && JoinGroups(cleaned);
-    return isWritten || step.Revert();
+    return isWritten ? step.Done() : step.Revert();
 }
 
 // Two definitions of one name could not be told apart by their entries.
@@ -160,15 +160,18 @@ bool cDataAccess::JoinGroups(const cTemplateItem& written)
             if (!MoveGroup(item, written.TemplateCategory)) {
                 return step.Revert();
             }
+            if (!step.Done()) {
+                return false;
+            }
         }
     }
     return true;
 }
 
-void cDataAccess::TellCleaned()
+void cDataAccess::TellCleaned(bool isWritten)
 {
     const QList<cCleanedName> names = std::exchange(m_cleaned, {});
-    if (names.isEmpty()) {
+    if (names.isEmpty() || !isWritten) {
         return;
     }
     constexpr int most = 5;

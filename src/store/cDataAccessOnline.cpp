@@ -2,8 +2,6 @@
 #include "store/cDatabase.h"
 #include "store/modAccountColumns.h"
 
-#include <QCoreApplication>
-
 namespace {
 
 // The column names, each followed by `behind`, joined by ", ".
@@ -55,14 +53,13 @@ std::optional<cOnlineAccount> First(const QList<cOnlineAccount>& accounts)
 QList<cOnlineAccount> cDataAccess::GetOnlineAccounts()
 {
     QList<cOnlineAccount> accounts;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetOnlineAccounts\n{0}"),
-        [&] { accounts = ReadAccounts(m_database, " ORDER BY ID DESC", {}); });
+    Try("GetOnlineAccounts", [&] { accounts = ReadAccounts(m_database, " ORDER BY ID DESC", {}); });
     return accounts;
 }
 
 bool cDataAccess::GetNewOnlineAccount(cOnlineAccount& account)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetNewOnlineAccount\n{0}"), [&] {
+    return Try("GetNewOnlineAccount", [&] {
         m_database.Execute("INSERT INTO account (" + Columns("") + ") VALUES (" + Placeholders() + ")",
                            AccountValues(account));
         account = First(ReadAccounts(m_database, " ORDER BY ID DESC", {})).value_or(account);
@@ -71,7 +68,7 @@ bool cDataAccess::GetNewOnlineAccount(cOnlineAccount& account)
 
 bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeOnlineAccount\n{0}"), [&] {
+    return Try("ChangeOnlineAccount", [&] {
         cBoundList values = AccountValues(account);
         values.emplace_back(account.ID);
         m_database.Execute("UPDATE account SET " + Columns("=?") + " WHERE ID = ?", values);
@@ -80,22 +77,20 @@ bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
 
 bool cDataAccess::DeleteOnlineAccount(int id)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteOnlineAccount\n{0}"),
-               [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
+    return Try("DeleteOnlineAccount", [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
 }
 
 std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(int id)
 {
     std::optional<cOnlineAccount> account;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindOnlineAccount\n{0}"),
-        [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
+    Try("FindOnlineAccount", [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
     return account;
 }
 
 std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(const QString& number, const QString& bankCode)
 {
     std::optional<cOnlineAccount> account;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindOnlineAccount\n{0}"), [&] {
+    Try("FindOnlineAccount", [&] {
         account = First(ReadAccounts(m_database, " WHERE AccountNumber = ? AND AccountBLZ = ?", {number, bankCode}));
     });
     return account;

@@ -5,8 +5,6 @@
 #include "store/cDatabase.h"
 #include "store/modRow.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -295,7 +293,7 @@ void SumRecurring(cDatabase& database, const cEntryQuery& query, bool withStartB
 cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
 {
     cEntryItemList entries;
-    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetEntries\n{0}"), [&] {
+    const bool isRead = Try("GetEntries", [&] {
         if (query.Kind != eBookingKind::Fix) {
             ReadSingle(m_database, query, entries);
         }
@@ -309,7 +307,7 @@ cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
 QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStartBalance)
 {
     cSums sums;
-    const bool isRead = Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetSums\n{0}"), [&] {
+    const bool isRead = Try("GetSums", [&] {
         if (query.Kind != eBookingKind::Fix && !SumSingle(m_database, query, withStartBalance, eDays::ByReader, sums)) {
             sums = {};
             (void)SumSingle(m_database, query, withStartBalance, eDays::ByStatement, sums);

@@ -1,8 +1,6 @@
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 
-#include <QCoreApplication>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -61,7 +59,7 @@ std::optional<cTemplateItem> First(const cTemplateItemList& items)
 
 bool cDataAccess::AddNewTemplate(cTemplateItem& item)
 {
-    const bool isAdded = Try(QT_TRANSLATE_NOOP("cText", "ERROR: AddNewTemplate\n{0}"), [&] {
+    const bool isAdded = Try("AddNewTemplate", [&] {
         m_database.Execute("INSERT INTO template (EntryType,  EntryInterval, TemplateType, TemplateVisible, "
                            "TemplateCategory, TemplateName, TemplateComment, TemplatePriority, TemplateVAT, "
                            "TemplateDefaultValue) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
@@ -73,7 +71,7 @@ bool cDataAccess::AddNewTemplate(cTemplateItem& item)
 
 bool cDataAccess::WriteTemplate(const cTemplateItem& item)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: ChangeTemplate\n{0}"), [&] {
+    return Try("ChangeTemplate", [&] {
         cBoundList values = TemplateValues(item);
         values.emplace_back(item.ID);
         m_database.Execute("UPDATE template SET EntryType=?, EntryInterval=?, TemplateType=?, TemplateVisible=?, "
@@ -85,21 +83,20 @@ bool cDataAccess::WriteTemplate(const cTemplateItem& item)
 
 bool cDataAccess::DeleteTemplate(int id)
 {
-    return Try(QT_TRANSLATE_NOOP("cText", "ERROR: DeleteTemplate\n{0}"),
-               [&] { m_database.Execute("DELETE FROM template WHERE ID = ?", {id}); });
+    return Try("DeleteTemplate", [&] { m_database.Execute("DELETE FROM template WHERE ID = ?", {id}); });
 }
 
 cTemplateItemList cDataAccess::GetTemplates()
 {
     cTemplateItemList items;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetTemplates\n{0}"), [&] { items = ReadTemplates(m_database, "", {}); });
+    Try("GetTemplates", [&] { items = ReadTemplates(m_database, "", {}); });
     return items;
 }
 
 cTemplateItemList cDataAccess::UncleanTemplates()
 {
     cTemplateItemList items;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetTemplates\n{0}"), [&] {
+    Try("GetTemplates", [&] {
         items = ReadTemplates(m_database, " WHERE COALESCE(TemplateCategory, '') || COALESCE(TemplateName, '') GLOB ?",
                               {u"*[&'<>\";]*"_s});
     });
@@ -109,23 +106,21 @@ cTemplateItemList cDataAccess::UncleanTemplates()
 cTemplateItemList cDataAccess::GetAccounts()
 {
     cTemplateItemList items;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: GetAccounts\n{0}"),
-        [&] { items = ReadTemplates(m_database, " WHERE TemplateType LIKE 'Konto'", {}); });
+    Try("GetAccounts", [&] { items = ReadTemplates(m_database, " WHERE TemplateType LIKE 'Konto'", {}); });
     return items;
 }
 
 std::optional<cTemplateItem> cDataAccess::FindTemplate(int id)
 {
     std::optional<cTemplateItem> item;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindTemplate\n{0}"),
-        [&] { item = First(ReadTemplates(m_database, " WHERE ID = ?", {id})); });
+    Try("FindTemplate", [&] { item = First(ReadTemplates(m_database, " WHERE ID = ?", {id})); });
     return item;
 }
 
 std::optional<cTemplateItem> cDataAccess::FindTemplate(const QString& category, const QString& name)
 {
     std::optional<cTemplateItem> item;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindTemplate\n{0}"), [&] {
+    Try("FindTemplate", [&] {
         item = First(ReadTemplates(m_database, " WHERE TemplateCategory = ? AND TemplateName = ?", {category, name}));
     });
     return item;
@@ -134,7 +129,7 @@ std::optional<cTemplateItem> cDataAccess::FindTemplate(const QString& category, 
 std::optional<cTemplateItem> cDataAccess::FindAccount(const QString& name)
 {
     std::optional<cTemplateItem> item;
-    Try(QT_TRANSLATE_NOOP("cText", "ERROR: FindAccount\n{0}"),
+    Try("FindAccount",
         [&] { item = First(ReadTemplates(m_database, " WHERE TemplateName = ? AND TemplateType = 'Konto'", {name})); });
     return item;
 }

@@ -1,5 +1,7 @@
 #include "store/cDatabase.h"
 
+#include "store/modSyncVfs.h"
+
 #include <QFile>
 
 // The driver's header leaves them out otherwise; Debian's library has them.
@@ -11,10 +13,14 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <unordered_map>
+#include <utility>
 
 struct cDatabase::cConnection
 {
-    cConnection(const QString& path, int flags, int busyTimeout) : Handle(path.toStdString(), flags, busyTimeout) {}
+    cConnection(const QString& path, int flags, int busyTimeout)
+        : Handle(path.toStdString(), flags, busyTimeout, modSyncVfs::Name())
+    {
+    }
 
     SQLite::Database Handle;
     // Prepared statements that nobody is using at the moment, by their text
@@ -32,7 +38,8 @@ struct cRows::cState
 
 namespace {
 
-constexpr size_t idleLimit = 100; // statements kept prepared; filters make new texts all the time
+constexpr qint64 portionTime = 1000; // milliseconds
+constexpr size_t idleLimit = 100;    // statements kept prepared; filters make new texts all the time
 
 eDatabaseFault FaultOf(int code)
 {
@@ -46,6 +53,7 @@ eDatabaseFault FaultOf(int code)
     case SQLITE_FULL: return eDatabaseFault::Full;
     case SQLITE_CANTOPEN:
     case SQLITE_PERM: return eDatabaseFault::NoAccess;
+    case SQLITE_IOERR: return eDatabaseFault::Device;
     default: return eDatabaseFault::Other;
     }
 }
@@ -147,7 +155,10 @@ cDatabase::cDatabase(int busyTimeout) : m_busyTimeout(busyTimeout)
 {
 }
 
-cDatabase::~cDatabase() = default;
+cDatabase::~cDatabase()
+{
+    EndGathering();
+}
 
 void cDatabase::Open(const QString& path, eOpenMode mode)
 {
@@ -173,14 +184,73 @@ void cDatabase::InstallWatcher()
 
 void cDatabase::Close() noexcept
 {
+    EndGathering();
     m_connection.reset();
     m_isReadOnly = false;
     m_dataVersion = 0;
     ++m_importVersion; // another file may follow
 }
 
+void cDatabase::Gather(eGathering gathering)
+{
+    m_gathering = gathering;
+    m_hasBegun = false;
+}
+
+void cDatabase::BeginGathered()
+{
+    if (m_hasBegun && sqlite3_get_autocommit(Connection().Handle.getHandle()) != 0) {
+        // After some failures SQLite takes the whole transaction back. What follows must not be written without what
+        // was before it.
+        throw cDatabaseError(eDatabaseFault::RolledBack, "transaction was rolled back");
+    }
+    if (m_hasBegun && m_gathering == eGathering::InPortions && m_sinceBegin.hasExpired(portionTime)) {
+        CommitGathered();
+    }
+    if (!m_hasBegun) {
+        ExecuteScript("BEGIN IMMEDIATE");
+        m_hasBegun = true;
+        m_sinceBegin.start();
+    }
+}
+
+void cDatabase::CommitGathered()
+{
+    if (!m_hasBegun) {
+        return;
+    }
+    try {
+        if (sqlite3_get_autocommit(Connection().Handle.getHandle()) != 0) {
+            throw cDatabaseError(eDatabaseFault::RolledBack, "transaction was rolled back");
+        }
+        ExecuteScript("COMMIT");
+        m_hasBegun = false;
+    } catch (const std::exception&) {
+        DropGathered();
+        throw;
+    }
+}
+
+void cDatabase::DropGathered() noexcept
+{
+    if (std::exchange(m_hasBegun, false)) {
+        ++m_importVersion;
+        // Fails where SQLite has taken it back already.
+        sqlite3_exec(m_connection->Handle.getHandle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void cDatabase::EndGathering() noexcept
+{
+    DropGathered();
+    m_gathering.reset();
+}
+
 int cDatabase::Execute(const std::string& sql, const cBoundList& values)
 {
+    if (m_gathering) {
+        BeginGathered();
+    }
     cRows rows(*this, sql, values);
     while (rows.Next()) {}
     return rows.Changes();
@@ -213,12 +283,14 @@ eDatabaseFault cDatabase::ProbeWrite() noexcept
     }
     try {
         // Only a changed page makes SQLite create its journal, which a folder without write permission refuses.
-        Execute("BEGIN IMMEDIATE");
-        Execute("CREATE TABLE probe_of_write (ID INTEGER)");
-        Execute("ROLLBACK");
+        ExecuteScript("BEGIN IMMEDIATE");
+        ExecuteScript("CREATE TABLE probe_of_write (ID INTEGER)");
+        ExecuteScript("ROLLBACK");
         return eDatabaseFault::None;
     } catch (const cDatabaseError& error) {
-        TryExecute("ROLLBACK");
+        if (m_connection) {
+            sqlite3_exec(m_connection->Handle.getHandle(), "ROLLBACK", nullptr, nullptr, nullptr);
+        }
         return error.Fault() == eDatabaseFault::NoAccess ? eDatabaseFault::ReadOnly : error.Fault();
     } catch (const std::exception&) {
         return eDatabaseFault::Other;
@@ -231,7 +303,7 @@ void cDatabase::BackupTo(const QString& path)
     QFile(path).open(QIODevice::NewOnly | QIODevice::WriteOnly, QFile::ReadOwner | QFile::WriteOwner);
     try {
         Translate([&] {
-            SQLite::Database target(path.toStdString(), FlagsOf(eOpenMode::Create), m_busyTimeout);
+            SQLite::Database target(path.toStdString(), FlagsOf(eOpenMode::Create), m_busyTimeout, modSyncVfs::Name());
             const int result = SQLite::Backup(target, Connection().Handle).executeStep();
             if (result != SQLITE_DONE) {
                 throw SQLite::Exception(sqlite3_errstr(result), result);

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -17,7 +19,8 @@ struct sqlite3;
 enum class eOpenMode { ReadWrite, ReadOnly, Create };
 
 // Why the database refused. `Other` is a fault of the statement itself, such as a missing table.
-enum class eDatabaseFault { None, Busy, Damaged, ReadOnly, Full, NoAccess, Other };
+// `Device`: the system could not read or write. `RolledBack`: an earlier failure has undone the writes before.
+enum class eDatabaseFault { None, Busy, Damaged, ReadOnly, Full, NoAccess, Device, RolledBack, Other };
 
 // Thrown by the classes of this floor and caught at its border.
 class cDatabaseError final : public std::runtime_error
@@ -94,6 +97,18 @@ public:
     void ExecuteScript(const std::string& sql);
     [[nodiscard]] qint64 LastInsertId() const;
 
+    // From Gather on, all writes by Execute are one transaction, which the first of them begins: for a kill or a full
+    // disk they are all there or none is. `InPortions`: what was written for a second is in the file, for writes that
+    // may take long and of which every part counts. Only reading needs no transaction and takes no lock.
+    enum class eGathering { Whole, InPortions };
+    void Gather(eGathering gathering);
+    [[nodiscard]] bool IsGathering() const noexcept { return m_gathering.has_value(); }
+    // Puts what was gathered into the file; gathering goes on. After a failure nothing of it is there.
+    void CommitGathered();
+    // Takes back what was gathered since the last portion.
+    void DropGathered() noexcept;
+    void EndGathering() noexcept; // drops what was not committed
+
     // Takes the write lock and lets go of it again: None when the file can be written now. Does not throw.
     [[nodiscard]] eDatabaseFault ProbeWrite() noexcept;
 
@@ -120,12 +135,16 @@ private:
 
     [[nodiscard]] cConnection& Connection() const;
     void InstallWatcher();
+    void BeginGathered();
 
     std::function<void(const cRowBefore&)> m_watcher;
     std::unique_ptr<cConnection> m_connection;
     QString m_path;
     int m_busyTimeout;
     bool m_isReadOnly = false;
+    std::optional<eGathering> m_gathering;
+    bool m_hasBegun = false; // the transaction of what is gathered
+    QElapsedTimer m_sinceBegin;
     quint64 m_importVersion = 0;
     qint64 m_dataVersion = 0; // last one seen of other connections
 };

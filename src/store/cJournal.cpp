@@ -1,5 +1,7 @@
 #include "store/cJournal.h"
 
+#include "store/modFailure.h"
+
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -32,34 +34,9 @@ std::string InsertText(cDatabase& database, std::string_view table)
     return "INSERT OR REPLACE INTO " + std::string(table) + " (" + columns + ") VALUES (" + values + ")";
 }
 
-// The writes that take a step back are one transaction: all of them or none, and one journal file for all.
-class cTransaction
-{
-public:
-    explicit cTransaction(cDatabase& database) : m_database(database) { m_database.Execute("BEGIN IMMEDIATE"); }
-    cTransaction(const cTransaction&) = delete;
-    cTransaction& operator=(const cTransaction&) = delete;
-    ~cTransaction()
-    {
-        if (m_isOpen) {
-            m_database.TryExecute("ROLLBACK");
-        }
-    }
-
-    void Commit()
-    {
-        m_database.Execute("COMMIT");
-        m_isOpen = false;
-    }
-
-private:
-    cDatabase& m_database;
-    bool m_isOpen = true;
-};
-
 } // namespace
 
-cJournal::cJournal(cDatabase& database) : m_database(database)
+cJournal::cJournal(cDatabase& database, cUser& user) : m_database(database), m_user(user)
 {
     m_database.WatchRows([this](const cRowBefore& row) { Note(row); });
 }
@@ -69,53 +46,97 @@ cJournal::~cJournal()
     m_database.WatchRows({});
 }
 
-void cJournal::Begin(const QString& name)
+bool cJournal::Try(const char16_t* operation, const std::function<void()>& action)
+{
+    try {
+        action();
+        return true;
+    } catch (const std::exception& error) {
+        modFailure::Show(m_user, QString::fromUtf16(operation), error);
+        return false;
+    }
+}
+
+void cJournal::Begin(const QString& name, eWrites writes)
 {
     if (m_depth == 0) {
         m_open = {name, {}, {}};
+        m_writes = writes;
+        m_database.Gather(writes);
     }
     ++m_depth;
 }
 
-void cJournal::End()
+bool cJournal::End()
 {
     --m_depth;
-    if (m_depth > 0 || m_open.Images.empty()) {
-        return;
+    if (m_depth > 0) {
+        return true;
     }
-    m_undo.push_back(std::exchange(m_open, {}));
-    m_redo.clear();
-    if (m_undo.size() > mostSteps) {
-        m_undo.pop_front();
+    const bool isWritten = Try(u"EndStep", [this] { m_database.CommitGathered(); });
+    m_database.EndGathering();
+    cStep step = std::exchange(m_open, {});
+    const bool isKept = isWritten && !step.Images.empty();
+    if (isKept) {
+        m_undo.push_back(std::move(step));
+        m_redo.clear();
+        if (m_undo.size() > mostSteps) {
+            m_undo.pop_front();
+        }
     }
+    if (m_tell) {
+        m_tell(isKept);
+    }
+    return isWritten;
 }
 
 void cJournal::Revert()
 {
     const std::size_t parts = m_parts.size();
     while (!m_parts.empty()) {
-        EndPart(); // the oldest image of each row counts
+        cPart part = std::move(m_parts.back());
+        m_parts.pop_back();
+        Join(std::move(part)); // the oldest image of each row counts
     }
-    (void)Apply(m_open);
+    m_database.DropGathered();
+    if (m_writes == eWrites::InPortions) {
+        // What earlier portions have put into the file goes by the images of its rows.
+        (void)Try(u"RevertStep", [this] { (void)Apply(m_open); });
+    }
     m_open.Images.clear();
     m_open.Known.clear();
     m_parts.resize(parts);
 }
 
+// In portions, what was written so far is put into the file.
+bool cJournal::KeepPortion()
+{
+    return m_depth == 0 || m_writes == eWrites::Whole || Try(u"EndStep", [this] { m_database.CommitGathered(); });
+}
+
 void cJournal::BeginPart()
 {
+    (void)KeepPortion(); // of a failure the user was told, and what was written before is no matter of the part
     m_parts.push_back({m_open.Images.size(), {}});
 }
 
-void cJournal::EndPart()
+bool cJournal::EndPart()
 {
     cPart part = std::move(m_parts.back());
     m_parts.pop_back();
-    if (Known().empty()) {
-        Known() = std::move(part.Known); // all images are those of the part
+    Join(std::move(part));
+    return KeepPortion();
+}
+
+// The images of a part become those of what is around it, as far as that has none of the row yet.
+void cJournal::Join(cPart part)
+{
+    std::set<cRowKey>& known = m_parts.empty() ? m_open.Known : m_parts.back().Known;
+    if (known.empty()) {
+        known = std::move(part.Known); // all images are those of the part
         return;
     }
-    const auto isOlderKnown = [this](const cImage& image) { return !Known().insert(image.Key).second; };
+    const auto isOlderKnown = [&known](const cImage& image) { return !known.insert(image.Key).second; };
     std::vector<cImage>& images = m_open.Images;
     const auto begin = images.begin() + static_cast<std::ptrdiff_t>(part.First);
     images.erase(std::remove_if(begin, images.end(), isOlderKnown), images.end());
@@ -123,9 +144,12 @@ void cJournal::EndPart()
 
 void cJournal::RevertPart()
 {
+    if (m_writes == eWrites::InPortions) {
+        m_database.DropGathered(); // of the part only: what was before it is in the file
+    }
     cPart& part = m_parts.back();
     const auto begin = m_open.Images.begin() + static_cast<std::ptrdiff_t>(part.First);
-    (void)Apply({{}, {begin, m_open.Images.end()}, {}});
+    (void)Try(u"RevertStep", [&] { (void)Apply({{}, {begin, m_open.Images.end()}, {}}); });
     m_open.Images.erase(begin, m_open.Images.end());
     part.Known.clear();
 }
@@ -165,20 +189,22 @@ QString cJournal::RedoName() const
     return m_redo.empty() ? QString() : m_redo.back().Name;
 }
 
-void cJournal::Undo()
+void cJournal::Move(std::deque<cStep>& from, std::deque<cStep>& to)
 {
-    if (!m_undo.empty()) {
-        m_redo.push_back(Apply(m_undo.back()));
-        m_undo.pop_back();
+    if (!from.empty()) {
+        to.push_back(Apply(from.back()));
+        from.pop_back();
     }
 }
 
-void cJournal::Redo()
+bool cJournal::Undo()
 {
-    if (!m_redo.empty()) {
-        m_undo.push_back(Apply(m_redo.back()));
-        m_redo.pop_back();
-    }
+    return Try(u"Undo", [this] { Move(m_undo, m_redo); });
+}
+
+bool cJournal::Redo()
+{
+    return Try(u"Redo", [this] { Move(m_redo, m_undo); });
 }
 
 void cJournal::Forget()
@@ -195,11 +221,22 @@ cJournal::cStep cJournal::Apply(const cStep& step)
     if (step.Images.empty()) {
         return back; // a book that can only be read has no more than that
     }
-    cTransaction transaction(m_database);
+    // All rows come back or none does. Within an open step they come with what it goes on to write.
+    const bool isOfStep = m_database.IsGathering();
+    if (!isOfStep) {
+        m_database.Gather(eWrites::Whole);
+    }
     m_back = &back;
-    const auto done = qScopeGuard([this] { m_back = nullptr; });
+    const auto done = qScopeGuard([&] {
+        m_back = nullptr;
+        if (!isOfStep) {
+            m_database.EndGathering();
+        }
+    });
     WriteBack(step.Images);
-    transaction.Commit();
+    if (!isOfStep) {
+        m_database.CommitGathered();
+    }
     return back;
 }
 

@@ -222,14 +222,22 @@ void CreateIndexes(cDatabase& database)
     }
 }
 
-// What the upgrade does to the tables and their rows.
+// What the upgrade does to the tables and their rows. In the file it is one transaction, so that a program that is
+// killed meanwhile leaves no half upgraded book; what fails in it is passed over.
 void BringUpToDate(cDatabase& database)
 {
+    database.Gather(cDatabase::eGathering::Whole);
     AddTablesAndColumns(database);
     ConvertCodes(database, "EntryType", typeWords);
     ConvertCodes(database, "EntryInterval", intervalWords);
     CompleteAccounts(database);
     CreateIndexes(database);
+    try {
+        database.CommitGathered();
+    } catch (const cDatabaseError&) {
+        // The book stays as old as it is; whoever misses a part says so.
+    }
+    database.EndGathering();
 }
 
 // What cannot be looked at is passed over, as the upgrade does. Whoever reads it next is told why.

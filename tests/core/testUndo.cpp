@@ -119,14 +119,14 @@ void testUndo::StepsGoBackAndForth()
     const QStringList after = Dump(book.Database);
     QVERIFY(after != before);
     const quint64 version = book.Data.ImportVersion();
-    QCOMPARE(book.Data.UndoName(), u"etwas getan"_s);
-    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), u"etwas getan"_s);
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Dump(book.Database), before);
-    QCOMPARE(book.Data.UndoName(), QString());
-    QCOMPARE(book.Data.RedoName(), u"etwas getan"_s);
-    QVERIFY(book.Data.Redo());
+    QCOMPARE(book.Data.Journal().UndoName(), QString());
+    QCOMPARE(book.Data.Journal().RedoName(), u"etwas getan"_s);
+    QVERIFY(book.Data.Journal().Redo());
     QCOMPARE(Dump(book.Database), after);
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Dump(book.Database), before);
     // Whoever keeps the bank rows in memory has to see that they changed.
     const bool touchesImports = after.filter(u"import|"_s) != before.filter(u"import|"_s);
@@ -149,9 +149,9 @@ void testUndo::TableWithoutPrimaryKey()
         QVERIFY(book.Data.ChangeEntry(changed) && book.Data.DeleteEntry(deleted.ID));
     }
     const QStringList after = Dump(book.Database);
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Dump(book.Database), before);
-    QVERIFY(book.Data.Redo());
+    QVERIFY(book.Data.Journal().Redo());
     QCOMPARE(Dump(book.Database), after);
 }
 
@@ -168,7 +168,7 @@ void testUndo::FailedStepLeavesNothing()
         QVERIFY(!step.Revert());
     }
     QCOMPARE(Dump(book.Database), before);
-    QCOMPARE(book.Data.UndoName(), QString());
+    QCOMPARE(book.Data.Journal().UndoName(), QString());
 }
 
 void testUndo::WriteOutsideForgets()
@@ -180,9 +180,9 @@ void testUndo::WriteOutsideForgets()
         QVERIFY(book.Data.DeleteEntry(entry.ID));
     }
     QVERIFY(book.Settings->Set(u"MainFilter"_s, u"x"_s)); // choices of the view change nothing
-    QCOMPARE(book.Data.UndoName(), u"gelöscht"_s);
+    QCOMPARE(book.Data.Journal().UndoName(), u"gelöscht"_s);
     (void)book.Add([](cEntryItem&) {}); // may have taken the ID of the deleted entry
-    QCOMPARE(book.Data.UndoName(), QString());
+    QCOMPARE(book.Data.Journal().UndoName(), QString());
 }
 
 void testUndo::StepsFollowEachOther()
@@ -194,15 +194,15 @@ void testUndo::StepsFollowEachOther()
         const cUndoStep inner(book.Data, u"innen"_s);
         (void)book.Add([](cEntryItem&) {});
     }
-    QVERIFY(book.Data.Undo() && book.Data.Undo());
-    QCOMPARE(book.Data.UndoName(), u"1"_s);
-    QCOMPARE(book.Data.RedoName(), u"2"_s);
+    QVERIFY(book.Data.Journal().Undo() && book.Data.Journal().Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), u"1"_s);
+    QCOMPARE(book.Data.Journal().RedoName(), u"2"_s);
     {
         const cUndoStep step(book.Data, u"anders"_s);
         (void)book.Add([](cEntryItem&) {});
     }
-    QCOMPARE(book.Data.RedoName(), QString()); // the way forward has changed
-    QVERIFY(book.Data.Undo() && book.Data.Undo());
+    QCOMPARE(book.Data.Journal().RedoName(), QString()); // the way forward has changed
+    QVERIFY(book.Data.Journal().Undo() && book.Data.Journal().Undo());
     QCOMPARE(Dump(book.Database), before);
 }
 

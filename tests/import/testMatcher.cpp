@@ -352,9 +352,9 @@ void testMatcher::OneUndoStep() const
         const cUndoStep step(bank.Data, u"zugeordnet"_s);
         QCOMPARE(Counts(bank.Match(rows)), QList<int>({3, 0, 0, 0}));
     }
-    QVERIFY(bank.Data.Undo());
+    QVERIFY(bank.Data.Journal().Undo());
     QCOMPARE(bank.Hive.GetImportHive().GetImportEntriesByAssignedID(-1).size(), 3);
-    QVERIFY(bank.Data.Redo());
+    QVERIFY(bank.Data.Journal().Redo());
     QVERIFY(!bank.Hive.GetImportHive().IsImportEntryAvail(-1));
 }
 

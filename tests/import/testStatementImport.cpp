@@ -128,9 +128,9 @@ private Q_SLOTS:
             QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({0, 0}));
             QCOMPARE(book.Data.GetImportEntries().size(), 3);
         }
-        QVERIFY(book.Data.Undo());
+        QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(book.Data.GetImportEntries().size(), 0);
-        QVERIFY(book.Data.Redo());
+        QVERIFY(book.Data.Journal().Redo());
         QCOMPARE(book.Data.GetImportEntries().size(), 3);
     }
 

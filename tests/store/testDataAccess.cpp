@@ -311,7 +311,9 @@ private Q_SLOTS:
         entry.EntryDescription = QString(100'000, u'x');
         QVERIFY(!book.Data.AddNewEntry(entry));
         QVERIFY(!book.Data.ChangeEntry(entry));
-        QCOMPARE(book.User.Shown.value(0), u"ERROR: AddNewEntry\ndatabase or disk is full"_s);
+        QCOMPARE(
+            book.User.Shown.value(0),
+            u"ERROR: AddNewEntry\nDer Datenträger ist voll. Bitte schaffen Sie Platz und versuchen Sie es noch einmal."_s);
         QCOMPARE(book.Data.CountEntries(), 1);
         QCOMPARE(book.Data.LoadEntry(1)->EntryDescription, Entry().EntryDescription);
         QVERIFY(book.Database.IntegrityCheck().isEmpty());
@@ -325,7 +327,10 @@ private Q_SLOTS:
         other.Execute("BEGIN IMMEDIATE");
         cEntryItem entry = Entry();
         QVERIFY(!book.Data.AddNewEntry(entry));
-        QCOMPARE(book.User.Shown, QStringList(u"ERROR: AddNewEntry\ndatabase is locked"_s));
+        QCOMPARE(
+            book.User.Shown,
+            QStringList(
+                u"ERROR: AddNewEntry\nDie Datenbank ist gesperrt: Ein anderes Programm schreibt gerade hinein. Bitte versuchen Sie es gleich noch einmal."_s));
         other.Execute("ROLLBACK");
         QVERIFY(book.Data.AddNewEntry(entry));
     }

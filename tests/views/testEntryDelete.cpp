@@ -145,8 +145,8 @@ void testEntryDelete::DeletingIsOneStep()
     cEntryDelete flow(book.Data, book.User, format);
     book.User.Decisions = {0};
     QVERIFY(flow.Delete(QList<int>{1, 4}));
-    QCOMPARE(book.Data.UndoName(), u"2 Einträge gelöscht"_s);
-    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), u"2 Einträge gelöscht"_s);
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(book.Data.CountEntries(), 4);
     QCOMPARE(book.Data.LoadEntry(3)->EntryFlags, u"split=1"_s);
 }
@@ -192,7 +192,7 @@ void testEntryDelete::SelectionWithSeriesAsksHowMuch()
     QVERIFY(!cEntryDelete(book.Data, book.User, format).Delete(keys));
     QTEST(book.User.LastDecision.Text, "question");
     QTEST(book.User.LastDecision.Options, "options");
-    QCOMPARE(book.Data.UndoName(), QString()); // given up: nothing was written
+    QCOMPARE(book.Data.Journal().UndoName(), QString()); // given up: nothing was written
 }
 
 void testEntryDelete::PartOfASeriesGoes_data()
@@ -219,11 +219,11 @@ void testEntryDelete::PartOfASeriesGoes()
     QVERIFY(cEntryDelete(book.Data, book.User, format)
                 .Delete({{1, QDate(2026, 4, 10)}, {2, QDate(2026, 3, 10)}, {3, QDate(2026, 3, 10)}}));
     QTEST(Occurrences(book), "left");
-    QTEST(book.Data.UndoName(), "step");
+    QTEST(book.Data.Journal().UndoName(), "step");
     if (choice == 0) {
         QCOMPARE(book.Data.GetEntryMods(1).constFirst().EntryComment, u"Ausgelassen"_s);
     }
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Occurrences(book), before);
     QCOMPARE(book.Data.CountEntries(), 3);
 }

@@ -434,7 +434,7 @@ void testEntryEditor::StartBalanceHasItsSign()
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
     QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryType, modWord::Einnahme);
     QCOMPARE(book.Data.CountEntries(), 1);
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryValue, 12050);
 }
 
@@ -460,11 +460,11 @@ void testEntryEditor::NamesTheStep()
     cTestBook book;
     cEntryEditor editor(book.Data, book.User, book.Clock);
     QCOMPARE(editor.Save(Fields()), cEntryEditor::eSaved::Saved);
-    QCOMPARE(book.Data.UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
+    QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
     cEntryEditor::cFields fields = editor.Load(editor.SavedId()).value();
     fields.Description = u"Miete"_s;
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(book.Data.UndoName(), u"Eintrag 'Miete' geändert"_s);
+    QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Miete' geändert"_s);
 }
 
 void testEntryEditor::LabelNamesTheCurrency()

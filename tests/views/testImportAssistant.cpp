@@ -308,7 +308,7 @@ private Q_SLOTS:
         QCOMPARE(rows.size(), 4); // the booked one stays
         QCOMPARE(rows.first().ID, booked);
         QCOMPARE(rows.last().ImportValue, 4.0);
-        QVERIFY(page.Data.Undo());
+        QVERIFY(page.Data.Journal().Undo());
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
         QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -1.0);
         page.IsConfirmed = false;
@@ -323,7 +323,7 @@ private Q_SLOTS:
         page.Review.Files().ImportFiles({QStringLiteral(TEST_DATA "/mt940/giro.sta")}, progress);
         QCOMPARE(page.Data.GetImportEntries().size(), 0);
         QCOMPARE(page.Review.Summary(), QStringList(u"giro.sta: abgebrochen, nichts davon übernommen."_s));
-        QVERIFY(page.Data.UndoName().isEmpty());
+        QVERIFY(page.Data.Journal().UndoName().isEmpty());
     }
 
     void pendingRowsCanBeTaken()

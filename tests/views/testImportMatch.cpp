@@ -107,8 +107,8 @@ void testImportMatch::MatchesInOneStep() const
                           u"03.03.2026  ·  -23,10"_s + space + u"€  ·  REWE → 'REWE' vom 03.03. (100 %)"_s}));
     QCOMPARE(entries.size(), 0); // the book is as it was
     QCOMPARE(page.Review.View().CountText(), u"1 offen, 2 insgesamt"_s);
-    QCOMPARE(page.Data.UndoName(), u"2 Umsätze abgeglichen"_s);
-    QVERIFY(page.Data.Undo());
+    QCOMPARE(page.Data.Journal().UndoName(), u"2 Umsätze abgeglichen"_s);
+    QVERIFY(page.Data.Journal().Undo());
     QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
 }
 
@@ -151,7 +151,7 @@ void testImportMatch::OffersToCorrectSeries() const
     QCOMPARE(page.Assigned(), QList<int>{rent});
     QCOMPARE(page.Data.GetEntryMods(rent).size(), corrections);
     QCOMPARE(entries.size(), corrections);
-    QVERIFY(page.Data.Undo());
+    QVERIFY(page.Data.Journal().Undo());
     QCOMPARE(page.Assigned(), QList<int>{-1});
     QCOMPARE(page.Data.GetEntryMods(rent).size(), 0);
 }
@@ -182,7 +182,7 @@ void testImportMatch::AsksForTheAccount() const
     (void)page.Stage(-23.1, u"REWE"_s, u"4711"_s);
     page.Review.Match({}, page.Progress); // the user gives up
     QCOMPARE(page.Review.Summary().last(), u"Die Kontonummer 4711 hat noch kein Konto; ihre Umsätze bleiben offen."_s);
-    QVERIFY(page.Data.UndoName().isEmpty());
+    QVERIFY(page.Data.Journal().UndoName().isEmpty());
     page.User.Choices = {u"Girokonto"_s};
     page.Review.Match({}, page.Progress);
     QCOMPARE(page.Assigned(), QList<int>{entry});
@@ -246,7 +246,7 @@ void testImportMatch::AssignsByHand() const
     QVERIFY(list->Assign(list->Proposed()));
     QCOMPARE(page.Assigned(), QList<int>({shop, boots}));
     QCOMPARE(page.Review.Summary(), QStringList(u"Umsatz zugeordnet: 'Stiefel' vom 03.03."_s));
-    QCOMPARE(page.Data.UndoName(), u"Umsatz zugeordnet"_s);
+    QCOMPARE(page.Data.Journal().UndoName(), u"Umsatz zugeordnet"_s);
 }
 
 void testImportMatch::AssignsParts() const
@@ -274,7 +274,7 @@ void testImportMatch::AsksBeforeASeriesIsCorrected() const
     QVERIFY(list->Assign(0));
     QCOMPARE(page.Assigned(), QList<int>{rent});
     QCOMPARE(page.Data.GetEntryMods(rent).value(0).EntryValue, 66000);
-    QVERIFY(page.Data.Undo());
+    QVERIFY(page.Data.Journal().Undo());
     QCOMPARE(page.Data.GetEntryMods(rent).size(), 0);
 }
 
@@ -303,7 +303,7 @@ void testImportMatch::Releases() const
     QCOMPARE(page.Review.Summary(),
              QStringList(u"Ein Umsatz gelöst und wieder offen. Einträge bleiben im Haushaltsbuch."_s));
     QVERIFY(page.Data.LoadEntry(entry));
-    QVERIFY(page.Data.Undo());
+    QVERIFY(page.Data.Journal().Undo());
     QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
 }
 

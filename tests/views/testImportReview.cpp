@@ -295,7 +295,7 @@ private Q_SLOTS:
         page.User.Answers = {eAnswer::Yes};
         page.Review.AcceptProposals(page.Progress);
         QCOMPARE(page.Review.View().CountText(), u"1 offen, 6 insgesamt"_s);
-        QVERIFY(page.Data.Undo()); // all of it is one step
+        QVERIFY(page.Data.Journal().Undo()); // all of it is one step
         QCOMPARE(page.Data.CountEntries(), 1);
         page.Review.Refresh();
         page.Review.View().SetFilter(u"unbekannt"_s);

@@ -389,7 +389,7 @@ void testMainModel::DeletesAfterSayingWhatASeriesMeans()
     scene.Model->Execute(modCommand::DeleteEntry);
     QCOMPARE(scene.Book.Data.CountEntries(), 4);
     QCOMPARE(scene.Model->Entries().rowCount(), 3);
-    QVERIFY(scene.Model->MenuText(modCommand::Undo).endsWith(scene.Book.Data.UndoName()));
+    QVERIFY(scene.Model->MenuText(modCommand::Undo).endsWith(scene.Book.Data.Journal().UndoName()));
     scene.Model->Execute(modCommand::DeleteEntry); // nothing is selected any more
     QCOMPARE(scene.Book.User.Asked.size(), 2);
 }

@@ -113,7 +113,7 @@ void testOldNames::CleansNamesOfOlderBooks()
     QCOMPARE(renamed.size(), account == u"Omas Konto" ? 1 : 0);
     QCOMPARE(scene.Book.User.Shown.size(), 1); // one line, whatever went along
     QVERIFY2(scene.Book.User.Shown.constFirst().contains(u" heißt jetzt '"), qPrintable(scene.Book.User.Shown.first()));
-    QVERIFY(scene.Book.Data.Undo());
+    QVERIFY(scene.Book.Data.Journal().Undo());
     QCOMPARE(scene.Path(scene.Food), u"Haus & Hof; Obst & Gemüse"_s);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Transfer)->EntryAccountMove, u"Oma's Konto"_s);
 }

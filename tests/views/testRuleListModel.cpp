@@ -233,9 +233,9 @@ void testRuleListModel::EachChangeIsUndone() const
     QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
     scene.User.Answers = {eAnswer::Yes};
     QVERIFY(list.Delete(0));
-    QCOMPARE(scene.Data.UndoName(), u"Regel gelöscht"_s);
-    QVERIFY(scene.Data.Undo());
-    QVERIFY(scene.Data.Undo());
+    QCOMPARE(scene.Data.Journal().UndoName(), u"Regel gelöscht"_s);
+    QVERIFY(scene.Data.Journal().Undo());
+    QVERIFY(scene.Data.Journal().Undo());
     scene.Settings->Reload();
     QCOMPARE(scene.Texts(), QStringList({u"a"_s, u"b"_s}));
 }
@@ -309,8 +309,8 @@ void testRuleListModel::RenamedCategoriesAndAccounts() const
     scene.User.Answers = {eAnswer::Yes};
     QVERIFY(manager.MergeCategory(u"Daheim; Essen"_s, u"Daheim; Getränke"_s));
     QCOMPARE(cOwnRules(*scene.Settings).Load().value(0).Category, u"Daheim; Getränke"_s);
-    while (!scene.Data.UndoName().isEmpty()) {
-        QVERIFY(scene.Data.Undo()); // true also when there is nothing left
+    while (!scene.Data.Journal().UndoName().isEmpty()) {
+        QVERIFY(scene.Data.Journal().Undo()); // true also when there is nothing left
         scene.Settings->Reload();
     }
     QCOMPARE(cOwnRules(*scene.Settings).Load().value(0), rule);

@@ -97,8 +97,8 @@ void testSeriesChange::CorrectsOnePeriod()
     QVERIFY(!change.CorrectPeriod(id, QDate(2026, 2, 10), 1, {}));          // before the series
     QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1300 neu"_s}));
     QCOMPARE(book.Data.GetEntryMods(id).first().EntryEndDate, QDate(2026, 5, 31));
-    QCOMPARE(book.Data.UndoName(), u"Betrag von 'Miete' korrigiert"_s);
-    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), u"Betrag von 'Miete' korrigiert"_s);
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1250 Nachzahlung"_s}));
 }
 
@@ -178,7 +178,7 @@ void testSeriesChange::PageIsStoredWithTheEntry()
     QCOMPARE(Corrections(book, id),
              QStringList({u"2026-04-01 2 bleibt"_s, u"2026-05-01 3000 geändert"_s, u"2026-06-01 400 neu"_s}));
     QVERIFY(book.User.Asked.isEmpty());
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Corrections(book, id),
              QStringList({u"2026-03-01 1 weg"_s, u"2026-04-01 2 bleibt"_s, u"2026-05-01 3 anders"_s}));
 }
@@ -210,7 +210,7 @@ void testSeriesChange::FromHereSplitsTheSeries()
     QCOMPARE(next.EntryValue, 1100);
     QCOMPARE(Corrections(book, next.ID), QStringList({u"2026-05-01 2 dieser"_s, u"2026-08-01 3 später"_s}));
 
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(book.Data.CountEntries(), 1);
     QCOMPARE(Corrections(book, id).size(), 3);
     QCOMPARE(book.Data.LoadEntry(id)->EntryDateEnd, modRecurrence::OpenEnd);

@@ -71,10 +71,10 @@ void testSplitEntry::StoresPartsAsOrdinaryEntries()
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     QCOMPARE(Rows(book), storedPurchase);
     QCOMPARE(editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00 €"_s}));
-    QCOMPARE(book.Data.UndoName(), u"Eintrag 'Einkauf' angelegt"_s);
-    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Einkauf' angelegt"_s);
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(book.Data.CountEntries(), 0);
-    QVERIFY(book.Data.Redo());
+    QVERIFY(book.Data.Journal().Redo());
     QCOMPARE(Rows(book), storedPurchase);
 }
 
@@ -156,7 +156,7 @@ void testSplitEntry::RemovedAndAddedParts()
     QCOMPARE(Rows(book),
              QStringList({u"Ausgabe 1300 Krimi [split=2]"_s, u"Einnahme 300 Leergut [split=2]"_s,
                           u"Ausgabe 4000 Käse [split=2]"_s}));
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(Rows(book), storedPurchase);
 }
 

@@ -86,7 +86,7 @@ void testTemplateFlow::MovesTransfersThatLeadToTheAccount()
     QCOMPARE(book.User.Asked.size(), 1);
     QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, u"Kasse"_s);
     QCOMPARE(book.Data.LoadEntry(other.ID)->EntryAccount, u"Börse"_s);
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, u"börse"_s);
 }
 
@@ -99,8 +99,8 @@ void testTemplateFlow::BankAccountFollowsTheName()
     QVERIFY(book.User.Asked.isEmpty()); // no entry refers to the account
     QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Kasse"_s);
     QCOMPARE(book.Settings->Get(u"MainKonto"_s), u"Kasse"_s);
-    QCOMPARE(book.Data.UndoName(), u"Konto 'Bargeld' umbenannt"_s);
-    QVERIFY(book.Data.Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), u"Konto 'Bargeld' umbenannt"_s);
+    QVERIFY(book.Data.Journal().Undo());
     book.Settings->Reload();
     QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Bargeld"_s);
 }
@@ -130,7 +130,7 @@ void testTemplateFlow::MainCategoryTakesItsPathsAlong()
     QCOMPARE(book.Data.LoadEntry(own.ID)->EntryCategory, u"Haus"_s);
     QCOMPARE(book.Data.LoadEntry(other.ID)->EntryCategory, u"Haushaltsgeld; Mai"_s);
     QVERIFY(book.Data.FindTemplate(u"Haus"_s, u"Lebensmittel"_s));
-    QVERIFY(book.Data.Undo());
+    QVERIFY(book.Data.Journal().Undo());
     QVERIFY(book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s));
     QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haushalt; Lebensmittel"_s);
 }

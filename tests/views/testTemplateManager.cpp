@@ -104,8 +104,8 @@ void testTemplateManager::DeletesACategory()
              (QStringList{u"Buchungen verschieben und löschen"_s, u"Nur die Kategorie löschen"_s}));
     QVERIFY(!scene.Book.User.LastChoice.Items.contains(food));
     QVERIFY(!scene.Book.User.LastChoice.Items.contains(modWord::Startguthaben));
-    QCOMPARE(scene.Book.Data.UndoName(), isDeleted ? u"Kategorie 'Haushalt; Lebensmittel' gelöscht"_s : QString());
-    QVERIFY(!isDeleted || scene.Book.Data.Undo());
+    QCOMPARE(scene.Book.Data.Journal().UndoName(), isDeleted ? u"Kategorie 'Haushalt; Lebensmittel' gelöscht"_s : QString());
+    QVERIFY(!isDeleted || scene.Book.Data.Journal().Undo());
     scene.Manager.Refresh();
     QVERIFY(scene.Has(food));
     QCOMPARE(scene.CategoryOf(2), food);
@@ -159,7 +159,7 @@ void testTemplateManager::KeepsTheCategoryOfStartBalances()
     QVERIFY(scene.Has(start));
     QCOMPARE(scene.Book.User.Shown.size(), 1);
     QVERIFY(scene.Book.User.Shown.constFirst().contains(u"erkennt das Programm die Startguthaben"));
-    QVERIFY(scene.Book.Data.UndoName().isEmpty());
+    QVERIFY(scene.Book.Data.Journal().UndoName().isEmpty());
 }
 
 void testTemplateManager::MergesIntoACategoryThatStaysAsItIs()
@@ -188,7 +188,7 @@ void testTemplateManager::MergesMainCategories()
     QCOMPARE(SubsOf(scene, u"Alltag"_s).count(u"Lebensmittel"_s), 1);
     QVERIFY(scene.Has(u"Alltag; Getränke"_s));
     QVERIFY(scene.Has(u"Alltag"_s) && scene.Category(u"Alltag"_s).Id > 0); // what was bookable stays bookable
-    QVERIFY(scene.Book.Data.Undo());
+    QVERIFY(scene.Book.Data.Journal().Undo());
     QCOMPARE(scene.CategoryOf(0), food);
 }
 
@@ -223,8 +223,8 @@ void testTemplateManager::ChangesACategoryInOneStep()
     QCOMPARE(item->TemplateDefaultValue, u"150.50"_s);
     QCOMPARE(item->EntryInterval, u"Wöchentlich"_s);
     QCOMPARE(item->TemplateVAT, u"5.5"_s);
-    QVERIFY(scene.Book.Data.Undo());
-    QVERIFY(scene.Book.Data.UndoName().isEmpty());
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QVERIFY(scene.Book.Data.Journal().UndoName().isEmpty());
     scene.Manager.Refresh();
     QCOMPARE(scene.Manager.Load(scene.Category(food))->Amount, QString());
     QCOMPARE(scene.CategoryOf(0), food);
@@ -313,7 +313,7 @@ void testTemplateManager::AddsWhereTheSelectionIs()
     QCOMPARE(scene.Book.Data.FindAccount(u"Tagesgeld"_s)->TemplateCategory, u"Bankkonten"_s);
     QVERIFY(scene.Manager.AskAdd(&category).isEmpty());
     QCOMPARE(scene.Book.User.Shown, QStringList(u"Die Kategorie 'Haushalt; Lebensmittel' existiert bereits!"_s));
-    QCOMPARE(scene.Book.Data.UndoName(), u"Konto 'Tagesgeld' angelegt"_s);
+    QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Konto 'Tagesgeld' angelegt"_s);
 }
 
 void testTemplateManager::ListsPathsThatNoCategoryHas()
@@ -407,7 +407,7 @@ void testTemplateManager::AssignsBankNumbers()
     QVERIFY(save(u"DE12 3456, 2"_s));
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Numbers, u"2\nDE123456"_s);
     QVERIFY(settings.Get(u"KTO:1"_s).isEmpty());
-    QVERIFY(scene.Book.Data.Undo());
+    QVERIFY(scene.Book.Data.Journal().Undo());
     settings.Reload();
     QCOMPARE(settings.Get(u"KTO:1"_s), u"Bargeld"_s);
     QCOMPARE(settings.Get(u"KTO:2"_s), u"Sparkonto"_s);
@@ -468,7 +468,7 @@ void testTemplateManager::MovesInTheOrder()
     QStringList moved = subs;
     moved.swapItemsAt(0, 1);
     QCOMPARE(SubsOf(scene, u"Haushalt"_s), moved);
-    QCOMPARE(scene.Book.Data.UndoName(), u"Reihenfolge geändert"_s);
+    QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Reihenfolge geändert"_s);
     QVERIFY(scene.Manager.Move(scene.Category(u"Haushalt"_s), eDirection::Up));
     QCOMPARE(scene.Manager.Mains().indexOf(u"Haushalt"_s), scene.Manager.Mains().indexOf(u"Wohnung"_s) - 1);
     QCOMPARE(SubsOf(scene, u"Haushalt"_s), moved);

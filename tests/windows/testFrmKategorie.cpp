@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Selected(), u"Haushalt; Backwaren"_s);
         QTest::keyClick(&scene.Tree(), Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(scene.Selected(), u"Haushalt; Backwaren"_s);
-        QCOMPARE(scene.Book.Data.UndoName(), u"Reihenfolge geändert"_s);
+        QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Reihenfolge geändert"_s);
         QVERIFY(scene.Window.Select(food));
         scene.Book.User.Decisions = {0};
         QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryValue, 10000);
         QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryDate, QDate(2026, 1, 1));
         QCOMPARE(scene.Book.Settings->Get(u"KTO:DE991"_s), u"Hauskonto"_s);
-        QCOMPARE(scene.Book.Data.UndoName(), u"Konto 'Girokonto' umbenannt"_s);
+        QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Konto 'Girokonto' umbenannt"_s);
     }
 
     void changesElsewhereLeaveWhatIsTyped()

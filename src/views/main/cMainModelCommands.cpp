@@ -75,7 +75,7 @@ bool cMainModel::IsEnabled(int command) const
 
 QString cMainModel::StepName(int command) const
 {
-    return command == modCommand::Undo ? m_parts.Data.UndoName() : m_parts.Data.RedoName();
+    return command == modCommand::Undo ? m_parts.Data.Journal().UndoName() : m_parts.Data.Journal().RedoName();
 }
 
 QString cMainModel::MenuText(int command) const
