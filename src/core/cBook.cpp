@@ -118,7 +118,7 @@ QString cBook::Path() const
 
 void cBook::LoadSettings()
 {
-    m_data->Journal().Forget(); // they are of another file
+    m_data->ForgetFile();
     if (m_settings) {
         m_settings->Reload();
     } else {

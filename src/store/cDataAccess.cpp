@@ -11,26 +11,67 @@ cDataAccess::cDataAccess(cDatabase& database, cUser& user)
     m_journal.OnEnd([this](bool isWritten) { TellCleaned(isWritten); });
 }
 
-bool cDataAccess::IsReadOnly() const
+void cDataAccess::ForgetFile()
 {
-    return m_database.IsReadOnly();
+    m_journal.Forget();
+    m_unread.clear();
 }
 
-bool cDataAccess::Try(const char* name, const std::function<void()>& operation)
+bool cDataAccess::IsReadOnly() const
+{
+    return m_database.IsReadOnly() || m_database.IsDamaged();
+}
+
+eDatabaseFault cDataAccess::Try(const char* name, const std::function<void()>& operation)
 {
     try {
         operation();
-        return true;
+        return eDatabaseFault::None;
     } catch (const std::exception& error) {
         modFailure::Show(m_user, QString::fromLatin1(name), error);
-        return false;
+        const auto* fault = dynamic_cast<const cDatabaseError*>(&error);
+        return fault != nullptr ? fault->Fault() : eDatabaseFault::Other;
     }
+}
+
+bool cDataAccess::Write(const char* name, const std::function<void()>& operation)
+{
+    return Try(name,
+               [&] {
+                   if (!m_unread.isEmpty()) {
+                       throw cDatabaseError(eDatabaseFault::Unread, m_unread.begin()->toStdString());
+                   }
+                   operation();
+               })
+        == eDatabaseFault::None;
+}
+
+bool cDataAccess::Read(const char* name, const std::function<void()>& operation)
+{
+    const eDatabaseFault fault = Try(name, operation);
+    // A table that the book has never had is missed by nobody.
+    if (fault == eDatabaseFault::None || fault == eDatabaseFault::Other) {
+        m_unread.remove(QString::fromLatin1(name));
+    } else {
+        m_unread.insert(QString::fromLatin1(name));
+    }
+    return fault == eDatabaseFault::None;
+}
+
+bool cDataAccess::Look(const char* name, const std::function<void()>& operation)
+{
+    return Try(name, operation) == eDatabaseFault::None;
+}
+
+bool cDataAccess::IsWhole() const
+{
+    return m_unread.isEmpty() && !m_database.IsDamaged();
 }
 
 QList<std::pair<QString, QString>> cDataAccess::GetSettings()
 {
     QList<std::pair<QString, QString>> settings;
-    Try("GetSettings", [&] {
+    Read("GetSettings", [&] {
         cRows rows(m_database, "SELECT SettingName, SettingValue FROM setting");
         while (rows.Next()) {
             settings.emplace_back(rows.Text(0), rows.Text(1));
@@ -41,7 +82,7 @@ QList<std::pair<QString, QString>> cDataAccess::GetSettings()
 
 bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
 {
-    return Try("ChangeSettingItem", [&] {
+    return Write("ChangeSettingItem", [&] {
         bool isKnown = false;
         {
             cRows rows(m_database, "SELECT COUNT(*) FROM setting WHERE SettingName=?", {name});
@@ -59,5 +100,5 @@ bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
 
 bool cDataAccess::DeleteSetting(const QString& name)
 {
-    return Try("DeleteSetting", [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
+    return Write("DeleteSetting", [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
 }

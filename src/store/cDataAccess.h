@@ -11,6 +11,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -48,7 +49,8 @@ struct cCleanedName
 };
 
 // Every operation on the database. A failure is shown to the user once, with the operation's name and the
-// reason in German, and returned as false, an empty optional or an empty list; nothing is retried.
+// reason in German, and returned as false, an empty optional or an empty list; nothing is retried. See IsWhole for what
+// follows from a failed read.
 class cDataAccess
 {
 public:
@@ -155,8 +157,14 @@ public:
     // The steps of the user; see cUndoStep.
     [[nodiscard]] cJournal& Journal() { return m_journal; }
 
-    // True when nothing can be written: the file was opened for reading only.
+    // Another file was opened: steps and failures of the last one mean nothing any more.
+    void ForgetFile();
+
+    // True when nothing can be written: the file was opened for reading only, or it turned out to be damaged.
     [[nodiscard]] bool IsReadOnly() const;
+    // False as long as something could not be read that was asked for. What a flow goes by may lack it, so every write
+    // is refused until the same operation has succeeded, and nothing may be exported.
+    [[nodiscard]] bool IsWhole() const;
 
 private:
     [[nodiscard]] bool WriteTemplate(const cTemplateItem& item);
@@ -169,12 +177,17 @@ private:
     [[nodiscard]] bool JoinGroups(const cTemplateItem& written);
     void TellCleaned(bool isWritten);
 
-    // Runs one operation; an exception becomes the message of that name, and false.
-    bool Try(const char* name, const std::function<void()>& operation);
+    // Runs one operation; an exception becomes the message of that name.
+    eDatabaseFault Try(const char* name, const std::function<void()>& operation);
+    // All are false after a failure. What `Read` gives may be what a flow decides by; `Look` gives hints and counts.
+    bool Write(const char* name, const std::function<void()>& operation);
+    bool Read(const char* name, const std::function<void()>& operation);
+    bool Look(const char* name, const std::function<void()>& operation);
 
     cDatabase& m_database;
     cUser& m_user;
     cJournal m_journal;
     fnFollow m_follow;
     QList<cCleanedName> m_cleaned; // in the open step
+    QSet<QString> m_unread;        // reading operations that failed the last time
 };

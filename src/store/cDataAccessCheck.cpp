@@ -68,7 +68,7 @@ private:
 std::optional<QList<cFaultyEntry>> cDataAccess::GetFaultyEntries()
 {
     QList<cFaultyEntry> faulty;
-    const bool isRead = Try("GetFaultyEntries", [&] {
+    const bool isRead = Look("GetFaultyEntries", [&] {
         cFaultReader reader(m_database);
         cRows rows(m_database, cEntryReader::Select + std::string(" ORDER BY ID"));
         while (rows.Next()) {

@@ -100,7 +100,7 @@ std::optional<cEntryItem> First(const cEntryItemList& entries)
 
 bool cDataAccess::AddNewEntry(cEntryItem& entry)
 {
-    return Try("AddNewEntry", [&] {
+    return Write("AddNewEntry", [&] {
         m_database.Execute("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
                            "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags) "
                            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
@@ -111,7 +111,7 @@ bool cDataAccess::AddNewEntry(cEntryItem& entry)
 
 bool cDataAccess::ChangeEntry(const cEntryItem& entry)
 {
-    return Try("ChangeEntry", [&] {
+    return Write("ChangeEntry", [&] {
         cBoundList values = EntryValues(entry, KeptForm(m_database, entry));
         values.emplace_back(entry.ID);
         m_database.Execute("UPDATE data SET EntryDate=?, EntryDateEnd=?, EntryType=?, EntryInterval=?, EntryAccount=?, "
@@ -124,14 +124,14 @@ bool cDataAccess::ChangeEntry(const cEntryItem& entry)
 bool cDataAccess::DeleteEntry(int id)
 {
     return ReleaseImports(id) && DeleteEntryModByRelation(id)
-        && Try("DeleteEntry", [&] { m_database.Execute("DELETE FROM data WHERE ID = ?", {id}); });
+        && Write("DeleteEntry", [&] { m_database.Execute("DELETE FROM data WHERE ID = ?", {id}); });
 }
 
 bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldName)
 {
     // Lower-casing only one side means that no name with a capital letter is ever matched. Existing books rely on what
     // this leaves untouched, so it stays; renaming an account moves the remaining entries by itself.
-    return Try("ChangeEntryAccount", [&] {
+    return Write("ChangeEntryAccount", [&] {
         const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
         m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=lower(?)", names);
         m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=lower(?)", names);
@@ -140,7 +140,7 @@ bool cDataAccess::ChangeEntryAccount(const QString& newName, const QString& oldN
 
 bool cDataAccess::ChangeEntryCategory(const QString& newPath, const QString& oldPath)
 {
-    return Try("ChangeEntryCategory", [&] {
+    return Write("ChangeEntryCategory", [&] {
         m_database.Execute("UPDATE data SET EntryCategory=? WHERE EntryCategory=?",
                            {modRow::Doubled(newPath), modRow::Doubled(oldPath)});
     });
@@ -149,14 +149,14 @@ bool cDataAccess::ChangeEntryCategory(const QString& newPath, const QString& old
 std::optional<cEntryItem> cDataAccess::LoadEntry(int id)
 {
     std::optional<cEntryItem> entry;
-    Try("LoadEntry", [&] { entry = First(ReadEntries(m_database, " WHERE ID = ?", {id})); });
+    Read("LoadEntry", [&] { entry = First(ReadEntries(m_database, " WHERE ID = ?", {id})); });
     return entry;
 }
 
 cEntryItemList cDataAccess::GetEntriesByTarget(const QString& account, const QString& target, const QString& type)
 {
     cEntryItemList entries;
-    Try("GetEntriesByTarget", [&] {
+    Read("GetEntriesByTarget", [&] {
         entries = ReadEntries(m_database, " WHERE EntryAccount = ? AND EntryAccountMove = ? AND EntryType = ?",
                               {modRow::Doubled(account), modRow::Doubled(target), type});
     });
@@ -166,7 +166,7 @@ cEntryItemList cDataAccess::GetEntriesByTarget(const QString& account, const QSt
 cEntryItemList cDataAccess::GetEntriesOfAccount(const QString& account)
 {
     cEntryItemList entries;
-    Try("GetEntriesOfAccount", [&] {
+    Read("GetEntriesOfAccount", [&] {
         const QString stored = modRow::Doubled(account);
         entries = ReadEntries(m_database, " WHERE EntryAccount = ? OR EntryAccountMove = ?", {stored, stored});
     });
@@ -176,14 +176,14 @@ cEntryItemList cDataAccess::GetEntriesOfAccount(const QString& account)
 int cDataAccess::CountEntries()
 {
     int count = 0;
-    Try("CountEntries", [&] { count = Count(m_database, "SELECT COUNT(*) FROM data", {}); });
+    Read("CountEntries", [&] { count = Count(m_database, "SELECT COUNT(*) FROM data", {}); });
     return count;
 }
 
 int cDataAccess::CountEntriesOfAccount(const QString& account)
 {
     int count = 0;
-    Try("CountEntriesOfAccount", [&] {
+    Read("CountEntriesOfAccount", [&] {
         count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryAccount = ?", {modRow::Doubled(account)});
     });
     return count;
@@ -192,7 +192,7 @@ int cDataAccess::CountEntriesOfAccount(const QString& account)
 int cDataAccess::CountEntriesOfCategory(const QString& path)
 {
     int count = 0;
-    Try("CountEntriesOfCategory", [&] {
+    Read("CountEntriesOfCategory", [&] {
         count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryCategory LIKE ?", {modRow::Doubled(path)});
     });
     return count;
@@ -201,7 +201,7 @@ int cDataAccess::CountEntriesOfCategory(const QString& path)
 QHash<QString, int> cDataAccess::CountEntriesByCategory()
 {
     QHash<QString, int> counts;
-    Try("CountEntriesByCategory", [&] {
+    Read("CountEntriesByCategory", [&] {
         counts = CountByText(m_database,
                              "SELECT EntryCategory, COUNT(*) FROM data WHERE EntryCategory IS NOT NULL "
                              "GROUP BY EntryCategory");
@@ -212,7 +212,7 @@ QHash<QString, int> cDataAccess::CountEntriesByCategory()
 QHash<QString, int> cDataAccess::CountEntriesByAccount()
 {
     QHash<QString, int> counts;
-    Try("CountEntriesByAccount", [&] {
+    Read("CountEntriesByAccount", [&] {
         counts = CountByText(m_database,
                              "SELECT EntryAccount AS Name, COUNT(*) FROM data WHERE Name <> '' GROUP BY Name "
                              "UNION ALL SELECT EntryAccountMove AS Name, COUNT(*) FROM data "
@@ -223,7 +223,7 @@ QHash<QString, int> cDataAccess::CountEntriesByAccount()
 
 bool cDataAccess::MoveEntriesToAccount(const QString& newName, const QString& oldName)
 {
-    return Try("MoveEntriesToAccount", [&] {
+    return Write("MoveEntriesToAccount", [&] {
         const cBoundList names{modRow::Doubled(newName), modRow::Doubled(oldName)};
         m_database.Execute("UPDATE data SET EntryAccount=? WHERE EntryAccount=?", names);
         m_database.Execute("UPDATE data SET EntryAccountMove=? WHERE EntryAccountMove=?", names);
@@ -233,7 +233,7 @@ bool cDataAccess::MoveEntriesToAccount(const QString& newName, const QString& ol
 QStringList cDataAccess::GetEntryAccounts()
 {
     QStringList accounts;
-    Try("GetEntryAccounts", [&] {
+    Read("GetEntryAccounts", [&] {
         cRows rows(m_database, "SELECT DISTINCT EntryAccount FROM data");
         while (rows.Next()) {
             accounts.append(modRow::ReadDoubled(rows.Bytes(0)));
@@ -245,7 +245,7 @@ QStringList cDataAccess::GetEntryAccounts()
 std::optional<cEntryItem> cDataAccess::GetStartGuthaben(const QString& account)
 {
     std::optional<cEntryItem> entry;
-    Try("GetStartGuthaben", [&] {
+    Read("GetStartGuthaben", [&] {
         entry = First(ReadEntries(
             m_database, " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",
             {modRow::Doubled(account), modWord::Startguthaben, modWord::Einmalig}));
@@ -256,7 +256,7 @@ std::optional<cEntryItem> cDataAccess::GetStartGuthaben(const QString& account)
 bool cDataAccess::SetStartGuthaben(const QString& account, qint64 cents, QDate date)
 {
     cEntryItem entry;
-    const bool isRead = Try("SetStartGuthaben", [&] {
+    const bool isRead = Write("SetStartGuthaben", [&] {
         entry =
             First(ReadEntries(m_database,
                               " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",

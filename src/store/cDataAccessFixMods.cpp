@@ -23,7 +23,7 @@ cBoundList FixModValues(const cEntryItemFixMod& fixMod)
 cEntryItemFixModList cDataAccess::GetEntryMods(int entryId)
 {
     cEntryItemFixModList fixMods;
-    Try("GetEntryMods", [&] {
+    Read("GetEntryMods", [&] {
         cRows rows(m_database, std::string(modFixModRow::Select) + " WHERE EntryRelation = ?", {entryId});
         while (rows.Next()) {
             fixMods.append(modFixModRow::Read(rows));
@@ -34,7 +34,7 @@ cEntryItemFixModList cDataAccess::GetEntryMods(int entryId)
 
 bool cDataAccess::AddNewEntryMod(const cEntryItemFixMod& fixMod)
 {
-    return Try("AddNewEntryMod", [&] {
+    return Write("AddNewEntryMod", [&] {
         const cBoundList key{fixMod.EntryRelation, modDate::ToIso(fixMod.EntryStartDate)};
         m_database.Execute("DELETE FROM datamod WHERE EntryRelation=? AND EntryStartDate=?", key);
         m_database.Execute(
@@ -46,7 +46,7 @@ bool cDataAccess::AddNewEntryMod(const cEntryItemFixMod& fixMod)
 
 bool cDataAccess::ChangeEntryMod(const cEntryItemFixMod& fixMod)
 {
-    return Try("ChangeEntryMod", [&] {
+    return Write("ChangeEntryMod", [&] {
         cBoundList values = FixModValues(fixMod);
         values.emplace_back(fixMod.ID);
         m_database.Execute("UPDATE datamod SET EntryRelation=?, EntryModType=?, EntryStartDate=?, EntryEndDate=?, "
@@ -58,11 +58,11 @@ bool cDataAccess::ChangeEntryMod(const cEntryItemFixMod& fixMod)
 bool cDataAccess::DeleteEntryMod(int id)
 {
     // The one message without the description
-    return Try("DeleteEntryMod", [&] { m_database.Execute("DELETE FROM datamod WHERE ID = ?", {id}); });
+    return Write("DeleteEntryMod", [&] { m_database.Execute("DELETE FROM datamod WHERE ID = ?", {id}); });
 }
 
 bool cDataAccess::DeleteEntryModByRelation(int entryId)
 {
-    return Try("DeleteEntryModByRelation",
-               [&] { m_database.Execute("DELETE FROM datamod WHERE EntryRelation = ?", {entryId}); });
+    return Write("DeleteEntryModByRelation",
+                 [&] { m_database.Execute("DELETE FROM datamod WHERE EntryRelation = ?", {entryId}); });
 }

@@ -6,7 +6,7 @@
 cEntryItemList cDataAccess::GetEntriesOfSplit(int group)
 {
     cEntryItemList entries;
-    const bool isRead = Try("GetEntriesOfSplit", [&] {
+    const bool isRead = Read("GetEntriesOfSplit", [&] {
         // The flags have other parts as well, so the mark is looked for between their separators.
         cEntryReader reader;
         cRows rows(m_database,
@@ -23,7 +23,7 @@ cEntryItemList cDataAccess::GetEntriesOfSplit(int group)
 QList<cDescriptionUse> cDataAccess::GetDescriptionUses(int entries)
 {
     QList<cDescriptionUse> uses;
-    Try("GetDescriptionUses", [&] {
+    Look("GetDescriptionUses", [&] {
         // Only the newest rows, by the primary key: the time does not grow with the book. Beside MAX(ID), SQLite takes
         // the other columns from the newest row of each group. A use counts less the longer ago it is, half after a
         // hundred entries.
@@ -45,7 +45,7 @@ QList<cDescriptionUse> cDataAccess::GetDescriptionUses(int entries)
 QStringList cDataAccess::GetRecentCategories(int entries)
 {
     QStringList paths;
-    Try("GetRecentCategories", [&] {
+    Look("GetRecentCategories", [&] {
         cRows rows(m_database,
                    "SELECT EntryCategory FROM (SELECT ID, EntryCategory FROM data ORDER BY ID DESC LIMIT ?) "
                    "WHERE EntryCategory <> '' AND EntryCategory <> ? GROUP BY EntryCategory ORDER BY MAX(ID) DESC",
@@ -60,7 +60,7 @@ QStringList cDataAccess::GetRecentCategories(int entries)
 QString cDataAccess::GetLastAccount()
 {
     QString account;
-    Try("GetLastAccount", [&] {
+    Look("GetLastAccount", [&] {
         cRows rows(m_database, "SELECT EntryAccount FROM data WHERE EntryCategory <> ? ORDER BY ID DESC LIMIT 1",
                    {modWord::Startguthaben});
         account = rows.Next() ? modRow::ReadDoubled(rows.Bytes(0)) : QString();

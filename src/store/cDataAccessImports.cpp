@@ -47,7 +47,7 @@ cImportEntry ReadImport(const cRows& row, cWordCache& words)
 cImportEntryList cDataAccess::GetImportEntries()
 {
     cImportEntryList entries;
-    const bool isRead = Try("GetImportEntries", [&] {
+    const bool isRead = Read("GetImportEntries", [&] {
         cWordCache words(eQuotes::Doubled);
         cRows rows(m_database,
                    "SELECT ID, ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
@@ -62,7 +62,7 @@ cImportEntryList cDataAccess::GetImportEntries()
 
 bool cDataAccess::AddNewImportEntry(cImportEntry& entry)
 {
-    return Try("AddNewImportEntry", [&] {
+    return Write("AddNewImportEntry", [&] {
         m_database.Execute(
             "INSERT INTO import (ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
             "ImportBeneficiaryAccount, ImportBeneficiaryBLZ, ImportValue, ImportCurrency, ImportAssigned, "
@@ -75,7 +75,7 @@ bool cDataAccess::AddNewImportEntry(cImportEntry& entry)
 
 bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
 {
-    return Try("ChangeImportEntry", [&] {
+    return Write("ChangeImportEntry", [&] {
         cBoundList values = ImportValues(entry);
         values.emplace_back(entry.ID);
         m_database.Execute("UPDATE import SET ImportAccount=?, ImportDate=?, ImportType=?, ImportPurpose=?, "
@@ -88,7 +88,7 @@ bool cDataAccess::ChangeImportEntry(const cImportEntry& entry)
 
 bool cDataAccess::DeleteImport(int id)
 {
-    return Try("DeleteImport", [&] {
+    return Write("DeleteImport", [&] {
         m_database.Execute("DELETE FROM import WHERE ID = ?", {id});
         m_database.NoteImportWrite();
     });
@@ -96,7 +96,7 @@ bool cDataAccess::DeleteImport(int id)
 
 bool cDataAccess::DeleteAllImports()
 {
-    return Try("DeleteAllImports", [&] {
+    return Write("DeleteAllImports", [&] {
         m_database.Execute("DELETE FROM import");
         m_database.NoteImportWrite();
     });
@@ -104,7 +104,7 @@ bool cDataAccess::DeleteAllImports()
 
 bool cDataAccess::ReleaseImports(int entryId)
 {
-    return Try("ReleaseImports", [&] {
+    return Write("ReleaseImports", [&] {
         m_database.Execute("UPDATE import SET ImportAssigned=?, ImportAssignedEntry=? WHERE ImportAssignedEntry = ?",
                            {isFalse, -1, entryId});
         m_database.NoteImportWrite();
@@ -114,7 +114,7 @@ bool cDataAccess::ReleaseImports(int entryId)
 QStringList cDataAccess::GetImportAccounts()
 {
     QStringList accounts;
-    Try("GetImportAccounts", [&] {
+    Look("GetImportAccounts", [&] {
         cRows rows(m_database, "SELECT DISTINCT ImportAccount FROM import");
         while (rows.Next()) {
             accounts.append(modRow::ReadDoubled(rows.Bytes(0)));
@@ -126,7 +126,7 @@ QStringList cDataAccess::GetImportAccounts()
 QHash<QString, int> cDataAccess::CountOpenImports()
 {
     QHash<QString, int> counts;
-    Try("CountOpenImports", [&] {
+    Look("CountOpenImports", [&] {
         cRows rows(m_database,
                    "SELECT ImportAccount, COUNT(*) FROM import "
                    "WHERE IFNULL(CAST(ImportAssigned AS INTEGER), 0) = 0 GROUP BY ImportAccount");
@@ -145,6 +145,6 @@ quint64 cDataAccess::KnownImportVersion() const
 quint64 cDataAccess::ImportVersion()
 {
     quint64 version = 0;
-    Try("ImportVersion", [&] { version = m_database.ImportVersion(); });
+    Read("ImportVersion", [&] { version = m_database.ImportVersion(); });
     return version;
 }

@@ -76,7 +76,7 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
     const cTemplateItem cleaned = IsClean(asked) ? asked : WithFreeName(asked);
     const bool isWritten = WriteTemplate(cleaned) && (!isKept || Follow(*stored, cleaned))
         && (!losesGroup || MoveGroup(*stored, cleaned.TemplateCategory)) && JoinGroups(cleaned);
-    return isWritten ? step.Done() : step.Revert();
+    return step.DoneIf(isWritten);
 }
 
 // Two definitions of one name could not be told apart by their entries.
@@ -157,10 +157,7 @@ bool cDataAccess::JoinGroups(const cTemplateItem& written)
         if (item.TemplateType == written.TemplateType && item.TemplateCategory != written.TemplateCategory
             && Cleaned(item.TemplateCategory) == written.TemplateCategory) {
             cUndoStep step(*this, cText::Tr("'{0}' geändert", {item.TemplateCategory}));
-            if (!MoveGroup(item, written.TemplateCategory)) {
-                return step.Revert();
-            }
-            if (!step.Done()) {
+            if (!step.DoneIf(MoveGroup(item, written.TemplateCategory))) {
                 return false;
             }
         }

@@ -53,13 +53,13 @@ std::optional<cOnlineAccount> First(const QList<cOnlineAccount>& accounts)
 QList<cOnlineAccount> cDataAccess::GetOnlineAccounts()
 {
     QList<cOnlineAccount> accounts;
-    Try("GetOnlineAccounts", [&] { accounts = ReadAccounts(m_database, " ORDER BY ID DESC", {}); });
+    Read("GetOnlineAccounts", [&] { accounts = ReadAccounts(m_database, " ORDER BY ID DESC", {}); });
     return accounts;
 }
 
 bool cDataAccess::GetNewOnlineAccount(cOnlineAccount& account)
 {
-    return Try("GetNewOnlineAccount", [&] {
+    return Write("GetNewOnlineAccount", [&] {
         m_database.Execute("INSERT INTO account (" + Columns("") + ") VALUES (" + Placeholders() + ")",
                            AccountValues(account));
         account = First(ReadAccounts(m_database, " ORDER BY ID DESC", {})).value_or(account);
@@ -68,7 +68,7 @@ bool cDataAccess::GetNewOnlineAccount(cOnlineAccount& account)
 
 bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
 {
-    return Try("ChangeOnlineAccount", [&] {
+    return Write("ChangeOnlineAccount", [&] {
         cBoundList values = AccountValues(account);
         values.emplace_back(account.ID);
         m_database.Execute("UPDATE account SET " + Columns("=?") + " WHERE ID = ?", values);
@@ -77,20 +77,20 @@ bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
 
 bool cDataAccess::DeleteOnlineAccount(int id)
 {
-    return Try("DeleteOnlineAccount", [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
+    return Write("DeleteOnlineAccount", [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
 }
 
 std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(int id)
 {
     std::optional<cOnlineAccount> account;
-    Try("FindOnlineAccount", [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
+    Read("FindOnlineAccount", [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
     return account;
 }
 
 std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(const QString& number, const QString& bankCode)
 {
     std::optional<cOnlineAccount> account;
-    Try("FindOnlineAccount", [&] {
+    Read("FindOnlineAccount", [&] {
         account = First(ReadAccounts(m_database, " WHERE AccountNumber = ? AND AccountBLZ = ?", {number, bankCode}));
     });
     return account;

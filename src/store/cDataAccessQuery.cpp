@@ -293,7 +293,7 @@ void SumRecurring(cDatabase& database, const cEntryQuery& query, bool withStartB
 cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
 {
     cEntryItemList entries;
-    const bool isRead = Try("GetEntries", [&] {
+    const bool isRead = Read("GetEntries", [&] {
         if (query.Kind != eBookingKind::Fix) {
             ReadSingle(m_database, query, entries);
         }
@@ -307,7 +307,7 @@ cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
 QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStartBalance)
 {
     cSums sums;
-    const bool isRead = Try("GetSums", [&] {
+    const bool isRead = Read("GetSums", [&] {
         if (query.Kind != eBookingKind::Fix && !SumSingle(m_database, query, withStartBalance, eDays::ByReader, sums)) {
             sums = {};
             (void)SumSingle(m_database, query, withStartBalance, eDays::ByStatement, sums);

@@ -59,7 +59,7 @@ std::optional<cTemplateItem> First(const cTemplateItemList& items)
 
 bool cDataAccess::AddNewTemplate(cTemplateItem& item)
 {
-    const bool isAdded = Try("AddNewTemplate", [&] {
+    const bool isAdded = Write("AddNewTemplate", [&] {
         m_database.Execute("INSERT INTO template (EntryType,  EntryInterval, TemplateType, TemplateVisible, "
                            "TemplateCategory, TemplateName, TemplateComment, TemplatePriority, TemplateVAT, "
                            "TemplateDefaultValue) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
@@ -71,7 +71,7 @@ bool cDataAccess::AddNewTemplate(cTemplateItem& item)
 
 bool cDataAccess::WriteTemplate(const cTemplateItem& item)
 {
-    return Try("ChangeTemplate", [&] {
+    return Write("ChangeTemplate", [&] {
         cBoundList values = TemplateValues(item);
         values.emplace_back(item.ID);
         m_database.Execute("UPDATE template SET EntryType=?, EntryInterval=?, TemplateType=?, TemplateVisible=?, "
@@ -83,20 +83,20 @@ bool cDataAccess::WriteTemplate(const cTemplateItem& item)
 
 bool cDataAccess::DeleteTemplate(int id)
 {
-    return Try("DeleteTemplate", [&] { m_database.Execute("DELETE FROM template WHERE ID = ?", {id}); });
+    return Write("DeleteTemplate", [&] { m_database.Execute("DELETE FROM template WHERE ID = ?", {id}); });
 }
 
 cTemplateItemList cDataAccess::GetTemplates()
 {
     cTemplateItemList items;
-    Try("GetTemplates", [&] { items = ReadTemplates(m_database, "", {}); });
+    Read("GetTemplates", [&] { items = ReadTemplates(m_database, "", {}); });
     return items;
 }
 
 cTemplateItemList cDataAccess::UncleanTemplates()
 {
     cTemplateItemList items;
-    Try("GetTemplates", [&] {
+    Read("GetTemplates", [&] {
         items = ReadTemplates(m_database, " WHERE COALESCE(TemplateCategory, '') || COALESCE(TemplateName, '') GLOB ?",
                               {u"*[&'<>\";]*"_s});
     });
@@ -106,21 +106,21 @@ cTemplateItemList cDataAccess::UncleanTemplates()
 cTemplateItemList cDataAccess::GetAccounts()
 {
     cTemplateItemList items;
-    Try("GetAccounts", [&] { items = ReadTemplates(m_database, " WHERE TemplateType LIKE 'Konto'", {}); });
+    Read("GetAccounts", [&] { items = ReadTemplates(m_database, " WHERE TemplateType LIKE 'Konto'", {}); });
     return items;
 }
 
 std::optional<cTemplateItem> cDataAccess::FindTemplate(int id)
 {
     std::optional<cTemplateItem> item;
-    Try("FindTemplate", [&] { item = First(ReadTemplates(m_database, " WHERE ID = ?", {id})); });
+    Read("FindTemplate", [&] { item = First(ReadTemplates(m_database, " WHERE ID = ?", {id})); });
     return item;
 }
 
 std::optional<cTemplateItem> cDataAccess::FindTemplate(const QString& category, const QString& name)
 {
     std::optional<cTemplateItem> item;
-    Try("FindTemplate", [&] {
+    Read("FindTemplate", [&] {
         item = First(ReadTemplates(m_database, " WHERE TemplateCategory = ? AND TemplateName = ?", {category, name}));
     });
     return item;
@@ -129,7 +129,8 @@ std::optional<cTemplateItem> cDataAccess::FindTemplate(const QString& category, 
 std::optional<cTemplateItem> cDataAccess::FindAccount(const QString& name)
 {
     std::optional<cTemplateItem> item;
-    Try("FindAccount",
-        [&] { item = First(ReadTemplates(m_database, " WHERE TemplateName = ? AND TemplateType = 'Konto'", {name})); });
+    Read("FindAccount", [&] {
+        item = First(ReadTemplates(m_database, " WHERE TemplateName = ? AND TemplateType = 'Konto'", {name}));
+    });
     return item;
 }

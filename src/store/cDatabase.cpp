@@ -23,6 +23,7 @@ struct cDatabase::cConnection
     }
 
     SQLite::Database Handle;
+    bool IsDamaged = false;
     // Prepared statements that nobody is using at the moment, by their text
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle;
 };
@@ -66,6 +67,18 @@ auto Translate(tCall call)
         return call();
     } catch (const SQLite::Exception& error) {
         throw cDatabaseError(FaultOf(error.getErrorCode()), error.what());
+    }
+}
+
+// The same for a call that works on the open file, and notes when that turns out to be damaged.
+template <typename tConnection, typename tCall>
+auto TranslateOf(tConnection& connection, tCall call)
+{
+    try {
+        return Translate(call);
+    } catch (const cDatabaseError& error) {
+        connection.IsDamaged = connection.IsDamaged || error.Fault() == eDatabaseFault::Damaged;
+        throw;
     }
 }
 
@@ -169,6 +182,11 @@ void cDatabase::Open(const QString& path, eOpenMode mode)
     InstallWatcher();
 }
 
+bool cDatabase::IsDamaged() const noexcept
+{
+    return m_connection && m_connection->IsDamaged;
+}
+
 void cDatabase::WatchRows(std::function<void(const cRowBefore&)> watcher)
 {
     m_watcher = std::move(watcher);
@@ -248,6 +266,9 @@ void cDatabase::EndGathering() noexcept
 
 int cDatabase::Execute(const std::string& sql, const cBoundList& values)
 {
+    if (IsDamaged()) {
+        throw cDatabaseError(eDatabaseFault::Damaged, "database disk image is malformed");
+    }
     if (m_gathering) {
         BeginGathered();
     }
@@ -268,7 +289,7 @@ bool cDatabase::TryExecute(const std::string& sql, const cBoundList& values) noe
 
 void cDatabase::ExecuteScript(const std::string& sql)
 {
-    Translate([&] { return Connection().Handle.exec(sql); });
+    TranslateOf(Connection(), [&] { return Connection().Handle.exec(sql); });
 }
 
 qint64 cDatabase::LastInsertId() const
@@ -353,7 +374,7 @@ cRows::cRows(cDatabase& database, const std::string& sql, const cBoundList& valu
         m_state->Statement = std::move(found->second);
         idle.erase(found);
     }
-    Translate([&] {
+    TranslateOf(m_state->Connection, [&] {
         if (!m_state->Statement) {
             m_state->Statement = std::make_unique<SQLite::Statement>(m_state->Connection.Handle, sql);
         }
@@ -379,7 +400,7 @@ cRows::~cRows()
 
 bool cRows::Next()
 {
-    return Translate([&] {
+    return TranslateOf(m_state->Connection, [&] {
         const bool hasRow = m_state->Statement->executeStep();
         if (hasRow && m_state->Columns.empty()) {
             for (int i = 0; i < m_state->Statement->getColumnCount(); ++i) {

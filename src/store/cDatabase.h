@@ -20,7 +20,8 @@ enum class eOpenMode { ReadWrite, ReadOnly, Create };
 
 // Why the database refused. `Other` is a fault of the statement itself, such as a missing table.
 // `Device`: the system could not read or write. `RolledBack`: an earlier failure has undone the writes before.
-enum class eDatabaseFault { None, Busy, Damaged, ReadOnly, Full, NoAccess, Device, RolledBack, Other };
+// `Unread`: something that the write may depend on could not be read.
+enum class eDatabaseFault { None, Busy, Damaged, ReadOnly, Full, NoAccess, Device, RolledBack, Unread, Other };
 
 // Thrown by the classes of this floor and caught at its border.
 class cDatabaseError final : public std::runtime_error
@@ -87,6 +88,8 @@ public:
 
     [[nodiscard]] bool IsOpen() const noexcept { return m_connection != nullptr; }
     [[nodiscard]] bool IsReadOnly() const noexcept { return m_isReadOnly; }
+    // SQLite has come upon damage in the open file. Nothing is written to it any more.
+    [[nodiscard]] bool IsDamaged() const noexcept;
     [[nodiscard]] const QString& Path() const noexcept { return m_path; }
 
     // Runs one statement; the number of rows it changed.

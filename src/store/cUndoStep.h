@@ -24,6 +24,9 @@ public:
     // object.
     bool Done() { return !std::exchange(m_isOpen, false) || m_journal.End(); }
 
+    // The same for a step whose last write has told whether it succeeded; else the step is taken back.
+    bool DoneIf(bool isWritten) { return isWritten ? Done() : Revert(); }
+
     // Takes back what was written so far, because the rest of the step failed. Always false, so that a failing
     // function can end with it.
     bool Revert()

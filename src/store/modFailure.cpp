@@ -23,6 +23,9 @@ QString Reason(eDatabaseFault fault, const QString& text)
         return cText::Tr("Der Datenträger meldet einen Fehler beim Lesen oder Schreiben ({0}).", {text});
     case eDatabaseFault::RolledBack:
         return cText::Tr("Der Vorgang wurde abgebrochen und nichts davon gespeichert, weil vorher ein Fehler auftrat.");
+    case eDatabaseFault::Unread:
+        return cText::Tr("Es wurde nichts gespeichert, weil vorher etwas nicht gelesen werden konnte und der Vorgang "
+                         "davon abhängen kann. Bitte versuchen Sie es noch einmal.");
     case eDatabaseFault::None:
     case eDatabaseFault::Other: break;
     }

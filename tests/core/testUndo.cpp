@@ -1,6 +1,7 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
+#include "support/bookDump.h"
 #include "support/testBook.h"
 
 #include <QTest>
@@ -10,25 +11,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// Everything that stands in the book, value by value with its type.
-QStringList Dump(cDatabase& database)
-{
-    QStringList lines;
-    for (const QString& table : {u"data"_s, u"datamod"_s, u"template"_s, u"import"_s, u"setting"_s}) {
-        QStringList columns;
-        cRows names(database, "SELECT name FROM pragma_table_info(?)", {table});
-        while (names.Next()) {
-            columns.append(u"typeof(%1)||':'||hex(%1)"_s.arg(names.Text(0)));
-        }
-        const QString query = u"SELECT %1 FROM %2 ORDER BY ID"_s.arg(columns.join(u"||'|'||"_s), table);
-        cRows rows(database, query.toStdString());
-        while (rows.Next()) {
-            lines.append(table + u'|' + rows.Text(0));
-        }
-    }
-    return lines;
-}
 
 cEntryItemFixMod FixMod(int entryId, qint64 cents)
 {

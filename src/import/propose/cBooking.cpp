@@ -9,7 +9,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
 
 #include <cstdlib>
 
@@ -59,11 +59,12 @@ QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
 
 cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals, cProgress& progress)
 {
+    // A row and its entry belong together: a row that stays open beside its entry would be booked a second time.
+    cUndoStep step(m_data, cText::Tr("Umsätze gebucht"));
     cBookingResult result;
     cSeriesFinder series(m_data, m_hive);
     progress.showProgressBar(static_cast<int>(rowIds.size()));
-    int failuresInARow = 0;
-    for (qsizetype i = 0; i < rowIds.size() && !progress.IsCancelled(); ++i) {
+    for (qsizetype i = 0; i < rowIds.size() && result.Failed == 0 && !progress.IsCancelled(); ++i) {
         if (i > 0 && i % progressStep == 0) {
             progress.addProgressValue(progressStep);
         }
@@ -72,14 +73,11 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
         const eOutcome outcome = isKnown ? BookRow(rowIds.at(i), *proposal, series, result) : eOutcome::Skipped;
         result.Skipped += outcome == eOutcome::Skipped ? 1 : 0;
         result.Failed += outcome == eOutcome::Failed ? 1 : 0;
-        failuresInARow = outcome == eOutcome::Failed ? failuresInARow + 1 : 0;
-        if (failuresInARow == 2) {
-            // Every refusal shows a message, and a database that refuses twice will refuse the rest as well.
-            result.Failed += static_cast<int>(rowIds.size() - i - 1);
-            break;
-        }
     }
     progress.addProgressValue(static_cast<int>(rowIds.size()) % progressStep);
+    if (!step.DoneIf(result.Failed == 0)) {
+        return cBookingResult::Nothing(rowIds.size());
+    }
     return result;
 }
 
@@ -130,10 +128,6 @@ cBooking::eOutcome cBooking::BookNew(const cImportEntry& row, const cProposal& p
         return eOutcome::Failed;
     }
     if (!HasAssigned(m_hive, row, entry.ID)) {
-        // Without its row the entry would come a second time with the next attempt. The user knows of the failure
-        // already.
-        const bool isTakenBack = m_data.DeleteEntry(entry.ID);
-        result.Entries += isTakenBack ? 0 : 1;
         return eOutcome::Failed;
     }
     ++result.Entries;
@@ -159,7 +153,7 @@ cBooking::eOutcome cBooking::Join(const cImportEntry& row, const cProposal& prop
                                       proposal.Entry.EntryValue,
                                       cText::Tr("Laut Kontoauszug")};
         if (!m_data.AddNewEntryMod(fixMod)) {
-            return HasAssigned(m_hive, row, -1) ? eOutcome::Failed : eOutcome::Booked;
+            return eOutcome::Failed;
         }
     }
     ++result.Rows;
@@ -187,7 +181,7 @@ void cBooking::AssignPartner(int partnerRow, int entryId, cBookingResult& result
     if (HasAssigned(m_hive, *partner, entryId)) {
         ++result.Rows;
     } else {
-        ++result.Failed; // the row stays open; its next proposal finds the transfer in the book
+        ++result.Failed;
     }
 }
 

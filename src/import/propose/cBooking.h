@@ -26,6 +26,14 @@ struct cBookingResult
     int Failed = 0;              // rows that the database did not take
     QStringList UnknownAccounts; // own account numbers without an account of the book; their rows were not booked
     QList<int> EntryIds;         // of the entries added, in their order
+
+    // Of a run that the database refused: all of it was taken back.
+    [[nodiscard]] static cBookingResult Nothing(qsizetype rows)
+    {
+        cBookingResult result;
+        result.Failed = static_cast<int>(rows);
+        return result;
+    }
 };
 
 // Staged rows into entries.

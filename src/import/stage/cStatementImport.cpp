@@ -10,6 +10,7 @@
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHiveCache.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTableMemory.h"
 #include "store/cDataAccess.h"
@@ -194,14 +195,26 @@ cImportResult cStatementImport::ImportSource(const cStatementSource& source, con
         read.Problems.prepend({0, modStatementFile::GuessedColumns()});
     }
     progress.showProgressBar(static_cast<int>(read.Entries.size()));
-    const cUndoStep step(m_data, cText::Tr("Kontoauszug eingelesen"));
+    // What was staged stays when the program is killed: the next reading of the file passes over it.
+    const cUndoStep step(m_data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
     cUndoPart part(m_data);
+    const int before = RowCount();
     Stage(std::move(read), options, progress, result);
     if (result.IsCancelled) {
         part.Revert();
-        result = Cancelled(result);
+        return Cancelled(result);
+    }
+    if (!part.Done()) {
+        const int staged = std::max(0, RowCount() - before); // without the last portion
+        result.Failed += result.Staged - staged;
+        result.Staged = staged;
     }
     return result;
+}
+
+int cStatementImport::RowCount()
+{
+    return static_cast<int>(m_hive.GetImportHive().getImportEntryList().size());
 }
 
 // Why the file is not even read; empty when nothing speaks against it.

@@ -63,6 +63,7 @@ private:
     [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;
     [[nodiscard]] cStaging& StagingFor(eStagingRun run);
     void Stage(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result);
+    [[nodiscard]] int RowCount();
     void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
 
     cDataAccess& m_data;

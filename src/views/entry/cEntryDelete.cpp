@@ -307,7 +307,7 @@ bool cEntryDelete::Remove(const cDeleteTargetList& targets, eSeriesPart part)
             return step.Revert();
         }
     }
-    return true;
+    return step.Done();
 }
 
 bool cEntryDelete::RemoveOne(const cDeleteTarget& target, eSeriesPart part)

@@ -221,8 +221,7 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
         return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
     });
     cUndoStep step(m_data, StepName(rows.first().Entry));
-    if (!writer.Write(rows, removed, m_from)) {
-        (void)step.Revert();
+    if (!step.DoneIf(writer.Write(rows, removed, m_from))) {
         return eSaved::Refused;
     }
     Remember(rows);

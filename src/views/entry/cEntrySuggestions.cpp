@@ -243,8 +243,7 @@ QString cEntrySuggestions::OfferNew(const QString& typed, const QString& type)
     }
     item.EntryType = type.isEmpty() ? item.EntryType : type;
     cUndoStep step(m_data, cText::Tr("Kategorie '{0}' angelegt", {name}));
-    if (!m_data.AddNewTemplate(item)) {
-        (void)step.Revert();
+    if (!step.DoneIf(m_data.AddNewTemplate(item))) {
         return {};
     }
     ForgetCategories();

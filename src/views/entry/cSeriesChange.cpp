@@ -116,7 +116,7 @@ bool cSeriesChange::Store(const cEntryItem& occurrence, qint64 cents, const QStr
     fixMod.EntryValue = std::abs(cents);
     fixMod.EntryComment = comment;
     cUndoStep undo(m_data, step);
-    return m_data.AddNewEntryMod(fixMod) || undo.Revert();
+    return undo.DoneIf(m_data.AddNewEntryMod(fixMod));
 }
 
 bool cSeriesChange::RemoveCorrection(int entryId, QDate day)
@@ -127,5 +127,5 @@ bool cSeriesChange::RemoveCorrection(int entryId, QDate day)
         return false;
     }
     cUndoStep undo(m_data, cText::Tr("Korrektur von '{0}' entfernt", {modEntryFields::Name(*entry)}));
-    return m_data.DeleteEntryMod(correction->ID) || undo.Revert();
+    return undo.DoneIf(m_data.DeleteEntryMod(correction->ID));
 }

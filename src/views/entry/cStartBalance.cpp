@@ -32,5 +32,5 @@ cEntryFields cStartBalance::Show(const QString& account) const
 bool cStartBalance::Save(const QString& account, qint64 cents, QDate day) const
 {
     cUndoStep step(m_data, cText::Tr("Startguthaben von '{0}' festgelegt", {account}));
-    return m_data.SetStartGuthaben(account, cents, day) || step.Revert();
+    return step.DoneIf(m_data.SetStartGuthaben(account, cents, day));
 }

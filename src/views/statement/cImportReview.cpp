@@ -206,10 +206,13 @@ void cImportReview::BookAll(const QList<int>& rowIds, cProgress& progress)
     if (rowIds.isEmpty()) {
         return;
     }
-    const cUndoStep step(m_parts.Data,
-                         cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    cUndoStep step(m_parts.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     AskAccountsOf(OpenRows(rowIds));
-    const cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
+    cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
+    if (result.Failed > 0 || !step.Done()) {
+        result = cBookingResult::Nothing(rowIds.size());
+        m_parts.Settings.Reload(); // an account chosen just before has been taken back with the rest
+    }
     m_summary = modImportText::Booked(result);
     Refresh();
     Q_EMIT SummaryChanged();
@@ -357,10 +360,10 @@ void cImportReview::Match(const QList<int>& rowIds, cProgress& progress)
     if (ids.isEmpty()) {
         return;
     }
-    const cUndoStep step(m_parts.Data,
-                         cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(ids.size()))}));
+    cUndoStep step(m_parts.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(ids.size()))}));
     AskAccountsOf(OpenRows(ids));
-    ReportMatches(m_works->Matching.Match(ids, progress));
+    const cMatchFlow::cOutcome outcome = m_works->Matching.Match(ids, progress);
+    ReportMatches(step.Done() ? outcome : cMatchFlow::NothingDone());
 }
 
 std::unique_ptr<cAssignListModel> cImportReview::StartAssign(const QList<int>& rowIds)
@@ -462,10 +465,11 @@ void cImportReview::Delete(const QList<int>& rowIds)
     if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
         return;
     }
-    const cUndoStep step(m_parts.Data,
-                         cText::Tr("{0} gelöscht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
-    const int deleted = m_works->Hive.Remove(rowIds);
-    m_summary = {cText::Tr("{0} gelöscht.", {modImportText::Count(deleted)})};
+    const QString count = modImportText::Count(static_cast<int>(rowIds.size()));
+    cUndoStep step(m_parts.Data, cText::Tr("{0} gelöscht", {count}));
+    m_summary = step.DoneIf(m_works->Hive.Remove(rowIds) == rowIds.size())
+        ? QStringList(cText::Tr("{0} gelöscht.", {count}))
+        : cMatchFlow::NothingDone().Lines;
     Refresh();
     Q_EMIT SummaryChanged();
 }

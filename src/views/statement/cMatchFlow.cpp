@@ -20,11 +20,6 @@ namespace {
 
 constexpr qsizetype shownMatches = 20; // more lines tell the user nothing new
 
-cMatchFlow::cOutcome NothingDone()
-{
-    return {{cText::Tr("Es wurde nichts geändert, weil die Datenbank nicht schreibt.")}};
-}
-
 int CorrectionCount(const cMatchResult& result)
 {
     return static_cast<int>(std::count_if(result.Assigned.begin(), result.Assigned.end(),
@@ -53,6 +48,11 @@ cMatchFlow::cMatchFlow(const cParts& parts) : m_parts(parts)
 {
 }
 
+cMatchFlow::cOutcome cMatchFlow::NothingDone()
+{
+    return {{cText::Tr("Es wurde nichts geändert, weil die Datenbank nicht schreibt.")}};
+}
+
 cMatchFlow::cOutcome cMatchFlow::Match(const QList<int>& rowIds, cProgress& progress)
 {
     cUndoStep step(m_parts.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(rowIds.size()))}));
@@ -63,8 +63,7 @@ cMatchFlow::cOutcome cMatchFlow::Match(const QList<int>& rowIds, cProgress& prog
         return {{cText::Tr("Abgleichen abgebrochen, es wurde nichts zugeordnet.")}};
     }
     const std::optional<int> corrected = result.Failed > 0 ? std::nullopt : Correct(result);
-    if (!corrected) {
-        step.Revert();
+    if (!step.DoneIf(corrected.has_value())) {
         return NothingDone();
     }
     m_proposed.clear();
@@ -127,9 +126,8 @@ cMatchFlow::cOutcome cMatchFlow::Assign(int rowId, const cMatchCandidate& candid
         isCorrecting = answer == eAnswer::Yes;
     }
     cUndoStep step(m_parts.Data, cText::Tr("Umsatz zugeordnet"));
-    if (!m_parts.Booking.Assign(rowId, candidate.Entry.ID)
-        || (isCorrecting && !m_parts.Data.AddNewEntryMod(*candidate.Correction))) {
-        step.Revert();
+    if (!step.DoneIf(m_parts.Booking.Assign(rowId, candidate.Entry.ID)
+                     && (!isCorrecting || m_parts.Data.AddNewEntryMod(*candidate.Correction)))) {
         return NothingDone();
     }
     QStringList lines{cText::Tr("Umsatz zugeordnet: {0}", {modImportText::EntryName(candidate.Entry)})};
@@ -154,8 +152,7 @@ cMatchFlow::cOutcome cMatchFlow::Release(const QList<int>& rowIds)
     const QString count = modImportText::Count(static_cast<int>(ids.size()));
     cUndoStep step(m_parts.Data, cText::Tr("{0} gelöst", {count}));
     const auto release = [this](int id) { return m_parts.Booking.Unassign(id); };
-    if (!std::all_of(ids.begin(), ids.end(), release)) {
-        step.Revert();
+    if (!step.DoneIf(std::all_of(ids.begin(), ids.end(), release))) {
         return NothingDone();
     }
     return {{cText::Tr("{0} gelöst und wieder offen. Einträge bleiben im Haushaltsbuch.", {count})}, true};

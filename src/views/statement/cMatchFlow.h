@@ -42,6 +42,9 @@ public:
 
     explicit cMatchFlow(const cParts& parts);
 
+    // Of a step that could not be written.
+    [[nodiscard]] static cOutcome NothingDone();
+
     // Assigns each open row of the list to the entry that certainly belongs to it, and offers to correct series whose
     // amount differs. All of it is one step of the user.
     [[nodiscard]] cOutcome Match(const QList<int>& rowIds, cProgress& progress);

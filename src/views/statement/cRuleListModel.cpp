@@ -112,8 +112,9 @@ QStringList cRuleListModel::KnownCategories() const
 bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
 {
     {
-        const cUndoStep undo(m_parts.Data, step);
-        if (!m_works->Stored.Save(rules)) {
+        cUndoStep undo(m_parts.Data, step);
+        if (!undo.DoneIf(m_works->Stored.Save(rules))) {
+            m_parts.Settings.Reload();
             return false;
         }
     }

@@ -68,7 +68,7 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
     }
     const QScopedValueRollback running(m_isRunning, true);
     while (!m_waiting.isEmpty()) {
-        const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"));
+        const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
         QList<cFile> files;
         for (const QString& path : std::exchange(m_waiting, {})) {
             files.append({path, {}});
@@ -84,7 +84,7 @@ bool cStatementFiles::CanReadAgain() const
 
 void cStatementFiles::ReadAgain(cProgress& progress)
 {
-    const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug noch einmal eingelesen"));
+    const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug noch einmal eingelesen"), cJournal::eWrites::InPortions);
     const QList<cFile> files = m_last;
     Run(files, progress, eAssist::Always);
 }
@@ -326,22 +326,22 @@ QStringList cStatementFiles::LeftOut() const
 
 void cStatementFiles::StageLeftOut(const QList<int>& places)
 {
-    const cUndoStep step(m_parts.Data, cText::Tr("Umsätze trotzdem übernommen"));
+    cUndoStep step(m_parts.Data, cText::Tr("Umsätze trotzdem übernommen"));
     cStaging staging(m_parts.Hive);
     const int newest = NewestRow();
-    int staged = 0;
+    QList<cLeftOut> rest = m_leftOut;
     QList<int> taken = places;
     std::sort(taken.begin(), taken.end(), std::greater<>());
-    for (const int place : std::as_const(taken)) {
-        if (place < 0 || place >= m_leftOut.size()) {
-            continue;
-        }
-        if (staging.StageImportEntry(m_leftOut[place].Entry, eDuplicateTest::Skip) != eStaged::Staged) {
-            break; // the user has been told
-        }
-        m_leftOut.removeAt(place);
-        ++staged;
+    taken.removeIf([&](int place) { return place < 0 || place >= m_leftOut.size(); });
+    const bool isStaged = std::all_of(taken.begin(), taken.end(), [&](int place) {
+        rest.removeAt(place);
+        return staging.StageImportEntry(m_leftOut[place].Entry, eDuplicateTest::Skip) == eStaged::Staged;
+    });
+    if (!step.DoneIf(isStaged)) {
+        return; // the user has been told
     }
+    m_leftOut = rest;
+    const int staged = static_cast<int>(taken.size());
     Q_EMIT Imported({cText::Tr("{0} trotzdem übernommen.", {modImportText::Count(staged)})});
     Q_EMIT LeftOutChanged();
     const bool isFirst =

@@ -82,11 +82,11 @@ bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& ol
     const bool isWritten = m_data.ChangeTemplate(account)
         && cNameKeepers(m_data, m_settings).RenameAccount(oldName, account.TemplateName)
         && (!withEntries || MoveEntries(oldName, account.TemplateName));
-    if (!isWritten) {
-        (void)step.Revert();
-        m_settings.Reload();
+    if (step.DoneIf(isWritten)) {
+        return true;
     }
-    return isWritten;
+    m_settings.Reload();
+    return false;
 }
 
 bool cTemplateFlow::MoveEntries(const QString& oldName, const QString& newName)
@@ -139,7 +139,7 @@ bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString&
         return Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {newPath}));
     }
     cUndoStep step(m_data, cText::Tr("Kategorie '{0}' umbenannt", {oldPath}));
-    return (m_data.ChangeTemplate(renamed) && FollowPath(renamed.ID, oldPath)) || step.Revert();
+    return step.DoneIf(m_data.ChangeTemplate(renamed) && FollowPath(renamed.ID, oldPath));
 }
 
 bool cTemplateFlow::FollowPath(int id, const QString& oldPath)
@@ -202,7 +202,7 @@ bool cTemplateFlow::RenameMain(const QString& oldMain, const QString& newMain)
         return Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {main}));
     }
     cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' umbenannt", {oldMain}));
-    return (WriteMain(oldMain, main) && cOwnRules(m_settings).RenameMain(oldMain, main)) || step.Revert();
+    return step.DoneIf(WriteMain(oldMain, main) && cOwnRules(m_settings).RenameMain(oldMain, main));
 }
 
 bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)
@@ -241,5 +241,5 @@ bool cTemplateFlow::RenameGroup(const QString& oldGroup, const QString& newGroup
             }
         }
     }
-    return true;
+    return step.Done();
 }

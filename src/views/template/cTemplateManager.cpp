@@ -176,8 +176,7 @@ QString cTemplateManager::Add(cTemplateItem item, const QString& stepName, const
         modTemplate::LastPriority(m_parts.Data.GetTemplates(), item.TemplateType, modTemplate::GroupOf(item)) + 1);
     {
         cUndoStep step(m_parts.Data, stepName);
-        if (!m_parts.Data.AddNewTemplate(item)) {
-            (void)step.Revert();
+        if (!step.DoneIf(m_parts.Data.AddNewTemplate(item))) {
             return {};
         }
     }
@@ -230,10 +229,12 @@ QString cTemplateManager::AddKnown(const QString& name, const std::function<QStr
     const QString known = name; // the line that it comes from goes with the next look at the book
     cUndoStep step(m_parts.Data, cText::Tr("'{0}' angelegt", {known}));
     const QString added = add();
-    if (!added.isEmpty() && added != known) {
-        Tell((m_parts.Data.*move)(added, known) || step.Revert());
+    const bool isOther = !added.isEmpty() && added != known;
+    const bool isWritten = step.DoneIf(!isOther || (m_parts.Data.*move)(added, known));
+    if (isOther || !isWritten) {
+        Tell(isWritten);
     }
-    return added;
+    return isWritten ? added : QString();
 }
 
 QString cTemplateManager::AskAdd(const cTemplateNode* near)
@@ -416,7 +417,7 @@ bool cTemplateManager::WriteOrder(const cTemplateItemList& before, const cTempla
     cUndoStep step(m_parts.Data, cText::Tr("Reihenfolge geändert"));
     const bool isWritten = std::all_of(changed.begin(), changed.end(),
                                        [this](const cTemplateItem& item) { return m_parts.Data.ChangeTemplate(item); });
-    return isWritten || step.Revert();
+    return step.DoneIf(isWritten);
 }
 
 QStringList cTemplateManager::Mains() const

@@ -190,7 +190,7 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
         target.isEmpty() || std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
             return m_data.ChangeEntryCategory(target, path) && cOwnRules(m_settings).RenameCategory(path, target);
         });
-    return Finish((isDeleted && isMoved) || step.Revert());
+    return Finish(step.DoneIf(isDeleted && isMoved));
 }
 
 bool cTemplateRemoval::AskMergeCategory(const QString& sourcePath)
@@ -226,9 +226,8 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     cUndoStep step(m_data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
     const bool isDeleted = std::all_of(sources.begin(), sources.end(),
                                        [&](const cTemplateItem& item) { return m_data.DeleteTemplate(item.ID); });
-    return (isDeleted && m_data.ChangeEntryCategory(targetPath, sourcePath)
-            && cOwnRules(m_settings).RenameCategory(sourcePath, targetPath))
-        || step.Revert();
+    return step.DoneIf(isDeleted && m_data.ChangeEntryCategory(targetPath, sourcePath)
+                       && cOwnRules(m_settings).RenameCategory(sourcePath, targetPath));
 }
 
 bool cTemplateRemoval::AskMergeMain(const QString& source)
@@ -261,7 +260,7 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
             doomed.Paths.begin(), doomed.Paths.end(),
             [&](const QString& path) { return m_data.ChangeEntryCategory(modTemplate::WithMain(path, into), path); })
         && cOwnRules(m_settings).RenameMain(source, into);
-    return Finish(isWritten || step.Revert());
+    return Finish(step.DoneIf(isWritten));
 }
 
 bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& target)
@@ -320,7 +319,7 @@ bool cTemplateRemoval::RemoveAccount(const cTemplateItem& account, const QString
     cUndoStep step(m_data, cText::Tr("Konto '{0}' gelöscht", {name}));
     const bool isWritten = cBankNumbers(m_data, m_settings).ReleaseAll(name)
         && (target.isEmpty() || MoveAccountEntries(name, target)) && m_data.DeleteTemplate(account.ID);
-    return Finish(isWritten || step.Revert());
+    return Finish(step.DoneIf(isWritten));
 }
 
 bool cTemplateRemoval::MoveAccountEntries(const QString& source, const QString& target)
@@ -367,5 +366,5 @@ bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target
     cUndoStep step(m_data, cText::Tr("Konto '{0}' mit '{1}' zusammengeführt", {source, target}));
     const bool isWritten = cBankNumbers(m_data, m_settings).Move(source, target) && MoveAccountEntries(source, target)
         && (!account || m_data.DeleteTemplate(account->ID));
-    return Finish(isWritten || step.Revert());
+    return Finish(step.DoneIf(isWritten));
 }

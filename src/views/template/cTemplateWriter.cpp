@@ -124,10 +124,9 @@ bool cTemplateWriter::Refuse(const QString& text)
 bool cTemplateWriter::Step(const QString& name, const fnWrite& write)
 {
     cUndoStep step(m_data, name);
-    if (write()) {
+    if (step.DoneIf(write())) {
         return true;
     }
-    (void)step.Revert();
     m_settings.Reload();
     return false;
 }
