@@ -3,6 +3,8 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -12,13 +14,24 @@ namespace {
 
 enum class eKind { Other, Book, Journal };
 
+// A journal begins with these bytes and the number of its records. SQLite writes "all there are" for it when it does
+// not sync, and what has not reached the disk would be played back as well; so the number is held back until the
+// records are on the disk. See https://www.sqlite.org/fileformat2.html#the_rollback_journal for both.
+constexpr std::size_t magicSize = 8;
+constexpr std::size_t headSize = magicSize + 4;
+constexpr std::array<unsigned char, magicSize> magic{0xd9, 0xd5, 0x05, 0xf9, 0x20, 0xa1, 0x63, 0xd7};
+
 // What SQLite takes for an open file. The file of the system lies directly behind it.
 struct cSyncFile
 {
     sqlite3_file Base; // first, because SQLite knows no more
     eKind Kind;
-    bool IsUnsynced;  // written since the last sync
-    const char* Name; // of SQLite; lives as long as the file is open
+    bool IsUnsynced;                          // written since the last sync
+    bool IsHeld;                              // a journal whose beginning was held back
+    const char* Name;                         // of SQLite; lives as long as the file is open
+    std::array<unsigned char, headSize> Head; // of the journal as SQLite wrote it
+    sqlite3_int64 FirstRecord;                // place of the first record, in bytes
+    sqlite3_int64 RecordSize;
 };
 
 constexpr std::string_view journalEnding = "-journal";
@@ -46,13 +59,45 @@ int SyncFile(sqlite3_file* file)
     return result;
 }
 
+sqlite3_int64 NumberAt(const unsigned char* bytes)
+{
+    return (sqlite3_int64{bytes[0]} << 24U) | (sqlite3_int64{bytes[1]} << 16U) | (sqlite3_int64{bytes[2]} << 8U)
+        | sqlite3_int64{bytes[3]};
+}
+
+// Writes the beginning of a journal once its records are on the disk: with the number of those that are.
+int WriteHead(sqlite3_file* file)
+{
+    sqlite3_int64 size = 0;
+    if (const int result = Real(file)->pMethods->xFileSize(Real(file), &size); result != SQLITE_OK) {
+        return result;
+    }
+    std::array<unsigned char, headSize> head = Of(file).Head;
+    const sqlite3_int64 records = std::max(sqlite3_int64{0}, (size - Of(file).FirstRecord) / Of(file).RecordSize);
+    for (std::size_t i = 0; i < 4; ++i) {
+        head[headSize - 1 - i] = static_cast<unsigned char>(records >> (8U * i));
+    }
+    return Real(file)->pMethods->xWrite(Real(file), head.data(), headSize, 0);
+}
+
+int SyncJournal(sqlite3_file* file)
+{
+    int result = SyncFile(file);
+    if (result == SQLITE_OK && Of(file).IsHeld) {
+        result = WriteHead(file);
+        result = result == SQLITE_OK ? SyncFile(file) : result;
+    }
+    return result;
+}
+
 // Syncs what was written to the open files of this kind and name.
 int SyncAll(eKind kind, std::string_view name)
 {
     const std::lock_guard lock(mutex_);
     for (cSyncFile* file : open_) {
         if (file->Kind == kind && file->IsUnsynced && name == file->Name) {
-            if (const int result = SyncFile(&file->Base); result != SQLITE_OK) {
+            const int result = kind == eKind::Journal ? SyncJournal(&file->Base) : SyncFile(&file->Base);
+            if (result != SQLITE_OK) {
                 return result;
             }
         }
@@ -87,7 +132,37 @@ int Close(sqlite3_file* file)
 
 int Read(sqlite3_file* file, void* to, int amount, sqlite3_int64 offset)
 {
-    return Real(file)->pMethods->xRead(Real(file), to, amount, offset);
+    const int result = Real(file)->pMethods->xRead(Real(file), to, amount, offset);
+    if (Of(file).IsHeld && result == SQLITE_OK && offset < sqlite3_int64{headSize}) {
+        // Whoever has written a journal takes back by all of it, synced or not.
+        const auto from = static_cast<std::size_t>(offset);
+        const std::size_t count = std::min(headSize - from, static_cast<std::size_t>(amount));
+        std::copy_n(Of(file).Head.begin() + offset, count, static_cast<unsigned char*>(to));
+    }
+    return result;
+}
+
+// The beginning of a journal: noted, and nothing of it that would make it count.
+int WriteHeld(sqlite3_file* file, const unsigned char* from, int amount)
+{
+    constexpr std::size_t sectorPlace = 20;
+    constexpr std::size_t pagePlace = 24;
+    constexpr sqlite3_int64 aroundPage = 8; // number of the page and checksum
+    cSyncFile& journal = Of(file);
+    std::copy_n(from, headSize, journal.Head.begin());
+    journal.FirstRecord = NumberAt(from + sectorPlace);
+    journal.RecordSize = NumberAt(from + pagePlace) + aroundPage;
+    journal.IsHeld = true;
+    std::vector<unsigned char> bytes(from, from + amount);
+    std::fill_n(bytes.begin(), headSize, static_cast<unsigned char>(0));
+    return Real(file)->pMethods->xWrite(Real(file), bytes.data(), amount, 0);
+}
+
+bool IsHead(const cSyncFile& file, const unsigned char* bytes, int amount, sqlite3_int64 offset)
+{
+    constexpr int smallest = 28;
+    return file.Kind == eKind::Journal && offset == 0 && amount >= smallest
+        && std::equal(magic.begin(), magic.end(), bytes);
 }
 
 int Write(sqlite3_file* file, const void* from, int amount, sqlite3_int64 offset)
@@ -96,7 +171,9 @@ int Write(sqlite3_file* file, const void* from, int amount, sqlite3_int64 offset
         return result;
     }
     Of(file).IsUnsynced = Of(file).Kind != eKind::Other;
-    return Real(file)->pMethods->xWrite(Real(file), from, amount, offset);
+    const auto* bytes = static_cast<const unsigned char*>(from);
+    return IsHead(Of(file), bytes, amount, offset) ? WriteHeld(file, bytes, amount)
+                                                   : Real(file)->pMethods->xWrite(Real(file), from, amount, offset);
 }
 
 int Truncate(sqlite3_file* file, sqlite3_int64 size)
@@ -105,6 +182,7 @@ int Truncate(sqlite3_file* file, sqlite3_int64 size)
         return result;
     }
     Of(file).IsUnsynced = Of(file).Kind != eKind::Other;
+    Of(file).IsHeld = Of(file).IsHeld && size > 0;
     return Real(file)->pMethods->xTruncate(Real(file), size);
 }
 
@@ -201,7 +279,7 @@ eKind KindOf(int flags)
 int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags)
 {
     cSyncFile& opened = Of(file);
-    opened = {{nullptr}, name == nullptr ? eKind::Other : KindOf(flags), false, name};
+    opened = {{nullptr}, name == nullptr ? eKind::Other : KindOf(flags), false, false, name, {}, 0, 0};
     const int result = system_->xOpen(system_, name, Real(file), flags, outFlags);
     if (Real(file)->pMethods == nullptr) {
         return result;
