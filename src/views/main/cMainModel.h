@@ -19,6 +19,7 @@ class cAmountFormat;
 class cClock;
 class cConfiguration;
 class cDataAccess;
+class cJournal;
 class cNavigator;
 class cSettings;
 class cShell;
@@ -154,7 +155,7 @@ private:
     void RefreshAccounts();
     void AskResetView();
     void SkipPeriod();
-    void StepThrough(bool (cDataAccess::*step)());
+    void StepThrough(bool (cJournal::*step)());
     [[nodiscard]] QString StepName(int command) const;
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const QString& key, eSwitch state);

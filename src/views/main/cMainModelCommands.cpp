@@ -26,8 +26,8 @@ bool cMainModel::Execute(int command)
     case modCommand::DeleteEntry: Delete(m_selection); break;
     case modCommand::CorrectPeriod: m_parts.Navigator.OpenCorrection(First().ID, First().Day); break;
     case modCommand::SkipPeriod: SkipPeriod(); break;
-    case modCommand::Undo: StepThrough(&cDataAccess::Undo); break;
-    case modCommand::Redo: StepThrough(&cDataAccess::Redo); break;
+    case modCommand::Undo: StepThrough(&cJournal::Undo); break;
+    case modCommand::Redo: StepThrough(&cJournal::Redo); break;
     case modCommand::EditTemplates: m_parts.Navigator.OpenTemplates({}); break;
     case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
     case modCommand::ResetView: AskResetView(); break;
@@ -90,9 +90,9 @@ QString cMainModel::MenuText(int command) const
     return name.isEmpty() ? text : cText::Tr("{0}: {1}", {text, name});
 }
 
-void cMainModel::StepThrough(bool (cDataAccess::*step)())
+void cMainModel::StepThrough(bool (cJournal::*step)())
 {
-    if ((m_parts.Data.*step)()) {
+    if ((m_parts.Data.Journal().*step)()) {
         m_parts.Settings.Reload(); // account numbers of the bank may have been part of it
         SetSelection({});
         BookChanged();
