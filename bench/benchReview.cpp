@@ -1,6 +1,4 @@
 #include "bench/cBenchBook.h"
-#include "core/cAmountFormat.h"
-#include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -57,17 +55,9 @@ struct cScene
         File.Book().Settings().Set(u"KTO:4711000815"_s, u"Girokonto"_s);
     }
 
-    [[nodiscard]] std::unique_ptr<cImportReview> Review()
-    {
-        return std::make_unique<cImportReview>(
-            cImportReview::cParts{File.Book().Data(), File.Book().Settings(), Format, User});
-    }
+    [[nodiscard]] std::unique_ptr<cImportReview> Review() { return std::make_unique<cImportReview>(File.Tools()); }
 
     cBenchBook File{12000};
-    cFakeRegistry Registry;
-    cFakeUser User;
-    cConfiguration Configuration{Registry};
-    cAmountFormat Format{Configuration};
 };
 
 cScene& Scene()

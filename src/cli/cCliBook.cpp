@@ -97,12 +97,14 @@ bool TakeLock(cFileLock& lock, const QString& path)
 
 } // namespace
 
-cCliBook::cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock)
+cCliBook::cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock,
+                   const cCliPorts& ports)
     : m_lock(std::move(lock)),
       m_configuration(std::move(configuration)),
       m_book(std::move(book)),
       m_format(*m_configuration),
       Data(m_book->Data()),
+      Tools{Data, m_book->Settings(), m_format, ports.User, ports.Clock},
       Accounts(Data, m_book->Settings()),
       Hive(Data),
       Booking(Data, Hive, Accounts)
@@ -142,7 +144,7 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
     if (access != eCliAccess::Unlock && !startUp.AskPassword()) {
         return nullptr;
     }
-    return std::unique_ptr<cCliBook>(new cCliBook(std::move(book), std::move(configuration), std::move(lock)));
+    return std::unique_ptr<cCliBook>(new cCliBook(std::move(book), std::move(configuration), std::move(lock), ports));
 }
 
 QString cCliBook::MakeBackup(const QString& target, cShell& shell)

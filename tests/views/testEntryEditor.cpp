@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -74,7 +73,7 @@ void testEntryEditor::ChecksInOrder()
     fields.Account = emptied.contains(u"account"_s) ? QString() : fields.Account;
 
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(fields), message.isEmpty() ? cEntryEditor::eSaved::BadAmount : cEntryEditor::eSaved::Refused);
     QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
     QCOMPARE(book.Data.CountEntries(), 0);
@@ -102,7 +101,7 @@ void testEntryEditor::SaysWhichFieldKeepsItFromBeingBuilt()
     QFETCH(QString, target);
     QFETCH(QString, why);
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Type = type;
     fields.Target = target;
@@ -122,7 +121,7 @@ void testEntryEditor::SaysWhenThereIsNothingToChoose()
     for (const cTemplateItem& item : templates) {
         QVERIFY(book.Data.DeleteTemplate(item.ID));
     }
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Account.clear();
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
@@ -136,7 +135,7 @@ void testEntryEditor::SaysWhenThereIsNothingToChoose()
 void testEntryEditor::StoresWhatWasTyped()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Amount = u"-1.012,50"_s; // the sign is the kind's business
     fields.Target = u"Sparkonto"_s; // left over from a transfer
@@ -168,7 +167,7 @@ void testEntryEditor::CategoryFillsOnlyWhatIsOpen()
     rent.EntryType = modWord::AlleBuchungsarten; // a filter word that old files carry
     QVERIFY(book.Data.AddNewTemplate(rent));
 
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Amount = u"7"_s;
     editor.ChooseCategory(u"Test; Sonstiges"_s, fields);
@@ -208,7 +207,7 @@ void testEntryEditor::OtherPeriodCostsCorrections()
     fixMod.EntryStartDate = QDate(2026, 4, 1);
     QVERIFY(book.Data.AddNewEntryMod(fixMod));
 
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Load(series.ID).value();
     fields.Description = u"neu"_s;
     fields.Date = changesDate ? fields.Date.addDays(1) : fields.Date;
@@ -242,7 +241,7 @@ void testEntryEditor::ProposesRecurringValues()
     rent.EntryInterval = interval;
     rent.TemplateDefaultValue = u"850.00"_s;
     QVERIFY(book.Data.AddNewTemplate(rent));
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Amount = u"7"_s;
     fields.IsAmountTyped = isTyped;
@@ -258,11 +257,11 @@ void testEntryEditor::SaysTheVatInTheAmount()
     repair.TemplateName = u"Reparatur"_s;
     repair.TemplateVAT = u"19"_s;
     QVERIFY(book.Data.AddNewTemplate(repair));
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Category = modTemplate::Path(repair);
     fields.Amount = u"100"_s;
-    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97 €"_s);
+    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
     fields.Type = modWord::Umbuchung;
     QCOMPARE(editor.VatText(fields), QString());
 }
@@ -286,7 +285,7 @@ void testEntryEditor::TypedDays()
     QFETCH(QString, end);
     QFETCH(int, saved);
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Interval = u"Monatlich"_s;
     fields.Date = QDate(2026, 3, 10);
@@ -301,7 +300,7 @@ void testEntryEditor::TypedDays()
 void testEntryEditor::NextEntryKeepsDayAccountAndKind()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.DateText = u"3."_s;
     fields.Interval = u"Monatlich"_s;
@@ -310,7 +309,7 @@ void testEntryEditor::NextEntryKeepsDayAccountAndKind()
         QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
     }
     QCOMPARE(editor.LastSaved().size(), 5);
-    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50 €"_s);
+    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
     const cEntryEditor::cFields next = editor.Next(fields);
     QVERIFY(editor.IsNew());
     QCOMPARE(next.Date, QDate(2026, 3, 3));
@@ -335,7 +334,7 @@ void testEntryEditor::DescriptionBringsItsLatestUse()
     add(u"Wärme d'Oro"_s, u"Nicht; Angelegt"_s, u"Geschlossen"_s);
     add(u"Wirt"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
 
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
     QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
@@ -359,8 +358,7 @@ void testEntryEditor::AmountsAreTypedAsTheyAreShown()
 {
     cTestBook book;
     QVERIFY(book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
-    const cAmountFormat british(book.Configuration);
-    cEntryEditor editor(book.Data, book.User, book.Clock, &british);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
     QCOMPARE(fields.Amount, u"0.00"_s);
     fields.Amount = u"1,234"_s;
@@ -403,7 +401,7 @@ void testEntryEditor::PreviewsSeries()
     QFETCH(QString, day);
     QFETCH(QString, end);
     cTestBook book;
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Interval = u"Monatlich"_s;
     fields.DateText = day;
@@ -415,7 +413,7 @@ void testEntryEditor::PreviewsSeries()
 void testEntryEditor::StartBalanceHasItsSign()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
     QCOMPARE(fields.Date, book.Clock.Day);
     QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
@@ -425,7 +423,7 @@ void testEntryEditor::StartBalanceHasItsSign()
     const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
     QCOMPARE(stored.EntryType, modWord::Ausgabe);
     QCOMPARE(stored.EntryValue, 12050);
-    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50 € am 01.01.2026"_s);
+    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
 
     fields = editor.Load(stored.ID).value();
     QCOMPARE(fields.Face, eEntryFace::StartBalance);
@@ -442,7 +440,7 @@ void testEntryEditor::StartBalanceFollowsTheAccount()
 {
     cTestBook book;
     QVERIFY(book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2025, 1, 1)));
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
     editor.ChooseAccount(u"Bargeld"_s, fields);
     QCOMPARE(fields.Amount, u"5,00"_s);
@@ -458,7 +456,7 @@ void testEntryEditor::StartBalanceFollowsTheAccount()
 void testEntryEditor::NamesTheStep()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Fields()), cEntryEditor::eSaved::Saved);
     QCOMPARE(book.Data.UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
     cEntryEditor::cFields fields = editor.Load(editor.SavedId()).value();
@@ -470,14 +468,14 @@ void testEntryEditor::NamesTheStep()
 void testEntryEditor::LabelNamesTheCurrency()
 {
     cTestBook book;
-    const cAmountFormat german(book.Configuration);
-    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &german).AmountLabel(), u"Betrag (€):"_s);
+    const cEntryEditor editor(book.Tools);
+    QCOMPARE(editor.AmountLabel(), u"Betrag (€):"_s);
     QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"en_US"_s));
-    const cAmountFormat american(book.Configuration);
-    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &american).AmountLabel(), u"Betrag ($):"_s);
+    book.Format.CultureChanged();
+    QCOMPARE(editor.AmountLabel(), u"Betrag ($):"_s);
     QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"id-ID"_s));
-    const cAmountFormat indonesian(book.Configuration); // rupiah are shown without symbol
-    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &indonesian).AmountLabel(), u"Betrag:"_s);
+    book.Format.CultureChanged();
+    QCOMPARE(editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
 }
 
 QTEST_GUILESS_MAIN(testEntryEditor)

@@ -76,8 +76,7 @@ struct cPage : cTestBook
     fnChange Answer = [](cImportAssistant& assistant) { assistant.SetAccount(u"4711"_s); };
     bool IsConfirmed = true;
     int Opened = 0;
-    cAmountFormat Format{Configuration};
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
 };
 
 int Place(const QStringList& items, const QString& item)

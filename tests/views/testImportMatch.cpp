@@ -61,9 +61,8 @@ struct cPage : cTestBook
 
     QString Reason(int row) { return Review.Rows().index(row, cStagedListModel::Reason).data().toString(); }
 
-    cAmountFormat Format{Configuration};
     cNoProgress Progress;
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
 };
 
 QString Cell(const cAssignListModel& list, int row, int column)

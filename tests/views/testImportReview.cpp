@@ -49,9 +49,8 @@ struct cPage : cTestBook
         return ids;
     }
 
-    cAmountFormat Format{Configuration};
     cNoProgress Progress;
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
 };
 
 const QString space = u"\u00A0"_s; // before the currency sign
@@ -374,7 +373,7 @@ private Q_SLOTS:
         view.SetTitleShown(false);
         QVERIFY(page.Settings->GetBool(u"HideOldImportEntries"_s));
         QVERIFY(page.Settings->GetBool(u"HideAssignTitle"_s));
-        cImportReview other({page.Data, *page.Settings, page.Format, page.User});
+        cImportReview other(page.Tools);
         QCOMPARE(other.View().Grouping(), 1);
         QVERIFY(other.View().IsOldHidden() && !other.View().IsTitleShown());
         view.SetGrouping(99);

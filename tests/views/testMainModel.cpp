@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -54,9 +53,8 @@ public:
 
     void Start(bool isNewVersion = false)
     {
-        Model =
-            std::make_unique<cMainModel>(cMainModel::cParts{Book.Data, *Book.Settings, Book.Configuration, Format,
-                                                            Book.User, Book.Clock, Book.Shell, Navigator, Book.Path()});
+        Model = std::make_unique<cMainModel>(
+            Book.Tools, cMainModel::cParts{Book.Configuration, Book.Shell, Navigator, Book.Path()});
         Model->RestoreView(isNewVersion);
         Settle();
     }
@@ -87,7 +85,6 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
     std::unique_ptr<cMainModel> Model;
     cEntryItem Rent;
@@ -192,10 +189,8 @@ void testMainModel::SumsFollowTheView()
 void testMainModel::NewBookStartsWithTheResetView()
 {
     cTestBook book;
-    const cAmountFormat format(book.Configuration);
     cFakeNavigator navigator;
-    cMainModel model({book.Data, *book.Settings, book.Configuration, format, book.User, book.Clock, book.Shell,
-                      navigator, book.Path()});
+    cMainModel model(book.Tools, {book.Configuration, book.Shell, navigator, book.Path()});
     model.RestoreView(true);
 
     QCOMPARE(model.View().Period, modWord::AlleBuchungen);

@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -57,11 +56,9 @@ struct cScene
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
-    cMainModel Main{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
-                     Navigator, Book.Path()}};
-    cStatisticsModel Model{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock, Book.Shell, Navigator, Main}};
+    cMainModel Main{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
+    cStatisticsModel Model{Book.Tools, {Book.Shell, Navigator, Main}};
 };
 
 QString Days(const cViewState& view)
@@ -228,8 +225,7 @@ void testStatisticsModel::SelectorsAreKept()
     scene.Model.SecondChart().ChooseCompare(cStatisticsChart::eCompare::YearBefore);
     scene.Model.SecondChart().ChoosePeriod(u"Letztes Quartal"_s);
 
-    cStatisticsModel again({scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.User, scene.Book.Clock,
-                            scene.Book.Shell, scene.Navigator, scene.Main});
+    cStatisticsModel again(scene.Book.Tools, {scene.Book.Shell, scene.Navigator, scene.Main});
     again.Restore();
     QCOMPARE(again.Wish().Type, eReport::Limit);
     QCOMPARE(again.Wish().Account, u"Bargeld"_s);

@@ -63,11 +63,11 @@ void testTemplateManager::ListsWhatTheBookHolds()
     scene.Book.Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
     QVERIFY(scene.Save(scene.Category(food), [](cTemplateFields& fields) { fields.Amount = u"400,50"_s; }));
     QCOMPARE(scene.Category(food).Cells,
-             (QStringList{u"Lebensmittel"_s, u"Ausgabe"_s, u"Einmalig"_s, scene.Format.Cents(40050), u"3"_s}));
+             (QStringList{u"Lebensmittel"_s, u"Ausgabe"_s, u"Einmalig"_s, scene.Book.Format.Cents(40050), u"3"_s}));
     QCOMPARE(scene.Category(u"Haushalt"_s).Entries, 3);
     QCOMPARE(scene.Category(u"Haushalt"_s).OwnEntries, 0);
     QCOMPARE(scene.Account(u"Girokonto"_s).Cells,
-             (QStringList{u"Girokonto"_s, u"4711"_s, scene.Format.Cents(-5000), u"4"_s}));
+             (QStringList{u"Girokonto"_s, u"4711"_s, scene.Book.Format.Cents(-5000), u"4"_s}));
     QVERIFY(scene.Save(scene.Account(u"Bargeld"_s), [](cTemplateFields& fields) { fields.IsVisible = false; }));
     QCOMPARE(scene.Account(u"Bargeld"_s).Cells.constFirst(), u"Bargeld (geschlossen)"_s);
 }
@@ -384,7 +384,7 @@ void testTemplateManager::WritesAccountLimits()
     QVERIFY(!save(u"viel"_s));
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"7,00"_s);
     QVERIFY(scene.Book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
-    scene.Format.CultureChanged();
+    scene.Book.Format.CultureChanged();
     QVERIFY(save(u"1,234"_s));
     QCOMPARE(scene.Book.Data.FindAccount(u"Bargeld"_s)->TemplateDefaultValue, u"1234.00"_s);
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"1234.00"_s);

@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/template/cTemplateTree.h"
@@ -70,8 +69,7 @@ public:
 
     cTestBook Book;
     int Id = 0;
-    cAmountFormat Format{Book.Configuration};
-    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
+    cTemplateManager Manager{Book.Tools};
     frmKategorie Window{Manager};
     QTabWidget& Tabs = *Window.findChild<QTabWidget*>();
 };

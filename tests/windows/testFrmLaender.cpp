@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/book/cNationalSettings.h"
@@ -15,8 +14,7 @@ namespace {
 struct cMachine
 {
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cNationalSettings Settings{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+    cNationalSettings Settings{Book.Tools, Book.Configuration, Book.Format};
 };
 
 void Choose(QComboBox& combo, const QString& stored)

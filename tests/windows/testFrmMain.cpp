@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -48,10 +47,8 @@ public:
     void Select(int row) { Tree().setCurrentIndex(Model.Entries().index(row, 0)); }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
-    cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
-                      Navigator, Book.Path()}};
+    cMainModel Model{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
     frmMain Window{Model};
     cEntryItem First;
     cEntryItem Second;

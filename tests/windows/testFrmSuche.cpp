@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/list/cSearchModel.h"
@@ -47,8 +46,7 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cSearchModel Search{{Book.Data, *Book.Settings, Format, Book.Clock}};
+    cSearchModel Search{Book.Tools};
     frmSuche Window{Search};
     cEntryTree& Tree = *Window.findChild<cEntryTree*>();
     QLineEdit& Text = Labelled<QLineEdit>(u"Suchtext:"_s);

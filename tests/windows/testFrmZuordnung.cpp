@@ -96,8 +96,7 @@ struct cScene : cTestBook
         QTest::keyClick(&Tree, key, Qt::ControlModifier);
     }
 
-    cAmountFormat Format{Configuration};
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
     frmImport Page{Review};
     cStagedTree& Tree = *Page.findChild<cStagedTree*>();
     bool HasOpened = false;

@@ -184,7 +184,7 @@ bool TakeCategories(cCamera& camera)
         || !scene.Book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
         return false;
     }
-    cTemplateManager manager({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User, scene.Clock});
+    cTemplateManager manager(scene.Tools());
     frmKategorie window(manager);
     window.show();
     (void)window.Select(u"Haushalt; Lebensmittel"_s);
@@ -247,7 +247,7 @@ bool TakeEditor(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    cEntryEditor editor(scene.Book.Data(), scene.User, scene.Clock);
+    cEntryEditor editor(scene.Tools());
     cSeriesChange change(scene.Book.Data(), scene.User);
     const int series = AddCorrectedSeries(editor, change);
     const std::optional<cEntryFields> fields = editor.Load(series);
@@ -312,9 +312,8 @@ bool TakeStatement(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    const cStatementListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.Clock};
     const auto take = [&](const QString& name) {
-        cStatementListModel statement(parts);
+        cStatementListModel statement(scene.Tools());
         frmKontoauszug window(statement);
         window.show();
         camera.Take(window, name);
@@ -330,7 +329,7 @@ bool TakeStatement(cCamera& camera)
     const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
     scene.Book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
     take(u"kontoauszug"_s);
-    cStatementListModel statement(parts);
+    cStatementListModel statement(scene.Tools());
     cListPrinter printer(statement);
     TakePages(camera, printer, u"druck-kontoauszug"_s);
     return true;
@@ -343,9 +342,8 @@ bool TakeRules(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    const cRuleListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User};
     const auto take = [&](const QString& name, const cImportEntry* row) {
-        cRuleListModel rules(parts);
+        cRuleListModel rules(scene.Tools());
         if (row != nullptr) {
             rules.StartFrom(*row, u"Haushalt; Lebensmittel"_s);
         }
@@ -463,7 +461,7 @@ bool TakeCharts(cCamera& camera)
         {.Kind = eChartKind::ExpensePie, .Range = {sceneDay.addYears(30), sceneDay.addYears(31)}, .ShowsFuture = false},
         u"leer"_s);
     cAccountListModel accounts(scene.Format);
-    cLimitWatch watch(scene.Book.Data(), scene.Format, scene.Clock, accounts);
+    cLimitWatch watch(scene.Tools(), accounts);
     accounts.SetAccounts(scene.Book.Data().GetAccounts(), {{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
     watch.Look();
     cAccountPanel panel(accounts);

@@ -39,7 +39,7 @@ bool TakeReview(cCamera& camera)
         return false;
     }
     scene.Book.Settings().Set(u"ImportRuns"_s, u"%1-%2"_s.arg(twin.ID - 20).arg(twin.ID));
-    cImportReview review({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User});
+    cImportReview review(scene.Tools());
     frmImport page(review);
     page.resize(1280, 700);
     page.show();

@@ -15,13 +15,11 @@
 
 #include <optional>
 
-class cAmountFormat;
-class cClock;
 class cConfiguration;
 class cDataAccess;
 class cNavigator;
-class cSettings;
 class cShell;
+struct cBookTools;
 
 // The main window without its widgets: what the user looks at, the lists that show it, and every command.
 class cMainModel final : public QObject
@@ -32,12 +30,7 @@ public:
     // What the model works with; all of it outlives the model.
     struct cParts
     {
-        cDataAccess& Data;
-        cSettings& Settings;
         cConfiguration& Configuration;
-        const cAmountFormat& Format;
-        cUser& User;
-        const cClock& Clock;
         cShell& Shell;
         cNavigator& Navigator;
         QString DatabasePath;
@@ -55,7 +48,7 @@ public:
         int State = 0; // 0 normal, 1 minimised, 2 maximised
     };
 
-    explicit cMainModel(const cParts& parts, QObject* parent = nullptr);
+    cMainModel(const cBookTools& tools, const cParts& parts, QObject* parent = nullptr);
     ~cMainModel() override;
 
     // Reads the view state from the settings and shows it. `isNewVersion`: another version of the program opened this
@@ -168,6 +161,7 @@ private:
         cEntrySelection Selection;
     };
 
+    const cBookTools& m_tools;
     cParts m_parts;
     cViewState m_view;
     std::optional<cDetour> m_detour;

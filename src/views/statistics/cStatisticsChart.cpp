@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
 #include "views/list/modSetting.h"
@@ -17,9 +18,9 @@ constexpr int mostForecast = 12; // months
 
 } // namespace
 
-cStatisticsChart::cStatisticsChart(const cParts& parts, const QString& prefix, eChartKind kind, QObject* parent)
+cStatisticsChart::cStatisticsChart(const cBookTools& tools, const QString& prefix, eChartKind kind, QObject* parent)
     : QObject(parent),
-      m_parts(parts),
+      m_tools(tools),
       m_prefix(prefix),
       m_kind(kind)
 {
@@ -34,8 +35,8 @@ QStringList cStatisticsChart::Kinds()
 
 void cStatisticsChart::Restore()
 {
-    const cSettings& settings = m_parts.Settings;
-    m_period.Restore(settings, m_prefix, m_parts.Clock.Today());
+    const cSettings& settings = m_tools.Settings;
+    m_period.Restore(settings, m_prefix, m_tools.Clock.Today());
     bool isNumber = false;
     const int kind = settings.Get(m_prefix + u"Diagramm"_s).toInt(&isNumber);
     if (isNumber && kind >= 0 && kind < kindCount) {
@@ -54,7 +55,7 @@ void cStatisticsChart::Restore()
 
 void cStatisticsChart::Save()
 {
-    cSettings& settings = m_parts.Settings;
+    cSettings& settings = m_tools.Settings;
     m_period.Save(settings, m_prefix);
     const auto keep = [&](const QString& name, const QString& value) {
         modSetting::Keep(settings, m_prefix + name, value);
@@ -91,7 +92,7 @@ void cStatisticsChart::Invalidate()
 
 void cStatisticsChart::Refresh()
 {
-    cChartMaker maker(m_parts.Data, m_parts.Format, m_parts.Clock.Today());
+    cChartMaker maker(m_tools.Data, m_tools.Format, m_tools.Clock.Today());
     m_data = maker.Make(Wish());
     m_isStale = false;
     Q_EMIT Changed();
@@ -105,11 +106,11 @@ cChartWish cStatisticsChart::Wish() const
     if (m_compare == eCompare::YearBefore) {
         wish.Second = cChartWish::YearBefore(wish.Range);
     } else if (m_compare == eCompare::Period) {
-        wish.Second = modPeriod::Range(m_second, m_parts.Clock.Today(), m_period.Free());
+        wish.Second = modPeriod::Range(m_second, m_tools.Clock.Today(), m_period.Free());
     }
     wish.Account = m_account;
     wish.Group = m_group;
-    wish.ShowsFuture = m_parts.Settings.GetBool(u"ViewFutureBooking"_s);
+    wish.ShowsFuture = m_tools.Settings.GetBool(u"ViewFutureBooking"_s);
     wish.ShowsAverage = m_showsAverage;
     wish.ForecastMonths = HasForecast() ? m_forecastMonths : 0;
     return wish;
@@ -117,7 +118,7 @@ cChartWish cStatisticsChart::Wish() const
 
 modPeriod::cRange cStatisticsChart::Range() const
 {
-    return m_period.Range(m_parts.Clock.Today());
+    return m_period.Range(m_tools.Clock.Today());
 }
 
 void cStatisticsChart::ChooseKind(eChartKind kind)
@@ -130,7 +131,7 @@ void cStatisticsChart::ChooseKind(eChartKind kind)
 
 void cStatisticsChart::ChoosePeriod(const QString& name)
 {
-    m_period.Choose(name, m_parts.Clock.Today());
+    m_period.Choose(name, m_tools.Clock.Today());
     Save();
     Invalidate();
     Q_EMIT PeriodChosen(name);
