@@ -1,5 +1,6 @@
 #include "bench/cBenchBook.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/statement/cImportReview.h"
@@ -52,7 +53,7 @@ struct cScene
                 qFatal("no row to measure");
             }
         }
-        File.Book().Settings().Set(u"KTO:4711000815"_s, u"Girokonto"_s);
+        File.Book().Settings().Set(modSettingKey::BankNumber.Of(u"4711000815"_s), u"Girokonto"_s);
     }
 
     [[nodiscard]] std::unique_ptr<cImportReview> Review() { return std::make_unique<cImportReview>(File.Tools()); }

@@ -6,6 +6,7 @@
 #include "base/cUser.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
+#include "model/modSettingKey.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/template/cNameKeepers.h"
@@ -47,7 +48,7 @@ bool cMainProgram::Start(const QString& database)
     if (!OpenBook(startUp, database)) {
         return false;
     }
-    m_language.Use(m_configuration.GetSetting(QStringLiteral("LanguageName")), m_ports.Shell);
+    m_language.Use(m_configuration.GetSetting(modSettingKey::LanguageName), m_ports.Shell);
     BuildWindow();
     m_window->RestoreLayout();
     m_window->show();

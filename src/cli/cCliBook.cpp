@@ -7,6 +7,7 @@
 #include "core/cBackup.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
+#include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
 #include "views/template/cNameKeepers.h"
@@ -67,7 +68,7 @@ QString Hindrance(const QString& path, eCliAccess access, const cShell& shell)
 // another book.
 bool IsConfiguredBookThere(const cConfiguration& configuration, const cShell& shell)
 {
-    const QString path = configuration.GetSetting(u"Database"_s);
+    const QString path = configuration.GetSetting(modSettingKey::Database);
     if (path.isEmpty() || shell.FileExists(path)) {
         return true;
     }

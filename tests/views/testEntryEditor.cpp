@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -261,7 +262,7 @@ void testEntryEditor::SaysTheVatInTheAmount()
     cEntryEditor::cFields fields;
     fields.Category = modTemplate::Path(repair);
     fields.Amount = u"100"_s;
-    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
+    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97 €"_s);
     fields.Type = modWord::Umbuchung;
     QCOMPARE(editor.VatText(fields), QString());
 }
@@ -309,7 +310,7 @@ void testEntryEditor::NextEntryKeepsDayAccountAndKind()
         QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
     }
     QCOMPARE(editor.LastSaved().size(), 5);
-    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
+    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50 €"_s);
     const cEntryEditor::cFields next = editor.Next(fields);
     QVERIFY(editor.IsNew());
     QCOMPARE(next.Date, QDate(2026, 3, 3));
@@ -357,7 +358,7 @@ void testEntryEditor::DescriptionBringsItsLatestUse()
 void testEntryEditor::AmountsAreTypedAsTheyAreShown()
 {
     cTestBook book;
-    QVERIFY(book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
     cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
     QCOMPARE(fields.Amount, u"0.00"_s);
@@ -423,7 +424,7 @@ void testEntryEditor::StartBalanceHasItsSign()
     const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
     QCOMPARE(stored.EntryType, modWord::Ausgabe);
     QCOMPARE(stored.EntryValue, 12050);
-    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
+    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50 € am 01.01.2026"_s);
 
     fields = editor.Load(stored.ID).value();
     QCOMPARE(fields.Face, eEntryFace::StartBalance);
@@ -470,10 +471,10 @@ void testEntryEditor::LabelNamesTheCurrency()
     cTestBook book;
     const cEntryEditor editor(book.Tools);
     QCOMPARE(editor.AmountLabel(), u"Betrag (€):"_s);
-    QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"en_US"_s));
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"en_US"_s));
     book.Format.CultureChanged();
     QCOMPARE(editor.AmountLabel(), u"Betrag ($):"_s);
-    QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"id-ID"_s));
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"id-ID"_s));
     book.Format.CultureChanged();
     QCOMPARE(editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
 }

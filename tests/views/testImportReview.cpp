@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
@@ -178,7 +179,7 @@ private Q_SLOTS:
         page.Review.View().SetOpenOnly(true);
         QCOMPARE(rows.rowCount(), 0);
         QVERIFY(page.Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
-        QVERIFY(page.Settings->GetBool(u"HideBookedEntries"_s));
+        QVERIFY(page.Settings->GetBool(modSettingKey::HideBooked));
     }
 
     // The number of a row that is gone comes again.
@@ -371,8 +372,8 @@ private Q_SLOTS:
         view.SetGrouping(1);
         view.SetOldHidden(true);
         view.SetTitleShown(false);
-        QVERIFY(page.Settings->GetBool(u"HideOldImportEntries"_s));
-        QVERIFY(page.Settings->GetBool(u"HideAssignTitle"_s));
+        QVERIFY(page.Settings->GetBool(modSettingKey::HideOld));
+        QVERIFY(page.Settings->GetBool(modSettingKey::HideTitle));
         cImportReview other(page.Tools);
         QCOMPARE(other.View().Grouping(), 1);
         QVERIFY(other.View().IsOldHidden() && !other.View().IsTitleShown());

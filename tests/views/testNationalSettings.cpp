@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/book/cNationalSettings.h"
 
@@ -64,7 +65,7 @@ private Q_SLOTS:
         cMachine machine;
         QCOMPARE(machine.Settings.Current().Language, u"de"_s);
         QVERIFY(machine.Settings.Save({u"en"_s, u"de-DE"_s, {}}));
-        QCOMPARE(machine.Book.Settings->Get(u"LanguageName"_s), u"en"_s);
+        QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageName), u"en"_s);
         QCOMPARE(machine.Book.User.Shown, QStringList(u"Die neue Sprache gilt ab dem nächsten Start des Programms."_s));
     }
 

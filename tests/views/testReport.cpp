@@ -1,4 +1,5 @@
 #include "core/modDemo.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "support/testBook.h"
@@ -457,9 +458,9 @@ void testReport::FutureAndStartFollowTheView()
     };
     book.Settings->ResetViewDefaults();
     QCOMPARE(expense(), 2500);
-    book.Settings->SetBool(u"ViewFutureBooking"_s, false);
+    book.Settings->SetBool(modSettingKey::ViewFuture, false);
     QCOMPARE(expense(), 1500);
-    book.Settings->SetBool(u"ViewStartBooking"_s, false);
+    book.Settings->SetBool(modSettingKey::ViewStart, false);
     QCOMPARE(expense(), 1000);
 }
 

@@ -1,4 +1,5 @@
 #include "import/propose/cOwnRules.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cRuleListModel.h"
 #include "views/statement/modRuleText.h"
@@ -275,14 +276,14 @@ void testRuleListModel::FromARow() const
 void testRuleListModel::UnreadableStays() const
 {
     cScene scene;
-    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A\n"_s);
+    scene.Settings->Set(modSettingKey::OwnRules, u"2;kind=later\n1;text=a;category=A\n"_s);
     cRuleListModel list(scene.Tools);
     QVERIFY(!list.CanEdit() && !list.Save());
     QVERIFY(!list.Switch(0, true));
     QVERIFY(!list.flags(list.index(0, cRuleListModel::Rule)).testFlag(Qt::ItemIsUserCheckable));
     QCOMPARE(list.index(0, cRuleListModel::Rule).data().toString(), u"nicht lesbar: 2;kind=later"_s);
     QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
-    QCOMPARE(scene.Settings->Get(u"OwnRules"_s), u"1;text=a;category=A\n2;kind=later"_s);
+    QCOMPARE(scene.Settings->Get(modSettingKey::OwnRules), u"1;text=a;category=A\n2;kind=later"_s);
 }
 
 // Rules follow what they name, and come back with it.

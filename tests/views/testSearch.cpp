@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/list/cSearchModel.h"
 
@@ -188,7 +189,7 @@ private Q_SLOTS:
     void ReadsAmountsAsTheyAreShown()
     {
         cScene scene;
-        QVERIFY(scene.Book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
+        QVERIFY(scene.Book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
         scene.Book.Format.CultureChanged();
         cSearchModel::cFields fields{.AmountRule = cSearchModel::eAmountRule::Exactly, .Amount = u"2,500"_s};
         scene.Model.Search(fields);

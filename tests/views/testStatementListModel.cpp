@@ -1,5 +1,6 @@
 #include "import/read/cStatementRead.h"
 #include "import/stage/cBankBalances.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cStatementListModel.h"
 
@@ -35,8 +36,8 @@ struct cScene : cTestBook
                 qFatal("row not added");
             }
         }
-        Settings->Set(u"SALDO:"_s + number, balances);
-        Settings->Set(u"KTO:"_s + number, u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankBalances.Of(number), balances);
+        Settings->Set(modSettingKey::BankNumber.Of(number), u"Girokonto"_s);
     }
 
     // An entry of the account; income above zero.

@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/list/cListLayout.h"
 #include "views/template/cTemplateFlow.h"
@@ -93,16 +94,16 @@ void testTemplateFlow::MovesTransfersThatLeadToTheAccount()
 void testTemplateFlow::BankAccountFollowsTheName()
 {
     cTestBook book;
-    book.Settings->Set(u"KTO:4711"_s, u"Bargeld"_s);
-    book.Settings->Set(u"MainKonto"_s, u"Bargeld"_s);
+    book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Bargeld"_s);
+    book.Settings->Set(modSettingKey::MainAccount, u"Bargeld"_s);
     QVERIFY(cTemplateFlow(book.Tools).RenameAccount(u"Bargeld"_s, u"Kasse"_s));
     QVERIFY(book.User.Asked.isEmpty()); // no entry refers to the account
-    QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Kasse"_s);
-    QCOMPARE(book.Settings->Get(u"MainKonto"_s), u"Kasse"_s);
+    QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Kasse"_s);
+    QCOMPARE(book.Settings->Get(modSettingKey::MainAccount), u"Kasse"_s);
     QCOMPARE(book.Data.UndoName(), u"Konto 'Bargeld' umbenannt"_s);
     QVERIFY(book.Data.Undo());
     book.Settings->Reload();
-    QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Bargeld"_s);
+    QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Bargeld"_s);
 }
 
 void testTemplateFlow::RenamesACategoryWithItsEntries()

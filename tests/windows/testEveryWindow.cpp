@@ -1,5 +1,6 @@
 #include "base/cText.h"
 #include "core/cBook.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
@@ -85,7 +86,7 @@ struct cScene
         row.ImportDate = QDate(2026, 3, 12);
         row.ImportPurpose = u"Einkauf"_s;
         row.ImportValue = -12.5;
-        Book.Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Prepare(Book.Data.AddNewImportEntry(row));
         Row = row.ID;
     }
@@ -205,13 +206,14 @@ void testEveryWindow::CanBeReadAndOperated_data()
         {"import assistant with a statement", [](cScene& scene) { return MakeAssistant(scene, u"mt940/giro.sta"_s); }},
         {"account statement",
          [](cScene& scene) {
-             scene.Book.Settings->Set(u"SALDO:1234567"_s, u"2026-03-01=10000;2026-03-31=5000"_s);
+             scene.Book.Settings->Set(modSettingKey::BankBalances.Of(u"1234567"_s),
+                                      u"2026-03-01=10000;2026-03-31=5000"_s);
              scene.Statement = std::make_unique<cStatementListModel>(scene.Book.Tools);
              return std::make_unique<frmKontoauszug>(*scene.Statement);
          }},
         {"one import",
          [](cScene& scene) {
-             scene.Book.Settings->Set(u"ImportRuns"_s, u"%1-%1"_s.arg(scene.Row));
+             scene.Book.Settings->Set(modSettingKey::ImportRuns, u"%1-%1"_s.arg(scene.Row));
              scene.OneImport = scene.Review.StartImportReview();
              return std::make_unique<frmImportReview>(*scene.OneImport);
          }},

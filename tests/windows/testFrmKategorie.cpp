@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/template/cTemplateTree.h"
@@ -203,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.LoadEntry(scene.Id)->EntryAccount, u"Hauskonto"_s);
         QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryValue, 10000);
         QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryDate, QDate(2026, 1, 1));
-        QCOMPARE(scene.Book.Settings->Get(u"KTO:DE991"_s), u"Hauskonto"_s);
+        QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"DE991"_s)), u"Hauskonto"_s);
         QCOMPARE(scene.Book.Data.UndoName(), u"Konto 'Girokonto' umbenannt"_s);
     }
 

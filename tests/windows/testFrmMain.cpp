@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -171,7 +172,7 @@ void testFrmMain::ColumnLayoutIsKept()
     const QString layout = scene.Tree().LayoutText();
     QVERIFY(layout.startsWith(u"6,90,1|0,80,1|1,70,0|"_s));
     scene.Window.close();
-    QCOMPARE(scene.Book.Settings->Get(u"MainList"_s), layout);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainList), layout);
     scene.Model.ResetView();
     QVERIFY(scene.Tree().LayoutText().startsWith(u"0,"_s));
 }

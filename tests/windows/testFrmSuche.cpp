@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/list/cSearchModel.h"
@@ -130,7 +131,7 @@ private Q_SLOTS:
         const QString layout = scene.Tree.LayoutText();
         QTest::keyClick(&scene.Text, Qt::Key_Escape);
         QVERIFY(!scene.Window.isVisible());
-        QCOMPARE(scene.Book.Settings->Get(u"FilterList"_s), layout);
+        QCOMPARE(scene.Book.Settings->Get(modSettingKey::SearchList), layout);
         {
             frmSuche other(scene.Search);
             auto* tree = other.findChild<cEntryTree*>();
@@ -138,7 +139,7 @@ private Q_SLOTS:
             tree->sortByColumn(cEntryListModel::Category, Qt::AscendingOrder);
             other.show(); // and stays open until the program ends
         }
-        QVERIFY(scene.Book.Settings->Get(u"FilterList"_s).contains(u"sort,2,0"));
+        QVERIFY(scene.Book.Settings->Get(modSettingKey::SearchList).contains(u"sort,2,0"));
     }
 
     void everybodyCanUseIt()

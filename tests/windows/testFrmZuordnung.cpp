@@ -1,4 +1,5 @@
 #include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
@@ -29,7 +30,7 @@ struct cScene : cTestBook
 {
     cScene()
     {
-        Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Review.View().SetOpenOnly(false);
         Spend(2310, u"REWE"_s);
         Spend(5000, u"Schuhe"_s);

@@ -1,3 +1,5 @@
+#include "model/modSettingKey.h"
+
 // Renders the program's windows with the example household into PNG files, without a screen:
 //   kontorelle-screenshots FOLDER light|dark [POINTS [WIDTH HEIGHT]]
 // POINTS is the type size, WIDTH and HEIGHT are the largest that a window may be. The pictures are named after window
@@ -325,9 +327,9 @@ bool TakeStatement(cCamera& camera)
     scene.Book.Settings().Reload(); // the household was written past them
     take(u"kontoauszug-ohne-saldo"_s);
     const cImportEntry newest = scene.Book.Data().GetImportEntries().last();
-    const QString name = u"SALDO:"_s + newest.ImportAccount;
     const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
-    scene.Book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
+    scene.Book.Settings().Set(modSettingKey::BankBalances.Of(newest.ImportAccount),
+                              u"2026-10-31=150000;2026-11-10=140000;"_s + last);
     take(u"kontoauszug"_s);
     cStatementListModel statement(scene.Tools());
     cListPrinter printer(statement);
@@ -352,7 +354,7 @@ bool TakeRules(cCamera& camera)
         camera.Take(window, name);
     };
     take(u"regeln-leer"_s, nullptr);
-    scene.Book.Settings().Set(u"OwnRules"_s,
+    scene.Book.Settings().Set(modSettingKey::OwnRules,
                               u"1;sign=out;text=bäcker|konditorei;category=Haushalt%3b Lebensmittel\n"
                               "1;counterparty=Hausverwaltung Lindenhof;account=Girokonto;category=Wohnung%3b Miete;"
                               "interval=Monatlich;description=Miete Lindenhof\n"

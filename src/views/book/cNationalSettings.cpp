@@ -7,6 +7,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -56,10 +57,10 @@ QList<cNationalSettings::cOption> cNationalSettings::Currencies()
 
 cNationalSettings::cFields cNationalSettings::Current() const
 {
-    const QString language = m_configuration.GetSetting(u"LanguageName"_s);
-    return {language.isEmpty() ? u"de"_s : language,
-            Culture(m_configuration.GetSetting(u"LanguageFormat"_s), u"de-DE"_s),
-            Culture(m_configuration.GetSetting(u"LanguageCurrency"_s), {})};
+    const QString language = m_configuration.GetSetting(modSettingKey::LanguageName);
+    return {language.isEmpty() ? modSettingKey::LanguageName.Default() : language,
+            Culture(m_configuration.GetSetting(modSettingKey::LanguageFormat), modSettingKey::LanguageFormat.Default()),
+            Culture(m_configuration.GetSetting(modSettingKey::LanguageCurrency), {})};
 }
 
 cNationalSettings::cPreview cNationalSettings::Preview(const cFields& fields) const
@@ -73,9 +74,9 @@ bool cNationalSettings::Save(const cFields& fields)
 {
     const cFields before = Current();
     const bool isStored = !m_tools.Data.IsReadOnly()
-        && m_configuration.SaveSetting(u"LanguageName"_s, fields.Language, eSettingPlace::Database)
-        && m_configuration.SaveSetting(u"LanguageFormat"_s, fields.Format, eSettingPlace::Database)
-        && m_configuration.SaveSetting(u"LanguageCurrency"_s, fields.Currency, eSettingPlace::Database);
+        && m_configuration.SaveSetting(modSettingKey::LanguageName, fields.Language, eSettingPlace::Database)
+        && m_configuration.SaveSetting(modSettingKey::LanguageFormat, fields.Format, eSettingPlace::Database)
+        && m_configuration.SaveSetting(modSettingKey::LanguageCurrency, fields.Currency, eSettingPlace::Database);
     m_format.CultureChanged();
     Q_EMIT CultureChanged();
     if (!isStored) {

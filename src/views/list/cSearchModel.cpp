@@ -6,6 +6,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
@@ -17,8 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int typingPause = 120; // milliseconds: longer than between two letters, shorter than a person waits
-
-const QString layoutKey = u"FilterList"_s;
 
 std::optional<qint64> Cents(const QString& text, eDecimal decimal)
 {
@@ -261,12 +260,12 @@ QString cSearchModel::EmptyHint() const
 
 QString cSearchModel::Layout() const
 {
-    return m_tools.Settings.Get(layoutKey);
+    return m_tools.Settings.Get(modSettingKey::SearchList);
 }
 
 void cSearchModel::SaveLayout(const QString& layout)
 {
     if (Layout() != layout) {
-        m_tools.Settings.Set(layoutKey, layout);
+        m_tools.Settings.Set(modSettingKey::SearchList, layout);
     }
 }

@@ -8,9 +8,9 @@
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
-#include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryDelete.h"
@@ -29,14 +29,14 @@ namespace {
 constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
 
 // One of the five View... switches; null for another key.
-bool* Switch(cViewState& view, const QString& key)
+bool* Switch(cViewState& view, const cSettingKey& key)
 {
-    const QHash<QString, bool*> switches{{u"ViewSingleBooking"_s, &view.ShowsSingle},
-                                         {u"ViewFixBooking"_s, &view.ShowsFix},
-                                         {u"ViewFutureBooking"_s, &view.ShowsFuture},
-                                         {u"ViewStartBooking"_s, &view.ShowsStart},
-                                         {u"ViewAccountValueAll"_s, &view.BalancesToToday}};
-    return switches.value(key);
+    const QHash<QString, bool*> switches{{modSettingKey::ViewSingle.Name(), &view.ShowsSingle},
+                                         {modSettingKey::ViewFix.Name(), &view.ShowsFix},
+                                         {modSettingKey::ViewFuture.Name(), &view.ShowsFuture},
+                                         {modSettingKey::ViewStart.Name(), &view.ShowsStart},
+                                         {modSettingKey::ViewAllBalances.Name(), &view.BalancesToToday}};
+    return switches.value(key.Name());
 }
 
 } // namespace
@@ -83,15 +83,16 @@ void cMainModel::SaveLayout(const cPlacement& placement)
     SaveView();
     const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
                               QString::number(placement.Width), QString::number(placement.Height)};
-    m_parts.Configuration.SaveSetting(u"WindowSize"_s, numbers.join(u'|'), eSettingPlace::Database);
-    m_parts.Configuration.SaveSetting(u"WindowState"_s, QString::number(placement.State), eSettingPlace::Database);
+    m_parts.Configuration.SaveSetting(modSettingKey::WindowSize, numbers.join(u'|'), eSettingPlace::Database);
+    m_parts.Configuration.SaveSetting(modSettingKey::WindowState, QString::number(placement.State),
+                                      eSettingPlace::Database);
 }
 
 cMainModel::cPlacement cMainModel::RestoreLayout() const
 {
-    const QStringList numbers = m_parts.Configuration.GetSetting(u"WindowSize"_s).split(u'|');
+    const QStringList numbers = m_parts.Configuration.GetSetting(modSettingKey::WindowSize).split(u'|');
     cPlacement placement;
-    placement.State = m_parts.Configuration.GetSetting(u"WindowState"_s).toInt();
+    placement.State = m_parts.Configuration.GetSetting(modSettingKey::WindowState).toInt();
     if (numbers.size() == 4 && numbers.at(2).toInt() > 0 && numbers.at(3).toInt() > 0) {
         placement.Left = numbers.at(0).toInt();
         placement.Top = numbers.at(1).toInt();
@@ -103,9 +104,10 @@ cMainModel::cPlacement cMainModel::RestoreLayout() const
 
 void cMainModel::ResetView()
 {
-    for (const QString& key : {u"FilterList"_s, u"ImportList"_s, u"KategorieList"_s, u"MainList"_s, u"WindowSize"_s,
-                               u"WindowState"_s, u"GroupEntries"_s}) {
-        m_tools.Settings.Delete(key);
+    for (const cSettingKey* key : modSettingKey::All()) {
+        if (key->Facts().Reset == eSettingReset::Layout) {
+            m_tools.Settings.Delete(*key);
+        }
     }
     LeaveSelection();
     m_view.Grouping = modWord::KeineGruppierung;
@@ -114,11 +116,11 @@ void cMainModel::ResetView()
     m_view.Period = modWord::AlleBuchungen;
     m_view.Free = {}; // chosen again, the free period starts with the days in sight
     m_view.Account = modWord::AlleKonten;
-    SetSwitch(u"ViewFixBooking"_s, eSwitch::On);
-    SetSwitch(u"ViewSingleBooking"_s, eSwitch::On);
-    SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+    SetSwitch(modSettingKey::ViewFix, eSwitch::On);
+    SetSwitch(modSettingKey::ViewSingle, eSwitch::On);
+    SetSwitch(modSettingKey::ViewFuture, eSwitch::On);
     // Off on purpose, unlike the defaults of a new book: a reset shows the balances of what is in sight.
-    SetSwitch(u"ViewAccountValueAll"_s, eSwitch::Off);
+    SetSwitch(modSettingKey::ViewAllBalances, eSwitch::Off);
     Q_EMIT LayoutReset();
     RefreshView();
 }
@@ -201,7 +203,7 @@ QHash<QString, int> cMainModel::OpenByAccount() const
     QHash<QString, int> byAccount;
     const QHash<QString, int> byNumber = m_tools.Data.CountOpenImports();
     for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
-        byAccount[m_tools.Settings.Get(cAccountMap::SettingName(open.key()))] += *open;
+        byAccount[m_tools.Settings.Get(modSettingKey::BankNumber.Of(open.key()))] += *open;
     }
     return byAccount;
 }
@@ -245,7 +247,7 @@ void cMainModel::OfferFuture(const QString& period)
                                                "aktiviert werden?"),
                              .Title = {}})
             == eAnswer::Yes) {
-        SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+        SetSwitch(modSettingKey::ViewFuture, eSwitch::On);
     }
 }
 
@@ -303,7 +305,7 @@ void cMainModel::ShowFilter()
     Q_EMIT EntriesChanged();
 }
 
-void cMainModel::SetSwitch(const QString& key, eSwitch state)
+void cMainModel::SetSwitch(const cSettingKey& key, eSwitch state)
 {
     *Switch(m_view, key) = state == eSwitch::On;
     if (m_detour) {
@@ -313,7 +315,7 @@ void cMainModel::SetSwitch(const QString& key, eSwitch state)
     m_balancesOf = QDate();
 }
 
-void cMainModel::ToggleView(const QString& key)
+void cMainModel::ToggleView(const cSettingKey& key)
 {
     const bool* state = Switch(m_view, key);
     if (state != nullptr) {
@@ -322,7 +324,7 @@ void cMainModel::ToggleView(const QString& key)
     }
 }
 
-bool cMainModel::IsChecked(const QString& key) const
+bool cMainModel::IsChecked(const cSettingKey& key) const
 {
     if (m_detour) { // its switches are not stored
         cViewState view = m_view;
@@ -358,8 +360,8 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
     for (QString* account : {&m_view.Account, m_detour ? &m_detour->Before.Account : &m_view.Account}) {
         *account = *account == oldName ? newName : *account;
     }
-    if (m_tools.Settings.Get(modSetting::StatisticsAccount) == oldName) {
-        m_tools.Settings.Set(modSetting::StatisticsAccount, newName);
+    if (m_tools.Settings.Get(modSettingKey::StatisticsAccount) == oldName) {
+        m_tools.Settings.Set(modSettingKey::StatisticsAccount, newName);
     }
     BookChanged();
 }
@@ -481,12 +483,12 @@ bool cMainModel::IsReadOnly() const
     return m_tools.Data.IsReadOnly();
 }
 
-QString cMainModel::Layout(const QString& key) const
+QString cMainModel::Layout(const cSettingKey& key) const
 {
     return m_tools.Settings.Get(key);
 }
 
-void cMainModel::SaveListLayout(const QString& key, const QString& layout)
+void cMainModel::SaveListLayout(const cSettingKey& key, const QString& layout)
 {
     modSetting::Keep(m_tools.Settings, key, layout);
 }

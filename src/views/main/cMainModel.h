@@ -18,6 +18,7 @@
 class cConfiguration;
 class cDataAccess;
 class cNavigator;
+class cSettingKey;
 class cShell;
 struct cBookTools;
 
@@ -70,7 +71,7 @@ public:
     void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
     // Asks whether entries after today are to be shown, when the period holds nothing else. The caller refreshes.
     void OfferFuture(const QString& period);
-    void ToggleView(const QString& key); // one of the five View... switches
+    void ToggleView(const cSettingKey& key); // one of the five View... switches
 
     // Shows selected entries in place of the view, grouped by main category. None of it is stored; GoBack shows the
     // view as it was before the first selection.
@@ -83,7 +84,7 @@ public:
     // One handler for menus, tool bar and keys. False for an unknown number.
     bool Execute(int command);
     [[nodiscard]] bool IsEnabled(int command) const;
-    [[nodiscard]] bool IsChecked(const QString& key) const;
+    [[nodiscard]] bool IsChecked(const cSettingKey& key) const;
     // The caption with its mnemonic; Undo and Redo name the step that they work on.
     [[nodiscard]] QString MenuText(int command) const;
 
@@ -129,8 +130,8 @@ public:
     [[nodiscard]] bool IsReadOnly() const;
 
     // Column layout of a list, as its window wrote it.
-    [[nodiscard]] QString Layout(const QString& key) const;
-    void SaveListLayout(const QString& key, const QString& layout);
+    [[nodiscard]] QString Layout(const cSettingKey& key) const;
+    void SaveListLayout(const cSettingKey& key, const QString& layout);
 
 Q_SIGNALS:
     void ViewChanged();    // selectors, switches, hint
@@ -150,7 +151,7 @@ private:
     void StepThrough(bool (cDataAccess::*step)());
     [[nodiscard]] QString StepName(int command) const;
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
-    void SetSwitch(const QString& key, eSwitch state);
+    void SetSwitch(const cSettingKey& key, eSwitch state);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
     [[nodiscard]] QHash<QString, int> OpenByAccount() const;
 

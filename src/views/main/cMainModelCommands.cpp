@@ -37,7 +37,7 @@ bool cMainModel::Execute(int command)
     case modCommand::ViewFix:
     case modCommand::ViewFuture:
     case modCommand::ViewStart:
-    case modCommand::ViewAccountValues: ToggleView(QString::fromUtf8(known->Setting)); break;
+    case modCommand::ViewAccountValues: ToggleView(*known->Setting); break;
     case modCommand::ImportStatement:
     case modCommand::Export:
     case modCommand::Print:

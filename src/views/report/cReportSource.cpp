@@ -4,6 +4,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/cEntryQuery.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/report/modReport.h"
@@ -26,8 +27,8 @@ cReportWish cReportSource::Wish(eReport type, const QString& account, const QStr
     wish.Period = period;
     wish.Today = m_tools.Clock.Today();
     wish.Range = modPeriod::Range(period, wish.Today, free);
-    wish.ShowsFuture = m_tools.Settings.GetBool(u"ViewFutureBooking"_s);
-    wish.ShowsStart = m_tools.Settings.GetBool(u"ViewStartBooking"_s);
+    wish.ShowsFuture = m_tools.Settings.GetBool(modSettingKey::ViewFuture);
+    wish.ShowsStart = m_tools.Settings.GetBool(modSettingKey::ViewStart);
     return wish;
 }
 

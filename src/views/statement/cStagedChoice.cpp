@@ -4,6 +4,7 @@
 #include "base/modCount.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,12 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using eGrouping = modStagedGroup::eGrouping;
-
-const QString openOnlySetting = u"HideBookedEntries"_s;
-const QString oldSetting = u"HideOldImportEntries"_s;
-const QString titleSetting = u"HideAssignTitle"_s;
-const QString groupingSetting = u"ImportGrouping"_s;
-const QString layoutSetting = u"ImportList"_s;
 
 } // namespace
 
@@ -28,7 +23,7 @@ cStagedChoice::cStagedChoice(cStagedSource& source, const cBookTools& tools, con
       m_rows(source, tools.Format)
 {
     m_rows.SetShown(Shown());
-    m_rows.SetGrouping(modStagedGroup::FromStored(m_tools.Settings.Get(groupingSetting)));
+    m_rows.SetGrouping(modStagedGroup::FromStored(m_tools.Settings.Get(modSettingKey::ImportGrouping)));
 }
 
 cStagedOrder::cShown cStagedChoice::Shown() const
@@ -55,7 +50,7 @@ void cStagedChoice::SetRows(const cImportEntryList& rows)
     if (m_rows.Shown() != Shown()) {
         m_rows.SetShown(Shown());
     }
-    const eGrouping grouping = modStagedGroup::FromStored(m_tools.Settings.Get(groupingSetting));
+    const eGrouping grouping = modStagedGroup::FromStored(m_tools.Settings.Get(modSettingKey::ImportGrouping));
     if (m_rows.Grouping() != grouping) {
         m_rows.SetGrouping(grouping);
     }
@@ -72,34 +67,34 @@ void cStagedChoice::ForgetInfo()
 bool cStagedChoice::IsOpenOnly() const
 {
     // What waits is what the page is for, so a new book starts with it alone.
-    return m_tools.Settings.Get(openOnlySetting).isEmpty() || m_tools.Settings.GetBool(openOnlySetting);
+    return m_tools.Settings.GetBool(modSettingKey::HideBooked);
 }
 
 void cStagedChoice::SetOpenOnly(bool isOpenOnly)
 {
-    m_tools.Settings.SetBool(openOnlySetting, isOpenOnly);
+    m_tools.Settings.SetBool(modSettingKey::HideBooked, isOpenOnly);
     Show();
 }
 
 bool cStagedChoice::IsOldHidden() const
 {
-    return m_tools.Settings.GetBool(oldSetting);
+    return m_tools.Settings.GetBool(modSettingKey::HideOld);
 }
 
 void cStagedChoice::SetOldHidden(bool isHidden)
 {
-    m_tools.Settings.SetBool(oldSetting, isHidden);
+    m_tools.Settings.SetBool(modSettingKey::HideOld, isHidden);
     Show();
 }
 
 bool cStagedChoice::IsTitleShown() const
 {
-    return !m_tools.Settings.GetBool(titleSetting);
+    return !m_tools.Settings.GetBool(modSettingKey::HideTitle);
 }
 
 void cStagedChoice::SetTitleShown(bool isShown)
 {
-    m_tools.Settings.SetBool(titleSetting, !isShown);
+    m_tools.Settings.SetBool(modSettingKey::HideTitle, !isShown);
     Q_EMIT Changed();
 }
 
@@ -119,7 +114,7 @@ void cStagedChoice::SetGrouping(int place)
         return;
     }
     const auto grouping = static_cast<eGrouping>(place);
-    m_tools.Settings.Set(groupingSetting, modStagedGroup::Stored(grouping));
+    m_tools.Settings.Set(modSettingKey::ImportGrouping, modStagedGroup::Stored(grouping));
     m_rows.SetGrouping(grouping);
     Q_EMIT Changed();
 }
@@ -165,12 +160,12 @@ QString cStagedChoice::CountText() const
 
 QString cStagedChoice::Layout() const
 {
-    return m_tools.Settings.Get(layoutSetting);
+    return m_tools.Settings.Get(modSettingKey::ImportList);
 }
 
 void cStagedChoice::SaveLayout(const QString& layout)
 {
     if (layout != Layout() && !m_tools.Data.IsReadOnly()) {
-        m_tools.Settings.Set(layoutSetting, layout);
+        m_tools.Settings.Set(modSettingKey::ImportList, layout);
     }
 }

@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/list/modSetting.h"
 
@@ -18,10 +19,10 @@ constexpr int mostForecast = 12; // months
 
 } // namespace
 
-cStatisticsChart::cStatisticsChart(const cBookTools& tools, const QString& prefix, eChartKind kind, QObject* parent)
+cStatisticsChart::cStatisticsChart(const cBookTools& tools, const QString& pane, eChartKind kind, QObject* parent)
     : QObject(parent),
       m_tools(tools),
-      m_prefix(prefix),
+      m_pane(pane),
       m_kind(kind)
 {
 }
@@ -36,19 +37,20 @@ QStringList cStatisticsChart::Kinds()
 void cStatisticsChart::Restore()
 {
     const cSettings& settings = m_tools.Settings;
-    m_period.Restore(settings, m_prefix, m_tools.Clock.Today());
+    m_period.Restore(settings, m_pane, m_tools.Clock.Today());
     bool isNumber = false;
-    const int kind = settings.Get(m_prefix + u"Diagramm"_s).toInt(&isNumber);
+    const int kind = settings.Get(modSettingKey::PaneChart.Of(m_pane)).toInt(&isNumber);
     if (isNumber && kind >= 0 && kind < kindCount) {
         m_kind = static_cast<eChartKind>(kind);
     }
-    m_second = settings.Get(m_prefix + u"Vergleich"_s);
+    m_second = settings.Get(modSettingKey::PaneCompare.Of(m_pane));
     m_compare = m_second == u"Vorjahr"          ? eCompare::YearBefore
         : modWord::Periods().Contains(m_second) ? eCompare::Period
                                                 : eCompare::Nothing;
-    const int months = settings.Get(m_prefix + u"Vorschau"_s).toInt(&isNumber);
-    m_forecastMonths = isNumber ? std::clamp(months, 0, mostForecast) : m_forecastMonths;
-    m_showsAverage = settings.GetBool(m_prefix + u"Durchschnitt"_s);
+    const cSettingKey forecast = modSettingKey::PaneForecast.Of(m_pane);
+    const int months = settings.Get(forecast).toInt(&isNumber);
+    m_forecastMonths = isNumber ? std::clamp(months, 0, mostForecast) : forecast.Default().toInt();
+    m_showsAverage = settings.GetBool(modSettingKey::PaneAverage.Of(m_pane));
     m_group.reset();
     Invalidate();
 }
@@ -56,14 +58,14 @@ void cStatisticsChart::Restore()
 void cStatisticsChart::Save()
 {
     cSettings& settings = m_tools.Settings;
-    m_period.Save(settings, m_prefix);
-    const auto keep = [&](const QString& name, const QString& value) {
-        modSetting::Keep(settings, m_prefix + name, value);
+    m_period.Save(settings, m_pane);
+    const auto keep = [&](const cSettingFamily& key, const QString& value) {
+        modSetting::Keep(settings, key.Of(m_pane), value);
     };
-    keep(u"Diagramm"_s, QString::number(static_cast<int>(m_kind)));
-    keep(u"Vergleich"_s, m_compare == eCompare::YearBefore ? u"Vorjahr"_s : m_second);
-    keep(u"Vorschau"_s, QString::number(m_forecastMonths));
-    keep(u"Durchschnitt"_s, cSettings::FromBool(m_showsAverage));
+    keep(modSettingKey::PaneChart, QString::number(static_cast<int>(m_kind)));
+    keep(modSettingKey::PaneCompare, m_compare == eCompare::YearBefore ? u"Vorjahr"_s : m_second);
+    keep(modSettingKey::PaneForecast, QString::number(m_forecastMonths));
+    keep(modSettingKey::PaneAverage, cSettings::FromBool(m_showsAverage));
 }
 
 void cStatisticsChart::SetAccount(const QString& account)
@@ -110,7 +112,7 @@ cChartWish cStatisticsChart::Wish() const
     }
     wish.Account = m_account;
     wish.Group = m_group;
-    wish.ShowsFuture = m_tools.Settings.GetBool(u"ViewFutureBooking"_s);
+    wish.ShowsFuture = m_tools.Settings.GetBool(modSettingKey::ViewFuture);
     wish.ShowsAverage = m_showsAverage;
     wish.ForecastMonths = HasForecast() ? m_forecastMonths : 0;
     return wish;

@@ -20,8 +20,8 @@ public:
     // What can be laid beside the period.
     enum class eCompare { Nothing, YearBefore, Period };
 
-    // `prefix`: of the keys of its settings. `kind`: the chart as long as no other was chosen.
-    cStatisticsChart(const cBookTools& tools, const QString& prefix, eChartKind kind, QObject* parent = nullptr);
+    // `pane`: part of the keys of its settings. `kind`: the chart as long as no other was chosen.
+    cStatisticsChart(const cBookTools& tools, const QString& pane, eChartKind kind, QObject* parent = nullptr);
 
     void Restore();
     void SetAccount(const QString& account); // empty: all accounts
@@ -65,7 +65,7 @@ private:
     void Save();
 
     const cBookTools& m_tools;
-    QString m_prefix;
+    QString m_pane;
     eChartKind m_kind;
     cStatisticsPeriod m_period;
     eCompare m_compare = eCompare::Nothing;

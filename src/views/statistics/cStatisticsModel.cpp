@@ -8,6 +8,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/cTemplateItem.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/chart/modChart.h"
 #include "views/list/modSetting.h"
@@ -26,7 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Keys of the page's settings begin so.
-const QString prefix = u"Statistik"_s;
+const QString reportPane; // the charts are "1" and "2"
 
 // What a selection of entries is, in words.
 QString TitleOf(const cReportNode& node)
@@ -61,17 +62,18 @@ std::function<cEntryItemList(const cEntryItemList&)> Picker(const cReportWish& w
 }
 
 template <typename tEnum>
-tEnum Stored(const cSettings& settings, const QString& name, tEnum last, tEnum otherwise)
+tEnum Stored(const cSettings& settings, const cSettingKey& key, tEnum last)
 {
     bool isNumber = false;
-    const int value = settings.Get(prefix + name).toInt(&isNumber);
-    return isNumber && value >= 0 && value <= static_cast<int>(last) ? static_cast<tEnum>(value) : otherwise;
+    const int value = settings.Get(key).toInt(&isNumber);
+    return static_cast<tEnum>(isNumber && value >= 0 && value <= static_cast<int>(last) ? value
+                                                                                        : key.Default().toInt());
 }
 
 template <typename tEnum>
-void Store(cSettings& settings, const QString& name, tEnum value)
+void Store(cSettings& settings, const cSettingKey& key, tEnum value)
 {
-    modSetting::Keep(settings, prefix + name, QString::number(static_cast<int>(value)));
+    modSetting::Keep(settings, key, QString::number(static_cast<int>(value)));
 }
 
 } // namespace
@@ -82,8 +84,8 @@ cStatisticsModel::cStatisticsModel(const cBookTools& tools, const cParts& parts,
       m_parts(parts),
       m_source(tools),
       m_tree(tools.Format),
-      m_firstChart(tools, prefix + u"1"_s, eChartKind::ExpensePie),
-      m_secondChart(tools, prefix + u"2"_s, eChartKind::Months)
+      m_firstChart(tools, u"1"_s, eChartKind::ExpensePie),
+      m_secondChart(tools, u"2"_s, eChartKind::Months)
 {
     for (const cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
         connect(chart, &cStatisticsChart::PeriodChosen, this, [this, chart](const QString& name) {
@@ -97,13 +99,13 @@ cStatisticsModel::cStatisticsModel(const cBookTools& tools, const cParts& parts,
 void cStatisticsModel::Restore()
 {
     const cSettings& settings = m_tools.Settings;
-    m_type = Stored(settings, u"Bericht"_s, eReport::Limit, eReport::Average);
-    m_period.Restore(settings, prefix, m_tools.Clock.Today());
-    m_order = Stored(settings, u"Ordnung"_s, eReportOrder::ByAmount, eReportOrder::ByName);
-    m_spending = Stored(settings, u"Erstattungen"_s, eReportSpending::Gross, eReportSpending::Net);
-    m_page = Stored(settings, u"Seite"_s, ePage::Charts, ePage::Report);
-    const int zoom = settings.Get(prefix + u"Zoom"_s).toInt();
-    m_zoom = zoom > 0 ? zoom : 100;
+    m_type = Stored(settings, modSettingKey::StatisticsReport, eReport::Limit);
+    m_period.Restore(settings, reportPane, m_tools.Clock.Today());
+    m_order = Stored(settings, modSettingKey::StatisticsOrder, eReportOrder::ByAmount);
+    m_spending = Stored(settings, modSettingKey::StatisticsSpending, eReportSpending::Gross);
+    m_page = Stored(settings, modSettingKey::StatisticsPage, ePage::Charts);
+    const int zoom = settings.Get(modSettingKey::StatisticsZoom).toInt();
+    m_zoom = zoom > 0 ? zoom : modSettingKey::StatisticsZoom.Default().toInt();
     for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
         chart->Restore();
     }
@@ -124,7 +126,7 @@ void cStatisticsModel::SetShown(bool isShown)
 void cStatisticsModel::ChoosePage(ePage page)
 {
     m_page = page;
-    Store(m_tools.Settings, u"Seite"_s, page);
+    Store(m_tools.Settings, modSettingKey::StatisticsPage, page);
     SetShown(m_isShown);
 }
 
@@ -149,10 +151,10 @@ modPeriod::cRange cStatisticsModel::Range() const
 void cStatisticsModel::Changed()
 {
     cSettings& settings = m_tools.Settings;
-    Store(settings, u"Bericht"_s, m_type);
-    Store(settings, u"Ordnung"_s, m_order);
-    Store(settings, u"Erstattungen"_s, m_spending);
-    m_period.Save(settings, prefix);
+    Store(settings, modSettingKey::StatisticsReport, m_type);
+    Store(settings, modSettingKey::StatisticsOrder, m_order);
+    Store(settings, modSettingKey::StatisticsSpending, m_spending);
+    m_period.Save(settings, reportPane);
     Q_EMIT SelectorsChanged();
     m_isStale = true;
     SetShown(m_isShown);
@@ -195,7 +197,7 @@ void cStatisticsModel::ChooseReport(eReport type)
 void cStatisticsModel::ChooseAccount(const QString& account)
 {
     m_account = Accounts().contains(account) ? account : modWord::AlleKonten;
-    modSetting::Keep(m_tools.Settings, modSetting::StatisticsAccount, m_account);
+    modSetting::Keep(m_tools.Settings, modSettingKey::StatisticsAccount, m_account);
     m_firstChart.SetAccount(Wish().Account);
     m_secondChart.SetAccount(Wish().Account);
     Changed();
@@ -254,12 +256,12 @@ void cStatisticsModel::SetZoom(int percent)
         return;
     }
     m_zoom = percent;
-    m_tools.Settings.Set(prefix + u"Zoom"_s, QString::number(percent));
+    m_tools.Settings.Set(modSettingKey::StatisticsZoom, QString::number(percent));
 }
 
 void cStatisticsModel::BookChanged()
 {
-    const QString account = m_tools.Settings.Get(modSetting::StatisticsAccount);
+    const QString account = m_tools.Settings.Get(modSettingKey::StatisticsAccount);
     m_account = Accounts().contains(account) ? account : modWord::AlleKonten; // which may come back
     m_source.Forget();
     m_isStale = true;

@@ -10,6 +10,7 @@
 #include "core/cSettings.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -26,7 +27,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString layoutKey = u"KategorieList"_s;
 constexpr QChar layoutSeparator = u'#'; // between the two trees
 
 QString Cleaned(const QString& name)
@@ -493,18 +493,18 @@ QString cTemplateManager::NumbersHint() const
 
 cTreeLayout cTemplateManager::CategoryLayout() const
 {
-    return cTreeLayout::FromText(m_tools.Settings.Get(layoutKey).section(layoutSeparator, 0, 0));
+    return cTreeLayout::FromText(m_tools.Settings.Get(modSettingKey::CategoryList).section(layoutSeparator, 0, 0));
 }
 
 cTreeLayout cTemplateManager::AccountLayout() const
 {
-    return cTreeLayout::FromText(m_tools.Settings.Get(layoutKey).section(layoutSeparator, 1, 1));
+    return cTreeLayout::FromText(m_tools.Settings.Get(modSettingKey::CategoryList).section(layoutSeparator, 1, 1));
 }
 
 void cTemplateManager::SaveLayout(const cTreeLayout& categories, const cTreeLayout& accounts)
 {
     const QString text = categories.ToText() + layoutSeparator + accounts.ToText();
-    if (text != m_tools.Settings.Get(layoutKey)) {
-        m_tools.Settings.Set(layoutKey, text);
+    if (text != m_tools.Settings.Get(modSettingKey::CategoryList)) {
+        m_tools.Settings.Set(modSettingKey::CategoryList, text);
     }
 }
