@@ -14,9 +14,7 @@ namespace {
 struct cScene
 {
     cDataAccess& Data = cBenchBook::Large().Book().Data();
-    cFakeUser User;
-    cFakeClock Clock{cBenchBook::Today};
-    cEntryEditor Editor{Data, User, Clock};
+    cEntryEditor Editor{cBenchBook::Large().Tools()};
 };
 
 // All that the window needs until it stands, and the first look into the proposals.

@@ -1,6 +1,4 @@
 #include "bench/cBenchBook.h"
-#include "core/cAmountFormat.h"
-#include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modPeriod.h"
 #include "store/cDataAccess.h"
@@ -19,15 +17,10 @@ namespace {
 
 struct cScene
 {
-    cBook& Book = cBenchBook::Large().Book();
-    cFakeRegistry Registry;
-    cFakeUser User;
     cFakeShell Shell;
-    cFakeClock Clock{cBenchBook::Today};
     cFakeNavigator Navigator;
-    cConfiguration Configuration{Registry};
-    cAmountFormat Format{Configuration};
-    cMainModel Model{{Book.Data(), Book.Settings(), Configuration, Format, User, Clock, Shell, Navigator, Book.Path()}};
+    cMainModel Model{cBenchBook::Large().Tools(),
+                     {cBenchBook::Large().Configuration(), Shell, Navigator, cBenchBook::Large().Path()}};
 };
 
 cEntryQuery MonthQuery()

@@ -1,6 +1,4 @@
 #include "bench/cBenchBook.h"
-#include "core/cAmountFormat.h"
-#include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -19,11 +17,7 @@ struct cReportBench
     cReportBench() { Wish.Type = eReport::Sum; }
 
     cBook& Book = cBenchBook::Large().Book();
-    cFakeRegistry Registry;
-    cConfiguration Configuration{Registry};
-    cAmountFormat Format{Configuration};
-    cFakeClock Clock{cBenchBook::Today};
-    cReportSource Source{Book.Data(), Book.Settings(), Clock, Format};
+    cReportSource Source{cBenchBook::Large().Tools()};
     cReportWish Wish;
 };
 
@@ -65,7 +59,7 @@ void ReportHtmlAlone(benchmark::State& state)
     cReportBench bench;
     const cReportFigures figures = bench.Source.Figures(bench.Wish);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(modReportHtml::Html(figures, bench.Wish, bench.Format));
+        benchmark::DoNotOptimize(modReportHtml::Html(figures, bench.Wish, cBenchBook::Large().Tools().Format));
     }
 }
 BENCHMARK(ReportHtmlAlone)->Unit(benchmark::kMillisecond);

@@ -1,6 +1,4 @@
 #include "bench/cBenchBook.h"
-#include "core/cAmountFormat.h"
-#include "core/cConfiguration.h"
 #include "model/modWord.h"
 #include "support/cFakeNavigator.h"
 #include "views/main/cMainModel.h"
@@ -29,16 +27,11 @@ struct cScene
         Model.ChoosePeriod(u"Buchungen bis heute"_s);
     }
 
-    cBook& Book = cBenchBook::Large().Book();
-    cFakeRegistry Registry;
-    cFakeUser User;
     cFakeShell Shell;
-    cFakeClock Clock{cBenchBook::Today};
     cFakeNavigator Navigator;
-    cConfiguration Configuration{Registry};
-    cAmountFormat Format{Configuration};
-    cMainModel Main{{Book.Data(), Book.Settings(), Configuration, Format, User, Clock, Shell, Navigator, Book.Path()}};
-    cStatisticsModel Model{{Book.Data(), Book.Settings(), Format, User, Clock, Shell, Navigator, Main}};
+    cMainModel Main{cBenchBook::Large().Tools(),
+                    {cBenchBook::Large().Configuration(), Shell, Navigator, cBenchBook::Large().Path()}};
+    cStatisticsModel Model{cBenchBook::Large().Tools(), {Shell, Navigator, Main}};
 };
 
 void Paint(QWidget& widget)

@@ -1,7 +1,6 @@
 #include "bench/cBenchBook.h"
-#include "core/cAmountFormat.h"
-#include "core/cConfiguration.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/statement/cImportReview.h"
@@ -54,20 +53,12 @@ struct cScene
                 qFatal("no row to measure");
             }
         }
-        File.Book().Settings().Set(u"KTO:4711000815"_s, u"Girokonto"_s);
+        File.Book().Settings().Set(modSettingKey::BankNumber.Of(u"4711000815"_s), u"Girokonto"_s);
     }
 
-    [[nodiscard]] std::unique_ptr<cImportReview> Review()
-    {
-        return std::make_unique<cImportReview>(
-            cImportReview::cParts{File.Book().Data(), File.Book().Settings(), Format, User});
-    }
+    [[nodiscard]] std::unique_ptr<cImportReview> Review() { return std::make_unique<cImportReview>(File.Tools()); }
 
     cBenchBook File{12000};
-    cFakeRegistry Registry;
-    cFakeUser User;
-    cConfiguration Configuration{Registry};
-    cAmountFormat Format{Configuration};
 };
 
 cScene& Scene()

@@ -14,10 +14,8 @@ namespace {
 
 void OpenEditorWindow(benchmark::State& state)
 {
-    cFakeUser user;
-    cFakeClock clock(cBenchBook::Today);
     for (auto _ : state) {
-        cEntryEditor editor(cBenchBook::Large().Book().Data(), user, clock);
+        cEntryEditor editor(cBenchBook::Large().Tools());
         frmBuchung form(editor, editor.Start(u"Girokonto"_s));
         form.show();
         QApplication::processEvents();

@@ -11,6 +11,7 @@ cBenchBook::cBenchBook(int entries)
     if (!isCopied || !m_book->Open(Path())) {
         qFatal("no book to measure");
     }
+    m_tools.emplace(cBookTools{m_book->Data(), m_book->Settings(), m_format, m_user, m_clock});
     if (entries > 0 && !modDemo::Write(m_book->Data(), modDemo::OfSize(entries, Today))) {
         qFatal("the book could not be filled");
     }

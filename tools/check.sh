@@ -29,6 +29,7 @@ only 'QDateEdit|QDateTimeEdit'                 'none/'                 'days are
 only 'QMessageBox|QInputDialog'                'src/app/|tests/(windows|app)/' 'messages and questions go through cUser'
 only 'QSettings|QStandardPaths|QProcess|QLocale::system' 'src/app/|tests/(app|cli)/' 'the machine is reached through the ports of base/'
 only '\bthrow\b.*;|\bcatch \('                 'src/(store|app|cli)/|tests/|bench/' 'exceptions stay inside store/ and the adapters'
+only '\bcSetting(Key|Family)( [A-Za-z]+)?[({]'  'src/model/'            'keys of settings are made in modSettingKey'
 only '#include <Qt(Core|Widgets|Gui|Network|Test)>' 'none/'            'include single Qt headers, not whole modules'
 only '\b(TODO|FIXME|XXX)\b'                          'none/'                 'finish it, or leave it out and say so in doc/decisions.md'
 
@@ -42,6 +43,11 @@ papers='[Ss]pec[i]fication|spec[.]md|\bParts? [0-9]+[.][0-9]|\bissu[e]\b|\bshare
 mapfile -t prose < <(find $texts -type f \( -name '*.md' -o -name '*.sql' -o -name '*.txt' \) 2>/dev/null)
 hits=$(grep -nHE "$papers" "${files[@]}" "${prose[@]}" 2>/dev/null)
 [ -n "$hits" ] && fail 'explain it here, or leave it out' "$hits"
+
+# A key that All or Families leave out would not be spared by a reset.
+keys=$(grep -cE '^inline const cSetting(Key|Family) ' src/model/modSettingKey.h)
+listed=$(grep -oE '&[A-Z][A-Za-z]+' src/model/modSettingKey.cpp | sort -u | wc -l)
+[ "$keys" -eq "$listed" ] || fail 'a setting is missing in All or Families' "src/model/modSettingKey.cpp: $listed of $keys"
 
 # The CMakeLists.txt that has to list a file is the nearest one above it.
 list_of() {

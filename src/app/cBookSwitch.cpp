@@ -8,6 +8,7 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
+#include "model/modSettingKey.h"
 
 #include <QDir>
 
@@ -53,7 +54,7 @@ bool cBookSwitch::Switch(const QString& path, eBookOrigin origin)
         return false;
     }
     m_parts.Lock = std::move(lock);
-    m_parts.Configuration.SaveSetting(u"Database"_s, probe->Path, eSettingPlace::Registry);
+    m_parts.Configuration.SaveSetting(modSettingKey::Database, probe->Path, eSettingPlace::Registry);
     m_hooks.Arrive(probe->IsNewVersion);
     return true;
 }

@@ -6,6 +6,7 @@
 #include "base/cUser.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
+#include "model/modSettingKey.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/template/cNameKeepers.h"
@@ -47,7 +48,7 @@ bool cMainProgram::Start(const QString& database)
     if (!OpenBook(startUp, database)) {
         return false;
     }
-    m_language.Use(m_configuration.GetSetting(QStringLiteral("LanguageName")), m_ports.Shell);
+    m_language.Use(m_configuration.GetSetting(modSettingKey::LanguageName), m_ports.Shell);
     BuildWindow();
     m_window->RestoreLayout();
     m_window->show();
@@ -104,13 +105,12 @@ bool cMainProgram::OpenForeign(const QString& path)
 void cMainProgram::BuildWindow()
 {
     cNameKeepers::Watch(m_book.Data(), m_book.Settings());
-    m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
-        m_book, m_configuration, m_format, m_ports.User, m_ports.Rescue, m_ports.Shell, m_ports.Clock, m_bookSwitch});
-    m_model = std::make_unique<cMainModel>(cMainModel::cParts{m_book.Data(), m_book.Settings(), m_configuration,
-                                                              m_format, m_ports.User, m_ports.Clock, m_ports.Shell,
-                                                              *m_navigation, m_book.Path()});
-    m_review = std::make_unique<cImportReview>(
-        cImportReview::cParts{m_book.Data(), m_book.Settings(), m_format, m_ports.User});
+    m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
+    m_navigation = std::make_unique<cNavigation>(
+        cNavigation::cParts{*m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch});
+    m_model = std::make_unique<cMainModel>(
+        *m_tools, cMainModel::cParts{m_configuration, m_ports.Shell, *m_navigation, m_book.Path()});
+    m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);

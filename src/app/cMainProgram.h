@@ -7,11 +7,13 @@
 #include "core/cAmountFormat.h"
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
+#include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class cClock;
 class cImportReview;
@@ -71,6 +73,7 @@ private:
     cAmountFormat m_format{m_configuration};
     cBookSwitch m_bookSwitch;
     cBackupPlan m_backups;
+    std::optional<cBookTools> m_tools; // from the first opening of the book on
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;

@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
 #include "views/book/cBackupSettings.h"
@@ -46,8 +47,9 @@
 
 cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
-      m_books({parts.Book, parts.Configuration, parts.User, parts.Rescue, parts.Shell, parts.Clock, parts.Host}),
-      m_printer(parts.User)
+      m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
+               parts.Host}),
+      m_printer(parts.Tools.User)
 {
 }
 
@@ -97,9 +99,8 @@ frmImport& cNavigation::Statements()
 cStatisticsModel& cNavigation::Statistics()
 {
     if (m_statistics == nullptr) {
-        m_statistics = std::make_unique<cStatisticsModel>(
-            cStatisticsModel::cParts{m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User,
-                                     m_parts.Clock, m_parts.Shell, *this, *m_model});
+        m_statistics =
+            std::make_unique<cStatisticsModel>(m_parts.Tools, cStatisticsModel::cParts{m_parts.Shell, *this, *m_model});
         m_statistics->Restore();
         m_statisticsPage = new frmStatistik(*m_statistics, &m_window->StatisticsPage());
         m_window->StatisticsPage().layout()->addWidget(m_statisticsPage);
@@ -153,21 +154,21 @@ void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFie
 void cNavigation::ShowSaved(int entryId)
 {
     BookChanged();
-    if (const std::optional<cEntryItem> entry = m_parts.Book.Data().LoadEntry(entryId)) {
+    if (const std::optional<cEntryItem> entry = m_parts.Tools.Data.LoadEntry(entryId)) {
         m_window->ShowEntry({entry->ID, entry->EntryDate});
     }
 }
 
 void cNavigation::OpenNewEntry()
 {
-    cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
+    cEntryEditor editor(m_parts.Tools);
     OpenEditor(editor, editor.Start(m_model->View().FilterAccount()));
 }
 
 void cNavigation::OpenEntry(int entryId, QDate day)
 {
-    cSeriesChange series(m_parts.Book.Data(), m_parts.User, m_parts.Format.Decimal());
-    cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
+    cSeriesChange series(m_parts.Tools.Data, m_parts.Tools.User, m_parts.Format.Decimal());
+    cEntryEditor editor(m_parts.Tools);
     switch (series.AskWhatToEdit(entryId, day)) {
     case cSeriesChange::eEdit::Nothing: break;
     case cSeriesChange::eEdit::Period: OpenCorrection(entryId, day); break;
@@ -181,7 +182,7 @@ void cNavigation::OpenEntry(int entryId, QDate day)
 
 void cNavigation::OpenCorrection(int entryId, QDate day)
 {
-    cSeriesChange series(m_parts.Book.Data(), m_parts.User, m_parts.Format.Decimal());
+    cSeriesChange series(m_parts.Tools.Data, m_parts.Tools.User, m_parts.Format.Decimal());
     const std::optional<cSeriesChange::cPeriodFields> fields = series.StartPeriod(entryId, day);
     if (!fields) {
         BookChanged();
@@ -194,14 +195,13 @@ void cNavigation::OpenCorrection(int entryId, QDate day)
 
 void cNavigation::OpenStartBalance()
 {
-    cEntryEditor editor(m_parts.Book.Data(), m_parts.User, m_parts.Clock, &m_parts.Format);
+    cEntryEditor editor(m_parts.Tools);
     OpenEditor(editor, editor.StartBalance(m_model->View().FilterAccount()));
 }
 
 void cNavigation::OpenTemplates(const QString& path)
 {
-    cTemplateManager manager(
-        {m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User, m_parts.Clock});
+    cTemplateManager manager(m_parts.Tools);
     QObject::connect(&manager, &cTemplateManager::BookChanged, m_model, &cMainModel::BookChanged);
     QObject::connect(&manager, &cTemplateManager::AccountRenamed, m_model, &cMainModel::AccountRenamed);
     frmKategorie form(manager, Parent());
@@ -214,8 +214,7 @@ void cNavigation::OpenTemplates(const QString& path)
 void cNavigation::OpenSearch()
 {
     if (m_search == nullptr) {
-        m_searchModel = std::make_unique<cSearchModel>(
-            cSearchModel::cParts{m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.Clock});
+        m_searchModel = std::make_unique<cSearchModel>(m_parts.Tools);
         m_search = new frmSuche(*m_searchModel, m_window);
         QObject::connect(m_search, &frmSuche::EditRequested, m_model,
                          [this](const cEntryListModel::cKey& key) { OpenEntry(key.ID, key.Day); });
@@ -236,7 +235,7 @@ void cNavigation::OpenImport()
 
 void cNavigation::OpenAccountStatement()
 {
-    cStatementListModel statement({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.Clock});
+    cStatementListModel statement(m_parts.Tools);
     frmKontoauszug form(statement, Parent());
     QObject::connect(&form, &frmKontoauszug::EntryRequested, m_model, [&](int entryId, QDate day) {
         OpenEntry(entryId, day);
@@ -254,7 +253,7 @@ void cNavigation::OpenAccountStatement()
 
 void cNavigation::OpenCheck()
 {
-    cBookCheck check(m_parts.Book.Data(), m_parts.Format);
+    cBookCheck check(m_parts.Tools.Data, m_parts.Format);
     frmPruefung form(check, Parent());
     QObject::connect(&form, &frmPruefung::EntryRequested, m_model, [&](int entryId) {
         OpenEntry(entryId, {});
@@ -270,7 +269,7 @@ void cNavigation::OpenCheck()
 void cNavigation::OpenPassword()
 {
     if (!m_password) {
-        m_password = std::make_unique<cPasswordFlow>(m_parts.Book.Data(), m_parts.Configuration, m_parts.User);
+        m_password = std::make_unique<cPasswordFlow>(m_parts.Tools.Data, m_parts.Configuration, m_parts.Tools.User);
     }
     frmPasswort form(*m_password, Parent());
     form.exec();
@@ -278,15 +277,15 @@ void cNavigation::OpenPassword()
 
 void cNavigation::OpenBackupSettings()
 {
-    cBackupSettings settings({m_parts.Book, m_parts.Configuration, m_parts.User, m_parts.Shell, m_parts.Clock});
+    cBackupSettings settings(
+        {m_parts.Book, m_parts.Configuration, m_parts.Tools.User, m_parts.Shell, m_parts.Tools.Clock});
     frmSicherungen form(settings, Parent());
     form.exec();
 }
 
 void cNavigation::OpenNationalSettings()
 {
-    cNationalSettings settings(
-        {m_parts.Book.Data(), m_parts.Configuration, m_parts.Format, m_parts.User, m_parts.Clock});
+    cNationalSettings settings(m_parts.Tools, m_parts.Configuration, m_parts.Format);
     QObject::connect(&settings, &cNationalSettings::CultureChanged, m_model, &cMainModel::BookChanged);
     QObject::connect(&settings, &cNationalSettings::CultureChanged, m_review, &cImportReview::Refresh);
     frmLaender form(settings, Parent());
@@ -295,7 +294,7 @@ void cNavigation::OpenNationalSettings()
 
 void cNavigation::OpenRules()
 {
-    cRuleListModel rules({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User});
+    cRuleListModel rules(m_parts.Tools);
     QObject::connect(&rules, &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
     frmRegeln form(rules, Parent());
     form.exec();
@@ -307,13 +306,13 @@ void cNavigation::Export()
     extract.Title = modViewText::Title(m_model->View());
     extract.View = m_model->ViewLines();
     cProgressBox progress(Parent(), cText::Tr("Die Einträge werden geschrieben …"));
-    cEntryExport(m_parts.User, m_parts.Format, progress).Run(extract, m_parts.Clock.Today());
+    cEntryExport(m_parts.Tools.User, m_parts.Format, progress).Run(extract, m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Export(const cStatementListModel& statement)
 {
     cProgressBox progress(Parent(), cText::Tr("Der Kontoauszug wird geschrieben …"));
-    cEntryExport(m_parts.User, m_parts.Format, progress).Run(statement.Extract(), m_parts.Clock.Today());
+    cEntryExport(m_parts.Tools.User, m_parts.Format, progress).Run(statement.Extract(), m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))

@@ -14,7 +14,6 @@ class cStatementListModel;
 class cAmountFormat;
 class cBook;
 class cBookHost;
-class cClock;
 class cConfiguration;
 class cImportReview;
 class cMainModel;
@@ -23,10 +22,10 @@ class cRescue;
 class cSearchModel;
 class cShell;
 class cStatisticsModel;
-class cUser;
 class frmImport;
 class frmStatistik;
 class frmSuche;
+struct cBookTools;
 struct cEntryFields;
 
 // Opens the windows that commands ask for and tells the main model when they have changed the book.
@@ -35,13 +34,12 @@ class cNavigation final : public cNavigator
 public:
     struct cParts
     {
+        const cBookTools& Tools;
         cBook& Book;
         cConfiguration& Configuration;
         cAmountFormat& Format;
-        cUser& User;
         cRescue& Rescue;
         cShell& Shell;
-        const cClock& Clock;
         cBookHost& Host;
     };
 

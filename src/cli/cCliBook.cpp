@@ -7,6 +7,7 @@
 #include "core/cBackup.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
+#include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
 #include "views/template/cNameKeepers.h"
@@ -67,7 +68,7 @@ QString Hindrance(const QString& path, eCliAccess access, const cShell& shell)
 // another book.
 bool IsConfiguredBookThere(const cConfiguration& configuration, const cShell& shell)
 {
-    const QString path = configuration.GetSetting(u"Database"_s);
+    const QString path = configuration.GetSetting(modSettingKey::Database);
     if (path.isEmpty() || shell.FileExists(path)) {
         return true;
     }
@@ -97,12 +98,14 @@ bool TakeLock(cFileLock& lock, const QString& path)
 
 } // namespace
 
-cCliBook::cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock)
+cCliBook::cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock,
+                   const cCliPorts& ports)
     : m_lock(std::move(lock)),
       m_configuration(std::move(configuration)),
       m_book(std::move(book)),
       m_format(*m_configuration),
       Data(m_book->Data()),
+      Tools{Data, m_book->Settings(), m_format, ports.User, ports.Clock},
       Accounts(Data, m_book->Settings()),
       Hive(Data),
       Booking(Data, Hive, Accounts)
@@ -142,7 +145,7 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
     if (access != eCliAccess::Unlock && !startUp.AskPassword()) {
         return nullptr;
     }
-    return std::unique_ptr<cCliBook>(new cCliBook(std::move(book), std::move(configuration), std::move(lock)));
+    return std::unique_ptr<cCliBook>(new cCliBook(std::move(book), std::move(configuration), std::move(lock), ports));
 }
 
 QString cCliBook::MakeBackup(const QString& target, cShell& shell)

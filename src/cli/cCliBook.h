@@ -4,6 +4,7 @@
 #include "cli/cCliCall.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
+#include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
@@ -48,7 +49,8 @@ public:
     [[nodiscard]] QString MakeBackup(const QString& target, cShell& shell);
 
 private:
-    cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock);
+    cCliBook(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, cFileLock lock,
+             const cCliPorts& ports);
 
     // Declared before what works with them.
     cFileLock m_lock;
@@ -58,6 +60,7 @@ private:
 
 public:
     cDataAccess& Data;
+    const cBookTools Tools;
     cAccountMap Accounts;
     cImportHiveCache Hive;
     cBooking Booking;

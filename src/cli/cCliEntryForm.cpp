@@ -30,7 +30,7 @@ QDate LastDay(const cEntryFields& fields)
 cCliEntryForm::cCliEntryForm(const cCliContext& context)
     : m_context(context),
       m_reader(context),
-      m_editor(context.Book->Data, context.User, context.Clock, &context.Book->Format())
+      m_editor(context.Book->Tools)
 {
     Read();
 }

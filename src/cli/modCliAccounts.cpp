@@ -30,12 +30,6 @@ struct cAccountLine
     int Entries = 0;
 };
 
-cTemplateManager::cParts Parts(const cCliContext& context)
-{
-    cCliBook& book = *context.Book;
-    return {book.Data, book.Settings(), book.Format(), context.User, context.Clock};
-}
-
 QList<cAccountLine> Load(const cCliContext& context)
 {
     cDataAccess& data = context.Book->Data;
@@ -112,7 +106,7 @@ int List(const cCliContext& context)
 
 int Add(const cCliContext& context)
 {
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     const QString group = context.Call.Has(u"group"_s) ? context.Call.Value(u"group"_s) : manager.Groups().value(0);
     return modCliFlow::Finish(context, !manager.AddAccount(context.Call.Arguments().constFirst(), group).isEmpty());
 }
@@ -145,7 +139,7 @@ int Rename(const cCliContext& context)
         return reader.Report();
     }
     context.User.Prepare(answers);
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     return modCliFlow::Finish(context, manager.RenameAccount(oldName, context.Call.Arguments().at(1)));
 }
 
@@ -158,7 +152,7 @@ int Delete(const cCliContext& context)
         return reader.Report();
     }
     context.User.Prepare(modCliFlow::RemovalAnswers(context, target));
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     return modCliFlow::Finish(context, manager.DeleteAccount(name));
 }
 

@@ -9,6 +9,7 @@
 #include "cli/modCliCommands.h"
 #include "core/cBackup.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
@@ -33,7 +34,7 @@ QString BookPath(const cCliContext& context)
         return FullPath(named);
     }
     cQtRegistry registry(context.Call.Value(u"profile"_s));
-    const QString configured = cConfiguration(registry).GetSetting(u"Database"_s);
+    const QString configured = cConfiguration(registry).GetSetting(modSettingKey::Database);
     return configured.isEmpty() ? modSchema::DefaultDatabasePath(context.Shell) : configured;
 }
 

@@ -15,12 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-cTemplateManager::cParts Parts(const cCliContext& context)
-{
-    cCliBook& book = *context.Book;
-    return {book.Data, book.Settings(), book.Format(), context.User, context.Clock};
-}
-
 bool IsNone(const QString& text)
 {
     return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
@@ -198,7 +192,7 @@ int Add(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     const QString path = NewPath(call.Arguments().constFirst());
     bool isDone = false;
     {
@@ -218,7 +212,7 @@ int Change(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->Data.Journal().UndoName().isEmpty();
     return modCliFlow::Finish(context, isDone);
 }
@@ -243,7 +237,7 @@ int Rename(const cCliContext& context)
     const QString name = NewPath(context.Call.Arguments().at(1));
     const bool staysInMain = !modTemplate::SubOf(oldPath).isEmpty() && modTemplate::SubOf(name).isEmpty();
     const QString newPath = staysInMain ? modTemplate::Join(modTemplate::MainOf(oldPath), name) : name;
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     return modCliFlow::Finish(context, manager.RenameCategory(oldPath, newPath));
 }
 
@@ -256,7 +250,7 @@ int Merge(const cCliContext& context)
         return reader.Report();
     }
     context.User.Prepare(modCliFlow::Answers(context, cText::Tr("Mit --yes wird zusammengeführt.")));
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     return modCliFlow::Finish(context, manager.MergeCategory(source, target));
 }
 
@@ -269,7 +263,7 @@ int Delete(const cCliContext& context)
         return reader.Report();
     }
     context.User.Prepare(modCliFlow::RemovalAnswers(context, target));
-    cTemplateManager manager(Parts(context));
+    cTemplateManager manager(context.Book->Tools);
     return modCliFlow::Finish(context, manager.DeleteCategory(path));
 }
 

@@ -42,7 +42,7 @@ int Run(const cCliContext& context)
         return reader.Report();
     }
     cCliBook& book = *context.Book;
-    cEntryDelete remover(book.Data, context.User, book.Format());
+    cEntryDelete remover(book.Tools);
     const bool hasParts = std::any_of(ids.begin(), ids.end(), [&](int id) { return remover.CountParts(id) > 1; });
     cConsoleUser::cAnswers answers = modCliFlow::Answers(
         context,

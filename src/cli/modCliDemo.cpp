@@ -6,6 +6,7 @@
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "core/modDemo.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/modSchema.h"
 
@@ -42,7 +43,7 @@ int Run(const cCliContext& context)
         return modExit::Failed;
     }
     // Nothing in it is older than this version, so nobody needs a copy of it before an upgrade.
-    book.Settings().Set(modSchema::CommandLineVersion, QStringLiteral(APP_VERSION));
+    book.Settings().Set(modSettingKey::LastCommandLineVersion, QStringLiteral(APP_VERSION));
     modConsole::Out(
         cText::Tr("{0}: Beispielhaushalt mit {1} Einträgen", {path, QString::number(book.Data().CountEntries())})
         + u'\n');

@@ -220,7 +220,7 @@ std::optional<QStringList> WriteFiles(const cCliContext& context, cReportSource&
 // What was not asked for as a file goes to the console.
 int Write(const cCliContext& context, const cReportWish& wish)
 {
-    cReportSource source(context.Book->Data, context.Book->Settings(), context.Clock, context.Book->Format());
+    cReportSource source(context.Book->Tools);
     const std::optional<QStringList> paths = WriteFiles(context, source, wish);
     if (!paths) {
         return modExit::Failed;

@@ -20,12 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-cRuleListModel::cParts Parts(const cCliContext& context)
-{
-    cCliBook& book = *context.Book;
-    return {book.Data, book.Settings(), book.Format(), context.User};
-}
-
 QString KindOf(const cOwnRule& rule)
 {
     switch (rule.Sign) {
@@ -70,7 +64,7 @@ cJsonObject ToJson(const cOwnRule& rule, int place)
 
 int List(const cCliContext& context)
 {
-    const cRuleListModel list(Parts(context));
+    const cRuleListModel list(context.Book->Tools);
     QStringList objects;
     cCliTable table({{cText::Tr("Nr."), eAlign::Right},
                      {cText::Tr("Wenn"), eAlign::Left, 60},
@@ -111,7 +105,7 @@ void TakeOptions(const cCliCall& call, cCliReader& reader, cOwnRule& rule)
 int Add(const cCliContext& context)
 {
     cCliReader reader(context);
-    cRuleListModel list(Parts(context));
+    cRuleListModel list(context.Book->Tools);
     list.StartNew();
     if (context.Call.Has(u"from"_s)) {
         if (const std::optional<cImportEntry> row = reader.StagedRow(context.Call.Value(u"from"_s))) {
@@ -130,7 +124,7 @@ int Add(const cCliContext& context)
 int Delete(const cCliContext& context)
 {
     cCliReader reader(context);
-    cRuleListModel list(Parts(context));
+    cRuleListModel list(context.Book->Tools);
     const int place = PlaceOf(context.Call.Arguments().constFirst(), list.rowCount(), reader);
     if (!reader.IsGood()) {
         return reader.Report();
@@ -142,7 +136,7 @@ int Delete(const cCliContext& context)
 int Move(const cCliContext& context)
 {
     cCliReader reader(context);
-    cRuleListModel list(Parts(context));
+    cRuleListModel list(context.Book->Tools);
     const int place = PlaceOf(context.Call.Arguments().at(0), list.rowCount(), reader);
     const int target = PlaceOf(context.Call.Arguments().at(1), list.rowCount(), reader);
     return reader.IsGood() ? modCliFlow::Finish(context, list.MoveTo(place, target)) : reader.Report();
@@ -151,7 +145,7 @@ int Move(const cCliContext& context)
 int Switch(const cCliContext& context)
 {
     cCliReader reader(context);
-    cRuleListModel list(Parts(context));
+    cRuleListModel list(context.Book->Tools);
     const int place = PlaceOf(context.Call.Arguments().at(0), list.rowCount(), reader);
     const QString state = context.Call.Arguments().at(1);
     if (state != u"on" && state != u"off") {

@@ -81,7 +81,7 @@ int Run(const cCliContext& context)
         return reader.Report();
     }
     cCliBook& book = *context.Book;
-    cEntryItemList entries = cSearch(book.Data, book.Format(), context.Clock).Find(query);
+    cEntryItemList entries = cSearch(book.Tools).Find(query);
     std::stable_sort(entries.begin(), entries.end(),
                      [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
     modCliEntryList::Print(context, entries);

@@ -131,7 +131,7 @@ int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     cCliReader reader(context);
-    cStatementListModel statement({book.Data, book.Settings(), book.Format(), context.Clock});
+    cStatementListModel statement(book.Tools);
     const modPeriod::cRange range = reader.Period(modWord::AlleBuchungen);
     const QString number = NumberFor(reader, statement, context.Call.Value(u"account"_s));
     if (!reader.IsGood()) {

@@ -2,6 +2,7 @@
 
 #include "base/modAmount.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 
 #include <QLocale>
 
@@ -92,7 +93,7 @@ eDecimal cAmountFormat::Decimal() const
 
 void cAmountFormat::UseFormatCulture()
 {
-    m_formatter = m_makeFormatter(m_configuration.GetSetting(u"LanguageFormat"_s));
+    m_formatter = m_makeFormatter(m_configuration.GetSetting(modSettingKey::LanguageFormat));
 }
 
 void cAmountFormat::CultureChanged()
@@ -117,8 +118,9 @@ std::unique_ptr<cCultureFormatter> cAmountFormat::MakeFormatter(const QString& c
 QString cAmountFormat::Currency(qint64 signedCents) const
 {
     if (!m_formatter) {
-        const QString currency = m_configuration.GetSetting(u"LanguageCurrency"_s);
-        m_formatter = m_makeFormatter(currency.isEmpty() ? m_configuration.GetSetting(u"LanguageFormat"_s) : currency);
+        const QString currency = m_configuration.GetSetting(modSettingKey::LanguageCurrency);
+        m_formatter =
+            m_makeFormatter(currency.isEmpty() ? m_configuration.GetSetting(modSettingKey::LanguageFormat) : currency);
     }
     return CurrencyText(*m_formatter, signedCents);
 }

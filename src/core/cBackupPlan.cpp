@@ -8,6 +8,7 @@
 #include "core/cBackup.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 #include <QDir>
@@ -43,12 +44,12 @@ void cBackupPlan::RunIfDue()
     const QString problem =
         QFileInfo::exists(target) ? QString() : cBackup(m_book.Database(), m_ports.Shell).Make(target);
     if (problem.isEmpty()) {
-        m_configuration.SaveSetting(u"BackupLast"_s, today, eSettingPlace::Database);
+        m_configuration.SaveSetting(modSettingKey::BackupLast, today, eSettingPlace::Database);
         RemoveSurplus();
         return;
     }
-    if (m_configuration.GetSetting(u"BackupFailed"_s) != today) {
-        m_configuration.SaveSetting(u"BackupFailed"_s, today, eSettingPlace::Database);
+    if (m_configuration.GetSetting(modSettingKey::BackupFailed) != today) {
+        m_configuration.SaveSetting(modSettingKey::BackupFailed, today, eSettingPlace::Database);
         m_ports.User.Show(eTone::Information,
                           cText::Tr("Die automatische Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
     }
@@ -56,19 +57,19 @@ void cBackupPlan::RunIfDue()
 
 bool cBackupPlan::IsDue(const QString& today) const
 {
-    return m_configuration.GetSetting(u"BackupLast"_s) != today;
+    return m_configuration.GetSetting(modSettingKey::BackupLast) != today;
 }
 
 int cBackupPlan::Count() const
 {
     bool isNumber = false;
-    const int count = m_configuration.GetSetting(u"BackupCount"_s).toInt(&isNumber);
-    return isNumber ? std::clamp(count, 0, MostCount) : DefaultCount;
+    const int count = m_configuration.GetSetting(modSettingKey::BackupCount).toInt(&isNumber);
+    return isNumber ? std::clamp(count, 0, MostCount) : modSettingKey::BackupCount.Default().toInt();
 }
 
 QString cBackupPlan::Folder() const
 {
-    const QString folder = m_configuration.GetSetting(u"BackupFolder"_s);
+    const QString folder = m_configuration.GetSetting(modSettingKey::BackupFolder);
     return folder.isEmpty() ? DefaultFolder() : folder;
 }
 
@@ -81,8 +82,8 @@ bool cBackupPlan::Save(int count, const QString& folder)
 {
     const bool isDefault = folder.isEmpty() || QDir(folder) == QDir(DefaultFolder());
     return !m_book.IsReadOnly()
-        && m_configuration.SaveSetting(u"BackupCount"_s, QString::number(count), eSettingPlace::Database)
-        && m_configuration.SaveSetting(u"BackupFolder"_s, isDefault ? QString() : QDir::cleanPath(folder),
+        && m_configuration.SaveSetting(modSettingKey::BackupCount, QString::number(count), eSettingPlace::Database)
+        && m_configuration.SaveSetting(modSettingKey::BackupFolder, isDefault ? QString() : QDir::cleanPath(folder),
                                        eSettingPlace::Database);
 }
 

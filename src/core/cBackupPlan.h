@@ -22,7 +22,6 @@ public:
         const cClock& Clock;
     };
 
-    static constexpr int DefaultCount = 10;
     static constexpr int MostCount = 999;
 
     cBackupPlan(const cPorts& ports, cBook& book, cConfiguration& configuration);

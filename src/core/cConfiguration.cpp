@@ -2,8 +2,7 @@
 
 #include "base/cRegistry.h"
 #include "core/cSettings.h"
-
-using namespace Qt::Literals::StringLiterals;
+#include "model/modSettingKey.h"
 
 namespace {
 
@@ -15,11 +14,12 @@ QString Cleaned(QString text)
 
 } // namespace
 
-QString cConfiguration::GetSetting(const QString& name) const
+QString cConfiguration::GetSetting(const cSettingKey& key) const
 {
+    const QString& name = key.Name();
     // The list of databases must not depend on which of them is open.
-    const bool isFromTable = name.compare(u"DatabaseList"_s, Qt::CaseInsensitive) != 0 && m_settings != nullptr;
-    QString value = isFromTable ? m_settings->Get(name) : QString{};
+    const bool isFromTable = key != modSettingKey::DatabaseList && m_settings != nullptr;
+    QString value = isFromTable ? m_settings->Get(key) : QString{};
     if (value.isEmpty()) {
         value = Cleaned(m_registry.Read(eRegistryScope::User, RegistryKey, name));
     }
@@ -32,16 +32,16 @@ QString cConfiguration::GetSetting(const QString& name) const
     return value;
 }
 
-bool cConfiguration::SaveSetting(const QString& name, const QString& value, eSettingPlace place)
+bool cConfiguration::SaveSetting(const cSettingKey& key, const QString& value, eSettingPlace place)
 {
     if (place == eSettingPlace::Registry) {
-        return m_registry.Write(RegistryKey, name, value);
+        return m_registry.Write(RegistryKey, key.Name(), value);
     }
-    return m_settings != nullptr && m_settings->Set(name, value);
+    return m_settings != nullptr && m_settings->Set(key, value);
 }
 
-void cConfiguration::DeleteRegistrySetting(const QString& name)
+void cConfiguration::DeleteRegistrySetting(const cSettingKey& key)
 {
-    m_registry.Delete(RegistryKey, name);
-    m_registry.Delete(FormerRegistryKey, name);
+    m_registry.Delete(RegistryKey, key.Name());
+    m_registry.Delete(FormerRegistryKey, key.Name());
 }

@@ -3,6 +3,7 @@
 #include <QString>
 
 class cRegistry;
+class cSettingKey;
 class cSettings;
 
 enum class eSettingPlace { Database, Registry };
@@ -20,13 +21,13 @@ public:
     void SetDatabase(cSettings* settings) { m_settings = settings; }
 
     // The value from the first place that has one; empty when none has.
-    [[nodiscard]] QString GetSetting(const QString& name) const;
+    [[nodiscard]] QString GetSetting(const cSettingKey& key) const;
 
     // Writes to the one place named. Without an open database a value for it is not stored, and false is returned.
-    bool SaveSetting(const QString& name, const QString& value, eSettingPlace place);
+    bool SaveSetting(const cSettingKey& key, const QString& value, eSettingPlace place);
 
     // Removes a registry value under the current and the former key.
-    void DeleteRegistrySetting(const QString& name);
+    void DeleteRegistrySetting(const cSettingKey& key);
 
 private:
     cRegistry& m_registry;

@@ -1,33 +1,10 @@
 #include "core/cSettings.h"
 
 #include "base/modDate.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
-#include <algorithm>
-#include <array>
-
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-constexpr std::array keptOnReset{u"passwortaktiv", u"passwort", u"lastversion", u"firstinstall", u"update"};
-constexpr std::array viewSwitches{u"ViewSingleBooking", u"ViewFixBooking", u"ViewFutureBooking", u"ViewStartBooking",
-                                  u"ViewAccountValueAll"};
-
-bool IsViewSwitch(const QString& name)
-{
-    return std::any_of(viewSwitches.begin(), viewSwitches.end(),
-                       [&](const char16_t* each) { return name.compare(QStringView(each), Qt::CaseInsensitive) == 0; });
-}
-
-bool IsKeptOnReset(const QString& lowerName)
-{
-    const bool isListed =
-        std::any_of(keptOnReset.begin(), keptOnReset.end(), [&](const char16_t* name) { return lowerName == name; });
-    return isListed || lowerName.startsWith(u"hbcivblz"_s);
-}
-
-} // namespace
 
 cSettings::cSettings(cDataAccess& data) : m_data(data)
 {
@@ -43,24 +20,29 @@ void cSettings::Reload()
     }
 }
 
-QString cSettings::Get(const QString& name) const
+QString cSettings::Get(const cSettingKey& key) const
 {
-    return m_values.value(name.toLower()).Value;
+    return m_values.value(key.Name().toLower()).Value;
 }
 
-bool cSettings::Set(const QString& name, const QString& value)
+bool cSettings::Set(const cSettingKey& key, const QString& value)
 {
-    const QString key = name.toLower();
+    const QString lower = key.Name().toLower();
     // The row is addressed in the letter case it was stored with, so that no second one appears beside it.
-    const QString stored = m_values.contains(key) ? m_values.value(key).Name : name;
+    const QString stored = m_values.contains(lower) ? m_values.value(lower).Name : key.Name();
     if (!m_data.IsReadOnly() && !m_data.ChangeSettingItem(stored, value)) {
         return false;
     }
-    m_values.insert(key, {stored, value});
+    m_values.insert(lower, {stored, value});
     return true;
 }
 
-bool cSettings::Delete(const QString& name)
+bool cSettings::Delete(const cSettingKey& key)
+{
+    return DeleteStored(key.Name());
+}
+
+bool cSettings::DeleteStored(const QString& name)
 {
     const QString key = name.toLower();
     const QString stored = m_values.contains(key) ? m_values.value(key).Name : name;
@@ -71,15 +53,15 @@ bool cSettings::Delete(const QString& name)
     return true;
 }
 
-bool cSettings::GetBool(const QString& name) const
+bool cSettings::GetBool(const cSettingKey& key) const
 {
-    const QString value = Get(name);
-    return ToBool(value) || (value.isEmpty() && IsViewSwitch(name));
+    const QString value = Get(key);
+    return ToBool(value.isEmpty() ? key.Default() : value);
 }
 
-bool cSettings::SetBool(const QString& name, bool value)
+bool cSettings::SetBool(const cSettingKey& key, bool value)
 {
-    return Set(name, FromBool(value));
+    return Set(key, FromBool(value));
 }
 
 void cSettings::ResetAll()
@@ -89,7 +71,8 @@ void cSettings::ResetAll()
         hasDeleted = false;
         const QStringList keys = m_values.keys();
         for (const QString& key : keys) {
-            hasDeleted = (!IsKeptOnReset(key) && Delete(key)) || hasDeleted;
+            const bool isKept = modSettingKey::ResetOf(key) == eSettingReset::Kept;
+            hasDeleted = (!isKept && DeleteStored(key)) || hasDeleted;
         }
     }
     ResetViewDefaults();
@@ -97,26 +80,28 @@ void cSettings::ResetAll()
 
 void cSettings::ResetViewDefaults()
 {
-    for (const char16_t* name : viewSwitches) {
-        SetBool(QStringView(name).toString(), true);
+    for (const cSettingKey* key : modSettingKey::All()) {
+        if (key->Facts().Reset == eSettingReset::SwitchedOn) {
+            SetBool(*key, true);
+        }
     }
 }
 
 bool cSettings::CheckVersion(const QString& version)
 {
-    if (Get(u"LastVersion"_s) == version) {
+    if (Get(modSettingKey::LastVersion) == version) {
         return false;
     }
-    Set(u"LastVersion"_s, version);
+    Set(modSettingKey::LastVersion, version);
     return true;
 }
 
 QDate cSettings::GetUpdateDate(QDate today)
 {
-    if (Get(u"Update"_s).isEmpty()) {
-        Set(u"Update"_s, modDate::ToIso(today));
+    if (Get(modSettingKey::Update).isEmpty()) {
+        Set(modSettingKey::Update, modDate::ToIso(today));
     }
-    return modDate::FromIso(Get(u"Update"_s));
+    return modDate::FromIso(Get(modSettingKey::Update));
 }
 
 bool cSettings::ToBool(const QString& text)
@@ -141,5 +126,5 @@ bool cSettings::ToBool(const QString& text)
 
 QString cSettings::FromBool(bool value)
 {
-    return value ? u"Wahr"_s : u"Falsch"_s;
+    return value ? modSettingKey::On : modSettingKey::Off;
 }

@@ -5,9 +5,10 @@
 #include <QString>
 
 class cDataAccess;
+class cSettingKey;
 
-// The settings of the open database in memory, kept in step with table `setting`. Names are compared without regard to
-// case. On a database opened for reading only, changes live until the program ends.
+// The settings of the open database in memory, kept in step with table `setting`. Stored names are compared without
+// regard to case. On a database opened for reading only, changes live until the program ends.
 class cSettings
 {
 public:
@@ -16,14 +17,15 @@ public:
     // Reads the table again, after another database was opened.
     void Reload();
 
-    [[nodiscard]] QString Get(const QString& name) const; // empty when unknown
-    bool Set(const QString& name, const QString& value);  // false, and unchanged in memory, when the database refuses
-    bool Delete(const QString& name);
+    [[nodiscard]] QString Get(const cSettingKey& key) const; // empty when nothing is stored
+    // False, and unchanged in memory, when the database refuses.
+    bool Set(const cSettingKey& key, const QString& value);
+    bool Delete(const cSettingKey& key);
 
-    // Truth values of the settings; see ToBool. The five view switches are on until somebody switches them off; any
-    // other name that is unknown is false.
-    [[nodiscard]] bool GetBool(const QString& name) const;
-    bool SetBool(const QString& name, bool value);
+    // Truth values of the settings; see ToBool. The default of the key, where nothing is stored: the five view switches
+    // are on until somebody switches them off.
+    [[nodiscard]] bool GetBool(const cSettingKey& key) const;
+    bool SetBool(const cSettingKey& key, bool value);
 
     // Removes every setting that does not have to outlive a reset, then applies the view defaults.
     void ResetAll();
@@ -42,6 +44,8 @@ public:
     [[nodiscard]] static QString FromBool(bool value);
 
 private:
+    bool DeleteStored(const QString& name);
+
     struct cValue
     {
         QString Name; // in its stored letter case

@@ -9,6 +9,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/modPassword.h"
+#include "model/modSettingKey.h"
 #include "store/modSchema.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -52,7 +53,7 @@ bool cStartUp::OpenBook(cBook& book, const cFound& found)
     }
     if (book.Path() != found.Path) {
         // The user chose another file on the way: the next start begins with it.
-        m_configuration.SaveSetting(u"Database"_s, book.Path(), eSettingPlace::Registry);
+        m_configuration.SaveSetting(modSettingKey::Database, book.Path(), eSettingPlace::Registry);
     }
     Connect(book);
     return true;
@@ -77,7 +78,7 @@ cStartUp::cFound cStartUp::FindDatabase() const
 {
     const bool isThere = m_ports.Shell.FileExists(modSchema::DefaultDatabasePath(m_ports.Shell));
     const cFound standard{modSchema::GetDefaultDatabase(m_ports.Shell, m_ports.User), !isThere};
-    const QString configured = m_configuration.GetSetting(u"Database"_s);
+    const QString configured = m_configuration.GetSetting(modSettingKey::Database);
     if (!configured.isEmpty() && m_ports.Shell.FileExists(configured)) {
         return {configured};
     }
@@ -96,12 +97,12 @@ void cStartUp::Connect(cBook& book)
 {
     m_configuration.SetDatabase(&book.Settings());
     cSettings& settings = book.Settings();
-    if (settings.Get(u"FirstInstall"_s).isEmpty()) {
-        settings.Set(u"FirstInstall"_s, modDate::ToIso(m_ports.Clock.Today()));
+    if (settings.Get(modSettingKey::FirstInstall).isEmpty()) {
+        settings.Set(modSettingKey::FirstInstall, modDate::ToIso(m_ports.Clock.Today()));
     }
     if (m_frontEnd == eFrontEnd::Window) {
         m_isNewVersion = settings.CheckVersion(m_version);
-    } else if (settings.Get(modSchema::CommandLineVersion) != m_version) {
-        settings.Set(modSchema::CommandLineVersion, m_version);
+    } else if (settings.Get(modSettingKey::LastCommandLineVersion) != m_version) {
+        settings.Set(modSettingKey::LastCommandLineVersion, m_version);
     }
 }

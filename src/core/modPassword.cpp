@@ -4,6 +4,7 @@
 #include "base/modMD5.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 
 #include <algorithm>
 
@@ -46,20 +47,20 @@ bool modPassword::Matches(const QString& typed, const QString& stored)
 
 bool modPassword::IsActive(const cConfiguration& configuration)
 {
-    return cSettings::ToBool(configuration.GetSetting(u"PasswortAktiv"_s));
+    return cSettings::ToBool(configuration.GetSetting(modSettingKey::PasswordActive));
 }
 
 bool modPassword::Set(cConfiguration& configuration, const QString& password)
 {
-    return configuration.SaveSetting(u"Passwort"_s, ToStored(password), eSettingPlace::Database)
-        && configuration.SaveSetting(u"PasswortAktiv"_s, cSettings::FromBool(true), eSettingPlace::Database);
+    return configuration.SaveSetting(modSettingKey::Password, ToStored(password), eSettingPlace::Database)
+        && configuration.SaveSetting(modSettingKey::PasswordActive, cSettings::FromBool(true), eSettingPlace::Database);
 }
 
 bool modPassword::Remove(cConfiguration& configuration)
 {
     // The switch is stored as off rather than deleted: an empty place would let a value of the registry through.
-    return configuration.SaveSetting(u"PasswortAktiv"_s, cSettings::FromBool(false), eSettingPlace::Database)
-        && configuration.SaveSetting(u"Passwort"_s, {}, eSettingPlace::Database);
+    return configuration.SaveSetting(modSettingKey::PasswordActive, cSettings::FromBool(false), eSettingPlace::Database)
+        && configuration.SaveSetting(modSettingKey::Password, {}, eSettingPlace::Database);
 }
 
 bool modPassword::Admit(const cConfiguration& configuration, cRescue& rescue)
@@ -67,6 +68,6 @@ bool modPassword::Admit(const cConfiguration& configuration, cRescue& rescue)
     if (!IsActive(configuration)) {
         return true;
     }
-    const QString stored = configuration.GetSetting(u"Passwort"_s);
+    const QString stored = configuration.GetSetting(modSettingKey::Password);
     return rescue.AskPassword([&](const QString& typed) { return Matches(typed, stored); });
 }

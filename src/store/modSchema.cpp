@@ -3,6 +3,7 @@
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/modAccountColumns.h"
 #include "store/modRow.h"
@@ -389,8 +390,8 @@ eDatabaseFault modSchema::StandIn(cDatabase& database)
 bool modSchema::WasOpenedBy(cDatabase& database, const QString& version)
 {
     try {
-        cRows rows(database, "SELECT 1 FROM setting WHERE SettingName IN ('LastVersion', ?) AND SettingValue = ?",
-                   {CommandLineVersion, version});
+        cRows rows(database, "SELECT 1 FROM setting WHERE SettingName IN (?, ?) AND SettingValue = ?",
+                   {modSettingKey::LastVersion.Name(), modSettingKey::LastCommandLineVersion.Name(), version});
         return rows.Next();
     } catch (const cDatabaseError&) {
         return false;

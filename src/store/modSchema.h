@@ -39,10 +39,6 @@ QStringList Upgrade(cDatabase& database);
 // True when this version of the program, its window or its command line, has opened the database for writing before.
 [[nodiscard]] bool WasOpenedBy(cDatabase& database, const QString& version);
 
-// The setting in which the command line notes its version. "LastVersion" is the window's, which resets its view when
-// that one changes.
-inline const QString CommandLineVersion = QStringLiteral("LastCommandLineVersion");
-
 // Puts exactly one separator between a folder and a name.
 [[nodiscard]] QString JoinPath(const QString& folder, const QString& name);
 

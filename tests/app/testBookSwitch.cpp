@@ -4,6 +4,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/modPassword.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
@@ -31,7 +32,7 @@ struct cMachine
     [[nodiscard]] bool IsAsBefore()
     {
         return Book.Path() == Path(u"data.db"_s) && Book.Data().CountEntries() == 1 && !Book.IsReadOnly()
-            && Lock.IsHeld() && Configuration.GetSetting(u"FirstInstall"_s) == u"2026-03-15"
+            && Lock.IsHeld() && Configuration.GetSetting(modSettingKey::FirstInstall) == u"2026-03-15"
             && Registry.Values.isEmpty();
     }
 

@@ -3,6 +3,7 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
@@ -252,7 +253,7 @@ private Q_SLOTS:
         QFETCH(const QString, count);
         QFETCH(const QString, sql);
         cMachine machine;
-        QVERIFY(machine.Book.Settings().Set(u"BackupCount"_s, count));
+        QVERIFY(machine.Book.Settings().Set(modSettingKey::BackupCount, count));
         machine.Book.Database().ExecuteScript(sql.toStdString());
         machine.Plan.RunIfDue();
         QVERIFY(!QFileInfo::exists(machine.Copies()));

@@ -1,4 +1,5 @@
 #include "faults/cPowerVfs.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "store/modSchema.h"
@@ -93,13 +94,13 @@ QList<fnStep> Steps()
     return {
         [=](cTestBook& scene) { return add(scene, 1); },
         assign,
-        [](cTestBook& scene) { return scene.Settings->Set(u"MainFilter"_s, u"x"_s); },
+        [](cTestBook& scene) { return scene.Settings->Set(modSettingKey::MainFilter, u"x"_s); },
         [=](cTestBook& scene) { return add(scene, 300); },
         [](cTestBook& scene) { return scene.Data.Journal().Undo(); },
         [](cTestBook& scene) {
             cUndoStep step(scene.Data, u"umbenannt"_s);
             return step.DoneIf(scene.Data.MoveEntriesToAccount(u"Konto"_s, u"Girokonto"_s)
-                               && scene.Settings->Set(u"KTO:1"_s, u"Konto"_s));
+                               && scene.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Konto"_s));
         },
         [](cTestBook& scene) { return scene.Data.DeleteAllImports(); },
     };

@@ -1,6 +1,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/modPassword.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/modSchema.h"
 #include "support/cTestFile.h"
@@ -42,6 +43,19 @@ QString Former(eRegistryScope scope, const QString& name)
     return cFakeRegistry::Path(scope, u"SOFTWARE\\KontorelleFreeware"_s, name);
 }
 
+// All keys of the table, those of families with this part.
+QList<cSettingKey> AllKeys(const QString& part)
+{
+    QList<cSettingKey> keys;
+    for (const cSettingKey* key : modSettingKey::All()) {
+        keys.append(*key);
+    }
+    for (const cSettingFamily* family : modSettingKey::Families()) {
+        keys.append(family->Of(part));
+    }
+    return keys;
+}
+
 } // namespace
 
 class testSettings final : public QObject
@@ -72,37 +86,121 @@ private Q_SLOTS:
     {
         cOpened book;
         cSettings settings(book.Data);
-        QVERIFY(settings.Set(u"MainZeitraum"_s, u"Aktuelles Jahr"_s));
-        QVERIFY(settings.GetBool(u"ViewStartBooking"_s));
-        QVERIFY(settings.GetBool(u"viewAccountValueAll"_s));
-        QVERIFY(settings.SetBool(u"ViewStartBooking"_s, false));
-        QVERIFY(!settings.GetBool(u"ViewStartBooking"_s));
-        QVERIFY(!settings.GetBool(u"HideBookedEntries"_s));
+        QVERIFY(settings.Set(modSettingKey::MainPeriod, u"Aktuelles Jahr"_s));
+        QVERIFY(settings.GetBool(modSettingKey::ViewStart));
+        QVERIFY(settings.GetBool(modSettingKey::ViewAllBalances));
+        QVERIFY(settings.SetBool(modSettingKey::ViewStart, false));
+        QVERIFY(!settings.GetBool(modSettingKey::ViewStart));
+        QVERIFY(!settings.GetBool(modSettingKey::HideTitle));
     }
 
+    // The names stand in the files and registries of users: one that changes is a setting that is lost. So is one that
+    // another takes over. What stands behind "=" counts while nothing is stored.
+    void TableOfSettings() const
+    {
+        const QStringList expected{u"Database"_s,
+                                   u"DatabaseList"_s,
+                                   u"LastBackupFolder"_s,
+                                   u"PasswortAktiv"_s,
+                                   u"Passwort"_s,
+                                   u"LastVersion"_s,
+                                   u"LastCommandLineVersion"_s,
+                                   u"FirstInstall"_s,
+                                   u"Update"_s,
+                                   u"LanguageName=de"_s,
+                                   u"LanguageFormat=de-DE"_s,
+                                   u"LanguageCurrency"_s,
+                                   u"BackupCount=10"_s,
+                                   u"BackupFolder"_s,
+                                   u"BackupLast"_s,
+                                   u"BackupFailed"_s,
+                                   u"OwnRules"_s,
+                                   u"ImportRuns"_s,
+                                   u"MainZeitraum=Aktuelles Jahr"_s,
+                                   u"MainZeitraumStart"_s,
+                                   u"MainZeitraumEnd"_s,
+                                   u"MainKonto=Alle Konten"_s,
+                                   u"MainBuchungsart=Alle Buchungsarten"_s,
+                                   u"MainGruppierung=Keine Gruppierung"_s,
+                                   u"MainFilter"_s,
+                                   u"ViewSingleBooking=Wahr"_s,
+                                   u"ViewFixBooking=Wahr"_s,
+                                   u"ViewFutureBooking=Wahr"_s,
+                                   u"ViewStartBooking=Wahr"_s,
+                                   u"ViewAccountValueAll=Wahr"_s,
+                                   u"HideBookedEntries=Wahr"_s,
+                                   u"HideOldImportEntries=Falsch"_s,
+                                   u"HideAssignTitle=Falsch"_s,
+                                   u"ImportGrouping"_s,
+                                   u"StatistikKonto=Alle Konten"_s,
+                                   u"StatistikBericht=0"_s,
+                                   u"StatistikOrdnung=0"_s,
+                                   u"StatistikErstattungen=0"_s,
+                                   u"StatistikSeite=0"_s,
+                                   u"StatistikZoom=100"_s,
+                                   u"WindowSize"_s,
+                                   u"WindowState=0"_s,
+                                   u"MainSeite=0"_s,
+                                   u"MainList"_s,
+                                   u"GroupEntries"_s,
+                                   u"FilterList"_s,
+                                   u"ImportList"_s,
+                                   u"KategorieList"_s,
+                                   u"KTO:*"_s,
+                                   u"SALDO:*"_s,
+                                   u"MAP:*"_s,
+                                   u"MAP:KTO:*"_s,
+                                   u"MAP:ZS:*=0"_s,
+                                   u"BLZ:*"_s,
+                                   u"HBCIVBLZ*"_s,
+                                   u"Statistik*Zeitraum=Aktuelles Jahr"_s,
+                                   u"Statistik*VonMonat=1"_s,
+                                   u"Statistik*BisMonat=12"_s,
+                                   u"Statistik*Jahr"_s,
+                                   u"Statistik*Diagramm"_s,
+                                   u"Statistik*Vergleich"_s,
+                                   u"Statistik*Vorschau=3"_s,
+                                   u"Statistik*Durchschnitt=Falsch"_s};
+        QStringList found;
+        QSet<QString> names;
+        const QList<cSettingKey> keys = AllKeys(u"*"_s);
+        for (const cSettingKey& key : keys) {
+            found.append(key.Default().isEmpty() ? key.Name() : key.Name() + u'=' + key.Default());
+            names.insert(key.Name().toLower());
+            bool isNumber = true;
+            if (key.Facts().Type == eSettingType::Number && !key.Default().isEmpty()) {
+                (void)key.Default().toInt(&isNumber);
+            }
+            QVERIFY2(isNumber, qPrintable(key.Name()));
+        }
+        QCOMPARE(found, expected);
+        QCOMPARE(names.size(), keys.size());
+    }
+
+    // Older programs on other systems may have stored a name in other letters.
     void NamesIgnoreCase() const
     {
         cOpened book;
+        QVERIFY(book.Data.ChangeSettingItem(u"mainKONTO"_s, u"O'Hara"_s));
         cSettings settings(book.Data);
-        QVERIFY(settings.Set(u"MainKonto"_s, u"O'Hara"_s));
-        QVERIFY(settings.Set(u"mainkonto"_s, u"Giro"_s));
-        QCOMPARE(settings.Get(u"MAINKONTO"_s), u"Giro"_s);
-        QCOMPARE(book.Stored("MainKonto"), u"Giro|Giro"_s);
-        QCOMPARE(book.Stored("mainkonto"), u"(no row)"_s);
-        QCOMPARE(cSettings(book.Data).Get(u"mainKonto"_s), u"Giro"_s);
-        QVERIFY(settings.Delete(u"mAINkONTO"_s));
-        QCOMPARE(cSettings(book.Data).Get(u"MainKonto"_s), QString());
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"O'Hara"_s);
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Giro"_s));
+        QCOMPARE(book.Stored("mainKONTO"), u"Giro|Giro"_s);
+        QCOMPARE(book.Stored("MainKonto"), u"(no row)"_s);
+        QCOMPARE(cSettings(book.Data).Get(modSettingKey::MainAccount), u"Giro"_s);
+        QVERIFY(settings.Delete(modSettingKey::MainAccount));
+        QCOMPARE(cSettings(book.Data).Get(modSettingKey::MainAccount), QString());
     }
 
     void RefusedWriteLeavesMemory() const
     {
         cOpened book;
         cSettings settings(book.Data);
-        QVERIFY(settings.Set(u"MainKonto"_s, u"Giro"_s));
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Giro"_s));
         book.Database.Execute("DROP TABLE setting");
-        QVERIFY(!settings.Set(u"MainKonto"_s, u"Spar"_s));
-        QVERIFY(!settings.Delete(u"MainKonto"_s));
-        QCOMPARE(settings.Get(u"MainKonto"_s), u"Giro"_s);
+        QVERIFY(!settings.Set(modSettingKey::MainAccount, u"Spar"_s));
+        QVERIFY(!settings.Delete(modSettingKey::MainAccount));
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
         QCOMPARE(book.User.Shown.value(0), u"ERROR: ChangeSettingItem\nno such table: setting"_s);
     }
 
@@ -111,32 +209,32 @@ private Q_SLOTS:
         cOpened book;
         book.Database.Open(book.File.Path(), eOpenMode::ReadOnly);
         cSettings settings(book.Data);
-        QVERIFY(settings.Set(u"MainKonto"_s, u"Giro"_s));
-        QCOMPARE(settings.Get(u"MainKonto"_s), u"Giro"_s);
-        QCOMPARE(cSettings(book.Data).Get(u"MainKonto"_s), QString());
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Giro"_s));
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
+        QCOMPARE(cSettings(book.Data).Get(modSettingKey::MainAccount), QString());
         QCOMPARE(book.User.Shown, QStringList());
     }
 
     void ResetSparesWhatOutlivesIt() const
     {
         cOpened book;
-        cSettings settings(book.Data);
-        const QStringList kept{u"Passwort"_s,     u"PasswortAktiv"_s, u"LastVersion"_s,
-                               u"FirstInstall"_s, u"Update"_s,        u"HBCIVBLZ100"_s};
-        for (const QString& name : kept + QStringList{u"MainKonto"_s, u"KTO:1"_s, u"ViewFixBooking"_s}) {
-            QVERIFY(settings.Set(name, u"0"_s));
+        const QList<cSettingKey> keys = AllKeys(u"100"_s);
+        for (const cSettingKey& key : keys) {
+            QVERIFY(book.Data.ChangeSettingItem(key.Name(), u"0"_s));
         }
-        settings.ResetAll();
-        for (const QString& name : kept) {
-            QCOMPARE(settings.Get(name), u"0"_s);
+        QVERIFY(book.Data.ChangeSettingItem(u"of another version"_s, u"0"_s));
+        cSettings(book.Data).ResetAll();
+        QStringList left;
+        const QList<std::pair<QString, QString>> rows = book.Data.GetSettings();
+        for (const auto& [name, value] : rows) {
+            left.append(name + u'=' + value);
         }
-        QCOMPARE(settings.Get(u"KTO:1"_s), QString());
-        QCOMPARE(settings.Get(u"MainKonto"_s), QString());
-        for (const QString& name : {u"ViewSingleBooking"_s, u"ViewFixBooking"_s, u"ViewFutureBooking"_s,
-                                    u"ViewStartBooking"_s, u"ViewAccountValueAll"_s}) {
-            QVERIFY(settings.GetBool(name));
-        }
-        QCOMPARE(cTestFile::Value(book.Database, "SELECT COUNT(*) FROM setting"), u"11"_s);
+        left.sort();
+        QCOMPARE(
+            left,
+            QStringList({u"FirstInstall=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s, u"Passwort=0"_s,
+                         u"PasswortAktiv=0"_s, u"Update=0"_s, u"ViewAccountValueAll=Wahr"_s, u"ViewFixBooking=Wahr"_s,
+                         u"ViewFutureBooking=Wahr"_s, u"ViewSingleBooking=Wahr"_s, u"ViewStartBooking=Wahr"_s}));
     }
 
     void VersionAndUpdateDate() const
@@ -159,33 +257,33 @@ private Q_SLOTS:
         cConfiguration configuration(registry);
         configuration.SetDatabase(&settings);
         registry.Values.insert(Former(eRegistryScope::Machine, u"Database"_s), u" machine\r\n"_s + QChar(u'\0'));
-        QCOMPARE(configuration.GetSetting(u"Database"_s), u"machine"_s);
+        QCOMPARE(configuration.GetSetting(modSettingKey::Database), u"machine"_s);
         registry.Values.insert(Former(eRegistryScope::User, u"Database"_s), u"former"_s);
-        QCOMPARE(configuration.GetSetting(u"Database"_s), u"former"_s);
+        QCOMPARE(configuration.GetSetting(modSettingKey::Database), u"former"_s);
         registry.Values.insert(Current(u"Database"_s), u"\r\n"_s); // nothing is left of it
-        QCOMPARE(configuration.GetSetting(u"Database"_s), u"former"_s);
+        QCOMPARE(configuration.GetSetting(modSettingKey::Database), u"former"_s);
         registry.Values.insert(Current(u"Database"_s), u"current"_s);
-        QVERIFY(settings.Set(u"Database"_s, QString()));
-        QCOMPARE(configuration.GetSetting(u"Database"_s), u"current"_s);
-        QVERIFY(settings.Set(u"Database"_s, u"table"_s));
-        QCOMPARE(configuration.GetSetting(u"Database"_s), u"table"_s);
+        QVERIFY(settings.Set(modSettingKey::Database, QString()));
+        QCOMPARE(configuration.GetSetting(modSettingKey::Database), u"current"_s);
+        QVERIFY(settings.Set(modSettingKey::Database, u"table"_s));
+        QCOMPARE(configuration.GetSetting(modSettingKey::Database), u"table"_s);
 
-        QVERIFY(settings.Set(u"DatabaseList"_s, u"table"_s)); // never from the table
+        QVERIFY(settings.Set(modSettingKey::DatabaseList, u"table"_s)); // never from the table
         registry.Values.insert(Current(u"DatabaseList"_s), u"registry"_s);
-        QCOMPARE(configuration.GetSetting(u"DatabaseList"_s), u"registry"_s);
+        QCOMPARE(configuration.GetSetting(modSettingKey::DatabaseList), u"registry"_s);
 
-        configuration.DeleteRegistrySetting(u"Database"_s);
-        QVERIFY(settings.Delete(u"Database"_s));
-        QCOMPARE(configuration.GetSetting(u"Database"_s), u"machine"_s);
+        configuration.DeleteRegistrySetting(modSettingKey::Database);
+        QVERIFY(settings.Delete(modSettingKey::Database));
+        QCOMPARE(configuration.GetSetting(modSettingKey::Database), u"machine"_s);
     }
 
     void WithoutDatabaseNothingIsStoredInIt() const
     {
         cFakeRegistry registry;
         cConfiguration configuration(registry);
-        QVERIFY(!configuration.SaveSetting(u"MainKonto"_s, u"Giro"_s, eSettingPlace::Database));
-        QCOMPARE(configuration.GetSetting(u"MainKonto"_s), QString());
-        QVERIFY(configuration.SaveSetting(u"Database"_s, u"path"_s, eSettingPlace::Registry));
+        QVERIFY(!configuration.SaveSetting(modSettingKey::MainAccount, u"Giro"_s, eSettingPlace::Database));
+        QCOMPARE(configuration.GetSetting(modSettingKey::MainAccount), QString());
+        QVERIFY(configuration.SaveSetting(modSettingKey::Database, u"path"_s, eSettingPlace::Registry));
         QCOMPARE(registry.Values.value(Current(u"Database"_s)), u"path"_s);
     }
 
@@ -234,7 +332,7 @@ private Q_SLOTS:
         configuration.SetDatabase(&settings);
         QVERIFY(modPassword::Set(configuration, u"Größe"_s));
         QVERIFY(modPassword::IsActive(configuration));
-        QVERIFY(modPassword::Matches(u"Größe"_s, configuration.GetSetting(u"Passwort"_s)));
+        QVERIFY(modPassword::Matches(u"Größe"_s, configuration.GetSetting(modSettingKey::Password)));
         QCOMPARE(registry.Values.value(Current(u"Passwort"_s)), u"old"_s);
         QVERIFY(modPassword::Remove(configuration));
         QVERIFY(!modPassword::IsActive(configuration));

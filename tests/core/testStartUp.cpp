@@ -2,6 +2,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
@@ -78,8 +79,8 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Shown + machine.User.Asked, QStringList());
         QCOMPARE(machine.Book.Path(), machine.Default());
         QVERIFY(machine.StartUp.IsNewVersion());
-        QCOMPARE(machine.Configuration.GetSetting(u"FirstInstall"_s), u"2026-03-15"_s);
-        QCOMPARE(machine.Configuration.GetSetting(u"LastVersion"_s), u"0.1.0"_s);
+        QCOMPARE(machine.Configuration.GetSetting(modSettingKey::FirstInstall), u"2026-03-15"_s);
+        QCOMPARE(machine.Configuration.GetSetting(modSettingKey::LastVersion), u"0.1.0"_s);
         QCOMPARE(QDir(machine.Shell.DataFolder()).entryList(QDir::Files), QStringList(u"data.db"_s)); // no copy of it
 
         QVERIFY(machine.StartUp.OpenBook(machine.Book));
@@ -123,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Shown,
                  QStringList(u"Die Datenbank '/gone/data.db' wurde nicht gefunden. Der "
                              u"Standard-Datenbank-Pfad wird verwendet!"_s));
-        QCOMPARE(machine.Configuration.GetSetting(u"Database"_s), u"/gone/data.db"_s); // a disk may come back
+        QCOMPARE(machine.Configuration.GetSetting(modSettingKey::Database), u"/gone/data.db"_s); // a disk may come back
     }
 
     void DamagedInstallation() const
@@ -136,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(machine.User.Shown[0].startsWith(u"Die Installation ist beschädigt."_s));
         QCOMPARE(machine.User.Shown[1], u"Die Standard-Datenbank konnte nicht gefunden werden!"_s);
         QVERIFY(machine.User.Shown[2].startsWith(u"Die Software wird jetzt beendet."_s));
-        QVERIFY(!machine.Configuration.SaveSetting(u"MainKonto"_s, u"x"_s, eSettingPlace::Database));
+        QVERIFY(!machine.Configuration.SaveSetting(modSettingKey::MainAccount, u"x"_s, eSettingPlace::Database));
     }
 
     void ChosenDatabaseIsRemembered() const
@@ -146,7 +147,7 @@ private Q_SLOTS:
         machine.Rescue.Database = machine.File.Make({}, u"other.db"_s);
         machine.User.Answers = {eAnswer::No, eAnswer::Yes};
         QVERIFY(machine.StartUp.OpenBook(machine.Book));
-        QCOMPARE(machine.Configuration.GetSetting(u"Database"_s), machine.File.Path(u"other.db"_s));
+        QCOMPARE(machine.Configuration.GetSetting(modSettingKey::Database), machine.File.Path(u"other.db"_s));
     }
 
     // Whoever holds the settings of a book keeps them when another file is opened.
@@ -155,12 +156,12 @@ private Q_SLOTS:
         cMachine machine;
         QVERIFY(machine.StartUp.OpenBook(machine.Book));
         cSettings& settings = machine.Book.Settings();
-        QVERIFY(settings.Set(u"MainKonto"_s, u"first"_s));
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"first"_s));
         QVERIFY(machine.StartUp.OpenBook(machine.Book, machine.File.Make()));
-        QCOMPARE(settings.Get(u"MainKonto"_s), QString());
-        QVERIFY(settings.Set(u"MainKonto"_s, u"second"_s));
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), QString());
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"second"_s));
         QVERIFY(machine.StartUp.OpenBook(machine.Book, machine.Default()));
-        QCOMPARE(settings.Get(u"MainKonto"_s), u"first"_s);
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"first"_s);
     }
 
     void OpenWithoutQuestions() const

@@ -1,4 +1,5 @@
 #include "model/modRecurrence.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "support/bookDump.h"
@@ -67,8 +68,9 @@ void testUndo::StepsGoBackAndForth_data()
     QTest::newRow("all bank rows deleted")
         << fnAction([](cTestBook& book, const cEntryItem&) { return book.Data.DeleteAllImports(); });
     QTest::newRow("setting under the same name in another row") << fnAction([](cTestBook& book, const cEntryItem&) {
-        return book.Settings->Delete(u"KTO:1"_s) && book.Settings->Set(u"andere"_s, u"1"_s)
-            && book.Settings->Set(u"KTO:1"_s, u"Sparkonto"_s);
+        return book.Settings->Delete(modSettingKey::BankNumber.Of(u"1"_s))
+            && book.Settings->Set(modSettingKey::BankNumber.Of(u"2"_s), u"Bargeld"_s)
+            && book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Sparkonto"_s);
     });
 }
 
@@ -76,7 +78,7 @@ void testUndo::StepsGoBackAndForth()
 {
     QFETCH(fnAction, Action);
     cTestBook book;
-    QVERIFY(book.Settings->Set(u"KTO:1"_s, u"Girokonto"_s));
+    QVERIFY(book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Girokonto"_s));
     const cEntryItem entry = book.Add([](cEntryItem& item) {
         item.EntryCategory = u"Haushalt; Kid's"_s;
         item.EntryInterval = u"Monatlich"_s;
@@ -161,7 +163,7 @@ void testUndo::WriteOutsideForgets()
         const cUndoStep step(book.Data, u"gelöscht"_s);
         QVERIFY(book.Data.DeleteEntry(entry.ID));
     }
-    QVERIFY(book.Settings->Set(u"MainFilter"_s, u"x"_s)); // choices of the view change nothing
+    QVERIFY(book.Settings->Set(modSettingKey::MainFilter, u"x"_s)); // choices of the view change nothing
     QCOMPARE(book.Data.Journal().UndoName(), u"gelöscht"_s);
     (void)book.Add([](cEntryItem&) {}); // may have taken the ID of the deleted entry
     QCOMPARE(book.Data.Journal().UndoName(), QString());

@@ -1,5 +1,6 @@
 #include "cImportBook.h"
 #include "import/read/modAccountNumber.h"
+#include "model/modSettingKey.h"
 
 #include <QTest>
 
@@ -46,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.User.Asked.size(), 2);
-        QCOMPARE(book.Settings->Get(u"KTO:123"_s), u"Sparkonto"_s);
+        QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"123"_s)), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Proposal(u"4"_s), u"Girokonto"_s);
         QVERIFY(book.Accounts.Assign(u"5"_s, u"Girokonto"_s));
         QCOMPARE(book.Accounts.Proposal(u"4"_s), QString()); // every account of a bank has its number

@@ -8,6 +8,7 @@
 #include "import/table/modTable.h"
 #include "import/table/modTableProfile.h"
 #include "import/table/modTableText.h"
+#include "model/modSettingKey.h"
 
 #include <QDir>
 #include <QTest>
@@ -241,7 +242,8 @@ private Q_SLOTS:
         cTableLayout loaded = modTable::Open({u"a.csv"_s, {}, text}, options).Layout;
         QCOMPARE(loaded.Origin, eMapOrigin::Memory);
         QCOMPARE(loaded.Map, layout.Map);
-        QVERIFY(book.Settings->Set(u"MAP:"_s + layout.Key, u"4;9;9;9;9;x"_s)); // damaged: as if it were not there
+        QVERIFY(book.Settings->Set(modSettingKey::TableMap.Of(layout.Key),
+                                   u"4;9;9;9;9;x"_s)); // damaged: as if it were not there
         QCOMPARE(Brief(ReadText(text, options)), QStringList(u"2025-02-03 1.00 1"_s));
     }
 

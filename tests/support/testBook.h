@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modRecurrence.h"
@@ -17,19 +19,10 @@
 // A new book in a temporary folder, made from the shipped template.
 class cTestBook
 {
+    QTemporaryDir m_folder;
+
 public:
-    cTestBook()
-    {
-        Database.Open(m_folder.filePath(QStringLiteral("buch.db")), eOpenMode::Create);
-        QFile sql(QStringLiteral(TEST_DATA "/../../data/template.sql"));
-        if (!sql.open(QIODevice::ReadOnly)) {
-            qFatal("data/template.sql is missing");
-        }
-        Database.ExecuteScript(sql.readAll().toStdString());
-        modSchema::Upgrade(Database);
-        Settings = std::make_unique<cSettings>(Data);
-        Configuration.SetDatabase(Settings.get());
-    }
+    cTestBook() { Configuration.SetDatabase(Settings.get()); }
 
     // Adds a one-off expense of 10 euros on 2026-03-10 as `change` makes it; the stored entry.
     template <typename tChange>
@@ -58,9 +51,21 @@ public:
     cFakeRegistry Registry;
     cDatabase Database;
     cDataAccess Data{Database, User};
-    std::unique_ptr<cSettings> Settings;
+    std::unique_ptr<cSettings> Settings{OpenSettings()};
     cConfiguration Configuration{Registry};
+    cAmountFormat Format{Configuration}; // German, unless a test says otherwise
+    const cBookTools Tools{Data, *Settings, Format, User, Clock};
 
 private:
-    QTemporaryDir m_folder;
+    std::unique_ptr<cSettings> OpenSettings()
+    {
+        Database.Open(m_folder.filePath(QStringLiteral("buch.db")), eOpenMode::Create);
+        QFile sql(QStringLiteral(TEST_DATA "/../../data/template.sql"));
+        if (!sql.open(QIODevice::ReadOnly)) {
+            qFatal("data/template.sql is missing");
+        }
+        Database.ExecuteScript(sql.readAll().toStdString());
+        modSchema::Upgrade(Database);
+        return std::make_unique<cSettings>(Data);
+    }
 };

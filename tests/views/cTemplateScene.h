@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/template/cTemplateManager.h"
 
@@ -45,8 +44,7 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
+    cTemplateManager Manager{Book.Tools};
     QList<int> Ids;
 
 private:

@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/book/cBookCheck.h"
 #include "views/entry/cEntryEditor.h"
@@ -56,8 +55,7 @@ void testBookCheck::FindsWhatIsNotSeen()
     march.Start = QDate(2026, 3, 1);
     march.End = QDate(2026, 3, 31);
     QTEST(static_cast<int>(book.Data.GetEntries(march).size()), "seen");
-    const cAmountFormat format(book.Configuration);
-    const cBookCheck check(book.Data, format);
+    const cBookCheck check(book.Data, book.Format);
     QCOMPARE(check.IsSound(), fault.isEmpty());
     QCOMPARE(check.index(0, cBookCheck::Fault).data().toString(), fault);
     QCOMPARE(check.EntryAt(0), fault.isEmpty() ? 0 : id);
@@ -69,9 +67,8 @@ void testBookCheck::UnreadableDayStaysUntilItIsNamed()
     cTestBook book;
     const int id = book.Add([](cEntryItem&) {}).ID;
     book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
-    const cAmountFormat format(book.Configuration);
-    cBookCheck check(book.Data, format);
-    cEntryEditor editor(book.Data, book.User, book.Clock, &format);
+    cBookCheck check(book.Data, book.Format);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = *editor.Load(id);
     fields.Description = u"Wochenmarkt"_s;
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
@@ -100,7 +97,7 @@ void testBookCheck::UnreadableDayOfAStartBalanceStays()
     cTestBook book;
     QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 10000, QDate(2026, 1, 1)));
     book.Database.Execute("UPDATE data SET EntryDate = 'Neujahr'");
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = editor.StartBalance(u"Girokonto"_s);
     fields.Amount = u"200"_s;
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
@@ -116,8 +113,7 @@ void testBookCheck::SaysWhatTheFileLacks()
     book.Database.Execute("DROP TABLE template");
     book.Database.Execute("ALTER TABLE import DROP COLUMN ImportCurrency");
     book.Database.Execute("ALTER TABLE data DROP COLUMN EntryDescription");
-    const cAmountFormat format(book.Configuration);
-    const cBookCheck check(book.Data, format);
+    const cBookCheck check(book.Data, book.Format);
     QVERIFY(!check.IsSound());
     QCOMPARE(check.FileText(),
              u"Die Datei ist unvollständig. Bitte spielen Sie eine Datensicherung zurück. Es fehlt: Spalte "

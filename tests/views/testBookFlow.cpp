@@ -1,5 +1,6 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "support/cTestFile.h"
@@ -52,10 +53,10 @@ struct cMachine
     }
 
     [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
-    [[nodiscard]] QString List() const { return Configuration.GetSetting(u"DatabaseList"_s); }
+    [[nodiscard]] QString List() const { return Configuration.GetSetting(modSettingKey::DatabaseList); }
     void SetList(const QStringList& books)
     {
-        Configuration.SaveSetting(u"DatabaseList"_s, books.join(u'|'), eSettingPlace::Registry);
+        Configuration.SaveSetting(modSettingKey::DatabaseList, books.join(u'|'), eSettingPlace::Registry);
     }
 
     cTestFile File;

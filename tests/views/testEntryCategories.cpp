@@ -50,7 +50,7 @@ void testEntryCategories::MistakenCategoryLeavesNothingBehind()
     AddCategory(book, u"Einkommen; Lohn"_s, modWord::Einnahme, u"Monatlich"_s);
     AddCategory(book, u"Haushalt; Milch"_s, modWord::Ausgabe, modWord::Einmalig);
     AddCategory(book, u"Haushalt; Offen"_s, {}, {});
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
     const auto choose = [&](const QString& path) {
         editor.ChooseCategory(path, fields);
@@ -75,7 +75,7 @@ void testEntryCategories::CarriedKindIsOpen()
     cTestBook book;
     AddCategory(book, u"Einkommen; Kindergeld"_s, modWord::Einnahme, u"Monatlich"_s);
     AddCategory(book, u"Haushalt; Offen"_s, {}, {});
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields saved = editor.Start(u"Girokonto"_s);
     saved.Type = modWord::Umbuchung;
     saved.Target = u"Sparkonto"_s;
@@ -151,7 +151,7 @@ void testEntryCategories::OrdersCategories()
 void testEntryCategories::MakesACategoryThatIsMissing()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
     fields.Amount = u"12,50"_s;
     fields.IsAmountTyped = true;

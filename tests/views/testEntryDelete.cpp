@@ -1,4 +1,3 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 
@@ -97,8 +96,7 @@ void testEntryDelete::AsksForPartsOnce()
     QFETCH(QStringList, options);
     cTestBook book;
     Fill(book);
-    const cAmountFormat format(book.Configuration);
-    cEntryDelete flow(book.Data, book.User, format);
+    cEntryDelete flow(book.Tools);
     book.User.Decisions = {choice};
     book.User.Answers = {eAnswer::Yes};
     QCOMPARE(flow.Delete(ids), choice >= 0);
@@ -122,8 +120,7 @@ void testEntryDelete::QuestionNamesWhatGoes()
                                entry.EntryDescription = u"Miete"_s;
                            })
                            .ID;
-    const cAmountFormat format(book.Configuration);
-    cEntryDelete flow(book.Data, book.User, format);
+    cEntryDelete flow(book.Tools);
     QVERIFY(!flow.Delete(QList<int>{3}));
     QVERIFY(!flow.Delete(QList<int>{series}));
     QCOMPARE(book.User.Asked.at(0),
@@ -141,8 +138,7 @@ void testEntryDelete::DeletingIsOneStep()
 {
     cTestBook book;
     Fill(book);
-    const cAmountFormat format(book.Configuration);
-    cEntryDelete flow(book.Data, book.User, format);
+    cEntryDelete flow(book.Tools);
     book.User.Decisions = {0};
     QVERIFY(flow.Delete(QList<int>{1, 4}));
     QCOMPARE(book.Data.Journal().UndoName(), u"2 Einträge gelöscht"_s);
@@ -188,8 +184,7 @@ void testEntryDelete::SelectionWithSeriesAsksHowMuch()
     QFETCH(QList<cEntryListModel::cKey>, keys);
     cTestBook book;
     FillSeries(book);
-    const cAmountFormat format(book.Configuration);
-    QVERIFY(!cEntryDelete(book.Data, book.User, format).Delete(keys));
+    QVERIFY(!cEntryDelete(book.Tools).Delete(keys));
     QTEST(book.User.LastDecision.Text, "question");
     QTEST(book.User.LastDecision.Options, "options");
     QCOMPARE(book.Data.Journal().UndoName(), QString()); // given up: nothing was written
@@ -213,11 +208,10 @@ void testEntryDelete::PartOfASeriesGoes()
     QFETCH(int, choice);
     cTestBook book;
     FillSeries(book);
-    const cAmountFormat format(book.Configuration);
     const QStringList before = Occurrences(book);
     book.User.Decisions = {choice};
-    QVERIFY(cEntryDelete(book.Data, book.User, format)
-                .Delete({{1, QDate(2026, 4, 10)}, {2, QDate(2026, 3, 10)}, {3, QDate(2026, 3, 10)}}));
+    QVERIFY(
+        cEntryDelete(book.Tools).Delete({{1, QDate(2026, 4, 10)}, {2, QDate(2026, 3, 10)}, {3, QDate(2026, 3, 10)}}));
     QTEST(Occurrences(book), "left");
     QTEST(book.Data.Journal().UndoName(), "step");
     if (choice == 0) {
@@ -240,9 +234,8 @@ void testEntryDelete::EndedSeriesGivesBankRowsBack()
         row.ImportAssignedEntry = 1;
         QVERIFY(book.Data.AddNewImportEntry(row));
     }
-    const cAmountFormat format(book.Configuration);
     book.User.Answers = {eAnswer::Yes};
-    QVERIFY(cEntryDelete(book.Data, book.User, format).Delete({1, QDate(2026, 4, 10)}, eSeriesPart::FromHere));
+    QVERIFY(cEntryDelete(book.Tools).Delete({1, QDate(2026, 4, 10)}, eSeriesPart::FromHere));
     QCOMPARE(book.User.Asked.constFirst(),
              u"Möchten Sie die Serie 'Miete' ab dem 10.04.2026 löschen?\nDie Vorkommen davor bleiben."_s);
     const cImportEntryList rows = book.Data.GetImportEntries();

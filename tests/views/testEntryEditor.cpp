@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -74,7 +74,7 @@ void testEntryEditor::ChecksInOrder()
     fields.Account = emptied.contains(u"account"_s) ? QString() : fields.Account;
 
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(fields), message.isEmpty() ? cEntryEditor::eSaved::BadAmount : cEntryEditor::eSaved::Refused);
     QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
     QCOMPARE(book.Data.CountEntries(), 0);
@@ -102,7 +102,7 @@ void testEntryEditor::SaysWhichFieldKeepsItFromBeingBuilt()
     QFETCH(QString, target);
     QFETCH(QString, why);
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Type = type;
     fields.Target = target;
@@ -122,7 +122,7 @@ void testEntryEditor::SaysWhenThereIsNothingToChoose()
     for (const cTemplateItem& item : templates) {
         QVERIFY(book.Data.DeleteTemplate(item.ID));
     }
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Account.clear();
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
@@ -136,7 +136,7 @@ void testEntryEditor::SaysWhenThereIsNothingToChoose()
 void testEntryEditor::StoresWhatWasTyped()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Amount = u"-1.012,50"_s; // the sign is the kind's business
     fields.Target = u"Sparkonto"_s; // left over from a transfer
@@ -168,7 +168,7 @@ void testEntryEditor::CategoryFillsOnlyWhatIsOpen()
     rent.EntryType = modWord::AlleBuchungsarten; // a filter word that old files carry
     QVERIFY(book.Data.AddNewTemplate(rent));
 
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Amount = u"7"_s;
     editor.ChooseCategory(u"Test; Sonstiges"_s, fields);
@@ -208,7 +208,7 @@ void testEntryEditor::OtherPeriodCostsCorrections()
     fixMod.EntryStartDate = QDate(2026, 4, 1);
     QVERIFY(book.Data.AddNewEntryMod(fixMod));
 
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Load(series.ID).value();
     fields.Description = u"neu"_s;
     fields.Date = changesDate ? fields.Date.addDays(1) : fields.Date;
@@ -242,7 +242,7 @@ void testEntryEditor::ProposesRecurringValues()
     rent.EntryInterval = interval;
     rent.TemplateDefaultValue = u"850.00"_s;
     QVERIFY(book.Data.AddNewTemplate(rent));
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Amount = u"7"_s;
     fields.IsAmountTyped = isTyped;
@@ -258,7 +258,7 @@ void testEntryEditor::SaysTheVatInTheAmount()
     repair.TemplateName = u"Reparatur"_s;
     repair.TemplateVAT = u"19"_s;
     QVERIFY(book.Data.AddNewTemplate(repair));
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Category = modTemplate::Path(repair);
     fields.Amount = u"100"_s;
@@ -286,7 +286,7 @@ void testEntryEditor::TypedDays()
     QFETCH(QString, end);
     QFETCH(int, saved);
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.Interval = u"Monatlich"_s;
     fields.Date = QDate(2026, 3, 10);
@@ -301,7 +301,7 @@ void testEntryEditor::TypedDays()
 void testEntryEditor::NextEntryKeepsDayAccountAndKind()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = Fields();
     fields.DateText = u"3."_s;
     fields.Interval = u"Monatlich"_s;
@@ -335,7 +335,7 @@ void testEntryEditor::DescriptionBringsItsLatestUse()
     add(u"Wärme d'Oro"_s, u"Nicht; Angelegt"_s, u"Geschlossen"_s);
     add(u"Wirt"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
 
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
     QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
@@ -358,9 +358,8 @@ void testEntryEditor::DescriptionBringsItsLatestUse()
 void testEntryEditor::AmountsAreTypedAsTheyAreShown()
 {
     cTestBook book;
-    QVERIFY(book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
-    const cAmountFormat british(book.Configuration);
-    cEntryEditor editor(book.Data, book.User, book.Clock, &british);
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
     QCOMPARE(fields.Amount, u"0.00"_s);
     fields.Amount = u"1,234"_s;
@@ -403,7 +402,7 @@ void testEntryEditor::PreviewsSeries()
     QFETCH(QString, day);
     QFETCH(QString, end);
     cTestBook book;
-    const cEntryEditor editor(book.Data, book.User, book.Clock);
+    const cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields;
     fields.Interval = u"Monatlich"_s;
     fields.DateText = day;
@@ -415,7 +414,7 @@ void testEntryEditor::PreviewsSeries()
 void testEntryEditor::StartBalanceHasItsSign()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
     QCOMPARE(fields.Date, book.Clock.Day);
     QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
@@ -442,7 +441,7 @@ void testEntryEditor::StartBalanceFollowsTheAccount()
 {
     cTestBook book;
     QVERIFY(book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2025, 1, 1)));
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
     editor.ChooseAccount(u"Bargeld"_s, fields);
     QCOMPARE(fields.Amount, u"5,00"_s);
@@ -458,7 +457,7 @@ void testEntryEditor::StartBalanceFollowsTheAccount()
 void testEntryEditor::NamesTheStep()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Fields()), cEntryEditor::eSaved::Saved);
     QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
     cEntryEditor::cFields fields = editor.Load(editor.SavedId()).value();
@@ -470,14 +469,14 @@ void testEntryEditor::NamesTheStep()
 void testEntryEditor::LabelNamesTheCurrency()
 {
     cTestBook book;
-    const cAmountFormat german(book.Configuration);
-    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &german).AmountLabel(), u"Betrag (€):"_s);
-    QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"en_US"_s));
-    const cAmountFormat american(book.Configuration);
-    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &american).AmountLabel(), u"Betrag ($):"_s);
-    QVERIFY(book.Settings->Set(u"LanguageCurrency"_s, u"id-ID"_s));
-    const cAmountFormat indonesian(book.Configuration); // rupiah are shown without symbol
-    QCOMPARE(cEntryEditor(book.Data, book.User, book.Clock, &indonesian).AmountLabel(), u"Betrag:"_s);
+    const cEntryEditor editor(book.Tools);
+    QCOMPARE(editor.AmountLabel(), u"Betrag (€):"_s);
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"en_US"_s));
+    book.Format.CultureChanged();
+    QCOMPARE(editor.AmountLabel(), u"Betrag ($):"_s);
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"id-ID"_s));
+    book.Format.CultureChanged();
+    QCOMPARE(editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
 }
 
 QTEST_GUILESS_MAIN(testEntryEditor)

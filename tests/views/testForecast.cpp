@@ -1,6 +1,4 @@
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
-#include "support/testFormat.h"
 #include "views/chart/cForecast.h"
 #include "views/main/cAccountListModel.h"
 #include "views/main/cLimitWatch.h"
@@ -179,9 +177,8 @@ private Q_SLOTS:
     {
         cHousehold household;
         household.SetLimit(u"Girokonto"_s, u"900.00"_s);
-        const cTestFormat format;
-        cAccountListModel accounts(format.Format);
-        cLimitWatch watch(household.Book.Data, format.Format, household.Book.Clock, accounts);
+        cAccountListModel accounts(household.Book.Format);
+        cLimitWatch watch(household.Book.Tools, accounts);
         accounts.SetAccounts(household.Book.Data.GetAccounts(), {{u"Girokonto"_s, 100000}}, {});
         const auto hint = [&](const QString& account) {
             for (int row = 0; row < accounts.rowCount(); ++row) {

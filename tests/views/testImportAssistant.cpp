@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
@@ -40,7 +41,7 @@ struct cPage : cTestBook
 {
     cPage()
     {
-        Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
         Review.Files().SetAssist([this](cImportAssistant& assistant) {
             ++Opened;
             Answer(assistant);
@@ -76,8 +77,7 @@ struct cPage : cTestBook
     fnChange Answer = [](cImportAssistant& assistant) { assistant.SetAccount(u"4711"_s); };
     bool IsConfirmed = true;
     int Opened = 0;
-    cAmountFormat Format{Configuration};
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
 };
 
 int Place(const QStringList& items, const QString& item)

@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
@@ -19,7 +20,7 @@ struct cPage : cTestBook
 {
     cPage()
     {
-        Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Review.View().SetOpenOnly(false);
     }
 
@@ -61,9 +62,8 @@ struct cPage : cTestBook
 
     QString Reason(int row) { return Review.Rows().index(row, cStagedListModel::Reason).data().toString(); }
 
-    cAmountFormat Format{Configuration};
     cNoProgress Progress;
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
 };
 
 QString Cell(const cAssignListModel& list, int row, int column)

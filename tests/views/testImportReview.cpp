@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
@@ -49,9 +50,8 @@ struct cPage : cTestBook
         return ids;
     }
 
-    cAmountFormat Format{Configuration};
     cNoProgress Progress;
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
 };
 
 const QString space = u"\u00A0"_s; // before the currency sign
@@ -179,7 +179,7 @@ private Q_SLOTS:
         page.Review.View().SetOpenOnly(true);
         QCOMPARE(rows.rowCount(), 0);
         QVERIFY(page.Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
-        QVERIFY(page.Settings->GetBool(u"HideBookedEntries"_s));
+        QVERIFY(page.Settings->GetBool(modSettingKey::HideBooked));
     }
 
     // The number of a row that is gone comes again.
@@ -372,9 +372,9 @@ private Q_SLOTS:
         view.SetGrouping(1);
         view.SetOldHidden(true);
         view.SetTitleShown(false);
-        QVERIFY(page.Settings->GetBool(u"HideOldImportEntries"_s));
-        QVERIFY(page.Settings->GetBool(u"HideAssignTitle"_s));
-        cImportReview other({page.Data, *page.Settings, page.Format, page.User});
+        QVERIFY(page.Settings->GetBool(modSettingKey::HideOld));
+        QVERIFY(page.Settings->GetBool(modSettingKey::HideTitle));
+        cImportReview other(page.Tools);
         QCOMPARE(other.View().Grouping(), 1);
         QVERIFY(other.View().IsOldHidden() && !other.View().IsTitleShown());
         view.SetGrouping(99);

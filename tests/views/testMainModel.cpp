@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -54,9 +54,8 @@ public:
 
     void Start(bool isNewVersion = false)
     {
-        Model =
-            std::make_unique<cMainModel>(cMainModel::cParts{Book.Data, *Book.Settings, Book.Configuration, Format,
-                                                            Book.User, Book.Clock, Book.Shell, Navigator, Book.Path()});
+        Model = std::make_unique<cMainModel>(
+            Book.Tools, cMainModel::cParts{Book.Configuration, Book.Shell, Navigator, Book.Path()});
         Model->RestoreView(isNewVersion);
         Settle();
     }
@@ -87,7 +86,6 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
     std::unique_ptr<cMainModel> Model;
     cEntryItem Rent;
@@ -133,32 +131,33 @@ void testMainModel::SumsFollowTheView_data()
     QTest::addColumn<QString>("period");
     QTest::addColumn<QString>("account");
     QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("switchedOff");
+    QTest::addColumn<const cSettingKey*>("switchedOff");
     QTest::addColumn<int>("count");
     QTest::addColumn<qint64>("income");
     QTest::addColumn<qint64>("expense");
     QTest::addColumn<qint64>("total");
 
+    const cSettingKey* const none = nullptr;
     const QString year = u"Aktuelles Jahr"_s;
     const QString all = modWord::AlleKonten;
     const QString types = modWord::AlleBuchungsarten;
     QTest::newRow("whole year, transfers neutral")
-        << year << all << types << QString() << 15 << qint64(200000) << qint64(844000) << qint64(-644000);
-    QTest::newRow("without future") << year << all << types << u"ViewFutureBooking"_s << 5 << qint64(200000)
+        << year << all << types << none << 15 << qint64(200000) << qint64(844000) << qint64(-644000);
+    QTest::newRow("without future") << year << all << types << &modSettingKey::ViewFuture << 5 << qint64(200000)
                                     << qint64(210000) << qint64(-10000);
-    QTest::newRow("only recurring") << year << all << types << u"ViewSingleBooking"_s << 12 << qint64(0)
+    QTest::newRow("only recurring") << year << all << types << &modSettingKey::ViewSingle << 12 << qint64(0)
                                     << qint64(840000) << qint64(-840000);
-    QTest::newRow("only one-off") << year << all << types << u"ViewFixBooking"_s << 3 << qint64(200000) << qint64(4000)
-                                  << qint64(196000);
+    QTest::newRow("only one-off") << year << all << types << &modSettingKey::ViewFix << 3 << qint64(200000)
+                                  << qint64(4000) << qint64(196000);
     QTest::newRow("transfer out of the account")
-        << year << u"Girokonto"_s << u"Umbuchung"_s << QString() << 1 << qint64(0) << qint64(30000) << qint64(-30000);
+        << year << u"Girokonto"_s << u"Umbuchung"_s << none << 1 << qint64(0) << qint64(30000) << qint64(-30000);
     QTest::newRow("transfer into the account is income")
-        << year << u"Sparkonto"_s << u"Einnahme"_s << QString() << 1 << qint64(30000) << qint64(0) << qint64(30000);
+        << year << u"Sparkonto"_s << u"Einnahme"_s << none << 1 << qint64(30000) << qint64(0) << qint64(30000);
     QTest::newRow("start balance hidden")
-        << u"Letztes Jahr"_s << all << types << u"ViewStartBooking"_s << 0 << qint64(0) << qint64(0) << qint64(0);
+        << u"Letztes Jahr"_s << all << types << &modSettingKey::ViewStart << 0 << qint64(0) << qint64(0) << qint64(0);
     QTest::newRow("start balance is no income, but part of the sum")
-        << u"Letztes Jahr"_s << all << types << QString() << 1 << qint64(0) << qint64(0) << qint64(50000);
-    QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << QString() << 6 << qint64(200000)
+        << u"Letztes Jahr"_s << all << types << none << 1 << qint64(0) << qint64(0) << qint64(50000);
+    QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << none << 6 << qint64(200000)
                                  << qint64(210000) << qint64(40000);
 }
 
@@ -167,15 +166,15 @@ void testMainModel::SumsFollowTheView()
     QFETCH(QString, period);
     QFETCH(QString, account);
     QFETCH(QString, type);
-    QFETCH(QString, switchedOff);
+    QFETCH(const cSettingKey*, switchedOff);
     QFETCH(int, count);
     QFETCH(qint64, income);
     QFETCH(qint64, expense);
     QFETCH(qint64, total);
 
     cScene scene;
-    if (!switchedOff.isEmpty()) {
-        scene.Model->ToggleView(switchedOff);
+    if (switchedOff != nullptr) {
+        scene.Model->ToggleView(*switchedOff);
     }
     scene.Model->ChoosePeriod(period);
     scene.Model->ChooseAccount(account);
@@ -192,18 +191,16 @@ void testMainModel::SumsFollowTheView()
 void testMainModel::NewBookStartsWithTheResetView()
 {
     cTestBook book;
-    const cAmountFormat format(book.Configuration);
     cFakeNavigator navigator;
-    cMainModel model({book.Data, *book.Settings, book.Configuration, format, book.User, book.Clock, book.Shell,
-                      navigator, book.Path()});
+    cMainModel model(book.Tools, {book.Configuration, book.Shell, navigator, book.Path()});
     model.RestoreView(true);
 
     QCOMPARE(model.View().Period, modWord::AlleBuchungen);
-    for (const QString& key :
-         {u"ViewSingleBooking"_s, u"ViewFixBooking"_s, u"ViewFutureBooking"_s, u"ViewStartBooking"_s}) {
-        QVERIFY2(model.IsChecked(key), qPrintable(key));
+    for (const cSettingKey& key :
+         {modSettingKey::ViewSingle, modSettingKey::ViewFix, modSettingKey::ViewFuture, modSettingKey::ViewStart}) {
+        QVERIFY2(model.IsChecked(key), qPrintable(key.Name()));
     }
-    QVERIFY(!model.IsChecked(u"ViewAccountValueAll"_s));
+    QVERIFY(!model.IsChecked(modSettingKey::ViewAllBalances));
     QVERIFY(model.EmptyHint().contains(u"Strg+N"_s));
 }
 
@@ -211,12 +208,12 @@ void testMainModel::NewBookStartsWithTheResetView()
 void testMainModel::MissingSwitchesAreOn()
 {
     cScene scene;
-    scene.Book.Settings->Set(u"MainZeitraum"_s, u"Letztes Jahr"_s);
+    scene.Book.Settings->Set(modSettingKey::MainPeriod, u"Letztes Jahr"_s);
     scene.Start();
     QCOMPARE(scene.Model->Entries().rowCount(), 1);
     QCOMPARE(scene.Model->TotalText(), Euro(u"500,00"_s));
     QVERIFY(scene.Balances().contains(u"Gesamt "_s + Euro(u"400,00"_s)));
-    QVERIFY(scene.Model->IsChecked(u"ViewStartBooking"_s));
+    QVERIFY(scene.Model->IsChecked(modSettingKey::ViewStart));
 }
 
 void testMainModel::ResetAsksFirst()
@@ -233,18 +230,18 @@ void testMainModel::ResetAsksFirst()
 void testMainModel::NewVersionResetsTheView()
 {
     cScene scene;
-    scene.Model->ToggleView(u"ViewFixBooking"_s);
-    scene.Model->ToggleView(u"ViewStartBooking"_s);
-    scene.Model->SaveListLayout(u"MainList"_s, u"x"_s);
+    scene.Model->ToggleView(modSettingKey::ViewFix);
+    scene.Model->ToggleView(modSettingKey::ViewStart);
+    scene.Model->SaveListLayout(modSettingKey::MainList, u"x"_s);
     scene.Model->ChooseAccount(u"Sparkonto"_s);
     scene.Start(true);
 
     QCOMPARE(scene.Model->View().Period, modWord::AlleBuchungen);
     QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
-    QVERIFY(scene.Model->IsChecked(u"ViewFixBooking"_s));
-    QVERIFY(!scene.Model->IsChecked(u"ViewAccountValueAll"_s));
-    QVERIFY(!scene.Model->IsChecked(u"ViewStartBooking"_s)); // a reset leaves it alone
-    QVERIFY(scene.Model->Layout(u"MainList"_s).isEmpty());
+    QVERIFY(scene.Model->IsChecked(modSettingKey::ViewFix));
+    QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewAllBalances));
+    QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewStart)); // a reset leaves it alone
+    QVERIFY(scene.Model->Layout(modSettingKey::MainList).isEmpty());
     QVERIFY(!scene.Model->Hint().isEmpty()); // the list reaches to 2050 now, and says so
 }
 
@@ -263,8 +260,8 @@ void testMainModel::RestoresTheView()
     QCOMPARE(scene.Model->View().Grouping, u"Nach Monat"_s);
     QCOMPARE(scene.Model->View().Filter, u"bäcker"_s);
 
-    scene.Book.Settings->Set(u"MainKonto"_s, u"Aufgelöstes Konto"_s);
-    scene.Book.Settings->Set(u"MainZeitraum"_s, u"Irgendwann"_s);
+    scene.Book.Settings->Set(modSettingKey::MainAccount, u"Aufgelöstes Konto"_s);
+    scene.Book.Settings->Set(modSettingKey::MainPeriod, u"Irgendwann"_s);
     scene.Start();
     QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
     QCOMPARE(scene.Model->View().Period, u"Aktuelles Jahr"_s);
@@ -280,7 +277,7 @@ void testMainModel::FreePeriodStartsWithTheShownDays()
     QCOMPARE(scene.Model->ShownRange().End, QDate(2026, 2, 28));
     scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)});
     QCOMPARE(scene.Model->Entries().Sums().Count, 2);
-    QCOMPARE(scene.Book.Settings->Get(u"MainZeitraumEnd"_s), u"2026-01-31"_s);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainPeriodEnd), u"2026-01-31"_s);
     scene.Model->ChooseFreeRange({QDate(2026, 3, 1), QDate(2026, 1, 31)}); // the other day comes along
     QCOMPARE(scene.Model->ShownRange(), (modPeriod::cRange{QDate(2026, 3, 1), QDate(2026, 3, 1)}));
     scene.Model->ResetView();
@@ -310,9 +307,9 @@ void testMainModel::FreeDaysThatCanBeNoPeriodAreReplaced()
     QFETCH(QString, start);
     QFETCH(QString, end);
     cScene scene;
-    scene.Book.Settings->Set(u"MainZeitraum"_s, modWord::FreierZeitraum);
-    scene.Book.Settings->Set(u"MainZeitraumStart"_s, start);
-    scene.Book.Settings->Set(u"MainZeitraumEnd"_s, end);
+    scene.Book.Settings->Set(modSettingKey::MainPeriod, modWord::FreierZeitraum);
+    scene.Book.Settings->Set(modSettingKey::MainPeriodStart, start);
+    scene.Book.Settings->Set(modSettingKey::MainPeriodEnd, end);
     scene.Start();
     QTEST(scene.Model->ShownRange().Start, "first");
     QTEST(scene.Model->ShownRange().End, "last");
@@ -321,13 +318,13 @@ void testMainModel::FreeDaysThatCanBeNoPeriodAreReplaced()
 void testMainModel::NextPeriodAsksForHiddenEntries()
 {
     cScene scene;
-    scene.Model->ToggleView(u"ViewFutureBooking"_s);
+    scene.Model->ToggleView(modSettingKey::ViewFuture);
     scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
     scene.Model->ChoosePeriod(u"Nächstes Jahr"_s);
-    QVERIFY(!scene.Model->IsChecked(u"ViewFutureBooking"_s));
+    QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewFuture));
     QCOMPARE(scene.Model->Entries().rowCount(), 0);
     scene.Model->ChoosePeriod(u"Nächster Monat"_s);
-    QVERIFY(scene.Model->IsChecked(u"ViewFutureBooking"_s));
+    QVERIFY(scene.Model->IsChecked(modSettingKey::ViewFuture));
     QCOMPARE(scene.Model->Entries().rowCount(), 1);
     scene.Model->ChoosePeriod(u"Nächstes Quartal"_s);
     QCOMPARE(scene.Book.User.Asked.size(), 2);
@@ -341,7 +338,7 @@ void testMainModel::BalancesToTodayOrOfThePeriod()
     QCOMPARE(scene.Balances(),
              QStringList({u"Girokonto "_s + Euro(u"100,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
                           u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"400,00"_s)}));
-    scene.Model->ToggleView(u"ViewAccountValueAll"_s);
+    scene.Model->ToggleView(modSettingKey::ViewAllBalances);
     scene.Model->ChoosePeriod(u"Letzter Monat"_s);
     cScene::Settle();
     QCOMPARE(scene.Balances(),
@@ -427,7 +424,7 @@ void testMainModel::CommandsDispatch()
     const QString future = u"Eintrag %1 2026-03-20"_s.arg(scene.Future.ID);
     QCOMPARE(scene.Navigator.Opened, QStringList({u"neu"_s, future, u"103"_s, u"108"_s, u"Kategorien "_s, u"Ende"_s}));
     scene.Model->Execute(modCommand::ViewFix);
-    QVERIFY(!cSettings::ToBool(scene.Book.Settings->Get(u"ViewFixBooking"_s)));
+    QVERIFY(!cSettings::ToBool(scene.Book.Settings->Get(modSettingKey::ViewFix)));
     QVERIFY(!scene.Model->Execute(999));
     QCOMPARE(modCommand::Keys(*modCommand::Find(100)), QStringList({u"Ctrl+N"_s, u"F5"_s})); // F5 does not refresh
 }
@@ -456,7 +453,7 @@ void testMainModel::ReadOnlyBookOffersNoWriting()
     QVERIFY(!scene.Model->IsEnabled(modCommand::NewEntry));
     QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
     scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    scene.Model->ToggleView(u"ViewFixBooking"_s);
+    scene.Model->ToggleView(modSettingKey::ViewFix);
     QCOMPARE(scene.Model->Entries().rowCount(), 1);
     QCOMPARE(scene.Book.User.Shown, QStringList()); // looking around writes nothing and complains about nothing
 }
@@ -469,7 +466,7 @@ void testMainModel::OpenRowsCountForTheirAccount()
     row.ImportDate = QDate(2026, 3, 1);
     row.ImportValue = -5;
     QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-    scene.Book.Settings->Set(u"KTO:4711"_s, u"Sparkonto"_s);
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Sparkonto"_s);
     scene.Model->BookChanged();
     cScene::Settle();
     const cAccountListModel& accounts = scene.Model->AccountList();

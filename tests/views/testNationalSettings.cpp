@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/book/cNationalSettings.h"
 
@@ -14,8 +14,7 @@ constexpr QChar space = u'\u00a0'; // between amount and symbol
 struct cMachine
 {
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cNationalSettings Settings{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+    cNationalSettings Settings{Book.Tools, Book.Configuration, Book.Format};
 };
 
 } // namespace
@@ -51,12 +50,12 @@ private Q_SLOTS:
     void AmountsFollowAtOnce() const
     {
         cMachine machine;
-        QCOMPARE(machine.Format.Cents(100), QString(u"1,00"_s + space + u'€'));
+        QCOMPARE(machine.Book.Format.Cents(100), QString(u"1,00"_s + space + u'€'));
         QSignalSpy changed(&machine.Settings, &cNationalSettings::CultureChanged);
         const cNationalSettings::cFields british{u"de"_s, u"en-GB"_s, {}};
         QVERIFY(machine.Settings.Save(british));
         QCOMPARE(changed.size(), 1);
-        QCOMPARE(machine.Format.Cents(100), u"£1.00"_s);
+        QCOMPARE(machine.Book.Format.Cents(100), u"£1.00"_s);
         QCOMPARE(machine.Settings.Current().Format, british.Format);
         QCOMPARE(machine.Book.User.Shown, QStringList()); // the language is the same
     }
@@ -66,7 +65,7 @@ private Q_SLOTS:
         cMachine machine;
         QCOMPARE(machine.Settings.Current().Language, u"de"_s);
         QVERIFY(machine.Settings.Save({u"en"_s, u"de-DE"_s, {}}));
-        QCOMPARE(machine.Book.Settings->Get(u"LanguageName"_s), u"en"_s);
+        QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageName), u"en"_s);
         QCOMPARE(machine.Book.User.Shown, QStringList(u"Die neue Sprache gilt ab dem nächsten Start des Programms."_s));
     }
 

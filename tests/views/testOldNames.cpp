@@ -1,4 +1,5 @@
 #include "cTemplateScene.h"
+#include "model/modSettingKey.h"
 #include "views/template/cNameKeepers.h"
 
 #include <QSignalSpy>
@@ -32,7 +33,7 @@ public:
                            entry.EntryAccountMove = u"Oma's Konto"_s;
                        })
                        .ID;
-        Book.Settings->Set(u"KTO:1"_s, u"Oma's Konto"_s);
+        Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Oma's Konto"_s);
         cNameKeepers::Watch(Book.Data, *Book.Settings);
         Manager.Refresh();
     }
@@ -108,7 +109,7 @@ void testOldNames::CleansNamesOfOlderBooks()
     QCOMPARE(scene.Manager.Mains().contains(old), !isClean);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Drinks)->EntryAccount, account);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Transfer)->EntryAccountMove, account);
-    QCOMPARE(scene.Book.Settings->Get(u"KTO:1"_s), account);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"1"_s)), account);
     QVERIFY(scene.Book.Data.FindAccount(account));
     QCOMPARE(renamed.size(), account == u"Omas Konto" ? 1 : 0);
     QCOMPARE(scene.Book.User.Shown.size(), 1); // one line, whatever went along

@@ -1,4 +1,5 @@
 #include "core/modPassword.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/book/cPasswordFlow.h"
 
@@ -20,7 +21,7 @@ private Q_SLOTS:
         QVERIFY(!flow.HasPassword());
         QCOMPARE(flow.Set({}, u"eins"_s, u"eins"_s), eResult::Done);
         QVERIFY(flow.HasPassword());
-        QCOMPARE(book.Settings->Get(u"Passwort"_s), modPassword::ToStored(u"eins"_s));
+        QCOMPARE(book.Settings->Get(modSettingKey::Password), modPassword::ToStored(u"eins"_s));
         QCOMPARE(flow.Set(u"eins"_s, u"zwei"_s, u"zwei"_s), eResult::Done);
         QCOMPARE(flow.Remove(u"eins"_s), eResult::WrongPassword);
         QVERIFY(flow.HasPassword());
@@ -57,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(flow.Set(old, password, repeated), result);
         QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
         QCOMPARE(flow.Tries().Left() > 0, result == eResult::WrongPassword);
-        QVERIFY(modPassword::Matches(u"alt"_s, book.Settings->Get(u"Passwort"_s)));
+        QVERIFY(modPassword::Matches(u"alt"_s, book.Settings->Get(modSettingKey::Password)));
     }
 
     // A change that would live until the program ends only must not look like a protected book.

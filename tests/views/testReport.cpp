@@ -1,4 +1,5 @@
 #include "core/modDemo.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "support/testBook.h"
@@ -194,8 +195,7 @@ void testReport::HtmlOfTheDemo()
     book.Clock.Day = QDate(2026, 3, 15);
     QVERIFY(modDemo::Write(book.Data, {book.Clock.Day, 1, 0}));
     book.Settings->ResetViewDefaults();
-    const cTestFormat format;
-    cReportSource source(book.Data, *book.Settings, book.Clock, format.Format);
+    cReportSource source(book.Tools);
     const cReportWish wish = source.Wish(type, account, modWord::FreierZeitraum, range);
     CompareWithFile(source.Html(wish), QString::fromUtf8(QTest::currentDataTag()));
 }
@@ -430,8 +430,7 @@ void testReport::SourceAsksOnce()
 {
     cTestBook book;
     const cEntryItem entry = book.Add([](cEntryItem&) {});
-    const cTestFormat format;
-    cReportSource source(book.Data, *book.Settings, book.Clock, format.Format);
+    cReportSource source(book.Tools);
     cReportWish wish = Wish(eReport::Sum, year2026);
     QCOMPARE(source.Figures(wish).Expense.Amount.Cents, 1000);
     QVERIFY(book.Data.DeleteEntry(entry.ID)); // nobody has told the source
@@ -452,17 +451,16 @@ void testReport::FutureAndStartFollowTheView()
     book.Add([](cEntryItem&) {});
     book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 3, 11); });
     QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, -500, QDate(2026, 1, 1)));
-    const cTestFormat format;
-    cReportSource source(book.Data, *book.Settings, book.Clock, format.Format);
+    cReportSource source(book.Tools);
     const auto expense = [&] {
         const cReportWish wish = source.Wish(eReport::Sum, modWord::AlleKonten, modWord::AktuellesJahr, {});
         return source.Figures(wish).Expense.Amount.Cents;
     };
     book.Settings->ResetViewDefaults();
     QCOMPARE(expense(), 2500);
-    book.Settings->SetBool(u"ViewFutureBooking"_s, false);
+    book.Settings->SetBool(modSettingKey::ViewFuture, false);
     QCOMPARE(expense(), 1500);
-    book.Settings->SetBool(u"ViewStartBooking"_s, false);
+    book.Settings->SetBool(modSettingKey::ViewStart, false);
     QCOMPARE(expense(), 1000);
 }
 
@@ -483,9 +481,8 @@ void testReport::SavedByEnding()
     cTestBook book;
     book.Add([](cEntryItem&) {});
     const QTemporaryDir folder;
-    const cTestFormat format;
-    cReportSource source(book.Data, *book.Settings, book.Clock, format.Format);
-    cReportExport writer(book.User, source, format.Format);
+    cReportSource source(book.Tools);
+    cReportExport writer(book.User, source, book.Format);
     const cReportWish wish = Wish(eReport::Sum, year2026);
     const QList<std::pair<QString, QByteArray>> files{{u"a.html"_s, "<!DOCTYPE html>"},
                                                       {u"b.csv"_s,

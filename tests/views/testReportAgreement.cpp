@@ -111,7 +111,7 @@ void testReportAgreement::Books()
     m_random.seed(static_cast<unsigned>(seed));
     Fill();
     ChooseWish();
-    m_source = std::make_unique<cReportSource>(m_book.Data, *m_book.Settings, m_book.Clock, m_format.Format);
+    m_source = std::make_unique<cReportSource>(m_book.Tools);
     CompareSums(eReport::Sum);
     CompareSums(eReport::Average);
     CompareLimits();

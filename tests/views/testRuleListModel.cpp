@@ -1,5 +1,5 @@
-#include "core/cAmountFormat.h"
 #include "import/propose/cOwnRules.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cRuleListModel.h"
 #include "views/statement/modRuleText.h"
@@ -47,10 +47,6 @@ struct cScene : cTestBook
         }
         return texts;
     }
-
-    cRuleListModel::cParts Parts() { return {Data, *Settings, Format, User}; }
-
-    cAmountFormat Format{Configuration};
 
 private:
     int m_count = 0;
@@ -107,7 +103,7 @@ void testRuleListModel::Problems() const
     QFETCH(const cOwnRule, rule);
     QFETCH(const QString, problem);
     cScene scene;
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     list.SetDraft(rule);
     QCOMPARE(list.Save(), problem.isEmpty());
     QCOMPARE(scene.User.Shown.size(), problem.isEmpty() ? 0 : 1);
@@ -118,7 +114,7 @@ void testRuleListModel::Problems() const
 void testRuleListModel::OffersAMissingCategory() const
 {
     cScene scene;
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     cOwnRule rule = Rule(u"rewe"_s, u"Rohrpost"_s);
     rule.Sign = eRuleSign::In;
     list.SetDraft(rule);
@@ -136,7 +132,7 @@ void testRuleListModel::OffersAMissingCategory() const
 void testRuleListModel::AddsAndChanges() const
 {
     cScene scene;
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     const QSignalSpy changes(&list, &cRuleListModel::RulesChanged);
     QVERIFY(list.IsNew() && !list.IsChanged());
     list.SetDraft(Rule(u"rewe"_s));
@@ -151,14 +147,14 @@ void testRuleListModel::AddsAndChanges() const
     QCOMPARE(list.Place(), 1);
     QCOMPARE(scene.Texts(), QStringList({u"edeka"_s, u"aldi"_s}));
     QCOMPARE(changes.size(), 3);
-    QCOMPARE(cRuleListModel(scene.Parts()).Draft().Text, u"edeka"_s);
+    QCOMPARE(cRuleListModel(scene.Tools).Draft().Text, u"edeka"_s);
 }
 
 void testRuleListModel::Refused() const
 {
     cScene scene;
     scene.Keep({Rule(u"rewe"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     scene.Database.Execute("CREATE TRIGGER stop BEFORE UPDATE ON setting BEGIN SELECT RAISE(ABORT, 'voll'); END");
     list.SetDraft(Rule(u"edeka"_s));
     QVERIFY(!list.Save());
@@ -171,7 +167,7 @@ void testRuleListModel::LeavingAsks() const
 {
     cScene scene;
     scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     QVERIFY(list.Choose(1));
     QVERIFY(scene.User.Asked.isEmpty());
     list.SetDraft(Rule(u"c"_s));
@@ -197,7 +193,7 @@ void testRuleListModel::OrderAndSwitch() const
     scene.Stage(-1, u"REWE"_s);
     scene.Stage(-2, u"REWE Süd"_s);
     scene.Keep({Rule(u"rewe"_s), Rule(u"süd"_s), Rule(u"nord"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     QCOMPARE(Counts(list), QStringList({u"2"_s, u"0"_s, u"0"_s}));
     QVERIFY(!list.CanMove(0, cRuleListModel::eMove::Up) && !list.CanMove(2, cRuleListModel::eMove::Down));
     QVERIFY(list.Move(1, cRuleListModel::eMove::Up));
@@ -214,7 +210,7 @@ void testRuleListModel::DeleteAsks() const
 {
     cScene scene;
     scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     scene.User.Answers = {eAnswer::No, eAnswer::Yes, eAnswer::Yes};
     QVERIFY(!list.Delete(1));
     QVERIFY(scene.User.Asked.constFirst().contains(u"„b“"));
@@ -229,7 +225,7 @@ void testRuleListModel::EachChangeIsUndone() const
 {
     cScene scene;
     scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
     scene.User.Answers = {eAnswer::Yes};
     QVERIFY(list.Delete(0));
@@ -243,13 +239,13 @@ void testRuleListModel::EachChangeIsUndone() const
 void testRuleListModel::Trial() const
 {
     cScene scene;
-    QCOMPARE(cRuleListModel(scene.Parts()).TrialText().section(u',', 0, 0), u"Es sind keine Umsätze eingelesen"_s);
+    QCOMPARE(cRuleListModel(scene.Tools).TrialText().section(u',', 0, 0), u"Es sind keine Umsätze eingelesen"_s);
     for (int i = 0; i < 7; ++i) {
         scene.Stage(-1.5, u"REWE %1"_s.arg(i));
     }
     scene.Stage(9, u"Tann"_s);
     scene.Keep({Rule(u"rewe 6"_s), Rule(u"tann"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     list.StartNew();
     QCOMPARE(list.TrialText(), u"passt auf 0 von 8 Umsätzen"_s);
     QVERIFY(list.Examples().isEmpty());
@@ -265,7 +261,7 @@ void testRuleListModel::FromARow() const
     cScene scene;
     const cImportEntry row = scene.Stage(-1, u"Korn"_s, u"Brot"_s);
     scene.Keep({Rule(u"a"_s), Rule(u"brot"_s), Rule(u"c"_s)});
-    cRuleListModel list(scene.Parts());
+    cRuleListModel list(scene.Tools);
     list.StartFrom(row, u"Haushalt; Getränke"_s, u"Monatlich"_s);
     QCOMPARE(list.Draft().Counterparty, u"Korn"_s);
     QCOMPARE(list.Draft().Sign, eRuleSign::Out);
@@ -280,14 +276,14 @@ void testRuleListModel::FromARow() const
 void testRuleListModel::UnreadableStays() const
 {
     cScene scene;
-    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A\n"_s);
-    cRuleListModel list(scene.Parts());
+    scene.Settings->Set(modSettingKey::OwnRules, u"2;kind=later\n1;text=a;category=A\n"_s);
+    cRuleListModel list(scene.Tools);
     QVERIFY(!list.CanEdit() && !list.Save());
     QVERIFY(!list.Switch(0, true));
     QVERIFY(!list.flags(list.index(0, cRuleListModel::Rule)).testFlag(Qt::ItemIsUserCheckable));
     QCOMPARE(list.index(0, cRuleListModel::Rule).data().toString(), u"nicht lesbar: 2;kind=later"_s);
     QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
-    QCOMPARE(scene.Settings->Get(u"OwnRules"_s), u"1;text=a;category=A\n2;kind=later"_s);
+    QCOMPARE(scene.Settings->Get(modSettingKey::OwnRules), u"1;text=a;category=A\n2;kind=later"_s);
 }
 
 // Rules follow what they name, and come back with it.
@@ -298,7 +294,7 @@ void testRuleListModel::RenamedCategoriesAndAccounts() const
     rule.Account = u"Girokonto"_s;
     const cOwnRule other = Rule(u"x"_s, u"Haushaltshilfe"_s); // begins alike, and is another one
     scene.Keep({rule, other});
-    cTemplateManager manager({scene.Data, *scene.Settings, scene.Format, scene.User, scene.Clock});
+    cTemplateManager manager(scene.Tools);
     QVERIFY(manager.RenameCategory(u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s));
     QVERIFY(manager.RenameCategory(u"Haushalt"_s, u"Daheim"_s));
     QVERIFY(manager.RenameAccount(u"Girokonto"_s, u"Hauptkonto"_s));

@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/list/cSearchModel.h"
 
@@ -74,9 +74,8 @@ struct cScene
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cSearch Search{Book.Data, Format, Book.Clock};
-    cSearchModel Model{{Book.Data, *Book.Settings, Format, Book.Clock}};
+    cSearch Search{Book.Tools};
+    cSearchModel Model{Book.Tools};
     int Series = 0;
     int Later = 0;
 };
@@ -145,9 +144,9 @@ private Q_SLOTS:
         QCOMPARE(scene.Model.Entries().rowCount(), 0); // nothing asked, nothing found
         scene.Model.Search({.Text = u"giro"_s, .Type = modWord::Ausgabe});
         QCOMPARE(scene.Model.CountText(), u"7 Treffer"_s);
-        QCOMPARE(scene.Model.ExpenseText(), scene.Format.Cents(-(1000 + 425 + 8000 + 3 * 3000 + 2500)));
+        QCOMPARE(scene.Model.ExpenseText(), scene.Book.Format.Cents(-(1000 + 425 + 8000 + 3 * 3000 + 2500)));
         scene.Model.Search({.Account = u"Sparkonto"_s});
-        QCOMPARE(scene.Model.IncomeText(), scene.Format.Cents(5000)); // the transfer reaches this account
+        QCOMPARE(scene.Model.IncomeText(), scene.Book.Format.Cents(5000)); // the transfer reaches this account
         scene.Model.Search({.Text = u"gibt es nicht"_s});
         QVERIFY(scene.Model.EmptyHint().startsWith(u"Kein Eintrag passt"));
         scene.Model.Search({.Text = u" "_s});
@@ -190,8 +189,8 @@ private Q_SLOTS:
     void ReadsAmountsAsTheyAreShown()
     {
         cScene scene;
-        QVERIFY(scene.Book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
-        scene.Format.CultureChanged();
+        QVERIFY(scene.Book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
+        scene.Book.Format.CultureChanged();
         cSearchModel::cFields fields{.AmountRule = cSearchModel::eAmountRule::Exactly, .Amount = u"2,500"_s};
         scene.Model.Search(fields);
         QCOMPARE(scene.Model.Entries().rowCount(), 1);

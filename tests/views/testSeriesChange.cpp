@@ -167,7 +167,7 @@ void testSeriesChange::PageIsStoredWithTheEntry()
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 3, 10), 1, u"weg"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 2, u"bleibt"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 3, u"anders"_s));
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = editor.Load(id).value();
     QVERIFY(editor.ShowsCorrections(fields));
     QCOMPARE(modCorrections::Change(2, u"30"_s, u"geändert"_s, fields), modCorrections::eSet::Done);
@@ -191,7 +191,7 @@ void testSeriesChange::FromHereSplitsTheSeries()
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 2, u"dieser"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
     QCOMPARE(fields.Date, QDate(2026, 5, 10));
     QCOMPARE(fields.Corrections.size(), 2);
@@ -236,7 +236,7 @@ void testSeriesChange::FromHereAsksForLostCorrections()
     cSeriesChange change(book.Data, book.User);
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
     fields.Interval = u"Alle 3 Monate"_s;
     book.User.Answers = {static_cast<eAnswer>(answer)};
@@ -258,7 +258,7 @@ void testSeriesChange::FromHereTakesBankRowsAlong()
         row.ImportAssignedEntry = id;
         QVERIFY(book.Data.AddNewImportEntry(row));
     }
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(editor.LoadFrom(id, QDate(2026, 5, 10)).value()), cEntryEditor::eSaved::Saved);
     const cImportEntryList rows = book.Data.GetImportEntries();
     QCOMPARE(rows.at(0).ImportAssignedEntry, id);

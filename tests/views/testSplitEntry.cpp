@@ -67,10 +67,10 @@ private Q_SLOTS:
 void testSplitEntry::StoresPartsAsOrdinaryEntries()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     QCOMPARE(Rows(book), storedPurchase);
-    QCOMPARE(editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00 €"_s}));
+    QCOMPARE(editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00\u00A0€"_s}));
     QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Einkauf' angelegt"_s);
     QVERIFY(book.Data.Journal().Undo());
     QCOMPARE(book.Data.CountEntries(), 0);
@@ -81,7 +81,7 @@ void testSplitEntry::StoresPartsAsOrdinaryEntries()
 void testSplitEntry::AnyPartOpensTheGroup()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     (void)book.Add([](cEntryItem& entry) { entry.EntryFlags = u"split=11"_s; }); // another group
     for (int id = 1; id <= 3; ++id) {
@@ -107,7 +107,7 @@ void testSplitEntry::ChecksParts_data()
         << 1 << QString() << u"13x"_s << int(cEntryEditor::eSaved::BadPart) << u""_s;
     QTest::newRow("category") << 3 << QString() << u"-3"_s << refused << u"Bitte erst eine Kategorie wählen!"_s;
     QTest::newRow("rest") << -1 << u"Haushalt; Pfand"_s << u"-1,50"_s << refused
-                          << u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von -1,50 €."_s;
+                          << u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von -1,50\u00A0€."_s;
 }
 
 void testSplitEntry::ChecksParts()
@@ -118,7 +118,7 @@ void testSplitEntry::ChecksParts()
     QFETCH(int, saved);
     QFETCH(QString, message);
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = Purchase();
     cSplitPart& part = row < 0 ? fields.Parts.last() : fields.Parts[row];
     part.Category = category;
@@ -147,7 +147,7 @@ void testSplitEntry::RestFillsARow()
 void testSplitEntry::RemovedAndAddedParts()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     cEntryFields fields = editor.Load(2).value();
     fields.Parts.removeFirst(); // its ID was the group's name
@@ -163,7 +163,7 @@ void testSplitEntry::RemovedAndAddedParts()
 void testSplitEntry::LastPartIsAnOrdinaryEntryAgain()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     cEntryFields fields = editor.Load(1).value();
     fields.Parts = fields.Parts.mid(1, 1);
@@ -177,7 +177,7 @@ void testSplitEntry::PlainEntryKeepsItsRow()
 {
     cTestBook book;
     const cEntryItem entry = book.Add([](cEntryItem& item) { item.EntryFlags = u"farbe=rot"_s; });
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = editor.Load(entry.ID).value();
     editor.UseSplit(fields);
     QCOMPARE(fields.Parts.size(), 1);
@@ -191,7 +191,7 @@ void testSplitEntry::PlainEntryKeepsItsRow()
 void testSplitEntry::JoiningPartsAsks()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     cEntryFields fields = editor.Load(3).value();
     book.User.Answers = {eAnswer::No, eAnswer::Yes};
@@ -205,7 +205,7 @@ void testSplitEntry::JoiningPartsAsks()
 void testSplitEntry::PartsThatWentApartOpenAlone()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     cEntryItem part = book.Data.LoadEntry(2).value();
     part.EntryAccount = u"Bargeld"_s;
@@ -221,7 +221,7 @@ void testSplitEntry::PartsThatWentApartOpenAlone()
 void testSplitEntry::SeriesOfPartsIsChangedFromADayOn()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = Purchase();
     fields.Interval = u"Monatlich"_s;
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
@@ -246,7 +246,7 @@ void testSplitEntry::CorrectedEntriesAndTransfersStayWhole()
     fixMod.EntryRelation = series.ID;
     fixMod.EntryStartDate = QDate(2026, 4, 1);
     QVERIFY(book.Data.AddNewEntryMod(fixMod));
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     cEntryFields fields = editor.Load(series.ID).value();
     editor.UseSplit(fields);
     QCOMPARE(fields.Face, eEntryFace::Normal);
@@ -260,7 +260,7 @@ void testSplitEntry::CorrectedEntriesAndTransfersStayWhole()
 void testSplitEntry::FailureLeavesNothingHalfStored()
 {
     cTestBook book;
-    cEntryEditor editor(book.Data, book.User, book.Clock);
+    cEntryEditor editor(book.Tools);
     QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
     book.Database.ExecuteScript("CREATE TRIGGER full BEFORE INSERT ON data WHEN NEW.EntryDescription = 'Käse' "
                                 "BEGIN SELECT RAISE(ABORT, 'full'); END");

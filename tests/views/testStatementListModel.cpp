@@ -1,6 +1,6 @@
-#include "core/cAmountFormat.h"
 #include "import/read/cStatementRead.h"
 #include "import/stage/cBankBalances.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cStatementListModel.h"
 
@@ -36,8 +36,8 @@ struct cScene : cTestBook
                 qFatal("row not added");
             }
         }
-        Settings->Set(u"SALDO:"_s + number, balances);
-        Settings->Set(u"KTO:"_s + number, u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankBalances.Of(number), balances);
+        Settings->Set(modSettingKey::BankNumber.Of(number), u"Girokonto"_s);
     }
 
     // An entry of the account; income above zero.
@@ -49,8 +49,6 @@ struct cScene : cTestBook
             entry.EntryValue = std::abs(cents);
         });
     }
-
-    cAmountFormat Format{Configuration};
 };
 
 QString FaultsOf(const cStatementListModel& statement)
@@ -130,7 +128,7 @@ private Q_SLOTS:
         QFETCH(QString, balances);
         QFETCH(QString, words);
         cScene scene(rows, balances);
-        const cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        const cStatementListModel statement(scene.Tools);
         QTEST(Column(statement, cStatementListModel::Balance), "shown");
         QTEST(FaultsOf(statement), "faults");
         const QString findings = statement.Findings().join(u'\n');
@@ -141,7 +139,7 @@ private Q_SLOTS:
     {
         cScene scene(u"0502 -100 A;0502 -2310 B;0503 -1000 C"_s, u"2026-05-01=10000;2026-05-03=6590"_s);
         QVERIFY(scene.Data.DeleteImport(2));
-        const cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        const cStatementListModel statement(scene.Tools);
         QVERIFY(statement.Findings().join(u' ').contains(u"ein eingelesener Umsatz gelöscht"));
         QCOMPARE(statement.Finding(), cStatementListModel::eFinding::Bad);
     }
@@ -165,7 +163,7 @@ private Q_SLOTS:
         for (const QString& entry : entries.split(u';')) {
             scene.Enter(RowOf(entry).ImportDate, entry.mid(5).toInt());
         }
-        const cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        const cStatementListModel statement(scene.Tools);
         QVERIFY2(statement.Findings().last().contains(words), qPrintable(statement.Findings().last()));
     }
 
@@ -177,7 +175,7 @@ private Q_SLOTS:
         row.ImportAssigned = true;
         row.ImportAssignedEntry = entry.ID;
         QVERIFY(scene.Data.ChangeImportEntry(row));
-        cStatementListModel statement({scene.Data, *scene.Settings, scene.Format, scene.Clock});
+        cStatementListModel statement(scene.Tools);
         QCOMPARE(Column(statement, cStatementListModel::State), u"gebucht offen offen offen"_s);
         QCOMPARE(statement.index(0, cStatementListModel::Category).data().toString(), entry.EntryCategory);
         QCOMPARE(statement.EntryOf(0)->first, entry.ID);

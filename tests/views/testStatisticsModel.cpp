@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -39,7 +39,7 @@ struct cScene
             e.EntryCategory = u"Wohnung; Miete"_s;
         });
         Main.RestoreView(false);
-        Main.ToggleView(u"ViewFixBooking"_s); // the user looks at one-off entries only
+        Main.ToggleView(modSettingKey::ViewFix); // the user looks at one-off entries only
         Main.ChooseAccount(u"Girokonto"_s);
         Model.Restore();
         Model.SetShown(true);
@@ -57,11 +57,9 @@ struct cScene
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
-    cMainModel Main{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
-                     Navigator, Book.Path()}};
-    cStatisticsModel Model{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock, Book.Shell, Navigator, Main}};
+    cMainModel Main{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
+    cStatisticsModel Model{Book.Tools, {Book.Shell, Navigator, Main}};
 };
 
 QString Days(const cViewState& view)
@@ -157,14 +155,14 @@ void testStatisticsModel::SelectionsAreNotStored()
 {
     cScene scene;
     scene.Model.FollowLink(u"SHOWENTRIES://Einnahmen|01.01.2026|31.03.2026|Bargeld|Haushalt; "_s);
-    QVERIFY(scene.Main.IsChecked(u"ViewFixBooking"_s));
+    QVERIFY(scene.Main.IsChecked(modSettingKey::ViewFix));
     scene.Main.ChoosePeriod(u"Letzter Monat"_s); // the user looks around from there
     scene.Main.SaveView();
-    QCOMPARE(scene.Book.Settings->Get(u"MainKonto"_s), u"Girokonto"_s);
-    QCOMPARE(scene.Book.Settings->Get(u"MainZeitraum"_s), modWord::AktuellesJahr);
-    QCOMPARE(scene.Book.Settings->Get(u"MainGruppierung"_s), modWord::KeineGruppierung);
-    QVERIFY(!scene.Book.Settings->GetBool(u"ViewFixBooking"_s));
-    scene.Main.ToggleView(u"ViewFutureBooking"_s); // a switch is meant to last
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainAccount), u"Girokonto"_s);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainPeriod), modWord::AktuellesJahr);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainGrouping), modWord::KeineGruppierung);
+    QVERIFY(!scene.Book.Settings->GetBool(modSettingKey::ViewFix));
+    scene.Main.ToggleView(modSettingKey::ViewFuture); // a switch is meant to last
     scene.Main.GoBack();
     QVERIFY(!scene.Main.View().ShowsFuture);
     scene.Model.FollowLink(u"SHOWENTRIES://Einnahmen|01.01.2026|31.03.2026|Bargeld|Haushalt; "_s);
@@ -228,8 +226,7 @@ void testStatisticsModel::SelectorsAreKept()
     scene.Model.SecondChart().ChooseCompare(cStatisticsChart::eCompare::YearBefore);
     scene.Model.SecondChart().ChoosePeriod(u"Letztes Quartal"_s);
 
-    cStatisticsModel again({scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.User, scene.Book.Clock,
-                            scene.Book.Shell, scene.Navigator, scene.Main});
+    cStatisticsModel again(scene.Book.Tools, {scene.Book.Shell, scene.Navigator, scene.Main});
     again.Restore();
     QCOMPARE(again.Wish().Type, eReport::Limit);
     QCOMPARE(again.Wish().Account, u"Bargeld"_s);
@@ -281,11 +278,11 @@ void testStatisticsModel::AccountIsFollowedAsLongAsItIsThere()
 void testStatisticsModel::SwitchesOfTheViewCount()
 {
     cScene scene;
-    scene.Book.Settings->SetBool(u"ViewFutureBooking"_s, false);
+    scene.Book.Settings->SetBool(modSettingKey::ViewFuture, false);
     scene.Model.Restore();
     scene.Model.ChooseReport(eReport::Sum);
     QVERIFY(scene.Model.Html().contains(u"2.100,00"_s)); // three rents up to today
-    scene.Book.Settings->SetBool(u"ViewFutureBooking"_s, true);
+    scene.Book.Settings->SetBool(modSettingKey::ViewFuture, true);
     scene.Model.ViewChanged();
     QVERIFY(scene.Model.Html().contains(u"8.400,00"_s));
 }
@@ -336,7 +333,7 @@ void testStatisticsModel::NextPeriodAsksForTheFuture()
 {
     cScene scene;
     scene.Model.ChooseReport(eReport::Sum);
-    scene.Main.ToggleView(u"ViewFutureBooking"_s);
+    scene.Main.ToggleView(modSettingKey::ViewFuture);
     scene.Model.FirstChart().ChoosePeriod(u"Nächster Monat"_s); // no answer: no
     QCOMPARE(scene.Book.User.Asked.size(), 1);
     QVERIFY(!scene.Main.View().ShowsFuture);
@@ -345,7 +342,7 @@ void testStatisticsModel::NextPeriodAsksForTheFuture()
     QCOMPARE(scene.Book.User.Asked.size(), 1);
     scene.Book.User.Answers = {eAnswer::Yes};
     scene.Model.ChoosePeriod(u"Nächster Monat"_s);
-    QVERIFY(scene.Main.IsChecked(u"ViewFutureBooking"_s));
+    QVERIFY(scene.Main.IsChecked(modSettingKey::ViewFuture));
     QVERIFY(scene.Model.Html().contains(u"700,00"_s));
     scene.Model.ChoosePeriod(u"Nächstes Jahr"_s);
     QCOMPARE(scene.Book.User.Asked.size(), 2);
@@ -354,7 +351,7 @@ void testStatisticsModel::NextPeriodAsksForTheFuture()
 void testStatisticsModel::ForecastLeadsToWhatComes()
 {
     cScene scene;
-    scene.Main.ToggleView(u"ViewFutureBooking"_s);
+    scene.Main.ToggleView(modSettingKey::ViewFuture);
     scene.Model.FirstChart().ChooseKind(eChartKind::Balances);
     cChartTarget target{cChartTarget::eKind::Entries};
     target.Range = {QDate(2026, 4, 1), QDate(2026, 4, 1)};

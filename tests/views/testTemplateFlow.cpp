@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/list/cListLayout.h"
 #include "views/template/cTemplateFlow.h"
@@ -59,7 +60,7 @@ void testTemplateFlow::RenamesAnAccount()
     });
     const cEntryItem lower = book.Add([](cEntryItem& e) { e.EntryAccount = u"bargeld"_s; }); // another account
     book.User.Answers = {static_cast<eAnswer>(answer)};
-    cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, name);
+    cTemplateFlow(book.Tools).RenameAccount(u"Bargeld"_s, name);
 
     QVERIFY(book.Data.FindAccount(account));
     QCOMPARE(book.Data.LoadEntry(out.ID)->EntryAccount, entry);
@@ -82,7 +83,7 @@ void testTemplateFlow::MovesTransfersThatLeadToTheAccount()
     });
     const cEntryItem other = book.Add([](cEntryItem& e) { e.EntryAccount = u"Börse"_s; });
     book.User.Answers = {eAnswer::Yes};
-    QVERIFY(cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"börse"_s, u"Kasse"_s));
+    QVERIFY(cTemplateFlow(book.Tools).RenameAccount(u"börse"_s, u"Kasse"_s));
     QCOMPARE(book.User.Asked.size(), 1);
     QCOMPARE(book.Data.LoadEntry(in.ID)->EntryAccountMove, u"Kasse"_s);
     QCOMPARE(book.Data.LoadEntry(other.ID)->EntryAccount, u"Börse"_s);
@@ -93,16 +94,16 @@ void testTemplateFlow::MovesTransfersThatLeadToTheAccount()
 void testTemplateFlow::BankAccountFollowsTheName()
 {
     cTestBook book;
-    book.Settings->Set(u"KTO:4711"_s, u"Bargeld"_s);
-    book.Settings->Set(u"MainKonto"_s, u"Bargeld"_s);
-    QVERIFY(cTemplateFlow(book.Data, *book.Settings, book.User).RenameAccount(u"Bargeld"_s, u"Kasse"_s));
+    book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Bargeld"_s);
+    book.Settings->Set(modSettingKey::MainAccount, u"Bargeld"_s);
+    QVERIFY(cTemplateFlow(book.Tools).RenameAccount(u"Bargeld"_s, u"Kasse"_s));
     QVERIFY(book.User.Asked.isEmpty()); // no entry refers to the account
-    QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Kasse"_s);
-    QCOMPARE(book.Settings->Get(u"MainKonto"_s), u"Kasse"_s);
+    QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Kasse"_s);
+    QCOMPARE(book.Settings->Get(modSettingKey::MainAccount), u"Kasse"_s);
     QCOMPARE(book.Data.Journal().UndoName(), u"Konto 'Bargeld' umbenannt"_s);
     QVERIFY(book.Data.Journal().Undo());
     book.Settings->Reload();
-    QCOMPARE(book.Settings->Get(u"KTO:4711"_s), u"Bargeld"_s);
+    QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Bargeld"_s);
 }
 
 void testTemplateFlow::RenamesACategoryWithItsEntries()
@@ -111,7 +112,7 @@ void testTemplateFlow::RenamesACategoryWithItsEntries()
     const cEntryItem entry = book.Add([](cEntryItem&) {});
     const std::optional<cTemplateItem> category = book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s);
     QVERIFY(category);
-    cTemplateFlow flow(book.Data, *book.Settings, book.User);
+    cTemplateFlow flow(book.Tools);
     QVERIFY(!flow.RenameCategory(*category, u"Haushalt"_s, u"Getränke"_s)); // exists
     QCOMPARE(book.User.Shown.size(), 1);
     QVERIFY(flow.RenameCategory(*category, u"Haushalt"_s, u"Essen & Trinken"_s));
@@ -124,7 +125,7 @@ void testTemplateFlow::MainCategoryTakesItsPathsAlong()
     const cEntryItem entry = book.Add([](cEntryItem&) {});
     const cEntryItem own = book.Add([](cEntryItem& e) { e.EntryCategory = u"Haushalt"_s; });
     const cEntryItem other = book.Add([](cEntryItem& e) { e.EntryCategory = u"Haushaltsgeld; Mai"_s; });
-    cTemplateFlow flow(book.Data, *book.Settings, book.User);
+    cTemplateFlow flow(book.Tools);
     QVERIFY(flow.RenameMain(u"Haushalt"_s, u"Haus"_s));
     QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haus; Lebensmittel"_s);
     QCOMPARE(book.Data.LoadEntry(own.ID)->EntryCategory, u"Haus"_s);

@@ -1,4 +1,5 @@
 #include "cTemplateScene.h"
+#include "model/modSettingKey.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -60,14 +61,14 @@ void testTemplateManager::ListsWhatTheBookHolds()
 {
     cTemplateScene scene;
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, -5000, QDate(2026, 1, 1)));
-    scene.Book.Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
     QVERIFY(scene.Save(scene.Category(food), [](cTemplateFields& fields) { fields.Amount = u"400,50"_s; }));
     QCOMPARE(scene.Category(food).Cells,
-             (QStringList{u"Lebensmittel"_s, u"Ausgabe"_s, u"Einmalig"_s, scene.Format.Cents(40050), u"3"_s}));
+             (QStringList{u"Lebensmittel"_s, u"Ausgabe"_s, u"Einmalig"_s, scene.Book.Format.Cents(40050), u"3"_s}));
     QCOMPARE(scene.Category(u"Haushalt"_s).Entries, 3);
     QCOMPARE(scene.Category(u"Haushalt"_s).OwnEntries, 0);
     QCOMPARE(scene.Account(u"Girokonto"_s).Cells,
-             (QStringList{u"Girokonto"_s, u"4711"_s, scene.Format.Cents(-5000), u"4"_s}));
+             (QStringList{u"Girokonto"_s, u"4711"_s, scene.Book.Format.Cents(-5000), u"4"_s}));
     QVERIFY(scene.Save(scene.Account(u"Bargeld"_s), [](cTemplateFields& fields) { fields.IsVisible = false; }));
     QCOMPARE(scene.Account(u"Bargeld"_s).Cells.constFirst(), u"Bargeld (geschlossen)"_s);
 }
@@ -195,12 +196,12 @@ void testTemplateManager::MergesMainCategories()
 void testTemplateManager::TakesBackWhatFailsHalfway()
 {
     cTemplateScene scene;
-    scene.Book.Settings->Set(u"KTO:4711"_s, u"Girokonto"_s);
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
     scene.Book.Database.Execute("CREATE TRIGGER t BEFORE DELETE ON template BEGIN SELECT RAISE(ABORT, 'voll'); END");
     scene.Book.User.Answers = {eAnswer::Yes};
     QVERIFY(!scene.Manager.MergeAccount(u"Girokonto"_s, u"Bargeld"_s));
     QCOMPARE(scene.Book.User.Shown, QStringList(u"ERROR: DeleteTemplate\nvoll"_s));
-    QCOMPARE(scene.Book.Settings->Get(u"KTO:4711"_s), u"Girokonto"_s);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Girokonto"_s);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Ids.at(0))->EntryAccount, u"Girokonto"_s);
 }
 
@@ -383,8 +384,8 @@ void testTemplateManager::WritesAccountLimits()
     QVERIFY(save(u"7"_s));
     QVERIFY(!save(u"viel"_s));
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"7,00"_s);
-    QVERIFY(scene.Book.Settings->Set(u"LanguageFormat"_s, u"en-GB"_s));
-    scene.Format.CultureChanged();
+    QVERIFY(scene.Book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
+    scene.Book.Format.CultureChanged();
     QVERIFY(save(u"1,234"_s));
     QCOMPARE(scene.Book.Data.FindAccount(u"Bargeld"_s)->TemplateDefaultValue, u"1234.00"_s);
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Limit, u"1234.00"_s);
@@ -396,33 +397,33 @@ void testTemplateManager::AssignsBankNumbers()
 {
     cTemplateScene scene;
     cSettings& settings = *scene.Book.Settings;
-    settings.Set(u"KTO:1"_s, u"Bargeld"_s);
-    settings.Set(u"KTO:2"_s, u"Sparkonto"_s);
+    settings.Set(modSettingKey::BankNumber.Of(u"1"_s), u"Bargeld"_s);
+    settings.Set(modSettingKey::BankNumber.Of(u"2"_s), u"Sparkonto"_s);
     const auto save = [&](const QString& numbers) {
         return scene.Save(scene.Account(u"Bargeld"_s), [&](cTemplateFields& fields) { fields.Numbers = numbers; });
     };
     scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
     QVERIFY(!save(u"DE12 3456\n2"_s)); // the other account keeps its number
-    QCOMPARE(settings.Get(u"KTO:2"_s), u"Sparkonto"_s);
+    QCOMPARE(settings.Get(modSettingKey::BankNumber.Of(u"2"_s)), u"Sparkonto"_s);
     QVERIFY(save(u"DE12 3456, 2"_s));
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Numbers, u"2\nDE123456"_s);
-    QVERIFY(settings.Get(u"KTO:1"_s).isEmpty());
+    QVERIFY(settings.Get(modSettingKey::BankNumber.Of(u"1"_s)).isEmpty());
     QVERIFY(scene.Book.Data.Journal().Undo());
     settings.Reload();
-    QCOMPARE(settings.Get(u"KTO:1"_s), u"Bargeld"_s);
-    QCOMPARE(settings.Get(u"KTO:2"_s), u"Sparkonto"_s);
+    QCOMPARE(settings.Get(modSettingKey::BankNumber.Of(u"1"_s)), u"Bargeld"_s);
+    QCOMPARE(settings.Get(modSettingKey::BankNumber.Of(u"2"_s)), u"Sparkonto"_s);
 }
 
 void testTemplateManager::DeletesAnAccount()
 {
     cTemplateScene scene;
     QSignalSpy renamed(&scene.Manager, &cTemplateManager::AccountRenamed);
-    scene.Book.Settings->Set(u"KTO:1"_s, u"Girokonto"_s);
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Girokonto"_s);
     scene.Book.User.Decisions = {1};
     QVERIFY(scene.Manager.DeleteAccount(u"Girokonto"_s));
     QVERIFY(scene.Book.User.Asked.constFirst().startsWith(u"Das Konto 'Girokonto' wird von 3 Buchungen verwendet."));
     QCOMPARE(scene.Book.User.LastDecision.Default, -1); // Enter destroys nothing
-    QVERIFY(scene.Book.Settings->Get(u"KTO:1"_s).isEmpty());
+    QVERIFY(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"1"_s)).isEmpty());
     QCOMPARE(renamed.takeFirst(), (QVariantList{u"Girokonto"_s, QString()}));
     QCOMPARE(scene.Account(u"Girokonto"_s).Kind, eTemplateNode::UnknownAccount);
     scene.Book.User.Answers = {eAnswer::Yes};
@@ -439,7 +440,7 @@ void testTemplateManager::MergesAccounts()
     QSignalSpy renamed(&scene.Manager, &cTemplateManager::AccountRenamed);
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, -1000, QDate(2026, 2, 1)));
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 2500, QDate(2026, 1, 1)));
-    scene.Book.Settings->Set(u"KTO:1"_s, u"Girokonto"_s);
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Girokonto"_s);
     const int transfer = scene.Book
                              .Add([](cEntryItem& entry) {
                                  entry.EntryType = modWord::Umbuchung;
@@ -454,7 +455,7 @@ void testTemplateManager::MergesAccounts()
     QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryDate, QDate(2026, 1, 1));
     QCOMPARE(scene.Book.Data.CountEntriesOfCategory(modWord::Startguthaben), 1);
     QCOMPARE(scene.Book.Data.LoadEntry(transfer)->EntryAccountMove, u"Bargeld"_s);
-    QCOMPARE(scene.Book.Settings->Get(u"KTO:1"_s), u"Bargeld"_s);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"1"_s)), u"Bargeld"_s);
     QCOMPARE(renamed.takeFirst(), (QVariantList{u"Girokonto"_s, u"Bargeld"_s}));
 }
 
@@ -500,7 +501,7 @@ void testTemplateManager::KeepsTheLayout()
     scene.Manager.SaveLayout(categories, accounts);
     QCOMPARE(scene.Manager.CategoryLayout(), categories);
     QCOMPARE(scene.Manager.AccountLayout(), accounts);
-    scene.Book.Settings->Set(u"KategorieList"_s, u"Unsinn"_s);
+    scene.Book.Settings->Set(modSettingKey::CategoryList, u"Unsinn"_s);
     QVERIFY(scene.Manager.AccountLayout().Open.isEmpty());
 }
 

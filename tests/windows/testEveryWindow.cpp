@@ -1,6 +1,6 @@
 #include "base/cText.h"
-#include "core/cAmountFormat.h"
 #include "core/cBook.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
@@ -86,7 +86,7 @@ struct cScene
         row.ImportDate = QDate(2026, 3, 12);
         row.ImportPurpose = u"Einkauf"_s;
         row.ImportValue = -12.5;
-        Book.Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Prepare(Book.Data.AddNewImportEntry(row));
         Row = row.ID;
     }
@@ -102,17 +102,14 @@ struct cScene
     cEntryItem Series;
     cEntryItem Part;
     int Row = 0;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
-    cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
-                      Navigator, Book.Path()}};
-    cImportReview Review{{Book.Data, *Book.Settings, Format, Book.User}};
-    cStatisticsModel Statistics{
-        {Book.Data, *Book.Settings, Format, Book.User, Book.Clock, Book.Shell, Navigator, Model}};
-    cEntryEditor Editor{Book.Data, Book.User, Book.Clock, &Format};
+    cMainModel Model{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
+    cImportReview Review{Book.Tools};
+    cStatisticsModel Statistics{Book.Tools, {Book.Shell, Navigator, Model}};
+    cEntryEditor Editor{Book.Tools};
     cSeriesChange Change{Book.Data, Book.User};
-    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
-    cSearchModel SearchModel{{Book.Data, *Book.Settings, Format, Book.Clock}};
+    cTemplateManager Manager{Book.Tools};
+    cSearchModel SearchModel{Book.Tools};
     cPasswordFlow Password{Book.Data, Book.Configuration, Book.User};
     cBook File{Book.User};
     cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
@@ -120,9 +117,9 @@ struct cScene
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
-    cRuleListModel Rules{{Book.Data, *Book.Settings, Format, Book.User}};
-    cBookCheck Check{Book.Data, Format};
-    cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+    cRuleListModel Rules{Book.Tools};
+    cBookCheck Check{Book.Data, Book.Format};
+    cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
 };
 
 using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
@@ -209,14 +206,14 @@ void testEveryWindow::CanBeReadAndOperated_data()
         {"import assistant with a statement", [](cScene& scene) { return MakeAssistant(scene, u"mt940/giro.sta"_s); }},
         {"account statement",
          [](cScene& scene) {
-             scene.Book.Settings->Set(u"SALDO:1234567"_s, u"2026-03-01=10000;2026-03-31=5000"_s);
-             scene.Statement = std::make_unique<cStatementListModel>(
-                 cStatementListModel::cParts{scene.Book.Data, *scene.Book.Settings, scene.Format, scene.Book.Clock});
+             scene.Book.Settings->Set(modSettingKey::BankBalances.Of(u"1234567"_s),
+                                      u"2026-03-01=10000;2026-03-31=5000"_s);
+             scene.Statement = std::make_unique<cStatementListModel>(scene.Book.Tools);
              return std::make_unique<frmKontoauszug>(*scene.Statement);
          }},
         {"one import",
          [](cScene& scene) {
-             scene.Book.Settings->Set(u"ImportRuns"_s, u"%1-%1"_s.arg(scene.Row));
+             scene.Book.Settings->Set(modSettingKey::ImportRuns, u"%1-%1"_s.arg(scene.Row));
              scene.OneImport = scene.Review.StartImportReview();
              return std::make_unique<frmImportReview>(*scene.OneImport);
          }},
@@ -225,7 +222,7 @@ void testEveryWindow::CanBeReadAndOperated_data()
         {"chart",
          [](cScene& scene) {
              auto box = std::make_unique<cChartBox>();
-             cChartMaker maker(scene.Book.Data, scene.Format, scene.Book.Clock.Today());
+             cChartMaker maker(scene.Book.Data, scene.Book.Format, scene.Book.Clock.Today());
              const cChartWish wish{.Kind = eChartKind::ExpensePie, .Group = u"Haushalt"_s};
              box->SetData(maker.Make(wish)); // with the way back to all categories
              return box;

@@ -92,7 +92,7 @@ public:
     }
 
     cTestBook Book;
-    cEntryEditor Editor{Book.Data, Book.User, Book.Clock};
+    cEntryEditor Editor{Book.Tools};
     std::unique_ptr<frmBuchung> Form;
 };
 

@@ -1,5 +1,4 @@
 #include "base/cProgress.h"
-#include "core/cAmountFormat.h"
 #include "support/testBook.h"
 #include "views/statement/cImportReview.h"
 #include "windows/statement/cStagedTree.h"
@@ -57,8 +56,7 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cImportReview Review{{Book.Data, *Book.Settings, Format, Book.User}};
+    cImportReview Review{Book.Tools};
     frmImport Page{Review};
     cStagedTree& Tree = *Page.findChild<cStagedTree*>();
 };

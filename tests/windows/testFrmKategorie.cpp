@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/template/cTemplateTree.h"
@@ -70,8 +70,7 @@ public:
 
     cTestBook Book;
     int Id = 0;
-    cAmountFormat Format{Book.Configuration};
-    cTemplateManager Manager{{Book.Data, *Book.Settings, Format, Book.User, Book.Clock}};
+    cTemplateManager Manager{Book.Tools};
     frmKategorie Window{Manager};
     QTabWidget& Tabs = *Window.findChild<QTabWidget*>();
 };
@@ -205,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.LoadEntry(scene.Id)->EntryAccount, u"Hauskonto"_s);
         QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryValue, 10000);
         QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Hauskonto"_s)->EntryDate, QDate(2026, 1, 1));
-        QCOMPARE(scene.Book.Settings->Get(u"KTO:DE991"_s), u"Hauskonto"_s);
+        QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"DE991"_s)), u"Hauskonto"_s);
         QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Konto 'Girokonto' umbenannt"_s);
     }
 

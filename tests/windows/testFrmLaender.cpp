@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/book/cNationalSettings.h"
@@ -15,8 +15,7 @@ namespace {
 struct cMachine
 {
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cNationalSettings Settings{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+    cNationalSettings Settings{Book.Tools, Book.Configuration, Book.Format};
 };
 
 void Choose(QComboBox& combo, const QString& stored)
@@ -48,22 +47,22 @@ void testFrmLaender::PreviewFollowsTheChoice()
     QCOMPARE(amount->text(), u"€1,234.56"_s);
     Choose(*combos[2], u"en-US"_s);
     QCOMPARE(amount->text(), u"$1,234.56"_s);
-    QVERIFY(machine.Book.Settings->Get(u"LanguageCurrency"_s).isEmpty()); // nothing is stored yet
+    QVERIFY(machine.Book.Settings->Get(modSettingKey::LanguageCurrency).isEmpty()); // nothing is stored yet
     QTest::keyClick(&window, Qt::Key_Return);
     QVERIFY(!window.isVisible());
-    QCOMPARE(machine.Book.Settings->Get(u"LanguageCurrency"_s), u"en-US"_s);
-    QCOMPARE(machine.Book.Settings->Get(u"LanguageFormat"_s), u"en-IE"_s);
+    QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageCurrency), u"en-US"_s);
+    QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageFormat), u"en-IE"_s);
 }
 
 // What another program has stored is not lost when something else is changed.
 void testFrmLaender::UnknownCultureStays()
 {
     cMachine machine;
-    QVERIFY(machine.Book.Settings->Set(u"LanguageFormat"_s, u"fr_FR"_s));
+    QVERIFY(machine.Book.Settings->Set(modSettingKey::LanguageFormat, u"fr_FR"_s));
     frmLaender window(machine.Settings);
     window.show();
     QTest::keyClick(&window, Qt::Key_Return);
-    QCOMPARE(machine.Book.Settings->Get(u"LanguageFormat"_s), u"fr-FR"_s);
+    QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageFormat), u"fr-FR"_s);
 }
 
 QTEST_MAIN(testFrmLaender)

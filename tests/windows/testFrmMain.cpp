@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -48,10 +48,8 @@ public:
     void Select(int row) { Tree().setCurrentIndex(Model.Entries().index(row, 0)); }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
     cFakeNavigator Navigator;
-    cMainModel Model{{Book.Data, *Book.Settings, Book.Configuration, Format, Book.User, Book.Clock, Book.Shell,
-                      Navigator, Book.Path()}};
+    cMainModel Model{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
     frmMain Window{Model};
     cEntryItem First;
     cEntryItem Second;
@@ -174,7 +172,7 @@ void testFrmMain::ColumnLayoutIsKept()
     const QString layout = scene.Tree().LayoutText();
     QVERIFY(layout.startsWith(u"6,90,1|0,80,1|1,70,0|"_s));
     scene.Window.close();
-    QCOMPARE(scene.Book.Settings->Get(u"MainList"_s), layout);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainList), layout);
     scene.Model.ResetView();
     QVERIFY(scene.Tree().LayoutText().startsWith(u"0,"_s));
 }

@@ -59,7 +59,7 @@ void testFrmSicherungen::FolderAndNumber()
     QCOMPARE(windowFaults::All(window), QStringList());
     auto* count = window.findChild<QSpinBox*>();
     auto* copies = window.findChild<QListWidget*>();
-    QCOMPARE(count->value(), cBackupPlan::DefaultCount);
+    QCOMPARE(count->value(), 10);
     QCOMPARE(copies->count(), 1);
     QVERIFY(copies->item(0)->text().startsWith(u"15.03.2026, "_s));
     machine.User.Folder = machine.File.Path(u"neu"_s);

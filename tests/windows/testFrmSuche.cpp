@@ -1,4 +1,4 @@
-#include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/list/cSearchModel.h"
@@ -47,8 +47,7 @@ public:
     }
 
     cTestBook Book;
-    cAmountFormat Format{Book.Configuration};
-    cSearchModel Search{{Book.Data, *Book.Settings, Format, Book.Clock}};
+    cSearchModel Search{Book.Tools};
     frmSuche Window{Search};
     cEntryTree& Tree = *Window.findChild<cEntryTree*>();
     QLineEdit& Text = Labelled<QLineEdit>(u"Suchtext:"_s);
@@ -132,7 +131,7 @@ private Q_SLOTS:
         const QString layout = scene.Tree.LayoutText();
         QTest::keyClick(&scene.Text, Qt::Key_Escape);
         QVERIFY(!scene.Window.isVisible());
-        QCOMPARE(scene.Book.Settings->Get(u"FilterList"_s), layout);
+        QCOMPARE(scene.Book.Settings->Get(modSettingKey::SearchList), layout);
         {
             frmSuche other(scene.Search);
             auto* tree = other.findChild<cEntryTree*>();
@@ -140,7 +139,7 @@ private Q_SLOTS:
             tree->sortByColumn(cEntryListModel::Category, Qt::AscendingOrder);
             other.show(); // and stays open until the program ends
         }
-        QVERIFY(scene.Book.Settings->Get(u"FilterList"_s).contains(u"sort,2,0"));
+        QVERIFY(scene.Book.Settings->Get(modSettingKey::SearchList).contains(u"sort,2,0"));
     }
 
     void everybodyCanUseIt()

@@ -1,4 +1,5 @@
 #include "core/cAmountFormat.h"
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
@@ -29,7 +30,7 @@ struct cScene : cTestBook
 {
     cScene()
     {
-        Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Review.View().SetOpenOnly(false);
         Spend(2310, u"REWE"_s);
         Spend(5000, u"Schuhe"_s);
@@ -96,8 +97,7 @@ struct cScene : cTestBook
         QTest::keyClick(&Tree, key, Qt::ControlModifier);
     }
 
-    cAmountFormat Format{Configuration};
-    cImportReview Review{{Data, *Settings, Format, User}};
+    cImportReview Review{Tools};
     frmImport Page{Review};
     cStagedTree& Tree = *Page.findChild<cStagedTree*>();
     bool HasOpened = false;

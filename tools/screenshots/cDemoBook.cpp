@@ -24,5 +24,6 @@ cDemoBook::cDemoBook(eContent content)
     }
     if (m_isReady) {
         Configuration.SetDatabase(&Book.Settings());
+        m_tools.emplace(cBookTools{Book.Data(), Book.Settings(), Format, User, Clock});
     }
 }

@@ -6,9 +6,12 @@
 #include "base/cClock.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
+#include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 
 #include <QTemporaryDir>
+
+#include <optional>
 
 class cFixedClock final : public cClock
 {
@@ -24,7 +27,8 @@ public:
 
     explicit cDemoBook(eContent content = eContent::Household);
 
-    [[nodiscard]] bool IsReady() const { return m_isReady; } // open and filled
+    [[nodiscard]] bool IsReady() const { return m_isReady; }           // open and filled
+    [[nodiscard]] const cBookTools& Tools() const { return *m_tools; } // of a book that is ready
 
     QTemporaryDir Folder;
     cQtShell Shell{Folder.path()};
@@ -37,4 +41,5 @@ public:
 
 private:
     bool m_isReady = false;
+    std::optional<cBookTools> m_tools;
 };

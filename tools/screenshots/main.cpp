@@ -1,3 +1,5 @@
+#include "model/modSettingKey.h"
+
 // Renders the program's windows with the example household into PNG files, without a screen:
 //   kontorelle-screenshots FOLDER light|dark [POINTS [WIDTH HEIGHT]]
 // POINTS is the type size, WIDTH and HEIGHT are the largest that a window may be. The pictures are named after window
@@ -184,7 +186,7 @@ bool TakeCategories(cCamera& camera)
         || !scene.Book.Data().ChangeEntryCategory(u"Haushalt; Wochenmarkt"_s, u"Haushalt; Getränke"_s)) {
         return false;
     }
-    cTemplateManager manager({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User, scene.Clock});
+    cTemplateManager manager(scene.Tools());
     frmKategorie window(manager);
     window.show();
     (void)window.Select(u"Haushalt; Lebensmittel"_s);
@@ -247,7 +249,7 @@ bool TakeEditor(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    cEntryEditor editor(scene.Book.Data(), scene.User, scene.Clock);
+    cEntryEditor editor(scene.Tools());
     cSeriesChange change(scene.Book.Data(), scene.User);
     const int series = AddCorrectedSeries(editor, change);
     const std::optional<cEntryFields> fields = editor.Load(series);
@@ -312,9 +314,8 @@ bool TakeStatement(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    const cStatementListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.Clock};
     const auto take = [&](const QString& name) {
-        cStatementListModel statement(parts);
+        cStatementListModel statement(scene.Tools());
         frmKontoauszug window(statement);
         window.show();
         camera.Take(window, name);
@@ -326,11 +327,11 @@ bool TakeStatement(cCamera& camera)
     scene.Book.Settings().Reload(); // the household was written past them
     take(u"kontoauszug-ohne-saldo"_s);
     const cImportEntry newest = scene.Book.Data().GetImportEntries().last();
-    const QString name = u"SALDO:"_s + newest.ImportAccount;
     const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
-    scene.Book.Settings().Set(name, u"2026-10-31=150000;2026-11-10=140000;"_s + last);
+    scene.Book.Settings().Set(modSettingKey::BankBalances.Of(newest.ImportAccount),
+                              u"2026-10-31=150000;2026-11-10=140000;"_s + last);
     take(u"kontoauszug"_s);
-    cStatementListModel statement(parts);
+    cStatementListModel statement(scene.Tools());
     cListPrinter printer(statement);
     TakePages(camera, printer, u"druck-kontoauszug"_s);
     return true;
@@ -343,9 +344,8 @@ bool TakeRules(cCamera& camera)
     if (!scene.IsReady()) {
         return false;
     }
-    const cRuleListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User};
     const auto take = [&](const QString& name, const cImportEntry* row) {
-        cRuleListModel rules(parts);
+        cRuleListModel rules(scene.Tools());
         if (row != nullptr) {
             rules.StartFrom(*row, u"Haushalt; Lebensmittel"_s);
         }
@@ -354,7 +354,7 @@ bool TakeRules(cCamera& camera)
         camera.Take(window, name);
     };
     take(u"regeln-leer"_s, nullptr);
-    scene.Book.Settings().Set(u"OwnRules"_s,
+    scene.Book.Settings().Set(modSettingKey::OwnRules,
                               u"1;sign=out;text=bäcker|konditorei;category=Haushalt%3b Lebensmittel\n"
                               "1;counterparty=Hausverwaltung Lindenhof;account=Girokonto;category=Wohnung%3b Miete;"
                               "interval=Monatlich;description=Miete Lindenhof\n"
@@ -463,7 +463,7 @@ bool TakeCharts(cCamera& camera)
         {.Kind = eChartKind::ExpensePie, .Range = {sceneDay.addYears(30), sceneDay.addYears(31)}, .ShowsFuture = false},
         u"leer"_s);
     cAccountListModel accounts(scene.Format);
-    cLimitWatch watch(scene.Book.Data(), scene.Format, scene.Clock, accounts);
+    cLimitWatch watch(scene.Tools(), accounts);
     accounts.SetAccounts(scene.Book.Data().GetAccounts(), {{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
     watch.Look();
     cAccountPanel panel(accounts);

@@ -34,7 +34,7 @@ bool TakeAssistant(cCamera& camera)
         return false;
     }
     file.close();
-    cImportReview review({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User});
+    cImportReview review(scene.Tools());
     const auto assistant = review.Files().StartAssistant(file.fileName());
     if (!assistant) {
         return false;

@@ -8,6 +8,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/modDemo.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
@@ -38,8 +39,8 @@ bool TakeReview(cCamera& camera)
     if (!scene.Book.Data().AddNewImportEntry(twin)) {
         return false;
     }
-    scene.Book.Settings().Set(u"ImportRuns"_s, u"%1-%2"_s.arg(twin.ID - 20).arg(twin.ID));
-    cImportReview review({scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User});
+    scene.Book.Settings().Set(modSettingKey::ImportRuns, u"%1-%2"_s.arg(twin.ID - 20).arg(twin.ID));
+    cImportReview review(scene.Tools());
     frmImport page(review);
     page.resize(1280, 700);
     page.show();

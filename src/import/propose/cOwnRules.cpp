@@ -3,6 +3,7 @@
 #include "core/cSettings.h"
 #include "import/propose/modOwnRule.h"
 #include "model/cTemplateItem.h"
+#include "model/modSettingKey.h"
 
 #include <QStringList>
 
@@ -12,14 +13,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString settingName = u"OwnRules"_s;
-
 } // namespace
 
 QList<cOwnRule> cOwnRules::Load() const
 {
     QList<cOwnRule> rules;
-    const QStringList lines = m_settings.Get(settingName).split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = m_settings.Get(modSettingKey::OwnRules).split(u'\n', Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         rules.append(modOwnRule::FromLine(line));
     }
@@ -32,7 +31,7 @@ bool cOwnRules::Save(const QList<cOwnRule>& rules)
     for (const cOwnRule& rule : rules) {
         lines.append(modOwnRule::ToLine(rule));
     }
-    return m_settings.Set(settingName, lines.join(u'\n'));
+    return m_settings.Set(modSettingKey::OwnRules, lines.join(u'\n'));
 }
 
 template <typename tChange>

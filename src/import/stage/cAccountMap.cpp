@@ -4,6 +4,7 @@
 #include "base/cUser.h"
 #include "core/cSettings.h"
 #include "import/read/modAccountNumber.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
@@ -12,8 +13,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const QString settingPrefix = u"KTO:"_s;
 
 QStringList VisibleNames(const cTemplateItemList& accounts)
 {
@@ -47,26 +46,15 @@ bool cAccountMap::Exists(const QString& account) const
 
 QString cAccountMap::AccountOf(const QString& number) const
 {
-    const QString account = m_settings.Get(SettingName(number));
+    const QString account = m_settings.Get(modSettingKey::BankNumber.Of(number));
     return Exists(account) ? account : QString();
-}
-
-QString cAccountMap::SettingName(const QString& number)
-{
-    return settingPrefix + number;
-}
-
-QString cAccountMap::NumberOf(const QString& settingName)
-{
-    return settingName.startsWith(settingPrefix, Qt::CaseInsensitive) ? settingName.mid(settingPrefix.size())
-                                                                      : QString();
 }
 
 QList<std::pair<QString, QString>> cAccountMap::Mapping() const
 {
     QList<std::pair<QString, QString>> mapping;
     for (const auto& [name, account] : m_data.GetSettings()) {
-        const QString number = NumberOf(name);
+        const QString number = modSettingKey::BankNumber.PartOf(name);
         if (!number.isEmpty() && Exists(account)) {
             mapping.append({number, account});
         }
@@ -145,7 +133,7 @@ bool cAccountMap::Assign(const QString& number, const QString& account)
             return false;
         }
     }
-    return m_settings.Set(SettingName(number), name);
+    return m_settings.Set(modSettingKey::BankNumber.Of(number), name);
 }
 
 QString cAccountMap::Ask(const QString& number, cUser& user)
@@ -173,7 +161,7 @@ QStringList cAccountMap::Unknown(const QStringList& numbers) const
 
 std::optional<cTemplateItem> cAccountMap::getAssignedAccount(const cImportEntry& row) const
 {
-    const QString account = m_settings.Get(SettingName(row.ImportAccount));
+    const QString account = m_settings.Get(modSettingKey::BankNumber.Of(row.ImportAccount));
     return account.isEmpty() ? std::nullopt : m_data.FindAccount(account);
 }
 

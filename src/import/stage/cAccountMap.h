@@ -21,10 +21,6 @@ class cAccountMap
 public:
     cAccountMap(cDataAccess& data, cSettings& settings);
 
-    // The setting that holds the account of a number, and the other way round; empty for a setting of another kind.
-    [[nodiscard]] static QString SettingName(const QString& number);
-    [[nodiscard]] static QString NumberOf(const QString& settingName);
-
     // Name of the account; empty when the number was never assigned or its account is gone. Never asks.
     [[nodiscard]] QString AccountOf(const QString& number) const;
 

@@ -3,6 +3,7 @@
 #include "base/modDate.h"
 #include "core/cSettings.h"
 #include "import/read/cStatementRead.h"
+#include "model/modSettingKey.h"
 
 #include <QMap>
 #include <QStringList>
@@ -14,12 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// One setting for an account: "2026-05-31=21270;2026-06-30=-500".
-QString SettingName(const QString& account)
-{
-    return u"SALDO:"_s + account;
-}
-
+// The setting of an account: "2026-05-31=21270;2026-06-30=-500".
 std::optional<cBankBalance> FromText(const QString& text)
 {
     const QStringList parts = text.split(u'=');
@@ -50,7 +46,7 @@ QDate NewestDay(const cImportEntryList& entries, const QString& account)
 cBankBalanceList cBankBalances::Of(const QString& account) const
 {
     cBankBalanceList balances;
-    const QStringList texts = m_settings.Get(SettingName(account)).split(u';', Qt::SkipEmptyParts);
+    const QStringList texts = m_settings.Get(modSettingKey::BankBalances.Of(account)).split(u';', Qt::SkipEmptyParts);
     for (const QString& text : texts) {
         if (const std::optional<cBankBalance> balance = FromText(text)) {
             balances.append(*balance);
@@ -92,5 +88,5 @@ bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances
     }
     QStringList texts;
     std::transform(known.begin(), known.end(), std::back_inserter(texts), ToText);
-    return m_settings.Set(SettingName(account), texts.join(u';'));
+    return m_settings.Set(modSettingKey::BankBalances.Of(account), texts.join(u';'));
 }

@@ -3,18 +3,13 @@
 #include "base/modMD5.h"
 #include "core/cSettings.h"
 #include "import/table/modTableProfile.h"
+#include "model/modSettingKey.h"
 
 #include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const QString mapPrefix = u"MAP:"_s;
-// Not under "KTO:", where the name of a setting is a number of an account; a key never begins like this.
-const QString accountPrefix = u"MAP:KTO:"_s;
-const QString bankCodePrefix = u"BLZ:"_s;
-const QString charsetPrefix = u"MAP:ZS:"_s;
 
 // The numbers of a map in the order in which they are stored. New ones go to the end.
 QList<int*> Places(cColumnMap& map)
@@ -41,12 +36,12 @@ QString cTableMemory::KeyOf(const QStringList& header)
 
 bool cTableMemory::HasMap(const QString& key) const
 {
-    return !key.isEmpty() && !m_settings.Get(mapPrefix + key).isEmpty();
+    return !key.isEmpty() && !m_settings.Get(modSettingKey::TableMap.Of(key)).isEmpty();
 }
 
 bool cTableMemory::LoadMap(const QString& key, cTableLayout& layout) const
 {
-    const QStringList values = m_settings.Get(mapPrefix + key).split(u';');
+    const QStringList values = m_settings.Get(modSettingKey::TableMap.Of(key)).split(u';');
     cColumnMap map;
     const QList<int*> places = Places(map);
     constexpr qsizetype rules = 5; // column count, number, date, sign, details
@@ -87,24 +82,27 @@ bool cTableMemory::SaveMap(const QString& key, const cTableLayout& layout)
     if (!layout.Profile.isEmpty()) {
         values.append(layout.Profile);
     }
-    return m_settings.Set(mapPrefix + key, values.join(u';'));
+    return m_settings.Set(modSettingKey::TableMap.Of(key), values.join(u';'));
 }
 
 eCharset cTableMemory::Charset(const QString& key) const
 {
     constexpr int charsets = 6;
-    return key.isEmpty() ? eCharset::Detect : Checked<eCharset>(m_settings.Get(charsetPrefix + key).toInt(), charsets);
+    return key.isEmpty() ? eCharset::Detect
+                         : Checked<eCharset>(m_settings.Get(modSettingKey::TableCharset.Of(key)).toInt(), charsets);
 }
 
 bool cTableMemory::SaveCharset(const QString& key, eCharset charset)
 {
-    return !key.isEmpty() && m_settings.Set(charsetPrefix + key, QString::number(static_cast<int>(charset)));
+    return !key.isEmpty()
+        && m_settings.Set(modSettingKey::TableCharset.Of(key), QString::number(static_cast<int>(charset)));
 }
 
 QStringList cTableMemory::Accounts(const QString& accountKey) const
 {
-    return accountKey.isEmpty() ? QStringList()
-                                : m_settings.Get(accountPrefix + accountKey).split(u'|', Qt::SkipEmptyParts);
+    return accountKey.isEmpty()
+        ? QStringList()
+        : m_settings.Get(modSettingKey::TableAccounts.Of(accountKey)).split(u'|', Qt::SkipEmptyParts);
 }
 
 QString cTableMemory::Account(const QString& accountKey) const
@@ -123,15 +121,15 @@ bool cTableMemory::SaveAccount(const QString& accountKey, const QString& account
         return true;
     }
     accounts.append(account);
-    return m_settings.Set(accountPrefix + accountKey, accounts.join(u'|'));
+    return m_settings.Set(modSettingKey::TableAccounts.Of(accountKey), accounts.join(u'|'));
 }
 
 QString cTableMemory::BankCode(const QString& accountKey) const
 {
-    return accountKey.isEmpty() ? QString() : m_settings.Get(bankCodePrefix + accountKey);
+    return accountKey.isEmpty() ? QString() : m_settings.Get(modSettingKey::TableBankCode.Of(accountKey));
 }
 
 bool cTableMemory::SaveBankCode(const QString& accountKey, const QString& bankCode)
 {
-    return !accountKey.isEmpty() && m_settings.Set(bankCodePrefix + accountKey, bankCode);
+    return !accountKey.isEmpty() && m_settings.Set(modSettingKey::TableBankCode.Of(accountKey), bankCode);
 }

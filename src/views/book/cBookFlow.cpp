@@ -10,6 +10,7 @@
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "views/book/cBookHost.h"
@@ -157,7 +158,8 @@ void cBookFlow::MakeBackup()
                           cText::Tr("Die Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
         return;
     }
-    m_parts.Configuration.SaveSetting(u"LastBackupFolder"_s, QFileInfo(target).absolutePath(), eSettingPlace::Registry);
+    m_parts.Configuration.SaveSetting(modSettingKey::LastBackupFolder, QFileInfo(target).absolutePath(),
+                                      eSettingPlace::Registry);
     m_parts.User.Show(eTone::Information,
                       cText::Tr("Die Datensicherung '{0}' wurde erstellt und geprüft. Sie enthält:\n{1}.",
                                 {Shown(target), modBookFile::Describe(modBookFile::Look(target))}));
@@ -208,7 +210,7 @@ bool cBookFlow::IsWanted(const QString& backup) const
 
 QStringList cBookFlow::Books() const
 {
-    QStringList books = m_parts.Configuration.GetSetting(u"DatabaseList"_s).split(u'|', Qt::SkipEmptyParts);
+    QStringList books = m_parts.Configuration.GetSetting(modSettingKey::DatabaseList).split(u'|', Qt::SkipEmptyParts);
     books.removeIf([&](const QString& book) { return IsOpenBook(book) || !m_parts.Shell.FileExists(book); });
     return books;
 }
@@ -218,11 +220,12 @@ QStringList cBookFlow::Books() const
 void cBookFlow::Remember(const QString& former, const QString& current) const
 {
     QStringList books{current, former};
-    books += m_parts.Configuration.GetSetting(u"DatabaseList"_s).split(u'|', Qt::SkipEmptyParts);
+    books += m_parts.Configuration.GetSetting(modSettingKey::DatabaseList).split(u'|', Qt::SkipEmptyParts);
     // The list has no way to write a name that contains its own separator.
     books.removeIf([](const QString& book) { return book.contains(u'|'); });
     books.removeDuplicates();
-    m_parts.Configuration.SaveSetting(u"DatabaseList"_s, books.mid(0, MostBooks).join(u'|'), eSettingPlace::Registry);
+    m_parts.Configuration.SaveSetting(modSettingKey::DatabaseList, books.mid(0, MostBooks).join(u'|'),
+                                      eSettingPlace::Registry);
 }
 
 bool cBookFlow::IsOpenBook(const QString& path) const
@@ -233,7 +236,7 @@ bool cBookFlow::IsOpenBook(const QString& path) const
 // The folder of the last backup, else that of the book.
 QString cBookFlow::LastFolder() const
 {
-    const QString folder = m_parts.Configuration.GetSetting(u"LastBackupFolder"_s);
+    const QString folder = m_parts.Configuration.GetSetting(modSettingKey::LastBackupFolder);
     return !folder.isEmpty() && QDir(folder).exists() ? folder : QFileInfo(m_parts.Book.Path()).absolutePath();
 }
 
@@ -241,6 +244,6 @@ QString cBookFlow::LastFolder() const
 QString cBookFlow::BackupFolder() const
 {
     const cBackupPlan plan({m_parts.Shell, m_parts.User, m_parts.Clock}, m_parts.Book, m_parts.Configuration);
-    const bool hasOwn = !m_parts.Configuration.GetSetting(u"LastBackupFolder"_s).isEmpty();
+    const bool hasOwn = !m_parts.Configuration.GetSetting(modSettingKey::LastBackupFolder).isEmpty();
     return !hasOwn && !plan.Copies().isEmpty() ? plan.Folder() : LastFolder();
 }

@@ -5,7 +5,9 @@
 #include "base/cUser.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,7 +24,12 @@ QString Culture(const QString& stored, const QString& missing)
 
 } // namespace
 
-cNationalSettings::cNationalSettings(const cParts& parts, QObject* parent) : QObject(parent), m_parts(parts)
+cNationalSettings::cNationalSettings(const cBookTools& tools, cConfiguration& configuration, cAmountFormat& format,
+                                     QObject* parent)
+    : QObject(parent),
+      m_tools(tools),
+      m_configuration(configuration),
+      m_format(format)
 {
 }
 
@@ -50,33 +57,32 @@ QList<cNationalSettings::cOption> cNationalSettings::Currencies()
 
 cNationalSettings::cFields cNationalSettings::Current() const
 {
-    const cConfiguration& configuration = m_parts.Configuration;
-    const QString language = configuration.GetSetting(u"LanguageName"_s);
-    return {language.isEmpty() ? u"de"_s : language, Culture(configuration.GetSetting(u"LanguageFormat"_s), u"de-DE"_s),
-            Culture(configuration.GetSetting(u"LanguageCurrency"_s), {})};
+    const QString language = m_configuration.GetSetting(modSettingKey::LanguageName);
+    return {language.isEmpty() ? modSettingKey::LanguageName.Default() : language,
+            Culture(m_configuration.GetSetting(modSettingKey::LanguageFormat), modSettingKey::LanguageFormat.Default()),
+            Culture(m_configuration.GetSetting(modSettingKey::LanguageCurrency), {})};
 }
 
 cNationalSettings::cPreview cNationalSettings::Preview(const cFields& fields) const
 {
     const QString culture = fields.Currency.isEmpty() ? fields.Format : fields.Currency;
     return {cAmountFormat::Sample(culture, sampleCents), cAmountFormat::Sample(culture, -sampleCents),
-            modDate::ToGerman(m_parts.Clock.Today())};
+            modDate::ToGerman(m_tools.Clock.Today())};
 }
 
 bool cNationalSettings::Save(const cFields& fields)
 {
     const cFields before = Current();
-    cConfiguration& configuration = m_parts.Configuration;
-    const bool isStored = !m_parts.Data.IsReadOnly()
-        && configuration.SaveSetting(u"LanguageName"_s, fields.Language, eSettingPlace::Database)
-        && configuration.SaveSetting(u"LanguageFormat"_s, fields.Format, eSettingPlace::Database)
-        && configuration.SaveSetting(u"LanguageCurrency"_s, fields.Currency, eSettingPlace::Database);
-    m_parts.Format.CultureChanged();
+    const bool isStored = !m_tools.Data.IsReadOnly()
+        && m_configuration.SaveSetting(modSettingKey::LanguageName, fields.Language, eSettingPlace::Database)
+        && m_configuration.SaveSetting(modSettingKey::LanguageFormat, fields.Format, eSettingPlace::Database)
+        && m_configuration.SaveSetting(modSettingKey::LanguageCurrency, fields.Currency, eSettingPlace::Database);
+    m_format.CultureChanged();
     Q_EMIT CultureChanged();
     if (!isStored) {
-        m_parts.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
+        m_tools.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
     } else if (fields.Language != before.Language) {
-        m_parts.User.Show(eTone::Information, cText::Tr("Die neue Sprache gilt ab dem nächsten Start des Programms."));
+        m_tools.User.Show(eTone::Information, cText::Tr("Die neue Sprache gilt ab dem nächsten Start des Programms."));
     }
     return isStored;
 }

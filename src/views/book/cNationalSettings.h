@@ -5,10 +5,8 @@
 #include <QString>
 
 class cAmountFormat;
-class cClock;
 class cConfiguration;
-class cDataAccess;
-class cUser;
+struct cBookTools;
 
 // The language of the program and the form of its numbers and amounts, as they can be chosen.
 class cNationalSettings final : public QObject
@@ -16,15 +14,6 @@ class cNationalSettings final : public QObject
     Q_OBJECT
 
 public:
-    struct cParts
-    {
-        cDataAccess& Data;
-        cConfiguration& Configuration;
-        cAmountFormat& Format;
-        cUser& User;
-        const cClock& Clock;
-    };
-
     // One item of a list: what is stored and what is shown.
     struct cOption
     {
@@ -48,7 +37,9 @@ public:
         QString Date;
     };
 
-    explicit cNationalSettings(const cParts& parts, QObject* parent = nullptr);
+    // `format` is that of the tools, to be told of another culture.
+    cNationalSettings(const cBookTools& tools, cConfiguration& configuration, cAmountFormat& format,
+                      QObject* parent = nullptr);
 
     [[nodiscard]] static QList<cOption> Languages();
     [[nodiscard]] static QList<cOption> Formats();
@@ -66,5 +57,7 @@ Q_SIGNALS:
     void CultureChanged(); // amounts on the screen are old
 
 private:
-    cParts m_parts;
+    const cBookTools& m_tools;
+    cConfiguration& m_configuration;
+    cAmountFormat& m_format;
 };

@@ -4,6 +4,7 @@
 #include "base/cUser.h"
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -47,7 +48,7 @@ cPasswordFlow::eResult cPasswordFlow::Remove(const QString& old)
 
 bool cPasswordFlow::Matches(const QString& old)
 {
-    const bool isRight = modPassword::Matches(old, m_configuration.GetSetting(u"Passwort"_s));
+    const bool isRight = modPassword::Matches(old, m_configuration.GetSetting(modSettingKey::Password));
     if (isRight) {
         m_tries.NoteRight();
     } else {

@@ -1,8 +1,11 @@
 #include "views/entry/cEntryCheck.h"
 
+#include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modSum.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "views/entry/cEntrySuggestions.h"
@@ -50,7 +53,7 @@ bool cEntryCheck::CheckChoices(cEntryFields& fields)
         return false;
     }
     if (!HasCategory(fields)) {
-        return Refuse(cEntrySuggestions::VisibleCategories(m_parts.Data).isEmpty()
+        return Refuse(cEntrySuggestions::VisibleCategories(m_tools.Data).isEmpty()
                           ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
                           : cText::Tr("Bitte erst eine Kategorie wählen!"));
     }
@@ -65,7 +68,7 @@ bool cEntryCheck::OfferNew(cEntryFields& fields)
 {
     const auto take = [&](QString& path, QString& typed) {
         if (path.isEmpty() && !typed.isEmpty()) {
-            path = m_parts.Suggestions.OfferNew(typed, fields.Type);
+            path = m_suggestions.OfferNew(typed, fields.Type);
             typed = path.isEmpty() ? typed : QString();
         }
         return typed.isEmpty();
@@ -101,7 +104,7 @@ bool cEntryCheck::HasCategory(const cEntryFields& fields)
 bool cEntryCheck::CheckAccount(const cEntryFields& fields) const
 {
     return !fields.Account.isEmpty()
-        || Refuse(cEntrySuggestions::VisibleAccounts(m_parts.Data).isEmpty()
+        || Refuse(cEntrySuggestions::VisibleAccounts(m_tools.Data).isEmpty()
                       ? cText::Tr("Bitte erst neue Konten anlegen und diese Buchung einordnen!")
                       : cText::Tr("Bitte erst ein Konto wählen!"));
 }
@@ -114,20 +117,21 @@ bool cEntryCheck::CheckParts(const cEntryFields& fields) const
     const qint64 rest = modSplitParts::Rest(fields).value_or(0);
     return rest == 0
         || Refuse(cText::Tr("Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von {0}.",
-                            {modEntryFields::Money(rest, m_format)}));
+                            {m_tools.Format.Cents(rest)}));
 }
 
 eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
 {
-    if (!modEntryFields::FirstDay(fields, m_today).isValid() && !modEntryFields::KeepsDay(fields)) {
+    if (!modEntryFields::FirstDay(fields, m_tools.Clock.Today()).isValid() && !modEntryFields::KeepsDay(fields)) {
         return eEntrySaved::BadDate;
     }
     const bool isSeries = fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);
-    return isSeries && !modEntryFields::LastDay(fields, m_today).isValid() ? eEntrySaved::BadEnd : eEntrySaved::Saved;
+    return isSeries && !modEntryFields::LastDay(fields, m_tools.Clock.Today()).isValid() ? eEntrySaved::BadEnd
+                                                                                         : eEntrySaved::Saved;
 }
 
 bool cEntryCheck::Refuse(const QString& text) const
 {
-    m_parts.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Exclamation, text);
     return false;
 }

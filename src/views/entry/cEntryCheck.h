@@ -2,32 +2,17 @@
 
 #include "views/entry/cEntryFields.h"
 
-#include <QDate>
 #include <QString>
 
-class cAmountFormat;
-class cDataAccess;
 class cEntrySuggestions;
-class cUser;
+struct cBookTools;
 
 // The checks before an entry is stored, in the order in which the user is told.
 class cEntryCheck
 {
 public:
-    // What the check works with; all of it outlives the check.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cUser& User;
-        cEntrySuggestions& Suggestions;
-    };
-
-    cEntryCheck(const cParts& parts, const cAmountFormat* format, QDate today)
-        : m_parts(parts),
-          m_format(format),
-          m_today(today)
-    {
-    }
+    // Both outlive the check.
+    cEntryCheck(const cBookTools& tools, cEntrySuggestions& suggestions) : m_tools(tools), m_suggestions(suggestions) {}
 
     // Saved when nothing is wrong; the message of a refusal has been shown. A typed text that names no category is
     // offered to become one, and the fields then have its path.
@@ -46,8 +31,7 @@ private:
     [[nodiscard]] eEntrySaved CheckDays(const cEntryFields& fields) const;
     [[nodiscard]] bool Refuse(const QString& text) const;
 
-    cParts m_parts;
-    const cAmountFormat* m_format;
-    QDate m_today;
+    const cBookTools& m_tools;
+    cEntrySuggestions& m_suggestions;
     int m_failedPart = -1;
 };

@@ -4,6 +4,7 @@
 #include "base/cUser.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -117,19 +118,19 @@ bool cEntryDelete::Delete(const cEntryListModel::cKey& occurrence, eSeriesPart p
 
 int cEntryDelete::CountParts(int id) const
 {
-    const std::optional<cEntryItem> entry = m_data.LoadEntry(id);
-    return entry ? static_cast<int>(cSplitGroup(m_data).Parts(*entry).size()) : 0;
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(id);
+    return entry ? static_cast<int>(cSplitGroup(m_tools.Data).Parts(*entry).size()) : 0;
 }
 
 cDeleteTargetList cEntryDelete::Targets(const QList<cEntryListModel::cKey>& selection) const
 {
     cDeleteTargetList targets;
-    cSeriesChange series(m_data, m_user);
+    cSeriesChange series(m_tools.Data, m_tools.User);
     for (const cEntryListModel::cKey& key : selection) {
         auto target = std::find_if(targets.begin(), targets.end(),
                                    [&](const cDeleteTarget& other) { return other.Entry.ID == key.ID; });
         if (target == targets.end()) {
-            const std::optional<cEntryItem> entry = m_data.LoadEntry(key.ID);
+            const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(key.ID);
             if (!entry) {
                 continue;
             }
@@ -156,7 +157,7 @@ cDeleteTargetList cEntryDelete::OtherParts(const cDeleteTargetList& targets) con
             continue;
         }
         groups.append(group);
-        const cEntryItemList parts = cSplitGroup(m_data).Parts(target.Entry);
+        const cEntryItemList parts = cSplitGroup(m_tools.Data).Parts(target.Entry);
         for (const cEntryItem& part : parts) {
             if (std::none_of(targets.begin(), targets.end(),
                              [&](const cDeleteTarget& other) { return other.Entry.ID == part.ID; })) {
@@ -172,7 +173,7 @@ bool cEntryDelete::Run(cDeleteTargetList targets, eSeriesPart part)
     const cDeleteTargetList others = OtherParts(targets);
     const QString question = Question(targets, part);
     const bool isWanted = others.isEmpty()
-        ? m_user.Ask({.Text = question, .Title = cText::Tr("Eintrag löschen")}) == eAnswer::Yes
+        ? m_tools.User.Ask({.Text = question, .Title = cText::Tr("Eintrag löschen")}) == eAnswer::Yes
         : AskParts(targets, others, question);
     return isWanted && Remove(targets, part);
 }
@@ -196,10 +197,10 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
 
 QString cEntryDelete::LostCorrection(int id, QDate day) const
 {
-    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_data, m_user).Correction(id, day);
-    return correction && correction->EntryValue != 0
-        ? u'\n' + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_format.Cents(correction->EntryValue)})
-        : QString();
+    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools.Data, m_tools.User).Correction(id, day);
+    return correction && correction->EntryValue != 0 ? u'\n'
+            + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_tools.Format.Cents(correction->EntryValue)})
+                                                     : QString();
 }
 
 QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
@@ -207,9 +208,9 @@ QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
     const cEntryItem& first = targets.first().Entry;
     const QString day = first.EntryDate.isValid() ? modDate::ToGerman(first.EntryDate) : cText::Tr("(kein Tag)");
     QString text = targets.size() == 1
-        ? cText::Tr(
-            "Möchten Sie den Eintrag {0} löschen?",
-            {cText::Tr("'{0}' vom {1} über {2}", {modEntryFields::Name(first), day, m_format.Cents(first.EntryValue)})})
+        ? cText::Tr("Möchten Sie den Eintrag {0} löschen?",
+                    {cText::Tr("'{0}' vom {1} über {2}",
+                               {modEntryFields::Name(first), day, m_tools.Format.Cents(first.EntryValue)})})
         : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?", {QString::number(targets.size())});
     QStringList series;
     for (const cDeleteTarget& target : targets) {
@@ -270,7 +271,7 @@ std::optional<eSeriesPart> cEntryDelete::AskPart(const cDeleteTargetList& target
     }
     parts.append(eSeriesPart::Whole);
     options.append(counts.Series == 1 ? cText::Tr("Ganze Serie") : cText::Tr("Ganze Serien"));
-    const int choice = m_user.Decide(
+    const int choice = m_tools.User.Decide(
         {.Text = PartQuestion(targets, options), .Title = cText::Tr("Eintrag löschen"), .Options = options});
     return choice >= 0 ? std::optional(parts.at(choice)) : std::nullopt;
 }
@@ -280,7 +281,7 @@ bool cEntryDelete::AskParts(cDeleteTargetList& targets, const cDeleteTargetList&
     const QString more = QString::number(others.size());
     const bool isOne = targets.size() == 1;
     const QString before = question.isEmpty() ? QString() : QString(question + u"\n\n"_s);
-    const int choice = m_user.Decide(
+    const int choice = m_tools.User.Decide(
         {.Text = before
              + (isOne ? cText::Tr("Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: {0}", {more})
                       : cText::Tr("Darunter sind Teile aufgeteilter Einträge. Weitere Teile: {0}", {more})),
@@ -296,14 +297,14 @@ bool cEntryDelete::AskParts(cDeleteTargetList& targets, const cDeleteTargetList&
 bool cEntryDelete::Remove(const cDeleteTargetList& targets, eSeriesPart part)
 {
     const cDeleteTargetList others = OtherParts(targets);
-    cUndoStep step(m_data, StepName(targets, part));
+    cUndoStep step(m_tools.Data, StepName(targets, part));
     if (!std::all_of(targets.begin(), targets.end(),
                      [&](const cDeleteTarget& target) { return RemoveOne(target, part); })) {
         return step.Revert();
     }
     // The IDs of deleted rows are given again, so no group may go on under the name of one.
     for (const cDeleteTarget& other : others) {
-        if (!cSplitGroup(m_data).Mark(cSplitGroup(m_data).Parts(other.Entry))) {
+        if (!cSplitGroup(m_tools.Data).Mark(cSplitGroup(m_tools.Data).Parts(other.Entry))) {
             return step.Revert();
         }
     }
@@ -314,11 +315,12 @@ bool cEntryDelete::RemoveOne(const cDeleteTarget& target, eSeriesPart part)
 {
     const int id = target.Entry.ID;
     if (part == eSeriesPart::OnlyThis && !target.Days.isEmpty()) {
-        cSeriesChange series(m_data, m_user);
+        cSeriesChange series(m_tools.Data, m_tools.User);
         return std::all_of(target.Days.begin(), target.Days.end(),
                            [&](QDate day) { return series.SkipPeriod(id, day); });
     }
     const bool hasEarlier = !target.Days.isEmpty() && target.Days.first() > target.Entry.EntryDate;
-    return part == eSeriesPart::FromHere && hasEarlier ? cEntryWriter(m_data, m_user).End(id, target.Days.first())
-                                                       : m_data.DeleteEntry(id);
+    return part == eSeriesPart::FromHere && hasEarlier
+        ? cEntryWriter(m_tools.Data, m_tools.User).End(id, target.Days.first())
+        : m_tools.Data.DeleteEntry(id);
 }

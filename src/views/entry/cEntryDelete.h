@@ -9,9 +9,7 @@
 
 #include <optional>
 
-class cAmountFormat;
-class cDataAccess;
-class cUser;
+struct cBookTools;
 
 // How much of a series is meant by an occurrence of it.
 enum class eSeriesPart { OnlyThis, FromHere, Whole };
@@ -29,12 +27,7 @@ using cDeleteTargetList = QList<cDeleteTarget>;
 class cEntryDelete
 {
 public:
-    cEntryDelete(cDataAccess& data, cUser& user, const cAmountFormat& format)
-        : m_data(data),
-          m_user(user),
-          m_format(format)
-    {
-    }
+    explicit cEntryDelete(const cBookTools& tools) : m_tools(tools) {}
 
     // Deletes the entries of the selected lines. For occurrences of series asks how much of these is meant; the safe
     // answer comes first: an occurrence that is deleted alone is left out, with the amount 0, like
@@ -64,7 +57,5 @@ private:
     [[nodiscard]] bool Remove(const cDeleteTargetList& targets, eSeriesPart part);
     [[nodiscard]] bool RemoveOne(const cDeleteTarget& target, eSeriesPart part);
 
-    cDataAccess& m_data;
-    cUser& m_user;
-    const cAmountFormat& m_format;
+    const cBookTools& m_tools;
 };

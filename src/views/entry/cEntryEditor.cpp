@@ -5,6 +5,7 @@
 #include "base/modDate.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
@@ -21,12 +22,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-cEntryEditor::cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, const cAmountFormat* format)
-    : m_data(data),
-      m_user(user),
-      m_clock(clock),
-      m_format(format),
-      m_suggestions(data, user)
+cEntryEditor::cEntryEditor(const cBookTools& tools) : m_tools(tools), m_suggestions(tools.Data, tools.User)
 {
 }
 
@@ -37,7 +33,7 @@ cEntryEditor::cFields cEntryEditor::Start(const QString& account)
     cFields fields;
     fields.Decimal = Decimal();
     fields.Amount = modSum::ToText(0, fields.Decimal);
-    fields.Date = m_clock.Today();
+    fields.Date = m_tools.Clock.Today();
     fields.Account = account.isEmpty() ? ProposedAccount() : account;
     return fields;
 }
@@ -45,7 +41,7 @@ cEntryEditor::cFields cEntryEditor::Start(const QString& account)
 QString cEntryEditor::ProposedAccount() const
 {
     const QStringList accounts = Accounts();
-    const QString last = m_data.GetLastAccount();
+    const QString last = m_tools.Data.GetLastAccount();
     return accounts.contains(last) ? last : accounts.size() == 1 ? accounts.constFirst() : QString();
 }
 
@@ -53,8 +49,8 @@ cEntryEditor::cFields cEntryEditor::StartBalance(const QString& account)
 {
     m_ids.clear();
     m_from = {};
-    cFields fields = cStartBalance(m_data, Decimal()).Show(account.isEmpty() ? Accounts().value(0) : account);
-    fields.Date = fields.Date.isValid() || fields.IsDayKept ? fields.Date : m_clock.Today();
+    cFields fields = cStartBalance(m_tools.Data, Decimal()).Show(account.isEmpty() ? Accounts().value(0) : account);
+    fields.Date = fields.Date.isValid() || fields.IsDayKept ? fields.Date : m_tools.Clock.Today();
     return fields;
 }
 
@@ -81,17 +77,17 @@ cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
 
 std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
 {
-    const std::optional<cEntryItem> entry = m_data.LoadEntry(id);
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(id);
     if (!entry) {
         return std::nullopt;
     }
     m_ids = {id};
     m_from = {};
-    if (cStartBalance(m_data, Decimal()).IsOne(*entry)) {
-        return cStartBalance(m_data, Decimal()).Show(entry->EntryAccount);
+    if (cStartBalance(m_tools.Data, Decimal()).IsOne(*entry)) {
+        return cStartBalance(m_tools.Data, Decimal()).Show(entry->EntryAccount);
     }
     cFields fields = FieldsOf(*entry);
-    const cEntryItemList parts = cSplitGroup(m_data).Parts(*entry);
+    const cEntryItemList parts = cSplitGroup(m_tools.Data).Parts(*entry);
     // Parts that no longer belong to one day and account cannot be shown as one; each is an entry of its own then.
     if (parts.size() > 1 && modSplit::IsWhole(parts)) {
         cSplitGroup::Show(parts, fields);
@@ -101,7 +97,7 @@ std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
         }
         return fields;
     }
-    fields.Corrections = m_data.GetEntryMods(id);
+    fields.Corrections = m_tools.Data.GetEntryMods(id);
     std::sort(fields.Corrections.begin(), fields.Corrections.end(),
               [](const auto& a, const auto& b) { return a.EntryStartDate < b.EntryStartDate; });
     return fields;
@@ -110,7 +106,7 @@ std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
 std::optional<cEntryEditor::cFields> cEntryEditor::LoadFrom(int id, QDate day)
 {
     std::optional<cFields> fields = Load(id);
-    const std::optional<cEntryItem> entry = m_data.LoadEntry(id);
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(id);
     const std::optional<cEntryItem> occurrence = entry ? modSeries::OccurrenceAt(*entry, day) : std::nullopt;
     if (!fields || !occurrence || occurrence->EntryDate <= entry->EntryDate) {
         return fields;
@@ -135,13 +131,13 @@ QString cEntryEditor::Title(const cFields& fields) const
 
 eDecimal cEntryEditor::Decimal() const
 {
-    return m_format != nullptr ? m_format->Decimal() : eDecimal::Comma;
+    return m_tools.Format.Decimal();
 }
 
 QString cEntryEditor::AmountLabel() const
 {
     QString symbol;
-    const QString amount = modEntryFields::Money(0, m_format);
+    const QString amount = m_tools.Format.Cents(0);
     for (const QChar c : amount) {
         if (!c.isDigit() && !c.isSpace() && c != u',' && c != u'.') {
             symbol.append(c);
@@ -155,7 +151,7 @@ QString cEntryEditor::VatText(const cFields& fields) const
     if (fields.Face != eEntryFace::Normal || fields.Type == modWord::Umbuchung) {
         return {};
     }
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     const auto category = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
         return !modTemplate::IsAccount(item) && modTemplate::Path(item) == fields.Category;
     });
@@ -164,45 +160,44 @@ QString cEntryEditor::VatText(const cFields& fields) const
     if (rate == 0 || cents == 0) {
         return {};
     }
-    return cText::Tr("darin {0} % MwSt.: {1}",
-                     {modTemplate::VatText(rate).replace(u'.', u','),
-                      modEntryFields::Money(modTemplate::VatCents(cents, rate), m_format)});
+    return cText::Tr(
+        "darin {0} % MwSt.: {1}",
+        {modTemplate::VatText(rate).replace(u'.', u','), m_tools.Format.Cents(modTemplate::VatCents(cents, rate))});
 }
 
 QString cEntryEditor::StartBalanceText(const QString& account) const
 {
-    const std::optional<cEntryItem> stored = m_data.GetStartGuthaben(account);
+    const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(account);
     if (!stored) {
         return cText::Tr("Bisher wurde noch kein Startguthaben festgelegt:");
     }
-    return cText::Tr(
-        "Bisheriges Startguthaben: {0} am {1}",
-        {modEntryFields::Money(modBalance::Effect(*stored, {}), m_format), modDate::ToGerman(stored->EntryDate)});
+    return cText::Tr("Bisheriges Startguthaben: {0} am {1}",
+                     {m_tools.Format.Cents(modBalance::Effect(*stored, {})), modDate::ToGerman(stored->EntryDate)});
 }
 
 QStringList cEntryEditor::Categories() const
 {
-    return cEntrySuggestions::VisibleCategories(m_data);
+    return cEntrySuggestions::VisibleCategories(m_tools.Data);
 }
 
 QStringList cEntryEditor::Accounts() const
 {
-    return cEntrySuggestions::VisibleAccounts(m_data);
+    return cEntrySuggestions::VisibleAccounts(m_tools.Data);
 }
 
 void cEntryEditor::ChooseCategory(const QString& path, cFields& fields) const
 {
-    cEntryDefaults(m_data).TakeCategory(path, fields);
+    cEntryDefaults(m_tools.Data).TakeCategory(path, fields);
 }
 
 void cEntryEditor::ChooseDescription(const QString& text, cFields& fields)
 {
-    cEntryDefaults(m_data).TakeDescription(text, m_suggestions, fields);
+    cEntryDefaults(m_tools.Data).TakeDescription(text, m_suggestions, fields);
 }
 
 void cEntryEditor::ChoosePartCategory(qsizetype row, const QString& path, cFields& fields) const
 {
-    cEntryDefaults(m_data).TakePartCategory(row, path, fields);
+    cEntryDefaults(m_tools.Data).TakePartCategory(row, path, fields);
 }
 
 void cEntryEditor::OfferPartCategory(qsizetype row, const QString& typed, cFields& fields)
@@ -220,7 +215,7 @@ void cEntryEditor::OfferPartCategory(qsizetype row, const QString& typed, cField
 
 void cEntryEditor::ChoosePartDescription(qsizetype row, const QString& text, cFields& fields)
 {
-    cEntryDefaults(m_data).TakePartDescription(row, text, m_suggestions, fields);
+    cEntryDefaults(m_tools.Data).TakePartDescription(row, text, m_suggestions, fields);
 }
 
 void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
@@ -228,7 +223,7 @@ void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
     fields.Account = account;
     fields.IsAccountChosen = true;
     if (fields.Face == eEntryFace::StartBalance && !fields.IsAmountTyped) {
-        const cFields stored = cStartBalance(m_data, Decimal()).Show(account);
+        const cFields stored = cStartBalance(m_tools.Data, Decimal()).Show(account);
         fields.Amount = stored.Amount;
         const bool isStored = stored.Date.isValid() || stored.IsDayKept;
         fields.Date = isStored ? stored.Date : fields.Date;
@@ -273,14 +268,14 @@ QString cEntryEditor::EndedText(const cEntryItem& series, const QString& count)
 cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
 {
     constexpr int shownDays = 3;
-    const cEntryItem series = modEntryFields::Series(fields, m_clock.Today());
+    const cEntryItem series = modEntryFields::Series(fields, m_tools.Clock.Today());
     cPreview preview;
     preview.IsSeries = ShowsSeries(fields) && series.EntryDate.isValid() && series.EntryDateEnd.isValid();
     if (!preview.IsSeries) {
         return preview;
     }
     preview.Count = modSeries::Count(series);
-    preview.Next = modSeries::Next(series, m_clock.Today(), shownDays);
+    preview.Next = modSeries::Next(series, m_tools.Clock.Today(), shownDays);
     QStringList days;
     for (const QDate day : std::as_const(preview.Next)) {
         days.append(modDate::ToGerman(day));

@@ -11,10 +11,7 @@
 
 #include <optional>
 
-class cAmountFormat;
-class cClock;
-class cDataAccess;
-class cUser;
+struct cBookTools;
 struct cEntryWrite;
 
 // The entry editor without its window: three faces, fields as the user sees them, defaults, checks in their order, and
@@ -34,8 +31,7 @@ public:
         QString Text;      // both for the user: "12 Mal, nächste Termine: 01.04.2026, 01.05.2026, 01.06.2026"
     };
 
-    // Without `format` amounts are written with the euro sign.
-    cEntryEditor(cDataAccess& data, cUser& user, const cClock& clock, const cAmountFormat* format = nullptr);
+    explicit cEntryEditor(const cBookTools& tools);
 
     // The fields of a new entry on the account that is given, else on that of the newest entry.
     [[nodiscard]] cFields Start(const QString& account);
@@ -135,10 +131,7 @@ private:
     [[nodiscard]] QString ProposedAccount() const;
     [[nodiscard]] bool Refuse(const QString& text) const;
 
-    cDataAccess& m_data;
-    cUser& m_user;
-    const cClock& m_clock;
-    const cAmountFormat* m_format;
+    const cBookTools& m_tools;
     cEntrySuggestions m_suggestions;
     QList<int> m_ids; // rows that are edited: one, or the parts of a group; empty for a new entry
     QDate m_from;     // a series is changed from this occurrence on; invalid for the whole

@@ -3,6 +3,8 @@
 #include "base/cUser.h"
 #include "base/modDate.h"
 #include "base/modSum.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -85,11 +87,11 @@ bool cEntryEditor::UseNormal(cFields& fields) const
     }
     const qsizetype parts = modSplitParts::CountFilled(fields);
     if (parts > 1) {
-        const eAnswer answer =
-            m_user.Ask({.Text = cText::Tr("Möchten Sie die Aufteilung aufheben?\nAus {0} Teilen wird ein Eintrag mit "
-                                          "Kategorie und Beschreibung des ersten Teils.",
-                                          {QString::number(parts)}),
-                        .Title = {}});
+        const eAnswer answer = m_tools.User.Ask(
+            {.Text = cText::Tr("Möchten Sie die Aufteilung aufheben?\nAus {0} Teilen wird ein Eintrag mit "
+                               "Kategorie und Beschreibung des ersten Teils.",
+                               {QString::number(parts)}),
+             .Title = {}});
         if (answer != eAnswer::Yes) {
             return false;
         }
@@ -105,7 +107,7 @@ bool cEntryEditor::UseNormal(cFields& fields) const
 
 QDate cEntryEditor::Today() const
 {
-    return m_clock.Today();
+    return m_tools.Clock.Today();
 }
 
 bool cEntryEditor::MayClose(const cFields& shown, const cFields& now) const
@@ -113,10 +115,10 @@ bool cEntryEditor::MayClose(const cFields& shown, const cFields& now) const
     if (now == shown) {
         return true;
     }
-    return m_user.Ask({.Text = cText::Tr("Die Eingaben sind noch nicht gespeichert.\nSoll das Fenster trotzdem "
-                                         "geschlossen werden?"),
-                       .Title = {},
-                       .Default = eAnswer::No})
+    return m_tools.User.Ask({.Text = cText::Tr("Die Eingaben sind noch nicht gespeichert.\nSoll das Fenster trotzdem "
+                                               "geschlossen werden?"),
+                             .Title = {},
+                             .Default = eAnswer::No})
         == eAnswer::Yes;
 }
 
@@ -125,18 +127,18 @@ bool cEntryEditor::HasCorrections(const cFields& fields) const
     if (m_ids.size() == 1) {
         return !fields.Corrections.isEmpty();
     }
-    return std::any_of(m_ids.begin(), m_ids.end(), [&](int id) { return !m_data.GetEntryMods(id).isEmpty(); });
+    return std::any_of(m_ids.begin(), m_ids.end(), [&](int id) { return !m_tools.Data.GetEntryMods(id).isEmpty(); });
 }
 
 bool cEntryEditor::Refuse(const QString& text) const
 {
-    m_user.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Exclamation, text);
     return false;
 }
 
 cEntryEditor::eSaved cEntryEditor::Save(cFields fields)
 {
-    cEntryCheck check({m_data, m_user, m_suggestions}, m_format, m_clock.Today());
+    cEntryCheck check(m_tools, m_suggestions);
     const eSaved checked = check.Check(fields);
     m_failedPart = check.FailedPart();
     if (checked != eSaved::Saved) {
@@ -148,17 +150,18 @@ cEntryEditor::eSaved cEntryEditor::Save(cFields fields)
 cEntryEditor::eSaved cEntryEditor::SaveStartBalance(const cFields& fields)
 {
     const qint64 cents = modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0);
-    const QDate day = modEntryFields::FirstDay(fields, m_clock.Today());
-    return cStartBalance(m_data, fields.Decimal).Save(fields.Account, cents, day) ? eSaved::Saved : eSaved::Refused;
+    const QDate day = modEntryFields::FirstDay(fields, m_tools.Clock.Today());
+    return cStartBalance(m_tools.Data, fields.Decimal).Save(fields.Account, cents, day) ? eSaved::Saved
+                                                                                        : eSaved::Refused;
 }
 
 // What all rows of the entry share. Nothing when it cannot be stored: money of a transfer has to arrive somewhere else,
 // and a series has to have a day.
 std::optional<cEntryItem> cEntryEditor::Whole(const cFields& fields) const
 {
-    cEntryItem entry = modEntryFields::Series(fields, m_clock.Today());
+    cEntryItem entry = modEntryFields::Series(fields, m_tools.Clock.Today());
     const bool isTransfer = fields.Type == modWord::Umbuchung;
-    if (FaultOf(fields, m_clock.Today())) {
+    if (FaultOf(fields, m_tools.Clock.Today())) {
         return std::nullopt;
     }
     entry.EntryType = fields.Type;
@@ -180,7 +183,7 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
     const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields) : cEntryItemList{*whole};
     QList<cEntryWrite> rows;
     for (cEntryItem entry : entries) {
-        const std::optional<cEntryItem> stored = entry.ID > 0 ? m_data.LoadEntry(entry.ID) : cEntryItem{};
+        const std::optional<cEntryItem> stored = entry.ID > 0 ? m_tools.Data.LoadEntry(entry.ID) : cEntryItem{};
         if (!stored) {
             return {}; // it was deleted meanwhile
         }
@@ -195,7 +198,7 @@ cEntryItemFixModList cEntryEditor::CorrectionsOf(const cEntryItem& stored, const
     if (m_ids.size() <= 1) {
         return stored.ID == 0 ? cEntryItemFixModList{} : fields.Corrections;
     }
-    cEntryItemFixModList fixMods = m_data.GetEntryMods(stored.ID);
+    cEntryItemFixModList fixMods = m_tools.Data.GetEntryMods(stored.ID);
     if (m_from.isValid()) {
         const QDate start = modRecurrence::OccurrencePeriod(m_from, stored.EntryInterval).Start;
         fixMods.removeIf([&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate < start; });
@@ -207,12 +210,12 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
 {
     QList<cEntryWrite> rows = Build(fields);
     if (rows.isEmpty()) {
-        const cFault fault = FaultOf(fields, m_clock.Today())
+        const cFault fault = FaultOf(fields, m_tools.Clock.Today())
                                  .value_or(cFault{eSaved::Refused, cText::Tr("Er wurde inzwischen gelöscht.")});
         (void)Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!") + u'\n' + fault.Why);
         return fault.Field;
     }
-    cEntryWriter writer(m_data, m_user);
+    cEntryWriter writer(m_tools.Data, m_tools.User);
     if (!writer.AskLosses(rows, m_from)) {
         return eSaved::Refused;
     }
@@ -220,7 +223,7 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     removed.removeIf([&](int id) {
         return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
     });
-    cUndoStep step(m_data, StepName(rows.first().Entry));
+    cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
     if (!step.DoneIf(writer.Write(rows, removed, m_from))) {
         return eSaved::Refused;
     }
@@ -245,7 +248,7 @@ void cEntryEditor::Remember(const QList<cEntryWrite>& rows)
     const qint64 cents = first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(entries);
     m_savedId = first.ID;
     m_lastSaved.prepend(modDate::ToGerman(first.EntryDate) + u"  "_s + modEntryFields::Name(first) + u"  "_s
-                        + modEntryFields::Money(cents, m_format));
+                        + m_tools.Format.Cents(cents));
     m_lastSaved = m_lastSaved.mid(0, mostRemembered);
 }
 
@@ -259,6 +262,6 @@ cEntryEditor::cFields cEntryEditor::Next(const cFields& saved)
     next.IsAccountChosen = saved.IsAccountChosen;
     next.Type = next.OpenType = next.BroughtType = saved.Type;
     next.Target = saved.Target;
-    next.Date = modEntryFields::FirstDay(saved, m_clock.Today());
+    next.Date = modEntryFields::FirstDay(saved, m_tools.Clock.Today());
     return next;
 }

@@ -2,7 +2,6 @@
 
 #include "base/modDayText.h"
 #include "base/modSum.h"
-#include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 
@@ -43,9 +42,4 @@ cEntryItem modEntryFields::Series(const cEntryFields& fields, QDate today)
 QString modEntryFields::Name(const cEntryItem& entry)
 {
     return entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
-}
-
-QString modEntryFields::Money(qint64 cents, const cAmountFormat* format)
-{
-    return format != nullptr ? format->Cents(cents) : modSum::ToText(cents) + QStringLiteral(" €");
 }

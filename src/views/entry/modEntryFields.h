@@ -5,8 +5,6 @@
 
 #include <QDate>
 
-class cAmountFormat;
-
 // What the fields of the editor mean, day by day.
 namespace modEntryFields {
 
@@ -25,8 +23,5 @@ namespace modEntryFields {
 
 // How an entry is called in messages: its description, or its category where there is none.
 [[nodiscard]] QString Name(const cEntryItem& entry);
-
-// An amount for messages; without `format` with the euro sign.
-[[nodiscard]] QString Money(qint64 cents, const cAmountFormat* format);
 
 } // namespace modEntryFields

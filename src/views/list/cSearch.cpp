@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/modFold.h"
+#include "core/cBookTools.h"
 #include "model/cTemplateItem.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -32,10 +33,7 @@ bool cSearchQuery::IsEmpty() const
     return other == cSearchQuery{};
 }
 
-cSearch::cSearch(cDataAccess& data, const cAmountFormat& format, const cClock& clock)
-    : m_data(data),
-      m_format(format),
-      m_clock(clock)
+cSearch::cSearch(const cBookTools& tools) : m_tools(tools)
 {
 }
 
@@ -48,7 +46,7 @@ cEntryItemList cSearch::Find(const cSearchQuery& query)
     }
     std::vector<int> all(static_cast<std::size_t>(entries.size()));
     std::iota(all.begin(), all.end(), 0);
-    const std::vector<int> found = cEntryFilter(entries, m_format).Find(words, all, [&](int entry) {
+    const std::vector<int> found = cEntryFilter(entries, m_tools.Format).Find(words, all, [&](int entry) {
         return cEntryFilter::ShownCents(entries.at(entry), query.Account);
     });
     cEntryItemList results;
@@ -65,7 +63,7 @@ cEntryItemList cSearch::Load(const cSearchQuery& query)
     days.End = query.Days.End;
     days.Account = query.Account;
     days.Type = modWord::QueryType(query.Type);
-    cEntryItemList entries = m_data.GetEntries(days);
+    cEntryItemList entries = m_tools.Data.GetEntries(days);
     if (!days.End.isValid()) {
         DropFuture(entries);
     }
@@ -74,7 +72,7 @@ cEntryItemList cSearch::Load(const cSearchQuery& query)
 
 void cSearch::DropFuture(cEntryItemList& entries) const
 {
-    const QDate today = m_clock.Today();
+    const QDate today = m_tools.Clock.Today();
     int series = 0; // whose occurrences follow each other
     entries.removeIf([&](const cEntryItem& entry) {
         if (!modRecurrence::IsRecurring(entry.EntryInterval)) {
@@ -105,13 +103,13 @@ cEntryItemList cSearch::Narrow(const cEntryItemList& loaded, const cSearchQuery&
 
 void cSearch::ReadBankEntries()
 {
-    const quint64 version = m_data.ImportVersion();
+    const quint64 version = m_tools.Data.ImportVersion();
     if (m_bankVersion == version) {
         return;
     }
     m_bankVersion = version;
     m_bankEntries.clear();
-    const cImportEntryList rows = m_data.GetImportEntries();
+    const cImportEntryList rows = m_tools.Data.GetImportEntries();
     for (const cImportEntry& row : rows) {
         if (row.ImportAssigned) {
             m_bankEntries.insert(row.ImportAssignedEntry);

@@ -8,9 +8,7 @@
 
 #include <optional>
 
-class cAmountFormat;
-class cClock;
-class cDataAccess;
+struct cBookTools;
 
 // What a search asks for. Everything is optional; what is given has to hold together.
 struct cSearchQuery
@@ -36,7 +34,7 @@ struct cSearchQuery
 class cSearch
 {
 public:
-    cSearch(cDataAccess& data, const cAmountFormat& format, const cClock& clock);
+    explicit cSearch(const cBookTools& tools);
 
     // One-off entries in date order, then the occurrences series by series.
     [[nodiscard]] cEntryItemList Find(const cSearchQuery& query);
@@ -51,9 +49,7 @@ private:
     void DropFuture(cEntryItemList& entries) const;
     void ReadBankEntries();
 
-    cDataAccess& m_data;
-    const cAmountFormat& m_format;
-    const cClock& m_clock;
+    const cBookTools& m_tools;
     QSet<int> m_bankEntries;              // IDs of entries that a bank transaction belongs to
     std::optional<quint64> m_bankVersion; // of the staged rows when they were read
 };

@@ -4,7 +4,9 @@
 #include "base/cText.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
@@ -16,8 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int typingPause = 120; // milliseconds: longer than between two letters, shorter than a person waits
-
-const QString layoutKey = u"FilterList"_s;
 
 std::optional<qint64> Cents(const QString& text, eDecimal decimal)
 {
@@ -56,11 +56,11 @@ bool DiffersInTextOnly(const cSearchQuery& a, cSearchQuery b)
 
 } // namespace
 
-cSearchModel::cSearchModel(const cParts& parts, QObject* parent)
+cSearchModel::cSearchModel(const cBookTools& tools, QObject* parent)
     : QObject(parent),
-      m_parts(parts),
-      m_search(parts.Data, parts.Format, parts.Clock),
-      m_entries(parts.Format)
+      m_tools(tools),
+      m_search(tools),
+      m_entries(tools.Format)
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(typingPause);
@@ -156,7 +156,7 @@ modPeriod::cRange cSearchModel::Days(const cFields& fields) const
 
 QDate cSearchModel::Today() const
 {
-    return m_parts.Clock.Today();
+    return m_tools.Clock.Today();
 }
 
 bool cSearchModel::IsFreePeriod(const cFields& fields)
@@ -166,7 +166,7 @@ bool cSearchModel::IsFreePeriod(const cFields& fields)
 
 eDecimal cSearchModel::Decimal() const
 {
-    return m_parts.Format.Decimal();
+    return m_tools.Format.Decimal();
 }
 
 bool cSearchModel::IsAmount(const QString& text) const
@@ -184,7 +184,7 @@ QStringList cSearchModel::Periods() const
 QStringList cSearchModel::Accounts() const
 {
     QStringList accounts;
-    const cTemplateItemList items = modTemplate::InOrder(m_parts.Data.GetAccounts());
+    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetAccounts());
     for (const cTemplateItem& item : items) {
         accounts.append(item.TemplateName);
     }
@@ -194,7 +194,7 @@ QStringList cSearchModel::Accounts() const
 QStringList cSearchModel::Categories() const
 {
     QStringList paths;
-    const cTemplateItemList items = modTemplate::InOrder(m_parts.Data.GetTemplates());
+    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetTemplates());
     for (const cTemplateItem& item : items) {
         if (!modTemplate::IsAccount(item)) {
             const QString path = modTemplate::Path(item);
@@ -214,22 +214,22 @@ QString cSearchModel::CountText() const
 QString cSearchModel::StartText() const
 {
     const std::optional<qint64> start = m_entries.Sums().Start;
-    return start ? m_parts.Format.Cents(*start) : QString();
+    return start ? m_tools.Format.Cents(*start) : QString();
 }
 
 QString cSearchModel::IncomeText() const
 {
-    return m_parts.Format.Cents(m_entries.Sums().Income);
+    return m_tools.Format.Cents(m_entries.Sums().Income);
 }
 
 QString cSearchModel::ExpenseText() const
 {
-    return m_parts.Format.Cents(-m_entries.Sums().Expense);
+    return m_tools.Format.Cents(-m_entries.Sums().Expense);
 }
 
 QString cSearchModel::TotalText() const
 {
-    return m_parts.Format.Cents(m_entries.Sums().Total());
+    return m_tools.Format.Cents(m_entries.Sums().Total());
 }
 
 QString cSearchModel::Hint() const
@@ -260,12 +260,12 @@ QString cSearchModel::EmptyHint() const
 
 QString cSearchModel::Layout() const
 {
-    return m_parts.Settings.Get(layoutKey);
+    return m_tools.Settings.Get(modSettingKey::SearchList);
 }
 
 void cSearchModel::SaveLayout(const QString& layout)
 {
     if (Layout() != layout) {
-        m_parts.Settings.Set(layoutKey, layout);
+        m_tools.Settings.Set(modSettingKey::SearchList, layout);
     }
 }

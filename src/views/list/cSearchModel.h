@@ -11,7 +11,7 @@
 
 #include <optional>
 
-class cSettings;
+struct cBookTools;
 
 // The search window without its widgets: its fields, the list of what was found, and all texts around it. Typing on in
 // the text only filters what is loaded; the book is read again when days, account or kind change.
@@ -20,15 +20,6 @@ class cSearchModel final : public QObject
     Q_OBJECT
 
 public:
-    // What the model works with; all of it outlives the model.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        const cClock& Clock;
-    };
-
     enum class eAmountRule { Exactly, AtLeast, AtMost, Between };
 
     // The fields as they stand in the window. Texts that stand for no choice are empty.
@@ -48,7 +39,7 @@ public:
         bool operator==(const cFields&) const = default;
     };
 
-    explicit cSearchModel(const cParts& parts, QObject* parent = nullptr);
+    explicit cSearchModel(const cBookTools& tools, QObject* parent = nullptr);
     ~cSearchModel() override;
 
     void Open();    // reads the book, so that the first letter does not wait for it
@@ -90,7 +81,7 @@ private:
     void Load();
     void Show();
 
-    cParts m_parts;
+    const cBookTools& m_tools;
     cSearch m_search;
     cEntryListModel m_entries;
     cFields m_fields;

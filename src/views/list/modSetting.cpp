@@ -1,10 +1,11 @@
 #include "views/list/modSetting.h"
 
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 
-void modSetting::Keep(cSettings& settings, const QString& name, const QString& value)
+void modSetting::Keep(cSettings& settings, const cSettingKey& key, const QString& value)
 {
-    if (settings.Get(name) != value) {
-        settings.Set(name, value);
+    if (settings.Get(key) != value) {
+        settings.Set(key, value);
     }
 }

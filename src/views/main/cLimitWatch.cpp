@@ -1,6 +1,7 @@
 #include "views/main/cLimitWatch.h"
 
 #include "base/cClock.h"
+#include "core/cBookTools.h"
 #include "views/chart/cForecast.h"
 #include "views/main/cAccountListModel.h"
 
@@ -10,12 +11,7 @@ constexpr int delay = 250; // milliseconds; the window has been painted by then
 
 } // namespace
 
-cLimitWatch::cLimitWatch(cDataAccess& data, const cAmountFormat& format, const cClock& clock,
-                         cAccountListModel& accounts)
-    : m_data(data),
-      m_format(format),
-      m_clock(clock),
-      m_accounts(accounts)
+cLimitWatch::cLimitWatch(const cBookTools& tools, cAccountListModel& accounts) : m_tools(tools), m_accounts(accounts)
 {
     tmrLook.setSingleShot(true);
     tmrLook.setInterval(delay);
@@ -27,9 +23,9 @@ void cLimitWatch::Look()
 {
     tmrLook.stop();
     QHash<QString, QString> texts;
-    const QList<cLimitWarning> warnings = cForecast(m_data, m_clock.Today()).Warnings();
+    const QList<cLimitWarning> warnings = cForecast(m_tools.Data, m_tools.Clock.Today()).Warnings();
     for (const cLimitWarning& warning : warnings) {
-        texts.insert(warning.Account, cForecast::Text(warning, m_format));
+        texts.insert(warning.Account, cForecast::Text(warning, m_tools.Format));
     }
     m_accounts.SetWarnings(texts);
 }

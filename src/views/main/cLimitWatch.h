@@ -4,9 +4,7 @@
 #include <QTimer>
 
 class cAccountListModel;
-class cAmountFormat;
-class cClock;
-class cDataAccess;
+struct cBookTools;
 
 // Looks ahead for accounts that fall below their limits and marks them in the accounts panel. It does so a moment after
 // the panel was filled, so that neither the start nor a click waits for it, and once for several changes in a row.
@@ -15,15 +13,13 @@ class cLimitWatch final : public QObject
     Q_OBJECT
 
 public:
-    // All of these outlive the watch.
-    cLimitWatch(cDataAccess& data, const cAmountFormat& format, const cClock& clock, cAccountListModel& accounts);
+    // Both outlive the watch.
+    cLimitWatch(const cBookTools& tools, cAccountListModel& accounts);
 
     void Look(); // at once
 
 private:
-    cDataAccess& m_data;
-    const cAmountFormat& m_format;
-    const cClock& m_clock;
+    const cBookTools& m_tools;
     cAccountListModel& m_accounts;
     QTimer tmrLook;
 };

@@ -5,11 +5,12 @@
 #include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
-#include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryDelete.h"
@@ -28,24 +29,25 @@ namespace {
 constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
 
 // One of the five View... switches; null for another key.
-bool* Switch(cViewState& view, const QString& key)
+bool* Switch(cViewState& view, const cSettingKey& key)
 {
-    const QHash<QString, bool*> switches{{u"ViewSingleBooking"_s, &view.ShowsSingle},
-                                         {u"ViewFixBooking"_s, &view.ShowsFix},
-                                         {u"ViewFutureBooking"_s, &view.ShowsFuture},
-                                         {u"ViewStartBooking"_s, &view.ShowsStart},
-                                         {u"ViewAccountValueAll"_s, &view.BalancesToToday}};
-    return switches.value(key);
+    const QHash<QString, bool*> switches{{modSettingKey::ViewSingle.Name(), &view.ShowsSingle},
+                                         {modSettingKey::ViewFix.Name(), &view.ShowsFix},
+                                         {modSettingKey::ViewFuture.Name(), &view.ShowsFuture},
+                                         {modSettingKey::ViewStart.Name(), &view.ShowsStart},
+                                         {modSettingKey::ViewAllBalances.Name(), &view.BalancesToToday}};
+    return switches.value(key.Name());
 }
 
 } // namespace
 
-cMainModel::cMainModel(const cParts& parts, QObject* parent)
+cMainModel::cMainModel(const cBookTools& tools, const cParts& parts, QObject* parent)
     : QObject(parent),
+      m_tools(tools),
       m_parts(parts),
-      m_entries(parts.Format),
-      m_accounts(parts.Format),
-      m_limits(parts.Data, parts.Format, parts.Clock, m_accounts)
+      m_entries(tools.Format),
+      m_accounts(tools.Format),
+      m_limits(tools, m_accounts)
 {
     tmrRefreshList.setSingleShot(true);
     tmrRefreshAccounts.setSingleShot(true);
@@ -60,9 +62,9 @@ cMainModel::~cMainModel() = default;
 
 void cMainModel::RestoreView(bool isNewVersion)
 {
-    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
+    m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     LeaveSelection();
-    m_view.Restore(m_parts.Settings, Accounts(), m_parts.Clock.Today());
+    m_view.Restore(m_tools.Settings, Accounts(), m_tools.Clock.Today());
     if (isNewVersion) {
         ResetView();
         return;
@@ -73,7 +75,7 @@ void cMainModel::RestoreView(bool isNewVersion)
 void cMainModel::SaveView()
 {
     tmrSaveView.stop();
-    (m_detour ? m_detour->Before : m_view).Save(m_parts.Settings);
+    (m_detour ? m_detour->Before : m_view).Save(m_tools.Settings);
 }
 
 void cMainModel::SaveLayout(const cPlacement& placement)
@@ -81,15 +83,16 @@ void cMainModel::SaveLayout(const cPlacement& placement)
     SaveView();
     const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
                               QString::number(placement.Width), QString::number(placement.Height)};
-    m_parts.Configuration.SaveSetting(u"WindowSize"_s, numbers.join(u'|'), eSettingPlace::Database);
-    m_parts.Configuration.SaveSetting(u"WindowState"_s, QString::number(placement.State), eSettingPlace::Database);
+    m_parts.Configuration.SaveSetting(modSettingKey::WindowSize, numbers.join(u'|'), eSettingPlace::Database);
+    m_parts.Configuration.SaveSetting(modSettingKey::WindowState, QString::number(placement.State),
+                                      eSettingPlace::Database);
 }
 
 cMainModel::cPlacement cMainModel::RestoreLayout() const
 {
-    const QStringList numbers = m_parts.Configuration.GetSetting(u"WindowSize"_s).split(u'|');
+    const QStringList numbers = m_parts.Configuration.GetSetting(modSettingKey::WindowSize).split(u'|');
     cPlacement placement;
-    placement.State = m_parts.Configuration.GetSetting(u"WindowState"_s).toInt();
+    placement.State = m_parts.Configuration.GetSetting(modSettingKey::WindowState).toInt();
     if (numbers.size() == 4 && numbers.at(2).toInt() > 0 && numbers.at(3).toInt() > 0) {
         placement.Left = numbers.at(0).toInt();
         placement.Top = numbers.at(1).toInt();
@@ -101,9 +104,10 @@ cMainModel::cPlacement cMainModel::RestoreLayout() const
 
 void cMainModel::ResetView()
 {
-    for (const QString& key : {u"FilterList"_s, u"ImportList"_s, u"KategorieList"_s, u"MainList"_s, u"WindowSize"_s,
-                               u"WindowState"_s, u"GroupEntries"_s}) {
-        m_parts.Settings.Delete(key);
+    for (const cSettingKey* key : modSettingKey::All()) {
+        if (key->Facts().Reset == eSettingReset::Layout) {
+            m_tools.Settings.Delete(*key);
+        }
     }
     LeaveSelection();
     m_view.Grouping = modWord::KeineGruppierung;
@@ -112,11 +116,11 @@ void cMainModel::ResetView()
     m_view.Period = modWord::AlleBuchungen;
     m_view.Free = {}; // chosen again, the free period starts with the days in sight
     m_view.Account = modWord::AlleKonten;
-    SetSwitch(u"ViewFixBooking"_s, eSwitch::On);
-    SetSwitch(u"ViewSingleBooking"_s, eSwitch::On);
-    SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+    SetSwitch(modSettingKey::ViewFix, eSwitch::On);
+    SetSwitch(modSettingKey::ViewSingle, eSwitch::On);
+    SetSwitch(modSettingKey::ViewFuture, eSwitch::On);
     // Off on purpose, unlike the defaults of a new book: a reset shows the balances of what is in sight.
-    SetSwitch(u"ViewAccountValueAll"_s, eSwitch::Off);
+    SetSwitch(modSettingKey::ViewAllBalances, eSwitch::Off);
     Q_EMIT LayoutReset();
     RefreshView();
 }
@@ -131,11 +135,11 @@ void cMainModel::RefreshView()
 
 void cMainModel::LoadEntries()
 {
-    const QDate today = m_parts.Clock.Today();
+    const QDate today = m_tools.Clock.Today();
     const cEntryQuery query = m_view.Query(today);
     cEntryListModel::cContent content;
     if (!m_view.ShowsNothing()) {
-        content.Entries = m_parts.Data.GetEntries(query);
+        content.Entries = m_tools.Data.GetEntries(query);
         if (m_detour && m_detour->Selection.Pick) {
             content.Entries = m_detour->Selection.Pick(content.Entries);
         }
@@ -160,7 +164,7 @@ std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
         cEntryQuery before;
         before.Account = query.Account;
         before.End = query.Start.addDays(-1);
-        const QList<cAccountSum> sums = m_parts.Data.GetSums(before, true);
+        const QList<cAccountSum> sums = m_tools.Data.GetSums(before, true);
         for (const cAccountSum& sum : sums) {
             balance +=
                 modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
@@ -171,7 +175,7 @@ std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
 
 void cMainModel::RefreshAccounts()
 {
-    const QDate today = m_parts.Clock.Today();
+    const QDate today = m_tools.Clock.Today();
     const bool isFresh = m_view.BalancesToToday && m_balancesOf == today;
     if (isFresh) {
         m_accounts.SetChosen(m_view.FilterAccount());
@@ -180,7 +184,7 @@ void cMainModel::RefreshAccounts()
     QHash<QString, qint64> balances;
     if (m_view.BalancesToToday || !m_view.ShowsNothing()) {
         const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
-        const QList<cAccountSum> sums = m_parts.Data.GetSums(m_view.BalanceQuery(today), withStart);
+        const QList<cAccountSum> sums = m_tools.Data.GetSums(m_view.BalanceQuery(today), withStart);
         for (const cAccountSum& sum : sums) {
             const bool isTransfer = sum.EntryType == modWord::Umbuchung;
             balances[sum.EntryAccount] += isTransfer || sum.EntryType != modWord::Einnahme ? -sum.Cents : sum.Cents;
@@ -197,9 +201,9 @@ void cMainModel::RefreshAccounts()
 QHash<QString, int> cMainModel::OpenByAccount() const
 {
     QHash<QString, int> byAccount;
-    const QHash<QString, int> byNumber = m_parts.Data.CountOpenImports();
+    const QHash<QString, int> byNumber = m_tools.Data.CountOpenImports();
     for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
-        byAccount[m_parts.Settings.Get(cAccountMap::SettingName(open.key()))] += *open;
+        byAccount[m_tools.Settings.Get(modSettingKey::BankNumber.Of(open.key()))] += *open;
     }
     return byAccount;
 }
@@ -207,7 +211,7 @@ QHash<QString, int> cMainModel::OpenByAccount() const
 void cMainModel::BookChanged()
 {
     m_balancesOf = QDate();
-    m_accountItems = modTemplate::InOrder(m_parts.Data.GetAccounts());
+    m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     RefreshView();
     Q_EMIT BookRefreshed();
 }
@@ -216,7 +220,7 @@ void cMainModel::StagedRowsChanged()
 {
     m_balancesOf = QDate();
     m_accountItems =
-        modTemplate::InOrder(m_parts.Data.GetAccounts()); // a new bank account may have brought a new account
+        modTemplate::InOrder(m_tools.Data.GetAccounts()); // a new bank account may have brought a new account
     tmrRefreshAccounts.start(0);
     Q_EMIT ViewChanged();
 }
@@ -229,7 +233,7 @@ void cMainModel::ChoosePeriod(const QString& name)
     const modPeriod::cRange shown = ShownRange();
     m_view.Period = name;
     if (IsFreePeriod() && m_view.Free == modPeriod::cRange{}) {
-        const QDate today = m_parts.Clock.Today();
+        const QDate today = m_tools.Clock.Today();
         m_view.Free = shown.Start.isValid() && shown.End.isValid() ? shown : modPeriod::Year(today, 0);
     }
     OfferFuture(name);
@@ -239,11 +243,11 @@ void cMainModel::ChoosePeriod(const QString& name)
 void cMainModel::OfferFuture(const QString& period)
 {
     if (modPeriod::IsNext(period) && !m_view.ShowsFuture
-        && m_parts.User.Ask({.Text = cText::Tr("Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige "
+        && m_tools.User.Ask({.Text = cText::Tr("Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige "
                                                "aktiviert werden?"),
                              .Title = {}})
             == eAnswer::Yes) {
-        SetSwitch(u"ViewFutureBooking"_s, eSwitch::On);
+        SetSwitch(modSettingKey::ViewFuture, eSwitch::On);
     }
 }
 
@@ -301,17 +305,17 @@ void cMainModel::ShowFilter()
     Q_EMIT EntriesChanged();
 }
 
-void cMainModel::SetSwitch(const QString& key, eSwitch state)
+void cMainModel::SetSwitch(const cSettingKey& key, eSwitch state)
 {
     *Switch(m_view, key) = state == eSwitch::On;
     if (m_detour) {
         *Switch(m_detour->Before, key) = state == eSwitch::On;
     }
-    m_parts.Settings.SetBool(key, state == eSwitch::On);
+    m_tools.Settings.SetBool(key, state == eSwitch::On);
     m_balancesOf = QDate();
 }
 
-void cMainModel::ToggleView(const QString& key)
+void cMainModel::ToggleView(const cSettingKey& key)
 {
     const bool* state = Switch(m_view, key);
     if (state != nullptr) {
@@ -320,14 +324,14 @@ void cMainModel::ToggleView(const QString& key)
     }
 }
 
-bool cMainModel::IsChecked(const QString& key) const
+bool cMainModel::IsChecked(const cSettingKey& key) const
 {
     if (m_detour) { // its switches are not stored
         cViewState view = m_view;
         const bool* state = Switch(view, key);
         return state != nullptr && *state;
     }
-    return m_parts.Settings.GetBool(key);
+    return m_tools.Settings.GetBool(key);
 }
 
 void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
@@ -335,7 +339,7 @@ void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
     m_selection = selection;
     m_isSeriesSelected = false;
     if (m_selection.size() == 1) {
-        const std::optional<cEntryItem> entry = m_parts.Data.LoadEntry(First().ID);
+        const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(First().ID);
         m_isSeriesSelected = entry && modRecurrence::IsRecurring(entry->EntryInterval);
     }
     Q_EMIT SelectionChanged();
@@ -343,7 +347,7 @@ void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
 
 void cMainModel::Delete(const QList<cEntryListModel::cKey>& keys)
 {
-    cEntryDelete flow(m_parts.Data, m_parts.User, m_parts.Format);
+    cEntryDelete flow(m_tools);
     if (flow.Delete(keys)) {
         SetSelection({});
         BookChanged();
@@ -356,8 +360,8 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
     for (QString* account : {&m_view.Account, m_detour ? &m_detour->Before.Account : &m_view.Account}) {
         *account = *account == oldName ? newName : *account;
     }
-    if (m_parts.Settings.Get(modSetting::StatisticsAccount) == oldName) {
-        m_parts.Settings.Set(modSetting::StatisticsAccount, newName);
+    if (m_tools.Settings.Get(modSettingKey::StatisticsAccount) == oldName) {
+        m_tools.Settings.Set(modSettingKey::StatisticsAccount, newName);
     }
     BookChanged();
 }
@@ -373,7 +377,7 @@ void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
 
 void cMainModel::RenameAccount(const QString& oldName)
 {
-    cTemplateFlow flow(m_parts.Data, m_parts.Settings, m_parts.User);
+    cTemplateFlow flow(m_tools);
     const QString name = flow.AskRenameAccount(oldName);
     if (name != oldName) {
         AccountRenamed(oldName, name);
@@ -382,12 +386,12 @@ void cMainModel::RenameAccount(const QString& oldName)
 
 modPeriod::cRange cMainModel::ShownRange() const
 {
-    return m_view.Range(m_parts.Clock.Today());
+    return m_view.Range(m_tools.Clock.Today());
 }
 
 QDate cMainModel::Today() const
 {
-    return m_parts.Clock.Today();
+    return m_tools.Clock.Today();
 }
 
 bool cMainModel::IsFreePeriod() const
@@ -407,22 +411,22 @@ QStringList cMainModel::Accounts() const
 QString cMainModel::StartText() const
 {
     const std::optional<qint64> start = m_entries.Sums().Start;
-    return start ? m_parts.Format.Cents(*start) : QString();
+    return start ? m_tools.Format.Cents(*start) : QString();
 }
 
 QString cMainModel::IncomeText() const
 {
-    return m_parts.Format.Cents(m_entries.Sums().Income);
+    return m_tools.Format.Cents(m_entries.Sums().Income);
 }
 
 QString cMainModel::ExpenseText() const
 {
-    return m_parts.Format.Cents(-m_entries.Sums().Expense);
+    return m_tools.Format.Cents(-m_entries.Sums().Expense);
 }
 
 QString cMainModel::TotalText() const
 {
-    return m_parts.Format.Cents(m_entries.Sums().Total());
+    return m_tools.Format.Cents(m_entries.Sums().Total());
 }
 
 QString cMainModel::CountText() const
@@ -447,7 +451,7 @@ QString cMainModel::EmptyHint() const
         return cText::Tr("Kein Eintrag dieser Ansicht enthält '{0}'. Löschen Sie den Filter, um alles zu sehen.",
                          {m_view.Filter});
     }
-    if (m_parts.Data.CountEntries() == 0) {
+    if (m_tools.Data.CountEntries() == 0) {
         return cText::Tr(
             "Erfassen Sie mit Strg+N den ersten Eintrag, oder lesen Sie mit Strg+I einen Kontoauszug Ihrer Bank "
             "ein.");
@@ -476,15 +480,15 @@ QString cMainModel::BalancesTitle() const
 
 bool cMainModel::IsReadOnly() const
 {
-    return m_parts.Data.IsReadOnly();
+    return m_tools.Data.IsReadOnly();
 }
 
-QString cMainModel::Layout(const QString& key) const
+QString cMainModel::Layout(const cSettingKey& key) const
 {
-    return m_parts.Settings.Get(key);
+    return m_tools.Settings.Get(key);
 }
 
-void cMainModel::SaveListLayout(const QString& key, const QString& layout)
+void cMainModel::SaveListLayout(const cSettingKey& key, const QString& layout)
 {
-    modSetting::Keep(m_parts.Settings, key, layout);
+    modSetting::Keep(m_tools.Settings, key, layout);
 }

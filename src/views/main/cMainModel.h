@@ -15,14 +15,13 @@
 
 #include <optional>
 
-class cAmountFormat;
-class cClock;
 class cConfiguration;
 class cDataAccess;
 class cJournal;
 class cNavigator;
-class cSettings;
+class cSettingKey;
 class cShell;
+struct cBookTools;
 
 // The main window without its widgets: what the user looks at, the lists that show it, and every command.
 class cMainModel final : public QObject
@@ -33,12 +32,7 @@ public:
     // What the model works with; all of it outlives the model.
     struct cParts
     {
-        cDataAccess& Data;
-        cSettings& Settings;
         cConfiguration& Configuration;
-        const cAmountFormat& Format;
-        cUser& User;
-        const cClock& Clock;
         cShell& Shell;
         cNavigator& Navigator;
         QString DatabasePath;
@@ -56,7 +50,7 @@ public:
         int State = 0; // 0 normal, 1 minimised, 2 maximised
     };
 
-    explicit cMainModel(const cParts& parts, QObject* parent = nullptr);
+    cMainModel(const cBookTools& tools, const cParts& parts, QObject* parent = nullptr);
     ~cMainModel() override;
 
     // Reads the view state from the settings and shows it. `isNewVersion`: another version of the program opened this
@@ -78,7 +72,7 @@ public:
     void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
     // Asks whether entries after today are to be shown, when the period holds nothing else. The caller refreshes.
     void OfferFuture(const QString& period);
-    void ToggleView(const QString& key); // one of the five View... switches
+    void ToggleView(const cSettingKey& key); // one of the five View... switches
 
     // Shows selected entries in place of the view, grouped by main category. None of it is stored; GoBack shows the
     // view as it was before the first selection.
@@ -91,7 +85,7 @@ public:
     // One handler for menus, tool bar and keys. False for an unknown number.
     bool Execute(int command);
     [[nodiscard]] bool IsEnabled(int command) const;
-    [[nodiscard]] bool IsChecked(const QString& key) const;
+    [[nodiscard]] bool IsChecked(const cSettingKey& key) const;
     // The caption with its mnemonic; Undo and Redo name the step that they work on.
     [[nodiscard]] QString MenuText(int command) const;
 
@@ -137,8 +131,8 @@ public:
     [[nodiscard]] bool IsReadOnly() const;
 
     // Column layout of a list, as its window wrote it.
-    [[nodiscard]] QString Layout(const QString& key) const;
-    void SaveListLayout(const QString& key, const QString& layout);
+    [[nodiscard]] QString Layout(const cSettingKey& key) const;
+    void SaveListLayout(const cSettingKey& key, const QString& layout);
 
 Q_SIGNALS:
     void ViewChanged();    // selectors, switches, hint
@@ -158,7 +152,7 @@ private:
     void StepThrough(bool (cJournal::*step)());
     [[nodiscard]] QString StepName(int command) const;
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
-    void SetSwitch(const QString& key, eSwitch state);
+    void SetSwitch(const cSettingKey& key, eSwitch state);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
     [[nodiscard]] QHash<QString, int> OpenByAccount() const;
 
@@ -169,6 +163,7 @@ private:
         cEntrySelection Selection;
     };
 
+    const cBookTools& m_tools;
     cParts m_parts;
     cViewState m_view;
     std::optional<cDetour> m_detour;

@@ -1,5 +1,6 @@
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cSeriesChange.h"
@@ -36,7 +37,7 @@ bool cMainModel::Execute(int command)
     case modCommand::ViewFix:
     case modCommand::ViewFuture:
     case modCommand::ViewStart:
-    case modCommand::ViewAccountValues: ToggleView(QString::fromUtf8(known->Setting)); break;
+    case modCommand::ViewAccountValues: ToggleView(*known->Setting); break;
     case modCommand::ImportStatement:
     case modCommand::Export:
     case modCommand::Print:
@@ -75,7 +76,7 @@ bool cMainModel::IsEnabled(int command) const
 
 QString cMainModel::StepName(int command) const
 {
-    return command == modCommand::Undo ? m_parts.Data.Journal().UndoName() : m_parts.Data.Journal().RedoName();
+    return command == modCommand::Undo ? m_tools.Data.Journal().UndoName() : m_tools.Data.Journal().RedoName();
 }
 
 QString cMainModel::MenuText(int command) const
@@ -92,8 +93,8 @@ QString cMainModel::MenuText(int command) const
 
 void cMainModel::StepThrough(bool (cJournal::*step)())
 {
-    if ((m_parts.Data.Journal().*step)()) {
-        m_parts.Settings.Reload(); // account numbers of the bank may have been part of it
+    if ((m_tools.Data.Journal().*step)()) {
+        m_tools.Settings.Reload(); // account numbers of the bank may have been part of it
         SetSelection({});
         BookChanged();
         Q_EMIT StagedRowsReleased();
@@ -102,7 +103,7 @@ void cMainModel::StepThrough(bool (cJournal::*step)())
 
 void cMainModel::SkipPeriod()
 {
-    cSeriesChange change(m_parts.Data, m_parts.User);
+    cSeriesChange change(m_tools.Data, m_tools.User);
     if (change.SkipPeriod(First().ID, First().Day)) {
         BookChanged();
     }
@@ -111,7 +112,7 @@ void cMainModel::SkipPeriod()
 void cMainModel::AskResetView()
 {
     const eAnswer answer =
-        m_parts.User.Ask({.Text = cText::Tr("Sollen Zeitraum, Konto, Filter, Gruppierung, Spalten und Fenstergröße auf "
+        m_tools.User.Ask({.Text = cText::Tr("Sollen Zeitraum, Konto, Filter, Gruppierung, Spalten und Fenstergröße auf "
                                             "den Anfang zurückgestellt werden?\nIhre Einträge bleiben, wie sie sind."),
                           .Title = cText::Tr("Einstellungen zurücksetzen"),
                           .Default = eAnswer::No});
@@ -123,7 +124,7 @@ void cMainModel::AskResetView()
 void cMainModel::StartCalculator()
 {
     if (!m_parts.Shell.StartCalculator()) {
-        m_parts.User.Show(
+        m_tools.User.Show(
             eTone::Exclamation,
             cText::Tr("Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum "
                       "Beispiel \"gnome-calculator\" oder \"kcalc\"."));

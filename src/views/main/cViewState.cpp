@@ -2,6 +2,7 @@
 
 #include "base/modDate.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/list/modSetting.h"
 
@@ -11,9 +12,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString Offered(const QString& stored, const QStringList& words, const QString& otherwise)
+// What is stored, where it is one of the words.
+QString Offered(const cSettings& settings, const cSettingKey& key, const QStringList& words)
 {
-    return words.contains(stored) ? stored : otherwise;
+    const QString stored = settings.Get(key);
+    return words.contains(stored) ? stored : key.Default();
 }
 
 // Days before the one that "Buchungen bis heute" begins with were never meant by anybody: they stood for an open side.
@@ -43,31 +46,31 @@ eBookingKind Kind(const cViewState& view)
 
 void cViewState::Restore(const cSettings& settings, const QStringList& accounts, QDate today)
 {
-    Period = Offered(settings.Get(u"MainZeitraum"_s), modWord::Periods().Stored(), modWord::AktuellesJahr);
-    Free = FreeRange(settings.Get(u"MainZeitraumStart"_s), settings.Get(u"MainZeitraumEnd"_s));
+    Period = Offered(settings, modSettingKey::MainPeriod, modWord::Periods().Stored());
+    Free = FreeRange(settings.Get(modSettingKey::MainPeriodStart), settings.Get(modSettingKey::MainPeriodEnd));
     if (Period == modWord::FreierZeitraum && Free == modPeriod::cRange{}) {
         Free = modPeriod::Year(today, 0);
     }
-    Account = Offered(settings.Get(u"MainKonto"_s), accounts, modWord::AlleKonten);
-    Type = Offered(settings.Get(u"MainBuchungsart"_s), modWord::ViewTypes().Stored(), modWord::AlleBuchungsarten);
-    Grouping = Offered(settings.Get(u"MainGruppierung"_s), modWord::Groupings().Stored(), modWord::KeineGruppierung);
-    Filter = settings.Get(u"MainFilter"_s);
-    ShowsSingle = settings.GetBool(u"ViewSingleBooking"_s);
-    ShowsFix = settings.GetBool(u"ViewFixBooking"_s);
-    ShowsFuture = settings.GetBool(u"ViewFutureBooking"_s);
-    ShowsStart = settings.GetBool(u"ViewStartBooking"_s);
-    BalancesToToday = settings.GetBool(u"ViewAccountValueAll"_s);
+    Account = Offered(settings, modSettingKey::MainAccount, accounts);
+    Type = Offered(settings, modSettingKey::MainType, modWord::ViewTypes().Stored());
+    Grouping = Offered(settings, modSettingKey::MainGrouping, modWord::Groupings().Stored());
+    Filter = settings.Get(modSettingKey::MainFilter);
+    ShowsSingle = settings.GetBool(modSettingKey::ViewSingle);
+    ShowsFix = settings.GetBool(modSettingKey::ViewFix);
+    ShowsFuture = settings.GetBool(modSettingKey::ViewFuture);
+    ShowsStart = settings.GetBool(modSettingKey::ViewStart);
+    BalancesToToday = settings.GetBool(modSettingKey::ViewAllBalances);
 }
 
 void cViewState::Save(cSettings& settings) const
 {
-    modSetting::Keep(settings, u"MainBuchungsart"_s, Type);
-    modSetting::Keep(settings, u"MainFilter"_s, Filter);
-    modSetting::Keep(settings, u"MainZeitraum"_s, Period);
-    modSetting::Keep(settings, u"MainZeitraumStart"_s, modDate::ToIso(Free.Start));
-    modSetting::Keep(settings, u"MainZeitraumEnd"_s, modDate::ToIso(Free.End));
-    modSetting::Keep(settings, u"MainKonto"_s, Account);
-    modSetting::Keep(settings, u"MainGruppierung"_s, Grouping);
+    modSetting::Keep(settings, modSettingKey::MainType, Type);
+    modSetting::Keep(settings, modSettingKey::MainFilter, Filter);
+    modSetting::Keep(settings, modSettingKey::MainPeriod, Period);
+    modSetting::Keep(settings, modSettingKey::MainPeriodStart, modDate::ToIso(Free.Start));
+    modSetting::Keep(settings, modSettingKey::MainPeriodEnd, modDate::ToIso(Free.End));
+    modSetting::Keep(settings, modSettingKey::MainAccount, Account);
+    modSetting::Keep(settings, modSettingKey::MainGrouping, Grouping);
 }
 
 QString cViewState::FilterAccount() const

@@ -5,6 +5,8 @@
 
 #include <span>
 
+class cSettingKey;
+
 // The commands of the main window. Menus, tool bar and keys are built from this table, and all of them dispatch by
 // number.
 namespace modCommand {
@@ -57,13 +59,13 @@ enum eTrait : int {
 struct cCommand
 {
     eId Id;
-    const char* Menu;    // German title of the menu, in the order of the table
-    const char* Caption; // German, with "&" before the letter that opens it from the keyboard
-    const char* Keys;    // portable key sequences joined by "|"
-    const char* Icon;    // name of the picture; empty for none
-    const char* Setting; // key of the view switch that a check command turns; empty for plain commands
-    int Traits;          // of eTrait
-    const char* Hint;    // one sentence for status bar and tool tip
+    const char* Menu;           // German title of the menu, in the order of the table
+    const char* Caption;        // German, with "&" before the letter that opens it from the keyboard
+    const char* Keys;           // portable key sequences joined by "|"
+    const char* Icon;           // name of the picture; empty for none
+    const cSettingKey* Setting; // of the view switch that a check command turns; null for plain commands
+    int Traits;                 // of eTrait
+    const char* Hint;           // one sentence for status bar and tool tip
 };
 
 [[nodiscard]] constexpr bool Has(const cCommand& command, eTrait trait)

@@ -1,8 +1,10 @@
 #include "views/report/cReportSource.h"
 
 #include "base/cClock.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/cEntryQuery.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/report/modReport.h"
@@ -12,12 +14,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-cReportSource::cReportSource(cDataAccess& data, const cSettings& settings, const cClock& clock,
-                             const cAmountFormat& format)
-    : m_data(data),
-      m_settings(settings),
-      m_clock(clock),
-      m_format(format)
+cReportSource::cReportSource(const cBookTools& tools) : m_tools(tools)
 {
 }
 
@@ -28,10 +25,10 @@ cReportWish cReportSource::Wish(eReport type, const QString& account, const QStr
     wish.Type = type;
     wish.Account = account == modWord::AlleKonten ? QString() : account;
     wish.Period = period;
-    wish.Today = m_clock.Today();
+    wish.Today = m_tools.Clock.Today();
     wish.Range = modPeriod::Range(period, wish.Today, free);
-    wish.ShowsFuture = m_settings.GetBool(u"ViewFutureBooking"_s);
-    wish.ShowsStart = m_settings.GetBool(u"ViewStartBooking"_s);
+    wish.ShowsFuture = m_tools.Settings.GetBool(modSettingKey::ViewFuture);
+    wish.ShowsStart = m_tools.Settings.GetBool(modSettingKey::ViewStart);
     return wish;
 }
 
@@ -44,12 +41,12 @@ const cReportFigures& cReportSource::Figures(const cReportWish& wish)
 
 QString cReportSource::Html(const cReportWish& wish)
 {
-    return modReportHtml::Html(Figures(wish), wish, m_format);
+    return modReportHtml::Html(Figures(wish), wish, m_tools.Format);
 }
 
 QString cReportSource::Page(const cReportWish& wish)
 {
-    return modReportHtml::Page(Figures(wish), wish, m_format);
+    return modReportHtml::Page(Figures(wish), wish, m_tools.Format);
 }
 
 cEntryItemList cReportSource::EntriesOf(const cReportWish& wish, const cReportNode& node)
@@ -69,8 +66,8 @@ const cEntryItemList& cReportSource::Entries(const cReportWish& wish)
         query.Start = asked.Start;
         query.End = asked.End;
         query.Account = asked.Account;
-        m_entries = m_data.GetEntries(query);
-        m_templates = m_data.GetTemplates();
+        m_entries = m_tools.Data.GetEntries(query);
+        m_templates = m_tools.Data.GetTemplates();
         m_asked = asked;
     }
     return m_entries;

@@ -8,18 +8,14 @@
 
 #include <optional>
 
-class cAmountFormat;
-class cClock;
-class cDataAccess;
-class cSettings;
+struct cBookTools;
 
 // Reports over the open book. The entries of the last account and period stay in memory, so that another report or
 // another order of the same ones costs no query.
 class cReportSource
 {
 public:
-    // All of these outlive the source.
-    cReportSource(cDataAccess& data, const cSettings& settings, const cClock& clock, const cAmountFormat& format);
+    explicit cReportSource(const cBookTools& tools);
 
     // A wish for a period by its stored name, with the switches of the view for future entries and start balances.
     // `free` are the days of "Freier Zeitraum"; without account it is all of them ("Alle Konten" counts as none).
@@ -52,10 +48,7 @@ private:
     };
     [[nodiscard]] static cAsked Ask(const cReportWish& wish);
 
-    cDataAccess& m_data;
-    const cSettings& m_settings;
-    const cClock& m_clock;
-    const cAmountFormat& m_format;
+    const cBookTools& m_tools;
     std::optional<cAsked> m_asked;
     cEntryItemList m_entries;
     cTemplateItemList m_templates;

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
 #include "import/match/modMatchScore.h"
 #include "import/stage/cAccountMap.h"
@@ -33,7 +34,8 @@ void cAssignListModel::Read()
 {
     const cMatchFlow::cParts& parts = m_flow.Parts();
     const eCandidates which = m_scope == eScope::All ? eCandidates::All : eCandidates::Likely;
-    const QList<cMatchCandidate> found = cMatcher(parts.Data, parts.Hive, parts.Accounts).Candidates(m_row.ID, which);
+    const QList<cMatchCandidate> found =
+        cMatcher(m_flow.Tools().Data, parts.Hive, parts.Accounts).Candidates(m_row.ID, which);
     m_candidates.assign(found.begin(), found.end());
 }
 
@@ -47,7 +49,7 @@ void cAssignListModel::SetScope(eScope scope)
 
 QString cAssignListModel::RowText() const
 {
-    return modImportText::Row(m_row, m_flow.Parts().Format);
+    return modImportText::Row(m_row, m_flow.Tools().Format);
 }
 
 int cAssignListModel::Proposed() const
@@ -111,7 +113,7 @@ QString cAssignListModel::Text(const cMatchCandidate& candidate, int column) con
     case Date: return modDate::ToGerman(candidate.Entry.EntryDate);
     case Description: return candidate.Entry.EntryDescription;
     case Category: return candidate.Entry.EntryCategory;
-    case Amount: return m_flow.Parts().Format.Cents(candidate.Cents);
+    case Amount: return m_flow.Tools().Format.Cents(candidate.Cents);
     case Score: return modImportText::Percent(candidate.Score);
     case Reason:
         return candidate.IsTaken ? cText::Tr("hat schon einen Umsatz; {0}", {candidate.Reason}) : candidate.Reason;

@@ -5,6 +5,7 @@
 #include "base/cUser.h"
 #include "base/modAmount.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
@@ -34,15 +35,15 @@ using eTrust = cRowProposals::eTrust;
 
 struct cImportReview::cWorks
 {
-    explicit cWorks(const cParts& parts)
-        : Hive(parts.Data),
-          Accounts(parts.Data, parts.Settings),
-          Booking(parts.Data, Hive, Accounts),
-          Files({parts.Data, parts.Settings, parts.Format, parts.User, Hive, Accounts}),
-          Matching({parts.Data, parts.Format, parts.User, Hive, Accounts, Booking}),
-          Runs(parts.Settings),
-          Proposals({parts.Data, Hive, Accounts, Matching, Runs}),
-          Suggestions(parts.Data, parts.User)
+    explicit cWorks(const cBookTools& tools)
+        : Hive(tools.Data),
+          Accounts(tools.Data, tools.Settings),
+          Booking(tools.Data, Hive, Accounts),
+          Files(tools, Hive, Accounts),
+          Matching(tools, {Hive, Accounts, Booking}),
+          Runs(tools.Settings),
+          Proposals({tools.Data, Hive, Accounts, Matching, Runs}),
+          Suggestions(tools.Data, tools.User)
     {
     }
 
@@ -56,8 +57,8 @@ struct cImportReview::cWorks
     cEntrySuggestions Suggestions;
 };
 
-cImportReview::cImportReview(const cParts& parts, QObject* parent)
-    : cImportReview(parts, std::make_shared<cWorks>(parts), {})
+cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
+    : cImportReview(tools, std::make_shared<cWorks>(tools), {})
 {
     setParent(parent);
     connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
@@ -71,10 +72,10 @@ cImportReview::cImportReview(const cParts& parts, QObject* parent)
     });
 }
 
-cImportReview::cImportReview(const cParts& parts, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
-    : m_parts(parts),
+cImportReview::cImportReview(const cBookTools& tools, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
+    : m_tools(tools),
       m_works(std::move(works)),
-      m_view({*this, parts.Data, parts.Settings, parts.Format}, import)
+      m_view(*this, tools, import)
 {
 }
 
@@ -91,7 +92,7 @@ std::unique_ptr<cImportReview> cImportReview::StartImportReview(int rowId)
     if (import.IsEmpty()) {
         return nullptr;
     }
-    std::unique_ptr<cImportReview> review(new cImportReview(m_parts, m_works, import)); // the constructor is private
+    std::unique_ptr<cImportReview> review(new cImportReview(m_tools, m_works, import)); // the constructor is private
     review->LoadRows();
     connect(review.get(), &cImportReview::RowsChanged, this, [this] {
         LoadRows();
@@ -170,7 +171,7 @@ QList<int> cImportReview::AskAboutMatches(const QList<int>& rowIds)
     if (matches.isEmpty()) {
         return rowIds;
     }
-    const eAnswer answer = m_parts.User.Ask(modReviewQuestion::Matches(matches));
+    const eAnswer answer = m_tools.User.Ask(modReviewQuestion::Matches(matches));
     return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
 }
 
@@ -186,13 +187,13 @@ QList<int> cImportReview::AskAboutTwins(const QList<int>& rowIds)
             others.append(row.ID);
         } else {
             twins.append(cText::Tr("{0} ({1})",
-                                   {modImportText::Row(row, m_parts.Format), modImportText::TwinReason(twin->Same)}));
+                                   {modImportText::Row(row, m_tools.Format), modImportText::TwinReason(twin->Same)}));
         }
     }
     if (twins.isEmpty()) {
         return rowIds;
     }
-    const eAnswer answer = m_parts.User.Ask(modReviewQuestion::Twins(twins));
+    const eAnswer answer = m_tools.User.Ask(modReviewQuestion::Twins(twins));
     return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
 }
 
@@ -206,7 +207,7 @@ void cImportReview::BookAll(const QList<int>& rowIds, cProgress& progress)
     if (rowIds.isEmpty()) {
         return;
     }
-    cUndoStep step(m_parts.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     AskAccountsOf(OpenRows(rowIds));
     cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
     if (result.Failed > 0 || !step.Done()) {
@@ -235,8 +236,8 @@ void cImportReview::AcceptProposals(cProgress& progress)
     numbers.Certain = static_cast<int>(certain.size());
     const cQuestion question = modReviewQuestion::Accept(numbers);
     if (certain.isEmpty()) {
-        m_parts.User.Show(question.Tone, question.Text, question.Title);
-    } else if (m_parts.User.Ask(question) == eAnswer::Yes) {
+        m_tools.User.Show(question.Tone, question.Text, question.Title);
+    } else if (m_tools.User.Ask(question) == eAnswer::Yes) {
         BookAll(certain, progress);
     }
 }
@@ -279,11 +280,11 @@ QString cImportReview::SelectionText(const QList<int>& rowIds)
         }
         return cText::Tr("{0} markiert, davon {1} offen, Summe {2}",
                          {modImportText::Count(static_cast<int>(rows.size())), QString::number(OpenRows(rowIds).size()),
-                          m_parts.Format.Cents(sum)});
+                          m_tools.Format.Cents(sum)});
     }
     const cImportEntry& row = rows.constFirst();
     const cStagedInfo info = Info(row);
-    const QStringList values{modImportText::Row(row, m_parts.Format), info.Category,
+    const QStringList values{modImportText::Row(row, m_tools.Format), info.Category,
                              modWord::Intervals().ToShown(info.Interval), info.Account, info.Reason};
     return row.ImportAssigned ? cText::Tr("{0}  →  gebucht unter {1}, {2}", {values.at(0), values.at(1), values.at(3)})
                               : cText::Tr("{0}  →  {1}, {2}: {4}", values);
@@ -343,7 +344,7 @@ QString cImportReview::StoredInterval(const QString& shown)
 
 bool cImportReview::IsReadOnly() const
 {
-    return m_parts.Data.IsReadOnly();
+    return m_tools.Data.IsReadOnly();
 }
 
 void cImportReview::Match(const QList<int>& rowIds, cProgress& progress)
@@ -360,7 +361,7 @@ void cImportReview::Match(const QList<int>& rowIds, cProgress& progress)
     if (ids.isEmpty()) {
         return;
     }
-    cUndoStep step(m_parts.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(ids.size()))}));
+    cUndoStep step(m_tools.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(ids.size()))}));
     AskAccountsOf(OpenRows(ids));
     const cMatchFlow::cOutcome outcome = m_works->Matching.Match(ids, progress);
     ReportMatches(step.Done() ? outcome : cMatchFlow::NothingDone());
@@ -372,7 +373,7 @@ std::unique_ptr<cAssignListModel> cImportReview::StartAssign(const QList<int>& r
     if (rows.isEmpty()) {
         return nullptr;
     }
-    const cUndoStep step(m_parts.Data, cText::Tr("Konto einer Kontonummer gewählt"));
+    const cUndoStep step(m_tools.Data, cText::Tr("Konto einer Kontonummer gewählt"));
     AskAccountsOf(rows);
     auto list = std::make_unique<cAssignListModel>(m_works->Matching, rows.constFirst());
     connect(list.get(), &cAssignListModel::Tried, this, &cImportReview::ReportMatches);
@@ -390,7 +391,7 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
         return;
     }
     if (!outcome.IsDone) {
-        m_parts.Settings.Reload(); // an account chosen just before may have been taken back with the rest
+        m_tools.Settings.Reload(); // an account chosen just before may have been taken back with the rest
     }
     m_summary = outcome.Lines;
     Refresh();
@@ -408,8 +409,7 @@ std::unique_ptr<cRuleListModel> cImportReview::StartRule(const QList<int>& rowId
     }
     const cImportEntry& row = rows.constFirst();
     const cStagedInfo info = Info(row);
-    auto rules = std::make_unique<cRuleListModel>(
-        cRuleListModel::cParts{m_parts.Data, m_parts.Settings, m_parts.Format, m_parts.User});
+    auto rules = std::make_unique<cRuleListModel>(m_tools);
     rules->StartFrom(row, info.Category, info.Interval);
     connect(rules.get(), &cRuleListModel::RulesChanged, this, &cImportReview::Refresh);
     return rules;
@@ -462,11 +462,11 @@ void cImportReview::Delete(const QList<int>& rowIds)
         ? cText::Tr("Soll der markierte Umsatz gelöscht werden?\nEin daraus gebuchter Eintrag bleibt bestehen.")
         : cText::Tr("Sollen die {0} markierten Umsätze gelöscht werden?\nDaraus gebuchte Einträge bleiben bestehen.",
                     {QString::number(rowIds.size())});
-    if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
+    if (m_tools.User.Ask({.Text = question, .Title = cText::Tr("Umsätze löschen")}) != eAnswer::Yes) {
         return;
     }
     const QString count = modImportText::Count(static_cast<int>(rowIds.size()));
-    cUndoStep step(m_parts.Data, cText::Tr("{0} gelöscht", {count}));
+    cUndoStep step(m_tools.Data, cText::Tr("{0} gelöscht", {count}));
     m_summary = step.DoneIf(m_works->Hive.Remove(rowIds) == rowIds.size())
         ? QStringList(cText::Tr("{0} gelöscht.", {count}))
         : cMatchFlow::NothingDone().Lines;

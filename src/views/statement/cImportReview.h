@@ -11,15 +11,12 @@
 
 #include <memory>
 
-class cAmountFormat;
 class cAssignListModel;
-class cDataAccess;
 class cEntrySuggestions;
 class cProgress;
 class cRuleListModel;
-class cSettings;
 class cStatementFiles;
-class cUser;
+struct cBookTools;
 struct cProposal;
 
 // The page of bank statements without its widgets: proposes, books, matches and deletes. The window for the rows of one
@@ -29,16 +26,7 @@ class cImportReview final : public QObject, private cStagedSource
     Q_OBJECT
 
 public:
-    // What the review works with; all of it outlives the review.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        cUser& User;
-    };
-
-    explicit cImportReview(const cParts& parts, QObject* parent = nullptr);
+    explicit cImportReview(const cBookTools& tools, QObject* parent = nullptr);
     ~cImportReview() override;
 
     // Reads the staged rows anew, when another part of the program may have changed them or the book.
@@ -120,7 +108,7 @@ Q_SIGNALS:
 private:
     struct cWorks; // the tools of the import floor
 
-    cImportReview(const cParts& parts, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import);
+    cImportReview(const cBookTools& tools, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import);
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row) override;
 
@@ -137,7 +125,7 @@ private:
     void AskAccountsOf(const cImportEntryList& rows);
     [[nodiscard]] QHash<int, cProposal> Chosen(const cImportEntryList& rows);
 
-    cParts m_parts;
+    const cBookTools& m_tools;
     std::shared_ptr<cWorks> m_works; // of the page, in the window too
     cStagedChoice m_view;
     QStringList m_summary;

@@ -1,6 +1,7 @@
 #include "views/statement/cImportRuns.h"
 
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 
 #include <QStringList>
 
@@ -13,7 +14,6 @@ namespace {
 
 using cRange = cImportRuns::cRange;
 
-const QString runsSetting = u"ImportRuns"_s;
 constexpr qsizetype mostImports = 50;
 
 cRange RangeOf(const QList<int>& ids)
@@ -64,7 +64,7 @@ void CutAt(QList<cRange>& files, int id)
 QList<QList<cRange>> cImportRuns::Imports() const
 {
     QList<QList<cRange>> imports;
-    const QStringList texts = m_settings.Get(runsSetting).split(u';', Qt::SkipEmptyParts);
+    const QStringList texts = m_settings.Get(modSettingKey::ImportRuns).split(u';', Qt::SkipEmptyParts);
     for (const QString& text : texts) {
         const QList<cRange> files = FilesIn(text);
         if (!files.isEmpty()) {
@@ -114,7 +114,7 @@ void cImportRuns::Store(const QList<QList<cRange>>& imports)
     for (const QList<cRange>& import : imports.last(qMin(imports.size(), mostImports))) {
         texts.append(TextOf(import));
     }
-    m_settings.Set(runsSetting, texts.join(u';'));
+    m_settings.Set(modSettingKey::ImportRuns, texts.join(u';'));
 }
 
 cRange cImportRuns::ImportOf(int id) const

@@ -5,6 +5,7 @@
 #include "base/cUser.h"
 #include "base/modCount.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
@@ -44,7 +45,7 @@ QString CorrectedLine(int count)
 
 } // namespace
 
-cMatchFlow::cMatchFlow(const cParts& parts) : m_parts(parts)
+cMatchFlow::cMatchFlow(const cBookTools& tools, const cParts& parts) : m_tools(tools), m_parts(parts)
 {
 }
 
@@ -55,9 +56,9 @@ cMatchFlow::cOutcome cMatchFlow::NothingDone()
 
 cMatchFlow::cOutcome cMatchFlow::Match(const QList<int>& rowIds, cProgress& progress)
 {
-    cUndoStep step(m_parts.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(rowIds.size()))}));
+    cUndoStep step(m_tools.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(rowIds.size()))}));
     const cMatchResult result =
-        cMatcher(m_parts.Data, m_parts.Hive, m_parts.Accounts).MatchAll(rowIds, progress, eMatchRun::Write);
+        cMatcher(m_tools.Data, m_parts.Hive, m_parts.Accounts).MatchAll(rowIds, progress, eMatchRun::Write);
     progress.hideProgressBar();
     if (result.IsCancelled) {
         return {{cText::Tr("Abgleichen abgebrochen, es wurde nichts zugeordnet.")}};
@@ -79,11 +80,11 @@ std::optional<int> cMatchFlow::Correct(const cMatchResult& result)
 {
     const int count = CorrectionCount(result);
     const cQuestion question{.Text = CorrectionQuestion(count), .Title = cText::Tr("Umsätze abgleichen")};
-    if (count == 0 || m_parts.User.Ask(question) != eAnswer::Yes) {
+    if (count == 0 || m_tools.User.Ask(question) != eAnswer::Yes) {
         return 0;
     }
     const bool isWritten = std::all_of(result.Assigned.begin(), result.Assigned.end(), [this](const cMatch& match) {
-        return !match.Candidate.Correction || m_parts.Data.AddNewEntryMod(*match.Candidate.Correction);
+        return !match.Candidate.Correction || m_tools.Data.AddNewEntryMod(*match.Candidate.Correction);
     });
     return isWritten ? std::optional(count) : std::nullopt;
 }
@@ -101,7 +102,7 @@ QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
     for (const cMatch& match : result.Assigned.first(qMin(result.Assigned.size(), shownMatches))) {
         const cImportEntry row = hive.GetImportEntryByID(match.RowId).value_or(cImportEntry());
         lines.append(cText::Tr("{0} → {1}",
-                               {modImportText::Row(row, m_parts.Format), modImportText::Candidate(match.Candidate)}));
+                               {modImportText::Row(row, m_tools.Format), modImportText::Candidate(match.Candidate)}));
     }
     if (result.Assigned.size() > shownMatches) {
         lines.append(modCount::MoreLines(result.Assigned.size() - shownMatches));
@@ -113,11 +114,11 @@ cMatchFlow::cOutcome cMatchFlow::Assign(int rowId, const cMatchCandidate& candid
 {
     bool isCorrecting = false;
     if (candidate.Correction) {
-        const eAnswer answer = m_parts.User.Ask(
+        const eAnswer answer = m_tools.User.Ask(
             {.Text = cText::Tr("Der Umsatz beträgt {0}, die Serie {1}.\nSoll die Serie für diesen Zeitraum auf den "
                                "Betrag des Kontoauszugs korrigiert werden?",
-                               {m_parts.Format.Cents(candidate.Correction->EntryValue),
-                                m_parts.Format.Cents(candidate.Entry.EntryValue)}),
+                               {m_tools.Format.Cents(candidate.Correction->EntryValue),
+                                m_tools.Format.Cents(candidate.Entry.EntryValue)}),
              .Title = cText::Tr("Umsatz zuordnen"),
              .Buttons = eButtons::YesNoCancel});
         if (answer == eAnswer::Cancel) {
@@ -125,9 +126,9 @@ cMatchFlow::cOutcome cMatchFlow::Assign(int rowId, const cMatchCandidate& candid
         }
         isCorrecting = answer == eAnswer::Yes;
     }
-    cUndoStep step(m_parts.Data, cText::Tr("Umsatz zugeordnet"));
+    cUndoStep step(m_tools.Data, cText::Tr("Umsatz zugeordnet"));
     if (!step.DoneIf(m_parts.Booking.Assign(rowId, candidate.Entry.ID)
-                     && (!isCorrecting || m_parts.Data.AddNewEntryMod(*candidate.Correction)))) {
+                     && (!isCorrecting || m_tools.Data.AddNewEntryMod(*candidate.Correction)))) {
         return NothingDone();
     }
     QStringList lines{cText::Tr("Umsatz zugeordnet: {0}", {modImportText::EntryName(candidate.Entry)})};
@@ -150,7 +151,7 @@ cMatchFlow::cOutcome cMatchFlow::Release(const QList<int>& rowIds)
         return {};
     }
     const QString count = modImportText::Count(static_cast<int>(ids.size()));
-    cUndoStep step(m_parts.Data, cText::Tr("{0} gelöst", {count}));
+    cUndoStep step(m_tools.Data, cText::Tr("{0} gelöst", {count}));
     const auto release = [this](int id) { return m_parts.Booking.Unassign(id); };
     if (!step.DoneIf(std::all_of(ids.begin(), ids.end(), release))) {
         return NothingDone();
@@ -168,7 +169,7 @@ QString cMatchFlow::Proposal(int rowId)
         m_proposal.emplace();
         cNoProgress progress;
         const cMatchResult result =
-            cMatcher(m_parts.Data, m_parts.Hive, m_parts.Accounts).MatchAll(m_proposed, progress, eMatchRun::Try);
+            cMatcher(m_tools.Data, m_parts.Hive, m_parts.Accounts).MatchAll(m_proposed, progress, eMatchRun::Try);
         for (const cMatch& match : result.Proposed + result.Assigned) {
             m_proposal->insert(match.RowId, cText::Tr("passt zu {0}", {modImportText::Candidate(match.Candidate)}));
         }

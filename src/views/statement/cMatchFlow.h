@@ -8,12 +8,10 @@
 #include <optional>
 
 class cAccountMap;
-class cAmountFormat;
 class cBooking;
-class cDataAccess;
 class cImportHiveCache;
 class cProgress;
-class cUser;
+struct cBookTools;
 struct cMatchCandidate;
 struct cMatchResult;
 
@@ -21,12 +19,9 @@ struct cMatchResult;
 class cMatchFlow
 {
 public:
-    // What the flow works with; all of it outlives the flow.
+    // What the flow works with beside the tools; all of it outlives the flow.
     struct cParts
     {
-        cDataAccess& Data;
-        const cAmountFormat& Format;
-        cUser& User;
         cImportHiveCache& Hive;
         const cAccountMap& Accounts;
         cBooking& Booking;
@@ -40,7 +35,7 @@ public:
         bool HasCorrected = false; // amounts of series were corrected, so the book itself is another one
     };
 
-    explicit cMatchFlow(const cParts& parts);
+    cMatchFlow(const cBookTools& tools, const cParts& parts);
 
     // Of a step that could not be written.
     [[nodiscard]] static cOutcome NothingDone();
@@ -61,12 +56,14 @@ public:
     [[nodiscard]] QString Proposal(int rowId);
     void ForgetProposals(); // the book or the rows are others now: they are looked up anew
 
+    [[nodiscard]] const cBookTools& Tools() const { return m_tools; }
     [[nodiscard]] const cParts& Parts() const { return m_parts; }
 
 private:
     [[nodiscard]] std::optional<int> Correct(const cMatchResult& result);
     [[nodiscard]] QStringList Lines(const cMatchResult& result, int corrected);
 
+    const cBookTools& m_tools;
     cParts m_parts;
     QList<int> m_proposed;                         // rows of the last Match
     std::optional<QHash<int, QString>> m_proposal; // by row ID, as far as it was asked for

@@ -1,6 +1,7 @@
 #include "views/statement/cRowProposals.h"
 
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "import/propose/cProposer.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
@@ -131,7 +132,7 @@ void cRowProposals::Warn(cStagedInfo& info, const modStagedTwins::cTwin& twin)
     const QString warning = modImportText::TwinReason(twin.Same);
     const std::optional<cImportEntry> other = m_parts.Hive.GetImportHive().GetImportEntryByID(twin.RowId);
     info.Hint = other ? cText::Tr("{0} wie: {1}\nVorschlag: {2}",
-                                  {warning, modImportText::Row(*other, m_parts.Matching.Parts().Format), info.Reason})
+                                  {warning, modImportText::Row(*other, m_parts.Matching.Tools().Format), info.Reason})
                       : warning;
     info.Reason = warning;
 }

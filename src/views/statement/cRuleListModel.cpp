@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
 #include "import/propose/modOwnRule.h"
@@ -21,10 +22,10 @@ using namespace Qt::Literals::StringLiterals;
 
 struct cRuleListModel::cWorks
 {
-    explicit cWorks(const cParts& parts)
-        : Stored(parts.Settings),
-          Accounts(parts.Data, parts.Settings),
-          Trial(cImportHiveCache(parts.Data).GetImportHive().getImportEntryList(), Accounts)
+    explicit cWorks(const cBookTools& tools)
+        : Stored(tools.Settings),
+          Accounts(tools.Data, tools.Settings),
+          Trial(cImportHiveCache(tools.Data).GetImportHive().getImportEntryList(), Accounts)
     {
     }
 
@@ -33,11 +34,11 @@ struct cRuleListModel::cWorks
     cRuleTrial Trial;
 };
 
-cRuleListModel::cRuleListModel(const cParts& parts, QObject* parent)
+cRuleListModel::cRuleListModel(const cBookTools& tools, QObject* parent)
     : QAbstractTableModel(parent),
-      m_parts(parts),
-      m_works(std::make_unique<cWorks>(parts)),
-      m_suggestions(std::make_unique<cEntrySuggestions>(parts.Data, parts.User)),
+      m_tools(tools),
+      m_works(std::make_unique<cWorks>(tools)),
+      m_suggestions(std::make_unique<cEntrySuggestions>(tools.Data, tools.User)),
       m_rules(m_works->Stored.Load())
 {
     m_works->Trial.SetRules(m_rules);
@@ -99,8 +100,8 @@ QString cRuleListModel::TypeOf(const cOwnRule& rule)
 
 QStringList cRuleListModel::KnownCategories() const
 {
-    QStringList paths = m_parts.Data.CountEntriesByCategory().keys();
-    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    QStringList paths = m_tools.Data.CountEntriesByCategory().keys();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     for (const cTemplateItem& item : items) {
         if (!modTemplate::IsAccount(item)) {
             paths.append(modTemplate::Path(item));
@@ -112,9 +113,9 @@ QStringList cRuleListModel::KnownCategories() const
 bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
 {
     {
-        cUndoStep undo(m_parts.Data, step);
+        cUndoStep undo(m_tools.Data, step);
         if (!undo.DoneIf(m_works->Stored.Save(rules))) {
-            m_parts.Settings.Reload();
+            m_tools.Settings.Reload();
             return false;
         }
     }
@@ -138,7 +139,7 @@ bool cRuleListModel::Save()
 {
     const QString problem = modRuleText::Problem(m_draft);
     if (!problem.isEmpty()) {
-        m_parts.User.Show(eTone::Exclamation, problem);
+        m_tools.User.Show(eTone::Exclamation, problem);
         return false;
     }
     if (!m_draft.Category.isEmpty() && !KnownCategories().contains(m_draft.Category)) {
@@ -167,7 +168,7 @@ bool cRuleListModel::Leave()
         return true;
     }
     const eAnswer answer =
-        m_parts.User.Ask({.Text = cText::Tr("Die Regel wurde geändert. Soll sie gespeichert werden?"),
+        m_tools.User.Ask({.Text = cText::Tr("Die Regel wurde geändert. Soll sie gespeichert werden?"),
                           .Title = cText::Tr("Regeln"),
                           .Buttons = eButtons::YesNoCancel});
     return answer == eAnswer::No || (answer == eAnswer::Yes && Save());
@@ -192,7 +193,7 @@ bool cRuleListModel::Delete(int place)
     }
     const QString question =
         cText::Tr("Soll diese Regel gelöscht werden?\n{0}", {modRuleText::Conditions(m_rules.at(place))});
-    if (m_parts.User.Ask({.Text = question, .Title = cText::Tr("Regel löschen")}) != eAnswer::Yes) {
+    if (m_tools.User.Ask({.Text = question, .Title = cText::Tr("Regel löschen")}) != eAnswer::Yes) {
         return false;
     }
     QList<cOwnRule> rules = m_rules;
@@ -277,14 +278,14 @@ QStringList cRuleListModel::Examples() const
     QStringList lines;
     const cImportEntryList rows = m_works->Trial.Try(m_draft, m_place).Examples;
     for (const cImportEntry& row : rows) {
-        lines.append(modImportText::Row(row, m_parts.Format));
+        lines.append(modImportText::Row(row, m_tools.Format));
     }
     return lines;
 }
 
 QStringList cRuleListModel::Accounts() const
 {
-    return cEntrySuggestions::VisibleAccounts(m_parts.Data);
+    return cEntrySuggestions::VisibleAccounts(m_tools.Data);
 }
 
 QString cRuleListModel::EmptyTitle()

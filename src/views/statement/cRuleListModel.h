@@ -9,11 +9,8 @@
 
 #include <memory>
 
-class cAmountFormat;
-class cDataAccess;
 class cEntrySuggestions;
-class cSettings;
-class cUser;
+struct cBookTools;
 struct cImportEntry;
 
 // The user's own rules for bank transactions: their list, and the one that is being edited. What changes is stored at
@@ -26,16 +23,7 @@ public:
     enum eColumn { Rule, Result, Count, ColumnCount };
     enum eRole { QuietRole = Qt::UserRole }; // bool: switched off, or not readable
 
-    // What the list works with; all of it outlives the list.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        cUser& User;
-    };
-
-    explicit cRuleListModel(const cParts& parts, QObject* parent = nullptr);
+    explicit cRuleListModel(const cBookTools& tools, QObject* parent = nullptr);
     ~cRuleListModel() override;
 
     // Starts editing: a stored rule, a new one, or a new one proposed from a transaction. The latter comes to stand
@@ -105,7 +93,7 @@ private:
     bool Store(const QList<cOwnRule>& rules, const QString& step);
     void Edit(const cOwnRule& rule, int place, bool isNew);
 
-    cParts m_parts;
+    const cBookTools& m_tools;
     std::unique_ptr<cWorks> m_works;
     std::unique_ptr<cEntrySuggestions> m_suggestions;
     QList<cOwnRule> m_rules;

@@ -2,7 +2,9 @@
 
 #include "base/cText.h"
 #include "base/modCount.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,22 +13,17 @@ namespace {
 
 using eGrouping = modStagedGroup::eGrouping;
 
-const QString openOnlySetting = u"HideBookedEntries"_s;
-const QString oldSetting = u"HideOldImportEntries"_s;
-const QString titleSetting = u"HideAssignTitle"_s;
-const QString groupingSetting = u"ImportGrouping"_s;
-const QString layoutSetting = u"ImportList"_s;
-
 } // namespace
 
-cStagedChoice::cStagedChoice(const cParts& parts, const cImportRuns::cRange& import, QObject* parent)
+cStagedChoice::cStagedChoice(cStagedSource& source, const cBookTools& tools, const cImportRuns::cRange& import,
+                             QObject* parent)
     : QObject(parent),
-      m_parts(parts),
+      m_tools(tools),
       m_import(import),
-      m_rows(parts.Source, parts.Format)
+      m_rows(source, tools.Format)
 {
     m_rows.SetShown(Shown());
-    m_rows.SetGrouping(modStagedGroup::FromStored(m_parts.Settings.Get(groupingSetting)));
+    m_rows.SetGrouping(modStagedGroup::FromStored(m_tools.Settings.Get(modSettingKey::ImportGrouping)));
 }
 
 cStagedOrder::cShown cStagedChoice::Shown() const
@@ -53,7 +50,7 @@ void cStagedChoice::SetRows(const cImportEntryList& rows)
     if (m_rows.Shown() != Shown()) {
         m_rows.SetShown(Shown());
     }
-    const eGrouping grouping = modStagedGroup::FromStored(m_parts.Settings.Get(groupingSetting));
+    const eGrouping grouping = modStagedGroup::FromStored(m_tools.Settings.Get(modSettingKey::ImportGrouping));
     if (m_rows.Grouping() != grouping) {
         m_rows.SetGrouping(grouping);
     }
@@ -70,34 +67,34 @@ void cStagedChoice::ForgetInfo()
 bool cStagedChoice::IsOpenOnly() const
 {
     // What waits is what the page is for, so a new book starts with it alone.
-    return m_parts.Settings.Get(openOnlySetting).isEmpty() || m_parts.Settings.GetBool(openOnlySetting);
+    return m_tools.Settings.GetBool(modSettingKey::HideBooked);
 }
 
 void cStagedChoice::SetOpenOnly(bool isOpenOnly)
 {
-    m_parts.Settings.SetBool(openOnlySetting, isOpenOnly);
+    m_tools.Settings.SetBool(modSettingKey::HideBooked, isOpenOnly);
     Show();
 }
 
 bool cStagedChoice::IsOldHidden() const
 {
-    return m_parts.Settings.GetBool(oldSetting);
+    return m_tools.Settings.GetBool(modSettingKey::HideOld);
 }
 
 void cStagedChoice::SetOldHidden(bool isHidden)
 {
-    m_parts.Settings.SetBool(oldSetting, isHidden);
+    m_tools.Settings.SetBool(modSettingKey::HideOld, isHidden);
     Show();
 }
 
 bool cStagedChoice::IsTitleShown() const
 {
-    return !m_parts.Settings.GetBool(titleSetting);
+    return !m_tools.Settings.GetBool(modSettingKey::HideTitle);
 }
 
 void cStagedChoice::SetTitleShown(bool isShown)
 {
-    m_parts.Settings.SetBool(titleSetting, !isShown);
+    m_tools.Settings.SetBool(modSettingKey::HideTitle, !isShown);
     Q_EMIT Changed();
 }
 
@@ -117,7 +114,7 @@ void cStagedChoice::SetGrouping(int place)
         return;
     }
     const auto grouping = static_cast<eGrouping>(place);
-    m_parts.Settings.Set(groupingSetting, modStagedGroup::Stored(grouping));
+    m_tools.Settings.Set(modSettingKey::ImportGrouping, modStagedGroup::Stored(grouping));
     m_rows.SetGrouping(grouping);
     Q_EMIT Changed();
 }
@@ -163,12 +160,12 @@ QString cStagedChoice::CountText() const
 
 QString cStagedChoice::Layout() const
 {
-    return m_parts.Settings.Get(layoutSetting);
+    return m_tools.Settings.Get(modSettingKey::ImportList);
 }
 
 void cStagedChoice::SaveLayout(const QString& layout)
 {
-    if (layout != Layout() && !m_parts.Data.IsReadOnly()) {
-        m_parts.Settings.Set(layoutSetting, layout);
+    if (layout != Layout() && !m_tools.Data.IsReadOnly()) {
+        m_tools.Settings.Set(modSettingKey::ImportList, layout);
     }
 }

@@ -7,9 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-class cAmountFormat;
-class cDataAccess;
-class cSettings;
+struct cBookTools;
 
 // What a list of bank transactions shows and how: all rows or those of one import, without booked and old ones, in
 // groups, and what it says about itself. The choices are kept in the settings.
@@ -18,17 +16,9 @@ class cStagedChoice final : public QObject
     Q_OBJECT
 
 public:
-    // What the view works with; all of it outlives the view.
-    struct cParts
-    {
-        cStagedSource& Source;
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-    };
-
     // With a range only the rows of that import are shown, old ones among them.
-    explicit cStagedChoice(const cParts& parts, const cImportRuns::cRange& import = {}, QObject* parent = nullptr);
+    cStagedChoice(cStagedSource& source, const cBookTools& tools, const cImportRuns::cRange& import = {},
+                  QObject* parent = nullptr);
 
     [[nodiscard]] cStagedListModel& Rows() { return m_rows; }
     void SetRows(const cImportEntryList& rows);
@@ -62,7 +52,7 @@ private:
     [[nodiscard]] cStagedOrder::cShown Shown() const;
     void Show();
 
-    cParts m_parts;
+    const cBookTools& m_tools;
     cImportRuns::cRange m_import;
     cStagedListModel m_rows;
 };

@@ -3,6 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "core/cBookTools.h"
 #include "import/read/cStatementSource.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cAccountMap.h"
@@ -27,10 +28,10 @@ using namespace Qt::Literals::StringLiterals;
 
 struct cStatementFiles::cWorks
 {
-    explicit cWorks(const cParts& parts)
-        : Memory(parts.Settings),
-          Balances(parts.Settings),
-          Import(parts.Data, parts.Hive, &Memory, &Balances)
+    cWorks(const cBookTools& tools, cImportHiveCache& hive)
+        : Memory(tools.Settings),
+          Balances(tools.Settings),
+          Import(tools.Data, hive, &Memory, &Balances)
     {
     }
 
@@ -39,10 +40,13 @@ struct cStatementFiles::cWorks
     cStatementImport Import;
 };
 
-cStatementFiles::cStatementFiles(const cParts& parts, QObject* parent)
+cStatementFiles::cStatementFiles(const cBookTools& tools, cImportHiveCache& hive, cAccountMap& accounts,
+                                 QObject* parent)
     : QObject(parent),
-      m_parts(parts),
-      m_works(std::make_unique<cWorks>(parts))
+      m_tools(tools),
+      m_hive(hive),
+      m_accounts(accounts),
+      m_works(std::make_unique<cWorks>(tools, hive))
 {
 }
 
@@ -50,7 +54,7 @@ cStatementFiles::~cStatementFiles() = default;
 
 void cStatementFiles::ChooseFiles(cProgress& progress, eAssist assist)
 {
-    const QStringList paths = m_parts.User.ChooseFiles(
+    const QStringList paths = m_tools.User.ChooseFiles(
         cText::Tr("Kontoauszüge importieren"),
         cText::Tr("CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle "
                   "Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;"
@@ -68,7 +72,7 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
     }
     const QScopedValueRollback running(m_isRunning, true);
     while (!m_waiting.isEmpty()) {
-        const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
+        const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
         QList<cFile> files;
         for (const QString& path : std::exchange(m_waiting, {})) {
             files.append({path, {}});
@@ -79,12 +83,12 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
 
 bool cStatementFiles::CanReadAgain() const
 {
-    return m_assist && !m_last.isEmpty() && !m_parts.Data.IsReadOnly();
+    return m_assist && !m_last.isEmpty() && !m_tools.Data.IsReadOnly();
 }
 
 void cStatementFiles::ReadAgain(cProgress& progress)
 {
-    const cUndoStep step(m_parts.Data, cText::Tr("Kontoauszug noch einmal eingelesen"), cJournal::eWrites::InPortions);
+    const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug noch einmal eingelesen"), cJournal::eWrites::InPortions);
     const QList<cFile> files = m_last;
     Run(files, progress, eAssist::Always);
 }
@@ -122,7 +126,7 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
         m_last.last().Rows.append(rows);
         run.Rows.append(rows);
         Q_EMIT FileStaged(rows);
-        run.Lines.append(modImportText::Summary(result, m_parts.Format));
+        run.Lines.append(modImportText::Summary(result, m_tools.Format));
         KeepLeftOut(result);
         run.Numbers.append(result.Accounts);
         isStopped = result.IsCancelled;
@@ -132,7 +136,7 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
     Q_EMIT Imported(run.Lines);
     Q_EMIT LeftOutChanged();
     if (!run.Refusals.isEmpty()) {
-        m_parts.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
+        m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
     AskAccounts(run.Numbers);
     Q_EMIT RowsStaged(run.Rows);
@@ -172,17 +176,17 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
 {
     run.Progress.hideProgressBar();
     QStringList numbers = m_works->Memory.Accounts(result.AccountKey);
-    for (const auto& [number, account] : m_parts.Accounts.Mapping()) {
+    for (const auto& [number, account] : m_accounts.Mapping()) {
         numbers.append(number);
     }
     numbers.removeDuplicates();
     QStringList shown; // with the account, which people know rather than its number
     for (const QString& number : std::as_const(numbers)) {
-        const QString account = m_parts.Accounts.AccountOf(number);
+        const QString account = m_accounts.AccountOf(number);
         shown.append(account.isEmpty() ? number : cText::Tr("{0} – {1}", {number, account}));
     }
     const std::optional<QString> given =
-        m_parts.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
+        m_tools.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
                              .Title = cText::Tr("Kontonummer"),
                              .Items = shown,
                              .Proposal = shown.value(0),
@@ -208,7 +212,7 @@ std::unique_ptr<cImportAssistant> cStatementFiles::StartAssistant(const QString&
     if (!content.Failure.isEmpty()) {
         return nullptr;
     }
-    const cImportAssistant::cParts parts{m_parts.Data, m_parts.Format, m_parts.Hive, m_parts.Accounts, m_works->Memory};
+    const cImportAssistant::cParts parts{m_tools.Data, m_tools.Format, m_hive, m_accounts, m_works->Memory};
     return std::make_unique<cImportAssistant>(parts, modStatementFormat::Source(path, content.Bytes));
 }
 
@@ -230,7 +234,7 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
         result.Message = cText::Tr("Der Importassistent wurde abgebrochen.");
         return result;
     }
-    cUndoPart part(m_parts.Data);
+    cUndoPart part(m_tools.Data);
     const QList<int> booked = RemoveOpen(file.Rows);
     run.Newest = NewestRow(); // the numbers of removed rows come again
     result = m_works->Import.ImportSource(assistant->Source(), assistant->Options(), run.Progress);
@@ -259,25 +263,25 @@ QList<int> cStatementFiles::RemoveOpen(const QList<int>& rows)
 {
     QList<int> booked;
     QList<int> open;
-    const cImportHive& hive = m_parts.Hive.GetImportHive();
+    const cImportHive& hive = m_hive.GetImportHive();
     for (const int id : rows) {
         if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {
             (row->ImportAssigned ? booked : open).append(id);
         }
     }
-    (void)m_parts.Hive.Remove(open); // of a refusal the user has been told; what stays is found to be there already
+    (void)m_hive.Remove(open); // of a refusal the user has been told; what stays is found to be there already
     return booked;
 }
 
 int cStatementFiles::NewestRow()
 {
-    return m_parts.Hive.GetImportHive().NextId() - 1;
+    return m_hive.GetImportHive().NextId() - 1;
 }
 
 QList<int> cStatementFiles::RowsAbove(int newest)
 {
     QList<int> ids;
-    const cImportEntryList rows = m_parts.Hive.GetImportHive().getImportEntryList();
+    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
     for (const cImportEntry& row : rows) {
         if (row.ID > newest) {
             ids.append(row.ID);
@@ -301,14 +305,14 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
 
 void cStatementFiles::AskAccounts(const QStringList& numbers)
 {
-    QStringList unknown = m_parts.Accounts.Unknown(numbers);
+    QStringList unknown = m_accounts.Unknown(numbers);
     unknown.removeDuplicates();
-    if (unknown.isEmpty() || m_parts.Data.IsReadOnly()) {
+    if (unknown.isEmpty() || m_tools.Data.IsReadOnly()) {
         return;
     }
     QStringList lines;
     for (const QString& number : std::as_const(unknown)) {
-        if (m_parts.Accounts.Ask(number, m_parts.User).isEmpty()) {
+        if (m_accounts.Ask(number, m_tools.User).isEmpty()) {
             lines.append(modImportText::NoAccount(number));
         }
     }
@@ -319,15 +323,15 @@ QStringList cStatementFiles::LeftOut() const
 {
     QStringList texts;
     for (const cLeftOut& row : m_leftOut) {
-        texts.append(modImportText::Row(row.Entry, m_parts.Format) + u"  ·  " + row.Reason);
+        texts.append(modImportText::Row(row.Entry, m_tools.Format) + u"  ·  " + row.Reason);
     }
     return texts;
 }
 
 void cStatementFiles::StageLeftOut(const QList<int>& places)
 {
-    cUndoStep step(m_parts.Data, cText::Tr("Umsätze trotzdem übernommen"));
-    cStaging staging(m_parts.Hive);
+    cUndoStep step(m_tools.Data, cText::Tr("Umsätze trotzdem übernommen"));
+    cStaging staging(m_hive);
     const int newest = NewestRow();
     QList<cLeftOut> rest = m_leftOut;
     QList<int> taken = places;

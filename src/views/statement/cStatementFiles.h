@@ -12,13 +12,10 @@
 #include <utility>
 
 class cAccountMap;
-class cAmountFormat;
-class cDataAccess;
 class cImportAssistant;
 class cImportHiveCache;
 class cProgress;
-class cSettings;
-class cUser;
+struct cBookTools;
 struct cImportResult;
 
 // Statement files into staged rows, with the questions that this takes.
@@ -27,18 +24,8 @@ class cStatementFiles final : public QObject
     Q_OBJECT
 
 public:
-    // What it works with; all of it outlives this object.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        cUser& User;
-        cImportHiveCache& Hive;
-        cAccountMap& Accounts;
-    };
-
-    explicit cStatementFiles(const cParts& parts, QObject* parent = nullptr);
+    // All of these outlive the flow.
+    cStatementFiles(const cBookTools& tools, cImportHiveCache& hive, cAccountMap& accounts, QObject* parent = nullptr);
     ~cStatementFiles() override;
 
     // Opens the window of the assistant; false when the user gives up. Without one only the account is asked for.
@@ -112,7 +99,9 @@ private:
     [[nodiscard]] int NewestRow();
     [[nodiscard]] QList<int> RowsAbove(int newest);
 
-    cParts m_parts;
+    const cBookTools& m_tools;
+    cImportHiveCache& m_hive;
+    cAccountMap& m_accounts;
     std::unique_ptr<cWorks> m_works;
     fnAssist m_assist;
     QStringList m_waiting; // files that came while others were read

@@ -5,6 +5,7 @@
 #include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/statement/modBalanceText.h"
@@ -42,10 +43,10 @@ QString OneLine(const QString& text)
 
 } // namespace
 
-cStatementListModel::cStatementListModel(const cParts& parts, QObject* parent)
+cStatementListModel::cStatementListModel(const cBookTools& tools, QObject* parent)
     : QAbstractTableModel(parent),
-      m_parts(parts),
-      m_ledger(parts.Data, parts.Settings),
+      m_tools(tools),
+      m_ledger(tools.Data, tools.Settings),
       m_period(modWord::AlleBuchungen)
 {
     m_timer.setSingleShot(true);
@@ -119,7 +120,7 @@ modPeriod::cRange cStatementListModel::Range() const
 
 QDate cStatementListModel::Today() const
 {
-    return m_parts.Clock.Today();
+    return m_tools.Clock.Today();
 }
 
 void cStatementListModel::TypeFilter(const QString& text)
@@ -185,7 +186,7 @@ void cStatementListModel::Filter()
 cListFilter& cStatementListModel::Texts()
 {
     if (!m_filter) {
-        m_filter = std::make_unique<cListFilter>(m_parts.Format);
+        m_filter = std::make_unique<cListFilter>(m_tools.Format);
         for (const cImportEntry& row : m_ledger.Rows()) {
             const QStringList texts{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
                                     row.ImportBeneficiaryAccount};
@@ -201,8 +202,8 @@ QStringList cStatementListModel::Findings() const
     if (m_ledger.Rows().isEmpty()) {
         return {};
     }
-    QStringList lines = modBalanceText::Bank(m_ledger, m_parts.Format);
-    lines.append(modBalanceText::Book(m_book, m_ledger.AccountOf(Number()), m_parts.Format));
+    QStringList lines = modBalanceText::Bank(m_ledger, m_tools.Format);
+    lines.append(modBalanceText::Book(m_book, m_ledger.AccountOf(Number()), m_tools.Format));
     lines.removeAll(QString());
     return lines;
 }
@@ -223,17 +224,17 @@ QString cStatementListModel::CountText() const
 
 QString cStatementListModel::IncomeText() const
 {
-    return m_parts.Format.Cents(m_income);
+    return m_tools.Format.Cents(m_income);
 }
 
 QString cStatementListModel::ExpenseText() const
 {
-    return m_parts.Format.Cents(m_expense);
+    return m_tools.Format.Cents(m_expense);
 }
 
 QString cStatementListModel::TotalText() const
 {
-    return m_parts.Format.Cents(m_income + m_expense);
+    return m_tools.Format.Cents(m_income + m_expense);
 }
 
 QString cStatementListModel::EmptyTitle() const
@@ -349,7 +350,7 @@ const QString& cStatementListModel::CategoryOf(const cImportEntry& row) const
     const int id = row.ImportAssigned ? row.ImportAssignedEntry : -1;
     auto found = m_categories.find(id);
     if (found == m_categories.end()) {
-        const std::optional<cEntryItem> entry = id > -1 ? m_parts.Data.LoadEntry(id) : std::nullopt;
+        const std::optional<cEntryItem> entry = id > -1 ? m_tools.Data.LoadEntry(id) : std::nullopt;
         found = m_categories.insert(id, entry ? entry->EntryCategory : QString());
     }
     return *found;
@@ -362,8 +363,8 @@ QString cStatementListModel::Text(qsizetype row, int column) const
     case Day: return modDate::ToGerman(entry.ImportDate);
     case Counterparty: return OneLine(entry.ImportBeneficiary);
     case Purpose: return OneLine(entry.ImportPurpose.isEmpty() ? entry.ImportType : entry.ImportPurpose);
-    case Amount: return m_parts.Format.Cents(m_ledger.CentsOf(row));
-    case Balance: return m_parts.Format.Cents(m_ledger.BalanceAfter(row + 1));
+    case Amount: return m_tools.Format.Cents(m_ledger.CentsOf(row));
+    case Balance: return m_tools.Format.Cents(m_ledger.BalanceAfter(row + 1));
     case State: return entry.ImportAssigned ? cText::Tr("gebucht") : cText::Tr("offen");
     case Category: return CategoryOf(entry);
     default: return {};

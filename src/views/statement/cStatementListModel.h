@@ -16,10 +16,7 @@
 #include <utility>
 #include <vector>
 
-class cAmountFormat;
-class cClock;
-class cDataAccess;
-class cSettings;
+struct cBookTools;
 
 // The statement of a bank account as the staged rows tell it: rows by day with the balance after each, checked against
 // the balances that the bank named and against the account of the book.
@@ -35,19 +32,10 @@ public:
         BookedRole,              // bool
     };
 
-    // What the model works with; all of it outlives the model.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        const cClock& Clock;
-    };
-
     enum class eFinding { Good, Unknown, Bad };
 
     // Shows the account with the newest rows.
-    explicit cStatementListModel(const cParts& parts, QObject* parent = nullptr);
+    explicit cStatementListModel(const cBookTools& tools, QObject* parent = nullptr);
     ~cStatementListModel() override;
 
     [[nodiscard]] const QStringList& Numbers() const { return m_numbers; }
@@ -109,7 +97,7 @@ private:
     [[nodiscard]] QString Text(qsizetype row, int column) const;
     [[nodiscard]] const QString& CategoryOf(const cImportEntry& row) const;
 
-    cParts m_parts;
+    const cBookTools& m_tools;
     cStatementLedger m_ledger;
     cBookComparison m_book;
     QStringList m_numbers;

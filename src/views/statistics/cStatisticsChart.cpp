@@ -2,7 +2,9 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/list/modSetting.h"
 
@@ -17,10 +19,10 @@ constexpr int mostForecast = 12; // months
 
 } // namespace
 
-cStatisticsChart::cStatisticsChart(const cParts& parts, const QString& prefix, eChartKind kind, QObject* parent)
+cStatisticsChart::cStatisticsChart(const cBookTools& tools, const QString& pane, eChartKind kind, QObject* parent)
     : QObject(parent),
-      m_parts(parts),
-      m_prefix(prefix),
+      m_tools(tools),
+      m_pane(pane),
       m_kind(kind)
 {
 }
@@ -34,35 +36,36 @@ QStringList cStatisticsChart::Kinds()
 
 void cStatisticsChart::Restore()
 {
-    const cSettings& settings = m_parts.Settings;
-    m_period.Restore(settings, m_prefix, m_parts.Clock.Today());
+    const cSettings& settings = m_tools.Settings;
+    m_period.Restore(settings, m_pane, m_tools.Clock.Today());
     bool isNumber = false;
-    const int kind = settings.Get(m_prefix + u"Diagramm"_s).toInt(&isNumber);
+    const int kind = settings.Get(modSettingKey::PaneChart.Of(m_pane)).toInt(&isNumber);
     if (isNumber && kind >= 0 && kind < kindCount) {
         m_kind = static_cast<eChartKind>(kind);
     }
-    m_second = settings.Get(m_prefix + u"Vergleich"_s);
+    m_second = settings.Get(modSettingKey::PaneCompare.Of(m_pane));
     m_compare = m_second == u"Vorjahr"          ? eCompare::YearBefore
         : modWord::Periods().Contains(m_second) ? eCompare::Period
                                                 : eCompare::Nothing;
-    const int months = settings.Get(m_prefix + u"Vorschau"_s).toInt(&isNumber);
-    m_forecastMonths = isNumber ? std::clamp(months, 0, mostForecast) : m_forecastMonths;
-    m_showsAverage = settings.GetBool(m_prefix + u"Durchschnitt"_s);
+    const cSettingKey forecast = modSettingKey::PaneForecast.Of(m_pane);
+    const int months = settings.Get(forecast).toInt(&isNumber);
+    m_forecastMonths = isNumber ? std::clamp(months, 0, mostForecast) : forecast.Default().toInt();
+    m_showsAverage = settings.GetBool(modSettingKey::PaneAverage.Of(m_pane));
     m_group.reset();
     Invalidate();
 }
 
 void cStatisticsChart::Save()
 {
-    cSettings& settings = m_parts.Settings;
-    m_period.Save(settings, m_prefix);
-    const auto keep = [&](const QString& name, const QString& value) {
-        modSetting::Keep(settings, m_prefix + name, value);
+    cSettings& settings = m_tools.Settings;
+    m_period.Save(settings, m_pane);
+    const auto keep = [&](const cSettingFamily& key, const QString& value) {
+        modSetting::Keep(settings, key.Of(m_pane), value);
     };
-    keep(u"Diagramm"_s, QString::number(static_cast<int>(m_kind)));
-    keep(u"Vergleich"_s, m_compare == eCompare::YearBefore ? u"Vorjahr"_s : m_second);
-    keep(u"Vorschau"_s, QString::number(m_forecastMonths));
-    keep(u"Durchschnitt"_s, cSettings::FromBool(m_showsAverage));
+    keep(modSettingKey::PaneChart, QString::number(static_cast<int>(m_kind)));
+    keep(modSettingKey::PaneCompare, m_compare == eCompare::YearBefore ? u"Vorjahr"_s : m_second);
+    keep(modSettingKey::PaneForecast, QString::number(m_forecastMonths));
+    keep(modSettingKey::PaneAverage, cSettings::FromBool(m_showsAverage));
 }
 
 void cStatisticsChart::SetAccount(const QString& account)
@@ -91,7 +94,7 @@ void cStatisticsChart::Invalidate()
 
 void cStatisticsChart::Refresh()
 {
-    cChartMaker maker(m_parts.Data, m_parts.Format, m_parts.Clock.Today());
+    cChartMaker maker(m_tools.Data, m_tools.Format, m_tools.Clock.Today());
     m_data = maker.Make(Wish());
     m_isStale = false;
     Q_EMIT Changed();
@@ -105,11 +108,11 @@ cChartWish cStatisticsChart::Wish() const
     if (m_compare == eCompare::YearBefore) {
         wish.Second = cChartWish::YearBefore(wish.Range);
     } else if (m_compare == eCompare::Period) {
-        wish.Second = modPeriod::Range(m_second, m_parts.Clock.Today(), m_period.Free());
+        wish.Second = modPeriod::Range(m_second, m_tools.Clock.Today(), m_period.Free());
     }
     wish.Account = m_account;
     wish.Group = m_group;
-    wish.ShowsFuture = m_parts.Settings.GetBool(u"ViewFutureBooking"_s);
+    wish.ShowsFuture = m_tools.Settings.GetBool(modSettingKey::ViewFuture);
     wish.ShowsAverage = m_showsAverage;
     wish.ForecastMonths = HasForecast() ? m_forecastMonths : 0;
     return wish;
@@ -117,7 +120,7 @@ cChartWish cStatisticsChart::Wish() const
 
 modPeriod::cRange cStatisticsChart::Range() const
 {
-    return m_period.Range(m_parts.Clock.Today());
+    return m_period.Range(m_tools.Clock.Today());
 }
 
 void cStatisticsChart::ChooseKind(eChartKind kind)
@@ -130,7 +133,7 @@ void cStatisticsChart::ChooseKind(eChartKind kind)
 
 void cStatisticsChart::ChoosePeriod(const QString& name)
 {
-    m_period.Choose(name, m_parts.Clock.Today());
+    m_period.Choose(name, m_tools.Clock.Today());
     Save();
     Invalidate();
     Q_EMIT PeriodChosen(name);

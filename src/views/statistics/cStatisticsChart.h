@@ -8,10 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-class cAmountFormat;
-class cClock;
-class cDataAccess;
-class cSettings;
+struct cBookTools;
 
 // One of the two smaller panes of the statistics: a chart with its own period. Makes the chart only when somebody
 // looks.
@@ -20,19 +17,11 @@ class cStatisticsChart final : public QObject
     Q_OBJECT
 
 public:
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        const cClock& Clock;
-    };
-
     // What can be laid beside the period.
     enum class eCompare { Nothing, YearBefore, Period };
 
-    // `prefix`: of the keys of its settings. `kind`: the chart as long as no other was chosen.
-    cStatisticsChart(const cParts& parts, const QString& prefix, eChartKind kind, QObject* parent = nullptr);
+    // `pane`: part of the keys of its settings. `kind`: the chart as long as no other was chosen.
+    cStatisticsChart(const cBookTools& tools, const QString& pane, eChartKind kind, QObject* parent = nullptr);
 
     void Restore();
     void SetAccount(const QString& account); // empty: all accounts
@@ -75,8 +64,8 @@ private:
     void Refresh();
     void Save();
 
-    cParts m_parts;
-    QString m_prefix;
+    const cBookTools& m_tools;
+    QString m_pane;
     eChartKind m_kind;
     cStatisticsPeriod m_period;
     eCompare m_compare = eCompare::Nothing;

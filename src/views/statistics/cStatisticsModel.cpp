@@ -5,8 +5,10 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/cTemplateItem.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/chart/modChart.h"
 #include "views/list/modSetting.h"
@@ -25,7 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Keys of the page's settings begin so.
-const QString prefix = u"Statistik"_s;
+const QString reportPane; // the charts are "1" and "2"
 
 // What a selection of entries is, in words.
 QString TitleOf(const cReportNode& node)
@@ -60,28 +62,30 @@ std::function<cEntryItemList(const cEntryItemList&)> Picker(const cReportWish& w
 }
 
 template <typename tEnum>
-tEnum Stored(const cSettings& settings, const QString& name, tEnum last, tEnum otherwise)
+tEnum Stored(const cSettings& settings, const cSettingKey& key, tEnum last)
 {
     bool isNumber = false;
-    const int value = settings.Get(prefix + name).toInt(&isNumber);
-    return isNumber && value >= 0 && value <= static_cast<int>(last) ? static_cast<tEnum>(value) : otherwise;
+    const int value = settings.Get(key).toInt(&isNumber);
+    return static_cast<tEnum>(isNumber && value >= 0 && value <= static_cast<int>(last) ? value
+                                                                                        : key.Default().toInt());
 }
 
 template <typename tEnum>
-void Store(cSettings& settings, const QString& name, tEnum value)
+void Store(cSettings& settings, const cSettingKey& key, tEnum value)
 {
-    modSetting::Keep(settings, prefix + name, QString::number(static_cast<int>(value)));
+    modSetting::Keep(settings, key, QString::number(static_cast<int>(value)));
 }
 
 } // namespace
 
-cStatisticsModel::cStatisticsModel(const cParts& parts, QObject* parent)
+cStatisticsModel::cStatisticsModel(const cBookTools& tools, const cParts& parts, QObject* parent)
     : QObject(parent),
+      m_tools(tools),
       m_parts(parts),
-      m_source(parts.Data, parts.Settings, parts.Clock, parts.Format),
-      m_tree(parts.Format),
-      m_firstChart({parts.Data, parts.Settings, parts.Format, parts.Clock}, prefix + u"1"_s, eChartKind::ExpensePie),
-      m_secondChart({parts.Data, parts.Settings, parts.Format, parts.Clock}, prefix + u"2"_s, eChartKind::Months)
+      m_source(tools),
+      m_tree(tools.Format),
+      m_firstChart(tools, u"1"_s, eChartKind::ExpensePie),
+      m_secondChart(tools, u"2"_s, eChartKind::Months)
 {
     for (const cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
         connect(chart, &cStatisticsChart::PeriodChosen, this, [this, chart](const QString& name) {
@@ -94,14 +98,14 @@ cStatisticsModel::cStatisticsModel(const cParts& parts, QObject* parent)
 
 void cStatisticsModel::Restore()
 {
-    const cSettings& settings = m_parts.Settings;
-    m_type = Stored(settings, u"Bericht"_s, eReport::Limit, eReport::Average);
-    m_period.Restore(settings, prefix, m_parts.Clock.Today());
-    m_order = Stored(settings, u"Ordnung"_s, eReportOrder::ByAmount, eReportOrder::ByName);
-    m_spending = Stored(settings, u"Erstattungen"_s, eReportSpending::Gross, eReportSpending::Net);
-    m_page = Stored(settings, u"Seite"_s, ePage::Charts, ePage::Report);
-    const int zoom = settings.Get(prefix + u"Zoom"_s).toInt();
-    m_zoom = zoom > 0 ? zoom : 100;
+    const cSettings& settings = m_tools.Settings;
+    m_type = Stored(settings, modSettingKey::StatisticsReport, eReport::Limit);
+    m_period.Restore(settings, reportPane, m_tools.Clock.Today());
+    m_order = Stored(settings, modSettingKey::StatisticsOrder, eReportOrder::ByAmount);
+    m_spending = Stored(settings, modSettingKey::StatisticsSpending, eReportSpending::Gross);
+    m_page = Stored(settings, modSettingKey::StatisticsPage, ePage::Charts);
+    const int zoom = settings.Get(modSettingKey::StatisticsZoom).toInt();
+    m_zoom = zoom > 0 ? zoom : modSettingKey::StatisticsZoom.Default().toInt();
     for (cStatisticsChart* chart : {&m_firstChart, &m_secondChart}) {
         chart->Restore();
     }
@@ -122,7 +126,7 @@ void cStatisticsModel::SetShown(bool isShown)
 void cStatisticsModel::ChoosePage(ePage page)
 {
     m_page = page;
-    Store(m_parts.Settings, u"Seite"_s, page);
+    Store(m_tools.Settings, modSettingKey::StatisticsPage, page);
     SetShown(m_isShown);
 }
 
@@ -141,16 +145,16 @@ cReportWish cStatisticsModel::Wish() const
 
 modPeriod::cRange cStatisticsModel::Range() const
 {
-    return m_period.Range(m_parts.Clock.Today());
+    return m_period.Range(m_tools.Clock.Today());
 }
 
 void cStatisticsModel::Changed()
 {
-    cSettings& settings = m_parts.Settings;
-    Store(settings, u"Bericht"_s, m_type);
-    Store(settings, u"Ordnung"_s, m_order);
-    Store(settings, u"Erstattungen"_s, m_spending);
-    m_period.Save(settings, prefix);
+    cSettings& settings = m_tools.Settings;
+    Store(settings, modSettingKey::StatisticsReport, m_type);
+    Store(settings, modSettingKey::StatisticsOrder, m_order);
+    Store(settings, modSettingKey::StatisticsSpending, m_spending);
+    m_period.Save(settings, reportPane);
     Q_EMIT SelectorsChanged();
     m_isStale = true;
     SetShown(m_isShown);
@@ -160,7 +164,7 @@ void cStatisticsModel::Refresh()
 {
     const cReportWish wish = Wish();
     const cReportFigures& figures = m_source.Figures(wish);
-    const QString html = modReportHtml::Html(figures, wish, m_parts.Format);
+    const QString html = modReportHtml::Html(figures, wish, m_tools.Format);
     m_isStale = false;
     if (html != m_html || figures != m_tree.Figures()) {
         m_html = html;
@@ -193,7 +197,7 @@ void cStatisticsModel::ChooseReport(eReport type)
 void cStatisticsModel::ChooseAccount(const QString& account)
 {
     m_account = Accounts().contains(account) ? account : modWord::AlleKonten;
-    modSetting::Keep(m_parts.Settings, modSetting::StatisticsAccount, m_account);
+    modSetting::Keep(m_tools.Settings, modSettingKey::StatisticsAccount, m_account);
     m_firstChart.SetAccount(Wish().Account);
     m_secondChart.SetAccount(Wish().Account);
     Changed();
@@ -201,7 +205,7 @@ void cStatisticsModel::ChooseAccount(const QString& account)
 
 void cStatisticsModel::ChoosePeriod(const QString& name)
 {
-    m_period.Choose(name, m_parts.Clock.Today());
+    m_period.Choose(name, m_tools.Clock.Today());
     OfferFuture(name);
     Changed();
 }
@@ -252,12 +256,12 @@ void cStatisticsModel::SetZoom(int percent)
         return;
     }
     m_zoom = percent;
-    m_parts.Settings.Set(prefix + u"Zoom"_s, QString::number(percent));
+    m_tools.Settings.Set(modSettingKey::StatisticsZoom, QString::number(percent));
 }
 
 void cStatisticsModel::BookChanged()
 {
-    const QString account = m_parts.Settings.Get(modSetting::StatisticsAccount);
+    const QString account = m_tools.Settings.Get(modSettingKey::StatisticsAccount);
     m_account = Accounts().contains(account) ? account : modWord::AlleKonten; // which may come back
     m_source.Forget();
     m_isStale = true;
@@ -306,7 +310,7 @@ void cStatisticsModel::ShowTarget(const cStatisticsChart& chart, const cChartTar
 {
     cChartWish asked = chart.Wish();
     asked.Account = target.Account;
-    const cReportWish wish = modChart::ReportWish(asked, target.Range, m_parts.Clock.Today());
+    const cReportWish wish = modChart::ReportWish(asked, target.Range, m_tools.Clock.Today());
     if (target.Node) {
         ShowSelected(wish, *target.Node);
         return;
@@ -371,25 +375,25 @@ void cStatisticsModel::SavePdf(const fnPaintPdf& paint)
     const cReportWish wish = Wish();
     const QString title = cText::Tr("Als PDF speichern");
     const QString proposal = u"Kontorelle-%1-%2.pdf"_s.arg(modReport::ShownName(wish.Type), modDate::ToIso(wish.Today));
-    const QString path = m_parts.User.ChooseSavePath(title, cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"), proposal);
+    const QString path = m_tools.User.ChooseSavePath(title, cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"), proposal);
     if (path.isEmpty()) {
         return;
     }
     const QStringList shownPath{QDir::toNativeSeparators(path)};
     if (paint(PrintHtml(), path)) {
-        m_parts.User.Show(eTone::Information, cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", shownPath), title);
+        m_tools.User.Show(eTone::Information, cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", shownPath), title);
     } else {
-        m_parts.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", shownPath),
+        m_tools.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", shownPath),
                           title);
     }
 }
 
 void cStatisticsModel::SaveFile()
 {
-    (void)cReportExport(m_parts.User, m_source, m_parts.Format).Run(Wish());
+    (void)cReportExport(m_tools.User, m_source, m_tools.Format).Run(Wish());
 }
 
 void cStatisticsModel::SaveChart(const cChartData& chart, const cChartSave::cPictures& pictures)
 {
-    (void)cChartSave(m_parts.User, pictures).Run(chart, m_parts.Clock.Today());
+    (void)cChartSave(m_tools.User, pictures).Run(chart, m_tools.Clock.Today());
 }

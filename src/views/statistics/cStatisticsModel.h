@@ -16,14 +16,10 @@
 #include <functional>
 #include <utility>
 
-class cAmountFormat;
-class cClock;
-class cDataAccess;
 class cMainModel;
 class cNavigator;
-class cSettings;
 class cShell;
-class cUser;
+struct cBookTools;
 
 // The statistics page without its widgets: a report with the tree of its figures, two charts beside it, and the ways
 // from there to the entries. Works only while somebody looks.
@@ -35,11 +31,6 @@ public:
     // What the model works with; all of it outlives the model.
     struct cParts
     {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        cUser& User;
-        const cClock& Clock;
         cShell& Shell;
         cNavigator& Navigator;
         cMainModel& Main;
@@ -47,7 +38,7 @@ public:
 
     enum class ePage { Report, Charts };
 
-    explicit cStatisticsModel(const cParts& parts, QObject* parent = nullptr);
+    cStatisticsModel(const cBookTools& tools, const cParts& parts, QObject* parent = nullptr);
 
     // Reads the selectors from the settings; also after another book was opened.
     void Restore();
@@ -114,6 +105,7 @@ private:
     [[nodiscard]] QString TypeOf(const cReportWish& wish, const cReportNode& node) const;
     [[nodiscard]] bool IsReportShown() const { return m_isShown && m_page == ePage::Report; }
 
+    const cBookTools& m_tools;
     cParts m_parts;
     cReportSource m_source;
     cReportTreeModel m_tree;

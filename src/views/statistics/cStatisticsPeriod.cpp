@@ -1,6 +1,7 @@
 #include "views/statistics/cStatisticsPeriod.h"
 
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/list/modSetting.h"
 
@@ -10,10 +11,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-int Stored(const cSettings& settings, const QString& key, int least, int most, int otherwise)
+int Stored(const cSettings& settings, const cSettingKey& key, int least, int most)
 {
     const int value = settings.Get(key).toInt();
-    return value >= least && value <= most ? value : otherwise;
+    return value >= least && value <= most ? value : key.Default().toInt();
 }
 
 } // namespace
@@ -60,19 +61,21 @@ void cStatisticsPeriod::ChooseLast(int month)
     FirstMonth = std::min(FirstMonth, LastMonth);
 }
 
-void cStatisticsPeriod::Restore(const cSettings& settings, const QString& prefix, QDate today)
+void cStatisticsPeriod::Restore(const cSettings& settings, const QString& pane, QDate today)
 {
-    const QString name = settings.Get(prefix + u"Zeitraum"_s);
-    Name = modWord::Periods().Contains(name) ? name : modWord::AktuellesJahr;
-    FirstMonth = Stored(settings, prefix + u"VonMonat"_s, 1, 12, 1);
-    LastMonth = Stored(settings, prefix + u"BisMonat"_s, FirstMonth, 12, 12);
-    Year = Stored(settings, prefix + u"Jahr"_s, FirstYear, LastYear, today.year());
+    const cSettingKey period = modSettingKey::PanePeriod.Of(pane);
+    const QString name = settings.Get(period);
+    Name = modWord::Periods().Contains(name) ? name : period.Default();
+    FirstMonth = Stored(settings, modSettingKey::PaneFirstMonth.Of(pane), 1, 12);
+    LastMonth = Stored(settings, modSettingKey::PaneLastMonth.Of(pane), FirstMonth, 12);
+    const int year = Stored(settings, modSettingKey::PaneYear.Of(pane), FirstYear, LastYear);
+    Year = year > 0 ? year : today.year();
 }
 
-void cStatisticsPeriod::Save(cSettings& settings, const QString& prefix) const
+void cStatisticsPeriod::Save(cSettings& settings, const QString& pane) const
 {
-    modSetting::Keep(settings, prefix + u"Zeitraum"_s, Name);
-    modSetting::Keep(settings, prefix + u"VonMonat"_s, QString::number(FirstMonth));
-    modSetting::Keep(settings, prefix + u"BisMonat"_s, QString::number(LastMonth));
-    modSetting::Keep(settings, prefix + u"Jahr"_s, QString::number(Year));
+    modSetting::Keep(settings, modSettingKey::PanePeriod.Of(pane), Name);
+    modSetting::Keep(settings, modSettingKey::PaneFirstMonth.Of(pane), QString::number(FirstMonth));
+    modSetting::Keep(settings, modSettingKey::PaneLastMonth.Of(pane), QString::number(LastMonth));
+    modSetting::Keep(settings, modSettingKey::PaneYear.Of(pane), QString::number(Year));
 }

@@ -32,7 +32,7 @@ struct cStatisticsPeriod
     void ChooseFirst(int month);
     void ChooseLast(int month);
 
-    // Keys begin with `prefix`. What is not stored or not known becomes the current year.
-    void Restore(const cSettings& settings, const QString& prefix, QDate today);
-    void Save(cSettings& settings, const QString& prefix) const;
+    // `pane` is part of the keys; see modSettingKey. What is not stored or not known becomes the current year.
+    void Restore(const cSettings& settings, const QString& pane, QDate today);
+    void Save(cSettings& settings, const QString& pane) const;
 };

@@ -1,7 +1,7 @@
 #include "views/template/cBankNumbers.h"
 
 #include "core/cSettings.h"
-#include "import/stage/cAccountMap.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 
 #include <QRegularExpression>
@@ -15,7 +15,7 @@ QList<std::pair<QString, QString>> cBankNumbers::All() const
     QList<std::pair<QString, QString>> numbers;
     const QList<std::pair<QString, QString>> settings = m_data.GetSettings();
     for (const auto& [name, account] : settings) {
-        if (const QString number = cAccountMap::NumberOf(name); !number.isEmpty()) {
+        if (const QString number = modSettingKey::BankNumber.PartOf(name); !number.isEmpty()) {
             numbers.append({number, account});
         }
     }
@@ -37,7 +37,7 @@ QStringList cBankNumbers::Of(const QString& account) const
 
 QString cBankNumbers::AccountOf(const QString& number) const
 {
-    return m_settings.Get(cAccountMap::SettingName(number));
+    return m_settings.Get(modSettingKey::BankNumber.Of(number));
 }
 
 QStringList cBankNumbers::Unassigned() const
@@ -50,12 +50,12 @@ QStringList cBankNumbers::Unassigned() const
 
 bool cBankNumbers::Assign(const QString& number, const QString& account)
 {
-    return m_settings.Set(cAccountMap::SettingName(number), account);
+    return m_settings.Set(modSettingKey::BankNumber.Of(number), account);
 }
 
 bool cBankNumbers::Release(const QString& number)
 {
-    return m_settings.Delete(cAccountMap::SettingName(number));
+    return m_settings.Delete(modSettingKey::BankNumber.Of(number));
 }
 
 bool cBankNumbers::Move(const QString& oldName, const QString& newName)

@@ -2,6 +2,7 @@
 
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/list/modSetting.h"
 #include "views/template/cBankNumbers.h"
@@ -20,11 +21,11 @@ void cNameKeepers::Watch(cDataAccess& data, cSettings& settings)
 
 bool cNameKeepers::RenameAccount(const QString& oldName, const QString& newName)
 {
-    const QStringList shown{u"MainKonto"_s, modSetting::StatisticsAccount};
+    const QList<cSettingKey> shown{modSettingKey::MainAccount, modSettingKey::StatisticsAccount};
     return cBankNumbers(m_data, m_settings).Move(oldName, newName)
         && cOwnRules(m_settings).RenameAccount(oldName, newName)
-        && std::all_of(shown.begin(), shown.end(), [&](const QString& setting) {
-               return m_settings.Get(setting) != oldName || m_settings.Set(setting, newName);
+        && std::all_of(shown.begin(), shown.end(), [&](const cSettingKey& key) {
+               return m_settings.Get(key) != oldName || m_settings.Set(key, newName);
            });
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modWord.h"
@@ -29,17 +30,18 @@ bool IsSame(const QString& a, const QString& b)
 
 bool cTemplateFlow::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Exclamation, text);
     return false;
 }
 
 QString cTemplateFlow::AskRenameAccount(const QString& oldName)
 {
-    const std::optional<QString> name = m_user.Choose({.Text = cText::Tr("Neuer Name für das Konto '{0}':", {oldName}),
-                                                       .Title = cText::Tr("Konto umbenennen"),
-                                                       .Items = {},
-                                                       .Proposal = oldName,
-                                                       .AllowNew = true});
+    const std::optional<QString> name =
+        m_tools.User.Choose({.Text = cText::Tr("Neuer Name für das Konto '{0}':", {oldName}),
+                             .Title = cText::Tr("Konto umbenennen"),
+                             .Items = {},
+                             .Proposal = oldName,
+                             .AllowNew = true});
     if (!name) {
         return oldName;
     }
@@ -52,7 +54,7 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     if (name.isEmpty()) {
         return Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
     }
-    std::optional<cTemplateItem> account = m_data.FindAccount(oldName);
+    std::optional<cTemplateItem> account = m_tools.Data.FindAccount(oldName);
     if (!account || name == oldName) {
         return false;
     }
@@ -60,8 +62,8 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
         return Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
     }
     eAnswer answer = eAnswer::No;
-    if (m_data.CountEntriesByAccount().value(oldName) >= 1) { // also those that only lead to it
-        answer = m_user.Ask(
+    if (m_tools.Data.CountEntriesByAccount().value(oldName) >= 1) { // also those that only lead to it
+        answer = m_tools.User.Ask(
             {.Text = cText::Tr("Es existieren bereits Buchungen zu diesem Konto.\nSollen die Quell/Zielkonten "
                                "der Buchungen von '{0}' auf '{1}' geändert werden?",
                                {oldName, name}),
@@ -78,14 +80,14 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
 
 bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries)
 {
-    cUndoStep step(m_data, cText::Tr("Konto '{0}' umbenannt", {oldName}));
-    const bool isWritten = m_data.ChangeTemplate(account)
-        && cNameKeepers(m_data, m_settings).RenameAccount(oldName, account.TemplateName)
+    cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' umbenannt", {oldName}));
+    const bool isWritten = m_tools.Data.ChangeTemplate(account)
+        && cNameKeepers(m_tools.Data, m_tools.Settings).RenameAccount(oldName, account.TemplateName)
         && (!withEntries || MoveEntries(oldName, account.TemplateName));
     if (step.DoneIf(isWritten)) {
         return true;
     }
-    m_settings.Reload();
+    m_tools.Settings.Reload();
     return false;
 }
 
@@ -94,13 +96,14 @@ bool cTemplateFlow::MoveEntries(const QString& oldName, const QString& newName)
     // The bulk change looks for the old name in lower case: right for a name that is, while for any other it would take
     // the entries of the account that is called so. What it does not reach goes over by its exact name.
     const bool isFound = oldName == oldName.toLower();
-    return (!isFound || m_data.ChangeEntryAccount(newName, oldName)) && m_data.MoveEntriesToAccount(newName, oldName);
+    return (!isFound || m_tools.Data.ChangeEntryAccount(newName, oldName))
+        && m_tools.Data.MoveEntriesToAccount(newName, oldName);
 }
 
 bool cTemplateFlow::IsAccountTaken(const QString& name, int exceptId) const
 {
     // Regardless of case: two accounts that only differ in that are one too many for every list.
-    const cTemplateItemList accounts = m_data.GetAccounts();
+    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
     return std::any_of(accounts.begin(), accounts.end(), [&](const cTemplateItem& account) {
         return account.ID != exceptId && IsSame(account.TemplateName, name);
     });
@@ -110,7 +113,7 @@ bool cTemplateFlow::IsTaken(const cTemplateItem& renamed) const
 {
     // Regardless of case, because the lists of entries are filtered like that: they would show both together.
     const QString path = modTemplate::Path(renamed);
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     return std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
         return !modTemplate::IsAccount(item) && item.ID != renamed.ID && IsSame(modTemplate::Path(item), path);
     });
@@ -138,40 +141,41 @@ bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString&
     if (IsTaken(renamed) || modTemplateText::IsProtected(newPath)) {
         return Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {newPath}));
     }
-    cUndoStep step(m_data, cText::Tr("Kategorie '{0}' umbenannt", {oldPath}));
-    return step.DoneIf(m_data.ChangeTemplate(renamed) && FollowPath(renamed.ID, oldPath));
+    cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' umbenannt", {oldPath}));
+    return step.DoneIf(m_tools.Data.ChangeTemplate(renamed) && FollowPath(renamed.ID, oldPath));
 }
 
 bool cTemplateFlow::FollowPath(int id, const QString& oldPath)
 {
-    const std::optional<cTemplateItem> now = m_data.FindTemplate(id);
+    const std::optional<cTemplateItem> now = m_tools.Data.FindTemplate(id);
     if (!now) {
         return false;
     }
     const QString newPath = modTemplate::Path(*now);
-    const bool isMoved = m_data.CountEntriesOfCategory(oldPath) == 0 || m_data.ChangeEntryCategory(newPath, oldPath);
-    return isMoved && cNameKeepers(m_data, m_settings).RenameCategory(oldPath, newPath);
+    const bool isMoved =
+        m_tools.Data.CountEntriesOfCategory(oldPath) == 0 || m_tools.Data.ChangeEntryCategory(newPath, oldPath);
+    return isMoved && cNameKeepers(m_tools.Data, m_tools.Settings).RenameCategory(oldPath, newPath);
 }
 
 QString cTemplateFlow::CleanMain(const QString& main)
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     const auto below = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
         return !modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == main;
     });
     if (modTemplate::CleanName(main) == main || below == items.end()) {
         return main;
     }
-    const bool isSaved = m_data.ChangeTemplate(*below);
-    const std::optional<cTemplateItem> now = isSaved ? m_data.FindTemplate(below->ID) : std::nullopt;
+    const bool isSaved = m_tools.Data.ChangeTemplate(*below);
+    const std::optional<cTemplateItem> now = isSaved ? m_tools.Data.FindTemplate(below->ID) : std::nullopt;
     return now ? modTemplate::GroupOf(*now) : QString();
 }
 
 bool cTemplateFlow::HoldsProtected(const QString& main) const
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     return IsSame(main, modTemplate::MainOf(modWord::Startguthaben))
-        && (m_data.CountEntriesOfCategory(modWord::Startguthaben) > 0
+        && (m_tools.Data.CountEntriesOfCategory(modWord::Startguthaben) > 0
             || std::any_of(items.begin(), items.end(), [](const cTemplateItem& item) {
                    return !modTemplate::IsAccount(item) && modTemplateText::IsProtected(modTemplate::Path(item));
                }));
@@ -179,7 +183,7 @@ bool cTemplateFlow::HoldsProtected(const QString& main) const
 
 bool cTemplateFlow::IsMainTaken(const QString& newMain, const QString& oldMain) const
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     return std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
         const QString main = modTemplate::GroupOf(item);
         return !modTemplate::IsAccount(item) && main != oldMain && IsSame(main, newMain);
@@ -201,27 +205,27 @@ bool cTemplateFlow::RenameMain(const QString& oldMain, const QString& newMain)
     if (IsMainTaken(main, oldMain)) {
         return Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {main}));
     }
-    cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' umbenannt", {oldMain}));
-    return step.DoneIf(WriteMain(oldMain, main) && cOwnRules(m_settings).RenameMain(oldMain, main));
+    cUndoStep step(m_tools.Data, cText::Tr("Hauptkategorie '{0}' umbenannt", {oldMain}));
+    return step.DoneIf(WriteMain(oldMain, main) && cOwnRules(m_tools.Settings).RenameMain(oldMain, main));
 }
 
 bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     for (cTemplateItem item : items) {
         if (!modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == oldMain) {
             const QString oldPath = modTemplate::Path(item);
             item.TemplateCategory = newMain;
-            if (!m_data.ChangeTemplate(item) || !FollowPath(item.ID, oldPath)) {
+            if (!m_tools.Data.ChangeTemplate(item) || !FollowPath(item.ID, oldPath)) {
                 return false;
             }
         }
     }
     // Entries below paths that no category has go along, else they would stay behind under the old name.
-    const QStringList paths = m_data.CountEntriesByCategory().keys();
+    const QStringList paths = m_tools.Data.CountEntriesByCategory().keys();
     return std::all_of(paths.begin(), paths.end(), [&](const QString& path) {
         return modTemplate::MainOf(path) != oldMain
-            || m_data.ChangeEntryCategory(modTemplate::WithMain(path, newMain), path);
+            || m_tools.Data.ChangeEntryCategory(modTemplate::WithMain(path, newMain), path);
     });
 }
 
@@ -231,12 +235,12 @@ bool cTemplateFlow::RenameGroup(const QString& oldGroup, const QString& newGroup
     if (group == oldGroup || newGroup == oldGroup) {
         return false;
     }
-    cUndoStep step(m_data, cText::Tr("Kontogruppe '{0}' umbenannt", {oldGroup}));
-    const cTemplateItemList accounts = m_data.GetAccounts();
+    cUndoStep step(m_tools.Data, cText::Tr("Kontogruppe '{0}' umbenannt", {oldGroup}));
+    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
     for (cTemplateItem account : accounts) {
         if (account.TemplateCategory == oldGroup) {
             account.TemplateCategory = group;
-            if (!m_data.ChangeTemplate(account)) {
+            if (!m_tools.Data.ChangeTemplate(account)) {
                 return step.Revert();
             }
         }

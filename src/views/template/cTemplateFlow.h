@@ -4,21 +4,14 @@
 
 #include <QString>
 
-class cDataAccess;
-class cSettings;
-class cUser;
+struct cBookTools;
 
 // New names for accounts and categories, with the questions that go with them. Every function is one step of the user
 // that can be taken back.
 class cTemplateFlow
 {
 public:
-    cTemplateFlow(cDataAccess& data, cSettings& settings, cUser& user)
-        : m_data(data),
-          m_settings(settings),
-          m_user(user)
-    {
-    }
+    explicit cTemplateFlow(const cBookTools& tools) : m_tools(tools) {}
 
     // Asks for a new name and renames. The name that the account has afterwards.
     QString AskRenameAccount(const QString& oldName);
@@ -55,7 +48,5 @@ private:
     [[nodiscard]] bool IsMainTaken(const QString& newMain, const QString& oldMain) const;
     bool Refuse(const QString& text);
 
-    cDataAccess& m_data;
-    cSettings& m_settings;
-    cUser& m_user;
+    const cBookTools& m_tools;
 };

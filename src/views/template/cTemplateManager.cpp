@@ -6,9 +6,11 @@
 #include "base/modAmount.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -25,7 +27,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString layoutKey = u"KategorieList"_s;
 constexpr QChar layoutSeparator = u'#'; // between the two trees
 
 QString Cleaned(const QString& name)
@@ -56,9 +57,9 @@ QHash<QString, qint64> StartBalances(cDataAccess& data)
 
 } // namespace
 
-cTemplateManager::cTemplateManager(const cParts& parts, QObject* parent)
+cTemplateManager::cTemplateManager(const cBookTools& tools, QObject* parent)
     : QObject(parent),
-      m_parts(parts),
+      m_tools(tools),
       m_categories({cText::Tr("Kategorie"), cText::Tr("Buchungsart"), cText::Tr("Intervall"), cText::Tr("Monatslimit"),
                     cText::Tr("Buchungen")},
                    {cTemplateTreeModel::CategoryLimit, cTemplateTreeModel::CategoryEntries}),
@@ -73,11 +74,11 @@ cTemplateManager::~cTemplateManager() = default;
 
 void cTemplateManager::Refresh()
 {
-    const cTemplateItemList items = m_parts.Data.GetTemplates();
-    const auto cents = [this](qint64 value) { return m_parts.Format.Cents(value); };
-    m_categories.SetBranches(modTemplateNodes::Categories(items, m_parts.Data.CountEntriesByCategory(), cents));
-    modTemplateNodes::cAccountFacts facts{m_parts.Data.CountEntriesByAccount(), StartBalances(m_parts.Data), {}};
-    const QList<std::pair<QString, QString>> numbers = cBankNumbers(m_parts.Data, m_parts.Settings).All();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
+    const auto cents = [this](qint64 value) { return m_tools.Format.Cents(value); };
+    m_categories.SetBranches(modTemplateNodes::Categories(items, m_tools.Data.CountEntriesByCategory(), cents));
+    modTemplateNodes::cAccountFacts facts{m_tools.Data.CountEntriesByAccount(), StartBalances(m_tools.Data), {}};
+    const QList<std::pair<QString, QString>> numbers = cBankNumbers(m_tools.Data, m_tools.Settings).All();
     for (const auto& [number, account] : numbers) {
         facts.Numbers[account].append(number);
     }
@@ -86,17 +87,17 @@ void cTemplateManager::Refresh()
 
 bool cTemplateManager::IsReadOnly() const
 {
-    return m_parts.Data.IsReadOnly();
+    return m_tools.Data.IsReadOnly();
 }
 
 QDate cTemplateManager::Today() const
 {
-    return m_parts.Clock.Today();
+    return m_tools.Clock.Today();
 }
 
 bool cTemplateManager::Refuse(const QString& text)
 {
-    m_parts.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Exclamation, text);
     return false;
 }
 
@@ -139,22 +140,20 @@ bool cTemplateManager::TellGone(bool isDone, const QString& oldName, const QStri
 
 std::optional<cTemplateFields> cTemplateManager::Load(const cTemplateNode& node) const
 {
-    return cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User, m_parts.Format.Decimal())
-        .Load(node, m_parts.Clock.Today());
+    return cTemplateWriter(m_tools).Load(node, m_tools.Clock.Today());
 }
 
 std::optional<QString> cTemplateManager::Save(const cTemplateNode& node, const cTemplateFields& old,
                                               const cTemplateFields& fields)
 {
-    const std::optional<QString> name =
-        cTemplateWriter(m_parts.Data, m_parts.Settings, m_parts.User, m_parts.Format.Decimal()).Save(node, old, fields);
+    const std::optional<QString> name = cTemplateWriter(m_tools).Save(node, old, fields);
     Tell(name && fields != old);
     return name;
 }
 
 std::optional<cTemplateItem> cTemplateManager::FindCategory(const QString& path) const
 {
-    const cTemplateItemList items = m_parts.Data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     const auto find = [&](Qt::CaseSensitivity sensitivity) {
         return std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
             return !modTemplate::IsAccount(item) && modTemplate::Path(item).compare(path, sensitivity) == 0;
@@ -173,10 +172,10 @@ bool cTemplateManager::HasMain(const QString& main) const
 QString cTemplateManager::Add(cTemplateItem item, const QString& stepName, const QString& name)
 {
     item.TemplatePriority = QString::number(
-        modTemplate::LastPriority(m_parts.Data.GetTemplates(), item.TemplateType, modTemplate::GroupOf(item)) + 1);
+        modTemplate::LastPriority(m_tools.Data.GetTemplates(), item.TemplateType, modTemplate::GroupOf(item)) + 1);
     {
-        cUndoStep step(m_parts.Data, stepName);
-        if (!step.DoneIf(m_parts.Data.AddNewTemplate(item))) {
+        cUndoStep step(m_tools.Data, stepName);
+        if (!step.DoneIf(m_tools.Data.AddNewTemplate(item))) {
             return {};
         }
     }
@@ -186,7 +185,7 @@ QString cTemplateManager::Add(cTemplateItem item, const QString& stepName, const
 
 QString cTemplateManager::AddCategory(const QString& main, const QString& sub)
 {
-    const cTemplateItem item = modTemplate::NewCategory(m_parts.Data.GetTemplates(), main, sub);
+    const cTemplateItem item = modTemplate::NewCategory(m_tools.Data.GetTemplates(), main, sub);
     if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
         (void)Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
         return {};
@@ -209,7 +208,7 @@ QString cTemplateManager::AddAccount(const QString& name, const QString& group)
         (void)Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
         return {};
     }
-    if (cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).IsAccountTaken(item.TemplateName, 0)) {
+    if (cTemplateFlow(m_tools).IsAccountTaken(item.TemplateName, 0)) {
         (void)Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
         return {};
     }
@@ -218,7 +217,7 @@ QString cTemplateManager::AddAccount(const QString& name, const QString& group)
 
 QString cTemplateManager::AskName(const QString& text, const QString& title)
 {
-    return m_parts.User.Choose({.Text = text, .Title = title, .Items = {}, .Proposal = {}, .AllowNew = true})
+    return m_tools.User.Choose({.Text = text, .Title = title, .Items = {}, .Proposal = {}, .AllowNew = true})
         .value_or(QString())
         .trimmed();
 }
@@ -227,10 +226,10 @@ QString cTemplateManager::AskName(const QString& text, const QString& title)
 QString cTemplateManager::AddKnown(const QString& name, const std::function<QString()>& add, fnMoveEntries move)
 {
     const QString known = name; // the line that it comes from goes with the next look at the book
-    cUndoStep step(m_parts.Data, cText::Tr("'{0}' angelegt", {known}));
+    cUndoStep step(m_tools.Data, cText::Tr("'{0}' angelegt", {known}));
     const QString added = add();
     const bool isOther = !added.isEmpty() && added != known;
-    const bool isWritten = step.DoneIf(!isOther || (m_parts.Data.*move)(added, known));
+    const bool isWritten = step.DoneIf(!isOther || (m_tools.Data.*move)(added, known));
     if (isOther || !isWritten) {
         Tell(isWritten);
     }
@@ -274,7 +273,7 @@ QString cTemplateManager::AskAddAccount(const cTemplateNode* near)
     }
     QString group = near != nullptr && near->Kind == eTemplateNode::Group ? near->Path : Groups().value(0);
     if (near != nullptr && near->Kind == eTemplateNode::Account) {
-        const std::optional<cTemplateItem> account = m_parts.Data.FindAccount(near->Path);
+        const std::optional<cTemplateItem> account = m_tools.Data.FindAccount(near->Path);
         group = account ? account->TemplateCategory : group;
     }
     const QString name = AskName(cText::Tr("Name des neuen Kontos:"), cText::Tr("Neues Konto"));
@@ -283,7 +282,7 @@ QString cTemplateManager::AskAddAccount(const cTemplateNode* near)
 
 bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& newPath)
 {
-    cTemplateFlow flow(m_parts.Data, m_parts.Settings, m_parts.User);
+    cTemplateFlow flow(m_tools);
     const QString sub = modTemplate::SubOf(newPath);
     if (HasMain(oldPath) && sub.isEmpty()) {
         return Tell(flow.RenameMain(oldPath, newPath));
@@ -297,15 +296,15 @@ bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& new
 
 bool cTemplateManager::RenameAccount(const QString& oldName, const QString& newName)
 {
-    if (!m_parts.Data.FindAccount(oldName)) {
+    if (!m_tools.Data.FindAccount(oldName)) {
         return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {oldName}));
     }
-    return Tell(cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).RenameAccount(oldName, newName));
+    return Tell(cTemplateFlow(m_tools).RenameAccount(oldName, newName));
 }
 
 bool cTemplateManager::DeleteCategory(const QString& path)
 {
-    cTemplateRemoval removal(m_parts.Data, m_parts.Settings, m_parts.User);
+    cTemplateRemoval removal(m_tools);
     if (HasMain(path)) {
         return Tell(removal.DeleteMain(path));
     }
@@ -318,22 +317,22 @@ bool cTemplateManager::DeleteCategory(const QString& path)
 
 bool cTemplateManager::DeleteAccount(const QString& name)
 {
-    if (!m_parts.Data.FindAccount(name)) {
+    if (!m_tools.Data.FindAccount(name)) {
         return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {name}));
     }
-    return TellGone(cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).DeleteAccount(name), name, {});
+    return TellGone(cTemplateRemoval(m_tools).DeleteAccount(name), name, {});
 }
 
 bool cTemplateManager::MergeCategory(const QString& sourcePath, const QString& targetPath)
 {
-    cTemplateRemoval removal(m_parts.Data, m_parts.Settings, m_parts.User);
+    cTemplateRemoval removal(m_tools);
     const bool areMains = HasMain(sourcePath) && HasMain(targetPath);
     return Tell(areMains ? removal.MergeMain(sourcePath, targetPath) : removal.MergeCategory(sourcePath, targetPath));
 }
 
 bool cTemplateManager::MergeAccount(const QString& source, const QString& target)
 {
-    const bool isDone = cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).MergeAccount(source, target);
+    const bool isDone = cTemplateRemoval(m_tools).MergeAccount(source, target);
     return TellGone(isDone, source, target);
 }
 
@@ -363,8 +362,8 @@ bool cTemplateManager::Delete(const cTemplateNode& node)
     if (node.Kind == eTemplateNode::Main) {
         return DeleteCategory(QString(node.Path));
     }
-    const std::optional<cTemplateItem> category = m_parts.Data.FindTemplate(node.Id);
-    return category && Tell(cTemplateRemoval(m_parts.Data, m_parts.Settings, m_parts.User).DeleteCategory(*category));
+    const std::optional<cTemplateItem> category = m_tools.Data.FindTemplate(node.Id);
+    return category && Tell(cTemplateRemoval(m_tools).DeleteCategory(*category));
 }
 
 bool cTemplateManager::AskMerge(const cTemplateNode& node)
@@ -372,14 +371,14 @@ bool cTemplateManager::AskMerge(const cTemplateNode& node)
     if (!CanMerge(node)) {
         return false;
     }
-    cTemplateRemoval removal(m_parts.Data, m_parts.Settings, m_parts.User);
+    cTemplateRemoval removal(m_tools);
     const QString source = node.Path;
     if (node.IsOfAccounts()) {
         const QString target = removal.AskMergeAccount(source);
         return TellGone(!target.isEmpty(), source, target);
     }
     const bool isMain =
-        node.Kind == eTemplateNode::Main && modTemplateOrder::HasSubs(m_parts.Data.GetTemplates(), source);
+        node.Kind == eTemplateNode::Main && modTemplateOrder::HasSubs(m_tools.Data.GetTemplates(), source);
     return Tell(isMain ? removal.AskMergeMain(source) : removal.AskMergeCategory(source));
 }
 
@@ -387,13 +386,12 @@ QString cTemplateManager::AskRenameGroup(const cTemplateNode& node)
 {
     const QString oldGroup = node.Path;
     const std::optional<QString> name =
-        m_parts.User.Choose({.Text = cText::Tr("Neuer Name für die Kontogruppe '{0}':", {Title(node)}),
+        m_tools.User.Choose({.Text = cText::Tr("Neuer Name für die Kontogruppe '{0}':", {Title(node)}),
                              .Title = cText::Tr("Kontogruppe umbenennen"),
                              .Items = {},
                              .Proposal = oldGroup,
                              .AllowNew = true});
-    const bool isDone =
-        name && cTemplateFlow(m_parts.Data, m_parts.Settings, m_parts.User).RenameGroup(oldGroup, *name);
+    const bool isDone = name && cTemplateFlow(m_tools).RenameGroup(oldGroup, *name);
     return Tell(isDone) ? Cleaned(*name) : QString();
 }
 
@@ -403,7 +401,7 @@ bool cTemplateManager::Move(const cTemplateNode& node, eDirection direction)
         return false;
     }
     const QString& type = node.IsOfAccounts() ? modWord::Konto : modWord::Kategorie;
-    const cTemplateItemList before = modTemplateOrder::OfType(m_parts.Data.GetTemplates(), type);
+    const cTemplateItemList before = modTemplateOrder::OfType(m_tools.Data.GetTemplates(), type);
     const auto way = direction == eDirection::Up ? modTemplateOrder::eWay::Up : modTemplateOrder::eWay::Down;
     const bool isGroup = node.Kind == eTemplateNode::Main || node.Kind == eTemplateNode::Group;
     const cTemplateItemList after = isGroup ? modTemplateOrder::MoveGroup(before, node.Path, way)
@@ -414,20 +412,20 @@ bool cTemplateManager::Move(const cTemplateNode& node, eDirection direction)
 bool cTemplateManager::WriteOrder(const cTemplateItemList& before, const cTemplateItemList& after)
 {
     const cTemplateItemList changed = modTemplateOrder::Renumbered(before, after);
-    cUndoStep step(m_parts.Data, cText::Tr("Reihenfolge geändert"));
+    cUndoStep step(m_tools.Data, cText::Tr("Reihenfolge geändert"));
     const bool isWritten = std::all_of(changed.begin(), changed.end(),
-                                       [this](const cTemplateItem& item) { return m_parts.Data.ChangeTemplate(item); });
+                                       [this](const cTemplateItem& item) { return m_tools.Data.ChangeTemplate(item); });
     return step.DoneIf(isWritten);
 }
 
 QStringList cTemplateManager::Mains() const
 {
-    return modTemplateOrder::Groups(modTemplateOrder::OfType(m_parts.Data.GetTemplates(), modWord::Kategorie));
+    return modTemplateOrder::Groups(modTemplateOrder::OfType(m_tools.Data.GetTemplates(), modWord::Kategorie));
 }
 
 QStringList cTemplateManager::Groups() const
 {
-    return modTemplateOrder::Groups(modTemplateOrder::OfType(m_parts.Data.GetTemplates(), modWord::Konto));
+    return modTemplateOrder::Groups(modTemplateOrder::OfType(m_tools.Data.GetTemplates(), modWord::Konto));
 }
 
 bool cTemplateManager::IsNameFixed(const cTemplateNode& node) const
@@ -485,29 +483,29 @@ QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
     }
     const qint64 limit = modTemplate::LimitCents(item, 1);
     return limit == 0 ? cText::Tr("Wird vorgeschlagen")
-                      : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_parts.Format.Cents(limit)});
+                      : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_tools.Format.Cents(limit)});
 }
 
 QString cTemplateManager::NumbersHint() const
 {
-    const QStringList numbers = cBankNumbers(m_parts.Data, m_parts.Settings).Unassigned();
+    const QStringList numbers = cBankNumbers(m_tools.Data, m_tools.Settings).Unassigned();
     return numbers.isEmpty() ? QString() : cText::Tr("Noch ohne Konto: {0}", {numbers.join(u", "_s)});
 }
 
 cTreeLayout cTemplateManager::CategoryLayout() const
 {
-    return cTreeLayout::FromText(m_parts.Settings.Get(layoutKey).section(layoutSeparator, 0, 0));
+    return cTreeLayout::FromText(m_tools.Settings.Get(modSettingKey::CategoryList).section(layoutSeparator, 0, 0));
 }
 
 cTreeLayout cTemplateManager::AccountLayout() const
 {
-    return cTreeLayout::FromText(m_parts.Settings.Get(layoutKey).section(layoutSeparator, 1, 1));
+    return cTreeLayout::FromText(m_tools.Settings.Get(modSettingKey::CategoryList).section(layoutSeparator, 1, 1));
 }
 
 void cTemplateManager::SaveLayout(const cTreeLayout& categories, const cTreeLayout& accounts)
 {
     const QString text = categories.ToText() + layoutSeparator + accounts.ToText();
-    if (text != m_parts.Settings.Get(layoutKey)) {
-        m_parts.Settings.Set(layoutKey, text);
+    if (text != m_tools.Settings.Get(modSettingKey::CategoryList)) {
+        m_tools.Settings.Set(modSettingKey::CategoryList, text);
     }
 }

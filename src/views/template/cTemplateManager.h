@@ -14,11 +14,8 @@
 #include <functional>
 #include <optional>
 
-class cAmountFormat;
-class cClock;
 class cDataAccess;
-class cSettings;
-class cUser;
+struct cBookTools;
 
 // Management of categories and accounts without its window: the two trees, the fields of one line, and every action.
 // What is refused is said through the user; a false or empty result means that nothing was changed. Each action is one
@@ -28,19 +25,9 @@ class cTemplateManager final : public QObject
     Q_OBJECT
 
 public:
-    // What the manager works with; all of it outlives the manager.
-    struct cParts
-    {
-        cDataAccess& Data;
-        cSettings& Settings;
-        const cAmountFormat& Format;
-        cUser& User;
-        const cClock& Clock;
-    };
-
     enum class eDirection { Up, Down };
 
-    explicit cTemplateManager(const cParts& parts, QObject* parent = nullptr);
+    explicit cTemplateManager(const cBookTools& tools, QObject* parent = nullptr);
     ~cTemplateManager() override;
 
     [[nodiscard]] cTemplateTreeModel& Categories() { return m_categories; }
@@ -119,7 +106,7 @@ private:
     [[nodiscard]] QHash<int, QString> AccountNames() const; // by the ID of the definition
     bool Refuse(const QString& text);
 
-    cParts m_parts;
+    const cBookTools& m_tools;
     cTemplateTreeModel m_categories;
     cTemplateTreeModel m_accounts;
 };

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modCount.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modBalance.h"
@@ -37,19 +38,19 @@ cTemplateItemList CategoriesAt(const cTemplateItemList& items, const QString& pa
 
 bool cTemplateRemoval::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Exclamation, text);
     return false;
 }
 
 bool cTemplateRemoval::Ask(const QString& text, const QString& title)
 {
-    return m_user.Ask({.Text = text, .Title = title, .Default = eAnswer::No}) == eAnswer::Yes;
+    return m_tools.User.Ask({.Text = text, .Title = title, .Default = eAnswer::No}) == eAnswer::Yes;
 }
 
 bool cTemplateRemoval::Finish(bool isWritten)
 {
     if (!isWritten) {
-        m_settings.Reload();
+        m_tools.Settings.Reload();
     }
     return isWritten;
 }
@@ -61,14 +62,14 @@ QString cTemplateRemoval::Choose(const QString& text, const QString& title, cons
         return {};
     }
     const std::optional<QString> answer =
-        m_user.Choose({.Text = text, .Title = title, .Items = items, .Proposal = items.constFirst()});
+        m_tools.User.Choose({.Text = text, .Title = title, .Items = items, .Proposal = items.constFirst()});
     return answer && items.contains(*answer) ? *answer : QString();
 }
 
 QStringList cTemplateRemoval::Targets(const QStringList& exceptPaths) const
 {
     QStringList paths;
-    const cTemplateItemList items = modTemplate::InOrder(m_data.GetTemplates());
+    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetTemplates());
     for (const cTemplateItem& item : items) {
         const QString path = modTemplate::Path(item);
         if (!modTemplate::IsAccount(item) && modTemplate::IsVisible(item) && !modTemplateText::IsProtected(path)
@@ -83,7 +84,7 @@ QStringList cTemplateRemoval::Targets(const QStringList& exceptPaths) const
 QStringList cTemplateRemoval::Mains(const QString& exceptMain) const
 {
     QStringList mains;
-    const cTemplateItemList items = modTemplate::InOrder(m_data.GetTemplates());
+    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetTemplates());
     for (const cTemplateItem& item : items) {
         const QString main = modTemplate::GroupOf(item);
         if (!modTemplate::IsAccount(item) && main != exceptMain && !mains.contains(main)) {
@@ -96,7 +97,7 @@ QStringList cTemplateRemoval::Mains(const QString& exceptMain) const
 QStringList cTemplateRemoval::Accounts(const QString& exceptName) const
 {
     QStringList names;
-    const cTemplateItemList items = modTemplate::InOrder(m_data.GetAccounts());
+    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetAccounts());
     for (const cTemplateItem& item : items) {
         if (item.TemplateName != exceptName) {
             names.append(item.TemplateName);
@@ -111,7 +112,7 @@ bool cTemplateRemoval::DeleteCategory(const cTemplateItem& category)
     cDoomed doomed;
     doomed.Items = {category};
     doomed.Paths = {path};
-    doomed.Entries = m_data.CountEntriesByCategory().value(path);
+    doomed.Entries = m_tools.Data.CountEntriesByCategory().value(path);
     doomed.Shown = cText::Tr("Die Kategorie '{0}'", {path});
     return Delete(doomed, cText::Tr("Nur die Kategorie löschen"));
 }
@@ -119,14 +120,14 @@ bool cTemplateRemoval::DeleteCategory(const cTemplateItem& category)
 cTemplateRemoval::cDoomed cTemplateRemoval::CollectMain(const QString& main)
 {
     cDoomed doomed;
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     std::copy_if(items.begin(), items.end(), std::back_inserter(doomed.Items), [&](const cTemplateItem& item) {
         return !modTemplate::IsAccount(item) && modTemplate::GroupOf(item) == main;
     });
     for (const cTemplateItem& item : std::as_const(doomed.Items)) {
         doomed.Paths.append(modTemplate::Path(item));
     }
-    const QHash<QString, int> counts = m_data.CountEntriesByCategory();
+    const QHash<QString, int> counts = m_tools.Data.CountEntriesByCategory();
     for (auto count = counts.begin(); count != counts.end(); ++count) {
         if (modTemplate::MainOf(count.key()) == main) {
             doomed.Paths.append(count.key());
@@ -161,7 +162,7 @@ bool cTemplateRemoval::Delete(const cDoomed& doomed, const QString& onlyDelete)
         return Ask(text, title) && Remove(doomed, {});
     }
     const QString count = modTemplateText::Entries(doomed.Entries);
-    const int way = m_user.Decide(
+    const int way = m_tools.User.Decide(
         {.Text = cText::Tr("{0} wird von {1} verwendet.\nOhne Verschieben behalten die Buchungen ihre alte Kategorie "
                            "und bleiben überall sichtbar.",
                            {doomed.Shown, count}),
@@ -183,12 +184,13 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
     const QString name = doomed.Items.size() == 1
         ? cText::Tr("Kategorie '{0}' gelöscht", {modTemplate::Path(doomed.Items.constFirst())})
         : cText::Tr("{0} Kategorien gelöscht", {QString::number(doomed.Items.size())});
-    cUndoStep step(m_data, name);
+    cUndoStep step(m_tools.Data, name);
     const bool isDeleted = std::all_of(doomed.Items.begin(), doomed.Items.end(),
-                                       [&](const cTemplateItem& item) { return m_data.DeleteTemplate(item.ID); });
+                                       [&](const cTemplateItem& item) { return m_tools.Data.DeleteTemplate(item.ID); });
     const bool isMoved =
         target.isEmpty() || std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
-            return m_data.ChangeEntryCategory(target, path) && cOwnRules(m_settings).RenameCategory(path, target);
+            return m_tools.Data.ChangeEntryCategory(target, path)
+                && cOwnRules(m_tools.Settings).RenameCategory(path, target);
         });
     return Finish(step.DoneIf(isDeleted && isMoved));
 }
@@ -206,7 +208,7 @@ bool cTemplateRemoval::AskMergeCategory(const QString& sourcePath)
 
 bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& targetPath)
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     const cTemplateItemList sources = CategoriesAt(items, sourcePath);
     if (modTemplateText::IsProtected(sourcePath) || modTemplateText::IsProtected(targetPath)) {
         return Refuse(modTemplateText::ProtectedHint());
@@ -214,7 +216,7 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     if (sourcePath == targetPath || CategoriesAt(items, targetPath).isEmpty()) {
         return Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {targetPath}));
     }
-    const int count = m_data.CountEntriesByCategory().value(sourcePath);
+    const int count = m_tools.Data.CountEntriesByCategory().value(sourcePath);
     const QString shown = modTemplateText::ShownPath(sourcePath);
     const QStringList values{modTemplateText::Entries(count), shown, targetPath};
     const QString text = sources.isEmpty()
@@ -223,11 +225,11 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     if (!Ask(text, cText::Tr("Kategorien zusammenführen"))) {
         return false;
     }
-    cUndoStep step(m_data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
+    cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
     const bool isDeleted = std::all_of(sources.begin(), sources.end(),
-                                       [&](const cTemplateItem& item) { return m_data.DeleteTemplate(item.ID); });
-    return step.DoneIf(isDeleted && m_data.ChangeEntryCategory(targetPath, sourcePath)
-                       && cOwnRules(m_settings).RenameCategory(sourcePath, targetPath));
+                                       [&](const cTemplateItem& item) { return m_tools.Data.DeleteTemplate(item.ID); });
+    return step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
+                       && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath));
 }
 
 bool cTemplateRemoval::AskMergeMain(const QString& source)
@@ -253,19 +255,19 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
     if (!Ask(text, cText::Tr("Kategorien zusammenführen"))) {
         return false;
     }
-    cUndoStep step(m_data, cText::Tr("Hauptkategorie '{0}' mit '{1}' zusammengeführt", {source, target}));
-    const QString into = cTemplateFlow(m_data, m_settings, m_user).CleanMain(target);
+    cUndoStep step(m_tools.Data, cText::Tr("Hauptkategorie '{0}' mit '{1}' zusammengeführt", {source, target}));
+    const QString into = cTemplateFlow(m_tools).CleanMain(target);
     const bool isWritten = !into.isEmpty() && WriteMergedMain(source, into)
         && std::all_of(
             doomed.Paths.begin(), doomed.Paths.end(),
-            [&](const QString& path) { return m_data.ChangeEntryCategory(modTemplate::WithMain(path, into), path); })
-        && cOwnRules(m_settings).RenameMain(source, into);
+            [&](const QString& path) { return m_tools.Data.ChangeEntryCategory(modTemplate::WithMain(path, into), path); })
+        && cOwnRules(m_tools.Settings).RenameMain(source, into);
     return Finish(step.DoneIf(isWritten));
 }
 
 bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& target)
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     return std::all_of(items.begin(), items.end(), [&](cTemplateItem item) {
         if (modTemplate::IsAccount(item) || modTemplate::GroupOf(item) != source) {
             return true;
@@ -274,30 +276,30 @@ bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& tar
         item.TemplateCategory = target;
         const QString newPath = modTemplate::Path(item);
         if (!CategoriesAt(items, newPath).isEmpty()) {
-            return m_data.ChangeEntryCategory(newPath, oldPath) && m_data.DeleteTemplate(item.ID);
+            return m_tools.Data.ChangeEntryCategory(newPath, oldPath) && m_tools.Data.DeleteTemplate(item.ID);
         }
-        return m_data.ChangeTemplate(item) && cTemplateFlow(m_data, m_settings, m_user).FollowPath(item.ID, oldPath);
+        return m_tools.Data.ChangeTemplate(item) && cTemplateFlow(m_tools).FollowPath(item.ID, oldPath);
     });
 }
 
 bool cTemplateRemoval::DeleteAccount(const QString& name)
 {
-    const std::optional<cTemplateItem> account = m_data.FindAccount(name);
+    const std::optional<cTemplateItem> account = m_tools.Data.FindAccount(name);
     const QString title = cText::Tr("Konto löschen");
     if (!account) {
         return false;
     }
-    if (m_data.GetAccounts().size() == 1) {
+    if (m_tools.Data.GetAccounts().size() == 1) {
         return Refuse(cText::Tr("Das letzte Konto kann nicht gelöscht werden: Jede Buchung braucht ein Konto."));
     }
-    const int entries = m_data.CountEntriesByAccount().value(name);
+    const int entries = m_tools.Data.CountEntriesByAccount().value(name);
     if (entries == 0) {
         return Ask(cText::Tr("Das Konto '{0}' wird von keiner Buchung verwendet.\nMöchten Sie es löschen?", {name}),
                    title)
             && RemoveAccount(*account, {});
     }
     const QString count = modTemplateText::Entries(entries);
-    const int way = m_user.Decide(
+    const int way = m_tools.User.Decide(
         {.Text = cText::Tr("Das Konto '{0}' wird von {1} verwendet.\nOhne Verschieben behalten die Buchungen ihr "
                            "altes Konto und bleiben überall sichtbar.",
                            {name, count}),
@@ -316,29 +318,29 @@ bool cTemplateRemoval::DeleteAccount(const QString& name)
 bool cTemplateRemoval::RemoveAccount(const cTemplateItem& account, const QString& target)
 {
     const QString name = account.TemplateName;
-    cUndoStep step(m_data, cText::Tr("Konto '{0}' gelöscht", {name}));
-    const bool isWritten = cBankNumbers(m_data, m_settings).ReleaseAll(name)
-        && (target.isEmpty() || MoveAccountEntries(name, target)) && m_data.DeleteTemplate(account.ID);
+    cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' gelöscht", {name}));
+    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).ReleaseAll(name)
+        && (target.isEmpty() || MoveAccountEntries(name, target)) && m_tools.Data.DeleteTemplate(account.ID);
     return Finish(step.DoneIf(isWritten));
 }
 
 bool cTemplateRemoval::MoveAccountEntries(const QString& source, const QString& target)
 {
-    return JoinStartBalances(source, target) && m_data.MoveEntriesToAccount(target, source)
-        && cOwnRules(m_settings).RenameAccount(source, target);
+    return JoinStartBalances(source, target) && m_tools.Data.MoveEntriesToAccount(target, source)
+        && cOwnRules(m_tools.Settings).RenameAccount(source, target);
 }
 
 // Two start balances in one account: only one of them would ever be found again.
 bool cTemplateRemoval::JoinStartBalances(const QString& source, const QString& target)
 {
-    const std::optional<cEntryItem> from = m_data.GetStartGuthaben(source);
-    const std::optional<cEntryItem> to = m_data.GetStartGuthaben(target);
+    const std::optional<cEntryItem> from = m_tools.Data.GetStartGuthaben(source);
+    const std::optional<cEntryItem> to = m_tools.Data.GetStartGuthaben(target);
     if (!from || !to) {
         return true;
     }
-    return m_data.SetStartGuthaben(target, modBalance::Effect(*from, {}) + modBalance::Effect(*to, {}),
-                                   qMin(from->EntryDate, to->EntryDate))
-        && m_data.DeleteEntry(from->ID);
+    return m_tools.Data.SetStartGuthaben(target, modBalance::Effect(*from, {}) + modBalance::Effect(*to, {}),
+                                         qMin(from->EntryDate, to->EntryDate))
+        && m_tools.Data.DeleteEntry(from->ID);
 }
 
 QString cTemplateRemoval::AskMergeAccount(const QString& source)
@@ -350,11 +352,12 @@ QString cTemplateRemoval::AskMergeAccount(const QString& source)
 
 bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target)
 {
-    const std::optional<cTemplateItem> account = m_data.FindAccount(source);
-    if (source == target || !m_data.FindAccount(target)) {
+    const std::optional<cTemplateItem> account = m_tools.Data.FindAccount(source);
+    if (source == target || !m_tools.Data.FindAccount(target)) {
         return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {target}));
     }
-    const QStringList values{modTemplateText::Entries(m_data.CountEntriesByAccount().value(source)), source, target};
+    const QStringList values{modTemplateText::Entries(m_tools.Data.CountEntriesByAccount().value(source)), source,
+                             target};
     const QString text = account
         ? cText::Tr("{0} von '{1}' nach '{2}' verschieben und das Konto '{1}' löschen?\nDie Startguthaben werden "
                     "addiert, die Bankkontonummern gehen mit.",
@@ -363,8 +366,8 @@ bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target
     if (!Ask(text, cText::Tr("Konten zusammenführen"))) {
         return false;
     }
-    cUndoStep step(m_data, cText::Tr("Konto '{0}' mit '{1}' zusammengeführt", {source, target}));
-    const bool isWritten = cBankNumbers(m_data, m_settings).Move(source, target) && MoveAccountEntries(source, target)
-        && (!account || m_data.DeleteTemplate(account->ID));
+    cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' mit '{1}' zusammengeführt", {source, target}));
+    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).Move(source, target) && MoveAccountEntries(source, target)
+        && (!account || m_tools.Data.DeleteTemplate(account->ID));
     return Finish(step.DoneIf(isWritten));
 }

@@ -7,9 +7,7 @@
 
 #include <optional>
 
-class cDataAccess;
-class cSettings;
-class cUser;
+struct cBookTools;
 
 // Categories and accounts that go, and what becomes of their entries. Every function asks before it writes, is one step
 // that can be taken back, and gives false when nothing was changed. Entries that are not moved keep their old category
@@ -17,12 +15,7 @@ class cUser;
 class cTemplateRemoval
 {
 public:
-    cTemplateRemoval(cDataAccess& data, cSettings& settings, cUser& user)
-        : m_data(data),
-          m_settings(settings),
-          m_user(user)
-    {
-    }
+    explicit cTemplateRemoval(const cBookTools& tools) : m_tools(tools) {}
 
     // Deletes a category, a main category with all its sub-categories, or an account with its bank numbers. Where
     // entries use it, offers to move them first.
@@ -70,7 +63,5 @@ private:
     bool Refuse(const QString& text);
     bool Finish(bool isWritten); // the settings in memory follow a step that was taken back
 
-    cDataAccess& m_data;
-    cSettings& m_settings;
-    cUser& m_user;
+    const cBookTools& m_tools;
 };

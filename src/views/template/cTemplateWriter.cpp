@@ -3,6 +3,8 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modAmount.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
@@ -117,17 +119,17 @@ bool IsBelow(const cTemplateItem& item, const QString& main)
 
 bool cTemplateWriter::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Exclamation, text);
     return false;
 }
 
 bool cTemplateWriter::Step(const QString& name, const fnWrite& write)
 {
-    cUndoStep step(m_data, name);
+    cUndoStep step(m_tools.Data, name);
     if (step.DoneIf(write())) {
         return true;
     }
-    m_settings.Reload();
+    m_tools.Settings.Reload();
     return false;
 }
 
@@ -136,14 +138,14 @@ std::optional<cTemplateFields> cTemplateWriter::Load(const cTemplateNode& node, 
     if (node.Kind == eTemplateNode::Main) {
         return LoadMain(node.Path);
     }
-    const std::optional<cTemplateItem> item = node.Id > 0 ? m_data.FindTemplate(node.Id) : std::nullopt;
+    const std::optional<cTemplateItem> item = node.Id > 0 ? m_tools.Data.FindTemplate(node.Id) : std::nullopt;
     if (!item) {
         return std::nullopt;
     }
     if (node.Kind == eTemplateNode::Account) {
         return LoadAccount(*item, today);
     }
-    cTemplateFields fields = DefaultsOf(*item, m_decimal);
+    cTemplateFields fields = DefaultsOf(*item, m_tools.Format.Decimal());
     fields.Group = modTemplate::GroupOf(*item);
     fields.Name = modTemplate::SubOf(modTemplate::Path(*item));
     return fields;
@@ -153,14 +155,14 @@ cTemplateFields cTemplateWriter::LoadMain(const QString& main) const
 {
     cTemplateFields fields;
     bool isAnyVisible = false;
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     for (const cTemplateItem& item : items) {
         if (!IsBelow(item, main)) {
             continue;
         }
         isAnyVisible = isAnyVisible || modTemplate::IsVisible(item);
         if (!fields.IsBookable && modTemplate::Path(item) == main) {
-            fields = DefaultsOf(item, m_decimal);
+            fields = DefaultsOf(item, m_tools.Format.Decimal());
             fields.IsBookable = true;
         }
     }
@@ -171,14 +173,14 @@ cTemplateFields cTemplateWriter::LoadMain(const QString& main) const
 
 cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate today) const
 {
-    const std::optional<cEntryItem> start = m_data.GetStartGuthaben(item.TemplateName);
+    const std::optional<cEntryItem> start = m_tools.Data.GetStartGuthaben(item.TemplateName);
     cTemplateFields fields;
     fields.Name = item.TemplateName;
     fields.Group = item.TemplateCategory;
-    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {}), m_decimal) : QString();
-    fields.Limit = ShownAccountLimit(item, m_decimal);
+    fields.Amount = start ? modSum::ToText(modBalance::Effect(*start, {}), m_tools.Format.Decimal()) : QString();
+    fields.Limit = ShownAccountLimit(item, m_tools.Format.Decimal());
     fields.Date = start ? start->EntryDate : today; // an unreadable day is shown as none, not as today
-    fields.Numbers = cBankNumbers(m_data, m_settings).Of(item.TemplateName).join(u'\n');
+    fields.Numbers = cBankNumbers(m_tools.Data, m_tools.Settings).Of(item.TemplateName).join(u'\n');
     fields.Comment = item.TemplateComment;
     fields.IsVisible = modTemplate::IsVisible(item);
     return fields;
@@ -186,12 +188,13 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
 
 bool cTemplateWriter::IsAmount(const QString& text)
 {
-    return text.trimmed().isEmpty() || modSum::Evaluate(text, m_decimal) || Refuse(modSum::Fault(text, m_decimal));
+    return text.trimmed().isEmpty() || modSum::Evaluate(text, m_tools.Format.Decimal())
+        || Refuse(modSum::Fault(text, m_tools.Format.Decimal()));
 }
 
 bool cTemplateWriter::IsVat(const QString& old, const QString& text)
 {
-    return text.trimmed().isEmpty() || text == old || ReadVat(text, m_decimal)
+    return text.trimmed().isEmpty() || text == old || ReadVat(text, m_tools.Format.Decimal())
         || Refuse(cText::Tr("'{0}' ist kein Steuersatz. Bitte geben Sie Prozente ein, zum Beispiel 19 oder 7.",
                             {text.trimmed()}));
 }
@@ -208,7 +211,7 @@ std::optional<QString> cTemplateWriter::Save(const cTemplateNode& node, const cT
     if (node.Kind == eTemplateNode::Main) {
         return SaveMain(node, old, fields);
     }
-    const std::optional<cTemplateItem> item = node.Id > 0 ? m_data.FindTemplate(node.Id) : std::nullopt;
+    const std::optional<cTemplateItem> item = node.Id > 0 ? m_tools.Data.FindTemplate(node.Id) : std::nullopt;
     if (!item) {
         return std::nullopt;
     }
@@ -224,31 +227,30 @@ std::optional<QString> cTemplateWriter::SaveCategory(const cTemplateItem& item, 
     const QString name =
         isRenamed ? cText::Tr("Kategorie '{0}' umbenannt", {path}) : cText::Tr("Kategorie '{0}' geändert", {path});
     const bool isDone = Step(name, [&] {
-        const bool isNamed =
-            !isRenamed || cTemplateFlow(m_data, m_settings, m_user).RenameCategory(item, fields.Group, fields.Name);
+        const bool isNamed = !isRenamed || cTemplateFlow(m_tools).RenameCategory(item, fields.Group, fields.Name);
         return isNamed && WriteCategory(item, fields);
     });
-    const std::optional<cTemplateItem> now = isDone ? m_data.FindTemplate(item.ID) : std::nullopt;
+    const std::optional<cTemplateItem> now = isDone ? m_tools.Data.FindTemplate(item.ID) : std::nullopt;
     return now ? std::optional(modTemplate::Path(*now)) : std::nullopt;
 }
 
 bool cTemplateWriter::WriteCategory(const cTemplateItem& item, const cTemplateFields& fields)
 {
-    const std::optional<cTemplateItem> stored = m_data.FindTemplate(item.ID);
+    const std::optional<cTemplateItem> stored = m_tools.Data.FindTemplate(item.ID);
     if (!stored) {
         return false;
     }
     cTemplateItem changed = *stored;
-    TakeDefaults(changed, fields, m_decimal);
+    TakeDefaults(changed, fields, m_tools.Format.Decimal());
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
-    return changed == *stored || m_data.ChangeTemplate(changed);
+    return changed == *stored || m_tools.Data.ChangeTemplate(changed);
 }
 
 bool cTemplateWriter::CanSaveMain(const QString& main, const cTemplateFields& fields)
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     const bool hasSubs = std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
         return IsBelow(item, main) && modTemplate::Path(item) != main;
     });
@@ -267,7 +269,7 @@ std::optional<QString> cTemplateWriter::SaveMain(const cTemplateNode& node, cons
                                    : cText::Tr("Hauptkategorie '{0}' geändert", {node.Path});
     QString main = Cleaned(fields.Name);
     const bool isDone = Step(name, [&] {
-        cTemplateFlow flow(m_data, m_settings, m_user);
+        cTemplateFlow flow(m_tools);
         if (isRenamed) {
             return (main == node.Path || flow.RenameMain(node.Path, main)) && WriteMain(node, main, old, fields);
         }
@@ -286,34 +288,34 @@ bool cTemplateWriter::WriteMain(const cTemplateNode& node, const QString& main, 
 // The definition of the main category itself comes and goes with its being bookable.
 bool cTemplateWriter::WriteOwn(const cTemplateNode& node, const QString& main, const cTemplateFields& fields)
 {
-    const std::optional<cTemplateItem> own = node.Id > 0 ? m_data.FindTemplate(node.Id) : std::nullopt;
+    const std::optional<cTemplateItem> own = node.Id > 0 ? m_tools.Data.FindTemplate(node.Id) : std::nullopt;
     if (!fields.IsBookable) {
-        return !own || m_data.DeleteTemplate(own->ID);
+        return !own || m_tools.Data.DeleteTemplate(own->ID);
     }
     cTemplateItem item = own.value_or(cTemplateItem{});
-    TakeDefaults(item, fields, m_decimal);
+    TakeDefaults(item, fields, m_tools.Format.Decimal());
     if (own) {
-        return item == *own || m_data.ChangeTemplate(item);
+        return item == *own || m_tools.Data.ChangeTemplate(item);
     }
     // It takes the position of its first sub-category, so that the main category stays where it is.
-    const cTemplateItemList items = modTemplate::InOrder(m_data.GetTemplates());
+    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetTemplates());
     const auto first =
         std::find_if(items.begin(), items.end(), [&](const cTemplateItem& sub) { return IsBelow(sub, main); });
     item.TemplateType = modWord::Kategorie;
     item.TemplateCategory = main;
     item.TemplatePriority = first == items.end() ? item.TemplatePriority : first->TemplatePriority;
-    return m_data.AddNewTemplate(item);
+    return m_tools.Data.AddNewTemplate(item);
 }
 
 bool cTemplateWriter::WriteVisible(const QString& main, bool isVisible)
 {
-    const cTemplateItemList items = m_data.GetTemplates();
+    const cTemplateItemList items = m_tools.Data.GetTemplates();
     return std::all_of(items.begin(), items.end(), [&](cTemplateItem item) {
         if (!IsBelow(item, main) || modTemplate::IsVisible(item) == isVisible) {
             return true;
         }
         item.TemplateVisible = StoredVisible(isVisible);
-        return m_data.ChangeTemplate(item);
+        return m_tools.Data.ChangeTemplate(item);
     });
 }
 
@@ -326,7 +328,7 @@ bool cTemplateWriter::HasDay(const cTemplateFields& old, const cTemplateFields& 
 
 bool cTemplateWriter::StaysOpen(const cTemplateItem& account, const cTemplateFields& fields)
 {
-    const cTemplateItemList accounts = m_data.GetAccounts();
+    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
     const bool isOtherOpen = std::any_of(accounts.begin(), accounts.end(), [&](const cTemplateItem& other) {
         return other.ID != account.ID && modTemplate::IsVisible(other);
     });
@@ -336,18 +338,18 @@ bool cTemplateWriter::StaysOpen(const cTemplateItem& account, const cTemplateFie
 
 bool cTemplateWriter::ConfirmNumbers(const QString& account, const QString& text)
 {
-    const cBankNumbers bank(m_data, m_settings);
+    const cBankNumbers bank(m_tools.Data, m_tools.Settings);
     const QStringList numbers = cBankNumbers::Read(text);
     return std::all_of(numbers.begin(), numbers.end(), [&](const QString& number) {
         const QString owner = bank.AccountOf(number);
-        if (owner.isEmpty() || owner == account || !m_data.FindAccount(owner)) {
+        if (owner.isEmpty() || owner == account || !m_tools.Data.FindAccount(owner)) {
             return true;
         }
-        const eAnswer answer =
-            m_user.Ask({.Text = cText::Tr("Die Kontonummer {0} gehört bisher zum Konto '{1}'.\nSoll sie künftig zu "
-                                          "'{2}' gehören?",
-                                          {number, owner, account}),
-                        .Title = cText::Tr("Konto zuordnen")});
+        const eAnswer answer = m_tools.User.Ask(
+            {.Text = cText::Tr("Die Kontonummer {0} gehört bisher zum Konto '{1}'.\nSoll sie künftig zu "
+                               "'{2}' gehören?",
+                               {number, owner, account}),
+             .Title = cText::Tr("Konto zuordnen")});
         return answer == eAnswer::Yes;
     });
 }
@@ -364,17 +366,16 @@ std::optional<QString> cTemplateWriter::SaveAccount(const cTemplateItem& item, c
     const QString step = isRenamed ? cText::Tr("Konto '{0}' umbenannt", {item.TemplateName})
                                    : cText::Tr("Konto '{0}' geändert", {item.TemplateName});
     const bool isDone = Step(step, [&] {
-        const bool isNamed =
-            !isRenamed || cTemplateFlow(m_data, m_settings, m_user).RenameAccount(item.TemplateName, name);
+        const bool isNamed = !isRenamed || cTemplateFlow(m_tools).RenameAccount(item.TemplateName, name);
         return isNamed && WriteAccount(item, old, fields);
     });
-    const std::optional<cTemplateItem> now = isDone ? m_data.FindTemplate(item.ID) : std::nullopt;
+    const std::optional<cTemplateItem> now = isDone ? m_tools.Data.FindTemplate(item.ID) : std::nullopt;
     return now ? std::optional(now->TemplateName) : std::nullopt;
 }
 
 bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFields& old, const cTemplateFields& fields)
 {
-    const std::optional<cTemplateItem> stored = m_data.FindTemplate(item.ID);
+    const std::optional<cTemplateItem> stored = m_tools.Data.FindTemplate(item.ID);
     if (!stored) {
         return false;
     }
@@ -383,15 +384,15 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFie
         changed.TemplateCategory = Cleaned(fields.Group);
     }
     changed.TemplateComment = fields.Comment.trimmed();
-    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit, m_decimal);
+    changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit, m_tools.Format.Decimal());
     if (fields.IsVisible != modTemplate::IsVisible(changed)) {
         changed.TemplateVisible = StoredVisible(fields.IsVisible);
     }
-    if (changed != *stored && !m_data.ChangeTemplate(changed)) {
+    if (changed != *stored && !m_tools.Data.ChangeTemplate(changed)) {
         return false;
     }
     const bool isSameStart = fields.Amount == old.Amount && fields.Date == old.Date;
-    const QString name = m_data.FindTemplate(item.ID).value_or(changed).TemplateName;
+    const QString name = m_tools.Data.FindTemplate(item.ID).value_or(changed).TemplateName;
     return (isSameStart || WriteStartBalance(name, fields))
         && (fields.Numbers == old.Numbers || WriteNumbers(name, fields.Numbers));
 }
@@ -399,15 +400,16 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFie
 bool cTemplateWriter::WriteStartBalance(const QString& account, const cTemplateFields& fields)
 {
     if (!fields.Amount.trimmed().isEmpty()) {
-        return m_data.SetStartGuthaben(account, modSum::Evaluate(fields.Amount, m_decimal).value_or(0), fields.Date);
+        return m_tools.Data.SetStartGuthaben(
+            account, modSum::Evaluate(fields.Amount, m_tools.Format.Decimal()).value_or(0), fields.Date);
     }
-    const std::optional<cEntryItem> start = m_data.GetStartGuthaben(account);
-    return !start || m_data.DeleteEntry(start->ID);
+    const std::optional<cEntryItem> start = m_tools.Data.GetStartGuthaben(account);
+    return !start || m_tools.Data.DeleteEntry(start->ID);
 }
 
 bool cTemplateWriter::WriteNumbers(const QString& account, const QString& text)
 {
-    cBankNumbers bank(m_data, m_settings);
+    cBankNumbers bank(m_tools.Data, m_tools.Settings);
     const QStringList wanted = cBankNumbers::Read(text);
     const QStringList stored = bank.Of(account);
     return std::all_of(stored.begin(), stored.end(),

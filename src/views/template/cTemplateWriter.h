@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/modSum.h"
 #include "model/cTemplateItem.h"
 #include "views/template/cTemplateTreeModel.h"
 
@@ -11,9 +10,7 @@
 #include <functional>
 #include <optional>
 
-class cDataAccess;
-class cSettings;
-class cUser;
+struct cBookTools;
 
 // The fields of a line in the trees of categories and accounts; which of them count depends on the kind of the line.
 struct cTemplateFields
@@ -38,14 +35,7 @@ struct cTemplateFields
 class cTemplateWriter
 {
 public:
-    // `decimal` is the sign that typed and shown amounts have.
-    cTemplateWriter(cDataAccess& data, cSettings& settings, cUser& user, eDecimal decimal)
-        : m_data(data),
-          m_settings(settings),
-          m_user(user),
-          m_decimal(decimal)
-    {
-    }
+    explicit cTemplateWriter(const cBookTools& tools) : m_tools(tools) {}
 
     // Empty for a line without fields: a group, or what only entries know.
     [[nodiscard]] std::optional<cTemplateFields> Load(const cTemplateNode& node, QDate today) const;
@@ -84,8 +74,5 @@ private:
     // One step, taken back when `write` fails.
     [[nodiscard]] bool Step(const QString& name, const fnWrite& write);
 
-    cDataAccess& m_data;
-    cSettings& m_settings;
-    cUser& m_user;
-    eDecimal m_decimal;
+    const cBookTools& m_tools;
 };

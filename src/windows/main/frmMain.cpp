@@ -1,6 +1,7 @@
 #include "windows/main/frmMain.h"
 
 #include "base/cText.h"
+#include "model/modSettingKey.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "windows/main/cAccountPanel.h"
@@ -29,9 +30,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int accountLetters = 42;          // width of the accounts
-constexpr int crampedLetters = 80;          // width of a window that is too small for list and accounts
-const QString pageSetting = u"MainSeite"_s; // number of the page in front
+constexpr int accountLetters = 42; // width of the accounts
+constexpr int crampedLetters = 80; // width of a window that is too small for list and accounts
 
 } // namespace
 
@@ -83,7 +83,7 @@ void frmMain::BuildCommands()
         action->setIconText(modCommand::PlainText(command));
         action->setIcon(modIcon::Get(QString::fromUtf8(command.Icon)));
         action->setStatusTip(cText::Tr(command.Hint));
-        action->setCheckable(*command.Setting != '\0');
+        action->setCheckable(command.Setting != nullptr);
         action->setData(command.Id);
         connect(action, &QAction::triggered, this, [this, id = command.Id] { m_model.Execute(id); });
         m_actions.insert(command.Id, action);
@@ -161,8 +161,8 @@ void frmMain::RestoreLayout()
     if (placement.State == 2) {
         setWindowState(Qt::WindowMaximized);
     }
-    m_tree->SetLayoutText(m_model.Layout(u"MainList"_s));
-    m_tree->SetGroupText(m_model.Layout(u"GroupEntries"_s));
+    m_tree->SetLayoutText(m_model.Layout(modSettingKey::MainList));
+    m_tree->SetGroupText(m_model.Layout(modSettingKey::ClosedGroups));
     ShowCommands();
 }
 
@@ -173,7 +173,8 @@ QList<int> frmMain::EntryColumns() const
 
 void frmMain::ShowToday()
 {
-    m_tabs->setCurrentIndex(m_model.Layout(pageSetting).toInt()); // the tabs pass over a number that they do not have
+    // The tabs pass over a number that they do not have.
+    m_tabs->setCurrentIndex(m_model.Layout(modSettingKey::MainPage).toInt());
     m_tree->ScrollTo(m_model.Today());
     if (Page() == ePage::Entries) {
         m_tree->setFocus();
@@ -186,8 +187,8 @@ void frmMain::ShowView()
     m_viewBar->ShowView();
     m_accounts->SetTitle(m_model.BalancesTitle());
     for (const modCommand::cCommand& command : modCommand::All()) {
-        if (*command.Setting != '\0') {
-            m_actions.value(command.Id)->setChecked(m_model.IsChecked(QString::fromUtf8(command.Setting)));
+        if (command.Setting != nullptr) {
+            m_actions.value(command.Id)->setChecked(m_model.IsChecked(*command.Setting));
         }
     }
     const QString hint = m_model.Hint();
@@ -276,9 +277,9 @@ void frmMain::SaveLayout()
     const QRect place = isMaximized() || isMinimized() ? normalGeometry() : geometry();
     const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
-    m_model.SaveListLayout(u"MainList"_s, m_tree->LayoutText());
-    m_model.SaveListLayout(u"GroupEntries"_s, m_tree->GroupText());
-    m_model.SaveListLayout(pageSetting, QString::number(m_tabs->currentIndex()));
+    m_model.SaveListLayout(modSettingKey::MainList, m_tree->LayoutText());
+    m_model.SaveListLayout(modSettingKey::ClosedGroups, m_tree->GroupText());
+    m_model.SaveListLayout(modSettingKey::MainPage, QString::number(m_tabs->currentIndex()));
 }
 
 // The accounts have room for long names in a wide window and leave most of a narrow one to the list; where it has
