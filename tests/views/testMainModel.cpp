@@ -181,7 +181,7 @@ void testMainModel::SumsFollowTheView()
     scene.Model->ChooseAccount(account);
     scene.Model->ChooseType(type);
 
-    const cEntryListModel::cSums sums = scene.Model->Entries().Sums();
+    const cEntrySums sums = scene.Model->Entries().Sums();
     QCOMPARE(sums.Count, count);
     QCOMPARE(sums.Income, income);
     QCOMPARE(sums.Expense, expense);
