@@ -9,6 +9,7 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "store/cDataAccess.h"
+#include "views/statement/cMatchFlow.h"
 
 #include <QString>
 
@@ -44,6 +45,10 @@ public:
     [[nodiscard]] const cBook& File() const { return *m_book; }
     [[nodiscard]] cSettings& Settings() { return m_book->Settings(); }
     [[nodiscard]] cConfiguration& Configuration() { return *m_configuration; }
+    [[nodiscard]] cMatchFlow Matching(cUser& user)
+    {
+        return cMatchFlow({Data, m_format, user, Hive, Accounts, Booking});
+    }
     // Writes a checked copy of the book; what went wrong, empty when it is there.
     [[nodiscard]] QString MakeBackup(const QString& target, cShell& shell);
 

@@ -1,28 +1,19 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modCount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliTable.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
+#include "views/statement/modImportText.h"
+#include "views/statement/modRowBooking.h"
 
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QList<int> OpenRows(cCliBook& book)
-{
-    QList<int> ids;
-    const cImportEntryList rows = book.Hive.GetImportHive().GetImportEntriesByAssignedID(-1);
-    for (const cImportEntry& row : rows) {
-        ids.append(row.ID);
-    }
-    return ids;
-}
 
 // The rows that the options name; empty optional, and the user told, when they name none.
 std::optional<QList<int>> ChosenRows(const cCliContext& context, const QList<int>& open)
@@ -113,22 +104,10 @@ void PrintJson(const QList<int>& ids, const QHash<int, cProposal>& proposals)
 
 int Report(const cBookingResult& result)
 {
-    const QString joined = result.Joined == 1
-        ? cText::Tr(", davon 1 zu einem vorhandenen Eintrag")
-        : cText::Tr(", davon {0} zu vorhandenen Einträgen", {QString::number(result.Joined)});
-    modConsole::Out(
-        cText::Tr("{0} neu, {1} zugeordnet", {modCount::Entries(result.Entries), modCount::Rows(result.Rows)})
-        + (result.Joined > 0 ? joined : QString()) + u'\n');
-    if (result.Failed > 0) {
-        modConsole::Error(result.Failed == 1 ? cText::Tr("1 Umsatz konnte nicht gebucht werden.")
-                                             : cText::Tr("{0} Umsätze konnten nicht gebucht werden.",
-                                                         {QString::number(result.Failed)}));
-    }
+    modConsole::Out(modImportText::Booked(result) + u'\n');
     for (const QString& number : result.UnknownAccounts) {
-        modConsole::Error(
-            cText::Tr("Die Kontonummer '{0}' gehört zu keinem Konto; ihre Umsätze bleiben offen. Lesen Sie den "
-                      "Auszug mit --book-account NAME noch einmal ein.",
-                      {number}));
+        modConsole::Error(modImportText::NoAccount(number) + u' '
+                          + cText::Tr("Lesen Sie den Auszug mit --book-account NAME noch einmal ein."));
     }
     return result.Failed == 0 && result.UnknownAccounts.isEmpty() ? modExit::Done : modExit::Failed;
 }
@@ -136,7 +115,7 @@ int Report(const cBookingResult& result)
 int RunPropose(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const QList<int> ids = OpenRows(book);
+    const QList<int> ids = book.Hive.GetImportHive().OpenIds();
     const QHash<int, cProposal> proposals = book.Booking.Propose(ids);
     if (context.Call.Has(u"json"_s)) {
         PrintJson(ids, proposals);
@@ -149,7 +128,7 @@ int RunPropose(const cCliContext& context)
 int RunBook(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const QList<int> open = OpenRows(book);
+    const QList<int> open = book.Hive.GetImportHive().OpenIds();
     const std::optional<QList<int>> chosen = ChosenRows(context, open);
     if (!chosen) {
         return modExit::Usage;
@@ -157,13 +136,13 @@ int RunBook(const cCliContext& context)
     if (!AllOpen(*chosen, open)) {
         return modExit::Failed;
     }
-    const QHash<int, cProposal> proposals = book.Booking.Propose(*chosen);
+    const auto propose = [&] { return book.Booking.Propose(*chosen); };
     if (context.Call.Has(u"dry-run"_s)) {
-        Print(book, *chosen, proposals);
+        Print(book, *chosen, propose());
         return modExit::Done;
     }
     cNoProgress progress;
-    return Report(book.Booking.Book(*chosen, proposals, progress));
+    return Report(modRowBooking::Book(book.Data, book.Booking, *chosen, propose, progress));
 }
 
 } // namespace

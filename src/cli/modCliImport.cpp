@@ -1,7 +1,6 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
@@ -16,6 +15,7 @@
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cStatementImport.h"
 #include "import/table/cTableMemory.h"
+#include "views/statement/modImportText.h"
 
 #include <algorithm>
 
@@ -84,47 +84,27 @@ QString ToJson(const cImportResult& result, eStagingRun run)
 
 QString Summary(const cImportResult& result, const cCliBook& book)
 {
-    const QStringList values{result.File,
-                             result.Layout.isEmpty() ? result.Format : result.Format + u" – "_s + result.Layout,
-                             QString::number(result.Read), QString::number(result.Staged)};
-    QString text = result.Read == 1 ? cText::Tr("{0}: {1}, 1 Umsatz gelesen, {3} neu", values)
-                                    : cText::Tr("{0}: {1}, {2} Umsätze gelesen, {3} neu", values);
-    if (!result.Duplicates.isEmpty()) {
-        text += cText::Tr(", {0} schon vorhanden", {QString::number(result.Duplicates.size())});
-    }
-    if (result.Zero > 0) {
-        text += cText::Tr(", {0} ohne Betrag", {QString::number(result.Zero)});
-    }
-    if (result.Failed > 0) {
-        text += cText::Tr(", {0} nicht gespeichert", {QString::number(result.Failed)});
-    }
-    return text
-        + (result.ClosingBalance ? cText::Tr(", Endsaldo {0}", {book.AmountText(*result.ClosingBalance)}) : QString());
-}
-
-QString RowText(const cImportEntry& row, const cCliBook& book)
-{
-    return modDate::ToGerman(row.ImportDate) + u"  "_s + book.AmountText(modAmount::ToCents(row.ImportValue)) + u"  "_s
-        + (row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary);
+    return cText::Tr("{0}: {1}, {2}",
+                     {result.File, result.Layout.isEmpty() ? result.Format : result.Format + u" – "_s + result.Layout,
+                      modImportText::Numbers(result, book.Format())});
 }
 
 void Print(const cReadProblem& problem)
 {
-    modConsole::Error(problem.Line > 0 ? cText::Tr("  Zeile {0}: {1}", {QString::number(problem.Line), problem.Text})
-                                       : u"  "_s + problem.Text);
+    modConsole::Error(u"  "_s + modImportText::Problem(problem));
 }
 
 void Print(const cImportResult& result, const cCliBook& book)
 {
     QString text = result.IsRefused ? QString() : Summary(result, book) + u'\n';
     for (const cImportEntry& row : result.Rows.first(qMin(result.Rows.size(), shownRows))) {
-        text += cText::Tr("  neu: {0}", {RowText(row, book)}) + u'\n';
+        text += cText::Tr("  neu: {0}", {modImportText::Row(row, book.Format())}) + u'\n';
     }
     if (result.Rows.size() > shownRows) {
         text += cText::Tr("  … und {0} weitere", {QString::number(result.Rows.size() - shownRows)}) + u'\n';
     }
     for (const cImportEntry& row : result.Duplicates) {
-        text += cText::Tr("  schon vorhanden: {0}", {RowText(row, book)}) + u'\n';
+        text += cText::Tr("  schon vorhanden: {0}", {modImportText::Row(row, book.Format())}) + u'\n';
     }
     modConsole::Out(text);
     for (const cReadProblem& problem : result.Problems) {
@@ -234,7 +214,6 @@ int Run(const cCliContext& context)
     cImportOptions options;
     options.Duplicates = context.Call.Has(u"keep-duplicates"_s) ? eDuplicateTest::Skip : eDuplicateTest::Test;
     options.DefaultAccount = context.Call.Value(u"account"_s);
-    options.MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
     options.Table = modCliTableChoice::Read(context.Call, reader);
     options.Run = context.Call.Has(u"dry-run"_s) ? eStagingRun::Try : eStagingRun::Write;
     return reader.IsGood() ? ImportFiles(context, options) : reader.Report();

@@ -8,12 +8,11 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
-#include "import/propose/cOwnRules.h"
-#include "import/propose/cRuleMatcher.h"
 #include "import/stage/cStatementImport.h"
 #include "import/table/cTableMemory.h"
 #include "model/modWord.h"
 #include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleTrial.h"
 #include "views/statement/modRuleText.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -174,7 +173,6 @@ cImportEntryList RowsToTest(const cCliContext& context, cCliReader& reader)
     cImportOptions options;
     options.Duplicates = eDuplicateTest::Skip;
     options.DefaultAccount = context.Call.Value(u"account"_s);
-    options.MissingPurpose = eMissingPurpose::Name;
     options.Run = eStagingRun::Try;
     const cTableMemory memory(book.Settings());
     cNoProgress progress;
@@ -194,8 +192,9 @@ int Test(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    const QList<cOwnRule> rules = cOwnRules(book.Settings()).Load();
-    const cRuleMatcher matcher(rules);
+    const QList<cOwnRule> rules = cRuleListModel(Parts(context)).Stored();
+    cRuleTrial trial(rows, book.Accounts);
+    trial.SetRules(rules);
     QStringList objects;
     cCliTable table({{cText::Tr("Datum")},
                      {cText::Tr("Betrag"), eAlign::Right},
@@ -204,7 +203,7 @@ int Test(const cCliContext& context)
                      {cText::Tr("Regel"), eAlign::Right},
                      {cText::Tr("Dann")}});
     for (const cImportEntry& row : rows) {
-        const int place = matcher.Find(cRuleRow(row, book.Accounts.AccountOf(row.ImportAccount)));
+        const int place = trial.PlaceFor(row);
         objects.append(modCliRecord::Row(row)
                            .Raw(u"Rule"_s, place < 0 ? u"null"_s : ToJson(rules.at(place), place).ToString())
                            .ToString());

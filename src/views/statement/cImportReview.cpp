@@ -19,6 +19,7 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
+#include "views/statement/modRowBooking.h"
 
 #include <QSet>
 
@@ -206,11 +207,15 @@ void cImportReview::BookAll(const QList<int>& rowIds, cProgress& progress)
     if (rowIds.isEmpty()) {
         return;
     }
-    const cUndoStep step(m_parts.Data,
-                         cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
-    AskAccountsOf(OpenRows(rowIds));
-    const cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
-    m_summary = modImportText::Booked(result);
+    const auto chosen = [&] {
+        AskAccountsOf(OpenRows(rowIds));
+        return Chosen(OpenRows(rowIds));
+    };
+    const cBookingResult result = modRowBooking::Book(m_parts.Data, m_works->Booking, rowIds, chosen, progress);
+    m_summary = {modImportText::Booked(result)};
+    for (const QString& number : result.UnknownAccounts) {
+        m_summary.append(modImportText::NoAccount(number));
+    }
     Refresh();
     Q_EMIT SummaryChanged();
     Q_EMIT EntriesChanged();
