@@ -11,6 +11,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
+#include "views/template/modBookNames.h"
 
 #include <QFileInfo>
 
@@ -183,13 +184,8 @@ QString cCliReader::Interval(const QString& text)
 QString cCliReader::Account(const QString& text, eCliNames names)
 {
     cDataAccess& data = m_context.Book->Data;
-    QStringList accounts;
-    const cTemplateItemList items = data.GetAccounts();
-    for (const cTemplateItem& item : items) {
-        accounts.append(item.TemplateName);
-    }
-    accounts += names == eCliNames::Used ? data.GetEntryAccounts() : QStringList();
-    accounts.removeDuplicates();
+    const QStringList accounts =
+        names == eCliNames::Used ? modBookNames::UsedAccounts(data) : modBookNames::Accounts(data);
     const QStringList meant = accounts.contains(text) ? QStringList{text} : Meant(accounts, text, Itself);
     if (meant.isEmpty() && !text.isEmpty()) {
         Missing(cText::Tr("Das Konto '{0}' gibt es nicht. Möglich sind: {1}.", {text, accounts.join(u", "_s)}));
@@ -200,20 +196,8 @@ QString cCliReader::Account(const QString& text, eCliNames names)
 QStringList cCliReader::Categories(eCliNames names) const
 {
     cDataAccess& data = m_context.Book->Data;
-    QStringList paths;
-    const cTemplateItemList items = modTemplate::InOrder(data.GetTemplates());
-    for (const cTemplateItem& item : items) {
-        if (!modTemplate::IsAccount(item)) {
-            paths.append(modTemplate::Path(item));
-        }
-    }
-    if (names == eCliNames::Used) {
-        paths += data.CountEntriesByCategory().keys();
-        const QStringList all = paths;
-        std::transform(all.begin(), all.end(), std::back_inserter(paths), modTemplate::MainOf);
-    }
-    paths.removeDuplicates();
-    return paths;
+    return names == eCliNames::Used ? modTemplate::WithMains(modBookNames::UsedCategories(data))
+                                    : modBookNames::Categories(data);
 }
 
 QString cCliReader::Category(const QString& text, eCliNames names)
@@ -273,7 +257,11 @@ modPeriod::cRange cCliReader::Period(const QString& name)
     if (!call.Has(u"period"_s)) {
         return modPeriod::Range(name, m_context.Clock.Today(), {});
     }
-    const QString text = call.Value(u"period"_s);
+    return PeriodNamed(call.Value(u"period"_s));
+}
+
+modPeriod::cRange cCliReader::PeriodNamed(const QString& text)
+{
     QStringList names = modWord::Periods().Stored();
     names.removeAll(modWord::FreierZeitraum);
     return modPeriod::Range(Word(text, names, cText::Tr("Den Zeitraum '{0}' gibt es nicht.", {text})),

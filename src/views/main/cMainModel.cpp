@@ -155,18 +155,13 @@ std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
     if (query.Account.isEmpty() || isNarrowed) {
         return std::nullopt;
     }
-    qint64 balance = 0;
-    if (query.Start.isValid()) {
-        cEntryQuery before;
-        before.Account = query.Account;
-        before.End = query.Start.addDays(-1);
-        const QList<cAccountSum> sums = m_parts.Data.GetSums(before, true);
-        for (const cAccountSum& sum : sums) {
-            balance +=
-                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
-        }
+    if (!query.Start.isValid()) {
+        return 0;
     }
-    return balance;
+    cEntryQuery before;
+    before.Account = query.Account;
+    before.End = query.Start.addDays(-1);
+    return modBalance::ByAccount(m_parts.Data.GetSums(before, true)).value(query.Account);
 }
 
 void cMainModel::RefreshAccounts()
@@ -180,28 +175,11 @@ void cMainModel::RefreshAccounts()
     QHash<QString, qint64> balances;
     if (m_view.BalancesToToday || !m_view.ShowsNothing()) {
         const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
-        const QList<cAccountSum> sums = m_parts.Data.GetSums(m_view.BalanceQuery(today), withStart);
-        for (const cAccountSum& sum : sums) {
-            const bool isTransfer = sum.EntryType == modWord::Umbuchung;
-            balances[sum.EntryAccount] += isTransfer || sum.EntryType != modWord::Einnahme ? -sum.Cents : sum.Cents;
-            if (isTransfer) {
-                balances[sum.EntryAccountMove] += sum.Cents;
-            }
-        }
+        balances = modBalance::ByAccount(m_parts.Data.GetSums(m_view.BalanceQuery(today), withStart));
     }
-    m_accounts.SetAccounts(m_accountItems, balances, OpenByAccount());
+    m_accounts.SetAccounts(m_accountItems, balances, cAccountMap(m_parts.Data, m_parts.Settings).OpenByAccount());
     m_accounts.SetChosen(m_view.FilterAccount());
     m_balancesOf = m_view.BalancesToToday ? today : QDate();
-}
-
-QHash<QString, int> cMainModel::OpenByAccount() const
-{
-    QHash<QString, int> byAccount;
-    const QHash<QString, int> byNumber = m_parts.Data.CountOpenImports();
-    for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
-        byAccount[m_parts.Settings.Get(cAccountMap::SettingName(open.key()))] += *open;
-    }
-    return byAccount;
 }
 
 void cMainModel::BookChanged()
@@ -397,11 +375,7 @@ bool cMainModel::IsFreePeriod() const
 
 QStringList cMainModel::Accounts() const
 {
-    QStringList names{modWord::AlleKonten};
-    for (const cTemplateItem& account : m_accountItems) {
-        names.append(account.TemplateName);
-    }
-    return names;
+    return QStringList{modWord::AlleKonten} + modTemplate::AccountNames(m_accountItems);
 }
 
 QString cMainModel::StartText() const

@@ -159,7 +159,6 @@ private:
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const QString& key, eSwitch state);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
-    [[nodiscard]] QHash<QString, int> OpenByAccount() const;
 
     // A selection and the view that it stands in for.
     struct cDetour

@@ -16,6 +16,7 @@
 #include "views/statement/cRuleTrial.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modRuleText.h"
+#include "views/template/modBookNames.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -97,18 +98,6 @@ QString cRuleListModel::TypeOf(const cOwnRule& rule)
     return rule.Sign == eRuleSign::Any ? QString() : rule.Sign == eRuleSign::In ? modWord::Einnahme : modWord::Ausgabe;
 }
 
-QStringList cRuleListModel::KnownCategories() const
-{
-    QStringList paths = m_parts.Data.CountEntriesByCategory().keys();
-    const cTemplateItemList items = m_parts.Data.GetTemplates();
-    for (const cTemplateItem& item : items) {
-        if (!modTemplate::IsAccount(item)) {
-            paths.append(modTemplate::Path(item));
-        }
-    }
-    return paths;
-}
-
 bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
 {
     {
@@ -140,7 +129,7 @@ bool cRuleListModel::Save()
         m_parts.User.Show(eTone::Exclamation, problem);
         return false;
     }
-    if (!m_draft.Category.isEmpty() && !KnownCategories().contains(m_draft.Category)) {
+    if (!m_draft.Category.isEmpty() && !modBookNames::UsedCategories(m_parts.Data).contains(m_draft.Category)) {
         const QString path = m_suggestions->OfferNew(m_draft.Category, TypeOf(m_draft));
         if (path.isEmpty()) {
             return false;
