@@ -6,7 +6,6 @@
 #include "cli/cCliBook.h"
 #include "cli/modCliEntryList.h"
 #include "cli/modCliFlow.h"
-#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "views/entry/modSplitParts.h"
 
@@ -226,13 +225,12 @@ int cCliEntryForm::Save(const cEntryFields& fields, int id)
 
 void cCliEntryForm::Print(const cEntryFields& fields, int id) const
 {
-    cDataAccess& data = m_context.Book->Data;
-    const std::optional<cEntryItem> entry = data.LoadEntry(id);
-    const int group = entry ? modSplit::Group(*entry) : 0;
-    const cEntryItemList parts = group == 0 ? cEntryItemList() : data.GetEntriesOfSplit(group);
+    cBookAccess& file = m_context.Book->File();
+    const std::optional<cEntryItem> entry = file.Entry(id);
+    const cEntryItemList parts = entry ? file.Parts(*entry) : cEntryItemList();
     const bool isTable = !Has("json");
     if (isTable) {
-        modConsole::Out(data.UndoName() + u'\n');
+        modConsole::Out(file.LastStep() + u'\n');
     }
     modCliEntryList::Print(m_context, parts.isEmpty() && entry ? cEntryItemList{*entry} : parts);
     const cEntryEditor::cPreview preview = m_editor.Preview(fields);

@@ -91,7 +91,7 @@ int cCliReader::Id(const QString& text)
     const int id = text.toInt(&isNumber);
     if (!isNumber) {
         Misused(cText::Tr("'{0}' ist keine Nummer. Die Nummern stehen in der Spalte ID.", {text}));
-    } else if (!m_context.Book->Data.LoadEntry(id)) {
+    } else if (!m_context.Book->File().Entry(id)) {
         Missing(cText::Tr("Einen Eintrag mit der Nummer {0} gibt es nicht.", {text}));
     }
     return id;
@@ -128,7 +128,7 @@ QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
     if (text.isEmpty()) {
         Misused(cText::Tr("Bitte nennen Sie den Tag des Vorkommens."));
     }
-    const std::optional<cEntryItem> series = m_context.Book->Data.LoadEntry(id);
+    const std::optional<cEntryItem> series = m_context.Book->File().Entry(id);
     if (!series || !day.isValid()) {
         return {};
     }

@@ -143,11 +143,8 @@ int Start(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cDataAccess& data = context.Book->Data;
-    if (const std::optional<cEntryItem> stored = data.GetStartGuthaben(account); stored && !day.isValid()) {
-        day = stored->EntryDate;
-    }
-    const cStartBalance balance(data, eDecimal::Comma);
+    const cStartBalance balance(context.Book->Data, eDecimal::Comma);
+    day = day.isValid() ? day : balance.Show(account).Date;
     return modCliFlow::Finish(context, balance.Save(account, cents, day.isValid() ? day : context.Clock.Today()));
 }
 

@@ -182,7 +182,7 @@ int Change(const cCliContext& context)
         return reader.Report();
     }
     cTemplateManager manager(Parts(context));
-    const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->Data.UndoName().isEmpty();
+    const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->File().LastStep().isEmpty();
     return modCliFlow::Finish(context, isDone);
 }
 

@@ -107,7 +107,7 @@ QString WriteTarget(const cCliContext& context, const QString& target, const cCh
     if (target == u"csv") {
         return modFileWrite::Replace(path, modChartTable::Csv(chart));
     }
-    return context.Paint.PaintChart(chart, path) ? QString() : cText::Tr("Schreiben nicht möglich");
+    return context.Ports.Paint.PaintChart(chart, path) ? QString() : cText::Tr("Schreiben nicht möglich");
 }
 
 int Run(const cCliContext& context)

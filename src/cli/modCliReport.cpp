@@ -184,7 +184,7 @@ bool WritePdf(const cCliContext& context, cReportSource& source, cReportWish wis
 {
     const QString path = context.Call.Value(u"pdf"_s);
     wish.Links = eReportLinks::Off;
-    const bool isWritten = context.Paint.PaintReport(source.Html(wish), path);
+    const bool isWritten = context.Ports.Paint.PaintReport(source.Html(wish), path);
     if (!isWritten) {
         context.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", {path}));
     }

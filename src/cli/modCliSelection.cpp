@@ -86,11 +86,9 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     query.Type = modWord::QueryType(kind);
     query.Account = account;
     const cEntryItemList entries =
-        cEntryFilter::Search(book.Data.GetEntries(query), call.Value(u"filter"_s), account, book.Format());
+        cEntryFilter::Search(book.File().Entries(query), call.Value(u"filter"_s), account, book.Format());
     std::copy_if(entries.begin(), entries.end(), std::back_inserter(selection.Entries),
                  [&](const cEntryItem& entry) { return category.Holds(entry.EntryCategory); });
-    std::stable_sort(selection.Entries.begin(), selection.Entries.end(),
-                     [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
     selection.View = View(call, kind, account);
     return selection;
 }
