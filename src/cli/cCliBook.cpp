@@ -18,13 +18,11 @@ cBookAccess::eMode Mode(eCliAccess access)
 
 } // namespace
 
-cCliBook::cCliBook(std::unique_ptr<cBookAccess> file)
+cCliBook::cCliBook(std::unique_ptr<cBookAccess> file, cUser& user)
     : m_file(std::move(file)),
       m_format(m_file->Configuration()),
       Data(m_file->Data()),
-      Accounts(Data, m_file->Settings()),
-      Hive(Data),
-      Booking(Data, Hive, Accounts)
+      Statements({Data, m_file->Settings(), m_format, user})
 {
 }
 
@@ -36,5 +34,5 @@ std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess acc
         cBookAccess::Open(database, Mode(access),
                           {ports.Shell, ports.Registry, user, rescue, ports.Clock, ports.Lock, ports.Version,
                            [&user] { return user.HasFailed(); }});
-    return file ? std::unique_ptr<cCliBook>(new cCliBook(std::move(file))) : nullptr;
+    return file ? std::unique_ptr<cCliBook>(new cCliBook(std::move(file), user)) : nullptr;
 }

@@ -2,11 +2,8 @@
 
 #include "cli/modCliCommands.h"
 #include "core/cAmountFormat.h"
-#include "import/propose/cBooking.h"
-#include "import/stage/cAccountMap.h"
-#include "import/stage/cImportHiveCache.h"
 #include "views/book/cBookAccess.h"
-#include "views/statement/cMatchFlow.h"
+#include "views/statement/cStatementDesk.h"
 
 #include <QString>
 
@@ -25,13 +22,9 @@ public:
     [[nodiscard]] const cAmountFormat& Format() const { return m_format; }
     [[nodiscard]] cBookAccess& File() { return *m_file; }
     [[nodiscard]] cSettings& Settings() { return m_file->Settings(); }
-    [[nodiscard]] cMatchFlow Matching(cUser& user)
-    {
-        return cMatchFlow({Data, m_format, user, Hive, Accounts, Booking});
-    }
 
 private:
-    explicit cCliBook(std::unique_ptr<cBookAccess> file);
+    cCliBook(std::unique_ptr<cBookAccess> file, cUser& user);
 
     // Declared before what works with them.
     std::unique_ptr<cBookAccess> m_file;
@@ -39,7 +32,5 @@ private:
 
 public:
     cDataAccess& Data;
-    cAccountMap Accounts;
-    cImportHiveCache Hive;
-    cBooking Booking;
+    cStatementDesk Statements;
 };

@@ -116,12 +116,9 @@ void cCliEntryForm::FillPart(int id, cEntryFields& fields)
     const qint64 before = modSum::Evaluate(part->Amount, fields.Decimal).value_or(0);
     const qint64 size = std::abs(Has("amount") ? m_cents : before);
     const bool isOpposite = m_kind.isEmpty() ? before < 0 : m_kind != fields.Type;
-    part->Amount = modSplitParts::AmountText(isOpposite ? -size : size, fields.Decimal);
     part->Category = m_category.isEmpty() ? part->Category : m_category;
     part->Description = Has("text") ? m_context.Call.Value(u"text"_s) : part->Description;
-    const qint64 whole =
-        modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0) - modSplitParts::Rest(fields).value_or(0);
-    fields.Amount = modSum::ToText(whole, fields.Decimal);
+    const qint64 whole = modSplitParts::SetAmount(part - fields.Parts.begin(), isOpposite ? -size : size, fields);
     if (m_kind == modWord::Umbuchung) {
         m_reader.Missing(cText::Tr("Ein Teil einer aufgeteilten Buchung kann keine Umbuchung sein."));
     } else if (whole < 0) {

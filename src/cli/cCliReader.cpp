@@ -114,7 +114,7 @@ std::optional<cImportEntry> cCliReader::StagedRow(const QString& text)
         Misused(cText::Tr("'{0}' ist keine Nummer. Die Nummern stehen in der Spalte ID.", {text}));
         return std::nullopt;
     }
-    std::optional<cImportEntry> row = m_context.Book->Hive.GetImportHive().GetImportEntryByID(id);
+    std::optional<cImportEntry> row = m_context.Book->Statements.Row(id);
     if (!row) {
         Missing(cText::Tr("Einen Umsatz mit der Nummer {0} gibt es nicht.", {text}));
     }

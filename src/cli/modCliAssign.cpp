@@ -4,7 +4,6 @@
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
-#include "import/match/cMatcher.h"
 #include "views/statement/cMatchFlow.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -40,7 +39,7 @@ int Assign(const cCliContext& context, int rowId, const cMatchCandidate& found)
     const bool isCorrecting = context.Call.Has(u"correct"_s);
     context.User.Prepare({.Answer = isCorrecting ? eAnswer::Yes : eAnswer::No});
     cCliBook& book = *context.Book;
-    const int code = Report(book.Matching(context.User).Assign(rowId, found));
+    const int code = Report(book.Statements.Matching().Assign(rowId, found));
     if (code == modExit::Done && found.Correction && !isCorrecting) {
         modConsole::Out(
             cText::Tr("Der Umsatz ist {0}, das Vorkommen {1}; --correct gleicht es an.",
@@ -52,14 +51,13 @@ int Assign(const cCliContext& context, int rowId, const cMatchCandidate& found)
 
 int RunAssign(const cCliContext& context)
 {
-    cCliBook& book = *context.Book;
     cCliReader reader(context);
     const std::optional<cImportEntry> row = reader.StagedRow(context.Call.Arguments().value(0));
     const int entryId = reader.Id(context.Call.Arguments().value(1));
     if (!row || !reader.IsGood()) {
         return reader.Report();
     }
-    const std::optional<cMatchCandidate> found = cMatcher(book.Data, book.Hive, book.Accounts).ByHand(row->ID, entryId);
+    const std::optional<cMatchCandidate> found = context.Book->Statements.ByHand(row->ID, entryId);
     if (!found) {
         modConsole::Error(cText::Tr("Die Serie {0} hat in der Nähe des {1} kein Vorkommen.",
                                     {QString::number(entryId), modDate::ToGerman(row->ImportDate)}));
@@ -86,7 +84,7 @@ int RunRelease(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    return Report(context.Book->Matching(context.User).Release(ids));
+    return Report(context.Book->Statements.Matching().Release(ids));
 }
 
 } // namespace

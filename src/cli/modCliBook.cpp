@@ -1,4 +1,3 @@
-#include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
@@ -7,7 +6,6 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
 #include "views/statement/modImportText.h"
-#include "views/statement/modRowBooking.h"
 
 #include <optional>
 
@@ -102,21 +100,21 @@ void PrintJson(const QList<int>& ids, const QHash<int, cProposal>& proposals)
     modConsole::Out(modJson::Array(objects) + u'\n');
 }
 
-int Report(const cBookingResult& result)
+int Report(const cStatementDesk::cBooked& booked)
 {
-    modConsole::Out(modImportText::Booked(result) + u'\n');
-    for (const QString& number : result.UnknownAccounts) {
+    modConsole::Out(booked.Text + u'\n');
+    for (const QString& number : booked.UnknownAccounts) {
         modConsole::Error(modImportText::NoAccount(number) + u' '
                           + cText::Tr("Lesen Sie den Auszug mit --book-account NAME noch einmal ein."));
     }
-    return result.Failed == 0 && result.UnknownAccounts.isEmpty() ? modExit::Done : modExit::Failed;
+    return booked.IsDone ? modExit::Done : modExit::Failed;
 }
 
 int RunPropose(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const QList<int> ids = book.Hive.GetImportHive().OpenIds();
-    const QHash<int, cProposal> proposals = book.Booking.Propose(ids);
+    const QList<int> ids = book.Statements.OpenIds();
+    const QHash<int, cProposal> proposals = book.Statements.Propose(ids);
     if (context.Call.Has(u"json"_s)) {
         PrintJson(ids, proposals);
     } else {
@@ -128,7 +126,7 @@ int RunPropose(const cCliContext& context)
 int RunBook(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const QList<int> open = book.Hive.GetImportHive().OpenIds();
+    const QList<int> open = book.Statements.OpenIds();
     const std::optional<QList<int>> chosen = ChosenRows(context, open);
     if (!chosen) {
         return modExit::Usage;
@@ -136,13 +134,11 @@ int RunBook(const cCliContext& context)
     if (!AllOpen(*chosen, open)) {
         return modExit::Failed;
     }
-    const auto propose = [&] { return book.Booking.Propose(*chosen); };
     if (context.Call.Has(u"dry-run"_s)) {
-        Print(book, *chosen, propose());
+        Print(book, *chosen, book.Statements.Propose(*chosen));
         return modExit::Done;
     }
-    cNoProgress progress;
-    return Report(modRowBooking::Book(book.Data, book.Booking, *chosen, propose, progress));
+    return Report(book.Statements.Book(*chosen));
 }
 
 } // namespace

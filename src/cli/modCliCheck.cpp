@@ -43,7 +43,7 @@ QString Head(cCliBook& book, const cBookCheck& check)
     const QString entries = modCount::Entries(book.File().CountEntries());
     return check.IsComplete()
         ? cText::Tr("{0}: gültige Datenbank, {1}, {2}",
-                    {book.File().Path(), entries, modCount::Rows(book.Hive.GetImportHive().Count())})
+                    {book.File().Path(), entries, modCount::Rows(static_cast<int>(book.Statements.Rows().size()))})
         : cText::Tr("{0}: {1}", {book.File().Path(), entries});
 }
 

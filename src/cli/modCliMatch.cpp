@@ -7,7 +7,6 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
-#include "import/match/cMatcher.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/modImportText.h"
 
@@ -101,7 +100,7 @@ int ShowCandidates(const cCliContext& context)
         return reader.Report();
     }
     cCliBook& book = *context.Book;
-    const QList<cMatchCandidate> candidates = cMatcher(book.Data, book.Hive, book.Accounts).Candidates(row->ID);
+    const QList<cMatchCandidate> candidates = book.Statements.Candidates(row->ID);
     QStringList objects;
     QList<cMatch> open;
     QList<cMatch> taken;
@@ -138,14 +137,14 @@ int RunMatch(const cCliContext& context)
     if (context.Call.Has(u"candidates"_s)) {
         return ShowCandidates(context);
     }
-    cCliBook& book = *context.Book;
-    const QList<int> ids = book.Hive.GetImportHive().OpenIds();
-    cNoProgress progress;
+    cStatementDesk& desk = context.Book->Statements;
+    const QList<int> ids = desk.OpenIds();
     if (context.Call.Has(u"dry-run"_s)) {
-        return Report(context, cMatcher(book.Data, book.Hive, book.Accounts).MatchAll(ids, progress, eMatchRun::Try));
+        return Report(context, desk.TryMatching(ids));
     }
     context.User.Prepare({.Answer = context.Call.Has(u"correct"_s) ? eAnswer::Yes : eAnswer::No});
-    const cMatchFlow::cOutcome outcome = book.Matching(context.User).Match(ids, progress);
+    cNoProgress progress;
+    const cMatchFlow::cOutcome outcome = desk.Matching().Match(ids, progress);
     if (!outcome.IsDone) {
         modConsole::Error(outcome.Lines.join(u'\n'));
         return modExit::Failed;

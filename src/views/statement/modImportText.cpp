@@ -5,10 +5,10 @@
 #include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
-#include "import/match/cMatch.h"
 #include "import/propose/cBooking.h"
-#include "import/propose/cProposal.h"
 #include "import/stage/cImportResult.h"
+#include "model/cMatch.h"
+#include "model/cProposal.h"
 
 #include <QFileInfo>
 
