@@ -7,7 +7,6 @@
 #include "views/main/cLimitWatch.h"
 #include "views/main/cViewState.h"
 
-#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
