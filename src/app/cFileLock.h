@@ -1,23 +1,19 @@
 #pragma once
 
+#include "base/cBookLock.h"
+
 #include <QLockFile>
 #include <QString>
 
 #include <memory>
 
-enum class eLockState {
-    Held,       // this program has the file for itself
-    Foreign,    // another program has it
-    Impossible, // the folder takes no lock file: nobody can write there
-};
-
 // One program per database: the right to write to a database file, shown to others by the file "<database>.lock". A
 // lock left by a program that is gone is taken over.
-class cFileLock
+class cFileLock final : public cBookLock
 {
 public:
-    // Takes the lock of the database, giving up the one held before.
-    eLockState Take(const QString& database);
+    eLockState Take(const QString& database) override;
+    [[nodiscard]] QString HolderOf(const QString& database) const override { return Holder(database); }
     void Release();
     [[nodiscard]] bool IsHeld() const { return m_lock && m_lock->isLocked(); }
 

@@ -1,5 +1,10 @@
+#include "app/cFileLock.h"
 #include "app/cQtPaint.h"
+#include "app/cQtRegistry.h"
+#include "app/cQtShell.h"
+#include "app/cSystemClock.h"
 #include "app/modLocale.h"
+#include "cli/modCliCommands.h"
 #include "cli/modCliMain.h"
 
 #include <QApplication>
@@ -41,6 +46,12 @@ int main(int argc, char* argv[])
     const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kontorelle-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    const QString profile = modCliMain::Profile(arguments);
+    cQtShell shell(profile);
+    cQtRegistry registry(profile);
+    cSystemClock clock;
+    cFileLock lock;
     cQtPaint paint;
-    return modCliMain::Run(QCoreApplication::arguments().mid(1), paint);
+    return modCliMain::Run(arguments, {shell, registry, clock, lock, paint, QCoreApplication::applicationVersion()});
 }

@@ -6,7 +6,6 @@
 #include "cli/cCliBook.h"
 #include "cli/modCliEntryList.h"
 #include "cli/modCliFlow.h"
-#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "views/entry/modSplitParts.h"
 
@@ -117,12 +116,9 @@ void cCliEntryForm::FillPart(int id, cEntryFields& fields)
     const qint64 before = modSum::Evaluate(part->Amount, fields.Decimal).value_or(0);
     const qint64 size = std::abs(Has("amount") ? m_cents : before);
     const bool isOpposite = m_kind.isEmpty() ? before < 0 : m_kind != fields.Type;
-    part->Amount = modSplitParts::AmountText(isOpposite ? -size : size, fields.Decimal);
     part->Category = m_category.isEmpty() ? part->Category : m_category;
     part->Description = Has("text") ? m_context.Call.Value(u"text"_s) : part->Description;
-    const qint64 whole =
-        modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0) - modSplitParts::Rest(fields).value_or(0);
-    fields.Amount = modSum::ToText(whole, fields.Decimal);
+    const qint64 whole = modSplitParts::SetAmount(part - fields.Parts.begin(), isOpposite ? -size : size, fields);
     if (m_kind == modWord::Umbuchung) {
         m_reader.Missing(cText::Tr("Ein Teil einer aufgeteilten Buchung kann keine Umbuchung sein."));
     } else if (whole < 0) {
@@ -226,13 +222,12 @@ int cCliEntryForm::Save(const cEntryFields& fields, int id)
 
 void cCliEntryForm::Print(const cEntryFields& fields, int id) const
 {
-    cDataAccess& data = m_context.Book->Data;
-    const std::optional<cEntryItem> entry = data.LoadEntry(id);
-    const int group = entry ? modSplit::Group(*entry) : 0;
-    const cEntryItemList parts = group == 0 ? cEntryItemList() : data.GetEntriesOfSplit(group);
+    cBookAccess& file = m_context.Book->File();
+    const std::optional<cEntryItem> entry = file.Entry(id);
+    const cEntryItemList parts = entry ? file.Parts(*entry) : cEntryItemList();
     const bool isTable = !Has("json");
     if (isTable) {
-        modConsole::Out(data.Journal().UndoName() + u'\n');
+        modConsole::Out(file.LastStep() + u'\n');
     }
     modCliEntryList::Print(m_context, parts.isEmpty() && entry ? cEntryItemList{*entry} : parts);
     const cEntryEditor::cPreview preview = m_editor.Preview(fields);

@@ -11,6 +11,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
+#include "views/template/modBookNames.h"
 
 #include <QFileInfo>
 
@@ -90,7 +91,7 @@ int cCliReader::Id(const QString& text)
     const int id = text.toInt(&isNumber);
     if (!isNumber) {
         Misused(cText::Tr("'{0}' ist keine Nummer. Die Nummern stehen in der Spalte ID.", {text}));
-    } else if (!m_context.Book->Data.LoadEntry(id)) {
+    } else if (!m_context.Book->File().Entry(id)) {
         Missing(cText::Tr("Einen Eintrag mit der Nummer {0} gibt es nicht.", {text}));
     }
     return id;
@@ -113,7 +114,7 @@ std::optional<cImportEntry> cCliReader::StagedRow(const QString& text)
         Misused(cText::Tr("'{0}' ist keine Nummer. Die Nummern stehen in der Spalte ID.", {text}));
         return std::nullopt;
     }
-    std::optional<cImportEntry> row = m_context.Book->Hive.GetImportHive().GetImportEntryByID(id);
+    std::optional<cImportEntry> row = m_context.Book->Statements.Row(id);
     if (!row) {
         Missing(cText::Tr("Einen Umsatz mit der Nummer {0} gibt es nicht.", {text}));
     }
@@ -127,7 +128,7 @@ QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
     if (text.isEmpty()) {
         Misused(cText::Tr("Bitte nennen Sie den Tag des Vorkommens."));
     }
-    const std::optional<cEntryItem> series = m_context.Book->Data.LoadEntry(id);
+    const std::optional<cEntryItem> series = m_context.Book->File().Entry(id);
     if (!series || !day.isValid()) {
         return {};
     }
@@ -183,13 +184,8 @@ QString cCliReader::Interval(const QString& text)
 QString cCliReader::Account(const QString& text, eCliNames names)
 {
     cDataAccess& data = m_context.Book->Data;
-    QStringList accounts;
-    const cTemplateItemList items = data.GetAccounts();
-    for (const cTemplateItem& item : items) {
-        accounts.append(item.TemplateName);
-    }
-    accounts += names == eCliNames::Used ? data.GetEntryAccounts() : QStringList();
-    accounts.removeDuplicates();
+    const QStringList accounts =
+        names == eCliNames::Used ? modBookNames::UsedAccounts(data) : modBookNames::Accounts(data);
     const QStringList meant = accounts.contains(text) ? QStringList{text} : Meant(accounts, text, Itself);
     if (meant.isEmpty() && !text.isEmpty()) {
         Missing(cText::Tr("Das Konto '{0}' gibt es nicht. Möglich sind: {1}.", {text, accounts.join(u", "_s)}));
@@ -200,20 +196,8 @@ QString cCliReader::Account(const QString& text, eCliNames names)
 QStringList cCliReader::Categories(eCliNames names) const
 {
     cDataAccess& data = m_context.Book->Data;
-    QStringList paths;
-    const cTemplateItemList items = modTemplate::InOrder(data.GetTemplates());
-    for (const cTemplateItem& item : items) {
-        if (!modTemplate::IsAccount(item)) {
-            paths.append(modTemplate::Path(item));
-        }
-    }
-    if (names == eCliNames::Used) {
-        paths += data.CountEntriesByCategory().keys();
-        const QStringList all = paths;
-        std::transform(all.begin(), all.end(), std::back_inserter(paths), modTemplate::MainOf);
-    }
-    paths.removeDuplicates();
-    return paths;
+    return names == eCliNames::Used ? modTemplate::WithMains(modBookNames::UsedCategories(data))
+                                    : modBookNames::Categories(data);
 }
 
 QString cCliReader::Category(const QString& text, eCliNames names)
@@ -273,7 +257,11 @@ modPeriod::cRange cCliReader::Period(const QString& name)
     if (!call.Has(u"period"_s)) {
         return modPeriod::Range(name, m_context.Clock.Today(), {});
     }
-    const QString text = call.Value(u"period"_s);
+    return PeriodNamed(call.Value(u"period"_s));
+}
+
+modPeriod::cRange cCliReader::PeriodNamed(const QString& text)
+{
     QStringList names = modWord::Periods().Stored();
     names.removeAll(modWord::FreierZeitraum);
     return modPeriod::Range(Word(text, names, cText::Tr("Den Zeitraum '{0}' gibt es nicht.", {text})),

@@ -46,6 +46,8 @@ public:
     // Of the options --period, --from and --to; `name` where none of them is given.
     [[nodiscard]] modPeriod::cRange Period(const QString& name);
 
+    [[nodiscard]] modPeriod::cRange PeriodNamed(const QString& text); // but the free one
+
     // A file that is going to be written must not be the book itself.
     void CheckTarget(const QString& path);
 

@@ -21,10 +21,10 @@ public:
     // What the options of the command answer beforehand.
     struct cAnswers
     {
-        std::optional<eAnswer> Answer;
-        std::optional<int> Decision;   // an option, counted from 0
-        std::optional<QString> Choice; // has to be one of the items
-        QString Hint;                  // said after a question without answer: what to do about it
+        std::optional<eAnswer> Answer{};
+        std::optional<int> Decision{};   // an option, counted from 0
+        std::optional<QString> Choice{}; // has to be one of the items
+        QString Hint{};                  // said after a question without answer: what to do about it
     };
     void Prepare(const cAnswers& answers) { m_answers = answers; }
 

@@ -1,52 +1,23 @@
 #include "base/cClock.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cCliTable.h"
-#include "cli/modCliBalances.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
 #include "model/modBalance.h"
-#include "store/cUndoStep.h"
 #include "views/entry/cStartBalance.h"
-#include "views/template/cBankNumbers.h"
+#include "views/main/modAccountLines.h"
 #include "views/template/cTemplateManager.h"
+#include "views/template/modTemplateText.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-struct cAccountLine
-{
-    cTemplateItem Item; // without ID when only entries know the account
-    qint64 Cents = 0;
-    std::optional<cEntryItem> Start;
-    QStringList Numbers;
-    int Entries = 0;
-};
-
-QList<cAccountLine> Load(const cCliContext& context)
-{
-    cDataAccess& data = context.Book->Data;
-    const cBankNumbers numbers(data, context.Book->Settings());
-    const QHash<QString, int> counts = data.CountEntriesByAccount();
-    QList<cAccountLine> lines;
-    const QList<cCliBalance> balances = modCliBalances::Load(context);
-    for (const cCliBalance& balance : balances) {
-        cTemplateItem unknown;
-        unknown.TemplateCategory = balance.Group;
-        unknown.TemplateName = balance.Account;
-        lines.append({data.FindAccount(balance.Account).value_or(unknown), balance.Cents,
-                      data.GetStartGuthaben(balance.Account), numbers.Of(balance.Account),
-                      counts.value(balance.Account)});
-    }
-    return lines;
-}
 
 qint64 StartCents(const cAccountLine& line)
 {
@@ -84,22 +55,22 @@ void Print(const cCliBook& book, const QList<cAccountLine>& lines)
                      {cText::Tr("Buchungen"), eAlign::Right},
                      {cText::Tr("Stand")}});
     for (const cAccountLine& line : lines) {
-        const bool isOpen = line.Item.ID == 0 || modTemplate::IsVisible(line.Item);
         table.Add({line.Item.TemplateCategory, line.Item.TemplateName, book.AmountText(line.Cents),
                    line.Start ? book.AmountText(StartCents(line)) : QString(),
                    line.Start ? modDate::ToGerman(line.Start->EntryDate) : QString(), line.Numbers.join(u", "_s),
-                   QString::number(line.Entries), isOpen ? QString() : cText::Tr("geschlossen")});
+                   QString::number(line.Entries), modTemplateText::State(line.Item)});
     }
     modConsole::Out(table.ToString());
 }
 
 int List(const cCliContext& context)
 {
-    const QList<cAccountLine> lines = Load(context);
+    cCliBook& book = *context.Book;
+    const QList<cAccountLine> lines = modAccountLines::Load(book.Data, book.Settings(), context.Clock.Today()).Accounts;
     if (context.Call.Has(u"json"_s)) {
         PrintJson(lines);
     } else {
-        Print(*context.Book, lines);
+        Print(book, lines);
     }
     return modExit::Done;
 }
@@ -166,11 +137,8 @@ int Start(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cDataAccess& data = context.Book->Data;
-    if (const std::optional<cEntryItem> stored = data.GetStartGuthaben(account); stored && !day.isValid()) {
-        day = stored->EntryDate;
-    }
-    const cStartBalance balance(data, eDecimal::Comma);
+    const cStartBalance balance(context.Book->Data, eDecimal::Comma);
+    day = day.isValid() ? day : balance.Show(account).Date;
     return modCliFlow::Finish(context, balance.Save(account, cents, day.isValid() ? day : context.Clock.Today()));
 }
 
@@ -184,20 +152,8 @@ int Limit(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cDataAccess& data = context.Book->Data;
-    std::optional<cTemplateItem> account = data.FindAccount(name);
-    if (!account) {
-        return modExit::Failed;
-    }
-    account->TemplateDefaultValue = isNone ? QString() : modAmount::CentsToText(cents);
-    bool isDone = false;
-    {
-        cUndoStep step(data,
-                       isNone ? cText::Tr("Kontolimit von '{0}' entfernt", {name})
-                              : cText::Tr("Kontolimit von '{0}' ist nun {1}", {name, context.Book->AmountText(cents)}));
-        isDone = data.ChangeTemplate(*account) || step.Revert();
-    }
-    return modCliFlow::Finish(context, isDone);
+    cTemplateManager manager(context.Book->Tools);
+    return modCliFlow::Finish(context, manager.SetLimit(name, isNone ? std::nullopt : std::optional(cents)));
 }
 
 } // namespace

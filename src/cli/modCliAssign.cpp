@@ -4,8 +4,7 @@
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
-#include "import/match/cMatcher.h"
-#include "store/cUndoStep.h"
+#include "views/statement/cMatchFlow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,33 +21,43 @@ void CheckDay(const cCliContext& context, cCliReader& reader, const cImportEntry
     }
 }
 
-void SayAssigned(const cCliContext& context, const cImportEntry& row, const cMatchCandidate& found)
+// Says what came of an action.
+int Report(const cMatchFlow::cOutcome& outcome)
 {
-    const cCliBook& book = *context.Book;
-    modConsole::Out(
-        cText::Tr("Umsatz {0} gehört zu Eintrag {1} vom {2}.",
-                  {QString::number(row.ID), QString::number(found.Entry.ID), modDate::ToGerman(found.Entry.EntryDate)})
-        + u'\n');
-    if (!found.Correction) {
-        return;
+    const QString text = outcome.Lines.join(u'\n');
+    if (!outcome.IsDone) {
+        modConsole::Error(text);
+        return modExit::Failed;
     }
-    const QStringList amounts{book.AmountText(found.Correction->EntryValue), book.AmountText(found.Entry.EntryValue)};
-    modConsole::Out((context.Call.Has(u"correct"_s)
-                         ? cText::Tr("Das Vorkommen ist nun {0} statt {1}.", amounts)
-                         : cText::Tr("Der Umsatz ist {0}, das Vorkommen {1}; --correct gleicht es an.", amounts))
-                    + u'\n');
+    modConsole::Out(text + u'\n');
+    return modExit::Done;
+}
+
+// Nobody can be asked whether the amount of the series is to follow.
+int Assign(const cCliContext& context, int rowId, const cMatchCandidate& found)
+{
+    const bool isCorrecting = context.Call.Has(u"correct"_s);
+    context.User.Prepare({.Answer = isCorrecting ? eAnswer::Yes : eAnswer::No});
+    cCliBook& book = *context.Book;
+    const int code = Report(book.Statements.Matching().Assign(rowId, found));
+    if (code == modExit::Done && found.Correction && !isCorrecting) {
+        modConsole::Out(
+            cText::Tr("Der Umsatz ist {0}, das Vorkommen {1}; --correct gleicht es an.",
+                      {book.AmountText(found.Correction->EntryValue), book.AmountText(found.Entry.EntryValue)})
+            + u'\n');
+    }
+    return code;
 }
 
 int RunAssign(const cCliContext& context)
 {
-    cCliBook& book = *context.Book;
     cCliReader reader(context);
     const std::optional<cImportEntry> row = reader.StagedRow(context.Call.Arguments().value(0));
     const int entryId = reader.Id(context.Call.Arguments().value(1));
     if (!row || !reader.IsGood()) {
         return reader.Report();
     }
-    const std::optional<cMatchCandidate> found = cMatcher(book.Data, book.Hive, book.Accounts).ByHand(row->ID, entryId);
+    const std::optional<cMatchCandidate> found = context.Book->Statements.ByHand(row->ID, entryId);
     if (!found) {
         modConsole::Error(cText::Tr("Die Serie {0} hat in der Nähe des {1} kein Vorkommen.",
                                     {QString::number(entryId), modDate::ToGerman(row->ImportDate)}));
@@ -58,20 +67,11 @@ int RunAssign(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cUndoStep step(book.Data, cText::Tr("Umsatz zugeordnet"));
-    const bool wantsCorrection = context.Call.Has(u"correct"_s);
-    if (!book.Booking.Assign(row->ID, entryId)
-        || (wantsCorrection && found->Correction && !book.Data.AddNewEntryMod(*found->Correction))) {
-        step.Revert();
-        return modExit::Failed;
-    }
-    SayAssigned(context, *row, *found);
-    return modExit::Done;
+    return Assign(context, row->ID, *found);
 }
 
 int RunRelease(const cCliContext& context)
 {
-    cCliBook& book = *context.Book;
     cCliReader reader(context);
     QList<int> ids;
     for (const QString& text : context.Call.Arguments()) {
@@ -84,17 +84,7 @@ int RunRelease(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cUndoStep step(book.Data, cText::Tr("Umsätze freigegeben"));
-    for (const int id : std::as_const(ids)) {
-        if (!book.Booking.Unassign(id)) {
-            step.Revert();
-            return modExit::Failed;
-        }
-    }
-    const QString text = ids.size() == 1 ? cText::Tr("1 Umsatz freigegeben")
-                                         : cText::Tr("{0} Umsätze freigegeben", {QString::number(ids.size())});
-    modConsole::Out(text + u'\n');
-    return modExit::Done;
+    return Report(context.Book->Statements.Matching().Release(ids));
 }
 
 } // namespace

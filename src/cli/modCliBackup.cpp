@@ -1,5 +1,3 @@
-#include "app/cFileLock.h"
-#include "app/cQtRegistry.h"
 #include "base/cClock.h"
 #include "base/cShell.h"
 #include "base/cText.h"
@@ -7,12 +5,7 @@
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
-#include "core/cBackup.h"
-#include "core/cConfiguration.h"
-#include "model/modSettingKey.h"
-#include "store/cDatabase.h"
-#include "store/modBookFile.h"
-#include "store/modSchema.h"
+#include "views/book/modBookCopy.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,24 +19,10 @@ QString FullPath(const QString& path)
     return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
 
-// The book that would be opened; it may be missing or damaged.
-QString BookPath(const cCliContext& context)
-{
-    const QString named = context.Call.Value(u"database"_s);
-    if (!named.isEmpty()) {
-        return FullPath(named);
-    }
-    cQtRegistry registry(context.Call.Value(u"profile"_s));
-    const QString configured = cConfiguration(registry).GetSetting(modSettingKey::Database);
-    return configured.isEmpty() ? modSchema::DefaultDatabasePath(context.Shell) : configured;
-}
-
 // "<path>: <what it holds>"
-QString Line(const QString& path, const modBookFile::cContent& content)
+QString Line(const QString& path, const QString& content)
 {
-    return path + u": "_s
-        + (modBookFile::IsSound(content) ? modBookFile::Describe(content)
-                                         : cText::Tr("beschädigt oder keine gültige Datenbank"))
+    return path + u": "_s + (content.isEmpty() ? cText::Tr("beschädigt oder keine gültige Datenbank") : content)
         + u'\n';
 }
 
@@ -55,14 +34,8 @@ int Refuse(const QString& text)
 
 int Replace(const cCliContext& context, const QString& path, const QString& backup)
 {
-    cFileLock lock;
-    if (lock.Take(path) == eLockState::Foreign) {
-        return Refuse(cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen "
-                                "Sie es noch einmal.",
-                                {path, cFileLock::Holder(path)}));
-    }
-    cDatabase closed;
-    const cBackup::cRestored restored = cBackup(closed, context.Shell).Restore(path, backup, context.Clock.Today());
+    const modBookCopy::cRestored restored =
+        modBookCopy::Restore(path, backup, context.Clock.Today(), context.Shell, context.Ports.Lock);
     if (!restored.Problem.isEmpty()) {
         return Refuse(restored.Problem);
     }
@@ -82,28 +55,28 @@ int RunBackup(const cCliContext& context)
     if (context.Shell.FileExists(target) && !context.Call.Has(u"yes"_s)) {
         return Refuse(cText::Tr("Die Datei '{0}' gibt es schon. Mit --yes wird sie ersetzt.", {target}));
     }
-    const QString problem = context.Book->MakeBackup(target, context.Shell);
+    const QString problem = context.Book->File().MakeBackup(target, context.Shell);
     if (!problem.isEmpty()) {
         return Refuse(cText::Tr("Die Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
     }
-    modConsole::Out(Line(target, modBookFile::Look(target)));
+    modConsole::Out(Line(target, modBookCopy::Describe(target)));
     return modExit::Done;
 }
 
 int RunRestore(const cCliContext& context)
 {
     const QString backup = FullPath(context.Call.Arguments().constFirst());
-    const QString path = BookPath(context);
-    const modBookFile::cContent content = modBookFile::Look(backup);
-    if (!modBookFile::IsSound(content)) {
+    const QString path = cBookAccess::PathFor(context.Call.Value(u"database"_s), context.Ports.Registry, context.Shell);
+    const QString content = modBookCopy::Describe(backup);
+    if (content.isEmpty()) {
         return Refuse(cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup}));
     }
-    if (cBackup::IsSameFile(backup, path)) {
+    if (modBookCopy::IsSameFile(backup, path)) {
         return Refuse(cText::Tr("'{0}' ist die Datenbank selbst.", {path}));
     }
     modConsole::Out(cText::Tr("Datensicherung  {0}", {Line(backup, content)}));
     modConsole::Out(context.Shell.FileExists(path)
-                        ? cText::Tr("Datenbank       {0}", {Line(path, modBookFile::Look(path))})
+                        ? cText::Tr("Datenbank       {0}", {Line(path, modBookCopy::Describe(path))})
                         : cText::Tr("Datenbank       {0}: gibt es noch nicht\n", {path}));
     if (!context.Call.Has(u"yes"_s)) {
         return Refuse(

@@ -1,28 +1,17 @@
-#include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modCount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliTable.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
+#include "views/statement/modImportText.h"
 
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QList<int> OpenRows(cCliBook& book)
-{
-    QList<int> ids;
-    const cImportEntryList rows = book.Hive.GetImportHive().GetImportEntriesByAssignedID(-1);
-    for (const cImportEntry& row : rows) {
-        ids.append(row.ID);
-    }
-    return ids;
-}
 
 // The rows that the options name; empty optional, and the user told, when they name none.
 std::optional<QList<int>> ChosenRows(const cCliContext& context, const QList<int>& open)
@@ -111,33 +100,21 @@ void PrintJson(const QList<int>& ids, const QHash<int, cProposal>& proposals)
     modConsole::Out(modJson::Array(objects) + u'\n');
 }
 
-int Report(const cBookingResult& result)
+int Report(const cStatementDesk::cBooked& booked)
 {
-    const QString joined = result.Joined == 1
-        ? cText::Tr(", davon 1 zu einem vorhandenen Eintrag")
-        : cText::Tr(", davon {0} zu vorhandenen Einträgen", {QString::number(result.Joined)});
-    modConsole::Out(
-        cText::Tr("{0} neu, {1} zugeordnet", {modCount::Entries(result.Entries), modCount::Rows(result.Rows)})
-        + (result.Joined > 0 ? joined : QString()) + u'\n');
-    if (result.Failed > 0) {
-        modConsole::Error(result.Failed == 1 ? cText::Tr("1 Umsatz konnte nicht gebucht werden.")
-                                             : cText::Tr("{0} Umsätze konnten nicht gebucht werden.",
-                                                         {QString::number(result.Failed)}));
+    modConsole::Out(booked.Text + u'\n');
+    for (const QString& number : booked.UnknownAccounts) {
+        modConsole::Error(modImportText::NoAccount(number) + u' '
+                          + cText::Tr("Lesen Sie den Auszug mit --book-account NAME noch einmal ein."));
     }
-    for (const QString& number : result.UnknownAccounts) {
-        modConsole::Error(
-            cText::Tr("Die Kontonummer '{0}' gehört zu keinem Konto; ihre Umsätze bleiben offen. Lesen Sie den "
-                      "Auszug mit --book-account NAME noch einmal ein.",
-                      {number}));
-    }
-    return result.Failed == 0 && result.UnknownAccounts.isEmpty() ? modExit::Done : modExit::Failed;
+    return booked.IsDone ? modExit::Done : modExit::Failed;
 }
 
 int RunPropose(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const QList<int> ids = OpenRows(book);
-    const QHash<int, cProposal> proposals = book.Booking.Propose(ids);
+    const QList<int> ids = book.Statements.OpenIds();
+    const QHash<int, cProposal> proposals = book.Statements.Propose(ids);
     if (context.Call.Has(u"json"_s)) {
         PrintJson(ids, proposals);
     } else {
@@ -149,7 +126,7 @@ int RunPropose(const cCliContext& context)
 int RunBook(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const QList<int> open = OpenRows(book);
+    const QList<int> open = book.Statements.OpenIds();
     const std::optional<QList<int>> chosen = ChosenRows(context, open);
     if (!chosen) {
         return modExit::Usage;
@@ -157,13 +134,11 @@ int RunBook(const cCliContext& context)
     if (!AllOpen(*chosen, open)) {
         return modExit::Failed;
     }
-    const QHash<int, cProposal> proposals = book.Booking.Propose(*chosen);
     if (context.Call.Has(u"dry-run"_s)) {
-        Print(book, *chosen, proposals);
+        Print(book, *chosen, book.Statements.Propose(*chosen));
         return modExit::Done;
     }
-    cNoProgress progress;
-    return Report(book.Booking.Book(*chosen, proposals, progress));
+    return Report(book.Statements.Book(*chosen));
 }
 
 } // namespace

@@ -8,8 +8,9 @@
 #include "cli/modCliRecord.h"
 #include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
-#include "store/cUndoStep.h"
 #include "views/template/cTemplateManager.h"
+#include "views/template/modBookNames.h"
+#include "views/template/modTemplateText.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,36 +21,10 @@ bool IsNone(const QString& text)
     return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
 }
 
-// "Wohnung;Miete" as paths are stored, without the characters that names cannot have.
-QString NewPath(const QString& text)
-{
-    return modTemplate::Join(modTemplate::CleanName(text.section(u';', 0, 0).trimmed()),
-                             modTemplate::CleanName(text.section(u';', 1).trimmed()));
-}
-
-// The categories in their order, then the paths that only entries have; those have no ID.
-cTemplateItemList Load(cDataAccess& data, const QHash<QString, int>& counts)
-{
-    cTemplateItemList items = modTemplate::InOrder(data.GetTemplates());
-    items.removeIf(modTemplate::IsAccount);
-    QStringList unknown = counts.keys();
-    for (const cTemplateItem& item : std::as_const(items)) {
-        unknown.removeAll(modTemplate::Path(item));
-    }
-    unknown.sort();
-    for (const QString& path : std::as_const(unknown)) {
-        cTemplateItem item;
-        item.TemplateCategory = modTemplate::MainOf(path);
-        item.TemplateName = modTemplate::SubOf(path);
-        items.append(item);
-    }
-    return items;
-}
-
-void PrintJson(const cTemplateItemList& items, const QHash<QString, int>& counts)
+void PrintJson(const QList<cCategoryLine>& lines)
 {
     QStringList objects;
-    for (const cTemplateItem& item : items) {
+    for (const auto& [item, entries] : lines) {
         objects.append(modCliRecord::Template(item)
                            .Text(u"EntryType"_s, item.EntryType)
                            .Text(u"EntryInterval"_s, item.EntryInterval)
@@ -57,18 +32,10 @@ void PrintJson(const cTemplateItemList& items, const QHash<QString, int>& counts
                            .Amount(u"MonthlyLimit"_s, modTemplate::LimitCents(item, 1))
                            .Text(u"TemplateVAT"_s, item.TemplateVAT)
                            .Text(u"EntryCategory"_s, modTemplate::Path(item))
-                           .Number(u"Entries"_s, counts.value(modTemplate::Path(item)))
+                           .Number(u"Entries"_s, entries)
                            .ToString());
     }
     modConsole::Out(modJson::Array(objects) + u'\n');
-}
-
-QString State(const cTemplateItem& item)
-{
-    if (item.ID == 0) {
-        return cText::Tr("nur in Einträgen");
-    }
-    return modTemplate::IsVisible(item) ? QString() : cText::Tr("ausgeblendet");
 }
 
 QString VatText(const cTemplateItem& item)
@@ -77,7 +44,7 @@ QString VatText(const cTemplateItem& item)
     return rate ? modTemplate::VatText(*rate).replace(u'.', u',') + u" %" : item.TemplateVAT;
 }
 
-void Print(const cCliBook& book, const cTemplateItemList& items, const QHash<QString, int>& counts)
+void Print(const cCliBook& book, const QList<cCategoryLine>& lines)
 {
     cCliTable table({{cText::Tr("Kategorie")},
                      {cText::Tr("Art")},
@@ -88,23 +55,22 @@ void Print(const cCliBook& book, const cTemplateItemList& items, const QHash<QSt
                      {cText::Tr("Buchungen"), eAlign::Right},
                      {cText::Tr("Stand")}});
     const auto amount = [&book](qint64 cents) { return cents == 0 ? QString() : book.AmountText(cents); };
-    for (const cTemplateItem& item : items) {
-        const QString path = modTemplate::Path(item);
-        table.Add({path, item.EntryType, item.EntryInterval, amount(modTemplate::ProposedCents(item)),
-                   amount(modTemplate::LimitCents(item, 1)), item.TemplateVAT.isEmpty() ? QString() : VatText(item),
-                   QString::number(counts.value(path)), State(item)});
+    for (const auto& [item, entries] : lines) {
+        table.Add({modTemplate::Path(item), item.EntryType, item.EntryInterval,
+                   amount(modTemplate::ProposedCents(item)), amount(modTemplate::LimitCents(item, 1)),
+                   item.TemplateVAT.isEmpty() ? QString() : VatText(item), QString::number(entries),
+                   modTemplateText::State(item)});
     }
     modConsole::Out(table.ToString());
 }
 
 int List(const cCliContext& context)
 {
-    const QHash<QString, int> counts = context.Book->Data.CountEntriesByCategory();
-    const cTemplateItemList items = Load(context.Book->Data, counts);
+    const QList<cCategoryLine> lines = modBookNames::CategoryLines(context.Book->Data);
     if (context.Call.Has(u"json"_s)) {
-        PrintJson(items, counts);
+        PrintJson(lines);
     } else {
-        Print(*context.Book, items, counts);
+        Print(*context.Book, lines);
     }
     return modExit::Done;
 }
@@ -193,14 +159,11 @@ int Add(const cCliContext& context)
         return reader.Report();
     }
     cTemplateManager manager(context.Book->Tools);
-    const QString path = NewPath(call.Arguments().constFirst());
-    bool isDone = false;
-    {
-        cUndoStep step(context.Book->Data, cText::Tr("Kategorie '{0}' angelegt", {path}));
-        const QString added = manager.AddCategory(modTemplate::MainOf(path), modTemplate::SubOf(path));
-        isDone = !added.isEmpty() && (SetDefaults(call, manager, added, wanted) || step.Revert());
-    }
-    return modCliFlow::Finish(context, isDone);
+    const QString path = cTemplateManager::TypedPath(call.Arguments().constFirst());
+    const QString added =
+        manager.AddCategory(modTemplate::MainOf(path), modTemplate::SubOf(path),
+                            [&](const QString& there) { return SetDefaults(call, manager, there, wanted); });
+    return modCliFlow::Finish(context, !added.isEmpty());
 }
 
 int Change(const cCliContext& context)
@@ -213,7 +176,7 @@ int Change(const cCliContext& context)
         return reader.Report();
     }
     cTemplateManager manager(context.Book->Tools);
-    const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->Data.Journal().UndoName().isEmpty();
+    const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->File().LastStep().isEmpty();
     return modCliFlow::Finish(context, isDone);
 }
 
@@ -234,11 +197,9 @@ int Rename(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    const QString name = NewPath(context.Call.Arguments().at(1));
-    const bool staysInMain = !modTemplate::SubOf(oldPath).isEmpty() && modTemplate::SubOf(name).isEmpty();
-    const QString newPath = staysInMain ? modTemplate::Join(modTemplate::MainOf(oldPath), name) : name;
     cTemplateManager manager(context.Book->Tools);
-    return modCliFlow::Finish(context, manager.RenameCategory(oldPath, newPath));
+    const QString typed = cTemplateManager::TypedPath(context.Call.Arguments().at(1));
+    return modCliFlow::Finish(context, manager.RenameCategory(oldPath, typed));
 }
 
 int Merge(const cCliContext& context)

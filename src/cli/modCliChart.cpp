@@ -57,12 +57,7 @@ std::optional<modPeriod::cRange> ReadSecond(const cCliContext& context, cCliRead
     if (name.compare(YearBefore(), Qt::CaseInsensitive) == 0) {
         return cChartWish::YearBefore(range);
     }
-    QStringList names = modWord::Periods().Stored();
-    names.removeAll(modWord::FreierZeitraum);
-    if (!names.contains(name)) {
-        reader.Misused(cText::Tr("Den Zeitraum '{0}' gibt es nicht.", {name}));
-    }
-    return modPeriod::Range(name, context.Clock.Today(), {});
+    return reader.PeriodNamed(name);
 }
 
 // Months ahead: only the balances look there.
@@ -112,7 +107,7 @@ QString WriteTarget(const cCliContext& context, const QString& target, const cCh
     if (target == u"csv") {
         return modFileWrite::Replace(path, modChartTable::Csv(chart));
     }
-    return context.Paint.PaintChart(chart, path) ? QString() : cText::Tr("Schreiben nicht möglich");
+    return context.Ports.Paint.PaintChart(chart, path) ? QString() : cText::Tr("Schreiben nicht möglich");
 }
 
 int Run(const cCliContext& context)

@@ -38,24 +38,24 @@ void Show(const cFaultyEntry& faulty)
         + u'\n');
 }
 
-QString Head(cCliBook& book)
+QString Head(cCliBook& book, const cBookCheck& check)
 {
-    const QString entries = modCount::Entries(book.Data.CountEntries());
-    return book.Data.GetMissingParts().isEmpty()
+    const QString entries = modCount::Entries(book.File().CountEntries());
+    return check.IsComplete()
         ? cText::Tr("{0}: gültige Datenbank, {1}, {2}",
-                    {book.File().Path(), entries, modCount::Rows(book.Hive.GetImportHive().Count())})
+                    {book.File().Path(), entries, modCount::Rows(static_cast<int>(book.Statements.Rows().size()))})
         : cText::Tr("{0}: {1}", {book.File().Path(), entries});
 }
 
 int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    modConsole::Out(Head(book) + u'\n');
+    const cBookCheck check(book.Data, book.Format());
+    modConsole::Out(Head(book, check) + u'\n');
     const QStringList added = book.File().Added();
     if (!added.isEmpty()) {
         modConsole::Out(cText::Tr("Beim Öffnen ergänzt: {0}", {added.join(u", "_s)}) + u'\n');
     }
-    const cBookCheck check(book.Data, book.Format());
     for (const QString& problem : check.FileProblems()) {
         modConsole::Error(problem);
     }

@@ -4,21 +4,34 @@
 
 #include <limits>
 
+class cBookLock;
 class cClock;
 class cCliBook;
 class cCliPaint;
 class cConsoleUser;
+class cRegistry;
 class cShell;
+
+// The machine as the command line program sees it.
+struct cCliPorts
+{
+    cShell& Shell;
+    cRegistry& Registry;
+    const cClock& Clock;
+    cBookLock& Lock;
+    cCliPaint& Paint;
+    QString Version; // of the program
+};
 
 // What a command works with.
 struct cCliContext
 {
     const cCliCall& Call;
+    const cCliPorts& Ports;
     cConsoleUser& User;
     const cClock& Clock;
     cShell& Shell;
     cCliBook* Book; // the open database; null for a command that needs none
-    cCliPaint& Paint;
 };
 
 // The commands of the command line program. What one does stands beside its description.

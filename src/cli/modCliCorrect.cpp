@@ -9,8 +9,6 @@
 #include "cli/modCliRecord.h"
 #include "views/entry/cSeriesChange.h"
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -23,7 +21,7 @@ int Finish(const cCliContext& context, const cKey& occurrence, bool isDone)
         cSeriesChange change(context.Book->Data, context.User);
         const auto period = change.StartPeriod(occurrence.ID, occurrence.Day);
         const auto correction = change.Correction(occurrence.ID, occurrence.Day);
-        const auto series = context.Book->Data.LoadEntry(occurrence.ID);
+        const auto series = context.Book->File().Entry(occurrence.ID);
         const QString plain = series ? context.Book->AmountText(series->EntryValue) : QString();
         const QString amount =
             correction ? cText::Tr("{0} statt {1}", {context.Book->AmountText(correction->EntryValue), plain}) : plain;
@@ -34,12 +32,10 @@ int Finish(const cCliContext& context, const cKey& occurrence, bool isDone)
 
 int List(const cCliContext& context, int id)
 {
-    cEntryItemFixModList fixMods = context.Book->Data.GetEntryMods(id);
-    std::sort(fixMods.begin(), fixMods.end(),
-              [](const auto& a, const auto& b) { return a.EntryStartDate < b.EntryStartDate; });
+    const cEntryItemFixModList fixMods = context.Book->File().Corrections(id);
     if (context.Call.Has(u"json"_s)) {
         QStringList objects;
-        for (const cEntryItemFixMod& fixMod : std::as_const(fixMods)) {
+        for (const cEntryItemFixMod& fixMod : fixMods) {
             objects.append(modCliRecord::FixMod(fixMod).ToString());
         }
         modConsole::Out(modJson::Array(objects) + u'\n');
@@ -47,7 +43,7 @@ int List(const cCliContext& context, int id)
     }
     cCliTable table(
         {{cText::Tr("Von")}, {cText::Tr("Bis")}, {cText::Tr("Betrag"), eAlign::Right}, {cText::Tr("Kommentar")}});
-    for (const cEntryItemFixMod& fixMod : std::as_const(fixMods)) {
+    for (const cEntryItemFixMod& fixMod : fixMods) {
         table.Add({modDate::ToGerman(fixMod.EntryStartDate), modDate::ToGerman(fixMod.EntryEndDate),
                    context.Book->AmountText(fixMod.EntryValue), fixMod.EntryComment});
     }

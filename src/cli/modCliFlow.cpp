@@ -40,7 +40,7 @@ void modCliFlow::SayWritten(const QString& path)
 int modCliFlow::Finish(const cCliContext& context, bool isDone)
 {
     if (isDone) {
-        modConsole::Out(context.Book->Data.Journal().UndoName() + u'\n'); // the step's name says what was done
+        modConsole::Out(context.Book->File().LastStep() + u'\n'); // the step's name says what was done
         return modExit::Done;
     }
     if (!context.User.HasSpoken()) {

@@ -1,7 +1,5 @@
-#include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
@@ -9,15 +7,8 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
 #include "cli/modCliTableChoice.h"
-#include "import/read/cStatementSource.h"
-#include "import/read/modAccountNumber.h"
-#include "import/read/modStatementFile.h"
-#include "import/sheet/modSpreadsheet.h"
-#include "import/stage/cBankBalances.h"
-#include "import/stage/cStatementImport.h"
-#include "import/table/cTableMemory.h"
-
-#include <algorithm>
+#include "views/statement/cFileReport.h"
+#include "views/statement/modImportText.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,22 +16,11 @@ namespace {
 
 constexpr qsizetype shownRows = 100; // of a trial; --json has them all
 
-QString KindName(eSkipped kind)
-{
-    switch (kind) {
-    case eSkipped::Pending: return u"pending"_s;
-    case eSkipped::Balance: return u"balance"_s;
-    case eSkipped::Unreadable: return u"unreadable"_s;
-    case eSkipped::OtherCurrency: return u"otherCurrency"_s;
-    }
-    return {};
-}
-
-QString ToJson(const cSkippedRow& row)
+QString ToJson(const cFileReport::cLeftOut& row)
 {
     cJsonObject json;
-    json.Number(u"line"_s, row.Reason.Line)
-        .Text(u"kind"_s, KindName(row.Kind))
+    json.Number(u"line"_s, row.Reason.Number)
+        .Text(u"kind"_s, row.Kind)
         .Text(u"text"_s, row.Reason.Text)
         .Date(u"date"_s, row.Entry.ImportDate)
         .Amount(u"amount"_s, modAmount::ToCents(row.Entry.ImportValue))
@@ -49,32 +29,32 @@ QString ToJson(const cSkippedRow& row)
     return json.ToString();
 }
 
-QString ToJson(const cImportResult& result, eStagingRun run)
+QString ToJson(const cFileReport& report, bool isTrial)
 {
     QStringList skipped;
-    for (const cSkippedRow& row : result.Skipped) {
+    for (const cFileReport::cLeftOut& row : report.Skipped) {
         skipped.append(ToJson(row));
     }
     QStringList problems;
-    for (const cReadProblem& problem : result.Problems) {
-        problems.append(cJsonObject().Number(u"line"_s, problem.Line).Text(u"text"_s, problem.Text).ToString());
+    for (const cFileReport::cLine& problem : report.Problems) {
+        problems.append(cJsonObject().Number(u"line"_s, problem.Number).Text(u"text"_s, problem.Text).ToString());
     }
     cJsonObject json;
-    json.Text(u"file"_s, result.File)
-        .Text(u"format"_s, result.Format)
-        .Text(u"layout"_s, result.Layout)
-        .Number(u"read"_s, result.Read)
-        .Number(u"staged"_s, result.Staged)
-        .Number(u"duplicates"_s, result.Duplicates.size())
-        .Number(u"zero"_s, result.Zero)
-        .Number(u"failed"_s, result.Failed)
-        .Raw(u"closingBalance"_s, result.ClosingBalance ? modAmount::CentsToText(*result.ClosingBalance) : u"null"_s)
+    json.Text(u"file"_s, report.File)
+        .Text(u"format"_s, report.Format)
+        .Text(u"layout"_s, report.Layout)
+        .Number(u"read"_s, report.Read)
+        .Number(u"staged"_s, report.Staged)
+        .Number(u"duplicates"_s, report.Duplicates.size())
+        .Number(u"zero"_s, report.Zero)
+        .Number(u"failed"_s, report.Failed)
+        .Raw(u"closingBalance"_s, report.ClosingBalance ? modAmount::CentsToText(*report.ClosingBalance) : u"null"_s)
         .Raw(u"problems"_s, u'[' + problems.join(u", "_s) + u']')
         .Raw(u"skipped"_s, u'[' + skipped.join(u", "_s) + u']')
-        .Text(u"message"_s, result.Message);
-    if (run == eStagingRun::Try) {
+        .Text(u"message"_s, report.Message);
+    if (isTrial) {
         QStringList rows;
-        for (const cImportEntry& row : result.Rows) {
+        for (const cImportEntry& row : report.Rows) {
             rows.append(modCliRecord::Row(row).ToString());
         }
         json.Raw(u"rows"_s, modJson::Array(rows));
@@ -82,144 +62,51 @@ QString ToJson(const cImportResult& result, eStagingRun run)
     return json.ToString();
 }
 
-QString Summary(const cImportResult& result, const cCliBook& book)
+QString Summary(const cFileReport& report)
 {
-    const QStringList values{result.File,
-                             result.Layout.isEmpty() ? result.Format : result.Format + u" – "_s + result.Layout,
-                             QString::number(result.Read), QString::number(result.Staged)};
-    QString text = result.Read == 1 ? cText::Tr("{0}: {1}, 1 Umsatz gelesen, {3} neu", values)
-                                    : cText::Tr("{0}: {1}, {2} Umsätze gelesen, {3} neu", values);
-    if (!result.Duplicates.isEmpty()) {
-        text += cText::Tr(", {0} schon vorhanden", {QString::number(result.Duplicates.size())});
-    }
-    if (result.Zero > 0) {
-        text += cText::Tr(", {0} ohne Betrag", {QString::number(result.Zero)});
-    }
-    if (result.Failed > 0) {
-        text += cText::Tr(", {0} nicht gespeichert", {QString::number(result.Failed)});
-    }
-    return text
-        + (result.ClosingBalance ? cText::Tr(", Endsaldo {0}", {book.AmountText(*result.ClosingBalance)}) : QString());
+    const QString format = report.Layout.isEmpty() ? report.Format : report.Format + u" – "_s + report.Layout;
+    return cText::Tr("{0}: {1}, {2}", {report.File, format, report.Numbers});
 }
 
-QString RowText(const cImportEntry& row, const cCliBook& book)
+void Print(const cFileReport& report, const cCliBook& book)
 {
-    return modDate::ToGerman(row.ImportDate) + u"  "_s + book.AmountText(modAmount::ToCents(row.ImportValue)) + u"  "_s
-        + (row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary);
-}
-
-void Print(const cReadProblem& problem)
-{
-    modConsole::Error(problem.Line > 0 ? cText::Tr("  Zeile {0}: {1}", {QString::number(problem.Line), problem.Text})
-                                       : u"  "_s + problem.Text);
-}
-
-void Print(const cImportResult& result, const cCliBook& book)
-{
-    QString text = result.IsRefused ? QString() : Summary(result, book) + u'\n';
-    for (const cImportEntry& row : result.Rows.first(qMin(result.Rows.size(), shownRows))) {
-        text += cText::Tr("  neu: {0}", {RowText(row, book)}) + u'\n';
+    QString text = report.IsRefused ? QString() : Summary(report) + u'\n';
+    for (const cImportEntry& row : report.Rows.first(qMin(report.Rows.size(), shownRows))) {
+        text += cText::Tr("  neu: {0}", {modImportText::Row(row, book.Format())}) + u'\n';
     }
-    if (result.Rows.size() > shownRows) {
-        text += cText::Tr("  … und {0} weitere", {QString::number(result.Rows.size() - shownRows)}) + u'\n';
+    if (report.Rows.size() > shownRows) {
+        text += cText::Tr("  … und {0} weitere", {QString::number(report.Rows.size() - shownRows)}) + u'\n';
     }
-    for (const cImportEntry& row : result.Duplicates) {
-        text += cText::Tr("  schon vorhanden: {0}", {RowText(row, book)}) + u'\n';
+    for (const cImportEntry& row : report.Duplicates) {
+        text += cText::Tr("  schon vorhanden: {0}", {modImportText::Row(row, book.Format())}) + u'\n';
     }
     modConsole::Out(text);
-    for (const cReadProblem& problem : result.Problems) {
-        Print(problem);
+    for (const cFileReport::cLine& problem : report.Problems) {
+        modConsole::Error(u"  "_s + problem.Shown);
     }
-    for (const cSkippedRow& row : result.Skipped) {
-        Print(row.Reason);
+    for (const cFileReport::cLeftOut& row : report.Skipped) {
+        modConsole::Error(u"  "_s + row.Reason.Shown);
     }
 }
 
-// Numbers that the book does not know yet get an account, so that their rows can be booked; one of their own where no
-// account is free.
-bool AssignAccounts(const cCliContext& context, const QStringList& numbers)
+int ImportFiles(const cCliContext& context, const cFileWish& wish)
 {
     cCliBook& book = *context.Book;
-    const QStringList unknown = book.Accounts.Unknown(numbers);
-    for (const QString& number : unknown) {
-        const QString wanted = context.Call.Value(u"book-account"_s);
-        const QString proposal = book.Accounts.Proposal(number);
-        const QString account = !wanted.isEmpty() ? wanted : proposal.isEmpty() ? number : proposal;
-        if (!book.Accounts.Assign(number, account)) {
-            modConsole::Error(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
-            return false;
-        }
-        modConsole::Error(cText::Tr("Die Kontonummer '{0}' gehört nun zum Konto '{1}'.", {number, account}));
-    }
-    return true;
-}
-
-// The number that was given for files that name no account is remembered for the next one of the same layout.
-void RememberAccount(const cImportResult& result, const QString& number, cTableMemory& memory)
-{
-    const bool isUsed = std::any_of(result.Accounts.begin(), result.Accounts.end(), [&](const QString& account) {
-        return modAccountNumber::IsSame(account, {}, number);
-    });
-    if (isUsed && !number.isEmpty() && !result.AccountKey.isEmpty()) {
-        memory.SaveAccount(result.AccountKey, number);
-    }
-}
-
-// What a file leaves behind beside its rows. False when the book refuses.
-bool Settle(const cCliContext& context, const cImportResult& result, const cImportOptions& options,
-            cTableMemory& memory)
-{
-    if (options.Run == eStagingRun::Try) {
-        return true;
-    }
-    RememberAccount(result, options.DefaultAccount, memory);
-    return AssignAccounts(context, result.Accounts);
-}
-
-// With --remember the layout of a table is read the same way next time. False when it cannot be remembered.
-bool RememberLayout(const cCliContext& context, const QString& file, const cImportOptions& options,
-                    cTableMemory& memory)
-{
-    if (!context.Call.Has(u"remember"_s) || options.Run == eStagingRun::Try) {
-        return true;
-    }
-    const cStatementSource source =
-        modStatementFormat::Source(file, modStatementFile::Read(file).Bytes, options.Table.Charset);
-    const eStatementFormat format = modStatementFormat::Detect(source);
-    const cReadOptions read{options.DefaultAccount, options.MissingPurpose, options.Table, &memory};
-    const cTableLayout layout = format == eStatementFormat::Csv ? modTable::Open(source, read).Layout
-        : format == eStatementFormat::Spreadsheet               ? modSpreadsheet::Open(source, read).Layout
-                                                                : cTableLayout();
-    if (layout.IsReadable() && modTable::Remember(source, options.Table, layout, memory)) {
-        return true;
-    }
-    modConsole::Error(cText::Tr("{0}: Der Aufbau kann nicht gemerkt werden. Das geht nur bei Tabellen mit einer Zeile "
-                                "für die Spaltennamen.",
-                                {file}));
-    return false;
-}
-
-int ImportFiles(const cCliContext& context, const cImportOptions& options)
-{
-    cCliBook& book = *context.Book;
-    cTableMemory memory(book.Settings());
-    cBankBalances balances(book.Settings());
-    cStatementImport reader(book.Data, book.Hive, &memory, &balances);
-    cNoProgress progress;
     bool isDone = true;
     QStringList objects;
     for (const QString& file : context.Call.Arguments()) {
-        const cImportResult result = reader.ImportFile(file, options, progress);
-        isDone = isDone && !result.IsRefused && result.Failed == 0;
-        isDone = Settle(context, result, options, memory) && isDone;
-        isDone = (result.IsRefused || RememberLayout(context, file, options, memory)) && isDone;
-        if (context.Call.Has(u"json"_s)) {
-            objects.append(ToJson(result, options.Run));
-        } else {
-            Print(result, book);
+        const cFileReport report = book.Statements.ImportFile(file, wish);
+        isDone = isDone && report.IsDone;
+        for (const QString& note : report.Notes) {
+            modConsole::Error(note);
         }
-        if (!result.Message.isEmpty()) {
-            modConsole::Error(file + u": "_s + result.Message);
+        if (context.Call.Has(u"json"_s)) {
+            objects.append(ToJson(report, wish.IsTrial));
+        } else {
+            Print(report, book);
+        }
+        if (!report.Message.isEmpty()) {
+            modConsole::Error(file + u": "_s + report.Message);
         }
     }
     if (context.Call.Has(u"json"_s)) {
@@ -231,13 +118,12 @@ int ImportFiles(const cCliContext& context, const cImportOptions& options)
 int Run(const cCliContext& context)
 {
     cCliReader reader(context);
-    cImportOptions options;
-    options.Duplicates = context.Call.Has(u"keep-duplicates"_s) ? eDuplicateTest::Skip : eDuplicateTest::Test;
-    options.DefaultAccount = context.Call.Value(u"account"_s);
-    options.MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
-    options.Table = modCliTableChoice::Read(context.Call, reader);
-    options.Run = context.Call.Has(u"dry-run"_s) ? eStagingRun::Try : eStagingRun::Write;
-    return reader.IsGood() ? ImportFiles(context, options) : reader.Report();
+    cFileWish wish = modCliTableChoice::Read(context.Call, reader);
+    wish.BookAccount = context.Call.Value(u"book-account"_s);
+    wish.KeepsDuplicates = context.Call.Has(u"keep-duplicates"_s);
+    wish.Remembers = context.Call.Has(u"remember"_s);
+    wish.IsTrial = context.Call.Has(u"dry-run"_s);
+    return reader.IsGood() ? ImportFiles(context, wish) : reader.Report();
 }
 
 } // namespace

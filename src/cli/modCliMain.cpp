@@ -1,8 +1,5 @@
 #include "cli/modCliMain.h"
 
-#include "app/cQtRegistry.h"
-#include "app/cQtShell.h"
-#include "app/cSystemClock.h"
 #include "base/cText.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
@@ -40,7 +37,12 @@ bool modCliMain::NeedsPaint(const QStringList& arguments)
     });
 }
 
-int modCliMain::Run(const QStringList& arguments, cCliPaint& paint)
+QString modCliMain::Profile(const QStringList& arguments)
+{
+    return cCliCall::Parse(arguments, modCliCommands::All()).Value(u"profile"_s);
+}
+
+int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
 {
     const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
     if (!call.Error().isEmpty()) {
@@ -50,18 +52,14 @@ int modCliMain::Run(const QStringList& arguments, cCliPaint& paint)
     if (call.WantsHelp()) {
         return ShowHelp(call);
     }
-    const QString profile = call.Value(u"profile"_s);
-    cQtShell shell(profile);
-    cQtRegistry registry(profile);
     cConsoleUser user;
-    cSystemClock clock;
     std::unique_ptr<cCliBook> book;
     if (call.Access() != eCliAccess::None) {
-        book = cCliBook::Open(call.Value(u"database"_s), call.Access(), {shell, registry, user, clock});
+        book = cCliBook::Open(call.Value(u"database"_s), call.Access(), ports, user);
         if (!book) {
             return modExit::Failed;
         }
     }
-    const int code = call.Command()->Run({call, user, clock, shell, book.get(), paint});
+    const int code = call.Command()->Run({call, ports, user, ports.Clock, ports.Shell, book.get()});
     return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
 }

@@ -7,10 +7,9 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
-#include "import/match/cMatcher.h"
-#include "store/cUndoStep.h"
+#include "views/statement/cMatchFlow.h"
+#include "views/statement/modImportText.h"
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -101,7 +100,7 @@ int ShowCandidates(const cCliContext& context)
         return reader.Report();
     }
     cCliBook& book = *context.Book;
-    const QList<cMatchCandidate> candidates = cMatcher(book.Data, book.Hive, book.Accounts).Candidates(row->ID);
+    const QList<cMatchCandidate> candidates = book.Statements.Candidates(row->ID);
     QStringList objects;
     QList<cMatch> open;
     QList<cMatch> taken;
@@ -120,13 +119,6 @@ int ShowCandidates(const cCliContext& context)
     return modExit::Done;
 }
 
-bool WriteCorrections(cDataAccess& data, const QList<cMatch>& matches)
-{
-    return std::all_of(matches.begin(), matches.end(), [&](const cMatch& match) {
-        return !match.Candidate.Correction || data.AddNewEntryMod(*match.Candidate.Correction);
-    });
-}
-
 int Report(const cCliContext& context, const cMatchResult& result)
 {
     if (context.Call.Has(u"json"_s)) {
@@ -135,8 +127,7 @@ int Report(const cCliContext& context, const cMatchResult& result)
         Print(*context.Book, result);
     }
     for (const QString& number : result.UnknownAccounts) {
-        modConsole::Error(
-            cText::Tr("Die Kontonummer '{0}' gehört zu keinem Konto; ihre Umsätze bleiben offen.", {number}));
+        modConsole::Error(modImportText::NoAccountToMatch(number));
     }
     return modExit::Done;
 }
@@ -146,26 +137,19 @@ int RunMatch(const cCliContext& context)
     if (context.Call.Has(u"candidates"_s)) {
         return ShowCandidates(context);
     }
-    cCliBook& book = *context.Book;
-    QList<int> ids;
-    const cImportEntryList rows = book.Hive.GetImportHive().GetImportEntriesByAssignedID(-1);
-    for (const cImportEntry& row : rows) {
-        ids.append(row.ID);
-    }
-    cNoProgress progress;
-    cMatcher matcher(book.Data, book.Hive, book.Accounts);
+    cStatementDesk& desk = context.Book->Statements;
+    const QList<int> ids = desk.OpenIds();
     if (context.Call.Has(u"dry-run"_s)) {
-        return Report(context, matcher.MatchAll(ids, progress, eMatchRun::Try));
+        return Report(context, desk.TryMatching(ids));
     }
-    cUndoStep step(book.Data, cText::Tr("Umsätze zugeordnet"));
-    const cMatchResult result = matcher.MatchAll(ids, progress, eMatchRun::Write);
-    const bool wantsCorrections = context.Call.Has(u"correct"_s);
-    if (result.Failed > 0 || (wantsCorrections && !WriteCorrections(book.Data, result.Assigned))) {
-        step.Revert();
-        modConsole::Error(cText::Tr("Es wurde nichts geändert."));
+    context.User.Prepare({.Answer = context.Call.Has(u"correct"_s) ? eAnswer::Yes : eAnswer::No});
+    cNoProgress progress;
+    const cMatchFlow::cOutcome outcome = desk.Matching().Match(ids, progress);
+    if (!outcome.IsDone) {
+        modConsole::Error(outcome.Lines.join(u'\n'));
         return modExit::Failed;
     }
-    return Report(context, result);
+    return Report(context, *outcome.Matches);
 }
 
 } // namespace

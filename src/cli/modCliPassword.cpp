@@ -2,6 +2,7 @@
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "core/cConfiguration.h"
 #include "core/modPassword.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,7 +12,7 @@ namespace {
 // Needs no password: the file is not encrypted, so whoever can write to it could remove the setting with any program.
 int Run(const cCliContext& context)
 {
-    cConfiguration& configuration = context.Book->Configuration();
+    cConfiguration& configuration = context.Book->File().Configuration();
     const QString path = context.Book->File().Path();
     const bool isActive = modPassword::IsActive(configuration);
     if (!isActive || !context.Call.Has(u"remove"_s)) {

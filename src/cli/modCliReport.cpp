@@ -168,10 +168,8 @@ private:
     {
         row << m_book.AmountText(amount.Cents);
         if (m_figures.Type == eReport::Limit) {
-            // More came back than was spent: nothing of the limit is used up, as the bar of the report has it.
-            const qint64 spent = qMax<qint64>(0, amount.Cents);
-            row << m_book.AmountText(amount.Limit)
-                << (amount.Limit == 0 ? QString() : QString::number(spent * 100 / amount.Limit));
+            const std::optional<qint64> percent = modReport::LimitPercent(amount);
+            row << m_book.AmountText(amount.Limit) << (percent ? QString::number(*percent) : QString());
         }
         m_table.Add(row << QString::number(amount.Entries));
     }
@@ -186,7 +184,7 @@ bool WritePdf(const cCliContext& context, cReportSource& source, cReportWish wis
 {
     const QString path = context.Call.Value(u"pdf"_s);
     wish.Links = eReportLinks::Off;
-    const bool isWritten = context.Paint.PaintReport(source.Html(wish), path);
+    const bool isWritten = context.Ports.Paint.PaintReport(source.Html(wish), path);
     if (!isWritten) {
         context.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", {path}));
     }

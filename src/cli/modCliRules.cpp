@@ -1,4 +1,3 @@
-#include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "base/modDate.h"
@@ -8,11 +7,9 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
-#include "import/propose/cOwnRules.h"
-#include "import/propose/cRuleMatcher.h"
-#include "import/stage/cStatementImport.h"
-#include "import/table/cTableMemory.h"
 #include "model/modWord.h"
+#include "views/statement/cFileReport.h"
+#include "views/statement/cFileWish.h"
 #include "views/statement/cRuleListModel.h"
 #include "views/statement/modRuleText.h"
 
@@ -165,19 +162,12 @@ cImportEntryList RowsToTest(const cCliContext& context, cCliReader& reader)
         const std::optional<cImportEntry> row = reader.StagedRow(argument);
         return row ? cImportEntryList{*row} : cImportEntryList();
     }
-    cImportOptions options;
-    options.Duplicates = eDuplicateTest::Skip;
-    options.DefaultAccount = context.Call.Value(u"account"_s);
-    options.MissingPurpose = eMissingPurpose::Name;
-    options.Run = eStagingRun::Try;
-    const cTableMemory memory(book.Settings());
-    cNoProgress progress;
-    const cImportResult result =
-        cStatementImport(book.Data, book.Hive, &memory).ImportFile(argument, options, progress);
-    if (result.IsRefused) {
-        reader.Missing(argument + u": "_s + result.Message);
+    const cFileReport report = book.Statements.ImportFile(
+        argument, {.Account = context.Call.Value(u"account"_s), .KeepsDuplicates = true, .IsTrial = true});
+    if (report.IsRefused) {
+        reader.Missing(argument + u": "_s + report.Message);
     }
-    return result.Rows;
+    return report.Rows;
 }
 
 int Test(const cCliContext& context)
@@ -188,8 +178,8 @@ int Test(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    const QList<cOwnRule> rules = cOwnRules(book.Settings()).Load();
-    const cRuleMatcher matcher(rules);
+    const QList<cOwnRule> rules = cRuleListModel(context.Book->Tools).Stored();
+    const QList<int> places = book.Statements.FirstRules(rows, rules);
     QStringList objects;
     cCliTable table({{cText::Tr("Datum")},
                      {cText::Tr("Betrag"), eAlign::Right},
@@ -197,8 +187,9 @@ int Test(const cCliContext& context)
                      {cText::Tr("Zweck"), eAlign::Left, 40},
                      {cText::Tr("Regel"), eAlign::Right},
                      {cText::Tr("Dann")}});
-    for (const cImportEntry& row : rows) {
-        const int place = matcher.Find(cRuleRow(row, book.Accounts.AccountOf(row.ImportAccount)));
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        const cImportEntry& row = rows.at(i);
+        const int place = places.at(i);
         objects.append(modCliRecord::Row(row)
                            .Raw(u"Rule"_s, place < 0 ? u"null"_s : ToJson(rules.at(place), place).ToString())
                            .ToString());

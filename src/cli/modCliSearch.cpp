@@ -5,9 +5,8 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliEntryList.h"
-#include "model/modBalance.h"
-#include "model/modWord.h"
 #include "views/list/cSearch.h"
+#include "views/list/modEntrySums.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -51,25 +50,14 @@ cSearchQuery ReadQuery(const cCliCall& call, cCliReader& reader)
 
 void PrintSums(const cCliBook& book, const cEntryItemList& entries, const QString& account)
 {
-    qint64 start = 0;
-    qint64 income = 0;
-    qint64 expense = 0;
-    for (const cEntryItem& entry : entries) {
-        const qint64 effect = modBalance::Effect(entry, account);
-        if (entry.EntryCategory == modWord::Startguthaben) {
-            start += effect; // money that was there before is no income
-            continue;
-        }
-        income += qMax<qint64>(0, effect);
-        expense -= qMin<qint64>(0, effect);
-    }
-    QStringList parts{modCount::Entries(entries.size())};
-    if (start != 0) {
-        parts.append(cText::Tr("Startguthaben {0}", {book.AmountText(start)}));
+    const cEntrySums sums = modEntrySums::Of(entries, account);
+    QStringList parts{modCount::Entries(sums.Count)};
+    if (sums.Start) {
+        parts.append(cText::Tr("Startguthaben {0}", {book.AmountText(*sums.Start)}));
     }
     parts.append(
         cText::Tr("Einnahmen {0}, Ausgaben {1}, Saldo {2}",
-                  {book.AmountText(income), book.AmountText(expense), book.AmountText(start + income - expense)}));
+                  {book.AmountText(sums.Income), book.AmountText(sums.Expense), book.AmountText(sums.Total())}));
     modConsole::Out(parts.join(u", "_s) + u'\n');
 }
 

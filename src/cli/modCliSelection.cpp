@@ -1,33 +1,18 @@
 #include "cli/modCliSelection.h"
 
 #include "base/cText.h"
-#include "base/modDate.h"
-#include "base/modFold.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "model/cTemplateItem.h"
 #include "model/modWord.h"
+#include "views/list/cEntryFilter.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// The same texts that the filter of the entry list looks at.
-bool IsFound(const cCliBook& book, const cEntryItem& entry, const QList<modFold::cFolded>& words)
-{
-    const QString text = QStringList{modDate::ToGerman(entry.EntryDate),
-                                     entry.EntryType,
-                                     entry.EntryCategory,
-                                     entry.EntryAccount,
-                                     entry.EntryAccountMove,
-                                     entry.EntryDescription,
-                                     entry.EntryInterval,
-                                     book.AmountText(entry.EntryValue)}
-                             .join(u'\n');
-    return modFold::HoldsAll(modFold::Fold(text), words);
-}
 
 struct cCategoryChoice
 {
@@ -100,12 +85,10 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     query.End = selection.Days.End;
     query.Type = modWord::QueryType(kind);
     query.Account = account;
-    selection.Entries = book.Data.GetEntries(query);
-    const QList<modFold::cFolded> words = modFold::Words(call.Value(u"filter"_s));
-    selection.Entries.removeIf(
-        [&](const cEntryItem& entry) { return !category.Holds(entry.EntryCategory) || !IsFound(book, entry, words); });
-    std::stable_sort(selection.Entries.begin(), selection.Entries.end(),
-                     [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
+    const cEntryItemList entries =
+        cEntryFilter::Search(book.File().Entries(query), call.Value(u"filter"_s), account, book.Format());
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(selection.Entries),
+                 [&](const cEntryItem& entry) { return category.Holds(entry.EntryCategory); });
     selection.View = View(call, kind, account);
     return selection;
 }

@@ -20,7 +20,7 @@ QString State(const cImportEntry& row)
 int Run(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    cImportEntryList rows = book.Hive.GetImportHive().getImportEntryList();
+    cImportEntryList rows = book.Statements.Rows();
     if (context.Call.Has(u"open"_s)) {
         rows.removeIf([](const cImportEntry& row) { return row.ImportAssigned; });
     }

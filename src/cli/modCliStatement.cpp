@@ -7,7 +7,6 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
-#include "import/read/modAccountNumber.h"
 #include "model/modWord.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statement/modBalanceText.h"
@@ -32,14 +31,10 @@ QString NumberFor(cCliReader& reader, const cStatementListModel& statement, cons
             cText::Tr("Mit --account muss die Kontonummer genannt werden. Es gibt: {0}", {numbers.join(u", "_s)}));
         return {};
     }
-    QStringList meant;
-    std::copy_if(numbers.begin(), numbers.end(), std::back_inserter(meant), [&](const QString& number) {
-        return modAccountNumber::IsSame(text, {}, number)
-            || statement.Ledger().AccountOf(number).compare(text, Qt::CaseInsensitive) == 0;
-    });
     if (numbers.contains(text)) {
         return text;
     }
+    const QStringList meant = statement.NumbersMeant(text);
     if (meant.size() != 1) {
         reader.Missing(meant.isEmpty() ? cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text})
                                        : cText::Tr("'{0}' hat mehrere Kontonummern: {1}", {text, meant.join(u", "_s)}));

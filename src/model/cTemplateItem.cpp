@@ -172,6 +172,40 @@ cTemplateItemList modTemplate::InOrder(cTemplateItemList items)
     return items;
 }
 
+QStringList modTemplate::AccountNames(const cTemplateItemList& items)
+{
+    QStringList names;
+    const cTemplateItemList ordered = InOrder(items);
+    for (const cTemplateItem& item : ordered) {
+        if (IsAccount(item)) {
+            names.append(item.TemplateName);
+        }
+    }
+    return names;
+}
+
+QStringList modTemplate::Paths(const cTemplateItemList& items)
+{
+    QStringList paths;
+    const cTemplateItemList ordered = InOrder(items);
+    for (const cTemplateItem& item : ordered) {
+        if (!IsAccount(item)) {
+            paths.append(Path(item));
+        }
+    }
+    return paths;
+}
+
+QStringList modTemplate::WithMains(const QStringList& paths)
+{
+    QStringList all;
+    for (const QString& path : paths) {
+        all.append({MainOf(path), path});
+    }
+    all.removeDuplicates();
+    return all;
+}
+
 int modTemplate::LastPriority(const cTemplateItemList& items, const QString& type, const QString& group)
 {
     int last = 0;

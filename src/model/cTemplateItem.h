@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -81,6 +82,13 @@ namespace modTemplate {
 // In the order that the user gave them, as every list should offer them: groups stay together and stand where their
 // first item stands, the main category itself comes before its sub-categories, and equal positions go by name.
 [[nodiscard]] cTemplateItemList InOrder(cTemplateItemList items);
+
+// The names of the accounts, and the paths of the categories, in this order.
+[[nodiscard]] QStringList AccountNames(const cTemplateItemList& items);
+[[nodiscard]] QStringList Paths(const cTemplateItemList& items);
+
+// The paths with every main category before its first one, whether it has a row of its own or not; each once.
+[[nodiscard]] QStringList WithMains(const QStringList& paths);
 
 // The highest position among the items of that type in that group, else of that type; 0 when there is none.
 [[nodiscard]] int LastPriority(const cTemplateItemList& items, const QString& type, const QString& group);

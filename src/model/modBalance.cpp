@@ -21,3 +21,15 @@ qint64 modBalance::Effect(const cEntryItem& entry, const QString& forAccount)
 {
     return Effect(entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, entry.EntryValue, forAccount);
 }
+
+QHash<QString, qint64> modBalance::ByAccount(const QList<cAccountSum>& sums)
+{
+    QHash<QString, qint64> balances;
+    for (const cAccountSum& sum : sums) {
+        balances[sum.EntryAccount] += sum.EntryType == modWord::Einnahme ? sum.Cents : -sum.Cents;
+        if (sum.EntryType == modWord::Umbuchung) {
+            balances[sum.EntryAccountMove] += sum.Cents;
+        }
+    }
+    return balances;
+}

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "model/cAccountSum.h"
 #include "model/cEntryItem.h"
 
+#include <QHash>
+#include <QList>
 #include <QString>
 
 // What an entry does to money.
@@ -13,5 +16,9 @@ namespace modBalance {
 [[nodiscard]] qint64 Effect(const QString& type, const QString& account, const QString& target, qint64 cents,
                             const QString& forAccount);
 [[nodiscard]] qint64 Effect(const cEntryItem& entry, const QString& forAccount);
+
+// Signed cents by account; what has no account stands under the empty name. All of them together are what the household
+// has.
+[[nodiscard]] QHash<QString, qint64> ByAccount(const QList<cAccountSum>& sums);
 
 } // namespace modBalance

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/cAccountSum.h"
 #include "model/cEntryItem.h"
 #include "model/cEntryItemFixMod.h"
 #include "model/cEntryQuery.h"
@@ -21,15 +22,6 @@
 
 class cDatabase;
 class cUser;
-
-// Sum of the entries that share kind, account and target account.
-struct cAccountSum
-{
-    QString EntryType;
-    QString EntryAccount;
-    QString EntryAccountMove;
-    qint64 Cents = 0;
-};
 
 // An earlier description with category and account of its latest use.
 struct cDescriptionUse

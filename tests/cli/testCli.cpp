@@ -186,6 +186,8 @@ void testCli::EntriesAreFiltered_data()
         << QStringList{u"--account"_s, u"Sparkonto"_s} << QStringList{u"2024-03-08"_s};
     QTest::addRow("words in any case and without umlauts")
         << QStringList{u"--filter"_s, u"KORNBLUME baecker"_s} << QStringList{u"2024-03-11"_s};
+    QTest::addRow("amount with the sign that the list shows")
+        << QStringList{u"--filter"_s, u"-64,21"_s} << QStringList{u"2024-03-04"_s};
 }
 
 void testCli::EntriesAreFiltered()

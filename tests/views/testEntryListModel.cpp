@@ -222,7 +222,7 @@ void testEntryListModel::FiltersInOrderAndGroups()
     const QStringList groups = Rows(model);
     model.SetFilter(u"haushalt"_s);
     QCOMPARE(Rows(model), QStringList({u"Haushalt  (2)=-8,00"_s}));
-    QCOMPARE(model.Sums(), (cEntryListModel::cSums{0, 800, 2}));
+    QCOMPARE(model.Sums(), (cEntrySums{0, 800, 2}));
     QCOMPARE(model.EntryAt(model.index(0, 0, model.index(0, 0)))->EntryValue, 300);
     model.SetFilter(u"haushalt cafe"_s);
     QCOMPARE(Rows(model), QStringList({u"Haushalt  (1)=-3,00"_s}));

@@ -2,10 +2,13 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
+#include "views/main/modAccountLines.h"
 #include "views/main/modCommand.h"
 
 #include <QSignalSpy>
 #include <QTest>
+
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -180,7 +183,7 @@ void testMainModel::SumsFollowTheView()
     scene.Model->ChooseAccount(account);
     scene.Model->ChooseType(type);
 
-    const cEntryListModel::cSums sums = scene.Model->Entries().Sums();
+    const cEntrySums sums = scene.Model->Entries().Sums();
     QCOMPARE(sums.Count, count);
     QCOMPARE(sums.Income, income);
     QCOMPARE(sums.Expense, expense);
@@ -472,6 +475,19 @@ void testMainModel::OpenRowsCountForTheirAccount()
     const cAccountListModel& accounts = scene.Model->AccountList();
     QCOMPARE(accounts.index(2, cAccountListModel::Name).data().toString(), u"Sparkonto"_s);
     QCOMPARE(accounts.index(2, cAccountListModel::Open).data().toString(), u"1"_s);
+
+    // Numbers without account, or with one that is gone, count in the total.
+    row.ImportAccount = u"0815"_s;
+    QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+    row.ImportAccount = u"999"_s;
+    QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+    scene.Book.Settings->Set(u"KTO:999"_s, u"Weg"_s);
+    const modAccountLines::cLines lines =
+        modAccountLines::Load(scene.Book.Data, *scene.Book.Settings, QDate(2026, 3, 1));
+    QCOMPARE(lines.Open, 3);
+    QCOMPARE(std::accumulate(lines.Accounts.begin(), lines.Accounts.end(), 0,
+                             [](int sum, const cAccountLine& line) { return sum + line.Open; }),
+             1);
 }
 
 QTEST_GUILESS_MAIN(testMainModel)

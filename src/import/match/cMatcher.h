@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/match/cMatch.h"
 #include "model/cImportEntry.h"
+#include "model/cMatch.h"
 
 #include <QHash>
 #include <QList>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/propose/cProposal.h"
 #include "model/cEntryItem.h"
+#include "model/cProposal.h"
 
 #include <QHash>
 #include <QList>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "import/propose/cProposal.h"
 #include "import/propose/modKeywordRules.h"
 #include "model/cImportEntry.h"
+#include "model/cProposal.h"
 
 #include <memory>
 

@@ -62,6 +62,16 @@ QList<std::pair<QString, QString>> cAccountMap::Mapping() const
     return mapping;
 }
 
+QHash<QString, int> cAccountMap::OpenByAccount() const
+{
+    QHash<QString, int> byAccount;
+    const QHash<QString, int> byNumber = m_data.CountOpenImports();
+    for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
+        byAccount[AccountOf(open.key())] += *open;
+    }
+    return byAccount;
+}
+
 QString cAccountMap::OwnAccountOf(const QString& number, const QString& bankCode) const
 {
     if (number.trimmed().isEmpty()) {

@@ -4,6 +4,7 @@
 #include "model/cImportEntry.h"
 #include "model/cTemplateItem.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -30,6 +31,10 @@ public:
     // The own account that a counterparty's details mean: the number itself, or IBAN and account number of the same
     // account. Empty when it is somebody else's.
     [[nodiscard]] QString OwnAccountOf(const QString& number, const QString& bankCode) const;
+
+    // How many bank transactions wait, by account. Those whose number has no account, or one that is gone, stand under
+    // the empty name.
+    [[nodiscard]] QHash<QString, int> OpenByAccount() const;
 
     // Where the mapping is kept, with what else the user decided about bank transactions.
     [[nodiscard]] cSettings& Settings() const { return m_settings; }

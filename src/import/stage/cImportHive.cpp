@@ -154,6 +154,17 @@ cImportEntryList cImportHive::GetImportEntriesByAssignedID(int entryId) const
     return entries;
 }
 
+QList<int> cImportHive::OpenIds() const
+{
+    QList<int> ids;
+    for (const cImportEntry& row : m_entries) {
+        if (!row.ImportAssigned) {
+            ids.append(row.ID);
+        }
+    }
+    return ids;
+}
+
 cImportEntryList cImportHive::GetImportEntryByArea(int entryId, QDate from, QDate to) const
 {
     cImportEntryList entries = GetImportEntriesByAssignedID(entryId);

@@ -34,6 +34,7 @@ public:
     // Entry ID -1 stands for the rows that are not assigned.
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByAssignedID(int entryId) const;
     [[nodiscard]] cImportEntryList GetImportEntriesByAssignedID(int entryId) const;
+    [[nodiscard]] QList<int> OpenIds() const; // of the rows that are not assigned, in their order
     // The rows of the entry from `from` to `to`, both included.
     [[nodiscard]] cImportEntryList GetImportEntryByArea(int entryId, QDate from, QDate to) const;
 

@@ -22,9 +22,9 @@ enum class eUncertain { Read, Ask };
 struct cImportOptions
 {
     eDuplicateTest Duplicates = eDuplicateTest::Test;
-    QString DefaultAccount; // own account number for statements that do not name theirs
-    eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
-    cTableChoice Table = {}; // what the user chose for a file in rows and columns
+    QString DefaultAccount;                                 // own account number for statements that do not name theirs
+    eMissingPurpose MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
+    cTableChoice Table = {};                                // what the user chose for a file in rows and columns
     eStagingRun Run = eStagingRun::Write;
     eUncertain Uncertain = eUncertain::Read;
 };

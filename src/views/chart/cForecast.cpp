@@ -4,7 +4,6 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/chart/modForecast.h"
 
@@ -27,29 +26,7 @@ QHash<QString, qint64> cForecast::BalancesBefore(QDate day)
 {
     cEntryQuery query;
     query.End = day.addDays(-1);
-    QHash<QString, qint64> balances;
-    const QList<cAccountSum> sums = m_data.GetSums(query, true);
-    for (const cAccountSum& sum : sums) {
-        const auto add = [&](const QString& account) {
-            balances[account] +=
-                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, account);
-        };
-        add(sum.EntryAccount);
-        if (sum.EntryType == modWord::Umbuchung && sum.EntryAccountMove != sum.EntryAccount) {
-            add(sum.EntryAccountMove);
-        }
-    }
-    return balances;
-}
-
-QStringList cForecast::AccountNames()
-{
-    QStringList names;
-    const cTemplateItemList accounts = modTemplate::InOrder(m_data.GetAccounts());
-    for (const cTemplateItem& account : accounts) {
-        names.append(account.TemplateName);
-    }
-    return names;
+    return modBalance::ByAccount(m_data.GetSums(query, true));
 }
 
 cBalanceDays cForecast::Days(const modPeriod::cRange& range, eAverage average)
@@ -63,7 +40,7 @@ cBalanceDays cForecast::Days(const modPeriod::cRange& range, eAverage average)
     cEntryQuery query;
     query.Start = input.First;
     query.End = input.Last;
-    input.Accounts = AccountNames();
+    input.Accounts = modTemplate::AccountNames(m_data.GetAccounts());
     input.Entries = m_data.GetEntries(query);
     if (input.First.isValid()) {
         input.Opening = BalancesBefore(input.First);
@@ -108,9 +85,7 @@ QList<cLimitWarning> cForecast::Warnings()
     query.End = input.Last;
     input.Opening = BalancesBefore(input.First);
     input.Entries = m_data.GetEntries(query);
-    for (const cTemplateItem& account : std::as_const(accounts)) {
-        input.Accounts.append(account.TemplateName);
-    }
+    input.Accounts = modTemplate::AccountNames(accounts);
     const cBalanceDays days = modForecast::Days(input);
     QList<cLimitWarning> warnings;
     for (const cTemplateItem& account : std::as_const(accounts)) {

@@ -40,7 +40,6 @@ public:
 
 private:
     [[nodiscard]] QHash<QString, qint64> BalancesBefore(QDate day);
-    [[nodiscard]] QStringList AccountNames();
     void AddAverage(cBalanceDays& days);
 
     cDataAccess& m_data;

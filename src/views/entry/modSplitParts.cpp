@@ -64,6 +64,14 @@ bool modSplitParts::FillRest(qsizetype row, cEntryFields& fields)
     return true;
 }
 
+qint64 modSplitParts::SetAmount(qsizetype row, qint64 cents, cEntryFields& fields)
+{
+    fields.Parts[row].Amount = AmountText(cents, fields.Decimal);
+    const qint64 whole = modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0) - Rest(fields).value_or(0);
+    fields.Amount = modSum::ToText(whole, fields.Decimal);
+    return whole;
+}
+
 QString modSplitParts::AmountText(qint64 cents, eDecimal decimal)
 {
     return modSum::ToText(cents, decimal);

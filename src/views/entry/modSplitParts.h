@@ -25,6 +25,10 @@ namespace modSplitParts {
 // Adds the rest to the amount of a row. False when the rest is not known or the row does not exist.
 [[nodiscard]] bool FillRest(qsizetype row, cEntryFields& fields);
 
+// Gives a row that exists another amount in signed cents, and the whole what all rows then come to. The cents of the
+// whole, which have to be above zero to be stored.
+qint64 SetAmount(qsizetype row, qint64 cents, cEntryFields& fields);
+
 // The form of amounts in the table: "#############0.00", so without grouping, with the decimal sign of the fields.
 [[nodiscard]] QString AmountText(qint64 cents, eDecimal decimal = eDecimal::Comma);
 

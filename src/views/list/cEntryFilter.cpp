@@ -1,11 +1,13 @@
 #include "views/list/cEntryFilter.h"
 
+#include "base/modFold.h"
 #include "model/modWord.h"
 
 #include <QHash>
 #include <QStringList>
 
 #include <array>
+#include <numeric>
 #include <unordered_map>
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,6 +55,25 @@ cEntryFilter::cEntryFilter(const cEntryItemList& entries, const cAmountFormat& f
         }
         m_filter.AddRow(words->second, description, entry.EntryDate);
     }
+}
+
+cEntryItemList cEntryFilter::Search(const cEntryItemList& entries, const QString& text, const QString& account,
+                                    const cAmountFormat& format)
+{
+    const QList<modFold::cFolded> words = modFold::Words(text);
+    if (words.isEmpty()) {
+        return entries;
+    }
+    std::vector<int> all(static_cast<std::size_t>(entries.size()));
+    std::iota(all.begin(), all.end(), 0);
+    const std::vector<int> found = cEntryFilter(entries, format).Find(words, all, [&](int entry) {
+        return ShownCents(entries.at(entry), account);
+    });
+    cEntryItemList results;
+    for (const int entry : found) {
+        results.append(entries.at(entry));
+    }
+    return results;
 }
 
 QString cEntryFilter::AccountText(const cEntryItem& entry)

@@ -19,6 +19,11 @@ public:
     [[nodiscard]] std::vector<int> Find(const QList<modFold::cFolded>& words, const std::vector<int>& among,
                                         const cListFilter::fnCents& cents);
 
+    // The entries that hold every word of a text, in the same order. `account` is what a list shows alone, so that its
+    // transfers have a sign; empty for all.
+    [[nodiscard]] static cEntryItemList Search(const cEntryItemList& entries, const QString& text,
+                                               const QString& account, const cAmountFormat& format);
+
     // The account as lists show it; of a transfer both accounts.
     [[nodiscard]] static QString AccountText(const cEntryItem& entry);
 

@@ -141,15 +141,6 @@ void cEntryListModel::Select(const std::vector<int>& among)
     Sum();
 }
 
-void cEntryListModel::AddToSums(int entry, qint64 effect)
-{
-    if (m_content.Entries.at(entry).EntryCategory == modWord::Startguthaben) {
-        m_sums.Start = m_sums.Start.value_or(0) + effect;
-    } else {
-        (effect < 0 ? m_sums.Expense : m_sums.Income) += effect < 0 ? -effect : effect;
-    }
-}
-
 void cEntryListModel::Sum()
 {
     m_groups.clear();
@@ -158,7 +149,7 @@ void cEntryListModel::Sum()
     for (int position = 0; position < static_cast<int>(m_order.size()); ++position) {
         const int entry = m_order[At(position)];
         const qint64 effect = Effect(entry);
-        AddToSums(entry, effect);
+        modEntrySums::Add(m_sums, m_content.Entries.at(entry), effect);
         if (m_groupOf.empty()) {
             continue;
         }
@@ -170,7 +161,6 @@ void cEntryListModel::Sum()
         ++m_groups.back().Count;
         m_groups.back().Sum += effect;
     }
-    m_sums.Count = static_cast<qsizetype>(m_order.size());
 }
 
 void cEntryListModel::RunBalances()

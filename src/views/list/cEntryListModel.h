@@ -2,6 +2,7 @@
 
 #include "base/modFold.h"
 #include "model/cEntryItem.h"
+#include "views/list/modEntrySums.h"
 
 #include <QAbstractItemModel>
 #include <QDate>
@@ -36,17 +37,6 @@ public:
     // What an amount means, for whoever paints it.
     enum eMoneyTone { Neutral, Income, Expense };
 
-    struct cSums
-    {
-        qint64 Income = 0;
-        qint64 Expense = 0; // cents, not negative
-        qsizetype Count = 0;
-        // Start balances: money that was there before, and so neither income nor expense. Empty where none is shown.
-        std::optional<qint64> Start{};
-        [[nodiscard]] qint64 Total() const { return Start.value_or(0) + Income - Expense; }
-        bool operator==(const cSums&) const = default;
-    };
-
     // An occurrence as it is found again after the list was rebuilt.
     struct cKey
     {
@@ -71,7 +61,7 @@ public:
     void SetFilter(const QString& text);       // every word must be found
     void SetGrouping(const QString& grouping); // a word of modWord::Groupings
 
-    [[nodiscard]] cSums Sums() const { return m_sums; }
+    [[nodiscard]] const cEntrySums& Sums() const { return m_sums; }
     [[nodiscard]] const cEntryItem* EntryAt(const QModelIndex& index) const; // null for the head of a group
     [[nodiscard]] cKey KeyAt(const QModelIndex& index) const;
     // The rows of these keys in one pass over the list.
@@ -104,7 +94,6 @@ private:
     void Order(); // sorts and groups all entries
     // Decides which of `among` are shown, in this order.
     void Select(const std::vector<int>& among);
-    void AddToSums(int entry, qint64 effect);
     void Sum(); // adds up what is shown, as a whole and by group
     void RunBalances();
     [[nodiscard]] std::vector<qint64> SortKeys() const;
@@ -130,5 +119,5 @@ private:
     std::unique_ptr<cEntryFilter> m_filter; // made when something is typed for the first time
     std::vector<cGroup> m_groups;
     std::vector<qint64> m_balances; // by entry; empty when there is none to show
-    cSums m_sums;
+    cEntrySums m_sums;
 };

@@ -1,7 +1,6 @@
 #include "views/list/cSearch.h"
 
 #include "base/cClock.h"
-#include "base/modFold.h"
 #include "core/cBookTools.h"
 #include "model/cTemplateItem.h"
 #include "model/modRecurrence.h"
@@ -11,9 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 #include <utility>
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,21 +36,7 @@ cSearch::cSearch(const cBookTools& tools) : m_tools(tools)
 
 cEntryItemList cSearch::Find(const cSearchQuery& query)
 {
-    const cEntryItemList entries = Narrow(Load(query), query);
-    const QList<modFold::cFolded> words = modFold::Words(query.Text);
-    if (words.isEmpty()) {
-        return entries;
-    }
-    std::vector<int> all(static_cast<std::size_t>(entries.size()));
-    std::iota(all.begin(), all.end(), 0);
-    const std::vector<int> found = cEntryFilter(entries, m_tools.Format).Find(words, all, [&](int entry) {
-        return cEntryFilter::ShownCents(entries.at(entry), query.Account);
-    });
-    cEntryItemList results;
-    for (const int entry : found) {
-        results.append(entries.at(entry));
-    }
-    return results;
+    return cEntryFilter::Search(Narrow(Load(query), query), query.Text, query.Account, m_tools.Format);
 }
 
 cEntryItemList cSearch::Load(const cSearchQuery& query)

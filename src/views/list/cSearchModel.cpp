@@ -9,6 +9,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/template/modBookNames.h"
 
 #include <cstdlib>
 #include <utility>
@@ -183,27 +184,12 @@ QStringList cSearchModel::Periods() const
 
 QStringList cSearchModel::Accounts() const
 {
-    QStringList accounts;
-    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetAccounts());
-    for (const cTemplateItem& item : items) {
-        accounts.append(item.TemplateName);
-    }
-    return accounts;
+    return modBookNames::Accounts(m_tools.Data);
 }
 
 QStringList cSearchModel::Categories() const
 {
-    QStringList paths;
-    const cTemplateItemList items = modTemplate::InOrder(m_tools.Data.GetTemplates());
-    for (const cTemplateItem& item : items) {
-        if (!modTemplate::IsAccount(item)) {
-            const QString path = modTemplate::Path(item);
-            paths.append(modTemplate::MainOf(path)); // also when it has no row of its own
-            paths.append(path);
-        }
-    }
-    paths.removeDuplicates();
-    return paths;
+    return modTemplate::WithMains(modBookNames::Categories(m_tools.Data));
 }
 
 QString cSearchModel::CountText() const

@@ -2,21 +2,7 @@
 
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
-
-#include <algorithm>
-#include <map>
-#include <numeric>
-
-namespace {
-
-const cTemplateItem* FindName(const cTemplateItemList& accounts, const QString& name)
-{
-    const auto found = std::find_if(accounts.begin(), accounts.end(),
-                                    [&](const cTemplateItem& account) { return account.TemplateName == name; });
-    return found == accounts.end() ? nullptr : &*found;
-}
-
-} // namespace
+#include "views/main/modAccountLines.h"
 
 cAccountListModel::cAccountListModel(const cAmountFormat& format, QObject* parent)
     : QAbstractTableModel(parent),
@@ -31,47 +17,22 @@ void cAccountListModel::SetAccounts(const cTemplateItemList& accounts, const QHa
 {
     beginResetModel();
     m_rows.clear();
-    std::vector<std::pair<QString, std::vector<cRow>>> groups;
-    for (const cTemplateItem& account : accounts) {
-        const cRow row{Account, account.TemplateName, balances.value(account.TemplateName),
-                       open.value(account.TemplateName)};
-        if (!modTemplate::IsVisible(account) && row.Cents == 0 && row.Open == 0) {
+    const modAccountLines::cLines lines = modAccountLines::Of(accounts, balances, open);
+    std::optional<QString> group;
+    for (const cAccountLine& line : lines.Accounts) {
+        const bool isShown = line.Item.ID != 0 && modTemplate::IsVisible(line.Item);
+        if (!isShown && line.Cents == 0 && line.Open == 0) {
             continue; // closed and empty
         }
-        auto group = std::find_if(groups.begin(), groups.end(),
-                                  [&](const auto& each) { return each.first == account.TemplateCategory; });
-        if (group == groups.end()) {
-            group = groups.insert(groups.end(), {account.TemplateCategory, {}});
+        const QString& name = line.Item.TemplateCategory;
+        if (group != name) {
+            m_rows.push_back({Group, name.isEmpty() ? cText::Tr("Konten") : name, 0, 0});
+            group = name;
         }
-        group->second.push_back(row);
+        m_rows.push_back({Account, line.Item.TemplateName, line.Cents, line.Open});
     }
-    for (const auto& [name, rows] : groups) {
-        AddGroup(name.isEmpty() ? cText::Tr("Konten") : name, rows);
-    }
-    std::map<QString, cRow> others;
-    for (auto balance = balances.begin(); balance != balances.end(); ++balance) {
-        if (FindName(accounts, balance.key()) == nullptr && *balance != 0) {
-            others.emplace(balance.key(), cRow{Account, balance.key(), *balance, open.value(balance.key())});
-        }
-    }
-    std::vector<cRow> otherRows;
-    otherRows.reserve(others.size());
-    for (const auto& [name, row] : others) {
-        otherRows.push_back(row);
-    }
-    AddGroup(cText::Tr("Ohne Kontoeintrag"), otherRows);
-    const int openRows = std::accumulate(open.begin(), open.end(), 0);
-    m_rows.push_back(
-        {Total, cText::Tr("Gesamt"), std::accumulate(balances.begin(), balances.end(), qint64(0)), openRows});
+    m_rows.push_back({Total, cText::Tr("Gesamt"), lines.Cents, lines.Open});
     endResetModel();
-}
-
-void cAccountListModel::AddGroup(const QString& name, const std::vector<cRow>& rows)
-{
-    if (!rows.empty()) {
-        m_rows.push_back({Group, name, 0, 0});
-        m_rows.insert(m_rows.end(), rows.begin(), rows.end());
-    }
 }
 
 void cAccountListModel::SetChosen(const QString& account)

@@ -53,7 +53,6 @@ private:
         int Open = 0;
     };
 
-    void AddGroup(const QString& name, const std::vector<cRow>& rows);
     [[nodiscard]] QString Text(const cRow& row, int column) const;
     [[nodiscard]] QString Hint(const cRow& row, int column) const;
     [[nodiscard]] QString Warning(const cRow& row) const;

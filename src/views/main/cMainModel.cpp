@@ -159,18 +159,13 @@ std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
     if (query.Account.isEmpty() || isNarrowed) {
         return std::nullopt;
     }
-    qint64 balance = 0;
-    if (query.Start.isValid()) {
-        cEntryQuery before;
-        before.Account = query.Account;
-        before.End = query.Start.addDays(-1);
-        const QList<cAccountSum> sums = m_tools.Data.GetSums(before, true);
-        for (const cAccountSum& sum : sums) {
-            balance +=
-                modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, query.Account);
-        }
+    if (!query.Start.isValid()) {
+        return 0;
     }
-    return balance;
+    cEntryQuery before;
+    before.Account = query.Account;
+    before.End = query.Start.addDays(-1);
+    return modBalance::ByAccount(m_tools.Data.GetSums(before, true)).value(query.Account);
 }
 
 void cMainModel::RefreshAccounts()
@@ -184,28 +179,11 @@ void cMainModel::RefreshAccounts()
     QHash<QString, qint64> balances;
     if (m_view.BalancesToToday || !m_view.ShowsNothing()) {
         const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
-        const QList<cAccountSum> sums = m_tools.Data.GetSums(m_view.BalanceQuery(today), withStart);
-        for (const cAccountSum& sum : sums) {
-            const bool isTransfer = sum.EntryType == modWord::Umbuchung;
-            balances[sum.EntryAccount] += isTransfer || sum.EntryType != modWord::Einnahme ? -sum.Cents : sum.Cents;
-            if (isTransfer) {
-                balances[sum.EntryAccountMove] += sum.Cents;
-            }
-        }
+        balances = modBalance::ByAccount(m_tools.Data.GetSums(m_view.BalanceQuery(today), withStart));
     }
-    m_accounts.SetAccounts(m_accountItems, balances, OpenByAccount());
+    m_accounts.SetAccounts(m_accountItems, balances, cAccountMap(m_tools.Data, m_tools.Settings).OpenByAccount());
     m_accounts.SetChosen(m_view.FilterAccount());
     m_balancesOf = m_view.BalancesToToday ? today : QDate();
-}
-
-QHash<QString, int> cMainModel::OpenByAccount() const
-{
-    QHash<QString, int> byAccount;
-    const QHash<QString, int> byNumber = m_tools.Data.CountOpenImports();
-    for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
-        byAccount[m_tools.Settings.Get(modSettingKey::BankNumber.Of(open.key()))] += *open;
-    }
-    return byAccount;
 }
 
 void cMainModel::BookChanged()
@@ -368,7 +346,7 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 
 void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
 {
-    m_parts.DatabasePath = path;
+    m_tools.DatabasePath = path;
     m_balancesOf = QDate();
     SetSelection({});
     RestoreView(isNewVersion);
@@ -401,11 +379,7 @@ bool cMainModel::IsFreePeriod() const
 
 QStringList cMainModel::Accounts() const
 {
-    QStringList names{modWord::AlleKonten};
-    for (const cTemplateItem& account : m_accountItems) {
-        names.append(account.TemplateName);
-    }
-    return names;
+    return QStringList{modWord::AlleKonten} + modTemplate::AccountNames(m_accountItems);
 }
 
 QString cMainModel::StartText() const
@@ -462,13 +436,13 @@ QString cMainModel::EmptyHint() const
 
 QString cMainModel::DatabaseText() const
 {
-    const QString path = QDir::toNativeSeparators(m_parts.DatabasePath);
+    const QString path = QDir::toNativeSeparators(m_tools.DatabasePath);
     return IsReadOnly() ? cText::Tr("{0} (nur lesen)", {path}) : path;
 }
 
 QString cMainModel::WindowTitle() const
 {
-    const QString name = QFileInfo(m_parts.DatabasePath).completeBaseName();
+    const QString name = QFileInfo(m_tools.DatabasePath).completeBaseName();
     const bool isUnnamed = name.compare(u"data"_s, Qt::CaseInsensitive) == 0; // "data.db", which nobody has chosen
     return u"%1 – Kontorelle"_s.arg(isUnnamed ? cText::Tr("Haushaltsbuch") : name);
 }

@@ -7,7 +7,6 @@
 #include "views/main/cLimitWatch.h"
 #include "views/main/cViewState.h"
 
-#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -154,7 +153,6 @@ private:
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const cSettingKey& key, eSwitch state);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
-    [[nodiscard]] QHash<QString, int> OpenByAccount() const;
 
     // A selection and the view that it stands in for.
     struct cDetour

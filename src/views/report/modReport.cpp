@@ -398,6 +398,11 @@ std::optional<cReportNode> modReport::NodeOf(const cEntryItem& entry, const cRep
     return cReportNode{KindOf(entry), path.Group, path.Category};
 }
 
+std::optional<qint64> modReport::LimitPercent(const cReportAmount& amount)
+{
+    return amount.Limit <= 0 ? std::nullopt : std::optional(qMax<qint64>(0, amount.Cents) * 100 / amount.Limit);
+}
+
 qint64 modReport::PerMonth(qint64 cents, const cReportBasis& basis)
 {
     // The product is exact and the quotient rounded once, so that halves are seen as halves.

@@ -34,6 +34,9 @@ namespace modReport {
 // A sum as average of a month, in whole cents, halves away from zero.
 [[nodiscard]] qint64 PerMonth(qint64 cents, const cReportBasis& basis);
 
+// How much of its limit was spent, in whole per cent; 0 where more came back than was spent, none without limit.
+[[nodiscard]] std::optional<qint64> LimitPercent(const cReportAmount& amount);
+
 // The stored name of a report, "Durchschnittswerte" and so on.
 [[nodiscard]] QString Name(eReport type);
 // The same for the user.

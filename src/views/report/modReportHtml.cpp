@@ -81,19 +81,20 @@ QString FirstSegment(int width, qint64 percent, bool isOver)
 }
 
 // How much of the limit was spent. The track is 150 px for 100 %, and as much again behind the mark.
-QString LimitBar(qint64 spent, qint64 limit)
+QString LimitBar(const cReportAmount& amount)
 {
     constexpr double pixels = 1.5; // for one per cent
     constexpr int track = 150;
-    if (spent <= 0 || limit <= 0) {
+    const std::optional<qint64> shown = modReport::LimitPercent(amount);
+    if (!shown || amount.Cents <= 0) {
         return {}; // more came back than was spent: there is nothing to draw
     }
-    const double percent = static_cast<double>(spent) * 100.0 / static_cast<double>(limit);
+    const double percent = static_cast<double>(amount.Cents) * 100.0 / static_cast<double>(amount.Limit);
     const int first = percent <= 100.0 ? Rounded(percent) : 100;
     const int excess = percent <= 100.0 ? 0 : Rounded(std::fmin(percent - 100.0, 100.0));
     const int firstWidth = Rounded(pixels * first);
     const int excessWidth = Rounded(pixels * excess);
-    QString bar = FirstSegment(firstWidth, spent * 100 / limit, excessWidth >= 1);
+    QString bar = FirstSegment(firstWidth, *shown, excessWidth >= 1);
     if (excessWidth == 0) {
         bar += u"<div style=\"border: 1px solid #000000; padding: 1px; border-left: 0px; border-right: 0px; width:"_s
             + Px(track - firstWidth) + u"; background:#E2E2E2; float: left;\" /></div>"_s;
@@ -236,7 +237,7 @@ QString cWriter::LimitLine(const QString& label, const cReportAmount& amount, eW
     const QString content = u"<table style=\"margin: 0px; border-collapse: collapse; width: "_s + width + u"; color: "_s
         + tone.Text + u";\"><tr><td style=\"text-align: left; width: "_s + nameWidth + u"\"><li style=\""_s
         + ListStyle(weight) + u"\">"_s + Strong(label.toHtmlEscaped(), weight)
-        + u": </li></td><td style=\"text-align: left; width: 320px\">"_s + LimitBar(amount.Cents, amount.Limit)
+        + u": </li></td><td style=\"text-align: left; width: 320px\">"_s + LimitBar(amount)
         + u"</td><td style=\"text-align: right; width: 80px;\">"_s + Strong(Money(amount.Cents), weight)
         + u"</td><td style=\"width: 20px; text-align: right;\">"_s + cText::Tr("von")
         + u"</td><td style=\"width: 80px; text-align: right;\">"_s + Money(amount.Limit) + u"</td></tr></table>"_s;

@@ -20,6 +20,7 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
+#include "views/statement/modRowBooking.h"
 
 #include <QSet>
 
@@ -207,14 +208,18 @@ void cImportReview::BookAll(const QList<int>& rowIds, cProgress& progress)
     if (rowIds.isEmpty()) {
         return;
     }
-    cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rowIds.size()))}));
-    AskAccountsOf(OpenRows(rowIds));
-    cBookingResult result = m_works->Booking.Book(rowIds, Chosen(OpenRows(rowIds)), progress);
-    if (result.Failed > 0 || !step.Done()) {
-        result = cBookingResult::Nothing(rowIds.size());
-        m_parts.Settings.Reload(); // an account chosen just before has been taken back with the rest
+    const auto chosen = [&] {
+        AskAccountsOf(OpenRows(rowIds));
+        return Chosen(OpenRows(rowIds));
+    };
+    const cBookingResult result = modRowBooking::Book(m_tools.Data, m_works->Booking, rowIds, chosen, progress);
+    if (result.Failed > 0) {
+        m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
     }
-    m_summary = modImportText::Booked(result);
+    m_summary = {modImportText::Booked(result)};
+    for (const QString& number : result.UnknownAccounts) {
+        m_summary.append(modImportText::NoAccount(number));
+    }
     Refresh();
     Q_EMIT SummaryChanged();
     Q_EMIT EntriesChanged();

@@ -72,7 +72,7 @@ cMatchFlow::cOutcome cMatchFlow::Match(const QList<int>& rowIds, cProgress& prog
         m_proposed.append(match.RowId);
     }
     ForgetProposals();
-    return {Lines(result, *corrected), true, *corrected > 0};
+    return {Lines(result, *corrected), true, *corrected > 0, std::make_shared<const cMatchResult>(result)};
 }
 
 // The number of corrections written, 0 when the user wants none; empty when the database refuses.

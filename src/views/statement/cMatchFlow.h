@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 class cAccountMap;
@@ -33,6 +34,7 @@ public:
         QStringList Lines;
         bool IsDone = false;       // false: nothing was changed
         bool HasCorrected = false; // amounts of series were corrected, so the book itself is another one
+        std::shared_ptr<const cMatchResult> Matches{}; // of Match that was done: what goes together, in full
     };
 
     cMatchFlow(const cBookTools& tools, const cParts& parts);

@@ -17,6 +17,7 @@
 #include "views/statement/cRuleTrial.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modRuleText.h"
+#include "views/template/modBookNames.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -98,18 +99,6 @@ QString cRuleListModel::TypeOf(const cOwnRule& rule)
     return rule.Sign == eRuleSign::Any ? QString() : rule.Sign == eRuleSign::In ? modWord::Einnahme : modWord::Ausgabe;
 }
 
-QStringList cRuleListModel::KnownCategories() const
-{
-    QStringList paths = m_tools.Data.CountEntriesByCategory().keys();
-    const cTemplateItemList items = m_tools.Data.GetTemplates();
-    for (const cTemplateItem& item : items) {
-        if (!modTemplate::IsAccount(item)) {
-            paths.append(modTemplate::Path(item));
-        }
-    }
-    return paths;
-}
-
 bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
 {
     {
@@ -142,7 +131,7 @@ bool cRuleListModel::Save()
         m_tools.User.Show(eTone::Exclamation, problem);
         return false;
     }
-    if (!m_draft.Category.isEmpty() && !KnownCategories().contains(m_draft.Category)) {
+    if (!m_draft.Category.isEmpty() && !modBookNames::UsedCategories(m_tools.Data).contains(m_draft.Category)) {
         const QString path = m_suggestions->OfferNew(m_draft.Category, TypeOf(m_draft));
         if (path.isEmpty()) {
             return false;

@@ -89,7 +89,6 @@ private:
 
     [[nodiscard]] bool IsPlace(int place) const { return place >= 0 && place < m_rules.size(); }
     [[nodiscard]] QString Text(int place, int column) const;
-    [[nodiscard]] QStringList KnownCategories() const;
     bool Store(const QList<cOwnRule>& rules, const QString& step);
     void Edit(const cOwnRule& rule, int place, bool isNew);
 

@@ -165,7 +165,6 @@ void cStatementFiles::NoteRefusal(const cImportResult& result, cRun& run)
 cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
 {
     cImportOptions options;
-    options.MissingPurpose = eMissingPurpose::Name; // a row without any text could not be recognised later
     options.Uncertain = m_assist ? eUncertain::Ask : eUncertain::Read;
     const cImportResult result = m_works->Import.ImportFile(path, options, run.Progress);
     return result.NeedsAccount && !result.NeedsAssistant ? AskForAccount(path, result, run) : result;
@@ -197,7 +196,6 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
         return result;
     }
     cImportOptions options;
-    options.MissingPurpose = eMissingPurpose::Name;
     options.DefaultAccount = number;
     const cImportResult second = m_works->Import.ImportFile(path, options, run.Progress);
     if (!second.IsRefused && !second.IsCancelled) {

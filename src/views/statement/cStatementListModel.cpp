@@ -6,6 +6,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "import/read/modAccountNumber.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/statement/modBalanceText.h"
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <iterator>
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
@@ -59,6 +61,16 @@ cStatementListModel::cStatementListModel(const cBookTools& tools, QObject* paren
 }
 
 cStatementListModel::~cStatementListModel() = default;
+
+QStringList cStatementListModel::NumbersMeant(const QString& text) const
+{
+    QStringList meant;
+    std::copy_if(m_numbers.begin(), m_numbers.end(), std::back_inserter(meant), [&](const QString& number) {
+        return modAccountNumber::IsSame(text, {}, number)
+            || m_ledger.AccountOf(number).compare(text, Qt::CaseInsensitive) == 0;
+    });
+    return meant;
+}
 
 QStringList cStatementListModel::AccountTexts() const
 {

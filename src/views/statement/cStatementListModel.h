@@ -40,6 +40,8 @@ public:
 
     [[nodiscard]] const QStringList& Numbers() const { return m_numbers; }
     [[nodiscard]] QStringList AccountTexts() const; // the same numbers with the names of their accounts
+    // Those that somebody may mean by a text: another form of the number, or the account of the book.
+    [[nodiscard]] QStringList NumbersMeant(const QString& text) const;
     [[nodiscard]] const QString& Number() const { return m_ledger.Number(); }
     void ChooseAccount(const QString& number); // one of Numbers
     void Reload();                             // after rows or entries changed

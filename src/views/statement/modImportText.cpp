@@ -5,10 +5,10 @@
 #include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
-#include "import/match/cMatch.h"
 #include "import/propose/cBooking.h"
-#include "import/propose/cProposal.h"
 #include "import/stage/cImportResult.h"
+#include "model/cMatch.h"
+#include "model/cProposal.h"
 
 #include <QFileInfo>
 
@@ -20,7 +20,9 @@ namespace {
 
 constexpr qsizetype shownProblems = 20; // more lines tell the user nothing new
 
-QString Read(const cImportResult& result, const cAmountFormat& format)
+} // namespace
+
+QString modImportText::Numbers(const cImportResult& result, const cAmountFormat& format)
 {
     QStringList parts{cText::Tr("{0} gelesen", {QString::number(result.Read)}),
                       cText::Tr("{0} neu", {QString::number(result.Staged)})};
@@ -38,8 +40,6 @@ QString Read(const cImportResult& result, const cAmountFormat& format)
     }
     return parts.join(u", "_s);
 }
-
-} // namespace
 
 QString modImportText::Count(int rows)
 {
@@ -60,7 +60,7 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
     if (result.IsCancelled) {
         return {cText::Tr("{0}: abgebrochen, nichts davon übernommen.", {name})};
     }
-    QStringList lines{cText::Tr("{0}: {1}", {name, Read(result, format)})};
+    QStringList lines{cText::Tr("{0}: {1}", {name, Numbers(result, format)})};
     QList<cReadProblem> problems = result.Problems;
     for (const cSkippedRow& row : result.Skipped) {
         problems.append(row.Reason);
@@ -91,7 +91,7 @@ QString modImportText::Details(const cImportEntry& row)
     return lines.join(u'\n');
 }
 
-QStringList modImportText::Booked(const cBookingResult& result)
+QString modImportText::Booked(const cBookingResult& result)
 {
     QStringList parts{cText::Tr("{0} gebucht", {Count(result.Rows)})};
     parts.append(result.Entries == 1 ? cText::Tr("ein neuer Eintrag")
@@ -104,11 +104,7 @@ QStringList modImportText::Booked(const cBookingResult& result)
         parts.append(
             cText::Tr("{0} nicht gebucht, weil die Datenbank nicht schreibt", {QString::number(result.Failed)}));
     }
-    QStringList lines{parts.join(u", "_s) + u'.'};
-    for (const QString& number : result.UnknownAccounts) {
-        lines.append(NoAccount(number));
-    }
-    return lines;
+    return parts.join(u", "_s) + u'.';
 }
 
 QString modImportText::NoAccount(const QString& number)

@@ -23,7 +23,10 @@ namespace modImportText {
 // A line of a file that could not be read, with the reason.
 [[nodiscard]] QString Problem(const cReadProblem& problem);
 
-// What came of a file, and the lines of it that could not be read.
+// "7 gelesen, 5 neu, 2 schon vorhanden": what came of a file
+[[nodiscard]] QString Numbers(const cImportResult& result, const cAmountFormat& format);
+
+// The same with the name of the file, and the lines of it that could not be read.
 [[nodiscard]] QStringList Summary(const cImportResult& result, const cAmountFormat& format);
 
 // A transaction in one line.
@@ -32,7 +35,8 @@ namespace modImportText {
 // All that a transaction says beside day and amount, in lines
 [[nodiscard]] QString Details(const cImportEntry& row);
 
-[[nodiscard]] QStringList Booked(const cBookingResult& result);
+// "3 Umsätze gebucht, 2 neue Einträge.": without the numbers that have no account
+[[nodiscard]] QString Booked(const cBookingResult& result);
 
 // Rows of a number that still has no account
 [[nodiscard]] QString NoAccount(const QString& number);

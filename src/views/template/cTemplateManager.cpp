@@ -198,6 +198,20 @@ QString cTemplateManager::AddCategory(const QString& main, const QString& sub)
     return Add(item, cText::Tr("Kategorie '{0}' angelegt", {path}), path);
 }
 
+QString cTemplateManager::AddCategory(const QString& main, const QString& sub,
+                                      const std::function<bool(const QString& path)>& then)
+{
+    const QString path = modTemplate::Path(modTemplate::NewCategory(m_tools.Data.GetTemplates(), main, sub));
+    cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' angelegt", {path}));
+    const QString added = AddCategory(main, sub);
+    if (added.isEmpty() || then(added)) {
+        return added;
+    }
+    step.Revert();
+    Refresh();
+    return {};
+}
+
 QString cTemplateManager::AddAccount(const QString& name, const QString& group)
 {
     cTemplateItem item;
@@ -280,8 +294,15 @@ QString cTemplateManager::AskAddAccount(const cTemplateNode* near)
     return name.isEmpty() ? QString() : AddAccount(name, group);
 }
 
-bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& newPath)
+QString cTemplateManager::TypedPath(const QString& text)
 {
+    return modTemplate::Join(Cleaned(text.section(u';', 0, 0)), Cleaned(text.section(u';', 1)));
+}
+
+bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& typed)
+{
+    const bool staysInMain = !modTemplate::SubOf(oldPath).isEmpty() && modTemplate::SubOf(typed).isEmpty();
+    const QString newPath = staysInMain ? modTemplate::Join(modTemplate::MainOf(oldPath), typed) : typed;
     cTemplateFlow flow(m_tools);
     const QString sub = modTemplate::SubOf(newPath);
     if (HasMain(oldPath) && sub.isEmpty()) {
@@ -300,6 +321,23 @@ bool cTemplateManager::RenameAccount(const QString& oldName, const QString& newN
         return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {oldName}));
     }
     return Tell(cTemplateFlow(m_tools).RenameAccount(oldName, newName));
+}
+
+bool cTemplateManager::SetLimit(const QString& account, std::optional<qint64> cents)
+{
+    std::optional<cTemplateItem> item = m_tools.Data.FindAccount(account);
+    if (!item) {
+        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {account}));
+    }
+    item->TemplateDefaultValue = cents ? modAmount::CentsToText(*cents) : QString();
+    const QString name = cents ? cText::Tr("Kontolimit von '{0}' ist nun {1}", {account, m_tools.Format.Cents(*cents)})
+                               : cText::Tr("Kontolimit von '{0}' entfernt", {account});
+    bool isDone = false;
+    {
+        cUndoStep step(m_tools.Data, name);
+        isDone = m_tools.Data.ChangeTemplate(*item) || step.Revert();
+    }
+    return Tell(isDone);
 }
 
 bool cTemplateManager::DeleteCategory(const QString& path)

@@ -43,6 +43,8 @@ public:
 
     // Adds a definition with these names. Its path or name; empty when refused.
     QString AddCategory(const QString& main, const QString& sub);
+    // The same together with what `then` makes of it, or neither.
+    QString AddCategory(const QString& main, const QString& sub, const std::function<bool(const QString& path)>& then);
     QString AddAccount(const QString& name, const QString& group);
     // The same after a question for the name. `near` is the selected line or null: the new one comes below the same
     // main category or group. What only entries know is added under its own name, without a question.
@@ -50,9 +52,15 @@ public:
     QString AskAddMain();
     QString AskAddAccount(const cTemplateNode* near);
 
-    // By path or name, as the command line has them. A main category goes with its sub-categories.
-    bool RenameCategory(const QString& oldPath, const QString& newPath);
+    // "Wohnung;Miete" as paths are stored, without the characters that names cannot have.
+    [[nodiscard]] static QString TypedPath(const QString& text);
+
+    // By path or name, as the command line has them. A main category goes with its sub-categories. A sub-category whose
+    // new name has no main category stays in its own.
+    bool RenameCategory(const QString& oldPath, const QString& typed);
     bool RenameAccount(const QString& oldName, const QString& newName);
+    // Below which balance, in signed cents, there is a warning; empty for none.
+    bool SetLimit(const QString& account, std::optional<qint64> cents);
     bool DeleteCategory(const QString& path);
     bool DeleteAccount(const QString& name);
     bool MergeCategory(const QString& sourcePath, const QString& targetPath);

@@ -15,9 +15,10 @@ QString Number(int count)
     return count == 0 ? QString() : QString::number(count);
 }
 
-QString NameOf(const QString& name, const cTemplateItem& item, const QString& hiddenWord)
+QString NameOf(const QString& name, const cTemplateItem& item)
 {
-    return modTemplate::IsVisible(item) ? name : QString(name + u" (" + hiddenWord + u')');
+    const QString state = modTemplateText::State(item);
+    return state.isEmpty() ? name : QString(name + u" (" + state + u')');
 }
 
 cTemplateBranch& BranchOf(std::vector<cTemplateBranch>& branches, eTemplateNode kind, const QString& path)
@@ -64,7 +65,7 @@ cTemplateNode CategoryNode(const cTemplateItem& item, int entries, const modTemp
     node.Path = modTemplate::Path(item);
     node.Entries = node.OwnEntries = entries;
     node.IsQuiet = !modTemplate::IsVisible(item);
-    const QString name = NameOf(SubName(node.Path), item, cText::Tr("ausgeblendet"));
+    const QString name = NameOf(SubName(node.Path), item);
     node.Cells = QStringList{name} + Defaults(item, cents) + QStringList{Number(entries)};
     return node;
 }
@@ -81,8 +82,7 @@ void AddCategory(std::vector<cTemplateBranch>& branches, const cTemplateItem& it
     branch.Node.Id = item.ID;
     branch.Node.Entries = branch.Node.OwnEntries = entries;
     branch.Node.IsQuiet = !modTemplate::IsVisible(item);
-    branch.Node.Cells =
-        QStringList{NameOf(modTemplateText::ShownPath(path), item, cText::Tr("ausgeblendet"))} + Defaults(item, cents);
+    branch.Node.Cells = QStringList{NameOf(modTemplateText::ShownPath(path), item)} + Defaults(item, cents);
 }
 
 // A path that only entries know.
@@ -93,7 +93,7 @@ cTemplateNode UnknownNode(eTemplateNode kind, const QString& path, const QString
     node.Path = path;
     node.Entries = node.OwnEntries = entries;
     node.IsQuiet = true;
-    node.Cells = {name, cText::Tr("nicht angelegt")};
+    node.Cells = {name, modTemplateText::State({})};
     return node;
 }
 
@@ -136,8 +136,7 @@ cTemplateNode AccountNode(const cTemplateItem& item, const modTemplateNodes::cAc
     node.Entries = node.OwnEntries = facts.Entries.value(item.TemplateName);
     node.IsQuiet = !modTemplate::IsVisible(item);
     const auto start = facts.StartBalances.constFind(item.TemplateName);
-    node.Cells = {NameOf(item.TemplateName, item, cText::Tr("geschlossen")),
-                  facts.Numbers.value(item.TemplateName).join(u", "_s),
+    node.Cells = {NameOf(item.TemplateName, item), facts.Numbers.value(item.TemplateName).join(u", "_s),
                   start == facts.StartBalances.constEnd() ? QString() : cents(*start), Number(node.Entries)};
     return node;
 }

@@ -17,6 +17,17 @@ QString modTemplateText::ShownPath(const QString& path)
     return path == QStringLiteral("Keine Angabe") ? cText::Tr("Keine Angabe") : path;
 }
 
+QString modTemplateText::State(const cTemplateItem& item)
+{
+    if (item.ID == 0) {
+        return cText::Tr("nicht angelegt");
+    }
+    if (modTemplate::IsVisible(item)) {
+        return {};
+    }
+    return modTemplate::IsAccount(item) ? cText::Tr("geschlossen") : cText::Tr("ausgeblendet");
+}
+
 bool modTemplateText::IsProtected(const QString& path)
 {
     return path.compare(modWord::Startguthaben, Qt::CaseInsensitive) == 0;

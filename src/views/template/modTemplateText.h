@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/cTemplateItem.h"
+
 #include <QString>
 
 // Words about categories and accounts that several places say.
@@ -10,6 +12,9 @@ namespace modTemplateText {
 
 // A path for display; entries may have an empty one.
 [[nodiscard]] QString ShownPath(const QString& path);
+
+// What is special about a category or an account: that it is hidden, closed, or has no definition; empty for none.
+[[nodiscard]] QString State(const cTemplateItem& item);
 
 // The category that start balances are found by: it can be neither renamed nor removed.
 [[nodiscard]] bool IsProtected(const QString& path);

@@ -1,4 +1,4 @@
-#include "import/match/cMatch.h"
+#include "model/cMatch.h"
 
 #include "base/cText.h"
 

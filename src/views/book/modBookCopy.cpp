@@ -1,0 +1,76 @@
+#include "views/book/modBookCopy.h"
+
+#include "base/cBookLock.h"
+#include "base/cShell.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "core/cBackup.h"
+#include "core/cBook.h"
+#include "core/cSettings.h"
+#include "core/modDemo.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "store/modBookFile.h"
+#include "store/modSchema.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// An empty book at this path; what keeps it from being written.
+QString CopyTemplate(const QString& path, cShell& shell)
+{
+    if (shell.FileExists(path)) {
+        return cText::Tr("Die Datei '{0}' gibt es schon. Bitte nennen Sie eine neue.", {path});
+    }
+    const QString source = shell.InstalledFile(u"template.dat"_s);
+    if (!shell.FileExists(source)) {
+        return cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie "
+                         "Datei 'template.dat' konnte nicht gefunden werden!");
+    }
+    return shell.CopyFile(source, path) ? QString()
+                                        : cText::Tr("Die Datei '{0}' kann nicht geschrieben werden.", {path});
+}
+
+} // namespace
+
+QString modBookCopy::Describe(const QString& path)
+{
+    const modBookFile::cContent content = modBookFile::Look(path);
+    return modBookFile::IsSound(content) ? modBookFile::Describe(content) : QString();
+}
+
+bool modBookCopy::IsSameFile(const QString& one, const QString& other)
+{
+    return cBackup::IsSameFile(one, other);
+}
+
+modBookCopy::cRestored modBookCopy::Restore(const QString& path, const QString& backup, QDate today, cShell& shell,
+                                            cBookLock& lock)
+{
+    if (lock.Take(path) == eLockState::Foreign) {
+        return {{},
+                cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen "
+                          "Sie es noch einmal.",
+                          {path, lock.HolderOf(path)})};
+    }
+    cDatabase closed;
+    const cBackup::cRestored restored = cBackup(closed, shell).Restore(path, backup, today);
+    return {restored.Kept, restored.Problem};
+}
+
+int modBookCopy::WriteDemo(const QString& path, int entries, QDate today, cShell& shell, cUser& user,
+                           const QString& version)
+{
+    if (const QString problem = CopyTemplate(path, shell); !problem.isEmpty()) {
+        user.Show(eTone::Critical, problem);
+        return -1;
+    }
+    cBook book(user);
+    if (!book.Open(path) || !modDemo::Write(book.Data(), modDemo::OfSize(entries, today))) {
+        return -1;
+    }
+    // Nothing in it is older than this version, so nobody needs a copy of it before an upgrade.
+    book.Settings().Set(modSchema::CommandLineVersion, version);
+    return book.Data().CountEntries();
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+// How a statement file is to be read by a program that asks nobody on the way. Empty texts leave the choice to what the
+// file says.
+struct cFileWish
+{
+    QString Account{};     // own account number for files that name none
+    QString BookAccount{}; // account of the book for numbers that it does not know yet
+    QString Charset{};     // of modTableOption::CharsetNames
+    QString Profile{};     // a bank's known layout
+    QString Columns{};     // of a table: "datum=0,betrag=5,zweck=3"
+    bool KeepsDuplicates = false;
+    bool Remembers = false; // columns and layout, for the next table with the same header
+    bool IsTrial = false;   // nothing is written
+};

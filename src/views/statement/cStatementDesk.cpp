@@ -1,0 +1,314 @@
+#include "views/statement/cStatementDesk.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "core/cBookTools.h"
+#include "import/match/cMatcher.h"
+#include "import/propose/cBooking.h"
+#include "import/read/modAccountNumber.h"
+#include "import/read/modStatementFile.h"
+#include "import/sheet/modSpreadsheet.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHiveCache.h"
+#include "import/stage/cStatementImport.h"
+#include "import/stage/modStatementFormat.h"
+#include "import/table/cTable.h"
+#include "import/table/cTableMemory.h"
+#include "import/table/modTable.h"
+#include "views/statement/cFileReport.h"
+#include "views/statement/cFileWish.h"
+#include "views/statement/cMatchFlow.h"
+#include "views/statement/cRuleTrial.h"
+#include "views/statement/modImportText.h"
+#include "views/statement/modRowBooking.h"
+#include "views/statement/modTableOption.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Name(eSkipped kind)
+{
+    switch (kind) {
+    case eSkipped::Pending: return u"pending"_s;
+    case eSkipped::Balance: return u"balance"_s;
+    case eSkipped::Unreadable: return u"unreadable"_s;
+    case eSkipped::OtherCurrency: return u"otherCurrency"_s;
+    }
+    return {};
+}
+
+QString Name(eMapOrigin origin)
+{
+    switch (origin) {
+    case eMapOrigin::Words: return u"words"_s;
+    case eMapOrigin::Contents: return u"contents"_s;
+    case eMapOrigin::Profile: return u"profile"_s;
+    case eMapOrigin::Memory: return u"memory"_s;
+    case eMapOrigin::User: return u"user"_s;
+    }
+    return {};
+}
+
+cFileReport::cLine Line(const cReadProblem& problem)
+{
+    return {problem.Line, problem.Text, modImportText::Problem(problem)};
+}
+
+cFileReport Report(const cImportResult& result, const cAmountFormat& format)
+{
+    cFileReport report;
+    report.File = result.File;
+    report.Format = result.Format;
+    report.Layout = result.Layout;
+    report.Read = result.Read;
+    report.Staged = result.Staged;
+    report.Zero = result.Zero;
+    report.Failed = result.Failed;
+    report.Duplicates = result.Duplicates;
+    report.Rows = result.Rows;
+    report.ClosingBalance = result.ClosingBalance;
+    for (const cReadProblem& problem : result.Problems) {
+        report.Problems.append(Line(problem));
+    }
+    for (const cSkippedRow& row : result.Skipped) {
+        report.Skipped.append({Line(row.Reason), Name(row.Kind), row.Entry});
+    }
+    report.IsRefused = result.IsRefused;
+    report.Message = result.Message;
+    report.Numbers = modImportText::Numbers(result, format);
+    report.IsDone = !result.IsRefused && result.Failed == 0;
+    return report;
+}
+
+// The number that was given for files that name no account is remembered for the next one of the same layout.
+void RememberAccount(const cImportResult& result, const QString& number, cTableMemory& memory)
+{
+    const bool isUsed = std::any_of(result.Accounts.begin(), result.Accounts.end(), [&](const QString& account) {
+        return modAccountNumber::IsSame(account, {}, number);
+    });
+    if (isUsed && !number.isEmpty() && !result.AccountKey.isEmpty()) {
+        memory.SaveAccount(result.AccountKey, number);
+    }
+}
+
+// The layout of a file in rows and columns; none for another one.
+std::optional<modTable::cOpened> OpenTable(const cStatementSource& source, const cReadOptions& options)
+{
+    switch (modStatementFormat::Detect(source)) {
+    case eStatementFormat::Csv: return modTable::Open(source, options);
+    case eStatementFormat::Spreadsheet: return modSpreadsheet::Open(source, options);
+    default: return std::nullopt;
+    }
+}
+
+void TakeTable(const modTable::cOpened& opened, cFileFinding& finding)
+{
+    const cTableLayout& layout = opened.Layout;
+    finding.IsTable = true;
+    finding.Profile = layout.Profile;
+    finding.HeaderLine =
+        layout.HeaderRow >= 0 && layout.HeaderRow < opened.Table->RowCount() ? opened.Table->Line(layout.HeaderRow) : 0;
+    finding.Separator = layout.Separator;
+    finding.Origin = Name(layout.Origin);
+    finding.Columns = modTableOption::Columns(layout.Map);
+}
+
+void TakeRows(const cStatementRead& read, cFileFinding& finding)
+{
+    finding.Profile = finding.Profile.isEmpty() ? read.Layout : finding.Profile;
+    finding.Accounts = cImportHive::AccountsOf(read.Entries);
+    finding.Accounts.removeAll(QString());
+    finding.NeedsAccount = read.NeedsAccount;
+    const auto isEarlier = [](const cImportEntry& a, const cImportEntry& b) { return a.ImportDate < b.ImportDate; };
+    const auto [first, last] = std::minmax_element(read.Entries.begin(), read.Entries.end(), isEarlier);
+    finding.FirstDay = read.Entries.isEmpty() ? QDate() : first->ImportDate;
+    finding.LastDay = read.Entries.isEmpty() ? QDate() : last->ImportDate;
+    finding.Rows = read.Entries.size();
+    finding.Skipped = read.Skipped.size();
+    finding.ClosingBalance = read.ClosingBalance;
+    finding.Refusal = read.Refusal;
+}
+
+QString CharsetName(const cStatementSource& source, eCharset chosen)
+{
+    if (source.Text.isEmpty()) {
+        return {};
+    }
+    return modTableOption::CharsetName(chosen == eCharset::Detect ? modStatementText::CharsetOf(source.Bytes) : chosen);
+}
+
+} // namespace
+
+struct cStatementDesk::cWorks
+{
+    explicit cWorks(const cBookTools& tools)
+        : Hive(tools.Data),
+          Accounts(tools.Data, tools.Settings),
+          Booking(tools.Data, Hive, Accounts),
+          Matching(tools, {Hive, Accounts, Booking}),
+          Memory(tools.Settings),
+          Balances(tools.Settings),
+          Import(tools.Data, Hive, &Memory, &Balances)
+    {
+    }
+
+    cImportHiveCache Hive;
+    cAccountMap Accounts;
+    cBooking Booking;
+    cMatchFlow Matching;
+    cTableMemory Memory;
+    cBankBalances Balances;
+    cStatementImport Import;
+};
+
+cStatementDesk::cStatementDesk(const cBookTools& tools) : m_tools(tools), m_works(std::make_unique<cWorks>(tools))
+{
+}
+
+cStatementDesk::~cStatementDesk() = default;
+
+cImportEntryList cStatementDesk::Rows()
+{
+    return m_works->Hive.GetImportHive().getImportEntryList();
+}
+
+std::optional<cImportEntry> cStatementDesk::Row(int id)
+{
+    return m_works->Hive.GetImportHive().GetImportEntryByID(id);
+}
+
+QList<int> cStatementDesk::OpenIds()
+{
+    return m_works->Hive.GetImportHive().OpenIds();
+}
+
+QHash<int, cProposal> cStatementDesk::Propose(const QList<int>& rowIds)
+{
+    return m_works->Booking.Propose(rowIds);
+}
+
+cStatementDesk::cBooked cStatementDesk::Book(const QList<int>& rowIds)
+{
+    cNoProgress progress;
+    const auto propose = [&] { return Propose(rowIds); };
+    const cBookingResult result = modRowBooking::Book(m_tools.Data, m_works->Booking, rowIds, propose, progress);
+    return {modImportText::Booked(result), result.UnknownAccounts,
+            result.Failed == 0 && result.UnknownAccounts.isEmpty()};
+}
+
+cMatchFlow& cStatementDesk::Matching()
+{
+    return m_works->Matching;
+}
+
+cMatchResult cStatementDesk::TryMatching(const QList<int>& rowIds)
+{
+    cNoProgress progress;
+    return cMatcher(m_tools.Data, m_works->Hive, m_works->Accounts).MatchAll(rowIds, progress, eMatchRun::Try);
+}
+
+QList<cMatchCandidate> cStatementDesk::Candidates(int rowId)
+{
+    return cMatcher(m_tools.Data, m_works->Hive, m_works->Accounts).Candidates(rowId);
+}
+
+std::optional<cMatchCandidate> cStatementDesk::ByHand(int rowId, int entryId)
+{
+    return cMatcher(m_tools.Data, m_works->Hive, m_works->Accounts).ByHand(rowId, entryId);
+}
+
+QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<cOwnRule>& rules)
+{
+    cRuleTrial trial(rows, m_works->Accounts);
+    trial.SetRules(rules);
+    QList<int> places;
+    std::transform(rows.begin(), rows.end(), std::back_inserter(places),
+                   [&](const cImportEntry& row) { return trial.PlaceFor(row); });
+    return places;
+}
+
+bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes)
+{
+    const QStringList unknown = m_works->Accounts.Unknown(numbers);
+    for (const QString& number : unknown) {
+        const QString proposal = m_works->Accounts.Proposal(number);
+        const QString account = !wanted.isEmpty() ? wanted : proposal.isEmpty() ? number : proposal;
+        if (!m_works->Accounts.Assign(number, account)) {
+            notes.append(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
+            return false;
+        }
+        notes.append(cText::Tr("Die Kontonummer '{0}' gehört nun zum Konto '{1}'.", {number, account}));
+    }
+    return true;
+}
+
+bool cStatementDesk::RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes)
+{
+    cReadOptions options;
+    options.Account = wish.Account;
+    options.Table = modTableOption::Choice(wish);
+    options.Memory = &m_works->Memory;
+    const cStatementSource source =
+        modStatementFormat::Source(path, modStatementFile::Read(path).Bytes, options.Table.Charset);
+    const std::optional<modTable::cOpened> opened = OpenTable(source, options);
+    if (opened && opened->Layout.IsReadable()
+        && modTable::Remember(source, options.Table, opened->Layout, m_works->Memory)) {
+        return true;
+    }
+    notes.append(cText::Tr("{0}: Der Aufbau kann nicht gemerkt werden. Das geht nur bei Tabellen mit einer Zeile für "
+                           "die Spaltennamen.",
+                           {path}));
+    return false;
+}
+
+cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wish)
+{
+    cImportOptions options;
+    options.Duplicates = wish.KeepsDuplicates ? eDuplicateTest::Skip : eDuplicateTest::Test;
+    options.DefaultAccount = wish.Account;
+    options.Table = modTableOption::Choice(wish);
+    options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
+    cNoProgress progress;
+    const cImportResult result = m_works->Import.ImportFile(path, options, progress);
+    cFileReport report = Report(result, m_tools.Format);
+    if (wish.IsTrial) {
+        return report;
+    }
+    RememberAccount(result, wish.Account, m_works->Memory);
+    report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
+    if (wish.Remembers && !result.IsRefused) {
+        report.IsDone = RememberLayout(path, wish, report.Notes) && report.IsDone;
+    }
+    return report;
+}
+
+cFileFinding cStatementDesk::Examine(const QString& path, const cFileWish& wish)
+{
+    cFileFinding finding;
+    const modStatementFile::cContent content = modStatementFile::Read(path);
+    if (!content.Failure.isEmpty()) {
+        finding.Refusal = content.Failure;
+        return finding;
+    }
+    cReadOptions options;
+    options.Account = wish.Account;
+    options.Table = modTableOption::Choice(wish);
+    options.Memory = &m_works->Memory;
+    const cStatementSource source = modStatementFormat::Source(path, content.Bytes, options.Table.Charset);
+    const eStatementFormat format = modStatementFormat::Detect(source);
+    finding.Format = modStatementFormat::Name(format);
+    finding.Charset = CharsetName(source, options.Table.Charset);
+    if (const std::optional<modTable::cOpened> opened = OpenTable(source, options)) {
+        TakeTable(*opened, finding);
+    }
+    if (const modStatementFormat::cReader reader = modStatementFormat::Reader(format)) {
+        TakeRows(reader(source, options), finding);
+    } else {
+        finding.Refusal = modStatementFormat::Refusal(format);
+    }
+    return finding;
+}

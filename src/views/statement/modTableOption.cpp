@@ -1,0 +1,188 @@
+#include "views/statement/modTableOption.h"
+
+#include "base/cText.h"
+#include "import/read/cTableChoice.h"
+#include "import/table/modTableProfile.h"
+#include "views/statement/cFileWish.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cCharsetName
+{
+    eCharset Charset;
+    const char16_t* Name;
+};
+
+constexpr std::array charsets = {
+    cCharsetName{eCharset::Utf8, u"utf-8"},       cCharsetName{eCharset::Windows1252, u"windows-1252"},
+    cCharsetName{eCharset::Cp850, u"cp850"},      cCharsetName{eCharset::Utf16LE, u"utf-16"},
+    cCharsetName{eCharset::Utf16BE, u"utf-16be"},
+};
+
+struct cColumnName
+{
+    const char16_t* Name;
+    int cColumnMap::*Place;
+};
+
+constexpr std::array columns = {
+    cColumnName{u"datum", &cColumnMap::Date},
+    cColumnName{u"art", &cColumnMap::Text},
+    cColumnName{u"name", &cColumnMap::Name},
+    cColumnName{u"konto", &cColumnMap::Account},
+    cColumnName{u"blz", &cColumnMap::BankCode},
+    cColumnName{u"betrag", &cColumnMap::Amount},
+    cColumnName{u"soll", &cColumnMap::Debit},
+    cColumnName{u"haben", &cColumnMap::Credit},
+    cColumnName{u"waehrung", &cColumnMap::Currency},
+    cColumnName{u"kennzeichen", &cColumnMap::Indicator},
+    cColumnName{u"zahler", &cColumnMap::Payer},
+    cColumnName{u"name2", &cColumnMap::Name2},
+    cColumnName{u"konto2", &cColumnMap::Account2},
+    cColumnName{u"blz2", &cColumnMap::BankCode2},
+    cColumnName{u"eigenkonto", &cColumnMap::OwnAccount},
+    cColumnName{u"eigenblz", &cColumnMap::OwnBankCode},
+    cColumnName{u"status", &cColumnMap::Status},
+    cColumnName{u"saldo", &cColumnMap::Balance},
+};
+
+constexpr std::array purposes = {u"zweck", u"zweck2", u"zweck3"};
+
+// Where the map keeps the column; null when there is none of that name.
+int* PlaceOf(cColumnMap& map, const QString& name)
+{
+    const QString spelled = name.toLower().replace(u'ä', u"ae"_s);
+    for (std::size_t i = 0; i < purposes.size(); ++i) {
+        if (spelled == QStringView(purposes.at(i))) {
+            return &map.Purpose.at(i);
+        }
+    }
+    const auto* const found = std::find_if(
+        columns.begin(), columns.end(), [&](const cColumnName& column) { return spelled == QStringView(column.Name); });
+    return found == columns.end() ? nullptr : &(map.*(found->Place));
+}
+
+// "betrag=5". False when it is not of that form.
+bool Take(const QString& part, cColumnMap& map)
+{
+    int* const place = PlaceOf(map, part.section(u'=', 0, 0).trimmed());
+    bool isNumber = false;
+    const int column = part.section(u'=', 1).trimmed().toInt(&isNumber);
+    if (place == nullptr || !isNumber || column < 0) {
+        return false;
+    }
+    *place = column;
+    return true;
+}
+
+QString CharsetFault(const QString& text)
+{
+    const QStringList names = modTableOption::CharsetNames();
+    return text.isEmpty() || names.contains(text, Qt::CaseInsensitive)
+        ? QString()
+        : cText::Tr("Den Zeichensatz '{0}' gibt es nicht. Möglich sind: {1}.", {text, names.join(u", "_s)});
+}
+
+QString ProfileFault(const QString& text)
+{
+    QStringList names = modTableProfile::Names();
+    names.removeDuplicates();
+    return text.isEmpty() || text == noProfile || names.contains(text)
+        ? QString()
+        : cText::Tr("Das Profil '{0}' gibt es nicht. Möglich sind: {1}.",
+                    {text, u'"' + names.join(u"\", \""_s) + u'"'});
+}
+
+QString ColumnsFault(const QString& text)
+{
+    cColumnMap map;
+    const QStringList parts = text.isEmpty() ? QStringList() : text.split(u',');
+    for (const QString& part : parts) {
+        if (!Take(part, map)) {
+            return cText::Tr("'{0}' ist keine Spalte. Möglich sind: {1}, jeweils mit der Nummer der Spalte, ab 0 "
+                             "gezählt: \"datum=0,betrag=5,zweck=3\".",
+                             {part, modTableOption::ColumnNames().join(u", "_s)});
+        }
+    }
+    const bool isEnough = map.Date >= 0 && (map.Amount >= 0 || map.Debit >= 0 || map.Credit >= 0);
+    return text.isEmpty() || isEnough
+        ? QString()
+        : cText::Tr("--map braucht wenigstens \"datum\" und \"betrag\" (oder \"soll\", \"haben\").");
+}
+
+} // namespace
+
+QStringList modTableOption::CharsetNames()
+{
+    QStringList names;
+    for (const cCharsetName& known : charsets) {
+        names.append(QString::fromUtf16(known.Name));
+    }
+    return names;
+}
+
+QStringList modTableOption::ColumnNames()
+{
+    QStringList names;
+    for (const cColumnName& column : columns) {
+        names.append(QString::fromUtf16(column.Name));
+    }
+    for (const char16_t* purpose : purposes) {
+        names.append(QString::fromUtf16(purpose));
+    }
+    return names;
+}
+
+QString modTableOption::Fault(const cFileWish& wish)
+{
+    for (const QString& fault : {CharsetFault(wish.Charset), ProfileFault(wish.Profile), ColumnsFault(wish.Columns)}) {
+        if (!fault.isEmpty()) {
+            return fault;
+        }
+    }
+    return {};
+}
+
+cTableChoice modTableOption::Choice(const cFileWish& wish)
+{
+    cTableChoice choice;
+    const auto* const charset = std::find_if(charsets.begin(), charsets.end(), [&](const cCharsetName& known) {
+        return wish.Charset.compare(QStringView(known.Name), Qt::CaseInsensitive) == 0;
+    });
+    choice.Charset = charset == charsets.end() ? eCharset::Detect : charset->Charset;
+    choice.Profile = wish.Profile;
+    if (!wish.Columns.isEmpty()) {
+        cColumnMap map;
+        const QStringList parts = wish.Columns.split(u',');
+        for (const QString& part : parts) {
+            Take(part, map);
+        }
+        choice.Map = map;
+    }
+    return choice;
+}
+
+QString modTableOption::CharsetName(eCharset charset)
+{
+    const auto* const found = std::find_if(charsets.begin(), charsets.end(),
+                                           [&](const cCharsetName& known) { return known.Charset == charset; });
+    return found == charsets.end() ? QString() : QString::fromUtf16(found->Name);
+}
+
+QList<std::pair<QString, int>> modTableOption::Columns(const cColumnMap& map)
+{
+    cColumnMap copy = map;
+    QList<std::pair<QString, int>> list;
+    const QStringList names = ColumnNames();
+    for (const QString& name : names) {
+        if (const int column = *PlaceOf(copy, name); column >= 0) {
+            list.append({name, column});
+        }
+    }
+    return list;
+}
