@@ -43,7 +43,7 @@ QString ToJson(const cSkippedRow& row)
         .Text(u"kind"_s, KindName(row.Kind))
         .Text(u"text"_s, row.Reason.Text)
         .Date(u"date"_s, row.Entry.ImportDate)
-        .Amount(u"amount"_s, modAmount::ToCents(row.Entry.ImportValue))
+        .Amount(u"amount"_s, row.Entry.ImportValue)
         .Text(u"beneficiary"_s, row.Entry.ImportBeneficiary)
         .Text(u"purpose"_s, row.Entry.ImportPurpose);
     return json.ToString();
@@ -104,7 +104,7 @@ QString Summary(const cImportResult& result, const cCliBook& book)
 
 QString RowText(const cImportEntry& row, const cCliBook& book)
 {
-    return modDate::ToGerman(row.ImportDate) + u"  "_s + book.AmountText(modAmount::ToCents(row.ImportValue)) + u"  "_s
+    return modDate::ToGerman(row.ImportDate) + u"  "_s + book.AmountText(row.ImportValue) + u"  "_s
         + (row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary);
 }
 

@@ -1,6 +1,5 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
@@ -208,8 +207,8 @@ int Test(const cCliContext& context)
         objects.append(modCliRecord::Row(row)
                            .Raw(u"Rule"_s, place < 0 ? u"null"_s : ToJson(rules.at(place), place).ToString())
                            .ToString());
-        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(modAmount::ToCents(row.ImportValue)),
-                   row.ImportBeneficiary, row.ImportPurpose, place < 0 ? QString() : QString::number(place + 1),
+        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue), row.ImportBeneficiary,
+                   row.ImportPurpose, place < 0 ? QString() : QString::number(place + 1),
                    place < 0 ? QString() : modRuleText::Result(rules.at(place))});
     }
     modConsole::Out(context.Call.Has(u"json"_s) ? modJson::Array(objects) + u'\n' : table.ToString());

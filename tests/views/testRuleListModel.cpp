@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "import/propose/cOwnRules.h"
 #include "support/testBook.h"
@@ -29,7 +30,7 @@ struct cScene : cTestBook
         row.ImportDate = QDate(2026, 3, 3).addDays(++m_count);
         row.ImportBeneficiary = name;
         row.ImportPurpose = purpose;
-        row.ImportValue = value;
+        row.ImportValue = modAmount::ToCents(value);
         if (!Data.AddNewImportEntry(row)) {
             qFatal("row not added");
         }

@@ -85,7 +85,7 @@ struct cScene
         row.ImportAccount = u"1234567"_s;
         row.ImportDate = QDate(2026, 3, 12);
         row.ImportPurpose = u"Einkauf"_s;
-        row.ImportValue = -12.5;
+        row.ImportValue = -1250;
         Book.Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
         Prepare(Book.Data.AddNewImportEntry(row));
         Row = row.ID;

@@ -2,7 +2,6 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modCount.h"
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
@@ -236,7 +235,7 @@ cStatementRead cStatementImport::Read(const cStatementSource& source, eStatement
     return read;
 }
 
-double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
+qint64 cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
                                      const QString& defaultAccount)
 {
     progress.showProgressBar(modMT940::ProgressMaximum(text));
@@ -244,7 +243,7 @@ double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& 
     progress.addProgressValue(static_cast<int>(text.count(u":86:")));
     cImportResult result;
     Stage(std::move(read), options, progress, result);
-    return modAmount::ToEuros(result.ClosingBalance.value_or(0));
+    return result.ClosingBalance.value_or(0);
 }
 
 cStaging& cStatementImport::StagingFor(eStagingRun run)

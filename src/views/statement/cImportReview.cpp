@@ -3,7 +3,6 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "core/cSettings.h"
 #include "import/propose/cBooking.h"
@@ -272,7 +271,7 @@ QString cImportReview::SelectionText(const QList<int>& rowIds)
     if (rows.size() > 1) {
         qint64 sum = 0;
         for (const cImportEntry& row : rows) {
-            sum += modAmount::ToCents(row.ImportValue);
+            sum += row.ImportValue;
         }
         return cText::Tr("{0} markiert, davon {1} offen, Summe {2}",
                          {modImportText::Count(static_cast<int>(rows.size())), QString::number(OpenRows(rowIds).size()),
@@ -309,7 +308,7 @@ QString cImportReview::ChoiceTitle(const QList<int>& rowIds)
 QString cImportReview::TypeOf(const QList<int>& rowIds)
 {
     const cImportEntryList rows = OpenRows(rowIds);
-    const auto isIn = [](const cImportEntry& row) { return row.ImportValue > 0.0; };
+    const auto isIn = [](const cImportEntry& row) { return row.ImportValue > 0; };
     if (rows.isEmpty() || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
             return isIn(row) != isIn(rows.constFirst());
         })) {
