@@ -18,7 +18,7 @@
 #include "views/main/modCommand.h"
 #include "views/main/modViewText.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -295,8 +295,8 @@ void cNavigation::OpenNationalSettings()
 
 void cNavigation::OpenRules()
 {
-    cRuleListModel rules({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User});
-    QObject::connect(&rules, &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
+    cRuleEditor rules({m_parts.Book.Data(), m_parts.Book.Settings(), m_parts.Format, m_parts.User});
+    QObject::connect(&rules.List(), &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
     frmRegeln form(rules, Parent());
     form.exec();
 }

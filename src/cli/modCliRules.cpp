@@ -12,7 +12,7 @@
 #include "import/stage/cStatementImport.h"
 #include "import/table/cTableMemory.h"
 #include "model/modWord.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/modRuleText.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -110,20 +110,20 @@ void TakeOptions(const cCliCall& call, cCliReader& reader, cOwnRule& rule)
 int Add(const cCliContext& context)
 {
     cCliReader reader(context);
-    cRuleListModel list(Parts(context));
-    list.StartNew();
+    cRuleEditor editor(Parts(context));
+    editor.StartNew();
     if (context.Call.Has(u"from"_s)) {
         if (const std::optional<cImportEntry> row = reader.StagedRow(context.Call.Value(u"from"_s))) {
-            list.StartFrom(*row);
+            editor.StartFrom(*row);
         }
     }
-    cOwnRule rule = list.Draft();
+    cOwnRule rule = editor.Draft();
     TakeOptions(context.Call, reader, rule);
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    list.SetDraft(rule);
-    return modCliFlow::Finish(context, list.Save());
+    editor.SetDraft(rule);
+    return modCliFlow::Finish(context, editor.Save());
 }
 
 int Delete(const cCliContext& context)

@@ -16,7 +16,7 @@
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -120,7 +120,7 @@ struct cScene
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
-    cRuleListModel Rules{{Book.Data, *Book.Settings, Format, Book.User}};
+    cRuleEditor Rules{{Book.Data, *Book.Settings, Format, Book.User}};
     cBookCheck Check{Book.Data, Format};
     cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
 };

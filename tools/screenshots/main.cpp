@@ -29,7 +29,7 @@
 #include "views/main/cMainModel.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
@@ -345,7 +345,7 @@ bool TakeRules(cCamera& camera)
     }
     const cRuleListModel::cParts parts{scene.Book.Data(), scene.Book.Settings(), scene.Format, scene.User};
     const auto take = [&](const QString& name, const cImportEntry* row) {
-        cRuleListModel rules(parts);
+        cRuleEditor rules(parts);
         if (row != nullptr) {
             rules.StartFrom(*row, u"Haushalt; Lebensmittel"_s);
         }

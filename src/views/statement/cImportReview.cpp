@@ -14,7 +14,7 @@
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cRowProposals.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
@@ -396,7 +396,7 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
     }
 }
 
-std::unique_ptr<cRuleListModel> cImportReview::StartRule(const QList<int>& rowIds)
+std::unique_ptr<cRuleEditor> cImportReview::StartRule(const QList<int>& rowIds)
 {
     const cImportEntryList rows = rowIds.size() == 1 ? RowsOf(rowIds) : cImportEntryList();
     if (rows.isEmpty()) {
@@ -404,10 +404,10 @@ std::unique_ptr<cRuleListModel> cImportReview::StartRule(const QList<int>& rowId
     }
     const cImportEntry& row = rows.constFirst();
     const cStagedInfo info = Info(row);
-    auto rules = std::make_unique<cRuleListModel>(
+    auto rules = std::make_unique<cRuleEditor>(
         cRuleListModel::cParts{m_parts.Data, m_parts.Settings, m_parts.Format, m_parts.User});
     rules->StartFrom(row, info.Category, info.Interval);
-    connect(rules.get(), &cRuleListModel::RulesChanged, this, &cImportReview::Refresh);
+    connect(&rules->List(), &cRuleListModel::RulesChanged, this, &cImportReview::Refresh);
     return rules;
 }
 

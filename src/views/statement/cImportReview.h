@@ -16,7 +16,7 @@ class cAssignListModel;
 class cDataAccess;
 class cEntrySuggestions;
 class cProgress;
-class cRuleListModel;
+class cRuleEditor;
 class cSettings;
 class cStatementFiles;
 class cUser;
@@ -104,7 +104,7 @@ public:
     // Sets booked rows back to open; the entries stay.
     void Release(const QList<int>& rowIds);
     // The user's own rules with a new one proposed from the row; the review follows what is stored, and outlives it.
-    [[nodiscard]] std::unique_ptr<cRuleListModel> StartRule(const QList<int>& rowIds);
+    [[nodiscard]] std::unique_ptr<cRuleEditor> StartRule(const QList<int>& rowIds);
 
     // Removes the rows after a question; entries made from them stay.
     void Delete(const QList<int>& rowIds);
