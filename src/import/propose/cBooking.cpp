@@ -2,7 +2,7 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
+#include "base/modLog.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/cSeriesFinder.h"
 #include "import/stage/cAccountMap.h"
@@ -10,6 +10,8 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+
+#include <QElapsedTimer>
 
 #include <cstdlib>
 
@@ -36,6 +38,13 @@ bool IsJoiningTransfer(const cProposal& proposal)
     return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
 }
 
+void Trace(qsizetype wanted, const cBookingResult& result, const QElapsedTimer& time)
+{
+    qCInfo(modLog::Booking) << "rows" << wanted << "booked" << result.Rows << "joined" << result.Joined << "entries"
+                            << result.Entries << "skipped" << result.Skipped << "failed" << result.Failed
+                            << "unknown accounts" << result.UnknownAccounts.size() << "ms" << time.elapsed();
+}
+
 } // namespace
 
 cBooking::cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
@@ -59,6 +68,8 @@ QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
 
 cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals, cProgress& progress)
 {
+    QElapsedTimer time;
+    time.start();
     cBookingResult result;
     cSeriesFinder series(m_data, m_hive);
     progress.showProgressBar(static_cast<int>(rowIds.size()));
@@ -80,6 +91,7 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
         }
     }
     progress.addProgressValue(static_cast<int>(rowIds.size()) % progressStep);
+    Trace(rowIds.size(), result, time);
     return result;
 }
 

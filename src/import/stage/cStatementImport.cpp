@@ -3,6 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modCount.h"
+#include "base/modLog.h"
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
@@ -14,6 +15,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 
 #include <algorithm>
@@ -132,6 +134,21 @@ void ReportFailures(cImportResult& result)
     }
 }
 
+const char* OutcomeOf(const cImportResult& result)
+{
+    return result.IsRefused ? "refused" : result.IsCancelled ? "cancelled" : "read";
+}
+
+// The message of a refusal may name the file, so it stays out.
+void Trace(const cImportResult& result, qsizetype bytes, const QElapsedTimer& time)
+{
+    qCInfo(modLog::Import).noquote() << OutcomeOf(result) << "format" << result.Format << "bytes" << bytes
+                                     << "transactions" << result.Read << "staged" << result.Staged << "duplicates"
+                                     << result.Duplicates.size() << "zero" << result.Zero << "failed" << result.Failed
+                                     << "skipped" << result.Skipped.size() << "problems" << result.Problems.size()
+                                     << "accounts" << result.Accounts.size() << "ms" << time.elapsed();
+}
+
 } // namespace
 
 cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory,
@@ -150,6 +167,7 @@ cImportResult cStatementImport::ImportFile(const QString& path, const cImportOpt
     if (!content.Failure.isEmpty()) {
         cImportResult result;
         result.File = path;
+        qCInfo(modLog::Import) << "the file cannot be read";
         return Refuse(std::move(result), content.Failure);
     }
     return ImportSource(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
@@ -162,6 +180,16 @@ cImportResult cStatementImport::ImportText(const QString& path, const QString& t
 }
 
 cImportResult cStatementImport::ImportSource(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress)
+{
+    QElapsedTimer time;
+    time.start();
+    cImportResult result = ReadAndStage(source, options, progress);
+    Trace(result, source.Bytes.size(), time);
+    return result;
+}
+
+cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, const cImportOptions& options,
                                              cProgress& progress)
 {
     cImportResult result;

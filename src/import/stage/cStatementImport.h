@@ -58,6 +58,8 @@ public:
                        const QString& defaultAccount);
 
 private:
+    [[nodiscard]] cImportResult ReadAndStage(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress);
     [[nodiscard]] cStatementRead Read(const cStatementSource& source, eStatementFormat format,
                                       const cImportOptions& options, cProgress& progress);
     [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;
