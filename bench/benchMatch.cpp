@@ -1,5 +1,4 @@
 #include "base/cProgress.h"
-#include "base/modAmount.h"
 #include "base/modSimilar.h"
 #include "bench/cBenchBook.h"
 #include "core/cSettings.h"
@@ -88,7 +87,7 @@ QList<int> StageRows(cDataAccess& data, cImportHiveCache& hive, const QString& a
         row.ImportAccount = u"4711"_s;
         row.ImportDate = entry.EntryDate.addDays(i % 4);
         const qint64 cents = modBalance::Effect(entry, account);
-        row.ImportValue = modAmount::ToEuros(i % 4 == 3 ? cents * 4 / 3 : cents);
+        row.ImportValue = i % 4 == 3 ? cents * 4 / 3 : cents;
         row.ImportBeneficiary = entry.EntryDescription.left(20) + u" GmbH Talheim"_s;
         row.ImportPurpose = u"SVWZ+Kartenzahlung Terminal %1 sagt Danke %2"_s.arg(i % 97).arg(i);
         if (cStaging(hive).StageImportEntry(row, eDuplicateTest::Skip) != eStaged::Staged) {

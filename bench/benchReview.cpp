@@ -37,7 +37,7 @@ cImportEntry Row(int i)
     row.ImportBeneficiary = u"%1 %2"_s.arg(names.at(i % names.size())).arg(i % 500);
     row.ImportBeneficiaryAccount = u"DE129990001048200%1"_s.arg(i % 500, 5, 10, QChar(u'0'));
     row.ImportBeneficiaryBLZ = u"DEMODE77XXX"_s;
-    row.ImportValue = -1.0 - i % 9000 / 100.0;
+    row.ImportValue = -100 - i % 9000;
     row.ImportCurrency = u"EUR"_s;
     return row;
 }

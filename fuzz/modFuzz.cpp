@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,19 +37,14 @@ qsizetype LastLine(const cTarget& target, const cStatementSource& source)
     return 1 + std::max<qsizetype>(inBytes, inText) + source.Text.count(u"@@");
 }
 
-QString FaultOfEntry(cImportEntry entry)
+QString FaultOfEntry(const cImportEntry& entry)
 {
     if (!entry.ImportDate.isValid()) {
         return u"a record without a day"_s;
     }
     const QString texts = entry.ImportAccount + entry.ImportType + entry.ImportPurpose + entry.ImportBeneficiary
         + entry.ImportBeneficiaryAccount + entry.ImportBeneficiaryBLZ + entry.ImportCurrency;
-    if (texts.contains(QChar::Null)) {
-        return u"a text that the database would cut off"_s;
-    }
-    return std::isfinite(entry.ImportValue) && entry.Validate() && std::isfinite(entry.ImportValue)
-        ? QString()
-        : u"an amount that is no number"_s;
+    return texts.contains(QChar::Null) ? u"a text that the database would cut off"_s : QString();
 }
 
 QString FaultOfProblem(const cReadProblem& problem, qsizetype lastLine)
@@ -76,7 +70,6 @@ QStringList FaultsOf(const cStatementRead& read, qsizetype lastLine)
     }
     for (const cSkippedRow& row : read.Skipped) {
         faults.append(FaultOfProblem(row.Reason, lastLine));
-        faults.append(std::isfinite(row.Entry.ImportValue) ? QString() : u"a skipped amount that is no number"_s);
     }
     if (!read.Refusal.isEmpty()) {
         faults.append(FaultOfProblem({0, read.Refusal}, lastLine));

@@ -19,7 +19,7 @@
 #include "views/main/modCommand.h"
 #include "views/main/modViewText.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -294,8 +294,8 @@ void cNavigation::OpenNationalSettings()
 
 void cNavigation::OpenRules()
 {
-    cRuleListModel rules(m_parts.Tools);
-    QObject::connect(&rules, &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
+    cRuleEditor rules(m_parts.Tools);
+    QObject::connect(&rules.List(), &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
     frmRegeln form(rules, Parent());
     form.exec();
 }

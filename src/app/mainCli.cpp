@@ -12,13 +12,18 @@
 #include <cstdio>
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-// Only what stops the program: that the toolkit misses a folder or a theme is no news to who wants a file.
-void TellWhenFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+// Only what stops the program, and the trace where it was asked for: that the toolkit misses a folder or a theme is no
+// news to who wants a file.
+void TellWhenFatal(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtFatalMsg) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    } else if (QLatin1StringView(context.category).startsWith("kontorelle."_L1)) {
+        std::fprintf(stderr, "%s: %s\n", context.category, qUtf8Printable(text));
     }
 }
 

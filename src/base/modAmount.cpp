@@ -5,6 +5,7 @@
 
 namespace {
 
+constexpr double mostCents = 9.0e15; // beyond it a double has no exact cents any more
 constexpr QStringView passedOver = u" \u00A0\u00A4\t()'\"";
 
 bool IsSign(QChar c)
@@ -106,14 +107,18 @@ double modAmount::ReadGerman(QStringView text)
 
 qint64 modAmount::ToCents(double euros)
 {
-    constexpr double limit = 9.0e15; // beyond it a double has no exact cents any more
     if (std::isnan(euros)) {
         return 0;
     }
     // A text such as "1.005" is a little less than it says as a double; the nudge rounds it as it was written.
     const double cents = euros * 100.0;
     const double nudged = cents + std::copysign(std::abs(cents) * 4.0 * std::numeric_limits<double>::epsilon(), cents);
-    return std::llround(std::fmin(std::fmax(nudged, -limit), limit));
+    return std::llround(std::fmin(std::fmax(nudged, -mostCents), mostCents));
+}
+
+qint64 modAmount::ToEvenCents(double euros)
+{
+    return std::isnan(euros) ? 0 : std::llrint(std::fmin(std::fmax(euros * 100.0, -mostCents), mostCents));
 }
 
 double modAmount::ToEuros(qint64 cents)

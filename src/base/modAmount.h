@@ -18,6 +18,9 @@ namespace modAmount {
 // Euros to whole cents, halves away from zero. Amounts beyond the range of the type are cut to its ends.
 [[nodiscard]] qint64 ToCents(double euros);
 
+// The same, halves to the even cent: so the amounts of statements are rounded.
+[[nodiscard]] qint64 ToEvenCents(double euros);
+
 [[nodiscard]] double ToEuros(qint64 cents);
 
 // "12.50": the form in which amounts stand in the database.

@@ -23,7 +23,7 @@ QString ToJson(const cFileReport::cLeftOut& row)
         .Text(u"kind"_s, row.Kind)
         .Text(u"text"_s, row.Reason.Text)
         .Date(u"date"_s, row.Entry.ImportDate)
-        .Amount(u"amount"_s, modAmount::ToCents(row.Entry.ImportValue))
+        .Amount(u"amount"_s, row.Entry.ImportValue)
         .Text(u"beneficiary"_s, row.Entry.ImportBeneficiary)
         .Text(u"purpose"_s, row.Entry.ImportPurpose);
     return json.ToString();

@@ -1,7 +1,5 @@
 #include "cli/modCliRecord.h"
 
-#include "base/modAmount.h"
-
 using namespace Qt::Literals::StringLiterals;
 
 cJsonObject modCliRecord::Entry(const cEntryItem& entry)
@@ -57,7 +55,7 @@ cJsonObject modCliRecord::Row(const cImportEntry& row)
         .Text(u"ImportBeneficiary"_s, row.ImportBeneficiary)
         .Text(u"ImportBeneficiaryAccount"_s, row.ImportBeneficiaryAccount)
         .Text(u"ImportBeneficiaryBLZ"_s, row.ImportBeneficiaryBLZ)
-        .Amount(u"ImportValue"_s, modAmount::ToCents(row.ImportValue))
+        .Amount(u"ImportValue"_s, row.ImportValue)
         .Text(u"ImportCurrency"_s, row.ImportCurrency)
         .Truth(u"ImportAssigned"_s, row.ImportAssigned)
         .Number(u"ImportAssignedEntry"_s, row.ImportAssignedEntry);

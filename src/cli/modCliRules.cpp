@@ -1,5 +1,4 @@
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
@@ -10,7 +9,7 @@
 #include "model/modWord.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/modRuleText.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -102,20 +101,20 @@ void TakeOptions(const cCliCall& call, cCliReader& reader, cOwnRule& rule)
 int Add(const cCliContext& context)
 {
     cCliReader reader(context);
-    cRuleListModel list(context.Book->Tools);
-    list.StartNew();
+    cRuleEditor editor(context.Book->Tools);
+    editor.StartNew();
     if (context.Call.Has(u"from"_s)) {
         if (const std::optional<cImportEntry> row = reader.StagedRow(context.Call.Value(u"from"_s))) {
-            list.StartFrom(*row);
+            editor.StartFrom(*row);
         }
     }
-    cOwnRule rule = list.Draft();
+    cOwnRule rule = editor.Draft();
     TakeOptions(context.Call, reader, rule);
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    list.SetDraft(rule);
-    return modCliFlow::Finish(context, list.Save());
+    editor.SetDraft(rule);
+    return modCliFlow::Finish(context, editor.Save());
 }
 
 int Delete(const cCliContext& context)
@@ -193,8 +192,8 @@ int Test(const cCliContext& context)
         objects.append(modCliRecord::Row(row)
                            .Raw(u"Rule"_s, place < 0 ? u"null"_s : ToJson(rules.at(place), place).ToString())
                            .ToString());
-        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(modAmount::ToCents(row.ImportValue)),
-                   row.ImportBeneficiary, row.ImportPurpose, place < 0 ? QString() : QString::number(place + 1),
+        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue), row.ImportBeneficiary,
+                   row.ImportPurpose, place < 0 ? QString() : QString::number(place + 1),
                    place < 0 ? QString() : modRuleText::Result(rules.at(place))});
     }
     modConsole::Out(context.Call.Has(u"json"_s) ? modJson::Array(objects) + u'\n' : table.ToString());

@@ -1,5 +1,4 @@
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliTable.h"
@@ -39,9 +38,8 @@ int Run(const cCliContext& context)
                      {cText::Tr("Zweck"), eAlign::Left, 40},
                      {cText::Tr("Stand")}});
     for (const cImportEntry& row : rows) {
-        table.Add({QString::number(row.ID), modDate::ToGerman(row.ImportDate),
-                   book.AmountText(modAmount::ToCents(row.ImportValue)), row.ImportBeneficiary, row.ImportPurpose,
-                   State(row)});
+        table.Add({QString::number(row.ID), modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue),
+                   row.ImportBeneficiary, row.ImportPurpose, State(row)});
     }
     modConsole::Out(table.ToString());
     return modExit::Done;

@@ -2,11 +2,13 @@
 
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "base/modLog.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 
@@ -46,6 +48,15 @@ QString CannotWrite(const QString& path)
 
 QString cBackup::Make(const QString& target)
 {
+    QElapsedTimer time;
+    time.start();
+    const QString problem = TryMake(target);
+    qCInfo(modLog::Backup) << (problem.isEmpty() ? "made" : "not made") << "ms" << time.elapsed();
+    return problem;
+}
+
+QString cBackup::TryMake(const QString& target)
+{
     if (IsSameFile(target, m_book.Path())) {
         return cText::Tr("Die Datensicherung braucht einen anderen Namen als die Datenbank.");
     }
@@ -67,6 +78,7 @@ QString cBackup::Make(const QString& target)
 QString cBackup::MakeChecked(cDatabase& source, const QString& copy)
 {
     if (const std::optional<cDatabaseError> error = modBookFile::Copy(source, copy)) {
+        qCInfo(modLog::Backup) << "not copied, fault" << static_cast<int>(error->Fault());
         return error->Fault() == eDatabaseFault::NoAccess ? CannotWrite(copy) : error->Text();
     }
     const modBookFile::cContent content = modBookFile::Look(copy);
@@ -78,6 +90,15 @@ QString cBackup::MakeChecked(cDatabase& source, const QString& copy)
 }
 
 cBackup::cRestored cBackup::Restore(const QString& path, const QString& backup, QDate today)
+{
+    QElapsedTimer time;
+    time.start();
+    cRestored restored = TryRestore(path, backup, today);
+    qCInfo(modLog::Backup) << (restored.Problem.isEmpty() ? "restored" : "not restored") << "ms" << time.elapsed();
+    return restored;
+}
+
+cBackup::cRestored cBackup::TryRestore(const QString& path, const QString& backup, QDate today)
 {
     cDatabase source;
     if (modSchema::OpenValid(source, backup, eOpenMode::ReadOnly) != eDatabaseFault::None) {

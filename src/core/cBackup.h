@@ -35,6 +35,8 @@ public:
     [[nodiscard]] static bool IsSameFile(const QString& one, const QString& other);
 
 private:
+    [[nodiscard]] QString TryMake(const QString& target);
+    [[nodiscard]] cRestored TryRestore(const QString& path, const QString& backup, QDate today);
     [[nodiscard]] QString MakeChecked(cDatabase& source, const QString& copy);
 
     cDatabase& m_book;

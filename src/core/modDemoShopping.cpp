@@ -1,6 +1,5 @@
 #include "core/modDemoShopping.h"
 
-#include "base/modAmount.h"
 #include "core/modDemoSeries.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -119,7 +118,7 @@ cImportEntry BankRow(QDate date, const QString& number, const QString& booking, 
     row.ImportType = booking;
     row.ImportBeneficiary = name;
     row.ImportPurpose = purpose;
-    row.ImportValue = modAmount::ToEuros(signedCents);
+    row.ImportValue = signedCents;
     row.ImportCurrency = u"EUR"_s;
     return row;
 }

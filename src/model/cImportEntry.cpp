@@ -3,7 +3,6 @@
 #include "base/modSimilar.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -16,11 +15,16 @@ double PurposeScore(const QString& a, const QString& b)
     return a.left(prefixLength) == b.left(prefixLength) ? score * prefixBonus : score;
 }
 
+// The smaller amount as a share of the larger one.
+double AmountScore(qint64 a, qint64 b)
+{
+    return static_cast<double>(std::min(a, b)) / static_cast<double>(std::max(a, b));
+}
+
 } // namespace
 
 bool cImportEntry::Validate()
 {
-    ImportValue = std::nearbyint(ImportValue * 100.0) / 100.0;
     ImportBeneficiaryAccount.remove(u'\'');
     ImportBeneficiaryBLZ.remove(u'\'');
     ImportBeneficiary.remove(u'\'');
@@ -34,20 +38,20 @@ bool cImportEntry::isEqual(const cImportEntry& other) const
     return ImportDate == other.ImportDate && ImportAccount == other.ImportAccount
         && ImportBeneficiaryAccount == other.ImportBeneficiaryAccount && ImportBeneficiary == other.ImportBeneficiary
         && ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ && ImportPurpose == other.ImportPurpose
-        && !(ImportValue < other.ImportValue) && !(other.ImportValue < ImportValue);
+        && ImportValue == other.ImportValue;
 }
 
 double cImportEntry::isSimilar(const cImportEntry& other) const
 {
-    const bool areExpenses = ImportValue < 0.0 && other.ImportValue < 0.0;
-    const bool areIncome = ImportValue > 0.0 && other.ImportValue > 0.0;
+    const bool areExpenses = ImportValue < 0 && other.ImportValue < 0;
+    const bool areIncome = ImportValue > 0 && other.ImportValue > 0;
     if (!areExpenses && !areIncome) {
         return 0.0;
     }
     double score = PurposeScore(ImportPurpose, other.ImportPurpose);
     // Who pays often signs in many ways, so income goes by its amount; who is paid has one name.
     score += areExpenses ? modSimilar::Similarity(ImportBeneficiary, other.ImportBeneficiary)
-                         : std::min(ImportValue, other.ImportValue) / std::max(ImportValue, other.ImportValue);
+                         : AmountScore(ImportValue, other.ImportValue);
     constexpr double impossible = 3.0; // nothing above gets there; a sum that does is worth nothing
     return score > impossible ? 0.0 : score / 2.0;
 }

@@ -15,13 +15,13 @@ struct cImportEntry
     QString ImportBeneficiary;        // name of the counterparty
     QString ImportBeneficiaryAccount; // account number or IBAN of the counterparty
     QString ImportBeneficiaryBLZ;     // bank code or BIC of the counterparty
-    double ImportValue = 0.0;         // euros; negative: money going out
+    qint64 ImportValue = 0;           // cents; negative: money going out
     QString ImportCurrency;
     bool ImportAssigned = false;
     int ImportAssignedEntry = -1; // ID of the entry in table `data`; -1 when none
 
-    // Prepares the record for staging: amount rounded to cents (halves to even), quotes dropped from the counterparty's
-    // fields, assignment cleared. Always true.
+    // Prepares the record for staging: quotes dropped from the counterparty's fields, assignment cleared. Always true.
+    // The amount is whole cents already.
     bool Validate();
 
     // The duplicate test: same day, accounts, counterparty, bank code, purpose and amount, compared exactly. Booking

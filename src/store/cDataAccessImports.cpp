@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
@@ -18,7 +19,7 @@ cBoundList ImportValues(const cImportEntry& entry)
             modRow::Doubled(entry.ImportBeneficiary),
             modRow::Doubled(entry.ImportBeneficiaryAccount),
             modRow::Doubled(entry.ImportBeneficiaryBLZ),
-            entry.ImportValue,
+            modAmount::ToEuros(entry.ImportValue), // the column holds euros
             modRow::Doubled(entry.ImportCurrency),
             entry.ImportAssigned ? isTrue : isFalse,
             entry.ImportAssignedEntry};
@@ -35,7 +36,7 @@ cImportEntry ReadImport(const cRows& row, cWordCache& words)
         .ImportBeneficiary = words.Get(row.Bytes(5)),
         .ImportBeneficiaryAccount = words.Get(row.Bytes(6)),
         .ImportBeneficiaryBLZ = words.Get(row.Bytes(7)),
-        .ImportValue = row.Real(8),
+        .ImportValue = modAmount::ToCents(row.Real(8)),
         .ImportCurrency = words.Get(row.Bytes(9)),
         .ImportAssigned = row.Integer(10) != isFalse,
         .ImportAssignedEntry = row.Bytes(11).empty() ? -1 : static_cast<int>(row.Integer(11)),

@@ -5,6 +5,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "base/modLog.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
 
@@ -26,11 +27,14 @@ eOpenResult cOpenSequence::Run(const QString& path, eOrigin origin)
     m_path = path;
     m_origin = origin;
     m_added.clear();
+    eOpenResult result = eOpenResult::Ended;
     if (FindFile() == eStep::End || MakeUsable() == eStep::End) {
         m_database.Close();
-        return eOpenResult::Ended;
+    } else {
+        result = Prepare();
     }
-    return Prepare();
+    qCInfo(modLog::Open).noquote() << "version" << m_version << "result" << static_cast<int>(result);
+    return result;
 }
 
 bool cOpenSequence::Ask(const QString& text) const
@@ -280,8 +284,10 @@ QString cOpenSequence::CopyBeforeUpgrade()
     }
     try {
         m_database.BackupTo(modBookFile::FreeName(m_ports.Shell, m_path, m_today, u"backup"_s));
+        qCInfo(modLog::Upgrade) << "copy made before it";
         return {};
     } catch (const cDatabaseError& error) {
+        qCInfo(modLog::Upgrade) << "no copy before it, fault" << static_cast<int>(error.Fault());
         return error.Text();
     }
 }

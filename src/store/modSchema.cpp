@@ -3,10 +3,13 @@
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modLog.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/modAccountColumns.h"
 #include "store/modRow.h"
+
+#include <QElapsedTimer>
 
 #include <algorithm>
 #include <array>
@@ -287,6 +290,19 @@ void PutStandIns(cDatabase& database)
     database.Execute("PRAGMA query_only=ON");
 }
 
+eDatabaseFault TryOpen(cDatabase& database, const QString& path, eOpenMode mode)
+{
+    try {
+        database.Open(path, mode);
+        database.Execute("SELECT COUNT(*) FROM data LIMIT 1");
+        return eDatabaseFault::None;
+    } catch (const cDatabaseError& error) {
+        database.Close();
+        const bool isReachable = error.Fault() == eDatabaseFault::Other || error.Fault() == eDatabaseFault::Full;
+        return isReachable ? eDatabaseFault::Damaged : error.Fault();
+    }
+}
+
 } // namespace
 
 QString modSchema::JoinPath(const QString& folder, const QString& name)
@@ -332,30 +348,27 @@ QString modSchema::GetDefaultDatabase(cShell& shell, cUser& user)
 
 eDatabaseFault modSchema::OpenValid(cDatabase& database, const QString& path, eOpenMode mode)
 {
-    try {
-        database.Open(path, mode);
-        database.Execute("SELECT COUNT(*) FROM data LIMIT 1");
-        return eDatabaseFault::None;
-    } catch (const cDatabaseError& error) {
-        database.Close();
-        const bool isReachable = error.Fault() == eDatabaseFault::Other || error.Fault() == eDatabaseFault::Full;
-        return isReachable ? eDatabaseFault::Damaged : error.Fault();
-    }
+    QElapsedTimer time;
+    time.start();
+    const eDatabaseFault fault = TryOpen(database, path, mode);
+    qCInfo(modLog::Open) << (mode == eOpenMode::ReadOnly ? "for reading" : "for writing") << "fault"
+                         << static_cast<int>(fault) << "ms" << time.elapsed();
+    return fault;
 }
 
 QStringList modSchema::Upgrade(cDatabase& database)
 {
+    QElapsedTimer time;
+    time.start();
     const QStringList before = Absent(database);
     database.TryExecute("PRAGMA synchronous=OFF");
     database.TryExecute("PRAGMA auto_vacuum=2");
     BringUpToDate(database);
-    if (before.isEmpty()) {
-        return {};
-    }
-    const QStringList after = Absent(database);
+    const QStringList after = before.isEmpty() ? QStringList() : Absent(database);
     QStringList added;
     std::copy_if(before.begin(), before.end(), std::back_inserter(added),
                  [&](const QString& part) { return !after.contains(part); });
+    qCInfo(modLog::Upgrade) << "missing" << before.size() << "added" << added.size() << "ms" << time.elapsed();
     return added;
 }
 

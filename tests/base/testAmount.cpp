@@ -46,13 +46,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<double>("euros");
         QTest::addColumn<qint64>("cents");
-        QTest::newRow("half away from zero") << 0.125 << qint64{13};
-        QTest::newRow("half below zero") << -0.125 << qint64{-13};
-        QTest::newRow("a half that has no exact double") << 1.005 << qint64{101};
-        QTest::newRow("large half") << 4503599627.375 << qint64{450359962738};
-        QTest::newRow("below the half") << 1.0049 << qint64{100};
-        QTest::newRow("not a number") << std::nan("") << qint64{0};
-        QTest::newRow("beyond the range") << 1e300 << qint64{9'000'000'000'000'000};
+        QTest::addColumn<qint64>("evenCents");
+        QTest::newRow("half away from zero") << 0.125 << qint64{13} << qint64{12};
+        QTest::newRow("half below zero") << -0.125 << qint64{-13} << qint64{-12};
+        QTest::newRow("a half that has no exact double") << 1.005 << qint64{101} << qint64{100};
+        QTest::newRow("large half") << 4503599627.375 << qint64{450359962738} << qint64{450359962738};
+        QTest::newRow("below the half") << 1.0049 << qint64{100} << qint64{100};
+        QTest::newRow("not a number") << std::nan("") << qint64{0} << qint64{0};
+        const qint64 most = 9'000'000'000'000'000;
+        QTest::newRow("beyond the range") << 1e300 << most << most;
     }
 
     void Cents() const
@@ -60,6 +62,7 @@ private Q_SLOTS:
         QFETCH(const double, euros);
         QFETCH(const qint64, cents);
         QCOMPARE(modAmount::ToCents(euros), cents);
+        QTEST(modAmount::ToEvenCents(euros), "evenCents");
     }
 
     void StoredText_data() const

@@ -87,7 +87,7 @@ void testUndo::StepsGoBackAndForth()
     cImportEntry row;
     row.ImportAccount = u"1"_s;
     row.ImportDate = entry.EntryDate;
-    row.ImportValue = -10;
+    row.ImportValue = -1000;
     row.ImportAssigned = true;
     row.ImportAssignedEntry = entry.ID;
     QVERIFY(book.Data.AddNewImportEntry(row));

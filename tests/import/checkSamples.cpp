@@ -1,7 +1,6 @@
 // Reads a folder of real statements and compares each file with what expected.tsv says of it. Run by
 // tools/check-samples.
 
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "import/stage/cImportHive.h"
 #include "import/stage/modStatementFormat.h"
@@ -28,14 +27,14 @@ cFacts FactsOf(const cStatementRead& read)
     qint64 cents = 0;
     int nonZero = 0;
     for (cImportEntry entry : read.Entries) {
-        cents += modAmount::ToCents(entry.ImportValue);
+        cents += entry.ImportValue;
         if (entry.ImportDate.year() > 1001) { // what is no date is staged in 1001
             days.append(entry.ImportDate);
         }
         if (!entry.ImportAccount.isEmpty()) {
             accounts.insert(entry.ImportAccount);
         }
-        const bool isZero = modAmount::ToCents(entry.ImportValue) == 0;
+        const bool isZero = entry.ImportValue == 0;
         nonZero += isZero ? 0 : 1;
         entry.Validate();
         entry.ID = staged.Count() + 1;

@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "cImportBook.h"
 #include "import/propose/cBooking.h"
 #include "import/propose/cProposer.h"
@@ -20,7 +21,7 @@ struct cBank : cImportBook
         cImportEntry row;
         row.ImportAccount = own;
         row.ImportDate = date;
-        row.ImportValue = value;
+        row.ImportValue = modAmount::ToCents(value);
         row.ImportBeneficiary = name;
         row.ImportBeneficiaryAccount = account;
         row.ImportPurpose = u"zu  Nr. 1"_s;

@@ -106,17 +106,18 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("bank");
-        QTest::addColumn<double>("value");
+        QTest::addColumn<qint64>("value");
         const QString creditor = u"Empfänger DE2"_s;
         const QString debtor = u"Zahler DE1"_s;
         QTest::newRow("out") << QByteArray("5.00") << QByteArray("DBIT") << QByteArray() << creditor << u"20030040"_s
-                             << -5.0;
+                             << qint64{-500};
         QTest::newRow("in") << QByteArray("5.00") << QByteArray("CRDT") << QByteArray() << debtor << u"ZAHLDEFF"_s
-                            << 5.0;
-        QTest::newRow("money comes back") << QByteArray("5.00") << QByteArray("CRDT")
-                                          << QByteArray("<RvslInd>true</RvslInd>") << creditor << u"20030040"_s << 5.0;
+                            << qint64{500};
+        QTest::newRow("money comes back")
+            << QByteArray("5.00") << QByteArray("CRDT") << QByteArray("<RvslInd>true</RvslInd>") << creditor
+            << u"20030040"_s << qint64{500};
         QTest::newRow("five decimals") << QByteArray("8.85000") << QByteArray("CRDT") << QByteArray() << debtor
-                                       << u"ZAHLDEFF"_s << 8.85;
+                                       << u"ZAHLDEFF"_s << qint64{885};
     }
 
     void takesCounterpartyBySide()
@@ -142,19 +143,19 @@ private Q_SLOTS:
     void splitsBatch_data()
     {
         QTest::addColumn<QByteArray>("details");
-        QTest::addColumn<QList<double>>("values");
+        QTest::addColumn<QList<qint64>>("values");
         QTest::addColumn<int>("problems");
         const QByteArray three = R"(<Amt Ccy="EUR">3.00</Amt>)";
         const QByteArray two = R"(<AmtDtls><TxAmt><Amt Ccy="EUR">2.00</Amt></TxAmt></AmtDtls>)";
         const QByteArray back = R"(<Amt Ccy="EUR">1.00</Amt><CdtDbtInd>CRDT</CdtDbtInd>)";
-        QTest::newRow("sum agrees") << QByteArray(Detail(three) + Detail(two)) << QList<double>{-3, -2} << 0;
+        QTest::newRow("sum agrees") << QByteArray(Detail(three) + Detail(two)) << QList<qint64>{-300, -200} << 0;
         QTest::newRow("sum of both signs")
-            << QByteArray(Detail(three) + Detail(three) + Detail(back)) << QList<double>{-3, -3, 1} << 0;
-        QTest::newRow("sum differs") << QByteArray(Detail(three) + Detail(three)) << QList<double>{-5} << 1;
-        QTest::newRow("an amount is missing") << QByteArray(Detail(three) + Detail({})) << QList<double>{-5} << 1;
+            << QByteArray(Detail(three) + Detail(three) + Detail(back)) << QList<qint64>{-300, -300, 100} << 0;
+        QTest::newRow("sum differs") << QByteArray(Detail(three) + Detail(three)) << QList<qint64>{-500} << 1;
+        QTest::newRow("an amount is missing") << QByteArray(Detail(three) + Detail({})) << QList<qint64>{-500} << 1;
         QTest::newRow("another currency")
-            << QByteArray(Detail(three) + Detail(two)).replace("EUR", "USD") << QList<double>{-5} << 1;
-        QTest::newRow("single detail says otherwise") << Detail(three) << QList<double>{-5} << 0;
+            << QByteArray(Detail(three) + Detail(two)).replace("EUR", "USD") << QList<qint64>{-500} << 1;
+        QTest::newRow("single detail says otherwise") << Detail(three) << QList<qint64>{-500} << 0;
     }
 
     void splitsBatch()
@@ -162,7 +163,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, details);
         QFETCH(int, problems);
         const cStatementRead read = ReadBytes(With(Entry("5.00", "DBIT", "<NtryDtls>" + details + "</NtryDtls>")));
-        QList<double> values;
+        QList<qint64> values;
         for (const cImportEntry& entry : read.Entries) {
             values.append(entry.ImportValue);
         }

@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "import/propose/cWildcard.h"
 #include "import/propose/modKeywordRules.h"
 #include "import/propose/modKeywordTable.h"
@@ -91,7 +92,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(double, value);
         QFETCH(eRestriction, restriction);
-        const modKeywordRules::cMatch match = modKeywordRules::Match(text, value, restriction);
+        const modKeywordRules::cMatch match = modKeywordRules::Match(text, modAmount::ToCents(value), restriction);
         QTEST(match.Category, "category");
         QTEST(match.Interval, "interval");
         QTEST(match.Keyword, "keyword");

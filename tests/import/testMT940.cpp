@@ -43,28 +43,29 @@ private Q_SLOTS:
         QTest::addColumn<QString>("amount");
         QTest::addColumn<QString>("typeCode");
         QTest::addColumn<QString>("reference");
-        QTest::addColumn<double>("value");
+        QTest::addColumn<qint64>("value");
         QTest::newRow("entry date and mark")
-            << u"0902270227DR0,96NMSCNONREF"_s << u"DR"_s << u"0,96"_s << u"NMSC"_s << u"NONREF"_s << -0.96;
+            << u"0902270227DR0,96NMSCNONREF"_s << u"DR"_s << u"0,96"_s << u"NMSC"_s << u"NONREF"_s << qint64{-96};
         QTest::newRow("no entry date") << u"200219C65,00NMSC"_s << u"C"_s << u"65,00"_s << u"NMSC"_s << QString()
-                                       << 65.0;
+                                       << qint64{6500};
         QTest::newRow("cancelled debit counts as debit")
-            << u"2002010219RDR1027,25N068A//B"_s << u"RD"_s << u"1027,25"_s << u"N068"_s << u"A"_s << -1027.25;
+            << u"2002010219RDR1027,25N068A//B"_s << u"RD"_s << u"1027,25"_s << u"N068"_s << u"A"_s << qint64{-102725};
         QTest::newRow("cancelled credit counts as credit")
-            << u"200201RC5,00N068"_s << u"RC"_s << u"5,00"_s << u"N068"_s << QString() << 5.0;
+            << u"200201RC5,00N068"_s << u"RC"_s << u"5,00"_s << u"N068"_s << QString() << qint64{500};
         QTest::newRow("funds code") << u"1710111011DF2402,00S   X"_s << u"D"_s << u"2402,00"_s << u"S   "_s << u"X"_s
-                                    << -2402.0;
+                                    << qint64{-240200};
         QTest::newRow("whole amount") << u"1105240524D1234,N192"_s << u"D"_s << u"1234,00"_s << u"N192"_s << QString()
-                                      << -1234.0;
+                                      << qint64{-123400};
         QTest::newRow("one decimal place")
-            << u"131017D620,3NSTON"_s << u"D"_s << u"620,30"_s << u"NSTO"_s << u"N"_s << -620.3;
-        QTest::newRow("small letters") << u"200219d7,50NMSC"_s << u"d"_s << u"7,50"_s << u"NMSC"_s << QString() << -7.5;
+            << u"131017D620,3NSTON"_s << u"D"_s << u"620,30"_s << u"NSTO"_s << u"N"_s << qint64{-62030};
+        QTest::newRow("small letters") << u"200219d7,50NMSC"_s << u"d"_s << u"7,50"_s << u"NMSC"_s << QString()
+                                       << qint64{-750};
     }
 
     void readsTransactionLine()
     {
         QFETCH(QString, line);
-        QFETCH(double, value);
+        QFETCH(qint64, value);
         const modMT940::cTransaction transaction =
             modMT940::Parse(With(line, u"x"_s)).Statements.value(0).Transactions.value(0);
         QTEST(transaction.Mark, "mark");

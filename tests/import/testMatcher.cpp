@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "cImportBook.h"
 #include "import/match/cMatcher.h"
 #include "import/propose/cBooking.h"
@@ -25,7 +26,7 @@ struct cBank : cImportBook
         cImportEntry row;
         row.ImportAccount = own;
         row.ImportDate = date;
-        row.ImportValue = value;
+        row.ImportValue = modAmount::ToCents(value);
         row.ImportBeneficiary = name;
         row.ImportBeneficiaryAccount = account;
         row.ImportPurpose = purpose;

@@ -114,10 +114,10 @@ private Q_SLOTS:
         QCOMPARE(first.ImportDate, QDate(2026, 1, 2));
         QCOMPARE(first.ImportPurpose, u"Brot & Brötchen"_s);
         QCOMPARE(first.ImportCurrency, u"EUR"_s);
-        QCOMPARE(first.ImportValue, -23.10);
+        QCOMPARE(first.ImportValue, -2310);
         QVERIFY(first.ImportType.isEmpty() && first.ImportBeneficiary.isEmpty());
         QVERIFY(first.ImportBeneficiaryAccount.isEmpty() && first.ImportBeneficiaryBLZ.isEmpty());
-        QCOMPARE(read.Entries.at(1).ImportValue, 1234.50);
+        QCOMPARE(read.Entries.at(1).ImportValue, 123450);
         QCOMPARE(read.Entries.at(2).ImportPurpose, u"Kino <3 & Popcorn"_s);
         QCOMPARE(read.Entries.at(3).ImportAccount, u"4711XXXX0815"_s);
         QCOMPARE(read.Entries.at(3).ImportCurrency, u"USD"_s);

@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "cImportBook.h"
 #include "import/propose/cBooking.h"
 #include "import/propose/cOwnRules.h"
@@ -19,7 +20,7 @@ cImportEntry Row(double value, const QString& name, const QString& purpose, cons
     cImportEntry row;
     row.ImportAccount = u"111"_s;
     row.ImportDate = day;
-    row.ImportValue = value;
+    row.ImportValue = modAmount::ToCents(value);
     row.ImportBeneficiary = name;
     row.ImportBeneficiaryAccount = account;
     row.ImportPurpose = purpose;

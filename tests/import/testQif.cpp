@@ -93,12 +93,12 @@ private Q_SLOTS:
     void readsAmounts_data()
     {
         QTest::addColumn<QString>("amount");
-        QTest::addColumn<double>("value");
-        QTest::newRow("English") << u"-1,010.50"_s << -1010.5;
-        QTest::newRow("grouped whole number") << u"30,020"_s << 30020.0;
-        QTest::newRow("decimal comma") << u"-4,50"_s << -4.5;
-        QTest::newRow("German") << u"1.234,50"_s << 1234.5;
-        QTest::newRow("millions") << u"1,234,567.00"_s << 1234567.0;
+        QTest::addColumn<qint64>("value");
+        QTest::newRow("English") << u"-1,010.50"_s << qint64{-101050};
+        QTest::newRow("grouped whole number") << u"30,020"_s << qint64{3002000};
+        QTest::newRow("decimal comma") << u"-4,50"_s << qint64{-450};
+        QTest::newRow("German") << u"1.234,50"_s << qint64{123450};
+        QTest::newRow("millions") << u"1,234,567.00"_s << qint64{123456700};
     }
 
     void readsAmounts()
@@ -117,11 +117,11 @@ private Q_SLOTS:
         QCOMPARE(first.ImportType, u"Haushalt:Lebensmittel"_s);
         QCOMPARE(first.ImportPurpose, u"Brot"_s);
         QCOMPARE(first.ImportBeneficiary, u"Krume & Sohn"_s);
-        QCOMPARE(first.ImportValue, -23.10);
-        QCOMPARE(read.Entries.at(1).ImportValue, 1234.50);
+        QCOMPARE(first.ImportValue, -2310);
+        QCOMPARE(read.Entries.at(1).ImportValue, 123450);
         QCOMPARE(read.Entries.at(2).ImportType, u"Haushalt, Kleidung"_s);
         QCOMPARE(read.Entries.at(2).ImportPurpose, u"Handtücher, Socken"_s);
-        QCOMPARE(read.Entries.at(3).ImportValue, -4.5); // without its "^"
+        QCOMPARE(read.Entries.at(3).ImportValue, -450); // without its "^"
     }
 
     // The number that the user gives names the only account; several accounts must stay apart.
@@ -141,7 +141,7 @@ private Q_SLOTS:
     void splitsWithoutTotalAreSummed()
     {
         const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\nSa\n$-1.50\nSb\n$-2.25\n^\n"_s);
-        QCOMPARE(read.Entries.value(0).ImportValue, -3.75);
+        QCOMPARE(read.Entries.value(0).ImportValue, -375);
     }
 
     void everyPrefixIsRead()

@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "cXlsFile.h"
 #include "import/sheet/modSheetValue.h"
 #include "import/sheet/modSpreadsheet.h"
@@ -133,7 +134,7 @@ QStringList Facts(const cStatementRead& read)
 {
     QStringList facts;
     for (const cImportEntry& entry : read.Entries) {
-        facts.append(entry.ImportDate.toString(Qt::ISODate) + u'|' + QString::number(entry.ImportValue, 'f', 3) + u'|'
+        facts.append(entry.ImportDate.toString(Qt::ISODate) + u'|' + modAmount::CentsToText(entry.ImportValue) + u'|'
                      + entry.ImportPurpose);
     }
     return facts;
@@ -148,8 +149,8 @@ class testSpreadsheet : public QObject
 private Q_SLOTS:
     void readsByContent_data()
     {
-        const QStringList two = {u"2026-01-31|-12.500|Bücher"_s, u"2026-02-01|2345.670|Gehalt"_s};
-        const QStringList big = {u"2026-01-31|-1234.567|Rechnung 4711"_s, u"2026-01-30|100.000|Rechnung 4711"_s};
+        const QStringList two = {u"2026-01-31|-12.50|Bücher"_s, u"2026-02-01|2345.67|Gehalt"_s};
+        const QStringList big = {u"2026-01-31|-1234.57|Rechnung 4711"_s, u"2026-01-30|100.00|Rechnung 4711"_s};
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QStringList>("facts");
@@ -208,7 +209,7 @@ private Q_SLOTS:
         cReadOptions options;
         options.Table.Number = eNumberFormat::English;
         options.Table.Date = eDateOrder::MonthDayYear;
-        QCOMPARE(Facts(Read(u"a.xls"_s, Xls().Bytes(), options)).last(), u"2026-02-01|2345.670|Gehalt"_s);
+        QCOMPARE(Facts(Read(u"a.xls"_s, Xls().Bytes(), options)).last(), u"2026-02-01|2345.67|Gehalt"_s);
     }
 
     void refusesBadFiles_data()

@@ -186,10 +186,10 @@ private Q_SLOTS:
         cNoProgress progress;
         cStatementImport import(book.Data, book.Hive);
         const QString text = u":20:A\r\n:61:260101D1,00NTRF\r\n:62F:D260101EUR12,34\r\n"_s;
-        QCOMPARE(import.ImportMT940(progress, {}, text, u"4711"_s), -12.34);
+        QCOMPARE(import.ImportMT940(progress, {}, text, u"4711"_s), -1234);
         QCOMPARE(book.Hive.GetImportHive().GetImportEntryCountByNumber(u"4711"_s), 1);
-        QCOMPARE(import.ImportMT940(progress, {}, text + u":20:B\r\n:86:x\r\n", u"4711"_s), 0.0);
-        QCOMPARE(import.ImportMT940(progress, {}, {}, {}), 0.0);
+        QCOMPARE(import.ImportMT940(progress, {}, text + u":20:B\r\n:86:x\r\n", u"4711"_s), 0);
+        QCOMPARE(import.ImportMT940(progress, {}, {}, {}), 0);
     }
 
     void knowsAccountInItsOtherForm_data()
@@ -241,35 +241,36 @@ private Q_SLOTS:
         QCOMPARE(tried.Rows, staged);
     }
 
-    void stagingNormalises_data()
+    void stagesWholeCents_data()
     {
-        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("amount");
         QTest::addColumn<eStaged>("outcome");
         QTest::addColumn<qint64>("cents");
-        QTest::newRow("rounded") << 12.3449 << eStaged::Staged << qint64{1234};
-        QTest::newRow("zero") << 0.0 << eStaged::Zero << qint64{0};
-        QTest::newRow("less than a cent is not zero") << 0.001 << eStaged::Staged << qint64{0};
+        QTest::newRow("rounded") << u"12,3449"_s << eStaged::Staged << qint64{1234};
+        QTest::newRow("half to the even cent") << u"0,125"_s << eStaged::Staged << qint64{12};
+        QTest::newRow("zero") << u"0,00"_s << eStaged::Zero << qint64{0};
+        QTest::newRow("less than half a cent") << u"0,001"_s << eStaged::Zero << qint64{0};
     }
 
-    void stagingNormalises()
+    void stagesWholeCents()
     {
-        QFETCH(double, value);
+        QFETCH(QString, amount);
+        QFETCH(eStaged, outcome);
         QFETCH(qint64, cents);
         cImportBook book;
-        cImportEntry entry;
-        entry.ImportDate = QDate(2026, 1, 1);
-        entry.ImportBeneficiary = u"O'Brien"_s;
-        entry.ImportPurpose = u"O'Brien"_s;
-        entry.ImportValue = value;
-        entry.ImportAssigned = true;
-        entry.ImportAssignedEntry = 5;
-        QTEST(cStaging(book.Hive).StageImportEntry(entry, eDuplicateTest::Test), "outcome");
+        cNoProgress progress;
+        cImportOptions options;
+        options.Table.Number = eNumberFormat::German;
+        const QString text = u"!Type:Bank\nD31.1.26\nT%1\nPO'Brien\nMO'Brien\n^\n"_s.arg(amount);
+        const cImportResult result =
+            cStatementImport(book.Data, book.Hive).ImportText(u"a.qif"_s, text, options, progress);
+        QCOMPARE(QList<int>({result.Staged, result.Zero}),
+                 outcome == eStaged::Staged ? QList<int>({1, 0}) : QList<int>({0, 1}));
         const cImportEntry stored = book.Data.GetImportEntries().value(0);
-        QCOMPARE(modAmount::ToCents(stored.ImportValue), cents);
+        QCOMPARE(stored.ImportValue, cents);
         if (stored.ID != 0) {
             QCOMPARE(stored.ImportBeneficiary, u"OBrien"_s);
             QCOMPARE(stored.ImportPurpose, u"O'Brien"_s);
-            QCOMPARE(stored.ImportAssignedEntry, -1);
         }
     }
 

@@ -34,7 +34,7 @@ QString Shown(const cImportEntry& entry)
 {
     return QStringList{entry.ImportAccount,
                        modDate::ToIso(entry.ImportDate),
-                       modAmount::CentsToText(modAmount::ToCents(entry.ImportValue)),
+                       modAmount::CentsToText(entry.ImportValue),
                        entry.ImportCurrency,
                        entry.ImportType,
                        entry.ImportPurpose,
@@ -64,8 +64,8 @@ QStringList Brief(const cStatementRead& read)
 {
     QStringList lines;
     for (const cImportEntry& entry : read.Entries) {
-        lines.append(modDate::ToIso(entry.ImportDate) + u' '
-                     + modAmount::CentsToText(modAmount::ToCents(entry.ImportValue)) + u' ' + entry.ImportAccount);
+        lines.append(modDate::ToIso(entry.ImportDate) + u' ' + modAmount::CentsToText(entry.ImportValue) + u' '
+                     + entry.ImportAccount);
     }
     return lines;
 }
@@ -179,7 +179,7 @@ private Q_SLOTS:
                  QList<eSkipped>({eSkipped::Pending, eSkipped::Pending, eSkipped::Pending, eSkipped::Unreadable,
                                   eSkipped::Balance, eSkipped::Unreadable}));
         QCOMPARE(lines, QList<int>({4, 5, 6, 7, 8, 9}));
-        QCOMPARE(read.Skipped.first().Entry.ImportValue, -2.0);
+        QCOMPARE(read.Skipped.first().Entry.ImportValue, -200);
         QCOMPARE(read.ClosingBalance, std::optional<qint64>(10000));
     }
 

@@ -6,7 +6,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-cImportEntry Row(double value, const QString& purpose, const QString& beneficiary = {})
+cImportEntry Row(qint64 value, const QString& purpose, const QString& beneficiary = {})
 {
     cImportEntry row;
     row.ImportValue = value;

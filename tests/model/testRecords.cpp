@@ -121,18 +121,13 @@ private Q_SLOTS:
         cImportEntry entry;
         entry.ImportBeneficiary = u"O'Brien"_s;
         entry.ImportPurpose = u"it's"_s;
-        entry.ImportValue = 12.3449;
         entry.ImportAssigned = true;
         entry.ImportAssignedEntry = 4;
         QVERIFY(entry.Validate());
         QCOMPARE(entry.ImportBeneficiary, u"OBrien"_s);
         QCOMPARE(entry.ImportPurpose, u"it's"_s);
-        QCOMPARE(entry.ImportValue, 12.34);
         QVERIFY(!entry.ImportAssigned);
         QCOMPARE(entry.ImportAssignedEntry, -1);
-        entry.ImportValue = 0.125;
-        QVERIFY(entry.Validate());
-        QCOMPARE(entry.ImportValue, 0.12); // halves go to the even cent
     }
 
     void Duplicates_data() const
@@ -156,7 +151,7 @@ private Q_SLOTS:
         add(
             "other bank", [](cImportEntry& row) { row.ImportBeneficiaryBLZ = u"1"_s; }, false);
         add(
-            "other amount", [](cImportEntry& row) { row.ImportValue += 0.01; }, false);
+            "other amount", [](cImportEntry& row) { row.ImportValue += 1; }, false);
     }
 
     void Duplicates() const
@@ -167,7 +162,7 @@ private Q_SLOTS:
         cImportEntry first;
         first.ImportDate = QDate(2024, 1, 1);
         first.ImportPurpose = u"Miete"_s;
-        first.ImportValue = -500.0;
+        first.ImportValue = -50000;
         cImportEntry second = first;
         change(second);
         QCOMPARE(first.isEqual(second), isDuplicate);

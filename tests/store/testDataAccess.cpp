@@ -191,7 +191,7 @@ private Q_SLOTS:
         entry.ImportDate = QDate(2024, 5, 6);
         entry.ImportPurpose = u"it's 'Miete'"_s;
         entry.ImportBeneficiary = u"Müller"_s;
-        entry.ImportValue = -12.34;
+        entry.ImportValue = -1234;
         entry.ImportCurrency = u"EUR"_s;
         QVERIFY(book.Data.AddNewImportEntry(entry));
         QCOMPARE(entry.ID, 1);
@@ -199,6 +199,7 @@ private Q_SLOTS:
                      "SELECT ImportPurpose || '|' || ImportDate || '|' || ImportAssigned || '|' || ImportAssignedEntry"
                      " FROM import"),
                  u"it''s ''Miete''|2024-05-06|0|-1"_s);
+        QCOMPARE(book.Value("SELECT ImportValue FROM import"), u"-12.34"_s);
         QVERIFY(book.Data.GetImportEntries() == cImportEntryList{entry});
         QCOMPARE(book.Data.CountOpenImports().value(u"DE01"_s), 1);
         entry.ImportAssigned = true;
@@ -208,6 +209,18 @@ private Q_SLOTS:
         QVERIFY(book.Data.GetImportEntries() == cImportEntryList{entry});
         QVERIFY(book.Data.CountOpenImports().isEmpty());
         QCOMPARE(book.Data.GetImportAccounts(), QStringList(u"DE01"_s));
+    }
+
+    void StagedAmountsBecomeCents() const
+    {
+        cOpened book;
+        cTestFile::Run(book.File.Path(),
+                       "INSERT INTO import (ImportValue) VALUES (-12.340000000000002), (1.005), ('7.5'), (NULL)");
+        QList<qint64> cents;
+        for (const cImportEntry& row : book.Data.GetImportEntries()) {
+            cents.append(row.ImportValue);
+        }
+        QCOMPARE(cents, QList<qint64>({-1234, 101, 750, 0}));
     }
 
     void CacheLearnsOfEveryWrite() const

@@ -229,7 +229,7 @@ void testEntryDelete::EndedSeriesGivesBankRowsBack()
     for (const int month : {3, 4}) {
         cImportEntry row;
         row.ImportDate = QDate(2026, month, 9);
-        row.ImportValue = -1000;
+        row.ImportValue = -100000;
         row.ImportAssigned = true;
         row.ImportAssignedEntry = 1;
         QVERIFY(book.Data.AddNewImportEntry(row));

@@ -307,10 +307,10 @@ private Q_SLOTS:
         const cImportEntryList rows = page.Data.GetImportEntries();
         QCOMPARE(rows.size(), 4); // the booked one stays
         QCOMPARE(rows.first().ID, booked);
-        QCOMPARE(rows.last().ImportValue, 4.0);
+        QCOMPARE(rows.last().ImportValue, 400);
         QVERIFY(page.Data.Journal().Undo());
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
-        QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -1.0);
+        QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -100);
         page.IsConfirmed = false;
         page.Review.Files().ReadAgain(progress);
         QCOMPARE(page.Data.GetImportEntries().size(), 3);

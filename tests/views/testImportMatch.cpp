@@ -1,4 +1,5 @@
 #include "base/cProgress.h"
+#include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/testBook.h"
@@ -30,7 +31,7 @@ struct cPage : cTestBook
         row.ImportAccount = number;
         row.ImportDate = day;
         row.ImportBeneficiary = name;
-        row.ImportValue = value;
+        row.ImportValue = modAmount::ToCents(value);
         if (!Data.AddNewImportEntry(row)) {
             qFatal("row not added");
         }

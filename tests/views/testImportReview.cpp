@@ -31,7 +31,7 @@ struct cPage : cTestBook
         cImportEntry row;
         row.ImportAccount = u"1234567"_s;
         row.ImportDate = QDate(2026, 1, 20);
-        row.ImportValue = -7.5;
+        row.ImportValue = -750;
         change(row);
         if (!Data.AddNewImportEntry(row)) {
             qFatal("row not added");

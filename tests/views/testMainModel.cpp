@@ -467,7 +467,7 @@ void testMainModel::OpenRowsCountForTheirAccount()
     cImportEntry row;
     row.ImportAccount = u"4711"_s;
     row.ImportDate = QDate(2026, 3, 1);
-    row.ImportValue = -5;
+    row.ImportValue = -500;
     QVERIFY(scene.Book.Data.AddNewImportEntry(row));
     scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Sparkonto"_s);
     scene.Model->BookChanged();

@@ -1,7 +1,9 @@
+#include "base/modAmount.h"
+#include "core/cAmountFormat.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modSettingKey.h"
 #include "support/testBook.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/modRuleText.h"
 #include "views/template/cTemplateManager.h"
 
@@ -29,7 +31,7 @@ struct cScene : cTestBook
         row.ImportDate = QDate(2026, 3, 3).addDays(++m_count);
         row.ImportBeneficiary = name;
         row.ImportPurpose = purpose;
-        row.ImportValue = value;
+        row.ImportValue = modAmount::ToCents(value);
         if (!Data.AddNewImportEntry(row)) {
             qFatal("row not added");
         }
@@ -103,25 +105,25 @@ void testRuleListModel::Problems() const
     QFETCH(const cOwnRule, rule);
     QFETCH(const QString, problem);
     cScene scene;
-    cRuleListModel list(scene.Tools);
-    list.SetDraft(rule);
-    QCOMPARE(list.Save(), problem.isEmpty());
+    cRuleEditor editor(scene.Tools);
+    editor.SetDraft(rule);
+    QCOMPARE(editor.Save(), problem.isEmpty());
     QCOMPARE(scene.User.Shown.size(), problem.isEmpty() ? 0 : 1);
     QVERIFY(scene.User.Shown.value(0).startsWith(problem));
-    QCOMPARE(list.rowCount(), problem.isEmpty() ? 1 : 0);
+    QCOMPARE(editor.List().rowCount(), problem.isEmpty() ? 1 : 0);
 }
 
 void testRuleListModel::OffersAMissingCategory() const
 {
     cScene scene;
-    cRuleListModel list(scene.Tools);
+    cRuleEditor editor(scene.Tools);
     cOwnRule rule = Rule(u"rewe"_s, u"Rohrpost"_s);
     rule.Sign = eRuleSign::In;
-    list.SetDraft(rule);
-    QVERIFY(!list.Save());
-    QCOMPARE(list.Draft().Category, u"Rohrpost"_s); // what was typed stays
+    editor.SetDraft(rule);
+    QVERIFY(!editor.Save());
+    QCOMPARE(editor.Draft().Category, u"Rohrpost"_s); // what was typed stays
     scene.User.Answers = {eAnswer::Yes};
-    QVERIFY(list.Save());
+    QVERIFY(editor.Save());
     QCOMPARE(scene.User.Asked.last(), u"Die Kategorie 'Rohrpost' gibt es noch nicht.\nSoll sie angelegt werden?"_s);
     const cTemplateItemList items = scene.Data.GetTemplates();
     QVERIFY(std::any_of(items.begin(), items.end(), [](const cTemplateItem& item) {
@@ -132,34 +134,34 @@ void testRuleListModel::OffersAMissingCategory() const
 void testRuleListModel::AddsAndChanges() const
 {
     cScene scene;
-    cRuleListModel list(scene.Tools);
-    const QSignalSpy changes(&list, &cRuleListModel::RulesChanged);
-    QVERIFY(list.IsNew() && !list.IsChanged());
-    list.SetDraft(Rule(u"rewe"_s));
-    QVERIFY(list.IsChanged());
-    QVERIFY(list.Save());
-    QVERIFY(!list.IsNew() && !list.IsChanged());
-    list.SetDraft(Rule(u"edeka"_s));
-    QVERIFY(list.Save());
-    list.StartNew();
-    list.SetDraft(Rule(u"aldi"_s));
-    QVERIFY(list.Save());
-    QCOMPARE(list.Place(), 1);
+    cRuleEditor editor(scene.Tools);
+    const QSignalSpy changes(&editor.List(), &cRuleListModel::RulesChanged);
+    QVERIFY(editor.IsNew() && !editor.IsChanged());
+    editor.SetDraft(Rule(u"rewe"_s));
+    QVERIFY(editor.IsChanged());
+    QVERIFY(editor.Save());
+    QVERIFY(!editor.IsNew() && !editor.IsChanged());
+    editor.SetDraft(Rule(u"edeka"_s));
+    QVERIFY(editor.Save());
+    editor.StartNew();
+    editor.SetDraft(Rule(u"aldi"_s));
+    QVERIFY(editor.Save());
+    QCOMPARE(editor.Place(), 1);
     QCOMPARE(scene.Texts(), QStringList({u"edeka"_s, u"aldi"_s}));
     QCOMPARE(changes.size(), 3);
-    QCOMPARE(cRuleListModel(scene.Tools).Draft().Text, u"edeka"_s);
+    QCOMPARE(cRuleEditor(scene.Tools).Draft().Text, u"edeka"_s);
 }
 
 void testRuleListModel::Refused() const
 {
     cScene scene;
     scene.Keep({Rule(u"rewe"_s)});
-    cRuleListModel list(scene.Tools);
+    cRuleEditor editor(scene.Tools);
     scene.Database.Execute("CREATE TRIGGER stop BEFORE UPDATE ON setting BEGIN SELECT RAISE(ABORT, 'voll'); END");
-    list.SetDraft(Rule(u"edeka"_s));
-    QVERIFY(!list.Save());
-    QCOMPARE(list.index(0, cRuleListModel::Rule).data().toString(), u"Text enthält „rewe“"_s);
-    QVERIFY(list.IsChanged()); // what was typed is still there
+    editor.SetDraft(Rule(u"edeka"_s));
+    QVERIFY(!editor.Save());
+    QCOMPARE(editor.List().index(0, cRuleListModel::Rule).data().toString(), u"Text enthält „rewe“"_s);
+    QVERIFY(editor.IsChanged()); // what was typed is still there
     QCOMPARE(scene.User.Shown.size(), 1);
 }
 
@@ -167,24 +169,24 @@ void testRuleListModel::LeavingAsks() const
 {
     cScene scene;
     scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
-    cRuleListModel list(scene.Tools);
-    QVERIFY(list.Choose(1));
+    cRuleEditor editor(scene.Tools);
+    QVERIFY(editor.Choose(1));
     QVERIFY(scene.User.Asked.isEmpty());
-    list.SetDraft(Rule(u"c"_s));
+    editor.SetDraft(Rule(u"c"_s));
     scene.User.Answers = {eAnswer::Cancel, eAnswer::No};
-    QVERIFY(!list.Choose(0));
-    QCOMPARE(list.Draft().Text, u"c"_s);
-    QVERIFY(list.Choose(0));
+    QVERIFY(!editor.Choose(0));
+    QCOMPARE(editor.Draft().Text, u"c"_s);
+    QVERIFY(editor.Choose(0));
     QCOMPARE(scene.Texts(), QStringList({u"a"_s, u"b"_s}));
     // What is stored on leaving may push the rule that was chosen; it is opened all the same.
-    list.StartFrom(scene.Stage(-1, u"a"_s), u"Haushalt; Lebensmittel"_s);
+    editor.StartFrom(scene.Stage(-1, u"a"_s), u"Haushalt; Lebensmittel"_s);
     scene.User.Answers = {eAnswer::Yes};
-    QVERIFY(list.Choose(1));
+    QVERIFY(editor.Choose(1));
     QCOMPARE(scene.Texts(), QStringList({u""_s, u"a"_s, u"b"_s}));
-    QCOMPARE(list.Draft().Text, u"b"_s);
-    list.SetDraft(Rule({}, {}));
+    QCOMPARE(editor.Draft().Text, u"b"_s);
+    editor.SetDraft(Rule({}, {}));
     scene.User.Answers = {eAnswer::Yes};
-    QVERIFY(!list.Leave()); // it cannot be stored like this
+    QVERIFY(!editor.Leave()); // it cannot be stored like this
 }
 
 void testRuleListModel::OrderAndSwitch() const
@@ -193,16 +195,19 @@ void testRuleListModel::OrderAndSwitch() const
     scene.Stage(-1, u"REWE"_s);
     scene.Stage(-2, u"REWE Süd"_s);
     scene.Keep({Rule(u"rewe"_s), Rule(u"süd"_s), Rule(u"nord"_s)});
-    cRuleListModel list(scene.Tools);
-    QCOMPARE(Counts(list), QStringList({u"2"_s, u"0"_s, u"0"_s}));
-    QVERIFY(!list.CanMove(0, cRuleListModel::eMove::Up) && !list.CanMove(2, cRuleListModel::eMove::Down));
-    QVERIFY(list.Move(1, cRuleListModel::eMove::Up));
-    QCOMPARE(list.Place(), 0);
-    QCOMPARE(Counts(list), QStringList({u"1"_s, u"1"_s, u"0"_s}));
-    QVERIFY(list.setData(list.index(0, cRuleListModel::Rule), Qt::Unchecked, Qt::CheckStateRole));
-    QVERIFY(!list.IsChanged());
-    QCOMPARE(Counts(list), QStringList({u"0"_s, u"2"_s, u"0"_s}));
-    QVERIFY(list.MoveTo(0, 2));
+    cRuleEditor editor(scene.Tools);
+    QCOMPARE(Counts(editor.List()), QStringList({u"2"_s, u"0"_s, u"0"_s}));
+    QVERIFY(!editor.CanMove(cRuleEditor::eMove::Up));
+    QVERIFY(editor.Choose(2));
+    QVERIFY(!editor.CanMove(cRuleEditor::eMove::Down));
+    QVERIFY(editor.Choose(1));
+    QVERIFY(editor.Move(cRuleEditor::eMove::Up));
+    QCOMPARE(editor.Place(), 0);
+    QCOMPARE(Counts(editor.List()), QStringList({u"1"_s, u"1"_s, u"0"_s}));
+    QVERIFY(editor.List().setData(editor.List().index(0, cRuleListModel::Rule), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(!editor.IsChanged());
+    QCOMPARE(Counts(editor.List()), QStringList({u"0"_s, u"2"_s, u"0"_s}));
+    QVERIFY(editor.List().MoveTo(0, 2));
     QCOMPARE(scene.Texts(), QStringList({u"rewe"_s, u"nord"_s, u"(süd)"_s}));
 }
 
@@ -210,14 +215,15 @@ void testRuleListModel::DeleteAsks() const
 {
     cScene scene;
     scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
-    cRuleListModel list(scene.Tools);
+    cRuleEditor editor(scene.Tools);
     scene.User.Answers = {eAnswer::No, eAnswer::Yes, eAnswer::Yes};
-    QVERIFY(!list.Delete(1));
+    QVERIFY(editor.Choose(1));
+    QVERIFY(!editor.Delete());
     QVERIFY(scene.User.Asked.constFirst().contains(u"„b“"));
-    QVERIFY(list.Delete(1));
-    QCOMPARE(list.Draft().Text, u"a"_s);
-    QVERIFY(list.Delete(0));
-    QVERIFY(list.IsNew());
+    QVERIFY(editor.Delete());
+    QCOMPARE(editor.Draft().Text, u"a"_s);
+    QVERIFY(editor.Delete());
+    QVERIFY(editor.IsNew());
     QVERIFY(scene.Texts().isEmpty());
 }
 
@@ -225,10 +231,10 @@ void testRuleListModel::EachChangeIsUndone() const
 {
     cScene scene;
     scene.Keep({Rule(u"a"_s), Rule(u"b"_s)});
-    cRuleListModel list(scene.Tools);
-    QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
+    cRuleEditor editor(scene.Tools);
+    QVERIFY(editor.Move(cRuleEditor::eMove::Down));
     scene.User.Answers = {eAnswer::Yes};
-    QVERIFY(list.Delete(0));
+    QVERIFY(editor.List().Delete(0));
     QCOMPARE(scene.Data.Journal().UndoName(), u"Regel gelöscht"_s);
     QVERIFY(scene.Data.Journal().Undo());
     QVERIFY(scene.Data.Journal().Undo());
@@ -239,21 +245,21 @@ void testRuleListModel::EachChangeIsUndone() const
 void testRuleListModel::Trial() const
 {
     cScene scene;
-    QCOMPARE(cRuleListModel(scene.Tools).TrialText().section(u',', 0, 0), u"Es sind keine Umsätze eingelesen"_s);
+    QCOMPARE(cRuleEditor(scene.Tools).TrialText().section(u',', 0, 0), u"Es sind keine Umsätze eingelesen"_s);
     for (int i = 0; i < 7; ++i) {
         scene.Stage(-1.5, u"REWE %1"_s.arg(i));
     }
     scene.Stage(9, u"Tann"_s);
     scene.Keep({Rule(u"rewe 6"_s), Rule(u"tann"_s)});
-    cRuleListModel list(scene.Tools);
-    list.StartNew();
-    QCOMPARE(list.TrialText(), u"passt auf 0 von 8 Umsätzen"_s);
-    QVERIFY(list.Examples().isEmpty());
-    list.SetDraft(Rule(u"rewe"_s));
-    QCOMPARE(list.TrialText(), u"passt auf 7 von 8 Umsätzen; bei 1 davon gilt schon eine Regel weiter oben"_s);
+    cRuleEditor editor(scene.Tools);
+    editor.StartNew();
+    QCOMPARE(editor.TrialText(), u"passt auf 0 von 8 Umsätzen"_s);
+    QVERIFY(editor.Examples().isEmpty());
+    editor.SetDraft(Rule(u"rewe"_s));
+    QCOMPARE(editor.TrialText(), u"passt auf 7 von 8 Umsätzen; bei 1 davon gilt schon eine Regel weiter oben"_s);
     // The newest first, but before all those that the rule really gets.
-    QCOMPARE(list.Examples().size(), 5);
-    QVERIFY(list.Examples().constFirst().endsWith(u"REWE 5"));
+    QCOMPARE(editor.Examples().size(), 5);
+    QVERIFY(editor.Examples().constFirst().endsWith(u"REWE 5"));
 }
 
 void testRuleListModel::FromARow() const
@@ -261,29 +267,29 @@ void testRuleListModel::FromARow() const
     cScene scene;
     const cImportEntry row = scene.Stage(-1, u"Korn"_s, u"Brot"_s);
     scene.Keep({Rule(u"a"_s), Rule(u"brot"_s), Rule(u"c"_s)});
-    cRuleListModel list(scene.Tools);
-    list.StartFrom(row, u"Haushalt; Getränke"_s, u"Monatlich"_s);
-    QCOMPARE(list.Draft().Counterparty, u"Korn"_s);
-    QCOMPARE(list.Draft().Sign, eRuleSign::Out);
-    QCOMPARE(list.TrialText(), u"passt auf 1 von 1 Umsatz"_s);
-    QVERIFY(list.IsChanged());
-    QVERIFY(list.Save());
+    cRuleEditor editor(scene.Tools);
+    editor.StartFrom(row, u"Haushalt; Getränke"_s, u"Monatlich"_s);
+    QCOMPARE(editor.Draft().Counterparty, u"Korn"_s);
+    QCOMPARE(editor.Draft().Sign, eRuleSign::Out);
+    QCOMPARE(editor.TrialText(), u"passt auf 1 von 1 Umsatz"_s);
+    QVERIFY(editor.IsChanged());
+    QVERIFY(editor.Save());
     // Before the one that had the transaction, else it would never come to it.
-    QCOMPARE(Counts(list), QStringList({u"0"_s, u"1"_s, u"0"_s, u"0"_s}));
-    QCOMPARE(list.index(1, cRuleListModel::Result).data().toString(), u"Haushalt; Getränke, Monatlich"_s);
+    QCOMPARE(Counts(editor.List()), QStringList({u"0"_s, u"1"_s, u"0"_s, u"0"_s}));
+    QCOMPARE(editor.List().index(1, cRuleListModel::Result).data().toString(), u"Haushalt; Getränke, Monatlich"_s);
 }
 
 void testRuleListModel::UnreadableStays() const
 {
     cScene scene;
-    scene.Settings->Set(modSettingKey::OwnRules, u"2;kind=later\n1;text=a;category=A\n"_s);
-    cRuleListModel list(scene.Tools);
-    QVERIFY(!list.CanEdit() && !list.Save());
-    QVERIFY(!list.Switch(0, true));
-    QVERIFY(!list.flags(list.index(0, cRuleListModel::Rule)).testFlag(Qt::ItemIsUserCheckable));
-    QCOMPARE(list.index(0, cRuleListModel::Rule).data().toString(), u"nicht lesbar: 2;kind=later"_s);
-    QVERIFY(list.Move(0, cRuleListModel::eMove::Down));
-    QCOMPARE(scene.Settings->Get(modSettingKey::OwnRules), u"1;text=a;category=A\n2;kind=later"_s);
+    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A\n"_s);
+    cRuleEditor editor(scene.Tools);
+    QVERIFY(!editor.CanEdit() && !editor.Save());
+    QVERIFY(!editor.List().Switch(0, true));
+    QVERIFY(!editor.List().flags(editor.List().index(0, cRuleListModel::Rule)).testFlag(Qt::ItemIsUserCheckable));
+    QCOMPARE(editor.List().index(0, cRuleListModel::Rule).data().toString(), u"nicht lesbar: 2;kind=later"_s);
+    QVERIFY(editor.Move(cRuleEditor::eMove::Down));
+    QCOMPARE(scene.Settings->Get(u"OwnRules"_s), u"1;text=a;category=A\n2;kind=later"_s);
 }
 
 // Rules follow what they name, and come back with it.

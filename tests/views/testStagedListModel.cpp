@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "support/fakes.h"
@@ -32,7 +33,7 @@ cImportEntry Row(int id, QDate day, const QString& name, double euros, bool isBo
     row.ImportDate = day;
     row.ImportBeneficiary = name;
     row.ImportPurpose = u"Zweck %1"_s.arg(id);
-    row.ImportValue = euros;
+    row.ImportValue = modAmount::ToCents(euros);
     row.ImportAssigned = isBooked;
     return row;
 }

@@ -23,7 +23,7 @@ cImportEntry First()
     row.ImportBeneficiary = u"Stadtwerke Talheim"_s;
     row.ImportBeneficiaryAccount = u"DE02120300000000202051"_s;
     row.ImportPurpose = u"Abschlag März"_s;
-    row.ImportValue = -84.5;
+    row.ImportValue = -8450;
     return row;
 }
 
@@ -49,8 +49,8 @@ private Q_SLOTS:
         add("another own account", 0, [](auto& row) { row.ImportAccount = u"99"_s; });
         add("another counterparty", 0, [](auto& row) { row.ImportBeneficiaryAccount = u"202052"_s; });
         add("another day", 0, [](auto& row) { row.ImportDate = row.ImportDate.addDays(1); });
-        add("another amount", 0, [](auto& row) { row.ImportValue = -84.51; });
-        add("the other way round", 0, [](auto& row) { row.ImportValue = 84.5; });
+        add("another amount", 0, [](auto& row) { row.ImportValue = -8451; });
+        add("the other way round", 0, [](auto& row) { row.ImportValue = 8450; });
         add("no account, a name that is cut off", 2, [](auto& row) {
             row.ImportBeneficiaryAccount.clear();
             row.ImportBeneficiary = u"STADTWERKE TAL"_s;

@@ -20,7 +20,7 @@ cImportEntry RowOf(const QString& text)
     cImportEntry row;
     row.ImportAccount = number;
     row.ImportDate = QDate(2026, parts.at(0).left(2).toInt(), parts.at(0).mid(2).toInt());
-    row.ImportValue = parts.at(1).toDouble() / 100;
+    row.ImportValue = parts.at(1).toLongLong();
     row.ImportBeneficiary = parts.value(2);
     row.ImportPurpose = u"Zweck "_s + parts.value(2);
     return row;

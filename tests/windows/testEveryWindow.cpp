@@ -16,7 +16,7 @@
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -85,8 +85,8 @@ struct cScene
         row.ImportAccount = u"1234567"_s;
         row.ImportDate = QDate(2026, 3, 12);
         row.ImportPurpose = u"Einkauf"_s;
-        row.ImportValue = -12.5;
-        Book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
+        row.ImportValue = -1250;
+        Book.Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
         Prepare(Book.Data.AddNewImportEntry(row));
         Row = row.ID;
     }
@@ -117,9 +117,9 @@ struct cScene
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
-    cRuleListModel Rules{Book.Tools};
-    cBookCheck Check{Book.Data, Book.Format};
-    cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
+    cRuleEditor Rules{{Book.Data, *Book.Settings, Format, Book.User}};
+    cBookCheck Check{Book.Data, Format};
+    cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
 };
 
 using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;

@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/testBook.h"
@@ -59,7 +60,7 @@ struct cScene : cTestBook
         row.ImportAccount = u"1234567"_s;
         row.ImportDate = day;
         row.ImportBeneficiary = name;
-        row.ImportValue = value;
+        row.ImportValue = modAmount::ToCents(value);
         if (!Data.AddNewImportEntry(row)) {
             qFatal("row not added");
         }

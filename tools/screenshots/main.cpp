@@ -31,7 +31,7 @@
 #include "views/main/cMainModel.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementListModel.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
@@ -345,7 +345,7 @@ bool TakeRules(cCamera& camera)
         return false;
     }
     const auto take = [&](const QString& name, const cImportEntry* row) {
-        cRuleListModel rules(scene.Tools());
+        cRuleEditor rules(scene.Tools());
         if (row != nullptr) {
             rules.StartFrom(*row, u"Haushalt; Lebensmittel"_s);
         }

@@ -2,7 +2,6 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "import/match/cMatchIndex.h"
 #include "import/match/modMatchScore.h"
 #include "import/propose/cProposer.h"
@@ -56,7 +55,7 @@ struct cRowSense
 modMatchScore::cEvidence EvidenceOf(const cImportEntry& row, const cMatchIndex::cItem& item)
 {
     modMatchScore::cEvidence evidence;
-    evidence.RowCents = std::abs(modAmount::ToCents(row.ImportValue));
+    evidence.RowCents = std::abs(row.ImportValue);
     evidence.EntryCents = std::abs(item.Cents);
     evidence.Days = static_cast<int>(item.Entry.EntryDate.daysTo(row.ImportDate));
     evidence.IsSeries = item.IsSeries;
@@ -157,7 +156,7 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
     if (index == nullptr) {
         return pairs;
     }
-    const qint64 cents = modAmount::ToCents(row.ImportValue);
+    const qint64 cents = row.ImportValue;
     const std::vector<size_t> around = index->Around(row.ImportDate, cents);
     const auto twins = std::count_if(around.begin(), around.end(), [&](size_t item) {
         return index->Item(item).Cents == cents && !index->IsTaken(item, row.ID);
@@ -191,7 +190,7 @@ cMatchCandidate cMatcher::CandidateOf(const cPair& pair, const cImportEntry& row
     const cMatchIndex::cItem& item = pair.Index->Item(pair.Item);
     cMatchCandidate candidate{item.Entry, item.Cents, pair.Score, pair.Reason, pair.Index->IsTaken(pair.Item, row.ID),
                               {}};
-    const qint64 cents = modAmount::ToCents(row.ImportValue);
+    const qint64 cents = row.ImportValue;
     if (item.IsSeries && !item.IsSplit && cents != item.Cents) {
         candidate.Correction = CorrectionTo(item.Entry, std::abs(cents));
     }
@@ -233,7 +232,7 @@ std::optional<cMatchCandidate> cMatcher::ByHand(int rowId, int entryId)
     }
     candidate.Entry = *occurrence;
     candidate.Cents = modBalance::Effect(*occurrence, m_knowledge->Transfers.AccountOf(row->ImportAccount));
-    const qint64 cents = std::abs(modAmount::ToCents(row->ImportValue));
+    const qint64 cents = std::abs(row->ImportValue);
     if (cents != occurrence->EntryValue && modSplit::Group(*entry) == 0) {
         candidate.Correction = CorrectionTo(*occurrence, cents);
     }

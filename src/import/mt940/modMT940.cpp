@@ -401,7 +401,7 @@ private:
     {
         const QString& date = transaction.ValueDate.isEmpty() ? statement.OpeningBalance.Date : transaction.ValueDate;
         const std::optional<double> amount = modAmount::TryReadGerman(transaction.Amount);
-        const double value = std::abs(amount.value_or(0.0));
+        const qint64 size = modAmount::ToEvenCents(std::abs(amount.value_or(0.0)));
         cImportEntry entry;
         entry.ImportDate = ReadDate(date);
         entry.ImportType = m_type.Of(modStatementText::DecodeField(transaction.BookingText));
@@ -410,7 +410,7 @@ private:
         entry.ImportBeneficiaryAccount = modStatementText::DecodeField(transaction.Account);
         entry.ImportBeneficiaryBLZ = m_bankCode.Of(modStatementText::DecodeField(transaction.BankCode));
         // Cancellations count by the letter too: "RD" is negative although the bank pays money back with it.
-        entry.ImportValue = transaction.Mark.contains(u'D', Qt::CaseInsensitive) ? -value : value;
+        entry.ImportValue = transaction.Mark.contains(u'D', Qt::CaseInsensitive) ? -size : size;
         if (entry.ImportDate == noDate) {
             Report(transaction.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {transaction.ValueDate}));
         }

@@ -2,7 +2,7 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
+#include "base/modLog.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/cSeriesFinder.h"
 #include "import/stage/cAccountMap.h"
@@ -10,6 +10,8 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
+
+#include <QElapsedTimer>
 
 #include <cstdlib>
 
@@ -34,6 +36,13 @@ bool HasAssigned(cImportHiveCache& hive, cImportEntry row, int entryId)
 bool IsJoiningTransfer(const cProposal& proposal)
 {
     return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
+}
+
+void Trace(qsizetype wanted, const cBookingResult& result, const QElapsedTimer& time)
+{
+    qCInfo(modLog::Booking) << "rows" << wanted << "booked" << result.Rows << "joined" << result.Joined << "entries"
+                            << result.Entries << "skipped" << result.Skipped << "failed" << result.Failed
+                            << "unknown accounts" << result.UnknownAccounts.size() << "ms" << time.elapsed();
 }
 
 } // namespace
@@ -61,6 +70,8 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
 {
     // A row and its entry belong together: a row that stays open beside its entry would be booked a second time.
     cUndoStep step(m_data, cText::Tr("Umsätze gebucht"));
+    QElapsedTimer time;
+    time.start();
     cBookingResult result;
     cSeriesFinder series(m_data, m_hive);
     progress.showProgressBar(static_cast<int>(rowIds.size()));
@@ -78,6 +89,7 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
     if (!step.DoneIf(result.Failed == 0)) {
         return cBookingResult::Nothing(rowIds.size());
     }
+    Trace(rowIds.size(), result, time);
     return result;
 }
 

@@ -1,7 +1,6 @@
 #include "import/propose/cProposer.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "import/propose/cLearned.h"
 #include "import/propose/cOwnRules.h"
 #include "import/propose/cRuleMatcher.h"
@@ -58,8 +57,8 @@ cEntryItem EntryOf(const cImportEntry& row)
     cEntryItem entry;
     entry.EntryDate = row.ImportDate;
     entry.EntryDateEnd = modRecurrence::OpenEnd;
-    entry.EntryValue = std::abs(modAmount::ToCents(row.ImportValue));
-    entry.EntryType = row.ImportValue > 0.0 ? modWord::Einnahme : modWord::Ausgabe;
+    entry.EntryValue = std::abs(row.ImportValue);
+    entry.EntryType = row.ImportValue > 0 ? modWord::Einnahme : modWord::Ausgabe;
     entry.EntryDescription = DescriptionOf(row);
     return entry;
 }
@@ -69,7 +68,7 @@ QString LearnedReason(const cLearned::cChoice& choice, const cImportEntry& row)
     const QString name = row.ImportBeneficiary.simplified();
     const QString who = name.isEmpty() ? row.ImportBeneficiaryAccount : name;
     const QStringList values{QString::number(choice.Count), who};
-    if (row.ImportValue > 0.0) {
+    if (row.ImportValue > 0) {
         return choice.Count == 1 ? cText::Tr("gelernt aus {0} Buchung von {1}", values)
                                  : cText::Tr("gelernt aus {0} Buchungen von {1}", values);
     }

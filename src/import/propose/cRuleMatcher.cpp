@@ -114,14 +114,14 @@ struct cRule
         OwnNumber = NumberIn(rule.Account);
     }
 
-    [[nodiscard]] bool HasSign(double value) const
+    [[nodiscard]] bool HasSign(qint64 cents) const
     {
-        return Sign == eRuleSign::Any || (Sign == eRuleSign::In ? value > 0.0 : value < 0.0);
+        return Sign == eRuleSign::Any || (Sign == eRuleSign::In ? cents > 0 : cents < 0);
     }
 
     [[nodiscard]] bool Matches(const cRuleRow& row) const
     {
-        return HasSign(row.Value)
+        return HasSign(row.Cents)
             && (Name.isEmpty() || Name == row.Name || IsSameNumber(row.Number, row.BankCode, Number))
             && (Account.isEmpty() || Account == row.Account || IsSameNumber(row.OwnNumber, {}, OwnNumber))
             && (Alternatives.empty()
@@ -139,7 +139,7 @@ cRuleRow::cRuleRow(const cImportEntry& row, const QString& account)
       BankCode(row.ImportBeneficiaryBLZ),
       Account(account),
       OwnNumber(modAccountNumber::Compact(row.ImportAccount)),
-      Value(row.ImportValue)
+      Cents(row.ImportValue)
 {
     // A line break may cut a word or stand between two; only the user's eye knows.
     if (row.ImportPurpose.contains(u'\n') || row.ImportBeneficiary.contains(u'\n')) {

@@ -27,7 +27,7 @@ struct cRuleRow
     QString BankCode;
     QString Account;
     QString OwnNumber;
-    double Value = 0.0;
+    qint64 Cents = 0; // negative: money going out
 };
 
 // The user's own rules, compiled. Rules that are switched off or cannot be read never match.

@@ -1,6 +1,5 @@
 #include "import/propose/cTransferFinder.h"
 
-#include "base/modAmount.h"
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
@@ -64,7 +63,7 @@ void cTransferFinder::Build()
     m_rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     m_byCents.reserve(m_rows.size());
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        m_byCents.insert(modAmount::ToCents(m_rows.at(i).ImportValue), i);
+        m_byCents.insert(m_rows.at(i).ImportValue, i);
     }
     m_isBuilt = true;
 }
@@ -74,7 +73,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
     if (!m_isBuilt) {
         Build();
     }
-    QList<qsizetype> found = m_byCents.values(-modAmount::ToCents(row.ImportValue));
+    QList<qsizetype> found = m_byCents.values(-row.ImportValue);
     const auto distance = [&](qsizetype i) { return std::abs(m_rows.at(i).ImportDate.daysTo(row.ImportDate)); };
     found.removeIf([&](qsizetype i) {
         const int otherId = m_rows.at(i).ID;

@@ -93,21 +93,21 @@ const cLookup& Lookup()
     return lookup;
 }
 
-bool HasSign(double value, eSign sign)
+bool HasSign(qint64 cents, eSign sign)
 {
     switch (sign) {
-    case eSign::Positive: return value > 0.0;
-    case eSign::Negative: return value < 0.0;
+    case eSign::Positive: return cents > 0;
+    case eSign::Negative: return cents < 0;
     case eSign::Any: break;
     }
     return true;
 }
 
-void Apply(const cRule& rule, const QString& keyword, double value, modKeywordRules::cMatch& match)
+void Apply(const cRule& rule, const QString& keyword, qint64 cents, modKeywordRules::cMatch& match)
 {
     match.Interval = QString::fromUtf8(rule.Interval);
-    if (HasSign(value, rule.CategoryOnly)) {
-        const bool isOther = value > 0.0 && rule.PositiveCategory != nullptr;
+    if (HasSign(cents, rule.CategoryOnly)) {
+        const bool isOther = cents > 0 && rule.PositiveCategory != nullptr;
         match.Category = QString::fromUtf8(isOther ? rule.PositiveCategory : rule.Category);
         match.Keyword = keyword;
     }
@@ -121,7 +121,7 @@ QString modKeywordRules::MatchText(const cImportEntry& row)
     return joined.toLower().remove(u'\n').remove(u'\r');
 }
 
-modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, double value, eRestriction restriction)
+modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, qint64 cents, eRestriction restriction)
 {
     const auto& rules = modKeywordTable::Rules();
     const std::vector<int> found = Lookup().Find(matchText);
@@ -130,8 +130,8 @@ modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, double 
         const cRule& rule = rules[i];
         const bool isLeftOut = restriction == eRestriction::Restricted && rule.IsUncertain;
         const bool hasSecond = rule.AlsoRequired == nullptr || matchText.contains(QString::fromUtf8(rule.AlsoRequired));
-        if (found[i] >= 0 && hasSecond && !isLeftOut && HasSign(value, rule.Only)) {
-            Apply(rule, Lookup().Alternative(i, found[i]), value, match);
+        if (found[i] >= 0 && hasSecond && !isLeftOut && HasSign(cents, rule.Only)) {
+            Apply(rule, Lookup().Alternative(i, found[i]), cents, match);
         }
     }
     return match;

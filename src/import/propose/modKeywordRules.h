@@ -23,6 +23,6 @@ struct cMatch
 [[nodiscard]] QString MatchText(const cImportEntry& row);
 
 // Applies all rules in their order; the last one that matches wins. `value` is the signed amount.
-[[nodiscard]] cMatch Match(const QString& matchText, double value, eRestriction restriction);
+[[nodiscard]] cMatch Match(const QString& matchText, qint64 cents, eRestriction restriction);
 
 } // namespace modKeywordRules

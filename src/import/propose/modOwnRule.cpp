@@ -209,8 +209,8 @@ cOwnRule modOwnRule::FromRow(const cImportEntry& row)
     if (!rule.HasCondition()) {
         rule.Text = row.ImportType.section(u'|', 0, 0).simplified();
     }
-    if (row.ImportValue > 0.0 || row.ImportValue < 0.0) {
-        rule.Sign = row.ImportValue > 0.0 ? eRuleSign::In : eRuleSign::Out;
+    if (row.ImportValue != 0) {
+        rule.Sign = row.ImportValue > 0 ? eRuleSign::In : eRuleSign::Out;
     }
     return rule;
 }

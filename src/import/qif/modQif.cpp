@@ -296,7 +296,7 @@ private:
         entry.ImportType = isSplit ? Unique(record.SplitCategories).join(u", ") : record.Category;
         entry.ImportPurpose = record.Memo.isEmpty() ? record.SplitMemos.join(u", ") : record.Memo;
         entry.ImportBeneficiary = record.Payee;
-        entry.ImportValue = value.value_or(0.0);
+        entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
         if (entry.ImportPurpose.isEmpty() && m_options.MissingPurpose == eMissingPurpose::Name) {
             entry.ImportPurpose = record.Payee;
         }

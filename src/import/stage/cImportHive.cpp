@@ -1,8 +1,6 @@
 #include "import/stage/cImportHive.h"
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
 
 namespace {
 
@@ -48,13 +46,11 @@ qsizetype PlaceFor(const tList& list, int key, const tKey& keyOf)
     return place - list.begin();
 }
 
-// Equal by cImportEntry::isEqual means an equal hash, as long as both amounts are numbers.
+// Equal by cImportEntry::isEqual means an equal hash.
 size_t CompareHash(const cImportEntry& entry)
 {
-    const double value = entry.ImportValue + 0.0; // -0.0 becomes 0.0: the two compare as equal
     return qHashMulti(0, entry.ImportDate.toJulianDay(), entry.ImportAccount, entry.ImportBeneficiaryAccount,
-                      entry.ImportBeneficiary, entry.ImportBeneficiaryBLZ, entry.ImportPurpose,
-                      std::bit_cast<quint64>(value));
+                      entry.ImportBeneficiary, entry.ImportBeneficiaryBLZ, entry.ImportPurpose, entry.ImportValue);
 }
 
 } // namespace
@@ -108,11 +104,11 @@ int cImportHive::GetImportEntryCountByNumber(const QString& account) const
                                           [&](const cImportEntry& entry) { return entry.ImportAccount == account; }));
 }
 
-double cImportHive::GetImportEntrySumByNumber(const QString& account) const
+qint64 cImportHive::GetImportEntrySumByNumber(const QString& account) const
 {
-    double sum = 0.0;
+    qint64 sum = 0;
     for (const cImportEntry& entry : m_entries) {
-        sum += entry.ImportAccount == account ? entry.ImportValue : 0.0;
+        sum += entry.ImportAccount == account ? entry.ImportValue : 0;
     }
     return sum;
 }
@@ -120,10 +116,6 @@ double cImportHive::GetImportEntrySumByNumber(const QString& account) const
 bool cImportHive::IsImportItemAvail(const cImportEntry& entry) const
 {
     BuildIndex();
-    if (m_oddValues > 0 || std::isnan(entry.ImportValue)) {
-        return std::any_of(m_entries.begin(), m_entries.end(),
-                           [&](const cImportEntry& row) { return row.isEqual(entry); });
-    }
     const auto [first, last] = m_index.equal_range(CompareHash(entry));
     return std::any_of(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqual(entry); });
 }
@@ -247,13 +239,11 @@ void cImportHive::RemoveFromGroup(int entryId, int rowId)
 
 void cImportHive::AddToIndex(const cImportEntry& entry) const
 {
-    m_oddValues += std::isnan(entry.ImportValue) ? 1 : 0;
     m_index.insert(CompareHash(entry), entry.ID);
 }
 
 void cImportHive::RemoveFromIndex(const cImportEntry& entry) const
 {
-    m_oddValues -= std::isnan(entry.ImportValue) ? 1 : 0;
     m_index.remove(CompareHash(entry), entry.ID);
 }
 
@@ -264,7 +254,6 @@ void cImportHive::BuildIndex() const
     }
     m_index.clear();
     m_index.reserve(m_entries.size());
-    m_oddValues = 0;
     for (const cImportEntry& entry : m_entries) {
         AddToIndex(entry);
     }

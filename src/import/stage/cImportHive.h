@@ -27,7 +27,8 @@ public:
     // True when a staged row is assigned to the entry.
     [[nodiscard]] bool IsImportEntryAvail(int entryId) const;
     [[nodiscard]] int GetImportEntryCountByNumber(const QString& account) const;
-    [[nodiscard]] double GetImportEntrySumByNumber(const QString& account) const;
+    // Cents.
+    [[nodiscard]] qint64 GetImportEntrySumByNumber(const QString& account) const;
     // The duplicate test: a staged row isEqual the record.
     [[nodiscard]] bool IsImportItemAvail(const cImportEntry& entry) const;
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByID(int id) const;
@@ -64,6 +65,5 @@ private:
 
     // Built by the first duplicate test: readers that never import do not pay for it.
     mutable bool m_isIndexed = false;
-    mutable qsizetype m_oddValues = 0;       // rows whose amount is no number: these equal every amount
     mutable QMultiHash<size_t, int> m_index; // hash over the compared fields to row ID
 };

@@ -12,8 +12,7 @@ cStaging::cStaging(cImportHiveCache& hive, eStagingRun run) : m_hive(hive)
 
 eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
 {
-    const bool isZero = !(entry.ImportValue < 0.0) && !(entry.ImportValue > 0.0);
-    if (isZero) {
+    if (entry.ImportValue == 0) {
         return eStaged::Zero;
     }
     entry.Validate();

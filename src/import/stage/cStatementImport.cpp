@@ -2,8 +2,8 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modCount.h"
+#include "base/modLog.h"
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
@@ -16,6 +16,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 
 #include <algorithm>
@@ -134,6 +135,21 @@ void ReportFailures(cImportResult& result)
     }
 }
 
+const char* OutcomeOf(const cImportResult& result)
+{
+    return result.IsRefused ? "refused" : result.IsCancelled ? "cancelled" : "read";
+}
+
+// The message of a refusal may name the file, so it stays out.
+void Trace(const cImportResult& result, qsizetype bytes, const QElapsedTimer& time)
+{
+    qCInfo(modLog::Import).noquote() << OutcomeOf(result) << "format" << result.Format << "bytes" << bytes
+                                     << "transactions" << result.Read << "staged" << result.Staged << "duplicates"
+                                     << result.Duplicates.size() << "zero" << result.Zero << "failed" << result.Failed
+                                     << "skipped" << result.Skipped.size() << "problems" << result.Problems.size()
+                                     << "accounts" << result.Accounts.size() << "ms" << time.elapsed();
+}
+
 } // namespace
 
 cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory,
@@ -152,6 +168,7 @@ cImportResult cStatementImport::ImportFile(const QString& path, const cImportOpt
     if (!content.Failure.isEmpty()) {
         cImportResult result;
         result.File = path;
+        qCInfo(modLog::Import) << "the file cannot be read";
         return Refuse(std::move(result), content.Failure);
     }
     return ImportSource(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
@@ -164,6 +181,16 @@ cImportResult cStatementImport::ImportText(const QString& path, const QString& t
 }
 
 cImportResult cStatementImport::ImportSource(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress)
+{
+    QElapsedTimer time;
+    time.start();
+    cImportResult result = ReadAndStage(source, options, progress);
+    Trace(result, source.Bytes.size(), time);
+    return result;
+}
+
+cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, const cImportOptions& options,
                                              cProgress& progress)
 {
     cImportResult result;
@@ -249,7 +276,7 @@ cStatementRead cStatementImport::Read(const cStatementSource& source, eStatement
     return read;
 }
 
-double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
+qint64 cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
                                      const QString& defaultAccount)
 {
     progress.showProgressBar(modMT940::ProgressMaximum(text));
@@ -257,7 +284,7 @@ double cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& 
     progress.addProgressValue(static_cast<int>(text.count(u":86:")));
     cImportResult result;
     Stage(std::move(read), options, progress, result);
-    return modAmount::ToEuros(result.ClosingBalance.value_or(0));
+    return result.ClosingBalance.value_or(0);
 }
 
 cStaging& cStatementImport::StagingFor(eStagingRun run)

@@ -52,12 +52,14 @@ public:
                                            cProgress& progress);
 
     // Stages the transactions of an MT940 or MT942 text, as the online fetch hands it over. The closing balance in
-    // euros, negative unless its mark contains "C"; 0 when there is none or when a :86: line stands before its :61:
+    // cents, negative unless its mark contains "C"; 0 when there is none or when a :86: line stands before its :61:
     // line, in which case nothing is staged, because the text is read to its end before the first transaction is.
-    double ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
+    qint64 ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
                        const QString& defaultAccount);
 
 private:
+    [[nodiscard]] cImportResult ReadAndStage(const cStatementSource& source, const cImportOptions& options,
+                                             cProgress& progress);
     [[nodiscard]] cStatementRead Read(const cStatementSource& source, eStatementFormat format,
                                       const cImportOptions& options, cProgress& progress);
     [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;

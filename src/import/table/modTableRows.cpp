@@ -248,7 +248,7 @@ private:
         entry.ImportBeneficiary = Cell(m_map.Payer >= 0 && value > 0 ? m_map.Payer : m_map.Name).toString();
         entry.ImportBeneficiaryAccount = CounterAccount();
         entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
-        entry.ImportValue = value;
+        entry.ImportValue = modAmount::ToEvenCents(value);
         entry.ImportCurrency = m_map.Currency >= 0 ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
         modTableDetails::Apply(m_layout.Details, entry);
         return entry;
@@ -324,7 +324,7 @@ private:
         if (!balance) {
             return;
         }
-        const cPoint point{entry.ImportDate, modAmount::ToCents(*balance), modAmount::ToCents(entry.ImportValue)};
+        const cPoint point{entry.ImportDate, modAmount::ToCents(*balance), entry.ImportValue};
         m_points.push_back(point);
     }
 

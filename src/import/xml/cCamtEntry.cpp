@@ -271,7 +271,7 @@ cImportEntry cCamtEntry::Record(const pugi::xml_node& detail, qint64 cents) cons
     record.ImportBeneficiary = modStatementText::DecodeField(modCamtText::Name(party.Name));
     record.ImportBeneficiaryAccount = party.Account;
     record.ImportBeneficiaryBLZ = party.BankCode;
-    record.ImportValue = modAmount::ToEuros(cents);
+    record.ImportValue = cents;
     record.ImportCurrency = QString::fromUtf8(m_entry.child("Amt").attribute("Ccy").value());
     return record;
 }

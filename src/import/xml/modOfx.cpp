@@ -130,13 +130,13 @@ private:
         return takesName ? modStatementText::DecodeField(TextOf(node, "NAME")) : memo;
     }
 
-    double ReadValue(const QString& amount)
+    qint64 ReadValue(const QString& amount)
     {
         const std::optional<double> value = modAmount::TryReadGerman(modOfxText::ToGermanAmount(amount));
         if (!value) {
             Report(cText::Tr("Der Betrag ist keine Zahl: {0}", {amount.left(40)}));
         }
-        return value.value_or(0.0);
+        return modAmount::ToEvenCents(value.value_or(0.0));
     }
 
     void TakeBalance(const pugi::xml_node& ledger)

@@ -156,8 +156,8 @@ QString cEntryEditor::VatText(const cFields& fields) const
         return !modTemplate::IsAccount(item) && modTemplate::Path(item) == fields.Category;
     });
     const qint64 rate = category == items.end() ? 0 : modTemplate::VatRate(*category).value_or(0);
-    const qint64 cents = std::abs(modSum::Evaluate(fields.Amount).value_or(0));
-    if (rate == 0 || cents == 0) {
+    const qint64 cents = rate == 0 ? 0 : std::abs(modSum::Evaluate(fields.Amount).value_or(0));
+    if (cents == 0) {
         return {};
     }
     return cText::Tr(

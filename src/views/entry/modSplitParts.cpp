@@ -46,6 +46,9 @@ std::optional<qint64> modSplitParts::Rest(const cEntryFields& fields)
 
 QString modSplitParts::RestText(const cEntryFields& fields)
 {
+    if (fields.Face != eEntryFace::Split) {
+        return {}; // nobody sees it: the amount need not be evaluated
+    }
     const std::optional<qint64> rest = Rest(fields);
     if (!rest) {
         return cText::Tr("Ein Betrag ist keine Zahl.");

@@ -221,11 +221,10 @@ QString cSearchModel::TotalText() const
 QString cSearchModel::Hint() const
 {
     for (const QString& amount : {m_fields.Amount, m_fields.AmountTo}) {
-        if (modSum::IsDoubtful(amount, Decimal())) {
-            return modSum::Fault(amount, Decimal());
-        }
         if (!IsAmount(amount)) {
-            return cText::Tr("'{0}' ist kein Betrag, die Suche lässt ihn außer Acht.", {amount});
+            return modSum::IsDoubtful(amount, Decimal())
+                ? modSum::Fault(amount, Decimal())
+                : cText::Tr("'{0}' ist kein Betrag, die Suche lässt ihn außer Acht.", {amount});
         }
     }
     const modPeriod::cRange days = m_query.Days;

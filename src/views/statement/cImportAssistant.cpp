@@ -2,7 +2,6 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "import/read/cStatementSource.h"
@@ -372,7 +371,7 @@ void cImportAssistant::ReadPreview()
                        modDate::ToGerman(entry.ImportDate),
                        entry.ImportBeneficiary.simplified(),
                        entry.ImportPurpose.simplified(),
-                       m_parts.Format.Cents(modAmount::ToCents(entry.ImportValue)),
+                       m_parts.Format.Cents(entry.ImportValue),
                        {},
                        false});
     }
@@ -404,7 +403,7 @@ cImportAssistant::cRow cImportAssistant::Preview(int row, const cTableLayout& la
     shown.Name = entry.ImportBeneficiary.simplified();
     shown.Purpose = entry.ImportPurpose.simplified();
     if (entry.ImportDate.isValid()) {
-        shown.Amount = m_parts.Format.Cents(modAmount::ToCents(entry.ImportValue));
+        shown.Amount = m_parts.Format.Cents(entry.ImportValue);
     }
     return shown;
 }

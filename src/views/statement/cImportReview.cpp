@@ -3,7 +3,6 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
@@ -16,7 +15,7 @@
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cRowProposals.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
@@ -281,7 +280,7 @@ QString cImportReview::SelectionText(const QList<int>& rowIds)
     if (rows.size() > 1) {
         qint64 sum = 0;
         for (const cImportEntry& row : rows) {
-            sum += modAmount::ToCents(row.ImportValue);
+            sum += row.ImportValue;
         }
         return cText::Tr("{0} markiert, davon {1} offen, Summe {2}",
                          {modImportText::Count(static_cast<int>(rows.size())), QString::number(OpenRows(rowIds).size()),
@@ -318,7 +317,7 @@ QString cImportReview::ChoiceTitle(const QList<int>& rowIds)
 QString cImportReview::TypeOf(const QList<int>& rowIds)
 {
     const cImportEntryList rows = OpenRows(rowIds);
-    const auto isIn = [](const cImportEntry& row) { return row.ImportValue > 0.0; };
+    const auto isIn = [](const cImportEntry& row) { return row.ImportValue > 0; };
     if (rows.isEmpty() || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
             return isIn(row) != isIn(rows.constFirst());
         })) {
@@ -406,7 +405,7 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
     }
 }
 
-std::unique_ptr<cRuleListModel> cImportReview::StartRule(const QList<int>& rowIds)
+std::unique_ptr<cRuleEditor> cImportReview::StartRule(const QList<int>& rowIds)
 {
     const cImportEntryList rows = rowIds.size() == 1 ? RowsOf(rowIds) : cImportEntryList();
     if (rows.isEmpty()) {
@@ -414,9 +413,9 @@ std::unique_ptr<cRuleListModel> cImportReview::StartRule(const QList<int>& rowId
     }
     const cImportEntry& row = rows.constFirst();
     const cStagedInfo info = Info(row);
-    auto rules = std::make_unique<cRuleListModel>(m_tools);
+    auto rules = std::make_unique<cRuleEditor>(m_tools);
     rules->StartFrom(row, info.Category, info.Interval);
-    connect(rules.get(), &cRuleListModel::RulesChanged, this, &cImportReview::Refresh);
+    connect(&rules->List(), &cRuleListModel::RulesChanged, this, &cImportReview::Refresh);
     return rules;
 }
 

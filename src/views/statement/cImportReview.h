@@ -14,7 +14,7 @@
 class cAssignListModel;
 class cEntrySuggestions;
 class cProgress;
-class cRuleListModel;
+class cRuleEditor;
 class cStatementFiles;
 struct cBookTools;
 struct cProposal;
@@ -92,7 +92,7 @@ public:
     // Sets booked rows back to open; the entries stay.
     void Release(const QList<int>& rowIds);
     // The user's own rules with a new one proposed from the row; the review follows what is stored, and outlives it.
-    [[nodiscard]] std::unique_ptr<cRuleListModel> StartRule(const QList<int>& rowIds);
+    [[nodiscard]] std::unique_ptr<cRuleEditor> StartRule(const QList<int>& rowIds);
 
     // Removes the rows after a question; entries made from them stay.
     void Delete(const QList<int>& rowIds);

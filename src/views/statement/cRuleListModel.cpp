@@ -2,20 +2,14 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
-#include "import/propose/modOwnRule.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
-#include "model/cTemplateItem.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cRuleTrial.h"
-#include "views/statement/modImportText.h"
 #include "views/statement/modRuleText.h"
 #include "views/template/modBookNames.h"
 
@@ -39,65 +33,12 @@ cRuleListModel::cRuleListModel(const cBookTools& tools, QObject* parent)
     : QAbstractTableModel(parent),
       m_tools(tools),
       m_works(std::make_unique<cWorks>(tools)),
-      m_suggestions(std::make_unique<cEntrySuggestions>(tools.Data, tools.User)),
       m_rules(m_works->Stored.Load())
 {
     m_works->Trial.SetRules(m_rules);
-    if (m_rules.isEmpty()) {
-        StartNew();
-    } else {
-        Open(0);
-    }
 }
 
 cRuleListModel::~cRuleListModel() = default;
-
-void cRuleListModel::Edit(const cOwnRule& rule, int place, bool isNew)
-{
-    m_draft = rule;
-    m_start = rule;
-    m_place = place;
-    m_isNew = isNew;
-    Q_EMIT DraftChanged();
-}
-
-void cRuleListModel::Open(int place)
-{
-    if (IsPlace(place)) {
-        Edit(m_rules.at(place), place, false);
-    }
-}
-
-void cRuleListModel::StartNew()
-{
-    Edit({}, static_cast<int>(m_rules.size()), true);
-}
-
-void cRuleListModel::StartFrom(const cImportEntry& row, const QString& category, const QString& interval)
-{
-    cOwnRule rule = modOwnRule::FromRow(row);
-    rule.Category = category;
-    rule.Interval = interval;
-    // Behind the rule that the transaction has now the new one would never see it.
-    const int place = m_works->Trial.PlaceFor(row);
-    Edit(rule, place < 0 ? static_cast<int>(m_rules.size()) : place, true);
-    m_start = {}; // a proposal is worth a question before it is dropped
-}
-
-void cRuleListModel::SetDraft(const cOwnRule& draft)
-{
-    m_draft = draft;
-}
-
-bool cRuleListModel::IsChanged() const
-{
-    return CanEdit() && m_draft != m_start;
-}
-
-QString cRuleListModel::TypeOf(const cOwnRule& rule)
-{
-    return rule.Sign == eRuleSign::Any ? QString() : rule.Sign == eRuleSign::In ? modWord::Einnahme : modWord::Ausgabe;
-}
 
 bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
 {
@@ -124,55 +65,18 @@ bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
     return true;
 }
 
-bool cRuleListModel::Save()
+bool cRuleListModel::Add(int place, const cOwnRule& rule)
 {
-    const QString problem = modRuleText::Problem(m_draft);
-    if (!problem.isEmpty()) {
-        m_tools.User.Show(eTone::Exclamation, problem);
-        return false;
-    }
-    if (!m_draft.Category.isEmpty() && !modBookNames::UsedCategories(m_tools.Data).contains(m_draft.Category)) {
-        const QString path = m_suggestions->OfferNew(m_draft.Category, TypeOf(m_draft));
-        if (path.isEmpty()) {
-            return false;
-        }
-        m_draft.Category = path;
-    }
     QList<cOwnRule> rules = m_rules;
-    if (m_isNew) {
-        rules.insert(m_place, m_draft);
-    } else {
-        rules[m_place] = m_draft;
-    }
-    if (!Store(rules, m_isNew ? cText::Tr("Regel angelegt") : cText::Tr("Regel geändert"))) {
-        return false;
-    }
-    Open(m_place);
-    return true;
+    rules.insert(place, rule);
+    return Store(rules, cText::Tr("Regel angelegt"));
 }
 
-bool cRuleListModel::Leave()
+bool cRuleListModel::Change(int place, const cOwnRule& rule)
 {
-    if (!IsChanged()) {
-        return true;
-    }
-    const eAnswer answer =
-        m_tools.User.Ask({.Text = cText::Tr("Die Regel wurde geändert. Soll sie gespeichert werden?"),
-                          .Title = cText::Tr("Regeln"),
-                          .Buttons = eButtons::YesNoCancel});
-    return answer == eAnswer::No || (answer == eAnswer::Yes && Save());
-}
-
-bool cRuleListModel::Choose(int place)
-{
-    const auto before = m_rules.size();
-    const int saved = m_place;
-    if (!Leave()) {
-        return false;
-    }
-    const bool isPushed = m_rules.size() > before && saved <= place;
-    Open(isPushed ? place + 1 : place);
-    return true;
+    QList<cOwnRule> rules = m_rules;
+    rules[place] = rule;
+    return Store(rules, cText::Tr("Regel geändert"));
 }
 
 bool cRuleListModel::Delete(int place)
@@ -187,25 +91,7 @@ bool cRuleListModel::Delete(int place)
     }
     QList<cOwnRule> rules = m_rules;
     rules.removeAt(place);
-    if (!Store(rules, cText::Tr("Regel gelöscht"))) {
-        return false;
-    }
-    if (rules.isEmpty()) {
-        StartNew();
-    } else {
-        Open(qMin(place, static_cast<int>(rules.size()) - 1));
-    }
-    return true;
-}
-
-bool cRuleListModel::CanMove(int place, eMove way) const
-{
-    return IsPlace(place) && IsPlace(way == eMove::Up ? place - 1 : place + 1);
-}
-
-bool cRuleListModel::Move(int place, eMove way)
-{
-    return MoveTo(place, way == eMove::Up ? place - 1 : place + 1);
+    return Store(rules, cText::Tr("Regel gelöscht"));
 }
 
 bool cRuleListModel::MoveTo(int place, int target)
@@ -215,11 +101,7 @@ bool cRuleListModel::MoveTo(int place, int target)
     }
     QList<cOwnRule> rules = m_rules;
     rules.move(place, target);
-    if (!Store(rules, cText::Tr("Regel verschoben"))) {
-        return false;
-    }
-    Open(target);
-    return true;
+    return Store(rules, cText::Tr("Regel verschoben"));
 }
 
 bool cRuleListModel::Switch(int place, bool isOn)
@@ -229,52 +111,17 @@ bool cRuleListModel::Switch(int place, bool isOn)
     }
     QList<cOwnRule> rules = m_rules;
     rules[place].IsOn = isOn;
-    if (!Store(rules, isOn ? cText::Tr("Regel eingeschaltet") : cText::Tr("Regel ausgeschaltet"))) {
-        return false;
-    }
-    if (!m_isNew && place == m_place) {
-        m_draft.IsOn = isOn;
-        m_start.IsOn = isOn;
-    }
-    return true;
+    return Store(rules, isOn ? cText::Tr("Regel eingeschaltet") : cText::Tr("Regel ausgeschaltet"));
 }
 
-QString cRuleListModel::TrialText() const
+const cRuleTrial& cRuleListModel::Trial() const
 {
-    if (!CanEdit()) {
-        return modRuleText::Problem(m_draft);
-    }
-    const int total = m_works->Trial.Total();
-    if (total == 0) {
-        return cText::Tr("Es sind keine Umsätze eingelesen, an denen sich die Regel erproben ließe.");
-    }
-    const cRuleTrial::cFound found = m_works->Trial.Try(m_draft, m_place);
-    const QStringList numbers{QString::number(found.Count), QString::number(total)};
-    const QString text = total == 1 ? cText::Tr("passt auf {0} von {1} Umsatz", numbers)
-                                    : cText::Tr("passt auf {0} von {1} Umsätzen", numbers);
-    return found.Earlier == 0
-        ? text
-        : text + cText::Tr("; bei {0} davon gilt schon eine Regel weiter oben", {QString::number(found.Earlier)});
+    return m_works->Trial;
 }
 
 int cRuleListModel::CountAt(int place) const
 {
     return m_works->Trial.CountAt(place);
-}
-
-QStringList cRuleListModel::Examples() const
-{
-    QStringList lines;
-    const cImportEntryList rows = m_works->Trial.Try(m_draft, m_place).Examples;
-    for (const cImportEntry& row : rows) {
-        lines.append(modImportText::Row(row, m_tools.Format));
-    }
-    return lines;
-}
-
-QStringList cRuleListModel::Accounts() const
-{
-    return cEntrySuggestions::VisibleAccounts(m_tools.Data);
 }
 
 QString cRuleListModel::EmptyTitle()

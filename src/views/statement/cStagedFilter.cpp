@@ -1,7 +1,5 @@
 #include "views/statement/cStagedFilter.h"
 
-#include "base/modAmount.h"
-
 #include <QHash>
 #include <QStringList>
 
@@ -46,5 +44,5 @@ cStagedFilter::cStagedFilter(const cImportEntryList& rows, const cAmountFormat& 
 
 std::vector<int> cStagedFilter::Find(const QList<modFold::cFolded>& words, const std::vector<int>& among)
 {
-    return m_filter.Find(words, among, [this](int row) { return modAmount::ToCents(m_rows.at(row).ImportValue); });
+    return m_filter.Find(words, among, [this](int row) { return m_rows.at(row).ImportValue; });
 }

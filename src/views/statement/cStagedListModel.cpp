@@ -1,7 +1,6 @@
 #include "views/statement/cStagedListModel.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
@@ -115,7 +114,7 @@ std::vector<qint64> cStagedListModel::SortKeys(const std::vector<int>& among) co
         const cImportEntry& row = rows.at(i);
         keys.push_back(m_sortColumn == State      ? (row.ImportAssigned ? 1 : 0)
                            : m_sortColumn == Date ? row.ImportDate.toJulianDay()
-                                                  : modAmount::ToCents(row.ImportValue));
+                                                  : row.ImportValue);
     }
     return keys;
 }
@@ -298,7 +297,7 @@ QString cStagedListModel::Text(const cImportEntry& row, int column) const
     case Date: return modDate::ToGerman(row.ImportDate);
     case Counterparty: return row.ImportBeneficiary;
     case Purpose: return row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose;
-    case Amount: return m_format.Cents(modAmount::ToCents(row.ImportValue));
+    case Amount: return m_format.Cents(row.ImportValue);
     case Account: return AccountText(row);
     case Category: return InfoOf(row).Category;
     case Interval: return modWord::Intervals().ToShown(InfoOf(row).Interval);
@@ -339,7 +338,7 @@ QVariant cStagedListModel::RowData(const cImportEntry& row, int column, int role
     case Qt::DisplayRole: return Text(row, column);
     case Qt::EditRole: return column == Interval ? InfoOf(row).Interval : Text(row, column);
     case Qt::ToolTipRole: return Tip(row, column);
-    case ToneRole: return row.ImportValue > 0.0 ? 1 : (row.ImportValue < 0.0 ? 2 : 0);
+    case ToneRole: return row.ImportValue > 0 ? 1 : (row.ImportValue < 0 ? 2 : 0);
     case RowIdRole: return row.ID;
     case BookedRole: return row.ImportAssigned;
     case GroupRole: return false;

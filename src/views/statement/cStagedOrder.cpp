@@ -1,6 +1,5 @@
 #include "views/statement/cStagedOrder.h"
 
-#include "base/modAmount.h"
 #include "views/statement/cStagedFilter.h"
 
 #include <QDate>
@@ -138,7 +137,7 @@ void cStagedOrder::Gather()
         }
         ++m_groups.back().Count;
         m_groups.back().Open += row.ImportAssigned ? 0 : 1;
-        m_groups.back().Sum += modAmount::ToCents(row.ImportValue);
+        m_groups.back().Sum += row.ImportValue;
     }
 }
 

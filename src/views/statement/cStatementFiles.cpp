@@ -295,7 +295,7 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
         m_leftOut.append({row, cText::Tr("schon vorhanden")});
     }
     for (const cSkippedRow& row : result.Skipped) {
-        if (!result.IsRefused && row.Entry.ImportDate.isValid() && row.Entry.ImportValue != 0.0) {
+        if (!result.IsRefused && row.Entry.ImportDate.isValid() && row.Entry.ImportValue != 0) {
             m_leftOut.append({row.Entry, modImportPreview::Kind(row.Kind)});
         }
     }

@@ -1,6 +1,5 @@
 #include "views/statement/cStatementLedger.h"
 
-#include "base/modAmount.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
 #include "model/modBalance.h"
@@ -81,7 +80,7 @@ void cStatementLedger::Take(cImportEntryList rows, const QString& number)
                      [](const auto& a, const auto& b) { return a.ImportDate < b.ImportDate; });
     m_amounts.clear();
     for (const cImportEntry& row : std::as_const(m_rows)) {
-        m_amounts.push_back({row.ImportDate, modAmount::ToCents(row.ImportValue)});
+        m_amounts.push_back({row.ImportDate, row.ImportValue});
     }
     m_check = modBalanceCheck::Check(m_amounts, cBankBalances(m_settings).Of(number));
     m_balances = {m_check.Opening};

@@ -1,7 +1,6 @@
 #include "views/statement/modImportPreview.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "import/stage/cImportResult.h"
@@ -30,7 +29,7 @@ QString modImportPreview::Count(const cImportResult& result, const cAmountFormat
         const auto [first, last] = std::minmax_element(result.Rows.begin(), result.Rows.end(), isEarlier);
         qint64 sum = 0;
         for (const cImportEntry& row : result.Rows) {
-            sum += modAmount::ToCents(row.ImportValue);
+            sum += row.ImportValue;
         }
         parts.append(
             cText::Tr("vom {0} bis {1}", {modDate::ToGerman(first->ImportDate), modDate::ToGerman(last->ImportDate)}));

@@ -1,7 +1,6 @@
 #include "views/statement/modImportText.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
@@ -76,7 +75,7 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
 
 QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
 {
-    QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(modAmount::ToCents(row.ImportValue)),
+    QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),
                       row.ImportBeneficiary.simplified(),
                       (row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose).simplified()};
     parts.removeAll(QString());

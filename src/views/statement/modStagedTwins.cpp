@@ -1,6 +1,5 @@
 #include "views/statement/modStagedTwins.h"
 
-#include "base/modAmount.h"
 #include "base/modFold.h"
 #include "base/modSimilar.h"
 #include "import/read/modAccountNumber.h"
@@ -87,9 +86,8 @@ std::vector<cPlace> Places(const cImportEntryList& rows, cAccounts& accounts)
     places.reserve(static_cast<std::size_t>(rows.size()));
     for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
         const cImportEntry& row = rows.at(i);
-        places.push_back({qHashMulti(0, accounts.Of(row.ImportAccount), row.ImportDate.toJulianDay(),
-                                     modAmount::ToCents(row.ImportValue)),
-                          i});
+        places.push_back(
+            {qHashMulti(0, accounts.Of(row.ImportAccount), row.ImportDate.toJulianDay(), row.ImportValue), i});
     }
     std::sort(places.begin(), places.end(),
               [](const cPlace& a, const cPlace& b) { return a.Hash != b.Hash ? a.Hash < b.Hash : a.Row < b.Row; });
@@ -105,7 +103,7 @@ std::optional<cTwin> TwinOf(const cImportEntry& row, const std::vector<const cIm
     for (const cImportEntry* other : others) {
         const bool isSameFile = file != 0 && lookups.FileOf(other->ID) == file;
         if (other->ID == row.ID || isSameFile || other->isEqual(row) || other->ImportDate != row.ImportDate
-            || modAmount::ToCents(other->ImportValue) != modAmount::ToCents(row.ImportValue)) {
+            || other->ImportValue != row.ImportValue) {
             continue;
         }
         const std::optional<eSame> same = Compare(row, *other);

@@ -512,13 +512,13 @@ QString cTemplateManager::AmountLabel(const cTemplateFields& fields) const
 
 QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
 {
+    if (!modRecurrence::IsRecurring(fields.Interval)) {
+        return {}; // the label says it
+    }
     cTemplateItem item;
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
     item.TemplateDefaultValue = modAmount::CentsToText(modSum::Evaluate(fields.Amount).value_or(0));
-    if (!modRecurrence::IsRecurring(fields.Interval)) {
-        return {}; // the label says it
-    }
     const qint64 limit = modTemplate::LimitCents(item, 1);
     return limit == 0 ? cText::Tr("Wird vorgeschlagen")
                       : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_tools.Format.Cents(limit)});

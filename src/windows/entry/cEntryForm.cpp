@@ -181,8 +181,7 @@ void cEntryForm::Offer()
 void cEntryForm::Connect()
 {
     connect(txtBetrag, &QLineEdit::textEdited, this, [this] { m_fields.IsAmountTyped = true; });
-    connect(txtBetrag, &QLineEdit::textChanged, m_split, &cSplitPage::ShowRest);
-    connect(txtBetrag, &QLineEdit::textChanged, this, &cEntryForm::ShowVat);
+    connect(txtBetrag, &QLineEdit::textChanged, this, &cEntryForm::ShowAmount);
     connect(m_split, &cSplitPage::DefaultsTaken, this, &cEntryForm::TakeDefaults);
     connect(cboKategorie, &cCategoryBox::PathPicked, this, &cEntryForm::ChooseCategory);
     cPickList* descriptions = modProposal::AddDescriptions(*txtBeschreibung, m_editor.Suggestions());
@@ -273,12 +272,15 @@ void cEntryForm::ShowTarget()
     m_form->setRowVisible(cboNachKonto, cEntryEditor::ShowsTarget(fields));
     cboKategorie->SetType(cEntryEditor::ChosenType(fields));
     m_split->Table().SetType(cEntryEditor::ChosenType(fields));
-    ShowVat();
+    m_vat->setText(m_editor.VatText(fields));
 }
 
-void cEntryForm::ShowVat()
+// What is said of the amount: in one face its VAT, in the other what the parts leave of it.
+void cEntryForm::ShowAmount()
 {
-    m_vat->setText(m_editor.VatText(Read()));
+    const cEntryFields fields = Read();
+    m_vat->setText(m_editor.VatText(fields));
+    m_split->ShowRest(fields);
 }
 
 void cEntryForm::ShowSeries()

@@ -55,7 +55,7 @@ private:
     void OrderTabs();
     void ShowFace();
     void ShowTarget();
-    void ShowVat();
+    void ShowAmount();
     void ShowSeries();
     void ChooseCategory(const QString& path);
     void TakeDefaults(const cEntryFields& fields);

@@ -21,7 +21,7 @@ cSplitPage::cSplitPage(cEntryEditor& editor, fnFields fields, QWidget* parent)
     Build();
     connect(m_fill, &QPushButton::clicked, this, &cSplitPage::FillRest);
     connect(m_remove, &QPushButton::clicked, this, &cSplitPage::RemoveLine);
-    connect(m_table, &cSplitTable::PartsEdited, this, &cSplitPage::ShowRest);
+    connect(m_table, &cSplitTable::PartsEdited, this, [this] { ShowRest(m_fields()); });
     connect(m_table, &cSplitTable::CategoryPicked, this, &cSplitPage::ChooseCategory);
     connect(m_table, &cSplitTable::DescriptionPicked, this, &cSplitPage::ChooseDescription);
     connect(m_table, &cSplitTable::NewCategoryWanted, this, &cSplitPage::OfferCategory);
@@ -51,12 +51,12 @@ void cSplitPage::Build()
 void cSplitPage::ShowParts(const cEntryFields& fields)
 {
     m_table->ShowParts(fields.Parts);
-    ShowRest();
+    ShowRest(fields);
 }
 
-void cSplitPage::ShowRest()
+void cSplitPage::ShowRest(const cEntryFields& fields)
 {
-    m_rest->setText(modSplitParts::RestText(m_fields()));
+    m_rest->setText(modSplitParts::RestText(fields));
 }
 
 void cSplitPage::ShowBadPart()

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] const cSplitTable& Table() const { return *m_table; }
 
     void ShowParts(const cEntryFields& fields);
-    void ShowRest();
+    void ShowRest(const cEntryFields& fields);
 
     // Colours the amount of the part that could not be saved and moves there.
     void ShowBadPart();

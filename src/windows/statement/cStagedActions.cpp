@@ -4,7 +4,7 @@
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "windows/statement/cStagedTree.h"
 #include "windows/statement/frmRegeln.h"
 #include "windows/statement/frmUmsatzKategorie.h"
@@ -139,7 +139,7 @@ void cStagedActions::AssignRow()
 
 void cStagedActions::StartRule()
 {
-    if (const std::unique_ptr<cRuleListModel> rules = m_review.StartRule(m_tree.SelectedIds())) {
+    if (const std::unique_ptr<cRuleEditor> rules = m_review.StartRule(m_tree.SelectedIds())) {
         frmRegeln(*rules, &m_page).exec();
     }
 }

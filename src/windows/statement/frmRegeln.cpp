@@ -3,7 +3,7 @@
 #include "base/cText.h"
 #include "base/cVocabulary.h"
 #include "model/modWord.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/statement/cRuleEditor.h"
 #include "windows/statement/cRuleTree.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/cFlowLayout.h"
@@ -33,10 +33,10 @@ constexpr int margin = 4; // beside the line that parts list and form
 
 } // namespace
 
-frmRegeln::frmRegeln(cRuleListModel& rules, QWidget* parent)
+frmRegeln::frmRegeln(cRuleEditor& rules, QWidget* parent)
     : QDialog(parent),
       m_rules(rules),
-      m_tree(new cRuleTree(rules, this)),
+      m_tree(new cRuleTree(rules.List(), this)),
       m_text(new QLineEdit(this)),
       m_counterparty(new QLineEdit(this)),
       m_sign(new QComboBox(this)),
@@ -108,9 +108,9 @@ void frmRegeln::BuildListButtons(QLayout& layout)
     row->AddStretch();
     m_up = AddButton(*row, cText::Tr("Nach &oben"));
     m_down = AddButton(*row, cText::Tr("Nach &unten"));
-    connect(m_delete, &QPushButton::clicked, this, [this] { m_rules.Delete(m_rules.Place()); });
-    connect(m_up, &QPushButton::clicked, this, [this] { Move(true); });
-    connect(m_down, &QPushButton::clicked, this, [this] { Move(false); });
+    connect(m_delete, &QPushButton::clicked, this, [this] { m_rules.Delete(); });
+    connect(m_up, &QPushButton::clicked, this, [this] { m_rules.Move(cRuleEditor::eMove::Up); });
+    connect(m_down, &QPushButton::clicked, this, [this] { m_rules.Move(cRuleEditor::eMove::Down); });
     static_cast<QBoxLayout&>(layout).addLayout(row);
 }
 
@@ -214,8 +214,8 @@ void frmRegeln::Connect()
     }
     connect(m_category, &cCategoryBox::PathPicked, this, &frmRegeln::ReadDraft);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmRegeln::ChooseRow);
-    connect(&m_rules, &cRuleListModel::DraftChanged, this, &frmRegeln::ShowDraft);
-    connect(&m_rules, &cRuleListModel::RulesChanged, this, &frmRegeln::ShowTrial);
+    connect(&m_rules, &cRuleEditor::DraftChanged, this, &frmRegeln::ShowDraft);
+    connect(&m_rules.List(), &cRuleListModel::RulesChanged, this, &frmRegeln::ShowTrial);
 }
 
 void frmRegeln::ChooseRow()
@@ -239,7 +239,7 @@ void frmRegeln::ShowDraft()
     m_category->SetPath(rule.Category);
     modChoice::Choose(*m_interval, rule.Interval);
     m_description->setText(rule.Description);
-    m_tree->setCurrentIndex(m_rules.IsNew() ? QModelIndex() : m_rules.index(m_rules.Place(), 0));
+    m_tree->setCurrentIndex(m_rules.IsNew() ? QModelIndex() : m_rules.List().index(m_rules.Place(), 0));
     ShowTrial();
 }
 
@@ -252,7 +252,7 @@ void frmRegeln::ReadDraft()
     rule.Text = m_text->text().trimmed();
     rule.Counterparty = m_counterparty->text().trimmed();
     rule.Sign = static_cast<eRuleSign>(m_sign->currentData().toInt());
-    m_category->SetType(cRuleListModel::TypeOf(rule));
+    m_category->SetType(cRuleEditor::TypeOf(rule));
     rule.Account = m_account->currentData().toString();
     const QString path = m_category->Path();
     rule.Category = path.isEmpty() ? m_category->currentText().trimmed() : path;
@@ -272,20 +272,12 @@ void frmRegeln::ShowTrial()
         auto* item = new QListWidgetItem(example, m_examples);
         item->setToolTip(example);
     }
-    const bool isStored = !m_rules.IsNew();
     m_conditions->setEnabled(m_rules.CanEdit());
     m_result->setEnabled(m_rules.CanEdit());
     m_save->setEnabled(m_rules.CanEdit());
-    m_delete->setEnabled(isStored);
-    m_up->setEnabled(isStored && m_rules.CanMove(m_rules.Place(), cRuleListModel::eMove::Up));
-    m_down->setEnabled(isStored && m_rules.CanMove(m_rules.Place(), cRuleListModel::eMove::Down));
-}
-
-void frmRegeln::Move(bool isUp)
-{
-    if (m_rules.Leave()) {
-        m_rules.Move(m_rules.Place(), isUp ? cRuleListModel::eMove::Up : cRuleListModel::eMove::Down);
-    }
+    m_delete->setEnabled(!m_rules.IsNew());
+    m_up->setEnabled(m_rules.CanMove(cRuleEditor::eMove::Up));
+    m_down->setEnabled(m_rules.CanMove(cRuleEditor::eMove::Down));
 }
 
 void frmRegeln::reject()

@@ -4,7 +4,7 @@
 #include <QTimer>
 
 class cCategoryBox;
-class cRuleListModel;
+class cRuleEditor;
 class cRuleTree;
 class QComboBox;
 class QGroupBox;
@@ -21,7 +21,7 @@ class frmRegeln final : public QDialog
 
 public:
     // Shows the rule that `rules` is editing; `rules` outlives the window.
-    explicit frmRegeln(cRuleListModel& rules, QWidget* parent = nullptr);
+    explicit frmRegeln(cRuleEditor& rules, QWidget* parent = nullptr);
 
     void reject() override; // asks about a rule that is not stored
 
@@ -40,9 +40,8 @@ private:
     void ShowDraft();
     void ReadDraft();
     void ShowTrial();
-    void Move(bool isUp);
 
-    cRuleListModel& m_rules;
+    cRuleEditor& m_rules;
     cRuleTree* m_tree;
     QLineEdit* m_text;
     QLineEdit* m_counterparty;
