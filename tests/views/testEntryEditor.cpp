@@ -262,7 +262,7 @@ void testEntryEditor::SaysTheVatInTheAmount()
     cEntryEditor::cFields fields;
     fields.Category = modTemplate::Path(repair);
     fields.Amount = u"100"_s;
-    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97 €"_s);
+    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
     fields.Type = modWord::Umbuchung;
     QCOMPARE(editor.VatText(fields), QString());
 }
@@ -310,7 +310,7 @@ void testEntryEditor::NextEntryKeepsDayAccountAndKind()
         QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
     }
     QCOMPARE(editor.LastSaved().size(), 5);
-    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50 €"_s);
+    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
     const cEntryEditor::cFields next = editor.Next(fields);
     QVERIFY(editor.IsNew());
     QCOMPARE(next.Date, QDate(2026, 3, 3));
@@ -424,7 +424,7 @@ void testEntryEditor::StartBalanceHasItsSign()
     const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
     QCOMPARE(stored.EntryType, modWord::Ausgabe);
     QCOMPARE(stored.EntryValue, 12050);
-    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50 € am 01.01.2026"_s);
+    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
 
     fields = editor.Load(stored.ID).value();
     QCOMPARE(fields.Face, eEntryFace::StartBalance);
