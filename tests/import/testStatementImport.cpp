@@ -286,7 +286,7 @@ private Q_SLOTS:
         QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 1); // the deleted row comes back
         QVERIFY(book.Hive.Remove(1));
         QCOMPARE(book.Hive.GetImportHive(eKeepCache::Yes).Count(), 3);
-        QVERIFY(book.Hive.RemoveAll());
+        QVERIFY(book.Data.DeleteAllImports());
         QCOMPARE(book.Hive.GetImportHive().Count(), 0);
     }
 };

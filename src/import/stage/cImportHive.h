@@ -42,7 +42,6 @@ public:
     void Add(const cImportEntry& entry);
     void Change(const cImportEntry& entry);
     void Remove(int id);
-    void Clear();
 
 private:
     struct cGroup
