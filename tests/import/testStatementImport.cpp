@@ -260,6 +260,7 @@ private Q_SLOTS:
         cImportBook book;
         cNoProgress progress;
         cImportOptions options;
+        options.DefaultAccount = u"4711"_s;
         options.Table.Number = eNumberFormat::German;
         const QString text = u"!Type:Bank\nD31.1.26\nT%1\nPO'Brien\nMO'Brien\n^\n"_s.arg(amount);
         const cImportResult result =
