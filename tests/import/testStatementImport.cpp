@@ -260,6 +260,7 @@ private Q_SLOTS:
         cImportBook book;
         cNoProgress progress;
         cImportOptions options;
+        options.DefaultAccount = u"4711"_s;
         options.Table.Number = eNumberFormat::German;
         const QString text = u"!Type:Bank\nD31.1.26\nT%1\nPO'Brien\nMO'Brien\n^\n"_s.arg(amount);
         const cImportResult result =
@@ -286,7 +287,7 @@ private Q_SLOTS:
         QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 1); // the deleted row comes back
         QVERIFY(book.Hive.Remove(1));
         QCOMPARE(book.Hive.GetImportHive(eKeepCache::Yes).Count(), 3);
-        QVERIFY(book.Hive.RemoveAll());
+        QVERIFY(book.Data.DeleteAllImports());
         QCOMPARE(book.Hive.GetImportHive().Count(), 0);
     }
 };

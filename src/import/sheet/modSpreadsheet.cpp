@@ -96,16 +96,6 @@ cSpreadsheet modSpreadsheet::Load(const cStatementSource& source)
     return {};
 }
 
-QStringList modSpreadsheet::SheetNames(const cStatementSource& source)
-{
-    const cSpreadsheet book = Load(source);
-    QStringList names;
-    for (const cSheet& sheet : book.Sheets) {
-        names.append(sheet.Name);
-    }
-    return names;
-}
-
 modTable::cOpened modSpreadsheet::Open(const cStatementSource& source, const cReadOptions& options)
 {
     const cSpreadsheet book = Load(source);

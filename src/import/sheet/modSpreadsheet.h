@@ -19,9 +19,6 @@ namespace modSpreadsheet {
 // All sheets. A character-separated text is no sheet: there are none then, and no refusal.
 [[nodiscard]] cSpreadsheet Load(const cStatementSource& source);
 
-// The names of the sheets to choose from; empty for one without name.
-[[nodiscard]] QStringList SheetNames(const cStatementSource& source);
-
 // The rows as they would be read: of the sheet that the user chose, else of the one with the most transactions. A table
 // without rows when the file cannot be read.
 [[nodiscard]] modTable::cOpened Open(const cStatementSource& source, const cReadOptions& options);

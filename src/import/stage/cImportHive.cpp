@@ -204,11 +204,6 @@ void cImportHive::Remove(int id)
     }
 }
 
-void cImportHive::Clear()
-{
-    setImportEntryList({});
-}
-
 void cImportHive::AddToGroup(int entryId, int rowId)
 {
     const qsizetype found = FindGroup(entryId);

@@ -43,7 +43,6 @@ public:
     void Add(const cImportEntry& entry);
     void Change(const cImportEntry& entry);
     void Remove(int id);
-    void Clear();
 
 private:
     struct cGroup

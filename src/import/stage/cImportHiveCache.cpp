@@ -66,8 +66,3 @@ int cImportHiveCache::Remove(const QList<int>& ids)
     const auto isGone = [&](int id) { return ids.size() <= fewRows ? Remove(id) : m_data.DeleteImport(id); };
     return static_cast<int>(std::find_if_not(ids.begin(), ids.end(), isGone) - ids.begin());
 }
-
-bool cImportHiveCache::RemoveAll()
-{
-    return Write([&] { return m_data.DeleteAllImports(); }, [&] { m_hive.Clear(); });
-}

@@ -25,7 +25,6 @@ public:
     [[nodiscard]] bool Remove(int id);
     // Removes rows until the database refuses, and gives the number of those that are gone.
     [[nodiscard]] int Remove(const QList<int>& ids);
-    [[nodiscard]] bool RemoveAll();
 
 private:
     [[nodiscard]] bool IsGoodEnough(eKeepCache keepCache);

@@ -30,7 +30,6 @@ public:
     // The place to start at: the best entry that no other transaction has; -1 when the list is empty.
     [[nodiscard]] int Proposed() const;
 
-    [[nodiscard]] eScope Scope() const { return m_scope; }
     void SetScope(eScope scope);
 
     // Assigns the transaction to the entry at this place; false when the user gave up or the database refused.
