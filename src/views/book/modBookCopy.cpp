@@ -71,6 +71,6 @@ int modBookCopy::WriteDemo(const QString& path, int entries, QDate today, cShell
         return -1;
     }
     // Nothing in it is older than this version, so nobody needs a copy of it before an upgrade.
-    book.Settings().Set(modSchema::CommandLineVersion, version);
+    book.Settings().Set(modSettingKey::LastCommandLineVersion, version);
     return book.Data().CountEntries();
 }

@@ -8,6 +8,7 @@
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
+#include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "model/modSettingKey.h"
@@ -346,7 +347,7 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 
 void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
 {
-    m_tools.DatabasePath = path;
+    m_parts.DatabasePath = path;
     m_balancesOf = QDate();
     SetSelection({});
     RestoreView(isNewVersion);
@@ -436,13 +437,13 @@ QString cMainModel::EmptyHint() const
 
 QString cMainModel::DatabaseText() const
 {
-    const QString path = QDir::toNativeSeparators(m_tools.DatabasePath);
+    const QString path = QDir::toNativeSeparators(m_parts.DatabasePath);
     return IsReadOnly() ? cText::Tr("{0} (nur lesen)", {path}) : path;
 }
 
 QString cMainModel::WindowTitle() const
 {
-    const QString name = QFileInfo(m_tools.DatabasePath).completeBaseName();
+    const QString name = QFileInfo(m_parts.DatabasePath).completeBaseName();
     const bool isUnnamed = name.compare(u"data"_s, Qt::CaseInsensitive) == 0; // "data.db", which nobody has chosen
     return u"%1 – Kontorelle"_s.arg(isUnnamed ? cText::Tr("Haushaltsbuch") : name);
 }
