@@ -6,6 +6,8 @@
 #include "store/modRow.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -183,7 +185,10 @@ void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& e
     }
 }
 
-void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+// Adds the occurrences of each series to `entries` and calls `seriesDone` after each. Who only sums them up empties the
+// list there: those of a daily series without end are thousands.
+template <typename tDone>
+void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries, tDone seriesDone)
 {
     const cCondition where = ConditionOf(query, eRepetition::Recurring);
     const modPeriod::cRange period{query.Start, query.End};
@@ -199,11 +204,12 @@ void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList
             fixMods = ReadFixMods(database);
         }
         modRecurrence::Expand(entry, period, fixMods->value(entry.ID), entries);
+        seriesDone();
     }
 }
 
-// Sums by the stored bytes of kind, account and target. There are only a handful of them, so a list that begins with
-// the key found last is faster than a hash.
+// Sums by the stored bytes of kind, account and target. Neighbours mostly share them, so the sum found last is tried
+// before the hash.
 class cSums
 {
 public:
@@ -241,16 +247,17 @@ private:
 
     size_t Find(std::string_view type, std::string_view account, std::string_view move)
     {
-        for (size_t i = 0; i < m_sums.size(); ++i) {
-            if (m_sums[i].Is(type, account, move)) {
-                return i;
-            }
+        std::string key(type);
+        key.append(1, '\0').append(account).append(1, '\0').append(move);
+        const auto [place, isNew] = m_places.try_emplace(std::move(key), m_sums.size());
+        if (isNew) {
+            m_sums.push_back({std::string(type), std::string(account), std::string(move)});
         }
-        m_sums.push_back({std::string(type), std::string(account), std::string(move)});
-        return m_sums.size() - 1;
+        return place->second;
     }
 
     std::vector<cSum> m_sums;
+    std::unordered_map<std::string, size_t> m_places;
     size_t m_last = 0;
 };
 
@@ -279,13 +286,20 @@ bool SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBala
 void SumRecurring(cDatabase& database, const cEntryQuery& query, bool withStartBalance, cSums& sums)
 {
     cEntryItemList occurrences;
-    ReadRecurring(database, query, occurrences);
-    for (const cEntryItem& item : std::as_const(occurrences)) {
-        if (withStartBalance || item.EntryCategory != modWord::Startguthaben) {
-            sums.Add(item.EntryType.toStdString(), modRow::Doubled(item.EntryAccount).toStdString(),
-                     modRow::Doubled(item.EntryAccountMove).toStdString(), item.EntryValue);
+    ReadRecurring(database, query, occurrences, [&] {
+        // All of them share everything but day and amount.
+        qint64 cents = 0;
+        for (const cEntryItem& item : std::as_const(occurrences)) {
+            cents += item.EntryValue;
         }
-    }
+        if (!occurrences.isEmpty()
+            && (withStartBalance || occurrences.first().EntryCategory != modWord::Startguthaben)) {
+            const cEntryItem& item = occurrences.first();
+            sums.Add(item.EntryType.toStdString(), modRow::Doubled(item.EntryAccount).toStdString(),
+                     modRow::Doubled(item.EntryAccountMove).toStdString(), cents);
+        }
+        occurrences.clear();
+    });
 }
 
 } // namespace
@@ -298,7 +312,7 @@ cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
             ReadSingle(m_database, query, entries);
         }
         if (query.Kind != eBookingKind::Single) {
-            ReadRecurring(m_database, query, entries);
+            ReadRecurring(m_database, query, entries, [] {});
         }
     });
     return isRead ? entries : cEntryItemList{};
