@@ -75,12 +75,17 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll().toLong() : 0;
     }
 
-    // Files that a command leaves behind, after the book was opened once more.
+    // Files that a command leaves behind, after the book was opened once more. A journal whose records never reached
+    // the disk begins with a zero: it means nothing, and the next write takes it over.
     QStringList Left() const
     {
         QStringList names = QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
-        names.removeIf([](const QString& name) {
-            return name == u"buch.db" || name.endsWith(u".csv") || name == u"count" || name.endsWith(u".backup");
+        names.removeIf([this](const QString& name) {
+            QFile file(m_folder->filePath(name));
+            const bool isVoid =
+                name.endsWith(u"-journal") && file.open(QIODevice::ReadOnly) && file.read(1) == QByteArray(1, '\0');
+            return isVoid || name == u"buch.db" || name.endsWith(u".csv") || name == u"count"
+                || name.endsWith(u".backup");
         });
         return names;
     }
@@ -142,17 +147,19 @@ QList<cCommand> Commands()
 {
     return {
         {u"add"_s,
-         {u"add"_s, u"--type"_s, u"Ausgabe"_s, u"--amount"_s, u"12,34"_s, u"--category"_s, u"Haushalt; Lebensmittel"_s,
-          u"--account"_s, u"Girokonto"_s, u"--date"_s, u"05.11.2026"_s}},
+         {u"add"_s, u"--amount"_s, u"12,34"_s, u"--category"_s, u"Haushalt; Lebensmittel"_s, u"--account"_s,
+          u"Girokonto"_s, u"--date"_s, u"2026-11-05"_s}},
         {u"import"_s, {u"import"_s, u"mehr.csv"_s, u"--account"_s, u"DE02100100100006820101"_s}, true},
         {u"book"_s, {u"book"_s, u"--all"_s}},
         {u"match"_s, {u"match"_s}},
-        {u"change from here"_s, {u"change"_s, u"1"_s, u"--amount"_s, u"777"_s, u"--from"_s, u"01.12.2026"_s}},
-        {u"delete"_s, {u"delete"_s, u"2"_s, u"--yes"_s}},
-        {u"rename account"_s, {u"accounts"_s, u"rename"_s, u"Girokonto"_s, u"Hauptkonto"_s}},
-        {u"delete account"_s, {u"accounts"_s, u"delete"_s, u"Tagesgeld"_s, u"--move-to"_s, u"Girokonto"_s, u"--yes"_s}},
+        {u"change from here"_s,
+         {u"change"_s, u"14"_s, u"--amount"_s, u"777"_s, u"--from"_s, u"2026-12-01"_s, u"--yes"_s}},
+        {u"delete"_s, {u"delete"_s, u"20"_s, u"--yes"_s}},
+        {u"rename account"_s, {u"accounts"_s, u"rename"_s, u"Girokonto"_s, u"Hauptkonto"_s, u"--entries"_s, u"yes"_s}},
+        {u"delete account"_s, {u"accounts"_s, u"delete"_s, u"Sparkonto"_s, u"--move-to"_s, u"Girokonto"_s, u"--yes"_s}},
         {u"rename category"_s, {u"categories"_s, u"rename"_s, u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s}},
-        {u"merge"_s, {u"categories"_s, u"merge"_s, u"Haushalt; Lebensmittel"_s, u"Freizeit"_s, u"--yes"_s}},
+        {u"rename main"_s, {u"categories"_s, u"rename"_s, u"Haushalt"_s, u"Haus"_s}},
+        {u"merge"_s, {u"categories"_s, u"merge"_s, u"Haushalt; Lebensmittel"_s, u"Alltag; Bus und Bahn"_s, u"--yes"_s}},
     };
 }
 
