@@ -2,6 +2,7 @@
 #include "core/cBackup.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
@@ -54,7 +55,7 @@ void WorkWith(const cTestFile& file)
     cBook book(user);
     QVERIFY(book.OpenWithQuestions(file.Make({}, u"Omaskasse.db"_s), false,
                                    {shell, rescue, u"7.8.9"_s, QDate(2026, 3, 15)}));
-    QVERIFY(book.Settings().Set(u"KTO:4711081500"_s, u"Girokonto"_s));
+    QVERIFY(book.Settings().Set(modSettingKey::BankNumber.Of(u"4711081500"_s), u"Girokonto"_s));
     cImportHiveCache hive(book.Data());
     const cAccountMap accounts(book.Data(), book.Settings());
     cImportOptions options;

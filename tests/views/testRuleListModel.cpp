@@ -282,14 +282,14 @@ void testRuleListModel::FromARow() const
 void testRuleListModel::UnreadableStays() const
 {
     cScene scene;
-    scene.Settings->Set(u"OwnRules"_s, u"2;kind=later\n1;text=a;category=A\n"_s);
+    scene.Settings->Set(modSettingKey::OwnRules, u"2;kind=later\n1;text=a;category=A\n"_s);
     cRuleEditor editor(scene.Tools);
     QVERIFY(!editor.CanEdit() && !editor.Save());
     QVERIFY(!editor.List().Switch(0, true));
     QVERIFY(!editor.List().flags(editor.List().index(0, cRuleListModel::Rule)).testFlag(Qt::ItemIsUserCheckable));
     QCOMPARE(editor.List().index(0, cRuleListModel::Rule).data().toString(), u"nicht lesbar: 2;kind=later"_s);
     QVERIFY(editor.Move(cRuleEditor::eMove::Down));
-    QCOMPARE(scene.Settings->Get(u"OwnRules"_s), u"1;text=a;category=A\n2;kind=later"_s);
+    QCOMPARE(scene.Settings->Get(modSettingKey::OwnRules), u"1;text=a;category=A\n2;kind=later"_s);
 }
 
 // Rules follow what they name, and come back with it.

@@ -86,7 +86,7 @@ struct cScene
         row.ImportDate = QDate(2026, 3, 12);
         row.ImportPurpose = u"Einkauf"_s;
         row.ImportValue = -1250;
-        Book.Settings->Set(u"KTO:1234567"_s, u"Girokonto"_s);
+        Book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Prepare(Book.Data.AddNewImportEntry(row));
         Row = row.ID;
     }
@@ -117,9 +117,9 @@ struct cScene
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
-    cRuleEditor Rules{{Book.Data, *Book.Settings, Format, Book.User}};
-    cBookCheck Check{Book.Data, Format};
-    cNationalSettings National{{Book.Data, Book.Configuration, Format, Book.User, Book.Clock}};
+    cRuleEditor Rules{Book.Tools};
+    cBookCheck Check{Book.Data, Book.Format};
+    cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
 };
 
 using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
