@@ -27,7 +27,7 @@ only '"(SELECT|INSERT|UPDATE|DELETE|ALTER|CREATE|PRAGMA) ' 'src/store/|tests/|be
 only 'QDate(Time)?::current|QTime::current'    'src/app/'              'the current time comes from cClock'
 only 'QDateEdit|QDateTimeEdit'                 'none/'                 'days are typed in cDayEdit'
 only 'QMessageBox|QInputDialog'                'src/app/|tests/(windows|app)/' 'messages and questions go through cUser'
-only 'QSettings|QStandardPaths|QProcess|QLocale::system' 'src/app/|tests/(app|cli)/' 'the machine is reached through the ports of base/'
+only 'QSettings|QStandardPaths|QProcess|QLocale::system' 'src/app/|tests/(app|cli|faults)/' 'the machine is reached through the ports of base/'
 only '\bthrow\b.*;|\bcatch \('                 'src/(store|app|cli)/|tests/|bench/' 'exceptions stay inside store/ and the adapters'
 only '\bcSetting(Key|Family)( [A-Za-z]+)?[({]'  'src/model/'            'keys of settings are made in modSettingKey'
 only '#include <Qt(Core|Widgets|Gui|Network|Test)>' 'none/'            'include single Qt headers, not whole modules'

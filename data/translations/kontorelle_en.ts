@@ -64,10 +64,6 @@
         <translation>&apos;{0}&apos; means nothing to the command &apos;{1}&apos;.</translation>
     </message>
     <message>
-        <source>Ohne Konto im Buch</source>
-        <translation>No account in the book</translation>
-    </message>
-    <message>
         <source>Gruppe</source>
         <translation>Group</translation>
     </message>
@@ -138,18 +134,6 @@
     <message>
         <source>Grund</source>
         <translation>Reason</translation>
-    </message>
-    <message>
-        <source>, davon {0} zu vorhandenen Einträgen</source>
-        <translation>, {0} of them to existing entries</translation>
-    </message>
-    <message>
-        <source>{0} Umsätze konnten nicht gebucht werden.</source>
-        <translation>{0} transactions could not be booked.</translation>
-    </message>
-    <message>
-        <source>Die Kontonummer &apos;{0}&apos; gehört zu keinem Konto; ihre Umsätze bleiben offen. Lesen Sie den Auszug mit --book-account NAME noch einmal ein.</source>
-        <translation>The account number &apos;{0}&apos; belongs to no account; its transactions stay open. Import the statement again with --book-account NAME.</translation>
     </message>
     <message>
         <source>Beim Öffnen ergänzt: {0}</source>
@@ -334,30 +318,6 @@ Result: 0 done, 1 failed, 2 wrong usage. Messages go to standard error.
     <message>
         <source>Optionen:</source>
         <translation>Options:</translation>
-    </message>
-    <message>
-        <source>{0}: {1}, {2} Umsätze gelesen, {3} neu</source>
-        <translation>{0}: {1}, {2} transactions read, {3} new</translation>
-    </message>
-    <message>
-        <source>, {0} schon vorhanden</source>
-        <translation>, {0} already there</translation>
-    </message>
-    <message>
-        <source>, {0} ohne Betrag</source>
-        <translation>, {0} without an amount</translation>
-    </message>
-    <message>
-        <source>, {0} nicht gespeichert</source>
-        <translation>, {0} not saved</translation>
-    </message>
-    <message>
-        <source>, Endsaldo {0}</source>
-        <translation>, closing balance {0}</translation>
-    </message>
-    <message>
-        <source>  Zeile {0}: {1}</source>
-        <translation>  Line {0}: {1}</translation>
     </message>
     <message>
         <source>Der Kontonummer &apos;{0}&apos; konnte kein Konto zugeordnet werden.</source>
@@ -732,276 +692,6 @@ Which account do its transactions belong to?</translation>
     <message>
         <source>Nach Buchungsart</source>
         <translation>By entry type</translation>
-    </message>
-    <message>
-        <source>ERROR: GetSettings
-{0}</source>
-        <translation>ERROR: GetSettings
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeSettingItem
-{0}</source>
-        <translation>ERROR: ChangeSettingItem
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteSetting
-{0}</source>
-        <translation>ERROR: DeleteSetting
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: AddNewEntry
-{0}</source>
-        <translation>ERROR: AddNewEntry
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeEntry
-{0}</source>
-        <translation>ERROR: ChangeEntry
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteEntry
-{0}</source>
-        <translation>ERROR: DeleteEntry
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeEntryAccount
-{0}</source>
-        <translation>ERROR: ChangeEntryAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeEntryCategory
-{0}</source>
-        <translation>ERROR: ChangeEntryCategory
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: LoadEntry
-{0}</source>
-        <translation>ERROR: LoadEntry
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetEntriesByTarget
-{0}</source>
-        <translation>ERROR: GetEntriesByTarget
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetEntriesOfAccount
-{0}</source>
-        <translation>ERROR: GetEntriesOfAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: CountEntries
-{0}</source>
-        <translation>ERROR: CountEntries
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: CountEntriesOfAccount
-{0}</source>
-        <translation>ERROR: CountEntriesOfAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: CountEntriesOfCategory
-{0}</source>
-        <translation>ERROR: CountEntriesOfCategory
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetEntryAccounts
-{0}</source>
-        <translation>ERROR: GetEntryAccounts
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetStartGuthaben
-{0}</source>
-        <translation>ERROR: GetStartGuthaben
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: SetStartGuthaben
-{0}</source>
-        <translation>ERROR: SetStartGuthaben
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetEntryMods
-{0}</source>
-        <translation>ERROR: GetEntryMods
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: AddNewEntryMod
-{0}</source>
-        <translation>ERROR: AddNewEntryMod
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeEntryMod
-{0}</source>
-        <translation>ERROR: ChangeEntryMod
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteEntryMod
-</source>
-        <translation>ERROR: DeleteEntryMod
-</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteEntryModByRelation
-{0}</source>
-        <translation>ERROR: DeleteEntryModByRelation
-{0}</translation>
-    </message>
-    <message>
-        <source>FEHLER: GetImportEntries
-{0}</source>
-        <translation>ERROR: GetImportEntries
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: AddNewImportEntry
-{0}</source>
-        <translation>ERROR: AddNewImportEntry
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeImportEntry
-{0}</source>
-        <translation>ERROR: ChangeImportEntry
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteImport
-{0}</source>
-        <translation>ERROR: DeleteImport
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteAllImports
-{0}</source>
-        <translation>ERROR: DeleteAllImports
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ReleaseImports
-{0}</source>
-        <translation>ERROR: ReleaseImports
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetImportAccounts
-{0}</source>
-        <translation>ERROR: GetImportAccounts
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: CountOpenImports
-{0}</source>
-        <translation>ERROR: CountOpenImports
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ImportVersion
-{0}</source>
-        <translation>ERROR: ImportVersion
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetOnlineAccounts
-{0}</source>
-        <translation>ERROR: GetOnlineAccounts
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetNewOnlineAccount
-{0}</source>
-        <translation>ERROR: GetNewOnlineAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeOnlineAccount
-{0}</source>
-        <translation>ERROR: ChangeOnlineAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteOnlineAccount
-{0}</source>
-        <translation>ERROR: DeleteOnlineAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: FindOnlineAccount
-{0}</source>
-        <translation>ERROR: FindOnlineAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetEntries
-{0}</source>
-        <translation>ERROR: GetEntries
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetSums
-{0}</source>
-        <translation>ERROR: GetSums
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: AddNewTemplate
-{0}</source>
-        <translation>ERROR: AddNewTemplate
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: ChangeTemplate
-{0}</source>
-        <translation>ERROR: ChangeTemplate
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: DeleteTemplate
-{0}</source>
-        <translation>ERROR: DeleteTemplate
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetTemplates
-{0}</source>
-        <translation>ERROR: GetTemplates
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetAccounts
-{0}</source>
-        <translation>ERROR: GetAccounts
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: FindTemplate
-{0}</source>
-        <translation>ERROR: FindTemplate
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: FindAccount
-{0}</source>
-        <translation>ERROR: FindAccount
-{0}</translation>
     </message>
     <message>
         <source>Fehlerhafte Konfiguration!</source>
@@ -1672,24 +1362,6 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <translation>Booking the transactions…</translation>
     </message>
     <message>
-        <source>ERROR: RevertStep
-{0}</source>
-        <translation>ERROR: RevertStep
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: Undo
-{0}</source>
-        <translation>ERROR: Undo
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: Redo
-{0}</source>
-        <translation>ERROR: Redo
-{0}</translation>
-    </message>
-    <message>
         <source>heute</source>
         <translation>today</translation>
     </message>
@@ -1729,42 +1401,6 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <source>Die automatische Datensicherung konnte nicht erstellt werden:
 {0}</source>
         <translation>The automatic backup could not be made:
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: CountEntriesByCategory
-{0}</source>
-        <translation>ERROR: CountEntriesByCategory
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: CountEntriesByAccount
-{0}</source>
-        <translation>ERROR: CountEntriesByAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: MoveEntriesToAccount
-{0}</source>
-        <translation>ERROR: MoveEntriesToAccount
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetEntriesOfSplit
-{0}</source>
-        <translation>ERROR: GetEntriesOfSplit
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetDescriptionUses
-{0}</source>
-        <translation>ERROR: GetDescriptionUses
-{0}</translation>
-    </message>
-    <message>
-        <source>ERROR: GetRecentCategories
-{0}</source>
-        <translation>ERROR: GetRecentCategories
 {0}</translation>
     </message>
     <message>
@@ -2984,10 +2620,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>really restore; the previous file is kept under another name</translation>
     </message>
     <message>
-        <source>nur in Einträgen</source>
-        <translation>only in entries</translation>
-    </message>
-    <message>
         <source>Monatslimit</source>
         <translation>Monthly limit</translation>
     </message>
@@ -3218,12 +2850,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     <message>
         <source>Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker oder den Namen der Datei.</source>
         <translation>Printing failed. Please check the printer or the file name.</translation>
-    </message>
-    <message>
-        <source>ERROR: GetLastAccount
-{0}</source>
-        <translation>ERROR: GetLastAccount
-{0}</translation>
     </message>
     <message>
         <source>Ordner für automatische Datensicherungen</source>
@@ -3800,14 +3426,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>The transaction of {0} is closest to the occurrence of {1} and counts towards that one.</translation>
     </message>
     <message>
-        <source>Umsatz {0} gehört zu Eintrag {1} vom {2}.</source>
-        <translation>Transaction {0} belongs to entry {1} of {2}.</translation>
-    </message>
-    <message>
-        <source>Das Vorkommen ist nun {0} statt {1}.</source>
-        <translation>The occurrence is now {0} instead of {1}.</translation>
-    </message>
-    <message>
         <source>Der Umsatz ist {0}, das Vorkommen {1}; --correct gleicht es an.</source>
         <translation>The transaction is {0}, the occurrence {1}; use --correct to adjust it.</translation>
     </message>
@@ -3822,14 +3440,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>Der Umsatz {0} ist nicht zugeordnet.</source>
         <translation>The transaction {0} is not assigned.</translation>
-    </message>
-    <message>
-        <source>Umsätze freigegeben</source>
-        <translation>Transactions detached</translation>
-    </message>
-    <message>
-        <source>{0} Umsätze freigegeben</source>
-        <translation>{0} transactions detached</translation>
     </message>
     <message>
         <source>ordnet einen Umsatz einem Eintrag zu; bei einer Serie dem Vorkommen, das am nächsten liegt</source>
@@ -3886,14 +3496,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>vergeben</source>
         <translation>taken</translation>
-    </message>
-    <message>
-        <source>Die Kontonummer &apos;{0}&apos; gehört zu keinem Konto; ihre Umsätze bleiben offen.</source>
-        <translation>The account number &apos;{0}&apos; belongs to no account; its transactions stay open.</translation>
-    </message>
-    <message>
-        <source>Umsätze zugeordnet</source>
-        <translation>Transactions assigned</translation>
     </message>
     <message>
         <source>ordnet offene Umsätze den Einträgen zu, die schon im Haushaltsbuch stehen</source>
@@ -5936,14 +5538,6 @@ Suggestion: {2}</translation>
         <translation>sets the balance below which you are warned; &quot;ohne&quot; (none) removes the limit</translation>
     </message>
     <message>
-        <source>1 Umsatz freigegeben</source>
-        <translation>1 transaction released</translation>
-    </message>
-    <message>
-        <source>{0}: {1}, 1 Umsatz gelesen, {3} neu</source>
-        <translation>{0}: {1}, 1 transaction read, {3} new</translation>
-    </message>
-    <message>
         <source>Zu welchem Konto gehören die Umsätze der Kontonummer {0}?
 Ein neuer Name legt ein Konto an.</source>
         <translation>To which account do the transactions of account number {0} belong?
@@ -6062,18 +5656,6 @@ Shall these stay open? With No, they are booked too.</translation>
         <translation>Limit of account &apos;{0}&apos; is now {1}</translation>
     </message>
     <message>
-        <source>, davon 1 zu einem vorhandenen Eintrag</source>
-        <translation>, 1 of them to an existing entry</translation>
-    </message>
-    <message>
-        <source>{0} neu, {1} zugeordnet</source>
-        <translation>{0} new, {1} assigned</translation>
-    </message>
-    <message>
-        <source>1 Umsatz konnte nicht gebucht werden.</source>
-        <translation>1 transaction could not be booked.</translation>
-    </message>
-    <message>
         <source>MwSt.</source>
         <translation>VAT</translation>
     </message>
@@ -6152,12 +5734,6 @@ Shall these stay open? With No, they are booked too.</translation>
     <message>
         <source>Die Datenbank hat {0} nicht angenommen. Sie können die Datei später noch einmal einlesen; was schon übernommen ist, wird dabei erkannt.</source>
         <translation>The database did not accept {0}. You can import the file again later; what is already there will be recognised.</translation>
-    </message>
-    <message>
-        <source>ERROR: GetFaultyEntries
-{0}</source>
-        <translation>ERROR: GetFaultyEntries
-{0}</translation>
     </message>
     <message>
         <source>1 Buchung ging mit.</source>
@@ -6540,6 +6116,50 @@ Do you want to continue?</translation>
     <message>
         <source>Die Korrektur auf {0} geht dabei verloren.</source>
         <translation>The correction to {0} gets lost.</translation>
+    </message>
+    <message>
+        <source>Lesen Sie den Auszug mit --book-account NAME noch einmal ein.</source>
+        <translation>Import the statement again with --book-account NAME.</translation>
+    </message>
+    <message>
+        <source>{0}: {1}, {2}</source>
+        <translation>{0}: {1}, {2}</translation>
+    </message>
+    <message>
+        <source>Umsätze gebucht</source>
+        <translation>Transactions booked</translation>
+    </message>
+    <message>
+        <source>Die Datenbank ist gesperrt: Ein anderes Programm schreibt gerade hinein. Bitte versuchen Sie es gleich noch einmal.</source>
+        <translation>The database is locked: another program is writing to it. Please try again in a moment.</translation>
+    </message>
+    <message>
+        <source>Die Datei der Datenbank ist beschädigt. Bitte spielen Sie eine Sicherung zurück.</source>
+        <translation>The file of the database is damaged. Please restore a backup.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank kann nur gelesen werden.</source>
+        <translation>The database can only be read.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger ist voll. Bitte schaffen Sie Platz und versuchen Sie es noch einmal.</source>
+        <translation>The disk is full. Please make room and try again.</translation>
+    </message>
+    <message>
+        <source>Auf die Datei der Datenbank kann nicht zugegriffen werden.</source>
+        <translation>The file of the database cannot be accessed.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger meldet einen Fehler beim Lesen oder Schreiben ({0}).</source>
+        <translation>The disk reports an error while reading or writing ({0}).</translation>
+    </message>
+    <message>
+        <source>Der Vorgang wurde abgebrochen und nichts davon gespeichert, weil vorher ein Fehler auftrat.</source>
+        <translation>The operation was stopped and nothing of it was saved, because an error had occurred before.</translation>
+    </message>
+    <message>
+        <source>Es wurde nichts gespeichert, weil vorher etwas nicht gelesen werden konnte und der Vorgang davon abhängen kann. Bitte versuchen Sie es noch einmal.</source>
+        <translation>Nothing was saved, because something could not be read before and the operation may depend on it. Please try again.</translation>
     </message>
 </context>
 </TS>

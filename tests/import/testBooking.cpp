@@ -179,16 +179,18 @@ private Q_SLOTS:
         QCOMPARE(bank.Data.CountEntries(), 0);
     }
 
-    void failedAssignmentTakesTheEntryBack()
+    void failedAssignmentTakesAllBack()
     {
         cBank bank;
         const QList<int> rows{bank.Stage(day, -1, u"X"_s), bank.Stage(day, -2, u"X"_s), bank.Stage(day, -3, u"X"_s)};
-        bank.WriteBehind("CREATE TRIGGER full BEFORE UPDATE ON import WHEN NEW.ImportAssigned <> 0 "
-                         "BEGIN SELECT RAISE(ABORT, 'voll'); END");
+        bank.WriteBehind(
+            "CREATE TRIGGER full BEFORE UPDATE ON import WHEN NEW.ImportAssigned <> 0 AND NEW.ImportValue = -2 "
+            "BEGIN SELECT RAISE(ABORT, 'voll'); END");
         const cBookingResult result = bank.BookAll(rows);
         QCOMPARE(QList<int>({result.Entries, result.Rows, result.Failed}), QList<int>({0, 0, 3}));
-        QCOMPARE(bank.User.Shown.size(), 2);
+        QCOMPARE(bank.User.Shown.size(), 1);
         QCOMPARE(bank.Data.CountEntries(), 0);
+        QCOMPARE(bank.Hive.GetImportHive().GetImportEntriesByAssignedID(-1).size(), 3);
     }
 
     void deletedEntryReleasesItsRows()

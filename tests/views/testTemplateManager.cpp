@@ -105,7 +105,8 @@ void testTemplateManager::DeletesACategory()
              (QStringList{u"Buchungen verschieben und löschen"_s, u"Nur die Kategorie löschen"_s}));
     QVERIFY(!scene.Book.User.LastChoice.Items.contains(food));
     QVERIFY(!scene.Book.User.LastChoice.Items.contains(modWord::Startguthaben));
-    QCOMPARE(scene.Book.Data.Journal().UndoName(), isDeleted ? u"Kategorie 'Haushalt; Lebensmittel' gelöscht"_s : QString());
+    QCOMPARE(scene.Book.Data.Journal().UndoName(),
+             isDeleted ? u"Kategorie 'Haushalt; Lebensmittel' gelöscht"_s : QString());
     QVERIFY(!isDeleted || scene.Book.Data.Journal().Undo());
     scene.Manager.Refresh();
     QVERIFY(scene.Has(food));

@@ -258,9 +258,10 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
     cUndoStep step(m_tools.Data, cText::Tr("Hauptkategorie '{0}' mit '{1}' zusammengeführt", {source, target}));
     const QString into = cTemplateFlow(m_tools).CleanMain(target);
     const bool isWritten = !into.isEmpty() && WriteMergedMain(source, into)
-        && std::all_of(
-            doomed.Paths.begin(), doomed.Paths.end(),
-            [&](const QString& path) { return m_tools.Data.ChangeEntryCategory(modTemplate::WithMain(path, into), path); })
+        && std::all_of(doomed.Paths.begin(), doomed.Paths.end(),
+                       [&](const QString& path) {
+                           return m_tools.Data.ChangeEntryCategory(modTemplate::WithMain(path, into), path);
+                       })
         && cOwnRules(m_tools.Settings).RenameMain(source, into);
     return Finish(step.DoneIf(isWritten));
 }
@@ -367,7 +368,7 @@ bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target
         return false;
     }
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' mit '{1}' zusammengeführt", {source, target}));
-    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).Move(source, target) && MoveAccountEntries(source, target)
-        && (!account || m_tools.Data.DeleteTemplate(account->ID));
+    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).Move(source, target)
+        && MoveAccountEntries(source, target) && (!account || m_tools.Data.DeleteTemplate(account->ID));
     return Finish(step.DoneIf(isWritten));
 }
