@@ -16,6 +16,7 @@
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/list/modSetting.h"
+#include "views/main/modViewText.h"
 #include "views/template/cTemplateFlow.h"
 
 #include <QDir>
@@ -64,7 +65,7 @@ cMainModel::~cMainModel() = default;
 void cMainModel::RestoreView(bool isNewVersion)
 {
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
-    LeaveSelection();
+    (void)m_detour.Leave(m_view);
     m_view.Restore(m_tools.Settings, Accounts(), m_tools.Clock.Today());
     if (isNewVersion) {
         ResetView();
@@ -76,7 +77,7 @@ void cMainModel::RestoreView(bool isNewVersion)
 void cMainModel::SaveView()
 {
     tmrSaveView.stop();
-    (m_detour ? m_detour->Before : m_view).Save(m_tools.Settings);
+    m_detour.Own(m_view).Save(m_tools.Settings);
 }
 
 void cMainModel::SaveLayout(const cPlacement& placement)
@@ -110,7 +111,7 @@ void cMainModel::ResetView()
             m_tools.Settings.Delete(*key);
         }
     }
-    LeaveSelection();
+    (void)m_detour.Leave(m_view);
     m_view.Grouping = modWord::KeineGruppierung;
     m_view.Type = modWord::AlleBuchungsarten;
     m_view.Filter.clear();
@@ -140,10 +141,7 @@ void cMainModel::LoadEntries()
     const cEntryQuery query = m_view.Query(today);
     cEntryListModel::cContent content;
     if (!m_view.ShowsNothing()) {
-        content.Entries = m_tools.Data.GetEntries(query);
-        if (m_detour && m_detour->Selection.Pick) {
-            content.Entries = m_detour->Selection.Pick(content.Entries);
-        }
+        content.Entries = m_detour.Picked(m_tools.Data.GetEntries(query));
         content.StartBalance = StartBalance(query);
     }
     content.Account = query.Account;
@@ -155,8 +153,8 @@ void cMainModel::LoadEntries()
 
 std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
 {
-    const bool isPicked = m_detour && m_detour->Selection.Pick;
-    const bool isNarrowed = isPicked || query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
+    const bool isNarrowed =
+        m_detour.IsPicked() || query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
     if (query.Account.isEmpty() || isNarrowed) {
         return std::nullopt;
     }
@@ -287,9 +285,7 @@ void cMainModel::ShowFilter()
 void cMainModel::SetSwitch(const cSettingKey& key, eSwitch state)
 {
     *Switch(m_view, key) = state == eSwitch::On;
-    if (m_detour) {
-        *Switch(m_detour->Before, key) = state == eSwitch::On;
-    }
+    *Switch(m_detour.Own(m_view), key) = state == eSwitch::On;
     m_tools.Settings.SetBool(key, state == eSwitch::On);
     m_balancesOf = QDate();
 }
@@ -305,12 +301,34 @@ void cMainModel::ToggleView(const cSettingKey& key)
 
 bool cMainModel::IsChecked(const cSettingKey& key) const
 {
-    if (m_detour) { // its switches are not stored
+    if (m_detour.IsOn()) { // its switches are not stored
         cViewState view = m_view;
         const bool* state = Switch(view, key);
         return state != nullptr && *state;
     }
     return m_tools.Settings.GetBool(key);
+}
+
+void cMainModel::ShowEntries(const cEntrySelection& selection)
+{
+    m_detour.Enter(m_view, selection);
+    RefreshView();
+}
+
+void cMainModel::GoBack()
+{
+    if (m_detour.Leave(m_view)) {
+        RefreshView();
+    }
+}
+
+QStringList cMainModel::ViewLines() const
+{
+    QStringList lines = modViewText::Lines(m_view, ShownRange());
+    if (m_detour.IsOn()) {
+        lines.append(cText::Tr("Auswahl: {0}", {SelectionText()}));
+    }
+    return lines;
 }
 
 void cMainModel::SetSelection(const QList<cEntryListModel::cKey>& selection)
@@ -336,7 +354,7 @@ void cMainModel::Delete(const QList<cEntryListModel::cKey>& keys)
 
 void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 {
-    for (QString* account : {&m_view.Account, m_detour ? &m_detour->Before.Account : &m_view.Account}) {
+    for (QString* account : {&m_view.Account, &m_detour.Own(m_view).Account}) {
         *account = *account == oldName ? newName : *account;
     }
     if (m_tools.Settings.Get(modSettingKey::StatisticsAccount) == oldName) {

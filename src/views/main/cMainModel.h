@@ -5,6 +5,7 @@
 #include "views/list/cEntrySelection.h"
 #include "views/main/cAccountListModel.h"
 #include "views/main/cLimitWatch.h"
+#include "views/main/cViewDetour.h"
 #include "views/main/cViewState.h"
 
 #include <QObject>
@@ -77,8 +78,8 @@ public:
     // view as it was before the first selection.
     void ShowEntries(const cEntrySelection& selection);
     void GoBack();
-    [[nodiscard]] bool IsSelection() const { return m_detour.has_value(); }
-    [[nodiscard]] QString SelectionText() const; // what is selected; empty without selection
+    [[nodiscard]] bool IsSelection() const { return m_detour.IsOn(); }
+    [[nodiscard]] QString SelectionText() const { return m_detour.Title(); } // empty without selection
     [[nodiscard]] QStringList ViewLines() const; // what the list shows, in words, for print and export
 
     // One handler for menus, tool bar and keys. False for an unknown number.
@@ -143,7 +144,6 @@ Q_SIGNALS:
 
 private:
     void LoadEntries();
-    void LeaveSelection();
     void ShowFilter();
     void RefreshAccounts();
     void AskResetView();
@@ -154,17 +154,10 @@ private:
     void SetSwitch(const cSettingKey& key, eSwitch state);
     [[nodiscard]] std::optional<qint64> StartBalance(const cEntryQuery& query) const;
 
-    // A selection and the view that it stands in for.
-    struct cDetour
-    {
-        cViewState Before;
-        cEntrySelection Selection;
-    };
-
     const cBookTools& m_tools;
     cParts m_parts;
     cViewState m_view;
-    std::optional<cDetour> m_detour;
+    cViewDetour m_detour;
     cEntryListModel m_entries;
     cAccountListModel m_accounts;
     cLimitWatch m_limits;
