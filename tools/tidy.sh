@@ -44,7 +44,7 @@ echo "tidy: ${#known[@]} of ${#units[@]} units"
 # in .cpp in its includes; that and what follows from it is no finding.
 mapfile -t batches < <(tools/tidy-batches.py build/dev/compile_commands.json build/tidy "${known[@]}")
 options=(-p build/tidy --quiet --header-filter='(/include-roots/.+\.h|/(src|tests|tools|fuzz|bench)/.+\.(cpp|h))$'
-  --checks=-bugprone-suspicious-include,-google-global-names-in-headers --extra-arg=-Wno-unknown-warning-option)
+  --checks=-bugprone-suspicious-include,-google-global-names-in-headers --extra-arg=-Wno-unknown-warning-option --extra-arg=-Wno-shadow)
 if ! printf '%s\0' "${batches[@]}" | xargs -0 -n1 -P"${TIDY_JOBS:-$(nproc)}" clang-tidy "${options[@]}" > build/tidy/log 2>/dev/null; then
   grep -hE 'warning:|error:' build/tidy/log | sed "s#$PWD/##; s#build/dev/include-roots/[a-z]*/#src/#" | sort -u
   exit 1

@@ -2,6 +2,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
+#include "store/modFailure.h"
 #include "store/modRow.h"
 #include "store/modSchema.h"
 
@@ -86,7 +87,7 @@ QStringList cDataAccess::GetFileProblems()
     try {
         return m_database.IntegrityCheck();
     } catch (const cDatabaseError& error) {
-        return {error.Text()};
+        return {modFailure::Reason(error)};
     }
 }
 

@@ -7,6 +7,7 @@
 #include "base/modDate.h"
 #include "base/modLog.h"
 #include "store/modBookFile.h"
+#include "store/modFailure.h"
 #include "store/modSchema.h"
 
 #include <QFileInfo>
@@ -288,6 +289,6 @@ QString cOpenSequence::CopyBeforeUpgrade()
         return {};
     } catch (const cDatabaseError& error) {
         qCInfo(modLog::Upgrade) << "no copy before it, fault" << static_cast<int>(error.Fault());
-        return error.Text();
+        return modFailure::Reason(error);
     }
 }

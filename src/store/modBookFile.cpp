@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "base/modCount.h"
 #include "base/modDate.h"
+#include "store/modFailure.h"
 #include "store/modSchema.h"
 
 #include <QFile>
@@ -51,7 +52,7 @@ modBookFile::cContent modBookFile::Look(const QString& path)
         ReadEntries(database, content);
         content.Problems = database.IntegrityCheck();
     } catch (const cDatabaseError& error) {
-        content.Problems.append(error.Text());
+        content.Problems.append(modFailure::Reason(error));
     }
     return content;
 }

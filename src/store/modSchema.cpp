@@ -7,6 +7,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/modAccountColumns.h"
+#include "store/modFailure.h"
 #include "store/modRow.h"
 
 #include <QElapsedTimer>
@@ -386,7 +387,7 @@ QStringList modSchema::MissingOfTemplate(cDatabase& database)
     try {
         return AbsentShippedParts(database);
     } catch (const cDatabaseError& error) {
-        return {error.Text()};
+        return {modFailure::Reason(error)};
     }
 }
 

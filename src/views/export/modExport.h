@@ -56,9 +56,9 @@ enum class eContent { Date, Text, Money };
 // One column of the tables; exactly one of the readers is set, as `Content` says.
 struct cColumn
 {
-    const char* Title; // German
-    eContent Content;
-    int Width; // characters
+    const char* Title = nullptr; // German
+    eContent Content = eContent::Text;
+    int Width = 0; // characters
     QString (*Text)(const cEntryExtract::cRow& row) = nullptr;
     std::optional<qint64> (*Cents)(const cEntryExtract::cRow& row) = nullptr;
 };
@@ -69,7 +69,7 @@ struct cColumn
 // One of the lines under a table.
 struct cSum
 {
-    const char* Title; // German
+    const char* Title = nullptr; // German
     qint64 Cents = 0;
 };
 [[nodiscard]] std::vector<cSum> Sums(const cEntryExtract& extract);
