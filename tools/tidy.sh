@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # clang-tidy over the changed units: what is not committed, or the last commit when everything is. With --all over all.
-# A changed header counts for every unit that includes it by name.
+# A changed header is seen through its own source, else through one that includes it.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 if ! command -v clang-tidy >/dev/null; then
@@ -24,9 +24,14 @@ else
     for file in "${files[@]}"; do
       case $file in
         *.cpp) echo "$file" ;;
-        *) grep -rlF "#include \"${file#src/}\"" $code --include='*.cpp' || true ;;
+        *) if [ -f "${file%.h}.cpp" ]; then echo "${file%.h}.cpp"; else grep -rlF "#include \"${file#src/}\"" $code --include='*.cpp' | sort | head -1; fi || true ;;
       esac
     done | sort -u)
+  most=60 # some minutes; a change of everything is looked at with --all
+  if [ ${#units[@]} -gt $most ]; then
+    echo "tidy: ${#units[@]} units have changed; the first $most are looked at, all of them with --all"
+    units=("${units[@]:0:$most}")
+  fi
 fi
 [ ${#units[@]} -gt 0 ] || { echo 'tidy: nothing changed'; exit 0; }
 
