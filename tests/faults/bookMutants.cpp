@@ -58,20 +58,23 @@ void Damage(QByteArray& bytes, QRandomGenerator& random)
         return static_cast<qsizetype>(random.bounded(static_cast<quint32>(qMax(qsizetype{1}, size))));
     };
     const qsizetype pages = qMax(qsizetype{1}, bytes.size() / page);
+    const auto change = [&](qsizetype place) {
+        if (place < bytes.size()) {
+            bytes[place] = static_cast<char>(random.generate());
+        }
+    };
     switch (random.bounded(8)) {
-    case 0: bytes[at(bytes.size())] = static_cast<char>(random.generate()); break;
-    case 1:
-        bytes[at(qMin(bytes.size(), qsizetype{100}))] = static_cast<char>(random.generate());
-        break; // the file's head
+    case 0: change(at(bytes.size())); break;
+    case 1: change(at(100)); break; // the file's head
     case 2: bytes.truncate(at(bytes.size())); break;
     case 3: bytes.truncate(at(pages) * page); break;
     case 4: bytes.replace(at(pages) * page, page, QByteArray(page, '\0')); break;
     case 5: bytes.replace(at(pages) * page, page, bytes.mid(at(pages) * page, page)); break;
-    case 6: bytes[at(pages) * page + random.bounded(16)] = static_cast<char>(random.generate()); break; // a page's head
+    case 6: change(at(pages) * page + random.bounded(16)); break; // a page's head
     default: {
         const qsizetype from = at(bytes.size());
         for (qsizetype i = from; i < qMin(bytes.size(), from + random.bounded(64)); ++i) {
-            bytes[i] = static_cast<char>(random.generate());
+            change(i);
         }
     }
     }
