@@ -22,9 +22,20 @@ def own_names(path):
     """What a unit names for itself: in unnamed namespaces, as a macro, and the types of a test."""
     names = set()
     inside = False
+    enumerating = False
     with open(path, encoding='utf-8') as file:
         for line in file:
             line = line.rstrip('\n')
+            if found := re.match(r'^using (?:\w+::)+(\w+);', line):
+                names.add(found.group(1))
+            # The values of a plain enumeration stand beside everything else.
+            if inside and (found := re.match(r'^enum \w+ *(?:: *\w+ *)?\{(.*)', line)):
+                enumerating = True
+                line = found.group(1)
+            if enumerating:
+                names.update(re.findall(r'[A-Za-z]\w*', line.split('//')[0]))
+                enumerating = '}' not in line
+                continue
             if line == 'namespace {':
                 inside = True
             elif line.startswith('} // namespace'):

@@ -285,7 +285,8 @@ void PutStandIns(cDatabase& database)
         }
     }
     for (const std::string& table : OutdatedTables(database)) {
-        database.Execute("CREATE TEMP TABLE " + table + " AS SELECT * FROM main." + table);
+        database.Execute(
+            std::string("CREATE TEMP TABLE ").append(table).append(" AS SELECT * FROM main.").append(table));
     }
     BringUpToDate(database);
     database.Execute("PRAGMA query_only=ON");

@@ -36,9 +36,9 @@ struct cSyncFile
 
 constexpr std::string_view journalEnding = "-journal";
 
-sqlite3_vfs* system_ = nullptr;
-std::recursive_mutex mutex_; // connections may belong to several threads
-std::vector<cSyncFile*> open_;
+sqlite3_vfs* below = nullptr;
+std::recursive_mutex openGuard; // connections may belong to several threads
+std::vector<cSyncFile*> openFiles;
 
 cSyncFile& Of(sqlite3_file* file)
 {
@@ -93,8 +93,8 @@ int SyncJournal(sqlite3_file* file)
 // Syncs what was written to the open files of this kind and name.
 int SyncAll(eKind kind, std::string_view name)
 {
-    const std::lock_guard lock(mutex_);
-    for (cSyncFile* file : open_) {
+    const std::lock_guard lock(openGuard);
+    for (cSyncFile* file : openFiles) {
         if (file->Kind == kind && file->IsUnsynced && name == file->Name) {
             const int result = kind == eKind::Journal ? SyncJournal(&file->Base) : SyncFile(&file->Base);
             if (result != SQLITE_OK) {
@@ -122,8 +122,8 @@ int SyncBefore(const cSyncFile& file, bool isCut)
 
 int Close(sqlite3_file* file)
 {
-    const std::lock_guard lock(mutex_);
-    open_.erase(std::remove(open_.begin(), open_.end(), &Of(file)), open_.end());
+    const std::lock_guard lock(openGuard);
+    openFiles.erase(std::remove(openFiles.begin(), openFiles.end(), &Of(file)), openFiles.end());
     const int synced = Of(file).Kind == eKind::Book && Of(file).IsUnsynced ? SyncFile(file) : SQLITE_OK;
     const int closed = Real(file)->pMethods->xClose(Real(file));
     file->pMethods = nullptr;
@@ -280,14 +280,14 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
 {
     cSyncFile& opened = Of(file);
     opened = {{nullptr}, name == nullptr ? eKind::Other : KindOf(flags), false, false, name, {}, 0, 0};
-    const int result = system_->xOpen(system_, name, Real(file), flags, outFlags);
+    const int result = below->xOpen(below, name, Real(file), flags, outFlags);
     if (Real(file)->pMethods == nullptr) {
         return result;
     }
     file->pMethods = &methods;
     if (opened.Kind != eKind::Other) {
-        const std::lock_guard lock(mutex_);
-        open_.push_back(&opened);
+        const std::lock_guard lock(openGuard);
+        openFiles.push_back(&opened);
     }
     return result;
 }
@@ -298,17 +298,17 @@ int Delete(sqlite3_vfs*, const char* name, int isDirectorySynced)
     const bool isJournal =
         path.size() > journalEnding.size() && path.substr(path.size() - journalEnding.size()) == journalEnding;
     if (!isJournal) {
-        return system_->xDelete(system_, name, isDirectorySynced);
+        return below->xDelete(below, name, isDirectorySynced);
     }
     const int result = SyncAll(eKind::Book, BookOf(path));
-    return result == SQLITE_OK ? system_->xDelete(system_, name, 1) : result;
+    return result == SQLITE_OK ? below->xDelete(below, name, 1) : result;
 }
 
 // Everything else goes on to the system's own functions, which ask for themselves.
 template <auto tMember, typename... tArguments>
 auto PassOn(sqlite3_vfs*, tArguments... arguments)
 {
-    return (system_->*tMember)(system_, arguments...);
+    return (below->*tMember)(below, arguments...);
 }
 
 } // namespace
@@ -316,10 +316,10 @@ auto PassOn(sqlite3_vfs*, tArguments... arguments)
 const char* modSyncVfs::Name()
 {
     static sqlite3_vfs vfs = [] {
-        system_ = sqlite3_vfs_find(nullptr);
-        sqlite3_vfs layer = *system_;
-        layer.iVersion = std::min(system_->iVersion, 2);
-        layer.szOsFile = static_cast<int>(sizeof(cSyncFile)) + system_->szOsFile;
+        below = sqlite3_vfs_find(nullptr);
+        sqlite3_vfs layer = *below;
+        layer.iVersion = std::min(below->iVersion, 2);
+        layer.szOsFile = static_cast<int>(sizeof(cSyncFile)) + below->szOsFile;
         layer.pNext = nullptr;
         layer.zName = "kontorelle-sync";
         layer.xOpen = Open;

@@ -14,9 +14,9 @@ struct cLoggedFile
     const char* Name;  // null: not written down
 };
 
-sqlite3_vfs* system_ = nullptr;
-std::vector<cDiskCall> calls_;
-bool isWritingDown_ = false;
+sqlite3_vfs* below = nullptr;
+std::vector<cDiskCall> calls;
+bool isWritingDown = false;
 
 cLoggedFile& Of(sqlite3_file* file)
 {
@@ -31,8 +31,8 @@ sqlite3_file* Real(sqlite3_file* file)
 void Note(cDiskCall::eKind kind, const char* name, qint64 offset = 0, const QByteArray& bytes = {},
           bool isSynced = true)
 {
-    if (isWritingDown_ && name != nullptr) {
-        calls_.push_back({kind, QString::fromUtf8(name), offset, bytes, isSynced});
+    if (isWritingDown && name != nullptr) {
+        calls.push_back({kind, QString::fromUtf8(name), offset, bytes, isSynced});
     }
 }
 
@@ -122,7 +122,7 @@ const sqlite3_io_methods methods = [] {
 bool IsThere(const char* name)
 {
     int isThere = 0;
-    return system_->xAccess(system_, name, SQLITE_ACCESS_EXISTS, &isThere) == SQLITE_OK && isThere != 0;
+    return below->xAccess(below, name, SQLITE_ACCESS_EXISTS, &isThere) == SQLITE_OK && isThere != 0;
 }
 
 int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags)
@@ -130,7 +130,7 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
     const bool isBook = (flags & (SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_MAIN_JOURNAL)) != 0;
     Of(file) = {{nullptr}, isBook ? name : nullptr};
     const bool isNew = isBook && name != nullptr && !IsThere(name);
-    const int result = system_->xOpen(system_, name, Real(file), flags, outFlags);
+    const int result = below->xOpen(below, name, Real(file), flags, outFlags);
     if (Real(file)->pMethods == nullptr) {
         return result;
     }
@@ -144,13 +144,13 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
 int Delete(sqlite3_vfs*, const char* name, int isFolderSynced)
 {
     Note(cDiskCall::eKind::Remove, name, 0, {}, isFolderSynced != 0);
-    return system_->xDelete(system_, name, 0);
+    return below->xDelete(below, name, 0);
 }
 
 template <auto tMember, typename... tArguments>
 auto PassOn(sqlite3_vfs*, tArguments... arguments)
 {
-    return (system_->*tMember)(system_, arguments...);
+    return (below->*tMember)(below, arguments...);
 }
 
 void Apply(const cDiskCall& call, QByteArray& content, qsizetype part)
@@ -171,10 +171,10 @@ void Apply(const cDiskCall& call, QByteArray& content, qsizetype part)
 void modPowerVfs::Install()
 {
     static sqlite3_vfs vfs = [] {
-        system_ = sqlite3_vfs_find(nullptr);
-        sqlite3_vfs layer = *system_;
+        below = sqlite3_vfs_find(nullptr);
+        sqlite3_vfs layer = *below;
         layer.iVersion = 2;
-        layer.szOsFile = static_cast<int>(sizeof(cLoggedFile)) + system_->szOsFile;
+        layer.szOsFile = static_cast<int>(sizeof(cLoggedFile)) + below->szOsFile;
         layer.pNext = nullptr;
         layer.zName = "power";
         layer.xOpen = Open;
@@ -193,13 +193,13 @@ void modPowerVfs::Install()
 
 void modPowerVfs::Start()
 {
-    calls_.clear();
-    isWritingDown_ = true;
+    calls.clear();
+    isWritingDown = true;
 }
 
 const std::vector<cDiskCall>& modPowerVfs::Calls()
 {
-    return calls_;
+    return calls;
 }
 
 cPowerDisk::cPowerDisk(const cFiles& synced)

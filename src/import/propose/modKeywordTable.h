@@ -9,9 +9,9 @@ enum class eSign { Any, Positive, Negative };
 
 struct cRule
 {
-    const char* Keywords; // alternatives joined by "|", lower case; wildcards are allowed
-    const char* Interval;
-    const char* Category;
+    const char* Keywords = nullptr; // alternatives joined by "|", lower case; wildcards are allowed
+    const char* Interval = nullptr;
+    const char* Category = nullptr;
     const char* PositiveCategory = nullptr; // instead of Category for a positive amount
     eSign Only = eSign::Any;                // the rule holds for such amounts only
     eSign CategoryOnly = eSign::Any;        // for other amounts the rule sets the interval and leaves the category

@@ -123,8 +123,11 @@ QString modStatementText::Decode(const QByteArray& bytes, eCharset charset)
 eCharset modStatementText::CharsetOf(const QByteArray& bytes)
 {
     const auto marked = QStringConverter::encodingForData(bytes);
-    if (marked == QStringConverter::Utf16LE || marked == QStringConverter::Utf16BE) {
-        return marked == QStringConverter::Utf16LE ? eCharset::Utf16LE : eCharset::Utf16BE;
+    if (marked == QStringConverter::Utf16LE) {
+        return eCharset::Utf16LE;
+    }
+    if (marked == QStringConverter::Utf16BE) {
+        return eCharset::Utf16BE;
     }
     return Strict(bytes, QStringConverter::Utf8) ? eCharset::Utf8 : eCharset::Windows1252;
 }

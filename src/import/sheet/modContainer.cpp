@@ -11,11 +11,11 @@ constexpr quint32 firstMark = 0xFFFFFFFA; // from here on a sector number is non
 constexpr qsizetype entrySize = 128;      // of the directory
 constexpr qsizetype listedInHead = 109;   // sectors of the allocation table
 
-template <typename T>
-T At(const QByteArray& bytes, qsizetype place)
+template <typename tValue>
+tValue At(const QByteArray& bytes, qsizetype place)
 {
-    const bool isInside = place >= 0 && place + qsizetype{sizeof(T)} <= bytes.size();
-    return isInside ? qFromLittleEndian<T>(bytes.constData() + place) : T{};
+    const bool isInside = place >= 0 && place + qsizetype{sizeof(tValue)} <= bytes.size();
+    return isInside ? qFromLittleEndian<tValue>(bytes.constData() + place) : tValue{};
 }
 
 struct cEntry

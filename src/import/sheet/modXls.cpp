@@ -64,10 +64,11 @@ cSpreadsheet TooLarge()
     return Refused(cText::Tr("Die Arbeitsmappe ist zu groß für einen Kontoauszug."));
 }
 
-template <typename T>
-T At(QByteArrayView bytes, qsizetype place)
+template <typename tValue>
+tValue At(QByteArrayView bytes, qsizetype place)
 {
-    return place + qsizetype{sizeof(T)} <= bytes.size() ? qFromLittleEndian<T>(bytes.data() + place) : T{};
+    return place + qsizetype{sizeof(tValue)} <= bytes.size() ? qFromLittleEndian<tValue>(bytes.data() + place)
+                                                             : tValue{};
 }
 
 QByteArrayView Behind(QByteArrayView bytes, qsizetype count)

@@ -21,10 +21,10 @@ QList<int*> Places(cColumnMap& map)
 }
 
 // The value when it is one of an enumeration with `count` values, else the first one.
-template <typename eValue>
-eValue Checked(int value, int count)
+template <typename tValue>
+tValue Checked(int value, int count)
 {
-    return static_cast<eValue>(value >= 0 && value < count ? value : 0);
+    return static_cast<tValue>(value >= 0 && value < count ? value : 0);
 }
 
 } // namespace

@@ -15,9 +15,9 @@ namespace {
 // "#9".
 struct cProfile
 {
-    const char16_t* Name;
-    const char16_t* Header;
-    const char16_t* Columns;
+    const char16_t* Name = nullptr;
+    const char16_t* Header = nullptr;
+    const char16_t* Columns = nullptr;
     eNumberFormat Number = eNumberFormat::Detect;
     eSignRule Sign = eSignRule::AsWritten;
     eDetails Details = eDetails::None;
@@ -172,7 +172,7 @@ constexpr std::array profiles = {
 
 struct cField
 {
-    const char16_t* Name;
+    const char16_t* Name = nullptr;
     int& (*Place)(cColumnMap&);
 };
 

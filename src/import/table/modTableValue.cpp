@@ -204,22 +204,9 @@ bool modTableValue::IsIban(QStringView cell)
 
 void modTableValue::cNumberVote::Add(QStringView cell)
 {
-    int points = 0;
-    int commas = 0;
-    bool isPointLast = false;
-    int decimals = 0; // digits behind the last sign
-    bool isCounting = false;
-    for (const QChar c : cell) {
-        if (c == u'.' || c == u',') {
-            isPointLast = c == u'.';
-            ++(isPointLast ? points : commas);
-            decimals = 0;
-            isCounting = true;
-        } else {
-            isCounting = isCounting && IsDigit(c);
-            decimals += isCounting ? 1 : 0;
-        }
-    }
+    const auto points = cell.count(u'.');
+    const auto commas = cell.count(u',');
+    const bool isPointLast = cell.lastIndexOf(u'.') > cell.lastIndexOf(u',');
     if (points > 0 && commas > 0) {
         ++(isPointLast ? m_english : m_german);
     } else if (commas > 0) {
@@ -227,6 +214,8 @@ void modTableValue::cNumberVote::Add(QStringView cell)
     } else if (points > 1) {
         ++m_german;
     } else if (points == 1) {
+        const QStringView behind = cell.sliced(cell.indexOf(u'.') + 1);
+        const auto decimals = std::find_if_not(behind.begin(), behind.end(), IsDigit) - behind.begin();
         m_thousands += decimals == 3 ? 1 : 0;
         m_points += decimals > 0 && decimals != 3 ? 1 : 0;
     }

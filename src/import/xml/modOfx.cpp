@@ -62,11 +62,7 @@ public:
         }
         for (const cKind& kind : kinds) {
             for (const pugi::xml_node& messages : skeleton.child("OFX").children(kind.Messages)) {
-                for (const pugi::xml_node& response : messages.children(kind.Response)) {
-                    for (const pugi::xml_node& statement : response.children(kind.Statement)) {
-                        TakeStatement(statement, kind);
-                    }
-                }
+                TakeMessages(messages, kind);
             }
         }
         if (!m_hasStatements) {
@@ -86,6 +82,15 @@ private:
     static cStatementRead Broken()
     {
         return Refused(cText::Tr("Die OFX-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
+    }
+
+    void TakeMessages(const pugi::xml_node& messages, const cKind& kind)
+    {
+        for (const pugi::xml_node& response : messages.children(kind.Response)) {
+            for (const pugi::xml_node& statement : response.children(kind.Statement)) {
+                TakeStatement(statement, kind);
+            }
+        }
     }
 
     void TakeStatement(const pugi::xml_node& statement, const cKind& kind)
@@ -123,7 +128,7 @@ private:
         m_read.Entries.append(entry);
     }
 
-    QString PurposeOf(const pugi::xml_node& node) const
+    [[nodiscard]] QString PurposeOf(const pugi::xml_node& node) const
     {
         const QString memo = modStatementText::DecodeField(TextOf(node, "MEMO"));
         const bool takesName = memo.isEmpty() && m_options.MissingPurpose == eMissingPurpose::Name;

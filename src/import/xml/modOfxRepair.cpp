@@ -204,7 +204,7 @@ private:
         return at;
     }
 
-    QByteArrayView LeftTrimmed(QByteArrayView text, qsizetype start) const
+    [[nodiscard]] QByteArrayView LeftTrimmed(QByteArrayView text, qsizetype start) const
     {
         while (m_out.size() == start && !text.isEmpty() && IsBlank(text.front())) {
             text = text.sliced(1);
