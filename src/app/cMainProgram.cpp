@@ -9,6 +9,7 @@
 #include "model/modSettingKey.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
+#include "views/statement/cStatementFiles.h"
 #include "views/template/cNameKeepers.h"
 #include "windows/main/frmMain.h"
 
@@ -16,9 +17,15 @@
 #include <QDir>
 #include <QTimer>
 
+#include <chrono>
+
+using namespace std::chrono_literals;
+
 namespace {
 
-constexpr int backupDelay = 2000; // milliseconds after the window stands, so that nobody waits for the copy
+constexpr auto backupDelay = 2s; // after the window stands, so that nobody waits for the copy
+constexpr auto backupEvery = 4h; // of use
+constexpr auto backupRetry = 1min;
 
 } // namespace
 
@@ -36,6 +43,8 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
                    Hooks()),
       m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration)
 {
+    tmrBackup.setSingleShot(true);
+    QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { CopyInUse(); });
 }
 
 cMainProgram::~cMainProgram() = default;
@@ -48,6 +57,7 @@ bool cMainProgram::Start(const QString& database)
     if (!OpenBook(startUp, database)) {
         return false;
     }
+    m_backups.BookOpened();
     m_language.Use(m_configuration.GetSetting(modSettingKey::LanguageName), m_ports.Shell);
     BuildWindow();
     m_window->RestoreLayout();
@@ -59,6 +69,7 @@ bool cMainProgram::Start(const QString& database)
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
     QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    tmrBackup.start(backupEvery);
     return true;
 }
 
@@ -113,22 +124,36 @@ void cMainProgram::BuildWindow()
     m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
+    QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
+                     [this] { m_backups.CopyIfChanged(); });
+    QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
 }
 
 cBookSwitch::cHooks cMainProgram::Hooks()
 {
-    return {[this] {
-                m_navigation->LeaveBook();
-                m_window->SaveLayout();
-            },
-            [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
+    return {[this] { LeaveBook(); }, [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
             // Without the questions and the storing that closing a window brings: there is nothing to store into.
             [] { QCoreApplication::exit(1); }};
 }
 
+void cMainProgram::LeaveBook()
+{
+    m_navigation->LeaveBook();
+    m_window->SaveLayout();
+    m_backups.CopyIfChanged();
+}
+
+// A step that waits for an answer of the user is not copied in the middle.
+void cMainProgram::CopyInUse()
+{
+    tmrBackup.start(m_backups.IsIdle() ? std::chrono::milliseconds(backupEvery) : backupRetry);
+    m_backups.CopyIfChanged();
+}
+
 void cMainProgram::ShowOtherBook(bool isNewVersion)
 {
+    m_backups.BookOpened();
     if (m_lock.IsHeld()) {
         m_instance.Listen(m_book.Path());
     }
@@ -137,4 +162,5 @@ void cMainProgram::ShowOtherBook(bool isNewVersion)
     m_window->RestoreLayout();
     m_window->ShowToday();
     QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    tmrBackup.start(backupEvery);
 }

@@ -11,6 +11,7 @@
 #include "core/cConfiguration.h"
 
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -62,6 +63,8 @@ private:
     void BuildWindow();
     [[nodiscard]] cBookSwitch::cHooks Hooks();
     void ShowOtherBook(bool isNewVersion);
+    void LeaveBook();
+    void CopyInUse();
 
     cPorts m_ports;
     QString m_version;
@@ -73,6 +76,7 @@ private:
     cAmountFormat m_format{m_configuration};
     cBookSwitch m_bookSwitch;
     cBackupPlan m_backups;
+    QTimer tmrBackup;                  // until the next copy of a program that stays open
     std::optional<cBookTools> m_tools; // from the first opening of the book on
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;

@@ -5,11 +5,13 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
+#include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QTest>
@@ -45,6 +47,8 @@ struct cMachine
 
     [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] QString Copies() const { return File.Folder() + u"/Sicherungen"_s; }
+
+    void Write() { Book.Database().Execute("INSERT INTO data (EntryDate) VALUES ('2026-02-01')"); }
 
     cTestFile File;
     cFakeShell Shell;
@@ -193,20 +197,83 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Shown, QStringList());
     }
 
+    // Of a day on which much is done the first copy and the newest ones stay, of a day gone by the last one.
+    void FurtherCopiesOfADay() const
+    {
+        cMachine machine;
+        machine.Plan.RunIfDue();
+        machine.Plan.CopyIfChanged();
+        QVERIFY(machine.Book.Settings().Set(modSettingKey::WindowState, u"2"_s));
+        machine.Plan.CopyIfChanged();
+        QCOMPARE(FilesIn(machine.Copies()), QStringList(u"data-auto-2026-03-15.backup"_s));
+        for (int i = 0; i < 6; ++i) {
+            machine.Write();
+            machine.Plan.CopyIfChanged();
+        }
+        QCOMPARE(FilesIn(machine.Copies()),
+                 QStringList({u"data-auto-2026-03-15-4.backup"_s, u"data-auto-2026-03-15-5.backup"_s,
+                              u"data-auto-2026-03-15-6.backup"_s, u"data-auto-2026-03-15-7.backup"_s,
+                              u"data-auto-2026-03-15.backup"_s}));
+        QCOMPARE(modBookFile::Look(machine.Plan.Copies().constFirst().Path).Entries, 8);
+        machine.Clock.Day = QDate(2026, 3, 16);
+        machine.Write();
+        machine.Plan.RunIfDue();
+        QCOMPARE(FilesIn(machine.Copies()),
+                 QStringList({u"data-auto-2026-03-15-7.backup"_s, u"data-auto-2026-03-16.backup"_s}));
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    // What was written by another program since the newest copy is told by the times of the files.
+    void UnchangedBookOfAnotherDay() const
+    {
+        cMachine machine;
+        machine.Plan.RunIfDue();
+        QVERIFY(machine.Book.Settings().Set(modSettingKey::WindowState, u"2"_s));
+        machine.Plan.CopyIfChanged(); // at closing
+        for (const bool isChanged : {false, true}) {
+            machine.Clock.Day = machine.Clock.Day.addDays(1);
+            if (isChanged) {
+                QFile file(machine.Book.Path());
+                QVERIFY(file.open(QIODevice::ReadWrite));
+                QVERIFY(file.setFileTime(QFileInfo(file).lastModified().addSecs(5), QFile::FileModificationTime));
+            }
+            QVERIFY(machine.Book.Open(machine.Book.Path()));
+            cBackupPlan plan({machine.Shell, machine.User, machine.Clock}, machine.Book, machine.Configuration);
+            plan.BookOpened();
+            QVERIFY(machine.Book.Settings().Set(modSettingKey::WindowState, u"1"_s));
+            plan.RunIfDue();
+            QCOMPARE(plan.Copies().size(), isChanged ? 2 : 1);
+        }
+    }
+
+    void OpenStepIsNotCopied() const
+    {
+        cMachine machine;
+        cUndoStep step(machine.Book.Data(), u"Schritt"_s);
+        machine.Write();
+        machine.Plan.CopyIfChanged();
+        QVERIFY(!machine.Plan.IsIdle() && machine.Plan.Copies().isEmpty());
+        QVERIFY(step.Done());
+        machine.Plan.CopyIfChanged();
+        QCOMPARE(machine.Plan.Copies().size(), 1);
+    }
+
     void OnlyOwnCopiesGo() const
     {
         cMachine machine;
         const QStringList foreign{u"Kontorelle-2026-01-01.backup"_s,    u"andere-auto-2026-01-01.backup"_s,
                                   u"data-auto-2026-01-01.backup.neu"_s, u"data-auto-2026-01-1.backup"_s,
-                                  u"data-auto-2026-01-01-2.backup"_s,   u"my data-auto-2026-01-01.backup"_s};
-        const QStringList own{u"data-auto-2026-01-01.backup"_s, u"data-auto-2026-01-02.backup"_s};
+                                  u"data-auto-2026-01-01-1.backup"_s,   u"data-auto-2026-01-01-02.backup"_s,
+                                  u"my data-auto-2026-01-01.backup"_s};
+        const QStringList own{u"data-auto-2026-01-01.backup"_s, u"data-auto-2026-01-02.backup"_s,
+                              u"data-auto-2026-01-02-3.backup"_s};
         QVERIFY(QDir().mkpath(machine.Copies()));
         for (const QString& name : foreign + own) {
             cTestFile::Write(machine.Copies() + u'/' + name, "copy");
         }
         QVERIFY(machine.Plan.Save(1, {}));
         machine.Plan.RunIfDue();
-        QStringList left = foreign + QStringList({own[1], u"data-auto-2026-03-15.backup"_s});
+        QStringList left = foreign + QStringList({own[2], u"data-auto-2026-03-15.backup"_s});
         left.sort();
         QStringList found = FilesIn(machine.Copies());
         found.sort();
@@ -232,7 +299,7 @@ private Q_SLOTS:
         cMachine machine;
         cTestFile::Write(machine.Copies(), "a file where the folder should be");
         machine.Plan.RunIfDue();
-        machine.Plan.RunIfDue();
+        machine.Plan.CopyIfChanged();
         QCOMPARE(machine.User.Shown.size(), 1);
         QVERIFY(machine.User.Shown[0].startsWith(u"Die automatische Datensicherung konnte nicht erstellt werden:"_s));
         QVERIFY(QFile::remove(machine.Copies()));

@@ -5,6 +5,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cBackup.h"
+#include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
@@ -114,10 +115,15 @@ QString FullPath(const QString& path)
 
 } // namespace
 
-cBookAccess::cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration)
+cBookAccess::cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration,
+                         const cPorts& ports)
     : m_configuration(std::move(configuration)),
-      m_book(std::move(book))
+      m_book(std::move(book)),
+      m_backups(std::make_unique<cBackupPlan>(cBackupPlan::cPorts{ports.Shell, ports.User, ports.Clock}, *m_book,
+                                              *m_configuration))
 {
+    m_backups->BookOpened();
+    m_backups->RunIfDue(); // a file opened for reading is left as it is
     cNameKeepers::Watch(Data(), Settings());
 }
 
@@ -155,7 +161,7 @@ std::unique_ptr<cBookAccess> cBookAccess::Open(const QString& database, eMode mo
     if (mode != eMode::Unlock && !startUp.AskPassword()) {
         return nullptr;
     }
-    return std::unique_ptr<cBookAccess>(new cBookAccess(std::move(book), std::move(configuration)));
+    return std::unique_ptr<cBookAccess>(new cBookAccess(std::move(book), std::move(configuration), ports));
 }
 
 QString cBookAccess::PathFor(const QString& database, cRegistry& registry, cShell& shell)
@@ -227,4 +233,9 @@ QString cBookAccess::LastStep()
 QString cBookAccess::MakeBackup(const QString& target, cShell& shell)
 {
     return cBackup(m_book->Database(), shell).Make(target);
+}
+
+void cBookAccess::CopyIfChanged()
+{
+    m_backups->CopyIfChanged();
 }

@@ -303,6 +303,7 @@ void frmMain::resizeEvent(QResizeEvent* event)
 void frmMain::closeEvent(QCloseEvent* event)
 {
     SaveLayout();
+    Q_EMIT Closing();
     QMainWindow::closeEvent(event);
 }
 
