@@ -73,11 +73,15 @@ std::optional<cBookSwitch::cProbe> cBookSwitch::Probe(const QString& path, eBook
 
 std::optional<QString> cBookSwitch::Restore(const QString& backup)
 {
+    const QString path = m_parts.Book.Path();
+    if (m_parts.Lock.Take(path) == eLockState::Foreign) {
+        ShowHolder(path); // a book that was opened for reading only may be somebody else's at the moment
+        return std::nullopt;
+    }
     if (!AskPasswordOf(backup)) {
         return std::nullopt;
     }
     m_hooks.Leave();
-    const QString path = m_parts.Book.Path();
     cBackup files(m_parts.Book.Database(), m_parts.Ports.Shell);
     const cBackup::cRestored restored = files.Restore(path, backup, m_parts.Ports.Clock.Today());
     if (!restored.Problem.isEmpty()) {

@@ -7,13 +7,14 @@
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
 #include "model/modSettingKey.h"
+#include "store/cDatabase.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/template/cNameKeepers.h"
 #include "windows/main/frmMain.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QTimer>
 
@@ -26,6 +27,10 @@ namespace {
 constexpr auto backupDelay = 2s; // after the window stands, so that nobody waits for the copy
 constexpr auto backupEvery = 4h; // of use
 constexpr auto backupRetry = 1min;
+constexpr auto walkDelay = 500ms; // after the window stands
+constexpr auto walkPause = 20ms;
+constexpr int walkTime = 10; // milliseconds, too short to be felt
+constexpr auto damageRetry = 300ms;
 
 } // namespace
 
@@ -44,6 +49,8 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
       m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration)
 {
     tmrBackup.setSingleShot(true);
+    tmrWalk.setSingleShot(true);
+    QObject::connect(&tmrWalk, &QTimer::timeout, &tmrWalk, [this] { ReadOn(); });
     QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { CopyInUse(); });
 }
 
@@ -68,8 +75,7 @@ bool cMainProgram::Start(const QString& database)
     }
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
-    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
-    tmrBackup.start(backupEvery);
+    WatchBook();
     return true;
 }
 
@@ -141,7 +147,41 @@ void cMainProgram::LeaveBook()
 {
     m_navigation->LeaveBook();
     m_window->SaveLayout();
+    m_walk.reset();
     m_backups.CopyIfChanged();
+}
+
+// What is done with an open book while nobody waits for it.
+void cMainProgram::WatchBook()
+{
+    m_book.Database().WatchDamage([this] { QTimer::singleShot(0, m_window.get(), [this] { TellDamage(); }); });
+    if (m_book.Database().IsDamaged()) {
+        TellDamage();
+        return;
+    }
+    m_walk.emplace(m_book.Database());
+    tmrWalk.start(walkDelay);
+    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    tmrBackup.start(backupEvery);
+}
+
+void cMainProgram::ReadOn()
+{
+    if (m_walk && m_walk->Step(walkTime)) {
+        tmrWalk.start(walkPause);
+    } else {
+        m_walk.reset();
+    }
+}
+
+// The message of the operation that came upon it comes first, and a window with unsaved fields is left to the user.
+void cMainProgram::TellDamage()
+{
+    if (QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(damageRetry, m_window.get(), [this] { TellDamage(); });
+    } else if (m_book.Database().IsDamaged()) {
+        m_navigation->TellDamage();
+    }
 }
 
 // A step that waits for an answer of the user is not copied in the middle.
@@ -161,6 +201,5 @@ void cMainProgram::ShowOtherBook(bool isNewVersion)
     m_model->BookSwitched(m_book.Path(), isNewVersion);
     m_window->RestoreLayout();
     m_window->ShowToday();
-    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
-    tmrBackup.start(backupEvery);
+    WatchBook();
 }

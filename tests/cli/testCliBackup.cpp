@@ -22,6 +22,7 @@ private Q_SLOTS:
     void CopiesByItself();
     void NothingIsReplacedUnasked();
     void DamagedBook();
+    void DamageIsSaid();
     void ForgottenPassword();
 
 private:
@@ -118,6 +119,14 @@ void testCliBackup::DamagedBook()
     const cCliRun restored = Run({u"restore"_s, backup, u"--yes"_s});
     QVERIFY2(restored.Code == 0 && restored.Out.contains(u"beschädigt"_s), qPrintable(restored.Error));
     QCOMPARE(Entries(), u"1"_s);
+}
+
+void testCliBackup::DamageIsSaid()
+{
+    cTestFile::Damage(Book(), "import");
+    const cCliRun listed = Run({u"staged"_s});
+    QCOMPARE(listed.Code, 1);
+    QVERIFY2(listed.Error.contains(u"restore DATEI"_s), qPrintable(listed.Error));
 }
 
 void testCliBackup::ForgottenPassword()

@@ -5,6 +5,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
+#include "store/cTableWalk.h"
 #include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
@@ -112,6 +113,27 @@ private Q_SLOTS:
         QVERIFY(cBackup(damaged, shell).Make(target).startsWith(u"Die Kopie ist beschädigt"_s));
         QCOMPARE(cTestFile::Bytes(target), QByteArray("good"));
         QCOMPARE(FilesIn(file.Folder()), QStringList({u"good.backup"_s, u"half.db"_s}));
+    }
+
+    void DamageIsFound() const
+    {
+        cMachine machine;
+        cDatabase& database = machine.Book.Database();
+        int told = 0;
+        database.WatchDamage([&told] { ++told; });
+        for (const bool isDamaged : {false, true}) {
+            const QString path = isDamaged ? MakeHalfDamaged(machine.File) : machine.Book.Path();
+            QVERIFY(machine.Book.Open(path));
+            cTableWalk walk(database);
+            int steps = 0;
+            for (; walk.Step(0) && steps < 100; ++steps) {}
+            QVERIFY(steps < 100);
+            QCOMPARE(database.IsDamaged(), isDamaged);
+            QCOMPARE(told, isDamaged ? 1 : 0);
+            QVERIFY(!walk.Step(0));
+        }
+        machine.Plan.CopyIfChanged();
+        QVERIFY(!QFileInfo::exists(machine.Copies()));
     }
 
     void BookIsNotItsOwnCopy() const

@@ -239,3 +239,13 @@ void cBookAccess::CopyIfChanged()
 {
     m_backups->CopyIfChanged();
 }
+
+QString cBookAccess::DamageText() const
+{
+    return m_book->Database().IsDamaged() ? cText::Tr(
+               "Die Datei der Datenbank '{0}' ist beschädigt. Was hier steht, kann unvollständig sein, und es wird "
+               "nichts mehr gespeichert. \"kontorelle-cli restore DATEI\" lädt eine Datensicherung; die selbst "
+               "gemachten liegen im Ordner '{1}'.",
+               {Path(), m_backups->Folder()})
+                                          : QString();
+}

@@ -66,6 +66,8 @@ public:
     [[nodiscard]] cEntryItemList Entries(const cEntryQuery& query); // occurrences, by day
     [[nodiscard]] cEntryItemFixModList Corrections(int id);         // of a series, by day
     [[nodiscard]] int CountEntries();
+    // What to do about a book that turned out to be damaged; empty as long as it did not.
+    [[nodiscard]] QString DamageText() const;
     [[nodiscard]] QString LastStep(); // what was done last, in words; empty when nothing can be taken back
 
     // Writes a checked copy; what went wrong, empty when it is there.
