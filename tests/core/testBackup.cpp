@@ -24,6 +24,10 @@ namespace {
 constexpr const char* twoEntries = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');"
                                    "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2025-12-01', 'Giro');";
 
+constexpr const char* manyRows =
+    "INSERT INTO import (ImportDate, ImportPurpose) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+    "WHERE i < 2000) SELECT '2026-01-01', 'Umsatz mit etwas Text' FROM n";
+
 bool IsPrivate(const QString& path)
 {
     constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
@@ -65,16 +69,28 @@ struct cMachine
 // A book with a page of its bank transactions overwritten: it opens, and only a look at all of it shows the damage.
 QString MakeHalfDamaged(const cTestFile& file)
 {
-    std::string rows;
-    for (int i = 0; i < 2000; ++i) {
-        rows += "INSERT INTO import (ImportDate, ImportPurpose) VALUES ('2026-01-01', 'Umsatz mit etwas Text');";
-    }
-    const QString path = file.Make(rows, u"half.db"_s);
+    const QString path = file.Make(manyRows, u"half.db"_s);
     QByteArray bytes = cTestFile::Bytes(path);
     constexpr int page = 4096;
     bytes.replace(bytes.size() / 2 / page * page, page, QByteArray(page, 'x'));
     cTestFile::Write(path, bytes);
     return path;
+}
+
+// A file with its journal as a program leaves them that is killed in the middle of a large write.
+QString MakeKilled(const cMachine& machine)
+{
+    const QString running = machine.File.Make(manyRows, u"running.db"_s);
+    cDatabase database;
+    database.Open(running, eOpenMode::ReadWrite);
+    database.ExecuteScript("PRAGMA cache_size=5; BEGIN; UPDATE import SET ImportPurpose = 'halb'");
+    const QString killed = machine.Path(u"killed.db"_s);
+    for (const QString& companion : {QString(), u"-journal"_s}) {
+        if (!QFile::copy(running + companion, killed + companion)) {
+            qFatal("nothing was written yet");
+        }
+    }
+    return killed;
 }
 
 } // namespace
@@ -159,6 +175,48 @@ private Q_SLOTS:
         QVERIFY(machine.Backup.PutBack(path, restored.Kept));
         QCOMPARE(modBookFile::Look(path).Entries, 2);
         QCOMPARE(FilesIn(machine.File.Folder()), QStringList({u"data.db"_s, u"empty.backup"_s}));
+    }
+
+    // A program killed while it wrote leaves a journal. It belongs to the replaced file and to no other.
+    void RestoreAfterAKill() const
+    {
+        cMachine machine;
+        const QString path = MakeKilled(machine);
+        const QString backup = machine.File.Make({}, u"empty.backup"_s);
+        cDatabase closed;
+        const cBackup::cRestored restored = cBackup(closed, machine.Shell).Restore(path, backup, QDate(2026, 3, 15));
+        QCOMPARE(restored.Problem, QString());
+        for (const QString& file : {path, restored.Kept}) {
+            QVERIFY(modBookFile::IsSound(modBookFile::Look(file)));
+            QVERIFY(!QFileInfo::exists(file + u"-journal"_s));
+        }
+        cDatabase kept;
+        kept.Open(restored.Kept, eOpenMode::ReadOnly);
+        QCOMPARE(cTestFile::Value(kept, "SELECT COUNT(*) FROM import WHERE ImportPurpose = 'halb'"), u"0"_s);
+        QCOMPARE(modBookFile::Look(path).Entries, 0);
+    }
+
+    void FailedReplacementLeavesAllAsItWas() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make(twoEntries, u"other.db"_s);
+        cTestFile::Write(path + u"-shm"_s, "rest");
+        const QStringList before = FilesIn(machine.File.Folder());
+        QVERIFY(!modBookFile::PutInPlace(machine.Shell, machine.Path(u"missing.neu"_s), path, QDate(2026, 3, 15),
+                                         u"ersetzt"_s));
+        QCOMPARE(FilesIn(machine.File.Folder()), before);
+        QCOMPARE(modBookFile::Look(path).Entries, 2);
+    }
+
+    void LinkStaysALink() const
+    {
+        cMachine machine;
+        const QString link = machine.Path(u"link.db"_s);
+        QVERIFY(QFile::link(machine.Book.Path(), link));
+        const QString backup = machine.File.Make({}, u"empty.backup"_s);
+        QCOMPARE(machine.Backup.Restore(link, backup, QDate(2026, 3, 15)).Problem, QString());
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(modBookFile::Look(machine.Path(u"data.db"_s)).Entries, 0);
     }
 
     void BadBackupLeavesTheBookOpen() const

@@ -500,7 +500,7 @@ void testMainModel::OpenRowsCountForTheirAccount()
     QVERIFY(scene.Book.Data.AddNewImportEntry(row));
     row.ImportAccount = u"999"_s;
     QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-    scene.Book.Settings->Set(u"KTO:999"_s, u"Weg"_s);
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"999"_s), u"Weg"_s);
     const modAccountLines::cLines lines =
         modAccountLines::Load(scene.Book.Data, *scene.Book.Settings, QDate(2026, 3, 1));
     QCOMPARE(lines.Open, 3);

@@ -16,6 +16,7 @@
 #include "views/book/cBookHost.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -53,23 +54,27 @@ void cBookFlow::NewBook()
     if (path.isEmpty()) {
         return;
     }
+    const QString working = modBookFile::WorkingName(path);
+    if (!CopyTemplate(working)) {
+        return;
+    }
     // The user agreed to replace a file that is there, but it may be a book: it stays under another name.
-    const bool isTaken = m_parts.Shell.FileExists(path);
-    const QString kept =
-        isTaken ? modBookFile::KeepAside(m_parts.Shell, path, m_parts.Clock.Today(), u"ersetzt"_s) : QString();
-    if (isTaken && kept.isEmpty()) {
+    const std::optional<QString> kept =
+        modBookFile::PutInPlace(m_parts.Shell, working, path, m_parts.Clock.Today(), u"ersetzt"_s);
+    if (!kept) {
+        QFile::remove(working);
         ShowCannotCreate(path);
         return;
     }
     const QString former = m_parts.Book.Path();
-    if (!CopyTemplate(path) || !m_parts.Host.Switch(path, eBookOrigin::Fresh)) {
-        (void)cBackup(m_parts.Book.Database(), m_parts.Shell).PutBack(path, kept);
+    if (!m_parts.Host.Switch(path, eBookOrigin::Fresh)) {
+        (void)cBackup(m_parts.Book.Database(), m_parts.Shell).PutBack(path, *kept);
         return;
     }
     Remember(former, path);
-    if (!kept.isEmpty()) {
+    if (!kept->isEmpty()) {
         m_parts.User.Show(eTone::Information,
-                          cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {Shown(kept)}));
+                          cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {Shown(*kept)}));
     }
 }
 
