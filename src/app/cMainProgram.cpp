@@ -100,7 +100,12 @@ bool cMainProgram::OpenBook(cStartUp& startUp, const QString& database)
 bool cMainProgram::OpenLocked(cStartUp& startUp, const QString& path, bool isFresh)
 {
     if (m_lock.Take(path) == eLockState::Foreign) {
-        return !cSingleInstance::RaiseOther(path) && OpenForeign(path);
+        if (cSingleInstance::RaiseOther(path)) {
+            return false;
+        }
+        if (!cBookSwitch::TakeOver(m_lock, path, m_ports.User)) {
+            return OpenForeign(path);
+        }
     }
     return startUp.OpenBook(m_book, {path, isFresh});
 }
@@ -138,17 +143,20 @@ void cMainProgram::BuildWindow()
 
 cBookSwitch::cHooks cMainProgram::Hooks()
 {
-    return {[this] { LeaveBook(); }, [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
+    return {[this](cBookSwitch::eLeave leave) { LeaveBook(leave); },
+            [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
             // Without the questions and the storing that closing a window brings: there is nothing to store into.
             [] { QCoreApplication::exit(1); }};
 }
 
-void cMainProgram::LeaveBook()
+void cMainProgram::LeaveBook(cBookSwitch::eLeave leave)
 {
     m_navigation->LeaveBook();
     m_window->SaveLayout();
     m_walk.reset();
-    m_backups.CopyIfChanged();
+    if (leave == cBookSwitch::eLeave::Keep) {
+        m_backups.CopyIfChanged();
+    }
 }
 
 // What is done with an open book while nobody waits for it.

@@ -67,7 +67,7 @@ private:
     void WatchBook();
     void ReadOn();
     void TellDamage();
-    void LeaveBook();
+    void LeaveBook(cBookSwitch::eLeave leave);
     void CopyInUse();
 
     cPorts m_ports;

@@ -15,6 +15,7 @@
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
+#include "views/book/modBookCopy.h"
 #include "views/template/cNameKeepers.h"
 
 #include <QDir>
@@ -90,10 +91,7 @@ QString LockProblem(cBookLock& lock, const QString& path)
 {
     switch (lock.Take(path)) {
     case eLockState::Held: return {};
-    case eLockState::Foreign:
-        return cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie "
-                         "es noch einmal; lesende Befehle gehen auch so.",
-                         {path, lock.HolderOf(path)});
+    case eLockState::Foreign: return modBookCopy::InUse(lock, path);
     case eLockState::Impossible:
         return cText::Tr("In den Ordner der Datenbank '{0}' kann nicht geschrieben werden. Bitte prüfen Sie die "
                          "Zugriffsrechte.",
