@@ -35,10 +35,27 @@ void cBookSwitch::ShowHolder(const QString& path) const
                                       {QDir::toNativeSeparators(path), cFileLock::Holder(path)}));
 }
 
+bool cBookSwitch::TakeOver(cFileLock& lock, const QString& path, cUser& user)
+{
+    if (!lock.IsAbandoned(path)) {
+        return false;
+    }
+    const eAnswer answer =
+        user.Ask({.Text = cText::Tr(
+                      "Die Datenbank '{0}' ist in Benutzung: {1}.\nAuf diesem Rechner läuft dieses Programm nicht. "
+                      "Es kann abgestürzt sein, oder es läuft auf einem anderen. Schreiben zwei Programme zugleich, "
+                      "gehen Daten verloren.\nMöchten Sie die Datenbank trotzdem öffnen?",
+                      {QDir::toNativeSeparators(path), cFileLock::Holder(path)}),
+                  .Title = {},
+                  .Tone = eTone::Exclamation,
+                  .Default = eAnswer::No});
+    return answer == eAnswer::Yes && lock.TakeOver(path) == eLockState::Held;
+}
+
 bool cBookSwitch::Switch(const QString& path, eBookOrigin origin)
 {
     cFileLock lock;
-    if (lock.Take(path) == eLockState::Foreign) {
+    if (lock.Take(path) == eLockState::Foreign && !TakeOver(lock, path, m_parts.Ports.User)) {
         ShowHolder(path);
         return false;
     }
@@ -48,7 +65,7 @@ bool cBookSwitch::Switch(const QString& path, eBookOrigin origin)
     }
     const QString former = m_parts.Book.Path();
     const eMode formerMode = m_parts.Book.IsReadOnly() ? eMode::Reading : eMode::Writing;
-    m_hooks.Leave();
+    m_hooks.Leave(eLeave::Keep);
     if (!Open(probe->Path, probe->Mode)) {
         Return(former, formerMode);
         return false;
@@ -73,11 +90,15 @@ std::optional<cBookSwitch::cProbe> cBookSwitch::Probe(const QString& path, eBook
 
 std::optional<QString> cBookSwitch::Restore(const QString& backup)
 {
+    const QString path = m_parts.Book.Path();
+    if (m_parts.Lock.Take(path) == eLockState::Foreign) {
+        ShowHolder(path); // a book that was opened for reading only may be somebody else's at the moment
+        return std::nullopt;
+    }
     if (!AskPasswordOf(backup)) {
         return std::nullopt;
     }
-    m_hooks.Leave();
-    const QString path = m_parts.Book.Path();
+    m_hooks.Leave(eLeave::Replace);
     cBackup files(m_parts.Book.Database(), m_parts.Ports.Shell);
     const cBackup::cRestored restored = files.Restore(path, backup, m_parts.Ports.Clock.Today());
     if (!restored.Problem.isEmpty()) {
@@ -92,6 +113,7 @@ std::optional<QString> cBookSwitch::Restore(const QString& backup)
         Return(path, eMode::Writing);
         return std::nullopt;
     }
+    (void)m_parts.Lock.Take(path); // it is another file now
     m_hooks.Arrive(false);
     return restored.Kept;
 }

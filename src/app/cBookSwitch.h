@@ -11,6 +11,7 @@ class cBook;
 class cConfiguration;
 class cFileLock;
 class cRegistry;
+class cUser;
 
 // Puts another file in the place of the open book, with lock, password and the way back when something fails. The new
 // file is first opened beside the present one, so that the present one is closed only for a file that works.
@@ -27,10 +28,14 @@ public:
         QString Version;
     };
 
+    // `Replace`: a backup takes the file's place. It may be one of the automatic copies, of which a further one could
+    // push it out.
+    enum class eLeave { Keep, Replace };
+
     // What the program does around a change of the book.
     struct cHooks
     {
-        std::function<void()> Leave;                   // the book is about to be closed: store view and layouts
+        std::function<void(eLeave leave)> Leave;       // the book is about to be closed: store view and layouts
         std::function<void(bool isNewVersion)> Arrive; // a book was opened: build anew what shows it
         std::function<void()> End;                     // no book is left, the user knows
     };
@@ -40,6 +45,10 @@ public:
     [[nodiscard]] bool IsInUse(const QString& path) override;
     [[nodiscard]] bool Switch(const QString& path, eBookOrigin origin) override;
     [[nodiscard]] std::optional<QString> Restore(const QString& backup) override;
+
+    // Asks whether to open a book whose lock is abandoned; true when the lock is held then. Nobody is asked about a
+    // lock whose holder lives.
+    [[nodiscard]] static bool TakeOver(cFileLock& lock, const QString& path, cUser& user);
 
 private:
     enum class eMode { Writing, Reading };

@@ -1,7 +1,9 @@
 #include "app/cFileLock.h"
 
 #include "base/cText.h"
+#include "base/modDate.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,34 +20,64 @@ QString LockName(const QString& database)
 eLockState cFileLock::Take(const QString& database)
 {
     const QString name = LockName(database);
-    if (IsHeld() && m_lock->fileName() == name) {
-        return eLockState::Held;
+    if (!IsHeld() || m_lock->fileName() != name) {
+        Release();
+        auto lock = std::make_unique<QLockFile>(name);
+        lock->setStaleLockTime(0); // a book may stay open for days; only a holder that is gone loses its lock
+        if (!lock->tryLock(0)) {
+            return lock->error() == QLockFile::LockFailedError ? eLockState::Foreign : eLockState::Impossible;
+        }
+        m_lock = std::move(lock);
+        m_file = std::make_unique<cKernelLock>();
     }
-    Release();
-    m_lock = std::make_unique<QLockFile>(name);
-    m_lock->setStaleLockTime(0); // a book may stay open for days; only a holder that is gone loses its lock
-    if (m_lock->tryLock(0)) {
-        return eLockState::Held;
+    // Also when the lock was held: the file may be another one since.
+    if (!m_file->Take(database)) {
+        Release();
+        return eLockState::Foreign;
     }
-    const bool isForeign = m_lock->error() == QLockFile::LockFailedError;
-    m_lock.reset();
-    return isForeign ? eLockState::Foreign : eLockState::Impossible;
+    return eLockState::Held;
+}
+
+eLockState cFileLock::TakeOver(const QString& database)
+{
+    (void)QLockFile(LockName(database)).removeStaleLockFile(); // refused while a program of this machine holds it
+    return Take(database);
+}
+
+bool cFileLock::IsAbandoned(const QString& database) const
+{
+    const QString name = LockName(database);
+    return QFileInfo::exists(name) && !cKernelLock::IsHeldByKernel(name);
+}
+
+QString cFileLock::FileOf(const QString& database) const
+{
+    return LockName(database);
 }
 
 void cFileLock::Release()
 {
+    m_file.reset();
     m_lock.reset();
 }
 
 QString cFileLock::Holder(const QString& database)
 {
+    const QFileInfo file(LockName(database));
+    if (!file.exists()) {
+        cKernelLock other;
+        return other.Take(database) ? QString()
+                                    : cText::Tr("ein Programm, das sie unter einem anderen Namen geöffnet hat");
+    }
+    const QDateTime time = file.lastModified();
+    const QString since = modDate::ToGerman(time.date()) + time.toString(u" HH:mm"_s);
     qint64 process = 0;
     QString host;
     QString program;
-    if (!QLockFile(LockName(database)).getLockInfo(&process, &host, &program)) {
-        return {};
+    if (!QLockFile(file.filePath()).getLockInfo(&process, &host, &program)) {
+        return cText::Tr("ein unbekanntes Programm, seit {0}", {since});
     }
-    return cText::Tr("{0} (Prozess {1} auf {2})", {program, QString::number(process), host});
+    return cText::Tr("{0} (Prozess {1} auf {2}, seit {3})", {program, QString::number(process), host, since});
 }
 
 QString cFileLock::CanonicalPath(const QString& database)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/cKernelLock.h"
 #include "base/cBookLock.h"
 
 #include <QLockFile>
@@ -13,11 +14,15 @@ class cFileLock final : public cBookLock
 {
 public:
     eLockState Take(const QString& database) override;
+    // Takes an abandoned lock away from whoever had it; as Take.
+    [[nodiscard]] eLockState TakeOver(const QString& database);
     [[nodiscard]] QString HolderOf(const QString& database) const override { return Holder(database); }
+    [[nodiscard]] bool IsAbandoned(const QString& database) const override;
+    [[nodiscard]] QString FileOf(const QString& database) const override;
     void Release();
     [[nodiscard]] bool IsHeld() const { return m_lock && m_lock->isLocked(); }
 
-    // "kontorelle (Prozess 4711 auf rechner)": who holds the lock of the database; empty when that cannot be told.
+    // "kontorelle (Prozess 4711 auf rechner, seit 12.03.2026 18:05)": who holds the lock of the database.
     [[nodiscard]] static QString Holder(const QString& database);
 
     // The database's path without links and dots, so that two ways to write it mean the same file.
@@ -25,4 +30,5 @@ public:
 
 private:
     std::unique_ptr<QLockFile> m_lock;
+    std::unique_ptr<cKernelLock> m_file; // with it: another name of the file has another lock file
 };

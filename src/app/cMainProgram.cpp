@@ -7,18 +7,30 @@
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
 #include "model/modSettingKey.h"
+#include "store/cDatabase.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
+#include "views/statement/cStatementFiles.h"
 #include "views/template/cNameKeepers.h"
 #include "windows/main/frmMain.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QTimer>
 
+#include <chrono>
+
+using namespace std::chrono_literals;
+
 namespace {
 
-constexpr int backupDelay = 2000; // milliseconds after the window stands, so that nobody waits for the copy
+constexpr auto backupDelay = 2s; // after the window stands, so that nobody waits for the copy
+constexpr auto backupEvery = 4h; // of use
+constexpr auto backupRetry = 1min;
+constexpr auto walkDelay = 500ms; // after the window stands
+constexpr auto walkPause = 20ms;
+constexpr int walkTime = 10; // milliseconds, too short to be felt
+constexpr auto damageRetry = 300ms;
 
 } // namespace
 
@@ -36,6 +48,10 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
                    Hooks()),
       m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration)
 {
+    tmrBackup.setSingleShot(true);
+    tmrWalk.setSingleShot(true);
+    QObject::connect(&tmrWalk, &QTimer::timeout, &tmrWalk, [this] { ReadOn(); });
+    QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { CopyInUse(); });
 }
 
 cMainProgram::~cMainProgram() = default;
@@ -48,6 +64,7 @@ bool cMainProgram::Start(const QString& database)
     if (!OpenBook(startUp, database)) {
         return false;
     }
+    m_backups.BookOpened();
     m_language.Use(m_configuration.GetSetting(modSettingKey::LanguageName), m_ports.Shell);
     BuildWindow();
     m_window->RestoreLayout();
@@ -58,7 +75,7 @@ bool cMainProgram::Start(const QString& database)
     }
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
-    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    WatchBook();
     return true;
 }
 
@@ -83,7 +100,12 @@ bool cMainProgram::OpenBook(cStartUp& startUp, const QString& database)
 bool cMainProgram::OpenLocked(cStartUp& startUp, const QString& path, bool isFresh)
 {
     if (m_lock.Take(path) == eLockState::Foreign) {
-        return !cSingleInstance::RaiseOther(path) && OpenForeign(path);
+        if (cSingleInstance::RaiseOther(path)) {
+            return false;
+        }
+        if (!cBookSwitch::TakeOver(m_lock, path, m_ports.User)) {
+            return OpenForeign(path);
+        }
     }
     return startUp.OpenBook(m_book, {path, isFresh});
 }
@@ -113,22 +135,73 @@ void cMainProgram::BuildWindow()
     m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
+    QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
+                     [this] { m_backups.CopyIfChanged(); });
+    QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });
     QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
 }
 
 cBookSwitch::cHooks cMainProgram::Hooks()
 {
-    return {[this] {
-                m_navigation->LeaveBook();
-                m_window->SaveLayout();
-            },
+    return {[this](cBookSwitch::eLeave leave) { LeaveBook(leave); },
             [this](bool isNewVersion) { ShowOtherBook(isNewVersion); },
             // Without the questions and the storing that closing a window brings: there is nothing to store into.
             [] { QCoreApplication::exit(1); }};
 }
 
+void cMainProgram::LeaveBook(cBookSwitch::eLeave leave)
+{
+    m_navigation->LeaveBook();
+    m_window->SaveLayout();
+    m_walk.reset();
+    if (leave == cBookSwitch::eLeave::Keep) {
+        m_backups.CopyIfChanged();
+    }
+}
+
+// What is done with an open book while nobody waits for it.
+void cMainProgram::WatchBook()
+{
+    m_book.Database().WatchDamage([this] { QTimer::singleShot(0, m_window.get(), [this] { TellDamage(); }); });
+    if (m_book.Database().IsDamaged()) {
+        TellDamage();
+        return;
+    }
+    m_walk.emplace(m_book.Database());
+    tmrWalk.start(walkDelay);
+    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    tmrBackup.start(backupEvery);
+}
+
+void cMainProgram::ReadOn()
+{
+    if (m_walk && m_walk->Step(walkTime)) {
+        tmrWalk.start(walkPause);
+    } else {
+        m_walk.reset();
+    }
+}
+
+// The message of the operation that came upon it comes first, and a window with unsaved fields is left to the user.
+void cMainProgram::TellDamage()
+{
+    if (QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(damageRetry, m_window.get(), [this] { TellDamage(); });
+    } else if (m_book.Database().IsDamaged()) {
+        m_navigation->TellDamage();
+    }
+}
+
+// A step that waits for an answer of the user is not copied in the middle.
+void cMainProgram::CopyInUse()
+{
+    tmrBackup.start(m_backups.IsIdle() ? std::chrono::milliseconds(backupEvery) : backupRetry);
+    m_backups.CopyIfChanged();
+}
+
 void cMainProgram::ShowOtherBook(bool isNewVersion)
 {
+    m_backups.BookOpened();
     if (m_lock.IsHeld()) {
         m_instance.Listen(m_book.Path());
     }
@@ -136,5 +209,5 @@ void cMainProgram::ShowOtherBook(bool isNewVersion)
     m_model->BookSwitched(m_book.Path(), isNewVersion);
     m_window->RestoreLayout();
     m_window->ShowToday();
-    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    WatchBook();
 }

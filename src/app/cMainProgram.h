@@ -9,8 +9,10 @@
 #include "core/cBook.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
+#include "store/cTableWalk.h"
 
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -62,6 +64,11 @@ private:
     void BuildWindow();
     [[nodiscard]] cBookSwitch::cHooks Hooks();
     void ShowOtherBook(bool isNewVersion);
+    void WatchBook();
+    void ReadOn();
+    void TellDamage();
+    void LeaveBook(cBookSwitch::eLeave leave);
+    void CopyInUse();
 
     cPorts m_ports;
     QString m_version;
@@ -73,6 +80,9 @@ private:
     cAmountFormat m_format{m_configuration};
     cBookSwitch m_bookSwitch;
     cBackupPlan m_backups;
+    QTimer tmrBackup;                 // until the next copy of a program that stays open
+    std::optional<cTableWalk> m_walk; // until the open file has been read once
+    QTimer tmrWalk;
     std::optional<cBookTools> m_tools; // from the first opening of the book on
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;

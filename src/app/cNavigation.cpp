@@ -124,6 +124,12 @@ void cNavigation::BookChanged()
     m_model->BookChanged();
 }
 
+void cNavigation::TellDamage()
+{
+    m_model->AccessChanged();
+    m_books.TellDamage();
+}
+
 void cNavigation::LeaveBook()
 {
     delete m_search;

@@ -48,6 +48,7 @@ public:
 
     // The windows and models that stay open; called once they are there.
     void Connect(cMainModel& model, cImportReview& review, frmMain& window);
+    void TellDamage();
     void LeaveBook(); // before the file is closed: so are the windows that show it
 
     [[nodiscard]] frmImport& Statements();        // built on first use, so that the start does not wait for it

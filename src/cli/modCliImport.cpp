@@ -92,6 +92,7 @@ void Print(const cFileReport& report, const cCliBook& book)
 int ImportFiles(const cCliContext& context, const cFileWish& wish)
 {
     cCliBook& book = *context.Book;
+    book.File().CopyIfChanged(); // not for a trial, which can only read
     bool isDone = true;
     QStringList objects;
     for (const QString& file : context.Call.Arguments()) {

@@ -61,5 +61,9 @@ int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
         }
     }
     const int code = call.Command()->Run({call, ports, user, ports.Clock, ports.Shell, book.get()});
+    if (const QString damage = book ? book->File().DamageText() : QString(); !damage.isEmpty()) {
+        modConsole::Error(damage);
+        return modExit::Failed;
+    }
     return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
 }

@@ -12,30 +12,11 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
-#include <system_error>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// The copy while it is made. Another program may be at the same work, so an existing one is left alone.
-QString WorkingName(const QString& target)
-{
-    QString name = target + u".neu"_s;
-    for (int number = 2; QFileInfo::exists(name); ++number) {
-        name = target + u".neu"_s + QString::number(number);
-    }
-    return name;
-}
-
-// Gives a file another name in one move, also where a file of that name exists.
-bool MoveOver(const QString& from, const QString& to)
-{
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
-    return !error;
-}
 
 QString CannotWrite(const QString& path)
 {
@@ -63,9 +44,9 @@ QString cBackup::TryMake(const QString& target)
     if (!QDir().mkpath(QFileInfo(target).absolutePath())) {
         return CannotWrite(target);
     }
-    const QString working = WorkingName(target);
+    const QString working = modBookFile::WorkingName(target);
     QString problem = MakeChecked(m_book, working);
-    if (problem.isEmpty() && !MoveOver(working, target)) {
+    if (problem.isEmpty() && !modBookFile::MoveOver(working, target)) {
         problem = CannotWrite(target);
     }
     if (!problem.isEmpty()) {
@@ -104,20 +85,18 @@ cBackup::cRestored cBackup::TryRestore(const QString& path, const QString& backu
     if (modSchema::OpenValid(source, backup, eOpenMode::ReadOnly) != eDatabaseFault::None) {
         return {{}, cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup})};
     }
-    const QString working = WorkingName(path);
+    // A link to the book stays one, and leads to the new file.
+    const QString place = QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path;
+    const QString working = modBookFile::WorkingName(place);
     cRestored restored{{}, MakeChecked(source, working)};
     if (restored.Problem.isEmpty()) {
         m_book.Close();
-        const bool isThere = m_shell.FileExists(path);
-        restored.Kept = isThere ? modBookFile::KeepAside(m_shell, path, today, u"ersetzt"_s) : QString();
-        const bool isFree = !isThere || !restored.Kept.isEmpty();
-        if (isFree && m_shell.RenameFile(working, path)) {
+        const std::optional<QString> kept = modBookFile::PutInPlace(m_shell, working, place, today, u"ersetzt"_s);
+        if (kept) {
+            restored.Kept = *kept;
             return restored;
         }
         restored.Problem = CannotWrite(path);
-        if (!restored.Kept.isEmpty() && m_shell.RenameFile(restored.Kept, path)) {
-            restored.Kept.clear();
-        }
     }
     QFile::remove(working);
     return restored;
@@ -125,8 +104,7 @@ cBackup::cRestored cBackup::TryRestore(const QString& path, const QString& backu
 
 bool cBackup::PutBack(const QString& path, const QString& kept)
 {
-    QFile::remove(path);
-    return kept.isEmpty() || m_shell.RenameFile(kept, path);
+    return kept.isEmpty() ? QFile::remove(path) : modBookFile::PutBack(m_shell, kept, path);
 }
 
 bool cBackup::IsSameFile(const QString& one, const QString& other)

@@ -14,9 +14,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 
 #include <algorithm>
+#include <iterator>
 #include <set>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,21 +36,80 @@ cBackupPlan::cBackupPlan(const cPorts& ports, cBook& book, cConfiguration& confi
 {
 }
 
+void cBackupPlan::BookOpened()
+{
+    const QList<cCopy> copies = Copies();
+    const bool isCurrent = !copies.isEmpty()
+        && QFileInfo(m_book.Path()).lastModified() <= QFileInfo(copies.constFirst().Path).lastModified();
+    m_copied = isCurrent ? std::optional(m_book.Data().Journal().RowsWritten()) : std::nullopt;
+}
+
 void cBackupPlan::RunIfDue()
 {
+    const QDate day = m_ports.Clock.Today();
+    if (!IsPossible() || m_configuration.GetSetting(modSettingKey::BackupLast) == modDate::ToIso(day)) {
+        return;
+    }
+    // Today's copy was made before the book was replaced by an older one: one for today is enough.
+    if (QFileInfo::exists(QDir(Folder()).filePath(Name(day, 1)))) {
+        m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);
+    } else if (IsChanged()) {
+        Copy();
+    }
+}
+
+void cBackupPlan::CopyIfChanged()
+{
+    if (!IsPossible()) {
+        return;
+    }
+    if (IsChanged()) {
+        Copy();
+    } else {
+        NoteCurrent();
+    }
+}
+
+bool cBackupPlan::IsIdle() const
+{
+    return !m_book.Data().Journal().IsOpen();
+}
+
+bool cBackupPlan::IsPossible() const
+{
+    return m_book.IsOpen() && !m_book.Data().IsReadOnly() && IsIdle() && Count() > 0
+        && m_book.Data().CountEntries() > 0;
+}
+
+bool cBackupPlan::IsChanged() const
+{
+    return m_copied != m_book.Data().Journal().RowsWritten() || Copies().isEmpty();
+}
+
+void cBackupPlan::Copy()
+{
+    const QDate day = m_ports.Clock.Today();
+    const QList<cCopy> copies = Copies();
+    const auto newest =
+        std::find_if(copies.begin(), copies.end(), [day](const cCopy& copy) { return copy.Day == day; });
+    const QString name = Name(day, newest == copies.end() ? 1 : newest->Number + 1);
+    const QString problem = cBackup(m_book.Database(), m_ports.Shell).Make(QDir(Folder()).filePath(name));
+    if (!problem.isEmpty()) {
+        TellFailure(problem);
+        return;
+    }
+    m_copied = m_book.Data().Journal().RowsWritten();
+    m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);
+    NoteCurrent();
+    const QList<cCopy> surplus = SurplusCopies();
+    for (const cCopy& copy : surplus) {
+        QFile::remove(copy.Path);
+    }
+}
+
+void cBackupPlan::TellFailure(const QString& problem)
+{
     const QString today = modDate::ToIso(m_ports.Clock.Today());
-    if (!m_book.IsOpen() || m_book.IsReadOnly() || Count() == 0 || !IsDue(today) || m_book.Data().CountEntries() == 0) {
-        return;
-    }
-    // Today's copy was made before the book was replaced by an older one: it stays as it is.
-    const QString target = PathOf(m_ports.Clock.Today());
-    const QString problem =
-        QFileInfo::exists(target) ? QString() : cBackup(m_book.Database(), m_ports.Shell).Make(target);
-    if (problem.isEmpty()) {
-        m_configuration.SaveSetting(modSettingKey::BackupLast, today, eSettingPlace::Database);
-        RemoveSurplus();
-        return;
-    }
     if (m_configuration.GetSetting(modSettingKey::BackupFailed) != today) {
         m_configuration.SaveSetting(modSettingKey::BackupFailed, today, eSettingPlace::Database);
         m_ports.User.Show(eTone::Information,
@@ -55,9 +117,18 @@ void cBackupPlan::RunIfDue()
     }
 }
 
-bool cBackupPlan::IsDue(const QString& today) const
+// The newest copy is as good as the book, although settings may have been written since. It gets the time of the book's
+// file, by which the next program to open the book will know that.
+void cBackupPlan::NoteCurrent()
 {
-    return m_configuration.GetSetting(modSettingKey::BackupLast) != today;
+    const QList<cCopy> copies = Copies();
+    if (copies.isEmpty()) {
+        return;
+    }
+    QFile newest(copies.constFirst().Path);
+    if (newest.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+        newest.setFileTime(QFileInfo(m_book.Path()).lastModified(), QFileDevice::FileModificationTime);
+    }
 }
 
 int cBackupPlan::Count() const
@@ -99,38 +170,33 @@ QString cBackupPlan::Prefix() const
         + u"-auto-"_s;
 }
 
-QString cBackupPlan::PathOf(QDate day) const
+// The first copy of a day bears the day alone.
+QString cBackupPlan::Name(QDate day, int number) const
 {
-    return QDir(Folder()).filePath(Prefix() + modDate::ToIso(day) + ending);
-}
-
-// Newest first.
-QList<QDate> cBackupPlan::Days() const
-{
-    const QString prefix = Prefix();
-    const QStringList names = QDir(Folder()).entryList(QDir::Files);
-    QList<QDate> days;
-    for (const QString& name : names) {
-        if (!name.startsWith(prefix) || !name.endsWith(ending)) {
-            continue;
-        }
-        const QDate day = modDate::FromIso(QStringView(name).mid(prefix.size()).chopped(ending.size()));
-        // Written back it has to be the name again: nobody else's file is taken for a copy of ours.
-        if (day.isValid() && name == prefix + modDate::ToIso(day) + ending) {
-            days.append(day);
-        }
-    }
-    std::sort(days.begin(), days.end(), std::greater<>());
-    return days;
+    return Prefix() + modDate::ToIso(day) + (number > 1 ? u'-' + QString::number(number) : QString()) + ending;
 }
 
 QList<cBackupPlan::cCopy> cBackupPlan::Copies() const
 {
+    constexpr qsizetype dayLength = 10;
+    const QDir folder(Folder());
+    const QString prefix = Prefix();
+    const QStringList names = folder.entryList(QDir::Files);
     QList<cCopy> copies;
-    const QList<QDate> days = Days();
-    for (const QDate day : days) {
-        copies.append({PathOf(day), day});
+    for (const QString& name : names) {
+        if (!name.startsWith(prefix) || !name.endsWith(ending)) {
+            continue;
+        }
+        const QStringView middle = QStringView(name).mid(prefix.size()).chopped(ending.size());
+        const QDate day = modDate::FromIso(middle.left(dayLength));
+        const int number = middle.size() > dayLength ? middle.mid(dayLength + 1).toInt() : 1;
+        // Written back it has to be the name again: nobody else's file is taken for a copy of ours.
+        if (day.isValid() && number > 0 && name == Name(day, number)) {
+            copies.append({folder.filePath(name), day, number});
+        }
     }
+    std::sort(copies.begin(), copies.end(),
+              [](const cCopy& a, const cCopy& b) { return std::pair(a.Day, a.Number) > std::pair(b.Day, b.Number); });
     return copies;
 }
 
@@ -149,10 +215,22 @@ QList<QDate> cBackupPlan::Surplus(QList<QDate> days, int count)
     return surplus;
 }
 
-void cBackupPlan::RemoveSurplus() const
+QList<cBackupPlan::cCopy> cBackupPlan::SurplusCopies() const
 {
-    const QList<QDate> surplus = Surplus(Days(), Count());
-    for (const QDate day : surplus) {
-        QFile::remove(PathOf(day));
+    const QDate today = m_ports.Clock.Today();
+    const QList<cCopy> copies = Copies();
+    QMap<QDate, int> seen; // copies by day, so far
+    QList<cCopy> surplus;
+    for (const cCopy& copy : copies) {
+        const int newer = seen[copy.Day]++;
+        // The first copy of today is from before all that was done today.
+        const bool stays = copy.Day == today ? newer < MostOfToday - 1 || copy.Number == 1 : newer == 0;
+        if (!stays) {
+            surplus.append(copy);
+        }
     }
+    const QList<QDate> days = Surplus(seen.keys(), Count());
+    std::copy_if(copies.begin(), copies.end(), std::back_inserter(surplus),
+                 [&days](const cCopy& copy) { return days.contains(copy.Day); });
+    return surplus;
 }

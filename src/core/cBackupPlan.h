@@ -4,14 +4,17 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 class cBook;
 class cClock;
 class cConfiguration;
 class cShell;
 class cUser;
 
-// The copies that the program makes by itself: one at the first start of a day. Of the older ones the last few stay and
-// the last one of every month. Nothing but files of this plan's own names for this book is ever removed.
+// The copies that the program makes by itself: one at the first start of a day, and further ones when something has
+// changed. Of today the first one and the newest ones stay, of an earlier day the last one, and of those days the last
+// few and the last one of every month. Nothing but files of this plan's own names for this book is ever removed.
 class cBackupPlan
 {
 public:
@@ -23,12 +26,24 @@ public:
     };
 
     static constexpr int MostCount = 999;
+    static constexpr int MostOfToday = 5;
 
     cBackupPlan(const cPorts& ports, cBook& book, cConfiguration& configuration);
 
-    // Makes today's copy when there is none yet. Meant for a moment when the user is not waiting. A failure is shown
-    // once a day.
+    // To be called when a file was opened, before anything is written to it: the times of the files tell whether the
+    // newest copy is as good as the book. Without it the book counts as changed.
+    void BookOpened();
+
+    // Makes today's copy when there is none yet and the book has changed. Meant for a moment when the user is not
+    // waiting. A failure is shown once a day.
     void RunIfDue();
+
+    // Makes a further copy when more than settings was written since the newest one: before an import, after hours of
+    // use, when the book is closed. A failure as above.
+    void CopyIfChanged();
+
+    // False while a step of the user is open, of which a copy would hold a part: the copy is made later then.
+    [[nodiscard]] bool IsIdle() const;
 
     // Number of copies that stay besides the monthly ones; 0 when none are made.
     [[nodiscard]] int Count() const;
@@ -42,6 +57,7 @@ public:
     {
         QString Path;
         QDate Day;
+        int Number = 1; // of the day
     };
 
     // This book's copies, newest first.
@@ -51,13 +67,17 @@ public:
     [[nodiscard]] static QList<QDate> Surplus(QList<QDate> days, int count);
 
 private:
-    [[nodiscard]] bool IsDue(const QString& today) const;
+    [[nodiscard]] bool IsPossible() const;
+    [[nodiscard]] bool IsChanged() const;
     [[nodiscard]] QString Prefix() const; // of the copies' names, before the day
-    [[nodiscard]] QList<QDate> Days() const;
-    [[nodiscard]] QString PathOf(QDate day) const;
-    void RemoveSurplus() const;
+    [[nodiscard]] QString Name(QDate day, int number) const;
+    [[nodiscard]] QList<cCopy> SurplusCopies() const;
+    void Copy();
+    void TellFailure(const QString& problem);
+    void NoteCurrent();
 
     cPorts m_ports;
     cBook& m_book;
     cConfiguration& m_configuration;
+    std::optional<quint64> m_copied; // rows written when the newest copy was as good as the book; none: it is not
 };

@@ -10,7 +10,10 @@
 #include "core/cSettings.h"
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
+#include "store/modBookFile.h"
 #include "store/modSchema.h"
+
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -76,9 +79,17 @@ bool cStartUp::AskPassword() const
 
 cStartUp::cFound cStartUp::FindDatabase() const
 {
-    const bool isThere = m_ports.Shell.FileExists(modSchema::DefaultDatabasePath(m_ports.Shell));
-    const cFound standard{modSchema::GetDefaultDatabase(m_ports.Shell, m_ports.User), !isThere};
     const QString configured = m_configuration.GetSetting(modSettingKey::Database);
+    const QString usual = modSchema::DefaultDatabasePath(m_ports.Shell);
+    const bool isThere = m_ports.Shell.FileExists(usual);
+    if (configured.isEmpty() || !m_ports.Shell.FileExists(configured)) {
+        for (const QString& path : {configured, usual}) {
+            if (const std::optional<cFound> leftover = FindLeftover(path)) {
+                return *leftover;
+            }
+        }
+    }
+    const cFound standard{modSchema::GetDefaultDatabase(m_ports.Shell, m_ports.User), !isThere};
     if (!configured.isEmpty() && m_ports.Shell.FileExists(configured)) {
         return {configured};
     }
@@ -91,6 +102,41 @@ cStartUp::cFound cStartUp::FindDatabase() const
         m_ports.User.Show(eTone::Exclamation, cText::Tr("Die Standard-Datenbank konnte nicht gefunden werden!"));
     }
     return standard;
+}
+
+// None when there is nothing of the kind, or the user wants to go on without it.
+std::optional<cStartUp::cFound> cStartUp::FindLeftover(const QString& path) const
+{
+    if (path.isEmpty() || m_ports.Shell.FileExists(path)) {
+        return std::nullopt;
+    }
+    constexpr qsizetype mostOffered = 3;
+    const QStringList leftovers = modBookFile::Leftovers(path).mid(0, mostOffered);
+    if (leftovers.isEmpty()) {
+        return std::nullopt;
+    }
+    QStringList lines;
+    QStringList options;
+    for (const QString& file : leftovers) {
+        const QString name = QFileInfo(file).fileName();
+        lines.append(cText::Tr("{0}: {1}", {name, modBookFile::Describe(modBookFile::Look(file))}));
+        options.append(cText::Tr("'{0}' verwenden", {name}));
+    }
+    options.append(cText::Tr("&Ohne sie weiter"));
+    const int chosen = m_ports.User.Decide(
+        {.Text = cText::Tr("Die Datenbank '{0}' wurde nicht gefunden. Daneben liegt, was vom Ersetzen der Datei "
+                           "geblieben ist:\n{1}\n\nMöchten Sie eine dieser Dateien wieder als Ihr Buch verwenden?",
+                           {path, lines.join(u'\n')}),
+         .Title = cText::Tr("Die Datenbank fehlt"),
+         .Options = options});
+    if (chosen == leftovers.size()) {
+        return std::nullopt;
+    }
+    // What does not work leaves the path without a file, about which the opening asks.
+    if (chosen >= 0) {
+        (void)modBookFile::PutBack(m_ports.Shell, leftovers[chosen], path);
+    }
+    return cFound{path};
 }
 
 void cStartUp::Connect(cBook& book)

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class cBook;
 class cClock;
 class cConfiguration;
@@ -38,7 +40,8 @@ public:
     };
 
     // The database of the configuration, else the default one, which is made when it is missing. What is wrong with the
-    // configured path is shown.
+    // configured path is shown. When there is no file but others beside it that were or were to be this book, the user
+    // is asked which to take; without an answer the path comes back as it is, with nothing there.
     [[nodiscard]] cFound FindDatabase() const;
 
     // Opens the database of the configuration, or `path` where one is given, with all questions that this may take, and
@@ -56,6 +59,7 @@ public:
     [[nodiscard]] bool IsNewVersion() const { return m_isNewVersion; }
 
 private:
+    [[nodiscard]] std::optional<cFound> FindLeftover(const QString& path) const;
     void Connect(cBook& book); // its settings come first from now on
 
     cPorts m_ports;

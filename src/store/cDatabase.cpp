@@ -17,12 +17,21 @@
 
 struct cDatabase::cConnection
 {
-    cConnection(const QString& path, int flags, int busyTimeout)
-        : Handle(path.toStdString(), flags, busyTimeout, modSyncVfs::Name())
+    cConnection(const QString& path, int flags, int busyTimeout, const std::function<void()>& tellDamage)
+        : Handle(path.toStdString(), flags, busyTimeout, modSyncVfs::Name()),
+          TellDamage(tellDamage)
     {
     }
 
+    void NoteDamage()
+    {
+        if (!std::exchange(IsDamaged, true) && TellDamage) {
+            TellDamage();
+        }
+    }
+
     SQLite::Database Handle;
+    const std::function<void()>& TellDamage; // of the database object
     bool IsDamaged = false;
     // Prepared statements that nobody is using at the moment, by their text
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle;
@@ -77,7 +86,9 @@ auto TranslateOf(tConnection& connection, tCall call)
     try {
         return Translate(call);
     } catch (const cDatabaseError& error) {
-        connection.IsDamaged = connection.IsDamaged || error.Fault() == eDatabaseFault::Damaged;
+        if (error.Fault() == eDatabaseFault::Damaged) {
+            connection.NoteDamage();
+        }
         throw;
     }
 }
@@ -177,7 +188,8 @@ cDatabase::~cDatabase()
 void cDatabase::Open(const QString& path, eOpenMode mode)
 {
     Close();
-    m_connection = Translate([&] { return std::make_unique<cConnection>(path, FlagsOf(mode), m_busyTimeout); });
+    m_connection =
+        Translate([&] { return std::make_unique<cConnection>(path, FlagsOf(mode), m_busyTimeout, m_damageWatcher); });
     m_path = path;
     m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
     InstallWatcher();

@@ -126,6 +126,9 @@ public:
     // throw and must not use the database.
     void WatchRows(std::function<void(const cRowBefore&)> watcher);
 
+    // Called once for each file that turns out to be damaged, in the middle of the operation that came upon it.
+    void WatchDamage(std::function<void()> watcher) { m_damageWatcher = std::move(watcher); }
+
     // Whoever writes to table `import` says so here.
     void NoteImportWrite() noexcept { ++m_importVersion; }
     // Differs from every earlier value once table `import` may have changed, by this connection or by another.
@@ -141,6 +144,7 @@ private:
     void BeginGathered();
 
     std::function<void(const cRowBefore&)> m_watcher;
+    std::function<void()> m_damageWatcher;
     std::unique_ptr<cConnection> m_connection;
     QString m_path;
     int m_busyTimeout;

@@ -162,6 +162,9 @@ std::set<cJournal::cRowKey>& cJournal::Known()
 void cJournal::Note(const cRowBefore& row)
 {
     const cRowKey key{PlaceOf(row.Table), row.RowId};
+    if (key.first != settings) {
+        ++m_rowsWritten;
+    }
     if (key.first == tables.size()) {
         return;
     }

@@ -52,6 +52,10 @@ public:
     [[nodiscard]] bool Undo();
     [[nodiscard]] bool Redo();
 
+    // How many rows of the book were written so far, those of table `setting` not counted: which columns a list has is
+    // nothing that somebody would miss. What was taken back counts as well.
+    [[nodiscard]] quint64 RowsWritten() const { return m_rowsWritten; }
+
     // Forgets all steps, because what they know may not be true any more: another file was opened.
     void Forget();
 
@@ -102,4 +106,5 @@ private:
     std::vector<cPart> m_parts;
     std::deque<cStep> m_undo;
     std::deque<cStep> m_redo;
+    quint64 m_rowsWritten = 0;
 };

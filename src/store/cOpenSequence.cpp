@@ -10,6 +10,7 @@
 #include "store/modFailure.h"
 #include "store/modSchema.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
@@ -200,14 +201,16 @@ void cOpenSequence::Initialise()
 bool cOpenSequence::ReplaceFile(const QString& source)
 {
     m_database.Close();
-    const QString kept = modBookFile::KeepAside(m_ports.Shell, m_path, m_today, u"beschaedigt"_s);
-    if (!kept.isEmpty() && m_ports.Shell.CopyFile(source, m_path)) {
-        m_ports.User.Show(eTone::Information, cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {kept}));
-        return true;
+    const QString working = modBookFile::WorkingName(m_path);
+    if (m_ports.Shell.CopyFile(source, working)) {
+        if (const std::optional<QString> kept =
+                modBookFile::PutInPlace(m_ports.Shell, working, m_path, m_today, u"beschaedigt"_s)) {
+            m_ports.User.Show(eTone::Information,
+                              cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {*kept}));
+            return true;
+        }
     }
-    if (!kept.isEmpty() && !m_ports.Shell.FileExists(m_path)) {
-        (void)m_ports.Shell.RenameFile(kept, m_path);
-    }
+    QFile::remove(working);
     m_ports.User.Show(
         eTone::Critical,
         cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "

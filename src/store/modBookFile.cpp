@@ -7,8 +7,13 @@
 #include "store/modFailure.h"
 #include "store/modSchema.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+
+#include <filesystem>
+#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +22,47 @@ namespace {
 // Files that SQLite keeps beside a database. They belong to its content: left behind, they would be played into
 // whatever file comes in its place.
 const QStringList companions{u"-journal"_s, u"-wal"_s, u"-shm"_s};
+
+const QString working = u".neu"_s;
+
+std::filesystem::path Native(const QString& path)
+{
+    return QFileInfo(path).filesystemFilePath();
+}
+
+// Has SQLite take back what a killed program left half written, so that the file is whole without its journal: beside a
+// file of another name the journal would be of no use, and beside another file of this name it would do harm.
+void Settle(const QString& path)
+{
+    cDatabase database;
+    (void)modSchema::OpenValid(database, path, eOpenMode::ReadWrite);
+}
+
+// Gives a file a second name; where the volume has no such thing, that of a copy.
+bool Keep(cShell& shell, const QString& path, const QString& kept)
+{
+    std::error_code error;
+    std::filesystem::create_hard_link(Native(path), Native(kept), error);
+    if (!error) {
+        return true;
+    }
+    const QString copy = modBookFile::WorkingName(kept);
+    if (shell.CopyFile(path, copy) && shell.RenameFile(copy, kept)) {
+        return true;
+    }
+    QFile::remove(copy);
+    return false;
+}
+
+// What is still beside the file then is of no use to SQLite, but it is not ours to delete.
+void MoveCompanions(cShell& shell, const QString& from, const QString& to)
+{
+    for (const QString& companion : companions) {
+        if (shell.FileExists(from + companion)) {
+            (void)shell.RenameFile(from + companion, to + companion);
+        }
+    }
+}
 
 void ReadEntries(cDatabase& database, modBookFile::cContent& content)
 {
@@ -90,16 +136,68 @@ QString modBookFile::FreeName(const cShell& shell, const QString& path, QDate to
     return name;
 }
 
-QString modBookFile::KeepAside(cShell& shell, const QString& path, QDate today, const QString& ending)
+QString modBookFile::WorkingName(const QString& path)
+{
+    QString name = path + working;
+    for (int number = 2; QFileInfo::exists(name); ++number) { // another program may be at the same work
+        name = path + working + QString::number(number);
+    }
+    return name;
+}
+
+bool modBookFile::MoveOver(const QString& from, const QString& to)
+{
+    std::error_code error;
+    std::filesystem::rename(Native(from), Native(to), error);
+    return !error;
+}
+
+// Killed before the last move, a program leaves the former file where it was, whole and under a second name.
+std::optional<QString> modBookFile::PutInPlace(cShell& shell, const QString& working, const QString& path, QDate today,
+                                               const QString& ending)
 {
     const QString kept = FreeName(shell, path, today, ending);
-    if (!shell.RenameFile(path, kept)) {
-        return {};
-    }
-    for (const QString& companion : companions) {
-        if (shell.FileExists(path + companion)) {
-            (void)shell.RenameFile(path + companion, kept + companion);
+    const bool isThere = shell.FileExists(path);
+    if (isThere) {
+        Settle(path);
+        if (!Keep(shell, path, kept)) {
+            return std::nullopt;
         }
     }
-    return kept;
+    MoveCompanions(shell, path, kept);
+    if (MoveOver(working, path)) {
+        return isThere ? kept : QString();
+    }
+    MoveCompanions(shell, kept, path);
+    QFile::remove(kept);
+    return std::nullopt;
+}
+
+bool modBookFile::PutBack(cShell& shell, const QString& kept, const QString& path)
+{
+    if (shell.FileExists(path)) {
+        Settle(path);
+    }
+    if (!MoveOver(kept, path)) {
+        return false;
+    }
+    MoveCompanions(shell, kept, path);
+    return true;
+}
+
+QStringList modBookFile::Leftovers(const QString& path)
+{
+    const QFileInfo book(path);
+    const QDir folder = book.dir();
+    const QString name = QRegularExpression::escape(book.fileName());
+    const QRegularExpression pattern(
+        QRegularExpression::anchoredPattern(name + u"(\\.neu[0-9]*|\\.[0-9-]+\\.ersetzt)"_s));
+    QStringList found;
+    const QFileInfoList files = folder.entryInfoList(QDir::Files, QDir::Time);
+    for (const QFileInfo& file : files) {
+        if (pattern.match(file.fileName()).hasMatch() && IsSound(Look(file.filePath()))) {
+            found.append(file.filePath());
+        }
+    }
+    return found;
 }

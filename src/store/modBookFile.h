@@ -40,7 +40,23 @@ struct cContent
 // "<path>.<day>.<ending>", with a number when that name is taken.
 [[nodiscard]] QString FreeName(const cShell& shell, const QString& path, QDate today, const QString& ending);
 
-// Gives a closed file, and what SQLite keeps beside it, the name FreeName; the new name, empty on failure.
-[[nodiscard]] QString KeepAside(cShell& shell, const QString& path, QDate today, const QString& ending);
+// The name for a file that is made beside `path` and takes its place when it is whole; free. See Leftovers.
+[[nodiscard]] QString WorkingName(const QString& path);
+
+// Gives a file another name in one move, also where a file of that name exists. False on failure.
+[[nodiscard]] bool MoveOver(const QString& from, const QString& to);
+
+// Puts the whole file `working` in the place of the closed file `path` in one move, so that there is a book at every
+// moment. The former file stays under the name FreeName, which is given back; empty when there was none. None on
+// failure: then all is as before.
+[[nodiscard]] std::optional<QString> PutInPlace(cShell& shell, const QString& working, const QString& path, QDate today,
+                                                const QString& ending);
+
+// The way back: `kept` takes the place of the closed file `path`, which is lost. False on failure.
+[[nodiscard]] bool PutBack(cShell& shell, const QString& kept, const QString& path);
+
+// Sound books beside a missing `path` that a program left behind when it was killed or the user took the file away:
+// whole files that were to take its place, and files that were replaced. The newest first.
+[[nodiscard]] QStringList Leftovers(const QString& path);
 
 } // namespace modBookFile

@@ -9,10 +9,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <filesystem>
 #include <thread>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,7 +31,10 @@ private Q_SLOTS:
     void CopyIsTheUsersOwn();
     void LockIsForOne();
     void TwoPathsOfOneFileShareTheLock();
+    void HardLinksShareTheLock();
     void LeftoverLockIsTakenOver();
+    void AbandonedLock_data();
+    void AbandonedLock();
     void SecondStartRaisesTheFirst();
     void NobodyToRaise();
     void KeysHaveGermanNames();
@@ -116,6 +121,55 @@ void testAdapters::TwoPathsOfOneFileShareTheLock()
     QCOMPARE(first.Take(path), eLockState::Held);
     QCOMPARE(second.Take(link), eLockState::Foreign);
     QCOMPARE(second.Take(m_folder.path() + u"/./one.db"_s), eLockState::Foreign);
+}
+
+void testAdapters::HardLinksShareTheLock()
+{
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
+    const auto restore = qScopeGuard([&] { qputenv("XDG_RUNTIME_DIR", before); });
+    const QString path = NewFile(u"hard.db"_s);
+    const QString link = m_folder.filePath(u"other.db"_s);
+    std::filesystem::create_hard_link(path.toStdString(), link.toStdString());
+    cFileLock first;
+    cFileLock second;
+    QCOMPARE(first.Take(path), eLockState::Held);
+    QCOMPARE(second.Take(link), eLockState::Foreign);
+    QVERIFY(second.HolderOf(link).contains("unter einem anderen Namen"_L1));
+    QVERIFY(!second.IsAbandoned(link));
+    // The book was replaced: the lock goes over to the file that has its name now.
+    QVERIFY(QFile::remove(path));
+    (void)NewFile(u"hard.db"_s);
+    QCOMPARE(first.Take(path), eLockState::Held);
+    QCOMPARE(second.Take(link), eLockState::Held);
+}
+
+void testAdapters::AbandonedLock_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("holder");
+    QTest::newRow("empty after a power cut") << QByteArray() << u"ein unbekanntes Programm, seit "_s;
+    QTest::newRow("another machine") << QByteArray("4711\nkontorelle\nanderer\n")
+                                     << u"kontorelle (Prozess 4711 auf anderer, seit "_s;
+}
+
+void testAdapters::AbandonedLock()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, holder);
+    const QString path = NewFile(u"abandoned.db"_s);
+    QFile lock(path + u".lock"_s);
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.write(content);
+    lock.close();
+    cFileLock mine;
+    QCOMPARE(mine.Take(path), eLockState::Foreign);
+    QVERIFY(mine.IsAbandoned(path));
+    QVERIFY2(mine.HolderOf(path).startsWith(holder), qPrintable(mine.HolderOf(path)));
+    QCOMPARE(mine.TakeOver(path), eLockState::Held);
+    cFileLock other;
+    QVERIFY(!other.IsAbandoned(path)); // whoever lives keeps it
+    QCOMPARE(other.TakeOver(path), eLockState::Foreign);
 }
 
 void testAdapters::LeftoverLockIsTakenOver()

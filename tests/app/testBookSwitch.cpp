@@ -60,7 +60,9 @@ struct cMachine
     cStartUp StartUp{{Shell, User, Rescue, Clock}, Configuration, u"0.1.0"_s};
     QStringList Steps;
     cBookSwitch Switch{{{Shell, User, Rescue, Clock}, Registry, Configuration, Book, Lock, u"0.1.0"_s},
-                       {[this] { Steps.append(u"leave"_s); },
+                       {[this](cBookSwitch::eLeave leave) {
+                            Steps.append(leave == cBookSwitch::eLeave::Keep ? u"leave"_s : u"leave, replaced"_s);
+                        },
                         [this](bool isNew) { Steps.append(isNew ? u"arrive, new version"_s : u"arrive"_s); },
                         [this] { Steps.append(u"end"_s); }}};
 };
@@ -118,6 +120,20 @@ private Q_SLOTS:
         QVERIFY(machine.User.Shown.join(u' ').contains(message));
     }
 
+    // The lock file of a program that was killed on another machine is nobody's any more, as only the user can know.
+    void AbandonedLockIsAskedAbout() const
+    {
+        for (const bool isWanted : {false, true}) {
+            cMachine machine;
+            const QString path = machine.File.Make({}, u"used.db"_s);
+            cTestFile::Write(path + u".lock"_s, "4711\nkontorelle\nanderer\n");
+            machine.User.Answers = {isWanted ? eAnswer::Yes : eAnswer::No};
+            QCOMPARE(machine.Switch.Switch(path, eBookOrigin::Existing), isWanted);
+            QVERIFY(machine.User.Asked[0].contains("Prozess 4711 auf anderer"_L1));
+            QCOMPARE(machine.Book.Path() == path, isWanted);
+        }
+    }
+
     void BackupTakesThePlace() const
     {
         cMachine machine;
@@ -125,7 +141,7 @@ private Q_SLOTS:
         const std::optional<QString> kept = machine.Switch.Restore(backup);
         QCOMPARE(kept.value_or(QString()), machine.Path(u"data.db.2026-03-15.ersetzt"_s));
         QCOMPARE(machine.Book.Data().CountEntries(), 2);
-        QCOMPARE(machine.Steps, QStringList({u"leave"_s, u"arrive"_s}));
+        QCOMPARE(machine.Steps, QStringList({u"leave, replaced"_s, u"arrive"_s}));
         QVERIFY(machine.Lock.IsHeld());
         QVERIFY(machine.Registry.Values.isEmpty());
     }

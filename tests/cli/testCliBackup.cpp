@@ -19,8 +19,10 @@ class testCliBackup final : public QObject
 private Q_SLOTS:
     void init();
     void ThereAndBack();
+    void CopiesByItself();
     void NothingIsReplacedUnasked();
     void DamagedBook();
+    void DamageIsSaid();
     void ForgottenPassword();
 
 private:
@@ -78,6 +80,24 @@ void testCliBackup::ThereAndBack()
     QCOMPARE(Entries(), u"1"_s);
 }
 
+void testCliBackup::CopiesByItself()
+{
+    const QDir copies(Path(u"Veltrino Kontorelle/Sicherungen"_s));
+    QCOMPARE(Run({u"entries"_s}).Code, 0);
+    QVERIFY(!copies.exists()); // who only reads leaves no traces
+    const QStringList add{u"add"_s, u"--amount"_s, u"5"_s, u"--category"_s, u"Haushalt"_s};
+    for (int i = 0; i < 2; ++i) {
+        const cCliRun added = Run(add);
+        QVERIFY2(added.Code == 0, qPrintable(added.Error));
+        QCOMPARE(copies.entryList(QDir::Files).size(), 1);
+    }
+    const QString statement = Path(u"a.csv"_s);
+    cTestFile::Write(statement, "Buchungstag;Betrag;Verwendungszweck\n03.02.2026;-4,20;Brezeln\n");
+    const cCliRun imported = Run({u"import"_s, statement, u"--account"_s, u"4711"_s});
+    QVERIFY2(imported.Code == 0, qPrintable(imported.Error));
+    QCOMPARE(copies.entryList(QDir::Files).size(), 2);
+}
+
 void testCliBackup::NothingIsReplacedUnasked()
 {
     const QString backup = Path(u"old.backup"_s);
@@ -99,6 +119,14 @@ void testCliBackup::DamagedBook()
     const cCliRun restored = Run({u"restore"_s, backup, u"--yes"_s});
     QVERIFY2(restored.Code == 0 && restored.Out.contains(u"beschädigt"_s), qPrintable(restored.Error));
     QCOMPARE(Entries(), u"1"_s);
+}
+
+void testCliBackup::DamageIsSaid()
+{
+    cTestFile::Damage(Book(), "import");
+    const cCliRun listed = Run({u"staged"_s});
+    QCOMPARE(listed.Code, 1);
+    QVERIFY2(listed.Error.contains(u"restore DATEI"_s), qPrintable(listed.Error));
 }
 
 void testCliBackup::ForgottenPassword()

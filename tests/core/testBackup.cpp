@@ -5,11 +5,14 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
+#include "store/cTableWalk.h"
+#include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QTest>
@@ -20,6 +23,10 @@ namespace {
 
 constexpr const char* twoEntries = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');"
                                    "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2025-12-01', 'Giro');";
+
+constexpr const char* manyRows =
+    "INSERT INTO import (ImportDate, ImportPurpose) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+    "WHERE i < 2000) SELECT '2026-01-01', 'Umsatz mit etwas Text' FROM n";
 
 bool IsPrivate(const QString& path)
 {
@@ -46,6 +53,8 @@ struct cMachine
     [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] QString Copies() const { return File.Folder() + u"/Sicherungen"_s; }
 
+    void Write() { Book.Database().Execute("INSERT INTO data (EntryDate) VALUES ('2026-02-01')"); }
+
     cTestFile File;
     cFakeShell Shell;
     cFakeUser User;
@@ -60,16 +69,28 @@ struct cMachine
 // A book with a page of its bank transactions overwritten: it opens, and only a look at all of it shows the damage.
 QString MakeHalfDamaged(const cTestFile& file)
 {
-    std::string rows;
-    for (int i = 0; i < 2000; ++i) {
-        rows += "INSERT INTO import (ImportDate, ImportPurpose) VALUES ('2026-01-01', 'Umsatz mit etwas Text');";
-    }
-    const QString path = file.Make(rows, u"half.db"_s);
+    const QString path = file.Make(manyRows, u"half.db"_s);
     QByteArray bytes = cTestFile::Bytes(path);
     constexpr int page = 4096;
     bytes.replace(bytes.size() / 2 / page * page, page, QByteArray(page, 'x'));
     cTestFile::Write(path, bytes);
     return path;
+}
+
+// A file with its journal as a program leaves them that is killed in the middle of a large write.
+QString MakeKilled(const cMachine& machine)
+{
+    const QString running = machine.File.Make(manyRows, u"running.db"_s);
+    cDatabase database;
+    database.Open(running, eOpenMode::ReadWrite);
+    database.ExecuteScript("PRAGMA cache_size=5; BEGIN; UPDATE import SET ImportPurpose = 'halb'");
+    const QString killed = machine.Path(u"killed.db"_s);
+    for (const QString& companion : {QString(), u"-journal"_s}) {
+        if (!QFile::copy(running + companion, killed + companion)) {
+            qFatal("nothing was written yet");
+        }
+    }
+    return killed;
 }
 
 } // namespace
@@ -110,6 +131,27 @@ private Q_SLOTS:
         QCOMPARE(FilesIn(file.Folder()), QStringList({u"good.backup"_s, u"half.db"_s}));
     }
 
+    void DamageIsFound() const
+    {
+        cMachine machine;
+        cDatabase& database = machine.Book.Database();
+        int told = 0;
+        database.WatchDamage([&told] { ++told; });
+        for (const bool isDamaged : {false, true}) {
+            const QString path = isDamaged ? MakeHalfDamaged(machine.File) : machine.Book.Path();
+            QVERIFY(machine.Book.Open(path));
+            cTableWalk walk(database);
+            int steps = 0;
+            for (; walk.Step(0) && steps < 100; ++steps) {}
+            QVERIFY(steps < 100);
+            QCOMPARE(database.IsDamaged(), isDamaged);
+            QCOMPARE(told, isDamaged ? 1 : 0);
+            QVERIFY(!walk.Step(0));
+        }
+        machine.Plan.CopyIfChanged();
+        QVERIFY(!QFileInfo::exists(machine.Copies()));
+    }
+
     void BookIsNotItsOwnCopy() const
     {
         cMachine machine;
@@ -133,6 +175,48 @@ private Q_SLOTS:
         QVERIFY(machine.Backup.PutBack(path, restored.Kept));
         QCOMPARE(modBookFile::Look(path).Entries, 2);
         QCOMPARE(FilesIn(machine.File.Folder()), QStringList({u"data.db"_s, u"empty.backup"_s}));
+    }
+
+    // A program killed while it wrote leaves a journal. It belongs to the replaced file and to no other.
+    void RestoreAfterAKill() const
+    {
+        cMachine machine;
+        const QString path = MakeKilled(machine);
+        const QString backup = machine.File.Make({}, u"empty.backup"_s);
+        cDatabase closed;
+        const cBackup::cRestored restored = cBackup(closed, machine.Shell).Restore(path, backup, QDate(2026, 3, 15));
+        QCOMPARE(restored.Problem, QString());
+        for (const QString& file : {path, restored.Kept}) {
+            QVERIFY(modBookFile::IsSound(modBookFile::Look(file)));
+            QVERIFY(!QFileInfo::exists(file + u"-journal"_s));
+        }
+        cDatabase kept;
+        kept.Open(restored.Kept, eOpenMode::ReadOnly);
+        QCOMPARE(cTestFile::Value(kept, "SELECT COUNT(*) FROM import WHERE ImportPurpose = 'halb'"), u"0"_s);
+        QCOMPARE(modBookFile::Look(path).Entries, 0);
+    }
+
+    void FailedReplacementLeavesAllAsItWas() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make(twoEntries, u"other.db"_s);
+        cTestFile::Write(path + u"-shm"_s, "rest");
+        const QStringList before = FilesIn(machine.File.Folder());
+        QVERIFY(!modBookFile::PutInPlace(machine.Shell, machine.Path(u"missing.neu"_s), path, QDate(2026, 3, 15),
+                                         u"ersetzt"_s));
+        QCOMPARE(FilesIn(machine.File.Folder()), before);
+        QCOMPARE(modBookFile::Look(path).Entries, 2);
+    }
+
+    void LinkStaysALink() const
+    {
+        cMachine machine;
+        const QString link = machine.Path(u"link.db"_s);
+        QVERIFY(QFile::link(machine.Book.Path(), link));
+        const QString backup = machine.File.Make({}, u"empty.backup"_s);
+        QCOMPARE(machine.Backup.Restore(link, backup, QDate(2026, 3, 15)).Problem, QString());
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(modBookFile::Look(machine.Path(u"data.db"_s)).Entries, 0);
     }
 
     void BadBackupLeavesTheBookOpen() const
@@ -193,20 +277,83 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Shown, QStringList());
     }
 
+    // Of a day on which much is done the first copy and the newest ones stay, of a day gone by the last one.
+    void FurtherCopiesOfADay() const
+    {
+        cMachine machine;
+        machine.Plan.RunIfDue();
+        machine.Plan.CopyIfChanged();
+        QVERIFY(machine.Book.Settings().Set(modSettingKey::WindowState, u"2"_s));
+        machine.Plan.CopyIfChanged();
+        QCOMPARE(FilesIn(machine.Copies()), QStringList(u"data-auto-2026-03-15.backup"_s));
+        for (int i = 0; i < 6; ++i) {
+            machine.Write();
+            machine.Plan.CopyIfChanged();
+        }
+        QCOMPARE(FilesIn(machine.Copies()),
+                 QStringList({u"data-auto-2026-03-15-4.backup"_s, u"data-auto-2026-03-15-5.backup"_s,
+                              u"data-auto-2026-03-15-6.backup"_s, u"data-auto-2026-03-15-7.backup"_s,
+                              u"data-auto-2026-03-15.backup"_s}));
+        QCOMPARE(modBookFile::Look(machine.Plan.Copies().constFirst().Path).Entries, 8);
+        machine.Clock.Day = QDate(2026, 3, 16);
+        machine.Write();
+        machine.Plan.RunIfDue();
+        QCOMPARE(FilesIn(machine.Copies()),
+                 QStringList({u"data-auto-2026-03-15-7.backup"_s, u"data-auto-2026-03-16.backup"_s}));
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    // What was written by another program since the newest copy is told by the times of the files.
+    void UnchangedBookOfAnotherDay() const
+    {
+        cMachine machine;
+        machine.Plan.RunIfDue();
+        QVERIFY(machine.Book.Settings().Set(modSettingKey::WindowState, u"2"_s));
+        machine.Plan.CopyIfChanged(); // at closing
+        for (const bool isChanged : {false, true}) {
+            machine.Clock.Day = machine.Clock.Day.addDays(1);
+            if (isChanged) {
+                QFile file(machine.Book.Path());
+                QVERIFY(file.open(QIODevice::ReadWrite));
+                QVERIFY(file.setFileTime(QFileInfo(file).lastModified().addSecs(5), QFile::FileModificationTime));
+            }
+            QVERIFY(machine.Book.Open(machine.Book.Path()));
+            cBackupPlan plan({machine.Shell, machine.User, machine.Clock}, machine.Book, machine.Configuration);
+            plan.BookOpened();
+            QVERIFY(machine.Book.Settings().Set(modSettingKey::WindowState, u"1"_s));
+            plan.RunIfDue();
+            QCOMPARE(plan.Copies().size(), isChanged ? 2 : 1);
+        }
+    }
+
+    void OpenStepIsNotCopied() const
+    {
+        cMachine machine;
+        cUndoStep step(machine.Book.Data(), u"Schritt"_s);
+        machine.Write();
+        machine.Plan.CopyIfChanged();
+        QVERIFY(!machine.Plan.IsIdle() && machine.Plan.Copies().isEmpty());
+        QVERIFY(step.Done());
+        machine.Plan.CopyIfChanged();
+        QCOMPARE(machine.Plan.Copies().size(), 1);
+    }
+
     void OnlyOwnCopiesGo() const
     {
         cMachine machine;
         const QStringList foreign{u"Kontorelle-2026-01-01.backup"_s,    u"andere-auto-2026-01-01.backup"_s,
                                   u"data-auto-2026-01-01.backup.neu"_s, u"data-auto-2026-01-1.backup"_s,
-                                  u"data-auto-2026-01-01-2.backup"_s,   u"my data-auto-2026-01-01.backup"_s};
-        const QStringList own{u"data-auto-2026-01-01.backup"_s, u"data-auto-2026-01-02.backup"_s};
+                                  u"data-auto-2026-01-01-1.backup"_s,   u"data-auto-2026-01-01-02.backup"_s,
+                                  u"my data-auto-2026-01-01.backup"_s};
+        const QStringList own{u"data-auto-2026-01-01.backup"_s, u"data-auto-2026-01-02.backup"_s,
+                              u"data-auto-2026-01-02-3.backup"_s};
         QVERIFY(QDir().mkpath(machine.Copies()));
         for (const QString& name : foreign + own) {
             cTestFile::Write(machine.Copies() + u'/' + name, "copy");
         }
         QVERIFY(machine.Plan.Save(1, {}));
         machine.Plan.RunIfDue();
-        QStringList left = foreign + QStringList({own[1], u"data-auto-2026-03-15.backup"_s});
+        QStringList left = foreign + QStringList({own[2], u"data-auto-2026-03-15.backup"_s});
         left.sort();
         QStringList found = FilesIn(machine.Copies());
         found.sort();
@@ -232,7 +379,7 @@ private Q_SLOTS:
         cMachine machine;
         cTestFile::Write(machine.Copies(), "a file where the folder should be");
         machine.Plan.RunIfDue();
-        machine.Plan.RunIfDue();
+        machine.Plan.CopyIfChanged();
         QCOMPARE(machine.User.Shown.size(), 1);
         QVERIFY(machine.User.Shown[0].startsWith(u"Die automatische Datensicherung konnte nicht erstellt werden:"_s));
         QVERIFY(QFile::remove(machine.Copies()));

@@ -127,6 +127,39 @@ private Q_SLOTS:
         QCOMPARE(machine.Configuration.GetSetting(modSettingKey::Database), u"/gone/data.db"_s); // a disk may come back
     }
 
+    // A program killed at the wrong moment, or a file taken away: what lies beside the book may be all that is left.
+    void MissingBookHasLeftovers_data() const
+    {
+        QTest::addColumn<int>("chosen");
+        QTest::addColumn<bool>("opens");
+        QTest::addColumn<int>("entries");
+        QTest::newRow("the replaced file") << 0 << true << 1;
+        QTest::newRow("none of them") << 1 << true << 0;
+        QTest::newRow("no answer") << -1 << false << 0;
+    }
+
+    void MissingBookHasLeftovers() const
+    {
+        QFETCH(const int, chosen);
+        QFETCH(const bool, opens);
+        QFETCH(const int, entries);
+        cMachine machine;
+        const QString folder = machine.Shell.DataFolder();
+        const QString replaced = folder + u"/data.db.2026-03-14.ersetzt"_s;
+        cTestFile::Run(replaced, std::string(cTestFile::Tables) + "INSERT INTO data (EntryDate) VALUES ('2026-01-01')");
+        cTestFile::Write(folder + u"/data.db.neu"_s, "half a copy");
+        cTestFile::Run(folder + u"/andere.db.2026-03-14.ersetzt"_s, cTestFile::Tables);
+        machine.User.Decisions = {chosen};
+        QCOMPARE(machine.StartUp.OpenBook(machine.Book), opens);
+        QCOMPARE(machine.User.LastDecision.Options,
+                 QStringList({u"'data.db.2026-03-14.ersetzt' verwenden"_s, u"&Ohne sie weiter"_s}));
+        QCOMPARE(QFile::exists(machine.Default()), opens);
+        QCOMPARE(QFile::exists(replaced), chosen != 0);
+        if (opens) {
+            QCOMPARE(machine.Book.Data().CountEntries(), entries);
+        }
+    }
+
     void DamagedInstallation() const
     {
         cMachine machine;

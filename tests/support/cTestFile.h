@@ -65,6 +65,19 @@ public:
         return rows.Next() ? rows.Text(0) : QStringLiteral("(no row)");
     }
 
+    // Overwrites the page where a table begins: the file opens, and only who reads the table comes upon it.
+    static void Damage(const QString& path, const std::string& table)
+    {
+        cDatabase database;
+        database.Open(path, eOpenMode::ReadOnly);
+        const int root = Value(database, "SELECT rootpage FROM sqlite_master WHERE name = '" + table + "'").toInt();
+        const int size = Value(database, "PRAGMA page_size").toInt();
+        database.Close();
+        QByteArray bytes = Bytes(path);
+        bytes.replace((root - 1) * size, size, QByteArray(size, 'x'));
+        Write(path, bytes);
+    }
+
 private:
     QTemporaryDir m_folder;
 };

@@ -78,6 +78,41 @@ class testBookFlow final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void DamagedBook_data() const
+    {
+        QTest::addColumn<bool>("hasCopy");
+        QTest::addColumn<int>("chosen");
+        QTest::addColumn<QString>("restored");
+        QTest::newRow("the newest sound copy") << true << 0 << u"Sicherungen/data-auto-2026-03-13.backup"_s;
+        QTest::newRow("another one") << true << 1 << u"my.backup"_s;
+        QTest::newRow("only reading") << true << 2 << QString();
+        QTest::newRow("no copy, another one") << false << 0 << u"my.backup"_s;
+        QTest::newRow("no copy, only reading") << false << 1 << QString();
+        QTest::newRow("giving up") << false << -1 << QString();
+    }
+
+    void DamagedBook() const
+    {
+        QFETCH(const bool, hasCopy);
+        QFETCH(const int, chosen);
+        QFETCH(const QString, restored);
+        cMachine machine;
+        QVERIFY(QDir(machine.File.Folder()).mkpath(u"Sicherungen"_s));
+        cTestFile::Write(machine.Path(u"Sicherungen/data-auto-2026-03-14.backup"_s), "damaged too");
+        for (const QString& day : {u"12"_s, u"13"_s}) {
+            if (hasCopy) {
+                (void)machine.File.Make(oneEntry, u"Sicherungen/data-auto-2026-03-%1.backup"_s.arg(day));
+            }
+        }
+        machine.Rescue.Backup = machine.File.Make(oneEntry, u"my.backup"_s);
+        machine.User.Decisions = {chosen};
+        machine.User.Answers = {eAnswer::Yes};
+        machine.Flow.TellDamage();
+        QVERIFY(machine.User.Asked[0].contains(u"ist beschädigt"_s));
+        QCOMPARE(machine.User.Asked[0].contains(u"ist vom 13.03.2026. Sie enthält:\n1 Eintrag"_s), hasCopy);
+        QCOMPARE(machine.Host.Restored, restored.isEmpty() ? QString() : machine.Path(restored));
+    }
+
     void NewBook() const
     {
         cMachine machine;

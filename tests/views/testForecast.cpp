@@ -179,7 +179,7 @@ private Q_SLOTS:
         household.SetLimit(u"Girokonto"_s, u"900.00"_s);
         cAccountListModel accounts(household.Book.Format);
         cLimitWatch watch(household.Book.Tools, accounts);
-        accounts.SetAccounts(household.Book.Data.GetAccounts(), {{u"Girokonto"_s, 100000}}, {});
+        accounts.SetAccounts(household.Book.Data.GetAccounts(), QHash<QString, qint64>{{u"Girokonto"_s, 100000}}, {});
         const auto hint = [&](const QString& account) {
             for (int row = 0; row < accounts.rowCount(); ++row) {
                 const QModelIndex index = accounts.index(row, cAccountListModel::Balance);

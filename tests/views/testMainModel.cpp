@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modAccountLines.h"
@@ -107,6 +108,24 @@ class testMainModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void UnreadableBookIsNotEmpty() const
+    {
+        cScene scene;
+        const QString path = scene.Book.Path();
+        cTestFile::Damage(path, "data");
+        scene.Book.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Model->BookChanged();
+        cScene::Settle();
+        QCOMPARE(scene.Model->EmptyTitle(), u"Das Buch konnte nicht gelesen werden"_s);
+        QCOMPARE(scene.Model->TotalText(), u"–"_s);
+        const QStringList balances = scene.Balances();
+        QVERIFY(!balances.isEmpty());
+        for (const QString& balance : balances) {
+            QVERIFY2(balance.endsWith(u" –"_s), qPrintable(balance));
+        }
+        QVERIFY(!scene.Model->IsEnabled(modCommand::NewEntry));
+    }
+
     void SumsFollowTheView_data();
     void SumsFollowTheView();
     void NewBookStartsWithTheResetView();

@@ -8,15 +8,26 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 cBackupPlan PlanOf(const cBackupSettings::cParts& parts)
 {
     return {{parts.Shell, parts.User, parts.Clock}, parts.Book, parts.Configuration};
+}
+
+// With the time, where the file is of that day still: a day may have several copies.
+QString When(const cBackupPlan::cCopy& copy, const QFileInfo& file)
+{
+    const QDateTime time = file.lastModified();
+    const QString day = modDate::ToGerman(copy.Day);
+    return time.date() == copy.Day ? day + time.toString(u" HH:mm"_s) : day;
 }
 
 // Makes the folder when it is missing, so that a wrong one shows now and not when the first backup is due.
@@ -37,9 +48,10 @@ QStringList cBackupSettings::Copies() const
 {
     QStringList lines;
     const QLocale german(QLocale::German, QLocale::Germany);
-    for (const auto& [path, day] : PlanOf(m_parts).Copies()) {
-        lines.append(
-            cText::Tr("{0}, {1}", {modDate::ToGerman(day), german.formattedDataSize(QFileInfo(path).size(), 1)}));
+    const QList<cBackupPlan::cCopy> copies = PlanOf(m_parts).Copies();
+    for (const cBackupPlan::cCopy& copy : copies) {
+        const QFileInfo file(copy.Path);
+        lines.append(cText::Tr("{0}, {1}", {When(copy, file), german.formattedDataSize(file.size(), 1)}));
     }
     return lines;
 }

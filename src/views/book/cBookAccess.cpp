@@ -5,6 +5,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cBackup.h"
+#include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
@@ -14,6 +15,7 @@
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
+#include "views/book/modBookCopy.h"
 #include "views/template/cNameKeepers.h"
 
 #include <QDir>
@@ -89,10 +91,7 @@ QString LockProblem(cBookLock& lock, const QString& path)
 {
     switch (lock.Take(path)) {
     case eLockState::Held: return {};
-    case eLockState::Foreign:
-        return cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie "
-                         "es noch einmal; lesende Befehle gehen auch so.",
-                         {path, lock.HolderOf(path)});
+    case eLockState::Foreign: return modBookCopy::InUse(lock, path);
     case eLockState::Impossible:
         return cText::Tr("In den Ordner der Datenbank '{0}' kann nicht geschrieben werden. Bitte prüfen Sie die "
                          "Zugriffsrechte.",
@@ -114,10 +113,15 @@ QString FullPath(const QString& path)
 
 } // namespace
 
-cBookAccess::cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration)
+cBookAccess::cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration,
+                         const cPorts& ports)
     : m_configuration(std::move(configuration)),
-      m_book(std::move(book))
+      m_book(std::move(book)),
+      m_backups(std::make_unique<cBackupPlan>(cBackupPlan::cPorts{ports.Shell, ports.User, ports.Clock}, *m_book,
+                                              *m_configuration))
 {
+    m_backups->BookOpened();
+    m_backups->RunIfDue(); // a file opened for reading is left as it is
     cNameKeepers::Watch(Data(), Settings());
 }
 
@@ -155,7 +159,7 @@ std::unique_ptr<cBookAccess> cBookAccess::Open(const QString& database, eMode mo
     if (mode != eMode::Unlock && !startUp.AskPassword()) {
         return nullptr;
     }
-    return std::unique_ptr<cBookAccess>(new cBookAccess(std::move(book), std::move(configuration)));
+    return std::unique_ptr<cBookAccess>(new cBookAccess(std::move(book), std::move(configuration), ports));
 }
 
 QString cBookAccess::PathFor(const QString& database, cRegistry& registry, cShell& shell)
@@ -227,4 +231,19 @@ QString cBookAccess::LastStep()
 QString cBookAccess::MakeBackup(const QString& target, cShell& shell)
 {
     return cBackup(m_book->Database(), shell).Make(target);
+}
+
+void cBookAccess::CopyIfChanged()
+{
+    m_backups->CopyIfChanged();
+}
+
+QString cBookAccess::DamageText() const
+{
+    return m_book->Database().IsDamaged() ? cText::Tr(
+               "Die Datei der Datenbank '{0}' ist beschädigt. Was hier steht, kann unvollständig sein, und es wird "
+               "nichts mehr gespeichert. \"kontorelle-cli restore DATEI\" lädt eine Datensicherung; die selbst "
+               "gemachten liegen im Ordner '{1}'.",
+               {Path(), m_backups->Folder()})
+                                          : QString();
 }

@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class cBackupPlan;
 class cBook;
 class cBookLock;
 class cClock;
@@ -46,8 +47,8 @@ public:
     };
 
     // Opens the file named, else the configured one, else the default one, which is made when it is missing. For
-    // writing it is locked, copied before an upgrade and brought up to date. Null when that fails; the user has then
-    // been told what to do.
+    // writing it is locked, copied before an upgrade and brought up to date, and the copy of the day is made. Null when
+    // that fails; the user has then been told what to do.
     [[nodiscard]] static std::unique_ptr<cBookAccess> Open(const QString& database, eMode mode, const cPorts& ports);
     ~cBookAccess();
 
@@ -65,14 +66,20 @@ public:
     [[nodiscard]] cEntryItemList Entries(const cEntryQuery& query); // occurrences, by day
     [[nodiscard]] cEntryItemFixModList Corrections(int id);         // of a series, by day
     [[nodiscard]] int CountEntries();
+    // What to do about a book that turned out to be damaged; empty as long as it did not.
+    [[nodiscard]] QString DamageText() const;
     [[nodiscard]] QString LastStep(); // what was done last, in words; empty when nothing can be taken back
 
     // Writes a checked copy; what went wrong, empty when it is there.
     [[nodiscard]] QString MakeBackup(const QString& target, cShell& shell);
+    // Makes one more of the automatic copies when the book has changed since the newest one. Of a failure the user is
+    // told once a day.
+    void CopyIfChanged();
 
 private:
-    cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration);
+    cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration, const cPorts& ports);
 
     std::unique_ptr<cConfiguration> m_configuration;
     std::unique_ptr<cBook> m_book;
+    std::unique_ptr<cBackupPlan> m_backups;
 };

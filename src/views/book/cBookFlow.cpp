@@ -16,7 +16,10 @@
 #include "views/book/cBookHost.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,6 +33,19 @@ QString Shown(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
+cBackupPlan PlanOf(const cBookFlow::cParts& parts)
+{
+    return {{parts.Shell, parts.User, parts.Clock}, parts.Book, parts.Configuration};
+}
+
+std::optional<cBackupPlan::cCopy> NewestSound(const QList<cBackupPlan::cCopy>& copies)
+{
+    const auto sound = std::find_if(copies.begin(), copies.end(), [](const cBackupPlan::cCopy& copy) {
+        return modBookFile::IsSound(modBookFile::Look(copy.Path));
+    });
+    return sound == copies.end() ? std::nullopt : std::optional(*sound);
+}
+
 } // namespace
 
 void cBookFlow::NewBook()
@@ -38,23 +54,27 @@ void cBookFlow::NewBook()
     if (path.isEmpty()) {
         return;
     }
+    const QString working = modBookFile::WorkingName(path);
+    if (!CopyTemplate(working)) {
+        return;
+    }
     // The user agreed to replace a file that is there, but it may be a book: it stays under another name.
-    const bool isTaken = m_parts.Shell.FileExists(path);
-    const QString kept =
-        isTaken ? modBookFile::KeepAside(m_parts.Shell, path, m_parts.Clock.Today(), u"ersetzt"_s) : QString();
-    if (isTaken && kept.isEmpty()) {
+    const std::optional<QString> kept =
+        modBookFile::PutInPlace(m_parts.Shell, working, path, m_parts.Clock.Today(), u"ersetzt"_s);
+    if (!kept) {
+        QFile::remove(working);
         ShowCannotCreate(path);
         return;
     }
     const QString former = m_parts.Book.Path();
-    if (!CopyTemplate(path) || !m_parts.Host.Switch(path, eBookOrigin::Fresh)) {
-        (void)cBackup(m_parts.Book.Database(), m_parts.Shell).PutBack(path, kept);
+    if (!m_parts.Host.Switch(path, eBookOrigin::Fresh)) {
+        (void)cBackup(m_parts.Book.Database(), m_parts.Shell).PutBack(path, *kept);
         return;
     }
     Remember(former, path);
-    if (!kept.isEmpty()) {
+    if (!kept->isEmpty()) {
         m_parts.User.Show(eTone::Information,
-                          cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {Shown(kept)}));
+                          cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {Shown(*kept)}));
     }
 }
 
@@ -175,15 +195,44 @@ void cBookFlow::LoadBackup()
         m_parts.User.Show(eTone::Information, cText::Tr("Die Datenbank '{0}' ist bereits geöffnet.", {Shown(*backup)}));
         return;
     }
-    if (!IsWanted(*backup)) {
-        return;
+    if (IsWanted(*backup)) {
+        Replace(*backup);
     }
-    const std::optional<QString> kept = m_parts.Host.Restore(*backup);
+}
+
+void cBookFlow::Replace(const QString& backup) const
+{
+    const std::optional<QString> kept = m_parts.Host.Restore(backup);
     if (kept) {
         m_parts.User.Show(eTone::Information,
                           cText::Tr("Die Datensicherung wurde geladen. Die bisherige Datenbank wurde "
                                     "als '{0}' aufgehoben.",
                                     {Shown(*kept)}));
+    }
+}
+
+void cBookFlow::TellDamage()
+{
+    const std::optional<cBackupPlan::cCopy> copy = NewestSound(PlanOf(m_parts).Copies());
+    QStringList options{cText::Tr("&Andere Sicherung wählen …"), cText::Tr("&Nur lesen")};
+    QString offer =
+        cText::Tr("Eine unbeschädigte Sicherung liegt nicht im Ordner '{0}'.", {Shown(PlanOf(m_parts).Folder())});
+    if (copy) {
+        options.prepend(cText::Tr("Sicherung vom {0} &laden", {modDate::ToGerman(copy->Day)}));
+        offer = cText::Tr("Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:\n{1}.",
+                          {modDate::ToGerman(copy->Day), modBookFile::Describe(modBookFile::Look(copy->Path))});
+    }
+    const int chosen = m_parts.User.Decide(
+        {.Text = cText::Tr("Die Datei der Datenbank '{0}' ist beschädigt. Was Sie sehen, kann unvollständig sein, und "
+                           "es wird nichts mehr gespeichert.\n\n{1}\n\nMöchten Sie eine Datensicherung laden? Die "
+                           "beschädigte Datei bleibt unter anderem Namen erhalten.",
+                           {Shown(m_parts.Book.Path()), offer}),
+         .Title = cText::Tr("Die Datenbank ist beschädigt"),
+         .Options = options});
+    if (copy && chosen == 0) {
+        Replace(copy->Path);
+    } else if (chosen >= 0 && chosen == options.size() - 2) {
+        LoadBackup();
     }
 }
 
@@ -243,7 +292,7 @@ QString cBookFlow::LastFolder() const
 // Where backups are found: those of the user, else those that the program makes by itself.
 QString cBookFlow::BackupFolder() const
 {
-    const cBackupPlan plan({m_parts.Shell, m_parts.User, m_parts.Clock}, m_parts.Book, m_parts.Configuration);
+    const cBackupPlan plan = PlanOf(m_parts);
     const bool hasOwn = !m_parts.Configuration.GetSetting(modSettingKey::LastBackupFolder).isEmpty();
     return !hasOwn && !plan.Copies().isEmpty() ? plan.Folder() : LastFolder();
 }

@@ -35,6 +35,9 @@ public:
     void MakeBackup(); // "Datensicherung erstellen"
     void LoadBackup(); // "Datensicherung laden"
 
+    // Says that the book is damaged and offers the newest copy that is not.
+    void TellDamage();
+
     // The other books that can be switched to, the one used last first.
     [[nodiscard]] QStringList Books() const;
 
@@ -44,6 +47,7 @@ private:
     void ShowCannotCreate(const QString& path) const;
     [[nodiscard]] QString AskForBook() const;
     [[nodiscard]] bool IsWanted(const QString& backup) const;
+    void Replace(const QString& backup) const;
     void Open(const QString& path) const;
     void Remember(const QString& former, const QString& current) const;
     [[nodiscard]] bool IsOpenBook(const QString& path) const;

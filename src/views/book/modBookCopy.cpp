@@ -46,14 +46,24 @@ bool modBookCopy::IsSameFile(const QString& one, const QString& other)
     return cBackup::IsSameFile(one, other);
 }
 
+QString modBookCopy::InUse(const cBookLock& lock, const QString& path)
+{
+    const QStringList values{path, lock.HolderOf(path), lock.FileOf(path)};
+    return lock.IsAbandoned(path)
+        ? cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Auf diesem Rechner läuft dieses Programm nicht. Ist es "
+                    "abgestürzt, löschen Sie die Datei '{2}', und versuchen Sie es noch einmal. Läuft es auf einem "
+                    "anderen Rechner, beenden Sie es dort; lesende Befehle gehen auch so.",
+                    values)
+        : cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie "
+                    "es noch einmal; lesende Befehle gehen auch so.",
+                    values);
+}
+
 modBookCopy::cRestored modBookCopy::Restore(const QString& path, const QString& backup, QDate today, cShell& shell,
                                             cBookLock& lock)
 {
     if (lock.Take(path) == eLockState::Foreign) {
-        return {{},
-                cText::Tr("Die Datenbank '{0}' ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen "
-                          "Sie es noch einmal.",
-                          {path, lock.HolderOf(path)})};
+        return {{}, InUse(lock, path)};
     }
     cDatabase closed;
     const cBackup::cRestored restored = cBackup(closed, shell).Restore(path, backup, today);

@@ -15,6 +15,9 @@ namespace modBookCopy {
 
 [[nodiscard]] bool IsSameFile(const QString& one, const QString& other);
 
+// That another program has the book, who, and what to do about it.
+[[nodiscard]] QString InUse(const cBookLock& lock, const QString& path);
+
 struct cRestored
 {
     QString Kept;    // where the former file lies now; empty when there was none

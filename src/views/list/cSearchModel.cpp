@@ -9,6 +9,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/list/modUnread.h"
 #include "views/template/modBookNames.h"
 
 #include <cstdlib>
@@ -203,19 +204,29 @@ QString cSearchModel::StartText() const
     return start ? m_tools.Format.Cents(*start) : QString();
 }
 
+QString cSearchModel::SumText(qint64 cents) const
+{
+    return IsUnread() ? modUnread::Sum() : m_tools.Format.Cents(cents);
+}
+
+bool cSearchModel::IsUnread() const
+{
+    return modUnread::IsMissing(m_tools.Data, m_entries.Sums().Count);
+}
+
 QString cSearchModel::IncomeText() const
 {
-    return m_tools.Format.Cents(m_entries.Sums().Income);
+    return SumText(m_entries.Sums().Income);
 }
 
 QString cSearchModel::ExpenseText() const
 {
-    return m_tools.Format.Cents(-m_entries.Sums().Expense);
+    return SumText(-m_entries.Sums().Expense);
 }
 
 QString cSearchModel::TotalText() const
 {
-    return m_tools.Format.Cents(m_entries.Sums().Total());
+    return SumText(m_entries.Sums().Total());
 }
 
 QString cSearchModel::Hint() const
@@ -236,8 +247,16 @@ QString cSearchModel::Hint() const
         : cText::Tr("Von Serien erscheint jedes Vorkommen bis heute, spätere findet ein Zeitraum mit Ende.");
 }
 
+QString cSearchModel::EmptyTitle() const
+{
+    return IsUnread() ? modUnread::Title() : cText::Tr("Keine Daten");
+}
+
 QString cSearchModel::EmptyHint() const
 {
+    if (IsUnread()) {
+        return modUnread::Hint();
+    }
     return m_query.IsEmpty()
         ? cText::Tr("Geben Sie oben ein, wonach Sie suchen: ein Wort, einen Betrag, eine Kategorie …")
         : cText::Tr("Kein Eintrag passt zu allen Angaben. Weniger Wörter oder ein längerer Zeitraum finden mehr.");

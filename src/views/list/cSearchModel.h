@@ -65,8 +65,9 @@ public:
     [[nodiscard]] QString IncomeText() const;
     [[nodiscard]] QString ExpenseText() const;
     [[nodiscard]] QString TotalText() const;
-    [[nodiscard]] QString Hint() const;      // a quiet line: what is wrong with the fields, or what the list leaves out
-    [[nodiscard]] QString EmptyHint() const; // what to do when nothing was found
+    [[nodiscard]] QString Hint() const; // a quiet line: what is wrong with the fields, or what the list leaves out
+    [[nodiscard]] QString EmptyTitle() const; // why the list shows nothing
+    [[nodiscard]] QString EmptyHint() const;  // what to do when nothing was found
 
     // Column layout of the list.
     [[nodiscard]] QString Layout() const;
@@ -76,6 +77,8 @@ Q_SIGNALS:
     void Found(); // list, sums and hints are new
 
 private:
+    [[nodiscard]] QString SumText(qint64 cents) const;
+    [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     [[nodiscard]] cSearchQuery Query(const cFields& fields) const;
     void Run();
     void Load();

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
+#include "views/list/modUnread.h"
 #include "views/main/modAccountLines.h"
 
 cAccountListModel::cAccountListModel(const cAmountFormat& format, QObject* parent)
@@ -12,12 +13,15 @@ cAccountListModel::cAccountListModel(const cAmountFormat& format, QObject* paren
 
 cAccountListModel::~cAccountListModel() = default;
 
-void cAccountListModel::SetAccounts(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
+void cAccountListModel::SetAccounts(const cTemplateItemList& accounts,
+                                    const std::optional<QHash<QString, qint64>>& balances,
                                     const QHash<QString, int>& open)
 {
     beginResetModel();
     m_rows.clear();
-    const modAccountLines::cLines lines = modAccountLines::Of(accounts, balances, open);
+    const modAccountLines::cLines lines =
+        modAccountLines::Of(accounts, balances.value_or(QHash<QString, qint64>()), open);
+    m_hasBalances = balances.has_value();
     std::optional<QString> group;
     for (const cAccountLine& line : lines.Accounts) {
         const bool isShown = line.Item.ID != 0 && modTemplate::IsVisible(line.Item);
@@ -77,7 +81,7 @@ QString cAccountListModel::Text(const cRow& row, int column) const
 {
     switch (column) {
     case Name: return row.Name;
-    case Balance: return row.Kind == Group ? QString() : m_format.Cents(row.Cents);
+    case Balance: return row.Kind == Group ? QString() : m_hasBalances ? m_format.Cents(row.Cents) : modUnread::Sum();
     case Open: return row.Open == 0 ? QString() : QString::number(row.Open);
     default: return {};
     }

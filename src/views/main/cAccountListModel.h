@@ -24,10 +24,10 @@ public:
     explicit cAccountListModel(const cAmountFormat& format, QObject* parent = nullptr);
     ~cAccountListModel() override;
 
-    // `balances` in cents and `open` by account name; names that no definition has (left from a renamed account, say)
-    // are listed in a group of their own, so that no money is missing. The open rows under the empty name belong to
-    // bank accounts without account in the book; they count in the total.
-    void SetAccounts(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
+    // `balances` in cents, none when they could not be read, and `open` by account name; names that no definition has
+    // (left from a renamed account, say) are listed in a group of their own, so that no money is missing. The open rows
+    // under the empty name belong to bank accounts without account in the book; they count in the total.
+    void SetAccounts(const cTemplateItemList& accounts, const std::optional<QHash<QString, qint64>>& balances,
                      const QHash<QString, int>& open);
     void SetChosen(const QString& account); // empty: none
     // What there is to warn of, by account name. It stays until the next call.
@@ -59,6 +59,7 @@ private:
 
     const cAmountFormat& m_format;
     std::vector<cRow> m_rows;
+    bool m_hasBalances = true;
     QString m_chosen;
     QHash<QString, QString> m_warnings;
 };

@@ -16,6 +16,7 @@
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/list/modSetting.h"
+#include "views/list/modUnread.h"
 #include "views/main/modViewText.h"
 #include "views/template/cTemplateFlow.h"
 
@@ -180,9 +181,17 @@ void cMainModel::RefreshAccounts()
         const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
         balances = modBalance::ByAccount(m_tools.Data.GetSums(m_view.BalanceQuery(today), withStart));
     }
-    m_accounts.SetAccounts(m_accountItems, balances, cAccountMap(m_tools.Data, m_tools.Settings).OpenByAccount());
+    const QHash<QString, int> open = cAccountMap(m_tools.Data, m_tools.Settings).OpenByAccount();
+    const bool isUnread = modUnread::IsMissing(m_tools.Data, balances.size());
+    m_accounts.SetAccounts(m_accountItems, isUnread ? std::nullopt : std::optional(balances), open);
     m_accounts.SetChosen(m_view.FilterAccount());
-    m_balancesOf = m_view.BalancesToToday ? today : QDate();
+    m_balancesOf = m_view.BalancesToToday && !isUnread ? today : QDate();
+}
+
+void cMainModel::AccessChanged()
+{
+    Q_EMIT EntriesChanged();
+    Q_EMIT ViewChanged();
 }
 
 void cMainModel::BookChanged()
@@ -407,19 +416,29 @@ QString cMainModel::StartText() const
     return start ? m_tools.Format.Cents(*start) : QString();
 }
 
+QString cMainModel::SumText(qint64 cents) const
+{
+    return IsUnread() ? modUnread::Sum() : m_tools.Format.Cents(cents);
+}
+
+bool cMainModel::IsUnread() const
+{
+    return modUnread::IsMissing(m_tools.Data, m_entries.Sums().Count);
+}
+
 QString cMainModel::IncomeText() const
 {
-    return m_tools.Format.Cents(m_entries.Sums().Income);
+    return SumText(m_entries.Sums().Income);
 }
 
 QString cMainModel::ExpenseText() const
 {
-    return m_tools.Format.Cents(-m_entries.Sums().Expense);
+    return SumText(-m_entries.Sums().Expense);
 }
 
 QString cMainModel::TotalText() const
 {
-    return m_tools.Format.Cents(m_entries.Sums().Total());
+    return SumText(m_entries.Sums().Total());
 }
 
 QString cMainModel::CountText() const
@@ -435,8 +454,16 @@ QString cMainModel::Hint() const
                           : QString();
 }
 
+QString cMainModel::EmptyTitle() const
+{
+    return IsUnread() ? modUnread::Title() : cText::Tr("Keine Daten");
+}
+
 QString cMainModel::EmptyHint() const
 {
+    if (IsUnread()) {
+        return modUnread::Hint();
+    }
     if (m_view.ShowsNothing()) {
         return cText::Tr("Einmalige und fixe Buchungen sind ausgeblendet. Das Menü Ansicht blendet sie wieder ein.");
     }

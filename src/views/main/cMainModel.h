@@ -96,6 +96,7 @@ public:
     void Delete(const QList<cEntryListModel::cKey>& keys);
 
     // After entries or accounts changed elsewhere.
+    void AccessChanged(); // the book can only be read from now on
     void BookChanged();
     void AccountRenamed(const QString& oldName, const QString& newName);
     // After another database was opened behind the same objects: shows it in its own view state.
@@ -123,8 +124,9 @@ public:
     [[nodiscard]] QString ExpenseText() const;
     [[nodiscard]] QString TotalText() const;
     [[nodiscard]] QString CountText() const;
-    [[nodiscard]] QString Hint() const;      // a quiet line above the list; empty for none
-    [[nodiscard]] QString EmptyHint() const; // what to do when the list shows nothing
+    [[nodiscard]] QString Hint() const;       // a quiet line above the list; empty for none
+    [[nodiscard]] QString EmptyTitle() const; // why the list shows nothing
+    [[nodiscard]] QString EmptyHint() const;  // what to do when the list shows nothing
     [[nodiscard]] QString DatabaseText() const;
     [[nodiscard]] QString WindowTitle() const; // the book's name first
     [[nodiscard]] QString BalancesTitle() const;
@@ -143,6 +145,8 @@ Q_SIGNALS:
     void StagedRowsReleased(); // bank transactions may wait again, or be gone
 
 private:
+    [[nodiscard]] QString SumText(qint64 cents) const;
+    [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     void LoadEntries();
     void ShowFilter();
     void RefreshAccounts();

@@ -6,6 +6,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "views/list/modUnread.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -127,12 +128,15 @@ void cStagedChoice::SetFilter(const QString& text)
 
 QString cStagedChoice::EmptyTitle() const
 {
-    return cText::Tr("Keine Daten");
+    return modUnread::IsMissing(m_tools.Data, 0) ? modUnread::Title() : cText::Tr("Keine Daten");
 }
 
 QString cStagedChoice::EmptyHint() const
 {
     const cStagedOrder::cCounts& counts = m_rows.Counts();
+    if (modUnread::IsMissing(m_tools.Data, counts.Total)) {
+        return modUnread::Hint();
+    }
     if (counts.Total == 0) {
         return IsOfOneImport()
             ? cText::Tr("Die Umsätze dieses Imports sind nicht mehr da.")

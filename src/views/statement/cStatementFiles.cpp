@@ -72,6 +72,7 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
     }
     const QScopedValueRollback running(m_isRunning, true);
     while (!m_waiting.isEmpty()) {
+        Q_EMIT ImportStarts();
         const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
         QList<cFile> files;
         for (const QString& path : std::exchange(m_waiting, {})) {
@@ -88,6 +89,7 @@ bool cStatementFiles::CanReadAgain() const
 
 void cStatementFiles::ReadAgain(cProgress& progress)
 {
+    Q_EMIT ImportStarts();
     const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug noch einmal eingelesen"), cJournal::eWrites::InPortions);
     const QList<cFile> files = m_last;
     Run(files, progress, eAssist::Always);

@@ -62,6 +62,7 @@ public:
     void ForgetFiles(); // the last ones, because they were those of another book
 
 Q_SIGNALS:
+    void ImportStarts(); // nothing of it is written yet
     // Staged rows came; the lines say what came of each file.
     void Imported(const QStringList& lines);
     // The accounts of numbers may be known now; the lines name those that are not.

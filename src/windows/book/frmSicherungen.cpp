@@ -46,8 +46,9 @@ frmSicherungen::frmSicherungen(cBackupSettings& settings, QWidget* parent)
 void frmSicherungen::BuildFields(QFormLayout& form)
 {
     constexpr int columns = 60;
-    form.addRow(modWrapped::Make(cText::Tr("Beim ersten Start an einem Tag sichert Kontorelle die Datenbank. Neben den "
-                                           "letzten Sicherungen bleibt die letzte jedes Monats erhalten."),
+    form.addRow(modWrapped::Make(cText::Tr("Kontorelle sichert die Datenbank beim ersten Start an einem Tag, vor jedem "
+                                           "Import und beim Beenden, wenn sich etwas geändert hat. Neben den "
+                                           "letzten Tagen bleibt die letzte Sicherung jedes Monats erhalten."),
                                  columns, this));
 
     const cBackupSettings::cFields fields = m_settings.Current();

@@ -135,8 +135,9 @@ QList<int> cEntryTree::ShownColumns() const
     return columns;
 }
 
-void cEntryTree::SetEmptyHint(const QString& hint)
+void cEntryTree::SetEmptyText(const QString& title, const QString& hint)
 {
+    m_emptyTitle = title;
     m_emptyHint = hint;
     viewport()->update();
 }
@@ -283,6 +284,6 @@ void cEntryTree::paintEvent(QPaintEvent* event)
 {
     QTreeView::paintEvent(event);
     if (m_model.rowCount() == 0) {
-        modEmptyText::Paint(*viewport(), cText::Tr("Keine Daten"), m_emptyHint);
+        modEmptyText::Paint(*viewport(), m_emptyTitle, m_emptyHint);
     }
 }

@@ -23,8 +23,8 @@ public:
     // The closed groups, as cGroupLayout; an empty text opens all.
     [[nodiscard]] QString GroupText() const { return m_groups.ToText(); }
     void SetGroupText(const QString& text);
-    void ShowColumnMenu(); // below the header, for the keyboard too
-    void SetEmptyHint(const QString& hint);
+    void ShowColumnMenu();                                        // below the header, for the keyboard too
+    void SetEmptyText(const QString& title, const QString& hint); // shown while the list is empty
     void ScrollTo(QDate day);
     void Select(const cEntryListModel::cKey& key); // and brings it into sight; nothing when it is not in the list
     [[nodiscard]] QList<int> ShownColumns() const; // of the model, in the order on screen
@@ -57,6 +57,7 @@ private:
     cEntryListModel::cKey m_next; // takes the place of the current line when that is gone
     cEntryListModel::cKey m_top;  // first line in sight before the list was rebuilt
     cGroupLayout m_groups;
+    QString m_emptyTitle;
     QString m_emptyHint;
     std::array<bool, cEntryListModel::ColumnCount> m_isShown{}; // as the user wants it
     bool m_isRebuilding = false;

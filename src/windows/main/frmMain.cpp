@@ -203,7 +203,9 @@ void frmMain::ShowView()
 void frmMain::ShowEntries()
 {
     m_sums->ShowSums(m_model);
-    m_tree->SetEmptyHint(m_model.Entries().rowCount() == 0 ? m_model.EmptyHint() : QString());
+    if (m_model.Entries().rowCount() == 0) {
+        m_tree->SetEmptyText(m_model.EmptyTitle(), m_model.EmptyHint());
+    }
 }
 
 void frmMain::ShowCommands()
@@ -303,6 +305,7 @@ void frmMain::resizeEvent(QResizeEvent* event)
 void frmMain::closeEvent(QCloseEvent* event)
 {
     SaveLayout();
+    Q_EMIT Closing();
     QMainWindow::closeEvent(event);
 }
 

@@ -48,6 +48,7 @@ public:
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
+    void Closing();                      // place and columns have been saved
     void PageShown(frmMain::ePage page); // it came to the front
 
 protected:
