@@ -125,7 +125,7 @@ void AddSalary(const modDemo::cDemoPlan& plan, const QString& person, qint64 cen
                        "",
                        "Einkommen; Lohn / Gehalt",
                        description.constData(),
-                       cents - cents * 15 * yearsAgo / (100 * plan.Years),
+                       cents - cents * 15 * yearsAgo / (qint64{100} * plan.Years),
                        year * 12,
                        28,
                        yearsAgo == 0 ? Open : year * 12 + 11};

@@ -14,8 +14,8 @@ namespace {
 
 struct cKindName
 {
-    eChartKind Kind;
-    const char16_t* Name;
+    eChartKind Kind = eChartKind{};
+    const char16_t* Name = nullptr;
     std::optional<eReportKind> Section;
 };
 

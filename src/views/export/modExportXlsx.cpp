@@ -51,7 +51,8 @@ private:
 
 modExport::cResult cSheet::Write()
 {
-    const qsizetype lines = static_cast<qsizetype>(m_extract.Rows.size() + m_extract.Groups.size());
+    const qsizetype lines =
+        static_cast<qsizetype>(m_extract.Rows.size()) + static_cast<qsizetype>(m_extract.Groups.size());
     constexpr qsizetype linesAround = 6;
     if (lines + linesAround > cWorkbook::MaxRows) {
         return {std::nullopt,

@@ -116,7 +116,7 @@ void cChartBox::CopyPicture()
     QGuiApplication::clipboard()->setImage(modChartPainter::Image(ShownData(), m_view->size()));
 }
 
-void cChartBox::CopyFigures()
+void cChartBox::CopyFigures() const
 {
     QGuiApplication::clipboard()->setText(modChartTable::TabText(ShownData()));
 }

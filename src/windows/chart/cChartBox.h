@@ -35,7 +35,7 @@ private:
     void ShowFigures();
     void ClickFigure(int series, int index);
     void CopyPicture();
-    void CopyFigures();
+    void CopyFigures() const;
     [[nodiscard]] QToolButton* AddButton(const QString& text, const QString& hint);
 
     QPushButton* m_back;

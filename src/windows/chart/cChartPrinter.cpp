@@ -41,7 +41,8 @@ int cChartPrinter::LayOut(QPaintDevice& device, const QRectF& area)
 void cChartPrinter::PaintPage(QPainter& painter, int page) const
 {
     qreal top = m_area.top();
-    for (qsizetype i = qsizetype{page} * perPage; i < std::min<qsizetype>(m_charts.size(), (page + 1) * perPage); ++i) {
+    for (qsizetype i = qsizetype{page} * perPage;
+         i < std::min<qsizetype>(m_charts.size(), qsizetype{page + 1} * perPage); ++i) {
         PaintChart(painter, m_charts.at(i), top);
         top += m_height;
     }

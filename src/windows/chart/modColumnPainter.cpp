@@ -174,10 +174,10 @@ void PaintDots(QPainter& painter, const cChartScene& scene, const cChartLayout& 
         return; // they would touch each other
     }
     painter.setPen(QPen(scene.Style.Palette.color(QPalette::Base), 1.5));
-    for (std::size_t index = 0; index < points.size(); ++index) {
-        if (!std::isnan(points[index].y())) {
+    for (const QPointF& point : points) {
+        if (!std::isnan(point.y())) {
             painter.setBrush(scene.Colour(series));
-            painter.drawEllipse(points[index], scene.Em() * 0.22, scene.Em() * 0.22);
+            painter.drawEllipse(point, scene.Em() * 0.22, scene.Em() * 0.22);
         }
     }
 }

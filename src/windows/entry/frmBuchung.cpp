@@ -33,8 +33,7 @@ frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryFields& fields, QWidget
       chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern s&chließen"), this)),
       m_savedBox(new QWidget(this)),
       m_saved(new QListWidget(m_savedBox)),
-      m_buttons(new QDialogButtonBox(this)),
-      m_split(nullptr)
+      m_buttons(new QDialogButtonBox(this))
 {
     Build();
     Connect();

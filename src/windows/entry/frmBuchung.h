@@ -46,6 +46,6 @@ private:
     QWidget* m_savedBox;
     QListWidget* m_saved;
     QDialogButtonBox* m_buttons;
-    QPushButton* m_split;
+    QPushButton* m_split = nullptr;
     cEntryFields m_shown; // before anything was typed
 };
