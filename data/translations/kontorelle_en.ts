@@ -4,10 +4,6 @@
 <context>
     <name>cText</name>
     <message>
-        <source>{0} (Prozess {1} auf {2})</source>
-        <translation>{0} (process {1} on {2})</translation>
-    </message>
-    <message>
         <source>Die Datenbank &apos;{0}&apos; wurde nicht gefunden. Prüfen Sie den Pfad, oder legen Sie sie an: &quot;kontorelle-cli demo DATEI&quot; schreibt einen Beispielhaushalt, das Fenster von Kontorelle oder ein Aufruf ohne --database beginnt ein neues Buch.</source>
         <translation>The database &apos;{0}&apos; was not found. Check the path, or create the file: &quot;kontorelle-cli demo FILE&quot; writes an example household, and the Kontorelle window or a call without --database starts a new book.</translation>
     </message>
@@ -2570,10 +2566,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>damaged or not a valid database</translation>
     </message>
     <message>
-        <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie es noch einmal.</source>
-        <translation>The database &apos;{0}&apos; is in use: {1}. Close that program and try again.</translation>
-    </message>
-    <message>
         <source>Die Datensicherung wurde geladen.</source>
         <translation>The backup has been restored.</translation>
     </message>
@@ -3376,10 +3368,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>&amp;Vorhanden:</source>
         <translation>&amp;Existing:</translation>
-    </message>
-    <message>
-        <source>Beim ersten Start an einem Tag sichert Kontorelle die Datenbank. Neben den letzten Sicherungen bleibt die letzte jedes Monats erhalten.</source>
-        <translation>Kontorelle backs up the database the first time it starts on any day. Besides the latest backups, the last one of every month is kept.</translation>
     </message>
     <message>
         <source>keine</source>
@@ -6160,6 +6148,106 @@ Do you want to continue?</translation>
     <message>
         <source>Es wurde nichts gespeichert, weil vorher etwas nicht gelesen werden konnte und der Vorgang davon abhängen kann. Bitte versuchen Sie es noch einmal.</source>
         <translation>Nothing was saved, because something could not be read before and the operation may depend on it. Please try again.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}.
+Auf diesem Rechner läuft dieses Programm nicht. Es kann abgestürzt sein, oder es läuft auf einem anderen. Schreiben zwei Programme zugleich, gehen Daten verloren.
+Möchten Sie die Datenbank trotzdem öffnen?</source>
+        <translation>The database &apos;{0}&apos; is in use: {1}.
+This program does not run on this computer. It may have crashed, or it runs on another one. If two programs write at the same time, data is lost.
+Do you want to open the database all the same?</translation>
+    </message>
+    <message>
+        <source>ein Programm, das sie unter einem anderen Namen geöffnet hat</source>
+        <translation>a program that has opened it under another name</translation>
+    </message>
+    <message>
+        <source>ein unbekanntes Programm, seit {0}</source>
+        <translation>an unknown program, since {0}</translation>
+    </message>
+    <message>
+        <source>{0} (Prozess {1} auf {2}, seit {3})</source>
+        <translation>{0} (process {1} on {2}, since {3})</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; verwenden</source>
+        <translation>Use &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>&amp;Ohne sie weiter</source>
+        <translation>Go on with&amp;out them</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; wurde nicht gefunden. Daneben liegt, was vom Ersetzen der Datei geblieben ist:
+{1}
+
+Möchten Sie eine dieser Dateien wieder als Ihr Buch verwenden?</source>
+        <translation>The database &apos;{0}&apos; was not found. Beside it lies what is left of replacing the file:
+{1}
+
+Do you want to use one of these files as your book again?</translation>
+    </message>
+    <message>
+        <source>Die Datenbank fehlt</source>
+        <translation>The database is missing</translation>
+    </message>
+    <message>
+        <source>Die Datei der Datenbank &apos;{0}&apos; ist beschädigt. Was hier steht, kann unvollständig sein, und es wird nichts mehr gespeichert. &quot;kontorelle-cli restore DATEI&quot; lädt eine Datensicherung; die selbst gemachten liegen im Ordner &apos;{1}&apos;.</source>
+        <translation>The file of the database &apos;{0}&apos; is damaged. What is shown here may be incomplete, and nothing is saved any more. &quot;kontorelle-cli restore FILE&quot; loads a backup; those made automatically are in the folder &apos;{1}&apos;.</translation>
+    </message>
+    <message>
+        <source>&amp;Andere Sicherung wählen …</source>
+        <translation>Choose &amp;another backup …</translation>
+    </message>
+    <message>
+        <source>&amp;Nur lesen</source>
+        <translation>&amp;Read only</translation>
+    </message>
+    <message>
+        <source>Eine unbeschädigte Sicherung liegt nicht im Ordner &apos;{0}&apos;.</source>
+        <translation>There is no undamaged backup in the folder &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Sicherung vom {0} &amp;laden</source>
+        <translation>&amp;Load the backup of {0}</translation>
+    </message>
+    <message>
+        <source>Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:
+{1}.</source>
+        <translation>The newest undamaged backup is of {0}. It contains:
+{1}.</translation>
+    </message>
+    <message>
+        <source>Die Datei der Datenbank &apos;{0}&apos; ist beschädigt. Was Sie sehen, kann unvollständig sein, und es wird nichts mehr gespeichert.
+
+{1}
+
+Möchten Sie eine Datensicherung laden? Die beschädigte Datei bleibt unter anderem Namen erhalten.</source>
+        <translation>The file of the database &apos;{0}&apos; is damaged. What you see may be incomplete, and nothing is saved any more.
+
+{1}
+
+Do you want to load a backup? The damaged file is kept under another name.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank ist beschädigt</source>
+        <translation>The database is damaged</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}. Auf diesem Rechner läuft dieses Programm nicht. Ist es abgestürzt, löschen Sie die Datei &apos;{2}&apos;, und versuchen Sie es noch einmal. Läuft es auf einem anderen Rechner, beenden Sie es dort; lesende Befehle gehen auch so.</source>
+        <translation>The database &apos;{0}&apos; is in use: {1}. This program does not run on this computer. If it has crashed, delete the file &apos;{2}&apos; and try again. If it runs on another computer, close it there; commands that read work all the same.</translation>
+    </message>
+    <message>
+        <source>Das Buch konnte nicht gelesen werden</source>
+        <translation>The book could not be read</translation>
+    </message>
+    <message>
+        <source>Was hier stehen müsste, ist nicht bekannt. Ist die Datei beschädigt, laden Sie mit „Datei“, „Datensicherung laden“ eine Sicherung.</source>
+        <translation>What should be shown here is not known. If the file is damaged, load a backup with &quot;File&quot;, &quot;Load backup&quot;.</translation>
+    </message>
+    <message>
+        <source>Kontorelle sichert die Datenbank beim ersten Start an einem Tag, vor jedem Import und beim Beenden, wenn sich etwas geändert hat. Neben den letzten Tagen bleibt die letzte Sicherung jedes Monats erhalten.</source>
+        <translation>Kontorelle backs up the database at the first start of a day, before each import and when it is closed, if something has changed. Besides those of the last days, the last backup of each month is kept.</translation>
     </message>
 </context>
 </TS>
