@@ -8,6 +8,7 @@
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "core/modDemo.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
