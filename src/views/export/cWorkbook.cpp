@@ -30,6 +30,18 @@ lxw_col_t Column(int column)
     return static_cast<lxw_col_t>(column);
 }
 
+// A file of XML may not hold every sign: one of these and no program opens it any more.
+QByteArray Bytes(QString text)
+{
+    for (QChar& c : text) {
+        const bool isControl = c < u' ' && c != u'\t' && c != u'\n' && c != u'\r';
+        if (isControl || c >= u'\uFFFE') {
+            c = QChar::ReplacementCharacter;
+        }
+    }
+    return text.toUtf8();
+}
+
 } // namespace
 
 cWorkbook::cWorkbook(const QString& sheet, const QString& moneyPattern)
@@ -38,7 +50,7 @@ cWorkbook::cWorkbook(const QString& sheet, const QString& moneyPattern)
     lxw_workbook_options options{};
     options.tmpdir = folder.data(); // the book keeps a copy
     m_book = workbook_new_opt(QFile::encodeName(Path()).constData(), &options);
-    m_sheet = workbook_add_worksheet(m_book, sheet.toUtf8().constData());
+    m_sheet = workbook_add_worksheet(m_book, Bytes(sheet).constData());
     MakeStyles(moneyPattern);
 }
 
@@ -51,7 +63,7 @@ cWorkbook::~cWorkbook()
 
 void cWorkbook::MakeStyles(const QString& moneyPattern)
 {
-    const QByteArray money = moneyPattern.toUtf8();
+    const QByteArray money = Bytes(moneyPattern);
     for (int style = Plain; style < StyleCount; ++style) {
         lxw_format* format = workbook_add_format(m_book);
         m_styles.push_back(format);
@@ -94,8 +106,8 @@ QString cWorkbook::MoneyPattern(const cAmountFormat& format)
 
 void cWorkbook::SetTitle(const QString& title, const QString& comment)
 {
-    QByteArray titleBytes = title.toUtf8();
-    QByteArray commentBytes = comment.toUtf8();
+    QByteArray titleBytes = Bytes(title);
+    QByteArray commentBytes = Bytes(comment);
     lxw_doc_properties properties{};
     properties.title = titleBytes.data(); // copied by the library
     properties.comments = commentBytes.data();
@@ -109,7 +121,7 @@ void cWorkbook::SetColumnWidth(int column, int characters)
 
 void cWorkbook::WriteText(qsizetype row, int column, const QString& text, eStyle style)
 {
-    const QByteArray bytes = text.left(longestText).toUtf8();
+    const QByteArray bytes = Bytes(text.left(longestText));
     const lxw_error error =
         worksheet_write_string(m_sheet, Row(row), Column(column), bytes.constData(), m_styles[style]);
     m_isComplete = m_isComplete && error == LXW_NO_ERROR;
@@ -175,8 +187,8 @@ void cWorkbook::SetPrinting(const QString& header, const QString& footer)
     worksheet_set_landscape(m_sheet);
     worksheet_set_paper(m_sheet, paperA4);
     worksheet_fit_to_pages(m_sheet, 1, 0);
-    (void)worksheet_set_header(m_sheet, header.toUtf8().constData());
-    (void)worksheet_set_footer(m_sheet, footer.toUtf8().constData());
+    (void)worksheet_set_header(m_sheet, Bytes(header).constData());
+    (void)worksheet_set_footer(m_sheet, Bytes(footer).constData());
 }
 
 std::optional<QByteArray> cWorkbook::Close()
