@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
+#include "support/cNoRoom.h"
 #include "support/fakes.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
@@ -170,6 +171,7 @@ private Q_SLOTS:
     void XlsxSumsOfOneAccount();
     void StartBalancesAreNoIncome();
     void XlsxKeepsOddDatesAndTexts();
+    void XlsxNoticesFullDisk();
     void HtmlStandsAlone();
     void QifOfOneAccount();
     void QifOfAllAccounts();
@@ -356,6 +358,17 @@ void testExport::XlsxKeepsOddDatesAndTexts()
     QCOMPARE(table.At(u"A3"_s), u"61"_s);
     QCOMPARE(table.At(u"E2"_s).size(), 32767);
     QVERIFY(table.At(u"E3"_s).endsWith(u"\U0001F600"_s));
+}
+
+// Of the temporary files, on another disk than the target.
+void testExport::XlsxNoticesFullDisk()
+{
+    cEntryListModel::cContent content;
+    content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    QVERIFY(!Bytes(modExport::eFormat::Xlsx).isEmpty());
+    const cNoRoom room(100'000); // enough for what is packed
+    QVERIFY(Bytes(modExport::eFormat::Xlsx).isEmpty());
 }
 
 void testExport::HtmlStandsAlone()

@@ -3,10 +3,14 @@
 #include "base/modAmount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "import/zip/modZip.h"
 
 #include <QFile>
 
 #include <xlsxwriter.h>
+
+#include <algorithm>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,6 +44,25 @@ QByteArray Bytes(QString text)
         }
     }
     return text.toUtf8();
+}
+
+// Whether a document of XML, "<?xml …?>\n<name …>…", reaches its "</name>".
+bool HasEnd(const QByteArray& xml)
+{
+    const qsizetype start = xml.indexOf('<', xml.indexOf("?>")) + 1;
+    const qsizetype end = std::min(xml.indexOf(' ', start), xml.indexOf('>', start));
+    const QByteArray closing = "</" + xml.mid(start, end - start) + '>';
+    return start > 0 && end > start && xml.trimmed().endsWith(closing);
+}
+
+// The library does not notice when its temporary files find no room on the disk: the parts are cut then.
+bool IsWhole(const QByteArray& zip)
+{
+    const QStringList names = modZip::Names(zip);
+    return !names.isEmpty() && std::all_of(names.begin(), names.end(), [&](const QString& name) {
+        const std::optional<QByteArray> part = modZip::Read(zip, name, std::numeric_limits<int>::max());
+        return part && HasEnd(*part);
+    });
 }
 
 } // namespace
@@ -200,5 +223,5 @@ std::optional<QByteArray> cWorkbook::Close()
         return std::nullopt;
     }
     const QByteArray bytes = file.readAll();
-    return bytes.isEmpty() ? std::nullopt : std::optional(bytes);
+    return IsWhole(bytes) ? std::optional(bytes) : std::nullopt;
 }

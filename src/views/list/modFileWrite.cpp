@@ -190,7 +190,8 @@ QString modFileWrite::Export(const cDataAccess& book, const QString& path, const
     if (!book.IsWhole()) {
         reason = cText::Tr("Das Buch konnte nicht vollständig gelesen werden.");
     } else if (bytes.isEmpty()) {
-        reason = cText::Tr("Ihr Inhalt konnte nicht zusammengestellt werden.");
+        reason = cText::Tr("Ihr Inhalt konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger voll, auf "
+                           "dem das System Zwischendateien ablegt.");
     } else {
         reason = Replace(path, bytes);
     }
