@@ -6,6 +6,8 @@
 #include "store/modRow.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -241,16 +243,18 @@ private:
 
     size_t Find(std::string_view type, std::string_view account, std::string_view move)
     {
-        for (size_t i = 0; i < m_sums.size(); ++i) {
-            if (m_sums[i].Is(type, account, move)) {
-                return i;
-            }
+        constexpr char between = '\0';
+        m_key.assign(type).append(1, between).append(account).append(1, between).append(move);
+        const auto [place, isNew] = m_places.try_emplace(m_key, m_sums.size());
+        if (isNew) {
+            m_sums.push_back({std::string(type), std::string(account), std::string(move)});
         }
-        m_sums.push_back({std::string(type), std::string(account), std::string(move)});
-        return m_sums.size() - 1;
+        return place->second;
     }
 
     std::vector<cSum> m_sums;
+    std::unordered_map<std::string, size_t> m_places;
+    std::string m_key; // kept for its memory
     size_t m_last = 0;
 };
 
