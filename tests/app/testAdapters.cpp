@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -75,6 +76,8 @@ void testAdapters::DataFolderLiesBelowTheProfile()
     const QString folder = cQtShell(profile).DataFolder();
     QCOMPARE(folder, profile + u"/Veltrino Kontorelle"_s);
     QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(QFile::permissions(folder) & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser),
+             QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner); // nobody else looks into it
 }
 
 void testAdapters::CopyIsTheUsersOwn()
@@ -135,6 +138,8 @@ void testAdapters::SecondStartRaisesTheFirst()
     const QString path = NewFile(u"shown.db"_s);
     cSingleInstance first;
     first.Listen(path);
+    const QDir runtime(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    QVERIFY(!runtime.entryList({u"kontorelle-*"_s}, QDir::System).isEmpty()); // where only this user can get at it
     QSignalSpy raised(&first, &cSingleInstance::RaiseRequested);
     bool isAnswered = false;
     std::thread second([&] { isAnswered = cSingleInstance::RaiseOther(path); });
