@@ -312,13 +312,13 @@ void cNavigation::Export()
     extract.Title = modViewText::Title(m_model->View());
     extract.View = m_model->ViewLines();
     cProgressBox progress(Parent(), cText::Tr("Die Einträge werden geschrieben …"));
-    cEntryExport(m_parts.Tools.User, m_parts.Format, progress).Run(extract, m_parts.Tools.Clock.Today());
+    cEntryExport(m_parts.Tools, progress).Run(extract, m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Export(const cStatementListModel& statement)
 {
     cProgressBox progress(Parent(), cText::Tr("Der Kontoauszug wird geschrieben …"));
-    cEntryExport(m_parts.Tools.User, m_parts.Format, progress).Run(statement.Extract(), m_parts.Tools.Clock.Today());
+    cEntryExport(m_parts.Tools, progress).Run(statement.Extract(), m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))

@@ -6,6 +6,6 @@
 class cQtPaint final : public cCliPaint
 {
 public:
-    [[nodiscard]] bool PaintReport(const QString& html, const QString& path) override;
-    [[nodiscard]] bool PaintChart(const cChartData& chart, const QString& path) override;
+    [[nodiscard]] QByteArray PaintReport(const QString& html) override;
+    [[nodiscard]] QByteArray PaintChart(const cChartData& chart, ePicture picture) override;
 };

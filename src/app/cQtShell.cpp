@@ -37,7 +37,10 @@ QString cQtShell::DataFolder()
     const QString base = m_profile.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
                                              : QDir(m_profile).absolutePath();
     const QString folder = base % u"/Veltrino Kontorelle"_s;
-    QDir().mkpath(folder); // a folder that could not be made shows when the first file is written into it
+    QDir().mkpath(base);
+    // What lies in it is nobody else's business. A folder that could not be made shows when the first file is written
+    // into it.
+    QDir().mkdir(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     return folder;
 }
 

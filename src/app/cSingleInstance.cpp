@@ -4,6 +4,7 @@
 #include "base/modMD5.h"
 
 #include <QLocalSocket>
+#include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,9 +12,13 @@ namespace {
 
 constexpr int WaitMilliseconds = 1000;
 
+// In the folder of the signed-in user, which nobody else can look into or put anything in. Without one the socket would
+// lie where everybody writes; then the name names no place, and nobody answers.
 QString ServerName(const QString& database)
 {
-    return u"kontorelle-"_s + modMD5::Hex(cFileLock::CanonicalPath(database));
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString name = u"kontorelle-"_s + modMD5::Hex(cFileLock::CanonicalPath(database));
+    return folder.isEmpty() ? QString() : QString(folder % u'/' % name);
 }
 
 } // namespace
@@ -36,8 +41,11 @@ void cSingleInstance::Listen(const QString& database)
 {
     m_server.close();
     // The lock file says that nobody else works on this database, so a name that is still taken is a dead program's.
-    QLocalServer::removeServer(ServerName(database));
-    m_server.listen(ServerName(database));
+    const QString name = ServerName(database);
+    if (!name.isEmpty()) {
+        QLocalServer::removeServer(name);
+        m_server.listen(name);
+    }
 }
 
 bool cSingleInstance::RaiseOther(const QString& database)

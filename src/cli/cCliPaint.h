@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 struct cChartData;
 
-// Paints what the command line program writes as pages or pictures. Painting needs fonts and with them the toolkit,
+// Paints what the command line program writes as pages and pictures. Painting needs fonts and with them the toolkit,
 // which this folder does without; the program brings an implementation.
 class cCliPaint
 {
@@ -14,9 +15,8 @@ public:
     cCliPaint& operator=(const cCliPaint&) = delete;
     virtual ~cCliPaint() = default;
 
-    // Writes a report as PDF. `html` is a report without links. False when the file cannot be written.
-    [[nodiscard]] virtual bool PaintReport(const QString& html, const QString& path) = 0;
-
-    // Writes a chart as a picture: SVG where the path ends so, else PNG. False when the file cannot be written.
-    [[nodiscard]] virtual bool PaintChart(const cChartData& chart, const QString& path) = 0;
+    // Both give a whole file, or no bytes when it cannot be painted.
+    enum class ePicture { Png, Svg };
+    [[nodiscard]] virtual QByteArray PaintReport(const QString& html) = 0; // a PDF of a report without links
+    [[nodiscard]] virtual QByteArray PaintChart(const cChartData& chart, ePicture picture) = 0;
 };

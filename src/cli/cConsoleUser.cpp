@@ -2,18 +2,69 @@
 
 #include "base/cText.h"
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+int lostBy = 0; // the system's number of the first error that output was lost by
+
+// What a terminal takes for an order, or turns the text around it by.
+bool IsOrder(QChar c)
+{
+    const bool isControl = c.category() == QChar::Other_Control && c != u'\n' && c != u'\t';
+    return isControl || (c >= u'\u202A' && c <= u'\u202E') || (c >= u'\u2066' && c <= u'\u2069');
+}
+
+QString Harmless(QString text)
+{
+    constexpr char16_t pictures = 0x2400; // of the signs from 0, in their order
+    text.replace(u"\r\n"_s, u"\n"_s);
+    for (QChar& c : text) {
+        if (IsOrder(c)) {
+            c = c < u' ' ? QChar(static_cast<char16_t>(pictures + c.unicode())) : QChar(QChar::ReplacementCharacter);
+        }
+    }
+    return text;
+}
+
+bool Put(const QString& text, FILE* file)
+{
+    const QByteArray bytes = (isatty(fileno(file)) != 0 ? Harmless(text) : text).toUtf8();
+    const auto size = static_cast<size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, file) == size;
+}
+
+} // namespace
 
 void modConsole::Out(const QString& text)
 {
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+    if (!Put(text, stdout) && lostBy == 0) {
+        lostBy = errno;
+    }
+}
+
+bool modConsole::Finish()
+{
+    if (std::fflush(stdout) != 0 && lostBy == 0) {
+        lostBy = errno;
+    }
+    if (lostBy != 0 && lostBy != EPIPE) {
+        const QString reason =
+            lostBy == ENOSPC ? cText::Tr("Der Datenträger ist voll.") : QString::fromLocal8Bit(std::strerror(lostBy));
+        Error(cText::Tr("Die Ausgabe ist unvollständig: {0}", {reason}));
+    }
+    return lostBy == 0;
 }
 
 void modConsole::Error(const QString& text)
 {
-    const QByteArray bytes = text.toUtf8() + '\n';
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
+    (void)Put(text + u'\n', stderr);
 }
 
 void cConsoleUser::Show(eTone tone, const QString& text, const QString& /*title*/)

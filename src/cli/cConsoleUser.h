@@ -44,7 +44,13 @@ private:
 // The two outputs of the program, in UTF-8 whatever the terminal is set to.
 namespace modConsole {
 
+// Texts of the book and of statements may hold signs that a terminal obeys; there they are shown as pictures of
+// themselves. Files and pipes get the output as it is.
 void Out(const QString& text);
 void Error(const QString& text); // adds the line end
+
+// Writes out what is held back. False when some of the output is lost, after a message that says why; who stopped
+// reading needs none.
+[[nodiscard]] bool Finish();
 
 } // namespace modConsole

@@ -100,14 +100,11 @@ cChartWish ReadWish(const cCliContext& context, cCliReader& reader)
     return wish;
 }
 
-// What went wrong; empty when the file is written.
-QString WriteTarget(const cCliContext& context, const QString& target, const cChartData& chart)
+QByteArray Bytes(const cCliContext& context, const QString& target, const cChartData& chart)
 {
-    const QString path = context.Call.Value(target);
-    if (target == u"csv") {
-        return modFileWrite::Replace(path, modChartTable::Csv(chart));
-    }
-    return context.Ports.Paint.PaintChart(chart, path) ? QString() : cText::Tr("Schreiben nicht möglich");
+    using enum cCliPaint::ePicture;
+    return target == u"csv" ? modChartTable::Csv(chart)
+                            : context.Ports.Paint.PaintChart(chart, target == u"svg" ? Svg : Png);
 }
 
 int Run(const cCliContext& context)
@@ -124,15 +121,15 @@ int Run(const cCliContext& context)
     }
     for (const QString& target : targets) {
         const QString path = context.Call.Value(target);
-        const QString problem = path.isEmpty() ? QString() : WriteTarget(context, target, chart);
+        if (path.isEmpty()) {
+            continue;
+        }
+        const QString problem = modFileWrite::Export(context.Book->Data, path, Bytes(context, target, chart));
         if (!problem.isEmpty()) {
-            context.User.Show(eTone::Critical,
-                              cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}", {path, problem}));
+            context.User.Show(eTone::Critical, problem);
             return modExit::Failed;
         }
-        if (!path.isEmpty()) {
-            modCliFlow::SayWritten(path);
-        }
+        modCliFlow::SayWritten(path);
     }
     return modExit::Done;
 }

@@ -59,7 +59,7 @@ int Run(const cCliContext& context)
         return selection.Code;
     }
     cNoProgress progress;
-    cEntryExport writer(context.User, context.Book->Format(), progress);
+    cEntryExport writer(context.Book->Tools, progress);
     if (writer.WriteFile(Extract(context, selection), *format, path) != cEntryExport::eDone::Written) {
         return modExit::Failed;
     }

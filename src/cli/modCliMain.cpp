@@ -27,22 +27,7 @@ int ShowHelp(const cCliCall& call)
     return modExit::Done;
 }
 
-} // namespace
-
-bool modCliMain::NeedsPaint(const QStringList& arguments)
-{
-    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
-        const QString name = argument.section(u'=', 0, 0);
-        return name == u"--pdf" || name == u"--png" || name == u"--svg";
-    });
-}
-
-QString modCliMain::Profile(const QStringList& arguments)
-{
-    return cCliCall::Parse(arguments, modCliCommands::All()).Value(u"profile"_s);
-}
-
-int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
+int RunCommand(const QStringList& arguments, const cCliPorts& ports)
 {
     const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
     if (!call.Error().isEmpty()) {
@@ -66,4 +51,26 @@ int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
         return modExit::Failed;
     }
     return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
+}
+
+} // namespace
+
+bool modCliMain::NeedsPaint(const QStringList& arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        const QString name = argument.section(u'=', 0, 0);
+        return name == u"--pdf" || name == u"--png" || name == u"--svg";
+    });
+}
+
+QString modCliMain::Profile(const QStringList& arguments)
+{
+    return cCliCall::Parse(arguments, modCliCommands::All()).Value(u"profile"_s);
+}
+
+int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
+{
+    const int code = RunCommand(arguments, ports);
+    const bool isSaid = modConsole::Finish();
+    return code == modExit::Done && !isSaid ? modExit::Failed : code;
 }

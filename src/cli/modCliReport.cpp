@@ -10,6 +10,7 @@
 #include "cli/modCliFlow.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
+#include "views/list/modFileWrite.h"
 #include "views/report/cReportExport.h"
 #include "views/report/cReportSource.h"
 #include "views/report/modReport.h"
@@ -184,17 +185,18 @@ bool WritePdf(const cCliContext& context, cReportSource& source, cReportWish wis
 {
     const QString path = context.Call.Value(u"pdf"_s);
     wish.Links = eReportLinks::Off;
-    const bool isWritten = context.Ports.Paint.PaintReport(source.Html(wish), path);
-    if (!isWritten) {
-        context.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", {path}));
+    const QByteArray bytes = context.Ports.Paint.PaintReport(source.Html(wish));
+    const QString problem = modFileWrite::Export(context.Book->Data, path, bytes);
+    if (!problem.isEmpty()) {
+        context.User.Show(eTone::Critical, problem);
     }
-    return isWritten;
+    return problem.isEmpty();
 }
 
 // Writes the files that are asked for; their paths, or nothing after a message.
 std::optional<QStringList> WriteFiles(const cCliContext& context, cReportSource& source, const cReportWish& wish)
 {
-    cReportExport writer(context.User, source, context.Book->Format());
+    cReportExport writer(context.Book->Tools, source);
     QStringList paths;
     for (const cTarget& target : Targets()) {
         const QString path = context.Call.Value(target.Option);

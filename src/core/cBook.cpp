@@ -59,6 +59,7 @@ bool cBook::OpenForReading(const QString& path)
     if (fault != eDatabaseFault::None) {
         return Refuse(fault, path);
     }
+    NameShutOut();
     LoadSettings();
     return true;
 }
@@ -70,6 +71,7 @@ bool cBook::OpenWithQuestions(const QString& path, bool isFresh, const cPorts& p
         return false;
     }
     m_added = sequence.Added();
+    NameShutOut();
     LoadSettings();
     return true;
 }
@@ -86,8 +88,32 @@ bool cBook::TryOpen(const QString& path, bool isFresh, const cPorts& ports)
         return false;
     }
     m_added = sequence.Added();
+    NameShutOut();
     LoadSettings();
     return true;
+}
+
+// Whoever has put them there may count on them, so their owner is told that they do nothing here.
+void cBook::NameShutOut()
+{
+    constexpr qsizetype longestName = 40;
+    constexpr qsizetype most = 5;
+    const QStringList& all = m_database->ShutOutNames();
+    if (all.isEmpty()) {
+        return;
+    }
+    QStringList names;
+    for (const QString& name : all.mid(0, most)) {
+        names.append(name.size() > longestName ? name.left(longestName) + QChar(u'…') : name);
+    }
+    if (all.size() > most) {
+        names.append(QStringLiteral("…"));
+    }
+    m_user.Show(eTone::Exclamation,
+                cText::Tr("Das Buch enthält Trigger oder Sichten, die nicht von Kontorelle stammen: {0}.\nSie werden "
+                          "nicht ausgeführt. Wenn Sie sie nicht selbst angelegt haben, prüfen Sie bitte, woher die "
+                          "Datei kommt.",
+                          {names.join(QStringLiteral(", "))}));
 }
 
 bool cBook::Refuse(eDatabaseFault fault, const QString& path)

@@ -66,6 +66,7 @@ public:
 private:
     [[nodiscard]] bool Refuse(eDatabaseFault fault, const QString& path);
     void LoadSettings();
+    void NameShutOut();
 
     cUser& m_user;
     std::unique_ptr<cDatabase> m_database;

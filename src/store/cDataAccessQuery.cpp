@@ -247,9 +247,9 @@ private:
 
     size_t Find(std::string_view type, std::string_view account, std::string_view move)
     {
-        std::string key(type);
-        key.append(1, '\0').append(account).append(1, '\0').append(move);
-        const auto [place, isNew] = m_places.try_emplace(std::move(key), m_sums.size());
+        constexpr char between = '\0';
+        m_key.assign(type).append(1, between).append(account).append(1, between).append(move);
+        const auto [place, isNew] = m_places.try_emplace(m_key, m_sums.size());
         if (isNew) {
             m_sums.push_back({std::string(type), std::string(account), std::string(move)});
         }
@@ -258,6 +258,7 @@ private:
 
     std::vector<cSum> m_sums;
     std::unordered_map<std::string, size_t> m_places;
+    std::string m_key; // kept for its memory
     size_t m_last = 0;
 };
 

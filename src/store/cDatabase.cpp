@@ -1,17 +1,21 @@
 #include "store/cDatabase.h"
 
+#include "base/cText.h"
 #include "store/modSyncVfs.h"
 
 #include <QFile>
 
 // The driver's header leaves them out otherwise; Debian's library has them.
 #define SQLITE_ENABLE_PREUPDATE_HOOK // NOLINT(cppcoreguidelines-macro-usage)
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <unordered_map>
 #include <utility>
 
@@ -48,8 +52,9 @@ struct cRows::cState
 
 namespace {
 
-constexpr qint64 portionTime = 1000; // milliseconds
-constexpr size_t idleLimit = 100;    // statements kept prepared; filters make new texts all the time
+constexpr qint64 portionTime = 1000;   // milliseconds
+constexpr size_t idleLimit = 100;      // statements kept prepared; filters make new texts all the time
+constexpr int longestValue = 64 << 20; // bytes of a value or a row, so that no default or check makes gigabytes of one
 
 eDatabaseFault FaultOf(int code)
 {
@@ -102,6 +107,34 @@ int FlagsOf(eOpenMode mode)
     case eOpenMode::ReadWrite: break;
     }
     return SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX;
+}
+
+// A book may come from strangers: what its schema says may use functions without side effects only, and nobody may
+// write to the schema or to the insides of a table.
+void Guard(const SQLite::Database& connection)
+{
+    sqlite3* handle = connection.getHandle();
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longestValue);
+}
+
+// Makes an empty file that only its owner can read, through no link and in the place of nothing.
+void MakeOwnFile(const QString& path)
+{
+    const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (file >= 0) {
+        ::close(file);
+        return;
+    }
+    switch (errno) {
+    case EEXIST:
+        throw cDatabaseError(eDatabaseFault::Other, cText::Tr("Die Datei '{0}' gibt es schon.", {path}).toStdString());
+    case ENOSPC:
+    case EDQUOT: throw cDatabaseError(eDatabaseFault::Full, "database or disk is full");
+    case EIO: throw cDatabaseError(eDatabaseFault::Device, "disk I/O error");
+    default: throw cDatabaseError(eDatabaseFault::NoAccess, "unable to open database file");
+    }
 }
 
 void BindStored(SQLite::Statement& statement, int index, const cStoredBytes& stored)
@@ -190,9 +223,30 @@ void cDatabase::Open(const QString& path, eOpenMode mode)
     Close();
     m_connection =
         Translate([&] { return std::make_unique<cConnection>(path, FlagsOf(mode), m_busyTimeout, m_damageWatcher); });
+    Guard(m_connection->Handle);
     m_path = path;
     m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
     InstallWatcher();
+}
+
+QStringList cDatabase::ShutOut()
+{
+    sqlite3* handle = Connection().Handle.getHandle();
+    m_shutOut.clear();
+    {
+        // By the statement: the columns beside it are the file's word only. SQLite writes these three beginnings
+        // itself.
+        cRows rows(*this,
+                   "SELECT name FROM main.sqlite_master WHERE sql NOT LIKE 'CREATE TABLE %'"
+                   " AND sql NOT LIKE 'CREATE INDEX %' AND sql NOT LIKE 'CREATE UNIQUE INDEX %' ORDER BY name");
+        while (rows.Next()) {
+            m_shutOut.append(rows.Text(0));
+        }
+    }
+    const int isAllowed = m_shutOut.isEmpty() ? 1 : 0;
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, isAllowed, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, isAllowed, nullptr);
+    return m_shutOut;
 }
 
 bool cDatabase::IsDamaged() const noexcept
@@ -217,6 +271,7 @@ void cDatabase::Close() noexcept
 {
     EndGathering();
     m_connection.reset();
+    m_shutOut.clear();
     m_isReadOnly = false;
     m_dataVersion = 0;
     ++m_importVersion; // another file may follow
@@ -333,11 +388,12 @@ eDatabaseFault cDatabase::ProbeWrite() noexcept
 
 void cDatabase::BackupTo(const QString& path)
 {
-    // Made beforehand, so that nobody else can read the copy at any moment. Where this fails, SQLite says why.
-    QFile(path).open(QIODevice::NewOnly | QIODevice::WriteOnly, QFile::ReadOwner | QFile::WriteOwner);
+    MakeOwnFile(path); // beforehand, so that nobody else can read the copy at any moment
     try {
         Translate([&] {
-            SQLite::Database target(path.toStdString(), FlagsOf(eOpenMode::Create), m_busyTimeout, modSyncVfs::Name());
+            SQLite::Database target(path.toStdString(), FlagsOf(eOpenMode::ReadWrite), m_busyTimeout,
+                                    modSyncVfs::Name());
+            Guard(target);
             const int result = SQLite::Backup(target, Connection().Handle).executeStep();
             if (result != SQLITE_DONE) {
                 throw SQLite::Exception(sqlite3_errstr(result), result);

@@ -86,6 +86,12 @@ public:
     void Open(const QString& path, eOpenMode mode);
     void Close() noexcept;
 
+    // Switches off what the schema of the file could run: triggers and views, if there are any. The names of these, and
+    // of what else is neither a table nor an index; a book of this program has none.
+    QStringList ShutOut();
+    // What ShutOut has found.
+    [[nodiscard]] const QStringList& ShutOutNames() const noexcept { return m_shutOut; }
+
     [[nodiscard]] bool IsOpen() const noexcept { return m_connection != nullptr; }
     [[nodiscard]] bool IsReadOnly() const noexcept { return m_isReadOnly; }
     // SQLite has come upon damage in the open file. Nothing is written to it any more.
@@ -116,7 +122,7 @@ public:
     [[nodiscard]] eDatabaseFault ProbeWrite() noexcept;
 
     // Copies the whole database into a new file, also while others read it. Only the file's owner can read it. A file
-    // half written is removed.
+    // half written is removed; one that is there already, or a link, is left alone and is a failure.
     void BackupTo(const QString& path);
 
     // What SQLite finds wrong with the file; empty when it is sound.
@@ -147,6 +153,7 @@ private:
     std::function<void()> m_damageWatcher;
     std::unique_ptr<cConnection> m_connection;
     QString m_path;
+    QStringList m_shutOut;
     int m_busyTimeout;
     bool m_isReadOnly = false;
     std::optional<eGathering> m_gathering;

@@ -292,10 +292,28 @@ void PutStandIns(cDatabase& database)
     database.Execute("PRAGMA query_only=ON");
 }
 
+// What passes for a table of this program and is none could do anything when it is read.
+void CheckShutOut(const QStringList& names)
+{
+    std::vector<const char*> tables;
+    for (const cTable& table : OwnTables()) {
+        tables.push_back(table.Name);
+    }
+    for (const auto& shipped : ShippedTables()) {
+        tables.push_back(shipped.first);
+    }
+    for (const char* table : tables) {
+        if (names.contains(QLatin1StringView(table), Qt::CaseInsensitive)) {
+            throw cDatabaseError(eDatabaseFault::Damaged, std::string(table) + " is no table");
+        }
+    }
+}
+
 eDatabaseFault TryOpen(cDatabase& database, const QString& path, eOpenMode mode)
 {
     try {
         database.Open(path, mode);
+        CheckShutOut(database.ShutOut());
         database.Execute("SELECT COUNT(*) FROM data LIMIT 1");
         return eDatabaseFault::None;
     } catch (const cDatabaseError& error) {

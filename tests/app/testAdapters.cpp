@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -80,6 +81,8 @@ void testAdapters::DataFolderLiesBelowTheProfile()
     const QString folder = cQtShell(profile).DataFolder();
     QCOMPARE(folder, profile + u"/Veltrino Kontorelle"_s);
     QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(QFile::permissions(folder) & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser),
+             QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner); // nobody else looks into it
 }
 
 void testAdapters::CopyIsTheUsersOwn()
@@ -189,6 +192,8 @@ void testAdapters::SecondStartRaisesTheFirst()
     const QString path = NewFile(u"shown.db"_s);
     cSingleInstance first;
     first.Listen(path);
+    const QDir runtime(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    QVERIFY(!runtime.entryList({u"kontorelle-*"_s}, QDir::System).isEmpty()); // where only this user can get at it
     QSignalSpy raised(&first, &cSingleInstance::RaiseRequested);
     bool isAnswered = false;
     std::thread second([&] { isAnswered = cSingleInstance::RaiseOther(path); });

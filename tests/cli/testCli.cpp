@@ -61,6 +61,10 @@ private Q_SLOTS:
     void ExportRefuses();
     void DemoIsTheSameTwice();
     void CheckFindsSoundBook();
+    void LostOutputIsNoSuccess_data();
+    void LostOutputIsNoSuccess();
+    void TerminalObeysNoText();
+    void StrangeTriggersAreNamedAndDoNothing();
     void UsageErrors_data();
     void UsageErrors();
     void FaultyDatabases_data();
@@ -305,6 +309,59 @@ void testCli::CheckFindsSoundBook()
     QVERIFY2(third.Code == 1 && third.Out.contains("Es fehlt: Tabelle import"_L1) && third.Error.isEmpty()
                  && !third.Out.contains("unbeschädigt"_L1),
              qPrintable(third.Text()));
+}
+
+void testCli::LostOutputIsNoSuccess_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<bool>("isSaid");
+    QTest::newRow("full disk") << u"\"$0\" \"$@\" > /dev/full"_s << true;
+    QTest::newRow("closed") << u"\"$0\" \"$@\" >&-"_s << true;
+    QTest::newRow("nobody reads on") << u"exec 3> >(:); wait $!; \"$0\" \"$@\" >&3"_s << false;
+}
+
+void testCli::LostOutputIsNoSuccess()
+{
+    QFETCH(const QString, script);
+    QFETCH(const bool, isSaid);
+    const cRun run = cRun::Start(u"bash"_s, {u"-c"_s, script, QStringLiteral(CLI_PROGRAM), u"hilfe"_s});
+    QCOMPARE(run.Code, 1);
+    QCOMPARE(run.Error.contains(u"Ausgabe ist unvollständig"_s), isSaid);
+    QVERIFY2(isSaid || run.Error.isEmpty(), qPrintable(run.Error));
+}
+
+void testCli::TerminalObeysNoText()
+{
+    QVERIFY(Run({u"balances"_s}).Code == 0);
+    cTestFile::Run(
+        Database(),
+        "INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, EntryAccountMove,"
+        " EntryCategory, EntryValue, EntryDescription) VALUES ('2026-03-01', '2050-01-01', 'Ausgabe', "
+        "'Einmalig', 'Girokonto', '', 'Auto', '1.00', char(0x1b) || ']0;x' || char(7, 0x9b) || '31m' || "
+        "char(0x202e))");
+    const QStringList options{u"--period"_s, u"Alle Buchungen"_s};
+    const cRun piped = Run(QStringList{u"entries"_s} + options);
+    QVERIFY2(piped.Out.contains(u"\u001b]0;x"_s), qPrintable(piped.Text()));
+    const QString command =
+        QStringLiteral(CLI_PROGRAM " --profile '%1' entries --period 'Alle Buchungen'").arg(m_folder->path());
+    const cRun shown = cRun::Start(u"script"_s, {u"-qec"_s, command, u"/dev/null"_s});
+    QVERIFY2(shown.Out.contains(u"\u241b]0;x\u2407\ufffd31m\ufffd"_s), qPrintable(shown.Text()));
+}
+
+// A book that somebody else has prepared.
+void testCli::StrangeTriggersAreNamedAndDoNothing()
+{
+    QVERIFY(Run({u"balances"_s}).Code == 0);
+    cTestFile::Run(
+        Database(),
+        "CREATE TRIGGER thief AFTER INSERT ON data BEGIN UPDATE data SET EntryAccount = 'Fremd'; END;"
+        "CREATE VIEW endless AS WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x FROM c) SELECT x FROM c");
+    const cRun run = Run({u"add"_s, u"--kind"_s, u"Ausgabe"_s, u"--amount"_s, u"1"_s, u"--account"_s, u"Girokonto"_s,
+                          u"--category"_s, u"Haushalt; Lebensmittel"_s, u"--date"_s, u"2026-03-01"_s});
+    QVERIFY2(run.Code == 0 && run.Error.contains(": endless, thief."_L1), qPrintable(run.Text()));
+    cDatabase book;
+    book.Open(Database(), eOpenMode::ReadOnly);
+    QCOMPARE(cTestFile::Value(book, "SELECT EntryAccount FROM data"), u"Girokonto"_s);
 }
 
 void testCli::UsageErrors_data()

@@ -1,3 +1,4 @@
+#include "import/read/modStatementFile.h"
 #include "import/read/modStatementText.h"
 
 #include <QTest>
@@ -45,6 +46,35 @@ private Q_SLOTS:
     {
         QFETCH(QString, field);
         QTEST(modStatementText::DecodeField(field), "text");
+    }
+
+    // Readers hold a field several times over, so nobody else looks at one of 50 MB.
+    void endlessFieldsAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("line"); // 0: read
+        const QByteArray endless(1'100'000, 'x');
+        const QByteArray tags = QByteArray("<Ntry>1</Ntry>").repeated(200'000);
+        QTest::newRow("cell") << QByteArray("Tag;Betrag\n1;2\n\"" + endless + "\";3\n4;5\n") << 3;
+        QTest::newRow("last line") << QByteArray("Tag;Betrag\r\n" + endless) << 2;
+        QTest::newRow("many lines") << QByteArray("1;2\n").repeated(600'000) << 0;
+        QTest::newRow("document of one line") << QByteArray("\n<?xml?>" + tags) << 0;
+        QTest::newRow("text of a tag") << QByteArray("<?xml?>\n" + tags + "<Ustrd>"
+                                                     + QByteArray(endless).replace("xx", "x\n"))
+                                       << 2;
+        QTest::newRow("OFX of one line") << QByteArray("OFXHEADER:100 <OFX>" + tags) << 0;
+        QTest::newRow("SWIFT of one line")
+            << QByteArray(":20:STARTUMS@@" + QByteArray(":61:2403@@").repeated(200'000)) << 0;
+        QTest::newRow("archive") << QByteArray("PK\3\4" + endless) << 0;
+    }
+
+    void endlessFieldsAreRefused()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const int, line);
+        const QString refusal = modStatementFile::Overlong(bytes);
+        QCOMPARE(refusal.isEmpty(), line == 0);
+        QVERIFY2(line == 0 || refusal.startsWith(u"In Zeile %1 "_s.arg(line)), qPrintable(refusal));
     }
 
     void everyByteGivesText()

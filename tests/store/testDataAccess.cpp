@@ -359,6 +359,12 @@ private Q_SLOTS:
         QCOMPARE(modSchema::OpenValid(opened, copy, eOpenMode::ReadOnly), eDatabaseFault::None);
         QCOMPARE(cTestFile::Value(opened, "SELECT COUNT(*) FROM data"), u"1"_s);
         QVERIFY_THROWS_EXCEPTION(cDatabaseError, book.Database.BackupTo(book.File.Path(u"missing/copy.backup"_s)));
+        const QString link = book.File.Path(u"link.backup"_s);
+        QVERIFY(QFile::link(u"elsewhere"_s, link));
+        QVERIFY_THROWS_EXCEPTION(cDatabaseError, book.Database.BackupTo(link));
+        QVERIFY(!QFile::exists(book.File.Path(u"elsewhere"_s)));
+        QVERIFY_THROWS_EXCEPTION(cDatabaseError, book.Database.BackupTo(copy));
+        QVERIFY(QFile::exists(copy));
         cDatabase other;
         other.Open(book.File.Path(), eOpenMode::ReadWrite);
         other.Execute("BEGIN EXCLUSIVE");

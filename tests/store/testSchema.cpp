@@ -89,6 +89,13 @@ private Q_SLOTS:
             << QByteArray("SQLite format 3\0", 16) + QByteArray(2000, 'x') << QString() << eDatabaseFault::Damaged;
         QTest::newRow("without table data")
             << QByteArray() << u"CREATE TABLE other (ID INTEGER)"_s << eDatabaseFault::Damaged;
+        const QString endless = u" AS WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x FROM c) SELECT x FROM c"_s;
+        QTest::newRow("endless view") << QByteArray() << u"CREATE VIEW data"_s + endless << eDatabaseFault::Damaged;
+        QTest::newRow("endless view for settings")
+            << QByteArray() << u"CREATE TABLE data (ID INTEGER); CREATE VIEW Setting"_s + endless
+            << eDatabaseFault::Damaged;
+        QTest::newRow("table of a module")
+            << QByteArray() << u"CREATE VIRTUAL TABLE data USING fts5(ID)"_s << eDatabaseFault::Damaged;
         QTest::newRow("just the table") << QByteArray() << u"CREATE TABLE data (ID INTEGER)"_s << eDatabaseFault::None;
     }
 

@@ -218,7 +218,7 @@ private Q_SLOTS:
     void saves()
     {
         cTestBook book;
-        cChartSave save(book.User, {[](const cChartData&) { return QByteArray("png"); }, {}});
+        cChartSave save(book.Tools, {[](const cChartData&) { return QByteArray("png"); }, {}});
         QTemporaryDir folder;
         const QString path = folder.filePath(u"bild.png"_s);
         cChartData chart;

@@ -1,7 +1,9 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
+#include "support/cNoRoom.h"
 #include "support/fakes.h"
+#include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/export/cEntryExport.h"
 #include "views/list/cEntryListModel.h"
@@ -74,6 +76,7 @@ public:
         m_zip = unzOpen(QFile::encodeName(path).constData());
         ReadTexts(Part("xl/sharedStrings.xml"));
         Sheet = Part("xl/worksheets/sheet1.xml");
+        Core = Part("docProps/core.xml");
         Styles = Part("xl/styles.xml");
         ReadCells();
         unzClose(m_zip);
@@ -94,6 +97,8 @@ public:
 
     QByteArray Sheet;
     QByteArray Styles;
+    QByteArray Core;
+    bool IsWellFormed = true; // all texts could be read
 
 private:
     QByteArray Part(const char* name)
@@ -119,6 +124,7 @@ private:
                 m_texts.append(reader.readElementText());
             }
         }
+        IsWellFormed = !reader.hasError();
     }
 
     void ReadCells()
@@ -165,6 +171,7 @@ private Q_SLOTS:
     void XlsxSumsOfOneAccount();
     void StartBalancesAreNoIncome();
     void XlsxKeepsOddDatesAndTexts();
+    void XlsxNoticesFullDisk();
     void HtmlStandsAlone();
     void QifOfOneAccount();
     void QifOfAllAccounts();
@@ -336,14 +343,32 @@ void testExport::XlsxKeepsOddDatesAndTexts()
     cEntryListModel::cContent content;
     content.Entries = {
         Entry(QDate(1899, 12, 31), modWord::Ausgabe, 100, u"Auto"_s, QString(40000, u'ä')),
-        Entry(QDate(1900, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, u"\u0001 \U0001F600"_s),
+        Entry(QDate(1900, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, u"\u0001\uFFFE \U0001F600"_s),
     };
     m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    const cTable table(Bytes(modExport::eFormat::Xlsx));
+    cEntryExtract extract = Extract();
+    extract.Title = u"Konto \u001B[31m"_s;
+    const cTable table(modExport::Write(modExport::eFormat::Xlsx, {extract, m_format.Format, m_progress})
+                           .Bytes.value_or(QByteArray()));
+    QVERIFY(table.IsWellFormed);
+    for (const QByteArray& part : {table.Sheet, table.Core}) {
+        QVERIFY(!part.isEmpty() && !part.contains('\x1B'));
+    }
     QCOMPARE(table.At(u"A2"_s), u"31.12.1899"_s);
     QCOMPARE(table.At(u"A3"_s), u"61"_s);
     QCOMPARE(table.At(u"E2"_s).size(), 32767);
     QVERIFY(table.At(u"E3"_s).endsWith(u"\U0001F600"_s));
+}
+
+// Of the temporary files, on another disk than the target.
+void testExport::XlsxNoticesFullDisk()
+{
+    cEntryListModel::cContent content;
+    content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
+    m_model->SetContent(content, {}, modWord::KeineGruppierung);
+    QVERIFY(!Bytes(modExport::eFormat::Xlsx).isEmpty());
+    const cNoRoom room(100'000); // enough for what is packed
+    QVERIFY(Bytes(modExport::eFormat::Xlsx).isEmpty());
 }
 
 void testExport::HtmlStandsAlone()
@@ -401,9 +426,10 @@ void testExport::FormatComesFromTheEnding()
     QFETCH(const QString, name);
     QFETCH(const QByteArray, start);
     QTemporaryDir folder;
-    cFakeUser user;
+    cTestBook book;
+    cFakeUser& user = book.User;
     user.SavePath = folder.filePath(name);
-    const cEntryExport::eDone done = cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15));
+    const cEntryExport::eDone done = cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15));
     QFile file(user.SavePath);
     if (start.isEmpty()) {
         QCOMPARE(done, cEntryExport::eDone::Failed);
@@ -418,10 +444,10 @@ void testExport::FormatComesFromTheEnding()
 void testExport::SaysWhatWasWritten()
 {
     QTemporaryDir folder;
-    cFakeUser user;
+    cTestBook book;
+    cFakeUser& user = book.User;
     user.SavePath = folder.filePath(u"a.csv"_s);
-    QCOMPARE(cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15)),
-             cEntryExport::eDone::Written);
+    QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Written);
     QCOMPARE(user.Asked,
              QStringList(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|HTML-Datei|*.html|QIF-Datei|*.qif|"
                          "Alle Dateien|*.*"_s));
@@ -432,7 +458,8 @@ void testExport::SaysWhatWasWritten()
 void testExport::FailureKeepsTheOldFile()
 {
     QTemporaryDir folder;
-    cFakeUser user;
+    cTestBook book;
+    cFakeUser& user = book.User;
     user.SavePath = folder.filePath(u"a.csv"_s);
     QFile file(user.SavePath);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
@@ -441,24 +468,22 @@ void testExport::FailureKeepsTheOldFile()
     content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
     m_model->SetContent(content, {}, modWord::KeineGruppierung);
     cCancelled cancelled;
-    QCOMPARE(cEntryExport(user, m_format.Format, cancelled).Run(Extract(), QDate(2026, 3, 15)),
-             cEntryExport::eDone::GivenUp);
+    QCOMPARE(cEntryExport(book.Tools, cancelled).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::GivenUp);
     QVERIFY(user.Shown.isEmpty());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("old"));
 
     user.SavePath = folder.filePath(u"missing/a.csv"_s);
-    QCOMPARE(cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15)),
-             cEntryExport::eDone::Failed);
+    QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
     QVERIFY2(user.Shown.value(0).contains(user.SavePath), qPrintable(user.Shown.value(0)));
 }
 
 void testExport::NothingToExport()
 {
-    cFakeUser user;
+    cTestBook book;
+    cFakeUser& user = book.User;
     m_model->SetFilter(u"gibt es nicht"_s);
-    QCOMPARE(cEntryExport(user, m_format.Format, m_progress).Run(Extract(), QDate(2026, 3, 15)),
-             cEntryExport::eDone::Failed);
+    QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
     QVERIFY(user.Asked.isEmpty());
     QCOMPARE(user.Shown.size(), 1);
 }

@@ -482,7 +482,7 @@ void testReport::SavedByEnding()
     book.Add([](cEntryItem&) {});
     const QTemporaryDir folder;
     cReportSource source(book.Tools);
-    cReportExport writer(book.User, source, book.Format);
+    cReportExport writer(book.Tools, source);
     const cReportWish wish = Wish(eReport::Sum, year2026);
     const QList<std::pair<QString, QByteArray>> files{{u"a.html"_s, "<!DOCTYPE html>"},
                                                       {u"b.csv"_s,

@@ -346,14 +346,9 @@ void testReportView::NothingIsLostBetweenPages()
         QVERIFY(end > top);
         top = end;
     }
-    QTemporaryDir folder;
     cReportPrinter printer(html, family, u"Fuß"_s);
     QVERIFY(printer.Title().startsWith(u"Limit-Bericht für alle Konten"_s));
-    QVERIFY(modReportPdf::Write(printer, folder.filePath(u"bericht.pdf"_s)));
-    QFile file(folder.filePath(u"bericht.pdf"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.read(5) == "%PDF-");
-    QVERIFY(!modReportPdf::Write(printer, folder.filePath(u"nirgends/bericht.pdf"_s)));
+    QVERIFY(modReportPdf::Bytes(printer).startsWith("%PDF-"));
 }
 
 // Also when its first group has gone meanwhile.

@@ -1,15 +1,72 @@
 #include "import/read/modStatementFile.h"
 
 #include "base/cText.h"
+#include "import/read/modStatementText.h"
 
+#include <QByteArrayView>
 #include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 namespace {
 
 constexpr qint64 largestFile = qint64{256} * 1024 * 1024; // bytes; years of statements stay far below
+// Bytes of a line, or of a tag with its text. A purpose has some hundred; readers hold a field several times over.
+constexpr qsizetype longestField = qsizetype{1} << 20;
+constexpr qsizetype headSize = 4096;
+
+bool IsPacked(const QByteArray& bytes)
+{
+    return bytes.startsWith("PK") || bytes.startsWith("\xD0\xCF\x11\xE0") || modStatementText::IsBinary(bytes);
+}
+
+bool IsMarkup(const QByteArray& bytes)
+{
+    const QByteArray head = bytes.left(headSize);
+    return head.startsWith('<') || head.startsWith("\xEF\xBB\xBF<") || head.trimmed().startsWith('<')
+        || head.toUpper().contains("<OFX");
+}
+
+// Where the field that begins at `start` is too long; -1 when none is. Looks at one place in a megabyte and goes back
+// from there, so it costs nothing.
+template <typename tIsEnd>
+qsizetype FindOverlong(QByteArrayView bytes, tIsEnd isEnd)
+{
+    qsizetype start = 0;
+    while (bytes.size() - start > longestField) {
+        const QByteArrayView window = bytes.sliced(start + 1, longestField);
+        const auto last = std::find_if(window.rbegin(), window.rend(), isEnd);
+        if (last == window.rend()) {
+            return start;
+        }
+        start += window.rend() - last;
+    }
+    return -1;
+}
 
 } // namespace
+
+QString modStatementFile::Overlong(const QByteArray& bytes)
+{
+    if (IsPacked(bytes)) {
+        return {};
+    }
+    // Documents may be one line, so their tags count. Some banks write their SWIFT messages into one line as well, with
+    // "@@" for its ends.
+    const bool isMarkup = IsMarkup(bytes);
+    const bool isSwift = bytes.left(headSize).contains(":20:");
+    const qsizetype at = isMarkup
+        ? FindOverlong(bytes, [](char c) { return c == '<'; })
+        : FindOverlong(bytes, [isSwift](char c) { return c == '\n' || c == '\r' || (isSwift && c == '@'); });
+    if (at < 0) {
+        return {};
+    }
+    const qsizetype line = QByteArrayView(bytes).first(at + 1).count('\n') + 1;
+    return cText::Tr("In Zeile {0} beginnt ein Feld, das länger ist als jeder Verwendungszweck (mehr als 1 MB). Die "
+                     "Datei ist beschädigt oder kein Kontoauszug; es wurde nichts übernommen.",
+                     {QString::number(line)});
+}
 
 modStatementFile::cContent modStatementFile::Read(const QString& path)
 {
@@ -26,6 +83,8 @@ modStatementFile::cContent modStatementFile::Read(const QString& path)
         content.Failure = cText::Tr("Die Datei kann nicht gelesen werden: {0}", {shownPath});
     } else if (content.Bytes.isEmpty()) {
         content.Failure = cText::Tr("Die Datei ist leer: {0}", {shownPath});
+    } else if (content.Failure = Overlong(content.Bytes); !content.Failure.isEmpty()) {
+        content.Bytes.clear();
     }
     return content;
 }

@@ -15,6 +15,9 @@ struct cContent
 
 [[nodiscard]] cContent Read(const QString& path);
 
+// Why a file with one endless line, tag or cell is not read; empty for all others. Read has looked already.
+[[nodiscard]] QString Overlong(const QByteArray& bytes);
+
 // What the user is told where neither the file nor the user names the account.
 [[nodiscard]] QString NoAccount();
 // What the user is told where nothing but the contents told the columns of a table, and nobody was asked.

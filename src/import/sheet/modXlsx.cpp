@@ -1,6 +1,7 @@
 #include "import/sheet/modXlsx.h"
 
 #include "base/cText.h"
+#include "import/read/modStatementFile.h"
 #include "import/sheet/modSheetValue.h"
 #include "import/xml/modXmlNode.h"
 #include "import/zip/modZip.h"
@@ -101,7 +102,7 @@ private:
     bool Load(const QString& path, pugi::xml_document& document)
     {
         const std::optional<QByteArray> xml = modZip::Read(m_zip, path, std::min(largestPart, m_rest));
-        if (!xml) {
+        if (!xml || !modStatementFile::Overlong(*xml).isEmpty()) {
             return false;
         }
         m_rest -= xml->size();

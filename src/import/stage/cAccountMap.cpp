@@ -8,6 +8,8 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,6 +24,17 @@ QStringList VisibleNames(const cTemplateItemList& accounts)
             names.append(account.TemplateName);
         }
     }
+    return names;
+}
+
+// The accounts that there are, to look up many.
+QSet<QString> NamesOf(const cTemplateItemList& accounts)
+{
+    QSet<QString> names;
+    for (const cTemplateItem& account : accounts) {
+        names.insert(account.TemplateName);
+    }
+    names.remove({});
     return names;
 }
 
@@ -53,9 +66,10 @@ QString cAccountMap::AccountOf(const QString& number) const
 QList<std::pair<QString, QString>> cAccountMap::Mapping() const
 {
     QList<std::pair<QString, QString>> mapping;
+    const QSet<QString> names = NamesOf(m_data.GetAccounts());
     for (const auto& [name, account] : m_data.GetSettings()) {
         const QString number = modSettingKey::BankNumber.PartOf(name);
-        if (!number.isEmpty() && Exists(account)) {
+        if (!number.isEmpty() && names.contains(account)) {
             mapping.append({number, account});
         }
     }
@@ -66,8 +80,10 @@ QHash<QString, int> cAccountMap::OpenByAccount() const
 {
     QHash<QString, int> byAccount;
     const QHash<QString, int> byNumber = m_data.CountOpenImports();
+    const QSet<QString> names = NamesOf(m_data.GetAccounts());
     for (auto open = byNumber.begin(); open != byNumber.end(); ++open) {
-        byAccount[AccountOf(open.key())] += *open;
+        const QString account = m_settings.Get(modSettingKey::BankNumber.Of(open.key()));
+        byAccount[names.contains(account) ? account : QString()] += *open;
     }
     return byAccount;
 }

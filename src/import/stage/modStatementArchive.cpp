@@ -70,6 +70,9 @@ private:
                              {name});
         }
         m_rest -= bytes->size();
+        if (const QString refusal = modStatementFile::Overlong(*bytes); !refusal.isEmpty()) {
+            return cText::Tr("Die Datei '{0}' im ZIP-Archiv: {1}", {name, refusal});
+        }
         const cStatementSource source = modStatementFormat::Source(name, *bytes, m_options.Table.Charset);
         const eStatementFormat format = modStatementFormat::Detect(source);
         const modStatementFormat::cReader reader =

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "views/chart/modChartTable.h"
 #include "views/list/modFileWrite.h"
 
@@ -36,7 +37,7 @@ QString Title()
 
 } // namespace
 
-cChartSave::cChartSave(cUser& user, cPictures pictures) : m_user(user), m_pictures(std::move(pictures))
+cChartSave::cChartSave(const cBookTools& tools, cPictures pictures) : m_tools(tools), m_pictures(std::move(pictures))
 {
 }
 
@@ -44,7 +45,7 @@ bool cChartSave::Run(const cChartData& data, QDate today)
 {
     const QString filter = cText::Tr("PNG-Bild|*.png|SVG-Bild|*.svg|CSV-Datei (Zahlen)|*.csv");
     const QString proposal = u"Kontorelle-%1-%2"_s.arg(FileName(data.Title), modDate::ToIso(today));
-    const QString path = m_user.ChooseSavePath(Title(), filter, proposal);
+    const QString path = m_tools.User.ChooseSavePath(Title(), filter, proposal);
     return !path.isEmpty() && Write(data, path);
 }
 
@@ -63,18 +64,17 @@ bool cChartSave::Write(const cChartData& data, const QString& path)
                                 "werden soll.\nMöglich sind: .png, .svg, .csv.",
                                 {QDir::toNativeSeparators(path)}));
     }
-    const QString shown = QDir::toNativeSeparators(path);
-    if (const QString problem = modFileWrite::Replace(path, bytes); !problem.isEmpty()) {
-        return Refuse(
-            cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
-                      {shown, problem}));
+    if (const QString problem = modFileWrite::Export(m_tools.Data, path, bytes); !problem.isEmpty()) {
+        return Refuse(problem);
     }
-    m_user.Show(eTone::Information, cText::Tr("Das Diagramm wurde nach '{0}' gespeichert.", {shown}), Title());
+    m_tools.User.Show(eTone::Information,
+                      cText::Tr("Das Diagramm wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)}),
+                      Title());
     return true;
 }
 
 bool cChartSave::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Critical, text, Title());
+    m_tools.User.Show(eTone::Critical, text, Title());
     return false;
 }

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-class cUser;
+struct cBookTools;
 
 // Saves a chart as picture or as figures: asks for the file, whose ending decides, and writes it.
 class cChartSave
@@ -20,7 +20,7 @@ public:
         std::function<QByteArray(const cChartData& data)> Svg;
     };
 
-    cChartSave(cUser& user, cPictures pictures);
+    cChartSave(const cBookTools& tools, cPictures pictures);
 
     // Asks for the path; `today` becomes part of the proposed name. False when nothing was written.
     bool Run(const cChartData& data, QDate today);
@@ -31,6 +31,6 @@ public:
 private:
     [[nodiscard]] bool Refuse(const QString& text);
 
-    cUser& m_user;
+    const cBookTools& m_tools;
     cPictures m_pictures;
 };

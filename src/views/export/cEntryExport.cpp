@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "views/list/modFileWrite.h"
 
 #include <QDir>
@@ -18,7 +19,7 @@ cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, QDate today)
     }
     // Without ending: the dialog adds the one of the kind of file that is chosen there.
     const QString proposal = cText::Tr("Kontorelle-Einträge-{0}", {modDate::ToIso(today)});
-    const QString path = m_user.ChooseSavePath(title, modExport::Filter(), proposal);
+    const QString path = m_tools.User.ChooseSavePath(title, modExport::Filter(), proposal);
     if (path.isEmpty()) {
         return eDone::GivenUp;
     }
@@ -33,10 +34,11 @@ cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, QDate today)
     if (done == eDone::Written) {
         const QString count = QString::number(extract.Rows.size());
         const QString name = QDir::toNativeSeparators(path);
-        m_user.Show(eTone::Information,
-                    extract.Rows.size() == 1 ? cText::Tr("1 Eintrag wurde nach '{0}' exportiert.", {name})
-                                             : cText::Tr("{0} Einträge wurden nach '{1}' exportiert.", {count, name}),
-                    title);
+        m_tools.User.Show(eTone::Information,
+                          extract.Rows.size() == 1
+                              ? cText::Tr("1 Eintrag wurde nach '{0}' exportiert.", {name})
+                              : cText::Tr("{0} Einträge wurden nach '{1}' exportiert.", {count, name}),
+                          title);
     }
     return done;
 }
@@ -44,21 +46,17 @@ cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, QDate today)
 cEntryExport::eDone cEntryExport::WriteFile(const cEntryExtract& extract, modExport::eFormat format,
                                             const QString& path)
 {
-    const modExport::cResult result = modExport::Write(format, {extract, m_format, m_progress});
+    const modExport::cResult result = modExport::Write(format, {extract, m_tools.Format, m_progress});
     if (!result.Bytes && result.Error.isEmpty()) {
         return eDone::GivenUp;
     }
-    const QString problem = result.Bytes ? modFileWrite::Replace(path, *result.Bytes) : result.Error;
-    if (!problem.isEmpty()) {
-        return Refuse(
-            cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
-                      {QDir::toNativeSeparators(path), problem}));
-    }
-    return eDone::Written;
+    const QString problem = result.Bytes ? modFileWrite::Export(m_tools.Data, path, *result.Bytes)
+                                         : modFileWrite::Failed(path, result.Error);
+    return problem.isEmpty() ? eDone::Written : Refuse(problem);
 }
 
 cEntryExport::eDone cEntryExport::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Critical, text, cText::Tr("Daten exportieren"));
+    m_tools.User.Show(eTone::Critical, text, cText::Tr("Daten exportieren"));
     return eDone::Failed;
 }

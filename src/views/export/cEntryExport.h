@@ -5,7 +5,7 @@
 #include <QDate>
 #include <QString>
 
-class cUser;
+struct cBookTools;
 
 // Exports a list of entries: asks for the file, writes it, and says what came of it.
 class cEntryExport
@@ -13,12 +13,7 @@ class cEntryExport
 public:
     enum class eDone { Written, Failed, GivenUp };
 
-    cEntryExport(cUser& user, const cAmountFormat& format, cProgress& progress)
-        : m_user(user),
-          m_format(format),
-          m_progress(progress)
-    {
-    }
+    cEntryExport(const cBookTools& tools, cProgress& progress) : m_tools(tools), m_progress(progress) {}
 
     // Lets the user choose a file, whose ending decides the format. `today` becomes part of the proposed name.
     eDone Run(const cEntryExtract& extract, QDate today);
@@ -30,7 +25,6 @@ public:
 private:
     [[nodiscard]] eDone Refuse(const QString& text);
 
-    cUser& m_user;
-    const cAmountFormat& m_format;
+    const cBookTools& m_tools;
     cProgress& m_progress;
 };

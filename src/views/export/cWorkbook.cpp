@@ -3,10 +3,14 @@
 #include "base/modAmount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "import/zip/modZip.h"
 
 #include <QFile>
 
 #include <xlsxwriter.h>
+
+#include <algorithm>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,6 +34,37 @@ lxw_col_t Column(int column)
     return static_cast<lxw_col_t>(column);
 }
 
+// A file of XML may not hold every sign: one of these and no program opens it any more.
+QByteArray Bytes(QString text)
+{
+    for (QChar& c : text) {
+        const bool isControl = c < u' ' && c != u'\t' && c != u'\n' && c != u'\r';
+        if (isControl || c >= u'\uFFFE') {
+            c = QChar::ReplacementCharacter;
+        }
+    }
+    return text.toUtf8();
+}
+
+// Whether a document of XML, "<?xml …?>\n<name …>…", reaches its "</name>".
+bool HasEnd(const QByteArray& xml)
+{
+    const qsizetype start = xml.indexOf('<', xml.indexOf("?>")) + 1;
+    const qsizetype end = std::min(xml.indexOf(' ', start), xml.indexOf('>', start));
+    const QByteArray closing = "</" + xml.mid(start, end - start) + '>';
+    return start > 0 && end > start && xml.trimmed().endsWith(closing);
+}
+
+// The library does not notice when its temporary files find no room on the disk: the parts are cut then.
+bool IsWhole(const QByteArray& zip)
+{
+    const QStringList names = modZip::Names(zip);
+    return !names.isEmpty() && std::all_of(names.begin(), names.end(), [&](const QString& name) {
+        const std::optional<QByteArray> part = modZip::Read(zip, name, std::numeric_limits<int>::max());
+        return part && HasEnd(*part);
+    });
+}
+
 } // namespace
 
 cWorkbook::cWorkbook(const QString& sheet, const QString& moneyPattern)
@@ -38,7 +73,7 @@ cWorkbook::cWorkbook(const QString& sheet, const QString& moneyPattern)
     lxw_workbook_options options{};
     options.tmpdir = folder.data(); // the book keeps a copy
     m_book = workbook_new_opt(QFile::encodeName(Path()).constData(), &options);
-    m_sheet = workbook_add_worksheet(m_book, sheet.toUtf8().constData());
+    m_sheet = workbook_add_worksheet(m_book, Bytes(sheet).constData());
     MakeStyles(moneyPattern);
 }
 
@@ -51,7 +86,7 @@ cWorkbook::~cWorkbook()
 
 void cWorkbook::MakeStyles(const QString& moneyPattern)
 {
-    const QByteArray money = moneyPattern.toUtf8();
+    const QByteArray money = Bytes(moneyPattern);
     for (int style = Plain; style < StyleCount; ++style) {
         lxw_format* format = workbook_add_format(m_book);
         m_styles.push_back(format);
@@ -94,8 +129,8 @@ QString cWorkbook::MoneyPattern(const cAmountFormat& format)
 
 void cWorkbook::SetTitle(const QString& title, const QString& comment)
 {
-    QByteArray titleBytes = title.toUtf8();
-    QByteArray commentBytes = comment.toUtf8();
+    QByteArray titleBytes = Bytes(title);
+    QByteArray commentBytes = Bytes(comment);
     lxw_doc_properties properties{};
     properties.title = titleBytes.data(); // copied by the library
     properties.comments = commentBytes.data();
@@ -109,7 +144,7 @@ void cWorkbook::SetColumnWidth(int column, int characters)
 
 void cWorkbook::WriteText(qsizetype row, int column, const QString& text, eStyle style)
 {
-    const QByteArray bytes = text.left(longestText).toUtf8();
+    const QByteArray bytes = Bytes(text.left(longestText));
     const lxw_error error =
         worksheet_write_string(m_sheet, Row(row), Column(column), bytes.constData(), m_styles[style]);
     m_isComplete = m_isComplete && error == LXW_NO_ERROR;
@@ -175,8 +210,8 @@ void cWorkbook::SetPrinting(const QString& header, const QString& footer)
     worksheet_set_landscape(m_sheet);
     worksheet_set_paper(m_sheet, paperA4);
     worksheet_fit_to_pages(m_sheet, 1, 0);
-    (void)worksheet_set_header(m_sheet, header.toUtf8().constData());
-    (void)worksheet_set_footer(m_sheet, footer.toUtf8().constData());
+    (void)worksheet_set_header(m_sheet, Bytes(header).constData());
+    (void)worksheet_set_footer(m_sheet, Bytes(footer).constData());
 }
 
 std::optional<QByteArray> cWorkbook::Close()
@@ -188,5 +223,5 @@ std::optional<QByteArray> cWorkbook::Close()
         return std::nullopt;
     }
     const QByteArray bytes = file.readAll();
-    return bytes.isEmpty() ? std::nullopt : std::optional(bytes);
+    return IsWhole(bytes) ? std::optional(bytes) : std::nullopt;
 }

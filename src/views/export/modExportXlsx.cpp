@@ -65,7 +65,10 @@ modExport::cResult cSheet::Write()
     m_book.SetHead(m_row - 1, ColumnCount() - 1);
     WriteSums();
     const std::optional<QByteArray> bytes = m_book.Close();
-    return {bytes, bytes ? QString() : cText::Tr("Die Excel-Datei konnte nicht zusammengestellt werden.")};
+    return {bytes,
+            bytes ? QString()
+                  : cText::Tr("Die Excel-Datei konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger "
+                              "voll, auf dem das System Zwischendateien ablegt.")};
 }
 
 void cSheet::WriteHead()

@@ -3,11 +3,20 @@
 #include <QByteArray>
 #include <QString>
 
+class cDataAccess;
+
 // Files written as a whole.
 namespace modFileWrite {
 
-// Replaces the file once all bytes are on the disk; what stood there before stays when that fails. What went wrong,
-// empty when the file is complete.
+// Replaces the file once all bytes are on the disk; what stood there before stays when that fails, also when the
+// program is killed. Refuses what is no regular file. What went wrong, in German; empty when the file is complete.
 [[nodiscard]] QString Replace(const QString& path, const QByteArray& bytes);
+
+// The same for what was made from a book: not as long as that could not be read whole, for the file would lack
+// something. The whole message, empty when the file is complete. No bytes at all: they could not be put together.
+[[nodiscard]] QString Export(const cDataAccess& book, const QString& path, const QByteArray& bytes);
+
+// That message with another reason.
+[[nodiscard]] QString Failed(const QString& path, const QString& reason);
 
 } // namespace modFileWrite

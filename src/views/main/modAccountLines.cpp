@@ -3,23 +3,49 @@
 #include "base/cText.h"
 #include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/template/cBankNumbers.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <numeric>
+
+namespace {
+
+// All at once: an account that asked for its own would look through the whole book. As there, the first row counts.
+QHash<QString, cEntryItem> StartBalances(cDataAccess& data)
+{
+    cEntryQuery query;
+    query.Category = modWord::Startguthaben;
+    QHash<QString, cEntryItem> byAccount;
+    const cEntryItemList entries = data.GetEntries(query);
+    for (const cEntryItem& entry : entries) {
+        const bool isStart = entry.EntryCategory == query.Category && entry.EntryInterval == modWord::Einmalig;
+        const auto known = byAccount.constFind(entry.EntryAccount);
+        if (isStart && (known == byAccount.constEnd() || entry.ID < known->ID)) {
+            byAccount.insert(entry.EntryAccount, entry);
+        }
+    }
+    return byAccount;
+}
+
+} // namespace
 
 modAccountLines::cLines modAccountLines::Of(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
                                             const QHash<QString, int>& open)
 {
     cLines lines;
-    QStringList unknown = balances.keys();
+    QSet<QString> known;
     const cTemplateItemList ordered = modTemplate::InOrder(accounts);
     for (const cTemplateItem& account : ordered) {
         const QString& name = account.TemplateName;
         lines.Accounts.append({account, balances.value(name), open.value(name)});
-        unknown.removeAll(name);
+        known.insert(name);
     }
+    QStringList unknown = balances.keys();
+    unknown.removeIf([&](const QString& name) { return known.contains(name); });
     std::sort(unknown.begin(), unknown.end());
     for (const QString& name : std::as_const(unknown)) {
         if (!name.isEmpty() || balances.value(name) != 0) {
@@ -40,12 +66,17 @@ modAccountLines::cLines modAccountLines::Load(cDataAccess& data, cSettings& sett
     query.End = day;
     cLines lines = Of(data.GetAccounts(), modBalance::ByAccount(data.GetSums(query, true)),
                       cAccountMap(data, settings).OpenByAccount());
-    const cBankNumbers numbers(data, settings);
+    QHash<QString, QStringList> numbers;
+    for (const auto& [number, owner] : cBankNumbers(data, settings).All()) {
+        numbers[owner].append(number);
+    }
+    const QHash<QString, cEntryItem> starts = StartBalances(data);
     const QHash<QString, int> counts = data.CountEntriesByAccount();
     for (cAccountLine& line : lines.Accounts) {
-        line.Numbers = numbers.Of(line.Item.TemplateName);
-        line.Start = data.GetStartGuthaben(line.Item.TemplateName);
-        line.Entries = counts.value(line.Item.TemplateName);
+        const QString& name = line.Item.TemplateName;
+        line.Numbers = numbers.value(name);
+        line.Start = starts.contains(name) ? std::optional(starts.value(name)) : std::nullopt;
+        line.Entries = counts.value(name);
     }
     return lines;
 }

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "views/list/modFileWrite.h"
 #include "views/report/cReportSource.h"
 #include "views/report/modReport.h"
@@ -42,7 +43,7 @@ cReportExport::eDone cReportExport::Run(const cReportWish& wish)
 {
     // Without ending: the dialog adds the one of the kind of file that is chosen there.
     const QString proposal = u"Kontorelle-%1-%2"_s.arg(modReport::ShownName(wish.Type), modDate::ToIso(wish.Today));
-    const QString path = m_user.ChooseSavePath(Title(), Filter(), proposal);
+    const QString path = m_tools.User.ChooseSavePath(Title(), Filter(), proposal);
     if (path.isEmpty()) {
         return eDone::GivenUp;
     }
@@ -55,8 +56,9 @@ cReportExport::eDone cReportExport::Run(const cReportWish& wish)
     }
     const eDone done = WriteFile(wish, *format, path);
     if (done == eDone::Written) {
-        m_user.Show(eTone::Information,
-                    cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)}), Title());
+        m_tools.User.Show(eTone::Information,
+                          cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)}),
+                          Title());
     }
     return done;
 }
@@ -64,14 +66,8 @@ cReportExport::eDone cReportExport::Run(const cReportWish& wish)
 cReportExport::eDone cReportExport::WriteFile(const cReportWish& wish, eFormat format, const QString& path)
 {
     const std::optional<QByteArray> bytes = Bytes(wish, format);
-    const QString problem = bytes ? modFileWrite::Replace(path, *bytes)
-                                  : cText::Tr("Die Excel-Datei konnte nicht zusammengestellt werden.");
-    if (!problem.isEmpty()) {
-        return Refuse(
-            cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
-                      {QDir::toNativeSeparators(path), problem}));
-    }
-    return eDone::Written;
+    const QString problem = modFileWrite::Export(m_tools.Data, path, bytes.value_or(QByteArray()));
+    return problem.isEmpty() ? eDone::Written : Refuse(problem);
 }
 
 std::optional<QByteArray> cReportExport::Bytes(const cReportWish& wish, eFormat format)
@@ -79,13 +75,13 @@ std::optional<QByteArray> cReportExport::Bytes(const cReportWish& wish, eFormat 
     switch (format) {
     case eFormat::Html: return m_source.Page(wish).toUtf8();
     case eFormat::Csv: return modReportExport::Csv(m_source.Figures(wish));
-    case eFormat::Xlsx: return modReportExport::Xlsx(m_source.Figures(wish), m_format);
+    case eFormat::Xlsx: return modReportExport::Xlsx(m_source.Figures(wish), m_tools.Format);
     }
     return std::nullopt;
 }
 
 cReportExport::eDone cReportExport::Refuse(const QString& text)
 {
-    m_user.Show(eTone::Critical, text, Title());
+    m_tools.User.Show(eTone::Critical, text, Title());
     return eDone::Failed;
 }

@@ -6,9 +6,8 @@
 
 #include <optional>
 
-class cAmountFormat;
 class cReportSource;
-class cUser;
+struct cBookTools;
 
 // Writes a report into a file: as a page, or its figures as a table.
 class cReportExport
@@ -17,12 +16,7 @@ public:
     enum class eFormat { Html, Csv, Xlsx };
     enum class eDone { Written, Failed, GivenUp };
 
-    cReportExport(cUser& user, cReportSource& source, const cAmountFormat& format)
-        : m_user(user),
-          m_source(source),
-          m_format(format)
-    {
-    }
+    cReportExport(const cBookTools& tools, cReportSource& source) : m_tools(tools), m_source(source) {}
 
     // Lets the user choose a file, whose ending decides the format.
     eDone Run(const cReportWish& wish);
@@ -35,7 +29,6 @@ private:
     [[nodiscard]] std::optional<QByteArray> Bytes(const cReportWish& wish, eFormat format);
     [[nodiscard]] eDone Refuse(const QString& text);
 
-    cUser& m_user;
+    const cBookTools& m_tools;
     cReportSource& m_source;
-    const cAmountFormat& m_format;
 };

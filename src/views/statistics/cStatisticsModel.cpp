@@ -11,6 +11,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/chart/modChart.h"
+#include "views/list/modFileWrite.h"
 #include "views/list/modSetting.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
@@ -379,21 +380,18 @@ void cStatisticsModel::SavePdf(const fnPaintPdf& paint)
     if (path.isEmpty()) {
         return;
     }
-    const QStringList shownPath{QDir::toNativeSeparators(path)};
-    if (paint(PrintHtml(), path)) {
-        m_tools.User.Show(eTone::Information, cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", shownPath), title);
-    } else {
-        m_tools.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden.", shownPath),
-                          title);
-    }
+    const QString problem = modFileWrite::Export(m_tools.Data, path, paint(PrintHtml()));
+    const eTone tone = problem.isEmpty() ? eTone::Information : eTone::Critical;
+    const QString done = cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)});
+    m_tools.User.Show(tone, problem.isEmpty() ? done : problem, title);
 }
 
 void cStatisticsModel::SaveFile()
 {
-    (void)cReportExport(m_tools.User, m_source, m_tools.Format).Run(Wish());
+    (void)cReportExport(m_tools, m_source).Run(Wish());
 }
 
 void cStatisticsModel::SaveChart(const cChartData& chart, const cChartSave::cPictures& pictures)
 {
-    (void)cChartSave(m_tools.User, pictures).Run(chart, m_tools.Clock.Today());
+    (void)cChartSave(m_tools, pictures).Run(chart, m_tools.Clock.Today());
 }

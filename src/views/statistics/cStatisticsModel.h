@@ -79,8 +79,9 @@ public:
     void ShowTarget(const cStatisticsChart& chart, const cChartTarget& target);
     void EditCategory(const cReportNode& node); // in the category management
 
-    // Asks for a file and writes the report into it. `paint` writes a report without links as PDF.
-    using fnPaintPdf = std::function<bool(const QString& html, const QString& path)>;
+    // Asks for a file and writes the report into it. `paint` makes a PDF of a report without links, no bytes on
+    // failure.
+    using fnPaintPdf = std::function<QByteArray(const QString& html)>;
     void SavePdf(const fnPaintPdf& paint);
     void SaveFile(); // as HTML page, or the figures as table
     void SaveChart(const cChartData& chart, const cChartSave::cPictures& pictures);

@@ -1,18 +1,16 @@
 #include "windows/report/modReportPdf.h"
 
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
-bool modReportPdf::Write(cPrintable& content, const QString& path)
+QByteArray modReportPdf::Bytes(cPrintable& content)
 {
     constexpr qreal margin = 15; // millimetres
     constexpr int resolution = 600;
-    QSaveFile file(path); // what stands there stays until the new file is whole
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
     QPdfWriter writer(&file);
     writer.setTitle(content.Title());
     writer.setCreator(QStringLiteral("Kontorelle"));
@@ -21,15 +19,15 @@ bool modReportPdf::Write(cPrintable& content, const QString& path)
         {QPageSize(QPageSize::A4), QPageLayout::Portrait, {margin, margin, margin, margin}, QPageLayout::Millimeter});
     QPainter painter;
     if (!painter.begin(&writer)) {
-        return false;
+        return {};
     }
     const QRectF area(QPointF(), writer.pageLayout().paintRectPixels(resolution).size());
     const int count = content.LayOut(writer, area);
     for (int page = 0; page < count; ++page) {
         if (page > 0 && !writer.newPage()) {
-            return false;
+            return {};
         }
         content.PaintPage(painter, page);
     }
-    return painter.end() && file.commit();
+    return painter.end() ? file.data() : QByteArray();
 }

@@ -2,12 +2,12 @@
 
 #include "windows/print/cPrintable.h"
 
-#include <QString>
+#include <QByteArray>
 
 // Pages as a PDF file, A4 upright.
 namespace modReportPdf {
 
-// False when the file cannot be written.
-[[nodiscard]] bool Write(cPrintable& content, const QString& path);
+// The whole file; no bytes when it cannot be painted.
+[[nodiscard]] QByteArray Bytes(cPrintable& content);
 
 } // namespace modReportPdf

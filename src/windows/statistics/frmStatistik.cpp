@@ -107,9 +107,9 @@ void frmStatistik::BuildSaveMenu()
 {
     auto* menu = new QMenu(m_save);
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {
-        m_model.SavePdf([this](const QString& html, const QString& path) {
+        m_model.SavePdf([this](const QString& html) {
             cReportPrinter pages(html, font().family(), u"Kontorelle"_s);
-            return modReportPdf::Write(pages, path);
+            return modReportPdf::Bytes(pages);
         });
     });
     menu->addAction(cText::Tr("Als &HTML-Seite oder Tabelle speichern…"), this, [this] { m_model.SaveFile(); });
