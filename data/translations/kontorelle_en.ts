@@ -2048,10 +2048,6 @@ What was already there is unchanged.</translation>
         <translation>An Excel file holds at most {0} rows.</translation>
     </message>
     <message>
-        <source>Die Excel-Datei konnte nicht zusammengestellt werden.</source>
-        <translation>The Excel file could not be put together.</translation>
-    </message>
-    <message>
         <source>Seite {0} von {1}</source>
         <translation>Page {0} of {1}</translation>
     </message>
@@ -3884,16 +3880,8 @@ Do you want to correct the series for this period to the amount of the statement
         <translation>There is no chart &apos;{0}&apos;. Possible values: {1}.</translation>
     </message>
     <message>
-        <source>Schreiben nicht möglich</source>
-        <translation>Writing is not possible</translation>
-    </message>
-    <message>
         <source>Für dieses Diagramm gibt es keine Daten.</source>
         <translation>There is no data for this chart.</translation>
-    </message>
-    <message>
-        <source>Die Datei &apos;{0}&apos; konnte nicht geschrieben werden: {1}</source>
-        <translation>The file &apos;{0}&apos; could not be written: {1}</translation>
     </message>
     <message>
         <source>zeichnet ein Diagramm: {0}; ohne Angabe für das aktuelle Jahr</source>
@@ -3982,10 +3970,6 @@ Do you want to correct the series for this period to the amount of the statement
     <message>
         <source>Sonstiges</source>
         <translation>Miscellaneous</translation>
-    </message>
-    <message>
-        <source>Die Datei &apos;{0}&apos; konnte nicht geschrieben werden.</source>
-        <translation>The file &apos;{0}&apos; could not be written.</translation>
     </message>
     <message>
         <source>rechnet einen Bericht aus: durchschnitt (je Monat), summe oder limit; ohne Angabe für das aktuelle Jahr</source>
@@ -6248,6 +6232,84 @@ Do you want to load a backup? The damaged file is kept under another name.</tran
     <message>
         <source>Kontorelle sichert die Datenbank beim ersten Start an einem Tag, vor jedem Import und beim Beenden, wenn sich etwas geändert hat. Neben den letzten Tagen bleibt die letzte Sicherung jedes Monats erhalten.</source>
         <translation>Kontorelle backs up the database at the first start of a day, before each import and when it is closed, if something has changed. Besides those of the last days, the last backup of each month is kept.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger ist voll.</source>
+        <translation>The disk is full.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe ist unvollständig: {0}</source>
+        <translation>The output is incomplete: {0}</translation>
+    </message>
+    <message>
+        <source>Das Buch enthält Trigger oder Sichten, die nicht von Kontorelle stammen: {0}.
+Sie werden nicht ausgeführt. Wenn Sie sie nicht selbst angelegt haben, prüfen Sie bitte, woher die Datei kommt.</source>
+        <translation>The book contains triggers or views that are not from Kontorelle: {0}.
+They are not executed. If you have not made them yourself, please check where the file comes from.</translation>
+    </message>
+    <message>
+        <source>In Zeile {0} beginnt ein Feld, das länger ist als jeder Verwendungszweck (mehr als 1 MB). Die Datei ist beschädigt oder kein Kontoauszug; es wurde nichts übernommen.</source>
+        <translation>In line {0} begins a field that is longer than any purpose (more than 1 MB). The file is damaged or no statement; nothing was taken over.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; gibt es schon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Excel-Datei konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger voll, auf dem das System Zwischendateien ablegt.</source>
+        <translation>The Excel file could not be put together. Maybe the disk is full on which the system keeps temporary files.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist für diesen Datenträger zu groß.</source>
+        <translation>The file is too large for this disk.</translation>
+    </message>
+    <message>
+        <source>Dafür fehlen Ihnen in diesem Ordner die Rechte.</source>
+        <translation>You do not have the rights for this in this folder.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger kann nur gelesen werden.</source>
+        <translation>The disk is read-only.</translation>
+    </message>
+    <message>
+        <source>Den Ordner &apos;{0}&apos; gibt es nicht.</source>
+        <translation>The folder &apos;{0}&apos; does not exist.</translation>
+    </message>
+    <message>
+        <source>Der Name ist zu lang.</source>
+        <translation>The name is too long.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger meldet einen Fehler beim Schreiben.</source>
+        <translation>The disk reports an error while writing.</translation>
+    </message>
+    <message>
+        <source>Ein anderes Programm schreibt gerade dieselbe Datei.</source>
+        <translation>Another program is writing the same file at the moment.</translation>
+    </message>
+    <message>
+        <source>Sie ist eine Verknüpfung mit einer Datei, die es nicht gibt.</source>
+        <translation>It is a link to a file that does not exist.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es einen Ordner.</source>
+        <translation>There is a folder of this name.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es etwas anderes als eine Datei, zum Beispiel ein Gerät.</source>
+        <translation>There is something other than a file of this name, a device for example.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist schreibgeschützt.</source>
+        <translation>The file is write-protected.</translation>
+    </message>
+    <message>
+        <source>Das Buch konnte nicht vollständig gelesen werden.</source>
+        <translation>The book could not be read completely.</translation>
+    </message>
+    <message>
+        <source>Ihr Inhalt konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger voll, auf dem das System Zwischendateien ablegt.</source>
+        <translation>Its content could not be put together. Maybe the disk is full on which the system keeps temporary files.</translation>
     </message>
 </context>
 </TS>
