@@ -6253,7 +6253,7 @@ They are not executed. If you have not made them yourself, please check where th
     </message>
     <message>
         <source>Die Datei &apos;{0}&apos; gibt es schon.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &apos;{0}&apos; exists already.</translation>
     </message>
     <message>
         <source>Die Excel-Datei konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger voll, auf dem das System Zwischendateien ablegt.</source>
