@@ -11,7 +11,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
-#include "views/template/modBookNames.h"
+#include "views/list/modBookNames.h"
 
 #include <QFileInfo>
 

@@ -8,8 +8,8 @@
 #include "cli/modCliRecord.h"
 #include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
+#include "views/list/modBookNames.h"
 #include "views/template/cTemplateManager.h"
-#include "views/template/modBookNames.h"
 #include "views/template/modTemplateText.h"
 
 using namespace Qt::Literals::StringLiterals;

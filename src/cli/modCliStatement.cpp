@@ -8,8 +8,8 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
 #include "model/modWord.h"
-#include "views/statement/cStatementListModel.h"
-#include "views/statement/modBalanceText.h"
+#include "views/ledger/cStatementListModel.h"
+#include "views/ledger/modBalanceText.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 #include "import/stage/cBankBalances.h"
 #include "model/modSettingKey.h"
 #include "support/testBook.h"
-#include "views/statement/cStatementListModel.h"
+#include "views/ledger/cStatementListModel.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -9,8 +9,8 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/list/modBookNames.h"
 #include "views/list/modUnread.h"
-#include "views/template/modBookNames.h"
 
 #include <cstdlib>
 #include <utility>

@@ -8,10 +8,10 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/list/modBookNames.h"
 #include "views/statement/cRuleTrial.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modRuleText.h"
-#include "views/template/modBookNames.h"
 
 cRuleEditor::cRuleEditor(const cBookTools& tools, QObject* parent)
     : QObject(parent),

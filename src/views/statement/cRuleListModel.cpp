@@ -9,9 +9,9 @@
 #include "import/stage/cImportHiveCache.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/list/modBookNames.h"
 #include "views/statement/cRuleTrial.h"
 #include "views/statement/modRuleText.h"
-#include "views/template/modBookNames.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,10 +2,10 @@
 
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "views/ledger/cStatementListModel.h"
 #include "views/list/cEntryListModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modViewText.h"
-#include "views/statement/cStatementListModel.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include "windows/statement/cStatementTree.h"
 
 #include "base/cText.h"
-#include "views/statement/cStatementListModel.h"
+#include "views/ledger/cStatementListModel.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"

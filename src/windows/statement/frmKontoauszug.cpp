@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "model/modWord.h"
-#include "views/statement/cStatementListModel.h"
+#include "views/ledger/cStatementListModel.h"
 #include "windows/main/cSumBar.h"
 #include "windows/statement/cStatementTree.h"
 #include "windows/widget/cDayEdit.h"

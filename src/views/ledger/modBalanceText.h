@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/statement/modBalanceCheck.h"
+#include "views/ledger/modBalanceCheck.h"
 
 #include <QString>
 #include <QStringList>

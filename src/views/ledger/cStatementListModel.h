@@ -2,8 +2,8 @@
 
 #include "model/modPeriod.h"
 #include "views/export/cEntryExtract.h"
+#include "views/ledger/cStatementLedger.h"
 #include "views/list/cListFilter.h"
-#include "views/statement/cStatementLedger.h"
 
 #include <QAbstractTableModel>
 #include <QHash>

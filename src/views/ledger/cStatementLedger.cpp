@@ -1,4 +1,4 @@
-#include "views/statement/cStatementLedger.h"
+#include "views/ledger/cStatementLedger.h"
 
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"

@@ -1,4 +1,4 @@
-#include "views/statement/modBalanceCheck.h"
+#include "views/ledger/modBalanceCheck.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "views/template/modBookNames.h"
+#include "views/list/modBookNames.h"
 
 #include "store/cDataAccess.h"
 

@@ -1,4 +1,4 @@
-#include "views/statement/cStatementListModel.h"
+#include "views/ledger/cStatementListModel.h"
 
 #include "base/cClock.h"
 #include "base/cText.h"
@@ -9,7 +9,7 @@
 #include "import/read/modAccountNumber.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "views/statement/modBalanceText.h"
+#include "views/ledger/modBalanceText.h"
 #include "views/statement/modImportText.h"
 
 #include <algorithm>

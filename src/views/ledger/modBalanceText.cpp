@@ -1,9 +1,9 @@
-#include "views/statement/modBalanceText.h"
+#include "views/ledger/modBalanceText.h"
 
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
-#include "views/statement/cStatementLedger.h"
+#include "views/ledger/cStatementLedger.h"
 
 #include <algorithm>
 #include <cstdlib>

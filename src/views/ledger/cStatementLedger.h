@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/cImportEntry.h"
-#include "views/statement/modBalanceCheck.h"
+#include "views/ledger/modBalanceCheck.h"
 
 #include <QDate>
 #include <QString>
