@@ -464,7 +464,8 @@ bool TakeCharts(cCamera& camera)
         u"leer"_s);
     cAccountListModel accounts(scene.Format);
     cLimitWatch watch(scene.Tools(), accounts);
-    accounts.SetAccounts(scene.Book.Data().GetAccounts(), {{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
+    accounts.SetAccounts(scene.Book.Data().GetAccounts(),
+                         QHash<QString, qint64>{{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
     watch.Look();
     cAccountPanel panel(accounts);
     panel.SetTitle(u"Kontostände"_s);
