@@ -51,6 +51,17 @@ def own_names(path):
     return names
 
 
+def public_types():
+    """Types that headers of the program declare for everybody."""
+    names = set()
+    for folder, _, files in os.walk('src'):
+        for name in files:
+            if name.endswith('.h'):
+                with open(os.path.join(folder, name), encoding='utf-8') as file:
+                    names.update(found.group(1) for line in file if (found := TYPE.match(line)))
+    return names
+
+
 def options_of(command):
     """The command without its input, its output and g++'s precompiled header, which means nothing to clang."""
     words = shlex.split(command['command'])
@@ -73,12 +84,17 @@ def main():
     with open(commands_path, encoding='utf-8') as file:
         commands = {command['file']: command for command in json.load(file)}
     os.makedirs(folder, exist_ok=True)
+    public = public_types()
     batches = []  # options, units, names, folders of the meta-object compiler
     for unit in sorted(os.path.abspath(unit) for unit in units):
         options = options_of(commands[unit])
         mocs = [option for option in options if option.startswith('-I') and option.endswith('_autogen/include')]
         options = [option for option in options if option not in mocs]
         names = own_names(unit)
+        # A unit with a type of its own under a public name cannot stand beside one that means the public one.
+        if names & public:
+            batches.append((options, [unit], public | names, mocs))
+            continue
         for batch in batches:
             if batch[0] == options and len(batch[1]) < MOST and not batch[2] & names:
                 batch[1].append(unit)
