@@ -126,8 +126,8 @@ int Play(const QString& path)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const int count = qMax(1, application.arguments().value(1, u"2000"_s).toInt());
-    QRandomGenerator random(application.arguments().value(2, u"1"_s).toUInt());
+    const int count = qMax(1, QCoreApplication::arguments().value(1, u"2000"_s).toInt());
+    QRandomGenerator random(QCoreApplication::arguments().value(2, u"1"_s).toUInt());
     const QByteArray original = Original();
     const QTemporaryDir folder;
     QMap<int, int> ends;

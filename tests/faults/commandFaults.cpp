@@ -122,7 +122,7 @@ private:
         }
     }
 
-    QStringList Read() const
+    [[nodiscard]] QStringList Read() const
     {
         cDatabase database;
         const QString path = m_folder->filePath(u"buch.db"_s);

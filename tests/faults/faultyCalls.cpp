@@ -84,6 +84,8 @@ struct cReport
 } // namespace
 
 #pragma GCC diagnostic ignored "-Wmissing-declarations"
+// The system's own names for the parameters begin with underscores.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 
 extern "C" {
 
@@ -158,3 +160,4 @@ int link(const char* from, const char* to) noexcept
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
