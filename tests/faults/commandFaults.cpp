@@ -69,7 +69,7 @@ public:
         return Read();
     }
 
-    long Calls() const
+    [[nodiscard]] long Calls() const
     {
         QFile file(m_folder->filePath(u"count"_s));
         return file.open(QIODevice::ReadOnly) ? file.readAll().toLong() : 0;
@@ -77,7 +77,7 @@ public:
 
     // Files that a command leaves behind, after the book was opened once more. A journal whose records never reached
     // the disk begins with a zero: it means nothing, and the next write takes it over.
-    QStringList Left() const
+    [[nodiscard]] QStringList Left() const
     {
         QStringList names = QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
         names.removeIf([this](const QString& name) {
@@ -95,7 +95,7 @@ public:
     QString Output;
 
 private:
-    QString Origin() const { return m_origin.filePath(u"buch.db"_s); }
+    [[nodiscard]] QString Origin() const { return m_origin.filePath(u"buch.db"_s); }
 
     static void Write(const QString& path, const QString& text)
     {

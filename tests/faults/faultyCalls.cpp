@@ -38,7 +38,7 @@ bool IsKind(const char* kind)
 // How the present call goes.
 eWay Next(bool isWrite)
 {
-    static const long at = std::atol(Variable("FAULT_AT"));
+    static const long at = std::strtol(Variable("FAULT_AT"), nullptr, 10);
     ++calls;
     if (at == 0 || calls < at) {
         return eWay::Well;
