@@ -11,7 +11,7 @@ class testAccountMap : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sameAccount_data()
+    void SameAccount_data()
     {
         QTest::addColumn<QString>("number");
         QTest::addColumn<QString>("bankCode");
@@ -29,7 +29,7 @@ private Q_SLOTS:
         QTest::newRow("other number") << u"1234568"_s << QString() << iban << false;
     }
 
-    void sameAccount()
+    void SameAccount()
     {
         QFETCH(QString, number);
         QFETCH(QString, bankCode);
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QTEST(modAccountNumber::IsSame(number, bankCode, other), "isSame");
     }
 
-    void asksOnce()
+    void AsksOnce()
     {
         cImportBook book;
         QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(book.Accounts.Unknown({u"123"_s, u"4"_s}), QStringList(u"4"_s));
     }
 
-    void addsNewAccount()
+    void AddsNewAccount()
     {
         cImportBook book;
         book.User.Choices = {u" Konto <123> "_s};
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QVERIFY(!book.Accounts.Assign(u"9"_s, u" <> "_s));
     }
 
-    void forgetsAccountsThatAreGone()
+    void ForgetsAccountsThatAreGone()
     {
         cImportBook book;
         QVERIFY(book.Accounts.Assign(u"123"_s, u"Sparkonto"_s));

@@ -63,7 +63,7 @@ class testBooking : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void proposesByRule()
+    void ProposesByRule()
     {
         cBank bank;
         QVERIFY(bank.IsReady);
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(proposal.Reason, u"Regel: rewe"_s);
     }
 
-    void proposesDefault()
+    void ProposesDefault()
     {
         cBank bank;
         const int id = bank.Stage(day, 5, {});
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(proposer.Propose(row, eRestriction::Restricted).Entry.EntryCategory.isEmpty());
     }
 
-    void learnsFromTheUser()
+    void LearnsFromTheUser()
     {
         cBank bank;
         bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), u"A"_s);
@@ -112,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(bank.Stage(day, 3, u"REWE"_s)).Reason, u"gelernt aus 2 Buchungen von REWE"_s);
     }
 
-    void transferTakesBothRows()
+    void TransferTakesBothRows()
     {
         cBank bank;
         const int out = bank.Stage(day, -200, u"Ich"_s, u"222"_s);
@@ -133,7 +133,7 @@ private Q_SLOTS:
     }
 
     // The other account's statement comes a week later: its row belongs to the transfer that is already in the book.
-    void transferFindsItsSecondRowLater()
+    void TransferFindsItsSecondRowLater()
     {
         cBank bank;
         const int out = bank.Stage(day, -200, u"Ich"_s, u"222"_s);
@@ -147,7 +147,7 @@ private Q_SLOTS:
     }
 
     // The rent of the next month is an occurrence of the first month's entry, not a second series beside it.
-    void seriesTakesItsPayments()
+    void SeriesTakesItsPayments()
     {
         cBank bank;
         QList<int> rows;
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(next).ExistingEntry, bank.EntryOf(rows.first()));
     }
 
-    void unknownNumberIsNotBooked()
+    void UnknownNumberIsNotBooked()
     {
         cBank bank;
         const cBookingResult result = bank.BookAll({bank.Stage(day, -1, u"X"_s, {}, u"333"_s)});
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(bank.Data.CountEntries(), 0);
     }
 
-    void failedAssignmentTakesAllBack()
+    void FailedAssignmentTakesAllBack()
     {
         cBank bank;
         const QList<int> rows{bank.Stage(day, -1, u"X"_s), bank.Stage(day, -2, u"X"_s), bank.Stage(day, -3, u"X"_s)};
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(bank.Hive.GetImportHive().GetImportEntriesByAssignedID(-1).size(), 3);
     }
 
-    void deletedEntryReleasesItsRows()
+    void DeletedEntryReleasesItsRows()
     {
         cBank bank;
         const QList<int> rows{bank.Stage(day, -1, u"X"_s), bank.Stage(day, -2, u"X"_s), bank.Stage(day, -3, u"X"_s)};

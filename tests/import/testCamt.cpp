@@ -60,7 +60,7 @@ class testCamt : public QObject
 
 private Q_SLOTS:
     // The same month as the bank hands it out in both formats: whoever reads both gets no booking twice.
-    void equalsMt940()
+    void EqualsMt940()
     {
         const cStatementRead camt = ReadBytes(Fixture(u"giro.xml"_s));
         const cStatementRead swift = modMT940::Read(QString::fromUtf8(Fixture(u"giro.sta"_s)), {});
@@ -72,7 +72,7 @@ private Q_SLOTS:
     }
 
     // In the character set that the bytes have, whatever the first line says; or already decoded by somebody else.
-    void readsAnyCharacterSet()
+    void ReadsAnyCharacterSet()
     {
         const QString text = QString::fromUtf8(Fixture(u"giro.xml"_s));
         const cImportEntryList entries = ReadBytes(Fixture(u"giro.xml"_s)).Entries;
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(modCamt::Read({u"a.xml"_s, {}, text}, {}).Entries, entries);
     }
 
-    void leavesPendingOut()
+    void LeavesPendingOut()
     {
         const cStatementRead read = ReadBytes(Fixture(u"giro.xml"_s));
         QCOMPARE(read.Skipped.size(), 1);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(read.Skipped.first().Reason.Line, 46);
     }
 
-    void prefixesDoNotCount()
+    void PrefixesDoNotCount()
     {
         QByteArray prefixed = Fixture(u"giro.xml"_s);
         prefixed.replace("</", "</n:").replace("<", "<n:").replace("<n:/n:", "</n:").replace("<n:?", "<?");
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(ReadBytes(prefixed).Entries, ReadBytes(Fixture(u"giro.xml"_s)).Entries);
     }
 
-    void takesCounterpartyBySide_data()
+    void TakesCounterpartyBySide_data()
     {
         QTest::addColumn<QByteArray>("amount");
         QTest::addColumn<QByteArray>("mark");
@@ -120,7 +120,7 @@ private Q_SLOTS:
                                        << u"ZAHLDEFF"_s << qint64{885};
     }
 
-    void takesCounterpartyBySide()
+    void TakesCounterpartyBySide()
     {
         QFETCH(QByteArray, amount);
         QFETCH(QByteArray, mark);
@@ -133,14 +133,14 @@ private Q_SLOTS:
         QCOMPARE(read.ImportAccount, u"7"_s);
     }
 
-    void neverTakesOwnAccountAsCounterparty()
+    void NeverTakesOwnAccountAsCounterparty()
     {
         const QByteArray entry = Entry("5.00", "CRDT", "<NtryDtls>" + Detail(bothSides) + "</NtryDtls>");
         const cStatementRead read = ReadBytes(With(entry).replace("<Id>7</Id>", "<Id>DE1</Id>"));
         QCOMPARE(read.Entries.value(0).ImportBeneficiaryAccount, u"DE2"_s);
     }
 
-    void splitsBatch_data()
+    void SplitsBatch_data()
     {
         QTest::addColumn<QByteArray>("details");
         QTest::addColumn<QList<qint64>>("values");
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QTest::newRow("single detail says otherwise") << Detail(three) << QList<qint64>{-500} << 0;
     }
 
-    void splitsBatch()
+    void SplitsBatch()
     {
         QFETCH(QByteArray, details);
         QFETCH(int, problems);
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(read.Problems.size(), problems);
     }
 
-    void wholeBatchKeepsTexts()
+    void WholeBatchKeepsTexts()
     {
         const QByteArray details =
             Detail("<RmtInf><Ustrd>Lohn Tann</Ustrd></RmtInf>") + Detail("<AddtlTxInf>Lohn Linde</AddtlTxInf>");
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(read.Entries.value(0).ImportPurpose, u"Lohn Tann Lohn Linde"_s);
     }
 
-    void writesPurposeAsMt940_data()
+    void WritesPurposeAsMt940_data()
     {
         QTest::addColumn<QStringList>("lines");
         QTest::addColumn<QString>("endToEnd");
@@ -196,7 +196,7 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QStringList() << QString() << QString();
     }
 
-    void writesPurposeAsMt940()
+    void WritesPurposeAsMt940()
     {
         QFETCH(QStringList, lines);
         QFETCH(QString, endToEnd);
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QTEST(modCamtText::Purpose(purpose), "purpose");
     }
 
-    void readsArchive()
+    void ReadsArchive()
     {
         const QByteArray zip = Fixture(u"auszuege.zip"_s);
         QCOMPARE(modStatementFormat::Detect(modStatementFormat::Source(u"a.zip"_s, zip)), eStatementFormat::Archive);
@@ -216,7 +216,7 @@ private Q_SLOTS:
         QCOMPARE(read.ClosingBalance, std::optional<qint64>(-2000)); // of the later file, which stands first
     }
 
-    void limitsUnpackedSize()
+    void LimitsUnpackedSize()
     {
         const QByteArray zip = Fixture(u"auszuege.zip"_s);
         const QString name = modZip::Names(zip).value(1);
@@ -230,7 +230,7 @@ private Q_SLOTS:
         QVERIFY(!modZip::Read(lying, name));
     }
 
-    void refusesDamagedArchives()
+    void RefusesDamagedArchives()
     {
         const QByteArray zip = Fixture(u"auszuege.zip"_s);
         for (qsizetype size = 0; size < zip.size() - 8; ++size) { // the last bytes carry nothing that is needed
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QVERIFY(refused > 400);
     }
 
-    void refusesWhatIsNoStatement_data()
+    void RefusesWhatIsNoStatement_data()
     {
         QTest::addColumn<QByteArray>("xml");
         QTest::newRow("another message") << QByteArray("<Document><CstmrCdtTrfInitn/></Document>");
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QTest::newRow("entry without end") << With("<Ntry><Amt>1</Amt>");
     }
 
-    void refusesWhatIsNoStatement()
+    void RefusesWhatIsNoStatement()
     {
         QFETCH(QByteArray, xml);
         const cStatementRead read = ReadBytes(xml);
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QVERIFY(read.Entries.isEmpty() && !read.ClosingBalance);
     }
 
-    void everyPrefixIsRefused()
+    void EveryPrefixIsRefused()
     {
         const QByteArray xml = Fixture(u"giro.xml"_s).trimmed();
         for (qsizetype size = 1; size < xml.size(); ++size) {
@@ -274,7 +274,7 @@ private Q_SLOTS:
     }
 
     // Entities that point to files or grow without end stay the letters that they are.
-    void resolvesNoEntities()
+    void ResolvesNoEntities()
     {
         const QByteArray entry =
             Entry("5.00", "DBIT", "<NtryDtls>" + Detail("<RmtInf><Ustrd>a&x;b</Ustrd></RmtInf>") + "</NtryDtls>");
@@ -284,7 +284,7 @@ private Q_SLOTS:
     }
 
     // A file may hold elements that look like the reader's own marks.
-    void foreignMarksAreRefused()
+    void ForeignMarksAreRefused()
     {
         QVERIFY(!ReadBytes(With("<x piece=\"7\"/>")).Refusal.isEmpty());
         const modXmlPieces::cPieces pieces = modXmlPieces::Cut("<a><b c='>'>1<b/><b>2</b></b><!--<b>--></a>", "b");

@@ -41,7 +41,7 @@ class testImportHive : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void emptyTableGivesNothing()
+    void EmptyTableGivesNothing()
     {
         cImportHive hive;
         hive.setImportEntryList({});
@@ -56,14 +56,14 @@ private Q_SLOTS:
         QVERIFY(hive.GetImportEntryByArea(7, QDate(2026, 1, 1), QDate(2026, 12, 31)).isEmpty());
     }
 
-    void looksUp_data()
+    void LooksUp_data()
     {
         QTest::addColumn<bool>("isDescending");
         QTest::newRow("ascending") << false;
         QTest::newRow("descending") << true;
     }
 
-    void looksUp()
+    void LooksUp()
     {
         QFETCH(bool, isDescending);
         cImportEntryList rows = Rows();
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(hive.GetImportEntrySumByNumber(u"A"_s), 450);
     }
 
-    void areaIncludesBothEnds()
+    void AreaIncludesBothEnds()
     {
         cImportHive hive;
         hive.setImportEntryList(Rows()); // rows 1 and 5 of entry 7 on the 2nd and 3rd
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(Ids(hive.GetImportEntryByArea(7, QDate(2026, 1, 3), QDate(2026, 1, 9))), (QList<int>{5}));
     }
 
-    void duplicateTestComparesAsIsEqual_data()
+    void DuplicateTestComparesAsIsEqual_data()
     {
         cImportEntry other = Row(0, u"A"_s, 200);
         other.ImportDate = QDate(2026, 1, 3);
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QTest::newRow("amount") << changed([](auto& e) { e.ImportValue = 201; }) << false;
     }
 
-    void duplicateTestComparesAsIsEqual()
+    void DuplicateTestComparesAsIsEqual()
     {
         QFETCH(cImportEntry, entry);
         cImportHive hive;
@@ -123,7 +123,7 @@ private Q_SLOTS:
 
     // Random writes: afterwards every lookup answers as a hive that was loaded afresh, and the duplicate test as a
     // scan.
-    void staysInStep()
+    void StaysInStep()
     {
         QRandomGenerator random(20260315);
         cImportEntryList rows = Rows();

@@ -14,7 +14,7 @@ class testKeywordRules : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void wildcards_data()
+    void Wildcards_data()
     {
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("text");
@@ -36,7 +36,7 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QString() << QString() << true;
     }
 
-    void wildcards()
+    void Wildcards()
     {
         QFETCH(QString, pattern);
         QFETCH(QString, text);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QTEST(match.Keyword, "keyword");
     }
 
-    void matchTextJoinsTheFields()
+    void MatchTextJoinsTheFields()
     {
         cImportEntry row;
         row.ImportBeneficiary = u"REWE"_s;
@@ -108,7 +108,7 @@ private Q_SLOTS:
     }
 
     // A slip of the pen in an interval would make entries that no period ever shows.
-    void tableUsesStoredWords()
+    void TableUsesStoredWords()
     {
         QCOMPARE(modKeywordTable::Rules().size(), size_t{44});
         for (const modKeywordTable::cRule& rule : modKeywordTable::Rules()) {

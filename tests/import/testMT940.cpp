@@ -36,7 +36,7 @@ class testMT940 : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsTransactionLine_data()
+    void ReadsTransactionLine_data()
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("mark");
@@ -62,7 +62,7 @@ private Q_SLOTS:
                                        << qint64{-750};
     }
 
-    void readsTransactionLine()
+    void ReadsTransactionLine()
     {
         QFETCH(QString, line);
         QFETCH(qint64, value);
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(Single(With(line, u"x"_s)).ImportValue, value);
     }
 
-    void readsDetails()
+    void ReadsDetails()
     {
         const cImportEntry entry = Single(With(u"2601020103DR5,00N005NONREF"_s,
                                                u"106?00123KARTE?109250?20EREF+1?21REFERENZ NOTPROVIDED?22SVWZ+Br\r\not?"
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(entry.ImportCurrency, u"EUR"_s);
     }
 
-    void takesPlainDetailsAsBookingText()
+    void TakesPlainDetailsAsBookingText()
     {
         QString text = u":20:A\n:25:7\n:61:260101D1,00N\n:86:GIRO eins\n:61:260101D1,00N\n:86:BEA zwei\n"
                        ":61:260101D1,00N\n:86:KASSE drei\n-\n"_s;
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(!read.ClosingBalance);
     }
 
-    void rewritesSepaPurpose_data()
+    void RewritesSepaPurpose_data()
     {
         QTest::addColumn<QString>("purpose");
         QTest::addColumn<QString>("rewritten");
@@ -114,13 +114,13 @@ private Q_SLOTS:
         QTest::newRow("none") << u" Brot "_s << u"Brot"_s;
     }
 
-    void rewritesSepaPurpose()
+    void RewritesSepaPurpose()
     {
         QFETCH(QString, purpose);
         QTEST(modSepaPurpose::Rewrite(purpose), "rewritten");
     }
 
-    void readsWholeFile()
+    void ReadsWholeFile()
     {
         const cStatementRead read = modMT940::Read(Fixture(), {});
         QCOMPARE(read.Entries.size(), 6);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(modMT940::Read(Fixture().remove(u'\r'), {}).Entries, read.Entries); // line feeds alone do as well
     }
 
-    void takesDefaults()
+    void TakesDefaults()
     {
         const cStatementRead read =
             modMT940::Read(u":61:991301D1,00N\n:61:D\n:62F:D26\n-\n-\n:61:260101D1,00N\n"_s, u"4711"_s);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(modMT940::Read(u":25:1\n:61:260101D1,00N\n-\n:61:260101D1,00N\n"_s, {}).NeedsAccount);
     }
 
-    void balances_data()
+    void Balances_data()
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<qint64>("cents");
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QTest::newRow("zero") << u"C260131EUR0,00"_s << qint64{0};
     }
 
-    void balances()
+    void Balances()
     {
         QFETCH(QString, line);
         QFETCH(qint64, cents);
@@ -167,7 +167,7 @@ private Q_SLOTS:
 
     // Details without a transaction end the reading, and since staging comes after reading, nothing of the text is
     // kept.
-    void failsOnDetailsBeforeTransaction()
+    void FailsOnDetailsBeforeTransaction()
     {
         const QString good = With(u"260101D1,00N"_s, u"x"_s);
         const cStatementRead read = modMT940::Read(good + u":20:B\r\n:86:zu früh\r\n"_s, {});
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QCOMPARE(read.Problems.first().Line, 9);
     }
 
-    void everyPrefixIsRead()
+    void EveryPrefixIsRead()
     {
         const QString text = Fixture();
         const cImportEntryList whole = modMT940::Read(text, {}).Entries;

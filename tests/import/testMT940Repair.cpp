@@ -10,7 +10,7 @@ class testMT940Repair : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void repairs_data()
+    void Repairs_data()
     {
         const QString wide(61, u'x');
         QTest::addColumn<QString>("text");
@@ -29,14 +29,14 @@ private Q_SLOTS:
             << QString(u":86:" + wide + u"\n:KO:NR\n:62F:C\n") << QString(u":86:" + wide + u":KO:NR\n:62F:C\n");
     }
 
-    void repairs()
+    void Repairs()
     {
         QFETCH(QString, text);
         QTEST(modMT940Repair::Repair(text).Text, "repaired");
     }
 
     // Texts that look like a fault and are none.
-    void leavesAlone_data()
+    void LeavesAlone_data()
     {
         const QString wide(61, u'x');
         QFile file(QStringLiteral(TEST_DATA "/mt940/giro.sta"));
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QString();
     }
 
-    void leavesAlone()
+    void LeavesAlone()
     {
         QFETCH(QString, text);
         const modMT940Repair::cRepaired repaired = modMT940Repair::Repair(text);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(repaired.Lines.isEmpty());
     }
 
-    void keepsLineNumbers()
+    void KeepsLineNumbers()
     {
         const auto repaired =
             modMT940Repair::Repair(u"{1:\n:20:A\n:86:"_s + QString(61, u'x') + u"\n:KO:\n:20:B\n:25:");

@@ -39,7 +39,7 @@ class testOfx : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void addsEndTags_data()
+    void AddsEndTags_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QByteArray>("xml");
@@ -51,13 +51,13 @@ private Q_SLOTS:
         QTest::newRow("no document") << QByteArray("<A>1\n") << QByteArray();
     }
 
-    void addsEndTags()
+    void AddsEndTags()
     {
         QFETCH(QByteArray, text);
         QTEST(modOfxText::ToXml(text), "xml");
     }
 
-    void repairsText_data()
+    void RepairsText_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QByteArray>("repaired");
@@ -80,13 +80,13 @@ private Q_SLOTS:
         QTest::newRow("small letters") << QByteArray("<ofx><a>1</a></ofx>") << QByteArray("<OFX>\n<A>1</A>\n</OFX>\n");
     }
 
-    void repairsText()
+    void RepairsText()
     {
         QFETCH(QByteArray, text);
         QTEST(modOfxRepair::Repair(text), "repaired");
     }
 
-    void readsAmounts_data()
+    void ReadsAmounts_data()
     {
         QTest::addColumn<QString>("amount");
         QTest::addColumn<QString>("german");
@@ -98,13 +98,13 @@ private Q_SLOTS:
         QTest::newRow("whole") << u"+5"_s << u"+5"_s;
     }
 
-    void readsAmounts()
+    void ReadsAmounts()
     {
         QFETCH(QString, amount);
         QTEST(modOfxText::ToGermanAmount(amount), "german");
     }
 
-    void readsBankAndCard()
+    void ReadsBankAndCard()
     {
         const cStatementRead read = ReadBytes(Fixture());
         QCOMPARE(read.Refusal, QString());
@@ -127,13 +127,13 @@ private Q_SLOTS:
     }
 
     // Somebody else may have decoded the text already.
-    void readsTextWithoutBytes()
+    void ReadsTextWithoutBytes()
     {
         const cStatementRead read = modOfx::Read({u"a.ofx"_s, {}, QString::fromUtf8(Fixture())}, {});
         QCOMPARE(read.Entries, ReadBytes(Fixture()).Entries);
     }
 
-    void nameStandsInForMissingPurpose()
+    void NameStandsInForMissingPurpose()
     {
         QVERIFY(ReadBytes(Fixture()).Entries.at(1).ImportPurpose.isEmpty());
         const cStatementRead read = ReadBytes(Fixture(), eMissingPurpose::Name);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(read.Entries.at(1).ImportPurpose, u"Lohnbüro Tann"_s);
     }
 
-    void honoursCharacterSetOfHeader_data()
+    void HonoursCharacterSetOfHeader_data()
     {
         QTest::addColumn<QByteArray>("charset");
         QTest::addColumn<QByteArray>("umlaut");
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QTest::newRow("UTF-8 all the same") << QByteArray("1252") << QByteArray("\xC3\xBC");
     }
 
-    void honoursCharacterSetOfHeader()
+    void HonoursCharacterSetOfHeader()
     {
         QFETCH(QByteArray, charset);
         QFETCH(QByteArray, umlaut);
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(ReadBytes(bytes).Entries.value(0).ImportPurpose, u"Lohnbüro"_s);
     }
 
-    void reportsWhatIsUnreadable()
+    void ReportsWhatIsUnreadable()
     {
         const cStatementRead read = ReadBytes(With("<STMTTRN><DTPOSTED>2026<TRNAMT>viel</STMTTRN>"));
         QCOMPARE(read.Entries.size(), 1);
@@ -168,14 +168,14 @@ private Q_SLOTS:
         QCOMPARE(read.Problems.size(), 2);
     }
 
-    void asksForMissingAccount()
+    void AsksForMissingAccount()
     {
         const QByteArray bytes = With("<STMTTRN><DTPOSTED>20260102<TRNAMT>1</STMTTRN>").replace("<ACCTID>7\n", "");
         QVERIFY(ReadBytes(bytes).NeedsAccount);
     }
 
     // A file that was cut off is refused as a whole, wherever it ends.
-    void everyPrefixIsRefused()
+    void EveryPrefixIsRefused()
     {
         const QByteArray bytes = Fixture();
         for (qsizetype size = bytes.indexOf("<OFX>"); size < bytes.size() - 8; ++size) {
@@ -185,7 +185,7 @@ private Q_SLOTS:
     }
 
     // The bare conversion does not read what only the repair makes readable.
-    void bareConversionRefusesSeveralTagsOnLine()
+    void BareConversionRefusesSeveralTagsOnLine()
     {
         const QByteArray bytes = With("<STMTTRN><DTPOSTED>20260102<TRNAMT>1</STMTTRN>\n");
         QVERIFY(!modOfx::ReadXml(modOfxText::ToXml(bytes), {}).Refusal.isEmpty());

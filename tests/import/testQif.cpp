@@ -34,7 +34,7 @@ class testQif : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void recognises_data()
+    void Recognises_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("isQif");
@@ -46,13 +46,13 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QString() << false;
     }
 
-    void recognises()
+    void Recognises()
     {
         QFETCH(QString, text);
         QTEST(modQif::IsQif(text), "isQif");
     }
 
-    void findsOrderOfDays_data()
+    void FindsOrderOfDays_data()
     {
         QTest::addColumn<QString>("dates");
         QTest::addColumn<QString>("days");
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QTest::newRow("no date") << u"gestern|31/2/26"_s << u"1001-01-01 1001-01-01"_s << 2;
     }
 
-    void findsOrderOfDays()
+    void FindsOrderOfDays()
     {
         QFETCH(QString, dates);
         QFETCH(int, problems);
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(read.Problems.size(), problems);
     }
 
-    void takesChosenOrder()
+    void TakesChosenOrder()
     {
         cReadOptions options;
         options.Table.Date = eDateOrder::DayMonthYear;
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(read.Problems.isEmpty());
     }
 
-    void readsAmounts_data()
+    void ReadsAmounts_data()
     {
         QTest::addColumn<QString>("amount");
         QTest::addColumn<qint64>("value");
@@ -101,13 +101,13 @@ private Q_SLOTS:
         QTest::newRow("millions") << u"1,234,567.00"_s << qint64{123456700};
     }
 
-    void readsAmounts()
+    void ReadsAmounts()
     {
         QFETCH(QString, amount);
         QTEST(ReadText(u"!Type:Bank\nD31.1.26\nT"_s + amount).Entries.value(0).ImportValue, "value");
     }
 
-    void readsFile()
+    void ReadsFile()
     {
         const cStatementRead read = ReadText(Fixture());
         QCOMPARE(Days(read), u"2026-01-03 2026-01-15 2026-01-17 2026-01-20"_s);
@@ -125,7 +125,7 @@ private Q_SLOTS:
     }
 
     // The number that the user gives names the only account; several accounts must stay apart.
-    void givenAccountComesFirst()
+    void GivenAccountComesFirst()
     {
         cReadOptions options;
         options.Account = u"4711"_s;
@@ -138,13 +138,13 @@ private Q_SLOTS:
         QVERIFY(ReadText(u"!Type:Bank\nD31.1.26\nT1\n"_s).NeedsAccount);
     }
 
-    void splitsWithoutTotalAreSummed()
+    void SplitsWithoutTotalAreSummed()
     {
         const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\nSa\n$-1.50\nSb\n$-2.25\n^\n"_s);
         QCOMPARE(read.Entries.value(0).ImportValue, -375);
     }
 
-    void everyPrefixIsRead()
+    void EveryPrefixIsRead()
     {
         const QString text = Fixture();
         for (qsizetype size = 0; size <= text.size(); ++size) {

@@ -147,7 +147,7 @@ class testSpreadsheet : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsByContent_data()
+    void ReadsByContent_data()
     {
         const QStringList two = {u"2026-01-31|-12.50|Bücher"_s, u"2026-02-01|2345.67|Gehalt"_s};
         const QStringList big = {u"2026-01-31|-1234.57|Rechnung 4711"_s, u"2026-01-30|100.00|Rechnung 4711"_s};
@@ -172,7 +172,7 @@ private Q_SLOTS:
                               << two;
     }
 
-    void readsByContent()
+    void ReadsByContent()
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
@@ -181,7 +181,7 @@ private Q_SLOTS:
         QTEST(Facts(read), "facts");
     }
 
-    void keepsAllKindsOfCells()
+    void KeepsAllKindsOfCells()
     {
         const cStatementSource source = modStatementFormat::Source(u"a.xlsx"_s, Xlsx({{"Daten", 2}}));
         const modTable::cOpened opened = modSpreadsheet::Open(source, {});
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(opened.Table->Cell(3, 4), u"100,00");
     }
 
-    void takesChosenSheet()
+    void TakesChosenSheet()
     {
         const QByteArray bytes = Xlsx({{"Neu", 2}, {"Alt", 1}});
         cReadOptions options;
@@ -202,7 +202,7 @@ private Q_SLOTS:
     }
 
     // A rule made for the texts of the same columns must not turn 2345,67 into 234567 or days into months.
-    void numbersAndDaysGoBeforeRulesForTexts()
+    void NumbersAndDaysGoBeforeRulesForTexts()
     {
         cReadOptions options;
         options.Table.Number = eNumberFormat::English;
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(Facts(Read(u"a.xls"_s, Xls().Bytes(), options)).last(), u"2026-02-01|2345.67|Gehalt"_s);
     }
 
-    void refusesBadFiles_data()
+    void RefusesBadFiles_data()
     {
         QByteArray encrypted = Xls().Bytes();
         encrypted.replace(QByteArray("W\0o\0r\0k\0b\0o\0o\0k\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 32),
@@ -232,7 +232,7 @@ private Q_SLOTS:
         QTest::newRow("HTML without rows") << "<html><table></table></html>"_ba << u"keine Spalten"_s;
     }
 
-    void refusesBadFiles()
+    void RefusesBadFiles()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, message);
@@ -241,7 +241,7 @@ private Q_SLOTS:
         QVERIFY(read.Entries.isEmpty());
     }
 
-    void tellsDaysByFormat_data()
+    void TellsDaysByFormat_data()
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("text"); // of 46053.5
@@ -255,13 +255,13 @@ private Q_SLOTS:
         QTest::newRow("colour") << u"[Red]0"_s << u"46053,50"_s;
     }
 
-    void tellsDaysByFormat()
+    void TellsDaysByFormat()
     {
         QFETCH(QString, code);
         QTEST(modSheetValue::Value(46053.5, modSheetValue::FormatOf(code), eSheetEpoch::Year1900).Text, "text");
     }
 
-    void writesNumbersInFull_data()
+    void WritesNumbersInFull_data()
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<QString>("text");
@@ -273,7 +273,7 @@ private Q_SLOTS:
         QTest::newRow("longer than exact") << 1e20 << u"100000000000000000000"_s;
     }
 
-    void writesNumbersInFull()
+    void WritesNumbersInFull()
     {
         QFETCH(double, value);
         QTEST(modSheetValue::Number(value, eSheetFormat::Number).Text, "text");

@@ -45,7 +45,7 @@ class testStatementArchive : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void reads_data()
+    void Reads_data()
     {
         QTest::addColumn<cFiles>("files");
         QTest::addColumn<int>("rows");
@@ -69,7 +69,7 @@ private Q_SLOTS:
             << cFiles{swift, {u"a.ofx"_s, "<OFX><BANKTRANLIST><STMTTRN></OFX>"}} << 0 << u"Die Datei 'a.ofx'"_s;
     }
 
-    void reads()
+    void Reads()
     {
         QFETCH(cFiles, files);
         QFETCH(int, rows);
@@ -85,7 +85,7 @@ private Q_SLOTS:
     }
 
     // An account given once must not take in the statements of several.
-    void accountsAreNotMixed()
+    void AccountsAreNotMixed()
     {
         const QByteArray one = Zip({{u"a.csv"_s, table}});
         QVERIFY(modStatementArchive::Read({u"a.zip"_s, one, {}}, {}).NeedsAccount);

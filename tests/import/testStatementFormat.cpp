@@ -9,7 +9,7 @@ class testStatementFormat : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void detects_data()
+    void Detects_data()
     {
         const QString mt940 = u":20:A\r\n:25:1\r\n:60F:C\r\n:62F:C\r\n"_s;
         QTest::addColumn<QString>("file");
@@ -32,14 +32,14 @@ private Q_SLOTS:
         QTest::newRow("all else") << u"a.dat"_s << QString() << eStatementFormat::Csv;
     }
 
-    void detects()
+    void Detects()
     {
         QFETCH(QString, file);
         QFETCH(QString, text);
         QTEST(DetectStatementFormat(file, text), "format");
     }
 
-    void refusesByName()
+    void RefusesByName()
     {
         QVERIFY(modStatementFormat::Reader(eStatementFormat::Mt940) != nullptr);
         QVERIFY(modStatementFormat::Reader(eStatementFormat::Csv) != nullptr);

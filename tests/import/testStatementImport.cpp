@@ -42,7 +42,7 @@ class testStatementImport : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void stagesOnce()
+    void StagesOnce()
     {
         cImportBook book;
         cStatementImport import(book.Data, book.Hive);
@@ -59,7 +59,7 @@ private Q_SLOTS:
         QCOMPARE(book.Data.GetImportEntries(), book.Hive.GetImportHive().getImportEntryList());
     }
 
-    void refusesWhatIsNoStatement_data()
+    void RefusesWhatIsNoStatement_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QTest::newRow("PDF") << u"a.pdf"_s << QByteArray("%PDF") << u"kann nicht eingelesen werden: Portable"_s;
     }
 
-    void refusesWhatIsNoStatement()
+    void RefusesWhatIsNoStatement()
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(book.User.Shown.isEmpty());
     }
 
-    void missingFileIsRefused()
+    void MissingFileIsRefused()
     {
         cImportBook book;
         cNoProgress progress;
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QVERIFY(result.IsRefused && result.Message.startsWith(u"Die Datei kann nicht geöffnet werden"));
     }
 
-    void fileCutInATagKeepsWhatIsBefore()
+    void FileCutInATagKeepsWhatIsBefore()
     {
         cImportBook book;
         cNoProgress progress;
@@ -115,7 +115,7 @@ private Q_SLOTS:
     }
 
     // Of several files in one step, the one that was stopped goes and the others stay.
-    void cancelTakesTheFileBack()
+    void CancelTakesTheFileBack()
     {
         cImportBook book;
         cCancel progress(2);
@@ -135,7 +135,7 @@ private Q_SLOTS:
     }
 
     // What the bank says is kept of files that were taken as a whole: both ends of a statement, each day of a table.
-    void keepsBalancesOfTheBank()
+    void KeepsBalancesOfTheBank()
     {
         cImportBook book;
         cBankBalances balances(*book.Settings);
@@ -156,7 +156,7 @@ private Q_SLOTS:
                  cBankBalanceList({{QDate(2026, 5, 1), 10000}, {QDate(2026, 5, 2), 7500}, {QDate(2026, 5, 4), 6000}}));
     }
 
-    void readOnlyDatabaseIsToldOnce()
+    void ReadOnlyDatabaseIsToldOnce()
     {
         cImportBook book;
         book.Database.Open(book.Path(), eOpenMode::ReadOnly);
@@ -167,7 +167,7 @@ private Q_SLOTS:
     }
 
     // One refusal concerns one record, two in a row concern the database.
-    void givesUpOnARefusingDatabase()
+    void GivesUpOnARefusingDatabase()
     {
         cImportBook book;
         book.WriteBehind("CREATE TRIGGER full BEFORE INSERT ON import WHEN (SELECT COUNT(*) FROM import) >= 3 "
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(result.Problems.last().Text, result.Message);
     }
 
-    void onlineTextReturnsClosingBalance()
+    void OnlineTextReturnsClosingBalance()
     {
         cImportBook book;
         cNoProgress progress;
@@ -192,7 +192,7 @@ private Q_SLOTS:
         QCOMPARE(import.ImportMT940(progress, {}, {}, {}), 0);
     }
 
-    void knowsAccountInItsOtherForm_data()
+    void KnowsAccountInItsOtherForm_data()
     {
         QTest::addColumn<QByteArray>("line"); // of the account in the file that is read first
         QTest::addColumn<QString>("account");
@@ -204,7 +204,7 @@ private Q_SLOTS:
     }
 
     // The same month as MT940 and as camt, which names the account by its IBAN.
-    void knowsAccountInItsOtherForm()
+    void KnowsAccountInItsOtherForm()
     {
         QFETCH(const QByteArray, line);
         QFETCH(const QString, account);
@@ -222,7 +222,7 @@ private Q_SLOTS:
         QCOMPARE(second.Skipped.first().Entry.ImportAccount, second.Accounts.first());
     }
 
-    void triesWithoutWriting()
+    void TriesWithoutWriting()
     {
         cImportBook book;
         cNoProgress progress;
@@ -241,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(tried.Rows, staged);
     }
 
-    void stagesWholeCents_data()
+    void StagesWholeCents_data()
     {
         QTest::addColumn<QString>("amount");
         QTest::addColumn<eStaged>("outcome");
@@ -252,7 +252,7 @@ private Q_SLOTS:
         QTest::newRow("less than half a cent") << u"0,001"_s << eStaged::Zero << qint64{0};
     }
 
-    void stagesWholeCents()
+    void StagesWholeCents()
     {
         QFETCH(QString, amount);
         QFETCH(eStaged, outcome);
@@ -275,7 +275,7 @@ private Q_SLOTS:
         }
     }
 
-    void seesWritesOfOthers()
+    void SeesWritesOfOthers()
     {
         cImportBook book;
         cNoProgress progress;

@@ -10,7 +10,7 @@ class testStatementText : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void decodesEveryEncoding_data()
+    void DecodesEveryEncoding_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("text");
@@ -26,14 +26,14 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QByteArray() << QString();
     }
 
-    void decodesEveryEncoding()
+    void DecodesEveryEncoding()
     {
         QFETCH(QByteArray, bytes);
         QTEST(modStatementText::Decode(bytes), "text");
     }
 
     // A bank that wraps its lines by bytes tears letters apart; the file is no UTF-8 then, but its joined fields are.
-    void repairsFields_data()
+    void RepairsFields_data()
     {
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("text");
@@ -42,14 +42,14 @@ private Q_SLOTS:
         QTest::newRow("other scripts stay") << u"Ã¼ 東京"_s << u"Ã¼ 東京"_s;
     }
 
-    void repairsFields()
+    void RepairsFields()
     {
         QFETCH(QString, field);
         QTEST(modStatementText::DecodeField(field), "text");
     }
 
     // Readers hold a field several times over, so nobody else looks at one of 50 MB.
-    void endlessFieldsAreRefused_data()
+    void EndlessFieldsAreRefused_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<int>("line"); // 0: read
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QTest::newRow("archive") << QByteArray("PK\3\4" + endless) << 0;
     }
 
-    void endlessFieldsAreRefused()
+    void EndlessFieldsAreRefused()
     {
         QFETCH(const QByteArray, bytes);
         QFETCH(const int, line);
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QVERIFY2(line == 0 || refusal.startsWith(u"In Zeile %1 "_s.arg(line)), qPrintable(refusal));
     }
 
-    void everyByteGivesText()
+    void EveryByteGivesText()
     {
         QByteArray all;
         for (int i = 0; i < 256; ++i) {

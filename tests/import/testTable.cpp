@@ -77,7 +77,7 @@ class testTable : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void knownLayouts_data()
+    void KnownLayouts_data()
     {
         QTest::addColumn<QString>("file");
         const QStringList files = QDir(folder).entryList({u"*.csv"_s});
@@ -88,7 +88,7 @@ private Q_SLOTS:
     }
 
     // Every file has its twin that says what it means.
-    void knownLayouts()
+    void KnownLayouts()
     {
         QFETCH(QString, file);
         cReadOptions options;
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(Shown(modTable::Read(source, options)), expected);
     }
 
-    void everyProfileHasItsFile()
+    void EveryProfileHasItsFile()
     {
         QStringList missing = modTableProfile::Names();
         const QStringList files = QDir(folder).entryList({u"*.txt"_s});
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(missing, QStringList());
     }
 
-    void detects_data()
+    void Detects_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("read");
@@ -149,7 +149,7 @@ private Q_SLOTS:
             {u"2025-02-28 4.00 1"_s, u"1001-01-01 5.00 1"_s});
     }
 
-    void detects()
+    void Detects()
     {
         QFETCH(QString, text);
         cReadOptions options;
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QTEST(Brief(ReadText(text, options)), "read");
     }
 
-    void leavesOutWhatIsNoBooking()
+    void LeavesOutWhatIsNoBooking()
     {
         const cStatementRead read = ReadText(u"Konto;98765;;\nBuchungstag;Wertstellung;Text;Betrag;Status\n"
                                              "01.02.2025;01.02.2025;a;-1,00;gebucht\n"
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(read.ClosingBalance, std::optional<qint64>(10000));
     }
 
-    void choiceOfTheUserGoesFirst()
+    void ChoiceOfTheUserGoesFirst()
     {
         const QString text = u"Datum;Betrag;Preis;Text\n02/03/2025;1,00;2,500;a"_s;
         cReadOptions options;
@@ -203,7 +203,7 @@ private Q_SLOTS:
         QCOMPARE(Brief(ReadText(u"03.02.2025|1,00|x"_s, options)), QStringList(u"2025-02-03 1.00 "_s));
     }
 
-    void accountIsAskedFor()
+    void AccountIsAskedFor()
     {
         const QString text = u"Datum;Betrag;Text\n03.02.2025;5,00;a"_s;
         cImportBook book;
@@ -225,7 +225,7 @@ private Q_SLOTS:
         QCOMPARE(memory.Accounts(asked.AccountKey), QStringList({u"4711"_s, u"4712"_s}));
     }
 
-    void confirmedColumnsAreRemembered()
+    void ConfirmedColumnsAreRemembered()
     {
         const QString text = u"Datum;Betrag;Preis;Text\n03.02.2025;1,00;2,00;a"_s;
         cImportBook book;
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(Brief(ReadText(text, options)), QStringList(u"2025-02-03 1.00 1"_s));
     }
 
-    void tablesOfOtherReaders()
+    void TablesOfOtherReaders()
     {
         cTable table;
         table.AddRow(1);
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QCOMPARE(read.Entries.first().ImportPurpose, u"a b"_s);
     }
 
-    void refusesWhatIsNoTable()
+    void RefusesWhatIsNoTable()
     {
         for (const QString& text : {QString(), u"Hallo"_s, u"a;b;c\nd;e;f\n"_s, u"\n\n;;;\n"_s}) {
             const cStatementRead read = ReadText(text);
@@ -275,7 +275,7 @@ private Q_SLOTS:
         }
     }
 
-    void endlessRowsAreCut()
+    void EndlessRowsAreCut()
     {
         const cTable table = modTableText::Split(u"a"_s + QString(1000, u';') + u"\n1;\"2\n3\";4\n"_s, u';', 0);
         QCOMPARE(table.CellCount(0), cTable::mostColumns);

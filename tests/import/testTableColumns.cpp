@@ -34,7 +34,7 @@ class testTableColumns : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void wordsOfTheHeader_data()
+    void WordsOfTheHeader_data()
     {
         QTest::addColumn<QString>("header");
         QTest::addColumn<QString>("map");
@@ -72,7 +72,7 @@ private Q_SLOTS:
             u"date=0 text=3 purpose=4 name=1 amount=2"_s);
     }
 
-    void wordsOfTheHeader()
+    void WordsOfTheHeader()
     {
         QFETCH(QString, header);
         const cColumnMap map = modColumnWords::Detect(header.split(u';'));
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QTEST(Shown(map), "map");
     }
 
-    void wildcards_data()
+    void Wildcards_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("list");
@@ -98,14 +98,14 @@ private Q_SLOTS:
         QTest::newRow("empty alternative") << QString() << u"A|"_s << true;
     }
 
-    void wildcards()
+    void Wildcards()
     {
         QFETCH(QString, name);
         QFETCH(QString, list);
         QTEST(modCell::MatchesList(name, list), "isMatch");
     }
 
-    void separators()
+    void Separators()
     {
         QCOMPARE(modTableText::SeparatorOf(u"a,b;c\td"), QChar(u';'));
         QCOMPARE(modTableText::SeparatorOf(u"a,b\tc"), QChar(u','));
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(modTableText::SeparatorOf(u"a"), QChar(u'\t'));
     }
 
-    void splits_data()
+    void Splits_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("rows"); // cells joined by "|"
@@ -131,7 +131,7 @@ private Q_SLOTS:
         row("empty lines stay rows", u"a\n\nb"_s, {u"a"_s, QString(), u"b"_s});
     }
 
-    void splits()
+    void Splits()
     {
         QFETCH(QString, text);
         const cTable table = modTableText::Split(text, u';', 0);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QTEST(rows, "rows");
     }
 
-    void linesAboveTheHeaderStandForThemselves()
+    void LinesAboveTheHeaderStandForThemselves()
     {
         const cTable table = modTableText::Split(u"\"offen;x\nKonto;1\na,b\n\"1\n2\",3\n4"_s, u',', 2);
         QCOMPARE(table.RowCount(), 5);
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(table.Line(4), 6);
     }
 
-    void purposes_data()
+    void Purposes_data()
     {
         QTest::addColumn<QString>("joined");
         QTest::addColumn<QString>("purpose");
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QTest::newRow("SEPA") << u"EREF+1SVWZ+MieteABWA+Otto"_s << u"Miete (Otto)"_s;
     }
 
-    void purposes()
+    void Purposes()
     {
         QFETCH(QString, joined);
         QTEST(modTableRows::CleanPurpose(joined), "purpose");

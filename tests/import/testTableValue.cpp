@@ -9,7 +9,7 @@ class testTableValue : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void dates_data()
+    void Dates_data()
     {
         QTest::addColumn<QString>("cell");
         QTest::addColumn<QDate>("date");
@@ -28,20 +28,20 @@ private Q_SLOTS:
         QTest::newRow("empty") << QString() << QDate();
     }
 
-    void dates()
+    void Dates()
     {
         QFETCH(QString, cell);
         QTEST(modTableValue::ReadDate(cell), "date");
     }
 
-    void otherOrders()
+    void OtherOrders()
     {
         QCOMPARE(modTableValue::ReadDate(u"02/03/2025", eDateOrder::MonthDayYear), QDate(2025, 2, 3));
         QCOMPARE(modTableValue::ReadDate(u"25-02-03", eDateOrder::YearMonthDay), QDate(2025, 2, 3));
         QCOMPARE(modTableValue::ReadDate(u"2025-02-03", eDateOrder::MonthDayYear), QDate(2025, 2, 3));
     }
 
-    void amounts_data()
+    void Amounts_data()
     {
         QTest::addColumn<QString>("cell");
         QTest::addColumn<QString>("number"); // empty: no number
@@ -65,14 +65,14 @@ private Q_SLOTS:
         row("1,2,3 4-5", "");
     }
 
-    void amounts()
+    void Amounts()
     {
         QFETCH(QString, cell);
         const std::optional<double> amount = modTableValue::ReadAmount(cell, eNumberFormat::Detect);
         QTEST(amount ? QString::number(*amount, 'g', 12) : QString(), "number");
     }
 
-    void formatOfAColumn_data()
+    void FormatOfAColumn_data()
     {
         QTest::addColumn<QStringList>("cells");
         QTest::addColumn<eNumberFormat>("format");
@@ -88,7 +88,7 @@ private Q_SLOTS:
         row("nothing", {}, eNumberFormat::German);
     }
 
-    void formatOfAColumn()
+    void FormatOfAColumn()
     {
         QFETCH(QStringList, cells);
         modTableValue::cNumberVote vote;
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(vote.IsDoubtful(), cells.value(0) == u"1.450");
     }
 
-    void looksLike()
+    void LooksLike()
     {
         QVERIFY(modTableValue::IsDate(u"2025-03-01 15:12:22"));
         QVERIFY(!modTableValue::IsDate(u"Kontostand vom 31.01.2025"));

@@ -79,7 +79,7 @@ class testTrace final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void isSilentByDefault()
+    void IsSilentByDefault()
     {
         const cTestFile file;
         const cListener listener({});
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(cListener::All(), QString());
     }
 
-    void tellsWhatHappenedAndNothingElse()
+    void TellsWhatHappenedAndNothingElse()
     {
         const cTestFile file;
         {

@@ -65,7 +65,7 @@ class testChartData final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void slicesByCategory()
+    void SlicesByCategory()
     {
         cChartBook book;
         cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year};
@@ -90,7 +90,7 @@ private Q_SLOTS:
                 cChartTarget::eKind::Entries, cReportNode{eReportKind::Expense, u"Wohnen"_s, u"Strom"_s}, {}, year}));
     }
 
-    void laysTheYearBeforeBeside()
+    void LaysTheYearBeforeBeside()
     {
         cChartBook book;
         const cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year, .Second = cChartWish::YearBefore(year)};
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(cChartWish::YearBefore({QDate(2025, 2, 1), QDate(2025, 2, 28)}).End, QDate(2024, 2, 29));
     }
 
-    void gathersSmallSlices()
+    void GathersSmallSlices()
     {
         cChartBook book;
         for (int i = 0; i < 15; ++i) {
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(chart.Total(0), 100000 + 30000 + 9 * 20000 + 6 * 100);
     }
 
-    void addsUpMonths()
+    void AddsUpMonths()
     {
         cChartBook book;
         cChartWish wish{.Kind = eChartKind::Months, .Range = year};
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QVERIFY(past.PartText(4, 1).startsWith(u"Ausgaben (2025), Februar 2025: "));
     }
 
-    void takesYearsForManyMonths()
+    void TakesYearsForManyMonths()
     {
         cChartBook book;
         book.Add(modWord::Ausgabe, QDate(1990, 5, 1), u"Alt"_s, 700);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(book.Make({.Kind = eChartKind::Balances, .Range = upToNow}).Labels.first(), u"01.05.1990"_s);
     }
 
-    void stacksCategories()
+    void StacksCategories()
     {
         cChartBook book;
         const cChartData chart = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year});
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(Values(below, 1), (QStringList{u"Miete=0"_s, u"Strom=10000"_s, u"Sonstiges (Wohnen)=5000"_s}));
     }
 
-    void followsBalances()
+    void FollowsBalances()
     {
         cChartBook book;
         (void)book.Book.Add([](cEntryItem& entry) {
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QVERIFY(book.Make({.Kind = eChartKind::Balances, .Range = {QDate(1990, 1, 1), QDate(1990, 1, 31)}}).IsEmpty());
     }
 
-    void writesTheSameFigures()
+    void WritesTheSameFigures()
     {
         cChartBook book;
         cChartData pie = book.Make({.Kind = eChartKind::ExpensePie, .Range = year});
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QVERIFY(modChartTable::Csv(odd).contains("\"'=1+1;\"\"x\"\"\";250,00"));
     }
 
-    void saves()
+    void Saves()
     {
         cTestBook book;
         cChartSave save(book.Tools, {[](const cChartData&) { return QByteArray("png"); }, {}});

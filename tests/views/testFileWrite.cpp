@@ -38,7 +38,7 @@ private Q_SLOTS:
     }
 
     // The last byte counts: a file that is cut there is not the new one.
-    void fullDiskKeepsTheOldFile()
+    void FullDiskKeepsTheOldFile()
     {
         const QString path = m_files.Path(u"a.csv"_s);
         QCOMPARE(modFileWrite::Replace(path, "old"), QString());
@@ -57,7 +57,7 @@ private Q_SLOTS:
     }
 
     // A program that is killed has written some of the file beside the target.
-    void leftoverOfAKillGoes()
+    void LeftoverOfAKillGoes()
     {
         const QString path = m_files.Path(u"Bericht.pdf"_s);
         const pid_t child = fork();
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(Names(), QStringList(u"Bericht.pdf"_s));
     }
 
-    void onlyRegularFilesAreReplaced()
+    void OnlyRegularFilesAreReplaced()
     {
         const QString pipe = m_files.Path(u"pipe"_s);
         const QString folder = m_files.Path(u"folder"_s);
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(Names(), before);
     }
 
-    void bookThatCouldNotBeReadIsNotExported()
+    void BookThatCouldNotBeReadIsNotExported()
     {
         const QString path = m_files.Path(u"a.csv"_s);
         cDatabase database(0); // waits for nobody

@@ -73,7 +73,7 @@ class testForecast final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void foresees()
+    void Foresees()
     {
         cHousehold household;
         household.Correct(QDate(2026, 4, 1), QDate(2026, 4, 30), 45000); // the rent of April
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(cBalanceDays::Lowest(days.Sum, 0), days.IndexOf(QDate(2027, 2, 20)));
     }
 
-    void takesOffTheAverage()
+    void TakesOffTheAverage()
     {
         cHousehold household;
         for (const int day : {1, 8}) {
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(At(with, u"Girokonto"_s, today.addDays(4)), At(without, u"Girokonto"_s, today.addDays(4)) - 4 * 1000);
     }
 
-    void warns_data()
+    void Warns_data()
     {
         QTest::addColumn<QString>("limit");
         QTest::addColumn<QDate>("day");
@@ -136,7 +136,7 @@ private Q_SLOTS:
         QTest::newRow("zero is a limit, and holds") << u"0.00"_s << QDate() << qint64(0) << QString();
     }
 
-    void warns()
+    void Warns()
     {
         QFETCH(QString, limit);
         QFETCH(QDate, day);
@@ -152,7 +152,7 @@ private Q_SLOTS:
     }
 
     // What comes in on a day counts first, so the blame is on the entry without which the limit would have held.
-    void namesTheEntryOfTheDay()
+    void NamesTheEntryOfTheDay()
     {
         cHousehold household;
         household.SetLimit(u"Girokonto"_s, u"500.00"_s);
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QCOMPARE(warnings.first().Entry.EntryDescription, u"Miete"_s); // listed last, after the one-off entries
     }
 
-    void showsTheWarningInThePanel()
+    void ShowsTheWarningInThePanel()
     {
         cHousehold household;
         household.SetLimit(u"Girokonto"_s, u"900.00"_s);

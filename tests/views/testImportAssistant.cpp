@@ -106,7 +106,7 @@ class testImportAssistant : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsWhatAChoiceDoes_data()
+    void ShowsWhatAChoiceDoes_data()
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<fnChange>("change");
@@ -147,7 +147,7 @@ private Q_SLOTS:
         }) << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
     }
 
-    void showsWhatAChoiceDoes()
+    void ShowsWhatAChoiceDoes()
     {
         QFETCH(QByteArray, file);
         QFETCH(fnChange, change);
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(page.Data.GetImportEntries().size(), 0); // the user gave up
     }
 
-    void saysWhatIsMissing()
+    void SaysWhatIsMissing()
     {
         cPage page;
         page.IsConfirmed = false;
@@ -188,7 +188,7 @@ private Q_SLOTS:
     }
 
     // One answer holds for all files of the layout, now and later; another layout is asked about.
-    void asksOncePerLayout()
+    void AsksOncePerLayout()
     {
         cPage page;
         page.Answer = [](cImportAssistant& assistant) {
@@ -219,7 +219,7 @@ private Q_SLOTS:
     }
 
     // Where files of one kind come from several accounts, the answer for one says nothing about the next.
-    void asksAboutEachFileOfSeveralAccounts()
+    void AsksAboutEachFileOfSeveralAccounts()
     {
         cPage page;
         page.Answer = [&](cImportAssistant& assistant) { assistant.SetAccount(QString::number(4711 + page.Opened)); };
@@ -234,7 +234,7 @@ private Q_SLOTS:
     }
 
     // A known layout with other columns stays a known layout in all else.
-    void knownLayoutsCanBeChanged()
+    void KnownLayoutsCanBeChanged()
     {
         cPage page;
         page.Answer = [](cImportAssistant& assistant) {
@@ -252,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(page.Purposes(), changed);
     }
 
-    void optionsHold()
+    void OptionsHold()
     {
         cPage page;
         page.Answer = [](cImportAssistant& assistant) {
@@ -268,7 +268,7 @@ private Q_SLOTS:
     }
 
     // Of a long table only the beginning is tried, of a statement with a beginning and an end all of it.
-    void longFilesCanBeTried()
+    void LongFilesCanBeTried()
     {
         cPage page;
         page.IsConfirmed = false;
@@ -293,7 +293,7 @@ private Q_SLOTS:
         QVERIFY(texts.value(1).toInt() > 5'000 && texts.value(1).toInt() < 20'000);
     }
 
-    void readsAgain()
+    void ReadsAgain()
     {
         cPage page;
         page.Import({page.Write(u"a.csv"_s, plain)});
@@ -316,7 +316,7 @@ private Q_SLOTS:
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
     }
 
-    void aStoppedFileBringsNothing()
+    void AStoppedFileBringsNothing()
     {
         cPage page;
         cStopped progress;
@@ -326,7 +326,7 @@ private Q_SLOTS:
         QVERIFY(page.Data.Journal().UndoName().isEmpty());
     }
 
-    void pendingRowsCanBeTaken()
+    void PendingRowsCanBeTaken()
     {
         cPage page;
         page.Answer = [](cImportAssistant& assistant) {
@@ -342,7 +342,7 @@ private Q_SLOTS:
         QCOMPARE(page.Data.GetImportEntries().last().ImportAccount, u"4711"_s);
     }
 
-    void offersAllStatements()
+    void OffersAllStatements()
     {
         cPage page;
         cNoProgress progress;

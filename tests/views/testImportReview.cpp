@@ -64,7 +64,7 @@ class testImportReview : public QObject
 
 private Q_SLOTS:
     // A file in rows and columns that does not say whose it is.
-    void asksForTheNumberOnce()
+    void AsksForTheNumberOnce()
     {
         const QString file = QStringLiteral(TEST_DATA "/csv/consors.csv");
         cPage page;
@@ -84,7 +84,7 @@ private Q_SLOTS:
     }
 
     // Files can be dropped while others are read, before the progress box stands in the way.
-    void readsFilesThatComeMeanwhileAfterwards()
+    void ReadsFilesThatComeMeanwhileAfterwards()
     {
         cPage page;
         cStatementFiles& files = page.Review.Files();
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(page.Review.Summary().constFirst().contains(u"0 neu"_s));
     }
 
-    void importsWithItsQuestions()
+    void ImportsWithItsQuestions()
     {
         cPage page;
         QVERIFY(page.Review.View().EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(page.Review.Files().LeftOut().size(), 5);
     }
 
-    void showsRows()
+    void ShowsRows()
     {
         cPage page;
         page.ImportFixture();
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(page.Cell(3, cStagedListModel::Account), u"Girokonto → Sparkonto"_s);
     }
 
-    void takesDuplicatesAllTheSame()
+    void TakesDuplicatesAllTheSame()
     {
         cPage page;
         page.ImportFixture();
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(page.Review.Files().LeftOut().isEmpty());
     }
 
-    void booksWhatTheUserChose()
+    void BooksWhatTheUserChose()
     {
         cPage page;
         page.Review.View().SetOpenOnly(false);
@@ -183,7 +183,7 @@ private Q_SLOTS:
     }
 
     // The number of a row that is gone comes again.
-    void forgetsTheChoiceForARowThatIsAnotherOne()
+    void ForgetsTheChoiceForARowThatIsAnotherOne()
     {
         cPage page;
         page.ImportFixture();
@@ -196,7 +196,7 @@ private Q_SLOTS:
         QCOMPARE(page.Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
     }
 
-    void asksAgainBeforeBooking()
+    void AsksAgainBeforeBooking()
     {
         cPage page;
         page.Review.Files().ImportFiles({fixture}, page.Progress); // the user gives up on both questions
@@ -208,7 +208,7 @@ private Q_SLOTS:
                  u"Die Kontonummer 7654321 hat noch kein Konto; ihre Umsätze werden nicht gebucht."_s);
     }
 
-    void deletesAfterAQuestion()
+    void DeletesAfterAQuestion()
     {
         cPage page;
         QVERIFY(page.Review.View().IsOpenOnly());
@@ -224,7 +224,7 @@ private Q_SLOTS:
         QCOMPARE(page.Data.CountEntries(), 1);
     }
 
-    void filtersAndSorts_data()
+    void FiltersAndSorts_data()
     {
         QTest::addColumn<QString>("filter");
         QTest::addColumn<int>("column");
@@ -245,7 +245,7 @@ private Q_SLOTS:
         QTest::newRow("nothing") << u"xyz"_s << int{cStagedListModel::Date} << QStringList();
     }
 
-    void filtersAndSorts()
+    void FiltersAndSorts()
     {
         QFETCH(QString, filter);
         QFETCH(int, column);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QTEST(names, "names");
     }
 
-    void oneCategoryForMany()
+    void OneCategoryForMany()
     {
         cPage page;
         page.ImportFixture();
@@ -277,7 +277,7 @@ private Q_SLOTS:
         }
     }
 
-    void acceptsWhatIsCertain()
+    void AcceptsWhatIsCertain()
     {
         cPage page;
         page.ImportFixture();
@@ -304,7 +304,7 @@ private Q_SLOTS:
     }
 
     // "auto" and "bar" are part of many words.
-    void ambiguousKeywordsComeLast()
+    void AmbiguousKeywordsComeLast()
     {
         cPage page;
         page.ImportFixture();
@@ -320,7 +320,7 @@ private Q_SLOTS:
         QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
     }
 
-    void asksBeforeBookingTwice()
+    void AsksBeforeBookingTwice()
     {
         cPage page;
         page.ImportFixture();
@@ -343,7 +343,7 @@ private Q_SLOTS:
         QCOMPARE(page.Data.CountEntries(), 2);
     }
 
-    void aWindowForOneImport()
+    void AWindowForOneImport()
     {
         cPage page;
         QVERIFY(page.Review.StartImportReview() == nullptr);
@@ -364,7 +364,7 @@ private Q_SLOTS:
         QCOMPARE(page.Review.Summary(), window->Summary());
     }
 
-    void keepsWhatIsShown()
+    void KeepsWhatIsShown()
     {
         cPage page;
         page.ImportFixture();
@@ -381,7 +381,7 @@ private Q_SLOTS:
         QCOMPARE(view.Grouping(), 1);
     }
 
-    void saysWhyAFileIsRefused()
+    void SaysWhyAFileIsRefused()
     {
         cPage page;
         QFile file(page.Shell.Folder(u"data"_s) + u"/auszug.pdf");

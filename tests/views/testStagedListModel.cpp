@@ -92,7 +92,7 @@ class testStagedListModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void groups_data()
+    void Groups_data()
     {
         QTest::addColumn<int>("grouping");
         QTest::addColumn<int>("column");
@@ -123,7 +123,7 @@ private Q_SLOTS:
                            u"Montag, 05.01.2026  (1 gebucht): -10,00"_s, u"1"_s};
     }
 
-    void groups()
+    void Groups()
     {
         QFETCH(int, grouping);
         QFETCH(int, column);
@@ -136,7 +136,7 @@ private Q_SLOTS:
         QTEST(scene.Lines(), "lines");
     }
 
-    void aHeadStandsForItsRows()
+    void AHeadStandsForItsRows()
     {
         cScene scene;
         scene.Model.SetGrouping(eGrouping::Counterparty);
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(!scene.Model.flags(rewe.siblingAtColumn(cStagedListModel::Category)).testFlag(Qt::ItemIsEditable));
     }
 
-    void leavesOut()
+    void LeavesOut()
     {
         cScene scene;
         scene.Model.SetShown({.OpenOnly = true, .HidesOld = true});
@@ -168,7 +168,7 @@ private Q_SLOTS:
     }
 
     // A proposal costs far more than all the rest of a row.
-    void asksOnlyForWhatIsSeen()
+    void AsksOnlyForWhatIsSeen()
     {
         cScene scene;
         scene.Model.SetGrouping(eGrouping::Day);

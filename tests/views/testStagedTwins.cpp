@@ -36,7 +36,7 @@ class testStagedTwins final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void finds_data()
+    void Finds_data()
     {
         QTest::addColumn<fnChange>("Change"); // of the same transaction in the words of another file
         QTest::addColumn<int>("Found");       // 0: not, 1: by the account, 2: by the name
@@ -68,7 +68,7 @@ private Q_SLOTS:
         add("taken twice on purpose", 0, [](auto& row) { row.ImportPurpose = First().ImportPurpose; });
     }
 
-    void finds()
+    void Finds()
     {
         QFETCH(fnChange, Change);
         QFETCH(int, Found);
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(twins.contains(other.ID), Found != 0);
     }
 
-    void aBookedRowIsNotMarkedButNamed()
+    void ABookedRowIsNotMarkedButNamed()
     {
         cImportEntry open = First();
         cImportEntry booked = First();
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(twins.value(1).RowId, 9); // rather than the other open one
     }
 
-    void remembersWhatCameTogether()
+    void RemembersWhatCameTogether()
     {
         using cRange = cImportRuns::cRange;
         cTestBook book;

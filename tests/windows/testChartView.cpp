@@ -102,7 +102,7 @@ class testChartView final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void answersWhereItPaints_data()
+    void AnswersWhereItPaints_data()
     {
         QTest::addColumn<eChart>("kind");
         QTest::newRow("pie") << eChart::Pie;
@@ -112,7 +112,7 @@ private Q_SLOTS:
     }
 
     // Each part answers at its place, its colour is there in the picture, and a click names it.
-    void answersWhereItPaints()
+    void AnswersWhereItPaints()
     {
         QFETCH(eChart, kind);
         cStage stage(Chart(kind));
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(!stage.View.PartAt(QPointF(2, 2)));
     }
 
-    void movesByKeys()
+    void MovesByKeys()
     {
         cStage stage(Chart(eChart::Columns));
         stage.View.activateWindow();
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(stage.View.accessibleName().endsWith(u"Strom, ausgeblendet"));
     }
 
-    void switchesSeries()
+    void SwitchesSeries()
     {
         cStage stage(Chart(eChart::StackedColumns));
         stage.Click(stage.View.Layout().Legend.at(0).Area.center());
@@ -186,7 +186,7 @@ private Q_SLOTS:
     }
 
     // A stack beside has no legend of its own: what is switched off goes there too.
-    void switchesTheStackBeside()
+    void SwitchesTheStackBeside()
     {
         cChartData chart = Chart(eChart::StackedColumns);
         chart.Series += chart.Series;
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QVERIFY(!stage.View.Data().IsHidden(3));
     }
 
-    void showsTheSameInTheTable()
+    void ShowsTheSameInTheTable()
     {
         cChartBox box;
         box.SetData(Chart(eChart::Columns));
@@ -226,7 +226,7 @@ private Q_SLOTS:
         QCOMPARE(clicks.value(0), (QVariantList{1, 0})); // counted with the hidden series
     }
 
-    void paintsIntoFiles()
+    void PaintsIntoFiles()
     {
         const cChartData chart = Chart(eChart::Columns);
         const QImage picture = QImage::fromData(modChartPainter::Png(chart, {400, 300}), "PNG");
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QVERIFY(stage.View.Layout().Legend.empty());
     }
 
-    void dividesTheAxis_data()
+    void DividesTheAxis_data()
     {
         QTest::addColumn<qint64>("smallest");
         QTest::addColumn<qint64>("largest");
@@ -257,14 +257,14 @@ private Q_SLOTS:
                                    << QList<qint64>{100010, 100020, 100030, 100040, 100050};
     }
 
-    void dividesTheAxis()
+    void DividesTheAxis()
     {
         QFETCH(qint64, smallest);
         QFETCH(qint64, largest);
         QTEST(cChartAxis(smallest, largest, 5).Ticks(), "ticks");
     }
 
-    void staysApartForEveryEye()
+    void StaysApartForEveryEye()
     {
         constexpr double enough = 18; // CIELAB; 2 can be seen side by side, 10 at a glance
         QPalette dark(QColor(45, 47, 51));

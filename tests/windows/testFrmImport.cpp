@@ -68,7 +68,7 @@ class testFrmImport final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keysBookAndDelete()
+    void KeysBookAndDelete()
     {
         cScene scene;
         scene.Review.View().SetOpenOnly(false);
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Tree.SelectedIds().size(), 1); // the next row takes its place
     }
 
-    void typingPartOfACategoryFindsIt()
+    void TypingPartOfACategoryFindsIt()
     {
         cScene scene;
         scene.Tree.selectAll();
@@ -104,7 +104,7 @@ private Q_SLOTS:
         QVERIFY(scene.Cell(4, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
     }
 
-    void newCategoryIsOffered()
+    void NewCategoryIsOffered()
     {
         cScene scene;
         scene.Tree.setCurrentIndex(scene.Review.Rows().index(0, cStagedListModel::Category));
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), u"Ponyhof"_s);
     }
 
-    void enterBooksAGroup()
+    void EnterBooksAGroup()
     {
         cScene scene;
         scene.Review.View().SetGrouping(1);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(!scene.Tree.isExpanded(last));
     }
 
-    void theMenuOfTheKeyboard()
+    void TheMenuOfTheKeyboard()
     {
         cScene scene;
         QStringList lines;
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QVERIFY(!lines.contains(u"Zuordnen…"_s)); // takes a single row
     }
 
-    void droppedFilesAreRead()
+    void DroppedFilesAreRead()
     {
         cScene scene;
         QMimeData data;
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Review.Rows().rowCount(), 6);
     }
 
-    void columnsAreKept()
+    void ColumnsAreKept()
     {
         cScene scene;
         scene.Tree.sortByColumn(cStagedListModel::Amount, Qt::DescendingOrder);
@@ -194,7 +194,7 @@ private Q_SLOTS:
     }
 
     // The work ends only when the window's own events go on meanwhile.
-    void longReadingKeepsTheProgramAlive()
+    void LongReadingKeepsTheProgramAlive()
     {
         QWidget page;
         page.show();
@@ -209,7 +209,7 @@ private Q_SLOTS:
     }
 
     // The work goes on, so the page must not be reached before it has ended.
-    void aClosedBoxComesBack()
+    void AClosedBoxComesBack()
     {
         QWidget page;
         page.show();
@@ -227,7 +227,7 @@ private Q_SLOTS:
         QVERIFY(isBack && box.IsCancelled());
     }
 
-    void everyControlHasAName()
+    void EveryControlHasAName()
     {
         cScene scene;
         const QList<QAbstractButton*> buttons = scene.Page.findChildren<QAbstractButton*>();

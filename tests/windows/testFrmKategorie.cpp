@@ -82,7 +82,7 @@ class testFrmKategorie final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void opensAtACategoryOrAccount()
+    void OpensAtACategoryOrAccount()
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(!scene.Window.Select(u"Nichts"_s));
     }
 
-    void whatWasTypedIsSavedOnLeavingTheLine()
+    void WhatWasTypedIsSavedOnLeavingTheLine()
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Essen"_s)->TemplateDefaultValue, u"400.00"_s);
     }
 
-    void saysWhatTheAmountIs()
+    void SaysWhatTheAmountIs()
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
@@ -127,7 +127,7 @@ private Q_SLOTS:
         }));
     }
 
-    void refusedChangesKeepTheLineAndTheWindow()
+    void RefusedChangesKeepTheLineAndTheWindow()
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(!scene.Window.isVisible());
     }
 
-    void keysAddMoveAndDelete()
+    void KeysAddMoveAndDelete()
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Field<QLineEdit>(u"Name:"_s).text(), u"Getränke"_s);
     }
 
-    void aLineWithoutDefinitionOffersWhatCanBeDone()
+    void ALineWithoutDefinitionOffersWhatCanBeDone()
     {
         cScene scene;
         scene.Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haushalt; Altes"_s; });
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QVERIFY(scene.Book.Data.FindTemplate(u"Auto"_s, QString()));
     }
 
-    void accountIsWrittenAsAWhole()
+    void AccountIsWrittenAsAWhole()
     {
         cScene scene;
         scene.Book.User.Answers = {eAnswer::Yes};
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Konto 'Girokonto' umbenannt"_s);
     }
 
-    void changesElsewhereLeaveWhatIsTyped()
+    void ChangesElsewhereLeaveWhatIsTyped()
     {
         cScene scene;
         QVERIFY(scene.Window.Select(food));
@@ -220,7 +220,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Selected(), food);
     }
 
-    void branchesStayOpenUntilNextTime()
+    void BranchesStayOpenUntilNextTime()
     {
         cScene scene;
         scene.Tree().expand(scene.Manager.Categories().IndexOf(u"Auto"_s));
@@ -232,7 +232,7 @@ private Q_SLOTS:
     }
 
     // On every kind of line: each field has a name, and each letter leads to one place.
-    void everyFieldHasANameAndALetterOfItsOwn()
+    void EveryFieldHasANameAndALetterOfItsOwn()
     {
         cScene scene;
         scene.Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haushalt; Altes"_s; });

@@ -60,7 +60,7 @@ class testFrmSuche final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keysSearchOpenAndDelete()
+    void KeysSearchOpenAndDelete()
     {
         cScene scene;
         QVERIFY(scene.Text.hasFocus());
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(undos.size(), 1);
     }
 
-    void fieldsNarrowTogether()
+    void FieldsNarrowTogether()
     {
         cScene scene;
         auto& period = scene.Labelled<QComboBox>(u"Zeitraum:"_s);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Tree.model()->rowCount(), 1);
     }
 
-    void aSecondAmountAppearsWhenNeeded()
+    void ASecondAmountAppearsWhenNeeded()
     {
         cScene scene;
         auto& rule = scene.Labelled<QComboBox>(u"Betrag:"_s);
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Tree.model()->rowCount(), 0);
     }
 
-    void columnsAreKept()
+    void ColumnsAreKept()
     {
         cScene scene;
         scene.Tree.sortByColumn(cEntryListModel::Amount, Qt::DescendingOrder);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QVERIFY(scene.Book.Settings->Get(modSettingKey::SearchList).contains(u"sort,2,0"));
     }
 
-    void everybodyCanUseIt()
+    void EverybodyCanUseIt()
     {
         cScene scene;
         scene.Labelled<QComboBox>(u"Betrag:"_s).setCurrentIndex(3); // all fields in sight
