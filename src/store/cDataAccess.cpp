@@ -82,7 +82,8 @@ QList<std::pair<QString, QString>> cDataAccess::GetSettings()
 
 bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
 {
-    return Write("ChangeSettingItem", [&] {
+    // A choice of the view depends on nothing that was read, and closing the window stores many of them.
+    return Look("ChangeSettingItem", [&] {
         bool isKnown = false;
         {
             cRows rows(m_database, "SELECT COUNT(*) FROM setting WHERE SettingName=?", {name});
@@ -100,5 +101,5 @@ bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
 
 bool cDataAccess::DeleteSetting(const QString& name)
 {
-    return Write("DeleteSetting", [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
+    return Look("DeleteSetting", [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
 }

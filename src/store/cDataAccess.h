@@ -171,7 +171,8 @@ private:
 
     // Runs one operation; an exception becomes the message of that name.
     eDatabaseFault Try(const char* name, const std::function<void()>& operation);
-    // All are false after a failure. What `Read` gives may be what a flow decides by; `Look` gives hints and counts.
+    // All are false after a failure. What `Read` gives may be what a flow decides by; `Look` is for what
+    // depends on nothing and decides nothing: hints, counts, settings.
     bool Write(const char* name, const std::function<void()>& operation);
     bool Read(const char* name, const std::function<void()>& operation);
     bool Look(const char* name, const std::function<void()>& operation);

@@ -231,8 +231,8 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
         part.Revert();
         return Cancelled(result);
     }
-    if (!part.Done()) {
-        const int staged = std::max(0, RowCount() - before); // without the last portion
+    if (!part.Done() || result.Failed > 0) {
+        const int staged = std::max(0, RowCount() - before); // without the portions that are lost
         result.Failed += result.Staged - staged;
         result.Staged = staged;
     }
