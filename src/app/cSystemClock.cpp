@@ -4,3 +4,8 @@ QDate cSystemClock::Today() const
 {
     return QDate::currentDate();
 }
+
+QDateTime cSystemClock::Now() const
+{
+    return QDateTime::currentDateTime();
+}

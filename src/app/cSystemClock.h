@@ -7,4 +7,5 @@ class cSystemClock final : public cClock
 {
 public:
     [[nodiscard]] QDate Today() const override;
+    [[nodiscard]] QDateTime Now() const override;
 };

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
 
-// The calendar of the machine. Rules take the day as an argument; only the outermost callers ask here.
+// Calendar and clock of the machine. Rules take the day as an argument; only the outermost callers ask here.
 class cClock
 {
 public:
@@ -13,4 +14,6 @@ public:
 
     // The current day in local time.
     [[nodiscard]] virtual QDate Today() const = 0;
+    // The current moment in local time.
+    [[nodiscard]] virtual QDateTime Now() const = 0;
 };

@@ -84,8 +84,10 @@ class cFakeClock final : public cClock
 public:
     explicit cFakeClock(QDate day = QDate(2026, 3, 15)) : Day(day) {}
     QDate Today() const override { return Day; }
+    QDateTime Now() const override { return {Day, Time}; }
 
     QDate Day;
+    QTime Time = QTime(12, 34, 56);
 };
 
 class cFakeRegistry final : public cRegistry

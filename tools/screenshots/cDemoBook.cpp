@@ -14,6 +14,11 @@ QDate cFixedClock::Today() const
     return sceneDay;
 }
 
+QDateTime cFixedClock::Now() const
+{
+    return {sceneDay, QTime(12, 0)};
+}
+
 cDemoBook::cDemoBook(eContent content)
 {
     const QString path = Folder.filePath(u"Haushalt.db"_s);

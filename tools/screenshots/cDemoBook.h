@@ -17,6 +17,7 @@ class cFixedClock final : public cClock
 {
 public:
     [[nodiscard]] QDate Today() const override;
+    [[nodiscard]] QDateTime Now() const override;
 };
 
 // A book of its own in a temporary folder, with everything that a window needs around it.
