@@ -43,7 +43,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] cCliRun Run(const QStringList& arguments) const;
     // Runs what has to succeed: a line of arguments, separated by "|".
-    cCliRun Do(const QString& line) const;
+    cCliRun Do(const QString& line);
     // The ID of a new entry.
     [[nodiscard]] QString Add(const QString& line) const;
     [[nodiscard]] QString Database() const { return m_folder->filePath(u"Veltrino Kontorelle/data.db"_s); }
@@ -66,7 +66,7 @@ cCliRun testCliEntries::Run(const QStringList& arguments) const
     return cCliRun::Start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
 }
 
-cCliRun testCliEntries::Do(const QString& line) const
+cCliRun testCliEntries::Do(const QString& line)
 {
     const cCliRun run = Run(line.split(u'|'));
     if (run.Code != 0) {

@@ -177,7 +177,7 @@ private:
     }
 
     // Runs what has to succeed.
-    cCliRun Do(const QStringList& arguments) const
+    cCliRun Do(const QStringList& arguments)
     {
         const cCliRun run = Run(arguments);
         if (run.Code != 0) {

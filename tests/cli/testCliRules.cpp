@@ -96,7 +96,7 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
-    cCliRun Do(const QString& line) const { return cCliRun::GoodLine(m_folder->path(), line); }
+    cCliRun Do(const QString& line) { return cCliRun::GoodLine(m_folder->path(), line); }
 
     [[nodiscard]] QStringList List(const QString& name) const { return Do(u"rules|--json"_s).Column(name); }
 

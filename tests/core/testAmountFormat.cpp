@@ -14,7 +14,7 @@ class cFixedFormatter final : public cCultureFormatter
 {
 public:
     explicit cFixedFormatter(QString text) : m_text(std::move(text)) {}
-    QString Currency(double amount) const override
+    [[nodiscard]] QString Currency(double amount) const override
     {
         return QString(m_text).replace(u"{0}"_s, QString::number(amount));
     }

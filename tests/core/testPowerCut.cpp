@@ -44,7 +44,7 @@ public:
     }
 
     // What stands in the book; empty when it cannot be read or is damaged.
-    QStringList Read() const
+    [[nodiscard]] QStringList Read() const
     {
         cDatabase database;
         if (modSchema::OpenValid(database, m_book, eOpenMode::ReadWrite) != eDatabaseFault::None) {

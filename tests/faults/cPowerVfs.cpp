@@ -197,7 +197,7 @@ void modPowerVfs::Start()
     isWritingDown = true;
 }
 
-const std::vector<cDiskCall>& modPowerVfs::Calls()
+std::vector<cDiskCall> modPowerVfs::Calls()
 {
     return calls;
 }

@@ -28,7 +28,7 @@ void Install();
 
 // Empties the list, and begins to write down. Files that are there now are on the disk.
 void Start();
-[[nodiscard]] const std::vector<cDiskCall>& Calls();
+[[nodiscard]] std::vector<cDiskCall> Calls();
 
 } // namespace modPowerVfs
 

@@ -22,10 +22,7 @@ public:
         " ImportCurrency TEXT, ImportAssigned TEXT, ImportAssignedEntry TEXT);"
         "INSERT INTO template (TemplateType, TemplateName) VALUES ('Konto', 'Girokonto');";
 
-    [[nodiscard]] QString Path(const QString& name = QStringLiteral("data.db")) const
-    {
-        return m_folder.filePath(name);
-    }
+    [[nodiscard]] QString Path(const QString& name = QStringLiteral("data.db")) { return m_folder.filePath(name); }
     [[nodiscard]] QString Folder() const { return m_folder.path(); }
 
     // Runs statements on a file, which is made when missing.
@@ -38,7 +35,7 @@ public:
     }
 
     // A file with the tables and what `more` puts into them; its path.
-    QString Make(const std::string& more = {}, const QString& name = QStringLiteral("data.db")) const
+    QString Make(const std::string& more = {}, const QString& name = QStringLiteral("data.db"))
     {
         Run(Path(name), Tables + more);
         return Path(name);
@@ -74,7 +71,7 @@ public:
         const int size = Value(database, "PRAGMA page_size").toInt();
         database.Close();
         QByteArray bytes = Bytes(path);
-        bytes.replace((root - 1) * size, size, QByteArray(size, 'x'));
+        bytes.replace(qsizetype{root - 1} * size, size, QByteArray(size, 'x'));
         Write(path, bytes);
     }
 

@@ -116,8 +116,8 @@ private Q_SLOTS:
         const cBalanceDays without = forecast.Ahead(1, cForecast::eAverage::Without);
         const cBalanceDays with = forecast.Ahead(1, cForecast::eAverage::With);
         QCOMPARE(with.Sum.Cents.first(), without.Sum.Cents.first()); // today has happened
-        QCOMPARE(with.Sum.Cents[4], without.Sum.Cents[4] - 4 * 1000);
-        QCOMPARE(At(with, u"Girokonto"_s, today.addDays(4)), At(without, u"Girokonto"_s, today.addDays(4)) - 4 * 1000);
+        QCOMPARE(with.Sum.Cents[4], without.Sum.Cents[4] - 4000);
+        QCOMPARE(At(with, u"Girokonto"_s, today.addDays(4)), At(without, u"Girokonto"_s, today.addDays(4)) - 4000);
     }
 
     void Warns_data()

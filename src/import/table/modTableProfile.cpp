@@ -173,7 +173,7 @@ constexpr std::array profiles = {
 struct cField
 {
     const char16_t* Name = nullptr;
-    int& (*Place)(cColumnMap&);
+    int& (*Place)(cColumnMap&) = nullptr;
 };
 
 constexpr std::array fields = {

@@ -20,9 +20,16 @@ QColor ToColor(const litehtml::web_color& color)
     return {color.red, color.green, color.blue, color.alpha};
 }
 
+// The library hands pointers around as numbers.
+template <typename T>
+T& At(litehtml::uint_ptr handle)
+{
+    return *reinterpret_cast<T*>(handle); // NOLINT(performance-no-int-to-ptr)
+}
+
 cReportCanvas& Canvas(litehtml::uint_ptr handle)
 {
-    return *reinterpret_cast<cReportCanvas*>(handle);
+    return At<cReportCanvas>(handle);
 }
 
 } // namespace
@@ -72,13 +79,13 @@ void cReportContainer::delete_font(litehtml::uint_ptr font)
 
 int cReportContainer::text_width(const char* text, litehtml::uint_ptr font)
 {
-    return qRound(QFontMetricsF(reinterpret_cast<const cFont*>(font)->Font).horizontalAdvance(QString::fromUtf8(text)));
+    return qRound(QFontMetricsF(At<const cFont>(font).Font).horizontalAdvance(QString::fromUtf8(text)));
 }
 
 void cReportContainer::draw_text(litehtml::uint_ptr handle, const char* text, litehtml::uint_ptr font,
                                  litehtml::web_color color, const litehtml::position& place)
 {
-    const cFont& used = *reinterpret_cast<const cFont*>(font);
+    const cFont& used = At<const cFont>(font);
     Canvas(handle).Text(ToRect(place), place.y + used.Ascent, QString::fromUtf8(text), used.Font, ToColor(color));
 }
 

@@ -10,8 +10,8 @@
 #include <vector>
 
 // What the rendering library asks of its surroundings: fonts, and somewhere to draw. A drawing handle is a pointer to a
-// cReportCanvas.
-class cReportContainer final : public litehtml::document_container
+// cReportCanvas. The base has no virtual destructor; nobody owns a container through it.
+class cReportContainer final : public litehtml::document_container // NOLINT(cppcoreguidelines-virtual-class-destructor)
 {
 public:
     explicit cReportContainer(const QString& family);
@@ -28,9 +28,9 @@ public:
     int text_width(const char* text, litehtml::uint_ptr font) override;
     void draw_text(litehtml::uint_ptr handle, const char* text, litehtml::uint_ptr font, litehtml::web_color color,
                    const litehtml::position& place) override;
-    int pt_to_px(int points) const override;
-    int get_default_font_size() const override;
-    const char* get_default_font_name() const override;
+    [[nodiscard]] int pt_to_px(int points) const override;
+    [[nodiscard]] int get_default_font_size() const override;
+    [[nodiscard]] const char* get_default_font_name() const override;
     void draw_list_marker(litehtml::uint_ptr handle, const litehtml::list_marker& marker) override;
     void load_image(const char* source, const char* base, bool redraw) override;
     void get_image_size(const char* source, const char* base, litehtml::size& size) override;

@@ -29,8 +29,7 @@ QList<cPickRow> Rows(cEntrySuggestions& suggestions, const QString& typed, const
 cCategoryBox::cCategoryBox(cEntrySuggestions& suggestions, QWidget* parent, eNew whoAsks)
     : QComboBox(parent),
       m_suggestions(suggestions),
-      m_whoAsks(whoAsks),
-      m_list(nullptr)
+      m_whoAsks(whoAsks)
 {
     setEditable(true);
     setCompleter(nullptr);

@@ -56,7 +56,7 @@ private:
 
     cEntrySuggestions& m_suggestions;
     eNew m_whoAsks;
-    cPickList* m_list;
+    cPickList* m_list = nullptr;
     QString m_path; // as picked; empty while the text is only typed
     QString m_told; // the path that the owner knows of
     QString m_type;
