@@ -28,11 +28,24 @@ QString Codes(const cBankInfoList& banks)
     return codes.join(u' ');
 }
 
-void Install(const cShell& shell, const QByteArray& text)
+// The directory of a program that this file was installed with.
+struct cScene
 {
-    QFile file(shell.InstalledFile(u"banken.tsv"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
+    explicit cScene(const QByteArray& text)
+    {
+        QFile file(Shell.InstalledFile(u"banken.tsv"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    cFakeShell Shell;
+    cBankDirectory Directory{Shell};
+};
+
+QByteArray Shipped()
+{
+    QFile file(QStringLiteral(BANKS));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -42,7 +55,6 @@ class testBankDirectory final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { Install(m_shell, invented); }
     void BestComesFirst_data();
     void BestComesFirst();
     void SaysWhatIsWrong_data();
@@ -52,9 +64,6 @@ private Q_SLOTS:
     void ShippedFileIsWhole();
     void ShippedFileKnowsBanksByTheirUsualNames_data();
     void ShippedFileKnowsBanksByTheirUsualNames();
-
-private:
-    cFakeShell m_shell;
 };
 
 void testBankDirectory::BestComesFirst_data()
@@ -84,10 +93,11 @@ void testBankDirectory::BestComesFirst()
 {
     QFETCH(QString, text);
     QFETCH(QString, codes);
-    const cBankMatches answer = cBankDirectory(m_shell).Search(text, 10);
+    const cScene scene(invented);
+    const cBankMatches answer = scene.Directory.Search(text, 10);
     QCOMPARE(Codes(answer.Banks), codes);
     QCOMPARE(answer.Problem, QString());
-    const cBankMatches shorter = cBankDirectory(m_shell).Search(text, 1);
+    const cBankMatches shorter = scene.Directory.Search(text, 1);
     QCOMPARE(Codes(shorter.Banks), codes.left(2));
     QCOMPARE(shorter.Found, answer.Banks.size());
 }
@@ -114,35 +124,35 @@ void testBankDirectory::SaysWhatIsWrong()
 {
     QFETCH(QString, text);
     QFETCH(QString, words);
-    const cBankMatches answer = cBankDirectory(m_shell).Search(text, 10);
+    const cBankMatches answer = cScene(invented).Directory.Search(text, 10);
     QVERIFY(answer.Banks.isEmpty());
     QVERIFY2(answer.Problem.contains(words), qPrintable(answer.Problem));
 }
 
 void testBankDirectory::MissingFileIsSaid()
 {
-    QVERIFY(QFile::remove(m_shell.InstalledFile(u"banken.tsv"_s)));
+    const cFakeShell shell;
     const QStringList texts{u"Bank"_s, u"10000002"_s, u"DE89370400440532013000"_s};
     for (const QString& text : texts) {
-        QVERIFY(cBankDirectory(m_shell).Search(text, 10).Problem.contains(u"banken.tsv"));
+        QVERIFY(cBankDirectory(shell).Search(text, 10).Problem.contains(u"banken.tsv"));
     }
 }
 
 void testBankDirectory::TellsBanksOfOneNameApart()
 {
-    const cBankDirectory directory(m_shell);
-    const auto title = [&](const QString& code) { return directory.Title(directory.Find(code).value_or(cBankInfo())); };
+    const cScene scene(invented);
+    const auto title = [&](const QString& code) {
+        return scene.Directory.Title(scene.Directory.Find(code).value_or(cBankInfo()));
+    };
     QCOMPARE(title(u"10000005"_s), u"Volksbank, Gießen"_s);
     QCOMPARE(title(u"10000004"_s), u"Volksbank Groß-Gerau"_s);
 }
 
 void testBankDirectory::ShippedFileIsWhole()
 {
-    QFile file(QStringLiteral(BANKS));
-    QVERIFY(file.open(QIODevice::ReadOnly));
     static const QRegularExpression form(
         u"^[0-9]{8}\t([A-Z]{6}[A-Z0-9]{5})?\t[^\t]+\t[^\t]*\t(https://[^\t/]+\\S*)?$"_s);
-    QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+    QStringList lines = QString::fromUtf8(Shipped()).split(u'\n');
     QVERIFY(lines.takeLast().isEmpty());
     lines.removeIf([](const QString& line) { return line.startsWith(u'#'); });
     QVERIFY(lines.size() > 3000);
@@ -176,10 +186,7 @@ void testBankDirectory::ShippedFileKnowsBanksByTheirUsualNames()
     QFETCH(QString, text);
     QFETCH(QString, code);
     QFETCH(QString, url);
-    QFile file(QStringLiteral(BANKS));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    Install(m_shell, file.readAll());
-    const cBankMatches answer = cBankDirectory(m_shell).Search(text, 1);
+    const cBankMatches answer = cScene(Shipped()).Directory.Search(text, 1);
     QCOMPARE(answer.Banks.value(0).Code, code);
     QCOMPARE(answer.Banks.value(0).Url, url);
 }
