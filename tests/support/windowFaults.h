@@ -21,7 +21,7 @@
 
 // What keeps somebody from using a window without mouse or eyes, or from reading it. All of it is looked up in the
 // widgets that are in sight.
-namespace windowFaults {
+namespace modWindowFaults {
 
 inline QString Named(const QWidget& widget)
 {
@@ -224,4 +224,4 @@ inline QStringList All(const QWidget& window)
     return Nameless(window) + DoubleMnemonics(window) + MisreadMnemonics(window) + Clipped(window) + CutValues(window);
 }
 
-} // namespace windowFaults
+} // namespace modWindowFaults

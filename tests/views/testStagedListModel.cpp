@@ -63,7 +63,7 @@ public:
         return lines;
     }
 
-    QString Line(const QModelIndex& line)
+    [[nodiscard]] QString Line(const QModelIndex& line) const
     {
         const QString sum = line.siblingAtColumn(cStagedListModel::Amount).data().toString().chopped(2);
         return Model.IsHead(line) ? line.data().toString() + u": " + sum : QString::number(Model.IdAt(line));

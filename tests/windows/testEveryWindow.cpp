@@ -141,7 +141,7 @@ QStringList FaultsOfAllPages(QWidget& window)
     QStringList faults;
     const auto look = [&] {
         QTest::qWait(5);
-        faults += windowFaults::All(window);
+        faults += modWindowFaults::All(window);
     };
     look();
     const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
@@ -271,7 +271,7 @@ void testEveryWindow::CanBeReadAndOperated()
     window->show();
     QStringList faults = FaultsOfAllPages(*window);
     window->resize(smallScreen);
-    faults += windowFaults::TooLarge(*window, smallScreen) + FaultsOfAllPages(*window);
+    faults += modWindowFaults::TooLarge(*window, smallScreen) + FaultsOfAllPages(*window);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
@@ -293,13 +293,13 @@ void testEveryWindow::FaultsAreFound()
         layout->addWidget(widget);
     }
     window.show();
-    QCOMPARE(windowFaults::DoubleMnemonics(window).size(), 1);
-    QCOMPARE(windowFaults::Nameless(window).size(), 1);
-    QCOMPARE(windowFaults::Clipped(window).size(), 1);
-    QCOMPARE(windowFaults::MisreadMnemonics(window).size(), 1);
-    QCOMPARE(windowFaults::CutValues(window).size(), 1);
+    QCOMPARE(modWindowFaults::DoubleMnemonics(window).size(), 1);
+    QCOMPARE(modWindowFaults::Nameless(window).size(), 1);
+    QCOMPARE(modWindowFaults::Clipped(window).size(), 1);
+    QCOMPARE(modWindowFaults::MisreadMnemonics(window).size(), 1);
+    QCOMPARE(modWindowFaults::CutValues(window).size(), 1);
     window.setMinimumWidth(smallScreen.width() + 1);
-    QCOMPARE(windowFaults::TooLarge(window, smallScreen).size(), 1);
+    QCOMPARE(modWindowFaults::TooLarge(window, smallScreen).size(), 1);
 }
 
 QTEST_MAIN(testEveryWindow)

@@ -66,7 +66,7 @@ public:
         const cTemplateNode* node = Tree(Tabs.currentIndex()).Current();
         return node == nullptr ? QString() : node->Path;
     }
-    cTemplateTree& Tree(int page = 0) { return *qobject_cast<cTemplateTree*>(Tabs.widget(page)); }
+    [[nodiscard]] cTemplateTree& Tree(int page = 0) const { return *qobject_cast<cTemplateTree*>(Tabs.widget(page)); }
 
     cTestBook Book;
     int Id = 0;
@@ -74,6 +74,13 @@ public:
     frmKategorie Window{Manager};
     QTabWidget& Tabs = *Window.findChild<QTabWidget*>();
 };
+
+bool IsField(const QWidget& widget)
+{
+    const bool isOne = widget.inherits("QLineEdit") || widget.inherits("QComboBox") || widget.inherits("QPlainTextEdit")
+        || widget.inherits("QTreeView");
+    return isOne && widget.isVisible() && !widget.parentWidget()->inherits("QComboBox");
+}
 
 } // namespace
 
@@ -256,11 +263,7 @@ private Q_SLOTS:
             }
             QCOMPARE(letters.removeDuplicates(), 0);
             for (const QWidget* widget : widgets) {
-                const bool isField = widget->inherits("QLineEdit") || widget->inherits("QComboBox")
-                    || widget->inherits("QPlainTextEdit") || widget->inherits("QTreeView");
-                if (isField && widget->isVisible() && !widget->parentWidget()->inherits("QComboBox")) {
-                    QVERIFY(named.contains(widget) || !widget->accessibleName().isEmpty());
-                }
+                QVERIFY(!IsField(*widget) || named.contains(widget) || !widget->accessibleName().isEmpty());
             }
         }
     }

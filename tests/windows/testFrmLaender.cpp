@@ -39,7 +39,7 @@ void testFrmLaender::PreviewFollowsTheChoice()
     cMachine machine;
     frmLaender window(machine.Settings);
     window.show();
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     const QList<QComboBox*> combos = window.findChildren<QComboBox*>();
     QCOMPARE(combos.size(), 3);
     auto* amount = window.findChild<QLabel*>(u"amount"_s);

@@ -73,7 +73,7 @@ void testFrmPasswort::StaysUntilThePasswordIsRight()
         QTest::keyClicks(password, QString::fromLatin1(wrong));
         QTest::keyClick(password, Qt::Key_Return);
         QVERIFY(prompt.isVisible());
-        QCOMPARE(windowFaults::All(prompt), QStringList());
+        QCOMPARE(modWindowFaults::All(prompt), QStringList());
         QCOMPARE(Message(prompt),
                  u"Das Passwort ist nicht richtig. Der nächste Versuch ist in %1 s möglich."_s.arg(wait));
         password->setText(u"geheim"_s);
@@ -128,7 +128,7 @@ void testFrmPasswort::SetsAndRemoves()
     }
     frmPasswort window(flow);
     window.show();
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     QTest::keyClicks(Field(window, u"old"_s), u"eins"_s);
     QTest::mouseClick(Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
     QVERIFY(!window.isVisible() && !flow.HasPassword());

@@ -56,7 +56,7 @@ void testFrmSicherungen::FolderAndNumber()
     cMachine machine;
     frmSicherungen window(machine.Settings);
     window.show();
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     auto* count = window.findChild<QSpinBox*>();
     auto* copies = window.findChild<QListWidget*>();
     QCOMPARE(count->value(), 10);

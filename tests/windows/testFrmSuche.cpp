@@ -146,7 +146,7 @@ private Q_SLOTS:
     {
         cScene scene;
         scene.Labelled<QComboBox>(u"Betrag:"_s).setCurrentIndex(3); // all fields in sight
-        QCOMPARE(windowFaults::All(scene.Window).join(u"; "), QString());
+        QCOMPARE(modWindowFaults::All(scene.Window).join(u"; "), QString());
     }
 };
 

@@ -60,7 +60,7 @@ private:
 
         bool begin(QPaintDevice* /*device*/) override { return true; }
         bool end() override { return true; }
-        Type type() const override { return User; }
+        [[nodiscard]] Type type() const override { return User; }
         void updateState(const QPaintEngineState& change) override
         {
             m_pen = (change.state() & DirtyPen) != 0 ? change.pen().color() : m_pen;

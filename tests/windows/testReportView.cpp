@@ -169,7 +169,7 @@ void testReportView::BarsKeepTheirTrack_data()
 void testReportView::BarsKeepTheirTrack()
 {
     QFETCH(int, Percent);
-    cReportDocument report(Html(eReport::Limit, {Group(u"Haushalt"_s, Percent * 100, 10000, {})}), family);
+    cReportDocument report(Html(eReport::Limit, {Group(u"Haushalt"_s, qint64{Percent} * 100, 10000, {})}), family);
     report.LayOut(1200);
     const std::vector<cReportPiece> pieces = report.Pieces();
     const QRect text = PlaceOf(pieces, QString::number(Percent) + u'%');
@@ -328,7 +328,7 @@ void testReportView::NothingIsLostBetweenPages()
 {
     QList<cReportGroup> groups;
     for (int i = 0; i < 60; ++i) {
-        groups.append(Group(u"Gruppe %1"_s.arg(i), 100 * i, 1000, {u"Eins"_s, u"Zwei"_s}));
+        groups.append(Group(u"Gruppe %1"_s.arg(i), qint64{100} * i, 1000, {u"Eins"_s, u"Zwei"_s}));
     }
     const QString html = Html(eReport::Limit, groups);
     cReportDocument report(html, family);
