@@ -23,7 +23,7 @@ constexpr qsizetype mostWords = 100'000;
 const QRegularExpression& Numbers()
 {
     static const QRegularExpression numbers(
-        uR"(\b[A-Z]{2}\d{2}(?: ?[0-9A-Z]{4}){2,}(?: ?[0-9A-Z]{1,4})?\b|\d(?:[ .\-/]?\d){4,})"_s);
+        uR"(\b[A-Z]{2}\d{2}(?: ?[0-9A-Z]{4}){2,}(?: ?[0-9A-Z]{1,4})?\b|\d(?:[ .\-/]{0,3}\d){4,}(?:,\d+)?)"_s);
     return numbers;
 }
 
