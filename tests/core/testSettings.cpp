@@ -35,6 +35,7 @@ constexpr std::array storedSettings{
     "BackupFailed",
     "OwnRules",
     "ImportRuns",
+    "HBCIProdukt",
     "MainZeitraum=Aktuelles Jahr",
     "MainZeitraumStart",
     "MainZeitraumEnd",
@@ -240,11 +241,11 @@ private Q_SLOTS:
             left.append(name + u'=' + value);
         }
         left.sort();
-        QCOMPARE(
-            left,
-            QStringList({u"FirstInstall=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s, u"Passwort=0"_s,
-                         u"PasswortAktiv=0"_s, u"Update=0"_s, u"ViewAccountValueAll=Wahr"_s, u"ViewFixBooking=Wahr"_s,
-                         u"ViewFutureBooking=Wahr"_s, u"ViewSingleBooking=Wahr"_s, u"ViewStartBooking=Wahr"_s}));
+        QCOMPARE(left,
+                 QStringList({u"FirstInstall=0"_s, u"HBCIProdukt=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s,
+                              u"Passwort=0"_s, u"PasswortAktiv=0"_s, u"Update=0"_s, u"ViewAccountValueAll=Wahr"_s,
+                              u"ViewFixBooking=Wahr"_s, u"ViewFutureBooking=Wahr"_s, u"ViewSingleBooking=Wahr"_s,
+                              u"ViewStartBooking=Wahr"_s}));
     }
 
     void VersionAndUpdateDate() const
