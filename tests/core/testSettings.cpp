@@ -148,6 +148,7 @@ private Q_SLOTS:
                                    u"KategorieList"_s,
                                    u"KTO:*"_s,
                                    u"SALDO:*"_s,
+                                   u"ABRUF:*"_s,
                                    u"MAP:*"_s,
                                    u"MAP:KTO:*"_s,
                                    u"MAP:ZS:*=0"_s,
