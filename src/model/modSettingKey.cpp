@@ -34,6 +34,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &BackupFailed,
                                      &OwnRules,
                                      &ImportRuns,
+                                     &BankProduct,
                                      &MainPeriod,
                                      &MainPeriodStart,
                                      &MainPeriodEnd,

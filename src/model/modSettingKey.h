@@ -50,8 +50,9 @@ inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}}; 
 inline const cSettingFamily TableAccounts{QStringLiteral("MAP:KTO:"), {}, {List, Book}};
 inline const cSettingFamily TableCharset{QStringLiteral("MAP:ZS:"), {}, {Number, Book, Cleared, QStringLiteral("0")}};
 inline const cSettingFamily TableBankCode{QStringLiteral("BLZ:"), {}, {Text, Book}};
-// What files may bring along of online banking
+// Online banking: under the bank code the version of the protocol, under longer names what is kept of a login
 inline const cSettingFamily OnlineBank{QStringLiteral("HBCIVBLZ"), {}, {Text, Book, Kept}};
+inline const cSettingKey BankProduct{QStringLiteral("HBCIProdukt"), {Text, Book, Kept}}; // registration identifier
 
 // The view of the main window
 inline const cSettingKey MainPeriod{QStringLiteral("MainZeitraum"), {Text, View, Cleared, modWord::AktuellesJahr}};

@@ -169,10 +169,12 @@ void cJournal::Note(const cRowBefore& row)
         return;
     }
     if (m_back == nullptr && m_depth == 0) {
-        // A write outside of all steps: what they know may not be true any more. Only choices of the view are stored
-        // all the time and are nobody's step.
+        // A write outside of all steps: what they know may not be true any more. Only choices of the view, and what a
+        // bank wants to hear again, are stored all the time and are nobody's step.
         if (key.first != settings) {
             Forget();
+        } else if (!row.IsThere) {
+            ForgetRow(key);
         }
         return;
     }
@@ -180,6 +182,17 @@ void cJournal::Note(const cRowBefore& row)
         return;
     }
     (m_back != nullptr ? *m_back : m_open).Images.push_back({key, row.IsThere ? row.Values() : cBoundList{}});
+}
+
+// A new setting has got the place of one that a step has removed or added. The step would write over it; it goes, with
+// those that come behind it.
+void cJournal::ForgetRow(const cRowKey& key)
+{
+    for (std::deque<cStep>* steps : {&m_undo, &m_redo}) {
+        const auto newest =
+            std::find_if(steps->rbegin(), steps->rend(), [&](const cStep& step) { return step.Known.contains(key); });
+        steps->erase(steps->begin(), newest.base());
+    }
 }
 
 QString cJournal::UndoName() const

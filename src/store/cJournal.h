@@ -88,6 +88,7 @@ private:
     // Runs what may throw; of a failure the user is told under this name.
     [[nodiscard]] bool Try(const char16_t* operation, const std::function<void()>& action);
     void Note(const cRowBefore& row);
+    void ForgetRow(const cRowKey& key);
     void Join(cPart part);
     [[nodiscard]] bool KeepPortion();
     void Move(std::deque<cStep>& from, std::deque<cStep>& to);

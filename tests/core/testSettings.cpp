@@ -116,6 +116,7 @@ private Q_SLOTS:
                                    u"BackupFailed"_s,
                                    u"OwnRules"_s,
                                    u"ImportRuns"_s,
+                                   u"HBCIProdukt"_s,
                                    u"MainZeitraum=Aktuelles Jahr"_s,
                                    u"MainZeitraumStart"_s,
                                    u"MainZeitraumEnd"_s,
@@ -231,11 +232,11 @@ private Q_SLOTS:
             left.append(name + u'=' + value);
         }
         left.sort();
-        QCOMPARE(
-            left,
-            QStringList({u"FirstInstall=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s, u"Passwort=0"_s,
-                         u"PasswortAktiv=0"_s, u"Update=0"_s, u"ViewAccountValueAll=Wahr"_s, u"ViewFixBooking=Wahr"_s,
-                         u"ViewFutureBooking=Wahr"_s, u"ViewSingleBooking=Wahr"_s, u"ViewStartBooking=Wahr"_s}));
+        QCOMPARE(left,
+                 QStringList({u"FirstInstall=0"_s, u"HBCIProdukt=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s,
+                              u"Passwort=0"_s, u"PasswortAktiv=0"_s, u"Update=0"_s, u"ViewAccountValueAll=Wahr"_s,
+                              u"ViewFixBooking=Wahr"_s, u"ViewFutureBooking=Wahr"_s, u"ViewSingleBooking=Wahr"_s,
+                              u"ViewStartBooking=Wahr"_s}));
     }
 
     void VersionAndUpdateDate() const

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void TableWithoutPrimaryKey();
     void FailedStepLeavesNothing();
     void WriteOutsideForgets();
+    void SettingInThePlaceOfAnother();
     void StepsFollowEachOther();
 };
 
@@ -167,6 +168,26 @@ void testUndo::WriteOutsideForgets()
     QCOMPARE(book.Data.Journal().UndoName(), u"gelöscht"_s);
     (void)book.Add([](cEntryItem&) {}); // may have taken the ID of the deleted entry
     QCOMPARE(book.Data.Journal().UndoName(), QString());
+}
+
+// SQLite gives the place of a removed row to the next one.
+void testUndo::SettingInThePlaceOfAnother()
+{
+    cTestBook book;
+    const cSettingKey number = modSettingKey::BankNumber.Of(u"1"_s);
+    QVERIFY(book.Settings->Set(number, u"Girokonto"_s));
+    {
+        const cUndoStep step(book.Data, u"Nummer entfernt"_s);
+        QVERIFY(book.Settings->Delete(number));
+    }
+    {
+        const cUndoStep step(book.Data, u"danach"_s);
+        (void)book.Add([](cEntryItem&) {});
+    }
+    QVERIFY(book.Settings->Set(modSettingKey::MainFilter, u"x"_s));
+    QVERIFY(book.Data.Journal().Undo());
+    QCOMPARE(book.Data.Journal().UndoName(), QString());
+    QCOMPARE(cSettings(book.Data).Get(modSettingKey::MainFilter), u"x"_s);
 }
 
 void testUndo::StepsFollowEachOther()
