@@ -2,6 +2,8 @@
 
 #include "base/modSimilar.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 
 namespace {
@@ -19,6 +21,26 @@ double PurposeScore(const QString& a, const QString& b)
 double AmountScore(qint64 a, qint64 b)
 {
     return static_cast<double>(std::min(a, b)) / static_cast<double>(std::max(a, b));
+}
+
+using cLetters = QVarLengthArray<char16_t, 256>;
+
+cLetters WithoutBlanks(const QString& text)
+{
+    cLetters rest;
+    rest.reserve(text.size());
+    for (const QChar c : text) {
+        if (!c.isSpace()) {
+            rest.append(c.unicode());
+        }
+    }
+    return rest;
+}
+
+size_t HashButBlanks(const QString& text)
+{
+    const cLetters rest = WithoutBlanks(text);
+    return qHashBits(rest.constData(), static_cast<size_t>(rest.size()) * sizeof(char16_t));
 }
 
 } // namespace
@@ -39,6 +61,21 @@ bool cImportEntry::isEqual(const cImportEntry& other) const
         && ImportBeneficiaryAccount == other.ImportBeneficiaryAccount && ImportBeneficiary == other.ImportBeneficiary
         && ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ && ImportPurpose == other.ImportPurpose
         && ImportValue == other.ImportValue;
+}
+
+bool cImportEntry::isEqualButBlanks(const cImportEntry& other) const
+{
+    return ImportDate == other.ImportDate && ImportValue == other.ImportValue && ImportAccount == other.ImportAccount
+        && ImportBeneficiaryAccount == other.ImportBeneficiaryAccount
+        && ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ
+        && WithoutBlanks(ImportBeneficiary) == WithoutBlanks(other.ImportBeneficiary)
+        && WithoutBlanks(ImportPurpose) == WithoutBlanks(other.ImportPurpose);
+}
+
+size_t cImportEntry::EqualHash() const
+{
+    return qHashMulti(0, ImportDate.toJulianDay(), ImportAccount, ImportBeneficiaryAccount, ImportBeneficiaryBLZ,
+                      ImportValue, HashButBlanks(ImportBeneficiary), HashButBlanks(ImportPurpose));
 }
 
 double cImportEntry::isSimilar(const cImportEntry& other) const

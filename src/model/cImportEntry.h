@@ -28,6 +28,11 @@ struct cImportEntry
     // text and currency take no part, so a statement in another format is recognised.
     [[nodiscard]] bool isEqual(const cImportEntry& other) const;
 
+    // Equal but for blanks in purpose and name: formats break long texts at different places.
+    [[nodiscard]] bool isEqualButBlanks(const cImportEntry& other) const;
+    // Rows that are equal, or equal but for blanks, have an equal hash.
+    [[nodiscard]] size_t EqualHash() const;
+
     // How likely the other row is a transaction of the same kind, from 0 to 1.025: expenses by purpose and
     // counterparty, income by purpose and amount. 0 for an expense beside an income.
     [[nodiscard]] double isSimilar(const cImportEntry& other) const;

@@ -44,6 +44,7 @@ inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
 inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};     // number: account of the book
 inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}}; // number
+inline const cSettingFamily Fetched{QStringLiteral("ABRUF:"), {}, {List, Book}};      // bank code and number
 inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}};       // digest of a table's header
 // Not under "KTO:", where the name of a setting is a number of an account; a digest never begins like this.
 inline const cSettingFamily TableAccounts{QStringLiteral("MAP:KTO:"), {}, {List, Book}};

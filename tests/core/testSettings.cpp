@@ -68,6 +68,7 @@ constexpr std::array storedSettings{
     "KategorieList",
     "KTO:*",
     "SALDO:*",
+    "ABRUF:*",
     "MAP:*",
     "MAP:KTO:*",
     "MAP:ZS:*=0",

@@ -8,3 +8,13 @@ cStatementRead cStatementRead::TooMany()
     read.Refusal = cText::Tr("Die Datei hat zu viele Umsätze für einen Kontoauszug. Es wurde nichts übernommen.");
     return read;
 }
+
+void cStatementRead::Append(cStatementRead more)
+{
+    Entries += std::move(more.Entries);
+    Problems += more.Problems;
+    Skipped += more.Skipped;
+    Balances += more.Balances;
+    ClosingBalance = more.ClosingBalance ? more.ClosingBalance : ClosingBalance;
+    NeedsAccount = NeedsAccount || more.NeedsAccount;
+}

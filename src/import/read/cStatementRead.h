@@ -54,6 +54,9 @@ struct cStatementRead
     QString Layout;                  // name of the table layout (a bank's) that was recognised
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
 
+    // Adds what was read of a further part.
+    void Append(cStatementRead more);
+
     // A file with more transactions is no household's statement: readers refuse it before it fills memory.
     static constexpr qsizetype mostEntries = 500'000;
     [[nodiscard]] static cStatementRead TooMany();

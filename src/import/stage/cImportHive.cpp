@@ -46,13 +46,6 @@ qsizetype PlaceFor(const tList& list, int key, const tKey& keyOf)
     return place - list.begin();
 }
 
-// Equal by cImportEntry::isEqual means an equal hash.
-size_t CompareHash(const cImportEntry& entry)
-{
-    return qHashMulti(0, entry.ImportDate.toJulianDay(), entry.ImportAccount, entry.ImportBeneficiaryAccount,
-                      entry.ImportBeneficiary, entry.ImportBeneficiaryBLZ, entry.ImportPurpose, entry.ImportValue);
-}
-
 } // namespace
 
 void cImportHive::setImportEntryList(cImportEntryList entries)
@@ -116,8 +109,23 @@ qint64 cImportHive::GetImportEntrySumByNumber(const QString& account) const
 bool cImportHive::IsImportItemAvail(const cImportEntry& entry) const
 {
     BuildIndex();
-    const auto [first, last] = m_index.equal_range(CompareHash(entry));
+    const auto [first, last] = m_index.equal_range(entry.EqualHash());
     return std::any_of(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqual(entry); });
+}
+
+bool cImportHive::IsAvailButBlanks(const cImportEntry& entry, int newestId) const
+{
+    BuildIndex();
+    const auto [first, last] = m_index.equal_range(entry.EqualHash());
+    bool isAvail = false;
+    for (auto place = first; place != last; ++place) {
+        const cImportEntry& row = m_entries.at(FindRow(*place));
+        if (row.isEqual(entry)) {
+            return false;
+        }
+        isAvail = isAvail || (row.ID <= newestId && row.isEqualButBlanks(entry));
+    }
+    return isAvail;
 }
 
 std::optional<cImportEntry> cImportHive::GetImportEntryByID(int id) const
@@ -234,12 +242,12 @@ void cImportHive::RemoveFromGroup(int entryId, int rowId)
 
 void cImportHive::AddToIndex(const cImportEntry& entry) const
 {
-    m_index.insert(CompareHash(entry), entry.ID);
+    m_index.insert(entry.EqualHash(), entry.ID);
 }
 
 void cImportHive::RemoveFromIndex(const cImportEntry& entry) const
 {
-    m_index.remove(CompareHash(entry), entry.ID);
+    m_index.remove(entry.EqualHash(), entry.ID);
 }
 
 void cImportHive::BuildIndex() const

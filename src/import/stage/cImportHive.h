@@ -31,6 +31,8 @@ public:
     [[nodiscard]] qint64 GetImportEntrySumByNumber(const QString& account) const;
     // The duplicate test: a staged row isEqual the record.
     [[nodiscard]] bool IsImportItemAvail(const cImportEntry& entry) const;
+    // A staged row up to this ID differs from the record in nothing but blanks of its texts, and none is equal.
+    [[nodiscard]] bool IsAvailButBlanks(const cImportEntry& entry, int newestId) const;
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByID(int id) const;
     // Entry ID -1 stands for the rows that are not assigned.
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByAssignedID(int entryId) const;
@@ -64,5 +66,5 @@ private:
 
     // Built by the first duplicate test: readers that never import do not pay for it.
     mutable bool m_isIndexed = false;
-    mutable QMultiHash<size_t, int> m_index; // hash over the compared fields to row ID
+    mutable QMultiHash<size_t, int> m_index; // cImportEntry::EqualHash to row ID
 };

@@ -19,6 +19,8 @@ struct cImportResult
     int Zero = 0;   // transactions without amount, never staged
     int Failed = 0; // transactions that the database did not take, those behind the point of giving up included
     cImportEntryList Duplicates; // not staged because an equal row is; each can be staged with eDuplicateTest::Skip
+    cImportEntryList Alike;      // not staged because one is that differs in nothing but blanks; likewise
+    cImportEntryList Deleted;    // of a fetch: not staged because an earlier one brought it and the user deleted it
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
@@ -31,4 +33,5 @@ struct cImportResult
     cImportEntryList Rows;       // with eStagingRun::Try: what would have been staged
     QString Layout;              // name of the table layout that was recognised
     QString AccountKey;          // of a table, for cTableMemory
+    QString Number;              // of a fetch: its account in the form in which it is staged
 };

@@ -16,10 +16,25 @@ eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
         return eStaged::Zero;
     }
     entry.Validate();
-    if (test == eDuplicateTest::Test && Hive(eKeepCache::FromOthers).IsImportItemAvail(entry)) {
+    if (test == eDuplicateTest::Test && Has(entry)) {
         return eStaged::Duplicate;
     }
     return Add(entry) ? eStaged::Staged : eStaged::Failed;
+}
+
+bool cStaging::Has(const cImportEntry& entry)
+{
+    return Hive(eKeepCache::FromOthers).IsImportItemAvail(entry);
+}
+
+bool cStaging::HasButBlanks(const cImportEntry& entry)
+{
+    return m_newest > 0 && Hive(eKeepCache::FromOthers).IsAvailButBlanks(entry, m_newest);
+}
+
+void cStaging::StartSource()
+{
+    m_newest = Hive(eKeepCache::No).NextId() - 1;
 }
 
 QStringList cStaging::Accounts()

@@ -26,6 +26,14 @@ public:
     // the record carries its ID (0 when nothing is written). On Failed the user has already been told.
     [[nodiscard]] eStaged StageImportEntry(cImportEntry& entry, eDuplicateTest test);
 
+    // Two looks at what would come twice although the test passes it. The record has to be normalised.
+    // An equal row is staged.
+    [[nodiscard]] bool Has(const cImportEntry& entry);
+    // One that differs in nothing but blanks was staged before StartSource was called last.
+    [[nodiscard]] bool HasButBlanks(const cImportEntry& entry);
+    // The records of another file follow. What one source tells apart, if only by a blank, are two transactions.
+    void StartSource();
+
     // The own account numbers of the staged rows, in the order of the rows. Asked before the records of a file are
     // staged, because it also looks for what other programs have written; the single records do not.
     [[nodiscard]] QStringList Accounts();
@@ -36,4 +44,5 @@ private:
 
     cImportHiveCache& m_hive;
     std::optional<cImportHive> m_trial;
+    int m_newest = 0; // row before the present source
 };

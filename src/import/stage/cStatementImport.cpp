@@ -10,9 +10,12 @@
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cFetchedStatement.h"
+#include "import/stage/cFetchMemory.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTableMemory.h"
+#include "import/xml/modCamt.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 
@@ -21,6 +24,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <optional>
 
 namespace {
@@ -115,6 +119,83 @@ private:
     int m_inARow = 0;
 };
 
+// Rows that the operation of staging would take and that are there, or were, all the same.
+class cGate
+{
+public:
+    cGate(cStaging& staging, eDuplicateTest test, const cFetchMemory* memory)
+        : m_staging(staging),
+          m_test(test),
+          m_memory(memory)
+    {
+    }
+
+    [[nodiscard]] bool HoldsBack(const cImportEntry& entry, cImportResult& result)
+    {
+        if (m_test == eDuplicateTest::Skip || entry.ImportValue == 0) {
+            return false;
+        }
+        if (m_staging.HasButBlanks(entry)) {
+            result.Alike.append(entry);
+            return true;
+        }
+        if (m_memory != nullptr && m_memory->HasBrought(entry) && !m_staging.Has(entry)) {
+            result.Deleted.append(entry);
+            return true;
+        }
+        return false;
+    }
+
+private:
+    cStaging& m_staging;
+    eDuplicateTest m_test;
+    const cFetchMemory* m_memory;
+};
+
+// Up to the last line that ends a statement.
+QString WholeStatements(const QString& text)
+{
+    const qsizetype end = qMax(text.lastIndexOf(u"\n-\r"), text.lastIndexOf(u"\n-\n"));
+    return text.endsWith(u"\n-") ? text : text.left(end < 0 ? 0 : end + 2);
+}
+
+qsizetype SizeOf(const cFetchedStatement& fetched)
+{
+    return std::accumulate(fetched.Camt.begin(), fetched.Camt.end(), fetched.Mt940.size(),
+                           [](qsizetype sum, const QByteArray& document) { return sum + document.size(); });
+}
+
+cStatementRead ReadFetched(const cFetchedStatement& fetched, eMissingPurpose missing)
+{
+    cStatementRead all =
+        modMT940::Read(fetched.IsComplete ? fetched.Mt940 : WholeStatements(fetched.Mt940), fetched.Account);
+    if (all.Entries.isEmpty() && !all.Problems.isEmpty()) {
+        all.Refusal = cText::Tr("Die Antwort der Bank kann nicht gelesen werden: {0}", {all.Problems.first().Text});
+    }
+    cReadOptions options;
+    options.Account = fetched.Account;
+    options.MissingPurpose = missing;
+    for (const QByteArray& document : fetched.Camt) {
+        cStatementRead read = modCamt::Read({fetched.Name, document, {}}, options);
+        if (!read.Refusal.isEmpty()) {
+            return read;
+        }
+        all.Append(std::move(read));
+    }
+    return all;
+}
+
+// The balance goes with the account as the bookings name it.
+void AddBalance(const cFetchedStatement& fetched, cStatementRead& read)
+{
+    if (fetched.Balance) {
+        const QString account = !read.Entries.isEmpty() ? read.Entries.first().ImportAccount
+            : !read.Balances.isEmpty()                  ? read.Balances.first().Account
+                                                        : fetched.Account;
+        read.Balances.append({account, *fetched.Balance, fetched.BalanceDay});
+    }
+}
+
 // The result of a file that the user stopped: it names the file and nothing that was in it.
 cImportResult Cancelled(const cImportResult& result)
 {
@@ -145,7 +226,8 @@ void Trace(const cImportResult& result, qsizetype bytes, const QElapsedTimer& ti
 {
     qCInfo(modLog::Import).noquote() << OutcomeOf(result) << "format" << result.Format << "bytes" << bytes
                                      << "transactions" << result.Read << "staged" << result.Staged << "duplicates"
-                                     << result.Duplicates.size() << "zero" << result.Zero << "failed" << result.Failed
+                                     << result.Duplicates.size() << "alike" << result.Alike.size() << "deleted"
+                                     << result.Deleted.size() << "zero" << result.Zero << "failed" << result.Failed
                                      << "skipped" << result.Skipped.size() << "problems" << result.Problems.size()
                                      << "accounts" << result.Accounts.size() << "ms" << time.elapsed();
 }
@@ -222,21 +304,30 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
         read.Problems.prepend({0, modStatementFile::GuessedColumns()});
     }
     progress.showProgressBar(static_cast<int>(read.Entries.size()));
+    StageAsOne(std::move(read), options, progress, result);
+    return result.IsCancelled ? Cancelled(result) : result;
+}
+
+void cStatementImport::StageAsOne(cStatementRead read, const cImportOptions& options, cProgress& progress,
+                                  cImportResult& result, const cFetchedStatement* fetched)
+{
     // What was staged stays when the program is killed: the next reading of the file passes over it.
     const cUndoStep step(m_data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
     cUndoPart part(m_data);
     const int before = RowCount();
-    Stage(std::move(read), options, progress, result);
+    Stage(read, options, progress, result, fetched == nullptr ? nullptr : fetched->Memory);
     if (result.IsCancelled) {
         part.Revert();
-        return Cancelled(result);
+        return;
+    }
+    if (fetched != nullptr) {
+        NoteFetch(read, *fetched, options.Run, result);
     }
     if (!part.Done() || result.Failed > 0) {
         const int staged = std::max(0, RowCount() - before); // without the portions that are lost
         result.Failed += result.Staged - staged;
         result.Staged = staged;
     }
-    return result;
 }
 
 int cStatementImport::RowCount()
@@ -279,12 +370,52 @@ cStatementRead cStatementImport::Read(const cStatementSource& source, eStatement
 qint64 cStatementImport::ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
                                      const QString& defaultAccount)
 {
-    progress.showProgressBar(modMT940::ProgressMaximum(text));
-    cStatementRead read = modMT940::Read(text, defaultAccount);
-    progress.addProgressValue(static_cast<int>(text.count(u":86:")));
+    return ImportFetched({.Name = {}, .Account = defaultAccount, .Mt940 = text}, options, progress)
+        .ClosingBalance.value_or(0);
+}
+
+cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, const cImportOptions& options,
+                                              cProgress& progress)
+{
+    QElapsedTimer time;
+    time.start();
     cImportResult result;
-    Stage(std::move(read), options, progress, result);
-    return result.ClosingBalance.value_or(0);
+    result.File = fetched.Name;
+    if (const QString reason = WhyNot(eStatementFormat::Mt940, options); !reason.isEmpty()) {
+        return Refuse(std::move(result), reason);
+    }
+    progress.showProgressBar(modMT940::ProgressMaximum(fetched.Mt940));
+    cStatementRead read;
+    const auto work = [&] { read = ReadFetched(fetched, options.MissingPurpose); };
+    if (SizeOf(fetched) <= quicklyRead) {
+        work();
+    } else {
+        progress.Run(work);
+    }
+    progress.addProgressValue(static_cast<int>(fetched.Mt940.count(u":86:")));
+    if (!read.Refusal.isEmpty()) {
+        result.Problems = read.Problems;
+        return Refuse(std::move(result), read.Refusal);
+    }
+    AddBalance(fetched, read);
+    StageAsOne(std::move(read), options, progress, result, &fetched);
+    Trace(result, SizeOf(fetched), time);
+    return result.IsCancelled ? Cancelled(result) : result;
+}
+
+// The account's form in the bookings, and what the next fetch has to know.
+void cStatementImport::NoteFetch(const cStatementRead& read, const cFetchedStatement& fetched, eStagingRun run,
+                                 cImportResult& result) const
+{
+    result.Number = !read.Entries.isEmpty() ? read.Entries.first().ImportAccount
+        : !read.Balances.isEmpty()          ? read.Balances.first().Account
+                                            : fetched.Account;
+    if (fetched.Memory == nullptr || run == eStagingRun::Try) {
+        return;
+    }
+    if (!fetched.Memory->Note(read.Entries, fetched.LastDay)) {
+        result.Problems.append({0, cText::Tr("Was dieser Abruf brachte, konnte nicht vermerkt werden.")});
+    }
 }
 
 cStaging& cStatementImport::StagingFor(eStagingRun run)
@@ -296,10 +427,11 @@ cStaging& cStatementImport::StagingFor(eStagingRun run)
     return m_trial ? *m_trial : m_trial.emplace(m_hive, run);
 }
 
-void cStatementImport::Stage(cStatementRead read, const cImportOptions& options, cProgress& progress,
-                             cImportResult& result)
+void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options, cProgress& progress,
+                             cImportResult& result, const cFetchMemory* memory)
 {
     cStaging& staging = StagingFor(options.Run);
+    staging.StartSource();
     UseKnownAccounts(staging.Accounts(), read);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
@@ -307,6 +439,7 @@ void cStatementImport::Stage(cStatementRead read, const cImportOptions& options,
     result.Skipped = read.Skipped;
     result.Accounts = cImportHive::AccountsOf(read.Entries);
     cTally tally(result);
+    cGate gate(staging, options.Duplicates, memory);
     for (int i = 0; i < result.Read; ++i) {
         if (i > 0 && i % progressStep == 0) {
             progress.addProgressValue(progressStep);
@@ -315,7 +448,11 @@ void cStatementImport::Stage(cStatementRead read, const cImportOptions& options,
             result.IsCancelled = true;
             break;
         }
-        cImportEntry entry = read.Entries.at(i);
+        cImportEntry& entry = read.Entries[i];
+        entry.Validate();
+        if (gate.HoldsBack(entry, result)) {
+            continue;
+        }
         const eStaged outcome = staging.StageImportEntry(entry, options.Duplicates);
         tally.Count(outcome, entry);
         if (outcome == eStaged::Staged && options.Run == eStagingRun::Try) {

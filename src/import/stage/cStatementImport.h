@@ -12,7 +12,9 @@
 class cBankBalances;
 class cDataAccess;
 class cImportHiveCache;
+class cFetchMemory;
 class cProgress;
+struct cFetchedStatement;
 struct cStatementSource;
 
 // What becomes of a table whose columns were guessed, cannot be read or lack an account: it is read as far as that
@@ -57,6 +59,13 @@ public:
     qint64 ImportMT940(cProgress& progress, const cImportOptions& options, const QString& text,
                        const QString& defaultAccount);
 
+    // Stages what an online fetch brought of one account, MT940 and camt documents as one. A text that ends before its
+    // end is taken up to the last statement that is whole, for a purpose that was cut off would come again in full.
+    // What one of the documents refuses, nothing is taken of. Rows that an earlier fetch brought and that the user
+    // deleted since are held back.
+    [[nodiscard]] cImportResult ImportFetched(const cFetchedStatement& fetched, const cImportOptions& options,
+                                              cProgress& progress);
+
 private:
     [[nodiscard]] cImportResult ReadAndStage(const cStatementSource& source, const cImportOptions& options,
                                              cProgress& progress);
@@ -64,8 +73,13 @@ private:
                                       const cImportOptions& options, cProgress& progress);
     [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;
     [[nodiscard]] cStaging& StagingFor(eStagingRun run);
-    void Stage(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result);
+    void StageAsOne(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result,
+                    const cFetchedStatement* fetched = nullptr);
+    void Stage(cStatementRead& read, const cImportOptions& options, cProgress& progress, cImportResult& result,
+               const cFetchMemory* memory);
     [[nodiscard]] int RowCount();
+    void NoteFetch(const cStatementRead& read, const cFetchedStatement& fetched, eStagingRun run,
+                   cImportResult& result) const;
     void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
 
     cDataAccess& m_data;

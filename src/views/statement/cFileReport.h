@@ -34,9 +34,9 @@ struct cFileReport
     QString Layout; // name of the table layout that was recognised
     int Read = 0;   // transactions in the file
     int Staged = 0;
-    int Zero = 0;   // without amount
-    int Failed = 0; // that the database did not take
-    cImportEntryList Duplicates;
+    int Zero = 0;                         // without amount
+    int Failed = 0;                       // that the database did not take
+    cImportEntryList Duplicates;          // also those that differ in nothing but blanks
     cImportEntryList Rows;                // of a trial: what would have been staged
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cLine> Problems;

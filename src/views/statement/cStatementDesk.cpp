@@ -68,7 +68,7 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
     report.Staged = result.Staged;
     report.Zero = result.Zero;
     report.Failed = result.Failed;
-    report.Duplicates = result.Duplicates;
+    report.Duplicates = result.Duplicates + result.Alike;
     report.Rows = result.Rows;
     report.ClosingBalance = result.ClosingBalance;
     for (const cReadProblem& problem : result.Problems) {

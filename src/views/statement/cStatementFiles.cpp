@@ -8,6 +8,7 @@
 #include "import/read/modStatementFile.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cFetchedStatement.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cImportResult.h"
 #include "import/stage/cStatementImport.h"
@@ -84,7 +85,7 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
 
 bool cStatementFiles::CanReadAgain() const
 {
-    return m_assist && !m_last.isEmpty() && !m_tools.Data.IsReadOnly();
+    return m_assist && !m_last.isEmpty() && !m_last.constFirst().Path.isEmpty() && !m_tools.Data.IsReadOnly();
 }
 
 void cStatementFiles::ReadAgain(cProgress& progress)
@@ -113,8 +114,7 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
 {
     cRun run{progress, m_assist ? assist : eAssist::WhereNeeded, static_cast<int>(files.size()), 0, 0, {}, {}, {}, {},
              {}};
-    m_leftOut.clear();
-    m_last.clear();
+    Begin();
     bool isStopped = false;
     for (const cFile& file : files) {
         m_last.append(file);
@@ -124,16 +124,33 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
         ++run.Number;
         run.Newest = NewestRow();
         const cImportResult result = ImportFile(file, run);
-        const QList<int> rows = RowsAbove(run.Newest);
-        m_last.last().Rows.append(rows);
-        run.Rows.append(rows);
-        Q_EMIT FileStaged(rows);
-        run.Lines.append(modImportText::Summary(result, m_tools.Format));
-        KeepLeftOut(result);
-        run.Numbers.append(result.Accounts);
+        Note(result, run);
         isStopped = result.IsCancelled;
     }
-    progress.hideProgressBar();
+    End(run);
+}
+
+void cStatementFiles::Begin()
+{
+    m_leftOut.clear();
+    m_last.clear();
+}
+
+// What came of the file that m_last ends with.
+void cStatementFiles::Note(const cImportResult& result, cRun& run)
+{
+    const QList<int> rows = RowsAbove(run.Newest);
+    m_last.last().Rows.append(rows);
+    run.Rows.append(rows);
+    Q_EMIT FileStaged(rows);
+    run.Lines.append(modImportText::Summary(result, m_tools.Format));
+    KeepLeftOut(result);
+    run.Numbers.append(result.Accounts);
+}
+
+void cStatementFiles::End(const cRun& run)
+{
+    run.Progress.hideProgressBar();
     // The list stands behind the questions that follow, so that the user sees what they are about.
     Q_EMIT Imported(run.Lines);
     Q_EMIT LeftOutChanged();
@@ -142,6 +159,39 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
     }
     AskAccounts(run.Numbers);
     Q_EMIT RowsStaged(run.Rows);
+}
+
+void cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress, const fnTaken& taken)
+{
+    {
+        const QScopedValueRollback running(m_isRunning, true);
+        Q_EMIT ImportStarts();
+        const cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
+        cRun run{progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, {}, {}, {}, {}, {}};
+        Begin();
+        for (qsizetype place = 0; place < statements.size(); ++place) {
+            m_last.append(cFile());
+            run.Newest = NewestRow();
+            const cImportResult result = m_works->Import.ImportFetched(statements.at(place), {}, progress);
+            AssignFetched(statements.at(place), result);
+            Note(result, run);
+            taken(place, result);
+            if (result.IsCancelled) {
+                break;
+            }
+        }
+        End(run);
+    }
+    ImportFiles({}, progress); // those that were dropped meanwhile
+}
+
+// Under whatever number an account tells its bookings, they are those of the account that was asked for.
+void cStatementFiles::AssignFetched(const cFetchedStatement& statement, const cImportResult& result)
+{
+    const QStringList unknown = statement.BookAccount.isEmpty() ? QStringList() : m_accounts.Unknown(result.Accounts);
+    for (const QString& number : unknown) {
+        (void)m_accounts.Assign(number, statement.BookAccount); // of a refusal the user has been told
+    }
 }
 
 cImportResult cStatementFiles::ImportFile(const cFile& file, cRun& run)
@@ -295,6 +345,12 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
 {
     for (const cImportEntry& row : result.Duplicates) {
         m_leftOut.append({row, cText::Tr("schon vorhanden")});
+    }
+    for (const cImportEntry& row : result.Alike) {
+        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen")});
+    }
+    for (const cImportEntry& row : result.Deleted) {
+        m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht")});
     }
     for (const cSkippedRow& row : result.Skipped) {
         if (!result.IsRefused && row.Entry.ImportDate.isValid() && row.Entry.ImportValue != 0) {

@@ -16,6 +16,7 @@ class cImportAssistant;
 class cImportHiveCache;
 class cProgress;
 struct cBookTools;
+struct cFetchedStatement;
 struct cImportResult;
 
 // Statement files into staged rows, with the questions that this takes.
@@ -42,6 +43,11 @@ public:
     void ChooseFiles(cProgress& progress, eAssist assist = eAssist::WhereNeeded);
     // Reads the files and asks for the accounts of new numbers. A file that the user stops brings nothing.
     void ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist = eAssist::WhereNeeded);
+
+    // Takes what an online fetch brought, an account like a file, all of it as one step. Only numbers whose account of
+    // the book is not known are asked about. `taken` is told within the step what came of each, by its place.
+    using fnTaken = std::function<void(qsizetype place, const cImportResult& result)>;
+    void TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress, const fnTaken& taken);
 
     // Reads the last files once more with the assistant. What they brought and is still open goes, in the same step.
     [[nodiscard]] bool CanReadAgain() const;
@@ -78,7 +84,7 @@ private:
     // A file of a run, with the rows that it brought.
     struct cFile
     {
-        QString Path;
+        QString Path; // empty: an account that was fetched
         QList<int> Rows;
     };
     struct cLeftOut
@@ -89,6 +95,10 @@ private:
     struct cRun; // what one run over several files has so far
 
     void Run(const QList<cFile>& files, cProgress& progress, eAssist assist);
+    void Begin();
+    void Note(const cImportResult& result, cRun& run);
+    void End(const cRun& run);
+    void AssignFetched(const cFetchedStatement& statement, const cImportResult& result);
     [[nodiscard]] cImportResult ImportFile(const cFile& file, cRun& run);
     [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
     [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cRun& run);

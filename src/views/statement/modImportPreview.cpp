@@ -35,8 +35,8 @@ QString modImportPreview::Count(const cImportResult& result, const cAmountFormat
             cText::Tr("vom {0} bis {1}", {modDate::ToGerman(first->ImportDate), modDate::ToGerman(last->ImportDate)}));
         parts.append(cText::Tr("zusammen {0}", {format.Cents(sum)}));
     }
-    if (!result.Duplicates.isEmpty()) {
-        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(result.Duplicates.size())}));
+    if (const qsizetype known = result.Duplicates.size() + result.Alike.size(); known > 0) {
+        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(known)}));
     }
     if (!result.Skipped.isEmpty()) {
         parts.append(cText::Tr("{0} ausgelassen", {QString::number(result.Skipped.size())}));
@@ -53,7 +53,7 @@ QStringList modImportPreview::LeftOut(const cImportResult& result, const cAmount
     for (const cSkippedRow& row : result.Skipped) {
         lines.append(modImportText::Problem(row.Reason));
     }
-    for (const cImportEntry& row : result.Duplicates) {
+    for (const cImportEntry& row : result.Duplicates + result.Alike) {
         lines.append(cText::Tr("schon vorhanden: {0}", {modImportText::Row(row, format)}));
     }
     if (result.Zero > 0) {

@@ -25,8 +25,11 @@ QString modImportText::Numbers(const cImportResult& result, const cAmountFormat&
 {
     QStringList parts{cText::Tr("{0} gelesen", {QString::number(result.Read)}),
                       cText::Tr("{0} neu", {QString::number(result.Staged)})};
-    if (!result.Duplicates.isEmpty()) {
-        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(result.Duplicates.size())}));
+    if (const qsizetype known = result.Duplicates.size() + result.Alike.size(); known > 0) {
+        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(known)}));
+    }
+    if (!result.Deleted.isEmpty()) {
+        parts.append(cText::Tr("{0} früher gelöscht", {QString::number(result.Deleted.size())}));
     }
     if (result.Zero > 0) {
         parts.append(cText::Tr("{0} ohne Betrag", {QString::number(result.Zero)}));

@@ -1,0 +1,66 @@
+#include "import/stage/cFetchMemory.h"
+
+#include "base/modDate.h"
+#include "core/cSettings.h"
+#include "model/modSettingKey.h"
+
+#include <QCryptographicHash>
+#include <QStringList>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype digestSize = 16; // of hexadecimal digits: far more than a few hundred rows need
+
+QString WithoutBlanks(QString text)
+{
+    return text.removeIf([](QChar c) { return c.isSpace(); });
+}
+
+// The account is that of the setting; it may be staged in another form after a change of formats.
+QString DigestOf(const cImportEntry& row)
+{
+    const QStringList fields{modDate::ToIso(row.ImportDate),       QString::number(row.ImportValue),
+                             row.ImportBeneficiaryAccount,         row.ImportBeneficiaryBLZ,
+                             WithoutBlanks(row.ImportBeneficiary), WithoutBlanks(row.ImportPurpose)};
+    const QByteArray digest =
+        QCryptographicHash::hash(fields.join(u'\n').toUtf8(), QCryptographicHash::Sha1).toHex().left(digestSize);
+    return QString::fromLatin1(digest);
+}
+
+} // namespace
+
+// "2026-03-10=3f…;2026-03-11=a0…"
+cFetchMemory::cFetchMemory(cSettings& settings, const QString& account) : m_settings(settings), m_account(account)
+{
+    const QStringList parts = settings.Get(modSettingKey::Fetched.Of(account)).split(u';', Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        if (const QDate day = modDate::FromIso(part.section(u'=', 0, 0)); day.isValid()) {
+            m_rows.insert(part.section(u'=', 1), day);
+            m_oldest = m_oldest.isValid() ? qMin(m_oldest, day) : day;
+        }
+    }
+}
+
+bool cFetchMemory::HasBrought(const cImportEntry& row) const
+{
+    return m_oldest.isValid() && row.ImportDate >= m_oldest && m_rows.contains(DigestOf(row));
+}
+
+bool cFetchMemory::Note(const cImportEntryList& rows, QDate day)
+{
+    m_oldest = day.addDays(-KeptDays);
+    for (const cImportEntry& row : rows) {
+        if (row.ImportDate >= m_oldest) {
+            m_rows.insert(DigestOf(row), row.ImportDate);
+        }
+    }
+    m_rows.removeIf([this](auto row) { return row.value() < m_oldest; });
+    QStringList kept;
+    for (auto row = m_rows.constKeyValueBegin(); row != m_rows.constKeyValueEnd(); ++row) {
+        kept.append(modDate::ToIso(row->second) + u'=' + row->first);
+    }
+    kept.sort();
+    return m_settings.Set(modSettingKey::Fetched.Of(m_account), kept.join(u';'));
+}

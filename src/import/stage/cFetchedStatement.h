@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDate>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+class cFetchMemory;
+
+// What an online fetch brought of one account.
+struct cFetchedStatement
+{
+    QString Name;                    // of the account, for the user
+    QString Account;                 // number that was asked for
+    QString BookAccount{};           // of the book, to which it belongs; empty when that is not known
+    QString Mt940{};                 // all booked statements of the answer
+    QList<QByteArray> Camt{};        // all booked documents
+    std::optional<qint64> Balance{}; // cents, signed, which the bank told beside them
+    QDate BalanceDay{};
+    bool IsComplete = true;         // false: the dialog ended before all had come
+    QDate LastDay{};                // up to which was asked
+    cFetchMemory* Memory = nullptr; // of the account; may be missing
+};

@@ -1,0 +1,504 @@
+#include "views/bank/cBankFetch.h"
+
+#include "base/cBankUser.h"
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
+#include "fints/cBankLog.h"
+#include "fints/HBCIBusiness.h"
+#include "fints/modBankParameters.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/cFetchedStatement.h"
+#include "import/stage/cFetchMemory.h"
+#include "import/stage/cImportResult.h"
+#include "store/cDataAccess.h"
+#include "views/ledger/cStatementLedger.h"
+#include "views/ledger/modBalanceText.h"
+#include "views/statement/cStatementFiles.h"
+#include "views/statement/modImportText.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int overlap = 10;           // days that are fetched once more
+constexpr int daysWithoutTan = 89;    // the law lets banks give so many without another one
+constexpr qsizetype mostProblems = 5; // named of one account
+constexpr qsizetype ibanGroup = 4;    // characters between two blanks
+
+QString BankName(const cBankState& state)
+{
+    return state.BankName.isEmpty() ? state.BankCode : state.BankName;
+}
+
+QString Grouped(const QString& iban)
+{
+    QString text;
+    for (qsizetype at = 0; at < iban.size(); at += ibanGroup) {
+        text += (at > 0 ? u" "_s : QString()) + iban.mid(at, ibanGroup);
+    }
+    return text;
+}
+
+QString NameOf(const cBankAccount& account)
+{
+    QStringList parts{account.ProductName.simplified(),
+                      account.Iban.isEmpty() ? account.Number : Grouped(account.Iban)};
+    parts.removeAll(QString());
+    return parts.join(u", "_s);
+}
+
+// As statements name it: their reader leaves leading zeros out.
+QString NumberIn(const cBankAccount& account)
+{
+    QString number = account.Number;
+    while (number.startsWith(u'0')) {
+        number.removeFirst();
+    }
+    return number.isEmpty() ? account.Iban : number;
+}
+
+QString MemoryKey(const cBankState& state, const cBankAccount& account)
+{
+    return state.BankCode + u':' + (account.Number.isEmpty() ? account.Iban : account.Number) + account.SubNumber;
+}
+
+QString LastText(QDate day)
+{
+    return day.isValid() ? cText::Tr("zuletzt abgerufen am {0}", {modDate::ToGerman(day)})
+                         : cText::Tr("noch nie abgerufen");
+}
+
+// For how many days the bank has the bookings of an account; 0: it does not say.
+int KeptDays(const cBankState& state, const cBankAccount& account)
+{
+    constexpr int mostKaz = 7;
+    const bool isKaz =
+        account.Orders.contains(u"HKKAZ"_s) && modBankParameters::Version(state.Parameters, "HIKAZS", mostKaz) > 0;
+    return modBankParameters::StatementDays(state.Parameters, isKaz ? "HIKAZS" : "HICAZS");
+}
+
+// The IBAN may have become known on the way.
+bool IsSame(const cBankAccount& a, const cBankAccount& b)
+{
+    return a.Number == b.Number && a.SubNumber == b.SubNumber
+        && (a.Iban == b.Iban || (!a.Number.isEmpty() && (a.Iban.isEmpty() || b.Iban.isEmpty())));
+}
+
+QString Missing(QDate from, QDate to, const QString& why)
+{
+    return cText::Tr("Umsätze vom {0} bis {1} wurden nicht abgerufen: {2}",
+                     {modDate::ToGerman(from), modDate::ToGerman(to), why});
+}
+
+cBankFailure Cancelled()
+{
+    return {eBankFault::Cancelled, cText::Tr("Der Abruf wurde abgebrochen."), {}};
+}
+
+} // namespace
+
+struct cBankFetch::cLogin
+{
+    cBankState State;
+    QList<cBankAccount> Accounts;
+    qsizetype First = 0; // place of the first one
+};
+
+struct cBankFetch::cJob
+{
+    cLogin* Login;
+    QList<qsizetype> Places;
+    QList<cFetchOrder> Orders;
+};
+
+struct cBankFetch::cCame
+{
+    qsizetype Place;
+    const cLogin* Login;
+    cFetchOrder Order;
+    cBankFailure Failure; // set when not all came
+    bool HasBalance;
+    bool IsNamed; // the first day, by the user
+};
+
+struct cBankFetch::cRun
+{
+    bool IsNamed; // the first day, by the user
+    QList<cFetchedStatement> Statements{};
+    std::vector<cCame> Came{}; // of these
+    std::vector<std::unique_ptr<cFetchMemory>> Memories{};
+};
+
+cBankFetch::cBankFetch(const cBookTools& tools, cStatementFiles& files, const cPorts& ports, QObject* parent)
+    : QObject(parent),
+      m_tools(tools),
+      m_files(files),
+      m_ports(ports),
+      m_access(tools),
+      m_log(std::make_unique<cBankLog>())
+{
+    m_dialog = [this](cBankState& state, const cSecret& pin, const QList<cFetchOrder>& orders,
+                      QList<cFetchedAccount>& fetched) {
+        HBCIBusiness business(
+            {m_ports.Https, m_ports.User, m_tools.Clock, *m_log, m_access.ProductId(), m_ports.ProductVersion}, state,
+            pin);
+        const bool isDone = business.FetchAll(orders);
+        fetched = business.Fetched();
+        return isDone ? cBankFailure() : business.Failure();
+    };
+    Load();
+}
+
+cBankFetch::~cBankFetch() = default;
+
+void cBankFetch::Load()
+{
+    m_logins.clear();
+    m_accounts.clear();
+    const QList<cBankState> banks = m_access.Banks();
+    for (const cBankState& state : banks) {
+        m_logins.push_back({state, m_access.Chosen(state), m_accounts.size()});
+        for (const cBankAccount& account : std::as_const(m_logins.back().Accounts)) {
+            const QDate last = m_access.LastFetch(state, account);
+            m_accounts.append({BankName(state), state.BankCode, state.UserId, NameOf(account), account.Number,
+                               account.Iban, m_access.BookAccountOf(account), last, LastText(last)});
+        }
+    }
+    m_lines = QList<cLine>(m_accounts.size());
+}
+
+QString cBankFetch::EmptyHint() const
+{
+    return m_accounts.isEmpty()
+        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Richten Sie unter \"Bankzugänge…\" eines ein.")
+        : QString();
+}
+
+QDate cBankFetch::Today() const
+{
+    return m_tools.Clock.Today();
+}
+
+QDate cBankFetch::FirstDay(qsizetype account) const
+{
+    const QDate last = m_accounts.at(account).LastFetch;
+    return last.isValid() ? qMin(last, Today()).addDays(-overlap) : Today().addDays(-daysWithoutTan);
+}
+
+bool cBankFetch::Run(const cWish& wish, cProgress& progress)
+{
+    m_lines = QList<cLine>(m_accounts.size());
+    std::vector<cJob> jobs = Jobs(wish);
+    bool isDone = IsPossible(wish, jobs) && AskAboutOld(jobs);
+    if (isDone) {
+        cRun run{wish.From.isValid()};
+        for (cJob& job : jobs) {
+            if (m_ports.User.IsCancelled()) {
+                FailAll(job, Cancelled());
+            } else {
+                Fetch(job, run);
+            }
+        }
+        Stage(run, progress);
+        isDone = std::all_of(m_lines.begin(), m_lines.end(), [](const cLine& line) {
+            return line.State == eState::Idle || line.State == eState::Done;
+        });
+    }
+    Q_EMIT Finished(isDone);
+    return isDone;
+}
+
+std::vector<cBankFetch::cJob> cBankFetch::Jobs(const cWish& wish)
+{
+    std::vector<cJob> jobs;
+    for (cLogin& login : m_logins) {
+        cJob job{&login, {}, {}};
+        for (qsizetype place = login.First; place < login.First + login.Accounts.size(); ++place) {
+            if (wish.Accounts.isEmpty() || wish.Accounts.contains(place)) {
+                job.Places.append(place);
+                job.Orders.append(Order(login, place, wish));
+                cLine& line = m_lines[place];
+                line.State = eState::Waiting;
+                Q_EMIT LineChanged(place);
+            }
+        }
+        if (!job.Places.isEmpty()) {
+            jobs.push_back(std::move(job));
+        }
+    }
+    return jobs;
+}
+
+// Banks refuse days that they do not keep and days to come.
+cFetchOrder cBankFetch::Order(const cLogin& login, qsizetype place, const cWish& wish)
+{
+    cFetchOrder order{login.Accounts.at(place - login.First), wish.From.isValid() ? wish.From : FirstDay(place),
+                      wish.To.isValid() ? qMin(wish.To, Today()) : Today()};
+    const int kept = KeptDays(login.State, order.Account);
+    if (const QDate oldest = Today().addDays(-kept); kept > 0 && order.From < oldest) {
+        m_lines[place].Notes.append(
+            Missing(order.From, oldest.addDays(-1),
+                    cText::Tr("die Bank hält nur die letzten {0} Tage bereit.", {QString::number(kept)})));
+        order.From = oldest;
+    }
+    return order;
+}
+
+bool cBankFetch::IsPossible(const cWish& wish, const std::vector<cJob>& jobs)
+{
+    QString reason;
+    if (jobs.empty()) {
+        reason = EmptyHint();
+    } else if (m_tools.Data.IsReadOnly()) {
+        reason = cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Umsätze können nicht übernommen werden.");
+    } else if (wish.From.isValid() && wish.From > (wish.To.isValid() ? qMin(wish.To, Today()) : Today())) {
+        reason = cText::Tr("Der erste Tag des Zeitraums muss vor dem letzten liegen und darf nicht in der Zukunft "
+                           "liegen.");
+    }
+    if (!reason.isEmpty()) {
+        m_tools.User.Show(eTone::Exclamation, reason, cText::Tr("Umsätze abrufen"));
+    }
+    return reason.isEmpty();
+}
+
+// Once for the whole run. False when the user gives up.
+bool cBankFetch::AskAboutOld(std::vector<cJob>& jobs)
+{
+    const QDate oldest = Today().addDays(-daysWithoutTan);
+    const auto isOld = [&](const cFetchOrder& order) { return order.From < oldest; };
+    const bool hasOld = std::any_of(jobs.begin(), jobs.end(), [&](const cJob& job) {
+        return std::any_of(job.Orders.begin(), job.Orders.end(), isOld);
+    });
+    if (!hasOld) {
+        return true;
+    }
+    const eAnswer answer = m_tools.User.Ask(
+        {.Text = cText::Tr("Sie rufen auch Umsätze ab, die vor dem {0} gebucht wurden; dafür verlangt die Bank eine "
+                           "TAN.\nSollen diese älteren Umsätze mit abgerufen werden?",
+                           {modDate::ToGerman(oldest)}),
+         .Title = cText::Tr("Ältere Umsätze"),
+         .Buttons = eButtons::YesNoCancel});
+    for (cJob& job : jobs) {
+        for (qsizetype i = 0; answer == eAnswer::No && i < job.Orders.size(); ++i) {
+            cFetchOrder& order = job.Orders[i];
+            if (isOld(order)) {
+                m_lines[job.Places.at(i)].Notes.append(
+                    Missing(order.From, oldest.addDays(-1), cText::Tr("Sie wollten sie ohne TAN nicht.")));
+                order.From = oldest;
+                order.To = qMax(order.To, oldest);
+            }
+        }
+    }
+    return answer != eAnswer::Cancel;
+}
+
+void cBankFetch::Fetch(cJob& job, cRun& run)
+{
+    cBankState& state = job.Login->State;
+    Q_EMIT StepShown(cText::Tr("{0}: Umsätze werden abgerufen …", {BankName(state)}));
+    for (const qsizetype place : std::as_const(job.Places)) {
+        m_lines[place].State = eState::Asked;
+        Q_EMIT LineChanged(place);
+    }
+    // Without an identifier nothing is sent, so the PIN is not asked for either.
+    std::optional<cSecret> pin = cSecret();
+    if (!m_access.ProductId().isEmpty()) {
+        pin = m_ports.User.AskPin(
+            {BankName(state), state.BankCode, state.UserId, modBankParameters::UserIdLabel(state.Parameters)});
+    }
+    if (!pin) {
+        FailAll(job, {eBankFault::Cancelled, cText::Tr("Ohne PIN wurde nichts abgerufen."), {}});
+        return;
+    }
+    QList<cFetchedAccount> fetched;
+    const cBankFailure failure = m_dialog(state, *pin, job.Orders, fetched);
+    // Before the step: what the bank wants to hear again is true whatever becomes of the rows.
+    (void)m_access.Save(state); // of a refusal the user has been told
+    Take(job, fetched, failure, run);
+}
+
+void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cBankFailure& failure, cRun& run)
+{
+    for (qsizetype i = 0; i < job.Orders.size(); ++i) {
+        const cFetchOrder& order = job.Orders.at(i);
+        const qsizetype place = job.Places.at(i);
+        const auto found = std::find_if(fetched.begin(), fetched.end(), [&](const cFetchedAccount& each) {
+            return IsSame(each.Account, order.Account);
+        });
+        if (found == fetched.end()) {
+            Fail(
+                place,
+                failure.IsSet()
+                    ? failure
+                    : cBankFailure{eBankFault::Other, cText::Tr("Die Bank hat zu diesem Konto nichts geschickt."), {}});
+            continue;
+        }
+        if (found->Failure.IsSet() && found->MT940.isEmpty() && found->Camt.isEmpty()) {
+            Fail(place, found->Failure);
+            continue;
+        }
+        run.Memories.push_back(
+            std::make_unique<cFetchMemory>(m_tools.Settings, MemoryKey(job.Login->State, order.Account)));
+        run.Came.push_back({place, job.Login, order, found->Failure, found->Balance.has_value(), run.IsNamed});
+        run.Statements.append({.Name = m_accounts.at(place).Name,
+                               .Account = NumberIn(order.Account),
+                               .BookAccount = m_access.BookAccountOf(order.Account),
+                               .Mt940 = std::move(found->MT940),
+                               .Camt = std::move(found->Camt),
+                               .Balance = found->Balance,
+                               .BalanceDay = found->BalanceDay,
+                               .IsComplete = !found->Failure.IsSet(),
+                               .LastDay = order.To,
+                               .Memory = run.Memories.back().get()});
+        m_lines[place].State = eState::Came;
+        Q_EMIT LineChanged(place);
+    }
+}
+
+void cBankFetch::Stage(cRun& run, cProgress& progress)
+{
+    if (run.Statements.isEmpty()) {
+        return;
+    }
+    Q_EMIT StepShown(cText::Tr("Die Umsätze werden übernommen …"));
+    m_files.TakeFetched(run.Statements, progress, [&](qsizetype place, const cImportResult& result) {
+        NoteTaken(run.Came[static_cast<std::size_t>(place)], result);
+    });
+    for (const cCame& came : run.Came) {
+        if (m_lines.at(came.Place).State == eState::Came) {
+            Fail(came.Place, Cancelled()); // one before it was stopped
+        }
+    }
+}
+
+void cBankFetch::NoteTaken(const cCame& came, const cImportResult& result)
+{
+    cLine& line = m_lines[came.Place];
+    if (result.IsCancelled || result.IsRefused) {
+        Fail(came.Place, result.IsCancelled ? Cancelled() : cBankFailure{eBankFault::BrokenAnswer, result.Message, {}});
+        return;
+    }
+    line.From = came.Order.From;
+    line.To = came.Order.To;
+    line.New = result.Staged;
+    line.Known = static_cast<int>(result.Duplicates.size() + result.Alike.size());
+    line.LeftOut = result.Zero + static_cast<int>(result.Skipped.size() + result.Deleted.size());
+    line.Text = modImportText::Numbers(result, m_tools.Format);
+    for (const cReadProblem& problem : result.Problems.first(qMin(result.Problems.size(), mostProblems))) {
+        line.Notes.append(modImportText::Problem(problem));
+    }
+    NoteBalance(came, result, line);
+    if (came.Failure.IsSet() || result.Failed > 0) {
+        Fail(came.Place, came.Failure.IsSet() ? came.Failure : cBankFailure{eBankFault::Other, result.Message, {}});
+        return;
+    }
+    NoteLastFetch(came);
+    line.State = eState::Done;
+    Q_EMIT LineChanged(came.Place);
+}
+
+// What the bank says it holds, and since when the rows do not lead there.
+void cBankFetch::NoteBalance(const cCame& came, const cImportResult& result, cLine& line)
+{
+    const cBankBalanceList balances = cBankBalances(m_tools.Settings).Of(result.Number);
+    if (balances.isEmpty() || (!came.HasBalance && !result.ClosingBalance)) {
+        return;
+    }
+    line.Balance = balances.last().Cents;
+    line.BalanceText =
+        cText::Tr("{0} am {1}", {m_tools.Format.Cents(balances.last().Cents), modDate::ToGerman(balances.last().Day)});
+    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
+    ledger.Load(result.Number);
+    const QList<modBalanceCheck::cFault>& faults = ledger.Check().Faults;
+    if (!faults.isEmpty() && faults.last().To >= came.Order.From) {
+        line.Notes.append(modBalanceText::Fault(ledger, faults.last(), m_tools.Format));
+    }
+}
+
+// A period that the user named and that begins behind the last fetch leaves a gap, which the next one has to fill.
+void cBankFetch::NoteLastFetch(const cCame& came)
+{
+    const cBankState& state = came.Login->State;
+    const QList<cBankAccount> accounts = m_access.Chosen(state); // as the bank tells of them now
+    const auto account = std::find_if(accounts.begin(), accounts.end(),
+                                      [&](const cBankAccount& each) { return IsSame(each, came.Order.Account); });
+    if (account == accounts.end()) {
+        return;
+    }
+    const QDate last = m_access.LastFetch(state, *account);
+    if (came.IsNamed && last.isValid() && came.Order.From > last.addDays(1)) {
+        return;
+    }
+    const QDate day = qMax(last, came.Order.To);
+    if (m_access.SetLastFetch(state, *account, day)) {
+        m_accounts[came.Place].LastFetch = day;
+        m_accounts[came.Place].LastText = LastText(day);
+    }
+}
+
+void cBankFetch::FailAll(const cJob& job, const cBankFailure& failure)
+{
+    for (const qsizetype place : job.Places) {
+        Fail(place, failure);
+    }
+}
+
+void cBankFetch::Fail(qsizetype place, const cBankFailure& failure)
+{
+    cLine& line = m_lines[place];
+    line.State = eState::Failed;
+    line.Failure = failure;
+    line.Text = line.New > 0 ? line.Text : failure.Text;
+    Q_EMIT LineChanged(place);
+}
+
+QString cBankFetch::Summary() const
+{
+    const auto count = [&](eState state) {
+        return std::count_if(m_lines.begin(), m_lines.end(), [&](const cLine& line) { return line.State == state; });
+    };
+    int rows = 0;
+    for (const cLine& line : m_lines) {
+        rows += line.New;
+    }
+    const auto done = count(eState::Done);
+    const auto failed = count(eState::Failed);
+    const QString news = rows == 0 ? cText::Tr("Keine neuen Umsätze.")
+        : rows == 1                ? cText::Tr("Ein neuer Umsatz.")
+                                   : cText::Tr("{0} neue Umsätze.", {QString::number(rows)});
+    if (failed == 0) {
+        return news;
+    }
+    if (done == 0 && rows == 0) {
+        return cText::Tr("Es konnte nichts abgerufen werden.");
+    }
+    return news + u' '
+        + (failed == 1 ? cText::Tr("Ein Konto wurde nicht oder nicht ganz abgerufen.")
+                       : cText::Tr("{0} Konten wurden nicht oder nicht ganz abgerufen.", {QString::number(failed)}));
+}
+
+QString cBankFetch::LogText() const
+{
+    return m_log->Text();
+}
+
+QString cBankFetch::LogForOthers() const
+{
+    QStringList people;
+    for (const cLogin& login : m_logins) {
+        people.append(login.State.UserId);
+        for (const cBankAccount& account : login.Accounts) {
+            people += {account.Number, account.Iban, account.Owner1, account.Owner2, account.CustomerId};
+        }
+    }
+    people.removeDuplicates();
+    people.removeAll(QString());
+    return m_log->TextForOthers(people);
+}

@@ -1,0 +1,169 @@
+#include "cImportBook.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/cFetchedStatement.h"
+#include "import/stage/cFetchMemory.h"
+#include "import/stage/cStatementImport.h"
+#include "store/cUndoStep.h"
+#include "support/bankMonth.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString account = u"0001234567"_s;
+
+// A book with an import that fetches and reads files of one account.
+struct cFetchBook : cImportBook
+{
+    cImportResult Fetch(const QString& mt940, const QList<QByteArray>& camt = {}, bool isComplete = true)
+    {
+        cFetchMemory memory(*Settings, account);
+        cNoProgress progress;
+        return Import.ImportFetched({.Name = u"Giro"_s,
+                                     .Account = u"1234567"_s,
+                                     .Mt940 = mt940,
+                                     .Camt = camt,
+                                     .IsComplete = isComplete,
+                                     .LastDay = QDate(2026, 3, 15),
+                                     .Memory = &memory},
+                                    {}, progress);
+    }
+
+    cImportResult ReadFile(const QString& name, const QByteArray& bytes)
+    {
+        cNoProgress progress;
+        return Import.ImportSource(modStatementFormat::Source(name, bytes), {}, progress);
+    }
+
+    int Count() { return Hive.GetImportHive().Count(); }
+
+    cBankBalances Balances{*Settings};
+    cStatementImport Import{Data, Hive, nullptr, &Balances};
+};
+
+} // namespace
+
+class testFetchedStatement : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The same days in both formats, by both ways, in any order: no row twice, and those that were broken elsewhere are
+    // listed as such.
+    void TellsNoBookingTwice_data()
+    {
+        QTest::addColumn<QStringList>("ways");
+        QTest::newRow("fetched twice") << QStringList{u"M"_s, u"M"_s, u"C"_s, u"C"_s};
+        QTest::newRow("camt first") << QStringList{u"C"_s, u"M"_s, u"m"_s, u"c"_s};
+        QTest::newRow("files first") << QStringList{u"m"_s, u"c"_s, u"C"_s, u"M"_s};
+        QTest::newRow("camt file first") << QStringList{u"c"_s, u"M"_s, u"C"_s, u"m"_s};
+    }
+
+    void TellsNoBookingTwice()
+    {
+        QFETCH(QStringList, ways);
+        cFetchBook book;
+        const cBankMonth month = cBankMonth::Example();
+        bool isFirst = true;
+        qsizetype alike = 0;
+        for (const QString& way : ways) {
+            const cImportResult result = way == u"M" ? book.Fetch(month.Mt940())
+                : way == u"C"                        ? book.Fetch({}, {month.Camt()})
+                : way == u"m"                        ? book.ReadFile(u"a.sta"_s, month.Mt940().toLatin1())
+                                                     : book.ReadFile(u"a.xml"_s, month.Camt());
+            QCOMPARE(result.Read, 7);
+            QCOMPARE(result.Staged, isFirst ? 7 : 0);
+            QCOMPARE(result.Duplicates.size() + result.Alike.size(), isFirst ? 0 : 7);
+            QCOMPARE(result.ClosingBalance, std::optional(month.Closing()));
+            alike += result.Alike.size();
+            isFirst = false;
+        }
+        QCOMPARE(book.Count(), 7);
+        QCOMPARE(alike, 4); // two purposes in each reading of the format that did not come first
+    }
+
+    // What one answer tells apart is two bookings, and what it tells in the same words is one, as in a file.
+    void KeepsApartWhatOneAnswerTellsApart()
+    {
+        cFetchBook book;
+        cBankMonth month = cBankMonth::Example();
+        month.Bookings = {month.Bookings.at(4), month.Bookings.at(4), month.Bookings.at(4)};
+        month.Bookings[1].Purpose = u"Dan ke"_s;
+        const cImportResult first = book.Fetch(month.Mt940());
+        QCOMPARE(first.Staged, 2);
+        QCOMPARE(first.Duplicates.size(), 1);
+        QCOMPARE(book.Fetch(month.Mt940()).Duplicates.size(), 3);
+    }
+
+    // A deleted row is held back by the fetch, for as long as fetches overlap; a file brings it again.
+    void RemembersDeletedRows()
+    {
+        cFetchBook book;
+        const cBankMonth month = cBankMonth::Example();
+        QCOMPARE(book.Fetch(month.Mt940()).Staged, 7);
+        const int id = book.Hive.GetImportHive().getImportEntryList().at(3).ID;
+        QVERIFY(book.Hive.Remove(id));
+        for (int time = 0; time < 2; ++time) {
+            const cImportResult again = book.Fetch({}, {month.Camt()});
+            QCOMPARE(again.Staged, 0);
+            QCOMPARE(again.Deleted.size(), 1);
+            QCOMPARE(again.Deleted.constFirst().ImportValue, -8400);
+        }
+        QCOMPARE(book.ReadFile(u"a.sta"_s, month.Mt940().toLatin1()).Staged, 1);
+        QCOMPARE(book.Fetch(month.Mt940()).Deleted.size(), 0);
+    }
+
+    // Rows of a fetch that was taken back were not deleted.
+    void ForgetsWithTheStep()
+    {
+        cFetchBook book;
+        {
+            const cUndoStep step(book.Data, u"abgerufen"_s);
+            QCOMPARE(book.Fetch(cBankMonth::Example().Mt940()).Staged, 7);
+        }
+        QVERIFY(book.Data.Journal().Undo());
+        book.Settings->Reload();
+        QCOMPARE(book.Fetch(cBankMonth::Example().Mt940()).Staged, 7);
+    }
+
+    // Of an answer that broke off only whole statements are taken: the rest of a cut purpose would come as another row.
+    void TakesWholeStatementsOfABrokenAnswer()
+    {
+        cFetchBook book;
+        const cBankMonth month = cBankMonth::Example();
+        const QString first = month.Part(QDate(2026, 3, 1), QDate(2026, 3, 4)).Mt940();
+        const QString second = month.Part(QDate(2026, 3, 5), QDate(2026, 3, 31)).Mt940();
+        const cImportResult result = book.Fetch(first + second.left(second.indexOf(u"Kundennummer") + 3), {}, false);
+        QCOMPARE(result.Staged, 3);
+        QCOMPARE(book.Fetch(first.left(40), {}, false).Read, 0);
+        QCOMPARE(book.Fetch(month.Mt940()).Staged, 4);
+    }
+
+    void RefusesWhatCannotBeRead()
+    {
+        cFetchBook book;
+        const QByteArray camt = cBankMonth::Example().Camt();
+        QVERIFY(book.Fetch({}, {camt, camt.left(camt.size() / 2)}).IsRefused);
+        QVERIFY(book.Fetch(u":20:A\r\n:86:ohne Umsatz\r\n"_s).IsRefused);
+        QCOMPARE(book.Count(), 0);
+        QVERIFY(!book.Fetch({}).IsRefused); // no bookings
+    }
+
+    // The bank's balance goes to the account as its bookings name it, and the number asked for finds that form again.
+    void KeepsBalances()
+    {
+        cFetchBook book;
+        cNoProgress progress;
+        const cBankMonth month = cBankMonth::Example();
+        (void)book.Fetch({}, {month.Camt()});
+        const cImportResult later = book.Import.ImportFetched(
+            {.Name = {}, .Account = u"1234567"_s, .Balance = 150000, .BalanceDay = QDate(2026, 3, 15)}, {}, progress);
+        QCOMPARE(later.Number, month.Iban);
+        QCOMPARE(book.Balances.Of(month.Iban).last(), (cBankBalance{QDate(2026, 3, 15), 150000}));
+    }
+};
+
+QTEST_GUILESS_MAIN(testFetchedStatement)
+#include "testFetchedStatement.moc"
