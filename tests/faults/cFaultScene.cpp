@@ -124,7 +124,8 @@ QStringList cFaultScene::Faults()
 }
 
 // A journal whose records never reached the disk begins with a zero: it means nothing, and the next write takes it
-// over. What a restored backup replaced is kept, and a whole book that was to replace it may be.
+// over. What a restored backup replaced is kept, and a whole book that was to replace it may be. An empty lock says
+// nothing of its holder, so the next program asks before it writes.
 bool cFaultScene::IsWanted(const QString& path) const
 {
     const QString name = QFileInfo(path).fileName();
@@ -136,6 +137,9 @@ bool cFaultScene::IsWanted(const QString& path) const
         std::error_code error;
         return !std::filesystem::equivalent(QFileInfo(path).filesystemFilePath(),
                                             m_folder->filePath(u"buch.db"_s).toStdString(), error);
+    }
+    if (name == u"buch.db.lock") {
+        return QFileInfo(path).size() == 0;
     }
     return name == u"buch.db" || name == u"count" || name.endsWith(u".csv") || name.endsWith(u".backup")
         || path.contains(u"/profil/") || (name == u"buch.db.neu" && modBookFile::IsSound(modBookFile::Look(path)));
