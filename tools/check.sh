@@ -21,7 +21,7 @@ only() {
   local hits; hits=$(grep -nHE "$1" "${files[@]}" 2>/dev/null | grep -vE "^($2)")
   [ -n "$hits" ] && fail "$3" "$hits"
 }
-only '#include <(QtWidgets|QtGui|QtNetwork|QtSql)?/?(QWidget|QDialog|QMessageBox|QApplication|QMainWindow|QNetworkAccessManager|QClipboard|QDesktopServices)' 'src/(windows|app)/|tests/(windows|app|cli)/|tools/|bench/' 'toolkit outside windows/ and app/'
+only '#include <(QtWidgets|QtGui|QtNetwork|QtSql)?/?(QWidget|QDialog|QMessageBox|QApplication|QMainWindow|QNetworkAccessManager|QClipboard|QDesktopServices)' 'src/(windows|app)/|tests/(windows|app|cli|faults)/|tools/|bench/' 'toolkit outside windows/ and app/'
 only 'sqlite3(_|\.h)|#include <SQLiteCpp'      'src/store/|tests/|bench/' 'the database driver is called in store/ only'
 only '"(SELECT|INSERT|UPDATE|DELETE|ALTER|CREATE|PRAGMA) ' 'src/store/|tests/|bench/' 'SQL text outside store/'
 only 'QDate(Time)?::current|QTime::current'    'src/app/'              'the current time comes from cClock'
@@ -36,7 +36,7 @@ only '\b(TODO|FIXME|XXX)\b'                          'none/'                 'fi
 only '#include "store/'   'src/(store|app)/|src/(core|import|views)/.+\.cpp|tests/|bench/|tools/' 'the store is reached by sources of core, import and views only'
 only '#include "import/'  'src/(import|app)/|src/views/.+\.cpp|tests/|bench/|tools/|fuzz/' 'readers are composed in sources of views/'
 only '#include "views/'   'src/(views|windows|app|cli)/|tests/|bench/|tools/' 'nothing below views/ sees it'
-only '#include "(windows|app)/' 'src/(windows|app|cli)/|tests/(windows|app|cli)/|bench/|tools/' 'nothing below windows/ sees it'
+only '#include "(windows|app)/' 'src/(windows|app|cli)/|tests/(windows|app|cli|faults)/|bench/|tools/' 'nothing below windows/ sees it'
 
 # Texts explain themselves: they lean on no paper and no folder that a reader of this tree does not have.
 papers='[Ss]pec[i]fication|spec[.]md|\bParts? [0-9]+[.][0-9]|\bshared[/]'

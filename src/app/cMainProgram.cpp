@@ -24,9 +24,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto backupDelay = 2s; // after the window stands, so that nobody waits for the copy
-constexpr auto backupEvery = 4h; // of use
-constexpr auto backupRetry = 1min;
+constexpr auto backupDelay = 2s;  // after the window stands, so that nobody waits for the copy
 constexpr auto walkDelay = 500ms; // after the window stands
 constexpr auto walkPause = 20ms;
 constexpr int walkTime = 10; // milliseconds, too short to be felt
@@ -51,7 +49,7 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
     tmrBackup.setSingleShot(true);
     tmrWalk.setSingleShot(true);
     QObject::connect(&tmrWalk, &QTimer::timeout, &tmrWalk, [this] { ReadOn(); });
-    QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { CopyInUse(); });
+    QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { tmrBackup.start(m_backups.CopyInUse()); });
 }
 
 cMainProgram::~cMainProgram() = default;
@@ -170,7 +168,7 @@ void cMainProgram::WatchBook()
     m_walk.emplace(m_book.Database());
     tmrWalk.start(walkDelay);
     QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
-    tmrBackup.start(backupEvery);
+    tmrBackup.start(cBackupPlan::UseUntilCopy);
 }
 
 void cMainProgram::ReadOn()
@@ -190,13 +188,6 @@ void cMainProgram::TellDamage()
     } else if (m_book.Database().IsDamaged()) {
         m_navigation->TellDamage();
     }
-}
-
-// A step that waits for an answer of the user is not copied in the middle.
-void cMainProgram::CopyInUse()
-{
-    tmrBackup.start(m_backups.IsIdle() ? std::chrono::milliseconds(backupEvery) : backupRetry);
-    m_backups.CopyIfChanged();
 }
 
 void cMainProgram::ShowOtherBook(bool isNewVersion)

@@ -56,6 +56,7 @@ public:
     [[nodiscard]] cMainModel& Model() { return *m_model; }
     [[nodiscard]] cImportReview& Review() { return *m_review; }
     [[nodiscard]] cNavigation& Navigation() { return *m_navigation; }
+    [[nodiscard]] const cBookTools& Tools() const { return *m_tools; }
 
 private:
     [[nodiscard]] bool OpenBook(cStartUp& startUp, const QString& database);
@@ -68,7 +69,6 @@ private:
     void ReadOn();
     void TellDamage();
     void LeaveBook(cBookSwitch::eLeave leave);
-    void CopyInUse();
 
     cPorts m_ports;
     QString m_version;

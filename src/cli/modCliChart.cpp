@@ -116,7 +116,8 @@ int Run(const cCliContext& context)
     }
     const cChartData chart = cChartMaker(context.Book->Data, context.Book->Format(), context.Clock.Today()).Make(wish);
     if (chart.IsEmpty()) {
-        context.User.Show(eTone::Exclamation, cText::Tr("Für dieses Diagramm gibt es keine Daten."));
+        context.User.Show(eTone::Exclamation,
+                          chart.IsUnread ? chart.EmptyText() : cText::Tr("Für dieses Diagramm gibt es keine Daten."));
         return modExit::Failed;
     }
     for (const QString& target : targets) {

@@ -11,6 +11,7 @@
 #include "core/cSettings.h"
 #include "model/modWord.h"
 #include "views/list/modFileWrite.h"
+#include "views/list/modUnread.h"
 #include "views/report/cReportExport.h"
 #include "views/report/cReportSource.h"
 #include "views/report/modReport.h"
@@ -223,6 +224,10 @@ int Write(const cCliContext& context, const cReportWish& wish)
     cReportSource source(context.Book->Tools);
     const std::optional<QStringList> paths = WriteFiles(context, source, wish);
     if (!paths) {
+        return modExit::Failed;
+    }
+    if (source.Figures(wish).IsUnread) {
+        modConsole::Error(modUnread::Title());
         return modExit::Failed;
     }
     if (context.Call.Has(u"json"_s)) {

@@ -10,11 +10,13 @@
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "store/modBookFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <iterator>
@@ -38,10 +40,21 @@ cBackupPlan::cBackupPlan(const cPorts& ports, cBook& book, cConfiguration& confi
 
 void cBackupPlan::BookOpened()
 {
+    TidyUp();
     const QList<cCopy> copies = Copies();
     const bool isCurrent = !copies.isEmpty()
         && QFileInfo(m_book.Path()).lastModified() <= QFileInfo(copies.constFirst().Path).lastModified();
     m_copied = isCurrent ? std::optional(m_book.Data().Journal().RowsWritten()) : std::nullopt;
+}
+
+// After a program that was killed. Only who writes the book makes copies of it, so nobody is at work on these files.
+void cBackupPlan::TidyUp() const
+{
+    if (!m_book.IsReadOnly()) {
+        modBookFile::TidyBeside(m_book.Path());
+        modBookFile::RemoveWorking(
+            Folder(), QRegularExpression::escape(Prefix()) + u"[0-9-]+"_s + QRegularExpression::escape(ending));
+    }
 }
 
 void cBackupPlan::RunIfDue()
@@ -68,6 +81,16 @@ void cBackupPlan::CopyIfChanged()
     } else {
         NoteCurrent();
     }
+}
+
+std::chrono::minutes cBackupPlan::CopyInUse()
+{
+    constexpr std::chrono::minutes retry{1};
+    if (!IsIdle()) {
+        return retry;
+    }
+    CopyIfChanged();
+    return UseUntilCopy;
 }
 
 bool cBackupPlan::IsIdle() const

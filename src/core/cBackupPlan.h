@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include <chrono>
 #include <optional>
 
 class cBook;
@@ -31,7 +32,8 @@ public:
     cBackupPlan(const cPorts& ports, cBook& book, cConfiguration& configuration);
 
     // To be called when a file was opened, before anything is written to it: the times of the files tell whether the
-    // newest copy is as good as the book. Without it the book counts as changed.
+    // newest copy is as good as the book. Without it the book counts as changed. Removes what a program that was killed
+    // left half made beside the book and its copies.
     void BookOpened();
 
     // Makes today's copy when there is none yet and the book has changed. Meant for a moment when the user is not
@@ -42,8 +44,10 @@ public:
     // use, when the book is closed. A failure as above.
     void CopyIfChanged();
 
-    // False while a step of the user is open, of which a copy would hold a part: the copy is made later then.
-    [[nodiscard]] bool IsIdle() const;
+    // The same for a program that stays open, to be called when so much time has passed. Gives the time until the next
+    // call, which is soon while a step of the user is open: it would be copied half.
+    static constexpr std::chrono::hours UseUntilCopy{4};
+    [[nodiscard]] std::chrono::minutes CopyInUse();
 
     // Number of copies that stay besides the monthly ones; 0 when none are made.
     [[nodiscard]] int Count() const;
@@ -67,11 +71,13 @@ public:
     [[nodiscard]] static QList<QDate> Surplus(QList<QDate> days, int count);
 
 private:
+    [[nodiscard]] bool IsIdle() const; // no step of the user is open
     [[nodiscard]] bool IsPossible() const;
     [[nodiscard]] bool IsChanged() const;
     [[nodiscard]] QString Prefix() const; // of the copies' names, before the day
     [[nodiscard]] QString Name(QDate day, int number) const;
     [[nodiscard]] QList<cCopy> SurplusCopies() const;
+    void TidyUp() const;
     void Copy();
     void TellFailure(const QString& problem);
     void NoteCurrent();

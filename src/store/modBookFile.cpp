@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -62,6 +63,39 @@ void MoveCompanions(cShell& shell, const QString& from, const QString& to)
             (void)shell.RenameFile(from + companion, to + companion);
         }
     }
+}
+
+// True for a second name of the same file.
+bool IsSameFile(const QString& path, const QString& other)
+{
+    std::error_code error;
+    return std::filesystem::equivalent(Native(path), Native(other), error) && !error;
+}
+
+bool HasCompanions(const QString& path)
+{
+    return std::any_of(companions.begin(), companions.end(),
+                       [&](const QString& companion) { return QFileInfo::exists(path + companion); });
+}
+
+// The files of a folder whose names match, as paths.
+QStringList Matching(const QString& folder, const QString& names)
+{
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(names));
+    QStringList found = QDir(folder).entryList(QDir::Files).filter(pattern);
+    for (QString& name : found) {
+        name = QDir(folder).filePath(name);
+    }
+    return found;
+}
+
+// The file last: what goes with it is found by its name.
+void Remove(const QString& path)
+{
+    for (const QString& companion : companions) {
+        QFile::remove(path + companion);
+    }
+    QFile::remove(path);
 }
 
 void ReadEntries(cDatabase& database, modBookFile::cContent& content)
@@ -200,4 +234,33 @@ QStringList modBookFile::Leftovers(const QString& path)
         }
     }
     return found;
+}
+
+void modBookFile::RemoveWorking(const QString& folder, const QString& targets)
+{
+    const QStringList files = Matching(folder, targets + u"\\.neu[0-9]*"_s);
+    for (const QString& file : files) {
+        Remove(file);
+    }
+}
+
+void modBookFile::TidyBeside(const QString& path)
+{
+    const QFileInfo book(QFileInfo(path).canonicalFilePath());
+    const QString folder = book.absolutePath();
+    const QString name = QRegularExpression::escape(book.fileName());
+    const QString kept = name + u"\\.[0-9-]+\\.(ersetzt|beschaedigt)"_s;
+    RemoveWorking(folder, kept);
+    const QStringList files = Matching(folder, name + u"\\.neu[0-9]*"_s);
+    for (const QString& file : files) {
+        if (!IsSound(Look(file))) {
+            Remove(file);
+        }
+    }
+    const QStringList replaced = Matching(folder, kept);
+    for (const QString& file : replaced) {
+        if (IsSameFile(file, book.filePath()) && !HasCompanions(file)) {
+            QFile::remove(file);
+        }
+    }
 }

@@ -59,4 +59,12 @@ struct cContent
 // whole files that were to take its place, and files that were replaced. The newest first.
 [[nodiscard]] QStringList Leftovers(const QString& path);
 
+// Removes the working files of programs that were killed, with what SQLite keeps beside them: of targets in `folder`
+// whose names match the regular expression. Nobody else may be at work there.
+void RemoveWorking(const QString& folder, const QString& targets);
+
+// The same for what was to take the place of the open book `path`, and a second name that the book got on the way. A
+// working file that is a sound book stays: it may be somebody's own. Only for who holds the book's lock.
+void TidyBeside(const QString& path);
+
 } // namespace modBookFile

@@ -17,7 +17,10 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <filesystem>
+
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -332,10 +335,36 @@ private Q_SLOTS:
         cUndoStep step(machine.Book.Data(), u"Schritt"_s);
         machine.Write();
         machine.Plan.CopyIfChanged();
-        QVERIFY(!machine.Plan.IsIdle() && machine.Plan.Copies().isEmpty());
+        QCOMPARE(machine.Plan.CopyInUse(), 1min);
+        QVERIFY(machine.Plan.Copies().isEmpty());
         QVERIFY(step.Done());
-        machine.Plan.CopyIfChanged();
+        QCOMPARE(machine.Plan.CopyInUse(), 4h);
         QCOMPARE(machine.Plan.Copies().size(), 1);
+        QCOMPARE(machine.Plan.CopyInUse(), 4h);
+        QCOMPARE(machine.Plan.Copies().size(), 1); // nothing has changed since
+    }
+
+    // What a killed program left half made goes when the book is opened; whole files and those of others stay.
+    void HalfMadeFilesGo() const
+    {
+        cMachine machine;
+        const QString book = machine.Book.Path();
+        QVERIFY(QDir().mkpath(machine.Copies()));
+        for (const QString& name :
+             {u"data.db.neu"_s, u"data.db.neu-journal"_s, u"data.db.2026-03-02.ersetzt.neu"_s,
+              u"data.db.2026-03-02.ersetzt"_s, u"data.db.neues"_s, u"Sicherungen/data-auto-2026-03-14-2.backup.neu"_s,
+              u"Sicherungen/data-auto-2026-03-14-2.backup.neu-journal"_s, u"Sicherungen/data-auto-2026-03-14.backup"_s,
+              u"Sicherungen/andere-auto-2026-03-14.backup.neu"_s}) {
+            cTestFile::Write(machine.Path(name), "half");
+        }
+        QVERIFY(QFile::copy(book, machine.Path(u"data.db.neu2"_s)));
+        std::filesystem::create_hard_link(book.toStdString(),
+                                          machine.Path(u"data.db.2026-03-01.ersetzt"_s).toStdString());
+        machine.Plan.BookOpened();
+        QCOMPARE(FilesIn(machine.File.Folder()),
+                 QStringList({u"data.db"_s, u"data.db.2026-03-02.ersetzt"_s, u"data.db.neu2"_s, u"data.db.neues"_s}));
+        QCOMPARE(FilesIn(machine.Copies()),
+                 QStringList({u"andere-auto-2026-03-14.backup.neu"_s, u"data-auto-2026-03-14.backup"_s}));
     }
 
     void OnlyOwnCopiesGo() const

@@ -3,10 +3,12 @@
 //   FAULT_KIND   kill: the program is killed before the call; torn: after half of the write; full, broken: the call
 //                fails with "no space left" or with an input/output error, and so do all that follow
 //   FAULT_COUNT  file to which the number of calls is written at the end
+//   FAULT_WAIT   1: nothing is counted until the program calls beginFaults()
 // Calls on the standard streams, pipes and /dev are left alone.
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -35,9 +37,14 @@ bool IsKind(const char* kind)
     return std::strcmp(wanted, kind) == 0;
 }
 
+bool isWaiting = *Variable("FAULT_WAIT") != '\0';
+
 // How the present call goes.
 eWay Next(bool isWrite)
 {
+    if (isWaiting) {
+        return eWay::Well;
+    }
     static const long at = std::strtol(Variable("FAULT_AT"), nullptr, 10);
     ++calls;
     if (at == 0 || calls < at) {
@@ -88,6 +95,11 @@ struct cReport
 // NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 
 extern "C" {
+
+void beginFaults()
+{
+    isWaiting = false;
+}
 
 ssize_t write(int file, const void* bytes, size_t size)
 {
@@ -151,6 +163,30 @@ int rename(const char* from, const char* to) noexcept
 {
     static auto* real = Real<decltype(rename)>("rename");
     return Next(false) == eWay::Fails ? -1 : real(from, to);
+}
+
+// How the toolkit gives a file another name that nobody has.
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept
+{
+    static auto* real = Real<decltype(renameat2)>("renameat2");
+    return Next(false) == eWay::Fails ? -1 : real(fromFolder, from, toFolder, to, flags);
+}
+
+// How the toolkit copies files.
+ssize_t sendfile64(int to, int from, off64_t* offset, size_t size) noexcept
+{
+    static auto* real = Real<decltype(sendfile64)>("sendfile64");
+    const eWay way = IsFile(to) ? Next(true) : eWay::Well;
+    if (way == eWay::Torn) {
+        (void)real(to, from, offset, size / 2);
+        kill(getpid(), SIGKILL);
+    }
+    return way == eWay::Fails ? -1 : real(to, from, offset, size);
+}
+
+ssize_t sendfile(int to, int from, off_t* offset, size_t size) noexcept
+{
+    return sendfile64(to, from, offset, size);
 }
 
 int link(const char* from, const char* to) noexcept

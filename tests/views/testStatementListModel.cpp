@@ -1,6 +1,7 @@
 #include "import/read/cStatementRead.h"
 #include "import/stage/cBankBalances.h"
 #include "model/modSettingKey.h"
+#include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/ledger/cStatementListModel.h"
 
@@ -77,6 +78,29 @@ class testStatementListModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void UnreadableRowsAreSaid() const
+    {
+        cScene scene(u"0502 -2310 REWE"_s, {});
+        const QString path = scene.Path();
+        cTestFile::Damage(path, "import");
+        scene.Database.Open(path, eOpenMode::ReadWrite);
+        const cStatementListModel statement(scene.Tools);
+        QCOMPARE(statement.EmptyTitle(), u"Das Buch konnte nicht gelesen werden"_s);
+        QCOMPARE(statement.TotalText(), u"–"_s);
+    }
+
+    // The bank's balance is known, the account's is not: no difference is claimed.
+    void UnreadableEntriesAreSaid() const
+    {
+        cScene scene(u"0502 -2310 REWE"_s, u"2026-05-02=-2310"_s);
+        const QString path = scene.Path();
+        cTestFile::Damage(path, "data");
+        scene.Database.Open(path, eOpenMode::ReadWrite);
+        const cStatementListModel statement(scene.Tools);
+        QCOMPARE(statement.Findings().constLast(), u"Das Buch konnte nicht gelesen werden"_s);
+        QCOMPARE(statement.Finding(), cStatementListModel::eFinding::Unknown);
+    }
+
     void ChecksBalances_data()
     {
         QTest::addColumn<QString>("rows");

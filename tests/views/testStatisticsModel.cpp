@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -74,6 +75,8 @@ class testStatisticsModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void UnreadableBookIsSaid_data();
+    void UnreadableBookIsSaid();
     void LinksLead_data();
     void LinksLead();
     void LinkShowsItsEntriesAndTheWayBack();
@@ -92,6 +95,34 @@ private Q_SLOTS:
     void ForecastLeadsToWhatComes();
     void MainCategoryAndWhatIsBookedOnItDiffer();
 };
+
+void testStatisticsModel::UnreadableBookIsSaid_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<bool>("isChartKnown");
+    QTest::newRow("entries") << u"data"_s << false;
+    QTest::newRow("categories, without which no limit is known") << u"template"_s << true;
+}
+
+void testStatisticsModel::UnreadableBookIsSaid()
+{
+    QFETCH(const QString, table);
+    QFETCH(const bool, isChartKnown);
+    cScene scene;
+    const QString path = scene.Book.Path();
+    cTestFile::Damage(path, table.toStdString());
+    scene.Book.Database.Open(path, eOpenMode::ReadWrite);
+    scene.Model.ChooseReport(eReport::Limit);
+    scene.Model.BookChanged();
+    const QString unread = u"Das Buch konnte nicht gelesen werden"_s;
+    QVERIFY(scene.Model.Html().contains(unread));
+    QCOMPARE(scene.Model.Hint(), QString()); // nothing of limits that are missing
+    scene.Model.ChoosePage(cStatisticsModel::ePage::Charts);
+    QCOMPARE(scene.Model.FirstChart().Data().IsEmpty(), !isChartKnown);
+    QCOMPARE(scene.Model.FirstChart().Data().EmptyText() == unread, !isChartKnown);
+    scene.Model.SecondChart().ChooseKind(eChartKind::Balances);
+    QCOMPARE(scene.Model.SecondChart().Data().EmptyText(), unread);
+}
 
 void testStatisticsModel::LinksLead_data()
 {

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modSum.h"
+#include "views/list/modUnread.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -17,6 +18,11 @@ bool cChartData::IsEmpty() const
         return std::any_of(series.Cents.begin(), series.Cents.end(),
                            [](const std::optional<qint64>& cents) { return cents.has_value(); });
     });
+}
+
+QString cChartData::EmptyText() const
+{
+    return IsUnread ? modUnread::Title() : cText::Tr("Keine Daten");
 }
 
 void cChartData::HideAsIn(const cChartData& earlier)

@@ -78,8 +78,11 @@ struct cChartData
     int Today = -1;                             // the label behind which the future begins; -1 where there is none
     std::function<QString(qint64 cents)> Money; // amounts as the book shows them
 
-    // True when there is nothing to draw; the chart then says "Keine Daten".
+    bool IsUnread = false; // there are no figures because the book could not be read
+
+    // True when there is nothing to draw; the chart then shows EmptyText.
     [[nodiscard]] bool IsEmpty() const;
+    [[nodiscard]] QString EmptyText() const;
     // An amount, also without `Money`.
     [[nodiscard]] QString MoneyText(qint64 cents) const;
     // The same without decimals where they are zero, as an axis shows it.

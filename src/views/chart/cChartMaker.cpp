@@ -6,6 +6,7 @@
 #include "views/chart/cForecast.h"
 #include "views/chart/modChart.h"
 #include "views/chart/modForecast.h"
+#include "views/list/modUnread.h"
 #include "views/report/modReport.h"
 
 #include <algorithm>
@@ -39,17 +40,30 @@ std::optional<qint64> LimitOf(cDataAccess& data, const QString& account)
     return item ? modForecast::Limit(*item) : std::nullopt;
 }
 
+cChartData Unread()
+{
+    cChartData chart;
+    chart.IsUnread = true;
+    return chart;
+}
+
 } // namespace
 
 cChartData cChartMaker::Make(const cChartWish& wish)
 {
-    if (wish.Kind == eChartKind::Balances) {
-        return MakeBalances(wish);
-    }
+    return wish.Kind == eChartKind::Balances ? MakeBalances(wish) : MakeFromEntries(wish);
+}
+
+cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
+{
     const auto money = [&format = m_format](qint64 cents) { return format.Cents(cents); };
     modChart::cInput input{wish, Fetch(m_data, Cut(wish.Range, wish, m_today), wish.Account), {}, m_today, money};
     if (wish.Second) {
         input.Second = Fetch(m_data, Cut(*wish.Second, wish, m_today), wish.Account);
+    }
+    if (modUnread::IsMissing(m_data, input.First.Entries.size())
+        || (wish.Second && modUnread::IsMissing(m_data, input.Second->Entries.size()))) {
+        return Unread();
     }
     switch (wish.Kind) {
     case eChartKind::ExpensePie:
@@ -78,5 +92,5 @@ cChartData cChartMaker::MakeBalances(const cChartWish& wish)
     if (wish.Second && wish.Second->Start.isValid() && wish.Second->End.isValid()) {
         input.Second = forecast.Days(Cut(*wish.Second, wish, m_today), cForecast::eAverage::Without);
     }
-    return modChart::Balances(input);
+    return m_data.IsWhole() ? modChart::Balances(input) : Unread(); // made of balances, entries, accounts
 }

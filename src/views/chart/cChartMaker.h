@@ -46,9 +46,11 @@ public:
     {
     }
 
+    // Without figures when the book could not be read: those of a part would be wrong.
     [[nodiscard]] cChartData Make(const cChartWish& wish);
 
 private:
+    [[nodiscard]] cChartData MakeFromEntries(const cChartWish& wish);
     [[nodiscard]] cChartData MakeBalances(const cChartWish& wish);
 
     cDataAccess& m_data;

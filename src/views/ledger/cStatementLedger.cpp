@@ -4,6 +4,7 @@
 #include "import/stage/cBankBalances.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
+#include "views/list/modUnread.h"
 
 #include <QMap>
 
@@ -128,6 +129,10 @@ cBookComparison cStatementLedger::CompareWithBook()
     cGap gap(first);
     qint64 start = m_check.ErrorOn(before) - m_check.Opening;
     const cEntryItemList entries = m_data.GetEntries({{}, day, {}, account, {}, eBookingKind::All});
+    if (modUnread::IsMissing(m_data, entries.size())) {
+        result.State = eState::Unread;
+        return result;
+    }
     for (const cEntryItem& entry : entries) {
         const qint64 cents = modBalance::Effect(entry, account);
         book += cents;

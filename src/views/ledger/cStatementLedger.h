@@ -19,6 +19,7 @@ struct cBookComparison
         NotMapped, // the number belongs to no account of the book
         Shared,    // so do other numbers, whose transactions would count as well
         NoBalance, // the bank's balance is not known
+        Unread,    // the entries of the account could not be read
         Agrees,
         Differs,
     };

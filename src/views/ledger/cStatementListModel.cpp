@@ -10,6 +10,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/modBalanceText.h"
+#include "views/list/modUnread.h"
 #include "views/statement/modImportText.h"
 
 #include <algorithm>
@@ -234,29 +235,45 @@ QString cStatementListModel::CountText() const
     return modCount::Rows(static_cast<qsizetype>(m_shown.size()));
 }
 
+bool cStatementListModel::IsUnread() const
+{
+    return modUnread::IsMissing(m_tools.Data, m_ledger.Rows().size());
+}
+
+QString cStatementListModel::SumText(qint64 cents) const
+{
+    return IsUnread() ? modUnread::Sum() : m_tools.Format.Cents(cents);
+}
+
 QString cStatementListModel::IncomeText() const
 {
-    return m_tools.Format.Cents(m_income);
+    return SumText(m_income);
 }
 
 QString cStatementListModel::ExpenseText() const
 {
-    return m_tools.Format.Cents(m_expense);
+    return SumText(m_expense);
 }
 
 QString cStatementListModel::TotalText() const
 {
-    return m_tools.Format.Cents(m_income + m_expense);
+    return SumText(m_income + m_expense);
 }
 
 QString cStatementListModel::EmptyTitle() const
 {
+    if (IsUnread()) {
+        return modUnread::Title();
+    }
     return m_ledger.Rows().isEmpty() ? cText::Tr("Es ist noch kein Kontoauszug eingelesen.")
                                      : cText::Tr("Kein Umsatz gefunden");
 }
 
 QString cStatementListModel::EmptyHint() const
 {
+    if (IsUnread()) {
+        return modUnread::Hint();
+    }
     if (m_ledger.Rows().isEmpty()) {
         return cText::Tr("Lesen Sie mit \"Kontoauszug importieren\" (Strg+I) eine Datei Ihrer Bank ein.");
     }

@@ -91,6 +91,8 @@ Q_SIGNALS:
     void Changed(); // rows, sums and findings are new
 
 private:
+    [[nodiscard]] bool IsUnread() const; // there are no rows because they could not be read
+    [[nodiscard]] QString SumText(qint64 cents) const;
     void ShowAccount(); // that was loaded
     void Show();        // the days of the period, then the filter
     void Filter();      // what of them holds the words

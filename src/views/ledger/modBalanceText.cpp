@@ -4,6 +4,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "views/ledger/cStatementLedger.h"
+#include "views/list/modUnread.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -172,6 +173,7 @@ QString modBalanceText::Book(const cBookComparison& book, const QString& account
                              format.Cents(std::abs(book.Book - book.Bank))};
     switch (book.State) {
     case eState::NoBalance: return {};
+    case eState::Unread: return modUnread::Title();
     case eState::NotMapped: return cText::Tr("Diese Kontonummer ist noch keinem Konto Ihres Buchs zugeordnet.");
     case eState::Shared:
         return cText::Tr("Zum Konto '{0}' gehören mehrere Kontonummern; mit seinen Einträgen lässt sich der Auszug "

@@ -80,6 +80,7 @@ struct cReportFigures
     eReport Type = eReport::Average;
     QString Account; // empty: all accounts
     cReportBasis Basis;
+    bool IsUnread = false; // there are no figures because the book could not be read
     cReportSection Income{eReportKind::Income, {}, {}};
     cReportSection Expense{eReportKind::Expense, {}, {}};
 

@@ -7,6 +7,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/list/modUnread.h"
 #include "views/report/modReport.h"
 #include "views/report/modReportHtml.h"
 
@@ -35,7 +36,8 @@ cReportWish cReportSource::Wish(eReport type, const QString& account, const QStr
 const cReportFigures& cReportSource::Figures(const cReportWish& wish)
 {
     const cEntryItemList& entries = Entries(wish);
-    m_figures = modReport::Figures(entries, m_templates, wish);
+    m_figures = IsUnread() ? modReport::Figures({}, {}, wish) : modReport::Figures(entries, m_templates, wish);
+    m_figures.IsUnread = IsUnread();
     return m_figures;
 }
 
@@ -58,6 +60,12 @@ cEntryItemList cReportSource::EntriesOf(const cReportWish& wish, const cReportNo
     return found;
 }
 
+// Entries and categories are both needed: figures of a part would be wrong.
+bool cReportSource::IsUnread() const
+{
+    return modUnread::IsMissing(m_tools.Data, std::min(m_entries.size(), m_templates.size()));
+}
+
 const cEntryItemList& cReportSource::Entries(const cReportWish& wish)
 {
     const cAsked asked = Ask(wish);
@@ -68,7 +76,7 @@ const cEntryItemList& cReportSource::Entries(const cReportWish& wish)
         query.Account = asked.Account;
         m_entries = m_tools.Data.GetEntries(query);
         m_templates = m_tools.Data.GetTemplates();
-        m_asked = asked;
+        m_asked = IsUnread() ? std::nullopt : std::optional(asked); // read again next time
     }
     return m_entries;
 }

@@ -47,6 +47,7 @@ private:
         bool operator==(const cAsked&) const = default;
     };
     [[nodiscard]] static cAsked Ask(const cReportWish& wish);
+    [[nodiscard]] bool IsUnread() const;
 
     const cBookTools& m_tools;
     std::optional<cAsked> m_asked;

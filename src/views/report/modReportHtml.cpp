@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "views/list/modUnread.h"
 #include "views/report/modReport.h"
 #include "views/report/modReportLink.h"
 
@@ -128,7 +129,9 @@ public:
     {
         m_html = opening + u"<h1 style=\"color: #000000; font-size: 16px;\">"_s
             + modReportHtml::Heading(m_figures).toHtmlEscaped() + u"</h1>"_s;
-        if (m_figures.Type == eReport::Limit) {
+        if (m_figures.IsUnread) {
+            m_html += modUnread::Title().toHtmlEscaped() + u".<br>"_s + modUnread::Hint().toHtmlEscaped() + u"</div>"_s;
+        } else if (m_figures.Type == eReport::Limit) {
             WriteLimits();
         } else {
             WriteResult();

@@ -176,7 +176,7 @@ void cStatisticsModel::Refresh()
 
 QString cStatisticsModel::Hint() const
 {
-    return IsLimit() && m_tree.Figures().Expense.Groups.isEmpty()
+    return IsLimit() && !m_tree.Figures().IsUnread && m_tree.Figures().Expense.Groups.isEmpty()
         ? cText::Tr("Noch hat keine Kategorie ein Monatslimit. Sie legen eines unter „Extras“, „Kategorie/Konto "
                     "bearbeiten“ fest.")
         : QString();

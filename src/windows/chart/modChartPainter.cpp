@@ -1,6 +1,5 @@
 #include "windows/chart/modChartPainter.h"
 
-#include "base/cText.h"
 #include "windows/chart/modChartLegend.h"
 #include "windows/chart/modColumnPainter.h"
 #include "windows/chart/modLinePainter.h"
@@ -97,7 +96,7 @@ void modChartPainter::Paint(QPainter& painter, const cChartData& data, const cCh
     painter.setRenderHint(QPainter::Antialiasing);
     PaintTexts(painter, scene, layout);
     if (!IsDrawable(data)) {
-        painter.drawText(layout.Plot, Qt::AlignCenter, cText::Tr("Keine Daten"));
+        painter.drawText(layout.Plot, Qt::AlignCenter, data.EmptyText());
         return;
     }
     switch (data.Kind) {
