@@ -1,0 +1,119 @@
+#include "windows/bank/cFetchTree.h"
+
+#include "base/cText.h"
+#include "views/bank/cBankFetch.h"
+#include "views/bank/modFetchText.h"
+#include "windows/widget/cColumnFit.h"
+#include "windows/widget/modEmptyText.h"
+#include "windows/widget/modTone.h"
+
+#include <QHeaderView>
+
+namespace {
+
+using eKind = cColumnFit::eKind;
+
+const std::vector<cColumnFit::cColumn> columns{{30}, {16}, {28}, {26}};
+
+} // namespace
+
+cFetchTree::cFetchTree(cBankFetch& fetch, QWidget* parent) : QTreeWidget(parent), m_fetch(fetch)
+{
+    setColumnCount(ColumnCount);
+    setHeaderLabels({cText::Tr("Konto der Bank"), cText::Tr("Konto im Haushalt"), cText::Tr("Stand"),
+                     cText::Tr("Saldo laut Bank")});
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAccessibleName(cText::Tr("Konten, die abgerufen werden"));
+    header()->setSectionsMovable(false);
+    new cColumnFit(*this, columns, Account);
+    Fill();
+}
+
+void cFetchTree::Fill()
+{
+    const QList<cBankFetch::cAccount>& accounts = m_fetch.Accounts();
+    QTreeWidgetItem* bank = nullptr;
+    for (qsizetype i = 0; i < accounts.size(); ++i) {
+        const cBankFetch::cAccount& account = accounts.at(i);
+        const bool isSame =
+            i > 0 && accounts.at(i - 1).BankCode == account.BankCode && accounts.at(i - 1).UserId == account.UserId;
+        if (!isSame) {
+            bank = AddBank(account.Bank);
+        }
+        auto* item = new QTreeWidgetItem(bank);
+        item->setData(Account, Qt::UserRole, i);
+        item->setText(Account, account.Name);
+        item->setToolTip(Account, account.Name);
+        item->setText(Book, account.BookAccount.isEmpty() ? cText::Tr("wird gefragt") : account.BookAccount);
+        item->setCheckState(Account, Qt::Checked);
+        item->setTextAlignment(Balance, Qt::AlignRight | Qt::AlignVCenter);
+        m_items.append(item);
+        ShowLine(i);
+    }
+    expandAll();
+    if (!m_items.isEmpty()) {
+        setCurrentItem(m_items.constFirst());
+    }
+}
+
+QTreeWidgetItem* cFetchTree::AddBank(const QString& name)
+{
+    auto* item = new QTreeWidgetItem(this, {name});
+    item->setFirstColumnSpanned(true);
+    item->setFlags(Qt::ItemIsEnabled);
+    QFont bold = font();
+    bold.setBold(true);
+    item->setFont(Account, bold);
+    return item;
+}
+
+QList<qsizetype> cFetchTree::Chosen() const
+{
+    QList<qsizetype> chosen;
+    for (qsizetype i = 0; i < m_items.size(); ++i) {
+        if (m_items.at(i)->checkState(Account) == Qt::Checked) {
+            chosen.append(i);
+        }
+    }
+    return chosen;
+}
+
+qsizetype cFetchTree::Current() const
+{
+    return m_items.indexOf(currentItem());
+}
+
+void cFetchTree::ShowLine(qsizetype account)
+{
+    QTreeWidgetItem& item = *m_items.at(account);
+    const cBankFetch::cLine* line =
+        account < m_fetch.Lines().size() ? &m_fetch.Lines().at(account) : nullptr; // none before the first run
+    const QString state = modFetchText::State(m_fetch, account);
+    item.setText(State, state);
+    item.setToolTip(State, state);
+    item.setText(Balance, line == nullptr ? QString() : line->BalanceText);
+    item.setForeground(State,
+                       line != nullptr && line->State == cBankFetch::eState::Failed ? modTone::Expense(palette())
+                                                                                    : palette().color(QPalette::Text));
+    if (line != nullptr && line->State == cBankFetch::eState::Asked) {
+        scrollToItem(&item);
+    }
+}
+
+void cFetchTree::SetChoosable(bool isChoosable)
+{
+    for (QTreeWidgetItem* item : m_items) {
+        item->setFlags(item->flags().setFlag(Qt::ItemIsUserCheckable, isChoosable));
+    }
+}
+
+void cFetchTree::paintEvent(QPaintEvent* event)
+{
+    QTreeWidget::paintEvent(event);
+    if (m_items.isEmpty()) {
+        modEmptyText::Paint(*viewport(), cText::Tr("Noch kein Bankzugang"), m_fetch.EmptyHint());
+    }
+}

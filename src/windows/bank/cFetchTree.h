@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QList>
+#include <QTreeWidget>
+
+class cBankFetch;
+
+// The accounts that can be fetched, those of a bank together, with what came of each.
+class cFetchTree final : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    // `fetch` outlives the tree.
+    explicit cFetchTree(cBankFetch& fetch, QWidget* parent = nullptr);
+
+    [[nodiscard]] QList<qsizetype> Chosen() const; // places in cBankFetch::Accounts
+    [[nodiscard]] qsizetype Current() const;       // -1 for none
+    void ShowLine(qsizetype account);              // and bring it into sight
+
+    // While accounts are fetched, the choice stays as it is.
+    void SetChoosable(bool isChoosable);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    enum eColumn { Account, Book, State, Balance, ColumnCount };
+
+    void Fill();
+    [[nodiscard]] QTreeWidgetItem* AddBank(const QString& name);
+
+    cBankFetch& m_fetch;
+    QList<QTreeWidgetItem*> m_items; // by account
+};
