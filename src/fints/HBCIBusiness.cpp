@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 struct HBCIBusiness::cSession
 {
     cBankRun Run;
-    QList<cFetchedAccount> Fetched;
+    QList<cFetchedAccount> Fetched = {};
 
     bool Begin();
     bool IsLoginRefused() const;
