@@ -55,7 +55,7 @@ QList<HBCISegment> cBankDialog::Initialisation(const cOpening& opening) const
 
 HBCISegment cBankDialog::TanFor(const QByteArray& segment) const
 {
-    cTanRequest request{.Process = "4", .Segment = segment, .OrderHash = {}, .Reference = {}, .Medium = {}};
+    cTanRequest request{.Process = "4", .Segment = segment};
     if (m_method.TanProcess == u"1") {
         request.Process = "1";
         request.OrderHash = QByteArray(20, '\0'); // no bank compares it; what counts is that there is one
@@ -122,8 +122,11 @@ std::optional<cBankAnswer> cBankDialog::Exchange(const QList<HBCISegment>& busin
     ++m_number;
     cBankExchange exchange(m_run);
     std::optional<cBankAnswer> answer = exchange.Send(HBCIFactory::Message(Envelope(tan), business), tan);
-    if (!answer)
+    if (!answer) {
+        if (!exchange.IsSent())
+            --m_number;
         return Stop(exchange.Error());
+    }
     Heed(*answer);
     const cBankError error = modBankFault::OfAnswer(*answer);
     if (!modBankFault::IsPinRefused(error.Failure.Fault))

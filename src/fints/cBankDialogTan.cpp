@@ -72,8 +72,7 @@ std::optional<cBankAnswer> cBankDialog::WithTan(const cTanChallenge& challenge)
         modChallenge::Question(challenge, m_method, BankOf(m_run.State), MediumOf(challenge, m_run.State)));
     if (!tan)
         return Stop(modBankFault::Of(eBankFault::Cancelled));
-    const cTanRequest request{
-        .Process = "2", .Segment = {}, .OrderHash = {}, .Reference = challenge.Reference, .Medium = {}};
+    const cTanRequest request{.Process = "2", .Reference = challenge.Reference};
     auto answer = Exchange({HBCIFactory::Tan(m_method.SegmentVersion, request)}, &*tan);
     if (!answer && m_error.Failure.Fault == eBankFault::BrokenAnswer)
         m_error.ErrorText = cText::Tr("Fehler: Ungültige Antwort nach TAN-Eingabe!");
@@ -91,8 +90,7 @@ std::optional<cBankAnswer> cBankDialog::Approved(const cTanChallenge& challenge)
 std::optional<cBankAnswer> cBankDialog::Polled(const cTanChallenge& challenge)
 {
     cApproval approval = ApprovalFor(challenge, m_method, m_run.State);
-    const cTanRequest request{
-        .Process = "S", .Segment = {}, .OrderHash = {}, .Reference = challenge.Reference, .Medium = {}};
+    const cTanRequest request{.Process = "S", .Reference = challenge.Reference};
     const int version = std::max(m_method.SegmentVersion, 7); // the status request came with this version
     while (approval.MostAsked == 0 || approval.Asked < approval.MostAsked) {
         const bool isOver = approval.ValidUntil.isValid() && m_run.Parts.Clock.Now() > approval.ValidUntil;

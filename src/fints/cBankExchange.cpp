@@ -24,13 +24,6 @@ static QByteArray Decoded(const QByteArray& bytes)
     return decoded ? *decoded : QByteArray();
 }
 
-// What was cut on its way would pass for a short statement. The size in the head is no help, some banks count wrong.
-static bool IsWhole(const QByteArray& message)
-{
-    const QByteArray end = message.right(40).trimmed();
-    return end.contains("'HNHBS:") && end.endsWith('\'');
-}
-
 std::optional<cBankAnswer> cBankExchange::Send(const HBCIMessage& message, const cSecret* tan)
 {
     m_error = {};
@@ -43,6 +36,7 @@ std::optional<cBankAnswer> cBankExchange::Send(const HBCIMessage& message, const
     const cHttpsAnswer answer = m_run.Parts.Https.Post(m_run.State.Url, body);
     cSecret::Wipe(bytes);
     cSecret::Wipe(body);
+    m_isSent = answer.Fault != eHttpsFault::NotReachable && answer.Fault != eHttpsFault::Certificate;
     return Read(answer, secrets);
 }
 
@@ -55,9 +49,7 @@ std::optional<cBankAnswer> cBankExchange::Read(const cHttpsAnswer& answer, const
         return Fail(modBankFault::Silence(m_run.State.Url), u"Leere Antwort."_s);
     const QByteArray message = IsPage(bytes) ? QByteArray() : Decoded(bytes);
     m_run.Parts.Log.AddAnswer(message.isEmpty() ? bytes : message, secrets, m_run.Parts.ProductId);
-    std::optional<cBankAnswer> read;
-    if (!message.isEmpty() && IsWhole(message))
-        read = cBankAnswer::Read(message);
+    std::optional<cBankAnswer> read = cBankAnswer::Read(message);
     if (!read)
         return Fail(modBankFault::Of(eBankFault::BrokenAnswer), u"Die Antwort ist keine ganze Nachricht."_s);
     return read;

@@ -17,6 +17,8 @@ public:
     [[nodiscard]] std::optional<cBankAnswer> Send(const HBCIMessage& message, const cSecret* tan);
 
     [[nodiscard]] const cBankError& Error() const { return m_error; }
+    // The bank may have got the message, whatever became of the answer.
+    [[nodiscard]] bool IsSent() const { return m_isSent; }
 
 private:
     [[nodiscard]] std::optional<cBankAnswer> Read(const cHttpsAnswer& answer, const QList<const cSecret*>& secrets);
@@ -24,4 +26,5 @@ private:
 
     cBankRun& m_run;
     cBankError m_error;
+    bool m_isSent = false;
 };

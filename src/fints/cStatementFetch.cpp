@@ -153,8 +153,6 @@ void cStatementFetch::AskForIbans()
     const HBCISegment request = HBCIFactory::SepaAccounts();
     const auto answer = modBankParameters::NeedsTan(m_run.State.Parameters, "HKSPA") ? m_dialog.Order(request)
                                                                                      : m_dialog.Send({request});
-    if (!answer)
-        return;
-    for (const HBCISegment& segment : answer->SegmentsOf("HISPA"))
-        modBankMemory::TakeIbans(segment, m_run.State);
+    if (answer)
+        modBankMemory::TakeIbans(answer->SepaAccounts(), m_run.State);
 }

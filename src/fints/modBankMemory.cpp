@@ -136,22 +136,10 @@ bool modBankMemory::LacksMedium(const cBankState& state)
     return state.Method && state.Method->MediaNameRequired == u"2" && state.Medium.isEmpty();
 }
 
-void modBankMemory::TakeIbans(const HBCISegment& list, cBankState& state)
+void modBankMemory::TakeIbans(const QList<cBankAccount>& sepa, cBankState& state)
 {
-    for (int place = 1; place <= list.ElementCount(); ++place) {
-        const QByteArray element = list.Element(place);
-        const QList<QByteArrayView> group = modFintsSplit::Group(element);
-        if (group.size() < 4) // "J", IBAN, BIC, number, mark of the sub-account
-            continue;
-        const QString number = modFintsValue::Unescaped(group.at(3));
-        const QString mark = group.size() > 4 ? modFintsValue::Unescaped(group.at(4)) : QString();
-        for (cBankAccount& account : state.Accounts) {
-            if (account.Number != number || account.SubNumber != mark || !account.Iban.isEmpty())
-                continue;
-            account.Iban = modFintsValue::Unescaped(group.at(1));
-            account.Bic = modFintsValue::Unescaped(group.at(2));
-        }
-    }
+    for (cBankAccount& account : state.Accounts)
+        account = Completed(account, sepa);
 }
 
 QString modBankMemory::Address(const cBankAnswer& answer)

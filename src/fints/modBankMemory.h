@@ -27,8 +27,8 @@ QList<cBankAccount> Take(const cBankAnswer& answer, cBankState& state);
 // The bank wants a TAN medium named and none is chosen.
 [[nodiscard]] bool LacksMedium(const cBankState& state);
 
-// IBAN and BIC of a list of SEPA accounts (HISPA), for accounts that lack them.
-void TakeIbans(const HBCISegment& list, cBankState& state);
+// IBAN and BIC of SEPA accounts (HISPA), for accounts that lack them.
+void TakeIbans(const QList<cBankAccount>& sepa, cBankState& state);
 
 // The web address that the bank names in its parameters (HIKOM), with "https://"; empty when it names none.
 [[nodiscard]] QString Address(const cBankAnswer& answer);

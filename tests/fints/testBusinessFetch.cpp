@@ -58,7 +58,7 @@ void testBusinessFetch::Fetches_data()
     }) << init + u"HKKAZ5 111 | HKKAZ5 111 page 2 | HKKAZ5 111 page 3 | HKSAL5 111 | end";
     QTest::newRow("a TAN for every page") << Profile([](cBankProfile& bank) {
         bank.Accounts.first().Pages = {"\r\n:20:A\r\n-", "\r\n:20:B\r\n-"};
-        bank.AskedTans["HKKAZ"] = {.Times = -1, .HhdUc = {}, .Refusal = {}};
+        bank.AskedTans["HKKAZ"] = {.Times = -1};
     }) << init + u"HKKAZ5 | TAN? | TAN 111 | HKKAZ5 | TAN? | TAN 111 page 2 | HKSAL5 111 | end";
     QTest::newRow("no bookings") << Profile([](cBankProfile& bank) { bank.Accounts.first().Pages.clear(); })
                                  << init + u"HKKAZ5 111 | HKSAL5 111 | end";
@@ -89,7 +89,7 @@ void testBusinessFetch::JoinsPagesByteByByte()
     const QByteArray whole = cBankScene::Statement("1,11", u"Gr\u00f6\u00dfe'+:@?"_s.toUtf8());
     for (qsizetype cut = 1; cut < whole.size(); cut += 7) {
         cBankProfile profile;
-        profile.Accounts = {{.Number = "111", .Pages = {whole.left(cut), whole.mid(cut)}, .Camt = {}, .Pending = {}}};
+        profile.Accounts = {{.Number = "111", .Pages = {whole.left(cut), whole.mid(cut)}}};
         cBankScene scene(profile);
         QVERIFY(scene.SetUp());
         QVERIFY(scene.Business.getAccountTransactions(scene.Orders().constFirst()));
@@ -108,8 +108,7 @@ void testBusinessFetch::ReadsTheTextOfTheBank()
 {
     QFETCH(QByteArray, purpose);
     cBankProfile profile;
-    profile.Accounts = {
-        {.Number = "111", .Pages = {cBankScene::Statement("1,11", purpose)}, .Camt = {}, .Pending = {}}};
+    profile.Accounts = {{.Number = "111", .Pages = {cBankScene::Statement("1,11", purpose)}}};
     cBankScene scene(profile);
     QVERIFY(scene.SetUp());
     QVERIFY(scene.Business.FetchAll(scene.Orders()));
@@ -134,11 +133,11 @@ void testBusinessFetch::OneAccountLeavesTheOthers_data()
     QTest::newRow("no statements") << with([](cBankProfile& bank) { bank.Accounts.first().Orders = "HKWPD:1"; })
                                    << init + u"HKKAZ5 222 | end" << eBankFault::NoStatements << eBankFault::None;
     QTest::newRow("wrong TAN") << with([](cBankProfile& bank) {
-        bank.AskedTans["HKKAZ"] = {.HhdUc = {}, .Refusal = "9941::TAN ung."};
+        bank.AskedTans["HKKAZ"] = {.Refusal = "9941::TAN ung."};
     }) << init + u"HKKAZ5 | TAN? | TAN | HKKAZ5 222 | end"
                                << eBankFault::TanWrong << eBankFault::None;
     QTest::newRow("ended by the bank") << with(
-        [](cBankProfile& bank) { bank.Refusals["HKKAZ"] = {.Global = "9800::Ende.", .Local = {}, .Extra = {}}; })
+        [](cBankProfile& bank) { bank.Refusals["HKKAZ"] = {.Global = "9800::Ende."}; })
                                        << init + u"HKKAZ5" << eBankFault::EndedByBank << eBankFault::EndedByBank;
     QTest::newRow("camt, because the account has nothing else") << with([](cBankProfile& bank) {
         bank.Parameters.append(
@@ -177,9 +176,8 @@ void testBusinessFetch::KeepsWholeStatementsOnly()
     const QByteArray first = cBankScene::Statement("1,11", "a-b") + "\r\n";
     const QByteArray second = cBankScene::Statement("2222,22");
     cBankProfile profile;
-    profile.Accounts = {
-        {.Number = "111", .Pages = {first + second.left(75), second.mid(75)}, .Camt = {}, .Pending = {}}};
-    profile.Refusals["HKKAZ"] = {.Nth = 2, .Global = "9800::Ende.", .Local = {}, .Extra = {}};
+    profile.Accounts = {{.Number = "111", .Pages = {first + second.left(75), second.mid(75)}}};
+    profile.Refusals["HKKAZ"] = {.Nth = 2, .Global = "9800::Ende."};
     cBankScene scene(profile);
     QVERIFY(scene.SetUp());
     QVERIFY(!scene.Business.FetchAll(scene.Orders()));
@@ -196,7 +194,7 @@ void testBusinessFetch::ReplacesAForgottenSystemIdOnce()
     QCOMPARE(scene.State.SystemId, QByteArray("SYS?+2"));
     scene.Bank.Journal.clear();
     scene.Bank.Profile.Systems.clear();
-    scene.Bank.Profile.Refusals["HKSYN"] = {.Nth = 0, .Local = "9391::Kundensystem-ID unbekannt.", .Extra = {}};
+    scene.Bank.Profile.Refusals["HKSYN"] = {.Nth = 0, .Local = "9391::Kundensystem-ID unbekannt."};
     QVERIFY(!scene.Business.FetchAll(scene.Orders().first(1)));
     QCOMPARE(scene.Bank.Story(), init + u"end | sync 912 78/3 HKIDN | end");
 }

@@ -10,8 +10,8 @@ namespace {
 cBankProfile Profile()
 {
     cBankProfile profile;
-    profile.AskedTans["HKIDN"] = {.HhdUc = {}, .Refusal = {}};
-    profile.AskedTans["HKKAZ"] = {.HhdUc = {}, .Refusal = {}};
+    profile.AskedTans["HKIDN"] = {};
+    profile.AskedTans["HKKAZ"] = {};
     return profile;
 }
 
@@ -113,7 +113,8 @@ void testBusinessLine::StopsWhereTheUserStops()
         cBankScene scene(Profile());
         scene.User.CancelsAfter = after;
         const bool isDone = Run(scene);
-        QVERIFY(!isDone || whole.Bank.Journal.at(after) == u"end");
+        const QString next = whole.Bank.Journal.at(after);
+        QVERIFY(!isDone || next == u"end" || next == u"HKSAL5 222"); // all bookings had come
         QVERIFY(isDone || scene.Fault() == eBankFault::Cancelled);
         QCOMPARE(scene.Bank.Journal.size() <= after + (isBetween ? 0 : 2), true);
         QVERIFY(scene.Bank.IsQuiet());

@@ -18,11 +18,11 @@ cOfferedMethod App()
 
 cAskedTan Approval(int notYet)
 {
-    return {.Challenge = "Bitte freigeben",
-            .Code = "3955::Freigabe in der App.",
-            .HhdUc = {},
-            .NotYet = notYet,
-            .Refusal = {}};
+    return {
+        .Challenge = "Bitte freigeben",
+        .Code = "3955::Freigabe in der App.",
+        .NotYet = notYet,
+    };
 }
 
 cBankProfile Profile(void (*change)(cBankProfile&))
@@ -36,7 +36,7 @@ cBankProfile Refusing(const QByteArray& step, int nth, const QByteArray& words,
                       const QByteArray& global = "9050::Fehler.")
 {
     cBankProfile profile;
-    profile.Refusals[step] = {.Nth = nth, .Global = global, .Local = words, .Extra = {}};
+    profile.Refusals[step] = {.Nth = nth, .Global = global, .Local = words};
     return profile;
 }
 
@@ -224,7 +224,7 @@ void testBusinessSetUp::OffersApprovalFirst()
         bank.Functions = "912:946:913:999";
     }));
     QVERIFY(scene.Business.Discover());
-    QCOMPARE(Methods(scene.State), u"946 912 913"_s);
+    QCOMPARE(Methods(scene.State), u"946 913 912"_s);
     QVERIFY(!scene.State.Method);
     QVERIFY(!scene.Business.Refresh());
     QCOMPARE(scene.Business.ErrorText(), u"Es wurden keine unterstützen TAN-Verfahren gefunden."_s);

@@ -151,7 +151,7 @@ QByteArray cTestBank::Respond(const cBankRequest& request)
             return *refused;
     }
     if (step == "HKIDN" && !isSync && !Profile.Systems.contains(request.SystemId))
-        return Refused(request, {.Nth = 0, .Local = "9391::Kundensystem-ID unbekannt.", .Extra = {}});
+        return Refused(request, {.Nth = 0, .Local = "9391::Kundensystem-ID unbekannt."});
     if (step == "HKTAN2" || step == "HKTANS")
         return TakeTan(request);
     if (step == "HKEND") {
@@ -174,7 +174,8 @@ QByteArray cTestBank::Respond(const cBankRequest& request)
 static bool IsRefusalOfPin(const QByteArray& words)
 {
     static const QList<QByteArray> codes{"9942", "9931", "9340", "9910", "9930", "9933", "3931", "3938"};
-    return std::any_of(codes.begin(), codes.end(), [&](const QByteArray& code) { return words.contains(code + "::"); })
+    return std::any_of(codes.begin(), codes.end(),
+                       [&](const QByteArray& code) { return words.contains(QByteArray(code + "::")); })
         || words.toUpper().contains("PIN FALSCH") || words.contains("PIN ist ung");
 }
 
@@ -241,7 +242,7 @@ QByteArray cTestBank::TakeTan(const cBankRequest& request)
     const cPending pending = *m_pending;
     m_pending.reset();
     if (!pending.Tan.Refusal.isEmpty())
-        return Refused(request, {.Nth = 0, .Local = pending.Tan.Refusal, .Extra = {}});
+        return Refused(request, {.Nth = 0, .Local = pending.Tan.Refusal});
     Challenge(request.Business.constFirst().Number, (isStatus ? "S++" : "2++") + pending.Reference);
     Do(pending.Request, true);
     return Message("0020::Auftrag erledigt.", request);
@@ -267,7 +268,9 @@ QByteArray cTestBank::Message(const QByteArray& global, const cBankRequest& requ
     for (const cReply& reply : std::as_const(m_replies)) {
         const QList<QByteArray> head = reply.Head.split(':');
         inner += head.at(0) + ":" + QByteArray::number(number++) + ":" + head.at(1);
-        inner += reply.Reference > 0 ? ":" + QByteArray::number(reply.Reference) + reply.Body + "'" : reply.Body + "'";
+        if (reply.Reference > 0)
+            inner += ":" + QByteArray::number(reply.Reference);
+        inner += reply.Body + "'";
     }
     if (Profile.IsSigned)
         inner += "HNSHA:" + QByteArray::number(number++) + ":2+9999999'";
