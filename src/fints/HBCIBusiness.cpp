@@ -64,7 +64,10 @@ bool HBCIBusiness::cSession::JudgeDiscovery(const cBankError& error)
         return Run.Fail(Run.Refused);
     if ((error.IsSet() || isSilent) && IsLoginRefused())
         return Run.Fail(modBankFault::Of(eBankFault::LoginRefused, Run.Collected, words));
-    if (error.IsSet() && error.Failure.Fault != eBankFault::Other)
+    // A bank that breaks off because it wants a strong authentication may have told all that this dialog is for.
+    const bool isTold = Run.HasFunctions && !Run.State.Methods.isEmpty();
+    const bool isHarmless = isTold && error.Failure.Fault == eBankFault::EndedByBank;
+    if (error.IsSet() && error.Failure.Fault != eBankFault::Other && !isHarmless)
         return Run.Fail(error);
     if (isSilent) {
         const QString text = cText::Tr("Die Kontodaten konnten nicht abgerufen werden.");

@@ -53,7 +53,7 @@ std::optional<cBankAnswer> cBankDialog::Answered(const cBankAnswer& question)
     const cBankError error = modBankFault::OfAnswer(question);
     if (error.IsSet())
         return Fail(error);
-    if (!IsQuestion(question))
+    if (modBankMemory::IsOneStep(m_method) || !IsQuestion(question))
         return question;
     const cTanChallenge challenge = *question.Tan();
     const bool isApproval = question.Has(u"3955") || modBankMemory::IsApproval(m_method);

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] bool IsSent() const { return m_isSent; }
 
 private:
-    [[nodiscard]] std::optional<cBankAnswer> Read(const cHttpsAnswer& answer, const QList<const cSecret*>& secrets);
+    [[nodiscard]] std::optional<cBankAnswer> Read(cHttpsAnswer answer, const QList<const cSecret*>& secrets);
     std::nullopt_t Fail(const cBankError& error, const QString& remark);
 
     cBankRun& m_run;

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void OneAccountLeavesTheOthers();
     void KeepsWholeStatementsOnly();
     void ReplacesAForgottenSystemIdOnce();
+    void SpeaksTheOldProtocol();
     void KnowsNothingAndAsksForAll();
 };
 
@@ -197,6 +198,15 @@ void testBusinessFetch::ReplacesAForgottenSystemIdOnce()
     scene.Bank.Profile.Refusals["HKSYN"] = {.Nth = 0, .Local = "9391::Kundensystem-ID unbekannt."};
     QVERIFY(!scene.Business.FetchAll(scene.Orders().first(1)));
     QCOMPARE(scene.Bank.Story(), init + u"end | sync 912 78/3 HKIDN | end");
+}
+
+void testBusinessFetch::SpeaksTheOldProtocol()
+{
+    cBankScene scene;
+    scene.State.HbciVersion = u"220"_s;
+    QVERIFY(scene.SetUp());
+    QVERIFY(scene.Business.FetchAll(scene.Orders()));
+    QVERIFY(scene.Bank.LastText.contains("+220+"));
 }
 
 // A login whose parameters were lost: without their contents no version of them is claimed.

@@ -102,6 +102,20 @@ void testBusinessSetUp::FindsAccounts_data()
     }) << syncEnd + u"init 999 78/3 | end";
     QTest::newRow("answers with a signature")
         << Profile([](cBankProfile& bank) { bank.IsSigned = true; }) << syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end";
+    QTest::newRow("user parameters are old and come")
+        << Profile([](cBankProfile& bank) { bank.InitWords = "3050::UPD nicht mehr aktuell. Neue folgen."; })
+        << syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end";
+    QTest::newRow("ended, but the procedures had been told") << Profile([](cBankProfile& bank) {
+        bank.Refusals["HKSYN"] = {.Nth = 1,
+                                  .Global = "9800::Ende.",
+                                  .Local = "3920::Verfahren:912",
+                                  .Extra = "HIBPA:3+78+280:12345678+Testbank+3+1+300'HITANS:6+1+1+1+N:N:0:912:2:sms::"
+                                           ":SMS:6:1:TAN:999:N:1:N:0:0:N:N:00:0:N:1"};
+    }) << u"sync 999 0/0 | sync 912 78/0 HKIDN | end"_s;
+    QTest::newRow("procedure of process 1") << Profile([](cBankProfile& bank) {
+        bank.Methods = {{.Function = "912", .Process = "1"}};
+        bank.AskedTans["HKIDN"] = {};
+    }) << syncEnd + u"init 912 78/0 HKIDN | TAN? | TAN | HKTAB4 | end";
     QTest::newRow("user parameters are old and do not come") << Profile([](cBankProfile& bank) {
         bank.TellsAccountsAtOnce = true;
         bank.InitWords = "3050::UPD nicht mehr aktuell.";

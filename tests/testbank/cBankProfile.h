@@ -9,6 +9,7 @@ struct cOfferedMethod
 {
     QByteArray Function{}; // "912"
     int Version = 6;       // of HITANS and HKTAN
+    QByteArray Process = "2";
     QByteArray Technical = "mobileTAN";
     QByteArray Zka{};
     QByteArray ZkaVersion{};

@@ -123,21 +123,32 @@ void cTestBank::CheckTanOrder(const cBankRequest& request)
         return;
     m_tanVersion = QByteArray::number(tan.Version);
     Check(tan.Version == method->Version, u"version of the TAN segment"_s);
-    if (tan.At(1) != "4") {
-        const bool isShort = tan.Elements.size() == 6 && tan.At(2).isEmpty() && tan.At(6) == "N";
-        Check(isShort && m_pending && tan.At(5) == m_pending->Reference, u"reference of the order"_s);
-        const bool isTyped = tan.At(1) == "2";
-        Check(!isTyped || cBankRequest::Plain(request.Tan) == Profile.Tan
-                  || (m_pending && !m_pending->Tan.Refusal.isEmpty()),
-              u"TAN"_s);
-        Check(isTyped != request.Tan.isEmpty(), u"a TAN only where one was asked for"_s);
-        return;
-    }
+    if (tan.At(1) == "2" || tan.At(1) == "S")
+        CheckTan(request, tan);
+    else
+        CheckTanWish(request, tan, *method);
+}
+
+void cTestBank::CheckTan(const cBankRequest& request, const cRequestSegment& tan)
+{
+    const bool isShort = tan.Elements.size() == 6 && tan.At(2).isEmpty() && tan.At(6) == "N";
+    Check(isShort && m_pending && tan.At(5) == m_pending->Reference, u"reference of the order"_s);
+    const bool isTyped = tan.At(1) == "2";
+    const bool isRight = cBankRequest::Plain(request.Tan) == Profile.Tan;
+    Check(!isTyped || isRight || (m_pending && !m_pending->Tan.Refusal.isEmpty()), u"TAN"_s);
+    Check(isTyped != request.Tan.isEmpty(), u"a TAN only where one was asked for"_s);
+}
+
+void cTestBank::CheckTanWish(const cBankRequest& request, const cRequestSegment& tan, const cOfferedMethod& method)
+{
     const bool isNamed = tan.At(2) == request.Step() || (request.Step() == "HKIDN" && tan.At(2) == "HKTAB");
     Check(isNamed && request.Tan.isEmpty(), u"order that the TAN is for"_s);
-    const bool needsMedium = method->MediumRequired == "2" && tan.At(2) != "HKTAB";
+    Check(tan.At(1) == (method.Process == "1" ? "1" : "4"), u"process of the TAN"_s);
+    Check(tan.At(1) == "4" || (tan.At(4).startsWith("@20@") && tan.At(6) == "N"), u"hash of the order"_s);
+    const bool needsMedium = method.MediumRequired == "2" && tan.At(2) != "HKTAB";
     Check(!needsMedium || Profile.Media.contains(tan.At(11)), u"medium is named"_s);
-    Check(method->MediumRequired != "0" || tan.Elements.size() == 2, u"nothing but the order is named"_s);
+    Check(method.MediumRequired != "0" || tan.Elements.size() == (tan.At(1) == "4" ? 2 : 6),
+          u"nothing else is named"_s);
 }
 
 QByteArray cTestBank::Respond(const cBankRequest& request)

@@ -64,6 +64,8 @@ private:
     void CheckRequest(const cBankRequest& request);
     void CheckLogin(const cBankRequest& request);
     void CheckTanOrder(const cBankRequest& request);
+    void CheckTan(const cBankRequest& request, const cRequestSegment& tan);
+    void CheckTanWish(const cBankRequest& request, const cRequestSegment& tan, const cOfferedMethod& method);
     [[nodiscard]] const cOfferedMethod* MethodOf(const cBankRequest& request) const;
 
     // What comes of it

@@ -48,8 +48,9 @@ void cTestBank::Open(const cBankRequest& request, bool isStrong)
 // The row of a procedure as the bank writes it, 21 fields in version 6 and 26 in version 7.
 static QByteArray RowOf(const cOfferedMethod& method)
 {
-    const QByteArray begin = ":" + method.Function + ":2:" + method.Technical + ":" + method.Zka + ":"
-        + method.ZkaVersion + ":" + method.Name + ":6:1:TAN:999:N:1:N:0:0:N:N:00:" + method.MediumRequired + ":N:1";
+    const QByteArray begin = ":" + method.Function + ":" + method.Process + ":" + method.Technical + ":" + method.Zka
+        + ":" + method.ZkaVersion + ":" + method.Name + ":6:1:TAN:999:N:1:N:0:0:N:N:00:" + method.MediumRequired
+        + ":N:1";
     return method.Version < 7 ? begin : begin + ":" + method.Polls;
 }
 
