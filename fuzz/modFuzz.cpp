@@ -1,6 +1,7 @@
 #include "modFuzz.h"
 
 #include "import/zip/modZip.h"
+#include "modFuzzBank.h"
 
 #include <QStringList>
 
@@ -14,10 +15,17 @@ namespace {
 using modFuzz::cTarget;
 
 constexpr std::array targets = {
-    cTarget{"mt940", "a.sta", eStatementFormat::Mt940},     cTarget{"csv", "a.csv", eStatementFormat::Csv},
-    cTarget{"ofx", "a.ofx", eStatementFormat::Ofx},         cTarget{"qif", "a.qif", eStatementFormat::Qif},
-    cTarget{"camt", "a.xml", eStatementFormat::Camt},       cTarget{"xlsx", "a.xlsx", eStatementFormat::Spreadsheet},
-    cTarget{"xls", "a.xls", eStatementFormat::Spreadsheet}, cTarget{"zip", "a.zip", eStatementFormat::Archive},
+    cTarget{"mt940", "a.sta", eStatementFormat::Mt940},
+    cTarget{"csv", "a.csv", eStatementFormat::Csv},
+    cTarget{"ofx", "a.ofx", eStatementFormat::Ofx},
+    cTarget{"qif", "a.qif", eStatementFormat::Qif},
+    cTarget{"camt", "a.xml", eStatementFormat::Camt},
+    cTarget{"xlsx", "a.xlsx", eStatementFormat::Spreadsheet},
+    cTarget{"xls", "a.xls", eStatementFormat::Spreadsheet},
+    cTarget{"zip", "a.zip", eStatementFormat::Archive},
+    cTarget{"fintsSplit", "a.txt", {}, modFuzzBank::FaultOfSplit},
+    cTarget{"fintsAnswer", "a.txt", {}, modFuzzBank::FaultOfAnswer},
+    cTarget{"fintsMethods", "a.txt", {}, modFuzzBank::FaultOfMethods},
 };
 
 constexpr int lastSheetRow = 1048576;
@@ -113,6 +121,8 @@ cReadOptions modFuzz::Options(int set)
 
 QString modFuzz::Fault(const cTarget& target, const QByteArray& bytes, int optionSet)
 {
+    if (target.Fault != nullptr)
+        return target.Fault(bytes);
     const cReadOptions options = Options(optionSet);
     const cStatementSource source =
         modStatementFormat::Source(QString::fromLatin1(target.FileName), Packed(bytes), options.Table.Charset);

@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-// Statement readers against files that nobody has thought of.
+// Statement readers against files that nobody has thought of, and what reads a bank's answers.
 namespace modFuzz {
 
 // A reader and how its files are called.
@@ -15,7 +15,8 @@ struct cTarget
 {
     const char* Name;     // of the target and of its folder in corpus/
     const char* FileName; // what a file of the format is called
-    eStatementFormat Format;
+    eStatementFormat Format = eStatementFormat::Mt940;
+    QString (*Fault)(const QByteArray& bytes) = nullptr; // of what is no statement: looks at the bytes itself
 };
 
 // Null when there is none of this name.

@@ -17,19 +17,11 @@ using modFintsValue::Unescaped;
 
 namespace {
 
-constexpr int mostSeparators = 1'000'000; // of a message; the largest real ones have some ten thousand
-
 constexpr std::array wrongPin = {u"9942", u"9931", u"9340", u"9910", u"9930", u"9933"};
 constexpr std::array locked = {u"3931", u"3938"};
 
 // Accounts that have no statements: securities and cards.
 constexpr std::array hiddenAccounts = {u"standard privat", u"deka-depot", u"depot", u"wertpapier-depot"};
-
-bool IsTooLong(QByteArrayView text)
-{
-    return std::count_if(text.begin(), text.end(), [](char c) { return c == '\'' || c == '+' || c == ':'; })
-        > mostSeparators;
-}
 
 QByteArray Named(const HBCISegment& segment, QByteArrayView name)
 {
@@ -171,7 +163,7 @@ std::optional<cBankAnswer> cBankAnswer::Read(const QByteArray& bytes)
     if (!bytes.startsWith("HNHBK:"))
         return std::nullopt;
     const cShield shield(bytes);
-    if (shield.IsCut() || IsTooLong(shield.Text()))
+    if (shield.IsCut() || shield.IsOverlong())
         return std::nullopt;
     QList<HBCISegment> segments;
     for (const cWireSegment& wire : ::SegmentsOf(shield)) {

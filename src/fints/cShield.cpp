@@ -46,6 +46,12 @@ QByteArrayView cShield::Wire(QByteArrayView token) const
     return token.isEmpty() ? QByteArrayView() : m_wire.sliced(token.data() - Text().data(), token.size());
 }
 
+bool cShield::IsOverlong() const
+{
+    constexpr qsizetype most = 1'000'000; // the largest real messages have some ten thousand
+    return m_separators > most;
+}
+
 void cShield::Walk(qsizetype from, qsizetype to, eLevel level)
 {
     qsizetype segment = from;
@@ -65,6 +71,7 @@ void cShield::Walk(qsizetype from, qsizetype to, eLevel level)
             ++at;
             isStart = character == '+' || character == ':';
             segment = character == '\'' ? at : segment;
+            m_separators += isStart || character == '\'' ? 1 : 0;
         }
     }
 }
@@ -91,7 +98,8 @@ void cShield::Cover(qsizetype from, qsizetype to)
         m_covered = m_wire.toByteArray();
         m_isCovered = true;
     }
-    std::fill(m_covered.begin() + from, m_covered.begin() + to, cover);
+    char* const data = m_covered.data();
+    std::fill(data + from, data + to, cover);
 }
 
 QList<cWireSegment> SegmentsOf(const cShield& shield)

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] QByteArrayView Wire(QByteArrayView token) const;
     // True when binary data announces more bytes than there are.
     [[nodiscard]] bool IsCut() const { return m_isCut; }
+    // True when there are more separators than in any real message, so that its tokens would fill the memory.
+    [[nodiscard]] bool IsOverlong() const;
 
 private:
     enum class eLevel { Message, Inner };
@@ -34,6 +36,7 @@ private:
     QByteArray m_covered;
     bool m_isCovered = false;
     bool m_isCut = false;
+    qsizetype m_separators = 0;
 };
 
 // A segment as it stands in a message.

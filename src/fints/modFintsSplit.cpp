@@ -22,6 +22,15 @@ qsizetype LengthFrom(QByteArrayView digits)
     return digits.size() > mostDigits ? most : std::min<qsizetype>(digits.toLongLong(), most);
 }
 
+// The first "+@" of a range. Looking for the rarer of the two is fast in long data that has none.
+qsizetype PrefixIn(QByteArrayView range)
+{
+    qsizetype at = range.indexOf('@');
+    while (at == 0 || (at > 0 && range[at - 1] != '+'))
+        at = range.indexOf('@', at + 1);
+    return at == none ? none : at - 1;
+}
+
 // The end of the segment that begins at `start`. Behind binary data the search for more of it goes on, so that every
 // character is looked at once.
 qsizetype SegmentEnd(QByteArrayView text, qsizetype start)
@@ -29,7 +38,7 @@ qsizetype SegmentEnd(QByteArrayView text, qsizetype start)
     qsizetype end = text.indexOf('\'', start);
     for (qsizetype from = start;;) {
         const qsizetype candidate = end == none ? text.size() : end;
-        const qsizetype at = text.sliced(from, candidate - from).indexOf("+@");
+        const qsizetype at = PrefixIn(text.sliced(from, candidate - from));
         if (at == none)
             return candidate;
         const modFintsSplit::cBinary binary = modFintsSplit::BinaryAt(text.sliced(from + at + 1));
@@ -86,6 +95,9 @@ QList<QByteArrayView> modFintsSplit::Split(QByteArrayView text, char separator)
 
 QList<QByteArrayView> modFintsSplit::Group(QByteArrayView element)
 {
+    const cBinary binary = BinaryAt(element);
+    if (binary.Prefix > 0 && binary.Length >= element.size() - binary.Prefix)
+        return {element};
     const cShield shield(element);
     QList<QByteArrayView> parts = Split(shield.Text(), ':');
     for (QByteArrayView& part : parts)

@@ -124,9 +124,9 @@ QByteArray modLogMask::Words(QByteArrayView text, const QList<QByteArray>& needl
 
 QByteArray modLogMask::Message(const QByteArray& message, const QList<QByteArray>& needles, QSet<QString>& people)
 {
-    if (!message.startsWith("HNHBK:"))
-        return Words(QByteArrayView(message).first(std::min(message.size(), mostWords)), needles);
     const cShield shield(message);
+    if (!message.startsWith("HNHBK:") || shield.IsOverlong())
+        return Words(QByteArrayView(message).first(std::min(message.size(), mostWords)), needles);
     cMasking masking(needles, people);
     QByteArray text;
     for (const cWireSegment& segment : SegmentsOf(shield))
