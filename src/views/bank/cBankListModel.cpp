@@ -39,9 +39,10 @@ bool cBankListModel::Remove(int row)
 {
     const cBankState& bank = m_lines.at(row).Bank;
     cQuestion question;
-    question.Text = cText::Tr("Soll der Zugang {0} bei {1} entfernt werden?\nKonten und Umsätze bleiben im Buch, es wird "
-                              "nur nichts mehr abgerufen.",
-                              {bank.UserId, modBankText::Bank(bank)});
+    question.Text =
+        cText::Tr("Soll der Zugang {0} bei {1} entfernt werden?\nKonten und Umsätze bleiben im Buch, es wird "
+                  "nur nichts mehr abgerufen.",
+                  {bank.UserId, modBankText::Bank(bank)});
     question.Title = cText::Tr("Bankzugang entfernen");
     question.Default = eAnswer::No;
     if (m_tools.User.Ask(question) != eAnswer::Yes || !m_access.Remove(bank.BankCode, bank.UserId)) {

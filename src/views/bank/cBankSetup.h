@@ -81,8 +81,7 @@ public:
     [[nodiscard]] QStringList Methods() const; // names
     [[nodiscard]] int Method() const;          // -1: none is chosen
     void ChooseMethod(int method);
-    [[nodiscard]] QStringList Media() const;
-    [[nodiscard]] int Medium() const;      // -1: none is chosen
+    [[nodiscard]] int Medium() const;      // its place in State().Media; -1: none is chosen
     [[nodiscard]] bool AsksMedium() const; // the procedure has one to be chosen
     void ChooseMedium(int medium);
 
