@@ -4,6 +4,12 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "testbank/cTestBank.h"
+#include "testbank/cTestBankUser.h"
+#include "testbank/cTestHttps.h"
+#include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankListModel.h"
+#include "views/bank/cBankSetup.h"
 #include "views/book/cBackupSettings.h"
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
@@ -21,6 +27,8 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/bank/frmBankAssistent.h"
+#include "windows/bank/frmBankzugaenge.h"
 #include "windows/book/frmLaender.h"
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
@@ -120,6 +128,38 @@ struct cScene
     cRuleEditor Rules{Book.Tools};
     cBookCheck Check{Book.Data, Book.Format};
     cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
+    cTestBank Bank{BankProfile()};
+    cTestHttps Https{Bank};
+    cTestBankUser Customer{Bank};
+    cBankDirectory Directory{Book.Shell};
+    cBankSetup Setup{{Book.Tools, Directory, Https, Customer, QStringLiteral("1.0.0")}};
+    std::unique_ptr<cBankListModel> Banks;
+
+    // Several procedures and media, an account without statements, and long names.
+    static cBankProfile BankProfile()
+    {
+        cBankProfile profile;
+        profile.Methods = {{.Function = "912", .Name = "chipTAN optisch (Flickercode am Bildschirm)"},
+                           {.Function = "913", .Name = "SMS", .MediumRequired = "2"}};
+        profile.Media = {"Mobiltelefon", "Tablet"};
+        profile.Accounts = {
+            {.Number = "111", .Iban = "DE02100200300001234567", .Product = "Privatgiro Komfort & Co"},
+            {.Number = "222", .Iban = "DE03100200300001234568", .Product = "Depot A", .Orders = "HKSAL:1"},
+            {.Number = "333", .Product = "Tagesgeld"}};
+        return profile;
+    }
+
+    // Goes on in the assistant until the page is there.
+    void SetUpTo(cBankSetup::ePage page)
+    {
+        Setup.ChooseCode(QStringLiteral("12345678"));
+        Setup.SetUrl(Https.Url);
+        Setup.SetUserId(QStringLiteral("testuser"));
+        Setup.SetProductId(QStringLiteral("PRODUKTID0123456789012345"));
+        while (Setup.Page() != page) {
+            Prepare(Setup.Next());
+        }
+    }
 };
 
 using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
@@ -127,6 +167,12 @@ using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
 std::unique_ptr<QWidget> MakeEditor(cScene& scene, const std::optional<cEntryFields>& fields)
 {
     return fields ? std::make_unique<frmBuchung>(scene.Editor, *fields) : nullptr;
+}
+
+std::unique_ptr<QWidget> MakeBankAssistant(cScene& scene, cBankSetup::ePage page)
+{
+    scene.SetUpTo(page);
+    return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
 }
 
 std::unique_ptr<QWidget> MakeAssistant(cScene& scene, const QString& file)
@@ -246,6 +292,28 @@ void testEveryWindow::CanBeReadAndOperated_data()
              scene.Book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
              scene.Check.Reload();
              return std::make_unique<frmPruefung>(scene.Check);
+         }},
+        {"bank assistant, bank",
+         [](cScene& scene) {
+             auto window = MakeBankAssistant(scene, cBankSetup::ePage::Bank);
+             window->findChild<QCheckBox*>()->setChecked(true); // all that there is
+             return window;
+         }},
+        {"bank assistant, login", [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Login); }},
+        {"bank assistant, procedure",
+         [](cScene& scene) {
+             scene.SetUpTo(cBankSetup::ePage::Method);
+             scene.Setup.ChooseMethod(1);
+             (void)scene.Setup.Next(); // the bank wants a medium
+             return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
+         }},
+        {"bank assistant, accounts",
+         [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Accounts); }},
+        {"bank logins",
+         [](cScene& scene) {
+             scene.SetUpTo(cBankSetup::ePage::Done);
+             scene.Banks = std::make_unique<cBankListModel>(scene.Book.Tools);
+             return std::make_unique<frmBankzugaenge>(*scene.Banks);
          }},
         {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     };

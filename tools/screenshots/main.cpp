@@ -23,6 +23,7 @@
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
 #include "tools/screenshots/takeAssistant.h"
+#include "tools/screenshots/takeBanks.h"
 #include "tools/screenshots/takeReview.h"
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
@@ -518,8 +519,8 @@ int main(int argc, char* argv[])
     cCamera camera(arguments.at(1), arguments.at(2), screen);
     return TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeEmpty(camera) && TakeEditor(camera)
             && TakeCategories(camera) && TakeSearch(camera) && TakeRules(camera) && TakeReview(camera)
-            && TakeSettings(camera) && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera)
-            && camera.IsGood()
+            && TakeBanks(camera) && TakeSettings(camera) && TakeStatistics(camera) && TakeCharts(camera)
+            && TakePrinted(camera) && camera.IsGood()
         ? 0
         : 1;
 }
