@@ -50,6 +50,7 @@ const QList<cCliCommand>& modCliCommands::All()
         AccountsStartCommand(),
         AccountsLimitCommand(),
         BalancesCommand(),
+        BankSearchCommand(),
         CheckCommand(),
         DemoCommand(),
         BackupCommand(),

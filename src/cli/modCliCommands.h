@@ -75,6 +75,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand AccountsStartCommand();
 [[nodiscard]] cCliCommand AccountsLimitCommand();
 [[nodiscard]] cCliCommand BalancesCommand();
+[[nodiscard]] cCliCommand BankSearchCommand();
 [[nodiscard]] cCliCommand CheckCommand();
 [[nodiscard]] cCliCommand DemoCommand();
 [[nodiscard]] cCliCommand BackupCommand();

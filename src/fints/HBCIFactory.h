@@ -31,11 +31,11 @@ struct cEnvelope
 // A request for a TAN or with one (HKTAN).
 struct cTanRequest
 {
-    QByteArray Process;   // "4", "1", "2" or "S"
-    QByteArray Segment;   // code of the segment that the TAN is for, with process 4
-    QByteArray OrderHash; // with process 1
-    QByteArray Reference; // wire, with process 2 and S
-    QString Medium;       // only when it has to be named
+    QByteArray Process{};   // "4", "1", "2" or "S"
+    QByteArray Segment{};   // code of the segment that the TAN is for, with process 4
+    QByteArray OrderHash{}; // with process 1
+    QByteArray Reference{}; // wire, with process 2 and S
+    QString Medium{};       // only when it has to be named
 };
 
 // Builds messages and their segments. Numbers of business segments are given by Message.

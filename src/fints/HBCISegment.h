@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QList>
 #include <QString>
 
@@ -11,6 +12,10 @@ class HBCISegment
 public:
     HBCISegment() = default;
     HBCISegment(QByteArray code, int number, int version, QList<QByteArray> elements);
+    // A received segment by its head, "code:number:version" or with the reference behind it.
+    HBCISegment(QByteArrayView head, QList<QByteArray> elements);
+    // One segment as it stands on the wire, without its terminator.
+    [[nodiscard]] static HBCISegment Read(QByteArrayView wire);
 
     [[nodiscard]] const QByteArray& Code() const { return m_code; }
     [[nodiscard]] int Number() const { return m_number; }
@@ -24,10 +29,12 @@ public:
 
     void SetNumber(int number) { m_number = number; }
     void SetElement(int place, const QByteArray& wire);
+    // Overwrites all elements, for those that hold a secret.
+    void Wipe();
 
     // The segment without its terminator; trailing empty elements are left out.
     [[nodiscard]] QByteArray toString() const;
-    // For the log and for tests: the elements with their labels.
+    // For the log and for tests: the elements with their labels. Says nothing of what has none, such as the PIN.
     [[nodiscard]] QString DebugDescription() const;
 
 private:

@@ -5,6 +5,7 @@
 #include "model/TanVerfahrenItem.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QDate>
 #include <QDateTime>
 #include <QList>
@@ -48,7 +49,8 @@ struct cBankBalanceRead
 class cBankAnswer
 {
 public:
-    // Nothing when the bytes are no message: they do not begin with HNHBK, or its head cannot be read.
+    // Nothing when the bytes are no whole message: they do not begin with HNHBK, its head cannot be read, or they were
+    // cut off on the way.
     [[nodiscard]] static std::optional<cBankAnswer> Read(const QByteArray& bytes);
 
     [[nodiscard]] const QByteArray& DialogId() const { return m_dialogId; } // wire
@@ -71,10 +73,11 @@ public:
     [[nodiscard]] std::optional<QByteArray> SystemId() const; // HISYN, wire
     [[nodiscard]] QString BpdVersion() const;                 // empty when no HIBPA came
     [[nodiscard]] QString BankName() const;
-    [[nodiscard]] QString UpdVersion() const;           // empty when no HIUPA came
-    [[nodiscard]] QList<QByteArray> Parameters() const; // HIBPA and HI…S, each as it came
-    [[nodiscard]] QList<cBankAccount> Accounts() const; // HIUPD, those that may be offered
-    [[nodiscard]] QStringList Media() const;            // HITAB, active ones
+    [[nodiscard]] QString UpdVersion() const;               // empty when no HIUPA came
+    [[nodiscard]] QList<QByteArray> Parameters() const;     // HIBPA and HI…S, each as it came
+    [[nodiscard]] QList<cBankAccount> Accounts() const;     // HIUPD, those that may be offered
+    [[nodiscard]] QList<cBankAccount> SepaAccounts() const; // HISPA: numbers, IBAN and BIC, nothing else
+    [[nodiscard]] QStringList Media() const;                // HITAB, active ones
 
     [[nodiscard]] std::optional<cTanChallenge> Tan() const; // HITAN
 
@@ -84,6 +87,9 @@ public:
     [[nodiscard]] std::optional<cBankBalanceRead> Balance() const; // HISAL
 
 private:
+    explicit cBankAnswer(QList<HBCISegment> segments);
+    void ReadMessages();
+
     QByteArray m_dialogId;
     QList<HBCISegment> m_segments;
     QList<cReturnMessage> m_messages;

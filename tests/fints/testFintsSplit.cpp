@@ -1,0 +1,118 @@
+#include "fints/cShield.h"
+#include "fints/modFintsSplit.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QList<QByteArray> Copied(const QList<QByteArrayView>& tokens)
+{
+    QList<QByteArray> copies;
+    for (const QByteArrayView token : tokens)
+        copies.append(token.toByteArray());
+    return copies;
+}
+
+} // namespace
+
+class testFintsSplit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Splits_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<char>("separator");
+        QTest::addColumn<QList<QByteArray>>("tokens");
+        const auto row = [](const char* name, const QByteArray& text, char separator, const QList<QByteArray>& tokens) {
+            QTest::newRow(name) << text << separator << tokens;
+        };
+        row("no text is one token", "", '+', {""});
+        row("no token behind the last end", "HNHBK:1:3+000000000123+300+0+1'", '\'',
+            {"HNHBK:1:3+000000000123+300+0+1"});
+        row("end in binary data", "HNVSD:999:1+@5@ab'cd'", '\'', {"HNVSD:999:1+@5@ab'cd"});
+        row("two binaries in a segment", "A+@3@x'y+@3@'''+B'C'", '\'', {"A+@3@x'y+@3@'''+B", "C"});
+        row("binary in a later segment", "A'B+@1@''C'", '\'', {"A", "B+@1@'", "C"});
+        row("length that is no number", "A+@x@'B'", '\'', {"A+@x@", "B"});
+        row("length without an end", "A+@5'B'", '\'', {"A+@5", "B"});
+        row("more announced than there is", "A+@500@'B'", '\'', {"A+@500@'B'"});
+        row("length beyond all numbers", "A+@99999999999999999999@'B'", '\'', {"A+@99999999999999999999@'B'"});
+        row("an escaped end is an end here", "A?'B'", '\'', {"A?", "B"});
+        row("elements know no escape", "A?+B+C", '+', {"A?", "B", "C"});
+        row("empty elements", "A++B", '+', {"A", "", "B"});
+        row("binary element is cut short", "@3@abc", '+', {"@3@ab"});
+        row("and an empty one follows it", "A+@3@a+c+B", '+', {"A", "@3@a+", "", "B"});
+        row("binary data without characters", "@0@+B", '+', {"@0", "", "B"});
+        row("too long a binary element", "@9@abc+B", '+', {"@9@abc+B"});
+        row("binary data inside of an element", "A:@3@a+b", '+', {"A:@3@a", "b"});
+        row("groups know an escape, and keep it", "A?:B:C", ':', {"A?:B", "C"});
+        row("colon in the first place", ":A", ':', {"", "A"});
+        row("two escape characters", "A??:B", ':', {"A??:B"});
+    }
+    void Splits()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(char, separator);
+        QTEST(Copied(modFintsSplit::Split(text, separator)), "tokens");
+    }
+
+    void CutsGroupsExactly_data()
+    {
+        QTest::addColumn<QByteArray>("element");
+        QTest::addColumn<QList<QByteArray>>("parts");
+        QTest::newRow("two escape characters") << QByteArray("A??:B") << QList<QByteArray>{"A??", "B"};
+        QTest::newRow("three") << QByteArray("A???:B:C?:") << QList<QByteArray>{"A???:B", "C?:"};
+        QTest::newRow("binaries") << QByteArray("@3@a:b:@2@'+:x") << QList<QByteArray>{"@3@a:b", "@2@'+", "x"};
+        QTest::newRow("an at sign of a text") << QByteArray("a@3@b:c") << QList<QByteArray>{"a@3@b", "c"};
+    }
+    void CutsGroupsExactly()
+    {
+        QFETCH(QByteArray, element);
+        QTEST(Copied(modFintsSplit::Group(element)), "parts");
+    }
+
+    // Escapes, binaries in every place, also as the second of a group, and inside the container.
+    void ReadsSegmentsThroughTheShield()
+    {
+        const QByteArray inner = "HIRMG:2:2+0010::Ist das ein ?'Test?'?"
+                                 "?'HIXYZ:3:1+@4@'+:?+b?+c+@2@?'+:@5@x'+:y:@1@'+d'";
+        const QByteArray message = "HNHBK:1:3+1'HNVSK:998:3+2:13:@8@'''''''':5'HNVSD:999:1+@"
+            + QByteArray::number(inner.size()) + "@" + inner + "'HNHBS:4:1+1'";
+        const cShield shield(message);
+        QVERIFY(!shield.IsCut());
+        QList<QByteArray> lines;
+        for (const cWireSegment& segment : SegmentsOf(shield))
+            lines.append(segment.Head.toByteArray() + " | " + Copied(segment.Elements).join(" | "));
+        const QList<QByteArray> expected{
+            "HNHBK:1:3 | 1",
+            "HNVSK:998:3 | 2:13:@8@'''''''':5",
+            "HNVSD:999:1 | @" + QByteArray::number(inner.size()) + "@",
+            "HIRMG:2:2 | 0010::Ist das ein ?'Test?'??",
+            "HIXYZ:3:1 | @4@'+:? | b?+c | @2@?' | :@5@x'+:y:@1@' | d",
+            "HNHBS:4:1 | 1",
+        };
+        QCOMPARE(lines, expected);
+    }
+
+    void SeesWhatIsCutOff_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        QTest::addColumn<bool>("isCut");
+        QTest::newRow("whole") << QByteArray("A+@3@abc'") << false;
+        QTest::newRow("cut") << QByteArray("A+@5@abc'") << true;
+        QTest::newRow("longer than the container") << QByteArray("HNVSD:1:1+@9@A:1+@5@bc'D'") << true;
+        QTest::newRow("length beyond all numbers") << QByteArray("A+@99999999999999999999@'B'") << true;
+        QTest::newRow("no length") << QByteArray("A+@b@'") << false;
+    }
+    void SeesWhatIsCutOff()
+    {
+        QFETCH(QByteArray, message);
+        QTEST(cShield(message).IsCut(), "isCut");
+    }
+};
+
+QTEST_APPLESS_MAIN(testFintsSplit)
+#include "testFintsSplit.moc"
