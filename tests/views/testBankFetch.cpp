@@ -124,7 +124,7 @@ struct cScene : cTestBook
     QHash<QString, cFetchedAccount> Answers;
     QHash<QString, cBankFailure> Failures; // of whole dialogs
     QStringList Orders;
-    cBankFetch Fetch{Tools, Files, {Https, Customer, u"1.00"_s}};
+    cBankFetch Fetch{Tools, Files, {Https, Customer, u"1.0.0"_s}};
 };
 
 } // namespace
