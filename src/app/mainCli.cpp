@@ -75,5 +75,6 @@ int main(int argc, char* argv[])
     cSystemClock clock;
     cFileLock lock;
     cQtPaint paint;
-    return modCliMain::Run(arguments, {shell, registry, clock, lock, paint, QCoreApplication::applicationVersion()});
+    cQtHttps https;
+    return modCliMain::Run(arguments, {shell, registry, clock, lock, paint, https, QCoreApplication::applicationVersion()});
 }

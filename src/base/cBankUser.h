@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -29,6 +30,7 @@ struct cTanQuestion
     eTanDisplay Display = eTanDisplay::Text;
     QByteArray
         Flicker; // the states of the five bars, one a byte: bit 0 is the clock, bits 1 to 4 the data; repeated for ever
+    QStringList ByHand;     // what the flicker code says: the start code, then the data, for a reader with keys
     QByteArray Picture;     // the file as the bank sent it
     QString PictureType;    // MIME type of the picture
     int MostCharacters = 0; // of the TAN; 0: not known

@@ -9,6 +9,20 @@ cCliOption modCliCommands::Json()
     return {u"json"_s, {}, cText::Tr("Ausgabe als JSON")};
 }
 
+QList<cCliOption> modCliCommands::BankSecrets()
+{
+    return {{u"pin-fd"_s, u"N"_s,
+             cText::Tr("liest die PIN als Zeile aus der offenen Datei mit dieser Nummer; sonst fragt das Terminal")},
+            {u"tan-fd"_s, u"N"_s, cText::Tr("ebenso TANs, eine je Zeile")}};
+}
+
+int modCliCommands::Fd(const cCliContext& context, const QString& option)
+{
+    bool isNumber = false;
+    const int number = context.Call.Value(option).toInt(&isNumber);
+    return isNumber ? number : -1;
+}
+
 const QList<cCliCommand>& modCliCommands::All()
 {
     static const QList<cCliCommand> commands{
@@ -51,6 +65,10 @@ const QList<cCliCommand>& modCliCommands::All()
         AccountsLimitCommand(),
         BalancesCommand(),
         BankSearchCommand(),
+        BanksCommand(),
+        BanksAddCommand(),
+        BanksMethodsCommand(),
+        BanksRemoveCommand(),
         CheckCommand(),
         DemoCommand(),
         BackupCommand(),

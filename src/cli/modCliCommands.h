@@ -9,6 +9,7 @@ class cClock;
 class cCliBook;
 class cCliPaint;
 class cConsoleUser;
+class cHttps;
 class cRegistry;
 class cShell;
 
@@ -20,6 +21,7 @@ struct cCliPorts
     const cClock& Clock;
     cBookLock& Lock;
     cCliPaint& Paint;
+    cHttps& Https;
     QString Version; // of the program
 };
 
@@ -81,11 +83,19 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand BackupCommand();
 [[nodiscard]] cCliCommand RestoreCommand();
 [[nodiscard]] cCliCommand PasswordCommand();
+[[nodiscard]] cCliCommand BanksCommand();
+[[nodiscard]] cCliCommand BanksAddCommand();
+[[nodiscard]] cCliCommand BanksMethodsCommand();
+[[nodiscard]] cCliCommand BanksRemoveCommand();
 
 inline constexpr int Any = std::numeric_limits<int>::max(); // number of arguments
 
 // The option that several commands share.
 [[nodiscard]] cCliOption Json();
+
+// The options that say from which open files PIN and TAN are read, and the number one of them has; -1 without.
+[[nodiscard]] QList<cCliOption> BankSecrets();
+[[nodiscard]] int Fd(const cCliContext& context, const QString& option);
 
 // All of them, with their options and their help.
 [[nodiscard]] const QList<cCliCommand>& All();

@@ -53,30 +53,38 @@ public:
         QString ProductVersion; // major version and two digits of the minor one
     };
 
+    // A version of parameters or accounts is sent only together with what came with it, which is part of the state.
     // `state` is read and brought up to date by each operation, also by one that fails. All of these outlive the
     // object.
     HBCIBusiness(const cParts& parts, cBankState& state, const cSecret& pin);
     ~HBCIBusiness();
 
     // Finds accounts and TAN procedures of the login: fills state.Methods and, as far as the bank tells them before a
-    // strong authentication, state.Accounts.
+    // strong authentication, state.Accounts. A single procedure is chosen at once; a chosen one that the bank does not
+    // offer any more is dropped.
     [[nodiscard]] bool Discover();
 
-    // Brings accounts, parameters and TAN media up to date in the procedure state.Method.
+    // Brings accounts, parameters and TAN media up to date in the procedure state.Method. Where the bank wants a medium
+    // named and has several, the fault is MediumMissing: choose state.Medium from state.Media and call again. A single
+    // one is chosen at once.
     [[nodiscard]] bool Refresh();
 
-    // The bookings of one account, as MT940 or camt; false when the dialog failed.
+    // The bookings of one account, as MT940 or camt; false when the dialog failed. What came before a failure is kept
+    // up to the end of the last whole statement.
     [[nodiscard]] bool getAccountTransactions(const cFetchOrder& order);
     // The same for several accounts of the login in one dialog. One that fails leaves the others; false when one
     // failed.
     [[nodiscard]] bool FetchAll(const QList<cFetchOrder>& orders);
 
-    // Of the last operation
+    // Of the last operation. As many as were ordered, in that order.
     [[nodiscard]] const QList<cFetchedAccount>& Fetched() const;
     [[nodiscard]] const cBankFailure& Failure() const;
-    [[nodiscard]] const QString& ErrorText() const; // as it stands in the log
+    [[nodiscard]] const QString& ErrorText() const; // with what the bank said, codes included
+    // An address that the bank gives as its own and that is not the one in use; empty without. It is for the user to
+    // decide about.
+    [[nodiscard]] const QString& AddressHint() const;
 
 private:
-    struct cDialog;
-    std::unique_ptr<cDialog> m_dialog;
+    struct cSession;
+    std::unique_ptr<cSession> m_session;
 };

@@ -17,8 +17,9 @@ enum class eBankFault {
     ApprovalRejected,
     ApprovalMissing, // not given in time
     NoAccounts,
-    NoMethod,     // no TAN procedure that this program knows
-    NoStatements, // the account has none that can be fetched
+    NoMethod,      // no TAN procedure that this program knows
+    MediumMissing, // several TAN media, and the bank wants one named
+    NoStatements,  // the account has none that can be fetched
     EndedByBank,
     Cancelled,
     Other,

@@ -193,8 +193,11 @@ bool cBankAccess::Assign(const cBankState& state, const cBankAccount& account, c
                                         [&](const cBankAccount& each) { return each.Number == account.Number; })
         > 1;
     const bool hasIban = !account.Iban.isEmpty();
-    return (!hasIban || map.Assign(account.Iban, name))
-        && (account.Number.isEmpty() || (isShared && hasIban) || map.Assign(account.Number, name));
+    const auto assign = [&](const QString& number) {
+        return map.AccountOf(number) == name.trimmed() || map.Assign(number, name);
+    };
+    return (!hasIban || assign(account.Iban))
+        && (account.Number.isEmpty() || (isShared && hasIban) || assign(account.Number));
 }
 
 QDate cBankAccess::LastFetch(const cBankState& state, const cBankAccount& account) const

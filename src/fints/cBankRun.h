@@ -1,0 +1,29 @@
+#pragma once
+
+#include "fints/HBCIBusiness.h"
+#include "fints/modBankFault.h"
+#include "model/cBankState.h"
+
+#include <QString>
+
+// What all dialogs of one HBCIBusiness share.
+struct cBankRun
+{
+    HBCIBusiness::cParts Parts;
+    cBankState& State;
+    const cSecret& Pin;
+    QList<cBankAccount> Found = {}; // accounts that the bank told in this operation
+    QString Collected = {};         // what it said in this operation, code and text, one a line
+    bool HasFunctions = false;      // it named the TAN procedures of the customer
+    cBankError Refused = {};        // set once the bank refused the PIN: no message is sent any more
+    cBankError Error = {};          // of this operation
+    QString AddressHint = {};
+    bool IsNew = false; // the login is being set up: the accounts were looked for before
+
+    // The operation ends with this error; false, for the caller to return.
+    bool Fail(const cBankError& error)
+    {
+        Error = error;
+        return false;
+    }
+};

@@ -1,0 +1,158 @@
+#include "fints/cStatementFetch.h"
+
+#include "base/cBankUser.h"
+#include "base/cText.h"
+#include "fints/modBankMemory.h"
+#include "fints/modBankParameters.h"
+
+// The bank and the customer's account have to know an order; each of the two lists has things that the other lacks. An
+// account without a list is restricted by nothing.
+static bool IsAllowed(const cBankAccount& account, const QString& order)
+{
+    return account.Orders.isEmpty() || account.Orders.contains(order);
+}
+
+static QString NameOf(const cBankAccount& account)
+{
+    return account.ProductName.isEmpty() ? account.Number : account.ProductName + u' ' + account.Number;
+}
+
+// Strict UTF-8, else the character set of the messages. The pages are joined before, because they are cut anywhere.
+static QString Decoded(const QByteArray& bytes)
+{
+    return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
+}
+
+static bool IsLineBreak(char letter)
+{
+    return letter == '\r' || letter == '\n' || letter == '@'; // some banks write "@@" for it
+}
+
+// When a page is missing, what came may end in the middle of a booking, which would then stand in the book with half an
+// amount. A statement ends with a line "-".
+static void CutToWholeStatements(QByteArray& bytes)
+{
+    for (qsizetype at = bytes.lastIndexOf('-'); at > 0; at = bytes.lastIndexOf('-', at - 1)) {
+        const bool isEnd = at + 1 == bytes.size() || IsLineBreak(bytes[at + 1]);
+        if (isEnd && IsLineBreak(bytes[at - 1])) {
+            bytes.truncate(at + 1);
+            return;
+        }
+    }
+    bytes.clear();
+}
+
+cFetchedAccount cStatementFetch::Fetch(const cFetchOrder& order)
+{
+    cFetchedAccount fetched;
+    cFetchOrder complete = order;
+    m_run.Parts.User.ShowStep(cText::Tr("Umsätze werden abgerufen: {0}", {NameOf(order.Account)}));
+    const cKind kind = KindOf(order.Account);
+    if (kind.MT940 == 0 && kind.Camt.isEmpty()) {
+        fetched.Account = order.Account;
+        fetched.Failure = modBankFault::Of(eBankFault::NoStatements).Failure;
+        return fetched;
+    }
+    if (kind.MT940 == 0 || kind.MT940 > 6)
+        Complete(complete.Account);
+    fetched.Account = complete.Account;
+    if (Pages(kind, complete, fetched))
+        Balance(fetched);
+    else
+        fetched.Failure = m_dialog.Error().Failure;
+    return fetched;
+}
+
+cStatementFetch::cKind cStatementFetch::KindOf(const cBankAccount& account) const
+{
+    const QList<QByteArray>& parameters = m_run.State.Parameters;
+    cKind kind;
+    if (IsAllowed(account, QStringLiteral("HKKAZ"))) {
+        const bool hasFive = modBankParameters::Offers(parameters, "HIKAZS", 5);
+        const int highest = modBankParameters::Version(parameters, "HIKAZS", 7);
+        kind.MT940 = hasFive ? 5 : highest > 5 ? highest : 0;
+    }
+    const bool hasCamt = modBankParameters::Offers(parameters, "HICAZS", 1);
+    if (kind.MT940 == 0 && hasCamt && IsAllowed(account, QStringLiteral("HKCAZ")))
+        kind.Camt = modBankParameters::CamtFormat(parameters);
+    return kind;
+}
+
+HBCISegment cStatementFetch::Request(const cKind& kind, const cFetchOrder& order, const QByteArray& point) const
+{
+    const auto national = modBankParameters::IsNationalAccountAllowed(m_run.State.Parameters)
+        ? HBCIFactory::eNational::With
+        : HBCIFactory::eNational::Without;
+    if (kind.MT940 > 0)
+        return HBCIFactory::Statement(kind.MT940, order.Account, order.From, order.To, point, national);
+    return HBCIFactory::CamtStatement(order.Account, kind.Camt, order.From, order.To, point, national);
+}
+
+bool cStatementFetch::Pages(const cKind& kind, const cFetchOrder& order, cFetchedAccount& fetched)
+{
+    QByteArray booked;
+    QByteArray point;
+    bool isWhole = false;
+    while (true) {
+        const auto answer = m_dialog.Order(Request(kind, order, point));
+        if (!answer)
+            break;
+        booked += answer->BookedMT940();
+        fetched.Camt += answer->BookedCamt();
+        point = answer->Continuation();
+        isWhole = point.isEmpty();
+        if (isWhole)
+            break;
+    }
+    if (!isWhole)
+        CutToWholeStatements(booked);
+    fetched.MT940 = Decoded(booked);
+    return isWhole;
+}
+
+// A balance is welcome, but no reason to fail: the bookings have come.
+void cStatementFetch::Balance(cFetchedAccount& fetched)
+{
+    const QList<QByteArray>& parameters = m_run.State.Parameters;
+    const int version = modBankParameters::Version(parameters, "HISALS", fetched.Account.Iban.isEmpty() ? 6 : 7);
+    if (version < 5 || !IsAllowed(fetched.Account, QStringLiteral("HKSAL")))
+        return;
+    const auto national = modBankParameters::IsNationalAccountAllowed(parameters) ? HBCIFactory::eNational::With
+                                                                                  : HBCIFactory::eNational::Without;
+    const HBCISegment request = HBCIFactory::Balance(version, fetched.Account, national);
+    const auto answer =
+        modBankParameters::NeedsTan(parameters, "HKSAL") ? m_dialog.Order(request) : m_dialog.Send({request});
+    const auto balance = answer ? answer->Balance() : std::nullopt;
+    if (!balance)
+        return;
+    fetched.Balance = balance->Cents;
+    fetched.BalanceDay = balance->Day;
+}
+
+// The newer forms of the requests name the account by IBAN and BIC.
+void cStatementFetch::Complete(cBankAccount& account)
+{
+    if (account.Iban.isEmpty()) {
+        AskForIbans();
+        for (const cBankAccount& known : std::as_const(m_run.State.Accounts)) {
+            if (known.Number == account.Number && known.SubNumber == account.SubNumber) {
+                account.Iban = known.Iban;
+                account.Bic = known.Bic;
+            }
+        }
+    }
+    if (account.Bic.isEmpty())
+        account.Bic = m_run.State.Bic;
+}
+
+void cStatementFetch::AskForIbans()
+{
+    if (m_hasAskedForIbans || !modBankParameters::Offers(m_run.State.Parameters, "HISPAS", 1))
+        return;
+    m_hasAskedForIbans = true;
+    const HBCISegment request = HBCIFactory::SepaAccounts();
+    const auto answer = modBankParameters::NeedsTan(m_run.State.Parameters, "HKSPA") ? m_dialog.Order(request)
+                                                                                     : m_dialog.Send({request});
+    if (answer)
+        modBankMemory::TakeIbans(answer->SepaAccounts(), m_run.State);
+}

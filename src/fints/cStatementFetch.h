@@ -1,0 +1,33 @@
+#pragma once
+
+#include "fints/cBankDialog.h"
+#include "fints/HBCIBusiness.h"
+
+// Fetches bookings and balances of accounts, one after the other, in a dialog that is open.
+class cStatementFetch
+{
+public:
+    cStatementFetch(cBankRun& run, cBankDialog& dialog) : m_run(run), m_dialog(dialog) {}
+
+    // What came of the account. A failure in it leaves the dialog open for the next one where that is possible.
+    [[nodiscard]] cFetchedAccount Fetch(const cFetchOrder& order);
+
+private:
+    // How the bookings of an account are asked for.
+    struct cKind
+    {
+        int MT940 = 0;   // version of the request
+        QByteArray Camt; // format, as on the wire
+    };
+
+    [[nodiscard]] cKind KindOf(const cBankAccount& account) const;
+    [[nodiscard]] HBCISegment Request(const cKind& kind, const cFetchOrder& order, const QByteArray& point) const;
+    [[nodiscard]] bool Pages(const cKind& kind, const cFetchOrder& order, cFetchedAccount& fetched);
+    void Balance(cFetchedAccount& fetched);
+    void Complete(cBankAccount& account);
+    void AskForIbans();
+
+    cBankRun& m_run;
+    cBankDialog& m_dialog;
+    bool m_hasAskedForIbans = false;
+};

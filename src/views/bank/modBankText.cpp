@@ -1,0 +1,70 @@
+#include "views/bank/modBankText.h"
+
+#include "base/cText.h"
+#include "fints/modBankParameters.h"
+#include "fints/modFintsValue.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+QString modBankText::Bank(const cBankState& state)
+{
+    return state.BankName.isEmpty() ? state.BankCode : state.BankName;
+}
+
+QString modBankText::Method(const TanVerfahrenItem& method)
+{
+    const QString name = method.Name.isEmpty() ? method.SecurityFunction : method.Name;
+    const bool isApproval = method.ZkaName.startsWith(u"decoupled", Qt::CaseInsensitive);
+    return isApproval ? cText::Tr("{0} (Freigabe in der App)", {name}) : name;
+}
+
+QString modBankText::Medium(const QString& wire)
+{
+    return modFintsValue::Unescaped(wire.toLatin1());
+}
+
+QString modBankText::Number(const cBankAccount& account)
+{
+    if (account.Iban.isEmpty()) {
+        return account.SubNumber.isEmpty() ? account.Number : account.Number + u'/' + account.SubNumber;
+    }
+    constexpr qsizetype group = 4;
+    QString text;
+    for (qsizetype i = 0; i < account.Iban.size(); i += group) {
+        text += (i == 0 ? QString() : u" "_s) + account.Iban.mid(i, group);
+    }
+    return text;
+}
+
+QString modBankText::Product(const cBankAccount& account)
+{
+    return account.ProductName.isEmpty() ? cText::Tr("Konto") : account.ProductName;
+}
+
+QString modBankText::NotFetched(const cBankState& state, const cBankAccount& account)
+{
+    constexpr int mostStatement = 7; // version of the request that this program speaks
+    const bool offersText = modBankParameters::Version(state.Parameters, "HIKAZS", mostStatement) > 0;
+    const bool offersCamt = modBankParameters::Offers(state.Parameters, "HICAZS", 1);
+    const auto allows = [&](const QString& order) {
+        return account.Orders.isEmpty() || account.Orders.contains(order);
+    };
+    if (!offersText && !offersCamt) {
+        return cText::Tr("Diese Bank gibt auf diesem Weg keine Umsätze heraus.");
+    }
+    return (offersText && allows(u"HKKAZ"_s)) || (offersCamt && allows(u"HKCAZ"_s))
+        ? QString()
+        : cText::Tr("Für dieses Konto gibt die Bank keine Umsätze heraus.");
+}
+
+QString modBankText::ProductHint()
+{
+    return cText::Tr("Banken antworten nur Programmen, die bei der Deutschen Kreditwirtschaft registriert sind. Die "
+                     "Registrierungsnummer gibt es kostenlos unter www.fints.org im Bereich für Hersteller "
+                     "(„Produktregistrierung“). Sie gilt für das ganze Buch. Ohne sie wird nichts gesendet.");
+}
+
+QString modBankText::ProductVersion(const QString& version)
+{
+    return version.section(u'.', 0, 0) + u'.' + version.section(u'.', 1, 1).rightJustified(2, u'0');
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/cBankAccount.h"
+#include "model/cBankState.h"
+#include "model/TanVerfahrenItem.h"
+
+#include <QString>
+
+// What people read about a bank login.
+namespace modBankText {
+
+// "Übungsbank", else the bank code.
+[[nodiscard]] QString Bank(const cBankState& state);
+
+// "SecureApp (Freigabe in der App)"
+[[nodiscard]] QString Method(const TanVerfahrenItem& method);
+// Name of a TAN medium as people know it; it is kept as the bank wrote it.
+[[nodiscard]] QString Medium(const QString& wire);
+
+// "DE02 1002 0030 0001 2345 67", else the number.
+[[nodiscard]] QString Number(const cBankAccount& account);
+// "Privatgiro", else what the bank tells of it.
+[[nodiscard]] QString Product(const cBankAccount& account);
+
+// Why the account cannot be fetched; empty when it can. What the bank offers and what it allows for the account decide
+// together, and a bank that lists no orders for an account forbids none.
+[[nodiscard]] QString NotFetched(const cBankState& state, const cBankAccount& account);
+
+// What the registration identifier is and where to get one.
+[[nodiscard]] QString ProductHint();
+
+// The version of the program as banks want it, with two digits behind the point: "3.4.1" gives "3.04".
+[[nodiscard]] QString ProductVersion(const QString& version);
+
+} // namespace modBankText

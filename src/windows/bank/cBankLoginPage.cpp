@@ -1,0 +1,69 @@
+#include "windows/bank/cBankLoginPage.h"
+
+#include "base/cText.h"
+#include "views/bank/cBankSetup.h"
+#include "views/bank/modBankText.h"
+
+#include <QBoxLayout>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+cBankLoginPage::cBankLoginPage(cBankSetup& setup, QWidget* parent)
+    : cBankPage(parent),
+      m_setup(setup),
+      m_bank(new QLabel(this)),
+      m_userLabel(new QLabel(this)),
+      m_user(new QLineEdit(this)),
+      m_product(new QLineEdit(this))
+{
+    QFont bold = font();
+    bold.setBold(true);
+    m_bank->setFont(bold);
+    m_userLabel->setBuddy(m_user);
+    auto* pin = new QLabel(cText::Tr("Die PIN wird abgefragt, sobald die Bank angesprochen wird. Sie wird nicht "
+                                     "gespeichert."),
+                           this);
+    auto* product = new QLabel(modBankText::ProductHint(), this);
+    for (QLabel* text : {m_bank, pin, product}) {
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+    }
+    auto* login = new QFormLayout;
+    login->addRow(m_userLabel, m_user);
+    auto* registration = new QFormLayout;
+    registration->addRow(cText::Tr("&Produktregistrierung:"), m_product);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_bank);
+    layout->addLayout(login);
+    layout->addWidget(pin);
+    layout->addSpacing(fontMetrics().height());
+    layout->addLayout(registration);
+    layout->addWidget(product);
+    layout->addStretch();
+}
+
+void cBankLoginPage::Enter()
+{
+    const QString label = m_setup.LoginLabel();
+    m_bank->setText(m_setup.BankText());
+    m_userLabel->setText(label.isEmpty() ? cText::Tr("&Anmeldename oder Legitimations-ID:")
+                                         : u'&' + QString(label).replace(u'&', QStringLiteral("&&")) + u':');
+    m_user->setText(m_setup.State().UserId);
+    m_user->setReadOnly(!m_setup.IsNew());
+    m_product->setText(m_setup.ProductId());
+}
+
+void cBankLoginPage::Leave()
+{
+    if (m_setup.IsNew()) {
+        m_setup.SetUserId(m_user->text());
+    }
+    m_setup.SetProductId(m_product->text());
+}
+
+QWidget& cBankLoginPage::First()
+{
+    return m_setup.IsNew() ? *m_user : *m_product;
+}

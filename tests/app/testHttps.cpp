@@ -1,0 +1,133 @@
+#include "cTlsServer.h"
+#include "net/cQtHttps.h"
+
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+QByteArray Authority()
+{
+    QFile file(QStringLiteral(TEST_DATA "/tls/authority.pem"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray Redirect(const QByteArray& to)
+{
+    return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+}
+
+} // namespace
+
+// The way to a bank, over TLS on loopback.
+class testHttps final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void BringsBytesThereAndBack();
+    void SendsNothingWhereItDoesNotTrust_data();
+    void SendsNothingWhereItDoesNotTrust();
+    void SaysWhatWentWrong_data();
+    void SaysWhatWentWrong();
+    void EndsWhenCancelled();
+};
+
+void testHttps::BringsBytesThereAndBack()
+{
+    const QByteArray answer = QByteArray("SE5IQks=\r\n\0") + QByteArray(200'000, '\xe4');
+    cTlsServer server(u"bank"_s, [&](const QByteArray&) { return cTlsServer::Page(answer); });
+    QVERIFY(server.IsListening());
+    cQtHttps https({}, Authority());
+
+    for (int i = 0; i < 2; ++i) {
+        const cHttpsAnswer came = https.Post(server.Url(), "SGFsbG8=");
+        QCOMPARE(came.Fault, eHttpsFault::None);
+        QCOMPARE(came.Bytes, answer);
+    }
+    QCOMPARE(server.Requests.size(), 2);
+    const QByteArray request = server.Requests.constFirst();
+    QVERIFY(request.startsWith("POST /fints HTTP/1.1\r\n"));
+    QVERIFY(request.toLower().contains("content-type: text/plain\r\n"));
+    QVERIFY(request.endsWith("\r\n\r\nSGFsbG8="));
+}
+
+void testHttps::SendsNothingWhereItDoesNotTrust_data()
+{
+    QTest::addColumn<QString>("certificate");
+    QTest::addColumn<bool>("knowsAuthority");
+    QTest::newRow("unknown authority") << u"bank"_s << false;
+    QTest::newRow("another host") << u"other"_s << true;
+}
+
+void testHttps::SendsNothingWhereItDoesNotTrust()
+{
+    QFETCH(QString, certificate);
+    QFETCH(bool, knowsAuthority);
+    cTlsServer server(certificate, [](const QByteArray&) { return cTlsServer::Page("x"); });
+    QVERIFY(server.IsListening());
+    cQtHttps https({}, knowsAuthority ? Authority() : QByteArray());
+
+    const cHttpsAnswer came = https.Post(server.Url(), "geheim");
+
+    QCOMPARE(came.Fault, eHttpsFault::Certificate);
+    QVERIFY(came.Bytes.isEmpty());
+    QVERIFY(server.Requests.isEmpty());
+}
+
+void testHttps::SaysWhatWentWrong_data()
+{
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<eHttpsFault>("fault");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("error page") << cTlsServer::Page("<html>", "500 Oops") << eHttpsFault::Refused
+                                << QByteArray("<html>");
+    QTest::newRow("redirect") << Redirect("https://localhost:1/") << eHttpsFault::Refused << QByteArray();
+    QTest::newRow("silence") << QByteArray() << eHttpsFault::Silent << QByteArray();
+    QTest::newRow("cut") << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabc") << eHttpsFault::NotReachable
+                         << QByteArray();
+    QTest::newRow("hung up") << cTlsServer::Hangup << eHttpsFault::NotReachable << QByteArray();
+    QTest::newRow("too large") << cTlsServer::Page(QByteArray(3000, 'x')) << eHttpsFault::TooLarge << QByteArray();
+    QTest::newRow("no http") << QByteArray("HNHBK:1:3+") << eHttpsFault::NotReachable << QByteArray();
+}
+
+void testHttps::SaysWhatWentWrong()
+{
+    QFETCH(QByteArray, answer);
+    cTlsServer server(u"bank"_s, [&](const QByteArray&) { return answer; });
+    QVERIFY(server.IsListening());
+    cQtHttps https({.Silence = 300ms, .Whole = 10s, .MostBytes = 2000}, Authority());
+
+    const cHttpsAnswer came = https.Post(server.Url(), "SGFsbG8=");
+
+    QTEST(came.Fault, "fault");
+    QTEST(came.Bytes, "bytes");
+    QVERIFY(!came.Reason.isEmpty());
+    QCOMPARE(server.Requests.size(), 1); // a message with a PIN is never sent twice
+    QCOMPARE(https.Post(u"http://localhost/"_s, {}).Fault, eHttpsFault::NotReachable);
+    QCOMPARE(https.Post(u"https://localhost:1/"_s, {}).Fault, eHttpsFault::NotReachable);
+}
+
+void testHttps::EndsWhenCancelled()
+{
+    cTlsServer server(u"bank"_s, [](const QByteArray&) { return QByteArray(); });
+    QVERIFY(server.IsListening());
+    cQtHttps https({}, Authority());
+    https.Cancel(); // nothing runs
+    QTimer cancel;
+    connect(&cancel, &QTimer::timeout, &cancel, [&] {
+        if (!server.Requests.isEmpty()) {
+            https.Cancel();
+        }
+    });
+    cancel.start(0);
+
+    QCOMPARE(https.Post(server.Url(), "SGFsbG8=").Fault, eHttpsFault::Cancelled);
+}
+
+QTEST_GUILESS_MAIN(testHttps)
+#include "testHttps.moc"

@@ -1,0 +1,182 @@
+#include "fints/cBankScene.h"
+#include "fints/HBCIFactory.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cBankProfile Profile()
+{
+    cBankProfile profile;
+    profile.AskedTans["HKIDN"] = {};
+    profile.AskedTans["HKKAZ"] = {};
+    return profile;
+}
+
+// From the login to the bookings; false as soon as one step fails.
+bool Run(cBankScene& scene)
+{
+    if (!scene.Business.Discover() || !scene.Business.Refresh())
+        return false;
+    return scene.Business.FetchAll(scene.Orders());
+}
+
+} // namespace
+
+// What happens between the program and the bank, at each message of a whole run.
+class testBusinessLine final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void SurvivesAccidents_data();
+    void SurvivesAccidents();
+    void ReadsEveryWrapping_data();
+    void ReadsEveryWrapping();
+    void StopsWhereTheUserStops();
+    void NamesTheServer();
+    void TheBankNoticesFaults_data();
+    void TheBankNoticesFaults();
+};
+
+void testBusinessLine::SurvivesAccidents_data()
+{
+    QTest::addColumn<QByteArray>("step");
+    QTest::addColumn<int>("nth");
+    QTest::addColumn<eSpoil>("how");
+    QTest::addColumn<eBankFault>("fault");
+    const QList<std::pair<eSpoil, eBankFault>> accidents{
+        {eSpoil::Silent, eBankFault::Silent},
+        {eSpoil::Empty, eBankFault::Silent},
+        {eSpoil::NotReachable, eBankFault::NotReachable},
+        {eSpoil::Certificate, eBankFault::Certificate},
+        {eSpoil::Refused, eBankFault::BrokenAnswer},
+        {eSpoil::TooLarge, eBankFault::BrokenAnswer},
+        {eSpoil::Cancelled, eBankFault::Cancelled},
+        {eSpoil::Html, eBankFault::BrokenAnswer},
+        {eSpoil::Error, eBankFault::BrokenAnswer},
+        {eSpoil::Cut, eBankFault::BrokenAnswer},
+        {eSpoil::Noise, eBankFault::BrokenAnswer},
+    };
+    const QList<std::pair<QByteArray, int>> steps{{"HKIDN", 1}, {"HKIDN", 2}, {"HKTAN2", 1}, {"HKTAB", 1},
+                                                  {"HKIDN", 3}, {"HKKAZ", 1}, {"HKTAN2", 2}, {"HKKAZ", 2}};
+    for (const auto& [step, nth] : steps) {
+        for (const auto& [how, fault] : accidents)
+            QTest::addRow("%s %d, accident %d", step.constData(), nth, int(how)) << step << nth << how << fault;
+    }
+    // Everything had come before.
+    for (const auto& [how, fault] : accidents) {
+        QTest::addRow("balance, accident %d", int(how)) << QByteArray("HKSAL") << 2 << how << eBankFault::None;
+        QTest::addRow("end, accident %d", int(how)) << QByteArray("HKEND") << 3 << how << eBankFault::None;
+    }
+}
+
+void testBusinessLine::SurvivesAccidents()
+{
+    QFETCH(QByteArray, step);
+    QFETCH(int, nth);
+    QFETCH(eSpoil, how);
+    QFETCH(eBankFault, fault);
+    cBankScene scene(Profile());
+    scene.Https.Accident = {.Step = step, .How = how, .Nth = nth};
+    QCOMPARE(Run(scene), fault == eBankFault::None);
+    QCOMPARE(scene.Fault(), fault);
+    QVERIFY(!scene.Business.Failure().IsSet() || !scene.Business.Failure().Text.isEmpty());
+    const bool isOpen = step != "HKIDN"; // else there is nothing that could be ended
+    QVERIFY(!isOpen || scene.Bank.Journal.constLast() == u"end" || step == "HKEND");
+}
+
+void testBusinessLine::ReadsEveryWrapping_data()
+{
+    QTest::addColumn<eSpoil>("how");
+    QTest::newRow("as it is") << eSpoil::Plain;
+    QTest::newRow("in lines") << eSpoil::Lines;
+}
+
+void testBusinessLine::ReadsEveryWrapping()
+{
+    QFETCH(eSpoil, how);
+    cBankScene scene(Profile());
+    scene.Https.Accident = {.Step = {}, .How = how, .Nth = 0};
+    QVERIFY(Run(scene));
+}
+
+void testBusinessLine::StopsWhereTheUserStops()
+{
+    cBankScene whole(Profile());
+    QVERIFY(Run(whole));
+    for (int after = 0; after < whole.Bank.Journal.size(); ++after) {
+        const QString last = after == 0 ? QString() : whole.Bank.Journal.at(after - 1);
+        const bool isBetween = last.isEmpty() || last == u"end"; // between two dialogs
+        cBankScene scene(Profile());
+        scene.User.CancelsAfter = after;
+        const bool isDone = Run(scene);
+        const QString next = whole.Bank.Journal.at(after);
+        QVERIFY(!isDone || next == u"end" || next == u"HKSAL5 222"); // all bookings had come
+        QVERIFY(isDone || scene.Fault() == eBankFault::Cancelled);
+        QCOMPARE(scene.Bank.Journal.size() <= after + (isBetween ? 0 : 2), true);
+        QVERIFY(scene.Bank.IsQuiet());
+    }
+}
+
+void testBusinessLine::NamesTheServer()
+{
+    cBankScene scene;
+    scene.Https.Accident = {.Step = "HKIDN", .How = eSpoil::Silent};
+    QVERIFY(!scene.Business.Discover());
+    QCOMPARE(scene.Business.ErrorText(),
+             u"Fehler: Der Server 'https://bank.example/fints' antwortet nicht oder nicht schnell genug!"_s);
+}
+
+// The bank of these tests would be worth nothing if it took everything.
+void testBusinessLine::TheBankNoticesFaults_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("complaint");
+    QTest::newRow("none") << QByteArray("+0'") << QByteArray("+0'") << QString();
+    QTest::newRow("size") << QByteArray("BK:1:3+0") << QByteArray("BK:1:3+1") << u"size"_s;
+    QTest::newRow("binary length") << QByteArray("HNVSD:999:1+@2") << QByteArray("HNVSD:999:1+@1") << u"frame"_s;
+    QTest::newRow("segment number") << QByteArray("VB:4:") << QByteArray("VB:5:") << u"number of segment HKVVB"_s;
+    QTest::newRow("end number") << QByteArray("HNHBS:7") << QByteArray("HNHBS:8") << u"number of the message end"_s;
+    QTest::newRow("message number") << QByteArray("+0+1'HNVSK") << QByteArray("+0+2'HNVSK") << u"message end"_s;
+    QTest::newRow("dialog ID") << QByteArray("+0+1'HNVSK") << QByteArray("+7+1'HNVSK") << u"a dialog begins"_s;
+    QTest::newRow("system ID") << QByteArray("1::0+1:2") << QByteArray("1::9+1:2") << u"customer system"_s;
+    QTest::newRow("profile") << QByteArray("3+PIN:1") << QByteArray("3+PIN:2") << u"security profile"_s;
+    QTest::newRow("PIN") << QByteArray("++12345'") << QByteArray("++12346'") << u"PIN"_s;
+    QTest::newRow("TAN") << QByteArray("++12345'") << QByteArray("++123:5'") << u"no TAN in"_s;
+    QTest::newRow("version") << QByteArray("VB:4:3") << QByteArray("VB:4:2") << u"preparation"_s;
+    QTest::newRow("empty end") << QByteArray(":S:0:0'") << QByteArray(":S:0:+'") << u"no empty elements"_s;
+}
+
+void testBusinessLine::TheBankNoticesFaults()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, complaint);
+    cTestBank bank{{}};
+    bank.IsLenient = true;
+    const cSecret pin(u"12345");
+    cEnvelope envelope;
+    envelope.BankCode = u"12345678"_s;
+    envelope.UserId = u"testuser"_s;
+    envelope.Now = QDateTime(QDate(2026, 3, 1), QTime(12, 34, 56));
+    envelope.Pin = &pin;
+    QByteArray message = HBCIFactory::Message(envelope,
+                                              {HBCIFactory::Identification(envelope.BankCode, envelope.UserId, "0"),
+                                               HBCIFactory::Preparation(u"300"_s, u"0"_s, u"0"_s,
+                                                                        u"PRODUKTID0123456789012345"_s, u"1.00"_s),
+                                               HBCIFactory::Synchronisation(u"300"_s)})
+                             .Text();
+    const qsizetype at = message.indexOf(from);
+    QVERIFY(at > 0);
+    message.replace(at, from.size(), to);
+    QVERIFY(!bank.Answer(message.toBase64()).isEmpty());
+    const QString complaints = bank.Complaints().join(u'\n');
+    QVERIFY2(complaint.isEmpty() ? complaints.isEmpty() : complaints.contains(complaint), qPrintable(complaints));
+}
+
+QTEST_GUILESS_MAIN(testBusinessLine)
+#include "testBusinessLine.moc"
