@@ -84,6 +84,13 @@ int KeptDays(const cBankState& state, const cBankAccount& account)
     return modBankParameters::StatementDays(state.Parameters, isKaz ? "HIKAZS" : "HICAZS");
 }
 
+// "1.4.2" as banks want it: "1.04".
+QString ProductVersion(const QString& version)
+{
+    constexpr int width = 2;
+    return version.section(u'.', 0, 0) + u'.' + version.section(u'.', 1, 1).rightJustified(width, u'0');
+}
+
 // The IBAN may have become known on the way.
 bool IsSame(const cBankAccount& a, const cBankAccount& b)
 {
@@ -147,8 +154,8 @@ cBankFetch::cBankFetch(const cBookTools& tools, cStatementFiles& files, const cP
     m_dialog = [this](cBankState& state, const cSecret& pin, const QList<cFetchOrder>& orders,
                       QList<cFetchedAccount>& fetched) {
         HBCIBusiness business(
-            {m_ports.Https, m_ports.User, m_tools.Clock, *m_log, m_access.ProductId(), m_ports.ProductVersion}, state,
-            pin);
+            {m_ports.Https, m_ports.User, m_tools.Clock, *m_log, m_access.ProductId(), ProductVersion(m_ports.Version)},
+            state, pin);
         const bool isDone = business.FetchAll(orders);
         fetched = business.Fetched();
         return isDone ? cBankFailure() : business.Failure();

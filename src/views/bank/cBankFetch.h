@@ -36,7 +36,7 @@ public:
     {
         cHttps& Https;
         cBankUser& User;
-        QString ProductVersion; // of the program
+        QString Version; // of the program, "major.minor.revision"
     };
 
     // All of these outlive the object.

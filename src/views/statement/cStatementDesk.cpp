@@ -20,6 +20,7 @@
 #include "views/statement/cFileWish.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cRuleTrial.h"
+#include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modRowBooking.h"
 #include "views/statement/modTableOption.h"
@@ -152,7 +153,8 @@ struct cStatementDesk::cWorks
           Matching(tools, {Hive, Accounts, Booking}),
           Memory(tools.Settings),
           Balances(tools.Settings),
-          Import(tools.Data, Hive, &Memory, &Balances)
+          Import(tools.Data, Hive, &Memory, &Balances),
+          Files(tools, Hive, Accounts)
     {
     }
 
@@ -163,6 +165,7 @@ struct cStatementDesk::cWorks
     cTableMemory Memory;
     cBankBalances Balances;
     cStatementImport Import;
+    cStatementFiles Files;
 };
 
 cStatementDesk::cStatementDesk(const cBookTools& tools) : m_tools(tools), m_works(std::make_unique<cWorks>(tools))
@@ -244,6 +247,11 @@ bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& w
         notes.append(cText::Tr("Die Kontonummer '{0}' gehört nun zum Konto '{1}'.", {number, account}));
     }
     return true;
+}
+
+cStatementFiles& cStatementDesk::Files()
+{
+    return m_works->Files;
 }
 
 bool cStatementDesk::RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes)

@@ -14,6 +14,7 @@
 #include <optional>
 
 class cMatchFlow;
+class cStatementFiles;
 struct cBookTools;
 struct cFileFinding;
 struct cFileReport;
@@ -55,13 +56,18 @@ public:
     // Reads a file. Numbers that the book does not know get the account of the wish, else one that is free, else one of
     // their own.
     [[nodiscard]] cFileReport ImportFile(const QString& path, const cFileWish& wish);
+    // Gives the numbers that the book does not know the wanted account, else one that is free, else one of their own,
+    // and notes it. False when the database refuses.
+    [[nodiscard]] bool AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes);
+    // Where an online fetch hands over what it brought.
+    [[nodiscard]] cStatementFiles& Files();
+
     // What a file is and how it would be read; a refusal when it cannot be opened.
     [[nodiscard]] cFileFinding Examine(const QString& path, const cFileWish& wish);
 
 private:
     struct cWorks; // the tools of the import floor
 
-    [[nodiscard]] bool AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes);
     [[nodiscard]] bool RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes);
 
     const cBookTools& m_tools;
