@@ -15,6 +15,7 @@
 #include "import/stage/cFetchMemory.h"
 #include "import/stage/cImportResult.h"
 #include "store/cDataAccess.h"
+#include "views/bank/cBankCustomer.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/ledger/modBalanceText.h"
 #include "views/statement/cStatementFiles.h"
@@ -149,12 +150,13 @@ cBankFetch::cBankFetch(const cBookTools& tools, cStatementFiles& files, const cP
       m_files(files),
       m_ports(ports),
       m_access(tools),
+      m_customer(std::make_unique<cBankCustomer>(ports.User, [this](const QString& text) { Q_EMIT StepShown(text); })),
       m_log(std::make_unique<cBankLog>())
 {
     m_dialog = [this](cBankState& state, const cSecret& pin, const QList<cFetchOrder>& orders,
                       QList<cFetchedAccount>& fetched) {
         HBCIBusiness business(
-            {m_ports.Https, m_ports.User, m_tools.Clock, *m_log, m_access.ProductId(), ProductVersion(m_ports.Version)},
+            {m_ports.Https, *m_customer, m_tools.Clock, *m_log, m_access.ProductId(), ProductVersion(m_ports.Version)},
             state, pin);
         const bool isDone = business.FetchAll(orders);
         fetched = business.Fetched();
@@ -201,13 +203,14 @@ QDate cBankFetch::FirstDay(qsizetype account) const
 
 bool cBankFetch::Run(const cWish& wish, cProgress& progress)
 {
+    m_customer->SetCancelled(false);
     m_lines = QList<cLine>(m_accounts.size());
     std::vector<cJob> jobs = Jobs(wish);
     bool isDone = IsPossible(wish, jobs) && AskAboutOld(jobs);
     if (isDone) {
         cRun run{wish.From.isValid()};
         for (cJob& job : jobs) {
-            if (m_ports.User.IsCancelled()) {
+            if (m_customer->IsCancelled()) {
                 FailAll(job, Cancelled());
             } else {
                 Fetch(job, run);
@@ -220,6 +223,12 @@ bool cBankFetch::Run(const cWish& wish, cProgress& progress)
     }
     Q_EMIT Finished(isDone);
     return isDone;
+}
+
+void cBankFetch::Cancel()
+{
+    m_customer->SetCancelled(true);
+    m_ports.Https.Cancel();
 }
 
 std::vector<cBankFetch::cJob> cBankFetch::Jobs(const cWish& wish)
@@ -317,7 +326,7 @@ void cBankFetch::Fetch(cJob& job, cRun& run)
     // Without an identifier nothing is sent, so the PIN is not asked for either.
     std::optional<cSecret> pin = cSecret();
     if (!m_access.ProductId().isEmpty()) {
-        pin = m_ports.User.AskPin(
+        pin = m_customer->AskPin(
             {BankName(state), state.BankCode, state.UserId, modBankParameters::UserIdLabel(state.Parameters)});
     }
     if (!pin) {

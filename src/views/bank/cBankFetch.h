@@ -14,6 +14,7 @@
 #include <optional>
 #include <vector>
 
+class cBankCustomer;
 class cBankLog;
 class cBankUser;
 class cHttps;
@@ -73,6 +74,7 @@ public:
     };
     // Asks, fetches, stages. True only when every account of the wish came through; what did not is in Lines.
     bool Run(const cWish& wish, cProgress& progress);
+    void Cancel(); // the run that is under way
 
     enum class eState {
         Idle,    // not part of the run
@@ -138,6 +140,7 @@ private:
     cStatementFiles& m_files;
     cPorts m_ports;
     cBankAccess m_access;
+    std::unique_ptr<cBankCustomer> m_customer;
     std::unique_ptr<cBankLog> m_log;
     fnDialog m_dialog;
     std::vector<cLogin> m_logins;

@@ -9,6 +9,7 @@
 #include "fints/HBCIBusiness.h"
 #include "fints/modBankParameters.h"
 #include "store/cUndoStep.h"
+#include "views/bank/cBankCustomer.h"
 #include "views/bank/cBankDirectory.h"
 #include "views/bank/modBankText.h"
 
@@ -26,36 +27,11 @@ constexpr int usualDays = 89; // banks give so many without asking for a TAN
 
 } // namespace
 
-// The customer, who can also end a dialog from the window of the set-up.
-class cBankSetup::cCustomer final : public cBankUser
-{
-public:
-    cCustomer(cBankUser& user, cBankSetup& setup) : m_user(user), m_setup(setup) {}
-
-    std::optional<cSecret> AskPin(const cPinQuestion& question) override { return m_user.AskPin(question); }
-    std::optional<cSecret> AskTan(const cTanQuestion& question) override { return m_user.AskTan(question); }
-    eApproval WaitForApproval(const cApproval& approval) override { return m_user.WaitForApproval(approval); }
-    void EndApproval() override { m_user.EndApproval(); }
-    bool IsCancelled() const override { return m_isCancelled || m_user.IsCancelled(); }
-    void ShowStep(const QString& text) override
-    {
-        m_user.ShowStep(text);
-        Q_EMIT m_setup.StepShown(text);
-    }
-
-    void SetCancelled(bool isCancelled) { m_isCancelled = isCancelled; }
-
-private:
-    cBankUser& m_user;
-    cBankSetup& m_setup;
-    bool m_isCancelled = false;
-};
-
 cBankSetup::cBankSetup(const cParts& parts, QObject* parent)
     : QObject(parent),
       m_parts(parts),
       m_access(parts.Tools),
-      m_customer(std::make_unique<cCustomer>(parts.User, *this)),
+      m_customer(std::make_unique<cBankCustomer>(parts.User, [this](const QString& text) { Q_EMIT StepShown(text); })),
       m_log(std::make_unique<cBankLog>()),
       m_productId(m_access.ProductId()),
       m_firstDay(UsualFirstDay())

@@ -17,6 +17,7 @@
 
 class cBankDirectory;
 class cBankLog;
+class cBankCustomer;
 class cBankUser;
 class cHttps;
 class HBCIBusiness;
@@ -112,8 +113,6 @@ Q_SIGNALS:
     void StepShown(const QString& text); // what a dialog is doing, in words
 
 private:
-    class cCustomer;
-
     bool Run(bool (HBCIBusiness::*operation)());
     bool Connect();
     void Disconnect();
@@ -123,7 +122,7 @@ private:
 
     cParts m_parts;
     cBankAccess m_access;
-    std::unique_ptr<cCustomer> m_customer;
+    std::unique_ptr<cBankCustomer> m_customer;
     std::unique_ptr<cBankLog> m_log;
     cBankState m_state;
     QString m_productId;

@@ -55,6 +55,7 @@ bool cMainModel::Execute(int command)
     case modCommand::BackupSettings:
     case modCommand::Rules:
     case modCommand::BankLogins:
+    case modCommand::FetchTransactions:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     }
     return true;

@@ -12,7 +12,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 34> commands{{
+constexpr std::array<cCommand, 35> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "",
@@ -24,6 +24,8 @@ constexpr std::array<cCommand, 34> commands{{
     {ImportStatement, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Kontoauszug importieren"),
      "Ctrl+I", "import", nullptr, InToolBar | Writes | StartsGroup,
      QT_TRANSLATE_NOOP("cText", "Liest Kontoauszüge aus Dateien Ihrer Bank ein.")},
+    {FetchTransactions, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Umsätze abrufen"), "F9",
+     "abruf", nullptr, InToolBar | Writes, QT_TRANSLATE_NOOP("cText", "Holt die neuen Umsätze Ihrer Bankkonten ab.")},
     {Export, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Daten e&xportieren"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Schreibt die gezeigten Einträge als CSV-, Excel-, HTML- oder QIF-Datei.")},
     {Print, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Drucken"), "Ctrl+P", "", nullptr,

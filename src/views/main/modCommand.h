@@ -37,6 +37,7 @@ enum eId : int {
     AccountStatement = 124,
     CheckBook = 125,
     BankLogins = 126,
+    FetchTransactions = 127,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,

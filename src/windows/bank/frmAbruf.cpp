@@ -145,7 +145,7 @@ void frmAbruf::reject()
 {
     if (m_isRunning) {
         ShowStep(cText::Tr("Der Abruf wird beendet …"));
-        Q_EMIT CancelRequested();
+        m_fetch.Cancel();
         return;
     }
     QDialog::reject();

@@ -24,7 +24,6 @@ public:
     void reject() override;
 
 Q_SIGNALS:
-    void CancelRequested(); // the run that is under way is to end
     void LogRequested();
     void BanksRequested(); // there is none yet
 
