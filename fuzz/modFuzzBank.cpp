@@ -23,7 +23,7 @@ void Mark(QBitArray& marks, const QByteArray& bytes, QByteArrayView token)
         marks.fill(true, token.data() - bytes.constData(), token.data() - bytes.constData() + token.size());
 }
 
-// In a container the last byte may be lost, and segments without a name are left out.
+// Separators, and what is nothing but blanks.
 bool IsLossOf(const QByteArray& bytes, qsizetype at)
 {
     return QByteArrayView("'+ \t\n\v\f\r").contains(bytes[at]);

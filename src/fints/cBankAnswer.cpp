@@ -6,6 +6,7 @@
 #include "fints/modFintsValue.h"
 #include "fints/modSegmentTable.h"
 
+#include <QStringDecoder>
 #include <QTime>
 
 #include <algorithm>
@@ -38,10 +39,19 @@ QString Part(const QList<QByteArrayView>& parts, qsizetype place)
     return Unescaped(parts.value(place - 1));
 }
 
+// What the bank says to people: ISO-8859-1 as agreed, but some send UTF-8, and then "ungültig" would not be found.
+QString Said(QByteArrayView wire)
+{
+    const QString text = Unescaped(wire);
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString decoded = utf8(text.toLatin1());
+    return utf8.hasError() ? text : decoded;
+}
+
 cReturnMessage MessageFrom(const HBCISegment& segment, QByteArrayView element)
 {
     const QList<QByteArrayView> parts = modFintsSplit::Group(element);
-    cReturnMessage message{Part(parts, 1),     Part(parts, 2), Part(parts, 3), {}, segment.Code() == "HIRMG",
+    cReturnMessage message{Part(parts, 1),     Part(parts, 2), Said(parts.value(2)), {}, segment.Code() == "HIRMG",
                            segment.Reference()};
     for (qsizetype i = 3; i < parts.size(); ++i)
         message.Parameters.append(parts[i].toByteArray());
@@ -361,7 +371,7 @@ std::optional<cTanChallenge> cBankAnswer::Tan() const
     const auto found = std::find_if(segments.begin(), segments.end(), hasChallenge);
     const HBCISegment& segment = found == segments.end() ? segments[0] : *found;
     const QByteArray reference = Named(segment, "Reference");
-    const QString challenge = NamedText(segment, "Challenge");
+    const QString challenge = Said(Named(segment, "Challenge"));
     cTanChallenge tan;
     tan.Process = Named(segment, "Process");
     tan.Reference = reference.isEmpty() ? QByteArrayLiteral("noref") : reference;

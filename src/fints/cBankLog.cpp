@@ -42,25 +42,28 @@ QByteArray Lines(QByteArray message)
     return message.replace('\0', '.').replace("'", "'\r\n");
 }
 
-QByteArray Shortened(const QByteArray& text)
+// Beginning and end of a text of this size.
+QByteArray Ends(const QByteArray& head, const QByteArray& tail, qsizetype size)
 {
-    if (text.size() <= longest)
-        return text;
-    const qsizetype half = longest / 2;
-    return text.first(half) + "\r\n[" + QByteArray::number(text.size() - longest) + "]\r\n" + text.last(half);
+    return head.first(longest / 2) + "\r\n[" + QByteArray::number(size - longest) + " Zeichen ausgelassen]\r\n"
+        + tail.last(longest / 2);
 }
 
-// What is cut out of a long message before it is searched is cut a margin away from what is kept.
+QByteArray Shortened(const QByteArray& text)
+{
+    return text.size() <= longest ? text : Ends(text, text, text.size());
+}
+
+// A secret on the edge of what is left out is still found, because the search goes a margin further.
 QByteArray Masked(const QByteArray& message, const QList<QByteArray>& secrets, const QList<QByteArray>& product)
 {
     const auto mask = [&](const QByteArray& text) {
         return modLogMask::Covered(modLogMask::Covered(text, secrets, secretCover), product, productCover);
     };
-    if (message.size() <= longest + 2 * margin)
-        return Shortened(mask(message));
-    const qsizetype half = longest / 2;
-    return mask(message.first(half + margin)).first(half) + "\r\n[" + QByteArray::number(message.size() - longest)
-        + "]\r\n" + mask(message.last(half + margin)).last(half);
+    if (message.size() <= longest)
+        return mask(message);
+    const qsizetype searched = longest / 2 + margin;
+    return Ends(mask(message.first(searched)), mask(message.last(searched)), message.size());
 }
 
 } // namespace

@@ -26,7 +26,7 @@ void AddSegments(const cShield& shield, QByteArrayView text, QList<cWireSegment>
         const QList<QByteArrayView> tokens = modFintsSplit::Split(token, '+');
         if (tokens[0].startsWith("HNVSD:")) {
             AddContainer(shield, tokens, segments);
-        } else if (!tokens[0].trimmed().isEmpty()) {
+        } else if (!token.trimmed().isEmpty()) {
             segments.append({shield.Wire(tokens[0]), {}});
             for (const QByteArrayView element : tokens.sliced(1))
                 segments.last().Elements.append(shield.Wire(element));
@@ -55,7 +55,7 @@ bool cShield::IsOverlong() const
 void cShield::Walk(qsizetype from, qsizetype to, eLevel level)
 {
     qsizetype segment = from;
-    bool isStart = true; // of an element, where alone binary data can stand
+    bool isStart = true; // of a token, where alone binary data can stand
     for (qsizetype at = from; at < to;) {
         const char character = m_wire[at];
         if (isStart && character == '@') {
@@ -69,9 +69,9 @@ void cShield::Walk(qsizetype from, qsizetype to, eLevel level)
             isStart = false;
         } else {
             ++at;
-            isStart = character == '+' || character == ':';
+            isStart = character == '\'' || character == '+' || character == ':';
             segment = character == '\'' ? at : segment;
-            m_separators += isStart || character == '\'' ? 1 : 0;
+            m_separators += isStart ? 1 : 0;
         }
     }
 }

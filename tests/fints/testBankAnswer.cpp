@@ -102,6 +102,7 @@ private Q_SLOTS:
         QTest::newRow("9931") << QByteArray("9931::Nein.") << true << false;
         QTest::newRow("9910") << QByteArray("9910::Nein.") << true << false;
         QTest::newRow("words") << QByteArray("9210::Pin ist ung\xfcltig.") << true << false;
+        QTest::newRow("words in UTF-8") << QByteArray("9210::PIN ung\xc3\xbcltig.") << true << false;
         QTest::newRow("other words") << QByteArray("9210::Falsche PIN") << true << false;
         QTest::newRow("a PIN that holds") << QByteArray("0901::PIN g\xfcltig.") << false << false;
         QTest::newRow("a wrong TAN") << QByteArray("9941::TAN falsch.") << false << false;

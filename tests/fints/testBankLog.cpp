@@ -122,7 +122,7 @@ private Q_SLOTS:
         cBankLog log;
         log.AddAnswer(answer, {&pin}, {});
         QVERIFY(log.Text().size() < 1'001'000);
-        QVERIFY(log.Text().contains(u"xPPP\r\n["));
+        QVERIFY(log.Text().contains(u"xPPP\r\n[2000054 Zeichen ausgelassen]\r\n"));
         QVERIFY(log.Text().endsWith(u"xxx'\r\nHNHBS:3:1+1'\r\n\r\n"));
         QVERIFY(log.TextForOthers({}).contains(u"HIKAZ:4:5:3+@3000000@***'"));
     }
