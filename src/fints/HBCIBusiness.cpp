@@ -18,7 +18,7 @@ struct HBCIBusiness::cSession
     QList<cFetchedAccount> Fetched = {};
 
     bool Begin();
-    bool IsLoginRefused() const;
+    [[nodiscard]] bool IsLoginRefused() const;
     bool JudgeDiscovery(const cBankError& error);
     bool HasMethod();
     bool FindMedium();

@@ -17,7 +17,7 @@ static bool IsPage(const QByteArray& bytes)
 
 // Most banks send Base64, broken into lines or not, some send the message as it is. Decoded where it stands, because an
 // answer may have 64 MB.
-static QByteArray Decoded(QByteArray bytes)
+static QByteArray FromBase64(QByteArray bytes)
 {
     if (bytes.startsWith("HNHBK"))
         return bytes;
@@ -50,7 +50,7 @@ std::optional<cBankAnswer> cBankExchange::Read(cHttpsAnswer answer, const QList<
     if (bytes.isEmpty())
         return Fail(modBankFault::Silence(m_run.State.Url), u"Leere Antwort."_s);
     const QByteArray beginning = bytes.left(500); // of a page, for the log
-    const QByteArray message = IsPage(bytes) ? QByteArray() : Decoded(std::move(bytes));
+    const QByteArray message = IsPage(bytes) ? QByteArray() : FromBase64(std::move(bytes));
     m_run.Parts.Log.AddAnswer(message.isEmpty() ? beginning : message, secrets, m_run.Parts.ProductId);
     std::optional<cBankAnswer> read = cBankAnswer::Read(message);
     if (!read)

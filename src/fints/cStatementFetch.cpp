@@ -18,7 +18,7 @@ static QString NameOf(const cBankAccount& account)
 }
 
 // Strict UTF-8, else the character set of the messages. The pages are joined before, because they are cut anywhere.
-static QString Decoded(const QByteArray& bytes)
+static QString BankText(const QByteArray& bytes)
 {
     return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
 }
@@ -106,7 +106,7 @@ bool cStatementFetch::Pages(const cKind& kind, const cFetchOrder& order, cFetche
     }
     if (!isWhole)
         CutToWholeStatements(booked);
-    fetched.MT940 = Decoded(booked);
+    fetched.MT940 = BankText(booked);
     return isWhole;
 }
 

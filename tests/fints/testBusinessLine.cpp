@@ -36,6 +36,8 @@ private Q_SLOTS:
     void ReadsEveryWrapping_data();
     void ReadsEveryWrapping();
     void StopsWhereTheUserStops();
+    void StopsWhereTheBankStops_data();
+    void StopsWhereTheBankStops();
     void NamesTheServer();
     void TheBankNoticesFaults_data();
     void TheBankNoticesFaults();
@@ -119,6 +121,34 @@ void testBusinessLine::StopsWhereTheUserStops()
         QCOMPARE(scene.Bank.Journal.size() <= after + (isBetween ? 0 : 2), true);
         QVERIFY(scene.Bank.IsQuiet());
     }
+}
+
+void testBusinessLine::StopsWhereTheBankStops_data()
+{
+    QTest::addColumn<QByteArray>("step");
+    QTest::addColumn<int>("nth");
+    QTest::addColumn<eBankFault>("fault");
+    const QList<std::pair<QByteArray, int>> steps{{"HKIDN", 1},  {"HKIDN", 2}, {"HKTAN2", 1},
+                                                  {"HKTAB", 1},  {"HKIDN", 3}, {"HKKAZ", 1},
+                                                  {"HKTAN2", 2}, {"HKSAL", 1}, {"HKKAZ", 2}};
+    for (const auto& [step, nth] : steps)
+        QTest::addRow("%s %d", step.constData(), nth) << step << nth << eBankFault::EndedByBank;
+    QTest::newRow("last balance") << QByteArray("HKSAL") << 2 << eBankFault::None;
+    QTest::newRow("end") << QByteArray("HKEND") << 1 << eBankFault::None;
+}
+
+// A dialog that the bank ended hears nothing more, not even its end.
+void testBusinessLine::StopsWhereTheBankStops()
+{
+    QFETCH(QByteArray, step);
+    QFETCH(int, nth);
+    QFETCH(eBankFault, fault);
+    cBankScene scene(Profile());
+    scene.Bank.Profile.Refusals[step] = {.Nth = nth, .Global = "9800::Dialog abgebrochen."};
+    QCOMPARE(Run(scene), fault == eBankFault::None);
+    QCOMPARE(scene.Fault(), fault);
+    QVERIFY(fault == eBankFault::None || scene.Bank.Journal.constLast() != u"end");
+    QVERIFY(scene.Bank.IsQuiet());
 }
 
 void testBusinessLine::NamesTheServer()

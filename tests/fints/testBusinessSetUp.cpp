@@ -160,7 +160,7 @@ void testBusinessSetUp::SaysWhatIsWrong_data()
         bank.Refusals["HKIDN"] = {
             .Nth = 2, .Global = "0020::Gut.", .Local = "3931::Sperre liegt vor.", .Extra = "HITAN:6+4++12+TAN bitte"};
     }) << eBankFault::Locked << u"3931"_s << syncEnd + u"init 912 78/0 HKIDN";
-    for (const QByteArray code : {"9078", "9952", "9160", "9400"})
+    for (const QByteArray code : {"3078", "3079", "9078", "9952", "9160", "9400"})
         QTest::newRow(code.constData()) << Refusing("HKIDN", 1, code + "::Produkt.") << eBankFault::Registration
                                         << u"9050"_s << u"sync 999 0/0 | end"_s;
     QTest::newRow("login") << Refusing("HKIDN", 1, "9010::Benutzerkennung unbekannt.") << eBankFault::LoginRefused
