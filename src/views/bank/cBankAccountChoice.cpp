@@ -1,6 +1,7 @@
 #include "views/bank/cBankAccountChoice.h"
 
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
 #include "model/cTemplateItem.h"
 #include "store/cDataAccess.h"

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "views/bank/modBankText.h"
 
 cBankListModel::cBankListModel(const cBookTools& tools, QObject* parent)

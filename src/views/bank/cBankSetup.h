@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/cSecret.h"
-#include "core/cBookTools.h"
 #include "model/cBankFailure.h"
 #include "model/cBankState.h"
 #include "views/bank/cBankAccess.h"
@@ -23,6 +22,7 @@ class cHttps;
 class HBCIBusiness;
 struct cBankInfo;
 struct cBankMatches;
+struct cBookTools;
 
 // Sets up a bank login, or changes one: bank, login, TAN procedure and medium, accounts. The PIN is asked for once,
 // when the first message is sent, and lives as long as this object.

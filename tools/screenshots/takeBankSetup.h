@@ -3,4 +3,4 @@
 class cCamera;
 
 // The set-up of a bank login, page by page, and the list of logins. False when the scene could not be made.
-[[nodiscard]] bool TakeBanks(cCamera& camera);
+[[nodiscard]] bool TakeBankSetup(cCamera& camera);

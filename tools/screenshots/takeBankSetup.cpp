@@ -1,4 +1,4 @@
-#include "tools/screenshots/takeBanks.h"
+#include "tools/screenshots/takeBankSetup.h"
 
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
@@ -37,7 +37,7 @@ cBankProfile Profile()
 
 } // namespace
 
-bool TakeBanks(cCamera& camera)
+bool TakeBankSetup(cCamera& camera)
 {
     cDemoBook scene;
     if (!scene.IsReady()) {
