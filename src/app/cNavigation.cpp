@@ -1,5 +1,7 @@
 #include "app/cNavigation.h"
 
+#include "app/cQtBankUser.h"
+#include "app/net/cQtHttps.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
@@ -7,6 +9,9 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "store/cDataAccess.h"
+#include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankListModel.h"
+#include "views/bank/cBankSetup.h"
 #include "views/book/cBackupSettings.h"
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
@@ -24,6 +29,8 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/bank/frmBankAssistent.h"
+#include "windows/bank/frmBankzugaenge.h"
 #include "windows/book/frmLaender.h"
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
@@ -306,6 +313,39 @@ void cNavigation::OpenRules()
     form.exec();
 }
 
+void cNavigation::OpenBankLogins()
+{
+    cBankListModel banks(m_parts.Tools);
+    frmBankzugaenge form(banks, Parent());
+    QObject::connect(&form, &frmBankzugaenge::AddRequested, m_model, [&] {
+        OpenBankSetup(nullptr);
+        banks.Reload();
+    });
+    QObject::connect(&form, &frmBankzugaenge::ChangeRequested, m_model, [&](int row) {
+        const cBankState login = banks.Lines().at(row).Bank;
+        OpenBankSetup(&login);
+        banks.Reload();
+    });
+    form.exec();
+}
+
+void cNavigation::OpenBankSetup(const cBankState* login)
+{
+    if (!m_https) {
+        m_https = std::make_unique<cQtHttps>();
+        m_directory = std::make_unique<cBankDirectory>(m_parts.Shell);
+    }
+    cQtBankUser customer({m_parts.Tools.Settings, m_parts.Tools.Clock, {}});
+    cBankSetup setup({m_parts.Tools, *m_directory, *m_https, customer, QCoreApplication::applicationVersion()});
+    if (login != nullptr) {
+        setup.Load(*login);
+    }
+    frmBankAssistent form(setup, m_parts.Tools.Clock.Today(), Parent());
+    if (form.exec() == QDialog::Accepted) {
+        BookChanged(); // there may be new accounts
+    }
+}
+
 void cNavigation::Export()
 {
     cEntryExtract extract = cEntryExtract::From(m_model->Entries());
@@ -364,6 +404,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
     case modCommand::Rules: OpenRules(); break;
+    case modCommand::BankLogins: OpenBankLogins(); break;
     default: break; // done by the model itself
     }
 }

@@ -12,12 +12,14 @@
 
 class cStatementListModel;
 class cAmountFormat;
+class cBankDirectory;
 class cBook;
 class cBookHost;
 class cConfiguration;
 class cImportReview;
 class cMainModel;
 class cPasswordFlow;
+class cQtHttps;
 class cRescue;
 class cSearchModel;
 class cShell;
@@ -25,6 +27,7 @@ class cStatisticsModel;
 class frmImport;
 class frmStatistik;
 class frmSuche;
+struct cBankState;
 struct cBookTools;
 struct cEntryFields;
 
@@ -75,6 +78,8 @@ private:
     void OpenBackupSettings();
     void OpenNationalSettings();
     void OpenRules();
+    void OpenBankLogins();
+    void OpenBankSetup(const cBankState* login); // null: a new one
     void Export();
     void Export(const cStatementListModel& statement);
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
@@ -91,6 +96,8 @@ private:
     frmImport* m_statements = nullptr;
     std::unique_ptr<cStatisticsModel> m_statistics; // from the first look on
     frmStatistik* m_statisticsPage = nullptr;
+    std::unique_ptr<cQtHttps> m_https; // from the first bank on, as what follows
+    std::unique_ptr<cBankDirectory> m_directory;
     std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on
     frmSuche* m_search = nullptr;

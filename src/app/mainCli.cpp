@@ -76,5 +76,6 @@ int main(int argc, char* argv[])
     cFileLock lock;
     cQtPaint paint;
     cQtHttps https;
-    return modCliMain::Run(arguments, {shell, registry, clock, lock, paint, https, QCoreApplication::applicationVersion()});
+    return modCliMain::Run(arguments,
+                           {shell, registry, clock, lock, paint, https, QCoreApplication::applicationVersion()});
 }

@@ -44,7 +44,7 @@ QString ToJson(const cBankListModel::cLine& line)
         .Text(u"url"_s, line.Bank.Url)
         .Text(u"hbci"_s, line.Bank.HbciVersion)
         .Text(u"method"_s, line.Bank.Method ? line.Bank.Method->SecurityFunction : QString())
-        .Text(u"medium"_s, modBankText::Medium(line.Bank.Medium))
+        .Text(u"medium"_s, line.Bank.Medium)
         .Text(u"number"_s, line.Account.Number)
         .Text(u"iban"_s, line.Account.Iban)
         .Text(u"product"_s, line.Account.ProductName)
@@ -201,9 +201,9 @@ bool ChooseMethod(const cCliContext& context, cBankSetup& setup)
 
 bool ChooseMedium(const cCliContext& context, cBankSetup& setup)
 {
-    const qsizetype place = PlaceOf(context.Call.Value(u"medium"_s), setup.Media());
+    const qsizetype place = PlaceOf(context.Call.Value(u"medium"_s), setup.State().Media);
     if (place < 0) {
-        (void)Refuse(cText::Tr("Wählen Sie mit --medium ein TAN-Medium:{0}", {Choices(setup.Media())}));
+        (void)Refuse(cText::Tr("Wählen Sie mit --medium ein TAN-Medium:{0}", {Choices(setup.State().Media)}));
         return false;
     }
     setup.ChooseMedium(static_cast<int>(place));
@@ -246,8 +246,8 @@ bool ChooseAccounts(const cCliContext& context, cBankAccountChoice& accounts)
             for (const cBankAccountChoice::cLine& line : lines) {
                 names.append(line.Number + (line.Reason.isEmpty() ? QString() : u": "_s + line.Reason));
             }
-            (void)Refuse(cText::Tr("Das Konto {0} kann nicht abgerufen werden. Die Bank nennt:{1}",
-                                   {number, Choices(names)}));
+            (void)Refuse(
+                cText::Tr("Das Konto {0} kann nicht abgerufen werden. Die Bank nennt:{1}", {number, Choices(names)}));
             return false;
         }
         const qsizetype line = found - lines.begin();
@@ -272,8 +272,7 @@ int Add(const cCliContext& context)
     if (!setup.Discover()) {
         return Refuse(setup);
     }
-    if (!ChooseMethod(context, setup) || !Refresh(context, setup)
-        || !ChooseAccounts(context, setup.Accounts())) {
+    if (!ChooseMethod(context, setup) || !Refresh(context, setup) || !ChooseAccounts(context, setup.Accounts())) {
         return modExit::Failed;
     }
     context.Book->File().CopyIfChanged();
@@ -353,7 +352,7 @@ QList<cCliOption> TalkOptions()
                              cText::Tr("Produktregistrierung der Deutschen Kreditwirtschaft; das Buch merkt sie sich")},
                             {u"hbci"_s, u"2.2|3.0"_s, cText::Tr("Protokoll; ohne Angabe 3.0")},
                             {u"tan-image"_s, u"DATEI"_s, cText::Tr("hierhin kommt das Bild einer photoTAN")}}
-        + modCliCommands::BankSecrets();
+    + modCliCommands::BankSecrets();
 }
 
 } // namespace
@@ -372,12 +371,12 @@ cCliCommand modCliCommands::BanksAddCommand()
             .Help = cText::Tr("richtet einen Bankzugang ein oder ändert ihn"),
             .Access = eCliAccess::Write,
             .Options = TalkOptions()
-                + QList<cCliOption>{
-                    {u"method"_s, u"VERFAHREN"_s, cText::Tr("TAN-Verfahren: Nummer oder Name aus banks methods")},
-                    {u"medium"_s, u"NAME"_s, cText::Tr("TAN-Medium, wo die Bank eines verlangt")},
-                    {u"account"_s, u"NUMMER=NAME"_s,
-                     cText::Tr("Konto der Bank und Konto im Buch, mehrfach möglich; ohne Angabe alle")},
-                    Json()},
+                + QList<cCliOption>{{u"method"_s, u"VERFAHREN"_s,
+                                     cText::Tr("TAN-Verfahren: Nummer oder Name aus banks methods")},
+                                    {u"medium"_s, u"NAME"_s, cText::Tr("TAN-Medium, wo die Bank eines verlangt")},
+                                    {u"account"_s, u"NUMMER=NAME"_s,
+                                     cText::Tr("Konto der Bank und Konto im Buch, mehrfach möglich; ohne Angabe alle")},
+                                    Json()},
             .Run = Add};
 }
 

@@ -4,6 +4,15 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "testbank/cTestBank.h"
+#include "testbank/cTestBankUser.h"
+#include "testbank/cTestHttps.h"
+#include "views/bank/cApprovalWait.h"
+#include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankListModel.h"
+#include "views/bank/cBankLogView.h"
+#include "views/bank/cBankSetup.h"
+#include "views/bank/cTanEntry.h"
 #include "views/book/cBackupSettings.h"
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
@@ -21,6 +30,11 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/bank/frmBankAssistent.h"
+#include "windows/bank/frmBankzugaenge.h"
+#include "windows/bank/frmPin.h"
+#include "windows/bank/frmProtokoll.h"
+#include "windows/bank/frmTan.h"
 #include "windows/book/frmLaender.h"
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
@@ -42,6 +56,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QBuffer>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -117,9 +132,44 @@ struct cScene
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
+    std::unique_ptr<cTanEntry> Tan;
+    cApprovalWait Approval{Book.Clock};
+    cBankLogView Log{u"HNHBK:1:3+000000000123+300+0+1'"_s, {}, {Book.User, Book.Shell, Book.Clock}};
     cRuleEditor Rules{Book.Tools};
     cBookCheck Check{Book.Data, Book.Format};
     cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
+    cTestBank Bank{BankProfile()};
+    cTestHttps Https{Bank};
+    cTestBankUser Customer{Bank};
+    cBankDirectory Directory{Book.Shell};
+    cBankSetup Setup{{Book.Tools, Directory, Https, Customer, QStringLiteral("1.0.0")}};
+    std::unique_ptr<cBankListModel> Banks;
+
+    // Several procedures and media, an account without statements, and long names.
+    static cBankProfile BankProfile()
+    {
+        cBankProfile profile;
+        profile.Methods = {{.Function = "912", .Name = "chipTAN optisch (Flickercode am Bildschirm)"},
+                           {.Function = "913", .Name = "SMS", .MediumRequired = "2"}};
+        profile.Media = {"Mobiltelefon", "Tablet"};
+        profile.Accounts = {
+            {.Number = "111", .Iban = "DE02100200300001234567", .Product = "Privatgiro Komfort & Co"},
+            {.Number = "222", .Iban = "DE03100200300001234568", .Product = "Depot A", .Orders = "HKSAL:1"},
+            {.Number = "333", .Product = "Tagesgeld"}};
+        return profile;
+    }
+
+    // Goes on in the assistant until the page is there.
+    void SetUpTo(cBankSetup::ePage page)
+    {
+        Setup.ChooseCode(QStringLiteral("12345678"));
+        Setup.SetUrl(Https.Url);
+        Setup.SetUserId(QStringLiteral("testuser"));
+        Setup.SetProductId(QStringLiteral("PRODUKTID0123456789012345"));
+        while (Setup.Page() != page) {
+            Prepare(Setup.Next());
+        }
+    }
 };
 
 using fnMake = std::function<std::unique_ptr<QWidget>(cScene&)>;
@@ -129,10 +179,38 @@ std::unique_ptr<QWidget> MakeEditor(cScene& scene, const std::optional<cEntryFie
     return fields ? std::make_unique<frmBuchung>(scene.Editor, *fields) : nullptr;
 }
 
+std::unique_ptr<QWidget> MakeBankAssistant(cScene& scene, cBankSetup::ePage page)
+{
+    scene.SetUpTo(page);
+    return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
+}
+
 std::unique_ptr<QWidget> MakeAssistant(cScene& scene, const QString& file)
 {
     scene.Assistant = scene.Review.Files().StartAssistant(QStringLiteral(TEST_DATA "/") + file);
     return scene.Assistant ? std::make_unique<frmImportAssistent>(*scene.Assistant) : nullptr;
+}
+
+// With everything that a bank may send.
+std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
+{
+    cTanQuestion question;
+    question.Bank = u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s;
+    question.Procedure = u"Smart-TAN plus optisch"_s;
+    question.Medium = u"Karte 1234567890"_s;
+    question.Label = u"TAN-Eingabe:"_s;
+    question.Challenge =
+        u"Umsatzabfrage\r\nStecken Sie Ihre Karte in den TAN-Generator und drücken Sie \"F\". Halten Sie "
+        "den Generator vor die animierte Grafik."_s;
+    question.Display = display;
+    question.Flicker = QByteArray("\x1f\x1e", 2);
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer file(&question.Picture);
+    image.save(&file, "PNG");
+    scene.Book.Settings->Set(modSettingKey::FlickerWidth, u"90"_s);
+    scene.Tan = std::make_unique<cTanEntry>(question, *scene.Book.Settings);
+    return std::make_unique<frmTan>(*scene.Tan);
 }
 
 // Shows every page of every book of tabs once and collects the faults of each.
@@ -247,6 +325,45 @@ void testEveryWindow::CanBeReadAndOperated_data()
              scene.Check.Reload();
              return std::make_unique<frmPruefung>(scene.Check);
          }},
+        {"bank assistant, bank",
+         [](cScene& scene) {
+             auto window = MakeBankAssistant(scene, cBankSetup::ePage::Bank);
+             window->findChild<QCheckBox*>()->setChecked(true); // all that there is
+             return window;
+         }},
+        {"bank assistant, login", [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Login); }},
+        {"bank assistant, procedure",
+         [](cScene& scene) {
+             scene.SetUpTo(cBankSetup::ePage::Method);
+             scene.Setup.ChooseMethod(1);
+             (void)scene.Setup.Next(); // the bank wants a medium
+             return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
+         }},
+        {"bank assistant, accounts",
+         [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Accounts); }},
+        {"bank logins",
+         [](cScene& scene) {
+             scene.SetUpTo(cBankSetup::ePage::Done);
+             scene.Banks = std::make_unique<cBankListModel>(scene.Book.Tools);
+             return std::make_unique<frmBankzugaenge>(*scene.Banks);
+         }},
+        {"TAN with bars", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Flicker); }},
+        {"TAN with a picture", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Picture); }},
+        {"approval",
+         [](cScene& scene) {
+             cApproval approval;
+             approval.Bank = u"Sparkasse Ahornstadt"_s;
+             approval.IsAutomatic = false;
+             approval.ValidUntil = scene.Book.Clock.Now().addSecs(300);
+             scene.Approval.Start(approval);
+             return std::make_unique<frmTan>(scene.Approval);
+         }},
+        {"PIN",
+         [](cScene&) {
+             return std::make_unique<frmPin>(
+                 cPinQuestion{u"Sparkasse Ahornstadt"_s, u"12345678"_s, u"kunde1"_s, u"Anmeldename"_s});
+         }},
+        {"bank log", [](cScene& scene) { return std::make_unique<frmProtokoll>(scene.Log); }},
         {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     };
     for (const auto& [name, make] : windows) {

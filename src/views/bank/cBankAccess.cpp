@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/stage/cAccountMap.h"
 #include "model/cOnlineAccount.h"

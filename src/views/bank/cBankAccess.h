@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/cBookTools.h"
 #include "model/cBankState.h"
 
 #include <QDate>
@@ -11,6 +10,7 @@
 #include <utility>
 
 class cSettingKey;
+struct cBookTools;
 struct cOnlineAccount;
 
 // The bank logins of a book. A login is known by bank code and user ID, so that two people can have theirs at one bank.
@@ -61,5 +61,5 @@ private:
     // Writes what is not there yet.
     [[nodiscard]] bool Keep(const cSettingKey& key, const QString& value);
 
-    cBookTools m_tools;
+    const cBookTools& m_tools;
 };

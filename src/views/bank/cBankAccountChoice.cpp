@@ -1,6 +1,7 @@
 #include "views/bank/cBankAccountChoice.h"
 
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
 #include "model/cTemplateItem.h"
 #include "store/cDataAccess.h"
@@ -98,8 +99,7 @@ void cBankAccountChoice::SetBookAccount(qsizetype line, const QString& name)
 QString cBankAccountChoice::Note(qsizetype line) const
 {
     const QString& name = m_lines.at(line).BookAccount;
-    return name.isEmpty() || m_names.contains(name, Qt::CaseInsensitive) ? QString()
-                                                                         : cText::Tr("wird neu angelegt");
+    return name.isEmpty() || m_names.contains(name, Qt::CaseInsensitive) ? QString() : cText::Tr("wird neu angelegt");
 }
 
 QString cBankAccountChoice::Problem() const

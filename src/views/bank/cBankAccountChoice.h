@@ -1,11 +1,12 @@
 #pragma once
 
-#include "core/cBookTools.h"
 #include "model/cBankState.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+struct cBookTools;
 
 // Which accounts of a login are fetched, and into which accounts of the book.
 class cBankAccountChoice

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "core/cBookTools.h"
 #include "views/bank/modBankText.h"
 
 cBankListModel::cBankListModel(const cBookTools& tools, QObject* parent)
@@ -39,9 +40,10 @@ bool cBankListModel::Remove(int row)
 {
     const cBankState& bank = m_lines.at(row).Bank;
     cQuestion question;
-    question.Text = cText::Tr("Soll der Zugang {0} bei {1} entfernt werden?\nKonten und Umsätze bleiben im Buch, es wird "
-                              "nur nichts mehr abgerufen.",
-                              {bank.UserId, modBankText::Bank(bank)});
+    question.Text =
+        cText::Tr("Soll der Zugang {0} bei {1} entfernt werden?\nKonten und Umsätze bleiben im Buch, es wird "
+                  "nur nichts mehr abgerufen.",
+                  {bank.UserId, modBankText::Bank(bank)});
     question.Title = cText::Tr("Bankzugang entfernen");
     question.Default = eAnswer::No;
     if (m_tools.User.Ask(question) != eAnswer::Yes || !m_access.Remove(bank.BankCode, bank.UserId)) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/cBookTools.h"
 #include "model/cBankState.h"
 #include "views/bank/cBankAccess.h"
 
@@ -8,6 +7,8 @@
 #include <QDate>
 #include <QList>
 #include <QString>
+
+struct cBookTools;
 
 // The bank logins of the book, a row for each account that is fetched; a login without any has a row of its own.
 class cBankListModel final : public QAbstractTableModel
@@ -46,7 +47,7 @@ private:
     void Load();
     [[nodiscard]] QString Text(const cLine& line, int column) const;
 
-    cBookTools m_tools;
+    const cBookTools& m_tools;
     cBankAccess m_access;
     QList<cLine> m_lines;
 };

@@ -4,6 +4,7 @@
 #include "base/cClock.h"
 #include "base/cHttps.h"
 #include "base/cText.h"
+#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "fints/cBankLog.h"
 #include "fints/HBCIBusiness.h"
@@ -111,7 +112,8 @@ bool cBankSetup::IsCode(const QString& text)
 {
     constexpr qsizetype digits = 8;
     const QString code = QString(text).remove(u' ');
-    return code.size() == digits && std::all_of(code.begin(), code.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return code.size() == digits
+        && std::all_of(code.begin(), code.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 void cBankSetup::SetUrl(const QString& url)
@@ -181,16 +183,15 @@ QString cBankSetup::LoginProblem() const
 // The question for the PIN comes before the first message, and again after the bank has refused it.
 bool cBankSetup::Connect()
 {
-    std::optional<cSecret> pin =
-        m_customer->AskPin({BankText(), m_state.BankCode, m_state.UserId, LoginLabel()});
+    std::optional<cSecret> pin = m_customer->AskPin({BankText(), m_state.BankCode, m_state.UserId, LoginLabel()});
     if (!pin) {
         return false;
     }
     m_pin = *std::move(pin);
-    m_business = std::make_unique<HBCIBusiness>(
-        HBCIBusiness::cParts{m_parts.Https, *m_customer, m_parts.Tools.Clock, *m_log, m_productId,
-                             modBankText::ProductVersion(m_parts.Version)},
-        m_state, m_pin);
+    m_business =
+        std::make_unique<HBCIBusiness>(HBCIBusiness::cParts{m_parts.Https, *m_customer, m_parts.Tools.Clock, *m_log,
+                                                            m_productId, modBankText::ProductVersion(m_parts.Version)},
+                                       m_state, m_pin);
     return true;
 }
 
@@ -262,13 +263,6 @@ void cBankSetup::ChooseMethod(int method)
         m_state.Method = m_state.Methods.at(method);
         m_state.Medium.clear();
     }
-}
-
-QStringList cBankSetup::Media() const
-{
-    QStringList names;
-    std::transform(m_state.Media.begin(), m_state.Media.end(), std::back_inserter(names), modBankText::Medium);
-    return names;
 }
 
 int cBankSetup::Medium() const

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/cSecret.h"
-#include "core/cBookTools.h"
 #include "model/cBankFailure.h"
 #include "model/cBankState.h"
 #include "views/bank/cBankAccess.h"
@@ -22,6 +21,7 @@ class cHttps;
 class HBCIBusiness;
 struct cBankInfo;
 struct cBankMatches;
+struct cBookTools;
 
 // Sets up a bank login, or changes one: bank, login, TAN procedure and medium, accounts. The PIN is asked for once,
 // when the first message is sent, and lives as long as this object.
@@ -81,8 +81,7 @@ public:
     [[nodiscard]] QStringList Methods() const; // names
     [[nodiscard]] int Method() const;          // -1: none is chosen
     void ChooseMethod(int method);
-    [[nodiscard]] QStringList Media() const;
-    [[nodiscard]] int Medium() const;      // -1: none is chosen
+    [[nodiscard]] int Medium() const;      // its place in State().Media; -1: none is chosen
     [[nodiscard]] bool AsksMedium() const; // the procedure has one to be chosen
     void ChooseMedium(int medium);
 

@@ -2,7 +2,6 @@
 
 #include "base/cText.h"
 #include "fints/modBankParameters.h"
-#include "fints/modFintsValue.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,11 +15,6 @@ QString modBankText::Method(const TanVerfahrenItem& method)
     const QString name = method.Name.isEmpty() ? method.SecurityFunction : method.Name;
     const bool isApproval = method.ZkaName.startsWith(u"decoupled", Qt::CaseInsensitive);
     return isApproval ? cText::Tr("{0} (Freigabe in der App)", {name}) : name;
-}
-
-QString modBankText::Medium(const QString& wire)
-{
-    return modFintsValue::Unescaped(wire.toLatin1());
 }
 
 QString modBankText::Number(const cBankAccount& account)

@@ -14,8 +14,6 @@ namespace modBankText {
 
 // "SecureApp (Freigabe in der App)"
 [[nodiscard]] QString Method(const TanVerfahrenItem& method);
-// Name of a TAN medium as people know it; it is kept as the bank wrote it.
-[[nodiscard]] QString Medium(const QString& wire);
 
 // "DE02 1002 0030 0001 2345 67", else the number.
 [[nodiscard]] QString Number(const cBankAccount& account);

@@ -54,6 +54,7 @@ bool cMainModel::Execute(int command)
     case modCommand::CheckBook:
     case modCommand::BackupSettings:
     case modCommand::Rules:
+    case modCommand::BankLogins:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     }
     return true;

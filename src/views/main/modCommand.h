@@ -36,6 +36,7 @@ enum eId : int {
     Rules = 123,
     AccountStatement = 124,
     CheckBook = 125,
+    BankLogins = 126,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,

@@ -49,7 +49,7 @@ void cBankMethodPage::ShowMedia()
 {
     const bool isAsked = m_setup.AsksMedium();
     m_medium->clear();
-    m_medium->addItems(m_setup.Media());
+    m_medium->addItems(m_setup.State().Media);
     m_medium->setCurrentIndex(m_setup.Medium() < 0 ? 0 : m_setup.Medium());
     m_mediumLabel->setVisible(isAsked);
     m_medium->setVisible(isAsked);
