@@ -28,6 +28,7 @@ const QList<cCliCommand>& modCliCommands::All()
     static const QList<cCliCommand> commands{
         ImportCommand(),
         DetectCommand(),
+        FetchCommand(),
         StagedCommand(),
         StatementCommand(),
         ProposeCommand(),

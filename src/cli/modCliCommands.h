@@ -41,6 +41,7 @@ namespace modCliCommands {
 
 [[nodiscard]] cCliCommand ImportCommand();
 [[nodiscard]] cCliCommand DetectCommand();
+[[nodiscard]] cCliCommand FetchCommand();
 [[nodiscard]] cCliCommand StagedCommand();
 [[nodiscard]] cCliCommand StatementCommand();
 [[nodiscard]] cCliCommand ProposeCommand();

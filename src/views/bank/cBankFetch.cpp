@@ -1,6 +1,7 @@
 #include "views/bank/cBankFetch.h"
 
 #include "base/cBankUser.h"
+#include "base/cClock.h"
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
@@ -16,6 +17,7 @@
 #include "import/stage/cImportResult.h"
 #include "store/cDataAccess.h"
 #include "views/bank/cBankCustomer.h"
+#include "views/bank/modBankText.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/ledger/modBalanceText.h"
 #include "views/statement/cStatementFiles.h"
@@ -31,27 +33,12 @@ namespace {
 constexpr int overlap = 10;           // days that are fetched once more
 constexpr int daysWithoutTan = 89;    // the law lets banks give so many without another one
 constexpr qsizetype mostProblems = 5; // named of one account
-constexpr qsizetype ibanGroup = 4;    // characters between two blanks
-
-QString BankName(const cBankState& state)
-{
-    return state.BankName.isEmpty() ? state.BankCode : state.BankName;
-}
-
-QString Grouped(const QString& iban)
-{
-    QString text;
-    for (qsizetype at = 0; at < iban.size(); at += ibanGroup) {
-        text += (at > 0 ? u" "_s : QString()) + iban.mid(at, ibanGroup);
-    }
-    return text;
-}
 
 QString NameOf(const cBankAccount& account)
 {
-    QStringList parts{account.ProductName.simplified(),
-                      account.Iban.isEmpty() ? account.Number : Grouped(account.Iban)};
+    QStringList parts{modBankText::Product(account), modBankText::Number(account)};
     parts.removeAll(QString());
+    parts.removeDuplicates();
     return parts.join(u", "_s);
 }
 
@@ -60,7 +47,7 @@ QString NumberIn(const cBankAccount& account)
 {
     QString number = account.Number;
     while (number.startsWith(u'0')) {
-        number.removeFirst();
+        number.remove(0, 1);
     }
     return number.isEmpty() ? account.Iban : number;
 }
@@ -80,16 +67,9 @@ QString LastText(QDate day)
 int KeptDays(const cBankState& state, const cBankAccount& account)
 {
     constexpr int mostKaz = 7;
-    const bool isKaz =
-        account.Orders.contains(u"HKKAZ"_s) && modBankParameters::Version(state.Parameters, "HIKAZS", mostKaz) > 0;
+    const bool isAllowed = account.Orders.isEmpty() || account.Orders.contains(u"HKKAZ"_s);
+    const bool isKaz = isAllowed && modBankParameters::Version(state.Parameters, "HIKAZS", mostKaz) > 0;
     return modBankParameters::StatementDays(state.Parameters, isKaz ? "HIKAZS" : "HICAZS");
-}
-
-// "1.4.2" as banks want it: "1.04".
-QString ProductVersion(const QString& version)
-{
-    constexpr int width = 2;
-    return version.section(u'.', 0, 0) + u'.' + version.section(u'.', 1, 1).rightJustified(width, u'0');
 }
 
 // The IBAN may have become known on the way.
@@ -124,6 +104,12 @@ struct cBankFetch::cJob
     cLogin* Login;
     QList<qsizetype> Places;
     QList<cFetchOrder> Orders;
+
+    void Add(qsizetype place, const cFetchOrder& order)
+    {
+        Places.append(place);
+        Orders.append(order);
+    }
 };
 
 struct cBankFetch::cCame
@@ -155,9 +141,9 @@ cBankFetch::cBankFetch(const cBookTools& tools, cStatementFiles& files, const cP
 {
     m_dialog = [this](cBankState& state, const cSecret& pin, const QList<cFetchOrder>& orders,
                       QList<cFetchedAccount>& fetched) {
-        HBCIBusiness business(
-            {m_ports.Https, *m_customer, m_tools.Clock, *m_log, m_access.ProductId(), ProductVersion(m_ports.Version)},
-            state, pin);
+        HBCIBusiness business({m_ports.Https, *m_customer, m_tools.Clock, *m_log, m_access.ProductId(),
+                               modBankText::ProductVersion(m_ports.Version)},
+                              state, pin);
         const bool isDone = business.FetchAll(orders);
         fetched = business.Fetched();
         return isDone ? cBankFailure() : business.Failure();
@@ -176,7 +162,7 @@ void cBankFetch::Load()
         m_logins.push_back({state, m_access.Chosen(state), m_accounts.size()});
         for (const cBankAccount& account : std::as_const(m_logins.back().Accounts)) {
             const QDate last = m_access.LastFetch(state, account);
-            m_accounts.append({BankName(state), state.BankCode, state.UserId, NameOf(account), account.Number,
+            m_accounts.append({modBankText::Bank(state), state.BankCode, state.UserId, NameOf(account), account.Number,
                                account.Iban, m_access.BookAccountOf(account), last, LastText(last)});
         }
     }
@@ -206,21 +192,23 @@ bool cBankFetch::Run(const cWish& wish, cProgress& progress)
     m_customer->SetCancelled(false);
     m_lines = QList<cLine>(m_accounts.size());
     std::vector<cJob> jobs = Jobs(wish);
-    bool isDone = IsPossible(wish, jobs) && AskAboutOld(jobs);
-    if (isDone) {
-        cRun run{wish.From.isValid()};
-        for (cJob& job : jobs) {
-            if (m_customer->IsCancelled()) {
-                FailAll(job, Cancelled());
-            } else {
-                Fetch(job, run);
-            }
-        }
-        Stage(run, progress);
-        isDone = std::all_of(m_lines.begin(), m_lines.end(), [](const cLine& line) {
-            return line.State == eState::Idle || line.State == eState::Done;
-        });
+    if (!IsPossible(jobs) || !AskAboutOld(jobs)) {
+        m_lines = QList<cLine>(m_accounts.size());
+        Q_EMIT Finished(false);
+        return false;
     }
+    cRun run{wish.From.isValid()};
+    for (cJob& job : jobs) {
+        if (m_customer->IsCancelled()) {
+            FailAll(job, Cancelled());
+        } else if (!job.Places.isEmpty()) {
+            Fetch(job, run);
+        }
+    }
+    Stage(run, progress);
+    const bool isDone = std::all_of(m_lines.begin(), m_lines.end(), [](const cLine& line) {
+        return line.State == eState::Idle || line.State == eState::Done;
+    });
     Q_EMIT Finished(isDone);
     return isDone;
 }
@@ -238,10 +226,8 @@ std::vector<cBankFetch::cJob> cBankFetch::Jobs(const cWish& wish)
         cJob job{&login, {}, {}};
         for (qsizetype place = login.First; place < login.First + login.Accounts.size(); ++place) {
             if (wish.Accounts.isEmpty() || wish.Accounts.contains(place)) {
-                job.Places.append(place);
-                job.Orders.append(Order(login, place, wish));
-                cLine& line = m_lines[place];
-                line.State = eState::Waiting;
+                m_lines[place].State = eState::Waiting;
+                job.Add(place, Order(login, place, wish));
                 Q_EMIT LineChanged(place);
             }
         }
@@ -258,7 +244,7 @@ cFetchOrder cBankFetch::Order(const cLogin& login, qsizetype place, const cWish&
     cFetchOrder order{login.Accounts.at(place - login.First), wish.From.isValid() ? wish.From : FirstDay(place),
                       wish.To.isValid() ? qMin(wish.To, Today()) : Today()};
     const int kept = KeptDays(login.State, order.Account);
-    if (const QDate oldest = Today().addDays(-kept); kept > 0 && order.From < oldest) {
+    if (const QDate oldest = Today().addDays(-kept); kept > 0 && order.From < oldest && order.To >= oldest) {
         m_lines[place].Notes.append(
             Missing(order.From, oldest.addDays(-1),
                     cText::Tr("die Bank hält nur die letzten {0} Tage bereit.", {QString::number(kept)})));
@@ -267,16 +253,19 @@ cFetchOrder cBankFetch::Order(const cLogin& login, qsizetype place, const cWish&
     return order;
 }
 
-bool cBankFetch::IsPossible(const cWish& wish, const std::vector<cJob>& jobs)
+bool cBankFetch::IsPossible(const std::vector<cJob>& jobs)
 {
     QString reason;
+    const auto isEmpty = [](const cFetchOrder& order) { return order.From > order.To; };
     if (jobs.empty()) {
         reason = EmptyHint();
     } else if (m_tools.Data.IsReadOnly()) {
         reason = cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Umsätze können nicht übernommen werden.");
-    } else if (wish.From.isValid() && wish.From > (wish.To.isValid() ? qMin(wish.To, Today()) : Today())) {
-        reason = cText::Tr("Der erste Tag des Zeitraums muss vor dem letzten liegen und darf nicht in der Zukunft "
-                           "liegen.");
+    } else if (std::any_of(jobs.begin(), jobs.end(), [&](const cJob& job) {
+                   return std::any_of(job.Orders.begin(), job.Orders.end(), isEmpty);
+               })) {
+        reason = cText::Tr("Der erste Tag, der abgerufen wird, liegt hinter dem letzten. Wählen Sie einen anderen "
+                           "Zeitraum, nicht in der Zukunft.");
     }
     if (!reason.isEmpty()) {
         m_tools.User.Show(eTone::Exclamation, reason, cText::Tr("Umsätze abrufen"));
@@ -288,9 +277,9 @@ bool cBankFetch::IsPossible(const cWish& wish, const std::vector<cJob>& jobs)
 bool cBankFetch::AskAboutOld(std::vector<cJob>& jobs)
 {
     const QDate oldest = Today().addDays(-daysWithoutTan);
-    const auto isOld = [&](const cFetchOrder& order) { return order.From < oldest; };
     const bool hasOld = std::any_of(jobs.begin(), jobs.end(), [&](const cJob& job) {
-        return std::any_of(job.Orders.begin(), job.Orders.end(), isOld);
+        return std::any_of(job.Orders.begin(), job.Orders.end(),
+                           [&](const cFetchOrder& order) { return order.From < oldest; });
     });
     if (!hasOld) {
         return true;
@@ -301,33 +290,51 @@ bool cBankFetch::AskAboutOld(std::vector<cJob>& jobs)
                            {modDate::ToGerman(oldest)}),
          .Title = cText::Tr("Ältere Umsätze"),
          .Buttons = eButtons::YesNoCancel});
-    for (cJob& job : jobs) {
-        for (qsizetype i = 0; answer == eAnswer::No && i < job.Orders.size(); ++i) {
-            cFetchOrder& order = job.Orders[i];
-            if (isOld(order)) {
-                m_lines[job.Places.at(i)].Notes.append(
-                    Missing(order.From, oldest.addDays(-1), cText::Tr("Sie wollten sie ohne TAN nicht.")));
-                order.From = oldest;
-                order.To = qMax(order.To, oldest);
-            }
+    if (answer == eAnswer::No) {
+        for (cJob& job : jobs) {
+            LeaveOld(job, oldest);
         }
     }
     return answer != eAnswer::Cancel;
 }
 
+// Accounts of which nothing is left are out of the run.
+void cBankFetch::LeaveOld(cJob& job, QDate oldest)
+{
+    const cJob all = std::exchange(job, {job.Login, {}, {}});
+    for (qsizetype i = 0; i < all.Orders.size(); ++i) {
+        cFetchOrder order = all.Orders.at(i);
+        const qsizetype place = all.Places.at(i);
+        if (order.From < oldest) {
+            const QString note =
+                Missing(order.From, qMin(order.To, oldest.addDays(-1)), cText::Tr("Sie wollten sie ohne TAN nicht."));
+            if (order.To < oldest) {
+                Fail(place, {eBankFault::Cancelled, note, {}});
+                continue;
+            }
+            m_lines[place].Notes.append(note);
+            order.From = oldest;
+        }
+        job.Add(place, order);
+    }
+}
+
 void cBankFetch::Fetch(cJob& job, cRun& run)
 {
     cBankState& state = job.Login->State;
-    Q_EMIT StepShown(cText::Tr("{0}: Umsätze werden abgerufen …", {BankName(state)}));
-    for (const qsizetype place : std::as_const(job.Places)) {
-        m_lines[place].State = eState::Asked;
-        Q_EMIT LineChanged(place);
+    Q_EMIT StepShown(cText::Tr("{0}: Umsätze werden abgerufen …", {modBankText::Bank(state)}));
+    for (qsizetype i = 0; i < job.Places.size(); ++i) {
+        cLine& line = m_lines[job.Places.at(i)];
+        line.State = eState::Asked;
+        line.From = job.Orders.at(i).From;
+        line.To = job.Orders.at(i).To;
+        Q_EMIT LineChanged(job.Places.at(i));
     }
     // Without an identifier nothing is sent, so the PIN is not asked for either.
     std::optional<cSecret> pin = cSecret();
     if (!m_access.ProductId().isEmpty()) {
         pin = m_customer->AskPin(
-            {BankName(state), state.BankCode, state.UserId, modBankParameters::UserIdLabel(state.Parameters)});
+            {modBankText::Bank(state), state.BankCode, state.UserId, modBankParameters::UserIdLabel(state.Parameters)});
     }
     if (!pin) {
         FailAll(job, {eBankFault::Cancelled, cText::Tr("Ohne PIN wurde nichts abgerufen."), {}});
@@ -401,8 +408,6 @@ void cBankFetch::NoteTaken(const cCame& came, const cImportResult& result)
         Fail(came.Place, result.IsCancelled ? Cancelled() : cBankFailure{eBankFault::BrokenAnswer, result.Message, {}});
         return;
     }
-    line.From = came.Order.From;
-    line.To = came.Order.To;
     line.New = result.Staged;
     line.Known = static_cast<int>(result.Duplicates.size() + result.Alike.size());
     line.LeftOut = result.Zero + static_cast<int>(result.Skipped.size() + result.Deleted.size());

@@ -125,8 +125,9 @@ private:
 
     [[nodiscard]] std::vector<cJob> Jobs(const cWish& wish);
     [[nodiscard]] cFetchOrder Order(const cLogin& login, qsizetype place, const cWish& wish);
-    [[nodiscard]] bool IsPossible(const cWish& wish, const std::vector<cJob>& jobs);
+    [[nodiscard]] bool IsPossible(const std::vector<cJob>& jobs);
     [[nodiscard]] bool AskAboutOld(std::vector<cJob>& jobs);
+    void LeaveOld(cJob& job, QDate oldest);
     void Fetch(cJob& job, cRun& run);
     void Take(const cJob& job, QList<cFetchedAccount>& fetched, const cBankFailure& failure, cRun& run);
     void Stage(cRun& run, cProgress& progress);
