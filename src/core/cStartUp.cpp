@@ -42,11 +42,6 @@ void cStartUp::CheckCurrency()
                       cText::Tr("Die Software muss neu gestartet werden, wenn die Währung umgestellt wurde."));
 }
 
-bool cStartUp::OpenBook(cBook& book, const QString& path)
-{
-    return OpenBook(book, path.isEmpty() ? FindDatabase() : cFound{path});
-}
-
 bool cStartUp::OpenBook(cBook& book, const cFound& found)
 {
     m_configuration.SetDatabase(nullptr);

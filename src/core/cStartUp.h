@@ -44,9 +44,8 @@ public:
     // is asked which to take; without an answer the path comes back as it is, with nothing there.
     [[nodiscard]] cFound FindDatabase() const;
 
-    // Opens the database of the configuration, or `path` where one is given, with all questions that this may take, and
-    // connects its settings with the configuration. False when the program has to end; the user knows why.
-    [[nodiscard]] bool OpenBook(cBook& book, const QString& path = {});
+    // Opens a book with all questions that this may take, and connects its settings with the configuration. False when
+    // the program has to end; the user knows why.
     [[nodiscard]] bool OpenBook(cBook& book, const cFound& found);
 
     // Opens a book while another one stays open elsewhere: a file that is no usable database is refused with a message.

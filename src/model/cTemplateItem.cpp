@@ -1,6 +1,5 @@
 #include "model/cTemplateItem.h"
 
-#include "base/cText.h"
 #include "base/modAmount.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -26,20 +25,6 @@ QHash<QString, int> GroupPositions(const cTemplateItemList& items)
         positions[group] = qMin(positions.value(group, position), position);
     }
     return positions;
-}
-
-QString JoinPath(const cTemplateItem& item, const QString& nothing, const QString& unsorted)
-{
-    if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
-        return nothing;
-    }
-    if (item.TemplateCategory.isEmpty()) {
-        return cText::Fill(unsorted, {item.TemplateName});
-    }
-    if (item.TemplateName.isEmpty()) {
-        return item.TemplateCategory;
-    }
-    return item.TemplateCategory + separator + item.TemplateName;
 }
 
 } // namespace
@@ -114,12 +99,16 @@ QString modTemplate::CleanName(const QString& name)
 
 QString modTemplate::Path(const cTemplateItem& item)
 {
-    return JoinPath(item, u"Keine Angabe"_s, u"Sonstiges; {0}"_s);
-}
-
-QString modTemplate::ShownPath(const cTemplateItem& item)
-{
-    return JoinPath(item, cText::Tr("Keine Angabe"), cText::Tr("Sonstiges; {0}"));
+    if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
+        return u"Keine Angabe"_s;
+    }
+    if (item.TemplateCategory.isEmpty()) {
+        return u"Sonstiges"_s + separator + item.TemplateName;
+    }
+    if (item.TemplateName.isEmpty()) {
+        return item.TemplateCategory;
+    }
+    return item.TemplateCategory + separator + item.TemplateName;
 }
 
 QString modTemplate::MainOf(const QString& path)

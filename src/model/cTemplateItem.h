@@ -62,9 +62,6 @@ namespace modTemplate {
 // The category path as it is stored in an entry: main category and sub-category joined by "; ".
 [[nodiscard]] QString Path(const cTemplateItem& item);
 
-// The path for display: the words that the program supplies itself are translated.
-[[nodiscard]] QString ShownPath(const cTemplateItem& item);
-
 // The two halves of a path; the second one is empty for a main category itself.
 [[nodiscard]] QString MainOf(const QString& path);
 [[nodiscard]] QString SubOf(const QString& path);

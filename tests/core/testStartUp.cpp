@@ -22,6 +22,9 @@ struct cMachine
     [[nodiscard]] QString Template() const { return Shell.InstalledFile(u"template.dat"_s); }
     [[nodiscard]] QString Default() { return Shell.DataFolder() + u"/data.db"_s; }
 
+    // The database of the configuration.
+    [[nodiscard]] bool Open() { return StartUp.OpenBook(Book, StartUp.FindDatabase()); }
+
     void Configure(const QString& path) { Registry.Write(cConfiguration::RegistryKey, u"Database"_s, path); }
 
     cFakeShell Shell;
@@ -75,7 +78,7 @@ private Q_SLOTS:
     void FirstStartIsSilent() const
     {
         cMachine machine;
-        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(machine.Open());
         QCOMPARE(machine.User.Shown + machine.User.Asked, QStringList());
         QCOMPARE(machine.Book.Path(), machine.Default());
         QVERIFY(machine.StartUp.IsNewVersion());
@@ -83,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(machine.Configuration.GetSetting(modSettingKey::LastVersion), u"0.1.0"_s);
         QCOMPARE(QDir(machine.Shell.DataFolder()).entryList(QDir::Files), QStringList(u"data.db"_s)); // no copy of it
 
-        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(machine.Open());
         QVERIFY(!machine.StartUp.IsNewVersion());
         QVERIFY(machine.Book.Added().isEmpty());
         QCOMPARE(machine.User.Shown, QStringList());
@@ -97,11 +100,11 @@ private Q_SLOTS:
             machine.File.Make("INSERT INTO data (EntryDate) VALUES ('2026-01-01');"); // no mere template
         cStartUp commandLine({machine.Shell, machine.User, machine.Rescue, machine.Clock}, machine.Configuration,
                              u"0.1.0"_s, eFrontEnd::CommandLine);
-        QVERIFY(commandLine.OpenBook(machine.Book, path));
-        QVERIFY(machine.StartUp.OpenBook(machine.Book, path));
+        QVERIFY(commandLine.OpenBook(machine.Book, {path}));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, {path}));
         QVERIFY(machine.StartUp.IsNewVersion());
-        QVERIFY(commandLine.OpenBook(machine.Book, path));
-        QVERIFY(machine.StartUp.OpenBook(machine.Book, path));
+        QVERIFY(commandLine.OpenBook(machine.Book, {path}));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, {path}));
         QVERIFY(!machine.StartUp.IsNewVersion());
         QCOMPARE(QDir(machine.File.Folder()).entryList({u"*.backup"_s}).size(), 1);
     }
@@ -110,7 +113,7 @@ private Q_SLOTS:
     {
         cMachine machine;
         machine.Configure(machine.File.Make({}, u"mine.db"_s));
-        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(machine.Open());
         QCOMPARE(machine.Book.Path(), machine.File.Path(u"mine.db"_s));
         QCOMPARE(machine.User.Shown, QStringList());
     }
@@ -119,7 +122,7 @@ private Q_SLOTS:
     {
         cMachine machine;
         machine.Configure(u"/gone/data.db"_s);
-        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(machine.Open());
         QCOMPARE(machine.Book.Path(), machine.Default());
         QCOMPARE(machine.User.Shown,
                  QStringList(u"Die Datenbank '/gone/data.db' wurde nicht gefunden. Der "
@@ -150,7 +153,7 @@ private Q_SLOTS:
         cTestFile::Write(folder + u"/data.db.neu"_s, "half a copy");
         cTestFile::Run(folder + u"/andere.db.2026-03-14.ersetzt"_s, cTestFile::Tables);
         machine.User.Decisions = {chosen};
-        QCOMPARE(machine.StartUp.OpenBook(machine.Book), opens);
+        QCOMPARE(machine.Open(), opens);
         QCOMPARE(machine.User.LastDecision.Options,
                  QStringList({u"'data.db.2026-03-14.ersetzt' verwenden"_s, u"&Ohne sie weiter"_s}));
         QCOMPARE(QFile::exists(machine.Default()), opens);
@@ -165,7 +168,7 @@ private Q_SLOTS:
         cMachine machine;
         QVERIFY(QFile::remove(machine.Template()));
         machine.User.Answers = {eAnswer::No};
-        QVERIFY(!machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(!machine.Open());
         QCOMPARE(machine.User.Shown.size(), 3);
         QVERIFY(machine.User.Shown[0].startsWith(u"Die Installation ist beschädigt."_s));
         QCOMPARE(machine.User.Shown[1], u"Die Standard-Datenbank konnte nicht gefunden werden!"_s);
@@ -179,7 +182,7 @@ private Q_SLOTS:
         cTestFile::Write(machine.Default(), QByteArray("damaged").repeated(300));
         machine.Rescue.Database = machine.File.Make({}, u"other.db"_s);
         machine.User.Answers = {eAnswer::No, eAnswer::Yes};
-        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(machine.Open());
         QCOMPARE(machine.Configuration.GetSetting(modSettingKey::Database), machine.File.Path(u"other.db"_s));
     }
 
@@ -187,13 +190,13 @@ private Q_SLOTS:
     void AnotherFileInTheSameBook() const
     {
         cMachine machine;
-        QVERIFY(machine.StartUp.OpenBook(machine.Book));
+        QVERIFY(machine.Open());
         cSettings& settings = machine.Book.Settings();
         QVERIFY(settings.Set(modSettingKey::MainAccount, u"first"_s));
-        QVERIFY(machine.StartUp.OpenBook(machine.Book, machine.File.Make()));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, {machine.File.Make()}));
         QCOMPARE(settings.Get(modSettingKey::MainAccount), QString());
         QVERIFY(settings.Set(modSettingKey::MainAccount, u"second"_s));
-        QVERIFY(machine.StartUp.OpenBook(machine.Book, machine.Default()));
+        QVERIFY(machine.StartUp.OpenBook(machine.Book, {machine.Default()}));
         QCOMPARE(settings.Get(modSettingKey::MainAccount), u"first"_s);
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/cProgress.h"
+#include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "support/testBook.h"
@@ -15,6 +17,15 @@ struct cImportBook : cTestBook
         cDatabase other;
         other.Open(Path(), eOpenMode::ReadWrite);
         other.Execute(sql);
+    }
+
+    // Books a row as the user wants it.
+    [[nodiscard]] static cBookingResult BookAs(cBooking& booking, int row, const cEntryItem& entry)
+    {
+        cNoProgress progress;
+        cProposal proposal;
+        proposal.Entry = entry;
+        return booking.Book({row}, {{row, proposal}}, progress);
     }
 
     cImportHiveCache Hive{Data};

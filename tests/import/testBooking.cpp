@@ -47,7 +47,7 @@ struct cBank : cImportBook
         cEntryItem entry = Propose(row).Entry;
         entry.EntryCategory = category;
         entry.EntryInterval = interval;
-        QCOMPARE(Booking.Book(row, entry).Rows, 1);
+        QCOMPARE(cImportBook::BookAs(Booking, row, entry).Rows, 1);
     }
 
     cBooking Booking{Data, Hive, Accounts};

@@ -43,7 +43,7 @@ private Q_SLOTS:
         QTEST(cWildcard(pattern).Matches(text), "isMatch");
     }
 
-    void rules_data()
+    void MatchesByKeyword_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("value");
@@ -87,7 +87,7 @@ private Q_SLOTS:
         row("unknown", u"xyz"_s, -1, none, none, none);
     }
 
-    void rules()
+    void MatchesByKeyword()
     {
         QFETCH(QString, text);
         QFETCH(double, value);

@@ -289,7 +289,7 @@ void testMatcher::EarlierRowsOfAPayee() const
     cEntryItem entry = booking.Propose({first}).value(first).Entry;
     entry.EntryInterval = u"Monatlich"_s;
     entry.EntryDescription = u"Licht"_s;
-    QCOMPARE(booking.Book(first, entry).Rows, 1);
+    QCOMPARE(cImportBook::BookAs(booking, first, entry).Rows, 1);
     const int next = bank.Stage(day.addMonths(1).addDays(4), -42, u"SWT"_s, u"Abschlag"_s, u"111"_s, u"DE7"_s);
     const QList<cMatchCandidate> found = bank.Candidates(next);
     QCOMPARE(found.size(), 1);

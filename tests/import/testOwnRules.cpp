@@ -202,7 +202,7 @@ private Q_SLOTS:
         const int first = bank.Stage(Row(-5, u"Korn"_s, u"Brot"_s));
         cEntryItem entry = booking.Propose({first}).value(first).Entry;
         entry.EntryCategory = u"Freizeit"_s;
-        QCOMPARE(booking.Book(first, entry).Rows, 1);
+        QCOMPARE(cImportBook::BookAs(booking, first, entry).Rows, 1);
         QCOMPARE(bank.Propose(Row(-6, u"Korn"_s, u"Brot"_s)).Entry.EntryCategory, u"Freizeit"_s);
         bank.Keep({Food(u"brot"_s)});
         QCOMPARE(bank.Propose(Row(-7, u"Korn"_s, u"Brot"_s)).Entry.EntryCategory, u"Haushalt; Lebensmittel"_s);

@@ -84,8 +84,8 @@ class cFakeClock final : public cClock
 {
 public:
     explicit cFakeClock(QDate day = QDate(2026, 3, 15)) : Day(day) {}
-    QDate Today() const override { return Day; }
-    QDateTime Now() const override { return {Day, Time}; }
+    [[nodiscard]] QDate Today() const override { return Day; }
+    [[nodiscard]] QDateTime Now() const override { return {Day, Time}; }
 
     QDate Day;
     QTime Time = QTime(12, 34, 56);
@@ -94,7 +94,7 @@ public:
 class cFakeRegistry final : public cRegistry
 {
 public:
-    QString Read(eRegistryScope scope, const QString& key, const QString& name) const override
+    [[nodiscard]] QString Read(eRegistryScope scope, const QString& key, const QString& name) const override
     {
         return Values.value(Path(scope, key, name));
     }
@@ -122,14 +122,14 @@ class cFakeShell final : public cShell
 {
 public:
     QString DataFolder() override { return Folder(QStringLiteral("data")); }
-    QString InstalledFile(const QString& name) const override
+    [[nodiscard]] QString InstalledFile(const QString& name) const override
     {
         return Folder(QStringLiteral("program")) + u'/' + name;
     }
-    bool FileExists(const QString& path) const override { return QFileInfo::exists(path); }
+    [[nodiscard]] bool FileExists(const QString& path) const override { return QFileInfo::exists(path); }
     bool CopyFile(const QString& from, const QString& to) override { return !IsFull && QFile::copy(from, to); }
     bool RenameFile(const QString& from, const QString& to) override { return QFile::rename(from, to); }
-    QString CurrencySymbol() const override { return Currency; }
+    [[nodiscard]] QString CurrencySymbol() const override { return Currency; }
     bool OpenRegionalSettings() override
     {
         ++RegionalSettingsOpened;
@@ -147,7 +147,7 @@ public:
     }
     bool StartCalculator() override { return true; }
 
-    QString Folder(const QString& name) const
+    [[nodiscard]] QString Folder(const QString& name) const
     {
         const QString path = m_root.filePath(name);
         QDir().mkpath(path);

@@ -222,12 +222,13 @@ private Q_SLOTS:
     {
         cScene scene;
         scene.Model.Open();
-        const QSignalSpy found(&scene.Model, &cSearchModel::Found);
+        QSignalSpy found(&scene.Model, &cSearchModel::Found);
         for (const QString& text : {u"r"_s, u"re"_s, u"rewe"_s}) {
             scene.Model.SearchSoon({.Text = text});
         }
         QCOMPARE(found.size(), 0);
-        QTRY_COMPARE(found.size(), 1);
+        QVERIFY(found.wait());
+        QCOMPARE(found.size(), 1);
         QCOMPARE(scene.Model.Entries().rowCount(), 1);
     }
 

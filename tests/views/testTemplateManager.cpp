@@ -199,8 +199,9 @@ void testTemplateManager::TakesBackWhatFailsHalfway()
     cTemplateScene scene;
     scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
     scene.Book.Database.Execute("CREATE TRIGGER t BEFORE DELETE ON template BEGIN SELECT RAISE(ABORT, 'voll'); END");
+    scene.Book.User.Choices = {u"Bargeld"_s};
     scene.Book.User.Answers = {eAnswer::Yes};
-    QVERIFY(!scene.Manager.MergeAccount(u"Girokonto"_s, u"Bargeld"_s));
+    QVERIFY(!scene.Manager.AskMerge(scene.Account(u"Girokonto"_s)));
     QCOMPARE(scene.Book.User.Shown, QStringList(u"ERROR: DeleteTemplate\nvoll"_s));
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Girokonto"_s);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Ids.at(0))->EntryAccount, u"Girokonto"_s);
@@ -449,9 +450,10 @@ void testTemplateManager::MergesAccounts()
                                  entry.EntryAccountMove = u"Girokonto"_s;
                              })
                              .ID;
+    scene.Book.User.Choices = {u"Bargeld"_s};
     scene.Book.User.Answers = {eAnswer::Yes};
-    QVERIFY(scene.Manager.MergeAccount(u"Girokonto"_s, u"Bargeld"_s));
-    QVERIFY(scene.Book.User.Asked.constFirst().startsWith(u"5 Buchungen von 'Girokonto' nach 'Bargeld'"));
+    QVERIFY(scene.Manager.AskMerge(scene.Account(u"Girokonto"_s)));
+    QVERIFY(scene.Book.User.Asked.constLast().startsWith(u"5 Buchungen von 'Girokonto' nach 'Bargeld'"));
     QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryValue, 1500);
     QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryDate, QDate(2026, 1, 1));
     QCOMPARE(scene.Book.Data.CountEntriesOfCategory(modWord::Startguthaben), 1);

@@ -93,20 +93,6 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
     return result;
 }
 
-cBookingResult cBooking::Book(int rowId, const cEntryItem& entry)
-{
-    QHash<int, cProposal> proposals = Propose({rowId});
-    if (const auto proposal = proposals.find(rowId); proposal != proposals.end()) {
-        const bool isSameKind =
-            proposal->Entry.EntryType == entry.EntryType && proposal->Entry.EntryInterval == entry.EntryInterval;
-        proposal->Entry = entry;
-        proposal->PartnerRow = isSameKind ? proposal->PartnerRow : 0;
-        proposal->ExistingEntry = isSameKind ? proposal->ExistingEntry : 0;
-    }
-    cNoProgress progress;
-    return Book({rowId}, proposals, progress);
-}
-
 cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinder& series, cBookingResult& result)
 {
     const std::optional<cImportEntry> row = OpenRow(m_hive, rowId);

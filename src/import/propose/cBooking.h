@@ -51,9 +51,6 @@ public:
     [[nodiscard]] cBookingResult Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals,
                                       cProgress& progress);
 
-    // One row into one entry. `entry` without account gets the one of the row's number.
-    [[nodiscard]] cBookingResult Book(int rowId, const cEntryItem& entry);
-
     // Assigns a row to an entry that is in the book already.
     [[nodiscard]] bool Assign(int rowId, int entryId);
 

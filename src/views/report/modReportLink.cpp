@@ -131,8 +131,3 @@ QString modReportLink::ShowEntries(const cLine& line)
                       Encoded(line.Group + u"; "_s + line.Category)}
               .join(separator);
 }
-
-QString modReportLink::EditCategory(const QString& path)
-{
-    return editCategory + Encoded(path);
-}

@@ -53,6 +53,4 @@ struct cLine
 };
 [[nodiscard]] QString ShowEntries(const cLine& line);
 
-[[nodiscard]] QString EditCategory(const QString& path);
-
 } // namespace modReportLink

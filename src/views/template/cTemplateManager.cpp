@@ -368,12 +368,6 @@ bool cTemplateManager::MergeCategory(const QString& sourcePath, const QString& t
     return Tell(areMains ? removal.MergeMain(sourcePath, targetPath) : removal.MergeCategory(sourcePath, targetPath));
 }
 
-bool cTemplateManager::MergeAccount(const QString& source, const QString& target)
-{
-    const bool isDone = cTemplateRemoval(m_tools).MergeAccount(source, target);
-    return TellGone(isDone, source, target);
-}
-
 bool cTemplateManager::CanDelete(const cTemplateNode& node) const
 {
     return !IsReadOnly() && !node.IsUnknown() && node.Kind != eTemplateNode::Group;

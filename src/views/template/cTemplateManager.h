@@ -64,7 +64,6 @@ public:
     bool DeleteCategory(const QString& path);
     bool DeleteAccount(const QString& name);
     bool MergeCategory(const QString& sourcePath, const QString& targetPath);
-    bool MergeAccount(const QString& source, const QString& target);
 
     // By line, as the window has them.
     bool Delete(const cTemplateNode& node);
