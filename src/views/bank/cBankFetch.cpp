@@ -1,6 +1,7 @@
 #include "views/bank/cBankFetch.h"
 
 #include "base/cBankUser.h"
+#include "base/cHttps.h"
 #include "base/cClock.h"
 #include "base/cProgress.h"
 #include "base/cText.h"

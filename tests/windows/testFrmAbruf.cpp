@@ -1,0 +1,108 @@
+#include "support/windowFaults.h"
+#include "testbank/cBankHousehold.h"
+#include "views/bank/cBankFetch.h"
+#include "views/statement/cStatementDesk.h"
+#include "views/statement/cStatementFiles.h"
+#include "windows/bank/cFetchTree.h"
+#include "windows/bank/frmAbruf.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cScene : cHousehold
+{
+    cScene() { Tell(cBankMonth::Example()); }
+
+    [[nodiscard]] QString Cell(int column) const
+    {
+        return Window.findChild<cFetchTree*>()->topLevelItem(0)->child(0)->text(column);
+    }
+    [[nodiscard]] QStringList Texts() const // of the labels in sight
+    {
+        QStringList texts;
+        const QList<QLabel*> labels = Window.findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            if (label->isVisible()) {
+                texts.append(label->text());
+            }
+        }
+        return texts;
+    }
+
+    cStatementDesk Desk{Tools};
+    cBankFetch Fetch{Tools, Desk.Files(), {Https, Customer, u"1.0.0"_s}};
+    frmAbruf Window{Fetch};
+};
+
+} // namespace
+
+class testFrmAbruf final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EnterFetchesAndEnterGoesToTheReview()
+    {
+        cScene scene;
+        scene.Window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&scene.Window));
+        QCOMPARE(scene.Cell(2), u"noch nie abgerufen"_s);
+
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QVERIFY2(scene.Cell(2).startsWith(u"7 neu"), qPrintable(scene.Cell(2)));
+        QVERIFY(scene.Cell(3).contains(u"am 31.03.2026") || !scene.Cell(3).isEmpty());
+        QVERIFY(scene.Window.isVisible());
+
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QCOMPARE(scene.Window.result(), int(QDialog::Accepted));
+    }
+
+    void SaysWhyNotAndStays()
+    {
+        cScene scene;
+        scene.Bank.Profile.Accounts.first().Refusal = "9210::Konto gesperrt.";
+        scene.Window.show();
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        const QString all = scene.Texts().join(u'\n');
+        QVERIFY2(all.contains(u"Konto gesperrt."), qPrintable(all));
+        QVERIFY(scene.Window.isVisible());
+    }
+
+    void CancelEndsTheRun()
+    {
+        cScene scene;
+        scene.Window.show();
+        connect(&scene.Fetch, &cBankFetch::StepShown, &scene.Window, [&] { scene.Window.reject(); });
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QCOMPARE(scene.Fetch.Lines().constFirst().Failure.Fault, eBankFault::Cancelled);
+        QCOMPARE(scene.Desk.Rows().size(), 0);
+        QVERIFY(scene.Window.isVisible());
+        scene.Window.reject();
+        QVERIFY(!scene.Window.isVisible());
+    }
+
+    void AsksForALoginWhereThereIsNone()
+    {
+        cTestBook book;
+        cTestBank bank{cBankProfile()};
+        cTestHttps https(bank);
+        cTestBankUser customer(bank);
+        cStatementDesk desk(book.Tools);
+        cBankFetch fetch(book.Tools, desk.Files(), {https, customer, u"1.0.0"_s});
+        frmAbruf window(fetch);
+        QSignalSpy banks(&window, &frmAbruf::BanksRequested);
+        window.show();
+        QTest::keyClick(&window, Qt::Key_Return);
+        QCOMPARE(banks.size(), 1);
+        QCOMPARE(https.Posts, 0);
+    }
+};
+
+QTEST_MAIN(testFrmAbruf)
+#include "testFrmAbruf.moc"
