@@ -1,13 +1,18 @@
 #include "tools/screenshots/takeBankSetup.h"
 
+#include "support/bankMonth.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
 #include "testbank/cTestHttps.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
 #include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankFetch.h"
 #include "views/bank/cBankListModel.h"
 #include "views/bank/cBankSetup.h"
+#include "views/statement/cStatementDesk.h"
+#include "views/statement/cStatementFiles.h"
+#include "windows/bank/frmAbruf.h"
 #include "windows/bank/frmBankAssistent.h"
 #include "windows/bank/frmBankzugaenge.h"
 
@@ -33,6 +38,25 @@ cBankProfile Profile()
         {.Number = "1234568", .Iban = "DE03100200300001234568", .Product = "Wertpapierkonto", .Orders = "HKSAL:1"},
         {.Number = "1234569", .Iban = "DE04100200300001234569", .Product = "Tagesgeld"}};
     return profile;
+}
+
+// Before and after; one of the accounts fails.
+bool TakeFetch(cCamera& camera, cDemoBook& scene, cTestBank& bank, const cBankFetch::cPorts& ports)
+{
+    cBankMonth month = cBankMonth::Example();
+    for (cBankBooking& booking : month.Bookings) {
+        booking.Day = sceneDay.addDays(-booking.Day.day() % 20);
+    }
+    bank.Profile.Accounts[0].Pages = {month.Mt940().toLatin1()};
+    bank.Profile.Accounts[2].Refusal = "9210::Konto zur Zeit nicht verfügbar.";
+    cStatementDesk desk(scene.Tools());
+    cBankFetch fetch(scene.Tools(), desk.Files(), ports);
+    frmAbruf window(fetch);
+    window.show();
+    camera.Take(window, u"abruf"_s);
+    window.Start();
+    camera.Take(window, u"abruf-fertig"_s);
+    return fetch.Lines().size() > 1;
 }
 
 } // namespace
@@ -93,5 +117,5 @@ bool TakeBankSetup(cCamera& camera)
     take(u"bankassistent-konten"_s);
     isDone = setup.Next() && isDone;
     take(u"bankzugaenge"_s, true);
-    return isDone;
+    return isDone && TakeFetch(camera, scene, bank, {https, customer, u"1.0.0"_s});
 }
