@@ -6,9 +6,9 @@
 // Why an answer did not come.
 enum class eHttpsFault {
     None,
-    NotReachable, // no such host, no network, refused
+    NotReachable, // no such host, no network, refused: nothing was sent
     Certificate,  // the server is not the one it claims to be; nothing was sent
-    Silent,       // no byte for a minute, or not done after five
+    Silent,       // no whole answer: hung up, no byte for a minute, or not done after five
     TooLarge,
     Refused, // an answer that is no success, a redirect included; the bytes are what came with it
     Cancelled,

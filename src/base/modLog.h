@@ -12,6 +12,7 @@ Q_DECLARE_LOGGING_CATEGORY(Open)    // kontorelle.open: a book is opened
 Q_DECLARE_LOGGING_CATEGORY(Upgrade) // kontorelle.upgrade: and gets the tables of today
 Q_DECLARE_LOGGING_CATEGORY(Import)  // kontorelle.import: a statement is read and staged
 Q_DECLARE_LOGGING_CATEGORY(Booking) // kontorelle.booking: staged rows become entries
+Q_DECLARE_LOGGING_CATEGORY(Bank)    // kontorelle.bank: a message to a bank and its answer
 Q_DECLARE_LOGGING_CATEGORY(Backup)  // kontorelle.backup: a copy is made or put back
 
 } // namespace modLog

@@ -2,6 +2,7 @@
 
 #include "base/cHttps.h"
 #include "base/cSecret.h"
+#include "base/modLog.h"
 #include "fints/cBankLog.h"
 
 #include <utility>
@@ -36,6 +37,8 @@ std::optional<cBankAnswer> cBankExchange::Send(const HBCIMessage& message, const
     m_run.Parts.Log.AddRequest(bytes, secrets, m_run.Parts.ProductId);
     QByteArray body = bytes.toBase64();
     cHttpsAnswer answer = m_run.Parts.Https.Post(m_run.State.Url, body);
+    qCInfo(modLog::Bank) << "sent" << bytes.size() << "came" << answer.Bytes.size() << "fault"
+                         << static_cast<int>(answer.Fault);
     cSecret::Wipe(bytes);
     cSecret::Wipe(body);
     m_isSent = answer.Fault != eHttpsFault::NotReachable && answer.Fault != eHttpsFault::Certificate;

@@ -66,12 +66,12 @@ eHttpsFault FaultOf(QNetworkReply::NetworkError error)
     switch (error) {
     case QNetworkReply::NoError: return eHttpsFault::None;
     case QNetworkReply::SslHandshakeFailedError: return eHttpsFault::Certificate;
+    case QNetworkReply::RemoteHostClosedError: // the bank may have got the message all the same
+    case QNetworkReply::ContentReSendError:    // hung up without an answer, see cReadOnce
     case QNetworkReply::TimeoutError:
     case QNetworkReply::OperationCanceledError: // by the transfer timeout; what is ended from here has its reason
                                                 // already
         return eHttpsFault::Silent;
-    case QNetworkReply::ContentReSendError: // hung up without an answer, see cReadOnce
-        return eHttpsFault::NotReachable;
     default:
         // Those of the network and of the proxy come first; from 200 on the server has answered.
         return error < QNetworkReply::ContentAccessDenied ? eHttpsFault::NotReachable : eHttpsFault::Refused;
