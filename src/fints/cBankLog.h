@@ -22,8 +22,8 @@ public:
     // For the maker's own eyes: with everything that the bank said.
     [[nodiscard]] QString Text() const { return QString::fromLatin1(m_text); }
     // For others: login, account numbers, IBANs, names and purposes are hidden too. `people` are texts to hide beside
-    // those that the messages themselves show. What is hidden does not depend on the secrets, so that it cannot tell
-    // them: in a number that everybody knows a row of "P" would.
+    // those that the messages themselves show. Outside of the bank's words the secrets do not decide what is hidden, so
+    // that it cannot tell them: in a number that everybody knows a row of "P" would.
     [[nodiscard]] QString TextForOthers(const QStringList& people) const;
 
 private:
