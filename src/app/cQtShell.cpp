@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <algorithm>
 #include <initializer_list>
@@ -94,6 +95,22 @@ bool cQtShell::OpenPage(const QString& url)
                        {u"gio"_s, {u"open"_s, url}},
                        {u"kde-open5"_s, {url}},
                        {u"exo-open"_s, {url}}});
+}
+
+// The first one finds the user's mail program by itself; the others are asked one by one, because a mailto address
+// cannot carry a file.
+bool cQtShell::OpenMail(const cMailDraft& draft)
+{
+    const QString file = QUrl::fromLocalFile(draft.Attachment).toString(QUrl::FullyEncoded);
+    const QString compose = u"subject='%1',body='%2',attachment='%3'"_s.arg(draft.Subject, draft.Text, file);
+    const QString address =
+        u"mailto:?subject=%1&body=%2&attach=%3"_s.arg(QString::fromLatin1(QUrl::toPercentEncoding(draft.Subject)),
+                                                      QString::fromLatin1(QUrl::toPercentEncoding(draft.Text)), file);
+    return StartFirst(
+        {{u"xdg-email"_s, {u"--subject"_s, draft.Subject, u"--body"_s, draft.Text, u"--attach"_s, draft.Attachment}},
+         {u"thunderbird"_s, {u"-compose"_s, compose}},
+         {u"evolution"_s, {address}},
+         {u"kmail"_s, {u"--subject"_s, draft.Subject, u"--body"_s, draft.Text, u"--attach"_s, draft.Attachment}}});
 }
 
 bool cQtShell::StartCalculator()

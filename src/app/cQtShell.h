@@ -17,6 +17,7 @@ public:
     [[nodiscard]] QString CurrencySymbol() const override;
     bool OpenRegionalSettings() override;
     bool OpenPage(const QString& url) override;
+    bool OpenMail(const cMailDraft& draft) override;
     bool StartCalculator() override;
 
 private:

@@ -2,6 +2,14 @@
 
 #include <QString>
 
+// A mail that the user is to complete and send. `Attachment` is the path of a file; it has to stay there.
+struct cMailDraft
+{
+    QString Subject;
+    QString Text;
+    QString Attachment;
+};
+
 // Folders, files and programs of the machine.
 class cShell
 {
@@ -34,6 +42,9 @@ public:
 
     // Opens an address in the system's browser. False when none could be started.
     virtual bool OpenPage(const QString& url) = 0;
+
+    // Opens a draft in the user's mail program. False when none could be started.
+    virtual bool OpenMail(const cMailDraft& draft) = 0;
 
     // Starts the system's calculator. False when none could be started.
     virtual bool StartCalculator() = 0;

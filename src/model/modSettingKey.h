@@ -102,6 +102,13 @@ inline const cSettingFamily PaneForecast{
 inline const cSettingFamily PaneAverage{
     QStringLiteral("Statistik"), QStringLiteral("Durchschnitt"), {Truth, View, Cleared, Off}};
 
+// The windows for TANs: width in millimetres, states of the bars in a second
+inline const cSettingKey FlickerWidth{QStringLiteral("FlickerBreite"), {Number, View, Cleared, QStringLiteral("65")}};
+inline const cSettingKey FlickerSpeed{QStringLiteral("FlickerTempo"), {Number, View, Cleared, QStringLiteral("20")}};
+inline const cSettingKey FlickerTurned{QStringLiteral("FlickerGedreht"), {Truth, View, Cleared, Off}};
+inline const cSettingKey TanPictureWidth{QStringLiteral("TanBildBreite"),
+                                         {Number, View, Cleared, QStringLiteral("60")}};
+
 // Windows and lists
 inline const cSettingKey WindowSize{QStringLiteral("WindowSize"), {List, Window, Layout}};
 inline const cSettingKey WindowState{QStringLiteral("WindowState"), {Number, Window, Layout, QStringLiteral("0")}};

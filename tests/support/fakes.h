@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QList>
 #include <QMap>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -139,6 +140,11 @@ public:
         Pages.append(url);
         return true;
     }
+    bool OpenMail(const cMailDraft& draft) override
+    {
+        Mails.append(draft);
+        return HasMail;
+    }
     bool StartCalculator() override { return true; }
 
     QString Folder(const QString& name) const
@@ -151,6 +157,8 @@ public:
     QString Currency = QStringLiteral("€");
     int RegionalSettingsOpened = 0;
     QStringList Pages;
+    QList<cMailDraft> Mails;
+    bool HasMail = true;
     bool IsFull = false; // no room for another file
 
 private:
