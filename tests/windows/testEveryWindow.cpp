@@ -4,6 +4,9 @@
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "views/bank/cApprovalWait.h"
+#include "views/bank/cBankLogView.h"
+#include "views/bank/cTanEntry.h"
 #include "views/book/cBackupSettings.h"
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
@@ -21,6 +24,9 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/bank/frmPin.h"
+#include "windows/bank/frmProtokoll.h"
+#include "windows/bank/frmTan.h"
 #include "windows/book/frmLaender.h"
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
@@ -42,6 +48,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QBuffer>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -117,6 +124,9 @@ struct cScene
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
+    std::unique_ptr<cTanEntry> Tan;
+    cApprovalWait Approval{Book.Clock};
+    cBankLogView Log{u"HNHBK:1:3+000000000123+300+0+1'"_s, {}, {Book.User, Book.Shell, Book.Clock}};
     cRuleEditor Rules{Book.Tools};
     cBookCheck Check{Book.Data, Book.Format};
     cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
@@ -133,6 +143,28 @@ std::unique_ptr<QWidget> MakeAssistant(cScene& scene, const QString& file)
 {
     scene.Assistant = scene.Review.Files().StartAssistant(QStringLiteral(TEST_DATA "/") + file);
     return scene.Assistant ? std::make_unique<frmImportAssistent>(*scene.Assistant) : nullptr;
+}
+
+// With everything that a bank may send.
+std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
+{
+    cTanQuestion question;
+    question.Bank = u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s;
+    question.Procedure = u"Smart-TAN plus optisch"_s;
+    question.Medium = u"Karte 1234567890"_s;
+    question.Label = u"TAN-Eingabe:"_s;
+    question.Challenge =
+        u"Umsatzabfrage\r\nStecken Sie Ihre Karte in den TAN-Generator und drücken Sie \"F\". Halten Sie "
+        "den Generator vor die animierte Grafik."_s;
+    question.Display = display;
+    question.Flicker = QByteArray("\x1f\x1e", 2);
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer file(&question.Picture);
+    image.save(&file, "PNG");
+    scene.Book.Settings->Set(modSettingKey::FlickerWidth, u"90"_s);
+    scene.Tan = std::make_unique<cTanEntry>(question, *scene.Book.Settings);
+    return std::make_unique<frmTan>(*scene.Tan);
 }
 
 // Shows every page of every book of tabs once and collects the faults of each.
@@ -247,6 +279,23 @@ void testEveryWindow::CanBeReadAndOperated_data()
              scene.Check.Reload();
              return std::make_unique<frmPruefung>(scene.Check);
          }},
+        {"TAN with bars", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Flicker); }},
+        {"TAN with a picture", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Picture); }},
+        {"approval",
+         [](cScene& scene) {
+             cApproval approval;
+             approval.Bank = u"Sparkasse Ahornstadt"_s;
+             approval.IsAutomatic = false;
+             approval.ValidUntil = scene.Book.Clock.Now().addSecs(300);
+             scene.Approval.Start(approval);
+             return std::make_unique<frmTan>(scene.Approval);
+         }},
+        {"PIN",
+         [](cScene&) {
+             return std::make_unique<frmPin>(
+                 cPinQuestion{u"Sparkasse Ahornstadt"_s, u"12345678"_s, u"kunde1"_s, u"Anmeldename"_s});
+         }},
+        {"bank log", [](cScene& scene) { return std::make_unique<frmProtokoll>(scene.Log); }},
         {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     };
     for (const auto& [name, make] : windows) {

@@ -1,0 +1,333 @@
+#include "support/testBook.h"
+#include "support/windowFaults.h"
+#include "views/bank/cApprovalWait.h"
+#include "views/bank/cBankLogView.h"
+#include "views/bank/cTanEntry.h"
+#include "windows/bank/cFlickerView.h"
+#include "windows/bank/cTanPictureView.h"
+#include "windows/bank/frmPin.h"
+#include "windows/bank/frmProtokoll.h"
+#include "windows/bank/frmTan.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cTanQuestion Question(eTanDisplay display)
+{
+    cTanQuestion question;
+    question.Bank = u"Sparkasse Ahornstadt"_s;
+    question.Procedure = u"chipTAN"_s;
+    question.Label = u"TAN-Eingabe:"_s;
+    question.Challenge = u"<u>Umsatzabfrage</u>\r\nKonto 4711"_s;
+    question.Display = display;
+    question.Flicker = QByteArray("\x1f\x1e\x01", 3);
+    question.MostCharacters = 6;
+    question.IsNumber = true;
+    return question;
+}
+
+QByteArray Picture()
+{
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray file;
+    QBuffer buffer(&file);
+    image.save(&buffer, "PNG");
+    return file;
+}
+
+QLineEdit& Field(const QDialog& window)
+{
+    return *window.findChild<QLineEdit*>();
+}
+
+QPushButton* Button(const QDialog& window, const QString& text)
+{
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    for (QPushButton* button : buttons) {
+        if (button->text().remove(u'&') == text) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+// The bars of the next painted frame as they stand on the screen, "1" for white: the middle of each.
+QString PaintedBars(cFlickerView& view)
+{
+    const QImage image = view.grab().toImage();
+    const int unit = (image.width() + 8) / 16; // a margin on both sides and 14 of bars and gaps
+    QString bars;
+    for (int bar = 0; bar < 5; ++bar) {
+        const QColor colour = image.pixelColor(unit * (2 + 3 * bar), image.height() / 2);
+        bars += colour == Qt::white ? u'1' : colour == Qt::black ? u'0' : u'?';
+    }
+    return bars;
+}
+
+} // namespace
+
+class testFrmTan final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TanGoesByKeyboard();
+    void NothingOfTheTanStays_data();
+    void NothingOfTheTanStays();
+    void OnlyWhatCanBeATanIsLetIn();
+    void WordsOfTheBankAreNoMarkup();
+    void EveryStateIsPaintedTwice();
+    void BarsStandOnTheirHead();
+    void DialsChangeBarsAndAreKept();
+    void PictureIsShownInItsWidth();
+    void BrokenPictureIsSaid();
+    void ApprovalAsksInTime();
+    void PinIsHiddenAndForgotten();
+    void LogIsShownAndSaved();
+};
+
+void testFrmTan::TanGoesByKeyboard()
+{
+    cTestBook book;
+    cTanEntry entry(Question(eTanDisplay::Flicker), *book.Settings);
+    frmTan window(entry);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(QApplication::focusWidget(), &Field(window));
+    QVERIFY(!Button(window, u"TAN senden"_s)->isEnabled());
+    QTest::keyClick(&Field(window), Qt::Key_Return); // nothing typed yet
+    QVERIFY(window.isVisible());
+    QTest::keyClicks(&Field(window), u"123456"_s);
+    QTest::keyClick(&Field(window), Qt::Key_Return);
+    QCOMPARE(window.result(), static_cast<int>(QDialog::Accepted));
+    QCOMPARE(window.TakeTan().Characters().toString(), u"123456"_s);
+}
+
+void testFrmTan::NothingOfTheTanStays_data()
+{
+    QTest::addColumn<int>("way");
+
+    QTest::newRow("sent") << 0;
+    QTest::newRow("Escape") << 1;
+    QTest::newRow("closed") << 2;
+    QTest::newRow("cancelled") << 3;
+}
+
+void testFrmTan::NothingOfTheTanStays()
+{
+    QFETCH(int, way);
+    cTestBook book;
+    cTanEntry entry(Question(eTanDisplay::Text), *book.Settings);
+    frmTan window(entry);
+    window.show();
+    QTest::keyClicks(&Field(window), u"123456"_s);
+    switch (way) {
+    case 0: QTest::mouseClick(Button(window, u"TAN senden"_s), Qt::LeftButton); break;
+    case 1: QTest::keyClick(&window, Qt::Key_Escape); break;
+    case 2: window.close(); break;
+    default: QTest::mouseClick(Button(window, u"Abbrechen"_s), Qt::LeftButton); break;
+    }
+    QVERIFY(!window.isVisible());
+    QCOMPARE(Field(window).text(), QString());
+    Field(window).undo();
+    QCOMPARE(Field(window).text(), QString());
+    QCOMPARE(window.TakeTan().IsEmpty(), way != 0);
+}
+
+void testFrmTan::OnlyWhatCanBeATanIsLetIn()
+{
+    cTestBook book;
+    cTanEntry entry(Question(eTanDisplay::Text), *book.Settings);
+    frmTan window(entry);
+    QLineEdit& field = Field(window);
+    QTest::keyClicks(&field, u"1a2 3-4567"_s);
+    QCOMPARE(field.text(), u"123456"_s); // the seventh has no room
+    field.clear();
+    QApplication::clipboard()->setText(u"TAN 654 321"_s);
+    field.paste();
+    QCOMPARE(field.text(), u"654321"_s);
+    QCOMPARE(field.placeholderText(), u"Höchstens 6 Ziffern"_s);
+}
+
+void testFrmTan::WordsOfTheBankAreNoMarkup()
+{
+    cTestBook book;
+    cTanEntry entry(Question(eTanDisplay::Text), *book.Settings);
+    const frmTan window(entry);
+    const auto* words = window.findChild<QLabel*>(u"words"_s);
+    QCOMPARE(words->text(), u"<u>Umsatzabfrage</u>\nKonto 4711"_s);
+    QCOMPARE(words->textFormat(), Qt::PlainText);
+}
+
+// On a screen with 60 frames a second, 20 states are three frames each; a state that is due waits for its second frame.
+void testFrmTan::EveryStateIsPaintedTwice()
+{
+    constexpr qint64 frame = 16'666'667;
+    qint64 moment = 0;
+    cFlickerView view(QByteArray("\x1f\x1e\x01", 3), nullptr, [&] { return moment; });
+    view.SetWidth(65);
+    view.SetSpeed(20);
+    QStringList painted;
+    for (int i = 0; i < 9; ++i) {
+        painted.append(PaintedBars(view));
+        moment += frame;
+    }
+    const QString full = u"11111"_s;
+    const QString data = u"01111"_s;
+    const QString clock = u"10000"_s;
+    QCOMPARE(painted, QStringList({full, full, full, data, data, data, clock, clock, clock}));
+    painted.clear();
+    for (int i = 0; i < 6; ++i) {
+        painted.append(PaintedBars(view));
+        moment += 100 * frame; // the machine has other things to do
+    }
+    QCOMPARE(painted, QStringList({full, full, data, data, clock, clock}));
+}
+
+void testFrmTan::BarsStandOnTheirHead()
+{
+    cFlickerView view(QByteArray("\x03", 1), nullptr, [] { return 0; });
+    view.SetWidth(65);
+    QCOMPARE(PaintedBars(view), u"11000"_s);
+    view.SetTurned(true);
+    QCOMPARE(PaintedBars(view), u"00011"_s);
+}
+
+void testFrmTan::DialsChangeBarsAndAreKept()
+{
+    cTestBook book;
+    cTanEntry entry(Question(eTanDisplay::Flicker), *book.Settings);
+    frmTan window(entry);
+    window.show();
+    auto* bars = window.findChild<cFlickerView*>();
+    QSlider* width = window.findChildren<QSlider*>().first();
+    const int before = bars->width();
+    width->setFocus();
+    QTest::keyClick(width, Qt::Key_End);
+    QVERIFY(bars->width() > before);
+    QCOMPARE(entry.Value(cTanEntry::eDial::FlickerWidth), 90);
+    QTest::keyClick(window.findChild<QCheckBox*>(), Qt::Key_Space);
+    QVERIFY(entry.IsTurned());
+    QCOMPARE(windowFaults::All(window), QStringList());
+}
+
+void testFrmTan::PictureIsShownInItsWidth()
+{
+    cTestBook book;
+    cTanQuestion question = Question(eTanDisplay::Picture);
+    question.Picture = Picture();
+    cTanEntry entry(question, *book.Settings);
+    frmTan window(entry);
+    window.show();
+    QCOMPARE(windowFaults::All(window), QStringList());
+    const auto* picture = window.findChild<cTanPictureView*>();
+    const int before = picture->sizeHint().width();
+    window.findChild<QSlider*>()->setValue(120);
+    QVERIFY(picture->sizeHint().width() > before);
+    QCOMPARE(entry.Value(cTanEntry::eDial::PictureWidth), 120);
+}
+
+void testFrmTan::BrokenPictureIsSaid()
+{
+    cTestBook book;
+    cTanQuestion question = Question(eTanDisplay::Picture);
+    question.Picture = "abcde";
+    cTanEntry entry(question, *book.Settings);
+    const frmTan window(entry);
+    QVERIFY(window.findChild<cTanPictureView*>() == nullptr);
+    QStringList texts;
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        texts.append(label->text());
+    }
+    QVERIFY(texts.contains(u"Das Bild der Bank lässt sich nicht anzeigen."_s));
+}
+
+void testFrmTan::ApprovalAsksInTime()
+{
+    cFakeClock clock;
+    cApprovalWait wait(clock);
+    cApproval approval;
+    approval.Bank = u"Sparkasse Ahornstadt"_s;
+    approval.WaitSeconds = 3;
+    approval.IsAutomatic = false;
+    approval.ValidUntil = clock.Now().addSecs(300);
+    wait.Start(approval);
+    frmTan window(wait);
+    const QSignalSpy asked(&window, &frmTan::BankToBeAsked);
+    window.show();
+    QCOMPARE(windowFaults::All(window), QStringList());
+    const auto passSecond = [&] {
+        clock.Time = clock.Time.addSecs(1);
+        QMetaObject::invokeMethod(window.findChild<QTimer*>(u"tmrWait"_s), "timeout");
+    };
+    QPushButton* look = Button(window, u"Jetzt prüfen"_s);
+    QTest::mouseClick(look, Qt::LeftButton); // too early, but heard
+    QVERIFY(!look->isEnabled() && asked.isEmpty());
+    for (int i = 0; i < 3; ++i) {
+        passSecond();
+    }
+    QCOMPARE(asked.size(), 1);
+    QVERIFY(!window.findChild<QTimer*>(u"tmrWait"_s)->isActive());
+    wait.Start(approval);
+    window.StartWait();
+    for (int i = 0; i < 10; ++i) {
+        passSecond();
+    }
+    QCOMPARE(asked.size(), 1);
+    QTest::mouseClick(look, Qt::LeftButton);
+    QCOMPARE(asked.size(), 2);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QCOMPARE(window.result(), static_cast<int>(QDialog::Rejected));
+}
+
+void testFrmTan::PinIsHiddenAndForgotten()
+{
+    for (const bool isSent : {true, false}) {
+        frmPin window({.Bank = u"Sparkasse Ahornstadt"_s, .BankCode = {}, .UserId = u"kunde1"_s, .UserIdLabel = {}});
+        window.show();
+        QCOMPARE(windowFaults::All(window), QStringList());
+        QCOMPARE(Field(window).echoMode(), QLineEdit::Password);
+        QTest::keyClicks(&Field(window), u"geheim"_s);
+        QTest::keyClick(&Field(window), isSent ? Qt::Key_Return : Qt::Key_Escape);
+        QVERIFY(!window.isVisible());
+        QCOMPARE(Field(window).text(), QString());
+        QCOMPARE(window.TakePin().Characters().toString(), isSent ? u"geheim"_s : QString());
+    }
+}
+
+void testFrmTan::LogIsShownAndSaved()
+{
+    cTestBook book;
+    const cBankLogView log(u"HNHBK:1:3+000000000123"_s, u"HNHBK"_s, {book.User, book.Shell, book.Clock});
+    frmProtokoll window(log);
+    window.show();
+    QCOMPARE(windowFaults::All(window), QStringList());
+    const auto* text = window.findChild<QPlainTextEdit*>();
+    QVERIFY(text->isReadOnly());
+    QCOMPARE(text->toPlainText(), u"HNHBK:1:3+000000000123"_s);
+    QTest::mouseClick(Button(window, u"Per E-Mail senden…"_s), Qt::LeftButton);
+    QCOMPARE(book.Shell.Mails.size(), 1);
+    const cBankLogView nothing({}, {}, {book.User, book.Shell, book.Clock});
+    const frmProtokoll empty(nothing);
+    QVERIFY(!Button(empty, u"Speichern…"_s)->isEnabled());
+}
+
+QTEST_MAIN(testFrmTan)
+#include "testFrmTan.moc"
