@@ -8,9 +8,11 @@ format=$1
 seconds=${2:-900}
 build=../build/fuzz
 found=$build/found/$format
+corpus=corpus/$format
+[ -d "$corpus" ] || corpus=corpusFints/$format
 mkdir -p "$found" "$build/faults"
 dictionary=()
 [ -f "dictionaries/$format.dict" ] && dictionary=("-dict=dictionaries/$format.dict")
 
-nice -n 19 ionice -c3 "$build/bin/fuzz-$format" "$found" "corpus/$format" "${dictionary[@]}" -max_total_time="$seconds" \
+nice -n 19 ionice -c3 "$build/bin/fuzz-$format" "$found" "$corpus" "${dictionary[@]}" -max_total_time="$seconds" \
   -max_len=16384 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$build/faults/$format-"
