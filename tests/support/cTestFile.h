@@ -34,8 +34,9 @@ public:
         database.ExecuteScript(sql);
     }
 
-    // A file with the tables and what `more` puts into them; its path.
-    QString Make(const std::string& more = {}, const QString& name = QStringLiteral("data.db"))
+    // A file with the tables and what `more` puts into them; its path, which not everybody needs.
+    // NOLINTNEXTLINE(modernize-use-nodiscard)
+    QString Make(const std::string& more = {}, const QString& name = QStringLiteral("data.db")) const
     {
         Run(Path(name), Tables + more);
         return Path(name);

@@ -223,7 +223,7 @@ void testFrmTan::DialsChangeBarsAndAreKept()
     QTest::keyClick(width, Qt::Key_End);
     QVERIFY(bars->width() > before);
     QCOMPARE(entry.Value(cTanEntry::eDial::FlickerWidth), 90);
-    QTest::mouseClick(window.findChild<QCheckBox*>(), Qt::LeftButton);
+    QTest::keyClick(window.findChild<QCheckBox*>(), Qt::Key_Space);
     QVERIFY(entry.IsTurned());
     QCOMPARE(windowFaults::All(window), QStringList());
 }

@@ -3,12 +3,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-namespace {
-
-constexpr int columns = 60; // width of the texts in letters
-
-} // namespace
-
 QWidget* modBankHead::Make(const QString& bank, const QString& line, QWidget* parent)
 {
     auto* head = new QWidget(parent);
@@ -26,13 +20,13 @@ QWidget* modBankHead::Make(const QString& bank, const QString& line, QWidget* pa
     return head;
 }
 
-QLabel* modBankHead::Text(const QString& text, QWidget* parent)
+QLabel* modBankHead::Text(const QString& text, QWidget* parent, int columns)
 {
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setText(text);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * columns);
-    label->setMinimumHeight(label->heightForWidth(label->minimumWidth()));
+    label->setMinimumHeight(qMax(0, label->heightForWidth(label->minimumWidth()))); // an empty text has none
     return label;
 }
