@@ -27,13 +27,13 @@ using cLetters = QVarLengthArray<char16_t, 256>;
 
 cLetters WithoutBlanks(const QString& text)
 {
-    cLetters rest;
-    rest.reserve(text.size());
+    cLetters rest(text.size());
+    auto end = rest.begin();
     for (const QChar c : text) {
-        if (!c.isSpace()) {
-            rest.append(c.unicode());
-        }
+        *end = c.unicode();
+        end += c.isSpace() ? 0 : 1;
     }
+    rest.resize(end - rest.begin());
     return rest;
 }
 

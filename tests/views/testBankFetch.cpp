@@ -242,6 +242,26 @@ private Q_SLOTS:
         QVERIFY2(line.Notes.constFirst().startsWith(u"Ab dem 06.03.2026 fehlen"), qPrintable(line.Notes.constFirst()));
     }
 
+    // Two purchases that the bank tells in the same words: the balance shows that one is missing, it can be taken from
+    // the list, and the next fetch knows both.
+    void NamesRepetitions()
+    {
+        cScene scene;
+        cBankMonth month = cBankMonth::Example();
+        scene.AnswerMt940(u"0001234567"_s, month.Part(QDate(2026, 3, 1), QDate(2026, 3, 5)));
+        QVERIFY(scene.Fetch.Run({{0}, {}, {}}, scene.Progress));
+        month.Bookings.insert(5, month.Bookings.at(4));
+        scene.AnswerMt940(u"0001234567"_s, month.Part(QDate(2026, 3, 9), QDate(2026, 3, 31)));
+        QVERIFY(scene.Fetch.Run({{0}, {}, {}}, scene.Progress));
+        const cBankFetch::cLine& line = scene.Fetch.Lines().at(0);
+        QCOMPARE(QList({line.New, line.Known}), QList({3, 1}));
+        QVERIFY2(line.Notes.value(0).contains(u"Hat die Bank ihn zweimal"), qPrintable(line.Notes.value(0)));
+        scene.Files.StageLeftOut({0});
+        QVERIFY(scene.Fetch.Run({{0}, {}, {}}, scene.Progress));
+        QCOMPARE(scene.Fetch.Lines().at(0).Notes, QStringList());
+        QCOMPARE(QList({line.New, line.Known}), QList({0, 4}));
+    }
+
     // What was held back stands in the list of the review, with its reason.
     void ListsWhatWasHeldBack()
     {

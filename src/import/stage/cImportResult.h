@@ -12,7 +12,8 @@
 // What became of a statement file.
 struct cImportResult
 {
-    QString File;   // path as given
+    QString File; // path as given; of a fetch, the name of the account
+    bool IsFetched = false;
     QString Format; // display name
     int Read = 0;   // transactions in the file
     int Staged = 0;

@@ -201,6 +201,7 @@ cImportResult Cancelled(const cImportResult& result)
 {
     cImportResult cancelled;
     cancelled.File = result.File;
+    cancelled.IsFetched = result.IsFetched;
     cancelled.Format = result.Format;
     cancelled.IsCancelled = true;
     return cancelled;
@@ -381,6 +382,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     time.start();
     cImportResult result;
     result.File = fetched.Name;
+    result.IsFetched = true;
     if (const QString reason = WhyNot(eStatementFormat::Mt940, options); !reason.isEmpty()) {
         return Refuse(std::move(result), reason);
     }

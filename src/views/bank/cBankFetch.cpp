@@ -9,6 +9,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "core/cSettings.h"
 #include "fints/cBankLog.h"
 #include "fints/HBCIBusiness.h"
 #include "fints/modBankParameters.h"
@@ -392,13 +393,20 @@ void cBankFetch::Stage(cRun& run, cProgress& progress)
         return;
     }
     Q_EMIT StepShown(cText::Tr("Die Umsätze werden übernommen …"));
-    m_files.TakeFetched(run.Statements, progress, [&](qsizetype place, const cImportResult& result) {
-        NoteTaken(run.Came[static_cast<std::size_t>(place)], result);
-    });
+    const bool isKept =
+        m_files.TakeFetched(run.Statements, progress, [&](qsizetype place, const cImportResult& result) {
+            NoteTaken(run.Came[static_cast<std::size_t>(place)], result);
+        });
     for (const cCame& came : run.Came) {
         if (m_lines.at(came.Place).State == eState::Came) {
             Fail(came.Place, Cancelled()); // one before it was stopped
+        } else if (!isKept) {
+            m_lines[came.Place].New = 0;
+            Fail(came.Place, {eBankFault::Other, cText::Tr("Die Datenbank hat die Umsätze nicht angenommen."), {}});
         }
+    }
+    if (!isKept) {
+        m_tools.Settings.Reload(); // what was noted with the rows is gone with them
     }
 }
 

@@ -161,12 +161,13 @@ void cStatementFiles::End(const cRun& run)
     Q_EMIT RowsStaged(run.Rows);
 }
 
-void cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress, const fnTaken& taken)
+bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress, const fnTaken& taken)
 {
+    bool isKept = false;
     {
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
-        const cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
+        cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
         cRun run{progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, {}, {}, {}, {}, {}};
         Begin();
         for (qsizetype place = 0; place < statements.size(); ++place) {
@@ -181,8 +182,10 @@ void cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
             }
         }
         End(run);
+        isKept = step.Done();
     }
     ImportFiles({}, progress); // those that were dropped meanwhile
+    return isKept;
 }
 
 // Under whatever number an account tells its bookings, they are those of the account that was asked for.

@@ -45,9 +45,11 @@ public:
     void ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist = eAssist::WhereNeeded);
 
     // Takes what an online fetch brought, an account like a file, all of it as one step. Only numbers whose account of
-    // the book is not known are asked about. `taken` is told within the step what came of each, by its place.
+    // the book is not known are asked about. `taken` is told within the step what came of each, by its place. False
+    // when the database did not take the step, of which the user has been told.
     using fnTaken = std::function<void(qsizetype place, const cImportResult& result)>;
-    void TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress, const fnTaken& taken);
+    [[nodiscard]] bool TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress,
+                                   const fnTaken& taken);
 
     // Reads the last files once more with the assistant. What they brought and is still open goes, in the same step.
     [[nodiscard]] bool CanReadAgain() const;

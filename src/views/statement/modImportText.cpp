@@ -55,7 +55,7 @@ QString modImportText::Problem(const cReadProblem& problem)
 
 QStringList modImportText::Summary(const cImportResult& result, const cAmountFormat& format)
 {
-    const QString name = QFileInfo(result.File).fileName();
+    const QString name = result.IsFetched ? result.File : QFileInfo(result.File).fileName();
     if (result.IsRefused) {
         return {cText::Tr("{0}: nicht eingelesen. {1}", {name, result.Message})};
     }
