@@ -22,7 +22,10 @@ public:
         " ImportCurrency TEXT, ImportAssigned TEXT, ImportAssignedEntry TEXT);"
         "INSERT INTO template (TemplateType, TemplateName) VALUES ('Konto', 'Girokonto');";
 
-    [[nodiscard]] QString Path(const QString& name = QStringLiteral("data.db")) { return m_folder.filePath(name); }
+    [[nodiscard]] QString Path(const QString& name = QStringLiteral("data.db")) const
+    {
+        return m_folder.filePath(name);
+    }
     [[nodiscard]] QString Folder() const { return m_folder.path(); }
 
     // Runs statements on a file, which is made when missing.
