@@ -14,6 +14,7 @@ namespace {
 constexpr int Rows = 20000;
 
 enum eJournal : int { Without, With };
+enum eWrite : int { Add, Change, Delete };
 
 cEntryItem Entry(int number)
 {
@@ -29,9 +30,34 @@ cEntryItem Entry(int number)
     return entry;
 }
 
-// Adds, changes and deletes the rows.
+bool Write(cDataAccess& data, eWrite what, int number)
+{
+    cEntryItem entry = Entry(number);
+    entry.ID = number + 1; // of a new book
+    entry.EntryValue += 1;
+    switch (what) {
+    case Add: return data.AddNewEntry(entry);
+    case Change: return data.ChangeEntry(entry);
+    case Delete: return data.DeleteEntry(entry.ID);
+    }
+    return false;
+}
+
+void WriteAll(cDataAccess& data, eWrite what)
+{
+    cUndoStep step(data, u"Schritt"_s);
+    bool isWritten = true;
+    for (int i = 0; i < Rows && isWritten; ++i) {
+        isWritten = Write(data, what, i);
+    }
+    if (!step.DoneIf(isWritten)) {
+        qFatal("the rows were not written");
+    }
+}
+
 void WriteInOneStep(benchmark::State& state)
 {
+    const auto what = static_cast<eWrite>(state.range(1));
     for (auto _ : state) {
         state.PauseTiming();
         cBenchBook book(0);
@@ -39,20 +65,17 @@ void WriteInOneStep(benchmark::State& state)
         if (state.range(0) == Without) {
             book.Book().Database().WatchRows({});
         }
+        if (what != Add) {
+            WriteAll(data, Add);
+        }
         state.ResumeTiming();
-        cUndoStep step(data, u"Schritt"_s);
-        bool isWritten = true;
-        for (int i = 0; i < Rows; ++i) {
-            cEntryItem entry = Entry(i);
-            isWritten = isWritten && data.AddNewEntry(entry);
-            entry.EntryValue += 1;
-            isWritten = isWritten && data.ChangeEntry(entry) && (i % 2 == 0 || data.DeleteEntry(entry.ID));
-        }
-        if (!step.DoneIf(isWritten)) {
-            qFatal("the rows were not written");
-        }
+        WriteAll(data, what);
     }
 }
-BENCHMARK(WriteInOneStep)->ArgName("journal")->Arg(Without)->Arg(With)->Repetitions(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteInOneStep)
+    ->ArgNames({"journal", "write"})
+    ->ArgsProduct({{Without, With}, {Add, Change, Delete}})
+    ->Iterations(5)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
