@@ -50,7 +50,7 @@ QString cBackup::TryMake(const QString& target)
         problem = CannotWrite(target);
     }
     if (!problem.isEmpty()) {
-        QFile::remove(working);
+        modBookFile::Remove(working);
     }
     return problem;
 }
@@ -98,7 +98,7 @@ cBackup::cRestored cBackup::TryRestore(const QString& path, const QString& backu
         }
         restored.Problem = CannotWrite(path);
     }
-    QFile::remove(working);
+    modBookFile::Remove(working);
     return restored;
 }
 

@@ -400,6 +400,7 @@ void cDatabase::BackupTo(const QString& path)
             }
         });
     } catch (...) {
+        QFile::remove(path + QStringLiteral("-journal")); // which stays where the disk was full
         QFile::remove(path);
         throw;
     }

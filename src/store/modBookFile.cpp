@@ -89,15 +89,6 @@ QStringList Matching(const QString& folder, const QString& names)
     return found;
 }
 
-// The file last: what goes with it is found by its name.
-void Remove(const QString& path)
-{
-    for (const QString& companion : companions) {
-        QFile::remove(path + companion);
-    }
-    QFile::remove(path);
-}
-
 void ReadEntries(cDatabase& database, modBookFile::cContent& content)
 {
     cRows rows(database, "SELECT COUNT(*), MAX(date(EntryDate)) FROM data");
@@ -177,6 +168,15 @@ QString modBookFile::WorkingName(const QString& path)
         name = path + working + QString::number(number);
     }
     return name;
+}
+
+// The file last: what goes with it is found by its name.
+void modBookFile::Remove(const QString& path)
+{
+    for (const QString& companion : companions) {
+        QFile::remove(path + companion);
+    }
+    QFile::remove(path);
 }
 
 bool modBookFile::MoveOver(const QString& from, const QString& to)

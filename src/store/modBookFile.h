@@ -43,6 +43,9 @@ struct cContent
 // The name for a file that is made beside `path` and takes its place when it is whole; free. See Leftovers.
 [[nodiscard]] QString WorkingName(const QString& path);
 
+// Removes a file with what SQLite keeps beside it.
+void Remove(const QString& path);
+
 // Gives a file another name in one move, also where a file of that name exists. False on failure.
 [[nodiscard]] bool MoveOver(const QString& from, const QString& to);
 

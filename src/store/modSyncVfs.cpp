@@ -1,6 +1,6 @@
 #include "store/modSyncVfs.h"
 
-#include <sqlite3.h>
+#include "store/cVfsLayer.h"
 
 #include <algorithm>
 #include <array>
@@ -36,18 +36,19 @@ struct cSyncFile
 
 constexpr std::string_view journalEnding = "-journal";
 
-sqlite3_vfs* below = nullptr;
+using cLayer = cVfsLayer<cSyncFile>;
+
 std::recursive_mutex openGuard; // connections may belong to several threads
 std::vector<cSyncFile*> openFiles;
 
 cSyncFile& Of(sqlite3_file* file)
 {
-    return *reinterpret_cast<cSyncFile*>(file); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+    return cLayer::Of(file);
 }
 
 sqlite3_file* Real(sqlite3_file* file)
 {
-    return reinterpret_cast<sqlite3_file*>(&Of(file) + 1); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+    return cLayer::Real(file);
 }
 
 int SyncFile(sqlite3_file* file)
@@ -125,8 +126,7 @@ int Close(sqlite3_file* file)
     const std::lock_guard lock(openGuard);
     openFiles.erase(std::remove(openFiles.begin(), openFiles.end(), &Of(file)), openFiles.end());
     const int synced = Of(file).Kind == eKind::Book && Of(file).IsUnsynced ? SyncFile(file) : SQLITE_OK;
-    const int closed = Real(file)->pMethods->xClose(Real(file));
-    file->pMethods = nullptr;
+    const int closed = cLayer::Close(file);
     return synced != SQLITE_OK ? synced : closed;
 }
 
@@ -192,81 +192,15 @@ int Sync(sqlite3_file* file, int flags)
     return Real(file)->pMethods->xSync(Real(file), flags);
 }
 
-int FileSize(sqlite3_file* file, sqlite3_int64* size)
-{
-    return Real(file)->pMethods->xFileSize(Real(file), size);
-}
-
-int Lock(sqlite3_file* file, int level)
-{
-    return Real(file)->pMethods->xLock(Real(file), level);
-}
-
-int Unlock(sqlite3_file* file, int level)
-{
-    return Real(file)->pMethods->xUnlock(Real(file), level);
-}
-
-int CheckReservedLock(sqlite3_file* file, int* isReserved)
-{
-    return Real(file)->pMethods->xCheckReservedLock(Real(file), isReserved);
-}
-
-int FileControl(sqlite3_file* file, int operation, void* argument)
-{
-    return Real(file)->pMethods->xFileControl(Real(file), operation, argument);
-}
-
-int SectorSize(sqlite3_file* file)
-{
-    return Real(file)->pMethods->xSectorSize(Real(file));
-}
-
-int DeviceCharacteristics(sqlite3_file* file)
-{
-    return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
-}
-
-int ShmMap(sqlite3_file* file, int page, int size, int isExtended, void volatile** memory)
-{
-    return Real(file)->pMethods->xShmMap(Real(file), page, size, isExtended, memory);
-}
-
-int ShmLock(sqlite3_file* file, int offset, int count, int flags)
-{
-    return Real(file)->pMethods->xShmLock(Real(file), offset, count, flags);
-}
-
-void ShmBarrier(sqlite3_file* file)
-{
-    Real(file)->pMethods->xShmBarrier(Real(file));
-}
-
-int ShmUnmap(sqlite3_file* file, int isDeleted)
-{
-    return Real(file)->pMethods->xShmUnmap(Real(file), isDeleted);
-}
-
-// The second version of the interface: without memory mapping, which would write past this layer.
-constexpr sqlite3_io_methods methods{2,
-                                     Close,
-                                     Read,
-                                     Write,
-                                     Truncate,
-                                     Sync,
-                                     FileSize,
-                                     Lock,
-                                     Unlock,
-                                     CheckReservedLock,
-                                     FileControl,
-                                     SectorSize,
-                                     DeviceCharacteristics,
-                                     ShmMap,
-                                     ShmLock,
-                                     ShmBarrier,
-                                     ShmUnmap,
-                                     nullptr,
-                                     nullptr};
+const sqlite3_io_methods methods = [] {
+    sqlite3_io_methods all = cLayer::Methods();
+    all.xClose = Close;
+    all.xRead = Read;
+    all.xWrite = Write;
+    all.xTruncate = Truncate;
+    all.xSync = Sync;
+    return all;
+}();
 
 eKind KindOf(int flags)
 {
@@ -280,7 +214,7 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
 {
     cSyncFile& opened = Of(file);
     opened = {{nullptr}, name == nullptr ? eKind::Other : KindOf(flags), false, false, name, {}, 0, 0};
-    const int result = below->xOpen(below, name, Real(file), flags, outFlags);
+    const int result = cLayer::Below()->xOpen(cLayer::Below(), name, Real(file), flags, outFlags);
     if (Real(file)->pMethods == nullptr) {
         return result;
     }
@@ -294,6 +228,7 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
 
 int Delete(sqlite3_vfs*, const char* name, int isDirectorySynced)
 {
+    sqlite3_vfs* below = cLayer::Below();
     const std::string_view path(name);
     const bool isJournal =
         path.size() > journalEnding.size() && path.substr(path.size() - journalEnding.size()) == journalEnding;
@@ -304,33 +239,13 @@ int Delete(sqlite3_vfs*, const char* name, int isDirectorySynced)
     return result == SQLITE_OK ? below->xDelete(below, name, 1) : result;
 }
 
-// Everything else goes on to the system's own functions, which ask for themselves.
-template <auto tMember, typename... tArguments>
-auto PassOn(sqlite3_vfs*, tArguments... arguments)
-{
-    return (below->*tMember)(below, arguments...);
-}
-
 } // namespace
 
 const char* modSyncVfs::Name()
 {
     static sqlite3_vfs vfs = [] {
-        below = sqlite3_vfs_find(nullptr);
-        sqlite3_vfs layer = *below;
-        layer.iVersion = std::min(below->iVersion, 2);
-        layer.szOsFile = static_cast<int>(sizeof(cSyncFile)) + below->szOsFile;
-        layer.pNext = nullptr;
-        layer.zName = "kontorelle-sync";
-        layer.xOpen = Open;
+        sqlite3_vfs layer = cLayer::Over("kontorelle-sync", Open);
         layer.xDelete = Delete;
-        layer.xAccess = PassOn<&sqlite3_vfs::xAccess>;
-        layer.xFullPathname = PassOn<&sqlite3_vfs::xFullPathname>;
-        layer.xRandomness = PassOn<&sqlite3_vfs::xRandomness>;
-        layer.xSleep = PassOn<&sqlite3_vfs::xSleep>;
-        layer.xCurrentTime = PassOn<&sqlite3_vfs::xCurrentTime>;
-        layer.xGetLastError = PassOn<&sqlite3_vfs::xGetLastError>;
-        layer.xCurrentTimeInt64 = PassOn<&sqlite3_vfs::xCurrentTimeInt64>;
         return layer;
     }();
     static const int registered = sqlite3_vfs_register(&vfs, 0);

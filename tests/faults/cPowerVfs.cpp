@@ -1,6 +1,6 @@
 #include "faults/cPowerVfs.h"
 
-#include <sqlite3.h>
+#include "store/cVfsLayer.h"
 
 #include <algorithm>
 
@@ -14,18 +14,19 @@ struct cLoggedFile
     const char* Name;  // null: not written down
 };
 
-sqlite3_vfs* below = nullptr;
+using cLayer = cVfsLayer<cLoggedFile>;
+
 std::vector<cDiskCall> calls;
 bool isWritingDown = false;
 
 cLoggedFile& Of(sqlite3_file* file)
 {
-    return *reinterpret_cast<cLoggedFile*>(file); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+    return cLayer::Of(file);
 }
 
 sqlite3_file* Real(sqlite3_file* file)
 {
-    return reinterpret_cast<sqlite3_file*>(&Of(file) + 1); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+    return cLayer::Real(file);
 }
 
 void Note(cDiskCall::eKind kind, const char* name, qint64 offset = 0, const QByteArray& bytes = {},
@@ -34,18 +35,6 @@ void Note(cDiskCall::eKind kind, const char* name, qint64 offset = 0, const QByt
     if (isWritingDown && name != nullptr) {
         calls.push_back({kind, QString::fromUtf8(name), offset, bytes, isSynced});
     }
-}
-
-int Close(sqlite3_file* file)
-{
-    const int result = Real(file)->pMethods->xClose(Real(file));
-    file->pMethods = nullptr;
-    return result;
-}
-
-int Read(sqlite3_file* file, void* to, int amount, sqlite3_int64 offset)
-{
-    return Real(file)->pMethods->xRead(Real(file), to, amount, offset);
 }
 
 int Write(sqlite3_file* file, const void* from, int amount, sqlite3_int64 offset)
@@ -66,63 +55,19 @@ int Sync(sqlite3_file* file, int)
     return SQLITE_OK; // the real disk need not wait
 }
 
-int FileSize(sqlite3_file* file, sqlite3_int64* size)
-{
-    return Real(file)->pMethods->xFileSize(Real(file), size);
-}
-
-int Lock(sqlite3_file* file, int level)
-{
-    return Real(file)->pMethods->xLock(Real(file), level);
-}
-
-int Unlock(sqlite3_file* file, int level)
-{
-    return Real(file)->pMethods->xUnlock(Real(file), level);
-}
-
-int CheckReservedLock(sqlite3_file* file, int* isReserved)
-{
-    return Real(file)->pMethods->xCheckReservedLock(Real(file), isReserved);
-}
-
-int FileControl(sqlite3_file* file, int operation, void* argument)
-{
-    return Real(file)->pMethods->xFileControl(Real(file), operation, argument);
-}
-
-int SectorSize(sqlite3_file* file)
-{
-    return Real(file)->pMethods->xSectorSize(Real(file));
-}
-
-int DeviceCharacteristics(sqlite3_file* file)
-{
-    return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
-}
-
 const sqlite3_io_methods methods = [] {
-    sqlite3_io_methods all{};
-    all.iVersion = 1;
-    all.xClose = Close;
-    all.xRead = Read;
+    sqlite3_io_methods all = cLayer::Methods();
+    all.iVersion = 1; // no memory shared between processes, which would not be written down
     all.xWrite = Write;
     all.xTruncate = Truncate;
     all.xSync = Sync;
-    all.xFileSize = FileSize;
-    all.xLock = Lock;
-    all.xUnlock = Unlock;
-    all.xCheckReservedLock = CheckReservedLock;
-    all.xFileControl = FileControl;
-    all.xSectorSize = SectorSize;
-    all.xDeviceCharacteristics = DeviceCharacteristics;
     return all;
 }();
 
 bool IsThere(const char* name)
 {
     int isThere = 0;
-    return below->xAccess(below, name, SQLITE_ACCESS_EXISTS, &isThere) == SQLITE_OK && isThere != 0;
+    return cLayer::Below()->xAccess(cLayer::Below(), name, SQLITE_ACCESS_EXISTS, &isThere) == SQLITE_OK && isThere != 0;
 }
 
 int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags)
@@ -130,7 +75,7 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
     const bool isBook = (flags & (SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_MAIN_JOURNAL)) != 0;
     Of(file) = {{nullptr}, isBook ? name : nullptr};
     const bool isNew = isBook && name != nullptr && !IsThere(name);
-    const int result = below->xOpen(below, name, Real(file), flags, outFlags);
+    const int result = cLayer::Below()->xOpen(cLayer::Below(), name, Real(file), flags, outFlags);
     if (Real(file)->pMethods == nullptr) {
         return result;
     }
@@ -144,13 +89,7 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
 int Delete(sqlite3_vfs*, const char* name, int isFolderSynced)
 {
     Note(cDiskCall::eKind::Remove, name, 0, {}, isFolderSynced != 0);
-    return below->xDelete(below, name, 0);
-}
-
-template <auto tMember, typename... tArguments>
-auto PassOn(sqlite3_vfs*, tArguments... arguments)
-{
-    return (below->*tMember)(below, arguments...);
+    return cLayer::Below()->xDelete(cLayer::Below(), name, 0);
 }
 
 void Apply(const cDiskCall& call, QByteArray& content, qsizetype part)
@@ -171,21 +110,8 @@ void Apply(const cDiskCall& call, QByteArray& content, qsizetype part)
 void modPowerVfs::Install()
 {
     static sqlite3_vfs vfs = [] {
-        below = sqlite3_vfs_find(nullptr);
-        sqlite3_vfs layer = *below;
-        layer.iVersion = 2;
-        layer.szOsFile = static_cast<int>(sizeof(cLoggedFile)) + below->szOsFile;
-        layer.pNext = nullptr;
-        layer.zName = "power";
-        layer.xOpen = Open;
+        sqlite3_vfs layer = cLayer::Over("power", Open);
         layer.xDelete = Delete;
-        layer.xAccess = PassOn<&sqlite3_vfs::xAccess>;
-        layer.xFullPathname = PassOn<&sqlite3_vfs::xFullPathname>;
-        layer.xRandomness = PassOn<&sqlite3_vfs::xRandomness>;
-        layer.xSleep = PassOn<&sqlite3_vfs::xSleep>;
-        layer.xCurrentTime = PassOn<&sqlite3_vfs::xCurrentTime>;
-        layer.xGetLastError = PassOn<&sqlite3_vfs::xGetLastError>;
-        layer.xCurrentTimeInt64 = PassOn<&sqlite3_vfs::xCurrentTimeInt64>;
         return layer;
     }();
     sqlite3_vfs_register(&vfs, 1);

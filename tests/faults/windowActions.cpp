@@ -41,8 +41,9 @@ const QString backupName = u"alt.backup"_s;
 class cAgreeingUser final : public cUser
 {
 public:
-    void Show(eTone /*tone*/, const QString& text, const QString& /*title*/) override
+    void Show(eTone tone, const QString& text, const QString& /*title*/) override
     {
+        IsWarned = IsWarned || tone != eTone::Information || text.contains(u"konnte nicht"_s);
         std::fprintf(stderr, "%s\n", qUtf8Printable(text));
     }
     [[nodiscard]] eAnswer Ask(const cQuestion& /*question*/) override { return eAnswer::Yes; }
@@ -63,6 +64,7 @@ public:
     [[nodiscard]] QString ChooseFolder(const QString& /*title*/, const QString& /*current*/) override { return {}; }
 
     bool TakesLast = false; // of several ways
+    bool IsWarned = false;  // that something went wrong
 };
 
 class cAgreeingRescue final : public cRescue
@@ -123,6 +125,8 @@ public:
 private:
     [[nodiscard]] cDataAccess& Data() const { return m_program.Tools().Data; }
     bool Run(modCommand::eId command) { return m_program.Model().Execute(command); }
+
+    [[nodiscard]] bool IsGone(int entry) const { return !Data().LoadEntry(entry) && Data().IsWhole(); }
 
     bool Save()
     {
@@ -185,7 +189,7 @@ private:
         m_user.TakesLast = true;
         m_program.Model().Delete({{rent, NextRent()}});
         m_user.TakesLast = false;
-        return Data().IsWhole() && !Data().LoadEntry(rent);
+        return IsGone(rent);
     }
 
     bool Import()
@@ -213,7 +217,7 @@ private:
         return CountOpen() < before;
     }
 
-    bool Restore() { return Run(modCommand::RestoreBackup) && !Data().LoadEntry(m_saved); }
+    bool Restore() { return Run(modCommand::RestoreBackup) && IsGone(m_saved); }
 
     cMainProgram& m_program;
     cAgreeingUser& m_user;
@@ -245,7 +249,7 @@ int Play(cMainProgram& program, cAgreeingUser& user, const QString& name, bool i
     BeginFaults();
     const bool isDone = action->second.Do();
     QCoreApplication::processEvents();
-    return isDone ? 0 : 1;
+    return isDone && !user.IsWarned ? 0 : 1;
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include "views/list/modUnread.h"
 #include "views/main/modAccountLines.h"
 
+#include <utility>
+
 cAccountListModel::cAccountListModel(const cAmountFormat& format, QObject* parent)
     : QAbstractTableModel(parent),
       m_format(format)
@@ -41,8 +43,14 @@ void cAccountListModel::SetAccounts(const cTemplateItemList& accounts,
 
 void cAccountListModel::SetChosen(const QString& account)
 {
-    m_chosen = account;
-    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    // Only the two lines concerned: a view looks at each of the lines that it is told of.
+    const QString former = std::exchange(m_chosen, account);
+    for (std::size_t i = 0; i < m_rows.size() && former != account; ++i) {
+        if (m_rows[i].Kind == Account && (m_rows[i].Name == former || m_rows[i].Name == account)) {
+            const int row = static_cast<int>(i);
+            Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+        }
+    }
 }
 
 void cAccountListModel::SetWarnings(const QHash<QString, QString>& texts)
