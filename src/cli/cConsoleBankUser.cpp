@@ -69,8 +69,10 @@ std::optional<cSecret> cConsoleBankUser::AskTan(const cTanQuestion& question)
     }
     if (question.Display == eTanDisplay::Flicker) {
         modConsole::Error(cText::Tr("Die Balken für den TAN-Generator lassen sich im Terminal nicht zeigen. Geben Sie "
-                                    "an ihm von Hand ein: {0}",
-                                    {question.ByHand.join(cText::Tr(", dann "))}));
+                                    "an ihm von Hand ein, eins nach dem anderen:"));
+        for (const QString& part : question.ByHand) {
+            modConsole::Error(u"  "_s + part);
+        }
     }
     return ReadTan(question);
 }

@@ -12,6 +12,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+bool IsMosaic(const QString& id)
+{
+    return id.startsWith(u"MA1"_s) || id.startsWith(u"MS1"_s);
+}
+
+bool IsQr(const QString& id)
+{
+    return id == u"QR"_s || (id.startsWith(u'Q') && id.contains(u'S'));
+}
+
 // The name of the procedure by which its display is chosen, in upper case. Most banks write it into the technical
 // identification ("HHD1.3.2OPT", "MS1.0.0", "Q1S"). One that keeps a name of its own there still gives the one that all
 // banks have agreed on ("HHDOPT1" with "1.4", "photoTAN", "QRTAN"), and that is put into the same form.
@@ -19,9 +29,7 @@ QString Identification(const TanVerfahrenItem& method)
 {
     const QString own = method.TechnicalIdentification.toUpper();
     const QString agreed = method.ZkaName.toUpper();
-    const bool isKnown =
-        own.startsWith(u"HHD1"_s) || own.startsWith(u"MA1"_s) || own.startsWith(u"MS1"_s) || own.startsWith(u"Q"_s);
-    if (isKnown) {
+    if (own.startsWith(u"HHD1"_s) || IsMosaic(own) || IsQr(own)) {
         return own;
     }
     if (agreed.startsWith(u"HHD"_s)) {
@@ -40,9 +48,7 @@ eTanDisplay Display(const TanVerfahrenItem& method)
     if (id.startsWith(u"HHD1"_s) && (marks.contains(u"OPT"_s) || marks.contains(u"UC"_s))) {
         return eTanDisplay::Flicker;
     }
-    const bool isMosaic = id.startsWith(u"MA1"_s) || id.startsWith(u"MS1"_s);
-    const bool isQr = id == u"QR"_s || (id.startsWith(u'Q') && id.contains(u'S'));
-    return isMosaic || isQr ? eTanDisplay::Picture : eTanDisplay::Text;
+    return IsMosaic(id) || IsQr(id) ? eTanDisplay::Picture : eTanDisplay::Text;
 }
 
 eHhd Edition(const TanVerfahrenItem& method)

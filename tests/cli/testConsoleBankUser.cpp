@@ -194,7 +194,7 @@ void testConsoleBankUser::TanIsAskedForWithItsChallenge()
     QVERIFY(terminal.WaitFor("TAN-Eingabe:"));
     QVERIFY(terminal.IsSilent());
     QVERIFY(terminal.Seen().contains("Umsatzabfrage[2J\r\nKonto 4711"));
-    QVERIFY(terminal.Seen().contains("von Hand ein: 87151313, dann 1,00"));
+    QVERIFY(terminal.Seen().contains("von Hand ein, eins nach dem anderen:\r\n  87151313\r\n  1,00\r\n"));
     terminal.Type("1234567\n");
     QVERIFY(terminal.WaitFor("Das kann keine TAN sein. Höchstens 6 Ziffern"));
     terminal.Type("123 456\n");

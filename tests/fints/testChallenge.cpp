@@ -96,6 +96,7 @@ void testChallenge::ProcedureChoosesTheDisplay_data()
     row("Q1S/Secoder_UC/1.2.0", picture, eTanDisplay::Picture);
     row("Q1/Secoder_UC/1.2.0", picture, eTanDisplay::Text);
     row("BildTAN/photoTAN/", picture, eTanDisplay::Picture);
+    row("QuickTAN/photoTAN/", picture, eTanDisplay::Picture);
     row("MS1.0.0/photoTAN/", QByteArray("\x00\x40image", 7), eTanDisplay::Text);
     row("smsTAN/mobileTAN/", picture, eTanDisplay::Text);
     row("BestSign/BestSign/", {}, eTanDisplay::Text);

@@ -222,10 +222,11 @@ void testFrmTan::DialsChangeBarsAndAreKept()
     width->setFocus();
     QTest::keyClick(width, Qt::Key_End);
     QVERIFY(bars->width() > before);
-    QCOMPARE(entry.Value(cTanEntry::eDial::FlickerWidth), 90);
     QTest::keyClick(window.findChild<QCheckBox*>(), Qt::Key_Space);
-    QVERIFY(entry.IsTurned());
     QCOMPARE(windowFaults::All(window), QStringList());
+    window.close();
+    QCOMPARE(entry.Value(cTanEntry::eDial::FlickerWidth), 90);
+    QVERIFY(entry.IsTurned());
 }
 
 void testFrmTan::PictureIsShownInItsWidth()
@@ -241,6 +242,7 @@ void testFrmTan::PictureIsShownInItsWidth()
     const int before = picture->sizeHint().width();
     window.findChild<QSlider*>()->setValue(120);
     QVERIFY(picture->sizeHint().width() > before);
+    window.close();
     QCOMPARE(entry.Value(cTanEntry::eDial::PictureWidth), 120);
 }
 

@@ -43,11 +43,12 @@ private:
     const cTanEntry& m_entry;
 };
 
-// Sliders below each other, with their labels in front.
+// Sliders below each other, with their labels in front. Where they were left is kept when the window closes: a write
+// to the book on the way would make the bars stutter.
 class cDials
 {
 public:
-    cDials(cTanEntry& entry, QGridLayout& grid) : m_entry(entry), m_grid(grid) {}
+    cDials(cTanEntry& entry, QDialog& window, QGridLayout& grid) : m_entry(entry), m_window(window), m_grid(grid) {}
 
     void Add(cTanEntry::eDial dial, const std::function<void(int)>& apply)
     {
@@ -64,10 +65,9 @@ public:
             label->setText(cTanEntry::Label(dial, value));
             apply(value);
         };
-        QObject::connect(slider, &QSlider::valueChanged, slider, [&entry = m_entry, dial, show](int value) {
-            entry.SetValue(dial, value);
-            show(value);
-        });
+        QObject::connect(slider, &QSlider::valueChanged, slider, show);
+        QObject::connect(&m_window, &QDialog::finished, slider,
+                         [&entry = m_entry, dial, slider] { entry.SetValue(dial, slider->value()); });
         show(slider->value());
         const int row = m_grid.rowCount();
         m_grid.addWidget(label, row, 0);
@@ -76,6 +76,7 @@ public:
 
 private:
     cTanEntry& m_entry;
+    QDialog& m_window;
     QGridLayout& m_grid;
 };
 
@@ -128,7 +129,7 @@ void frmTan::BuildFlicker(cTanEntry& entry, QBoxLayout& layout)
     auto* bars = new cFlickerView(entry.Question().Flicker);
     layout.addWidget(bars, 0, Qt::AlignHCenter);
     auto* grid = new QGridLayout;
-    cDials dials(entry, *grid);
+    cDials dials(entry, *this, *grid);
     dials.Add(cTanEntry::eDial::FlickerWidth, [this, bars](int value) {
         bars->SetWidth(value);
         Grow();
@@ -155,7 +156,7 @@ void frmTan::BuildPicture(cTanEntry& entry, QBoxLayout& layout)
     }
     layout.addWidget(picture, 1);
     auto* grid = new QGridLayout;
-    cDials(entry, *grid).Add(cTanEntry::eDial::PictureWidth, [this, picture](int value) {
+    cDials(entry, *this, *grid).Add(cTanEntry::eDial::PictureWidth, [this, picture](int value) {
         picture->SetWidth(value);
         Grow();
     });

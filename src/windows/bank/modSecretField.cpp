@@ -5,7 +5,6 @@
 void modSecretField::Prepare(QLineEdit& field)
 {
     field.setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-    field.setContextMenuPolicy(field.echoMode() == QLineEdit::Password ? Qt::NoContextMenu : Qt::DefaultContextMenu);
 }
 
 void modSecretField::Clear(QLineEdit& field)

@@ -7,7 +7,7 @@ class QLineEdit;
 // Fields into which a PIN or a TAN is typed.
 namespace modSecretField {
 
-// Keeps what the field holds out of its memory of earlier texts and of the input method's dictionary.
+// Keeps what is typed out of the dictionaries of input methods.
 void Prepare(QLineEdit& field);
 
 // Empties the field; what it held is overwritten.
