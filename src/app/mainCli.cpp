@@ -6,6 +6,7 @@
 #include "app/modLocale.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliMain.h"
+#include "net/cQtHttps.h"
 
 #include <QApplication>
 
