@@ -9,6 +9,24 @@
 #include <QLabel>
 #include <QLineEdit>
 
+namespace {
+
+// The bank's word with a letter for the keyboard, which must not be one of the other fields and buttons.
+QString WithMnemonic(const QString& label)
+{
+    const QString taken = QStringLiteral("zwpij");
+    QString text = QString(label).replace(u'&', QStringLiteral("&&"));
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        if (text.at(place).isLetter() && !taken.contains(text.at(place), Qt::CaseInsensitive)) {
+            text.insert(place, u'&');
+            break;
+        }
+    }
+    return text + u':';
+}
+
+} // namespace
+
 cBankLoginPage::cBankLoginPage(cBankSetup& setup, QWidget* parent)
     : cBankPage(parent),
       m_setup(setup),
@@ -48,8 +66,7 @@ void cBankLoginPage::Enter()
 {
     const QString label = m_setup.LoginLabel();
     m_bank->setText(m_setup.BankText());
-    m_userLabel->setText(label.isEmpty() ? cText::Tr("&Anmeldename oder Legitimations-ID:")
-                                         : u'&' + QString(label).replace(u'&', QStringLiteral("&&")) + u':');
+    m_userLabel->setText(label.isEmpty() ? cText::Tr("&Anmeldename oder Legitimations-ID:") : WithMnemonic(label));
     m_user->setText(m_setup.State().UserId);
     m_user->setReadOnly(!m_setup.IsNew());
     m_product->setText(m_setup.ProductId());

@@ -1,0 +1,146 @@
+#include "app/cFileLock.h"
+#include "app/cQtRegistry.h"
+#include "app/cQtShell.h"
+#include "cli/cCliPaint.h"
+#include "cli/modCliCommands.h"
+#include "cli/modCliMain.h"
+#include "core/cBook.h"
+#include "support/testBook.h"
+#include "testbank/cTestBank.h"
+#include "testbank/cTestHttps.h"
+#include "views/bank/cBankListModel.h"
+#include "views/book/cBookAccess.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <unistd.h>
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class cNoPaint final : public cCliPaint
+{
+public:
+    QByteArray PaintReport(const QString& /*html*/) override { return {}; }
+    QByteArray PaintChart(const cChartData& /*chart*/, ePicture /*picture*/) override { return {}; }
+};
+
+// The program in this process, with a bank instead of the network; the PIN comes from an open file.
+struct cScene
+{
+    explicit cScene()
+    {
+        Bank.Profile.Methods = {{.Function = "912"}, {.Function = "913", .Name = "SMS", .MediumRequired = "2"}};
+        Bank.Profile.Media = {"Handy", "Tablet"};
+        Bank.Profile.Accounts = {{.Number = "111", .Iban = "DE11", .Product = "Giro Komfort"},
+                                 {.Number = "222", .Iban = "DE22", .Product = "Tagesgeld"}};
+    }
+
+    // `line` has "|" between its arguments.
+    int Run(const QString& line)
+    {
+        std::array<int, 2> ends{};
+        const QByteArray pin = Bank.Profile.Pin + '\n';
+        if (pipe(ends.data()) != 0 || write(ends[1], pin.constData(), static_cast<size_t>(pin.size())) != pin.size()) {
+            qFatal("no pipe");
+        }
+        close(ends[1]);
+        QStringList arguments{u"--profile"_s, Folder.path()};
+        arguments += line.split(u'|');
+        if (line.startsWith(u"banks|add") || line.startsWith(u"banks|methods")) {
+            arguments << u"--pin-fd"_s << QString::number(ends[0]);
+        }
+        cFileLock lock;
+        const int code = modCliMain::Run(arguments, {Shell, Registry, Clock, lock, Paint, Https, u"1.0.0"_s});
+        close(ends[0]);
+        return code;
+    }
+
+    // What the book has: "222 in Notgroschen by 913 Tablet"
+    QStringList Logins()
+    {
+        cFakeUser user;
+        cBook book(user);
+        if (!book.OpenForReading(cBookAccess::PathFor({}, Registry, Shell))) {
+            return {u"no book"_s};
+        }
+        cConfiguration configuration(Registry);
+        const cAmountFormat format(configuration);
+        const cBookTools tools{book.Data(), book.Settings(), format, user, Clock};
+        const cBankListModel model(tools);
+        QStringList texts;
+        for (const cBankListModel::cLine& line : model.Lines()) {
+            texts.append(u"%1 in %2 by %3 %4"_s.arg(line.Account.Number, line.BookAccount,
+                                                    line.Bank.Method->SecurityFunction, line.Bank.Medium));
+        }
+        return texts;
+    }
+
+    QTemporaryDir Folder;
+    cQtShell Shell{Folder.path()};
+    cQtRegistry Registry{Folder.path()};
+    cFakeClock Clock;
+    cNoPaint Paint;
+    cTestBank Bank{cBankProfile()};
+    cTestHttps Https{Bank};
+};
+
+const QString login = u"|--blz|12345678|--login|testuser"_s;
+const QString talk = login + u"|--url|https://bank.example/fints|--product|PRODUKTID0123456789012345"_s;
+
+} // namespace
+
+// Bank logins from the command line.
+class testCliBanks final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void SetsUpChangesAndRemoves()
+    {
+        cScene scene;
+        QCOMPARE(scene.Run(u"banks|add"_s + login + u"|--url|https://bank.example/fints"_s), 1); // not registered
+        QCOMPARE(scene.Https.Posts, 0);
+        QCOMPARE(scene.Run(u"banks|methods"_s + talk), 0);
+        QCOMPARE(scene.Run(u"banks|add"_s + talk), 1);                      // which procedure?
+        QCOMPARE(scene.Run(u"banks|add"_s + talk + u"|--method|SMS"_s), 1); // which medium?
+        QCOMPARE(scene.Logins(), QStringList());
+        QCOMPARE(
+            scene.Run(u"banks|add"_s + talk + u"|--method|sms|--medium|Tablet|--account|DE22=Notgroschen|--json"_s), 0);
+        QCOMPARE(scene.Logins(), QStringList(u"222 in Notgroschen by 913 Tablet"_s));
+        // What the book knows by now need not be said again.
+        QCOMPARE(scene.Run(u"banks|add"_s + login + u"|--method|912|--account|111=Girokonto|--account|222"_s), 0);
+        QCOMPARE(scene.Logins(), QStringList({u"222 in Notgroschen by 912 "_s, u"111 in Girokonto by 912 "_s}));
+        QCOMPARE(scene.Run(u"banks|add"_s + login + u"|--account|333=Girokonto"_s), 1); // there is no such account
+        QCOMPARE(scene.Run(u"banks|--json"_s), 0);
+        QCOMPARE(scene.Run(u"banks|remove"_s + login), 1); // nobody said yes
+        QCOMPARE(scene.Run(u"banks|remove|--blz|12345678|--login|other|--yes"_s), 1);
+        QCOMPARE(scene.Logins().size(), 2);
+        QCOMPARE(scene.Run(u"banks|remove"_s + login + u"|--yes"_s), 0);
+        QCOMPARE(scene.Logins(), QStringList());
+        QVERIFY(scene.Bank.IsQuiet());
+    }
+
+    void RefusesACallThatSaysTooLittle_data()
+    {
+        QTest::addColumn<QString>("Line");
+        QTest::newRow("no login") << u"banks|add|--blz|12345678"_s;
+        QTest::newRow("no bank") << u"banks|methods|--login|testuser"_s;
+        QTest::newRow("bank is no code") << u"banks|add|--blz|sparkasse|--login|testuser"_s;
+        QTest::newRow("protocol") << u"banks|add|--hbci|2.1"_s + login;
+    }
+
+    void RefusesACallThatSaysTooLittle()
+    {
+        QFETCH(QString, Line);
+        cScene scene;
+        QCOMPARE(scene.Run(Line), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(testCliBanks)
+#include "testCliBanks.moc"
