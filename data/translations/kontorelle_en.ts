@@ -542,10 +542,6 @@ Which account do its transactions belong to?</translation>
         <translation>Not specified</translation>
     </message>
     <message>
-        <source>Sonstiges; {0}</source>
-        <translation>Miscellaneous; {0}</translation>
-    </message>
-    <message>
         <source>Manuelle Korrektur vom {0}</source>
         <translation>Manual correction dated {0}</translation>
     </message>
@@ -6310,6 +6306,974 @@ They are not executed. If you have not made them yourself, please check where th
     <message>
         <source>Ihr Inhalt konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger voll, auf dem das System Zwischendateien ablegt.</source>
         <translation>Its content could not be put together. Maybe the disk is full on which the system keeps temporary files.</translation>
+    </message>
+    <message>
+        <source>PIN (wird nicht angezeigt):</source>
+        <translation>PIN (not shown):</translation>
+    </message>
+    <message>
+        <source>Die PIN lässt sich nur an einem Terminal eingeben. Sonst nennen Sie mit --pin-fd die Nummer einer geöffneten Datei, in der sie als Zeile steht.</source>
+        <translation>The PIN can be typed at a terminal only. Otherwise name the number of an open file that has it as a line with --pin-fd.</translation>
+    </message>
+    <message>
+        <source>In der Datei von --pin-fd steht keine weitere PIN.</source>
+        <translation>There is no further PIN in the file of --pin-fd.</translation>
+    </message>
+    <message>
+        <source>Die Balken für den TAN-Generator lassen sich im Terminal nicht zeigen. Geben Sie an ihm von Hand ein, eins nach dem anderen:</source>
+        <translation>The bars for the TAN generator cannot be shown in a terminal. Type into it by hand, one after the other:</translation>
+    </message>
+    <message>
+        <source>Die TAN lässt sich nur an einem Terminal eingeben. Sonst nennen Sie mit --tan-fd die Nummer einer geöffneten Datei, in der sie als Zeile steht.</source>
+        <translation>The TAN can be typed at a terminal only. Otherwise name the number of an open file that has it as a line with --tan-fd.</translation>
+    </message>
+    <message>
+        <source>In der Datei von --tan-fd steht keine weitere TAN.</source>
+        <translation>There is no further TAN in the file of --tan-fd.</translation>
+    </message>
+    <message>
+        <source>Das kann keine TAN sein. {0}</source>
+        <translation>That cannot be a TAN. {0}</translation>
+    </message>
+    <message>
+        <source>Für diese TAN schickt die Bank ein Bild. Nennen Sie mit --tan-image die Datei, in die es geschrieben werden soll.</source>
+        <translation>For this TAN the bank sends a picture. Name the file that it is to be written to with --tan-image.</translation>
+    </message>
+    <message>
+        <source>Das Bild für die TAN steht in der Datei {0} ({1}).</source>
+        <translation>The picture for the TAN is in the file {0} ({1}).</translation>
+    </message>
+    <message>
+        <source>Warten auf die Freigabe…</source>
+        <translation>Waiting for the approval…</translation>
+    </message>
+    <message>
+        <source>Diese Bank erlaubt keine selbsttätige Abfrage der Freigabe. Starten Sie den Befehl bitte an einem Terminal.</source>
+        <translation>This bank does not allow asking for the approval automatically. Please start the command at a terminal.</translation>
+    </message>
+    <message>
+        <source>Drücken Sie die Eingabetaste, sobald Sie freigegeben haben.</source>
+        <translation>Press Enter once you have approved.</translation>
+    </message>
+    <message>
+        <source>BLZ</source>
+        <translation>Bank code</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>Bank</translation>
+    </message>
+    <message>
+        <source>Anmeldename</source>
+        <translation>Login</translation>
+    </message>
+    <message>
+        <source>Konto der Bank</source>
+        <translation>Bank account</translation>
+    </message>
+    <message>
+        <source>Konto im Buch</source>
+        <translation>Account in the book</translation>
+    </message>
+    <message>
+        <source>Zuletzt abgerufen</source>
+        <translation>Last fetched</translation>
+    </message>
+    <message>
+        <source>TAN-Verfahren</source>
+        <translation>TAN procedure</translation>
+    </message>
+    <message>
+        <source>Die Bank schreibt:
+{0}</source>
+        <translation>The bank says:
+{0}</translation>
+    </message>
+    <message>
+        <source>Nötig sind --blz mit einer Bankleitzahl und --login.</source>
+        <translation>--blz with a bank code and --login are needed.</translation>
+    </message>
+    <message>
+        <source>Mit --hbci sind 2.2 und 3.0 möglich.</source>
+        <translation>--hbci can be 2.2 or 3.0.</translation>
+    </message>
+    <message>
+        <source>Hier gibt --url sie an.</source>
+        <translation>Here --url names it.</translation>
+    </message>
+    <message>
+        <source>Dieses TAN-Verfahren bietet die Bank nicht an. Möglich sind:{0}</source>
+        <translation>The bank does not offer this TAN procedure. It offers:{0}</translation>
+    </message>
+    <message>
+        <source>Wählen Sie mit --method ein TAN-Verfahren:{0}</source>
+        <translation>Choose a TAN procedure with --method:{0}</translation>
+    </message>
+    <message>
+        <source>Wählen Sie mit --medium ein TAN-Medium:{0}</source>
+        <translation>Choose a TAN medium with --medium:{0}</translation>
+    </message>
+    <message>
+        <source>Das Konto {0} kann nicht abgerufen werden. Die Bank nennt:{1}</source>
+        <translation>Account {0} cannot be fetched. The bank lists:{1}</translation>
+    </message>
+    <message>
+        <source>Gewählt</source>
+        <translation>Chosen</translation>
+    </message>
+    <message>
+        <source>ja</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>Diesen Bankzugang gibt es nicht. Die eingerichteten zeigt der Befehl banks.</source>
+        <translation>There is no such bank login. The command banks shows those that are set up.</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird entfernt.</source>
+        <translation>--yes removes it.</translation>
+    </message>
+    <message>
+        <source>Bankleitzahl</source>
+        <translation>Bank code</translation>
+    </message>
+    <message>
+        <source>Anmeldename bei der Bank</source>
+        <translation>Login name at the bank</translation>
+    </message>
+    <message>
+        <source>Adresse der Bank; sonst die aus dem Verzeichnis</source>
+        <translation>Address of the bank; otherwise the one of the directory</translation>
+    </message>
+    <message>
+        <source>Produktregistrierung der Deutschen Kreditwirtschaft; das Buch merkt sie sich</source>
+        <translation>Product registration with the German Banking Industry Committee; the book remembers it</translation>
+    </message>
+    <message>
+        <source>Protokoll; ohne Angabe 3.0</source>
+        <translation>Protocol; 3.0 when not given</translation>
+    </message>
+    <message>
+        <source>hierhin kommt das Bild einer photoTAN</source>
+        <translation>where the picture of a photoTAN is written</translation>
+    </message>
+    <message>
+        <source>zeigt die Bankzugänge mit ihren Konten</source>
+        <translation>shows the bank logins with their accounts</translation>
+    </message>
+    <message>
+        <source>richtet einen Bankzugang ein oder ändert ihn</source>
+        <translation>sets up a bank login or changes it</translation>
+    </message>
+    <message>
+        <source>TAN-Verfahren: Nummer oder Name aus banks methods</source>
+        <translation>TAN procedure: number or name from banks methods</translation>
+    </message>
+    <message>
+        <source>TAN-Medium, wo die Bank eines verlangt</source>
+        <translation>TAN medium, where the bank wants one</translation>
+    </message>
+    <message>
+        <source>Konto der Bank und Konto im Buch, mehrfach möglich; ohne Angabe alle</source>
+        <translation>account of the bank and account in the book, can be repeated; all when not given</translation>
+    </message>
+    <message>
+        <source>fragt die Bank nach ihren TAN-Verfahren</source>
+        <translation>asks the bank for its TAN procedures</translation>
+    </message>
+    <message>
+        <source>entfernt einen Bankzugang; Konten und Umsätze bleiben</source>
+        <translation>removes a bank login; accounts and transactions stay</translation>
+    </message>
+    <message>
+        <source>BIC</source>
+        <translation>BIC</translation>
+    </message>
+    <message>
+        <source>Ort</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <source>Adresse</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>keine Adresse bekannt</source>
+        <translation>no address known</translation>
+    </message>
+    <message>
+        <source>Weitere {0} passen auch. Suchen Sie genauer, zum Beispiel mit der Bankleitzahl.</source>
+        <translation>Another {0} fit as well. Search more precisely, for example by bank code.</translation>
+    </message>
+    <message>
+        <source>sucht eine Bank nach Name, Ort, Bankleitzahl, BIC oder IBAN und zeigt die Adresse für das Online-Banking</source>
+        <translation>finds a bank by name, city, bank code, BIC or IBAN and shows its address for online banking</translation>
+    </message>
+    <message>
+        <source>liest die PIN als Zeile aus der offenen Datei mit dieser Nummer; sonst fragt das Terminal</source>
+        <translation>reads the PIN as a line from the open file of this number; otherwise the terminal asks</translation>
+    </message>
+    <message>
+        <source>ebenso TANs, eine je Zeile</source>
+        <translation>likewise TANs, one a line</translation>
+    </message>
+    <message>
+        <source>Kein eingerichtetes Bankkonto passt dazu.</source>
+        <translation>No bank account that was set up fits.</translation>
+    </message>
+    <message>
+        <source>ruft neue Umsätze von der Bank ab; sie warten dann auf das Buchen</source>
+        <translation>fetches new transactions from the bank; they then wait to be booked</translation>
+    </message>
+    <message>
+        <source>nur die Konten bei dieser Bankleitzahl</source>
+        <translation>only the accounts with this bank code</translation>
+    </message>
+    <message>
+        <source>nur die Konten dieses Bankzugangs</source>
+        <translation>only the accounts of this login</translation>
+    </message>
+    <message>
+        <source>nur dieses Konto: Kontonummer, IBAN oder Konto im Haushaltsbuch</source>
+        <translation>only this account: number, IBAN or account of the book</translation>
+    </message>
+    <message>
+        <source>erster Tag; sonst ab zehn Tagen vor dem letzten Abruf, beim ersten Mal 89 Tage. Für Älteres verlangt die Bank eine TAN</source>
+        <translation>first day; else from ten days before the last fetch, the first time 89 days. For older ones the bank wants a TAN</translation>
+    </message>
+    <message>
+        <source>letzter Tag; sonst heute</source>
+        <translation>last day; else today</translation>
+    </message>
+    <message>
+        <source>schreibt den Nachrichtenverkehr ohne persönliche Angaben auf</source>
+        <translation>writes down the messages without anything personal</translation>
+    </message>
+    <message>
+        <source>Anmeldung bei der Bank</source>
+        <translation>Signing in to the bank</translation>
+    </message>
+    <message>
+        <source>Fehler: Ungültige Antwort nach TAN-Eingabe!</source>
+        <translation>Error: Invalid answer after the TAN was entered!</translation>
+    </message>
+    <message>
+        <source>Umsätze werden abgerufen: {0}</source>
+        <translation>Fetching transactions: {0}</translation>
+    </message>
+    <message>
+        <source>Die Kontodaten konnten nicht abgerufen werden.</source>
+        <translation>The account data could not be retrieved.</translation>
+    </message>
+    <message>
+        <source>Kein unterstütztes TAN-Verfahren gefunden.</source>
+        <translation>No supported TAN procedure found.</translation>
+    </message>
+    <message>
+        <source>Es wurden keine unterstützen TAN-Verfahren gefunden.</source>
+        <translation>No supported TAN procedures were found.</translation>
+    </message>
+    <message>
+        <source>TAN-Medien werden abgefragt</source>
+        <translation>Asking for TAN media</translation>
+    </message>
+    <message>
+        <source>Die Kontodaten konnten nicht ermittelt werden.
+{0}</source>
+        <translation>The account data could not be determined.
+{0}</translation>
+    </message>
+    <message>
+        <source>Legen Sie dieses Bankkonto neu an, sollte der Fehler weiterhin bestehen.
+{0}</source>
+        <translation>Set up this bank account anew if the error persists.
+{0}</translation>
+    </message>
+    <message>
+        <source>Die Bank ist nicht erreichbar. Prüfen Sie die Verbindung zum Internet und die Adresse der Bank.</source>
+        <translation>The bank cannot be reached. Check the connection to the internet and the address of the bank.</translation>
+    </message>
+    <message>
+        <source>Die Bank antwortet nicht. Versuchen Sie es später noch einmal.</source>
+        <translation>The bank does not answer. Try again later.</translation>
+    </message>
+    <message>
+        <source>Die Gegenstelle konnte sich nicht als Ihre Bank ausweisen. Es wurde nichts gesendet. Prüfen Sie die Adresse der Bank und ob Sie in einem fremden Netz sind.</source>
+        <translation>The other side could not prove to be your bank. Nothing was sent. Check the address of the bank and whether you are in a network of others.</translation>
+    </message>
+    <message>
+        <source>Die Antwort der Bank ist unvollständig oder nicht lesbar. Versuchen Sie es später noch einmal; bleibt es dabei, prüfen Sie die Adresse der Bank.</source>
+        <translation>The answer of the bank is incomplete or cannot be read. Try again later; if it stays like that, check the address of the bank.</translation>
+    </message>
+    <message>
+        <source>Die Bank hat den Vorgang beendet. Versuchen Sie es später noch einmal.</source>
+        <translation>The bank has ended the process. Try again later.</translation>
+    </message>
+    <message>
+        <source>Es ist keine Produktregistrierung eingetragen, ohne die keine Bank antwortet. Tragen Sie diese unter „Bankzugänge…“ ein. Es wurde nichts gesendet.</source>
+        <translation>No product registration is entered, without which no bank answers. Enter it under “Bank logins…”. Nothing was sent.</translation>
+    </message>
+    <message>
+        <source>Die Bank nimmt die Produktregistrierung nicht an. Prüfen Sie, ob sie richtig eingetragen und noch gültig ist.</source>
+        <translation>The bank does not accept the product registration. Check whether it is entered correctly and still valid.</translation>
+    </message>
+    <message>
+        <source>Sie haben die falsche PIN eingegeben. Häufige Fehleingaben können zur Sperrung von Ihrem Account führen.</source>
+        <translation>You have entered the wrong PIN. Repeated wrong entries can lead to your account being locked.</translation>
+    </message>
+    <message>
+        <source>Ihr Zugang oder Ihre PIN ist gesperrt. Entsperren Sie ihn auf der Internetseite oder in der App Ihrer Bank oder fragen Sie dort nach. Die PIN wurde nicht noch einmal gesendet.</source>
+        <translation>Your access or your PIN is locked. Unlock it on the website or in the app of your bank, or ask there. The PIN was not sent again.</translation>
+    </message>
+    <message>
+        <source>Die Bank hat die Anmeldung abgelehnt. Prüfen Sie den Anmeldenamen, und ob der Zugang für Online-Banking mit Programmen (FinTS) freigeschaltet ist.</source>
+        <translation>The bank has refused the login. Check the login name, and whether the access is enabled for online banking with programs (FinTS).</translation>
+    </message>
+    <message>
+        <source>Die TAN war falsch oder nicht mehr gültig. Wiederholen Sie den Vorgang mit einer neuen TAN.</source>
+        <translation>The TAN was wrong or no longer valid. Repeat the process with a new TAN.</translation>
+    </message>
+    <message>
+        <source>Die Freigabe wurde abgelehnt. Waren Sie das nicht selbst, wenden Sie sich an Ihre Bank.</source>
+        <translation>The approval was rejected. If that was not you, contact your bank.</translation>
+    </message>
+    <message>
+        <source>Die Freigabe kam nicht rechtzeitig. Wiederholen Sie den Vorgang und bestätigen Sie ihn in der App Ihrer Bank.</source>
+        <translation>The approval did not come in time. Repeat the process and confirm it in the app of your bank.</translation>
+    </message>
+    <message>
+        <source>Die Bank bietet für Ihren Zugang kein TAN-Verfahren an, das dieses Programm kennt. Richten Sie bei der Bank ein anderes ein.</source>
+        <translation>The bank offers no TAN procedure for your access that this program knows. Set up another one with the bank.</translation>
+    </message>
+    <message>
+        <source>Die Bank will wissen, welches Gerät die TAN bekommt. Wählen Sie unter „Bankzugänge…“ eines aus.</source>
+        <translation>The bank wants to know which device gets the TAN. Choose one under “Bank logins…”.</translation>
+    </message>
+    <message>
+        <source>Die Bank hat keine Konten genannt. Prüfen Sie, ob Ihr Zugang für Online-Banking mit Programmen (FinTS) freigeschaltet ist.</source>
+        <translation>The bank has named no accounts. Check whether your access is enabled for online banking with programs (FinTS).</translation>
+    </message>
+    <message>
+        <source>Die Bank stellt für dieses Konto keine Umsätze zum Abruf bereit. Laden Sie dort eine Datei herunter und importieren Sie diese.</source>
+        <translation>The bank offers no transactions of this account for fetching. Download a file there and import it.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>Die Bank hat den Auftrag nicht ausgeführt. Was sie dazu sagt, steht darunter.</source>
+        <translation>The bank has not carried out the order. What it says about that stands below.</translation>
+    </message>
+    <message>
+        <source>Fehler: Der Server &apos;{0}&apos; antwortet nicht oder nicht schnell genug!</source>
+        <translation>Error: The server &apos;{0}&apos; does not answer or not fast enough!</translation>
+    </message>
+    <message>
+        <source>Nur PIN</source>
+        <translation>PIN only</translation>
+    </message>
+    <message>
+        <source>TAN-Eingabe:</source>
+        <translation>TAN:</translation>
+    </message>
+    <message>
+        <source>Die Antwort der Bank kann nicht gelesen werden: {0}</source>
+        <translation>The bank&apos;s answer cannot be read: {0}</translation>
+    </message>
+    <message>
+        <source>Was dieser Abruf brachte, konnte nicht vermerkt werden.</source>
+        <translation>What this fetch brought could not be noted.</translation>
+    </message>
+    <message>
+        <source>Noch {0} Minuten Zeit</source>
+        <translation>{0} minutes left</translation>
+    </message>
+    <message>
+        <source>Die Zeit für die Freigabe ist abgelaufen.</source>
+        <translation>The time for the approval is over.</translation>
+    </message>
+    <message>
+        <source>Die Bank wird gefragt…</source>
+        <translation>Asking the bank…</translation>
+    </message>
+    <message>
+        <source>Die Bank wird in {0} s gefragt, ob Ihre Freigabe da ist.</source>
+        <translation>The bank will be asked for your approval in {0} s.</translation>
+    </message>
+    <message>
+        <source>Klicken Sie auf &quot;Jetzt prüfen&quot;, sobald Sie freigegeben haben.</source>
+        <translation>Click &quot;Check now&quot; once you have approved.</translation>
+    </message>
+    <message>
+        <source>wird neu angelegt</source>
+        <translation>will be added</translation>
+    </message>
+    <message>
+        <source>Wählen Sie mindestens ein Konto aus, dessen Umsätze abgerufen werden sollen.</source>
+        <translation>Choose at least one account whose transactions are to be fetched.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie für {0} ein Konto im Buch, oder geben Sie den Namen eines neuen ein.</source>
+        <translation>Choose an account in the book for {0}, or type the name of a new one.</translation>
+    </message>
+    <message>
+        <source>Das ist keine deutsche IBAN; das Verzeichnis enthält Banken in Deutschland.</source>
+        <translation>This is not a German IBAN; the directory holds banks in Germany.</translation>
+    </message>
+    <message>
+        <source>Eine deutsche IBAN besteht aus DE und 20 Ziffern. Bitte vergleichen Sie sie mit Ihrem Kontoauszug.</source>
+        <translation>A German IBAN consists of DE and 20 digits. Please compare it with your bank statement.</translation>
+    </message>
+    <message>
+        <source>In der IBAN steckt ein Tippfehler: Ihre Prüfziffern passen nicht. Bitte vergleichen Sie sie mit Ihrem Kontoauszug.</source>
+        <translation>There is a typing error in the IBAN: its check digits do not fit. Please compare it with your bank statement.</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie Name oder Ort der Bank, ihre Bankleitzahl, BIC oder IBAN ein.</source>
+        <translation>Please enter the name or city of the bank, its bank code, BIC or IBAN.</translation>
+    </message>
+    <message>
+        <source>Die Bankleitzahl {0} steht nicht im Verzeichnis. Bitte vergleichen Sie sie mit Ihrem Kontoauszug.</source>
+        <translation>The bank code {0} is not in the directory. Please compare it with your bank statement.</translation>
+    </message>
+    <message>
+        <source>Die Bank steht in der IBAN ab der fünften Stelle. Bitte tippen Sie weiter.</source>
+        <translation>The bank is named from the fifth character of the IBAN on. Please go on typing.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Banken lässt sich nicht lesen: Die Datei &apos;banken.tsv&apos; fehlt oder ist leer. Bitte installieren Sie Kontorelle neu.</source>
+        <translation>The directory of banks cannot be read: the file &apos;banken.tsv&apos; is missing or empty. Please install Kontorelle again.</translation>
+    </message>
+    <message>
+        <source>Keine Bank gefunden. Versuchen Sie es mit weniger Wörtern, mit dem Ort, der Bankleitzahl oder der IBAN.</source>
+        <translation>No bank found. Try fewer words, the city, the bank code or the IBAN.</translation>
+    </message>
+    <message>
+        <source>zuletzt abgerufen am {0}</source>
+        <translation>last fetched on {0}</translation>
+    </message>
+    <message>
+        <source>noch nie abgerufen</source>
+        <translation>never fetched</translation>
+    </message>
+    <message>
+        <source>Umsätze vom {0} bis {1} wurden nicht abgerufen: {2}</source>
+        <translation>Transactions from {0} to {1} were not fetched: {2}</translation>
+    </message>
+    <message>
+        <source>Der Abruf wurde abgebrochen.</source>
+        <translation>The fetch was cancelled.</translation>
+    </message>
+    <message>
+        <source>Es ist noch kein Bankkonto eingerichtet. Richten Sie unter &quot;Bankzugänge…&quot; eines ein.</source>
+        <translation>No bank account has been set up yet. Set one up under &quot;Bank logins…&quot;.</translation>
+    </message>
+    <message>
+        <source>die Bank hält nur die letzten {0} Tage bereit.</source>
+        <translation>the bank only keeps the last {0} days.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank ist nur zum Lesen geöffnet. Umsätze können nicht übernommen werden.</source>
+        <translation>The database is open for reading only. Transactions cannot be imported.</translation>
+    </message>
+    <message>
+        <source>Der erste Tag, der abgerufen wird, liegt hinter dem letzten. Wählen Sie einen anderen Zeitraum, nicht in der Zukunft.</source>
+        <translation>The first day to be fetched lies behind the last one. Choose another period, not in the future.</translation>
+    </message>
+    <message>
+        <source>Umsätze abrufen</source>
+        <translation>Fetch transactions</translation>
+    </message>
+    <message>
+        <source>Sie rufen auch Umsätze ab, die vor dem {0} gebucht wurden; dafür verlangt die Bank eine TAN.
+Sollen diese älteren Umsätze mit abgerufen werden?</source>
+        <translation>You are also fetching transactions booked before {0}; the bank wants a TAN for that.
+Shall these older transactions be fetched too?</translation>
+    </message>
+    <message>
+        <source>Ältere Umsätze</source>
+        <translation>Older transactions</translation>
+    </message>
+    <message>
+        <source>Sie wollten sie ohne TAN nicht.</source>
+        <translation>you did not want them without a TAN.</translation>
+    </message>
+    <message>
+        <source>{0}: Umsätze werden abgerufen …</source>
+        <translation>{0}: fetching transactions …</translation>
+    </message>
+    <message>
+        <source>Ohne PIN wurde nichts abgerufen.</source>
+        <translation>Without a PIN nothing was fetched.</translation>
+    </message>
+    <message>
+        <source>Die Bank hat zu diesem Konto nichts geschickt.</source>
+        <translation>The bank has sent nothing about this account.</translation>
+    </message>
+    <message>
+        <source>Die Umsätze werden übernommen …</source>
+        <translation>Importing the transactions …</translation>
+    </message>
+    <message>
+        <source>Die Datenbank hat die Umsätze nicht angenommen.</source>
+        <translation>The database has not taken the transactions.</translation>
+    </message>
+    <message>
+        <source>{0} am {1}</source>
+        <translation>{0} on {1}</translation>
+    </message>
+    <message>
+        <source>Keine neuen Umsätze.</source>
+        <translation>No new transactions.</translation>
+    </message>
+    <message>
+        <source>Ein neuer Umsatz.</source>
+        <translation>One new transaction.</translation>
+    </message>
+    <message>
+        <source>{0} neue Umsätze.</source>
+        <translation>{0} new transactions.</translation>
+    </message>
+    <message>
+        <source>Es konnte nichts abgerufen werden.</source>
+        <translation>Nothing could be fetched.</translation>
+    </message>
+    <message>
+        <source>Ein Konto wurde nicht oder nicht ganz abgerufen.</source>
+        <translation>One account was not fetched, or not completely.</translation>
+    </message>
+    <message>
+        <source>{0} Konten wurden nicht oder nicht ganz abgerufen.</source>
+        <translation>{0} accounts were not fetched, or not completely.</translation>
+    </message>
+    <message>
+        <source>Soll der Zugang {0} bei {1} entfernt werden?
+Konten und Umsätze bleiben im Buch, es wird nur nichts mehr abgerufen.</source>
+        <translation>Remove the login {0} at {1}?
+Accounts and transactions stay in the book, only nothing is fetched any more.</translation>
+    </message>
+    <message>
+        <source>Bankzugang entfernen</source>
+        <translation>Remove bank login</translation>
+    </message>
+    <message>
+        <source>Noch kein Bankzugang</source>
+        <translation>No bank login yet</translation>
+    </message>
+    <message>
+        <source>Mit „Neuer Zugang“ richten Sie den Abruf der Umsätze bei Ihrer Bank ein.</source>
+        <translation>“New login” sets up the fetching of transactions from your bank.</translation>
+    </message>
+    <message>
+        <source>noch nie</source>
+        <translation>never</translation>
+    </message>
+    <message>
+        <source>Es wurde noch keine Nachricht gesendet.</source>
+        <translation>No message has been sent yet.</translation>
+    </message>
+    <message>
+        <source>PIN und TAN stehen nirgends in diesem Protokoll. Gespeichert und gesendet wird eine Fassung, in der auch Anmeldename, Kontonummern, Namen und Verwendungszwecke unkenntlich sind.</source>
+        <translation>PIN and TAN are nowhere in this log. What is saved and sent is a version in which login, account numbers, names and purposes are hidden as well.</translation>
+    </message>
+    <message>
+        <source>Bankprotokoll {0}.txt</source>
+        <translation>Bank log {0}.txt</translation>
+    </message>
+    <message>
+        <source>Protokoll speichern</source>
+        <translation>Save log</translation>
+    </message>
+    <message>
+        <source>Text|*.txt|Alle Dateien|*.*</source>
+        <translation>Text|*.txt|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Kontorelle: Protokoll einer Bankabfrage</source>
+        <translation>Kontorelle: log of a bank query</translation>
+    </message>
+    <message>
+        <source>Im Anhang ist das Protokoll. Was habe ich getan, und was ist geschehen?
+</source>
+        <translation>The log is attached. What did I do, and what happened?
+</translation>
+    </message>
+    <message>
+        <source>Ihr E-Mail-Programm öffnet einen Entwurf. Fehlt darin der Anhang, hängen Sie bitte diese Datei an: {0}</source>
+        <translation>Your mail program opens a draft. If its attachment is missing, please attach this file: {0}</translation>
+    </message>
+    <message>
+        <source>Es wurde kein E-Mail-Programm gefunden. Das Protokoll liegt in der Datei {0}</source>
+        <translation>No mail program was found. The log is in the file {0}</translation>
+    </message>
+    <message>
+        <source>Suchen Sie Ihre Bank und wählen Sie sie aus der Liste.</source>
+        <translation>Search for your bank and choose it from the list.</translation>
+    </message>
+    <message>
+        <source>Für diese Bank ist keine Adresse für das Online-Banking mit Programmen (FinTS) bekannt; manche Banken bieten es nicht an. Kennen Sie die Adresse von Ihrer Bank, tragen Sie sie unter „Erweitert“ ein. Sonst laden Sie Kontoauszüge bei Ihrer Bank herunter und lesen sie mit „Datei“, „Kontoauszug importieren“ ein.</source>
+        <translation>No address for online banking with programs (FinTS) is known for this bank; some banks do not offer it. If your bank has told you the address, enter it under “Advanced”. Otherwise download statements from your bank and read them with “File”, “Import statement”.</translation>
+    </message>
+    <message>
+        <source>Die Adresse der Bank muss mit https:// beginnen. Prüfen Sie sie unter „Erweitert“.</source>
+        <translation>The address of the bank must begin with https://. Check it under “Advanced”.</translation>
+    </message>
+    <message>
+        <source>Geben Sie den Anmeldenamen ein, mit dem Sie sich beim Online-Banking Ihrer Bank anmelden.</source>
+        <translation>Enter the name with which you log in to your bank&apos;s online banking.</translation>
+    </message>
+    <message>
+        <source>Dieser Zugang ist schon eingerichtet. Ändern Sie ihn unter „Bankzugänge…“.</source>
+        <translation>This login is set up already. Change it under “Bank logins…”.</translation>
+    </message>
+    <message>
+        <source>Tragen Sie die Produktregistrierung ein. Ohne sie antwortet keine Bank, und es wird nichts gesendet.</source>
+        <translation>Enter the product registration. Without it no bank answers, and nothing is sent.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen. Es wurde nichts gesendet.</source>
+        <translation>Cancelled. Nothing was sent.</translation>
+    </message>
+    <message>
+        <source>Bankzugang eingerichtet: {0}</source>
+        <translation>Bank login set up: {0}</translation>
+    </message>
+    <message>
+        <source>Für ältere Umsätze verlangt die Bank meist eine TAN.</source>
+        <translation>For older transactions most banks ask for a TAN.</translation>
+    </message>
+    <message>
+        <source>&amp;Breite: {0} mm</source>
+        <translation>&amp;Width: {0} mm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo: {0} Bilder je Sekunde</source>
+        <translation>&amp;Speed: {0} pictures per second</translation>
+    </message>
+    <message>
+        <source>&amp;Größe: {0} mm</source>
+        <translation>Si&amp;ze: {0} mm</translation>
+    </message>
+    <message>
+        <source>Halten Sie den TAN-Generator mit eingesteckter Karte vor die Balken, seine Marken an den Dreiecken.</source>
+        <translation>Hold the TAN generator with your card in it against the bars, its marks at the triangles.</translation>
+    </message>
+    <message>
+        <source>Nehmen Sie das Bild mit der App oder dem Lesegerät Ihrer Bank auf.</source>
+        <translation>Scan the picture with the app or the reader of your bank.</translation>
+    </message>
+    <message>
+        <source>Ihre Bank verlangt eine TAN.</source>
+        <translation>Your bank asks for a TAN.</translation>
+    </message>
+    <message>
+        <source>Ihre Bank verlangt, dass Sie den Zugriff in ihrer App freigeben.</source>
+        <translation>Your bank wants you to approve the access in its app.</translation>
+    </message>
+    <message>
+        <source>Höchstens {0} Ziffern</source>
+        <translation>{0} digits at most</translation>
+    </message>
+    <message>
+        <source>Höchstens {0} Zeichen</source>
+        <translation>{0} characters at most</translation>
+    </message>
+    <message>
+        <source>Nur Ziffern</source>
+        <translation>Digits only</translation>
+    </message>
+    <message>
+        <source>{0} (Freigabe in der App)</source>
+        <translation>{0} (approval in the app)</translation>
+    </message>
+    <message>
+        <source>Diese Bank gibt auf diesem Weg keine Umsätze heraus.</source>
+        <translation>This bank does not give out transactions this way.</translation>
+    </message>
+    <message>
+        <source>Für dieses Konto gibt die Bank keine Umsätze heraus.</source>
+        <translation>The bank does not give out transactions of this account.</translation>
+    </message>
+    <message>
+        <source>Banken antworten nur Programmen, die bei der Deutschen Kreditwirtschaft registriert sind. Die Registrierungsnummer gibt es kostenlos unter www.fints.org im Bereich für Hersteller („Produktregistrierung“). Sie gilt für das ganze Buch. Ohne sie wird nichts gesendet.</source>
+        <translation>Banks answer only programs that are registered with the German Banking Industry Committee. The registration number is free of charge at www.fints.org in the section for manufacturers (“Produktregistrierung”). It holds for the whole book. Without it nothing is sent.</translation>
+    </message>
+    <message>
+        <source>wartet</source>
+        <translation>waiting</translation>
+    </message>
+    <message>
+        <source>wird abgerufen …</source>
+        <translation>being fetched …</translation>
+    </message>
+    <message>
+        <source>wird übernommen …</source>
+        <translation>being taken over …</translation>
+    </message>
+    <message>
+        <source>Die Bank schreibt: {0}</source>
+        <translation>The bank writes: {0}</translation>
+    </message>
+    <message>
+        <source>&amp;Umsätze abrufen</source>
+        <translation>&amp;Fetch transactions</translation>
+    </message>
+    <message>
+        <source>Holt die neuen Umsätze Ihrer Bankkonten ab.</source>
+        <translation>Fetches the new transactions of your bank accounts.</translation>
+    </message>
+    <message>
+        <source>&amp;Bankzugänge…</source>
+        <translation>&amp;Bank logins…</translation>
+    </message>
+    <message>
+        <source>Richtet ein, bei welchen Banken Umsätze abgerufen werden.</source>
+        <translation>Sets up the banks from which transactions are fetched.</translation>
+    </message>
+    <message>
+        <source>Umsätze abgerufen</source>
+        <translation>Transactions fetched</translation>
+    </message>
+    <message>
+        <source>schon vorhanden, nur mit anderen Leerzeichen</source>
+        <translation>already there, only with other blanks</translation>
+    </message>
+    <message>
+        <source>früher abgerufen und von Ihnen gelöscht</source>
+        <translation>fetched before and deleted by you</translation>
+    </message>
+    <message>
+        <source>{0} früher gelöscht</source>
+        <translation>{0} deleted before</translation>
+    </message>
+    <message>
+        <source>Welche Konten sollen abgerufen werden, und zu welchen Konten im Buch gehören sie? Ein neuer Name legt ein Konto an.</source>
+        <translation>Which accounts are to be fetched, and to which accounts in the book do they belong? A new name adds an account.</translation>
+    </message>
+    <message>
+        <source>Erste Umsätze ab de&amp;m:</source>
+        <translation>First transactions fro&amp;m:</translation>
+    </message>
+    <message>
+        <source>Konto im Buch für {0}</source>
+        <translation>Account in the book for {0}</translation>
+    </message>
+    <message>
+        <source>Die PIN wird abgefragt, sobald die Bank angesprochen wird. Sie wird nicht gespeichert.</source>
+        <translation>You are asked for the PIN as soon as the bank is contacted. It is not stored.</translation>
+    </message>
+    <message>
+        <source>&amp;Produktregistrierung:</source>
+        <translation>&amp;Product registration:</translation>
+    </message>
+    <message>
+        <source>&amp;Anmeldename oder Legitimations-ID:</source>
+        <translation>&amp;Login name:</translation>
+    </message>
+    <message>
+        <source>TAN-&amp;Medium:</source>
+        <translation>TAN &amp;medium:</translation>
+    </message>
+    <message>
+        <source>Womit geben Sie Vorgänge bei dieser Bank frei? Die Bank verlangt beim ersten Mal und danach etwa alle 180 Tage eine Freigabe.</source>
+        <translation>With what do you approve orders at this bank? The bank wants an approval the first time and then about every 180 days.</translation>
+    </message>
+    <message>
+        <source>&amp;TAN-Verfahren:</source>
+        <translation>&amp;TAN procedure:</translation>
+    </message>
+    <message>
+        <source>&amp;Erweitert</source>
+        <translation>&amp;Advanced</translation>
+    </message>
+    <message>
+        <source>&amp;Bank suchen (Name, Ort, Bankleitzahl, BIC oder IBAN):</source>
+        <translation>&amp;Search bank (name, city, bank code, BIC or IBAN):</translation>
+    </message>
+    <message>
+        <source>Gefundene Banken</source>
+        <translation>Banks found</translation>
+    </message>
+    <message>
+        <source>FinTS 3.0</source>
+        <translation>FinTS 3.0</translation>
+    </message>
+    <message>
+        <source>HBCI 2.2</source>
+        <translation>HBCI 2.2</translation>
+    </message>
+    <message>
+        <source>&amp;Adresse der Bank:</source>
+        <translation>A&amp;ddress of the bank:</translation>
+    </message>
+    <message>
+        <source>&amp;Protokoll:</source>
+        <translation>&amp;Protocol:</translation>
+    </message>
+    <message>
+        <source>Konto im Haushalt</source>
+        <translation>Account of the household</translation>
+    </message>
+    <message>
+        <source>Saldo laut Bank</source>
+        <translation>Balance at the bank</translation>
+    </message>
+    <message>
+        <source>Konten, die abgerufen werden</source>
+        <translation>Accounts to be fetched</translation>
+    </message>
+    <message>
+        <source>wird gefragt</source>
+        <translation>will be asked</translation>
+    </message>
+    <message>
+        <source>Flickercode für den TAN-Generator</source>
+        <translation>Flicker code for the TAN generator</translation>
+    </message>
+    <message>
+        <source>Bild für die TAN</source>
+        <translation>Picture for the TAN</translation>
+    </message>
+    <message>
+        <source>&amp;Konten:</source>
+        <translation>&amp;Accounts:</translation>
+    </message>
+    <message>
+        <source>Der Abruf läuft</source>
+        <translation>The transactions are being fetched</translation>
+    </message>
+    <message>
+        <source>seit dem letzten Abruf</source>
+        <translation>since the last fetch</translation>
+    </message>
+    <message>
+        <source>von … bis …</source>
+        <translation>from … to …</translation>
+    </message>
+    <message>
+        <source>Erster Tag</source>
+        <translation>First day</translation>
+    </message>
+    <message>
+        <source>Letzter Tag</source>
+        <translation>Last day</translation>
+    </message>
+    <message>
+        <source>Zur &amp;Durchsicht</source>
+        <translation>To the &amp;review</translation>
+    </message>
+    <message>
+        <source>&amp;Abrufen</source>
+        <translation>&amp;Fetch</translation>
+    </message>
+    <message>
+        <source>&amp;Protokoll…</source>
+        <translation>&amp;Log…</translation>
+    </message>
+    <message>
+        <source>Wählen Sie mindestens ein Konto.</source>
+        <translation>Choose at least one account.</translation>
+    </message>
+    <message>
+        <source>Der Abruf wird beendet …</source>
+        <translation>The fetch is being ended …</translation>
+    </message>
+    <message>
+        <source>&amp;Bankzugang einrichten…</source>
+        <translation>&amp;Set up a bank login…</translation>
+    </message>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>Bankzugang einrichten</source>
+        <translation>Set up bank login</translation>
+    </message>
+    <message>
+        <source>Bankzugang ändern</source>
+        <translation>Change bank login</translation>
+    </message>
+    <message>
+        <source>Der Vorgang wird abgebrochen …</source>
+        <translation>Cancelling …</translation>
+    </message>
+    <message>
+        <source>&amp;Fertigstellen</source>
+        <translation>&amp;Finish</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Next</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Zugang…</source>
+        <translation>&amp;New login…</translation>
+    </message>
+    <message>
+        <source>&amp;Entfernen…</source>
+        <translation>&amp;Remove…</translation>
+    </message>
+    <message>
+        <source>Bankzugänge</source>
+        <translation>Bank logins</translation>
+    </message>
+    <message>
+        <source>Wählt ein anderes TAN-Verfahren, TAN-Medium oder andere Konten</source>
+        <translation>Chooses another TAN procedure, TAN medium or other accounts</translation>
+    </message>
+    <message>
+        <source>PIN eingeben</source>
+        <translation>Enter PIN</translation>
+    </message>
+    <message>
+        <source>&amp;PIN für das Online-Banking:</source>
+        <translation>&amp;PIN for online banking:</translation>
+    </message>
+    <message>
+        <source>Die PIN wird nicht gespeichert. Nach mehreren falschen Eingaben sperrt die Bank Ihren Zugang.</source>
+        <translation>The PIN is not stored. After several wrong entries the bank locks your access.</translation>
+    </message>
+    <message>
+        <source>Protokoll der Bankabfrage</source>
+        <translation>Log of the bank query</translation>
+    </message>
+    <message>
+        <source>Nachrichten</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern…</source>
+        <translation>&amp;Save…</translation>
+    </message>
+    <message>
+        <source>Per &amp;E-Mail senden…</source>
+        <translation>Send by &amp;mail…</translation>
+    </message>
+    <message>
+        <source>TAN eingeben</source>
+        <translation>Enter TAN</translation>
+    </message>
+    <message>
+        <source>TAN &amp;senden</source>
+        <translation>&amp;Send TAN</translation>
+    </message>
+    <message>
+        <source>Auf dem &amp;Kopf</source>
+        <translation>&amp;Upside down</translation>
+    </message>
+    <message>
+        <source>Das Bild der Bank lässt sich nicht anzeigen.</source>
+        <translation>The picture of the bank cannot be shown.</translation>
+    </message>
+    <message>
+        <source>Freigabe</source>
+        <translation>Approval</translation>
+    </message>
+    <message>
+        <source>Jetzt &amp;prüfen</source>
+        <translation>&amp;Check now</translation>
     </message>
 </context>
 </TS>
