@@ -9,6 +9,7 @@
 #include "testbank/cTestHttps.h"
 #include "views/bank/cApprovalWait.h"
 #include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankFetch.h"
 #include "views/bank/cBankListModel.h"
 #include "views/bank/cBankLogView.h"
 #include "views/bank/cBankSetup.h"
@@ -30,6 +31,7 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/bank/frmAbruf.h"
 #include "windows/bank/frmBankAssistent.h"
 #include "windows/bank/frmBankzugaenge.h"
 #include "windows/bank/frmPin.h"
@@ -144,6 +146,7 @@ struct cScene
     cBankDirectory Directory{Book.Shell};
     cBankSetup Setup{{Book.Tools, Directory, Https, Customer, QStringLiteral("1.0.0")}};
     std::unique_ptr<cBankListModel> Banks;
+    std::unique_ptr<cBankFetch> Fetch;
 
     // Several procedures and media, an account without statements, and long names.
     static cBankProfile BankProfile()
@@ -233,6 +236,124 @@ QStringList FaultsOfAllPages(QWidget& window)
     return faults;
 }
 
+const std::vector<std::pair<const char*, fnMake>> everyWindow{
+    {"main window",
+     [](cScene& scene) {
+         auto window = std::make_unique<frmMain>(scene.Model);
+         window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
+         scene.Model.RestoreView(false);
+         scene.Statistics.Restore();
+         window->StatisticsPage().layout()->addWidget(new frmStatistik(scene.Statistics, &window->StatisticsPage()));
+         return window;
+     }},
+    {"new entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Start({})); }},
+    {"series", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Load(scene.Series.ID)); }},
+    {"split entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Load(scene.Part.ID)); }},
+    {"start balance", [](cScene& scene) { return MakeEditor(scene, scene.Editor.StartBalance({})); }},
+    {"correction",
+     [](cScene& scene) {
+         const auto fields = scene.Change.StartPeriod(scene.Series.ID, QDate(2026, 4, 10));
+         return fields ? std::make_unique<frmKorrektur>(scene.Change, *fields) : nullptr;
+     }},
+    {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
+    {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
+    {"assignment",
+     [](cScene& scene) {
+         scene.Candidates = scene.Review.StartAssign({scene.Row});
+         return std::make_unique<frmZuordnung>(*scene.Candidates);
+     }},
+    {"import assistant with a table", [](cScene& scene) { return MakeAssistant(scene, u"csv/dkb.csv"_s); }},
+    {"import assistant with a statement", [](cScene& scene) { return MakeAssistant(scene, u"mt940/giro.sta"_s); }},
+    {"account statement",
+     [](cScene& scene) {
+         scene.Book.Settings->Set(modSettingKey::BankBalances.Of(u"1234567"_s), u"2026-03-01=10000;2026-03-31=5000"_s);
+         scene.Statement = std::make_unique<cStatementListModel>(scene.Book.Tools);
+         return std::make_unique<frmKontoauszug>(*scene.Statement);
+     }},
+    {"one import",
+     [](cScene& scene) {
+         scene.Book.Settings->Set(modSettingKey::ImportRuns, u"%1-%1"_s.arg(scene.Row));
+         scene.OneImport = scene.Review.StartImportReview();
+         return std::make_unique<frmImportReview>(*scene.OneImport);
+     }},
+    {"category of transactions",
+     [](cScene& scene) { return std::make_unique<frmUmsatzKategorie>(scene.Review, QList<int>{scene.Row}); }},
+    {"chart",
+     [](cScene& scene) {
+         auto box = std::make_unique<cChartBox>();
+         cChartMaker maker(scene.Book.Data, scene.Book.Format, scene.Book.Clock.Today());
+         const cChartWish wish{.Kind = eChartKind::ExpensePie, .Group = u"Haushalt"_s};
+         box->SetData(maker.Make(wish)); // with the way back to all categories
+         return box;
+     }},
+    {"password", [](cScene& scene) { return std::make_unique<frmPasswort>(scene.Password); }},
+    {"password prompt",
+     [](cScene& scene) {
+         return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
+     }},
+    {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
+    {"rules",
+     [](cScene& scene) {
+         cOwnRule rule;
+         rule.Text = u"einkauf"_s;
+         rule.Category = u"Haushalt; Lebensmittel"_s;
+         scene.Rules.SetDraft(rule);
+         return scene.Rules.Save() ? std::make_unique<frmRegeln>(scene.Rules) : nullptr;
+     }},
+    {"check of the book",
+     [](cScene& scene) {
+         scene.Book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
+         scene.Check.Reload();
+         return std::make_unique<frmPruefung>(scene.Check);
+     }},
+    {"bank assistant, bank",
+     [](cScene& scene) {
+         auto window = MakeBankAssistant(scene, cBankSetup::ePage::Bank);
+         window->findChild<QCheckBox*>()->setChecked(true); // all that there is
+         return window;
+     }},
+    {"bank assistant, login", [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Login); }},
+    {"bank assistant, procedure",
+     [](cScene& scene) {
+         scene.SetUpTo(cBankSetup::ePage::Method);
+         scene.Setup.ChooseMethod(1);
+         (void)scene.Setup.Next(); // the bank wants a medium
+         return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
+     }},
+    {"bank assistant, accounts", [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Accounts); }},
+    {"bank logins",
+     [](cScene& scene) {
+         scene.SetUpTo(cBankSetup::ePage::Done);
+         scene.Banks = std::make_unique<cBankListModel>(scene.Book.Tools);
+         return std::make_unique<frmBankzugaenge>(*scene.Banks);
+     }},
+    {"TAN with bars", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Flicker); }},
+    {"TAN with a picture", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Picture); }},
+    {"approval",
+     [](cScene& scene) {
+         cApproval approval;
+         approval.Bank = u"Sparkasse Ahornstadt"_s;
+         approval.IsAutomatic = false;
+         approval.ValidUntil = scene.Book.Clock.Now().addSecs(300);
+         scene.Approval.Start(approval);
+         return std::make_unique<frmTan>(scene.Approval);
+     }},
+    {"PIN",
+     [](cScene&) {
+         return std::make_unique<frmPin>(
+             cPinQuestion{u"Sparkasse Ahornstadt"_s, u"12345678"_s, u"kunde1"_s, u"Anmeldename"_s});
+     }},
+    {"bank log", [](cScene& scene) { return std::make_unique<frmProtokoll>(scene.Log); }},
+    {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
+    {"fetch",
+     [](cScene& scene) {
+         scene.SetUpTo(cBankSetup::ePage::Done);
+         scene.Fetch = std::make_unique<cBankFetch>(scene.Book.Tools, scene.Review.Files(),
+                                                    cBankFetch::cPorts{scene.Https, scene.Customer, u"1.0.0"_s});
+         return std::make_unique<frmAbruf>(*scene.Fetch);
+     }},
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(fnMake)
@@ -253,120 +374,7 @@ void testEveryWindow::CanBeReadAndOperated_data()
     QTest::addColumn<fnMake>("Make");
     QTest::addColumn<int>("Points");
 
-    const QList<std::pair<const char*, fnMake>> windows{
-        {"main window",
-         [](cScene& scene) {
-             auto window = std::make_unique<frmMain>(scene.Model);
-             window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
-             scene.Model.RestoreView(false);
-             scene.Statistics.Restore();
-             window->StatisticsPage().layout()->addWidget(
-                 new frmStatistik(scene.Statistics, &window->StatisticsPage()));
-             return window;
-         }},
-        {"new entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Start({})); }},
-        {"series", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Load(scene.Series.ID)); }},
-        {"split entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Load(scene.Part.ID)); }},
-        {"start balance", [](cScene& scene) { return MakeEditor(scene, scene.Editor.StartBalance({})); }},
-        {"correction",
-         [](cScene& scene) {
-             const auto fields = scene.Change.StartPeriod(scene.Series.ID, QDate(2026, 4, 10));
-             return fields ? std::make_unique<frmKorrektur>(scene.Change, *fields) : nullptr;
-         }},
-        {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
-        {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
-        {"assignment",
-         [](cScene& scene) {
-             scene.Candidates = scene.Review.StartAssign({scene.Row});
-             return std::make_unique<frmZuordnung>(*scene.Candidates);
-         }},
-        {"import assistant with a table", [](cScene& scene) { return MakeAssistant(scene, u"csv/dkb.csv"_s); }},
-        {"import assistant with a statement", [](cScene& scene) { return MakeAssistant(scene, u"mt940/giro.sta"_s); }},
-        {"account statement",
-         [](cScene& scene) {
-             scene.Book.Settings->Set(modSettingKey::BankBalances.Of(u"1234567"_s),
-                                      u"2026-03-01=10000;2026-03-31=5000"_s);
-             scene.Statement = std::make_unique<cStatementListModel>(scene.Book.Tools);
-             return std::make_unique<frmKontoauszug>(*scene.Statement);
-         }},
-        {"one import",
-         [](cScene& scene) {
-             scene.Book.Settings->Set(modSettingKey::ImportRuns, u"%1-%1"_s.arg(scene.Row));
-             scene.OneImport = scene.Review.StartImportReview();
-             return std::make_unique<frmImportReview>(*scene.OneImport);
-         }},
-        {"category of transactions",
-         [](cScene& scene) { return std::make_unique<frmUmsatzKategorie>(scene.Review, QList<int>{scene.Row}); }},
-        {"chart",
-         [](cScene& scene) {
-             auto box = std::make_unique<cChartBox>();
-             cChartMaker maker(scene.Book.Data, scene.Book.Format, scene.Book.Clock.Today());
-             const cChartWish wish{.Kind = eChartKind::ExpensePie, .Group = u"Haushalt"_s};
-             box->SetData(maker.Make(wish)); // with the way back to all categories
-             return box;
-         }},
-        {"password", [](cScene& scene) { return std::make_unique<frmPasswort>(scene.Password); }},
-        {"password prompt",
-         [](cScene& scene) {
-             return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
-         }},
-        {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
-        {"rules",
-         [](cScene& scene) {
-             cOwnRule rule;
-             rule.Text = u"einkauf"_s;
-             rule.Category = u"Haushalt; Lebensmittel"_s;
-             scene.Rules.SetDraft(rule);
-             return scene.Rules.Save() ? std::make_unique<frmRegeln>(scene.Rules) : nullptr;
-         }},
-        {"check of the book",
-         [](cScene& scene) {
-             scene.Book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
-             scene.Check.Reload();
-             return std::make_unique<frmPruefung>(scene.Check);
-         }},
-        {"bank assistant, bank",
-         [](cScene& scene) {
-             auto window = MakeBankAssistant(scene, cBankSetup::ePage::Bank);
-             window->findChild<QCheckBox*>()->setChecked(true); // all that there is
-             return window;
-         }},
-        {"bank assistant, login", [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Login); }},
-        {"bank assistant, procedure",
-         [](cScene& scene) {
-             scene.SetUpTo(cBankSetup::ePage::Method);
-             scene.Setup.ChooseMethod(1);
-             (void)scene.Setup.Next(); // the bank wants a medium
-             return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
-         }},
-        {"bank assistant, accounts",
-         [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Accounts); }},
-        {"bank logins",
-         [](cScene& scene) {
-             scene.SetUpTo(cBankSetup::ePage::Done);
-             scene.Banks = std::make_unique<cBankListModel>(scene.Book.Tools);
-             return std::make_unique<frmBankzugaenge>(*scene.Banks);
-         }},
-        {"TAN with bars", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Flicker); }},
-        {"TAN with a picture", [](cScene& scene) { return MakeTan(scene, eTanDisplay::Picture); }},
-        {"approval",
-         [](cScene& scene) {
-             cApproval approval;
-             approval.Bank = u"Sparkasse Ahornstadt"_s;
-             approval.IsAutomatic = false;
-             approval.ValidUntil = scene.Book.Clock.Now().addSecs(300);
-             scene.Approval.Start(approval);
-             return std::make_unique<frmTan>(scene.Approval);
-         }},
-        {"PIN",
-         [](cScene&) {
-             return std::make_unique<frmPin>(
-                 cPinQuestion{u"Sparkasse Ahornstadt"_s, u"12345678"_s, u"kunde1"_s, u"Anmeldename"_s});
-         }},
-        {"bank log", [](cScene& scene) { return std::make_unique<frmProtokoll>(scene.Log); }},
-        {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
-    };
-    for (const auto& [name, make] : windows) {
+    for (const auto& [name, make] : everyWindow) {
         for (const int points : {9, 12, 16}) {
             QTest::addRow("%s, %d points", name, points) << make << points;
         }
