@@ -34,7 +34,7 @@ frmProtokoll::frmProtokoll(const cBankLogView& log, QWidget* parent) : QDialog(p
     connect(close, &QPushButton::clicked, this, &QDialog::close);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(modBankHead::Text(log.Note(), this, 80));
+    layout->addWidget(modBankHead::Text(log.Note(), this, 65));
     layout->addWidget(text, 1);
     auto* row = new QHBoxLayout;
     row->addWidget(save);

@@ -25,6 +25,7 @@ QLabel* modBankHead::Text(const QString& text, QWidget* parent, int columns)
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setText(text);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * columns);
     label->setMinimumHeight(qMax(0, label->heightForWidth(label->minimumWidth()))); // an empty text has none
