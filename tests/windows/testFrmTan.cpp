@@ -109,7 +109,7 @@ void testFrmTan::TanGoesByKeyboard()
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     QCOMPARE(QApplication::focusWidget(), &Field(window));
     QVERIFY(!Button(window, u"TAN senden"_s)->isEnabled());
     QTest::keyClick(&Field(window), Qt::Key_Return); // nothing typed yet
@@ -223,7 +223,7 @@ void testFrmTan::DialsChangeBarsAndAreKept()
     QTest::keyClick(width, Qt::Key_End);
     QVERIFY(bars->width() > before);
     QTest::keyClick(window.findChild<QCheckBox*>(), Qt::Key_Space);
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     window.close();
     QCOMPARE(entry.Value(cTanEntry::eDial::FlickerWidth), 90);
     QVERIFY(entry.IsTurned());
@@ -237,7 +237,7 @@ void testFrmTan::PictureIsShownInItsWidth()
     cTanEntry entry(question, *book.Settings);
     frmTan window(entry);
     window.show();
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     const auto* picture = window.findChild<cTanPictureView*>();
     const int before = picture->sizeHint().width();
     window.findChild<QSlider*>()->setValue(120);
@@ -274,7 +274,7 @@ void testFrmTan::ApprovalAsksInTime()
     frmTan window(wait);
     const QSignalSpy asked(&window, &frmTan::BankToBeAsked);
     window.show();
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     const auto passSecond = [&] {
         clock.Time = clock.Time.addSecs(1);
         QMetaObject::invokeMethod(window.findChild<QTimer*>(u"tmrWait"_s), "timeout");
@@ -304,7 +304,7 @@ void testFrmTan::PinIsHiddenAndForgotten()
     for (const bool isSent : {true, false}) {
         frmPin window({.Bank = u"Sparkasse Ahornstadt"_s, .BankCode = {}, .UserId = u"kunde1"_s, .UserIdLabel = {}});
         window.show();
-        QCOMPARE(windowFaults::All(window), QStringList());
+        QCOMPARE(modWindowFaults::All(window), QStringList());
         QCOMPARE(Field(window).echoMode(), QLineEdit::Password);
         QTest::keyClicks(&Field(window), u"geheim"_s);
         QTest::keyClick(&Field(window), isSent ? Qt::Key_Return : Qt::Key_Escape);
@@ -320,7 +320,7 @@ void testFrmTan::LogIsShownAndSaved()
     const cBankLogView log(u"HNHBK:1:3+000000000123"_s, u"HNHBK"_s, {book.User, book.Shell, book.Clock});
     frmProtokoll window(log);
     window.show();
-    QCOMPARE(windowFaults::All(window), QStringList());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
     const auto* text = window.findChild<QPlainTextEdit*>();
     QVERIFY(text->isReadOnly());
     QCOMPARE(text->toPlainText(), u"HNHBK:1:3+000000000123"_s);
