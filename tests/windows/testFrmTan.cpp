@@ -66,7 +66,7 @@ QPushButton* Button(const QDialog& window, const QString& text)
     return nullptr;
 }
 
-// The bars of the next painted frame as they stand on the screen, "1" for white: the middle of each.
+// The bars as they stand on the screen, "1" for white: the middle of each.
 QString PaintedBars(cFlickerView& view)
 {
     const QImage image = view.grab().toImage();
@@ -77,6 +77,13 @@ QString PaintedBars(cFlickerView& view)
         bars += colour == Qt::white ? u'1' : colour == Qt::black ? u'0' : u'?';
     }
     return bars;
+}
+
+// The same once the next frame is due.
+QString NextFrame(cFlickerView& view)
+{
+    QMetaObject::invokeMethod(view.findChild<QTimer*>(), "timeout");
+    return PaintedBars(view);
 }
 
 } // namespace
@@ -186,16 +193,17 @@ void testFrmTan::EveryStateIsPaintedTwice()
     view.SetSpeed(20);
     QStringList painted;
     for (int i = 0; i < 9; ++i) {
-        painted.append(PaintedBars(view));
+        painted.append(NextFrame(view));
         moment += frame;
     }
     const QString full = u"11111"_s;
     const QString data = u"01111"_s;
     const QString clock = u"10000"_s;
     QCOMPARE(painted, QStringList({full, full, full, data, data, data, clock, clock, clock}));
+    QCOMPARE(PaintedBars(view), clock); // something else had them painted: that is no frame of theirs
     painted.clear();
     for (int i = 0; i < 6; ++i) {
-        painted.append(PaintedBars(view));
+        painted.append(NextFrame(view));
         moment += 100 * frame; // the machine has other things to do
     }
     QCOMPARE(painted, QStringList({full, full, data, data, clock, clock}));

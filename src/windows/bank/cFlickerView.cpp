@@ -47,7 +47,10 @@ cFlickerView::cFlickerView(const QByteArray& states, QWidget* parent, cMoment mo
     setAccessibleName(cText::Tr("Flickercode für den TAN-Generator"));
     tmrFrame->setTimerType(Qt::PreciseTimer);
     tmrFrame->setSingleShot(true);
-    connect(tmrFrame, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    connect(tmrFrame, &QTimer::timeout, this, [this] {
+        m_isFrameDue = true;
+        update();
+    });
     FitScreen();
 }
 
@@ -89,14 +92,26 @@ int cFlickerView::Unit() const
     return m_width / units;
 }
 
-// Everything is drawn in whole dots, so that no grey edge confuses the reader.
+// Only a frame of the bars' own may change them: it is painted as a whole, while others, as after a menu that lay over
+// them, paint a part.
 void cFlickerView::paintEvent(QPaintEvent* /*event*/)
 {
-    const qint64 moment = m_moment();
-    if (m_pace.Paint(moment) && !m_states.isEmpty()) {
-        m_state = (m_state + 1) % m_states.size();
+    if (m_isFrameDue) {
+        const qint64 moment = m_moment();
+        if (m_pace.Paint(moment) && !m_states.isEmpty()) {
+            m_state = (m_state + 1) % m_states.size();
+        }
+        constexpr qint64 inMillisecond = 1'000'000;
+        tmrFrame->start(static_cast<int>((m_pace.UntilNext(moment) + inMillisecond - 1) / inMillisecond));
+        m_isFrameDue = false;
     }
     QPainter painter(this);
+    PaintBars(painter);
+}
+
+// Everything is drawn in whole dots, so that no grey edge confuses the reader.
+void cFlickerView::PaintBars(QPainter& painter) const
+{
     painter.fillRect(rect(), Qt::black);
     if (m_isTurned) {
         painter.translate(width(), height());
@@ -117,6 +132,4 @@ void cFlickerView::paintEvent(QPaintEvent* /*event*/)
             painter.drawPolygon(QPolygon({{left, unit}, {right, unit}, {(left + right) / 2, 2 * unit}}));
         }
     }
-    constexpr qint64 inMillisecond = 1'000'000;
-    tmrFrame->start(static_cast<int>((m_pace.UntilNext(moment) + inMillisecond - 1) / inMillisecond));
 }

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QPainter;
 class QTimer;
 
 // Five bars that tell a TAN generator its code in black and white, for ever from the beginning. Their width is one on
@@ -32,6 +33,7 @@ protected:
 
 private:
     void FitScreen(); // its density and its frames
+    void PaintBars(QPainter& painter) const;
     [[nodiscard]] int Unit() const;
 
     QByteArray m_states;
@@ -42,4 +44,5 @@ private:
     int m_millimetres = 0;
     int m_width = 0; // of the bars
     bool m_isTurned = false;
+    bool m_isFrameDue = true;
 };
