@@ -45,13 +45,13 @@ private:
     // Runs what has to succeed: a line of arguments, separated by "|".
     cCliRun Do(const QString& line);
     // The ID of a new entry.
-    [[nodiscard]] QString Add(const QString& line) const;
+    [[nodiscard]] QString Add(const QString& line);
     [[nodiscard]] QString Database() const { return m_folder->filePath(u"Veltrino Kontorelle/data.db"_s); }
     [[nodiscard]] QString Value(const std::string& sql) const;
     [[nodiscard]] int CountEntries() const { return Value("SELECT COUNT(*) FROM data").toInt(); }
     [[nodiscard]] QString Content() const; // of the tables that the commands write to
     // Day, kind, amount, account, target, category, interval and text of every entry that the JSON output lists.
-    [[nodiscard]] QStringList Stored(const QString& line) const;
+    [[nodiscard]] QStringList Stored(const QString& line);
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -75,7 +75,7 @@ cCliRun testCliEntries::Do(const QString& line)
     return run;
 }
 
-QString testCliEntries::Add(const QString& line) const
+QString testCliEntries::Add(const QString& line)
 {
     return Do(u"add|--json|"_s + line).Column(u"ID"_s).value(0);
 }
@@ -95,7 +95,7 @@ QString testCliEntries::Content() const
         + Value("SELECT group_concat(TemplateCategory || TemplateName || TemplateDefaultValue) FROM template");
 }
 
-QStringList testCliEntries::Stored(const QString& line) const
+QStringList testCliEntries::Stored(const QString& line)
 {
     QStringList rows;
     const QJsonArray array = Do(line).Json();

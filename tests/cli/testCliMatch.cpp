@@ -97,12 +97,12 @@ private:
     [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
     cCliRun Do(const QString& line) { return cCliRun::GoodLine(m_folder->path(), line); }
 
-    [[nodiscard]] QString Add(const QString& line) const
+    [[nodiscard]] QString Add(const QString& line)
     {
         return Do(u"add|--json|--account|Girokonto|--kind|"_s + line).Column(u"ID"_s).value(0);
     }
 
-    [[nodiscard]] QStringList Assigned() const { return Do(u"staged|--json"_s).Column(u"ImportAssignedEntry"_s); }
+    [[nodiscard]] QStringList Assigned() { return Do(u"staged|--json"_s).Column(u"ImportAssignedEntry"_s); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QStringList m_rows;

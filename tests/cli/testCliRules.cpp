@@ -98,7 +98,7 @@ private:
     [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
     cCliRun Do(const QString& line) { return cCliRun::GoodLine(m_folder->path(), line); }
 
-    [[nodiscard]] QStringList List(const QString& name) const { return Do(u"rules|--json"_s).Column(name); }
+    [[nodiscard]] QStringList List(const QString& name) { return Do(u"rules|--json"_s).Column(name); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_file;

@@ -218,6 +218,7 @@ void testBankSetup::MediumIsChosenBeforeAccounts()
     QVERIFY(!scene.Setup.Next());
     QCOMPARE(scene.Setup.Page(), ePage::Method);
     QVERIFY(scene.Setup.AsksMedium());
+    QVERIFY2(scene.Setup.Problem().endsWith(u"Wählen Sie es aus."), qPrintable(scene.Setup.Problem()));
     QCOMPARE(scene.Setup.State().Media, QStringList({u"Han:dy"_s, u"Tablet"_s}));
     scene.Setup.ChooseMedium(0);
     QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));

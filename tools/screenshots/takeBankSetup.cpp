@@ -10,9 +10,13 @@
 #include "views/bank/cBankFetch.h"
 #include "views/bank/cBankListModel.h"
 #include "views/bank/cBankSetup.h"
+<<<<<<< HEAD
 #include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 #include "windows/bank/frmAbruf.h"
+=======
+#include "windows/bank/cBankSearchPage.h"
+>>>>>>> setup
 #include "windows/bank/frmBankAssistent.h"
 #include "windows/bank/frmBankzugaenge.h"
 
@@ -88,10 +92,10 @@ bool TakeBankSetup(cCamera& camera)
     {
         frmBankAssistent window(setup, sceneDay);
         window.show();
-        window.findChild<QLineEdit*>()->setText(u"sparkasse köln"_s);
+        window.findChild<cBankSearchPage*>()->findChild<QLineEdit*>()->setText(u"sparkasse köln"_s);
         camera.Take(window, u"bankassistent-bank"_s);
-        window.findChild<QLineEdit*>()->setText(u"12345678"_s);
-        window.findChild<QCheckBox*>()->setChecked(true);
+        window.findChild<cBankSearchPage*>()->findChild<QLineEdit*>()->setText(u"12345678"_s);
+        window.findChild<cBankSearchPage*>()->findChild<QCheckBox*>()->setChecked(true);
         const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
         for (QPushButton* button : buttons) {
             if (button->isDefault()) {

@@ -235,7 +235,7 @@ int cBankSetup::Method() const
 
 void cBankSetup::ChooseMethod(int method)
 {
-    if (method != Method()) {
+    if (method != Method() && method >= 0 && method < m_state.Methods.size()) {
         m_state.Method = m_state.Methods.at(method);
         m_state.Medium.clear();
     }
@@ -327,7 +327,9 @@ bool cBankSetup::LeaveLogin()
 bool cBankSetup::LeaveMethod()
 {
     if (!Refresh()) {
-        m_problem = m_failure.Text;
+        m_problem = m_failure.Fault == eBankFault::MediumMissing
+            ? cText::Tr("Die Bank will wissen, welches TAN-Medium Sie benutzen. Wählen Sie es aus.")
+            : m_failure.Text;
         return false;
     }
     m_page = ePage::Accounts;

@@ -11,12 +11,15 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 enum eColumn { Choice, BookAccount, Note };
+
+constexpr int letters = 20; // of a name of an account, in sight
 
 } // namespace
 
@@ -69,12 +72,15 @@ void cBankAccountsPage::AddRow(int line)
 {
     const cBankAccountChoice::cLine& account = m_setup.Accounts().Lines().at(line);
     const QString name = cText::Tr("{0}, {1}", {account.Product, account.Number});
-    const cRow row{new QCheckBox(QString(name).replace(u'&', u"&&"_s), m_list), new QComboBox(m_list),
+    const QString lines = account.Product + u'\n' + account.Number;
+    const cRow row{new QCheckBox(QString(lines).replace(u'&', u"&&"_s), m_list), new QComboBox(m_list),
                    new QLabel(m_list)};
     row.Account->setEditable(true);
     row.Account->setInsertPolicy(QComboBox::NoInsert);
     row.Account->addItems(m_setup.Accounts().BookAccounts());
+    row.Account->setMinimumContentsLength(letters);
     row.Account->setEditText(account.BookAccount);
+    row.Account->lineEdit()->setCursorPosition(0); // a long name is shown from its beginning
     row.Account->setAccessibleName(cText::Tr("Konto im Buch für {0}", {name}));
     row.Note->setTextFormat(Qt::PlainText);
     row.IsChosen->setChecked(account.IsChosen);

@@ -15,6 +15,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int leastRows = 6; // of the list of banks
+
+} // namespace
+
 cBankSearchPage::cBankSearchPage(cBankSetup& setup, QWidget* parent)
     : cBankPage(parent),
       m_setup(setup),
@@ -29,8 +35,12 @@ cBankSearchPage::cBankSearchPage(cBankSetup& setup, QWidget* parent)
     label->setBuddy(m_text);
     label->setWordWrap(true);
     m_list->setAccessibleName(cText::Tr("Gefundene Banken"));
+    // Else its preferred height would make the page scroll as soon as the address is shown.
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_list->setMinimumHeight(fontMetrics().lineSpacing() * leastRows);
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
+    m_hint->hide();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(label);
@@ -74,6 +84,12 @@ QWidget& cBankSearchPage::First()
     return *m_text;
 }
 
+void cBankSearchPage::ShowHint(const QString& text)
+{
+    m_hint->setText(text);
+    m_hint->setVisible(!text.isEmpty());
+}
+
 // A code that nobody knows can be taken as well; its address is then typed.
 void cBankSearchPage::Search()
 {
@@ -86,7 +102,7 @@ void cBankSearchPage::Search()
             m_list->addItem(m_setup.Title(bank));
         }
     }
-    m_hint->setText(found.Problem);
+    ShowHint(found.Problem);
     if (m_banks.isEmpty()) {
         m_setup.ChooseCode(cBankSetup::IsCode(m_text->text()) ? m_text->text() : QString());
         m_url->setText(m_setup.State().Url);
@@ -100,6 +116,6 @@ void cBankSearchPage::Choose()
     if (const int row = m_list->currentRow(); row >= 0) {
         m_setup.ChooseBank(m_banks.at(row));
         m_url->setText(m_setup.State().Url);
-        m_hint->setText(m_setup.BankProblem());
+        ShowHint(m_setup.BankProblem());
     }
 }

@@ -26,6 +26,7 @@ private:
     [[nodiscard]] QWidget* BuildMore();
     void Search();
     void Choose();
+    void ShowHint(const QString& text);
 
     cBankSetup& m_setup;
     QLineEdit* m_text;

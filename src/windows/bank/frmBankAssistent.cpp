@@ -44,7 +44,7 @@ frmBankAssistent::frmBankAssistent(cBankSetup& setup, QDate today, QWidget* pare
     }
     layout->addLayout(BuildButtons());
     connect(&m_setup, &cBankSetup::StepShown, m_step, &QLabel::setText);
-    const QSize wanted(fontMetrics().averageCharWidth() * 95, fontMetrics().height() * 28);
+    const QSize wanted(fontMetrics().averageCharWidth() * 105, fontMetrics().height() * 32);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
     ShowPage();
 }
@@ -74,15 +74,12 @@ void frmBankAssistent::Next()
 {
     Page().Leave();
     SetBusy(true);
-    const bool isDone = m_setup.Next();
+    (void)m_setup.Next();
     SetBusy(false);
     if (m_setup.Page() == cBankSetup::ePage::Done) {
         accept();
-    } else if (isDone) {
-        ShowPage();
     } else {
-        Page().Enter(); // the bank may have told more by now: media, or what it calls the login
-        ShowProblem();
+        ShowPage(); // also the same one: the bank may have told more by now, media or what it calls the login
     }
 }
 
