@@ -81,6 +81,9 @@ void Print(const cBankFetch& fetch, const QList<qsizetype>& places)
 {
     for (const qsizetype place : places) {
         const cBankFetch::cLine& line = fetch.Lines().at(place);
+        if (line.State == cBankFetch::eState::Idle) {
+            continue; // nothing was asked for; the user has been told why
+        }
         const QString name = cText::Tr("{0}, {1}", {fetch.Accounts().at(place).Bank, fetch.Accounts().at(place).Name});
         modConsole::Out(cText::Tr("{0}: {1}", {name, line.Text}) + u'\n');
         for (const QString& note : line.Notes) {
@@ -96,7 +99,9 @@ void Print(const cBankFetch& fetch, const QList<qsizetype>& places)
             }
         }
     }
-    modConsole::Out(fetch.Summary() + u'\n');
+    if (const QString summary = fetch.Summary(); !summary.isEmpty()) {
+        modConsole::Out(summary + u'\n');
+    }
 }
 
 void Print(const cCliContext& context, const cBankFetch& fetch, const QList<qsizetype>& places)

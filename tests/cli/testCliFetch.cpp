@@ -70,7 +70,7 @@ private Q_SLOTS:
         QTest::newRow("no PIN") << QStringList{} << QByteArray() << 1 << qsizetype(0);
         QTest::newRow("empty period") << QStringList{u"--from"_s, u"03.03.2026"_s, u"--to"_s, u"02.03.2026"_s}
                                       << QByteArray("12345\n") << 1 << qsizetype(0);
-        QTest::newRow("no day") << QStringList{u"--from"_s, u"gestern"_s} << QByteArray() << 2 << qsizetype(0);
+        QTest::newRow("no day") << QStringList{u"--from"_s, u"irgendwann"_s} << QByteArray() << 2 << qsizetype(0);
     }
 
     void FetchesAndTellsByItsCode()

@@ -110,7 +110,7 @@ private Q_SLOTS:
         house.Bank.Profile.Accounts.first().Refusal = "9210::Konto gesperrt.";
         cNoProgress progress;
         QVERIFY(!house.Fetch.Run({}, progress));
-        const cBankFetch::cLine& line = house.Fetch.Lines().constFirst();
+        const cBankFetch::cLine line = house.Fetch.Lines().constFirst();
         QVERIFY(line.Failure.IsSet() && !line.Failure.Text.isEmpty());
         QVERIFY2(line.Failure.BankWords.contains(u"Konto gesperrt"), qPrintable(line.Failure.BankWords));
         house.Bank.Profile.Refusals["HKIDN"] = {.Nth = 0, .Global = "9942::PIN falsch."};

@@ -498,6 +498,9 @@ QString cBankFetch::Summary() const
     for (const cLine& line : m_lines) {
         rows += line.New;
     }
+    if (count(eState::Idle) == m_lines.size()) {
+        return {};
+    }
     const auto done = count(eState::Done);
     const auto failed = count(eState::Failed);
     const QString news = rows == 0 ? cText::Tr("Keine neuen Umsätze.")
