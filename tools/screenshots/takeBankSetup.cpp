@@ -10,13 +10,10 @@
 #include "views/bank/cBankFetch.h"
 #include "views/bank/cBankListModel.h"
 #include "views/bank/cBankSetup.h"
-<<<<<<< HEAD
 #include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
-#include "windows/bank/frmAbruf.h"
-=======
 #include "windows/bank/cBankSearchPage.h"
->>>>>>> setup
+#include "windows/bank/frmAbruf.h"
 #include "windows/bank/frmBankAssistent.h"
 #include "windows/bank/frmBankzugaenge.h"
 
