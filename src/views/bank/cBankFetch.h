@@ -101,7 +101,7 @@ public:
         QStringList Notes;             // differences to the balance, days that are missing, what could not be read
     };
     [[nodiscard]] const QList<cLine>& Lines() const { return m_lines; }
-    [[nodiscard]] QString Summary() const; // "7 neue Umsätze von 3 Konten; ein Konto wurde nicht abgerufen."
+    [[nodiscard]] QString Summary() const; // "7 neue Umsätze." and failures; empty when nothing ran
 
     // All messages of this object's runs: as they are, and with nothing in it that says who somebody is.
     [[nodiscard]] QString LogText() const;
