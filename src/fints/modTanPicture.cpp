@@ -7,7 +7,7 @@ namespace {
 
 struct cKind
 {
-    const char* Type;
+    const char* Type = nullptr;
     QByteArrayView Beginning;
 };
 
