@@ -51,6 +51,7 @@ void frmBankzugaenge::BuildList()
     QHeaderView& columns = *m_tree->header();
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::Stretch);
+    columns.setMinimumSectionSize(fontMetrics().averageCharWidth() * 10); // in large type the list rather scrolls
     for (const int column : {cBankListModel::Account, cBankListModel::LastFetch}) {
         columns.setSectionResizeMode(column, QHeaderView::ResizeToContents);
     }
