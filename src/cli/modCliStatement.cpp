@@ -81,7 +81,9 @@ QString DifferencesJson(const cCliBook& book, const cStatementLedger& ledger)
 
 QString BookJson(const cBookComparison& book)
 {
-    constexpr std::array<const char16_t*, 5> states{u"not mapped", u"shared", u"no balance", u"agrees", u"differs"};
+    constexpr std::array<const char16_t*, 6> states{u"not mapped", u"shared", u"no balance",
+                                                    u"unread",     u"agrees", u"differs"};
+    static_assert(states.size() == static_cast<std::size_t>(cBookComparison::eState::Differs) + 1);
     cJsonObject json;
     json.Text(u"State"_s, QString::fromUtf16(states.at(static_cast<std::size_t>(book.State))));
     if (book.Day.isValid()) {

@@ -2,6 +2,22 @@
 
 #include "base/cText.h"
 
+namespace {
+
+QString Counts(const cBankFetch::cLine& line)
+{
+    QStringList parts{cText::Tr("{0} neu", {QString::number(line.New)})};
+    if (line.Known > 0) {
+        parts.append(cText::Tr("{0} schon vorhanden", {QString::number(line.Known)}));
+    }
+    if (line.LeftOut > 0) {
+        parts.append(cText::Tr("{0} ausgelassen", {QString::number(line.LeftOut)}));
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
 QString modFetchText::State(const cBankFetch& fetch, qsizetype account)
 {
     const QList<cBankFetch::cLine>& lines = fetch.Lines();
@@ -11,7 +27,7 @@ QString modFetchText::State(const cBankFetch& fetch, qsizetype account)
         case cBankFetch::eState::Waiting: return cText::Tr("wartet");
         case cBankFetch::eState::Asked: return cText::Tr("wird abgerufen …");
         case cBankFetch::eState::Came: return cText::Tr("wird übernommen …");
-        case cBankFetch::eState::Done:
+        case cBankFetch::eState::Done: return Counts(line);
         case cBankFetch::eState::Failed: return line.Text;
         case cBankFetch::eState::Idle: break;
         }

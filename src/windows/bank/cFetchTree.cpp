@@ -13,14 +13,14 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{30}, {16}, {28}, {26}};
+const std::vector<cColumnFit::cColumn> columns{{34}, {18}, {34}, {28}};
 
 } // namespace
 
 cFetchTree::cFetchTree(cBankFetch& fetch, QWidget* parent) : QTreeWidget(parent), m_fetch(fetch)
 {
     setColumnCount(ColumnCount);
-    setHeaderLabels({cText::Tr("Konto der Bank"), cText::Tr("Konto im Haushalt"), cText::Tr("Stand"),
+    setHeaderLabels({cText::Tr("Konto der Bank"), cText::Tr("Konto im Buch"), cText::Tr("Stand"),
                      cText::Tr("Saldo laut Bank")});
     setRootIsDecorated(false);
     setItemsExpandable(false);
