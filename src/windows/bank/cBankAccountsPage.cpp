@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum eColumn { Choice, BookAccount, Note };
+enum eColumn { Choice, BookAccount };
 
 constexpr int letters = 20; // of a name of an account, in sight
 
@@ -86,7 +86,7 @@ void cBankAccountsPage::AddRow(int line)
     row.IsChosen->setChecked(account.IsChosen);
     m_grid->addWidget(row.IsChosen, 2 * line, Choice);
     m_grid->addWidget(row.Account, 2 * line, BookAccount);
-    m_grid->addWidget(row.Note, 2 * line, Note);
+    m_grid->addWidget(row.Note, 2 * line + 1, BookAccount); // beside the field it would widen the window
     m_rows.append(row);
     if (!account.Reason.isEmpty()) {
         row.IsChosen->setEnabled(false);
@@ -94,7 +94,7 @@ void cBankAccountsPage::AddRow(int line)
         row.Note->setWordWrap(true);
         row.Note->setText(account.Reason);
         row.IsChosen->setAccessibleDescription(account.Reason);
-        m_grid->addWidget(row.Note, 2 * line, BookAccount, 1, 2);
+        m_grid->addWidget(row.Note, 2 * line, BookAccount);
         return;
     }
     connect(row.IsChosen, &QCheckBox::toggled, this, [this, line](bool isChosen) {
@@ -112,7 +112,9 @@ void cBankAccountsPage::ShowRow(int line)
 {
     const cRow& row = m_rows.at(line);
     row.Account->setEnabled(row.IsChosen->isChecked());
-    row.Note->setText(row.IsChosen->isChecked() ? m_setup.Accounts().Note(line) : QString());
+    const QString note = row.IsChosen->isChecked() ? m_setup.Accounts().Note(line) : QString();
+    row.Note->setText(note);
+    row.Note->setVisible(!note.isEmpty());
 }
 
 void cBankAccountsPage::Leave()
