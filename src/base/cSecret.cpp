@@ -16,11 +16,13 @@ public:
     static void Forbid()
     {
         const std::scoped_lock lock(s_mutex);
-        if (s_held++ > 0)
+        if (s_held++ > 0) {
             return;
+        }
 #ifdef Q_OS_UNIX
-        if (getrlimit(RLIMIT_CORE, &s_before) != 0)
+        if (getrlimit(RLIMIT_CORE, &s_before) != 0) {
             return;
+        }
         rlimit none = s_before;
         none.rlim_cur = 0;
         setrlimit(RLIMIT_CORE, &none);
@@ -30,8 +32,9 @@ public:
     static void Allow()
     {
         const std::scoped_lock lock(s_mutex);
-        if (--s_held > 0)
+        if (--s_held > 0) {
             return;
+        }
 #ifdef Q_OS_UNIX
         setrlimit(RLIMIT_CORE, &s_before);
 #endif
@@ -48,16 +51,18 @@ private:
 // Through volatile, because a compiler drops writes that nobody reads any more.
 void Overwrite(void* from, qsizetype size)
 {
-    for (volatile char* at = static_cast<char*>(from); size > 0; --size)
+    for (volatile char* at = static_cast<char*>(from); size > 0; --size) {
         *at++ = 0;
+    }
 }
 
 } // namespace
 
 cSecret::cSecret(QStringView text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return;
+    }
     m_characters.assign(text.utf16(), text.utf16() + text.size());
     cCoreDumps::Forbid();
 }
@@ -68,8 +73,9 @@ cSecret::cSecret(cSecret&& other) noexcept : m_characters(std::exchange(other.m_
 
 cSecret& cSecret::operator=(cSecret&& other) noexcept
 {
-    if (this == &other)
+    if (this == &other) {
         return *this;
+    }
     Drop();
     m_characters = std::exchange(other.m_characters, {});
     return *this;
@@ -87,22 +93,25 @@ QStringView cSecret::Characters() const
 
 void cSecret::Wipe(QString& text)
 {
-    if (text.isDetached())
+    if (text.isDetached()) {
         Overwrite(text.data(), 2 * text.size());
+    }
     text.clear();
 }
 
 void cSecret::Wipe(QByteArray& bytes)
 {
-    if (bytes.isDetached())
+    if (bytes.isDetached()) {
         Overwrite(bytes.data(), bytes.size());
+    }
     bytes.clear();
 }
 
 void cSecret::Drop()
 {
-    if (m_characters.empty())
+    if (m_characters.empty()) {
         return;
+    }
     Overwrite(m_characters.data(), 2 * static_cast<qsizetype>(m_characters.size()));
     m_characters.clear();
     cCoreDumps::Allow();

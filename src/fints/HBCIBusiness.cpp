@@ -44,8 +44,9 @@ bool HBCIBusiness::cSession::Begin()
     Run.Collected.clear();
     Run.Error = {};
     Fetched.clear();
-    if (Run.Parts.ProductId.trimmed().isEmpty())
+    if (Run.Parts.ProductId.trimmed().isEmpty()) {
         return Run.Fail(modBankFault::Of(eBankFault::NoProduct));
+    }
     return !Run.Refused.IsSet() || Run.Fail(Run.Refused);
 }
 
@@ -60,15 +61,18 @@ bool HBCIBusiness::cSession::JudgeDiscovery(const cBankError& error)
 {
     const QString words = error.Failure.BankWords;
     const bool isSilent = Run.Found.isEmpty() && !Run.HasFunctions;
-    if (Run.Refused.IsSet())
+    if (Run.Refused.IsSet()) {
         return Run.Fail(Run.Refused);
-    if ((error.IsSet() || isSilent) && IsLoginRefused())
+    }
+    if ((error.IsSet() || isSilent) && IsLoginRefused()) {
         return Run.Fail(modBankFault::Of(eBankFault::LoginRefused, Run.Collected, words));
+    }
     // A bank that breaks off because it wants a strong authentication may have told all that this dialog is for.
     const bool isTold = Run.HasFunctions && !Run.State.Methods.isEmpty();
     const bool isHarmless = isTold && error.Failure.Fault == eBankFault::EndedByBank;
-    if (error.IsSet() && error.Failure.Fault != eBankFault::Other && !isHarmless)
+    if (error.IsSet() && error.Failure.Fault != eBankFault::Other && !isHarmless) {
         return Run.Fail(error);
+    }
     if (isSilent) {
         const QString text = cText::Tr("Die Kontodaten konnten nicht abgerufen werden.");
         return Run.Fail(modBankFault::Of(eBankFault::NoAccounts, text, words));
@@ -86,23 +90,27 @@ static void ChooseMethod(cBankState& state)
     const auto isChosen = [&](const TanVerfahrenItem& method) {
         return state.Method && method.SecurityFunction == state.Method->SecurityFunction;
     };
-    if (std::none_of(state.Methods.cbegin(), state.Methods.cend(), isChosen))
+    if (std::none_of(state.Methods.cbegin(), state.Methods.cend(), isChosen)) {
         state.Method.reset();
-    if (!state.Method && state.Methods.size() == 1)
+    }
+    if (!state.Method && state.Methods.size() == 1) {
         state.Method = state.Methods.constFirst();
+    }
 }
 
 bool HBCIBusiness::Discover()
 {
     cBankRun& run = m_session->Run;
-    if (!m_session->Begin())
+    if (!m_session->Begin()) {
         return false;
+    }
     run.IsNew = true;
     cBankDialog dialog(run, Unknown());
     const bool isOpen = dialog.Open({.IsSync = true, .IsFromScratch = true, .TanSegment = {}});
     dialog.End();
-    if (!m_session->JudgeDiscovery(isOpen ? cBankError() : dialog.Error()))
+    if (!m_session->JudgeDiscovery(isOpen ? cBankError() : dialog.Error())) {
         return false;
+    }
     ChooseMethod(run.State);
     return true;
 }
@@ -118,14 +126,16 @@ bool HBCIBusiness::cSession::HasMethod()
 bool HBCIBusiness::cSession::FindMedium()
 {
     cBankState& state = Run.State;
-    if (!modBankMemory::LacksMedium(state))
+    if (!modBankMemory::LacksMedium(state)) {
         return true;
+    }
     cBankDialog dialog(Run, *state.Method);
     const bool isRead =
         dialog.Open({.IsSync = false, .IsFromScratch = false, .TanSegment = "HKTAB"}) && ReadMedia(dialog);
     dialog.End();
-    if (!isRead)
+    if (!isRead) {
         return Run.Fail(dialog.Error());
+    }
     const bool isOpenChoice = modBankMemory::LacksMedium(state) && !state.Media.isEmpty();
     return !isOpenChoice || Run.Fail(modBankFault::Of(eBankFault::MediumMissing));
 }
@@ -135,16 +145,18 @@ bool HBCIBusiness::cSession::ReadMedia(cBankDialog& dialog)
 {
     const QList<QByteArray>& parameters = Run.State.Parameters;
     const bool hasFour = modBankParameters::Offers(parameters, "HITABS", 4);
-    if (!hasFour && !modBankParameters::Offers(parameters, "HITABS", 5))
+    if (!hasFour && !modBankParameters::Offers(parameters, "HITABS", 5)) {
         return true;
+    }
     Run.Parts.User.ShowStep(cText::Tr("TAN-Medien werden abgefragt"));
     return dialog.Send({HBCIFactory::Media(hasFour ? 4 : 5)}).has_value() || dialog.CanGoOn();
 }
 
 bool HBCIBusiness::cSession::RefreshOnce()
 {
-    if (!FindMedium())
+    if (!FindMedium()) {
         return false;
+    }
     cBankDialog dialog(Run, *Run.State.Method);
     const bool isDone = dialog.Open({}) && ReadMedia(dialog);
     dialog.End();
@@ -169,8 +181,9 @@ static bool IsOfBank(eBankFault fault)
 // What the bank says when it gives no accounts belongs into a sentence about them.
 bool HBCIBusiness::cSession::FailSetUp()
 {
-    if (!IsOfBank(Run.Error.Failure.Fault))
+    if (!IsOfBank(Run.Error.Failure.Fault)) {
         return false;
+    }
     const QStringList values{Run.Collected};
     Run.Error.ErrorText = Run.IsNew
         ? cText::Tr("Die Kontodaten konnten nicht ermittelt werden.\n{0}", values)
@@ -181,18 +194,22 @@ bool HBCIBusiness::cSession::FailSetUp()
 bool HBCIBusiness::Refresh()
 {
     cBankRun& run = m_session->Run;
-    if (!m_session->Begin() || !m_session->HasMethod())
+    if (!m_session->Begin() || !m_session->HasMethod()) {
         return false;
+    }
     bool isDone = m_session->RefreshOnce();
     // With the accounts in the same answer the words are news and no error.
     const bool isBankSpeaking = isDone || IsOfBank(run.Error.Failure.Fault);
-    if (isBankSpeaking && run.Found.isEmpty() && run.Collected.contains(u"UPD nicht mehr aktuell"))
+    if (isBankSpeaking && run.Found.isEmpty() && run.Collected.contains(u"UPD nicht mehr aktuell")) {
         isDone = m_session->DiscoverAgain();
-    if (!isDone)
+    }
+    if (!isDone) {
         return m_session->FailSetUp();
-    if (run.State.Accounts.isEmpty())
+    }
+    if (run.State.Accounts.isEmpty()) {
         return run.Fail(
             modBankFault::Of(eBankFault::NoAccounts, cText::Tr("Die Kontodaten konnten nicht abgerufen werden.")));
+    }
     return true;
 }
 
@@ -206,10 +223,11 @@ bool HBCIBusiness::FetchAll(const QList<cFetchOrder>& orders)
     cBankRun& run = m_session->Run;
     if (m_session->Begin() && m_session->HasMethod() && m_session->FindMedium()) {
         cBankDialog dialog(run, *run.State.Method);
-        if (dialog.Open({}))
+        if (dialog.Open({})) {
             m_session->FetchIn(dialog, orders);
-        else
+        } else {
             run.Error = dialog.Error();
+        }
         dialog.End();
     }
     m_session->FailAll(orders);
@@ -221,15 +239,18 @@ void HBCIBusiness::cSession::FetchIn(cBankDialog& dialog, const QList<cFetchOrde
 {
     cStatementFetch fetch(Run, dialog);
     for (const cFetchOrder& order : orders) {
-        if (!dialog.CanGoOn())
+        if (!dialog.CanGoOn()) {
             break;
+        }
         Fetched.append(fetch.Fetch(order));
         const eBankFault fault = Fetched.constLast().Failure.Fault;
-        if (fault != eBankFault::None && !Run.Error.IsSet())
+        if (fault != eBankFault::None && !Run.Error.IsSet()) {
             Run.Error = fault == eBankFault::NoStatements ? modBankFault::Of(fault) : dialog.Error();
+        }
     }
-    if (Fetched.size() < orders.size())
+    if (Fetched.size() < orders.size()) {
         Run.Error = dialog.Error();
+    }
 }
 
 // Accounts whose turn never came failed for the reason of the whole.

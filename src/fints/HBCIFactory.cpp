@@ -88,8 +88,9 @@ QByteArray Signature(const cEnvelope& envelope)
     QByteArray signature;
     signature.reserve(pin.size() + 1 + tan.size());
     signature.append(pin);
-    if (!tan.isEmpty())
+    if (!tan.isEmpty()) {
         signature.append(':').append(tan);
+    }
     cSecret::Wipe(pin);
     cSecret::Wipe(tan);
     return signature;
@@ -107,8 +108,9 @@ QByteArray Signed(const cEnvelope& envelope, const QString& protocol, const QLis
     QByteArray tail = end.toString();
     end.Wipe();
     QByteArray text = SignatureHead(envelope, protocol).toString() + '\'';
-    for (const HBCISegment& segment : business)
+    for (const HBCISegment& segment : business) {
         text += segment.toString() + '\'';
+    }
     text.reserve(text.size() + tail.size() + 1);
     text.append(tail).append('\'');
     cSecret::Wipe(tail);
@@ -142,8 +144,9 @@ HBCIMessage HBCIFactory::Message(const cEnvelope& envelope, QList<HBCISegment> b
 {
     const QString protocol = VersionCode(envelope.HbciVersion);
     int number = firstBusiness;
-    for (HBCISegment& segment : business)
+    for (HBCISegment& segment : business) {
         segment.SetNumber(number++);
+    }
     QByteArray inner = Signed(envelope, protocol, business);
     QList<HBCISegment> segments{MessageHead(envelope, protocol), EncryptionHead(envelope, protocol),
                                 Segment("HNVSD", encryptionNumber + 1, protocol, {modFintsValue::Binary(inner)}),

@@ -10,8 +10,9 @@ constexpr int sizeDigits = 12;
 
 HBCIMessage::~HBCIMessage()
 {
-    for (HBCISegment& segment : m_segments)
+    for (HBCISegment& segment : m_segments) {
         segment.Wipe();
+    }
 }
 
 QByteArray HBCIMessage::Text() const

@@ -43,8 +43,9 @@ HBCISegment HBCISegment::Read(QByteArrayView wire)
     const cShield shield(wire);
     const QList<QByteArrayView> tokens = modFintsSplit::Split(shield.Text(), '+');
     QList<QByteArray> elements;
-    for (const QByteArrayView token : tokens.sliced(1))
+    for (const QByteArrayView token : tokens.sliced(1)) {
         elements.append(shield.Wire(token).toByteArray());
+    }
     return {tokens[0], elements};
 }
 
@@ -55,52 +56,62 @@ QByteArray HBCISegment::Element(int place) const
 
 void HBCISegment::SetElement(int place, const QByteArray& wire)
 {
-    while (m_elements.size() < place)
+    while (m_elements.size() < place) {
         m_elements.append(QByteArray());
+    }
     m_elements[place - 1] = wire;
 }
 
 void HBCISegment::Wipe()
 {
-    for (QByteArray& element : m_elements)
+    for (QByteArray& element : m_elements) {
         cSecret::Wipe(element);
+    }
 }
 
 QByteArray HBCISegment::toString() const
 {
     qsizetype count = m_elements.size();
-    while (count > 0 && m_elements[count - 1].isEmpty())
+    while (count > 0 && m_elements[count - 1].isEmpty()) {
         --count;
+    }
     QByteArray text = m_code + ':' + QByteArray::number(m_number) + ':' + QByteArray::number(m_version);
-    if (m_reference > 0)
+    if (m_reference > 0) {
         text += ':' + QByteArray::number(m_reference);
+    }
     qsizetype size = text.size();
-    for (qsizetype i = 0; i < count; ++i)
+    for (qsizetype i = 0; i < count; ++i) {
         size += 1 + m_elements[i].size();
+    }
     text.reserve(size); // an element may hold the PIN, which a growing copy would leave behind
-    for (qsizetype i = 0; i < count; ++i)
+    for (qsizetype i = 0; i < count; ++i) {
         text.append('+').append(m_elements[i]);
+    }
     return text;
 }
 
 QString HBCISegment::DebugDescription() const
 {
-    if (m_code.isEmpty())
+    if (m_code.isEmpty()) {
         return u"Empty Segment.toString()"_s;
+    }
     const modSegmentTable::cRow* const row = modSegmentTable::Find(m_code, m_version);
-    if (row == nullptr)
+    if (row == nullptr) {
         return u"Unknown Segment.toString() => "_s + QString::fromLatin1(m_code);
+    }
     QString text = QString::fromLatin1(row->Title);
     if (IsList(*row)) {
         QStringList entries;
-        for (const QByteArray& element : m_elements)
+        for (const QByteArray& element : m_elements) {
             entries.append(QString::fromLatin1(element));
+        }
         return text + entries.join(u"; ");
     }
     for (int place = 1; place <= modSegmentTable::mostElements; ++place) {
         const char* const label = row->Elements.at(static_cast<std::size_t>(place - 1)).Label;
-        if (label != nullptr)
+        if (label != nullptr) {
             text += QLatin1StringView(label) + QString::fromLatin1(modFintsSplit::Data(Element(place)));
+        }
     }
     return text;
 }

@@ -53,8 +53,9 @@ cReturnMessage MessageFrom(const HBCISegment& segment, QByteArrayView element)
     const QList<QByteArrayView> parts = modFintsSplit::Group(element);
     cReturnMessage message{Part(parts, 1),     Part(parts, 2), Said(parts.value(2)), {}, segment.Code() == "HIRMG",
                            segment.Reference()};
-    for (qsizetype i = 3; i < parts.size(); ++i)
+    for (qsizetype i = 3; i < parts.size(); ++i) {
         message.Parameters.append(parts[i].toByteArray());
+    }
     return message;
 }
 
@@ -79,8 +80,9 @@ QStringList OrdersOf(const HBCISegment& segment)
     const int first = modSegmentTable::Place(segment.Code(), segment.Version(), "BusinessTransactions");
     for (int place = first; place <= segment.ElementCount(); ++place) {
         const QByteArray code = modFintsSplit::Group(segment.Element(place)).value(0).toByteArray();
-        if (IsOrderCode(code))
+        if (IsOrderCode(code)) {
             orders.append(QString::fromLatin1(code));
+        }
     }
     return orders;
 }
@@ -151,12 +153,14 @@ std::optional<cBankBalanceRead> BalanceFrom(const HBCISegment& segment)
     const QByteArray element = Named(segment, "Balance");
     const QList<QByteArrayView> parts = modFintsSplit::Group(element);
     QString amount = Part(parts, 2);
-    if (amount.endsWith(u','))
+    if (amount.endsWith(u',')) {
         amount.chop(1);
+    }
     const std::optional<qint64> cents = modAmount::CentsFromText(amount);
     const QDate day = QDate::fromString(Part(parts, 4), u"yyyyMMdd"_s);
-    if (!cents || !day.isValid())
+    if (!cents || !day.isValid()) {
         return std::nullopt;
+    }
     return cBankBalanceRead{parts[0] == "D" ? -*cents : *cents, day, Part(parts, 3)};
 }
 
@@ -170,16 +174,19 @@ cBankAnswer::cBankAnswer(QList<HBCISegment> segments) : m_segments(std::move(seg
 
 std::optional<cBankAnswer> cBankAnswer::Read(const QByteArray& bytes)
 {
-    if (!bytes.startsWith("HNHBK:"))
+    if (!bytes.startsWith("HNHBK:")) {
         return std::nullopt;
+    }
     const cShield shield(bytes);
-    if (shield.IsCut() || shield.IsOverlong())
+    if (shield.IsCut() || shield.IsOverlong()) {
         return std::nullopt;
+    }
     QList<HBCISegment> segments;
     for (const cWireSegment& wire : ::SegmentsOf(shield)) {
         QList<QByteArray> elements;
-        for (const QByteArrayView element : wire.Elements)
+        for (const QByteArrayView element : wire.Elements) {
             elements.append(element.toByteArray());
+        }
         segments.append(HBCISegment(wire.Head, elements));
     }
     cBankAnswer answer(segments);
@@ -190,12 +197,14 @@ std::optional<cBankAnswer> cBankAnswer::Read(const QByteArray& bytes)
 void cBankAnswer::ReadMessages()
 {
     for (const HBCISegment& segment : m_segments) {
-        if (segment.Code() != "HIRMG" && segment.Code() != "HIRMS")
+        if (segment.Code() != "HIRMG" && segment.Code() != "HIRMS") {
             continue;
+        }
         for (int place = 1; place <= segment.ElementCount(); ++place) {
             const QByteArray element = segment.Element(place);
-            if (!element.isEmpty())
+            if (!element.isEmpty()) {
                 m_messages.append(MessageFrom(segment, element));
+            }
         }
     }
 }
@@ -204,8 +213,9 @@ QList<HBCISegment> cBankAnswer::SegmentsOf(QByteArrayView code) const
 {
     QList<HBCISegment> found;
     for (const HBCISegment& segment : m_segments) {
-        if (segment.Code() == code)
+        if (segment.Code() == code) {
             found.append(segment);
+        }
     }
     return found;
 }
@@ -219,8 +229,9 @@ QString cBankAnswer::CollectedText() const
 {
     QStringList lines;
     for (const cReturnMessage& message : m_messages) {
-        if (message.Code != u"0020")
+        if (message.Code != u"0020") {
             lines.append(message.Code + u' ' + message.Text);
+        }
     }
     return lines.join(u"\r\n");
 }
@@ -231,8 +242,9 @@ QString cBankAnswer::BankWords() const
     QStringList lines;
     for (const cReturnMessage& message : m_messages) {
         const bool isWorthSaying = !message.Code.startsWith(u'0') && message.Code != u"3060";
-        if (isWorthSaying && !message.Text.isEmpty() && !lines.contains(message.Text))
+        if (isWorthSaying && !message.Text.isEmpty() && !lines.contains(message.Text)) {
             lines.append(message.Text);
+        }
     }
     return lines.join(u'\n');
 }
@@ -261,12 +273,14 @@ std::optional<QStringList> cBankAnswer::AllowedFunctions() const
 {
     std::optional<QStringList> functions;
     for (const cReturnMessage& message : m_messages) {
-        if (message.IsGlobal || message.Code != u"3920")
+        if (message.IsGlobal || message.Code != u"3920") {
             continue;
+        }
         functions = functions.value_or(QStringList());
         for (const QByteArray& parameter : message.Parameters) {
-            if (!parameter.isEmpty())
+            if (!parameter.isEmpty()) {
                 functions->append(Unescaped(parameter));
+            }
         }
     }
     return functions;
@@ -289,8 +303,9 @@ bool cBankAnswer::IsLocked() const
 std::optional<QByteArray> cBankAnswer::SystemId() const
 {
     for (const HBCISegment& segment : m_segments) {
-        if (segment.Code() == "HISYN" && !segment.Element(1).isEmpty())
+        if (segment.Code() == "HISYN" && !segment.Element(1).isEmpty()) {
             return segment.Element(1);
+        }
     }
     return std::nullopt;
 }
@@ -315,8 +330,9 @@ QList<QByteArray> cBankAnswer::Parameters() const
     QList<QByteArray> parameters;
     for (const HBCISegment& segment : m_segments) {
         const QByteArray& code = segment.Code();
-        if (code == "HIBPA" || (code.size() == 6 && code.startsWith("HI") && code.endsWith('S')))
+        if (code == "HIBPA" || (code.size() == 6 && code.startsWith("HI") && code.endsWith('S'))) {
             parameters.append(segment.toString());
+        }
     }
     return parameters;
 }
@@ -326,8 +342,9 @@ QList<cBankAccount> cBankAnswer::Accounts() const
     QList<cBankAccount> accounts;
     for (const HBCISegment& segment : SegmentsOf("HIUPD")) {
         const cBankAccount account = AccountFrom(segment);
-        if (MayBeOffered(account))
+        if (MayBeOffered(account)) {
             accounts.append(account);
+        }
     }
     return accounts;
 }
@@ -355,8 +372,9 @@ QStringList cBankAnswer::Media() const
     for (const HBCISegment& segment : SegmentsOf("HITAB")) {
         for (int place = 2; place <= segment.ElementCount(); ++place) {
             const QString medium = ActiveMedium(segment, segment.Element(place));
-            if (!medium.isEmpty() && !media.contains(medium))
+            if (!medium.isEmpty() && !media.contains(medium)) {
                 media.append(medium);
+            }
         }
     }
     return media;
@@ -365,8 +383,9 @@ QStringList cBankAnswer::Media() const
 std::optional<cTanChallenge> cBankAnswer::Tan() const
 {
     const QList<HBCISegment> segments = SegmentsOf("HITAN");
-    if (segments.isEmpty())
+    if (segments.isEmpty()) {
         return std::nullopt;
+    }
     const auto hasChallenge = [](const HBCISegment& segment) { return !Named(segment, "Challenge").isEmpty(); };
     const auto found = std::find_if(segments.begin(), segments.end(), hasChallenge);
     const HBCISegment& segment = found == segments.end() ? segments[0] : *found;
@@ -392,8 +411,9 @@ QByteArray cBankAnswer::BookedMT940() const
     }
     QByteArray booked;
     booked.reserve(size);
-    for (const QByteArray& element : elements)
+    for (const QByteArray& element : elements) {
         booked.append(modFintsSplit::Data(element));
+    }
     return booked;
 }
 
@@ -404,8 +424,9 @@ QList<QByteArray> cBankAnswer::BookedCamt() const
         const QByteArray booked = Named(segment, "Booked");
         for (const QByteArrayView document : modFintsSplit::Group(booked)) {
             const QByteArrayView data = modFintsSplit::Data(document);
-            if (!data.isEmpty())
+            if (!data.isEmpty()) {
                 documents.append(data.toByteArray());
+            }
         }
     }
     return documents;
@@ -414,8 +435,9 @@ QList<QByteArray> cBankAnswer::BookedCamt() const
 std::optional<cBankBalanceRead> cBankAnswer::Balance() const
 {
     for (const HBCISegment& segment : SegmentsOf("HISAL")) {
-        if (const std::optional<cBankBalanceRead> balance = BalanceFrom(segment))
+        if (const std::optional<cBankBalanceRead> balance = BalanceFrom(segment)) {
             return balance;
+        }
     }
     return std::nullopt;
 }

@@ -15,10 +15,12 @@ static bool IsUnset(const QByteArray& systemId)
 
 bool cBankDialog::Open(const cOpening& opening)
 {
-    if (Start(opening))
+    if (Start(opening)) {
         return true;
-    if (!m_isSystemIdUnknown || m_run.Refused.IsSet() || opening.IsSync)
+    }
+    if (!m_isSystemIdUnknown || m_run.Refused.IsSet() || opening.IsSync) {
         return false;
+    }
     End();
     m_run.State.SystemId = "0";
     m_dialogId = "0";
@@ -46,10 +48,12 @@ QList<HBCISegment> cBankDialog::Initialisation(const cOpening& opening) const
                                              opening.IsFromScratch ? none : modBankMemory::BpdVersion(state),
                                              opening.IsFromScratch ? none : modBankMemory::UpdVersion(state),
                                              m_run.Parts.ProductId, m_run.Parts.ProductVersion));
-    if (opening.IsSync || IsUnset(m_systemId))
+    if (opening.IsSync || IsUnset(m_systemId)) {
         segments.append(HBCIFactory::Synchronisation(state.HbciVersion));
-    if (!modBankMemory::IsOneStep(m_method))
+    }
+    if (!modBankMemory::IsOneStep(m_method)) {
         segments.append(TanFor(opening.TanSegment));
+    }
     return segments;
 }
 
@@ -60,8 +64,9 @@ HBCISegment cBankDialog::TanFor(const QByteArray& segment) const
         request.Process = "1";
         request.OrderHash = QByteArray(20, '\0'); // no bank compares it; what counts is that there is one
     }
-    if (m_method.MediaNameRequired == u"1" || m_method.MediaNameRequired == u"2")
+    if (m_method.MediaNameRequired == u"1" || m_method.MediaNameRequired == u"2") {
         request.Medium = m_run.State.Medium;
+    }
     return HBCIFactory::Tan(m_method.SegmentVersion, request);
 }
 
@@ -84,77 +89,92 @@ cEnvelope cBankDialog::Envelope(const cSecret* tan) const
 std::optional<cBankAnswer> cBankDialog::Send(const QList<HBCISegment>& business)
 {
     std::optional<cBankAnswer> answer = Exchange(business, nullptr);
-    if (answer)
+    if (answer) {
         answer = Answered(*answer);
+    }
     return answer;
 }
 
 std::optional<cBankAnswer> cBankDialog::Order(const HBCISegment& order)
 {
-    if (modBankMemory::IsOneStep(m_method))
+    if (modBankMemory::IsOneStep(m_method)) {
         return Send({order});
+    }
     return Send({order, TanFor(order.Code())});
 }
 
 void cBankDialog::End()
 {
     const bool isKnown = m_dialogId != "0"; // the bank has not opened a dialog that could be ended
-    if (m_line == eLine::Closed || !isKnown || m_run.Refused.IsSet())
+    if (m_line == eLine::Closed || !isKnown || m_run.Refused.IsSet()) {
         return;
+    }
     m_line = eLine::Closed;
     ++m_number;
     cBankExchange exchange(m_run);
     const auto answer = exchange.Send(HBCIFactory::Message(Envelope(nullptr), {HBCIFactory::End(m_dialogId)}), nullptr);
-    if (!answer)
+    if (!answer) {
         return; // what was fetched has come; the bank ends the dialog by itself after a while
+    }
     const cBankError error = modBankFault::OfAnswer(*answer);
-    if (modBankFault::IsPinRefused(error.Failure.Fault))
+    if (modBankFault::IsPinRefused(error.Failure.Fault)) {
         m_run.Refused = error;
+    }
 }
 
 // A message and what is read from its answer in any case. The answer may be a refusal or a question.
 std::optional<cBankAnswer> cBankDialog::Exchange(const QList<HBCISegment>& business, const cSecret* tan)
 {
-    if (m_run.Refused.IsSet())
+    if (m_run.Refused.IsSet()) {
         return Stop(m_run.Refused);
-    if (m_run.Parts.User.IsCancelled())
+    }
+    if (m_run.Parts.User.IsCancelled()) {
         return Stop(modBankFault::Of(eBankFault::Cancelled));
+    }
     ++m_number;
     cBankExchange exchange(m_run);
     std::optional<cBankAnswer> answer = exchange.Send(HBCIFactory::Message(Envelope(tan), business), tan);
     if (!answer) {
-        if (!exchange.IsSent())
+        if (!exchange.IsSent()) {
             --m_number;
+        }
         return Stop(exchange.Error());
     }
     Heed(*answer);
     const cBankError error = modBankFault::OfAnswer(*answer);
-    if (!modBankFault::IsPinRefused(error.Failure.Fault))
+    if (!modBankFault::IsPinRefused(error.Failure.Fault)) {
         return answer;
+    }
     m_run.Refused = error;
     return Stop(error);
 }
 
 void cBankDialog::Heed(const cBankAnswer& answer)
 {
-    if (!answer.DialogId().isEmpty() && answer.DialogId() != "0")
+    if (!answer.DialogId().isEmpty() && answer.DialogId() != "0") {
         m_dialogId = answer.DialogId(); // an error may come with 0 in the middle of a dialog
+    }
     const QList<cBankAccount> found = modBankMemory::Take(answer, m_run.State);
-    if (!found.isEmpty())
+    if (!found.isEmpty()) {
         m_run.Found = found;
+    }
     const auto systemId = answer.SystemId();
-    if (systemId && !systemId->isEmpty())
+    if (systemId && !systemId->isEmpty()) {
         m_systemId = *systemId;
+    }
     const QString address = modBankMemory::Address(answer);
-    if (!address.isEmpty())
+    if (!address.isEmpty()) {
         m_run.AddressHint = modBankMemory::IsSameAddress(address, m_run.State.Url) ? QString() : address;
+    }
     m_run.HasFunctions = m_run.HasFunctions || answer.AllowedFunctions().has_value();
     const QString collected = answer.CollectedText();
-    if (!collected.isEmpty())
+    if (!collected.isEmpty()) {
         m_run.Collected += (m_run.Collected.isEmpty() ? QString() : u"\r\n"_s) + collected;
+    }
     m_isSystemIdUnknown = m_isSystemIdUnknown || answer.Has(u"9391");
-    if (answer.IsAborted())
+    if (answer.IsAborted()) {
         m_line = eLine::Closed;
+    }
 }
 
 std::nullopt_t cBankDialog::Fail(const cBankError& error)
@@ -165,7 +185,8 @@ std::nullopt_t cBankDialog::Fail(const cBankError& error)
 
 std::nullopt_t cBankDialog::Stop(const cBankError& error)
 {
-    if (m_line == eLine::Open)
+    if (m_line == eLine::Open) {
         m_line = eLine::Ending;
+    }
     return Fail(error);
 }

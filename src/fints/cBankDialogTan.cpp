@@ -16,8 +16,9 @@ using namespace Qt::Literals::StringLiterals;
 static bool IsQuestion(const cBankAnswer& answer)
 {
     const auto tan = answer.Tan();
-    if (!tan || tan->Process == "2" || tan->Process == "S" || answer.Has(u"3076"))
+    if (!tan || tan->Process == "2" || tan->Process == "S" || answer.Has(u"3076")) {
         return false;
+    }
     return answer.Has(u"3955") || (!tan->Challenge.isEmpty() && tan->Challenge != u"nochallenge");
 }
 
@@ -37,8 +38,9 @@ static cApproval ApprovalFor(const cTanChallenge& challenge, const TanVerfahrenI
     approval.Bank = BankOf(state);
     approval.Procedure = method.Name;
     approval.Medium = MediumOf(challenge, state);
-    if (challenge.Challenge != u"nochallenge")
+    if (challenge.Challenge != u"nochallenge") {
         approval.Challenge = modChallenge::Cleaned(challenge.Challenge);
+    }
     approval.WaitSeconds = method.WaitBeforeFirst;
     approval.IsAutomatic = method.IsAutomaticAllowed;
     approval.HasButton = method.IsManualAllowed || !method.IsAutomaticAllowed; // one way there has to be
@@ -51,18 +53,22 @@ static cApproval ApprovalFor(const cTanChallenge& challenge, const TanVerfahrenI
 std::optional<cBankAnswer> cBankDialog::Answered(const cBankAnswer& question)
 {
     const cBankError error = modBankFault::OfAnswer(question);
-    if (error.IsSet())
+    if (error.IsSet()) {
         return Fail(error);
-    if (modBankMemory::IsOneStep(m_method) || !IsQuestion(question))
+    }
+    if (modBankMemory::IsOneStep(m_method) || !IsQuestion(question)) {
         return question;
+    }
     const cTanChallenge challenge = *question.Tan();
     const bool isApproval = question.Has(u"3955") || modBankMemory::IsApproval(m_method);
     std::optional<cBankAnswer> answer = isApproval ? Approved(challenge) : WithTan(challenge);
-    if (!answer)
+    if (!answer) {
         return std::nullopt;
+    }
     const cBankError refusal = modBankFault::OfTanAnswer(*answer, isApproval);
-    if (refusal.IsSet())
+    if (refusal.IsSet()) {
         return Fail(refusal);
+    }
     return answer;
 }
 
@@ -70,12 +76,14 @@ std::optional<cBankAnswer> cBankDialog::WithTan(const cTanChallenge& challenge)
 {
     const std::optional<cSecret> tan = m_run.Parts.User.AskTan(
         modChallenge::Question(challenge, m_method, BankOf(m_run.State), MediumOf(challenge, m_run.State)));
-    if (!tan)
+    if (!tan) {
         return Stop(modBankFault::Of(eBankFault::Cancelled));
+    }
     const cTanRequest request{.Process = "2", .Reference = challenge.Reference};
     auto answer = Exchange({HBCIFactory::Tan(m_method.SegmentVersion, request)}, &*tan);
-    if (!answer && m_error.Failure.Fault == eBankFault::BrokenAnswer)
+    if (!answer && m_error.Failure.Fault == eBankFault::BrokenAnswer) {
         m_error.ErrorText = cText::Tr("Fehler: Ungültige Antwort nach TAN-Eingabe!");
+    }
     return answer;
 }
 
@@ -94,13 +102,16 @@ std::optional<cBankAnswer> cBankDialog::Polled(const cTanChallenge& challenge)
     const int version = std::max(m_method.SegmentVersion, 7); // the status request came with this version
     while (approval.MostAsked == 0 || approval.Asked < approval.MostAsked) {
         const bool isOver = approval.ValidUntil.isValid() && m_run.Parts.Clock.Now() > approval.ValidUntil;
-        if (m_run.Parts.User.WaitForApproval(approval) == eApproval::Cancel)
+        if (m_run.Parts.User.WaitForApproval(approval) == eApproval::Cancel) {
             return Stop(modBankFault::Of(eBankFault::Cancelled));
+        }
         auto answer = Exchange({HBCIFactory::Tan(version, request)}, nullptr);
-        if (!answer || !answer->Has(u"3956"))
+        if (!answer || !answer->Has(u"3956")) {
             return answer;
-        if (isOver)
+        }
+        if (isOver) {
             break; // asked once more after the time, because clocks differ
+        }
         ++approval.Asked;
         approval.WaitSeconds = m_method.WaitBeforeNext;
     }

@@ -20,8 +20,9 @@ static bool IsPage(const QByteArray& bytes)
 // answer may have 64 MB.
 static QByteArray FromBase64(QByteArray bytes)
 {
-    if (bytes.startsWith("HNHBK"))
+    if (bytes.startsWith("HNHBK")) {
         return bytes;
+    }
     bytes.removeIf([](char letter) { return letter == ' ' || letter == '\t' || letter == '\r' || letter == '\n'; });
     auto decoded = QByteArray::fromBase64Encoding(std::move(bytes), QByteArray::AbortOnBase64DecodingErrors);
     return decoded ? std::move(decoded.decoded) : QByteArray();
@@ -31,8 +32,9 @@ std::optional<cBankAnswer> cBankExchange::Send(const HBCIMessage& message, const
 {
     m_error = {};
     QList<const cSecret*> secrets{&m_run.Pin};
-    if (tan != nullptr)
+    if (tan != nullptr) {
         secrets.append(tan);
+    }
     QByteArray bytes = message.Text();
     m_run.Parts.Log.AddRequest(bytes, secrets, m_run.Parts.ProductId);
     QByteArray body = bytes.toBase64();
@@ -47,17 +49,20 @@ std::optional<cBankAnswer> cBankExchange::Send(const HBCIMessage& message, const
 
 std::optional<cBankAnswer> cBankExchange::Read(cHttpsAnswer answer, const QList<const cSecret*>& secrets)
 {
-    if (answer.Fault != eHttpsFault::None)
+    if (answer.Fault != eHttpsFault::None) {
         return Fail(modBankFault::OfTransport(answer, m_run.State.Url), answer.Reason);
+    }
     QByteArray bytes = std::move(answer.Bytes).trimmed();
-    if (bytes.isEmpty())
+    if (bytes.isEmpty()) {
         return Fail(modBankFault::Silence(m_run.State.Url), u"Leere Antwort."_s);
+    }
     const QByteArray beginning = bytes.left(500); // of a page, for the log
     const QByteArray message = IsPage(bytes) ? QByteArray() : FromBase64(std::move(bytes));
     m_run.Parts.Log.AddAnswer(message.isEmpty() ? beginning : message, secrets, m_run.Parts.ProductId);
     std::optional<cBankAnswer> read = cBankAnswer::Read(message);
-    if (!read)
+    if (!read) {
         return Fail(modBankFault::Of(eBankFault::BrokenAnswer), u"Die Antwort ist keine ganze Nachricht."_s);
+    }
     return read;
 }
 

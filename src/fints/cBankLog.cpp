@@ -24,8 +24,9 @@ QByteArray Raw(QStringView text)
 {
     QByteArray raw;
     raw.reserve(text.size());
-    for (const QChar character : text)
+    for (const QChar character : text) {
         raw.append(character.toLatin1());
+    }
     return raw;
 }
 
@@ -60,8 +61,9 @@ QByteArray Masked(const QByteArray& message, const QList<QByteArray>& secrets, c
     const auto mask = [&](const QByteArray& text) {
         return modLogMask::Covered(modLogMask::Covered(text, secrets, secretCover), product, productCover);
     };
-    if (message.size() <= longest)
+    if (message.size() <= longest) {
         return mask(message);
+    }
     const qsizetype searched = longest / 2 + margin;
     return Ends(mask(message.first(searched)), mask(message.last(searched)), message.size());
 }
@@ -94,13 +96,15 @@ void cBankLog::Add(const QByteArray& heading, const QByteArray& message, const Q
 {
     QList<QByteArray> needles;
     for (const cSecret* secret : secrets) {
-        if (secret != nullptr)
+        if (secret != nullptr) {
             AppendForms(needles, secret->Characters());
+        }
     }
     QList<QByteArray> product;
     AppendForms(product, productId);
     m_text += Line(heading) + Lines(Masked(message, needles, product)) + "\r\n";
     m_others += Line(heading) + Lines(Shortened(modLogMask::Message(message, needles + product, m_people))) + "\r\n";
-    for (QByteArray& needle : needles)
+    for (QByteArray& needle : needles) {
         cSecret::Wipe(needle);
+    }
 }

@@ -16,8 +16,9 @@ void AddContainer(const cShield& shield, const QList<QByteArrayView>& tokens, QL
     const QByteArrayView container = tokens.value(1);
     const qsizetype prefix = modFintsSplit::BinaryAt(container).Prefix;
     segments.append({shield.Wire(tokens[0]), {shield.Wire(container.first(prefix))}});
-    if (prefix > 0)
+    if (prefix > 0) {
         AddSegments(shield, container.sliced(prefix), segments);
+    }
 }
 
 void AddSegments(const cShield& shield, QByteArrayView text, QList<cWireSegment>& segments)
@@ -28,8 +29,9 @@ void AddSegments(const cShield& shield, QByteArrayView text, QList<cWireSegment>
             AddContainer(shield, tokens, segments);
         } else if (!token.trimmed().isEmpty()) {
             segments.append({shield.Wire(tokens[0]), {}});
-            for (const QByteArrayView element : tokens.sliced(1))
+            for (const QByteArrayView element : tokens.sliced(1)) {
                 segments.last().Elements.append(shield.Wire(element));
+            }
         }
     }
 }
@@ -63,8 +65,9 @@ void cShield::Walk(qsizetype from, qsizetype to, eLevel level)
             isStart = false;
         } else if (character == '?' && at + 1 < to) {
             const char released = m_wire[at + 1];
-            if (released == '?' || released == '\'' || released == '+')
+            if (released == '?' || released == '\'' || released == '+') {
                 Cover(at, at + 2);
+            }
             at += 2;
             isStart = false;
         } else {
@@ -80,15 +83,17 @@ void cShield::Walk(qsizetype from, qsizetype to, eLevel level)
 qsizetype cShield::PassBinary(qsizetype at, qsizetype to, qsizetype segment, eLevel level)
 {
     const modFintsSplit::cBinary binary = modFintsSplit::BinaryAt(m_wire.sliced(at, to - at));
-    if (binary.Prefix == 0)
+    if (binary.Prefix == 0) {
         return at + 1;
+    }
     const qsizetype data = at + binary.Prefix;
     m_isCut = m_isCut || binary.Length > to - data;
     const qsizetype end = data + std::min(binary.Length, to - data);
-    if (level == eLevel::Message && m_wire.sliced(segment).startsWith("HNVSD:"))
+    if (level == eLevel::Message && m_wire.sliced(segment).startsWith("HNVSD:")) {
         Walk(data, end, eLevel::Inner);
-    else
+    } else {
         Cover(at, end);
+    }
     return end;
 }
 

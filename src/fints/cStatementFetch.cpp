@@ -53,13 +53,15 @@ cFetchedAccount cStatementFetch::Fetch(const cFetchOrder& order)
         fetched.Failure = modBankFault::Of(eBankFault::NoStatements).Failure;
         return fetched;
     }
-    if (kind.MT940 == 0 || kind.MT940 > 6)
+    if (kind.MT940 == 0 || kind.MT940 > 6) {
         Complete(complete.Account);
+    }
     fetched.Account = complete.Account;
-    if (Pages(kind, complete, fetched))
+    if (Pages(kind, complete, fetched)) {
         Balance(fetched);
-    else
+    } else {
         fetched.Failure = m_dialog.Error().Failure;
+    }
     return fetched;
 }
 
@@ -73,8 +75,9 @@ cStatementFetch::cKind cStatementFetch::KindOf(const cBankAccount& account) cons
         kind.MT940 = hasFive ? 5 : highest > 5 ? highest : 0;
     }
     const bool hasCamt = modBankParameters::Offers(parameters, "HICAZS", 1);
-    if (kind.MT940 == 0 && hasCamt && IsAllowed(account, QStringLiteral("HKCAZ")))
+    if (kind.MT940 == 0 && hasCamt && IsAllowed(account, QStringLiteral("HKCAZ"))) {
         kind.Camt = modBankParameters::CamtFormat(parameters);
+    }
     return kind;
 }
 
@@ -83,8 +86,9 @@ HBCISegment cStatementFetch::Request(const cKind& kind, const cFetchOrder& order
     const auto national = modBankParameters::IsNationalAccountAllowed(m_run.State.Parameters)
         ? HBCIFactory::eNational::With
         : HBCIFactory::eNational::Without;
-    if (kind.MT940 > 0)
+    if (kind.MT940 > 0) {
         return HBCIFactory::Statement(kind.MT940, order.Account, order.From, order.To, point, national);
+    }
     return HBCIFactory::CamtStatement(order.Account, kind.Camt, order.From, order.To, point, national);
 }
 
@@ -95,17 +99,20 @@ bool cStatementFetch::Pages(const cKind& kind, const cFetchOrder& order, cFetche
     bool isWhole = false;
     while (true) {
         const auto answer = m_dialog.Order(Request(kind, order, point));
-        if (!answer)
+        if (!answer) {
             break;
+        }
         booked += answer->BookedMT940();
         fetched.Camt += answer->BookedCamt();
         point = answer->Continuation();
         isWhole = point.isEmpty();
-        if (isWhole)
+        if (isWhole) {
             break;
+        }
     }
-    if (!isWhole)
+    if (!isWhole) {
         CutToWholeStatements(booked);
+    }
     fetched.MT940 = BankText(booked);
     return isWhole;
 }
@@ -115,16 +122,18 @@ void cStatementFetch::Balance(cFetchedAccount& fetched)
 {
     const QList<QByteArray>& parameters = m_run.State.Parameters;
     const int version = modBankParameters::Version(parameters, "HISALS", fetched.Account.Iban.isEmpty() ? 6 : 7);
-    if (version < 5 || !IsAllowed(fetched.Account, QStringLiteral("HKSAL")))
+    if (version < 5 || !IsAllowed(fetched.Account, QStringLiteral("HKSAL"))) {
         return;
+    }
     const auto national = modBankParameters::IsNationalAccountAllowed(parameters) ? HBCIFactory::eNational::With
                                                                                   : HBCIFactory::eNational::Without;
     const HBCISegment request = HBCIFactory::Balance(version, fetched.Account, national);
     const auto answer =
         modBankParameters::NeedsTan(parameters, "HKSAL") ? m_dialog.Order(request) : m_dialog.Send({request});
     const auto balance = answer ? answer->Balance() : std::nullopt;
-    if (!balance)
+    if (!balance) {
         return;
+    }
     fetched.Balance = balance->Cents;
     fetched.BalanceDay = balance->Day;
 }
@@ -141,18 +150,21 @@ void cStatementFetch::Complete(cBankAccount& account)
             }
         }
     }
-    if (account.Bic.isEmpty())
+    if (account.Bic.isEmpty()) {
         account.Bic = m_run.State.Bic;
+    }
 }
 
 void cStatementFetch::AskForIbans()
 {
-    if (m_hasAskedForIbans || !modBankParameters::Offers(m_run.State.Parameters, "HISPAS", 1))
+    if (m_hasAskedForIbans || !modBankParameters::Offers(m_run.State.Parameters, "HISPAS", 1)) {
         return;
+    }
     m_hasAskedForIbans = true;
     const HBCISegment request = HBCIFactory::SepaAccounts();
     const auto answer = modBankParameters::NeedsTan(m_run.State.Parameters, "HKSPA") ? m_dialog.Order(request)
                                                                                      : m_dialog.Send({request});
-    if (answer)
+    if (answer) {
         modBankMemory::TakeIbans(answer->SepaAccounts(), m_run.State);
+    }
 }

@@ -141,22 +141,27 @@ static bool HasError(const cBankAnswer& answer)
 
 static eBankFault FaultOf(const cBankAnswer& answer)
 {
-    if (answer.IsLocked())
+    if (answer.IsLocked()) {
         return eBankFault::Locked; // a locked access answers "PIN wrong" too, to a right one
-    if (answer.IsWrongPin())
+    }
+    if (answer.IsWrongPin()) {
         return eBankFault::WrongPin;
-    if (!HasError(answer))
+    }
+    if (!HasError(answer)) {
         return eBankFault::None;
-    if (HasAny(answer, {u"3078", u"3079", u"9078", u"9952", u"9160", u"9400"}))
+    }
+    if (HasAny(answer, {u"3078", u"3079", u"9078", u"9952", u"9160", u"9400"})) {
         return eBankFault::Registration;
+    }
     return answer.IsAborted() ? eBankFault::EndedByBank : eBankFault::Other;
 }
 
 cBankError modBankFault::OfAnswer(const cBankAnswer& answer)
 {
     const eBankFault fault = FaultOf(answer);
-    if (fault == eBankFault::None)
+    if (fault == eBankFault::None) {
         return {};
+    }
     // The wrong PIN has a sentence of its own; everything else is told in the words of the bank.
     return Of(fault, fault == eBankFault::WrongPin ? QString() : answer.CollectedText(), answer.BankWords());
 }
@@ -165,9 +170,10 @@ cBankError modBankFault::OfTanAnswer(const cBankAnswer& answer, bool isApproval)
 {
     cBankError error = OfAnswer(answer);
     const bool isDenied = HasAny(answer, {u"9941", u"9943"});
-    if (isDenied && !IsPinRefused(error.Failure.Fault))
+    if (isDenied && !IsPinRefused(error.Failure.Fault)) {
         return Of(isApproval ? eBankFault::ApprovalRejected : eBankFault::TanWrong, answer.CollectedText(),
                   answer.BankWords());
+    }
     return error;
 }
 

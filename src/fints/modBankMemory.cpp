@@ -17,34 +17,41 @@ cBankAccount Completed(cBankAccount account, const QList<cBankAccount>& known)
     const auto same = std::find_if(known.begin(), known.end(), [&](const cBankAccount& old) {
         return old.Number == account.Number && old.SubNumber == account.SubNumber;
     });
-    if (same != known.end() && account.Iban.isEmpty())
+    if (same != known.end() && account.Iban.isEmpty()) {
         account.Iban = same->Iban;
-    if (same != known.end() && account.Bic.isEmpty())
+    }
+    if (same != known.end() && account.Bic.isEmpty()) {
         account.Bic = same->Bic;
+    }
     return account;
 }
 
 void TakeParameters(const cBankAnswer& answer, cBankState& state)
 {
     const QString version = answer.BpdVersion();
-    if (version.isEmpty())
+    if (version.isEmpty()) {
         return;
+    }
     state.BpdVersion = version;
     state.Parameters = answer.Parameters();
-    if (!answer.BankName().isEmpty())
+    if (!answer.BankName().isEmpty()) {
         state.BankName = answer.BankName();
+    }
 }
 
 // A version without accounts is none: before the strong authentication some banks tell only the version.
 QList<cBankAccount> TakeAccounts(const cBankAnswer& answer, cBankState& state)
 {
-    if (answer.SegmentsOf("HIUPD").isEmpty())
+    if (answer.SegmentsOf("HIUPD").isEmpty()) {
         return {};
-    if (!answer.UpdVersion().isEmpty())
+    }
+    if (!answer.UpdVersion().isEmpty()) {
         state.UpdVersion = answer.UpdVersion();
+    }
     QList<cBankAccount> accounts;
-    for (const cBankAccount& account : answer.Accounts())
+    for (const cBankAccount& account : answer.Accounts()) {
         accounts.append(Completed(account, state.Accounts));
+    }
     state.Accounts = accounts;
     return accounts;
 }
@@ -53,26 +60,32 @@ QList<cBankAccount> TakeAccounts(const cBankAnswer& answer, cBankState& state)
 void TakeMethods(const cBankAnswer& answer, cBankState& state)
 {
     const auto allowed = answer.AllowedFunctions();
-    if (allowed)
+    if (allowed) {
         state.AllowedFunctions = *allowed;
+    }
     state.Methods = modBankMemory::Methods(state);
-    if (!state.Method)
+    if (!state.Method) {
         return;
+    }
     for (const TanVerfahrenItem& method : std::as_const(state.Methods)) {
-        if (method.SecurityFunction == state.Method->SecurityFunction)
+        if (method.SecurityFunction == state.Method->SecurityFunction) {
             state.Method = method;
+        }
     }
 }
 
 void TakeMedia(const cBankAnswer& answer, cBankState& state)
 {
-    if (answer.SegmentsOf("HITAB").isEmpty())
+    if (answer.SegmentsOf("HITAB").isEmpty()) {
         return;
+    }
     state.Media = answer.Media();
-    if (!state.Media.isEmpty() && !state.Media.contains(state.Medium))
+    if (!state.Media.isEmpty() && !state.Media.contains(state.Medium)) {
         state.Medium.clear();
-    if (state.Medium.isEmpty() && state.Media.size() == 1)
+    }
+    if (state.Medium.isEmpty() && state.Media.size() == 1) {
         state.Medium = state.Media.constFirst();
+    }
 }
 
 } // namespace
@@ -80,12 +93,14 @@ void TakeMedia(const cBankAnswer& answer, cBankState& state)
 QList<cBankAccount> modBankMemory::Take(const cBankAnswer& answer, cBankState& state)
 {
     const auto systemId = answer.SystemId();
-    if (systemId && !systemId->isEmpty())
+    if (systemId && !systemId->isEmpty()) {
         state.SystemId = *systemId;
+    }
     const bool hasMethods = !answer.BpdVersion().isEmpty() || answer.AllowedFunctions().has_value();
     TakeParameters(answer, state);
-    if (hasMethods)
+    if (hasMethods) {
         TakeMethods(answer, state);
+    }
     TakeMedia(answer, state);
     return TakeAccounts(answer, state);
 }
@@ -126,8 +141,10 @@ QList<TanVerfahrenItem> modBankMemory::Methods(const cBankState& state)
         return !isSpoken || !state.AllowedFunctions.contains(method.SecurityFunction);
     });
     std::stable_partition(methods.begin(), methods.end(), IsApproval);
-    if (methods.isEmpty() && !state.AllowedFunctions.isEmpty() && modBankParameters::IsOneStepAllowed(state.Parameters))
+    if (methods.isEmpty() && !state.AllowedFunctions.isEmpty()
+        && modBankParameters::IsOneStepAllowed(state.Parameters)) {
         methods.append(OneStep(cText::Tr("Nur PIN")));
+    }
     return methods;
 }
 
@@ -138,8 +155,9 @@ bool modBankMemory::LacksMedium(const cBankState& state)
 
 void modBankMemory::TakeIbans(const QList<cBankAccount>& sepa, cBankState& state)
 {
-    for (cBankAccount& account : state.Accounts)
+    for (cBankAccount& account : state.Accounts) {
         account = Completed(account, sepa);
+    }
 }
 
 QString modBankMemory::Address(const cBankAnswer& answer)
@@ -148,8 +166,9 @@ QString modBankMemory::Address(const cBankAnswer& answer)
         for (int place = 3; place <= segment.ElementCount(); ++place) {
             const QByteArray element = segment.Element(place);
             const QList<QByteArrayView> group = modFintsSplit::Group(element);
-            if (group.size() < 2 || group.at(0) != "3") // 3 is HTTPS, others are services of old
+            if (group.size() < 2 || group.at(0) != "3") { // 3 is HTTPS, others are services of old
                 continue;
+            }
             const QString address = modFintsValue::Unescaped(group.at(1)).trimmed();
             return address.isEmpty() || address.contains(u"://") ? address : u"https://" + address;
         }

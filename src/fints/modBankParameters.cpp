@@ -206,11 +206,13 @@ QList<TanVerfahrenItem> RowsOf(const HBCISegment& segment)
         TanVerfahrenItem item;
         item.SegmentVersion = segment.Version();
         for (qsizetype i = 0; i < std::min(order.Count, fields.size() - from); ++i) {
-            if (!fields[from + i].isEmpty())
+            if (!fields[from + i].isEmpty()) {
                 Set(item, order.Fields[i], Unescaped(fields[from + i]));
+            }
         }
-        if (!item.SecurityFunction.isEmpty())
+        if (!item.SecurityFunction.isEmpty()) {
             rows.append(item);
+        }
     }
     return rows;
 }
@@ -221,11 +223,13 @@ QList<HBCISegment> SegmentsOf(const QList<QByteArray>& parameters, QByteArrayVie
     const QByteArray beginning = code.toByteArray() + ':';
     QList<HBCISegment> segments;
     for (const QByteArray& wire : parameters) {
-        if (!wire.startsWith(beginning))
+        if (!wire.startsWith(beginning)) {
             continue;
+        }
         const HBCISegment segment = HBCISegment::Read(wire);
-        if (segment.Version() >= 1 && segment.Version() <= most)
+        if (segment.Version() >= 1 && segment.Version() <= most) {
             segments.append(segment);
+        }
     }
     std::stable_sort(segments.begin(), segments.end(),
                      [](const HBCISegment& a, const HBCISegment& b) { return a.Version() > b.Version(); });
@@ -239,11 +243,13 @@ constexpr int plainElements = 2; // most orders, fewest signatures; what a segme
 QList<QByteArray> OwnFields(const QList<HBCISegment>& segments)
 {
     QList<QByteArray> fields;
-    if (segments.isEmpty() || segments[0].ElementCount() <= plainElements)
+    if (segments.isEmpty() || segments[0].ElementCount() <= plainElements) {
         return fields;
+    }
     const QByteArray group = segments[0].Element(static_cast<int>(segments[0].ElementCount()));
-    for (const QByteArrayView field : modFintsSplit::Group(group))
+    for (const QByteArrayView field : modFintsSplit::Group(group)) {
         fields.append(field.toByteArray());
+    }
     return fields;
 }
 
@@ -270,8 +276,9 @@ QList<TanVerfahrenItem> modBankParameters::Methods(const QList<QByteArray>& para
             const bool isKnown = std::any_of(methods.begin(), methods.end(), [&](const TanVerfahrenItem& item) {
                 return item.SecurityFunction == row.SecurityFunction;
             });
-            if (!isKnown)
+            if (!isKnown) {
                 methods.append(row);
+            }
         }
     }
     return methods;
@@ -317,8 +324,9 @@ bool modBankParameters::NeedsTan(const QList<QByteArray>& parameters, QByteArray
 {
     const QList<QByteArray> fields = OwnFields(SegmentsOf(parameters, "HIPINS", anyVersion));
     for (qsizetype i = firstTanPair; i + 1 < fields.size(); i += 2) {
-        if (fields[i] == segment)
+        if (fields[i] == segment) {
             return fields[i + 1] == "J";
+        }
     }
     return false;
 }

@@ -26,8 +26,9 @@ qsizetype LengthFrom(QByteArrayView digits)
 qsizetype PrefixIn(QByteArrayView range)
 {
     qsizetype at = range.indexOf('@');
-    while (at == 0 || (at > 0 && range[at - 1] != '+'))
+    while (at == 0 || (at > 0 && range[at - 1] != '+')) {
         at = range.indexOf('@', at + 1);
+    }
     return at == none ? none : at - 1;
 }
 
@@ -39,14 +40,17 @@ qsizetype SegmentEnd(QByteArrayView text, qsizetype start)
     for (qsizetype from = start;;) {
         const qsizetype candidate = end == none ? text.size() : end;
         const qsizetype at = PrefixIn(text.sliced(from, candidate - from));
-        if (at == none)
+        if (at == none) {
             return candidate;
+        }
         const modFintsSplit::cBinary binary = modFintsSplit::BinaryAt(text.sliced(from + at + 1));
-        if (binary.Prefix == 0)
+        if (binary.Prefix == 0) {
             return candidate;
+        }
         from = from + at + 1 + binary.Prefix + binary.Length;
-        if (from >= text.size())
+        if (from >= text.size()) {
             return text.size();
+        }
         end = text.indexOf('\'', from);
     }
 }
@@ -55,8 +59,9 @@ qsizetype SegmentEnd(QByteArrayView text, qsizetype start)
 qsizetype ElementEnd(QByteArrayView text, qsizetype start)
 {
     const modFintsSplit::cBinary binary = modFintsSplit::BinaryAt(text.sliced(start));
-    if (binary.Prefix > 0)
+    if (binary.Prefix > 0) {
         return std::min(start + binary.Prefix + binary.Length - 1, text.size());
+    }
     const qsizetype end = text.indexOf('+', start);
     return end == none ? text.size() : end;
 }
@@ -64,8 +69,9 @@ qsizetype ElementEnd(QByteArrayView text, qsizetype start)
 qsizetype GroupEnd(QByteArrayView text, qsizetype start)
 {
     qsizetype end = text.indexOf(':', start);
-    while (end > 0 && text[end - 1] == '?')
+    while (end > 0 && text[end - 1] == '?') {
         end = text.indexOf(':', end + 1);
+    }
     return end == none ? text.size() : end;
 }
 
@@ -87,8 +93,9 @@ QList<QByteArrayView> modFintsSplit::Split(QByteArrayView text, char separator)
         const qsizetype end = TokenEnd(text, start, separator);
         tokens.append(text.sliced(start, end - start));
         // A separator in the last place ends the text; no empty token follows it.
-        if (end >= text.size() - 1)
+        if (end >= text.size() - 1) {
             return tokens;
+        }
         start = end + 1;
     }
 }
@@ -96,29 +103,34 @@ QList<QByteArrayView> modFintsSplit::Split(QByteArrayView text, char separator)
 QList<QByteArrayView> modFintsSplit::Group(QByteArrayView element)
 {
     const cBinary binary = BinaryAt(element);
-    if (binary.Prefix > 0 && binary.Length >= element.size() - binary.Prefix)
+    if (binary.Prefix > 0 && binary.Length >= element.size() - binary.Prefix) {
         return {element};
+    }
     const cShield shield(element);
     QList<QByteArrayView> parts = Split(shield.Text(), ':');
-    for (QByteArrayView& part : parts)
+    for (QByteArrayView& part : parts) {
         part = shield.Wire(part);
+    }
     return parts;
 }
 
 modFintsSplit::cBinary modFintsSplit::BinaryAt(QByteArrayView text)
 {
-    if (!text.startsWith('@'))
+    if (!text.startsWith('@')) {
         return {};
+    }
     const qsizetype end = text.indexOf('@', 1);
-    if (end == none || !IsNumeric(text.sliced(1, end - 1)))
+    if (end == none || !IsNumeric(text.sliced(1, end - 1))) {
         return {};
+    }
     return {end + 1, LengthFrom(text.sliced(1, end - 1))};
 }
 
 QByteArrayView modFintsSplit::Data(QByteArrayView element)
 {
     const cBinary binary = BinaryAt(element);
-    if (binary.Prefix == 0)
+    if (binary.Prefix == 0) {
         return element;
+    }
     return element.sliced(binary.Prefix, std::min(binary.Length, element.size() - binary.Prefix));
 }

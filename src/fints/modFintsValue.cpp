@@ -6,8 +6,9 @@ QByteArray modFintsValue::Escaped(QStringView text)
     wire.reserve(2 * text.size()); // a growing copy would leave parts of a secret behind
     for (const QChar character : text) {
         const char byte = character.unicode() < 256 ? character.toLatin1() : '?';
-        if (QByteArrayView("?'+:@").contains(byte))
+        if (QByteArrayView("?'+:@").contains(byte)) {
             wire.append('?');
+        }
         wire.append(byte);
     }
     return wire;
@@ -18,8 +19,9 @@ QString modFintsValue::Unescaped(QByteArrayView wire)
     QString text;
     text.reserve(wire.size());
     for (qsizetype at = 0; at < wire.size(); ++at) {
-        if (wire[at] == '?' && at + 1 < wire.size())
+        if (wire[at] == '?' && at + 1 < wire.size()) {
             ++at;
+        }
         text.append(QLatin1Char(wire[at]));
     }
     return text;

@@ -29,10 +29,12 @@ const QRegularExpression& Numbers()
 
 void Mark(QBitArray& marks, QByteArrayView text, QByteArrayView needle)
 {
-    if (needle.isEmpty())
+    if (needle.isEmpty()) {
         return;
-    for (qsizetype at = text.indexOf(needle); at >= 0; at = text.indexOf(needle, at + 1))
+    }
+    for (qsizetype at = text.indexOf(needle); at >= 0; at = text.indexOf(needle, at + 1)) {
         marks.fill(true, at, at + needle.size());
+    }
 }
 
 // "@length@***" for each of a group of binaries; nothing when the element is none.
@@ -41,8 +43,9 @@ QByteArray Lengths(QByteArrayView element)
     QByteArray text;
     for (const QByteArrayView part : modFintsSplit::Group(element)) {
         const qsizetype prefix = modFintsSplit::BinaryAt(part).Prefix;
-        if (prefix == 0)
+        if (prefix == 0) {
             return {};
+        }
         text.append(text.isEmpty() ? "" : ":").append(part.first(prefix)).append(modLogMask::hidden);
     }
     return text;
@@ -52,8 +55,9 @@ void AddPeople(QByteArrayView element, QSet<QString>& people)
 {
     for (const QByteArrayView part : modFintsSplit::Group(element)) {
         const QString person = modFintsValue::Unescaped(part).trimmed();
-        if (person.size() >= shortestPerson)
+        if (person.size() >= shortestPerson) {
             people.insert(person);
+        }
     }
 }
 
@@ -67,22 +71,26 @@ public:
         const HBCISegment segment(wire.Head, {});
         QByteArray text = wire.Head.toByteArray();
         int place = 0;
-        for (const QByteArrayView element : wire.Elements)
+        for (const QByteArrayView element : wire.Elements) {
             text.append('+').append(
                 Element(element, modSegmentTable::Told(segment.Code(), segment.Version(), ++place)));
+        }
         return text;
     }
 
 private:
     [[nodiscard]] QByteArray Element(QByteArrayView element, eTold told)
     {
-        if (told == eTold::Person)
+        if (told == eTold::Person) {
             AddPeople(element, m_people);
-        if (element.isEmpty() || told == eTold::Open)
+        }
+        if (element.isEmpty() || told == eTold::Open) {
             return element.toByteArray();
+        }
         const QByteArray lengths = element.startsWith('@') ? Lengths(element) : QByteArray();
-        if (!lengths.isEmpty())
+        if (!lengths.isEmpty()) {
             return lengths;
+        }
         return told == eTold::Words ? modLogMask::Words(element, m_needles) : QByteArray(modLogMask::hidden);
     }
 
@@ -95,18 +103,21 @@ private:
 QByteArray modLogMask::Covered(QByteArray text, const QList<QByteArray>& needles, char cover)
 {
     QBitArray marks(text.size());
-    for (const QByteArray& needle : needles)
+    for (const QByteArray& needle : needles) {
         Mark(marks, text, needle);
-    for (qsizetype i = 0; i < marks.size(); ++i)
+    }
+    for (qsizetype i = 0; i < marks.size(); ++i) {
         text[i] = marks.testBit(i) ? cover : text[i];
+    }
     return text;
 }
 
 QByteArray modLogMask::Words(QByteArrayView text, const QList<QByteArray>& needles)
 {
     QBitArray marks(text.size());
-    for (const QByteArray& needle : needles)
+    for (const QByteArray& needle : needles) {
         Mark(marks, text, needle);
+    }
     QRegularExpressionMatchIterator matches = Numbers().globalMatch(QString::fromLatin1(text));
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
@@ -114,10 +125,11 @@ QByteArray modLogMask::Words(QByteArrayView text, const QList<QByteArray>& needl
     }
     QByteArray shown;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (!marks.testBit(i))
+        if (!marks.testBit(i)) {
             shown.append(text[i]);
-        else if (i == 0 || !marks.testBit(i - 1))
+        } else if (i == 0 || !marks.testBit(i - 1)) {
             shown.append(hidden);
+        }
     }
     return shown;
 }
@@ -125,12 +137,14 @@ QByteArray modLogMask::Words(QByteArrayView text, const QList<QByteArray>& needl
 QByteArray modLogMask::Message(const QByteArray& message, const QList<QByteArray>& needles, QSet<QString>& people)
 {
     const cShield shield(message);
-    if (!message.startsWith("HNHBK:") || shield.IsOverlong())
+    if (!message.startsWith("HNHBK:") || shield.IsOverlong()) {
         return Words(QByteArrayView(message).first(std::min(message.size(), mostWords)), needles);
+    }
     cMasking masking(needles, people);
     QByteArray text;
-    for (const cWireSegment& segment : SegmentsOf(shield))
+    for (const cWireSegment& segment : SegmentsOf(shield)) {
         text.append(masking.Segment(segment)).append('\'');
+    }
     return text;
 }
 
@@ -146,8 +160,9 @@ QString modLogMask::Without(QString text, const QStringList& people)
     needles.removeDuplicates();
     std::sort(needles.begin(), needles.end(), [](const QString& a, const QString& b) { return a.size() > b.size(); });
     for (const QString& needle : needles) {
-        if (needle.size() >= shortestPerson)
+        if (needle.size() >= shortestPerson) {
             text.replace(needle, QLatin1StringView(hidden), Qt::CaseInsensitive);
+        }
     }
     return text;
 }

@@ -134,16 +134,18 @@ const modSegmentTable::cRow* modSegmentTable::Find(QByteArrayView code, int vers
 int modSegmentTable::Version(QByteArrayView code, QStringView protocol)
 {
     const auto found = std::find_if(rows.begin(), rows.end(), [&](const cRow& row) { return code == row.Code; });
-    if (found == rows.end())
+    if (found == rows.end()) {
         return 0;
+    }
     return protocol == u"300" ? found->Version300 : found->Version220;
 }
 
 int modSegmentTable::Place(QByteArrayView code, int version, QByteArrayView name)
 {
     const cRow* const row = Find(code, version);
-    if (row == nullptr)
+    if (row == nullptr) {
         return 0;
+    }
     const auto found = std::find_if(row->Elements.begin(), row->Elements.end(), [&](const cElement& element) {
         return element.Name != nullptr && name == element.Name;
     });
@@ -152,8 +154,9 @@ int modSegmentTable::Place(QByteArrayView code, int version, QByteArrayView name
 
 modSegmentTable::eTold modSegmentTable::Told(QByteArrayView code, int version, int place)
 {
-    if (IsParameter(code))
+    if (IsParameter(code)) {
         return Open;
+    }
     const cRow* const row = Find(code, version);
     return row == nullptr ? Never : ElementAt(*row, place).Told;
 }

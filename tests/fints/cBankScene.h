@@ -41,8 +41,9 @@ public:
     [[nodiscard]] QList<cFetchOrder> Orders() const
     {
         QList<cFetchOrder> orders;
-        for (const cBankAccount& account : State.Accounts)
+        for (const cBankAccount& account : State.Accounts) {
             orders.append({.Account = account, .From = QDate(2026, 2, 1), .To = QDate(2026, 2, 28)});
+        }
         return orders;
     }
 

@@ -18,16 +18,18 @@ QByteArray Wrapped(const QByteArray& inner)
 cBankAnswer Read(const QByteArray& inner)
 {
     const std::optional<cBankAnswer> answer = cBankAnswer::Read(Wrapped(inner));
-    if (!answer)
+    if (!answer) {
         qFatal("no answer");
+    }
     return *answer;
 }
 
 QStringList Numbers(const QList<cBankAccount>& accounts)
 {
     QStringList numbers;
-    for (const cBankAccount& account : accounts)
+    for (const cBankAccount& account : accounts) {
         numbers.append(account.Number);
+    }
     return numbers;
 }
 
@@ -62,8 +64,9 @@ private Q_SLOTS:
         QFETCH(bool, isRead);
         const std::optional<cBankAnswer> answer = cBankAnswer::Read(bytes);
         QCOMPARE(answer.has_value(), isRead);
-        if (isRead)
+        if (isRead) {
             QVERIFY(answer->IsAborted());
+        }
     }
 
     void EchoesTextsOfTheBank()

@@ -130,8 +130,9 @@ private Q_SLOTS:
         const QByteArray text = SynchronisationText(u"220"_s);
         for (const char* head :
              {"HNHBK:1:3+000000000", "+220+0+1'", "HNVSK:998:2+PIN:1+", "@HNSHK:2:3+PIN:1+", "'HKIDN:3:2+",
-              "'HKVVB:4:2+", "'HKSYN:5:2+0'", "'HNSHA:6:1+1++12345'", "'HNHBS:7:1+1'"})
+              "'HKVVB:4:2+", "'HKSYN:5:2+0'", "'HNSHA:6:1+1++12345'", "'HNHBS:7:1+1'"}) {
             QVERIFY2(text.contains(head), head);
+        }
     }
 
     // Typed texts are escaped, what came from the bank is sent as it came.

@@ -18,8 +18,9 @@ cBankProfile Profile()
 // From the login to the bookings; false as soon as one step fails.
 bool Run(cBankScene& scene)
 {
-    if (!scene.Business.Discover() || !scene.Business.Refresh())
+    if (!scene.Business.Discover() || !scene.Business.Refresh()) {
         return false;
+    }
     return scene.Business.FetchAll(scene.Orders());
 }
 
@@ -65,8 +66,9 @@ void testBusinessLine::SurvivesAccidents_data()
     const QList<std::pair<QByteArray, int>> steps{{"HKIDN", 1}, {"HKIDN", 2}, {"HKTAN2", 1}, {"HKTAB", 1},
                                                   {"HKIDN", 3}, {"HKKAZ", 1}, {"HKTAN2", 2}, {"HKKAZ", 2}};
     for (const auto& [step, nth] : steps) {
-        for (const auto& [how, fault] : accidents)
+        for (const auto& [how, fault] : accidents) {
             QTest::addRow("%s %d, accident %d", step.constData(), nth, int(how)) << step << nth << how << fault;
+        }
     }
     // Everything had come before.
     for (const auto& [how, fault] : accidents) {
@@ -131,8 +133,9 @@ void testBusinessLine::StopsWhereTheBankStops_data()
     const QList<std::pair<QByteArray, int>> steps{{"HKIDN", 1},  {"HKIDN", 2}, {"HKTAN2", 1},
                                                   {"HKTAB", 1},  {"HKIDN", 3}, {"HKKAZ", 1},
                                                   {"HKTAN2", 2}, {"HKSAL", 1}, {"HKKAZ", 2}};
-    for (const auto& [step, nth] : steps)
+    for (const auto& [step, nth] : steps) {
         QTest::addRow("%s %d", step.constData(), nth) << step << nth << eBankFault::EndedByBank;
+    }
     QTest::newRow("last balance") << QByteArray("HKSAL") << 2 << eBankFault::None;
     QTest::newRow("end") << QByteArray("HKEND") << 1 << eBankFault::None;
 }

@@ -43,8 +43,9 @@ cBankProfile Refusing(const QByteArray& step, int nth, const QByteArray& words,
 QString Methods(const cBankState& state)
 {
     QStringList functions;
-    for (const TanVerfahrenItem& method : state.Methods)
+    for (const TanVerfahrenItem& method : state.Methods) {
         functions.append(method.SecurityFunction);
+    }
     return functions.join(u' ');
 }
 
@@ -146,9 +147,10 @@ void testBusinessSetUp::SaysWhatIsWrong_data()
     const QString pin = u"Sie haben die falsche PIN eingegeben. Häufige Fehleingaben können zur Sperrung von Ihrem "
                         "Account führen."_s;
     const QString sync = u"sync 999 0/0"_s;
-    for (const QByteArray code : {"9942", "9931", "9340", "9910", "9930", "9933"})
+    for (const QByteArray code : {"9942", "9931", "9340", "9910", "9930", "9933"}) {
         QTest::newRow(code.constData()) << Refusing("HKIDN", 1, code + "::Nein.") << eBankFault::WrongPin << pin
                                         << sync;
+    }
     QTest::newRow("wrong PIN by words") << Refusing("HKIDN", 1, u"9210::Die PIN ist ungültig."_s.toLatin1())
                                         << eBankFault::WrongPin << pin << sync;
     QTest::newRow("wrong PIN after the first dialog")
@@ -160,9 +162,10 @@ void testBusinessSetUp::SaysWhatIsWrong_data()
         bank.Refusals["HKIDN"] = {
             .Nth = 2, .Global = "0020::Gut.", .Local = "3931::Sperre liegt vor.", .Extra = "HITAN:6+4++12+TAN bitte"};
     }) << eBankFault::Locked << u"3931"_s << syncEnd + u"init 912 78/0 HKIDN";
-    for (const QByteArray code : {"3078", "3079", "9078", "9952", "9160", "9400"})
+    for (const QByteArray code : {"3078", "3079", "9078", "9952", "9160", "9400"}) {
         QTest::newRow(code.constData()) << Refusing("HKIDN", 1, code + "::Produkt.") << eBankFault::Registration
                                         << u"9050"_s << u"sync 999 0/0 | end"_s;
+    }
     QTest::newRow("login") << Refusing("HKIDN", 1, "9010::Benutzerkennung unbekannt.") << eBankFault::LoginRefused
                            << u"9050 Fehler.\r\n9010 Benutzerkennung"_s << u"sync 999 0/0 | end"_s;
     QTest::newRow("neither accounts nor procedures")

@@ -166,8 +166,9 @@ void testBusinessTan::KeepsSecretsOutOfTheLog()
     scene.Bank.Profile.Pin = "pi:n+wort";
     QVERIFY(scene.SetUp());
     QVERIFY(scene.Business.FetchAll(scene.Orders()));
-    for (const QString& secret : {u"pi:n"_s, u"n+wort"_s, u"pi?:n"_s, u"777666"_s, u"PRODUKTID0123"_s})
+    for (const QString& secret : {u"pi:n"_s, u"n+wort"_s, u"pi?:n"_s, u"777666"_s, u"PRODUKTID0123"_s}) {
         QVERIFY2(!scene.Log.Text().contains(secret), qPrintable(secret));
+    }
     QVERIFY(scene.Log.Text().contains(u"HKKAZ"));
 }
 

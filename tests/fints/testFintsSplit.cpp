@@ -10,8 +10,9 @@ namespace {
 QList<QByteArray> Copied(const QList<QByteArrayView>& tokens)
 {
     QList<QByteArray> copies;
-    for (const QByteArrayView token : tokens)
+    for (const QByteArrayView token : tokens) {
         copies.append(token.toByteArray());
+    }
     return copies;
 }
 
@@ -84,8 +85,9 @@ private Q_SLOTS:
         const cShield shield(message);
         QVERIFY(!shield.IsCut());
         QList<QByteArray> lines;
-        for (const cWireSegment& segment : SegmentsOf(shield))
+        for (const cWireSegment& segment : SegmentsOf(shield)) {
             lines.append(segment.Head.toByteArray() + " | " + Copied(segment.Elements).join(" | "));
+        }
         const QList<QByteArray> expected{
             "HNHBK:1:3 | 1",
             "HNVSK:998:3 | 2:13:@8@'''''''':5",

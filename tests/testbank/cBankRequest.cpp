@@ -19,8 +19,9 @@ public:
 private:
     void Check(bool isRight, const QString& rule)
     {
-        if (!isRight)
+        if (!isRight) {
             m_request.Faults.append(rule);
+        }
     }
     void ReadSegments(const QByteArray& text, QList<cRequestSegment>& segments);
     void CheckFrame();
@@ -76,8 +77,9 @@ QByteArray cBankRequest::Plain(const QByteArray& wire)
 {
     QByteArray plain;
     for (qsizetype at = 0; at < wire.size(); ++at) {
-        if (wire[at] == '?')
+        if (wire[at] == '?') {
             ++at;
+        }
         plain.append(wire.mid(at, 1));
     }
     return plain;
@@ -92,8 +94,9 @@ cRequestSegment cBankRequest::Of(const QByteArray& code) const
 
 QByteArray cBankRequest::Step() const
 {
-    if (Business.isEmpty())
+    if (Business.isEmpty()) {
         return {};
+    }
     const cRequestSegment& first = Business.constFirst();
     return first.Code == "HKTAN" ? first.Code + first.At(1) : first.Code;
 }
@@ -123,8 +126,9 @@ cBankRequest cReader::Read()
 {
     ReadSegments(m_message, m_outer);
     CheckFrame();
-    if (!m_request.Faults.isEmpty())
+    if (!m_request.Faults.isEmpty()) {
         return m_request;
+    }
     const QByteArray data = m_outer.at(2).At(1);
     const QByteArray inner = data.mid(data.indexOf('@', 1) + 1);
     Check(data == "@" + QByteArray::number(inner.size()) + "@" + inner, u"length of the binary data"_s);
@@ -132,8 +136,9 @@ cBankRequest cReader::Read()
     const bool isFramed =
         m_inner.size() > 2 && m_inner.constFirst().Code == "HNSHK" && m_inner.constLast().Code == "HNSHA";
     Check(isFramed, u"signature head and tail"_s);
-    if (!m_request.Faults.isEmpty())
+    if (!m_request.Faults.isEmpty()) {
         return m_request;
+    }
     CheckEncryption(m_outer.at(1));
     CheckSignature(m_inner.constFirst(), m_inner.constLast());
     CheckNumbers();
@@ -144,11 +149,13 @@ cBankRequest cReader::Read()
 void cReader::CheckFrame()
 {
     QList<QByteArray> codes;
-    for (const cRequestSegment& segment : std::as_const(m_outer))
+    for (const cRequestSegment& segment : std::as_const(m_outer)) {
         codes.append(segment.Code);
+    }
     Check(codes == QList<QByteArray>({"HNHBK", "HNVSK", "HNVSD", "HNHBS"}), u"frame of the message"_s);
-    if (!m_request.Faults.isEmpty())
+    if (!m_request.Faults.isEmpty()) {
         return;
+    }
     const cRequestSegment& head = m_outer.constFirst();
     m_request.Protocol = head.At(2);
     m_request.DialogId = head.At(3);
@@ -214,7 +221,8 @@ void cReader::CheckSignature(const cRequestSegment& head, const cRequestSegment&
 
 void cReader::CheckNumbers()
 {
-    for (qsizetype at = 0; at < m_inner.size(); ++at)
+    for (qsizetype at = 0; at < m_inner.size(); ++at) {
         Check(m_inner.at(at).Number == at + 2, u"number of segment "_s + QString::fromLatin1(m_inner.at(at).Code));
+    }
     Check(m_outer.constLast().Number == m_inner.constLast().Number + 1, u"number of the message end"_s);
 }

@@ -14,8 +14,9 @@ static QString Latin(const QByteArray& wire)
 void cTestBank::Complain(const QString& text)
 {
     m_complaints.append(text);
-    if (!IsLenient)
+    if (!IsLenient) {
         QTest::qFail(qPrintable(u"The bank complains: "_s + text + u" in "_s + Latin(LastText)), __FILE__, __LINE__);
+    }
 }
 
 QByteArray cTestBank::StepOf(const QByteArray& base64Body)
@@ -30,10 +31,12 @@ QByteArray cTestBank::Answer(const QByteArray& base64Body)
     LastText = decoded.decoded;
     m_replies.clear();
     const cBankRequest request = cBankRequest::Read(LastText);
-    for (const QString& fault : request.Faults)
+    for (const QString& fault : request.Faults) {
         Complain(fault);
-    if (request.Business.isEmpty())
+    }
+    if (request.Business.isEmpty()) {
         return Message("9110::Unbekannter Aufbau.+9800::Dialog abgebrochen.", request).toBase64();
+    }
     Note(request);
     CheckRequest(request);
     return Respond(request).toBase64();
@@ -45,8 +48,9 @@ QString cTestBank::Opening(const cBankRequest& request)
     const cRequestSegment tan = request.Of("HKTAN");
     QString text = request.Of("HKSYN").Code.isEmpty() ? u"init"_s : u"sync"_s;
     text += u' ' + Latin(request.Function + ' ' + preparation.At(1) + '/' + preparation.At(2));
-    if (!tan.Code.isEmpty())
+    if (!tan.Code.isEmpty()) {
         text += u' ' + Latin(tan.At(2));
+    }
     return text;
 }
 
@@ -54,16 +58,17 @@ void cTestBank::Note(const cBankRequest& request)
 {
     const QByteArray step = request.Step();
     const cRequestSegment& first = request.Business.constFirst();
-    if (step == "HKIDN")
+    if (step == "HKIDN") {
         Journal.append(Opening(request));
-    else if (step == "HKTAN2")
+    } else if (step == "HKTAN2") {
         Journal.append(u"TAN"_s);
-    else if (step == "HKTANS")
+    } else if (step == "HKTANS") {
         Journal.append(u"status"_s);
-    else if (step == "HKEND")
+    } else if (step == "HKEND") {
         Journal.append(u"end"_s);
-    else
+    } else {
         Journal.append(Latin(step) + QString::number(first.Version));
+    }
 }
 
 const cOfferedMethod* cTestBank::MethodOf(const cBankRequest& request) const
@@ -95,8 +100,9 @@ void cTestBank::CheckLogin(const cBankRequest& request)
 {
     Check(cBankRequest::Plain(request.Pin) == Profile.Pin || Profile.Refusals.contains("HKIDN"), u"PIN"_s);
     const cRequestSegment identification = request.Of("HKIDN");
-    if (identification.Code.isEmpty())
+    if (identification.Code.isEmpty()) {
         return;
+    }
     const bool isCustomer = identification.At(1) == "280:" + Profile.Code
         && cBankRequest::Plain(identification.At(2)) == Profile.User && identification.At(4) == "1";
     Check(isCustomer && identification.At(3) == request.SystemId && identification.Version == 2, u"identification"_s);
@@ -115,18 +121,21 @@ void cTestBank::CheckTanOrder(const cBankRequest& request)
 {
     const cRequestSegment tan = request.Of("HKTAN");
     const cOfferedMethod* method = MethodOf(request);
-    if (request.Function == "999")
+    if (request.Function == "999") {
         Check(tan.Code.isEmpty() && request.Tan.isEmpty(), u"no TAN in the one-step procedure"_s);
-    else
+    } else {
         Check(method != nullptr, u"security function"_s);
-    if (tan.Code.isEmpty() || method == nullptr)
+    }
+    if (tan.Code.isEmpty() || method == nullptr) {
         return;
+    }
     m_tanVersion = QByteArray::number(tan.Version);
     Check(tan.Version == method->Version, u"version of the TAN segment"_s);
-    if (tan.At(1) == "2" || tan.At(1) == "S")
+    if (tan.At(1) == "2" || tan.At(1) == "S") {
         CheckTan(request, tan);
-    else
+    } else {
         CheckTanWish(request, tan, *method);
+    }
 }
 
 void cTestBank::CheckTan(const cBankRequest& request, const cRequestSegment& tan)
@@ -154,17 +163,21 @@ void cTestBank::CheckTanWish(const cBankRequest& request, const cRequestSegment&
 QByteArray cTestBank::Respond(const cBankRequest& request)
 {
     const QByteArray step = request.Step();
-    if (auto refused = Refuse(request, step))
+    if (auto refused = Refuse(request, step)) {
         return *refused;
+    }
     const bool isSync = !request.Of("HKSYN").Code.isEmpty();
     if (isSync) {
-        if (auto refused = Refuse(request, "HKSYN"))
+        if (auto refused = Refuse(request, "HKSYN")) {
             return *refused;
+        }
     }
-    if (step == "HKIDN" && !isSync && !Profile.Systems.contains(request.SystemId))
+    if (step == "HKIDN" && !isSync && !Profile.Systems.contains(request.SystemId)) {
         return Refused(request, {.Nth = 0, .Local = "9391::Kundensystem-ID unbekannt."});
-    if (step == "HKTAN2" || step == "HKTANS")
+    }
+    if (step == "HKTAN2" || step == "HKTANS") {
         return TakeTan(request);
+    }
     if (step == "HKEND") {
         const QByteArray answer = Message("0100::Dialog beendet.", request);
         Check(request.Business.constFirst().At(1) == m_dialogId, u"the dialog that ends"_s);
@@ -172,8 +185,9 @@ QByteArray cTestBank::Respond(const cBankRequest& request)
         return answer;
     }
     const QByteArray order = request.Of("HKTAN").At(2);
-    if (auto asked = AskTan(request, order))
+    if (auto asked = AskTan(request, order)) {
         return *asked;
+    }
     Do(request, !order.isEmpty());
     if (!order.isEmpty()) {
         Say(request.Of("HKTAN").Number, "3076::Keine starke Authentifizierung erforderlich.");
@@ -194,24 +208,28 @@ std::optional<QByteArray> cTestBank::Refuse(const cBankRequest& request, const Q
 {
     const int times = ++m_times[step];
     const auto refusal = Profile.Refusals.constFind(step);
-    if (refusal == Profile.Refusals.cend() || (refusal->Nth != 0 && refusal->Nth != times))
+    if (refusal == Profile.Refusals.cend() || (refusal->Nth != 0 && refusal->Nth != times)) {
         return std::nullopt;
+    }
     return Refused(request, *refusal);
 }
 
 QByteArray cTestBank::Refused(const cBankRequest& request, const cRefusal& refusal)
 {
     m_isPinRefused = IsRefusalOfPin(refusal.Global + refusal.Local);
-    if (!refusal.Local.isEmpty())
+    if (!refusal.Local.isEmpty()) {
         Say(request.Business.constFirst().Number, refusal.Local);
+    }
     for (const QByteArray& extra : cBankRequest::Cut(refusal.Extra, '\'')) {
         const qsizetype head = extra.indexOf('+');
-        if (head > 0)
+        if (head > 0) {
             Add(extra.left(head), request.Business.constFirst().Number, extra.mid(head));
+        }
     }
     const QByteArray answer = Message(refusal.Global, request);
-    if (refusal.Global.contains("9800::"))
+    if (refusal.Global.contains("9800::")) {
         m_dialogId.clear();
+    }
     m_pending.reset();
     return answer;
 }
@@ -220,20 +238,24 @@ QByteArray cTestBank::Refused(const cBankRequest& request, const cRefusal& refus
 std::optional<QByteArray> cTestBank::AskTan(const cBankRequest& request, const QByteArray& order)
 {
     const auto asked = Profile.AskedTans.constFind(order);
-    if (order.isEmpty() || asked == Profile.AskedTans.cend())
+    if (order.isEmpty() || asked == Profile.AskedTans.cend()) {
         return std::nullopt;
-    if (asked->Times >= 0 && m_asked[order] >= asked->Times)
+    }
+    if (asked->Times >= 0 && m_asked[order] >= asked->Times) {
         return std::nullopt;
+    }
     const QByteArray number = QByteArray::number(++m_asked[order]);
     m_pending = cPending{
         .Reference = "4567-11-30?:" + order + '?' + '+' + number, .Request = request, .Tan = *asked, .Step = order};
-    if (!request.Of("HKSYN").Code.isEmpty())
+    if (!request.Of("HKSYN").Code.isEmpty()) {
         Synchronise(request);
+    }
     const int reference = request.Of("HKTAN").Number;
     Say(reference, asked->Code);
     QByteArray fields = "4++" + m_pending->Reference + "+" + asked->Challenge;
-    if (!asked->HhdUc.isEmpty())
+    if (!asked->HhdUc.isEmpty()) {
         fields += "+@" + QByteArray::number(asked->HhdUc.size()) + "@" + asked->HhdUc;
+    }
     Challenge(reference, fields);
     return Message("0010::Nachricht entgegengenommen.", request);
 }
@@ -241,8 +263,9 @@ std::optional<QByteArray> cTestBank::AskTan(const cBankRequest& request, const Q
 QByteArray cTestBank::TakeTan(const cBankRequest& request)
 {
     Check(m_pending.has_value(), u"a TAN was asked for"_s);
-    if (!m_pending)
+    if (!m_pending) {
         return Message("9050::Nichts offen.", request);
+    }
     const bool isStatus = request.Step() == "HKTANS";
     if (isStatus && m_pending->Tan.NotYet != 0) {
         m_pending->Tan.NotYet -= m_pending->Tan.NotYet > 0 ? 1 : 0;
@@ -252,8 +275,9 @@ QByteArray cTestBank::TakeTan(const cBankRequest& request)
     }
     const cPending pending = *m_pending;
     m_pending.reset();
-    if (!pending.Tan.Refusal.isEmpty())
+    if (!pending.Tan.Refusal.isEmpty()) {
         return Refused(request, {.Nth = 0, .Local = pending.Tan.Refusal});
+    }
     Challenge(request.Business.constFirst().Number, (isStatus ? "S++" : "2++") + pending.Reference);
     Do(pending.Request, true);
     return Message("0020::Auftrag erledigt.", request);
@@ -273,18 +297,21 @@ QByteArray cTestBank::Message(const QByteArray& global, const cBankRequest& requ
 {
     int number = Profile.IsSigned ? 3 : 2;
     QByteArray inner;
-    if (Profile.IsSigned)
+    if (Profile.IsSigned) {
         inner = "HNSHK:2:4+PIN:1+999+9999999+1+1+2::0+1+1+1:999:1+6:10:19+280:" + Profile.Code + ":x:S:0:0'";
+    }
     inner += "HIRMG:" + QByteArray::number(number++) + ":2+" + global + "'";
     for (const cReply& reply : std::as_const(m_replies)) {
         const QList<QByteArray> head = reply.Head.split(':');
         inner += head.at(0) + ":" + QByteArray::number(number++) + ":" + head.at(1);
-        if (reply.Reference > 0)
+        if (reply.Reference > 0) {
             inner += ":" + QByteArray::number(reply.Reference);
+        }
         inner += reply.Body + "'";
     }
-    if (Profile.IsSigned)
+    if (Profile.IsSigned) {
         inner += "HNSHA:" + QByteArray::number(number++) + ":2+9999999'";
+    }
     const QByteArray dialog = m_dialogId.isEmpty() ? "0" : m_dialogId;
     const QByteArray count = QByteArray::number(request.Number);
     QByteArray rest = "+300+" + dialog + "+" + count + "+" + dialog + ":" + count + "'";

@@ -54,8 +54,9 @@ private:
     void Complain(const QString& text);
     void Check(bool isRight, const QString& rule)
     {
-        if (!isRight)
+        if (!isRight) {
             Complain(rule);
+        }
     }
     void Note(const cBankRequest& request);
     [[nodiscard]] static QString Opening(const cBankRequest& request);

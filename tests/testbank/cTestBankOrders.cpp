@@ -11,38 +11,42 @@ using namespace Qt::Literals::StringLiterals;
 void cTestBank::Do(const cBankRequest& request, bool isStrong)
 {
     const cRequestSegment& first = request.Business.constFirst();
-    if (first.Code == "HKIDN")
+    if (first.Code == "HKIDN") {
         Open(request, isStrong);
-    else if (first.Code == "HKKAZ")
+    } else if (first.Code == "HKKAZ") {
         TellStatements(first);
-    else if (first.Code == "HKCAZ")
+    } else if (first.Code == "HKCAZ") {
         TellCamt(first);
-    else if (first.Code == "HKSAL")
+    } else if (first.Code == "HKSAL") {
         TellBalance(first);
-    else if (first.Code == "HKTAB")
+    } else if (first.Code == "HKTAB") {
         TellMedia(first);
-    else if (first.Code == "HKSPA")
+    } else if (first.Code == "HKSPA") {
         TellSepa(first);
-    else
+    } else {
         Complain(u"unknown order"_s);
+    }
 }
 
 void cTestBank::Open(const cBankRequest& request, bool isStrong)
 {
     const cRequestSegment preparation = request.Of("HKVVB");
     Say(preparation.Number, "0020::Angemeldet.");
-    if (!Profile.InitWords.isEmpty())
+    if (!Profile.InitWords.isEmpty()) {
         Say(preparation.Number, Profile.InitWords);
+    }
     if (Profile.IsListed) {
         QByteArray functions = Profile.Functions;
-        for (const cOfferedMethod& method : std::as_const(Profile.Methods))
+        for (const cOfferedMethod& method : std::as_const(Profile.Methods)) {
             functions += Profile.Functions.isEmpty() ? ":" + method.Function : QByteArray();
+        }
         Say(preparation.Number, "3920::Zugelassene Verfahren:" + functions.mid(functions.startsWith(':')));
     }
     TellParameters(preparation);
     Synchronise(request);
-    if (isStrong || request.Function != "999" || Profile.TellsAccountsAtOnce)
+    if (isStrong || request.Function != "999" || Profile.TellsAccountsAtOnce) {
         TellAccounts(preparation);
+    }
 }
 
 // The row of a procedure as the bank writes it, 21 fields in version 6 and 26 in version 7.
@@ -56,8 +60,9 @@ static QByteArray RowOf(const cOfferedMethod& method)
 
 void cTestBank::TellParameters(const cRequestSegment& preparation)
 {
-    if (preparation.At(1) == Profile.Bpd && Profile.RepeatsNothing)
+    if (preparation.At(1) == Profile.Bpd && Profile.RepeatsNothing) {
         return;
+    }
     const int reference = preparation.Number;
     Add("HIBPA:3", reference, "+" + Profile.Bpd + "+280:" + Profile.Code + "+" + Profile.Name + "+3+1+300+9999");
     for (const QByteArray& parameter : std::as_const(Profile.Parameters)) {
@@ -67,20 +72,24 @@ void cTestBank::TellParameters(const cRequestSegment& preparation)
     const QByteArray oneStep = Profile.IsOneStepAllowed ? "J" : "N";
     for (const int version : {6, 7}) {
         QByteArray rows;
-        for (const cOfferedMethod& method : std::as_const(Profile.Methods))
+        for (const cOfferedMethod& method : std::as_const(Profile.Methods)) {
             rows += method.Version == version ? RowOf(method) : QByteArray();
-        if (!rows.isEmpty())
+        }
+        if (!rows.isEmpty()) {
             Add("HITANS:" + QByteArray::number(version), reference, "+1+1+1+" + oneStep + ":N:0" + rows);
+        }
     }
     const qsizetype head = Profile.OldMethods.indexOf('+');
-    if (head > 0)
+    if (head > 0) {
         Add(Profile.OldMethods.left(head), reference, Profile.OldMethods.mid(head));
+    }
 }
 
 void cTestBank::TellAccounts(const cRequestSegment& preparation)
 {
-    if (preparation.At(2) == Profile.Upd && Profile.RepeatsNothing)
+    if (preparation.At(2) == Profile.Upd && Profile.RepeatsNothing) {
         return;
+    }
     Add("HIUPA:4", preparation.Number, "+" + Profile.User + "+" + Profile.Upd + "+0");
     for (const cOfferedAccount& account : std::as_const(Profile.Accounts)) {
         Add("HIUPD:6", preparation.Number,
@@ -92,8 +101,9 @@ void cTestBank::TellAccounts(const cRequestSegment& preparation)
 void cTestBank::Synchronise(const cBankRequest& request)
 {
     const cRequestSegment order = request.Of("HKSYN");
-    if (order.Code.isEmpty())
+    if (order.Code.isEmpty()) {
         return;
+    }
     const QByteArray id = "SYS?+" + QByteArray::number(Profile.Systems.size() + 1);
     Profile.Systems.append(id);
     m_systemId = id;
@@ -117,12 +127,14 @@ const cOfferedAccount* cTestBank::Account(const cRequestSegment& order, bool isI
         });
     const bool isFound = found != Profile.Accounts.end();
     const QByteArray national = number + "::280:" + Profile.Code;
-    if (!isIban)
+    if (!isIban) {
         Check(isFound && order.At(1) == national, u"account"_s);
-    else
+    } else {
         Check(isFound && parts.value(0) == IbanOf(*found) && !parts.value(1).isEmpty(), u"account with IBAN and BIC"_s);
-    if (!isFound)
+    }
+    if (!isFound) {
         return nullptr;
+    }
     Journal.last() += u' ' + QString::fromLatin1(found->Number);
     return &*found;
 }
@@ -144,8 +156,9 @@ qsizetype cTestBank::PageOf(const cRequestSegment& order, int place, qsizetype c
         Check(page > 0 && page < count, u"page of the continuation point"_s);
         Journal.last() += u" page "_s + QString::number(page + 1);
     }
-    if (page + 1 < count)
+    if (page + 1 < count) {
         Say(order.Number, "3040::Es liegen weitere Informationen vor.:" + Profile.Point + QByteArray::number(page + 1));
+    }
     return page;
 }
 
@@ -158,16 +171,20 @@ void cTestBank::TellStatements(const cRequestSegment& order)
 {
     const cOfferedAccount* account = Account(order, order.Version > 6);
     CheckPeriod(order, 3);
-    if (account == nullptr)
+    if (account == nullptr) {
         return;
-    if (!account->Refusal.isEmpty())
+    }
+    if (!account->Refusal.isEmpty()) {
         return Say(order.Number, account->Refusal);
-    if (account->Pages.isEmpty())
+    }
+    if (account->Pages.isEmpty()) {
         return Say(order.Number, "3010::Keine Buchungen.");
+    }
     const qsizetype page = PageOf(order, 6, account->Pages.size());
     QByteArray body = "+" + Binary(account->Pages.value(page));
-    if (!account->Pending.value(page).isEmpty())
+    if (!account->Pending.value(page).isEmpty()) {
         body += "+" + Binary(account->Pending.value(page));
+    }
     Add("HIKAZ:" + QByteArray::number(order.Version), order.Number, body);
 }
 
@@ -176,10 +193,12 @@ void cTestBank::TellCamt(const cRequestSegment& order)
     const cOfferedAccount* account = Account(order, true);
     CheckPeriod(order, 4);
     Check(order.At(2).contains("camt.052"), u"format"_s);
-    if (account == nullptr)
+    if (account == nullptr) {
         return;
-    if (account->Camt.isEmpty())
+    }
+    if (account->Camt.isEmpty()) {
         return Say(order.Number, "3010::Keine Buchungen.");
+    }
     const qsizetype page = PageOf(order, 7, account->Camt.size());
     Add("HICAZ:1", order.Number, "+" + order.Elements.at(0) + "+" + order.At(2) + "+" + Binary(account->Camt.at(page)));
 }
@@ -187,8 +206,9 @@ void cTestBank::TellCamt(const cRequestSegment& order)
 void cTestBank::TellBalance(const cRequestSegment& order)
 {
     const cOfferedAccount* account = Account(order, order.Version > 6);
-    if (account == nullptr)
+    if (account == nullptr) {
         return;
+    }
     Check(order.At(2) == "N" && order.Elements.size() == 2, u"balance of one account"_s);
     const QList<QByteArray> parts = account->Balance.split(':');
     Add("HISAL:" + QByteArray::number(order.Version), order.Number,
@@ -202,8 +222,9 @@ void cTestBank::TellMedia(const cRequestSegment& order)
               && order.Elements.size() == 2,
           u"request of the media"_s);
     QByteArray body = "+0";
-    for (const QByteArray& medium : std::as_const(Profile.Media))
+    for (const QByteArray& medium : std::as_const(Profile.Media)) {
         body += "+A:1" + QByteArray(order.Version == 5 ? 12 : 11, ':') + medium;
+    }
     Add("HITAB:" + QByteArray::number(order.Version), order.Number, body);
 }
 

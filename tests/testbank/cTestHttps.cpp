@@ -30,10 +30,12 @@ cHttpsAnswer cTestHttps::Post(const QString& url, const QByteArray& body)
 {
     ++Posts;
     const eSpoil fate = Fate(body);
-    if (fate == eSpoil::Certificate)
+    if (fate == eSpoil::Certificate) {
         return {.Fault = eHttpsFault::Certificate, .Bytes = {}, .Reason = u"self-signed"_s};
-    if (fate == eSpoil::NotReachable || url != Url)
+    }
+    if (fate == eSpoil::NotReachable || url != Url) {
         return {.Fault = eHttpsFault::NotReachable, .Bytes = {}, .Reason = u"host not found"_s};
+    }
     const QByteArray answer = m_bank.Answer(body);
     switch (fate) {
     case eSpoil::Silent: return {.Fault = eHttpsFault::Silent, .Bytes = {}, .Reason = u"timeout"_s};
