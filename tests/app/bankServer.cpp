@@ -1,3 +1,4 @@
+#include "app/cSystemClock.h"
 #include "cTlsServer.h"
 #include "support/bankMonth.h"
 #include "testbank/cTestBank.h"
@@ -21,7 +22,7 @@ int main(int argc, char* argv[])
     profile.Parameters.append("HICAZS:1+1+1+0+90:N:N:urn?:iso?:std?:iso?:20022?:tech?:xsd?:camt.052.001.08");
     cBankMonth month = cBankMonth::Example();
     for (cBankBooking& booking : month.Bookings) {
-        booking.Day = QDate::currentDate().addDays(booking.Day.day() - 31);
+        booking.Day = cSystemClock().Today().addDays(booking.Day.day() - 31);
     }
     profile.Accounts.append({.Number = "1234567",
                              .Iban = "DE02100200300001234567",

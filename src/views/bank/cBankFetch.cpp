@@ -1,8 +1,8 @@
 #include "views/bank/cBankFetch.h"
 
 #include "base/cBankUser.h"
-#include "base/cHttps.h"
 #include "base/cClock.h"
+#include "base/cHttps.h"
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"

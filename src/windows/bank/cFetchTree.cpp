@@ -20,8 +20,8 @@ const std::vector<cColumnFit::cColumn> columns{{34}, {18}, {34}, {28}};
 cFetchTree::cFetchTree(cBankFetch& fetch, QWidget* parent) : QTreeWidget(parent), m_fetch(fetch)
 {
     setColumnCount(ColumnCount);
-    setHeaderLabels({cText::Tr("Konto der Bank"), cText::Tr("Konto im Buch"), cText::Tr("Stand"),
-                     cText::Tr("Saldo laut Bank")});
+    setHeaderLabels(
+        {cText::Tr("Konto der Bank"), cText::Tr("Konto im Buch"), cText::Tr("Stand"), cText::Tr("Saldo laut Bank")});
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
