@@ -6,7 +6,9 @@
 #include <cstdint>
 #include <cstdio>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+// libFuzzer calls it by this name.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
+                                      std::size_t size); // NOLINT(readability-redundant-declaration)
 
 int main(int argc, char** argv)
 {

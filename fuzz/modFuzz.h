@@ -13,8 +13,8 @@ namespace modFuzz {
 // A reader and how its files are called.
 struct cTarget
 {
-    const char* Name;     // of the target and of its folder in corpus/
-    const char* FileName; // what a file of the format is called
+    const char* Name = nullptr;     // of the target and of its folder in corpus/
+    const char* FileName = nullptr; // what a file of the format is called
     eStatementFormat Format = eStatementFormat::Mt940;
     QString (*Fault)(const QByteArray& bytes) = nullptr; // of what is no statement: looks at the bytes itself
 };

@@ -46,26 +46,32 @@ void cBankWindows::OpenLogins(QWidget* parent)
     form.exec();
 }
 
-void cBankWindows::OpenSetup(const cBankState* login, QWidget* parent)
+QDate cBankWindows::OpenSetup(const cBankState* login, QWidget* parent)
 {
     cBankSetup setup({m_parts.Tools, *m_directory, *m_https, *m_customer, QCoreApplication::applicationVersion()});
     if (login != nullptr) {
         setup.Load(*login);
     }
     frmBankAssistent form(setup, m_parts.Tools.Clock.Today(), parent);
-    if (form.exec() == QDialog::Accepted) {
-        m_parts.Model.BookChanged(); // there may be new accounts
+    if (form.exec() != QDialog::Accepted) {
+        return {};
     }
+    m_parts.Model.BookChanged(); // there may be new accounts
+    return login == nullptr && setup.FirstDay() != setup.UsualFirstDay() ? setup.FirstDay() : QDate();
 }
 
 bool cBankWindows::OpenFetch(QWidget* parent)
 {
     bool isSettingUp = false;
+    QDate first;
     do {
         cBankFetch fetch(m_parts.Tools, m_parts.Review.Files(),
                          {*m_https, *m_customer, QCoreApplication::applicationVersion()});
         fetch.Load();
         frmAbruf form(fetch, parent);
+        if (first.isValid()) {
+            form.SetFrom(first);
+        }
         QObject::connect(&form, &frmAbruf::LogRequested, &form, [&] { OpenLog(fetch, &form); });
         isSettingUp = false;
         QObject::connect(&form, &frmAbruf::BanksRequested, &form, [&] {
@@ -76,7 +82,7 @@ bool cBankWindows::OpenFetch(QWidget* parent)
             return true;
         }
         if (isSettingUp) {
-            OpenSetup(nullptr, parent);
+            first = OpenSetup(nullptr, parent);
         }
     } while (isSettingUp);
     return false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDate>
+
 #include <memory>
 
 class cBankDirectory;
@@ -32,7 +34,8 @@ public:
     [[nodiscard]] bool OpenFetch(QWidget* parent);
 
 private:
-    void OpenSetup(const cBankState* login, QWidget* parent); // null: a new one
+    // The first day to fetch of a new login (null) where the user wished another than usual; else invalid.
+    QDate OpenSetup(const cBankState* login, QWidget* parent);
     void OpenLog(const class cBankFetch& fetch, QWidget* parent);
 
     cParts m_parts;

@@ -49,10 +49,10 @@ public:
     // the layer's own.
     [[nodiscard]] static sqlite3_vfs Over(const char* name, decltype(sqlite3_vfs::xOpen) open)
     {
-        m_below = sqlite3_vfs_find(nullptr);
-        sqlite3_vfs layer = *m_below;
-        layer.iVersion = std::min(m_below->iVersion, 2);
-        layer.szOsFile = static_cast<int>(sizeof(tFile)) + m_below->szOsFile;
+        s_below = sqlite3_vfs_find(nullptr);
+        sqlite3_vfs layer = *s_below;
+        layer.iVersion = std::min(s_below->iVersion, 2);
+        layer.szOsFile = static_cast<int>(sizeof(tFile)) + s_below->szOsFile;
         layer.pNext = nullptr;
         layer.zName = name;
         layer.xOpen = open;
@@ -67,7 +67,7 @@ public:
         return layer;
     }
 
-    [[nodiscard]] static sqlite3_vfs* Below() { return m_below; }
+    [[nodiscard]] static sqlite3_vfs* Below() { return s_below; }
 
     static int Close(sqlite3_file* file)
     {
@@ -86,8 +86,8 @@ private:
     template <auto tMember, typename... tArguments>
     static auto PassDown(sqlite3_vfs*, tArguments... arguments)
     {
-        return (m_below->*tMember)(m_below, arguments...);
+        return (s_below->*tMember)(s_below, arguments...);
     }
 
-    inline static sqlite3_vfs* m_below = nullptr;
+    inline static sqlite3_vfs* s_below = nullptr;
 };

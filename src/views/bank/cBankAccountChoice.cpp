@@ -11,14 +11,20 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// True when one of the words of the product stands in the name, or the other way round: "Giro Komfort" and "Girokonto".
+// True when one of the words of the product stands in the name, or the other way round: "Giro Komfort" and "Girokonto";
+// or when both tell the same kind of account: "Privatgiro" and "Girokonto".
 bool IsSimilar(const QString& product, const QString& name)
 {
+    constexpr std::array<QStringView, 5> kinds{u"giro", u"tagesgeld", u"festgeld", u"spar", u"kredit"};
+    const bool isSameKind = std::any_of(kinds.begin(), kinds.end(), [&](QStringView kind) {
+        return product.contains(kind, Qt::CaseInsensitive) && name.contains(kind, Qt::CaseInsensitive);
+    });
     static const QRegularExpression gap(u"[^\\p{L}]+"_s);
     constexpr qsizetype shortest = 4; // letters; "der" says nothing
     const auto stands = [](const QString& words, const QString& text) {
@@ -28,7 +34,7 @@ bool IsSimilar(const QString& product, const QString& name)
                 && word.compare(u"konto", Qt::CaseInsensitive) != 0;
         });
     };
-    return stands(product, name) || stands(name, product);
+    return isSameKind || stands(product, name) || stands(name, product);
 }
 
 } // namespace

@@ -86,7 +86,7 @@ public:
     void Field(const char* name, QList<QByteArray>& values) const
     {
         const QJsonArray array = Get(name).toArray();
-        for (const QJsonValue& value : array) {
+        for (const auto& value : array) {
             values.append(QByteArray::fromBase64(value.toString().toLatin1()));
         }
     }
@@ -95,8 +95,8 @@ public:
     void Field(const char* name, QList<tRecord>& records) const
     {
         const QJsonArray array = Get(name).toArray();
-        for (const QJsonValue& value : array) {
-            records.append(Read<tRecord>(value));
+        for (const auto& value : array) {
+            records.append(Read<tRecord>(QJsonValue(value)));
         }
     }
 
@@ -104,7 +104,7 @@ public:
     void Field(const char* name, std::optional<tRecord>& record) const
     {
         if (const QJsonValue value = Get(name); value.isObject()) {
-            record = Read<tRecord>(value);
+            record = Read<tRecord>(QJsonValue(value));
         }
     }
 

@@ -109,6 +109,12 @@ void frmAbruf::Connect()
     });
 }
 
+void frmAbruf::SetFrom(QDate day)
+{
+    m_from->SetDay(day);
+    m_range->setCurrentIndex(Named);
+}
+
 void frmAbruf::Start()
 {
     if (m_fetch.Accounts().isEmpty()) {

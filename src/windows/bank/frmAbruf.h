@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QDialog>
 
 class cBankFetch;
@@ -20,7 +21,8 @@ public:
     // `fetch` outlives the window.
     explicit frmAbruf(cBankFetch& fetch, QWidget* parent = nullptr);
 
-    void Start(); // what the button does
+    void SetFrom(QDate day); // fetches from this day to today
+    void Start();            // what the button does
     void reject() override;
 
 Q_SIGNALS:
