@@ -7112,10 +7112,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <translation>&amp;Protocol:</translation>
     </message>
     <message>
-        <source>Konto im Haushalt</source>
-        <translation>Account of the household</translation>
-    </message>
-    <message>
         <source>Saldo laut Bank</source>
         <translation>Balance at the bank</translation>
     </message>
@@ -7274,6 +7270,10 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     <message>
         <source>Jetzt &amp;prüfen</source>
         <translation>&amp;Check now</translation>
+    </message>
+    <message>
+        <source>Die Bank will wissen, welches TAN-Medium Sie benutzen. Wählen Sie es aus.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
