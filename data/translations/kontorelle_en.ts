@@ -7273,7 +7273,7 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     </message>
     <message>
         <source>Die Bank will wissen, welches TAN-Medium Sie benutzen. Wählen Sie es aus.</source>
-        <translation type="unfinished"></translation>
+        <translation>The bank wants to know which TAN medium you use. Choose one.</translation>
     </message>
 </context>
 </TS>
