@@ -7275,5 +7275,9 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <source>Die Bank will wissen, welches TAN-Medium Sie benutzen. Wählen Sie es aus.</source>
         <translation>The bank wants to know which TAN medium you use. Choose one.</translation>
     </message>
+    <message>
+        <source>Protoko&amp;ll…</source>
+        <translation>Lo&amp;g…</translation>
+    </message>
 </context>
 </TS>

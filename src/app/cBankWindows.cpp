@@ -53,6 +53,8 @@ QDate cBankWindows::OpenSetup(const cBankState* login, QWidget* parent)
         setup.Load(*login);
     }
     frmBankAssistent form(setup, m_parts.Tools.Clock.Today(), parent);
+    QObject::connect(&form, &frmBankAssistent::LogRequested, &form,
+                     [&] { OpenLog(setup.LogText(), setup.LogForOthers(), &form); });
     if (form.exec() != QDialog::Accepted) {
         return {};
     }
@@ -72,7 +74,8 @@ bool cBankWindows::OpenFetch(QWidget* parent)
         if (first.isValid()) {
             form.SetFrom(first);
         }
-        QObject::connect(&form, &frmAbruf::LogRequested, &form, [&] { OpenLog(fetch, &form); });
+        QObject::connect(&form, &frmAbruf::LogRequested, &form,
+                         [&] { OpenLog(fetch.LogText(), fetch.LogForOthers(), &form); });
         isSettingUp = false;
         QObject::connect(&form, &frmAbruf::BanksRequested, &form, [&] {
             isSettingUp = true;
@@ -88,10 +91,9 @@ bool cBankWindows::OpenFetch(QWidget* parent)
     return false;
 }
 
-void cBankWindows::OpenLog(const cBankFetch& fetch, QWidget* parent)
+void cBankWindows::OpenLog(const QString& text, const QString& forOthers, QWidget* parent)
 {
-    const cBankLogView log(fetch.LogText(), fetch.LogForOthers(),
-                           {m_parts.Tools.User, m_parts.Shell, m_parts.Tools.Clock});
+    const cBankLogView log(text, forOthers, {m_parts.Tools.User, m_parts.Shell, m_parts.Tools.Clock});
     frmProtokoll form(log, parent);
     form.exec();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QString>
 
 #include <memory>
 
@@ -36,7 +37,7 @@ public:
 private:
     // The first day to fetch of a new login (null) where the user wished another than usual; else invalid.
     QDate OpenSetup(const cBankState* login, QWidget* parent);
-    void OpenLog(const class cBankFetch& fetch, QWidget* parent);
+    void OpenLog(const QString& text, const QString& forOthers, QWidget* parent);
 
     cParts m_parts;
     std::unique_ptr<cQtHttps> m_https;

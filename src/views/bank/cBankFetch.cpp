@@ -526,12 +526,8 @@ QString cBankFetch::LogForOthers() const
 {
     QStringList people;
     for (const cLogin& login : m_logins) {
-        people.append(login.State.UserId);
-        for (const cBankAccount& account : login.Accounts) {
-            people += {account.Number, account.Iban, account.Owner1, account.Owner2, account.CustomerId};
-        }
+        people += modBankText::People(login.State);
     }
     people.removeDuplicates();
-    people.removeAll(QString());
     return m_log->TextForOthers(people);
 }

@@ -211,6 +211,16 @@ bool cBankSetup::Refresh()
     return true;
 }
 
+QString cBankSetup::LogText() const
+{
+    return m_log->Text();
+}
+
+QString cBankSetup::LogForOthers() const
+{
+    return m_log->TextForOthers(modBankText::People(m_state));
+}
+
 void cBankSetup::Cancel()
 {
     m_customer->SetCancelled(true);

@@ -77,6 +77,8 @@ public:
     void Cancel();
     [[nodiscard]] bool IsRunning() const { return m_isRunning; }
     [[nodiscard]] const cBankLog& Log() const { return *m_log; } // of all dialogs of this object
+    [[nodiscard]] QString LogText() const;
+    [[nodiscard]] QString LogForOthers() const;
 
     // The procedure, app approval first, and its medium
     [[nodiscard]] QStringList Methods() const; // names

@@ -62,3 +62,14 @@ QString modBankText::ProductVersion(const QString& version)
 {
     return version.section(u'.', 0, 0) + u'.' + version.section(u'.', 1, 1).rightJustified(2, u'0');
 }
+
+QStringList modBankText::People(const cBankState& state)
+{
+    QStringList people{state.UserId};
+    for (const cBankAccount& account : state.Accounts) {
+        people += {account.Number, account.Iban, account.Owner1, account.Owner2, account.CustomerId};
+    }
+    people.removeDuplicates();
+    people.removeAll(QString());
+    return people;
+}

@@ -5,6 +5,7 @@
 #include "model/TanVerfahrenItem.h"
 
 #include <QString>
+#include <QStringList>
 
 // What people read about a bank login.
 namespace modBankText {
@@ -29,5 +30,8 @@ namespace modBankText {
 
 // The version of the program as banks want it, with two digits behind the point: "3.4.1" gives "3.04".
 [[nodiscard]] QString ProductVersion(const QString& version);
+
+// Login, numbers and owners of a login's accounts: what others must not read in a log. Without empty ones.
+[[nodiscard]] QStringList People(const cBankState& state);
 
 } // namespace modBankText

@@ -14,7 +14,7 @@ namespace {
 // The bank's word with a letter for the keyboard, which must not be one of the other fields and buttons.
 QString WithMnemonic(const QString& label)
 {
-    const QString taken = QStringLiteral("zwpij");
+    const QString taken = QStringLiteral("zwpijl");
     QString text = QString(label).replace(u'&', QStringLiteral("&&"));
     for (qsizetype place = 0; place < text.size(); ++place) {
         if (text.at(place).isLetter() && !taken.contains(text.at(place), Qt::CaseInsensitive)) {

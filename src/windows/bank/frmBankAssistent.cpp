@@ -24,6 +24,7 @@ frmBankAssistent::frmBankAssistent(cBankSetup& setup, QDate today, QWidget* pare
       m_step(new QLabel(this)),
       m_problem(new QLabel(this)),
       m_words(new QLabel(this)),
+      m_log(new QPushButton(cText::Tr("Protoko&ll…"), this)),
       m_back(new QPushButton(cText::Tr("&Zurück"), this)),
       m_next(new QPushButton(this)),
       m_cancel(new QPushButton(cText::Tr("Abbrechen"), this))
@@ -52,13 +53,16 @@ frmBankAssistent::frmBankAssistent(cBankSetup& setup, QDate today, QWidget* pare
 QLayout* frmBankAssistent::BuildButtons()
 {
     auto* row = new QHBoxLayout;
+    row->addWidget(m_log);
     row->addStretch();
     row->addWidget(m_back);
     row->addWidget(m_next);
     row->addWidget(m_cancel);
+    m_log->setAutoDefault(false);
     m_back->setAutoDefault(false);
     m_cancel->setAutoDefault(false);
     m_next->setDefault(true);
+    connect(m_log, &QPushButton::clicked, this, &frmBankAssistent::LogRequested);
     connect(m_back, &QPushButton::clicked, this, &frmBankAssistent::Back);
     connect(m_next, &QPushButton::clicked, this, &frmBankAssistent::Next);
     connect(m_cancel, &QPushButton::clicked, this, &frmBankAssistent::reject);
@@ -127,6 +131,7 @@ void frmBankAssistent::ShowProblem()
     const QString words = m_setup.BankWords();
     m_step->clear();
     m_problem->setText(m_setup.Problem());
+    m_log->setVisible(!m_setup.Problem().isEmpty() && !m_setup.LogText().isEmpty());
     m_words->setText(words.isEmpty() ? QString() : cText::Tr("Die Bank schreibt:\n{0}", {words}));
     m_problem->setVisible(!m_setup.Problem().isEmpty());
     m_words->setVisible(!words.isEmpty());

@@ -23,6 +23,9 @@ public:
     // While a bank is being asked this ends the dialog with it; else it closes the window.
     void reject() override;
 
+Q_SIGNALS:
+    void LogRequested();
+
 private:
     [[nodiscard]] QLayout* BuildButtons();
     void Next();
@@ -38,6 +41,7 @@ private:
     QLabel* m_step;
     QLabel* m_problem;
     QLabel* m_words;
+    QPushButton* m_log; // only where there is something to look into
     QPushButton* m_back;
     QPushButton* m_next;
     QPushButton* m_cancel;
