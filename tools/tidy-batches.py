@@ -40,6 +40,8 @@ def own_names(path):
                 inside = True
             elif line.startswith('} // namespace'):
                 inside = False
+            elif line.startswith('int main('):
+                names.add('main')
             elif line.startswith('#define '):
                 names.add(re.split(r'[\s(]', line[len('#define '):])[0])
             elif found := TYPE.match(line):

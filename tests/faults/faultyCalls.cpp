@@ -3,7 +3,7 @@
 //   FAULT_KIND   kill: the program is killed before the call; torn: after half of the write; full, broken: the call
 //                fails with "no space left" or with an input/output error, and so do all that follow
 //   FAULT_COUNT  file to which the number of calls is written at the end
-//   FAULT_WAIT   1: nothing is counted until the program calls beginFaults()
+//   FAULT_WAIT   1: nothing is counted until the program calls BeginFaults()
 // Calls on the standard streams, pipes and /dev are left alone.
 
 #include <dlfcn.h>
@@ -96,7 +96,7 @@ struct cReport
 
 extern "C" {
 
-void beginFaults()
+void BeginFaults()
 {
     isWaiting = false;
 }

@@ -229,7 +229,7 @@ private:
 // From here on calls may go wrong.
 void BeginFaults()
 {
-    if (void* begin = dlsym(RTLD_DEFAULT, "beginFaults")) {
+    if (void* begin = dlsym(RTLD_DEFAULT, "BeginFaults")) {
         reinterpret_cast<void (*)()>(begin)(); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
     }
 }

@@ -41,7 +41,7 @@ private:
     cBankFetch& m_fetch;
     cFetchTree* m_accounts;
     QComboBox* m_range;
-    QWidget* m_days;
+    QWidget* m_days = nullptr;
     cDayEdit* m_from;
     cDayEdit* m_to;
     QLabel* m_details;

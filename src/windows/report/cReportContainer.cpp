@@ -21,10 +21,10 @@ QColor ToColor(const litehtml::web_color& color)
 }
 
 // The library hands pointers around as numbers.
-template <typename T>
-T& At(litehtml::uint_ptr handle)
+template <typename tTarget>
+tTarget& At(litehtml::uint_ptr handle)
 {
-    return *reinterpret_cast<T*>(handle); // NOLINT(performance-no-int-to-ptr)
+    return *reinterpret_cast<tTarget*>(handle); // NOLINT(performance-no-int-to-ptr)
 }
 
 cReportCanvas& Canvas(litehtml::uint_ptr handle)
