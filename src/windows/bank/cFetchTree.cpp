@@ -28,8 +28,14 @@ cFetchTree::cFetchTree(cBankFetch& fetch, QWidget* parent) : QTreeWidget(parent)
     setAllColumnsShowFocus(true);
     setAccessibleName(cText::Tr("Konten, die abgerufen werden"));
     header()->setSectionsMovable(false);
-    new cColumnFit(*this, columns, Account);
+    m_fit = new cColumnFit(*this, columns, Account);
     Fill();
+}
+
+// The model of a tree widget is one of its children and tells of its end, when there are no columns any more.
+cFetchTree::~cFetchTree()
+{
+    delete m_fit;
 }
 
 void cFetchTree::Fill()

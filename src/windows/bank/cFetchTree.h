@@ -4,6 +4,7 @@
 #include <QTreeWidget>
 
 class cBankFetch;
+class cColumnFit;
 
 // The accounts that can be fetched, those of a bank together, with what came of each.
 class cFetchTree final : public QTreeWidget
@@ -13,6 +14,7 @@ class cFetchTree final : public QTreeWidget
 public:
     // `fetch` outlives the tree.
     explicit cFetchTree(cBankFetch& fetch, QWidget* parent = nullptr);
+    ~cFetchTree() override;
 
     [[nodiscard]] QList<qsizetype> Chosen() const; // places in cBankFetch::Accounts
     [[nodiscard]] qsizetype Current() const;       // -1 for none
@@ -31,5 +33,6 @@ private:
     [[nodiscard]] QTreeWidgetItem* AddBank(const QString& name);
 
     cBankFetch& m_fetch;
+    cColumnFit* m_fit = nullptr;
     QList<QTreeWidgetItem*> m_items; // by account
 };
