@@ -24,7 +24,7 @@ namespace {
 // whatever file comes in its place.
 const QStringList companions{u"-journal"_s, u"-wal"_s, u"-shm"_s};
 
-const QString working = u".neu"_s;
+const QString workingEnd = u".neu"_s;
 
 std::filesystem::path Native(const QString& path)
 {
@@ -163,9 +163,9 @@ QString modBookFile::FreeName(const cShell& shell, const QString& path, QDate to
 
 QString modBookFile::WorkingName(const QString& path)
 {
-    QString name = path + working;
+    QString name = path + workingEnd;
     for (int number = 2; QFileInfo::exists(name); ++number) { // another program may be at the same work
-        name = path + working + QString::number(number);
+        name = path + workingEnd + QString::number(number);
     }
     return name;
 }
