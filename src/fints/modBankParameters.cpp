@@ -17,134 +17,49 @@ namespace {
 
 constexpr int newestMethods = 7; // version of HITANS that is understood
 
-// What a field of a row in HITANS says.
-enum class eField {
-    Ignored,
-    SecurityFunction,
-    TanProcess,
-    TechnicalIdentification,
-    ZkaName,
-    ZkaVersion,
-    Name,
-    TanLength,
-    Format,
-    ChallengeLabel,
-    ChallengeLength,
-    Structured,
-    ClassRequired,
-    AmountRequired,
-    InitMode,
-    MediaNameRequired,
-    HhdUcRequired,
-    ActiveMedia,
-    MostPolls,
-    WaitBeforeFirst,
-    WaitBeforeNext,
-    Manual,
-    Automatic,
+// What a field of a row in HITANS says, as a letter of the table below.
+enum eField : char {
+    Ignored = '.',
+    SecurityFunction = 'f',
+    TanProcess = 'p',
+    TechnicalIdentification = 't',
+    ZkaName = 'z',
+    ZkaVersion = 'v',
+    Name = 'n',
+    TanLength = 'l',
+    Format = 'x',
+    ChallengeLabel = 'L',
+    ChallengeLength = 'r',
+    Structured = 's',
+    ClassRequired = 'k',
+    AmountRequired = 'b',
+    InitMode = 'i',
+    MediaNameRequired = 'm',
+    HhdUcRequired = 'h',
+    ActiveMedia = 'a',
+    MostPolls = 'P',
+    WaitBeforeFirst = '1',
+    WaitBeforeNext = '2',
+    Manual = 'H',
+    Automatic = 'A',
 };
-using enum eField;
-
-// The fields of a row by version: lists, several TANs, time, cancelling and accounts are of no use here.
-constexpr std::array version1 = {SecurityFunction, TanProcess,     TechnicalIdentification, Name,    TanLength,
-                                 Format,           ChallengeLabel, ChallengeLength,         Ignored, Ignored,
-                                 Ignored};
-constexpr std::array version2 = {SecurityFunction,
-                                 TanProcess,
-                                 TechnicalIdentification,
-                                 Name,
-                                 TanLength,
-                                 Format,
-                                 ChallengeLabel,
-                                 ChallengeLength,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 ClassRequired,
-                                 AmountRequired};
-constexpr std::array version3 = {SecurityFunction,
-                                 TanProcess,
-                                 TechnicalIdentification,
-                                 Name,
-                                 TanLength,
-                                 Format,
-                                 ChallengeLabel,
-                                 ChallengeLength,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 ClassRequired,
-                                 AmountRequired,
-                                 InitMode,
-                                 MediaNameRequired,
-                                 ActiveMedia};
-constexpr std::array version4 = {
-    SecurityFunction, TanProcess,     TechnicalIdentification, ZkaName,        ZkaVersion, Name,     TanLength,
-    Format,           ChallengeLabel, ChallengeLength,         Ignored,        Ignored,    Ignored,  Ignored,
-    Ignored,          Ignored,        ClassRequired,           AmountRequired, Structured, InitMode, MediaNameRequired,
-    ActiveMedia};
-constexpr std::array version5 = {SecurityFunction, TanProcess, TechnicalIdentification,
-                                 ZkaName,          ZkaVersion, Name,
-                                 TanLength,        Format,     ChallengeLabel,
-                                 ChallengeLength,  Ignored,    Ignored,
-                                 Ignored,          Ignored,    Ignored,
-                                 Ignored,          Ignored,    ClassRequired,
-                                 Structured,       InitMode,   MediaNameRequired,
-                                 ActiveMedia};
-constexpr std::array version6 = {SecurityFunction,  TanProcess,    TechnicalIdentification,
-                                 ZkaName,           ZkaVersion,    Name,
-                                 TanLength,         Format,        ChallengeLabel,
-                                 ChallengeLength,   Ignored,       Ignored,
-                                 Ignored,           Ignored,       Ignored,
-                                 ClassRequired,     Structured,    InitMode,
-                                 MediaNameRequired, HhdUcRequired, ActiveMedia};
-constexpr std::array version7 = {SecurityFunction,
-                                 TanProcess,
-                                 TechnicalIdentification,
-                                 ZkaName,
-                                 ZkaVersion,
-                                 Name,
-                                 TanLength,
-                                 Format,
-                                 ChallengeLabel,
-                                 ChallengeLength,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 Ignored,
-                                 ClassRequired,
-                                 Structured,
-                                 InitMode,
-                                 MediaNameRequired,
-                                 HhdUcRequired,
-                                 ActiveMedia,
-                                 MostPolls,
-                                 WaitBeforeFirst,
-                                 WaitBeforeNext,
-                                 Manual,
-                                 Automatic};
 
 struct cOrder
 {
-    const eField* Fields;
-    qsizetype Count;
     qsizetype Before; // fields of the group in front of the rows
+    QByteArrayView Fields;
 };
 
-template <std::size_t count>
-constexpr cOrder Order(const std::array<eField, count>& fields, qsizetype before)
-{
-    return {fields.data(), count, before};
-}
-
-constexpr std::array<cOrder, newestMethods> orders = {Order(version1, 4), Order(version2, 3), Order(version3, 3),
-                                                      Order(version4, 3), Order(version5, 3), Order(version6, 3),
-                                                      Order(version7, 3)};
+// The fields of a row by version, from 1 on: lists, several TANs, time, cancelling and accounts are of no use here.
+constexpr std::array<cOrder, newestMethods> orders{{
+    {4, "fptnlxLr..."},
+    {3, "fptnlxLr.....kb"},
+    {3, "fptnlxLr.....kbima"},
+    {3, "fptzvnlxLr......kbsima"},
+    {3, "fptzvnlxLr.......ksima"},
+    {3, "fptzvnlxLr.....ksimha"},
+    {3, "fptzvnlxLr.....ksimhaP12HA"},
+}};
 
 bool IsYes(const QString& text)
 {
@@ -202,12 +117,12 @@ QList<TanVerfahrenItem> RowsOf(const HBCISegment& segment)
     const QByteArray group = segment.Element(static_cast<int>(segment.ElementCount()));
     const QList<QByteArrayView> fields = modFintsSplit::Group(group);
     QList<TanVerfahrenItem> rows;
-    for (qsizetype from = order.Before; from < fields.size(); from += order.Count) {
+    for (qsizetype from = order.Before; from < fields.size(); from += order.Fields.size()) {
         TanVerfahrenItem item;
         item.SegmentVersion = segment.Version();
-        for (qsizetype i = 0; i < std::min(order.Count, fields.size() - from); ++i) {
+        for (qsizetype i = 0; i < std::min(order.Fields.size(), fields.size() - from); ++i) {
             if (!fields[from + i].isEmpty()) {
-                Set(item, order.Fields[i], Unescaped(fields[from + i]));
+                Set(item, static_cast<eField>(order.Fields[i]), Unescaped(fields[from + i]));
             }
         }
         if (!item.SecurityFunction.isEmpty()) {
