@@ -60,8 +60,9 @@ private Q_SLOTS:
         cImportBook book;
         book.User.Choices = {u" Konto <123> "_s};
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Konto 123"_s);
-        QVERIFY(book.Data.FindAccount(u"Konto 123"_s));
-        QCOMPARE(book.Accounts.Proposal(u"12"_s), u"Konto 123"_s); // named like the number
+        QCOMPARE(book.Data.FindAccount(u"Konto 123"_s)->TemplateCategory, u"Bankkonten"_s);
+        QCOMPARE(modTemplate::AccountNames(book.Data.GetTemplates()).value(2), u"Konto 123"_s); // behind its group
+        QCOMPARE(book.Accounts.Proposal(u"12"_s), u"Konto 123"_s);                              // named like the number
         QVERIFY(!book.Accounts.Assign(u"9"_s, u" <> "_s));
     }
 

@@ -43,8 +43,8 @@ public:
     // first one of the group of the first that has no number yet. Empty when there is none.
     [[nodiscard]] QString Proposal(const QString& number) const;
 
-    // Remembers the account for the number; an account that does not exist yet is added to the book. False when the
-    // database refuses or the name is empty.
+    // Remembers the account for the number; an account that does not exist yet is added to the book, at the end
+    // of the group with most accounts. False when the database refuses or the name is empty.
     [[nodiscard]] bool Assign(const QString& number, const QString& account);
 
     // The account of the number, asked from the user when it is new. Empty when the user gives up.
