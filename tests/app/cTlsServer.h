@@ -36,6 +36,13 @@ public:
         return QStringLiteral("https://%1:%2/fints").arg(host).arg(m_server.serverPort());
     }
 
+    // The certificate that those of the tests are signed with.
+    [[nodiscard]] static QByteArray Authority()
+    {
+        QFile file(QStringLiteral(TEST_DATA "/tls/authority.pem"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     // Says nothing and closes the connection.
     static inline const QByteArray Hangup = "hang up";
 

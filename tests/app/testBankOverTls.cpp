@@ -8,18 +8,11 @@
 #include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QByteArray Authority()
-{
-    QFile file(QStringLiteral(TEST_DATA "/tls/authority.pem"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // The household whose bank is reached over the network.
 struct cScene : cHousehold
@@ -37,7 +30,7 @@ struct cScene : cHousehold
     }
 
     cTlsServer Server{u"bank"_s, [this](const QByteArray& body) { return cTlsServer::Page(Bank.Answer(body)); }};
-    cQtHttps Secure{{}, Authority()};
+    cQtHttps Secure{{}, cTlsServer::Authority()};
 };
 
 } // namespace

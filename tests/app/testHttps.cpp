@@ -1,7 +1,6 @@
 #include "cTlsServer.h"
 #include "net/cQtHttps.h"
 
-#include <QFile>
 #include <QTest>
 #include <QTimer>
 
@@ -9,12 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-QByteArray Authority()
-{
-    QFile file(QStringLiteral(TEST_DATA "/tls/authority.pem"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QByteArray Redirect(const QByteArray& to)
 {
@@ -42,7 +35,7 @@ void testHttps::BringsBytesThereAndBack()
     const QByteArray answer = QByteArray("SE5IQks=\r\n\0") + QByteArray(200'000, '\xe4');
     cTlsServer server(u"bank"_s, [&](const QByteArray&) { return cTlsServer::Page(answer); });
     QVERIFY(server.IsListening());
-    cQtHttps https({}, Authority());
+    cQtHttps https({}, cTlsServer::Authority());
 
     for (int i = 0; i < 2; ++i) {
         const cHttpsAnswer came = https.Post(server.Url(), "SGFsbG8=");
@@ -70,7 +63,7 @@ void testHttps::SendsNothingWhereItDoesNotTrust()
     QFETCH(bool, knowsAuthority);
     cTlsServer server(certificate, [](const QByteArray&) { return cTlsServer::Page("x"); });
     QVERIFY(server.IsListening());
-    cQtHttps https({}, knowsAuthority ? Authority() : QByteArray());
+    cQtHttps https({}, knowsAuthority ? cTlsServer::Authority() : QByteArray());
 
     const cHttpsAnswer came = https.Post(server.Url(), "geheim");
 
@@ -102,7 +95,7 @@ void testHttps::SaysWhatWentWrong()
     QVERIFY(server.IsListening());
     // Only where nothing comes is it waited for; a busy machine may take its time for the rest.
     const auto silence = answer.isEmpty() ? std::chrono::milliseconds(2s) : std::chrono::milliseconds(60s);
-    cQtHttps https({.Silence = silence, .Whole = 60s, .MostBytes = 2000}, Authority());
+    cQtHttps https({.Silence = silence, .Whole = 60s, .MostBytes = 2000}, cTlsServer::Authority());
 
     const cHttpsAnswer came = https.Post(server.Url(), "SGFsbG8=");
 
@@ -118,7 +111,7 @@ void testHttps::EndsWhenCancelled()
 {
     cTlsServer server(u"bank"_s, [](const QByteArray&) { return QByteArray(); });
     QVERIFY(server.IsListening());
-    cQtHttps https({}, Authority());
+    cQtHttps https({}, cTlsServer::Authority());
     https.Cancel(); // nothing runs
     QTimer cancel;
     connect(&cancel, &QTimer::timeout, &cancel, [&] {

@@ -30,6 +30,20 @@ public:
             + "NMSC\r\n:86:177?00LASTSCHRIFT?20" + purpose + "\r\n:62F:C260202EUR9,00\r\n-";
     }
 
+    // The procedure of a bank's app, and the wish for an approval in it.
+    [[nodiscard]] static cOfferedMethod App(const QByteArray& polls)
+    {
+        return {
+            .Function = "946", .Version = 7, .Technical = "App", .Zka = "DECOUPLEDPush", .Name = "App", .Polls = polls};
+    }
+    [[nodiscard]] static cAskedTan Approval(int notYet, const QByteArray& refusal = {})
+    {
+        return {.Challenge = "Bitte <b>freigeben</b>",
+                .Code = "3955::Freigabe in der App.",
+                .NotYet = notYet,
+                .Refusal = refusal};
+    }
+
     // Finds and refreshes, as a set-up does; the journal and the run of approvals begin anew.
     [[nodiscard]] bool SetUp()
     {

@@ -6,25 +6,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-cOfferedMethod App()
-{
-    return {.Function = "946",
-            .Version = 7,
-            .Technical = "Decoupled",
-            .Zka = "DECOUPLED",
-            .Name = "App",
-            .Polls = "5:3:2:J:J"};
-}
-
-cAskedTan Approval(int notYet)
-{
-    return {
-        .Challenge = "Bitte freigeben",
-        .Code = "3955::Freigabe in der App.",
-        .NotYet = notYet,
-    };
-}
-
 cBankProfile Profile(void (*change)(cBankProfile&))
 {
     cBankProfile profile;
@@ -81,8 +62,8 @@ void testBusinessSetUp::FindsAccounts_data()
     QTest::newRow("behind a TAN") << Profile([](cBankProfile& bank) { bank.AskedTans["HKIDN"] = {}; })
                                   << syncEnd + u"init 912 78/0 HKIDN | TAN? | TAN | HKTAB4 | end";
     QTest::newRow("behind an approval") << Profile([](cBankProfile& bank) {
-        bank.Methods = {App()};
-        bank.AskedTans["HKIDN"] = Approval(2);
+        bank.Methods = {cBankScene::App("5:3:2:J:J")};
+        bank.AskedTans["HKIDN"] = cBankScene::Approval(2);
     }) << syncEnd + u"init 946 78/0 HKIDN | wait 3 | status | wait 2 | status | wait 2 | status | done | HKTAB4 | end";
     QTest::newRow("medium has to be named") << Profile([](cBankProfile& bank) {
         bank.Methods = {{.Function = "912", .MediumRequired = "2"}};
@@ -237,7 +218,7 @@ void testBusinessSetUp::RemembersWhatCameBeforeAFailure()
 void testBusinessSetUp::OffersApprovalFirst()
 {
     cBankScene scene(Profile([](cBankProfile& bank) {
-        bank.Methods = {{.Function = "912"}, {.Function = "913", .Version = 7}, App()};
+        bank.Methods = {{.Function = "912"}, {.Function = "913", .Version = 7}, cBankScene::App({})};
         bank.Functions = "912:946:913:999";
     }));
     QVERIFY(scene.Business.Discover());

@@ -14,19 +14,6 @@ cBankProfile WithMethod(const cOfferedMethod& method, const cAskedTan& tan)
     return profile;
 }
 
-cOfferedMethod App(const QByteArray& polls)
-{
-    return {.Function = "946", .Version = 7, .Technical = "App", .Zka = "DecoupledPush", .Name = "App", .Polls = polls};
-}
-
-cAskedTan Approval(int notYet, const QByteArray& refusal = {})
-{
-    return {.Challenge = "Bitte <b>freigeben</b>",
-            .Code = "3955::Freigabe in der App.",
-            .NotYet = notYet,
-            .Refusal = refusal};
-}
-
 } // namespace
 
 // TANs and approvals of one fetch.
@@ -50,14 +37,15 @@ void testBusinessTan::AsksForApproval_data()
 {
     QTest::addColumn<cBankProfile>("profile");
     QTest::addColumn<QString>("story");
-    QTest::newRow("at once") << WithMethod(App("0:0:0:J:J"), Approval(0)) << u"wait 0 | status 111 | done"_s;
+    QTest::newRow("at once") << WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(0))
+                             << u"wait 0 | status 111 | done"_s;
     QTest::newRow("after the waits of the bank")
-        << WithMethod(App("3:10:4:J:J"), Approval(2))
+        << WithMethod(cBankScene::App("3:10:4:J:J"), cBankScene::Approval(2))
         << u"wait 10 | status | wait 4 | status | wait 4 | status 111 | done"_s;
-    cAskedTan received = Approval(0);
+    cAskedTan received = cBankScene::Approval(0);
     received.Code = "0030::Auftrag empfangen.";
     QTest::newRow("with the code of a TAN")
-        << WithMethod(App("0:0:0:J:J"), received) << u"wait 0 | status 111 | done"_s;
+        << WithMethod(cBankScene::App("0:0:0:J:J"), received) << u"wait 0 | status 111 | done"_s;
 }
 
 void testBusinessTan::AsksForApproval()
@@ -80,14 +68,16 @@ void testBusinessTan::EndsWithoutApproval_data()
     QTest::addColumn<eBankFault>("fault");
     QTest::addColumn<QString>("story");
     QTest::newRow("as often as the bank allows")
-        << WithMethod(App("2:5:2:J:J"), Approval(-1)) << 0 << eBankFault::ApprovalMissing
+        << WithMethod(cBankScene::App("2:5:2:J:J"), cBankScene::Approval(-1)) << 0 << eBankFault::ApprovalMissing
         << u"wait 5 | status | wait 2 | status | done | end"_s;
-    QTest::newRow("rejected") << WithMethod(App("0:0:0:J:J"), Approval(1, "9941::Abgelehnt.")) << 0
-                              << eBankFault::ApprovalRejected << u"wait 0 | status | wait 0 | status | done | end"_s;
-    QTest::newRow("something else is wrong") << WithMethod(App("0:0:0:J:J"), Approval(0, "9210::Konto gesperrt.")) << 0
-                                             << eBankFault::Other << u"wait 0 | status | done | end"_s;
-    QTest::newRow("cancelled") << WithMethod(App("0:0:1:J:J"), Approval(-1)) << 2 << eBankFault::Cancelled
-                               << u"wait 0 | status | wait 1 | done | end"_s;
+    QTest::newRow("rejected") << WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(1, "9941::Abgelehnt."))
+                              << 0 << eBankFault::ApprovalRejected
+                              << u"wait 0 | status | wait 0 | status | done | end"_s;
+    QTest::newRow("something else is wrong")
+        << WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(0, "9210::Konto gesperrt.")) << 0
+        << eBankFault::Other << u"wait 0 | status | done | end"_s;
+    QTest::newRow("cancelled") << WithMethod(cBankScene::App("0:0:1:J:J"), cBankScene::Approval(-1)) << 2
+                               << eBankFault::Cancelled << u"wait 0 | status | wait 1 | done | end"_s;
 }
 
 void testBusinessTan::EndsWithoutApproval()
