@@ -2,7 +2,8 @@
 // counting its lines.
 //   readStatement FILE           reads it as the program would
 //   readStatement --floor FILE   the floor
-//   readStatement --write FOLDER  writes 100,000 transactions in each format; bench/reading.sh does all of it
+//   readStatement --write FOLDER [DAYS]  writes 100,000 transactions of 700 or so many days in each format;
+//                                        bench/reading.sh and bench/fetching.sh do all of it
 
 #include "import/stage/modStatementFormat.h"
 
@@ -20,13 +21,15 @@ namespace {
 
 constexpr int rows = 100000;
 
-QByteArray Day(int row, const QString& format)
+// The last day is always the same one.
+QByteArray Day(int row, int days, const QString& format)
 {
-    return QDate(2024, 1, 1).addDays(row * 700 / rows).toString(format).toUtf8();
+    const qint64 before = qint64{rows - 1 - row} * days / rows;
+    return QDate(2025, 11, 30).addDays(-before).toString(format).toUtf8();
 }
 
 // "%1" to "%9" of the pattern: numbers, days and texts of the row.
-QByteArray Transaction(QByteArray pattern, int row)
+QByteArray Transaction(QByteArray pattern, int row, int days)
 {
     static const QByteArrayList names{"REWE Markt",         "Linden-Apotheke", "B\u00E4ckerei Kornblume",
                                       "Stadtwerke Talheim", "Jana Berger",     "Trattoria Sole",
@@ -36,10 +39,10 @@ QByteArray Transaction(QByteArray pattern, int row)
         .replace("%2", QByteArray::number(1 + row % 90))
         .replace("%3", names.at(row % names.size()))
         .replace("%4", QByteArray::number(100 + row % 200).prepend("DE12999000104820000"))
-        .replace("%5", Day(row, QStringLiteral("yyMMdd")))
-        .replace("%6", Day(row, QStringLiteral("dd.MM.yyyy")))
-        .replace("%7", Day(row, QStringLiteral("yyyyMMdd")))
-        .replace("%8", Day(row, QStringLiteral("yyyy-MM-dd")));
+        .replace("%5", Day(row, days, QStringLiteral("yyMMdd")))
+        .replace("%6", Day(row, days, QStringLiteral("dd.MM.yyyy")))
+        .replace("%7", Day(row, days, QStringLiteral("yyyyMMdd")))
+        .replace("%8", Day(row, days, QStringLiteral("yyyy-MM-dd")));
 }
 
 struct cSample
@@ -82,7 +85,7 @@ constexpr std::array samples = {
         "</Stmt></BkToCstmrStmt></Document>\n"},
 };
 
-int Write(const QString& folder)
+int Write(const QString& folder, int days)
 {
     for (const cSample& sample : samples) {
         QFile file(folder + QStringLiteral("/%1").arg(QString::fromLatin1(sample.Name)));
@@ -91,7 +94,7 @@ int Write(const QString& folder)
         }
         file.write(sample.Head);
         for (int row = 0; row < rows; ++row) {
-            file.write(Transaction(QByteArray(sample.Row), row));
+            file.write(Transaction(QByteArray(sample.Row), row, days));
         }
         file.write(sample.Tail);
     }
@@ -136,8 +139,9 @@ int main(int argc, char** argv)
 {
     QElapsedTimer timer;
     timer.start();
-    if (argc == 3 && qstrcmp(argv[1], "--write") == 0) {
-        return Write(QString::fromLocal8Bit(argv[2]));
+    if (argc >= 3 && qstrcmp(argv[1], "--write") == 0) {
+        constexpr int usualDays = 700;
+        return Write(QString::fromLocal8Bit(argv[2]), argc > 3 ? QByteArray(argv[3]).toInt() : usualDays);
     }
     const bool isFloor = argc == 3 && qstrcmp(argv[1], "--floor") == 0;
     QFile file(argc < 2 ? QString() : QString::fromLocal8Bit(argv[argc - 1]));
