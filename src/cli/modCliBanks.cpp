@@ -45,7 +45,7 @@ QString ToJson(const cBankListModel::cLine& line)
         .Text(u"hbci"_s, line.Bank.HbciVersion)
         .Text(u"method"_s, line.Bank.Method ? line.Bank.Method->SecurityFunction : QString())
         .Text(u"medium"_s, line.Bank.Medium)
-        .Text(u"number"_s, line.Account.Number)
+        .Text(u"number"_s, cBankAccess::NumberOf(line.Bank, line.Account))
         .Text(u"iban"_s, line.Account.Iban)
         .Text(u"product"_s, line.Account.ProductName)
         .Text(u"account"_s, line.BookAccount)
@@ -229,8 +229,9 @@ bool Refresh(const cCliContext& context, cBankSetup& setup)
 }
 
 // With --account only the named accounts are fetched, else all that can be.
-bool ChooseAccounts(const cCliContext& context, cBankAccountChoice& accounts)
+bool ChooseAccounts(const cCliContext& context, cBankSetup& setup)
 {
+    cBankAccountChoice& accounts = setup.Accounts();
     const QStringList wanted = context.Call.Values(u"account"_s);
     for (qsizetype line = 0; !wanted.isEmpty() && line < accounts.Lines().size(); ++line) {
         accounts.Choose(line, false);
@@ -239,7 +240,7 @@ bool ChooseAccounts(const cCliContext& context, cBankAccountChoice& accounts)
         const QString number = Compact(text.section(u'=', 0, 0));
         const auto& lines = accounts.Lines();
         const auto found = std::find_if(lines.begin(), lines.end(), [&](const cBankAccountChoice::cLine& line) {
-            return number == Compact(line.Number) || number == line.Account.Number;
+            return number == Compact(line.Number) || number == cBankAccess::NumberOf(setup.State(), line.Account);
         });
         if (found == lines.end() || !found->Reason.isEmpty()) {
             QStringList names;
@@ -259,6 +260,20 @@ bool ChooseAccounts(const cCliContext& context, cBankAccountChoice& accounts)
     return true;
 }
 
+// Asks the bank; what is missing or went wrong is said.
+bool Discover(cBankSetup& setup)
+{
+    if (const QString missing = Missing(setup); !missing.isEmpty()) {
+        (void)Refuse(missing);
+        return false;
+    }
+    if (!setup.Discover()) {
+        (void)Refuse(setup);
+        return false;
+    }
+    return true;
+}
+
 int Add(const cCliContext& context)
 {
     if (!CheckCall(context)) {
@@ -266,13 +281,10 @@ int Add(const cCliContext& context)
     }
     cTalk talk(context);
     cBankSetup& setup = talk.Setup;
-    if (const QString missing = Missing(setup); !missing.isEmpty()) {
-        return Refuse(missing);
+    if (!Discover(setup)) {
+        return modExit::Failed;
     }
-    if (!setup.Discover()) {
-        return Refuse(setup);
-    }
-    if (!ChooseMethod(context, setup) || !Refresh(context, setup) || !ChooseAccounts(context, setup.Accounts())) {
+    if (!ChooseMethod(context, setup) || !Refresh(context, setup) || !ChooseAccounts(context, setup)) {
         return modExit::Failed;
     }
     context.Book->File().CopyIfChanged();
@@ -284,6 +296,9 @@ int Add(const cCliContext& context)
         return line.Bank.BankCode != setup.State().BankCode || line.Bank.UserId != setup.State().UserId;
     });
     PrintList(context, lines);
+    if (const QString note = setup.AddressNote(); !note.isEmpty()) {
+        modConsole::Error(note);
+    }
     return modExit::Done;
 }
 
@@ -294,11 +309,8 @@ int Methods(const cCliContext& context)
     }
     cTalk talk(context);
     cBankSetup& setup = talk.Setup;
-    if (const QString missing = Missing(setup); !missing.isEmpty()) {
-        return Refuse(missing);
-    }
-    if (!setup.Discover()) {
-        return Refuse(setup);
+    if (!Discover(setup)) {
+        return modExit::Failed;
     }
     QStringList objects;
     cCliTable table({{cText::Tr("Nr.")}, {cText::Tr("TAN-Verfahren")}, {cText::Tr("Gewählt")}});

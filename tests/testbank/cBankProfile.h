@@ -41,6 +41,7 @@ struct cRefusal
 struct cOfferedAccount
 {
     QByteArray Number{};
+    QByteArray Sub{}; // of several accounts under one number
     QByteArray Iban{};
     QByteArray Product = "Girokonto";
     QByteArray Orders = "HKKAZ:1+HKSAL:1";

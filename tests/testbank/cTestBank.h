@@ -87,6 +87,10 @@ private:
     void TellSepa(const cRequestSegment& order);
     void Challenge(int reference, const QByteArray& fields) { Add("HITAN:" + m_tanVersion, reference, "+" + fields); }
 
+    [[nodiscard]] QByteArray National(const cOfferedAccount& account) const
+    {
+        return account.Number + ':' + account.Sub + ":280:" + Profile.Code;
+    }
     [[nodiscard]] QByteArray IbanOf(const cOfferedAccount& account) const;
     const cOfferedAccount* Account(const cRequestSegment& order, bool isIban);
     qsizetype PageOf(const cRequestSegment& order, int place, qsizetype count);

@@ -93,8 +93,8 @@ void cTestBank::TellAccounts(const cRequestSegment& preparation)
     Add("HIUPA:4", preparation.Number, "+" + Profile.User + "+" + Profile.Upd + "+0");
     for (const cOfferedAccount& account : std::as_const(Profile.Accounts)) {
         Add("HIUPD:6", preparation.Number,
-            "+" + account.Number + "::280:" + Profile.Code + "+" + account.Iban + "+" + Profile.User
-                + "+1+EUR+Erika Muster++" + account.Product + "++" + account.Orders);
+            "+" + National(account) + "+" + account.Iban + "+" + Profile.User + "+1+EUR+Erika Muster++"
+                + account.Product + "++" + account.Orders);
     }
 }
 
@@ -121,14 +121,15 @@ const cOfferedAccount* cTestBank::Account(const cRequestSegment& order, bool isI
 {
     const QList<QByteArray> parts = order.Group(1);
     const QByteArray number = parts.value(isIban ? 2 : 0);
+    const QByteArray sub = parts.value(isIban ? 3 : 1);
     const auto found =
         std::find_if(Profile.Accounts.begin(), Profile.Accounts.end(), [&](const cOfferedAccount& account) {
-            return isIban && number.isEmpty() ? IbanOf(account) == parts.value(0) : account.Number == number;
+            return isIban && number.isEmpty() ? IbanOf(account) == parts.value(0)
+                                              : account.Number == number && account.Sub == sub;
         });
     const bool isFound = found != Profile.Accounts.end();
-    const QByteArray national = number + "::280:" + Profile.Code;
     if (!isIban) {
-        Check(isFound && order.At(1) == national, u"account"_s);
+        Check(isFound && order.At(1) == National(*found), u"account"_s);
     } else {
         Check(isFound && parts.value(0) == IbanOf(*found) && !parts.value(1).isEmpty(), u"account with IBAN and BIC"_s);
     }
@@ -232,7 +233,7 @@ void cTestBank::TellSepa(const cRequestSegment& order)
 {
     QByteArray body;
     for (const cOfferedAccount& account : std::as_const(Profile.Accounts)) {
-        body += "+J:" + IbanOf(account) + ":TESTDEFFXXX:" + account.Number + "::280:" + Profile.Code;
+        body += "+J:" + IbanOf(account) + ":TESTDEFFXXX:" + National(account);
     }
     Add("HISPA:1", order.Number, body);
 }

@@ -214,14 +214,24 @@ void testBankAccess::SubAccountsKeepTheirRows()
     cTestBook book;
     cBankAccess access(book.Tools);
     cBankState state = State(u"erika"_s);
-    state.Accounts = {Account(u"77"_s, u"Giro"_s), Account(u"77"_s, u"Dollar"_s)};
-    state.Accounts[0].SubNumber = u"00"_s;
+    state.Accounts =
+        QList<cBankAccount>(3, Account(u"77"_s, u"Konto"_s)); // the first one has an IBAN and no sub-account
     state.Accounts[1].SubNumber = u"01"_s;
+    state.Accounts[1].Iban.clear();
+    state.Accounts[2].Iban.clear();
+    state.Accounts[2].SubNumber = u"02"_s;
     QVERIFY(access.Save(state));
     QVERIFY(access.Choose(state, {state.Accounts[1]}));
     QCOMPARE(access.Chosen(state), QList({state.Accounts[1]}));
     QVERIFY(access.SetLastFetch(state, state.Accounts[1], QDate(2026, 3, 1)));
     QCOMPARE(access.LastFetch(state, state.Accounts[0]), QDate());
+    for (const qsizetype i : {0, 1, 2}) {
+        QVERIFY(access.Assign(state, state.Accounts[i], u"Konto %1"_s.arg(i)));
+    }
+    for (const qsizetype i : {0, 1, 2}) {
+        QCOMPARE(access.BookAccountOf(state, state.Accounts[i]), u"Konto %1"_s.arg(i));
+    }
+    QVERIFY(book.Settings->Get(modSettingKey::BankNumber.Of(u"77"_s)).isEmpty()); // it is that of none
 }
 
 void testBankAccess::UndoTakesBackRowsOnly()
@@ -258,18 +268,11 @@ void testBankAccess::NumbersLeadToTheBook()
     cBankState state = State(u"erika"_s);
     QVERIFY(access.Assign(state, state.Accounts[0], u"Girokonto"_s));
     QVERIFY(access.Assign(state, state.Accounts[1], u"Urlaubskasse"_s)); // a new one
-    QCOMPARE(access.BookAccountOf(state.Accounts[0]), u"Girokonto"_s);
-    QCOMPARE(access.BookAccountOf(state.Accounts[1]), u"Urlaubskasse"_s);
+    QCOMPARE(access.BookAccountOf(state, state.Accounts[0]), u"Girokonto"_s);
+    QCOMPARE(access.BookAccountOf(state, state.Accounts[1]), u"Urlaubskasse"_s);
     QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"77"_s)), u"Urlaubskasse"_s);
     QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(state.Accounts[1].Iban)), u"Urlaubskasse"_s);
     QVERIFY(book.Data.FindAccount(u"Urlaubskasse"_s));
-
-    state.Accounts = {Account(u"5"_s, u"Giro"_s), Account(u"5"_s, u"Dollar"_s)};
-    state.Accounts[1].Iban = u"DE999"_s;
-    QVERIFY(access.Assign(state, state.Accounts[0], u"Girokonto"_s));
-    QVERIFY(access.Assign(state, state.Accounts[1], u"Sparkonto"_s));
-    QCOMPARE(access.BookAccountOf(state.Accounts[0]), u"Girokonto"_s);
-    QCOMPARE(access.BookAccountOf(state.Accounts[1]), u"Sparkonto"_s);
 }
 
 QTEST_GUILESS_MAIN(testBankAccess)

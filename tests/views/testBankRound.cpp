@@ -102,6 +102,49 @@ private Q_SLOTS:
         QCOMPARE(book.Book, month.Closing());
     }
 
+    // Two accounts under one number, which is all that the statements of both name.
+    void SubAccountsStayApart()
+    {
+        cRound house;
+        const cBankMonth month = cBankMonth::Example();
+        cBankState state = house.Access.Banks().constFirst();
+        state.Accounts = QList<cBankAccount>(2, state.Accounts.constFirst());
+        house.Bank.Profile.Accounts = QList<cOfferedAccount>(2, house.Bank.Profile.Accounts.constFirst());
+        for (const qsizetype i : {0, 1}) {
+            const QByteArray sub = i == 0 ? "00" : "01";
+            state.Accounts[i].SubNumber = QString::fromLatin1(sub);
+            state.Accounts[i].Iban.clear();
+            house.Bank.Profile.Accounts[i].Sub = sub;
+            house.Bank.Profile.Accounts[i].Iban.clear();
+            cBankMonth part = month.Part(QDate(2026, 3, i == 0 ? 1 : 9), QDate(2026, 3, i == 0 ? 8 : 31));
+            part.Iban = u"12345678/1234567"_s;
+            house.Bank.Profile.Accounts[i].Pages = {part.Mt940().toLatin1()};
+        }
+        QVERIFY(house.Access.Save(state) && house.Access.Choose(state, state.Accounts));
+        QVERIFY(house.Access.Assign(state, state.Accounts[0], u"Girokonto"_s));
+        QVERIFY(house.Access.Assign(state, state.Accounts[1], u"Sparkonto"_s));
+        house.Fetch.Load();
+        QCOMPARE(house.Run(), 4);
+        QCOMPARE(house.Run(), 0);
+        QHash<QString, int> rows;
+        const cImportEntryList staged = house.Data.GetImportEntries();
+        for (const cImportEntry& row : staged) {
+            ++rows[row.ImportAccount];
+        }
+        QCOMPARE(rows, (QHash<QString, int>{{u"1234567/00"_s, 4}, {u"1234567/01"_s, 3}}));
+        QCOMPARE(house.Access.BookAccountOf(state, state.Accounts[1]), u"Sparkonto"_s);
+    }
+
+    void NamesAnotherAddress()
+    {
+        cRound house;
+        house.Bank.Profile.Parameters.append("HIKOM:4+280:12345678+1+3:https?://neu.example/fints::MIM:1");
+        house.Bank.Profile.Bpd = "79";
+        QCOMPARE(house.Run(), 0);
+        const QStringList notes = house.Fetch.Lines().constFirst().Notes;
+        QVERIFY2(notes.join(u'|').contains(u"https://neu.example/fints"), qPrintable(notes.join(u'|')));
+    }
+
     // What the bank refuses is told in its own words, and the log that others may see tells of nobody.
     void TellsWhyNot()
     {

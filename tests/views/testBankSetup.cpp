@@ -76,6 +76,7 @@ private Q_SLOTS:
     void AccountsFindTheirPlaceInTheBook();
     void AccountsThatCannotBeFetchedSayWhy();
     void Cancels();
+    void AnotherAddressIsShownAndNotUsed();
 };
 
 void testBankSetup::SetsUp()
@@ -270,6 +271,28 @@ void testBankSetup::Cancels()
     QVERIFY(scene.Bank.IsQuiet());
     scene.Setup.disconnect();
     QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
+}
+
+void testBankSetup::AnotherAddressIsShownAndNotUsed()
+{
+    cScene scene;
+    scene.Bank.Profile.Parameters.append("HIKOM:4+280:12345678+1+3:https?://neu.example/fints::MIM:1");
+    scene.Type();
+    QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
+    const QString begin = u"Die Bank nennt eine andere Adresse: https://neu.example/fints."_s;
+    QVERIFY2(scene.Setup.AddressNote().startsWith(begin), qPrintable(scene.Setup.AddressNote()));
+    QVERIFY(scene.Setup.Next());
+    const cBankAccess access(scene.Book.Tools);
+    QCOMPARE(access.Banks().constFirst().Url, scene.Https.Url);
+
+    scene.Setup.Load(access.Banks().constFirst());
+    scene.Setup.SetUrl(u"neu.example/fints"_s);
+    QVERIFY(!scene.Setup.Next());
+    QCOMPARE(scene.Setup.Problem(), u"Die Adresse der Bank muss mit https:// beginnen."_s);
+    scene.Https.Url = u"https://neu.example/fints"_s;
+    scene.Setup.SetUrl(scene.Https.Url);
+    QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
+    QCOMPARE(scene.Setup.AddressNote(), QString());
 }
 
 QTEST_GUILESS_MAIN(testBankSetup)

@@ -313,6 +313,12 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return window;
      }},
     {"bank assistant, login", [](cScene& scene) { return MakeBankAssistant(scene, cBankSetup::ePage::Login); }},
+    {"bank assistant, login that is changed",
+     [](cScene& scene) {
+         scene.SetUpTo(cBankSetup::ePage::Done);
+         scene.Setup.Load(cBankState(scene.Setup.State()));
+         return std::make_unique<frmBankAssistent>(scene.Setup, scene.Book.Clock.Today());
+     }},
     {"bank assistant, procedure",
      [](cScene& scene) {
          scene.SetUpTo(cBankSetup::ePage::Method);

@@ -12,8 +12,10 @@ class cFetchMemory;
 // What an online fetch brought of one account.
 struct cFetchedStatement
 {
-    QString Name;                    // of the account, for the user
-    QString Account;                 // number that was asked for
+    QString Name;    // of the account, for the user
+    QString Account; // number that was asked for
+    // Its number is that of other accounts too: the bookings are those of Account, whichever their statement names.
+    bool IsNumberShared = false;
     QString BookAccount{};           // of the book, to which it belongs; empty when that is not known
     QString Mt940{};                 // all booked statements of the answer
     QList<QByteArray> Camt{};        // all booked documents

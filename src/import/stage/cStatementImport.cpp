@@ -77,19 +77,26 @@ private:
     QHash<QString, QString> m_forms;
 };
 
+// `form` gives the account's new name for the one that it has.
+template <typename tForm>
+void RenameAccounts(cStatementRead& read, const tForm& form)
+{
+    for (cImportEntry& entry : read.Entries) {
+        entry.ImportAccount = form(entry.ImportAccount);
+    }
+    for (cSkippedRow& row : read.Skipped) {
+        row.Entry.ImportAccount = form(row.Entry.ImportAccount);
+    }
+    for (cAccountBalance& balance : read.Balances) {
+        balance.Account = form(balance.Account);
+    }
+}
+
 // Gives every row the form of its account that is staged already.
 void UseKnownAccounts(const QStringList& staged, cStatementRead& read)
 {
     cKnownAccounts known(staged);
-    for (cImportEntry& entry : read.Entries) {
-        entry.ImportAccount = known.FormOf(entry.ImportAccount);
-    }
-    for (cSkippedRow& row : read.Skipped) {
-        row.Entry.ImportAccount = known.FormOf(row.Entry.ImportAccount);
-    }
-    for (cAccountBalance& balance : read.Balances) {
-        balance.Account = known.FormOf(balance.Account);
-    }
+    RenameAccounts(read, [&](const QString& account) { return known.FormOf(account); });
 }
 
 // Counts what becomes of each transaction. A database that refuses twice in a row will refuse the rest as well, and
@@ -181,6 +188,9 @@ cStatementRead ReadFetched(const cFetchedStatement& fetched, eMissingPurpose mis
             return read;
         }
         all.Append(std::move(read));
+    }
+    if (fetched.IsNumberShared) {
+        RenameAccounts(all, [&](const QString&) { return fetched.Account; });
     }
     return all;
 }

@@ -56,6 +56,17 @@ void TakeRows(cBankState& state, const QList<cOnlineAccount>& rows)
     }
 }
 
+// How well an account fits to a row; 0: not at all. Of several under one number the sub-account tells more than the
+// product, which banks rename.
+int Fit(const cBankAccount& account, const cOnlineAccount& row)
+{
+    const cBankAccount own = modBankRow::ReadAccount(row);
+    return modBankRow::NumberOf(account) != own.Number
+        ? 0
+        : 1 + 2 * static_cast<int>(account.SubNumber == modBankRow::SubNumber(row))
+            + static_cast<int>(account.ProductName == own.ProductName);
+}
+
 } // namespace
 
 QList<cBankState> cBankAccess::Banks() const
@@ -178,27 +189,36 @@ bool cBankAccess::Choose(const cBankState& state, const QList<cBankAccount>& acc
     });
 }
 
-QString cBankAccess::BookAccountOf(const cBankAccount& account) const
+bool cBankAccess::IsNumberShared(const cBankState& state, const cBankAccount& account)
+{
+    const auto count = std::count_if(state.Accounts.begin(), state.Accounts.end(),
+                                     [&](const cBankAccount& each) { return each.Number == account.Number; });
+    return !account.Number.isEmpty() && count > 1;
+}
+
+QString cBankAccess::NumberOf(const cBankState& state, const cBankAccount& account)
+{
+    const bool hasSub = !account.SubNumber.isEmpty() && IsNumberShared(state, account);
+    return hasSub ? account.Number + u'/' + account.SubNumber : account.Number;
+}
+
+QString cBankAccess::BookAccountOf(const cBankState& state, const cBankAccount& account) const
 {
     const cAccountMap map(m_tools.Data, m_tools.Settings);
     const QString byIban = map.OwnAccountOf(account.Iban, {});
-    return byIban.isEmpty() ? map.OwnAccountOf(account.Number, account.BankCode) : byIban;
+    return byIban.isEmpty() ? map.OwnAccountOf(NumberOf(state, account), account.BankCode) : byIban;
 }
 
 // Files name an account by its number or by its IBAN; both lead to the account of the book.
 bool cBankAccess::Assign(const cBankState& state, const cBankAccount& account, const QString& name)
 {
     cAccountMap map(m_tools.Data, m_tools.Settings);
-    // Sub-accounts have their number in common, so it means none of them.
-    const bool isShared = std::count_if(state.Accounts.begin(), state.Accounts.end(),
-                                        [&](const cBankAccount& each) { return each.Number == account.Number; })
-        > 1;
-    const bool hasIban = !account.Iban.isEmpty();
-    const auto assign = [&](const QString& number) {
-        return map.AccountOf(number) == name.trimmed() || map.Assign(number, name);
+    const QString number = NumberOf(state, account);
+    const bool isOfNone = number == account.Number && IsNumberShared(state, account) && !account.Iban.isEmpty();
+    const auto assign = [&](const QString& each) {
+        return each.isEmpty() || map.AccountOf(each) == name.trimmed() || map.Assign(each, name);
     };
-    return (!hasIban || assign(account.Iban))
-        && (account.Number.isEmpty() || (isShared && hasIban) || assign(account.Number));
+    return assign(account.Iban) && (isOfNone || assign(number));
 }
 
 QDate cBankAccess::LastFetch(const cBankState& state, const cBankAccount& account) const
@@ -249,25 +269,20 @@ QList<cOnlineAccount> cBankAccess::Rows(const QString& bankCode, const QString& 
     return rows;
 }
 
-// The rows of the login with their accounts. Sub-accounts share their number; there the product tells them apart. A row
-// whose account the bank lists no more stands for itself.
+// The rows of the login with their accounts. A row whose account the bank lists no more stands for itself.
 QList<cBankAccess::cPair> cBankAccess::Pairs(const cBankState& state) const
 {
     QList<cPair> pairs;
     QList<cBankAccount> left = state.Accounts;
     const QList<cOnlineAccount> rows = Rows(state.BankCode, state.UserId);
     for (const cOnlineAccount& row : rows) {
-        const cBankAccount own = modBankRow::ReadAccount(row);
-        const auto isNumber = [&](const cBankAccount& each) { return modBankRow::NumberOf(each) == own.Number; };
-        auto found = std::find_if(left.begin(), left.end(), [&](const cBankAccount& each) {
-            return isNumber(each) && each.ProductName == own.ProductName;
+        const auto best = std::max_element(left.begin(), left.end(), [&](const cBankAccount& a, const cBankAccount& b) {
+            return Fit(a, row) < Fit(b, row);
         });
-        if (found == left.end()) {
-            found = std::find_if(left.begin(), left.end(), isNumber);
-        }
-        pairs.append({row, found == left.end() ? own : *found});
-        if (found != left.end()) {
-            left.erase(found);
+        const bool isFound = best != left.end() && Fit(*best, row) > 0;
+        pairs.append({row, isFound ? *best : modBankRow::ReadAccount(row)});
+        if (isFound) {
+            left.erase(best);
         }
     }
     return pairs;

@@ -38,8 +38,12 @@ public:
     [[nodiscard]] QList<cBankAccount> Chosen(const cBankState& state) const;
     [[nodiscard]] bool Choose(const cBankState& state, const QList<cBankAccount>& accounts);
 
+    // The number that tells an account from the others of its login: "77", or "77/01" where they share the 77.
+    [[nodiscard]] static QString NumberOf(const cBankState& state, const cBankAccount& account);
+    [[nodiscard]] static bool IsNumberShared(const cBankState& state, const cBankAccount& account);
+
     // The account of the book that one of the bank belongs to, by its number or IBAN; empty when none is known.
-    [[nodiscard]] QString BookAccountOf(const cBankAccount& account) const;
+    [[nodiscard]] QString BookAccountOf(const cBankState& state, const cBankAccount& account) const;
     // Remembers it for number and IBAN; a name that is new adds an account to the book. Within the caller's undo step.
     [[nodiscard]] bool Assign(const cBankState& state, const cBankAccount& account, const QString& name);
 

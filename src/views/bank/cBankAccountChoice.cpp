@@ -55,7 +55,7 @@ cBankAccountChoice::cBankAccountChoice(const cBookTools& tools, const cBankState
     const QList<cBankAccount> chosen = access.Chosen(state);
     for (const cBankAccount& account : state.Accounts) {
         cLine line{account, modBankText::Product(account), modBankText::Number(account),
-                   modBankText::NotFetched(state, account), access.BookAccountOf(account)};
+                   modBankText::NotFetched(state, account), access.BookAccountOf(state, account)};
         line.IsChosen = line.Reason.isEmpty() && (isNew || chosen.contains(account));
         m_lines.append(line);
     }

@@ -44,10 +44,13 @@ QString NameOf(const cBankAccount& account)
     return parts.join(u", "_s);
 }
 
-// As statements name it: their reader leaves leading zeros out.
-QString NumberIn(const cBankAccount& account)
+// As statements name it: their reader leaves leading zeros out. Where accounts share a number it is that of none.
+QString NumberIn(const cBankState& state, const cBankAccount& account)
 {
-    QString number = account.Number;
+    if (!account.Iban.isEmpty() && cBankAccess::IsNumberShared(state, account)) {
+        return account.Iban;
+    }
+    QString number = cBankAccess::NumberOf(state, account);
     while (number.startsWith(u'0')) {
         number.remove(0, 1);
     }
@@ -56,7 +59,8 @@ QString NumberIn(const cBankAccount& account)
 
 QString MemoryKey(const cBankState& state, const cBankAccount& account)
 {
-    return state.BankCode + u':' + (account.Number.isEmpty() ? account.Iban : account.Number) + account.SubNumber;
+    const QString sub = account.SubNumber.isEmpty() ? QString() : u'/' + account.SubNumber;
+    return state.BankCode + u':' + (account.Number.isEmpty() ? account.Iban : account.Number) + sub;
 }
 
 QString LastText(QDate day)
@@ -148,6 +152,7 @@ cBankFetch::cBankFetch(const cBookTools& tools, cStatementFiles& files, const cP
                               state, pin);
         const bool isDone = business.FetchAll(orders);
         fetched = business.Fetched();
+        m_otherAddress = business.AddressHint();
         return isDone ? cBankFailure() : business.Failure();
     };
     Load();
@@ -164,8 +169,9 @@ void cBankFetch::Load()
         m_logins.push_back({state, m_access.Chosen(state), m_accounts.size()});
         for (const cBankAccount& account : std::as_const(m_logins.back().Accounts)) {
             const QDate last = m_access.LastFetch(state, account);
-            m_accounts.append({modBankText::Bank(state), state.BankCode, state.UserId, NameOf(account), account.Number,
-                               account.Iban, m_access.BookAccountOf(account), last, LastText(last)});
+            m_accounts.append({modBankText::Bank(state), state.BankCode, state.UserId, NameOf(account),
+                               cBankAccess::NumberOf(state, account), account.Iban,
+                               m_access.BookAccountOf(state, account), last, LastText(last)});
         }
     }
     m_lines = QList<cLine>(m_accounts.size());
@@ -347,6 +353,9 @@ void cBankFetch::Fetch(cJob& job, cRun& run)
     // Before the step: what the bank wants to hear again is true whatever becomes of the rows.
     (void)m_access.Save(state); // of a refusal the user has been told
     Take(job, fetched, failure, run);
+    if (const QString note = modBankText::OtherAddress(m_otherAddress); !note.isEmpty()) {
+        m_lines[job.Places.constFirst()].Notes.append(note);
+    }
 }
 
 void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cBankFailure& failure, cRun& run)
@@ -369,12 +378,13 @@ void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cB
             Fail(place, found->Failure);
             continue;
         }
-        run.Memories.push_back(
-            std::make_unique<cFetchMemory>(m_tools.Settings, MemoryKey(job.Login->State, order.Account)));
+        const cBankState& state = job.Login->State;
+        run.Memories.push_back(std::make_unique<cFetchMemory>(m_tools.Settings, MemoryKey(state, order.Account)));
         run.Came.push_back({place, job.Login, order, found->Failure, found->Balance.has_value(), run.IsNamed});
         run.Statements.append({.Name = m_accounts.at(place).Name,
-                               .Account = NumberIn(order.Account),
-                               .BookAccount = m_access.BookAccountOf(order.Account),
+                               .Account = NumberIn(state, found->Account),
+                               .IsNumberShared = cBankAccess::IsNumberShared(state, order.Account),
+                               .BookAccount = m_access.BookAccountOf(state, found->Account),
                                .Mt940 = std::move(found->MT940),
                                .Camt = std::move(found->Camt),
                                .Balance = found->Balance,

@@ -51,7 +51,7 @@ public:
         QString BankCode;
         QString UserId;      // the login
         QString Name;        // "Privatgiro, DE02 1002 0030 0001 2345 67"
-        QString Number;      // of the bank
+        QString Number;      // of the bank; with the sub-account, "77/01", where others have the same
         QString Iban;        // empty when the bank did not tell it
         QString BookAccount; // empty: not assigned yet
         QDate LastFetch;     // up to which day it was fetched; invalid: never
@@ -144,6 +144,7 @@ private:
     std::unique_ptr<cBankCustomer> m_customer;
     std::unique_ptr<cBankLog> m_log;
     fnDialog m_dialog;
+    QString m_otherAddress; // that the bank of the last dialog names
     std::vector<cLogin> m_logins;
     QList<cAccount> m_accounts;
     QList<cLine> m_lines;

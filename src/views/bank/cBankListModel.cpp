@@ -28,7 +28,7 @@ void cBankListModel::Load()
     for (const cBankState& bank : banks) {
         const QList<cBankAccount> accounts = m_access.Chosen(bank);
         for (const cBankAccount& account : accounts) {
-            m_lines.append({bank, account, m_access.BookAccountOf(account), m_access.LastFetch(bank, account)});
+            m_lines.append({bank, account, m_access.BookAccountOf(bank, account), m_access.LastFetch(bank, account)});
         }
         if (accounts.isEmpty()) {
             m_lines.append({bank, {}, {}, {}});

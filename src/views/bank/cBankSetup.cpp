@@ -117,9 +117,11 @@ QString cBankSetup::BankProblem() const
                          "mit „Datei“, „Kontoauszug importieren“ ein.");
     }
     const QUrl url(m_state.Url, QUrl::StrictMode);
-    return url.isValid() && url.scheme() == u"https" && !url.host().isEmpty()
-        ? QString()
-        : cText::Tr("Die Adresse der Bank muss mit https:// beginnen. Prüfen Sie sie unter „Erweitert“.");
+    if (url.isValid() && url.scheme() == u"https" && !url.host().isEmpty()) {
+        return {};
+    }
+    return m_isNew ? cText::Tr("Die Adresse der Bank muss mit https:// beginnen. Prüfen Sie sie unter „Erweitert“.")
+                   : cText::Tr("Die Adresse der Bank muss mit https:// beginnen.");
 }
 
 QString cBankSetup::LoginLabel() const
@@ -200,6 +202,11 @@ bool cBankSetup::Run(bool (HBCIBusiness::*operation)())
 bool cBankSetup::Discover()
 {
     return m_access.SetProductId(m_productId) && Run(&HBCIBusiness::Discover);
+}
+
+QString cBankSetup::AddressNote() const
+{
+    return m_business ? modBankText::OtherAddress(m_business->AddressHint()) : QString();
 }
 
 bool cBankSetup::Refresh()
@@ -319,7 +326,7 @@ bool cBankSetup::Next()
 // Where there is nothing to choose, the accounts come at once.
 bool cBankSetup::LeaveLogin()
 {
-    if (!Note(LoginProblem())) {
+    if (!Note(BankProblem()) || !Note(LoginProblem())) {
         return false;
     }
     if (!Discover()) {

@@ -58,7 +58,7 @@ public:
     void ChooseBank(const cBankInfo& bank);
     void ChooseCode(const QString& code); // also one that the directory does not have
     [[nodiscard]] static bool IsCode(const QString& text);
-    void SetUrl(const QString& url);
+    void SetUrl(const QString& url);             // also of a login that is set up already
     void SetHbciVersion(const QString& version); // "220" or "300"
     [[nodiscard]] QString BankProblem() const;   // what to do about what is missing; empty when nothing is
 
@@ -73,6 +73,8 @@ public:
     [[nodiscard]] bool Discover();
     [[nodiscard]] bool Refresh();
     [[nodiscard]] const cBankFailure& Failure() const { return m_failure; }
+    // That the bank names another address than the one in use; empty when it does not.
+    [[nodiscard]] QString AddressNote() const;
     // Called from the window while one of them runs, which then ends as soon as it can.
     void Cancel();
     [[nodiscard]] bool IsRunning() const { return m_isRunning; }

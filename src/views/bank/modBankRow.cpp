@@ -132,6 +132,7 @@ void modBankRow::ReadLogin(const cOnlineAccount& row, cBankState& state)
 void modBankRow::WriteAccount(cOnlineAccount& row, const cBankAccount& account)
 {
     row.Values[At("AccountNumber")] = NumberOf(account);
+    row.Values[At("AccountSign")] = account.SubNumber;
     row.Values[At("AccountProductName")] = account.ProductName;
     row.Values[At("AccountOwnerName1")] = account.Owner1;
     row.Values[At("AccountOwnerName2")] = account.Owner2;
@@ -153,6 +154,11 @@ cBankAccount modBankRow::ReadAccount(const cOnlineAccount& row)
         account.Currency = currency;
     }
     return account;
+}
+
+QString modBankRow::SubNumber(const cOnlineAccount& row)
+{
+    return row.Values[At("AccountSign")];
 }
 
 void modBankRow::WriteCreated(cOnlineAccount& row, QDate day)

@@ -23,6 +23,9 @@ void ReadLogin(const cOnlineAccount& row, cBankState& state);
 
 void WriteAccount(cOnlineAccount& row, const cBankAccount& account);
 [[nodiscard]] cBankAccount ReadAccount(const cOnlineAccount& row);
+// To tell rows with one number apart. The column may hold anything in rows of other programs: ReadAccount takes nothing
+// from it that a bank would be told.
+[[nodiscard]] QString SubNumber(const cOnlineAccount& row);
 
 void WriteCreated(cOnlineAccount& row, QDate day);
 void WriteFetched(cOnlineAccount& row, QDate day);

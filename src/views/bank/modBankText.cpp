@@ -63,6 +63,15 @@ QString modBankText::ProductVersion(const QString& version)
     return version.section(u'.', 0, 0) + u'.' + version.section(u'.', 1, 1).rightJustified(2, u'0');
 }
 
+QString modBankText::OtherAddress(const QString& address)
+{
+    return address.isEmpty()
+        ? QString()
+        : cText::Tr("Die Bank nennt eine andere Adresse: {0}. Fragen Sie bei ihr nach, bevor Sie sie "
+                    "unter \"Bankzugänge…\" eintragen; von selbst wird sie nicht benutzt.",
+                    {address});
+}
+
 QStringList modBankText::People(const cBankState& state)
 {
     QStringList people{state.UserId};

@@ -31,6 +31,10 @@ namespace modBankText {
 // The version of the program as banks want it, with two digits behind the point: "3.4.1" gives "3.04".
 [[nodiscard]] QString ProductVersion(const QString& version);
 
+// Where the bank names another address than the one in use: that it does, and that nothing goes there by itself. Empty
+// without one.
+[[nodiscard]] QString OtherAddress(const QString& address);
+
 // Login, numbers and owners of a login's accounts: what others must not read in a log. Without empty ones.
 [[nodiscard]] QStringList People(const cBankState& state);
 

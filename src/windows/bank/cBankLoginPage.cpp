@@ -14,7 +14,7 @@ namespace {
 // The bank's word with a letter for the keyboard, which must not be one of the other fields and buttons.
 QString WithMnemonic(const QString& label)
 {
-    const QString taken = QStringLiteral("zwpijl");
+    const QString taken = QStringLiteral("zwpijlr");
     QString text = QString(label).replace(u'&', QStringLiteral("&&"));
     for (qsizetype place = 0; place < text.size(); ++place) {
         if (text.at(place).isLetter() && !taken.contains(text.at(place), Qt::CaseInsensitive)) {
@@ -33,6 +33,7 @@ cBankLoginPage::cBankLoginPage(cBankSetup& setup, QWidget* parent)
       m_bank(new QLabel(this)),
       m_userLabel(new QLabel(this)),
       m_user(new QLineEdit(this)),
+      m_url(new QLineEdit(this)),
       m_product(new QLineEdit(this))
 {
     QFont bold = font();
@@ -49,6 +50,10 @@ cBankLoginPage::cBankLoginPage(cBankSetup& setup, QWidget* parent)
     }
     auto* login = new QFormLayout;
     login->addRow(m_userLabel, m_user);
+    if (!setup.IsNew()) { // else it stands with the bank
+        login->addRow(cText::Tr("Ad&resse der Bank:"), m_url);
+    }
+    m_url->setVisible(!setup.IsNew());
     auto* registration = new QFormLayout;
     registration->addRow(cText::Tr("&Produktregistrierung:"), m_product);
     auto* layout = new QVBoxLayout(this);
@@ -69,6 +74,7 @@ void cBankLoginPage::Enter()
     m_userLabel->setText(label.isEmpty() ? cText::Tr("&Anmeldename oder Legitimations-ID:") : WithMnemonic(label));
     m_user->setText(m_setup.State().UserId);
     m_user->setReadOnly(!m_setup.IsNew());
+    m_url->setText(m_setup.State().Url);
     m_product->setText(m_setup.ProductId());
 }
 
@@ -76,6 +82,8 @@ void cBankLoginPage::Leave()
 {
     if (m_setup.IsNew()) {
         m_setup.SetUserId(m_user->text());
+    } else {
+        m_setup.SetUrl(m_url->text());
     }
     m_setup.SetProductId(m_product->text());
 }

@@ -23,5 +23,6 @@ private:
     QLabel* m_bank;
     QLabel* m_userLabel;
     QLineEdit* m_user;
+    QLineEdit* m_url; // of a login that is set up already
     QLineEdit* m_product;
 };

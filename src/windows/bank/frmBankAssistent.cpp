@@ -24,6 +24,7 @@ frmBankAssistent::frmBankAssistent(cBankSetup& setup, QDate today, QWidget* pare
       m_step(new QLabel(this)),
       m_problem(new QLabel(this)),
       m_words(new QLabel(this)),
+      m_address(new QLabel(this)),
       m_log(new QPushButton(cText::Tr("Protoko&ll…"), this)),
       m_back(new QPushButton(cText::Tr("&Zurück"), this)),
       m_next(new QPushButton(this)),
@@ -38,7 +39,7 @@ frmBankAssistent::frmBankAssistent(cBankSetup& setup, QDate today, QWidget* pare
     m_problem->setPalette(colors);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_pages, 1);
-    for (QLabel* text : {m_step, m_problem, m_words}) {
+    for (QLabel* text : {m_step, m_problem, m_words, m_address}) {
         text->setTextFormat(Qt::PlainText);
         text->setWordWrap(true);
         layout->addWidget(text);
@@ -113,6 +114,7 @@ void frmBankAssistent::SetBusy(bool isBusy)
     if (isBusy) {
         m_problem->clear();
         m_words->clear();
+        m_address->clear();
     }
 }
 
@@ -135,4 +137,6 @@ void frmBankAssistent::ShowProblem()
     m_words->setText(words.isEmpty() ? QString() : cText::Tr("Die Bank schreibt:\n{0}", {words}));
     m_problem->setVisible(!m_setup.Problem().isEmpty());
     m_words->setVisible(!words.isEmpty());
+    m_address->setText(m_setup.AddressNote());
+    m_address->setVisible(!m_address->text().isEmpty());
 }

@@ -41,6 +41,7 @@ private:
     QLabel* m_step;
     QLabel* m_problem;
     QLabel* m_words;
+    QLabel* m_address;  // that the bank names another one
     QPushButton* m_log; // only where there is something to look into
     QPushButton* m_back;
     QPushButton* m_next;
