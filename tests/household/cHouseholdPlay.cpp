@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr qsizetype shownTurns = 6;
 constexpr int overlap = 10; // days that a statement repeats of the month before
 
 QString Euros(qint64 cents)
@@ -169,18 +170,22 @@ void cHouseholdPlay::CheckAccount(const cHousehold::cAccount& account, QDate unt
         byDay[account.Bookings.at(i).Day] -= account.Bookings.at(i).Cents;
     }
     qint64 difference = -account.Opening;
-    bool isTold = false;
+    qint64 told = 0;
+    QStringList turns; // days on which the difference becomes another one
     for (QDate day = account.Bookings.first().Day; day <= last; day = day.addDays(1)) {
         while (!byDay.isEmpty() && byDay.firstKey() <= day) {
             difference += byDay.take(byDay.firstKey());
         }
         ++m_figures.Days;
         m_figures.WrongDays += difference == 0 ? 0 : 1;
-        if (difference != 0 && !isTold) {
-            isTold = true;
-            m_figures.Faults.append(u"%1 up to %2: from %3 on the book has %4 more than the bank"_s.arg(
-                account.Name, until.toString(Qt::ISODate), day.toString(Qt::ISODate), Euros(difference)));
+        if (difference != told) {
+            told = difference;
+            turns.append(day.toString(Qt::ISODate) + u": "_s + Euros(difference));
         }
+    }
+    if (!turns.isEmpty()) {
+        m_figures.Faults.append(u"%1 up to %2, book less bank: %3"_s.arg(
+            account.Name, until.toString(Qt::ISODate), turns.first(qMin(turns.size(), shownTurns)).join(u", "_s)));
     }
 }
 
