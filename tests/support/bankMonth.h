@@ -12,8 +12,9 @@ struct cBankBooking
     QDate Day;
     qint64 Cents = 0; // signed
     QString Name;
-    QString Iban;
+    QString Iban; // empty where the bank names none
     QString Purpose;
+    QString Kind = QStringLiteral("BUCHUNG");
 };
 
 struct cBankMonth
@@ -54,11 +55,12 @@ struct cBankMonth
         QString text = QStringLiteral(":20:STARTUMS\r\n:25:%1\r\n:28C:0\r\n:60F:%2\r\n")
                            .arg(Iban, Balance(Opening, Bookings.first().Day));
         for (const cBankBooking& booking : Bookings) {
-            text += QStringLiteral(":61:%1%2%3NMSCNONREF\r\n:86:166?00BUCHUNG")
+            text += QStringLiteral(":61:%1%2%3NMSCNONREF\r\n:86:166?00%4")
                         .arg(booking.Day.toString(QStringLiteral("yyMMdd")), Mark(booking.Cents),
-                             Amount(booking.Cents, u','));
-            text += Subfields(QStringLiteral("SVWZ+") + booking.Purpose, 20) + QStringLiteral("?30BANKDEFFXXX?31")
-                + booking.Iban + Subfields(booking.Name, 32) + QStringLiteral("\r\n");
+                             Amount(booking.Cents, u','), booking.Kind);
+            text += Subfields(QStringLiteral("SVWZ+") + booking.Purpose, 20)
+                + (booking.Iban.isEmpty() ? QString() : QStringLiteral("?30BANKDEFFXXX?31") + booking.Iban)
+                + Subfields(booking.Name, 32) + QStringLiteral("\r\n");
         }
         return text + QStringLiteral(":62F:%1\r\n-\r\n").arg(Balance(Closing(), Bookings.last().Day));
     }
@@ -76,13 +78,21 @@ struct cBankMonth
             + CamtBalance(QStringLiteral("CLBD"), Closing(), last);
         for (const cBankBooking& booking : Bookings) {
             const QString party = booking.Cents < 0 ? QStringLiteral("Cdtr") : QStringLiteral("Dbtr");
+            const QString account =
+                QStringLiteral("<%1Acct><Id><IBAN>%2</IBAN></Id></%1Acct>").arg(party, booking.Iban);
+            const QString agent =
+                QStringLiteral(
+                    "<RltdAgts><%1Agt><FinInstnId><BICFI>BANKDEFFXXX</BICFI></FinInstnId></%1Agt></RltdAgts>")
+                    .arg(party);
             text += QStringLiteral("<Ntry>") + CamtAmount(booking.Cents)
                 + QStringLiteral("<Sts><Cd>BOOK</Cd></Sts><BookgDt><Dt>%1</Dt></BookgDt><ValDt><Dt>%1</Dt></ValDt>"
-                                 "<NtryDtls><TxDtls><RltdPties><%2><Pty><Nm>%3</Nm></Pty></%2><%2Acct><Id><IBAN>%4"
-                                 "</IBAN></Id></%2Acct></RltdPties><RltdAgts><%2Agt><FinInstnId><BICFI>BANKDEFFXXX"
-                                 "</BICFI></FinInstnId></%2Agt></RltdAgts><RmtInf><Ustrd>%5</Ustrd></RmtInf></TxDtls>"
-                                 "</NtryDtls><AddtlNtryInf>BUCHUNG</AddtlNtryInf></Ntry>")
-                      .arg(booking.Day.toString(Qt::ISODate), party, booking.Name, booking.Iban, booking.Purpose);
+                                 "<NtryDtls><TxDtls><RltdPties><%2><Pty><Nm>%3</Nm></Pty></%2>")
+                      .arg(booking.Day.toString(Qt::ISODate), party, booking.Name.toHtmlEscaped())
+                + (booking.Iban.isEmpty() ? QStringLiteral("</RltdPties>")
+                                          : account + QStringLiteral("</RltdPties>") + agent)
+                + QStringLiteral("<RmtInf><Ustrd>%1</Ustrd></RmtInf></TxDtls></NtryDtls><AddtlNtryInf>%2</AddtlNtryInf>"
+                                 "</Ntry>")
+                      .arg(booking.Purpose.toHtmlEscaped(), booking.Kind);
         }
         return (text + QStringLiteral("</Rpt></BkToCstmrAcctRpt></Document>")).toUtf8();
     }
