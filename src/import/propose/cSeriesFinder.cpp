@@ -70,23 +70,25 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
 
 std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const cImportEntry& row)
 {
-    const std::optional<cEntryItem> occurrence =
-        modOccurrence::Nearest(series, row.ImportDate, m_data.GetEntryMods(series.ID));
-    if (!occurrence || IsTaken(series, occurrence->EntryDate, row.ID)) {
+    const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
+    const std::optional<cEntryItem> occurrence = modOccurrence::Nearest(series, row.ImportDate, fixMods);
+    if (!occurrence || IsTaken(series, *occurrence, fixMods, row)) {
         return std::nullopt;
     }
-    return cSeriesMatch{series, modRecurrence::OccurrencePeriod(occurrence->EntryDate, series.EntryInterval),
-                        occurrence->EntryValue};
+    return cSeriesMatch{series, *occurrence};
 }
 
-bool cSeriesFinder::IsTaken(const cEntryItem& series, QDate occurrence, int rowId)
+bool cSeriesFinder::IsTaken(const cEntryItem& series, const cEntryItem& occurrence, const cEntryItemFixModList& fixMods,
+                            const cImportEntry& wanted)
 {
     const int reach = modOccurrence::Reach(series.EntryInterval);
-    const QDate from = occurrence.addDays(-reach);
-    const QDate to = occurrence.addDays(reach);
+    const QDate from = std::min(occurrence.EntryDate, occurrence.Planned()).addDays(-reach);
+    const QDate to = std::max(occurrence.EntryDate, occurrence.Planned()).addDays(reach);
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).GetImportEntryByArea(series.ID, from, to);
     return std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
-        const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, {});
-        return row.ID != rowId && paid && paid->EntryDate == occurrence;
+        const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, fixMods);
+        // A transfer has a row in each of its accounts.
+        const bool isSameSide = (row.ImportValue < 0) == (wanted.ImportValue < 0);
+        return row.ID != wanted.ID && isSameSide && paid && paid->Planned() == occurrence.Planned();
     });
 }

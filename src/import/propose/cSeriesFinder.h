@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
 #include "model/cImportEntry.h"
-#include "model/modPeriod.h"
 
 #include <QDate>
 #include <QHash>
@@ -17,8 +17,7 @@ class cImportHiveCache;
 struct cSeriesMatch
 {
     cEntryItem Series;
-    modPeriod::cRange Period; // of the occurrence
-    qint64 Expected = 0;      // cents of the occurrence, corrections applied
+    cEntryItem Occurrence; // as corrected so far
 };
 
 // Finds the series that a transaction belongs to, so that the rent of the second month becomes an occurrence of the
@@ -37,7 +36,8 @@ public:
 private:
     void Build();
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
-    [[nodiscard]] bool IsTaken(const cEntryItem& series, QDate occurrence, int rowId);
+    [[nodiscard]] bool IsTaken(const cEntryItem& series, const cEntryItem& occurrence,
+                               const cEntryItemFixModList& fixMods, const cImportEntry& wanted);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;
