@@ -54,6 +54,7 @@ QString ToJson(const QString& path, const cFileFinding& finding)
         .Number(u"rows"_s, finding.Rows)
         .Number(u"skipped"_s, finding.Skipped)
         .Raw(u"closingBalance"_s, finding.ClosingBalance ? modAmount::CentsToText(*finding.ClosingBalance) : u"null"_s)
+        .Text(u"question"_s, finding.Question)
         .Text(u"message"_s, finding.Refusal)
         .ToString();
 }

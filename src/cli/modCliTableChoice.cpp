@@ -16,7 +16,11 @@ QList<cCliOption> modCliTableChoice::Options()
         {u"map"_s, u"SPALTEN"_s,
          cText::Tr("alle Spalten einer CSV-Datei mit ihrer Nummer, ab 0 gezählt: \"datum=0,betrag=5,zweck=3\"; "
                    "möglich sind {0}",
-                   {modTableOption::ColumnNames().join(u", "_s)})}};
+                   {modTableOption::ColumnNames().join(u", "_s)})},
+        {u"sign"_s, u"WIE"_s,
+         cText::Tr("wenn eine Tabelle nicht sagt, was Ausgaben sind: {0}; wird für Tabellen mit denselben Spaltennamen "
+                   "gemerkt",
+                   {modTableOption::SignNames().join(u", "_s)})}};
 }
 
 cFileWish modCliTableChoice::Read(const cCliCall& call, cCliReader& reader)
@@ -26,6 +30,7 @@ cFileWish modCliTableChoice::Read(const cCliCall& call, cCliReader& reader)
     wish.Charset = call.Value(u"charset"_s);
     wish.Profile = call.Value(u"profile-name"_s);
     wish.Columns = call.Value(u"map"_s);
+    wish.Sign = call.Value(u"sign"_s);
     if (const QString fault = modTableOption::Fault(wish); !fault.isEmpty()) {
         reader.Misused(fault);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/read/cTableDoubt.h"
 #include "model/cImportEntry.h"
 
 #include <QDate>
@@ -46,13 +47,14 @@ struct cStatementRead
     std::optional<qint64> ClosingBalance; // cents, signed; the last one of the file
     QList<cReadProblem> Problems;
     QList<cSkippedRow> Skipped;
-    QList<cAccountBalance> Balances; // by account, where the format has them; the closing one comes last
-    QString Refusal;                 // German; why nothing could be read at all. Empty when the file was read
-    bool NeedsAccount = false;       // no account in the file and none was given: nothing may be staged
-    bool IsTable = false;            // made of rows and columns
-    bool IsGuessed = false;          // nothing but the contents told the columns of the table
-    QString Layout;                  // name of the table layout (a bank's) that was recognised
-    QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
+    QList<cAccountBalance> Balances;  // by account, where the format has them; the closing one comes last
+    QString Refusal;                  // German; why nothing could be read at all. Empty when the file was read
+    bool NeedsAccount = false;        // no account in the file and none was given: nothing may be staged
+    bool IsTable = false;             // made of rows and columns
+    bool IsGuessed = false;           // nothing but the contents told the columns of the table
+    std::optional<cTableDoubt> Doubt; // to be answered before anything is staged
+    QString Layout;                   // name of the table layout (a bank's) that was recognised
+    QString AccountKey;               // under which the account of such files is remembered; empty: it cannot be
 
     // Adds what was read of a further part.
     void Append(cStatementRead more);

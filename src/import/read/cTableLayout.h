@@ -2,9 +2,12 @@
 
 #include "import/read/cColumnMap.h"
 #include "import/read/cTableChoice.h"
+#include "import/read/cTableDoubt.h"
 
 #include <QChar>
 #include <QString>
+
+#include <optional>
 
 // Who or what decided about the columns.
 enum class eMapOrigin { Words, Contents, Profile, Memory, User };
@@ -23,11 +26,14 @@ struct cTableLayout
     eDateOrder Date = eDateOrder::DayMonthYear;
     eSignRule Sign = eSignRule::AsWritten;
     eDetails Details = eDetails::None;
-    QString Currency;     // of all rows where no column holds it
-    QString OnlyCurrency; // rows in another one are no bookings of the account; empty: all are
-    QString Profile;      // name of the known layout; empty when there is none
-    QString Key;          // hash of the header for the memory; empty without a header
-    QString AccountKey;   // the same with the lines above it
+    QString Currency;         // of all rows where no column holds it
+    QString OnlyCurrency;     // rows in another one are no bookings of the account; empty: all are
+    QString OwnNumber;        // own account that is on one of the two sides of every row; empty: the file does not say
+    bool IsSideGuess = false; // nothing tells which of the two sides is which
+    std::optional<cTableDoubt> Doubt; // which nothing but the sign rule of a choice ends
+    QString Profile;                  // name of the known layout; empty when there is none
+    QString Key;                      // hash of the header for the memory; empty without a header
+    QString AccountKey;               // the same with the lines above it
 
     // A table can only be read with a date and an amount.
     [[nodiscard]] bool IsReadable() const

@@ -94,6 +94,11 @@ QString modStatementFile::NoAccount()
     return cText::Tr("Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen.");
 }
 
+QString modStatementFile::OpenSign()
+{
+    return cText::Tr("Die Datei sagt nicht sicher, welche Beträge Ausgaben und welche Einnahmen sind.");
+}
+
 QString modStatementFile::GuessedColumns()
 {
     return cText::Tr("Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze.");

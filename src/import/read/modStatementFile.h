@@ -22,5 +22,7 @@ struct cContent
 [[nodiscard]] QString NoAccount();
 // What the user is told where nothing but the contents told the columns of a table, and nobody was asked.
 [[nodiscard]] QString GuessedColumns();
+// What the user is told where a table does not tell which way its amounts count.
+[[nodiscard]] QString OpenSign();
 
 } // namespace modStatementFile

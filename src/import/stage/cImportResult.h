@@ -25,14 +25,15 @@ struct cImportResult
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
-    QStringList Accounts;        // own account numbers of the file in their order; "" for statements without one
-    bool IsRefused = false;      // nothing was read; Message says why
-    bool IsCancelled = false;    // the user stopped; nothing of the file was staged
-    QString Message;             // German; empty when all went well
-    bool NeedsAccount = false;   // refused only because the file names no account and none was given
-    bool NeedsAssistant = false; // refused only because a table is not certain, see eUncertain
-    cImportEntryList Rows;       // with eStagingRun::Try: what would have been staged
-    QString Layout;              // name of the table layout that was recognised
-    QString AccountKey;          // of a table, for cTableMemory
-    QString Number;              // of a fetch: its account in the form in which it is staged
+    QStringList Accounts;             // own account numbers of the file in their order; "" for statements without one
+    bool IsRefused = false;           // nothing was read; Message says why
+    bool IsCancelled = false;         // the user stopped; nothing of the file was staged
+    QString Message;                  // German; empty when all went well
+    bool NeedsAccount = false;        // refused only because the file names no account and none was given
+    bool NeedsAssistant = false;      // refused only because a table is not certain, see eUncertain
+    std::optional<cTableDoubt> Doubt; // refused only because of it
+    cImportEntryList Rows;            // with eStagingRun::Try: what would have been staged
+    QString Layout;                   // name of the table layout that was recognised
+    QString AccountKey;               // of a table, for cTableMemory
+    QString Number;                   // of a fetch: its account in the form in which it is staged
 };

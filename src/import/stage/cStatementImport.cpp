@@ -305,10 +305,14 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
     result.AccountKey = read.AccountKey;
     result.NeedsAccount = read.NeedsAccount;
     result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable
-        && (read.IsGuessed || read.NeedsAccount || !read.Refusal.isEmpty());
-    if (!read.Refusal.isEmpty() || read.NeedsAccount || result.NeedsAssistant) {
+        && (read.IsGuessed || read.NeedsAccount || read.Doubt || !read.Refusal.isEmpty());
+    if (!read.Refusal.isEmpty() || read.NeedsAccount || read.Doubt || result.NeedsAssistant) {
         result.Problems = read.Problems;
         result.Skipped = read.Skipped;
+        if (read.Refusal.isEmpty() && read.Doubt) {
+            result.Doubt = read.Doubt;
+            return Refuse(std::move(result), modStatementFile::OpenSign());
+        }
         return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
     }
     if (read.IsGuessed) {
@@ -352,7 +356,7 @@ QString cStatementImport::WhyNot(eStatementFormat format, const cImportOptions& 
     if (m_data.IsReadOnly() && options.Run == eStagingRun::Write) {
         return cText::Tr("Die Datenbank ist nur zum Lesen geöffnet. Kontoauszüge können nicht übernommen werden.");
     }
-    const bool isForTables = options.Table.Map || !options.Table.Profile.isEmpty();
+    const bool isForTables = options.Table.Map || options.Table.Sign || !options.Table.Profile.isEmpty();
     if (isForTables && !modStatementFormat::IsTable(format)) {
         return cText::Tr("Spalten und Aufbau lassen sich nur bei Tabellen angeben. Die Datei ist keine: {0}",
                          {modStatementFormat::Name(format)});

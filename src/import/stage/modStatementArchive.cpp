@@ -111,6 +111,10 @@ private:
             row.Reason.Text = cText::Tr("{0}: {1}", {name, row.Reason.Text});
             m_all.Skipped.append(row);
         }
+        if (read.Doubt && m_all.Refusal.isEmpty()) {
+            m_all.Refusal = cText::Tr("{0}: {1} Entpacken Sie das Archiv und lesen Sie diese Datei einzeln ein.",
+                                      {name, modStatementFile::OpenSign()});
+        }
         if (read.IsGuessed) {
             Note(name, modStatementFile::GuessedColumns());
         }

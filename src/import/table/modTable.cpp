@@ -12,6 +12,7 @@
 #include "import/table/modTableHeader.h"
 #include "import/table/modTableProfile.h"
 #include "import/table/modTableRows.h"
+#include "import/table/modTableSign.h"
 #include "import/table/modTableText.h"
 
 #include <algorithm>
@@ -56,7 +57,8 @@ bool IsAustrian(const cTable& table, const cTableLayout& layout)
     return layout.FirstRow < end;
 }
 
-void SetColumns(const cTable& table, const cReadOptions& options, cTableLayout& layout)
+// True when a bank's layout or the user's memory of one told the columns.
+bool SetColumns(const cTable& table, const cReadOptions& options, cTableLayout& layout)
 {
     const QStringList names = layout.Map.Names;
     const bool isNamed =
@@ -64,7 +66,7 @@ void SetColumns(const cTable& table, const cReadOptions& options, cTableLayout& 
     const bool isKnown = isNamed || (options.Memory != nullptr && options.Memory->LoadMap(layout.Key, layout))
         || (options.Table.Profile != noProfile && modTableProfile::Apply(names, layout));
     if (isKnown) {
-        return;
+        return true;
     }
     if (names.isEmpty() || !layout.IsReadable()) {
         layout.Origin = eMapOrigin::Contents;
@@ -73,6 +75,7 @@ void SetColumns(const cTable& table, const cReadOptions& options, cTableLayout& 
     if (names.isEmpty() && IsAustrian(table, layout)) {
         layout.Details = eDetails::Austrian;
     }
+    return false;
 }
 
 // What the user chose goes before everything.
@@ -101,8 +104,12 @@ cTableLayout LayoutOf(const cTable& table, const modTableHeader::cFound& found, 
         layout.Key = cTableMemory::KeyOf(names);
         layout.AccountKey = cTableMemory::KeyOf(names + QStringList(modTableAbove::Read(table, found.Header).Labels));
     }
-    SetColumns(table, options, layout);
+    const bool isKnown = SetColumns(table, options, layout);
     TakeChoice(options.Table, layout);
+    if (!isKnown) {
+        modTableSign::Settle(table, layout);
+        layout.Sign = options.Table.Sign.value_or(layout.Sign);
+    }
     modTableContents::CompleteCurrency(layout);
     return layout;
 }
@@ -112,6 +119,9 @@ QString AccountOf(const modTableAbove::cAbove& above, const cTableLayout& layout
 {
     if (!above.Account.isEmpty()) {
         return above.Account;
+    }
+    if (!layout.OwnNumber.isEmpty()) {
+        return layout.OwnNumber;
     }
     if (!options.Account.isEmpty() || options.Memory == nullptr) {
         return options.Account;
@@ -172,6 +182,7 @@ cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layou
     cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options));
     read.IsTable = true;
     read.IsGuessed = layout.Origin == eMapOrigin::Contents;
+    read.Doubt = options.Table.Sign ? std::nullopt : layout.Doubt;
     if (!options.Table.Account.isEmpty()) {
         for (cImportEntry& entry : read.Entries) {
             entry.ImportAccount = options.Table.Account;

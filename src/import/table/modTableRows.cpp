@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -71,12 +72,14 @@ private:
 class cRowReader
 {
 public:
-    cRowReader(const cTable& table, const cTableLayout& layout, const QString& account)
+    cRowReader(const cTable& table, const cTableLayout& layout, const QString& account,
+               int rows = std::numeric_limits<int>::max())
         : m_table(table),
           m_layout(layout),
           m_map(layout.Map),
           m_account(account),
-          m_number(layout.Number)
+          m_number(layout.Number),
+          m_end(static_cast<int>(qMin<qint64>(table.RowCount(), qint64{layout.FirstRow} + rows)))
     {
         if (m_number == eNumberFormat::Detect) {
             DetectNumber();
@@ -86,18 +89,31 @@ public:
                 m_bookingDay = column;
             }
         }
+        CollectPurposes();
     }
 
     [[nodiscard]] cStatementRead Run()
     {
         m_read.Layout = m_layout.Profile;
         m_read.AccountKey = m_layout.AccountKey;
-        m_read.Entries.reserve(m_table.RowCount() - qMin(m_layout.FirstRow, m_table.RowCount()));
-        for (m_row = m_layout.FirstRow; m_row < m_table.RowCount(); ++m_row) {
+        m_read.Entries.reserve(m_end - qMin(m_layout.FirstRow, m_end));
+        for (m_row = m_layout.FirstRow; m_row < m_end; ++m_row) {
             ReadRow();
         }
         CloseBalance();
         return std::move(m_read);
+    }
+
+    [[nodiscard]] QList<modTableRows::cProbed> Probe()
+    {
+        QList<modTableRows::cProbed> probed;
+        for (m_row = m_layout.FirstRow; m_row < m_end; ++m_row) {
+            ReadRow();
+            if (!m_read.Entries.isEmpty()) {
+                probed.append({m_row, m_read.Entries.takeLast(), BalanceCents()});
+            }
+        }
+        return probed;
     }
 
 private:
@@ -106,15 +122,21 @@ private:
     void DetectNumber()
     {
         modTableValue::cNumberVote vote;
-        for (int row = m_layout.FirstRow; row < m_table.RowCount(); ++row) {
+        for (int row = m_layout.FirstRow; row < m_end; ++row) {
             for (const int column : {m_map.Amount, m_map.Debit, m_map.Credit}) {
                 vote.Add(m_table.Cell(row, column));
             }
         }
         m_number = vote.Decide();
-        if (vote.IsDoubtful()) {
-            m_read.Problems.append({0, cText::Tr("Der Punkt in den Beträgen wurde als Tausenderpunkt gelesen.")});
+        if (!vote.IsDoubtful()) {
+            return;
         }
+        // Who separates columns by commas has the point for decimals.
+        m_number = m_layout.Separator == u',' ? eNumberFormat::English : m_number;
+        m_read.Problems.append({0,
+                                m_number == eNumberFormat::English
+                                    ? cText::Tr("Der Punkt in den Beträgen wurde als Dezimalpunkt gelesen.")
+                                    : cText::Tr("Der Punkt in den Beträgen wurde als Tausenderpunkt gelesen.")});
     }
 
     void ReadRow()
@@ -138,13 +160,15 @@ private:
             Skip(eSkipped::Pending, cText::Tr("Der Umsatz ist noch vorgemerkt: {0}", {Start()}), entry);
         } else if (!entry.ImportDate.isValid() && !HasDigit(Cell(m_map.Date))) {
             Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat kein Datum: {0}", {Start()}), entry);
+        } else if (!value) {
+            Skip(eSkipped::Unreadable, cText::Tr("Der Betrag ist keine Zahl: {0}", {Start()}));
         } else if (!m_layout.OnlyCurrency.isEmpty() && entry.ImportCurrency != m_layout.OnlyCurrency) {
             Skip(eSkipped::OtherCurrency,
                  cText::Tr("Der Umsatz in {0} verändert das Guthaben nicht: {1}",
                            {entry.ImportCurrency.left(10), Start()}),
                  entry);
         } else {
-            Take(entry, value.has_value());
+            Take(entry);
         }
     }
 
@@ -217,7 +241,8 @@ private:
     [[nodiscard]] std::optional<double> ValueOf(QStringView amount) const
     {
         if (amount.isEmpty()) {
-            return Signed(SidesValue());
+            const std::optional<double> sides = SidesValue();
+            return sides ? std::optional<double>(Signed(*sides)) : sides;
         }
         std::optional<double> value = modTableValue::ReadAmount(amount, m_number);
         if (value && m_map.Indicator >= 0) {
@@ -229,13 +254,25 @@ private:
 
     [[nodiscard]] double Signed(double value) const { return m_layout.Sign == eSignRule::Negated ? -value : value; }
 
-    [[nodiscard]] double SidesValue() const
+    // Empty when one of the two is no number. A dash or a word stands for nothing.
+    [[nodiscard]] std::optional<double> SidesValue() const
     {
-        const auto size = [&](int column) {
-            return std::abs(modTableValue::ReadAmount(Cell(column), m_number).value_or(0.0));
-        };
-        const double debit = size(m_map.Debit);
-        return debit != 0.0 ? -debit : size(m_map.Credit);
+        const std::optional<double> debit = SideSize(m_map.Debit);
+        const std::optional<double> credit = SideSize(m_map.Credit);
+        if (!debit || !credit) {
+            return std::nullopt;
+        }
+        return *debit != 0.0 ? -*debit : *credit;
+    }
+
+    [[nodiscard]] std::optional<double> SideSize(int column) const
+    {
+        const QStringView cell = Cell(column);
+        if (!HasDigit(cell)) {
+            return 0.0;
+        }
+        const std::optional<double> euros = modTableValue::ReadAmount(cell, m_number);
+        return euros ? std::optional<double>(std::abs(*euros)) : euros;
     }
 
     [[nodiscard]] cImportEntry ToEntry(double value)
@@ -245,8 +282,8 @@ private:
         entry.ImportDate = modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date);
         entry.ImportType = m_type.Of(Cell(m_map.Text));
         entry.ImportPurpose = Purpose();
-        entry.ImportBeneficiary = Cell(m_map.Payer >= 0 && value > 0 ? m_map.Payer : m_map.Name).toString();
-        entry.ImportBeneficiaryAccount = CounterAccount();
+        entry.ImportBeneficiary = Counterparty(value);
+        entry.ImportBeneficiaryAccount = CounterAccount(entry.ImportAccount);
         entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
         entry.ImportValue = modAmount::ToEvenCents(value);
         entry.ImportCurrency = m_map.Currency >= 0 ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
@@ -267,20 +304,68 @@ private:
         return m_ownAccount;
     }
 
-    [[nodiscard]] QString CounterAccount() const
+    // Some banks name only the one of payer and payee that is not the owner, whichever column it has.
+    [[nodiscard]] QString Counterparty(double value) const
     {
-        const QStringView cell = Cell(m_map.Account);
+        if (m_map.Payer < 0) {
+            return Cell(m_map.Name).toString();
+        }
+        const QStringView wanted = Cell(value > 0 ? m_map.Payer : m_map.Name);
+        return (wanted.isEmpty() ? Cell(value > 0 ? m_map.Name : m_map.Payer) : wanted).toString();
+    }
+
+    // Where both sides are listed, the owner's number stands on the one or the other.
+    [[nodiscard]] QString CounterAccount(const QString& own) const
+    {
+        const QString number = CompactIban(Cell(m_map.Account));
+        return m_map.Account2 >= 0 && !own.isEmpty() && modAccountNumber::Compact(number) == own
+            ? CompactIban(Cell(m_map.Account2))
+            : number;
+    }
+
+    [[nodiscard]] static QString CompactIban(QStringView cell)
+    {
         return cell.contains(u' ') && modTableValue::IsIban(cell) ? modAccountNumber::Compact(cell.toString())
                                                                   : cell.toString();
     }
 
+    // Columns such as "Vwz.0" to "Vwz.17" are one text, whichever of them are mapped.
+    void CollectPurposes()
+    {
+        for (const int column : m_map.Purpose) {
+            if (column >= 0) {
+                m_purposes.append(column);
+            }
+        }
+        const QString stem = Stem(m_map.Names.value(m_map.Purpose[0]));
+        if (m_map.Purpose[0] < 0 || stem.size() < 3) {
+            return;
+        }
+        for (int column = 0; column < m_map.Names.size(); ++column) {
+            const QString& name = m_map.Names.at(column);
+            if (name.size() > stem.size() && !m_purposes.contains(column) && Stem(name) == stem) {
+                m_purposes.append(column);
+                std::sort(m_purposes.begin(), m_purposes.end());
+            }
+        }
+    }
+
+    // A name without the number at its end.
+    [[nodiscard]] static QString Stem(const QString& name)
+    {
+        qsizetype size = name.size();
+        while (size > 0 && name.at(size - 1).isDigit()) {
+            --size;
+        }
+        return name.left(size).trimmed();
+    }
+
     [[nodiscard]] QString Purpose() const
     {
-        QString joined = Cell(m_map.Purpose[0]).toString();
-        for (const int column : {m_map.Purpose[1], m_map.Purpose[2]}) {
-            if (column >= 0) {
-                joined += u' ' + Cell(column);
-            }
+        QString joined;
+        for (const int column : m_purposes) {
+            joined += joined.isEmpty() ? QString() : QString(u' ');
+            joined += Cell(column);
         }
         return modTableRows::CleanPurpose(std::move(joined));
     }
@@ -294,11 +379,8 @@ private:
         return isPending(m_map.Date) || isPending(m_bookingDay) || (!status.isEmpty() && IsOneOf(status, pendingWords));
     }
 
-    void Take(cImportEntry& entry, bool isNumber)
+    void Take(cImportEntry& entry)
     {
-        if (!isNumber) {
-            m_read.Problems.append(Problem(cText::Tr("Der Betrag ist keine Zahl: {0}", {Start()})));
-        }
         if (!entry.ImportDate.isValid()) {
             m_read.Problems.append(
                 Problem(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {Cell(m_map.Date).left(40).toString()})));
@@ -317,15 +399,15 @@ private:
     // The balance column of the rows in the order of the file.
     void TakeBalance(const cImportEntry& entry)
     {
-        if (m_map.Balance < 0) {
-            return;
+        if (const std::optional<qint64> balance = BalanceCents()) {
+            m_points.push_back({entry.ImportDate, *balance, entry.ImportValue});
         }
-        const std::optional<double> balance = modTableValue::ReadAmount(Cell(m_map.Balance), m_number);
-        if (!balance) {
-            return;
-        }
-        const cPoint point{entry.ImportDate, modAmount::ToCents(*balance), entry.ImportValue};
-        m_points.push_back(point);
+    }
+
+    [[nodiscard]] std::optional<qint64> BalanceCents() const
+    {
+        const auto balance = modTableValue::ReadAmount(Cell(m_map.Balance), m_number);
+        return balance ? std::optional<qint64>(modAmount::ToCents(*balance)) : std::nullopt;
     }
 
     // Banks list the newest row first or last; the balances themselves say which it is, else the days.
@@ -392,8 +474,10 @@ private:
     const cColumnMap& m_map;
     QString m_account;
     eNumberFormat m_number;
+    int m_end; // behind the last row that is read
     int m_bookingDay = -1;
     int m_row = 0;
+    QList<int> m_purposes; // in the order in which they are joined
     cStatementRead m_read;
     cRepeated m_type;
     cRepeated m_currency;
@@ -420,4 +504,9 @@ QString modTableRows::CleanPurpose(QString joined)
 cStatementRead modTableRows::Read(const cTable& table, const cTableLayout& layout, const QString& account)
 {
     return cRowReader(table, layout, account).Run();
+}
+
+QList<modTableRows::cProbed> modTableRows::Probe(const cTable& table, const cTableLayout& layout, int rows)
+{
+    return cRowReader(table, layout, {}, rows).Probe();
 }

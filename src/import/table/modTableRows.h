@@ -3,6 +3,10 @@
 #include "import/read/cStatementRead.h"
 #include "import/read/cTableLayout.h"
 
+#include <QList>
+
+#include <optional>
+
 class cTable;
 
 // Rows of a table as transactions.
@@ -11,6 +15,17 @@ namespace modTableRows {
 // Purpose columns joined by a blank, without ";" and quotes, "<BR>" as a line break, doubled blanks and line breaks
 // once, and SEPA keywords resolved.
 [[nodiscard]] QString CleanPurpose(QString joined);
+
+// A row as it would be read, with its place in the table and the balance beside it.
+struct cProbed
+{
+    int Row = 0;
+    cImportEntry Entry;
+    std::optional<qint64> Balance; // cents
+};
+
+// The transactions among the first `rows` rows of data.
+[[nodiscard]] QList<cProbed> Probe(const cTable& table, const cTableLayout& layout, int rows);
 
 // All rows from the first one of data on. `account` stands for rows that do not name the owner's account.
 [[nodiscard]] cStatementRead Read(const cTable& table, const cTableLayout& layout, const QString& account);

@@ -2,6 +2,9 @@
 
 #include "base/modAmount.h"
 #include "import/read/modAccountNumber.h"
+#include "import/table/modTableNumber.h"
+
+#include <QList>
 
 #include <algorithm>
 #include <array>
@@ -71,49 +74,16 @@ QDate ToDate(const cDigits& year, const cDigits& month, const cDigits& day)
     return isFit ? QDate(year.Size == 2 ? 2000 + year.Value : year.Value, month.Value, day.Value) : QDate();
 }
 
-bool IsNumberSign(QChar c)
+constexpr QStringView debitWords = u"S|SOLL|D|DEBIT|DR|DBIT|AF|-|DEBET|BELASTUNG|AUSGABE|AUSGABEN|AUSGANG|OUT|EXPENSE|"
+                                   u"LASTSCHRIFT|OUTGOING|ABGANG";
+constexpr QStringView creditWords = u"H|HABEN|K|C|CREDIT|CR|CRDT|BIJ|+|KREDIT|EINNAHME|EINNAHMEN|EINGANG|IN|INCOME|"
+                                    u"GUTSCHRIFT|INCOMING|ZUGANG";
+constexpr qsizetype longestWord = 11;
+
+bool IsOneOf(QStringView cell, QStringView words)
 {
-    return c == u'.' || c == u',' || c == u'+' || c == u'-';
-}
-
-// Letters of more than a currency code make the cell a text.
-constexpr int longestCode = 4;
-
-// Digits and number signs alone; empty for a text.
-QString NumberOf(QStringView cell)
-{
-    QString number;
-    number.reserve(cell.size());
-    int letters = 0;
-    for (const QChar c : cell) {
-        if (IsDigit(c) || IsNumberSign(c)) {
-            number.append(c);
-        } else if (c == QChar(u'\u2212') || c == QChar(u'\u2013')) {
-            number.append(u'-');
-        } else if (c.isLetter() && ++letters > longestCode) {
-            return {};
-        }
-    }
-    return number;
-}
-
-// The sign that a single letter behind the number gives.
-int LetterSign(QStringView cell)
-{
-    if (cell.size() < 2 || cell[cell.size() - 2].isLetter()) {
-        return 0;
-    }
-    const QChar last = cell.back();
-    return last == u'S' || last == u'H' ? modTableValue::IndicatorSign(cell.right(1)) : 0;
-}
-
-constexpr std::array<QStringView, 8> debitWords = {u"S", u"SOLL", u"D", u"DEBIT", u"DR", u"DBIT", u"AF", u"-"};
-constexpr std::array<QStringView, 9> creditWords = {u"H",  u"HABEN", u"K",   u"C", u"CREDIT",
-                                                    u"CR", u"CRDT",  u"BIJ", u"+"};
-
-bool IsOneOf(QStringView cell, const auto& words)
-{
-    return std::any_of(words.begin(), words.end(),
+    const QList<QStringView> known = words.split(u'|');
+    return std::any_of(known.begin(), known.end(),
                        [&](QStringView word) { return cell.compare(word, Qt::CaseInsensitive) == 0; });
 }
 
@@ -150,22 +120,13 @@ bool modTableValue::IsDate(QStringView cell)
 
 QString modTableValue::ToGerman(QStringView cell, eNumberFormat format)
 {
-    QString number = NumberOf(cell);
-    if (format == eNumberFormat::Detect) {
-        cNumberVote vote;
-        vote.Add(cell);
-        format = vote.Decide();
-    }
-    if (format == eNumberFormat::English) {
-        number.remove(u',').replace(u'.', u',');
-    }
-    return number;
+    return modTableNumber::German(cell, format);
 }
 
 std::optional<double> modTableValue::ReadAmount(QStringView cell, eNumberFormat format)
 {
     const std::optional<double> amount = modAmount::TryReadGerman(ToGerman(cell, format));
-    const int sign = LetterSign(cell);
+    const int sign = modTableNumber::TrailingSign(cell);
     return amount && sign != 0 ? std::abs(*amount) * sign : amount;
 }
 
@@ -184,7 +145,7 @@ bool modTableValue::IsAmount(QStringView cell)
 int modTableValue::IndicatorSign(QStringView cell)
 {
     const QStringView word = cell.trimmed();
-    if (word.isEmpty() || word.size() > 6) {
+    if (word.isEmpty() || word.size() > longestWord) {
         return 0;
     }
     return IsOneOf(word, debitWords) ? -1 : (IsOneOf(word, creditWords) ? 1 : 0);

@@ -66,5 +66,6 @@ struct cFileFinding
     qsizetype Rows = 0;
     qsizetype Skipped = 0;
     std::optional<qint64> ClosingBalance; // cents, signed
+    QString Question;                     // what the file leaves open, with both readings; else empty
     QString Refusal;                      // empty when it can be read
 };

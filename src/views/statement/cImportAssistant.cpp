@@ -6,6 +6,7 @@
 #include "core/cAmountFormat.h"
 #include "import/read/cStatementSource.h"
 #include "import/read/modAccountNumber.h"
+#include "import/read/modStatementFile.h"
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
@@ -17,6 +18,7 @@
 #include "store/cDataAccess.h"
 #include "views/statement/modColumnMeaning.h"
 #include "views/statement/modImportPreview.h"
+#include "views/statement/modImportText.h"
 #include "views/statement/modTableField.h"
 
 #include <QFileInfo>
@@ -303,6 +305,30 @@ void cImportAssistant::SetUsesPayee(bool uses)
     Evaluate();
 }
 
+QString cImportAssistant::DoubtText()
+{
+    return cText::Tr("{0} Was ist richtig?", {modStatementFile::OpenSign()});
+}
+
+QStringList cImportAssistant::Readings() const
+{
+    const std::optional<cTableDoubt>& doubt = m_works->Opened.Layout.Doubt;
+    return doubt ? modImportText::Readings(*doubt, m_parts.Format) : QStringList();
+}
+
+int cImportAssistant::Reading() const
+{
+    return m_works->Choice.Sign ? static_cast<int>(*m_works->Choice.Sign) : -1;
+}
+
+void cImportAssistant::ChooseReading(int reading)
+{
+    if (reading != Reading()) {
+        m_works->Choice.Sign = static_cast<eSignRule>(reading);
+        Touch();
+    }
+}
+
 void cImportAssistant::Reset()
 {
     m_works->Choice = {};
@@ -479,7 +505,8 @@ cImportOptions cImportAssistant::Options() const
         options.Table.HeaderLine = layout.HeaderRow + 1;
         options.Table.Number = layout.Number;
         options.Table.Date = layout.Date;
-        options.Table.Sign = layout.Sign;
+        const bool isOpen = layout.Doubt && !m_works->Choice.Sign;
+        options.Table.Sign = isOpen ? std::nullopt : std::optional<eSignRule>(layout.Sign);
     }
     const bool isOther = m_account && !m_account->isEmpty() && !m_works->FileAccounts.isEmpty()
         && m_works->FileAccounts != QStringList(*m_account);

@@ -98,6 +98,12 @@ public:
     [[nodiscard]] bool UsesPayee() const { return m_usesPayee; }
     void SetUsesPayee(bool uses);
 
+    // What the file leaves open: one of its bookings in two readings. No readings: nothing is open.
+    [[nodiscard]] static QString DoubtText();
+    [[nodiscard]] QStringList Readings() const;
+    [[nodiscard]] int Reading() const; // the chosen one; -1: none yet
+    void ChooseReading(int reading);
+
     // Forgets what was chosen about the table.
     void Reset();
 

@@ -80,6 +80,11 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
     }
     report.IsRefused = result.IsRefused;
     report.Message = result.Message;
+    if (result.Doubt) {
+        report.Message = cText::Tr("{0} {1} Lesen Sie sie mit \"--sign {2}\" oder \"--sign {3}\" ein.",
+                                   {result.Message, modImportText::Question(*result.Doubt, format),
+                                    modTableOption::SignNames().constFirst(), modTableOption::SignNames().constLast()});
+    }
     report.Numbers = modImportText::Numbers(result, format);
     report.IsDone = !result.IsRefused && result.Failed == 0;
     return report;
@@ -118,8 +123,9 @@ void TakeTable(const modTable::cOpened& opened, cFileFinding& finding)
     finding.Columns = modTableOption::Columns(layout.Map);
 }
 
-void TakeRows(const cStatementRead& read, cFileFinding& finding)
+void TakeRows(const cStatementRead& read, const cAmountFormat& format, cFileFinding& finding)
 {
+    finding.Question = read.Doubt ? modImportText::Question(*read.Doubt, format) : QString();
     finding.Profile = finding.Profile.isEmpty() ? read.Layout : finding.Profile;
     finding.Accounts = cImportHive::AccountsOf(read.Entries);
     finding.Accounts.removeAll(QString());
@@ -288,6 +294,10 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     }
     RememberAccount(result, wish.Account, m_works->Memory);
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
+    if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {
+        QStringList unsaid; // a table without names for its columns is asked about again
+        (void)RememberLayout(path, wish, unsaid);
+    }
     if (wish.Remembers && !result.IsRefused) {
         report.IsDone = RememberLayout(path, wish, report.Notes) && report.IsDone;
     }
@@ -314,7 +324,7 @@ cFileFinding cStatementDesk::Examine(const QString& path, const cFileWish& wish)
         TakeTable(*opened, finding);
     }
     if (const modStatementFormat::cReader reader = modStatementFormat::Reader(format)) {
-        TakeRows(reader(source, options), finding);
+        TakeRows(reader(source, options), m_tools.Format, finding);
     } else {
         finding.Refusal = modStatementFormat::Refusal(format);
     }

@@ -76,6 +76,26 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
     return lines;
 }
 
+QStringList modImportText::Readings(const cTableDoubt& doubt, const cAmountFormat& format)
+{
+    QStringList readings;
+    for (const cImportEntry& entry : {doubt.AsWritten, doubt.Negated}) {
+        const QString sign = entry.ImportValue > 0 ? u"+"_s : QString();
+        QStringList parts{modDate::ToGerman(entry.ImportDate), entry.ImportBeneficiary.simplified(),
+                          entry.ImportPurpose.simplified().left(60), sign + format.Cents(entry.ImportValue)};
+        parts.removeAll(QString());
+        readings.append(parts.join(u"  ·  "_s));
+    }
+    return readings;
+}
+
+QString modImportText::Question(const cTableDoubt& doubt, const cAmountFormat& format)
+{
+    const QString sign = doubt.Negated.ImportValue > 0 ? u"+"_s : QString();
+    return cText::Tr("{0} oder {1}?",
+                     {Readings(doubt, format).constFirst(), sign + format.Cents(doubt.Negated.ImportValue)});
+}
+
 QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
 {
     QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),

@@ -13,6 +13,7 @@ struct cImportResult;
 struct cMatchCandidate;
 struct cProposal;
 struct cReadProblem;
+struct cTableDoubt;
 
 // What the page of bank statements says, in words.
 namespace modImportText {
@@ -28,6 +29,13 @@ namespace modImportText {
 
 // The same with the name of the file, and the lines of it that could not be read.
 [[nodiscard]] QStringList Summary(const cImportResult& result, const cAmountFormat& format);
+
+// A booking of a table that leaves open which way its amounts count, in both readings: as the file has it, then the
+// other way round.
+[[nodiscard]] QStringList Readings(const cTableDoubt& doubt, const cAmountFormat& format);
+
+// Both in one question: "01.02.2026 · Miete · -500,00 € oder +500,00 €?"
+[[nodiscard]] QString Question(const cTableDoubt& doubt, const cAmountFormat& format);
 
 // A transaction in one line.
 [[nodiscard]] QString Row(const cImportEntry& row, const cAmountFormat& format);

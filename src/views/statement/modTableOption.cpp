@@ -51,6 +51,17 @@ constexpr std::array columns = {
     cColumnName{u"saldo", &cColumnMap::Balance},
 };
 
+struct cSignName
+{
+    eSignRule Sign;
+    const char16_t* Name;
+};
+
+constexpr std::array signs = {
+    cSignName{eSignRule::AsWritten, u"wie-datei"},
+    cSignName{eSignRule::Negated, u"umgekehrt"},
+};
+
 constexpr std::array purposes = {u"zweck", u"zweck2", u"zweck3"};
 
 // Where the map keeps the column; null when there is none of that name.
@@ -86,6 +97,14 @@ QString CharsetFault(const QString& text)
     return text.isEmpty() || names.contains(text, Qt::CaseInsensitive)
         ? QString()
         : cText::Tr("Den Zeichensatz '{0}' gibt es nicht. Möglich sind: {1}.", {text, names.join(u", "_s)});
+}
+
+QString SignFault(const QString& text)
+{
+    const QStringList names = modTableOption::SignNames();
+    return text.isEmpty() || names.contains(text, Qt::CaseInsensitive)
+        ? QString()
+        : cText::Tr("Das Vorzeichen '{0}' gibt es nicht. Möglich sind: {1}.", {text, names.join(u", "_s)});
 }
 
 QString ProfileFault(const QString& text)
@@ -126,6 +145,15 @@ QStringList modTableOption::CharsetNames()
     return names;
 }
 
+QStringList modTableOption::SignNames()
+{
+    QStringList names;
+    for (const cSignName& known : signs) {
+        names.append(QString::fromUtf16(known.Name));
+    }
+    return names;
+}
+
 QStringList modTableOption::ColumnNames()
 {
     QStringList names;
@@ -140,7 +168,8 @@ QStringList modTableOption::ColumnNames()
 
 QString modTableOption::Fault(const cFileWish& wish)
 {
-    for (const QString& fault : {CharsetFault(wish.Charset), ProfileFault(wish.Profile), ColumnsFault(wish.Columns)}) {
+    for (const QString& fault :
+         {CharsetFault(wish.Charset), ProfileFault(wish.Profile), ColumnsFault(wish.Columns), SignFault(wish.Sign)}) {
         if (!fault.isEmpty()) {
             return fault;
         }
@@ -163,6 +192,13 @@ cTableChoice modTableOption::Choice(const cFileWish& wish)
             Take(part, map);
         }
         choice.Map = map;
+        choice.Sign = eSignRule::AsWritten; // who names the columns knows what they hold
+    }
+    const auto* const sign = std::find_if(signs.begin(), signs.end(), [&](const cSignName& known) {
+        return wish.Sign.compare(QStringView(known.Name), Qt::CaseInsensitive) == 0;
+    });
+    if (sign != signs.end()) {
+        choice.Sign = sign->Sign;
     }
     return choice;
 }

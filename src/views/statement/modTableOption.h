@@ -16,8 +16,9 @@ namespace modTableOption {
 
 [[nodiscard]] QStringList CharsetNames();
 [[nodiscard]] QStringList ColumnNames();
+[[nodiscard]] QStringList SignNames(); // as the file has it, then the other way round
 
-// What is wrong with charset, profile or columns of the wish, the first of them; empty when they can be used.
+// What is wrong with charset, profile, columns or sign of the wish, the first of them; empty when they can be used.
 [[nodiscard]] QString Fault(const cFileWish& wish);
 
 // What they choose; only for a wish without fault.

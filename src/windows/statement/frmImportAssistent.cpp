@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "windows/statement/cImportPreview.h"
+#include "windows/statement/cReadingBox.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cFormScroll.h"
@@ -68,6 +69,7 @@ frmImportAssistent::frmImportAssistent(cImportAssistant& assistant, QWidget* par
       m_header(new QSpinBox(this)),
       m_duplicates(new QCheckBox(cText::Tr("&Identische Buchungen verhindern"), this)),
       m_payee(new QCheckBox(cText::Tr("&Empfänger als Verwendungszweck, wenn keiner angegeben ist"), this)),
+      m_readings(new cReadingBox(assistant, this)),
       m_preview(new cImportPreview(assistant, this)),
       m_outcome(new QLabel(this)),
       m_leftOutLabel(new QLabel(cText::Tr("Nicht &oder nur mit Vorbehalt übernommen:"), this)),
@@ -107,6 +109,7 @@ void frmImportAssistent::Build()
     form->addWidget(m_automatic);
     form->addLayout(BuildFields());
     form->addLayout(options);
+    form->addWidget(m_readings);
     form->addWidget(m_preview, 1);
     form->addWidget(m_outcome);
     form->addWidget(m_leftOutLabel);
@@ -215,6 +218,7 @@ void frmImportAssistent::Refresh()
     m_format->setText(m_assistant.FormatText());
     ShowAccount();
     ShowFields();
+    m_readings->Refresh();
     m_preview->Refresh();
     ShowOutcome();
 }

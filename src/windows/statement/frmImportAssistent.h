@@ -7,6 +7,7 @@
 
 class cFieldGrid;
 class cImportPreview;
+class cReadingBox;
 class QCheckBox;
 class QComboBox;
 class QDialogButtonBox;
@@ -60,6 +61,7 @@ private:
     QList<cField> m_fields;
     QCheckBox* m_duplicates;
     QCheckBox* m_payee;
+    cReadingBox* m_readings;
     cImportPreview* m_preview;
     QLabel* m_outcome;
     QLabel* m_leftOutLabel;

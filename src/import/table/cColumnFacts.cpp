@@ -1,0 +1,42 @@
+#include "import/table/cColumnFacts.h"
+
+#include "import/table/modTableNumber.h"
+#include "import/table/modTableValue.h"
+
+#include <algorithm>
+
+namespace {
+
+bool IsAllOf(QStringView cell, auto isFit)
+{
+    return std::all_of(cell.begin(), cell.end(), isFit);
+}
+
+} // namespace
+
+void cColumnFacts::Look(QStringView cell)
+{
+    if (cell.isEmpty()) {
+        return;
+    }
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    const auto isCapital = [](QChar c) { return c >= u'A' && c <= u'Z'; };
+    Kinds.insert(qHash(cell));
+    if (Filled++ == 0) {
+        First = cell.toString();
+    }
+    const bool isDate = modTableValue::IsDate(cell);
+    const bool isAmount = !isDate && modTableValue::IsAmount(cell);
+    const QString number = isDate ? QString() : modTableNumber::German(cell, eNumberFormat::Detect);
+    Dates += isDate ? 1 : 0;
+    Amounts += isAmount ? 1 : 0;
+    Wholes += !isAmount && !number.isEmpty() ? 1 : 0;
+    const bool isNegative = number.startsWith(u'-');
+    Negative += isNegative ? 1 : 0;
+    Signed += isNegative || (!number.isEmpty() && cell.contains(u'+')) ? 1 : 0;
+    Ibans += modTableValue::IsIban(cell) ? 1 : 0;
+    Numbers += cell.size() >= 5 && IsAllOf(cell, isDigit) ? 1 : 0;
+    Codes += cell.size() == 3 && IsAllOf(cell, isCapital) ? 1 : 0;
+    Indicators += modTableValue::IndicatorSign(cell) != 0 ? 1 : 0;
+    Letters += std::count_if(cell.begin(), cell.end(), [](QChar c) { return c.isLetter(); });
+}
