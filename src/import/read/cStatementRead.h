@@ -52,7 +52,8 @@ struct cStatementRead
     bool IsTable = false;            // made of rows and columns
     bool IsGuessed = false;          // nothing but the contents told the columns of the table
     QString Layout;                  // name of the table layout (a bank's) that was recognised
-    QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
+    QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
+    QString AccountKey;     // under which the account of such files is remembered; empty: it cannot be
 
     // Adds what was read of a further part.
     void Append(cStatementRead more);
