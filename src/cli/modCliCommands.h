@@ -94,6 +94,10 @@ inline constexpr int Any = std::numeric_limits<int>::max(); // number of argumen
 // The option that several commands share.
 [[nodiscard]] cCliOption Json();
 
+// The option of all that read statements, and what is said about equal rows without it.
+[[nodiscard]] cCliOption TakeEqual();
+[[nodiscard]] QString EqualRows(qsizetype count);
+
 // The options that say from which open files PIN and TAN are read, and the number one of them has; -1 without.
 [[nodiscard]] QList<cCliOption> BankSecrets();
 [[nodiscard]] int Fd(const cCliContext& context, const QString& option);

@@ -12,6 +12,7 @@
 #include "views/statement/cStatementFiles.h"
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -70,6 +71,7 @@ QString ToJson(const cBankFetch::cAccount& account, const cBankFetch::cLine& lin
         .Number(u"new"_s, line.New)
         .Number(u"known"_s, line.Known)
         .Number(u"leftOut"_s, line.LeftOut)
+        .Number(u"repeats"_s, line.Equal)
         .Raw(u"balance"_s, line.Balance ? modAmount::CentsToText(*line.Balance) : u"null"_s)
         .Text(u"message"_s, line.Failure.Text)
         .Text(u"bankWords"_s, line.Failure.BankWords)
@@ -115,6 +117,15 @@ void Print(const cCliContext& context, const cBankFetch& fetch, const QList<qsiz
         objects.append(ToJson(fetch.Accounts().at(place), fetch.Lines().at(place)));
     }
     modConsole::Out(modJson::Array(objects) + u'\n');
+}
+
+void SayEqual(const cCliContext& context, const cBankFetch& fetch, const QList<qsizetype>& places)
+{
+    const int equal = std::accumulate(places.begin(), places.end(), 0,
+                                      [&](int sum, qsizetype place) { return sum + fetch.Lines().at(place).Equal; });
+    if (equal > 0 && !context.Call.Has(u"take-equal"_s)) {
+        modConsole::Error(modCliCommands::EqualRows(equal));
+    }
 }
 
 // Of a failed fetch as well, for that is what somebody wants to read about.
@@ -166,9 +177,12 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     }
     // Who names the first day wants what lies that far back; else the days that are missing are named.
     context.User.Prepare({.Answer = wish.From.isValid() ? eAnswer::Yes : eAnswer::No});
+    book.Statements.Files().SetRepeats(context.Call.Has(u"take-equal"_s) ? cStatementFiles::eRepeats::Take
+                                                                         : cStatementFiles::eRepeats::LeaveOut);
     cNoProgress progress;
     const bool isDone = fetch.Run(chosen, progress);
     Print(context, fetch, chosen.Accounts);
+    SayEqual(context, fetch, chosen.Accounts);
     return IsLogWritten(context.Call.Value(u"log"_s), fetch) && isDone ? modExit::Done : modExit::Failed;
 }
 
@@ -205,6 +219,6 @@ cCliCommand modCliCommands::FetchCommand()
                     {u"to"_s, u"TAG"_s, cText::Tr("letzter Tag; sonst heute")},
                     {u"log"_s, u"DATEI"_s, cText::Tr("schreibt den Nachrichtenverkehr ohne persönliche Angaben auf")},
                     {u"tan-image"_s, u"DATEI"_s, cText::Tr("hierhin kommt das Bild einer photoTAN")}}
-                + BankSecrets() + QList<cCliOption>{Json()},
+                + QList<cCliOption>{TakeEqual()} + BankSecrets() + QList<cCliOption>{Json()},
             .Run = Run};
 }

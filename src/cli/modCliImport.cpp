@@ -46,6 +46,7 @@ QString ToJson(const cFileReport& report, bool isTrial)
         .Number(u"read"_s, report.Read)
         .Number(u"staged"_s, report.Staged)
         .Number(u"duplicates"_s, report.Duplicates.size())
+        .Number(u"repeats"_s, report.Repeats.size())
         .Number(u"zero"_s, report.Zero)
         .Number(u"failed"_s, report.Failed)
         .Raw(u"closingBalance"_s, report.ClosingBalance ? modAmount::CentsToText(*report.ClosingBalance) : u"null"_s)
@@ -80,6 +81,9 @@ void Print(const cFileReport& report, const cCliBook& book)
     for (const cImportEntry& row : report.Duplicates) {
         text += cText::Tr("  schon vorhanden: {0}", {modImportText::Row(row, book.Format())}) + u'\n';
     }
+    for (const cImportEntry& row : report.Repeats) {
+        text += cText::Tr("  mehrfach gleich: {0}", {modImportText::Row(row, book.Format())}) + u'\n';
+    }
     modConsole::Out(text);
     for (const cFileReport::cLine& problem : report.Problems) {
         modConsole::Error(u"  "_s + problem.Shown);
@@ -106,6 +110,9 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
         } else {
             Print(report, book);
         }
+        if (!report.Repeats.isEmpty()) {
+            modConsole::Error(modCliCommands::EqualRows(report.Repeats.size()));
+        }
         if (!report.Message.isEmpty()) {
             modConsole::Error(file + u": "_s + report.Message);
         }
@@ -122,12 +129,34 @@ int Run(const cCliContext& context)
     cFileWish wish = modCliTableChoice::Read(context.Call, reader);
     wish.BookAccount = context.Call.Value(u"book-account"_s);
     wish.KeepsDuplicates = context.Call.Has(u"keep-duplicates"_s);
+    wish.TakesEqual = context.Call.Has(u"take-equal"_s);
     wish.Remembers = context.Call.Has(u"remember"_s);
     wish.IsTrial = context.Call.Has(u"dry-run"_s);
     return reader.IsGood() ? ImportFiles(context, wish) : reader.Report();
 }
 
 } // namespace
+
+cCliOption modCliCommands::TakeEqual()
+{
+    return {
+        u"take-equal"_s,
+        {},
+        cText::Tr(
+            "auch Umsätze übernehmen, die im Auszug mehrmals gleich stehen und die kein Kontostand der Bank belegt")};
+}
+
+QString modCliCommands::EqualRows(qsizetype count)
+{
+    return count == 1
+        ? cText::Tr(
+            "Ein Umsatz steht im Auszug noch einmal gleich und wurde nicht übernommen, weil kein Kontostand der Bank "
+            "ihn belegt. Mit --take-equal wird er übernommen.")
+        : cText::Tr(
+            "{0} Umsätze stehen im Auszug noch einmal gleich und wurden nicht übernommen, weil kein Kontostand der "
+            "Bank sie belegt. Mit --take-equal werden sie übernommen.",
+            {QString::number(count)});
+}
 
 cCliCommand modCliCommands::ImportCommand()
 {
@@ -145,6 +174,7 @@ cCliCommand modCliCommands::ImportCommand()
                                "CSV-Dateien gleichen Aufbaus gemerkt")},
                     {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
                     {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
+                    TakeEqual(),
                     {u"remember"_s,
                      {},
                      cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},

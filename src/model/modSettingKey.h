@@ -43,10 +43,12 @@ inline const cSettingKey BackupFailed{QStringLiteral("BackupFailed"), {Day, Book
 inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
 inline const cSettingKey Corrected{QStringLiteral("GelerntZuletzt"), {List, Book}}; // see modCorrected
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
-inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};     // number: account of the book
-inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}}; // number
-inline const cSettingFamily Fetched{QStringLiteral("ABRUF:"), {}, {List, Book}};      // bank code and number
-inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}};       // digest of a table's header
+inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};      // number: account of the book
+inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}};  // number
+inline const cSettingFamily EqualLeftOut{QStringLiteral("GLEICH:"), {}, {List, Book}}; // number
+inline const cSettingFamily Reconciled{QStringLiteral("STIMMT:"), {}, {Day, Book}};    // number
+inline const cSettingFamily Fetched{QStringLiteral("ABRUF:"), {}, {List, Book}};       // bank code and number
+inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}};        // digest of a table's header
 // Not under "KTO:", where the name of a setting is a number of an account; a digest never begins like this.
 inline const cSettingFamily TableAccounts{QStringLiteral("MAP:KTO:"), {}, {List, Book}};
 inline const cSettingFamily TableCharset{QStringLiteral("MAP:ZS:"), {}, {Number, Book, Cleared, QStringLiteral("0")}};

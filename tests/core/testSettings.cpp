@@ -72,6 +72,8 @@ constexpr std::array storedSettings{
     "KategorieList",
     "KTO:*",
     "SALDO:*",
+    "GLEICH:*",
+    "STIMMT:*",
     "ABRUF:*",
     "MAP:*",
     "MAP:KTO:*",

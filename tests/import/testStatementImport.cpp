@@ -35,6 +35,30 @@ QString Many(int count)
     return text + u":62F:C260101EUR0,00\r\n-\r\n";
 }
 
+// A table of purchases, each in a line of its own: "0503 -200 2" twice on May 3rd. `end` is the balance behind the
+// last.
+QString Purchases(const QString& list, std::optional<int> end)
+{
+    QString text = end ? u"Buchungstag;Verwendungszweck;Betrag;Saldo\n"_s : u"Buchungstag;Verwendungszweck;Betrag\n"_s;
+    QStringList lines;
+    int balance = end.value_or(0);
+    const QStringList items = list.split(u", "_s);
+    for (const QString& item : items) {
+        const QStringList parts = item.split(u' ');
+        for (int i = 0; i < parts.at(2).toInt(); ++i) {
+            const int cents = parts.at(1).toInt();
+            QStringList cells{parts.at(0).mid(2) + u'.' + parts.at(0).left(2) + u".2026"_s, u"Fahrkarte"_s,
+                              modAmount::CentsToText(cents).replace(u'.', u',')};
+            if (end) {
+                cells.append(modAmount::CentsToText(balance).replace(u'.', u','));
+                balance -= cents;
+            }
+            lines.append(cells.join(u';'));
+        }
+    }
+    return text + lines.join(u'\n') + u'\n';
+}
+
 } // namespace
 
 class testStatementImport : public QObject
@@ -154,6 +178,48 @@ private Q_SLOTS:
         QCOMPARE(import.ImportText(u"a.csv"_s, table, {.DefaultAccount = u"2"_s}, progress).Staged, 3);
         QCOMPARE(balances.Of(u"2"_s),
                  cBankBalanceList({{QDate(2026, 5, 1), 10000}, {QDate(2026, 5, 2), 7500}, {QDate(2026, 5, 4), 6000}}));
+    }
+
+    void CountsEqualRows_data()
+    {
+        QTest::addColumn<QStringList>("files"); // newest transaction first; "@5000" behind: the balance after it
+        QTest::addColumn<QList<int>>("staged"); // by each file
+        QTest::addColumn<QList<int>>("repeats");
+        QTest::newRow("nothing proves them") << QStringList{u"0503 -200 3"_s} << QList<int>{1} << QList<int>{2};
+        QTest::newRow("balances do") << QStringList{u"0503 -200 3, 0502 -700 1@4000"_s,
+                                                    u"0503 -200 3, 0502 -700 1@4000"_s}
+                                     << QList<int>{4, 0} << QList<int>{0, 0};
+        QTest::newRow("overlap, the second came later")
+            << QStringList{u"0503 -200 1, 0502 -700 1@4000"_s, u"0503 -200 2, 0502 -700 1@3800"_s} << QList<int>{2, 1}
+            << QList<int>{0, 0};
+        QTest::newRow("known balances rule them out")
+            << QStringList{u"0504 -100 1, 0503 -200 1, 0502 -700 1@4000"_s, u"0503 -200 2"_s} << QList<int>{3, 0}
+            << QList<int>{0, 0};
+        QTest::newRow("as many as before")
+            << QStringList{u"0503 -200 1"_s, u"0503 -200 1"_s} << QList<int>{1, 0} << QList<int>{0, 0};
+    }
+
+    // What a file has more often than the book is real; the same file again brings nothing.
+    void CountsEqualRows()
+    {
+        QFETCH(const QStringList, files);
+        cImportBook book;
+        cBankBalances balances(*book.Settings);
+        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
+        cNoProgress progress;
+        QList<int> staged;
+        QList<int> repeats;
+        for (const QString& file : files) {
+            const QStringList parts = file.split(u'@');
+            const std::optional<int> end = parts.size() > 1 ? std::optional(parts.at(1).toInt()) : std::nullopt;
+            const cImportResult result =
+                import.ImportText(u"a.csv"_s, Purchases(parts.at(0), end), {.DefaultAccount = u"1"_s}, progress);
+            QVERIFY2(!result.IsRefused, qPrintable(result.Message));
+            staged.append(result.Staged);
+            repeats.append(static_cast<int>(result.Repeats.size()));
+        }
+        QTEST(staged, "staged");
+        QTEST(repeats, "repeats");
     }
 
     void ReadOnlyDatabaseIsToldOnce()

@@ -5,7 +5,9 @@
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
+#include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -155,6 +157,41 @@ private Q_SLOTS:
         QCOMPARE(page.Review.StartImportReview(0)->View().CountText(), u"3 offen, 3 insgesamt"_s); // one import
         page.Review.Files().DropLeftOut();
         QVERIFY(page.Review.Files().LeftOut().isEmpty());
+    }
+
+    void AsksOnceAboutEqualRows_data()
+    {
+        QTest::addColumn<eAnswer>("answer");
+        QTest::addColumn<int>("staged");
+        QTest::addColumn<int>("leftOut"); // by the second reading of the files
+        QTest::newRow("taken") << eAnswer::Yes << 2 << 4;
+        QTest::newRow("left out") << eAnswer::No << 1 << 4;
+    }
+
+    // Two files overlap, and each has a ticket twice: that is one more row, asked about once.
+    void AsksOnceAboutEqualRows()
+    {
+        QFETCH(const eAnswer, answer);
+        cPage page;
+        QTemporaryDir folder;
+        QStringList files;
+        for (const QString& name : {u"a.csv"_s, u"b.csv"_s}) {
+            files.append(folder.filePath(name));
+            QFile file(files.constLast());
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
+                       "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
+        }
+        page.User.Answers = {answer};
+        page.User.Choices = {u"Girokonto"_s};
+        page.Review.Files().ImportFiles(files, page.Progress);
+        QVERIFY(page.User.Asked.constFirst().contains(u"03.05.2026  ·  -2,00"));
+        QTEST(static_cast<int>(page.Data.GetImportEntries().size()), "staged");
+        page.User.Asked.clear();
+        page.Review.Files().ImportFiles(files, page.Progress);
+        QCOMPARE(page.User.Asked, QStringList());
+        QTEST(static_cast<int>(page.Data.GetImportEntries().size()), "staged");
+        QTEST(static_cast<int>(page.Review.Files().LeftOut().size()), "leftOut");
     }
 
     void BooksWhatTheUserChose()

@@ -11,6 +11,7 @@ cStatementRead cStatementRead::TooMany()
 
 void cStatementRead::Append(cStatementRead more)
 {
+    Parts.append(Entries.size());
     Entries += std::move(more.Entries);
     Problems += more.Problems;
     Skipped += more.Skipped;

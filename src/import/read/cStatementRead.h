@@ -54,7 +54,8 @@ struct cStatementRead
     bool IsGuessed = false;           // nothing but the contents told the columns of the table
     std::optional<cTableDoubt> Doubt; // to be answered before anything is staged
     QString Layout;                   // name of the table layout (a bank's) that was recognised
-    QString AccountKey;               // under which the account of such files is remembered; empty: it cannot be
+    QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
+    QString AccountKey;     // under which the account of such files is remembered; empty: it cannot be
 
     // Adds what was read of a further part.
     void Append(cStatementRead more);

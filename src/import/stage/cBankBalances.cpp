@@ -41,6 +41,37 @@ QDate NewestDay(const cImportEntryList& entries, const QString& account)
     return newest;
 }
 
+// One without a day gets that of the account's newest transaction.
+QMap<QString, cBankBalanceList> ByAccount(const QList<cAccountBalance>& balances, const cImportEntryList& entries)
+{
+    QMap<QString, cBankBalanceList> byAccount;
+    for (const cAccountBalance& balance : balances) {
+        const QDate day = balance.Date.isValid() ? balance.Date : NewestDay(entries, balance.Account);
+        if (day.isValid() && !balance.Account.isEmpty()) {
+            byAccount[balance.Account].append({day, balance.Cents});
+        }
+    }
+    return byAccount;
+}
+
+void SortByDay(cBankBalanceList& balances)
+{
+    std::stable_sort(balances.begin(), balances.end(),
+                     [](const cBankBalance& a, const cBankBalance& b) { return a.Day < b.Day; });
+}
+
+// A year of daily balances is a few hundred items, and the same file may well be read again.
+cBankBalanceList Joined(cBankBalanceList known, const cBankBalanceList& more)
+{
+    for (const cBankBalance& balance : more) {
+        if (!known.contains(balance)) {
+            known.append(balance);
+        }
+    }
+    SortByDay(known);
+    return known;
+}
+
 } // namespace
 
 cBankBalanceList cBankBalances::Of(const QString& account) const
@@ -52,20 +83,19 @@ cBankBalanceList cBankBalances::Of(const QString& account) const
             balances.append(*balance);
         }
     }
-    std::stable_sort(balances.begin(), balances.end(),
-                     [](const cBankBalance& a, const cBankBalance& b) { return a.Day < b.Day; });
+    SortByDay(balances);
     return balances;
+}
+
+cBankBalanceList cBankBalances::With(const QString& account, const QList<cAccountBalance>& balances,
+                                     const cImportEntryList& entries) const
+{
+    return Joined(Of(account), ByAccount(balances, entries).value(account));
 }
 
 bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries)
 {
-    QMap<QString, cBankBalanceList> byAccount;
-    for (const cAccountBalance& balance : balances) {
-        const QDate day = balance.Date.isValid() ? balance.Date : NewestDay(entries, balance.Account);
-        if (day.isValid() && !balance.Account.isEmpty()) {
-            byAccount[balance.Account].append({day, balance.Cents});
-        }
-    }
+    const QMap<QString, cBankBalanceList> byAccount = ByAccount(balances, entries);
     bool isDone = true;
     for (auto account = byAccount.constKeyValueBegin(); account != byAccount.constKeyValueEnd(); ++account) {
         isDone = Add(account->first, account->second) && isDone;
@@ -75,15 +105,9 @@ bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEnt
 
 bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances)
 {
-    cBankBalanceList known = Of(account);
-    const qsizetype before = known.size();
-    for (const cBankBalance& balance : balances) {
-        // A year of daily balances is a few hundred items, and the same file may well be read again.
-        if (!known.contains(balance)) {
-            known.append(balance);
-        }
-    }
-    if (known.size() == before) {
+    const cBankBalanceList before = Of(account);
+    const cBankBalanceList known = Joined(before, balances);
+    if (known.size() == before.size()) {
         return true;
     }
     QStringList texts;

@@ -18,6 +18,10 @@ public:
     // By day; those of one day in the order in which they came. What cannot be read is passed over.
     [[nodiscard]] cBankBalanceList Of(const QString& account) const;
 
+    // The same with those of a statement that is not kept yet.
+    [[nodiscard]] cBankBalanceList With(const QString& account, const QList<cAccountBalance>& balances,
+                                        const cImportEntryList& entries) const;
+
     // Keeps the balances of a statement. One without a day gets that of the account's newest transaction in `entries`;
     // without either, or without an account, it is dropped. False when the database refuses.
     bool Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries);

@@ -2,34 +2,12 @@
 
 #include "base/modDate.h"
 #include "core/cSettings.h"
+#include "import/stage/modRowDigest.h"
 #include "model/modSettingKey.h"
 
-#include <QCryptographicHash>
 #include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-constexpr qsizetype digestSize = 16; // of hexadecimal digits: far more than a few hundred rows need
-
-QString WithoutBlanks(QString text)
-{
-    return text.removeIf([](QChar c) { return c.isSpace(); });
-}
-
-// The account is that of the setting; it may be staged in another form after a change of formats.
-QString DigestOf(const cImportEntry& row)
-{
-    const QStringList fields{modDate::ToIso(row.ImportDate),       QString::number(row.ImportValue),
-                             row.ImportBeneficiaryAccount,         row.ImportBeneficiaryBLZ,
-                             WithoutBlanks(row.ImportBeneficiary), WithoutBlanks(row.ImportPurpose)};
-    const QByteArray digest =
-        QCryptographicHash::hash(fields.join(u'\n').toUtf8(), QCryptographicHash::Sha1).toHex().left(digestSize);
-    return QString::fromLatin1(digest);
-}
-
-} // namespace
 
 // "2026-03-10=3f…;2026-03-11=a0…"
 cFetchMemory::cFetchMemory(cSettings& settings, const QString& account) : m_settings(settings), m_account(account)
@@ -43,17 +21,18 @@ cFetchMemory::cFetchMemory(cSettings& settings, const QString& account) : m_sett
     }
 }
 
-bool cFetchMemory::HasBrought(const cImportEntry& row) const
+bool cFetchMemory::HasBrought(const cImportEntry& row, int number) const
 {
-    return m_oldest.isValid() && row.ImportDate >= m_oldest && m_rows.contains(DigestOf(row));
+    return m_oldest.isValid() && row.ImportDate >= m_oldest && m_rows.contains(modRowDigest::Of(row, number));
 }
 
 bool cFetchMemory::Note(const cImportEntryList& rows, QDate day)
 {
     m_oldest = day.addDays(-KeptDays);
+    QHash<QString, int> numbers; // of the equal ones
     for (const cImportEntry& row : rows) {
         if (row.ImportDate >= m_oldest) {
-            m_rows.insert(DigestOf(row), row.ImportDate);
+            m_rows.insert(modRowDigest::Of(row, ++numbers[modRowDigest::Of(row)]), row.ImportDate);
         }
     }
     m_rows.removeIf([this](auto row) { return row.value() < m_oldest; });

@@ -18,8 +18,9 @@ public:
 
     cFetchMemory(cSettings& settings, const QString& account);
 
-    // One of the kept rows is equal, or equal but for blanks. The record has to be normalised.
-    [[nodiscard]] bool HasBrought(const cImportEntry& row) const;
+    // One of the kept rows is equal, or equal but for blanks; so many of them with a number above 1. The record has to
+    // be normalised.
+    [[nodiscard]] bool HasBrought(const cImportEntry& row, int number = 1) const;
 
     // A fetch up to this day brought these rows. False when the database refuses.
     [[nodiscard]] bool Note(const cImportEntryList& rows, QDate day);

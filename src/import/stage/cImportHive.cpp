@@ -128,6 +128,14 @@ bool cImportHive::IsAvailButBlanks(const cImportEntry& entry, int newestId) cons
     return isAvail;
 }
 
+int cImportHive::CountButBlanks(const cImportEntry& entry) const
+{
+    BuildIndex();
+    const auto [first, last] = m_index.equal_range(entry.EqualHash());
+    return static_cast<int>(
+        std::count_if(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqualButBlanks(entry); }));
+}
+
 std::optional<cImportEntry> cImportHive::GetImportEntryByID(int id) const
 {
     const qsizetype row = FindRow(id);

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] bool IsImportItemAvail(const cImportEntry& entry) const;
     // A staged row up to this ID differs from the record in nothing but blanks of its texts, and none is equal.
     [[nodiscard]] bool IsAvailButBlanks(const cImportEntry& entry, int newestId) const;
+    // How many staged rows are equal to the record, or differ from it in nothing but blanks.
+    [[nodiscard]] int CountButBlanks(const cImportEntry& entry) const;
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByID(int id) const;
     // Entry ID -1 stands for the rows that are not assigned.
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByAssignedID(int entryId) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/read/cStatementRead.h"
+#include "import/stage/cRepeat.h"
 #include "model/cImportEntry.h"
 
 #include <QList>
@@ -22,6 +23,9 @@ struct cImportResult
     cImportEntryList Duplicates; // not staged because an equal row is; each can be staged with eDuplicateTest::Skip
     cImportEntryList Alike;      // not staged because one is that differs in nothing but blanks; likewise
     cImportEntryList Deleted;    // of a fetch: not staged because an earlier one brought it and the user deleted it
+    cRepeatList Repeats; // equal to others of the file and not staged, because nothing tells whether they are real
+    cRepeatList Settled; // equal rows that were staged, or that the bank's balances rule out
+    int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings

@@ -32,6 +32,16 @@ bool cStaging::HasButBlanks(const cImportEntry& entry)
     return m_newest > 0 && Hive(eKeepCache::FromOthers).IsAvailButBlanks(entry, m_newest);
 }
 
+int cStaging::CountButBlanks(const cImportEntry& entry)
+{
+    return Hive(eKeepCache::FromOthers).CountButBlanks(entry);
+}
+
+cImportEntryList cStaging::Rows()
+{
+    return Hive(eKeepCache::FromOthers).getImportEntryList();
+}
+
 void cStaging::StartSource()
 {
     m_newest = Hive(eKeepCache::No).NextId() - 1;

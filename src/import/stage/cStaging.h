@@ -31,6 +31,9 @@ public:
     [[nodiscard]] bool Has(const cImportEntry& entry);
     // One that differs in nothing but blanks was staged before StartSource was called last.
     [[nodiscard]] bool HasButBlanks(const cImportEntry& entry);
+    // How many staged rows are equal, or differ in nothing but blanks.
+    [[nodiscard]] int CountButBlanks(const cImportEntry& entry);
+    [[nodiscard]] cImportEntryList Rows(); // all that are staged
     // The records of another file follow. What one source tells apart, if only by a blank, are two transactions.
     void StartSource();
 

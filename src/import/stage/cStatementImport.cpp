@@ -13,6 +13,8 @@
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cFetchMemory.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cLeftOutRows.h"
+#include "import/stage/modEqualRows.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTableMemory.h"
 #include "import/xml/modCamt.h"
@@ -421,7 +423,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
 
 // The account's form in the bookings, and what the next fetch has to know.
 void cStatementImport::NoteFetch(const cStatementRead& read, const cFetchedStatement& fetched, eStagingRun run,
-                                 cImportResult& result) const
+                                 cImportResult& result)
 {
     result.Number = !read.Entries.isEmpty() ? read.Entries.first().ImportAccount
         : !read.Balances.isEmpty()          ? read.Balances.first().Account
@@ -429,7 +431,14 @@ void cStatementImport::NoteFetch(const cStatementRead& read, const cFetchedState
     if (fetched.Memory == nullptr || run == eStagingRun::Try) {
         return;
     }
-    if (!fetched.Memory->Note(read.Entries, fetched.LastDay)) {
+    // Parts of an answer may overlap: what they have more often than the book is not worth remembering.
+    QHash<size_t, int> numbers;
+    cImportEntryList rows = read.Entries;
+    rows.removeIf([&](const cImportEntry& row) {
+        const int number = ++numbers[row.EqualHash()];
+        return number > 1 && number > m_staging.CountButBlanks(row);
+    });
+    if (!fetched.Memory->Note(rows, fetched.LastDay)) {
         result.Problems.append({0, cText::Tr("Was dieser Abruf brachte, konnte nicht vermerkt werden.")});
     }
 }
@@ -480,8 +489,48 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
         }
     }
     progress.addProgressValue(result.Read - result.Read / progressStep * progressStep);
+    if (!result.IsCancelled && result.Failed == 0) {
+        SettleEqual(read, options, result, memory);
+    }
     ReportFailures(result);
     KeepBalances(read, options.Run, result);
+}
+
+void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOptions& options, cImportResult& result,
+                                   const cFetchMemory* memory)
+{
+    using modEqualRows::eProof;
+    cStaging& staging = StagingFor(options.Run);
+    modEqualRows::Find(read, staging, memory, result);
+    if (result.Repeats.isEmpty()) {
+        return;
+    }
+    cSettings settings(m_data);
+    const QList<eProof> proofs = modEqualRows::Prove(result.Repeats, staging.Rows(), [&](const QString& account) {
+        return cBankBalances(settings).With(account, read.Balances, read.Entries);
+    });
+    cRepeatList open;
+    cTally tally(result);
+    for (qsizetype i = 0; i < proofs.size(); ++i) {
+        cRepeat repeat = result.Repeats.at(i);
+        repeat.WasLeftOut = cLeftOutRows(settings).Has(repeat);
+        const bool isTaken = proofs.at(i) == eProof::Real || options.Equal == eEqualRows::Take;
+        if (!isTaken && proofs.at(i) == eProof::None) {
+            open.append(repeat);
+            continue;
+        }
+        result.Settled.append(repeat);
+        if (!isTaken) {
+            result.Duplicates.append(repeat.Entry);
+        } else if (!tally.IsHopeless()) {
+            tally.Count(staging.StageImportEntry(repeat.Entry, eDuplicateTest::Skip), repeat.Entry);
+            result.Proven += proofs.at(i) == eProof::Real ? 1 : 0;
+            if (options.Run == eStagingRun::Try) {
+                result.Rows.append(repeat.Entry);
+            }
+        }
+    }
+    result.Repeats = open;
 }
 
 // Of a file that was taken in part, the balances would only say that something is missing.

@@ -21,6 +21,10 @@ struct cStatementSource;
 // goes, or the caller asks the user first.
 enum class eUncertain { Read, Ask };
 
+// What becomes of rows that a file has more often than the book: those that the balances of the bank prove are staged,
+// the others are reported, or all are staged.
+enum class eEqualRows { Report, Take };
+
 struct cImportOptions
 {
     eDuplicateTest Duplicates = eDuplicateTest::Test;
@@ -29,6 +33,7 @@ struct cImportOptions
     cTableChoice Table = {};                                // what the user chose for a file in rows and columns
     eStagingRun Run = eStagingRun::Write;
     eUncertain Uncertain = eUncertain::Read;
+    eEqualRows Equal = eEqualRows::Report;
 };
 
 // Statement files into staged rows.
@@ -77,9 +82,11 @@ private:
                     const cFetchedStatement* fetched = nullptr);
     void Stage(cStatementRead& read, const cImportOptions& options, cProgress& progress, cImportResult& result,
                const cFetchMemory* memory);
+    void SettleEqual(const cStatementRead& read, const cImportOptions& options, cImportResult& result,
+                     const cFetchMemory* memory);
     [[nodiscard]] int RowCount();
     void NoteFetch(const cStatementRead& read, const cFetchedStatement& fetched, eStagingRun run,
-                   cImportResult& result) const;
+                   cImportResult& result);
     void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
 
     cDataAccess& m_data;

@@ -101,6 +101,7 @@ private:
     void Add(const QString& name, const cStatementRead& read)
     {
         ++m_statements;
+        m_all.Parts.append(m_all.Entries.size());
         m_all.Entries += read.Entries;
         m_all.Balances += read.Balances;
         m_all.ClosingBalance = read.ClosingBalance ? read.ClosingBalance : m_all.ClosingBalance;

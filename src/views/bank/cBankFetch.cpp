@@ -430,6 +430,7 @@ void cBankFetch::NoteTaken(const cCame& came, const cImportResult& result)
     line.New = result.Staged;
     line.Known = static_cast<int>(result.Duplicates.size() + result.Alike.size());
     line.LeftOut = result.Zero + static_cast<int>(result.Skipped.size() + result.Deleted.size());
+    line.Equal = static_cast<int>(result.Repeats.size());
     line.Text = modImportText::Numbers(result, m_tools.Format);
     for (const cReadProblem& problem : result.Problems.first(qMin(result.Problems.size(), mostProblems))) {
         line.Notes.append(modImportText::Problem(problem));

@@ -94,6 +94,7 @@ public:
         int New = 0;
         int Known = 0;                 // there already
         int LeftOut = 0;               // pending, without amount, or deleted by the user before
+        int Equal = 0;                 // the statement has them more often than the book, and no balance proves them
         std::optional<qint64> Balance; // cents, signed, as the bank tells it
         QString Text;                  // "5 neu, 7 schon vorhanden", or why not
         QString BalanceText;           // "1.234,56 € am 15.03.2026"; empty when not known

@@ -2,6 +2,7 @@
 
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cLeftOutRows.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
 #include "views/list/modUnread.h"
@@ -155,5 +156,6 @@ cBookComparison cStatementLedger::CompareWithBook()
     result.Day = day;
     result.Book = book;
     result.Bank = m_check.Points.last().Bank;
+    result.AreRowsMissing = !m_check.Faults.isEmpty() || !cLeftOutRows(m_settings).Of(m_number).isEmpty();
     return result;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/cImportEntry.h"
-#include "views/ledger/modBalanceCheck.h"
+#include "model/modBalanceCheck.h"
 
 #include <QDate>
 #include <QString>
@@ -28,8 +28,9 @@ struct cBookComparison
     QDate Day;
     qint64 Book = 0;
     qint64 Bank = 0;
-    QDate From;             // since this day they have not been equal any more
-    bool HasAgreed = false; // before that day they were, on some day of the statement
+    QDate From;                  // since this day they have not been equal any more
+    bool HasAgreed = false;      // before that day they were, on some day of the statement
+    bool AreRowsMissing = false; // of the bank: left out on import, or a balance of the bank says so
 };
 
 // The bank transactions of one account number in the order of their days, their balances, and what becomes of these

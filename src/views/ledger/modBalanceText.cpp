@@ -119,6 +119,17 @@ QString Passing(const cPoint& point, const cAmountFormat& format)
                      {modDate::ToGerman(point.Day), format.Cents(point.Bank)});
 }
 
+// A start balance would only hide that rows of the bank are missing.
+QString Since(const cBookComparison& book, const QStringList& values)
+{
+    if (book.HasAgreed) {
+        return cText::Tr("Seit dem {4} stimmen beide nicht mehr überein.", values);
+    }
+    return book.AreRowsMissing
+        ? cText::Tr("Sie stimmten schon am {4} nicht überein: vom Auszug der Bank fehlen Umsätze.", values)
+        : cText::Tr("Sie stimmten schon am {4} nicht überein; vielleicht fehlt das Startguthaben.", values);
+}
+
 } // namespace
 
 QString modBalanceText::Fault(const cStatementLedger& ledger, const cFault& fault, const cAmountFormat& format)
@@ -185,8 +196,5 @@ QString modBalanceText::Book(const cBookComparison& book, const QString& account
     const QString what = book.Book > book.Bank
         ? cText::Tr("Das Konto '{0}' steht am {1} auf {2}, das sind {5} mehr als bei der Bank ({3}).", values)
         : cText::Tr("Das Konto '{0}' steht am {1} auf {2}, das sind {5} weniger als bei der Bank ({3}).", values);
-    return what + u' '
-        + (book.HasAgreed
-               ? cText::Tr("Seit dem {4} stimmen beide nicht mehr überein.", values)
-               : cText::Tr("Sie stimmten schon am {4} nicht überein; vielleicht fehlt das Startguthaben.", values));
+    return what + u' ' + Since(book, values);
 }

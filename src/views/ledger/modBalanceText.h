@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/ledger/modBalanceCheck.h"
+#include "model/modBalanceCheck.h"
 
 #include <QString>
 #include <QStringList>

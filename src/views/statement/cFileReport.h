@@ -37,6 +37,7 @@ struct cFileReport
     int Zero = 0;                         // without amount
     int Failed = 0;                       // that the database did not take
     cImportEntryList Duplicates;          // also those that differ in nothing but blanks
+    cImportEntryList Repeats;             // that the file has more often than the book; nothing proves them
     cImportEntryList Rows;                // of a trial: what would have been staged
     std::optional<qint64> ClosingBalance; // cents, signed
     QList<cLine> Problems;

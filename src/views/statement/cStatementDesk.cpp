@@ -11,6 +11,7 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cLeftOutRows.h"
 #include "import/stage/cStatementImport.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTable.h"
@@ -71,6 +72,9 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
     report.Failed = result.Failed;
     report.Duplicates = result.Duplicates + result.Alike;
     report.Rows = result.Rows;
+    for (const cRepeat& repeat : result.Repeats) {
+        report.Repeats.append(repeat.Entry);
+    }
     report.ClosingBalance = result.ClosingBalance;
     for (const cReadProblem& problem : result.Problems) {
         report.Problems.append(Line(problem));
@@ -283,6 +287,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
 {
     cImportOptions options;
     options.Duplicates = wish.KeepsDuplicates ? eDuplicateTest::Skip : eDuplicateTest::Test;
+    options.Equal = wish.TakesEqual ? eEqualRows::Take : eEqualRows::Report;
     options.DefaultAccount = wish.Account;
     options.Table = modTableOption::Choice(wish);
     options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
@@ -293,6 +298,8 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
         return report;
     }
     RememberAccount(result, wish.Account, m_works->Memory);
+    cLeftOutRows leftOut(m_tools.Settings);
+    (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {
         QStringList unsaid; // a table without names for its columns is asked about again

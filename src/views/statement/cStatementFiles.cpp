@@ -3,6 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "core/cBookTools.h"
 #include "import/read/cStatementSource.h"
 #include "import/read/modStatementFile.h"
@@ -11,6 +12,7 @@
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cImportResult.h"
+#include "import/stage/cLeftOutRows.h"
 #include "import/stage/cStatementImport.h"
 #include "import/table/cTableMemory.h"
 #include "store/cDataAccess.h"
@@ -107,13 +109,15 @@ struct cStatementFiles::cRun
     QStringList Numbers;
     QStringList Refusals;
     QList<int> Rows; // staged
+    cRepeatList Repeats;
     std::vector<std::unique_ptr<cImportAssistant>> Answered;
 };
 
 void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
 {
-    cRun run{progress, m_assist ? assist : eAssist::WhereNeeded, static_cast<int>(files.size()), 0, 0, {}, {}, {}, {},
-             {}};
+    cRun run{
+        progress, m_assist ? assist : eAssist::WhereNeeded, static_cast<int>(files.size()), 0, 0, {}, {}, {}, {}, {},
+        {}};
     Begin();
     bool isStopped = false;
     for (const cFile& file : files) {
@@ -145,12 +149,15 @@ void cStatementFiles::Note(const cImportResult& result, cRun& run)
     Q_EMIT FileStaged(rows);
     run.Lines.append(modImportText::Summary(result, m_tools.Format));
     KeepLeftOut(result);
+    (void)cLeftOutRows(m_tools.Settings).Forget(result.Settled); // of a refusal the user has been told
+    run.Repeats += result.Repeats;
     run.Numbers.append(result.Accounts);
 }
 
-void cStatementFiles::End(const cRun& run)
+void cStatementFiles::End(cRun& run)
 {
     run.Progress.hideProgressBar();
+    SettleRepeats(run);
     // The list stands behind the questions that follow, so that the user sees what they are about.
     Q_EMIT Imported(run.Lines);
     Q_EMIT LeftOutChanged();
@@ -168,7 +175,7 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, {}, {}, {}, {}, {}};
+        cRun run{progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, {}, {}, {}, {}, {}, {}};
         Begin();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
@@ -303,6 +310,78 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
     return result;
 }
 
+// What one file left open another may have brought meanwhile: it counts how often the book has the row now.
+void cStatementFiles::SettleRepeats(cRun& run)
+{
+    cRepeatList open;
+    cRepeatList known;
+    for (const cRepeat& repeat : std::as_const(run.Repeats)) {
+        const bool isThere = m_hive.GetImportHive().CountButBlanks(repeat.Entry) >= repeat.Number;
+        const bool isListed = std::any_of(open.begin(), open.end(), [&](const cRepeat& other) {
+            return other.Number == repeat.Number && other.Entry.isEqualButBlanks(repeat.Entry);
+        });
+        if (!isThere && !isListed) {
+            (repeat.WasLeftOut && m_repeats == eRepeats::Ask ? known : open).append(repeat);
+        }
+    }
+    LeaveOut(known);
+    if (open.isEmpty()) {
+        return;
+    }
+    if (AreWanted(open)) {
+        TakeRepeats(open, run);
+    } else {
+        LeaveOut(open);
+    }
+}
+
+bool cStatementFiles::AreWanted(const cRepeatList& repeats)
+{
+    if (m_repeats != eRepeats::Ask) {
+        return m_repeats == eRepeats::Take;
+    }
+    constexpr qsizetype most = 10;
+    QStringList lines;
+    for (const cRepeat& repeat : repeats.first(qMin(repeats.size(), most))) {
+        lines.append(modImportText::Row(repeat.Entry, m_tools.Format));
+    }
+    if (repeats.size() > most) {
+        lines.append(modCount::MoreLines(repeats.size() - most));
+    }
+    return m_tools.User.Ask(
+               {.Text = cText::Tr("Der Kontoauszug enthält Umsätze mehrmals, mit gleichem Tag, Empfänger, "
+                                  "Zweck und Betrag:\n\n{0}\n\nSollen auch diese übernommen werden? Das ist "
+                                  "richtig, wenn Sie zum Beispiel zwei gleiche Fahrkarten gekauft haben.",
+                                  {lines.join(u'\n')}),
+                .Title = cText::Tr("Gleiche Umsätze")})
+        == eAnswer::Yes;
+}
+
+void cStatementFiles::TakeRepeats(const cRepeatList& repeats, cRun& run)
+{
+    cStaging staging(m_hive);
+    const int newest = NewestRow();
+    cRepeatList rest = repeats;
+    while (!rest.isEmpty() && staging.StageImportEntry(rest.first().Entry, eDuplicateTest::Skip) == eStaged::Staged) {
+        (void)cLeftOutRows(m_tools.Settings).Forget({rest.takeFirst()});
+    }
+    LeaveOut(rest); // of a refusal the user has been told
+    const QList<int> rows = RowsAbove(newest);
+    m_last.last().Rows.append(rows);
+    run.Rows.append(rows);
+    run.Lines.append(cText::Tr("{0} übernommen, obwohl sie anderen gleichen.",
+                               {modImportText::Count(static_cast<int>(rows.size()))}));
+    Q_EMIT FileStaged(rows);
+}
+
+void cStatementFiles::LeaveOut(const cRepeatList& repeats)
+{
+    for (const cRepeat& repeat : repeats) {
+        m_leftOut.append({repeat.Entry, cText::Tr("steht mehrmals gleich im Kontoauszug"), repeat.Number});
+    }
+    (void)cLeftOutRows(m_tools.Settings).Note(repeats); // of a refusal the user has been told
+}
+
 // By what the user said about an earlier file of the same kind, or now.
 bool cStatementFiles::IsAnswered(cImportAssistant& assistant, cRun& run)
 {
@@ -347,17 +426,17 @@ QList<int> cStatementFiles::RowsAbove(int newest)
 void cStatementFiles::KeepLeftOut(const cImportResult& result)
 {
     for (const cImportEntry& row : result.Duplicates) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden")});
+        m_leftOut.append({row, cText::Tr("schon vorhanden"), 0});
     }
     for (const cImportEntry& row : result.Alike) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen")});
+        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen"), 0});
     }
     for (const cImportEntry& row : result.Deleted) {
-        m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht")});
+        m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht"), 0});
     }
     for (const cSkippedRow& row : result.Skipped) {
         if (!result.IsRefused && row.Entry.ImportDate.isValid() && row.Entry.ImportValue != 0) {
-            m_leftOut.append({row.Entry, modImportPreview::Kind(row.Kind)});
+            m_leftOut.append({row.Entry, modImportPreview::Kind(row.Kind), 0});
         }
     }
 }
@@ -402,6 +481,10 @@ void cStatementFiles::StageLeftOut(const QList<int>& places)
     });
     if (!step.DoneIf(isStaged)) {
         return; // the user has been told
+    }
+    for (const int place : std::as_const(taken)) {
+        const cLeftOut& row = m_leftOut.at(place);
+        (void)cLeftOutRows(m_tools.Settings).Forget({{row.Entry, row.Repeat}});
     }
     m_leftOut = rest;
     const int staged = static_cast<int>(taken.size());

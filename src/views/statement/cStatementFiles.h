@@ -18,6 +18,7 @@ class cProgress;
 struct cBookTools;
 struct cFetchedStatement;
 struct cImportResult;
+struct cRepeat;
 
 // Statement files into staged rows, with the questions that this takes.
 class cStatementFiles final : public QObject
@@ -54,6 +55,11 @@ public:
     // Reads the last files once more with the assistant. What they brought and is still open goes, in the same step.
     [[nodiscard]] bool CanReadAgain() const;
     void ReadAgain(cProgress& progress);
+
+    // Rows that a file has more often than the book, where no balance of the bank proves them: the user is asked, or
+    // they are taken or left out without a word.
+    enum class eRepeats { Ask, Take, LeaveOut };
+    void SetRepeats(eRepeats repeats) { m_repeats = repeats; }
 
     // Asks which accounts of the book the numbers belong to, as far as that is not known.
     void AskAccounts(const QStringList& numbers);
@@ -93,13 +99,14 @@ private:
     {
         cImportEntry Entry;
         QString Reason;
+        int Repeat = 0; // the number of a cRepeat
     };
     struct cRun; // what one run over several files has so far
 
     void Run(const QList<cFile>& files, cProgress& progress, eAssist assist);
     void Begin();
     void Note(const cImportResult& result, cRun& run);
-    void End(const cRun& run);
+    void End(cRun& run);
     void AssignFetched(const cFetchedStatement& statement, const cImportResult& result);
     [[nodiscard]] cImportResult ImportFile(const cFile& file, cRun& run);
     [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
@@ -109,6 +116,10 @@ private:
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
     void KeepLeftOut(const cImportResult& result);
+    void SettleRepeats(cRun& run);
+    [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);
+    void TakeRepeats(const QList<cRepeat>& repeats, cRun& run);
+    void LeaveOut(const QList<cRepeat>& repeats);
     [[nodiscard]] int NewestRow();
     [[nodiscard]] QList<int> RowsAbove(int newest);
 
@@ -121,4 +132,5 @@ private:
     bool m_isRunning = false;
     QList<cFile> m_last;
     QList<cLeftOut> m_leftOut;
+    eRepeats m_repeats = eRepeats::Ask;
 };

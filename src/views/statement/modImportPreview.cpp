@@ -38,6 +38,9 @@ QString modImportPreview::Count(const cImportResult& result, const cAmountFormat
     if (const qsizetype known = result.Duplicates.size() + result.Alike.size(); known > 0) {
         parts.append(cText::Tr("{0} schon vorhanden", {QString::number(known)}));
     }
+    if (!result.Repeats.isEmpty()) {
+        parts.append(cText::Tr("{0} mehrfach gleich", {QString::number(result.Repeats.size())}));
+    }
     if (!result.Skipped.isEmpty()) {
         parts.append(cText::Tr("{0} ausgelassen", {QString::number(result.Skipped.size())}));
     }
@@ -55,6 +58,9 @@ QStringList modImportPreview::LeftOut(const cImportResult& result, const cAmount
     }
     for (const cImportEntry& row : result.Duplicates + result.Alike) {
         lines.append(cText::Tr("schon vorhanden: {0}", {modImportText::Row(row, format)}));
+    }
+    for (const cRepeat& repeat : result.Repeats) {
+        lines.append(cText::Tr("mehrfach gleich: {0}", {modImportText::Row(repeat.Entry, format)}));
     }
     if (result.Zero > 0) {
         lines.append(cText::Tr("ohne Betrag: {0}", {modImportText::Count(result.Zero)}));

@@ -28,6 +28,13 @@ QString modImportText::Numbers(const cImportResult& result, const cAmountFormat&
     if (const qsizetype known = result.Duplicates.size() + result.Alike.size(); known > 0) {
         parts.append(cText::Tr("{0} schon vorhanden", {QString::number(known)}));
     }
+    if (result.Proven > 0) {
+        parts.append(
+            cText::Tr("{0} davon mehrfach gleich, durch den Kontostand belegt", {QString::number(result.Proven)}));
+    }
+    if (!result.Repeats.isEmpty()) {
+        parts.append(cText::Tr("{0} mehrfach gleich", {QString::number(result.Repeats.size())}));
+    }
     if (!result.Deleted.isEmpty()) {
         parts.append(cText::Tr("{0} früher gelöscht", {QString::number(result.Deleted.size())}));
     }

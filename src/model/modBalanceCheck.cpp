@@ -1,4 +1,4 @@
-#include "views/ledger/modBalanceCheck.h"
+#include "model/modBalanceCheck.h"
 
 #include <algorithm>
 
