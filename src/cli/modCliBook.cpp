@@ -4,8 +4,10 @@
 #include "cli/cCliTable.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
 #include "views/statement/modImportText.h"
+#include "views/statement/modReviewQuestion.h"
 
 #include <optional>
 
@@ -56,17 +58,43 @@ QString AccountText(const cEntryItem& entry)
     return entry.EntryAccountMove.isEmpty() ? source : source + u" → "_s + entry.EntryAccountMove;
 }
 
-QString ReasonText(const cProposal& proposal)
+// The entry of the book that the row belongs to; 0 when a new one is to be made.
+int EntryIn(const cRowPlan& plan)
 {
-    if (proposal.ExistingEntry != 0) {
-        return cText::Tr("gehört zu Eintrag {0}", {QString::number(proposal.ExistingEntry)});
-    }
-    return proposal.Reason;
+    return plan.Match ? plan.Match->Entry.ID : plan.Proposal.ExistingEntry;
 }
 
-void Print(const cCliBook& book, const QList<int>& ids, const QHash<int, cProposal>& proposals)
+QString ReasonText(const cRowPlan& plan)
+{
+    if (plan.Twin && plan.IsSecond) {
+        return modImportText::TwinReason(plan.Twin->Same);
+    }
+    if (plan.Match) {
+        return cText::Tr("Eintrag {0}: {1}", {QString::number(EntryIn(plan)), modImportText::Reason(plan)});
+    }
+    return EntryIn(plan) != 0 ? cText::Tr("gehört zu Eintrag {0}", {QString::number(EntryIn(plan))}) : plan.Reason;
+}
+
+QString GroupWord(eRowGroup group)
+{
+    switch (group) {
+    case eRowGroup::InBook: return u"inBook"_s;
+    case eRowGroup::Sure: return u"sure"_s;
+    case eRowGroup::Look: break;
+    }
+    return u"look"_s;
+}
+
+// What the row becomes: the entry that is certainly there, else the proposed one.
+const cEntryItem& EntryOf(const cRowPlan& plan)
+{
+    return plan.Match && plan.Group == eRowGroup::InBook ? plan.Match->Entry : plan.Proposal.Entry;
+}
+
+void Print(const cCliBook& book, const QList<int>& ids, const QHash<int, cRowPlan>& plans)
 {
     cCliTable table({{cText::Tr("ID"), eAlign::Right},
+                     {cText::Tr("Gruppe")},
                      {cText::Tr("Datum")},
                      {cText::Tr("Art")},
                      {cText::Tr("Betrag"), eAlign::Right},
@@ -76,49 +104,52 @@ void Print(const cCliBook& book, const QList<int>& ids, const QHash<int, cPropos
                      {cText::Tr("Text"), eAlign::Left, 36},
                      {cText::Tr("Grund")}});
     for (const int id : ids) {
-        const cProposal proposal = proposals.value(id);
-        const cEntryItem& entry = proposal.Entry;
-        table.Add({QString::number(id), modDate::ToGerman(entry.EntryDate), entry.EntryType,
-                   book.AmountText(entry.EntryValue), AccountText(entry), entry.EntryCategory, entry.EntryInterval,
-                   entry.EntryDescription, ReasonText(proposal)});
+        const cRowPlan plan = plans.value(id);
+        const cEntryItem& entry = EntryOf(plan);
+        table.Add({QString::number(id), modImportText::Group(plan.Group), modDate::ToGerman(entry.EntryDate),
+                   entry.EntryType, book.AmountText(entry.EntryValue), AccountText(entry), entry.EntryCategory,
+                   entry.EntryInterval, entry.EntryDescription, ReasonText(plan)});
     }
     modConsole::Out(table.ToString());
 }
 
-void PrintJson(const QList<int>& ids, const QHash<int, cProposal>& proposals)
+void PrintJson(const QList<int>& ids, const QHash<int, cRowPlan>& plans)
 {
     QStringList objects;
     for (const int id : ids) {
-        const cProposal proposal = proposals.value(id);
-        cJsonObject json = modCliRecord::Entry(proposal.Entry);
+        const cRowPlan plan = plans.value(id);
+        cJsonObject json = modCliRecord::Entry(EntryOf(plan));
         json.Number(u"ImportID"_s, id)
-            .Text(u"Reason"_s, proposal.Reason)
-            .Number(u"PartnerRow"_s, proposal.PartnerRow)
-            .Number(u"ExistingEntry"_s, proposal.ExistingEntry);
+            .Text(u"Group"_s, GroupWord(plan.Group))
+            .Text(u"Reason"_s, plan.Reason)
+            .Number(u"PartnerRow"_s, plan.Proposal.PartnerRow)
+            .Number(u"ExistingEntry"_s, EntryIn(plan));
         objects.append(json.ToString());
     }
     modConsole::Out(modJson::Array(objects) + u'\n');
 }
 
-int Report(const cStatementDesk::cBooked& booked)
+// Nobody can be asked: rows that have an entry, or may be there twice, stay open unless an option says otherwise.
+cConsoleUser::cAnswers Answers(const cCliContext& context)
 {
-    modConsole::Out(booked.Text + u'\n');
-    for (const QString& number : booked.UnknownAccounts) {
-        modConsole::Error(modImportText::NoAccount(number) + u' '
-                          + cText::Tr("Lesen Sie den Auszug mit --book-account NAME noch einmal ein."));
-    }
-    return booked.IsDone ? modExit::Done : modExit::Failed;
+    using modReviewQuestion::eMatchAnswer;
+    cConsoleUser::cAnswers answers;
+    answers.Answer = context.Call.Has(u"new"_s) ? eAnswer::No : eAnswer::Yes;
+    answers.Decision = static_cast<int>(context.Call.Has(u"new"_s)          ? eMatchAnswer::New
+                                            : context.Call.Has(u"assign"_s) ? eMatchAnswer::Assign
+                                                                            : eMatchAnswer::Leave);
+    return answers;
 }
 
 int RunPropose(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     const QList<int> ids = book.Statements.OpenIds();
-    const QHash<int, cProposal> proposals = book.Statements.Propose(ids);
+    const QHash<int, cRowPlan> plans = book.Statements.Propose(ids);
     if (context.Call.Has(u"json"_s)) {
-        PrintJson(ids, proposals);
+        PrintJson(ids, plans);
     } else {
-        Print(book, ids, proposals);
+        Print(book, ids, plans);
     }
     return modExit::Done;
 }
@@ -138,7 +169,12 @@ int RunBook(const cCliContext& context)
         Print(book, *chosen, book.Statements.Propose(*chosen));
         return modExit::Done;
     }
-    return Report(book.Statements.Book(*chosen));
+    if (context.Call.Has(u"safe"_s)) {
+        context.User.Prepare({.Answer = eAnswer::Yes});
+        return modCliFlow::ReportBooked(book.Statements.Accept(*chosen));
+    }
+    context.User.Prepare(Answers(context));
+    return modCliFlow::ReportBooked(book.Statements.Book(*chosen));
 }
 
 } // namespace
@@ -161,6 +197,9 @@ cCliCommand modCliCommands::BookCommand()
             .ReadsWith = {u"dry-run"_s},
             .Options = {{u"all"_s, {}, cText::Tr("alle offenen Umsätze")},
                         {u"id"_s, u"N..."_s, cText::Tr("die Umsätze mit diesen Nummern (Spalte ID)")},
+                        {u"safe"_s, {}, cText::Tr("nur, was im Buch steht oder sicher ist")},
+                        {u"assign"_s, {}, cText::Tr("Umsätze, die einen Eintrag haben, diesem zuordnen")},
+                        {u"new"_s, {}, cText::Tr("auch aus solchen neue Einträge machen")},
                         {u"dry-run"_s, {}, cText::Tr("nur zeigen, nichts ändern")}},
             .Run = RunBook};
 }

@@ -37,6 +37,21 @@ void modCliFlow::SayWritten(const QString& path)
     modConsole::Out(cText::Tr("'{0}' geschrieben.", {path}) + u'\n');
 }
 
+int modCliFlow::ReportBooked(const cStatementDesk::cBooked& booked)
+{
+    if (!booked.Lines.isEmpty()) {
+        modConsole::Out(booked.Lines.join(u'\n') + u'\n');
+    }
+    if (booked.Left > 0) {
+        modConsole::Out(cText::Tr("Offen bleiben: {0}; \"propose\" zeigt, warum.", {QString::number(booked.Left)})
+                        + u'\n');
+    }
+    if (!booked.UnknownAccounts.isEmpty()) {
+        modConsole::Error(cText::Tr("Lesen Sie den Auszug mit --book-account NAME noch einmal ein."));
+    }
+    return booked.IsDone ? modExit::Done : modExit::Failed;
+}
+
 int modCliFlow::Finish(const cCliContext& context, bool isDone)
 {
     if (isDone) {

@@ -2,6 +2,7 @@
 
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "views/statement/cStatementDesk.h"
 
 #include <QString>
 
@@ -19,6 +20,9 @@ namespace modCliFlow {
 
 // Says that a file was written.
 void SayWritten(const QString& path);
+
+// Says what came of booking and what stays open. The exit code.
+[[nodiscard]] int ReportBooked(const cStatementDesk::cBooked& booked);
 
 // Says what was done, or that nothing was where nothing has been said yet. The exit code.
 [[nodiscard]] int Finish(const cCliContext& context, bool isDone);

@@ -14,4 +14,5 @@ struct cProposal
     int PartnerRow = 0;     // the other staged row of a transfer between own accounts; 0 when there is none
     int ExistingEntry = 0;  // entry in the book that the row belongs to (its series, or the transfer that waits for its
                             // second row); 0 when a new one is to be made
+    bool IsAlone = false;   // a new entry is wanted, also where a series would take the row
 };

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <deque>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -86,6 +88,7 @@ private Q_SLOTS:
     void RefusedCorrectionTakesAllBack() const;
     void AsksForTheAccount() const;
     void ShowsWhatItIsNotSureOf() const;
+    void BookingAsksAboutMatches_data() const;
     void BookingAsksAboutMatches() const;
     void AssignsByHand() const;
     void AssignsParts() const;
@@ -194,32 +197,50 @@ void testImportMatch::ShowsWhatItIsNotSureOf() const
     cPage page;
     const int entry = page.Spend(2310, {});
     (void)page.Stage(-23.1, u"Jana"_s);
-    const QString before = page.Reason(0);
+    QCOMPARE(page.Reason(0), u"passt zu 'Haushalt; Lebensmittel' vom 03.03. (80 %)"_s);
     page.Review.Match({}, page.Progress);
     QCOMPARE(page.Assigned(), QList<int>{-1});
-    QCOMPARE(page.Reason(0), u"passt zu 'Haushalt; Lebensmittel' vom 03.03. (80 %)"_s);
+    page.User.Answers = {eAnswer::Yes};
+    page.Review.AcceptProposals(page.Progress);
+    QVERIFY(page.User.Shown.last().contains(u"Offen bleiben: 1 wahrscheinlich schon im Haushaltsbuch."));
     // It is no longer true when the entry is gone.
     QVERIFY(page.Data.DeleteEntry(entry));
     page.Review.Refresh();
-    QCOMPARE(page.Reason(0), before);
+    QCOMPARE(page.Reason(0), u"keine Regel passt"_s);
+}
+
+// A key alone never makes a second entry of what is in the book.
+void testImportMatch::BookingAsksAboutMatches_data() const
+{
+    QTest::addColumn<std::deque<int>>("decisions");
+    QTest::addColumn<int>("entries");    // two are there
+    QTest::addColumn<QList<int>>("own"); // rows that got one of these: 1 the first, 2 the second, 0 none
+    QTest::newRow("assign") << std::deque<int>{0} << 3 << QList<int>{1, 2};
+    QTest::newRow("new") << std::deque<int>{1} << 5 << QList<int>{0, 0};
+    QTest::newRow("leave open") << std::deque<int>{2} << 3 << QList<int>{0, 0};
+    QTest::newRow("one by one") << std::deque<int>{3, 2, 0} << 3 << QList<int>{0, 2};
+    QTest::newRow("given up") << std::deque<int>{-1} << 2 << QList<int>{0, 0};
+    QTest::newRow("given up on the way") << std::deque<int>{3, 0, -1} << 2 << QList<int>{0, 0};
 }
 
 void testImportMatch::BookingAsksAboutMatches() const
 {
+    QFETCH(const std::deque<int>, decisions);
+    QFETCH(const QList<int>, own);
     cPage page;
-    (void)page.Spend(2310, {});
-    const int match = page.Stage(-23.1, u"Jana"_s);
-    const int other = page.Stage(-700, u"Werkstatt"_s);
-    page.Review.Match({}, page.Progress);
-    page.User.Answers = {eAnswer::Cancel, eAnswer::Yes, eAnswer::No};
-    page.Review.Book({match, other}, page.Progress);
-    QCOMPARE(page.Data.CountEntries(), 1);
-    page.Review.Book({match, other}, page.Progress);
-    QCOMPARE(page.Data.CountEntries(), 2);
-    QCOMPARE(page.Assigned().at(0), -1);
-    page.Review.Book({match}, page.Progress);
-    QCOMPARE(page.Data.CountEntries(), 3);
-    QCOMPARE(page.User.Asked.size(), 3);
+    const QList<int> entries{-1, page.Spend(2310, {}), page.Spend(4000, u"Schuhhaus"_s)};
+    const int likely = page.Stage(-23.1, u"Jana"_s);
+    const int certain = page.Stage(-40, u"Schuhhaus"_s);
+    page.User.Decisions = decisions;
+    page.Review.Book({likely, certain, page.Stage(-700, u"Werkstatt"_s)}, page.Progress);
+    QCOMPARE(page.User.LastDecision.Options.value(0), u"Den &vorhandenen zuordnen"_s);
+    QCOMPARE(page.User.LastDecision.Default, 0);
+    QTEST(page.Data.CountEntries(), "entries");
+    const QList<int> assigned = page.Assigned();
+    for (const int row : {0, 1}) {
+        QCOMPARE(assigned.at(row) == entries.at(row + 1), own.at(row) != 0);
+    }
+    QCOMPARE(page.User.Asked.size(), static_cast<qsizetype>(decisions.size()));
 }
 
 void testImportMatch::AssignsByHand() const

@@ -321,8 +321,8 @@ private Q_SLOTS:
         page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
         page.Review.AcceptProposals(page.Progress); // the user says no
         QCOMPARE(page.User.Asked.last(),
-                 u"5 der gezeigten Umsätze haben einen sicheren Vorschlag. Sollen sie alle so gebucht werden?\nOffen "
-                 "bleiben: 1 ohne passenden Vorschlag."_s);
+                 u"5 der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.\nOffen "
+                 "bleiben: 1 ohne passenden Vorschlag.\nSoll das so geschehen?"_s);
         QCOMPARE(page.Data.CountEntries(), 0);
         page.Review.View().SetFilter(u"rewe"_s);
         page.User.Answers = {eAnswer::Yes};
@@ -365,18 +365,19 @@ private Q_SLOTS:
         const int first = rewe.ID;
         rewe.ImportPurpose = u"Kartenzahlung 4711"_s; // the same in another file
         page.AddRow([&](cImportEntry& row) { row = rewe; });
+        const int second = page.Data.GetImportEntries().constLast().ID;
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
         QVERIFY(page.Cell(0, cStagedListModel::Reason).startsWith(u"gleicher Tag, Betrag und"));
         page.User.Answers = {eAnswer::Cancel};
-        page.Review.Book({first}, page.Progress);
+        page.Review.Book({second}, page.Progress);
         QVERIFY(page.User.Asked.last().contains(u"noch einen, der derselbe sein kann"));
         QCOMPARE(page.Data.CountEntries(), 0);
         page.User.Answers = {eAnswer::Yes};
-        page.Review.Book(page.AllIds().first(2), page.Progress);
+        page.Review.Book({first, second}, page.Progress);
         QCOMPARE(page.Data.CountEntries(), 1); // one of the two
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
         page.User.Answers = {eAnswer::No};
-        page.Review.Book(page.AllIds().first(1), page.Progress);
+        page.Review.Book({second}, page.Progress);
         QCOMPARE(page.Data.CountEntries(), 2);
     }
 

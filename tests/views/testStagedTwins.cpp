@@ -1,7 +1,7 @@
 #include "core/cSettings.h"
+#include "import/plan/modStagedTwins.h"
 #include "support/testBook.h"
 #include "views/statement/cImportRuns.h"
-#include "views/statement/modStagedTwins.h"
 
 #include <QTest>
 

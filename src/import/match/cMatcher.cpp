@@ -18,6 +18,7 @@
 #include <cstdlib>
 #include <tuple>
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -29,7 +30,7 @@ struct cRowSense
     cProposal Proposal;
     cMatchText Text;
 
-    cRowSense(const cImportEntry& row, cProposer& proposer) : Proposal(proposer.Propose(row))
+    cRowSense(const cImportEntry& row, cProposal proposal) : Proposal(std::move(proposal))
     {
         // The default category says nothing, and neither does that of a transfer.
         const bool isKnown = !Proposal.IsDefault && Proposal.Entry.EntryType != modWord::Umbuchung;
@@ -78,20 +79,24 @@ void OfferCorrection(cMatchCandidate& candidate, const cImportEntry& row)
 
 struct cMatcher::cKnowledge
 {
-    cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
+    cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts, fnPropose propose)
         : Data(data),
           Hive(hive),
           Accounts(accounts),
-          Transfers(data, hive, accounts)
+          Transfers(data, hive, accounts),
+          m_propose(std::move(propose))
     {
     }
 
-    [[nodiscard]] cProposer& Proposer()
+    [[nodiscard]] cProposal Propose(const cImportEntry& row)
     {
+        if (m_propose) {
+            return m_propose(row);
+        }
         if (!m_proposer) {
             m_proposer = std::make_unique<cProposer>(Data, Hive, Accounts);
         }
-        return *m_proposer;
+        return m_proposer->ProposeBest(row);
     }
 
     void ReadIndex(const QString& account, const modPeriod::cRange& range)
@@ -109,13 +114,14 @@ struct cMatcher::cKnowledge
     std::unordered_map<QString, std::unique_ptr<cMatchIndex>> Indexes; // by account
 
 private:
+    fnPropose m_propose;
     std::unique_ptr<cProposer> m_proposer;
 };
 
-cMatcher::cMatcher(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
+cMatcher::cMatcher(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts, fnPropose propose)
     : m_data(data),
       m_hive(hive),
-      m_knowledge(std::make_unique<cKnowledge>(data, hive, accounts))
+      m_knowledge(std::make_unique<cKnowledge>(data, hive, accounts, std::move(propose)))
 {
 }
 
@@ -176,7 +182,7 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
             continue;
         }
         if (!sense) {
-            sense.emplace(row, m_knowledge->Proposer());
+            sense.emplace(row, m_knowledge->Propose(row));
         }
         const cMatchText::cLikeness likeness = sense->Compare(item.Entry, index->Text(number));
         evidence.Text = likeness.Value;

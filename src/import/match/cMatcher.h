@@ -2,12 +2,14 @@
 
 #include "model/cImportEntry.h"
 #include "model/cMatch.h"
+#include "model/cProposal.h"
 
 #include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -26,7 +28,10 @@ enum class eCandidates { Likely, All }; // All: every entry of the same directio
 class cMatcher
 {
 public:
-    cMatcher(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
+    // Where a row's proposal comes from that is known already; without it the matcher makes its own.
+    using fnPropose = std::function<cProposal(const cImportEntry&)>;
+
+    cMatcher(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts, fnPropose propose = {});
     ~cMatcher();
     cMatcher(const cMatcher&) = delete;
     cMatcher& operator=(const cMatcher&) = delete;

@@ -109,12 +109,17 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
         }
         return eOutcome::NoAccount;
     }
+    if (proposal.IsAlone) {
+        return BookNew(*row, proposal, series, result);
+    }
     if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
             return Join(*row, proposal, *match, result);
         }
-    } else if (IsJoiningTransfer(proposal) && m_data.LoadEntry(proposal.ExistingEntry)) {
-        return JoinTransfer(*row, proposal.ExistingEntry, result);
+    } else if (IsJoiningTransfer(proposal)) {
+        if (const std::optional<cEntryItem> transfer = m_data.LoadEntry(proposal.ExistingEntry)) {
+            return JoinTransfer(*row, *transfer, result);
+        }
     }
     return BookNew(*row, proposal, series, result);
 }
@@ -160,9 +165,16 @@ cBooking::eOutcome cBooking::Join(const cImportEntry& row, const cProposal& prop
     return eOutcome::Booked;
 }
 
-cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, int entryId, cBookingResult& result)
+// A transfer has the day on which the money leaves, also when the row of the other account was there first.
+cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, cEntryItem transfer, cBookingResult& result)
 {
-    if (!HasAssigned(m_hive, row, entryId)) {
+    const bool isLeaving = row.ImportValue < 0 && transfer.EntryDate != row.ImportDate
+        && !modRecurrence::IsRecurring(transfer.EntryInterval);
+    if (!HasAssigned(m_hive, row, transfer.ID)) {
+        return eOutcome::Failed;
+    }
+    transfer.EntryDate = isLeaving ? row.ImportDate : transfer.EntryDate;
+    if (isLeaving && !m_data.ChangeEntry(transfer)) {
         return eOutcome::Failed;
     }
     ++result.Rows;

@@ -68,7 +68,7 @@ private:
                                    cBookingResult& result);
     [[nodiscard]] eOutcome Join(const cImportEntry& row, const cProposal& proposal, const cSeriesMatch& match,
                                 cBookingResult& result);
-    [[nodiscard]] eOutcome JoinTransfer(const cImportEntry& row, int entryId, cBookingResult& result);
+    [[nodiscard]] eOutcome JoinTransfer(const cImportEntry& row, cEntryItem transfer, cBookingResult& result);
     void AssignPartner(int partnerRow, int entryId, cBookingResult& result);
 
     cDataAccess& m_data;

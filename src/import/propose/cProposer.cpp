@@ -177,6 +177,9 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
     proposal.Entry.EntryType = modWord::Umbuchung;
     proposal.Entry.EntryAccount = isOutgoing ? transfer.Own : transfer.Other;
     proposal.Entry.EntryAccountMove = isOutgoing ? transfer.Other : transfer.Own;
+    if (!isOutgoing && transfer.PartnerDay.isValid()) {
+        proposal.Entry.EntryDate = transfer.PartnerDay; // the money leaves the one account before it reaches the other
+    }
     proposal.PartnerRow = transfer.PartnerRow;
     proposal.ExistingEntry = transfer.ExistingEntry;
     proposal.Reason = isOutgoing ? cText::Tr("eigenes Konto: an {0}", {transfer.Other})

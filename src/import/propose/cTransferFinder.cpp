@@ -88,6 +88,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
         const cImportEntry& other = m_rows.at(i);
         transfer.ExistingEntry = other.ImportAssigned ? HalfTransfer(other, transfer) : 0;
         transfer.PartnerRow = other.ImportAssigned ? 0 : other.ID;
+        transfer.PartnerDay = other.ImportAssigned ? QDate() : other.ImportDate;
         if (transfer.ExistingEntry != 0 || transfer.PartnerRow != 0) {
             m_partners.insert(row.ID, other.ID);
             m_partners.insert(other.ID, row.ID);

@@ -2,6 +2,7 @@
 
 #include "model/cImportEntry.h"
 
+#include <QDate>
 #include <QHash>
 #include <QString>
 
@@ -21,6 +22,7 @@ public:
         QString Own;           // account of the row
         QString Other;         // account of its counterparty
         int PartnerRow = 0;    // open row with the opposite amount; 0 when there is none
+        QDate PartnerDay;      // of that row; invalid when there is none
         int ExistingEntry = 0; // transfer in the book whose second row this is; 0 when there is none
     };
 

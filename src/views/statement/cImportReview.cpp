@@ -14,24 +14,15 @@
 #include "store/cUndoStep.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
+#include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
-#include "views/statement/modReviewQuestion.h"
-#include "views/statement/modRowBooking.h"
-
-#include <QSet>
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-using eTrust = cRowProposals::eTrust;
-
-} // namespace
 
 struct cImportReview::cWorks
 {
@@ -40,9 +31,10 @@ struct cImportReview::cWorks
           Accounts(tools.Data, tools.Settings),
           Booking(tools.Data, Hive, Accounts),
           Files(tools, Hive, Accounts),
-          Matching(tools, {Hive, Accounts, Booking}),
           Runs(tools.Settings),
-          Proposals({tools.Data, Hive, Accounts, Matching, Runs}),
+          Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
+          Matching(tools, {Hive, Accounts, Booking, Proposals}),
+          Plan(tools, {Booking, Matching, Proposals}),
           Suggestions(tools.Data, tools.User)
     {
     }
@@ -51,9 +43,10 @@ struct cImportReview::cWorks
     cAccountMap Accounts;
     cBooking Booking;
     cStatementFiles Files;
-    cMatchFlow Matching;
     cImportRuns Runs;
     cRowProposals Proposals;
+    cMatchFlow Matching;
+    cPlanFlow Plan;
     cEntrySuggestions Suggestions;
 };
 
@@ -154,96 +147,38 @@ void cImportReview::ReportAccounts(const QStringList& lines)
     Q_EMIT EntriesChanged(); // the list of accounts may have grown, and open rows belong to accounts now
 }
 
-// The rows that are to become new entries. Those that the last matching found an entry for would stand in the book
-// twice, so the user decides about them; empty when the user gives up.
-QList<int> cImportReview::AskAboutMatches(const QList<int>& rowIds)
-{
-    QList<int> others;
-    QStringList matches;
-    for (const int id : rowIds) {
-        const QString match = m_works->Matching.Proposal(id);
-        if (match.isEmpty()) {
-            others.append(id);
-        } else {
-            matches.append(match);
-        }
-    }
-    if (matches.isEmpty()) {
-        return rowIds;
-    }
-    const eAnswer answer = m_tools.User.Ask(modReviewQuestion::Matches(matches));
-    return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
-}
-
-// The same for rows that may be there twice. Of two that are both to be booked the first one is none too many.
-QList<int> cImportReview::AskAboutTwins(const QList<int>& rowIds)
-{
-    QList<int> others;
-    QStringList twins;
-    const QSet<int> booked(rowIds.begin(), rowIds.end());
-    for (const cImportEntry& row : RowsOf(rowIds)) {
-        const std::optional<modStagedTwins::cTwin> twin = m_works->Proposals.TwinOf(row.ID);
-        if (!twin || (twin->RowId > row.ID && booked.contains(twin->RowId))) {
-            others.append(row.ID);
-        } else {
-            twins.append(cText::Tr("{0} ({1})",
-                                   {modImportText::Row(row, m_tools.Format), modImportText::TwinReason(twin->Same)}));
-        }
-    }
-    if (twins.isEmpty()) {
-        return rowIds;
-    }
-    const eAnswer answer = m_tools.User.Ask(modReviewQuestion::Twins(twins));
-    return answer == eAnswer::No ? rowIds : answer == eAnswer::Yes ? others : QList<int>{};
-}
-
 void cImportReview::Book(const QList<int>& asked, cProgress& progress)
 {
-    BookAll(AskAboutTwins(AskAboutMatches(asked)), progress);
-}
-
-void cImportReview::BookAll(const QList<int>& rowIds, cProgress& progress)
-{
-    if (rowIds.isEmpty()) {
-        return;
-    }
-    const auto chosen = [&] {
-        AskAccountsOf(OpenRows(rowIds));
-        return Chosen(OpenRows(rowIds));
-    };
-    const cBookingResult result = modRowBooking::Book(m_tools.Data, m_works->Booking, rowIds, chosen, progress);
-    if (result.Failed > 0) {
-        m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
-    }
-    m_summary = {modImportText::Booked(result)};
-    for (const QString& number : result.UnknownAccounts) {
-        m_summary.append(modImportText::NoAccount(number));
-    }
-    Refresh();
-    Q_EMIT SummaryChanged();
-    Q_EMIT EntriesChanged();
+    CarryOut(asked, [&] { return m_works->Plan.Book(asked, progress); });
 }
 
 void cImportReview::AcceptProposals(cProgress& progress)
 {
-    QList<int> certain;
-    modReviewQuestion::cNumbers numbers;
-    const cImportEntryList rows = OpenRows(Rows().OpenIds());
-    for (const cImportEntry& row : rows) {
-        switch (m_works->Proposals.TrustIn(row)) {
-        case eTrust::Certain: certain.append(row.ID); break;
-        case eTrust::Unknown: ++numbers.Unknown; break;
-        case eTrust::InBook: ++numbers.InBook; break;
-        case eTrust::Twice: ++numbers.Twice; break;
-        }
+    const QList<int> open = Rows().OpenIds();
+    CarryOut(open, [&] { return m_works->Plan.Accept(open, progress); });
+}
+
+// Accounts come first, because what is in the book already can only be looked for in a known account.
+void cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work)
+{
+    const cImportEntryList rows = OpenRows(rowIds);
+    if (rows.isEmpty() && !rowIds.isEmpty()) {
+        return;
     }
-    numbers.Certain = static_cast<int>(certain.size());
-    const cQuestion question = modReviewQuestion::Accept(numbers);
-    if (certain.isEmpty()) {
-        m_tools.User.Show(question.Tone, question.Text, question.Title);
-    } else if (m_tools.User.Ask(question) == eAnswer::Yes) {
-        BookAll(certain, progress);
+    cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rows.size()))}));
+    AskAccountsOf(rows);
+    cPlanFlow::cOutcome outcome = work();
+    outcome.IsDone = step.Done() && outcome.IsDone;
+    if (outcome.Lines.isEmpty()) {
+        return;
     }
+    if (outcome.IsRefused) {
+        m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
+    }
+    m_summary = outcome.Lines;
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged();
 }
 
 cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
@@ -446,15 +381,6 @@ cImportEntryList cImportReview::OpenRows(const QList<int>& rowIds)
     cImportEntryList rows = RowsOf(rowIds);
     rows.removeIf([](const cImportEntry& row) { return row.ImportAssigned; });
     return rows;
-}
-
-QHash<int, cProposal> cImportReview::Chosen(const cImportEntryList& rows)
-{
-    QHash<int, cProposal> proposals;
-    for (const cImportEntry& row : rows) {
-        proposals.insert(row.ID, m_works->Proposals.For(row));
-    }
-    return proposals;
 }
 
 void cImportReview::Delete(const QList<int>& rowIds)

@@ -2,13 +2,14 @@
 
 #include "model/cImportEntry.h"
 #include "views/statement/cMatchFlow.h"
+#include "views/statement/cPlanFlow.h"
 #include "views/statement/cStagedChoice.h"
 
-#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class cAssignListModel;
@@ -17,7 +18,6 @@ class cProgress;
 class cRuleEditor;
 class cStatementFiles;
 struct cBookTools;
-struct cProposal;
 
 // The page of bank statements without its widgets: proposes, books, matches and deletes. The window for the rows of one
 // import has a review of its own, which shares what the user chose for them.
@@ -50,10 +50,11 @@ public:
     // What the last action did, one line per file or step.
     [[nodiscard]] QStringList Summary() const { return m_summary; }
 
-    // Books the rows as shown. Those that are booked already are passed over; those that match an entry or may be there
-    // twice are asked about.
+    // Books the rows as shown. Those that are booked already are passed over; those that belong to an entry or may be
+    // there twice are asked about.
     void Book(const QList<int>& asked, cProgress& progress);
-    // Books all rows shown whose proposal is certain, after a question that names the numbers.
+    // Of the rows shown, assigns those whose entry is there and books those whose proposal is sure, after a question
+    // that names the numbers.
     void AcceptProposals(cProgress& progress);
 
     // What can be done with the rows that are selected.
@@ -112,9 +113,7 @@ private:
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row) override;
 
-    [[nodiscard]] QList<int> AskAboutMatches(const QList<int>& rowIds);
-    [[nodiscard]] QList<int> AskAboutTwins(const QList<int>& rowIds);
-    void BookAll(const QList<int>& rowIds, cProgress& progress);
+    void CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
     void LoadRows();
     void NoteStaged(const QList<int>& ids);
     void Report(const QStringList& lines);
@@ -123,7 +122,6 @@ private:
     [[nodiscard]] cImportEntryList RowsOf(const QList<int>& rowIds);
     [[nodiscard]] cImportEntryList OpenRows(const QList<int>& rowIds);
     void AskAccountsOf(const cImportEntryList& rows);
-    [[nodiscard]] QHash<int, cProposal> Chosen(const cImportEntryList& rows);
 
     const cBookTools& m_tools;
     std::shared_ptr<cWorks> m_works; // of the page, in the window too

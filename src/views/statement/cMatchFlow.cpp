@@ -6,14 +6,18 @@
 #include "base/modCount.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
-#include "import/match/cMatcher.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/statement/cRowProposals.h"
 #include "views/statement/modImportText.h"
 
+#include <QHash>
+#include <QSet>
+
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,9 +25,9 @@ namespace {
 
 constexpr qsizetype shownMatches = 20; // more lines tell the user nothing new
 
-int CorrectionCount(const cMatchResult& result)
+int CorrectionCount(const QList<cMatch>& matches)
 {
-    return static_cast<int>(std::count_if(result.Assigned.begin(), result.Assigned.end(),
+    return static_cast<int>(std::count_if(matches.begin(), matches.end(),
                                           [](const cMatch& match) { return match.Candidate.Correction.has_value(); }));
 }
 
@@ -57,57 +61,102 @@ cMatchFlow::cOutcome cMatchFlow::NothingDone()
 cMatchFlow::cOutcome cMatchFlow::Match(const QList<int>& rowIds, cProgress& progress)
 {
     cUndoStep step(m_tools.Data, cText::Tr("{0} abgeglichen", {modImportText::Count(static_cast<int>(rowIds.size()))}));
-    const cMatchResult result =
-        cMatcher(m_tools.Data, m_parts.Hive, m_parts.Accounts).MatchAll(rowIds, progress, eMatchRun::Write);
-    progress.hideProgressBar();
-    if (result.IsCancelled) {
+    const std::optional<cMatchResult> result = Find(rowIds, progress);
+    if (!result) {
         return {{cText::Tr("Abgleichen abgebrochen, es wurde nichts zugeordnet.")}};
     }
-    const std::optional<int> corrected = result.Failed > 0 ? std::nullopt : Correct(result);
+    const std::optional<int> corrected = AssignAll(result->Assigned);
     if (!step.DoneIf(corrected.has_value())) {
         return NothingDone();
     }
-    m_proposed.clear();
-    for (const cMatch& match : result.Proposed) {
-        m_proposed.append(match.RowId);
+    return {Lines(*result, *corrected), true, *corrected > 0, std::make_shared<const cMatchResult>(*result)};
+}
+
+std::optional<cMatchResult> cMatchFlow::Find(const QList<int>& rowIds, cProgress& progress)
+{
+    const std::optional<QHash<int, cRowPlan>> plans = m_parts.Proposals.Plans(rowIds, progress);
+    if (!plans) {
+        return std::nullopt;
     }
-    ForgetProposals();
-    return {Lines(result, *corrected), true, *corrected > 0, std::make_shared<const cMatchResult>(result)};
+    cMatchResult result;
+    const cImportHive& hive = m_parts.Hive.GetImportHive();
+    for (const int id : QSet<int>(rowIds.begin(), rowIds.end())) {
+        const auto plan = plans->constFind(id);
+        if (plan == plans->constEnd()) {
+            continue;
+        }
+        if (plan->Match) {
+            (plan->Group == eRowGroup::InBook ? result.Assigned : result.Proposed).append({id, *plan->Match});
+            continue;
+        }
+        result.Left.append(id);
+        if (id < plan->Proposal.PartnerRow && plans->contains(plan->Proposal.PartnerRow)) {
+            result.Transfers.append({id, plan->Proposal.PartnerRow});
+        }
+        const QString number = hive.GetImportEntryByID(id).value_or(cImportEntry()).ImportAccount;
+        if (plan->Proposal.Entry.EntryAccount.isEmpty() && !result.UnknownAccounts.contains(number)) {
+            result.UnknownAccounts.append(number);
+        }
+    }
+    std::sort(result.Left.begin(), result.Left.end());
+    for (QList<cMatch>* list : {&result.Assigned, &result.Proposed}) {
+        std::sort(list->begin(), list->end(), [](const cMatch& a, const cMatch& b) {
+            return std::pair(-a.Candidate.Score, a.RowId) < std::pair(-b.Candidate.Score, b.RowId);
+        });
+    }
+    return result;
+}
+
+std::optional<int> cMatchFlow::AssignAll(const QList<cMatch>& matches)
+{
+    const bool isWritten = std::all_of(matches.begin(), matches.end(), [this](const cMatch& match) {
+        return m_parts.Booking.Assign(match.RowId, match.Candidate.Entry.ID);
+    });
+    return isWritten ? Correct(matches) : std::nullopt;
 }
 
 // The number of corrections written, 0 when the user wants none; empty when the database refuses.
-std::optional<int> cMatchFlow::Correct(const cMatchResult& result)
+std::optional<int> cMatchFlow::Correct(const QList<cMatch>& matches)
 {
-    const int count = CorrectionCount(result);
+    const int count = CorrectionCount(matches);
     const cQuestion question{.Text = CorrectionQuestion(count), .Title = cText::Tr("Umsätze abgleichen")};
     if (count == 0 || m_tools.User.Ask(question) != eAnswer::Yes) {
         return 0;
     }
-    const bool isWritten = std::all_of(result.Assigned.begin(), result.Assigned.end(), [this](const cMatch& match) {
+    const bool isWritten = std::all_of(matches.begin(), matches.end(), [this](const cMatch& match) {
         return !match.Candidate.Correction || m_tools.Data.AddNewEntryMod(*match.Candidate.Correction);
     });
     return isWritten ? std::optional(count) : std::nullopt;
 }
 
-QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
+QStringList cMatchFlow::CorrectedLines(int corrected)
 {
-    QStringList lines{QString(result.Summary() + u'.')};
-    if (corrected > 0) {
-        lines.append(CorrectedLine(corrected));
-    }
-    for (const QString& number : result.UnknownAccounts) {
-        lines.append(modImportText::NoAccountToMatch(number));
-    }
+    return corrected > 0 ? QStringList(CorrectedLine(corrected)) : QStringList();
+}
+
+QStringList cMatchFlow::AssignedLines(const QList<cMatch>& matches)
+{
+    QStringList lines;
     const cImportHive& hive = m_parts.Hive.GetImportHive();
-    for (const cMatch& match : result.Assigned.first(qMin(result.Assigned.size(), shownMatches))) {
+    for (const cMatch& match : matches.first(qMin(matches.size(), shownMatches))) {
         const cImportEntry row = hive.GetImportEntryByID(match.RowId).value_or(cImportEntry());
         lines.append(cText::Tr("{0} → {1}",
                                {modImportText::Row(row, m_tools.Format), modImportText::Candidate(match.Candidate)}));
     }
-    if (result.Assigned.size() > shownMatches) {
-        lines.append(modCount::MoreLines(result.Assigned.size() - shownMatches));
+    if (matches.size() > shownMatches) {
+        lines.append(modCount::MoreLines(matches.size() - shownMatches));
     }
     return lines;
+}
+
+QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
+{
+    QStringList lines{QString(result.Summary() + u'.')};
+    lines += CorrectedLines(corrected);
+    for (const QString& number : result.UnknownAccounts) {
+        lines.append(modImportText::NoAccountToMatch(number));
+    }
+    return lines + AssignedLines(result.Assigned);
 }
 
 cMatchFlow::cOutcome cMatchFlow::Assign(int rowId, const cMatchCandidate& candidate)
@@ -157,27 +206,4 @@ cMatchFlow::cOutcome cMatchFlow::Release(const QList<int>& rowIds)
         return NothingDone();
     }
     return {{cText::Tr("{0} gelöst und wieder offen. Einträge bleiben im Haushaltsbuch.", {count})}, true};
-}
-
-// Only the rows of the last run are looked at again, so the list stays quick.
-QString cMatchFlow::Proposal(int rowId)
-{
-    if (m_proposed.isEmpty()) {
-        return {};
-    }
-    if (!m_proposal) {
-        m_proposal.emplace();
-        cNoProgress progress;
-        const cMatchResult result =
-            cMatcher(m_tools.Data, m_parts.Hive, m_parts.Accounts).MatchAll(m_proposed, progress, eMatchRun::Try);
-        for (const cMatch& match : result.Proposed + result.Assigned) {
-            m_proposal->insert(match.RowId, cText::Tr("passt zu {0}", {modImportText::Candidate(match.Candidate)}));
-        }
-    }
-    return m_proposal->value(rowId);
-}
-
-void cMatchFlow::ForgetProposals()
-{
-    m_proposal.reset();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -12,7 +11,9 @@ class cAccountMap;
 class cBooking;
 class cImportHiveCache;
 class cProgress;
+class cRowProposals;
 struct cBookTools;
+struct cMatch;
 struct cMatchCandidate;
 struct cMatchResult;
 
@@ -26,6 +27,7 @@ public:
         cImportHiveCache& Hive;
         const cAccountMap& Accounts;
         cBooking& Booking;
+        cRowProposals& Proposals;
     };
 
     // What came of an action, in words.
@@ -53,20 +55,23 @@ public:
     // Sets assigned rows back to open; their entries stay. Open ones are passed over.
     [[nodiscard]] cOutcome Release(const QList<int>& rowIds);
 
-    // "passt zu 'Miete' vom 03.03. (85 %)" for a row that the last Match was not sure of, as long as that still holds;
-    // else empty.
-    [[nodiscard]] QString Proposal(int rowId);
-    void ForgetProposals(); // the book or the rows are others now: they are looked up anew
+    // Assigns rows to the entries that they belong to and brings these in line, within a step of the caller. The number
+    // of corrections; empty when the database refuses.
+    [[nodiscard]] std::optional<int> AssignAll(const QList<cMatch>& matches);
+    // What of it is worth saying, one line each; the corrections are said in one.
+    [[nodiscard]] QStringList AssignedLines(const QList<cMatch>& matches);
+    [[nodiscard]] static QStringList CorrectedLines(int corrected);
+
+    // What goes together, from the plans of the rows; nothing is written. Empty when the user stops it.
+    [[nodiscard]] std::optional<cMatchResult> Find(const QList<int>& rowIds, cProgress& progress);
 
     [[nodiscard]] const cBookTools& Tools() const { return m_tools; }
     [[nodiscard]] const cParts& Parts() const { return m_parts; }
 
 private:
-    [[nodiscard]] std::optional<int> Correct(const cMatchResult& result);
+    [[nodiscard]] std::optional<int> Correct(const QList<cMatch>& matches);
     [[nodiscard]] QStringList Lines(const cMatchResult& result, int corrected);
 
     const cBookTools& m_tools;
     cParts m_parts;
-    QList<int> m_proposed;                         // rows of the last Match
-    std::optional<QHash<int, QString>> m_proposal; // by row ID, as far as it was asked for
 };

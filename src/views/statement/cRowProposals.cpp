@@ -1,15 +1,14 @@
 #include "views/statement/cRowProposals.h"
 
+#include "base/cProgress.h"
 #include "base/cText.h"
-#include "core/cBookTools.h"
-#include "import/propose/cProposer.h"
+#include "import/plan/cImportPlan.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cImportRuns.h"
-#include "views/statement/cMatchFlow.h"
 #include "views/statement/modImportText.h"
 
 #include <algorithm>
@@ -19,6 +18,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using cRange = cImportRuns::cRange;
+
+constexpr qsizetype planAtOnce = 1000; // open rows; a month has 500 at most
+constexpr qsizetype slice = 100;       // of a higher pile: what a list shows, and some below
 
 // The file that a row came with, counted from 1; 0 when it is not remembered.
 int FileOf(const QList<cRange>& files, int id)
@@ -38,10 +40,9 @@ cRowProposals::~cRowProposals() = default;
 
 void cRowProposals::Forget()
 {
-    m_proposer.reset();
-    m_proposals.clear();
-    m_twins.reset();
-    m_parts.Matching.ForgetProposals();
+    m_plan.reset();
+    m_planned.clear();
+    m_isWhole = false;
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     m_choices.removeIf([&](const auto& choice) {
         const std::optional<cImportEntry> row = hive.GetImportEntryByID(choice.key());
@@ -49,45 +50,68 @@ void cRowProposals::Forget()
     });
 }
 
-const cProposal& cRowProposals::Propose(const cImportEntry& row)
+cImportPlan& cRowProposals::Plan()
 {
-    auto known = m_proposals.find(row.ID);
-    if (known == m_proposals.end()) {
-        if (!m_proposer) {
-            m_proposer = std::make_unique<cProposer>(m_parts.Data, m_parts.Hive, m_parts.Accounts);
-        }
-        known = m_proposals.insert(row.ID, m_proposer->ProposeBest(row));
+    if (!m_plan) {
+        const QList<cRange> files = m_parts.Runs.Files();
+        m_plan = std::make_unique<cImportPlan>(cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts,
+                                                                   [files](int id) { return FileOf(files, id); }});
+    }
+    return *m_plan;
+}
+
+const cRowPlan& cRowProposals::Planned(const cImportEntry& row)
+{
+    auto known = m_planned.find(row.ID);
+    if (known == m_planned.end()) {
+        cNoProgress progress;
+        m_isWhole = Plan().OpenCount() <= planAtOnce;
+        m_planned.insert(Plan().Make(Plan().Around(row.ID, m_isWhole ? 4 * planAtOnce : slice), progress));
+        known = m_planned.contains(row.ID) ? m_planned.find(row.ID) : m_planned.insert(row.ID, cRowPlan{});
     }
     return *known;
 }
 
-cProposal cRowProposals::For(const cImportEntry& row)
+std::optional<QHash<int, cRowPlan>> cRowProposals::Plans(const QList<int>& rowIds, cProgress& progress)
 {
-    cProposal proposal = Propose(row);
-    const cChoice choice = m_choices.value(row.ID);
-    if (!choice.Category.isEmpty()) {
-        proposal.Entry.EntryCategory = choice.Category;
+    if (!m_isWhole) {
+        // What was planned in slices may have given one entry to two rows.
+        const QHash<int, cRowPlan> made = Plan().Make(rowIds, progress);
+        if (progress.IsCancelled()) {
+            return std::nullopt;
+        }
+        m_planned.insert(made);
     }
-    if (!choice.Interval.isEmpty() && choice.Interval != proposal.Entry.EntryInterval) {
-        proposal.Entry.EntryInterval = choice.Interval;
-        proposal.ExistingEntry = 0; // the series that it belonged to has another interval
+    QHash<int, cRowPlan> plans;
+    for (const int id : rowIds) {
+        if (const auto plan = m_planned.constFind(id); plan != m_planned.constEnd()) {
+            plans.insert(id, WithChoice(*plan));
+        }
     }
-    return proposal;
+    return plans;
 }
 
-cRowProposals::eTrust cRowProposals::TrustIn(const cImportEntry& row)
+cRowPlan cRowProposals::PlanOf(const cImportEntry& row)
 {
-    if (TwinOf(row.ID)) {
-        return eTrust::Twice;
+    return WithChoice(Planned(row));
+}
+
+// What the user says about a row is sure; whether its entry is there already is another question.
+cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
+{
+    const cChoice choice = m_choices.value(plan.RowId);
+    if (!choice.Category.isEmpty()) {
+        plan.Proposal.Entry.EntryCategory = choice.Category;
+        plan.Group = plan.Match || plan.IsSecond ? plan.Group : eRowGroup::Sure;
     }
-    if (!m_parts.Matching.Proposal(row.ID).isEmpty()) {
-        return eTrust::InBook;
+    if (!choice.Interval.isEmpty() && choice.Interval != plan.Proposal.Entry.EntryInterval) {
+        plan.Proposal.Entry.EntryInterval = choice.Interval;
+        plan.Proposal.ExistingEntry = 0; // the series that it belonged to has another interval
     }
-    const cProposal& proposal = Propose(row);
-    // Of a transfer between own accounts everything is known, whatever its category.
-    const bool isFounded =
-        proposal.IsSure || proposal.ExistingEntry != 0 || proposal.Entry.EntryType == modWord::Umbuchung;
-    return isFounded || !m_choices.value(row.ID).Category.isEmpty() ? eTrust::Certain : eTrust::Unknown;
+    if (!plan.Match && (!choice.Category.isEmpty() || !choice.Interval.isEmpty())) {
+        plan.Reason = cText::Tr("von Hand gewählt");
+    }
+    return plan;
 }
 
 cStagedInfo cRowProposals::Info(const cImportEntry& row)
@@ -95,20 +119,17 @@ cStagedInfo cRowProposals::Info(const cImportEntry& row)
     if (row.ImportAssigned) {
         return BookedInfo(row);
     }
-    const cProposal& proposal = Propose(row);
-    const cChoice choice = m_choices.value(row.ID);
-    const bool isOwnChoice = !choice.Category.isEmpty() || !choice.Interval.isEmpty();
-    const QString match = m_parts.Matching.Proposal(row.ID);
+    const cRowPlan plan = PlanOf(row);
+    // A certain match shows the entry that is there.
+    const bool isThere = plan.Match && plan.Group == eRowGroup::InBook;
+    const cEntryItem& entry = isThere ? plan.Match->Entry : plan.Proposal.Entry;
     cStagedInfo info;
-    info.Account = modImportText::Accounts(proposal.Entry);
-    info.Category = choice.Category.isEmpty() ? proposal.Entry.EntryCategory : choice.Category;
-    info.Interval = choice.Interval.isEmpty() ? proposal.Entry.EntryInterval : choice.Interval;
-    info.Reason = isOwnChoice ? cText::Tr("von Hand gewählt") : modImportText::Reason(proposal);
-    if (!match.isEmpty()) {
-        info.Reason = match; // booking would add what is there already, so this goes first
-    }
-    if (const std::optional<modStagedTwins::cTwin> twin = TwinOf(row.ID)) {
-        Warn(info, *twin);
+    info.Account = modImportText::Accounts(entry);
+    info.Category = entry.EntryCategory;
+    info.Interval = entry.EntryInterval;
+    info.Reason = modImportText::Reason(plan);
+    if (plan.Twin) {
+        Warn(info, *plan.Twin);
     }
     return info;
 }
@@ -126,33 +147,15 @@ cStagedInfo cRowProposals::BookedInfo(const cImportEntry& row)
     return info;
 }
 
-void cRowProposals::Warn(cStagedInfo& info, const modStagedTwins::cTwin& twin)
+void cRowProposals::Warn(cStagedInfo& info, const cRowTwin& twin)
 {
     info.IsDoubtful = true;
     const QString warning = modImportText::TwinReason(twin.Same);
     const std::optional<cImportEntry> other = m_parts.Hive.GetImportHive().GetImportEntryByID(twin.RowId);
-    info.Hint = other ? cText::Tr("{0} wie: {1}\nVorschlag: {2}",
-                                  {warning, modImportText::Row(*other, m_parts.Matching.Tools().Format), info.Reason})
-                      : warning;
+    info.Hint = other
+        ? cText::Tr("{0} wie: {1}\nVorschlag: {2}", {warning, modImportText::Row(*other, m_parts.Format), info.Reason})
+        : warning;
     info.Reason = warning;
-}
-
-std::optional<modStagedTwins::cTwin> cRowProposals::TwinOf(int rowId)
-{
-    if (!m_twins) {
-        FindTwins();
-    }
-    const auto twin = m_twins->constFind(rowId);
-    return twin == m_twins->constEnd() ? std::nullopt : std::optional(*twin);
-}
-
-void cRowProposals::FindTwins()
-{
-    const QList<cRange> files = m_parts.Runs.Files();
-    m_twins =
-        modStagedTwins::Find(m_parts.Hive.GetImportHive().getImportEntryList(),
-                             {.AccountOf = [this](const QString& number) { return m_parts.Accounts.AccountOf(number); },
-                              .FileOf = [&](int id) { return FileOf(files, id); }});
 }
 
 QStringList cRowProposals::Categories() const

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/cImportEntry.h"
+#include "model/cRowPlan.h"
 #include "views/statement/cStagedSource.h"
-#include "views/statement/modStagedTwins.h"
 
 #include <QHash>
 #include <QString>
@@ -12,15 +12,15 @@
 #include <optional>
 
 class cAccountMap;
+class cAmountFormat;
 class cDataAccess;
 class cImportHiveCache;
+class cImportPlan;
 class cImportRuns;
-class cMatchFlow;
-class cProposer;
-struct cProposal;
+class cProgress;
 
-// What each open bank transaction should become: as proposed, or as the user chose instead. Worked out for the rows
-// that somebody asks for.
+// What each open bank transaction should become: as planned, or as the user chose instead. A pile that is not too high
+// is planned as a whole, a higher one around the rows that somebody asks for.
 class cRowProposals
 {
 public:
@@ -30,16 +30,8 @@ public:
         cDataAccess& Data;
         cImportHiveCache& Hive;
         const cAccountMap& Accounts;
-        cMatchFlow& Matching;
         const cImportRuns& Runs;
-    };
-
-    // How far a row can be booked without looking at it.
-    enum class eTrust {
-        Certain, // learned, by a rule, an own account, a series, or chosen by hand
-        Unknown, // nothing but an ambiguous keyword or the default
-        InBook,  // an entry of the book may be the same
-        Twice,   // another row may be the same
+        const cAmountFormat& Format;
     };
 
     explicit cRowProposals(const cParts& parts);
@@ -49,10 +41,10 @@ public:
     void Forget();
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row);
-    [[nodiscard]] cProposal For(const cImportEntry& row); // with what the user chose
-    [[nodiscard]] eTrust TrustIn(const cImportEntry& row);
-    // Another row that may be the same transaction.
-    [[nodiscard]] std::optional<modStagedTwins::cTwin> TwinOf(int rowId);
+    [[nodiscard]] cRowPlan PlanOf(const cImportEntry& row); // with what the user chose
+    // The plans of open rows, all of them weighed against each other, which is what booking needs. Empty when the user
+    // stops it.
+    [[nodiscard]] std::optional<QHash<int, cRowPlan>> Plans(const QList<int>& rowIds, cProgress& progress);
 
     [[nodiscard]] QStringList Categories() const; // paths to choose from
     // The user's own choice for rows; false when it is none of those that can be chosen.
@@ -67,15 +59,16 @@ private:
         QString Interval;
     };
 
-    [[nodiscard]] const cProposal& Propose(const cImportEntry& row);
+    [[nodiscard]] cImportPlan& Plan();
+    [[nodiscard]] const cRowPlan& Planned(const cImportEntry& row);
+    [[nodiscard]] cRowPlan WithChoice(cRowPlan plan) const;
     void TakeChoice(const QList<int>& rowIds, QString cChoice::*field, const QString& value);
     [[nodiscard]] cStagedInfo BookedInfo(const cImportEntry& row);
-    void Warn(cStagedInfo& info, const modStagedTwins::cTwin& twin);
-    void FindTwins();
+    void Warn(cStagedInfo& info, const cRowTwin& twin);
 
     cParts m_parts;
-    std::unique_ptr<cProposer> m_proposer; // it reads what the user chose before only once per state of the book
-    QHash<int, cProposal> m_proposals;     // by row ID, like the others
-    QHash<int, cChoice> m_choices;
-    std::optional<QHash<int, modStagedTwins::cTwin>> m_twins;
+    std::unique_ptr<cImportPlan> m_plan; // it reads the book only once per state of it
+    QHash<int, cRowPlan> m_planned;      // by row ID
+    bool m_isWhole = false;              // all open rows were planned at once
+    QHash<int, cChoice> m_choices;       // by row ID
 };

@@ -19,11 +19,13 @@
 #include "import/table/modTable.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
+#include "views/statement/cImportRuns.h"
 #include "views/statement/cMatchFlow.h"
+#include "views/statement/cPlanFlow.h"
+#include "views/statement/cRowProposals.h"
 #include "views/statement/cRuleTrial.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
-#include "views/statement/modRowBooking.h"
 #include "views/statement/modTableOption.h"
 
 #include <algorithm>
@@ -160,7 +162,10 @@ struct cStatementDesk::cWorks
         : Hive(tools.Data),
           Accounts(tools.Data, tools.Settings),
           Booking(tools.Data, Hive, Accounts),
-          Matching(tools, {Hive, Accounts, Booking}),
+          Runs(tools.Settings),
+          Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
+          Matching(tools, {Hive, Accounts, Booking, Proposals}),
+          Plan(tools, {Booking, Matching, Proposals}),
           Memory(tools.Settings),
           Balances(tools.Settings),
           Import(tools.Data, Hive, &Memory, &Balances),
@@ -171,7 +176,10 @@ struct cStatementDesk::cWorks
     cImportHiveCache Hive;
     cAccountMap Accounts;
     cBooking Booking;
+    cImportRuns Runs;
+    cRowProposals Proposals;
     cMatchFlow Matching;
+    cPlanFlow Plan;
     cTableMemory Memory;
     cBankBalances Balances;
     cStatementImport Import;
@@ -199,29 +207,43 @@ QList<int> cStatementDesk::OpenIds()
     return m_works->Hive.GetImportHive().OpenIds();
 }
 
-QHash<int, cProposal> cStatementDesk::Propose(const QList<int>& rowIds)
+QHash<int, cRowPlan> cStatementDesk::Propose(const QList<int>& rowIds)
 {
-    return m_works->Booking.Propose(rowIds);
+    cNoProgress progress;
+    m_works->Proposals.Forget();
+    return m_works->Proposals.Plans(rowIds, progress).value_or(QHash<int, cRowPlan>());
+}
+
+cStatementDesk::cBooked cStatementDesk::Booked(const cPlanFlow::cOutcome& outcome)
+{
+    m_works->Proposals.Forget();
+    return {outcome.Lines, outcome.UnknownAccounts, outcome.Left, outcome.IsDone && outcome.UnknownAccounts.isEmpty()};
 }
 
 cStatementDesk::cBooked cStatementDesk::Book(const QList<int>& rowIds)
 {
     cNoProgress progress;
-    const auto propose = [&] { return Propose(rowIds); };
-    const cBookingResult result = modRowBooking::Book(m_tools.Data, m_works->Booking, rowIds, propose, progress);
-    return {modImportText::Booked(result), result.UnknownAccounts,
-            result.Failed == 0 && result.UnknownAccounts.isEmpty()};
+    m_works->Proposals.Forget();
+    return Booked(m_works->Plan.Book(rowIds, progress));
+}
+
+cStatementDesk::cBooked cStatementDesk::Accept(const QList<int>& rowIds)
+{
+    cNoProgress progress;
+    m_works->Proposals.Forget();
+    return Booked(m_works->Plan.Accept(rowIds, progress));
 }
 
 cMatchFlow& cStatementDesk::Matching()
 {
+    m_works->Proposals.Forget();
     return m_works->Matching;
 }
 
 cMatchResult cStatementDesk::TryMatching(const QList<int>& rowIds)
 {
     cNoProgress progress;
-    return cMatcher(m_tools.Data, m_works->Hive, m_works->Accounts).MatchAll(rowIds, progress, eMatchRun::Try);
+    return Matching().Find(rowIds, progress).value_or(cMatchResult());
 }
 
 QList<cMatchCandidate> cStatementDesk::Candidates(int rowId)

@@ -3,7 +3,8 @@
 #include "model/cImportEntry.h"
 #include "model/cMatch.h"
 #include "model/cOwnRule.h"
-#include "model/cProposal.h"
+#include "model/cRowPlan.h"
+#include "views/statement/cPlanFlow.h"
 
 #include <QHash>
 #include <QList>
@@ -32,17 +33,21 @@ public:
     [[nodiscard]] std::optional<cImportEntry> Row(int id);
     [[nodiscard]] QList<int> OpenIds();
 
-    [[nodiscard]] QHash<int, cProposal> Propose(const QList<int>& rowIds);
+    // What is to become of the open ones of the rows, as the review shows it.
+    [[nodiscard]] QHash<int, cRowPlan> Propose(const QList<int>& rowIds);
 
     // What came of booking.
     struct cBooked
     {
-        QString Text;
+        QStringList Lines;           // for the user
         QStringList UnknownAccounts; // numbers without account; their rows were not booked
-        bool IsDone = false;         // all rows were booked
+        int Left = 0;                // rows that stay open because somebody should look at them
+        bool IsDone = false;         // all other rows were booked
     };
-    // Books the rows as they are proposed.
+    // Brings the rows into the book as the review does by Enter, with its questions.
     [[nodiscard]] cBooked Book(const QList<int>& rowIds);
+    // Of the rows what is in the book already or sure, as the review does by "Alle Vorschläge annehmen".
+    [[nodiscard]] cBooked Accept(const QList<int>& rowIds);
 
     [[nodiscard]] cMatchFlow& Matching();
     [[nodiscard]] cMatchResult TryMatching(const QList<int>& rowIds); // writes nothing
@@ -68,6 +73,7 @@ public:
 private:
     struct cWorks; // the tools of the import floor
 
+    [[nodiscard]] cBooked Booked(const cPlanFlow::cOutcome& outcome);
     [[nodiscard]] bool RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes);
 
     const cBookTools& m_tools;

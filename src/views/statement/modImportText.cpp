@@ -8,6 +8,7 @@
 #include "import/stage/cImportResult.h"
 #include "model/cMatch.h"
 #include "model/cProposal.h"
+#include "model/cRowPlan.h"
 
 #include <QFileInfo>
 
@@ -171,14 +172,30 @@ QString modImportText::Accounts(const cEntryItem& entry)
     return entry.EntryAccountMove.isEmpty() ? entry.EntryAccount : entry.EntryAccount + u" → " + entry.EntryAccountMove;
 }
 
-QString modImportText::Reason(const cProposal& proposal)
+QString modImportText::Reason(const cRowPlan& plan)
 {
-    const QString reason = proposal.Reason.isEmpty() ? cText::Tr("keine Regel passt") : proposal.Reason;
-    return proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
+    if (plan.Match && plan.Group == eRowGroup::InBook) {
+        return cText::Tr("schon im Buch: {0} ({1})", {EntryName(plan.Match->Entry), plan.Reason});
+    }
+    if (plan.Match) {
+        return cText::Tr("passt zu {0}", {Candidate(*plan.Match)});
+    }
+    const QString reason = plan.Reason.isEmpty() ? cText::Tr("keine Regel passt") : plan.Reason;
+    return plan.Proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
 }
 
-QString modImportText::TwinReason(modStagedTwins::eSame same)
+QString modImportText::Group(eRowGroup group)
 {
-    return same == modStagedTwins::eSame::Counterparty ? cText::Tr("gleicher Tag, Betrag und Gegenkonto")
-                                                       : cText::Tr("gleicher Tag, Betrag und ähnlicher Name");
+    switch (group) {
+    case eRowGroup::InBook: return cText::Tr("schon im Buch");
+    case eRowGroup::Sure: return cText::Tr("sicher");
+    case eRowGroup::Look: break;
+    }
+    return cText::Tr("bitte ansehen");
+}
+
+QString modImportText::TwinReason(cRowTwin::eSame same)
+{
+    return same == cRowTwin::eSame::Counterparty ? cText::Tr("gleicher Tag, Betrag und Gegenkonto")
+                                                 : cText::Tr("gleicher Tag, Betrag und ähnlicher Name");
 }

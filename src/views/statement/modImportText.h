@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/statement/modStagedTwins.h"
+#include "model/cRowPlan.h"
 
 #include <QString>
 #include <QStringList>
@@ -11,7 +11,6 @@ struct cEntryItem;
 struct cImportEntry;
 struct cImportResult;
 struct cMatchCandidate;
-struct cProposal;
 struct cReadProblem;
 struct cTableDoubt;
 
@@ -64,9 +63,13 @@ namespace modImportText {
 // "Girokonto", for a transfer "Girokonto → Sparkonto"
 [[nodiscard]] QString Accounts(const cEntryItem& entry);
 
-[[nodiscard]] QString Reason(const cProposal& proposal);
+// Why a row is to become what was planned: the entry that is there, or what speaks for the new one
+[[nodiscard]] QString Reason(const cRowPlan& plan);
+
+// "sicher"
+[[nodiscard]] QString Group(eRowGroup group);
 
 // Why two transactions may be the same one
-[[nodiscard]] QString TwinReason(modStagedTwins::eSame same);
+[[nodiscard]] QString TwinReason(cRowTwin::eSame same);
 
 } // namespace modImportText

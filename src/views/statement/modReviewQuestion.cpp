@@ -20,8 +20,8 @@ QString Left(const modReviewQuestion::cNumbers& numbers)
     if (numbers.Unknown > 0) {
         left.append(cText::Tr("{0} ohne passenden Vorschlag", {QString::number(numbers.Unknown)}));
     }
-    if (numbers.InBook > 0) {
-        left.append(cText::Tr("{0} wahrscheinlich schon im Haushaltsbuch", {QString::number(numbers.InBook)}));
+    if (numbers.Likely > 0) {
+        left.append(cText::Tr("{0} wahrscheinlich schon im Haushaltsbuch", {QString::number(numbers.Likely)}));
     }
     if (numbers.Twice > 0) {
         left.append(cText::Tr("{0} vielleicht doppelt", {QString::number(numbers.Twice)}));
@@ -29,31 +29,51 @@ QString Left(const modReviewQuestion::cNumbers& numbers)
     return left.isEmpty() ? QString() : cText::Tr("Offen bleiben: {0}.", {left.join(u", "_s)});
 }
 
-QString Certain(int count)
+QString InBook(int count)
 {
-    if (count == 0) {
+    return count == 1 ? cText::Tr("Einer der gezeigten Umsätze steht schon im Haushaltsbuch und wird zugeordnet.")
+                      : cText::Tr("{0} der gezeigten Umsätze stehen schon im Haushaltsbuch und werden zugeordnet.",
+                                  {QString::number(count)});
+}
+
+QString Sure(int count)
+{
+    return count == 1 ? cText::Tr("Einer der gezeigten Umsätze hat einen sicheren Vorschlag und wird neu gebucht.")
+                      : cText::Tr("{0} der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.",
+                                  {QString::number(count)});
+}
+
+// What is done with those that need no look.
+QString Certain(const modReviewQuestion::cNumbers& numbers)
+{
+    if (numbers.InBook + numbers.Sure == 0) {
         return cText::Tr("Keiner der gezeigten Umsätze hat einen sicheren Vorschlag.");
     }
-    return count == 1
-        ? cText::Tr("Ein gezeigter Umsatz hat einen sicheren Vorschlag. Soll er so gebucht werden?")
-        : cText::Tr("{0} der gezeigten Umsätze haben einen sicheren Vorschlag. Sollen sie alle so gebucht werden?",
-                    {QString::number(count)});
+    QStringList lines;
+    if (numbers.InBook > 0) {
+        lines.append(InBook(numbers.InBook));
+    }
+    if (numbers.Sure > 0) {
+        lines.append(Sure(numbers.Sure));
+    }
+    return lines.join(u'\n');
 }
 
 } // namespace
 
-cQuestion modReviewQuestion::Matches(const QStringList& lines)
+cDecision modReviewQuestion::Matches(const QStringList& lines)
 {
+    const bool isOne = lines.size() == 1;
     const QStringList values{QString::number(lines.size()), Examples(lines)};
-    return {.Text = lines.size() == 1
-                ? cText::Tr("Von den markierten Umsätzen gehört wahrscheinlich einer zu einem Eintrag, den es schon "
-                            "gibt:\n{1}\nSoll er offen bleiben? Bei Nein wird auch daraus ein neuer Eintrag.",
-                            values)
-                : cText::Tr("Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon "
-                            "gibt:\n{1}\nSollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.",
-                            values),
-            .Title = cText::Tr("Umsätze buchen"),
-            .Buttons = eButtons::YesNoCancel};
+    cDecision decision{
+        .Text = isOne ? cText::Tr("Zu diesem Umsatz gibt es schon einen Eintrag:\n{1}\nWas soll geschehen?", values)
+                      : cText::Tr("Zu {0} der Umsätze gibt es schon Einträge:\n{1}\nWas soll geschehen?", values),
+        .Title = cText::Tr("Umsätze buchen"),
+        .Options = {cText::Tr("Den &vorhandenen zuordnen"), cText::Tr("&Neu anlegen"), cText::Tr("&Offen lassen")}};
+    if (!isOne) {
+        decision.Options.append(cText::Tr("&Einzeln entscheiden"));
+    }
+    return decision;
 }
 
 cQuestion modReviewQuestion::Twins(const QStringList& lines)
@@ -74,7 +94,10 @@ cQuestion modReviewQuestion::Twins(const QStringList& lines)
 
 cQuestion modReviewQuestion::Accept(const cNumbers& numbers)
 {
-    return {.Text = QString(Certain(numbers.Certain) + u'\n' + Left(numbers)).trimmed(),
+    const bool isAny = numbers.InBook + numbers.Sure > 0;
+    QStringList lines{Certain(numbers), Left(numbers), isAny ? cText::Tr("Soll das so geschehen?") : QString()};
+    lines.removeAll(QString());
+    return {.Text = lines.join(u'\n'),
             .Title = cText::Tr("Vorschläge annehmen"),
-            .Tone = numbers.Certain == 0 ? eTone::Information : eTone::Question};
+            .Tone = isAny ? eTone::Question : eTone::Information};
 }

@@ -8,23 +8,27 @@
 // What the user is asked before bank transactions are booked.
 namespace modReviewQuestion {
 
-// Rows that are wanted, by how far they can be booked without looking.
+// Rows that are wanted, by how they can be brought into the book.
 struct cNumbers
 {
-    int Certain = 0;
+    int InBook = 0;  // their entries are there already
+    int Sure = 0;    // become new entries
     int Unknown = 0; // nothing but an ambiguous keyword or the default speaks for the proposal
-    int InBook = 0;  // an entry of the book may be the same
+    int Likely = 0;  // an entry of the book may be the same
     int Twice = 0;   // another row may be the same
 };
 
-// About rows that probably belong to entries of the book, one line each. Yes, where Enter goes: only the others are
-// booked. No: these too.
-[[nodiscard]] cQuestion Matches(const QStringList& lines);
+// What to do with rows whose entries are in the book, in the order of the buttons.
+enum class eMatchAnswer { Assign, New, Leave, OneByOne };
 
-// The same about rows that may be there twice.
+// About rows that belong to entries of the book, certainly or probably, one line each. Enter assigns them, which leaves
+// the book right; a single row is not offered to be decided by itself.
+[[nodiscard]] cDecision Matches(const QStringList& lines);
+
+// About rows that may be there twice. Yes, where Enter goes: only the others are booked. No: these too.
 [[nodiscard]] cQuestion Twins(const QStringList& lines);
 
-// Whether all certain proposals are to be booked; without any it is what the user is told instead.
+// Whether what is there or sure is to be assigned and booked; without any it is what the user is told instead.
 [[nodiscard]] cQuestion Accept(const cNumbers& numbers);
 
 } // namespace modReviewQuestion

@@ -1,4 +1,4 @@
-#include "views/statement/modStagedTwins.h"
+#include "import/plan/modStagedTwins.h"
 
 #include "base/modFold.h"
 #include "base/modSimilar.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cImportEntry.h"
+#include "model/cRowPlan.h"
 
 #include <QHash>
 #include <QString>
@@ -10,13 +11,8 @@
 // Bank transactions that may be there twice because two files of the same account say the same in different words.
 namespace modStagedTwins {
 
-enum class eSame { Counterparty, Name }; // beside day and amount: the counterparty's account, or a similar name
-
-struct cTwin
-{
-    int RowId = 0;
-    eSame Same = eSame::Counterparty;
-};
+using eSame = cRowTwin::eSame;
+using cTwin = cRowTwin;
 
 struct cLookups
 {

@@ -1,0 +1,269 @@
+#include "import/plan/cImportPlan.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "import/match/cMatcher.h"
+#include "import/match/modMatchScore.h"
+#include "import/plan/modStagedTwins.h"
+#include "import/propose/cProposer.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
+#include "model/modRecurrence.h"
+#include "model/modWord.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// How far a row can compete for an entry with one that was asked for: both lie within reach of it.
+constexpr qint64 neighbourDays = qint64{2} * modMatchScore::FarthestDays;
+constexpr qsizetype mostNeighbours = 150; // on each side; a pile of many thousands is looked at in slices
+
+using cOccurrence = std::pair<int, QDate>; // an entry, and of a series the day of the occurrence
+
+cOccurrence OccurrenceOf(const cMatchCandidate& candidate)
+{
+    return {candidate.Entry.ID, candidate.Entry.EntryDate};
+}
+
+bool IsTransfer(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Umbuchung;
+}
+
+} // namespace
+
+struct cImportPlan::cKnowledge
+{
+    explicit cKnowledge(const cParts& parts) : Parts(parts), Proposer(parts.Data, parts.Hive, parts.Accounts)
+    {
+        Open = parts.Hive.GetImportHive().GetImportEntriesByAssignedID(-1);
+        std::sort(Open.begin(), Open.end(), [](const cImportEntry& a, const cImportEntry& b) {
+            return std::pair(a.ImportDate, a.ID) < std::pair(b.ImportDate, b.ID);
+        });
+        Places.reserve(Open.size());
+        for (qsizetype place = 0; place < Open.size(); ++place) {
+            Places.insert(Open.at(place).ID, place);
+        }
+    }
+
+    cParts Parts;
+    cProposer Proposer;
+    cImportEntryList Open; // by day
+    QHash<int, qsizetype> Places;
+    QHash<int, cProposal> Proposals;
+    std::optional<QHash<int, modStagedTwins::cTwin>> Twins;
+};
+
+// What is found on the way, neighbours among it.
+struct cImportPlan::cPass
+{
+    QHash<int, cRowPlan> Plans;
+    QSet<cOccurrence> Taken;
+};
+
+cImportPlan::cImportPlan(const cParts& parts) : m_knowledge(std::make_unique<cKnowledge>(parts))
+{
+}
+
+cImportPlan::~cImportPlan() = default;
+
+qsizetype cImportPlan::OpenCount()
+{
+    return m_knowledge->Open.size();
+}
+
+QList<int> cImportPlan::Around(int rowId, qsizetype count)
+{
+    const qsizetype place = m_knowledge->Places.value(rowId, -1);
+    QList<int> ids;
+    const qsizetype first = std::max<qsizetype>(0, place - count / 4);
+    for (qsizetype i = first; place >= 0 && i < m_knowledge->Open.size() && ids.size() < count; ++i) {
+        ids.append(m_knowledge->Open.at(i).ID);
+    }
+    return ids;
+}
+
+QList<int> cImportPlan::WithNeighbours(const QList<int>& rowIds)
+{
+    const cImportEntryList& open = m_knowledge->Open;
+    std::vector<bool> isWanted(static_cast<size_t>(open.size()));
+    for (const int id : rowIds) {
+        const qsizetype place = m_knowledge->Places.value(id, -1);
+        if (place < 0 || isWanted[static_cast<size_t>(place)]) {
+            continue;
+        }
+        const QDate day = open.at(place).ImportDate;
+        isWanted[static_cast<size_t>(place)] = true;
+        for (const int step : {-1, 1}) {
+            qsizetype other = place + step;
+            for (qsizetype n = 0; n < mostNeighbours && other >= 0 && other < open.size(); ++n, other += step) {
+                if (std::abs(open.at(other).ImportDate.daysTo(day)) > neighbourDays) {
+                    break;
+                }
+                isWanted[static_cast<size_t>(other)] = true;
+            }
+        }
+    }
+    QList<int> ids;
+    for (qsizetype place = 0; place < open.size(); ++place) {
+        if (isWanted[static_cast<size_t>(place)]) {
+            ids.append(open.at(place).ID);
+        }
+    }
+    return ids;
+}
+
+const cProposal& cImportPlan::ProposalFor(const cImportEntry& row)
+{
+    auto known = m_knowledge->Proposals.find(row.ID);
+    if (known == m_knowledge->Proposals.end()) {
+        known = m_knowledge->Proposals.insert(row.ID, m_knowledge->Proposer.ProposeBest(row));
+    }
+    return *known;
+}
+
+QHash<int, cRowPlan> cImportPlan::Make(const QList<int>& rowIds, cProgress& progress)
+{
+    const QList<int> ids = WithNeighbours(rowIds);
+    cMatcher matcher(m_knowledge->Parts.Data, m_knowledge->Parts.Hive, m_knowledge->Parts.Accounts,
+                     [this](const cImportEntry& row) { return ProposalFor(row); });
+    const cMatchResult matches = matcher.MatchAll(ids, progress, eMatchRun::Try);
+    progress.hideProgressBar();
+    if (matches.IsCancelled) {
+        return {};
+    }
+    cPass pass;
+    for (const int id : ids) {
+        const cImportEntry& row = m_knowledge->Open.at(m_knowledge->Places.value(id));
+        cRowPlan& plan = pass.Plans[id];
+        plan.RowId = id;
+        plan.Proposal = ProposalFor(row);
+        plan.Group = plan.Proposal.IsSure ? eRowGroup::Sure : eRowGroup::Look;
+        plan.Reason = plan.Proposal.Reason;
+    }
+    TakeMatches(matches, pass);
+    QHash<int, cRowPlan> plans;
+    for (const int id : ids) {
+        const cImportEntry& row = m_knowledge->Open.at(m_knowledge->Places.value(id));
+        cRowPlan& plan = pass.Plans[id];
+        TakeSeries(row, plan, pass);
+        TakeTransfer(row, plan, pass);
+    }
+    for (const int id : ids) {
+        TakeTwin(pass.Plans[id], pass);
+    }
+    for (const int id : rowIds) {
+        if (const auto plan = pass.Plans.constFind(id); plan != pass.Plans.constEnd()) {
+            plans.insert(id, *plan);
+        }
+    }
+    return plans;
+}
+
+// What is likely is certain when rows of the same counterparty were assigned to that very series before: its amount may
+// differ, because rents are raised.
+void cImportPlan::TakeMatches(const cMatchResult& matches, cPass& pass)
+{
+    const auto take = [&](const cMatch& match, bool isCertain) {
+        cRowPlan& plan = pass.Plans[match.RowId];
+        plan.Match = match.Candidate;
+        plan.Reason = match.Candidate.Reason;
+        const bool isKnown = plan.Proposal.ExistingEntry == match.Candidate.Entry.ID;
+        plan.Group = isCertain || isKnown ? eRowGroup::InBook : eRowGroup::Look;
+        pass.Taken.insert(OccurrenceOf(match.Candidate));
+    };
+    for (const cMatch& match : matches.Assigned) {
+        take(match, true);
+    }
+    for (const cMatch& match : matches.Proposed) {
+        take(match, false);
+    }
+}
+
+// The series that rows of this counterparty were booked to before. A second payment for the same occurrence is
+// something else, and a second series beside the first one is hardly ever meant.
+void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass)
+{
+    if (plan.Match || plan.Proposal.ExistingEntry == 0 || IsTransfer(plan.Proposal.Entry)) {
+        return;
+    }
+    cMatcher matcher(m_knowledge->Parts.Data, m_knowledge->Parts.Hive, m_knowledge->Parts.Accounts);
+    std::optional<cMatchCandidate> candidate = matcher.ByHand(row.ID, plan.Proposal.ExistingEntry);
+    if (candidate && !pass.Taken.contains(OccurrenceOf(*candidate))) {
+        pass.Taken.insert(OccurrenceOf(*candidate));
+        candidate->Reason = plan.Proposal.Reason;
+        candidate->Score = 1.0;
+        plan.Match = std::move(candidate);
+        plan.Group = eRowGroup::InBook;
+        return;
+    }
+    plan.Proposal.ExistingEntry = 0;
+    plan.Proposal.Entry.EntryInterval = modWord::Einmalig;
+    plan.Group = eRowGroup::Look;
+    plan.Reason = cText::Tr("die Serie hat für diesen Zeitraum schon einen Umsatz");
+}
+
+// Both rows of a transfer are one entry: the one that waits for its second row, the one that the other row was found
+// for, or a new one.
+void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass)
+{
+    if (plan.Match || !IsTransfer(plan.Proposal.Entry)) {
+        return;
+    }
+    plan.Reason = plan.Proposal.Reason;
+    plan.Group =
+        plan.Proposal.PartnerRow != 0 || plan.Proposal.ExistingEntry != 0 ? eRowGroup::InBook : eRowGroup::Sure;
+    const auto partner = pass.Plans.constFind(plan.Proposal.PartnerRow);
+    if (partner == pass.Plans.constEnd() || !partner->Match) {
+        return;
+    }
+    if (IsTransfer(partner->Match->Entry)) {
+        plan.Proposal.ExistingEntry = partner->Match->Entry.ID;
+        plan.Proposal.PartnerRow = 0;
+        plan.Group = partner->Group;
+        return;
+    }
+    // The other side stands in the book as income or expense, so a transfer would move the money a second time.
+    cEntryItem& entry = plan.Proposal.Entry;
+    entry.EntryType = row.ImportValue > 0 ? modWord::Einnahme : modWord::Ausgabe;
+    entry.EntryAccount = m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount);
+    entry.EntryAccountMove.clear();
+    entry.EntryDate = row.ImportDate;
+    plan.Proposal.PartnerRow = 0;
+    plan.Group = eRowGroup::Look;
+    plan.Reason = cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch");
+}
+
+// Of two rows that may be the same the one whose entry is there goes first, else the one that came first; it is none
+// too many, unless the other one is booked.
+void cImportPlan::TakeTwin(cRowPlan& plan, const cPass& pass)
+{
+    cKnowledge& known = *m_knowledge;
+    if (!known.Twins) {
+        known.Twins = modStagedTwins::Find(
+            known.Parts.Hive.GetImportHive().getImportEntryList(),
+            {.AccountOf = [&](const QString& number) { return known.Parts.Accounts.AccountOf(number); },
+             .FileOf = known.Parts.FileOf});
+    }
+    const auto twin = known.Twins->constFind(plan.RowId);
+    if (twin == known.Twins->constEnd()) {
+        return;
+    }
+    plan.Twin = *twin;
+    const bool isOtherOpen = known.Places.contains(twin->RowId);
+    const bool hasOtherMatch = pass.Plans.value(twin->RowId).Match.has_value();
+    plan.IsSecond = !isOtherOpen
+        || (plan.Match.has_value() != hasOtherMatch ? hasOtherMatch : !plan.Match && twin->RowId < plan.RowId);
+    if (plan.IsSecond) {
+        plan.Group = eRowGroup::Look;
+    }
+}

@@ -1,0 +1,186 @@
+#include "views/statement/cPlanFlow.h"
+
+#include "base/cProgress.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "core/cBookTools.h"
+#include "import/propose/cBooking.h"
+#include "import/stage/cImportHiveCache.h"
+#include "store/cUndoStep.h"
+#include "views/statement/cMatchFlow.h"
+#include "views/statement/cRowProposals.h"
+#include "views/statement/modImportText.h"
+#include "views/statement/modReviewQuestion.h"
+
+#include <algorithm>
+
+namespace {
+
+using modReviewQuestion::eMatchAnswer;
+
+} // namespace
+
+cPlanFlow::cPlanFlow(const cBookTools& tools, const cParts& parts) : m_tools(tools), m_parts(parts)
+{
+}
+
+cPlanFlow::cOutcome cPlanFlow::Stopped()
+{
+    return {.Lines = {cText::Tr("Abgebrochen, es wurde nichts gebucht.")}};
+}
+
+void cPlanFlow::Take(const cRowPlan& plan, eWay way, cWish& wish)
+{
+    if (way == eWay::Leave) {
+        ++wish.Left;
+    } else if (way == eWay::Assign && plan.Match) {
+        wish.Assign.append({plan.RowId, *plan.Match});
+    } else {
+        cProposal proposal = plan.Proposal;
+        if (plan.Match) {
+            proposal.IsAlone = true; // the entry that it fits is not the one that was wanted
+        }
+        wish.New.append(plan.RowId);
+        wish.Proposals.insert(plan.RowId, proposal);
+    }
+}
+
+cPlanFlow::cOutcome cPlanFlow::Book(const QList<int>& rowIds, cProgress& progress)
+{
+    const std::optional<cPlans> plans = m_parts.Proposals.Plans(rowIds, progress);
+    if (!plans) {
+        return Stopped();
+    }
+    QList<cRowPlan> wanted;
+    for (const int id : rowIds) {
+        if (const auto plan = plans->constFind(id); plan != plans->constEnd()) {
+            wanted.append(*plan);
+        }
+    }
+    cWish wish;
+    if (wanted.isEmpty() || !AskAboutTwins(wanted, wish)) {
+        return {};
+    }
+    QList<cRowPlan> matched;
+    for (const cRowPlan& plan : wanted) {
+        if (plan.Match) {
+            matched.append(plan);
+        } else {
+            Take(plan, eWay::New, wish);
+        }
+    }
+    return AskAboutMatches(matched, wish) ? Carry(wish, progress) : cOutcome{};
+}
+
+// Rows that may be there twice, where the other one goes first, are taken out of `plans` unless the user wants them.
+// False when the user gives up.
+bool cPlanFlow::AskAboutTwins(QList<cRowPlan>& plans, cWish& wish)
+{
+    const cImportHive& hive = m_parts.Matching.Parts().Hive.GetImportHive();
+    QStringList lines;
+    for (const cRowPlan& plan : plans) {
+        if (plan.IsSecond) {
+            const cImportEntry row = hive.GetImportEntryByID(plan.RowId).value_or(cImportEntry());
+            lines.append(cText::Tr(
+                "{0} ({1})", {modImportText::Row(row, m_tools.Format), modImportText::TwinReason(plan.Twin->Same)}));
+        }
+    }
+    if (lines.isEmpty()) {
+        return true;
+    }
+    const eAnswer answer = m_tools.User.Ask(modReviewQuestion::Twins(lines));
+    if (answer == eAnswer::Yes) {
+        wish.Left += static_cast<int>(plans.removeIf([](const cRowPlan& plan) { return plan.IsSecond; }));
+    }
+    return answer != eAnswer::Cancel;
+}
+
+QStringList cPlanFlow::MatchLines(const QList<cRowPlan>& matched) const
+{
+    const cImportHive& hive = m_parts.Matching.Parts().Hive.GetImportHive();
+    QStringList lines;
+    for (const cRowPlan& plan : matched) {
+        const cImportEntry row = hive.GetImportEntryByID(plan.RowId).value_or(cImportEntry());
+        lines.append(
+            cText::Tr("{0} → {1}", {modImportText::Row(row, m_tools.Format), modImportText::Candidate(*plan.Match)}));
+    }
+    return lines;
+}
+
+bool cPlanFlow::AskAboutMatches(const QList<cRowPlan>& matched, cWish& wish)
+{
+    if (matched.isEmpty()) {
+        return true;
+    }
+    const int answer = m_tools.User.Decide(modReviewQuestion::Matches(MatchLines(matched)));
+    if (answer == static_cast<int>(eMatchAnswer::OneByOne)) {
+        return AskOneByOne(matched, wish);
+    }
+    for (const cRowPlan& plan : matched) {
+        Take(plan, answer < 0 ? eWay::Leave : static_cast<eWay>(answer), wish);
+    }
+    return answer >= 0; // else the user gives up
+}
+
+bool cPlanFlow::AskOneByOne(const QList<cRowPlan>& matched, cWish& wish)
+{
+    return std::all_of(matched.begin(), matched.end(), [&](const cRowPlan& plan) {
+        const int answer = m_tools.User.Decide(modReviewQuestion::Matches(MatchLines({plan})));
+        Take(plan, answer < 0 ? eWay::Leave : static_cast<eWay>(answer), wish);
+        return answer >= 0;
+    });
+}
+
+cPlanFlow::cOutcome cPlanFlow::Accept(const QList<int>& rowIds, cProgress& progress)
+{
+    const std::optional<cPlans> plans = m_parts.Proposals.Plans(rowIds, progress);
+    if (!plans) {
+        return Stopped();
+    }
+    cWish wish;
+    modReviewQuestion::cNumbers numbers;
+    for (const int id : rowIds) {
+        const auto plan = plans->constFind(id);
+        if (plan == plans->constEnd()) {
+            continue;
+        }
+        if (plan->Group != eRowGroup::Look) {
+            Take(*plan, eWay::Assign, wish);
+            const bool isThere = plan->Match || plan->Proposal.ExistingEntry != 0;
+            ++(isThere ? numbers.InBook : numbers.Sure); // a transfer between own accounts may still be a new entry
+            continue;
+        }
+        ++(plan->IsSecond ? numbers.Twice : plan->Match ? numbers.Likely : numbers.Unknown);
+    }
+    const cQuestion question = modReviewQuestion::Accept(numbers);
+    if (wish.Assign.isEmpty() && wish.New.isEmpty()) {
+        m_tools.User.Show(question.Tone, question.Text, question.Title);
+        return {};
+    }
+    wish.Left = numbers.Unknown + numbers.Likely + numbers.Twice;
+    return m_tools.User.Ask(question) == eAnswer::Yes ? Carry(wish, progress) : cOutcome{};
+}
+
+cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
+{
+    const auto count = static_cast<int>(wish.Assign.size() + wish.New.size());
+    if (count == 0) {
+        return {.Left = wish.Left, .Lines = {cText::Tr("Es wurde nichts gebucht.")}};
+    }
+    cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(count)}));
+    const std::optional<int> corrected = m_parts.Matching.AssignAll(wish.Assign);
+    cBookingResult result =
+        corrected ? m_parts.Booking.Book(wish.New, wish.Proposals, progress) : cBookingResult::Nothing(count);
+    progress.hideProgressBar();
+    if (!step.DoneIf(result.Failed == 0)) {
+        return {.IsRefused = true, .Left = wish.Left, .Lines = {modImportText::Booked(cBookingResult::Nothing(count))}};
+    }
+    result.Rows += static_cast<int>(wish.Assign.size());
+    result.Joined += static_cast<int>(wish.Assign.size());
+    QStringList lines{modImportText::Booked(result)};
+    for (const QString& number : result.UnknownAccounts) {
+        lines.append(modImportText::NoAccount(number));
+    }
+    lines += cMatchFlow::CorrectedLines(*corrected) + m_parts.Matching.AssignedLines(wish.Assign);
+    return {.IsDone = true, .Left = wish.Left, .Lines = lines, .UnknownAccounts = result.UnknownAccounts};
+}

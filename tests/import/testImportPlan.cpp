@@ -1,0 +1,182 @@
+#include "cImportBook.h"
+#include "import/plan/cImportPlan.h"
+#include "import/stage/cStaging.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate day(2026, 1, 10);
+
+struct cBank : cImportBook
+{
+    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
+
+    int Stage(QDate date, qint64 cents, const QString& name, const QString& account = {}, const QString& own = u"111"_s)
+    {
+        cImportEntry row;
+        row.ImportAccount = own;
+        row.ImportDate = date;
+        row.ImportValue = cents;
+        row.ImportBeneficiary = name;
+        row.ImportBeneficiaryAccount = account;
+        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+    }
+
+    int Enter(QDate date, qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
+    {
+        return Add([&](cEntryItem& entry) {
+                   entry.EntryDate = date;
+                   entry.EntryValue = cents;
+                   entry.EntryDescription = text;
+                   entry.EntryInterval = interval;
+               })
+            .ID;
+    }
+
+    QHash<int, cRowPlan> Make(const QList<int>& rows)
+    {
+        cNoProgress progress;
+        return cImportPlan({Data, Hive, Accounts, [](int id) { return id; }}).Make(rows, progress);
+    }
+
+    cRowPlan PlanOf(int row) { return Make({row}).value(row); }
+
+    cBooking Booking{Data, Hive, Accounts};
+    bool IsReady = false;
+};
+
+int MatchOf(const cRowPlan& plan)
+{
+    return plan.Match ? plan.Match->Entry.ID : 0;
+}
+
+} // namespace
+
+class testImportPlan final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // What is in the book goes before what the program could make of the row.
+    void FindsWhatIsThere()
+    {
+        cBank bank;
+        QVERIFY(bank.IsReady);
+        const int food = bank.Enter(day, 2310, u"REWE"_s);
+        const int gift = bank.Enter(day, 5000, u"xyz"_s);
+        const int certain = bank.Stage(day.addDays(2), -2310, u"REWE"_s);
+        const int likely = bank.Stage(day, -5000, u"Jana"_s);
+        const int sure = bank.Stage(day, -999, u"REWE"_s);
+        const int unknown = bank.Stage(day, -777, u"Quirrlix"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({certain, likely, sure, unknown});
+        QCOMPARE(plans.value(certain).Group, eRowGroup::InBook);
+        QCOMPARE(MatchOf(plans.value(certain)), food);
+        QCOMPARE(plans.value(likely).Group, eRowGroup::Look);
+        QCOMPARE(MatchOf(plans.value(likely)), gift);
+        QCOMPARE(plans.value(sure).Group, eRowGroup::Sure);
+        QCOMPARE(plans.value(unknown).Group, eRowGroup::Look);
+        QCOMPARE(MatchOf(plans.value(unknown)), 0);
+    }
+
+    // An entry goes to the row that it fits best, also when only the other one is asked for.
+    void LeavesTheEntryToItsRow()
+    {
+        cBank bank;
+        const int food = bank.Enter(day, 2310, u"REWE Talheim"_s);
+        const int later = bank.Stage(day.addDays(9), -2310, u"REWE Talheim"_s);
+        const int right = bank.Stage(day, -2310, u"REWE Talheim"_s);
+        QCOMPARE(MatchOf(bank.PlanOf(later)), 0);
+        QCOMPARE(MatchOf(bank.PlanOf(right)), food);
+    }
+
+    // The bill of the year after is twice as high: what the counterparty was booked to before says more than the
+    // amount.
+    void KnowsTheSeriesOfACounterparty()
+    {
+        cBank bank;
+        const int power = bank.Enter(day, 5000, u"Strom"_s, u"Monatlich"_s);
+        QVERIFY(bank.Booking.Assign(bank.Stage(day, -5000, u"Licht GmbH"_s, u"DE05"_s), power));
+        const int dear = bank.Stage(day.addMonths(1), -9900, u"Licht GmbH"_s, u"DE05"_s);
+        const int second = bank.Stage(day.addMonths(1).addDays(1), -9900, u"Licht GmbH"_s, u"DE05"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({dear, second});
+        QCOMPARE(plans.value(dear).Group, eRowGroup::InBook);
+        QCOMPARE(MatchOf(plans.value(dear)), power);
+        QCOMPARE(plans.value(dear).Match->Correction.value_or(cEntryItemFixMod()).EntryValue, 9900);
+        QCOMPARE(plans.value(second).Group, eRowGroup::Look); // the month is paid
+        QCOMPARE(MatchOf(plans.value(second)), 0);
+        QCOMPARE(plans.value(second).Proposal.Entry.EntryInterval, modWord::Einmalig);
+    }
+
+    void Transfers_data()
+    {
+        QTest::addColumn<QString>("entered"); // as what one side stands in the book
+        QTest::addColumn<eRowGroup>("group");
+        QTest::addColumn<QString>("type"); // of what the other side becomes
+        QTest::newRow("nothing entered") << QString() << eRowGroup::InBook << modWord::Umbuchung;
+        QTest::newRow("the transfer") << modWord::Umbuchung << eRowGroup::InBook << modWord::Umbuchung;
+        QTest::newRow("an expense") << modWord::Ausgabe << eRowGroup::Look << modWord::Einnahme;
+    }
+
+    void Transfers()
+    {
+        QFETCH(const QString, entered);
+        cBank bank;
+        int entry = 0;
+        if (!entered.isEmpty()) {
+            entry = bank.Add([&](cEntryItem& each) {
+                            each.EntryDate = day;
+                            each.EntryValue = 20000;
+                            each.EntryType = entered;
+                            each.EntryDescription = u"Ich"_s;
+                            each.EntryAccountMove = entered == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+                        })
+                        .ID;
+        }
+        const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
+        const int in = bank.Stage(day.addDays(2), 20000, u"Ich"_s, u"111"_s, u"222"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({in, out});
+        QCOMPARE(MatchOf(plans.value(out)), entry);
+        QTEST(plans.value(in).Group, "group");
+        QTEST(plans.value(in).Proposal.Entry.EntryType, "type");
+        QCOMPARE(plans.value(in).Proposal.PartnerRow, entry == 0 ? out : plans.value(in).Proposal.PartnerRow);
+        if (entry == 0) {
+            QCOMPARE(plans.value(in).Proposal.Entry.EntryDate, day); // the money leaves first
+        }
+    }
+
+    // The row of the account that gets the money was there first: the transfer moves to the day on which it left.
+    void ATransferHasTheDayOfTheDebit()
+    {
+        cBank bank;
+        const int in = bank.Stage(day.addDays(2), 20000, u"Ich"_s, u"111"_s, u"222"_s);
+        cNoProgress progress;
+        QCOMPARE(bank.Booking.Book({in}, bank.Booking.Propose({in}), progress).Entries, 1);
+        const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
+        QCOMPARE(bank.Booking.Book({out}, bank.Booking.Propose({out}), progress).Joined, 1);
+        QCOMPARE(bank.Data.GetEntries({}).size(), 1);
+        QCOMPARE(bank.Data.GetEntries({}).constFirst().EntryDate, day);
+    }
+
+    // Of two rows that may be the same the one that has an entry goes first, whichever came first.
+    void TwinsGoOneAfterTheOther()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -2310, u"Quirrlix"_s, u"DE05"_s);
+        const int second = bank.Stage(day, -2310, u"Quirrlix GmbH"_s, u"DE05"_s);
+        QVERIFY(!bank.Make({first, second}).value(first).IsSecond);
+        QVERIFY(bank.PlanOf(second).IsSecond);
+        bank.Enter(day, 2310, u"Quirrlix GmbH"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({first, second});
+        const bool isFirstThere = MatchOf(plans.value(first)) != 0;
+        QVERIFY(isFirstThere != (MatchOf(plans.value(second)) != 0));
+        QCOMPARE(plans.value(isFirstThere ? second : first).IsSecond, true);
+        QCOMPARE(plans.value(isFirstThere ? second : first).Group, eRowGroup::Look);
+        QCOMPARE(plans.value(isFirstThere ? first : second).IsSecond, false);
+    }
+};
+
+QTEST_GUILESS_MAIN(testImportPlan)
+#include "testImportPlan.moc"
