@@ -171,9 +171,9 @@ void TakeOwnRule(cProposal& proposal, const cOwnRule& rule)
     entry.EntryDescription = rule.Description.isEmpty() ? entry.EntryDescription : rule.Description;
 }
 
-void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfer)
+void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfer, const cImportEntry& row)
 {
-    const bool isOutgoing = proposal.Entry.EntryType == modWord::Ausgabe;
+    const bool isOutgoing = row.ImportValue < 0; // the kind of entry may be a learned one
     proposal.Entry.EntryType = modWord::Umbuchung;
     proposal.Entry.EntryAccount = isOutgoing ? transfer.Own : transfer.Other;
     proposal.Entry.EntryAccountMove = isOutgoing ? transfer.Other : transfer.Own;
@@ -186,8 +186,8 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
                                  : cText::Tr("eigenes Konto: von {0}", {transfer.Other});
 }
 
-// One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to be
-// looked at once more.
+// One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to
+// be looked at once more.
 void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const std::function<cHint()>& knownHint)
 {
     if (proposal.IsSure || choice.HasOthers || proposal.Entry.EntryType == modWord::Umbuchung) {
@@ -248,7 +248,7 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     TakeDefault(proposal, restriction);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);
     if (transfer) {
-        TakeTransfer(proposal, *transfer);
+        TakeTransfer(proposal, *transfer, row);
     }
     // What the user has said explicitly goes before all that the program has learned or knows by itself. That keeps its
     // order among itself: learned, then keywords, then the list, then the default.
