@@ -72,9 +72,9 @@ void cMatchIndex::Add(const cEntryItem& occurrence, qint64 cents)
 void cMatchIndex::NoteDays(int id, const cEntryItem& occurrence)
 {
     std::vector<cPlace>& places = m_byEntry[id];
-    places.push_back({occurrence.EntryDate.toJulianDay(), m_items.size()});
+    places.push_back({occurrence.EntryDate.toJulianDay(), occurrence.PlannedDate.isValid(), m_items.size()});
     if (occurrence.PlannedDate.isValid()) {
-        places.push_back({occurrence.PlannedDate.toJulianDay(), m_items.size()});
+        places.push_back({occurrence.PlannedDate.toJulianDay(), false, m_items.size()});
     }
 }
 
@@ -99,9 +99,9 @@ void cMatchIndex::Sort()
     m_places.reserve(m_items.size());
     for (size_t number = 0; number < m_items.size(); ++number) {
         const cEntryItem& entry = m_items[number].Entry;
-        m_places.push_back({entry.EntryDate.toJulianDay(), number});
+        m_places.push_back({entry.EntryDate.toJulianDay(), entry.PlannedDate.isValid(), number});
         if (entry.PlannedDate.isValid()) {
-            m_places.push_back({entry.PlannedDate.toJulianDay(), number});
+            m_places.push_back({entry.PlannedDate.toJulianDay(), false, number});
         }
     }
     std::sort(m_places.begin(), m_places.end());
@@ -134,7 +134,7 @@ std::optional<size_t> cMatchIndex::Nearest(const std::vector<cPlace>& occurrence
     const auto distance = [&](auto place) { return std::abs(place->Day - wanted); };
     auto nearest = next;
     if (next != occurrences.begin() && (next == occurrences.end() || distance(std::prev(next)) <= distance(next))) {
-        nearest = std::prev(next);
+        nearest = std::lower_bound(occurrences.begin(), next, std::prev(next)->Day, IsBefore);
     }
     const cItem& item = m_items[nearest->Number];
     const bool isNear = !item.IsSeries || distance(nearest) <= modOccurrence::Reach(item.Entry.EntryInterval);

@@ -55,6 +55,7 @@ private:
     struct cPlace
     {
         qint64 Day = 0;
+        bool IsMoved = false; // behind the occurrence that is planned for the day
         size_t Number = 0;
 
         auto operator<=>(const cPlace&) const = default;

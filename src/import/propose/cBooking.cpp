@@ -114,6 +114,10 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     }
     if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
+            if (match->Reopens && !m_data.ChangeEntry(match->Series)) {
+                return eOutcome::Failed;
+            }
+            series.Learn(*row, match->Series);
             return Join(*row, proposal, *match, result);
         }
     } else if (IsJoiningTransfer(proposal)) {

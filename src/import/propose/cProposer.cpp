@@ -30,7 +30,8 @@ struct cProposer::cKnowledge
           Series(data, hive),
           Rules(cOwnRules(accounts.Settings()).Load()),
           Matcher(Rules),
-          Cash(CashAccounts(data, accounts))
+          Numbered(NumberedAccounts(accounts)),
+          Cash(modCash::Accounts(data.GetAccounts(), Numbered))
     {
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
@@ -38,14 +39,14 @@ struct cProposer::cKnowledge
         }
     }
 
-    static QStringList CashAccounts(cDataAccess& data, const cAccountMap& accounts)
+    static QStringList NumberedAccounts(const cAccountMap& accounts)
     {
         QStringList numbered;
         const QList<std::pair<QString, QString>> mapping = accounts.Mapping();
         for (const auto& [number, account] : mapping) {
             numbered.append(account);
         }
-        return modCash::Accounts(data.GetAccounts(), numbered);
+        return numbered;
     }
 
     // What the program knows by itself. Of a category that the book does not have it is not sure.
@@ -68,7 +69,8 @@ struct cProposer::cKnowledge
     cSeriesFinder Series;
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
-    QStringList Cash; // accounts for cash
+    QStringList Numbered; // accounts that stand at a bank
+    QStringList Cash;     // accounts for cash
     QSet<QString> Categories;
 };
 
@@ -115,7 +117,8 @@ void TakeHint(cProposal& proposal, const cHint& hint)
     proposal.IsSure = hint.IsSure;
 }
 
-void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImportEntry& row)
+void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImportEntry& row,
+                const QStringList& numbered)
 {
     cEntryItem& entry = proposal.Entry;
     entry.EntryCategory = choice.Category;
@@ -123,8 +126,9 @@ void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImp
     proposal.Reason = LearnedReason(choice, row);
     proposal.IsSure = choice.IsSure;
     const QString own = entry.EntryAccount;
-    const QString other = choice.Account == own ? choice.AccountMove : choice.Account;
-    if (choice.Type != modWord::Umbuchung || own.isEmpty() || other.isEmpty() || other == own) {
+    const QString other = numbered.contains(choice.AccountMove) ? choice.Account : choice.AccountMove;
+    if (choice.Type != modWord::Umbuchung || own.isEmpty() || other.isEmpty() || other == own
+        || numbered.contains(other)) {
         return;
     }
     // It went to an account without a number, the purse or a depot: that is what was learned.
@@ -237,13 +241,18 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
     const std::optional<cLearned::cChoice> choice = m_knowledge->Learned.Find(row);
     if (choice) {
-        TakeLesson(proposal, *choice, row);
+        TakeLesson(proposal, *choice, row, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);
     } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(row)) {
         TakeCash(proposal, m_knowledge->Cash);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
         TakeHint(proposal, knownHint());
+        // A keyword alone makes no series where the other rows of the payee say that it is none.
+        if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
+            && m_knowledge->Series.IsContradicted(row, proposal.Entry.EntryInterval)) {
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+        }
     }
     TakeDefault(proposal, restriction);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);

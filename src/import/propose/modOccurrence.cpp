@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -49,7 +50,9 @@ std::optional<cEntryItem> modOccurrence::Nearest(const cEntryItem& series, QDate
     modRecurrence::Expand(series, Around(series, day, reach, fixMods), fixMods, occurrences);
     const auto nearest =
         std::min_element(occurrences.begin(), occurrences.end(), [&](const auto& left, const auto& right) {
-            return std::abs(Days(left, day)) < std::abs(Days(right, day));
+            // Of two on one day the one that is planned for it, not the one that was put off.
+            return std::pair(std::abs(Days(left, day)), left.PlannedDate.isValid())
+                < std::pair(std::abs(Days(right, day)), right.PlannedDate.isValid());
         });
     const bool isNear = nearest != occurrences.end() && std::abs(Days(*nearest, day)) <= reach;
     return isNear ? std::optional(*nearest) : std::nullopt;

@@ -22,6 +22,12 @@ const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
     return found == fixMods.end() ? nullptr : &*found;
 }
 
+// What the bank said of an occurrence stays true as long as the series has it; nobody would enter it again.
+bool IsKept(const cEntryItem& entry, const cEntryItemFixMod& fixMod)
+{
+    return modSeries::IsFromBank(fixMod.EntryComment) && modSeries::HasPeriod(entry, fixMod);
+}
+
 } // namespace
 
 bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
@@ -31,7 +37,9 @@ bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
         return false;
     }
     if (!from.isValid()) {
-        return modSeries::HasOtherPeriod(*stored, row.Entry);
+        return modSeries::HasOtherPeriod(*stored, row.Entry)
+            && !std::all_of(row.Corrections.begin(), row.Corrections.end(),
+                            [&](const cEntryItemFixMod& fixMod) { return IsKept(row.Entry, fixMod); });
     }
     return !std::all_of(row.Corrections.begin(), row.Corrections.end(),
                         [&](const cEntryItemFixMod& fixMod) { return modSeries::HasPeriod(row.Entry, fixMod); });
@@ -57,7 +65,7 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
         return false;
     }
     for (cEntryWrite* row : losing) {
-        row->Corrections.clear();
+        row->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return !IsKept(row->Entry, fixMod); });
     }
     return true;
 }
