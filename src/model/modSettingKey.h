@@ -43,6 +43,7 @@ inline const cSettingKey BackupFailed{QStringLiteral("BackupFailed"), {Day, Book
 inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
 inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};     // number: account of the book
+inline const cSettingFamily BankCode{QStringLiteral("KTOBLZ:"), {}, {Text, Book}};    // number: of its bank
 inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}}; // number
 inline const cSettingFamily Fetched{QStringLiteral("ABRUF:"), {}, {List, Book}};      // bank code and number
 inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}};       // digest of a table's header

@@ -9,6 +9,7 @@
 #include "import/propose/modOwnRule.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modCutText.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 
@@ -141,16 +142,17 @@ cProposer::~cProposer() = default;
 cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
 {
     cProposal proposal;
-    proposal.Entry = EntryOf(row);
+    const cImportEntry whole = modCutText::WholeWords(row);
+    proposal.Entry = EntryOf(whole);
     proposal.Entry.EntryAccount = m_knowledge->Transfers.AccountOf(row.ImportAccount);
     const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
     if (const std::optional<cLearned::cChoice> choice = m_knowledge->Learned.Find(row)) {
         proposal.Entry.EntryCategory = choice->Category;
         proposal.Entry.EntryInterval = choice->Interval;
-        proposal.Reason = LearnedReason(*choice, row);
+        proposal.Reason = LearnedReason(*choice, whole);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
-        TakeRule(proposal, row, restriction);
+        TakeRule(proposal, whole, restriction);
     }
     TakeDefault(proposal, restriction);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);

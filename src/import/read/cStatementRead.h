@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -53,6 +54,10 @@ struct cStatementRead
     bool IsGuessed = false;          // nothing but the contents told the columns of the table
     QString Layout;                  // name of the table layout (a bank's) that was recognised
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
+
+    bool HasStrayDetails = false; // refused only because of them: eStrayDetails::PassOver reads the rest
+
+    QMap<QString, QString> BankCodes; // of own accounts by their number, as far as the file names them
 
     // Adds what was read of a further part.
     void Append(cStatementRead more);

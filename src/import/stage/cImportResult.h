@@ -35,4 +35,6 @@ struct cImportResult
     QString Layout;              // name of the table layout that was recognised
     QString AccountKey;          // of a table, for cTableMemory
     QString Number;              // of a fetch: its account in the form in which it is staged
+
+    bool HasStrayDetails = false; // refused only because of details before a transaction, see eStrayDetails
 };

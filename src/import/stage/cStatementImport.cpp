@@ -7,12 +7,12 @@
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
-#include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cFetchMemory.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cKnownAccounts.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTableMemory.h"
 #include "import/xml/modCamt.h"
@@ -20,10 +20,8 @@
 #include "store/cUndoStep.h"
 
 #include <QElapsedTimer>
-#include <QHash>
 
 #include <algorithm>
-#include <iterator>
 #include <numeric>
 #include <optional>
 
@@ -43,53 +41,6 @@ cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
 {
     result.Format = modStatementFormat::Name(format);
     return Refuse(std::move(result), modStatementFormat::Refusal(format));
-}
-
-// The form in which an account is staged: statements in one format name it by its number, others by its IBAN.
-class cKnownAccounts
-{
-public:
-    explicit cKnownAccounts(QStringList staged) : m_staged(std::move(staged)) {}
-
-    // The number itself when nothing is staged of the account, and when it could be several.
-    [[nodiscard]] const QString& FormOf(const QString& number)
-    {
-        auto known = m_forms.find(number);
-        if (known == m_forms.end()) {
-            known = m_forms.insert(number, Find(number));
-        }
-        return *known;
-    }
-
-private:
-    [[nodiscard]] QString Find(const QString& number) const
-    {
-        if (m_staged.contains(number)) {
-            return number;
-        }
-        QStringList same;
-        std::copy_if(m_staged.begin(), m_staged.end(), std::back_inserter(same),
-                     [&](const QString& staged) { return modAccountNumber::IsSame(number, {}, staged); });
-        return same.size() == 1 ? same.first() : number;
-    }
-
-    QStringList m_staged;
-    QHash<QString, QString> m_forms;
-};
-
-// Gives every row the form of its account that is staged already.
-void UseKnownAccounts(const QStringList& staged, cStatementRead& read)
-{
-    cKnownAccounts known(staged);
-    for (cImportEntry& entry : read.Entries) {
-        entry.ImportAccount = known.FormOf(entry.ImportAccount);
-    }
-    for (cSkippedRow& row : read.Skipped) {
-        row.Entry.ImportAccount = known.FormOf(row.Entry.ImportAccount);
-    }
-    for (cAccountBalance& balance : read.Balances) {
-        balance.Account = known.FormOf(balance.Account);
-    }
 }
 
 // Counts what becomes of each transaction. A database that refuses twice in a row will refuse the rest as well, and
@@ -165,16 +116,17 @@ qsizetype SizeOf(const cFetchedStatement& fetched)
                            [](qsizetype sum, const QByteArray& document) { return sum + document.size(); });
 }
 
-cStatementRead ReadFetched(const cFetchedStatement& fetched, eMissingPurpose missing)
+cStatementRead ReadFetched(const cFetchedStatement& fetched, const cImportOptions& wanted)
 {
-    cStatementRead all =
-        modMT940::Read(fetched.IsComplete ? fetched.Mt940 : WholeStatements(fetched.Mt940), fetched.Account);
-    if (all.Entries.isEmpty() && !all.Problems.isEmpty()) {
+    cStatementRead all = modMT940::Read(fetched.IsComplete ? fetched.Mt940 : WholeStatements(fetched.Mt940),
+                                        fetched.Account, wanted.StrayDetails);
+    const bool isAsSeen = wanted.StrayDetails == eStrayDetails::PassOver; // the user knows what is told
+    if (all.Entries.isEmpty() && !all.Problems.isEmpty() && !isAsSeen) {
         all.Refusal = cText::Tr("Die Antwort der Bank kann nicht gelesen werden: {0}", {all.Problems.first().Text});
     }
     cReadOptions options;
     options.Account = fetched.Account;
-    options.MissingPurpose = missing;
+    options.MissingPurpose = wanted.MissingPurpose;
     for (const QByteArray& document : fetched.Camt) {
         cStatementRead read = modCamt::Read({fetched.Name, document, {}}, options);
         if (!read.Refusal.isEmpty()) {
@@ -294,6 +246,7 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
     result.Layout = read.Layout;
     result.AccountKey = read.AccountKey;
     result.NeedsAccount = read.NeedsAccount;
+    result.HasStrayDetails = read.HasStrayDetails;
     result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable
         && (read.IsGuessed || read.NeedsAccount || !read.Refusal.isEmpty());
     if (!read.Refusal.isEmpty() || read.NeedsAccount || result.NeedsAssistant) {
@@ -356,7 +309,8 @@ cStatementRead cStatementImport::Read(const cStatementSource& source, eStatement
                                       const cImportOptions& options, cProgress& progress)
 {
     const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
-    cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory};
+    cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory,
+                             options.StrayDetails};
     if (source.Bytes.size() <= quicklyRead) {
         return reader(source, readOptions);
     }
@@ -388,7 +342,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     }
     progress.showProgressBar(modMT940::ProgressMaximum(fetched.Mt940));
     cStatementRead read;
-    const auto work = [&] { read = ReadFetched(fetched, options.MissingPurpose); };
+    const auto work = [&] { read = ReadFetched(fetched, options); };
     if (SizeOf(fetched) <= quicklyRead) {
         work();
     } else {
@@ -397,6 +351,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     progress.addProgressValue(static_cast<int>(fetched.Mt940.count(u":86:")));
     if (!read.Refusal.isEmpty()) {
         result.Problems = read.Problems;
+        result.HasStrayDetails = read.HasStrayDetails;
         return Refuse(std::move(result), read.Refusal);
     }
     AddBalance(fetched, read);
@@ -434,7 +389,9 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
 {
     cStaging& staging = StagingFor(options.Run);
     staging.StartSource();
-    UseKnownAccounts(staging.Accounts(), read);
+    cSettings settings(m_data);
+    cKnownAccounts known(staging.Accounts(), settings);
+    known.UseIn(read);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;
@@ -467,17 +424,21 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     }
     progress.addProgressValue(result.Read - result.Read / progressStep * progressStep);
     ReportFailures(result);
-    KeepBalances(read, options.Run, result);
+    KeepBalances(read, known, options.Run, result);
 }
 
 // Of a file that was taken in part, the balances would only say that something is missing.
-void cStatementImport::KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result)
+void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAccounts& known, eStagingRun run,
+                                    cImportResult& result)
 {
     const bool isComplete = !result.IsCancelled && result.Failed == 0;
-    if (m_balances == nullptr || m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
+    if (m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
         return;
     }
-    if (!m_balances->Add(read.Balances, read.Entries)) {
+    if (!known.KeepBankCodes()) {
+        result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
+    }
+    if (m_balances != nullptr && !m_balances->Add(read.Balances, read.Entries)) {
         result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
     }
 }

@@ -12,6 +12,7 @@
 class cBankBalances;
 class cDataAccess;
 class cImportHiveCache;
+class cKnownAccounts;
 class cFetchMemory;
 class cProgress;
 struct cFetchedStatement;
@@ -29,6 +30,7 @@ struct cImportOptions
     cTableChoice Table = {};                                // what the user chose for a file in rows and columns
     eStagingRun Run = eStagingRun::Write;
     eUncertain Uncertain = eUncertain::Read;
+    eStrayDetails StrayDetails = eStrayDetails::Refuse;
 };
 
 // Statement files into staged rows.
@@ -80,7 +82,7 @@ private:
     [[nodiscard]] int RowCount();
     void NoteFetch(const cStatementRead& read, const cFetchedStatement& fetched, eStagingRun run,
                    cImportResult& result) const;
-    void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
+    void KeepBalances(const cStatementRead& read, const cKnownAccounts& known, eStagingRun run, cImportResult& result);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;

@@ -14,4 +14,6 @@ struct cFileWish
     bool KeepsDuplicates = false;
     bool Remembers = false; // columns and layout, for the next table with the same header
     bool IsTrial = false;   // nothing is written
+
+    bool SkipsStrayDetails = false; // of an MT940 statement, before its first transaction
 };

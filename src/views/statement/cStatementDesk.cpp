@@ -79,6 +79,7 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
         report.Skipped.append({Line(row.Reason), Name(row.Kind), row.Entry});
     }
     report.IsRefused = result.IsRefused;
+    report.HasStrayDetails = result.HasStrayDetails;
     report.Message = result.Message;
     report.Numbers = modImportText::Numbers(result, format);
     report.IsDone = !result.IsRefused && result.Failed == 0;
@@ -280,6 +281,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.DefaultAccount = wish.Account;
     options.Table = modTableOption::Choice(wish);
     options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
+    options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
     cNoProgress progress;
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);

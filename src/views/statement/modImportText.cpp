@@ -8,6 +8,7 @@
 #include "import/stage/cImportResult.h"
 #include "model/cMatch.h"
 #include "model/cProposal.h"
+#include "model/modCutText.h"
 
 #include <QFileInfo>
 
@@ -78,16 +79,17 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
 
 QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
 {
-    QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),
-                      row.ImportBeneficiary.simplified(),
-                      (row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose).simplified()};
+    QStringList parts{
+        modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),
+        modCutText::Name(row.ImportBeneficiary).simplified(),
+        (row.ImportPurpose.isEmpty() ? row.ImportType : modCutText::Purpose(row.ImportPurpose)).simplified()};
     parts.removeAll(QString());
     return parts.join(u"  ·  "_s);
 }
 
 QString modImportText::Details(const cImportEntry& row)
 {
-    QStringList lines{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
+    QStringList lines{modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose), row.ImportType,
                       QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
     lines.removeAll(QString());
     return lines.join(u'\n');
