@@ -116,6 +116,9 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
         if (!report.Message.isEmpty()) {
             modConsole::Error(file + u": "_s + report.Message);
         }
+        if (report.HasStrayDetails) {
+            modConsole::Error(cText::Tr("Mit --skip-stray-details wird die Datei ohne diese Zeilen gelesen."));
+        }
     }
     if (context.Call.Has(u"json"_s)) {
         modConsole::Out(modJson::Array(objects) + u'\n');
@@ -130,6 +133,7 @@ int Run(const cCliContext& context)
     wish.BookAccount = context.Call.Value(u"book-account"_s);
     wish.KeepsDuplicates = context.Call.Has(u"keep-duplicates"_s);
     wish.TakesEqual = context.Call.Has(u"take-equal"_s);
+    wish.SkipsStrayDetails = context.Call.Has(u"skip-stray-details"_s);
     wish.Remembers = context.Call.Has(u"remember"_s);
     wish.IsTrial = context.Call.Has(u"dry-run"_s);
     return reader.IsGood() ? ImportFiles(context, wish) : reader.Report();
@@ -175,6 +179,10 @@ cCliCommand modCliCommands::ImportCommand()
                     {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
                     {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
                     TakeEqual(),
+                    {u"skip-stray-details"_s,
+                     {},
+                     cText::Tr("MT940: Angaben (:86:) vor dem ersten Umsatz eines Auszugs übergehen, statt die Datei "
+                               "abzulehnen")},
                     {u"remember"_s,
                      {},
                      cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},

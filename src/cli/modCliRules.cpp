@@ -6,6 +6,7 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
+#include "model/modCutText.h"
 #include "model/modWord.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
@@ -192,8 +193,9 @@ int Test(const cCliContext& context)
         objects.append(modCliRecord::Row(row)
                            .Raw(u"Rule"_s, place < 0 ? u"null"_s : ToJson(rules.at(place), place).ToString())
                            .ToString());
-        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue), row.ImportBeneficiary,
-                   row.ImportPurpose, place < 0 ? QString() : QString::number(place + 1),
+        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue),
+                   modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose),
+                   place < 0 ? QString() : QString::number(place + 1),
                    place < 0 ? QString() : modRuleText::Result(rules.at(place))});
     }
     modConsole::Out(context.Call.Has(u"json"_s) ? modJson::Array(objects) + u'\n' : table.ToString());

@@ -5,6 +5,7 @@
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliRecord.h"
+#include "model/modCutText.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,7 +40,7 @@ int Run(const cCliContext& context)
                      {cText::Tr("Stand")}});
     for (const cImportEntry& row : rows) {
         table.Add({QString::number(row.ID), modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue),
-                   row.ImportBeneficiary, row.ImportPurpose, State(row)});
+                   modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose), State(row)});
     }
     modConsole::Out(table.ToString());
     return modExit::Done;

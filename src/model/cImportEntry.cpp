@@ -25,21 +25,48 @@ double AmountScore(qint64 a, qint64 b)
 
 using cLetters = QVarLengthArray<char16_t, 256>;
 
-cLetters WithoutBlanks(const QString& text)
+// The first `most` of them.
+cLetters WithoutBlanks(const QString& text, qsizetype most)
 {
-    cLetters rest(text.size());
+    cLetters rest(std::min(text.size(), most) + 1);
     auto end = rest.begin();
-    for (const QChar c : text) {
-        *end = c.unicode();
-        end += c.isSpace() ? 0 : 1;
+    for (auto c = text.begin(); c != text.end() && end - rest.begin() < most; ++c) {
+        *end = c->unicode();
+        end += c->isSpace() ? 0 : 1;
     }
     rest.resize(end - rest.begin());
     return rest;
 }
 
-size_t HashButBlanks(const QString& text)
+// What MT940 has room for: two pieces of 27 characters for a name; for a purpose ten, of which references may take six
+// and a keyword the start of the next.
+struct cRoom
 {
-    const cLetters rest = WithoutBlanks(text);
+    qsizetype Characters; // that a cut text has at least
+    qsizetype Letters;    // of these, blanks not counted; what lies behind does not go into the hash
+};
+constexpr cRoom nameRoom{54, 30};
+constexpr cRoom purposeRoom{100, 60};
+
+bool IsEqualButBlanks(const QString& a, const QString& b, const cRoom& room)
+{
+    if (a == b) {
+        return true;
+    }
+    const cLetters first = WithoutBlanks(a, a.size());
+    const cLetters second = WithoutBlanks(b, b.size());
+    if (first.size() == second.size()) {
+        return first == second;
+    }
+    const bool isFirstShorter = first.size() < second.size();
+    const cLetters& shorter = isFirstShorter ? first : second;
+    return (isFirstShorter ? a : b).size() >= room.Characters && shorter.size() >= room.Letters
+        && std::equal(shorter.begin(), shorter.end(), (isFirstShorter ? second : first).begin());
+}
+
+size_t HashButBlanks(const QString& text, const cRoom& room)
+{
+    const cLetters rest = WithoutBlanks(text, room.Letters);
     return qHashBits(rest.constData(), static_cast<size_t>(rest.size()) * sizeof(char16_t));
 }
 
@@ -68,14 +95,15 @@ bool cImportEntry::isEqualButBlanks(const cImportEntry& other) const
     return ImportDate == other.ImportDate && ImportValue == other.ImportValue && ImportAccount == other.ImportAccount
         && ImportBeneficiaryAccount == other.ImportBeneficiaryAccount
         && ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ
-        && WithoutBlanks(ImportBeneficiary) == WithoutBlanks(other.ImportBeneficiary)
-        && WithoutBlanks(ImportPurpose) == WithoutBlanks(other.ImportPurpose);
+        && IsEqualButBlanks(ImportBeneficiary, other.ImportBeneficiary, nameRoom)
+        && IsEqualButBlanks(ImportPurpose, other.ImportPurpose, purposeRoom);
 }
 
 size_t cImportEntry::EqualHash() const
 {
     return qHashMulti(0, ImportDate.toJulianDay(), ImportAccount, ImportBeneficiaryAccount, ImportBeneficiaryBLZ,
-                      ImportValue, HashButBlanks(ImportBeneficiary), HashButBlanks(ImportPurpose));
+                      ImportValue, HashButBlanks(ImportBeneficiary, nameRoom),
+                      HashButBlanks(ImportPurpose, purposeRoom));
 }
 
 double cImportEntry::isSimilar(const cImportEntry& other) const

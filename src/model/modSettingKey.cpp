@@ -75,10 +75,10 @@ std::span<const cSettingKey* const> modSettingKey::All()
 
 std::span<const cSettingFamily* const> modSettingKey::Families()
 {
-    static constexpr std::array families{&BankNumber,  &BankBalances,   &EqualLeftOut,  &Reconciled,    &Fetched,
-                                         &TableMap,    &TableAccounts,  &TableCharset,  &TableBankCode, &OnlineBank,
-                                         &PanePeriod,  &PaneFirstMonth, &PaneLastMonth, &PaneYear,      &PaneChart,
-                                         &PaneCompare, &PaneForecast,   &PaneAverage};
+    static constexpr std::array families{&BankNumber, &BankCode,    &BankBalances,   &EqualLeftOut,  &Reconciled,
+                                         &Fetched,    &TableMap,    &TableAccounts,  &TableCharset,  &TableBankCode,
+                                         &OnlineBank, &PanePeriod,  &PaneFirstMonth, &PaneLastMonth, &PaneYear,
+                                         &PaneChart,  &PaneCompare, &PaneForecast,   &PaneAverage};
     return families;
 }
 

@@ -44,6 +44,7 @@ inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
 inline const cSettingKey Corrected{QStringLiteral("GelerntZuletzt"), {List, Book}}; // see modCorrected
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
 inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};      // number: account of the book
+inline const cSettingFamily BankCode{QStringLiteral("KTOBLZ:"), {}, {Text, Book}};     // number: of its bank
 inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}};  // number
 inline const cSettingFamily EqualLeftOut{QStringLiteral("GLEICH:"), {}, {List, Book}}; // number
 inline const cSettingFamily Reconciled{QStringLiteral("STIMMT:"), {}, {Day, Book}};    // number

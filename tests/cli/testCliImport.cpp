@@ -90,6 +90,18 @@ private Q_SLOTS:
         QCOMPARE(cp850.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 1);
     }
 
+    void StrayDetailsAreSkippedOnRequest()
+    {
+        QFile file(m_folder->filePath(u"a.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        file.close();
+        const cCliRun refused = Run({u"import"_s, file.fileName()});
+        QVERIFY2(refused.Code == 1 && refused.Error.contains("--skip-stray-details"_L1), qPrintable(refused.Text()));
+        const cCliRun read = Do({u"import"_s, file.fileName(), u"--skip-stray-details"_s});
+        QVERIFY2(read.Out.contains("1 gelesen, 1 neu"_L1), qPrintable(read.Text()));
+    }
+
     void SkippedRowsAndLayoutAreTold()
     {
         const cCliRun run = Do({u"import"_s, m_table, u"--json"_s, u"--account"_s, u"1"_s, u"--map"_s,

@@ -71,6 +71,7 @@ constexpr std::array storedSettings{
     "ImportList",
     "KategorieList",
     "KTO:*",
+    "KTOBLZ:*",
     "SALDO:*",
     "GLEICH:*",
     "STIMMT:*",

@@ -58,6 +58,8 @@ private Q_SLOTS:
                                       << qint64{-123400};
         QTest::newRow("one decimal place")
             << u"131017D620,3NSTON"_s << u"D"_s << u"620,30"_s << u"NSTO"_s << u"N"_s << qint64{-62030};
+        QTest::newRow("blanks for the entry date")
+            << u"200101    D65,00NOVB"_s << u"D"_s << u"65,00"_s << u"NOVB"_s << QString() << qint64{-6500};
         QTest::newRow("small letters") << u"200219d7,50NMSC"_s << u"d"_s << u"7,50"_s << u"NMSC"_s << QString()
                                        << qint64{-750};
     }
@@ -156,6 +158,10 @@ private Q_SLOTS:
         QTest::newRow("debit") << u"D260131EUR12,34"_s << qint64{-1234};
         QTest::newRow("only cents") << u"C260131EUR,5"_s << qint64{50};
         QTest::newRow("zero") << u"C260131EUR0,00"_s << qint64{0};
+        QTest::newRow("bare zero") << u"C260131EUR0"_s << qint64{0};
+        QTest::newRow("without currency") << u"C2601311234,50"_s << qint64{123450};
+        QTest::newRow("without date") << u"DEUR1234,50"_s << qint64{-123450};
+        QTest::newRow("nothing but the amount") << u"C1234567,50"_s << qint64{123456750};
     }
 
     void Balances()
@@ -163,6 +169,50 @@ private Q_SLOTS:
         QFETCH(QString, line);
         QFETCH(qint64, cents);
         QCOMPARE(modMT940::Read(u":20:A\r\n:25:1\r\n:62F:"_s + line, {}).ClosingBalance, std::optional<qint64>(cents));
+    }
+
+    void UnreadableBalanceIsTold_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::newRow("no amount") << u"C260131EUR"_s;
+        QTest::newRow("no currency and no amount") << u"C260130"_s;
+        QTest::newRow("letters") << u"C260131EURviel"_s;
+    }
+
+    void UnreadableBalanceIsTold()
+    {
+        QFETCH(QString, line);
+        const cStatementRead read = modMT940::Read(u":20:A\r\n:25:1\r\n:62F:"_s + line, {});
+        QVERIFY(!read.ClosingBalance);
+        QCOMPARE(read.Problems.size(), 1);
+    }
+
+    void ReadsSecondDetails_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QString>("purpose");
+        QTest::newRow("keywords in both") << u"SVWZ+Miete"_s << u"SVWZ+Januar"_s << u"Miete  Januar"_s;
+        QTest::newRow("references first") << u"EREF+1"_s << u"SVWZ+Miete"_s << u"Miete"_s;
+        QTest::newRow("keywords in the second") << u"Miete"_s << u"EREF+1?21SVWZ+Januar"_s << u"Miete Januar"_s;
+        QTest::newRow("goes on") << u"SVWZ+Miete"_s << u"Januar"_s << u"Miete Januar"_s;
+        QTest::newRow("repeats") << u"SVWZ+Miete"_s << u"SVWZ+Miete"_s << u"Miete"_s;
+    }
+
+    // The counterparty that the second line repeats stays one.
+    void ReadsSecondDetails()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        const auto details = [](const QString& purpose) {
+            return QString(u"105?00LASTSCHRIFT?20"_s + purpose + u"?30HOHEDE01?31DE02?32Tannert"_s);
+        };
+        const cImportEntry entry =
+            Single(With(u"260101D1,00N"_s, QString(details(first) + u"\r\n:86:"_s + details(second))));
+        QTEST(entry.ImportPurpose, "purpose");
+        QCOMPARE(entry.ImportBeneficiary, u"Tannert"_s);
+        QCOMPARE(entry.ImportBeneficiaryAccount, u"DE02"_s);
+        QCOMPARE(entry.ImportType, u"LASTSCHRIFT"_s);
     }
 
     // Details without a transaction end the reading, and since staging comes after reading, nothing of the text is
@@ -175,6 +225,11 @@ private Q_SLOTS:
         QVERIFY(!read.ClosingBalance);
         QCOMPARE(read.Problems.size(), 1);
         QCOMPARE(read.Problems.first().Line, 9);
+        QVERIFY(read.HasStrayDetails && read.Refusal.contains(u":86:"));
+        const cStatementRead rest = modMT940::Read(good + u":20:B\r\n:86:zu früh\r\n"_s, {}, eStrayDetails::PassOver);
+        QCOMPARE(rest.Refusal, QString());
+        QCOMPARE(rest.Entries, modMT940::Read(good, {}).Entries);
+        QCOMPARE(rest.Problems.value(0).Line, 9); // told all the same
     }
 
     void EveryPrefixIsRead()

@@ -25,6 +25,8 @@ private Q_SLOTS:
         QTest::newRow("separator hidden by text")
             << u":20:A\n-\nABNA\n940\n:20:B\n"_s << u":20:A\n-\nABNA\n940\n-\n:20:B\n"_s;
         QTest::newRow("at signs") << u"@@:20:A@@:25:1@@:86:x@@y@@-"_s << u"\r\n:20:A\r\n:25:1\r\n:86:x\r\ny\r\n-"_s;
+        QTest::newRow("details of the statement")
+            << u":20:A\n:61:x\n:86:y\n:62F:C\n:86:sum\nmore\n-\n"_s << u":20:A\n:61:x\n:86:y\n:62F:C\n\n\n-\n"_s;
         QTest::newRow("wrapped line with colon")
             << QString(u":86:" + wide + u"\n:KO:NR\n:62F:C\n") << QString(u":86:" + wide + u":KO:NR\n:62F:C\n");
     }
@@ -50,6 +52,8 @@ private Q_SLOTS:
         QTest::newRow("at signs in a purpose") << u":20:A\r\n:86:mail@@x@@:61: y\r\n:62F:C\r\n"_s;
         QTest::newRow("short line before an unknown tag") << u":28C:1/1\n:NSF:x\n"_s;
         QTest::newRow("known tag after a wide line") << QString(u":86:" + wide + u"\n:61:x\n");
+        QTest::newRow("details without any transaction") << u":20:A\n:62F:C\n:86:sum\n-\n:20:B\n:61:x\n:86:y\n"_s;
+        QTest::newRow("transaction behind an interim balance") << u":20:A\n:61:x\n:62M:C\n:61:x\n:86:y\n"_s;
         QTest::newRow("nothing") << QString();
     }
 

@@ -160,12 +160,45 @@ private Q_SLOTS:
         QCOMPARE(ReadBytes(bytes).Entries.value(0).ImportPurpose, u"Lohnbüro"_s);
     }
 
-    void ReportsWhatIsUnreadable()
+    // Every transaction in the text is read or told, wherever it stands.
+    void LosesNoTransaction_data()
     {
-        const cStatementRead read = ReadBytes(With("<STMTTRN><DTPOSTED>2026<TRNAMT>viel</STMTTRN>"));
-        QCOMPARE(read.Entries.size(), 1);
-        QCOMPARE(read.Entries.first().ImportDate, QDate(1001, 1, 1));
-        QCOMPARE(read.Problems.size(), 2);
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("entries");
+        QTest::addColumn<int>("skipped");
+        const QByteArray one = "<STMTTRN><DTPOSTED>20260102<TRNAMT>1</STMTTRN>";
+        const QByteArray open = "<STMTTRN><DTPOSTED>20260102<TRNAMT>1";
+        const QByteArray list = With(one + one);
+        QTest::newRow("no list") << QByteArray(list).replace("<BANKTRANLIST>", "").replace("</BANKTRANLIST>", "") << 2
+                                 << 0;
+        QTest::newRow("no end of the list") << QByteArray(list).replace("</BANKTRANLIST>", "") << 2 << 0;
+        QTest::newRow("list ends too early") << With(one + "</BANKTRANLIST>" + one) << 2 << 0;
+        QTest::newRow("no ends of transactions") << With(open + open) << 2 << 0;
+        QTest::newRow("no ends at all, then the balance")
+            << With(open + open + "<LEDGERBAL><BALAMT>7</LEDGERBAL>").replace("</BANKTRANLIST>", "") << 2 << 0;
+        QTest::newRow("outside of the statement")
+            << QByteArray(list).replace("</BANKMSGSRSV1>", QByteArray(one + "</BANKMSGSRSV1>")) << 2 << 1;
+        QTest::newRow("two documents") << QByteArray(list + list) << 4 << 0;
+        QTest::newRow("no amount") << With(one + "<STMTTRN><DTPOSTED>20260102<TRNAMT>viel</STMTTRN>") << 1 << 1;
+        QTest::newRow("no day") << With(one + "<STMTTRN><DTPOSTED>2026<TRNAMT>1</STMTTRN>") << 1 << 1;
+        QTest::newRow("not a word of it") << With(one + "<STMTTRN>*</STMTTRN>") << 1 << 1;
+    }
+
+    void LosesNoTransaction()
+    {
+        QFETCH(const QByteArray, text);
+        const cStatementRead read = ReadBytes(text);
+        QCOMPARE(read.Refusal, QString());
+        QTEST(static_cast<int>(read.Entries.size()), "entries");
+        QTEST(static_cast<int>(read.Skipped.size()), "skipped");
+        QCOMPARE(read.ClosingBalance.has_value(), text.contains("BALAMT"));
+    }
+
+    void RefusesWithTheCount()
+    {
+        const cStatementRead read =
+            ReadBytes("OFXHEADER:100\n<OFX><INVSTMT><STMTTRN><TRNAMT>1</STMTTRN></INVSTMT></OFX>");
+        QVERIFY2(read.Refusal.endsWith(u"Betroffen: 1 Umsatz."), qPrintable(read.Refusal));
     }
 
     void AsksForMissingAccount()

@@ -267,6 +267,7 @@ private Q_SLOTS:
         QTest::newRow("number") << QByteArray("1234567") << u"1234567"_s << 3;
         QTest::newRow("IBAN") << QByteArray("DE02100200300001234567") << u"DE02100200300001234567"_s << 3;
         QTest::newRow("another account") << QByteArray("1234568") << u"1234568"_s << 0;
+        QTest::newRow("the number at another bank") << QByteArray("50010517/0001234567") << u"1234567"_s << 0;
     }
 
     // The same month as MT940 and as camt, which names the account by its IBAN.
@@ -283,9 +284,25 @@ private Q_SLOTS:
         cStatementImport import(book.Data, book.Hive);
         QCOMPARE(import.ImportText(u"giro.sta"_s, text, {}, progress).Accounts, QStringList(account));
         const cImportResult second = import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
-        QCOMPARE(second.Duplicates.size(), duplicates);
+        QCOMPARE(second.Duplicates.size() + second.Alike.size(), duplicates); // MT940 has the long texts in pieces
         QCOMPARE(second.Accounts, QStringList(duplicates > 0 ? account : u"DE02100200300001234567"_s));
         QCOMPARE(second.Skipped.first().Entry.ImportAccount, second.Accounts.first());
+    }
+
+    // The other way round; a household moves money between its two banks, and only one of the numbers is its own.
+    void NumberOfAnotherBankIsAnotherAccount()
+    {
+        cImportBook book;
+        cNoProgress progress;
+        cStatementImport import(book.Data, book.Hive);
+        (void)import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
+        const QString text = u":20:A\r\n:25:50010517/1234567\r\n:61:260101D1,00NTRF\r\n:86:x\r\n"_s;
+        QCOMPARE(import.ImportText(u"b.sta"_s, text, {}, progress).Accounts, QStringList(u"1234567"_s));
+        QVERIFY(book.Accounts.Assign(u"DE02100200300001234567"_s, u"Girokonto"_s));
+        QVERIFY(book.Accounts.Proposal(u"1234567"_s) != u"Girokonto"_s);
+        QVERIFY(book.Accounts.Assign(u"1234567"_s, u"Sparkonto"_s));
+        QCOMPARE(book.Accounts.OwnAccountOf(u"DE00500105170001234567"_s, {}), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.OwnAccountOf(u"1234567"_s, u"20030040"_s), QString());
     }
 
     void TriesWithoutWriting()

@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
+#include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
@@ -83,6 +84,23 @@ private Q_SLOTS:
         page.Review.Files().ImportFiles({file}, page.Progress);
         QCOMPARE(page.User.Asked, QStringList());
         QCOMPARE(page.Review.Files().LeftOut().size(), 1);
+    }
+
+    // The user may have the rest of a statement that is refused for lines nobody needs.
+    void OffersTheRestOfAStatement()
+    {
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.sta"_s);
+        cTestFile::Write(path, ":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        cPage page;
+        page.User.Decisions = {1, 0};
+        page.Review.Files().ImportFiles({path}, page.Progress);
+        QCOMPARE(page.User.LastDecision.Options.value(0), u"&Ohne diese Zeilen lesen"_s);
+        QCOMPARE(page.Data.GetImportEntries().size(), 0);
+        QVERIFY(page.User.Shown.isEmpty()); // the question has said it
+        page.Review.Files().ImportFiles({path}, page.Progress);
+        QCOMPARE(page.Data.GetImportEntries().size(), 1);
+        QVERIFY(page.Review.Summary().join(u' ').contains(u"übergangen: Vorwort"));
     }
 
     // Files can be dropped while others are read, before the progress box stands in the way.

@@ -9,6 +9,7 @@
 #include "import/propose/modOccurrence.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modBalance.h"
+#include "model/modCutText.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -34,7 +35,9 @@ struct cRowSense
     {
         // The default category says nothing, and neither does that of a transfer.
         const bool isKnown = !Proposal.IsDefault && Proposal.Entry.EntryType != modWord::Umbuchung;
-        Text = cMatchText(row.ImportBeneficiary, row.ImportPurpose, isKnown ? Proposal.Entry.EntryCategory : QString());
+        const cImportEntry whole = modCutText::WholeWords(row);
+        Text = cMatchText(whole.ImportBeneficiary, whole.ImportPurpose,
+                          isKnown ? Proposal.Entry.EntryCategory : QString());
     }
 
     [[nodiscard]] cMatchText::cLikeness Compare(const cEntryItem& entry, const cMatchText& text) const

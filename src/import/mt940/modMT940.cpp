@@ -84,11 +84,44 @@ bool IsStructured(const modMT940Repair::cRepaired& repaired)
     return IsNear(structured, all) || IsNear(consistent, all);
 }
 
+// YYMMDD, always of this century; the first day of 1001 for anything else.
+QDate ReadDate(QStringView text)
+{
+    if (text.size() != 6 || !AreDigits(text, 0, 6)) {
+        return noDate;
+    }
+    const QDate date(2000 + text.left(2).toInt(), text.mid(2, 2).toInt(), text.mid(4, 2).toInt());
+    return date.isValid() ? date : noDate;
+}
+
+cBalance ToBalance(QStringView mark, QStringView date, QStringView currency, QStringView amount)
+{
+    const QStringView bare = WithoutZeros(amount.trimmed());
+    return {mark.toString(), date.toString(), currency.toString(), (bare.startsWith(u',') ? u"0"_s : QString()) + bare};
+}
+
+bool AreCapitals(QStringView text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+}
+
+// Mark, date, currency and amount have their places. Some banks leave out the date or the currency; then what is there
+// tells what it is, or the places would cut digits off the amount.
 cBalance ReadBalance(QStringView content)
 {
-    const QStringView amount = WithoutZeros(content.mid(10));
-    return {content.left(1).toString(), content.mid(1, 6).toString(), content.mid(7, 3).toString(),
-            (amount.startsWith(u',') ? u"0"_s : QString()) + amount};
+    const QStringView mark = content.left(1);
+    const QStringView date = content.mid(1, 6);
+    if (AreDigits(content, 1, 6) && content.size() > 7 && !IsDigit(content, 7) && content[7] != u',') {
+        return ToBalance(mark, date, content.mid(7, 3), content.mid(10));
+    }
+    if (!content.contains(u',')) {
+        return {mark.toString(), {}, {}, {}}; // may be a date without amount
+    }
+    if (AreCapitals(content.mid(1, 3))) {
+        return ToBalance(mark, {}, content.mid(1, 3), content.mid(4));
+    }
+    const bool hasDate = ReadDate(date) != noDate && IsDigit(content, 7);
+    return ToBalance(mark, hasDate ? date : QStringView(), {}, content.mid(hasDate ? 7 : 1));
 }
 
 // The amount with two decimal places: "1234," stands for whole euros.
@@ -112,6 +145,9 @@ cTransaction ReadTransaction(QStringView content, int line)
     cTransaction transaction;
     transaction.Line = line;
     qsizetype at = IsDigit(content, 6) ? 10 : 6;
+    while (at < content.size() && content[at] == u' ') {
+        ++at; // in the place of the entry date
+    }
     const qsizetype markSize = IsMarkLetter(content, at + 1) ? 2 : 1;
     const QStringView mark = content.mid(at, markSize);
     at += markSize;
@@ -185,6 +221,40 @@ void ReadDetails(cTransaction& transaction, QStringView content)
             AddSubfield(transaction, SubfieldNumber(pieces[i]), pieces[i].mid(2));
         }
     }
+}
+
+bool BeginsWithKeyword(const QString& purpose)
+{
+    const QString bare = purpose.trimmed();
+    return modSepaPurpose::Rewrite(bare) != bare;
+}
+
+QString Joined(const QString& text, const QString& more)
+{
+    return text.trimmed() == more.trimmed() ? text : text + more;
+}
+
+// A further line of details goes on with the purpose. What it only repeats does not count twice.
+void AddDetails(cTransaction& transaction, QStringView content)
+{
+    cTransaction more;
+    ReadDetails(more, content);
+    if (BeginsWithKeyword(more.Purpose) && !BeginsWithKeyword(transaction.Purpose)) {
+        more.Purpose = modSepaPurpose::Rewrite(more.Purpose.trimmed());
+    }
+    transaction.Purpose = Joined(transaction.Purpose, more.Purpose);
+    transaction.BookingText = Joined(transaction.BookingText, more.BookingText);
+    transaction.Name = Joined(transaction.Name, more.Name);
+    transaction.PurposeContinuation += more.PurposeContinuation;
+    for (QString cTransaction::*const field :
+         {&cTransaction::PrimaNota, &cTransaction::BankCode, &cTransaction::Account}) {
+        transaction.*field = (transaction.*field).isEmpty() ? more.*field : transaction.*field;
+    }
+}
+
+// A transaction may have its details in several lines, so its texts are complete only here.
+void CompleteDetails(cTransaction& transaction)
+{
     transaction.BookingText = transaction.BookingText.trimmed();
     transaction.Purpose = modSepaPurpose::Rewrite(transaction.Purpose.trimmed());
     transaction.Name = transaction.Name.trimmed();
@@ -208,7 +278,7 @@ public:
 class cWalk
 {
 public:
-    explicit cWalk(cTaker& taker) : m_taker(taker) {}
+    cWalk(cTaker& taker, eStrayDetails stray) : m_taker(taker), m_stray(stray) {}
 
     // Everything but the statements.
     cParsed Run(const modMT940Repair::cRepaired& repaired)
@@ -238,14 +308,16 @@ private:
     bool Take(QStringView tag, QStringView content, int number)
     {
         if (tag == u":25:") {
-            m_statement.Account = WithoutZeros(content.mid(content.indexOf(u'/') + 1)).toString();
+            const qsizetype slash = content.indexOf(u'/');
+            m_statement.Account = WithoutZeros(content.mid(slash + 1)).toString();
+            m_statement.BankCode = slash < 0 ? QString() : content.left(slash).trimmed().toString();
         } else if (tag == u":60F:" || tag == u":60M:") {
             m_statement.OpeningBalance = ReadBalance(content);
         } else if (tag == u":61:") {
             EndTransaction();
             TakeTransaction(content, number);
         } else if (tag == u":86:") {
-            return TakeDetails(content);
+            return TakeDetails(content, number);
         } else if (tag == u":62F:" || tag == u":62M:") {
             TakeClosing(content, number);
         }
@@ -261,15 +333,21 @@ private:
         }
     }
 
-    bool TakeDetails(QStringView content)
+    bool TakeDetails(QStringView content, int number)
     {
         if (!m_transaction) {
-            return false;
+            if (m_stray == eStrayDetails::PassOver) {
+                Report(number, cText::Tr("Angaben ohne Umsatz wurden übergangen: {0}", {content.left(40).toString()}));
+            }
+            return m_stray == eStrayDetails::PassOver;
         }
-        if (m_isStructured) {
+        if (!m_isStructured) {
+            QString& text = m_transaction->BookingText;
+            text += (text.isEmpty() ? QString() : u" "_s) + content;
+        } else if (m_transaction->BusinessCode.isEmpty()) {
             ReadDetails(*m_transaction, content);
         } else {
-            m_transaction->BookingText = content.toString();
+            AddDetails(*m_transaction, content);
         }
         ++m_parsed.DetailLines;
         return true;
@@ -277,19 +355,31 @@ private:
 
     void TakeClosing(QStringView content, int number)
     {
-        if (content.size() < 11) {
-            Report(number, cText::Tr("Der Schlusssaldo ist nicht lesbar: {0}", {content.toString()}));
+        const cBalance balance = ReadBalance(content);
+        if (!IsReadable(balance, content)) {
+            Report(number, cText::Tr("Der Schlusssaldo ist nicht lesbar: {0}", {content.left(40).toString()}));
             return;
         }
-        m_parsed.ClosingBalance = ReadBalance(content);
-        m_parsed.Closings.append({m_statement.Account, *m_parsed.ClosingBalance});
+        m_parsed.ClosingBalance = balance;
+        m_parsed.Closings.append({m_statement.Account, balance});
+    }
+
+    // An amount of nothing but zeros is empty without them.
+    [[nodiscard]] static bool IsReadable(const cBalance& balance, QStringView content)
+    {
+        return balance.Amount.isEmpty() ? content.size() > 10 && content.endsWith(u'0')
+                                        : modAmount::TryReadGerman(balance.Amount).has_value();
     }
 
     void EndTransaction()
     {
-        if (m_transaction) {
-            m_taker.TakeTransaction(m_statement, *std::exchange(m_transaction, std::nullopt));
+        if (!m_transaction) {
+            return;
         }
+        if (m_isStructured) {
+            CompleteDetails(*m_transaction);
+        }
+        m_taker.TakeTransaction(m_statement, *std::exchange(m_transaction, std::nullopt));
     }
 
     void EndStatement()
@@ -312,6 +402,7 @@ private:
     void Report(int number, const QString& text) { m_parsed.Problems.append({number, text}); }
 
     cTaker& m_taker;
+    eStrayDetails m_stray;
     cParsed m_parsed;
     cStatement m_statement;
     std::optional<cTransaction> m_transaction; // to which details may follow
@@ -339,18 +430,8 @@ private:
     QList<cTransaction> m_transactions;
 };
 
-// YYMMDD, always of this century; the first day of 1001 for anything else.
-QDate ReadDate(QStringView text)
-{
-    if (text.size() != 6 || !AreDigits(text, 0, 6)) {
-        return noDate;
-    }
-    const QDate date(2000 + text.left(2).toInt(), text.mid(2, 2).toInt(), text.mid(4, 2).toInt());
-    return date.isValid() ? date : noDate;
-}
-
 // One without a day or an amount tells nothing.
-std::optional<cAccountBalance> ToBalance(const cStatementBalance& balance, const QString& account)
+std::optional<cAccountBalance> ToAccountBalance(const cStatementBalance& balance, const QString& account)
 {
     const QDate date = ReadDate(balance.Balance.Date);
     if (date == noDate || !modAmount::TryReadGerman(balance.Balance.Amount)) {
@@ -386,7 +467,10 @@ public:
             isMorning = isMorning || entry.ImportDate == opening;
             Read.NeedsAccount = Read.NeedsAccount || account.isEmpty();
         }
-        if (std::optional<cAccountBalance> balance = ToBalance({account, statement.OpeningBalance}, {})) {
+        if (!statement.BankCode.isEmpty()) {
+            Read.BankCodes.insert(account, statement.BankCode);
+        }
+        if (std::optional<cAccountBalance> balance = ToAccountBalance({account, statement.OpeningBalance}, {})) {
             balance->Date = isMorning ? opening.addDays(-1) : opening; // what the day before ended with
             Read.Balances.append(*balance);
         }
@@ -433,28 +517,32 @@ private:
 modMT940::cParsed modMT940::Parse(const QString& text)
 {
     cKeeper keeper;
-    cParsed parsed = cWalk(keeper).Run(modMT940Repair::Repair(text));
+    cParsed parsed = cWalk(keeper, eStrayDetails::Refuse).Run(modMT940Repair::Repair(text));
     if (!parsed.IsFailed) {
         parsed.Statements = std::move(keeper.Statements);
     }
     return parsed;
 }
 
-cStatementRead modMT940::Read(const QString& text, const QString& account)
+cStatementRead modMT940::Read(const QString& text, const QString& account, eStrayDetails stray)
 {
     cRecorder recorder(account);
     recorder.Read.Entries.reserve(std::min(text.size() / shortestTransaction, cStatementRead::mostEntries));
-    const cParsed parsed = cWalk(recorder).Run(modMT940Repair::Repair(text));
+    const cParsed parsed = cWalk(recorder, stray).Run(modMT940Repair::Repair(text));
     if (recorder.IsTooMany()) {
         return cStatementRead::TooMany();
     }
     cStatementRead read = parsed.IsFailed ? cStatementRead() : std::move(recorder.Read);
     read.Problems += parsed.Problems;
+    if (parsed.IsFailed) {
+        read.HasStrayDetails = true;
+        read.Refusal = parsed.Problems.last().Text;
+    }
     if (parsed.ClosingBalance) {
         read.ClosingBalance = SignedCents(*parsed.ClosingBalance);
     }
     for (const cStatementBalance& closing : parsed.Closings) {
-        if (const std::optional<cAccountBalance> balance = ToBalance(closing, account)) {
+        if (const std::optional<cAccountBalance> balance = ToAccountBalance(closing, account)) {
             read.Balances.append(*balance);
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/read/cReadOptions.h"
 #include "import/read/cStatementRead.h"
 
 #include <QList>
@@ -42,6 +43,7 @@ struct cTransaction
 struct cStatement
 {
     QString Account;
+    QString BankCode;  // what stands before the "/" of the account; empty when there is none
     QString Reference; // not filled
     cBalance OpeningBalance;
     QList<cTransaction> Transactions;
@@ -67,8 +69,10 @@ struct cParsed
 
 [[nodiscard]] cParsed Parse(const QString& text);
 
-// Parses and turns the transactions into records, in their order. `account` stands for statements without a number.
-[[nodiscard]] cStatementRead Read(const QString& text, const QString& account);
+// Parses and turns the transactions into records, in their order. `account` stands for statements without a number. A
+// refusal when details stand before the first transaction of their statement, unless they are to be passed over.
+[[nodiscard]] cStatementRead Read(const QString& text, const QString& account,
+                                  eStrayDetails stray = eStrayDetails::Refuse);
 
 // Cents of a closing balance: negative unless its mark contains "C".
 [[nodiscard]] qint64 SignedCents(const cBalance& balance);

@@ -118,15 +118,41 @@ private:
     {
         const QStringView bare = WithoutControls(line.Content);
         if (IsEnvelope(bare)) {
+            EndStatement();
             TakeEnvelope(line, bare);
         } else if (bare.startsWith(u"-}") || (bare == u"-" && bare.size() != line.Content.trimmed().size())) {
+            EndStatement();
             Replace(line, u"-");
         } else if (m_lastWidth >= wrapWidth && line.Content.startsWith(u':') && !HasKnownTag(line.Content)) {
             Join(line);
-        } else {
+        } else if (!IsOfStatement(line)) {
             Separate(line);
             Keep(line);
+        } else if (BeginChange()) {
+            Keep({u"", line.End, line.Number});
         }
+    }
+
+    // Details behind the closing balance tell of the statement (its sums), not of the last transaction in it. Where it
+    // has none they stay: the reader refuses them.
+    [[nodiscard]] bool IsOfStatement(const cLine& line)
+    {
+        const QStringView tag = line.Content.left(4);
+        if (tag == u":20:" || line.Content.trimmed() == u"-") {
+            EndStatement();
+        } else if (line.Content.startsWith(u':')) {
+            m_hasTransaction = m_hasTransaction || tag == u":61:";
+            m_isClosed = tag != u":61:" && (m_isClosed || tag == u":62F" || tag == u":62M");
+            m_isDropping = tag == u":86:" && m_isClosed && m_hasTransaction;
+        }
+        return m_isDropping; // with the lines that go on with it
+    }
+
+    void EndStatement()
+    {
+        m_hasTransaction = false;
+        m_isClosed = false;
+        m_isDropping = false;
     }
 
     // The envelope goes; a tag behind its last opening stays.
@@ -191,6 +217,9 @@ private:
     bool m_hasTag = false;
     bool m_isSeparated = false;
     bool m_isChanged = false;
+    bool m_hasTransaction = false; // the statement
+    bool m_isClosed = false;       // its closing balance has come
+    bool m_isDropping = false;     // details of the statement
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "base/modFold.h"
 #include "base/modSimilar.h"
 #include "import/read/modAccountNumber.h"
+#include "model/modCutText.h"
 
 #include <algorithm>
 #include <optional>
@@ -31,8 +32,9 @@ bool HasNumber(const QString& account)
 }
 
 // Who stands behind a row, by name or by what is written.
-QString Name(const cImportEntry& row)
+QString Name(const cImportEntry& torn)
 {
+    const cImportEntry row = modCutText::WholeWords(torn);
     const QString name = row.ImportBeneficiary.simplified();
     const QString text = row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose;
     return modFold::Fold(name.isEmpty() ? text.simplified() : name).Spelled;

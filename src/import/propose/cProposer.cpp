@@ -10,6 +10,7 @@
 #include "import/propose/modOwnRule.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modCutText.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -225,23 +226,24 @@ cProposer::~cProposer() = default;
 
 cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
 {
-    return Make(row, restriction, [&] { return modHint::ByRule(row, restriction); });
+    return Make(row, restriction, [&] { return modHint::ByRule(modCutText::WholeWords(row), restriction); });
 }
 
 cProposal cProposer::ProposeBest(const cImportEntry& row)
 {
-    return Make(row, eRestriction::None, [&] { return m_knowledge->BestHint(row); });
+    return Make(row, eRestriction::None, [&] { return m_knowledge->BestHint(modCutText::WholeWords(row)); });
 }
 
 cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, const std::function<cHint()>& knownHint)
 {
     cProposal proposal;
-    proposal.Entry = EntryOf(row);
+    const cImportEntry whole = modCutText::WholeWords(row);
+    proposal.Entry = EntryOf(whole);
     proposal.Entry.EntryAccount = m_knowledge->Transfers.AccountOf(row.ImportAccount);
     const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
     const std::optional<cLearned::cChoice> choice = m_knowledge->Learned.Find(row);
     if (choice) {
-        TakeLesson(proposal, *choice, row, m_knowledge->Numbered);
+        TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);
     } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(row)) {
         TakeCash(proposal, m_knowledge->Cash);

@@ -5,6 +5,7 @@
 #include "import/read/modAccountNumber.h"
 #include "import/read/modCounterparty.h"
 #include "model/cImportEntry.h"
+#include "model/modCutText.h"
 
 #include <algorithm>
 #include <optional>
@@ -109,7 +110,7 @@ struct cRule
                 Alternatives.emplace_back(alternative);
             }
         }
-        Name = rule.Counterparty.simplified().toCaseFolded();
+        Name = modCutText::Name(rule.Counterparty).simplified().toCaseFolded();
         Number = NumberIn(rule.Counterparty);
         OwnNumber = NumberIn(rule.Account);
     }
@@ -133,7 +134,7 @@ struct cRule
 } // namespace
 
 cRuleRow::cRuleRow(const cImportEntry& row, const QString& account)
-    : Texts(modKeywordRules::MatchText(row).simplified()),
+    : Texts(modKeywordRules::MatchText(modCutText::WholeWords(row)).simplified()),
       Name(modCounterparty::NameKey(row)),
       Number(modCounterparty::AccountKey(row)),
       BankCode(row.ImportBeneficiaryBLZ),
@@ -141,6 +142,10 @@ cRuleRow::cRuleRow(const cImportEntry& row, const QString& account)
       OwnNumber(modAccountNumber::Compact(row.ImportAccount)),
       Cents(row.ImportValue)
 {
+    // A rule may have been written for the words as they are torn apart in the file.
+    if (const QString torn = modKeywordRules::MatchText(row).simplified(); torn != Texts.constFirst()) {
+        Texts.append(torn);
+    }
     // A line break may cut a word or stand between two; only the user's eye knows.
     if (row.ImportPurpose.contains(u'\n') || row.ImportBeneficiary.contains(u'\n')) {
         cImportEntry flat = row;

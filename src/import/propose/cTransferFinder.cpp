@@ -38,7 +38,8 @@ QString cTransferFinder::OwnAccountOf(const QString& number, const QString& bank
         return {};
     }
     const auto found = std::find_if(m_mapping.begin(), m_mapping.end(), [&](const auto& mapping) {
-        return modAccountNumber::IsSame(number, bankCode, mapping.first);
+        return modAccountNumber::IsSame(number, bankCode, mapping.first)
+            && modAccountNumber::IsSame(number, bankCode, mapping.first, m_accounts.BankCodeOf(mapping.first));
     });
     return found == m_mapping.end() ? QString() : found->second;
 }

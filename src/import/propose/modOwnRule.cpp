@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "model/cImportEntry.h"
+#include "model/modCutText.h"
 #include "model/modWord.h"
 
 #include <QRegularExpression>
@@ -198,8 +199,9 @@ QString modOwnRule::Label(const cOwnRule& rule)
     return parts.join(u", "_s);
 }
 
-cOwnRule modOwnRule::FromRow(const cImportEntry& row)
+cOwnRule modOwnRule::FromRow(const cImportEntry& torn)
 {
+    const cImportEntry row = modCutText::WholeWords(torn);
     cOwnRule rule;
     const QString name = row.ImportBeneficiary.simplified();
     rule.Counterparty = name.isEmpty() ? row.ImportBeneficiaryAccount.simplified() : name;

@@ -9,6 +9,10 @@ class cTableMemory;
 // What stands in for the purpose of a transaction that has none.
 enum class eMissingPurpose { Empty, Name };
 
+// What becomes of details in an MT940 statement that stand before its first transaction: the whole text is refused, or
+// they are passed over because the user has seen that.
+enum class eStrayDetails { Refuse, PassOver };
+
 // What a reader is told beside the file.
 struct cReadOptions
 {
@@ -16,4 +20,6 @@ struct cReadOptions
     eMissingPurpose MissingPurpose = eMissingPurpose::Empty;
     cTableChoice Table;                   // what the user chose for rows and columns; the rest is detected
     const cTableMemory* Memory = nullptr; // what the user chose for the same layout before; may be missing
+
+    eStrayDetails StrayDetails = eStrayDetails::Refuse;
 };

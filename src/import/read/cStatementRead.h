@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -56,6 +57,10 @@ struct cStatementRead
     QString Layout;                   // name of the table layout (a bank's) that was recognised
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
     QString AccountKey;     // under which the account of such files is remembered; empty: it cannot be
+
+    bool HasStrayDetails = false; // refused only because of them: eStrayDetails::PassOver reads the rest
+
+    QMap<QString, QString> BankCodes; // of own accounts by their number, as far as the file names them
 
     // Adds what was read of a further part.
     void Append(cStatementRead more);

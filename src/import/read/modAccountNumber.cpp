@@ -17,12 +17,17 @@ QStringView WithoutZeros(QStringView number)
     return number;
 }
 
+// Both are known and differ.
+bool AreOfTwoBanks(const QString& bankCode, const QString& other)
+{
+    return modAccountNumber::IsBankCode(bankCode) && modAccountNumber::IsBankCode(other) && bankCode != other;
+}
+
 // "DE", two check digits, eight of the bank code, ten of the account.
 bool IsIbanOf(const QString& iban, const QString& bankCode, const QString& number)
 {
-    const bool isBankKnown = bankCode.size() == 8 && IsDigits(bankCode);
     return WithoutZeros(QStringView(iban).mid(12)) == WithoutZeros(number)
-        && (!isBankKnown || QStringView(iban).mid(4, 8) == bankCode);
+        && (!modAccountNumber::IsBankCode(bankCode) || QStringView(iban).mid(4, 8) == bankCode);
 }
 
 } // namespace
@@ -43,7 +48,13 @@ bool modAccountNumber::IsGermanIban(const QString& compact)
     return compact.size() == 22 && compact.startsWith(QStringLiteral("DE")) && IsDigits(QStringView(compact).mid(2));
 }
 
-bool modAccountNumber::IsSame(const QString& number, const QString& bankCode, const QString& other)
+bool modAccountNumber::IsBankCode(const QString& code)
+{
+    return code.size() == 8 && IsDigits(code);
+}
+
+bool modAccountNumber::IsSame(const QString& number, const QString& bankCode, const QString& other,
+                              const QString& otherBankCode)
 {
     const QString left = Compact(number);
     const QString right = Compact(other);
@@ -53,7 +64,8 @@ bool modAccountNumber::IsSame(const QString& number, const QString& bankCode, co
     const bool isLeftIban = IsGermanIban(left);
     const bool isRightIban = IsGermanIban(right);
     if (isLeftIban == isRightIban) {
-        return WithoutZeros(left) == WithoutZeros(right);
+        return WithoutZeros(left) == WithoutZeros(right)
+            && (isLeftIban || !AreOfTwoBanks(Compact(bankCode), Compact(otherBankCode)));
     }
-    return isLeftIban ? IsIbanOf(left, {}, right) : IsIbanOf(right, Compact(bankCode), left);
+    return isLeftIban ? IsIbanOf(left, Compact(otherBankCode), right) : IsIbanOf(right, Compact(bankCode), left);
 }

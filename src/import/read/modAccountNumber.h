@@ -11,8 +11,12 @@ namespace modAccountNumber {
 // True for the 22 characters of a German IBAN; its check digits are not looked at.
 [[nodiscard]] bool IsGermanIban(const QString& compact);
 
+// True for the eight digits of a German bank code.
+[[nodiscard]] bool IsBankCode(const QString& code);
+
 // True when both mean the same account: equal but for leading zeros, or a German IBAN and its account number. An empty
 // bank code is unknown and does not speak against it.
-[[nodiscard]] bool IsSame(const QString& number, const QString& bankCode, const QString& other);
+[[nodiscard]] bool IsSame(const QString& number, const QString& bankCode, const QString& other,
+                          const QString& otherBankCode = {});
 
 } // namespace modAccountNumber

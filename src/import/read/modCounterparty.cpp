@@ -2,6 +2,7 @@
 
 #include "import/read/modAccountNumber.h"
 #include "model/cImportEntry.h"
+#include "model/modCutText.h"
 
 QString modCounterparty::AccountKey(const cImportEntry& row)
 {
@@ -10,7 +11,7 @@ QString modCounterparty::AccountKey(const cImportEntry& row)
 
 QString modCounterparty::NameKey(const cImportEntry& row)
 {
-    return row.ImportBeneficiary.simplified().toCaseFolded();
+    return modCutText::Name(row.ImportBeneficiary).simplified().toCaseFolded();
 }
 
 QString modCounterparty::Key(const cImportEntry& row)

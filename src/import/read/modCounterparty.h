@@ -10,7 +10,7 @@ namespace modCounterparty {
 // By IBAN or account number; empty when the row has none.
 [[nodiscard]] QString AccountKey(const cImportEntry& row);
 
-// By name, without regard to case and blanks; empty when the row has none.
+// By name, without regard to case, blanks and the pieces of MT940 (modCutText); empty when the row has none.
 [[nodiscard]] QString NameKey(const cImportEntry& row);
 
 // By account, else by name.

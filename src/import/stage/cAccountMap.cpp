@@ -88,6 +88,11 @@ QString cAccountMap::AccountOf(const QString& number) const
     return Exists(account) ? account : QString();
 }
 
+QString cAccountMap::BankCodeOf(const QString& number) const
+{
+    return m_settings.Get(modSettingKey::BankCode.Of(number));
+}
+
 QList<std::pair<QString, QString>> cAccountMap::Mapping() const
 {
     QList<std::pair<QString, QString>> mapping;
@@ -118,13 +123,16 @@ QString cAccountMap::OwnAccountOf(const QString& number, const QString& bankCode
     if (number.trimmed().isEmpty()) {
         return {};
     }
-    if (const QString direct = AccountOf(number); !direct.isEmpty()) {
+    const QString code = bankCode.isEmpty() ? BankCodeOf(number) : bankCode;
+    const auto isSame = [&](const QString& known) {
+        return modAccountNumber::IsSame(number, code, known, BankCodeOf(known));
+    };
+    if (const QString direct = AccountOf(number); !direct.isEmpty() && isSame(number)) {
         return direct;
     }
     const QList<std::pair<QString, QString>> mapping = Mapping();
-    const auto found = std::find_if(mapping.begin(), mapping.end(), [&](const auto& known) {
-        return modAccountNumber::IsSame(number, bankCode, known.first);
-    });
+    const auto found =
+        std::find_if(mapping.begin(), mapping.end(), [&](const auto& known) { return isSame(known.first); });
     return found == mapping.end() ? QString() : found->second;
 }
 

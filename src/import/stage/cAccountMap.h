@@ -24,6 +24,8 @@ public:
 
     // Name of the account; empty when the number was never assigned or its account is gone. Never asks.
     [[nodiscard]] QString AccountOf(const QString& number) const;
+    // Of the bank at which a staged account has this number; empty when no statement has named it.
+    [[nodiscard]] QString BankCodeOf(const QString& number) const;
 
     // All numbers with the accounts they belong to.
     [[nodiscard]] QList<std::pair<QString, QString>> Mapping() const;

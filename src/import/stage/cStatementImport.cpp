@@ -7,12 +7,12 @@
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
-#include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cFetchMemory.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cKnownAccounts.h"
 #include "import/stage/cLeftOutRows.h"
 #include "import/stage/modEqualRows.h"
 #include "import/stage/modStatementFormat.h"
@@ -22,10 +22,8 @@
 #include "store/cUndoStep.h"
 
 #include <QElapsedTimer>
-#include <QHash>
 
 #include <algorithm>
-#include <iterator>
 #include <numeric>
 #include <optional>
 
@@ -47,38 +45,6 @@ cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
     return Refuse(std::move(result), modStatementFormat::Refusal(format));
 }
 
-// The form in which an account is staged: statements in one format name it by its number, others by its IBAN.
-class cKnownAccounts
-{
-public:
-    explicit cKnownAccounts(QStringList staged) : m_staged(std::move(staged)) {}
-
-    // The number itself when nothing is staged of the account, and when it could be several.
-    [[nodiscard]] const QString& FormOf(const QString& number)
-    {
-        auto known = m_forms.find(number);
-        if (known == m_forms.end()) {
-            known = m_forms.insert(number, Find(number));
-        }
-        return *known;
-    }
-
-private:
-    [[nodiscard]] QString Find(const QString& number) const
-    {
-        if (m_staged.contains(number)) {
-            return number;
-        }
-        QStringList same;
-        std::copy_if(m_staged.begin(), m_staged.end(), std::back_inserter(same),
-                     [&](const QString& staged) { return modAccountNumber::IsSame(number, {}, staged); });
-        return same.size() == 1 ? same.first() : number;
-    }
-
-    QStringList m_staged;
-    QHash<QString, QString> m_forms;
-};
-
 // `form` gives the account's new name for the one that it has.
 template <typename tForm>
 void RenameAccounts(cStatementRead& read, const tForm& form)
@@ -92,13 +58,6 @@ void RenameAccounts(cStatementRead& read, const tForm& form)
     for (cAccountBalance& balance : read.Balances) {
         balance.Account = form(balance.Account);
     }
-}
-
-// Gives every row the form of its account that is staged already.
-void UseKnownAccounts(const QStringList& staged, cStatementRead& read)
-{
-    cKnownAccounts known(staged);
-    RenameAccounts(read, [&](const QString& account) { return known.FormOf(account); });
 }
 
 // Counts what becomes of each transaction. A database that refuses twice in a row will refuse the rest as well, and
@@ -174,16 +133,17 @@ qsizetype SizeOf(const cFetchedStatement& fetched)
                            [](qsizetype sum, const QByteArray& document) { return sum + document.size(); });
 }
 
-cStatementRead ReadFetched(const cFetchedStatement& fetched, eMissingPurpose missing)
+cStatementRead ReadFetched(const cFetchedStatement& fetched, const cImportOptions& wanted)
 {
-    cStatementRead all =
-        modMT940::Read(fetched.IsComplete ? fetched.Mt940 : WholeStatements(fetched.Mt940), fetched.Account);
-    if (all.Entries.isEmpty() && !all.Problems.isEmpty()) {
+    cStatementRead all = modMT940::Read(fetched.IsComplete ? fetched.Mt940 : WholeStatements(fetched.Mt940),
+                                        fetched.Account, wanted.StrayDetails);
+    const bool isAsSeen = wanted.StrayDetails == eStrayDetails::PassOver; // the user knows what is told
+    if (all.Entries.isEmpty() && !all.Problems.isEmpty() && !isAsSeen) {
         all.Refusal = cText::Tr("Die Antwort der Bank kann nicht gelesen werden: {0}", {all.Problems.first().Text});
     }
     cReadOptions options;
     options.Account = fetched.Account;
-    options.MissingPurpose = missing;
+    options.MissingPurpose = wanted.MissingPurpose;
     for (const QByteArray& document : fetched.Camt) {
         cStatementRead read = modCamt::Read({fetched.Name, document, {}}, options);
         if (!read.Refusal.isEmpty()) {
@@ -306,6 +266,7 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
     result.Layout = read.Layout;
     result.AccountKey = read.AccountKey;
     result.NeedsAccount = read.NeedsAccount;
+    result.HasStrayDetails = read.HasStrayDetails;
     result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable
         && (read.IsGuessed || read.NeedsAccount || read.Doubt || !read.Refusal.isEmpty());
     if (!read.Refusal.isEmpty() || read.NeedsAccount || read.Doubt || result.NeedsAssistant) {
@@ -372,7 +333,8 @@ cStatementRead cStatementImport::Read(const cStatementSource& source, eStatement
                                       const cImportOptions& options, cProgress& progress)
 {
     const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
-    cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory};
+    cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory,
+                             options.StrayDetails};
     if (source.Bytes.size() <= quicklyRead) {
         return reader(source, readOptions);
     }
@@ -404,7 +366,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     }
     progress.showProgressBar(modMT940::ProgressMaximum(fetched.Mt940));
     cStatementRead read;
-    const auto work = [&] { read = ReadFetched(fetched, options.MissingPurpose); };
+    const auto work = [&] { read = ReadFetched(fetched, options); };
     if (SizeOf(fetched) <= quicklyRead) {
         work();
     } else {
@@ -413,6 +375,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     progress.addProgressValue(static_cast<int>(fetched.Mt940.count(u":86:")));
     if (!read.Refusal.isEmpty()) {
         result.Problems = read.Problems;
+        result.HasStrayDetails = read.HasStrayDetails;
         return Refuse(std::move(result), read.Refusal);
     }
     AddBalance(fetched, read);
@@ -457,7 +420,9 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
 {
     cStaging& staging = StagingFor(options.Run);
     staging.StartSource();
-    UseKnownAccounts(staging.Accounts(), read);
+    cSettings settings(m_data);
+    cKnownAccounts known(staging.Accounts(), settings);
+    known.UseIn(read);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;
@@ -493,7 +458,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
         SettleEqual(read, options, result, memory);
     }
     ReportFailures(result);
-    KeepBalances(read, options.Run, result);
+    KeepBalances(read, known, options.Run, result);
 }
 
 void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOptions& options, cImportResult& result,
@@ -534,13 +499,17 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
 }
 
 // Of a file that was taken in part, the balances would only say that something is missing.
-void cStatementImport::KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result)
+void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAccounts& known, eStagingRun run,
+                                    cImportResult& result)
 {
     const bool isComplete = !result.IsCancelled && result.Failed == 0;
-    if (m_balances == nullptr || m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
+    if (m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
         return;
     }
-    if (!m_balances->Add(read.Balances, read.Entries)) {
+    if (!known.KeepBankCodes()) {
+        result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
+    }
+    if (m_balances != nullptr && !m_balances->Add(read.Balances, read.Entries)) {
         result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
     }
 }

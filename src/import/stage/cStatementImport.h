@@ -12,6 +12,7 @@
 class cBankBalances;
 class cDataAccess;
 class cImportHiveCache;
+class cKnownAccounts;
 class cFetchMemory;
 class cProgress;
 struct cFetchedStatement;
@@ -34,6 +35,7 @@ struct cImportOptions
     eStagingRun Run = eStagingRun::Write;
     eUncertain Uncertain = eUncertain::Read;
     eEqualRows Equal = eEqualRows::Report;
+    eStrayDetails StrayDetails = eStrayDetails::Refuse;
 };
 
 // Statement files into staged rows.
@@ -87,7 +89,7 @@ private:
     [[nodiscard]] int RowCount();
     void NoteFetch(const cStatementRead& read, const cFetchedStatement& fetched, eStagingRun run,
                    cImportResult& result);
-    void KeepBalances(const cStatementRead& read, eStagingRun run, cImportResult& result);
+    void KeepBalances(const cStatementRead& read, const cKnownAccounts& known, eStagingRun run, cImportResult& result);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;

@@ -43,7 +43,9 @@ public:
         }
         for (const QString& name : names) {
             if (const QString refusal = Take(name); !refusal.isEmpty()) {
-                return Refused(refusal);
+                cStatementRead read = Refused(refusal);
+                read.HasStrayDetails = m_hasStrayDetails;
+                return read;
             }
             if (m_all.Entries.size() + m_all.Skipped.size() > cStatementRead::mostEntries) {
                 return cStatementRead::TooMany();
@@ -90,6 +92,7 @@ private:
             Note(name, read.Refusal); // any text comes to this reader, also that of a letter
             return {};
         }
+        m_hasStrayDetails = read.HasStrayDetails;
         return cText::Tr("Die Datei '{0}' im ZIP-Archiv: {1}", {name, read.Refusal});
     }
 
@@ -104,6 +107,7 @@ private:
         m_all.Parts.append(m_all.Entries.size());
         m_all.Entries += read.Entries;
         m_all.Balances += read.Balances;
+        m_all.BankCodes.insert(read.BankCodes);
         m_all.ClosingBalance = read.ClosingBalance ? read.ClosingBalance : m_all.ClosingBalance;
         for (const cReadProblem& problem : read.Problems) {
             m_all.Problems.append({problem.Line, cText::Tr("{0}: {1}", {name, problem.Text})});
@@ -130,7 +134,8 @@ private:
     const cReadOptions& m_options;
     qint64 m_rest = largestArchive;
     int m_statements = 0;
-    int m_nameless = 0; // of these: without an account
+    bool m_hasStrayDetails = false; // why the file at hand is refused
+    int m_nameless = 0;             // of these: without an account
     cStatementRead m_all;
 };
 

@@ -76,7 +76,7 @@ bool IsText(const QString& /*name*/, const cStatementSource& source)
 
 cStatementRead ReadMt940(const cStatementSource& source, const cReadOptions& options)
 {
-    return modMT940::Read(source.Text, options.Account);
+    return modMT940::Read(source.Text, options.Account, options.StrayDetails);
 }
 
 struct cFormat

@@ -1,7 +1,6 @@
 #include "import/xml/cCamtEntry.h"
 
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementText.h"
 #include "import/xml/modCamtText.h"
@@ -16,8 +15,6 @@ using modXmlNode::IsText;
 using modXmlNode::Text;
 
 namespace {
-
-constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
 
 constexpr std::size_t mostDetails = 100'000; // a booking with more is not split
 
@@ -53,7 +50,8 @@ QString CodeOf(const pugi::xml_node& node)
 
 QDate DateOf(const pugi::xml_node& date)
 {
-    return modDate::FromIso(FirstOf(Text(date.child("Dt")), Text(date.child("DtTm"))));
+    const QDate day = modXmlNode::Day(date.child("Dt"));
+    return day.isValid() ? day : modXmlNode::Day(date.child("DtTm"));
 }
 
 // A person or company; newer versions wrap it, and a bank can stand in its place.
@@ -185,12 +183,17 @@ QString PurposeOf(const pugi::xml_node& entry, const pugi::xml_node& detail)
     return modCamtText::Purpose(purpose);
 }
 
-// The texts of all transactions, as far as there is room.
+// The texts of the first transactions: thousands of them are no purpose any more.
 QString PurposeOfBatch(const std::vector<pugi::xml_node>& details)
 {
+    constexpr qsizetype enough = 270; // characters; the room that MT940 has
     modCamtText::cPurpose purpose;
-    for (const pugi::xml_node& detail : details) {
-        purpose.Lines += RemittanceOf(detail);
+    qsizetype size = 0;
+    for (auto detail = details.begin(); detail != details.end() && size < enough; ++detail) {
+        const QStringList lines = RemittanceOf(*detail);
+        size = std::accumulate(lines.begin(), lines.end(), size,
+                               [](qsizetype sum, const QString& line) { return sum + line.size(); });
+        purpose.Lines += lines;
     }
     return modCamtText::Purpose(purpose);
 }
@@ -262,13 +265,12 @@ cImportEntry cCamtEntry::Record(const pugi::xml_node& detail, qint64 cents) cons
         party = other.Account.isEmpty() ? party : other; // a bank that turns the sides of a reversal round
     }
     const QDate booked = DateOf(m_entry.child("BookgDt"));
-    const QDate value = booked.isValid() ? booked : DateOf(m_entry.child("ValDt"));
     cImportEntry record;
     record.ImportAccount = m_account;
-    record.ImportDate = value.isValid() ? value : noDate;
+    record.ImportDate = booked.isValid() ? booked : DateOf(m_entry.child("ValDt"));
     record.ImportType = modStatementText::DecodeField(Text(m_entry.child("AddtlNtryInf")));
     record.ImportPurpose = modStatementText::DecodeField(PurposeOf(m_entry, detail));
-    record.ImportBeneficiary = modStatementText::DecodeField(modCamtText::Name(party.Name));
+    record.ImportBeneficiary = modStatementText::DecodeField(party.Name);
     record.ImportBeneficiaryAccount = party.Account;
     record.ImportBeneficiaryBLZ = party.BankCode;
     record.ImportValue = cents;

@@ -24,7 +24,8 @@ public:
     // True when the booking comprises several transactions whose amounts do not make up its own.
     [[nodiscard]] bool IsClosedBatch() const { return m_details.size() > 1 && m_parts.empty(); }
 
-    // The records: one for each transaction of a batch, or one for the whole.
+    // The records: one for each transaction of a batch, or one for the whole. Their day is invalid when the entry has
+    // none that can be read.
     [[nodiscard]] cImportEntryList Records() const;
 
 private:

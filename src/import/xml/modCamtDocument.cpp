@@ -2,7 +2,6 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "import/read/cRepeatedText.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementText.h"
@@ -160,14 +159,14 @@ private:
         }
         const bool isDebit = IsText(balance.child("CdtDbtInd"), "DBIT");
         const pugi::xml_node date = balance.child("Dt");
-        const QString day = Text(date.child("Dt"));
+        const QDate day = modXmlNode::Day(date.child("Dt"));
         const qint64 value = isDebit ? -*cents : *cents;
         if (kind == eBalance::Closing) {
             m_read.ClosingBalance = value;
         } else {
             ++m_openings;
         }
-        m_read.Balances.append({m_account, value, modDate::FromIso(day.isEmpty() ? Text(date.child("DtTm")) : day)});
+        m_read.Balances.append({m_account, value, day.isValid() ? day : modXmlNode::Day(date.child("DtTm"))});
     }
 
     void TakeEntry(QByteArrayView piece)
@@ -184,7 +183,16 @@ private:
         const cCamtEntry entry(m_account, document.first_child());
         cImportEntryList records = entry.Records();
         if (!entry.IsBooked()) {
-            SkipPending(records, m_lines.LineOf(piece));
+            Skip(records, piece, cText::Tr("Der Umsatz ist nur vorgemerkt."), eSkipped::Pending);
+            return;
+        }
+        // Nothing is staged on a day or with an amount that is made up.
+        if (!records.first().ImportDate.isValid()) {
+            Skip(records, piece, cText::Tr("Der Umsatz hat kein lesbares Buchungsdatum."), eSkipped::Unreadable);
+            return;
+        }
+        if (!entry.Cents()) {
+            Skip(records, piece, cText::Tr("Der Umsatz hat keinen lesbaren Betrag."), eSkipped::Unreadable);
             return;
         }
         for (cImportEntry& record : records) {
@@ -192,32 +200,21 @@ private:
             record.ImportCurrency = m_currency.Of(record.ImportCurrency);
             record.ImportBeneficiaryBLZ = m_bankCode.Of(record.ImportBeneficiaryBLZ);
         }
-        CheckEntry(entry, records.first(), piece);
+        if (entry.IsClosedBatch()) {
+            m_read.Problems.append({m_lines.LineOf(piece),
+                                    cText::Tr("Die Sammelbuchung wurde nicht aufgeteilt, weil die Einzelbeträge fehlen "
+                                              "oder nicht ihre Summe ergeben.")});
+        }
         m_read.Entries += std::move(records);
     }
 
-    void SkipPending(const cImportEntryList& records, int line)
+    void Skip(const cImportEntryList& records, QByteArrayView piece, const QString& reason, eSkipped kind)
     {
+        const int line = m_lines.LineOf(piece);
         for (const cImportEntry& record : records) {
-            m_read.Skipped.append({{line, cText::Tr("Der Umsatz ist nur vorgemerkt.")}, eSkipped::Pending, record});
+            m_read.Skipped.append({{line, reason}, kind, record});
         }
     }
-
-    void CheckEntry(const cCamtEntry& entry, const cImportEntry& record, QByteArrayView piece)
-    {
-        if (record.ImportDate.year() == 1001) {
-            Report(piece, cText::Tr("Der Umsatz hat kein lesbares Buchungsdatum."));
-        }
-        if (!entry.Cents()) {
-            Report(piece, cText::Tr("Der Umsatz hat keinen lesbaren Betrag."));
-        } else if (entry.IsClosedBatch()) {
-            Report(piece,
-                   cText::Tr("Die Sammelbuchung wurde nicht aufgeteilt, weil die Einzelbeträge fehlen oder nicht ihre "
-                             "Summe ergeben."));
-        }
-    }
-
-    void Report(QByteArrayView piece, const QString& text) { m_read.Problems.append({m_lines.LineOf(piece), text}); }
 
     modXmlPieces::cPieces m_pieces;
     cLines m_lines;

@@ -8,23 +8,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype subfieldSize = 27;
-constexpr qsizetype nameSubfields = 2;
-constexpr qsizetype purposeSubfields = 10;
+constexpr qsizetype subfieldSize = 27; // of MT940
 
-QStringList Cut(const QString& text)
-{
-    QStringList pieces;
-    for (qsizetype at = 0; at < text.size(); at += subfieldSize) {
-        pieces.append(text.mid(at, subfieldSize));
-    }
-    return pieces;
-}
-
-void AddKeyword(QStringList& subfields, const QString& keyword, const QString& value)
+void AddKeyword(QStringList& parts, const QString& keyword, const QString& value)
 {
     if (!value.isEmpty()) {
-        subfields += Cut(keyword + value);
+        parts.append(keyword + value);
     }
 }
 
@@ -41,35 +30,25 @@ bool BeginsWithKeyword(const QString& text)
     return plus >= 3 && modSepaPurpose::Rewrite(text) != text;
 }
 
-QString Joined(const QStringList& subfields, qsizetype most)
-{
-    return subfields.mid(0, most).join(u' ').trimmed();
-}
-
 } // namespace
-
-QString modCamtText::Name(const QString& name)
-{
-    return Joined(Cut(name), nameSubfields);
-}
 
 QString modCamtText::Purpose(const cPurpose& purpose)
 {
     if (AreSubfields(purpose.Lines)) {
-        return modSepaPurpose::Rewrite(Joined(purpose.Lines, purposeSubfields));
+        return modSepaPurpose::Rewrite(purpose.Lines.join(u' '));
     }
     const QString remittance = purpose.Lines.join(u' ').trimmed();
     if (BeginsWithKeyword(remittance)) {
         return modSepaPurpose::Rewrite(remittance);
     }
-    QStringList subfields;
-    AddKeyword(subfields, u"EREF+"_s, purpose.EndToEnd);
-    AddKeyword(subfields, u"MREF+"_s, purpose.Mandate);
-    AddKeyword(subfields, u"CRED+"_s, purpose.Creditor);
-    if (subfields.isEmpty() && purpose.UltimateOriginator.isEmpty()) {
-        return Joined(Cut(remittance), purposeSubfields); // no SEPA payment: a plain text without keywords
+    QStringList parts;
+    AddKeyword(parts, u"EREF+"_s, purpose.EndToEnd);
+    AddKeyword(parts, u"MREF+"_s, purpose.Mandate);
+    AddKeyword(parts, u"CRED+"_s, purpose.Creditor);
+    if (parts.isEmpty() && purpose.UltimateOriginator.isEmpty()) {
+        return remittance; // no SEPA payment: a plain text without keywords
     }
-    AddKeyword(subfields, u"SVWZ+"_s, remittance);
-    AddKeyword(subfields, u"ABWA+"_s, purpose.UltimateOriginator);
-    return modSepaPurpose::Rewrite(Joined(subfields, purposeSubfields));
+    AddKeyword(parts, u"SVWZ+"_s, remittance);
+    AddKeyword(parts, u"ABWA+"_s, purpose.UltimateOriginator);
+    return modSepaPurpose::Rewrite(parts.join(u' '));
 }

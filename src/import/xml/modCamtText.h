@@ -3,9 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-// The texts of a camt transaction in the form that the same transaction has in an MT940 statement, because the
-// duplicate test compares them letter by letter. There, names and purposes are cut into subfields of 27 characters that
-// the reader joins by blanks; a name has two of them, a purpose ten, and each SEPA keyword begins a new one.
+// The purpose of a camt transaction as the same transaction has it in an MT940 statement, blanks apart: the duplicate
+// test takes texts for equal that differ in nothing else, or where MT940 had no room for the rest.
 namespace modCamtText {
 
 // What camt keeps apart and MT940 writes into one purpose.
@@ -17,9 +16,6 @@ struct cPurpose
     QStringList Lines;          // remittance information as it stands
     QString UltimateOriginator; // on whose behalf the payment was made
 };
-
-// The name of a counterparty.
-[[nodiscard]] QString Name(const QString& name);
 
 // What a person wants to read of the purpose: the remittance lines, and a differing originator in brackets. References
 // only when there is nothing else.

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modCount.h"
 #include "import/read/modStatementText.h"
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"
@@ -14,8 +15,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
 
 // Where the statements of a kind of account stand.
 struct cKind
@@ -36,11 +35,11 @@ QString TextOf(const pugi::xml_node& node, const char* child)
     return modXmlNode::Text(node.child(child));
 }
 
-// Year, month and day are the first eight characters; time and zone behind them do not count.
+// Year, month and day are the first eight characters; time and zone behind them do not count. Invalid for anything
+// else.
 QDate DateOf(QStringView text)
 {
-    const QDate date(text.left(4).toInt(), text.mid(4, 2).toInt(), text.mid(6, 2).toInt());
-    return date.isValid() ? date : noDate;
+    return {text.left(4).toInt(), text.mid(4, 2).toInt(), text.mid(6, 2).toInt()};
 }
 
 class cReader
@@ -61,25 +60,30 @@ public:
             return Broken();
         }
         for (const cKind& kind : kinds) {
-            for (const pugi::xml_node& messages : skeleton.child("OFX").children(kind.Messages)) {
-                TakeMessages(messages, kind);
+            for (const pugi::xml_node& document : skeleton.children("OFX")) {
+                for (const pugi::xml_node& messages : document.children(kind.Messages)) {
+                    TakeMessages(messages, kind);
+                }
             }
         }
         if (!m_hasStatements) {
             return Refused(cText::Tr("Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte."));
         }
+        TellStrays();
         return m_isBroken ? Broken() : std::move(m_read);
     }
 
 private:
-    static cStatementRead Refused(const QString& reason)
+    // With the number of transactions that the file has all the same.
+    [[nodiscard]] cStatementRead Refused(const QString& reason) const
     {
         cStatementRead refused;
-        refused.Refusal = reason;
+        const int count = static_cast<int>(m_pieces.Pieces.size());
+        refused.Refusal = count == 0 ? reason : cText::Tr("{0} Betroffen: {1}.", {reason, modCount::Rows(count)});
         return refused;
     }
 
-    static cStatementRead Broken()
+    [[nodiscard]] cStatementRead Broken() const
     {
         return Refused(cText::Tr("Die OFX-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
     }
@@ -98,34 +102,80 @@ private:
         m_hasStatements = true;
         const QString named = TextOf(statement.child(kind.Account), "ACCTID");
         m_account = named.isEmpty() ? m_options.Account : named;
+        if (const QString bank = TextOf(statement.child(kind.Account), "BANKID"); !bank.isEmpty() && !named.isEmpty()) {
+            m_read.BankCodes.insert(m_account, bank);
+        }
         m_currency = TextOf(statement, "CURDEF");
         m_read.NeedsAccount = m_read.NeedsAccount || m_account.isEmpty();
-        for (const pugi::xml_node& list : statement.children("BANKTRANLIST")) {
-            for (const pugi::xml_node& piece : list.children("x")) {
-                TakeTransaction(m_pieces.Take(piece.attribute("piece").as_uint()));
-            }
+        for (const pugi::xml_node& child : statement.children()) {
+            TakeTransactions(child);
         }
         TakeBalance(statement.child("LEDGERBAL"));
     }
 
-    void TakeTransaction(QByteArrayView piece)
+    // A transaction, or an element with some: the list may lack its tags, so that they stand beside it.
+    void TakeTransactions(const pugi::xml_node& node)
+    {
+        if (qstrcmp(node.name(), "x") == 0) {
+            const std::optional<cSkippedRow> row = TransactionOf(m_pieces.Take(node.attribute("piece").as_uint()));
+            if (row) {
+                Take(*row);
+            }
+            return;
+        }
+        for (const pugi::xml_node& piece : node.children("x")) {
+            TakeTransactions(piece);
+        }
+    }
+
+    void Take(const cSkippedRow& row)
+    {
+        if (row.Reason.Text.isEmpty()) {
+            m_read.Entries.append(row.Entry);
+        } else {
+            m_read.Skipped.append(row);
+        }
+    }
+
+    // The transaction with the reason why it is none; empty when it has no end.
+    [[nodiscard]] std::optional<cSkippedRow> TransactionOf(QByteArrayView piece)
     {
         pugi::xml_document document;
         if (!modXmlNode::Load(document, piece)) {
             m_isBroken = true;
-            return;
+            return std::nullopt;
         }
         const pugi::xml_node node = document.first_child();
-        cImportEntry entry;
-        entry.ImportAccount = m_account;
-        entry.ImportDate = DateOf(TextOf(node, "DTPOSTED"));
-        entry.ImportPurpose = PurposeOf(node);
-        entry.ImportCurrency = m_currency;
-        entry.ImportValue = ReadValue(TextOf(node, "TRNAMT"));
-        if (entry.ImportDate == noDate) {
-            Report(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {TextOf(node, "DTPOSTED").left(40)}));
+        const QString day = TextOf(node, "DTPOSTED");
+        const QString amount = TextOf(node, "TRNAMT");
+        const std::optional<double> value = modAmount::TryReadGerman(modOfxText::ToGermanAmount(amount));
+        cSkippedRow row;
+        row.Entry.ImportAccount = m_account;
+        row.Entry.ImportDate = DateOf(day);
+        row.Entry.ImportPurpose = PurposeOf(node);
+        row.Entry.ImportCurrency = m_currency;
+        row.Entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
+        if (!row.Entry.ImportDate.isValid()) {
+            row.Reason.Text = cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {day.left(40)});
+        } else if (!value) {
+            row.Reason.Text = cText::Tr("Der Betrag ist keine Zahl: {0}", {amount.left(40)});
         }
-        m_read.Entries.append(entry);
+        return row;
+    }
+
+    // What the walk over the statements has not met stands outside of them.
+    void TellStrays()
+    {
+        m_account = m_options.Account;
+        m_currency.clear();
+        for (unsigned int number = 0; number < m_pieces.Pieces.size(); ++number) {
+            const QByteArrayView piece = m_pieces.Take(number);
+            std::optional<cSkippedRow> row = piece.isEmpty() ? std::nullopt : TransactionOf(piece);
+            if (row) {
+                row->Reason.Text = cText::Tr("Der Umsatz steht außerhalb der Auszüge in der Datei.");
+                m_read.Skipped.append(*row);
+            }
+        }
     }
 
     [[nodiscard]] QString PurposeOf(const pugi::xml_node& node) const
@@ -135,15 +185,6 @@ private:
         return takesName ? modStatementText::DecodeField(TextOf(node, "NAME")) : memo;
     }
 
-    qint64 ReadValue(const QString& amount)
-    {
-        const std::optional<double> value = modAmount::TryReadGerman(modOfxText::ToGermanAmount(amount));
-        if (!value) {
-            Report(cText::Tr("Der Betrag ist keine Zahl: {0}", {amount.left(40)}));
-        }
-        return modAmount::ToEvenCents(value.value_or(0.0));
-    }
-
     void TakeBalance(const pugi::xml_node& ledger)
     {
         const std::optional<double> euros =
@@ -151,12 +192,9 @@ private:
         if (!euros) {
             return;
         }
-        const QDate date = DateOf(TextOf(ledger, "DTASOF"));
         m_read.ClosingBalance = modAmount::ToCents(*euros);
-        m_read.Balances.append({m_account, *m_read.ClosingBalance, date == noDate ? QDate() : date});
+        m_read.Balances.append({m_account, *m_read.ClosingBalance, DateOf(TextOf(ledger, "DTASOF"))});
     }
-
-    void Report(const QString& text) { m_read.Problems.append({0, text}); }
 
     modXmlPieces::cPieces m_pieces;
     const cReadOptions& m_options;
@@ -196,8 +234,8 @@ bool modOfx::IsOfx(const QString& text)
     }
     // Statements without transactions, of a securities account, or cut off: still better refused or read as what they
     // are than taken for a table.
-    const QString start = text.left(2000);
-    return start.contains(u"OFXHEADER") && start.contains(u"<OFX>", Qt::CaseInsensitive);
+    const QString start = text.left(2000).trimmed();
+    return (start.startsWith(u'<') || start.contains(u"OFXHEADER")) && start.contains(u"<OFX>", Qt::CaseInsensitive);
 }
 
 cStatementRead modOfx::Read(const cStatementSource& source, const cReadOptions& options)

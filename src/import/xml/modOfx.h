@@ -12,7 +12,8 @@ namespace modOfx {
 // True for a text that is such a file, whatever it holds.
 [[nodiscard]] bool IsOfx(const QString& text);
 
-// The transactions of all statements of the file. A file without statements gives an empty list.
+// The transactions of all statements of the file, whether they stand in their list or beside it. Those without a day or
+// an amount, and those outside of all statements, become skipped rows, so that none is missing unsaid.
 [[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
 
 // The same from the XML that a text was turned into (UTF-8). A refusal when it is no XML.

@@ -127,6 +127,8 @@ public:
     }
 
 private:
+    static constexpr QByteArrayView transaction = "STMTTRN";
+
     struct cOpen
     {
         QByteArrayView Name;
@@ -153,6 +155,9 @@ private:
     // A tag with a value is closed behind it, whether it has an end tag or not.
     qsizetype Open(const cTag& tag)
     {
+        if (Is(tag.Name, transaction) || Is(tag.Name, "LEDGERBAL")) {
+            EndTransaction();
+        }
         Begin(tag.Name);
         const qsizetype place = m_out.size();
         const qsizetype end = TakeValue(tag.End);
@@ -176,13 +181,33 @@ private:
             return;
         }
         while (m_open.back().Name != name) {
-            m_missing.push_back(m_open.back());
-            --m_counts[m_open.back().Name];
+            const cOpen open = m_open.back();
             m_open.pop_back();
+            --m_counts[open.Name];
+            if (Is(open.Name, transaction)) {
+                End(open.Name); // what stands in it belongs to it
+            } else {
+                m_missing.push_back(open);
+            }
         }
         --m_counts[name];
         m_open.pop_back();
         End(name);
+    }
+
+    // Transactions hold no other ones: one that is open lacks its end tag.
+    void EndTransaction()
+    {
+        const auto open =
+            std::find_if(m_open.rbegin(), m_open.rend(), [](const cOpen& tag) { return Is(tag.Name, transaction); });
+        if (open != m_open.rend()) {
+            Close(open->Name);
+        }
+    }
+
+    static bool Is(QByteArrayView name, QByteArrayView wanted)
+    {
+        return name.compare(wanted, Qt::CaseInsensitive) == 0;
     }
 
     // Appends the value from the place on and returns where it ends; blanks around it go.

@@ -1,5 +1,7 @@
 #include "import/xml/modXmlNode.h"
 
+#include "base/modDate.h"
+
 #include <cstring>
 
 namespace {
@@ -32,6 +34,14 @@ bool modXmlNode::Load(pugi::xml_document& document, QByteArrayView xml)
 QString modXmlNode::Text(const pugi::xml_node& node)
 {
     return QString::fromUtf8(node.child_value()).replace(u'\n', u' ').trimmed();
+}
+
+QDate modXmlNode::Day(const pugi::xml_node& node)
+{
+    constexpr qsizetype daySize = 10;
+    const QString text = Text(node);
+    const bool hasEnd = text.size() == daySize || QStringView(u"T Z+-").contains(text.mid(daySize, 1));
+    return hasEnd ? modDate::FromIso(text.left(daySize)) : QDate();
 }
 
 bool modXmlNode::IsText(const pugi::xml_node& node, const char* text)

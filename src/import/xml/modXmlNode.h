@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QDate>
 #include <QString>
 
 #include <pugixml.hpp>
@@ -14,6 +15,10 @@ namespace modXmlNode {
 
 // The text of the element, blanks around it removed and line breaks inside turned into blanks.
 [[nodiscard]] QString Text(const pugi::xml_node& node);
+
+// The day of a date or a time as written; a zone behind it ("2026-09-01+02:00", "2026-09-01Z") does not move it.
+// Invalid when the text is none.
+[[nodiscard]] QDate Day(const pugi::xml_node& node);
 
 // True when this is the text of the element.
 [[nodiscard]] bool IsText(const pugi::xml_node& node, const char* text);

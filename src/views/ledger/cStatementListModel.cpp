@@ -7,6 +7,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/read/modAccountNumber.h"
+#include "model/modCutText.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/modBalanceText.h"
@@ -201,8 +202,8 @@ cListFilter& cStatementListModel::Texts()
     if (!m_filter) {
         m_filter = std::make_unique<cListFilter>(m_tools.Format);
         for (const cImportEntry& row : m_ledger.Rows()) {
-            const QStringList texts{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
-                                    row.ImportBeneficiaryAccount};
+            const QStringList texts{modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose),
+                                    row.ImportType, row.ImportBeneficiaryAccount};
             const int text = m_filter->AddText(OneLine(texts.join(u' ')));
             m_filter->AddRow(text, text, row.ImportDate);
         }
@@ -390,8 +391,9 @@ QString cStatementListModel::Text(qsizetype row, int column) const
     const cImportEntry& entry = m_ledger.Rows().at(row);
     switch (column) {
     case Day: return modDate::ToGerman(entry.ImportDate);
-    case Counterparty: return OneLine(entry.ImportBeneficiary);
-    case Purpose: return OneLine(entry.ImportPurpose.isEmpty() ? entry.ImportType : entry.ImportPurpose);
+    case Counterparty: return OneLine(modCutText::Name(entry.ImportBeneficiary));
+    case Purpose:
+        return OneLine(entry.ImportPurpose.isEmpty() ? entry.ImportType : modCutText::Purpose(entry.ImportPurpose));
     case Amount: return m_tools.Format.Cents(m_ledger.CentsOf(row));
     case Balance: return m_tools.Format.Cents(m_ledger.BalanceAfter(row + 1));
     case State: return entry.ImportAssigned ? cText::Tr("gebucht") : cText::Tr("offen");

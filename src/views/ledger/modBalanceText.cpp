@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "model/modCutText.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/list/modUnread.h"
 
@@ -18,8 +19,9 @@ namespace {
 
 constexpr int mostNamed = 3; // differences in full; more would fill the window
 
-QString NameOf(const cImportEntry& row)
+QString NameOf(const cImportEntry& torn)
 {
+    const cImportEntry row = modCutText::WholeWords(torn);
     const QString name = row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary;
     constexpr qsizetype most = 40;
     return name.size() > most ? name.left(most).trimmed() + u'…' : (name.isEmpty() ? row.ImportType : name);

@@ -47,6 +47,8 @@ struct cFileReport
     QString Numbers;     // "7 gelesen, 5 neu"
     QStringList Notes;   // what else became of the file: accounts that its numbers belong to now
     bool IsDone = false; // all of it is as it should be
+
+    bool HasStrayDetails = false; // refused only because of them, see cFileWish
 };
 
 // What a file is and how it would be read.

@@ -16,4 +16,5 @@ struct cFileWish
     bool TakesEqual = false; // rows that the file has more often than the book, also where no balance proves them
     bool Remembers = false;  // columns and layout, for the next table with the same header
     bool IsTrial = false;    // nothing is written
+    bool SkipsStrayDetails = false; // of an MT940 statement, before its first transaction
 };

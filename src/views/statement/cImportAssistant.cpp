@@ -15,6 +15,7 @@
 #include "import/table/cTableMemory.h"
 #include "import/table/modTableRows.h"
 #include "import/table/modTableValue.h"
+#include "model/modCutText.h"
 #include "store/cDataAccess.h"
 #include "views/statement/modColumnMeaning.h"
 #include "views/statement/modImportPreview.h"
@@ -395,8 +396,8 @@ void cImportAssistant::ReadPreview()
         m_rows.append({0,
                        {},
                        modDate::ToGerman(entry.ImportDate),
-                       entry.ImportBeneficiary.simplified(),
-                       entry.ImportPurpose.simplified(),
+                       modCutText::Name(entry.ImportBeneficiary).simplified(),
+                       modCutText::Purpose(entry.ImportPurpose).simplified(),
                        m_parts.Format.Cents(entry.ImportValue),
                        {},
                        false});

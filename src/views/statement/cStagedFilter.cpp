@@ -1,5 +1,7 @@
 #include "views/statement/cStagedFilter.h"
 
+#include "model/modCutText.h"
+
 #include <QHash>
 #include <QStringList>
 
@@ -24,8 +26,9 @@ cShared Shared(const cImportEntry& row)
 
 QString Words(const cImportEntry& row)
 {
-    return QStringList{row.ImportBeneficiary, row.ImportType, row.ImportBeneficiaryAccount, row.ImportAccount}.join(
-        u'\n');
+    return QStringList{modCutText::Name(row.ImportBeneficiary), row.ImportType, row.ImportBeneficiaryAccount,
+                       row.ImportAccount}
+        .join(u'\n');
 }
 
 } // namespace
@@ -38,7 +41,7 @@ cStagedFilter::cStagedFilter(const cImportEntryList& rows, const cAmountFormat& 
         if (isNew) {
             words->second = m_filter.AddText(Words(row));
         }
-        m_filter.AddRow(words->second, m_filter.AddText(row.ImportPurpose), row.ImportDate);
+        m_filter.AddRow(words->second, m_filter.AddText(modCutText::Purpose(row.ImportPurpose)), row.ImportDate);
     }
 }
 

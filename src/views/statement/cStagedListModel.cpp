@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "model/modCutText.h"
 #include "model/modWord.h"
 #include "views/list/modEntryOrder.h"
 #include "views/statement/modImportText.h"
@@ -295,8 +296,8 @@ QString cStagedListModel::Text(const cImportEntry& row, int column) const
             : InfoOf(row).IsDoubtful ? cText::Tr("doppelt?")
                                      : cText::Tr("offen");
     case Date: return modDate::ToGerman(row.ImportDate);
-    case Counterparty: return row.ImportBeneficiary;
-    case Purpose: return row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose;
+    case Counterparty: return modCutText::Name(row.ImportBeneficiary);
+    case Purpose: return row.ImportPurpose.isEmpty() ? row.ImportType : modCutText::Purpose(row.ImportPurpose);
     case Amount: return m_format.Cents(row.ImportValue);
     case Account: return AccountText(row);
     case Category: return InfoOf(row).Category;

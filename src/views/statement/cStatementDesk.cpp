@@ -86,6 +86,7 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
         report.Skipped.append({Line(row.Reason), Name(row.Kind), row.Entry});
     }
     report.IsRefused = result.IsRefused;
+    report.HasStrayDetails = result.HasStrayDetails;
     report.Message = result.Message;
     if (result.Doubt) {
         report.Message = cText::Tr("{0} {1} Lesen Sie sie mit \"--sign {2}\" oder \"--sign {3}\" ein.",
@@ -319,6 +320,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.DefaultAccount = wish.Account;
     options.Table = modTableOption::Choice(wish);
     options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
+    options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
     cNoProgress progress;
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);

@@ -180,7 +180,10 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
             run.Newest = NewestRow();
-            const cImportResult result = m_works->Import.ImportFetched(statements.at(place), {}, progress);
+            cImportOptions options;
+            const cImportResult result = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
+                return m_works->Import.ImportFetched(statements.at(place), wanted, progress);
+            });
             AssignFetched(statements.at(place), result);
             Note(result, run);
             taken(place, result);
@@ -219,7 +222,7 @@ cImportResult cStatementFiles::ImportFile(const cFile& file, cRun& run)
 
 void cStatementFiles::NoteRefusal(const cImportResult& result, cRun& run)
 {
-    if (result.IsRefused) {
+    if (result.IsRefused && !result.HasStrayDetails) { // of those the user has been asked
         run.Refusals.append(QFileInfo(result.File).fileName() + u'\n' + result.Message);
     }
 }
@@ -228,12 +231,33 @@ cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
 {
     cImportOptions options;
     options.Uncertain = m_assist ? eUncertain::Ask : eUncertain::Read;
-    const cImportResult result = m_works->Import.ImportFile(path, options, run.Progress);
-    return result.NeedsAccount && !result.NeedsAssistant ? AskForAccount(path, result, run) : result;
+    const cImportResult result = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
+        return m_works->Import.ImportFile(path, wanted, run.Progress);
+    });
+    return result.NeedsAccount && !result.NeedsAssistant ? AskForAccount(path, result, options, run) : result;
+}
+
+cImportResult cStatementFiles::OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import)
+{
+    cImportResult result = import(options);
+    if (!result.HasStrayDetails) {
+        return result;
+    }
+    run.Progress.hideProgressBar();
+    const QString name = result.IsFetched ? result.File : QFileInfo(result.File).fileName();
+    const cDecision decision{.Text = name + u'\n' + result.Message,
+                             .Title = cText::Tr("Kontoauszug einlesen"),
+                             .Options = {cText::Tr("&Ohne diese Zeilen lesen"), cText::Tr("&Nicht einlesen")}};
+    if (m_tools.User.Decide(decision) != 0) {
+        return result;
+    }
+    options.StrayDetails = eStrayDetails::PassOver;
+    return import(options);
 }
 
 // A file that does not name its account is read with the number that the user gives.
-cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportResult& result, cRun& run)
+cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportResult& result, cImportOptions options,
+                                             cRun& run)
 {
     run.Progress.hideProgressBar();
     QStringList numbers = m_works->Memory.Accounts(result.AccountKey);
@@ -257,8 +281,8 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     if (number.isEmpty()) {
         return result;
     }
-    cImportOptions options;
     options.DefaultAccount = number;
+    options.Uncertain = eUncertain::Read;
     const cImportResult second = m_works->Import.ImportFile(path, options, run.Progress);
     if (!second.IsRefused && !second.IsCancelled) {
         m_works->Memory.SaveAccount(second.AccountKey, number);
@@ -297,7 +321,10 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
     cUndoPart part(m_tools.Data);
     const QList<int> booked = RemoveOpen(file.Rows);
     run.Newest = NewestRow(); // the numbers of removed rows come again
-    result = m_works->Import.ImportSource(assistant->Source(), assistant->Options(), run.Progress);
+    cImportOptions options = assistant->Options();
+    result = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
+        return m_works->Import.ImportSource(assistant->Source(), wanted, run.Progress);
+    });
     if (result.IsRefused || result.IsCancelled) {
         part.Revert();
         run.Newest = NewestRow();

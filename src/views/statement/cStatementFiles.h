@@ -17,6 +17,7 @@ class cImportHiveCache;
 class cProgress;
 struct cBookTools;
 struct cFetchedStatement;
+struct cImportOptions;
 struct cImportResult;
 struct cRepeat;
 
@@ -110,7 +111,11 @@ private:
     void AssignFetched(const cFetchedStatement& statement, const cImportResult& result);
     [[nodiscard]] cImportResult ImportFile(const cFile& file, cRun& run);
     [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
-    [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cRun& run);
+    [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cImportOptions options,
+                                              cRun& run);
+    // Imports with the options, and once more without the lines for which it was refused where the user wants that.
+    using fnImport = std::function<cImportResult(const cImportOptions&)>;
+    [[nodiscard]] cImportResult OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import);
     [[nodiscard]] cImportResult Assist(const cFile& file, cRun& run);
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);

@@ -9,6 +9,7 @@
 #include "model/cMatch.h"
 #include "model/cProposal.h"
 #include "model/cRowPlan.h"
+#include "model/modCutText.h"
 
 #include <QFileInfo>
 
@@ -106,16 +107,17 @@ QString modImportText::Question(const cTableDoubt& doubt, const cAmountFormat& f
 
 QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
 {
-    QStringList parts{modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),
-                      row.ImportBeneficiary.simplified(),
-                      (row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose).simplified()};
+    QStringList parts{
+        modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),
+        modCutText::Name(row.ImportBeneficiary).simplified(),
+        (row.ImportPurpose.isEmpty() ? row.ImportType : modCutText::Purpose(row.ImportPurpose)).simplified()};
     parts.removeAll(QString());
     return parts.join(u"  ·  "_s);
 }
 
 QString modImportText::Details(const cImportEntry& row)
 {
-    QStringList lines{row.ImportBeneficiary, row.ImportPurpose, row.ImportType,
+    QStringList lines{modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose), row.ImportType,
                       QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ).trimmed()};
     lines.removeAll(QString());
     return lines.join(u'\n');

@@ -1,6 +1,7 @@
 #include "views/statement/modStagedGroup.h"
 
 #include "base/cText.h"
+#include "model/modCutText.h"
 #include "views/list/modEntryOrder.h"
 
 #include <QDate>
@@ -19,7 +20,7 @@ constexpr std::array<const char16_t*, 3> words{u"Keine Gruppierung", u"Nach Empf
 // One shop comes in several spellings of upper and lower case; the first one is shown for all.
 QString Counterparty(const cImportEntry& row)
 {
-    const QString name = row.ImportBeneficiary.simplified();
+    const QString name = modCutText::Name(row.ImportBeneficiary).simplified();
     return name.isEmpty() ? row.ImportBeneficiaryAccount : name;
 }
 

@@ -1,0 +1,62 @@
+#include "import/stage/cKnownAccounts.h"
+
+#include "core/cSettings.h"
+#include "import/read/cStatementRead.h"
+#include "import/read/modAccountNumber.h"
+#include "model/modSettingKey.h"
+
+#include <algorithm>
+#include <iterator>
+
+cKnownAccounts::cKnownAccounts(QStringList staged, cSettings& settings)
+    : m_staged(std::move(staged)),
+      m_settings(settings)
+{
+}
+
+void cKnownAccounts::UseIn(cStatementRead& read)
+{
+    m_bankCodes = read.BankCodes;
+    for (cImportEntry& entry : read.Entries) {
+        entry.ImportAccount = FormOf(entry.ImportAccount);
+    }
+    for (cSkippedRow& row : read.Skipped) {
+        row.Entry.ImportAccount = FormOf(row.Entry.ImportAccount);
+    }
+    for (cAccountBalance& balance : read.Balances) {
+        balance.Account = FormOf(balance.Account);
+    }
+}
+
+bool cKnownAccounts::KeepBankCodes() const
+{
+    return std::all_of(m_bankCodes.keyValueBegin(), m_bankCodes.keyValueEnd(), [this](const auto& named) {
+        const QString form = m_forms.value(named.first, named.first);
+        const bool isNews = modAccountNumber::IsBankCode(named.second) && !modAccountNumber::IsGermanIban(form)
+            && m_settings.Get(modSettingKey::BankCode.Of(form)).isEmpty();
+        return !isNews || m_settings.Set(modSettingKey::BankCode.Of(form), named.second);
+    });
+}
+
+const QString& cKnownAccounts::FormOf(const QString& number)
+{
+    auto known = m_forms.find(number);
+    if (known == m_forms.end()) {
+        known = m_forms.insert(number, Find(number));
+    }
+    return *known;
+}
+
+// The number itself when nothing is staged of the account, and when it could be several.
+QString cKnownAccounts::Find(const QString& number) const
+{
+    if (m_staged.contains(number)) {
+        return number;
+    }
+    QStringList same;
+    std::copy_if(m_staged.begin(), m_staged.end(), std::back_inserter(same), [&](const QString& staged) {
+        return modAccountNumber::IsSame(number, m_bankCodes.value(number), staged,
+                                        m_settings.Get(modSettingKey::BankCode.Of(staged)));
+    });
+    return same.size() == 1 ? same.first() : number;
+}
