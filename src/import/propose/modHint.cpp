@@ -143,11 +143,15 @@ cKeywords KeywordsIn(const cView& view, const cImportEntry& row)
     return found;
 }
 
+QStringView NameIn(const cKeywords& keywords, const cView& view)
+{
+    return QStringView(keywords.Text).first(qMin(view.NameSize, keywords.Text.size()));
+}
+
 // Two rules, or a rule and the list, that name different categories. Who is paid says more than the purpose.
 bool HasRival(const cKeywords& keywords, const cView& view)
 {
-    const bool isName =
-        modKeywordTrust::IsSound(keywords.Last.Keyword, QStringView(keywords.Text).first(qMin(view.NameSize, keywords.Text.size())));
+    const bool isName = modKeywordTrust::IsSound(keywords.Last.Keyword, NameIn(keywords, view));
     const bool hasRule = std::any_of(keywords.All.begin(), keywords.All.end(), [&](const cMatch& other) {
         return !other.Category.isEmpty() && IsOther(other.Category, keywords.Last.Category) && !isName
             && modKeywordTrust::IsSound(other.Keyword, keywords.Text);
@@ -192,7 +196,8 @@ cHint modHint::Best(const cImportEntry& row)
     if (!keywords.Last.Category.isEmpty() && modKeywordTrust::IsSound(keywords.Last.Keyword, keywords.Text)) {
         cHint hint = FromRule(keywords.Last, view.Cents);
         hint.IsSure = modKeywordTrust::FitsSign(hint.Category, view.Cents)
-            && !modKeywordTrust::IsDoubtful(keywords.Last.Keyword) && !HasRival(keywords, view);
+            && !modKeywordTrust::IsDoubtful(keywords.Last.Keyword, keywords.Text, NameIn(keywords, view))
+            && !HasRival(keywords, view);
         return hint;
     }
     const cFound* const best = BestOf(view.All);

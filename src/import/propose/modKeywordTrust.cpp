@@ -28,12 +28,12 @@ bool CanOpen(const QString& keyword)
         u"vodafon|telekom|telecom|stadtwerke|naturenergie|rundfunkbeitrag|getränke|getraenke|elterngeld|kindergeld|zinsen|"
         u"fitness|mcfit|bußgeld|bussgeld|verkehrsueberwach|kfz-steuer|haftpflicht|rossmann|hundesteuer|fahrrad|stellplatz|"
         u"deichmann|mcdonalds|cinemaxx|cineplex|cinestar|steuererstatt|steuererst|rückerstattung|rueckerstattung|"
-        u"taschengeld|familienkasse|kaufland|marktkauf|ikea|bausparkasse|lotto|docmorris|baumarkt|drogeriemarkt|gehalt|"
+        u"taschengeld|strom|familienkasse|kaufland|marktkauf|ikea|bausparkasse|lotto|docmorris|baumarkt|drogeriemarkt|gehalt|"
         u"rechtsschutzversicherung|risikoversicherung|haushaltversicherung|tankstelle|auktion|strato|alltours"_s);
     return openings.contains(keyword);
 }
 
-// "gehaltsabrechnung", but whole or last only: "mietenverein", "einkommensteuer", "lohnsteuer".
+// Longer keywords mean the same at the end of a compound; not these.
 bool CanClose(const QString& keyword)
 {
     static const QSet<QString> whole = SetOf(u"total|metro|norma|colt|einkommen|univer|shell|lidl"_s);
@@ -62,11 +62,22 @@ bool modKeywordTrust::IsSound(const QString& keyword, QStringView text)
     return false;
 }
 
-bool modKeywordTrust::IsDoubtful(const QString& keyword)
+bool modKeywordTrust::IsDoubtful(const QString& keyword, QStringView text, QStringView name)
 {
     static const QSet<QString> doubtful =
-        SetOf(u"total|metro|norma|colt|bitel|garage|airbnb|hfb|sgd|hood|geschenk|univer|accom|amazon|energie|xing|"
-              u"fahrrad|handelshof"_s);
+        SetOf(u"total|metro|norma|colt|bitel|garage|airbnb|hfb|sgd|hood|geschenk|univer|accom|amazon|xing|fahrrad|"
+              u"handelshof|bausparkasse"_s);
+    static const QSet<QString> works = SetOf(u"stadtwerke|staedtische werke|energie|naturenergie|e.on|eon"_s);
+    static const QSet<QString> persons = SetOf(u"lohn|gehalt"_s);
+    if (works.contains(keyword)) {
+        return !IsSound(u"strom"_s, text);
+    }
+    if (persons.contains(keyword)) {
+        return !IsSound(keyword, text.sliced(name.size()));
+    }
+    if (keyword == u"fitness"_s) {
+        return !text.contains(u"beitrag"_s) && !text.contains(u"mitglied"_s); // a shop for it, or the shoes
+    }
     return doubtful.contains(keyword);
 }
 

@@ -12,8 +12,10 @@ namespace modKeywordTrust {
 // Both are lower case.
 [[nodiscard]] bool IsSound(const QString& keyword, QStringView text);
 
-// Keywords that name more than the category of their rule even as a word: "garage", "total", "metro".
-[[nodiscard]] bool IsDoubtful(const QString& keyword);
+// Keywords that name more than the category of their rule even as a word: "garage", "total", "metro". Of works that
+// sell gas, water and parking too it takes the word for what was sold, and a person may be called Lohn: `name` is the
+// part of the text that holds the counterparty.
+[[nodiscard]] bool IsDoubtful(const QString& keyword, QStringView text, QStringView name);
 
 // False for an income under a category of expenses and the other way round.
 [[nodiscard]] bool FitsSign(const QString& category, qint64 cents);
