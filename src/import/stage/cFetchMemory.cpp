@@ -6,27 +6,38 @@
 
 #include <QCryptographicHash>
 #include <QStringList>
+#include <QtEndian>
+#include <QVarLengthArray>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype digestSize = 16; // of hexadecimal digits: far more than a few hundred rows need
-
-QString WithoutBlanks(QString text)
-{
-    return text.removeIf([](QChar c) { return c.isSpace(); });
-}
+constexpr int digits = 16; // hexadecimal ones of a digest: far more than a few thousand rows need
 
 // The account is that of the setting; it may be staged in another form after a change of formats.
-QString DigestOf(const cImportEntry& row)
+quint64 DigestOf(const cImportEntry& row)
 {
-    const QStringList fields{modDate::ToIso(row.ImportDate),       QString::number(row.ImportValue),
-                             row.ImportBeneficiaryAccount,         row.ImportBeneficiaryBLZ,
-                             WithoutBlanks(row.ImportBeneficiary), WithoutBlanks(row.ImportPurpose)};
-    const QByteArray digest =
-        QCryptographicHash::hash(fields.join(u'\n').toUtf8(), QCryptographicHash::Sha1).toHex().left(digestSize);
-    return QString::fromLatin1(digest);
+    QVarLengthArray<char16_t, 512> fields;
+    const auto add = [&](const QString& field, bool isExact) {
+        for (const QChar c : field) {
+            if (isExact || !c.isSpace()) {
+                fields.append(c.unicode());
+            }
+        }
+        fields.append(u'\n');
+    };
+    add(modDate::ToIso(row.ImportDate), true);
+    add(QString::number(row.ImportValue), true);
+    add(row.ImportBeneficiaryAccount, true);
+    add(row.ImportBeneficiaryBLZ, true);
+    add(row.ImportBeneficiary, false);
+    add(row.ImportPurpose, false);
+    const QByteArray text = QStringView(fields.constData(), fields.size() - 1).toUtf8();
+    return qFromBigEndian<quint64>(QCryptographicHash::hash(text, QCryptographicHash::Sha1).constData());
 }
 
 } // namespace
@@ -35,9 +46,14 @@ QString DigestOf(const cImportEntry& row)
 cFetchMemory::cFetchMemory(cSettings& settings, const QString& account) : m_settings(settings), m_account(account)
 {
     const QStringList parts = settings.Get(modSettingKey::Fetched.Of(account)).split(u';', Qt::SkipEmptyParts);
-    for (const QString& part : parts) {
-        if (const QDate day = modDate::FromIso(part.section(u'=', 0, 0)); day.isValid()) {
-            m_rows.insert(part.section(u'=', 1), day);
+    m_rows.reserve(parts.size());
+    for (const QStringView part : parts) {
+        const qsizetype sign = part.indexOf(u'=');
+        const QDate day = modDate::FromIso(part.left(sign));
+        bool isDigest = false;
+        const quint64 digest = part.mid(sign + 1).toULongLong(&isDigest, 16);
+        if (sign > 0 && isDigest && day.isValid()) {
+            m_rows.insert(digest, day);
             m_oldest = m_oldest.isValid() ? qMin(m_oldest, day) : day;
         }
     }
@@ -51,16 +67,23 @@ bool cFetchMemory::HasBrought(const cImportEntry& row) const
 bool cFetchMemory::Note(const cImportEntryList& rows, QDate day)
 {
     m_oldest = day.addDays(-KeptDays);
+    m_rows.reserve(m_rows.size() + rows.size());
     for (const cImportEntry& row : rows) {
         if (row.ImportDate >= m_oldest) {
             m_rows.insert(DigestOf(row), row.ImportDate);
         }
     }
     m_rows.removeIf([this](auto row) { return row.value() < m_oldest; });
-    QStringList kept;
+    QList<std::pair<QDate, quint64>> kept;
+    kept.reserve(m_rows.size());
     for (auto row = m_rows.constKeyValueBegin(); row != m_rows.constKeyValueEnd(); ++row) {
-        kept.append(modDate::ToIso(row->second) + u'=' + row->first);
+        kept.append({row->second, row->first});
     }
-    kept.sort();
-    return m_settings.Set(modSettingKey::Fetched.Of(m_account), kept.join(u';'));
+    std::sort(kept.begin(), kept.end());
+    QStringList texts;
+    texts.reserve(kept.size());
+    for (const auto& [date, digest] : std::as_const(kept)) {
+        texts.append(modDate::ToIso(date) + u'=' + QString::number(digest, 16).rightJustified(digits, u'0'));
+    }
+    return m_settings.Set(modSettingKey::Fetched.Of(m_account), texts.join(u';'));
 }
