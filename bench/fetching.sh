@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # 100,000 transactions as a bank's answer beside the same file, MT940 and camt: all within the days that a fetch remembers,
-# and spread over two years.
+# and spread over two years. Of the last run, MT940 and camt: 1.18 and 1.27, 1.46 and 1.37 the second time; spread 1.02 and
+# 1.12, 1.12 and 1.17.
 # cmake --preset release -DBUILD_TESTING=ON -DAPP_BENCH=ON && cmake --build --preset release --target readStatement readFetched
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."

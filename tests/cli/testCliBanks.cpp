@@ -1,6 +1,7 @@
 #include "app/cFileLock.h"
 #include "app/cQtRegistry.h"
 #include "app/cQtShell.h"
+#include "cCliRun.h"
 #include "cli/cCliPaint.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliMain.h"
@@ -11,6 +12,7 @@
 #include "views/bank/cBankListModel.h"
 #include "views/book/cBookAccess.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -94,7 +96,7 @@ const QString talk = login + u"|--url|https://bank.example/fints|--product|PRODU
 
 } // namespace
 
-// Bank logins from the command line.
+// Banks and logins from the command line.
 class testCliBanks final : public QObject
 {
     Q_OBJECT
@@ -123,6 +125,21 @@ private Q_SLOTS:
         QCOMPARE(scene.Run(u"banks|remove"_s + login + u"|--yes"_s), 0);
         QCOMPARE(scene.Logins(), QStringList());
         QVERIFY(scene.Bank.IsQuiet());
+    }
+
+    void FindsABankWithoutABook()
+    {
+        const QTemporaryDir folder;
+        const cCliRun found = cCliRun::GoodLine(folder.path(), u"bank-search|DE89|3704|0044|0532|0130|00|--json"_s);
+        QCOMPARE(found.Column(u"Code"_s), QStringList(u"37040044"_s));
+        QCOMPARE(found.Column(u"Url"_s), QStringList(u"https://fints.commerzbank.de/fints"_s));
+        QVERIFY(cCliRun::GoodLine(folder.path(), u"bank-search|bundesbank"_s).Out.contains(u"keine Adresse bekannt"));
+        QVERIFY(cCliRun::GoodLine(folder.path(), u"bank-search|sparkasse"_s).Out.contains(u"passen auch"));
+        const cCliRun wrong = cCliRun::Line(folder.path(), u"bank-search|DE89370400440532013001|--json"_s);
+        QCOMPARE(wrong.Code, 1);
+        QVERIFY(wrong.Error.contains(u"Prüfziffern"));
+        QCOMPARE(wrong.Json().size(), 0);
+        QVERIFY(QDir(folder.path()).isEmpty()); // neither a book nor a folder for one
     }
 
     void RefusesACallThatSaysTooLittle_data()

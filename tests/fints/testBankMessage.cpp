@@ -15,7 +15,6 @@ struct cCase
     QByteArray DialogId = "0";
     int Number = 1;
     QString Tan{};
-    QString Version = u"300"_s;
 };
 
 QByteArray TextOf(const cCase& that, const QList<HBCISegment>& business)
@@ -23,7 +22,6 @@ QByteArray TextOf(const cCase& that, const QList<HBCISegment>& business)
     const cSecret pin(u"12345");
     const cSecret tan(that.Tan);
     cEnvelope envelope;
-    envelope.HbciVersion = that.Version;
     envelope.DialogId = that.DialogId;
     envelope.MessageNumber = that.Number;
     envelope.BankCode = u"12345678"_s;
@@ -49,13 +47,6 @@ cBankAccount Account()
     account.Iban = u"DE02123456781234567890"_s;
     account.Bic = u"TESTDEFFXXX"_s;
     return account;
-}
-
-QByteArray SynchronisationText(const QString& version)
-{
-    return TextOf({.Version = version},
-                  {HBCIFactory::Identification(u"12345678"_s, u"testuser"_s, "0"), Preparation(version, u"0"_s, u"0"_s),
-                   HBCIFactory::Synchronisation(version)});
 }
 
 QByteArray StatementText()
@@ -84,7 +75,11 @@ private Q_SLOTS:
         const cCase second{.Function = u"922"_s, .SystemId = "SYSID1", .DialogId = "DIALOG2", .Number = 3};
         cCase withTan = second;
         withTan.Tan = u"777666"_s;
-        QTest::newRow("synchronisation") << SynchronisationText(u"3.0"_s) << 370 << 209;
+        QTest::newRow("synchronisation") << TextOf({},
+                                                   {HBCIFactory::Identification(u"12345678"_s, u"testuser"_s, "0"),
+                                                    Preparation(u"300"_s, u"0"_s, u"0"_s),
+                                                    HBCIFactory::Synchronisation(u"300"_s)})
+                                         << 370 << 209;
         QTest::newRow("end") << TextOf({.SystemId = "SYSID1", .DialogId = "DIALOG1", .Number = 2},
                                        {HBCIFactory::End("DIALOG1")})
                              << 309 << 137;
@@ -123,16 +118,6 @@ private Q_SLOTS:
               "HNSHA:5:2+1++12345''"
               "HNHBS:6:1+2'";
         QCOMPARE(StatementText(), expected);
-    }
-
-    void AnOldProtocolHasOldVersions()
-    {
-        const QByteArray text = SynchronisationText(u"220"_s);
-        for (const char* head :
-             {"HNHBK:1:3+000000000", "+220+0+1'", "HNVSK:998:2+PIN:1+", "@HNSHK:2:3+PIN:1+", "'HKIDN:3:2+",
-              "'HKVVB:4:2+", "'HKSYN:5:2+0'", "'HNSHA:6:1+1++12345'", "'HNHBS:7:1+1'"}) {
-            QVERIFY2(text.contains(head), head);
-        }
     }
 
     // Typed texts are escaped, what came from the bank is sent as it came.

@@ -44,10 +44,8 @@ private Q_SLOTS:
     void FindsAccounts();
     void SaysWhatIsWrong_data();
     void SaysWhatIsWrong();
-    void WaitsForTheChoiceOfAMedium();
     void RemembersWhatCameBeforeAFailure();
     void OffersApprovalFirst();
-    void ShowsAnotherAddress();
     void SendsNothingWithoutRegistration();
 };
 
@@ -189,21 +187,6 @@ void testBusinessSetUp::SaysWhatIsWrong()
     }
 }
 
-void testBusinessSetUp::WaitsForTheChoiceOfAMedium()
-{
-    cBankScene scene(Profile([](cBankProfile& bank) {
-        bank.Methods = {{.Function = "912", .MediumRequired = "2"}};
-        bank.Media = {"Handy", "Tablet"};
-    }));
-    QVERIFY(scene.Business.Discover());
-    QVERIFY(!scene.Business.Refresh());
-    QCOMPARE(scene.Fault(), eBankFault::MediumMissing);
-    QCOMPARE(scene.State.Media, QStringList({u"Handy"_s, u"Tablet"_s}));
-    scene.State.Medium = u"Tablet"_s;
-    QVERIFY(scene.Business.Refresh());
-    QVERIFY(scene.Bank.LastText.contains("HKEND"));
-}
-
 void testBusinessSetUp::RemembersWhatCameBeforeAFailure()
 {
     cBankScene scene(Refusing("HKIDN", 2, "9210::Heute nicht."));
@@ -226,16 +209,6 @@ void testBusinessSetUp::OffersApprovalFirst()
     QVERIFY(!scene.State.Method);
     QVERIFY(!scene.Business.Refresh());
     QCOMPARE(scene.Business.ErrorText(), u"Es wurden keine unterstützen TAN-Verfahren gefunden."_s);
-}
-
-void testBusinessSetUp::ShowsAnotherAddress()
-{
-    cBankScene scene(Profile([](cBankProfile& bank) {
-        bank.Parameters.append("HIKOM:4+280:12345678+1+2:old.example::MIM:1+3:https?://new.example/fints::MIM:1");
-    }));
-    QVERIFY(scene.SetUp());
-    QCOMPARE(scene.Business.AddressHint(), u"https://new.example/fints"_s);
-    QCOMPARE(scene.State.Url, scene.Https.Url);
 }
 
 void testBusinessSetUp::SendsNothingWithoutRegistration()

@@ -46,7 +46,6 @@ private Q_SLOTS:
     void CodeInTheTextFlickers();
     void PictureComesWithItsType_data();
     void PictureComesWithItsType();
-    void TellsWhatIsToBeTyped();
 };
 
 void testChallenge::ShowsTheWordsOfTheBank_data()
@@ -120,6 +119,8 @@ void testChallenge::CodeInTheTextFlickers()
         Ask(method, u"CHLGUC  0026"_s + QString::fromLatin1(code13) + u"CHLGTEXT0012Kontoabfrage"_s, {});
     QCOMPARE(question.Flicker, Ask(method, {}, code13).Flicker);
     QCOMPARE(question.Challenge, u"Kontoabfrage"_s);
+    QCOMPARE(question.Label, u"TAN-Eingabe:"_s);
+    QCOMPARE(question.MostCharacters, 6);
     QCOMPARE(question.ByHand, QStringList({u"87151313"_s, u"389726"_s, u"1,00"_s}));
     QCOMPARE(Ask(method, u"CHLGUC  9999"_s, {}).Display, eTanDisplay::Text);
 }
@@ -155,17 +156,6 @@ void testChallenge::PictureComesWithItsType()
     const cTanQuestion question = Ask(Method(u"MS1.0.0/photoTAN/"_s), {}, data);
     QCOMPARE(question.Picture, file);
     QCOMPARE(question.PictureType, type);
-}
-
-void testChallenge::TellsWhatIsToBeTyped()
-{
-    const cTanQuestion question = Ask(Method(u"HHD1.4/HHD/1.4"_s), u"Bitte"_s, {});
-    QCOMPARE(question.Label, u"TAN-Eingabe:"_s);
-    QCOMPARE(question.Bank, u"Sparkasse Ahornstadt"_s);
-    QCOMPARE(question.Procedure, u"chipTAN"_s);
-    QCOMPARE(question.Medium, u"Karte 1"_s);
-    QCOMPARE(question.MostCharacters, 6);
-    QVERIFY(question.IsNumber);
 }
 
 QTEST_APPLESS_MAIN(testChallenge)

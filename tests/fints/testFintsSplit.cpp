@@ -1,5 +1,6 @@
 #include "fints/cShield.h"
 #include "fints/modFintsSplit.h"
+#include "fints/modFintsValue.h"
 
 #include <QTest>
 
@@ -97,6 +98,15 @@ private Q_SLOTS:
             "HNHBS:4:1 | 1",
         };
         QCOMPARE(lines, expected);
+    }
+
+    void EscapesWhatIsTypedOnce()
+    {
+        using namespace modFintsValue;
+        QCOMPARE(Escaped(u"a?b'c+d:e@f"_s), QByteArray("a??b?'c?+d?:e?@f"));
+        QCOMPARE(Escaped(u"Größe 5 €"_s), u"Größe 5 ??"_s.toLatin1());
+        QCOMPARE(Unescaped("xH2et?+UL/?"), u"xH2et+UL/?"_s); // an escape at its end too
+        QCOMPARE(CHBCIDate({}), QByteArray());
     }
 
     void SeesWhatIsCutOff_data()

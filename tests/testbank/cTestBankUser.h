@@ -3,8 +3,6 @@
 #include "base/cBankUser.h"
 #include "testbank/cTestBank.h"
 
-#include <QStringList>
-
 #include <optional>
 
 // A customer of the bank of the tests, who writes into its journal what is wanted of him.
@@ -13,10 +11,9 @@ class cTestBankUser final : public cBankUser
 public:
     explicit cTestBankUser(cTestBank& bank) : m_bank(bank) {}
 
-    [[nodiscard]] std::optional<cSecret> AskPin(const cPinQuestion& question) override
+    [[nodiscard]] std::optional<cSecret> AskPin(const cPinQuestion& /*question*/) override
     {
         m_bank.Journal.append(QStringLiteral("PIN?"));
-        LastPin = question;
         return Pin ? std::optional<cSecret>(cSecret(*Pin)) : std::nullopt;
     }
 
@@ -36,7 +33,7 @@ public:
     }
 
     void EndApproval() override { m_bank.Journal.append(QStringLiteral("done")); }
-    void ShowStep(const QString& text) override { Steps.append(text); }
+    void ShowStep(const QString& /*text*/) override {}
     [[nodiscard]] bool IsCancelled() const override
     {
         return CancelsAfter >= 0 && m_bank.Journal.size() >= CancelsAfter;
@@ -46,10 +43,8 @@ public:
     std::optional<QString> Tan = QStringLiteral("777666");
     int CancelsWait = 0;   // at the n-th wait for an approval
     int CancelsAfter = -1; // once the journal has so many entries
-    cPinQuestion LastPin;
     cTanQuestion LastTan;
     cApproval LastApproval;
-    QStringList Steps;
 
 private:
     cTestBank& m_bank;

@@ -28,6 +28,6 @@ public:
 private:
     cSettings& m_settings;
     QString m_account;
-    QHash<QString, QDate> m_rows; // by digest
+    QHash<quint64, QDate> m_rows; // by digest
     QDate m_oldest;               // day of these; invalid without any
 };

@@ -113,19 +113,21 @@ bool cImportHive::IsImportItemAvail(const cImportEntry& entry) const
     return std::any_of(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqual(entry); });
 }
 
-bool cImportHive::IsAvailButBlanks(const cImportEntry& entry, int newestId) const
+eKnown cImportHive::Find(const cImportEntry& entry, int newestId) const
 {
     BuildIndex();
     const auto [first, last] = m_index.equal_range(entry.EqualHash());
-    bool isAvail = false;
+    eKnown known = eKnown::No;
     for (auto place = first; place != last; ++place) {
         const cImportEntry& row = m_entries.at(FindRow(*place));
         if (row.isEqual(entry)) {
-            return false;
+            return eKnown::Equal;
         }
-        isAvail = isAvail || (row.ID <= newestId && row.isEqualButBlanks(entry));
+        if (row.ID <= newestId && row.isEqualButBlanks(entry)) {
+            known = eKnown::ButBlanks;
+        }
     }
-    return isAvail;
+    return known;
 }
 
 int cImportHive::CountButBlanks(const cImportEntry& entry) const

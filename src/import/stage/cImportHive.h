@@ -10,6 +10,8 @@
 
 #include <optional>
 
+enum class eKnown { No, Equal, ButBlanks };
+
 // All staged rows with their lookups. Lookups by row and by entry are binary searches; the duplicate test goes through
 // a hash index and answers exactly as a comparison with every row would.
 class cImportHive
@@ -31,8 +33,8 @@ public:
     [[nodiscard]] qint64 GetImportEntrySumByNumber(const QString& account) const;
     // The duplicate test: a staged row isEqual the record.
     [[nodiscard]] bool IsImportItemAvail(const cImportEntry& entry) const;
-    // A staged row up to this ID differs from the record in nothing but blanks of its texts, and none is equal.
-    [[nodiscard]] bool IsAvailButBlanks(const cImportEntry& entry, int newestId) const;
+    // The same, and whether a row up to this ID differs from the record in nothing but blanks of its texts.
+    [[nodiscard]] eKnown Find(const cImportEntry& entry, int newestId) const;
     // How many staged rows are equal to the record, or differ from it in nothing but blanks.
     [[nodiscard]] int CountButBlanks(const cImportEntry& entry) const;
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByID(int id) const;

@@ -16,20 +16,15 @@ eStaged cStaging::StageImportEntry(cImportEntry& entry, eDuplicateTest test)
         return eStaged::Zero;
     }
     entry.Validate();
-    if (test == eDuplicateTest::Test && Has(entry)) {
+    if (test == eDuplicateTest::Test && Hive(eKeepCache::FromOthers).IsImportItemAvail(entry)) {
         return eStaged::Duplicate;
     }
     return Add(entry) ? eStaged::Staged : eStaged::Failed;
 }
 
-bool cStaging::Has(const cImportEntry& entry)
+eKnown cStaging::Find(const cImportEntry& entry)
 {
-    return Hive(eKeepCache::FromOthers).IsImportItemAvail(entry);
-}
-
-bool cStaging::HasButBlanks(const cImportEntry& entry)
-{
-    return m_newest > 0 && Hive(eKeepCache::FromOthers).IsAvailButBlanks(entry, m_newest);
+    return Hive(eKeepCache::FromOthers).Find(entry, m_newest);
 }
 
 int cStaging::CountButBlanks(const cImportEntry& entry)

@@ -26,11 +26,9 @@ public:
     // the record carries its ID (0 when nothing is written). On Failed the user has already been told.
     [[nodiscard]] eStaged StageImportEntry(cImportEntry& entry, eDuplicateTest test);
 
-    // Two looks at what would come twice although the test passes it. The record has to be normalised.
-    // An equal row is staged.
-    [[nodiscard]] bool Has(const cImportEntry& entry);
-    // One that differs in nothing but blanks was staged before StartSource was called last.
-    [[nodiscard]] bool HasButBlanks(const cImportEntry& entry);
+    // Whether an equal row is staged, or one that differs in nothing but blanks, before StartSource was called last.
+    // The record has to be normalised.
+    [[nodiscard]] eKnown Find(const cImportEntry& entry);
     // How many staged rows are equal, or differ in nothing but blanks.
     [[nodiscard]] int CountButBlanks(const cImportEntry& entry);
     [[nodiscard]] cImportEntryList Rows(); // all that are staged

@@ -103,11 +103,12 @@ public:
         if (m_test == eDuplicateTest::Skip || entry.ImportValue == 0) {
             return false;
         }
-        if (m_staging.HasButBlanks(entry)) {
+        const eKnown known = m_staging.Find(entry);
+        if (known == eKnown::ButBlanks) {
             result.Alike.append(entry);
             return true;
         }
-        if (m_memory != nullptr && m_memory->HasBrought(entry) && !m_staging.Has(entry)) {
+        if (known == eKnown::No && m_memory != nullptr && m_memory->HasBrought(entry)) {
             result.Deleted.append(entry);
             return true;
         }

@@ -3,28 +3,34 @@
 #include "base/modDate.h"
 
 #include <QCryptographicHash>
-#include <QStringList>
+#include <QtEndian>
+#include <QVarLengthArray>
 
-namespace {
-
-constexpr qsizetype digestSize = 16; // of hexadecimal digits: far more than a few hundred rows need
-
-QString WithoutBlanks(QString text)
+quint64 modRowDigest::Value(const cImportEntry& row, int number)
 {
-    return text.removeIf([](QChar c) { return c.isSpace(); });
+    QVarLengthArray<char16_t, 512> fields;
+    const auto add = [&](const QString& field, bool isExact) {
+        for (const QChar c : field) {
+            if (isExact || !c.isSpace()) {
+                fields.append(c.unicode());
+            }
+        }
+        fields.append(u'\n');
+    };
+    add(modDate::ToIso(row.ImportDate), true);
+    add(QString::number(row.ImportValue), true);
+    add(row.ImportBeneficiaryAccount, true);
+    add(row.ImportBeneficiaryBLZ, true);
+    add(row.ImportBeneficiary, false);
+    add(row.ImportPurpose, false);
+    if (number > 1) {
+        add(QString::number(number), true); // books know the first one without it
+    }
+    const QByteArray text = QStringView(fields.constData(), fields.size() - 1).toUtf8();
+    return qFromBigEndian<quint64>(QCryptographicHash::hash(text, QCryptographicHash::Sha1).constData());
 }
-
-} // namespace
 
 QString modRowDigest::Of(const cImportEntry& row, int number)
 {
-    QStringList fields{modDate::ToIso(row.ImportDate),       QString::number(row.ImportValue),
-                       row.ImportBeneficiaryAccount,         row.ImportBeneficiaryBLZ,
-                       WithoutBlanks(row.ImportBeneficiary), WithoutBlanks(row.ImportPurpose)};
-    if (number > 1) {
-        fields.append(QString::number(number)); // books know the first one without it
-    }
-    const QByteArray digest =
-        QCryptographicHash::hash(fields.join(u'\n').toUtf8(), QCryptographicHash::Sha1).toHex().left(digestSize);
-    return QString::fromLatin1(digest);
+    return QString::number(Value(row, number), 16).rightJustified(16, u'0');
 }
