@@ -22,6 +22,8 @@
 #include "views/main/modViewText.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
+#include "views/statement/cSeriesCheck.h"
+#include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
@@ -201,7 +203,8 @@ void cNavigation::OpenEntry(int entryId, QDate day)
 void cNavigation::OpenCorrection(int entryId, QDate day)
 {
     cSeriesChange series(m_parts.Tools.Data, m_parts.Tools.User, m_parts.Format.Decimal());
-    const std::optional<cSeriesChange::cPeriodFields> fields = series.StartPeriod(entryId, day);
+    const std::optional<cSeriesChange::cPeriodFields> fields =
+        series.StartPeriod(entryId, day, m_parts.Tools.Clock.Today());
     if (!fields) {
         BookChanged();
         return;
@@ -267,6 +270,18 @@ void cNavigation::OpenAccountStatement()
     QObject::connect(&form, &frmKontoauszug::PreviewRequested, &form, [print] { print(&cQtPrinter::Preview); });
     QObject::connect(&form, &frmKontoauszug::ExportRequested, &form, [&] { Export(statement); });
     form.exec();
+}
+
+void cNavigation::CheckSeries()
+{
+    cStatementDesk desk(m_parts.Tools);
+    cSeriesCheck check = desk.Series();
+    if (check.IsClean()) {
+        m_parts.Tools.User.Show(eTone::Information, cSeriesCheck::NothingFound());
+    } else if (!check.Ask({}).isEmpty()) {
+        BookChanged();
+        m_review->Refresh(); // rows of a series that ended earlier wait again
+    }
 }
 
 void cNavigation::OpenCheck()
@@ -390,6 +405,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
     case modCommand::CheckBook: OpenCheck(); break;
+    case modCommand::CheckSeries: CheckSeries(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
     case modCommand::Rules: OpenRules(); break;

@@ -73,6 +73,7 @@ private:
     void OpenImport();
     void OpenAccountStatement();
     void OpenCheck();
+    void CheckSeries();
     void OpenPassword();
     void OpenBackupSettings();
     void OpenNationalSettings();

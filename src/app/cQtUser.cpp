@@ -5,12 +5,16 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -117,6 +121,41 @@ int cQtUser::Decide(const cDecision& decision)
     box.setDefaultButton(options.value(decision.Default, cancel));
     box.exec();
     return static_cast<int>(options.indexOf(qobject_cast<QPushButton*>(box.clickedButton())));
+}
+
+std::optional<QList<int>> cQtUser::Tick(const cChecklist& list)
+{
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(TitleOr(list.Title));
+    auto* text = new QLabel(list.Text, &dialog);
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    auto* items = new QListWidget(&dialog);
+    items->setAccessibleName(TitleOr(list.Title));
+    items->setWordWrap(true);
+    for (const QString& item : list.Items) {
+        (new QListWidgetItem(item, items))->setCheckState(Qt::Checked);
+    }
+    auto* buttons = new QDialogButtonBox(&dialog);
+    buttons->addButton(list.Take, QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(cText::Tr("Abbrechen"), QDialogButtonBox::RejectRole);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(text);
+    layout->addWidget(items, 1);
+    layout->addWidget(buttons);
+    dialog.resize(dialog.fontMetrics().averageCharWidth() * 100, dialog.sizeHint().height());
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    QList<int> ticked;
+    for (int row = 0; row < items->count(); ++row) {
+        if (items->item(row)->checkState() == Qt::Checked) {
+            ticked.append(row);
+        }
+    }
+    return ticked;
 }
 
 QStringList cQtUser::ChooseFiles(const QString& title, const QString& filter)

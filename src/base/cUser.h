@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,15 @@ struct cDecision
     int Default = 0;     // what Enter chooses; -1, giving up, where every option destroys something
 };
 
+// Several things of which all, some or none are wanted. All are ticked to start with, so that Enter takes them all.
+struct cChecklist
+{
+    QString Text;
+    QString Title;
+    QString Take; // the button that takes what is ticked
+    QStringList Items;
+};
+
 // The person in front of the screen (or the command line that stands in for one).
 class cUser
 {
@@ -56,6 +66,9 @@ public:
 
     // The chosen option, counted from 0; -1 when the user gives up.
     [[nodiscard]] virtual int Decide(const cDecision& decision) = 0;
+
+    // The ticked items, counted from 0; empty optional when the user gives up.
+    [[nodiscard]] virtual std::optional<QList<int>> Tick(const cChecklist& list) = 0;
 
     // Existing files to open. `filter` has the form "Name|*.a;*.b|Name|*.*". Empty when the user gives up.
     [[nodiscard]] virtual QStringList ChooseFiles(const QString& title, const QString& filter) = 0;

@@ -22,6 +22,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// The planned day of the occurrence that lists show on that day because a correction moved it; invalid when the series
+// has none, or another that is planned for the day.
+QDate PlannedOf(const cEntryItem& series, const cEntryItemFixModList& fixMods, QDate shown)
+{
+    cEntryItemList occurrences;
+    modRecurrence::Expand(series, {shown, shown}, fixMods, occurrences);
+    const bool isPlanned = std::any_of(occurrences.begin(), occurrences.end(),
+                                       [](const cEntryItem& occurrence) { return !occurrence.PlannedDate.isValid(); });
+    return occurrences.isEmpty() || isPlanned ? QDate() : occurrences.first().PlannedDate;
+}
+
 // The same text for a person: letter case, umlauts and blanks around the separator do not matter.
 QString Loose(const QString& text)
 {
@@ -135,6 +146,9 @@ QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
     if (!modRecurrence::IsRecurring(series->EntryInterval)) {
         Missing(cText::Tr("Eintrag {0} ist keine Serie.", {QString::number(id)}));
         return {};
+    }
+    if (const QDate planned = PlannedOf(*series, m_context.Book->File().Corrections(id), day); planned.isValid()) {
+        return planned;
     }
     const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(*series, day);
     if (occurrence && (which == eOccurrence::OfPeriod || occurrence->EntryDate == day)) {

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -112,6 +113,17 @@ int cConsoleUser::Decide(const cDecision& decision)
     }
     Refuse(decision.Text);
     return -1;
+}
+
+std::optional<QList<int>> cConsoleUser::Tick(const cChecklist& list)
+{
+    if (!m_answers.Answer) {
+        Refuse(list.Text + u'\n' + list.Items.join(u'\n'));
+        return std::nullopt;
+    }
+    QList<int> all(*m_answers.Answer == eAnswer::Yes ? list.Items.size() : 0);
+    std::iota(all.begin(), all.end(), 0);
+    return all;
 }
 
 QString cConsoleUser::ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/)

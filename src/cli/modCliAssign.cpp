@@ -15,7 +15,7 @@ void CheckDay(const cCliContext& context, cCliReader& reader, const cImportEntry
 {
     const QString text = context.Call.Arguments().value(2);
     const QDate day = text.isEmpty() ? QDate() : reader.Occurrence(found.ID, text);
-    if (day.isValid() && day != found.EntryDate) {
+    if (day.isValid() && day != found.Planned()) {
         reader.Missing(cText::Tr("Der Umsatz vom {0} liegt dem Vorkommen vom {1} am nächsten und zählt zu diesem.",
                                  {modDate::ToGerman(row.ImportDate), modDate::ToGerman(found.EntryDate)}));
     }

@@ -52,6 +52,7 @@ const QList<cCliCommand>& modCliCommands::All()
         ChangeCommand(),
         DeleteCommand(),
         CorrectCommand(),
+        SeriesCommand(),
         CategoriesCommand(),
         CategoriesAddCommand(),
         CategoriesChangeCommand(),

@@ -65,6 +65,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand ChangeCommand();
 [[nodiscard]] cCliCommand DeleteCommand();
 [[nodiscard]] cCliCommand CorrectCommand();
+[[nodiscard]] cCliCommand SeriesCommand();
 [[nodiscard]] cCliCommand CategoriesCommand();
 [[nodiscard]] cCliCommand CategoriesAddCommand();
 [[nodiscard]] cCliCommand CategoriesChangeCommand();

@@ -41,10 +41,14 @@ int List(const cCliContext& context, int id)
         modConsole::Out(modJson::Array(objects) + u'\n');
         return modExit::Done;
     }
-    cCliTable table(
-        {{cText::Tr("Von")}, {cText::Tr("Bis")}, {cText::Tr("Betrag"), eAlign::Right}, {cText::Tr("Kommentar")}});
+    cCliTable table({{cText::Tr("Von")},
+                     {cText::Tr("Bis")},
+                     {cText::Tr("Tag")},
+                     {cText::Tr("Betrag"), eAlign::Right},
+                     {cText::Tr("Kommentar")}});
     for (const cEntryItemFixMod& fixMod : fixMods) {
         table.Add({modDate::ToGerman(fixMod.EntryStartDate), modDate::ToGerman(fixMod.EntryEndDate),
+                   fixMod.EntryDay.isValid() ? modDate::ToGerman(fixMod.EntryDay) : QString(),
                    context.Book->AmountText(fixMod.EntryValue), fixMod.EntryComment});
     }
     modConsole::Out(table.ToString());
@@ -71,20 +75,30 @@ int Skip(const cCliContext& context, const cKey& occurrence)
     return Finish(context, occurrence, isDone);
 }
 
-// How many ways to correct the call names; one is right.
+// How many ways to correct the call names; one is right. A day alone is one, and goes with an amount.
 qsizetype CountWays(const cCliCall& call)
 {
-    return qMax<qsizetype>(0, call.Arguments().size() - 2) + (call.Has(u"skip"_s) ? 1 : 0)
+    const bool isOther = call.Has(u"skip"_s) || call.Has(u"remove"_s);
+    const qsizetype count = qMax<qsizetype>(0, call.Arguments().size() - 2) + (call.Has(u"skip"_s) ? 1 : 0)
         + (call.Has(u"remove"_s) ? 1 : 0);
+    return call.Has(u"day"_s) && (count == 0 || isOther) ? count + 1 : count;
 }
 
 void CheckUse(const cCliCall& call, cCliReader& reader)
 {
     const qsizetype count = call.Arguments().size();
     if (call.Has(u"list"_s) ? count != 1 || CountWays(call) > 0 : count < 2 || CountWays(call) != 1) {
-        reader.Misused(cText::Tr("Bitte nennen Sie nach der Nummer den Tag und dann den neuen Betrag, --skip oder "
-                                 "--remove; oder nur --list."));
+        reader.Misused(cText::Tr("Bitte nennen Sie nach der Nummer den Tag und dann den neuen Betrag oder --day, "
+                                 "--skip oder --remove; oder nur --list."));
     }
+}
+
+// What the occurrence comes to so far.
+qint64 CentsNow(const cCliContext& context, int id, QDate day)
+{
+    const auto correction = cSeriesChange(context.Book->Data, context.User).Correction(id, day);
+    const auto series = context.Book->File().Entry(id);
+    return correction ? correction->EntryValue : series ? series->EntryValue : 0;
 }
 
 int Run(const cCliContext& context)
@@ -96,6 +110,7 @@ int Run(const cCliContext& context)
     const int id = reader.Id(call.Arguments().constFirst());
     const QDate day = isList ? QDate() : reader.Occurrence(id, call.Arguments().value(1));
     const qint64 cents = reader.Cents(call.Arguments().value(2));
+    const QDate moveTo = reader.Day(call.Value(u"day"_s));
     if (!reader.IsGood()) {
         return reader.Report();
     }
@@ -105,35 +120,40 @@ int Run(const cCliContext& context)
     if (call.Has(u"remove"_s)) {
         return Remove(context, {id, day});
     }
-    return call.Has(u"skip"_s)
-        ? Skip(context, {id, day})
-        : modCliCorrect::Correct(context, {id, day}, cents,
-                                 call.Has(u"comment"_s) ? std::optional(call.Value(u"comment"_s)) : std::nullopt);
+    if (call.Has(u"skip"_s)) {
+        return Skip(context, {id, day});
+    }
+    const auto comment = call.Has(u"comment"_s) ? std::optional(call.Value(u"comment"_s)) : std::nullopt;
+    const qint64 wanted = call.Arguments().size() > 2 ? cents : CentsNow(context, id, day);
+    return modCliCorrect::Correct(context, {id, day}, wanted, comment,
+                                  call.Has(u"day"_s) ? std::optional(moveTo) : std::nullopt);
 }
 
 } // namespace
 
 int modCliCorrect::Correct(const cCliContext& context, const cEntryListModel::cKey& occurrence, qint64 cents,
-                           const std::optional<QString>& comment)
+                           const std::optional<QString>& comment, const std::optional<QDate>& moveTo)
 {
     cSeriesChange change(context.Book->Data, context.User);
     const std::optional<cEntryItemFixMod> before = change.Correction(occurrence.ID, occurrence.Day);
     // The comment of an occurrence that was left out says nothing about its new amount.
     const QString kept = before && before->EntryValue != 0 ? before->EntryComment : QString();
     return Finish(context, occurrence,
-                  change.CorrectPeriod(occurrence.ID, occurrence.Day, cents, comment.value_or(kept)));
+                  change.CorrectPeriod(occurrence.ID, occurrence.Day, cents, comment.value_or(kept), moveTo));
 }
 
 cCliCommand modCliCommands::CorrectCommand()
 {
     return {.Name = u"correct"_s,
-            .Arguments = u"ID (DATUM (BETRAG | --skip | --remove) | --list)"_s,
-            .Help = cText::Tr("gibt einem Vorkommen einer Serie einen anderen Betrag, oder zeigt alle Korrekturen"),
+            .Arguments = u"ID (DATUM (BETRAG | --day TAG | --skip | --remove) | --list)"_s,
+            .Help = cText::Tr(
+                "gibt einem Vorkommen einer Serie einen anderen Betrag oder Tag, oder zeigt alle Korrekturen"),
             .MinArguments = 1,
             .MaxArguments = 3,
             .Access = eCliAccess::Write,
             .ReadsWith = {u"list"_s},
             .Options = {{u"skip"_s, {}, cText::Tr("das Vorkommen auslassen (Betrag 0)")},
+                        {u"day"_s, u"TAG"_s, cText::Tr("das Vorkommen auf diesen Tag verschieben")},
                         {u"remove"_s, {}, cText::Tr("die Korrektur entfernen")},
                         {u"comment"_s, u"TEXT"_s, cText::Tr("Kommentar zur Korrektur"), true},
                         {u"list"_s, {}, cText::Tr("die Korrekturen zeigen")},

@@ -28,7 +28,8 @@ cJsonObject modCliRecord::FixMod(const cEntryItemFixMod& fixMod)
         .Date(u"EntryStartDate"_s, fixMod.EntryStartDate)
         .Date(u"EntryEndDate"_s, fixMod.EntryEndDate)
         .Amount(u"EntryValue"_s, fixMod.EntryValue)
-        .Text(u"EntryComment"_s, fixMod.EntryComment);
+        .Text(u"EntryComment"_s, fixMod.EntryComment)
+        .Date(u"EntryDay"_s, fixMod.EntryDay);
     return json;
 }
 

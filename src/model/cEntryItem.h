@@ -8,7 +8,8 @@
 struct cEntryItem
 {
     int ID = 0;
-    QDate EntryDate; // of an occurrence: its own day, not the start of the series
+    QDate
+        EntryDate; // of an occurrence: its own day, or that to which a correction moved it; not the start of the series
     QDate EntryDateEnd;
     QString EntryType;
     QString EntryInterval;
@@ -20,8 +21,13 @@ struct cEntryItem
     QString EntryFlags; // "key=value" joined by ";"
 
     // Set while a series is expanded; not stored with the entry.
-    bool IsCorrected = false;
+    bool IsCorrected = false; // its amount; an occurrence that only moved is not
     QString CorrectionComment;
+    QDate PlannedDate; // the day that the series has for an occurrence which a correction moved; else invalid
+
+    // The day of the series. It tells the period of an occurrence and its correction, whatever day it moved to.
+    [[nodiscard]] QDate Planned() const { return PlannedDate.isValid() ? PlannedDate : EntryDate; }
+    [[nodiscard]] bool HasCorrection() const { return IsCorrected || PlannedDate.isValid(); }
 
     bool operator==(const cEntryItem&) const = default;
 };

@@ -14,6 +14,7 @@ struct cEntryItemFixMod
     QDate EntryEndDate;
     qint64 EntryValue = 0; // cents
     QString EntryComment;
+    QDate EntryDay{}; // to which the occurrence moves; invalid: the day of the series. Stored behind the kind.
 
     bool operator==(const cEntryItemFixMod&) const = default;
 };

@@ -18,7 +18,9 @@ struct cMatchCandidate
     double Score = 0.0;   // 0 to 1
     QString Reason;       // "gleicher Betrag, 2 Tage später, Empfänger stimmt überein"
     bool IsTaken = false; // another row belongs to it already; a second one only by hand
-    std::optional<cEntryItemFixMod> Correction; // offered for an occurrence whose amount differs
+    std::optional<cEntryItemFixMod>
+        Correction;           // offered for an occurrence whose amount or day differs; with the row's day
+    bool ReplacesOwn = false; // it would take back what the user gave this occurrence by hand
 };
 
 // A staged row with the place found for it.

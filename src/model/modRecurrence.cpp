@@ -3,6 +3,8 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <array>
 
@@ -64,15 +66,71 @@ modPeriod::cRange PeriodOf(QDate occurrence, const cInterval& interval)
     return {occurrence, AddStep(occurrence, interval).addDays(-1)};
 }
 
-void Correct(cEntryItem& occurrence, QDate periodStart, const cEntryItemFixModList& fixMods)
+// The corrections of one series by the start of their period. A book that the bank fills has one for nearly every
+// occurrence, so they are looked up.
+class cCorrections
 {
-    for (const cEntryItemFixMod& fixMod : fixMods) {
-        if (fixMod.EntryStartDate == periodStart) {
-            occurrence.EntryValue = fixMod.EntryValue;
-            occurrence.IsCorrected = true;
-            occurrence.CorrectionComment = fixMod.EntryComment;
+public:
+    cCorrections(const cEntryItemFixModList& fixMods, const cInterval& interval) : m_interval(interval)
+    {
+        m_byStart.reserve(fixMods.size());
+        for (const cEntryItemFixMod& fixMod : fixMods) {
+            m_byStart.insert(fixMod.EntryStartDate, &fixMod);
+            if (fixMod.EntryDay.isValid() && fixMod.EntryStartDate.isValid()) {
+                const QDate end = PeriodOf(fixMod.EntryStartDate, interval).End;
+                m_lastMoved = m_lastMoved.isValid() ? std::max(m_lastMoved, end) : end;
+            }
         }
     }
+
+    // The last day on which the series may have an occurrence that moves; invalid when none does.
+    [[nodiscard]] QDate LastMoved() const { return m_lastMoved; }
+
+    // The correction of the occurrence planned for that day; none is nullptr.
+    [[nodiscard]] const cEntryItemFixMod* Find(QDate planned) const
+    {
+        return m_byStart.value(PeriodOf(planned, m_interval).Start);
+    }
+
+private:
+    const cInterval& m_interval;
+    QHash<QDate, const cEntryItemFixMod*> m_byStart;
+    QDate m_lastMoved;
+};
+
+void Correct(cEntryItem& occurrence, const cEntryItemFixMod& fixMod)
+{
+    const bool isMoved = fixMod.EntryDay.isValid() && fixMod.EntryDay != occurrence.EntryDate;
+    occurrence.IsCorrected = !fixMod.EntryDay.isValid() || fixMod.EntryValue != occurrence.EntryValue;
+    occurrence.EntryValue = fixMod.EntryValue;
+    occurrence.CorrectionComment = fixMod.EntryComment;
+    if (isMoved) {
+        occurrence.PlannedDate = occurrence.EntryDate;
+        occurrence.EntryDate = fixMod.EntryDay;
+    }
+}
+
+// Of the occurrences that the series plans up to `end` those that lie within the period once they are corrected.
+void ExpandCorrected(const cEntryItem& entry, const modPeriod::cRange& period, QDate end, const cInterval& interval,
+                     const cCorrections& corrections, cEntryItemList& occurrences)
+{
+    const qsizetype first = occurrences.size();
+    QDate planned = entry.EntryDate;
+    for (int index = 0; planned.isValid() && planned <= end && index <= occurrenceLimit; ++index) {
+        const cEntryItemFixMod* fixMod = corrections.Find(planned);
+        const QDate day = fixMod != nullptr && fixMod->EntryDay.isValid() ? fixMod->EntryDay : planned;
+        const bool isBefore = period.Start.isValid() && day < period.Start;
+        if (!isBefore && (!period.End.isValid() || day <= period.End)) {
+            cEntryItem& occurrence = occurrences.emplace_back(entry);
+            occurrence.EntryDate = planned;
+            if (fixMod != nullptr) {
+                Correct(occurrence, *fixMod);
+            }
+        }
+        planned = AddStep(planned, interval);
+    }
+    std::stable_sort(occurrences.begin() + first, occurrences.end(),
+                     [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
 }
 
 } // namespace
@@ -118,17 +176,22 @@ void modRecurrence::Expand(const cEntryItem& entry, const modPeriod::cRange& per
         return;
     }
     QDate end = EffectiveEnd(entry.EntryDateEnd);
+    const QDate lastPlanned = end;
     if (period.End.isValid()) {
         end = std::min(end, period.End);
+    }
+    if (!fixMods.isEmpty()) {
+        const cCorrections corrections(fixMods, interval);
+        // What lies behind the period may have moved into it.
+        const QDate moved = corrections.LastMoved();
+        const QDate last = moved.isValid() ? std::max(end, std::min(moved, lastPlanned)) : end;
+        ExpandCorrected(entry, period, last, interval, corrections, occurrences);
+        return;
     }
     QDate day = entry.EntryDate;
     for (int index = 0; day.isValid() && day <= end && index <= occurrenceLimit; ++index) {
         if (!period.Start.isValid() || day >= period.Start) {
-            cEntryItem& occurrence = occurrences.emplace_back(entry);
-            occurrence.EntryDate = day;
-            if (!fixMods.isEmpty()) {
-                Correct(occurrence, PeriodOf(day, interval).Start, fixMods);
-            }
+            occurrences.emplace_back(entry).EntryDate = day;
         }
         day = AddStep(day, interval);
     }

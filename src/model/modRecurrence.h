@@ -31,9 +31,10 @@ inline constexpr QDate OpenEnd = QDate::fromJulianDay(2469808); // 2050-01-01
 
 // The occurrences of an entry within `period`, in date order; an open side of the period is unbounded. An entry without
 // recurring interval is its own single occurrence. `fixMods` are the corrections of this entry: the one whose start is
-// the start of an occurrence's period replaces its amount. Each step goes from the previous occurrence, so a series
-// that starts on the 31st moves to the 28th after February and stays there; stored corrections refer to those drifted
-// days.
+// the start of an occurrence's period replaces its amount and, where it names one, its day; an occurrence that moves
+// into the period from outside belongs to it, and one that moves out does not. Each step goes from the previous
+// occurrence, so a series that starts on the 31st moves to the 28th after February and stays there; stored corrections
+// refer to those drifted days.
 void Expand(const cEntryItem& entry, const modPeriod::cRange& period, const cEntryItemFixModList& fixMods,
             cEntryItemList& occurrences);
 

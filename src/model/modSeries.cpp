@@ -1,8 +1,11 @@
 #include "model/modSeries.h"
 
+#include "base/cText.h"
 #include "model/modPeriod.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -86,11 +89,22 @@ bool modSeries::HasPeriod(const cEntryItem& series, const cEntryItemFixMod& fixM
 
 cEntryItemFixMod modSeries::CorrectionFor(const cEntryItem& occurrence)
 {
-    const modPeriod::cRange period = modRecurrence::OccurrencePeriod(occurrence.EntryDate, occurrence.EntryInterval);
+    const modPeriod::cRange period = modRecurrence::OccurrencePeriod(occurrence.Planned(), occurrence.EntryInterval);
     cEntryItemFixMod fixMod;
     fixMod.EntryRelation = occurrence.ID;
     fixMod.EntryModType = modWord::Betrag;
     fixMod.EntryStartDate = period.Start;
     fixMod.EntryEndDate = period.End;
     return fixMod;
+}
+
+QString modSeries::BankComment()
+{
+    return cText::Tr("Laut Kontoauszug");
+}
+
+bool modSeries::IsFromBank(const QString& comment)
+{
+    // The stored one is in the language in which the program ran then.
+    return comment.startsWith(u"Laut Kontoauszug"_s) || comment.startsWith(BankComment());
 }

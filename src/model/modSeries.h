@@ -32,4 +32,9 @@ namespace modSeries {
 // An empty correction for the period of an occurrence.
 [[nodiscard]] cEntryItemFixMod CorrectionFor(const cEntryItem& occurrence);
 
+// The comment of a correction that follows the bank, and whether it is one. Such a correction may be replaced by what
+// the bank says next; one with another comment was made by the user, who is asked before.
+[[nodiscard]] QString BankComment();
+[[nodiscard]] bool IsFromBank(const QString& comment);
+
 } // namespace modSeries

@@ -11,7 +11,7 @@ namespace {
 cBoundList FixModValues(const cEntryItemFixMod& fixMod)
 {
     return {fixMod.EntryRelation,
-            fixMod.EntryModType,
+            modFixModRow::Kind(fixMod),
             modDate::ToIso(fixMod.EntryStartDate),
             modDate::ToIso(fixMod.EntryEndDate),
             modAmount::CentsToText(std::abs(fixMod.EntryValue)),

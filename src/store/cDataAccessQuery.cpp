@@ -21,12 +21,15 @@ struct cCondition
     std::string Sql;
     cBoundList Values;
 
-    void Add(const char* sql, const cBoundList& values = {})
+    void Add(const std::string& sql, const cBoundList& values = {})
     {
         Sql += sql;
         Values.insert(Values.end(), values.begin(), values.end());
     }
 };
+
+// A series that lies outside the period may have an occurrence that moved into it.
+const std::string OrMoved = std::string(" OR ID IN (") + modFixModRow::MovedSeries + "))";
 
 // Who compares the days of one-off entries with the period.
 enum class eDays { ByStatement, ByReader };
@@ -37,11 +40,14 @@ void AddPeriod(cCondition& where, const cEntryQuery& query, eRepetition repetiti
         where.Add(" AND date(EntryDate) >= ?", {modDate::ToIso(query.Start)});
     } else if (query.Start.isValid()) {
         // An end before 1940, or none at all, stands for a series without end: it ends after every start.
-        where.Add(" AND (date(EntryDateEnd) >= ? OR date(EntryDateEnd) < '1940-01-01' OR date(EntryDateEnd) IS NULL)",
+        where.Add(" AND (date(EntryDateEnd) >= ? OR date(EntryDateEnd) < '1940-01-01' OR date(EntryDateEnd) IS NULL"
+                      + OrMoved,
                   {modDate::ToIso(query.Start)});
     }
-    if (query.End.isValid()) {
+    if (query.End.isValid() && repetition == eRepetition::Once) {
         where.Add(" AND date(EntryDate) <= ?", {modDate::ToIso(query.End)});
+    } else if (query.End.isValid()) {
+        where.Add(" AND (date(EntryDate) <= ?" + OrMoved, {modDate::ToIso(query.End)});
     }
 }
 
@@ -107,11 +113,13 @@ QHash<int, cEntryItemFixModList> ReadFixMods(cDatabase& database)
     return fixMods;
 }
 
-// A series with an unknown interval is a single occurrence; the query for series lets it pass also when it lies before
+// A series with an unknown interval is a single occurrence; the query for series lets it pass also when it lies outside
 // the period.
-bool IsBeforePeriod(const cEntryItem& entry, const cEntryQuery& query)
+bool IsOutsidePeriod(const cEntryItem& entry, const cEntryQuery& query)
 {
-    return query.Start.isValid() && entry.EntryDate < query.Start && !modRecurrence::IsRecurring(entry.EntryInterval);
+    const bool isOutside = (query.Start.isValid() && entry.EntryDate < query.Start)
+        || (query.End.isValid() && entry.EntryDate > query.End);
+    return isOutside && !modRecurrence::IsRecurring(entry.EntryInterval);
 }
 
 // Stable, so that entries of one day stay in the order of the rows.
@@ -197,7 +205,7 @@ void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList
     cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
     while (rows.Next()) {
         const cEntryItem entry = reader.Read(rows);
-        if (IsBeforePeriod(entry, query)) {
+        if (IsOutsidePeriod(entry, query)) {
             continue;
         }
         if (!fixMods) {

@@ -10,6 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const QString dayMark = u"; Tag "_s; // between the kind of a correction and the day to which it moves
+
 constexpr size_t wordLimit = 2000; // beyond it a column is not of the kind that repeats
 
 QString FromUtf8(std::string_view bytes)
@@ -115,18 +117,29 @@ cEntryItem cEntryReader::Read(const cRows& row)
         .EntryDescription = modRow::ReadDoubled(row.Bytes(9)),
         .EntryFlags = FromUtf8(row.Bytes(10)),
         .CorrectionComment = {},
+        .PlannedDate = {},
     };
+}
+
+QString modFixModRow::Kind(const cEntryItemFixMod& fixMod)
+{
+    return fixMod.EntryDay.isValid() ? fixMod.EntryModType + dayMark + modDate::ToIso(fixMod.EntryDay)
+                                     : fixMod.EntryModType;
 }
 
 cEntryItemFixMod modFixModRow::Read(const cRows& row)
 {
+    const QString kind = row.Text(2);
+    const qsizetype mark = kind.lastIndexOf(dayMark);
+    const QDate day = mark < 0 ? QDate() : modDate::FromIso(kind.mid(mark + dayMark.size()));
     return {
         .ID = static_cast<int>(row.Integer(0)),
         .EntryRelation = static_cast<int>(row.Integer(1)),
-        .EntryModType = row.Text(2),
+        .EntryModType = day.isValid() ? kind.left(mark) : kind,
         .EntryStartDate = modRow::ReadDate(row.Bytes(3)),
         .EntryEndDate = modRow::ReadDate(row.Bytes(4)),
         .EntryValue = modRow::ReadCents(row.Bytes(5)).value_or(0),
         .EntryComment = row.Text(6),
+        .EntryDay = day,
     };
 }

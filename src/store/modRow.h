@@ -75,4 +75,11 @@ inline constexpr const char* Select =
 
 [[nodiscard]] cEntryItemFixMod Read(const cRows& row);
 
+// EntryModType as it is stored: "Betrag", or "Betrag; Tag 2026-03-04" for one that moves its occurrence. A program that
+// does not know of days reads the amount all the same.
+[[nodiscard]] QString Kind(const cEntryItemFixMod& fixMod);
+
+// SQL: the series that have an occurrence on another day than planned.
+inline constexpr const char* MovedSeries = "SELECT EntryRelation FROM datamod WHERE EntryModType LIKE '%; Tag %'";
+
 } // namespace modFixModRow

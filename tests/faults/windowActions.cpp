@@ -31,6 +31,7 @@
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -54,6 +55,12 @@ public:
     [[nodiscard]] int Decide(const cDecision& decision) override
     {
         return TakesLast ? static_cast<int>(decision.Options.size()) - 1 : 0;
+    }
+    [[nodiscard]] std::optional<QList<int>> Tick(const cChecklist& list) override
+    {
+        QList<int> all(list.Items.size());
+        std::iota(all.begin(), all.end(), 0);
+        return all;
     }
     [[nodiscard]] QStringList ChooseFiles(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
     [[nodiscard]] QString ChooseSavePath(const QString& /*title*/, const QString& /*filter*/,

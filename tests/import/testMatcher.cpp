@@ -246,7 +246,7 @@ void testMatcher::RaisedRentOffersACorrection() const
     QVERIFY(correction);
     QCOMPARE(*correction,
              (cEntryItemFixMod{0, series, modWord::Betrag, QDate(2026, 2, 1), QDate(2026, 2, 28), 66000,
-                               u"Laut Kontoauszug"_s}));
+                               u"Laut Kontoauszug"_s, day.addMonths(1)}));
     QVERIFY(bank.Data.GetEntryMods(series).isEmpty());
     QVERIFY(bank.Data.AddNewEntryMod(*correction));
     QCOMPARE(bank.Candidates(row).value(0).Reason.section(u',', 0, 0), u"einziger Eintrag mit diesem Betrag"_s);

@@ -1,5 +1,6 @@
 #include "base/modDate.h"
 #include "model/modRecurrence.h"
+#include "model/modSeries.h"
 #include "model/modWord.h"
 
 #include <QTest>
@@ -148,6 +149,51 @@ private Q_SLOTS:
         QCOMPARE(found[2].EntryValue, 1000);
         QVERIFY(!found[2].IsCorrected);
         QCOMPARE(modRecurrence::CorrectionLabel(february), u"Manuelle Korrektur vom 01.02.2024"_s);
+    }
+
+    void Moved_data() const
+    {
+        QTest::addColumn<QString>("interval");
+        QTest::addColumn<QDate>("start");
+        QTest::addColumn<QDate>("key"); // of the correction
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<QString>("days"); // in February and March 2024; the series ends on 15 March
+        const QDate start(2023, 12, 31);
+        QTest::newRow("within the period")
+            << u"Monatlich"_s << start << QDate(2024, 2, 1) << QDate(2024, 2, 27) << u"2024-02-27"_s;
+        QTest::newRow("into it from before")
+            << u"Monatlich"_s << start << QDate(2024, 1, 1) << QDate(2024, 2, 2) << u"2024-02-02 2024-02-29"_s;
+        QTest::newRow("out of it") << u"Monatlich"_s << start << QDate(2024, 2, 1) << QDate(2024, 1, 30) << QString();
+        QTest::newRow("of a year") << u"Jährlich"_s << QDate(2022, 3, 14) << QDate(2024, 1, 1) << QDate(2024, 2, 1)
+                                   << u"2024-02-01"_s;
+        QTest::newRow("behind the end of the series") << u"Wöchentlich"_s << QDate(2024, 3, 7) << QDate(2024, 3, 14)
+                                                      << QDate(2024, 3, 28) << u"2024-03-07 2024-03-28"_s;
+        QTest::newRow("days are in order, whatever moves")
+            << u"Wöchentlich"_s << QDate(2024, 3, 1) << QDate(2024, 3, 1) << QDate(2024, 3, 9)
+            << u"2024-03-08 2024-03-09 2024-03-15"_s;
+    }
+
+    // The key stays that of the planned day, and the days after it drift as if nothing had moved.
+    void Moved() const
+    {
+        QFETCH(const QString, interval);
+        QFETCH(const QDate, start);
+        QFETCH(const QDate, key);
+        QFETCH(const QDate, day);
+        QFETCH(const QString, days);
+        cEntryItemFixMod fixMod;
+        fixMod.EntryStartDate = key;
+        fixMod.EntryValue = 1000;
+        fixMod.EntryDay = day;
+        const cEntryItem series = Series(interval, start, QDate(2024, 3, 15));
+        const cEntryItemList found = Expanded(series, {QDate(2024, 2, 1), QDate(2024, 3, 31)}, {fixMod});
+        QCOMPARE(Days(found), days);
+        for (const cEntryItem& occurrence : found) {
+            const bool isMoved = occurrence.EntryDate == day;
+            QCOMPARE(occurrence.PlannedDate.isValid(), isMoved);
+            QVERIFY(!occurrence.IsCorrected);
+            QCOMPARE(modSeries::CorrectionFor(occurrence).EntryStartDate == key, isMoved);
+        }
     }
 };
 

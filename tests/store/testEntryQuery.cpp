@@ -152,6 +152,39 @@ private Q_SLOTS:
                  1);
     }
 
+    // What a correction moves is found, and summed, in the period that it moved to: also when the series itself ended
+    // before that period or begins behind it.
+    void OccurrencesMove() const
+    {
+        cHousehold book;
+        const auto move = [&](int series, QDate start, QDate day) {
+            cEntryItemFixMod fixMod;
+            fixMod.EntryRelation = series;
+            fixMod.EntryModType = modWord::Betrag;
+            fixMod.EntryStartDate = start;
+            fixMod.EntryDay = day;
+            fixMod.EntryValue = 700;
+            QVERIFY(book.Data.AddNewEntryMod(fixMod));
+            const cEntryItemFixMod stored = book.Data.GetEntryMods(series).constLast();
+            QCOMPARE(stored.EntryDay, day);
+            QCOMPARE(stored.EntryModType, modWord::Betrag);
+        };
+        move(11, QDate(2024, 1, 1), QDate(2024, 2, 2));
+        move(12, QDate(2023, 12, 1), QDate(2024, 2, 3));
+        move(13, QDate(2024, 2, 28), QDate(2024, 3, 1));
+        move(16, QDate(2024, 3, 1), QDate(2024, 2, 28));
+        cRows kinds(book.Database, "SELECT EntryModType FROM datamod WHERE EntryRelation = 16");
+        QVERIFY(kinds.Next());
+        QCOMPARE(kinds.Text(0), u"Betrag; Tag 2024-02-28"_s);
+        const cEntryQuery query{QDate(2024, 2, 1), QDate(2024, 2, 29), {}, {}, {}, eBookingKind::Fix};
+        QCOMPARE(Ids(book.Data.GetEntries(query)), u"12 11 11 14 16"_s);
+        qint64 sum = 0;
+        for (const cAccountSum& each : book.Data.GetSums(query, true)) {
+            sum += each.Cents;
+        }
+        QCOMPARE(sum, 700 + 700 + 0 + 400 + 700);
+    }
+
     void OtherLookups() const
     {
         cHousehold book;

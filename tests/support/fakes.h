@@ -43,6 +43,12 @@ public:
         return Decisions.empty() ? -1 : Take(Decisions);
     }
 
+    std::optional<QList<int>> Tick(const cChecklist& list) override
+    {
+        Asked.append(list.Text + u'\n' + list.Items.join(u'\n'));
+        return Ticks.empty() ? std::nullopt : Take(Ticks);
+    }
+
     QString ChooseSavePath(const QString& /*title*/, const QString& filter, const QString& proposal) override
     {
         Asked.append(filter);
@@ -66,7 +72,8 @@ public:
     cChoice LastChoice;
     std::deque<int> Decisions; // an empty queue gives up
     cDecision LastDecision;
-    QString SavePath; // empty gives up
+    std::deque<std::optional<QList<int>>> Ticks; // an empty queue gives up
+    QString SavePath;                            // empty gives up
     QString LastProposal;
     QString Folder; // empty gives up
 

@@ -45,13 +45,13 @@ void cMatchIndex::Load(cDataAccess& data)
     query.Account = m_account;
     const cEntryItemList entries = data.GetEntries(query);
     m_items.reserve(static_cast<size_t>(entries.size()));
-    QMap<std::pair<int, QDate>, cEntryItemList> splits; // by group and day
+    QMap<std::pair<int, QDate>, cEntryItemList> splits; // by group and planned day
     for (const cEntryItem& entry : entries) {
         if (entry.EntryCategory == modWord::Startguthaben) {
             continue; // no bank ever carried it out
         }
         if (const int group = modSplit::Group(entry); group > 0) {
-            splits[{group, entry.EntryDate}].append(entry);
+            splits[{group, entry.Planned()}].append(entry);
         } else {
             Add(entry, modBalance::Effect(entry, m_account));
         }
@@ -64,8 +64,18 @@ void cMatchIndex::Load(cDataAccess& data)
 void cMatchIndex::Add(const cEntryItem& occurrence, qint64 cents)
 {
     const bool isSeries = modRecurrence::IsRecurring(occurrence.EntryInterval);
-    m_byEntry[occurrence.ID].push_back(m_items.size());
+    NoteDays(occurrence.ID, occurrence);
     m_items.push_back({occurrence, cents, isSeries, false, {}});
+}
+
+// An occurrence that was moved is found by both its days; see modOccurrence.
+void cMatchIndex::NoteDays(int id, const cEntryItem& occurrence)
+{
+    std::vector<cPlace>& places = m_byEntry[id];
+    places.push_back({occurrence.EntryDate.toJulianDay(), occurrence.PlannedDate.isValid(), m_items.size()});
+    if (occurrence.PlannedDate.isValid()) {
+        places.push_back({occurrence.PlannedDate.toJulianDay(), false, m_items.size()});
+    }
 }
 
 void cMatchIndex::AddSplit(const cEntryItemList& parts)
@@ -78,7 +88,7 @@ void cMatchIndex::AddSplit(const cEntryItemList& parts)
     }
     // The bank knows only the whole. Whichever part a row was assigned to, the whole is taken.
     for (qsizetype i = 1; i < parts.size(); ++i) {
-        m_byEntry[parts.at(i).ID].push_back(m_items.size());
+        NoteDays(parts.at(i).ID, parts.at(i));
     }
     Add(parts.first(), modSplit::Net(parts));
     m_items.back().IsSplit = parts.size() > 1;
@@ -88,14 +98,15 @@ void cMatchIndex::Sort()
 {
     m_places.reserve(m_items.size());
     for (size_t number = 0; number < m_items.size(); ++number) {
-        m_places.push_back({m_items[number].Entry.EntryDate.toJulianDay(), number});
+        const cEntryItem& entry = m_items[number].Entry;
+        m_places.push_back({entry.EntryDate.toJulianDay(), entry.PlannedDate.isValid(), number});
+        if (entry.PlannedDate.isValid()) {
+            m_places.push_back({entry.PlannedDate.toJulianDay(), false, number});
+        }
     }
-    std::sort(m_places.begin(), m_places.end(),
-              [](const cPlace& a, const cPlace& b) { return std::pair(a.Day, a.Number) < std::pair(b.Day, b.Number); });
-    for (std::vector<size_t>& numbers : m_byEntry) {
-        std::sort(numbers.begin(), numbers.end(), [this](size_t a, size_t b) {
-            return std::pair(m_items[a].Entry.EntryDate, a) < std::pair(m_items[b].Entry.EntryDate, b);
-        });
+    std::sort(m_places.begin(), m_places.end());
+    for (std::vector<cPlace>& places : m_byEntry) {
+        std::sort(places.begin(), places.end());
     }
 }
 
@@ -104,7 +115,7 @@ void cMatchIndex::NoteTakers(const cImportHive& hive, const cIsHere& isHere)
     for (auto entry = m_byEntry.cbegin(); entry != m_byEntry.cend(); ++entry) {
         const cImportEntryList rows = hive.GetImportEntriesByAssignedID(entry.key());
         for (const cImportEntry& row : rows) {
-            const cItem& first = m_items[entry->front()];
+            const cItem& first = m_items[entry->front().Number];
             // A transfer has a row in each of its accounts.
             if (!row.ImportAssigned || (first.Entry.EntryType == modWord::Umbuchung && !isHere(row))) {
                 continue;
@@ -116,19 +127,18 @@ void cMatchIndex::NoteTakers(const cImportHive& hive, const cIsHere& isHere)
     }
 }
 
-std::optional<size_t> cMatchIndex::Nearest(const std::vector<size_t>& occurrences, QDate day) const
+std::optional<size_t> cMatchIndex::Nearest(const std::vector<cPlace>& occurrences, QDate day) const
 {
-    const auto distance = [&](size_t number) { return std::abs(m_items[number].Entry.EntryDate.daysTo(day)); };
-    const auto next = std::lower_bound(occurrences.begin(), occurrences.end(), day, [this](size_t number, QDate date) {
-        return m_items[number].Entry.EntryDate < date;
-    });
+    const qint64 wanted = day.toJulianDay();
+    const auto next = std::lower_bound(occurrences.begin(), occurrences.end(), wanted, IsBefore);
+    const auto distance = [&](auto place) { return std::abs(place->Day - wanted); };
     auto nearest = next;
-    if (next != occurrences.begin() && (next == occurrences.end() || distance(*std::prev(next)) <= distance(*next))) {
-        nearest = std::prev(next);
+    if (next != occurrences.begin() && (next == occurrences.end() || distance(std::prev(next)) <= distance(next))) {
+        nearest = std::lower_bound(occurrences.begin(), next, std::prev(next)->Day, IsBefore);
     }
-    const cItem& item = m_items[*nearest];
-    const bool isNear = !item.IsSeries || distance(*nearest) <= modOccurrence::Reach(item.Entry.EntryInterval);
-    return isNear ? std::optional(*nearest) : std::nullopt;
+    const cItem& item = m_items[nearest->Number];
+    const bool isNear = !item.IsSeries || distance(nearest) <= modOccurrence::Reach(item.Entry.EntryInterval);
+    return isNear ? std::optional(nearest->Number) : std::nullopt;
 }
 
 std::vector<size_t> cMatchIndex::Around(QDate day, qint64 cents) const
@@ -136,8 +146,7 @@ std::vector<size_t> cMatchIndex::Around(QDate day, qint64 cents) const
     const qint64 first = day.toJulianDay() - modMatchScore::FarthestDays;
     const qint64 last = day.toJulianDay() + modMatchScore::FarthestDays;
     std::vector<size_t> numbers;
-    auto place = std::lower_bound(m_places.begin(), m_places.end(), first,
-                                  [](const cPlace& at, qint64 wanted) { return at.Day < wanted; });
+    auto place = std::lower_bound(m_places.begin(), m_places.end(), first, IsBefore);
     for (; place != m_places.end() && place->Day <= last; ++place) {
         const cItem& item = m_items[place->Number];
         const bool isSameDirection = (item.Cents < 0) == (cents < 0) && item.Cents != 0 && cents != 0;
@@ -145,6 +154,9 @@ std::vector<size_t> cMatchIndex::Around(QDate day, qint64 cents) const
             numbers.push_back(place->Number);
         }
     }
+    // One that was moved may have been found by both its days.
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     return numbers;
 }
 

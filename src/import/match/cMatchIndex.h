@@ -9,6 +9,7 @@
 #include <QList>
 #include <QString>
 
+#include <compare>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -54,21 +55,27 @@ private:
     struct cPlace
     {
         qint64 Day = 0;
+        bool IsMoved = false; // behind the occurrence that is planned for the day
         size_t Number = 0;
+
+        auto operator<=>(const cPlace&) const = default;
     };
+
+    [[nodiscard]] static bool IsBefore(const cPlace& place, qint64 day) { return place.Day < day; }
 
     void Load(cDataAccess& data);
     void Add(const cEntryItem& occurrence, qint64 cents);
     void AddSplit(const cEntryItemList& parts);
+    void NoteDays(int id, const cEntryItem& occurrence);
     void Sort();
     void NoteTakers(const cImportHive& hive, const cIsHere& isHere);
     // The occurrence that a row of this day pays; of an entry that happens once always itself.
-    [[nodiscard]] std::optional<size_t> Nearest(const std::vector<size_t>& occurrences, QDate day) const;
+    [[nodiscard]] std::optional<size_t> Nearest(const std::vector<cPlace>& occurrences, QDate day) const;
 
     QString m_account;
     modPeriod::cRange m_range;
     std::vector<cItem> m_items;
     std::vector<cPlace> m_places; // by day
     std::vector<std::optional<cMatchText>> m_texts;
-    QHash<int, std::vector<size_t>> m_byEntry; // items by every ID that rows can be assigned to, by day
+    QHash<int, std::vector<cPlace>> m_byEntry; // items by every ID that rows can be assigned to, by day
 };

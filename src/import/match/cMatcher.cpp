@@ -10,7 +10,6 @@
 #include "import/stage/cImportHiveCache.h"
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
-#include "model/modSeries.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -58,17 +57,22 @@ modMatchScore::cEvidence EvidenceOf(const cImportEntry& row, const cMatchIndex::
     modMatchScore::cEvidence evidence;
     evidence.RowCents = std::abs(row.ImportValue);
     evidence.EntryCents = std::abs(item.Cents);
-    evidence.Days = static_cast<int>(item.Entry.EntryDate.daysTo(row.ImportDate));
+    evidence.Days = modOccurrence::Days(item.Entry, row.ImportDate);
     evidence.IsSeries = item.IsSeries;
     return evidence;
 }
 
-cEntryItemFixMod CorrectionTo(const cEntryItem& occurrence, qint64 cents)
+// What an occurrence needs to agree with its row. Of a split entry whose whole has another amount nobody knows which
+// part is meant.
+void OfferCorrection(cMatchCandidate& candidate, const cImportEntry& row)
 {
-    cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence);
-    fixMod.EntryValue = cents;
-    fixMod.EntryComment = cText::Tr("Laut Kontoauszug");
-    return fixMod;
+    const bool isSplit = modSplit::Group(candidate.Entry) > 0;
+    if (!modRecurrence::IsRecurring(candidate.Entry.EntryInterval) || (isSplit && candidate.Cents != row.ImportValue)) {
+        return;
+    }
+    const auto what = isSplit ? modOccurrence::eCorrect::Day : modOccurrence::eCorrect::AmountAndDay;
+    candidate.Correction = modOccurrence::CorrectionTo(candidate.Entry, row, what);
+    candidate.ReplacesOwn = candidate.Correction && modOccurrence::ReplacesOwn(candidate.Entry, *candidate.Correction);
 }
 
 } // namespace
@@ -196,10 +200,7 @@ cMatchCandidate cMatcher::CandidateOf(const cPair& pair, const cImportEntry& row
     const cMatchIndex::cItem& item = pair.Index->Item(pair.Item);
     cMatchCandidate candidate{item.Entry, item.Cents, pair.Score, pair.Reason, pair.Index->IsTaken(pair.Item, row.ID),
                               {}};
-    const qint64 cents = row.ImportValue;
-    if (item.IsSeries && !item.IsSplit && cents != item.Cents) {
-        candidate.Correction = CorrectionTo(item.Entry, std::abs(cents));
-    }
+    OfferCorrection(candidate, row);
     return candidate;
 }
 
@@ -238,10 +239,7 @@ std::optional<cMatchCandidate> cMatcher::ByHand(int rowId, int entryId)
     }
     candidate.Entry = *occurrence;
     candidate.Cents = modBalance::Effect(*occurrence, m_knowledge->Transfers.AccountOf(row->ImportAccount));
-    const qint64 cents = std::abs(row->ImportValue);
-    if (cents != occurrence->EntryValue && modSplit::Group(*entry) == 0) {
-        candidate.Correction = CorrectionTo(*occurrence, cents);
-    }
+    OfferCorrection(candidate, *row);
     return candidate;
 }
 

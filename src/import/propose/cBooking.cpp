@@ -5,6 +5,7 @@
 #include "base/modLog.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/cSeriesFinder.h"
+#include "import/propose/modOccurrence.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
@@ -113,6 +114,10 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     }
     if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
+            if (match->Reopens && !m_data.ChangeEntry(match->Series)) {
+                return eOutcome::Failed;
+            }
+            series.Learn(*row, match->Series);
             return Join(*row, proposal, *match, result);
         }
     } else if (IsJoiningTransfer(proposal)) {
@@ -147,17 +152,16 @@ cBooking::eOutcome cBooking::Join(const cImportEntry& row, const cProposal& prop
     if (!HasAssigned(m_hive, row, match.Series.ID)) {
         return eOutcome::Failed;
     }
-    if (proposal.Entry.EntryValue != match.Expected) {
-        const cEntryItemFixMod fixMod{0,
-                                      match.Series.ID,
-                                      modWord::Betrag,
-                                      match.Period.Start,
-                                      match.Period.End,
-                                      proposal.Entry.EntryValue,
-                                      cText::Tr("Laut Kontoauszug")};
-        if (!m_data.AddNewEntryMod(fixMod)) {
+    if (const std::optional<cEntryItemFixMod> fixMod = modOccurrence::CorrectionTo(match.Occurrence, row)) {
+        cMatchCandidate joined;
+        joined.Entry = match.Occurrence;
+        joined.Cents = row.ImportValue;
+        joined.Correction = fixMod;
+        joined.ReplacesOwn = modOccurrence::ReplacesOwn(match.Occurrence, *fixMod);
+        if (!joined.ReplacesOwn && !m_data.AddNewEntryMod(*fixMod)) {
             return eOutcome::Failed;
         }
+        result.Corrections.append({row.ID, joined});
     }
     ++result.Rows;
     ++result.Joined;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "model/cMatch.h"
 #include "model/cProposal.h"
 
 #include <QHash>
@@ -26,6 +27,8 @@ struct cBookingResult
     int Failed = 0;              // rows that the database did not take
     QStringList UnknownAccounts; // own account numbers without an account of the book; their rows were not booked
     QList<int> EntryIds;         // of the entries added, in their order
+    QList<cMatch> Corrections; // joined rows whose occurrence has another amount or day. The correction is written, but
+                               // not where it replaces one of the user: cCorrectionFlow asks what is to be asked
 
     // Of a run that the database refused: all of it was taken back.
     [[nodiscard]] static cBookingResult Nothing(qsizetype rows)

@@ -154,6 +154,11 @@ cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
         TakeRule(proposal, row, restriction);
+        // A keyword alone makes no series where the other rows of the payee say that it is none.
+        if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
+            && m_knowledge->Series.IsContradicted(row, proposal.Entry.EntryInterval)) {
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+        }
     }
     TakeDefault(proposal, restriction);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);

@@ -4,9 +4,12 @@
 #include "import/read/modCounterparty.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
+#include "model/modSeries.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -15,6 +18,14 @@ bool IsLike(const cEntryItem& series, const cEntryItem& entry)
     return series.EntryInterval == entry.EntryInterval && series.EntryType == entry.EntryType
         && series.EntryAccount == entry.EntryAccount && series.EntryAccountMove == entry.EntryAccountMove
         && series.EntryCategory == entry.EntryCategory;
+}
+
+// Empty for a row that names no counterparty.
+QString DaysKey(const cImportEntry& row)
+{
+    const QString key = modCounterparty::Key(row);
+    const QChar way = row.ImportValue < 0 ? u'-' : u'+'; // what comes back is another matter
+    return key.isEmpty() ? QString() : QString(key + u'\n' + way + row.ImportAccount);
 }
 
 } // namespace
@@ -31,6 +42,11 @@ void cSeriesFinder::Build()
             row.ImportAssigned && !key.isEmpty() && !m_entries.contains(key, row.ImportAssignedEntry)) {
             m_entries.insert(key, row.ImportAssignedEntry);
         }
+        if (const QString key = DaysKey(row); !key.isEmpty() && row.ImportDate.isValid()) {
+            m_days.insert(key, row.ImportDate);
+        }
+        QDate& last = m_lastDays[row.ImportAccount];
+        last = last.isValid() ? std::max(last, row.ImportDate) : row.ImportDate;
     }
     m_isBuilt = true;
 }
@@ -51,42 +67,96 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
     if (!m_isBuilt) {
         Build();
     }
+    const cEntryItemList alike = Alike(row, entry);
+    for (const cEntryItem& series : alike) {
+        if (std::optional<cSeriesMatch> match = Match(series, row)) {
+            return match;
+        }
+    }
+    return Reopen(alike, row);
+}
+
+cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
+{
     QList<int> ids = m_entries.values(modCounterparty::Key(row));
     std::sort(ids.begin(), ids.end());
+    cEntryItemList alike;
     for (const int id : std::as_const(ids)) {
         if (!m_loaded.contains(id)) {
             m_loaded.insert(id, m_data.LoadEntry(id));
         }
         const std::optional<cEntryItem> series = m_loaded.value(id);
-        if (!series || !IsLike(*series, entry)) {
-            continue;
-        }
-        if (std::optional<cSeriesMatch> match = Match(*series, row)) {
-            return match;
+        if (series && IsLike(*series, entry) && (alike.isEmpty() || alike.last().ID != id)) {
+            alike.append(*series);
         }
     }
-    return std::nullopt;
+    return alike;
+}
+
+// Only the latest: one before it ended because another took its place.
+std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, const cImportEntry& row)
+{
+    constexpr int mostMissed = 3;
+    constexpr int mostPercent = 20;
+    const auto latest = std::max_element(alike.begin(), alike.end(),
+                                         [](const auto& a, const auto& b) { return a.EntryDate < b.EntryDate; });
+    if (latest == alike.end() || modRecurrence::EffectiveEnd(latest->EntryDateEnd) >= row.ImportDate) {
+        return std::nullopt;
+    }
+    cEntryItem series = *latest;
+    series.EntryDateEnd = modRecurrence::OpenEnd;
+    const QList<QDate> next = modSeries::Next(series, latest->EntryDateEnd.addDays(1), mostMissed);
+    std::optional<cSeriesMatch> match = Match(series, row);
+    const qint64 difference = match ? std::abs(std::abs(row.ImportValue) - match->Occurrence.EntryValue) : 0;
+    if (!match || !next.contains(match->Occurrence.Planned())
+        || difference * 100 > match->Occurrence.EntryValue * mostPercent) {
+        return std::nullopt;
+    }
+    match->Reopens = true;
+    return match;
+}
+
+bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
+{
+    if (!m_isBuilt) {
+        Build();
+    }
+    const int reach = modOccurrence::Reach(interval);
+    const QDate next = modRecurrence::Next(row.ImportDate, interval);
+    const qint64 step = row.ImportDate.daysTo(next);
+    const QList<QDate> days = m_days.values(DaysKey(row));
+    bool hasNeighbour = false;
+    for (const QDate day : days) {
+        const qint64 distance = std::abs(row.ImportDate.daysTo(day));
+        if (distance != 0 && distance < step - reach) {
+            return true;
+        }
+        hasNeighbour = hasNeighbour || std::abs(distance - step) <= reach;
+    }
+    return !hasNeighbour && m_lastDays.value(row.ImportAccount) > next.addDays(reach);
 }
 
 std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const cImportEntry& row)
 {
-    const std::optional<cEntryItem> occurrence =
-        modOccurrence::Nearest(series, row.ImportDate, m_data.GetEntryMods(series.ID));
-    if (!occurrence || IsTaken(series, occurrence->EntryDate, row.ID)) {
+    const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
+    const std::optional<cEntryItem> occurrence = modOccurrence::Nearest(series, row.ImportDate, fixMods);
+    if (!occurrence || IsTaken(series, *occurrence, fixMods, row)) {
         return std::nullopt;
     }
-    return cSeriesMatch{series, modRecurrence::OccurrencePeriod(occurrence->EntryDate, series.EntryInterval),
-                        occurrence->EntryValue};
+    return cSeriesMatch{series, *occurrence, false};
 }
 
-bool cSeriesFinder::IsTaken(const cEntryItem& series, QDate occurrence, int rowId)
+bool cSeriesFinder::IsTaken(const cEntryItem& series, const cEntryItem& occurrence, const cEntryItemFixModList& fixMods,
+                            const cImportEntry& wanted)
 {
     const int reach = modOccurrence::Reach(series.EntryInterval);
-    const QDate from = occurrence.addDays(-reach);
-    const QDate to = occurrence.addDays(reach);
+    const QDate from = std::min(occurrence.EntryDate, occurrence.Planned()).addDays(-reach);
+    const QDate to = std::max(occurrence.EntryDate, occurrence.Planned()).addDays(reach);
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).GetImportEntryByArea(series.ID, from, to);
     return std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
-        const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, {});
-        return row.ID != rowId && paid && paid->EntryDate == occurrence;
+        const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, fixMods);
+        // A transfer has a row in each of its accounts.
+        const bool isSameSide = (row.ImportValue < 0) == (wanted.ImportValue < 0);
+        return row.ID != wanted.ID && isSameSide && paid && paid->Planned() == occurrence.Planned();
     });
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
 #include "model/cImportEntry.h"
-#include "model/modPeriod.h"
 
 #include <QDate>
 #include <QHash>
@@ -17,13 +17,15 @@ class cImportHiveCache;
 struct cSeriesMatch
 {
     cEntryItem Series;
-    modPeriod::cRange Period; // of the occurrence
-    qint64 Expected = 0;      // cents of the occurrence, corrections applied
+    cEntryItem Occurrence; // as corrected so far
+    bool Reopens = false;  // the series had ended shortly before, and goes on with this row
 };
 
 // Finds the series that a transaction belongs to, so that the rent of the second month becomes an occurrence of the
 // first month's entry instead of a second series beside it. A series is taken when a row of the same counterparty was
-// booked to it, account, kind, category and interval are the same, and its nearest occurrence has no row yet.
+// booked to it, account, kind, category and interval are the same, and its nearest occurrence has no row yet. One that
+// ended up to three occurrences ago goes on when about the same amount comes again: statements may be read in pieces,
+// with the series of the first piece ended behind it.
 class cSeriesFinder
 {
 public:
@@ -34,14 +36,23 @@ public:
     // Makes a series known that the row has just been booked to.
     void Learn(const cImportEntry& row, const cEntryItem& series);
 
+    // True when the rows of the same counterparty, as far as they are there, say that the row does not recur like that:
+    // another lies half an interval away, or none follows, nor goes before, where the account's rows go on.
+    [[nodiscard]] bool IsContradicted(const cImportEntry& row, const QString& interval);
+
 private:
     void Build();
+    [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
-    [[nodiscard]] bool IsTaken(const cEntryItem& series, QDate occurrence, int rowId);
+    [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
+    [[nodiscard]] bool IsTaken(const cEntryItem& series, const cEntryItem& occurrence,
+                               const cEntryItemFixModList& fixMods, const cImportEntry& wanted);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;
     bool m_isBuilt = false;
     QMultiHash<QString, int> m_entries; // counterparty to entry IDs
     QHash<int, std::optional<cEntryItem>> m_loaded;
+    QMultiHash<QString, QDate> m_days; // counterparty and own account number to the days of its rows
+    QHash<QString, QDate> m_lastDays;  // own account number to its last row
 };

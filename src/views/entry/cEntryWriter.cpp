@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "import/propose/modOccurrence.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "store/cDataAccess.h"
@@ -20,6 +21,12 @@ const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
     return found == fixMods.end() ? nullptr : &*found;
 }
 
+// What the bank said of an occurrence stays true as long as the series has it; nobody would enter it again.
+bool IsKept(const cEntryItem& entry, const cEntryItemFixMod& fixMod)
+{
+    return modSeries::IsFromBank(fixMod.EntryComment) && modSeries::HasPeriod(entry, fixMod);
+}
+
 } // namespace
 
 bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
@@ -29,7 +36,9 @@ bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
         return false;
     }
     if (!from.isValid()) {
-        return modSeries::HasOtherPeriod(*stored, row.Entry);
+        return modSeries::HasOtherPeriod(*stored, row.Entry)
+            && !std::all_of(row.Corrections.begin(), row.Corrections.end(),
+                            [&](const cEntryItemFixMod& fixMod) { return IsKept(row.Entry, fixMod); });
     }
     return !std::all_of(row.Corrections.begin(), row.Corrections.end(),
                         [&](const cEntryItemFixMod& fixMod) { return modSeries::HasPeriod(row.Entry, fixMod); });
@@ -55,7 +64,7 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
         return false;
     }
     for (cEntryWrite* row : losing) {
-        row->Corrections.clear();
+        row->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return !IsKept(row->Entry, fixMod); });
     }
     return true;
 }
@@ -84,9 +93,8 @@ bool cEntryWriter::WriteFrom(cEntryWrite& row, QDate from)
         return false;
     }
     row.Entry.ID = 0;
-    // What the bank booked some days before the occurrence still belongs to it.
-    const QDate start = modRecurrence::OccurrencePeriod(from, old->EntryInterval).Start;
-    return EndBefore(oldId, from) && WriteRow(row) && MoveImports(oldId, row.Entry.ID, start);
+    const QList<int> paying = RowsFrom(*old, from); // as the series still is
+    return EndBefore(oldId, from) && WriteRow(row) && MoveImports(paying, row.Entry.ID);
 }
 
 bool cEntryWriter::EndBefore(int id, QDate from)
@@ -106,11 +114,30 @@ bool cEntryWriter::EndBefore(int id, QDate from)
     return m_data.ChangeEntry(*series);
 }
 
-bool cEntryWriter::MoveImports(int oldId, int newId, QDate from)
+// What the bank booked some days before an occurrence still belongs to it.
+QList<int> cEntryWriter::RowsFrom(const cEntryItem& series, QDate from) const
+{
+    const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
+    const QDate start = modRecurrence::OccurrencePeriod(from, series.EntryInterval).Start;
+    QList<int> ids;
+    const cImportEntryList rows = m_data.GetImportEntries();
+    for (const cImportEntry& row : rows) {
+        if (row.ImportAssignedEntry != series.ID) {
+            continue;
+        }
+        const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, fixMods);
+        if (paid ? paid->Planned() >= from : row.ImportDate >= start) {
+            ids.append(row.ID);
+        }
+    }
+    return ids;
+}
+
+bool cEntryWriter::MoveImports(const QList<int>& rowIds, int newId)
 {
     cImportEntryList rows = m_data.GetImportEntries();
     return std::all_of(rows.begin(), rows.end(), [&](cImportEntry& row) {
-        if (row.ImportAssignedEntry != oldId || row.ImportDate < from) {
+        if (!rowIds.contains(row.ID)) {
             return true;
         }
         row.ImportAssigned = row.ImportAssigned && newId != noEntry;
@@ -122,8 +149,11 @@ bool cEntryWriter::MoveImports(int oldId, int newId, QDate from)
 bool cEntryWriter::End(int id, QDate from)
 {
     const std::optional<cEntryItem> series = m_data.LoadEntry(id);
-    return series && EndBefore(id, from)
-        && MoveImports(id, noEntry, modRecurrence::OccurrencePeriod(from, series->EntryInterval).Start);
+    if (!series) {
+        return false;
+    }
+    const QList<int> paying = RowsFrom(*series, from);
+    return EndBefore(id, from) && MoveImports(paying, noEntry);
 }
 
 bool cEntryWriter::WriteCorrections(const cEntryWrite& row)
@@ -137,8 +167,8 @@ bool cEntryWriter::WriteCorrections(const cEntryWrite& row)
     return std::all_of(row.Corrections.begin(), row.Corrections.end(), [&](cEntryItemFixMod fixMod) {
         const cEntryItemFixMod* known = Find(stored, fixMod.EntryStartDate);
         fixMod.EntryRelation = row.Entry.ID;
-        const bool isSame =
-            known != nullptr && known->EntryValue == fixMod.EntryValue && known->EntryComment == fixMod.EntryComment;
+        const bool isSame = known != nullptr && known->EntryValue == fixMod.EntryValue
+            && known->EntryComment == fixMod.EntryComment && known->EntryDay == fixMod.EntryDay;
         return isSame || m_data.AddNewEntryMod(fixMod);
     });
 }

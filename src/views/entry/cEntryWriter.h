@@ -40,7 +40,8 @@ private:
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);
     [[nodiscard]] bool EndBefore(int id, QDate from);
-    [[nodiscard]] bool MoveImports(int oldId, int newId, QDate from);
+    [[nodiscard]] QList<int> RowsFrom(const cEntryItem& series, QDate from) const;
+    [[nodiscard]] bool MoveImports(const QList<int>& rowIds, int newId);
     [[nodiscard]] bool WriteCorrections(const cEntryWrite& row);
     [[nodiscard]] bool MarkGroup(QList<cEntryWrite>& rows);
 

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "base/modDayText.h"
 #include "base/modSum.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
@@ -64,7 +65,7 @@ std::optional<cEntryItemFixMod> cSeriesChange::Correction(int entryId, QDate day
     return std::nullopt;
 }
 
-std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entryId, QDate day)
+std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entryId, QDate day, QDate today)
 {
     const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
     if (!occurrence) {
@@ -78,6 +79,9 @@ std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entry
     fields.Title = cText::Tr("'{0}' vom {1} bis {2}",
                              {modEntryFields::Name(*occurrence), modDate::ToGerman(period.EntryStartDate),
                               modDate::ToGerman(period.EntryEndDate)});
+    fields.Today = today;
+    fields.DayText =
+        modDate::ToGerman(correction && correction->EntryDay.isValid() ? correction->EntryDay : fields.Day);
     fields.Amount = modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue, m_decimal);
     fields.Decimal = m_decimal;
     fields.Comment = correction ? correction->EntryComment : QString();
@@ -91,30 +95,51 @@ cSeriesChange::eSaved cSeriesChange::SavePeriod(const cPeriodFields& fields)
     if (!cents) {
         return eSaved::BadAmount;
     }
-    return CorrectPeriod(fields.EntryId, fields.Day, *cents, fields.Comment) ? eSaved::Saved : eSaved::Refused;
+    const bool isAsked = fields.Today.isValid() && !fields.DayText.trimmed().isEmpty();
+    const QDate day = isAsked ? modDayText::Read(fields.DayText, fields.Today) : fields.Day;
+    if (!day.isValid()) {
+        return eSaved::BadDay;
+    }
+    const std::optional<QDate> moveTo = fields.Today.isValid() ? std::optional(day) : std::nullopt;
+    return CorrectPeriod(fields.EntryId, fields.Day, *cents, fields.Comment, moveTo) ? eSaved::Saved : eSaved::Refused;
 }
 
-bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment)
+bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment,
+                                  const std::optional<QDate>& moveTo)
 {
     const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
-    return occurrence
-        && Store(*occurrence, cents, comment,
-                 cText::Tr("Betrag von '{0}' korrigiert", {modEntryFields::Name(*occurrence)}));
+    if (!occurrence) {
+        return false;
+    }
+    const cEntryItemFixMod before = Correction(entryId, day).value_or(modSeries::CorrectionFor(*occurrence));
+    cEntryItemFixMod fixMod = modSeries::CorrectionFor(*occurrence);
+    fixMod.EntryValue = std::abs(cents);
+    fixMod.EntryDay = moveTo.value_or(before.EntryDay);
+    if (fixMod.EntryDay == occurrence->EntryDate && fixMod.EntryDay != before.EntryDay) {
+        fixMod.EntryDay = {};
+    }
+    // What the user types is no longer what the bank said.
+    const bool isOwn = fixMod.EntryValue != before.EntryValue || fixMod.EntryDay != before.EntryDay;
+    fixMod.EntryComment = isOwn && modSeries::IsFromBank(comment) ? QString() : comment;
+    return Store(fixMod,
+                 fixMod.EntryDay == before.EntryDay
+                     ? cText::Tr("Betrag von '{0}' korrigiert", {modEntryFields::Name(*occurrence)})
+                     : cText::Tr("'{0}' verschoben", {modEntryFields::Name(*occurrence)}));
 }
 
 bool cSeriesChange::SkipPeriod(int entryId, QDate day)
 {
     const std::optional<cEntryItem> occurrence = Occurrence(entryId, day);
-    return occurrence
-        && Store(*occurrence, 0, cText::Tr("Ausgelassen"),
-                 cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(*occurrence)}));
+    if (!occurrence) {
+        return false;
+    }
+    cEntryItemFixMod fixMod = modSeries::CorrectionFor(*occurrence);
+    fixMod.EntryComment = cText::Tr("Ausgelassen");
+    return Store(fixMod, cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(*occurrence)}));
 }
 
-bool cSeriesChange::Store(const cEntryItem& occurrence, qint64 cents, const QString& comment, const QString& step)
+bool cSeriesChange::Store(const cEntryItemFixMod& fixMod, const QString& step)
 {
-    cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence);
-    fixMod.EntryValue = std::abs(cents);
-    fixMod.EntryComment = comment;
     cUndoStep undo(m_data, step);
     return undo.DoneIf(m_data.AddNewEntryMod(fixMod));
 }

@@ -12,28 +12,31 @@
 class cDataAccess;
 class cUser;
 
-// What can be done to one occurrence of a series from the entry list. `day` is the day of the occurrence. Every writing
+// What can be done to one occurrence of a series from the entry list. `day` is the day that the series plans for it,
+// also where it was moved. Every writing
 // call is one step that can be undone, and false when nothing was changed.
 class cSeriesChange
 {
 public:
     // What the user wants to change. Entry: the entry as a whole (cEntryEditor::Load). FromHere:
-    // cEntryEditor::LoadFrom. Period: the amount of this occurrence only (StartPeriod and SavePeriod).
+    // cEntryEditor::LoadFrom. Period: amount and day of this occurrence only (StartPeriod and SavePeriod).
     enum class eEdit { Nothing, Period, FromHere, Entry };
 
     // The small form for the amount of one period.
     struct cPeriodFields
     {
         int EntryId = 0;
-        QDate Day;      // of the occurrence
-        QString Title;  // "'Miete' vom 01.03.2026 bis 31.03.2026"
-        QString Amount; // as typed, sums too; the amount that counts now
+        QDate Day;       // of the occurrence
+        QString Title;   // "'Miete' vom 01.03.2026 bis 31.03.2026"
+        QDate Today;     // valid: the form asks for the day, and this is what "heute" means
+        QString DayText; // as typed; the day on which the occurrence lies now. Empty is the planned one
+        QString Amount;  // as typed, sums too; the amount that counts now
         QString Comment;
         eDecimal Decimal = eDecimal::Comma;
         bool IsCorrected = false; // there is a correction that can be removed
     };
 
-    enum class eSaved { Saved, BadAmount, Refused };
+    enum class eSaved { Saved, BadAmount, BadDay, Refused };
 
     // `decimal` is the sign that typed and shown amounts have.
     cSeriesChange(cDataAccess& data, cUser& user, eDecimal decimal = eDecimal::Comma)
@@ -50,17 +53,20 @@ public:
     // True when the entry is a series with an occurrence on this day.
     [[nodiscard]] bool IsOccurrence(int entryId, QDate day);
 
-    [[nodiscard]] std::optional<cPeriodFields> StartPeriod(int entryId, QDate day);
+    [[nodiscard]] std::optional<cPeriodFields> StartPeriod(int entryId, QDate day, QDate today = {});
     [[nodiscard]] eSaved SavePeriod(const cPeriodFields& fields);
 
-    [[nodiscard]] bool CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment);
+    // `moveTo` is the day to which the occurrence moves, the planned one for an invalid day; without it, it stays where
+    // it is.
+    [[nodiscard]] bool CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment,
+                                     const std::optional<QDate>& moveTo = std::nullopt);
     [[nodiscard]] bool SkipPeriod(int entryId, QDate day); // amount 0, comment "Ausgelassen"
     [[nodiscard]] bool RemoveCorrection(int entryId, QDate day);
     [[nodiscard]] std::optional<cEntryItemFixMod> Correction(int entryId, QDate day);
 
 private:
     [[nodiscard]] std::optional<cEntryItem> Occurrence(int entryId, QDate day);
-    [[nodiscard]] bool Store(const cEntryItem& occurrence, qint64 cents, const QString& comment, const QString& step);
+    [[nodiscard]] bool Store(const cEntryItemFixMod& fixMod, const QString& step);
 
     cDataAccess& m_data;
     cUser& m_user;

@@ -1,5 +1,6 @@
 #include "views/entry/modCorrections.h"
 
+#include "base/cText.h"
 #include "base/modDate.h"
 #include "base/modDayText.h"
 #include "base/modSum.h"
@@ -16,8 +17,11 @@ QList<modCorrections::cLine> modCorrections::Lines(const cEntryFields& fields)
 {
     QList<cLine> lines;
     for (const cEntryItemFixMod& fixMod : fields.Corrections) {
+        const QString period =
+            modDate::ToGerman(fixMod.EntryStartDate) + u" – "_s + modDate::ToGerman(fixMod.EntryEndDate);
         lines.append({modRecurrence::CorrectionLabel(fixMod),
-                      modDate::ToGerman(fixMod.EntryStartDate) + u" – "_s + modDate::ToGerman(fixMod.EntryEndDate),
+                      fixMod.EntryDay.isValid() ? cText::Tr("{0}, am {1}", {period, modDate::ToGerman(fixMod.EntryDay)})
+                                                : period,
                       modSum::ToText(fixMod.EntryValue, fields.Decimal), fixMod.EntryComment});
     }
     return lines;
@@ -46,6 +50,7 @@ modCorrections::eSet modCorrections::Set(const QString& dayText, const QString& 
     const auto isLater = [&](const cEntryItemFixMod& other) { return other.EntryStartDate >= fixMod.EntryStartDate; };
     const auto place = std::find_if(list.begin(), list.end(), isLater);
     if (place != list.end() && place->EntryStartDate == fixMod.EntryStartDate) {
+        fixMod.EntryDay = place->EntryDay; // the page asks for the amount; where the occurrence lies stays
         *place = fixMod;
     } else {
         list.insert(place, fixMod);
@@ -60,8 +65,11 @@ modCorrections::eSet modCorrections::Change(qsizetype line, const QString& amoun
     if (!cents || line < 0 || line >= fields.Corrections.size()) {
         return eSet::BadAmount;
     }
-    fields.Corrections[line].EntryValue = std::abs(*cents);
-    fields.Corrections[line].EntryComment = comment;
+    cEntryItemFixMod& fixMod = fields.Corrections[line];
+    // What the user types is no longer what the bank said.
+    const bool isOwn = fixMod.EntryValue != std::abs(*cents);
+    fixMod.EntryValue = std::abs(*cents);
+    fixMod.EntryComment = isOwn && modSeries::IsFromBank(comment) ? QString() : comment;
     return eSet::Done;
 }
 

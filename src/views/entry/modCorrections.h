@@ -13,7 +13,7 @@ namespace modCorrections {
 struct cLine
 {
     QString Label;  // "Manuelle Korrektur vom {0}"
-    QString Period; // "01.03.2026 – 31.03.2026"
+    QString Period; // "01.03.2026 – 31.03.2026", and "…, am 04.03.2026" of one that names its day
     QString Amount; // "12,50"
     QString Comment;
 };

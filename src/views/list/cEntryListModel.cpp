@@ -211,7 +211,7 @@ const cEntryItem* cEntryListModel::EntryAt(const QModelIndex& index) const
 cEntryListModel::cKey cEntryListModel::KeyAt(const QModelIndex& index) const
 {
     const cEntryItem* entry = EntryAt(index);
-    return entry == nullptr ? cKey{} : cKey{entry->ID, entry->EntryDate};
+    return entry == nullptr ? cKey{} : cKey{entry->ID, entry->Planned()};
 }
 
 QModelIndexList cEntryListModel::IndexesOf(const QList<cKey>& keys) const
@@ -230,7 +230,7 @@ QModelIndexList cEntryListModel::IndexesOf(const QList<cKey>& keys) const
             ++group;
         }
         const cEntryItem& entry = m_content.Entries.at(m_order[i]);
-        if (wanted.contains(entry.ID, entry.EntryDate)) {
+        if (wanted.contains(entry.ID, entry.Planned())) {
             const bool isInGroup = !m_groups.empty();
             const int first = isInGroup ? m_groups[group].First : 0;
             found.append(
@@ -392,13 +392,22 @@ std::optional<qint64> cEntryListModel::Cents(int entry, int column) const
 
 QString cEntryListModel::Tip(const cEntryItem& entry) const
 {
-    if (!entry.IsCorrected) {
+    if (!entry.HasCorrection()) {
         const QString part = cText::Tr("Teil eines aufgeteilten Eintrags; zum Bearbeiten öffnen sich alle Teile.");
         return modSplit::Group(entry) == 0 ? entry.EntryDescription
                                            : QString(entry.EntryDescription + u'\n' + part).trimmed();
     }
-    const QString tip = cText::Tr("Betrag für diesen Zeitraum von Hand korrigiert.");
-    return entry.CorrectionComment.isEmpty() ? tip : tip + u'\n' + entry.CorrectionComment;
+    QStringList lines;
+    if (entry.IsCorrected) {
+        lines.append(cText::Tr("Betrag für diesen Zeitraum korrigiert."));
+    }
+    if (entry.PlannedDate.isValid()) {
+        lines.append(cText::Tr("Verschoben; geplant war der {0}.", {modDate::ToGerman(entry.PlannedDate)}));
+    }
+    if (!entry.CorrectionComment.isEmpty()) {
+        lines.append(entry.CorrectionComment);
+    }
+    return lines.join(u'\n');
 }
 
 QString cEntryListModel::WidestAmount(int column) const

@@ -28,7 +28,7 @@ public:
     enum eRole {
         ToneRole = Qt::UserRole, // int of eMoneyTone
         FutureRole,              // bool: lies after today
-        CorrectedRole,           // bool: amount of this period corrected by hand
+        CorrectedRole,           // bool: amount of this period corrected
         GroupRole,               // bool: the row is the head of a group
         CentsRole,               // qint64: signed cents of a money column; invalid where the list shows none
         NameRole,                // text: name of a group, without its count
@@ -41,7 +41,7 @@ public:
     struct cKey
     {
         int ID = 0;
-        QDate Day;
+        QDate Day; // of a series: the planned one, which no other occurrence has
         bool operator==(const cKey&) const = default;
     };
 

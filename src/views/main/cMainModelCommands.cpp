@@ -52,6 +52,7 @@ bool cMainModel::Execute(int command)
     case modCommand::StartBalance:
     case modCommand::AccountStatement:
     case modCommand::CheckBook:
+    case modCommand::CheckSeries:
     case modCommand::BackupSettings:
     case modCommand::Rules:
     case modCommand::BankLogins:

@@ -12,7 +12,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 35> commands{{
+constexpr std::array<cCommand, 36> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "",
@@ -79,6 +79,8 @@ constexpr std::array<cCommand, 35> commands{{
      QT_TRANSLATE_NOOP("cText", "Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.")},
     {AccountStatement, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Kontoaus&zug anzeigen"), "",
      "", nullptr, Plain, QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze eines Bankkontos mit ihrem Saldo.")},
+    {CheckSeries, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Ser&ien prüfen…"), "", "", nullptr,
+     Writes, QT_TRANSLATE_NOOP("cText", "Sucht Serien, die die Bank nicht mehr bucht, und Buchungen, die ausstehen.")},
     {BankLogins, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Bankzugänge…"), "", "bank", nullptr,
      Writes, QT_TRANSLATE_NOOP("cText", "Richtet ein, bei welchen Banken Umsätze abgerufen werden.")},
     {CheckBook, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Prü&fen…"), "", "", nullptr, Plain,

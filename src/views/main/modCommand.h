@@ -38,6 +38,7 @@ enum eId : int {
     CheckBook = 125,
     BankLogins = 126,
     FetchTransactions = 127,
+    CheckSeries = 128,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,

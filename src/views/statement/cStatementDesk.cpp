@@ -23,6 +23,7 @@
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cRuleTrial.h"
+#include "views/statement/cSeriesCheck.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modTableOption.h"
@@ -244,6 +245,11 @@ QList<cMatchCandidate> cStatementDesk::Candidates(int rowId)
 std::optional<cMatchCandidate> cStatementDesk::ByHand(int rowId, int entryId)
 {
     return cMatcher(m_tools.Data, m_works->Hive, m_works->Accounts).ByHand(rowId, entryId);
+}
+
+cSeriesCheck cStatementDesk::Series()
+{
+    return {m_tools, m_works->Hive, m_works->Accounts};
 }
 
 QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<cOwnRule>& rules)

@@ -15,6 +15,7 @@
 #include <optional>
 
 class cMatchFlow;
+class cSeriesCheck;
 class cStatementFiles;
 struct cBookTools;
 struct cFileFinding;
@@ -54,6 +55,9 @@ public:
     // The entries that a row may belong to, best first; see cMatcher.
     [[nodiscard]] QList<cMatchCandidate> Candidates(int rowId);
     [[nodiscard]] std::optional<cMatchCandidate> ByHand(int rowId, int entryId);
+
+    // Series that the bank does not pay any more, or not yet.
+    [[nodiscard]] cSeriesCheck Series();
 
     // The place of the first rule that matches, by row; -1 for none.
     [[nodiscard]] QList<int> FirstRules(const cImportEntryList& rows, const QList<cOwnRule>& rules);

@@ -122,6 +122,7 @@ void cCorrectionsPage::Add()
                        .Values = {.Day = cText::Tr("heute"), .Amount = fields.Amount, .Comment = {}},
                        .Decimal = fields.Decimal,
                        .Today = m_today,
+                       .IsAmountFirst = false,
                        .Take =
                            [&](const frmKorrektur::cValues& values) {
                                return Taken(
@@ -146,6 +147,7 @@ void cCorrectionsPage::Change()
                        .Values = {.Day = {}, .Amount = text.Amount, .Comment = text.Comment},
                        .Decimal = fields.Decimal,
                        .Today = {},
+                       .IsAmountFirst = false,
                        .Take =
                            [&](const frmKorrektur::cValues& values) {
                                return Taken(modCorrections::Change(line, values.Amount, values.Comment, fields));

@@ -18,6 +18,7 @@ frmKorrektur::eTaken Taken(cSeriesChange::eSaved saved)
     switch (saved) {
     case cSeriesChange::eSaved::Saved: return frmKorrektur::eTaken::Done;
     case cSeriesChange::eSaved::BadAmount: return frmKorrektur::eTaken::BadAmount;
+    case cSeriesChange::eSaved::BadDay: return frmKorrektur::eTaken::BadDay;
     case cSeriesChange::eSaved::Refused: break;
     }
     return frmKorrektur::eTaken::Refused;
@@ -27,10 +28,13 @@ frmKorrektur::cParts PartsFor(cSeriesChange& change, const cSeriesChange::cPerio
 {
     frmKorrektur::cParts parts;
     parts.Text = fields.Title;
-    parts.Values = {.Day = {}, .Amount = fields.Amount, .Comment = fields.Comment};
+    parts.Values = {.Day = fields.DayText, .Amount = fields.Amount, .Comment = fields.Comment};
+    parts.Today = fields.Today;
+    parts.IsAmountFirst = true;
     parts.Decimal = fields.Decimal;
     parts.Take = [&change, fields](const frmKorrektur::cValues& values) {
         cSeriesChange::cPeriodFields typed = fields;
+        typed.DayText = values.Day;
         typed.Amount = values.Amount;
         typed.Comment = values.Comment;
         return Taken(change.SavePeriod(typed));
@@ -51,7 +55,7 @@ frmKorrektur::frmKorrektur(const cParts& parts, QWidget* parent)
       txtKommentar(new QLineEdit(this)),
       m_message(new QLabel(this))
 {
-    setWindowTitle(cText::Tr("Betrag für diesen Zeitraum korrigieren"));
+    setWindowTitle(cText::Tr("Diesen Zeitraum korrigieren"));
     m_day->setObjectName(QStringLiteral("txtTag"));
     txtBetrag->setObjectName(QStringLiteral("txtBetrag"));
     txtKommentar->setObjectName(QStringLiteral("txtKommentar"));
@@ -61,7 +65,8 @@ frmKorrektur::frmKorrektur(const cParts& parts, QWidget* parent)
     txtBetrag->setText(parts.Values.Amount);
     txtKommentar->setText(parts.Values.Comment);
     txtBetrag->selectAll();
-    (parts.Today.isValid() ? static_cast<QWidget*>(m_day) : txtBetrag)->setFocus();
+    const bool isDayFirst = parts.Today.isValid() && !parts.IsAmountFirst;
+    (isDayFirst ? static_cast<QWidget*>(m_day) : txtBetrag)->setFocus();
 }
 
 frmKorrektur::frmKorrektur(cSeriesChange& change, const cSeriesChange::cPeriodFields& fields, QWidget* parent)

@@ -13,7 +13,7 @@ class cDayEdit;
 class QLabel;
 class QLineEdit;
 
-// The small form for another amount in one period of a recurring entry.
+// The small form for another amount or another day in one period of a recurring entry.
 class frmKorrektur final : public QDialog
 {
     Q_OBJECT
@@ -34,6 +34,7 @@ public:
         cValues Values;                             // to start with
         eDecimal Decimal = eDecimal::Comma;         // how amounts are typed
         QDate Today;                                // valid: the form asks for the day
+        bool IsAmountFirst = false;                 // the amount is typed first, though it asks for the day too
         std::function<eTaken(const cValues&)> Take; // stores the values
         std::function<bool()> Remove;               // removes the correction; empty when there is none
     };

@@ -1,0 +1,313 @@
+#include "views/statement/cSeriesCheck.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cBookTools.h"
+#include "import/propose/modOccurrence.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHiveCache.h"
+#include "model/modBalance.h"
+#include "model/modRecurrence.h"
+#include "model/modSeries.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/entry/cEntryWriter.h"
+#include "views/entry/cSplitGroup.h"
+#include "views/entry/modEntryFields.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int missedOfEnded = 2;    // occurrences without a row after which a series counts as ended
+constexpr int daysOfHistory = 365;  // since the last day covered, after which statements are history
+constexpr int shareOfLikeness = 20; // percent by which the amounts of row and occurrence may differ
+
+bool MayPay(const cImportEntry& row, const cEntryItem& occurrence, qint64 cents)
+{
+    const qint64 difference = std::abs(row.ImportValue - cents);
+    return std::abs(modOccurrence::Days(occurrence, row.ImportDate)) <= modOccurrence::Reach(occurrence.EntryInterval)
+        && difference * 100 <= std::abs(cents) * shareOfLikeness;
+}
+
+// The planned occurrence with its corrections; one without an ID when the series has none on that day.
+cEntryItem PlannedAt(const cEntryItem& series, const cEntryItemFixModList& fixMods, QDate planned)
+{
+    cEntryItemList occurrences;
+    modRecurrence::Expand(series, {}, fixMods, occurrences);
+    const auto found = std::find_if(occurrences.begin(), occurrences.end(),
+                                    [&](const cEntryItem& each) { return each.Planned() == planned; });
+    return found == occurrences.end() ? cEntryItem() : *found;
+}
+
+} // namespace
+
+cSeriesCheck::cSeriesCheck(const cBookTools& tools, cImportHiveCache& hive, const cAccountMap& accounts)
+    : m_tools(tools),
+      m_hive(hive),
+      m_accounts(accounts)
+{
+}
+
+QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
+{
+    QHash<QString, QString> names; // by number
+    QHash<QString, cAccountRows> accounts;
+    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
+    for (const cImportEntry& row : rows) {
+        auto name = names.find(row.ImportAccount);
+        if (name == names.end()) {
+            name = names.insert(row.ImportAccount, m_accounts.AccountOf(row.ImportAccount));
+        }
+        if (name->isEmpty() || !row.ImportDate.isValid()) {
+            continue;
+        }
+        cAccountRows& account = accounts[*name];
+        modPeriod::cRange& covered = account.Covered;
+        covered.Start = covered.Start.isValid() ? std::min(covered.Start, row.ImportDate) : row.ImportDate;
+        covered.End = covered.End.isValid() ? std::max(covered.End, row.ImportDate) : row.ImportDate;
+        if (!row.ImportAssigned) {
+            account.Open.append(row);
+        }
+    }
+    const cBankBalances balances(m_tools.Settings);
+    for (auto name = names.cbegin(); name != names.cend(); ++name) {
+        const cBankBalanceList known = balances.Of(name.key());
+        if (!known.isEmpty() && accounts.contains(*name)) {
+            modPeriod::cRange& covered = accounts[*name].Covered;
+            covered.End = std::max(covered.End, known.last().Day);
+        }
+    }
+    return accounts;
+}
+
+// A transfer lies on the day of its debit, so the target's rows speak only where the source has none.
+cEntryItemList cSeriesCheck::SeriesOf(const QString& account, const QHash<QString, cAccountRows>& rows)
+{
+    cEntryItemList all = m_tools.Data.GetEntriesOfAccount(account);
+    QSet<int> groups;
+    all.removeIf([&](const cEntryItem& entry) {
+        const bool isHere = entry.EntryAccount == account
+            || (entry.EntryType == modWord::Umbuchung && !rows.contains(entry.EntryAccount));
+        const int group = modSplit::Group(entry);
+        if (!isHere || !modRecurrence::IsRecurring(entry.EntryInterval) || !entry.EntryDate.isValid()
+            || (group != 0 && groups.contains(group))) {
+            return true;
+        }
+        groups.insert(group);
+        return false;
+    });
+    return all;
+}
+
+QList<int> cSeriesCheck::Parts(const cEntryItem& entry) const
+{
+    QList<int> ids{entry.ID};
+    const cEntryItemList parts = cSplitGroup(m_tools.Data).Parts(entry);
+    for (const cEntryItem& part : parts) {
+        if (part.ID != entry.ID) {
+            ids.append(part.ID);
+        }
+    }
+    return ids;
+}
+
+void cSeriesCheck::NotePaid(cSeries& series)
+{
+    const cEntryItemFixModList fixMods = m_tools.Data.GetEntryMods(series.Entry.ID);
+    const QList<int> ids = Parts(series.Entry);
+    for (const int id : ids) {
+        const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).GetImportEntriesByAssignedID(id);
+        for (const cImportEntry& row : rows) {
+            if (m_accounts.AccountOf(row.ImportAccount) != series.Account) {
+                continue;
+            }
+            if (const auto paid = modOccurrence::Nearest(series.Entry, row.ImportDate, fixMods)) {
+                QDate& day = series.Paid[paid->Planned()];
+                day = day.isValid() ? std::max(day, row.ImportDate) : row.ImportDate;
+            }
+        }
+    }
+}
+
+QList<cSeriesCheck::cFinding> cSeriesCheck::Find(const QStringList& accounts)
+{
+    QList<cFinding> findings;
+    const QHash<QString, cAccountRows> rows = RowsByAccount();
+    QStringList names = rows.keys();
+    std::sort(names.begin(), names.end());
+    for (const QString& name : std::as_const(names)) {
+        if (!accounts.isEmpty() && !accounts.contains(name)) {
+            continue;
+        }
+        const cEntryItemList all = SeriesOf(name, rows);
+        for (const cEntryItem& entry : all) {
+            cSeries series{entry, name, *rows.constFind(name), {}};
+            NotePaid(series);
+            findings += FindIn(series);
+        }
+    }
+    return findings;
+}
+
+QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
+{
+    const modPeriod::cRange& covered = series.Rows.Covered;
+    const bool isHistory = covered.End.addDays(daysOfHistory) < m_tools.Clock.Today();
+    const QDate known = isHistory ? m_tools.Clock.Today() : covered.End;
+    const int reach = modOccurrence::Reach(series.Entry.EntryInterval);
+    cEntryItemList occurrences;
+    modRecurrence::Expand(series.Entry, {covered.Start, known}, m_tools.Data.GetEntryMods(series.Entry.ID),
+                          occurrences);
+    const QList<QDate> paid = series.Paid.keys();
+    const QDate lastPaid = paid.isEmpty() ? QDate() : *std::max_element(paid.begin(), paid.end());
+    cFinding base{series.Entry.ID, series.Account, series.Paid.value(lastPaid), {}, false, {}, {}};
+    QList<cFinding> late;
+    int missed = 0;
+    bool mayGoOn = false;
+    for (const cEntryItem& occurrence : std::as_const(occurrences)) {
+        const QDate planned = occurrence.Planned();
+        if (series.Paid.contains(planned)) {
+            continue;
+        }
+        const qint64 cents = modBalance::Effect(occurrence, series.Account);
+        const bool isTrailing = !lastPaid.isValid() || planned > lastPaid;
+        if (std::any_of(series.Rows.Open.begin(), series.Rows.Open.end(),
+                        [&](const cImportEntry& row) { return MayPay(row, occurrence, cents); })) {
+            mayGoOn = mayGoOn || isTrailing;
+            continue;
+        }
+        if (isTrailing && planned.addDays(reach) <= known) {
+            base.Occurrence = base.Occurrence.isValid() ? std::min(base.Occurrence, planned) : planned;
+            ++missed;
+        }
+        if (cents != 0 && occurrence.EntryDate <= covered.End) {
+            const QDate second = modRecurrence::Next(modRecurrence::Next(planned, series.Entry.EntryInterval),
+                                                     series.Entry.EntryInterval);
+            cFinding finding = base;
+            finding.IsLate = true;
+            finding.Occurrence = planned;
+            finding.MoveTo = second.addDays(reach) <= covered.End ? QDate() : covered.End.addDays(1);
+            late.append(finding);
+        }
+    }
+    if (missed < missedOfEnded || mayGoOn) {
+        return late;
+    }
+    // An end before the first day would leave an entry that no list shows.
+    base.End = lastPaid.isValid() ? lastPaid : std::max(base.Occurrence.addDays(-1), series.Entry.EntryDate);
+    late.removeIf([&](const cFinding& finding) { return finding.Occurrence >= base.Occurrence; });
+    return late + QList<cFinding>{base};
+}
+
+QString cSeriesCheck::NothingFound()
+{
+    return cText::Tr("Auf den Tagen, für die Kontoauszüge vorliegen, fehlt zu keiner Serie eine Buchung der Bank.");
+}
+
+bool cSeriesCheck::Apply(const QList<cFinding>& chosen)
+{
+    cUndoStep step(m_tools.Data, cText::Tr("Serien geprüft"));
+    return step.DoneIf(std::all_of(chosen.begin(), chosen.end(), [this](const cFinding& finding) {
+        const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(finding.EntryId);
+        const QList<int> ids = entry ? Parts(*entry) : QList<int>();
+        return entry && std::all_of(ids.begin(), ids.end(), [&](int id) { return ApplyOne(finding, id); });
+    }));
+}
+
+bool cSeriesCheck::ApplyOne(const cFinding& finding, int entryId)
+{
+    const std::optional<cEntryItem> series = m_tools.Data.LoadEntry(entryId);
+    if (!series) {
+        return false;
+    }
+    if (!finding.IsLate) {
+        return End(finding, *series);
+    }
+    const cEntryItem occurrence = PlannedAt(*series, m_tools.Data.GetEntryMods(entryId), finding.Occurrence);
+    return occurrence.ID == 0 || Correct(occurrence, finding.MoveTo);
+}
+
+bool cSeriesCheck::End(const cFinding& finding, const cEntryItem& series)
+{
+    const QList<QDate> next = modSeries::Next(series, finding.End.addDays(1), 1);
+    if (!next.isEmpty() && !cEntryWriter(m_tools.Data, m_tools.User).End(series.ID, next.first())) {
+        return false;
+    }
+    cEntryItem ended = series;
+    ended.EntryDateEnd = finding.End;
+    if (!m_tools.Data.ChangeEntry(ended)) {
+        return false;
+    }
+    // Nothing ever paid it, and its only day is left: it stays in sight, but counts for nothing.
+    const bool isUnpaid = !finding.LastPaid.isValid() && finding.Occurrence == finding.End;
+    const cEntryItem first = PlannedAt(ended, m_tools.Data.GetEntryMods(series.ID), finding.End);
+    return !isUnpaid || first.ID == 0 || Correct(first, {});
+}
+
+// Moves the occurrence to the day, or leaves it out.
+bool cSeriesCheck::Correct(const cEntryItem& occurrence, QDate day)
+{
+    cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence);
+    fixMod.EntryValue = day.isValid() ? occurrence.EntryValue : 0;
+    fixMod.EntryDay = day.isValid() ? day : occurrence.EntryDate;
+    const bool isOwn = occurrence.HasCorrection() && !modSeries::IsFromBank(occurrence.CorrectionComment);
+    const QString why = day.isValid() ? cText::Tr("{0} noch nicht gebucht", {modSeries::BankComment()})
+                                      : cText::Tr("{0} nicht gebucht", {modSeries::BankComment()});
+    fixMod.EntryComment = isOwn && day.isValid() ? occurrence.CorrectionComment : why;
+    return m_tools.Data.AddNewEntryMod(fixMod);
+}
+
+QString cSeriesCheck::Line(const cFinding& finding) const
+{
+    const cEntryItem entry = m_tools.Data.LoadEntry(finding.EntryId).value_or(cEntryItem());
+    const QString name = cText::Tr("'{0}' ({1})", {modEntryFields::Name(entry), finding.Account});
+    const auto day = [](QDate date) { return modDate::ToGerman(date); };
+    if (finding.IsLate && finding.MoveTo.isValid()) {
+        return cText::Tr("{0}, fällig am {1}: noch nicht gebucht; wird auf den {2} verschoben",
+                         {name, day(finding.Occurrence), day(finding.MoveTo)});
+    }
+    if (finding.IsLate) {
+        return cText::Tr("{0}, fällig am {1}: nicht gebucht; wird ausgelassen", {name, day(finding.Occurrence)});
+    }
+    if (!finding.LastPaid.isValid()) {
+        return cText::Tr("{0}: von der Bank nie gebucht; endet am {1}", {name, day(finding.End)});
+    }
+    return cText::Tr("{0}: zuletzt gebucht am {1}; endet am {2}", {name, day(finding.LastPaid), day(finding.End)});
+}
+
+QStringList cSeriesCheck::Ask(const QStringList& accounts)
+{
+    const QList<cFinding> findings = Find(accounts);
+    if (findings.isEmpty()) {
+        return {};
+    }
+    QStringList items;
+    for (const cFinding& finding : findings) {
+        items.append(Line(finding));
+    }
+    const std::optional<QList<int>> ticked = m_tools.User.Tick(
+        {.Text =
+             cText::Tr("Diese Serien sehen Buchungen vor, die auf den Kontoauszügen fehlen. Was angekreuzt ist, wird "
+                       "geändert, damit das Haushaltsbuch mit der Bank übereinstimmt."),
+         .Title = cText::Tr("Serien prüfen"),
+         .Take = cText::Tr("Ü&bernehmen"),
+         .Items = items});
+    QList<cFinding> chosen;
+    QStringList lines;
+    for (const int place : ticked.value_or(QList<int>())) {
+        chosen.append(findings.at(place));
+        lines.append(items.at(place));
+    }
+    return !chosen.isEmpty() && Apply(chosen) ? lines : QStringList();
+}
