@@ -33,6 +33,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &BackupLast,
                                      &BackupFailed,
                                      &OwnRules,
+                                     &Corrected,
                                      &ImportRuns,
                                      &BankProduct,
                                      &MainPeriod,

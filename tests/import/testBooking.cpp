@@ -2,6 +2,7 @@
 #include "cImportBook.h"
 #include "import/propose/cBooking.h"
 #include "import/propose/cProposer.h"
+#include "import/propose/modCorrected.h"
 #include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -16,7 +17,8 @@ struct cBank : cImportBook
 {
     cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
 
-    int Stage(QDate date, double value, const QString& name, const QString& account = {}, const QString& own = u"111"_s)
+    int Stage(QDate date, double value, const QString& name, const QString& account = {}, const QString& own = u"111"_s,
+              const QString& purpose = u"zu  Nr. 1"_s)
     {
         cImportEntry row;
         row.ImportAccount = own;
@@ -24,7 +26,7 @@ struct cBank : cImportBook
         row.ImportValue = modAmount::ToCents(value);
         row.ImportBeneficiary = name;
         row.ImportBeneficiaryAccount = account;
-        row.ImportPurpose = u"zu  Nr. 1"_s;
+        row.ImportPurpose = purpose;
         return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
     }
 
@@ -92,24 +94,125 @@ private Q_SLOTS:
         QVERIFY(proposer.Propose(row, eRestriction::Restricted).Entry.EntryCategory.isEmpty());
     }
 
+    // What was decided last counts, not what was decided most often.
     void LearnsFromTheUser()
     {
         cBank bank;
         bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), u"A"_s);
         const int alike = bank.Stage(day.addDays(9), -2, u"Rewe Sued"_s, u"DE 01"_s);
         QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"A"_s);
-        QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 1 Buchung an Rewe Sued"_s);
-        // A tie goes to the newest, whatever order the rows were booked in.
-        bank.BookAs(bank.Stage(day.addDays(-1), -1, u"REWE"_s, u"DE01"_s), u"B"_s, u"Jährlich"_s);
-        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"A"_s);
-        bank.BookAs(bank.Stage(day.addDays(-300), -1, u"REWE"_s, u"DE01"_s), u"B"_s);
+        QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 1 Buchung an Rewe"_s);
+        QVERIFY(!bank.Propose(alike).IsSure);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), u"A"_s);
+        QVERIFY(bank.Propose(alike).IsSure);
+        // An older row that is booked later is the newer decision.
+        const int other = bank.Stage(day.addDays(-300), -1, u"REWE SAGT DANKE 4711//Talheim/DE"_s);
+        bank.BookAs(other, u"B"_s, u"Jährlich"_s);
         QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"B"_s);
-        QCOMPARE(bank.Propose(alike).Entry.EntryInterval, u"Jährlich"_s);
-        QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 2 Buchungen an Rewe Sued"_s);
-        // The name counts where the account is unknown.
-        QCOMPARE(bank.Propose(bank.Stage(day, -3, u"rewe"_s)).Entry.EntryCategory, u"B"_s);
-        QCOMPARE(bank.Propose(bank.Stage(day, -3, u"rewe west"_s)).Reason, u"Regel: rewe"_s);
-        QCOMPARE(bank.Propose(bank.Stage(day, 3, u"REWE"_s)).Reason, u"gelernt aus 2 Buchungen von REWE"_s);
+        QCOMPARE(bank.Propose(alike).Reason,
+                 u"gelernt aus 1 Buchung an Rewe; unsicher, andere sind anders gebucht"_s);
+        QVERIFY(!bank.Propose(alike).IsSure);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"B"_s);
+        QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 2 Buchungen an Rewe"_s);
+        QVERIFY(bank.Propose(alike).IsSure);
+        // Money that comes back is known by its sender, but it is another thing.
+        const int back = bank.Stage(day, 3, u"REWE"_s);
+        QCOMPARE(bank.Propose(back).Reason, u"gelernt aus 2 Buchungen von REWE"_s);
+        QCOMPARE(bank.Propose(back).Entry.EntryInterval, modWord::Einmalig);
+        QVERIFY(!bank.Propose(back).IsSure);
+        // Somebody who books to and fro is asked every time.
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"A"_s);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"A"_s);
+        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"A"_s);
+        QVERIFY(!bank.Propose(alike).IsSure);
+    }
+
+    // The correction of a single old entry in the book is newer than all that was booked since.
+    void LearnsFromACorrection()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -1, u"Kiosk am Eck"_s);
+        bank.BookAs(first, u"A"_s);
+        bank.BookAs(bank.Stage(day.addDays(1), -1, u"Kiosk am Eck"_s), u"A"_s);
+        cEntryItem entry = *bank.Data.LoadEntry(bank.EntryOf(first));
+        entry.EntryCategory = u"B"_s;
+        QVERIFY(bank.Data.ChangeEntry(entry) && modCorrected::Note(bank.Data, entry.ID));
+        QCOMPARE(bank.Propose(bank.Stage(day.addDays(2), -1, u"Kiosk am Eck"_s)).Entry.EntryCategory, u"B"_s);
+    }
+
+    void LearnsByAccountOnlyWhereItIsOnePayee()
+    {
+        cBank bank;
+        bank.BookAs(bank.Stage(day, -1, u"Max Mustermann"_s, u"DE01"_s), u"A"_s);
+        const int turned = bank.Stage(day, -1, u"Mustermann, Max"_s, u"DE01"_s);
+        QCOMPARE(bank.Propose(turned).Entry.EntryCategory, u"A"_s);
+        QCOMPARE(bank.Propose(turned).Reason, u"gelernt aus 1 Buchung an Konto DE01"_s);
+        const int stranger = bank.Stage(day, -1, u"Kern und Partner"_s, u"DE01"_s); // a clearing account after all
+        QCOMPARE(bank.Propose(stranger).Entry.EntryCategory, u"Allgemein"_s);
+        QCOMPARE(bank.Propose(turned).Entry.EntryCategory, u"Allgemein"_s);
+        // Behind PayPal every shop is a payee of its own.
+        const auto shop = [&](const QString& name) {
+            return bank.Stage(day, -1, u"PayPal Europe"_s, u"LU01"_s, u"111"_s, u"PP.1.PP . %1, Ihr Einkauf bei %1"_s.arg(name));
+        };
+        bank.BookAs(shop(u"Kern und Partner"_s), u"P"_s);
+        QCOMPARE(bank.Propose(shop(u"Lehmbruck Verlag"_s)).Entry.EntryCategory, u"Allgemein"_s);
+        QCOMPARE(bank.Propose(stranger).Reason, u"gelernt aus 1 Buchung an Kern und Partner"_s);
+    }
+
+    // The landlord gets the rent every month and what is settled once a year: the amount tells them apart.
+    void MixedPayeeIsLearnedByAmount()
+    {
+        cBank bank;
+        for (const double value : {-650.0, -123.0, -650.0}) {
+            bank.BookAs(bank.Stage(day, value, u"Tannert"_s), value < -600 ? u"A"_s : u"B"_s);
+        }
+        QCOMPARE(bank.Propose(bank.Stage(day, -123, u"Tannert"_s)).Entry.EntryCategory, u"B"_s);
+        QVERIFY(bank.Propose(bank.Stage(day, -650, u"Tannert"_s)).IsSure);
+    }
+
+    void AcceptedOnceStaysSure()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -10, u"REWE Markt"_s);
+        QVERIFY(bank.Propose(first).IsSure);
+        QCOMPARE(bank.BookAll({first}).Rows, 1);
+        QVERIFY(bank.Propose(bank.Stage(day.addDays(1), -12, u"REWE Markt"_s)).IsSure);
+    }
+
+    void CashGoesToThePurse()
+    {
+        cBank bank;
+        const cProposal proposal = bank.Propose(bank.Stage(day, -200, u"GA NR00012345 BLZ37050198"_s));
+        QCOMPARE(proposal.Entry.EntryType, modWord::Umbuchung);
+        QCOMPARE(proposal.Entry.EntryAccount, u"Girokonto"_s);
+        QCOMPARE(proposal.Entry.EntryAccountMove, u"Bargeld"_s);
+        QCOMPARE(proposal.Entry.EntryCategory, u"Allgemein; Barauszahlung"_s);
+        QCOMPARE(proposal.Reason, u"Bargeld: an Bargeld"_s);
+        QVERIFY(proposal.IsSure);
+        const cProposal back = bank.Propose(bank.Stage(day, 50, u"Bareinzahlung"_s));
+        QCOMPARE(back.Entry.EntryAccount + back.Entry.EntryAccountMove, u"BargeldGirokonto"_s);
+        // Somebody who keeps no purse says so once.
+        cEntryItem spent = proposal.Entry;
+        spent.EntryType = modWord::Ausgabe;
+        spent.EntryAccountMove.clear();
+        QCOMPARE(cImportBook::BookAs(bank.Booking, bank.Stage(day, -100, u"GA NR00099999"_s), spent).Rows, 1);
+        QCOMPARE(bank.Propose(bank.Stage(day, -20, {}, {}, u"111"_s, u"Bargeldauszahlung"_s)).Entry.EntryType,
+                 modWord::Ausgabe);
+    }
+
+    // A transfer to an account without a number is learned with its account.
+    void LearnsTransfers()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -100, u"Depotbank"_s);
+        cEntryItem entry = bank.Propose(first).Entry;
+        entry.EntryType = modWord::Umbuchung;
+        entry.EntryAccountMove = u"Depot"_s;
+        entry.EntryCategory = u"A"_s;
+        QCOMPARE(cImportBook::BookAs(bank.Booking, first, entry).Rows, 1);
+        const cEntryItem back = bank.Propose(bank.Stage(day, 30, u"Depotbank"_s)).Entry;
+        QCOMPARE(QStringList({back.EntryType, back.EntryAccount, back.EntryAccountMove}),
+                 QStringList({modWord::Umbuchung, u"Depot"_s, u"Girokonto"_s}));
     }
 
     void TransferTakesBothRows()
@@ -164,9 +267,10 @@ private Q_SLOTS:
         QCOMPARE(entries.size(), 3);
         QCOMPARE(entries.last().EntryValue, 66000);
         QVERIFY(entries.last().IsCorrected && !entries.first().IsCorrected);
-        // A second payment within the month is no occurrence.
+        // A second payment within the month is no occurrence, and no second series either.
         const int extra = bank.Stage(day.addDays(2), -650, u"Miete Tann"_s, u"DE05"_s);
         QCOMPARE(bank.Propose(extra).ExistingEntry, 0);
+        QCOMPARE(bank.Propose(extra).Entry.EntryInterval, modWord::Einmalig);
         const int next = bank.Stage(day.addMonths(3), -650, u"Miete Tann"_s, u"DE05"_s);
         QCOMPARE(bank.Propose(next).ExistingEntry, bank.EntryOf(rows.first()));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/propose/cPayeeKeys.h"
 #include "model/cImportEntry.h"
 
 #include <QDate>
@@ -7,27 +8,37 @@
 #include <QList>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 class cDataAccess;
 class cImportHiveCache;
 
-// What the user chose for earlier transactions of the same counterparty.
+// What the user chose for earlier transactions of the same payee.
 class cLearned
 {
 public:
     struct cChoice
     {
         QString Category;
-        QString Interval; // of the newest entry in the category
-        int Count = 0;    // entries booked in the category
+        QString Interval;
+        QString Type;    // kind of the entry
+        QString Account; // of a transfer: the two accounts
+        QString AccountMove;
+        QDate SeriesEnd;    // of a series: its last day
+        int Count = 0;      // the newest rows that were booked like this, one after the other
+        bool IsSure = false; // at least two, and the category did not go to and fro before
+        bool HasOthers = false; // other rows of this payee were booked in another way
+        QString Who;            // what was really learned: the payee, or the account of the counterparty
+        bool IsAccount = false; // the latter
     };
 
     cLearned(cDataAccess& data, cImportHiveCache& hive);
 
-    // The category booked most often, the newest on a tie; empty when nothing like the row was booked yet. The account
-    // of the counterparty decides what is alike, its name only where that is unknown.
+    // What was decided last: the entry whose category was changed last, else the one that was booked last. Rows with
+    // the same sign go before others. Empty when nothing like the row was booked yet. The payee decides what is alike,
+    // the account of the counterparty only when all its rows carry one payee.
     [[nodiscard]] std::optional<cChoice> Find(const cImportEntry& row);
 
 private:
@@ -35,22 +46,36 @@ private:
     {
         int RowId = 0;
         int EntryId = 0;
+        qint64 Cents = 0;
     };
     struct cEntry
     {
-        QDate Date;
         QString Category;
         QString Interval;
+        QString Type;
+        QString Account;
+        QString AccountMove;
+        QDate End;
     };
-
+    struct cAccount
+    {
+        QList<cBooked> Rows;
+        QStringList Payees; // keys, as far as they differ
+        bool IsMixed = false;
+    };
     void Build(cImportHiveCache& hive);
+    static void NotePayee(cAccount& account, const cPayeeKeys::cPayee& payee);
     [[nodiscard]] const cEntry& Entry(int id);
     void LoadAll();
-    [[nodiscard]] std::optional<cChoice> Choose(const QList<cBooked>& rows, int exceptRow);
+    [[nodiscard]] QList<cBooked> Decided(const QList<cBooked>& rows, const cImportEntry& row);
+    [[nodiscard]] std::optional<cChoice> Choose(const QList<cBooked>& rows, const cImportEntry& row);
+    [[nodiscard]] cChoice ChoiceOf(const QList<cBooked>& decided, qsizetype count);
 
     cDataAccess& m_data;
-    QHash<QString, QList<cBooked>> m_byAccount;
-    QHash<QString, QList<cBooked>> m_byName;
+    cPayeeKeys m_payees;
+    QHash<QString, QList<cBooked>> m_byPayee;
+    QHash<QString, cAccount> m_byAccount;
+    QHash<int, int> m_corrected; // entry to its place among those that were changed, the newest is the highest
     QSet<int> m_entryIds;
     QHash<int, cEntry> m_entries; // as far as they were asked for
 };

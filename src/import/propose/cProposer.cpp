@@ -6,15 +6,19 @@
 #include "import/propose/cRuleMatcher.h"
 #include "import/propose/cSeriesFinder.h"
 #include "import/propose/cTransferFinder.h"
+#include "import/propose/modCash.h"
 #include "import/propose/modOwnRule.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
+#include "store/cDataAccess.h"
 
+#include <QSet>
 #include <QStringList>
 
 #include <cstdlib>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,8 +29,31 @@ struct cProposer::cKnowledge
           Transfers(data, hive, accounts),
           Series(data, hive),
           Rules(cOwnRules(accounts.Settings()).Load()),
-          Matcher(Rules)
+          Matcher(Rules),
+          Cash(CashAccounts(data, accounts))
     {
+        const cTemplateItemList items = data.GetTemplates();
+        for (const cTemplateItem& item : items) {
+            Categories.insert(modTemplate::IsAccount(item) ? QString() : modTemplate::Path(item));
+        }
+    }
+
+    static QStringList CashAccounts(cDataAccess& data, const cAccountMap& accounts)
+    {
+        QStringList numbered;
+        const QList<std::pair<QString, QString>> mapping = accounts.Mapping();
+        for (const auto& [number, account] : mapping) {
+            numbered.append(account);
+        }
+        return modCash::Accounts(data.GetAccounts(), numbered);
+    }
+
+    // What the program knows by itself. Of a category that the book does not have it is not sure.
+    [[nodiscard]] cHint BestHint(const cImportEntry& row) const
+    {
+        cHint hint = modHint::Best(row);
+        hint.IsSure = hint.IsSure && Categories.contains(hint.Category);
+        return hint;
     }
 
     // The user's own rule for the row; null when there is none.
@@ -41,6 +68,8 @@ struct cProposer::cKnowledge
     cSeriesFinder Series;
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
+    QStringList Cash; // accounts for cash
+    QSet<QString> Categories;
 };
 
 namespace {
@@ -65,26 +94,63 @@ cEntryItem EntryOf(const cImportEntry& row)
 
 QString LearnedReason(const cLearned::cChoice& choice, const cImportEntry& row)
 {
-    const QString name = row.ImportBeneficiary.simplified();
-    const QString who = name.isEmpty() ? row.ImportBeneficiaryAccount : name;
+    const QString who = choice.IsAccount ? cText::Tr("Konto {0}", {choice.Who}) : choice.Who;
     const QStringList values{QString::number(choice.Count), who};
+    QString reason;
     if (row.ImportValue > 0) {
-        return choice.Count == 1 ? cText::Tr("gelernt aus {0} Buchung von {1}", values)
-                                 : cText::Tr("gelernt aus {0} Buchungen von {1}", values);
+        reason = choice.Count == 1 ? cText::Tr("gelernt aus {0} Buchung von {1}", values)
+                                   : cText::Tr("gelernt aus {0} Buchungen von {1}", values);
+    } else {
+        reason = choice.Count == 1 ? cText::Tr("gelernt aus {0} Buchung an {1}", values)
+                                   : cText::Tr("gelernt aus {0} Buchungen an {1}", values);
     }
-    return choice.Count == 1 ? cText::Tr("gelernt aus {0} Buchung an {1}", values)
-                             : cText::Tr("gelernt aus {0} Buchungen an {1}", values);
+    return choice.HasOthers ? cText::Tr("{0}; unsicher, andere sind anders gebucht", {reason}) : reason;
 }
 
-void TakeRule(cProposal& proposal, const cImportEntry& row, eRestriction restriction)
+void TakeHint(cProposal& proposal, const cHint& hint)
 {
-    const modKeywordRules::cMatch match =
-        modKeywordRules::Match(modKeywordRules::MatchText(row), row.ImportValue, restriction);
-    proposal.Entry.EntryCategory = match.Category;
-    proposal.Entry.EntryInterval = match.Interval;
-    if (!match.Category.isEmpty()) {
-        proposal.Reason = cText::Tr("Regel: {0}", {match.Keyword});
+    proposal.Entry.EntryCategory = hint.Category;
+    proposal.Entry.EntryInterval = hint.Interval;
+    proposal.Reason = hint.Reason;
+    proposal.IsSure = hint.IsSure;
+}
+
+void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImportEntry& row)
+{
+    cEntryItem& entry = proposal.Entry;
+    entry.EntryCategory = choice.Category;
+    entry.EntryInterval = choice.Interval;
+    proposal.Reason = LearnedReason(choice, row);
+    proposal.IsSure = choice.IsSure;
+    const QString own = entry.EntryAccount;
+    const QString other = choice.Account == own ? choice.AccountMove : choice.Account;
+    if (choice.Type != modWord::Umbuchung || own.isEmpty() || other.isEmpty() || other == own) {
+        return;
     }
+    // It went to an account without a number, the purse or a depot: that is what was learned.
+    const bool isOutgoing = entry.EntryType == modWord::Ausgabe;
+    entry.EntryType = modWord::Umbuchung;
+    entry.EntryAccount = isOutgoing ? own : other;
+    entry.EntryAccountMove = isOutgoing ? other : own;
+}
+
+// Of several purses nobody knows which one it was.
+void TakeCash(cProposal& proposal, const QStringList& accounts)
+{
+    cEntryItem& entry = proposal.Entry;
+    const QString own = entry.EntryAccount;
+    const bool isOutgoing = entry.EntryType == modWord::Ausgabe;
+    entry.EntryCategory = isOutgoing ? u"Allgemein; Barauszahlung"_s : u"Allgemein; Bareinzahlung"_s;
+    entry.EntryInterval = modWord::Einmalig;
+    proposal.IsSure = accounts.size() == 1;
+    const QString& purse = accounts.constFirst();
+    if (own == purse) {
+        return;
+    }
+    entry.EntryType = modWord::Umbuchung;
+    entry.EntryAccount = isOutgoing ? own : purse;
+    entry.EntryAccountMove = isOutgoing ? purse : own;
+    proposal.Reason = isOutgoing ? cText::Tr("Bargeld: an {0}", {purse}) : cText::Tr("Bargeld: von {0}", {purse});
 }
 
 void TakeOwnRule(cProposal& proposal, const cOwnRule& rule)
@@ -96,6 +162,7 @@ void TakeOwnRule(cProposal& proposal, const cOwnRule& rule)
         entry.EntryInterval = rule.Category == entry.EntryCategory ? entry.EntryInterval : modWord::Einmalig;
         entry.EntryCategory = rule.Category;
         proposal.IsDefault = false;
+        proposal.IsSure = true;
     }
     // Where the rest comes from, or that it is a transfer, remains worth knowing.
     const bool isAll = !rule.Category.isEmpty() && entry.EntryType != modWord::Umbuchung;
@@ -117,6 +184,17 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
     proposal.ExistingEntry = transfer.ExistingEntry;
     proposal.Reason = isOutgoing ? cText::Tr("eigenes Konto: an {0}", {transfer.Other})
                                  : cText::Tr("eigenes Konto: von {0}", {transfer.Other});
+}
+
+// One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to be
+// looked at once more.
+void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const std::function<cHint()>& knownHint)
+{
+    if (proposal.IsSure || choice.HasOthers || proposal.Entry.EntryType == modWord::Umbuchung) {
+        return;
+    }
+    const cHint hint = knownHint();
+    proposal.IsSure = hint.IsSure && hint.Category == choice.Category;
 }
 
 void TakeDefault(cProposal& proposal, eRestriction restriction)
@@ -143,17 +221,29 @@ cProposer::~cProposer() = default;
 
 cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
 {
+    return Make(row, restriction, [&] { return modHint::ByRule(row, restriction); });
+}
+
+cProposal cProposer::ProposeBest(const cImportEntry& row)
+{
+    return Make(row, eRestriction::None, [&] { return m_knowledge->BestHint(row); });
+}
+
+cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, const std::function<cHint()>& knownHint)
+{
     cProposal proposal;
     proposal.Entry = EntryOf(row);
     proposal.Entry.EntryAccount = m_knowledge->Transfers.AccountOf(row.ImportAccount);
     const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
-    if (const std::optional<cLearned::cChoice> choice = m_knowledge->Learned.Find(row)) {
-        proposal.Entry.EntryCategory = choice->Category;
-        proposal.Entry.EntryInterval = choice->Interval;
-        proposal.Reason = LearnedReason(*choice, row);
+    const std::optional<cLearned::cChoice> choice = m_knowledge->Learned.Find(row);
+    if (choice) {
+        TakeLesson(proposal, *choice, row);
+        TakeAgreement(proposal, *choice, knownHint);
+    } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(row)) {
+        TakeCash(proposal, m_knowledge->Cash);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
-        TakeRule(proposal, row, restriction);
+        TakeHint(proposal, knownHint());
         // A keyword alone makes no series where the other rows of the payee say that it is none.
         if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
             && m_knowledge->Series.IsContradicted(row, proposal.Entry.EntryInterval)) {
@@ -166,21 +256,18 @@ cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
         TakeTransfer(proposal, *transfer);
     }
     // What the user has said explicitly goes before all that the program has learned or knows by itself. That keeps its
-    // order among itself: learned, then keywords, then the default.
+    // order among itself: learned, then keywords, then the list, then the default.
     if (own != nullptr) {
         TakeOwnRule(proposal, *own);
     }
     if (proposal.ExistingEntry == 0) {
         if (const std::optional<cSeriesMatch> match = m_knowledge->Series.Find(row, proposal.Entry)) {
             proposal.ExistingEntry = match->Series.ID;
+        } else if (choice && own == nullptr && choice->SeriesEnd >= row.ImportDate) {
+            // Its series has had its payment, so this is something beside it: a second series is hardly ever meant.
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+            proposal.IsSure = false;
         }
     }
     return proposal;
-}
-
-cProposal cProposer::ProposeBest(const cImportEntry& row)
-{
-    cProposal proposal = Propose(row, eRestriction::Restricted);
-    proposal.IsSure = !proposal.IsDefault;
-    return proposal.IsSure ? proposal : Propose(row);
 }

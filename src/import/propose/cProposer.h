@@ -1,9 +1,11 @@
 #pragma once
 
+#include "import/propose/modHint.h"
 #include "import/propose/modKeywordRules.h"
 #include "model/cImportEntry.h"
 #include "model/cProposal.h"
 
+#include <functional>
 #include <memory>
 
 class cAccountMap;
@@ -11,7 +13,7 @@ class cDataAccess;
 class cImportHiveCache;
 
 // Proposes entries for staged rows: by the user's own rules, from what the user did with earlier rows of the same
-// counterparty, from the keyword rules, and finally a default. What it knows of the book is read once, when it is made:
+// payee, from the keyword rules, from the list of payees, and finally a default. Cash goes to the purse. What it knows of the book is read once, when it is made:
 // make one per batch.
 class cProposer
 {
@@ -24,10 +26,14 @@ public:
     [[nodiscard]] cProposal Propose(const cImportEntry& row, eRestriction restriction = eRestriction::None);
 
     // For rows that are to be booked. Whether money comes or goes is known of them, which leaves the keywords that are
-    // part of many words ("bar", "auto") for those of which nothing else is known: a surer rule goes before them.
+    // part of many words ("bar", "auto") for those of which nothing else is known: a surer rule goes before them. Only
+    // here a proposal may be called sure.
     [[nodiscard]] cProposal ProposeBest(const cImportEntry& row);
 
 private:
     struct cKnowledge;
+    [[nodiscard]] cProposal Make(const cImportEntry& row, eRestriction restriction,
+                                 const std::function<cHint()>& knownHint);
+
     std::unique_ptr<cKnowledge> m_knowledge;
 };

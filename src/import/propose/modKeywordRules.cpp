@@ -103,14 +103,17 @@ bool HasSign(qint64 cents, eSign sign)
     return true;
 }
 
-void Apply(const cRule& rule, const QString& keyword, qint64 cents, modKeywordRules::cMatch& match)
+// What the rule sets; it may be no more than an interval.
+modKeywordRules::cMatch Outcome(const cRule& rule, const QString& keyword, qint64 cents)
 {
+    modKeywordRules::cMatch match;
     match.Interval = QString::fromUtf8(rule.Interval);
     if (HasSign(cents, rule.CategoryOnly)) {
         const bool isOther = cents > 0 && rule.PositiveCategory != nullptr;
         match.Category = QString::fromUtf8(isOther ? rule.PositiveCategory : rule.Category);
         match.Keyword = keyword;
     }
+    return match;
 }
 
 } // namespace
@@ -121,18 +124,36 @@ QString modKeywordRules::MatchText(const cImportEntry& row)
     return joined.toLower().remove(u'\n').remove(u'\r');
 }
 
-modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, qint64 cents, eRestriction restriction)
+QList<modKeywordRules::cMatch> modKeywordRules::Hits(const QString& matchText, qint64 cents, eRestriction restriction)
 {
     const auto& rules = modKeywordTable::Rules();
     const std::vector<int> found = Lookup().Find(matchText);
-    cMatch match;
+    QList<cMatch> hits;
     for (size_t i = 0; i < rules.size(); ++i) {
         const cRule& rule = rules[i];
         const bool isLeftOut = restriction == eRestriction::Restricted && rule.IsUncertain;
         const bool hasSecond = rule.AlsoRequired == nullptr || matchText.contains(QString::fromUtf8(rule.AlsoRequired));
         if (found[i] >= 0 && hasSecond && !isLeftOut && HasSign(cents, rule.Only)) {
-            Apply(rule, Lookup().Alternative(i, found[i]), cents, match);
+            hits.append(Outcome(rule, Lookup().Alternative(i, found[i]), cents));
         }
     }
-    return match;
+    return hits;
+}
+
+modKeywordRules::cMatch modKeywordRules::Last(const QList<cMatch>& hits)
+{
+    cMatch last;
+    for (const cMatch& hit : hits) {
+        last.Interval = hit.Interval;
+        if (!hit.Category.isEmpty()) {
+            last.Category = hit.Category;
+            last.Keyword = hit.Keyword;
+        }
+    }
+    return last;
+}
+
+modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, qint64 cents, eRestriction restriction)
+{
+    return Last(Hits(matchText, cents, restriction));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 struct cImportEntry;
@@ -21,6 +22,12 @@ struct cMatch
 
 // Lower-cased counterparty, purpose and booking text, joined by "|", without line breaks.
 [[nodiscard]] QString MatchText(const cImportEntry& row);
+
+// What each rule that matches sets, in the order of the rules.
+[[nodiscard]] QList<cMatch> Hits(const QString& matchText, qint64 cents, eRestriction restriction);
+
+// What remains when each of them overwrites what earlier ones set.
+[[nodiscard]] cMatch Last(const QList<cMatch>& hits);
 
 // Applies all rules in their order; the last one that matches wins. `value` is the signed amount.
 [[nodiscard]] cMatch Match(const QString& matchText, qint64 cents, eRestriction restriction);

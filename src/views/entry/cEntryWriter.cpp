@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "import/propose/modCorrected.h"
 #include "import/propose/modOccurrence.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
@@ -81,8 +82,17 @@ bool cEntryWriter::Write(QList<cEntryWrite>& rows, const QList<int>& removed, QD
 
 bool cEntryWriter::WriteRow(cEntryWrite& row)
 {
-    const bool isStored = row.Entry.ID == 0 ? m_data.AddNewEntry(row.Entry) : m_data.ChangeEntry(row.Entry);
+    const bool isStored = row.Entry.ID == 0 ? m_data.AddNewEntry(row.Entry) : Change(row.Entry);
     return isStored && WriteCorrections(row);
+}
+
+// A category that the user corrects is what the next bank transactions of this payee should get.
+bool cEntryWriter::Change(const cEntryItem& entry)
+{
+    const std::optional<cEntryItem> stored = m_data.LoadEntry(entry.ID);
+    const bool isCorrected = stored
+        && (stored->EntryCategory != entry.EntryCategory || stored->EntryType != entry.EntryType);
+    return m_data.ChangeEntry(entry) && (!isCorrected || modCorrected::Note(m_data, entry.ID));
 }
 
 bool cEntryWriter::WriteFrom(cEntryWrite& row, QDate from)

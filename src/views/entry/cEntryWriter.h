@@ -38,6 +38,7 @@ public:
 private:
     [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
+    [[nodiscard]] bool Change(const cEntryItem& entry);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);
     [[nodiscard]] bool EndBefore(int id, QDate from);
     [[nodiscard]] QList<int> RowsFrom(const cEntryItem& series, QDate from) const;

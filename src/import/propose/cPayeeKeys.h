@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <utility>
+
+struct cImportEntry;
+
+// Which transactions have the same payee. It remembers what it has found out about a name, because the same names come
+// again and again.
+class cPayeeKeys
+{
+public:
+    struct cPayee
+    {
+        QString Key;              // the same for all cash; empty when the row names nobody
+        QString Name;             // as a person reads it
+        bool IsCollector = false; // the name is that of somebody who collects for others
+        bool IsCash = false;
+
+    private:
+        friend class cPayeeKeys;
+        bool IsFixed = false; // the same for all rows with this name, whatever their purpose
+    };
+
+    [[nodiscard]] cPayee Of(const cImportEntry& row);
+
+private:
+    [[nodiscard]] static cPayee ByName(const cImportEntry& row);
+
+    QHash<std::pair<QString, QString>, cPayee> m_known; // by booking text and name
+};

@@ -1,0 +1,215 @@
+#include "import/propose/modHint.h"
+
+#include "base/cText.h"
+#include "import/propose/modKeywordTrust.h"
+#include "import/propose/modPayeeList.h"
+#include "import/read/modPayee.h"
+#include "model/cImportEntry.h"
+#include "model/cTemplateItem.h"
+#include "model/modWord.h"
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+
+namespace {
+
+using modKeywordRules::cMatch;
+using modPayeeList::cHit;
+using modTextWords::cWord;
+
+// How much a word of the list says, by where it was found.
+enum class eWeight { Purpose, Payee, Word };
+
+struct cFound
+{
+    cHit Hit;
+    eWeight Weight = eWeight::Purpose;
+};
+
+// A row with all that the list finds in it.
+struct cView
+{
+    explicit cView(const cImportEntry& row)
+        : Cents(row.ImportValue),
+          NameSize(row.ImportBeneficiary.size()),
+          Text(QString(row.ImportBeneficiary + u'|' + row.ImportPurpose + u'|' + row.ImportType)
+                   .toLower()
+                   .remove(u'\r')
+                   .replace(u'\n', u' ')),
+          Words(modTextWords::Of(Text)),
+          Hits(modPayeeList::Find(Words, Cents))
+    {
+        const QList<cHit> payee = Hits.isEmpty()
+            ? QList<cHit>()
+            : modPayeeList::Find(modTextWords::Of(modPayee::Of(row).Text), Cents);
+        for (const cHit& hit : payee) {
+            All.append({hit, hit.IsPurpose ? eWeight::Word : eWeight::Payee});
+        }
+        for (const cHit& hit : Hits) {
+            All.append({hit, hit.IsPurpose ? eWeight::Word : eWeight::Purpose});
+        }
+    }
+
+    // The characters of a hit, as place and length.
+    [[nodiscard]] std::pair<qsizetype, qsizetype> RangeOf(const cHit& hit) const
+    {
+        const cWord& last = Words.at(hit.From + hit.Count - 1);
+        const qsizetype at = Words.at(hit.From).At;
+        return {at, last.At + last.Size - at};
+    }
+
+    qint64 Cents = 0;
+    qsizetype NameSize = 0;
+    QString Text; // as the keyword rules see it, but with blanks for line breaks
+    QList<cWord> Words;
+    QList<cHit> Hits; // in the whole text, `From` counts in Words
+    QList<cFound> All;
+};
+
+bool IsOther(const QString& category, const QString& other)
+{
+    return !modTemplate::IsWithin(category, other) && !modTemplate::IsWithin(other, category);
+}
+
+const cFound* BestOf(const QList<cFound>& all)
+{
+    const auto best = std::max_element(all.begin(), all.end(), [](const cFound& a, const cFound& b) {
+        return std::tuple(a.Weight, a.Hit.Word.size(), a.Hit.IsSure) < std::tuple(b.Weight, b.Hit.Word.size(), b.Hit.IsSure);
+    });
+    return best == all.end() ? nullptr : &*best;
+}
+
+// Whether something of the same weight, or what is paid for, names another category. What stands within the longer name
+// of the best one is a part of it.
+bool HasRival(const QList<cFound>& all, const cFound& best)
+{
+    return std::any_of(all.begin(), all.end(), [&](const cFound& other) {
+        const bool isPart = best.Hit.Word.contains(other.Hit.Word);
+        const bool isEqual = other.Weight == best.Weight
+            || (other.Weight == eWeight::Payee
+                && modTemplate::MainOf(other.Hit.Category) != modTemplate::MainOf(best.Hit.Category));
+        return isEqual && other.Hit.IsSure && !isPart && IsOther(other.Hit.Category, best.Hit.Category);
+    });
+}
+
+cHint FromList(const QList<cFound>& all, const cFound& best)
+{
+    const QString reason = best.Weight == eWeight::Word ? cText::Tr("Stichwort: {0}", {best.Hit.Word})
+                                                        : cText::Tr("bekannt: {0}", {best.Hit.Word});
+    return {best.Hit.Category, best.Hit.Interval, reason,
+            best.Hit.IsSure && best.Weight != eWeight::Purpose && !HasRival(all, best)};
+}
+
+// Blanks the longer names of the list that hold the keyword, when it stands nowhere else. False when there is none.
+bool HasBlanked(const cView& view, const QString& keyword, QString& text)
+{
+    QString rest = text;
+    for (const cHit& hit : view.Hits) {
+        const auto [at, size] = view.RangeOf(hit);
+        if (size > keyword.size() && QStringView(text).sliced(at, size).contains(keyword)) {
+            rest.replace(at, size, QString(size, u' '));
+        }
+    }
+    if (rest == text || rest.contains(keyword)) {
+        return false;
+    }
+    text = rest;
+    return true;
+}
+
+struct cKeywords
+{
+    QList<cMatch> All;
+    cMatch Last;
+    QString Text;
+};
+
+// What the sure rules say of the text without the names that merely hold a keyword.
+cKeywords KeywordsIn(const cView& view, const cImportEntry& row)
+{
+    cKeywords found;
+    found.Text = view.Text;
+    do {
+        found.All = modKeywordRules::Hits(found.Text, view.Cents, eRestriction::Restricted);
+        found.Last = modKeywordRules::Last(found.All);
+    } while (!found.Last.Category.isEmpty() && HasBlanked(view, found.Last.Keyword, found.Text));
+    if (found.Last.Category.isEmpty() && row.ImportPurpose.contains(u'\n')) {
+        // The line break may have cut the keyword.
+        found.Text = modKeywordRules::MatchText(row);
+        found.All = modKeywordRules::Hits(found.Text, view.Cents, eRestriction::Restricted);
+        found.Last = modKeywordRules::Last(found.All);
+    }
+    return found;
+}
+
+QStringView NameIn(const cKeywords& keywords, const cView& view)
+{
+    return QStringView(keywords.Text).first(qMin(view.NameSize, keywords.Text.size()));
+}
+
+// Two rules, or a rule and the list, that name different categories. Who is paid says more than the purpose.
+bool HasRival(const cKeywords& keywords, const cView& view)
+{
+    const bool isName = modKeywordTrust::IsSound(keywords.Last.Keyword, NameIn(keywords, view));
+    const bool hasRule = std::any_of(keywords.All.begin(), keywords.All.end(), [&](const cMatch& other) {
+        return !other.Category.isEmpty() && IsOther(other.Category, keywords.Last.Category) && !isName
+            && modKeywordTrust::IsSound(other.Keyword, keywords.Text);
+    });
+    return hasRule || std::any_of(view.All.begin(), view.All.end(), [&](const cFound& other) {
+               return other.Hit.IsSure && other.Weight != eWeight::Purpose
+                   && IsOther(other.Hit.Category, keywords.Last.Category);
+           });
+}
+
+cHint FromRule(const cMatch& match, qint64 cents)
+{
+    cHint hint{match.Category, match.Interval, cText::Tr("Regel: {0}", {match.Keyword}), false};
+    if (!modKeywordTrust::FitsSign(match.Category, cents)) {
+        hint.Interval = modWord::Einmalig; // money that comes back from the telephone company does not come every month
+    }
+    return hint;
+}
+
+} // namespace
+
+cHint modHint::ByRule(const cImportEntry& row, eRestriction restriction)
+{
+    const cMatch match = modKeywordRules::Match(modKeywordRules::MatchText(row), row.ImportValue, restriction);
+    if (!match.Category.isEmpty()) {
+        return {match.Category, match.Interval, cText::Tr("Regel: {0}", {match.Keyword}), false};
+    }
+    const cView view(row);
+    const cFound* const best = BestOf(view.All);
+    cHint hint = best == nullptr ? cHint{{}, match.Interval, {}, false} : FromList(view.All, *best);
+    if (restriction == eRestriction::Restricted && !hint.IsSure) {
+        return {{}, match.Interval, {}, false};
+    }
+    hint.IsSure = false;
+    return hint;
+}
+
+cHint modHint::Best(const cImportEntry& row)
+{
+    const cView view(row);
+    const cKeywords keywords = KeywordsIn(view, row);
+    if (!keywords.Last.Category.isEmpty() && modKeywordTrust::IsSound(keywords.Last.Keyword, keywords.Text)) {
+        cHint hint = FromRule(keywords.Last, view.Cents);
+        hint.IsSure = modKeywordTrust::FitsSign(hint.Category, view.Cents)
+            && !modKeywordTrust::IsDoubtful(keywords.Last.Keyword, keywords.Text, NameIn(keywords, view))
+            && !HasRival(keywords, view);
+        return hint;
+    }
+    const cFound* const best = BestOf(view.All);
+    if (best != nullptr && best->Weight != eWeight::Purpose) {
+        return FromList(view.All, *best);
+    }
+    if (!keywords.Last.Category.isEmpty()) {
+        return FromRule(keywords.Last, view.Cents);
+    }
+    if (best != nullptr) {
+        return FromList(view.All, *best);
+    }
+    const cMatch any = modKeywordRules::Match(modKeywordRules::MatchText(row), row.ImportValue, eRestriction::None);
+    return any.Category.isEmpty() ? cHint{{}, any.Interval, {}, false} : FromRule(any, view.Cents);
+}
