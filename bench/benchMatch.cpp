@@ -3,6 +3,7 @@
 #include "bench/cBenchBook.h"
 #include "core/cSettings.h"
 #include "import/match/cMatcher.h"
+#include "import/plan/cImportPlan.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cStatementImport.h"
@@ -14,6 +15,8 @@
 #include <QStringList>
 
 #include <benchmark/benchmark.h>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -140,6 +143,20 @@ void Match(benchmark::State& state, eMatchRun run)
 }
 BENCHMARK_CAPTURE(Match, Try, eMatchRun::Try)->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Match, Write, eMatchRun::Write)->Iterations(3)->Unit(benchmark::kMillisecond);
+
+// What is to become of rows, everything weighed: a month, and a pile that has waited for years.
+void Plan(benchmark::State& state)
+{
+    cStaged& staged = Staged();
+    for (auto _ : state) {
+        cNoProgress progress;
+        cImportPlan plan({staged.Data, staged.Hive, staged.Accounts, [](int) { return 1; }});
+        const QHash<int, cRowPlan> plans = plan.Make(plan.From(0, state.range(0)), progress);
+        state.counters["match"] = static_cast<double>(
+            std::count_if(plans.begin(), plans.end(), [](const cRowPlan& each) { return each.Match.has_value(); }));
+    }
+}
+BENCHMARK(Plan)->Arg(1)->Arg(500)->Arg(10000)->Iterations(3)->Unit(benchmark::kMillisecond);
 
 // What a window asks for when the user steps through the rows.
 void CandidatesOfOneRow(benchmark::State& state)

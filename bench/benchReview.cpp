@@ -67,6 +67,25 @@ cScene& Scene()
     return scene;
 }
 
+// A month of a household that has kept its book for long: the page shows every row in its group.
+struct cMonth
+{
+    cMonth()
+    {
+        const cUndoStep step(File.Book().Data(), u"bench"_s);
+        for (int i = 0; i < 500; ++i) {
+            cImportEntry row = Row(i);
+            row.ImportDate = cBenchBook::Today.addDays(-(i % 30));
+            if (!File.Book().Data().AddNewImportEntry(row)) {
+                qFatal("no row to measure");
+            }
+        }
+        File.Book().Settings().Set(modSettingKey::BankNumber.Of(u"4711000815"_s), u"Girokonto"_s);
+    }
+
+    cBenchBook File{100000};
+};
+
 // The page on screen with its first rows painted.
 struct cPage
 {
@@ -121,6 +140,22 @@ void OpenReview(benchmark::State& state)
     }
 }
 BENCHMARK(OpenReview)->Unit(benchmark::kMillisecond);
+
+void OpenMonth(benchmark::State& state)
+{
+    static cMonth month;
+    for (auto _ : state) {
+        auto review = std::make_unique<cImportReview>(month.File.Tools());
+        auto page = std::make_unique<frmImport>(*review);
+        page->resize(1280, 800);
+        page->show();
+        QCoreApplication::processEvents();
+        state.PauseTiming();
+        page.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(OpenMonth)->Unit(benchmark::kMillisecond);
 
 // The second time, as after every booking: the rows are known.
 void RefreshReview(benchmark::State& state)

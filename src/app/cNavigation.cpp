@@ -67,6 +67,8 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged, Qt::QueuedConnection);
     QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged,
                      Qt::QueuedConnection);
+    QObject::connect(&review, &cImportReview::EditorWanted, &model,
+                     [this](cEntryEditor& editor, const cEntryFields& fields) { OpenEditorFor(editor, fields); });
     QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::StartAfresh);
     QObject::connect(&window, &frmMain::PageShown, &model, [this](frmMain::ePage page) { BuildPage(page); });
     QObject::connect(&window, &frmMain::FilesDropped, &review,
@@ -156,6 +158,15 @@ void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFie
     }
     frmBuchung form(editor, *fields, Parent());
     QObject::connect(&form, &frmBuchung::EntrySaved, m_model, [this, &editor] { ShowSaved(editor.SavedId()); });
+    QObject::connect(&form, &frmBuchung::CalculatorRequested, m_model, &cMainModel::StartCalculator);
+    form.exec();
+}
+
+// Of a bank transaction: the list of these stays in front.
+void cNavigation::OpenEditorFor(cEntryEditor& editor, const cEntryFields& fields)
+{
+    frmBuchung form(editor, fields, Parent());
+    QObject::connect(&form, &frmBuchung::EntrySaved, m_model, [this] { BookChanged(); });
     QObject::connect(&form, &frmBuchung::CalculatorRequested, m_model, &cMainModel::StartCalculator);
     form.exec();
 }

@@ -67,6 +67,7 @@ private:
     void BuildPage(frmMain::ePage page);
     [[nodiscard]] QWidget* Parent() const; // of a window that is opened now: the one in front
     void OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields);
+    void OpenEditorFor(cEntryEditor& editor, const cEntryFields& fields);
     void OpenStartBalance();
     void OpenSearch();
     void OpenImport();

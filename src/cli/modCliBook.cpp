@@ -171,10 +171,10 @@ int RunBook(const cCliContext& context)
     }
     if (context.Call.Has(u"safe"_s)) {
         context.User.Prepare({.Answer = eAnswer::Yes});
-        return modCliFlow::ReportBooked(book.Statements.Accept(*chosen));
+        return modCliFlow::ReportBooked(context, book.Statements.Accept(*chosen));
     }
     context.User.Prepare(Answers(context));
-    return modCliFlow::ReportBooked(book.Statements.Book(*chosen));
+    return modCliFlow::ReportBooked(context, book.Statements.Book(*chosen));
 }
 
 } // namespace

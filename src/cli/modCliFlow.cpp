@@ -37,14 +37,14 @@ void modCliFlow::SayWritten(const QString& path)
     modConsole::Out(cText::Tr("'{0}' geschrieben.", {path}) + u'\n');
 }
 
-int modCliFlow::ReportBooked(const cStatementDesk::cBooked& booked)
+int modCliFlow::ReportBooked(const cCliContext& context, const cStatementDesk::cBooked& booked)
 {
-    if (!booked.Lines.isEmpty()) {
-        modConsole::Out(booked.Lines.join(u'\n') + u'\n');
-    }
+    QStringList lines = booked.Lines;
     if (booked.Left > 0) {
-        modConsole::Out(cText::Tr("Offen bleiben: {0}; \"propose\" zeigt, warum.", {QString::number(booked.Left)})
-                        + u'\n');
+        lines.append(cText::Tr("Offen bleiben: {0}; \"propose\" zeigt, warum.", {QString::number(booked.Left)}));
+    }
+    for (const QString& line : lines) {
+        context.Call.Has(u"json"_s) ? modConsole::Error(line) : modConsole::Out(line + u'\n');
     }
     if (!booked.UnknownAccounts.isEmpty()) {
         modConsole::Error(cText::Tr("Lesen Sie den Auszug mit --book-account NAME noch einmal ein."));

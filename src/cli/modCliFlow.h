@@ -21,8 +21,8 @@ namespace modCliFlow {
 // Says that a file was written.
 void SayWritten(const QString& path);
 
-// Says what came of booking and what stays open. The exit code.
-[[nodiscard]] int ReportBooked(const cStatementDesk::cBooked& booked);
+// Says what came of booking and what stays open; beside --json on the error output. The exit code.
+[[nodiscard]] int ReportBooked(const cCliContext& context, const cStatementDesk::cBooked& booked);
 
 // Says what was done, or that nothing was where nothing has been said yet. The exit code.
 [[nodiscard]] int Finish(const cCliContext& context, bool isDone);

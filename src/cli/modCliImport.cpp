@@ -5,6 +5,7 @@
 #include "cli/cConsoleUser.h"
 #include "cli/cJsonObject.h"
 #include "cli/modCliCommands.h"
+#include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
 #include "cli/modCliTableChoice.h"
 #include "views/statement/cFileReport.h"
@@ -93,9 +94,23 @@ void Print(const cFileReport& report, const cCliBook& book)
     }
 }
 
+// Brings the rows that have come since `before` into the book as far as that is safe, and says what is left.
+int BookNew(const cCliContext& context, const QList<int>& before)
+{
+    cStatementDesk& desk = context.Book->Statements;
+    QList<int> rows = desk.OpenIds();
+    rows.removeIf([&](int id) { return before.contains(id); });
+    if (rows.isEmpty()) {
+        return modExit::Done;
+    }
+    context.User.Prepare({.Answer = eAnswer::Yes});
+    return modCliFlow::ReportBooked(context, desk.Accept(rows));
+}
+
 int ImportFiles(const cCliContext& context, const cFileWish& wish)
 {
     cCliBook& book = *context.Book;
+    const QList<int> before = book.Statements.OpenIds();
     book.File().CopyIfChanged(); // not for a trial, which can only read
     bool isDone = true;
     QStringList objects;
@@ -123,7 +138,8 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
     if (context.Call.Has(u"json"_s)) {
         modConsole::Out(modJson::Array(objects) + u'\n');
     }
-    return isDone ? modExit::Done : modExit::Failed;
+    const int booked = context.Call.Has(u"book"_s) && !wish.IsTrial ? BookNew(context, before) : int{modExit::Done};
+    return isDone ? booked : modExit::Failed;
 }
 
 int Run(const cCliContext& context)
@@ -183,6 +199,7 @@ cCliCommand modCliCommands::ImportCommand()
                      {},
                      cText::Tr("MT940: Angaben (:86:) vor dem ersten Umsatz eines Auszugs übergehen, statt die Datei "
                                "abzulehnen")},
+                    {u"book"_s, {}, cText::Tr("danach zuordnen und buchen, was im Buch steht oder sicher ist")},
                     {u"remember"_s,
                      {},
                      cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},

@@ -59,6 +59,33 @@ private Q_SLOTS:
         QCOMPARE(Do(u"correct|--json|--list|"_s + m_rent).Column(u"EntryValue"_s), QStringList(u"660"_s));
     }
 
+    // Nobody is asked: what is there is left open by "book", assigned with an option, and by the safe part alone.
+    void BookLeavesOpenWhatIsThere()
+    {
+        QCOMPARE(Do(u"propose|--json"_s).Column(u"Group"_s).first(2), QStringList({u"inBook"_s, u"inBook"_s}));
+        QVERIFY(Do(u"book|"_s + m_rows.at(0)).Out.contains(u"Offen bleiben: 1"_s));
+        QCOMPARE(Assigned().at(0), u"-1"_s);
+        Do(u"book|--assign|"_s + m_rows.at(0));
+        QCOMPARE(Assigned().at(0), m_food);
+        Do(u"book|--all|--safe"_s);
+        QCOMPARE(Assigned().at(1), m_rent);
+    }
+
+    void ImportBooksTheSafePart()
+    {
+        QFile file(m_folder->filePath(u"next.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(statement).replace("260203D23,10", "260220D9,99").replace("D4,20", "D4,30"));
+        file.close();
+        const cCliRun run = Do(u"import|--book|"_s + file.fileName());
+        QVERIFY2(run.Out.contains(u"Offen bleiben: 1"_s), qPrintable(run.Text())); // of the new rows
+        const QStringList assigned = Assigned();
+        QCOMPARE(assigned.size(), 5);
+        QVERIFY(assigned.at(3) != u"-1" && assigned.at(3) != m_food);
+        QCOMPARE(assigned.at(4), u"-1"_s);
+        QCOMPARE(assigned.first(3), QStringList({u"-1"_s, u"-1"_s, u"-1"_s}));
+    }
+
     void AssignAndRelease()
     {
         QCOMPARE(Do(u"match|--json|--candidates|"_s + m_rows.at(0)).Column(u"EntryID"_s), QStringList(m_food));

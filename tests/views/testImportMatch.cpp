@@ -25,6 +25,7 @@ struct cPage : cTestBook
     {
         Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Review.View().SetOpenOnly(false);
+        Review.View().SetGrouping(0);
     }
 
     int Stage(double value, const QString& name, const QString& number = u"1234567"_s)

@@ -3,6 +3,7 @@
 #include "model/modSettingKey.h"
 #include "support/cTestFile.h"
 #include "support/testBook.h"
+#include "views/entry/cEntryEditor.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
@@ -20,6 +21,8 @@ const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
 // A new book with the page over it.
 struct cPage : cTestBook
 {
+    cPage() { Review.View().SetGrouping(0); } // most of it is about rows, whatever their group
+
     // The giro statement with both account numbers assigned.
     void ImportFixture()
     {
@@ -230,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(page.Data.CountEntries(), 4);
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"gebucht"_s);
         QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
-        QVERIFY(!rows.flags(rows.index(0, cStagedListModel::Category)).testFlag(Qt::ItemIsEditable));
+        QVERIFY(!rows.flags(rows.index(0, cStagedListModel::Interval)).testFlag(Qt::ItemIsEditable));
         page.Review.View().SetOpenOnly(true);
         QCOMPARE(rows.rowCount(), 0);
         QVERIFY(page.Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
@@ -356,6 +359,70 @@ private Q_SLOTS:
         page.Review.View().SetFilter(u"unbekannt"_s);
         page.Review.AcceptProposals(page.Progress);
         QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
+    }
+
+    void ShowsWhatIsToBeDone()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.Review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Plan));
+        cStagedListModel& rows = page.Review.Rows();
+        QStringList groups;
+        for (int group = 0; group < rows.rowCount(); ++group) {
+            groups.append(rows.index(group, 0).data().toString());
+        }
+        // The transfer between own accounts needs no look.
+        QCOMPARE(groups, QStringList({u"schon im Buch  (2)"_s, u"sicher  (3)"_s, u"bitte ansehen  (1)"_s}));
+    }
+
+    // What nobody knew can be found, before it was booked and after that.
+    void FindsWhatHasNoCategory()
+    {
+        cPage page;
+        page.ImportFixture();
+        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        const int id = page.AllIds().last();
+        page.Review.View().SetUncategorisedOnly(true);
+        QCOMPARE(page.AllIds(), QList<int>{id});
+        page.Review.Book({id}, page.Progress);
+        QCOMPARE(page.AllIds(), QList<int>{id}); // although booked rows are hidden
+        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
+        QVERIFY(!page.Review.Choose({id}, u"Unbekannt"_s, {}));
+        QVERIFY(page.Review.Choose({id}, u"freizeit; geschenke"_s, {}));
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(page.Data.GetEntries({}).value(0).EntryCategory, u"Freizeit; Geschenke"_s);
+        QVERIFY(page.AllIds().isEmpty());
+        QVERIFY(page.Data.Journal().Undo());
+        QCOMPARE(page.Data.GetEntries({}).value(0).EntryCategory, u"Allgemein"_s);
+    }
+
+    void EditsAndBooks()
+    {
+        cPage page;
+        page.ImportFixture();
+        const int id = page.AllIds().first();
+        cEntryFields shown;
+        bool isSaving = false;
+        connect(&page.Review, &cImportReview::EditorWanted, this,
+                [&](cEntryEditor& editor, const cEntryFields& fields) {
+                    shown = fields;
+                    cEntryFields changed = fields;
+                    changed.Description = u"Wocheneinkauf"_s;
+                    QCOMPARE(isSaving ? editor.Save(changed) : eEntrySaved::Saved, eEntrySaved::Saved);
+                });
+        page.Review.EditAndBook({id}); // the window is closed again
+        QCOMPARE(QStringList({shown.Amount, shown.Category, shown.Account, shown.Type}),
+                 QStringList({u"23,10"_s, u"Haushalt; Lebensmittel"_s, u"Girokonto"_s, modWord::Ausgabe}));
+        QCOMPARE(page.Data.CountEntries(), 0);
+        isSaving = true;
+        page.Review.EditAndBook({id});
+        const cEntryItem entry = page.Data.GetEntries({}).value(0);
+        QCOMPARE(entry.EntryDescription, u"Wocheneinkauf"_s);
+        QCOMPARE(page.Data.GetImportEntries().constFirst().ImportAssignedEntry, entry.ID);
+        QVERIFY(page.Data.Journal().Undo()); // entry and assignment are one step
+        QVERIFY(!page.Data.GetImportEntries().constFirst().ImportAssigned);
+        QCOMPARE(page.Data.CountEntries(), 0);
     }
 
     // "auto" and "bar" are part of many words.

@@ -22,6 +22,13 @@ public:
         return {};
     }
 
+    [[nodiscard]] eStagedGroup Group(const cImportEntry& row) override
+    {
+        return row.ImportAssigned ? eStagedGroup::Booked
+            : row.ImportValue > 0 ? eStagedGroup::InBook
+                                  : eStagedGroup::Look;
+    }
+
     QList<int> Asked;
 };
 
@@ -116,6 +123,11 @@ private Q_SLOTS:
             << QStringList{
                    u"Rewe  (3, davon 2 offen): -35,50"_s, u"5"_s, u"3"_s, u"1"_s, u"Aral  (1 offen): -50,00"_s, u"2"_s,
                    u"Ohne Namen  (1 offen): 100,00"_s,    u"4"_s};
+        QTest::newRow("what is to be done keeps its order")
+            << int(eGrouping::Plan) << int{cStagedListModel::Date} << Qt::DescendingOrder << QString()
+            << QStringList{
+                   u"schon im Buch  (1): 100,00"_s, u"4"_s, u"bitte ansehen  (3): -75,50"_s, u"5"_s, u"2"_s, u"3"_s,
+                   u"gebucht  (1): -10,00"_s,       u"1"_s};
         QTest::newRow("newest day first, filtered")
             << int(eGrouping::Day) << int{cStagedListModel::Date} << Qt::DescendingOrder << u"rewe"_s
             << QStringList{u"Dienstag, 02.06.2026  (1 offen): -5,00"_s,  u"5"_s,

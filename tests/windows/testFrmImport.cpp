@@ -29,6 +29,7 @@ class cScene
 public:
     cScene()
     {
+        Review.View().SetGrouping(0);
         Book.User.Choices = {u"Girokonto"_s, u"Sparkonto"_s};
         Page.ImportFiles({fixture});
         Page.resize(1200, 600);
@@ -102,6 +103,25 @@ private Q_SLOTS:
         // The choice goes to all selected rows.
         QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), scene.Cell(4, cStagedListModel::Category));
         QVERIFY(scene.Cell(4, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
+    }
+
+    // The keyboard alone, wherever in the row the focus is: letters open the field with what was typed.
+    void TypingEditsTheCategory()
+    {
+        cScene scene;
+        scene.Select(0);
+        QTest::keyClicks(&scene.Tree, u"g"_s);
+        auto* combo = scene.Tree.findChild<QComboBox*>();
+        QVERIFY(combo != nullptr);
+        QCOMPARE(combo->currentText(), u"g"_s);
+        QTest::keyClicks(combo, u"eschenke"_s);
+        QTest::keyClick(combo, Qt::Key_Return);
+        QTRY_VERIFY(scene.Cell(0, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
+        QCOMPARE(scene.Book.Data.CountEntries(), 0); // the first Enter is the field's
+        QTRY_VERIFY(scene.Tree.findChild<QComboBox*>() == nullptr && scene.Tree.hasFocus());
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(scene.Book.Data.CountEntries(), 1);
+        QVERIFY(scene.Book.Data.GetEntries({}).value(0).EntryCategory.contains(u"Geschenke"_s, Qt::CaseInsensitive));
     }
 
     void NewCategoryIsOffered()

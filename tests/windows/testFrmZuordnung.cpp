@@ -33,6 +33,7 @@ struct cScene : cTestBook
     {
         Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Review.View().SetOpenOnly(false);
+        Review.View().SetGrouping(0);
         Spend(2310, u"REWE"_s);
         Spend(5000, u"Schuhe"_s);
         Stage(-23.1, u"REWE"_s);

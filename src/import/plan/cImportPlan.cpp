@@ -76,20 +76,29 @@ cImportPlan::cImportPlan(const cParts& parts) : m_knowledge(std::make_unique<cKn
 
 cImportPlan::~cImportPlan() = default;
 
-qsizetype cImportPlan::OpenCount()
+qsizetype cImportPlan::OpenCount() const
 {
     return m_knowledge->Open.size();
 }
 
-QList<int> cImportPlan::Around(int rowId, qsizetype count)
+int cImportPlan::IdAt(qsizetype place) const
 {
-    const qsizetype place = m_knowledge->Places.value(rowId, -1);
+    return m_knowledge->Open.at(place).ID;
+}
+
+QList<int> cImportPlan::From(qsizetype place, qsizetype count) const
+{
     QList<int> ids;
-    const qsizetype first = std::max<qsizetype>(0, place - count / 4);
-    for (qsizetype i = first; place >= 0 && i < m_knowledge->Open.size() && ids.size() < count; ++i) {
-        ids.append(m_knowledge->Open.at(i).ID);
+    for (qsizetype i = std::max<qsizetype>(0, place); i < m_knowledge->Open.size() && ids.size() < count; ++i) {
+        ids.append(IdAt(i));
     }
     return ids;
+}
+
+QList<int> cImportPlan::Around(int rowId, qsizetype count) const
+{
+    const auto place = m_knowledge->Places.constFind(rowId);
+    return place == m_knowledge->Places.constEnd() ? QList<int>() : From(*place - count / 2, count);
 }
 
 QList<int> cImportPlan::WithNeighbours(const QList<int>& rowIds)

@@ -39,9 +39,12 @@ public:
     // that was not asked for. Empty when the user stops it.
     [[nodiscard]] QHash<int, cRowPlan> Make(const QList<int>& rowIds, cProgress& progress);
 
-    [[nodiscard]] qsizetype OpenCount();
-    // Up to `count` open rows around this one in the order of their days, itself among them.
-    [[nodiscard]] QList<int> Around(int rowId, qsizetype count);
+    // The open rows in the order of their days, by place.
+    [[nodiscard]] qsizetype OpenCount() const;
+    [[nodiscard]] int IdAt(qsizetype place) const;
+    [[nodiscard]] QList<int> From(qsizetype place, qsizetype count) const;
+    // Up to `count` of them around this one, itself among them.
+    [[nodiscard]] QList<int> Around(int rowId, qsizetype count) const;
 
 private:
     struct cKnowledge;

@@ -38,6 +38,23 @@ cEntryEditor::cFields cEntryEditor::Start(const QString& account)
     return fields;
 }
 
+cEntryEditor::cFields cEntryEditor::StartFrom(const cEntryItem& proposal, fnStored onStored)
+{
+    cFields fields = Start(proposal.EntryAccount);
+    const cFields proposed = FieldsOf(proposal);
+    m_onStored = std::move(onStored);
+    fields.Amount = proposed.Amount;
+    fields.IsAmountTyped = true; // it is the bank's
+    fields.IsAccountChosen = true;
+    fields.Description = proposed.Description;
+    fields.Category = proposed.Category;
+    fields.Type = proposed.Type;
+    fields.Target = proposed.Target;
+    fields.Date = proposed.Date;
+    fields.Interval = proposed.Interval;
+    return fields;
+}
+
 QString cEntryEditor::ProposedAccount() const
 {
     const QStringList accounts = Accounts();

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 struct cBookTools;
@@ -35,6 +36,11 @@ public:
 
     // The fields of a new entry on the account that is given, else on that of the newest entry.
     [[nodiscard]] cFields Start(const QString& account);
+
+    // The fields of a new entry as it is proposed for a bank transaction. `onStored` gets the ID of the first entry
+    // that is stored, within its step; when it is false, nothing is stored.
+    using fnStored = std::function<bool(int entryId)>;
+    [[nodiscard]] cFields StartFrom(const cEntryItem& proposal, fnStored onStored);
 
     // The start-balance face for an account, filled with what is stored; empty account: the first one.
     [[nodiscard]] cFields StartBalance(const QString& account);
@@ -133,8 +139,9 @@ private:
 
     const cBookTools& m_tools;
     cEntrySuggestions m_suggestions;
-    QList<int> m_ids; // rows that are edited: one, or the parts of a group; empty for a new entry
-    QDate m_from;     // a series is changed from this occurrence on; invalid for the whole
+    QList<int> m_ids;    // rows that are edited: one, or the parts of a group; empty for a new entry
+    QDate m_from;        // a series is changed from this occurrence on; invalid for the whole
+    fnStored m_onStored; // until the first entry is stored
     int m_failedPart = -1;
     int m_savedId = 0;
     QStringList m_lastSaved;

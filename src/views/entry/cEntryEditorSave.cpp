@@ -224,9 +224,11 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
         return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
     });
     cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
-    if (!step.DoneIf(writer.Write(rows, removed, m_from))) {
+    const bool isWritten = writer.Write(rows, removed, m_from);
+    if (!step.DoneIf(isWritten && (!m_onStored || m_onStored(rows.first().Entry.ID)))) {
         return eSaved::Refused;
     }
+    m_onStored = nullptr; // a further entry has nothing to do with the transaction
     Remember(rows);
     return eSaved::Saved;
 }

@@ -9,9 +9,11 @@
 #include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cPlanFlow.h"
@@ -19,6 +21,9 @@
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
+#include "views/statement/modReviewQuestion.h"
+
+#include <QMap>
 
 #include <algorithm>
 
@@ -92,6 +97,7 @@ std::unique_ptr<cImportReview> cImportReview::StartImportReview(int rowId)
         Q_EMIT RowsChanged();
     });
     connect(review.get(), &cImportReview::EntriesChanged, this, &cImportReview::EntriesChanged);
+    connect(review.get(), &cImportReview::EditorWanted, this, &cImportReview::EditorWanted);
     connect(&Files(), &cStatementFiles::AccountsAsked, review.get(), &cImportReview::LoadRows);
     connect(review.get(), &cImportReview::SummaryChanged, this, [this, other = review.get()] {
         m_summary = other->Summary();
@@ -107,6 +113,7 @@ bool cImportReview::HasImportOf(int rowId) const
 
 void cImportReview::LoadRows()
 {
+    m_hasUnplanned = m_works->Proposals.IsHigh();
     m_view.SetRows(m_works->Hive.GetImportHive().getImportEntryList());
 }
 
@@ -193,10 +200,11 @@ cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
     const auto isBooked = [](const cImportEntry& row) { return row.ImportAssigned; };
     const bool hasBooked = std::any_of(rows.begin(), rows.end(), isBooked);
     can.Change = !rowIds.isEmpty();
-    can.Choose = !std::all_of(rows.begin(), rows.end(), isBooked);
+    can.Choose = !rows.isEmpty();
     can.Match = Rows().Counts().Open > 0;
     can.Accept = can.Match;
     can.Assign = isOne && !hasBooked;
+    can.Edit = can.Assign;
     can.Release = hasBooked;
     can.Rule = isOne;
     return can;
@@ -229,29 +237,116 @@ QString cImportReview::SelectionText(const QList<int>& rowIds)
                               : cText::Tr("{0}  →  {1}, {2}: {4}", values);
 }
 
-bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, const QString& interval)
+bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, const QString& interval,
+                           const QString& description)
 {
     QList<int> ids;
     const cImportEntryList rows = OpenRows(rowIds);
+    if (rows.isEmpty()) {
+        return category.isEmpty() || ChangeCategory(RowsOf(rowIds), category);
+    }
     for (const cImportEntry& row : rows) {
         ids.append(row.ID);
     }
     const bool isTaken = (category.isEmpty() || m_works->Proposals.SetCategory(ids, category))
         && (interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval));
+    if (isTaken && !description.isEmpty()) {
+        m_works->Proposals.SetDescription(ids, description);
+    }
     m_view.ForgetInfo();
     return isTaken;
 }
 
+// Of what is booked the entries themselves are corrected, each once. A transfer has no payee to be sorted by, and the
+// parts of a split entry have categories of their own.
+bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString& category)
+{
+    const QString path = m_works->Proposals.PathOf(category);
+    QMap<int, cEntryItem> entries;
+    for (const cImportEntry& row : booked) {
+        const std::optional<cEntryItem> entry = m_works->Accounts.getAssignedEntry(row);
+        if (entry && entry->EntryType != modWord::Umbuchung && modSplit::Group(*entry) == 0) {
+            entries.insert(entry->ID, *entry);
+        }
+    }
+    if (path.isEmpty() || entries.isEmpty()) {
+        return false;
+    }
+    const auto count = static_cast<int>(entries.size());
+    cUndoStep step(m_tools.Data,
+                   count == 1 ? cText::Tr("Kategorie eines Eintrags geändert")
+                              : cText::Tr("Kategorie von {0} Einträgen geändert", {QString::number(count)}));
+    const bool isWritten = std::all_of(entries.begin(), entries.end(), [&](cEntryItem& entry) {
+        entry.EntryCategory = path;
+        return m_tools.Data.ChangeEntry(entry);
+    });
+    if (!step.DoneIf(isWritten)) {
+        return false;
+    }
+    m_summary = {count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
+                            : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path})};
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged();
+    return true;
+}
+
+// A row that has an entry is not made a second one of unasked.
+bool cImportReview::MayEdit(const cRowPlan& plan)
+{
+    using modReviewQuestion::eMatchAnswer;
+    if (!plan.Match) {
+        return true;
+    }
+    const cImportEntry row = RowsOf({plan.RowId}).value(0);
+    const QString line =
+        cText::Tr("{0} → {1}", {modImportText::Row(row, m_tools.Format), modImportText::Candidate(*plan.Match)});
+    const int answer = m_tools.User.Decide(modReviewQuestion::Matches({line}));
+    if (answer == static_cast<int>(eMatchAnswer::Assign)) {
+        ReportMatches(m_works->Matching.Assign(plan.RowId, *plan.Match));
+    }
+    return answer == static_cast<int>(eMatchAnswer::New);
+}
+
+void cImportReview::EditAndBook(const QList<int>& rowIds)
+{
+    cImportEntryList rows = rowIds.size() == 1 ? OpenRows(rowIds) : cImportEntryList();
+    if (rows.isEmpty()) {
+        return;
+    }
+    AskAccountsOf(rows);
+    const cRowPlan plan = m_works->Proposals.PlanOf(rows.constFirst());
+    if (!MayEdit(plan)) {
+        return;
+    }
+    cEntryEditor editor(m_tools);
+    const auto assign = [this, &plan](int entryId) {
+        const bool hasPartner = plan.Proposal.PartnerRow != 0 && !OpenRows({plan.Proposal.PartnerRow}).isEmpty();
+        return m_works->Booking.Assign(plan.RowId, entryId)
+            && (!hasPartner || m_works->Booking.Assign(plan.Proposal.PartnerRow, entryId));
+    };
+    Q_EMIT EditorWanted(editor, editor.StartFrom(plan.Proposal.Entry, assign));
+    if (editor.SavedId() == 0) {
+        return;
+    }
+    m_summary = {cText::Tr("{0} gebucht.", {modImportText::Count(1)})};
+    Refresh();
+    Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged();
+}
+
 QString cImportReview::ChoiceTitle(const QList<int>& rowIds)
 {
-    const qsizetype count = OpenRows(rowIds).size();
+    const qsizetype open = OpenRows(rowIds).size();
+    const qsizetype count = open > 0 ? open : rowIds.size();
     return count == 1 ? cText::Tr("Kategorie für einen Umsatz")
                       : cText::Tr("Kategorie für {0} Umsätze", {QString::number(count)});
 }
 
 QString cImportReview::TypeOf(const QList<int>& rowIds)
 {
-    const cImportEntryList rows = OpenRows(rowIds);
+    const cImportEntryList open = OpenRows(rowIds);
+    const cImportEntryList rows = open.isEmpty() ? RowsOf(rowIds) : open;
     const auto isIn = [](const cImportEntry& row) { return row.ImportValue > 0; };
     if (rows.isEmpty() || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
             return isIn(row) != isIn(rows.constFirst());
@@ -402,6 +497,23 @@ void cImportReview::Delete(const QList<int>& rowIds)
         : cMatchFlow::NothingDone().Lines;
     Refresh();
     Q_EMIT SummaryChanged();
+}
+
+eStagedGroup cImportReview::Group(const cImportEntry& row)
+{
+    return m_works->Proposals.Group(row);
+}
+
+bool cImportReview::PlanNext()
+{
+    if (m_view.Rows().Grouping() != modStagedGroup::eGrouping::Plan || !m_hasUnplanned) {
+        return false;
+    }
+    m_hasUnplanned = m_works->Proposals.PlanNext();
+    if (!m_hasUnplanned) {
+        m_view.Regroup();
+    }
+    return m_hasUnplanned;
 }
 
 cStagedInfo cImportReview::Info(const cImportEntry& row)

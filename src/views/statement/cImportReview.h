@@ -13,11 +13,13 @@
 #include <memory>
 
 class cAssignListModel;
+class cEntryEditor;
 class cEntrySuggestions;
 class cProgress;
 class cRuleEditor;
 class cStatementFiles;
 struct cBookTools;
+struct cEntryFields;
 
 // The page of bank statements without its widgets: proposes, books, matches and deletes. The window for the rows of one
 // import has a review of its own, which shares what the user chose for them.
@@ -57,11 +59,16 @@ public:
     // that names the numbers.
     void AcceptProposals(cProgress& progress);
 
+    // Plans some more rows of a high pile, while nothing else is to be done; once all are planned the list shows them
+    // in their groups. False when nothing is left.
+    bool PlanNext();
+
     // What can be done with the rows that are selected.
     struct cActions
     {
         bool Change = false; // book and delete
         bool Choose = false; // category and interval
+        bool Edit = false;   // before it is booked
         bool Match = false;  // also without a selection
         bool Accept = false; // also without a selection
         bool Assign = false;
@@ -73,9 +80,13 @@ public:
     // What becomes of the selected rows, or became of them, in one line.
     [[nodiscard]] QString SelectionText(const QList<int>& rowIds);
 
-    // Takes a category and an interval (stored word) for the open ones of the rows; what is empty stays as it is. False
-    // when one of them is none that can be chosen.
-    bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval);
+    // Takes a category, an interval (stored word) and a description for the open ones of the rows; what is empty stays
+    // as it is. Where all rows are booked, their entries get the category. False when it cannot be done.
+    bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval,
+                const QString& description = {});
+    // Opens the editor with what is proposed for one open row; what is saved there is its entry. Asks first when the
+    // row has an entry already.
+    void EditAndBook(const QList<int>& rowIds);
     [[nodiscard]] QString ChoiceTitle(const QList<int>& rowIds); // "Kategorie für 12 Umsätze"
     [[nodiscard]] QStringList Categories() const;                // paths to choose from
     // The kind of entry that all these rows become by their sign; empty when they differ.
@@ -105,6 +116,8 @@ Q_SIGNALS:
     void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
     void SummaryChanged();
     void EntriesChanged(); // the book itself changed
+    // Somebody shall show the editor with these fields, and come back when it is closed.
+    void EditorWanted(cEntryEditor& editor, const cEntryFields& fields);
 
 private:
     struct cWorks; // the tools of the import floor
@@ -112,7 +125,10 @@ private:
     cImportReview(const cBookTools& tools, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import);
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row) override;
+    [[nodiscard]] eStagedGroup Group(const cImportEntry& row) override;
 
+    [[nodiscard]] bool ChangeCategory(const cImportEntryList& booked, const QString& category);
+    [[nodiscard]] bool MayEdit(const cRowPlan& plan);
     void CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
     void LoadRows();
     void NoteStaged(const QList<int>& ids);
@@ -127,4 +143,5 @@ private:
     std::shared_ptr<cWorks> m_works; // of the page, in the window too
     cStagedChoice m_view;
     QStringList m_summary;
+    bool m_hasUnplanned = false; // the pile is high, and some of it was not looked at yet
 };

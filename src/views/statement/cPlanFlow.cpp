@@ -152,12 +152,12 @@ cPlanFlow::cOutcome cPlanFlow::Accept(const QList<int>& rowIds, cProgress& progr
         }
         ++(plan->IsSecond ? numbers.Twice : plan->Match ? numbers.Likely : numbers.Unknown);
     }
+    wish.Left = numbers.Unknown + numbers.Likely + numbers.Twice;
     const cQuestion question = modReviewQuestion::Accept(numbers);
     if (wish.Assign.isEmpty() && wish.New.isEmpty()) {
         m_tools.User.Show(question.Tone, question.Text, question.Title);
-        return {};
+        return {.IsDone = true, .Left = wish.Left};
     }
-    wish.Left = numbers.Unknown + numbers.Likely + numbers.Twice;
     return m_tools.User.Ask(question) == eAnswer::Yes ? Carry(wish, progress) : cOutcome{};
 }
 

@@ -28,10 +28,10 @@ public:
     // What came of an action.
     struct cOutcome
     {
-        bool IsDone = false;           // false: nothing was changed
+        bool IsDone = false;           // false: the user gave up, or nothing could be written
         bool IsRefused = false;        // the database did not write, and all was taken back
         int Left = 0;                  // rows that stay open because the user, or the plan, says so
-        QStringList Lines{};           // for the user; empty when the user gave up
+        QStringList Lines{};           // for the user; empty when nothing was done
         QStringList UnknownAccounts{}; // numbers without account; their rows stay open
     };
 

@@ -19,8 +19,8 @@ namespace {
 
 using cRange = cImportRuns::cRange;
 
-constexpr qsizetype planAtOnce = 1000; // open rows; a month has 500 at most
-constexpr qsizetype slice = 100;       // of a higher pile: what a list shows, and some below
+constexpr qsizetype planAtOnce = 600; // open rows; a month has 500 at most
+constexpr qsizetype slice = 150;      // of a higher pile: what a list shows, and some around it
 
 // The file that a row came with, counted from 1; 0 when it is not remembered.
 int FileOf(const QList<cRange>& files, int id)
@@ -28,6 +28,12 @@ int FileOf(const QList<cRange>& files, int id)
     const auto file = std::lower_bound(files.begin(), files.end(), id,
                                        [](const cRange& each, int wanted) { return each.Last < wanted; });
     return file == files.end() || file->First > id ? 0 : static_cast<int>(file - files.begin()) + 1;
+}
+
+bool HasCategory(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Umbuchung
+        || (!entry.EntryCategory.isEmpty() && entry.EntryCategory != u"Allgemein");
 }
 
 } // namespace
@@ -43,6 +49,7 @@ void cRowProposals::Forget()
     m_plan.reset();
     m_planned.clear();
     m_isWhole = false;
+    m_next = 0;
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     m_choices.removeIf([&](const auto& choice) {
         const std::optional<cImportEntry> row = hive.GetImportEntryByID(choice.key());
@@ -66,7 +73,7 @@ const cRowPlan& cRowProposals::Planned(const cImportEntry& row)
     if (known == m_planned.end()) {
         cNoProgress progress;
         m_isWhole = Plan().OpenCount() <= planAtOnce;
-        m_planned.insert(Plan().Make(Plan().Around(row.ID, m_isWhole ? 4 * planAtOnce : slice), progress));
+        m_planned.insert(Plan().Make(m_isWhole ? Plan().From(0, planAtOnce) : Plan().Around(row.ID, slice), progress));
         known = m_planned.contains(row.ID) ? m_planned.find(row.ID) : m_planned.insert(row.ID, cRowPlan{});
     }
     return *known;
@@ -108,10 +115,47 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
         plan.Proposal.Entry.EntryInterval = choice.Interval;
         plan.Proposal.ExistingEntry = 0; // the series that it belonged to has another interval
     }
+    if (!choice.Description.isEmpty()) {
+        plan.Proposal.Entry.EntryDescription = choice.Description;
+    }
     if (!plan.Match && (!choice.Category.isEmpty() || !choice.Interval.isEmpty())) {
         plan.Reason = cText::Tr("von Hand gewählt");
     }
     return plan;
+}
+
+eStagedGroup cRowProposals::Group(const cImportEntry& row)
+{
+    if (row.ImportAssigned) {
+        return eStagedGroup::Booked;
+    }
+    if (!m_planned.contains(row.ID) && Plan().OpenCount() > planAtOnce) {
+        return eStagedGroup::Unknown;
+    }
+    switch (PlanOf(row).Group) {
+    case eRowGroup::InBook: return eStagedGroup::InBook;
+    case eRowGroup::Sure: return eStagedGroup::Sure;
+    case eRowGroup::Look: break;
+    }
+    return eStagedGroup::Look;
+}
+
+bool cRowProposals::IsHigh()
+{
+    return m_parts.Hive.GetImportHive().OpenIds().size() > planAtOnce;
+}
+
+bool cRowProposals::PlanNext()
+{
+    const qsizetype count = Plan().OpenCount();
+    while (m_next < count && m_planned.contains(Plan().IdAt(m_next))) {
+        ++m_next;
+    }
+    if (m_next < count) {
+        cNoProgress progress;
+        m_planned.insert(Plan().Make(Plan().From(m_next, slice), progress));
+    }
+    return m_next < count;
 }
 
 cStagedInfo cRowProposals::Info(const cImportEntry& row)
@@ -127,6 +171,7 @@ cStagedInfo cRowProposals::Info(const cImportEntry& row)
     info.Account = modImportText::Accounts(entry);
     info.Category = entry.EntryCategory;
     info.Interval = entry.EntryInterval;
+    info.HasCategory = HasCategory(entry);
     info.Reason = modImportText::Reason(plan);
     if (plan.Twin) {
         Warn(info, *plan.Twin);
@@ -141,6 +186,7 @@ cStagedInfo cRowProposals::BookedInfo(const cImportEntry& row)
         info.Account = modImportText::Accounts(*entry);
         info.Category = entry->EntryCategory;
         info.Interval = entry->EntryInterval;
+        info.HasCategory = HasCategory(*entry);
     } else {
         info.Account = m_parts.Accounts.AccountOf(row.ImportAccount);
     }
@@ -175,17 +221,27 @@ void cRowProposals::TakeChoice(const QList<int>& rowIds, QString cChoice::*field
     }
 }
 
-bool cRowProposals::SetCategory(const QList<int>& rowIds, const QString& category)
+QString cRowProposals::PathOf(const QString& category) const
 {
     const QStringList paths = Categories();
     const auto path = std::find_if(paths.begin(), paths.end(), [wanted = category.trimmed()](const QString& known) {
         return known.compare(wanted, Qt::CaseInsensitive) == 0;
     });
-    if (path == paths.end()) {
-        return false;
+    return path == paths.end() ? QString() : *path;
+}
+
+bool cRowProposals::SetCategory(const QList<int>& rowIds, const QString& category)
+{
+    const QString path = PathOf(category);
+    if (!path.isEmpty()) {
+        TakeChoice(rowIds, &cChoice::Category, path);
     }
-    TakeChoice(rowIds, &cChoice::Category, *path);
-    return true;
+    return !path.isEmpty();
+}
+
+void cRowProposals::SetDescription(const QList<int>& rowIds, const QString& description)
+{
+    TakeChoice(rowIds, &cChoice::Description, description.simplified());
 }
 
 bool cRowProposals::SetInterval(const QList<int>& rowIds, const QString& interval)

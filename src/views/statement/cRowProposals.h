@@ -41,6 +41,10 @@ public:
     void Forget();
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row);
+    [[nodiscard]] eStagedGroup Group(const cImportEntry& row);
+    [[nodiscard]] bool IsHigh(); // the pile is too high to be planned at once
+    // Plans some more of a high pile; false when nothing is left to plan.
+    bool PlanNext();
     [[nodiscard]] cRowPlan PlanOf(const cImportEntry& row); // with what the user chose
     // The plans of open rows, all of them weighed against each other, which is what booking needs. Empty when the user
     // stops it.
@@ -50,6 +54,9 @@ public:
     // The user's own choice for rows; false when it is none of those that can be chosen.
     bool SetCategory(const QList<int>& rowIds, const QString& category);
     bool SetInterval(const QList<int>& rowIds, const QString& interval);
+    void SetDescription(const QList<int>& rowIds, const QString& description);
+    // The category that a text names, as it is written; empty when it is none that can be chosen.
+    [[nodiscard]] QString PathOf(const QString& category) const;
 
 private:
     struct cChoice
@@ -57,6 +64,7 @@ private:
         cImportEntry Row; // that it was made for; the IDs of rows that are gone come again
         QString Category; // empty: as proposed
         QString Interval;
+        QString Description;
     };
 
     [[nodiscard]] cImportPlan& Plan();
@@ -70,5 +78,6 @@ private:
     std::unique_ptr<cImportPlan> m_plan; // it reads the book only once per state of it
     QHash<int, cRowPlan> m_planned;      // by row ID
     bool m_isWhole = false;              // all open rows were planned at once
+    qsizetype m_next = 0;                // of a high pile, the place up to which all is planned
     QHash<int, cChoice> m_choices;       // by row ID
 };

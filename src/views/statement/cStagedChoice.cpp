@@ -31,6 +31,7 @@ cStagedOrder::cShown cStagedChoice::Shown() const
 {
     cStagedOrder::cShown shown;
     shown.OpenOnly = IsOpenOnly();
+    shown.NoCategory = m_isUncategorisedOnly;
     shown.HidesOld = IsOldHidden() && !IsOfOneImport();
     if (IsOfOneImport()) {
         shown.FirstId = m_import.First;
@@ -59,6 +60,12 @@ void cStagedChoice::SetRows(const cImportEntryList& rows)
     Q_EMIT Changed();
 }
 
+void cStagedChoice::Regroup()
+{
+    m_rows.Regroup();
+    Q_EMIT Changed();
+}
+
 void cStagedChoice::ForgetInfo()
 {
     m_rows.ForgetInfo();
@@ -74,6 +81,12 @@ bool cStagedChoice::IsOpenOnly() const
 void cStagedChoice::SetOpenOnly(bool isOpenOnly)
 {
     m_tools.Settings.SetBool(modSettingKey::HideBooked, isOpenOnly);
+    Show();
+}
+
+void cStagedChoice::SetUncategorisedOnly(bool isOnly)
+{
+    m_isUncategorisedOnly = isOnly;
     Show();
 }
 
@@ -142,6 +155,9 @@ QString cStagedChoice::EmptyHint() const
             ? cText::Tr("Die Umsätze dieses Imports sind nicht mehr da.")
             : cText::Tr("Ziehen Sie einen Kontoauszug Ihrer Bank hierher oder wählen Sie „Datei importieren…“. "
                         "Gelesen werden Dateien im Format MT940, MT942, CSV, XLS, XLSX, OFX, QIF und camt.");
+    }
+    if (IsUncategorisedOnly()) {
+        return cText::Tr("Alle Umsätze haben eine Kategorie.");
     }
     if (IsOpenOnly() && counts.Open == 0) {
         return cText::Tr("Alle Umsätze sind gebucht. Ohne den Haken bei „Nur offene“ sehen Sie auch die gebuchten.");

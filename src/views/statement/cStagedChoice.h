@@ -22,11 +22,14 @@ public:
 
     [[nodiscard]] cStagedListModel& Rows() { return m_rows; }
     void SetRows(const cImportEntryList& rows);
+    void Regroup();
     void ForgetInfo(); // what is known of the rows beyond themselves is different now
     [[nodiscard]] bool IsOfOneImport() const { return !m_import.IsEmpty(); }
 
     [[nodiscard]] bool IsOpenOnly() const;
     void SetOpenOnly(bool isOpenOnly); // kept in the setting "HideBookedEntries"
+    [[nodiscard]] bool IsUncategorisedOnly() const { return m_isUncategorisedOnly; }
+    void SetUncategorisedOnly(bool isOnly); // until the program ends; it goes before IsOpenOnly
     [[nodiscard]] bool IsOldHidden() const;
     void SetOldHidden(bool isHidden);             // kept in the setting "HideOldImportEntries"
     [[nodiscard]] bool IsTitleShown() const;      // the line that says what becomes of the selected rows
@@ -55,4 +58,5 @@ private:
     const cBookTools& m_tools;
     cImportRuns::cRange m_import;
     cStagedListModel m_rows;
+    bool m_isUncategorisedOnly = false;
 };

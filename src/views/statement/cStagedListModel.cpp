@@ -44,6 +44,8 @@ cStagedListModel::cStagedListModel(cStagedSource& source, const cAmountFormat& f
       m_format(format),
       m_order(format)
 {
+    m_order.SetHasCategory([this](const cImportEntry& row) { return InfoOf(row).HasCategory; });
+    m_order.SetPlan([this](const cImportEntry& row) { return m_source.Group(row); });
 }
 
 void cStagedListModel::SetRows(cImportEntryList rows)
@@ -96,7 +98,9 @@ void cStagedListModel::sort(int column, Qt::SortOrder order)
 void cStagedListModel::Arrange()
 {
     // The newest day stands first when the days are sorted downwards, and names follow their column in the same way.
-    const int column = Grouping() == modStagedGroup::eGrouping::Day ? Date : Counterparty;
+    // What is to be done keeps its order.
+    using modStagedGroup::eGrouping;
+    const int column = Grouping() == eGrouping::Day ? Date : Grouping() == eGrouping::Counterparty ? Counterparty : -1;
     m_order.Arrange([this](const std::vector<int>& among) { return SortKeys(among); }, m_sortOrder,
                     m_sortColumn == column ? m_sortOrder : Qt::AscendingOrder);
 }
@@ -118,6 +122,14 @@ std::vector<qint64> cStagedListModel::SortKeys(const std::vector<int>& among) co
                                                   : row.ImportValue);
     }
     return keys;
+}
+
+void cStagedListModel::Regroup()
+{
+    beginResetModel();
+    m_info.clear();
+    Arrange();
+    endResetModel();
 }
 
 void cStagedListModel::ForgetInfo()
@@ -369,6 +381,9 @@ QVariant cStagedListModel::GroupData(const cStagedOrder::cGroup& group, int colu
         return {};
     }
     const QStringList values{group.Name, QString::number(group.Count), QString::number(group.Open)};
+    if (Grouping() == modStagedGroup::eGrouping::Plan) {
+        return cText::Tr("{0}  ({1})", values); // the name says what is open
+    }
     return group.Open == group.Count ? cText::Tr("{0}  ({1} offen)", values)
         : group.Open == 0            ? cText::Tr("{0}  ({1} gebucht)", values)
                                      : cText::Tr("{0}  ({1}, davon {2} offen)", values);
@@ -377,9 +392,13 @@ QVariant cStagedListModel::GroupData(const cStagedOrder::cGroup& group, int colu
 Qt::ItemFlags cStagedListModel::flags(const QModelIndex& index) const
 {
     const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
-    const bool isChoice = index.column() == Category || index.column() == Interval;
     const int position = PositionOf(index);
-    return isChoice && position >= 0 && !m_order.At(position).ImportAssigned ? flags | Qt::ItemIsEditable : flags;
+    if (position < 0) {
+        return flags;
+    }
+    const bool isOpen = !m_order.At(position).ImportAssigned;
+    const bool isChoice = index.column() == Category || (index.column() == Interval && isOpen);
+    return isChoice ? flags | Qt::ItemIsEditable : flags;
 }
 
 QVariant cStagedListModel::headerData(int section, Qt::Orientation orientation, int role) const

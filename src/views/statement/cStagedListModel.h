@@ -39,7 +39,8 @@ public:
     void SetFilter(const QString& text); // every word must be found
     void SetGrouping(modStagedGroup::eGrouping grouping);
     [[nodiscard]] modStagedGroup::eGrouping Grouping() const { return m_order.Grouping(); }
-    void ForgetInfo(); // the source would answer differently now
+    void ForgetInfo(); // the source would answer differently now; every row stays where it is
+    void Regroup();    // the same, and rows may belong to other groups
 
     [[nodiscard]] bool IsHead(const QModelIndex& index) const; // of a group
     [[nodiscard]] int IdAt(const QModelIndex& index) const;    // 0 for the head of a group

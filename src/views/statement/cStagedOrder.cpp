@@ -72,7 +72,7 @@ void cStagedOrder::Choose()
         }
         ++m_counts.Total;
         m_counts.Open += row.ImportAssigned ? 0 : 1;
-        if (m_shown.OpenOnly && row.ImportAssigned) {
+        if (m_shown.NoCategory ? m_hasCategory(row) : m_shown.OpenOnly && row.ImportAssigned) {
             continue;
         }
         const bool isOld = m_shown.HidesOld && row.ImportDate < young.value(row.ImportAccount);
@@ -85,7 +85,7 @@ void cStagedOrder::Choose()
 
 void cStagedOrder::Sort(const fnKeys& keysOf, Qt::SortOrder order, Qt::SortOrder groupOrder)
 {
-    modStagedGroup::cGroups groups = modStagedGroup::Gather(m_rows, m_all, m_grouping);
+    modStagedGroup::cGroups groups = modStagedGroup::Gather(m_rows, m_all, m_grouping, m_planOf);
     const std::vector<qint64> keys = keysOf(m_all);
     const bool isUp = order == Qt::AscendingOrder;
     const bool areGroupsUp = groupOrder == Qt::AscendingOrder;

@@ -10,6 +10,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class cAmountFormat;
@@ -24,7 +25,8 @@ public:
     struct cShown
     {
         bool OpenOnly = false;
-        bool HidesOld = false; // rows more than three months older than the newest one of their account
+        bool NoCategory = false; // only rows that have none, or the default one, booked ones among them
+        bool HidesOld = false;   // rows more than three months older than the newest one of their account
         int FirstId = 0;
         int LastId = std::numeric_limits<int>::max();
         bool operator==(const cShown&) const = default;
@@ -57,6 +59,12 @@ public:
     void SetRows(cImportEntryList rows);
     void SetShown(const cShown& shown) { m_shown = shown; }
     void SetGrouping(modStagedGroup::eGrouping grouping) { m_grouping = grouping; }
+    using fnHas = std::function<bool(const cImportEntry&)>;
+    void SetHasCategory(fnHas hasCategory)
+    {
+        m_hasCategory = std::move(hasCategory);
+    }                                                                             // tells whether a row has a category
+    void SetPlan(modStagedGroup::fnPlan planOf) { m_planOf = std::move(planOf); } // for the groups of the review
     void Arrange(const fnKeys& keys, Qt::SortOrder order, Qt::SortOrder groups);
 
     // Every word must be found. Keeps the arrangement.
@@ -90,6 +98,8 @@ private:
     std::unique_ptr<cStagedFilter> m_filter; // made when something is typed for the first time
     cShown m_shown;
     modStagedGroup::eGrouping m_grouping = modStagedGroup::eGrouping::None;
+    modStagedGroup::fnPlan m_planOf;
+    fnHas m_hasCategory;
     QList<modFold::cFolded> m_words;
     cCounts m_counts;
     std::vector<int> m_all;     // rows looked at in their order, so that filtering does not sort

@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // In the order of eGrouping.
-constexpr std::array<const char16_t*, 3> words{u"Keine Gruppierung", u"Nach Empfänger", u"Nach Tag"};
+constexpr std::array<const char16_t*, 4> words{u"Keine Gruppierung", u"Nach Empfänger", u"Nach Tag", u"Nach Vorschlag"};
 
 // One shop comes in several spellings of upper and lower case; the first one is shown for all.
 QString Counterparty(const cImportEntry& row)
@@ -63,11 +63,26 @@ modStagedGroup::cGroups ByDay(const cImportEntryList& rows, const std::vector<in
     return groups;
 }
 
+// A group without rows is none.
+modStagedGroup::cGroups ByPlan(const cImportEntryList& rows, const std::vector<int>& shown,
+                               const modStagedGroup::fnPlan& planOf)
+{
+    modStagedGroup::cGroups groups;
+    groups.Names = {cText::Tr("schon im Buch"), cText::Tr("sicher"), cText::Tr("bitte ansehen"),
+                    cText::Tr("noch nicht verglichen"), cText::Tr("gebucht")};
+    groups.Numbers.reserve(shown.size());
+    for (const int row : shown) {
+        groups.Numbers.push_back(static_cast<qint64>(planOf(rows.at(row))));
+    }
+    return groups;
+}
+
 } // namespace
 
 QStringList modStagedGroup::Shown()
 {
-    return {cText::Tr("Keine"), cText::Tr("Nach Empfänger / Auftraggeber"), cText::Tr("Nach Tag")};
+    return {cText::Tr("Keine"), cText::Tr("Nach Empfänger / Auftraggeber"), cText::Tr("Nach Tag"),
+            cText::Tr("Nach Vorschlag")};
 }
 
 QString modStagedGroup::Stored(eGrouping grouping)
@@ -78,15 +93,16 @@ QString modStagedGroup::Stored(eGrouping grouping)
 modStagedGroup::eGrouping modStagedGroup::FromStored(const QString& word)
 {
     const auto found = std::find(words.begin(), words.end(), word);
-    return found == words.end() ? eGrouping::None : static_cast<eGrouping>(found - words.begin());
+    return found == words.end() ? eGrouping::Plan : static_cast<eGrouping>(found - words.begin());
 }
 
 modStagedGroup::cGroups modStagedGroup::Gather(const cImportEntryList& rows, const std::vector<int>& shown,
-                                               eGrouping grouping)
+                                               eGrouping grouping, const fnPlan& planOf)
 {
     switch (grouping) {
     case eGrouping::Counterparty: return ByCounterparty(rows, shown);
     case eGrouping::Day: return ByDay(rows, shown);
+    case eGrouping::Plan: return ByPlan(rows, shown, planOf);
     case eGrouping::None: break;
     }
     return {};

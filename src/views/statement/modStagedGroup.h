@@ -1,21 +1,23 @@
 #pragma once
 
 #include "model/cImportEntry.h"
+#include "views/statement/cStagedSource.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 // Gathering bank transactions.
 namespace modStagedGroup {
 
-enum class eGrouping { None, Counterparty, Day };
+enum class eGrouping { None, Counterparty, Day, Plan };
 
 // The groups as the user sees them, in the order of their values, and the words they are stored under.
 [[nodiscard]] QStringList Shown();
 [[nodiscard]] QString Stored(eGrouping grouping);
-[[nodiscard]] eGrouping FromStored(const QString& word); // None for other words
+[[nodiscard]] eGrouping FromStored(const QString& word); // what is to be done, for other words
 
 // The groups of a list: a number by place in `shown`, upwards in the order of the groups, and their names by number.
 struct cGroups
@@ -23,6 +25,9 @@ struct cGroups
     std::vector<qint64> Numbers; // empty without grouping
     QStringList Names;
 };
-[[nodiscard]] cGroups Gather(const cImportEntryList& rows, const std::vector<int>& shown, eGrouping grouping);
+// What is to be done with a row.
+using fnPlan = std::function<eStagedGroup(const cImportEntry&)>;
+[[nodiscard]] cGroups Gather(const cImportEntryList& rows, const std::vector<int>& shown, eGrouping grouping,
+                             const fnPlan& planOf);
 
 } // namespace modStagedGroup

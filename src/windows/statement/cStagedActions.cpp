@@ -36,8 +36,11 @@ constexpr std::array<cLine, cStagedActions::Count> lines{{
      QT_TRANSLATE_NOOP("cText", "Bucht die markierten Umsätze (Eingabetaste)")},
     {QT_TRANSLATE_NOOP("cText", "Alle &Vorschläge annehmen"), u"", 0, &cCan::Accept,
      QT_TRANSLATE_NOOP("cText",
-                       "Bucht alle gezeigten offenen Umsätze, deren Vorschlag gelernt ist, aus einer Regel kommt oder "
-                       "zu einer Serie oder einem eigenen Konto gehört")},
+                       "Ordnet zu, was schon im Haushaltsbuch steht, und bucht, was einen sicheren Vorschlag hat")},
+    {QT_TRANSLATE_NOOP("cText", "Bear&beiten und buchen…"), u"", Qt::Key_B, &cCan::Edit,
+     QT_TRANSLATE_NOOP("cText",
+                       "Öffnet den markierten Umsatz als Eintrag, auch zum Aufteilen; gespeichert ist er "
+                       "gebucht (Strg+B)")},
     {QT_TRANSLATE_NOOP("cText", "&Kategorie…"), u"", Qt::Key_K, &cCan::Choose,
      QT_TRANSLATE_NOOP("cText", "Wählt eine Kategorie und ein Intervall für die markierten Umsätze (Strg+K)")},
     {QT_TRANSLATE_NOOP("cText", "Ab&gleichen"), u"zusammen", Qt::Key_G, &cCan::Match,
@@ -91,6 +94,7 @@ void cStagedActions::Run(eId id)
     switch (id) {
     case Book: BookRows(ids); break;
     case Accept: AcceptProposals(); break;
+    case Edit: m_review.EditAndBook(ids); break;
     case Choose: ChooseCategory(); break;
     case Match: MatchRows(); break;
     case Assign: AssignRow(); break;
@@ -178,7 +182,7 @@ void cStagedActions::OpenMenu(const QPoint& globalPosition)
 {
     QMenu menu(&m_page);
     menu.setToolTipsVisible(true);
-    for (const eId id : {Book, Choose, Assign, Match, Release, Delete}) {
+    for (const eId id : {Book, Edit, Choose, Assign, Match, Release, Delete}) {
         menu.addAction(Get(id));
     }
     menu.addSeparator();

@@ -18,7 +18,7 @@ class cStagedActions final : public QObject
     Q_OBJECT
 
 public:
-    enum eId { Book, Accept, Choose, Match, Assign, Release, Delete, Rule, Import, Count };
+    enum eId { Book, Accept, Edit, Choose, Match, Assign, Release, Delete, Rule, Import, Count };
 
     // The keys work in `page`, which all of it outlives.
     cStagedActions(cImportReview& review, cStagedTree& tree, QWidget& page);

@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,11 +36,13 @@ cStagedPanel::cStagedPanel(cImportReview& review, QWidget* parent)
       m_more(new QMenu(this)),
       m_showTitle(new QAction(cText::Tr("&Zeile über der Liste zeigen"), this)),
       m_openOnly(new QCheckBox(cText::Tr("&Nur offene"), this)),
+      m_uncategorised(new QCheckBox(cText::Tr("Ohne Kategor&ie"), this)),
       m_hideOld(new QCheckBox(cText::Tr("&Ältere ausblenden"), this)),
       m_grouping(new QComboBox(this)),
       m_filter(new QLineEdit(this)),
       m_count(new QLabel(this)),
-      m_title(new cElidedText(this))
+      m_title(new cElidedText(this)),
+      m_planning(new QTimer(this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -55,8 +58,8 @@ cStagedPanel::cStagedPanel(cImportReview& review, QWidget* parent)
 cFlowLayout* cStagedPanel::BuildActions()
 {
     m_bar = new cFlowLayout;
-    for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Accept, cStagedActions::Choose,
-                                         cStagedActions::Match, cStagedActions::Assign}) {
+    for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Accept, cStagedActions::Edit,
+                                         cStagedActions::Choose, cStagedActions::Match, cStagedActions::Assign}) {
         QAction* action = m_actions->Get(id);
         auto* button = new cActionButton(action, this);
         button->setToolTip(action->toolTip());
@@ -89,6 +92,8 @@ cFlowLayout* cStagedPanel::BuildView()
 {
     m_hideOld->setToolTip(
         cText::Tr("Blendet Umsätze aus, die mehr als drei Monate älter sind als der neueste ihres Kontos"));
+    m_uncategorised->setToolTip(
+        cText::Tr("Zeigt nur Umsätze ohne Kategorie oder unter „Allgemein“, auch die gebuchten"));
     m_hideOld->setVisible(!m_review.View().IsOfOneImport());
     m_grouping->addItems(cStagedChoice::Groupings());
     m_filter->setClearButtonEnabled(true);
@@ -99,6 +104,7 @@ cFlowLayout* cStagedPanel::BuildView()
     filter->setBuddy(m_filter);
     auto* bar = new cFlowLayout;
     bar->addWidget(m_openOnly);
+    bar->addWidget(m_uncategorised);
     bar->addWidget(m_hideOld);
     bar->AddGap(gap);
     bar->AddField(grouping, m_grouping);
@@ -134,6 +140,7 @@ void cStagedPanel::Connect()
                 }
             });
     connect(m_openOnly, &QCheckBox::toggled, &view, &cStagedChoice::SetOpenOnly);
+    connect(m_uncategorised, &QCheckBox::toggled, &view, &cStagedChoice::SetUncategorisedOnly);
     connect(m_hideOld, &QCheckBox::toggled, &view, &cStagedChoice::SetOldHidden);
     connect(m_showTitle, &QAction::toggled, &view, &cStagedChoice::SetTitleShown);
     connect(m_grouping, &QComboBox::activated, &view, &cStagedChoice::SetGrouping);
@@ -142,21 +149,38 @@ void cStagedPanel::Connect()
             m_filter, &QLineEdit::clear);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &cStagedPanel::ShowSelection);
     connect(&view, &cStagedChoice::Changed, this, &cStagedPanel::ShowView);
+    // A high pile is planned bit by bit, whenever there is nothing else to do.
+    m_planning->setInterval(0);
+    connect(m_planning, &QTimer::timeout, this, [this] {
+        if (!isVisible() || !m_review.PlanNext()) {
+            m_planning->stop();
+        }
+    });
+}
+
+void cStagedPanel::showEvent(QShowEvent* event)
+{
+    m_planning->start();
+    QWidget::showEvent(event);
 }
 
 void cStagedPanel::ShowView()
 {
     const cStagedChoice& view = m_review.View();
     const QSignalBlocker open(m_openOnly);
+    const QSignalBlocker uncategorised(m_uncategorised);
     const QSignalBlocker old(m_hideOld);
     const QSignalBlocker title(m_showTitle);
     m_openOnly->setChecked(view.IsOpenOnly());
+    m_uncategorised->setChecked(view.IsUncategorisedOnly());
+    m_openOnly->setEnabled(!view.IsUncategorisedOnly());
     m_hideOld->setChecked(view.IsOldHidden());
     m_showTitle->setChecked(view.IsTitleShown());
     m_grouping->setCurrentIndex(view.Grouping());
     m_title->setVisible(view.IsTitleShown());
     m_tree->SetEmptyText(view.EmptyTitle(), view.EmptyHint());
     m_count->setText(view.CountText());
+    m_planning->start();
     ShowSelection();
 }
 

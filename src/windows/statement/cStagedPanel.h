@@ -14,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QPushButton;
+class QTimer;
 
 // The list of bank transactions with everything that is done in it: the page of bank statements and the window for one
 // import both consist of it.
@@ -33,6 +34,7 @@ public:
     void ResetLayout(); // the stored columns, or those of the beginning
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -50,9 +52,11 @@ private:
     QMenu* m_more;
     QAction* m_showTitle;
     QCheckBox* m_openOnly;
+    QCheckBox* m_uncategorised;
     QCheckBox* m_hideOld;
     QComboBox* m_grouping;
     QLineEdit* m_filter;
     QLabel* m_count;
     cElidedText* m_title;
+    QTimer* m_planning;
 };

@@ -23,6 +23,14 @@ bool IsEnter(const QKeyEvent& event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+// F2, and letters as they are typed: both edit the category, wherever in the row the focus is.
+bool IsEditing(const QKeyEvent& event)
+{
+    const bool isLetter = !event.text().isEmpty() && event.text().at(0).isLetterOrNumber()
+        && (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    return isLetter || event.key() == Qt::Key_F2;
+}
+
 bool IsMenuKey(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
@@ -42,7 +50,7 @@ cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(p
     setAllColumnsShowFocus(false); // the cell with the focus is the one that F2 edits
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
-    setEditTriggers(DoubleClicked | EditKeyPressed);
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setSortingEnabled(true);
     setAccessibleName(cText::Tr("Liste der Bankumsätze"));
     header()->setSectionsMovable(true);
@@ -225,7 +233,19 @@ void cStagedTree::keyPressEvent(QKeyEvent* event)
     } else if (IsMenuKey(*event)) {
         OpenMenuAtCurrent();
     } else {
+        if (IsEditing(*event)) {
+            GoToCategory();
+        }
         QTreeView::keyPressEvent(event);
+    }
+}
+
+void cStagedTree::GoToCategory()
+{
+    const QModelIndex cell = currentIndex();
+    const QModelIndex category = cell.siblingAtColumn(cStagedListModel::Category);
+    if (!cell.flags().testFlag(Qt::ItemIsEditable) && category.flags().testFlag(Qt::ItemIsEditable)) {
+        selectionModel()->setCurrentIndex(category, QItemSelectionModel::NoUpdate);
     }
 }
 

@@ -65,6 +65,7 @@ private:
     void RestoreSelection();
     void OpenGroups();
     void OpenMenuAtCurrent();
+    void GoToCategory(); // of the current row, unless its present cell can be edited
 
     cStagedListModel& m_model;
     cColumnFit* m_fit;

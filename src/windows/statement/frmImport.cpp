@@ -123,7 +123,7 @@ void frmImport::ReviewImport(int rowId)
 
 void frmImport::ResetLayout()
 {
-    m_review.View().SetGrouping(0);
+    m_review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Plan));
     m_panel->ResetLayout();
 }
 

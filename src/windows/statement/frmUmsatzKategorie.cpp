@@ -24,11 +24,13 @@ frmUmsatzKategorie::frmUmsatzKategorie(cImportReview& review, const QList<int>& 
       m_review(review),
       m_rowIds(rowIds),
       m_category(new cCategoryBox(review.Suggestions(), this)),
-      m_interval(new QComboBox(this))
+      m_interval(new QComboBox(this)),
+      m_description(new QLineEdit(this))
 {
     setWindowTitle(m_review.ChoiceTitle(m_rowIds));
     m_interval->addItem(cText::Tr("wie vorgeschlagen"));
     m_interval->addItems(cImportReview::Intervals());
+    m_description->setPlaceholderText(cText::Tr("wie vorgeschlagen"));
     m_category->lineEdit()->setPlaceholderText(cText::Tr("wie vorgeschlagen"));
     m_category->SetType(m_review.TypeOf(m_rowIds));
     Build();
@@ -40,6 +42,7 @@ void frmUmsatzKategorie::Build()
     auto* form = new QFormLayout;
     form->addRow(cText::Tr("&Kategorie:"), m_category);
     form->addRow(cText::Tr("&Intervall:"), m_interval);
+    form->addRow(cText::Tr("B&eschreibung:"), m_description);
     m_category->setMinimumWidth(fontMetrics().averageCharWidth() * letters);
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(cText::Tr("Ü&bernehmen"), QDialogButtonBox::AcceptRole)->setDefault(true);
@@ -65,6 +68,6 @@ void frmUmsatzKategorie::accept()
     const QString category = m_category->Path();
     const QString interval =
         m_interval->currentIndex() > 0 ? cImportReview::StoredInterval(m_interval->currentText()) : QString();
-    m_review.Choose(m_rowIds, category, interval);
+    m_review.Choose(m_rowIds, category, interval, m_description->text());
     QDialog::accept();
 }

@@ -25,4 +25,5 @@ private:
     QList<int> m_rowIds;
     cCategoryBox* m_category;
     QComboBox* m_interval;
+    QLineEdit* m_description;
 };
