@@ -6,6 +6,7 @@
 #include "app/cSystemClock.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
+#include "core/cStartRequest.h"
 #include "views/main/modStartOption.h"
 #include "windows/widget/cStyle.h"
 
@@ -62,13 +63,21 @@ int main(int argc, char* argv[])
     parser.process(application);
 
     const QString profile = parser.value(modStartOption::Profile);
+    cStartRequest request;
+    request.IsImport = parser.isSet(modStartOption::Import);
+    request.IsNewEntry = parser.isSet(modStartOption::NewEntry);
+    request.Activation = qgetenv("XDG_ACTIVATION_TOKEN");
     cQtShell shell(profile);
     cQtRegistry registry(profile);
     cQtUser user;
     cQtRescue rescue;
     const cSystemClock clock;
     cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
-    if (!program.Start(parser.positionalArguments().value(0))) {
+    if (const QString error = request.TakeFiles(parser.positionalArguments()); !error.isEmpty()) {
+        user.Show(eTone::Exclamation, error);
+        return 1;
+    }
+    if (!program.Start(request)) {
         return 0; // the user knows why
     }
     return QApplication::exec();

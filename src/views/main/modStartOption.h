@@ -17,6 +17,8 @@ struct cOption
 [[nodiscard]] QList<cOption> All();
 
 inline const QString Profile = QStringLiteral("profile");
+inline const QString Import = QStringLiteral("import");
+inline const QString NewEntry = QStringLiteral("new-entry");
 
 // What stands behind the options.
 [[nodiscard]] QString FilesHelp();
