@@ -9,6 +9,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "views/main/cMainModel.h"
+#include "views/main/modCommand.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/template/cNameKeepers.h"
@@ -19,6 +20,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -29,6 +31,7 @@ constexpr auto walkDelay = 500ms; // after the window stands
 constexpr auto walkPause = 20ms;
 constexpr int walkTime = 10; // milliseconds, too short to be felt
 constexpr auto damageRetry = 300ms;
+constexpr auto requestRetry = 300ms;
 
 } // namespace
 
@@ -54,12 +57,13 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
 
 cMainProgram::~cMainProgram() = default;
 
-bool cMainProgram::Start(const QString& database)
+bool cMainProgram::Start(const cStartRequest& request)
 {
+    m_request = request;
     cStartUp startUp({m_ports.Shell, m_ports.User, m_ports.Rescue, m_ports.Clock}, m_configuration, m_version);
     m_language.Use({}, m_ports.Shell); // until the book says otherwise
     startUp.CheckCurrency();
-    if (!OpenBook(startUp, database)) {
+    if (!OpenBook(startUp)) {
         return false;
     }
     m_backups.BookOpened();
@@ -74,14 +78,49 @@ bool cMainProgram::Start(const QString& database)
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
     WatchBook();
+    QTimer::singleShot(0, m_window.get(), [this] { Serve(); }); // once the window is painted
     return true;
 }
 
-bool cMainProgram::OpenBook(cStartUp& startUp, const QString& database)
+// What another start wants: the window comes to the front first.
+void cMainProgram::Take(const cStartRequest& request)
 {
-    const cStartUp::cFound found = database.isEmpty()
+    if (!request.Activation.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", request.Activation); // where the toolkit looks for it
+    }
+    m_window->Raise();
+    m_request.Statements.append(request.Statements);
+    m_request.IsImport = m_request.IsImport || request.IsImport;
+    m_request.IsNewEntry = m_request.IsNewEntry || request.IsNewEntry;
+    Serve();
+}
+
+// A form that is open is left to the user: what is wanted waits until it is closed.
+void cMainProgram::Serve()
+{
+    if (!m_request.HasWork()) {
+        return;
+    }
+    if (QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(requestRetry, m_window.get(), [this] { Serve(); });
+        return;
+    }
+    const cStartRequest request = std::exchange(m_request, {});
+    if (!request.Statements.isEmpty()) {
+        m_navigation->ReadStatements(request.Statements);
+    } else if (request.IsImport) {
+        m_navigation->Open(modCommand::ImportStatement);
+    }
+    if (request.IsNewEntry) {
+        m_navigation->OpenNewEntry();
+    }
+}
+
+bool cMainProgram::OpenBook(cStartUp& startUp)
+{
+    const cStartUp::cFound found = m_request.Book.isEmpty()
         ? startUp.FindDatabase()
-        : cStartUp::cFound{QDir::cleanPath(QDir().absoluteFilePath(database))};
+        : cStartUp::cFound{QDir::cleanPath(QDir().absoluteFilePath(m_request.Book))};
     if (!OpenLocked(startUp, found.Path, found.IsFresh)) {
         return false;
     }
@@ -98,7 +137,7 @@ bool cMainProgram::OpenBook(cStartUp& startUp, const QString& database)
 bool cMainProgram::OpenLocked(cStartUp& startUp, const QString& path, bool isFresh)
 {
     if (m_lock.Take(path) == eLockState::Foreign) {
-        if (cSingleInstance::RaiseOther(path)) {
+        if (cSingleInstance::HandOver(path, m_request)) {
             return false;
         }
         if (!cBookSwitch::TakeOver(m_lock, path, m_ports.User)) {
@@ -136,7 +175,8 @@ void cMainProgram::BuildWindow()
     QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
                      [this] { m_backups.CopyIfChanged(); });
     QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });
-    QObject::connect(&m_instance, &cSingleInstance::RaiseRequested, m_window.get(), &frmMain::Raise);
+    QObject::connect(&m_instance, &cSingleInstance::Requested, m_window.get(),
+                     [this](const cStartRequest& request) { Take(request); });
 }
 
 cBookSwitch::cHooks cMainProgram::Hooks()

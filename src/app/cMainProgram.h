@@ -9,6 +9,7 @@
 #include "core/cBook.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
+#include "core/cStartRequest.h"
 #include "store/cTableWalk.h"
 
 #include <QString>
@@ -46,10 +47,10 @@ public:
     cMainProgram& operator=(const cMainProgram&) = delete;
     ~cMainProgram();
 
-    // Runs the start-up with its questions and shows the window. An empty path is the database of the configuration.
-    // False when the program has to end: the user declined every remedy, or the book is already open in another window,
-    // which was brought to the front.
-    [[nodiscard]] bool Start(const QString& database);
+    // Runs the start-up with its questions, shows the window and does what the request wants. Without a book it is the
+    // database of the configuration. False when the program has to end: the user declined every remedy, or the book is
+    // already open in another window, which was brought to the front and got the request.
+    [[nodiscard]] bool Start(const cStartRequest& request);
 
     // The window and its model; only after a successful start.
     [[nodiscard]] frmMain& Window() { return *m_window; }
@@ -59,7 +60,9 @@ public:
     [[nodiscard]] const cBookTools& Tools() const { return *m_tools; }
 
 private:
-    [[nodiscard]] bool OpenBook(cStartUp& startUp, const QString& database);
+    [[nodiscard]] bool OpenBook(cStartUp& startUp);
+    void Serve();
+    void Take(const cStartRequest& request);
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
@@ -83,6 +86,7 @@ private:
     QTimer tmrBackup;                 // until the next copy of a program that stays open
     std::optional<cTableWalk> m_walk; // until the open file has been read once
     QTimer tmrWalk;
+    cStartRequest m_request;           // of this start, or of a later one that is still waiting
     std::optional<cBookTools> m_tools; // from the first opening of the book on
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;

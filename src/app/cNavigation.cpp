@@ -7,6 +7,7 @@
 #include "core/cBook.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "core/cStartRequest.h"
 #include "store/cDataAccess.h"
 #include "views/book/cBackupSettings.h"
 #include "views/book/cBookCheck.h"
@@ -71,8 +72,28 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
                      [this](cEntryEditor& editor, const cEntryFields& fields) { OpenEditorFor(editor, fields); });
     QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::StartAfresh);
     QObject::connect(&window, &frmMain::PageShown, &model, [this](frmMain::ePage page) { BuildPage(page); });
-    QObject::connect(&window, &frmMain::FilesDropped, &review,
-                     [this](const QStringList& paths) { Statements().ImportFiles(paths); });
+    QObject::connect(&window, &frmMain::FilesDropped, &review, [this](const QStringList& paths) { TakeFiles(paths); });
+}
+
+void cNavigation::ReadStatements(const QStringList& paths)
+{
+    ShowStatements();
+    Statements().ImportFiles(paths);
+}
+
+void cNavigation::TakeFiles(const QStringList& paths)
+{
+    cStartRequest request;
+    if (const QString error = request.TakeFiles(paths); !error.isEmpty()) {
+        m_parts.Tools.User.Show(eTone::Exclamation, error);
+        return;
+    }
+    if (!request.Book.isEmpty()) {
+        m_books.OpenBook(request.Book);
+    }
+    if (!request.Statements.isEmpty()) {
+        ReadStatements(request.Statements);
+    }
 }
 
 void cNavigation::BuildPage(frmMain::ePage page)

@@ -7,6 +7,7 @@
 #include "windows/main/frmMain.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -52,8 +53,10 @@ public:
     void TellDamage();
     void LeaveBook(); // before the file is closed: so are the windows that show it
 
-    [[nodiscard]] frmImport& Statements();        // built on first use, so that the start does not wait for it
-    void ShowStatements();                        // brings the page for bank statements to the front
+    [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
+    void ShowStatements();                 // brings the page for bank statements to the front
+    void ReadStatements(const QStringList& paths);
+    void TakeFiles(const QStringList& paths);     // that were dropped: a book is opened, the others are read
     [[nodiscard]] cStatisticsModel& Statistics(); // the same for the statistics; its page is built with it
 
     void OpenNewEntry() override;

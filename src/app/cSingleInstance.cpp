@@ -11,6 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int WaitMilliseconds = 1000;
+constexpr qint64 MostBytes = 1'000'000; // of a request
 
 // In the folder of the signed-in user, which nobody else can look into or put anything in. Without one the socket would
 // lie where everybody writes; then the name names no place, and nobody answers.
@@ -28,11 +29,8 @@ cSingleInstance::cSingleInstance(QObject* parent) : QObject(parent)
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server.nextPendingConnection()) {
-            caller->write("ok\n");
-            caller->flush();
             connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            caller->disconnectFromServer();
-            Q_EMIT RaiseRequested();
+            connect(caller, &QLocalSocket::readyRead, this, [this, caller] { Take(*caller); });
         }
     });
 }
@@ -48,10 +46,34 @@ void cSingleInstance::Listen(const QString& database)
     }
 }
 
-bool cSingleInstance::RaiseOther(const QString& database)
+void cSingleInstance::Take(QLocalSocket& caller)
+{
+    if (!caller.canReadLine()) {
+        if (caller.bytesAvailable() > MostBytes) {
+            caller.abort();
+        }
+        return;
+    }
+    const std::optional<cStartRequest> request = cStartRequest::FromLine(caller.readLine(MostBytes));
+    if (request) {
+        caller.write("ok\n");
+        caller.flush();
+    }
+    caller.disconnectFromServer();
+    if (request) {
+        Q_EMIT Requested(*request);
+    }
+}
+
+bool cSingleInstance::HandOver(const QString& database, const cStartRequest& request)
 {
     QLocalSocket socket;
     socket.connectToServer(ServerName(database));
+    if (!socket.waitForConnected(WaitMilliseconds)) {
+        return false;
+    }
+    socket.write(request.ToLine());
+    socket.flush();
     // Only an answer counts: a program that hangs accepts the connection as well.
-    return socket.waitForConnected(WaitMilliseconds) && socket.waitForReadyRead(WaitMilliseconds);
+    return socket.waitForReadyRead(WaitMilliseconds);
 }

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "core/cStartRequest.h"
+
 #include <QLocalServer>
 #include <QObject>
 #include <QString>
 
-// Lets a second start on the same database raise the window of the first.
+class QLocalSocket;
+
+// Lets a second start on the same database raise the window of the first and hand it what it was asked to do.
 class cSingleInstance final : public QObject
 {
     Q_OBJECT
@@ -15,12 +19,15 @@ public:
     // Waits for other starts on this database. To be called by the holder of the file's lock only.
     void Listen(const QString& database);
 
-    // Asks the program that has this database open to come to the front. False when none answers.
-    [[nodiscard]] static bool RaiseOther(const QString& database);
+    // Asks the program that has this database open to come to the front and to do what is wanted. False when none
+    // answers.
+    [[nodiscard]] static bool HandOver(const QString& database, const cStartRequest& request);
 
 Q_SIGNALS:
-    void RaiseRequested();
+    void Requested(const cStartRequest& request);
 
 private:
+    void Take(QLocalSocket& caller);
+
     QLocalServer m_server;
 };

@@ -6,6 +6,8 @@
 #include "app/cSystemClock.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
+#include "core/cStartRequest.h"
+#include "views/main/modStartOption.h"
 #include "windows/widget/cStyle.h"
 
 #include <QApplication>
@@ -49,23 +51,33 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(u"kontorelle"_s);
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
     QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
-    QApplication::setDesktopFileName(u"kontorelle"_s);
+    QApplication::setDesktopFileName(u"de.veltrino.Kontorelle"_s);
     QCommandLineParser parser;
     parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({u"profile"_s, cText::Tr("Ordner für Daten und Einstellungen statt der üblichen."), u"ORDNER"_s});
-    parser.addPositionalArgument(u"datenbank"_s, cText::Tr("Datenbank, die geöffnet wird."), u"[DATENBANK]"_s);
+    for (const modStartOption::cOption& option : modStartOption::All()) {
+        parser.addOption({option.Name, option.Help, option.Value});
+    }
+    parser.addPositionalArgument(u"datei"_s, modStartOption::FilesHelp(), u"[DATEI...]"_s);
     parser.process(application);
 
-    const QString profile = parser.value(u"profile"_s);
+    const QString profile = parser.value(modStartOption::Profile);
+    cStartRequest request;
+    request.IsImport = parser.isSet(modStartOption::Import);
+    request.IsNewEntry = parser.isSet(modStartOption::NewEntry);
+    request.Activation = qgetenv("XDG_ACTIVATION_TOKEN");
     cQtShell shell(profile);
     cQtRegistry registry(profile);
     cQtUser user;
     cQtRescue rescue;
     const cSystemClock clock;
     cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
-    if (!program.Start(parser.positionalArguments().value(0))) {
+    if (const QString error = request.TakeFiles(parser.positionalArguments()); !error.isEmpty()) {
+        user.Show(eTone::Exclamation, error);
+        return 1;
+    }
+    if (!program.Start(request)) {
         return 0; // the user knows why
     }
     return QApplication::exec();

@@ -1,4 +1,5 @@
 #include "app/cFileLock.h"
+#include "app/cLanguage.h"
 #include "app/cQtPaint.h"
 #include "app/cQtRegistry.h"
 #include "app/cQtShell.h"
@@ -69,6 +70,8 @@ int main(int argc, char* argv[])
     const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kontorelle-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
+    cLanguage language;
+    language.Use(modLocale::Messages(), cQtShell({})); // before the table of commands is made
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     const QString profile = modCliMain::Profile(arguments);
     cQtShell shell(profile);

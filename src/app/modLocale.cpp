@@ -1,6 +1,9 @@
 #include "app/modLocale.h"
 
 #include <QByteArray>
+#include <QList>
+
+using namespace Qt::Literals::StringLiterals;
 
 void modLocale::UseUtf8()
 {
@@ -8,4 +11,17 @@ void modLocale::UseUtf8()
         && qEnvironmentVariableIsEmpty("LANG")) {
         qputenv("LC_CTYPE", QByteArrayLiteral("C.UTF-8"));
     }
+}
+
+// The order of gettext: LANGUAGE counts only where a language is set at all.
+QString modLocale::Messages()
+{
+    QByteArray wanted;
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        wanted = wanted.isEmpty() ? qgetenv(name) : wanted;
+    }
+    const bool isUnset = wanted.isEmpty() || wanted == "C" || wanted == "POSIX" || wanted.startsWith("C.");
+    const QByteArray list = qgetenv("LANGUAGE");
+    const QByteArray first = !isUnset && !list.isEmpty() ? list.split(':').constFirst() : wanted;
+    return isUnset || first.startsWith("de") ? u"de"_s : u"en"_s;
 }

@@ -76,6 +76,8 @@ const QList<cCliCommand>& modCliCommands::All()
         BackupCommand(),
         RestoreCommand(),
         PasswordCommand(),
+        CompletionCommand(),
+        ManPageCommand(),
     };
     return commands;
 }

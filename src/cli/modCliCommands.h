@@ -89,6 +89,8 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand BanksAddCommand();
 [[nodiscard]] cCliCommand BanksMethodsCommand();
 [[nodiscard]] cCliCommand BanksRemoveCommand();
+[[nodiscard]] cCliCommand CompletionCommand();
+[[nodiscard]] cCliCommand ManPageCommand();
 
 inline constexpr int Any = std::numeric_limits<int>::max(); // number of arguments
 

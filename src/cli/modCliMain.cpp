@@ -3,8 +3,8 @@
 #include "base/cText.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
+#include "cli/help/modCliHelp.h"
 #include "cli/modCliCommands.h"
-#include "cli/modCliHelp.h"
 
 #include <algorithm>
 

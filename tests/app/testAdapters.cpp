@@ -36,7 +36,7 @@ private Q_SLOTS:
     void LeftoverLockIsTakenOver();
     void AbandonedLock_data();
     void AbandonedLock();
-    void SecondStartRaisesTheFirst();
+    void SecondStartHandsOverToTheFirst();
     void NobodyToRaise();
     void KeysHaveGermanNames();
     void FiltersForFileDialogs_data();
@@ -187,24 +187,29 @@ void testAdapters::LeftoverLockIsTakenOver()
     QCOMPARE(mine.Take(path), eLockState::Held);
 }
 
-void testAdapters::SecondStartRaisesTheFirst()
+void testAdapters::SecondStartHandsOverToTheFirst()
 {
     const QString path = NewFile(u"shown.db"_s);
     cSingleInstance first;
     first.Listen(path);
     const QDir runtime(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
     QVERIFY(!runtime.entryList({u"kontorelle-*"_s}, QDir::System).isEmpty()); // where only this user can get at it
-    QSignalSpy raised(&first, &cSingleInstance::RaiseRequested);
+    const cStartRequest wanted{
+        .Statements = {u"/tmp/Auszug März.sta"_s}, .IsNewEntry = true, .Activation = QByteArrayLiteral("token")};
+    std::optional<cStartRequest> got;
+    QSignalSpy asked(&first, &cSingleInstance::Requested);
+    connect(&first, &cSingleInstance::Requested, this, [&](const cStartRequest& request) { got = request; });
     bool isAnswered = false;
-    std::thread second([&] { isAnswered = cSingleInstance::RaiseOther(path); });
-    QVERIFY(raised.wait());
+    std::thread second([&] { isAnswered = cSingleInstance::HandOver(path, wanted); });
+    QVERIFY(asked.wait());
     second.join();
     QVERIFY(isAnswered);
+    QCOMPARE(got, std::optional(wanted));
 }
 
 void testAdapters::NobodyToRaise()
 {
-    QVERIFY(!cSingleInstance::RaiseOther(NewFile(u"alone.db"_s)));
+    QVERIFY(!cSingleInstance::HandOver(NewFile(u"alone.db"_s), {}));
 }
 
 void testAdapters::KeysHaveGermanNames()

@@ -44,7 +44,7 @@ private Q_SLOTS:
         for (const QString& day : {u"15"_s, u"16"_s}) {
             cMainProgram program(machine.Ports, u"0.1.0"_s);
             machine.Clock.Day = QDate(2026, 3, day.toInt());
-            QVERIFY(program.Start(path));
+            QVERIFY(program.Start({.Book = path}));
             QVERIFY(program.Window().close());
             QCOMPARE(machine.Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
         }
@@ -58,11 +58,11 @@ private Q_SLOTS:
         const QString path = machine.File.Make(oneEntry);
         {
             cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start(path)); // brings the file up to date
+            QVERIFY(program.Start({.Book = path})); // brings the file up to date
         }
         cTestFile::Damage(path, "account");
         cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start(path));
+        QVERIFY(program.Start({.Book = path}));
         QTRY_COMPARE(machine.User.Asked.size(), 1);
         QVERIFY(machine.User.Asked[0].contains(u"ist beschädigt"_s));
         QVERIFY(program.Window().close());

@@ -279,5 +279,7 @@ int main(int argc, char** argv)
     cAgreeingRescue rescue;
     const cSystemClock clock;
     cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
-    return program.Start(database) ? Play(program, user, arguments.value(1), arguments.value(2) == u"before"_s) : 2;
+    return program.Start({.Book = database})
+        ? Play(program, user, arguments.value(1), arguments.value(2) == u"before"_s)
+        : 2;
 }

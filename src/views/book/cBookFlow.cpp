@@ -122,10 +122,13 @@ void cBookFlow::ShowCannotCreate(const QString& path) const
 
 void cBookFlow::SwitchBook()
 {
-    const QString path = AskForBook();
-    if (path.isEmpty()) {
-        return;
+    if (const QString path = AskForBook(); !path.isEmpty()) {
+        OpenBook(path);
     }
+}
+
+void cBookFlow::OpenBook(const QString& path)
+{
     if (IsOpenBook(path)) {
         m_parts.User.Show(eTone::Information, cText::Tr("Die Datenbank '{0}' ist bereits geöffnet.", {Shown(path)}));
         return;

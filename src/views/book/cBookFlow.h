@@ -30,10 +30,11 @@ public:
 
     explicit cBookFlow(const cParts& parts) : m_parts(parts) {}
 
-    void NewBook();    // "Neue Datenbank"
-    void SwitchBook(); // "Datenbank wechseln"
-    void MakeBackup(); // "Datensicherung erstellen"
-    void LoadBackup(); // "Datensicherung laden"
+    void NewBook();                     // "Neue Datenbank"
+    void SwitchBook();                  // "Datenbank wechseln"
+    void OpenBook(const QString& path); // that was dropped on the window; says so when it is open already
+    void MakeBackup();                  // "Datensicherung erstellen"
+    void LoadBackup();                  // "Datensicherung laden"
 
     // Says that the book is damaged and offers the newest copy that is not.
     void TellDamage();

@@ -326,6 +326,5 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event)
 
 void frmMain::dropEvent(QDropEvent* event)
 {
-    ShowPage(ePage::Statements);
     Q_EMIT FilesDropped(modDrop::Files(*event->mimeData()));
 }

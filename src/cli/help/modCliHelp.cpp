@@ -1,4 +1,4 @@
-#include "cli/modCliHelp.h"
+#include "cli/help/modCliHelp.h"
 
 #include "base/cText.h"
 
@@ -11,17 +11,17 @@ QString Column(const QString& text, int width)
     return u"  "_s + text.leftJustified(width) + u"  "_s;
 }
 
-QString OptionText(const cCliOption& option)
+} // namespace
+
+QString modCliHelp::Option(const cCliOption& option)
 {
     return u"--"_s + option.Name + (option.Value.isEmpty() ? QString() : u' ' + option.Value);
 }
 
-QString CallText(const cCliCommand& command)
+QString modCliHelp::Call(const cCliCommand& command)
 {
     return command.Arguments.isEmpty() ? command.Name : command.Name + u' ' + command.Arguments;
 }
-
-} // namespace
 
 QString modCliHelp::All(const QList<cCliCommand>& commands)
 {
@@ -48,13 +48,13 @@ QString modCliHelp::All(const QList<cCliCommand>& commands)
 
 QString modCliHelp::Of(const cCliCommand& command)
 {
-    QString text = cText::Tr("Aufruf: kontorelle-cli [--database DATEI] [--profile ORDNER] {0}", {CallText(command)});
+    QString text = cText::Tr("Aufruf: kontorelle-cli [--database DATEI] [--profile ORDNER] {0}", {Call(command)});
     text += (command.Options.isEmpty() ? QString() : cText::Tr(" [OPTIONEN]")) + u"\n\n"_s + command.Help + u".\n"_s;
     if (!command.Options.isEmpty()) {
         text += u'\n' + cText::Tr("Optionen:") + u'\n';
     }
     for (const cCliOption& option : command.Options) {
-        text += Column(OptionText(option), 24) + option.Help + u'\n';
+        text += Column(Option(option), 24) + option.Help + u'\n';
     }
     return text;
 }

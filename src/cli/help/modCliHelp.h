@@ -7,6 +7,10 @@
 
 namespace modCliHelp {
 
+// "--account NAME" and "report BERICHT".
+[[nodiscard]] QString Option(const cCliOption& option);
+[[nodiscard]] QString Call(const cCliCommand& command);
+
 // The help of the whole program.
 [[nodiscard]] QString All(const QList<cCliCommand>& commands);
 

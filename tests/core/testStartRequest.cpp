@@ -1,0 +1,78 @@
+#include "core/cStartRequest.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class testStartRequest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // By their content, so that a bank file never ends in the questions around a damaged book.
+    void SortsFiles_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QString>("book");
+        QTest::addColumn<QStringList>("statements");
+        QTest::addColumn<QString>("error");
+
+        QTest::newRow("nothing") << QStringList() << u""_s << QStringList() << u""_s;
+        QTest::newRow("book") << QStringList{u"haushalt.xyz"_s} << u"haushalt.xyz"_s << QStringList() << u""_s;
+        QTest::newRow("new book") << QStringList{u"neu.db"_s} << u"neu.db"_s << QStringList() << u""_s;
+        QTest::newRow("damaged book") << QStringList{u"kaputt.db"_s} << u"kaputt.db"_s << QStringList() << u""_s;
+        QTest::newRow("statements") << QStringList{u"a.sta"_s, u"b.xml"_s} << u""_s
+                                    << QStringList{u"a.sta"_s, u"b.xml"_s} << u""_s;
+        QTest::newRow("both") << QStringList{u"a.sta"_s, u"haushalt.xyz"_s} << u"haushalt.xyz"_s
+                              << QStringList{u"a.sta"_s} << u""_s;
+        QTest::newRow("two books") << QStringList{u"kaputt.db"_s, u"haushalt.xyz"_s} << u""_s << QStringList()
+                                   << u"nur ein Haushaltsbuch"_s;
+        QTest::newRow("folder") << QStringList{u"."_s} << u""_s << QStringList() << u"ist ein Ordner"_s;
+        QTest::newRow("missing") << QStringList{u"fehlt.sta"_s} << u""_s << QStringList() << u"gibt es nicht"_s;
+    }
+
+    void SortsFiles()
+    {
+        QFETCH(const QStringList, files);
+        QFETCH(const QString, book);
+        QFETCH(const QStringList, statements);
+        QFETCH(const QString, error);
+        const auto full = [this](const QString& name) { return name.isEmpty() ? name : m_folder.filePath(name); };
+        QStringList paths;
+        for (const QString& file : files) {
+            paths.append(full(file));
+        }
+        QStringList wanted;
+        for (const QString& statement : statements) {
+            wanted.append(full(statement));
+        }
+        cStartRequest request;
+        QVERIFY2(request.TakeFiles(paths).contains(error), qPrintable(request.TakeFiles(paths)));
+        QCOMPARE(request.TakeFiles(paths).isEmpty(), error.isEmpty());
+        QCOMPARE(request.Book, full(book));
+        QCOMPARE(request.Statements, wanted);
+    }
+
+    void initTestCase()
+    {
+        Write(u"haushalt.xyz"_s, QByteArrayLiteral("SQLite format 3\0 and more"));
+        Write(u"kaputt.db"_s, QByteArrayLiteral("no database any more"));
+        Write(u"a.sta"_s, QByteArrayLiteral(":20:STARTUMS"));
+        Write(u"b.xml"_s, QByteArrayLiteral("<Document/>"));
+    }
+
+private:
+    void Write(const QString& name, const QByteArray& content)
+    {
+        QFile file(m_folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(testStartRequest)
+#include "testStartRequest.moc"
