@@ -74,6 +74,22 @@ private Q_SLOTS:
         QCOMPARE(staged.Column(u"ImportPurpose"_s).value(0), u"Brõzeln"_s);
     }
 
+    // Both readings are shown, the option decides, and the next file of the kind needs none.
+    void AmountsWithoutSignAreNotGuessed()
+    {
+        QFile file(m_table);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("Tag;Text;Betrag\n03.02.2026;Miete;500,00\n") > 0);
+        file.close();
+        const cCliRun refused = Run({u"import"_s, m_table, u"--account"_s, u"1"_s});
+        QVERIFY2(refused.Code == 1 && refused.Error.contains("Miete"_L1) && refused.Error.contains("-500,00"_L1)
+                     && refused.Error.contains("--sign umgekehrt"_L1),
+                 qPrintable(refused.Text()));
+        Do({u"import"_s, m_table, u"--account"_s, u"1"_s, u"--sign"_s, u"umgekehrt"_s});
+        QCOMPARE(Do({u"staged"_s, u"--json"_s}).Column(u"ImportValue"_s), QStringList(u"-500"_s));
+        const cCliRun again = Do({u"import"_s, m_table, u"--json"_s});
+        QCOMPARE(again.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 1);
+    }
+
     void ColumnsAreRemembered()
     {
         Do({u"import"_s, m_table, u"--account"_s, u"1"_s, u"--map"_s, u"datum=0,betrag=2,zweck=1"_s, u"--remember"_s});

@@ -7,6 +7,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -45,6 +46,14 @@ int cEnterUser::Decide(const cDecision& decision)
 {
     Asked.append(decision.Text);
     return decision.Default;
+}
+
+std::optional<QList<int>> cEnterUser::Tick(const cChecklist& list)
+{
+    Asked.append(list.Text + u'\n' + list.Items.join(u'\n'));
+    QList<int> all(list.Items.size());
+    std::iota(all.begin(), all.end(), 0);
+    return all;
 }
 
 cHouseholdPlay::cHouseholdPlay(const cHousehold& household, QDate first, int months, bool isTrace)

@@ -18,6 +18,7 @@ public:
     eAnswer Ask(const cQuestion& question) override;
     std::optional<QString> Choose(const cChoice& choice) override;
     int Decide(const cDecision& decision) override;
+    std::optional<QList<int>> Tick(const cChecklist& list) override;
     QStringList ChooseFiles(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
     QString ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/) override
     {

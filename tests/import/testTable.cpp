@@ -205,7 +205,7 @@ private Q_SLOTS:
 
     void AccountIsAskedFor()
     {
-        const QString text = u"Datum;Betrag;Text\n03.02.2025;5,00;a"_s;
+        const QString text = u"Datum;Betrag;Text\n03.02.2025;-5,00;a"_s;
         cImportBook book;
         cTableMemory memory(*book.Settings);
         cStatementImport import(book.Data, book.Hive, &memory);

@@ -187,6 +187,32 @@ private Q_SLOTS:
         QVERIFY(page.Review.Summary().first().startsWith(u"a.csv: nicht eingelesen."));
     }
 
+    // Nothing in the file says what the amounts are: one booking is shown in both readings, and the answer is kept.
+    void AsksWhichReadingIsRight()
+    {
+        const char* const unsure = "Tag;Text;Betrag\n03.02.2026;Miete & Strom;500,00\n04.02.2026;Kino;9,00\n";
+        cPage page;
+        QStringList readings;
+        page.Answer = [&](cImportAssistant& assistant) {
+            assistant.SetAccount(u"4711"_s);
+            readings = assistant.Readings();
+            QCOMPARE(assistant.Reading(), -1);
+            QVERIFY(assistant.Problem().startsWith(u"Die Datei sagt nicht sicher"));
+            Mean(1, u"Verwendungszweck"_s)(assistant); // another choice does not answer it
+            QVERIFY(!assistant.CanImport());
+            assistant.ChooseReading(1);
+            QVERIFY(assistant.CanImport());
+            QCOMPARE(assistant.Readings(), readings); // to change one's mind
+        };
+        page.Import({page.Write(u"1.csv"_s, unsure)});
+        QCOMPARE(readings.join(u'/').replace(u'\u00A0', u' '),
+                 u"03.02.2026  ·  Miete & Strom  ·  +500,00 €/03.02.2026  ·  Miete & Strom  ·  -500,00 €"_s);
+        QCOMPARE(page.Data.GetImportEntries().first().ImportValue, -50000);
+        page.Import({page.Write(u"2.csv"_s, QByteArray(unsure).replace("2026", "2025"))});
+        QCOMPARE(page.Opened, 1);
+        QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -900);
+    }
+
     // One answer holds for all files of the layout, now and later; another layout is asked about.
     void AsksOncePerLayout()
     {
@@ -301,7 +327,10 @@ private Q_SLOTS:
         const int booked = page.Data.GetImportEntries().first().ID;
         cNoProgress progress;
         page.Review.Book({booked}, progress);
-        page.Answer = Mean(2, u"Betrag"_s);
+        page.Answer = [](cImportAssistant& assistant) {
+            Mean(2, u"Betrag"_s)(assistant);
+            assistant.ChooseReading(0);
+        };
         QVERIFY(page.Review.Files().CanReadAgain());
         page.Review.Files().ReadAgain(progress);
         const cImportEntryList rows = page.Data.GetImportEntries();

@@ -273,7 +273,7 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
     if (!read.Refusal.isEmpty() || read.NeedsAccount || read.Doubt || result.NeedsAssistant) {
         result.Problems = read.Problems;
         result.Skipped = read.Skipped;
-        if (read.Refusal.isEmpty() && read.Doubt) {
+        if (read.Refusal.isEmpty() && read.Doubt && !read.NeedsAccount) {
             result.Doubt = read.Doubt;
             return Refuse(std::move(result), modStatementFile::OpenSign());
         }

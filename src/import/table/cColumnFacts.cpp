@@ -25,6 +25,7 @@ void cColumnFacts::Look(QStringView cell)
     if (Filled++ == 0) {
         First = cell.toString();
     }
+    Dashes += cell == u"-" || cell == u"--" || cell == u"\u2013" ? 1 : 0;
     const bool isDate = modTableValue::IsDate(cell);
     const bool isAmount = !isDate && modTableValue::IsAmount(cell);
     const QString number = isDate ? QString() : modTableNumber::German(cell, eNumberFormat::Detect);

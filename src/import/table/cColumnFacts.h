@@ -17,6 +17,7 @@ struct cColumnFacts
     int Numbers = 0; // account numbers: five or more digits and nothing else
     int Codes = 0;   // three capitals
     int Indicators = 0;
+    int Dashes = 0; // which stand for nothing among numbers
     qsizetype Letters = 0;
     QSet<size_t> Kinds; // hashes of the different texts
     QString First;
@@ -27,6 +28,8 @@ struct cColumnFacts
     [[nodiscard]] qsizetype Variety() const { return Kinds.size(); }
     [[nodiscard]] bool IsAll(int count) const { return Filled > 0 && count == Filled; }
     [[nodiscard]] bool IsAccount() const { return IsAll(Ibans + Numbers); }
+    // Numbers for the most part: where the header says that they are money, a cell that is none is a fault.
+    [[nodiscard]] bool IsMostlyMoney() const { return (Amounts + Wholes) * 2 > Filled - Dashes; }
     // Numbers that can be money; whole ones and gaps are ordinary among them.
-    [[nodiscard]] bool IsMoney() const { return IsAll(Amounts + Wholes); }
+    [[nodiscard]] bool IsMoney() const { return Amounts + Wholes > 0 && IsAll(Amounts + Wholes + Dashes); }
 };

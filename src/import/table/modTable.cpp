@@ -89,7 +89,6 @@ void TakeChoice(const cTableChoice& choice, cTableLayout& layout)
     }
     layout.Number = choice.Number.value_or(layout.Number);
     layout.Date = choice.Date.value_or(layout.Date);
-    layout.Sign = choice.Sign.value_or(layout.Sign);
 }
 
 cTableLayout LayoutOf(const cTable& table, const modTableHeader::cFound& found, const cReadOptions& options)
@@ -108,8 +107,8 @@ cTableLayout LayoutOf(const cTable& table, const modTableHeader::cFound& found, 
     TakeChoice(options.Table, layout);
     if (!isKnown) {
         modTableSign::Settle(table, layout);
-        layout.Sign = options.Table.Sign.value_or(layout.Sign);
     }
+    layout.Sign = options.Table.Sign.value_or(layout.Sign); // answers what was open
     modTableContents::CompleteCurrency(layout);
     return layout;
 }

@@ -69,7 +69,7 @@ private:
     [[nodiscard]] bool IsOneSide(int column, QStringView words, QStringView others) const
     {
         return m_survey.IsNamed(column, words) && !m_survey.IsNamed(column, others) && !m_survey.IsBalance(column)
-            && (Facts(column).Filled == 0 || Facts(column).IsMoney());
+            && (Facts(column).Filled == 0 || Facts(column).IsMostlyMoney());
     }
 
     // What the names of the sides mean in every bank goes before the order of the vocabulary, when two columns are

@@ -191,8 +191,11 @@ private:
 
     void SettleOther()
     {
+        if (m_accounts.contains(m_map.Name2)) {
+            m_map.Name2 = -1;
+        }
         if (m_accounts.contains(m_map.Name)) {
-            m_map.Name = -1;
+            m_map.Name = std::exchange(m_map.Name2, -1);
         }
         if (!m_survey.Layout().OwnNumber.isEmpty()) {
             return;

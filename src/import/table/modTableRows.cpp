@@ -90,6 +90,7 @@ public:
             }
         }
         CollectPurposes();
+        CountColumns();
     }
 
     [[nodiscard]] cStatementRead Run()
@@ -139,6 +140,31 @@ private:
                                     : cText::Tr("Der Punkt in den Beträgen wurde als Tausenderpunkt gelesen.")});
     }
 
+    // A separator inside of a field moves all that stands behind it. Where every row has more fields than there are
+    // names, or the last name is that of a text, nothing is moved.
+    void CountColumns()
+    {
+        constexpr int surveyed = 50;
+        const auto names = static_cast<int>(m_map.Names.size());
+        const int end = qMin(m_end, m_layout.FirstRow + surveyed);
+        int longer = 0;
+        for (m_row = m_layout.FirstRow; m_row < end; ++m_row) {
+            longer += IsLonger(names) ? 1 : 0;
+        }
+        const bool isText = m_purposes.contains(names - 1) || m_map.Name == names - 1;
+        m_columns = names == 0 || isText || longer * 2 > end - m_layout.FirstRow ? cTable::mostColumns : names;
+    }
+
+    [[nodiscard]] bool IsLonger(int columns) const
+    {
+        for (int column = columns; column < m_table.CellCount(m_row); ++column) {
+            if (!Cell(column).isEmpty()) {
+                return true;
+            }
+        }
+        return false;
+    }
+
     void ReadRow()
     {
         if (IsBlank() || IsHeaderAgain()) {
@@ -146,6 +172,10 @@ private:
         }
         if (IsBalanceRow()) {
             TakeBalanceRow();
+            return;
+        }
+        if (IsLonger(m_columns)) {
+            Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat mehr Felder als die Tabelle Spalten: {0}", {Start()}));
             return;
         }
         const QStringView amount = Cell(m_map.Amount);
@@ -474,7 +504,8 @@ private:
     const cColumnMap& m_map;
     QString m_account;
     eNumberFormat m_number;
-    int m_end; // behind the last row that is read
+    int m_end;                           // behind the last row that is read
+    int m_columns = cTable::mostColumns; // a row has no more of them
     int m_bookingDay = -1;
     int m_row = 0;
     QList<int> m_purposes; // in the order in which they are joined
