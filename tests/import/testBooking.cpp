@@ -275,6 +275,51 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(next).ExistingEntry, bank.EntryOf(rows.first()));
     }
 
+    void KeywordsAloneMakeNoSeries_data()
+    {
+        QTest::addColumn<QList<int>>("same"); // days after the row on which the payee is paid again
+        QTest::addColumn<QList<int>>("others");
+        QTest::addColumn<QString>("interval");
+        QTest::newRow("the only row") << QList<int>{} << QList<int>{} << u"Monatlich"_s;
+        QTest::newRow("a month later again") << QList<int>{33} << QList<int>{90} << u"Monatlich"_s;
+        QTest::newRow("a month before") << QList<int>{-31} << QList<int>{90} << u"Monatlich"_s;
+        QTest::newRow("never again") << QList<int>{} << QList<int>{20, 60} << u"Einmalig"_s;
+        QTest::newRow("not to be known yet") << QList<int>{} << QList<int>{20, 40} << u"Monatlich"_s;
+        QTest::newRow("every week or so") << QList<int>{8, 30} << QList<int>{} << u"Einmalig"_s;
+    }
+
+    void KeywordsAloneMakeNoSeries()
+    {
+        QFETCH(const QList<int>, same);
+        QFETCH(const QList<int>, others);
+        cBank bank;
+        const int row = bank.Stage(day, -650, u"Miete Tann"_s, u"DE05"_s);
+        for (const int days : same) {
+            (void)bank.Stage(day.addDays(days), -640, u"Miete Tann"_s, u"DE05"_s);
+        }
+        for (const int days : others) {
+            (void)bank.Stage(day.addDays(days), -5, u"REWE"_s);
+        }
+        QTEST(bank.Propose(row).Entry.EntryInterval, "interval");
+    }
+
+    // Statements come in pieces, and behind the first one the series was ended.
+    void EndedSeriesGoesOn()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -650, u"Miete Tann"_s, u"DE05"_s);
+        QCOMPARE(bank.BookAll({first}).Entries, 1);
+        cEntryItem series = *bank.Data.LoadEntry(bank.EntryOf(first));
+        series.EntryDateEnd = day;
+        QVERIFY(bank.Data.ChangeEntry(series));
+        const int next = bank.Stage(day.addMonths(2), -660, u"Miete Tann"_s, u"DE05"_s);
+        QCOMPARE(bank.BookAll({next}).Joined, 1);
+        QCOMPARE(bank.Data.LoadEntry(series.ID)->EntryDateEnd, modRecurrence::OpenEnd);
+        QVERIFY(bank.Data.ChangeEntry(series));
+        const int years = bank.Stage(day.addMonths(30), -650, u"Miete Tann"_s, u"DE05"_s);
+        QCOMPARE(bank.BookAll({years}).Entries, 1);
+    }
+
     void UnknownNumberIsNotBooked()
     {
         cBank bank;

@@ -1,6 +1,7 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
 #include "import/match/cMatcher.h"
+#include "import/match/modMatchScore.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
@@ -101,6 +102,7 @@ private Q_SLOTS:
     void AnEntryTakesOneRow() const;
     void StandingOrder() const;
     void FortnightBetweenTwoOccurrences() const;
+    void MovedOccurrenceIsNearBothDays() const;
     void RaisedRentOffersACorrection() const;
     void TransferTakesARowOfEachAccount() const;
     void OpenTransferIsFound() const;
@@ -233,6 +235,30 @@ void testMatcher::FortnightBetweenTwoOccurrences() const
     const int first = bank.Stage(day, -20, u"Putzhilfe"_s);
     const int next = bank.Stage(day.addDays(14), -20, u"Putzhilfe"_s);
     QCOMPARE(bank.Match({first, next}).Left, QList<int>{first});
+}
+
+// It was put off because nothing had come: a row of the old day still pays it, and so does one of the new day.
+void testMatcher::MovedOccurrenceIsNearBothDays() const
+{
+    cBank bank;
+    const int series = bank.Add(day, -65000, u"Miete Tann"_s, u"Wohnung; Miete"_s, u"Monatlich"_s);
+    const auto putOff = [&](QDate to) {
+        QVERIFY(bank.Data.AddNewEntryMod({0, series, modWord::Betrag, QDate(2026, 1, 1), QDate(2026, 1, 31), 65000,
+                                          u"Laut Kontoauszug noch nicht gebucht"_s, to}));
+    };
+    putOff(day.addDays(20));
+    for (const QDate paid : {day.addDays(1), day.addDays(21)}) {
+        const cMatchCandidate found = bank.Candidates(bank.Stage(paid, -650, u"Miete Tann"_s)).value(0);
+        QCOMPARE(found.Entry.Planned(), day);
+        QVERIFY(found.Score >= modMatchScore::AssignAt && found.Correction);
+        QCOMPARE(found.Correction->EntryStartDate, QDate(2026, 1, 1));
+        QCOMPARE(found.Correction->EntryDay, paid);
+        QVERIFY(!found.ReplacesOwn);
+    }
+    // Of two on one day the one that is planned for it is paid.
+    const QDate next = day.addMonths(1);
+    putOff(next);
+    QCOMPARE(bank.Candidates(bank.Stage(next, -650, u"Miete Tann"_s)).value(0).Entry.Planned(), next);
 }
 
 void testMatcher::RaisedRentOffersACorrection() const
