@@ -23,8 +23,12 @@ int Finish(const cCliContext& context, const cKey& occurrence, bool isDone)
         const auto correction = change.Correction(occurrence.ID, occurrence.Day);
         const auto series = context.Book->File().Entry(occurrence.ID);
         const QString plain = series ? context.Book->AmountText(series->EntryValue) : QString();
-        const QString amount =
-            correction ? cText::Tr("{0} statt {1}", {context.Book->AmountText(correction->EntryValue), plain}) : plain;
+        const bool isOther = correction && series && correction->EntryValue != series->EntryValue;
+        QString amount =
+            isOther ? cText::Tr("{0} statt {1}", {context.Book->AmountText(correction->EntryValue), plain}) : plain;
+        if (correction && correction->EntryDay.isValid()) {
+            amount = cText::Tr("{0}, am {1}", {amount, modDate::ToGerman(correction->EntryDay)});
+        }
         modConsole::Out((period ? period->Title + u": "_s + amount : amount) + u'\n');
     }
     return isDone ? modExit::Done : modCliFlow::Finish(context, false);

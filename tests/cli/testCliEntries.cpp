@@ -187,6 +187,15 @@ void testCliEntries::OneOccurrence()
     QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Column(u"EntryComment"_s),
              QStringList({u"Nachzahlung"_s, QString()}));
     QCOMPARE(Stored(u"search|--json|--corrected"_s).size(), 2);
+
+    const auto days = [&] { return Do(spring).Column(u"EntryDate"_s); };
+    Do(u"correct|%1|3.4.2026|--day|30.3.2026"_s.arg(id));
+    QCOMPARE(days(), QStringList({u"2026-03-03"_s, u"2026-03-30"_s, u"2026-05-03"_s}));
+    Do(u"correct|%1|30.3.2026|660"_s.arg(id)); // the day on which the list shows it
+    QCOMPARE(amounts(), QStringList({u"710"_s, u"660"_s, u"640"_s}));
+    QCOMPARE(days().at(1), u"2026-03-30"_s);
+    Do(u"correct|%1|30.3.2026|--remove"_s.arg(id));
+    QCOMPARE(days().at(1), u"2026-04-03"_s);
 }
 
 void testCliEntries::FromHereOn()

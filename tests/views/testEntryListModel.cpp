@@ -59,6 +59,7 @@ class testEntryListModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void MovedOccurrences() const;
     void Sorts_data();
     void Sorts();
     void Groups_data();
@@ -323,6 +324,24 @@ void testEntryListModel::KeepsTheContractOfItemModels()
     model.SetFilter(u"haushalt"_s);
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.parent(model.index(0, 3, model.index(1, 0))), model.index(1, 0));
+}
+
+// Two of a series may lie on one day: each is found again by the day that was planned for it.
+void testEntryListModel::MovedOccurrences() const
+{
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
+    cEntryListModel::cContent content;
+    content.Entries = {Entry(4, QDate(2026, 4, 1), u"Miete"_s, 2000), Entry(4, QDate(2026, 4, 1), u"Miete"_s, 2000)};
+    content.Entries[0].PlannedDate = QDate(2026, 3, 1);
+    content.Entries[0].CorrectionComment = u"Laut Kontoauszug"_s;
+    model.SetContent(content, {}, modWord::KeineGruppierung);
+    QCOMPARE(model.IndexesOf({{4, QDate(2026, 3, 1)}}), QModelIndexList{model.index(0, 0)});
+    QCOMPARE(model.IndexesOf({{4, QDate(2026, 4, 1)}}), QModelIndexList{model.index(1, 0)});
+    QCOMPARE(model.KeyAt(model.index(0, 0)).Day, QDate(2026, 3, 1));
+    QCOMPARE(model.index(0, 0).data(Qt::ToolTipRole).toString(),
+             u"Verschoben; geplant war der 01.03.2026.\nLaut Kontoauszug"_s);
+    QVERIFY(!model.index(0, 0).data(cEntryListModel::CorrectedRole).toBool());
 }
 
 QTEST_GUILESS_MAIN(testEntryListModel)

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void CorrectsOnePeriod();
     void SkipsAndTakesBack();
     void PeriodForm();
+    void PeriodFormMoves_data();
+    void PeriodFormMoves();
     void PageOfCorrections();
     void PageIsStoredWithTheEntry();
     void FromHereSplitsTheSeries();
@@ -136,6 +138,43 @@ void testSeriesChange::PeriodForm()
     fields.Amount = u"1,234"_s;
     QCOMPARE(british.SavePeriod(fields), cSeriesChange::eSaved::Saved);
     QCOMPARE(book.Data.GetEntryMods(id).first().EntryValue, 123400);
+}
+
+void testSeriesChange::PeriodFormMoves_data()
+{
+    QTest::addColumn<QString>("day"); // as typed
+    QTest::addColumn<QString>("amount");
+    QTest::addColumn<int>("saved");
+    QTest::addColumn<QDate>("moved");
+    QTest::addColumn<QString>("comment"); // an own amount or day is not what the bank said
+    const int done = int(cSeriesChange::eSaved::Saved);
+    const QString bank = u"Laut Kontoauszug"_s;
+    QTest::newRow("as it was") << u"14.04.2026"_s << u"10,00"_s << done << QDate(2026, 4, 14) << bank;
+    QTest::newRow("another day") << u"2.5."_s << u"10"_s << done << QDate(2026, 5, 2) << QString();
+    QTest::newRow("planned day") << u"10.4."_s << u"10"_s << done << QDate() << QString();
+    QTest::newRow("no day") << u" "_s << u"10"_s << done << QDate() << QString();
+    QTest::newRow("another amount") << u"14.4."_s << u"11"_s << done << QDate(2026, 4, 14) << QString();
+    QTest::newRow("unreadable") << u"bald"_s << u"10"_s << int(cSeriesChange::eSaved::BadDay) << QDate(2026, 4, 14)
+                                << bank;
+}
+
+void testSeriesChange::PeriodFormMoves()
+{
+    QFETCH(const QString, day);
+    QFETCH(const QString, amount);
+    cTestBook book;
+    const int id = AddRent(book).ID;
+    QVERIFY(book.Data.AddNewEntryMod({0, id, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
+                                      u"Laut Kontoauszug"_s, QDate(2026, 4, 14)}));
+    cSeriesChange change(book.Data, book.User);
+    cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10), book.Clock.Day).value();
+    QCOMPARE(fields.DayText, u"14.04.2026"_s);
+    fields.DayText = day;
+    fields.Amount = amount;
+    QTEST(int(change.SavePeriod(fields)), "saved");
+    const cEntryItemFixMod stored = book.Data.GetEntryMods(id).first();
+    QTEST(stored.EntryDay, "moved");
+    QTEST(stored.EntryComment, "comment");
 }
 
 void testSeriesChange::PageOfCorrections()
