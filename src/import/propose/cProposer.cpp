@@ -183,8 +183,8 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
                                  : cText::Tr("eigenes Konto: von {0}", {transfer.Other});
 }
 
-// One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to be
-// looked at once more.
+// One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to
+// be looked at once more.
 void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const std::function<cHint()>& knownHint)
 {
     if (proposal.IsSure || choice.HasOthers || proposal.Entry.EntryType == modWord::Umbuchung) {
