@@ -109,8 +109,7 @@ private Q_SLOTS:
         const int other = bank.Stage(day.addDays(-300), -1, u"REWE SAGT DANKE 4711//Talheim/DE"_s);
         bank.BookAs(other, u"B"_s, u"Jährlich"_s);
         QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"B"_s);
-        QCOMPARE(bank.Propose(alike).Reason,
-                 u"gelernt aus 1 Buchung an Rewe; unsicher, andere sind anders gebucht"_s);
+        QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 1 Buchung an Rewe; unsicher, andere sind anders gebucht"_s);
         QVERIFY(!bank.Propose(alike).IsSure);
         bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"B"_s);
         QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 2 Buchungen an Rewe"_s);
@@ -152,7 +151,8 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(turned).Entry.EntryCategory, u"Allgemein"_s);
         // Behind PayPal every shop is a payee of its own.
         const auto shop = [&](const QString& name) {
-            return bank.Stage(day, -1, u"PayPal Europe"_s, u"LU01"_s, u"111"_s, u"PP.1.PP . %1, Ihr Einkauf bei %1"_s.arg(name));
+            return bank.Stage(day, -1, u"PayPal Europe"_s, u"LU01"_s, u"111"_s,
+                              u"PP.1.PP . %1, Ihr Einkauf bei %1"_s.arg(name));
         };
         bank.BookAs(shop(u"Kern und Partner"_s), u"P"_s);
         QCOMPARE(bank.Propose(shop(u"Lehmbruck Verlag"_s)).Entry.EntryCategory, u"Allgemein"_s);

@@ -70,7 +70,7 @@ cScore Judge(const QList<cExample>& examples)
         score.Right += isRight ? 1 : 0;
         score.Sure += proposal.IsSure ? 1 : 0;
         const QString text = u"%1 | %2: %3 (%4)"_s.arg(example.Row.ImportBeneficiary, example.Row.ImportPurpose,
-                                                      proposal.Entry.EntryCategory, proposal.Reason);
+                                                       proposal.Entry.EntryCategory, proposal.Reason);
         if (!isRight) {
             score.Wrong.append(text);
             score.WrongSure += proposal.IsSure ? QStringList(text) : QStringList();
@@ -113,7 +113,8 @@ private Q_SLOTS:
         const QList<cExample> examples = Examples(file);
         QTEST(static_cast<int>(examples.size()), "count");
         const cScore score = Judge(examples);
-        qInfo().noquote() << "right" << score.Right << "sure" << score.Sure << "wrong" << u"\n  "_s + score.Wrong.join(u"\n  "_s);
+        qInfo().noquote() << "right" << score.Right << "sure" << score.Sure << "wrong"
+                          << u"\n  "_s + score.Wrong.join(u"\n  "_s);
         QVERIFY(score.Right >= fewest);
         QVERIFY2(score.WrongSure.isEmpty(), qPrintable(score.WrongSure.join(u'\n')));
     }
@@ -174,8 +175,8 @@ private Q_SLOTS:
         row("SumUp in the name", u"SumUp  *Cafe Luna"_s, {}, u"cafe luna"_s, u"Cafe Luna"_s);
         row("Amazon's own", u"AMAZON PAYMENTS EUROPE S.C.A."_s, u"304-1234567-7654321 Prime Video KO4711"_s,
             u"prime video"_s, u"Prime Video"_s);
-        row("clearing account", u"First Data GmbH"_s, u"LOEWEN-APOTHEKE SAGT DANKE//Talheim/DE"_s,
-            u"loewen apotheke"_s, u"LOEWEN-APOTHEKE"_s);
+        row("clearing account", u"First Data GmbH"_s, u"LOEWEN-APOTHEKE SAGT DANKE//Talheim/DE"_s, u"loewen apotheke"_s,
+            u"LOEWEN-APOTHEKE"_s);
         row("only a purpose", {}, u"ALDI SUED SAGT DANKE//Muenchen/DE 2026-02-11T10:03"_s, u"aldi"_s, u"ALDI"_s);
         row("only a date", {}, u"02/2026 4711"_s, {}, {});
     }
@@ -203,7 +204,8 @@ private Q_SLOTS:
         row("a word", u"REWE Markt"_s, {}, -20, u"Haushalt; Lebensmittel"_s, true);
         row("end of a compound", u"Stadtapotheke"_s, {}, -20, u"Haushalt; Medikamente"_s, true);
         row("inside a name", u"Tobias Kern"_s, u"danke"_s, -20, u"Haushalt"_s, false);
-        row("inside a name that is known", u"BARMER"_s, u"Beitrag"_s, -60, u"Versicherung; Krankenversicherung"_s, true);
+        row("inside a name that is known", u"BARMER"_s, u"Beitrag"_s, -60, u"Versicherung; Krankenversicherung"_s,
+            true);
         row("part of a longer name", u"EASYJET"_s, {}, -190, u"Freizeit; Urlaub"_s, true);
         row("beginning of another word", u"Mieterverein Talheim"_s, u"Beitrag"_s, -80, u"Versicherung; Rechtsschutz"_s,
             true);

@@ -67,11 +67,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("otherName");
         QTest::addColumn<QString>("otherPurpose");
         QTest::newRow("whole name") << u"Kern und Partner"_s << u"1"_s << u"kern und partner"_s << u"2"_s;
-        QTest::newRow("store number") << u"HOFLADEN KERN 4711//Talheim/DE"_s << u"1"_s << u"HOFLADEN KERN 0815//Ulm/DE"_s
-                                      << u"2"_s;
+        QTest::newRow("store number") << u"HOFLADEN KERN 4711//Talheim/DE"_s << u"1"_s
+                                      << u"HOFLADEN KERN 0815//Ulm/DE"_s << u"2"_s;
         QTest::newRow("PayPal") << u"PayPal Europe"_s << u"1.PP Ihr Einkauf bei Hofladen Kern"_s << u"PayPal Europe"_s
                                 << u"2.PP Ihr Einkauf bei Hofladen Kern"_s;
-        QTest::newRow("signs of patterns") << u"SumUp *KERN [NORD] 4711"_s << u"1"_s << u"SumUp *KERN [NORD] 0815"_s << u"2"_s;
+        QTest::newRow("signs of patterns")
+            << u"SumUp *KERN [NORD] 4711"_s << u"1"_s << u"SumUp *KERN [NORD] 0815"_s << u"2"_s;
         QTest::newRow("short name") << u"DM 4711//Ulm/DE"_s << u"1"_s << u"DM 4711//Ulm/DE"_s << u"2"_s;
     }
 

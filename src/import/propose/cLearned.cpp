@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr int fewEntries = 500;      // up to here single entries are read when they are asked for
-constexpr qsizetype mostPayees = 8;  // an account with more of them is nobody's
-constexpr qsizetype lookedBack = 8;  // bookings that tell whether somebody is of two minds
-constexpr int agreed = 2;            // bookings that make a lesson sure
+constexpr int fewEntries = 500;     // up to here single entries are read when they are asked for
+constexpr qsizetype mostPayees = 8; // an account with more of them is nobody's
+constexpr qsizetype lookedBack = 8; // bookings that tell whether somebody is of two minds
+constexpr int agreed = 2;           // bookings that make a lesson sure
 
 } // namespace
 
@@ -65,9 +65,8 @@ void cLearned::NotePayee(cAccount& account, const cPayeeKeys::cPayee& payee)
     if (account.IsMixed || account.Payees.contains(payee.Key)) {
         return;
     }
-    const bool isAlike = std::all_of(account.Payees.begin(), account.Payees.end(), [&](const QString& other) {
-        return modPayee::CanBeSame(other, payee.Key);
-    });
+    const bool isAlike = std::all_of(account.Payees.begin(), account.Payees.end(),
+                                     [&](const QString& other) { return modPayee::CanBeSame(other, payee.Key); });
     account.IsMixed = !isAlike || payee.IsCollector || payee.IsCash || account.Payees.size() >= mostPayees;
     account.Payees.append(payee.Key);
     if (account.IsMixed) {
@@ -82,8 +81,9 @@ void cLearned::LoadAll()
         const cEntryItemList entries = m_data.GetEntriesOfAccount(account);
         for (const cEntryItem& entry : entries) {
             if (m_entryIds.contains(entry.ID)) {
-                m_entries.insert(entry.ID, {entry.EntryCategory, entry.EntryInterval, entry.EntryType,
-                                            entry.EntryAccount, entry.EntryAccountMove, entry.EntryDateEnd});
+                m_entries.insert(entry.ID,
+                                 {entry.EntryCategory, entry.EntryInterval, entry.EntryType, entry.EntryAccount,
+                                  entry.EntryAccountMove, entry.EntryDateEnd});
             }
         }
     }
@@ -94,8 +94,9 @@ const cLearned::cEntry& cLearned::Entry(int id)
     auto found = m_entries.find(id);
     if (found == m_entries.end()) {
         const cEntryItem entry = m_data.LoadEntry(id).value_or(cEntryItem());
-        found = m_entries.insert(id, {entry.EntryCategory, entry.EntryInterval, entry.EntryType, entry.EntryAccount,
-                                      entry.EntryAccountMove, entry.EntryDateEnd});
+        found = m_entries.insert(id,
+                                 {entry.EntryCategory, entry.EntryInterval, entry.EntryType, entry.EntryAccount,
+                                  entry.EntryAccountMove, entry.EntryDateEnd});
     }
     return *found;
 }

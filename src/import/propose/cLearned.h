@@ -26,9 +26,9 @@ public:
         QString Type;    // kind of the entry
         QString Account; // of a transfer: the two accounts
         QString AccountMove;
-        QDate SeriesEnd;    // of a series: its last day
-        int Count = 0;      // the newest rows that were booked like this, one after the other
-        bool IsSure = false; // at least two, and the category did not go to and fro before
+        QDate SeriesEnd;        // of a series: its last day
+        int Count = 0;          // the newest rows that were booked like this, one after the other
+        bool IsSure = false;    // at least two, and the category did not go to and fro before
         bool HasOthers = false; // other rows of this payee were booked in another way
         QString Who;            // what was really learned: the payee, or the account of the counterparty
         bool IsAccount = false; // the latter

@@ -13,8 +13,8 @@ class cDataAccess;
 class cImportHiveCache;
 
 // Proposes entries for staged rows: by the user's own rules, from what the user did with earlier rows of the same
-// payee, from the keyword rules, from the list of payees, and finally a default. Cash goes to the purse. What it knows of the book is read once, when it is made:
-// make one per batch.
+// payee, from the keyword rules, from the list of payees, and finally a default. Cash goes to the purse. What it knows
+// of the book is read once, when it is made: make one per batch.
 class cProposer
 {
 public:

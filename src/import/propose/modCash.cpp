@@ -24,14 +24,18 @@ struct cSign
 };
 
 constexpr std::array drawn{
-    cSign{u"bargeldausz", true}, cSign{u"bargeldabh", true},   cSign{u"bargeldbezug", true}, cSign{u"bargeldbehebung", true},
-    cSign{u"bargeld", false},    cSign{u"barauszahlung", true}, cSign{u"barabhebung", true},  cSign{u"barbehebung", true},
-    cSign{u"barbezug", true},    cSign{u"geldautomat", true},  cSign{u"geldausgabeautomat", true}, cSign{u"gaa", false},
-    cSign{u"geldabhebung", true}, cSign{u"behebung", false},   cSign{u"atm", false},         cSign{u"withdrawal", false},
-    cSign{u"abhebung", false},   cSign{u"geldauszahlung", true}, cSign{u"bankomatbezug", true},
+    cSign{u"bargeldausz", true},     cSign{u"bargeldabh", true},         cSign{u"bargeldbezug", true},
+    cSign{u"bargeldbehebung", true}, cSign{u"bargeld", false},           cSign{u"barauszahlung", true},
+    cSign{u"barabhebung", true},     cSign{u"barbehebung", true},        cSign{u"barbezug", true},
+    cSign{u"geldautomat", true},     cSign{u"geldausgabeautomat", true}, cSign{u"gaa", false},
+    cSign{u"geldabhebung", true},    cSign{u"behebung", false},          cSign{u"atm", false},
+    cSign{u"withdrawal", false},     cSign{u"abhebung", false},          cSign{u"geldauszahlung", true},
+    cSign{u"bankomatbezug", true},
 };
 constexpr std::array paidIn{
-    cSign{u"bareinzahlung", true}, cSign{u"bargeldeinz", true}, cSign{u"einzahlungsautomat", true},
+    cSign{u"bareinzahlung", true},
+    cSign{u"bargeldeinz", true},
+    cSign{u"einzahlungsautomat", true},
     cSign{u"bareinz", false},
 };
 // What only looks like it.
@@ -45,6 +49,9 @@ bool HasOneOf(const QList<cWord>& words, const std::array<cSign, size>& signs)
 {
     return std::any_of(words.begin(), words.end(), [&](const cWord& word) {
         return std::any_of(signs.begin(), signs.end(), [&](const cSign& sign) {
+            if (word.Folded.front() != QChar(sign.Word[0])) {
+                return false;
+            }
             const QStringView wanted(sign.Word);
             return sign.IsOpen ? word.Folded.startsWith(wanted) : word.Folded == wanted;
         });
@@ -74,8 +81,8 @@ bool IsCashText(const QString& text, qint64 cents)
 bool IsCashName(const QString& name)
 {
     static const std::array whole{u"bar"_s, u"kasse"_s, u"cash"_s, u"wallet"_s, u"boerse"_s};
-    static const std::array parts{u"bargeld"_s,       u"geldboerse"_s, u"portemonnaie"_s, u"portmonee"_s,
-                                  u"geldbeutel"_s,    u"brieftasche"_s, u"barkasse"_s,    u"handkasse"_s,
+    static const std::array parts{u"bargeld"_s,        u"geldboerse"_s,  u"portemonnaie"_s, u"portmonee"_s,
+                                  u"geldbeutel"_s,     u"brieftasche"_s, u"barkasse"_s,     u"handkasse"_s,
                                   u"haushaltskasse"_s, u"sparschwein"_s, u"spardose"_s};
     const QList<cWord> words = modTextWords::Of(name);
     return std::any_of(words.begin(), words.end(), [](const cWord& word) {

@@ -27,27 +27,47 @@ struct cFound
     eWeight Weight = eWeight::Purpose;
 };
 
+bool HasBreaks(const cImportEntry& row)
+{
+    return row.ImportPurpose.contains(u'\n') || row.ImportBeneficiary.contains(u'\n');
+}
+
+QString Spaced(const cImportEntry& row)
+{
+    cImportEntry flat = row;
+    flat.ImportPurpose.replace(u'\n', u' ');
+    flat.ImportBeneficiary.replace(u'\n', u' ');
+    return modKeywordRules::MatchText(flat);
+}
+
 // A row with all that the list finds in it.
 struct cView
 {
     explicit cView(const cImportEntry& row)
         : Cents(row.ImportValue),
           NameSize(row.ImportBeneficiary.size()),
-          Text(QString(row.ImportBeneficiary + u'|' + row.ImportPurpose + u'|' + row.ImportType)
-                   .toLower()
-                   .remove(u'\r')
-                   .replace(u'\n', u' ')),
+          Literal(modKeywordRules::MatchText(row)),
+          Text(HasBreaks(row) ? Spaced(row) : Literal),
           Words(modTextWords::Of(Text)),
           Hits(modPayeeList::Find(Words, Cents))
     {
-        const QList<cHit> payee = Hits.isEmpty()
-            ? QList<cHit>()
-            : modPayeeList::Find(modTextWords::Of(modPayee::Of(row).Text), Cents);
-        for (const cHit& hit : payee) {
-            All.append({hit, hit.IsPurpose ? eWeight::Word : eWeight::Payee});
-        }
+        const bool isNamed = NameSize > 0 && !modPayee::IsCollector(Words) && !row.ImportBeneficiary.contains(u'*');
         for (const cHit& hit : Hits) {
-            All.append({hit, hit.IsPurpose ? eWeight::Word : eWeight::Purpose});
+            const auto [at, size] = RangeOf(hit);
+            const bool isPayee = isNamed && at + size <= NameSize;
+            All.append({hit, hit.IsPurpose ? eWeight::Word : isPayee ? eWeight::Payee : eWeight::Purpose});
+        }
+        if (!isNamed && !Hits.isEmpty()) {
+            AddShop(modPayee::Of(row).Text);
+        }
+    }
+
+    // Who is paid stands in the purpose.
+    void AddShop(const QString& shop)
+    {
+        const QList<cHit> hits = modPayeeList::Find(modTextWords::Of(shop), Cents);
+        for (const cHit& hit : hits) {
+            All.append({hit, hit.IsPurpose ? eWeight::Word : eWeight::Payee});
         }
     }
 
@@ -61,7 +81,8 @@ struct cView
 
     qint64 Cents = 0;
     qsizetype NameSize = 0;
-    QString Text; // as the keyword rules see it, but with blanks for line breaks
+    QString Literal; // as the keyword rules see it: without line breaks, which may cut a keyword
+    QString Text;    // with blanks for them, so that two words stay two
     QList<cWord> Words;
     QList<cHit> Hits; // in the whole text, `From` counts in Words
     QList<cFound> All;
@@ -75,7 +96,8 @@ bool IsOther(const QString& category, const QString& other)
 const cFound* BestOf(const QList<cFound>& all)
 {
     const auto best = std::max_element(all.begin(), all.end(), [](const cFound& a, const cFound& b) {
-        return std::tuple(a.Weight, a.Hit.Word.size(), a.Hit.IsSure) < std::tuple(b.Weight, b.Hit.Word.size(), b.Hit.IsSure);
+        return std::tuple(a.Weight, a.Hit.Word.size(), a.Hit.IsSure)
+            < std::tuple(b.Weight, b.Hit.Word.size(), b.Hit.IsSure);
     });
     return best == all.end() ? nullptr : &*best;
 }
@@ -120,25 +142,22 @@ bool HasBlanked(const cView& view, const QString& keyword, QString& text)
 
 struct cKeywords
 {
-    QList<cMatch> All;
-    cMatch Last;
+    void Find(qint64 cents)
+    {
+        All = modKeywordRules::Hits(Text, cents);
+        Last = modKeywordRules::Last(All, eRestriction::Restricted);
+    }
+
     QString Text;
+    QList<modKeywordRules::cHit> All;
+    cMatch Last; // of the sure ones
 };
 
-// What the sure rules say of the text without the names that merely hold a keyword.
-cKeywords KeywordsIn(const cView& view, const cImportEntry& row)
+// What the rules say of the text without the names that merely hold a keyword.
+cKeywords WithoutNames(const cView& view, cKeywords found)
 {
-    cKeywords found;
-    found.Text = view.Text;
-    do {
-        found.All = modKeywordRules::Hits(found.Text, view.Cents, eRestriction::Restricted);
-        found.Last = modKeywordRules::Last(found.All);
-    } while (!found.Last.Category.isEmpty() && HasBlanked(view, found.Last.Keyword, found.Text));
-    if (found.Last.Category.isEmpty() && row.ImportPurpose.contains(u'\n')) {
-        // The line break may have cut the keyword.
-        found.Text = modKeywordRules::MatchText(row);
-        found.All = modKeywordRules::Hits(found.Text, view.Cents, eRestriction::Restricted);
-        found.Last = modKeywordRules::Last(found.All);
+    while (!found.Last.Category.isEmpty() && HasBlanked(view, found.Last.Keyword, found.Text)) {
+        found.Find(view.Cents);
     }
     return found;
 }
@@ -152,9 +171,10 @@ QStringView NameIn(const cKeywords& keywords, const cView& view)
 bool HasRival(const cKeywords& keywords, const cView& view)
 {
     const bool isName = modKeywordTrust::IsSound(keywords.Last.Keyword, NameIn(keywords, view));
-    const bool hasRule = std::any_of(keywords.All.begin(), keywords.All.end(), [&](const cMatch& other) {
-        return !other.Category.isEmpty() && IsOther(other.Category, keywords.Last.Category) && !isName
-            && modKeywordTrust::IsSound(other.Keyword, keywords.Text);
+    const bool hasRule = std::any_of(keywords.All.begin(), keywords.All.end(), [&](const modKeywordRules::cHit& other) {
+        const cMatch& match = other.Match;
+        return !other.IsUncertain && !match.Category.isEmpty() && IsOther(match.Category, keywords.Last.Category)
+            && !isName && modKeywordTrust::IsSound(match.Keyword, keywords.Text);
     });
     return hasRule || std::any_of(view.All.begin(), view.All.end(), [&](const cFound& other) {
                return other.Hit.IsSure && other.Weight != eWeight::Purpose
@@ -192,7 +212,17 @@ cHint modHint::ByRule(const cImportEntry& row, eRestriction restriction)
 cHint modHint::Best(const cImportEntry& row)
 {
     const cView view(row);
-    const cKeywords keywords = KeywordsIn(view, row);
+    cKeywords literal{view.Literal, {}, {}};
+    literal.Find(view.Cents);
+    cKeywords keywords = literal;
+    if (literal.Text != view.Text) {
+        keywords.Text = view.Text;
+        keywords.Find(view.Cents);
+    }
+    keywords = WithoutNames(view, keywords);
+    if (keywords.Last.Category.isEmpty() && literal.Text != view.Text) {
+        keywords = literal;
+    }
     if (!keywords.Last.Category.isEmpty() && modKeywordTrust::IsSound(keywords.Last.Keyword, keywords.Text)) {
         cHint hint = FromRule(keywords.Last, view.Cents);
         hint.IsSure = modKeywordTrust::FitsSign(hint.Category, view.Cents)
@@ -201,15 +231,13 @@ cHint modHint::Best(const cImportEntry& row)
         return hint;
     }
     const cFound* const best = BestOf(view.All);
-    if (best != nullptr && best->Weight != eWeight::Purpose) {
+    const bool isKnown = best != nullptr && best->Weight != eWeight::Purpose;
+    if (isKnown || (best != nullptr && keywords.Last.Category.isEmpty())) {
         return FromList(view.All, *best);
     }
     if (!keywords.Last.Category.isEmpty()) {
         return FromRule(keywords.Last, view.Cents);
     }
-    if (best != nullptr) {
-        return FromList(view.All, *best);
-    }
-    const cMatch any = modKeywordRules::Match(modKeywordRules::MatchText(row), row.ImportValue, eRestriction::None);
+    const cMatch any = modKeywordRules::Last(literal.All, eRestriction::None);
     return any.Category.isEmpty() ? cHint{{}, any.Interval, {}, false} : FromRule(any, view.Cents);
 }

@@ -6,8 +6,8 @@
 
 struct cImportEntry;
 
-// What the program knows by itself about a transaction: the keyword rules, then the list of payees. What the user did or
-// said is no part of it.
+// What the program knows by itself about a transaction: the keyword rules, then the list of payees. What the user did
+// or said is no part of it.
 struct cHint
 {
     QString Category; // empty when nothing is known

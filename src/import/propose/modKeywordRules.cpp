@@ -103,7 +103,6 @@ bool HasSign(qint64 cents, eSign sign)
     return true;
 }
 
-// What the rule sets; it may be no more than an interval.
 modKeywordRules::cMatch Outcome(const cRule& rule, const QString& keyword, qint64 cents)
 {
     modKeywordRules::cMatch match;
@@ -124,30 +123,32 @@ QString modKeywordRules::MatchText(const cImportEntry& row)
     return joined.toLower().remove(u'\n').remove(u'\r');
 }
 
-QList<modKeywordRules::cMatch> modKeywordRules::Hits(const QString& matchText, qint64 cents, eRestriction restriction)
+QList<modKeywordRules::cHit> modKeywordRules::Hits(const QString& matchText, qint64 cents)
 {
     const auto& rules = modKeywordTable::Rules();
     const std::vector<int> found = Lookup().Find(matchText);
-    QList<cMatch> hits;
+    QList<cHit> hits;
     for (size_t i = 0; i < rules.size(); ++i) {
         const cRule& rule = rules[i];
-        const bool isLeftOut = restriction == eRestriction::Restricted && rule.IsUncertain;
         const bool hasSecond = rule.AlsoRequired == nullptr || matchText.contains(QString::fromUtf8(rule.AlsoRequired));
-        if (found[i] >= 0 && hasSecond && !isLeftOut && HasSign(cents, rule.Only)) {
-            hits.append(Outcome(rule, Lookup().Alternative(i, found[i]), cents));
+        if (found[i] >= 0 && hasSecond && HasSign(cents, rule.Only)) {
+            hits.append({Outcome(rule, Lookup().Alternative(i, found[i]), cents), rule.IsUncertain});
         }
     }
     return hits;
 }
 
-modKeywordRules::cMatch modKeywordRules::Last(const QList<cMatch>& hits)
+modKeywordRules::cMatch modKeywordRules::Last(const QList<cHit>& hits, eRestriction restriction)
 {
     cMatch last;
-    for (const cMatch& hit : hits) {
-        last.Interval = hit.Interval;
-        if (!hit.Category.isEmpty()) {
-            last.Category = hit.Category;
-            last.Keyword = hit.Keyword;
+    for (const cHit& hit : hits) {
+        if (restriction == eRestriction::Restricted && hit.IsUncertain) {
+            continue;
+        }
+        last.Interval = hit.Match.Interval;
+        if (!hit.Match.Category.isEmpty()) {
+            last.Category = hit.Match.Category;
+            last.Keyword = hit.Match.Keyword;
         }
     }
     return last;
@@ -155,5 +156,5 @@ modKeywordRules::cMatch modKeywordRules::Last(const QList<cMatch>& hits)
 
 modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, qint64 cents, eRestriction restriction)
 {
-    return Last(Hits(matchText, cents, restriction));
+    return Last(Hits(matchText, cents), restriction);
 }

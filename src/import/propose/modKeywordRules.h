@@ -23,11 +23,18 @@ struct cMatch
 // Lower-cased counterparty, purpose and booking text, joined by "|", without line breaks.
 [[nodiscard]] QString MatchText(const cImportEntry& row);
 
-// What each rule that matches sets, in the order of the rules.
-[[nodiscard]] QList<cMatch> Hits(const QString& matchText, qint64 cents, eRestriction restriction);
+// A rule that matches, and what it sets: it may be no more than an interval.
+struct cHit
+{
+    cMatch Match;
+    bool IsUncertain = false; // left out by callers that want sure proposals only
+};
+
+// All rules that match, in their order.
+[[nodiscard]] QList<cHit> Hits(const QString& matchText, qint64 cents);
 
 // What remains when each of them overwrites what earlier ones set.
-[[nodiscard]] cMatch Last(const QList<cMatch>& hits);
+[[nodiscard]] cMatch Last(const QList<cHit>& hits, eRestriction restriction);
 
 // Applies all rules in their order; the last one that matches wins. `value` is the signed amount.
 [[nodiscard]] cMatch Match(const QString& matchText, qint64 cents, eRestriction restriction);

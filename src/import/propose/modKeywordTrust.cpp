@@ -24,12 +24,15 @@ QSet<QString> SetOf(const QString& words)
 // Keywords that mean the same when a longer word begins with them.
 bool CanOpen(const QString& keyword)
 {
-    static const QSet<QString> openings = SetOf(
-        u"vodafon|telekom|telecom|stadtwerke|naturenergie|rundfunkbeitrag|getränke|getraenke|elterngeld|kindergeld|zinsen|"
-        u"fitness|mcfit|bußgeld|bussgeld|verkehrsueberwach|kfz-steuer|haftpflicht|rossmann|hundesteuer|fahrrad|stellplatz|"
-        u"deichmann|mcdonalds|cinemaxx|cineplex|cinestar|steuererstatt|steuererst|rückerstattung|rueckerstattung|"
-        u"taschengeld|strom|familienkasse|kaufland|marktkauf|ikea|bausparkasse|lotto|docmorris|baumarkt|drogeriemarkt|gehalt|"
-        u"rechtsschutzversicherung|risikoversicherung|haushaltversicherung|tankstelle|auktion|strato|alltours"_s);
+    static const QSet<QString> openings =
+        SetOf(u"vodafon|telekom|telecom|stadtwerke|naturenergie|rundfunkbeitrag|getränke|getraenke|elterngeld|"
+              u"kindergeld|zinsen|"
+              u"fitness|mcfit|bußgeld|bussgeld|verkehrsueberwach|kfz-steuer|haftpflicht|rossmann|hundesteuer|fahrrad|"
+              u"stellplatz|"
+              u"deichmann|mcdonalds|cinemaxx|cineplex|cinestar|steuererstatt|steuererst|rückerstattung|rueckerstattung|"
+              u"taschengeld|strom|familienkasse|kaufland|marktkauf|ikea|bausparkasse|lotto|docmorris|baumarkt|"
+              u"drogeriemarkt|gehalt|"
+              u"rechtsschutzversicherung|risikoversicherung|haushaltversicherung|tankstelle|auktion|strato|alltours"_s);
     return openings.contains(keyword);
 }
 
@@ -83,16 +86,19 @@ bool modKeywordTrust::IsDoubtful(const QString& keyword, QStringView text, QStri
 
 bool modKeywordTrust::FitsSign(const QString& category, qint64 cents)
 {
-    static const std::array income{u"Einkommen"_s, u"Rückerstattung"_s, u"Staat; Elterngeld"_s,
-                                   u"Staat; Steuererstattung"_s, u"Geldanlage; Zinseinkünfte"_s,
-                                   u"Sonstiges; Geldgeschenke"_s, u"Allgemein; Bareinzahlung"_s,
+    static const std::array income{u"Einkommen"_s,
+                                   u"Rückerstattung"_s,
+                                   u"Staat; Elterngeld"_s,
+                                   u"Staat; Steuererstattung"_s,
+                                   u"Geldanlage; Zinseinkünfte"_s,
+                                   u"Sonstiges; Geldgeschenke"_s,
+                                   u"Allgemein; Bareinzahlung"_s,
                                    u"Allgemein; Startguthaben"_s};
     static const QString both = u"Auktionen"_s;
     if (modTemplate::IsWithin(category, both)) {
         return cents != 0;
     }
-    const bool isIncome = std::any_of(income.begin(), income.end(), [&](const QString& known) {
-        return modTemplate::IsWithin(category, known);
-    });
+    const bool isIncome = std::any_of(income.begin(), income.end(),
+                                      [&](const QString& known) { return modTemplate::IsWithin(category, known); });
     return isIncome ? cents > 0 : cents < 0;
 }

@@ -7,6 +7,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <bitset>
+#include <cstddef>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -66,7 +68,7 @@ cPhrase PhraseOf(QString text)
     phrase.Shown = text.remove(u'*');
     const QList<cWord> words = modTextWords::Of(text);
     for (const cWord& word : words) {
-        phrase.Words.append(word.Folded);
+        phrase.Words.append(QString(word.Folded.constData(), word.Folded.size())); // outlives the text
     }
     return phrase;
 }
@@ -94,10 +96,16 @@ public:
         QList<cHit> hits;
         for (qsizetype at = 0; at < words.size(); ++at) {
             const QStringView word = words.at(at).Folded;
-            Note(m_whole.value(word), words, at, cents, hits);
-            if (word.size() >= keyLength) {
-                Note(m_starts.value(word.first(keyLength)), words, at, cents, hits);
-                Note(m_ends.value(word.last(keyLength)), words, at, cents, hits);
+            if (word.size() < keyLength) {
+                Note(m_whole, word, words, at, cents, hits);
+                continue;
+            }
+            if (m_heads.test(PlaceOf(word.first(keyLength)))) {
+                Note(m_whole, word, words, at, cents, hits);
+                Note(m_starts, word.first(keyLength), words, at, cents, hits);
+            }
+            if (m_tails.test(PlaceOf(word.last(keyLength)))) {
+                Note(m_ends, word.last(keyLength), words, at, cents, hits);
             }
         }
         return hits;
@@ -120,6 +128,14 @@ private:
         }
     }
 
+    // Three letters as a number, so that most words of a text are ruled out without looking for them.
+    static std::size_t PlaceOf(QStringView letters)
+    {
+        constexpr unsigned mask = 31;
+        return ((letters[0].unicode() & mask) << 10U) | ((letters[1].unicode() & mask) << 5U)
+            | (letters[2].unicode() & mask);
+    }
+
     // By the word that it begins with. The views stand on texts that the lookup keeps.
     void Enter(const cPhrase& phrase)
     {
@@ -127,6 +143,10 @@ private:
         m_phrases.append(phrase);
         const QString& first = phrase.Words.constFirst();
         const bool isStart = phrase.IsOpenEnd && phrase.Words.size() == 1;
+        if (first.size() >= keyLength) {
+            m_heads.set(PlaceOf(QStringView(first).first(keyLength)));
+            m_tails.set(PlaceOf(QStringView(first).last(keyLength)));
+        }
         if (phrase.IsOpenStart) {
             m_ends[Kept(first.last(qMin(keyLength, first.size())))].append(place);
         } else if (isStart) {
@@ -142,10 +162,16 @@ private:
         return m_texts.constLast();
     }
 
-    void Note(const QList<qsizetype>& places, const QList<cWord>& words, qsizetype at, qint64 cents,
+    using cLookup = QHash<QStringView, QList<qsizetype>>;
+
+    void Note(const cLookup& lookup, QStringView key, const QList<cWord>& words, qsizetype at, qint64 cents,
               QList<cHit>& hits) const
     {
-        for (const qsizetype place : places) {
+        const auto places = lookup.constFind(key);
+        if (places == lookup.constEnd()) {
+            return;
+        }
+        for (const qsizetype place : *places) {
             const cPhrase& phrase = m_phrases.at(place);
             if (cents != 0 && phrase.IsIncome == (cents > 0) && phrase.IsAt(words, at)) {
                 hits.append({phrase.Category, phrase.Interval, phrase.Shown, at, phrase.Words.size(), phrase.IsSure,
@@ -155,10 +181,12 @@ private:
     }
 
     QList<cPhrase> m_phrases;
-    QStringList m_texts; // a view stays good when the list grows: the texts themselves do not move
-    QHash<QStringView, QList<qsizetype>> m_whole;
-    QHash<QStringView, QList<qsizetype>> m_starts;
-    QHash<QStringView, QList<qsizetype>> m_ends;
+    QStringList m_texts;        // a view stays good when the list grows: the texts themselves do not move
+    std::bitset<32768> m_heads; // of whole words and of those with an open end
+    std::bitset<32768> m_tails;
+    cLookup m_whole;
+    cLookup m_starts;
+    cLookup m_ends;
 };
 
 const cBook& Book()

@@ -28,10 +28,13 @@ QSet<QString> SetOf(const QString& words)
 bool IsFiller(const QString& word)
 {
     static const QSet<QString> fillers = SetOf(
-        u"gmbh mbh ag kg ohg co se ug kgaa gbr ev eg ek inc ltd limited llc sarl scs sca bv nv ab plc publ cie ggmbh und "
-        u"u sagt danke dankt vielen dank markt filiale fil nr zw nl niederlassung deutschland germany europe de deu at aut "
+        u"gmbh mbh ag kg ohg co se ug kgaa gbr ev eg ek inc ltd limited llc sarl scs sca bv nv ab plc publ cie ggmbh "
+        u"und "
+        u"u sagt danke dankt vielen dank markt filiale fil nr zw nl niederlassung deutschland germany europe de deu at "
+        u"aut "
         u"ch che com www net eu visa mastercard maestro girocard debitkarte debitk debit kreditkarte kartenzahlung "
-        u"kartennummer karte ec pos elv lastschrift terminal beleg uhr herr frau firma kauf einkauf zahlung eur euro chf "
+        u"kartennummer karte ec pos elv lastschrift terminal beleg uhr herr frau firma kauf einkauf zahlung eur euro "
+        u"chf "
         u"kaufumsatz kfn vj debitkartenumsatz vom"_s);
     return fillers.contains(word);
 }
@@ -42,8 +45,10 @@ bool IsPurposeFiller(const QString& word)
     static const QSet<QString> fillers = SetOf(
         u"rechnung rechnungsnummer rg re bestellung bestellnummer order auftrag kundennummer kundennr kdnr kd kunde "
         u"kundenkonto vertrag vertragskonto vk ihr ihre bei an von fuer zu zum zur the for at by payment purchase your "
-        u"ref referenz mandat mandatsreferenz mref eref svwz kref cred glaeubiger id abbuchung ueberweisung dauerauftrag "
-        u"basislastschrift folgelastschrift gutschrift beitrag abschlag rate pp sepa januar februar maerz april mai juni "
+        u"ref referenz mandat mandatsreferenz mref eref svwz kref cred glaeubiger id abbuchung ueberweisung "
+        u"dauerauftrag "
+        u"basislastschrift folgelastschrift gutschrift beitrag abschlag rate pp sepa januar februar maerz april mai "
+        u"juni "
         u"juli august september oktober november dezember jan feb mrz apr jun jul aug sep okt nov dez"_s);
     return fillers.contains(word);
 }
@@ -53,53 +58,38 @@ bool IsPlace(const QString& word)
 {
     static const QSet<QString> places = SetOf(
         u"berlin hamburg muenchen munchen koeln koln frankfurt stuttgart duesseldorf dusseldorf leipzig dortmund essen "
-        u"bremen dresden hannover nuernberg nurnberg duisburg bochum wuppertal bielefeld bonn muenster mannheim karlsruhe "
+        u"bremen dresden hannover nuernberg nurnberg duisburg bochum wuppertal bielefeld bonn muenster mannheim "
+        u"karlsruhe "
         u"augsburg wiesbaden gelsenkirchen moenchengladbach braunschweig kiel chemnitz aachen halle magdeburg freiburg "
         u"krefeld mainz luebeck erfurt oberhausen rostock kassel hagen saarbruecken potsdam hamm ludwigshafen muelheim "
         u"oldenburg osnabrueck leverkusen heidelberg solingen darmstadt herne regensburg neuss paderborn ingolstadt "
-        u"offenbach fuerth ulm wuerzburg heilbronn pforzheim wolfsburg goettingen bottrop reutlingen koblenz bremerhaven "
-        u"recklinghausen erlangen remscheid jena trier salzgitter siegen hildesheim cottbus gera schwerin kempten passau "
-        u"landshut konstanz tuebingen giessen marburg fulda celle lueneburg flensburg stralsund wien graz linz salzburg "
+        u"offenbach fuerth ulm wuerzburg heilbronn pforzheim wolfsburg goettingen bottrop reutlingen koblenz "
+        u"bremerhaven "
+        u"recklinghausen erlangen remscheid jena trier salzgitter siegen hildesheim cottbus gera schwerin kempten "
+        u"passau "
+        u"landshut konstanz tuebingen giessen marburg fulda celle lueneburg flensburg stralsund wien graz linz "
+        u"salzburg "
         u"innsbruck klagenfurt villach wels bregenz dornbirn zuerich zurich genf basel bern lausanne winterthur luzern "
         u"oerlikon nord sued ost west mitte zentrum city"_s);
     return places.contains(word);
 }
 
-// Words that begin the name of somebody who collects for others.
-struct cCollector
-{
-    const char16_t* First;
-    const char16_t* Second; // the next word; empty when the first one is enough
-};
-constexpr std::array collectors{
-    cCollector{u"paypal", u""},        cCollector{u"klarna", u""},        cCollector{u"stripe", u""},
-    cCollector{u"sumup", u""},         cCollector{u"adyen", u""},         cCollector{u"mollie", u""},
-    cCollector{u"payone", u""},        cCollector{u"unzer", u""},         cCollector{u"ratepay", u""},
-    cCollector{u"telecash", u""},      cCollector{u"concardis", u""},     cCollector{u"nexi", u""},
-    cCollector{u"nets", u""},          cCollector{u"computop", u""},      cCollector{u"worldline", u""},
-    cCollector{u"worldpay", u""},      cCollector{u"izettle", u""},       cCollector{u"zettle", u""},
-    cCollector{u"girosolution", u""},  cCollector{u"secupay", u""},       cCollector{u"logpay", u""},
-    cCollector{u"riverty", u""},       cCollector{u"afterpay", u""},      cCollector{u"sofort", u""},
-    cCollector{u"gocardless", u""},    cCollector{u"first", u"data"},     cCollector{u"evo", u"payments"},
-    cCollector{u"vr", u"payment"},     cCollector{u"six", u"payment"},    cCollector{u"bs", u"payone"},
-    cCollector{u"hobex", u""},         cCollector{u"heidelpay", u""},     cCollector{u"billpay", u""},
-    cCollector{u"twint", u""},         cCollector{u"helaba", u""},        cCollector{u"landesbank", u"hessen"},
-    cCollector{u"micropayment", u""},  cCollector{u"braintree", u""},     cCollector{u"checkout", u"com"},
-    cCollector{u"payu", u""},          cCollector{u"apple", u"pay"},      cCollector{u"google", u"pay"},
-    cCollector{u"google", u"payment"}, cCollector{u"card", u"complete"},  cCollector{u"digital", u"river"},
-    cCollector{u"paddle", u""},        cCollector{u"hipay", u""},         cCollector{u"ppro", u""},
-    cCollector{u"sq", u""},            cCollector{u"amazon", u""},     cCollector{u"amz", u""},
-    cCollector{u"pp", u""},           cCollector{u"google", u""},
-};
-
+// Words that begin the name of somebody who collects for others, alone or with the next one.
 bool IsCollectorName(const QList<cWord>& words)
 {
-    return std::any_of(collectors.begin(), collectors.end(), [&](const cCollector& known) {
-        const qsizetype first = !words.isEmpty() && words.front().Folded == u"visa"_s ? 1 : 0;
-        return words.size() > first && words.at(first).Folded == QStringView(known.First)
-            && (QStringView(known.Second).isEmpty()
-                || (words.size() > first + 1 && words.at(first + 1).Folded == QStringView(known.Second)));
-    });
+    static const QSet<QString> alone = SetOf(
+        u"paypal klarna stripe sumup adyen mollie payone unzer ratepay telecash concardis nexi nets computop"
+        u" worldline worldpay izettle zettle girosolution secupay logpay riverty afterpay sofort gocardless hobex"
+        u" heidelpay billpay twint helaba micropayment braintree payu paddle hipay ppro sq amazon amz pp google"_s);
+    static const QSet<QString> firsts = SetOf(u"apple bs card checkout digital evo first landesbank six vr"_s);
+    static const QSet<QString> seconds = SetOf(u"com complete data hessen pay payment payments payone river"_s);
+    const qsizetype first = !words.isEmpty() && words.front().Folded == u"visa"_s ? 1 : 0;
+    if (words.size() <= first) {
+        return false;
+    }
+    const QString& word = words.at(first).Folded;
+    return alone.contains(word)
+        || (firsts.contains(word) && words.size() > first + 1 && seconds.contains(words.at(first + 1).Folded));
 }
 
 // Who sells things of his own beside those of others.
@@ -202,6 +192,11 @@ QString Flat(const QString& text)
 }
 
 } // namespace
+
+bool modPayee::IsCollector(const QList<modTextWords::cWord>& words)
+{
+    return IsCollectorName(words);
+}
 
 bool modPayee::IsCollector(const QString& name)
 {

@@ -11,8 +11,16 @@ bool IsAscii(QStringView text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
+bool IsFolded(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80 && (c < u'A' || c > u'Z'); });
+}
+
 QString Folded(QStringView word)
 {
+    if (IsFolded(word)) {
+        return QString::fromRawData(word.data(), word.size());
+    }
     return IsAscii(word) ? word.toString().toLower() : modFold::Fold(word.toString()).Spelled;
 }
 

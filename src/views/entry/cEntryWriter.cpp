@@ -90,8 +90,8 @@ bool cEntryWriter::WriteRow(cEntryWrite& row)
 bool cEntryWriter::Change(const cEntryItem& entry)
 {
     const std::optional<cEntryItem> stored = m_data.LoadEntry(entry.ID);
-    const bool isCorrected = stored
-        && (stored->EntryCategory != entry.EntryCategory || stored->EntryType != entry.EntryType);
+    const bool isCorrected =
+        stored && (stored->EntryCategory != entry.EntryCategory || stored->EntryType != entry.EntryType);
     return m_data.ChangeEntry(entry) && (!isCorrected || modCorrected::Note(m_data, entry.ID));
 }
 

@@ -83,8 +83,8 @@ bool cLesson::Teach(const cImportEntry& row, const QString& category)
     cOwnRules stored(m_tools.Settings);
     QList<cOwnRule> rules = stored.Load();
     const cAccountMap accounts(m_tools.Data, m_tools.Settings);
-    const auto same = std::find_if(rules.begin(), rules.end(),
-                                   [&](const cOwnRule& other) { return HasSameConditions(other, rule); });
+    const auto same =
+        std::find_if(rules.begin(), rules.end(), [&](const cOwnRule& other) { return HasSameConditions(other, rule); });
     if (same != rules.end()) {
         rules.erase(same);
     }
