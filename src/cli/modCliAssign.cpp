@@ -4,6 +4,7 @@
 #include "cli/cCliReader.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "cli/modCliFlow.h"
 #include "views/statement/cMatchFlow.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -37,7 +38,7 @@ int Report(const cMatchFlow::cOutcome& outcome)
 int Assign(const cCliContext& context, int rowId, const cMatchCandidate& found)
 {
     const bool isCorrecting = context.Call.Has(u"correct"_s);
-    context.User.Prepare({.Answer = isCorrecting ? eAnswer::Yes : eAnswer::No});
+    context.User.Prepare(modCliFlow::CorrectionAnswers(context));
     cCliBook& book = *context.Book;
     const int code = Report(book.Statements.Matching().Assign(rowId, found));
     if (code == modExit::Done && found.Correction && !isCorrecting) {

@@ -170,7 +170,7 @@ int RunBook(const cCliContext& context)
         return modExit::Done;
     }
     if (context.Call.Has(u"safe"_s)) {
-        context.User.Prepare({.Answer = eAnswer::Yes});
+        context.User.Prepare(modCliFlow::SafeAnswers());
         return modCliFlow::ReportBooked(context, book.Statements.Accept(*chosen));
     }
     context.User.Prepare(Answers(context));

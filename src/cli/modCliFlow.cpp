@@ -37,6 +37,24 @@ void modCliFlow::SayWritten(const QString& path)
     modConsole::Out(cText::Tr("'{0}' geschrieben.", {path}) + u'\n');
 }
 
+cConsoleUser::cAnswers modCliFlow::CorrectionAnswers(const cCliContext& context)
+{
+    enum eAmounts { OnlyThisTime, FromHere, KeepThem }; // in the order in which they are offered
+    cConsoleUser::cAnswers answers;
+    const bool isCorrecting = context.Call.Has(u"correct"_s);
+    answers.Answer = isCorrecting ? eAnswer::Yes : eAnswer::No;
+    answers.Decision = isCorrecting ? OnlyThisTime : KeepThem;
+    return answers;
+}
+
+cConsoleUser::cAnswers modCliFlow::SafeAnswers()
+{
+    cConsoleUser::cAnswers answers;
+    answers.Answer = eAnswer::Yes;
+    answers.Decision = 0; // amounts that differ are corrected this time only
+    return answers;
+}
+
 int modCliFlow::ReportBooked(const cCliContext& context, const cStatementDesk::cBooked& booked)
 {
     QStringList lines = booked.Lines;

@@ -21,6 +21,11 @@ namespace modCliFlow {
 // Says that a file was written.
 void SayWritten(const QString& path);
 
+// With --correct entries take over the amount of their row, this time only; without it they keep theirs.
+[[nodiscard]] cConsoleUser::cAnswers CorrectionAnswers(const cCliContext& context);
+// The same for what is booked because it is safe.
+[[nodiscard]] cConsoleUser::cAnswers SafeAnswers();
+
 // Says what came of booking and what stays open; beside --json on the error output. The exit code.
 [[nodiscard]] int ReportBooked(const cCliContext& context, const cStatementDesk::cBooked& booked);
 

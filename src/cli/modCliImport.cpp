@@ -103,7 +103,7 @@ int BookNew(const cCliContext& context, const QList<int>& before)
     if (rows.isEmpty()) {
         return modExit::Done;
     }
-    context.User.Prepare({.Answer = eAnswer::Yes});
+    context.User.Prepare(modCliFlow::SafeAnswers());
     return modCliFlow::ReportBooked(context, desk.Accept(rows));
 }
 

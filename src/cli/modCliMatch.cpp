@@ -6,6 +6,7 @@
 #include "cli/cCliTable.h"
 #include "cli/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "cli/modCliFlow.h"
 #include "cli/modCliRecord.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/modImportText.h"
@@ -142,7 +143,7 @@ int RunMatch(const cCliContext& context)
     if (context.Call.Has(u"dry-run"_s)) {
         return Report(context, desk.TryMatching(ids));
     }
-    context.User.Prepare({.Answer = context.Call.Has(u"correct"_s) ? eAnswer::Yes : eAnswer::No});
+    context.User.Prepare(modCliFlow::CorrectionAnswers(context));
     cNoProgress progress;
     const cMatchFlow::cOutcome outcome = desk.Matching().Match(ids, progress);
     if (!outcome.IsDone) {

@@ -31,7 +31,7 @@ using cOccurrence = std::pair<int, QDate>; // an entry, and of a series the day 
 
 cOccurrence OccurrenceOf(const cMatchCandidate& candidate)
 {
-    return {candidate.Entry.ID, candidate.Entry.EntryDate};
+    return {candidate.Entry.ID, candidate.Entry.Planned()};
 }
 
 bool IsTransfer(const cEntryItem& entry)
@@ -164,7 +164,7 @@ QHash<int, cRowPlan> cImportPlan::Make(const QList<int>& rowIds, cProgress& prog
     for (const int id : ids) {
         const cImportEntry& row = m_knowledge->Open.at(m_knowledge->Places.value(id));
         cRowPlan& plan = pass.Plans[id];
-        TakeSeries(row, plan, pass);
+        TakeSeries(row, plan, pass, matcher);
         TakeTransfer(row, plan, pass);
     }
     for (const int id : ids) {
@@ -200,14 +200,16 @@ void cImportPlan::TakeMatches(const cMatchResult& matches, cPass& pass)
 
 // The series that rows of this counterparty were booked to before. A second payment for the same occurrence is
 // something else, and a second series beside the first one is hardly ever meant.
-void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass)
+void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass, cMatcher& matcher)
 {
     if (plan.Match || plan.Proposal.ExistingEntry == 0 || IsTransfer(plan.Proposal.Entry)) {
         return;
     }
-    cMatcher matcher(m_knowledge->Parts.Data, m_knowledge->Parts.Hive, m_knowledge->Parts.Accounts);
     std::optional<cMatchCandidate> candidate = matcher.ByHand(row.ID, plan.Proposal.ExistingEntry);
-    if (candidate && !pass.Taken.contains(OccurrenceOf(*candidate))) {
+    if (!candidate) {
+        return; // a series that had ended and goes on with this row
+    }
+    if (!pass.Taken.contains(OccurrenceOf(*candidate))) {
         pass.Taken.insert(OccurrenceOf(*candidate));
         candidate->Reason = plan.Proposal.Reason;
         candidate->Score = 1.0;

@@ -12,6 +12,7 @@
 class cAccountMap;
 class cDataAccess;
 class cImportHiveCache;
+class cMatcher;
 class cProgress;
 struct cMatchResult;
 
@@ -53,7 +54,7 @@ private:
     [[nodiscard]] QList<int> WithNeighbours(const QList<int>& rowIds);
     [[nodiscard]] const cProposal& ProposalFor(const cImportEntry& row);
     void TakeMatches(const cMatchResult& matches, cPass& pass);
-    void TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass);
+    static void TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass, cMatcher& matcher);
     void TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass);
     void TakeTwin(cRowPlan& plan, const cPass& pass);
 

@@ -16,14 +16,17 @@
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/statement/cAssignListModel.h"
+#include "views/statement/cLesson.h"
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cRuleEditor.h"
+#include "views/statement/cSeriesCheck.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <QMap>
+#include <QSet>
 
 #include <algorithm>
 
@@ -53,6 +56,7 @@ struct cImportReview::cWorks
     cMatchFlow Matching;
     cPlanFlow Plan;
     cEntrySuggestions Suggestions;
+    QSet<std::pair<int, QDate>> Declined; // occurrences that the user did not want to be moved or ended
 };
 
 cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
@@ -183,9 +187,40 @@ void cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlan
         m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
     }
     m_summary = outcome.Lines;
+    if (outcome.IsDone) {
+        m_summary += CheckSeries(rows);
+    }
     Refresh();
     Q_EMIT SummaryChanged();
     Q_EMIT EntriesChanged();
+}
+
+// Series that the bank does not pay any more, or not yet. What was declined once is not asked about after every row.
+QStringList cImportReview::CheckSeries(const cImportEntryList& rows)
+{
+    QStringList accounts;
+    for (const cImportEntry& row : rows) {
+        accounts.append(m_works->Accounts.AccountOf(row.ImportAccount));
+    }
+    accounts.removeDuplicates();
+    accounts.removeAll(QString());
+    if (accounts.isEmpty()) {
+        return {};
+    }
+    cSeriesCheck check(m_tools, m_works->Hive, m_works->Accounts);
+    QSet<std::pair<int, QDate>> found;
+    const QList<cSeriesCheck::cFinding> findings = check.Find(accounts);
+    for (const cSeriesCheck::cFinding& finding : findings) {
+        found.insert({finding.EntryId, finding.Occurrence});
+    }
+    if (m_works->Declined.contains(found)) {
+        return {};
+    }
+    const QStringList lines = check.Ask(accounts);
+    if (lines.isEmpty()) {
+        m_works->Declined.unite(found);
+    }
+    return lines;
 }
 
 cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
@@ -289,6 +324,29 @@ bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString
     Q_EMIT SummaryChanged();
     Q_EMIT EntriesChanged();
     return true;
+}
+
+void cImportReview::OfferAlike(int rowId, const QString& category)
+{
+    const QString path = m_works->Proposals.PathOf(category);
+    const cImportEntry row = RowsOf({rowId}).value(0);
+    cLesson lesson(m_tools, m_works->Hive);
+    cImportEntryList alike = path.isEmpty() || row.ID == 0 ? cImportEntryList() : OpenRows(lesson.AlikeRows(row));
+    alike.removeIf([&](const cImportEntry& other) { return Info(other).Category == path; });
+    if (alike.isEmpty()) {
+        return;
+    }
+    enum eWay { These, Always }; // in the order of the buttons
+    const int way = m_tools.User.Decide(modReviewQuestion::Alike(path, static_cast<int>(alike.size())));
+    if (way == Always && lesson.Teach(row, path)) {
+        Refresh(); // the rule speaks for all of them
+    } else if (way == These) {
+        QList<int> ids;
+        for (const cImportEntry& other : std::as_const(alike)) {
+            ids.append(other.ID);
+        }
+        (void)Choose(ids, path, {});
+    }
 }
 
 // A row that has an entry is not made a second one of unasked.

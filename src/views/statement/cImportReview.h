@@ -84,6 +84,9 @@ public:
     // as it is. Where all rows are booked, their entries get the category. False when it cannot be done.
     bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval,
                 const QString& description = {});
+    // After the category of one row was chosen: offers it for the other open rows of the same payee, now or by an own
+    // rule for all that are still to come. Nothing is asked when there are none.
+    void OfferAlike(int rowId, const QString& category);
     // Opens the editor with what is proposed for one open row; what is saved there is its entry. Asks first when the
     // row has an entry already.
     void EditAndBook(const QList<int>& rowIds);
@@ -129,6 +132,7 @@ private:
 
     [[nodiscard]] bool ChangeCategory(const cImportEntryList& booked, const QString& category);
     [[nodiscard]] bool MayEdit(const cRowPlan& plan);
+    [[nodiscard]] QStringList CheckSeries(const cImportEntryList& rows);
     void CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
     void LoadRows();
     void NoteStaged(const QList<int>& ids);

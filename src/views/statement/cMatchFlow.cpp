@@ -6,8 +6,10 @@
 #include "base/modCount.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "import/match/modMatchScore.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modRecurrence.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/statement/cRowProposals.h"
@@ -25,26 +27,9 @@ namespace {
 
 constexpr qsizetype shownMatches = 20; // more lines tell the user nothing new
 
-int CorrectionCount(const QList<cMatch>& matches)
+bool HasChanged(const cCorrectionFlow::cDone& done)
 {
-    return static_cast<int>(std::count_if(matches.begin(), matches.end(),
-                                          [](const cMatch& match) { return match.Candidate.Correction.has_value(); }));
-}
-
-QString CorrectionQuestion(int count)
-{
-    return count == 1
-        ? cText::Tr("Bei einem zugeordneten Umsatz weicht der Betrag von der Serie ab.\nSoll die Serie für diesen "
-                    "Zeitraum auf den Betrag des Kontoauszugs korrigiert werden?")
-        : cText::Tr("Bei {0} zugeordneten Umsätzen weicht der Betrag von der Serie ab.\nSollen die Serien für diese "
-                    "Zeiträume auf die Beträge des Kontoauszugs korrigiert werden?",
-                    {QString::number(count)});
-}
-
-QString CorrectedLine(int count)
-{
-    return count == 1 ? cText::Tr("Eine Serie auf den Betrag des Kontoauszugs korrigiert.")
-                      : cText::Tr("{0} Beträge von Serien korrigiert.", {QString::number(count)});
+    return done.Days + done.Amounts + done.FromHere + done.Entries > 0;
 }
 
 } // namespace
@@ -65,11 +50,11 @@ cMatchFlow::cOutcome cMatchFlow::Match(const QList<int>& rowIds, cProgress& prog
     if (!result) {
         return {{cText::Tr("Abgleichen abgebrochen, es wurde nichts zugeordnet.")}};
     }
-    const std::optional<int> corrected = AssignAll(result->Assigned);
+    const auto corrected = AssignRows(result->Assigned) ? Correct(result->Assigned) : std::nullopt;
     if (!step.DoneIf(corrected.has_value())) {
         return NothingDone();
     }
-    return {Lines(*result, *corrected), true, *corrected > 0, std::make_shared<const cMatchResult>(*result)};
+    return {Lines(*result, *corrected), true, HasChanged(*corrected), std::make_shared<const cMatchResult>(*result)};
 }
 
 std::optional<cMatchResult> cMatchFlow::Find(const QList<int>& rowIds, cProgress& progress)
@@ -107,31 +92,23 @@ std::optional<cMatchResult> cMatchFlow::Find(const QList<int>& rowIds, cProgress
     return result;
 }
 
-std::optional<int> cMatchFlow::AssignAll(const QList<cMatch>& matches)
+bool cMatchFlow::AssignRows(const QList<cMatch>& matches)
 {
-    const bool isWritten = std::all_of(matches.begin(), matches.end(), [this](const cMatch& match) {
+    return std::all_of(matches.begin(), matches.end(), [this](const cMatch& match) {
         return m_parts.Booking.Assign(match.RowId, match.Candidate.Entry.ID);
     });
-    return isWritten ? Correct(matches) : std::nullopt;
 }
 
-// The number of corrections written, 0 when the user wants none; empty when the database refuses.
-std::optional<int> cMatchFlow::Correct(const QList<cMatch>& matches)
+std::optional<cCorrectionFlow::cDone> cMatchFlow::Correct(const QList<cMatch>& matches)
 {
-    const int count = CorrectionCount(matches);
-    const cQuestion question{.Text = CorrectionQuestion(count), .Title = cText::Tr("Umsätze abgleichen")};
-    if (count == 0 || m_tools.User.Ask(question) != eAnswer::Yes) {
-        return 0;
+    QHash<int, cImportEntry> rows;
+    const cImportHive& hive = m_parts.Hive.GetImportHive();
+    for (const cMatch& match : matches) {
+        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(match.RowId)) {
+            rows.insert(match.RowId, *row);
+        }
     }
-    const bool isWritten = std::all_of(matches.begin(), matches.end(), [this](const cMatch& match) {
-        return !match.Candidate.Correction || m_tools.Data.AddNewEntryMod(*match.Candidate.Correction);
-    });
-    return isWritten ? std::optional(count) : std::nullopt;
-}
-
-QStringList cMatchFlow::CorrectedLines(int corrected)
-{
-    return corrected > 0 ? QStringList(CorrectedLine(corrected)) : QStringList();
+    return cCorrectionFlow(m_tools).Apply(matches, rows);
 }
 
 QStringList cMatchFlow::AssignedLines(const QList<cMatch>& matches)
@@ -149,10 +126,10 @@ QStringList cMatchFlow::AssignedLines(const QList<cMatch>& matches)
     return lines;
 }
 
-QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
+QStringList cMatchFlow::Lines(const cMatchResult& result, const cCorrectionFlow::cDone& corrected)
 {
     QStringList lines{QString(result.Summary() + u'.')};
-    lines += CorrectedLines(corrected);
+    lines += corrected.Lines();
     for (const QString& number : result.UnknownAccounts) {
         lines.append(modImportText::NoAccountToMatch(number));
     }
@@ -161,30 +138,18 @@ QStringList cMatchFlow::Lines(const cMatchResult& result, int corrected)
 
 cMatchFlow::cOutcome cMatchFlow::Assign(int rowId, const cMatchCandidate& candidate)
 {
-    bool isCorrecting = false;
-    if (candidate.Correction) {
-        const eAnswer answer = m_tools.User.Ask(
-            {.Text = cText::Tr("Der Umsatz beträgt {0}, die Serie {1}.\nSoll die Serie für diesen Zeitraum auf den "
-                               "Betrag des Kontoauszugs korrigiert werden?",
-                               {m_tools.Format.Cents(candidate.Correction->EntryValue),
-                                m_tools.Format.Cents(candidate.Entry.EntryValue)}),
-             .Title = cText::Tr("Umsatz zuordnen"),
-             .Buttons = eButtons::YesNoCancel});
-        if (answer == eAnswer::Cancel) {
-            return {};
-        }
-        isCorrecting = answer == eAnswer::Yes;
-    }
     cUndoStep step(m_tools.Data, cText::Tr("Umsatz zugeordnet"));
-    if (!step.DoneIf(m_parts.Booking.Assign(rowId, candidate.Entry.ID)
-                     && (!isCorrecting || m_tools.Data.AddNewEntryMod(*candidate.Correction)))) {
+    const QList<cMatch> match{{rowId, candidate}};
+    // Several rows may pay one entry together; it must not come to what the last of them is.
+    const bool isPart = !modRecurrence::IsRecurring(candidate.Entry.EntryInterval)
+        && (candidate.IsTaken || candidate.Score < modMatchScore::ListAt);
+    const auto corrected = AssignRows(match) ? Correct(isPart ? QList<cMatch>() : match) : std::nullopt;
+    if (!step.DoneIf(corrected.has_value())) {
         return NothingDone();
     }
-    QStringList lines{cText::Tr("Umsatz zugeordnet: {0}", {modImportText::EntryName(candidate.Entry)})};
-    if (isCorrecting) {
-        lines.append(CorrectedLine(1));
-    }
-    return {lines, true, isCorrecting};
+    return {QStringList(cText::Tr("Umsatz zugeordnet: {0}", {modImportText::EntryName(candidate.Entry)}))
+                + corrected->Lines(),
+            true, HasChanged(*corrected)};
 }
 
 cMatchFlow::cOutcome cMatchFlow::Release(const QList<int>& rowIds)

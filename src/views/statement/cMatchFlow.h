@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/statement/cCorrectionFlow.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -35,7 +37,7 @@ public:
     {
         QStringList Lines;
         bool IsDone = false;       // false: nothing was changed
-        bool HasCorrected = false; // amounts of series were corrected, so the book itself is another one
+        bool HasCorrected = false; // entries got another day or amount, so the book itself is another one
         std::shared_ptr<const cMatchResult> Matches{}; // of Match that was done: what goes together, in full
     };
 
@@ -44,23 +46,22 @@ public:
     // Of a step that could not be written.
     [[nodiscard]] static cOutcome NothingDone();
 
-    // Assigns each open row of the list to the entry that certainly belongs to it, and offers to correct series whose
-    // amount differs. All of it is one step of the user.
+    // Assigns each open row of the list to the entry that certainly belongs to it, and brings these in line. All of it
+    // is one step of the user.
     [[nodiscard]] cOutcome Match(const QList<int>& rowIds, cProgress& progress);
 
-    // Assigns one row to one of its candidates, which may have other rows; asks before it corrects the amount of a
-    // series. Nothing is done, and nothing said, when the user gives up.
+    // Assigns one row to one of its candidates, which may have other rows, and brings that in line with it.
     [[nodiscard]] cOutcome Assign(int rowId, const cMatchCandidate& candidate);
 
     // Sets assigned rows back to open; their entries stay. Open ones are passed over.
     [[nodiscard]] cOutcome Release(const QList<int>& rowIds);
 
-    // Assigns rows to the entries that they belong to and brings these in line, within a step of the caller. The number
-    // of corrections; empty when the database refuses.
-    [[nodiscard]] std::optional<int> AssignAll(const QList<cMatch>& matches);
-    // What of it is worth saying, one line each; the corrections are said in one.
+    // Assigns rows to the entries that they belong to, within a step of the caller. False when the database refuses.
+    [[nodiscard]] bool AssignRows(const QList<cMatch>& matches);
+    // Brings the entries of rows that were assigned in line with these, see cCorrectionFlow.
+    [[nodiscard]] std::optional<cCorrectionFlow::cDone> Correct(const QList<cMatch>& matches);
+    // What was assigned, one line each, as far as it is worth saying.
     [[nodiscard]] QStringList AssignedLines(const QList<cMatch>& matches);
-    [[nodiscard]] static QStringList CorrectedLines(int corrected);
 
     // What goes together, from the plans of the rows; nothing is written. Empty when the user stops it.
     [[nodiscard]] std::optional<cMatchResult> Find(const QList<int>& rowIds, cProgress& progress);
@@ -69,8 +70,7 @@ public:
     [[nodiscard]] const cParts& Parts() const { return m_parts; }
 
 private:
-    [[nodiscard]] std::optional<int> Correct(const QList<cMatch>& matches);
-    [[nodiscard]] QStringList Lines(const cMatchResult& result, int corrected);
+    [[nodiscard]] QStringList Lines(const cMatchResult& result, const cCorrectionFlow::cDone& corrected);
 
     const cBookTools& m_tools;
     cParts m_parts;

@@ -168,11 +168,13 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
         return {.Left = wish.Left, .Lines = {cText::Tr("Es wurde nichts gebucht.")}};
     }
     cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(count)}));
-    const std::optional<int> corrected = m_parts.Matching.AssignAll(wish.Assign);
+    const bool isAssigned = m_parts.Matching.AssignRows(wish.Assign);
     cBookingResult result =
-        corrected ? m_parts.Booking.Book(wish.New, wish.Proposals, progress) : cBookingResult::Nothing(count);
+        isAssigned ? m_parts.Booking.Book(wish.New, wish.Proposals, progress) : cBookingResult::Nothing(count);
     progress.hideProgressBar();
-    if (!step.DoneIf(result.Failed == 0)) {
+    const auto corrected =
+        result.Failed == 0 ? m_parts.Matching.Correct(wish.Assign + result.Corrections) : std::nullopt;
+    if (!step.DoneIf(corrected.has_value())) {
         return {.IsRefused = true, .Left = wish.Left, .Lines = {modImportText::Booked(cBookingResult::Nothing(count))}};
     }
     result.Rows += static_cast<int>(wish.Assign.size());
@@ -181,6 +183,6 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
     for (const QString& number : result.UnknownAccounts) {
         lines.append(modImportText::NoAccount(number));
     }
-    lines += cMatchFlow::CorrectedLines(*corrected) + m_parts.Matching.AssignedLines(wish.Assign);
+    lines += corrected->Lines() + m_parts.Matching.AssignedLines(wish.Assign);
     return {.IsDone = true, .Left = wish.Left, .Lines = lines, .UnknownAccounts = result.UnknownAccounts};
 }

@@ -101,3 +101,16 @@ cQuestion modReviewQuestion::Accept(const cNumbers& numbers)
             .Title = cText::Tr("Vorschläge annehmen"),
             .Tone = isAny ? eTone::Question : eTone::Information};
 }
+
+cDecision modReviewQuestion::Alike(const QString& category, int count)
+{
+    const QStringList values{category, QString::number(count)};
+    return {
+        .Text = count == 1
+            ? cText::Tr("Noch ein offener Umsatz ist von demselben Empfänger.\nSoll auch er '{0}' bekommen?", values)
+            : cText::Tr("Noch {1} offene Umsätze sind von demselben Empfänger.\nSollen auch sie '{0}' bekommen?",
+                        values),
+        .Title = cText::Tr("Kategorie gewählt"),
+        .Options = {cText::Tr("&Auch diese"), cText::Tr("&Immer so"), cText::Tr("&Nur dieser")},
+        .Default = 2};
+}

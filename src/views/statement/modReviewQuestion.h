@@ -31,4 +31,8 @@ enum class eMatchAnswer { Assign, New, Leave, OneByOne };
 // Whether what is there or sure is to be assigned and booked; without any it is what the user is told instead.
 [[nodiscard]] cQuestion Accept(const cNumbers& numbers);
 
+// Whether a category that one row was given is to go to `count` other rows of the payee: to these, to all that come,
+// or, where Enter goes, to none of them.
+[[nodiscard]] cDecision Alike(const QString& category, int count);
+
 } // namespace modReviewQuestion

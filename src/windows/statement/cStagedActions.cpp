@@ -154,8 +154,10 @@ void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
     const QList<int> ids = isSelected ? m_tree.SelectedIds() : QList<int>{m_review.Rows().IdAt(index)};
     if (index.column() == cStagedListModel::Interval) {
         m_review.Choose(ids, {}, cImportReview::StoredInterval(text));
-    } else {
-        m_review.Choose(ids, text, {});
+    } else if (m_review.Choose(ids, text, {}) && ids.size() == 1) {
+        // The field is still being closed, and a question would take the focus from it.
+        QMetaObject::invokeMethod(
+            this, [this, id = ids.constFirst(), text] { m_review.OfferAlike(id, text); }, Qt::QueuedConnection);
     }
 }
 
