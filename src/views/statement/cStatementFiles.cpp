@@ -377,7 +377,7 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
         m_leftOut.append({row, cText::Tr("schon vorhanden")});
     }
     for (const cImportEntry& row : result.Alike) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen")});
+        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen oder gekürzt")});
     }
     for (const cImportEntry& row : result.Deleted) {
         m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht")});
