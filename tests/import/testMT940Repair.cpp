@@ -27,6 +27,8 @@ private Q_SLOTS:
         QTest::newRow("at signs") << u"@@:20:A@@:25:1@@:86:x@@y@@-"_s << u"\r\n:20:A\r\n:25:1\r\n:86:x\r\ny\r\n-"_s;
         QTest::newRow("details of the statement")
             << u":20:A\n:61:x\n:86:y\n:62F:C\n:86:sum\nmore\n-\n"_s << u":20:A\n:61:x\n:86:y\n:62F:C\n\n\n-\n"_s;
+        QTest::newRow("details behind the sums of the day")
+            << u":20:A\n:61:x\n:86:y\n:90D:1EUR5,\n:86:sum\n-\n"_s << u":20:A\n:61:x\n:86:y\n:90D:1EUR5,\n\n-\n"_s;
         QTest::newRow("wrapped line with colon")
             << QString(u":86:" + wide + u"\n:KO:NR\n:62F:C\n") << QString(u":86:" + wide + u":KO:NR\n:62F:C\n");
     }

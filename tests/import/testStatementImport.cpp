@@ -281,7 +281,8 @@ private Q_SLOTS:
         const QString text = QString::fromUtf8(file.readAll().replace("DE02100200300001234567", line));
         cImportBook book;
         cNoProgress progress;
-        cStatementImport import(book.Data, book.Hive);
+        cBankBalances balances(*book.Settings);
+        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
         QCOMPARE(import.ImportText(u"giro.sta"_s, text, {}, progress).Accounts, QStringList(account));
         const cImportResult second = import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
         QCOMPARE(second.Duplicates.size() + second.Alike.size(), duplicates); // MT940 has the long texts in pieces
@@ -294,7 +295,8 @@ private Q_SLOTS:
     {
         cImportBook book;
         cNoProgress progress;
-        cStatementImport import(book.Data, book.Hive);
+        cBankBalances balances(*book.Settings);
+        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
         (void)import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
         const QString text = u":20:A\r\n:25:50010517/1234567\r\n:61:260101D1,00NTRF\r\n:86:x\r\n"_s;
         QCOMPARE(import.ImportText(u"b.sta"_s, text, {}, progress).Accounts, QStringList(u"1234567"_s));

@@ -223,12 +223,6 @@ void ReadDetails(cTransaction& transaction, QStringView content)
     }
 }
 
-bool BeginsWithKeyword(const QString& purpose)
-{
-    const QString bare = purpose.trimmed();
-    return modSepaPurpose::Rewrite(bare) != bare;
-}
-
 QString Joined(const QString& text, const QString& more)
 {
     return text.trimmed() == more.trimmed() ? text : text + more;
@@ -239,7 +233,7 @@ void AddDetails(cTransaction& transaction, QStringView content)
 {
     cTransaction more;
     ReadDetails(more, content);
-    if (BeginsWithKeyword(more.Purpose) && !BeginsWithKeyword(transaction.Purpose)) {
+    if (modSepaPurpose::BeginsWithKeyword(more.Purpose) && !modSepaPurpose::BeginsWithKeyword(transaction.Purpose)) {
         more.Purpose = modSepaPurpose::Rewrite(more.Purpose.trimmed());
     }
     transaction.Purpose = Joined(transaction.Purpose, more.Purpose);

@@ -142,10 +142,16 @@ private:
             EndStatement();
         } else if (line.Content.startsWith(u':')) {
             m_hasTransaction = m_hasTransaction || tag == u":61:";
-            m_isClosed = tag != u":61:" && (m_isClosed || tag == u":62F" || tag == u":62M");
+            m_isClosed = tag != u":61:" && (m_isClosed || IsClosing(tag));
             m_isDropping = tag == u":86:" && m_isClosed && m_hasTransaction;
         }
         return m_isDropping; // with the lines that go on with it
+    }
+
+    // Closing balances; MT942 has sums in their place.
+    static bool IsClosing(QStringView tag)
+    {
+        return tag == u":62F" || tag == u":62M" || tag == u":90D" || tag == u":90C";
     }
 
     void EndStatement()

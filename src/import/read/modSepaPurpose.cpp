@@ -58,3 +58,8 @@ QString modSepaPurpose::Rewrite(const QString& purpose)
     kept = kept.trimmed();
     return kept.isEmpty() ? purpose.trimmed() : kept;
 }
+
+bool modSepaPurpose::BeginsWithKeyword(const QString& purpose)
+{
+    return !KeywordAt(purpose).isEmpty();
+}

@@ -9,4 +9,7 @@ namespace modSepaPurpose {
 // brackets. A purpose that does not begin with a keyword is only trimmed.
 [[nodiscard]] QString Rewrite(const QString& purpose);
 
+// Whether it begins with one of the keywords, "SVWZ+" say.
+[[nodiscard]] bool BeginsWithKeyword(const QString& purpose);
+
 } // namespace modSepaPurpose

@@ -114,3 +114,13 @@ bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances
     std::transform(known.begin(), known.end(), std::back_inserter(texts), ToText);
     return m_settings.Set(modSettingKey::BankBalances.Of(account), texts.join(u';'));
 }
+
+QString cBankBalances::BankCodeOf(const QString& number) const
+{
+    return m_settings.Get(modSettingKey::BankCode.Of(number));
+}
+
+bool cBankBalances::KeepBankCode(const QString& number, const QString& bankCode)
+{
+    return !BankCodeOf(number).isEmpty() || m_settings.Set(modSettingKey::BankCode.Of(number), bankCode);
+}

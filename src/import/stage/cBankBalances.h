@@ -9,7 +9,7 @@ class cSettings;
 struct cAccountBalance;
 
 // The balances that statements named, kept per account and day in the settings "SALDO:" + number: with the transactions
-// alone nobody would see that one is missing.
+// alone nobody would see that one is missing. Beside them the bank codes of account numbers, "KTOBLZ:" + number.
 class cBankBalances
 {
 public:
@@ -25,6 +25,11 @@ public:
     // Keeps the balances of a statement. One without a day gets that of the account's newest transaction in `entries`;
     // without either, or without an account, it is dropped. False when the database refuses.
     bool Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries);
+
+    // Of the bank at which a staged account has this number; empty when no statement has named it.
+    [[nodiscard]] QString BankCodeOf(const QString& number) const;
+    // Keeps it unless one is known. False when the database refuses.
+    [[nodiscard]] bool KeepBankCode(const QString& number, const QString& bankCode);
 
 private:
     bool Add(const QString& account, const cBankBalanceList& balances);

@@ -1,16 +1,15 @@
 #include "import/stage/cKnownAccounts.h"
 
-#include "core/cSettings.h"
 #include "import/read/cStatementRead.h"
 #include "import/read/modAccountNumber.h"
-#include "model/modSettingKey.h"
+#include "import/stage/cBankBalances.h"
 
 #include <algorithm>
 #include <iterator>
 
-cKnownAccounts::cKnownAccounts(QStringList staged, cSettings& settings)
+cKnownAccounts::cKnownAccounts(QStringList staged, const cBankBalances* balances)
     : m_staged(std::move(staged)),
-      m_settings(settings)
+      m_balances(balances)
 {
 }
 
@@ -28,13 +27,12 @@ void cKnownAccounts::UseIn(cStatementRead& read)
     }
 }
 
-bool cKnownAccounts::KeepBankCodes() const
+bool cKnownAccounts::KeepBankCodes(cBankBalances& balances) const
 {
-    return std::all_of(m_bankCodes.keyValueBegin(), m_bankCodes.keyValueEnd(), [this](const auto& named) {
+    return std::all_of(m_bankCodes.keyValueBegin(), m_bankCodes.keyValueEnd(), [&](const auto& named) {
         const QString form = m_forms.value(named.first, named.first);
-        const bool isNews = modAccountNumber::IsBankCode(named.second) && !modAccountNumber::IsGermanIban(form)
-            && m_settings.Get(modSettingKey::BankCode.Of(form)).isEmpty();
-        return !isNews || m_settings.Set(modSettingKey::BankCode.Of(form), named.second);
+        const bool isNews = modAccountNumber::IsBankCode(named.second) && !modAccountNumber::IsGermanIban(form);
+        return !isNews || balances.KeepBankCode(form, named.second);
     });
 }
 
@@ -56,7 +54,7 @@ QString cKnownAccounts::Find(const QString& number) const
     QStringList same;
     std::copy_if(m_staged.begin(), m_staged.end(), std::back_inserter(same), [&](const QString& staged) {
         return modAccountNumber::IsSame(number, m_bankCodes.value(number), staged,
-                                        m_settings.Get(modSettingKey::BankCode.Of(staged)));
+                                        m_balances == nullptr ? QString() : m_balances->BankCodeOf(staged));
     });
     return same.size() == 1 ? same.first() : number;
 }

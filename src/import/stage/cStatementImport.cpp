@@ -421,8 +421,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
 {
     cStaging& staging = StagingFor(options.Run);
     staging.StartSource();
-    cSettings settings(m_data);
-    cKnownAccounts known(staging.Accounts(), settings);
+    cKnownAccounts known(staging.Accounts(), m_balances);
     known.UseIn(read);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
@@ -504,13 +503,13 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
                                     cImportResult& result)
 {
     const bool isComplete = !result.IsCancelled && result.Failed == 0;
-    if (m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
+    if (m_balances == nullptr || m_data.IsReadOnly() || run != eStagingRun::Write || !isComplete) {
         return;
     }
-    if (!known.KeepBankCodes()) {
+    if (!known.KeepBankCodes(*m_balances)) {
         result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
     }
-    if (m_balances != nullptr && !m_balances->Add(read.Balances, read.Entries)) {
+    if (!m_balances->Add(read.Balances, read.Entries)) {
         result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
     }
 }

@@ -10,7 +10,9 @@
 #include "import/xml/modXmlPieces.h"
 
 #include <array>
+#include <optional>
 #include <pugixml.hpp>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,8 +37,7 @@ QString TextOf(const pugi::xml_node& node, const char* child)
     return modXmlNode::Text(node.child(child));
 }
 
-// Year, month and day are the first eight characters; time and zone behind them do not count. Invalid for anything
-// else.
+// Year, month and day are the first eight characters; time and zone behind them do not count. Invalid for no day.
 QDate DateOf(QStringView text)
 {
     return {text.left(4).toInt(), text.mid(4, 2).toInt(), text.mid(6, 2).toInt()};
@@ -117,9 +118,9 @@ private:
     void TakeTransactions(const pugi::xml_node& node)
     {
         if (qstrcmp(node.name(), "x") == 0) {
-            const std::optional<cSkippedRow> row = TransactionOf(m_pieces.Take(node.attribute("piece").as_uint()));
+            std::optional<cSkippedRow> row = TransactionOf(m_pieces.Take(node.attribute("piece").as_uint()));
             if (row) {
-                Take(*row);
+                Take(std::move(*row));
             }
             return;
         }
@@ -128,12 +129,12 @@ private:
         }
     }
 
-    void Take(const cSkippedRow& row)
+    void Take(cSkippedRow row)
     {
         if (row.Reason.Text.isEmpty()) {
-            m_read.Entries.append(row.Entry);
+            m_read.Entries.append(std::move(row.Entry));
         } else {
-            m_read.Skipped.append(row);
+            m_read.Skipped.append(std::move(row));
         }
     }
 

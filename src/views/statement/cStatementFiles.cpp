@@ -456,7 +456,7 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
         m_leftOut.append({row, cText::Tr("schon vorhanden"), 0});
     }
     for (const cImportEntry& row : result.Alike) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen"), 0});
+        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen oder gekürzt"), 0});
     }
     for (const cImportEntry& row : result.Deleted) {
         m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht"), 0});
