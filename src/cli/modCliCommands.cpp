@@ -28,6 +28,9 @@ const QList<cCliCommand>& modCliCommands::All()
     static const QList<cCliCommand> commands{
         ImportCommand(),
         DetectCommand(),
+        LayoutsCommand(),
+        LayoutsExportCommand(),
+        LayoutsImportCommand(),
         FetchCommand(),
         StagedCommand(),
         StatementCommand(),

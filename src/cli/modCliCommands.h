@@ -55,6 +55,9 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand RulesMoveCommand();
 [[nodiscard]] cCliCommand RulesSwitchCommand();
 [[nodiscard]] cCliCommand RulesTestCommand();
+[[nodiscard]] cCliCommand LayoutsCommand();
+[[nodiscard]] cCliCommand LayoutsExportCommand();
+[[nodiscard]] cCliCommand LayoutsImportCommand();
 [[nodiscard]] cCliCommand EntriesCommand();
 [[nodiscard]] cCliCommand ExportCommand();
 [[nodiscard]] cCliCommand ReportCommand();

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* table = "Tag;Was;Preis;Wert;Stand\n"
                               "03.02.2026;Br\xE4zeln;2,00;-4,20;gebucht\n"
                               "04.02.2026;Miete;3,00;-660,00;gebucht\n"
-                              "05.02.2026;Kiosk;4,00;-1,00;vorgemerkt\n";
+                              "05.02.2026;Kiosk;4,00;-1,00;geplant\n";
 
 } // namespace
 
@@ -194,6 +194,19 @@ private Q_SLOTS:
         QFETCH(const QString, text);
         const cCliRun run = Run(line);
         QVERIFY2(run.Code == code && run.Error.contains(text) && run.Out.isEmpty(), qPrintable(run.Text()));
+    }
+
+    void LayoutsAreShared()
+    {
+        QVERIFY(Do({u"layouts"_s}).Out.contains("comdirect\n"_L1));
+        const QString shared = m_folder->filePath(u"aufbau.txt"_s);
+        Do({u"layouts"_s, u"export"_s, m_table, shared, u"--map"_s, u"datum=0,betrag=2,zweck=1"_s});
+        Do({u"layouts"_s, u"import"_s, shared});
+        const cCliRun found = Do({u"detect"_s, m_table});
+        QVERIFY2(found.Out.contains("datum=0,betrag=2,zweck=1"_L1), qPrintable(found.Text()));
+        const cCliRun bad = Run({u"layouts"_s, u"import"_s, m_table});
+        QVERIFY2(bad.Code == 1 && bad.Error.contains("kein Aufbau"_L1), qPrintable(bad.Text()));
+        QCOMPARE(Run({u"layouts"_s, u"export"_s, m_giro, shared}).Code, 1);
     }
 
 private:

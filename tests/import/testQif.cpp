@@ -57,24 +57,32 @@ private Q_SLOTS:
         QTest::addColumn<QString>("dates");
         QTest::addColumn<QString>("days");
         QTest::addColumn<int>("problems");
-        QTest::newRow("a day above 12 decides for all") << u"1/2/26|29/12/26"_s << u"2026-02-01 2026-12-29"_s << 0;
-        QTest::newRow("month first") << u"1/2/26|12/29/26"_s << u"2026-01-02 2026-12-29"_s << 0;
-        QTest::newRow("open: month first, and said so") << u"1/2/26"_s << u"2026-01-02"_s << 1;
-        QTest::newRow("open without effect") << u"2/2/26"_s << u"2026-02-02"_s << 0;
-        QTest::newRow("points: day first") << u"1.2.26"_s << u"2026-02-01"_s << 0;
-        QTest::newRow("year first") << u"2026-02-01"_s << u"2026-02-01"_s << 0;
-        QTest::newRow("blanks and apostrophe") << u"1/ 2'04|31/ 1'04"_s << u"2004-02-01 2004-01-31"_s << 0;
-        QTest::newRow("last century") << u"31/1/94"_s << u"1994-01-31"_s << 0;
-        QTest::newRow("no date") << u"gestern|31/2/26"_s << u"1001-01-01 1001-01-01"_s << 2;
+        QTest::addColumn<QString>("amount");
+        const auto row = [](const char* name, const char16_t* dates, const char16_t* days, int problems,
+                            const QString& amount = u"1.00"_s) {
+            QTest::newRow(name) << QString::fromUtf16(dates) << QString::fromUtf16(days) << problems << amount;
+        };
+        row("a day above 12 decides for all", u"1/2/26|29/12/26", u"2026-02-01 2026-12-29", 0);
+        row("month first", u"1/2/26|12/29/26", u"2026-01-02 2026-12-29", 0);
+        row("open: day first, and said so", u"02/01/2024", u"2024-01-02", 1);
+        row("open: amounts from where the month comes first", u"1/2/26", u"2026-01-02", 1, u"-1,010.50"_s);
+        row("open: years from where the month comes first", u"6/ 1'04", u"2004-06-01", 1);
+        row("open without effect", u"2/2/26", u"2026-02-02", 0);
+        row("points: day first", u"1.2.26", u"2026-02-01", 0, u"-1,010.50"_s);
+        row("year first", u"2026-02-01", u"2026-02-01", 0);
+        row("blanks and apostrophe", u"1/ 2'04|31/ 1'04", u"2004-02-01 2004-01-31", 0);
+        row("last century", u"31/1/94", u"1994-01-31", 0);
+        row("no date", u"gestern|31/2/26", u"1001-01-01 1001-01-01", 2);
     }
 
     void FindsOrderOfDays()
     {
         QFETCH(QString, dates);
         QFETCH(int, problems);
+        QFETCH(QString, amount);
         QString text = u"!Type:Bank\n"_s;
         for (const QString& date : dates.split(u'|')) {
-            text += u"D"_s + date + u"\nT1.00\n^\n"_s;
+            text += u"D"_s + date + u"\nT"_s + amount + u"\n^\n"_s;
         }
         const cStatementRead read = ReadText(text);
         QTEST(Days(read), "days");

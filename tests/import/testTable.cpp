@@ -145,6 +145,21 @@ private Q_SLOTS:
             {u"2025-02-03 5.00 123456"_s});
         row("own account above", u"Konto;DE02 1203 0000 0000 2020 51 / Giro\nDatum;Betrag;Text\n03.02.2025;5,00;a"_s,
             {u"2025-02-03 5.00 DE02120300000000202051"_s});
+        row("a first row without a day", u"Umsatz;;\nDatum;Text;Betrag\noffen;a;1,00\n03.02.2025;b;5,00"_s,
+            {u"2025-02-03 5.00 1"_s});
+        row("months as words", u"Datum;Text;Betrag\n3. März 2025;a;5,00\n30 Jun 2025;b;6,00"_s,
+            {u"2025-03-03 5.00 1"_s, u"2025-06-30 6.00 1"_s});
+        row("own account protected and beside another number",
+            u"Kontonummer / IBAN:;'47.11' / 'DE02 1203 0000 0000 2020 51'\nDatum;Betrag;Text\n03.02.2025;5,00;a"_s,
+            {u"2025-02-03 5.00 DE02120300000000202051"_s});
+        row("own account as a formula, in stars, masked",
+            u"Kontonummer;Buchungsdatum;Valuta;Verwendungszweck;Betrag;Waehrung\n"
+            "=\"0123456789\";1.2.25;03.02.2025;a;5,00;EUR\n*123456789*;1.2.25;03.02.2025;a;6,00;EUR\n"
+            "4711 **** 1234;1.2.25;03.02.2025;a;7,00;EUR"_s,
+            {u"2025-02-03 5.00 123456789"_s, u"2025-02-03 6.00 123456789"_s, u"2025-02-03 7.00 4711****1234"_s});
+        row("whole lines in quotes",
+            u"\"Datum;Text;Betrag\"\n\"03.02.2025;\"\"a;b\"\";5,00\";;\n\"04.02.2025;c;6,00\"\n"_s,
+            {u"2025-02-03 5.00 1"_s, u"2025-02-04 6.00 1"_s});
         row("no such day", u"Datum;Betrag;Text\n28.02.2025;4,00;a\n30.02.2025;5,00;a"_s,
             {u"2025-02-28 4.00 1"_s, u"1001-01-01 5.00 1"_s});
     }
@@ -155,6 +170,206 @@ private Q_SLOTS:
         cReadOptions options;
         options.Account = u"1"_s;
         QTEST(Brief(ReadText(text, options)), "read");
+    }
+
+    void States_data()
+    {
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<QString>("cell"); // of the second row in the last column
+        QTest::addColumn<int>("kind");     // -1: it is taken
+        QTest::addColumn<int>("problems");
+        constexpr int pending = static_cast<int>(eSkipped::Pending);
+        constexpr int called = static_cast<int>(eSkipped::Void);
+        const auto row = [](const char16_t* header, const char16_t* cell, int kind, int problems = 0) {
+            QTest::newRow(qPrintable(QString::fromUtf16(cell) + u" as "_s + QString::fromUtf16(header)))
+                << QString::fromUtf16(header) << QString::fromUtf16(cell) << kind << problems;
+        };
+        row(u"Status", u"Umsatz vorgemerkt", pending);
+        row(u"Info", u"Umsatz vorgemerkt", pending);
+        row(u"State", u"PENDING", pending);
+        row(u"Status", u"noch nicht gebucht", pending);
+        row(u"Status", u"REVERTED", called);
+        row(u"Status", u"DECLINED", called);
+        row(u"Status", u"FAILED", called);
+        row(u"Status", u"RÜCKGÄNGIG GEMACHT", called);
+        row(u"Status", u"Storniert", called);
+        row(u"Zustand", u"Storniert", called); // no column for states, but the word means nothing else
+        row(u"Stand", u"Umsatz vorgemerkt", pending);
+        row(u"Kategorie", u"Offen", -1);
+        row(u"Status", u"ABGESCHLOSSEN", -1);
+        row(u"Status", u"Umsatz gebucht", -1);
+        row(u"Status", u"", -1);
+        row(u"Status", u"Sonderfall", -1, 1); // nobody knows: taken, and said
+    }
+
+    void States()
+    {
+        QFETCH(QString, header);
+        QFETCH(QString, cell);
+        QFETCH(int, kind);
+        const cStatementRead read = ReadText(u"Datum;Verwendungszweck;Betrag;"_s + header
+                                             + u"\n01.02.2025;a;-1,00;gebucht\n02.02.2025;b;-2,00;"_s + cell + u'\n');
+        QCOMPARE(read.Entries.size(), kind < 0 ? 2 : 1);
+        QCOMPARE(read.Skipped.isEmpty() ? -1 : static_cast<int>(read.Skipped.first().Kind), kind);
+        QCOMPARE(read.Skipped.isEmpty() ? -200 : read.Skipped.first().Entry.ImportValue, -200);
+        QTEST(static_cast<int>(read.Problems.size()), "problems");
+    }
+
+    void Fees_data()
+    {
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<qint64>("value"); // of the second row
+        QTest::addColumn<int>("problems");
+        const auto row = [](const char* name, const QString& rows, qint64 value, int problems) {
+            QTest::newRow(name) << rows << value << problems;
+        };
+        row("beside the amount", u"1;10,00;0;10,00|2;-2,00;0,50;7,50"_s, -250, 1);
+        row("beside, with a sign, newest first", u"3;1,00;0;8,50|2;-2,00;-0,50;7,50|1;10,00;;10,00"_s, -250, 1);
+        row("in the amount", u"1;10,00;0;10,00|2;-2,00;0,50;8,00"_s, -200, 0);
+        row("nothing tells", u"1;10,00;0;|2;-2,00;0,50;"_s, -200, 1);
+        row("never any", u"1;10,00;0;|2;-2,00;0,00;"_s, -200, 0);
+    }
+
+    void Fees()
+    {
+        QFETCH(QString, rows);
+        QString text = u"Datum;Betrag;Gebühr;Saldo;Text\n"_s;
+        for (const QString& row : rows.split(u'|')) {
+            text += u'0' + row.section(u';', 0, 0) + u".02.2025;"_s + row.section(u';', 1) + u";a\n"_s;
+        }
+        const cStatementRead read = ReadText(text);
+        QTEST(read.Entries.value(1).ImportValue, "value");
+        QTEST(static_cast<int>(read.Problems.size()), "problems");
+    }
+
+    // What a spreadsheet or the bank broke is put right and said, or left out with the reason.
+    void Mends_data()
+    {
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("read");
+        QTest::addColumn<int>("told");
+        const auto row = [](const char* name, const QString& rows, const QString& read, int told) {
+            QTest::newRow(name) << rows << read << told;
+        };
+        row("semicolon for the comma", u"03.02.2025;A;x;\"-30;9\";EUR|04.02.2025;B;y;-15;EUR"_s,
+            u"-30.90 A x, -15.00 B y"_s, 1);
+        row("a field is missing", u"03.02.2025;A;x;-1,00;EUR|04.02.2025;Rente;2.647,74;EUR"_s,
+            u"-1.00 A x, 2647.74  Rente"_s, 1);
+        row("a field too many", u"03.02.2025;A;x;-1,00;EUR|04.02.2025;B;y; z;-2,00;EUR"_s, u"-1.00 A x, -2.00 B y z"_s,
+            1);
+        row("a text that goes on", u"03.02.2025;A;x;-1,00;EUR|;;more;;|04.02.2025;B;y;-2,00;EUR"_s,
+            u"-1.00 A x more, -2.00 B y"_s, 1);
+        row("a sum without a day", u"03.02.2025;A;x;-1,00;EUR|Summe;;;-1,00;EUR"_s, u"-1.00 A x"_s, 1);
+        row("a sum with a day", u"03.02.2025;A;x;-1,00;EUR|04.02.2025;B;y;-2,00;EUR|05.02.2025;Summe;;-3,00;EUR"_s,
+            u"-1.00 A x, -2.00 B y"_s, 1);
+        row("a shop called like a sum",
+            u"03.02.2025;A;x;-1,00;EUR|04.02.2025;B;y;-2,00;EUR|05.02.2025;Total;Diesel;-30,00;EUR"_s,
+            u"-1.00 A x, -2.00 B y, -30.00 Total Diesel"_s, 0);
+    }
+
+    void Mends()
+    {
+        QFETCH(QString, rows);
+        const cStatementRead read =
+            ReadText(u"Datum;Empfänger;Verwendungszweck;Betrag;Währung\n"_s + rows.replace(u'|', u'\n'));
+        QStringList shown;
+        for (const cImportEntry& entry : read.Entries) {
+            shown.append(modAmount::CentsToText(entry.ImportValue) + u' ' + entry.ImportBeneficiary + u' '
+                         + entry.ImportPurpose);
+        }
+        QTEST(shown.join(u", "_s), "read");
+        QTEST(static_cast<int>(read.Problems.size() + read.Skipped.size()), "told");
+    }
+
+    void NumbersThatASpreadsheetLost()
+    {
+        const cStatementRead read = ReadText(
+            u"Auftragskonto;Buchungstag;Valutadatum;Buchungstext;Verwendungszweck;Beguenstigter/Zahlungspflichtiger;"
+            "Kontonummer;BLZ;Betrag;Waehrung;Info\n"
+            "DE02120300000000202051;03.02.25;03.02.25;x;y;a;1,23457E+21;;-1,00;EUR;\n"
+            "DE02120300000000202051;04.02.25;04.02.25;x;y;b;4711;;-2,00;EUR;\n"
+            "'DE02120300000000202051';04.02.25;04.02.25;x;y;b;4711;;-2,50;EUR;\n"
+            "DE021203000000002020510;05.02.25;05.02.25;x;y;c;4712;;-3,00;EUR;\n"_s);
+        QCOMPARE(read.Entries.value(0).ImportBeneficiaryAccount, QString());
+        QCOMPARE(read.Entries.value(2).ImportAccount, u"DE02120300000000202051"_s);
+        QCOMPARE(read.Entries.value(3).ImportAccount, u"DE02120300000000202051"_s);
+        QCOMPARE(read.Problems.size(), 2);
+    }
+
+    void Sections_data()
+    {
+        QTest::addColumn<QString>("middle"); // between the two parts
+        QTest::addColumn<QStringList>("read");
+        QTest::addColumn<int>("told");
+        const QString first = u"2025-02-03 -1.00 1"_s;
+        QTest::newRow("another account by its title")
+            << u"\nUmsätze Visa-Karte\n\nBuchungstag;Umsatztag;Text;Betrag\n"_s
+            << QStringList{first, u"2025-02-05 -2.00 Visa-Karte"_s} << 1;
+        QTest::newRow("another account by its number, the same columns")
+            << u"\nTagesgeldkonto;DE02120300000000202051\nBuchungstag;Wertstellung;Text;Betrag\n"_s
+            << QStringList{first, u"2025-02-04 -2.00 DE02120300000000202051"_s} << 1;
+        QTest::newRow("the next page") << u"Buchungstag;Wertstellung;Text;Betrag\n"_s
+                                       << QStringList{first, u"2025-02-04 -2.00 1"_s} << 0;
+    }
+
+    void Sections()
+    {
+        QFETCH(QString, middle);
+        cReadOptions options;
+        options.Account = u"1"_s;
+        const cStatementRead read =
+            ReadText(u"Umsätze Girokonto\nBuchungstag;Wertstellung;Text;Betrag\n03.02.2025;03.02.2025;a;-1,00\n"_s
+                         + middle + u"05.02.2025;04.02.2025;b;-2,00\n"_s,
+                     options);
+        QTEST(Brief(read), "read");
+        QTEST(static_cast<int>(read.Problems.size()), "told");
+    }
+
+    // Columns count by their names; what nearly is a known layout must not become another bank's.
+    void NearlyKnown_data()
+    {
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<QString>("layout");
+        const auto row = [](const char* name, const QString& header, const QString& layout) {
+            QTest::newRow(name) << header << layout;
+        };
+        row("other capitals",
+            u"BUCHUNG;Valuta;Sender / empfänger;IBAN / Konto-Nr.;BIC / BLZ;Buchungstext;"
+            "Verwendungszweck;Betrag in EUR"_s,
+            u"Consorsbank"_s);
+        row("another order",
+            u"Betrag in EUR;Buchung;Valuta;Sender / Empfänger;IBAN / Konto-Nr.;BIC / BLZ;"
+            "Verwendungszweck;Buchungstext"_s,
+            u"Consorsbank"_s);
+        row("one missing, one new",
+            u"Buchung;Valuta;Sender / Empfänger;IBAN / Konto-Nr.;Buchungstext;"
+            "Verwendungszweck;Notiz;Betrag in EUR"_s,
+            u"Consorsbank"_s);
+        row("the new one is to be read",
+            u"Buchung;Valuta;Sender / Empfänger;IBAN / Konto-Nr.;BIC / BLZ;Buchungstext;"
+            "Verwendungszweck;Kontonummer;Betrag in EUR"_s,
+            QString());
+        row("a needed one is missing",
+            u"Buchung;Valuta;IBAN / Konto-Nr.;BIC / BLZ;Buchungstext;Verwendungszweck;Betrag in EUR"_s, QString());
+        row("few in common", u"Buchung;Valuta;Verwendungszweck;Betrag in EUR"_s, QString());
+    }
+
+    void NearlyKnown()
+    {
+        QFETCH(QString, header);
+        cTableLayout layout;
+        (void)modTableProfile::Apply(header.split(u';'), layout);
+        QTEST(layout.Profile, "layout");
+        QCOMPARE(layout.Map.Amount < 0, layout.Profile.isEmpty());
+    }
+
+    // The names of a bank over the columns of another one.
+    void KnownNamesOverOtherContents()
+    {
+        const cStatementRead read = ReadText(u"Datum;Bedrag;Rekening;Tegenrekening;Naam;Omschrijving\n"
+                                             "Brot;03.02.2025;a;b;c;-5,00\nKuchen;04.02.2025;a;b;c;-6,00\n"_s);
+        QCOMPARE(read.Layout, QString());
+        QVERIFY(read.IsGuessed || !read.Refusal.isEmpty());
     }
 
     void LeavesOutWhatIsNoBooking()
@@ -279,7 +494,7 @@ private Q_SLOTS:
     {
         const cTable table = modTableText::Split(u"a"_s + QString(1000, u';') + u"\n1;\"2\n3\";4\n"_s, u';', 0);
         QCOMPARE(table.CellCount(0), cTable::mostColumns);
-        QCOMPARE(table.Row(1), QStringList({u"1"_s, u"23"_s, u"4"_s}));
+        QCOMPARE(table.Row(1), QStringList({u"1"_s, u"2 3"_s, u"4"_s}));
     }
 };
 

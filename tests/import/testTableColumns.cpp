@@ -122,7 +122,9 @@ private Q_SLOTS:
         };
         row("line ends", u"a;b\r\nc\nd;\re"_s, {u"a|b"_s, u"c"_s, u"d|"_s, u"e"_s});
         row("blanks and quotes go", u" a ; \"b\" ;\" c \""_s, {u"a|b|c"_s});
-        row("separator, break and doubled quote inside", u"\"a;b\nc\"\"d\"\"e\";f\ng"_s, {u"a;bc\"d\"e|f"_s, u"g"_s});
+        row("separator, break and doubled quote inside", u"\"a;b\nc\"\"d\"\"e\";f\ng"_s, {u"a;b c\"d\"e|f"_s, u"g"_s});
+        row("breaks and the blanks around them are one blank", u"\"Max \r\n\r\n Muster\n\";b"_s, {u"Max Muster|b"_s});
+        row("protected from being a number", u"=\"0042\";\"=\"\"0043\"\"\";=b"_s, {u"0042|0043|=b"_s});
         row("quote in the middle is a letter", u"a\"b;c\"\nd"_s, {u"a\"b|c\""_s, u"d"_s});
         row("inner quotes that nobody doubled", u"\"Hotel \"Sonne\" Ulm\";b"_s, {u"Hotel \"Sonne\" Ulm|b"_s});
         row("quote without end", u"\"a;b\nc;d"_s, {u"\"a|b"_s, u"c|d"_s});
@@ -144,10 +146,11 @@ private Q_SLOTS:
 
     void LinesAboveTheHeaderStandForThemselves()
     {
+        QCOMPARE(modTableText::Split(u"a;b\rc,d\r1,2"_s, u',', 2).Row(0), QStringList({u"a"_s, u"b"_s}));
         const cTable table = modTableText::Split(u"\"offen;x\nKonto;1\na,b\n\"1\n2\",3\n4"_s, u',', 2);
         QCOMPARE(table.RowCount(), 5);
         QCOMPARE(table.Row(1), QStringList({u"Konto"_s, u"1"_s}));
-        QCOMPARE(table.Row(3), QStringList({u"12"_s, u"3"_s}));
+        QCOMPARE(table.Row(3), QStringList({u"1 2"_s, u"3"_s}));
         QCOMPARE(table.Line(4), 6);
     }
 

@@ -22,6 +22,14 @@ private Q_SLOTS:
         QTest::newRow("with time") << u"03.02.2025 14:30:59"_s << QDate(2025, 2, 3);
         QTest::newRow("with time and zone") << u"2025-02-03T14:30:00+01:00"_s << QDate(2025, 2, 3);
         QTest::newRow("with letters") << u"Mo. 03.02.2025"_s << QDate(2025, 2, 3);
+        QTest::newRow("month as a word") << u"30 Jun 2023"_s << QDate(2023, 6, 30);
+        QTest::newRow("German month") << u"3. März 2024"_s << QDate(2024, 3, 3);
+        QTest::newRow("shortened, with point and time") << u"05. Okt. 24, 14:30"_s << QDate(2024, 10, 5);
+        QTest::newRow("month before day") << u"September 5, 2024"_s << QDate(2024, 9, 5);
+        QTest::newRow("strokes and capitals") << u"07-MAI-2024"_s << QDate(2024, 5, 7);
+        QTest::newRow("weekday in front") << u"Do., 1. Februar 2024"_s << QDate(2024, 2, 1);
+        QTest::newRow("no month") << u"3 Stk 2024"_s << QDate();
+        QTest::newRow("month without such a day") << u"31. April 2024"_s << QDate();
         QTest::newRow("no such day") << u"30.02.2025"_s << QDate();
         QTest::newRow("a number") << u"12"_s << QDate();
         QTest::newRow("many digits") << u"999999999999999999999.1.1"_s << QDate();
@@ -104,6 +112,8 @@ private Q_SLOTS:
         QVERIFY(modTableValue::IsDate(u"2025-03-01 15:12:22"));
         QVERIFY(!modTableValue::IsDate(u"Kontostand vom 31.01.2025"));
         QVERIFY(!modTableValue::IsDate(u"12345678"));
+        QVERIFY(modTableValue::IsDate(u"3. Mrz 2024"));
+        QVERIFY(!modTableValue::IsDate(u"Miete Mai 2024"));
         QVERIFY(modTableValue::IsAmount(u"-48,00"));
         QVERIFY(!modTableValue::IsAmount(u"31.01.2025"));
         QVERIFY(!modTableValue::IsAmount(u"00012345864"));

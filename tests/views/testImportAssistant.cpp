@@ -21,7 +21,7 @@ using fnChange = std::function<void(cImportAssistant&)>;
 constexpr const char* plain = "Tag;Was;Preis;Wert;Stand\n"
                               "03.02.2026;Br\xE4zeln am Markt;2,00;-4,20;gebucht\n"
                               "04.02.2026;Miete;3,00;-660,00;gebucht\n"
-                              "05.02.2026;Kiosk am Bahnhof;4,00;-1,00;vorgemerkt\n";
+                              "05.02.2026;Kiosk am Bahnhof;4,00;-1,00;geplant\n";
 
 // The progress of a user who stops after some steps.
 class cStopped final : public cProgress
@@ -369,6 +369,32 @@ private Q_SLOTS:
         page.Review.Files().StageLeftOut({0});
         QCOMPARE(page.Purposes().value(2), u"Kiosk am Bahnhof"_s);
         QCOMPARE(page.Data.GetImportEntries().last().ImportAccount, u"4711"_s);
+    }
+
+    // What one household has found out, another one takes.
+    void LayoutsAreShared()
+    {
+        cPage page;
+        const QString shared = page.Write(u"aufbau.txt"_s, {});
+        page.User.SavePath = shared;
+        page.Answer = [](cImportAssistant& assistant) {
+            assistant.SetAccount(u"4711"_s);
+            Mean(2, u"Betrag"_s)(assistant);
+            QVERIFY(assistant.CanSaveLayout());
+            assistant.SaveLayout();
+        };
+        page.Import({page.Write(u"a.csv"_s, plain)});
+        cPage other;
+        other.User.Files = {shared};
+        other.Answer = [](cImportAssistant& assistant) {
+            assistant.SetAccount(u"4711"_s);
+            assistant.LoadLayout();
+            QCOMPARE(assistant.Rows().value(0).Amount, u"2,00 €"_s);
+        };
+        other.Import({other.Write(u"b.csv"_s, plain)});
+        QCOMPARE(other.Opened, 1);
+        QCOMPARE(other.Data.GetImportEntries().first().ImportValue, 200);
+        QVERIFY(other.User.Shown.value(0).contains(u"gilt nun für diese Datei"_s));
     }
 
     void OffersAllStatements()

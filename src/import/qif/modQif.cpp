@@ -39,6 +39,7 @@ struct cParts
     int Second = 0;
     int Third = 0;
     bool HasPoint = false;
+    bool HasStroke = false;
     bool IsYearFirst = false;
     bool IsNewCentury = false; // "'" before the year stands for 2000
 };
@@ -153,6 +154,7 @@ std::optional<cParts> PartsOf(const QString& date)
             parts.IsYearFirst = parts.IsYearFirst || (count == 1 && digits == 4);
         } else if (c != u' ') {
             parts.HasPoint = parts.HasPoint || c == u'.';
+            parts.HasStroke = parts.HasStroke || c == u'/';
             parts.IsNewCentury = parts.IsNewCentury || c == u'\'';
             digits = 0;
         }
@@ -188,19 +190,31 @@ QDate DateOf(const QString& text, eDateOrder order)
 
 struct cOrder
 {
-    eDateOrder Order = eDateOrder::MonthDayYear;
+    eDateOrder Order = eDateOrder::DayMonthYear;
     bool IsGuessed = false; // and another order would give other days
 };
 
+// "-1,010.50": no German program groups like this.
+bool IsGroupedEnglish(const QString& amount)
+{
+    const qsizetype comma = amount.indexOf(u',');
+    return comma >= 0 && amount.indexOf(u'.', comma) > comma;
+}
+
+// A part above 12 decides. Where the days leave it open, the day comes first, as it does here, unless the file shows
+// that it comes from where the month does: by the years of "6/ 1'94", by the groups of its amounts.
 cOrder OrderOf(const QList<cRecord>& records)
 {
     int dayFirst = 0;
     int monthFirst = 0;
     bool hasPoint = false;
+    bool isForeign = false;
     bool isOpen = false;
     for (const cRecord& record : records) {
         const std::optional<cParts> parts = PartsOf(record.Date);
+        isForeign = isForeign || IsGroupedEnglish(record.Amount);
         if (parts && !parts->IsYearFirst) {
+            isForeign = isForeign || (parts->HasStroke && parts->IsNewCentury);
             dayFirst += parts->First > 12 ? 1 : 0;
             monthFirst += parts->Second > 12 ? 1 : 0;
             hasPoint = hasPoint || parts->HasPoint;
@@ -210,7 +224,7 @@ cOrder OrderOf(const QList<cRecord>& records)
     if (dayFirst != monthFirst) {
         return {dayFirst > monthFirst ? eDateOrder::DayMonthYear : eDateOrder::MonthDayYear, false};
     }
-    return {hasPoint ? eDateOrder::DayMonthYear : eDateOrder::MonthDayYear, isOpen && !hasPoint};
+    return {isForeign && !hasPoint ? eDateOrder::MonthDayYear : eDateOrder::DayMonthYear, isOpen && !hasPoint};
 }
 
 // English numbers; a single comma that does not stand before three digits is a decimal comma all the same.
@@ -241,9 +255,7 @@ public:
         const cOrder order = OrderOf(m_records);
         m_order = options.Table.Date.value_or(order.Order);
         if (order.IsGuessed && !options.Table.Date) {
-            m_read.Problems.append({0,
-                                    cText::Tr("Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen "
-                                              "wurde der Monat zuerst.")});
+            m_read.Problems.append({0, Guess()});
         }
         m_hasSeveralAccounts = std::any_of(m_records.begin(), m_records.end(), [&](const cRecord& record) {
             return record.Account != m_records.first().Account;
@@ -259,6 +271,13 @@ public:
     }
 
 private:
+    [[nodiscard]] QString Guess() const
+    {
+        return m_order == eDateOrder::MonthDayYear
+            ? cText::Tr("Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen wurde der Monat zuerst.")
+            : cText::Tr("Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen wurde der Tag zuerst.");
+    }
+
     [[nodiscard]] std::optional<double> ValueOf(const QString& amount) const
     {
         const bool isGerman = m_options.Table.Number == eNumberFormat::German;
@@ -315,7 +334,7 @@ private:
     QList<cRecord> m_records;
     const cReadOptions& m_options;
     cStatementRead m_read;
-    eDateOrder m_order = eDateOrder::MonthDayYear;
+    eDateOrder m_order = eDateOrder::DayMonthYear;
     bool m_hasSeveralAccounts = false;
 };
 

@@ -31,6 +31,8 @@ struct cColumnMap
     int OwnBankCode = -1;
     int Status = -1; // says which rows are pending
     int Balance = -1;
+    int Fee = -1;       // what the bank took beside the amount of the row
+    int OtherName = -1; // counterparty where the columns for it are empty
 
     bool operator==(const cColumnMap&) const = default;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/read/cColumnMap.h"
+#include "import/read/cStatementRead.h"
 #include "import/read/cTableChoice.h"
 #include "import/read/cTableDoubt.h"
 
@@ -12,7 +13,7 @@
 // Who or what decided about the columns.
 enum class eMapOrigin { Words, Contents, Profile, Memory, User };
 // Texts that hold more than the purpose.
-enum class eDetails { None, Labelled, Austrian };
+enum class eDetails { None, Labelled, Austrian, Spaced };
 
 // How a table is to be read.
 struct cTableLayout
@@ -20,6 +21,7 @@ struct cTableLayout
     QChar Separator;
     int HeaderRow = -1; // row of the table; -1: the table has no header
     int FirstRow = 0;   // the first row of data
+    int EndRow = -1;    // the row behind the last one, where another part of the file begins; -1: there is none
     cColumnMap Map;
     eMapOrigin Origin = eMapOrigin::Words;
     eNumberFormat Number = eNumberFormat::Detect; // Detect: decided from the cells when rows are read
@@ -34,6 +36,7 @@ struct cTableLayout
     QString Profile;                  // name of the known layout; empty when there is none
     QString Key;                      // hash of the header for the memory; empty without a header
     QString AccountKey;               // the same with the lines above it
+    QList<cReadProblem> Notes = {};   // what was put right in the table or is doubtful about it
 
     // A table can only be read with a date and an amount.
     [[nodiscard]] bool IsReadable() const

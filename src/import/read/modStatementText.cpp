@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -98,12 +99,19 @@ QString DecodeBytes(const QByteArray& bytes)
     return FromWindows(content);
 }
 
+// The database ends a text at its first NUL; what is staged must be what is read back. Old computers ended lines with a
+// carriage return alone, which no reader looks for.
+QString Ready(QString text)
+{
+    text.remove(QChar::Null);
+    return text.contains(u'\n') ? text : text.replace(u'\r', u'\n');
+}
+
 } // namespace
 
 QString modStatementText::Decode(const QByteArray& bytes)
 {
-    // The database ends a text at its first NUL; what is staged must be what is read back.
-    return DecodeBytes(bytes).remove(QChar::Null);
+    return Ready(DecodeBytes(bytes));
 }
 
 QString modStatementText::Decode(const QByteArray& bytes, eCharset charset)
@@ -117,7 +125,7 @@ QString modStatementText::Decode(const QByteArray& bytes, eCharset charset)
     case eCharset::Utf16LE: text = DecodeAs(bytes, QStringConverter::Utf16LE); break;
     case eCharset::Utf16BE: text = DecodeAs(bytes, QStringConverter::Utf16BE); break;
     }
-    return text.remove(QChar::Null);
+    return Ready(std::move(text));
 }
 
 eCharset modStatementText::CharsetOf(const QByteArray& bytes)

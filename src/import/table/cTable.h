@@ -20,7 +20,8 @@ public:
 
     // Begins a row; `line` is its place in the file as the user counts it, from 1.
     void AddRow(int line) { m_rows.append({m_cells.size(), line}); }
-    // Appends a cell to the last row. The text is cleaned: trimmed, enclosing quotes removed, no tabs and line breaks.
+    // Appends a cell to the last row. The text is cleaned: trimmed, enclosing quotes removed, no tabs; line breaks
+    // become blanks.
     void AddCell(QStringView text);
     // The same for a piece of the table's own text; nothing is copied unless it has to be changed.
     void AddSlice(qsizetype start, qsizetype size);
@@ -31,6 +32,8 @@ public:
     // Empty for a cell that the row does not have. Valid as long as the table is not changed.
     [[nodiscard]] QStringView Cell(int row, int column) const;
     [[nodiscard]] QStringList Row(int row) const;
+    // Rows `first` to `end` - 1 as a table of their own, with the lines that they have here.
+    [[nodiscard]] cTable Part(int first, int end) const;
 
 private:
     struct cSpan

@@ -17,7 +17,7 @@ QList<int*> Places(cColumnMap& map)
     return {&map.Date,        &map.Text,     &map.Purpose[0], &map.Purpose[1], &map.Purpose[2], &map.Name,
             &map.Account,     &map.BankCode, &map.Name2,      &map.Account2,   &map.BankCode2,  &map.Amount,
             &map.Credit,      &map.Debit,    &map.Currency,   &map.Indicator,  &map.Payer,      &map.OwnAccount,
-            &map.OwnBankCode, &map.Status,   &map.Balance};
+            &map.OwnBankCode, &map.Status,   &map.Balance,    &map.Fee,        &map.OtherName};
 }
 
 // The value when it is one of an enumeration with `count` values, else the first one.
@@ -25,6 +25,32 @@ template <typename tValue>
 tValue Checked(int value, int count)
 {
     return static_cast<tValue>(value >= 0 && value < count ? value : 0);
+}
+
+constexpr qsizetype rules = 5;        // in front of the columns: their count, number, date, sign, details
+constexpr qsizetype firstPlaces = 21; // columns that the oldest maps have
+
+// How many columns a stored map has. Newer ones have more; what is no number stands behind them.
+qsizetype StoredPlaces(const QStringList& values, qsizetype most)
+{
+    qsizetype count = 0;
+    bool isNumber = true;
+    while (isNumber && count < most && rules + count < values.size()) {
+        (void)values.at(rules + count).toInt(&isNumber);
+        count += isNumber ? 1 : 0;
+    }
+    return count;
+}
+
+// Name of the layout and its currencies.
+void LoadName(const QStringList& values, cTableLayout& layout)
+{
+    if (values.isEmpty() || modTableProfile::ApplyNamed(values.first(), layout.Map.Names, layout)) {
+        return;
+    }
+    layout.Profile = values.first();
+    layout.Currency = values.value(1);
+    layout.OnlyCurrency = values.value(2);
 }
 
 } // namespace
@@ -44,17 +70,14 @@ bool cTableMemory::LoadMap(const QString& key, cTableLayout& layout) const
     const QStringList values = m_settings.Get(modSettingKey::TableMap.Of(key)).split(u';');
     cColumnMap map;
     const QList<int*> places = Places(map);
-    constexpr qsizetype rules = 5; // column count, number, date, sign, details
-    if (key.isEmpty() || (values.size() != places.size() + rules && values.size() != places.size() + rules + 1)
-        || values.at(0).toInt() != layout.Map.Names.size()) {
+    const qsizetype stored = StoredPlaces(values, places.size());
+    if (key.isEmpty() || stored < firstPlaces || values.at(0).toInt() != layout.Map.Names.size()) {
         return false;
     }
     map.Names = layout.Map.Names;
-    if (values.size() > places.size() + rules) {
-        modTableProfile::ApplyNamed(values.last(), map.Names, layout);
-    }
+    LoadName(values.mid(rules + stored), layout);
     map.ColumnCount = static_cast<int>(map.Names.size());
-    for (qsizetype i = 0; i < places.size(); ++i) {
+    for (qsizetype i = 0; i < stored; ++i) {
         const int column = values.at(rules + i).toInt();
         *places.at(i) = column < map.ColumnCount ? column : -1;
     }
@@ -62,7 +85,7 @@ bool cTableMemory::LoadMap(const QString& key, cTableLayout& layout) const
     layout.Number = Checked<eNumberFormat>(values.at(1).toInt(), 3);
     layout.Date = Checked<eDateOrder>(values.at(2).toInt(), 3);
     layout.Sign = Checked<eSignRule>(values.at(3).toInt(), 2);
-    layout.Details = Checked<eDetails>(values.at(4).toInt(), 3);
+    layout.Details = Checked<eDetails>(values.at(4).toInt(), 4);
     layout.Origin = eMapOrigin::Memory;
     return true;
 }
@@ -79,8 +102,8 @@ bool cTableMemory::SaveMap(const QString& key, const cTableLayout& layout)
     for (const int* place : Places(map)) {
         values.append(QString::number(*place));
     }
-    if (!layout.Profile.isEmpty()) {
-        values.append(layout.Profile);
+    if (!layout.Profile.isEmpty() || !layout.Currency.isEmpty()) {
+        values << layout.Profile << layout.Currency << layout.OnlyCurrency;
     }
     return m_settings.Set(modSettingKey::TableMap.Of(key), values.join(u';'));
 }

@@ -9,17 +9,22 @@
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableContents.h"
 #include "import/table/modTableDetails.h"
+#include "import/table/modTableFee.h"
 #include "import/table/modTableHeader.h"
+#include "import/table/modTableMend.h"
 #include "import/table/modTableProfile.h"
 #include "import/table/modTableRows.h"
+#include "import/table/modTableSections.h"
 #include "import/table/modTableSign.h"
 #include "import/table/modTableText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int probedLines = 60; // the searched ones, and those below them that hold the first data
+constexpr int mostSections = 20;
 
 QList<modTableHeader::cProbe> ProbesOf(QStringView text)
 {
@@ -61,13 +66,17 @@ bool IsAustrian(const cTable& table, const cTableLayout& layout)
 bool SetColumns(const cTable& table, const cReadOptions& options, cTableLayout& layout)
 {
     const QStringList names = layout.Map.Names;
+    const cTableLayout before = layout;
     const bool isNamed =
         !options.Table.Profile.isEmpty() && modTableProfile::ApplyNamed(options.Table.Profile, names, layout);
     const bool isKnown = isNamed || (options.Memory != nullptr && options.Memory->LoadMap(layout.Key, layout))
-        || (options.Table.Profile != noProfile && modTableProfile::Apply(names, layout));
+        || (options.Table.Profile != noProfile
+            && (names.isEmpty() ? modTableProfile::ApplyShape(table, layout) : modTableProfile::Apply(names, layout))
+            && modTableProfile::Fits(table, layout));
     if (isKnown) {
         return true;
     }
+    layout = before; // a known layout may have been tried in vain
     if (names.isEmpty() || !layout.IsReadable()) {
         layout.Origin = eMapOrigin::Contents;
     }
@@ -103,13 +112,18 @@ cTableLayout LayoutOf(const cTable& table, const modTableHeader::cFound& found, 
         layout.Key = cTableMemory::KeyOf(names);
         layout.AccountKey = cTableMemory::KeyOf(names + QStringList(modTableAbove::Read(table, found.Header).Labels));
     }
-    const bool isKnown = SetColumns(table, options, layout);
+    const modTableSections::cNext next = modTableSections::Find(table, layout, options);
+    const cTable first = next.Start < 0 ? cTable() : table.Part(0, next.Start);
+    const cTable& own = next.Start < 0 ? table : first;
+    layout.EndRow = next.Start;
+    const bool isKnown = SetColumns(own, options, layout);
     TakeChoice(options.Table, layout);
     if (!isKnown) {
-        modTableSign::Settle(table, layout);
+        modTableSign::Settle(own, layout);
     }
     layout.Sign = options.Table.Sign.value_or(layout.Sign); // answers what was open
     modTableContents::CompleteCurrency(layout);
+    modTableFee::Decide(own, layout);
     return layout;
 }
 
@@ -133,21 +147,40 @@ modTable::cOpened OpenText(const cStatementSource& source, const cReadOptions& o
     const modTableHeader::cFound found = modTableHeader::Find(ProbesOf(source.Text), options.Table, options.Memory);
     const auto table = std::make_shared<const cTable>(
         modTableText::Split(source.Text, found.Separator, found.Header >= 0 ? found.Header : found.First));
-    return {LayoutOf(*table, found, options), table};
+    cTableLayout layout = LayoutOf(*table, found, options);
+    std::optional<modTableMend::cMended> mended = modTableMend::Mend(*table, layout);
+    if (!mended) {
+        return {layout, table};
+    }
+    const auto whole = std::make_shared<const cTable>(std::move(mended->Table));
+    layout = LayoutOf(*whole, found, options);
+    layout.Notes = mended->Notes + layout.Notes;
+    return {layout, whole};
+}
+
+// Spreadsheets that save a text as their own quote whole lines.
+modTable::cOpened OpenAny(const cStatementSource& source, const cReadOptions& options)
+{
+    modTable::cOpened opened = OpenText(source, options);
+    if (opened.Layout.IsReadable() || !source.Text.startsWith(u'"')) {
+        return opened;
+    }
+    const QString text = modTableMend::WithoutLineQuotes(source.Text);
+    return text.isEmpty() ? opened : OpenText({source.Name, source.Bytes, text}, options);
 }
 
 } // namespace
 
 modTable::cOpened modTable::Open(const cStatementSource& source, const cReadOptions& options)
 {
-    cOpened opened = OpenText(source, options);
+    cOpened opened = OpenAny(source, options);
     if (options.Memory == nullptr || options.Table.Charset != eCharset::Detect || source.Bytes.isEmpty()) {
         return opened;
     }
     const eCharset charset = options.Memory->Charset(opened.Layout.Key);
     return charset == eCharset::Detect
         ? opened
-        : OpenText({source.Name, source.Bytes, modStatementText::Decode(source.Bytes, charset)}, options);
+        : OpenAny({source.Name, source.Bytes, modStatementText::Decode(source.Bytes, charset)}, options);
 }
 
 bool modTable::Remember(const cStatementSource& source, const cTableChoice& choice, const cTableLayout& layout,
@@ -157,7 +190,7 @@ bool modTable::Remember(const cStatementSource& source, const cTableChoice& choi
         cReadOptions plain;
         plain.Table.HeaderLine = choice.HeaderLine;
         const cStatementSource detected{source.Name, source.Bytes, modStatementText::Decode(source.Bytes)};
-        (void)memory.SaveCharset(OpenText(detected, plain).Layout.Key, choice.Charset);
+        (void)memory.SaveCharset(OpenAny(detected, plain).Layout.Key, choice.Charset);
     }
     return memory.SaveMap(layout.Key, layout);
 }
@@ -167,7 +200,9 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
     return LayoutOf(table, modTableHeader::Find(ProbesOf(table), options.Table, options.Memory), options);
 }
 
-cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
+namespace {
+
+cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
 {
     if (!layout.IsReadable() || table.IsFull()) {
         cStatementRead read;
@@ -200,6 +235,69 @@ cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layou
         const QString account = read.Entries.isEmpty() ? above.Account : read.Entries.first().ImportAccount;
         read.Balances.append({account, above.Balance->Cents, above.Balance->Date});
     }
+    return read;
+}
+
+// "Umsätze Visa-Karte (Kreditkarte)": the account is called what stands behind the first word.
+QString AccountOfTitle(const QString& title)
+{
+    const qsizetype blank = title.startsWith(u"Ums") ? title.indexOf(u' ') : -1;
+    return title.mid(blank + 1).simplified().left(40);
+}
+
+// The account of a part of a file: by its number, else by what stands above it; empty when nothing does.
+QString AccountOfPart(const cTable& part, int header, const QString& title)
+{
+    const QString number = modTableAbove::Read(part, header).Account;
+    return number.isEmpty() ? AccountOfTitle(title) : number;
+}
+
+void AppendPart(cStatementRead part, int line, const QString& title, const QString& account, cStatementRead& read)
+{
+    const QString text = title.isEmpty()
+        ? cText::Tr("Hier beginnt ein weiterer Abschnitt der Datei; gelesen wurde er als Konto {0}.", {account})
+        : cText::Tr("Hier beginnt ein weiterer Abschnitt der Datei, \"{0}\"; gelesen wurde er als Konto {1}.",
+                    {title.left(60), account});
+    read.Problems.append({line, text});
+    if (!part.Refusal.isEmpty()) {
+        read.Problems.append({line, part.Refusal});
+    }
+    read.IsGuessed = read.IsGuessed || part.IsGuessed;
+    read.Append(std::move(part));
+}
+
+// The parts of a file that follow the first one. What the user chose was said about the first.
+void ReadFurther(const cTable& table, modTableSections::cNext next, const cReadOptions& options, cStatementRead& read)
+{
+    cTable rest = table;
+    for (int count = 1; next.Start >= 0 && count < mostSections; ++count) {
+        rest = rest.Part(next.Start, rest.RowCount());
+        const int header = next.Header - next.Start;
+        const QString title = next.Title;
+        cReadOptions own;
+        own.Memory = options.Memory;
+        own.Account = AccountOfPart(rest, header, title);
+        own.Account = own.Account.isEmpty() ? options.Account : own.Account;
+        const cTableLayout layout = LayoutOf(rest, {header, header + 1, QChar()}, own);
+        next = modTableSections::Find(rest, layout, own);
+        const int end = next.Start < 0 ? rest.RowCount() : next.Start;
+        AppendPart(ReadPart(rest.Part(0, end), layout, own), rest.Line(header), title, own.Account, read);
+    }
+    if (next.Start >= 0) {
+        read.Problems.append(
+            {rest.Line(next.Header), cText::Tr("Von hier an wurde die Datei nicht gelesen: zu viele Abschnitte.")});
+    }
+}
+
+} // namespace
+
+cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
+{
+    if (layout.EndRow < 0 || !layout.IsReadable()) {
+        return ReadPart(table, layout, options);
+    }
+    cStatementRead read = ReadPart(table.Part(0, layout.EndRow), layout, options);
+    ReadFurther(table, modTableSections::Find(table, layout, options), options, read);
     return read;
 }
 

@@ -6,6 +6,8 @@
 #include "import/table/modCell.h"
 #include "import/table/modTableValue.h"
 
+#include <QList>
+
 #include <algorithm>
 
 namespace {
@@ -21,11 +23,40 @@ bool IsDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
+bool IsProtection(QChar c)
+{
+    return c == u'=' || c == u'\'' || c == u'"' || c == u'*' || c == u' ';
+}
+
+// A number without the signs around it that keep spreadsheets from calculating with it: 'DE02…', ="0815", *4711*. What
+// is masked ("****5678") stays.
+QStringView Unprotected(QStringView cell)
+{
+    constexpr qsizetype shortest = 8;
+    QStringView number = cell;
+    while (!number.isEmpty() && IsProtection(number.front())) {
+        number = number.mid(1);
+    }
+    while (!number.isEmpty() && IsProtection(number.back())) {
+        number.chop(1);
+    }
+    return number.size() >= shortest || !cell.contains(u'*') ? number : cell.trimmed();
+}
+
 // The text in front of " / Girokonto".
 QStringView Number(QStringView cell)
 {
     const qsizetype slash = cell.indexOf(u'/');
-    return (slash < 0 ? cell : cell.left(slash)).trimmed();
+    return Unprotected(slash < 0 ? cell : cell.left(slash));
+}
+
+// The IBAN among the numbers of an account, which slashes part; empty when there is none.
+QString IbanIn(QStringView cell)
+{
+    const QList<QStringView> parts = cell.split(u'/');
+    const auto found =
+        std::find_if(parts.begin(), parts.end(), [](QStringView part) { return modTableValue::IsIban(Number(part)); });
+    return found == parts.end() ? QString() : modAccountNumber::Compact(Number(*found).toString());
 }
 
 // "1234 •••• •••• 5678" at the end of a text as "1234********5678"; empty when there is none.
@@ -60,8 +91,8 @@ QString NumberIn(QStringView cell)
 QString AccountIn(const QStringList& cells)
 {
     for (const QString& cell : cells) {
-        if (const QStringView number = Number(cell); modTableValue::IsIban(number)) {
-            return modAccountNumber::Compact(number.toString());
+        if (const QString iban = IbanIn(cell); !iban.isEmpty()) {
+            return iban;
         }
     }
     if (cells.isEmpty() || !modCell::MatchesList(cells.first(), accountWords)) {
@@ -110,7 +141,10 @@ QString WithoutDigits(QString label)
 
 QString modTableAbove::OwnNumber(QStringView cell)
 {
-    QString number = modAccountNumber::Compact(cell.toString());
+    if (const QString masked = MaskedNumber(cell); !masked.isEmpty()) {
+        return masked;
+    }
+    QString number = modAccountNumber::Compact(Unprotected(cell).toString());
     if (!std::all_of(number.begin(), number.end(), IsDigit)) {
         return number;
     }
@@ -124,6 +158,7 @@ QString modTableAbove::OwnNumber(QStringView cell)
 modTableAbove::cAbove modTableAbove::Read(const cTable& table, int rows)
 {
     cAbove above;
+    bool isIban = false;
     for (int row = 0; row < qMin(rows, table.RowCount()); ++row) {
         QStringList cells = table.Row(row);
         cells.removeAll(QString());
@@ -131,8 +166,10 @@ modTableAbove::cAbove modTableAbove::Read(const cTable& table, int rows)
             continue;
         }
         above.Labels += WithoutDigits(cells.first()) + u'\n';
-        if (above.Account.isEmpty()) {
-            above.Account = AccountIn(cells);
+        if (!isIban) { // it says more than the number above it
+            const QString account = AccountIn(cells);
+            isIban = modTableValue::IsIban(account);
+            above.Account = isIban || above.Account.isEmpty() ? account : above.Account;
         }
         if (!above.Balance) {
             above.Balance = BalanceIn(cells);

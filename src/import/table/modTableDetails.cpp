@@ -145,14 +145,40 @@ void ApplyAustrian(cImportEntry& entry)
     entry.ImportPurpose = kind;
 }
 
+// "Lastschrift   NAME   IBAN   PURPOSE   ...": three blanks part the pieces. Cards have a place behind the name,
+// bookings of the bank itself have no name.
+void ApplySpaced(QStringView text, cImportEntry& entry)
+{
+    QStringList pieces;
+    for (const QStringView piece : text.split(u"   ", Qt::SkipEmptyParts)) {
+        pieces.append(piece.trimmed().toString());
+    }
+    pieces.removeAll(QString());
+    if (pieces.size() < 2) {
+        return;
+    }
+    entry.ImportType = pieces.takeFirst();
+    if (pieces.size() > 1) {
+        entry.ImportBeneficiary = pieces.takeFirst();
+    }
+    if (IsAccount(pieces.first()) && pieces.size() > 1) {
+        entry.ImportBeneficiaryAccount = pieces.takeFirst();
+        if (IsBankCode(pieces.first()) && pieces.size() > 1) {
+            entry.ImportBeneficiaryBLZ = pieces.takeFirst();
+        }
+    }
+    entry.ImportPurpose = pieces.join(u' ').simplified();
+}
+
 } // namespace
 
-void modTableDetails::Apply(eDetails details, cImportEntry& entry)
+void modTableDetails::Apply(eDetails details, QStringView text, cImportEntry& entry)
 {
     switch (details) {
     case eDetails::None: break;
     case eDetails::Labelled: ApplyLabelled(entry); break;
     case eDetails::Austrian: ApplyAustrian(entry); break;
+    case eDetails::Spaced: ApplySpaced(text, entry); break;
     }
 }
 

@@ -13,6 +13,8 @@ namespace {
 using modTableHeader::cFound;
 using modTableHeader::cProbe;
 
+constexpr int rowsWithoutDay = 5; // that may stand below a header before the first one with a day
+
 bool IsEmpty(const cProbe& probe)
 {
     const auto isBlank = [](const auto& text) {
@@ -90,22 +92,34 @@ private:
 
     [[nodiscard]] bool IsTold(int place) const
     {
-        const QStringList cells = Cells(place);
+        return NamesColumns(Cells(place)) && HasDateBelow(place, SeparatorOf(place));
+    }
+
+    [[nodiscard]] static bool NamesColumns(const QStringList& cells)
+    {
         if (cells.size() < 3) {
             return false;
         }
         const cColumnMap map = modColumnWords::Detect(cells);
-        const bool hasAmount = map.Amount >= 0 || map.Debit >= 0 || map.Credit >= 0;
-        return map.Date >= 0 && hasAmount && HasDateBelow(place, SeparatorOf(place));
+        return map.Date >= 0 && (map.Amount >= 0 || map.Debit >= 0 || map.Credit >= 0);
     }
 
+    // The first rows may be pending or a balance and have no day.
     [[nodiscard]] bool HasDateBelow(int place, QChar separator) const
     {
-        for (int next = place + 1; next < m_probes.size(); ++next) {
-            if (!IsEmpty(m_probes.at(next))) {
-                const QStringList cells = modTableHeader::CellsOf(m_probes.at(next), separator);
-                return std::any_of(cells.begin(), cells.end(), modTableValue::IsDate);
+        int rows = 0;
+        for (int next = place + 1; next < m_probes.size() && rows < rowsWithoutDay; ++next) {
+            if (IsEmpty(m_probes.at(next))) {
+                continue;
             }
+            const QStringList cells = modTableHeader::CellsOf(m_probes.at(next), separator);
+            if (std::any_of(cells.begin(), cells.end(), modTableValue::IsDate)) {
+                return true;
+            }
+            if (NamesColumns(cells)) {
+                return false; // that is the one
+            }
+            ++rows;
         }
         return false;
     }

@@ -1,174 +1,21 @@
 #include "import/table/modTableProfile.h"
 
+#include "import/table/cKnownLayout.h"
+#include "import/table/cTable.h"
+#include "import/table/modColumnWords.h"
+#include "import/table/modTableAbove.h"
+#include "import/table/modTableValue.h"
+
 #include <QStringView>
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
-// A new bank is one entry here and one pair of test files. Header fields are separated by ";", "…" stands for any run
-// of columns, and empty fields at the end do not count. Columns are "field=header name", a place counted from 0 is
-// "#9".
-struct cProfile
-{
-    const char16_t* Name = nullptr;
-    const char16_t* Header = nullptr;
-    const char16_t* Columns = nullptr;
-    eNumberFormat Number = eNumberFormat::Detect;
-    eSignRule Sign = eSignRule::AsWritten;
-    eDetails Details = eDetails::None;
-    const char16_t* Currency = u"";
-    const char16_t* OnlyCurrency = u"";
-};
-
-constexpr std::array profiles = {
-    cProfile{u"Sparkasse (CSV-CAMT)",
-             u"Auftragskonto;Buchungstag;Valutadatum;Buchungstext;Verwendungszweck;Glaeubiger ID;Mandatsreferenz;"
-             u"Kundenreferenz (End-to-End);Sammlerreferenz;Lastschrift Ursprungsbetrag;Auslagenersatz Ruecklastschrift;"
-             u"Beguenstigter/Zahlungspflichtiger;Kontonummer/IBAN;BIC (SWIFT-Code);Betrag;Waehrung;Info;…",
-             u"own=Auftragskonto;date=Buchungstag;type=Buchungstext;purpose=Verwendungszweck;"
-             u"name=Beguenstigter/Zahlungspflichtiger;account=Kontonummer/IBAN;bank=BIC (SWIFT-Code);amount=Betrag;"
-             u"currency=Waehrung;status=Info"},
-    cProfile{u"Sparkasse (CSV-MT940)",
-             u"Auftragskonto;Buchungstag;Valutadatum;Buchungstext;Verwendungszweck;Beguenstigter/Zahlungspflichtiger;"
-             u"Kontonummer;BLZ;Betrag;Waehrung;Info",
-             u"own=Auftragskonto;date=Buchungstag;type=Buchungstext;purpose=Verwendungszweck;"
-             u"name=Beguenstigter/Zahlungspflichtiger;account=Kontonummer;bank=BLZ;amount=Betrag;currency=Waehrung;"
-             u"status=Info"},
-    cProfile{u"Sparkasse (Kreditkarte)",
-             u"Umsatz getätigt von;Belegdatum;Buchungsdatum;Originalbetrag;Originalwährung;Umrechnungskurs;"
-             u"Buchungsbetrag;Buchungswährung;Transaktionsbeschreibung;Transaktionsbeschreibung Zusatz;"
-             u"Buchungsreferenz;…",
-             u"date=Belegdatum;name=Transaktionsbeschreibung;purpose=Transaktionsbeschreibung;"
-             u"purpose2=Transaktionsbeschreibung Zusatz;amount=Buchungsbetrag;currency=Buchungswährung"},
-    cProfile{u"VR-Bank, GLS, Sparda",
-             u"Bezeichnung Auftragskonto;IBAN Auftragskonto;BIC Auftragskonto;Bankname Auftragskonto;Buchungstag;"
-             u"Valutadatum;Name Zahlungsbeteiligter;IBAN Zahlungsbeteiligter;BIC (SWIFT-Code) Zahlungsbeteiligter;"
-             u"Buchungstext;Verwendungszweck;Betrag;Waehrung;Saldo nach Buchung;Bemerkung;…",
-             u"own=IBAN Auftragskonto;ownbank=BIC Auftragskonto;date=Buchungstag;type=Buchungstext;"
-             u"purpose=Verwendungszweck;name=Name Zahlungsbeteiligter;account=IBAN Zahlungsbeteiligter;"
-             u"bank=BIC (SWIFT-Code) Zahlungsbeteiligter;amount=Betrag;currency=Waehrung;balance=Saldo nach Buchung"},
-    cProfile{u"VR-Bank (älter)",
-             u"Buchungstag;Valuta;Auftraggeber/Zahlungsempfänger;Empfänger/Zahlungspflichtiger;Konto-Nr.;IBAN;BLZ;BIC;"
-             u"Vorgang/Verwendungszweck;Kundenreferenz;Währung;Umsatz",
-             u"date=Valuta;purpose=Vorgang/Verwendungszweck;name=Empfänger/Zahlungspflichtiger;account=IBAN;bank=BIC;"
-             u"amount=Umsatz;currency=Währung;indicator=#12"},
-    cProfile{u"Sparda (älter)", u"Buchungstag;Wertstellungstag;Verwendungszweck;Umsatz;Währung",
-             u"date=Buchungstag;purpose=Verwendungszweck;amount=Umsatz;currency=Währung"},
-    cProfile{u"ING (mit Kategorie)",
-             u"Buchung;Valuta;Auftraggeber/Empfänger;Buchungstext;Kategorie;Verwendungszweck;Saldo;Währung;Betrag;"
-             u"Währung",
-             u"date=Valuta;name=Auftraggeber/Empfänger;type=Buchungstext;purpose=Verwendungszweck;balance=Saldo;"
-             u"amount=Betrag;currency=#9"},
-    cProfile{u"ING (mit Saldo)",
-             u"Buchung;Wertstellungsdatum;Auftraggeber/Empfänger;Buchungstext;Verwendungszweck;Saldo;Währung;Betrag;"
-             u"Währung",
-             u"date=Buchung;name=Auftraggeber/Empfänger;type=Buchungstext;purpose=Verwendungszweck;balance=Saldo;"
-             u"amount=Betrag;currency=#8"},
-    cProfile{u"ING (ohne Saldo)",
-             u"Buchung;Wertstellungsdatum;Auftraggeber/Empfänger;Buchungstext;Verwendungszweck;Betrag;Währung",
-             u"date=Buchung;name=Auftraggeber/Empfänger;type=Buchungstext;purpose=Verwendungszweck;amount=Betrag;"
-             u"currency=Währung"},
-    cProfile{u"ING Österreich", u"Kontonummer;Text;Datum;Währung;Soll;Haben",
-             u"own=Kontonummer;date=Datum;purpose=Text;currency=Währung;debit=Soll;credit=Haben"},
-    cProfile{u"DKB (bis 2023)",
-             u"Buchungstag;Wertstellung;Buchungstext;Auftraggeber / Begünstigter;Verwendungszweck;Kontonummer;BLZ;"
-             u"Betrag (EUR);Gläubiger-ID;Mandatsreferenz;Kundenreferenz",
-             u"date=Wertstellung;type=Buchungstext;name=Auftraggeber / Begünstigter;purpose=Verwendungszweck;"
-             u"account=Kontonummer;bank=BLZ;amount=Betrag (EUR)"},
-    cProfile{u"DKB",
-             u"Buchungsdatum;Wertstellung;Status;Zahlungspflichtige*r;Zahlungsempfänger*in;Verwendungszweck;Umsatztyp;"
-             u"IBAN;Betrag (€);Gläubiger-ID;Mandatsreferenz;Kundenreferenz",
-             u"date=Wertstellung;status=Status;payer=Zahlungspflichtige*r;name=Zahlungsempfänger*in;"
-             u"purpose=Verwendungszweck;type=Umsatztyp;account=IBAN;amount=Betrag (€)"},
-    cProfile{u"DKB Karte (bis 2023)",
-             u"Umsatz abgerechnet und nicht im Saldo enthalten;Wertstellung;Belegdatum;Beschreibung;Betrag (EUR);"
-             u"Ursprünglicher Betrag",
-             u"date=Wertstellung;name=Beschreibung;purpose=Beschreibung;amount=Betrag (EUR)"},
-    cProfile{u"DKB Karte", u"Belegdatum;Wertstellung;Status;Beschreibung;Umsatztyp;Betrag (€);Fremdwährungsbetrag",
-             u"date=Wertstellung;status=Status;name=Beschreibung;purpose=Beschreibung;type=Umsatztyp;"
-             u"amount=Betrag (€)"},
-    cProfile{u"DKB Karte", u"Belegdatum;Wertstellung;Status;Beschreibung;Umsatztyp;Betrag;Fremdwährungsbetrag",
-             u"date=Wertstellung;status=Status;name=Beschreibung;purpose=Beschreibung;type=Umsatztyp;amount=Betrag",
-             eNumberFormat::Detect, eSignRule::AsWritten, eDetails::None, u"EUR"},
-    cProfile{u"Commerzbank (bis 2024)",
-             u"Buchungstag;Wertstellung;Umsatzart;Buchungstext;Betrag;Währung;Auftraggeberkonto;"
-             u"Bankleitzahl Auftraggeberkonto;IBAN Auftraggeberkonto;Kategorie",
-             u"date=Wertstellung;type=Umsatzart;purpose=Buchungstext;amount=Betrag;currency=Währung;"
-             u"own=IBAN Auftraggeberkonto;ownbank=Bankleitzahl Auftraggeberkonto"},
-    cProfile{u"Commerzbank",
-             u"Buchungstag;Wertstellung;Umsatzart;Buchungstext;Betrag;Währung;IBAN Kontoinhaber;Kategorie",
-             u"date=Wertstellung;type=Umsatzart;purpose=Buchungstext;amount=Betrag;currency=Währung;"
-             u"own=IBAN Kontoinhaber"},
-    cProfile{u"comdirect", u"Buchungstag;Wertstellung (Valuta);Vorgang;Buchungstext;Umsatz in EUR",
-             u"date=Wertstellung (Valuta);type=Vorgang;purpose=Buchungstext;amount=Umsatz in EUR",
-             eNumberFormat::Detect, eSignRule::AsWritten, eDetails::Labelled},
-    cProfile{u"Deutsche Bank, Postbank",
-             u"Buchungstag;Wert;Umsatzart;Begünstigter / Auftraggeber;Verwendungszweck;IBAN / Kontonummer;BIC;"
-             u"Kundenreferenz;Mandatsreferenz;Gläubiger ID;Fremde Gebühren;Betrag;Abweichender Empfänger;"
-             u"Anzahl der Aufträge;Anzahl der Schecks;Soll;Haben;Währung",
-             u"date=Buchungstag;type=Umsatzart;name=Begünstigter / Auftraggeber;purpose=Verwendungszweck;"
-             u"account=IBAN / Kontonummer;bank=BIC;amount=Betrag;debit=Soll;credit=Haben;currency=Währung"},
-    cProfile{u"HypoVereinsbank",
-             u"Kontonummer;Buchungsdatum;Valuta;Empfaenger 1;Empfaenger 2;Verwendungszweck;Betrag;Waehrung",
-             u"own=Kontonummer;date=Valuta;name=Empfaenger 1;name2=Empfaenger 2;purpose=Verwendungszweck;"
-             u"amount=Betrag;currency=Waehrung"},
-    cProfile{u"Consorsbank",
-             u"Buchung;Valuta;Sender / Empfänger;IBAN / Konto-Nr.;BIC / BLZ;Buchungstext;Verwendungszweck;"
-             u"Betrag in EUR",
-             u"date=Valuta;name=Sender / Empfänger;account=IBAN / Konto-Nr.;bank=BIC / BLZ;type=Buchungstext;"
-             u"purpose=Verwendungszweck;amount=Betrag in EUR"},
-    cProfile{u"N26 (englisch, bis 2023)",
-             u"Date;Payee;Account number;Transaction type;Payment reference;Category;Amount (EUR);"
-             u"Amount (Foreign Currency);Type Foreign Currency;Exchange Rate",
-             u"date=Date;name=Payee;account=Account number;type=Transaction type;purpose=Payment reference;"
-             u"amount=Amount (EUR)",
-             eNumberFormat::English},
-    cProfile{u"N26",
-             u"Datum;Empfänger;Kontonummer;Transaktionstyp;Verwendungszweck;Kategorie;Betrag (EUR);"
-             u"Betrag (Fremdwährung);Fremdwährung;Wechselkurs",
-             u"date=Datum;name=Empfänger;account=Kontonummer;type=Transaktionstyp;purpose=Verwendungszweck;"
-             u"amount=Betrag (EUR)",
-             eNumberFormat::English},
-    cProfile{u"N26 (englisch)",
-             u"Booking Date;Value Date;Partner Name;Partner Iban;Type;Payment Reference;Account Name;Amount (EUR);"
-             u"Original Amount;Original Currency;Exchange Rate",
-             u"date=Booking Date;name=Partner Name;account=Partner Iban;type=Type;purpose=Payment Reference;"
-             u"amount=Amount (EUR)",
-             eNumberFormat::English},
-    // Payments in other currencies come with a pair of conversions; what changes the balance is in euros. Holds, which
-    // do not change it, have "Memo" in the last column.
-    cProfile{u"PayPal",
-             u"Datum;Uhrzeit;Zeitzone;Name;Typ;Status;Währung;Brutto;Gebühr;Netto;Absender E-Mail-Adresse;"
-             u"Empfänger E-Mail-Adresse;Transaktionscode;…;Guthaben;…;Betreff;Hinweis;…;Auswirkung auf Guthaben",
-             u"date=Datum;name=Name;type=Typ;status=Auswirkung auf Guthaben;currency=Währung;amount=Netto;"
-             u"purpose=Betreff;purpose2=Hinweis;balance=Guthaben",
-             eNumberFormat::Detect, eSignRule::AsWritten, eDetails::None, u"", u"EUR"},
-    cProfile{u"PayPal (kurz)",
-             u"Datum;Uhrzeit;Zeitzone;Name;Typ;Status;Währung;Brutto;Entgelt;Netto;Absender-E-Mail-Adresse;"
-             u"Empfänger-E-Mail-Adresse;Transaktionscode;Beschreibung;Betreff;Hinweis;Guthaben;Adressstatus",
-             u"date=Datum;name=Name;type=Typ;status=Status;currency=Währung;amount=Netto;purpose=Beschreibung;"
-             u"purpose2=Betreff;purpose3=Hinweis;balance=Guthaben",
-             eNumberFormat::Detect, eSignRule::AsWritten, eDetails::None, u"", u"EUR"},
-    cProfile{u"PostFinance", u"Booking date;Notification text;Credit in CHF;Debit in CHF;Value;Balance in CHF",
-             u"date=Booking date;purpose=Notification text;credit=Credit in CHF;debit=Debit in CHF;"
-             u"balance=Balance in CHF",
-             eNumberFormat::English, eSignRule::AsWritten, eDetails::None, u"CHF"},
-    cProfile{u"Viseca",
-             u"TransactionId;CardId;Date;ValutaDate;Amount;Currency;OriginalAmount;OriginalCurrency;MerchantName;"
-             u"MerchantPlace;MerchantCountry;StateType;Details;Type;Exchange Rate",
-             u"date=ValutaDate;amount=Amount;currency=Currency;name=MerchantName;status=StateType;purpose=Details;"
-             u"type=Type",
-             eNumberFormat::English, eSignRule::Negated},
-    cProfile{u"UBS", u"Abschlussdatum;…;Belastung;Gutschrift;…;Beschreibung1;Beschreibung2;Beschreibung3;…",
-             u"date=Abschlussdatum;currency=Währung;debit=Belastung;credit=Gutschrift;purpose=Beschreibung1;purpose2="
-             u"Beschreibung2;"
-             u"purpose3=Beschreibung3"},
-};
+constexpr int surveyedRows = 200;
+constexpr int mostUnknown = 2; // columns that a layout nearly like a known one may have besides
 
 struct cField
 {
@@ -196,96 +43,319 @@ constexpr std::array fields = {
     cField{u"ownbank", [](cColumnMap& map) -> int& { return map.OwnBankCode; }},
     cField{u"status", [](cColumnMap& map) -> int& { return map.Status; }},
     cField{u"balance", [](cColumnMap& map) -> int& { return map.Balance; }},
+    cField{u"fee", [](cColumnMap& map) -> int& { return map.Fee; }},
+    cField{u"othername", [](cColumnMap& map) -> int& { return map.OtherName; }},
 };
 
-// True when the header has the fields in their order, "…" standing for any run of them.
-bool IsHeader(QList<QStringView> pattern, QList<QStringView> header)
+// Columns without which a layout can still be read.
+constexpr std::array<QStringView, 9> dispensable = {u"status",  u"bank",  u"type",     u"balance", u"fee",
+                                                    u"ownbank", u"name2", u"purpose2", u"purpose3"};
+
+// Columns of a known layout, one after the other: what they are and how they are called.
+void ForEachColumn(const cKnownLayout& known, auto take)
 {
-    while (!header.isEmpty() && header.last().isEmpty()) {
-        header.removeLast();
+    for (const QStringView column : QStringView(known.Columns).split(u';')) {
+        const qsizetype sign = column.indexOf(u'=');
+        take(column.left(sign), column.mid(sign + 1));
+    }
+}
+
+// In any case; a letter that was lost on the way stands for any.
+bool IsSameName(QStringView pattern, QStringView name)
+{
+    const bool isOpen = pattern.endsWith(u'*') && pattern.size() > 1;
+    pattern.chop(isOpen ? 1 : 0);
+    if (isOpen ? name.size() < pattern.size() : name.size() != pattern.size()) {
+        return false;
+    }
+    return std::equal(pattern.begin(), pattern.end(), name.begin(), [](QChar wanted, QChar c) {
+        return wanted == c || wanted.toCaseFolded() == c.toCaseFolded() || c == QChar::ReplacementCharacter;
+    });
+}
+
+bool IsShape(const cKnownLayout& known)
+{
+    return QStringView(known.Header).startsWith(u'=');
+}
+
+// True when the header has the fields in their order, "…" standing for any run of them.
+bool IsHeader(const cKnownLayout& known, const QStringList& header)
+{
+    const QList<QStringView> pattern = QStringView(known.Header).split(u';');
+    qsizetype end = header.size();
+    while (end > 0 && header.at(end - 1).isEmpty()) {
+        --end;
     }
     qsizetype at = 0;
     bool isOpen = false;
-    for (const QStringView field : std::as_const(pattern)) {
+    for (const QStringView field : pattern) {
         if (field == u"…") {
             isOpen = true;
             continue;
         }
-        const qsizetype found = isOpen ? header.indexOf(field, at) : at;
-        if (found < 0 || found >= header.size() || header.at(found) != field) {
+        while (isOpen && at < end && !IsSameName(field, header.at(at))) {
+            ++at;
+        }
+        if (at >= end || !IsSameName(field, header.at(at))) {
             return false;
         }
-        at = found + 1;
+        ++at;
         isOpen = false;
     }
-    return isOpen || at == header.size();
+    return isOpen || at == end;
 }
 
-int ColumnOf(QStringView name, const QStringList& header)
+int ColumnOf(QStringView name, const QStringList& header, int columns)
 {
     if (name.startsWith(u'#')) {
         const int place = name.mid(1).toInt();
-        return place < header.size() ? place : -1;
+        return place < columns ? place : -1;
     }
-    return static_cast<int>(header.indexOf(name.toString()));
+    const auto found =
+        std::find_if(header.begin(), header.end(), [&](const QString& field) { return IsSameName(name, field); });
+    return found == header.end() ? -1 : static_cast<int>(found - header.begin());
 }
 
-void Take(const cProfile& profile, const QStringList& header, cTableLayout& layout)
+// Columns of a header that a known layout does not have, when its other columns are nearly all those of the layout.
+class cNearness
+{
+public:
+    cNearness(const cKnownLayout& known, const QStringList& header)
+    {
+        const QList<QStringView> pattern = QStringView(known.Header).split(u';');
+        m_isFit = !IsShape(known) && HasColumns(known, header);
+        for (const QStringView field : pattern) {
+            const auto count = std::count_if(header.begin(), header.end(),
+                                             [&](const QString& name) { return IsSameName(field, name); });
+            m_isFit = m_isFit && count <= 1; // which of the two would be meant?
+            m_isOpen = m_isOpen || field == u"…";
+            m_named += field == u"…" ? 0 : 1;
+            m_found += count > 0 ? 1 : 0;
+        }
+        for (int column = 0; m_isFit && column < header.size(); ++column) {
+            const QString& name = header.at(column);
+            const bool isKnown =
+                std::any_of(pattern.begin(), pattern.end(), [&](QStringView field) { return IsSameName(field, name); });
+            if (!isKnown && !name.isEmpty()) {
+                m_unknown.append(column);
+            }
+        }
+    }
+
+    [[nodiscard]] bool IsNear(const cColumnMap& told) const
+    {
+        return m_isFit && m_found * 4 >= m_named * 3 && (m_isOpen || m_unknown.size() <= mostUnknown)
+            && std::none_of(m_unknown.begin(), m_unknown.end(), [&](int column) { return IsWanted(told, column); });
+    }
+
+    [[nodiscard]] int Found() const { return m_found; }
+
+private:
+    [[nodiscard]] static bool HasColumns(const cKnownLayout& known, const QStringList& header)
+    {
+        bool hasAll = true;
+        ForEachColumn(known, [&](QStringView field, QStringView name) {
+            const bool isNeeded = std::find(dispensable.begin(), dispensable.end(), field) == dispensable.end();
+            hasAll = hasAll && !name.startsWith(u'#') && (!isNeeded || ColumnOf(name, header, 0) >= 0);
+        });
+        return hasAll;
+    }
+
+    // True for a column whose name tells that it should be read.
+    [[nodiscard]] static bool IsWanted(const cColumnMap& told, int column)
+    {
+        const std::array wanted{told.Name,  told.Name2,  told.Account, told.BankCode,   told.Amount,
+                                told.Debit, told.Credit, told.Date,    told.Purpose[0], told.Account2};
+        return std::find(wanted.begin(), wanted.end(), column) != wanted.end();
+    }
+
+    bool m_isFit = false;
+    bool m_isOpen = false;
+    int m_named = 0;
+    int m_found = 0;
+    QList<int> m_unknown;
+};
+
+// The known layout with this header, or the one with nearly the same; null when there is none.
+const cKnownLayout* Find(const QStringList& header)
+{
+    const auto all = cKnownLayout::All();
+    const auto exact =
+        std::find_if(all.begin(), all.end(), [&](const cKnownLayout& known) { return IsHeader(known, header); });
+    if (exact != all.end()) {
+        return &*exact;
+    }
+    const cColumnMap told = modColumnWords::Detect(header);
+    const cKnownLayout* best = nullptr;
+    int most = 0;
+    for (const cKnownLayout& known : all) {
+        const cNearness nearness(known, header);
+        if (nearness.Found() > most && nearness.IsNear(told)) {
+            best = &known;
+            most = nearness.Found();
+        }
+    }
+    return best;
+}
+
+void Take(const cKnownLayout& known, const QStringList& header, int columns, cTableLayout& layout)
 {
     cColumnMap map;
     map.Names = header;
-    map.ColumnCount = static_cast<int>(header.size());
-    for (const QStringView column : QStringView(profile.Columns).split(u';')) {
-        const qsizetype sign = column.indexOf(u'=');
-        const auto* const field = std::find_if(fields.begin(), fields.end(), [&](const cField& known) {
-            return column.left(sign) == QStringView(known.Name);
-        });
-        if (field != fields.end()) {
-            field->Place(map) = ColumnOf(column.mid(sign + 1), header);
+    map.ColumnCount = columns;
+    ForEachColumn(known, [&](QStringView field, QStringView name) {
+        const auto* const found = std::find_if(fields.begin(), fields.end(),
+                                               [&](const cField& entry) { return field == QStringView(entry.Name); });
+        if (found != fields.end()) {
+            found->Place(map) = ColumnOf(name, header, columns);
         }
-    }
+    });
     layout.Map = map;
     layout.Origin = eMapOrigin::Profile;
-    layout.Profile = QString::fromUtf16(profile.Name);
-    layout.Number = profile.Number;
-    layout.Sign = profile.Sign;
-    layout.Details = profile.Details;
-    layout.Currency = QString::fromUtf16(profile.Currency);
-    layout.OnlyCurrency = QString::fromUtf16(profile.OnlyCurrency);
+    layout.Profile = QString::fromUtf16(known.Name);
+    layout.Number = known.Number;
+    layout.Sign = known.Sign;
+    layout.Details = known.Details;
+    layout.Currency = QString::fromUtf16(known.Currency);
+    layout.OnlyCurrency = QString::fromUtf16(known.OnlyCurrency);
+}
+
+bool IsCode(QStringView cell)
+{
+    return cell.size() == 3 && std::all_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+}
+
+// A number, perhaps with a currency and with signs that make none of it for others.
+bool LooksNumeric(QStringView cell)
+{
+    constexpr int longestCode = 4;
+    const auto isLetter = [](QChar c) { return c.isLetter(); };
+    return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.isDigit(); })
+        && std::count_if(cell.begin(), cell.end(), isLetter) <= longestCode && !modTableValue::IsDate(cell);
+}
+
+bool IsOfKind(QStringView cell, QStringView kind)
+{
+    if (kind == u"empty") {
+        return cell.isEmpty();
+    }
+    if (kind == u"day") {
+        return modTableValue::IsDate(cell);
+    }
+    if (kind == u"amount") {
+        return LooksNumeric(cell);
+    }
+    if (kind == u"side") {
+        return cell.isEmpty() || LooksNumeric(cell);
+    }
+    if (kind == u"iban") {
+        return modTableValue::IsIban(modTableAbove::OwnNumber(cell));
+    }
+    return kind == u"code" ? IsCode(cell) : std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.isLetter(); });
+}
+
+bool IsRowOfShape(const cTable& table, int row, const QList<QStringView>& kinds)
+{
+    if (table.CellCount(row) != kinds.size()) {
+        return false;
+    }
+    for (int column = 0; column < kinds.size(); ++column) {
+        if (!IsOfKind(table.Cell(row, column), kinds.at(column))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool HasShape(const cTable& table, int first, const QList<QStringView>& kinds)
+{
+    const int end = qMin(table.RowCount(), first + surveyedRows);
+    int rows = 0;
+    int fits = 0;
+    for (int row = first; row < end; ++row) {
+        const bool isEmpty = table.CellCount(row) < 2;
+        rows += isEmpty ? 0 : 1;
+        fits += !isEmpty && IsRowOfShape(table, row, kinds) ? 1 : 0;
+    }
+    constexpr int most = 20; // one row in twenty may be something else
+    return fits > 0 && (rows - fits) * most <= rows;
 }
 
 } // namespace
 
 bool modTableProfile::Apply(const QStringList& header, cTableLayout& layout)
 {
-    const QList<QStringView> names(header.begin(), header.end());
-    const auto* const found = std::find_if(profiles.begin(), profiles.end(), [&](const cProfile& profile) {
-        return IsHeader(QStringView(profile.Header).split(u';'), names);
-    });
-    if (found == profiles.end()) {
+    const cKnownLayout* const found = Find(header);
+    if (found == nullptr) {
         return false;
     }
-    Take(*found, header, layout);
+    Take(*found, header, static_cast<int>(header.size()), layout);
     return true;
+}
+
+bool modTableProfile::ApplyShape(const cTable& table, cTableLayout& layout)
+{
+    for (const cKnownLayout& known : cKnownLayout::All()) {
+        const QList<QStringView> kinds = QStringView(known.Header).mid(1).split(u';');
+        if (IsShape(known) && HasShape(table, layout.FirstRow, kinds)) {
+            Take(known, {}, static_cast<int>(kinds.size()), layout);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool modTableProfile::Fits(const cTable& table, const cTableLayout& layout)
+{
+    const cColumnMap& map = layout.Map;
+    const int end = qMin(table.RowCount(), layout.FirstRow + surveyedRows);
+    int rows = 0;
+    int days = 0;
+    int amounts = 0;
+    for (int row = layout.FirstRow; row < end; ++row) {
+        if (table.CellCount(row) * 2 < map.ColumnCount) {
+            continue; // titles and balances between the bookings
+        }
+        const QStringView day = table.Cell(row, map.Date);
+        ++rows;
+        days += day.isEmpty() || modTableValue::ReadDate(day, layout.Date).isValid()
+                || !std::any_of(day.begin(), day.end(), [](QChar c) { return c.isDigit(); })
+            ? 1
+            : 0;
+        const std::array sides{map.Amount, map.Debit, map.Credit};
+        amounts += std::all_of(sides.begin(), sides.end(),
+                               [&](int column) {
+                                   const QStringView cell = table.Cell(row, column);
+                                   return cell.isEmpty() || LooksNumeric(cell);
+                               })
+            ? 1
+            : 0;
+    }
+    return days * 2 >= rows && amounts * 2 >= rows;
 }
 
 bool modTableProfile::ApplyNamed(const QString& name, const QStringList& header, cTableLayout& layout)
 {
-    const auto* const found = std::find_if(profiles.begin(), profiles.end(), [&](const cProfile& profile) {
-        return name.compare(QStringView(profile.Name), Qt::CaseInsensitive) == 0;
-    });
-    if (found == profiles.end()) {
+    const auto all = cKnownLayout::All();
+    const auto isNamed = [&](const cKnownLayout& known) {
+        return name.compare(QStringView(known.Name), Qt::CaseInsensitive) == 0;
+    };
+    const auto exact = std::find_if(
+        all.begin(), all.end(), [&](const cKnownLayout& known) { return isNamed(known) && IsHeader(known, header); });
+    const auto found = exact != all.end() ? exact : std::find_if(all.begin(), all.end(), isNamed);
+    if (found == all.end()) {
         return false;
     }
-    Take(*found, header, layout);
+    const qsizetype columns = IsShape(*found) ? QStringView(found->Header).split(u';').size() : header.size();
+    Take(*found, header, static_cast<int>(columns), layout);
     return true;
 }
 
 QStringList modTableProfile::Names()
 {
     QStringList names;
-    for (const cProfile& profile : profiles) {
-        names.append(QString::fromUtf16(profile.Name));
+    for (const cKnownLayout& known : cKnownLayout::All()) {
+        names.append(QString::fromUtf16(known.Name));
     }
     names.removeDuplicates();
     return names;

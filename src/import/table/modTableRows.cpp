@@ -8,7 +8,10 @@
 #include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableDetails.h"
+#include "import/table/modTableStatus.h"
 #include "import/table/modTableValue.h"
+
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -21,15 +24,13 @@ namespace {
 
 const QDate noDate(1001, 1, 1); // what is no date is staged on this day
 
-constexpr std::array<QStringView, 10> pendingWords = {u"vorgemerkt", u"pending",    u"ausstehend",    u"memo",
-                                                      u"offen",      u"reserviert", u"nicht gebucht", u"in bearbeitung",
-                                                      u"authorised", u"authorized"};
 constexpr std::array<QStringView, 14> balanceWords = {
     u"Anfangssaldo",    u"Endsaldo",     u"Schlusssaldo",   u"Startsaldo",       u"Opening balance",
     u"Closing balance", u"Turnover",     u"Kontostand",     u"Alter Kontostand", u"Neuer Kontostand",
     u"Saldo",           u"Saldovortrag", u"Anfangsbestand", u"Endbestand"};
 constexpr std::array<QStringView, 5> closingWords = {u"Endsaldo", u"Schlusssaldo", u"Closing balance", u"Kontostand",
                                                      u"Neuer Kontostand"};
+constexpr std::array<QStringView, 5> totalWords = {u"Summe", u"Gesamt", u"Gesamtsumme", u"Zwischensumme", u"Total"};
 constexpr QStringView bookingDayWords = u"Buchungstag|Buchungsdatum|Buchung|Booking date";
 
 bool IsOneOf(QStringView cell, const auto& words)
@@ -69,6 +70,8 @@ private:
     QString m_text;
 };
 
+using eState = modTableStatus::eState;
+
 class cRowReader
 {
 public:
@@ -91,16 +94,28 @@ public:
         }
         CollectPurposes();
         CountColumns();
+        const QList<int> texts{m_map.Date,       m_map.Purpose[0], m_map.Purpose[1], m_map.Purpose[2],
+                               m_map.Name,       m_map.Payer,      m_map.Name2,      m_map.Account,
+                               m_map.OwnAccount, m_map.Amount,     m_map.Debit,      m_map.Credit,
+                               m_map.Currency,   m_map.Balance,    m_map.Status,     m_map.OtherName};
+        for (int column = 0; column < m_map.ColumnCount; ++column) {
+            if (!texts.contains(column) && !m_purposes.contains(column)) {
+                m_others.append(column);
+            }
+        }
     }
 
     [[nodiscard]] cStatementRead Run()
     {
         m_read.Layout = m_layout.Profile;
         m_read.AccountKey = m_layout.AccountKey;
+        m_read.Problems += m_layout.Notes;
         m_read.Entries.reserve(m_end - qMin(m_layout.FirstRow, m_end));
         for (m_row = m_layout.FirstRow; m_row < m_end; ++m_row) {
             ReadRow();
         }
+        TellUnknownStates();
+        TellFees();
         CloseBalance();
         return std::move(m_read);
     }
@@ -186,7 +201,13 @@ private:
         }
         const std::optional<double> value = ValueOf(amount);
         cImportEntry entry = ToEntry(value.value_or(0.0));
-        if (IsPending()) {
+        const eState state = State();
+        if (IsTotal(entry)) {
+            Skip(eSkipped::Balance, cText::Tr("Die Zeile ist eine Summe und kein Umsatz: {0}", {Start()}));
+        } else if (state == eState::Void) {
+            Skip(eSkipped::Void, cText::Tr("Der Umsatz wurde nicht ausgeführt oder rückgängig gemacht: {0}", {Start()}),
+                 entry);
+        } else if (state == eState::Pending) {
             Skip(eSkipped::Pending, cText::Tr("Der Umsatz ist noch vorgemerkt: {0}", {Start()}), entry);
         } else if (!entry.ImportDate.isValid() && !HasDigit(Cell(m_map.Date))) {
             Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat kein Datum: {0}", {Start()}), entry);
@@ -240,6 +261,13 @@ private:
         return {};
     }
 
+    // A line below the bookings that adds them up. A shop may be called "Total": with a day it must be their sum.
+    [[nodiscard]] bool IsTotal(const cImportEntry& entry) const
+    {
+        return !FindCell(totalWords).isEmpty()
+            && (!entry.ImportDate.isValid() || (m_read.Entries.size() > 1 && entry.ImportValue == m_sum));
+    }
+
     [[nodiscard]] bool IsBalanceRow() const { return !FindCell(balanceWords).isEmpty(); }
 
     void TakeBalanceRow()
@@ -272,14 +300,20 @@ private:
     {
         if (amount.isEmpty()) {
             const std::optional<double> sides = SidesValue();
-            return sides ? std::optional<double>(Signed(*sides)) : sides;
+            return sides ? std::optional<double>(Signed(*sides) - Fee()) : sides;
         }
         std::optional<double> value = modTableValue::ReadAmount(amount, m_number);
         if (value && m_map.Indicator >= 0) {
             const int sign = modTableValue::IndicatorSign(Cell(m_map.Indicator));
             value = sign == 0 ? *value : std::abs(*value) * sign;
         }
-        return value ? std::optional<double>(Signed(*value)) : value;
+        return value ? std::optional<double>(Signed(*value) - Fee()) : value;
+    }
+
+    // Banks write fees with either sign; they always go out.
+    [[nodiscard]] double Fee() const
+    {
+        return m_map.Fee < 0 ? 0.0 : std::abs(modTableValue::ReadAmount(Cell(m_map.Fee), m_number).value_or(0.0));
     }
 
     [[nodiscard]] double Signed(double value) const { return m_layout.Sign == eSignRule::Negated ? -value : value; }
@@ -313,11 +347,14 @@ private:
         entry.ImportType = m_type.Of(Cell(m_map.Text));
         entry.ImportPurpose = Purpose();
         entry.ImportBeneficiary = Counterparty(value);
+        if (entry.ImportBeneficiary.isEmpty()) {
+            entry.ImportBeneficiary = Cell(m_map.OtherName).toString();
+        }
         entry.ImportBeneficiaryAccount = CounterAccount(entry.ImportAccount);
         entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
         entry.ImportValue = modAmount::ToEvenCents(value);
         entry.ImportCurrency = m_map.Currency >= 0 ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
-        modTableDetails::Apply(m_layout.Details, entry);
+        modTableDetails::Apply(m_layout.Details, Cell(m_map.Purpose[0]), entry);
         return entry;
     }
 
@@ -400,13 +437,48 @@ private:
         return modTableRows::CleanPurpose(std::move(joined));
     }
 
-    [[nodiscard]] bool IsPending() const
+    [[nodiscard]] eState State()
     {
-        const auto isPending = [&](int column) {
-            return column >= 0 && (Cell(column).isEmpty() || IsOneOf(Cell(column), pendingWords));
-        };
         const QStringView status = Cell(m_map.Status);
-        return isPending(m_map.Date) || isPending(m_bookingDay) || (!status.isEmpty() && IsOneOf(status, pendingWords));
+        if (const eState state = modTableStatus::Of(status); state != eState::Unknown) {
+            return state;
+        }
+        if (!status.isEmpty() && m_unknownStates.size() <= mostUnknownStates) {
+            m_unknownStates.insert(status.toString());
+        }
+        for (const int column : std::as_const(m_others)) {
+            if (const eState state = modTableStatus::OfAny(Cell(column)); state != eState::Unknown) {
+                return state;
+            }
+        }
+        const auto isPending = [&](int column) {
+            return column >= 0 && (Cell(column).isEmpty() || modTableStatus::Of(Cell(column)) == eState::Pending);
+        };
+        return isPending(m_map.Date) || isPending(m_bookingDay) ? eState::Pending : eState::Booked;
+    }
+
+    // A column with more of them is none of states.
+    void TellUnknownStates()
+    {
+        if (m_unknownStates.isEmpty() || m_unknownStates.size() > mostUnknownStates) {
+            return;
+        }
+        QStringList states(m_unknownStates.begin(), m_unknownStates.end());
+        states.sort();
+        m_read.Problems.append(
+            {0,
+             cText::Tr("Ob diese Umsätze schon gebucht sind, ist nicht sicher; sie wurden übernommen. In der Spalte "
+                       "\"{0}\" steht: {1}",
+                       {m_map.Names.value(m_map.Status), states.join(u", "_s).left(80)})});
+    }
+
+    void TellFees()
+    {
+        if (m_fees > 0) {
+            m_read.Problems.append({0,
+                                    cText::Tr("In {0} Zeilen steht eine Gebühr neben dem Betrag; sie wurde abgezogen.",
+                                              {QString::number(m_fees)})});
+        }
     }
 
     void Take(cImportEntry& entry)
@@ -416,12 +488,8 @@ private:
                 Problem(cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {Cell(m_map.Date).left(40).toString()})));
             entry.ImportDate = noDate;
         }
-        if (Cell(m_map.Status).contains(u"vorgemerkt", Qt::CaseInsensitive)) {
-            m_read.Problems.append(Problem(
-                cText::Tr("Die Bank nennt diesen Umsatz noch vorgemerkt. Er wurde übernommen, weil er schon ein "
-                          "Buchungsdatum hat: {0}",
-                          {Start()})));
-        }
+        m_sum += entry.ImportValue;
+        m_fees += Fee() != 0.0 ? 1 : 0;
         TakeBalance(entry);
         m_read.Entries.append(std::move(entry));
     }
@@ -504,9 +572,15 @@ private:
     const cColumnMap& m_map;
     QString m_account;
     eNumberFormat m_number;
+    static constexpr qsizetype mostUnknownStates = 3;
+
     int m_end;                           // behind the last row that is read
     int m_columns = cTable::mostColumns; // a row has no more of them
     int m_bookingDay = -1;
+    QList<int> m_others; // columns that may say in what state a row is, beside the one for it
+    QSet<QString> m_unknownStates;
+    qint64 m_sum = 0; // cents of the rows taken
+    int m_fees = 0;
     int m_row = 0;
     QList<int> m_purposes; // in the order in which they are joined
     cStatementRead m_read;

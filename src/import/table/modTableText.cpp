@@ -1,5 +1,7 @@
 #include "import/table/modTableText.h"
 
+#include <algorithm>
+
 namespace {
 
 // A quote that is not closed within so many characters was meant as a letter.
@@ -34,7 +36,9 @@ private:
     [[nodiscard]] QChar SeparatorHere() const
     {
         const QStringView rest = QStringView(m_text).mid(m_at);
-        return modTableText::SeparatorOf(rest.left(qMax(qsizetype{0}, rest.indexOf(u'\n'))));
+        const auto* const end =
+            std::find_if(rest.begin(), rest.end(), [](QChar c) { return c == u'\n' || c == u'\r'; });
+        return modTableText::SeparatorOf(rest.left(end - rest.begin()));
     }
 
     // True for what ends a field at this place.

@@ -3,6 +3,7 @@
 #include "base/modAmount.h"
 #include "import/read/modAccountNumber.h"
 #include "import/table/modTableNumber.h"
+#include "import/table/modTextDate.h"
 
 #include <QList>
 
@@ -91,7 +92,11 @@ bool IsOneOf(QStringView cell, QStringView words)
 
 QDate modTableValue::ReadDate(QStringView cell, eDateOrder order)
 {
-    const cDateParts found = PartsOf(WithoutTime(cell));
+    const QStringView text = WithoutTime(cell).trimmed();
+    if (const QDate named = modTextDate::Read(text); named.isValid()) {
+        return named;
+    }
+    const cDateParts found = PartsOf(text);
     const auto& [first, second, third] = found.Parts;
     if (found.Count == 1 && first.Size == 8) {
         return {first.Value / 10000, first.Value / 100 % 100, first.Value % 100};
@@ -108,12 +113,12 @@ QDate modTableValue::ReadDate(QStringView cell, eDateOrder order)
 bool modTableValue::IsDate(QStringView cell)
 {
     const QStringView day = WithoutTime(cell).trimmed();
+    const auto isDay = [](QDate date) { return date.isValid() && date.year() >= 1970 && date.year() < 2100; };
     const bool isPlain =
         day.size() >= 6 && std::all_of(day.begin(), day.end(), [](QChar c) { return IsDigit(c) || IsDateSign(c); });
     if (!isPlain) {
-        return false;
+        return isDay(modTextDate::Read(day));
     }
-    const auto isDay = [](QDate date) { return date.isValid() && date.year() >= 1970 && date.year() < 2100; };
     // With strokes the month may come first.
     return isDay(ReadDate(day)) || (day.contains(u'/') && isDay(ReadDate(day, eDateOrder::MonthDayYear)));
 }

@@ -11,8 +11,9 @@
 // Days and amounts as they stand in the cells of a table.
 namespace modTableValue {
 
-// A time behind the day is cut and all other letters are passed over; then day.month.year (or the order given),
-// yyyy-mm-dd, yyyymmdd. A two-digit year lies in 2000 to 2099. Invalid when the text is no date.
+// A time behind the day is cut. The month may be a word; else all letters are passed over, and it is read as
+// day.month.year (or the order given), yyyy-mm-dd, yyyymmdd. A two-digit year lies in 2000 to 2099. Invalid when the
+// text is no date.
 [[nodiscard]] QDate ReadDate(QStringView cell, eDateOrder order = eDateOrder::DayMonthYear);
 
 // True when the cell is a day and nothing else but a time.

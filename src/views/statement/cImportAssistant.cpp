@@ -2,6 +2,7 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
+#include "base/cUser.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "import/read/cStatementSource.h"
@@ -13,10 +14,13 @@
 #include "import/stage/cStatementImport.h"
 #include "import/table/cTable.h"
 #include "import/table/cTableMemory.h"
+#include "import/table/modLayoutFile.h"
 #include "import/table/modTableRows.h"
 #include "import/table/modTableValue.h"
 #include "model/modCutText.h"
 #include "store/cDataAccess.h"
+#include "views/list/modFileWrite.h"
+#include "views/statement/cLayoutTaken.h"
 #include "views/statement/modColumnMeaning.h"
 #include "views/statement/modImportPreview.h"
 #include "views/statement/modImportText.h"
@@ -338,6 +342,50 @@ void cImportAssistant::Reset()
     Evaluate();
 }
 
+bool cImportAssistant::CanSaveLayout() const
+{
+    return IsTable() && !modLayoutFile::ToText(m_works->Opened.Layout, {}).isEmpty();
+}
+
+void cImportAssistant::SaveLayout()
+{
+    const cTableLayout& layout = m_works->Opened.Layout;
+    const QString name = layout.Profile.isEmpty() ? QFileInfo(m_works->Source.Name).completeBaseName() : layout.Profile;
+    const QString path = m_parts.User.ChooseSavePath(cText::Tr("Aufbau speichern"),
+                                                     cText::Tr("Aufbau einer Tabelle|*.txt|Alle Dateien|*.*"),
+                                                     cText::Tr("Aufbau {0}.txt", {QString(name).replace(u'/', u'-')}));
+    if (path.isEmpty()) {
+        return;
+    }
+    const QString fault = modFileWrite::Replace(path, modLayoutFile::ToText(layout, name).toUtf8());
+    if (!fault.isEmpty()) {
+        m_parts.User.Show(eTone::Exclamation, fault);
+    }
+}
+
+void cImportAssistant::LoadLayout()
+{
+    const QString path =
+        m_parts.User.ChooseFiles(cText::Tr("Aufbau laden"), cText::Tr("Aufbau einer Tabelle|*.txt|Alle Dateien|*.*"))
+            .value(0);
+    if (path.isEmpty()) {
+        return;
+    }
+    const cLayoutTaken taken = cLayoutTaken::File(path, m_parts.Memory);
+    if (!taken.Fault.isEmpty()) {
+        m_parts.User.Show(eTone::Exclamation, taken.Fault);
+        return;
+    }
+    Reset();
+    const bool isOfThis = m_works->Opened.Layout.Key == taken.Key;
+    m_parts.User.Show(
+        eTone::Information,
+        isOfThis ? cText::Tr("Der Aufbau \"{0}\" gilt nun für diese Datei und alle mit denselben "
+                             "Spaltennamen.",
+                             {taken.Name})
+                 : cText::Tr("Der Aufbau \"{0}\" ist gemerkt. Diese Datei hat andere Spaltennamen.", {taken.Name}));
+}
+
 void cImportAssistant::Touch()
 {
     m_isTouched = true;
@@ -360,8 +408,9 @@ void cImportAssistant::Evaluate()
                                                    : modSpreadsheet::Open(works.Book, options);
         options.Memory = nullptr; // it would name an account that the file does not
         options.Table.Account.clear();
-        works.FileAccounts =
-            cImportHive::AccountsOf(modTable::ReadRows(*works.Opened.Table, works.Opened.Layout, options).Entries);
+        const cStatementRead read = modTable::ReadRows(*works.Opened.Table, works.Opened.Layout, options);
+        // A further part of the file may name its account where the first one does not.
+        works.FileAccounts = read.NeedsAccount ? QStringList() : cImportHive::AccountsOf(read.Entries);
         works.FileAccounts.removeAll(QString());
     }
     cImportOptions options = Options();
@@ -381,8 +430,10 @@ void cImportAssistant::ReadPreview()
     m_rows.clear();
     if (IsTable()) {
         const int first = m_works->Opened.Layout.FirstRow;
-        const int end = qMin(m_works->Opened.Table->RowCount(), first + ShownRows);
         cTableLayout layout = m_works->Opened.Layout;
+        const int all = layout.EndRow < 0 ? m_works->Opened.Table->RowCount() : layout.EndRow;
+        const int end = qMin(all, first + ShownRows);
+        layout.Notes.clear(); // they are about the whole table
         layout.Number = NumberOf(m_works->Opened);
         layout.HeaderRow = -1;
         layout.FirstRow = 0;

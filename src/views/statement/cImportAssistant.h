@@ -13,6 +13,7 @@ class cAmountFormat;
 class cDataAccess;
 class cImportHiveCache;
 class cTableMemory;
+class cUser;
 struct cImportOptions;
 struct cStatementSource;
 struct cTableLayout;
@@ -32,6 +33,7 @@ public:
         cImportHiveCache& Hive;
         cAccountMap& Accounts;
         cTableMemory& Memory;
+        cUser& User;
     };
 
     // Choices out of a fixed list.
@@ -106,6 +108,11 @@ public:
 
     // Forgets what was chosen about the table.
     void Reset();
+    // The layout of the table as a small file for others; only where the columns have names.
+    [[nodiscard]] bool CanSaveLayout() const;
+    void SaveLayout();
+    // Takes such a file; it counts for this file too when that has the same columns. The user is told what came of it.
+    void LoadLayout();
 
     [[nodiscard]] const QList<cRow>& Rows() const { return m_rows; } // the first ones
     [[nodiscard]] QString CountText() const;                         // what would be taken

@@ -16,10 +16,14 @@
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTable.h"
 #include "import/table/cTableMemory.h"
+#include "import/table/modLayoutFile.h"
 #include "import/table/modTable.h"
+#include "import/table/modTableProfile.h"
+#include "views/list/modFileWrite.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
 #include "views/statement/cImportRuns.h"
+#include "views/statement/cLayoutTaken.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"
@@ -28,6 +32,8 @@
 #include "views/statement/cStatementFiles.h"
 #include "views/statement/modImportText.h"
 #include "views/statement/modTableOption.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -42,6 +48,7 @@ QString Name(eSkipped kind)
     case eSkipped::Balance: return u"balance"_s;
     case eSkipped::Unreadable: return u"unreadable"_s;
     case eSkipped::OtherCurrency: return u"otherCurrency"_s;
+    case eSkipped::Void: return u"void"_s;
     }
     return {};
 }
@@ -366,4 +373,32 @@ cFileFinding cStatementDesk::Examine(const QString& path, const cFileWish& wish)
         finding.Refusal = modStatementFormat::Refusal(format);
     }
     return finding;
+}
+
+QStringList cStatementDesk::LayoutNames()
+{
+    return modTableProfile::Names();
+}
+
+QString cStatementDesk::ExportLayout(const QString& path, const cFileWish& wish, const QString& target)
+{
+    const modStatementFile::cContent content = modStatementFile::Read(path);
+    if (!content.Failure.isEmpty()) {
+        return content.Failure;
+    }
+    cReadOptions options;
+    options.Table = modTableOption::Choice(wish);
+    options.Memory = &m_works->Memory;
+    const std::optional<modTable::cOpened> opened =
+        OpenTable(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options);
+    const QString name =
+        opened && !opened->Layout.Profile.isEmpty() ? opened->Layout.Profile : QFileInfo(target).completeBaseName();
+    const QString text = opened ? modLayoutFile::ToText(opened->Layout, name) : QString();
+    return text.isEmpty() ? cText::Tr("Die Datei ist keine Tabelle mit Spaltennamen, Tag und Betrag: {0}", {path})
+                          : modFileWrite::Replace(target, text.toUtf8());
+}
+
+cLayoutTaken cStatementDesk::ImportLayout(const QString& path)
+{
+    return cLayoutTaken::File(path, m_works->Memory);
 }

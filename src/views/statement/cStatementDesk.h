@@ -21,6 +21,7 @@ struct cBookTools;
 struct cFileFinding;
 struct cFileReport;
 struct cFileWish;
+struct cLayoutTaken;
 
 // The staged rows of a book with all that is done with them, for a program that shows no page of them. Nobody is asked
 // how a file is to be read.
@@ -73,6 +74,14 @@ public:
 
     // What a file is and how it would be read; a refusal when it cannot be opened.
     [[nodiscard]] cFileFinding Examine(const QString& path, const cFileWish& wish);
+
+    // The layouts that are known by name.
+    [[nodiscard]] static QStringList LayoutNames();
+    // Writes the layout of a table, as it would be read, as a file for others; see modLayoutFile. What went wrong in
+    // German, empty when it is written.
+    [[nodiscard]] QString ExportLayout(const QString& path, const cFileWish& wish, const QString& target);
+    // Takes such a file; see cLayoutTaken.
+    [[nodiscard]] cLayoutTaken ImportLayout(const QString& path);
 
 private:
     struct cWorks; // the tools of the import floor

@@ -296,7 +296,8 @@ std::unique_ptr<cImportAssistant> cStatementFiles::StartAssistant(const QString&
     if (!content.Failure.isEmpty()) {
         return nullptr;
     }
-    const cImportAssistant::cParts parts{m_tools.Data, m_tools.Format, m_hive, m_accounts, m_works->Memory};
+    const cImportAssistant::cParts parts{m_tools.Data, m_tools.Format,  m_hive,
+                                         m_accounts,   m_works->Memory, m_tools.User};
     return std::make_unique<cImportAssistant>(parts, modStatementFormat::Source(path, content.Bytes));
 }
 

@@ -30,6 +30,8 @@ constexpr std::array names = {
     QT_TRANSLATE_NOOP("cText", "eigene Bankleitzahl"),
     QT_TRANSLATE_NOOP("cText", "Stand (vorgemerkt, gebucht)"),
     QT_TRANSLATE_NOOP("cText", "Saldo"),
+    QT_TRANSLATE_NOOP("cText", "Gebühr (kommt zum Betrag hinzu)"),
+    QT_TRANSLATE_NOOP("cText", "Empfänger, wenn keiner genannt ist"),
 };
 
 // Where the map keeps each meaning but the first; the second side of tables that list both comes last and has no name.
@@ -38,7 +40,7 @@ QList<int*> Places(cColumnMap& map)
     return {&map.Date,       &map.Amount,     &map.Debit,      &map.Credit,      &map.Indicator, &map.Purpose[0],
             &map.Purpose[1], &map.Purpose[2], &map.Name,       &map.Payer,       &map.Account,   &map.BankCode,
             &map.Text,       &map.Currency,   &map.OwnAccount, &map.OwnBankCode, &map.Status,    &map.Balance,
-            &map.Name2,      &map.Account2,   &map.BankCode2};
+            &map.Fee,        &map.OtherName,  &map.Name2,      &map.Account2,    &map.BankCode2};
 }
 
 } // namespace

@@ -17,6 +17,7 @@ QString modImportPreview::Kind(eSkipped kind)
     case eSkipped::Balance: return cText::Tr("Saldo");
     case eSkipped::Unreadable: return cText::Tr("nicht lesbar");
     case eSkipped::OtherCurrency: return cText::Tr("andere Währung");
+    case eSkipped::Void: return cText::Tr("nicht ausgeführt");
     }
     return {};
 }

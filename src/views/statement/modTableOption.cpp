@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "import/read/cTableChoice.h"
+#include "import/table/modColumnField.h"
 #include "import/table/modTableProfile.h"
 #include "views/statement/cFileWish.h"
 
@@ -24,33 +25,6 @@ constexpr std::array charsets = {
     cCharsetName{eCharset::Utf16BE, u"utf-16be"},
 };
 
-struct cColumnName
-{
-    const char16_t* Name;
-    int cColumnMap::*Place;
-};
-
-constexpr std::array columns = {
-    cColumnName{u"datum", &cColumnMap::Date},
-    cColumnName{u"art", &cColumnMap::Text},
-    cColumnName{u"name", &cColumnMap::Name},
-    cColumnName{u"konto", &cColumnMap::Account},
-    cColumnName{u"blz", &cColumnMap::BankCode},
-    cColumnName{u"betrag", &cColumnMap::Amount},
-    cColumnName{u"soll", &cColumnMap::Debit},
-    cColumnName{u"haben", &cColumnMap::Credit},
-    cColumnName{u"waehrung", &cColumnMap::Currency},
-    cColumnName{u"kennzeichen", &cColumnMap::Indicator},
-    cColumnName{u"zahler", &cColumnMap::Payer},
-    cColumnName{u"name2", &cColumnMap::Name2},
-    cColumnName{u"konto2", &cColumnMap::Account2},
-    cColumnName{u"blz2", &cColumnMap::BankCode2},
-    cColumnName{u"eigenkonto", &cColumnMap::OwnAccount},
-    cColumnName{u"eigenblz", &cColumnMap::OwnBankCode},
-    cColumnName{u"status", &cColumnMap::Status},
-    cColumnName{u"saldo", &cColumnMap::Balance},
-};
-
 struct cSignName
 {
     eSignRule Sign;
@@ -62,26 +36,10 @@ constexpr std::array signs = {
     cSignName{eSignRule::Negated, u"umgekehrt"},
 };
 
-constexpr std::array purposes = {u"zweck", u"zweck2", u"zweck3"};
-
-// Where the map keeps the column; null when there is none of that name.
-int* PlaceOf(cColumnMap& map, const QString& name)
-{
-    const QString spelled = name.toLower().replace(u'ä', u"ae"_s);
-    for (std::size_t i = 0; i < purposes.size(); ++i) {
-        if (spelled == QStringView(purposes.at(i))) {
-            return &map.Purpose.at(i);
-        }
-    }
-    const auto* const found = std::find_if(
-        columns.begin(), columns.end(), [&](const cColumnName& column) { return spelled == QStringView(column.Name); });
-    return found == columns.end() ? nullptr : &(map.*(found->Place));
-}
-
 // "betrag=5". False when it is not of that form.
 bool Take(const QString& part, cColumnMap& map)
 {
-    int* const place = PlaceOf(map, part.section(u'=', 0, 0).trimmed());
+    int* const place = modColumnField::PlaceOf(map, part.section(u'=', 0, 0).trimmed());
     bool isNumber = false;
     const int column = part.section(u'=', 1).trimmed().toInt(&isNumber);
     if (place == nullptr || !isNumber || column < 0) {
@@ -156,14 +114,7 @@ QStringList modTableOption::SignNames()
 
 QStringList modTableOption::ColumnNames()
 {
-    QStringList names;
-    for (const cColumnName& column : columns) {
-        names.append(QString::fromUtf16(column.Name));
-    }
-    for (const char16_t* purpose : purposes) {
-        names.append(QString::fromUtf16(purpose));
-    }
-    return names;
+    return modColumnField::Names();
 }
 
 QString modTableOption::Fault(const cFileWish& wish)
@@ -216,7 +167,7 @@ QList<std::pair<QString, int>> modTableOption::Columns(const cColumnMap& map)
     QList<std::pair<QString, int>> list;
     const QStringList names = ColumnNames();
     for (const QString& name : names) {
-        if (const int column = *PlaceOf(copy, name); column >= 0) {
+        if (const int column = *modColumnField::PlaceOf(copy, name); column >= 0) {
             list.append({name, column});
         }
     }

@@ -193,6 +193,12 @@ QDialogButtonBox* frmImportAssistent::BuildButtons()
     m_reset = buttons->addButton(cText::Tr("&Neu erkennen"), QDialogButtonBox::ResetRole);
     m_reset->setToolTip(cText::Tr("Verwirft, was hier über die Tabelle gewählt wurde"));
     connect(m_reset, &QPushButton::clicked, &m_assistant, &cImportAssistant::Reset);
+    m_save = buttons->addButton(cText::Tr("Aufbau &speichern…"), QDialogButtonBox::ActionRole);
+    m_save->setToolTip(cText::Tr("Schreibt die Bedeutung der Spalten in eine kleine Datei, zum Weitergeben"));
+    m_load = buttons->addButton(cText::Tr("A&ufbau laden…"), QDialogButtonBox::ActionRole);
+    m_load->setToolTip(cText::Tr("Liest eine solche Datei ein und merkt sie sich"));
+    connect(m_save, &QPushButton::clicked, &m_assistant, &cImportAssistant::SaveLayout);
+    connect(m_load, &QPushButton::clicked, &m_assistant, &cImportAssistant::LoadLayout);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;
@@ -258,6 +264,9 @@ void frmImportAssistent::ShowFields()
     m_headerLabel->setVisible(isTable);
     m_header->setVisible(isTable);
     m_reset->setVisible(isTable);
+    m_load->setVisible(isTable);
+    m_save->setVisible(isTable);
+    m_save->setEnabled(m_assistant.CanSaveLayout());
     const QSignalBlocker header(m_header);
     m_header->setRange(0, m_assistant.LastHeaderLine());
     m_header->setValue(m_assistant.HeaderLine());

@@ -68,4 +68,6 @@ private:
     QPlainTextEdit* m_leftOut;
     QPushButton* m_import = nullptr;
     QPushButton* m_reset = nullptr;
+    QPushButton* m_save = nullptr;
+    QPushButton* m_load = nullptr;
 };
