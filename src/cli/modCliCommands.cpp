@@ -31,6 +31,7 @@ const QList<cCliCommand>& modCliCommands::All()
         FetchCommand(),
         StagedCommand(),
         StatementCommand(),
+        ReconcileCommand(),
         ProposeCommand(),
         BookCommand(),
         MatchCommand(),

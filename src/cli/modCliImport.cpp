@@ -129,6 +129,7 @@ int Run(const cCliContext& context)
     cFileWish wish = modCliTableChoice::Read(context.Call, reader);
     wish.BookAccount = context.Call.Value(u"book-account"_s);
     wish.KeepsDuplicates = context.Call.Has(u"keep-duplicates"_s);
+    wish.KeepsStart = context.Call.Has(u"keep-start"_s);
     wish.TakesEqual = context.Call.Has(u"take-equal"_s);
     wish.Remembers = context.Call.Has(u"remember"_s);
     wish.IsTrial = context.Call.Has(u"dry-run"_s);
@@ -175,6 +176,7 @@ cCliCommand modCliCommands::ImportCommand()
                     {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
                     {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
                     TakeEqual(),
+                    {u"keep-start"_s, {}, cText::Tr("beim ersten Auszug eines Kontos kein Startguthaben eintragen")},
                     {u"remember"_s,
                      {},
                      cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},

@@ -17,6 +17,7 @@
 #include "views/entry/cStartBalance.h"
 #include "views/entry/modEntryFields.h"
 #include "views/entry/modSplitParts.h"
+#include "views/ledger/cReconciledDays.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -223,8 +224,9 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     removed.removeIf([&](int id) {
         return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
     });
+    cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
-    if (!step.DoneIf(writer.Write(rows, removed, m_from))) {
+    if (!step.DoneIf(writer.Write(rows, removed, m_from) && guard.Allows())) {
         return eSaved::Refused;
     }
     Remember(rows);

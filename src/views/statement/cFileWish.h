@@ -12,6 +12,7 @@ struct cFileWish
     QString Profile{};     // a bank's known layout
     QString Columns{};     // of a table: "datum=0,betrag=5,zweck=3"
     bool KeepsDuplicates = false;
+    bool KeepsStart = false; // the first statement of an account changes no start balance
     bool TakesEqual = false; // rows that the file has more often than the book, also where no balance proves them
     bool Remembers = false;  // columns and layout, for the next table with the same header
     bool IsTrial = false;    // nothing is written
