@@ -283,6 +283,16 @@ void cNavigation::OpenAccountStatement()
         OpenEntry(entryId, day);
         statement.Reload();
     });
+    QObject::connect(&form, &frmKontoauszug::BookRequested, m_model, [&](int rowId) {
+        cProgressBox progress(&form, cText::Tr("Umsätze werden gebucht …"));
+        m_review->Book({rowId}, progress);
+        statement.Reload();
+    });
+    QObject::connect(&form, &frmKontoauszug::DeleteRequested, m_model, [&](int entryId, QDate day) {
+        m_model->Delete({{entryId, day}});
+        statement.Reload();
+    });
+    QObject::connect(&form, &frmKontoauszug::ReconcileChanged, m_model, &cMainModel::BookChanged);
     const auto print = [&](void (cQtPrinter::*way)(cPrintable&, QWidget*)) {
         cListPrinter pages(statement);
         (m_printer.*way)(pages, &form);

@@ -147,9 +147,11 @@ void cCliCall::CheckCounts()
 
 eCliAccess cCliCall::Access() const
 {
-    const QStringList& reading = m_command->ReadsWith;
+    const auto hasAny = [this](const QStringList& options) {
+        return std::any_of(options.begin(), options.end(), [this](const QString& option) { return Has(option); });
+    };
     const bool onlyReads =
-        std::any_of(reading.begin(), reading.end(), [this](const QString& option) { return Has(option); });
+        hasAny(m_command->ReadsWith) || (!m_command->WritesWith.isEmpty() && !hasAny(m_command->WritesWith));
     return onlyReads ? eCliAccess::Read : m_command->Access;
 }
 

@@ -33,7 +33,8 @@ struct cCliCommand
     int MinArguments = 0;
     int MaxArguments = 0;
     eCliAccess Access = eCliAccess::Read;
-    QStringList ReadsWith{}; // with one of these options it only reads, whatever Access says
+    QStringList ReadsWith{};  // with one of these options it only reads, whatever Access says
+    QStringList WritesWith{}; // where there are any: it only reads without one of these
     QList<cCliOption> Options{};
     int (*Run)(const cCliContext&) = nullptr; // gives the exit code
 };

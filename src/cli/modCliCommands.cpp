@@ -34,6 +34,7 @@ const QList<cCliCommand>& modCliCommands::All()
         FetchCommand(),
         StagedCommand(),
         StatementCommand(),
+        ReconcileCommand(),
         ProposeCommand(),
         BookCommand(),
         MatchCommand(),

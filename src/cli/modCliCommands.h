@@ -8,10 +8,12 @@ class cBookLock;
 class cClock;
 class cCliBook;
 class cCliPaint;
+class cCliReader;
 class cConsoleUser;
 class cHttps;
 class cRegistry;
 class cShell;
+class cStatementListModel;
 
 // The machine as the command line program sees it.
 struct cCliPorts
@@ -44,6 +46,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand FetchCommand();
 [[nodiscard]] cCliCommand StagedCommand();
 [[nodiscard]] cCliCommand StatementCommand();
+[[nodiscard]] cCliCommand ReconcileCommand();
 [[nodiscard]] cCliCommand ProposeCommand();
 [[nodiscard]] cCliCommand BookCommand();
 [[nodiscard]] cCliCommand MatchCommand();
@@ -103,6 +106,10 @@ inline constexpr int Any = std::numeric_limits<int>::max(); // number of argumen
 // The option of all that read statements, and what is said about equal rows without it.
 [[nodiscard]] cCliOption TakeEqual();
 [[nodiscard]] QString EqualRows(qsizetype count);
+
+// The staged number that is meant: itself, its other form, or the account of the book that it belongs to. Empty when
+// the reader has been told of a fault.
+[[nodiscard]] QString StatementNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text);
 
 // The options that say from which open files PIN and TAN are read, and the number one of them has; -1 without.
 [[nodiscard]] QList<cCliOption> BankSecrets();

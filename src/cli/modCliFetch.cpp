@@ -179,6 +179,7 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     context.User.Prepare({.Answer = wish.From.isValid() ? eAnswer::Yes : eAnswer::No});
     book.Statements.Files().SetRepeats(context.Call.Has(u"take-equal"_s) ? cStatementFiles::eRepeats::Take
                                                                          : cStatementFiles::eRepeats::LeaveOut);
+    book.Statements.Files().SetStart(cStatementFiles::eStart::Take);
     cNoProgress progress;
     const bool isDone = fetch.Run(chosen, progress);
     Print(context, fetch, chosen.Accounts);

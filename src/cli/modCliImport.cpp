@@ -148,6 +148,7 @@ int Run(const cCliContext& context)
     cFileWish wish = modCliTableChoice::Read(context.Call, reader);
     wish.BookAccount = context.Call.Value(u"book-account"_s);
     wish.KeepsDuplicates = context.Call.Has(u"keep-duplicates"_s);
+    wish.KeepsStart = context.Call.Has(u"keep-start"_s);
     wish.TakesEqual = context.Call.Has(u"take-equal"_s);
     wish.SkipsStrayDetails = context.Call.Has(u"skip-stray-details"_s);
     wish.Remembers = context.Call.Has(u"remember"_s);
@@ -200,6 +201,7 @@ cCliCommand modCliCommands::ImportCommand()
                      cText::Tr("MT940: Angaben (:86:) vor dem ersten Umsatz eines Auszugs übergehen, statt die Datei "
                                "abzulehnen")},
                     {u"book"_s, {}, cText::Tr("danach zuordnen und buchen, was im Buch steht oder sicher ist")},
+                    {u"keep-start"_s, {}, cText::Tr("beim ersten Auszug eines Kontos kein Startguthaben eintragen")},
                     {u"remember"_s,
                      {},
                      cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},

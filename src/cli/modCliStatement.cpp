@@ -19,29 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The staged number that is meant: itself, its other form, or the account of the book that it belongs to.
-QString NumberFor(cCliReader& reader, const cStatementListModel& statement, const QString& text)
-{
-    const QStringList& numbers = statement.Numbers();
-    if (text.isEmpty() && numbers.size() == 1) {
-        return numbers.first();
-    }
-    if (text.isEmpty()) {
-        reader.Misused(
-            cText::Tr("Mit --account muss die Kontonummer genannt werden. Es gibt: {0}", {numbers.join(u", "_s)}));
-        return {};
-    }
-    if (numbers.contains(text)) {
-        return text;
-    }
-    const QStringList meant = statement.NumbersMeant(text);
-    if (meant.size() != 1) {
-        reader.Missing(meant.isEmpty() ? cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text})
-                                       : cText::Tr("'{0}' hat mehrere Kontonummern: {1}", {text, meant.join(u", "_s)}));
-    }
-    return meant.value(0);
-}
-
 QString RowsJson(const cStatementListModel& statement, const cEntryExtract& extract)
 {
     QStringList objects;
@@ -130,7 +107,7 @@ int Run(const cCliContext& context)
     cCliReader reader(context);
     cStatementListModel statement(book.Tools);
     const modPeriod::cRange range = reader.Period(modWord::AlleBuchungen);
-    const QString number = NumberFor(reader, statement, context.Call.Value(u"account"_s));
+    const QString number = modCliCommands::StatementNumber(reader, statement, context.Call.Value(u"account"_s));
     if (!reader.IsGood()) {
         return reader.Report();
     }
@@ -146,6 +123,28 @@ int Run(const cCliContext& context)
 }
 
 } // namespace
+
+QString modCliCommands::StatementNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text)
+{
+    const QStringList& numbers = statement.Numbers();
+    if (text.isEmpty() && numbers.size() == 1) {
+        return numbers.first();
+    }
+    if (text.isEmpty()) {
+        reader.Misused(
+            cText::Tr("Mit --account muss die Kontonummer genannt werden. Es gibt: {0}", {numbers.join(u", "_s)}));
+        return {};
+    }
+    if (numbers.contains(text)) {
+        return text;
+    }
+    const QStringList meant = statement.NumbersMeant(text);
+    if (meant.size() != 1) {
+        reader.Missing(meant.isEmpty() ? cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text})
+                                       : cText::Tr("'{0}' hat mehrere Kontonummern: {1}", {text, meant.join(u", "_s)}));
+    }
+    return meant.value(0);
+}
 
 cCliCommand modCliCommands::StatementCommand()
 {

@@ -42,6 +42,28 @@ private Q_SLOTS:
         QVERIFY(run(u"statement|--from|2026-02-05"_s).Out.contains(u"Ab dem 02.02.2026 fehlen 23,10"));
         QCOMPARE(run(u"statement|--account|4712"_s).Code, 1);
     }
+
+    // The first statement brings the start balance, and the book agrees once its row is booked.
+    void ReconcilesRowByRow()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath(u"giro.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(incomplete).replace("216,90", "240,00"));
+        file.close();
+        const auto run = [&](const QString& words) {
+            return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
+                                  QStringList{u"--profile"_s, folder.path()} + words.split(u'|'));
+        };
+        const cCliRun import = run(u"import|--book-account|Girokonto|"_s + file.fileName());
+        QVERIFY2(import.Error.contains(u"Startguthaben von 'Girokonto': 900,00"), qPrintable(import.Text()));
+        const QJsonObject open = QJsonDocument::fromJson(run(u"reconcile|--json"_s).Out.toUtf8()).object();
+        QCOMPARE(cCliRun::Column(open.value(u"Differences"_s).toArray(), u"Kind"_s), QStringList(u"bank only"_s));
+        QCOMPARE(run(u"reconcile|--confirm"_s).Code, 1);
+        QCOMPARE(run(u"book|--all"_s).Code, 0);
+        const cCliRun done = run(u"reconcile|--confirm"_s);
+        QVERIFY2(done.Code == 0 && done.Out.contains(u"stimmt bis 05.02.2026"), qPrintable(done.Text()));
+    }
 };
 
 QTEST_GUILESS_MAIN(testCliStatement)

@@ -41,18 +41,72 @@ private Q_SLOTS:
     {
         cImportBook book;
         QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
-        QVERIFY(book.Accounts.Ask(u"123"_s, book.User).isEmpty()); // the user gives up
-        QCOMPARE(book.User.LastChoice.Proposal, u"Girokonto"_s);
+        QVERIFY(book.Accounts.Ask(u"123"_s, book.User).isEmpty());   // the user gives up
+        QCOMPARE(book.User.LastChoice.Proposal, u"Bankkonto 123"_s); // two accounts, and nothing speaks for either
+        QVERIFY(book.User.LastChoice.Items.contains(u"Bargeld"_s));
         book.User.Choices = {u"Sparkonto"_s};
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.User.Asked.size(), 2);
         QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"123"_s)), u"Sparkonto"_s);
-        QCOMPARE(book.Accounts.Proposal(u"4"_s), u"Girokonto"_s);
         QVERIFY(book.Accounts.Assign(u"5"_s, u"Girokonto"_s));
         QCOMPARE(book.Accounts.Proposal(u"4"_s), QString()); // every account of a bank has its number
         QCOMPARE(book.Accounts.Proposal(u"DE81100200300000000123"_s), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Unknown({u"123"_s, u"4"_s}), QStringList(u"4"_s));
+    }
+
+    void ProposesWhatSpeaksForOne_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("rows"); // "day amount name", all of March 2026
+        QTest::addColumn<QString>("balance");
+        QTest::addColumn<QString>("account");
+        const QString iban = u"DE02100200300001234567"_s;
+        QTest::newRow("nothing") << iban << u"3 -500 A"_s << QString() << QString();
+        QTest::newRow("many payees") << iban << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << u"Girokonto"_s;
+        QTest::newRow("entries made by hand") << iban << u"9 -1000 A;13 -2000 A"_s << QString() << u"Sparkonto"_s;
+        QTest::newRow("one equal amount is chance") << iban << u"9 -1000 A"_s << QString() << QString();
+        QTest::newRow("balance") << iban << u"20 -1 A"_s << u"2026-03-15=-3000"_s << u"Sparkonto"_s;
+        QTest::newRow("a card is no current account")
+            << u"4711XXXXXXXX1234"_s << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << QString();
+    }
+
+    void ProposesWhatSpeaksForOne()
+    {
+        QFETCH(const QString, number);
+        QFETCH(const QString, rows);
+        cImportBook book;
+        for (const int day : {10, 12}) {
+            book.Add([&](cEntryItem& entry) {
+                entry.EntryAccount = u"Sparkonto"_s;
+                entry.EntryDate = QDate(2026, 3, day);
+                entry.EntryValue = (day - 9) / 2 * 1000 + 1000;
+            });
+        }
+        for (const QString& text : rows.split(u';')) {
+            const QStringList parts = text.split(u' ');
+            cImportEntry row;
+            row.ImportAccount = number;
+            row.ImportDate = QDate(2026, 3, parts.at(0).toInt());
+            row.ImportValue = parts.at(1).toInt();
+            row.ImportBeneficiary = parts.at(2);
+            QVERIFY(book.Hive.Add(row));
+        }
+        QFETCH(const QString, balance);
+        book.Settings->Set(modSettingKey::BankBalances.Of(number), balance);
+        QTEST(book.Accounts.Proposal(number), "account");
+    }
+
+    void AccountWithoutNumberLendsItsName()
+    {
+        cImportBook book;
+        QCOMPARE(book.Accounts.NumberMeant(u" bargeld "_s), u"Bargeld"_s);
+        book.Accounts.AssignNames({u"Bargeld"_s, u"123"_s});
+        QCOMPARE(book.Accounts.AccountOf(u"Bargeld"_s), u"Bargeld"_s);
+        QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
+        QVERIFY(book.Accounts.Assign(u"123"_s, u"Girokonto"_s));
+        QCOMPARE(book.Accounts.NumberMeant(u"Girokonto"_s), u"123"_s);
+        QCOMPARE(book.Accounts.NumberMeant(u"9"_s), u"9"_s);
     }
 
     void AddsNewAccount()

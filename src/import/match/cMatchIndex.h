@@ -45,6 +45,7 @@ public:
     // the occurrence that is nearest.
     [[nodiscard]] std::vector<size_t> Around(QDate day, qint64 cents) const;
 
+    [[nodiscard]] size_t Count() const { return m_items.size(); }
     [[nodiscard]] const cItem& Item(size_t number) const { return m_items[number]; }
     [[nodiscard]] const cMatchText& Text(size_t number);
 

@@ -4,6 +4,7 @@
 #include "base/cUser.h"
 #include "core/cSettings.h"
 #include "import/read/modAccountNumber.h"
+#include "import/stage/cAccountGuess.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -145,23 +146,52 @@ QString cAccountMap::Proposal(const QString& number) const
     const auto named = std::find_if(names.begin(), names.end(), [&](const QString& name) {
         return !number.isEmpty() && name.contains(number, Qt::CaseInsensitive);
     });
-    return named != names.end() ? *named : FreeAccount();
+    return named != names.end() ? *named : cAccountGuess(m_data, m_settings, WithNumber()).AccountFor(number);
 }
 
-// Nothing rather than an account that has its number already: two banks would be mixed up there.
-QString cAccountMap::FreeAccount() const
+QString cAccountMap::NewName(const QString& number) const
 {
-    const cTemplateItemList accounts = m_data.GetAccounts();
+    return cAccountGuess(m_data, m_settings, {}).NewName(number);
+}
+
+QSet<QString> cAccountMap::WithNumber() const
+{
+    QSet<QString> names;
     const QList<std::pair<QString, QString>> mapping = Mapping();
-    const auto first = std::find_if(accounts.begin(), accounts.end(), modTemplate::IsVisible);
-    // Of the group of the first one, so that the purse is not proposed.
-    const auto free = std::find_if(first, accounts.end(), [&](const cTemplateItem& account) {
-        const bool isTaken = std::any_of(mapping.begin(), mapping.end(),
-                                         [&](const auto& known) { return known.second == account.TemplateName; });
-        return modTemplate::IsVisible(account) && !isTaken
-            && modTemplate::GroupOf(account) == modTemplate::GroupOf(*first);
-    });
-    return free == accounts.end() ? QString() : free->TemplateName;
+    for (const auto& [number, account] : mapping) {
+        names.insert(account);
+    }
+    return names;
+}
+
+QStringList cAccountMap::Choices() const
+{
+    const cTemplateItemList accounts = modTemplate::InOrder(m_data.GetAccounts());
+    QStringList names = VisibleNames(accounts);
+    names.append(modTemplate::AccountNames(accounts));
+    names.removeDuplicates();
+    return names;
+}
+
+QString cAccountMap::NumberMeant(const QString& typed) const
+{
+    const QString account = Known(typed.simplified());
+    if (!Exists(account)) {
+        return typed.simplified();
+    }
+    const QList<std::pair<QString, QString>> mapping = Mapping();
+    const auto own =
+        std::find_if(mapping.begin(), mapping.end(), [&](const auto& known) { return known.second == account; });
+    return own == mapping.end() ? account : own->first;
+}
+
+void cAccountMap::AssignNames(const QStringList& numbers)
+{
+    for (const QString& number : numbers) {
+        if (AccountOf(number).isEmpty() && Exists(number)) {
+            (void)Assign(number, number); // of a refusal the user has been told
+        }
+    }
 }
 
 // The account of this name, be it in another letter case, or the name as a new account would have it.
@@ -201,8 +231,11 @@ QString cAccountMap::Ask(const QString& number, cUser& user)
     cChoice choice;
     choice.Text = QuestionFor(number);
     choice.Title = cText::Tr("Konto zuordnen");
-    choice.Items = VisibleNames(m_data.GetAccounts());
+    choice.Items = Choices();
     choice.Proposal = Proposal(number);
+    if (choice.Proposal.isEmpty()) {
+        choice.Proposal = NewName(number); // any other account would be chosen by accident
+    }
     choice.AllowNew = true;
     const std::optional<QString> answer = user.Choose(choice);
     return answer && Assign(number, *answer) ? AccountOf(number) : QString();

@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -41,9 +42,19 @@ public:
     // Where the mapping is kept, with what else the user decided about bank transactions.
     [[nodiscard]] cSettings& Settings() const { return m_settings; }
 
-    // The account to propose for a new number: one already known under its other form, one named like it, else the
-    // first one of the group of the first that has no number yet. Empty when there is none.
+    // The account to propose for a new number: one already known under its other form, one named like it, else the one
+    // that name, kind, balance and entries speak for. Empty when there is none.
     [[nodiscard]] QString Proposal(const QString& number) const;
+    // A name for a new account of this number.
+    [[nodiscard]] QString NewName(const QString& number) const;
+
+    // All accounts of the book that somebody may choose for a number, those that are open first.
+    [[nodiscard]] QStringList Choices() const;
+    // The number under which the rows of a file without one are staged, for what the user typed or chose: the number
+    // itself, or that of the account of this name. An account without a number lends its name.
+    [[nodiscard]] QString NumberMeant(const QString& typed) const;
+    // An account whose name was given in the place of a number is the account of this "number".
+    void AssignNames(const QStringList& numbers);
 
     // Remembers the account for the number; an account that does not exist yet is added to the book, at the end
     // of the group with most accounts. False when the database refuses or the name is empty.
@@ -62,7 +73,7 @@ public:
     [[nodiscard]] std::optional<cEntryItem> getAssignedEntry(const cImportEntry& row) const;
 
 private:
-    [[nodiscard]] QString FreeAccount() const;
+    [[nodiscard]] QSet<QString> WithNumber() const; // the accounts that have one
     [[nodiscard]] bool Exists(const QString& account) const;
     [[nodiscard]] QString Known(const QString& typed) const;
 

@@ -76,8 +76,13 @@ cBankBalanceList Joined(cBankBalanceList known, const cBankBalanceList& more)
 
 cBankBalanceList cBankBalances::Of(const QString& account) const
 {
+    return Of(m_settings, account);
+}
+
+cBankBalanceList cBankBalances::Of(const cSettings& settings, const QString& account)
+{
     cBankBalanceList balances;
-    const QStringList texts = m_settings.Get(modSettingKey::BankBalances.Of(account)).split(u';', Qt::SkipEmptyParts);
+    const QStringList texts = settings.Get(modSettingKey::BankBalances.Of(account)).split(u';', Qt::SkipEmptyParts);
     for (const QString& text : texts) {
         if (const std::optional<cBankBalance> balance = FromText(text)) {
             balances.append(*balance);

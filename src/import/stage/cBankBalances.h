@@ -15,6 +15,8 @@ class cBankBalances
 public:
     explicit cBankBalances(cSettings& settings) : m_settings(settings) {}
 
+    // As below, for who only reads.
+    [[nodiscard]] static cBankBalanceList Of(const cSettings& settings, const QString& account);
     // By day; those of one day in the order in which they came. What cannot be read is passed over.
     [[nodiscard]] cBankBalanceList Of(const QString& account) const;
 

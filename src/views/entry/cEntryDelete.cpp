@@ -14,6 +14,7 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/modEntryFields.h"
+#include "views/ledger/cReconciledDays.h"
 
 #include <algorithm>
 
@@ -297,6 +298,7 @@ bool cEntryDelete::AskParts(cDeleteTargetList& targets, const cDeleteTargetList&
 bool cEntryDelete::Remove(const cDeleteTargetList& targets, eSeriesPart part)
 {
     const cDeleteTargetList others = OtherParts(targets);
+    cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data, StepName(targets, part));
     if (!std::all_of(targets.begin(), targets.end(),
                      [&](const cDeleteTarget& target) { return RemoveOne(target, part); })) {
@@ -308,7 +310,7 @@ bool cEntryDelete::Remove(const cDeleteTargetList& targets, eSeriesPart part)
             return step.Revert();
         }
     }
-    return step.Done();
+    return step.DoneIf(guard.Allows());
 }
 
 bool cEntryDelete::RemoveOne(const cDeleteTarget& target, eSeriesPart part)

@@ -17,6 +17,7 @@
 #include "views/entry/cStartBalance.h"
 #include "views/entry/modEntryFields.h"
 #include "views/entry/modSplitParts.h"
+#include "views/ledger/cReconciledDays.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -223,9 +224,10 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     removed.removeIf([&](int id) {
         return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
     });
+    cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
     const bool isWritten = writer.Write(rows, removed, m_from);
-    if (!step.DoneIf(isWritten && (!m_onStored || m_onStored(rows.first().Entry.ID)))) {
+    if (!step.DoneIf(isWritten && guard.Allows() && (!m_onStored || m_onStored(rows.first().Entry.ID)))) {
         return eSaved::Refused;
     }
     m_onStored = nullptr; // a further entry has nothing to do with the transaction

@@ -106,8 +106,9 @@ int cStatementLedger::DeletedIn(const modBalanceCheck::cFault& fault) const
     return most->ID - least->ID + 1 - static_cast<int>(last - first);
 }
 
-bool cStatementLedger::IsShared(const QString& account)
+bool cStatementLedger::IsShared()
 {
+    const QString account = AccountOf(m_number);
     const QStringList numbers = Numbers();
     return std::any_of(numbers.begin(), numbers.end(),
                        [&](const QString& other) { return other != m_number && AccountOf(other) == account; });
@@ -118,7 +119,7 @@ cBookComparison cStatementLedger::CompareWithBook()
     using eState = cBookComparison::eState;
     cBookComparison result;
     const QString account = AccountOf(m_number);
-    if (account.isEmpty() || !m_check.IsAnchored || IsShared(account)) {
+    if (account.isEmpty() || !m_check.IsAnchored || IsShared()) {
         result.State =
             account.isEmpty() ? eState::NotMapped : (m_check.IsAnchored ? eState::Shared : eState::NoBalance);
         return result;

@@ -55,10 +55,11 @@ public:
     // How many rows that were staged between those of the fault are gone.
     [[nodiscard]] int DeletedIn(const modBalanceCheck::cFault& fault) const;
     [[nodiscard]] cBookComparison CompareWithBook();
+    // Rows of other numbers belong to the same account of the book.
+    [[nodiscard]] bool IsShared();
 
 private:
     void Take(cImportEntryList rows, const QString& number);
-    [[nodiscard]] bool IsShared(const QString& account);
 
     cDataAccess& m_data;
     cSettings& m_settings;

@@ -51,6 +51,7 @@ cStatementListModel::cStatementListModel(const cBookTools& tools, QObject* paren
     : QAbstractTableModel(parent),
       m_tools(tools),
       m_ledger(tools.Data, tools.Settings),
+      m_differences(tools),
       m_period(modWord::AlleBuchungen)
 {
     m_timer.setSingleShot(true);
@@ -94,6 +95,7 @@ void cStatementListModel::ChooseAccount(const QString& number)
 void cStatementListModel::ShowAccount()
 {
     m_book = m_ledger.CompareWithBook();
+    m_differences.Show(Number());
     m_filter.reset();
     m_categories.clear();
     Show();

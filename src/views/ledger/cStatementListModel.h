@@ -2,6 +2,7 @@
 
 #include "model/modPeriod.h"
 #include "views/export/cEntryExtract.h"
+#include "views/ledger/cReconcileListModel.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/list/cListFilter.h"
 
@@ -81,6 +82,8 @@ public:
 
     [[nodiscard]] const cStatementLedger& Ledger() const { return m_ledger; }
     [[nodiscard]] const cBookComparison& Book() const { return m_book; }
+    // The same account against the book, row by row.
+    [[nodiscard]] cReconcileListModel& Differences() { return m_differences; }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -104,6 +107,7 @@ private:
     const cBookTools& m_tools;
     cStatementLedger m_ledger;
     cBookComparison m_book;
+    cReconcileListModel m_differences;
     QStringList m_numbers;
     QString m_period;
     modPeriod::cRange m_free;

@@ -1,6 +1,7 @@
 #include "views/main/cAccountListModel.h"
 
 #include "base/cText.h"
+#include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "views/list/modUnread.h"
 #include "views/main/modAccountLines.h"
@@ -88,7 +89,7 @@ int cAccountListModel::columnCount(const QModelIndex& /*parent*/) const
 QString cAccountListModel::Text(const cRow& row, int column) const
 {
     switch (column) {
-    case Name: return row.Name;
+    case Name: return Reconciled(row).isEmpty() ? row.Name : row.Name + u" \u2713";
     case Balance: return row.Kind == Group ? QString() : m_hasBalances ? m_format.Cents(row.Cents) : modUnread::Sum();
     case Open: return row.Open == 0 ? QString() : QString::number(row.Open);
     default: return {};
@@ -100,13 +101,21 @@ QString cAccountListModel::Warning(const cRow& row) const
     return row.Kind == Account ? m_warnings.value(row.Name) : QString();
 }
 
+QString cAccountListModel::Reconciled(const cRow& row) const
+{
+    const QDate day = row.Kind == Account ? m_reconciled.value(row.Name) : QDate();
+    return day.isValid() ? cText::Tr("Stimmt mit der Bank überein bis {0}.", {modDate::ToGerman(day)}) : QString();
+}
+
 QString cAccountListModel::Hint(const cRow& row, int column) const
 {
     if (column == Open && row.Open > 0) {
         return row.Open == 1 ? cText::Tr("1 Umsatz wartet auf die Buchung")
                              : cText::Tr("{0} Umsätze warten auf die Buchung", {QString::number(row.Open)});
     }
-    return Warning(row).isEmpty() ? Text(row, Name) : Warning(row);
+    QStringList lines{Warning(row), Reconciled(row)};
+    lines.removeAll(QString());
+    return lines.isEmpty() ? row.Name : lines.join(u'\n');
 }
 
 QVariant cAccountListModel::data(const QModelIndex& index, int role) const

@@ -3,6 +3,7 @@
 #include "model/cTemplateItem.h"
 
 #include <QAbstractTableModel>
+#include <QDate>
 #include <QHash>
 #include <QString>
 
@@ -32,6 +33,8 @@ public:
     void SetChosen(const QString& account); // empty: none
     // What there is to warn of, by account name. It stays until the next call.
     void SetWarnings(const QHash<QString, QString>& texts);
+    // Up to which day accounts agree with their bank, by account name. It stays until the next call.
+    void SetReconciled(const QHash<QString, QDate>& days) { m_reconciled = days; }
 
     // Account name of a row; empty for groups and the total.
     [[nodiscard]] QString AccountAt(const QModelIndex& index) const;
@@ -56,10 +59,12 @@ private:
     [[nodiscard]] QString Text(const cRow& row, int column) const;
     [[nodiscard]] QString Hint(const cRow& row, int column) const;
     [[nodiscard]] QString Warning(const cRow& row) const;
+    [[nodiscard]] QString Reconciled(const cRow& row) const;
 
     const cAmountFormat& m_format;
     std::vector<cRow> m_rows;
     bool m_hasBalances = true;
     QString m_chosen;
     QHash<QString, QString> m_warnings;
+    QHash<QString, QDate> m_reconciled;
 };

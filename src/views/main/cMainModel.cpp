@@ -15,6 +15,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryDelete.h"
+#include "views/ledger/cReconciledDays.h"
 #include "views/list/modSetting.h"
 #include "views/list/modUnread.h"
 #include "views/main/modViewText.h"
@@ -183,6 +184,7 @@ void cMainModel::RefreshAccounts()
     }
     const QHash<QString, int> open = cAccountMap(m_tools.Data, m_tools.Settings).OpenByAccount();
     const bool isUnread = modUnread::IsMissing(m_tools.Data, balances.size());
+    m_accounts.SetReconciled(cReconciledDays(m_tools).ByAccount());
     m_accounts.SetAccounts(m_accountItems, isUnread ? std::nullopt : std::optional(balances), open);
     m_accounts.SetChosen(m_view.FilterAccount());
     m_balancesOf = m_view.BalancesToToday && !isUnread ? today : QDate();

@@ -262,6 +262,10 @@ QStringList cImportAssistant::Accounts() const
         numbers.append(number);
     }
     numbers.append(cImportHive::AccountsOf(m_parts.Hive.GetImportHive().getImportEntryList()));
+    const QStringList accounts = m_parts.Accounts.Choices();
+    for (const QString& account : accounts) {
+        numbers.append(m_parts.Accounts.NumberMeant(account)); // its name, where it has no number
+    }
     numbers.removeAll(QString());
     numbers.removeDuplicates();
     return numbers;
@@ -269,8 +273,9 @@ QStringList cImportAssistant::Accounts() const
 
 void cImportAssistant::SetAccount(const QString& number)
 {
-    if (number.simplified() != Account()) {
-        m_account = number.simplified();
+    const QString meant = m_parts.Accounts.NumberMeant(number);
+    if (meant != Account()) {
+        m_account = meant;
         Evaluate();
     }
 }

@@ -25,6 +25,7 @@
 #include "views/statement/cImportRuns.h"
 #include "views/statement/cLayoutTaken.h"
 #include "views/statement/cMatchFlow.h"
+#include "views/statement/cOpeningBalance.h"
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cRuleTrial.h"
@@ -282,10 +283,13 @@ QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<
 
 bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes)
 {
+    m_works->Accounts.AssignNames(numbers);
     const QStringList unknown = m_works->Accounts.Unknown(numbers);
     for (const QString& number : unknown) {
         const QString proposal = m_works->Accounts.Proposal(number);
-        const QString account = !wanted.isEmpty() ? wanted : proposal.isEmpty() ? number : proposal;
+        const QString account = !wanted.isEmpty() ? wanted
+            : proposal.isEmpty()                  ? m_works->Accounts.NewName(number)
+                                                  : proposal;
         if (!m_works->Accounts.Assign(number, account)) {
             notes.append(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
             return false;
@@ -319,28 +323,45 @@ bool cStatementDesk::RememberLayout(const QString& path, const cFileWish& wish, 
     return false;
 }
 
+bool cStatementDesk::TakeStart(const QString& number, QStringList& notes)
+{
+    const cOpeningBalance opening(m_tools);
+    const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
+    if (!offer) {
+        return true;
+    }
+    notes.append(opening.Report(*offer));
+    return opening.Take(*offer);
+}
+
 cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wish)
 {
     cImportOptions options;
     options.Duplicates = wish.KeepsDuplicates ? eDuplicateTest::Skip : eDuplicateTest::Test;
     options.Equal = wish.TakesEqual ? eEqualRows::Take : eEqualRows::Report;
-    options.DefaultAccount = wish.Account;
+    options.DefaultAccount = m_works->Accounts.NumberMeant(wish.Account);
     options.Table = modTableOption::Choice(wish);
     options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
     options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
     cNoProgress progress;
+    const QStringList known = cImportHive::AccountsOf(Rows());
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);
     if (wish.IsTrial) {
         return report;
     }
-    RememberAccount(result, wish.Account, m_works->Memory);
+    RememberAccount(result, options.DefaultAccount, m_works->Memory);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {
         QStringList unsaid; // a table without names for its columns is asked about again
         (void)RememberLayout(path, wish, unsaid);
+    }
+    for (const QString& number : result.Accounts) {
+        if (!known.contains(number) && !wish.KeepsStart) {
+            report.IsDone = TakeStart(number, report.Notes) && report.IsDone;
+        }
     }
     if (wish.Remembers && !result.IsRefused) {
         report.IsDone = RememberLayout(path, wish, report.Notes) && report.IsDone;

@@ -63,11 +63,11 @@ public:
     // The place of the first rule that matches, by row; -1 for none.
     [[nodiscard]] QList<int> FirstRules(const cImportEntryList& rows, const QList<cOwnRule>& rules);
 
-    // Reads a file. Numbers that the book does not know get the account of the wish, else one that is free, else one of
-    // their own.
+    // Reads a file. Numbers that the book does not know get the account of the wish, else one that something speaks
+    // for, else one of their own. The first statement of an account sets its start balance.
     [[nodiscard]] cFileReport ImportFile(const QString& path, const cFileWish& wish);
-    // Gives the numbers that the book does not know the wanted account, else one that is free, else one of their own,
-    // and notes it. False when the database refuses.
+    // Gives the numbers that the book does not know the wanted account, else one that something speaks for, else one
+    // of their own, and notes it. False when the database refuses.
     [[nodiscard]] bool AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes);
     // Where an online fetch hands over what it brought.
     [[nodiscard]] cStatementFiles& Files();
@@ -87,6 +87,7 @@ private:
     struct cWorks; // the tools of the import floor
 
     [[nodiscard]] cBooked Booked(const cPlanFlow::cOutcome& outcome);
+    [[nodiscard]] bool TakeStart(const QString& number, QStringList& notes);
     [[nodiscard]] bool RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes);
 
     const cBookTools& m_tools;

@@ -18,6 +18,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/statement/cImportAssistant.h"
+#include "views/statement/cOpeningBalance.h"
 #include "views/statement/modImportPreview.h"
 #include "views/statement/modImportText.h"
 
@@ -59,9 +60,10 @@ void cStatementFiles::ChooseFiles(cProgress& progress, eAssist assist)
 {
     const QStringList paths = m_tools.User.ChooseFiles(
         cText::Tr("Kontoauszüge importieren"),
-        cText::Tr("CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle "
-                  "Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;"
-                  "*.xls;*.xlsx;*.ofx;*.qfx;*.qif|Alle Dateien|*.*"));
+        cText::Tr(
+            "Alle Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;"
+            "*.xls;*.xlsx;*.ofx;*.qfx;*.qif|CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;"
+            "*.mt9;*.ofx;*.qif|Alle Dateien|*.*"));
     if (!paths.isEmpty()) {
         ImportFiles(paths, progress, assist);
     }
@@ -105,6 +107,7 @@ struct cStatementFiles::cRun
     int Count = 0;  // of the files
     int Number = 0; // of the present one
     int Newest = 0; // row before the present file
+    int Before = 0; // row before all files
     QStringList Lines;
     QStringList Numbers;
     QStringList Refusals;
@@ -115,9 +118,18 @@ struct cStatementFiles::cRun
 
 void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
 {
-    cRun run{
-        progress, m_assist ? assist : eAssist::WhereNeeded, static_cast<int>(files.size()), 0, 0, {}, {}, {}, {}, {},
-        {}};
+    cRun run{progress,
+             m_assist ? assist : eAssist::WhereNeeded,
+             static_cast<int>(files.size()),
+             0,
+             0,
+             NewestRow(),
+             {},
+             {},
+             {},
+             {},
+             {},
+             {}};
     Begin();
     bool isStopped = false;
     for (const cFile& file : files) {
@@ -164,7 +176,9 @@ void cStatementFiles::End(cRun& run)
     if (!run.Refusals.isEmpty()) {
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
+    const QStringList firstSeen = FirstSeen(run);
     AskAccounts(run.Numbers);
+    OfferStart(firstSeen);
     Q_EMIT RowsStaged(run.Rows);
 }
 
@@ -175,7 +189,9 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, {}, {}, {}, {}, {}, {}};
+        cRun run{
+            progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, NewestRow(), {}, {}, {}, {}, {},
+            {}};
         Begin();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
@@ -266,18 +282,22 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     }
     numbers.removeDuplicates();
     QStringList shown; // with the account, which people know rather than its number
+    QStringList without = m_accounts.Choices();
     for (const QString& number : std::as_const(numbers)) {
         const QString account = m_accounts.AccountOf(number);
-        shown.append(account.isEmpty() ? number : cText::Tr("{0} – {1}", {number, account}));
+        shown.append(account.isEmpty() || account == number ? number : cText::Tr("{0} – {1}", {number, account}));
+        without.removeAll(account);
     }
+    numbers += without; // an account without a number lends its name
+    shown += without;
     const std::optional<QString> given =
         m_tools.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
                              .Title = cText::Tr("Kontonummer"),
                              .Items = shown,
-                             .Proposal = shown.value(0),
+                             .Proposal = numbers.size() > without.size() ? shown.value(0) : QString(),
                              .AllowNew = true});
     const QString typed = given ? given->simplified() : QString();
-    const QString number = numbers.value(shown.indexOf(typed), typed);
+    const QString number = m_accounts.NumberMeant(numbers.value(shown.indexOf(typed), typed));
     if (number.isEmpty()) {
         return result;
     }
@@ -469,8 +489,42 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
     }
 }
 
+// The numbers whose account was known before their first rows came; of the others AskAccounts speaks.
+QStringList cStatementFiles::FirstSeen(const cRun& run)
+{
+    QStringList first = run.Numbers;
+    first.removeDuplicates();
+    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
+    first.removeIf([&](const QString& number) {
+        return m_accounts.AccountOf(number).isEmpty()
+            || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
+                   return row.ID <= run.Before && row.ImportAccount == number;
+               });
+    });
+    return first;
+}
+
+void cStatementFiles::OfferStart(const QStringList& numbers)
+{
+    if (m_start == eStart::Leave || m_tools.Data.IsReadOnly()) {
+        return;
+    }
+    const cOpeningBalance opening(m_tools);
+    for (const QString& number : numbers) {
+        const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
+        const bool isWanted = offer
+            && (m_start == eStart::Take
+                || m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")})
+                    == eAnswer::Yes);
+        if (isWanted) {
+            (void)opening.Take(*offer); // of a refusal the user has been told
+        }
+    }
+}
+
 void cStatementFiles::AskAccounts(const QStringList& numbers)
 {
+    m_accounts.AssignNames(numbers);
     QStringList unknown = m_accounts.Unknown(numbers);
     unknown.removeDuplicates();
     if (unknown.isEmpty() || m_tools.Data.IsReadOnly()) {
@@ -483,6 +537,7 @@ void cStatementFiles::AskAccounts(const QStringList& numbers)
         }
     }
     Q_EMIT AccountsAsked(lines);
+    OfferStart(unknown);
 }
 
 QStringList cStatementFiles::LeftOut() const

@@ -62,7 +62,12 @@ public:
     enum class eRepeats { Ask, Take, LeaveOut };
     void SetRepeats(eRepeats repeats) { m_repeats = repeats; }
 
-    // Asks which accounts of the book the numbers belong to, as far as that is not known.
+    // What an account held before its first statement: the user is asked whether that becomes its start balance, or it
+    // does or does not without a word.
+    enum class eStart { Ask, Take, Leave };
+    void SetStart(eStart start) { m_start = start; }
+
+    // Asks which accounts of the book the numbers belong to, as far as that is not known, and what these began with.
     void AskAccounts(const QStringList& numbers);
 
     // The transactions of the last files that were not taken, as texts with the reason: what is there already, what is
@@ -120,6 +125,8 @@ private:
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
+    void OfferStart(const QStringList& numbers);
+    [[nodiscard]] QStringList FirstSeen(const cRun& run);
     void KeepLeftOut(const cImportResult& result);
     void SettleRepeats(cRun& run);
     [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);
@@ -138,4 +145,5 @@ private:
     QList<cFile> m_last;
     QList<cLeftOut> m_leftOut;
     eRepeats m_repeats = eRepeats::Ask;
+    eStart m_start = eStart::Ask;
 };

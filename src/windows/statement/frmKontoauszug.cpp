@@ -4,6 +4,7 @@
 #include "model/modWord.h"
 #include "views/ledger/cStatementListModel.h"
 #include "windows/main/cSumBar.h"
+#include "windows/statement/cReconcilePanel.h"
 #include "windows/statement/cStatementTree.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
@@ -40,6 +41,7 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
       m_mark(new QFrame(this)),
       m_finding(new cSummaryText(this)),
       m_tree(new cStatementTree(statement, this)),
+      m_differences(new cReconcilePanel(statement.Differences(), this)),
       m_sums(new cSumBar(this)),
       m_entry(new QPushButton(cText::Tr("Ein&trag öffnen"), this)),
       m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
@@ -65,6 +67,7 @@ void frmKontoauszug::Build()
     layout->addLayout(BuildFinding());
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_sums);
+    layout->addWidget(m_differences);
     layout->addLayout(BuildButtons());
     const QSize wanted(fontMetrics().averageCharWidth() * 185, fontMetrics().height() * 40);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
@@ -157,6 +160,13 @@ void frmKontoauszug::Connect()
     connect(m_print, &QPushButton::clicked, this, &frmKontoauszug::PrintRequested);
     connect(m_preview, &QPushButton::clicked, this, &frmKontoauszug::PreviewRequested);
     connect(m_export, &QPushButton::clicked, this, &frmKontoauszug::ExportRequested);
+    connect(m_differences, &cReconcilePanel::EntryRequested, this, &frmKontoauszug::EntryRequested);
+    connect(m_differences, &cReconcilePanel::BookRequested, this, &frmKontoauszug::BookRequested);
+    connect(m_differences, &cReconcilePanel::DeleteRequested, this, &frmKontoauszug::DeleteRequested);
+    connect(m_differences, &cReconcilePanel::Cured, this, [this] {
+        m_statement.Reload();
+        Q_EMIT ReconcileChanged();
+    });
     connect(new QShortcut(QKeySequence::Copy, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             this, &frmKontoauszug::Copy);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);

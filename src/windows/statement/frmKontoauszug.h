@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class cReconcilePanel;
 class cStatementListModel;
 class cDayEdit;
 class cSumBar;
@@ -31,6 +32,10 @@ Q_SIGNALS:
     void PrintRequested();
     void PreviewRequested();
     void ExportRequested();
+    // To cure a difference between bank and book; who does it calls cStatementListModel::Reload.
+    void BookRequested(int rowId);
+    void DeleteRequested(int entryId, QDate day);
+    void ReconcileChanged(); // done by the window itself
 
 private:
     void Build();
@@ -57,6 +62,7 @@ private:
     QFrame* m_mark; // beside the findings, in their colour
     cSummaryText* m_finding;
     QTreeView* m_tree;
+    cReconcilePanel* m_differences;
     cSumBar* m_sums;
     QPushButton* m_entry;
     QPushButton* m_copy;

@@ -1,0 +1,174 @@
+#include "import/stage/cAccountGuess.h"
+
+#include "base/cText.h"
+#include "import/read/modAccountNumber.h"
+#include "import/stage/cBankBalances.h"
+#include "model/modBalance.h"
+#include "store/cDataAccess.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype lastDigits = 4; // by which people know a number
+constexpr int nearDays = 3;         // between a purchase as it was written down and the bank's booking
+constexpr qsizetype enoughSame = 2; // entries: one amount may be the same by chance
+
+enum class eKind { Unknown, Giro, Savings, Card, Cash };
+
+eKind KindOfName(const cTemplateItem& account)
+{
+    struct cWord
+    {
+        QLatin1StringView Part;
+        eKind Kind;
+    };
+    static constexpr std::array words{cWord{"spar"_L1, eKind::Savings},     cWord{"tagesgeld"_L1, eKind::Savings},
+                                      cWord{"festgeld"_L1, eKind::Savings}, cWord{"karte"_L1, eKind::Card},
+                                      cWord{"visa"_L1, eKind::Card},        cWord{"master"_L1, eKind::Card},
+                                      cWord{"giro"_L1, eKind::Giro},        cWord{"bargeld"_L1, eKind::Cash},
+                                      cWord{"kasse"_L1, eKind::Cash},       cWord{"portemonnaie"_L1, eKind::Cash}};
+    QString name = account.TemplateName.toLower();
+    name.remove("sparkasse"_L1).remove("sparda"_L1); // banks of any account
+    const auto found =
+        std::find_if(words.begin(), words.end(), [&](const cWord& word) { return name.contains(word.Part); });
+    return found == words.end() ? eKind::Unknown : found->Kind;
+}
+
+// Numbers of cards have sixteen digits, some of which the bank may hide.
+bool IsCard(const QString& number)
+{
+    constexpr qsizetype cardDigits = 16;
+    const QString compact = modAccountNumber::Compact(number);
+    const auto isDigit = [](QChar c) { return c.isDigit() || c == u'*' || c == u'X'; };
+    return compact.size() == cardDigits && std::all_of(compact.begin(), compact.end(), isDigit);
+}
+
+// Many different people are paid from a current account only.
+eKind KindOfRows(const QString& number, const cImportEntryList& rows)
+{
+    constexpr qsizetype many = 4;
+    if (IsCard(number)) {
+        return eKind::Card;
+    }
+    QSet<QString> names;
+    for (const cImportEntry& row : rows) {
+        names.insert(row.ImportBeneficiary);
+    }
+    return names.size() >= many ? eKind::Giro : eKind::Unknown;
+}
+
+} // namespace
+
+cAccountGuess::cAccountGuess(cDataAccess& data, const cSettings& settings, const QSet<QString>& taken)
+    : m_data(data),
+      m_settings(settings),
+      m_taken(taken),
+      m_accounts(modTemplate::InOrder(data.GetAccounts()))
+{
+}
+
+QString cAccountGuess::AccountFor(const QString& number) const
+{
+    cImportEntryList rows = m_data.GetImportEntries();
+    rows.removeIf([&](const cImportEntry& row) { return row.ImportAccount != number; });
+    QString best;
+    int most = 0;
+    for (const cTemplateItem& account : m_accounts) {
+        const int weight = Weight(account, number, rows);
+        if (weight > most) {
+            best = account.TemplateName;
+            most = weight;
+        } else if (weight == most) {
+            best.clear(); // as much speaks for the one as for the other
+        }
+    }
+    return best;
+}
+
+int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, const cImportEntryList& rows) const
+{
+    const QString digits = modAccountNumber::Compact(number).right(lastDigits);
+    const bool isNamed = digits.size() == lastDigits && account.TemplateName.contains(digits, Qt::CaseInsensitive);
+    if (!modTemplate::IsVisible(account) || (m_taken.contains(account.TemplateName) && !isNamed)) {
+        return 0;
+    }
+    const eKind kind = KindOfName(account);
+    const eKind wanted = KindOfRows(number, rows);
+    // The shipped book has one account of the bank: while it has no number and no other is free, it is meant.
+    const bool isSole =
+        m_taken.isEmpty() && wanted != eKind::Card && kind != eKind::Cash
+        && std::none_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& other) {
+               return other.ID != account.ID && modTemplate::IsVisible(other) && KindOfName(other) != eKind::Cash;
+           });
+    const bool isOther = wanted != eKind::Unknown && kind != eKind::Unknown && kind != wanted;
+    int weight = isNamed ? 8 : 0;
+    weight += HoldsSame(account.TemplateName, number) ? 6 : 0;
+    weight += HasSameEntries(account.TemplateName, rows) ? 4 : 0;
+    weight += kind == wanted && wanted != eKind::Unknown ? 2 : 0;
+    weight += isSole ? 1 : 0;
+    return kind == eKind::Cash || (isOther && weight < 6) ? 0 : weight;
+}
+
+// What the book's account holds on the day of one of the bank's balances.
+bool cAccountGuess::HoldsSame(const QString& account, const QString& number) const
+{
+    const cBankBalanceList balances = cBankBalances::Of(m_settings, number);
+    if (balances.isEmpty()) {
+        return false;
+    }
+    QHash<QDate, qint64> changes;
+    const cEntryItemList entries =
+        m_data.GetEntries({{}, balances.constLast().Day, {}, account, {}, eBookingKind::All});
+    return std::any_of(balances.begin(), balances.end(), [&](const cBankBalance& balance) {
+        qint64 cents = 0;
+        for (const cEntryItem& entry : entries) {
+            cents += entry.EntryDate <= balance.Day ? modBalance::Effect(entry, account) : 0;
+        }
+        return balance.Cents != 0 && cents == balance.Cents;
+    });
+}
+
+bool cAccountGuess::HasSameEntries(const QString& account, const cImportEntryList& rows) const
+{
+    if (rows.isEmpty()) {
+        return false;
+    }
+    const auto [first, last] = std::minmax_element(
+        rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.ImportDate < b.ImportDate; });
+    QMultiHash<qint64, QDate> days;
+    const cEntryItemList entries = m_data.GetEntries(
+        {first->ImportDate.addDays(-nearDays), last->ImportDate.addDays(nearDays), {}, account, {}, eBookingKind::All});
+    for (const cEntryItem& entry : entries) {
+        days.insert(modBalance::Effect(entry, account), entry.EntryDate);
+    }
+    return std::count_if(rows.begin(), rows.end(),
+                         [&](const cImportEntry& row) {
+                             const auto [from, to] = days.equal_range(row.ImportValue);
+                             return std::any_of(
+                                 from, to, [&](QDate day) { return qAbs(day.daysTo(row.ImportDate)) <= nearDays; });
+                         })
+        >= enoughSame;
+}
+
+QString cAccountGuess::NewName(const QString& number) const
+{
+    const QString digits = modAccountNumber::Compact(number).right(lastDigits);
+    const QString kind = IsCard(number) ? cText::Tr("Kreditkarte") : cText::Tr("Bankkonto");
+    const QString name = digits.isEmpty() ? kind : kind + u' ' + modTemplate::CleanName(digits);
+    const auto isThere = [&](const QString& wanted) {
+        return std::any_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& account) {
+            return account.TemplateName.compare(wanted, Qt::CaseInsensitive) == 0;
+        });
+    };
+    QString free = name;
+    for (int i = 2; isThere(free); ++i) {
+        free = name + u" ("_s + QString::number(i) + u')';
+    }
+    return free;
+}

@@ -1,0 +1,142 @@
+#include "views/statement/cOpeningBalance.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
+#include "core/cSettings.h"
+#include "import/stage/cLeftOutRows.h"
+#include "model/modBalance.h"
+#include "store/cDataAccess.h"
+#include "views/entry/cStartBalance.h"
+#include "views/ledger/cStatementLedger.h"
+
+#include <QHash>
+
+namespace {
+
+// An entry made by hand may lie some days before the bank's booking, which draws it behind the first row.
+constexpr int drawnDays = 10;
+
+// What the entries up to a day come to, without the start balance and without those that rows behind that day pay.
+class cHandEntries
+{
+public:
+    cHandEntries(const cEntryItemList& entries, const QString& account, int startId, QDate day)
+        : m_account(account),
+          m_day(day)
+    {
+        for (const cEntryItem& entry : entries) {
+            if (entry.ID != startId) {
+                (entry.EntryDate <= day ? m_before : m_behind).append(entry);
+            }
+        }
+    }
+
+    [[nodiscard]] qint64 Sum(const cImportEntryList& rows) const
+    {
+        QHash<qint64, int> unpaid = Unpaid(rows);
+        qint64 cents = 0;
+        for (const cEntryItem& entry : m_before) {
+            const qint64 effect = modBalance::Effect(entry, m_account);
+            const bool isNear = entry.EntryDate > m_day.addDays(-drawnDays);
+            if (isNear && unpaid.value(effect) > 0) {
+                --unpaid[effect];
+            } else {
+                cents += effect;
+            }
+        }
+        return cents;
+    }
+
+    [[nodiscard]] QDate First() const
+    {
+        QDate first = m_day;
+        for (const cEntryItem& entry : m_before) {
+            first = entry.EntryDate.isValid() ? qMin(first, entry.EntryDate) : first;
+        }
+        return first;
+    }
+
+private:
+    // The amounts of the first rows that no entry of their own days stands for.
+    [[nodiscard]] QHash<qint64, int> Unpaid(const cImportEntryList& rows) const
+    {
+        QHash<qint64, int> unpaid;
+        for (const cImportEntry& row : rows) {
+            unpaid[row.ImportValue] += row.ImportDate <= m_day.addDays(drawnDays) ? 1 : 0;
+        }
+        for (const cEntryItem& entry : m_behind) {
+            --unpaid[modBalance::Effect(entry, m_account)];
+        }
+        return unpaid;
+    }
+
+    QString m_account;
+    QDate m_day;
+    cEntryItemList m_before;
+    cEntryItemList m_behind;
+};
+
+} // namespace
+
+std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number) const
+{
+    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
+    ledger.Load(number);
+    cOffer offer;
+    offer.Account = ledger.AccountOf(number);
+    if (offer.Account.isEmpty() || ledger.Rows().isEmpty() || !ledger.Check().IsAnchored || ledger.IsShared()) {
+        return std::nullopt;
+    }
+    offer.Day = ledger.Rows().constFirst().ImportDate.addDays(-1);
+    const modBalanceCheck::cResult& check = ledger.Check();
+    const bool isNamed = check.Points.constFirst().Day <= offer.Day;
+    if (!isNamed && (!check.Faults.isEmpty() || !cLeftOutRows(m_tools.Settings).Of(number).isEmpty())) {
+        return std::nullopt; // rows are missing, which no start balance makes good
+    }
+    offer.Bank = check.Opening - check.ErrorOn(offer.Day);
+    const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(offer.Account);
+    const cEntryItemList entries =
+        m_tools.Data.GetEntries({{}, offer.Day.addDays(drawnDays), {}, offer.Account, {}, eBookingKind::All});
+    const cHandEntries hand(entries, offer.Account, stored ? stored->ID : 0, offer.Day);
+    const qint64 sum = hand.Sum(ledger.Rows());
+    const qint64 former = stored ? modBalance::Effect(*stored, offer.Account) : 0;
+    const bool counts = stored && stored->EntryDate <= offer.Day;
+    offer.Book = sum + (counts ? former : 0);
+    offer.Former = stored ? std::optional(former) : std::nullopt;
+    offer.Start = offer.Bank - sum;
+    offer.StartDay = counts && stored->EntryDate.isValid() ? qMin(stored->EntryDate, hand.First()) : hand.First();
+    return offer.Book == offer.Bank ? std::nullopt : std::optional(offer);
+}
+
+QString cOpeningBalance::Question(const cOffer& offer) const
+{
+    const QStringList values{offer.Account,
+                             modDate::ToGerman(offer.Day),
+                             m_tools.Format.Cents(offer.Bank),
+                             m_tools.Format.Cents(offer.Book),
+                             m_tools.Format.Cents(offer.Start),
+                             modDate::ToGerman(offer.StartDay),
+                             m_tools.Format.Cents(offer.Former.value_or(0))};
+    const QString known =
+        cText::Tr("Laut Kontoauszug hatte das Konto '{0}' am {1} einen Stand von {2}; im Buch sind es {3}.", values);
+    const QString wish = offer.Former
+        ? cText::Tr(
+            "Soll das Startguthaben von {6} auf {4} geändert werden, damit das Buch mit der Bank übereinstimmt?",
+            values)
+        : cText::Tr("Soll {4} als Startguthaben vom {5} eingetragen werden, damit das Buch mit der Bank übereinstimmt?",
+                    values);
+    return known + u"\n\n" + wish;
+}
+
+QString cOpeningBalance::Report(const cOffer& offer) const
+{
+    return cText::Tr("Startguthaben von '{0}': {1} am {2}, laut Kontoauszug.",
+                     {offer.Account, m_tools.Format.Cents(offer.Start), modDate::ToGerman(offer.StartDay)});
+}
+
+bool cOpeningBalance::Take(const cOffer& offer) const
+{
+    return cStartBalance(m_tools.Data, m_tools.Format.Decimal()).Save(offer.Account, offer.Start, offer.StartDay);
+}

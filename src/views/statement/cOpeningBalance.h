@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+
+struct cBookTools;
+
+// What an account held before its first bank row, as the start balance with which the book agrees with the bank from
+// then on.
+class cOpeningBalance
+{
+public:
+    struct cOffer
+    {
+        QString Account;
+        QDate Day;       // before the first row
+        qint64 Bank = 0; // on that day, in cents
+        qint64 Book = 0;
+        qint64 Start = 0; // the start balance that makes them equal
+        QDate StartDay;
+        std::optional<qint64> Former; // the present start balance
+    };
+
+    explicit cOpeningBalance(const cBookTools& tools) : m_tools(tools) {}
+
+    // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
+    // number has no account or shares it with another.
+    [[nodiscard]] std::optional<cOffer> For(const QString& number) const;
+    [[nodiscard]] QString Question(const cOffer& offer) const;
+    // "Startguthaben von 'Girokonto': 20,00 € am 30.04.2026, laut Kontoauszug."
+    [[nodiscard]] QString Report(const cOffer& offer) const;
+    // As a step of its own. False when the database refuses, of which the user was told.
+    [[nodiscard]] bool Take(const cOffer& offer) const;
+
+private:
+    const cBookTools& m_tools;
+};

@@ -1,0 +1,162 @@
+#include "model/modSettingKey.h"
+#include "support/testBook.h"
+#include "views/entry/cEntryDelete.h"
+#include "views/ledger/cReconciledDays.h"
+#include "views/ledger/cReconcileListModel.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString number = u"DE02100200300001234567"_s;
+
+// A giro account that the bank said to hold 1000.00 on April 30th and 950.00 on May 31st.
+struct cScene : cTestBook
+{
+    cScene()
+    {
+        Settings->Set(modSettingKey::BankNumber.Of(number), u"Girokonto"_s);
+        Settings->Set(modSettingKey::BankBalances.Of(number), u"2026-04-30=100000;2026-05-31=95000"_s);
+        if (!Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 4, 30))) {
+            qFatal("no start balance");
+        }
+    }
+
+    // A row of May, assigned to the entry with this ID.
+    int Row(int day, int cents, const QString& name, int entry = -1)
+    {
+        cImportEntry row;
+        row.ImportAccount = number;
+        row.ImportDate = QDate(2026, 5, day);
+        row.ImportValue = cents;
+        row.ImportBeneficiary = name;
+        row.ImportAssigned = entry > 0;
+        row.ImportAssignedEntry = entry;
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+        return row.ID;
+    }
+
+    // An expense of May.
+    int Entry(int day, int cents, const QString& name, const QString& interval = modWord::Einmalig)
+    {
+        return Add([&](cEntryItem& entry) {
+                   entry.EntryDate = QDate(2026, 5, day);
+                   entry.EntryValue = cents;
+                   entry.EntryDescription = name;
+                   entry.EntryInterval = interval;
+               })
+            .ID;
+    }
+};
+
+QStringList Shown(const cReconcileListModel& model)
+{
+    QStringList lines;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < cReconcileListModel::ColumnCount; ++column) {
+            cells.append(model.index(row, column).data().toString().remove(u"\u00A0€"_s));
+        }
+        lines.append(cells.join(u'|'));
+    }
+    return lines;
+}
+
+} // namespace
+
+class testReconciliation final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ListsWhatDiffers()
+    {
+        cScene scene;
+        scene.Row(2, -1000, u"Bäcker"_s, scene.Entry(2, 1000, u"Bäcker"_s));
+        scene.Row(5, -2000, u"Buch"_s, scene.Entry(3, 1900, u"Buch"_s));
+        scene.Row(8, -500, u"Kiosk"_s);
+        scene.Row(9, -1500, u"Strom"_s, scene.Entry(7, 1500, u"Strom"_s));
+        scene.Entry(20, 700, u"Eis"_s);
+        (void)scene.Entry(31, 100, u"Danach"_s);
+        cReconcileListModel model(scene.Tools);
+        model.Show(number, QDate(2026, 5, 30));
+        QCOMPARE(Shown(model),
+                 QStringList({u"Betrag und Tag anders|Buch|05.05.2026|-20,00|03.05.2026|-19,00"_s,
+                              u"nur bei der Bank|Kiosk|08.05.2026|-5,00||"_s,
+                              u"Tag anders|Strom|09.05.2026|-15,00|07.05.2026|-15,00"_s,
+                              u"nur im Buch|Eis|||20.05.2026|-7,00"_s}));
+        QVERIFY(!model.CanConfirm());
+        QVERIFY(model.TakeBank(2));
+        QVERIFY(model.TakeBank(0));
+        QCOMPARE(model.rowCount(), 2);
+        const cEntryItem book = *scene.Data.LoadEntry(scene.Data.GetImportEntries().at(1).ImportAssignedEntry);
+        QCOMPARE(book.EntryDate, QDate(2026, 5, 5));
+        QCOMPARE(book.EntryValue, 2000);
+        QVERIFY(!model.TakeBank(0)); // booking is somebody else's work
+    }
+
+    // A transfer has one day, though the other bank booked it two days later; an occurrence is one of its series.
+    void NamesNothingThatIsRight()
+    {
+        cScene scene;
+        const cEntryItem transfer = scene.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 5, 4);
+            entry.EntryType = modWord::Umbuchung;
+            entry.EntryAccount = u"Sparkonto"_s;
+            entry.EntryAccountMove = u"Girokonto"_s;
+        });
+        scene.Row(6, 1000, u"Übertrag"_s, transfer.ID);
+        scene.Row(10, -6000, u"Miete"_s, scene.Entry(10, 6000, u"Miete"_s, u"Monatlich"_s));
+        cReconcileListModel model(scene.Tools);
+        model.Show(number);
+        QCOMPARE(Shown(model), QStringList());
+        QVERIFY2(model.Finding().startsWith(u"Das Konto 'Girokonto' stimmt bis 31.05.2026 "),
+                 qPrintable(model.Finding()));
+    }
+
+    // The bank's balances decide: a wrong start balance is a difference of its own.
+    void StartBalanceHidesNothing()
+    {
+        cScene scene;
+        scene.Row(9, -5000, u"Strom"_s, scene.Entry(9, 5000, u"Strom"_s));
+        QVERIFY(scene.Data.SetStartGuthaben(u"Girokonto"_s, 90000, QDate(2026, 4, 30)));
+        cReconcileListModel model(scene.Tools);
+        model.Show(number);
+        QCOMPARE(Shown(model).value(0).section(u'|', 0, 0), u"Startguthaben"_s);
+        QVERIFY(!model.CanConfirm());
+        QVERIFY(model.TakeBank(0));
+        QVERIFY(model.CanConfirm());
+    }
+
+    void AsksBeforeReconciledDaysChange()
+    {
+        cScene scene;
+        const int entry = scene.Entry(9, 5000, u"Strom"_s);
+        const int later = scene.Entry(20, 5000, u"Später"_s);
+        scene.Row(9, -5000, u"Strom"_s, entry);
+        cReconcileListModel model(scene.Tools);
+        model.Show(number, QDate(2026, 5, 15));
+        QVERIFY(model.CanConfirm());
+        model.Confirm();
+        QVERIFY(!model.CanConfirm());
+        QCOMPARE(cReconciledDays(scene.Tools).ByAccount().value(u"Girokonto"_s), QDate(2026, 5, 15));
+        scene.User.Answers = {eAnswer::Yes, eAnswer::Yes, eAnswer::No};
+        cEntryDelete remover(scene.Tools);
+        QVERIFY(remover.Delete(QList<int>{later})); // one question only
+        QVERIFY(!remover.Delete(QList<int>{entry}));
+        QCOMPARE(scene.User.Asked.constLast(),
+                 u"Das Konto 'Girokonto' stimmt bis 15.05.2026 mit der Bank überein. Mit "
+                 "dieser Änderung wäre es ab dem 09.05.2026 nicht mehr so.\n\nTrotzdem ändern?"_s);
+        QVERIFY(scene.Data.LoadEntry(entry));
+        scene.User.Answers = {eAnswer::Yes, eAnswer::Yes};
+        QVERIFY(remover.Delete(QList<int>{entry}));
+        QCOMPARE(cReconciledDays(scene.Tools).ByAccount().value(u"Girokonto"_s), QDate(2026, 5, 8));
+    }
+};
+
+QTEST_GUILESS_MAIN(testReconciliation)
+#include "testReconciliation.moc"
