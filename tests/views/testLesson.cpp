@@ -121,7 +121,7 @@ private Q_SLOTS:
         }
         const cImportEntry open = scene.Stage(3, -1000, u"Kern"_s);
         QCOMPARE(scene.CategoryOf(open), u"Haushalt; Lebensmittel"_s);
-        QList<cEntryWrite> rows{{.Entry = entries.first()}};
+        QList<cEntryWrite> rows{{entries.first(), {}}};
         rows.first().Entry.EntryCategory = u"Freizeit; Hobby"_s;
         QVERIFY(cEntryWriter(scene.Data, scene.User).Write(rows, {}, {}));
         QCOMPARE(scene.CategoryOf(open), u"Freizeit; Hobby"_s);

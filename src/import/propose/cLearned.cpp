@@ -142,6 +142,21 @@ QList<cLearned::cBooked> cLearned::Decided(const QList<cBooked>& rows, const cIm
     return decided.mid(0, shown);
 }
 
+// Somebody who is paid for several things: the rent and what is settled once a year differ by their amount.
+std::optional<cLearned::cChoice> cLearned::ByAmount(QList<cBooked> decided, qint64 cents)
+{
+    decided.removeIf([&](const cBooked& booked) { return booked.Cents != cents; });
+    const bool isOne = std::all_of(decided.begin(), decided.end(), [&](const cBooked& booked) {
+        return Entry(booked.EntryId).Category == Entry(decided.constFirst().EntryId).Category;
+    });
+    if (decided.isEmpty() || !isOne) {
+        return std::nullopt;
+    }
+    cChoice choice = ChoiceOf(decided, decided.size());
+    choice.HasOthers = !choice.IsSure;
+    return choice;
+}
+
 std::optional<cLearned::cChoice> cLearned::Choose(const QList<cBooked>& rows, const cImportEntry& row)
 {
     const QList<cBooked> decided = Decided(rows, row);
@@ -155,18 +170,8 @@ std::optional<cLearned::cChoice> cLearned::Choose(const QList<cBooked>& rows, co
         changes += category(decided.at(i)) != category(decided.at(i - 1)) ? 1 : 0;
         streak += changes == 0 ? 1 : 0;
     }
-    const bool isSameWay = (decided.constFirst().Cents > 0) == (row.ImportValue > 0);
     if (changes > 1) {
-        // Somebody who is paid for several things: the rent and what is settled once a year differ by their amount.
-        QList<cBooked> sameAmount;
-        std::copy_if(decided.begin(), decided.end(), std::back_inserter(sameAmount),
-                     [&](const cBooked& booked) { return booked.Cents == row.ImportValue; });
-        const bool isOne = std::all_of(sameAmount.begin(), sameAmount.end(), [&](const cBooked& booked) {
-            return category(booked) == category(sameAmount.constFirst());
-        });
-        if (!sameAmount.isEmpty() && isOne) {
-            cChoice choice = ChoiceOf(sameAmount, sameAmount.size());
-            choice.HasOthers = !choice.IsSure;
+        if (std::optional<cChoice> choice = ByAmount(decided, row.ImportValue)) {
             return choice;
         }
     }
@@ -178,8 +183,8 @@ std::optional<cLearned::cChoice> cLearned::Choose(const QList<cBooked>& rows, co
     cChoice choice = ChoiceOf(decided, streak);
     choice.IsSure = choice.IsSure && changes <= 1;
     choice.HasOthers = changes > 0 && !choice.IsSure;
-    choice.IsSure = choice.IsSure && isSameWay;
-    if (!isSameWay) {
+    if ((decided.constFirst().Cents > 0) != (row.ImportValue > 0)) {
+        choice.IsSure = false;
         choice.Interval = modWord::Einmalig; // what comes back does not come every month
         choice.SeriesEnd = {};
     }

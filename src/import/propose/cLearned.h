@@ -69,6 +69,7 @@ private:
     void LoadAll();
     [[nodiscard]] QList<cBooked> Decided(const QList<cBooked>& rows, const cImportEntry& row);
     [[nodiscard]] std::optional<cChoice> Choose(const QList<cBooked>& rows, const cImportEntry& row);
+    [[nodiscard]] std::optional<cChoice> ByAmount(QList<cBooked> decided, qint64 cents);
     [[nodiscard]] cChoice ChoiceOf(const QList<cBooked>& decided, qsizetype count);
 
     cDataAccess& m_data;
