@@ -287,14 +287,14 @@ private:
         }
         if (m_lost > 0) {
             m_mended.Notes.prepend({0,
-                                    cText::Tr("In {0} Zeilen ist die Kontonummer verloren, weil eine "
-                                              "Tabellenkalkulation sie als Zahl gespeichert hat (1,23E+21).",
+                                    cText::Tr("Zeilen, deren Kontonummer verloren ist, weil eine Tabellenkalkulation "
+                                              "sie als Zahl gespeichert hat (1,23E+21): {0}",
                                               {QString::number(m_lost)})});
         }
         if (m_continued > 0) {
             m_mended.Notes.prepend(
                 {0,
-                 cText::Tr("{0} Zeilen ohne Tag und Betrag wurden an den Text der Zeile darüber gehängt.",
+                 cText::Tr("Zeilen ohne Tag und Betrag, deren Text an die Zeile darüber gehängt wurde: {0}",
                            {QString::number(m_continued)})});
         }
     }

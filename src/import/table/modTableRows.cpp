@@ -476,7 +476,7 @@ private:
     {
         if (m_fees > 0) {
             m_read.Problems.append({0,
-                                    cText::Tr("In {0} Zeilen steht eine Gebühr neben dem Betrag; sie wurde abgezogen.",
+                                    cText::Tr("Zeilen mit einer Gebühr neben dem Betrag, die abgezogen wurde: {0}",
                                               {QString::number(m_fees)})});
         }
     }

@@ -8,10 +8,13 @@
 #include "import/table/modTableProfile.h"
 #include "import/table/modTableValue.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int leastNames = 3;
 constexpr int rowsBelow = 5; // among which a day must stand
+constexpr QStringView balanceWords = u"*Kontostand*|*Saldo*|*balance*";
 constexpr QStringView titleWords = u"*Umsätze*|*Umsaetze*|*konto*|*Karte*|*Depot*|*account*|*card*|*Verrechnung*";
 
 class cSections
@@ -30,10 +33,11 @@ public:
             if (!BeginsWithLetter(row) || !IsHeader(row)) {
                 continue;
             }
-            const QString title = TitleAbove(row);
+            const int titleRow = TitleRow(row);
+            const QString title = titleRow < 0 ? QString() : FirstCell(titleRow);
             const bool isAgain = m_table.Row(row) == m_layout.Map.Names;
             if (!isAgain || modCell::MatchesList(title, titleWords)) {
-                return {StartOf(row), row, title};
+                return {StartOf(row, titleRow), row, title};
             }
         }
         return {};
@@ -96,31 +100,41 @@ private:
         return false;
     }
 
-    // The last line above the header that is not empty and no booking.
-    [[nodiscard]] QString TitleAbove(int header) const
+    // The first line of those directly above the header, as far as they are no bookings and no balances; -1 when there
+    // is none.
+    [[nodiscard]] int TitleRow(int header) const
     {
-        for (int row = header - 1; row >= m_layout.FirstRow; --row) {
-            const int filled = Filled(row);
-            if (filled >= leastNames) {
-                return {};
+        int title = -1;
+        for (int row = header - 1; row >= m_layout.FirstRow && Filled(row) < leastNames; --row) {
+            if (Filled(row) == 0 && title >= 0) {
+                break;
             }
-            if (filled > 0) {
-                QStringList cells = m_table.Row(row);
-                cells.removeAll(QString());
-                return cells.first();
-            }
+            title = Filled(row) > 0 && !modCell::MatchesList(FirstCell(row), balanceWords) ? row : title;
         }
-        return {};
+        return title;
     }
 
-    // Behind the last booking of the part before. Lines with few cells may belong to either.
-    [[nodiscard]] int StartOf(int header) const
+    [[nodiscard]] QString FirstCell(int row) const
     {
-        int start = header;
-        while (start > m_layout.FirstRow && Filled(start - 1) < leastNames) {
+        QStringList cells = m_table.Row(row);
+        cells.removeAll(QString());
+        return cells.value(0);
+    }
+
+    // Sums and balances below the bookings of the part before still belong to that one.
+    [[nodiscard]] int StartOf(int header, int title) const
+    {
+        int start = title < 0 ? header : title;
+        while (start > m_layout.FirstRow && Filled(start - 1) < leastNames && !HasAmount(start - 1)) {
             --start;
         }
         return start;
+    }
+
+    [[nodiscard]] bool HasAmount(int row) const
+    {
+        const QStringList cells = m_table.Row(row);
+        return std::any_of(cells.begin(), cells.end(), modTableValue::IsAmount);
     }
 
     const cTable& m_table;
