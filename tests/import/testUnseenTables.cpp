@@ -95,6 +95,9 @@ private:
         row("a word in a column without telling name",
             u"Datum;Wer;Wert;Richtung\n01.02.2026;Bäcker;3,50;Ausgabe\n02.02.2026;Chef;900,00;Einnahme"_s,
             {u"1 -3.50 Bäcker"_s, u"1 900.00 Chef"_s});
+        row("a word in the column of kinds",
+            u"Datum;Name;Betrag;Art\n01.02.2026;Bäcker;3,50;Ausgabe\n02.02.2026;Chef;900,00;Einnahme"_s,
+            {u"1 -3.50 Bäcker"_s, u"1 900.00 Chef"_s});
         row("sides without names", u"01.02.2026;Kino;8,00;\n02.02.2026;Oma;;20,00"_s,
             {u"1 -8.00 Kino"_s, u"1 20.00 Oma"_s, u"asks"_s});
         row("sides without names, the balance tells",
@@ -120,6 +123,9 @@ private:
             u"Transaktionsdatum,Beschreibung,Karteninhaber,Betrag\n01.02.2026,Konditorei Blum,Max Muster,\"94,23\"\n"
             "02.02.2026,IHRE ZAHLUNG - BESTEN DANK,Max Muster,\"-500,00\""_s,
             {u"1 -94.23 Konditorei Blum"_s, u"1 500.00 IHRE ZAHLUNG - BESTEN DANK"_s});
+        row("a word for the direction beside the opposite signs",
+            u"Datum,Beschreibung,Betrag,Debit/Kredit\n01.02.2026,Blumen,12.50,Debit\n02.02.2026,Bank,-30.00,Kredit"_s,
+            {u"1 -12.50 Blumen"_s, u"1 30.00 Bank"_s});
         row("charges are positive, nothing tells",
             u"Kaufdatum;Händler;Betrag\n01.02.2026;Konditorei Blum;94,23\n02.02.2026;Blumen Kern;12,00"_s,
             {u"1 94.23 Konditorei Blum"_s, u"1 12.00 Blumen Kern"_s, u"asks"_s});
@@ -202,6 +208,10 @@ private:
             "02.02.2026;Kartenzahlung;Käse;-2,00\n03.02.2026;Kartenzahlung;Wein;-3,00\n"
             "04.02.2026;Kartenzahlung;Obst;-4,00"_s,
             {u"1 -1.00 Brot"_s, u"1 -2.00 Käse"_s, u"1 -3.00 Wein"_s, u"1 -4.00 Obst"_s});
+        row("columns of the other side that are empty",
+            u"Buchungsdatum;Partnername;Partner IBAN;BIC;Partner Kontonummer;Bankleitzahl;Betrag;Buchungs-Info\n"
+            "01.02.2026;Haus;AT611904300234573201;;;;-5,00;Miete\n02.02.2026;Kiosk;;;;;-1,00;Eis"_s,
+            {u"1 -5.00 Haus (AT611904300234573201) Miete"_s, u"1 -1.00 Kiosk Eis"_s});
         row("Austrian",
             u"Buchungsdatum;Partnername;Partner IBAN;Betrag;Währung;Buchungs-Details\n"
             "01.02.2026;Haus GmbH;AT611904300234573201;-500,00;EUR;Miete 2\n"

@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int mostColumns = 100;
-constexpr QStringView foreignWords = u"*Fremd*|*Origin*|*Foreign*|*Urspr*|*Gebühr*|*Fee*|*Steuer*|*Tax*|*MwSt*|*VAT*|"
+constexpr QStringView foreignWords = u"*Fremd*|*Origin*|*Foreign*|*Urspr*|*Gebühr*|*Fee*|*Steuer*|Tax*|MwSt*|VAT*|"
                                      u"*Entgelt*|*Rate*|*Kurs*|*Exchange*|*Detail|Einzelbetrag|Individual*";
 constexpr QStringView balanceWords = u"*Saldo*|*Balance*|*Kontostand*|Guthaben|*Solde*";
 constexpr QStringView categoryWords = u"*Categor*|*Kategorie*|*Category*|Tags|*Stichw*|Rubrik|*Rubriek*";

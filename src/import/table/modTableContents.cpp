@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QStringView dayWords = u"*Booking*|*Booked*|*Buchung*|*Completed*|*Abschluss*|Date|Datum|*Transaction*|"
-                                 u"*Posting*|Boekdatum|*Trade*|Data|*comptable*|*Ecriture*";
+                                 u"*Posting*|Boekdatum|*Trade*|Data|*comptable*|*Ecriture*|*Finished*|*Settlement*";
 
 void CompleteDate(cColumnSurvey& survey)
 {
@@ -26,11 +26,15 @@ void CompleteDate(cColumnSurvey& survey)
     };
     // The day of a report, or the period that it covers, is the same in every row.
     const auto isChanging = [&](int column) { return isDay(column) && !survey.Facts(column).IsConstant(); };
-    const int found = survey.First(isDay);
-    const int changing = survey.First(isChanging);
-    const int named = survey.First([&](int column) { return isChanging(column) && survey.IsNamed(column, dayWords); });
-    const int best = named >= 0 ? named : (changing >= 0 ? changing : found);
-    date = best < 0 ? date : best;
+    const auto isBest = [&](int column) {
+        return isChanging(column) && survey.IsFull(column) && survey.IsNamed(column, dayWords);
+    };
+    for (const int found : {survey.First(isBest), survey.First(isChanging), survey.First(isDay)}) {
+        if (found >= 0) {
+            date = found;
+            return;
+        }
+    }
 }
 
 // A part above 12 that cannot be the month decides for all rows.

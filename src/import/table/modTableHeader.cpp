@@ -166,10 +166,18 @@ private:
             return -1;
         }
         const QStringList cells = modTableHeader::CellsOf(m_probes.at(above), separator);
-        const bool hasDigit = std::any_of(cells.begin(), cells.end(), [](const QString& cell) {
-            return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.isDigit(); });
-        });
-        return cells.size() >= 3 && !hasDigit ? above : -1;
+        return cells.size() >= 3 && std::all_of(cells.begin(), cells.end(), IsName) ? above : -1;
+    }
+
+    // Without digits, but for the number of one of several columns of a kind ("Description 1").
+    [[nodiscard]] static bool IsName(const QString& cell)
+    {
+        constexpr qsizetype longestNumber = 2;
+        const auto isDigit = [](QChar c) { return c.isDigit(); };
+        const auto digits = std::count_if(cell.begin(), cell.end(), isDigit);
+        return digits == 0
+            || (digits <= longestNumber && cell.front().isLetter()
+                && std::all_of(cell.end() - digits, cell.end(), isDigit));
     }
 
     const QList<cProbe>& m_probes;

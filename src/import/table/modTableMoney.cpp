@@ -10,10 +10,10 @@ namespace {
 constexpr QStringView currencyWords = u"*Währung|*Waehrung|*Currency|Whg|Whg.|Valuta Code|Devise|Munt|Ccy|Ccy.";
 constexpr QStringView amountWords = u"*Betrag*|*Amount*|Umsatz*|Bedrag*|Netto|Montant*|Importo*|Value (*";
 constexpr QStringView debitWords =
-    u"*Debit*|*Débit*|Debet*|*Money out*|*Paid out*|*Belastung*|*Lastschrift*|Soll*|"
+    u"*D?bit*|Debet*|*Money out*|*Paid out*|*Belastung*|*Lastschrift*|Soll*|"
     u"*Abgang*|*Ausgabe*|*Ausgang*|*Auszahlung*|*Withdraw*|Out|*Amount out*|Af|*Addebit*|"
     u"*Uscite*|*Spent*|*Outgoing*";
-constexpr QStringView creditWords = u"*Credit*|*Crédit*|*Money in*|*Paid in*|*Gutschrift*|Haben*|*Zugang*|*Einnahme*|"
+constexpr QStringView creditWords = u"*Cr?dit*|*Money in*|*Paid in*|*Gutschrift*|Haben*|*Zugang*|*Einnahme*|"
                                     u"*Eingang*|*Einzahlung*|*Deposit*|In|*Amount in|*Amount in (*|Bij|*Accredit*|"
                                     u"*Entrate*|*Received*|*Incoming*|Kredit*";
 
@@ -186,9 +186,16 @@ private:
         if (m_map.Amount < 0 || Facts(m_map.Amount).Signed > 0) {
             return;
         }
-        m_survey.SetFirst(m_map.Indicator, [&](int column) {
+        const auto isIndicator = [&](int column) {
             return Facts(column).IsAll(Facts(column).Indicators) && Facts(column).Filled * 2 > m_survey.Rows();
-        });
+        };
+        // "Ausgabe" and "Einnahme" are neither a kind of transaction nor a purpose.
+        for (int* const text : {&m_map.Text, &m_map.Purpose[0]}) {
+            if (*text >= 0 && isIndicator(*text) && Facts(*text).Variety() > 1) {
+                *text = -1;
+            }
+        }
+        m_survey.SetFirst(m_map.Indicator, isIndicator);
     }
 
     void CompleteByName()

@@ -30,9 +30,10 @@ constexpr QStringView nameWords =
 constexpr QStringView holderWords =
     u"*Karteninhaber*|*Kontoinhaber*|*Card*holder*|*Account*holder*|*Titulaire*|*Holder*|*getätigt von*|Account Name|"
     u"Kontoname|*Bezeichnung Auftragskonto*|*Bankname*|Wallet*|*Inhaber*";
-constexpr QStringView payerWords = u"*Auftraggeber*|*Absender*|*Zahlungspflichtige*|*Payer*|*Sender*|*Debtor*|Zahler*";
+constexpr QStringView payerWords =
+    u"*Auftraggeber*|*Absender*|*Zahlungspflichtige*|*Payer*|*Sender*|*Debtor*|Zahler*|Source name";
 constexpr QStringView payeeWords =
-    u"*Empfänger*|*Empfaenger*|*Begünstigte*|*Beguenstigte*|*Payee*|*Recipient*|*Creditor*|*Beneficiary*";
+    u"*Empfänger*|*Empfaenger*|*Begünstigte*|*Beguenstigte*|*Payee*|*Recipient*|*Creditor*|*Beneficiary*|Target name";
 constexpr QStringView notNameWords =
     u"*IBAN*|*BIC*|*Konto*|*Account*|*E-Mail*|*ID|*Referenz*|*Adresse*|*Address*|*Land|"
     u"*Country|*City|*Kategorie*|*Categor*|*Status*";
@@ -201,13 +202,18 @@ private:
             return;
         }
         const bool isOwn = m_map.Account >= 0 && IsOwnNumber(m_map.Account);
-        m_map.Account = isOwn ? -1 : m_map.Account;
+        m_map.Account = isOwn || Facts(m_map.Account).Filled == 0 ? -1 : m_map.Account;
+        m_map.BankCode = Facts(m_map.BankCode).Filled == 0 ? -1 : m_map.BankCode;
         TakeAccount([&](int column) { return IsOtherNamed(column) && Facts(column).Ibans > 0; });
         TakeAccount([&](int column) { return IsOtherNamed(column) && m_accounts.contains(column); });
         TakeAccount([&](int column) {
             return Facts(column).Ibans > 0 && (!m_survey.HasNames() || m_survey.IsNamed(column, accountWords));
         });
         TakeAccount([&](int column) { return m_accounts.contains(column); });
+        const bool isOwnBank = IsSteady(m_map.BankCode) && m_survey.Rows() > 1 && Facts(m_map.Account).Variety() > 1;
+        if (isOwnBank && m_map.OwnAccount >= 0) {
+            m_map.OwnBankCode = std::exchange(m_map.BankCode, -1);
+        }
         m_survey.SetFirst(m_map.BankCode, [&](int column) {
             return m_survey.IsNamed(column, bankCodeWords)
                 && !m_survey.IsNamed(column, u"*Auftragskonto*|*Kontoinhaber*");

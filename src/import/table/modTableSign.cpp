@@ -312,7 +312,8 @@ private:
         constexpr int clear = 5;
         const bool isSuspicious = m_layout.IsSideGuess || IsUnsigned() || (m_isOfCard && m_in > 0);
         if (m_against > m_for * clear) {
-            const bool isSure = (isSuspicious && m_against >= 2) || (m_strongAgainst > 0 && m_isOfCard);
+            const bool isSure = (isSuspicious && m_against >= 2) || m_strongAgainst >= 2
+                || (m_strongAgainst > 0 && (m_isOfCard || m_against >= 3));
             return isSure ? eVerdict::Turned : eVerdict::Open;
         }
         const bool isBackedUp = m_for > m_against * clear && (!IsUnsigned() || m_for * 2 >= m_rows.size());
