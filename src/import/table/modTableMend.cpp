@@ -107,17 +107,18 @@ private:
         QHash<QString, int> counts;
         int rows = 0;
         QStringView last; // of a run of equal cells
-        QString number;
+        auto place = counts.end();
         for (int row = m_layout.FirstRow; m_map.OwnAccount >= 0 && row < m_end; ++row) {
             const QStringView cell = m_table.Cell(row, m_map.OwnAccount);
             if (cell.isEmpty()) {
                 continue;
             }
-            if (cell != last) {
+            if (place == counts.end() || cell != last) {
                 last = cell;
-                number = modTableAbove::OwnNumber(cell);
+                const QString number = modTableAbove::OwnNumber(cell);
+                place = counts.insert(number, counts.value(number));
             }
-            ++counts[number];
+            ++place.value();
             ++rows;
         }
         const auto most = std::max_element(counts.cbegin(), counts.cend());

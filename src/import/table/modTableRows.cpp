@@ -440,8 +440,12 @@ private:
     [[nodiscard]] eState State()
     {
         const QStringView status = Cell(m_map.Status);
-        if (const eState state = modTableStatus::Of(status); state != eState::Unknown) {
-            return state;
+        if (status != m_status) {
+            m_status = status.toString();
+            m_state = modTableStatus::Of(status);
+        }
+        if (m_state != eState::Unknown) {
+            return m_state;
         }
         if (!status.isEmpty() && m_unknownStates.size() <= mostUnknownStates) {
             m_unknownStates.insert(status.toString());
@@ -579,6 +583,8 @@ private:
     int m_bookingDay = -1;
     QList<int> m_others; // columns that may say in what state a row is, beside the one for it
     QSet<QString> m_unknownStates;
+    QString m_status; // of the row before, which is mostly the same
+    eState m_state = eState::Unknown;
     qint64 m_sum = 0; // cents of the rows taken
     int m_fees = 0;
     int m_row = 0;

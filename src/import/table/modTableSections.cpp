@@ -30,7 +30,7 @@ public:
     [[nodiscard]] modTableSections::cNext Run() const
     {
         for (int row = m_layout.FirstRow + 1; row < m_table.RowCount(); ++row) {
-            if (!BeginsWithLetter(row) || !IsHeader(row)) {
+            if (HasDigitForDay(row) || !BeginsWithLetter(row) || !IsHeader(row)) {
                 continue;
             }
             const int titleRow = TitleRow(row);
@@ -45,6 +45,12 @@ public:
 
 private:
     // Nearly all rows of data are done with this.
+    [[nodiscard]] bool HasDigitForDay(int row) const
+    {
+        const QStringView day = m_table.Cell(row, m_layout.Map.Date);
+        return !day.isEmpty() && day.front().isDigit();
+    }
+
     [[nodiscard]] bool BeginsWithLetter(int row) const
     {
         for (int column = 0; column < m_table.CellCount(row); ++column) {
