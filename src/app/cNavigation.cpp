@@ -16,6 +16,8 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/export/cEntryExport.h"
 #include "views/export/cEntryExtract.h"
+#include "views/help/cHighScores.h"
+#include "views/help/modAbout.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
@@ -35,6 +37,8 @@
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/game/frmSpiel.h"
+#include "windows/help/frmUeber.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/print/cListPrinter.h"
@@ -48,6 +52,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QRandomGenerator>
 
 cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
@@ -315,6 +320,18 @@ void cNavigation::CheckSeries()
     }
 }
 
+void cNavigation::OpenAbout()
+{
+    frmUeber form(modAbout::Name(QCoreApplication::applicationVersion(), QStringLiteral(APP_COMMIT)), Parent());
+    QObject::connect(&form, &frmUeber::GameRequested, &form, [this, &form] {
+        cHighScores scores(m_parts.Tools.Settings);
+        frmSpiel(
+            scores, m_parts.Tools.Clock.Today(), [] { return QRandomGenerator::global()->generate(); }, &form)
+            .exec();
+    });
+    form.exec();
+}
+
 void cNavigation::OpenCheck()
 {
     cBookCheck check(m_parts.Tools.Data, m_parts.Format);
@@ -435,6 +452,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
+    case modCommand::About: OpenAbout(); break;
     case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::CheckSeries: CheckSeries(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;

@@ -75,6 +75,7 @@ private:
     void OpenSearch();
     void OpenImport();
     void OpenAccountStatement();
+    void OpenAbout();
     void OpenCheck();
     void CheckSeries();
     void OpenPassword();

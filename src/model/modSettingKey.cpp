@@ -34,6 +34,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &BackupFailed,
                                      &OwnRules,
                                      &Corrected,
+                                     &GameScores,
                                      &ImportRuns,
                                      &BankProduct,
                                      &MainPeriod,

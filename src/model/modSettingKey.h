@@ -42,6 +42,7 @@ inline const cSettingKey BackupLast{QStringLiteral("BackupLast"), {Day, Book}};
 inline const cSettingKey BackupFailed{QStringLiteral("BackupFailed"), {Day, Book}};
 inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
 inline const cSettingKey Corrected{QStringLiteral("GelerntZuletzt"), {List, Book}}; // see modCorrected
+inline const cSettingKey GameScores{QStringLiteral("SpielBestwerte"), {List, Book, Kept}};
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
 inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};      // number: account of the book
 inline const cSettingFamily BankCode{QStringLiteral("KTOBLZ:"), {}, {Text, Book}};     // number: of its bank

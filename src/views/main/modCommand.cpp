@@ -12,7 +12,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 36> commands{{
+constexpr std::array<cCommand, 37> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "",
@@ -94,6 +94,8 @@ constexpr std::array<cCommand, 36> commands{{
      QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
     {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "",
      nullptr, Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
+    {About, QT_TRANSLATE_NOOP("cText", "Hilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr, Plain,
+     QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
 }};
 
 } // namespace

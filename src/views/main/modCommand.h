@@ -39,6 +39,7 @@ enum eId : int {
     BankLogins = 126,
     FetchTransactions = 127,
     CheckSeries = 128,
+    About = 202,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,
