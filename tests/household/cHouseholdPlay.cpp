@@ -1,6 +1,7 @@
 #include "household/cHouseholdPlay.h"
 
 #include "household/modStatement.h"
+#include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
 #include "views/statement/cStatementFiles.h"
 
@@ -170,10 +171,10 @@ void cHouseholdPlay::CheckAccount(const cHousehold::cAccount& account, QDate unt
     QMap<QDate, qint64> byDay;
     cEntryQuery query;
     query.End = last;
-    query.Account = account.Name;
+    query.Account = cAccountMap(m_data, m_settings).AccountOf(account.Iban);
     const cEntryItemList entries = m_data.GetEntries(query);
     for (const cEntryItem& entry : entries) {
-        byDay[entry.EntryDate] += modBalance::Effect(entry, account.Name);
+        byDay[entry.EntryDate] += modBalance::Effect(entry, query.Account);
     }
     for (qsizetype i = 0; i < covered; ++i) {
         byDay[account.Bookings.at(i).Day] -= account.Bookings.at(i).Cents;
