@@ -165,7 +165,7 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
 {
     const auto count = static_cast<int>(wish.Assign.size() + wish.New.size());
     if (count == 0) {
-        return {.Left = wish.Left, .Lines = {cText::Tr("Es wurde nichts gebucht.")}};
+        return {.IsDone = true, .Left = wish.Left, .Lines = {cText::Tr("Es wurde nichts gebucht.")}};
     }
     cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(count)}));
     const bool isAssigned = m_parts.Matching.AssignRows(wish.Assign);
