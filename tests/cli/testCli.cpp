@@ -112,13 +112,13 @@ QString testCli::WriteFile(const QString& name, const QByteArray& content) const
 
 void testCli::ImportBoth() const
 {
-    QCOMPARE(Run({u"import"_s, m_giro}).Code, 0);
-    QCOMPARE(Run({u"import"_s, m_spar, u"--book-account"_s, u"Sparkonto"_s}).Code, 0);
+    QCOMPARE(Run({u"import"_s, m_giro, u"--keep-start"_s}).Code, 0);
+    QCOMPARE(Run({u"import"_s, m_spar, u"--book-account"_s, u"Sparkonto"_s, u"--keep-start"_s}).Code, 0);
 }
 
 void testCli::StatementBecomesBook()
 {
-    const cRun import = Run({u"import"_s, m_giro, u"--json"_s});
+    const cRun import = Run({u"import"_s, m_giro, u"--keep-start"_s, u"--json"_s});
     QVERIFY2(import.Code == 0, qPrintable(import.Text()));
     const QJsonObject result = import.Json().at(0).toObject();
     QVERIFY(result.value(u"format"_s).toString().contains("MT940"_L1));
@@ -126,7 +126,7 @@ void testCli::StatementBecomesBook()
     QCOMPARE(result.value(u"staged"_s).toInt(), 6);
     QCOMPARE(result.value(u"zero"_s).toInt(), 1);
     QVERIFY2(import.Out.contains("\"closingBalance\": 3301.99"_L1), qPrintable(import.Text()));
-    QCOMPARE(Run({u"import"_s, m_spar, u"--book-account"_s, u"Sparkonto"_s}).Code, 0);
+    QCOMPARE(Run({u"import"_s, m_spar, u"--book-account"_s, u"Sparkonto"_s, u"--keep-start"_s}).Code, 0);
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 7);
 
     const QJsonArray proposals = Run({u"propose"_s, u"--json"_s}).Json();

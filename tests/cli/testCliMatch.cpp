@@ -36,7 +36,7 @@ private Q_SLOTS:
         m_rent = Add(u"Ausgabe|--date|2026-01-01|--amount|650|--category|Wohnung; Miete|--interval|Monatlich|"
                      "--text|Miete Tann"_s);
         m_food = Add(u"Ausgabe|--date|2026-02-02|--amount|23,10|--category|Haushalt; Lebensmittel|--text|REWE"_s);
-        Do(u"import|"_s + file.fileName() + u"|--book-account|Girokonto"_s);
+        Do(u"import|"_s + file.fileName() + u"|--book-account|Girokonto|--keep-start"_s);
         m_rows = Do(u"staged|--json"_s).Column(u"ID"_s);
         QCOMPARE(m_rows.size(), 3);
     }

@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(statement);
         file.close();
-        Do(u"import|"_s + m_file + u"|--book-account|Girokonto"_s);
+        Do(u"import|"_s + m_file + u"|--book-account|Girokonto|--keep-start"_s);
         Do(u"rules|add|--text|brezen|--kind|Ausgabe|--account|Girokonto|--category|Freizeit; Kino / Theater"_s);
         Do(u"rules|add|--counterparty|Korn|--category|Haushalt; Getränke|--interval|monatlich|--description|Brot"_s);
     }

@@ -95,6 +95,10 @@ public:
             found.BankDay = row.ImportDate;
             found.BankCents = row.ImportValue;
             found.Text = TextOf(row);
+            if (row.ImportAssigned) { // to an entry that is nowhere near
+                found.Kind = eKind::Differs;
+                found.EntryId = row.ImportAssignedEntry;
+            }
             AddIf(!m_paid.contains(row.ID) && row.ImportDate <= m_until, found);
         }
     }
@@ -142,13 +146,14 @@ void cReconciliation::Load(const QString& number, QDate until)
     const cImportEntryList& rows = m_ledger.Rows();
     const modBalanceCheck::cResult& check = m_ledger.Check();
     const QDate newest = rows.isEmpty() ? QDate() : rows.constLast().ImportDate;
-    m_until = until.isValid() ? until : check.IsAnchored ? check.Points.constLast().Day : newest;
+    const QDate named = check.IsAnchored ? check.Points.constLast().Day : newest;
+    m_until = until.isValid() ? qMin(until, qMax(newest, named)) : named; // behind it the bank has not spoken yet
     if (rows.isEmpty() || Account().isEmpty()) {
         return;
     }
     const auto count =
         std::count_if(rows.begin(), rows.end(), [this](const auto& row) { return row.ImportDate <= m_until; });
-    if (check.IsAnchored) {
+    if (check.IsAnchored && !m_ledger.IsShared()) {
         m_bank = m_ledger.BalanceAfter(count) - check.ErrorOn(m_until);
     }
     const cEntryItemList entries = m_tools.Data.GetEntries({{}, m_until, {}, Account(), {}, eBookingKind::All});
@@ -265,7 +270,7 @@ bool cReconciliation::TakeForEntry(const cReconcileItem& item)
         return false;
     }
     const bool isSameAmount = item.BankCents == item.BookCents;
-    if (!isSameAmount && (item.IsSplit || (item.BankCents < 0) != (item.BookCents < 0))) {
+    if (!item.BookDay.isValid() || (!isSameAmount && (item.IsSplit || (item.BankCents < 0) != (item.BookCents < 0)))) {
         m_tools.User.Show(eTone::Information,
                           cText::Tr("Bitte öffnen Sie den Eintrag, und ändern Sie dort den Betrag: {0}.",
                                     {m_tools.Format.Cents(item.BankCents)}));

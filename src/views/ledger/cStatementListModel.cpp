@@ -95,7 +95,6 @@ void cStatementListModel::ChooseAccount(const QString& number)
 void cStatementListModel::ShowAccount()
 {
     m_book = m_ledger.CompareWithBook();
-    m_differences.Show(Number());
     m_filter.reset();
     m_categories.clear();
     Show();
@@ -183,6 +182,7 @@ void cStatementListModel::Show()
     m_shown = m_inPeriod;
     Filter();
     endResetModel();
+    m_differences.Show(Number(), range.End);
     Q_EMIT Changed();
 }
 
