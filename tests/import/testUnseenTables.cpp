@@ -95,6 +95,21 @@ private:
         row("a word in a column without telling name",
             u"Datum;Wer;Wert;Richtung\n01.02.2026;Bäcker;3,50;Ausgabe\n02.02.2026;Chef;900,00;Einnahme"_s,
             {u"1 -3.50 Bäcker"_s, u"1 900.00 Chef"_s});
+        row("whole numbers, and balances before the booking",
+            u"Datum;Wofür;Abgang;Zugang;Saldo vorher\n01.02.2026;a;10;;100\n02.02.2026;b;20;;90\n03.02.2026;c;;50;70"_s,
+            {u"1 -10.00 a"_s, u"1 -20.00 b"_s, u"1 50.00 c"_s});
+        row("balances before and after the booking",
+            u"Rekeningnummer;Datum;Beginsaldo;Eindsaldo;Transactiebedrag;Omschrijving\n"
+            "123456789;20260201;100,00;87,50;-12,50;a\n123456789;20260202;87,50;987,50;900,00;b\n"
+            "123456789;20260203;987,50;980,00;-7,50;c"_s,
+            {u"123456789 -12.50 a"_s, u"123456789 900.00 b"_s, u"123456789 -7.50 c"_s});
+        row("balances before the booking that nothing names",
+            u"Datum;Text;Betrag;Stand\n01.02.2026;a;-10,00;100,00\n02.02.2026;b;-20,00;90,00\n"
+            "03.02.2026;c;50,00;70,00\n04.02.2026;d;-1,00;120,00"_s,
+            {u"1 -10.00 a"_s, u"1 -20.00 b"_s, u"1 50.00 c"_s, u"1 -1.00 d"_s});
+        row("the account's own currency",
+            u"Valuta;Text;Betrag in EUR;Betrag in USD\n01.02.2026;a;-10,00;-11,00\n02.02.2026;b;-20,00;-22,00"_s,
+            {u"1 -10.00 a"_s, u"1 -20.00 b"_s});
         row("a word in the column of kinds",
             u"Datum;Name;Betrag;Art\n01.02.2026;Bäcker;3,50;Ausgabe\n02.02.2026;Chef;900,00;Einnahme"_s,
             {u"1 -3.50 Bäcker"_s, u"1 900.00 Chef"_s});
@@ -169,6 +184,14 @@ private:
             "DE02500105170137075030;01.03.2026;-500,00;Haus;DE02120300000000202051;Miete 3"_s,
             {u"DE02500105170137075030 -500.00 Haus (DE02120300000000202051) Miete 2"_s,
              u"DE02500105170137075030 -500.00 Haus (DE02120300000000202051) Miete 3"_s});
+        row("the same shop, and an account of which nobody knows whose",
+            u"Nr,Datum,Tekst,Belastet konto,Beløp\n1,01.02.2026,Kiwi,12345678901,-50.00\n"
+            "2,02.02.2026,Lønn,12345678901,900.00"_s,
+            {u"1 -50.00 Kiwi"_s, u"1 900.00 Lønn"_s});
+        row("a name of the counter account",
+            u"Kontonummer;Buchungsdatum;Verwendungszweck;Betrag;Gegenkonto;Name Gegenkonto\n"
+            "12345678;01.02.2026;Miete;-500,00;87654321;Haus\n12345678;02.02.2026;Lohn;900,00;11112222;Chef"_s,
+            {u"12345678 -500.00 Haus (87654321) Miete"_s, u"12345678 900.00 Chef (11112222) Lohn"_s});
         row("sender and recipient",
             u"Date;Sender;Sender account;Recipient;Recipient account;Amount;Reference\n"
             "2026-02-01;Me;DE02500105170137075030;Haus;DE02120300000000202051;-500.00;Rent\n"

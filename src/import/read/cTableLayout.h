@@ -31,6 +31,7 @@ struct cTableLayout
     QString Currency;         // of all rows where no column holds it
     QString OnlyCurrency;     // rows in another one are no bookings of the account; empty: all are
     QString OwnNumber;        // own account that is on one of the two sides of every row; empty: the file does not say
+    bool IsDateGuess = false; // day and month could be the other way round in every row
     bool IsSideGuess = false; // nothing tells which of the two sides is which
     std::optional<cTableDoubt> Doubt; // which nothing but the sign rule of a choice ends
     QString Profile;                  // name of the known layout; empty when there is none

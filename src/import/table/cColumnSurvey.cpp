@@ -10,6 +10,8 @@ constexpr int mostColumns = 100;
 constexpr QStringView foreignWords = u"*Fremd*|*Origin*|*Foreign*|*Urspr*|*Gebühr*|*Fee*|*Steuer*|Tax*|MwSt*|VAT*|"
                                      u"*Entgelt*|*Rate*|*Kurs*|*Exchange*|*Detail|Einzelbetrag|Individual*";
 constexpr QStringView balanceWords = u"*Saldo*|*Balance*|*Kontostand*|Guthaben|*Solde*";
+// What was there before the booking.
+constexpr QStringView earlierWords = u"*vor*|*Begin*|*before*|*previous*|*Anfang*|*Opening*|*alter *";
 constexpr QStringView categoryWords = u"*Categor*|*Kategorie*|*Category*|Tags|*Stichw*|Rubrik|*Rubriek*";
 
 // Sub rows and totals have no day; what they lack says nothing about a column.
@@ -78,7 +80,12 @@ bool cColumnSurvey::IsTaken(int column) const
 
 bool cColumnSurvey::IsBalance(int column) const
 {
-    return IsNamed(column, balanceWords);
+    return IsNamed(column, balanceWords) && !IsEarlier(column);
+}
+
+bool cColumnSurvey::IsEarlier(int column) const
+{
+    return IsNamed(column, balanceWords) && IsNamed(column, earlierWords);
 }
 
 bool cColumnSurvey::IsForeign(int column) const

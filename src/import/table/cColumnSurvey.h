@@ -33,6 +33,7 @@ public:
     [[nodiscard]] bool IsTaken(int column) const;
     [[nodiscard]] bool IsFull(int column) const { return Facts(column).Filled == Rows() && Rows() > 0; }
     [[nodiscard]] bool IsBalance(int column) const;
+    [[nodiscard]] bool IsEarlier(int column) const; // a balance before the booking
     [[nodiscard]] bool IsForeign(int column) const; // tells of another currency, of fees or taxes
     [[nodiscard]] bool IsCategory(int column) const;
 

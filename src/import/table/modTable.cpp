@@ -216,6 +216,11 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
     cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options));
     read.IsTable = true;
     read.IsGuessed = layout.Origin == eMapOrigin::Contents;
+    if (layout.IsDateGuess && !options.Table.Date) {
+        read.Problems.append({0,
+                              cText::Tr("Tag und Monat sind in der Datei nicht zu unterscheiden. Gelesen wurde zuerst "
+                                        "der Tag, dann der Monat.")});
+    }
     read.Doubt = options.Table.Sign ? std::nullopt : layout.Doubt;
     if (!options.Table.Account.isEmpty()) {
         for (cImportEntry& entry : read.Entries) {

@@ -37,10 +37,11 @@ void CompleteDate(cColumnSurvey& survey)
     }
 }
 
-// A part above 12 that cannot be the month decides for all rows.
+// A part above 12 that cannot be the month decides for all rows. Only with strokes the month may come first.
 void DecideDateOrder(cColumnSurvey& survey)
 {
     bool isOther = false;
+    bool isOpen = false;
     for (int place = 0; place < survey.Rows(); ++place) {
         const QStringView cell = survey.Cell(place, survey.Map().Date);
         if (!modTableValue::IsDate(cell)) {
@@ -50,7 +51,11 @@ void DecideDateOrder(cColumnSurvey& survey)
             return;
         }
         isOther = isOther || !modTableValue::ReadDate(cell).isValid();
+        isOpen = isOpen
+            || (cell.contains(u'/')
+                && modTableValue::ReadDate(cell) != modTableValue::ReadDate(cell, eDateOrder::MonthDayYear));
     }
+    survey.Layout().IsDateGuess = isOpen && !isOther;
     survey.Layout().Date = isOther ? eDateOrder::MonthDayYear : survey.Layout().Date;
 }
 

@@ -124,32 +124,39 @@ private:
         return false;
     }
 
-    [[nodiscard]] static bool IsData(const QStringList& cells)
+    [[nodiscard]] static bool IsData(const QStringList& cells, bool withWholes)
     {
+        const auto isAmount = [&](const QString& cell) {
+            return modTableValue::IsAmount(cell)
+                || (withWholes && !modTableValue::IsDate(cell)
+                    && modTableValue::ReadAmount(cell, eNumberFormat::Detect).has_value());
+        };
         return cells.size() >= 3 && std::any_of(cells.begin(), cells.end(), modTableValue::IsDate)
-            && std::any_of(cells.begin(), cells.end(), modTableValue::IsAmount);
+            && std::any_of(cells.begin(), cells.end(), isAmount);
     }
 
     // The separator with which the line is a row of data; null when there is none.
-    [[nodiscard]] QChar DataSeparator(int place) const
+    [[nodiscard]] QChar DataSeparator(int place, bool withWholes) const
     {
+        const auto isData = [&](QChar separator) {
+            return IsData(modTableHeader::CellsOf(m_probes.at(place), separator), withWholes);
+        };
         if (m_choice.Separator) {
-            return IsData(modTableHeader::CellsOf(m_probes.at(place), *m_choice.Separator)) ? *m_choice.Separator
-                                                                                            : QChar();
+            return isData(*m_choice.Separator) ? *m_choice.Separator : QChar();
         }
         constexpr std::array separators{u';', u'\t', u',', u'|'};
-        const auto* const found = std::find_if(separators.begin(), separators.end(), [&](char16_t separator) {
-            return IsData(modTableHeader::CellsOf(m_probes.at(place), separator));
-        });
+        const auto* const found = std::find_if(separators.begin(), separators.end(), isData);
         return found == separators.end() ? QChar() : QChar(*found);
     }
 
     [[nodiscard]] cFound AboveData() const
     {
-        for (int place = 0; place < m_probes.size(); ++place) {
-            const QChar separator = DataSeparator(place);
-            if (!separator.isNull()) {
-                return {HeaderAbove(place, separator), place, separator};
+        for (const bool withWholes : {false, true}) { // "12" counts only where nothing has decimals
+            for (int place = 0; place < m_probes.size(); ++place) {
+                const QChar separator = DataSeparator(place, withWholes);
+                if (!separator.isNull()) {
+                    return {HeaderAbove(place, separator), place, separator};
+                }
             }
         }
         return {-1, 0, m_probes.isEmpty() ? QChar(u';') : SeparatorOf(0)};

@@ -25,6 +25,7 @@ public:
     void Run()
     {
         ReplaceAmount();
+        PreferEuros();
         TakeSides();
         if (m_map.Amount < 0 && m_map.Debit < 0 && m_map.Credit < 0) {
             GuessAmount();
@@ -50,6 +51,20 @@ private:
         });
         m_map.Amount = better < 0 ? m_map.Amount : better;
         ReplaceMisnamedAmount();
+    }
+
+    // "Betrag in EUR" beside "Betrag in USD": the account's own money, whichever comes last.
+    void PreferEuros()
+    {
+        constexpr QStringView euroWords = u"*EUR|*EUR)|*(\u20AC)|*\u20AC";
+        constexpr QStringView otherWords = u"*USD*|*GBP*|*CHF*|*JPY*|*PLN*|*CZK*|*DKK*|*SEK*";
+        const int euros = m_survey.First([&](int column) {
+            return m_survey.IsNamed(column, amountWords) && m_survey.IsNamed(column, euroWords)
+                && !m_survey.IsForeign(column) && !m_survey.IsBalance(column) && HasNumbers(column);
+        });
+        if (euros >= 0 && m_survey.IsFull(euros) && m_survey.IsNamed(m_map.Amount, otherWords)) {
+            m_map.Amount = euros;
+        }
     }
 
     // "Umsatz vom" is named like an amount and holds days.
@@ -131,7 +146,7 @@ private:
     [[nodiscard]] bool IsAmountColumn(int column) const
     {
         return Facts(column).IsMoney() && Facts(column).Amounts > 0 && !Facts(column).IsAccount()
-            && !m_survey.IsBalance(column) && !m_survey.IsForeign(column);
+            && !m_survey.IsBalance(column) && !m_survey.IsEarlier(column) && !m_survey.IsForeign(column);
     }
 
     void GuessAmount()

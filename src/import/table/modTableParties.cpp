@@ -135,9 +135,10 @@ private:
 
     [[nodiscard]] bool IsSurelyOwn(int column) const
     {
-        return m_survey.IsNamed(column,
-                                u"*Auftragskonto*|*Auftraggeberkonto*|*Kontoinhaber*|*Eigen*|*Own *|*Wallet*|"
-                                u"Konto-IBAN|IBAN Konto*|IBAN/BBAN");
+        return m_survey.IsNamed(
+            column,
+            u"*Auftragskonto*|*Auftraggeberkonto*|*Kontoinhaber*|*Eigen*|*Own *|*Wallet*|Konto|Account|Rekening|"
+            u"Konto-IBAN|IBAN Konto*|IBAN/BBAN");
     }
 
     [[nodiscard]] bool IsOnlyPlain(int column) const
@@ -209,7 +210,11 @@ private:
         TakeAccount([&](int column) {
             return Facts(column).Ibans > 0 && (!m_survey.HasNames() || m_survey.IsNamed(column, accountWords));
         });
-        TakeAccount([&](int column) { return m_accounts.contains(column); });
+        TakeAccount([&](int column) {
+            // Always the same number and no name beside it: as likely the owner's.
+            const bool isNameless = m_survey.First([&](int name) { return IsNameColumn(name); }) < 0;
+            return m_accounts.contains(column) && !(IsSteady(column) && isNameless && m_survey.Rows() > 1);
+        });
         const bool isOwnBank = IsSteady(m_map.BankCode) && m_survey.Rows() > 1 && Facts(m_map.Account).Variety() > 1;
         if (isOwnBank && m_map.OwnAccount >= 0) {
             m_map.OwnBankCode = std::exchange(m_map.BankCode, -1);
@@ -242,8 +247,9 @@ private:
 
     [[nodiscard]] bool IsNameColumn(int column) const
     {
-        return m_survey.IsNamed(column, nameWords) && !m_survey.IsNamed(column, notNameWords) && !IsHolder(column)
-            && HasText(column);
+        const bool isExcluded =
+            m_survey.IsNamed(column, notNameWords) && !m_survey.IsNamed(column, u"Name *|* Name|*-Name");
+        return m_survey.IsNamed(column, nameWords) && !isExcluded && !IsHolder(column) && HasText(column);
     }
 
     void SettleName()

@@ -47,10 +47,12 @@ cHits Better(const cHits& first, const cHits& second)
     return first.Most() >= second.Most() ? first : second;
 }
 
-// From each row to the next. `isDown`: the newest row comes first.
+// From each row to the next. `isDown`: the newest row comes first. Some banks tell the balance before the booking: its
+// steps are the amounts of the older rows.
 cHits StepHits(const cRows& rows, bool isDown)
 {
     cHits hits;
+    cHits before;
     for (qsizetype i = 1; i < rows.size(); ++i) {
         const modTableRows::cProbed& newer = rows.at(isDown ? i - 1 : i);
         const modTableRows::cProbed& older = rows.at(isDown ? i : i - 1);
@@ -58,11 +60,15 @@ cHits StepHits(const cRows& rows, bool isDown)
         const qint64 step = *newer.Balance - *older.Balance;
         hits.AsRead += value != 0 && step == value ? 1 : 0;
         hits.Turned += value != 0 && step == -value ? 1 : 0;
+        const qint64 earlier = older.Entry.ImportValue;
+        before.AsRead += earlier != 0 && step == earlier ? 1 : 0;
+        before.Turned += earlier != 0 && step == -earlier ? 1 : 0;
     }
-    return hits;
+    return Better(hits, before);
 }
 
-// Whatever the order of the rows: the balance before a row is that of another one.
+// Whatever the order of the rows: the balance before a row is that of another one. Without an order nobody can tell
+// balances before the booking from amounts the other way round, so only agreement counts.
 cHits AnyHits(const cRows& rows)
 {
     QSet<qint64> balances;
@@ -75,7 +81,7 @@ cHits AnyHits(const cRows& rows)
         hits.AsRead += value != 0 && balances.contains(*row.Balance - value) ? 1 : 0;
         hits.Turned += value != 0 && balances.contains(*row.Balance + value) ? 1 : 0;
     }
-    return hits;
+    return hits.Verdict() == eVerdict::AsRead ? hits : cHits();
 }
 
 cHits HitsOf(cRows rows)
@@ -126,8 +132,8 @@ private:
     [[nodiscard]] bool CanBeBalance(int column) const
     {
         const bool isNamed = m_survey.IsBalance(column) || column == m_layout.Map.Balance;
-        return IsMoney(column) && (isNamed || (m_layout.Map.Balance < 0 && m_survey.IsFull(column)))
-            && !m_survey.IsForeign(column);
+        return IsMoney(column) && !m_survey.IsEarlier(column)
+            && (isNamed || (m_layout.Map.Balance < 0 && m_survey.IsFull(column))) && !m_survey.IsForeign(column);
     }
 
     void TryAmounts(int balance, cColumnMap& better)
