@@ -394,10 +394,6 @@ Do you want to open it read-only?</translation>
         <translation>Folder for data and settings instead of the usual ones.</translation>
     </message>
     <message>
-        <source>Datenbank, die geöffnet wird.</source>
-        <translation>Database to open.</translation>
-    </message>
-    <message>
         <source>Die Datenbank &apos;{0}&apos; wird gerade von einem anderen Programm benutzt.</source>
         <translation>The database &apos;{0}&apos; is being used by another program.</translation>
     </message>
@@ -822,10 +818,6 @@ Do you want to save the entry anyway?</translation>
     <message>
         <source>{0}, korrigiert</source>
         <translation>{0}, corrected</translation>
-    </message>
-    <message>
-        <source>Betrag für diesen Zeitraum von Hand korrigiert.</source>
-        <translation>Amount corrected by hand for this period.</translation>
     </message>
     <message>
         <source>Kontoauszüge importieren</source>
@@ -1650,10 +1642,6 @@ The opening balances are added up, and the bank account numbers move along.</tra
     <message>
         <source>Führt die zurückgenommene Änderung wieder aus.</source>
         <translation>Makes the undone change again.</translation>
-    </message>
-    <message>
-        <source>Betrag für diesen Zeitraum korrigieren</source>
-        <translation>Correct amount for this period</translation>
     </message>
     <message>
         <source>Gibt einem Vorkommen einer Serie einen anderen Betrag.</source>
@@ -2688,14 +2676,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>The occurrence of {0} is not corrected.</translation>
     </message>
     <message>
-        <source>Bitte nennen Sie nach der Nummer den Tag und dann den neuen Betrag, --skip oder --remove; oder nur --list.</source>
-        <translation>After the number, please give the day and then the new amount, --skip or --remove; or just --list.</translation>
-    </message>
-    <message>
-        <source>gibt einem Vorkommen einer Serie einen anderen Betrag, oder zeigt alle Korrekturen</source>
-        <translation>gives one occurrence of a series a different amount, or shows all corrections</translation>
-    </message>
-    <message>
         <source>das Vorkommen auslassen (Betrag 0)</source>
         <translation>skip the occurrence (amount 0)</translation>
     </message>
@@ -3634,10 +3614,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>The line is a balance, not a transaction: {0}</translation>
     </message>
     <message>
-        <source>Die Bank nennt diesen Umsatz noch vorgemerkt. Er wurde übernommen, weil er schon ein Buchungsdatum hat: {0}</source>
-        <translation>The bank still calls this transaction pending. It was imported because it already has a booking date: {0}</translation>
-    </message>
-    <message>
         <source>Die Arbeitsmappe ist mit einem Kennwort geschützt. Bitte speichern Sie sie ohne Kennwort und lesen Sie sie noch einmal ein.</source>
         <translation>The workbook is protected by a password. Please save it without a password and import it again.</translation>
     </message>
@@ -3730,18 +3706,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>Nothing has been changed because the database could not be written.</translation>
     </message>
     <message>
-        <source>Bei einem zugeordneten Umsatz weicht der Betrag von der Serie ab.
-Soll die Serie für diesen Zeitraum auf den Betrag des Kontoauszugs korrigiert werden?</source>
-        <translation>The amount of one assigned transaction differs from the series.
-Do you want to correct the series for this period to the amount of the statement?</translation>
-    </message>
-    <message>
-        <source>Bei {0} zugeordneten Umsätzen weicht der Betrag von der Serie ab.
-Sollen die Serien für diese Zeiträume auf die Beträge des Kontoauszugs korrigiert werden?</source>
-        <translation>The amounts of {0} assigned transactions differ from the series.
-Do you want to correct the series for these periods to the amounts of the statement?</translation>
-    </message>
-    <message>
         <source>Eine Serie auf den Betrag des Kontoauszugs korrigiert.</source>
         <translation>One series corrected to the amount of the statement.</translation>
     </message>
@@ -3752,16 +3716,6 @@ Do you want to correct the series for these periods to the amounts of the statem
     <message>
         <source>Abgleichen abgebrochen, es wurde nichts zugeordnet.</source>
         <translation>Matching cancelled, nothing has been assigned.</translation>
-    </message>
-    <message>
-        <source>Umsätze abgleichen</source>
-        <translation>Match transactions</translation>
-    </message>
-    <message>
-        <source>Der Umsatz beträgt {0}, die Serie {1}.
-Soll die Serie für diesen Zeitraum auf den Betrag des Kontoauszugs korrigiert werden?</source>
-        <translation>The transaction is {0}, the series {1}.
-Do you want to correct the series for this period to the amount of the statement?</translation>
     </message>
     <message>
         <source>Umsatz zuordnen</source>
@@ -4388,10 +4342,6 @@ Suggestion: {2}</translation>
         <translation>{0} open, {1} in total, {2} older hidden</translation>
     </message>
     <message>
-        <source>CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;*.xls;*.xlsx;*.ofx;*.qfx;*.qif|Alle Dateien|*.*</source>
-        <translation>CSV/XLS/MT940/MT942/OFX/QIF file|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|All statements|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;*.xls;*.xlsx;*.ofx;*.qfx;*.qif|All files|*.*</translation>
-    </message>
-    <message>
         <source>Kontoauszug noch einmal eingelesen</source>
         <translation>Statement imported again</translation>
     </message>
@@ -4776,14 +4726,6 @@ Suggestion: {2}</translation>
         <translation>None of the transactions shown has a reliable suggestion.</translation>
     </message>
     <message>
-        <source>Ein gezeigter Umsatz hat einen sicheren Vorschlag. Soll er so gebucht werden?</source>
-        <translation>One of the transactions shown has a reliable suggestion. Do you want to book it that way?</translation>
-    </message>
-    <message>
-        <source>{0} der gezeigten Umsätze haben einen sicheren Vorschlag. Sollen sie alle so gebucht werden?</source>
-        <translation>{0} of the transactions shown have a reliable suggestion. Do you want to book them all that way?</translation>
-    </message>
-    <message>
         <source>Vorschläge annehmen</source>
         <translation>Accept suggestions</translation>
     </message>
@@ -5086,10 +5028,6 @@ Suggestion: {2}</translation>
     <message>
         <source>Alle &amp;Vorschläge annehmen</source>
         <translation>Acce&amp;pt all suggestions</translation>
-    </message>
-    <message>
-        <source>Bucht alle gezeigten offenen Umsätze, deren Vorschlag gelernt ist, aus einer Regel kommt oder zu einer Serie oder einem eigenen Konto gehört</source>
-        <translation>Books all open transactions shown whose suggestion is learned, comes from a rule or belongs to a series or to one of your own accounts</translation>
     </message>
     <message>
         <source>&amp;Kategorie…</source>
@@ -5556,14 +5494,6 @@ A new name creates an account.</translation>
         <translation>Shows what the printout will look like.</translation>
     </message>
     <message>
-        <source>Von den markierten Umsätzen gehören wahrscheinlich {0} zu Einträgen, die es schon gibt:
-{1}
-Sollen sie offen bleiben? Bei Nein werden auch daraus neue Einträge.</source>
-        <translation>Of the selected transactions, {0} probably belong to entries that exist already:
-{1}
-Shall they stay open? With No, they become new entries too.</translation>
-    </message>
-    <message>
         <source>Zu {0} der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
 {1}
 Sollen diese offen bleiben? Bei Nein werden auch sie gebucht.</source>
@@ -5918,14 +5848,6 @@ Your entries stay as they are.</translation>
     <message>
         <source>einer davon zu einem vorhandenen Eintrag</source>
         <translation>one of them to an existing entry</translation>
-    </message>
-    <message>
-        <source>Von den markierten Umsätzen gehört wahrscheinlich einer zu einem Eintrag, den es schon gibt:
-{1}
-Soll er offen bleiben? Bei Nein wird auch daraus ein neuer Eintrag.</source>
-        <translation>One of the marked transactions probably belongs to an entry that already exists:
-{1}
-Shall it stay open? With No it becomes a new entry as well.</translation>
     </message>
     <message>
         <source>Zu einem der Umsätze gibt es noch einen, der derselbe sein kann, zum Beispiel aus einer Datei in einem anderen Format:
@@ -7036,10 +6958,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <translation>Transactions fetched</translation>
     </message>
     <message>
-        <source>schon vorhanden, nur mit anderen Leerzeichen</source>
-        <translation>already there, only with other blanks</translation>
-    </message>
-    <message>
         <source>früher abgerufen und von Ihnen gelöscht</source>
         <translation>fetched before and deleted by you</translation>
     </message>
@@ -7278,6 +7196,1116 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     <message>
         <source>Protoko&amp;ll…</source>
         <translation>Lo&amp;g…</translation>
+    </message>
+    <message>
+        <source>Umsätze werden gebucht …</source>
+        <translation>Booking transactions …</translation>
+    </message>
+    <message>
+        <source>Die Shell &apos;{0}&apos; ist nicht bekannt: bash, zsh oder fish.</source>
+        <translation>The shell &apos;{0}&apos; is not known: bash, zsh or fish.</translation>
+    </message>
+    <message>
+        <source>schreibt die Vervollständigung der Befehle für eine Shell</source>
+        <translation>writes the completion of the commands for a shell</translation>
+    </message>
+    <message>
+        <source>ÜBERSICHT</source>
+        <translation>SYNOPSIS</translation>
+    </message>
+    <message>
+        <source>DATEIEN</source>
+        <translation>FILES</translation>
+    </message>
+    <message>
+        <source>das Haushaltsbuch, wenn kein anderes gewählt ist; daneben die Sicherungen</source>
+        <translation>the accounts book, unless another one is chosen; its backups lie beside it</translation>
+    </message>
+    <message>
+        <source>das Haushaltsbuch auf der Befehlszeile</source>
+        <translation>household accounts on the command line</translation>
+    </message>
+    <message>
+        <source>BESCHREIBUNG</source>
+        <translation>DESCRIPTION</translation>
+    </message>
+    <message>
+        <source>Liest und schreibt dieselbe Datenbank wie das Fenster: Kontoauszüge einlesen oder abrufen, Umsätze zuordnen und buchen, Einträge ausgeben, Berichte und Diagramme.</source>
+        <translation>Reads and writes the same database as the window: reads or fetches bank statements, matches and books transactions, lists entries, makes reports and charts.</translation>
+    </message>
+    <message>
+        <source>BEFEHLE</source>
+        <translation>COMMANDS</translation>
+    </message>
+    <message>
+        <source>ALLGEMEINE OPTIONEN</source>
+        <translation>GENERAL OPTIONS</translation>
+    </message>
+    <message>
+        <source>die Datenbank; ohne Angabe die, die auch das Fenster öffnet</source>
+        <translation>the database; without it the one that the window opens too</translation>
+    </message>
+    <message>
+        <source>Datenordner und Einstellungen liegen unter diesem Ordner</source>
+        <translation>data folder and settings lie below this folder</translation>
+    </message>
+    <message>
+        <source>ERGEBNIS</source>
+        <translation>EXIT STATUS</translation>
+    </message>
+    <message>
+        <source>0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.</source>
+        <translation>0 done, 1 failed, 2 wrong call. Messages go to the error output.</translation>
+    </message>
+    <message>
+        <source>SIEHE AUCH</source>
+        <translation>SEE ALSO</translation>
+    </message>
+    <message>
+        <source>das Haushaltsbuch</source>
+        <translation>household accounts</translation>
+    </message>
+    <message>
+        <source>Einnahmen und Ausgaben eines Haushalts, einmalig, wiederkehrend oder aufgeteilt, mit Kontoauszügen aus Dateien oder von der Bank, Berichten und Diagrammen.</source>
+        <translation>Income and expenses of a household, once, recurring or split, with bank statements from files or from the bank, reports and charts.</translation>
+    </message>
+    <message>
+        <source>OPTIONEN</source>
+        <translation>OPTIONS</translation>
+    </message>
+    <message>
+        <source>Handbuchseiten gibt es für {0} und {1}.</source>
+        <translation>There are manual pages for {0} and {1}.</translation>
+    </message>
+    <message>
+        <source>schreibt die Handbuchseite (man) eines der beiden Programme</source>
+        <translation>writes the manual page (man) of one of the two programs</translation>
+    </message>
+    <message>
+        <source>Eintrag {0}: {1}</source>
+        <translation>Entry {0}: {1}</translation>
+    </message>
+    <message>
+        <source>nur, was im Buch steht oder sicher ist</source>
+        <translation>only what is in the book or certain</translation>
+    </message>
+    <message>
+        <source>Umsätze, die einen Eintrag haben, diesem zuordnen</source>
+        <translation>assign transactions that have an entry to it</translation>
+    </message>
+    <message>
+        <source>auch aus solchen neue Einträge machen</source>
+        <translation>make new entries of these too</translation>
+    </message>
+    <message>
+        <source>{0}, am {1}</source>
+        <translation>{0}, on {1}</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie nach der Nummer den Tag und dann den neuen Betrag oder --day, --skip oder --remove; oder nur --list.</source>
+        <translation>After the number, please name the day and then the new amount or --day, --skip or --remove; or only --list.</translation>
+    </message>
+    <message>
+        <source>gibt einem Vorkommen einer Serie einen anderen Betrag oder Tag, oder zeigt alle Korrekturen</source>
+        <translation>gives an occurrence of a series another amount or day, or shows all corrections</translation>
+    </message>
+    <message>
+        <source>das Vorkommen auf diesen Tag verschieben</source>
+        <translation>move the occurrence to this day</translation>
+    </message>
+    <message>
+        <source>Offen bleiben: {0}; &quot;propose&quot; zeigt, warum.</source>
+        <translation>Left open: {0}; &quot;propose&quot; shows why.</translation>
+    </message>
+    <message>
+        <source>  mehrfach gleich: {0}</source>
+        <translation>  repeated: {0}</translation>
+    </message>
+    <message>
+        <source>Mit --skip-stray-details wird die Datei ohne diese Zeilen gelesen.</source>
+        <translation>With --skip-stray-details the file is read without these lines.</translation>
+    </message>
+    <message>
+        <source>auch Umsätze übernehmen, die im Auszug mehrmals gleich stehen und die kein Kontostand der Bank belegt</source>
+        <translation>also take transactions that stand more than once in the statement and that no balance of the bank confirms</translation>
+    </message>
+    <message>
+        <source>Ein Umsatz steht im Auszug noch einmal gleich und wurde nicht übernommen, weil kein Kontostand der Bank ihn belegt. Mit --take-equal wird er übernommen.</source>
+        <translation>One transaction stands in the statement once more and was not taken because no balance of the bank confirms it. With --take-equal it is taken.</translation>
+    </message>
+    <message>
+        <source>{0} Umsätze stehen im Auszug noch einmal gleich und wurden nicht übernommen, weil kein Kontostand der Bank sie belegt. Mit --take-equal werden sie übernommen.</source>
+        <translation>{0} transactions stand in the statement once more and were not taken because no balance of the bank confirms them. With --take-equal they are taken.</translation>
+    </message>
+    <message>
+        <source>MT940: Angaben (:86:) vor dem ersten Umsatz eines Auszugs übergehen, statt die Datei abzulehnen</source>
+        <translation>MT940: pass over details (:86:) before the first transaction of a statement instead of refusing the file</translation>
+    </message>
+    <message>
+        <source>danach zuordnen und buchen, was im Buch steht oder sicher ist</source>
+        <translation>then assign and book what is in the book or certain</translation>
+    </message>
+    <message>
+        <source>beim ersten Auszug eines Kontos kein Startguthaben eintragen</source>
+        <translation>enter no opening balance with the first statement of an account</translation>
+    </message>
+    <message>
+        <source>Der Aufbau &quot;{0}&quot; gilt nun für alle Dateien mit denselben Spaltennamen.</source>
+        <translation>The layout &quot;{0}&quot; now holds for all files with the same column names.</translation>
+    </message>
+    <message>
+        <source>zeigt die Namen der bekannten Tabellen von Banken, für --profile-name</source>
+        <translation>shows the names of the known tables of banks, for --profile-name</translation>
+    </message>
+    <message>
+        <source>schreibt in eine kleine Textdatei, wie die Tabelle DATEI gelesen wird, zum Weitergeben</source>
+        <translation>writes to a small text file how the table DATEI is read, to be shared</translation>
+    </message>
+    <message>
+        <source>merkt sich den Aufbau aus einer solchen Textdatei für alle Dateien mit denselben Spaltennamen</source>
+        <translation>remembers the layout of such a text file for all files with the same column names</translation>
+    </message>
+    <message>
+        <source>Solange sich Bank und Buch unterscheiden, wird nichts vermerkt.</source>
+        <translation>While bank and book differ, nothing is noted.</translation>
+    </message>
+    <message>
+        <source>vergleicht ein Bankkonto Umsatz für Umsatz mit dem Buch</source>
+        <translation>compares a bank account with the book transaction by transaction</translation>
+    </message>
+    <message>
+        <source>letzter Tag; sonst der des neuesten Kontostands der Bank</source>
+        <translation>last day; else that of the bank&apos;s newest balance</translation>
+    </message>
+    <message>
+        <source>Einträgen mit anderem Tag oder Betrag beides von der Bank geben, und das Startguthaben anpassen</source>
+        <translation>give entries with another day or amount both from the bank, and adjust the opening balance</translation>
+    </message>
+    <message>
+        <source>vermerken, dass Bank und Buch bis dahin übereinstimmen</source>
+        <translation>note that bank and book agree up to then</translation>
+    </message>
+    <message>
+        <source>beendet Serien, die die Bank nicht mehr bucht, und verschiebt Buchungen, die ausstehen</source>
+        <translation>ends series that the bank no longer books, and moves bookings that are outstanding</translation>
+    </message>
+    <message>
+        <source>wenn eine Tabelle nicht sagt, was Ausgaben sind: {0}; wird für Tabellen mit denselben Spaltennamen gemerkt</source>
+        <translation>if a table does not say what expenses are: {0}; remembered for tables with the same column names</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist ein Ordner. Geben Sie Dateien an.</source>
+        <translation>&apos;{0}&apos; is a folder. Please name files.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no file &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Es kann nur ein Haushaltsbuch geöffnet werden, nicht &apos;{0}&apos; und &apos;{1}&apos; zugleich.</source>
+        <translation>Only one accounts book can be opened, not &apos;{0}&apos; and &apos;{1}&apos; at once.</translation>
+    </message>
+    <message>
+        <source>Angaben ohne Umsatz wurden übergangen: {0}</source>
+        <translation>Details without a transaction were passed over: {0}</translation>
+    </message>
+    <message>
+        <source>die Serie hat für diesen Zeitraum schon einen Umsatz</source>
+        <translation>the series has a transaction for this period already</translation>
+    </message>
+    <message>
+        <source>die Gegenbuchung steht nicht als Umbuchung im Buch</source>
+        <translation>the other side is not a transfer in the book</translation>
+    </message>
+    <message>
+        <source>Geldautomat</source>
+        <translation>Cash machine</translation>
+    </message>
+    <message>
+        <source>{0}; unsicher, andere sind anders gebucht</source>
+        <translation>{0}; not sure, others are booked differently</translation>
+    </message>
+    <message>
+        <source>Bargeld: an {0}</source>
+        <translation>cash: to {0}</translation>
+    </message>
+    <message>
+        <source>Bargeld: von {0}</source>
+        <translation>cash: from {0}</translation>
+    </message>
+    <message>
+        <source>Stichwort: {0}</source>
+        <translation>keyword: {0}</translation>
+    </message>
+    <message>
+        <source>bekannt: {0}</source>
+        <translation>known: {0}</translation>
+    </message>
+    <message>
+        <source>Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen wurde der Tag zuerst.</source>
+        <translation>The file leaves open whether day or month comes first. It was read with the day first.</translation>
+    </message>
+    <message>
+        <source>Die Datei sagt nicht sicher, welche Beträge Ausgaben und welche Einnahmen sind.</source>
+        <translation>The file does not say for certain which amounts are expenses and which are income.</translation>
+    </message>
+    <message>
+        <source>Kreditkarte</source>
+        <translation>Credit card</translation>
+    </message>
+    <message>
+        <source>Bankkonto</source>
+        <translation>Bank account</translation>
+    </message>
+    <message>
+        <source>Die Bankleitzahl des Kontos konnte nicht gespeichert werden.</source>
+        <translation>The bank code of the account could not be saved.</translation>
+    </message>
+    <message>
+        <source>{0}: {1} Entpacken Sie das Archiv und lesen Sie diese Datei einzeln ein.</source>
+        <translation>{0}: {1} Unpack the archive and read this file on its own.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist kein Aufbau: sie beginnt nicht mit &quot;{0}&quot;.</source>
+        <translation>The file is no layout: it does not begin with &quot;{0}&quot;.</translation>
+    </message>
+    <message>
+        <source>Zeile {0} ist nicht zu verstehen: {1}</source>
+        <translation>Line {0} cannot be understood: {1}</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>Dem Aufbau fehlen die Spalten für Tag und Betrag.</source>
+        <translation>The layout lacks the columns for day and amount.</translation>
+    </message>
+    <message>
+        <source>Tag und Monat sind in der Datei nicht zu unterscheiden. Gelesen wurde zuerst der Tag, dann der Monat.</source>
+        <translation>Day and month cannot be told apart in the file. The day was read first, then the month.</translation>
+    </message>
+    <message>
+        <source>Hier beginnt ein weiterer Abschnitt der Datei; gelesen wurde er als Konto {0}.</source>
+        <translation>Another part of the file begins here; it was read as account {0}.</translation>
+    </message>
+    <message>
+        <source>Hier beginnt ein weiterer Abschnitt der Datei, &quot;{0}&quot;; gelesen wurde er als Konto {1}.</source>
+        <translation>Another part of the file begins here, &quot;{0}&quot;; it was read as account {1}.</translation>
+    </message>
+    <message>
+        <source>Von hier an wurde die Datei nicht gelesen: zu viele Abschnitte.</source>
+        <translation>From here on the file was not read: too many parts.</translation>
+    </message>
+    <message>
+        <source>Ob die Gebühren in der Spalte &quot;{0}&quot; schon im Betrag enthalten sind, sagt die Datei nicht. Sie wurden nicht abgezogen.</source>
+        <translation>The file does not say whether the fees in the column &quot;{0}&quot; are part of the amount. They were not deducted.</translation>
+    </message>
+    <message>
+        <source>Der Zeile fehlt ein Feld; Name und Zweck können vertauscht sein: {0}</source>
+        <translation>The line lacks a field; name and purpose may be mixed up: {0}</translation>
+    </message>
+    <message>
+        <source>Die Zeile hat ein Feld zu viel; Name und Zweck können vertauscht sein: {0}</source>
+        <translation>The line has a field too many; name and purpose may be mixed up: {0}</translation>
+    </message>
+    <message>
+        <source>Die Kontonummer weicht ab und wurde als {0} gelesen: {1}</source>
+        <translation>The account number differs and was read as {0}: {1}</translation>
+    </message>
+    <message>
+        <source>In den Beträgen steht ein Semikolon statt des Kommas, vermutlich nach dem Speichern mit einer Tabellenkalkulation. Es wurde als Komma gelesen.</source>
+        <translation>The amounts have a semicolon in the place of the comma, probably after a spreadsheet saved them. It was read as a comma.</translation>
+    </message>
+    <message>
+        <source>Zeilen, deren Kontonummer verloren ist, weil eine Tabellenkalkulation sie als Zahl gespeichert hat (1,23E+21): {0}</source>
+        <translation>Lines whose account number is lost, because a spreadsheet saved it as a number (1.23E+21): {0}</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Tag und Betrag, deren Text an die Zeile darüber gehängt wurde: {0}</source>
+        <translation>Lines without day and amount whose text was added to the line above: {0}</translation>
+    </message>
+    <message>
+        <source>Der Punkt in den Beträgen wurde als Dezimalpunkt gelesen.</source>
+        <translation>The point in the amounts was read as a decimal point.</translation>
+    </message>
+    <message>
+        <source>Die Zeile hat mehr Felder als die Tabelle Spalten: {0}</source>
+        <translation>The row has more fields than the table has columns: {0}</translation>
+    </message>
+    <message>
+        <source>Die Zeile ist eine Summe und kein Umsatz: {0}</source>
+        <translation>The line is a total and no transaction: {0}</translation>
+    </message>
+    <message>
+        <source>Der Umsatz wurde nicht ausgeführt oder rückgängig gemacht: {0}</source>
+        <translation>The transaction was not executed or was reversed: {0}</translation>
+    </message>
+    <message>
+        <source>Ob diese Umsätze schon gebucht sind, ist nicht sicher; sie wurden übernommen. In der Spalte &quot;{0}&quot; steht: {1}</source>
+        <translation>It is not certain that these transactions are booked already; they were taken. The column &quot;{0}&quot; says: {1}</translation>
+    </message>
+    <message>
+        <source>Zeilen mit einer Gebühr neben dem Betrag, die abgezogen wurde: {0}</source>
+        <translation>Lines with a fee beside the amount, which was deducted: {0}</translation>
+    </message>
+    <message>
+        <source>{0} Betroffen: {1}.</source>
+        <translation>{0} Affected: {1}.</translation>
+    </message>
+    <message>
+        <source>Der Umsatz steht außerhalb der Auszüge in der Datei.</source>
+        <translation>The transaction stands outside the statements of the file.</translation>
+    </message>
+    <message>
+        <source>Die Adresse der Bank muss mit https:// beginnen.</source>
+        <translation>The address of the bank has to begin with https://.</translation>
+    </message>
+    <message>
+        <source>Die Bank nennt eine andere Adresse: {0}. Fragen Sie bei ihr nach, bevor Sie sie unter &quot;Bankzugänge…&quot; eintragen; von selbst wird sie nicht benutzt.</source>
+        <translation>The bank names another address: {0}. Ask the bank before you enter it under &quot;Bank logins…&quot;; it is not used by itself.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; verschoben</source>
+        <translation>&apos;{0}&apos; moved</translation>
+    </message>
+    <message>
+        <source>Fenster, Netz, Texte</source>
+        <translation>windows, network, texts</translation>
+    </message>
+    <message>
+        <source>die Datenbank</source>
+        <translation>the database</translation>
+    </message>
+    <message>
+        <source>gemeinfrei</source>
+        <translation>public domain</translation>
+    </message>
+    <message>
+        <source>Zugriff auf die Datenbank</source>
+        <translation>access to the database</translation>
+    </message>
+    <message>
+        <source>liest XML</source>
+        <translation>reads XML</translation>
+    </message>
+    <message>
+        <source>liest HTML</source>
+        <translation>reads HTML</translation>
+    </message>
+    <message>
+        <source>zeigt Berichte</source>
+        <translation>shows reports</translation>
+    </message>
+    <message>
+        <source>liest Zip-Archive</source>
+        <translation>reads zip archives</translation>
+    </message>
+    <message>
+        <source>schreibt Excel-Dateien</source>
+        <translation>writes Excel files</translation>
+    </message>
+    <message>
+        <source>Verzeichnis der Banken</source>
+        <translation>directory of banks</translation>
+    </message>
+    <message>
+        <source>Das Haushaltsbuch für zu Hause. Alle Daten liegen in einer Datei auf Ihrem Rechner.
+
+Freie Software unter der GNU General Public License, Version 3 oder neuer. Sie dürfen sie benutzen, weitergeben und verändern; eine Gewähr gibt es nicht.</source>
+        <translation>Accounts for a household. All data lies in one file on your computer.
+
+Free software under the GNU General Public License, version 3 or later. You may use, share and change it; there is no warranty.</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; stimmt bis {1} mit der Bank überein. Mit dieser Änderung wäre es ab dem {2} nicht mehr so.
+
+Trotzdem ändern?</source>
+        <translation>The account &apos;{0}&apos; agrees with the bank up to {1}. With this change it would not do so any more from {2} on.
+
+Change it all the same?</translation>
+    </message>
+    <message>
+        <source>Mit der Bank abgeglichen</source>
+        <translation>Reconciled with the bank</translation>
+    </message>
+    <message>
+        <source>Unterschied</source>
+        <translation>Difference</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Tag (Bank)</source>
+        <translation>Day (bank)</translation>
+    </message>
+    <message>
+        <source>Betrag (Bank)</source>
+        <translation>Amount (bank)</translation>
+    </message>
+    <message>
+        <source>Tag (Buch)</source>
+        <translation>Day (book)</translation>
+    </message>
+    <message>
+        <source>Betrag (Buch)</source>
+        <translation>Amount (book)</translation>
+    </message>
+    <message>
+        <source>Sti&amp;mmt bis {0}</source>
+        <translation>A&amp;grees up to {0}</translation>
+    </message>
+    <message>
+        <source>Kontostand vor dem ersten Umsatz</source>
+        <translation>Balance before the first transaction</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; stimmt bis {1} Umsatz für Umsatz mit der Bank überein: {2}.</source>
+        <translation>The account &apos;{0}&apos; agrees with the bank transaction by transaction up to {1}: {2}.</translation>
+    </message>
+    <message>
+        <source>Ein Unterschied bis {1}.</source>
+        <translation>One difference up to {1}.</translation>
+    </message>
+    <message>
+        <source>{4} Unterschiede bis {1}.</source>
+        <translation>{4} differences up to {1}.</translation>
+    </message>
+    <message>
+        <source>Die Bank hat keinen Kontostand genannt; im Buch sind es {2}.</source>
+        <translation>The bank named no balance; in the book it is {2}.</translation>
+    </message>
+    <message>
+        <source>Bank: {3}, Buch: {2}.</source>
+        <translation>Bank: {3}, book: {2}.</translation>
+    </message>
+    <message>
+        <source>nur bei der Bank</source>
+        <translation>only at the bank</translation>
+    </message>
+    <message>
+        <source>nur im Buch</source>
+        <translation>only in the book</translation>
+    </message>
+    <message>
+        <source>Tag anders</source>
+        <translation>other day</translation>
+    </message>
+    <message>
+        <source>Betrag anders</source>
+        <translation>other amount</translation>
+    </message>
+    <message>
+        <source>Betrag und Tag anders</source>
+        <translation>other amount and day</translation>
+    </message>
+    <message>
+        <source>&amp;Umsatz buchen</source>
+        <translation>B&amp;ook transaction</translation>
+    </message>
+    <message>
+        <source>Startg&amp;uthaben anpassen</source>
+        <translation>Ad&amp;just opening balance</translation>
+    </message>
+    <message>
+        <source>Wie bei der &amp;Bank</source>
+        <translation>As at the &amp;bank</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; wie bei der Bank</source>
+        <translation>&apos;{0}&apos; as at the bank</translation>
+    </message>
+    <message>
+        <source>Bitte öffnen Sie den Eintrag, und ändern Sie dort den Betrag: {0}.</source>
+        <translation>Please open the entry and change the amount there: {0}.</translation>
+    </message>
+    <message>
+        <source>Bitte öffnen Sie den Eintrag, und ändern Sie ihn dort.</source>
+        <translation>Please open the entry and change it there.</translation>
+    </message>
+    <message>
+        <source>Sie stimmten schon am {4} nicht überein: vom Auszug der Bank fehlen Umsätze.</source>
+        <translation>They already differed on {4}: transactions of the bank&apos;s statement are missing.</translation>
+    </message>
+    <message>
+        <source>Betrag für diesen Zeitraum korrigiert.</source>
+        <translation>Amount corrected for this period.</translation>
+    </message>
+    <message>
+        <source>Verschoben; geplant war der {0}.</source>
+        <translation>Moved; planned for {0}.</translation>
+    </message>
+    <message>
+        <source>Stimmt mit der Bank überein bis {0}.</source>
+        <translation>Agrees with the bank up to {0}.</translation>
+    </message>
+    <message>
+        <source>Ser&amp;ien prüfen…</source>
+        <translation>Check ser&amp;ies…</translation>
+    </message>
+    <message>
+        <source>Sucht Serien, die die Bank nicht mehr bucht, und Buchungen, die ausstehen.</source>
+        <translation>Looks for series that the bank no longer books, and for bookings that are outstanding.</translation>
+    </message>
+    <message>
+        <source>Hilfe</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>&amp;Über Kontorelle</source>
+        <translation>&amp;About Kontorelle</translation>
+    </message>
+    <message>
+        <source>Zeigt Version, Lizenz und verwendete Bibliotheken.</source>
+        <translation>Shows version, licence and the libraries in use.</translation>
+    </message>
+    <message>
+        <source>lässt Kontoauszüge zum Einlesen auswählen, auch im laufenden Programm.</source>
+        <translation>lets you choose bank statements to read, in the running program too.</translation>
+    </message>
+    <message>
+        <source>öffnet einen neuen Eintrag, auch im laufenden Programm.</source>
+        <translation>opens a new entry, in the running program too.</translation>
+    </message>
+    <message>
+        <source>Haushaltsbuch, das geöffnet wird, oder Kontoauszüge, die eingelesen werden.</source>
+        <translation>Accounts book to open, or bank statements to read.</translation>
+    </message>
+    <message>
+        <source>Ein Vorkommen einer Serie liegt jetzt am Buchungstag der Bank.</source>
+        <translation>One occurrence of a series now lies on the bank&apos;s booking day.</translation>
+    </message>
+    <message>
+        <source>{0} Vorkommen von Serien liegen jetzt am Buchungstag der Bank.</source>
+        <translation>{0} occurrences of series now lie on the bank&apos;s booking day.</translation>
+    </message>
+    <message>
+        <source>Eine Serie hat ab hier den Betrag des Kontoauszugs.</source>
+        <translation>One series has the amount of the bank statement from here on.</translation>
+    </message>
+    <message>
+        <source>{0} Serien haben ab hier den Betrag des Kontoauszugs.</source>
+        <translation>{0} series have the amount of the bank statement from here on.</translation>
+    </message>
+    <message>
+        <source>Ein Eintrag hat Tag und Betrag der Bank übernommen.</source>
+        <translation>One entry has taken over the bank&apos;s day and amount.</translation>
+    </message>
+    <message>
+        <source>{0} Einträge haben Tag und Betrag der Bank übernommen.</source>
+        <translation>{0} entries have taken over the bank&apos;s day and amount.</translation>
+    </message>
+    <message>
+        <source>{0}: {1}; Bank: {2} am {3}</source>
+        <translation>{0}: {1}; bank: {2} on {3}</translation>
+    </message>
+    <message>
+        <source>Diese Einträge stehen mit anderem Tag oder Betrag im Haushaltsbuch als bei der Bank:</source>
+        <translation>These entries have another day or amount in the book than at the bank:</translation>
+    </message>
+    <message>
+        <source>Sollen sie Tag und Betrag der Bank übernehmen?</source>
+        <translation>Shall they take over the bank&apos;s day and amount?</translation>
+    </message>
+    <message>
+        <source>Umsätze zuordnen</source>
+        <translation>Assign transactions</translation>
+    </message>
+    <message>
+        <source>Diese Vorkommen haben Sie von Hand korrigiert, und die Bank hat anders gebucht:</source>
+        <translation>You corrected these occurrences by hand, and the bank booked something else:</translation>
+    </message>
+    <message>
+        <source>Sollen Tag und Betrag der Bank gelten?</source>
+        <translation>Shall the bank&apos;s day and amount apply?</translation>
+    </message>
+    <message>
+        <source>Korrektur von Hand</source>
+        <translation>Correction by hand</translation>
+    </message>
+    <message>
+        <source>{0}: {1} statt {2}, Vorschlag: {3}</source>
+        <translation>{0}: {1} instead of {2}, proposed: {3}</translation>
+    </message>
+    <message>
+        <source>ab hier</source>
+        <translation>from here on</translation>
+    </message>
+    <message>
+        <source>nur dieses Mal</source>
+        <translation>only this time</translation>
+    </message>
+    <message>
+        <source>Nicht ändern</source>
+        <translation>Do not change</translation>
+    </message>
+    <message>
+        <source>Wie vorgeschlagen</source>
+        <translation>As proposed</translation>
+    </message>
+    <message>
+        <source>Die Bank hat andere Beträge gebucht, als diese Serien vorsehen:</source>
+        <translation>The bank booked other amounts than these series provide for:</translation>
+    </message>
+    <message>
+        <source>Wie sollen sie geändert werden?</source>
+        <translation>How shall they be changed?</translation>
+    </message>
+    <message>
+        <source>Beträge von Serien</source>
+        <translation>Amounts of series</translation>
+    </message>
+    <message>
+        <source>{0} Was ist richtig?</source>
+        <translation>{0} Which is right?</translation>
+    </message>
+    <message>
+        <source>Aufbau speichern</source>
+        <translation>Save layout</translation>
+    </message>
+    <message>
+        <source>Aufbau einer Tabelle|*.txt|Alle Dateien|*.*</source>
+        <translation>Layout of a table|*.txt|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Aufbau {0}.txt</source>
+        <translation>Layout {0}.txt</translation>
+    </message>
+    <message>
+        <source>Aufbau laden</source>
+        <translation>Load layout</translation>
+    </message>
+    <message>
+        <source>Der Aufbau &quot;{0}&quot; gilt nun für diese Datei und alle mit denselben Spaltennamen.</source>
+        <translation>The layout &quot;{0}&quot; now holds for this file and all with the same column names.</translation>
+    </message>
+    <message>
+        <source>Der Aufbau &quot;{0}&quot; ist gemerkt. Diese Datei hat andere Spaltennamen.</source>
+        <translation>The layout &quot;{0}&quot; is remembered. This file has other column names.</translation>
+    </message>
+    <message>
+        <source>Kategorie eines Eintrags geändert</source>
+        <translation>Category of an entry changed</translation>
+    </message>
+    <message>
+        <source>Kategorie von {0} Einträgen geändert</source>
+        <translation>Category of {0} entries changed</translation>
+    </message>
+    <message>
+        <source>Ein Eintrag steht nun unter &apos;{0}&apos;.</source>
+        <translation>One entry is now filed under &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>{0} Einträge stehen nun unter &apos;{1}&apos;.</source>
+        <translation>{0} entries are now filed under &apos;{1}&apos;.</translation>
+    </message>
+    <message>
+        <source>{0} gebucht.</source>
+        <translation>{0} booked.</translation>
+    </message>
+    <message>
+        <source>Der Aufbau konnte nicht gespeichert werden.</source>
+        <translation>The layout could not be stored.</translation>
+    </message>
+    <message>
+        <source>Laut Kontoauszug hatte das Konto &apos;{0}&apos; am {1} einen Stand von {2}; im Buch sind es {3}.</source>
+        <translation>According to the statement the account &apos;{0}&apos; held {2} on {1}; in the book it is {3}.</translation>
+    </message>
+    <message>
+        <source>Soll das Startguthaben von {6} auf {4} geändert werden, damit das Buch mit der Bank übereinstimmt?</source>
+        <translation>Shall the opening balance be changed from {6} to {4}, so that the book agrees with the bank?</translation>
+    </message>
+    <message>
+        <source>Soll {4} als Startguthaben vom {5} eingetragen werden, damit das Buch mit der Bank übereinstimmt?</source>
+        <translation>Shall {4} be entered as opening balance of {5}, so that the book agrees with the bank?</translation>
+    </message>
+    <message>
+        <source>Startguthaben von &apos;{0}&apos;: {1} am {2}, laut Kontoauszug.</source>
+        <translation>Opening balance of &apos;{0}&apos;: {1} on {2}, according to the statement.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts gebucht.</source>
+        <translation>Cancelled, nothing was booked.</translation>
+    </message>
+    <message>
+        <source>Es wurde nichts gebucht.</source>
+        <translation>Nothing was booked.</translation>
+    </message>
+    <message>
+        <source>Auf den Tagen, für die Kontoauszüge vorliegen, fehlt zu keiner Serie eine Buchung der Bank.</source>
+        <translation>On the days that bank statements cover, no series lacks a booking of the bank.</translation>
+    </message>
+    <message>
+        <source>Serien geprüft</source>
+        <translation>Series checked</translation>
+    </message>
+    <message>
+        <source>{0} noch nicht gebucht</source>
+        <translation>{0} not booked yet</translation>
+    </message>
+    <message>
+        <source>{0} nicht gebucht</source>
+        <translation>{0} not booked</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ({1})</source>
+        <translation>&apos;{0}&apos; ({1})</translation>
+    </message>
+    <message>
+        <source>{0}, fällig am {1}: noch nicht gebucht; wird auf den {2} verschoben</source>
+        <translation>{0}, due on {1}: not booked yet; moves to {2}</translation>
+    </message>
+    <message>
+        <source>{0}, fällig am {1}: nicht gebucht; wird ausgelassen</source>
+        <translation>{0}, due on {1}: not booked; is left out</translation>
+    </message>
+    <message>
+        <source>{0}: von der Bank nie gebucht; endet am {1}</source>
+        <translation>{0}: never booked by the bank; ends on {1}</translation>
+    </message>
+    <message>
+        <source>{0}: zuletzt gebucht am {1}; endet am {2}</source>
+        <translation>{0}: last booked on {1}; ends on {2}</translation>
+    </message>
+    <message>
+        <source>Diese Serien sehen Buchungen vor, die auf den Kontoauszügen fehlen. Was angekreuzt ist, wird geändert, damit das Haushaltsbuch mit der Bank übereinstimmt.</source>
+        <translation>These series provide for bookings that are missing from the bank statements. What is ticked will be changed, so that the book agrees with the bank.</translation>
+    </message>
+    <message>
+        <source>Serien prüfen</source>
+        <translation>Check series</translation>
+    </message>
+    <message>
+        <source>Alle Umsätze haben eine Kategorie.</source>
+        <translation>All transactions have a category.</translation>
+    </message>
+    <message>
+        <source>{0}  ({1})</source>
+        <translation>{0}  ({1})</translation>
+    </message>
+    <message>
+        <source>{0} {1} Lesen Sie sie mit &quot;--sign {2}&quot; oder &quot;--sign {3}&quot; ein.</source>
+        <translation>{0} {1} Read it with &quot;--sign {2}&quot; or &quot;--sign {3}&quot;.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist keine Tabelle mit Spaltennamen, Tag und Betrag: {0}</source>
+        <translation>The file is no table with column names, day and amount: {0}</translation>
+    </message>
+    <message>
+        <source>Alle Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;*.xls;*.xlsx;*.ofx;*.qfx;*.qif|CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|Alle Dateien|*.*</source>
+        <translation>All statements|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;*.xls;*.xlsx;*.ofx;*.qfx;*.qif|CSV/XLS/MT940/MT942/OFX/QIF file|*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Kontoauszug einlesen</source>
+        <translation>Read bank statement</translation>
+    </message>
+    <message>
+        <source>&amp;Ohne diese Zeilen lesen</source>
+        <translation>&amp;Read without these lines</translation>
+    </message>
+    <message>
+        <source>&amp;Nicht einlesen</source>
+        <translation>&amp;Do not read</translation>
+    </message>
+    <message>
+        <source>Der Kontoauszug enthält Umsätze mehrmals, mit gleichem Tag, Empfänger, Zweck und Betrag:
+
+{0}
+
+Sollen auch diese übernommen werden? Das ist richtig, wenn Sie zum Beispiel zwei gleiche Fahrkarten gekauft haben.</source>
+        <translation>The statement contains transactions more than once, with the same day, payee, purpose and amount:
+
+{0}
+
+Shall these be taken as well? That is right if, for example, you bought two identical tickets.</translation>
+    </message>
+    <message>
+        <source>Gleiche Umsätze</source>
+        <translation>Equal transactions</translation>
+    </message>
+    <message>
+        <source>{0} übernommen, obwohl sie anderen gleichen.</source>
+        <translation>{0} taken although they equal others.</translation>
+    </message>
+    <message>
+        <source>steht mehrmals gleich im Kontoauszug</source>
+        <translation>stands more than once in the statement</translation>
+    </message>
+    <message>
+        <source>schon vorhanden, nur mit anderen Leerzeichen oder gekürzt</source>
+        <translation>already there, only with other blanks or shortened</translation>
+    </message>
+    <message>
+        <source>Gebühr (kommt zum Betrag hinzu)</source>
+        <translation>Fee (on top of the amount)</translation>
+    </message>
+    <message>
+        <source>Empfänger, wenn keiner genannt ist</source>
+        <translation>Payee if none is named</translation>
+    </message>
+    <message>
+        <source>nicht ausgeführt</source>
+        <translation>not executed</translation>
+    </message>
+    <message>
+        <source>{0} mehrfach gleich</source>
+        <translation>{0} repeated</translation>
+    </message>
+    <message>
+        <source>mehrfach gleich: {0}</source>
+        <translation>repeated: {0}</translation>
+    </message>
+    <message>
+        <source>{0} davon mehrfach gleich, durch den Kontostand belegt</source>
+        <translation>{0} of them repeated, confirmed by the balance</translation>
+    </message>
+    <message>
+        <source>{0} oder {1}?</source>
+        <translation>{0} or {1}?</translation>
+    </message>
+    <message>
+        <source>schon im Buch: {0} ({1})</source>
+        <translation>already in the book: {0} ({1})</translation>
+    </message>
+    <message>
+        <source>schon im Buch</source>
+        <translation>already in the book</translation>
+    </message>
+    <message>
+        <source>sicher</source>
+        <translation>certain</translation>
+    </message>
+    <message>
+        <source>bitte ansehen</source>
+        <translation>please check</translation>
+    </message>
+    <message>
+        <source>Einer der gezeigten Umsätze steht schon im Haushaltsbuch und wird zugeordnet.</source>
+        <translation>One of the transactions shown is already in the book and will be assigned.</translation>
+    </message>
+    <message>
+        <source>{0} der gezeigten Umsätze stehen schon im Haushaltsbuch und werden zugeordnet.</source>
+        <translation>{0} of the transactions shown are already in the book and will be assigned.</translation>
+    </message>
+    <message>
+        <source>Einer der gezeigten Umsätze hat einen sicheren Vorschlag und wird neu gebucht.</source>
+        <translation>One of the transactions shown has a certain proposal and will be booked as a new entry.</translation>
+    </message>
+    <message>
+        <source>{0} der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.</source>
+        <translation>{0} of the transactions shown have certain proposals and will be booked as new entries.</translation>
+    </message>
+    <message>
+        <source>Zu diesem Umsatz gibt es schon einen Eintrag:
+{1}
+Was soll geschehen?</source>
+        <translation>There is an entry for this transaction already:
+{1}
+What is to be done?</translation>
+    </message>
+    <message>
+        <source>Zu {0} der Umsätze gibt es schon Einträge:
+{1}
+Was soll geschehen?</source>
+        <translation>There are entries for {0} of the transactions already:
+{1}
+What is to be done?</translation>
+    </message>
+    <message>
+        <source>Den &amp;vorhandenen zuordnen</source>
+        <translation>&amp;Assign to the existing one</translation>
+    </message>
+    <message>
+        <source>&amp;Neu anlegen</source>
+        <translation>&amp;New entry</translation>
+    </message>
+    <message>
+        <source>&amp;Offen lassen</source>
+        <translation>Leave &amp;open</translation>
+    </message>
+    <message>
+        <source>&amp;Einzeln entscheiden</source>
+        <translation>&amp;Decide one by one</translation>
+    </message>
+    <message>
+        <source>Soll das so geschehen?</source>
+        <translation>Is that right?</translation>
+    </message>
+    <message>
+        <source>Noch ein offener Umsatz ist von demselben Empfänger.
+Soll auch er &apos;{0}&apos; bekommen?</source>
+        <translation>One more open transaction is of the same payee.
+Shall it get &apos;{0}&apos; too?</translation>
+    </message>
+    <message>
+        <source>Noch {1} offene Umsätze sind von demselben Empfänger.
+Sollen auch sie &apos;{0}&apos; bekommen?</source>
+        <translation>{1} more open transactions are of the same payee.
+Shall they get &apos;{0}&apos; too?</translation>
+    </message>
+    <message>
+        <source>Kategorie gewählt</source>
+        <translation>Category chosen</translation>
+    </message>
+    <message>
+        <source>&amp;Auch diese</source>
+        <translation>&amp;These too</translation>
+    </message>
+    <message>
+        <source>&amp;Immer so</source>
+        <translation>Al&amp;ways</translation>
+    </message>
+    <message>
+        <source>&amp;Nur dieser</source>
+        <translation>&amp;Only this one</translation>
+    </message>
+    <message>
+        <source>noch nicht verglichen</source>
+        <translation>not compared yet</translation>
+    </message>
+    <message>
+        <source>Nach Vorschlag</source>
+        <translation>By proposal</translation>
+    </message>
+    <message>
+        <source>Das Vorzeichen &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation>There is no sign &apos;{0}&apos;. Possible are: {1}.</translation>
+    </message>
+    <message>
+        <source>Ad&amp;resse der Bank:</source>
+        <translation>Add&amp;ress of the bank:</translation>
+    </message>
+    <message>
+        <source>Diesen Zeitraum korrigieren</source>
+        <translation>Correct this period</translation>
+    </message>
+    <message>
+        <source>Spielfeld</source>
+        <translation>Playing field</translation>
+    </message>
+    <message>
+        <source>Dauerauftrag: {0} €</source>
+        <translation>Standing order: {0} €</translation>
+    </message>
+    <message>
+        <source>Monatsende</source>
+        <translation>Month&apos;s End</translation>
+    </message>
+    <message>
+        <source>Fangen Sie Geld, weichen Sie Rechnungen aus.
+Der Dauerauftrag kommt immer.</source>
+        <translation>Catch money, dodge bills.
+The standing order always comes.</translation>
+    </message>
+    <message>
+        <source>&amp;Ton</source>
+        <translation>S&amp;ound</translation>
+    </message>
+    <message>
+        <source>Monat {0}   ·   {1} € für den Dauerauftrag von {2} €   ·   {3} Leben   ·   {4} Punkte</source>
+        <translation>Month {0}   ·   {1} € for the standing order of {2} €   ·   {3} lives   ·   {4} points</translation>
+    </message>
+    <message>
+        <source>{0} Punkte, {1} Monate, {2}</source>
+        <translation>{0} points, {1} months, {2}</translation>
+    </message>
+    <message>
+        <source>Eingabe beginnt, Pfeile oder Maus bewegen, P hält an.</source>
+        <translation>Enter begins, arrows or mouse move, P pauses.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Eingabe geht weiter.</source>
+        <translation>Enter goes on.</translation>
+    </message>
+    <message>
+        <source>Bester Lauf!</source>
+        <translation>Best run!</translation>
+    </message>
+    <message>
+        <source>Konto leer</source>
+        <translation>Account empty</translation>
+    </message>
+    <message>
+        <source>{0} Punkte nach {1} Monaten</source>
+        <translation>{0} points after {1} months</translation>
+    </message>
+    <message>
+        <source>Über Kontorelle</source>
+        <translation>About Kontorelle</translation>
+    </message>
+    <message>
+        <source>Symbol des Programms: ein Heft mit drei Stapeln Münzen</source>
+        <translation>Symbol of the program: a booklet with three stacks of coins</translation>
+    </message>
+    <message>
+        <source>&amp;Verwendete Bibliotheken und Daten:</source>
+        <translation>&amp;Libraries and data in use:</translation>
+    </message>
+    <message>
+        <source>Kling.</source>
+        <translation>Clink.</translation>
+    </message>
+    <message>
+        <source>Kling, kling.</source>
+        <translation>Clink, clink.</translation>
+    </message>
+    <message>
+        <source>Eintra&amp;g öffnen</source>
+        <translation>O&amp;pen entry</translation>
+    </message>
+    <message>
+        <source>Unterschiede zwischen Bank und Buch</source>
+        <translation>Differences between bank and book</translation>
+    </message>
+    <message>
+        <source>Behebt den markierten Unterschied (Eingabetaste)</source>
+        <translation>Cures the selected difference (Enter)</translation>
+    </message>
+    <message>
+        <source>Merkt sich, dass Bank und Buch bis zu diesem Tag übereinstimmen</source>
+        <translation>Remembers that bank and book agree up to this day</translation>
+    </message>
+    <message>
+        <source>Ordnet zu, was schon im Haushaltsbuch steht, und bucht, was einen sicheren Vorschlag hat</source>
+        <translation>Assigns what is in the book already and books what has a certain proposal</translation>
+    </message>
+    <message>
+        <source>Bear&amp;beiten und buchen…</source>
+        <translation>&amp;Edit and book…</translation>
+    </message>
+    <message>
+        <source>Öffnet den markierten Umsatz als Eintrag, auch zum Aufteilen; gespeichert ist er gebucht (Strg+B)</source>
+        <translation>Opens the selected transaction as an entry, also to split it; once saved it is booked (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Ohne Kategor&amp;ie</source>
+        <translation>Without categor&amp;y</translation>
+    </message>
+    <message>
+        <source>Zeigt nur Umsätze ohne Kategorie oder unter „Allgemein“, auch die gebuchten</source>
+        <translation>Shows only transactions without a category or under “Allgemein”, booked ones too</translation>
+    </message>
+    <message>
+        <source>Aufbau &amp;speichern…</source>
+        <translation>&amp;Save layout…</translation>
+    </message>
+    <message>
+        <source>Schreibt die Bedeutung der Spalten in eine kleine Datei, zum Weitergeben</source>
+        <translation>Writes the meaning of the columns to a small file, to be shared</translation>
+    </message>
+    <message>
+        <source>A&amp;ufbau laden…</source>
+        <translation>L&amp;oad layout…</translation>
+    </message>
+    <message>
+        <source>Liest eine solche Datei ein und merkt sie sich</source>
+        <translation>Reads such a file and remembers it</translation>
     </message>
 </context>
 </TS>
