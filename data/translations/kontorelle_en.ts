@@ -7750,10 +7750,6 @@ Change it all the same?</translation>
         <translation>Looks for series that the bank no longer books, and for bookings that are outstanding.</translation>
     </message>
     <message>
-        <source>Hilfe</source>
-        <translation>Help</translation>
-    </message>
-    <message>
         <source>&amp;Über Kontorelle</source>
         <translation>&amp;About Kontorelle</translation>
     </message>
@@ -8276,24 +8272,12 @@ The standing order always comes.</translation>
         <translation>Assigns what is in the book already and books what has a certain proposal</translation>
     </message>
     <message>
-        <source>Bear&amp;beiten und buchen…</source>
-        <translation>&amp;Edit and book…</translation>
-    </message>
-    <message>
         <source>Öffnet den markierten Umsatz als Eintrag, auch zum Aufteilen; gespeichert ist er gebucht (Strg+B)</source>
         <translation>Opens the selected transaction as an entry, also to split it; once saved it is booked (Ctrl+B)</translation>
     </message>
     <message>
-        <source>Ohne Kategor&amp;ie</source>
-        <translation>Without categor&amp;y</translation>
-    </message>
-    <message>
         <source>Zeigt nur Umsätze ohne Kategorie oder unter „Allgemein“, auch die gebuchten</source>
         <translation>Shows only transactions without a category or under “Allgemein”, booked ones too</translation>
-    </message>
-    <message>
-        <source>Aufbau &amp;speichern…</source>
-        <translation>&amp;Save layout…</translation>
     </message>
     <message>
         <source>Schreibt die Bedeutung der Spalten in eine kleine Datei, zum Weitergeben</source>
@@ -8306,6 +8290,22 @@ The standing order always comes.</translation>
     <message>
         <source>Liest eine solche Datei ein und merkt sie sich</source>
         <translation>Reads such a file and remembers it</translation>
+    </message>
+    <message>
+        <source>H&amp;ilfe</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Bearbeiten und buchen…</source>
+        <translation>Edit and book…</translation>
+    </message>
+    <message>
+        <source>Unkategori&amp;siert</source>
+        <translation>&amp;Uncategorised</translation>
+    </message>
+    <message>
+        <source>Aufbau s&amp;peichern…</source>
+        <translation>&amp;Save layout…</translation>
     </message>
 </context>
 </TS>

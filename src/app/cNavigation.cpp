@@ -213,7 +213,7 @@ void cNavigation::OpenNewEntry()
 
 void cNavigation::OpenEntry(int entryId, QDate day)
 {
-    cSeriesChange series(m_parts.Tools.Data, m_parts.Tools.User, m_parts.Format.Decimal());
+    cSeriesChange series(m_parts.Tools);
     cEntryEditor editor(m_parts.Tools);
     switch (series.AskWhatToEdit(entryId, day)) {
     case cSeriesChange::eEdit::Nothing: break;
@@ -228,7 +228,7 @@ void cNavigation::OpenEntry(int entryId, QDate day)
 
 void cNavigation::OpenCorrection(int entryId, QDate day)
 {
-    cSeriesChange series(m_parts.Tools.Data, m_parts.Tools.User, m_parts.Format.Decimal());
+    cSeriesChange series(m_parts.Tools);
     const std::optional<cSeriesChange::cPeriodFields> fields =
         series.StartPeriod(entryId, day, m_parts.Tools.Clock.Today());
     if (!fields) {

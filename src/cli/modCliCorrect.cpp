@@ -18,7 +18,7 @@ using cKey = cEntryListModel::cKey;
 int Finish(const cCliContext& context, const cKey& occurrence, bool isDone)
 {
     if (isDone) {
-        cSeriesChange change(context.Book->Data, context.User);
+        cSeriesChange change(context.Book->Tools);
         const auto period = change.StartPeriod(occurrence.ID, occurrence.Day);
         const auto correction = change.Correction(occurrence.ID, occurrence.Day);
         const auto series = context.Book->File().Entry(occurrence.ID);
@@ -61,7 +61,7 @@ int List(const cCliContext& context, int id)
 
 int Remove(const cCliContext& context, const cKey& occurrence)
 {
-    cSeriesChange change(context.Book->Data, context.User);
+    cSeriesChange change(context.Book->Tools);
     if (!change.Correction(occurrence.ID, occurrence.Day)) {
         modConsole::Error(
             cText::Tr("Das Vorkommen vom {0} ist nicht korrigiert.", {modDate::ToGerman(occurrence.Day)}));
@@ -72,7 +72,7 @@ int Remove(const cCliContext& context, const cKey& occurrence)
 
 int Skip(const cCliContext& context, const cKey& occurrence)
 {
-    cSeriesChange change(context.Book->Data, context.User);
+    cSeriesChange change(context.Book->Tools);
     const bool isDone = context.Call.Has(u"comment"_s)
         ? change.CorrectPeriod(occurrence.ID, occurrence.Day, 0, context.Call.Value(u"comment"_s))
         : change.SkipPeriod(occurrence.ID, occurrence.Day);
@@ -100,7 +100,7 @@ void CheckUse(const cCliCall& call, cCliReader& reader)
 // What the occurrence comes to so far.
 qint64 CentsNow(const cCliContext& context, int id, QDate day)
 {
-    const auto correction = cSeriesChange(context.Book->Data, context.User).Correction(id, day);
+    const auto correction = cSeriesChange(context.Book->Tools).Correction(id, day);
     const auto series = context.Book->File().Entry(id);
     return correction ? correction->EntryValue : series ? series->EntryValue : 0;
 }
@@ -138,7 +138,7 @@ int Run(const cCliContext& context)
 int modCliCorrect::Correct(const cCliContext& context, const cEntryListModel::cKey& occurrence, qint64 cents,
                            const std::optional<QString>& comment, const std::optional<QDate>& moveTo)
 {
-    cSeriesChange change(context.Book->Data, context.User);
+    cSeriesChange change(context.Book->Tools);
     const std::optional<cEntryItemFixMod> before = change.Correction(occurrence.ID, occurrence.Day);
     // The comment of an occurrence that was left out says nothing about its new amount.
     const QString kept = before && before->EntryValue != 0 ? before->EntryComment : QString();

@@ -184,8 +184,8 @@ void testCli::EntriesAreFiltered_data()
     QTest::addRow("kind") << QStringList{u"--kind"_s, u"Ausgabe"_s}
                           << QStringList{u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s};
     QTest::addRow("kind in the plural") << QStringList{u"--kind"_s, u"Umbuchungen"_s} << QStringList{u"2024-03-08"_s};
-    QTest::addRow("category with its sub-categories")
-        << QStringList{u"--category"_s, u"Haushalt"_s} << QStringList{u"2024-03-04"_s, u"2024-03-06"_s};
+    QTest::addRow("category with its sub-categories") << QStringList{u"--category"_s, u"Haushalt"_s}
+                                                      << QStringList{u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s};
     QTest::addRow("account, transfers into it too")
         << QStringList{u"--account"_s, u"Sparkonto"_s} << QStringList{u"2024-03-08"_s};
     QTest::addRow("words in any case and without umlauts")

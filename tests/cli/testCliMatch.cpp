@@ -49,7 +49,8 @@ private Q_SLOTS:
         QCOMPARE(done.Out, tried.Out);
         QCOMPARE(done.Column(u"State"_s), QStringList({u"assigned"_s, u"assigned"_s, u"left"_s}));
         QCOMPARE(Assigned(), QStringList({m_food, m_rent, u"-1"_s}));
-        QVERIFY(Do(u"correct|--json|--list|"_s + m_rent).Json().isEmpty());
+        // The bank's day is taken, the amount only when that is wanted.
+        QCOMPARE(Do(u"correct|--json|--list|"_s + m_rent).Column(u"EntryValue"_s), QStringList(u"650"_s));
         QVERIFY(Do(u"match"_s).Out.contains(u"Zugeordnet: 0, vorgeschlagen: 0, offen: 1"_s));
     }
 

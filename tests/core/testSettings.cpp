@@ -34,6 +34,8 @@ constexpr std::array storedSettings{
     "BackupLast",
     "BackupFailed",
     "OwnRules",
+    "GelerntZuletzt",
+    "SpielBestwerte",
     "ImportRuns",
     "HBCIProdukt",
     "MainZeitraum=Aktuelles Jahr",
@@ -251,9 +253,9 @@ private Q_SLOTS:
         left.sort();
         QCOMPARE(left,
                  QStringList({u"FirstInstall=0"_s, u"HBCIProdukt=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s,
-                              u"Passwort=0"_s, u"PasswortAktiv=0"_s, u"Update=0"_s, u"ViewAccountValueAll=Wahr"_s,
-                              u"ViewFixBooking=Wahr"_s, u"ViewFutureBooking=Wahr"_s, u"ViewSingleBooking=Wahr"_s,
-                              u"ViewStartBooking=Wahr"_s}));
+                              u"Passwort=0"_s, u"PasswortAktiv=0"_s, u"SpielBestwerte=0"_s, u"Update=0"_s,
+                              u"ViewAccountValueAll=Wahr"_s, u"ViewFixBooking=Wahr"_s, u"ViewFutureBooking=Wahr"_s,
+                              u"ViewSingleBooking=Wahr"_s, u"ViewStartBooking=Wahr"_s}));
     }
 
     void VersionAndUpdateDate() const

@@ -25,11 +25,11 @@ int Play(quint32 seed, const cBot::cSkill& skill)
 int MedianSeconds(const cBot::cSkill& skill)
 {
     std::vector<int> ticks;
-    for (quint32 seed = 1; seed <= 21; ++seed) {
+    for (quint32 seed = 1; seed <= 7; ++seed) {
         ticks.push_back(Play(seed, skill));
     }
-    std::nth_element(ticks.begin(), ticks.begin() + 10, ticks.end());
-    return ticks[10] / cGame::TicksPerSecond;
+    std::nth_element(ticks.begin(), ticks.begin() + 3, ticks.end());
+    return ticks[3] / cGame::TicksPerSecond;
 }
 
 } // namespace
@@ -83,7 +83,7 @@ private Q_SLOTS:
     // A player who sees everything gets through the first months of every game without losing a life to bills.
     void NoSeedIsUnfair()
     {
-        for (quint32 seed = 1; seed <= 100; ++seed) {
+        for (quint32 seed = 1; seed <= 20; ++seed) {
             cGame game(seed);
             cBot bot(cBot::Expert, seed);
             while (game.Month() <= 3) {

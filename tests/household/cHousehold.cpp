@@ -221,7 +221,8 @@ void cHousehold::AddPurchases()
             const qint64 cents = -Dice(350, 12000);
             Book(account, day, shop, cents);
             if (Happens(10)) { // noted in the shop: a day or two before the bank, now and then rounded
-                Note(account, day.addDays(-Dice(0, 3)), shop, Happens(70) ? cents : cents / 100 * 100, false);
+                const QDate noted = std::max(day.addDays(-Dice(0, 3)), QDate(day.year(), day.month(), 1));
+                Note(account, noted, shop, Happens(70) ? cents : cents / 100 * 100, false);
             }
         }
     }

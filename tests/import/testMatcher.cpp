@@ -316,7 +316,8 @@ void testMatcher::EarlierRowsOfAPayee() const
     entry.EntryInterval = u"Monatlich"_s;
     entry.EntryDescription = u"Licht"_s;
     QCOMPARE(cImportBook::BookAs(booking, first, entry).Rows, 1);
-    const int next = bank.Stage(day.addMonths(1).addDays(4), -42, u"SWT Stadtwerke"_s, u"Abschlag"_s, u"111"_s, u"DE7"_s);
+    const int next =
+        bank.Stage(day.addMonths(1).addDays(4), -42, u"SWT Stadtwerke"_s, u"Abschlag"_s, u"111"_s, u"DE7"_s);
     const QList<cMatchCandidate> found = bank.Candidates(next);
     QCOMPARE(found.size(), 1);
     QCOMPARE(found.first().Reason, u"Betrag 42,00 statt 40,00, 4 Tage später, wie frühere Umsätze"_s);

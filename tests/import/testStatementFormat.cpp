@@ -26,7 +26,7 @@ private Q_SLOTS:
         QTest::newRow("MT940 without balances and details") << u"a.sta"_s << u":20:x:61:x"_s << eStatementFormat::Mt940;
         QTest::newRow("named so, other content") << u"a.mt940"_s << u"Datum;Betrag"_s << eStatementFormat::Csv;
         QTest::newRow("OFX") << u"a.txt"_s << u"OFXHEADER:100 <BANKTRANLIST> </OFX>"_s << eStatementFormat::Ofx;
-        QTest::newRow("OFX without list") << u"a.ofx"_s << u"<OFX></OFX>"_s << eStatementFormat::Csv;
+        QTest::newRow("OFX without list") << u"a.ofx"_s << u"<OFX></OFX>"_s << eStatementFormat::Ofx;
         QTest::newRow("QIF") << u"a.txt"_s << u"!Type:Bank\nD1/1/10"_s << eStatementFormat::Qif;
         QTest::newRow("QIF card") << u"a.txt"_s << u"!TYPE:CCARD"_s << eStatementFormat::Qif;
         QTest::newRow("all else") << u"a.dat"_s << QString() << eStatementFormat::Csv;

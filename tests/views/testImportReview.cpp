@@ -131,7 +131,7 @@ private Q_SLOTS:
         QSignalSpy rows(&page.Review, &cImportReview::RowsChanged);
         page.ImportFixture();
         QVERIFY(!rows.isEmpty());
-        QCOMPARE(page.User.Asked,
+        QCOMPARE(page.User.Asked.first(2),
                  (QStringList{u"Zu welchem Konto gehören die Umsätze der Kontonummer 1234567?\n"
                               "Ein neuer Name legt ein Konto an."_s,
                               u"Zu welchem Konto gehören die Umsätze der Kontonummer 7654321?\n"
@@ -140,7 +140,7 @@ private Q_SLOTS:
                  QStringList(u"giro.sta: 6 gelesen, 5 neu, 1 ohne Betrag, Schlusssaldo 5.200,00"_s + space + u'€'));
         QCOMPARE(page.Review.View().CountText(), u"5 offen, 5 insgesamt"_s);
         page.Review.Files().ImportFiles({fixture}, page.Progress);
-        QCOMPARE(page.User.Asked.size(), 2);
+        QCOMPARE(page.User.Asked.size(), 4); // nothing more than the two start balances
         QCOMPARE(page.Review.Files().LeftOut().size(), 5);
     }
 

@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
@@ -85,7 +86,7 @@ void testSeriesChange::AsksWhatToEdit()
     cTestBook book;
     const int id = book.Add([&](cEntryItem& entry) { entry.EntryInterval = interval; }).ID;
     book.User.Decisions = {choice};
-    QTEST(int(cSeriesChange(book.Data, book.User).AskWhatToEdit(id, day)), "edit");
+    QTEST(int(cSeriesChange(book.Tools).AskWhatToEdit(id, day)), "edit");
     QCOMPARE(book.User.LastDecision.Options.size(), options);
 }
 
@@ -93,7 +94,7 @@ void testSeriesChange::CorrectsOnePeriod()
 {
     cTestBook book;
     const int id = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 1250, u"Nachzahlung"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 31), -1300, u"neu"_s)); // same period, any day of it
     QVERIFY(!change.CorrectPeriod(id, QDate(2026, 2, 10), 1, {}));          // before the series
@@ -108,7 +109,7 @@ void testSeriesChange::SkipsAndTakesBack()
 {
     cTestBook book;
     const int id = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     QVERIFY(!change.RemoveCorrection(id, QDate(2026, 4, 10)));
     QVERIFY(change.SkipPeriod(id, QDate(2026, 4, 10)));
     QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
@@ -120,7 +121,7 @@ void testSeriesChange::PeriodForm()
 {
     cTestBook book;
     const int id = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
     QCOMPARE(fields.Title, u"'Miete' vom 01.04.2026 bis 30.04.2026"_s);
     QCOMPARE(fields.Amount, u"10,00"_s);
@@ -132,7 +133,9 @@ void testSeriesChange::PeriodForm()
     fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
     QCOMPARE(fields.Amount, u"12,50"_s);
     QVERIFY(fields.IsCorrected);
-    cSeriesChange british(book.Data, book.User, eDecimal::Point);
+    QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
+    book.Format.CultureChanged();
+    cSeriesChange british(book.Tools);
     fields = british.StartPeriod(id, QDate(2026, 4, 10)).value();
     QCOMPARE(fields.Amount, u"12.50"_s);
     fields.Amount = u"1,234"_s;
@@ -166,7 +169,7 @@ void testSeriesChange::PeriodFormMoves()
     const int id = AddRent(book).ID;
     QVERIFY(book.Data.AddNewEntryMod({0, id, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
                                       u"Laut Kontoauszug"_s, QDate(2026, 4, 14)}));
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10), book.Clock.Day).value();
     QCOMPARE(fields.DayText, u"14.04.2026"_s);
     fields.DayText = day;
@@ -202,7 +205,7 @@ void testSeriesChange::PageIsStoredWithTheEntry()
 {
     cTestBook book;
     const int id = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 3, 10), 1, u"weg"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 2, u"bleibt"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 3, u"anders"_s));
@@ -226,7 +229,7 @@ void testSeriesChange::FromHereSplitsTheSeries()
 {
     cTestBook book;
     const int id = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 2, u"dieser"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
@@ -272,7 +275,7 @@ void testSeriesChange::FromHereAsksForLostCorrections()
     QFETCH(int, entries);
     cTestBook book;
     const int id = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
     QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
     cEntryEditor editor(book.Tools);

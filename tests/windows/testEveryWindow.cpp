@@ -124,7 +124,7 @@ struct cScene
     cImportReview Review{Book.Tools};
     cStatisticsModel Statistics{Book.Tools, {Book.Shell, Navigator, Model}};
     cEntryEditor Editor{Book.Tools};
-    cSeriesChange Change{Book.Data, Book.User};
+    cSeriesChange Change{Book.Tools};
     cTemplateManager Manager{Book.Tools};
     cSearchModel SearchModel{Book.Tools};
     cPasswordFlow Password{Book.Data, Book.Configuration, Book.User};

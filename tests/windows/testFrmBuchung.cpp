@@ -522,7 +522,7 @@ void testFrmBuchung::CorrectsOneOccurrence()
 {
     cTestBook book;
     const int rent = AddRent(book).ID;
-    cSeriesChange change(book.Data, book.User);
+    cSeriesChange change(book.Tools);
     frmKorrektur form(change, change.StartPeriod(rent, QDate(2026, 2, 1)).value());
     QSignalSpy saved(&form, &frmKorrektur::CorrectionSaved);
     Show(form);

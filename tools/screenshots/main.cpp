@@ -103,7 +103,7 @@ public:
             cBook book(m_user);
             m_isReady = book.Open(path) && modDemo::Write(book.Data(), {.Today = sceneDay});
         }
-        m_isReady = m_program.Start(path);
+        m_isReady = m_program.Start({.Book = path});
         m_program.Window().resize(1280, 800);
         Settle();
     }
@@ -253,7 +253,7 @@ bool TakeEditor(cCamera& camera)
         return false;
     }
     cEntryEditor editor(scene.Tools());
-    cSeriesChange change(scene.Book.Data(), scene.User);
+    cSeriesChange change(scene.Tools());
     const int series = AddCorrectedSeries(editor, change);
     const std::optional<cEntryFields> fields = editor.Load(series);
     const auto period = change.StartPeriod(series, QDate(2026, 8, 5));

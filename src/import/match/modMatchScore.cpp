@@ -17,10 +17,18 @@ constexpr double amountWeight = 0.5;
 constexpr double dayWeight = 0.2;
 constexpr double textWeight = 0.3;
 constexpr double onlyBonus = 0.1;
+constexpr double roundedPart = 0.8; // of the amount, when it was written down in whole euros
 
 bool HasSameAmount(const modMatchScore::cEvidence& evidence)
 {
     return evidence.RowCents == evidence.EntryCents;
+}
+
+// Whole euros are what people write down or remember of a receipt.
+bool IsRounded(const modMatchScore::cEvidence& evidence)
+{
+    return !evidence.IsSeries && evidence.EntryCents % 100 == 0
+        && std::abs(evidence.RowCents - evidence.EntryCents) < 100;
 }
 
 double AmountPart(const modMatchScore::cEvidence& evidence)
@@ -29,7 +37,8 @@ double AmountPart(const modMatchScore::cEvidence& evidence)
     const double steepness = evidence.IsSeries ? 5.0 : 10.0;
     const auto larger = static_cast<double>(std::max(evidence.RowCents, evidence.EntryCents));
     const auto difference = static_cast<double>(std::abs(evidence.RowCents - evidence.EntryCents));
-    return larger > 0.0 ? std::max(0.0, 1.0 - steepness * difference / larger) : 0.0;
+    const double part = larger > 0.0 ? std::max(0.0, 1.0 - steepness * difference / larger) : 0.0;
+    return IsRounded(evidence) ? std::max(part, roundedPart) : part;
 }
 
 double DayPart(const modMatchScore::cEvidence& evidence)

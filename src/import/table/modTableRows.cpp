@@ -8,6 +8,7 @@
 #include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableDetails.h"
+#include "import/table/modTablePurpose.h"
 #include "import/table/modTableStatus.h"
 #include "import/table/modTableValue.h"
 
@@ -82,7 +83,8 @@ public:
           m_map(layout.Map),
           m_account(account),
           m_number(layout.Number),
-          m_end(static_cast<int>(qMin<qint64>(table.RowCount(), qint64{layout.FirstRow} + rows)))
+          m_end(static_cast<int>(qMin<qint64>(table.RowCount(), qint64{layout.FirstRow} + rows))),
+          m_purposes(modTablePurpose::Columns(layout.Map))
     {
         if (m_number == eNumberFormat::Detect) {
             DetectNumber();
@@ -92,7 +94,6 @@ public:
                 m_bookingDay = column;
             }
         }
-        CollectPurposes();
         CountColumns();
         const QList<int> texts{m_map.Date,       m_map.Purpose[0], m_map.Purpose[1], m_map.Purpose[2],
                                m_map.Name,       m_map.Payer,      m_map.Name2,      m_map.Account,
@@ -394,37 +395,6 @@ private:
     {
         return cell.contains(u' ') && modTableValue::IsIban(cell) ? modAccountNumber::Compact(cell.toString())
                                                                   : cell.toString();
-    }
-
-    // Columns such as "Vwz.0" to "Vwz.17" are one text, whichever of them are mapped.
-    void CollectPurposes()
-    {
-        for (const int column : m_map.Purpose) {
-            if (column >= 0) {
-                m_purposes.append(column);
-            }
-        }
-        const QString stem = Stem(m_map.Names.value(m_map.Purpose[0]));
-        if (m_map.Purpose[0] < 0 || stem.size() < 3) {
-            return;
-        }
-        for (int column = 0; column < m_map.Names.size(); ++column) {
-            const QString& name = m_map.Names.at(column);
-            if (name.size() > stem.size() && !m_purposes.contains(column) && Stem(name) == stem) {
-                m_purposes.append(column);
-                std::sort(m_purposes.begin(), m_purposes.end());
-            }
-        }
-    }
-
-    // A name without the number at its end.
-    [[nodiscard]] static QString Stem(const QString& name)
-    {
-        qsizetype size = name.size();
-        while (size > 0 && name.at(size - 1).isDigit()) {
-            --size;
-        }
-        return name.left(size).trimmed();
     }
 
     [[nodiscard]] QString Purpose() const

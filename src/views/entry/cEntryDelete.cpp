@@ -126,7 +126,7 @@ int cEntryDelete::CountParts(int id) const
 cDeleteTargetList cEntryDelete::Targets(const QList<cEntryListModel::cKey>& selection) const
 {
     cDeleteTargetList targets;
-    cSeriesChange series(m_tools.Data, m_tools.User);
+    cSeriesChange series(m_tools, cSeriesChange::eReconciled::Leave);
     for (const cEntryListModel::cKey& key : selection) {
         auto target = std::find_if(targets.begin(), targets.end(),
                                    [&](const cDeleteTarget& other) { return other.Entry.ID == key.ID; });
@@ -198,7 +198,7 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
 
 QString cEntryDelete::LostCorrection(int id, QDate day) const
 {
-    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools.Data, m_tools.User).Correction(id, day);
+    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools).Correction(id, day);
     return correction && correction->EntryValue != 0 ? u'\n'
             + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_tools.Format.Cents(correction->EntryValue)})
                                                      : QString();
@@ -317,7 +317,7 @@ bool cEntryDelete::RemoveOne(const cDeleteTarget& target, eSeriesPart part)
 {
     const int id = target.Entry.ID;
     if (part == eSeriesPart::OnlyThis && !target.Days.isEmpty()) {
-        cSeriesChange series(m_tools.Data, m_tools.User);
+        cSeriesChange series(m_tools, cSeriesChange::eReconciled::Leave);
         return std::all_of(target.Days.begin(), target.Days.end(),
                            [&](QDate day) { return series.SkipPeriod(id, day); });
     }

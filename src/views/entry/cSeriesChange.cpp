@@ -5,14 +5,34 @@
 #include "base/modDate.h"
 #include "base/modDayText.h"
 #include "base/modSum.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/modEntryFields.h"
+#include "views/ledger/cReconciledDays.h"
 
 #include <cstdlib>
+
+cSeriesChange::cSeriesChange(const cBookTools& tools, eReconciled reconciled)
+    : m_tools(tools),
+      m_data(tools.Data),
+      m_reconciled(reconciled)
+{
+}
+
+bool cSeriesChange::Step(const QString& name, const std::function<bool()>& write)
+{
+    cUndoStep step(m_data, name);
+    if (m_reconciled == eReconciled::Leave) {
+        return step.DoneIf(write());
+    }
+    cReconciledGuard guard(m_tools);
+    return step.DoneIf(write() && guard.Allows());
+}
 
 std::optional<cEntryItem> cSeriesChange::Occurrence(int entryId, QDate day)
 {
@@ -40,7 +60,7 @@ cSeriesChange::eEdit cSeriesChange::AskWhatToEdit(int entryId, QDate day)
     }
     edits.append(eEdit::Entry);
     options.append(cText::Tr("Ganze Serie"));
-    const int choice = m_user.Decide(
+    const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nWas möchten Sie ändern?",
                            {modEntryFields::Name(*series), modDate::ToGerman(day),
                             modWord::Intervals().ToShown(series->EntryInterval), modDate::ToGerman(series->EntryDate)}),
@@ -82,8 +102,9 @@ std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entry
     fields.Today = today;
     fields.DayText =
         modDate::ToGerman(correction && correction->EntryDay.isValid() ? correction->EntryDay : fields.Day);
-    fields.Amount = modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue, m_decimal);
-    fields.Decimal = m_decimal;
+    fields.Amount =
+        modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue, m_tools.Format.Decimal());
+    fields.Decimal = m_tools.Format.Decimal();
     fields.Comment = correction ? correction->EntryComment : QString();
     fields.IsCorrected = correction.has_value();
     return fields;
@@ -140,8 +161,7 @@ bool cSeriesChange::SkipPeriod(int entryId, QDate day)
 
 bool cSeriesChange::Store(const cEntryItemFixMod& fixMod, const QString& step)
 {
-    cUndoStep undo(m_data, step);
-    return undo.DoneIf(m_data.AddNewEntryMod(fixMod));
+    return Step(step, [&] { return m_data.AddNewEntryMod(fixMod); });
 }
 
 bool cSeriesChange::RemoveCorrection(int entryId, QDate day)
@@ -151,6 +171,6 @@ bool cSeriesChange::RemoveCorrection(int entryId, QDate day)
     if (!correction || !entry) {
         return false;
     }
-    cUndoStep undo(m_data, cText::Tr("Korrektur von '{0}' entfernt", {modEntryFields::Name(*entry)}));
-    return undo.DoneIf(m_data.DeleteEntryMod(correction->ID));
+    return Step(cText::Tr("Korrektur von '{0}' entfernt", {modEntryFields::Name(*entry)}),
+                [&] { return m_data.DeleteEntryMod(correction->ID); });
 }

@@ -7,10 +7,11 @@
 #include <QDate>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class cDataAccess;
-class cUser;
+struct cBookTools;
 
 // What can be done to one occurrence of a series from the entry list. `day` is the day that the series plans for it,
 // also where it was moved. Every writing
@@ -38,13 +39,10 @@ public:
 
     enum class eSaved { Saved, BadAmount, BadDay, Refused };
 
-    // `decimal` is the sign that typed and shown amounts have.
-    cSeriesChange(cDataAccess& data, cUser& user, eDecimal decimal = eDecimal::Comma)
-        : m_data(data),
-          m_user(user),
-          m_decimal(decimal)
-    {
-    }
+    // Whether the user is asked before days change that agree with the bank; else the caller asks.
+    enum class eReconciled { Ask, Leave };
+
+    explicit cSeriesChange(const cBookTools& tools, eReconciled reconciled = eReconciled::Ask);
 
     // Asks what is meant when an occurrence is edited. One-off entries are Entry without question; the first occurrence
     // is not offered FromHere, which would be the whole series.
@@ -65,10 +63,12 @@ public:
     [[nodiscard]] std::optional<cEntryItemFixMod> Correction(int entryId, QDate day);
 
 private:
+    // `write` as one step of this name.
+    [[nodiscard]] bool Step(const QString& name, const std::function<bool()>& write);
     [[nodiscard]] std::optional<cEntryItem> Occurrence(int entryId, QDate day);
     [[nodiscard]] bool Store(const cEntryItemFixMod& fixMod, const QString& step);
 
+    const cBookTools& m_tools;
     cDataAccess& m_data;
-    cUser& m_user;
-    eDecimal m_decimal;
+    eReconciled m_reconciled;
 };

@@ -107,7 +107,7 @@ void cMainModel::StepThrough(bool (cJournal::*step)())
 
 void cMainModel::SkipPeriod()
 {
-    cSeriesChange change(m_tools.Data, m_tools.User);
+    cSeriesChange change(m_tools);
     if (change.SkipPeriod(First().ID, First().Day)) {
         BookChanged();
     }

@@ -94,8 +94,8 @@ constexpr std::array<cCommand, 37> commands{{
      QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
     {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "",
      nullptr, Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
-    {About, QT_TRANSLATE_NOOP("cText", "Hilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr, Plain,
-     QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
+    {About, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr,
+     Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
 }};
 
 } // namespace

@@ -63,10 +63,10 @@ enum eTrait : int {
 struct cCommand
 {
     eId Id;
-    const char* Menu;           // German title of the menu, in the order of the table
-    const char* Caption;        // German, with "&" before the letter that opens it from the keyboard
-    const char* Keys;           // portable key sequences joined by "|"
-    const char* Icon;           // name of the picture; empty for none
+    const char* Menu;    // German title of the menu, in the order of the table; without "&" its first letter opens it
+    const char* Caption; // German, with "&" before the letter that opens it from the keyboard
+    const char* Keys;    // portable key sequences joined by "|"
+    const char* Icon;    // name of the picture; empty for none
     const cSettingKey* Setting; // of the view switch that a check command turns; null for plain commands
     int Traits;                 // of eTrait
     const char* Hint;           // one sentence for status bar and tool tip

@@ -53,11 +53,13 @@ cEntryItem AsRow(cEntryItem entry, const cImportEntry& row)
     return entry;
 }
 
-// An entry that is paid in parts is right as it is.
+// An entry that is paid in parts is right as it is. What is less than a euro away was written down roundly.
 bool IsPart(const cEntryItem& entry, const cEntryItem& changed)
 {
     constexpr int mostPercent = 20;
-    return std::abs(entry.EntryValue - changed.EntryValue) * 100 > entry.EntryValue * mostPercent;
+    constexpr qint64 leastCents = 100;
+    const qint64 difference = std::abs(entry.EntryValue - changed.EntryValue);
+    return difference >= leastCents && difference * 100 > entry.EntryValue * mostPercent;
 }
 
 // The occurrence of a series, as corrected so far, by the day that the series plans for it.

@@ -18,7 +18,6 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/statement/cImportAssistant.h"
-#include "views/statement/cOpeningBalance.h"
 #include "views/statement/modImportPreview.h"
 #include "views/statement/modImportText.h"
 
@@ -502,42 +501,6 @@ QStringList cStatementFiles::FirstSeen(const cRun& run)
                });
     });
     return first;
-}
-
-void cStatementFiles::OfferStart(const QStringList& numbers)
-{
-    if (m_start == eStart::Leave || m_tools.Data.IsReadOnly()) {
-        return;
-    }
-    const cOpeningBalance opening(m_tools);
-    for (const QString& number : numbers) {
-        const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
-        const bool isWanted = offer
-            && (m_start == eStart::Take
-                || m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")})
-                    == eAnswer::Yes);
-        if (isWanted) {
-            (void)opening.Take(*offer); // of a refusal the user has been told
-        }
-    }
-}
-
-void cStatementFiles::AskAccounts(const QStringList& numbers)
-{
-    m_accounts.AssignNames(numbers);
-    QStringList unknown = m_accounts.Unknown(numbers);
-    unknown.removeDuplicates();
-    if (unknown.isEmpty() || m_tools.Data.IsReadOnly()) {
-        return;
-    }
-    QStringList lines;
-    for (const QString& number : std::as_const(unknown)) {
-        if (m_accounts.Ask(number, m_tools.User).isEmpty()) {
-            lines.append(modImportText::NoAccount(number));
-        }
-    }
-    Q_EMIT AccountsAsked(lines);
-    OfferStart(unknown);
 }
 
 QStringList cStatementFiles::LeftOut() const

@@ -68,7 +68,7 @@ void frmMain::BuildCommands()
     for (const modCommand::cCommand& command : modCommand::All()) {
         const QString title = cText::Tr(command.Menu);
         if (!menus.contains(title)) {
-            menus.insert(title, menuBar()->addMenu(u'&' + title));
+            menus.insert(title, menuBar()->addMenu(title.contains(u'&') ? title : QString(u'&' + title)));
         }
         if (modCommand::Has(command, modCommand::StartsGroup)) {
             menus.value(title)->addSeparator();

@@ -37,7 +37,7 @@ constexpr std::array<cLine, cStagedActions::Count> lines{{
     {QT_TRANSLATE_NOOP("cText", "Alle &Vorschläge annehmen"), u"", 0, &cCan::Accept,
      QT_TRANSLATE_NOOP("cText",
                        "Ordnet zu, was schon im Haushaltsbuch steht, und bucht, was einen sicheren Vorschlag hat")},
-    {QT_TRANSLATE_NOOP("cText", "Bear&beiten und buchen…"), u"", Qt::Key_B, &cCan::Edit,
+    {QT_TRANSLATE_NOOP("cText", "Bearbeiten und buchen…"), u"", Qt::Key_B, &cCan::Edit,
      QT_TRANSLATE_NOOP("cText",
                        "Öffnet den markierten Umsatz als Eintrag, auch zum Aufteilen; gespeichert ist er "
                        "gebucht (Strg+B)")},

@@ -36,7 +36,7 @@ cStagedPanel::cStagedPanel(cImportReview& review, QWidget* parent)
       m_more(new QMenu(this)),
       m_showTitle(new QAction(cText::Tr("&Zeile über der Liste zeigen"), this)),
       m_openOnly(new QCheckBox(cText::Tr("&Nur offene"), this)),
-      m_uncategorised(new QCheckBox(cText::Tr("Ohne Kategor&ie"), this)),
+      m_uncategorised(new QCheckBox(cText::Tr("Unkategori&siert"), this)),
       m_hideOld(new QCheckBox(cText::Tr("&Ältere ausblenden"), this)),
       m_grouping(new QComboBox(this)),
       m_filter(new QLineEdit(this)),

@@ -193,7 +193,7 @@ QDialogButtonBox* frmImportAssistent::BuildButtons()
     m_reset = buttons->addButton(cText::Tr("&Neu erkennen"), QDialogButtonBox::ResetRole);
     m_reset->setToolTip(cText::Tr("Verwirft, was hier über die Tabelle gewählt wurde"));
     connect(m_reset, &QPushButton::clicked, &m_assistant, &cImportAssistant::Reset);
-    m_save = buttons->addButton(cText::Tr("Aufbau &speichern…"), QDialogButtonBox::ActionRole);
+    m_save = buttons->addButton(cText::Tr("Aufbau s&peichern…"), QDialogButtonBox::ActionRole);
     m_save->setToolTip(cText::Tr("Schreibt die Bedeutung der Spalten in eine kleine Datei, zum Weitergeben"));
     m_load = buttons->addButton(cText::Tr("A&ufbau laden…"), QDialogButtonBox::ActionRole);
     m_load->setToolTip(cText::Tr("Liest eine solche Datei ein und merkt sie sich"));
