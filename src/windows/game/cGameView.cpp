@@ -34,7 +34,7 @@ void WriteCentred(QPainter& painter, const QRectF& place, const QString& text, d
     font.setBold(true);
     painter.setFont(font);
     painter.setPen(colour);
-    painter.drawText(place, Qt::AlignCenter, text);
+    painter.drawText(place, int(Qt::AlignCenter) | int(Qt::TextWordWrap), text);
 }
 
 void PaintBill(QPainter& painter, const QRectF& place)
