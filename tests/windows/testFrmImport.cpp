@@ -253,7 +253,8 @@ private Q_SLOTS:
         const QList<QAbstractButton*> buttons = scene.Page.findChildren<QAbstractButton*>();
         for (const QAbstractButton* button : buttons) {
             const bool isOwn = button->parentWidget() == &scene.Page || button->inherits("QPushButton");
-            QVERIFY(!isOwn || button->text().contains(u'&'));
+            const bool hasKey = button->toolTip().contains(u"(Strg+"_s); // where no letter is left
+            QVERIFY2(!isOwn || hasKey || button->text().contains(u'&'), qPrintable(button->text()));
         }
         for (const QWidget* widget :
              QWidgetList{&scene.Tree, scene.Page.findChild<QListWidget*>(), scene.Page.findChild<QPlainTextEdit*>()}) {
