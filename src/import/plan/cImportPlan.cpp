@@ -53,11 +53,23 @@ struct cImportPlan::cKnowledge
         for (qsizetype place = 0; place < Open.size(); ++place) {
             Places.insert(Open.at(place).ID, place);
         }
+        const QList<std::pair<QString, QString>> mapping = parts.Accounts.Mapping();
+        for (const auto& [number, account] : mapping) {
+            Numbered.insert(account);
+        }
+    }
+
+    // Between accounts of banks everything is known of a transfer; which of several purses it was may not be.
+    [[nodiscard]] bool IsSure(const cProposal& transfer) const
+    {
+        const cEntryItem& entry = transfer.Entry;
+        return transfer.IsSure || (Numbered.contains(entry.EntryAccount) && Numbered.contains(entry.EntryAccountMove));
     }
 
     cParts Parts;
     cProposer Proposer;
-    cImportEntryList Open; // by day
+    cImportEntryList Open;  // by day
+    QSet<QString> Numbered; // accounts that stand at a bank
     QHash<int, qsizetype> Places;
     QHash<int, cProposal> Proposals;
     std::optional<QHash<int, modStagedTwins::cTwin>> Twins;
@@ -231,8 +243,8 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
         return;
     }
     plan.Reason = plan.Proposal.Reason;
-    plan.Group =
-        plan.Proposal.PartnerRow != 0 || plan.Proposal.ExistingEntry != 0 ? eRowGroup::InBook : eRowGroup::Sure;
+    const bool isInBook = plan.Proposal.PartnerRow != 0 || plan.Proposal.ExistingEntry != 0;
+    plan.Group = isInBook ? eRowGroup::InBook : m_knowledge->IsSure(plan.Proposal) ? eRowGroup::Sure : eRowGroup::Look;
     const auto partner = pass.Plans.constFind(plan.Proposal.PartnerRow);
     if (partner == pass.Plans.constEnd() || !partner->Match) {
         return;

@@ -426,7 +426,9 @@ private:
             }
         }
         const auto isPending = [&](int column) {
-            return column >= 0 && (Cell(column).isEmpty() || modTableStatus::Of(Cell(column)) == eState::Pending);
+            const QStringView cell = Cell(column);
+            const bool isDay = !cell.isEmpty() && cell.front().isDigit(); // as nearly always, and the quickest to see
+            return column >= 0 && !isDay && (cell.isEmpty() || modTableStatus::Of(cell) == eState::Pending);
         };
         return isPending(m_map.Date) || isPending(m_bookingDay) ? eState::Pending : eState::Booked;
     }
