@@ -70,7 +70,12 @@ QString modCliMain::Profile(const QStringList& arguments)
 
 int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
 {
-    const int code = RunCommand(arguments, ports);
+    int code = modExit::Done;
+    if (arguments == QStringList(u"--version"_s)) {
+        modConsole::Out(u"kontorelle-cli "_s + ports.Version + u'\n');
+    } else {
+        code = RunCommand(arguments, ports);
+    }
     const bool isSaid = modConsole::Finish();
     return code == modExit::Done && !isSaid ? modExit::Failed : code;
 }

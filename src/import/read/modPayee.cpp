@@ -27,60 +27,54 @@ QSet<QString> SetOf(const QString& words)
 // What says nothing about who it is: legal forms, the bank's words for a payment, thanks, branches, countries.
 bool IsFiller(const QString& word)
 {
-    static const QSet<QString> fillers = SetOf(
-        u"gmbh mbh ag kg ohg co se ug kgaa gbr ev eg ek inc ltd limited llc sarl scs sca bv nv ab plc publ cie ggmbh "
-        u"und "
-        u"u sagt danke dankt vielen dank markt filiale fil nr zw nl niederlassung deutschland germany europe de deu at "
-        u"aut "
-        u"ch che com www net eu visa mastercard maestro girocard debitkarte debitk debit kreditkarte kartenzahlung "
-        u"kartennummer karte ec pos elv lastschrift terminal beleg uhr herr frau firma kauf einkauf zahlung eur euro "
-        u"chf "
-        u"kaufumsatz kfn vj debitkartenumsatz vom"_s);
+    static const QSet<QString> fillers =
+        SetOf(u"gmbh mbh ag kg ohg co se ug kgaa gbr ev eg ek inc ltd limited llc sarl scs sca bv nv ab plc publ cie "
+              u"ggmbh und u sagt danke dankt vielen dank markt filiale fil nr zw nl niederlassung deutschland "
+              u"germany europe de deu at aut ch che com www net eu visa mastercard maestro girocard debitkarte "
+              u"debitk debit kreditkarte kartenzahlung kartennummer karte ec pos elv lastschrift terminal beleg uhr "
+              u"herr frau firma kauf einkauf zahlung eur euro chf kaufumsatz kfn vj debitkartenumsatz vom"_s);
     return fillers.contains(word);
 }
 
 // More words that stand before or after the shop in a purpose.
 bool IsPurposeFiller(const QString& word)
 {
-    static const QSet<QString> fillers = SetOf(
-        u"rechnung rechnungsnummer rg re bestellung bestellnummer order auftrag kundennummer kundennr kdnr kd kunde "
-        u"kundenkonto vertrag vertragskonto vk ihr ihre bei an von fuer zu zum zur the for at by payment purchase your "
-        u"ref referenz mandat mandatsreferenz mref eref svwz kref cred glaeubiger id abbuchung ueberweisung "
-        u"dauerauftrag "
-        u"basislastschrift folgelastschrift gutschrift beitrag abschlag rate pp sepa januar februar maerz april mai "
-        u"juni "
-        u"juli august september oktober november dezember jan feb mrz apr jun jul aug sep okt nov dez"_s);
+    static const QSet<QString> fillers =
+        SetOf(u"rechnung rechnungsnummer rg re bestellung bestellnummer order auftrag kundennummer kundennr kdnr kd "
+              u"kunde kundenkonto vertrag vertragskonto vk ihr ihre bei an von fuer zu zum zur the for at by payment "
+              u"purchase your ref referenz mandat mandatsreferenz mref eref svwz kref cred glaeubiger id abbuchung "
+              u"ueberweisung dauerauftrag basislastschrift folgelastschrift gutschrift beitrag abschlag rate pp sepa "
+              u"januar februar maerz april mai juni juli august september oktober november dezember jan feb mrz apr "
+              u"jun jul aug sep okt nov dez"_s);
     return fillers.contains(word);
 }
 
 // The larger towns: where a name ends with one of them it is the branch that the card was used in.
 bool IsPlace(const QString& word)
 {
-    static const QSet<QString> places = SetOf(
-        u"berlin hamburg muenchen munchen koeln koln frankfurt stuttgart duesseldorf dusseldorf leipzig dortmund essen "
-        u"bremen dresden hannover nuernberg nurnberg duisburg bochum wuppertal bielefeld bonn muenster mannheim "
-        u"karlsruhe "
-        u"augsburg wiesbaden gelsenkirchen moenchengladbach braunschweig kiel chemnitz aachen halle magdeburg freiburg "
-        u"krefeld mainz luebeck erfurt oberhausen rostock kassel hagen saarbruecken potsdam hamm ludwigshafen muelheim "
-        u"oldenburg osnabrueck leverkusen heidelberg solingen darmstadt herne regensburg neuss paderborn ingolstadt "
-        u"offenbach fuerth ulm wuerzburg heilbronn pforzheim wolfsburg goettingen bottrop reutlingen koblenz "
-        u"bremerhaven "
-        u"recklinghausen erlangen remscheid jena trier salzgitter siegen hildesheim cottbus gera schwerin kempten "
-        u"passau "
-        u"landshut konstanz tuebingen giessen marburg fulda celle lueneburg flensburg stralsund wien graz linz "
-        u"salzburg "
-        u"innsbruck klagenfurt villach wels bregenz dornbirn zuerich zurich genf basel bern lausanne winterthur luzern "
-        u"oerlikon nord sued ost west mitte zentrum city"_s);
+    static const QSet<QString> places =
+        SetOf(u"berlin hamburg muenchen munchen koeln koln frankfurt stuttgart duesseldorf dusseldorf leipzig "
+              u"dortmund essen bremen dresden hannover nuernberg nurnberg duisburg bochum wuppertal bielefeld bonn "
+              u"muenster mannheim karlsruhe augsburg wiesbaden gelsenkirchen moenchengladbach braunschweig kiel "
+              u"chemnitz aachen halle magdeburg freiburg krefeld mainz luebeck erfurt oberhausen rostock kassel "
+              u"hagen saarbruecken potsdam hamm ludwigshafen muelheim oldenburg osnabrueck leverkusen heidelberg "
+              u"solingen darmstadt herne regensburg neuss paderborn ingolstadt offenbach fuerth ulm wuerzburg "
+              u"heilbronn pforzheim wolfsburg goettingen bottrop reutlingen koblenz bremerhaven recklinghausen "
+              u"erlangen remscheid jena trier salzgitter siegen hildesheim cottbus gera schwerin kempten passau "
+              u"landshut konstanz tuebingen giessen marburg fulda celle lueneburg flensburg stralsund wien graz linz "
+              u"salzburg innsbruck klagenfurt villach wels bregenz dornbirn zuerich zurich genf basel bern lausanne "
+              u"winterthur luzern oerlikon nord sued ost west mitte zentrum city"_s);
     return places.contains(word);
 }
 
 // Words that begin the name of somebody who collects for others, alone or with the next one.
 bool IsCollectorName(const QList<cWord>& words)
 {
-    static const QSet<QString> alone = SetOf(
-        u"paypal klarna stripe sumup adyen mollie payone unzer ratepay telecash concardis nexi nets computop"
-        u" worldline worldpay izettle zettle girosolution secupay logpay riverty afterpay sofort gocardless hobex"
-        u" heidelpay billpay twint helaba micropayment braintree payu paddle hipay ppro sq amazon amz pp google"_s);
+    static const QSet<QString> alone =
+        SetOf(u"paypal klarna stripe sumup adyen mollie payone unzer ratepay telecash concardis nexi nets computop "
+              u"worldline worldpay izettle zettle girosolution secupay logpay riverty afterpay sofort gocardless "
+              u"hobex heidelpay billpay twint helaba micropayment braintree payu paddle hipay ppro sq amazon amz pp "
+              u"google"_s);
     static const QSet<QString> firsts = SetOf(u"apple bs card checkout digital evo first landesbank six vr"_s);
     static const QSet<QString> seconds = SetOf(u"com complete data hessen pay payment payments payone river"_s);
     const qsizetype first = !words.isEmpty() && words.front().Folded == u"visa"_s ? 1 : 0;
