@@ -16,8 +16,12 @@ constexpr std::array<QStringView, 17> keywords = {u"IBAN+", u"BIC+",  u"EREF+", 
 // The keyword at the start of the text; empty when there is none.
 QStringView KeywordAt(QStringView text)
 {
+    if (text.size() < 4 || (text[3] != u'+' && (text.size() < 5 || text[4] != u'+'))) {
+        return {}; // as nearly always, and quick to see
+    }
+    const QChar first = text.front().toUpper();
     const auto* const found = std::find_if(keywords.begin(), keywords.end(), [&](QStringView keyword) {
-        return text.startsWith(keyword, Qt::CaseInsensitive);
+        return keyword.front() == first && text.startsWith(keyword, Qt::CaseInsensitive);
     });
     return found == keywords.end() ? QStringView() : *found;
 }

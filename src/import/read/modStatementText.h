@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringView>
 
 enum class eCharset { Detect, Utf8, Windows1252, Cp850, Utf16LE, Utf16BE };
 
@@ -20,6 +21,9 @@ namespace modStatementText {
 // Repairs a single field: letters that a bank wrote as UTF-8 into a file that as a whole is not UTF-8. All other texts
 // come back unchanged.
 [[nodiscard]] QString DecodeField(const QString& text);
+
+// Whether the mark, which is not empty, stands anywhere in the text. Quick where its first character is rare there.
+[[nodiscard]] bool HasMark(QStringView text, QStringView mark);
 
 // True when the bytes are no text at all (a picture, a program, a packed file).
 [[nodiscard]] bool IsBinary(const QByteArray& bytes);

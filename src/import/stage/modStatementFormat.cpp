@@ -41,12 +41,13 @@ bool IsRefused(const QString& name, const cStatementSource& /*source*/)
 
 bool IsMt940(const QString& name, const cStatementSource& source)
 {
-    const bool hasOpening = source.Text.contains(u":60F:") || source.Text.contains(u":60M:");
-    const bool hasClosing = source.Text.contains(u":62F:") || source.Text.contains(u":62M:");
-    const bool hasLines = source.Text.contains(u":20:") && source.Text.contains(u":61:");
+    const auto has = [&](QStringView mark) { return modStatementText::HasMark(source.Text, mark); };
+    const bool hasOpening = has(u":60F:") || has(u":60M:");
+    const bool hasClosing = has(u":62F:") || has(u":62M:");
+    const bool hasLines = has(u":20:") && has(u":61:");
     // A file that already calls itself so need not have details to every transaction.
     const bool isNamedSo = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s, u".STA"_s});
-    return (hasOpening && hasClosing) || (hasLines && (isNamedSo || source.Text.contains(u":86:")));
+    return (hasOpening && hasClosing) || (hasLines && (isNamedSo || has(u":86:")));
 }
 
 bool IsOfx(const QString& /*name*/, const cStatementSource& source)

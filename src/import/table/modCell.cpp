@@ -64,6 +64,13 @@ bool Matches(QStringView text, QStringView pattern)
     return std::all_of(pattern.begin(), pattern.end(), [](QChar c) { return c == u'*'; });
 }
 
+// False where already the first letters differ: most of what is compared is no match.
+bool MayMatch(QStringView upperName, QStringView pattern)
+{
+    return upperName.isEmpty() || pattern.isEmpty() || !pattern.front().isLetter()
+        || pattern.front().toUpper() == upperName.front();
+}
+
 } // namespace
 
 QString modCell::Clean(QStringView text)
@@ -91,8 +98,14 @@ bool modCell::NeedsCleaning(QStringView trimmed)
 bool modCell::MatchesList(QStringView name, QStringView alternatives)
 {
     const QString upperName = name.toString().toUpper();
-    const QString upperAlternatives = alternatives.toString().toUpper();
-    const QList<QStringView> patterns = QStringView(upperAlternatives).split(u'|');
-    return std::any_of(patterns.begin(), patterns.end(),
-                       [&](QStringView pattern) { return Matches(upperName, pattern); });
+    qsizetype end = -1;
+    for (qsizetype start = 0; start <= alternatives.size(); start = end + 1) {
+        end = alternatives.indexOf(u'|', start);
+        end = end < 0 ? alternatives.size() : end;
+        const QStringView pattern = alternatives.mid(start, end - start);
+        if (MayMatch(upperName, pattern) && Matches(upperName, pattern.toString().toUpper())) {
+            return true;
+        }
+    }
+    return false;
 }

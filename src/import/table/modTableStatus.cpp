@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace {
 
@@ -99,6 +100,25 @@ constexpr std::array words = {
 constexpr auto plainWords =
     static_cast<std::size_t>(std::count_if(words.begin(), words.end(), [](const cWord& word) { return word.IsPlain; }));
 
+// Which lengths and first letters the plain words have, a bit each: nearly every cell differs in one of them already.
+constexpr quint32 Bit(qsizetype place)
+{
+    return place >= 0 && place < 32 ? quint32{1} << place : 0;
+}
+
+constexpr quint32 plainLengths =
+    std::accumulate(words.begin(), words.begin() + plainWords, quint32{0},
+                    [](quint32 bits, const cWord& word) { return bits | Bit(word.Text.size()); });
+constexpr quint32 plainLetters =
+    std::accumulate(words.begin(), words.begin() + plainWords, quint32{0},
+                    [](quint32 bits, const cWord& word) { return bits | Bit(word.Text.front().unicode() - u'a'); });
+
+bool MayBePlain(QStringView cell)
+{
+    const int letter = (cell.front().unicode() | 0x20) - u'a'; // small letters differ from capitals in one bit
+    return (plainLengths & Bit(cell.size())) != 0 && (plainLetters & Bit(letter)) != 0;
+}
+
 bool IsEqual(QStringView cell, QStringView word)
 {
     return cell.size() == word.size() && cell.compare(word, Qt::CaseInsensitive) == 0;
@@ -127,7 +147,7 @@ eState modTableStatus::Of(QStringView cell)
 
 eState modTableStatus::OfAny(QStringView cell)
 {
-    if (cell.size() < 6 || cell.size() > 20 || !cell.front().isLetter()) {
+    if (cell.isEmpty() || !MayBePlain(cell)) {
         return eState::Unknown;
     }
     return First([&](const cWord& word) { return IsEqual(cell, word.Text); }, plainWords);

@@ -229,8 +229,8 @@ QByteArray Utf8(const cStatementSource& source, const cReadOptions& options)
 
 bool modOfx::IsOfx(const QString& text)
 {
-    const bool isMarked = text.contains(u"<OFX>") || text.contains(u"OFXHEADER");
-    if (isMarked && text.contains(u"<BANKTRANLIST>") && text.contains(u"</OFX>")) {
+    const auto has = [&](QStringView mark) { return modStatementText::HasMark(text, mark); };
+    if (has(u"<BANKTRANLIST>") && has(u"</OFX>") && (has(u"<OFX>") || has(u"OFXHEADER"))) {
         return true;
     }
     // Statements without transactions, of a securities account, or cut off: still better refused or read as what they
