@@ -23,6 +23,7 @@
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "views/main/modViewText.h"
+#include "views/overview/cOverviewModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cSeriesCheck.h"
@@ -41,6 +42,7 @@
 #include "windows/help/frmUeber.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
+#include "windows/overview/frmUebersicht.h"
 #include "windows/print/cListPrinter.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/statement/frmImport.h"
@@ -107,7 +109,21 @@ void cNavigation::BuildPage(frmMain::ePage page)
         (void)Statements();
     } else if (page == frmMain::ePage::Statistics) {
         (void)Statistics();
+    } else if (page == frmMain::ePage::Overview && m_overview == nullptr) {
+        BuildOverview();
     }
+}
+
+void cNavigation::BuildOverview()
+{
+    m_overview = std::make_unique<cOverviewModel>(m_parts.Tools, cOverviewModel::cParts{*this, *m_model});
+    QWidget& page = m_window->OverviewPage();
+    page.layout()->addWidget(new frmUebersicht(*m_overview, &page));
+    QObject::connect(m_model, &cMainModel::BookRefreshed, m_overview.get(), &cOverviewModel::BookChanged);
+    QObject::connect(m_review, &cImportReview::RowsChanged, m_overview.get(), &cOverviewModel::BookChanged);
+    QObject::connect(m_overview.get(), &cOverviewModel::EntriesShown, m_window,
+                     [this] { m_window->ShowPage(frmMain::ePage::Entries); });
+    QObject::connect(m_overview.get(), &cOverviewModel::StatementsWanted, m_window, [this] { ShowStatements(); });
 }
 
 QWidget* cNavigation::Parent() const

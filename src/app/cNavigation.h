@@ -19,6 +19,7 @@ class cBookHost;
 class cConfiguration;
 class cImportReview;
 class cMainModel;
+class cOverviewModel;
 class cPasswordFlow;
 class cRescue;
 class cSearchModel;
@@ -68,6 +69,7 @@ public:
 
 private:
     void BuildPage(frmMain::ePage page);
+    void BuildOverview();
     [[nodiscard]] QWidget* Parent() const; // of a window that is opened now: the one in front
     void OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields);
     void OpenEditorFor(cEntryEditor& editor, const cEntryFields& fields);
@@ -98,7 +100,8 @@ private:
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;
     frmImport* m_statements = nullptr;
-    std::unique_ptr<cStatisticsModel> m_statistics; // from the first look on
+    std::unique_ptr<cOverviewModel> m_overview; // these two from the first look on
+    std::unique_ptr<cStatisticsModel> m_statistics;
     frmStatistik* m_statisticsPage = nullptr;
     std::unique_ptr<cBankWindows> m_banks;       // from the first one on
     std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next

@@ -36,8 +36,7 @@ bool WriteOneSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, modDemo::
         fixMod.EntryRelation = series.Entry.ID;
         return data.AddNewEntryMod(fixMod);
     });
-    const bool isRent = series.Entry.EntryCategory == "Wohnung; Miete"_L1;
-    return isCorrected && (!isRent || WriteRows(data, modDemo::RentRows(series.Entry, plan)));
+    return isCorrected && WriteRows(data, modDemo::SeriesRows(series.Entry, series.Mods, plan));
 }
 
 bool WriteSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, const QList<modDemo::cDemoSeries>& list)

@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int PurchasesPerYear = 340;
+constexpr int rowMonths = 12; // of which the bank's rows are there
 const QString DemoBank = u"99900010"_s;
 
 struct cShop
@@ -195,22 +196,29 @@ QList<modDemo::cDemoPurchase> modDemo::Purchases(const cDemoPlan& plan, int coun
     return list;
 }
 
-cImportEntryList modDemo::RentRows(const cEntryItem& rent, const cDemoPlan& plan)
+cImportEntryList modDemo::SeriesRows(const cEntryItem& series, const cEntryItemFixModList& fixMods,
+                                     const cDemoPlan& plan)
 {
+    if (series.EntryAccount != "Girokonto"_L1) {
+        return {};
+    }
+    const bool isRent = series.EntryCategory == "Wohnung; Miete"_L1;
+    const qint64 sign = series.EntryType == modWord::Einnahme ? 1 : -1;
     cEntryItemList occurrences;
-    modRecurrence::Expand(rent, {plan.Today.addMonths(-4), plan.Today}, {}, occurrences);
+    modRecurrence::Expand(series, {plan.Today.addMonths(-rowMonths), plan.Today}, fixMods, occurrences);
     cImportEntryList rows;
     for (const cEntryItem& occurrence : occurrences) {
-        cImportEntry row = BankRow(occurrence.EntryDate, GiroNumber, u"Dauerauftrag"_s, u"Hausverwaltung Lindenhof"_s,
-                                   u"Miete Lindenhof 12"_s, -occurrence.EntryValue);
-        row.ImportBeneficiaryAccount = Iban(static_cast<qsizetype>(Shops.size()));
+        const QString name = isRent ? u"Hausverwaltung Lindenhof"_s : series.EntryDescription;
+        cImportEntry row = BankRow(occurrence.EntryDate, GiroNumber, sign > 0 ? u"Gutschrift"_s : u"Dauerauftrag"_s,
+                                   name, series.EntryDescription, sign * occurrence.EntryValue);
+        row.ImportBeneficiaryAccount = Iban(static_cast<qsizetype>(Shops.size()) + series.ID);
         row.ImportBeneficiaryBLZ = u"DEMODE77XXX"_s;
         row.ImportAssigned = true;
-        row.ImportAssignedEntry = rent.ID;
+        row.ImportAssignedEntry = series.ID;
         rows.append(row);
     }
-    // The last one waits: it belongs to an occurrence that is in the book already.
-    if (!rows.isEmpty()) {
+    // The last rent waits: it belongs to an occurrence that is in the book already.
+    if (isRent && !rows.isEmpty()) {
         rows.last().ImportAssigned = false;
         rows.last().ImportAssignedEntry = -1;
     }

@@ -2,6 +2,7 @@
 
 #include "core/modDemo.h"
 #include "model/cEntryItem.h"
+#include "model/cEntryItemFixMod.h"
 #include "model/cImportEntry.h"
 
 #include <QList>
@@ -30,8 +31,9 @@ struct cDemoPurchase
 // Cash withdrawals, holidays, a large purchase a year: one-off entries that come on fixed days.
 [[nodiscard]] cEntryItemList Events(const cDemoPlan& plan);
 
-// The bank's rows of the last months' rent, assigned to its series except the last one.
-[[nodiscard]] cImportEntryList RentRows(const cEntryItem& rent, const cDemoPlan& plan);
+// The bank's rows of the last year of a series on the current account, assigned to it; of the rent the last one waits.
+[[nodiscard]] cImportEntryList SeriesRows(const cEntryItem& series, const cEntryItemFixModList& fixMods,
+                                          const cDemoPlan& plan);
 
 // Rows of the last days that are no purchases: a transfer pair between the own accounts, a tax refund, a fine.
 [[nodiscard]] cImportEntryList Mail(const cDemoPlan& plan);

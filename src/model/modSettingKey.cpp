@@ -66,6 +66,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &WindowSize,
                                      &WindowState,
                                      &MainPage,
+                                     &StartWithOverview,
                                      &MainList,
                                      &ClosedGroups,
                                      &SearchList,

@@ -120,6 +120,8 @@ inline const cSettingKey TanPictureWidth{QStringLiteral("TanBildBreite"),
 inline const cSettingKey WindowSize{QStringLiteral("WindowSize"), {List, Window, Layout}};
 inline const cSettingKey WindowState{QStringLiteral("WindowState"), {Number, Window, Layout, QStringLiteral("0")}};
 inline const cSettingKey MainPage{QStringLiteral("MainSeite"), {Number, Window, Cleared, QStringLiteral("0")}};
+// Whether the program starts with the overview; else with the page that was left
+inline const cSettingKey StartWithOverview{QStringLiteral("StartMitUebersicht"), {Truth, Window, Cleared, On}};
 inline const cSettingKey MainList{QStringLiteral("MainList"), {List, Window, Layout}};
 inline const cSettingKey ClosedGroups{QStringLiteral("GroupEntries"), {List, Window, Layout}};
 inline const cSettingKey SearchList{QStringLiteral("FilterList"), {List, Window, Layout}};

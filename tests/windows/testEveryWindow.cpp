@@ -29,6 +29,7 @@
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementFiles.h"
+#include "views/overview/cOverviewModel.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/bank/frmAbruf.h"
@@ -46,6 +47,7 @@
 #include "windows/entry/frmKorrektur.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
+#include "windows/overview/frmUebersicht.h"
 #include "windows/statement/frmImport.h"
 #include "windows/statement/frmImportAssistent.h"
 #include "windows/statement/frmImportReview.h"
@@ -123,6 +125,7 @@ struct cScene
     cMainModel Model{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
     cImportReview Review{Book.Tools};
     cStatisticsModel Statistics{Book.Tools, {Book.Shell, Navigator, Model}};
+    cOverviewModel Overview{Book.Tools, {Navigator, Model}};
     cEntryEditor Editor{Book.Tools};
     cSeriesChange Change{Book.Tools};
     cTemplateManager Manager{Book.Tools};
@@ -244,6 +247,8 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          scene.Model.RestoreView(false);
          scene.Statistics.Restore();
          window->StatisticsPage().layout()->addWidget(new frmStatistik(scene.Statistics, &window->StatisticsPage()));
+         window->OverviewPage().layout()->addWidget(new frmUebersicht(scene.Overview, &window->OverviewPage()));
+         scene.Overview.Read();
          return window;
      }},
     {"new entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Start({})); }},

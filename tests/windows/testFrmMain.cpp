@@ -205,6 +205,10 @@ void testFrmMain::PageInFrontIsKept()
     cScene scene;
     scene.Window.ShowPage(frmMain::ePage::Statements);
     scene.Window.SaveLayout();
+    frmMain usual(scene.Model);
+    usual.ShowToday();
+    QCOMPARE(usual.Page(), frmMain::ePage::Overview);
+    scene.Book.Settings->SetBool(modSettingKey::StartWithOverview, false);
     frmMain again(scene.Model);
     again.ShowToday();
     QCOMPARE(again.Page(), frmMain::ePage::Statements);

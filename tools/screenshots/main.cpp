@@ -150,6 +150,9 @@ bool TakeDemo(cCamera& camera)
     frmMain& window = program.Window();
     cMainModel& model = program.Model();
     model.ChoosePeriod(u"Aktueller Monat"_s); // what most look at; a new book begins with everything
+    window.ShowPage(frmMain::ePage::Overview);
+    camera.Take(window, u"uebersicht"_s);
+    window.ShowPage(frmMain::ePage::Entries);
     camera.Take(window, u"hauptfenster"_s);
     model.ChooseAccount(u"Girokonto"_s);
     model.ChooseGrouping(u"Nach Monat"_s);

@@ -497,7 +497,11 @@ QString cMainModel::WindowTitle() const
 
 QString cMainModel::BalancesTitle() const
 {
-    return m_view.BalancesToToday ? cText::Tr("Kontostände heute") : cText::Tr("Kontostände im Zeitraum");
+    if (m_view.BalancesToToday) {
+        return cText::Tr("Kontostände heute");
+    }
+    return m_view.IsOpenEnd(m_tools.Clock.Today()) ? cText::Tr("Kontostände bis heute")
+                                                   : cText::Tr("Kontostände im Zeitraum");
 }
 
 bool cMainModel::IsReadOnly() const

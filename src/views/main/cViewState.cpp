@@ -105,5 +105,8 @@ cEntryQuery cViewState::BalanceQuery(QDate today) const
     query = Query(today);
     query.Account.clear();
     query.Type.clear();
+    if (IsOpenEnd(today)) {
+        query.End = today; // all that series bring in the years to come is nothing that an account holds
+    }
     return query;
 }

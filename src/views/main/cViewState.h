@@ -43,6 +43,10 @@ struct cViewState
     // The query for the list: period cut by the future switch, account, kind of entry and booking kind.
     [[nodiscard]] cEntryQuery Query(QDate today) const;
 
-    // The query for balances over all accounts: up to and including today, or the period under the switches.
+    // Whether the period has no last day ("Alle Buchungen").
+    [[nodiscard]] bool IsOpenEnd(QDate today) const { return !Range(today).End.isValid(); }
+
+    // The query for balances over all accounts: up to and including today, or the period under the switches; one
+    // without end goes up to today.
     [[nodiscard]] cEntryQuery BalanceQuery(QDate today) const;
 };

@@ -40,6 +40,7 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_model(model),
       m_splitter(new QSplitter(this)),
       m_tabs(new QTabWidget(this)),
+      m_overview(new QWidget(this)),
       m_statements(new QWidget(this)),
       m_statistics(new QWidget(this)),
       m_accounts(new cAccountPanel(model.AccountList(), this)),
@@ -99,12 +100,15 @@ void frmMain::BuildCommands()
 void frmMain::BuildPages()
 {
     m_tabs->setDocumentMode(true);
-    m_tabs->addTab(BuildEntryPage(), cText::Tr("Bu&chungen"));
-    for (QWidget* page : {m_statements, m_statistics}) {
+    m_entries = BuildEntryPage();
+    for (QWidget* page : {m_overview, m_statements, m_statistics}) {
         (new QVBoxLayout(page))->setContentsMargins(0, 0, 0, 0);
     }
+    m_tabs->addTab(m_overview, cText::Tr("&Übersicht"));
+    m_tabs->addTab(m_entries, cText::Tr("Bu&chungen"));
     m_tabs->addTab(m_statements, cText::Tr("Kont&oauszüge"));
     m_tabs->addTab(m_statistics, cText::Tr("Aus&wertung"));
+    m_tabs->setCurrentWidget(m_entries);
     m_splitter->addWidget(m_accounts);
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(1, 1);
@@ -141,9 +145,9 @@ void frmMain::Connect()
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
-    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) {
-        Q_EMIT PageShown(static_cast<ePage>(page));
-        m_model.SetSelection(page == 0 ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        Q_EMIT PageShown(Page());
+        m_model.SetSelection(Page() == ePage::Entries ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
     });
     connect(m_backBar, &cBackBar::BackRequested, this, &frmMain::GoBack);
     connect(m_backBar, &cBackBar::CloseRequested, &m_model, &cMainModel::GoBack);
@@ -173,8 +177,9 @@ QList<int> frmMain::EntryColumns() const
 
 void frmMain::ShowToday()
 {
-    // The tabs pass over a number that they do not have.
-    m_tabs->setCurrentIndex(m_model.Layout(modSettingKey::MainPage).toInt());
+    const bool isOverview = m_model.IsChecked(modSettingKey::StartWithOverview);
+    const auto left = static_cast<ePage>(m_model.Layout(modSettingKey::MainPage).toInt());
+    m_tabs->setCurrentWidget(WidgetOf(isOverview ? ePage::Overview : left));
     m_tree->ScrollTo(m_model.Today());
     if (Page() == ePage::Entries) {
         m_tree->setFocus();
@@ -238,7 +243,7 @@ void frmMain::ShowEntry(const cEntryListModel::cKey& key)
 
 void frmMain::ShowPage(ePage page)
 {
-    m_tabs->setCurrentIndex(static_cast<int>(page));
+    m_tabs->setCurrentWidget(WidgetOf(page));
     if (page == ePage::Entries) {
         m_tree->setFocus();
     }
@@ -247,9 +252,25 @@ void frmMain::ShowPage(ePage page)
     }
 }
 
+QWidget* frmMain::WidgetOf(ePage page) const
+{
+    switch (page) {
+    case ePage::Overview: return m_overview;
+    case ePage::Statements: return m_statements;
+    case ePage::Statistics: return m_statistics;
+    case ePage::Entries: break;
+    }
+    return m_entries;
+}
+
 frmMain::ePage frmMain::Page() const
 {
-    return static_cast<ePage>(m_tabs->currentIndex());
+    for (const ePage page : {ePage::Overview, ePage::Statements, ePage::Statistics}) {
+        if (m_tabs->currentWidget() == WidgetOf(page)) {
+            return page;
+        }
+    }
+    return ePage::Entries;
 }
 
 void frmMain::GoBack()
@@ -281,7 +302,7 @@ void frmMain::SaveLayout()
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
     m_model.SaveListLayout(modSettingKey::MainList, m_tree->LayoutText());
     m_model.SaveListLayout(modSettingKey::ClosedGroups, m_tree->GroupText());
-    m_model.SaveListLayout(modSettingKey::MainPage, QString::number(m_tabs->currentIndex()));
+    m_model.SaveListLayout(modSettingKey::MainPage, QString::number(static_cast<int>(Page())));
 }
 
 // The accounts have room for long names in a wide window and leave most of a narrow one to the list; where it has

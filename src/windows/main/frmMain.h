@@ -24,19 +24,20 @@ class frmMain final : public QMainWindow
     Q_OBJECT
 
 public:
-    enum class ePage { Entries, Statements, Statistics };
+    enum class ePage { Entries, Statements, Statistics, Overview }; // the numbers are stored
 
     explicit frmMain(cMainModel& model, QWidget* parent = nullptr);
 
     // Place and columns as they were; called once before the window is shown.
     void RestoreLayout();
 
-    // Once the view was restored: brings the page to the front that was there last, scrolls the list to the current day
-    // and gives it the focus where it is in front.
+    // Once the view was restored: brings the overview to the front, or the page that was there last where the user
+    // wants that, scrolls the list to the current day and gives it the focus where it is in front.
     void ShowToday();
 
     [[nodiscard]] QWidget& StatementsPage() { return *m_statements; } // with an empty layout, for whoever fills it
     [[nodiscard]] QWidget& StatisticsPage() { return *m_statistics; }
+    [[nodiscard]] QWidget& OverviewPage() { return *m_overview; }
     [[nodiscard]] ePage Page() const;              // the one in front
     [[nodiscard]] QList<int> EntryColumns() const; // of the entry list, in the order on screen
     void SaveLayout();                             // place and columns; also done on closing
@@ -63,6 +64,7 @@ private:
     void BuildPages();
     QWidget* BuildEntryPage();
     void Connect();
+    [[nodiscard]] QWidget* WidgetOf(ePage page) const; // the entries for a number that no page has
     void ShowView();
     void ShowEntries();
     void ShowCommands();
@@ -75,6 +77,8 @@ private:
     QHash<int, QAction*> m_actions; // by command number
     QSplitter* m_splitter;
     QTabWidget* m_tabs;
+    QWidget* m_entries = nullptr;
+    QWidget* m_overview;
     QWidget* m_statements;
     QWidget* m_statistics;
     cAccountPanel* m_accounts;

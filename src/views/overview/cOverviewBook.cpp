@@ -1,0 +1,58 @@
+#include "views/overview/cOverviewBook.h"
+
+#include "base/cClock.h"
+#include "core/cBookTools.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "views/chart/cForecast.h"
+#include "views/report/modReport.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr int mostChanges = 3;
+
+cEntryItemList Within(const cEntryItemList& entries, const modPeriod::cRange& range)
+{
+    cEntryItemList within;
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(within), [&](const cEntryItem& entry) {
+        return entry.EntryDate >= range.Start && entry.EntryDate <= range.End;
+    });
+    return within;
+}
+
+cReportFigures LimitsOf(const cEntryItemList& entries, const cTemplateItemList& templates, QDate today)
+{
+    cReportWish wish;
+    wish.Type = eReport::Limit;
+    wish.Range = modPeriod::Month(today, 0);
+    wish.Today = today;
+    return modReport::Figures(Within(entries, wish.Range), templates, wish);
+}
+
+} // namespace
+
+cOverviewBook cOverviewBook::Read(const cBookTools& tools)
+{
+    cOverviewBook book;
+    book.Today = tools.Clock.Today();
+    cForecast forecast(tools.Data, book.Today);
+    book.Balances = forecast.Days({book.Today, book.Today.addDays(AheadDays)}, cForecast::eAverage::Without);
+    book.Warnings = forecast.Warnings();
+    book.Templates = tools.Data.GetTemplates();
+    cEntryQuery query;
+    query.Start = modOverview::FirstDay(book.Today);
+    query.End = std::max(modPeriod::Month(book.Today, 0).End, book.Today.addDays(DueDays));
+    const cEntryItemList entries = tools.Data.GetEntries(query);
+    book.HasEntries = std::any_of(entries.begin(), entries.end(),
+                                  [](const cEntryItem& entry) { return entry.EntryCategory != modWord::Startguthaben; })
+        || tools.Data.CountEntries() > tools.Data.CountEntriesOfCategory(modWord::Startguthaben);
+    book.Month = modOverview::Month(entries, book.Today);
+    book.Changes = modOverview::Changes(entries, book.Today, mostChanges);
+    book.Due = modOverview::Due(entries, book.Today, DueDays);
+    book.Limits = LimitsOf(entries, book.Templates, book.Today);
+    book.IsUnread = !tools.Data.IsWhole();
+    return book;
+}

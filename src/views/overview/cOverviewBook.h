@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "model/cTemplateItem.h"
+#include "views/list/cBalanceDays.h"
+#include "views/overview/modOverview.h"
+#include "views/report/cReportFigures.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+struct cBookTools;
+
+// What the overview reckons with, read from the book in a few queries.
+struct cOverviewBook
+{
+    static constexpr int AheadDays = 60;
+    static constexpr int DueDays = 14;
+
+    [[nodiscard]] static cOverviewBook Read(const cBookTools& tools);
+
+    QDate Today;
+    bool IsUnread = false;   // the book refused; all else means nothing
+    bool HasEntries = false; // other than start balances
+    cBalanceDays Balances{}; // from today on, so that the first value is that of now
+    QList<cLimitWarning> Warnings{};
+    modOverview::cMonth Month{};
+    QList<modOverview::cChange> Changes{};
+    cEntryItemList Due{};
+    cReportFigures Limits{}; // of this month, with what is planned
+    cTemplateItemList Templates{};
+};

@@ -1,0 +1,132 @@
+#include "windows/overview/cCardLine.h"
+
+#include "windows/widget/modTone.h"
+
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int margin = 4;
+constexpr int gap = 12; // between text and figure
+constexpr int barHeight = 6;
+constexpr int leastTextLetters = 16; // beside a figure
+
+} // namespace
+
+cCardLine::cCardLine(const cOverviewLine& line, QWidget* parent) : QAbstractButton(parent), m_line(line)
+{
+    const bool isLink = m_line.Follow != nullptr;
+    setFocusPolicy(isLink ? Qt::StrongFocus : Qt::NoFocus);
+    setCursor(isLink ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setAttribute(Qt::WA_Hover, isLink);
+    QString told = m_line.Figure.isEmpty() ? m_line.Text : m_line.Text + u": "_s + m_line.Figure;
+    if (m_line.Percent) {
+        told += u", %1 %"_s.arg(*m_line.Percent);
+    }
+    setAccessibleName(told);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    if (isLink) {
+        connect(this, &QAbstractButton::clicked, this, [this] { m_line.Follow(); });
+    }
+}
+
+int cCardLine::FigureWidth() const
+{
+    return m_line.Figure.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_line.Figure);
+}
+
+bool cCardLine::IsStacked(int width) const
+{
+    const int room = width - 2 * margin - gap - FigureWidth();
+    const int wanted =
+        std::min(fontMetrics().horizontalAdvance(m_line.Text), fontMetrics().averageCharWidth() * leastTextLetters);
+    return FigureWidth() > 0 && room < wanted;
+}
+
+int cCardLine::TextHeight(int width) const
+{
+    const bool isBeside = FigureWidth() > 0 && !IsStacked(width);
+    const int room = width - 2 * margin - (isBeside ? FigureWidth() + gap : 0);
+    return fontMetrics().boundingRect(QRect(0, 0, std::max(room, 1), 10000), Qt::TextWordWrap, m_line.Text).height();
+}
+
+int cCardLine::heightForWidth(int width) const
+{
+    return TextHeight(width) + (IsStacked(width) ? fontMetrics().lineSpacing() : 0)
+        + (m_line.Percent ? barHeight + margin : 0) + 2 * margin;
+}
+
+QSize cCardLine::sizeHint() const
+{
+    const int width = fontMetrics().averageCharWidth() * 40;
+    return {width, heightForWidth(width)};
+}
+
+QSize cCardLine::minimumSizeHint() const
+{
+    const int width = std::max(fontMetrics().averageCharWidth() * leastTextLetters, FigureWidth() + 2 * margin);
+    return {width, fontMetrics().height() + 2 * margin};
+}
+
+QColor cCardLine::Colour() const
+{
+    switch (m_line.Tone) {
+    case eOverviewTone::Income: return modTone::Income(palette());
+    case eOverviewTone::Expense: return modTone::Expense(palette());
+    case eOverviewTone::Warning: return modTone::Warning(palette());
+    case eOverviewTone::Quiet: return modTone::Quiet(palette());
+    case eOverviewTone::Plain: break;
+    }
+    return palette().color(QPalette::Text);
+}
+
+void cCardLine::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (m_line.Follow && (underMouse() || isDown())) {
+        QColor shade = palette().color(QPalette::Highlight);
+        shade.setAlphaF(isDown() ? 0.25F : 0.12F);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(shade);
+        painter.drawRoundedRect(rect(), 4, 4);
+    }
+    const bool isStacked = IsStacked(width());
+    const int textHeight = TextHeight(width());
+    const QRect inner = rect().adjusted(margin, margin, -margin, -margin);
+    const bool tintsText = m_line.Tone == eOverviewTone::Warning || m_line.Tone == eOverviewTone::Quiet;
+    QRect text(inner.topLeft(), QSize(inner.width(), textHeight));
+    if (!isStacked && FigureWidth() > 0) {
+        text.setWidth(inner.width() - FigureWidth() - gap);
+    }
+    painter.setPen(tintsText ? Colour() : palette().color(QPalette::Text));
+    painter.drawText(text, Qt::TextWordWrap | Qt::AlignTop, m_line.Text);
+    QRect figure(inner.left(), inner.top() + (isStacked ? textHeight : 0), inner.width(), fontMetrics().lineSpacing());
+    painter.setPen(Colour());
+    painter.drawText(figure, Qt::AlignRight | Qt::AlignVCenter, m_line.Figure);
+    if (m_line.Percent) {
+        const QRectF bar(inner.left(), inner.bottom() + 1 - barHeight, inner.width(), barHeight);
+        QColor ground = palette().color(QPalette::Text);
+        ground.setAlphaF(0.15F);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(bar, barHeight / 2.0, barHeight / 2.0);
+        const double share = std::clamp(*m_line.Percent, 0, 100) / 100.0;
+        painter.setBrush(m_line.Tone == eOverviewTone::Warning ? Colour() : palette().color(QPalette::Highlight));
+        painter.drawRoundedRect(QRectF(bar.topLeft(), QSizeF(bar.width() * share, barHeight)), barHeight / 2.0,
+                                barHeight / 2.0);
+    }
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.backgroundColor = palette().color(QPalette::Base);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}

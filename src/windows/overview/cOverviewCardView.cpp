@@ -1,0 +1,115 @@
+#include "windows/overview/cOverviewCardView.h"
+
+#include "base/cText.h"
+#include "windows/overview/cBalanceCurve.h"
+#include "windows/overview/cCardLine.h"
+#include "windows/widget/modTone.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int margin = 14;
+constexpr double radius = 8;
+
+QFont Larger(QFont font, double factor, bool isBold)
+{
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(isBold);
+    return font;
+}
+
+} // namespace
+
+cOverviewCardView::cOverviewCardView(const cOverviewCard& card, QWidget* parent) : QFrame(parent), m_card(card.Card)
+{
+    setAccessibleName(card.Title);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin - 4, margin, margin);
+    layout->setSpacing(2);
+    AddHead(card, *layout);
+    if (!card.Curve.Cents.isEmpty()) {
+        layout->addWidget(new cBalanceCurve(card.Curve, this));
+        layout->addSpacing(4);
+    }
+    for (const cOverviewLine& line : card.Lines) {
+        AddLine(line, *layout);
+    }
+    if (card.Lines.isEmpty() && !card.Empty.isEmpty()) {
+        AddLine({card.Empty, {}, eOverviewTone::Quiet}, *layout);
+    }
+}
+
+void cOverviewCardView::AddHead(const cOverviewCard& card, QVBoxLayout& layout)
+{
+    auto* head = new QHBoxLayout;
+    auto* title = new QLabel(card.Title, this);
+    title->setFont(Larger(title->font(), 1.05, true));
+    title->setWordWrap(true);
+    head->addWidget(title, 1);
+    if (card.Follow) {
+        auto* all = new QToolButton(this);
+        all->setText(cText::Tr("Zeigen"));
+        all->setAutoRaise(true);
+        all->setFocusPolicy(Qt::StrongFocus);
+        all->setAccessibleName(card.FollowText);
+        all->setToolTip(card.FollowText);
+        connect(all, &QToolButton::clicked, this, [follow = card.Follow] { follow(); });
+        head->addWidget(all, 0, Qt::AlignTop);
+    }
+    layout.addLayout(head);
+    if (!card.Figure.isEmpty()) {
+        auto* figure = new QLabel(card.Figure, this);
+        figure->setFont(Larger(figure->font(), 1.7, false));
+        figure->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if (card.Tone == eOverviewTone::Expense) {
+            QPalette colours = figure->palette();
+            colours.setColor(QPalette::WindowText, modTone::Expense(colours));
+            figure->setPalette(colours);
+        }
+        layout.addWidget(figure);
+    }
+}
+
+void cOverviewCardView::AddLine(const cOverviewLine& line, QVBoxLayout& layout)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
+    row->addWidget(new cCardLine(line, this), 1);
+    if (!line.Actions.isEmpty()) {
+        auto* more = new QToolButton(this);
+        auto* menu = new QMenu(more);
+        for (const cOverviewAction& action : line.Actions) {
+            // Afterwards, because the card with its menu goes when the book has changed.
+            connect(
+                menu->addAction(action.Text), &QAction::triggered, this, [run = action.Run] { run(); },
+                Qt::QueuedConnection);
+        }
+        more->setMenu(menu);
+        more->setPopupMode(QToolButton::InstantPopup);
+        more->setText(u"…"_s);
+        more->setAutoRaise(true);
+        more->setFocusPolicy(Qt::StrongFocus);
+        more->setToolTip(cText::Tr("Was damit geschehen soll"));
+        more->setAccessibleName(cText::Tr("Was mit '{0}' geschehen soll", {line.Text}));
+        row->addWidget(more, 0, Qt::AlignTop);
+    }
+    layout.addLayout(row);
+}
+
+void cOverviewCardView::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor edge = palette().color(QPalette::Text);
+    edge.setAlphaF(0.18F);
+    painter.setPen(edge);
+    painter.setBrush(palette().color(QPalette::Base));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
