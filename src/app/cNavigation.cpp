@@ -124,6 +124,9 @@ void cNavigation::BuildOverview()
     QObject::connect(m_overview.get(), &cOverviewModel::EntriesShown, m_window,
                      [this] { m_window->ShowPage(frmMain::ePage::Entries); });
     QObject::connect(m_overview.get(), &cOverviewModel::StatementsWanted, m_window, [this] { ShowStatements(); });
+    QObject::connect(
+        m_overview.get(), &cOverviewModel::DemoWanted, m_window,
+        [this] { m_books.OpenDemo(QCoreApplication::applicationVersion()); }, Qt::QueuedConnection);
 }
 
 QWidget* cNavigation::Parent() const

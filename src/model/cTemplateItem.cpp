@@ -227,3 +227,20 @@ cTemplateItem modTemplate::NewCategory(const cTemplateItemList& items, const QSt
     item.TemplatePriority = QString::number(LastPriority(items, modWord::Kategorie, group) + 1);
     return item;
 }
+
+cTemplateItem modTemplate::NewAccount(const cTemplateItemList& accounts, const QString& name)
+{
+    QHash<QString, int> counts;
+    for (const cTemplateItem& account : accounts) {
+        ++counts[GroupOf(account)];
+    }
+    const auto most = std::max_element(accounts.begin(), accounts.end(), [&](const auto& a, const auto& b) {
+        return counts.value(GroupOf(a)) < counts.value(GroupOf(b));
+    });
+    cTemplateItem item;
+    item.TemplateType = modWord::Konto;
+    item.TemplateName = CleanName(name.trimmed()).trimmed();
+    item.TemplateCategory = most == accounts.end() ? QString() : GroupOf(*most);
+    item.TemplatePriority = QString::number(LastPriority(accounts, modWord::Konto, item.TemplateCategory) + 1);
+    return item;
+}

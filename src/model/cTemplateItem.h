@@ -94,4 +94,8 @@ namespace modTemplate {
 // else an expense, because most are. Without any name when nothing is left of the two.
 [[nodiscard]] cTemplateItem NewCategory(const cTemplateItemList& items, const QString& main, const QString& sub);
 
+// An account of this name, cleaned, at the end of the group in which most accounts stand: those of banks, in the usual
+// book. Without name when nothing is left of it.
+[[nodiscard]] cTemplateItem NewAccount(const cTemplateItemList& accounts, const QString& name);
+
 } // namespace modTemplate

@@ -39,31 +39,6 @@ QSet<QString> NamesOf(const cTemplateItemList& accounts)
     return names;
 }
 
-// The group in which most accounts stand: those of banks, in the usual book. Empty when there is no account.
-QString UsualGroup(const cTemplateItemList& accounts)
-{
-    QHash<QString, int> counts;
-    for (const cTemplateItem& account : accounts) {
-        ++counts[modTemplate::GroupOf(account)];
-    }
-    const auto most = std::max_element(accounts.begin(), accounts.end(), [&](const auto& a, const auto& b) {
-        return counts.value(modTemplate::GroupOf(a)) < counts.value(modTemplate::GroupOf(b));
-    });
-    return most == accounts.end() ? QString() : modTemplate::GroupOf(*most);
-}
-
-// At the end of that group, and not in front of everything as one without a position would be.
-cTemplateItem NewAccount(const QString& name, const cTemplateItemList& accounts)
-{
-    cTemplateItem item;
-    item.TemplateType = modWord::Konto;
-    item.TemplateName = name;
-    item.TemplateCategory = UsualGroup(accounts);
-    item.TemplatePriority =
-        QString::number(modTemplate::LastPriority(accounts, modWord::Konto, item.TemplateCategory) + 1);
-    return item;
-}
-
 QString QuestionFor(const QString& number)
 {
     return number.isEmpty()
@@ -215,7 +190,7 @@ bool cAccountMap::Assign(const QString& number, const QString& account)
         return false;
     }
     if (!Exists(name)) {
-        cTemplateItem item = NewAccount(name, m_data.GetAccounts());
+        cTemplateItem item = modTemplate::NewAccount(m_data.GetAccounts(), name);
         if (!m_data.AddNewTemplate(item)) {
             return false;
         }

@@ -14,6 +14,7 @@
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "views/book/cBookHost.h"
+#include "views/book/modBookCopy.h"
 
 #include <QDir>
 #include <QFile>
@@ -76,6 +77,24 @@ void cBookFlow::NewBook()
         m_parts.User.Show(eTone::Information,
                           cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {Shown(*kept)}));
     }
+}
+
+void cBookFlow::OpenDemo(const QString& version)
+{
+    const QString own = m_parts.Book.Path();
+    const QString path = m_parts.Shell.DataFolder() + u'/' + cText::Tr("Beispielhaushalt") + u".db"_s;
+    if (!m_parts.Shell.FileExists(path)
+        && modBookCopy::WriteDemo(path, 0, m_parts.Clock.Today(), m_parts.Shell, m_parts.User, version) < 0) {
+        return;
+    }
+    Open(path);
+    if (!IsOpenBook(path)) {
+        return; // the user was told why
+    }
+    m_parts.User.Show(eTone::Information,
+                      cText::Tr("Das ist der Beispielhaushalt. Alles darin dürfen Sie ändern.\n\nZu Ihrem eigenen "
+                                "Haushaltsbuch kommen Sie mit Datei > Datenbank wechseln zurück: {0}",
+                                {Shown(own)}));
 }
 
 // A place for a new book; empty when the user gives up.

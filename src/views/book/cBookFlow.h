@@ -33,8 +33,10 @@ public:
     void NewBook();                     // "Neue Datenbank"
     void SwitchBook();                  // "Datenbank wechseln"
     void OpenBook(const QString& path); // that was dropped on the window; says so when it is open already
-    void MakeBackup();                  // "Datensicherung erstellen"
-    void LoadBackup();                  // "Datensicherung laden"
+    // The example household, made when it is not there yet; `version` is that of the program.
+    void OpenDemo(const QString& version);
+    void MakeBackup(); // "Datensicherung erstellen"
+    void LoadBackup(); // "Datensicherung laden"
 
     // Says that the book is damaged and offers the newest copy that is not.
     void TellDamage();

@@ -107,6 +107,11 @@ void cOverviewModel::SetStartPage(bool isStartPage)
 
 void cOverviewModel::Build()
 {
+    if (!m_book->HasEntries) {
+        m_cards = {Balances(), Tasks()};
+        Q_EMIT CardsChanged();
+        return;
+    }
     m_cards = {Balances(), Month(), Due(), Tasks()};
     if (cOverviewCard limits = Limits(); !limits.Lines.isEmpty()) {
         m_cards.append(std::move(limits));
@@ -125,6 +130,16 @@ QString cOverviewModel::Signed(qint64 cents) const
 std::function<void()> cOverviewModel::Command(int command)
 {
     return [this, command] { m_parts.Main.Execute(command); };
+}
+
+void cOverviewModel::AccountsSaved()
+{
+    m_parts.Main.BookChanged();
+}
+
+void cOverviewModel::Do(int command)
+{
+    m_parts.Main.Execute(command);
 }
 
 void cOverviewModel::Change(const std::function<bool()>& write)

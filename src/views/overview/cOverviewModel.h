@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/overview/cFirstSteps.h"
 #include "views/overview/cOverviewBook.h"
 #include "views/overview/cOverviewCard.h"
 #include "views/overview/cOverviewTasks.h"
@@ -41,6 +42,12 @@ public:
     [[nodiscard]] bool IsUnread() const { return m_book && m_book->IsUnread; }
     [[nodiscard]] bool IsBookEmpty() const { return m_book && !m_book->HasEntries; }
 
+    // What a new book begins with, and its ways on.
+    [[nodiscard]] cFirstSteps FirstSteps() const { return cFirstSteps(m_tools); }
+    void AccountsSaved();
+    void Do(int command);
+    void ShowDemo() { Q_EMIT DemoWanted(); }
+
     // Whether the program starts with this page, else with the one that was left.
     [[nodiscard]] bool IsStartPage() const;
     void SetStartPage(bool isStartPage);
@@ -49,6 +56,7 @@ Q_SIGNALS:
     void CardsChanged();
     void EntriesShown();     // they are to be brought to the front
     void StatementsWanted(); // likewise the page for bank statements
+    void DemoWanted();
 
 private:
     void LoadSeries();

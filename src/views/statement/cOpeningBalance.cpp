@@ -86,17 +86,18 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
     ledger.Load(number);
     cOffer offer;
     offer.Account = ledger.AccountOf(number);
-    if (offer.Account.isEmpty() || ledger.Rows().isEmpty() || !ledger.Check().IsAnchored || ledger.IsShared()) {
+    if (offer.Account.isEmpty() || ledger.Rows().isEmpty() || ledger.IsShared()) {
         return std::nullopt;
     }
     offer.Day = ledger.Rows().constFirst().ImportDate.addDays(-1);
-    const modBalanceCheck::cResult& check = ledger.Check();
-    const bool isNamed = check.Points.constFirst().Day <= offer.Day;
-    if (!isNamed && (!check.Faults.isEmpty() || !cLeftOutRows(m_tools.Settings).Of(number).isEmpty())) {
-        return std::nullopt; // rows are missing, which no start balance makes good
-    }
-    offer.Bank = check.Opening - check.ErrorOn(offer.Day);
     const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(offer.Account);
+    const std::optional<qint64> bank =
+        ledger.Check().IsAnchored ? Opening(ledger, offer.Day) : CountBack(ledger, stored);
+    if (!bank) {
+        return std::nullopt;
+    }
+    offer.Bank = *bank;
+    offer.FormerDay = ledger.Check().IsAnchored ? QDate() : stored->EntryDate;
     const cEntryItemList entries =
         m_tools.Data.GetEntries({{}, offer.Day.addDays(drawnDays), {}, offer.Account, {}, eBookingKind::All});
     const cHandEntries hand(entries, offer.Account, stored ? stored->ID : 0, offer.Day);
@@ -110,6 +111,31 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
     return offer.Book == offer.Bank ? std::nullopt : std::optional(offer);
 }
 
+// What the balances of the bank say; none where rows are missing, which no start balance makes good.
+std::optional<qint64> cOpeningBalance::Opening(const cStatementLedger& ledger, QDate day) const
+{
+    const modBalanceCheck::cResult& check = ledger.Check();
+    const bool isNamed = check.Points.constFirst().Day <= day;
+    if (!isNamed && (!check.Faults.isEmpty() || !cLeftOutRows(m_tools.Settings).Of(ledger.Number()).isEmpty())) {
+        return std::nullopt;
+    }
+    return check.Opening - check.ErrorOn(day);
+}
+
+// Where the bank names no balance, what the user has stored as that of a later day: all rows up to that day led to it.
+std::optional<qint64> cOpeningBalance::CountBack(const cStatementLedger& ledger,
+                                                 const std::optional<cEntryItem>& stored)
+{
+    if (!stored || stored->EntryDate < ledger.Rows().constFirst().ImportDate) {
+        return std::nullopt;
+    }
+    qint64 cents = modBalance::Effect(*stored, stored->EntryAccount);
+    for (const cImportEntry& row : ledger.Rows()) {
+        cents -= row.ImportDate <= stored->EntryDate ? row.ImportValue : 0;
+    }
+    return cents;
+}
+
 QString cOpeningBalance::Question(const cOffer& offer) const
 {
     const QStringList values{offer.Account,
@@ -119,6 +145,14 @@ QString cOpeningBalance::Question(const cOffer& offer) const
                              m_tools.Format.Cents(offer.Start),
                              modDate::ToGerman(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
+    if (offer.FormerDay.isValid()) {
+        return cText::Tr(
+            "Als Startguthaben des Kontos '{0}' ist der Stand vom {1} eingetragen ({2}). Die Umsätze der Bank "
+            "beginnen früher.\n\nSoll das Startguthaben auf den {3} zurückgerechnet werden ({4})? Dann "
+            "bleibt der Stand vom {1}, wie er ist.",
+            {offer.Account, modDate::ToGerman(offer.FormerDay), m_tools.Format.Cents(offer.Former.value_or(0)),
+             modDate::ToGerman(offer.StartDay), m_tools.Format.Cents(offer.Start)});
+    }
     const QString known =
         cText::Tr("Laut Kontoauszug hatte das Konto '{0}' am {1} einen Stand von {2}; im Buch sind es {3}.", values);
     const QString wish = offer.Former
@@ -132,7 +166,9 @@ QString cOpeningBalance::Question(const cOffer& offer) const
 
 QString cOpeningBalance::Report(const cOffer& offer) const
 {
-    return cText::Tr("Startguthaben von '{0}': {1} am {2}, laut Kontoauszug.",
+    return cText::Tr(offer.FormerDay.isValid()
+                         ? QT_TRANSLATE_NOOP("cText", "Startguthaben von '{0}': {1} am {2}, zurückgerechnet.")
+                         : QT_TRANSLATE_NOOP("cText", "Startguthaben von '{0}': {1} am {2}, laut Kontoauszug."),
                      {offer.Account, m_tools.Format.Cents(offer.Start), modDate::ToGerman(offer.StartDay)});
 }
 

@@ -5,7 +5,9 @@
 
 #include <optional>
 
+class cStatementLedger;
 struct cBookTools;
+struct cEntryItem;
 
 // What an account held before its first bank row, as the start balance with which the book agrees with the bank from
 // then on.
@@ -21,6 +23,7 @@ public:
         qint64 Start = 0; // the start balance that makes them equal
         QDate StartDay;
         std::optional<qint64> Former; // the present start balance
+        QDate FormerDay{};            // valid: it was that of a later day, from which the bank's was counted back
     };
 
     explicit cOpeningBalance(const cBookTools& tools) : m_tools(tools) {}
@@ -35,5 +38,9 @@ public:
     [[nodiscard]] bool Take(const cOffer& offer) const;
 
 private:
+    [[nodiscard]] std::optional<qint64> Opening(const cStatementLedger& ledger, QDate day) const;
+    [[nodiscard]] static std::optional<qint64> CountBack(const cStatementLedger& ledger,
+                                                         const std::optional<cEntryItem>& stored);
+
     const cBookTools& m_tools;
 };

@@ -3,20 +3,19 @@
 #include "base/cText.h"
 #include "windows/overview/cBalanceCurve.h"
 #include "windows/overview/cCardLine.h"
+#include "windows/widget/modCard.h"
 #include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int margin = 14;
-constexpr double radius = 8;
+using modCard::Margin;
 
 QFont Larger(QFont font, double factor, bool isBold)
 {
@@ -31,7 +30,7 @@ cOverviewCardView::cOverviewCardView(const cOverviewCard& card, QWidget* parent)
 {
     setAccessibleName(card.Title);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin - 4, margin, margin);
+    layout->setContentsMargins(Margin, Margin - 4, Margin, Margin);
     layout->setSpacing(2);
     AddHead(card, *layout);
     if (!card.Curve.Cents.isEmpty()) {
@@ -105,11 +104,5 @@ void cOverviewCardView::AddLine(const cOverviewLine& line, QVBoxLayout& layout)
 
 void cOverviewCardView::paintEvent(QPaintEvent* /*event*/)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor edge = palette().color(QPalette::Text);
-    edge.setAlphaF(0.18F);
-    painter.setPen(edge);
-    painter.setBrush(palette().color(QPalette::Base));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    modCard::Paint(*this);
 }

@@ -1,7 +1,9 @@
 #include "windows/overview/frmUebersicht.h"
 
 #include "base/cText.h"
+#include "views/main/modCommand.h"
 #include "views/overview/cOverviewModel.h"
+#include "windows/overview/cFirstStepsView.h"
 #include "windows/overview/cOverviewCardView.h"
 
 #include <QBoxLayout>
@@ -11,6 +13,7 @@
 #include <QScrollArea>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -87,7 +90,7 @@ void frmUebersicht::changeEvent(QEvent* event)
 int frmUebersicht::ColumnCount() const
 {
     const int least = fontMetrics().averageCharWidth() * columnLetters;
-    return std::clamp(width() / least, 1, mostColumns);
+    return std::clamp(width() / least, 1, m_firstSteps != nullptr ? mostColumns - 1 : mostColumns);
 }
 
 // Whoever works on a card with the keyboard stays at it when the book has changed.
@@ -110,7 +113,38 @@ void frmUebersicht::ShowCards()
             m_cards.last()->setFocus();
         }
     }
+    ShowFirstSteps();
     Arrange();
+}
+
+void frmUebersicht::ShowFirstSteps()
+{
+    if (!m_model.IsBookEmpty()) {
+        delete std::exchange(m_firstSteps, nullptr);
+        return;
+    }
+    if (m_firstSteps != nullptr) {
+        m_firstSteps->Refresh();
+        return;
+    }
+    const auto command = [this](int id) { return [this, id] { m_model.Do(id); }; };
+    const QList<cFirstStepsView::cWay> ways{
+        {cText::Tr("Kontoauszug &einlesen…"),
+         cText::Tr("Eine Datei Ihrer Bank. Sie können sie auch einfach in dieses Fenster ziehen."),
+         command(modCommand::ImportStatement)},
+        {cText::Tr("&Online-Banking einrichten…"), cText::Tr("Umsätze direkt bei der Bank abrufen."),
+         command(modCommand::BankLogins)},
+        {cText::Tr("Ersten Eintrag e&rfassen…"), cText::Tr("Von Hand, zum Beispiel was Sie heute bar bezahlt haben."),
+         command(modCommand::NewEntry)},
+        {cText::Tr("Aus anderem &Programm übernehmen…"),
+         cText::Tr("Lassen Sie es Ihre Buchungen als QIF- oder CSV-Datei speichern, und lesen Sie diese Datei ein."),
+         command(modCommand::ImportStatement)},
+        {cText::Tr("Beispielhaushalt ansehe&n"),
+         cText::Tr("Ein erfundenes Haushaltsbuch zum Ausprobieren. Ihr eigenes bleibt, wie es ist."),
+         [this] { m_model.ShowDemo(); }},
+    };
+    m_firstSteps = new cFirstStepsView(m_model.FirstSteps(), ways, m_ground);
+    connect(m_firstSteps, &cFirstStepsView::Saved, &m_model, &cOverviewModel::AccountsSaved);
 }
 
 // Each card goes to the column that has most room left, so that they end at about the same height.
@@ -131,6 +165,11 @@ void frmUebersicht::Arrange()
         m_columns->addLayout(columns.back(), 1);
     }
     const int cardWidth = (width() - gap * (m_count + 1)) / m_count;
+    if (m_firstSteps != nullptr) {
+        columns.front()->addWidget(m_firstSteps);
+        heights.front() += m_firstSteps->sizeHint().height();
+        m_firstSteps->show();
+    }
     for (cOverviewCardView* view : std::as_const(m_cards)) {
         const auto lowest = std::min_element(heights.begin(), heights.end());
         columns[static_cast<std::size_t>(lowest - heights.begin())]->addWidget(view);

@@ -6,6 +6,7 @@ class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QScrollArea;
+class cFirstStepsView;
 class cOverviewCardView;
 class cOverviewModel;
 
@@ -25,6 +26,7 @@ protected:
 
 private:
     void ShowCards();
+    void ShowFirstSteps();
     void Arrange();
     [[nodiscard]] int ColumnCount() const;
 
@@ -34,6 +36,7 @@ private:
     QScrollArea* m_scroll;
     QWidget* m_ground;
     QBoxLayout* m_columns;
+    cFirstStepsView* m_firstSteps = nullptr; // while the book is empty
     QList<cOverviewCardView*> m_cards;
     int m_count = 0; // of the columns
 };

@@ -1,0 +1,74 @@
+#include "views/overview/cFirstSteps.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
+#include "model/modBalance.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+
+QList<cFirstSteps::cRow> cFirstSteps::Start() const
+{
+    QList<cRow> rows;
+    const cTemplateItemList accounts = modTemplate::InOrder(m_tools.Data.GetAccounts());
+    for (const cTemplateItem& account : accounts) {
+        if (!modTemplate::IsVisible(account)) {
+            continue;
+        }
+        const auto stored = m_tools.Data.GetStartGuthaben(account.TemplateName);
+        rows.append(
+            {account.TemplateName,
+             stored ? modSum::ToText(modBalance::Effect(*stored, account.TemplateName), Decimal()) : QString()});
+    }
+    while (rows.size() < Rows) {
+        rows.append(cRow{});
+    }
+    return rows;
+}
+
+eDecimal cFirstSteps::Decimal() const
+{
+    return m_tools.Format.Decimal();
+}
+
+QString cFirstSteps::Save(const QList<cRow>& rows) const
+{
+    for (const cRow& row : rows) {
+        if (row.Amount.trimmed().isEmpty()) {
+            continue;
+        }
+        if (row.Name.trimmed().isEmpty()) {
+            return cText::Tr("Zu welchem Konto gehört der Betrag {0}? Bitte tragen Sie seinen Namen ein.",
+                             {row.Amount});
+        }
+        if (!modSum::Evaluate(row.Amount, Decimal())) {
+            return modSum::Fault(row.Amount, Decimal());
+        }
+    }
+    cUndoStep step(m_tools.Data, cText::Tr("Konten und Kontostände eingetragen"));
+    for (const cRow& row : rows) {
+        if (const QString problem = Store(row); !problem.isEmpty()) {
+            (void)step.Revert();
+            return problem;
+        }
+    }
+    return step.Done() ? QString() : cText::Tr("Die Konten konnten nicht gespeichert werden.");
+}
+
+QString cFirstSteps::Store(const cRow& row) const
+{
+    if (row.Name.trimmed().isEmpty()) {
+        return {};
+    }
+    cTemplateItem item = modTemplate::NewAccount(m_tools.Data.GetAccounts(), row.Name);
+    if (item.TemplateName.isEmpty()) {
+        return cText::Tr("'{0}' kann kein Konto heißen. Bitte wählen Sie einen anderen Namen.", {row.Name});
+    }
+    const bool isStored = m_tools.Data.FindAccount(item.TemplateName).has_value() || m_tools.Data.AddNewTemplate(item);
+    const std::optional<qint64> cents = modSum::Evaluate(row.Amount, Decimal());
+    const bool isAmount = cents && !row.Amount.trimmed().isEmpty();
+    return isStored && (!isAmount || m_tools.Data.SetStartGuthaben(item.TemplateName, *cents, m_tools.Clock.Today()))
+        ? QString()
+        : cText::Tr("Die Konten konnten nicht gespeichert werden.");
+}
