@@ -92,11 +92,10 @@ void cTemplatePanel::Build()
     for (QLabel* label : {m_hint, m_numbersHint}) {
         label->setWordWrap(true);
         label->setTextFormat(Qt::PlainText);
-        QPalette quiet = label->palette();
-        quiet.setColor(QPalette::WindowText, modTone::Quiet(quiet));
-        label->setPalette(quiet);
     }
-    m_limitHint->setPalette(m_hint->palette());
+    for (QLabel* label : {m_hint, m_numbersHint, m_limitHint}) {
+        modTone::Use(*label, modTone::Quiet);
+    }
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_title);
     layout->addWidget(m_hint);
