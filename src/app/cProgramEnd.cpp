@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto pause = 20ms; // for what was closed to unwind
+constexpr auto unwindTime = 20ms; // for what was closed to unwind
 constexpr const char* isAsked = "isAskedToClose";
 
 void Dismiss(QDialog& dialog)
@@ -59,7 +59,7 @@ void cProgramEnd::Begin()
 {
     m_hasBegun = true;
     if (!tmrStep.isActive()) {
-        tmrStep.start(pause);
+        tmrStep.start(unwindTime);
     }
 }
 
@@ -68,7 +68,7 @@ void cProgramEnd::Step()
     QWidget* popup = QApplication::activePopupWidget();
     QWidget* modal = QApplication::activeModalWidget();
     if (popup != nullptr || modal != nullptr || QThread::currentThread()->loopLevel() > 1 || m_hooks.IsBusy()) {
-        tmrStep.start(pause); // before the window goes: what that shows next is for another step
+        tmrStep.start(unwindTime); // before the window goes: what that shows next is for another step
         if (popup != nullptr) {
             popup->close();
         } else if (modal != nullptr) {

@@ -40,7 +40,10 @@ cEntryFields EveryField()
 
 cEntryDraft DraftAt(int minute)
 {
-    return {.Kept = QDateTime(QDate(2026, 3, 15), QTime(12, minute, 1, 5)), .Fields = EveryField()};
+    return {.Kept = QDateTime(QDate(2026, 3, 15), QTime(12, minute, 1, 5)),
+            .EntryId = 0,
+            .From = {},
+            .Fields = EveryField()};
 }
 
 } // namespace

@@ -92,10 +92,9 @@ void cTemplatePanel::Build()
     for (QLabel* label : {m_hint, m_numbersHint}) {
         label->setWordWrap(true);
         label->setTextFormat(Qt::PlainText);
-    }
-    for (QLabel* label : {m_hint, m_numbersHint, m_limitHint}) {
         modTone::Use(*label, modTone::Quiet);
     }
+    modTone::Use(*m_limitHint, modTone::Quiet);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_title);
     layout->addWidget(m_hint);
