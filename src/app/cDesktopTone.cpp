@@ -19,6 +19,7 @@ const QString scheme = QStringLiteral("color-scheme");
 
 cDesktopTone::cDesktopTone(const QDBusConnection& bus, QObject* parent) : QObject(parent), m_bus(bus)
 {
+    qRegisterMetaType<QDBusVariant>(); // the bus finds a slot by the names of its types, and knows no others
     m_bus.connect(service, path, settings, u"SettingChanged"_s, this, SLOT(TakeChange(QString, QString, QDBusVariant)));
     Ask();
 }

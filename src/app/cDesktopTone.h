@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusVariant>
 #include <QObject>
 #include <QString>
-
-class QDBusVariant;
 
 // Whether the desktop wants programs to be light or dark: the portal's setting on the session bus, asked once and
 // followed from then on. Where no portal answers, nothing is known.

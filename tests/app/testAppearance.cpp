@@ -78,6 +78,7 @@ class testAppearance final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() const { QApplication::setPalette(QPalette()); }
     void OpenWindowsFollow() const;
     void DesktopIsFollowed() const;
 };
@@ -97,14 +98,14 @@ void testAppearance::OpenWindowsFollow() const
     Choose(registry, u"Dunkel"_s);
     cAppearance appearance(registry);
     QVERIFY(IsDark());
-    QVERIFY(modTone::IsDark(plain.palette()));
+    QTRY_VERIFY(modTone::IsDark(plain.palette()));
     QCOMPARE(plain.palette().color(QPalette::WindowText), modPalette::Dark().color(QPalette::WindowText));
     QCOMPARE(toned.palette().color(QPalette::WindowText), modTone::Expense(modPalette::Dark()));
 
     Choose(registry, u"Hell"_s);
     appearance.Apply();
     QVERIFY(QApplication::palette() == platform); // as light as is wanted, so its own
-    QCOMPARE(toned.palette().color(QPalette::WindowText), light);
+    QTRY_COMPARE(toned.palette().color(QPalette::WindowText), light);
     modTone::Use(toned, nullptr);
     QCOMPARE(toned.palette().color(QPalette::WindowText), plain.palette().color(QPalette::WindowText));
 }

@@ -76,14 +76,14 @@ private Q_SLOTS:
             QCOMPARE(checked(program.Window()), QStringList(u"&System"_s));
             QVERIFY(program.Model().Execute(modCommand::AppearanceDark));
             QCOMPARE(checked(program.Window()), QStringList(u"&Dunkel"_s));
-            QVERIFY(modTone::IsDark(program.Window().palette()));
+            QTRY_VERIFY(modTone::IsDark(program.Window().palette()));
             QVERIFY(program.Window().close());
         }
         cMainProgram program(machine.Ports, u"0.1.0"_s);
         QVERIFY(program.Start({.Book = path}));
         QVERIFY(modTone::IsDark(program.Window().palette()));
         QVERIFY(program.Model().Execute(modCommand::AppearanceSystem));
-        QVERIFY(!modTone::IsDark(program.Window().palette()));
+        QTRY_VERIFY(!modTone::IsDark(program.Window().palette()));
     }
 
     // Nothing that the window shows reads this table, so nothing else would come upon it.
