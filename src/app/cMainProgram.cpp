@@ -7,6 +7,7 @@
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
 #include "model/modSettingKey.h"
+#include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
@@ -40,6 +41,7 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
       m_version(version),
       m_configuration(ports.Registry),
       m_book(ports.User),
+      m_appearance(ports.Registry),
       m_bookSwitch({{ports.Shell, ports.User, ports.Rescue, ports.Clock},
                     ports.Registry,
                     m_configuration,
@@ -47,7 +49,8 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
                     m_lock,
                     version},
                    Hooks()),
-      m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration)
+      m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration),
+      m_end({[this] { return m_tools && m_book.Data().Journal().IsOpen(); }, [this] { Finish(); }})
 {
     tmrBackup.setSingleShot(true);
     tmrWalk.setSingleShot(true);
@@ -75,10 +78,14 @@ bool cMainProgram::Start(const cStartRequest& request)
     if (!startUp.AskPassword()) {
         return false;
     }
+    m_isReady = true;
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
     WatchBook();
-    QTimer::singleShot(0, m_window.get(), [this] { Serve(); }); // once the window is painted
+    QTimer::singleShot(0, m_window.get(), [this] { // once the window is painted
+        OfferDrafts();
+        Serve();
+    });
     return true;
 }
 
@@ -87,6 +94,9 @@ void cMainProgram::Take(const cStartRequest& request)
 {
     if (!request.Activation.isEmpty()) {
         qputenv("XDG_ACTIVATION_TOKEN", request.Activation); // where the toolkit looks for it
+    }
+    if (m_end.HasBegun()) {
+        return;
     }
     m_window->Raise();
     m_request.Statements.append(request.Statements);
@@ -114,6 +124,42 @@ void cMainProgram::Serve()
     if (request.IsNewEntry) {
         m_navigation->OpenNewEntry();
     }
+}
+
+void cMainProgram::OfferDrafts()
+{
+    if (!m_end.HasBegun()) {
+        m_navigation->OfferDrafts();
+    }
+}
+
+void cMainProgram::Save()
+{
+    if (m_isReady) {
+        m_navigation->Forms().Keep();
+        m_window->SaveLayout();
+    }
+}
+
+void cMainProgram::End()
+{
+    if (m_end.HasBegun()) {
+        return;
+    }
+    m_end.Begin();
+    m_request = {};
+    if (m_isReady) {
+        m_navigation->Forms().Keep();
+        m_navigation->Forms().Close();
+    }
+}
+
+void cMainProgram::Finish()
+{
+    if (m_window != nullptr) {
+        m_window->close();
+    }
+    QCoreApplication::exit(0); // also where another window would keep the program
 }
 
 bool cMainProgram::OpenBook(cStartUp& startUp)
@@ -172,6 +218,7 @@ void cMainProgram::BuildWindow()
     m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
+    QObject::connect(m_model.get(), &cMainModel::AppearanceChanged, m_window.get(), [this] { m_appearance.Apply(); });
     QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
                      [this] { m_backups.CopyIfChanged(); });
     QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });
@@ -225,7 +272,7 @@ void cMainProgram::TellDamage()
 {
     if (QApplication::activeModalWidget() != nullptr) {
         QTimer::singleShot(damageRetry, m_window.get(), [this] { TellDamage(); });
-    } else if (m_book.Database().IsDamaged()) {
+    } else if (m_book.Database().IsDamaged() && !m_end.HasBegun()) {
         m_navigation->TellDamage();
     }
 }
@@ -241,4 +288,5 @@ void cMainProgram::ShowOtherBook(bool isNewVersion)
     m_window->RestoreLayout();
     m_window->ShowToday();
     WatchBook();
+    QTimer::singleShot(0, m_window.get(), [this] { OfferDrafts(); });
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "app/cAppearance.h"
 #include "app/cBookSwitch.h"
 #include "app/cFileLock.h"
 #include "app/cLanguage.h"
+#include "app/cProgramEnd.h"
 #include "app/cSingleInstance.h"
 #include "core/cAmountFormat.h"
 #include "core/cBackupPlan.h"
@@ -52,10 +54,16 @@ public:
     // already open in another window, which was brought to the front and got the request.
     [[nodiscard]] bool Start(const cStartRequest& request);
 
+    // For whoever ends the program from outside. Save keeps what would be lost, layout and typed contents, and leaves
+    // all as it is; End does that and closes the window as the user does, but without questions. It returns at once.
+    void Save();
+    void End();
+
     // The window and its model; only after a successful start.
     [[nodiscard]] frmMain& Window() { return *m_window; }
     [[nodiscard]] cMainModel& Model() { return *m_model; }
     [[nodiscard]] cImportReview& Review() { return *m_review; }
+    [[nodiscard]] cAppearance& Appearance() { return m_appearance; } // from the beginning on
     [[nodiscard]] cNavigation& Navigation() { return *m_navigation; }
     [[nodiscard]] const cBookTools& Tools() const { return *m_tools; }
 
@@ -72,17 +80,21 @@ private:
     void ReadOn();
     void TellDamage();
     void LeaveBook(cBookSwitch::eLeave leave);
+    void OfferDrafts();
+    void Finish();
 
     cPorts m_ports;
     QString m_version;
     cConfiguration m_configuration;
     cBook m_book;
+    cAppearance m_appearance;
     cLanguage m_language;
     cFileLock m_lock;
     cSingleInstance m_instance;
     cAmountFormat m_format{m_configuration};
     cBookSwitch m_bookSwitch;
     cBackupPlan m_backups;
+    cProgramEnd m_end;
     QTimer tmrBackup;                 // until the next copy of a program that stays open
     std::optional<cTableWalk> m_walk; // until the open file has been read once
     QTimer tmrWalk;
@@ -92,4 +104,5 @@ private:
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;
     std::unique_ptr<frmMain> m_window;
+    bool m_isReady = false; // the window shows the book
 };

@@ -58,6 +58,7 @@
 
 cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
+      m_forms(parts.Tools, parts.Book, parts.Shell),
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
       m_printer(parts.Tools.User)
@@ -202,9 +203,39 @@ void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFie
         return;
     }
     frmBuchung form(editor, *fields, Parent());
+    ConnectEditor(form, editor);
+    m_forms.Run(form, editor);
+}
+
+void cNavigation::ConnectEditor(const frmBuchung& form, const cEntryEditor& editor)
+{
     QObject::connect(&form, &frmBuchung::EntrySaved, m_model, [this, &editor] { ShowSaved(editor.SavedId()); });
     QObject::connect(&form, &frmBuchung::CalculatorRequested, m_model, &cMainModel::StartCalculator);
-    form.exec();
+}
+
+void cNavigation::OfferDrafts()
+{
+    if (m_model->IsReadOnly()) {
+        return;
+    }
+    const QList<cEntryDraft> drafts = m_forms.Drafts().All();
+    for (const cEntryDraft& draft : drafts) {
+        switch (cEntryDrafts::Ask(draft, m_parts.Tools.User)) {
+        case cEntryDrafts::eWish::Restore: OpenDraft(draft); break;
+        case cEntryDrafts::eWish::Discard: m_forms.Drafts().Remove(draft.Kept); break;
+        case cEntryDrafts::eWish::Later: return;
+        }
+    }
+}
+
+void cNavigation::OpenDraft(cEntryDraft draft)
+{
+    cEntryEditor editor(m_parts.Tools);
+    const cEntryFields stored = editor.Resume(draft);
+    frmBuchung form(editor, stored, Parent());
+    form.ShowTyped(draft.Fields);
+    ConnectEditor(form, editor);
+    m_forms.Run(form, editor, draft.Kept);
 }
 
 // Of a bank transaction: the list of these stays in front.
@@ -213,7 +244,7 @@ void cNavigation::OpenEditorFor(cEntryEditor& editor, const cEntryFields& fields
     frmBuchung form(editor, fields, Parent());
     QObject::connect(&form, &frmBuchung::EntrySaved, m_model, [this] { BookChanged(); });
     QObject::connect(&form, &frmBuchung::CalculatorRequested, m_model, &cMainModel::StartCalculator);
-    form.exec();
+    m_forms.Run(form, editor);
 }
 
 void cNavigation::ShowSaved(int entryId)

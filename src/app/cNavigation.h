@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/cEntryForms.h"
 #include "app/cQtPrinter.h"
 #include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
@@ -25,6 +26,7 @@ class cRescue;
 class cSearchModel;
 class cShell;
 class cStatisticsModel;
+class frmBuchung;
 class frmImport;
 class frmStatistik;
 class frmSuche;
@@ -52,6 +54,8 @@ public:
     // The windows and models that stay open; called once they are there.
     void Connect(cMainModel& model, cImportReview& review, frmMain& window);
     void TellDamage();
+    void OfferDrafts(); // what was typed and not saved when the program had to end the last time
+    [[nodiscard]] cEntryForms& Forms() { return m_forms; }
     void LeaveBook(); // before the file is closed: so are the windows that show it
 
     [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
@@ -72,6 +76,7 @@ private:
     void BuildOverview();
     [[nodiscard]] QWidget* Parent() const; // of a window that is opened now: the one in front
     void OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields);
+    void OpenDraft(cEntryDraft draft);
     void OpenEditorFor(cEntryEditor& editor, const cEntryFields& fields);
     void OpenStartBalance();
     void OpenSearch();
@@ -91,9 +96,11 @@ private:
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void BookChanged();
+    void ConnectEditor(const frmBuchung& form, const cEntryEditor& editor);
     void ShowSaved(int entryId);
 
     cParts m_parts;
+    cEntryForms m_forms;
     cBookFlow m_books;
     cQtPrinter m_printer;
     cMainModel* m_model = nullptr;

@@ -45,6 +45,19 @@ QString cQtShell::DataFolder()
     return folder;
 }
 
+QString cQtShell::StateFolder()
+{
+    QString base = QDir(m_profile).absoluteFilePath(u"state"_s);
+    if (m_profile.isEmpty()) {
+        const QString named = qEnvironmentVariable("XDG_STATE_HOME"); // the toolkit does not know it yet
+        base = QDir::isAbsolutePath(named) ? named : QDir::home().filePath(u".local/state"_s);
+    }
+    const QString folder = base % u"/Veltrino Kontorelle"_s;
+    QDir().mkpath(base);
+    QDir().mkdir(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    return folder;
+}
+
 QString cQtShell::InstalledFile(const QString& name) const
 {
     const QDir program(QCoreApplication::applicationDirPath());

@@ -158,12 +158,17 @@ std::optional<QList<int>> cQtUser::Tick(const cChecklist& list)
     return ticked;
 }
 
-QStringList cQtUser::ChooseFiles(const QString& title, const QString& filter)
+QStringList cQtUser::ChooseFiles(const QString& title, const QString& filter, ePurpose purpose)
 {
-    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), title, {}, modQtFilter::FromPairs(filter));
+    const QStringList paths = QFileDialog::getOpenFileNames(QApplication::activeWindow(), title, m_folders.For(purpose),
+                                                            modQtFilter::FromPairs(filter));
+    if (!paths.isEmpty()) {
+        m_folders.Keep(purpose, paths.constFirst());
+    }
+    return paths;
 }
 
-QString cQtUser::ChooseSavePath(const QString& title, const QString& filter, const QString& proposal)
+QString cQtUser::ChooseSavePath(const QString& title, const QString& filter, const QString& proposal, ePurpose purpose)
 {
     QFileDialog dialog(QApplication::activeWindow(), title);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -173,11 +178,14 @@ QString cQtUser::ChooseSavePath(const QString& title, const QString& filter, con
         dialog.setDefaultSuffix(modQtFilter::ChosenEnding(filter, chosen));
     });
     const QFileInfo proposed(proposal);
-    if (proposed.isAbsolute()) {
-        dialog.setDirectory(proposed.absolutePath());
-    }
+    const bool isPlaceGiven = proposed.isAbsolute();
+    dialog.setDirectory(isPlaceGiven ? proposed.absolutePath() : m_folders.For(purpose));
     dialog.selectFile(proposed.fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    const QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    if (!path.isEmpty() && !isPlaceGiven) {
+        m_folders.Keep(purpose, path);
+    }
+    return path;
 }
 
 QString cQtUser::ChooseFolder(const QString& title, const QString& current)

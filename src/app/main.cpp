@@ -3,6 +3,7 @@
 #include "app/cQtRescue.h"
 #include "app/cQtShell.h"
 #include "app/cQtUser.h"
+#include "app/cSessionWatch.h"
 #include "app/cSystemClock.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
@@ -12,6 +13,8 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDBusConnection>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -28,6 +31,14 @@ bool HasDisplay()
 #else
     return true;
 #endif
+}
+
+// Without an address the library would look for a bus by starting programs.
+bool HasSessionBus()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")
+        || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
 int RefuseWithoutDisplay()
@@ -69,10 +80,16 @@ int main(int argc, char* argv[])
     request.Activation = qgetenv("XDG_ACTIVATION_TOKEN");
     cQtShell shell(profile);
     cQtRegistry registry(profile);
-    cQtUser user;
+    cQtUser user(registry);
     cQtRescue rescue;
     const cSystemClock clock;
     cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
+    if (HasSessionBus()) {
+        program.Appearance().FollowDesktop(QDBusConnection::sessionBus());
+    }
+    const cSessionWatch session;
+    QObject::connect(&session, &cSessionWatch::SaveRequested, &application, [&program] { program.Save(); });
+    QObject::connect(&session, &cSessionWatch::EndRequested, &application, [&program] { program.End(); });
     if (const QString error = request.TakeFiles(parser.positionalArguments()); !error.isEmpty()) {
         user.Show(eTone::Exclamation, error);
         return 1;

@@ -47,6 +47,9 @@ struct cChecklist
     QStringList Items;
 };
 
+// What a file dialog is for. Each purpose begins in the folder that was chosen for it last.
+enum class ePurpose { Statement, Layout, Protocol, Export };
+
 // The person in front of the screen (or the command line that stands in for one).
 class cUser
 {
@@ -71,12 +74,13 @@ public:
     [[nodiscard]] virtual std::optional<QList<int>> Tick(const cChecklist& list) = 0;
 
     // Existing files to open. `filter` has the form "Name|*.a;*.b|Name|*.*". Empty when the user gives up.
-    [[nodiscard]] virtual QStringList ChooseFiles(const QString& title, const QString& filter) = 0;
+    [[nodiscard]] virtual QStringList ChooseFiles(const QString& title, const QString& filter, ePurpose purpose) = 0;
 
-    // A path to write to; the user has agreed to replace a file that exists there. `proposal` is a name or a full path.
-    // The chosen pattern of the filter gives the ending where none was typed. Empty when the user gives up.
-    [[nodiscard]] virtual QString ChooseSavePath(const QString& title, const QString& filter,
-                                                 const QString& proposal) = 0;
+    // A path to write to; the user has agreed to replace a file that exists there. `proposal` is a name, or a full path
+    // where the folder is known without the purpose. The chosen pattern of the filter gives the ending where none was
+    // typed. Empty when the user gives up.
+    [[nodiscard]] virtual QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal,
+                                                 ePurpose purpose = ePurpose::Export) = 0;
 
     // A folder; `current` is shown first. Empty when the user gives up.
     [[nodiscard]] virtual QString ChooseFolder(const QString& title, const QString& current) = 0;

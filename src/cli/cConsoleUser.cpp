@@ -101,7 +101,7 @@ std::optional<QString> cConsoleUser::Choose(const cChoice& choice)
     return std::nullopt;
 }
 
-QStringList cConsoleUser::ChooseFiles(const QString& /*title*/, const QString& /*filter*/)
+QStringList cConsoleUser::ChooseFiles(const QString& /*title*/, const QString& /*filter*/, ePurpose /*purpose*/)
 {
     return {};
 }
@@ -126,7 +126,8 @@ std::optional<QList<int>> cConsoleUser::Tick(const cChecklist& list)
     return all;
 }
 
-QString cConsoleUser::ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/)
+QString cConsoleUser::ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/,
+                                     ePurpose /*purpose*/)
 {
     return {};
 }

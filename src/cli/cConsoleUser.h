@@ -15,8 +15,9 @@ public:
     [[nodiscard]] std::optional<QString> Choose(const cChoice& choice) override;
     [[nodiscard]] int Decide(const cDecision& decision) override;
     [[nodiscard]] std::optional<QList<int>> Tick(const cChecklist& list) override; // all when the answer is yes
-    [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter) override;
-    [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal) override;
+    [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter, ePurpose purpose) override;
+    [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal,
+                                         ePurpose purpose = ePurpose::Export) override;
     [[nodiscard]] QString ChooseFolder(const QString& title, const QString& current) override;
 
     // What the options of the command answer beforehand.

@@ -16,9 +16,12 @@ QString cSettingFamily::PartOf(const QString& name) const
 
 std::span<const cSettingKey* const> modSettingKey::All()
 {
+    // One line each, whatever their number.
+    // clang-format off
     static constexpr std::array keys{&Database,
                                      &DatabaseList,
                                      &LastBackupFolder,
+                                     &Appearance,
                                      &PasswordActive,
                                      &Password,
                                      &LastVersion,
@@ -72,15 +75,16 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &SearchList,
                                      &ImportList,
                                      &CategoryList};
+    // clang-format on
     return keys;
 }
 
 std::span<const cSettingFamily* const> modSettingKey::Families()
 {
-    static constexpr std::array families{&BankNumber, &BankCode,    &BankBalances,   &EqualLeftOut,  &Reconciled,
-                                         &Fetched,    &TableMap,    &TableAccounts,  &TableCharset,  &TableBankCode,
-                                         &OnlineBank, &PanePeriod,  &PaneFirstMonth, &PaneLastMonth, &PaneYear,
-                                         &PaneChart,  &PaneCompare, &PaneForecast,   &PaneAverage};
+    static constexpr std::array families{&DialogFolder,  &BankNumber, &BankCode,    &BankBalances,   &EqualLeftOut,
+                                         &Reconciled,    &Fetched,    &TableMap,    &TableAccounts,  &TableCharset,
+                                         &TableBankCode, &OnlineBank, &PanePeriod,  &PaneFirstMonth, &PaneLastMonth,
+                                         &PaneYear,      &PaneChart,  &PaneCompare, &PaneForecast,   &PaneAverage};
     return families;
 }
 

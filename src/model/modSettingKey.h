@@ -23,6 +23,8 @@ inline const QString Off = QStringLiteral("Falsch");
 inline const cSettingKey Database{QStringLiteral("Database"), {Text, Program}}; // path; empty: the default one
 inline const cSettingKey DatabaseList{QStringLiteral("DatabaseList"), {List, Program}};
 inline const cSettingKey LastBackupFolder{QStringLiteral("LastBackupFolder"), {Text, Program}};
+inline const cSettingFamily DialogFolder{QStringLiteral("Ordner"), {}, {Text, Program}};  // what is chosen there
+inline const cSettingKey Appearance{QStringLiteral("Erscheinungsbild"), {Text, Program}}; // see modAppearance
 
 // The book
 inline const cSettingKey PasswordActive{QStringLiteral("PasswortAktiv"), {Truth, Book, Kept}};

@@ -1,8 +1,13 @@
 #include "app/cMainProgram.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
+#include "views/main/cMainModel.h"
+#include "views/main/modCommand.h"
 #include "windows/main/frmMain.h"
+#include "windows/widget/modTone.h"
 
+#include <QAction>
+#include <QActionGroup>
 #include <QDir>
 #include <QTest>
 
@@ -49,6 +54,36 @@ private Q_SLOTS:
             QCOMPARE(machine.Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
         }
         QCOMPARE(machine.User.Shown, QStringList());
+    }
+
+    // From the menu to the colours of an open window, and still so at the next start.
+    void AppearanceIsChosenLive() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make(oneEntry);
+        const auto checked = [](const frmMain& window) {
+            QStringList texts;
+            for (const QAction* action : window.findChildren<QAction*>()) {
+                if (action->actionGroup() != nullptr && action->isChecked()) {
+                    texts.append(action->text());
+                }
+            }
+            return texts;
+        };
+        {
+            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            QVERIFY(program.Start({.Book = path}));
+            QCOMPARE(checked(program.Window()), QStringList(u"&System"_s));
+            QVERIFY(program.Model().Execute(modCommand::AppearanceDark));
+            QCOMPARE(checked(program.Window()), QStringList(u"&Dunkel"_s));
+            QTRY_VERIFY(modTone::IsDark(program.Window().palette()));
+            QVERIFY(program.Window().close());
+        }
+        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = path}));
+        QVERIFY(modTone::IsDark(program.Window().palette()));
+        QVERIFY(program.Model().Execute(modCommand::AppearanceSystem));
+        QTRY_VERIFY(!modTone::IsDark(program.Window().palette()));
     }
 
     // Nothing that the window shows reads this table, so nothing else would come upon it.

@@ -4,12 +4,42 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QKeySequence>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Opens a file dialog and takes a file of this folder there, or gives up without one; the folder in which it began.
+QString ChosenIn(const QString& folder, const std::function<void()>& open)
+{
+    QString begun;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog != nullptr);
+        begun = dialog->directory().absolutePath();
+        if (folder.isEmpty()) {
+            dialog->reject();
+            return;
+        }
+        dialog->setDirectory(folder);
+        dialog->selectFile(u"auszug.sta"_s);
+        static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+    });
+    open();
+    return begun;
+}
+
+} // namespace
 
 // What the toolkit makes of questions and keys.
 class testQtUser final : public QObject
@@ -19,11 +49,13 @@ class testQtUser final : public QObject
 private Q_SLOTS:
     void OneEnterTakesWhatWasCompleted();
     void KeysHaveGermanNames();
+    void FileDialogsBeginWhereTheLastOneEnded();
 };
 
 void testQtUser::OneEnterTakesWhatWasCompleted()
 {
-    cQtUser user;
+    cFakeRegistry registry;
+    cQtUser user(registry);
     QTimer::singleShot(0, qApp, [] {
         auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
@@ -42,6 +74,39 @@ void testQtUser::OneEnterTakesWhatWasCompleted()
                                      .Proposal = u"Girokonto"_s,
                                      .AllowNew = true});
     QCOMPARE(answer.value_or(QString()), u"Sparkonto"_s);
+}
+
+void testQtUser::FileDialogsBeginWhereTheLastOneEnded()
+{
+    const QTemporaryDir home;
+    const QDir root(home.path());
+    for (const QString& folder : {u"Downloads"_s, u"Dokumente"_s, u"Bank"_s}) {
+        QVERIFY(root.mkpath(folder));
+        QFile file(root.filePath(folder + u"/auszug.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QFile folders(root.filePath(u"user-dirs.dirs"_s));
+    QVERIFY(folders.open(QIODevice::WriteOnly));
+    folders.write("XDG_DOWNLOAD_DIR=\"" + root.filePath(u"Downloads"_s).toUtf8() + "\"\nXDG_DOCUMENTS_DIR=\""
+                  + root.filePath(u"Dokumente"_s).toUtf8() + "\"\n");
+    folders.close();
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+
+    cFakeRegistry registry;
+    QStringList chosen;
+    const auto read = [&] { chosen = cQtUser(registry).ChooseFiles(u"Lesen"_s, u"Alle|*.*"_s, ePurpose::Statement); };
+    const auto write = [&](const QString& proposal) {
+        return
+            [&registry, proposal] { (void)cQtUser(registry).ChooseSavePath(u"Schreiben"_s, u"Alle|*.*"_s, proposal); };
+    };
+    QCOMPARE(ChosenIn({}, read), root.filePath(u"Downloads"_s));
+    QCOMPARE(ChosenIn(root.filePath(u"Bank"_s), read), root.filePath(u"Downloads"_s)); // giving up chooses nothing
+    QCOMPARE(chosen, QStringList(root.filePath(u"Bank/auszug.sta"_s)));
+    QCOMPARE(ChosenIn({}, read), root.filePath(u"Bank"_s));
+    QCOMPARE(ChosenIn({}, write(u"liste.csv"_s)), root.filePath(u"Dokumente"_s)); // another purpose
+    QCOMPARE(ChosenIn({}, write(root.filePath(u"Downloads/neu.db"_s))), root.filePath(u"Downloads"_s));
+    QVERIFY(QDir(root.filePath(u"Bank"_s)).removeRecursively());
+    QCOMPARE(ChosenIn({}, read), root.filePath(u"Downloads"_s));
 }
 
 void testQtUser::KeysHaveGermanNames()

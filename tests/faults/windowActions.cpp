@@ -62,9 +62,13 @@ public:
         std::iota(all.begin(), all.end(), 0);
         return all;
     }
-    [[nodiscard]] QStringList ChooseFiles(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
+    [[nodiscard]] QStringList ChooseFiles(const QString& /*title*/, const QString& /*filter*/,
+                                          ePurpose /*purpose*/) override
+    {
+        return {};
+    }
     [[nodiscard]] QString ChooseSavePath(const QString& /*title*/, const QString& /*filter*/,
-                                         const QString& /*proposal*/) override
+                                         const QString& /*proposal*/, ePurpose /*purpose*/ = ePurpose::Export) override
     {
         return QDir::current().filePath(backupName);
     }

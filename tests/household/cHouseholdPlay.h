@@ -19,8 +19,12 @@ public:
     std::optional<QString> Choose(const cChoice& choice) override;
     int Decide(const cDecision& decision) override;
     std::optional<QList<int>> Tick(const cChecklist& list) override;
-    QStringList ChooseFiles(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
-    QString ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/) override
+    QStringList ChooseFiles(const QString& /*title*/, const QString& /*filter*/, ePurpose /*purpose*/) override
+    {
+        return {};
+    }
+    QString ChooseSavePath(const QString& /*title*/, const QString& /*filter*/, const QString& /*proposal*/,
+                           ePurpose /*purpose*/ = ePurpose::Export) override
     {
         return {};
     }

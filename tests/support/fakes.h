@@ -49,7 +49,8 @@ public:
         return Ticks.empty() ? std::nullopt : Take(Ticks);
     }
 
-    QString ChooseSavePath(const QString& /*title*/, const QString& filter, const QString& proposal) override
+    QString ChooseSavePath(const QString& /*title*/, const QString& filter, const QString& proposal,
+                           ePurpose /*purpose*/ = ePurpose::Export) override
     {
         Asked.append(filter);
         LastProposal = proposal;
@@ -58,7 +59,7 @@ public:
 
     QString ChooseFolder(const QString& /*title*/, const QString& /*current*/) override { return Folder; }
 
-    QStringList ChooseFiles(const QString& /*title*/, const QString& filter) override
+    QStringList ChooseFiles(const QString& /*title*/, const QString& filter, ePurpose /*purpose*/) override
     {
         Asked.append(filter);
         return Files;
@@ -129,6 +130,7 @@ class cFakeShell final : public cShell
 {
 public:
     QString DataFolder() override { return Folder(QStringLiteral("data")); }
+    QString StateFolder() override { return Folder(QStringLiteral("state")); }
     [[nodiscard]] QString InstalledFile(const QString& name) const override
     {
         return Folder(QStringLiteral("program")) + u'/' + name;

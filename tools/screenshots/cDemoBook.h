@@ -34,7 +34,7 @@ public:
     QTemporaryDir Folder;
     cQtShell Shell{Folder.path()};
     cQtRegistry Registry{Folder.path()};
-    cQtUser User;
+    cQtUser User{Registry};
     cFixedClock Clock;
     cBook Book{User};
     cConfiguration Configuration{Registry};

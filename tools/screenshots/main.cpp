@@ -54,6 +54,7 @@
 #include "windows/statistics/frmStatistik.h"
 #include "windows/template/frmKategorie.h"
 #include "windows/widget/cStyle.h"
+#include "windows/widget/modPalette.h"
 
 #include <QApplication>
 #include <QDir>
@@ -73,21 +74,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QPalette DarkPalette()
-{
-    QPalette palette(QColor(45, 47, 51));
-    palette.setColor(QPalette::Base, QColor(30, 32, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(38, 40, 44));
-    palette.setColor(QPalette::Highlight, QColor(45, 110, 160));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(110, 180, 240));
-    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
-        palette.setColor(role, QColor(230, 232, 235));
-        palette.setColor(QPalette::Disabled, role, QColor(130, 133, 138));
-    }
-    return palette;
-}
 
 // One program on a book of its own in a temporary profile.
 class cStage
@@ -115,7 +101,7 @@ private:
     QTemporaryDir m_folder;
     cQtShell m_shell{m_folder.path()};
     cQtRegistry m_registry{m_folder.path()};
-    cQtUser m_user;
+    cQtUser m_user{m_registry};
     cQtRescue m_rescue;
     cFixedClock m_clock;
     cMainProgram m_program{{m_shell, m_registry, m_user, m_rescue, m_clock}, QStringLiteral(APP_VERSION)};
@@ -512,7 +498,7 @@ int main(int argc, char* argv[])
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::setStyle(new cStyle(u"Fusion"_s));
     if (arguments.at(2) == u"dark") {
-        QApplication::setPalette(DarkPalette());
+        QApplication::setPalette(modPalette::Dark());
     }
     if (const int points = arguments.value(3).toInt(); points > 0) {
         QFont font = QApplication::font();

@@ -32,8 +32,8 @@ QString cBankLogView::Note() const
 void cBankLogView::Save() const
 {
     const QString proposal = cText::Tr("Bankprotokoll {0}.txt", {m_parts.Clock.Today().toString(u"yyyy-MM-dd"_s)});
-    const QString path = m_parts.User.ChooseSavePath(cText::Tr("Protokoll speichern"),
-                                                     cText::Tr("Text|*.txt|Alle Dateien|*.*"), proposal);
+    const QString path = m_parts.User.ChooseSavePath(
+        cText::Tr("Protokoll speichern"), cText::Tr("Text|*.txt|Alle Dateien|*.*"), proposal, ePurpose::Protocol);
     if (!path.isEmpty()) {
         (void)Write(path);
     }

@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "base/cUser.h"
 #include "base/modDate.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
@@ -133,6 +134,36 @@ std::optional<cEntryEditor::cFields> cEntryEditor::LoadFrom(int id, QDate day)
     const QDate start = modSeries::CorrectionFor(*occurrence).EntryStartDate;
     fields->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate < start; });
     return fields;
+}
+
+cEntryDraft cEntryEditor::Draft(const cFields& fields) const
+{
+    return {.Kept = {}, .EntryId = m_ids.value(0), .From = m_from, .Fields = fields};
+}
+
+cEntryEditor::cFields cEntryEditor::Resume(cEntryDraft& draft)
+{
+    cFields& typed = draft.Fields;
+    const bool isKnown = draft.EntryId != 0;
+    const std::optional<cFields> stored =
+        isKnown ? (draft.From.isValid() ? LoadFrom(draft.EntryId, draft.From) : Load(draft.EntryId)) : std::nullopt;
+    typed.Decimal = Decimal();
+    for (cSplitPart& part : typed.Parts) {
+        part.ID = m_ids.contains(part.ID) && stored ? part.ID : 0; // the others are no rows of this entry any more
+    }
+    if (stored) {
+        return *stored;
+    }
+    typed.Corrections.clear();
+    if (typed.Face == eEntryFace::StartBalance) {
+        return StartBalance(typed.Account);
+    }
+    if (isKnown) {
+        m_tools.User.Show(eTone::Information,
+                          cText::Tr("Den Eintrag, der geändert werden sollte, gibt es nicht mehr. Was Sie eingegeben "
+                                    "hatten, wird als neuer Eintrag angeboten."));
+    }
+    return Start(typed.Account);
 }
 
 QString cEntryEditor::Title(const cFields& fields) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "views/entry/cEntryDraft.h"
 #include "views/entry/cEntryFields.h"
 #include "views/entry/cEntrySuggestions.h"
 
@@ -52,6 +53,12 @@ public:
     // The fields of a series for changing it from the occurrence on this day. Saving ends the old series the day before
     // and adds a new one. For the first occurrence and for one-off entries the same as Load.
     [[nodiscard]] std::optional<cFields> LoadFrom(int id, QDate day);
+
+    // What is typed, with what it belongs to; without the time.
+    [[nodiscard]] cEntryDraft Draft(const cFields& fields) const;
+    // Opens the entry that a draft belongs to and gives its fields as they are stored; what was typed goes over them.
+    // Where the entry is gone, the user is told, and the draft becomes one of a new entry.
+    [[nodiscard]] cFields Resume(cEntryDraft& draft);
 
     // The day from which typed distances such as "+7" count.
     [[nodiscard]] QDate Today() const;

@@ -118,7 +118,7 @@ bool cEntryEditor::MayClose(const cFields& shown, const cFields& now) const
     }
     return m_tools.User.Ask({.Text = cText::Tr("Die Eingaben sind noch nicht gespeichert.\nSoll das Fenster trotzdem "
                                                "geschlossen werden?"),
-                             .Title = {},
+                             .Title = cText::Tr("Nicht gespeichert"),
                              .Default = eAnswer::No})
         == eAnswer::Yes;
 }

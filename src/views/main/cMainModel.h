@@ -7,6 +7,8 @@
 #include "views/main/cLimitWatch.h"
 #include "views/main/cViewDetour.h"
 #include "views/main/cViewState.h"
+#include "views/main/modAppearance.h"
+#include "views/main/modCommand.h"
 
 #include <QObject>
 #include <QString>
@@ -86,6 +88,7 @@ public:
     bool Execute(int command);
     [[nodiscard]] bool IsEnabled(int command) const;
     [[nodiscard]] bool IsChecked(const cSettingKey& key) const;
+    [[nodiscard]] bool IsChecked(const modCommand::cCommand& command) const; // false for what has no check
     // The caption with its mnemonic; Undo and Redo name the step that they work on.
     [[nodiscard]] QString MenuText(int command) const;
 
@@ -142,10 +145,12 @@ Q_SIGNALS:
     void BookRefreshed();  // the book itself may have changed, not only the view
     void LayoutReset();    // column layouts and window size were set back
     void SelectionChanged();
+    void AppearanceChanged();
     void StagedRowsReleased(); // bank transactions may wait again, or be gone
 
 private:
     [[nodiscard]] QString SumText(qint64 cents) const;
+    void ChooseAppearance(eAppearance appearance);
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     void LoadEntries();
     void ShowFilter();

@@ -6,6 +6,7 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
+#include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,6 +39,9 @@ bool cMainModel::Execute(int command)
     case modCommand::ViewFuture:
     case modCommand::ViewStart:
     case modCommand::ViewAccountValues: ToggleView(*known->Setting); break;
+    case modCommand::AppearanceSystem:
+    case modCommand::AppearanceLight:
+    case modCommand::AppearanceDark: ChooseAppearance(*modAppearance::OfCommand(known->Id)); break;
     case modCommand::ImportStatement:
     case modCommand::Export:
     case modCommand::Print:
@@ -76,6 +80,22 @@ bool cMainModel::IsEnabled(int command) const
         return m_selection.size() == 1 && m_isSeriesSelected;
     }
     return !modCommand::Has(*known, modCommand::NeedsEntry) || !m_selection.isEmpty();
+}
+
+bool cMainModel::IsChecked(const modCommand::cCommand& command) const
+{
+    const std::optional<eAppearance> appearance = modAppearance::OfCommand(command.Id);
+    return appearance ? *appearance == modAppearance::Chosen(m_parts.Configuration)
+                      : command.Setting != nullptr && IsChecked(*command.Setting);
+}
+
+void cMainModel::ChooseAppearance(eAppearance appearance)
+{
+    if (!modAppearance::Choose(appearance, m_parts.Configuration)) {
+        m_tools.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
+    }
+    Q_EMIT AppearanceChanged();
+    Q_EMIT ViewChanged(); // the check marks
 }
 
 QString cMainModel::StepName(int command) const

@@ -12,7 +12,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 37> commands{{
+constexpr std::array<cCommand, 40> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "",
@@ -73,6 +73,15 @@ constexpr std::array<cCommand, 37> commands{{
      "spalten", nullptr, StartsGroup, QT_TRANSLATE_NOOP("cText", "Wählt, welche Spalten die Liste zeigt.")},
     {ResetView, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "Einstellungen zu&rücksetzen"), "",
      "", nullptr, Plain, QT_TRANSLATE_NOOP("cText", "Stellt Ansicht, Spalten und Fenstergröße auf den Anfang zurück.")},
+    {AppearanceSystem, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&System"), "", "", nullptr,
+     OneOf | StartsGroup, QT_TRANSLATE_NOOP("cText", "Hell oder dunkel, wie der Desktop es vorgibt."),
+     QT_TRANSLATE_NOOP("cText", "Erscheinungs&bild")},
+    {AppearanceLight, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Hell"), "", "", nullptr,
+     OneOf, QT_TRANSLATE_NOOP("cText", "Dunkle Schrift auf hellem Grund."),
+     QT_TRANSLATE_NOOP("cText", "Erscheinungs&bild")},
+    {AppearanceDark, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Dunkel"), "", "", nullptr,
+     OneOf, QT_TRANSLATE_NOOP("cText", "Helle Schrift auf dunklem Grund."),
+     QT_TRANSLATE_NOOP("cText", "Erscheinungs&bild")},
     {EditTemplates, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Kategorie/Konto bearbeiten"), "",
      "", nullptr, Plain, QT_TRANSLATE_NOOP("cText", "Verwaltet Kategorien und Konten.")},
     {Rules, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Regeln"), "", "", nullptr, Writes,

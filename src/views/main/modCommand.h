@@ -49,15 +49,19 @@ enum eId : int {
     ViewFuture = 403,
     ViewStart = 404,
     ViewAccountValues = 405,
+    AppearanceSystem = 511,
+    AppearanceLight = 512,
+    AppearanceDark = 513,
 };
 
 enum eTrait : int {
     Plain = 0,
     InToolBar = 1,
-    StartsGroup = 2,     // a line above it in the menu
-    Writes = 4,          // not offered on a book that can only be read
-    NeedsEntry = 8,      // works on the selected entries
-    NeedsOccurrence = 16 // works on one selected occurrence of a series
+    StartsGroup = 2,      // a line above it in the menu
+    Writes = 4,           // not offered on a book that can only be read
+    NeedsEntry = 8,       // works on the selected entries
+    NeedsOccurrence = 16, // works on one selected occurrence of a series
+    OneOf = 32            // of all in its submenu, one is checked
 };
 
 struct cCommand
@@ -67,9 +71,10 @@ struct cCommand
     const char* Caption; // German, with "&" before the letter that opens it from the keyboard
     const char* Keys;    // portable key sequences joined by "|"
     const char* Icon;    // name of the picture; empty for none
-    const cSettingKey* Setting; // of the view switch that a check command turns; null for plain commands
-    int Traits;                 // of eTrait
-    const char* Hint;           // one sentence for status bar and tool tip
+    const cSettingKey* Setting;    // of the view switch that a check command turns; null for plain commands
+    int Traits;                    // of eTrait
+    const char* Hint;              // one sentence for status bar and tool tip
+    const char* Submenu = nullptr; // German title of the menu within the menu; null for none
 };
 
 [[nodiscard]] constexpr bool Has(const cCommand& command, eTrait trait)

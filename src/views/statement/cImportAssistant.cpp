@@ -356,9 +356,9 @@ void cImportAssistant::SaveLayout()
 {
     const cTableLayout& layout = m_works->Opened.Layout;
     const QString name = layout.Profile.isEmpty() ? QFileInfo(m_works->Source.Name).completeBaseName() : layout.Profile;
-    const QString path = m_parts.User.ChooseSavePath(cText::Tr("Aufbau speichern"),
-                                                     cText::Tr("Aufbau einer Tabelle|*.txt|Alle Dateien|*.*"),
-                                                     cText::Tr("Aufbau {0}.txt", {QString(name).replace(u'/', u'-')}));
+    const QString path = m_parts.User.ChooseSavePath(
+        cText::Tr("Aufbau speichern"), cText::Tr("Aufbau einer Tabelle|*.txt|Alle Dateien|*.*"),
+        cText::Tr("Aufbau {0}.txt", {QString(name).replace(u'/', u'-')}), ePurpose::Layout);
     if (path.isEmpty()) {
         return;
     }
@@ -370,9 +370,10 @@ void cImportAssistant::SaveLayout()
 
 void cImportAssistant::LoadLayout()
 {
-    const QString path =
-        m_parts.User.ChooseFiles(cText::Tr("Aufbau laden"), cText::Tr("Aufbau einer Tabelle|*.txt|Alle Dateien|*.*"))
-            .value(0);
+    const QString path = m_parts.User
+                             .ChooseFiles(cText::Tr("Aufbau laden"),
+                                          cText::Tr("Aufbau einer Tabelle|*.txt|Alle Dateien|*.*"), ePurpose::Layout)
+                             .value(0);
     if (path.isEmpty()) {
         return;
     }

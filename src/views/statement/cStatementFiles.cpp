@@ -62,7 +62,8 @@ void cStatementFiles::ChooseFiles(cProgress& progress, eAssist assist)
         cText::Tr(
             "Alle Kontoauszüge|*.csv;*.txt;*.sta;*.mta;*.mt940;*.mt942;*.mt9;*.940;*.942;*.swi;*.xml;*.camt;*.zip;"
             "*.xls;*.xlsx;*.ofx;*.qfx;*.qif|CSV/XLS/MT940/MT942/OFX/QIF-Datei|*.csv;*.txt;*.mt940;*.mt942;*.xls;"
-            "*.mt9;*.ofx;*.qif|Alle Dateien|*.*"));
+            "*.mt9;*.ofx;*.qif|Alle Dateien|*.*"),
+        ePurpose::Statement);
     if (!paths.isEmpty()) {
         ImportFiles(paths, progress, assist);
     }

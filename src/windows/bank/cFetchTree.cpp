@@ -7,6 +7,7 @@
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modTone.h"
 
+#include <QEvent>
 #include <QHeaderView>
 
 namespace {
@@ -92,6 +93,24 @@ qsizetype cFetchTree::Current() const
     return m_items.indexOf(currentItem());
 }
 
+void cFetchTree::Colour(qsizetype account)
+{
+    const bool hasFailed =
+        account < m_fetch.Lines().size() && m_fetch.Lines().at(account).State == cBankFetch::eState::Failed;
+    m_items.at(account)->setForeground(State,
+                                       hasFailed ? modTone::Expense(palette()) : palette().color(QPalette::Text));
+}
+
+void cFetchTree::changeEvent(QEvent* event)
+{
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        for (qsizetype account = 0; account < m_items.size(); ++account) {
+            Colour(account);
+        }
+    }
+}
+
 void cFetchTree::ShowLine(qsizetype account)
 {
     QTreeWidgetItem& item = *m_items.at(account);
@@ -101,9 +120,7 @@ void cFetchTree::ShowLine(qsizetype account)
     item.setText(State, state);
     item.setToolTip(State, state);
     item.setText(Balance, line == nullptr ? QString() : line->BalanceText);
-    item.setForeground(State,
-                       line != nullptr && line->State == cBankFetch::eState::Failed ? modTone::Expense(palette())
-                                                                                    : palette().color(QPalette::Text));
+    Colour(account);
     if (line != nullptr && line->State == cBankFetch::eState::Asked) {
         scrollToItem(&item);
     }

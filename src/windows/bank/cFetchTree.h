@@ -25,11 +25,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     enum eColumn { Account, Book, State, Balance, ColumnCount };
 
     void Fill();
+    void Colour(qsizetype account);
     [[nodiscard]] QTreeWidgetItem* AddBank(const QString& name);
 
     cBankFetch& m_fetch;

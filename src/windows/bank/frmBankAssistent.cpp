@@ -34,9 +34,7 @@ frmBankAssistent::frmBankAssistent(cBankSetup& setup, QDate today, QWidget* pare
     for (cBankPage* page : std::as_const(m_order)) {
         m_pages->addWidget(new cFormScroll(page, this));
     }
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, modTone::Expense(colors));
-    m_problem->setPalette(colors);
+    modTone::Use(*m_problem, modTone::Expense);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_pages, 1);
     for (QLabel* text : {m_step, m_problem, m_words, m_address}) {

@@ -141,9 +141,7 @@ void cEntryForm::BuildSeries()
     EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
     m_preview->setObjectName(u"lblVorschau"_s);
     for (QLabel* label : {m_preview, m_vat}) {
-        QPalette colors = label->palette();
-        colors.setColor(QPalette::WindowText, modTone::Quiet(colors));
-        label->setPalette(colors);
+        modTone::Use(*label, modTone::Quiet);
     }
 }
 

@@ -174,3 +174,17 @@ void frmBuchung::reject()
         QDialog::reject();
     }
 }
+
+void frmBuchung::ShowTyped(const cEntryFields& fields)
+{
+    m_form->Show(fields);
+    ShowFace();
+    m_form->FocusFirst();
+}
+
+std::optional<cEntryFields> frmBuchung::Unsaved()
+{
+    m_form->Settle();
+    const cEntryFields fields = m_form->Read();
+    return fields == m_shown ? std::nullopt : std::optional(fields);
+}

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <optional>
+
 class cCorrectionsPage;
 class cEntryForm;
 class QCheckBox;
@@ -22,6 +24,12 @@ public:
 
     // Asks before typed contents are lost.
     void reject() override;
+
+    // Puts what was typed into a window of this entry before; it counts as not saved.
+    void ShowTyped(const cEntryFields& fields);
+
+    // What is typed and not saved; empty when there is nothing of that. Asks nothing.
+    [[nodiscard]] std::optional<cEntryFields> Unsaved();
 
 Q_SIGNALS:
     void EntrySaved();

@@ -7,18 +7,6 @@
 
 #include <QLabel>
 
-namespace {
-
-void Show(QLabel& label, const QString& text, const QColor& color)
-{
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, color);
-    label.setPalette(palette);
-    label.setText(text);
-}
-
-} // namespace
-
 cSumBar::cSumBar(QWidget* parent) : QWidget(parent), m_count(new QLabel(this))
 {
     m_layout = new cFlowLayout(this);
@@ -30,6 +18,8 @@ cSumBar::cSumBar(QWidget* parent) : QWidget(parent), m_count(new QLabel(this))
     m_income = AddSum(cText::Tr("Einnahmen:"));
     m_expense = AddSum(cText::Tr("Ausgaben:"));
     m_total = AddSum(cText::Tr("Summe:"));
+    modTone::Use(*m_income.Value, modTone::Income);
+    modTone::Use(*m_expense.Value, modTone::Expense);
 }
 
 cSumBar::cSum cSumBar::AddSum(const QString& title)
@@ -48,14 +38,13 @@ cSumBar::cSum cSumBar::AddSum(const QString& title)
 
 void cSumBar::ShowSums(const cTexts& texts)
 {
-    const QColor text = palette().color(QPalette::WindowText);
     m_count->setText(texts.Count);
     m_start.Name->setVisible(!texts.Start.isEmpty());
     m_start.Value->setVisible(!texts.Start.isEmpty());
-    Show(*m_start.Value, texts.Start, text);
-    Show(*m_income.Value, texts.Income, modTone::Income(palette()));
-    Show(*m_expense.Value, texts.Expense, modTone::Expense(palette()));
-    Show(*m_total.Value, texts.Total, text);
+    m_start.Value->setText(texts.Start);
+    m_income.Value->setText(texts.Income);
+    m_expense.Value->setText(texts.Expense);
+    m_total.Value->setText(texts.Total);
 }
 
 void cSumBar::ShowSums(const cMainModel& model)

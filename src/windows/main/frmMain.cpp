@@ -14,6 +14,7 @@
 #include "windows/widget/modPlace.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QDropEvent>
@@ -67,14 +68,8 @@ void frmMain::BuildCommands()
     toolBar->setMovable(false);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (const modCommand::cCommand& command : modCommand::All()) {
-        const QString title = cText::Tr(command.Menu);
-        if (!menus.contains(title)) {
-            menus.insert(title, menuBar()->addMenu(title.contains(u'&') ? title : QString(u'&' + title)));
-        }
-        if (modCommand::Has(command, modCommand::StartsGroup)) {
-            menus.value(title)->addSeparator();
-        }
-        QAction* action = menus.value(title)->addAction(m_model.MenuText(command.Id));
+        QMenu& menu = MenuOf(command, menus);
+        QAction* action = menu.addAction(m_model.MenuText(command.Id));
         QList<QKeySequence> keys;
         const QStringList keyTexts = modCommand::Keys(command);
         for (const QString& key : keyTexts) {
@@ -84,7 +79,10 @@ void frmMain::BuildCommands()
         action->setIconText(modCommand::PlainText(command));
         action->setIcon(modIcon::Get(QString::fromUtf8(command.Icon)));
         action->setStatusTip(cText::Tr(command.Hint));
-        action->setCheckable(command.Setting != nullptr);
+        action->setCheckable(command.Setting != nullptr || modCommand::Has(command, modCommand::OneOf));
+        if (modCommand::Has(command, modCommand::OneOf)) {
+            action->setActionGroup(menu.findChild<QActionGroup*>());
+        }
         action->setData(command.Id);
         connect(action, &QAction::triggered, this, [this, id = command.Id] { m_model.Execute(id); });
         m_actions.insert(command.Id, action);
@@ -95,6 +93,28 @@ void frmMain::BuildCommands()
             m_tree->addAction(action);
         }
     }
+}
+
+// The menu or submenu of a command, made when it is the first one there, with the line above it.
+QMenu& frmMain::MenuOf(const modCommand::cCommand& command, QHash<QString, QMenu*>& menus)
+{
+    const QString title = cText::Tr(command.Menu);
+    QMenu*& menu = menus[title];
+    if (menu == nullptr) {
+        menu = menuBar()->addMenu(title.contains(u'&') ? title : QString(u'&' + title));
+    }
+    if (modCommand::Has(command, modCommand::StartsGroup)) {
+        menu->addSeparator();
+    }
+    if (command.Submenu == nullptr) {
+        return *menu;
+    }
+    QMenu*& submenu = menus[title % u'|' % cText::Tr(command.Submenu)];
+    if (submenu == nullptr) {
+        submenu = menus.value(title)->addMenu(cText::Tr(command.Submenu));
+        new QActionGroup(submenu);
+    }
+    return *submenu;
 }
 
 void frmMain::BuildPages()
@@ -192,8 +212,8 @@ void frmMain::ShowView()
     m_viewBar->ShowView();
     m_accounts->SetTitle(m_model.BalancesTitle());
     for (const modCommand::cCommand& command : modCommand::All()) {
-        if (command.Setting != nullptr) {
-            m_actions.value(command.Id)->setChecked(m_model.IsChecked(*command.Setting));
+        if (QAction* action = m_actions.value(command.Id); action->isCheckable()) {
+            action->setChecked(m_model.IsChecked(command));
         }
     }
     const QString hint = m_model.Hint();
@@ -328,14 +348,6 @@ void frmMain::closeEvent(QCloseEvent* event)
     SaveLayout();
     Q_EMIT Closing();
     QMainWindow::closeEvent(event);
-}
-
-void frmMain::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::PaletteChange) {
-        m_sums->ShowSums(m_model);
-    }
-    QMainWindow::changeEvent(event);
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event)

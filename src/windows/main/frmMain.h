@@ -6,6 +6,9 @@
 #include <QMainWindow>
 #include <QStringList>
 
+namespace modCommand {
+struct cCommand;
+}
 class cAccountPanel;
 class cBackBar;
 class cEntryTree;
@@ -14,6 +17,7 @@ class cSumBar;
 class cViewBar;
 class QAction;
 class QLabel;
+class QMenu;
 class QSplitter;
 class QTabWidget;
 
@@ -55,12 +59,12 @@ Q_SIGNALS:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
     void BuildCommands();
+    QMenu& MenuOf(const modCommand::cCommand& command, QHash<QString, QMenu*>& menus);
     void BuildPages();
     QWidget* BuildEntryPage();
     void Connect();

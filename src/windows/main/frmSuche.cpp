@@ -57,6 +57,7 @@ void frmSuche::Build()
     layout->addWidget(m_sums);
     layout->addLayout(BuildButtons());
     m_hint->setWordWrap(true);
+    modTone::Use(*m_hint, modTone::Quiet);
     m_tree->setAccessibleName(cText::Tr("Gefundene Einträge"));
     const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
@@ -110,9 +111,6 @@ void frmSuche::Search()
 void frmSuche::ShowFound()
 {
     const QString hint = m_model.Hint();
-    QPalette quiet = palette();
-    quiet.setColor(QPalette::WindowText, modTone::Quiet(quiet));
-    m_hint->setPalette(quiet);
     m_hint->setText(hint);
     m_hint->setVisible(!hint.isEmpty());
     m_tree->SetEmptyText(m_model.EmptyTitle(), m_model.EmptyHint());
@@ -192,12 +190,4 @@ void frmSuche::hideEvent(QHideEvent* event)
         m_model.SaveLayout(m_tree->LayoutText());
         m_model.Close();
     }
-}
-
-void frmSuche::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::PaletteChange) {
-        ShowFound(); // sums are coloured by the palette
-    }
-    QDialog::changeEvent(event);
 }

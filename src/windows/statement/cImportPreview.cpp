@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
@@ -96,6 +97,23 @@ void cImportPreview::Refresh()
         ShowCells();
     }
     ShowRead();
+}
+
+// What is left out is in a colour of its own, which goes with the others.
+void cImportPreview::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) {
+        return;
+    }
+    for (const QTableWidget* table : {m_cells, m_read}) {
+        for (int cell = 0; cell < table->rowCount() * table->columnCount(); ++cell) {
+            QTableWidgetItem* item = table->item(cell / table->columnCount(), cell % table->columnCount());
+            if (item != nullptr && item->foreground().style() != Qt::NoBrush) {
+                item->setForeground(modTone::Quiet(palette()));
+            }
+        }
+    }
 }
 
 void cImportPreview::ShowCells()

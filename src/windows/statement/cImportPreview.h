@@ -20,6 +20,9 @@ public:
 
     void Refresh();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void Build();
     void ShowCells();

@@ -280,11 +280,7 @@ void frmImportAssistent::ShowFields()
 void frmImportAssistent::ShowOutcome()
 {
     const QString problem = m_assistant.Problem();
-    QPalette colors = palette();
-    if (!problem.isEmpty()) {
-        colors.setColor(QPalette::WindowText, modTone::Expense(colors));
-    }
-    m_outcome->setPalette(colors);
+    modTone::Use(*m_outcome, problem.isEmpty() ? nullptr : modTone::Expense);
     m_outcome->setText(problem.isEmpty() ? m_assistant.CountText() : problem);
     m_import->setEnabled(problem.isEmpty());
     const QStringList lines = m_assistant.LeftOut();

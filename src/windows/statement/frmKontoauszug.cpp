@@ -203,12 +203,10 @@ void frmKontoauszug::ShowFinding()
 {
     using eFinding = cStatementListModel::eFinding;
     const eFinding finding = m_statement.Finding();
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window,
-                    finding == eFinding::Bad
-                        ? modTone::Expense(palette())
-                        : (finding == eFinding::Good ? modTone::Income(palette()) : modTone::Quiet(palette())));
-    m_mark->setPalette(colors);
+    modTone::Use(*m_mark,
+                 finding == eFinding::Bad ? modTone::Expense
+                                          : (finding == eFinding::Good ? modTone::Income : modTone::Quiet),
+                 QPalette::Window);
     m_finding->ShowLines(m_statement.Findings());
     m_mark->setVisible(m_finding->isVisibleTo(this));
 }

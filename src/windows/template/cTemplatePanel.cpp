@@ -92,11 +92,9 @@ void cTemplatePanel::Build()
     for (QLabel* label : {m_hint, m_numbersHint}) {
         label->setWordWrap(true);
         label->setTextFormat(Qt::PlainText);
-        QPalette quiet = label->palette();
-        quiet.setColor(QPalette::WindowText, modTone::Quiet(quiet));
-        label->setPalette(quiet);
+        modTone::Use(*label, modTone::Quiet);
     }
-    m_limitHint->setPalette(m_hint->palette());
+    modTone::Use(*m_limitHint, modTone::Quiet);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_title);
     layout->addWidget(m_hint);

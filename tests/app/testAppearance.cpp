@@ -1,0 +1,150 @@
+#include "app/cAppearance.h"
+#include "model/modSettingKey.h"
+#include "support/fakes.h"
+#include "windows/widget/modPalette.h"
+#include "windows/widget/modTone.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QLabel>
+#include <QProcess>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// What stands for the desktop on the bus.
+class cFakePortal final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    uint Scheme = 1;
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString& space, const QString& key)
+    {
+        const bool isKnown = space == u"org.freedesktop.appearance"_s && key == u"color-scheme"_s;
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(isKnown ? Scheme : 0U)));
+    }
+
+Q_SIGNALS:
+    void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
+};
+
+// A session bus of its own.
+class cBus
+{
+public:
+    cBus()
+    {
+        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+        if (m_daemon.waitForReadyRead()) {
+            Address = QString::fromUtf8(m_daemon.readLine()).trimmed();
+        }
+    }
+    cBus(const cBus&) = delete;
+    cBus& operator=(const cBus&) = delete;
+    ~cBus()
+    {
+        m_daemon.terminate();
+        m_daemon.waitForFinished();
+    }
+
+    QString Address;
+
+private:
+    QProcess m_daemon;
+};
+
+bool IsDark()
+{
+    return modTone::IsDark(QApplication::palette());
+}
+
+void Choose(cFakeRegistry& registry, const QString& word)
+{
+    cConfiguration(registry).SaveSetting(modSettingKey::Appearance, word, eSettingPlace::Registry);
+}
+
+} // namespace
+
+class testAppearance final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() const { QApplication::setPalette(QPalette()); }
+    void OpenWindowsFollow() const;
+    void DesktopIsFollowed() const;
+};
+
+void testAppearance::OpenWindowsFollow() const
+{
+    const QPalette platform = QApplication::palette();
+    QVERIFY(!IsDark());
+    QWidget window;
+    QLabel plain(&window);
+    QLabel toned(&window);
+    modTone::Use(toned, modTone::Expense);
+    window.show();
+    const QColor light = toned.palette().color(QPalette::WindowText);
+
+    cFakeRegistry registry;
+    Choose(registry, u"Dunkel"_s);
+    cAppearance appearance(registry);
+    QVERIFY(IsDark());
+    QTRY_VERIFY(modTone::IsDark(plain.palette()));
+    QCOMPARE(plain.palette().color(QPalette::WindowText), modPalette::Dark().color(QPalette::WindowText));
+    QCOMPARE(toned.palette().color(QPalette::WindowText), modTone::Expense(modPalette::Dark()));
+
+    Choose(registry, u"Hell"_s);
+    appearance.Apply();
+    QVERIFY(QApplication::palette() == platform); // as light as is wanted, so its own
+    QTRY_COMPARE(toned.palette().color(QPalette::WindowText), light);
+    modTone::Use(toned, nullptr);
+    QCOMPARE(toned.palette().color(QPalette::WindowText), plain.palette().color(QPalette::WindowText));
+}
+
+void testAppearance::DesktopIsFollowed() const
+{
+    const cBus bus;
+    QVERIFY(!bus.Address.isEmpty());
+    QDBusConnection server = QDBusConnection::connectToBus(bus.Address, u"portal"_s);
+    QDBusConnection client = QDBusConnection::connectToBus(bus.Address, u"program"_s);
+    QVERIFY(server.isConnected() && client.isConnected());
+    cFakePortal portal;
+    QVERIFY(server.registerObject(u"/org/freedesktop/portal/desktop"_s, &portal,
+                                  QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
+    QVERIFY(server.registerService(u"org.freedesktop.portal.Desktop"_s));
+    const auto say = [&](const QString& key, uint value) {
+        Q_EMIT portal.SettingChanged(u"org.freedesktop.appearance"_s, key, QDBusVariant(value));
+    };
+
+    cFakeRegistry registry;
+    cAppearance appearance(registry);
+    QVERIFY(!IsDark());
+    appearance.FollowDesktop(client);
+    QTRY_VERIFY(IsDark());
+    say(u"contrast"_s, 2); // is about something else
+    say(u"color-scheme"_s, 2);
+    QTRY_VERIFY(!IsDark());
+    say(u"color-scheme"_s, 1);
+    QTRY_VERIFY(IsDark());
+
+    Choose(registry, u"Hell"_s); // the user goes before the desktop
+    appearance.Apply();
+    QVERIFY(!IsDark());
+    Choose(registry, u"System"_s);
+    appearance.Apply();
+    QVERIFY(IsDark());
+    QDBusConnection::disconnectFromBus(u"portal"_s);
+    QDBusConnection::disconnectFromBus(u"program"_s);
+}
+
+QTEST_MAIN(testAppearance)
+#include "testAppearance.moc"

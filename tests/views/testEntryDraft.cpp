@@ -1,0 +1,149 @@
+#include "support/testBook.h"
+#include "views/entry/cEntryDrafts.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/entry/modEntryDraft.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Nothing as it is in an empty form.
+cEntryFields EveryField()
+{
+    cEntryFields fields;
+    fields.Face = eEntryFace::Split;
+    fields.Amount = u"12,50+3"_s;
+    fields.IsAmountTyped = fields.IsAccountChosen = fields.IsDayKept = fields.HasEnd = true;
+    fields.Description = u"„Wochenmarkt“ \\ {0}"_s;
+    fields.Category = u"Haushalt; Lebensmittel"_s;
+    fields.CategoryText = u"Neues"_s;
+    fields.Type = modWord::Ausgabe;
+    fields.BroughtType = modWord::Einnahme;
+    fields.OpenType = modWord::Umbuchung;
+    fields.Account = u"Girokonto"_s;
+    fields.Target = u"Sparkonto"_s;
+    fields.Date = QDate(2026, 3, 1);
+    fields.DateText = u"+7"_s;
+    fields.End = QDate(2027, 3, 1);
+    fields.EndText = u"1.3.27"_s;
+    fields.Interval = u"Monatlich"_s;
+    fields.BroughtInterval = u"Jährlich"_s;
+    fields.Parts = {{7, u"Haushalt; Drogerie"_s, u"Seife"_s, u"2,50"_s, {}}, {0, {}, u"Rest"_s, u"-1"_s, u"Pfand"_s}};
+    fields.Corrections = {
+        {3, 9, u"Betrag"_s, QDate(2026, 4, 1), QDate(2026, 4, 30), -123456789012, u"teurer"_s, QDate(2026, 4, 2)}};
+    return fields;
+}
+
+cEntryDraft DraftAt(int minute)
+{
+    return {.Kept = QDateTime(QDate(2026, 3, 15), QTime(12, minute, 1, 5)),
+            .EntryId = 0,
+            .From = {},
+            .Fields = EveryField()};
+}
+
+} // namespace
+
+class testEntryDraft final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ComesBackWhole() const;
+    void IsForItsUserAndBookOnly() const;
+    void UnreadableFileIsNone() const;
+    void GoneEntryBecomesANewOne() const;
+    void AsksWhatToDo_data() const;
+    void AsksWhatToDo() const;
+};
+
+void testEntryDraft::ComesBackWhole() const
+{
+    const cFakeShell shell;
+    cEntryDrafts drafts(shell.Folder(u"state"_s), u"/buch.db"_s);
+    cEntryDraft changed = DraftAt(1);
+    changed.EntryId = 9;
+    changed.From = QDate(2026, 4, 1);
+    QVERIFY(drafts.Keep(changed));
+    QVERIFY(drafts.Keep(DraftAt(2)));
+    const QList<cEntryDraft> kept = drafts.All();
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(kept[0].Kept, changed.Kept);
+    QCOMPARE(kept[0].EntryId, 9);
+    QCOMPARE(kept[0].From, QDate(2026, 4, 1));
+    QVERIFY(kept[0].Fields == EveryField());
+
+    QVERIFY(drafts.Remove(changed.Kept));
+    QCOMPARE(drafts.All().size(), 1);
+    QVERIFY(drafts.Remove(DraftAt(2).Kept));
+    QCOMPARE(QDir(shell.Folder(u"state"_s)).entryList(QDir::Files), QStringList());
+}
+
+void testEntryDraft::IsForItsUserAndBookOnly() const
+{
+    cTestBook book;
+    cTestBook other;
+    QVERIFY(cEntryDrafts(book.Shell.StateFolder(), book.Path()).Keep(DraftAt(1)));
+    QCOMPARE(cEntryDrafts(book.Shell.StateFolder(), other.Path()).All().size(), 0);
+    const QFileInfoList files = QDir(book.Shell.StateFolder()).entryInfoList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    const QFileDevice::Permissions others =
+        QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ReadOther | QFileDevice::WriteOther;
+    QVERIFY(!(files[0].permissions() & others));
+}
+
+void testEntryDraft::UnreadableFileIsNone() const
+{
+    cTestBook book;
+    cEntryDrafts drafts(book.Shell.StateFolder(), book.Path());
+    QVERIFY(drafts.Keep(DraftAt(1)));
+    QFile file(QDir(book.Shell.StateFolder()).entryInfoList(QDir::Files)[0].filePath());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[{\"Kept\": 5, \"Fields\": []}, 1, {");
+    file.close();
+    QCOMPARE(drafts.All().size(), 0);
+    QVERIFY(drafts.Keep(DraftAt(2)));
+    QCOMPARE(drafts.All().size(), 1);
+}
+
+void testEntryDraft::GoneEntryBecomesANewOne() const
+{
+    cTestBook book;
+    cEntryDraft draft = DraftAt(1);
+    draft.EntryId = 4711;
+    cEntryEditor editor(book.Tools);
+    QVERIFY(editor.Resume(draft) == editor.Start(u"Girokonto"_s));
+    QVERIFY(editor.IsNew());
+    QVERIFY(book.User.Shown.value(0).contains(u"gibt es nicht mehr"_s));
+    // Of rows and periods that are gone nothing is left to be overwritten.
+    QCOMPARE(draft.Fields.Parts[0].ID, 0);
+    QVERIFY(draft.Fields.Corrections.isEmpty());
+}
+
+void testEntryDraft::AsksWhatToDo_data() const
+{
+    QTest::addColumn<int>("option");
+    QTest::addColumn<cEntryDrafts::eWish>("wish");
+    QTest::newRow("restore") << 0 << cEntryDrafts::eWish::Restore;
+    QTest::newRow("discard") << 1 << cEntryDrafts::eWish::Discard;
+    QTest::newRow("giving up keeps it") << -1 << cEntryDrafts::eWish::Later;
+}
+
+void testEntryDraft::AsksWhatToDo() const
+{
+    QFETCH(int, option);
+    QFETCH(cEntryDrafts::eWish, wish);
+    cFakeUser user;
+    user.Decisions = {option};
+    QCOMPARE(cEntryDrafts::Ask(DraftAt(5), user), wish);
+    QVERIFY(user.Asked[0].startsWith(u"Ein nicht gespeicherter Eintrag vom 15.03.2026, 12:05 Uhr wurde aufgehoben:\n"
+                                     "12,50+3 - Haushalt; Drogerie - Pfand\nWiederherstellen?"_s));
+    QCOMPARE(user.LastDecision.Default, 0); // Enter loses nothing
+}
+
+QTEST_GUILESS_MAIN(testEntryDraft)
+#include "testEntryDraft.moc"
