@@ -1,6 +1,7 @@
 #include "app/cNavigation.h"
 
 #include "app/cBankWindows.h"
+#include "app/cUpdateWindows.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
@@ -39,6 +40,7 @@
 #include "windows/entry/frmKorrektur.h"
 #include "windows/game/frmSpiel.h"
 #include "windows/help/frmUeber.h"
+#include "windows/main/cLanguageMenu.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/print/cListPrinter.h"
@@ -58,7 +60,8 @@ cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
-      m_printer(parts.Tools.User)
+      m_printer(parts.Tools.User),
+      m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format))
 {
 }
 
@@ -78,6 +81,9 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::StartAfresh);
     QObject::connect(&window, &frmMain::PageShown, &model, [this](frmMain::ePage page) { BuildPage(page); });
     QObject::connect(&window, &frmMain::FilesDropped, &review, [this](const QStringList& paths) { TakeFiles(paths); });
+    QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &model, &cMainModel::BookChanged);
+    QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &review, &cImportReview::Refresh);
+    window.AddToView(new cLanguageMenu(*m_national, &window));
 }
 
 void cNavigation::ReadStatements(const QStringList& paths)
@@ -366,10 +372,7 @@ void cNavigation::OpenBackupSettings()
 
 void cNavigation::OpenNationalSettings()
 {
-    cNationalSettings settings(m_parts.Tools, m_parts.Configuration, m_parts.Format);
-    QObject::connect(&settings, &cNationalSettings::CultureChanged, m_model, &cMainModel::BookChanged);
-    QObject::connect(&settings, &cNationalSettings::CultureChanged, m_review, &cImportReview::Refresh);
-    frmLaender form(settings, Parent());
+    frmLaender form(*m_national, Parent());
     form.exec();
 }
 
@@ -453,6 +456,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
     case modCommand::About: OpenAbout(); break;
+    case modCommand::CheckUpdates: m_parts.Updates.Open(Parent()); break;
     case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::CheckSeries: CheckSeries(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;

@@ -19,11 +19,13 @@ class cBookHost;
 class cConfiguration;
 class cImportReview;
 class cMainModel;
+class cNationalSettings;
 class cPasswordFlow;
 class cRescue;
 class cSearchModel;
 class cShell;
 class cStatisticsModel;
+class cUpdateWindows;
 class frmImport;
 class frmStatistik;
 class frmSuche;
@@ -43,6 +45,7 @@ public:
         cRescue& Rescue;
         cShell& Shell;
         cBookHost& Host;
+        cUpdateWindows& Updates;
     };
 
     explicit cNavigation(const cParts& parts);
@@ -58,6 +61,7 @@ public:
     void ReadStatements(const QStringList& paths);
     void TakeFiles(const QStringList& paths);     // that were dropped: a book is opened, the others are read
     [[nodiscard]] cStatisticsModel& Statistics(); // the same for the statistics; its page is built with it
+    [[nodiscard]] cNationalSettings& National() { return *m_national; }
 
     void OpenNewEntry() override;
     void OpenEntry(int entryId, QDate day) override;
@@ -98,6 +102,7 @@ private:
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;
     frmImport* m_statements = nullptr;
+    std::unique_ptr<cNationalSettings> m_national;
     std::unique_ptr<cStatisticsModel> m_statistics; // from the first look on
     frmStatistik* m_statisticsPage = nullptr;
     std::unique_ptr<cBankWindows> m_banks;       // from the first one on

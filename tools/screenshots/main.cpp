@@ -26,6 +26,7 @@
 #include "tools/screenshots/takeBank.h"
 #include "tools/screenshots/takeBankSetup.h"
 #include "tools/screenshots/takeReview.h"
+#include "tools/screenshots/takeUpdate.h"
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
@@ -521,7 +522,7 @@ int main(int argc, char* argv[])
     return TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeBank(camera) && TakeEmpty(camera)
             && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera) && TakeRules(camera)
             && TakeReview(camera) && TakeBankSetup(camera) && TakeSettings(camera) && TakeStatistics(camera)
-            && TakeCharts(camera) && TakePrinted(camera) && camera.IsGood()
+            && TakeCharts(camera) && TakePrinted(camera) && TakeUpdate(camera) && camera.IsGood()
         ? 0
         : 1;
 }

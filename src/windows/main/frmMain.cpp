@@ -94,6 +94,7 @@ void frmMain::BuildCommands()
             m_tree->addAction(action);
         }
     }
+    m_view = menus.value(cText::Tr(modCommand::Find(modCommand::ResetView)->Menu));
 }
 
 void frmMain::BuildPages()
@@ -264,6 +265,11 @@ void frmMain::ShowColumnMenu()
 {
     ShowPage(ePage::Entries);
     m_tree->ShowColumnMenu();
+}
+
+void frmMain::AddToView(QMenu* menu)
+{
+    m_view->addMenu(menu);
 }
 
 void frmMain::Raise()

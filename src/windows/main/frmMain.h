@@ -14,6 +14,7 @@ class cSumBar;
 class cViewBar;
 class QAction;
 class QLabel;
+class QMenu;
 class QSplitter;
 class QTabWidget;
 
@@ -44,7 +45,8 @@ public:
     void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
     void ShowPage(ePage page);                        // brings it to the front
     void ShowColumnMenu();
-    void Raise(); // in front of other windows, also out of the task bar
+    void AddToView(QMenu* menu); // at the end of the menu "Ansicht"
+    void Raise();                // in front of other windows, also out of the task bar
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
@@ -84,5 +86,6 @@ private:
     cEntryTree* m_tree;
     cSumBar* m_sums;
     QLabel* m_database;
+    QMenu* m_view = nullptr; // "Ansicht"
     bool m_isSplitByHand = false;
 };
