@@ -105,19 +105,21 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(QStringLiteral(ENGLISH), machine.Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
         const QString path = machine.File.Make(oneEntry);
         const cVariable system("LC_ALL", "en_GB.UTF-8");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
-        QCOMPARE(FirstMenu(program), u"File"_s);
-        QCOMPARE(program.Tools().Settings.Get(modSettingKey::LanguageName), QString());
+        {
+            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            QVERIFY(program.Start({.Book = path}));
+            QCOMPARE(FirstMenu(program), u"File"_s);
+            QCOMPARE(program.Tools().Settings.Get(modSettingKey::LanguageName), QString());
 
-        program.Model().ChooseGrouping(u"Nach Sparte"_s);
-        auto* german = program.Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
-        QCOMPARE(german->text(), u"Deutsch"_s);
-        german->trigger();
-        QTRY_COMPARE(FirstMenu(program), u"Datei"_s);
-        QVERIFY(program.Window().isVisible());
-        QCOMPARE(program.Model().View().Grouping, u"Nach Sparte"_s);
-        QVERIFY(program.Window().close());
+            program.Model().ChooseGrouping(u"Nach Sparte"_s);
+            auto* german = program.Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
+            QCOMPARE(german->text(), u"Deutsch"_s);
+            german->trigger();
+            QTRY_COMPARE(FirstMenu(program), u"Datei"_s);
+            QVERIFY(program.Window().isVisible());
+            QCOMPARE(program.Model().View().Grouping, u"Nach Sparte"_s);
+            QVERIFY(program.Window().close());
+        } // which holds the book
         cMainProgram next(machine.Ports, u"0.1.0"_s);
         QVERIFY(next.Start({.Book = path}));
         QCOMPARE(FirstMenu(next), u"Datei"_s);
