@@ -16,6 +16,7 @@ QString cKeyNames::translate(const char* context, const char* source, const char
 
 void cLanguage::Use(const QString& code, const cShell& shell)
 {
+    m_code = code;
     QCoreApplication::removeTranslator(&m_program);
     QCoreApplication::removeTranslator(&m_toolkit);
     QCoreApplication::removeTranslator(&m_keys);

@@ -22,7 +22,11 @@ public:
     // Changes to the language with this code ("de", "en"); an empty or unknown one is German.
     void Use(const QString& code, const cShell& shell);
 
+    // The code that was asked for last.
+    [[nodiscard]] const QString& Code() const { return m_code; }
+
 private:
+    QString m_code;
     QTranslator m_program;
     QTranslator m_toolkit;
     cKeyNames m_keys;

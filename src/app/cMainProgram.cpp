@@ -1,6 +1,7 @@
 #include "app/cMainProgram.h"
 
 #include "app/cNavigation.h"
+#include "app/modLocale.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
@@ -9,6 +10,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
+#include "views/book/cNationalSettings.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "views/statement/cImportReview.h"
@@ -33,6 +35,9 @@ constexpr auto walkPause = 20ms;
 constexpr int walkTime = 10; // milliseconds, too short to be felt
 constexpr auto damageRetry = 300ms;
 constexpr auto requestRetry = 300ms;
+constexpr auto updateDelay = 5s; // when the user has looked around
+constexpr auto updateRetry = 1min;
+constexpr auto updatePause = 24h; // of a program that stays open
 
 } // namespace
 
@@ -54,6 +59,11 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
 {
     tmrBackup.setSingleShot(true);
     tmrWalk.setSingleShot(true);
+    tmrLanguage.setSingleShot(true);
+    tmrUpdate.setSingleShot(true);
+    m_language.Use(modLocale::Messages(), ports.Shell); // until the book says otherwise
+    QObject::connect(&tmrLanguage, &QTimer::timeout, &tmrLanguage, [this] { FollowLanguage(); });
+    QObject::connect(&tmrUpdate, &QTimer::timeout, &tmrUpdate, [this] { LookForUpdates(); });
     QObject::connect(&tmrWalk, &QTimer::timeout, &tmrWalk, [this] { ReadOn(); });
     QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { tmrBackup.start(m_backups.CopyInUse()); });
 }
@@ -64,13 +74,15 @@ bool cMainProgram::Start(const cStartRequest& request)
 {
     m_request = request;
     cStartUp startUp({m_ports.Shell, m_ports.User, m_ports.Rescue, m_ports.Clock}, m_configuration, m_version);
-    m_language.Use({}, m_ports.Shell); // until the book says otherwise
     startUp.CheckCurrency();
     if (!OpenBook(startUp)) {
         return false;
     }
     m_backups.BookOpened();
-    m_language.Use(m_configuration.GetSetting(modSettingKey::LanguageName), m_ports.Shell);
+    m_language.Use(WantedLanguage(), m_ports.Shell);
+    cNameKeepers::Watch(m_book.Data(), m_book.Settings());
+    m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
+    m_updates.emplace(*m_tools, m_configuration);
     BuildWindow();
     m_window->RestoreLayout();
     m_window->show();
@@ -86,6 +98,7 @@ bool cMainProgram::Start(const cStartRequest& request)
         OfferDrafts();
         Serve();
     });
+    tmrUpdate.start(updateDelay);
     return true;
 }
 
@@ -112,7 +125,7 @@ void cMainProgram::Serve()
         return;
     }
     if (QApplication::activeModalWidget() != nullptr) {
-        QTimer::singleShot(requestRetry, m_window.get(), [this] { Serve(); });
+        QTimer::singleShot(requestRetry, &tmrLanguage, [this] { Serve(); });
         return;
     }
     const cStartRequest request = std::exchange(m_request, {});
@@ -209,10 +222,8 @@ bool cMainProgram::OpenForeign(const QString& path)
 
 void cMainProgram::BuildWindow()
 {
-    cNameKeepers::Watch(m_book.Data(), m_book.Settings());
-    m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
-    m_navigation = std::make_unique<cNavigation>(
-        cNavigation::cParts{*m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch});
+    m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
+        *m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch, *m_updates});
     m_model = std::make_unique<cMainModel>(
         *m_tools, cMainModel::cParts{m_configuration, m_ports.Shell, *m_navigation, m_book.Path()});
     m_review = std::make_unique<cImportReview>(*m_tools);
@@ -224,6 +235,53 @@ void cMainProgram::BuildWindow()
     QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });
     QObject::connect(&m_instance, &cSingleInstance::Requested, m_window.get(),
                      [this](const cStartRequest& request) { Take(request); });
+    QObject::connect(&m_navigation->National(), &cNationalSettings::LanguageChanged, &tmrLanguage,
+                     [this] { tmrLanguage.start(0); }); // when the menu or form that said so is done
+}
+
+QString cMainProgram::WantedLanguage() const
+{
+    const QString chosen = m_configuration.GetSetting(modSettingKey::LanguageName);
+    return chosen.isEmpty() ? modLocale::Messages() : chosen;
+}
+
+// Texts are put into windows when these are made, so another language needs a new window on the same book. What can be
+// undone is kept by the book.
+void cMainProgram::FollowLanguage()
+{
+    if (WantedLanguage() == m_language.Code()) {
+        return;
+    }
+    if (QApplication::activeModalWidget() != nullptr) {
+        tmrLanguage.start(requestRetry);
+        return;
+    }
+    m_window->SaveLayout();
+    m_navigation->LeaveBook();
+    m_language.Use(WantedLanguage(), m_ports.Shell);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    m_window.reset();
+    m_review.reset();
+    m_model.reset();
+    m_navigation.reset();
+    BuildWindow();
+    m_window->RestoreLayout();
+    m_window->show();
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    m_model->RestoreView(false);
+    m_window->ShowToday();
+    Serve(); // what waited for the former window
+}
+
+// Never while something is typed into a form.
+void cMainProgram::LookForUpdates()
+{
+    if (QApplication::activeModalWidget() != nullptr) {
+        tmrUpdate.start(updateRetry);
+        return;
+    }
+    m_updates->AfterStart();
+    tmrUpdate.start(updatePause);
 }
 
 cBookSwitch::cHooks cMainProgram::Hooks()
@@ -247,14 +305,14 @@ void cMainProgram::LeaveBook(cBookSwitch::eLeave leave)
 // What is done with an open book while nobody waits for it.
 void cMainProgram::WatchBook()
 {
-    m_book.Database().WatchDamage([this] { QTimer::singleShot(0, m_window.get(), [this] { TellDamage(); }); });
+    m_book.Database().WatchDamage([this] { QTimer::singleShot(0, &tmrWalk, [this] { TellDamage(); }); });
     if (m_book.Database().IsDamaged()) {
         TellDamage();
         return;
     }
     m_walk.emplace(m_book.Database());
     tmrWalk.start(walkDelay);
-    QTimer::singleShot(backupDelay, m_window.get(), [this] { m_backups.RunIfDue(); });
+    QTimer::singleShot(backupDelay, &tmrBackup, [this] { m_backups.RunIfDue(); });
     tmrBackup.start(cBackupPlan::UseUntilCopy);
 }
 
@@ -271,7 +329,7 @@ void cMainProgram::ReadOn()
 void cMainProgram::TellDamage()
 {
     if (QApplication::activeModalWidget() != nullptr) {
-        QTimer::singleShot(damageRetry, m_window.get(), [this] { TellDamage(); });
+        QTimer::singleShot(damageRetry, &tmrWalk, [this] { TellDamage(); });
     } else if (m_book.Database().IsDamaged() && !m_end.HasBegun()) {
         m_navigation->TellDamage();
     }
@@ -289,4 +347,5 @@ void cMainProgram::ShowOtherBook(bool isNewVersion)
     m_window->ShowToday();
     WatchBook();
     QTimer::singleShot(0, m_window.get(), [this] { OfferDrafts(); });
+    tmrLanguage.start(0); // the other book may have another one
 }

@@ -6,6 +6,7 @@
 #include "app/cLanguage.h"
 #include "app/cProgramEnd.h"
 #include "app/cSingleInstance.h"
+#include "app/cUpdateWindows.h"
 #include "core/cAmountFormat.h"
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
@@ -74,6 +75,9 @@ private:
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
+    void FollowLanguage();
+    void LookForUpdates();
+    [[nodiscard]] QString WantedLanguage() const;
     [[nodiscard]] cBookSwitch::cHooks Hooks();
     void ShowOtherBook(bool isNewVersion);
     void WatchBook();
@@ -98,8 +102,11 @@ private:
     QTimer tmrBackup;                 // until the next copy of a program that stays open
     std::optional<cTableWalk> m_walk; // until the open file has been read once
     QTimer tmrWalk;
+    QTimer tmrLanguage;
+    QTimer tmrUpdate;
     cStartRequest m_request;           // of this start, or of a later one that is still waiting
     std::optional<cBookTools> m_tools; // from the first opening of the book on
+    std::optional<cUpdateWindows> m_updates;
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;

@@ -1,6 +1,7 @@
 #include "app/cNavigation.h"
 
 #include "app/cBankWindows.h"
+#include "app/cUpdateWindows.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
@@ -40,6 +41,7 @@
 #include "windows/entry/frmKorrektur.h"
 #include "windows/game/frmSpiel.h"
 #include "windows/help/frmUeber.h"
+#include "windows/main/cLanguageMenu.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/overview/frmUebersicht.h"
@@ -61,7 +63,8 @@ cNavigation::cNavigation(const cParts& parts)
       m_forms(parts.Tools, parts.Book, parts.Shell),
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
-      m_printer(parts.Tools.User)
+      m_printer(parts.Tools.User),
+      m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format))
 {
 }
 
@@ -81,6 +84,9 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(&model, &cMainModel::StagedRowsReleased, &review, &cImportReview::StartAfresh);
     QObject::connect(&window, &frmMain::PageShown, &model, [this](frmMain::ePage page) { BuildPage(page); });
     QObject::connect(&window, &frmMain::FilesDropped, &review, [this](const QStringList& paths) { TakeFiles(paths); });
+    QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &model, &cMainModel::BookChanged);
+    QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &review, &cImportReview::Refresh);
+    window.AddToView(new cLanguageMenu(*m_national, &window));
 }
 
 void cNavigation::ReadStatements(const QStringList& paths)
@@ -416,10 +422,7 @@ void cNavigation::OpenBackupSettings()
 
 void cNavigation::OpenNationalSettings()
 {
-    cNationalSettings settings(m_parts.Tools, m_parts.Configuration, m_parts.Format);
-    QObject::connect(&settings, &cNationalSettings::CultureChanged, m_model, &cMainModel::BookChanged);
-    QObject::connect(&settings, &cNationalSettings::CultureChanged, m_review, &cImportReview::Refresh);
-    frmLaender form(settings, Parent());
+    frmLaender form(*m_national, Parent());
     form.exec();
 }
 
@@ -503,6 +506,7 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
     case modCommand::About: OpenAbout(); break;
+    case modCommand::CheckUpdates: m_parts.Updates.Open(Parent()); break;
     case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::CheckSeries: CheckSeries(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;

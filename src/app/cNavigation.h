@@ -12,7 +12,6 @@
 
 #include <memory>
 
-class cStatementListModel;
 class cAmountFormat;
 class cBankWindows;
 class cBook;
@@ -20,12 +19,15 @@ class cBookHost;
 class cConfiguration;
 class cImportReview;
 class cMainModel;
+class cNationalSettings;
 class cOverviewModel;
 class cPasswordFlow;
 class cRescue;
 class cSearchModel;
 class cShell;
+class cStatementListModel;
 class cStatisticsModel;
+class cUpdateWindows;
 class frmBuchung;
 class frmImport;
 class frmStatistik;
@@ -46,6 +48,7 @@ public:
         cRescue& Rescue;
         cShell& Shell;
         cBookHost& Host;
+        cUpdateWindows& Updates;
     };
 
     explicit cNavigation(const cParts& parts);
@@ -63,6 +66,7 @@ public:
     void ReadStatements(const QStringList& paths);
     void TakeFiles(const QStringList& paths);     // that were dropped: a book is opened, the others are read
     [[nodiscard]] cStatisticsModel& Statistics(); // the same for the statistics; its page is built with it
+    [[nodiscard]] cNationalSettings& National() { return *m_national; }
 
     void OpenNewEntry() override;
     void OpenEntry(int entryId, QDate day) override;
@@ -107,6 +111,7 @@ private:
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;
     frmImport* m_statements = nullptr;
+    std::unique_ptr<cNationalSettings> m_national;
     std::unique_ptr<cOverviewModel> m_overview; // these two from the first look on
     std::unique_ptr<cStatisticsModel> m_statistics;
     frmStatistik* m_statisticsPage = nullptr;

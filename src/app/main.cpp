@@ -1,3 +1,4 @@
+#include "app/cLanguage.h"
 #include "app/cMainProgram.h"
 #include "app/cQtRegistry.h"
 #include "app/cQtRescue.h"
@@ -41,12 +42,31 @@ bool HasSessionBus()
         || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
+// Catalogues need an application, which needs a screen.
 int RefuseWithoutDisplay()
 {
-    std::fputs("Kontorelle: Hier gibt es keinen Bildschirm (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n"
-               "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n",
+    std::fputs(modLocale::Messages() == u"de"
+                   ? "Kontorelle: Hier gibt es keinen Bildschirm (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n"
+                     "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
+                   : "Kontorelle: There is no screen here (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
+                     "The command line program does the same without windows: kontorelle-cli --help\n",
                stderr);
     return 2;
+}
+
+// In the language of the system: which book is opened, and with it which language, may be among the arguments.
+void ReadArguments(QCommandLineParser& parser, const QApplication& application)
+{
+    cLanguage language;
+    language.Use(modLocale::Messages(), cQtShell({}));
+    parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    for (const modStartOption::cOption& option : modStartOption::All()) {
+        parser.addOption({option.Name, option.Help, option.Value});
+    }
+    parser.addPositionalArgument(u"datei"_s, modStartOption::FilesHelp(), u"[DATEI...]"_s);
+    parser.process(application);
 }
 
 } // namespace
@@ -64,15 +84,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
     QApplication::setDesktopFileName(u"de.veltrino.Kontorelle"_s);
     QCommandLineParser parser;
-    parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    for (const modStartOption::cOption& option : modStartOption::All()) {
-        parser.addOption({option.Name, option.Help, option.Value});
-    }
-    parser.addPositionalArgument(u"datei"_s, modStartOption::FilesHelp(), u"[DATEI...]"_s);
-    parser.process(application);
-
+    ReadArguments(parser, application);
     const QString profile = parser.value(modStartOption::Profile);
     cStartRequest request;
     request.IsImport = parser.isSet(modStartOption::Import);

@@ -4,5 +4,10 @@
 
 QString modMD5::Hex(const QString& text)
 {
-    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
+    return HexOfBytes(text.toUtf8());
+}
+
+QString modMD5::HexOfBytes(const QByteArray& bytes)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
 }

@@ -22,6 +22,8 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &DatabaseList,
                                      &LastBackupFolder,
                                      &Appearance,
+                                     &UpdateWeekly,
+                                     &LastUpdateInfo,
                                      &PasswordActive,
                                      &Password,
                                      &LastVersion,

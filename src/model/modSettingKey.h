@@ -25,6 +25,8 @@ inline const cSettingKey DatabaseList{QStringLiteral("DatabaseList"), {List, Pro
 inline const cSettingKey LastBackupFolder{QStringLiteral("LastBackupFolder"), {Text, Program}};
 inline const cSettingFamily DialogFolder{QStringLiteral("Ordner"), {}, {Text, Program}};  // what is chosen there
 inline const cSettingKey Appearance{QStringLiteral("Erscheinungsbild"), {Text, Program}}; // see modAppearance
+inline const cSettingKey UpdateWeekly{QStringLiteral("UpdateWoechentlich"), {Truth, Program}}; // empty: not asked yet
+inline const cSettingKey LastUpdateInfo{QStringLiteral("LastUpdateInfo"), {Text, Program}}; // the version skipped last
 
 // The book
 inline const cSettingKey PasswordActive{QStringLiteral("PasswortAktiv"), {Truth, Book, Kept}};
@@ -34,7 +36,7 @@ inline const cSettingKey LastVersion{QStringLiteral("LastVersion"), {Text, Book,
 inline const cSettingKey LastCommandLineVersion{QStringLiteral("LastCommandLineVersion"), {Text, Book}};
 inline const cSettingKey FirstInstall{QStringLiteral("FirstInstall"), {Day, Book, Kept}};
 inline const cSettingKey Update{QStringLiteral("Update"), {Day, Book, Kept}};
-inline const cSettingKey LanguageName{QStringLiteral("LanguageName"), {Text, Book, Cleared, QStringLiteral("de")}};
+inline const cSettingKey LanguageName{QStringLiteral("LanguageName"), {Text, Book}}; // empty: that of the system
 inline const cSettingKey LanguageFormat{QStringLiteral("LanguageFormat"),
                                         {Text, Book, Cleared, QStringLiteral("de-DE")}};
 inline const cSettingKey LanguageCurrency{QStringLiteral("LanguageCurrency"), {Text, Book}}; // empty: of the format

@@ -1,4 +1,7 @@
 #include "app/cMainProgram.h"
+#include "core/cBookTools.h"
+#include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "views/main/cMainModel.h"
@@ -9,6 +12,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QDir>
+#include <QMenuBar>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,6 +37,28 @@ struct cMachine
     cFakeRegistry Registry;
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
+
+// An environment variable for a while.
+class cVariable
+{
+public:
+    cVariable(const char* name, const QByteArray& value) : m_name(name), m_former(qgetenv(name))
+    {
+        qputenv(name, value);
+    }
+    cVariable(const cVariable&) = delete;
+    cVariable& operator=(const cVariable&) = delete;
+    ~cVariable() { qputenv(m_name, m_former); }
+
+private:
+    const char* m_name;
+    QByteArray m_former;
+};
+
+QString FirstMenu(cMainProgram& program)
+{
+    return program.Window().menuBar()->actions().constFirst()->text().remove(u'&');
+}
 
 } // namespace
 
@@ -103,6 +129,33 @@ private Q_SLOTS:
         QVERIFY(program.Window().close());
         QCOMPARE(machine.User.Asked.size(), 1);
         QCOMPARE(machine.Copies(), QStringList());
+    }
+
+    // Who sees German words for the first time finds the language by its own name, and loses nothing by the change.
+    void LanguageFollowsTheSystemUntilChosen() const
+    {
+        cMachine machine;
+        QVERIFY(QFile::copy(QStringLiteral(ENGLISH), machine.Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
+        const QString path = machine.File.Make(oneEntry);
+        const cVariable system("LC_ALL", "en_GB.UTF-8");
+        {
+            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            QVERIFY(program.Start({.Book = path}));
+            QCOMPARE(FirstMenu(program), u"File"_s);
+            QCOMPARE(program.Tools().Settings.Get(modSettingKey::LanguageName), QString());
+
+            program.Model().ChooseGrouping(u"Nach Sparte"_s);
+            auto* german = program.Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
+            QCOMPARE(german->text(), u"Deutsch"_s);
+            german->trigger();
+            QTRY_COMPARE(FirstMenu(program), u"Datei"_s);
+            QVERIFY(program.Window().isVisible());
+            QCOMPARE(program.Model().View().Grouping, u"Nach Sparte"_s);
+            QVERIFY(program.Window().close());
+        } // which holds the book
+        cMainProgram next(machine.Ports, u"0.1.0"_s);
+        QVERIFY(next.Start({.Book = path}));
+        QCOMPARE(FirstMenu(next), u"Datei"_s);
     }
 };
 

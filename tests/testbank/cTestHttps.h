@@ -38,6 +38,7 @@ public:
     };
 
     [[nodiscard]] cHttpsAnswer Post(const QString& url, const QByteArray& body) override;
+    [[nodiscard]] cHttpsAnswer Get(const cHttpsFile& /*file*/) override { return {eHttpsFault::Refused, {}, {}}; }
     void Cancel() override {}
 
     QString Url = QStringLiteral("https://bank.example/fints"); // of the bank

@@ -39,6 +39,7 @@ class cNoHttps final : public cHttps
 {
 public:
     cHttpsAnswer Post(const QString& /*url*/, const QByteArray& /*body*/) override { return {}; }
+    cHttpsAnswer Get(const cHttpsFile& /*file*/) override { return {}; }
     void Cancel() override {}
 };
 

@@ -52,21 +52,26 @@ private Q_SLOTS:
         cMachine machine;
         QCOMPARE(machine.Book.Format.Cents(100), QString(u"1,00"_s + space + u'€'));
         QSignalSpy changed(&machine.Settings, &cNationalSettings::CultureChanged);
-        const cNationalSettings::cFields british{u"de"_s, u"en-GB"_s, {}};
+        const cNationalSettings::cFields british{{}, u"en-GB"_s, {}};
         QVERIFY(machine.Settings.Save(british));
         QCOMPARE(changed.size(), 1);
         QCOMPARE(machine.Book.Format.Cents(100), u"£1.00"_s);
         QCOMPARE(machine.Settings.Current().Format, british.Format);
-        QCOMPARE(machine.Book.User.Shown, QStringList()); // the language is the same
     }
 
-    void LanguageWaitsForTheNextStart() const
+    void LanguageIsTheSystemsUntilOneIsChosen() const
     {
         cMachine machine;
-        QCOMPARE(machine.Settings.Current().Language, u"de"_s);
+        QSignalSpy changed(&machine.Settings, &cNationalSettings::LanguageChanged);
+        QVERIFY(machine.Settings.Save({machine.Settings.Current().Language, u"de-AT"_s, {}}));
+        QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageName), QString());
+        QCOMPARE(changed.size(), 0);
         QVERIFY(machine.Settings.Save({u"en"_s, u"de-DE"_s, {}}));
         QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageName), u"en"_s);
-        QCOMPARE(machine.Book.User.Shown, QStringList(u"Die neue Sprache gilt ab dem nächsten Start des Programms."_s));
+        QCOMPARE(changed.size(), 1);
+        machine.Settings.ChooseLanguage({});
+        QCOMPARE(machine.Settings.Current().Language, QString());
+        QCOMPARE(changed.size(), 2);
     }
 
     // Every offered culture is known to the library: an unknown one would silently be German.

@@ -1,7 +1,9 @@
 #include "base/cText.h"
 #include "core/cBook.h"
 #include "model/modSettingKey.h"
+#include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
+#include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "testbank/cTestBank.h"
@@ -21,6 +23,7 @@
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
+#include "views/help/cUpdateCheck.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
@@ -45,6 +48,7 @@
 #include "windows/chart/cChartBox.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/help/frmUpdate.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/overview/frmUebersicht.h"
@@ -148,6 +152,9 @@ struct cScene
     cTestBankUser Customer{Bank};
     cBankDirectory Directory{Book.Shell};
     cBankSetup Setup{{Book.Tools, Directory, Https, Customer, QStringLiteral("1.0.0")}};
+    cFakeHttps Maker;
+    cUpdateCheck Update{
+        Book.Tools, Book.Configuration, Maker, {u"https://updates.kontorelle.example/versionen.xml"_s, u"0.1.0"_s}};
     std::unique_ptr<cBankListModel> Banks;
     std::unique_ptr<cBankFetch> Fetch;
 
@@ -355,6 +362,15 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
              cPinQuestion{u"Sparkasse Ahornstadt"_s, u"12345678"_s, u"kunde1"_s, u"Anmeldename"_s});
      }},
     {"bank log", [](cScene& scene) { return std::make_unique<frmProtokoll>(scene.Log); }},
+    {"update that was found",
+     [](cScene& scene) {
+         const QByteArray releases =
+             modUpdateAnswer::Release("0.2.0", "<notes>- Neues</notes>" + modUpdateAnswer::File());
+         scene.Maker.Answers.push_back({eHttpsFault::None, modUpdateAnswer::All(releases), {}});
+         scene.Update.Look();
+         return std::make_unique<frmUpdate>(scene.Update);
+     }},
+    {"update without a connection", [](cScene& scene) { return std::make_unique<frmUpdate>(scene.Update); }},
     {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     {"fetch",
      [](cScene& scene) {

@@ -72,6 +72,9 @@ eHttpsFault FaultOf(QNetworkReply::NetworkError error)
     case QNetworkReply::OperationCanceledError: // by the transfer timeout; what is ended from here has its reason
                                                 // already
         return eHttpsFault::Silent;
+    case QNetworkReply::TooManyRedirectsError:
+    case QNetworkReply::InsecureRedirectError: // to another server
+        return eHttpsFault::Refused;
     default:
         // Those of the network and of the proxy come first; from 200 on the server has answered.
         return error < QNetworkReply::ContentAccessDenied ? eHttpsFault::NotReachable : eHttpsFault::Refused;
@@ -88,7 +91,7 @@ cQtHttps::cQtHttps(const cLimits& limits, QByteArray authorities)
 
 cQtHttps::~cQtHttps() = default;
 
-cHttpsAnswer cQtHttps::Post(const QString& url, const QByteArray& body)
+cHttpsAnswer cQtHttps::Obstacle(const QString& url) const
 {
     if (QUrl(url).scheme() != "https"_L1 || QUrl(url).host().isEmpty()) {
         return {eHttpsFault::NotReachable, {}, u"not an https address"_s};
@@ -96,6 +99,11 @@ cHttpsAnswer cQtHttps::Post(const QString& url, const QByteArray& body)
     if (m_running != nullptr) {
         return {eHttpsFault::NotReachable, {}, u"another exchange is under way"_s};
     }
+    return {};
+}
+
+QNetworkAccessManager& cQtHttps::Network()
+{
     if (!m_network) {
         m_network = std::make_unique<QNetworkAccessManager>();
         m_network->setProxyFactory(new cSystemProxy); // belongs to the manager from here on
@@ -104,13 +112,36 @@ cHttpsAnswer cQtHttps::Post(const QString& url, const QByteArray& body)
     // Each message has a connection of its own: one that waited while the user looked for a TAN may be closed at the
     // other end, which would only be noticed once the message is on its way.
     m_network->clearConnectionCache();
+    return *m_network;
+}
+
+cHttpsAnswer cQtHttps::Post(const QString& url, const QByteArray& body)
+{
+    if (cHttpsAnswer obstacle = Obstacle(url); obstacle.Fault != eHttpsFault::None) {
+        return obstacle;
+    }
     QNetworkRequest request = Request(url);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, u"text/plain"_s);
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true); // a copy could be read again
     cReadOnce once(body);
-    const std::unique_ptr<QNetworkReply> reply(m_network->post(request, &once));
-    m_running = reply.get();
-    const auto done = qScopeGuard([this] { m_running = nullptr; });
-    return Wait(*reply);
+    const std::unique_ptr<QNetworkReply> reply(Network().post(request, &once));
+    return Wait(*reply, {m_limits.Whole, m_limits.MostBytes, {}});
+}
+
+cHttpsAnswer cQtHttps::Get(const cHttpsFile& file)
+{
+    if (cHttpsAnswer obstacle = Obstacle(file.Url); obstacle.Fault != eHttpsFault::None) {
+        return obstacle;
+    }
+    constexpr int mostRedirects = 3;
+    QNetworkRequest request = Request(file.Url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    request.setMaximumRedirectsAllowed(mostRedirects);
+    request.setRawHeader("Accept-Language", "*");        // the toolkit would name the user's
+    request.setRawHeader("Accept-Encoding", "identity"); // what is checked is what was sent
+    const std::unique_ptr<QNetworkReply> reply(Network().get(request));
+    return Wait(*reply, {file.Whole, file.MostBytes, file.Came});
 }
 
 void cQtHttps::Cancel()
@@ -124,9 +155,7 @@ void cQtHttps::Cancel()
 QNetworkRequest cQtHttps::Request(const QString& url) const
 {
     QNetworkRequest request{QUrl(url)};
-    request.setHeader(QNetworkRequest::ContentTypeHeader, u"text/plain"_s);
     request.setHeader(QNetworkRequest::UserAgentHeader, u"Kontorelle"_s);
-    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true); // a copy could be read again
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
@@ -136,8 +165,10 @@ QNetworkRequest cQtHttps::Request(const QString& url) const
     return request;
 }
 
-cHttpsAnswer cQtHttps::Wait(QNetworkReply& reply)
+cHttpsAnswer cQtHttps::Wait(QNetworkReply& reply, const cPatience& patience)
 {
+    m_running = &reply;
+    const auto done = qScopeGuard([this] { m_running = nullptr; });
     m_stopped = eHttpsFault::None;
     QByteArray bytes;
     const auto stop = [this, &reply](eHttpsFault why) {
@@ -146,14 +177,16 @@ cHttpsAnswer cQtHttps::Wait(QNetworkReply& reply)
     };
     QObject::connect(&reply, &QNetworkReply::readyRead, &reply, [&] {
         bytes += reply.readAll();
-        if (bytes.size() > m_limits.MostBytes) {
+        if (bytes.size() > patience.MostBytes) {
             stop(eHttpsFault::TooLarge);
+        } else if (patience.Came) {
+            patience.Came(bytes.size());
         }
     });
     QTimer whole;
     whole.setSingleShot(true);
     QObject::connect(&whole, &QTimer::timeout, &reply, [&] { stop(eHttpsFault::Silent); });
-    whole.start(m_limits.Whole);
+    whole.start(patience.Whole);
     QEventLoop loop;
     QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     if (!reply.isFinished()) {

@@ -6,14 +6,15 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 class QNetworkAccessManager;
 class QNetworkReply;
 class QNetworkRequest;
 
-// The way to a bank over the network of the machine, with its proxy and the certificates that it trusts. Nothing of the
-// network is touched before the first message.
+// The way to a bank or the maker over the network of the machine, with its proxy and the certificates that it trusts.
+// Nothing of the network is touched before the first message.
 class cQtHttps final : public cHttps
 {
 public:
@@ -30,11 +31,22 @@ public:
     ~cQtHttps() override;
 
     [[nodiscard]] cHttpsAnswer Post(const QString& url, const QByteArray& body) override;
+    [[nodiscard]] cHttpsAnswer Get(const cHttpsFile& file) override;
     void Cancel() override;
 
 private:
+    // What one exchange may take, and who is told how many bytes have come.
+    struct cPatience
+    {
+        std::chrono::milliseconds Whole;
+        qint64 MostBytes;
+        std::function<void(qint64)> Came;
+    };
+
+    [[nodiscard]] cHttpsAnswer Obstacle(const QString& url) const; // without a fault where there is none
+    [[nodiscard]] QNetworkAccessManager& Network();
     [[nodiscard]] QNetworkRequest Request(const QString& url) const;
-    [[nodiscard]] cHttpsAnswer Wait(QNetworkReply& reply);
+    [[nodiscard]] cHttpsAnswer Wait(QNetworkReply& reply, const cPatience& patience);
 
     const cLimits m_limits;
     const QByteArray m_authorities;

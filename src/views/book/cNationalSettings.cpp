@@ -35,7 +35,7 @@ cNationalSettings::cNationalSettings(const cBookTools& tools, cConfiguration& co
 
 QList<cNationalSettings::cOption> cNationalSettings::Languages()
 {
-    return {{u"de"_s, u"Deutsch"_s}, {u"en"_s, u"English"_s}};
+    return {{QString(), cText::Tr("wie das System")}, {u"de"_s, u"Deutsch"_s}, {u"en"_s, u"English"_s}};
 }
 
 QList<cNationalSettings::cOption> cNationalSettings::Formats()
@@ -57,8 +57,7 @@ QList<cNationalSettings::cOption> cNationalSettings::Currencies()
 
 cNationalSettings::cFields cNationalSettings::Current() const
 {
-    const QString language = m_configuration.GetSetting(modSettingKey::LanguageName);
-    return {language.isEmpty() ? modSettingKey::LanguageName.Default() : language,
+    return {m_configuration.GetSetting(modSettingKey::LanguageName),
             Culture(m_configuration.GetSetting(modSettingKey::LanguageFormat), modSettingKey::LanguageFormat.Default()),
             Culture(m_configuration.GetSetting(modSettingKey::LanguageCurrency), {})};
 }
@@ -82,7 +81,14 @@ bool cNationalSettings::Save(const cFields& fields)
     if (!isStored) {
         m_tools.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
     } else if (fields.Language != before.Language) {
-        m_tools.User.Show(eTone::Information, cText::Tr("Die neue Sprache gilt ab dem nächsten Start des Programms."));
+        Q_EMIT LanguageChanged();
     }
     return isStored;
+}
+
+void cNationalSettings::ChooseLanguage(const QString& language)
+{
+    if (m_configuration.SaveSetting(modSettingKey::LanguageName, language, eSettingPlace::Database)) {
+        Q_EMIT LanguageChanged();
+    }
 }

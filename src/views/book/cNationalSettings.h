@@ -45,16 +45,19 @@ public:
     [[nodiscard]] static QList<cOption> Formats();
     [[nodiscard]] static QList<cOption> Currencies();
 
-    // The fields in force; a book that says nothing is German.
+    // The fields in force; the language is empty while the system's is followed.
     [[nodiscard]] cFields Current() const;
     [[nodiscard]] cPreview Preview(const cFields& fields) const;
 
-    // Stores the fields; amounts follow at once, another language with the next start, which is said. False when the
-    // book refuses.
+    // Stores the fields. False, with a message, when the book refuses.
     [[nodiscard]] bool Save(const cFields& fields);
 
+    // Stores another language alone; on a book that can only be read it holds until the program ends.
+    void ChooseLanguage(const QString& language);
+
 Q_SIGNALS:
-    void CultureChanged(); // amounts on the screen are old
+    void CultureChanged();  // amounts on the screen are old
+    void LanguageChanged(); // all texts on the screen are old
 
 private:
     const cBookTools& m_tools;

@@ -55,6 +55,7 @@ bool cMainModel::Execute(int command)
     case modCommand::Search:
     case modCommand::StartBalance:
     case modCommand::AccountStatement:
+    case modCommand::CheckUpdates:
     case modCommand::About:
     case modCommand::CheckBook:
     case modCommand::CheckSeries:

@@ -12,7 +12,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 40> commands{{
+constexpr auto commands = std::to_array<cCommand>({
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "",
@@ -103,9 +103,11 @@ constexpr std::array<cCommand, 40> commands{{
      QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
     {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "",
      nullptr, Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
+    {CheckUpdates, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "Nach &Updates suchen"), "", "",
+     nullptr, StartsGroup, QT_TRANSLATE_NOOP("cText", "Sieht nach, ob es eine neue Version von Kontorelle gibt.")},
     {About, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
-}};
+});
 
 } // namespace
 

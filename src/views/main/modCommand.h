@@ -41,6 +41,7 @@ enum eId : int {
     CheckSeries = 128,
     About = 202,
     Calculator = 204,
+    CheckUpdates = 205,
     Search = 301,
     StartBalance = 304,
     National = 305,

@@ -19,7 +19,6 @@ frmLaender::frmLaender(cNationalSettings& settings, QWidget* parent)
     setWindowTitle(cText::Tr("Ländereinstellungen"));
     const cNationalSettings::cFields fields = m_settings.Current();
     m_language = AddChoice(cText::Tr("&Sprache:"), cNationalSettings::Languages(), fields.Language);
-    AddHint(cText::Tr("Eine andere Sprache gilt ab dem nächsten Start."));
     m_format = AddChoice(cText::Tr("&Zahlenformat:"), cNationalSettings::Formats(), fields.Format);
     m_currency = AddChoice(cText::Tr("&Währung:"), cNationalSettings::Currencies(), fields.Currency);
     AddHint(cText::Tr("Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet. "

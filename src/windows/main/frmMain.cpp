@@ -93,6 +93,7 @@ void frmMain::BuildCommands()
             m_tree->addAction(action);
         }
     }
+    m_view = menus.value(cText::Tr(modCommand::Find(modCommand::ResetView)->Menu));
 }
 
 // The menu or submenu of a command, made when it is the first one there, with the line above it.
@@ -305,6 +306,11 @@ void frmMain::ShowColumnMenu()
 {
     ShowPage(ePage::Entries);
     m_tree->ShowColumnMenu();
+}
+
+void frmMain::AddToView(QMenu* menu)
+{
+    m_view->addMenu(menu);
 }
 
 void frmMain::Raise()

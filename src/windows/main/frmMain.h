@@ -49,7 +49,8 @@ public:
     void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
     void ShowPage(ePage page);                        // brings it to the front
     void ShowColumnMenu();
-    void Raise(); // in front of other windows, also out of the task bar
+    void AddToView(QMenu* menu); // at the end of the menu "Ansicht"
+    void Raise();                // in front of other windows, also out of the task bar
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
@@ -92,5 +93,6 @@ private:
     cEntryTree* m_tree;
     cSumBar* m_sums;
     QLabel* m_database;
+    QMenu* m_view = nullptr; // "Ansicht"
     bool m_isSplitByHand = false;
 };

@@ -1,0 +1,11 @@
+#include "core/modMaker.h"
+
+QString modMaker::UpdateAddress()
+{
+    return QStringLiteral(APP_UPDATE_ADDRESS);
+}
+
+bool modMaker::HasUpdateCheck()
+{
+    return APP_UPDATE_CHECK == 1;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+// What whoever builds an edition says about it.
+namespace modMaker {
+
+// Where new versions are announced, an https address; empty where the edition has none.
+[[nodiscard]] QString UpdateAddress();
+
+// False for editions that somebody else keeps up to date, as the packages of a distribution.
+[[nodiscard]] bool HasUpdateCheck();
+
+} // namespace modMaker
