@@ -163,6 +163,7 @@ bool cMainProgram::OpenForeign(const QString& path)
 
 void cMainProgram::BuildWindow()
 {
+    m_format.CultureChanged();
     cNameKeepers::Watch(m_book.Data(), m_book.Settings());
     m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
     m_navigation = std::make_unique<cNavigation>(

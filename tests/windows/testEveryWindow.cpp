@@ -2,8 +2,10 @@
 #include "core/cBook.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cPseudoLanguage.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowTexts.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
 #include "testbank/cTestHttps.h"
@@ -67,6 +69,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -216,13 +219,30 @@ std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
     return std::make_unique<frmTan>(*scene.Tan);
 }
 
+// What stays as it is in every language: what the book holds, what a bank or a file says, names of languages and of the
+// program, and the months of the toolkit.
+QStringList Untranslatable(cScene& scene)
+{
+    QStringList texts{u"Kontorelle"_s, u"Deutsch"_s, u"English"_s, u"Miete"_s, u"Einkauf"_s};
+    for (const cTemplateItem& item : scene.Book.Data.GetTemplates()) {
+        texts << item.TemplateCategory << item.TemplateName;
+    }
+    for (int month = 1; month <= 12; ++month) {
+        texts << QLocale().standaloneMonthName(month) << QLocale().standaloneMonthName(month, QLocale::ShortFormat);
+    }
+    texts.removeAll(QString());
+    std::sort(texts.begin(), texts.end(), [](const QString& a, const QString& b) { return a.size() > b.size(); });
+    return texts;
+}
+
 // Shows every page of every book of tabs once and collects the faults of each.
-QStringList FaultsOfAllPages(QWidget& window)
+QStringList FaultsOfAllPages(QWidget& window,
+                             const std::function<QStringList(const QWidget&)>& find = modWindowFaults::All)
 {
     QStringList faults;
     const auto look = [&] {
         QTest::qWait(5);
-        faults += modWindowFaults::All(window);
+        faults += find(window);
     };
     look();
     const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
@@ -372,6 +392,8 @@ class testEveryWindow final : public QObject
 private Q_SLOTS:
     void CanBeReadAndOperated_data();
     void CanBeReadAndOperated();
+    void IsTranslatedWhole_data();
+    void IsTranslatedWhole();
     void FaultsAreFound();
 };
 
@@ -406,6 +428,37 @@ void testEveryWindow::CanBeReadAndOperated()
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
+void testEveryWindow::IsTranslatedWhole_data()
+{
+    QTest::addColumn<fnMake>("Make");
+    for (const auto& [name, make] : everyWindow) {
+        QTest::addRow("%s", name) << make;
+    }
+}
+
+// In a language with long words nothing is left in German and nothing is cut.
+void testEveryWindow::IsTranslatedWhole()
+{
+    QFETCH(fnMake, Make);
+    cPseudoLanguage language;
+    QCoreApplication::installTranslator(&language); // taken away by its destructor
+    cScene scene;
+    const QStringList allowed = Untranslatable(scene);
+    const std::unique_ptr<QWidget> window = Make(scene);
+    QVERIFY(window);
+    window->show();
+    QStringList faults = FaultsOfAllPages(*window, [&allowed](const QWidget& shown) {
+        QStringList found = modWindowFaults::Clipped(shown);
+        for (const modWindowTexts::cShown& text : modWindowTexts::Of(shown)) {
+            if (modWindowTexts::IsUntranslated(text.Text, allowed)) {
+                found.append(u"not translated: '%1' (%2)"_s.arg(text.Text, text.Where));
+            }
+        }
+        return found;
+    });
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
 void testEveryWindow::FaultsAreFound()
 {
     QWidget window;
@@ -431,6 +484,11 @@ void testEveryWindow::FaultsAreFound()
     QCOMPARE(modWindowFaults::CutValues(window).size(), 1);
     window.setMinimumWidth(smallScreen.width() + 1);
     QCOMPARE(modWindowFaults::TooLarge(window, smallScreen).size(), 1);
+    const QString pseudo = cPseudoLanguage::Of(u"{0} &Einträge von <b>Konten</b>"_s);
+    QVERIFY2(pseudo.contains(u"{0}"_s) && pseudo.contains(u"<b>"_s) && pseudo.size() > 39, qPrintable(pseudo));
+    QVERIFY(!modWindowTexts::IsUntranslated(u"1.234,50 € "_s + pseudo + u" (Ctrl+N)"_s, {}));
+    QVERIFY(!modWindowTexts::IsUntranslated(u"Miete: [Sáldóó]"_s, {u"Miete"_s}));
+    QVERIFY(modWindowTexts::IsUntranslated(pseudo + u" Saldo"_s, {u"Miete"_s}));
 }
 
 QTEST_MAIN(testEveryWindow)

@@ -141,7 +141,7 @@ QString cEntryEditor::Title(const cFields& fields) const
         return cText::Tr("Startguthaben");
     }
     if (m_from.isValid()) {
-        return cText::Tr("Serie ab {0} bearbeiten", {modDate::ToGerman(m_from)});
+        return cText::Tr("Serie ab {0} bearbeiten", {modDate::ToText(m_from)});
     }
     return IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten");
 }
@@ -173,13 +173,13 @@ QString cEntryEditor::VatText(const cFields& fields) const
         return !modTemplate::IsAccount(item) && modTemplate::Path(item) == fields.Category;
     });
     const qint64 rate = category == items.end() ? 0 : modTemplate::VatRate(*category).value_or(0);
-    const qint64 cents = rate == 0 ? 0 : std::abs(modSum::Evaluate(fields.Amount).value_or(0));
+    const qint64 cents = rate == 0 ? 0 : std::abs(modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0));
     if (cents == 0) {
         return {};
     }
-    return cText::Tr(
-        "darin {0} % MwSt.: {1}",
-        {modTemplate::VatText(rate).replace(u'.', u','), m_tools.Format.Cents(modTemplate::VatCents(cents, rate))});
+    return cText::Tr("darin {0} % MwSt.: {1}",
+                     {modTemplate::VatText(rate).replace(u'.', modSum::Sign(fields.Decimal)),
+                      m_tools.Format.Cents(modTemplate::VatCents(cents, rate))});
 }
 
 QString cEntryEditor::StartBalanceText(const QString& account) const
@@ -189,7 +189,7 @@ QString cEntryEditor::StartBalanceText(const QString& account) const
         return cText::Tr("Bisher wurde noch kein Startguthaben festgelegt:");
     }
     return cText::Tr("Bisheriges Startguthaben: {0} am {1}",
-                     {m_tools.Format.Cents(modBalance::Effect(*stored, {})), modDate::ToGerman(stored->EntryDate)});
+                     {m_tools.Format.Cents(modBalance::Effect(*stored, {})), modDate::ToText(stored->EntryDate)});
 }
 
 QStringList cEntryEditor::Categories() const
@@ -278,7 +278,7 @@ bool cEntryEditor::ShowsCorrections(const cFields& fields) const
 QString cEntryEditor::EndedText(const cEntryItem& series, const QString& count)
 {
     const QDate last = modSeries::Last(series);
-    return last.isValid() ? cText::Tr("{0}, beendet: zuletzt am {1}", {count, modDate::ToGerman(last)})
+    return last.isValid() ? cText::Tr("{0}, beendet: zuletzt am {1}", {count, modDate::ToText(last)})
                           : cText::Tr("Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin.");
 }
 
@@ -295,7 +295,7 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
     preview.Next = modSeries::Next(series, m_tools.Clock.Today(), shownDays);
     QStringList days;
     for (const QDate day : std::as_const(preview.Next)) {
-        days.append(modDate::ToGerman(day));
+        days.append(modDate::ToText(day));
     }
     const bool isOpen = modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd;
     const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});

@@ -113,11 +113,11 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
 QString cOpeningBalance::Question(const cOffer& offer) const
 {
     const QStringList values{offer.Account,
-                             modDate::ToGerman(offer.Day),
+                             modDate::ToText(offer.Day),
                              m_tools.Format.Cents(offer.Bank),
                              m_tools.Format.Cents(offer.Book),
                              m_tools.Format.Cents(offer.Start),
-                             modDate::ToGerman(offer.StartDay),
+                             modDate::ToText(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
     const QString known =
         cText::Tr("Laut Kontoauszug hatte das Konto '{0}' am {1} einen Stand von {2}; im Buch sind es {3}.", values);
@@ -133,7 +133,7 @@ QString cOpeningBalance::Question(const cOffer& offer) const
 QString cOpeningBalance::Report(const cOffer& offer) const
 {
     return cText::Tr("Startguthaben von '{0}': {1} am {2}, laut Kontoauszug.",
-                     {offer.Account, m_tools.Format.Cents(offer.Start), modDate::ToGerman(offer.StartDay)});
+                     {offer.Account, m_tools.Format.Cents(offer.Start), modDate::ToText(offer.StartDay)});
 }
 
 bool cOpeningBalance::Take(const cOffer& offer) const

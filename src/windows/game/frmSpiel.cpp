@@ -77,7 +77,7 @@ void frmSpiel::ShowStart(const QString& title, const QString& head)
     for (const cHighScores::cRun& run : best) {
         text += u'\n'
             + cText::Tr("{0} Punkte, {1} Monate, {2}",
-                        {QString::number(run.Points), QString::number(run.Months), modDate::ToGerman(run.Day)});
+                        {QString::number(run.Points), QString::number(run.Months), modDate::ToText(run.Day)});
     }
     m_view->SetMessage(title, text + u"\n\n"_s + cText::Tr("Eingabe beginnt, Pfeile oder Maus bewegen, P hält an."));
 }
