@@ -2,6 +2,7 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
@@ -298,7 +299,7 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
         days.append(modDate::ToText(day));
     }
     const bool isOpen = modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd;
-    const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
+    const QString count = isOpen ? cText::Tr("ohne Ende") : modCount::Times(preview.Count);
     preview.Text =
         days.isEmpty() ? EndedText(series, count) : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
     return preview;
