@@ -84,11 +84,12 @@ inline QList<cShown> Of(const QWidget& window)
     return shown;
 }
 
-// What stands outside of brackets and markup, without the names of keys, days and months.
+// What stands outside of brackets and markup, without the names of keys and the numbers of accounts.
 inline QString Outside(QString text)
 {
     static const QRegularExpression passedOver(
-        QStringLiteral("<[^>]*>|&[a-z]+;|\\b(Ctrl|Alt|Shift|Del|Esc|Ins|Return|Enter|Space|Backspace|Tab|Home|End|PgUp|"
+        QStringLiteral("<[^>]*>|&[a-z]+;|\\b[A-Z]{2}\\d\\d[\\d "
+                       "]{10,}|\\b(Ctrl|Alt|Shift|Del|Esc|Ins|Return|Enter|Space|Backspace|Tab|Home|End|PgUp|"
                        "PgDown|Up|Down|Left|Right|F\\d+)\\b"));
     QString outside;
     int depth = 0;

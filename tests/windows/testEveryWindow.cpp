@@ -30,6 +30,7 @@
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
+#include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
@@ -62,9 +63,12 @@
 #include <QBoxLayout>
 #include <QBuffer>
 #include <QCheckBox>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
@@ -77,6 +81,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize smallScreen(784, 552); // 800 x 600 without what frame and bar take
+const QString bankWords =
+    u"Stecken Sie Ihre Karte in den TAN-Generator und drücken Sie \"F\". Halten Sie den Generator "
+    "vor die animierte Grafik."_s;
 
 // A book with what the windows can show: a series with a correction, a purchase in parts, a row from the bank.
 struct cScene
@@ -205,9 +212,7 @@ std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
     question.Procedure = u"Smart-TAN plus optisch"_s;
     question.Medium = u"Karte 1234567890"_s;
     question.Label = u"TAN-Eingabe:"_s;
-    question.Challenge =
-        u"Umsatzabfrage\r\nStecken Sie Ihre Karte in den TAN-Generator und drücken Sie \"F\". Halten Sie "
-        "den Generator vor die animierte Grafik."_s;
+    question.Challenge = u"Umsatzabfrage\r\n"_s + bankWords;
     question.Display = display;
     question.Flicker = QByteArray("\x1f\x1e", 2);
     QImage image(10, 10, QImage::Format_RGB32);
@@ -219,11 +224,46 @@ std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
     return std::make_unique<frmTan>(*scene.Tan);
 }
 
-// What stays as it is in every language: what the book holds, what a bank or a file says, names of languages and of the
-// program, and the months of the toolkit.
+// What stays as it is in every language: what the book holds and its file's name, the files that are read and the names
+// of their layouts, what banks say, the names of languages and of the program, and the months of the toolkit.
 QStringList Untranslatable(cScene& scene)
 {
-    QStringList texts{u"Kontorelle"_s, u"Deutsch"_s, u"English"_s, u"Miete"_s, u"Einkauf"_s};
+    QStringList texts{u"Kontorelle"_s,
+                      u"Deutsch"_s,
+                      u"English"_s,
+                      u"Miete"_s,
+                      u"Einkauf"_s,
+                      scene.Book.Path(),
+                      QFileInfo(scene.Book.Path()).completeBaseName(),
+                      u"dkb.csv"_s,
+                      u"giro.sta"_s,
+                      u"Testbank"_s,
+                      u"testuser"_s,
+                      u"kunde1"_s,
+                      u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s,
+                      u"Sparkasse Ahornstadt"_s,
+                      u"chipTAN optisch (Flickercode am Bildschirm)"_s,
+                      u"Smart-TAN plus optisch, Karte 1234567890"_s,
+                      u"SMS"_s,
+                      u"Anmeldename"_s, // as a bank calls it
+                      u"TAN-Eingabe:"_s,
+                      u"Umsatzabfrage"_s,
+                      bankWords};
+    const cBankProfile profile = cScene::BankProfile();
+    for (const cOfferedAccount& account : profile.Accounts) {
+        texts << QString::fromUtf8(account.Product).replace(u'&', u"&&"_s);
+    }
+    for (const QByteArray& medium : profile.Media) {
+        texts << QString::fromUtf8(medium);
+    }
+    texts += cStatementDesk::LayoutNames();
+    texts += {u"UTF"_s, u"Windows"_s, u"CP850 (DOS)"_s, u"BE"_s};
+    if (scene.Assistant) { // the headlines of its table
+        QFile table(QStringLiteral(TEST_DATA "/csv/dkb.csv"));
+        texts += table.open(QIODevice::ReadOnly)
+            ? QString::fromUtf8(table.readAll()).split(QRegularExpression(u"[;,\"\n]+"_s), Qt::SkipEmptyParts)
+            : QStringList();
+    }
     for (const cTemplateItem& item : scene.Book.Data.GetTemplates()) {
         texts << item.TemplateCategory << item.TemplateName;
     }
@@ -443,9 +483,9 @@ void testEveryWindow::IsTranslatedWhole()
     cPseudoLanguage language;
     QCoreApplication::installTranslator(&language); // taken away by its destructor
     cScene scene;
-    const QStringList allowed = Untranslatable(scene);
     const std::unique_ptr<QWidget> window = Make(scene);
     QVERIFY(window);
+    const QStringList allowed = Untranslatable(scene);
     window->show();
     QStringList faults = FaultsOfAllPages(*window, [&allowed](const QWidget& shown) {
         QStringList found = modWindowFaults::Clipped(shown);
@@ -456,7 +496,10 @@ void testEveryWindow::IsTranslatedWhole()
         }
         return found;
     });
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    for (const QString& fault : faults) {
+        qWarning("%s", qPrintable(fault)); // a message of the test itself would be cut
+    }
+    QVERIFY(faults.isEmpty());
 }
 
 void testEveryWindow::FaultsAreFound()
