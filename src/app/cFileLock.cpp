@@ -70,7 +70,7 @@ QString cFileLock::Holder(const QString& database)
                                     : cText::Tr("ein Programm, das sie unter einem anderen Namen geöffnet hat");
     }
     const QDateTime time = file.lastModified();
-    const QString since = modDate::ToGerman(time.date()) + time.toString(u" HH:mm"_s);
+    const QString since = modDate::ToText(time.date()) + time.toString(u" HH:mm"_s);
     qint64 process = 0;
     QString host;
     QString program;

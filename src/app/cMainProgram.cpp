@@ -81,6 +81,7 @@ bool cMainProgram::Start(const cStartRequest& request)
     m_backups.BookOpened();
     m_language.Use(WantedLanguage(), m_ports.Shell);
     cNameKeepers::Watch(m_book.Data(), m_book.Settings());
+    m_format.CultureChanged(); // the book has its own
     m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
     m_updates.emplace(*m_tools, m_configuration);
     BuildWindow();

@@ -4,35 +4,42 @@
 
 namespace {
 
+// German has two forms, which stand here. A catalogue may give the second one in as many forms as its language has.
 QString Say(qsizetype count, const char* one, const char* many)
 {
-    return count == 1 ? cText::Tr(one) : cText::Tr(many, {QString::number(count)});
+    return count == 1 ? cText::Tr(one)
+                      : cText::Fill(cText::tr(many, nullptr, static_cast<int>(count)), {QString::number(count)});
 }
 
 } // namespace
 
 QString modCount::Entries(qsizetype count)
 {
-    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Eintrag"), QT_TRANSLATE_NOOP("cText", "{0} Einträge"));
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Eintrag"), QT_TRANSLATE_N_NOOP("cText", "{0} Einträge"));
 }
 
 QString modCount::Bookings(qsizetype count)
 {
-    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Buchung"), QT_TRANSLATE_NOOP("cText", "{0} Buchungen"));
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Buchung"), QT_TRANSLATE_N_NOOP("cText", "{0} Buchungen"));
 }
 
 QString modCount::Categories(qsizetype count)
 {
-    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Kategorie"), QT_TRANSLATE_NOOP("cText", "{0} Kategorien"));
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Kategorie"), QT_TRANSLATE_N_NOOP("cText", "{0} Kategorien"));
 }
 
 QString modCount::Rows(qsizetype count)
 {
-    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Umsatz"), QT_TRANSLATE_NOOP("cText", "{0} Umsätze"));
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Umsatz"), QT_TRANSLATE_N_NOOP("cText", "{0} Umsätze"));
 }
 
 QString modCount::MoreLines(qsizetype count)
 {
     return Say(count, QT_TRANSLATE_NOOP("cText", "… und 1 weitere Zeile"),
-               QT_TRANSLATE_NOOP("cText", "… und {0} weitere Zeilen"));
+               QT_TRANSLATE_N_NOOP("cText", "… und {0} weitere Zeilen"));
+}
+
+QString modCount::Times(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Mal"), QT_TRANSLATE_N_NOOP("cText", "{0} Mal"));
 }

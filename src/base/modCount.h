@@ -10,6 +10,8 @@ namespace modCount {
 [[nodiscard]] QString Categories(qsizetype count);
 [[nodiscard]] QString Rows(qsizetype count); // Umsätze of the bank
 
+[[nodiscard]] QString Times(qsizetype count); // "1 Mal", "12 Mal"
+
 // "… und 3 weitere Zeilen", below a list that was cut.
 [[nodiscard]] QString MoreLines(qsizetype count);
 

@@ -1,6 +1,10 @@
 #include "base/modDate.h"
 
+#include <atomic>
+
 namespace {
+
+std::atomic<cDayForm> formInUse{cDayForm()}; // large files are read aside, and their faults name days
 
 // The digits of `text` as a number, or -1 when there is anything else.
 int ReadDigits(QStringView text)
@@ -27,6 +31,47 @@ void WriteDigits(QChar* to, int value, int count)
 }
 
 } // namespace
+
+void modDate::UseForm(cDayForm form)
+{
+    formInUse = form;
+}
+
+cDayForm modDate::Form()
+{
+    return formInUse;
+}
+
+QString modDate::ToText(QDate date)
+{
+    return ToText(date, Form());
+}
+
+QString modDate::ToText(QDate date, cDayForm form)
+{
+    if (!date.isValid() || date.year() < 0 || date.year() > 9999) {
+        return {};
+    }
+    const bool isYearFirst = form.Order == cDayForm::eOrder::YearFirst;
+    const bool isDayFirst = form.Order == cDayForm::eOrder::DayFirst;
+    QString text(10, QChar(form.Separator));
+    QChar* to = text.data();
+    QChar* rest = isYearFirst ? to + 5 : to;
+    WriteDigits(isYearFirst ? to : to + 6, date.year(), 4);
+    WriteDigits(rest, isDayFirst ? date.day() : date.month(), 2);
+    WriteDigits(rest + 3, isDayFirst ? date.month() : date.day(), 2);
+    return text;
+}
+
+QString modDate::ToShortText(QDate date)
+{
+    const cDayForm form = Form();
+    const QString text = ToText(date, form);
+    if (form.Order == cDayForm::eOrder::YearFirst) {
+        return text.mid(5);
+    }
+    return text.left(form.Separator == u'.' ? 6 : 5); // a point belongs to the number before it
+}
 
 QString modDate::ToIso(QDate date)
 {

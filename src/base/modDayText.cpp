@@ -63,44 +63,69 @@ int ReadYear(QStringView text)
     return text.size() == 2 ? 2000 + text.toInt() : text.toInt();
 }
 
+// The parts of a day as they were typed: a day, with a month, with a year. Anything else is none.
+QDate Compose(QList<QStringView> parts, QDate today)
+{
+    const cDayForm::eOrder order = modDate::Form().Order;
+    if (parts.size() == 1) {
+        return parts[0].size() <= 2 ? QDate(today.year(), today.month(), parts[0].toInt()) : QDate();
+    }
+    if (parts.size() == 3 && order == cDayForm::eOrder::YearFirst) {
+        parts.append(parts.takeFirst());
+    }
+    if (order != cDayForm::eOrder::DayFirst) {
+        parts.swapItemsAt(0, 1);
+    }
+    const bool hasYear = parts.size() == 3;
+    if (parts[0].size() > 2 || parts[1].size() > 2 || (hasYear && parts[2].size() != 2 && parts[2].size() != 4)) {
+        return {};
+    }
+    return QDate(hasYear ? ReadYear(parts[2]) : today.year(), parts[1].toInt(), parts[0].toInt());
+}
+
 // "3", "0305", "030526", "03052026"
 QDate ReadDigits(QStringView text, QDate today)
 {
     if (text.size() <= 2) {
-        return QDate(today.year(), today.month(), text.toInt());
+        return Compose({text}, today);
     }
     if (text.size() != 4 && text.size() != 6 && text.size() != 8) {
         return {};
     }
-    const int year = text.size() == 4 ? today.year() : ReadYear(text.mid(4));
-    return QDate(year, text.mid(2, 2).toInt(), text.left(2).toInt());
+    if (text.size() == 4) {
+        return Compose({text.left(2), text.mid(2)}, today);
+    }
+    const bool isYearFirst = modDate::Form().Order == cDayForm::eOrder::YearFirst;
+    const qsizetype first = isYearFirst ? text.size() - 4 : 2;
+    return Compose({text.left(first), text.mid(first, 2), text.mid(first + 2)}, today);
 }
 
-// "3.", "3.5", "3.5.", "3.5.26", "3.5.2026"
-QDate ReadPoints(QStringView text, QDate today)
+// "3.", "3.5", "3.5.", "3.5.26", "3.5.2026", with whatever separates.
+QDate ReadParts(QStringView text, QChar separator, QDate today)
 {
-    QList<QStringView> parts = text.split(u'.');
+    QList<QStringView> parts = text.split(separator);
     if (parts.last().isEmpty()) {
         parts.removeLast();
     }
     const bool isDigits = !parts.isEmpty() && parts.size() <= 3 && std::all_of(parts.begin(), parts.end(), IsDigits);
-    if (!isDigits || parts.first().size() > 2) {
-        return {};
+    return isDigits ? Compose(parts, today) : QDate();
+}
+
+QDate ReadSeparated(QString text, QDate today)
+{
+    const cDayForm form = modDate::Form();
+    if (text.contains(QChar(form.Separator))) {
+        return ReadParts(text, form.Separator, today);
     }
-    if (parts.size() == 1) {
-        return QDate(today.year(), today.month(), parts[0].toInt());
-    }
-    if (parts[1].size() > 2 || (parts.size() == 3 && parts[2].size() != 2 && parts[2].size() != 4)) {
-        return {};
-    }
-    return QDate(parts.size() == 3 ? ReadYear(parts[2]) : today.year(), parts[1].toInt(), parts[0].toInt());
+    text.replace(u',', u'.');
+    return form.Order == cDayForm::eOrder::DayFirst ? ReadParts(text, u'.', today) : QDate();
 }
 
 } // namespace
 
 QDate modDayText::Read(const QString& text, QDate today)
 {
-    QString typed = text.simplified().remove(u' ');
+    const QString typed = text.simplified().remove(u' ');
     if (typed.isEmpty()) {
         return {};
     }
@@ -110,9 +135,13 @@ QDate modDayText::Read(const QString& text, QDate today)
     if (typed.startsWith(u'+') || typed.startsWith(u'-')) {
         return ReadDistance(typed, today);
     }
-    typed.replace(u',', u'.');
     if (IsDigits(typed)) {
         return ReadDigits(typed, today);
     }
-    return typed[0].isDigit() ? ReadPoints(typed, today) : ReadWord(typed, today);
+    return typed[0].isDigit() ? ReadSeparated(typed, today) : ReadWord(typed, today);
+}
+
+QString modDayText::Fault(const QString& text, QDate today)
+{
+    return cText::Tr("'{0}' ist kein Datum. Bitte schreiben Sie es wie {1}.", {text.trimmed(), modDate::ToText(today)});
 }

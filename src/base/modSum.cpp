@@ -6,6 +6,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -27,11 +28,6 @@ bool IsGrouped(const QList<QStringView>& groups)
         return false;
     }
     return std::all_of(groups.begin() + 1, groups.end(), [](QStringView group) { return group.size() == 3; });
-}
-
-QChar Sign(eDecimal decimal)
-{
-    return decimal == eDecimal::Comma ? u',' : u'.';
 }
 
 // A single sign that could group: before exactly three digits, and no more than three in front of it. Nobody writes
@@ -58,7 +54,7 @@ qsizetype DecimalPlace(QStringView number, eDecimal decimal)
     if (points + commas > 1) {
         return IsGrouped(number.split(last)) ? number.size() : -1;
     }
-    return last != Sign(decimal) && MayGroup(number, last) ? number.size() : place;
+    return last != modSum::Sign(decimal) && MayGroup(number, last) ? number.size() : place;
 }
 
 std::optional<double> ReadNumber(QStringView number, eDecimal decimal)
@@ -161,7 +157,7 @@ private:
         }
         const QStringView number = m_text.mid(start, m_at - start);
         const std::optional<double> value = ReadNumber(number, m_decimal);
-        m_hasDoubt = m_hasDoubt || MayGroup(number, Sign(m_decimal));
+        m_hasDoubt = m_hasDoubt || MayGroup(number, modSum::Sign(m_decimal));
         m_isRight = m_isRight && value;
         return value.value_or(0.0);
     }
@@ -176,10 +172,16 @@ private:
     bool m_hasDoubt = false;
 };
 
+bool IsPassedOver(QChar c)
+{
+    constexpr QStringView quotes = u"'\u2019\"";
+    return c.isSpace() || c.category() == QChar::Symbol_Currency || c.category() == QChar::Other_Format
+        || quotes.contains(c);
+}
+
 // Without what is passed over, and with one sign per operation.
 QString Simplified(const QString& text)
 {
-    constexpr QStringView passedOver = u" \u00A0\u202F\u2009\u00A4€£$\t'\u2019\"";
     QString kept;
     for (const QChar c : text) {
         if (c == u'\u2212' || c == u'\u2013') {
@@ -188,11 +190,48 @@ QString Simplified(const QString& text)
             kept.append(u'*');
         } else if (c == u'÷' || c == u':') {
             kept.append(u'/');
-        } else if (!passedOver.contains(c)) {
+        } else if (!IsPassedOver(c)) {
             kept.append(c);
         }
     }
     return kept;
+}
+
+// Without the letters that stand for a currency before or behind an amount. Only known ones: "3k" is no three.
+QString WithoutCurrency(QString text)
+{
+    static const std::array<QString, 18> words{QStringLiteral("EUR"),  QStringLiteral("Euro"), QStringLiteral("CHF"),
+                                               QStringLiteral("SFr."), QStringLiteral("Fr."),  QStringLiteral("GBP"),
+                                               QStringLiteral("USD"),  QStringLiteral("DKK"),  QStringLiteral("kr."),
+                                               QStringLiteral("kr"),   QStringLiteral("PLN"),  QStringLiteral("zł"),
+                                               QStringLiteral("CZK"),  QStringLiteral("Kč"),   QStringLiteral("HUF"),
+                                               QStringLiteral("Ft"),   QStringLiteral("IDR"),  QStringLiteral("Rp")};
+    const qsizetype start = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0;
+    for (const QString& word : words) {
+        if (text.endsWith(word, Qt::CaseInsensitive)) {
+            return text.chopped(word.size());
+        }
+        if (QStringView(text).mid(start).startsWith(word, Qt::CaseInsensitive)) {
+            return text.remove(start, word.size());
+        }
+    }
+    return text;
+}
+
+// "($5.00)", "(5,00 zł)": some cultures write an amount below zero in brackets. Without a currency it is a calculation.
+QString WithMinusForBrackets(const QString& text)
+{
+    const QString amount = text.trimmed();
+    if (!amount.startsWith(u'(') || !amount.endsWith(u')')) {
+        return amount;
+    }
+    const QString inner = Simplified(amount.sliced(1).chopped(1));
+    const QString number = WithoutCurrency(inner);
+    const bool hasSign =
+        std::any_of(amount.begin(), amount.end(), [](QChar c) { return c.category() == QChar::Symbol_Currency; });
+    const bool isPlain =
+        std::all_of(number.begin(), number.end(), [](QChar c) { return IsDigit(c) || c == u'.' || c == u','; });
+    return (hasSign || number != inner) && isPlain ? u'-' + number : amount;
 }
 
 // "12,50-" as bank statements have it becomes "-12,50"; only a single number carries its sign behind.
@@ -214,7 +253,7 @@ struct cSum
 cSum Read(const QString& text, eDecimal decimal)
 {
     constexpr double limit = 1.0e13; // euros; beyond it cents are no longer exact
-    const QString sum = WithSignInFront(Simplified(text));
+    const QString sum = WithSignInFront(WithoutCurrency(Simplified(WithMinusForBrackets(text))));
     cSumReader reader(sum, decimal);
     const std::optional<double> value = reader.Read();
     if (!value || std::abs(*value) > limit) {
@@ -224,6 +263,11 @@ cSum Read(const QString& text, eDecimal decimal)
 }
 
 } // namespace
+
+QChar modSum::Sign(eDecimal decimal)
+{
+    return decimal == eDecimal::Comma ? u',' : u'.';
+}
 
 std::optional<qint64> modSum::Evaluate(const QString& text, eDecimal decimal)
 {

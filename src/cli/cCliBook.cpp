@@ -25,6 +25,7 @@ cCliBook::cCliBook(std::unique_ptr<cBookAccess> file, cUser& user, const cClock&
       Tools{Data, m_file->Settings(), m_format, user, clock},
       Statements(Tools)
 {
+    m_format.CultureChanged();
 }
 
 std::unique_ptr<cCliBook> cCliBook::Open(const QString& database, eCliAccess access, const cCliPorts& ports,

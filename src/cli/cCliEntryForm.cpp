@@ -85,7 +85,7 @@ void cCliEntryForm::Fill(cEntryFields& fields)
 {
     const cCliCall& call = m_context.Call;
     if (Has("amount")) {
-        fields.Amount = modSum::ToText(m_cents, fields.Decimal); // options are German, whatever the book shows
+        fields.Amount = modSum::ToText(m_cents, fields.Decimal);
         fields.IsAmountTyped = true;
     }
     if (!m_account.isEmpty()) {
@@ -185,11 +185,10 @@ void cCliEntryForm::Check(const cEntryFields& fields)
         m_reader.Misused(cText::Tr("Einen letzten Tag hat nur eine Serie. Bitte nennen Sie auch --interval."));
     }
     if (cEntryEditor::ShowsSeries(fields) && fields.HasEnd && LastDay(fields) < fields.Date) {
-        m_reader.Misused(cText::Tr("Der letzte Tag liegt vor dem ersten ({0}).", {modDate::ToGerman(fields.Date)}));
+        m_reader.Misused(cText::Tr("Der letzte Tag liegt vor dem ersten ({0}).", {modDate::ToText(fields.Date)}));
     }
     if (m_from.isValid() && fields.Date < m_from) {
-        m_reader.Misused(
-            cText::Tr("Die geänderte Serie kann nicht vor dem {0} beginnen.", {modDate::ToGerman(m_from)}));
+        m_reader.Misused(cText::Tr("Die geänderte Serie kann nicht vor dem {0} beginnen.", {modDate::ToText(m_from)}));
     }
     if (!cEntryEditor::ShowsTarget(fields)) {
         return;

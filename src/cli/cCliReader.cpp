@@ -81,17 +81,22 @@ QDate cCliReader::Day(const QString& text)
 {
     const QDate day = modDayText::Read(text, m_context.Clock.Today());
     if (!day.isValid() && !text.isEmpty()) {
-        Misused(cText::Tr("'{0}' ist kein Datum. Möglich sind 2026-01-31, 31.01.2026, 31.1., heute, gestern oder +7.",
-                          {text}));
+        const QDate example(m_context.Clock.Today().year(), 1, 31);
+        Misused(cText::Tr("'{0}' ist kein Datum. Möglich sind {1}, {2}, {3}, heute, gestern oder +7.",
+                          {text, modDate::ToIso(example), modDate::ToText(example), modDate::ToShortText(example)}));
     }
     return day;
 }
 
 qint64 cCliReader::Cents(const QString& text)
 {
-    const std::optional<qint64> cents = modSum::Evaluate(text);
-    if (!cents && !text.isEmpty()) {
-        Misused(cText::Tr("'{0}' ist kein Betrag. Möglich sind 12,50 oder eine Rechnung wie 12,50+3,99.", {text}));
+    const eDecimal decimal = m_context.Book == nullptr ? eDecimal::Comma : m_context.Book->Format().Decimal();
+    const std::optional<qint64> cents = modSum::Evaluate(text, decimal);
+    if (!cents && modSum::IsDoubtful(text, decimal)) {
+        Misused(modSum::Fault(text, decimal));
+    } else if (!cents && !text.isEmpty()) {
+        Misused(cText::Tr("'{0}' ist kein Betrag. Möglich sind {1} oder eine Rechnung wie {1}+{2}.",
+                          {text, modSum::ToText(1250, decimal), modSum::ToText(399, decimal)}));
     }
     return cents.value_or(0);
 }
@@ -160,10 +165,10 @@ QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
         return next.constFirst();
     }
     for (const QDate other : next) {
-        days.append(modDate::ToGerman(other));
+        days.append(modDate::ToText(other));
     }
     const QString problem =
-        cText::Tr("Die Serie {0} hat am {1} kein Vorkommen.", {QString::number(id), modDate::ToGerman(day)});
+        cText::Tr("Die Serie {0} hat am {1} kein Vorkommen.", {QString::number(id), modDate::ToText(day)});
     Missing(days.isEmpty() ? problem : problem + u' ' + cText::Tr("Danach kommen: {0}.", {days.join(u", "_s)}));
     return {};
 }

@@ -57,7 +57,7 @@ void Print(const cCliBook& book, const QList<cAccountLine>& lines)
     for (const cAccountLine& line : lines) {
         table.Add({line.Item.TemplateCategory, line.Item.TemplateName, book.AmountText(line.Cents),
                    line.Start ? book.AmountText(StartCents(line)) : QString(),
-                   line.Start ? modDate::ToGerman(line.Start->EntryDate) : QString(), line.Numbers.join(u", "_s),
+                   line.Start ? modDate::ToText(line.Start->EntryDate) : QString(), line.Numbers.join(u", "_s),
                    QString::number(line.Entries), modTemplateText::State(line.Item)});
     }
     modConsole::Out(table.ToString());

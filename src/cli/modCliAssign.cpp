@@ -18,7 +18,7 @@ void CheckDay(const cCliContext& context, cCliReader& reader, const cImportEntry
     const QDate day = text.isEmpty() ? QDate() : reader.Occurrence(found.ID, text);
     if (day.isValid() && day != found.Planned()) {
         reader.Missing(cText::Tr("Der Umsatz vom {0} liegt dem Vorkommen vom {1} am nächsten und zählt zu diesem.",
-                                 {modDate::ToGerman(row.ImportDate), modDate::ToGerman(found.EntryDate)}));
+                                 {modDate::ToText(row.ImportDate), modDate::ToText(found.EntryDate)}));
     }
 }
 
@@ -61,7 +61,7 @@ int RunAssign(const cCliContext& context)
     const std::optional<cMatchCandidate> found = context.Book->Statements.ByHand(row->ID, entryId);
     if (!found) {
         modConsole::Error(cText::Tr("Die Serie {0} hat in der Nähe des {1} kein Vorkommen.",
-                                    {QString::number(entryId), modDate::ToGerman(row->ImportDate)}));
+                                    {QString::number(entryId), modDate::ToText(row->ImportDate)}));
         return modExit::Failed;
     }
     CheckDay(context, reader, *row, found->Entry);

@@ -45,9 +45,11 @@ void Print(const cBankMatches& answer)
     }
     modConsole::Out(table.ToString());
     if (const qsizetype more = answer.Found - answer.Banks.size(); more > 0) {
-        modConsole::Out(cText::Tr("Weitere {0} passen auch. Suchen Sie genauer, zum Beispiel mit der Bankleitzahl.",
-                                  {QString::number(more)})
-                        + u'\n');
+        const QString text = more == 1
+            ? cText::Tr("Eine weitere passt auch. Suchen Sie genauer, zum Beispiel mit der Bankleitzahl.")
+            : cText::Tr("Weitere {0} passen auch. Suchen Sie genauer, zum Beispiel mit der Bankleitzahl.",
+                        {QString::number(more)});
+        modConsole::Out(text + u'\n');
     }
 }
 

@@ -66,7 +66,7 @@ void PrintList(const cCliContext& context, const QList<cBankListModel::cLine>& l
     for (const cBankListModel::cLine& line : lines) {
         objects.append(ToJson(line));
         table.Add({line.Bank.BankCode, line.Bank.BankName, line.Bank.UserId, modBankText::Number(line.Account),
-                   line.BookAccount, modDate::ToGerman(line.LastFetch),
+                   line.BookAccount, modDate::ToText(line.LastFetch),
                    line.Bank.Method ? modBankText::Method(*line.Bank.Method) : QString()});
     }
     modConsole::Out(context.Call.Has(u"json"_s) ? modJson::Array(objects) + u'\n' : table.ToString());

@@ -106,7 +106,7 @@ void Print(const cCliBook& book, const QList<int>& ids, const QHash<int, cRowPla
     for (const int id : ids) {
         const cRowPlan plan = plans.value(id);
         const cEntryItem& entry = EntryOf(plan);
-        table.Add({QString::number(id), modImportText::Group(plan.Group), modDate::ToGerman(entry.EntryDate),
+        table.Add({QString::number(id), modImportText::Group(plan.Group), modDate::ToText(entry.EntryDate),
                    entry.EntryType, book.AmountText(entry.EntryValue), AccountText(entry), entry.EntryCategory,
                    entry.EntryInterval, entry.EntryDescription, ReasonText(plan)});
     }

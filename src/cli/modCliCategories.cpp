@@ -38,10 +38,10 @@ void PrintJson(const QList<cCategoryLine>& lines)
     modConsole::Out(modJson::Array(objects) + u'\n');
 }
 
-QString VatText(const cTemplateItem& item)
+QString VatText(const cTemplateItem& item, eDecimal decimal)
 {
     const std::optional<qint64> rate = modTemplate::VatRate(item);
-    return rate ? modTemplate::VatText(*rate).replace(u'.', u',') + u" %" : item.TemplateVAT;
+    return rate ? modTemplate::VatText(*rate).replace(u'.', modSum::Sign(decimal)) + u" %" : item.TemplateVAT;
 }
 
 void Print(const cCliBook& book, const QList<cCategoryLine>& lines)
@@ -58,8 +58,8 @@ void Print(const cCliBook& book, const QList<cCategoryLine>& lines)
     for (const auto& [item, entries] : lines) {
         table.Add({modTemplate::Path(item), item.EntryType, item.EntryInterval,
                    amount(modTemplate::ProposedCents(item)), amount(modTemplate::LimitCents(item, 1)),
-                   item.TemplateVAT.isEmpty() ? QString() : VatText(item), QString::number(entries),
-                   modTemplateText::State(item)});
+                   item.TemplateVAT.isEmpty() ? QString() : VatText(item, book.Format().Decimal()),
+                   QString::number(entries), modTemplateText::State(item)});
     }
     modConsole::Out(table.ToString());
 }

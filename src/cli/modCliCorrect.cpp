@@ -27,7 +27,7 @@ int Finish(const cCliContext& context, const cKey& occurrence, bool isDone)
         QString amount =
             isOther ? cText::Tr("{0} statt {1}", {context.Book->AmountText(correction->EntryValue), plain}) : plain;
         if (correction && correction->EntryDay.isValid()) {
-            amount = cText::Tr("{0}, am {1}", {amount, modDate::ToGerman(correction->EntryDay)});
+            amount = cText::Tr("{0}, am {1}", {amount, modDate::ToText(correction->EntryDay)});
         }
         modConsole::Out((period ? period->Title + u": "_s + amount : amount) + u'\n');
     }
@@ -51,8 +51,8 @@ int List(const cCliContext& context, int id)
                      {cText::Tr("Betrag"), eAlign::Right},
                      {cText::Tr("Kommentar")}});
     for (const cEntryItemFixMod& fixMod : fixMods) {
-        table.Add({modDate::ToGerman(fixMod.EntryStartDate), modDate::ToGerman(fixMod.EntryEndDate),
-                   fixMod.EntryDay.isValid() ? modDate::ToGerman(fixMod.EntryDay) : QString(),
+        table.Add({modDate::ToText(fixMod.EntryStartDate), modDate::ToText(fixMod.EntryEndDate),
+                   fixMod.EntryDay.isValid() ? modDate::ToText(fixMod.EntryDay) : QString(),
                    context.Book->AmountText(fixMod.EntryValue), fixMod.EntryComment});
     }
     modConsole::Out(table.ToString());
@@ -63,8 +63,7 @@ int Remove(const cCliContext& context, const cKey& occurrence)
 {
     cSeriesChange change(context.Book->Tools);
     if (!change.Correction(occurrence.ID, occurrence.Day)) {
-        modConsole::Error(
-            cText::Tr("Das Vorkommen vom {0} ist nicht korrigiert.", {modDate::ToGerman(occurrence.Day)}));
+        modConsole::Error(cText::Tr("Das Vorkommen vom {0} ist nicht korrigiert.", {modDate::ToText(occurrence.Day)}));
         return modExit::Failed;
     }
     return Finish(context, occurrence, change.RemoveCorrection(occurrence.ID, occurrence.Day));

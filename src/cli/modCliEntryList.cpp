@@ -49,7 +49,7 @@ QString ToTable(const cCliBook& book, const cEntryItemList& entries)
         const QString account = entry.EntryAccountMove.isEmpty()
             ? entry.EntryAccount
             : entry.EntryAccount + u" → "_s + entry.EntryAccountMove;
-        table.Add({QString::number(entry.ID), modDate::ToGerman(entry.EntryDate), entry.EntryType,
+        table.Add({QString::number(entry.ID), modDate::ToText(entry.EntryDate), entry.EntryType,
                    book.AmountText(entry.EntryValue), account, entry.EntryCategory, entry.EntryInterval,
                    entry.EntryDescription});
     }

@@ -42,7 +42,7 @@ std::vector<cRow> Rows(const cBalanceDays& days, const QString& account)
 
 void PrintTable(const cCliContext& context, const cBalanceDays& days, const std::vector<cRow>& rows)
 {
-    const QString last = modDate::ToGerman(days.Day(days.Count() - 1));
+    const QString last = modDate::ToText(days.Day(days.Count() - 1));
     cCliTable table({{cText::Tr("Konto")},
                      {cText::Tr("Heute"), eAlign::Right},
                      {cText::Tr("Tiefster Stand"), eAlign::Right},
@@ -51,7 +51,7 @@ void PrintTable(const cCliContext& context, const cBalanceDays& days, const std:
     for (const cRow& row : rows) {
         const int lowest = cBalanceDays::Lowest(row.Line, 0);
         table.Add({row.Name, context.Book->AmountText(row.Line.Cents.first()),
-                   context.Book->AmountText(row.Line.Cents[lowest]), modDate::ToGerman(days.Day(lowest)),
+                   context.Book->AmountText(row.Line.Cents[lowest]), modDate::ToText(days.Day(lowest)),
                    context.Book->AmountText(row.Line.Cents.last())});
     }
     modConsole::Out(table.ToString());

@@ -64,7 +64,7 @@ void AddLines(cCliTable& table, const cCliBook& book, const QList<cMatch>& match
     for (const cMatch& match : matches) {
         const cMatchCandidate& found = match.Candidate;
         table.Add({QString::number(match.RowId), state, QString::number(found.Entry.ID),
-                   modDate::ToGerman(found.Entry.EntryDate), book.AmountText(found.Cents), found.Entry.EntryDescription,
+                   modDate::ToText(found.Entry.EntryDate), book.AmountText(found.Cents), found.Entry.EntryDescription,
                    QString::number(std::lround(found.Score * 100.0)), found.Reason});
     }
 }

@@ -193,7 +193,7 @@ int Test(const cCliContext& context)
         objects.append(modCliRecord::Row(row)
                            .Raw(u"Rule"_s, place < 0 ? u"null"_s : ToJson(rules.at(place), place).ToString())
                            .ToString());
-        table.Add({modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue),
+        table.Add({modDate::ToText(row.ImportDate), book.AmountText(row.ImportValue),
                    modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose),
                    place < 0 ? QString() : QString::number(place + 1),
                    place < 0 ? QString() : modRuleText::Result(rules.at(place))});

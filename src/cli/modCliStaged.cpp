@@ -39,7 +39,7 @@ int Run(const cCliContext& context)
                      {cText::Tr("Zweck"), eAlign::Left, 40},
                      {cText::Tr("Stand")}});
     for (const cImportEntry& row : rows) {
-        table.Add({QString::number(row.ID), modDate::ToGerman(row.ImportDate), book.AmountText(row.ImportValue),
+        table.Add({QString::number(row.ID), modDate::ToText(row.ImportDate), book.AmountText(row.ImportValue),
                    modCutText::Name(row.ImportBeneficiary), modCutText::Purpose(row.ImportPurpose), State(row)});
     }
     modConsole::Out(table.ToString());

@@ -6,6 +6,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -27,6 +28,13 @@ qint64 CentsOf(const cAmountFormat::cAmount& amount)
 {
     const auto* text = std::get_if<QString>(&amount);
     return modAmount::ToCents(text != nullptr ? modAmount::ReadGerman(*text) : std::get<double>(amount));
+}
+
+QLocale LocaleOf(const QString& culture)
+{
+    const QLocale locale(QString(culture).replace(u'-', u'_'));
+    const bool isKnown = locale.language() != QLocale::C; // nothing chosen, or a name that nobody knows
+    return isKnown ? locale : QLocale(QLocale::German, QLocale::Germany);
 }
 
 QString DecimalSign()
@@ -99,6 +107,7 @@ void cAmountFormat::UseFormatCulture()
 void cAmountFormat::CultureChanged()
 {
     m_formatter.reset();
+    modDate::UseForm(DayForm(m_configuration.GetSetting(modSettingKey::LanguageFormat)));
 }
 
 QString cAmountFormat::Sample(const QString& culture, qint64 signedCents)
@@ -106,13 +115,33 @@ QString cAmountFormat::Sample(const QString& culture, qint64 signedCents)
     return CurrencyText(*MakeFormatter(culture), signedCents);
 }
 
+// Order and separator as the culture's short form has them; years have four digits, days and months two, so that lists
+// line up and no text is shorter than another.
+cDayForm cAmountFormat::DayForm(const QString& culture)
+{
+    constexpr QStringView separators = u"./-";
+    const QString pattern = LocaleOf(culture).dateFormat(QLocale::ShortFormat);
+    const qsizetype day = pattern.indexOf(u'd');
+    const qsizetype month = pattern.indexOf(u'M');
+    const qsizetype year = pattern.indexOf(u'y');
+    cDayForm form;
+    if (day < 0 || month < 0 || year < 0) {
+        return form;
+    }
+    const qsizetype first = std::min({day, month, year});
+    form.Order = first == year ? cDayForm::eOrder::YearFirst
+        : first == month       ? cDayForm::eOrder::MonthFirst
+                               : cDayForm::eOrder::DayFirst;
+    const auto end = std::find_if(pattern.begin() + first, pattern.end(), [](QChar c) { return !c.isLetter(); });
+    if (end != pattern.end() && separators.contains(*end)) {
+        form.Separator = end->unicode();
+    }
+    return form;
+}
+
 std::unique_ptr<cCultureFormatter> cAmountFormat::MakeFormatter(const QString& culture)
 {
-    QLocale locale(QString(culture).replace(u'-', u'_'));
-    if (locale.language() == QLocale::C) {
-        locale = QLocale(QLocale::German, QLocale::Germany); // nothing chosen, or a name that nobody knows
-    }
-    return std::make_unique<cLocaleFormatter>(locale);
+    return std::make_unique<cLocaleFormatter>(LocaleOf(culture));
 }
 
 QString cAmountFormat::Currency(qint64 signedCents) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/modDate.h"
 #include "base/modSum.h"
 
 #include <QString>
@@ -54,11 +55,15 @@ public:
     // Goes on with the culture of the setting "LanguageFormat" in place of the currency's.
     void UseFormatCulture();
 
-    // To be called after another book was opened or its culture settings were changed.
+    // To be called after a book was opened or its culture settings were changed. The days of the whole program follow
+    // the setting "LanguageFormat" from then on.
     void CultureChanged();
 
     // What an amount of cents looks like in a culture that nobody has chosen yet.
     [[nodiscard]] static QString Sample(const QString& culture, qint64 signedCents);
+
+    // How days are written in a culture.
+    [[nodiscard]] static cDayForm DayForm(const QString& culture);
 
     // A formatter over the library's locales.
     [[nodiscard]] static std::unique_ptr<cCultureFormatter> MakeFormatter(const QString& culture);

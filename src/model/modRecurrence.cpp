@@ -199,5 +199,5 @@ void modRecurrence::Expand(const cEntryItem& entry, const modPeriod::cRange& per
 
 QString modRecurrence::CorrectionLabel(const cEntryItemFixMod& fixMod)
 {
-    return cText::Tr("Manuelle Korrektur vom {0}", {modDate::ToGerman(fixMod.EntryStartDate)});
+    return cText::Tr("Manuelle Korrektur vom {0}", {modDate::ToText(fixMod.EntryStartDate)});
 }

@@ -145,9 +145,9 @@ QString modBookFile::Describe(const cContent& content)
 {
     const QString count = modCount::Entries(content.Entries);
     const QString file = cText::Tr("Datei vom {0} {1}",
-                                   {modDate::ToGerman(content.Modified.date()), content.Modified.toString(u"HH:mm"_s)});
+                                   {modDate::ToText(content.Modified.date()), content.Modified.toString(u"HH:mm"_s)});
     return content.LastEntry.isValid()
-        ? cText::Tr("{0}, der letzte vom {1}, {2}", {count, modDate::ToGerman(content.LastEntry), file})
+        ? cText::Tr("{0}, der letzte vom {1}, {2}", {count, modDate::ToText(content.LastEntry), file})
         : cText::Tr("{0}, {1}", {count, file});
 }
 

@@ -14,6 +14,25 @@ struct cMessage
     bool IsFinished = false;
 };
 
+// The translation, or the translations in the forms that numbers have in the language, as messages of their own.
+void ReadForms(QXmlStreamReader& xml, QList<cMessage>& messages)
+{
+    const cMessage message = messages.takeLast();
+    QString text;
+    QStringList forms;
+    while (xml.readNext() != QXmlStreamReader::EndElement && !xml.atEnd()) {
+        if (xml.isStartElement()) {
+            forms.append(xml.readElementText());
+        } else {
+            text += xml.text();
+        }
+    }
+    for (const QString& form : forms.isEmpty() ? QStringList(text) : forms) {
+        messages.append(message);
+        messages.last().Translated = form;
+    }
+}
+
 QList<cMessage> ReadCatalogue(QXmlStreamReader& xml)
 {
     QList<cMessage> messages;
@@ -25,7 +44,7 @@ QList<cMessage> ReadCatalogue(QXmlStreamReader& xml)
             messages.append({.German = xml.readElementText(), .Translated = {}});
         } else if (xml.name() == u"translation" && !messages.isEmpty()) {
             messages.last().IsFinished = !xml.attributes().hasAttribute(u"type"_s);
-            messages.last().Translated = xml.readElementText();
+            ReadForms(xml, messages);
         }
     }
     return messages;

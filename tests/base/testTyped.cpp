@@ -1,4 +1,5 @@
 #include "base/modAmount.h"
+#include "base/modDate.h"
 #include "base/modDayText.h"
 #include "base/modSum.h"
 
@@ -21,6 +22,9 @@ private Q_SLOTS:
     void PlainAmountsAsTheReader();
     void Days_data();
     void Days();
+    void DaysOfOtherForms_data();
+    void DaysOfOtherForms();
+    void ShownDaysAreReadBack();
 };
 
 namespace {
@@ -55,9 +59,14 @@ void testTyped::Sums_data()
     row("3 × 4,20 €", 1260);
     row(".5", 50);
     row("12,50−", -1250);
-    for (const char* wrong : {"", "€", "zwölf", "12+*3", "(1+2", "1+2)", "5/0", "0/0", "1.2.3", "12.34,5", "1,2,3",
-                              "1,23.45,6", "--5", "5+3-", "1e5", "99999999999999", "1,005", "5+12,345",
-                              "-1,234"}) { // a thousandth of a euro, or a grouped thousand?
+    row("(5)", 500); // a calculation
+    row("(5,00 €)", -500);
+    row("-1.234,50 kr.", -123450);
+    row("12 Euro", 1200);
+    for (const char* wrong :
+         {"",        "€",        "zwölf",     "12+*3", "(1+2", "1+2)", "5/0",  "0/0", "1.2.3",
+          "12.34,5", "1,2,3",    "1,23.45,6", "--5",   "3k",   "EUR",  "5+3-", "1e5", "99999999999999",
+          "1,005",   "5+12,345", "-1,234"}) { // a thousandth of a euro, or a grouped thousand?
         row(wrong, nothing);
     }
 }
@@ -146,6 +155,69 @@ void testTyped::Days()
 {
     QFETCH(QString, text);
     QTEST(modDayText::Read(text, QDate(2026, 3, 15)), "day");
+}
+
+void testTyped::DaysOfOtherForms_data()
+{
+    using enum cDayForm::eOrder;
+    QTest::addColumn<cDayForm>("form");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QDate>("day");
+    const auto row = [](cDayForm form, const char* text, QDate day) {
+        QTest::addRow("%d %c %s", static_cast<int>(form.Order), form.Separator, text)
+            << form << QString::fromUtf8(text) << day;
+    };
+    const cDayForm british{DayFirst, u'/'};
+    row(british, "03/04/2026", QDate(2026, 4, 3));
+    row(british, "3/4", QDate(2026, 4, 3));
+    row(british, "3.4.26", QDate(2026, 4, 3));
+    row(british, "0304", QDate(2026, 4, 3));
+    row(british, "4/13/2026", QDate());
+    const cDayForm american{MonthFirst, u'/'};
+    row(american, "03/04/2026", QDate(2026, 3, 4));
+    row(american, "3/4", QDate(2026, 3, 4));
+    row(american, "0304", QDate(2026, 3, 4));
+    row(american, "030427", QDate(2027, 3, 4));
+    row(american, "7", QDate(2026, 3, 7));
+    row(american, "2026-04-03", QDate(2026, 4, 3));
+    row(american, "3.4.2026", QDate()); // the third of April for whoever writes points
+    row(american, "13/4/2026", QDate());
+    const cDayForm swedish{YearFirst, u'-'};
+    row(swedish, "04-03", QDate(2026, 4, 3));
+    row(swedish, "26-4-3", QDate(2026, 4, 3));
+    row(swedish, "20270403", QDate(2027, 4, 3));
+    row(swedish, "270403", QDate(2027, 4, 3));
+    row({YearFirst, u'.'}, "2027.4.3.", QDate(2027, 4, 3));
+    row({}, "3/4/2026", QDate()); // either
+}
+
+void testTyped::DaysOfOtherForms()
+{
+    QFETCH(cDayForm, form);
+    QFETCH(QString, text);
+    modDate::UseForm(form);
+    const QDate day = modDayText::Read(text, QDate(2026, 3, 15));
+    modDate::UseForm({});
+    QTEST(day, "day");
+}
+
+void testTyped::ShownDaysAreReadBack()
+{
+    using enum cDayForm::eOrder;
+    const QDate today(2026, 3, 15);
+    for (const cDayForm::eOrder order : {DayFirst, MonthFirst, YearFirst}) {
+        for (const char16_t separator : {u'.', u'/', u'-'}) {
+            modDate::UseForm({order, separator});
+            for (QDate day(2026, 1, 1); day.year() == 2026; day = day.addDays(1)) {
+                const QString text = modDate::ToText(day);
+                const QString brief = modDate::ToShortText(day);
+                const bool isBoth = modDayText::Read(text, today) == day && modDayText::Read(brief, today) == day;
+                modDate::UseForm(isBoth ? modDate::Form() : cDayForm());
+                QVERIFY2(isBoth, qPrintable(text + u' ' + brief));
+            }
+        }
+    }
+    modDate::UseForm({});
 }
 
 QTEST_GUILESS_MAIN(testTyped)

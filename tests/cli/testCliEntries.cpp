@@ -28,6 +28,7 @@ private Q_SLOTS:
     void CheckSaysHowToMendHiddenEntries();
     void PartsOfASplitEntry();
     void StartBalances();
+    void FormatOfTheBook();
     void Search_data();
     void Search();
     void CategoryOfAList_data();
@@ -310,6 +311,26 @@ void testCliEntries::StartBalances()
     const QString id = Do(u"search|--json|Startguthaben"_s).Column(u"ID"_s).value(0);
     QCOMPARE(Stored(u"change|%1|--json|--amount|-20"_s.arg(id)).value(0).section(u'|', 1, 2), u"Ausgabe|20"_s);
     QCOMPARE(Run({u"change"_s, id, u"--category"_s, u"Miete"_s}).Code, 2);
+}
+
+// Options are read in the format in which the book shows amounts and days; what other programs read stays as it is.
+void testCliEntries::FormatOfTheBook()
+{
+    (void)Add(u"--amount|5|--category|Miete"_s); // makes the book
+    {
+        cDatabase database;
+        database.Open(Database(), eOpenMode::ReadWrite);
+        database.Execute(
+            "INSERT OR REPLACE INTO setting (SettingName, SettingValue) VALUES ('LanguageFormat', 'en-US')");
+    }
+    QCOMPARE(Stored(u"add|--json|--amount|1,234|--category|Miete|--date|03/04/2026"_s).value(0).section(u'|', 0, 2),
+             u"2026-03-04|Ausgabe|1234"_s);
+    QVERIFY(Do(u"search|Miete"_s).Text().contains(u"03/04/2026"_s));
+    for (const QStringList& doubtful : {QStringList{u"1.234"_s, u"2026-03-04"_s}, {u"12"_s, u"3.4.2026"_s}}) {
+        const cCliRun run =
+            Run({u"add"_s, u"--amount"_s, doubtful[0], u"--category"_s, u"Miete"_s, u"--date"_s, doubtful[1]});
+        QCOMPARE(run.Code, 2);
+    }
 }
 
 void testCliEntries::Search_data()

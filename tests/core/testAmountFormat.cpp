@@ -3,6 +3,7 @@
 #include "support/fakes.h"
 
 #include <QLocale>
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -113,6 +114,65 @@ private Q_SLOTS:
         bool isNegative = false;
         QCOMPARE(format.Format.FormatAmount(3.456, isNegative, {.Plain = true}), u"3,46"_s);
         QCOMPARE(format.Format.FormatAmount(-1234.5, isNegative, {.Plain = true}), u"-1234,50"_s);
+    }
+
+    // Whoever copies an amount from a list into a field gets that amount. What a culture writes in a way that the
+    // fields do not know (other digits, say) is refused, but never taken for another amount.
+    void ShownAmountsAreReadBack_data() const
+    {
+        QTest::addColumn<QString>("culture");
+        QTest::addColumn<bool>("isOffered");
+        for (const char* culture : {"de-DE", "de-AT", "de-CH", "de-LU", "en-GB", "en-IE", "en-US", "da-DK", "pl-PL",
+                                    "cs-CZ", "hu-HU", "id-ID"}) {
+            QTest::newRow(culture) << QString::fromLatin1(culture) << true;
+        }
+        for (const char* culture : {"fr-FR", "fr-CH", "nl-NL", "sv-SE", "ja-JP", "en-IN", "ar-EG", "fa-IR", "ar-TN",
+                                    "pt-BR", "tr-TR", "he-IL", "bg-BG", "ru-RU"}) {
+            QTest::newRow(culture) << QString::fromLatin1(culture) << false;
+        }
+    }
+
+    void ShownAmountsAreReadBack() const
+    {
+        QFETCH(const QString, culture);
+        QFETCH(const bool, isOffered);
+        const cFormat format(culture);
+        const eDecimal decimal = format.Format.Decimal();
+        QRandomGenerator random(1);
+        for (int i = 0; i < 2000; ++i) {
+            const qint64 most = i % 2 == 0 ? 1'000'000 : 1'000'000'000;
+            const qint64 cents = random.bounded(2 * most) - most;
+            const qint64 shown = format.Format.Cents(12) == format.Format.Cents(0) ? cents / 100 * 100 : cents;
+            const QString text = format.Format.Cents(shown);
+            const std::optional<qint64> read = modSum::Evaluate(text, decimal);
+            QVERIFY2(read == shown || (!read && !isOffered), qPrintable(text));
+            QCOMPARE(modSum::Evaluate(modSum::ToText(cents, decimal), decimal), std::optional(cents));
+        }
+    }
+
+    void DayForms_data() const
+    {
+        QTest::addColumn<QString>("culture");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("none chosen") << QString() << u"09.02.2024"_s;
+        QTest::newRow("Switzerland") << u"de-CH"_s << u"09.02.2024"_s;
+        QTest::newRow("Great Britain") << u"en-GB"_s << u"09/02/2024"_s;
+        QTest::newRow("United States") << u"en_US"_s << u"02/09/2024"_s;
+        QTest::newRow("Netherlands") << u"nl-NL"_s << u"09-02-2024"_s;
+        QTest::newRow("Sweden") << u"sv-SE"_s << u"2024-02-09"_s;
+        QTest::newRow("Hungary") << u"hu-HU"_s << u"2024.02.09"_s;
+    }
+
+    // The days of the program follow the format and not the currency.
+    void DayForms() const
+    {
+        QFETCH(const QString, culture);
+        cFormat format(u"en-US"_s);
+        format.Registry.Write(cConfiguration::RegistryKey, u"LanguageFormat"_s, culture);
+        format.Format.CultureChanged();
+        const QString text = modDate::ToText(QDate(2024, 2, 9));
+        modDate::UseForm({});
+        QTEST(text, "text");
     }
 
     // The culture is looked up once; only the other setting replaces it.

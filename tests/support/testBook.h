@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
@@ -23,6 +24,8 @@ class cTestBook
 
 public:
     cTestBook() { Configuration.SetDatabase(Settings.get()); }
+    ~cTestBook() { modDate::UseForm({}); } // a test may have chosen another
+    Q_DISABLE_COPY_MOVE(cTestBook)
 
     // Adds a one-off expense of 10 euros on 2026-03-10 as `change` makes it; the stored entry.
     template <typename tChange>

@@ -30,6 +30,8 @@ inline QString Named(const QWidget& widget)
         text += u' ' + button->text();
     } else if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
         text += u' ' + label->text();
+    } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+        text += u' ' + combo->currentText();
     }
     return text;
 }

@@ -197,6 +197,8 @@ private Q_SLOTS:
         fields.Amount = u"2.500"_s;
         scene.Model.Search(fields);
         QVERIFY(scene.Model.Hint().contains(u"nicht eindeutig"));
+        scene.Model.Search({.Text = u"10/03/2026"_s}); // days too
+        QCOMPARE(scene.Model.Entries().rowCount(), 1);
     }
 
     void ReadsTheBookOnlyWhenItHasTo()

@@ -4,8 +4,10 @@
 #include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
 #include "support/modUpdateAnswer.h"
+#include "support/cPseudoLanguage.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowTexts.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
 #include "testbank/cTestHttps.h"
@@ -31,6 +33,7 @@
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
+#include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/overview/cOverviewModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -66,13 +69,17 @@
 #include <QBoxLayout>
 #include <QBuffer>
 #include <QCheckBox>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -80,6 +87,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize smallScreen(784, 552); // 800 x 600 without what frame and bar take
+const QString bankWords =
+    u"Stecken Sie Ihre Karte in den TAN-Generator und drücken Sie \"F\". Halten Sie den Generator "
+    "vor die animierte Grafik."_s;
 
 // A book with what the windows can show: a series with a correction, a purchase in parts, a row from the bank.
 struct cScene
@@ -212,9 +222,7 @@ std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
     question.Procedure = u"Smart-TAN plus optisch"_s;
     question.Medium = u"Karte 1234567890"_s;
     question.Label = u"TAN-Eingabe:"_s;
-    question.Challenge =
-        u"Umsatzabfrage\r\nStecken Sie Ihre Karte in den TAN-Generator und drücken Sie \"F\". Halten Sie "
-        "den Generator vor die animierte Grafik."_s;
+    question.Challenge = u"Umsatzabfrage\r\n"_s + bankWords;
     question.Display = display;
     question.Flicker = QByteArray("\x1f\x1e", 2);
     QImage image(10, 10, QImage::Format_RGB32);
@@ -226,13 +234,65 @@ std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
     return std::make_unique<frmTan>(*scene.Tan);
 }
 
+// What stays as it is in every language: what the book holds and its file's name, the files that are read and the names
+// of their layouts, what banks say, the names of languages and of the program, and the months of the toolkit.
+QStringList Untranslatable(cScene& scene)
+{
+    QStringList texts{u"Kontorelle"_s,
+                      u"Deutsch"_s,
+                      u"English"_s,
+                      u"Miete"_s,
+                      u"Einkauf"_s,
+                      scene.Book.Path(),
+                      QFileInfo(scene.Book.Path()).completeBaseName(),
+                      u"dkb.csv"_s,
+                      u"giro.sta"_s,
+                      u"Testbank"_s,
+                      u"testuser"_s,
+                      u"kunde1"_s,
+                      u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s,
+                      u"Sparkasse Ahornstadt"_s,
+                      u"chipTAN optisch (Flickercode am Bildschirm)"_s,
+                      u"Smart-TAN plus optisch, Karte 1234567890"_s,
+                      u"SMS"_s,
+                      u"Anmeldename"_s, // as a bank calls it
+                      u"TAN-Eingabe:"_s,
+                      u"Umsatzabfrage"_s,
+                      bankWords};
+    const cBankProfile profile = cScene::BankProfile();
+    for (const cOfferedAccount& account : profile.Accounts) {
+        texts << QString::fromUtf8(account.Product).replace(u'&', u"&&"_s);
+    }
+    for (const QByteArray& medium : profile.Media) {
+        texts << QString::fromUtf8(medium);
+    }
+    texts += cStatementDesk::LayoutNames();
+    texts += {u"UTF"_s, u"Windows"_s, u"CP850 (DOS)"_s, u"BE"_s};
+    if (scene.Assistant) { // the headlines of its table
+        QFile table(QStringLiteral(TEST_DATA "/csv/dkb.csv"));
+        texts += table.open(QIODevice::ReadOnly)
+            ? QString::fromUtf8(table.readAll()).split(QRegularExpression(u"[;,\"\n]+"_s), Qt::SkipEmptyParts)
+            : QStringList();
+    }
+    for (const cTemplateItem& item : scene.Book.Data.GetTemplates()) {
+        texts << item.TemplateCategory << item.TemplateName;
+    }
+    for (int month = 1; month <= 12; ++month) {
+        texts << QLocale().standaloneMonthName(month) << QLocale().standaloneMonthName(month, QLocale::ShortFormat);
+    }
+    texts.removeAll(QString());
+    std::sort(texts.begin(), texts.end(), [](const QString& a, const QString& b) { return a.size() > b.size(); });
+    return texts;
+}
+
 // Shows every page of every book of tabs once and collects the faults of each.
-QStringList FaultsOfAllPages(QWidget& window)
+QStringList FaultsOfAllPages(QWidget& window,
+                             const std::function<QStringList(const QWidget&)>& find = modWindowFaults::All)
 {
     QStringList faults;
     const auto look = [&] {
         QTest::qWait(5);
-        faults += modWindowFaults::All(window);
+        faults += find(window);
     };
     look();
     const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
@@ -393,6 +453,8 @@ class testEveryWindow final : public QObject
 private Q_SLOTS:
     void CanBeReadAndOperated_data();
     void CanBeReadAndOperated();
+    void IsTranslatedWhole_data();
+    void IsTranslatedWhole();
     void FaultsAreFound();
 };
 
@@ -427,6 +489,40 @@ void testEveryWindow::CanBeReadAndOperated()
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
+void testEveryWindow::IsTranslatedWhole_data()
+{
+    QTest::addColumn<fnMake>("Make");
+    for (const auto& [name, make] : everyWindow) {
+        QTest::addRow("%s", name) << make;
+    }
+}
+
+// In a language with long words nothing is left in German and nothing is cut.
+void testEveryWindow::IsTranslatedWhole()
+{
+    QFETCH(fnMake, Make);
+    cPseudoLanguage language;
+    QCoreApplication::installTranslator(&language); // taken away by its destructor
+    cScene scene;
+    const std::unique_ptr<QWidget> window = Make(scene);
+    QVERIFY(window);
+    const QStringList allowed = Untranslatable(scene);
+    window->show();
+    QStringList faults = FaultsOfAllPages(*window, [&allowed](const QWidget& shown) {
+        QStringList found = modWindowFaults::Clipped(shown);
+        for (const modWindowTexts::cShown& text : modWindowTexts::Of(shown)) {
+            if (modWindowTexts::IsUntranslated(text.Text, allowed)) {
+                found.append(u"not translated: '%1' (%2)"_s.arg(text.Text, text.Where));
+            }
+        }
+        return found;
+    });
+    for (const QString& fault : faults) {
+        qWarning("%s", qPrintable(fault)); // a message of the test itself would be cut
+    }
+    QVERIFY(faults.isEmpty());
+}
+
 void testEveryWindow::FaultsAreFound()
 {
     QWidget window;
@@ -452,6 +548,11 @@ void testEveryWindow::FaultsAreFound()
     QCOMPARE(modWindowFaults::CutValues(window).size(), 1);
     window.setMinimumWidth(smallScreen.width() + 1);
     QCOMPARE(modWindowFaults::TooLarge(window, smallScreen).size(), 1);
+    const QString pseudo = cPseudoLanguage::Of(u"{0} &Einträge von <b>Konten</b>"_s);
+    QVERIFY2(pseudo.contains(u"{0}"_s) && pseudo.contains(u"<b>"_s) && pseudo.size() > 39, qPrintable(pseudo));
+    QVERIFY(!modWindowTexts::IsUntranslated(u"1.234,50 € "_s + pseudo + u" (Ctrl+N)"_s, {}));
+    QVERIFY(!modWindowTexts::IsUntranslated(u"Miete: [Sáldóó]"_s, {u"Miete"_s}));
+    QVERIFY(modWindowTexts::IsUntranslated(pseudo + u" Saldo"_s, {u"Miete"_s}));
 }
 
 QTEST_MAIN(testEveryWindow)

@@ -3,6 +3,7 @@
 #include "support/windowFaults.h"
 #include "views/book/cNationalSettings.h"
 #include "windows/book/frmLaender.h"
+#include "windows/widget/cDayEdit.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -32,6 +33,7 @@ class testFrmLaender final : public QObject
 private Q_SLOTS:
     void PreviewFollowsTheChoice();
     void UnknownCultureStays();
+    void DayFieldsKeepTheirDay();
 };
 
 void testFrmLaender::PreviewFollowsTheChoice()
@@ -43,10 +45,14 @@ void testFrmLaender::PreviewFollowsTheChoice()
     const QList<QComboBox*> combos = window.findChildren<QComboBox*>();
     QCOMPARE(combos.size(), 3);
     auto* amount = window.findChild<QLabel*>(u"amount"_s);
+    auto* date = window.findChild<QLabel*>(u"date"_s);
+    const QDate today = machine.Book.Clock.Today();
     Choose(*combos[1], u"en-IE"_s);
     QCOMPARE(amount->text(), u"€1,234.56"_s);
+    QCOMPARE(date->text(), today.toString(u"dd/MM/yyyy"_s));
     Choose(*combos[2], u"en-US"_s);
     QCOMPARE(amount->text(), u"$1,234.56"_s);
+    QCOMPARE(date->text(), today.toString(u"dd/MM/yyyy"_s));
     QVERIFY(machine.Book.Settings->Get(modSettingKey::LanguageCurrency).isEmpty()); // nothing is stored yet
     QTest::keyClick(&window, Qt::Key_Return);
     QVERIFY(!window.isVisible());
@@ -63,6 +69,27 @@ void testFrmLaender::UnknownCultureStays()
     window.show();
     QTest::keyClick(&window, Qt::Key_Return);
     QCOMPARE(machine.Book.Settings->Get(modSettingKey::LanguageFormat), u"fr-FR"_s);
+}
+
+// A field that stood open while another form was chosen.
+void testFrmLaender::DayFieldsKeepTheirDay()
+{
+    cMachine machine;
+    cDayEdit edit(QDate(2026, 3, 15));
+    const QDate day(2026, 4, 3);
+    const auto choose = [&machine](const QString& format) {
+        return machine.Settings.Save({.Language = u"de"_s, .Format = format, .Currency = {}});
+    };
+    QVERIFY(choose(u"en-GB"_s));
+    edit.SetDay(day);
+    QCOMPARE(edit.text(), u"03/04/2026"_s);
+    QVERIFY(choose(u"en-US"_s));
+    QCOMPARE(edit.Day(), day);
+    edit.setText(u"3/4"_s); // typed now
+    QCOMPARE(edit.Day(), QDate(2026, 3, 4));
+    QVERIFY(choose(u"de-DE"_s));
+    edit.SetDay(day);
+    QCOMPARE(edit.text(), u"03.04.2026"_s);
 }
 
 QTEST_MAIN(testFrmLaender)

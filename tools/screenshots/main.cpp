@@ -1,7 +1,8 @@
 #include "model/modSettingKey.h"
 
 // Renders the program's windows with the example household into PNG files, without a screen:
-//   kontorelle-screenshots FOLDER light|dark [POINTS [WIDTH HEIGHT]]
+//   kontorelle-screenshots FOLDER light|dark|pseudo [POINTS [WIDTH HEIGHT]]
+// "pseudo" is the light palette in a language of long words (cPseudoLanguage).
 // POINTS is the type size, WIDTH and HEIGHT are the largest that a window may be. The pictures are named after window
 // and palette. The scale comes from QT_SCALE_FACTOR, as for every program.
 
@@ -20,6 +21,7 @@
 #include "core/modDemo.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "tests/support/cPseudoLanguage.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
 #include "tools/screenshots/takeAssistant.h"
@@ -493,13 +495,17 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3 || !QDir().mkpath(arguments.at(1))) {
-        std::fputs("kontorelle-screenshots FOLDER light|dark [POINTS [WIDTH HEIGHT]]\n", stderr);
+        std::fputs("kontorelle-screenshots FOLDER light|dark|pseudo [POINTS [WIDTH HEIGHT]]\n", stderr);
         return 2;
     }
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::setStyle(new cStyle(u"Fusion"_s));
     if (arguments.at(2) == u"dark") {
         QApplication::setPalette(modPalette::Dark());
+    }
+    cPseudoLanguage language;
+    if (arguments.at(2) == u"pseudo") {
+        QCoreApplication::installTranslator(&language);
     }
     if (const int points = arguments.value(3).toInt(); points > 0) {
         QFont font = QApplication::font();

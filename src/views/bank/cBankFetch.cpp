@@ -65,7 +65,7 @@ QString MemoryKey(const cBankState& state, const cBankAccount& account)
 
 QString LastText(QDate day)
 {
-    return day.isValid() ? cText::Tr("zuletzt abgerufen am {0}", {modDate::ToGerman(day)})
+    return day.isValid() ? cText::Tr("zuletzt abgerufen am {0}", {modDate::ToText(day)})
                          : cText::Tr("noch nie abgerufen");
 }
 
@@ -88,7 +88,7 @@ bool IsSame(const cBankAccount& a, const cBankAccount& b)
 QString Missing(QDate from, QDate to, const QString& why)
 {
     return cText::Tr("Umsätze vom {0} bis {1} wurden nicht abgerufen: {2}",
-                     {modDate::ToGerman(from), modDate::ToGerman(to), why});
+                     {modDate::ToText(from), modDate::ToText(to), why});
 }
 
 cBankFailure Cancelled()
@@ -295,7 +295,7 @@ bool cBankFetch::AskAboutOld(std::vector<cJob>& jobs)
     const eAnswer answer = m_tools.User.Ask(
         {.Text = cText::Tr("Sie rufen auch Umsätze ab, die vor dem {0} gebucht wurden; dafür verlangt die Bank eine "
                            "TAN.\nSollen diese älteren Umsätze mit abgerufen werden?",
-                           {modDate::ToGerman(oldest)}),
+                           {modDate::ToText(oldest)}),
          .Title = cText::Tr("Ältere Umsätze"),
          .Buttons = eButtons::YesNoCancel});
     if (answer == eAnswer::No) {
@@ -454,7 +454,7 @@ void cBankFetch::NoteBalance(const cCame& came, const cImportResult& result, cLi
     }
     line.Balance = balances.last().Cents;
     line.BalanceText =
-        cText::Tr("{0} am {1}", {m_tools.Format.Cents(balances.last().Cents), modDate::ToGerman(balances.last().Day)});
+        cText::Tr("{0} am {1}", {m_tools.Format.Cents(balances.last().Cents), modDate::ToText(balances.last().Day)});
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
     ledger.Load(result.Number);
     const QList<modBalanceCheck::cFault>& faults = ledger.Check().Faults;

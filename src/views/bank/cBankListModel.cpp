@@ -85,7 +85,7 @@ QString cBankListModel::Text(const cLine& line, int column) const
     case Login: return line.Bank.UserId;
     case Account: return modBankText::Number(line.Account);
     case BookAccount: return line.BookAccount;
-    case LastFetch: return line.LastFetch.isValid() ? modDate::ToGerman(line.LastFetch) : cText::Tr("noch nie");
+    case LastFetch: return line.LastFetch.isValid() ? modDate::ToText(line.LastFetch) : cText::Tr("noch nie");
     case Method: return line.Bank.Method ? modBankText::Method(*line.Bank.Method) : QString();
     default: return {};
     }

@@ -26,7 +26,7 @@ cBackupPlan PlanOf(const cBackupSettings::cParts& parts)
 QString When(const cBackupPlan::cCopy& copy, const QFileInfo& file)
 {
     const QDateTime time = file.lastModified();
-    const QString day = modDate::ToGerman(copy.Day);
+    const QString day = modDate::ToText(copy.Day);
     return time.date() == copy.Day ? day + time.toString(u" HH:mm"_s) : day;
 }
 

@@ -30,7 +30,7 @@ QString TextOf(eEntryFault fault, const cFaultyEntry& entry)
             : cText::Tr("Intervall '{0}' unbekannt", {entry.Entry.EntryInterval});
     case eEntryFault::End:
         return cText::Tr("endet am {0}, vor dem ersten Tag",
-                         {modDate::ToGerman(modRecurrence::EffectiveEnd(entry.Entry.EntryDateEnd))});
+                         {modDate::ToText(modRecurrence::EffectiveEnd(entry.Entry.EntryDateEnd))});
     case eEntryFault::Amount:
         return entry.AmountText.isEmpty() ? cText::Tr("kein Betrag")
                                           : cText::Tr("Betrag '{0}' nicht lesbar", {entry.AmountText});
@@ -123,7 +123,7 @@ QString cBookCheck::CellText(const cFaultyEntry& entry, int column) const
 {
     switch (column) {
     case Fault: return FaultText(entry);
-    case Day: return modDate::ToGerman(entry.Entry.EntryDate);
+    case Day: return modDate::ToText(entry.Entry.EntryDate);
     case Text: return modEntryFields::Name(entry.Entry);
     case Account: return entry.Entry.EntryAccount;
     case Amount:

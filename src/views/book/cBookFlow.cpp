@@ -240,9 +240,9 @@ void cBookFlow::TellDamage()
     QString offer =
         cText::Tr("Eine unbeschädigte Sicherung liegt nicht im Ordner '{0}'.", {Shown(PlanOf(m_parts).Folder())});
     if (copy) {
-        options.prepend(cText::Tr("Sicherung vom {0} &laden", {modDate::ToGerman(copy->Day)}));
+        options.prepend(cText::Tr("Sicherung vom {0} &laden", {modDate::ToText(copy->Day)}));
         offer = cText::Tr("Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:\n{1}.",
-                          {modDate::ToGerman(copy->Day), modBookFile::Describe(modBookFile::Look(copy->Path))});
+                          {modDate::ToText(copy->Day), modBookFile::Describe(modBookFile::Look(copy->Path))});
     }
     const int chosen = m_parts.User.Decide(
         {.Text = cText::Tr("Die Datei der Datenbank '{0}' ist beschädigt. Was Sie sehen, kann unvollständig sein, und "

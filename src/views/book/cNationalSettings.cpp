@@ -66,7 +66,7 @@ cNationalSettings::cPreview cNationalSettings::Preview(const cFields& fields) co
 {
     const QString culture = fields.Currency.isEmpty() ? fields.Format : fields.Currency;
     return {cAmountFormat::Sample(culture, sampleCents), cAmountFormat::Sample(culture, -sampleCents),
-            modDate::ToGerman(m_tools.Clock.Today())};
+            modDate::ToText(m_tools.Clock.Today(), cAmountFormat::DayForm(fields.Format))};
 }
 
 bool cNationalSettings::Save(const cFields& fields)

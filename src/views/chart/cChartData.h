@@ -3,6 +3,7 @@
 #include "model/modPeriod.h"
 #include "views/report/cReportFigures.h"
 
+#include <QDate>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -69,6 +70,7 @@ struct cChartData
     QString BackText;        // what leads one level up again; empty where there is none
     QString LabelTitle;      // what the labels are, as the table's headline: "Monat"
     QStringList Labels;      // in full, for tooltips and table
+    QList<QDate> Days;       // the labels, where they are days
     QStringList ShortLabels; // for the axis; empty when they are the same
     QList<int> Ticks;        // labels that the axis may show; empty for all
     QList<cChartSeries> Series;

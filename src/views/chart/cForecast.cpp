@@ -110,5 +110,5 @@ QString cForecast::Text(const cLimitWarning& warning, const cAmountFormat& forma
         warning.Entry.EntryDescription.isEmpty() ? warning.Entry.EntryCategory : warning.Entry.EntryDescription;
     const QString amount = format.Cents(modBalance::Effect(warning.Entry, warning.Account));
     return cText::Tr("Am {0} fällt das Konto '{1}' mit '{2}' ({3}) auf {4} und damit unter sein Limit von {5}.",
-                     {modDate::ToGerman(warning.Day), warning.Account, what, amount, balance, limit});
+                     {modDate::ToText(warning.Day), warning.Account, what, amount, balance, limit});
 }

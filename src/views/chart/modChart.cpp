@@ -88,8 +88,8 @@ std::optional<eReportKind> modChart::KindOf(eChartKind kind)
 QString modChart::RangeText(const modPeriod::cRange& range)
 {
     if (!range.Start.isValid() || !range.End.isValid()) {
-        return range.Start.isValid() ? cText::Tr("ab {0}", {modDate::ToGerman(range.Start)})
-            : range.End.isValid()    ? cText::Tr("bis {0}", {modDate::ToGerman(range.End)})
+        return range.Start.isValid() ? cText::Tr("ab {0}", {modDate::ToText(range.Start)})
+            : range.End.isValid()    ? cText::Tr("bis {0}", {modDate::ToText(range.End)})
                                      : cText::Tr("alle Buchungen");
     }
     const QString year = QString::number(range.Start.year());
@@ -102,8 +102,8 @@ QString modChart::RangeText(const modPeriod::cRange& range)
     if (IsWholeYears(range)) {
         return IsWhole(range, 12) ? year : u"%1–%2"_s.arg(year, QString::number(range.End.year()));
     }
-    return range.Start == range.End ? modDate::ToGerman(range.Start)
-                                    : u"%1–%2"_s.arg(modDate::ToGerman(range.Start), modDate::ToGerman(range.End));
+    return range.Start == range.End ? modDate::ToText(range.Start)
+                                    : u"%1–%2"_s.arg(modDate::ToText(range.Start), modDate::ToText(range.End));
 }
 
 QString modChart::MonthText(QDate month)

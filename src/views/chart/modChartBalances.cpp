@@ -24,7 +24,7 @@ QList<int> TicksOf(const cBalanceDays& days)
 QString ShortLabel(QDate day, int count)
 {
     if (count <= mostDays) {
-        return day.toString(QStringLiteral("dd.MM."));
+        return modDate::ToShortText(day);
     }
     return day.day() == 1 ? modChart::ShortMonthText(day) : QString();
 }
@@ -90,7 +90,7 @@ void AddSecond(cChartData& data, const cBalanceDays& days, const QString& accoun
     series.Colour = data.Series.isEmpty() ? 0 : data.Series.first().Colour;
     series.IsComparison = true;
     for (int day = 0; day < days.Count(); ++day) {
-        series.OwnLabels.append(modDate::ToGerman(days.Day(day)));
+        series.OwnLabels.append(modDate::ToText(days.Day(day)));
     }
     data.Series.append(series);
 }
@@ -102,7 +102,7 @@ void AddMark(cChartData& data, const cBalanceDays& days, const cBalanceLine& lin
     if (lowest > data.Today) {
         data.Marks.append({0, lowest,
                            cText::Tr("Tiefster Stand: {0} am {1}",
-                                     {data.MoneyText(line.Cents[lowest]), modDate::ToGerman(days.Day(lowest))})});
+                                     {data.MoneyText(line.Cents[lowest]), modDate::ToText(days.Day(lowest))})});
     }
 }
 
@@ -123,7 +123,8 @@ cChartData modChart::Balances(const cBalanceInput& input)
     }
     for (int day = 0; day < days.Count(); ++day) {
         const QDate date = days.Day(day);
-        data.Labels.append(modDate::ToGerman(date));
+        data.Days.append(date);
+        data.Labels.append(modDate::ToText(date));
         data.ShortLabels.append(ShortLabel(date, days.Count()));
     }
     data.Ticks = TicksOf(days);

@@ -1,6 +1,7 @@
 #include "views/chart/modChartTable.h"
 
 #include "base/cText.h"
+#include "base/modDate.h"
 #include "views/export/modCsv.h"
 
 #include <QLocale>
@@ -123,9 +124,11 @@ QByteArray modChartTable::Csv(const cChartData& data)
         title = modCsv::Text(title);
     }
     QByteArray bytes = modCsv::Mark + modCsv::Line(titles);
-    for (const cChartFigures::cRow& row : figures.Rows) {
+    for (qsizetype i = 0; i < figures.Rows.size(); ++i) {
+        const cChartFigures::cRow& row = figures.Rows.at(i);
         if (!row.IsSum) {
-            bytes += modCsv::Line(QStringList{modCsv::Text(row.Name)} + Numbers(row));
+            const QString name = i < data.Days.size() ? modDate::ToGerman(data.Days.at(i)) : modCsv::Text(row.Name);
+            bytes += modCsv::Line(QStringList{name} + Numbers(row));
         }
     }
     return bytes;

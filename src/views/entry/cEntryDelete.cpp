@@ -28,7 +28,7 @@ QString SeriesName(const cEntryItem& entry)
 {
     return cText::Tr("'{0}' ({1} seit {2})",
                      {modEntryFields::Name(entry), modWord::Intervals().ToShown(entry.EntryInterval),
-                      modDate::ToGerman(entry.EntryDate)});
+                      modDate::ToText(entry.EntryDate)});
 }
 
 QString Lines(const QStringList& names)
@@ -75,7 +75,7 @@ QString StepName(const cDeleteTargetList& targets, eSeriesPart part)
     }
     if (isOccurrence && part == eSeriesPart::FromHere) {
         return cText::Tr("'{0}' ab {1} gelöscht",
-                         {modEntryFields::Name(first.Entry), modDate::ToGerman(first.Days.first())});
+                         {modEntryFields::Name(first.Entry), modDate::ToText(first.Days.first())});
     }
     const qsizetype lines = counts.Entries + (part == eSeriesPart::OnlyThis ? counts.Occurrences : counts.Series);
     return lines == 1 ? cText::Tr("Eintrag gelöscht") : cText::Tr("{0} Einträge gelöscht", {QString::number(lines)});
@@ -189,11 +189,11 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
     const QDate day = first.Days.first();
     if (part == eSeriesPart::OnlyThis) {
         return cText::Tr("Möchten Sie '{0}' vom {1} auslassen?\nDer Betrag wird null, die Serie läuft weiter.",
-                         {name, modDate::ToGerman(day)})
+                         {name, modDate::ToText(day)})
             + LostCorrection(first.Entry.ID, day);
     }
     return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.",
-                     {name, modDate::ToGerman(day)});
+                     {name, modDate::ToText(day)});
 }
 
 QString cEntryDelete::LostCorrection(int id, QDate day) const
@@ -207,7 +207,7 @@ QString cEntryDelete::LostCorrection(int id, QDate day) const
 QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
 {
     const cEntryItem& first = targets.first().Entry;
-    const QString day = first.EntryDate.isValid() ? modDate::ToGerman(first.EntryDate) : cText::Tr("(kein Tag)");
+    const QString day = first.EntryDate.isValid() ? modDate::ToText(first.EntryDate) : cText::Tr("(kein Tag)");
     QString text = targets.size() == 1
         ? cText::Tr("Möchten Sie den Eintrag {0} löschen?",
                     {cText::Tr("'{0}' vom {1} über {2}",
@@ -240,8 +240,8 @@ QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStri
     const cDeleteTarget& first = targets.first();
     QString text = counts.Occurrences == 1 && counts.Entries == 0
         ? cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).",
-                    {modEntryFields::Name(first.Entry), modDate::ToGerman(first.Days.first()),
-                     modWord::Intervals().ToShown(first.Entry.EntryInterval), modDate::ToGerman(first.Entry.EntryDate)})
+                    {modEntryFields::Name(first.Entry), modDate::ToText(first.Days.first()),
+                     modWord::Intervals().ToShown(first.Entry.EntryInterval), modDate::ToText(first.Entry.EntryDate)})
         : cText::Tr("Ausgewählt sind {0} Vorkommen von {1}:",
                     {QString::number(counts.Occurrences), CountOfSeries(counts.Series)})
             + u'\n' + Lines(names);

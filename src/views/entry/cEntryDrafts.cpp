@@ -63,7 +63,7 @@ bool cEntryDrafts::Write(const QList<cEntryDraft>& drafts) const
 cEntryDrafts::eWish cEntryDrafts::Ask(const cEntryDraft& draft, cUser& user)
 {
     const QString day =
-        cText::Tr("{0}, {1} Uhr", {modDate::ToGerman(draft.Kept.date()), draft.Kept.toString(u"HH:mm"_s)});
+        cText::Tr("{0}, {1} Uhr", {modDate::ToText(draft.Kept.date()), draft.Kept.toString(u"HH:mm"_s)});
     const int option = user.Decide(
         {.Text = cText::Tr("Ein nicht gespeicherter Eintrag vom {0} wurde aufgehoben:\n{1}\nWiederherstellen? Mit "
                            "Abbrechen bleibt er bis zum nächsten Start aufgehoben.",

@@ -3,6 +3,7 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
@@ -172,7 +173,7 @@ QString cEntryEditor::Title(const cFields& fields) const
         return cText::Tr("Startguthaben");
     }
     if (m_from.isValid()) {
-        return cText::Tr("Serie ab {0} bearbeiten", {modDate::ToGerman(m_from)});
+        return cText::Tr("Serie ab {0} bearbeiten", {modDate::ToText(m_from)});
     }
     return IsNew() ? cText::Tr("Neuer Eintrag") : cText::Tr("Eintrag bearbeiten");
 }
@@ -204,13 +205,13 @@ QString cEntryEditor::VatText(const cFields& fields) const
         return !modTemplate::IsAccount(item) && modTemplate::Path(item) == fields.Category;
     });
     const qint64 rate = category == items.end() ? 0 : modTemplate::VatRate(*category).value_or(0);
-    const qint64 cents = rate == 0 ? 0 : std::abs(modSum::Evaluate(fields.Amount).value_or(0));
+    const qint64 cents = rate == 0 ? 0 : std::abs(modSum::Evaluate(fields.Amount, fields.Decimal).value_or(0));
     if (cents == 0) {
         return {};
     }
-    return cText::Tr(
-        "darin {0} % MwSt.: {1}",
-        {modTemplate::VatText(rate).replace(u'.', u','), m_tools.Format.Cents(modTemplate::VatCents(cents, rate))});
+    return cText::Tr("darin {0} % MwSt.: {1}",
+                     {modTemplate::VatText(rate).replace(u'.', modSum::Sign(fields.Decimal)),
+                      m_tools.Format.Cents(modTemplate::VatCents(cents, rate))});
 }
 
 QString cEntryEditor::StartBalanceText(const QString& account) const
@@ -220,7 +221,7 @@ QString cEntryEditor::StartBalanceText(const QString& account) const
         return cText::Tr("Bisher wurde noch kein Startguthaben festgelegt:");
     }
     return cText::Tr("Bisheriges Startguthaben: {0} am {1}",
-                     {m_tools.Format.Cents(modBalance::Effect(*stored, {})), modDate::ToGerman(stored->EntryDate)});
+                     {m_tools.Format.Cents(modBalance::Effect(*stored, {})), modDate::ToText(stored->EntryDate)});
 }
 
 QStringList cEntryEditor::Categories() const
@@ -309,7 +310,7 @@ bool cEntryEditor::ShowsCorrections(const cFields& fields) const
 QString cEntryEditor::EndedText(const cEntryItem& series, const QString& count)
 {
     const QDate last = modSeries::Last(series);
-    return last.isValid() ? cText::Tr("{0}, beendet: zuletzt am {1}", {count, modDate::ToGerman(last)})
+    return last.isValid() ? cText::Tr("{0}, beendet: zuletzt am {1}", {count, modDate::ToText(last)})
                           : cText::Tr("Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin.");
 }
 
@@ -326,10 +327,10 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
     preview.Next = modSeries::Next(series, m_tools.Clock.Today(), shownDays);
     QStringList days;
     for (const QDate day : std::as_const(preview.Next)) {
-        days.append(modDate::ToGerman(day));
+        days.append(modDate::ToText(day));
     }
     const bool isOpen = modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd;
-    const QString count = isOpen ? cText::Tr("ohne Ende") : cText::Tr("{0} Mal", {QString::number(preview.Count)});
+    const QString count = isOpen ? cText::Tr("ohne Ende") : modCount::Times(preview.Count);
     preview.Text =
         days.isEmpty() ? EndedText(series, count) : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
     return preview;

@@ -56,7 +56,7 @@ std::optional<cFault> FaultOf(const cEntryFields& fields, QDate today)
     if (cEntryEditor::ShowsSeries(fields) && series.EntryDateEnd < series.EntryDate) {
         return cFault{eEntrySaved::BadEnd,
                       cText::Tr("Endet am: Der letzte Tag ({0}) liegt vor dem ersten ({1}).",
-                                {modDate::ToGerman(series.EntryDateEnd), modDate::ToGerman(series.EntryDate)})};
+                                {modDate::ToText(series.EntryDateEnd), modDate::ToText(series.EntryDate)})};
     }
     return std::nullopt;
 }
@@ -251,7 +251,7 @@ void cEntryEditor::Remember(const QList<cEntryWrite>& rows)
     const cEntryItem& first = entries.first();
     const qint64 cents = first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(entries);
     m_savedId = first.ID;
-    m_lastSaved.prepend(modDate::ToGerman(first.EntryDate) + u"  "_s + modEntryFields::Name(first) + u"  "_s
+    m_lastSaved.prepend(modDate::ToText(first.EntryDate) + u"  "_s + modEntryFields::Name(first) + u"  "_s
                         + m_tools.Format.Cents(cents));
     m_lastSaved = m_lastSaved.mid(0, mostRemembered);
 }

@@ -62,8 +62,8 @@ cSeriesChange::eEdit cSeriesChange::AskWhatToEdit(int entryId, QDate day)
     options.append(cText::Tr("Ganze Serie"));
     const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nWas möchten Sie ändern?",
-                           {modEntryFields::Name(*series), modDate::ToGerman(day),
-                            modWord::Intervals().ToShown(series->EntryInterval), modDate::ToGerman(series->EntryDate)}),
+                           {modEntryFields::Name(*series), modDate::ToText(day),
+                            modWord::Intervals().ToShown(series->EntryInterval), modDate::ToText(series->EntryDate)}),
          .Title = cText::Tr("Serie bearbeiten"),
          .Options = options});
     return edits.value(choice, eEdit::Nothing);
@@ -97,11 +97,10 @@ std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entry
     fields.EntryId = entryId;
     fields.Day = occurrence->EntryDate;
     fields.Title = cText::Tr("'{0}' vom {1} bis {2}",
-                             {modEntryFields::Name(*occurrence), modDate::ToGerman(period.EntryStartDate),
-                              modDate::ToGerman(period.EntryEndDate)});
+                             {modEntryFields::Name(*occurrence), modDate::ToText(period.EntryStartDate),
+                              modDate::ToText(period.EntryEndDate)});
     fields.Today = today;
-    fields.DayText =
-        modDate::ToGerman(correction && correction->EntryDay.isValid() ? correction->EntryDay : fields.Day);
+    fields.DayText = modDate::ToText(correction && correction->EntryDay.isValid() ? correction->EntryDay : fields.Day);
     fields.Amount =
         modSum::ToText(correction ? correction->EntryValue : occurrence->EntryValue, m_tools.Format.Decimal());
     fields.Decimal = m_tools.Format.Decimal();

@@ -17,12 +17,11 @@ QList<modCorrections::cLine> modCorrections::Lines(const cEntryFields& fields)
 {
     QList<cLine> lines;
     for (const cEntryItemFixMod& fixMod : fields.Corrections) {
-        const QString period =
-            modDate::ToGerman(fixMod.EntryStartDate) + u" – "_s + modDate::ToGerman(fixMod.EntryEndDate);
-        lines.append({modRecurrence::CorrectionLabel(fixMod),
-                      fixMod.EntryDay.isValid() ? cText::Tr("{0}, am {1}", {period, modDate::ToGerman(fixMod.EntryDay)})
-                                                : period,
-                      modSum::ToText(fixMod.EntryValue, fields.Decimal), fixMod.EntryComment});
+        const QString period = modDate::ToText(fixMod.EntryStartDate) + u" – "_s + modDate::ToText(fixMod.EntryEndDate);
+        lines.append(
+            {modRecurrence::CorrectionLabel(fixMod),
+             fixMod.EntryDay.isValid() ? cText::Tr("{0}, am {1}", {period, modDate::ToText(fixMod.EntryDay)}) : period,
+             modSum::ToText(fixMod.EntryValue, fields.Decimal), fixMod.EntryComment});
     }
     return lines;
 }

@@ -43,7 +43,10 @@ QByteArray Cell(const cColumn& column, const cEntryExtract::cRow& row, const cAm
         const QByteArray kind = cents.value_or(0) < 0 ? "m n" : "m";
         return "<td class=\"" + kind + "\">" + (cents ? Escaped(format.Cents(*cents)) : QByteArray()) + "</td>";
     }
-    return (column.Content == eContent::Date ? "<td class=\"d\">" : "<td>") + Escaped(column.Text(row)) + "</td>";
+    if (column.Content == eContent::Date) {
+        return "<td class=\"d\">" + Escaped(modDate::ToText(row.Entry.EntryDate)) + "</td>"; // read by people
+    }
+    return "<td>" + Escaped(column.Text(row)) + "</td>";
 }
 
 // A line with a name on the left and a sum under the amounts; used for groups and for the sums of the list.

@@ -197,7 +197,7 @@ QString cUpdateCheck::Headline() const
         return cText::Tr("Sie benutzen Kontorelle {0}. Eine neuere Version gibt es nicht.", {m_version});
     case eState::Found:
         return cText::Tr("Kontorelle {0} vom {1} ist da. Sie benutzen Version {2}.",
-                         {Newest().Version.toString(), modDate::ToGerman(Newest().Day), m_version});
+                         {Newest().Version.toString(), modDate::ToText(Newest().Day), m_version});
     case eState::Loading: return cText::Tr("Kontorelle {0} wird heruntergeladen …", {Newest().Version.toString()});
     case eState::Loaded:
         return cText::Tr(

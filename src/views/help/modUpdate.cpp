@@ -162,7 +162,7 @@ QString modUpdate::Notes(const QList<cUpdateRelease>& releases)
     QStringList parts;
     for (const cUpdateRelease& release : releases) {
         const QString head =
-            cText::Tr("Version {0} vom {1}", {release.Version.toString(), modDate::ToGerman(release.Day)});
+            cText::Tr("Version {0} vom {1}", {release.Version.toString(), modDate::ToText(release.Day)});
         const QString notes =
             release.Notes.isEmpty() ? cText::Tr("Was sich geändert hat, ist nicht angegeben.") : release.Notes;
         parts.append(head + u"\n\n"_s + notes);

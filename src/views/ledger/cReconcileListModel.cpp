@@ -59,7 +59,7 @@ QString cReconcileListModel::CureText(int row) const
 
 QString cReconcileListModel::ConfirmText() const
 {
-    return cText::Tr("Sti&mmt bis {0}", {modDate::ToGerman(m_reconciliation.Until())});
+    return cText::Tr("Sti&mmt bis {0}", {modDate::ToText(m_reconciliation.Until())});
 }
 
 bool cReconcileListModel::TakeBank(int row)
@@ -95,9 +95,9 @@ QString cReconcileListModel::Text(const cReconcileItem& item, int column) const
     switch (column) {
     case Kind: return cReconciliation::KindText(item);
     case Name: return item.Text;
-    case BankDay: return hasBank ? modDate::ToGerman(item.BankDay) : QString();
+    case BankDay: return hasBank ? modDate::ToText(item.BankDay) : QString();
     case BankAmount: return hasBank ? m_tools.Format.Cents(item.BankCents) : QString();
-    case BookDay: return hasBook ? modDate::ToGerman(item.BookDay) : QString();
+    case BookDay: return hasBook ? modDate::ToText(item.BookDay) : QString();
     case BookAmount: return hasBook ? m_tools.Format.Cents(item.BookCents) : QString();
     default: return {};
     }

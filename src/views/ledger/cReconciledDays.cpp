@@ -68,7 +68,7 @@ bool cReconciledGuard::Allows()
             m_tools.User.Ask(
                 {.Text = cText::Tr("Das Konto '{0}' stimmt bis {1} mit der Bank überein. Mit dieser Änderung wäre "
                                    "es ab dem {2} nicht mehr so.\n\nTrotzdem ändern?",
-                                   {account.key(), modDate::ToGerman(*account), modDate::ToGerman(first)}),
+                                   {account.key(), modDate::ToText(*account), modDate::ToText(first)}),
                  .Title = cText::Tr("Mit der Bank abgeglichen"),
                  .Default = eAnswer::No})
             == eAnswer::Yes;

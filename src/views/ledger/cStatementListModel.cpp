@@ -328,8 +328,7 @@ QStringList cStatementListModel::Lines() const
     const modPeriod::cRange range = Range();
     QStringList lines{cText::Tr("Kontonummer: {0}", {Number()})};
     if (range.Start.isValid() || range.End.isValid()) {
-        lines.append(
-            cText::Tr("Zeitraum: {0} bis {1}", {modDate::ToGerman(range.Start), modDate::ToGerman(range.End)}));
+        lines.append(cText::Tr("Zeitraum: {0} bis {1}", {modDate::ToText(range.Start), modDate::ToText(range.End)}));
     }
     if (!m_words.isEmpty()) {
         lines.append(cText::Tr("Suchtext: {0}", {m_typed}));
@@ -392,7 +391,7 @@ QString cStatementListModel::Text(qsizetype row, int column) const
 {
     const cImportEntry& entry = m_ledger.Rows().at(row);
     switch (column) {
-    case Day: return modDate::ToGerman(entry.ImportDate);
+    case Day: return modDate::ToText(entry.ImportDate);
     case Counterparty: return OneLine(modCutText::Name(entry.ImportBeneficiary));
     case Purpose:
         return OneLine(entry.ImportPurpose.isEmpty() ? entry.ImportType : modCutText::Purpose(entry.ImportPurpose));

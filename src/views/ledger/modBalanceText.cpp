@@ -63,7 +63,7 @@ private:
             if (before >= 0 && m_ledger.Rows().at(before).ImportDate == row.ImportDate) {
                 return cText::Tr("Am {1} gibt es zwei Umsätze über diesen Betrag, '{0}' und '{2}'; wahrscheinlich ist "
                                  "einer doppelt eingelesen.",
-                                 {NameOf(m_ledger.Rows().at(before)), modDate::ToGerman(row.ImportDate), NameOf(row)});
+                                 {NameOf(m_ledger.Rows().at(before)), modDate::ToText(row.ImportDate), NameOf(row)});
             }
             before = i;
         }
@@ -78,7 +78,7 @@ private:
             if (m_ledger.CentsOf(i) == m_fault.Missing) {
                 return cText::Tr("Über diesen Betrag gibt es den Umsatz '{0}' vom {1}. Hat die Bank ihn zweimal, wurde "
                                  "der zweite beim Einlesen für eine Wiederholung gehalten.",
-                                 {NameOf(row), modDate::ToGerman(row.ImportDate)});
+                                 {NameOf(row), modDate::ToText(row.ImportDate)});
             }
         }
         return {};
@@ -104,8 +104,8 @@ private:
 // What is missing on one side may as well be too much on the other.
 QString Missing(const cFault& fault, const cAmountFormat& format)
 {
-    const QStringList values{modDate::ToGerman(fault.From), format.Cents(std::abs(fault.Missing)),
-                             modDate::ToGerman(fault.To)};
+    const QStringList values{modDate::ToText(fault.From), format.Cents(std::abs(fault.Missing)),
+                             modDate::ToText(fault.To)};
     if (fault.From == fault.To) {
         return fault.Missing < 0 ? cText::Tr("Am {0} fehlen {1} an Ausgaben:", values)
                                  : cText::Tr("Am {0} fehlen {1} an Einnahmen:", values);
@@ -118,7 +118,7 @@ QString Passing(const cPoint& point, const cAmountFormat& format)
 {
     return cText::Tr("Am {0} nennt die Bank {1}, wenige Tage davor und danach stimmt der Saldo: wahrscheinlich hat sie "
                      "Umsätze an anderen Tagen gebucht, als dort steht.",
-                     {modDate::ToGerman(point.Day), format.Cents(point.Bank)});
+                     {modDate::ToText(point.Day), format.Cents(point.Bank)});
 }
 
 // A start balance would only hide that rows of the bank are missing.
@@ -146,7 +146,7 @@ QStringList modBalanceText::Bank(const cStatementLedger& ledger, const cAmountFo
         return {cText::Tr("Die Bank hat für dieses Konto noch keinen Kontostand genannt. Der Saldo beginnt deshalb bei "
                           "null und lässt sich nicht prüfen.")};
     }
-    const QStringList newest{format.Cents(check.Points.last().Bank), modDate::ToGerman(check.Points.last().Day)};
+    const QStringList newest{format.Cents(check.Points.last().Bank), modDate::ToText(check.Points.last().Day)};
     QStringList lines;
     if (check.Faults.isEmpty()) {
         const auto count = std::count_if(check.Points.begin(), check.Points.end(),
@@ -179,10 +179,10 @@ QString modBalanceText::Book(const cBookComparison& book, const QString& account
 {
     using eState = cBookComparison::eState;
     const QStringList values{account,
-                             modDate::ToGerman(book.Day),
+                             modDate::ToText(book.Day),
                              format.Cents(book.Book),
                              format.Cents(book.Bank),
-                             modDate::ToGerman(book.From),
+                             modDate::ToText(book.From),
                              format.Cents(std::abs(book.Book - book.Bank))};
     switch (book.State) {
     case eState::NoBalance: return {};

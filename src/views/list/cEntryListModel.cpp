@@ -359,7 +359,7 @@ QString cEntryListModel::Text(int entry, int column) const
 {
     const cEntryItem& item = m_content.Entries.at(entry);
     switch (column) {
-    case Date: return modDate::ToGerman(item.EntryDate);
+    case Date: return modDate::ToText(item.EntryDate);
     case Type: return modWord::EntryTypes().ToShown(item.EntryType);
     case Category: return item.EntryCategory;
     case Account: return cEntryFilter::AccountText(item);
@@ -402,7 +402,7 @@ QString cEntryListModel::Tip(const cEntryItem& entry) const
         lines.append(cText::Tr("Betrag für diesen Zeitraum korrigiert."));
     }
     if (entry.PlannedDate.isValid()) {
-        lines.append(cText::Tr("Verschoben; geplant war der {0}.", {modDate::ToGerman(entry.PlannedDate)}));
+        lines.append(cText::Tr("Verschoben; geplant war der {0}.", {modDate::ToText(entry.PlannedDate)}));
     }
     if (!entry.CorrectionComment.isEmpty()) {
         lines.append(entry.CorrectionComment);

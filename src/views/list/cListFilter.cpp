@@ -8,7 +8,9 @@ namespace {
 
 bool IsPartOfDay(const QString& word)
 {
-    return std::all_of(word.begin(), word.end(), [](QChar c) { return c == u'.' || (c >= u'0' && c <= u'9'); });
+    const QChar separator = modDate::Form().Separator;
+    return std::all_of(word.begin(), word.end(),
+                       [separator](QChar c) { return c == separator || (c >= u'0' && c <= u'9'); });
 }
 
 std::size_t At(int index)
@@ -65,7 +67,7 @@ bool cListFilter::HoldsDay(QDate day, const modFold::cFolded& word)
 {
     if (day != m_day) {
         m_day = day;
-        m_dayText = modDate::ToGerman(day);
+        m_dayText = modDate::ToText(day);
     }
     return m_dayText.contains(word.Plain);
 }

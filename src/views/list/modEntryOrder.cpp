@@ -96,7 +96,7 @@ QString WeekName(QDate day)
     int year = 0;
     const int week = day.weekNumber(&year);
     return cText::Tr("Woche {0}/{1} ab {2}",
-                     {QString::number(week), QString::number(year), modDate::ToGerman(Monday(day))});
+                     {QString::number(week), QString::number(year), modDate::ToText(Monday(day))});
 }
 
 QString MonthName(QDate day)
@@ -151,7 +151,7 @@ modEntryOrder::cRanked DateGroups(const cEntryItemList& entries, const std::vect
 
 QString modEntryOrder::DayName(QDate day)
 {
-    return Names().dayName(day.dayOfWeek()) + u", "_s + modDate::ToGerman(day);
+    return Names().dayName(day.dayOfWeek()) + u", "_s + modDate::ToText(day);
 }
 
 modEntryOrder::cRanked modEntryOrder::Rank(int count, const std::function<QString(int)>& text)

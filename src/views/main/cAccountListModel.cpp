@@ -104,7 +104,7 @@ QString cAccountListModel::Warning(const cRow& row) const
 QString cAccountListModel::Reconciled(const cRow& row) const
 {
     const QDate day = row.Kind == Account ? m_reconciled.value(row.Name) : QDate();
-    return day.isValid() ? cText::Tr("Stimmt mit der Bank überein bis {0}.", {modDate::ToGerman(day)}) : QString();
+    return day.isValid() ? cText::Tr("Stimmt mit der Bank überein bis {0}.", {modDate::ToText(day)}) : QString();
 }
 
 QString cAccountListModel::Hint(const cRow& row, int column) const

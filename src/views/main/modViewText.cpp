@@ -12,11 +12,11 @@ namespace {
 
 QString Days(const modPeriod::cRange& range)
 {
-    const QString end = modDate::ToGerman(range.End);
+    const QString end = modDate::ToText(range.End);
     if (!modReport::HasStart(range) || range.Start == range.End) {
         return end;
     }
-    const QString start = modDate::ToGerman(range.Start);
+    const QString start = modDate::ToText(range.Start);
     return end.isEmpty() ? start : cText::Tr("{0} bis {1}", {start, end});
 }
 

@@ -34,6 +34,17 @@ int Percent(const cReportAmount& amount)
     return static_cast<int>(std::min<qint64>(modReport::LimitPercent(amount).value_or(0), 999));
 }
 
+// Day and month in the form of the book.
+QString ShortDay(QDate day)
+{
+    QString text = modDate::ToText(day).remove(QString::number(day.year()));
+    const auto isSign = [](QChar c) { return c == u'/' || c == u'-'; };
+    if (!text.isEmpty() && isSign(text.back())) {
+        text.chop(1);
+    }
+    return !text.isEmpty() && isSign(text.front()) ? text.mid(1) : text;
+}
+
 eOverviewTone ToneOf(qint64 cents)
 {
     return cents < 0 ? eOverviewTone::Expense : eOverviewTone::Plain;
@@ -185,7 +196,7 @@ QString cOverviewModel::Lowest() const
     const QString sum = Signed(days.Sum.Cents.at(lowest));
     return lowest == 0
         ? cText::Tr("In den nächsten 60 Tagen nicht unter dem Stand von heute")
-        : cText::Tr("Tiefster Stand der nächsten 60 Tage: {0} am {1}", {sum, modDate::ToGerman(days.Day(lowest))});
+        : cText::Tr("Tiefster Stand der nächsten 60 Tage: {0} am {1}", {sum, modDate::ToText(days.Day(lowest))});
 }
 
 cOverviewCard cOverviewModel::Balances()
@@ -256,8 +267,8 @@ cOverviewLine cOverviewModel::DueLine(const cEntryItem& item)
     const bool isSeries = cDueItems::IsSeries(item);
     const qint64 effect = modBalance::Effect(item, {});
     const qint64 cents = item.EntryType == modWord::Umbuchung ? item.EntryValue : effect;
-    cOverviewLine line{cText::Tr("{0}  {1}", {modDate::ToGerman(item.EntryDate).left(6), modEntryFields::Name(item)}),
-                       Signed(cents), effect > 0 ? eOverviewTone::Income : eOverviewTone::Plain};
+    cOverviewLine line{cText::Tr("{0}  {1}", {ShortDay(item.EntryDate), modEntryFields::Name(item)}), Signed(cents),
+                       effect > 0 ? eOverviewTone::Income : eOverviewTone::Plain};
     line.Follow = [this, item] { m_parts.Navigator.OpenEntry(item.ID, item.Planned()); };
     if (m_parts.Main.IsReadOnly()) {
         return line;

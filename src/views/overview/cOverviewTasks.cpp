@@ -77,7 +77,7 @@ void cOverviewTasks::AddAccounts(QList<cOverviewTask>& tasks) const
     const QDate today = m_tools.Clock.Today();
     for (const QString& account : std::as_const(names)) {
         const cBankBalance& balance = newest[account];
-        const QString day = modDate::ToGerman(balance.Day);
+        const QString day = modDate::ToText(balance.Day);
         if (open.value(account) == 0 && numbers.value(account) == 1 && !HasBalance(m_tools.Data, account, balance)) {
             tasks.append({eKind::Difference,
                           cText::Tr("{0}: Die Bank nennt am {1} den Stand {2}, das Buch hat einen anderen.",
@@ -103,7 +103,7 @@ void cOverviewTasks::AddFetch(QList<cOverviewTask>& tasks) const
     }
     if (newest.isValid() && newest.daysTo(m_tools.Clock.Today()) > OldFetchDays) {
         tasks.append(
-            {eKind::OldFetch, cText::Tr("Die Umsätze wurden zuletzt am {0} abgerufen.", {modDate::ToGerman(newest)})});
+            {eKind::OldFetch, cText::Tr("Die Umsätze wurden zuletzt am {0} abgerufen.", {modDate::ToText(newest)})});
     }
 }
 
@@ -117,7 +117,7 @@ void cOverviewTasks::AddBackup(QList<cOverviewTask>& tasks) const
     const QDate last = modDate::FromIso(m_tools.Settings.Get(modSettingKey::BackupLast));
     if (last.isValid() && last.daysTo(m_tools.Clock.Today()) > OldBackupDays) {
         tasks.append(
-            {eKind::OldBackup, cText::Tr("Die letzte Datensicherung ist vom {0}.", {modDate::ToGerman(last)})});
+            {eKind::OldBackup, cText::Tr("Die letzte Datensicherung ist vom {0}.", {modDate::ToText(last)})});
     }
 }
 

@@ -137,7 +137,7 @@ public:
             WriteResult();
             WriteSection(m_figures.Income, u"#006400"_s);
             WriteSection(m_figures.Expense, u"#880000"_s);
-            m_html += cText::Tr("Dieser Bericht wurde am {0} erstellt.", {modDate::ToGerman(m_wish.Today)})
+            m_html += cText::Tr("Dieser Bericht wurde am {0} erstellt.", {modDate::ToText(m_wish.Today)})
                 + u"</div><br><br>"_s;
         }
         return m_html;
@@ -289,5 +289,5 @@ QString modReportHtml::Heading(const cReportFigures& figures)
     const QString account =
         figures.Account.isEmpty() ? cText::Tr("alle Konten") : cText::Tr("Konto '{0}'", {figures.Account});
     return cText::Tr("{0} für {1} vom {2} bis {3}",
-                     {name, account, modDate::ToGerman(figures.Basis.Start), modDate::ToGerman(figures.Basis.End)});
+                     {name, account, modDate::ToText(figures.Basis.Start), modDate::ToText(figures.Basis.End)});
 }

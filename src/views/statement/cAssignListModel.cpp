@@ -85,8 +85,7 @@ QString cAssignListModel::EmptyHint() const
     if (account.isEmpty()) {
         return modImportText::NoAccountToMatch(m_row.ImportAccount);
     }
-    const QStringList values{account, QString::number(modMatchScore::FarthestDays),
-                             modDate::ToGerman(m_row.ImportDate)};
+    const QStringList values{account, QString::number(modMatchScore::FarthestDays), modDate::ToText(m_row.ImportDate)};
     if (m_scope == eScope::All) {
         return cText::Tr("Im Konto {0} gibt es bis {1} Tage vor und nach dem {2} keinen Eintrag in dieser Richtung. "
                          "„Buchen“ macht aus dem Umsatz einen neuen.",
@@ -110,7 +109,7 @@ int cAssignListModel::columnCount(const QModelIndex& parent) const
 QString cAssignListModel::Text(const cMatchCandidate& candidate, int column) const
 {
     switch (column) {
-    case Date: return modDate::ToGerman(candidate.Entry.EntryDate);
+    case Date: return modDate::ToText(candidate.Entry.EntryDate);
     case Description: return candidate.Entry.EntryDescription;
     case Category: return candidate.Entry.EntryCategory;
     case Amount: return m_flow.Tools().Format.Cents(candidate.Cents);

@@ -39,7 +39,7 @@ QString Listed(const QStringList& lines)
 
 QString Named(const cEntryItem& entry)
 {
-    return cText::Tr("'{0}' vom {1}", {modEntryFields::Name(entry), modDate::ToGerman(entry.EntryDate)});
+    return cText::Tr("'{0}' vom {1}", {modEntryFields::Name(entry), modDate::ToText(entry.EntryDate)});
 }
 
 // The entry as its row tells it. A transfer keeps its day where the row is its credit: it lies on the day of the debit.
@@ -157,7 +157,7 @@ bool cCorrectionFlow::AskOnce(const cPairs& unsure) const
     for (const auto& [entry, changed] : unsure) {
         lines.append(cText::Tr("{0}: {1}; Bank: {2} am {3}",
                                {Named(entry), m_tools.Format.Cents(entry.EntryValue),
-                                m_tools.Format.Cents(changed.EntryValue), modDate::ToGerman(changed.EntryDate)}));
+                                m_tools.Format.Cents(changed.EntryValue), modDate::ToText(changed.EntryDate)}));
     }
     return !lines.isEmpty()
         && m_tools.User.Ask({.Text = cText::Tr("Diese Einträge stehen mit anderem Tag oder Betrag im Haushaltsbuch als "
@@ -213,7 +213,7 @@ bool cCorrectionFlow::AskOwn(const QList<cMatch>& own) const
         lines.append(
             cText::Tr("{0}: {1}; Bank: {2} am {3}",
                       {Named(entry), m_tools.Format.Cents(entry.EntryValue), m_tools.Format.Cents(fixMod.EntryValue),
-                       modDate::ToGerman(fixMod.EntryDay.isValid() ? fixMod.EntryDay : entry.EntryDate)}));
+                       modDate::ToText(fixMod.EntryDay.isValid() ? fixMod.EntryDay : entry.EntryDate)}));
     }
     return m_tools.User.Ask({.Text = cText::Tr("Diese Vorkommen haben Sie von Hand korrigiert, und die Bank hat anders "
                                                "gebucht:")

@@ -452,7 +452,7 @@ void cImportAssistant::ReadPreview()
     for (const cImportEntry& entry : entries.first(qMin(entries.size(), qsizetype{ShownRows}))) {
         m_rows.append({0,
                        {},
-                       modDate::ToGerman(entry.ImportDate),
+                       modDate::ToText(entry.ImportDate),
                        modCutText::Name(entry.ImportBeneficiary).simplified(),
                        modCutText::Purpose(entry.ImportPurpose).simplified(),
                        m_parts.Format.Cents(entry.ImportValue),
@@ -483,7 +483,7 @@ cImportAssistant::cRow cImportAssistant::Preview(int row, const cTableLayout& la
     shown.Remark = !read.Skipped.isEmpty() ? modImportPreview::Kind(read.Skipped.first().Kind)
         : read.Problems.isEmpty()          ? QString()
                                            : read.Problems.first().Text.section(u':', 0, 0);
-    shown.Day = entry.ImportDate.isValid() ? modDate::ToGerman(entry.ImportDate) : QString();
+    shown.Day = entry.ImportDate.isValid() ? modDate::ToText(entry.ImportDate) : QString();
     shown.Name = entry.ImportBeneficiary.simplified();
     shown.Purpose = entry.ImportPurpose.simplified();
     if (entry.ImportDate.isValid()) {

@@ -139,19 +139,19 @@ std::optional<qint64> cOpeningBalance::CountBack(const cStatementLedger& ledger,
 QString cOpeningBalance::Question(const cOffer& offer) const
 {
     const QStringList values{offer.Account,
-                             modDate::ToGerman(offer.Day),
+                             modDate::ToText(offer.Day),
                              m_tools.Format.Cents(offer.Bank),
                              m_tools.Format.Cents(offer.Book),
                              m_tools.Format.Cents(offer.Start),
-                             modDate::ToGerman(offer.StartDay),
+                             modDate::ToText(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
     if (offer.FormerDay.isValid()) {
         return cText::Tr(
             "Als Startguthaben des Kontos '{0}' ist der Stand vom {1} eingetragen ({2}). Die Umsätze der Bank "
             "beginnen früher.\n\nSoll das Startguthaben auf den {3} zurückgerechnet werden ({4})? Dann "
             "bleibt der Stand vom {1}, wie er ist.",
-            {offer.Account, modDate::ToGerman(offer.FormerDay), m_tools.Format.Cents(offer.Former.value_or(0)),
-             modDate::ToGerman(offer.StartDay), m_tools.Format.Cents(offer.Start)});
+            {offer.Account, modDate::ToText(offer.FormerDay), m_tools.Format.Cents(offer.Former.value_or(0)),
+             modDate::ToText(offer.StartDay), m_tools.Format.Cents(offer.Start)});
     }
     const QString known =
         cText::Tr("Laut Kontoauszug hatte das Konto '{0}' am {1} einen Stand von {2}; im Buch sind es {3}.", values);
@@ -169,7 +169,7 @@ QString cOpeningBalance::Report(const cOffer& offer) const
     return cText::Tr(offer.FormerDay.isValid()
                          ? QT_TRANSLATE_NOOP("cText", "Startguthaben von '{0}': {1} am {2}, zurückgerechnet.")
                          : QT_TRANSLATE_NOOP("cText", "Startguthaben von '{0}': {1} am {2}, laut Kontoauszug."),
-                     {offer.Account, m_tools.Format.Cents(offer.Start), modDate::ToGerman(offer.StartDay)});
+                     {offer.Account, m_tools.Format.Cents(offer.Start), modDate::ToText(offer.StartDay)});
 }
 
 bool cOpeningBalance::Take(const cOffer& offer) const

@@ -272,7 +272,7 @@ QString cSeriesCheck::Line(const cFinding& finding) const
 {
     const cEntryItem entry = m_tools.Data.LoadEntry(finding.EntryId).value_or(cEntryItem());
     const QString name = cText::Tr("'{0}' ({1})", {modEntryFields::Name(entry), finding.Account});
-    const auto day = [](QDate date) { return modDate::ToGerman(date); };
+    const auto day = [](QDate date) { return modDate::ToText(date); };
     if (finding.IsLate && finding.MoveTo.isValid()) {
         return cText::Tr("{0}, fällig am {1}: noch nicht gebucht; wird auf den {2} verschoben",
                          {name, day(finding.Occurrence), day(finding.MoveTo)});

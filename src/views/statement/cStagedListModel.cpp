@@ -307,7 +307,7 @@ QString cStagedListModel::Text(const cImportEntry& row, int column) const
         return row.ImportAssigned    ? cText::Tr("gebucht")
             : InfoOf(row).IsDoubtful ? cText::Tr("doppelt?")
                                      : cText::Tr("offen");
-    case Date: return modDate::ToGerman(row.ImportDate);
+    case Date: return modDate::ToText(row.ImportDate);
     case Counterparty: return modCutText::Name(row.ImportBeneficiary);
     case Purpose: return row.ImportPurpose.isEmpty() ? row.ImportType : modCutText::Purpose(row.ImportPurpose);
     case Amount: return m_format.Cents(row.ImportValue);

@@ -33,7 +33,7 @@ QString modImportPreview::Count(const cImportResult& result, const cAmountFormat
             sum += row.ImportValue;
         }
         parts.append(
-            cText::Tr("vom {0} bis {1}", {modDate::ToGerman(first->ImportDate), modDate::ToGerman(last->ImportDate)}));
+            cText::Tr("vom {0} bis {1}", {modDate::ToText(first->ImportDate), modDate::ToText(last->ImportDate)}));
         parts.append(cText::Tr("zusammen {0}", {format.Cents(sum)}));
     }
     if (const qsizetype known = result.Duplicates.size() + result.Alike.size(); known > 0) {

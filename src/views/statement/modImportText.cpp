@@ -90,7 +90,7 @@ QStringList modImportText::Readings(const cTableDoubt& doubt, const cAmountForma
     QStringList readings;
     for (const cImportEntry& entry : {doubt.AsWritten, doubt.Negated}) {
         const QString sign = entry.ImportValue > 0 ? u"+"_s : QString();
-        QStringList parts{modDate::ToGerman(entry.ImportDate), entry.ImportBeneficiary.simplified(),
+        QStringList parts{modDate::ToText(entry.ImportDate), entry.ImportBeneficiary.simplified(),
                           entry.ImportPurpose.simplified().left(60), sign + format.Cents(entry.ImportValue)};
         parts.removeAll(QString());
         readings.append(parts.join(u"  ·  "_s));
@@ -108,7 +108,7 @@ QString modImportText::Question(const cTableDoubt& doubt, const cAmountFormat& f
 QString modImportText::Row(const cImportEntry& row, const cAmountFormat& format)
 {
     QStringList parts{
-        modDate::ToGerman(row.ImportDate), format.Cents(row.ImportValue),
+        modDate::ToText(row.ImportDate), format.Cents(row.ImportValue),
         modCutText::Name(row.ImportBeneficiary).simplified(),
         (row.ImportPurpose.isEmpty() ? row.ImportType : modCutText::Purpose(row.ImportPurpose)).simplified()};
     parts.removeAll(QString());
@@ -156,7 +156,7 @@ QString modImportText::NoAccountToMatch(const QString& number)
 QString modImportText::EntryName(const cEntryItem& entry)
 {
     const QString text = entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
-    return cText::Tr("'{0}' vom {1}", {text.simplified(), entry.EntryDate.toString(u"dd.MM."_s)});
+    return cText::Tr("'{0}' vom {1}", {text.simplified(), modDate::ToShortText(entry.EntryDate)});
 }
 
 QString modImportText::Candidate(const cMatchCandidate& candidate)

@@ -512,7 +512,8 @@ QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
     cTemplateItem item;
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
-    item.TemplateDefaultValue = modAmount::CentsToText(modSum::Evaluate(fields.Amount).value_or(0));
+    item.TemplateDefaultValue =
+        modAmount::CentsToText(modSum::Evaluate(fields.Amount, m_tools.Format.Decimal()).value_or(0));
     const qint64 limit = modTemplate::LimitCents(item, 1);
     return limit == 0 ? cText::Tr("Wird vorgeschlagen")
                       : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_tools.Format.Cents(limit)});

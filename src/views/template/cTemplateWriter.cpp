@@ -84,8 +84,7 @@ QString StoredVat(const cTemplateItem& item, const QString& text, eDecimal decim
 QString ShownVat(const cTemplateItem& item, eDecimal decimal)
 {
     const std::optional<qint64> rate = modTemplate::VatRate(item);
-    const QChar separator = decimal == eDecimal::Comma ? u',' : u'.';
-    return rate ? modTemplate::VatText(*rate).replace(u'.', separator) : item.TemplateVAT;
+    return rate ? modTemplate::VatText(*rate).replace(u'.', modSum::Sign(decimal)) : item.TemplateVAT;
 }
 
 // What a category brings into a new entry.

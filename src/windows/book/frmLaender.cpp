@@ -19,10 +19,10 @@ frmLaender::frmLaender(cNationalSettings& settings, QWidget* parent)
     setWindowTitle(cText::Tr("Ländereinstellungen"));
     const cNationalSettings::cFields fields = m_settings.Current();
     m_language = AddChoice(cText::Tr("&Sprache:"), cNationalSettings::Languages(), fields.Language);
-    m_format = AddChoice(cText::Tr("&Zahlenformat:"), cNationalSettings::Formats(), fields.Format);
+    m_format = AddChoice(cText::Tr("&Zahlen und Datum:"), cNationalSettings::Formats(), fields.Format);
     m_currency = AddChoice(cText::Tr("&Währung:"), cNationalSettings::Currencies(), fields.Currency);
     AddHint(cText::Tr("Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet. "
-                      "Das Datum steht immer in der Form Tag.Monat.Jahr."));
+                      "Was Sie eintippen, wird so gelesen, wie es hier steht."));
     m_amount = AddSample(cText::Tr("Betrag:"), "amount");
     m_negative = AddSample(cText::Tr("Negativer Betrag:"), "negative");
     m_date = AddSample(cText::Tr("Datum:"), "date");

@@ -29,7 +29,7 @@ namespace {
 
 void ShowDay(cDayEdit& edit, QDate day, const QString& typed)
 {
-    edit.setText(typed.isEmpty() ? modDate::ToGerman(day) : typed);
+    edit.setText(typed.isEmpty() ? modDate::ToText(day) : typed);
 }
 
 } // namespace

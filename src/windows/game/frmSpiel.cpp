@@ -77,7 +77,7 @@ void frmSpiel::ShowStart(const QString& title, const QString& head)
     for (const cHighScores::cRun& run : best) {
         text += u'\n'
             + cText::Tr("{0} Punkte, {1} Monate, {2}",
-                        {QString::number(run.Points), QString::number(run.Months), modDate::ToGerman(run.Day)});
+                        {QString::number(run.Points), QString::number(run.Months), modDate::ToText(run.Day)});
     }
     m_view->SetMessage(title, text + u"\n\n"_s + cText::Tr("Eingabe beginnt, Pfeile oder Maus bewegen, P hält an."));
 }
@@ -99,7 +99,8 @@ void frmSpiel::End()
 {
     const cGame* game = m_view->Game();
     const int place = m_scores.Add({game->Points(), game->Month(), m_today});
-    ShowStart(
-        place == 1 ? cText::Tr("Bester Lauf!") : cText::Tr("Konto leer"),
-        cText::Tr("{0} Punkte nach {1} Monaten", {QString::number(game->Points()), QString::number(game->Month())}));
+    const QStringList values{QString::number(game->Points()), QString::number(game->Month())};
+    ShowStart(place == 1 ? cText::Tr("Bester Lauf!") : cText::Tr("Konto leer"),
+              game->Month() == 1 ? cText::Tr("{0} Punkte im ersten Monat", values)
+                                 : cText::Tr("{0} Punkte nach {1} Monaten", values));
 }

@@ -102,9 +102,12 @@ void cSearchFields::Build()
     m_category->completer()->setCompletionMode(QCompleter::PopupCompletion);
     m_start->setAccessibleName(cText::Tr("Erster Tag des Zeitraums"));
     m_end->setAccessibleName(cText::Tr("Letzter Tag des Zeitraums"));
-    for (QComboBox* combo : {m_category, m_account, m_type}) {
+    for (const auto& [combo, all] :
+         {std::pair{m_category, cText::Tr("Alle Kategorien")}, std::pair{m_account, cText::Tr("Alle Konten")}}) {
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // long names must not widen it
-        combo->setMinimumContentsLength(leastLetters);
+        combo->setMinimumContentsLength(qMax(leastLetters, static_cast<int>(all.size())));
+    }
+    for (QComboBox* combo : {m_category, m_account, m_type}) {
         combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
     constexpr int mostColumns = 2;

@@ -80,7 +80,7 @@ cListPrinter::cHead cListPrinter::HeadOf(const cStatementListModel& statement)
 {
     return {statement.Title(),
             statement.Lines() + statement.Findings(),
-            cText::Tr("Kontorelle, {0}", {modDate::ToGerman(statement.Today())}),
+            cText::Tr("Kontorelle, {0}", {modDate::ToText(statement.Today())}),
             {{cText::Tr("Einnahmen"), statement.IncomeText()},
              {cText::Tr("Ausgaben"), statement.ExpenseText()},
              {cText::Tr("Summe"), statement.TotalText()}}};
@@ -90,7 +90,7 @@ cListPrinter::cHead cListPrinter::HeadOf(const cMainModel& model)
 {
     cHead head{modViewText::Title(model.View()),
                model.ViewLines(),
-               cText::Tr("Kontorelle, {0}", {modDate::ToGerman(model.Today())}),
+               cText::Tr("Kontorelle, {0}", {modDate::ToText(model.Today())}),
                {{cText::Tr("Einnahmen"), model.IncomeText()},
                 {cText::Tr("Ausgaben"), model.ExpenseText()},
                 {cText::Tr("Summe"), model.TotalText()}}};

@@ -60,13 +60,14 @@ void cDayEdit::SetReadOnly(bool isReadOnly)
     m_calendar->setVisible(!isReadOnly);
     setToolTip(isReadOnly
                    ? QString()
-                   : cText::Tr("Auch 3, 3.5., +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender"));
+                   : cText::Tr("Auch 3, {0}, +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender",
+                               {modDate::ToShortText(QDate(m_today.year(), 5, 3))}));
 }
 
 void cDayEdit::SetDay(QDate day)
 {
     m_chosen = day;
-    setText(modDate::ToGerman(day));
+    Show(day);
     if (modBadField::IsMarked(*this)) {
         modBadField::Clear(*this);
     }
@@ -74,7 +75,14 @@ void cDayEdit::SetDay(QDate day)
 
 QDate cDayEdit::Day() const
 {
-    return modDayText::Read(text(), m_today);
+    return text() == m_shownText ? m_shownDay : modDayText::Read(text(), m_today);
+}
+
+void cDayEdit::Show(QDate day)
+{
+    m_shownDay = day;
+    m_shownText = modDate::ToText(day);
+    setText(m_shownText);
 }
 
 bool cDayEdit::IsReadable() const
@@ -90,7 +98,7 @@ QSize cDayEdit::sizeHint() const
 
 void cDayEdit::Pick(QDate day)
 {
-    setText(modDate::ToGerman(day));
+    Show(day);
     selectAll();
     Q_EMIT textEdited(text()); // the user did it, if not letter by letter
     TellChosen();
@@ -164,9 +172,9 @@ void cDayEdit::focusOutEvent(QFocusEvent* event)
         return;
     }
     if (!IsReadable()) {
-        modBadField::Mark(*this);
+        modBadField::Mark(*this, modDayText::Fault(text(), m_today));
     } else if (Day().isValid()) {
-        setText(modDate::ToGerman(Day()));
+        Show(Day());
     }
     TellChosen();
 }

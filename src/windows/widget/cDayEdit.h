@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 // A field for a day: typed in any form that the program understands ("3", "3.5.", "+7", "gestern"), stepped with the
-// arrow keys, or picked in a calendar (Alt+Down or F4). Once left, it shows the day as dd.MM.yyyy; a text that is no
+// arrow keys, or picked in a calendar (Alt+Down or F4). Once left, it shows the day as all texts do; a text that is no
 // day stays as it is, in the colours of a field that cannot be understood.
 class cDayEdit final : public QLineEdit
 {
@@ -38,11 +38,14 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void Show(QDate day);
     void Pick(QDate day);
     void OpenCalendar();
     void TellChosen();
 
     QDate m_today;
     QDate m_chosen;
+    QDate m_shownDay; // what m_shownText means, also when another form of days was chosen since
+    QString m_shownText;
     QAction* m_calendar;
 };

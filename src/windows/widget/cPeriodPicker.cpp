@@ -16,7 +16,7 @@ cPeriodPicker::cPeriodPicker(QWidget* parent)
     : QWidget(parent),
       m_name(new QComboBox(this)),
       m_first(MakeMonths(cText::Tr("Erster Monat"))),
-      m_last(MakeMonths(cText::Tr("Letzter Monat"))),
+      m_last(MakeMonths(cText::tr("Letzter Monat", "Zeitraum"))),
       m_year(new QSpinBox(this))
 {
     m_layout = new cFlowLayout(this);
@@ -29,7 +29,7 @@ cPeriodPicker::cPeriodPicker(QWidget* parent)
     m_year->setAccessibleName(cText::Tr("Jahr"));
     setFocusProxy(m_name);
     m_layout->addWidget(m_name);
-    Add(cText::Tr("von"), m_first);
+    Add(cText::tr("von", "Zeitraum"), m_first); // and not "2 von 3"
     Add(cText::Tr("bis"), m_last);
     m_layout->addWidget(m_year);
     connect(m_name, &QComboBox::activated, this, [this] { Q_EMIT PeriodChosen(m_name->currentData().toString()); });
