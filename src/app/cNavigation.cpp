@@ -58,7 +58,8 @@ cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
-      m_printer(parts.Tools.User)
+      m_printer(parts.Tools.User),
+      m_help(parts.Shell, parts.Tools.User)
 {
 }
 
@@ -452,6 +453,9 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
+    case modCommand::Homepage:
+    case modCommand::Questions:
+    case modCommand::Manual: m_help.Open(command); break;
     case modCommand::About: OpenAbout(); break;
     case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::CheckSeries: CheckSeries(); break;

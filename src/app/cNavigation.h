@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/cHelpWindows.h"
 #include "app/cQtPrinter.h"
 #include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
@@ -94,6 +95,7 @@ private:
     cParts m_parts;
     cBookFlow m_books;
     cQtPrinter m_printer;
+    cHelpWindows m_help;
     cMainModel* m_model = nullptr;
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;

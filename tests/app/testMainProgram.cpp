@@ -1,10 +1,15 @@
 #include "app/cMainProgram.h"
+#include "app/cNavigation.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
+#include "windows/help/frmHandbuch.h"
 #include "windows/main/frmMain.h"
+#include "windows/report/cReportView.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,6 +33,18 @@ struct cMachine
     cFakeRegistry Registry;
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
+
+// The headline of the manual's page; empty while the manual is not open.
+QString ShownChapter()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
+        if (window->isVisible() && qobject_cast<const frmHandbuch*>(window) != nullptr) {
+            return window->findChild<cReportView*>()->PlainText().section(u'\n', 0, 0);
+        }
+    }
+    return {};
+}
 
 } // namespace
 
@@ -68,6 +85,36 @@ private Q_SLOTS:
         QVERIFY(program.Window().close());
         QCOMPARE(machine.User.Asked.size(), 1);
         QCOMPARE(machine.Copies(), QStringList());
+    }
+
+    // By the command in the main window, and in a dialog that waits for an answer.
+    void HelpOpensTheChapterOfTheWindowInFront() const
+    {
+        cMachine machine;
+        QFile::link(QStringLiteral(MANUAL), machine.Shell.InstalledFile(u"handbuch"_s));
+        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = machine.File.Make(oneEntry)}));
+        const auto activate = [&] {
+            program.Window().activateWindow();
+            return QTest::qWaitForWindowActive(&program.Window());
+        };
+        QVERIFY(activate());
+        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QCOMPARE(ShownChapter(), u"Start"_s);
+        QVERIFY(activate());
+        program.Window().ShowPage(frmMain::ePage::Statistics);
+        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QCOMPARE(ShownChapter(), u"Auswertungen"_s);
+        QVERIFY(activate());
+        QString shown;
+        QTimer::singleShot(0, &program.Window(), [&] {
+            QWidget* form = QApplication::activeModalWidget();
+            QTest::keyClick(form->focusWidget(), Qt::Key_F1);
+            shown = ShownChapter();
+            form->close();
+        });
+        program.Navigation().OpenNewEntry();
+        QCOMPARE(shown, u"Einträge erfassen"_s);
     }
 };
 

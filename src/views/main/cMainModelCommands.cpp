@@ -51,6 +51,9 @@ bool cMainModel::Execute(int command)
     case modCommand::Search:
     case modCommand::StartBalance:
     case modCommand::AccountStatement:
+    case modCommand::Homepage:
+    case modCommand::Questions:
+    case modCommand::Manual:
     case modCommand::About:
     case modCommand::CheckBook:
     case modCommand::CheckSeries:

@@ -12,7 +12,7 @@ using namespace modCommand;
 
 namespace {
 
-constexpr std::array<cCommand, 37> commands{{
+constexpr std::array<cCommand, 40> commands{{
     {NewDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "&Neue Datenbank"), "", "", nullptr,
      Plain, QT_TRANSLATE_NOOP("cText", "Legt eine neue, leere Datenbank an und wechselt zu ihr.")},
     {SwitchDatabase, QT_TRANSLATE_NOOP("cText", "Datei"), QT_TRANSLATE_NOOP("cText", "Datenbank &wechseln"), "", "",
@@ -94,8 +94,14 @@ constexpr std::array<cCommand, 37> commands{{
      QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
     {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "",
      nullptr, Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
+    {Manual, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Handbuch"), "", "", nullptr, Plain,
+     QT_TRANSLATE_NOOP("cText", "Öffnet das Handbuch bei dem, was gerade vorn ist.")},
+    {Homepage, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "H&omepage"), "F1", "", nullptr, Plain,
+     QT_TRANSLATE_NOOP("cText", "Öffnet die Seite des Herstellers; gibt es keine, das Handbuch.")},
+    {Questions, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "Häufige &Fragen"), "", "", nullptr,
+     Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Antworten auf Fragen, die oft gestellt werden.")},
     {About, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr,
-     Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
+     StartsGroup, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
 }};
 
 } // namespace

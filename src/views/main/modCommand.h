@@ -39,7 +39,9 @@ enum eId : int {
     BankLogins = 126,
     FetchTransactions = 127,
     CheckSeries = 128,
+    Homepage = 200,
     About = 202,
+    Questions = 203,
     Calculator = 204,
     Search = 301,
     StartBalance = 304,
@@ -49,6 +51,7 @@ enum eId : int {
     ViewFuture = 403,
     ViewStart = 404,
     ViewAccountValues = 405,
+    Manual = 510,
 };
 
 enum eTrait : int {

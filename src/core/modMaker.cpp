@@ -1,0 +1,6 @@
+#include "core/modMaker.h"
+
+QString modMaker::Homepage()
+{
+    return QStringLiteral(APP_HOMEPAGE);
+}
