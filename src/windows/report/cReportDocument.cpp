@@ -129,12 +129,15 @@ const QList<cReportDocument::cLink>& cReportDocument::Links() const
 
 QRect cReportDocument::AnchorPlace(const QString& anchor) const
 {
-    // Looked for one by one: a selector would have to spell out umlauts and digits in its own way.
+    // Compared one by one: a selector would have to spell out umlauts and digits in its own way.
     const litehtml::element::ptr root = m_document->root();
-    const litehtml::elements_vector headings = root ? root->select_all("h1, h2, h3") : litehtml::elements_vector();
-    for (const litehtml::element::ptr& heading : headings) {
-        if (const char* id = heading->get_attr("id"); id != nullptr && QString::fromUtf8(id) == anchor) {
-            return PlaceOf(*heading);
+    for (const char* level : {"h1", "h2", "h3"}) {
+        const litehtml::elements_vector headings = root ? root->select_all(level) : litehtml::elements_vector();
+        for (const litehtml::element::ptr& heading : headings) {
+            const char* id = heading->get_attr("id");
+            if (id != nullptr && QString::fromUtf8(id) == anchor) {
+                return PlaceOf(*heading);
+            }
         }
     }
     return {};
