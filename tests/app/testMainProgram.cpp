@@ -103,6 +103,7 @@ private Q_SLOTS:
         QCOMPARE(ShownChapter(), u"Start"_s);
         QVERIFY(activate());
         program.Window().ShowPage(frmMain::ePage::Statistics);
+        QCoreApplication::processEvents(); // the page is shown with the next round
         QTest::keyClick(&program.Window(), Qt::Key_F1);
         QCOMPARE(ShownChapter(), u"Auswertungen"_s);
         QVERIFY(activate());

@@ -120,6 +120,21 @@ private Q_SLOTS:
         QVERIFY2(below - above > 200, qPrintable(QStringLiteral("%1 to %2").arg(above).arg(below)));
     }
 
+    void ListsAreNumbered() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"faq.html"_s);
+        const QRect second = scene.PlaceOf(u"2."_s);
+        const QRect words = scene.PlaceOf(u"Auf dem neuen Rechner"_s);
+        QVERIFY(second.isValid());
+        QVERIFY2(second.right() < words.left() && std::abs(second.top() - words.top()) <= 3,
+                 qPrintable(QStringLiteral("%1,%2 %3,%4")
+                                .arg(second.right())
+                                .arg(second.top())
+                                .arg(words.left())
+                                .arg(words.top())));
+    }
+
     // Whoever fills in a form reads beside it how, one dialog above another too.
     void CanBeUsedBesideADialog() const
     {

@@ -43,6 +43,7 @@ h2 { font-size: 17px; margin: 26px 0 8px 0; }
 h3 { font-size: 14px; margin: 18px 0 6px 0; }
 p { margin: 0 0 10px 0; }
 ul, ol { margin: 0 0 10px 0; padding-left: 0; margin-left: 24px; }
+ol { list-style-type: decimal; }
 li { margin: 0 0 5px 0; }
 li p { margin: 0; }
 th, td { padding: 4px 14px 4px 0; border-bottom: 1px solid #d0d4d9; vertical-align: top; text-align: left; }

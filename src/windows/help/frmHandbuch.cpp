@@ -4,11 +4,11 @@
 #include "views/help/cManualBrowser.h"
 #include "views/help/modManual.h"
 #include "windows/report/cReportView.h"
+#include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -38,11 +38,11 @@ QTreeWidget* NewTree(const QString& name, QWidget* parent)
     return tree;
 }
 
-QTreeWidgetItem* NewItem(const QString& title, const QString& place, const QString& hint = {})
+QTreeWidgetItem* NewItem(const QString& text, const QString& place)
 {
-    auto* item = new QTreeWidgetItem({title});
+    auto* item = new QTreeWidgetItem({text});
     item->setData(0, placeRole, place);
-    item->setToolTip(0, hint.isEmpty() ? title : hint);
+    item->setToolTip(0, text);
     return item;
 }
 
@@ -61,6 +61,7 @@ frmHandbuch::frmHandbuch(cManualBrowser& browser)
       m_page(new cReportView(this))
 {
     setWindowTitle(cText::Tr("Handbuch"));
+    setWindowIcon(modIcon::Program());
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its main window
     Build();
     Connect();
@@ -82,7 +83,7 @@ void frmHandbuch::Build()
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     layout->addWidget(close, 0, Qt::AlignRight);
-    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 44);
+    const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 44);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
     m_page->setFocus();
 }
@@ -113,6 +114,7 @@ QWidget* frmHandbuch::BuildSides()
 {
     m_page->setAccessibleName(cText::Tr("Seite des Handbuchs"));
     m_hits->setRootIsDecorated(false);
+    m_hits->setAlternatingRowColors(true);
     m_side->addWidget(m_contents);
     m_side->addWidget(m_hits);
     auto* sides = new QSplitter(this);
@@ -120,7 +122,7 @@ QWidget* frmHandbuch::BuildSides()
     sides->addWidget(m_page);
     sides->setStretchFactor(1, 1);
     sides->setChildrenCollapsible(false);
-    sides->setSizes({fontMetrics().averageCharWidth() * 40, fontMetrics().averageCharWidth() * 110});
+    sides->setSizes({fontMetrics().averageCharWidth() * 40, fontMetrics().averageCharWidth() * 90});
     return sides;
 }
 
@@ -168,7 +170,7 @@ void frmHandbuch::Search()
     const QList<cManual::cHit> hits = m_browser.Manual().Find(text);
     m_hits->clear();
     for (const cManual::cHit& hit : hits) {
-        m_hits->addTopLevelItem(NewItem(hit.Title, hit.Place, hit.Excerpt));
+        m_hits->addTopLevelItem(NewItem(hit.Title + u'\n' + hit.Excerpt, hit.Place));
     }
     m_hits->setCurrentItem(m_hits->topLevelItem(0));
     m_side->setCurrentWidget(text.isEmpty() ? m_contents : m_hits);
@@ -235,6 +237,11 @@ void frmHandbuch::Present()
     show();
     raise();
     activateWindow();
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (modal != nullptr && frameGeometry().intersects(modal->window()->frameGeometry())) {
+        const QRect area = screen()->availableGeometry();
+        move(modPlace::Beside(frameGeometry(), modal->window()->frameGeometry(), area));
+    }
 }
 
 bool frmHandbuch::event(QEvent* event)
