@@ -13,12 +13,11 @@ namespace {
 
 // Classes from the field with the focus outwards. What a window shows on its page comes before the window itself, also
 // when the focus is elsewhere.
-QStringList WindowsInFront()
+QStringList WindowsAround(const QWidget* focus)
 {
-    const QWidget* window = QApplication::activeWindow();
-    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* window = focus != nullptr ? focus->window() : nullptr;
     QStringList names;
-    for (const QWidget* each = focus; each != nullptr && each != window; each = each->parentWidget()) {
+    for (const QWidget* each = focus; each != window; each = each->parentWidget()) {
         names.append(QString::fromLatin1(each->metaObject()->className()));
     }
     const QList<QWidget*> parts = window != nullptr ? window->findChildren<QWidget*>() : QList<QWidget*>();
@@ -44,7 +43,9 @@ cHelpWindows::~cHelpWindows() = default;
 
 void cHelpWindows::Open(modCommand::eId command)
 {
-    Follow(modManual::AddressOf(command, modMaker::Homepage(), WindowsInFront()));
+    const QWidget* focus = QApplication::focusWidget();
+    const QStringList windows = WindowsAround(focus != nullptr ? focus : QApplication::activeWindow());
+    Follow(modManual::AddressOf(command, modMaker::Homepage(), windows));
 }
 
 bool cHelpWindows::eventFilter(QObject* watched, QEvent* event)
@@ -55,7 +56,7 @@ bool cHelpWindows::eventFilter(QObject* watched, QEvent* event)
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool isHelp = key->key() == Qt::Key_F1 && key->modifiers() == Qt::NoModifier;
     if (isHelp) {
-        Open(modCommand::Manual);
+        Follow(modManual::PlaceOf(WindowsAround(static_cast<QWidget*>(watched))));
     }
     return isHelp;
 }

@@ -110,6 +110,7 @@ private Q_SLOTS:
         QString shown;
         QTimer::singleShot(0, &program.Window(), [&] {
             QWidget* form = QApplication::activeModalWidget();
+            QVERIFY(QTest::qWaitForWindowActive(form));
             QTest::keyClick(form->focusWidget(), Qt::Key_F1);
             shown = ShownChapter();
             form->close();
