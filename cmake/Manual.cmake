@@ -1,4 +1,6 @@
 # The manual: chapters in doc/handbuch become pages in "handbuch" beside the programs, with their pictures.
+include(GNUInstallDirs)
+
 set(manual ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/handbuch)
 file(GLOB chapters CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/doc/handbuch/*.md)
 file(GLOB pictures CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/doc/bilder/*.png)
