@@ -120,6 +120,15 @@ private Q_SLOTS:
         QVERIFY2(below - above > 200, qPrintable(QStringLiteral("%1 to %2").arg(above).arg(below)));
     }
 
+    void HeadsOfTablesStandAboveTheirRows() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"02-kontoauszug.html"_s);
+        const QRect head = scene.PlaceOf(u"gut zu wissen"_s);
+        QVERIFY(head.isValid());
+        QVERIFY(head.bottom() < scene.PlaceOf(u".sta"_s).top());
+    }
+
     void ListsAreNumbered() const
     {
         const cScene scene;

@@ -37,6 +37,7 @@ constexpr const char* page = R"(<!DOCTYPE html>
 <style>
 body { margin: 8px 20px 40px 20px; max-width: 800px; font-family: sans-serif; font-size: 13px; line-height: 1.45; }
 h1, h2, h3, p, ol, ul, pre, table { display: block; }
+thead { display: table-row-group; }
 table { display: table; border-spacing: 0; margin: 8px 0 12px 0; }
 h1 { font-size: 22px; margin: 6px 0 12px 0; }
 h2 { font-size: 17px; margin: 26px 0 8px 0; }
