@@ -152,22 +152,24 @@ private Q_SLOTS:
         scene.Browser->Open(u"08-suchen.html"_s);
         QDialog first;
         QDialog second(&first);
-        const auto goBack = [&] {
-            QTest::qWait(20);
+        QStringList pages; // where the button led beside each dialog
+        const auto goBack = [&](const QDialog& dialog) {
+            const bool isBeside = QTest::qWaitFor(
+                [&] { return scene.Window->windowHandle()->transientParent() == dialog.windowHandle(); });
             Click(*scene.Button(u"&Zurück"_s));
+            pages.append(isBeside ? scene.Browser->Place().Page : QString());
         };
         QTimer::singleShot(0, &first, [&] {
-            goBack();
-            QCOMPARE(scene.Browser->Place().Page, u"05-serien.html"_s);
+            goBack(first);
             QTimer::singleShot(0, &second, [&] {
-                goBack();
-                QCOMPARE(scene.Browser->Place().Page, u"index.html"_s);
+                goBack(second);
                 second.reject();
             });
             second.exec();
             first.reject();
         });
         first.exec();
+        QCOMPARE(pages, QStringList({u"05-serien.html"_s, u"index.html"_s}));
         QVERIFY(scene.Window->isVisible());
         Click(*scene.Button(u"&Vor"_s));
         QCOMPARE(scene.Browser->Place().Page, u"05-serien.html"_s);
