@@ -77,6 +77,4 @@ completion(fish fish/vendor_completions.d kontorelle-cli.fish)
 
 add_custom_target(installed ALL DEPENDS ${painted_icons} ${written_pages} ${written_completions})
 
-# The manual as it is written; pictures beside it.
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/doc/handbuch ${CMAKE_SOURCE_DIR}/doc/bilder DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/kontorelle)
 install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/kontorelle)

@@ -64,7 +64,8 @@ cNavigation::cNavigation(const cParts& parts)
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
       m_printer(parts.Tools.User),
-      m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format))
+      m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format)),
+      m_help(parts.Shell, parts.Tools.User)
 {
 }
 
@@ -505,6 +506,9 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
+    case modCommand::Homepage:
+    case modCommand::Questions:
+    case modCommand::Manual: m_help.Open(command); break;
     case modCommand::About: OpenAbout(); break;
     case modCommand::CheckUpdates: m_parts.Updates.Open(Parent()); break;
     case modCommand::CheckBook: OpenCheck(); break;

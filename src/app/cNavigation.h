@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/cEntryForms.h"
+#include "app/cHelpWindows.h"
 #include "app/cQtPrinter.h"
 #include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
@@ -107,6 +108,7 @@ private:
     cEntryForms m_forms;
     cBookFlow m_books;
     cQtPrinter m_printer;
+    cHelpWindows m_help;
     cMainModel* m_model = nullptr;
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;

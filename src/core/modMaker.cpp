@@ -1,5 +1,10 @@
 #include "core/modMaker.h"
 
+QString modMaker::Homepage()
+{
+    return QStringLiteral(APP_HOMEPAGE);
+}
+
 QString modMaker::UpdateAddress()
 {
     return QStringLiteral(APP_UPDATE_ADDRESS);

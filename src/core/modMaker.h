@@ -2,8 +2,11 @@
 
 #include <QString>
 
-// What whoever builds an edition says about it.
+// What whoever builds an edition says about it; the program works without any of it.
 namespace modMaker {
+
+// Of the home page, "https://…" without a slash at its end; empty for none.
+[[nodiscard]] QString Homepage();
 
 // Where new versions are announced, an https address; empty where the edition has none.
 [[nodiscard]] QString UpdateAddress();

@@ -1,4 +1,5 @@
 #include "app/cMainProgram.h"
+#include "app/cNavigation.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
@@ -6,14 +7,18 @@
 #include "support/fakes.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
+#include "windows/help/frmHandbuch.h"
 #include "windows/main/frmMain.h"
+#include "windows/report/cReportView.h"
 #include "windows/widget/modTone.h"
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QDir>
 #include <QMenuBar>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,6 +63,18 @@ private:
 QString FirstMenu(cMainProgram& program)
 {
     return program.Window().menuBar()->actions().constFirst()->text().remove(u'&');
+}
+
+// The headline of the manual's page; empty while the manual is not open.
+QString ShownChapter()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
+        if (window->isVisible() && qobject_cast<const frmHandbuch*>(window) != nullptr) {
+            return window->findChild<cReportView*>()->PlainText().section(u'\n', 0, 0);
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -156,6 +173,38 @@ private Q_SLOTS:
         cMainProgram next(machine.Ports, u"0.1.0"_s);
         QVERIFY(next.Start({.Book = path}));
         QCOMPARE(FirstMenu(next), u"Datei"_s);
+    }
+
+    // By the command in the main window, and in a dialog that waits for an answer.
+    void HelpOpensTheChapterOfTheWindowInFront() const
+    {
+        cMachine machine;
+        QFile::link(QStringLiteral(MANUAL), machine.Shell.InstalledFile(u"handbuch"_s));
+        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = machine.File.Make(oneEntry)}));
+        const auto activate = [&] {
+            program.Window().activateWindow();
+            return QTest::qWaitForWindowActive(&program.Window());
+        };
+        QVERIFY(activate());
+        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QCOMPARE(ShownChapter(), u"Start"_s);
+        QVERIFY(activate());
+        program.Window().ShowPage(frmMain::ePage::Statistics);
+        QCoreApplication::processEvents(); // the page is shown with the next round
+        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QCOMPARE(ShownChapter(), u"Auswertungen"_s);
+        QVERIFY(activate());
+        QString shown;
+        QTimer::singleShot(0, &program.Window(), [&] {
+            QWidget* form = QApplication::activeModalWidget();
+            QVERIFY(QTest::qWaitForWindowActive(form));
+            QTest::keyClick(form->focusWidget(), Qt::Key_F1);
+            shown = ShownChapter();
+            form->close();
+        });
+        program.Navigation().OpenNewEntry();
+        QCOMPARE(shown, u"Einträge erfassen"_s);
     }
 };
 

@@ -25,6 +25,7 @@
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
+#include "views/help/cManualBrowser.h"
 #include "views/help/cUpdateCheck.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
@@ -51,6 +52,7 @@
 #include "windows/chart/cChartBox.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/help/frmHandbuch.h"
 #include "windows/help/frmUpdate.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
@@ -167,6 +169,7 @@ struct cScene
         Book.Tools, Book.Configuration, Maker, {u"https://updates.kontorelle.example/versionen.xml"_s, u"0.1.0"_s}};
     std::unique_ptr<cBankListModel> Banks;
     std::unique_ptr<cBankFetch> Fetch;
+    std::unique_ptr<cManualBrowser> Manual;
 
     // Several procedures and media, an account without statements, and long names.
     static cBankProfile BankProfile()
@@ -326,6 +329,13 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
      [](cScene& scene) {
          const auto fields = scene.Change.StartPeriod(scene.Series.ID, QDate(2026, 4, 10));
          return fields ? std::make_unique<frmKorrektur>(scene.Change, *fields) : nullptr;
+     }},
+    {"manual",
+     [](cScene& scene) {
+         QFile::link(QStringLiteral(MANUAL), scene.Book.Shell.InstalledFile(u"handbuch"_s));
+         scene.Manual = std::make_unique<cManualBrowser>(scene.Book.Shell, scene.Book.User);
+         scene.Manual->Open(u"02-kontoauszug.html"_s);
+         return std::make_unique<frmHandbuch>(*scene.Manual);
      }},
     {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
     {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},

@@ -163,6 +163,11 @@ void testFrmMain::NewWindowsFitTheScreen()
     const QRect screen(0, 0, 1024, 768);
     QVERIFY(screen.contains(QRect({}, modPlace::Fitting({1230, 850}, screen))));
     QCOMPARE(modPlace::Fitting({600, 400}, screen), QSize(600, 400));
+    // Beside another one, or as little over it as the screen allows.
+    const QRect dialog(300, 100, 200, 300);
+    QCOMPARE(modPlace::Beside({250, 80, 400, 300}, dialog, screen), QPoint(500, 80));
+    QCOMPARE(modPlace::Beside({250, 80, 400, 300}, dialog.translated(300, 0), screen), QPoint(200, 80));
+    QCOMPARE(modPlace::Beside({250, 80, 900, 300}, dialog, screen), QPoint(124, 80));
 }
 
 void testFrmMain::ColumnLayoutIsKept()

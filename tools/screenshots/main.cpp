@@ -32,6 +32,7 @@
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
+#include "views/help/cManualBrowser.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/main/cLimitWatch.h"
 #include "views/main/cMainModel.h"
@@ -45,6 +46,7 @@
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/help/frmHandbuch.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
@@ -360,6 +362,29 @@ bool TakeRules(cCamera& camera)
     return !rows.isEmpty();
 }
 
+// The manual: a page with a picture, tables and code, and what a search found.
+bool TakeManual(cCamera& camera)
+{
+    cQtShell shell({});
+    cQtUser user;
+    cManualBrowser browser(shell, user);
+    if (browser.Manual().Sections().isEmpty()) {
+        return false;
+    }
+    frmHandbuch window(browser);
+    window.show();
+    for (const auto& [page, name] : {std::pair{u"index.html"_s, u"inhalt"_s}, std::pair{u"01-start.html"_s, u"start"_s},
+                                     std::pair{u"02-kontoauszug.html"_s, u"tabelle"_s},
+                                     std::pair{u"12-befehlszeile.html#zeigen-suchen-exportieren"_s, u"befehle"_s},
+                                     std::pair{u"faq.html"_s, u"fragen"_s}}) {
+        browser.Open(page);
+        camera.Take(window, u"handbuch-"_s + name);
+    }
+    window.findChild<QLineEdit*>()->setText(u"photoTAN"_s);
+    camera.Take(window, u"handbuch-suchen"_s);
+    return true;
+}
+
 // Password, national settings and automatic backups.
 bool TakeSettings(cCamera& camera)
 {
@@ -517,7 +542,8 @@ int main(int argc, char* argv[])
     return TakeUpdate(camera) && TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeBank(camera)
             && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera)
             && TakeRules(camera) && TakeReview(camera) && TakeBankSetup(camera) && TakeSettings(camera)
-            && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera) && camera.IsGood()
+            && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera) && TakeManual(camera)
+            && camera.IsGood()
         ? 0
         : 1;
 }

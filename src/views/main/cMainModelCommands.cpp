@@ -56,6 +56,9 @@ bool cMainModel::Execute(int command)
     case modCommand::StartBalance:
     case modCommand::AccountStatement:
     case modCommand::CheckUpdates:
+    case modCommand::Homepage:
+    case modCommand::Questions:
+    case modCommand::Manual:
     case modCommand::About:
     case modCommand::CheckBook:
     case modCommand::CheckSeries:

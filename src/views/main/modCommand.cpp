@@ -103,10 +103,16 @@ constexpr auto commands = std::to_array<cCommand>({
      QT_TRANSLATE_NOOP("cText", "Wählt, wie viele Sicherungen das Programm selbst aufhebt und wo.")},
     {National, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Ländereinstellungen"), "", "",
      nullptr, Writes, QT_TRANSLATE_NOOP("cText", "Wählt Sprache, Zahlenformat und Währung.")},
+    {Manual, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Handbuch"), "", "", nullptr, Plain,
+     QT_TRANSLATE_NOOP("cText", "Öffnet das Handbuch bei dem, was gerade vorn ist.")},
+    {Homepage, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "H&omepage"), "F1", "", nullptr, Plain,
+     QT_TRANSLATE_NOOP("cText", "Öffnet die Seite des Herstellers; gibt es keine, das Handbuch.")},
+    {Questions, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "Häufige &Fragen"), "", "", nullptr,
+     Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Antworten auf Fragen, die oft gestellt werden.")},
     {CheckUpdates, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "Nach &Updates suchen"), "", "",
      nullptr, StartsGroup, QT_TRANSLATE_NOOP("cText", "Sieht nach, ob es eine neue Version von Kontorelle gibt.")},
     {About, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr,
-     Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
+     StartsGroup, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
 });
 
 } // namespace

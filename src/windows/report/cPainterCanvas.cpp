@@ -48,6 +48,14 @@ void cPainterCanvas::Mark(const QRect& place, eMark mark, const QColor& color)
     m_painter.restore();
 }
 
+void cPainterCanvas::Picture(const QRect& place, const QImage& picture)
+{
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    m_painter.drawImage(place, picture);
+    m_painter.restore();
+}
+
 void cPainterCanvas::Clip(const QRect& place)
 {
     m_painter.save();

@@ -18,6 +18,7 @@ public:
     void Text(const QRect& place, int baseLine, const QString& text, const QFont& font, const QColor& color) override;
     void Fill(const QRect& place, const QColor& color) override;
     void Mark(const QRect& place, eMark mark, const QColor& color) override;
+    void Picture(const QRect& place, const QImage& picture) override;
     void Clip(const QRect& place) override;
     void Unclip() override;
 

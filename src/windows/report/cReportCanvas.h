@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QRect>
 #include <QString>
 
@@ -21,6 +22,7 @@ public:
                       const QColor& color) = 0;
     virtual void Fill(const QRect& place, const QColor& color) = 0;
     virtual void Mark(const QRect& place, eMark mark, const QColor& color) = 0;
-    virtual void Clip(const QRect& place) = 0; // until Unclip, within the clips before it
+    virtual void Picture(const QRect& place, const QImage& picture) = 0; // scaled to the place
+    virtual void Clip(const QRect& place) = 0;                           // until Unclip, within the clips before it
     virtual void Unclip() = 0;
 };

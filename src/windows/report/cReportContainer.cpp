@@ -2,6 +2,8 @@
 
 #include "windows/report/modReportStyle.h"
 
+#include <QDir>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -34,7 +36,10 @@ cReportCanvas& Canvas(litehtml::uint_ptr handle)
 
 } // namespace
 
-cReportContainer::cReportContainer(const QString& family) : m_family(family), m_familyBytes(family.toStdString())
+cReportContainer::cReportContainer(const QString& family, const QString& folder)
+    : m_family(family),
+      m_folder(folder),
+      m_familyBytes(family.toStdString())
 {
 }
 
@@ -48,11 +53,12 @@ litehtml::uint_ptr cReportContainer::Handle(cReportCanvas& canvas)
     return reinterpret_cast<litehtml::uint_ptr>(&canvas);
 }
 
-litehtml::uint_ptr cReportContainer::create_font(const char* /*faceName*/, int size, int weight,
+litehtml::uint_ptr cReportContainer::create_font(const char* faceName, int size, int weight,
                                                  litehtml::font_style italic, unsigned int decoration,
                                                  litehtml::font_metrics* metrics)
 {
-    QFont font(m_family);
+    const bool isFixed = QLatin1StringView(faceName).contains(QLatin1StringView("monospace"));
+    QFont font(isFixed ? QFontDatabase::systemFont(QFontDatabase::FixedFont).family() : m_family);
     font.setPixelSize(std::max(1, size));
     font.setBold(weight >= 600);
     font.setItalic(italic == litehtml::fontStyleItalic);
@@ -116,6 +122,9 @@ void cReportContainer::draw_background(litehtml::uint_ptr handle, const litehtml
 {
     if (background.color.alpha != 0) { // transparent ones come here too
         Canvas(handle).Fill(ToRect(background.clip_box), ToColor(background.color));
+    }
+    if (const QImage& picture = Picture(QString::fromStdString(background.image)); !picture.isNull()) {
+        Canvas(handle).Picture(ToRect(background.clip_box), picture);
     }
 }
 
@@ -191,15 +200,30 @@ void cReportContainer::get_language(litehtml::tstring& language, litehtml::tstri
     culture = "de-DE";
 }
 
-// A report holds neither pictures nor files of its own, no forms and no transformed texts.
+// A page holds no files of its own but pictures, which are read when they are needed; no forms and no transformed
+// texts.
 
 void cReportContainer::load_image(const char* /*source*/, const char* /*base*/, bool /*redraw*/)
 {
 }
 
-void cReportContainer::get_image_size(const char* /*source*/, const char* /*base*/, litehtml::size& size)
+void cReportContainer::get_image_size(const char* source, const char* /*base*/, litehtml::size& size)
 {
-    size = {};
+    const QImage& picture = Picture(QString::fromUtf8(source));
+    size.width = picture.width();
+    size.height = picture.height();
+}
+
+// Only from the page's own folder: a page fetches nothing from anywhere else.
+const QImage& cReportContainer::Picture(const QString& source)
+{
+    static const QImage none;
+    if (m_folder.isEmpty() || source.isEmpty() || source.startsWith(u'/') || source.contains(u"..")) {
+        return none;
+    }
+    const auto known = m_pictures.constFind(source);
+    return known != m_pictures.constEnd() ? *known
+                                          : *m_pictures.insert(source, QImage(QDir(m_folder).filePath(source)));
 }
 
 void cReportContainer::set_caption(const char* /*caption*/)

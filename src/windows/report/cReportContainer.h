@@ -3,6 +3,8 @@
 #include "windows/report/cReportCanvas.h"
 
 #include <QFont>
+#include <QHash>
+#include <QImage>
 
 #include <litehtml/litehtml.h>
 
@@ -14,7 +16,7 @@
 class cReportContainer final : public litehtml::document_container // NOLINT(cppcoreguidelines-virtual-class-destructor)
 {
 public:
-    explicit cReportContainer(const QString& family);
+    cReportContainer(const QString& family, const QString& folder); // folder of the pictures; empty for none
 
     void SetWidth(int width) { m_width = width; }
     [[nodiscard]] litehtml::element::ptr TakeClicked(); // the link of the last click; then none
@@ -63,7 +65,11 @@ private:
         int Ascent = 0;
     };
 
+    [[nodiscard]] const QImage& Picture(const QString& source);
+
     QString m_family;
+    QString m_folder;
+    QHash<QString, QImage> m_pictures; // by address; null for what could not be read
     std::string m_familyBytes;
     std::vector<std::unique_ptr<cFont>> m_fonts;
     cReportCanvas* m_canvas = nullptr;

@@ -22,6 +22,7 @@ public:
     }
     void Fill(const QRect& place, const QColor& /*color*/) override { Pieces.push_back({place, {}, {}}); }
     void Mark(const QRect& /*place*/, eMark /*mark*/, const QColor& /*color*/) override {}
+    void Picture(const QRect& place, const QImage& /*picture*/) override { Pieces.push_back({place, {}, {}}); }
     void Clip(const QRect& /*place*/) override {}
     void Unclip() override {}
 
@@ -60,8 +61,8 @@ litehtml::elements_vector LinkElements(litehtml::document& document)
 
 } // namespace
 
-cReportDocument::cReportDocument(const QString& html, const QString& family)
-    : m_container(std::make_unique<cReportContainer>(family)),
+cReportDocument::cReportDocument(const QString& html, const QString& family, const QString& folder)
+    : m_container(std::make_unique<cReportContainer>(family, folder)),
       m_context(std::make_unique<litehtml::context>())
 {
     m_context->load_master_stylesheet(modReportStyle::MasterSheet());
@@ -124,6 +125,22 @@ const QList<cReportDocument::cLink>& cReportDocument::Links() const
         m_links = FindLinks();
     }
     return *m_links;
+}
+
+QRect cReportDocument::AnchorPlace(const QString& anchor) const
+{
+    // Compared one by one: a selector would have to spell out umlauts and digits in its own way.
+    const litehtml::element::ptr root = m_document->root();
+    for (const char* level : {"h1", "h2", "h3"}) {
+        const litehtml::elements_vector headings = root ? root->select_all(level) : litehtml::elements_vector();
+        for (const litehtml::element::ptr& heading : headings) {
+            const char* id = heading->get_attr("id");
+            if (id != nullptr && QString::fromUtf8(id) == anchor) {
+                return PlaceOf(*heading);
+            }
+        }
+    }
+    return {};
 }
 
 QList<cReportDocument::cLink> cReportDocument::FindLinks() const

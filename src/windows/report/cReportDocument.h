@@ -31,8 +31,8 @@ public:
         QList<QRect> Places; // one for each of its words
     };
 
-    // `family`: the font of all text.
-    cReportDocument(const QString& html, const QString& family);
+    // `family`: the font of all text. `folder`: where the pictures of the page lie; without it there are none.
+    cReportDocument(const QString& html, const QString& family, const QString& folder = {});
     ~cReportDocument();
     cReportDocument(const cReportDocument&) = delete;
     cReportDocument& operator=(const cReportDocument&) = delete;
@@ -48,6 +48,8 @@ public:
     [[nodiscard]] std::vector<cReportPiece> Pieces() const; // in the order in which they are drawn
     [[nodiscard]] const cReportText& Text() const;
     [[nodiscard]] const QList<cLink>& Links() const; // in their order on the page
+    [[nodiscard]] QRect
+    AnchorPlace(const QString& anchor) const; // of the headline with this id; empty when none has it
 
     // The mouse at a point of the page. A click is complete with Release; what it hit is its result, empty for nothing.
     void MouseMove(QPoint point);

@@ -79,10 +79,11 @@ void cReportView::AddActions()
     add(cText::Tr("&Normale Größe"), {QKeySequence(u"Ctrl+0"_s)}, [this] { SetZoom(100); });
 }
 
-void cReportView::SetReport(const QString& html)
+void cReportView::SetReport(const QString& html, const QString& folder)
 {
     m_html = html;
-    m_document = std::make_unique<cReportDocument>(html, font().family());
+    m_folder = folder;
+    m_document = std::make_unique<cReportDocument>(html, font().family(), folder);
     m_anchor = m_cursor = 0;
     m_isSelecting = false;
     m_link = -1;
@@ -129,6 +130,12 @@ void cReportView::LayOut()
     horizontalScrollBar()->setSingleStep(fontMetrics().height());
     horizontalScrollBar()->setRange(0, qCeil(size.width()) - viewport()->width());
     viewport()->update();
+}
+
+void cReportView::GoToAnchor(const QString& anchor)
+{
+    const QRect heading = m_document->AnchorPlace(anchor);
+    verticalScrollBar()->setValue(heading.isNull() ? 0 : qRound(heading.top() * Scale()) - fontMetrics().height() / 2);
 }
 
 QPoint cReportView::ToPage(QPoint point) const
@@ -364,7 +371,7 @@ void cReportView::resizeEvent(QResizeEvent* /*event*/)
 void cReportView::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange) {
-        m_document = std::make_unique<cReportDocument>(m_html, font().family());
+        m_document = std::make_unique<cReportDocument>(m_html, font().family(), m_folder);
         LayOut();
     }
     QAbstractScrollArea::changeEvent(event);

@@ -22,7 +22,10 @@ public:
     explicit cReportView(QWidget* parent = nullptr);
     ~cReportView() override;
 
-    void SetReport(const QString& html);
+    // `folder`: where the pictures of the page lie; a report has none.
+    void SetReport(const QString& html, const QString& folder = {});
+    // Puts the headline with this id at the top; the beginning of the page when none has it.
+    void GoToAnchor(const QString& anchor);
     [[nodiscard]] QString PlainText() const; // of the whole report
 
     [[nodiscard]] QString SelectedText() const;
@@ -86,6 +89,7 @@ private:
 
     std::unique_ptr<cReportDocument> m_document;
     QString m_html;
+    QString m_folder;
     int m_zoom = 100;
     qreal m_fit = 1;  // what a wide page is made smaller by
     int m_anchor = 0; // the selection reaches from here

@@ -18,7 +18,7 @@ i, em { font-style: italic; }
 h1 { font-weight: bold; margin: 4px 0 12px 0; }
 h2 { font-weight: bold; margin: 18px 0 8px 0; }
 a { cursor: pointer; }
-br { display: inline-block; }
+br, img { display: inline-block; }
 
 /* Lists indent by what the widths of the lines count on, so that lines of all levels end at the same place. */
 dir, ul { margin-left: 40px; margin-top: 0; margin-bottom: 0; padding-left: 0; }

@@ -44,3 +44,12 @@ QRect modPlace::Visible(const QRect& place, const QList<QRect>& screens)
     moved.moveCenter(screens.constFirst().center());
     return moved;
 }
+
+QPoint modPlace::Beside(const QRect& place, const QRect& other, const QRect& screen)
+{
+    const int left = other.left() - screen.left();
+    const int right = screen.right() - other.right();
+    const int x = right >= left ? std::min(other.right() + 1, screen.right() + 1 - place.width())
+                                : std::max(other.left() - place.width(), screen.left());
+    return {std::max(x, screen.left()), place.top()};
+}

@@ -19,4 +19,8 @@ namespace modPlace {
 // for windows.
 [[nodiscard]] QSize Fitting(const QSize& wanted, const QRect& screen);
 
+// Where a window of this size leaves as much as it can of `other` to be seen: at the edge of the screen that is farther
+// from it, as high as it stands now. `place` and `other` are frames of windows.
+[[nodiscard]] QPoint Beside(const QRect& place, const QRect& other, const QRect& screen);
+
 } // namespace modPlace

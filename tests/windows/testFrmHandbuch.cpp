@@ -1,0 +1,180 @@
+#include "support/fakes.h"
+#include "views/help/cManualBrowser.h"
+#include "windows/help/frmHandbuch.h"
+#include "windows/report/cReportView.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QWindow>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cScene
+{
+    cScene()
+    {
+        QFile::link(QStringLiteral(MANUAL), Shell.InstalledFile(u"handbuch"_s));
+        Browser = std::make_unique<cManualBrowser>(Shell, User);
+        Window = std::make_unique<frmHandbuch>(*Browser);
+        Window->Present();
+        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        View = Window->findChild<cReportView*>();
+        const QList<QTreeWidget*> trees = Window->findChildren<QTreeWidget*>();
+        for (QTreeWidget* tree : trees) {
+            (tree->accessibleName() == u"Inhalt" ? Contents : Hits) = tree;
+        }
+    }
+
+    [[nodiscard]] QPushButton* Button(const QString& text) const
+    {
+        const QList<QPushButton*> buttons = Window->findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) {
+            if (button->text() == text) {
+                return button;
+            }
+        }
+        return nullptr;
+    }
+
+    // A text of the page, in pixels of the viewport.
+    [[nodiscard]] QRect PlaceOf(const QString& text) const
+    {
+        const int at = static_cast<int>(View->PlainText().indexOf(text));
+        return at < 0 ? QRect() : View->PlaceOf(at).translated(-View->viewport()->pos());
+    }
+
+    cFakeShell Shell;
+    cFakeUser User;
+    std::unique_ptr<cManualBrowser> Browser;
+    std::unique_ptr<frmHandbuch> Window;
+    cReportView* View = nullptr;
+    QTreeWidget* Contents = nullptr;
+    QTreeWidget* Hits = nullptr;
+};
+
+// Where a real click of the mouse would land: a window that a dialog blocks gets none.
+void Click(QWidget& widget)
+{
+    QWidget* window = widget.window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget.mapTo(window, widget.rect().center()));
+}
+
+} // namespace
+
+class testFrmHandbuch final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void GoesToTheHeading() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"02-kontoauszug.html#buchen"_s);
+        const QRect heading = scene.PlaceOf(u"Nach dem Einlesen sind die neuen"_s);
+        QVERIFY2(heading.top() > 0 && heading.top() < 100, qPrintable(QString::number(heading.top())));
+        QCOMPARE(scene.Contents->currentItem()->text(0), u"Buchen"_s);
+    }
+
+    void FollowsLinksAndGoesBackToThePlace() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"02-kontoauszug.html#buchen"_s);
+        const int left = scene.View->verticalScrollBar()->value();
+        QVERIFY(left > 0);
+        Q_EMIT scene.View->LinkClicked(u"03-eintraege.html"_s, u"Eintrag"_s);
+        QVERIFY(scene.View->PlainText().startsWith(u"Einträge erfassen"_s));
+        QCOMPARE(scene.View->verticalScrollBar()->value(), 0);
+        QTest::keyClick(scene.Window.get(), Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(scene.View->verticalScrollBar()->value(), left);
+        QVERIFY(scene.Button(u"&Vor"_s)->isEnabled());
+    }
+
+    void SearchListsPlacesAndEnterOpensThem() const
+    {
+        const cScene scene;
+        auto* field = scene.Window->findChild<QLineEdit*>();
+        field->setFocus();
+        QTest::keyClicks(field, u"photoTAN"_s);
+        QVERIFY(scene.Hits->isVisible());
+        QVERIFY(scene.Hits->topLevelItemCount() > 1);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(scene.Browser->Place().Page, u"faq.html"_s); // the question has the word in its heading
+        QVERIFY(scene.View->FoundCount() > 0);
+        field->clear();
+        QVERIFY(scene.Contents->isVisible());
+    }
+
+    void PicturesAreShown() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"01-start.html"_s);
+        const int above = scene.PlaceOf(u"Fast alles geht ohne Maus"_s).bottom();
+        const int below = scene.PlaceOf(u"Ein anderer Ordner"_s).top();
+        QVERIFY2(below - above > 200, qPrintable(QStringLiteral("%1 to %2").arg(above).arg(below)));
+    }
+
+    void HeadsOfTablesStandAboveTheirRows() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"02-kontoauszug.html"_s);
+        const QRect head = scene.PlaceOf(u"gut zu wissen"_s);
+        QVERIFY(head.isValid());
+        QVERIFY(head.bottom() < scene.PlaceOf(u".sta"_s).top());
+    }
+
+    void ListsAreNumbered() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"faq.html"_s);
+        const QRect second = scene.PlaceOf(u"2."_s);
+        const QRect words = scene.PlaceOf(u"Auf dem neuen Rechner"_s);
+        QVERIFY(second.isValid());
+        QVERIFY2(second.right() < words.left() && std::abs(second.top() - words.top()) <= 3,
+                 qPrintable(QStringLiteral("%1,%2 %3,%4")
+                                .arg(second.right())
+                                .arg(second.top())
+                                .arg(words.left())
+                                .arg(words.top())));
+    }
+
+    // Whoever fills in a form reads beside it how, one dialog above another too.
+    void CanBeUsedBesideADialog() const
+    {
+        const cScene scene;
+        scene.Browser->Open(u"05-serien.html"_s);
+        scene.Browser->Open(u"08-suchen.html"_s);
+        QDialog first;
+        QDialog second(&first);
+        QStringList pages; // where the button led beside each dialog
+        const auto goBack = [&](const QDialog& dialog) {
+            const bool isBeside = QTest::qWaitFor(
+                [&] { return scene.Window->windowHandle()->transientParent() == dialog.windowHandle(); });
+            Click(*scene.Button(u"&Zurück"_s));
+            pages.append(isBeside ? scene.Browser->Place().Page : QString());
+        };
+        QTimer::singleShot(0, &first, [&] {
+            goBack(first);
+            QTimer::singleShot(0, &second, [&] {
+                goBack(second);
+                second.reject();
+            });
+            second.exec();
+            first.reject();
+        });
+        first.exec();
+        QCOMPARE(pages, QStringList({u"05-serien.html"_s, u"index.html"_s}));
+        QVERIFY(scene.Window->isVisible());
+        Click(*scene.Button(u"&Vor"_s));
+        QCOMPARE(scene.Browser->Place().Page, u"05-serien.html"_s);
+    }
+};
+
+QTEST_MAIN(testFrmHandbuch)
+#include "testFrmHandbuch.moc"
