@@ -1,7 +1,9 @@
 #include "app/cMainProgram.h"
 
 #include "app/cNavigation.h"
+#include "app/modBuild.h"
 #include "base/cClock.h"
+#include "base/cShell.h"
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cSettings.h"
@@ -36,18 +38,16 @@ constexpr auto requestRetry = 300ms;
 } // namespace
 
 cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
-    : m_ports(ports),
+    : m_log({ports.Shell.StateFolder(), QStringLiteral("kontorelle"), modBuild::Version()}, ports.Clock),
+      m_user(ports.User, m_log),
+      m_ports({ports.Shell, ports.Registry, m_user, ports.Rescue, ports.Clock}),
       m_version(version),
       m_configuration(ports.Registry),
-      m_book(ports.User),
-      m_bookSwitch({{ports.Shell, ports.User, ports.Rescue, ports.Clock},
-                    ports.Registry,
-                    m_configuration,
-                    m_book,
-                    m_lock,
-                    version},
-                   Hooks()),
-      m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration)
+      m_book(m_user),
+      m_bookSwitch(
+          {{ports.Shell, m_user, ports.Rescue, ports.Clock}, ports.Registry, m_configuration, m_book, m_lock, version},
+          Hooks()),
+      m_backups({ports.Shell, m_user, ports.Clock}, m_book, m_configuration)
 {
     tmrBackup.setSingleShot(true);
     tmrWalk.setSingleShot(true);
@@ -78,8 +78,14 @@ bool cMainProgram::Start(const cStartRequest& request)
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
     WatchBook();
-    QTimer::singleShot(0, m_window.get(), [this] { Serve(); }); // once the window is painted
+    QTimer::singleShot(0, m_window.get(), [this] { GoToWork(); }); // once the window is painted
     return true;
+}
+
+void cMainProgram::GoToWork()
+{
+    m_navigation->TellBroken();
+    Serve();
 }
 
 // What another start wants: the window comes to the front first.
@@ -165,13 +171,15 @@ void cMainProgram::BuildWindow()
 {
     cNameKeepers::Watch(m_book.Data(), m_book.Settings());
     m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
-    m_navigation = std::make_unique<cNavigation>(
-        cNavigation::cParts{*m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch});
+    m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
+        *m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch, m_log});
     m_model = std::make_unique<cMainModel>(
         *m_tools, cMainModel::cParts{m_configuration, m_ports.Shell, *m_navigation, m_book.Path()});
     m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
+    m_log.Watch([this] { m_window->ShowFailureMark(true); });
+    m_window->ShowFailureMark(m_log.Count() > 0);
     QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
                      [this] { m_backups.CopyIfChanged(); });
     QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });

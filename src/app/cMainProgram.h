@@ -9,6 +9,8 @@
 #include "core/cBook.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
+#include "core/cErrorLog.h"
+#include "core/cLoggedUser.h"
 #include "core/cStartRequest.h"
 #include "store/cTableWalk.h"
 
@@ -58,6 +60,7 @@ public:
     [[nodiscard]] cImportReview& Review() { return *m_review; }
     [[nodiscard]] cNavigation& Navigation() { return *m_navigation; }
     [[nodiscard]] const cBookTools& Tools() const { return *m_tools; }
+    [[nodiscard]] cErrorLog& Log() { return m_log; }
 
 private:
     [[nodiscard]] bool OpenBook(cStartUp& startUp);
@@ -71,8 +74,11 @@ private:
     void WatchBook();
     void ReadOn();
     void TellDamage();
+    void GoToWork();
     void LeaveBook(cBookSwitch::eLeave leave);
 
+    cErrorLog m_log;
+    cLoggedUser m_user; // every failure that is told on the way
     cPorts m_ports;
     QString m_version;
     cConfiguration m_configuration;

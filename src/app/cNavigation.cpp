@@ -1,6 +1,7 @@
 #include "app/cNavigation.h"
 
 #include "app/cBankWindows.h"
+#include "app/modBuild.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
@@ -58,6 +59,7 @@ cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
+      m_logs({parts.Log, parts.Tools, parts.Shell, parts.Configuration, parts.Book}),
       m_printer(parts.Tools.User)
 {
 }
@@ -159,6 +161,18 @@ void cNavigation::TellDamage()
 {
     m_model->AccessChanged();
     m_books.TellDamage();
+}
+
+void cNavigation::TellBroken()
+{
+    m_logs.TellBroken(m_books, m_window);
+}
+
+// Once it was looked at, the mark has done its work.
+void cNavigation::OpenLog()
+{
+    m_window->ShowFailureMark(false);
+    m_logs.OpenLog(Parent());
 }
 
 void cNavigation::LeaveBook()
@@ -322,7 +336,7 @@ void cNavigation::CheckSeries()
 
 void cNavigation::OpenAbout()
 {
-    frmUeber form(modAbout::Name(QCoreApplication::applicationVersion(), QStringLiteral(APP_COMMIT)), Parent());
+    frmUeber form(modAbout::Name(QCoreApplication::applicationVersion(), modBuild::Commit()), Parent());
     QObject::connect(&form, &frmUeber::GameRequested, &form, [this, &form] {
         cHighScores scores(m_parts.Tools.Settings);
         frmSpiel(
@@ -436,7 +450,15 @@ void cNavigation::PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*)
     (m_printer.*way)(pages, Parent());
 }
 
+// A failure on the way is one of this command.
 void cNavigation::Open(modCommand::eId command)
+{
+    m_parts.Log.Begin(modCommand::PlainText(*modCommand::Find(command)).remove(u'…'));
+    Carry(command);
+    m_parts.Log.End();
+}
+
+void cNavigation::Carry(modCommand::eId command)
 {
     switch (command) {
     case modCommand::ImportStatement: OpenImport(); break;
@@ -453,6 +475,8 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::StartBalance: OpenStartBalance(); break;
     case modCommand::AccountStatement: OpenAccountStatement(); break;
     case modCommand::About: OpenAbout(); break;
+    case modCommand::ErrorLog: OpenLog(); break;
+    case modCommand::Feedback: m_logs.SendFeedback(); break;
     case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::CheckSeries: CheckSeries(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;

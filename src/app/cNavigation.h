@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/cLogWindows.h"
 #include "app/cQtPrinter.h"
 #include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
@@ -43,6 +44,7 @@ public:
         cRescue& Rescue;
         cShell& Shell;
         cBookHost& Host;
+        cErrorLog& Log;
     };
 
     explicit cNavigation(const cParts& parts);
@@ -51,7 +53,8 @@ public:
     // The windows and models that stay open; called once they are there.
     void Connect(cMainModel& model, cImportReview& review, frmMain& window);
     void TellDamage();
-    void LeaveBook(); // before the file is closed: so are the windows that show it
+    void TellBroken(); // that the last run was, if it was
+    void LeaveBook();  // before the file is closed: so are the windows that show it
 
     [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
     void ShowStatements();                 // brings the page for bank statements to the front
@@ -76,6 +79,8 @@ private:
     void OpenImport();
     void OpenAccountStatement();
     void OpenAbout();
+    void OpenLog();
+    void Carry(modCommand::eId command);
     void OpenCheck();
     void CheckSeries();
     void OpenPassword();
@@ -93,6 +98,7 @@ private:
 
     cParts m_parts;
     cBookFlow m_books;
+    cLogWindows m_logs;
     cQtPrinter m_printer;
     cMainModel* m_model = nullptr;
     cImportReview* m_review = nullptr;

@@ -10,6 +10,7 @@ public:
     explicit cQtShell(const QString& profile) : m_profile(profile) {}
 
     [[nodiscard]] QString DataFolder() override;
+    [[nodiscard]] QString StateFolder() override;
     [[nodiscard]] QString InstalledFile(const QString& name) const override;
     [[nodiscard]] bool FileExists(const QString& path) const override;
     [[nodiscard]] bool CopyFile(const QString& from, const QString& to) override;

@@ -4,6 +4,9 @@
 #include "app/cQtShell.h"
 #include "app/cQtUser.h"
 #include "app/cSystemClock.h"
+#include "app/modBuild.h"
+#include "app/modCrash.h"
+#include "app/modDebugInfo.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
 #include "core/cStartRequest.h"
@@ -43,6 +46,9 @@ int RefuseWithoutDisplay()
 int main(int argc, char* argv[])
 {
     modLocale::UseUtf8();
+    if (modDebugInfo::IsWanted(argc, argv)) {
+        return modDebugInfo::Run(argc, argv);
+    }
     if (!HasDisplay()) {
         return RefuseWithoutDisplay();
     }
@@ -50,7 +56,7 @@ int main(int argc, char* argv[])
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
     QApplication::setApplicationName(u"kontorelle"_s);
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
-    QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
+    QApplication::setApplicationVersion(modBuild::Version()); // for --version
     QApplication::setDesktopFileName(u"de.veltrino.Kontorelle"_s);
     QCommandLineParser parser;
     parser.setApplicationDescription(cText::Tr("Kontorelle, das Haushaltsbuch"));
@@ -61,6 +67,7 @@ int main(int argc, char* argv[])
     }
     parser.addPositionalArgument(u"datei"_s, modStartOption::FilesHelp(), u"[DATEI...]"_s);
     parser.process(application);
+    QApplication::setApplicationVersion(QStringLiteral(APP_VERSION)); // as banks and books know it
 
     const QString profile = parser.value(modStartOption::Profile);
     cStartRequest request;
@@ -73,6 +80,7 @@ int main(int argc, char* argv[])
     cQtRescue rescue;
     const cSystemClock clock;
     cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
+    modCrash::Watch(program.Log().Descriptor(), cErrorLog::NoteOfCrash);
     if (const QString error = request.TakeFiles(parser.positionalArguments()); !error.isEmpty()) {
         user.Show(eTone::Exclamation, error);
         return 1;

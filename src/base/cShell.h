@@ -8,6 +8,7 @@ struct cMailDraft
     QString Subject;
     QString Text;
     QString Attachment;
+    QString To{}; // an address; empty leaves it to the user
 };
 
 // Folders, files and programs of the machine.
@@ -21,6 +22,10 @@ public:
 
     // The user's data folder "Veltrino Kontorelle", created when missing; without a trailing separator.
     [[nodiscard]] virtual QString DataFolder() = 0;
+
+    // The folder for what the program writes for itself, such as its error log; created when missing, for the user
+    // only. Without a trailing separator.
+    [[nodiscard]] virtual QString StateFolder() = 0;
 
     // Full path of a file of the installation: beside the program, else in its share folder. When it is in neither, the
     // path beside the program is returned.

@@ -129,6 +129,7 @@ class cFakeShell final : public cShell
 {
 public:
     QString DataFolder() override { return Folder(QStringLiteral("data")); }
+    QString StateFolder() override { return Folder(QStringLiteral("state")); }
     [[nodiscard]] QString InstalledFile(const QString& name) const override
     {
         return Folder(QStringLiteral("program")) + u'/' + name;

@@ -1,5 +1,6 @@
 #include "base/cText.h"
 #include "core/cBook.h"
+#include "core/cErrorLog.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/testBook.h"
@@ -21,6 +22,7 @@
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
+#include "views/help/cErrorLogView.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
@@ -44,6 +46,7 @@
 #include "windows/chart/cChartBox.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/help/frmFehlerprotokoll.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/statement/frmImport.h"
@@ -147,6 +150,8 @@ struct cScene
     cBankSetup Setup{{Book.Tools, Directory, Https, Customer, QStringLiteral("1.0.0")}};
     std::unique_ptr<cBankListModel> Banks;
     std::unique_ptr<cBankFetch> Fetch;
+    cErrorLog Failures{{Book.Shell.StateFolder(), u"kontorelle"_s, u"0.1.0"_s}, Book.Clock};
+    std::unique_ptr<cErrorLogView> FailureView;
 
     // Several procedures and media, an account without statements, and long names.
     static cBankProfile BankProfile()
@@ -240,6 +245,7 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
     {"main window",
      [](cScene& scene) {
          auto window = std::make_unique<frmMain>(scene.Model);
+         window->ShowFailureMark(true);
          window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
          scene.Model.RestoreView(false);
          scene.Statistics.Restore();
@@ -350,6 +356,13 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
              cPinQuestion{u"Sparkasse Ahornstadt"_s, u"12345678"_s, u"kunde1"_s, u"Anmeldename"_s});
      }},
     {"bank log", [](cScene& scene) { return std::make_unique<frmProtokoll>(scene.Log); }},
+    {"error log",
+     [](cScene& scene) {
+         scene.Failures.Record(QStringLiteral("Daten exportieren"), QStringLiteral("Die Datei ist schreibgeschützt."));
+         scene.FailureView = std::make_unique<cErrorLogView>(cErrorLogView::cParts{
+             scene.Failures, scene.Book.User, scene.Book.Shell, scene.Book.Clock, QStringLiteral("Diagnose")});
+         return std::make_unique<frmFehlerprotokoll>(*scene.FailureView);
+     }},
     {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     {"fetch",
      [](cScene& scene) {

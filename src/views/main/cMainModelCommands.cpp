@@ -52,6 +52,8 @@ bool cMainModel::Execute(int command)
     case modCommand::StartBalance:
     case modCommand::AccountStatement:
     case modCommand::About:
+    case modCommand::ErrorLog:
+    case modCommand::Feedback:
     case modCommand::CheckBook:
     case modCommand::CheckSeries:
     case modCommand::BackupSettings:

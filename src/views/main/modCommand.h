@@ -49,6 +49,8 @@ enum eId : int {
     ViewFuture = 403,
     ViewStart = 404,
     ViewAccountValues = 405,
+    ErrorLog = 510,
+    Feedback = 511,
 };
 
 enum eTrait : int {

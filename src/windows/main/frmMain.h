@@ -16,6 +16,7 @@ class QAction;
 class QLabel;
 class QSplitter;
 class QTabWidget;
+class QToolButton;
 
 // The main window: menus, tool bar and keys from the command table, accounts at the left, the entry list with its
 // selectors and sums, and pages for bank statements and for statistics.
@@ -44,7 +45,8 @@ public:
     void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
     void ShowPage(ePage page);                        // brings it to the front
     void ShowColumnMenu();
-    void Raise(); // in front of other windows, also out of the task bar
+    void ShowFailureMark(bool isShown); // in the status bar: the way to the error log after a failure
+    void Raise();                       // in front of other windows, also out of the task bar
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
@@ -61,6 +63,7 @@ protected:
 private:
     void BuildCommands();
     void BuildPages();
+    void BuildStatusBar();
     QWidget* BuildEntryPage();
     void Connect();
     void ShowView();
@@ -84,5 +87,6 @@ private:
     cEntryTree* m_tree;
     cSumBar* m_sums;
     QLabel* m_database;
+    QToolButton* m_failureMark;
     bool m_isSplitByHand = false;
 };

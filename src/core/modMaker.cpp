@@ -1,0 +1,6 @@
+#include "core/modMaker.h"
+
+QString modMaker::FeedbackAddress()
+{
+    return QStringLiteral(MAKER_FEEDBACK);
+}
