@@ -1,5 +1,6 @@
 #include "cli/modCliMain.h"
 
+#include "base/cShell.h"
 #include "base/cText.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"

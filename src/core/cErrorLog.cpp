@@ -72,8 +72,8 @@ QString TakeOperation(QString& message)
     return match.captured(1);
 }
 
-// Whether the program that made the file is gone. Where that cannot be told it counts as alive.
-bool IsGone(QFile& file)
+// Takes the file's lock, which its program holds for as long as it lives. Where that cannot be told it counts as alive.
+bool IsGone(const QFile& file)
 {
     return flock(file.handle(), LOCK_EX | LOCK_NB) == 0;
 }
@@ -82,7 +82,8 @@ bool IsGone(QFile& file)
 
 cErrorLog::cErrorLog(cRun run, const cClock& clock) : m_run(std::move(run)), m_clock(clock)
 {
-    if (m_run.Kind == eKind::Window && Open()) {
+    // Without a lock nobody could tell an abandoned file from one in use, so it gets no mark.
+    if (m_run.Kind == eKind::Window && Open() && IsGone(m_file)) {
         Write({QString(begun), m_clock.Now().toString(Qt::ISODate), m_run.Program, m_run.Version});
     }
 }
@@ -109,7 +110,7 @@ bool cErrorLog::Open()
         m_file.setFileName(start + u'-' + QString::number(i) + u".log"_s);
         (void)m_file.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Append, ownerOnly);
     }
-    return m_file.isOpen() && flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0;
+    return m_file.isOpen();
 }
 
 void cErrorLog::Write(const QStringList& cells)
