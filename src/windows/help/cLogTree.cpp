@@ -9,14 +9,9 @@
 #include <QItemSelectionModel>
 #include <QShortcut>
 
-#include <array>
-#include <utility>
-
 namespace {
 
-// Widths of the columns that do not share what is left, in letters.
-constexpr std::array<std::pair<int, int>, 3> widths{
-    {{cErrorLogView::Time, 22}, {cErrorLogView::Version, 22}, {cErrorLogView::Operation, 28}}};
+constexpr int operationLetters = 28;
 
 } // namespace
 
@@ -31,9 +26,9 @@ cLogTree::cLogTree(cErrorLogView& log, QWidget* parent) : QTreeView(parent), m_l
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setAccessibleName(cText::Tr("Meldungen"));
     header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 10);
-    for (const auto& [column, letters] : widths) {
-        header()->resizeSection(column, fontMetrics().averageCharWidth() * letters);
-    }
+    header()->setSectionResizeMode(cErrorLogView::Time, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(cErrorLogView::Version, QHeaderView::ResizeToContents);
+    header()->resizeSection(cErrorLogView::Operation, fontMetrics().averageCharWidth() * operationLetters);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& index) { Q_EMIT CurrentRowChanged(index.isValid() ? index.row() : -1); });
     connect(new QShortcut(QKeySequence::Copy, this, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
