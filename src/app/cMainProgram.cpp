@@ -55,7 +55,11 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
     QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { tmrBackup.start(m_backups.CopyInUse()); });
 }
 
-cMainProgram::~cMainProgram() = default;
+// What fails from here on has no window to mark.
+cMainProgram::~cMainProgram()
+{
+    m_log.Watch({});
+}
 
 bool cMainProgram::Start(const cStartRequest& request)
 {
