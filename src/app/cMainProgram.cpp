@@ -1,8 +1,10 @@
 #include "app/cMainProgram.h"
 
 #include "app/cNavigation.h"
+#include "app/modBuild.h"
 #include "app/modLocale.h"
 #include "base/cClock.h"
+#include "base/cShell.h"
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cSettings.h"
@@ -42,19 +44,17 @@ constexpr auto updatePause = 24h; // of a program that stays open
 } // namespace
 
 cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
-    : m_ports(ports),
+    : m_log({ports.Shell.StateFolder(), QStringLiteral("kontorelle"), modBuild::Version()}, ports.Clock),
+      m_user(ports.User, m_log),
+      m_ports({ports.Shell, ports.Registry, m_user, ports.Rescue, ports.Clock}),
       m_version(version),
       m_configuration(ports.Registry),
-      m_book(ports.User),
+      m_book(m_user),
       m_appearance(ports.Registry),
-      m_bookSwitch({{ports.Shell, ports.User, ports.Rescue, ports.Clock},
-                    ports.Registry,
-                    m_configuration,
-                    m_book,
-                    m_lock,
-                    version},
-                   Hooks()),
-      m_backups({ports.Shell, ports.User, ports.Clock}, m_book, m_configuration),
+      m_bookSwitch(
+          {{ports.Shell, m_user, ports.Rescue, ports.Clock}, ports.Registry, m_configuration, m_book, m_lock, version},
+          Hooks()),
+      m_backups({ports.Shell, m_user, ports.Clock}, m_book, m_configuration),
       m_end({[this] { return m_tools && m_book.Data().Journal().IsOpen(); }, [this] { Finish(); }})
 {
     tmrBackup.setSingleShot(true);
@@ -68,7 +68,11 @@ cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
     QObject::connect(&tmrBackup, &QTimer::timeout, &tmrBackup, [this] { tmrBackup.start(m_backups.CopyInUse()); });
 }
 
-cMainProgram::~cMainProgram() = default;
+// What fails from here on has no window to mark.
+cMainProgram::~cMainProgram()
+{
+    m_log.Watch({});
+}
 
 bool cMainProgram::Start(const cStartRequest& request)
 {
@@ -95,12 +99,16 @@ bool cMainProgram::Start(const cStartRequest& request)
     m_model->RestoreView(startUp.IsNewVersion());
     m_window->ShowToday();
     WatchBook();
-    QTimer::singleShot(0, m_window.get(), [this] { // once the window is painted
-        OfferDrafts();
-        Serve();
-    });
+    QTimer::singleShot(0, m_window.get(), [this] { GoToWork(); }); // once the window is painted
     tmrUpdate.start(updateDelay);
     return true;
+}
+
+void cMainProgram::GoToWork()
+{
+    m_navigation->TellBroken();
+    OfferDrafts();
+    Serve();
 }
 
 // What another start wants: the window comes to the front first.
@@ -224,13 +232,15 @@ bool cMainProgram::OpenForeign(const QString& path)
 void cMainProgram::BuildWindow()
 {
     m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
-        *m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch, *m_updates});
+        *m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch, *m_updates, m_log});
     m_model = std::make_unique<cMainModel>(
         *m_tools, cMainModel::cParts{m_configuration, m_ports.Shell, *m_navigation, m_book.Path()});
     m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
     QObject::connect(m_model.get(), &cMainModel::AppearanceChanged, m_window.get(), [this] { m_appearance.Apply(); });
+    m_log.Watch([this] { m_window->ShowFailureMark(true); });
+    m_window->ShowFailureMark(m_log.Count() > 0);
     QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
                      [this] { m_backups.CopyIfChanged(); });
     QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });

@@ -12,6 +12,8 @@
 #include "core/cBook.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
+#include "core/cErrorLog.h"
+#include "core/cLoggedUser.h"
 #include "core/cStartRequest.h"
 #include "store/cTableWalk.h"
 
@@ -67,6 +69,7 @@ public:
     [[nodiscard]] cAppearance& Appearance() { return m_appearance; } // from the beginning on
     [[nodiscard]] cNavigation& Navigation() { return *m_navigation; }
     [[nodiscard]] const cBookTools& Tools() const { return *m_tools; }
+    [[nodiscard]] cErrorLog& Log() { return m_log; }
 
 private:
     [[nodiscard]] bool OpenBook(cStartUp& startUp);
@@ -83,10 +86,13 @@ private:
     void WatchBook();
     void ReadOn();
     void TellDamage();
+    void GoToWork();
     void LeaveBook(cBookSwitch::eLeave leave);
     void OfferDrafts();
     void Finish();
 
+    cErrorLog m_log;
+    cLoggedUser m_user; // every failure that is told on the way
     cPorts m_ports;
     QString m_version;
     cConfiguration m_configuration;

@@ -2,6 +2,7 @@
 
 #include "app/cBankWindows.h"
 #include "app/cUpdateWindows.h"
+#include "app/modBuild.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
@@ -63,6 +64,7 @@ cNavigation::cNavigation(const cParts& parts)
       m_forms(parts.Tools, parts.Book, parts.Shell),
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
+      m_logs({parts.Log, parts.Tools, parts.Shell, parts.Configuration, parts.Book}),
       m_printer(parts.Tools.User),
       m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format)),
       m_help(parts.Shell, parts.Tools.User)
@@ -186,6 +188,18 @@ void cNavigation::TellDamage()
 {
     m_model->AccessChanged();
     m_books.TellDamage();
+}
+
+void cNavigation::TellBroken()
+{
+    m_logs.TellBroken(m_books, m_window);
+}
+
+// Once it was looked at, the mark has done its work.
+void cNavigation::OpenLog()
+{
+    m_window->ShowFailureMark(false);
+    m_logs.OpenLog(Parent());
 }
 
 void cNavigation::LeaveBook()
@@ -379,7 +393,7 @@ void cNavigation::CheckSeries()
 
 void cNavigation::OpenAbout()
 {
-    frmUeber form(modAbout::Name(QCoreApplication::applicationVersion(), QStringLiteral(APP_COMMIT)), Parent());
+    frmUeber form(modAbout::Name(QCoreApplication::applicationVersion(), modBuild::Commit()), Parent());
     QObject::connect(&form, &frmUeber::GameRequested, &form, [this, &form] {
         cHighScores scores(m_parts.Tools.Settings);
         frmSpiel(
@@ -490,7 +504,15 @@ void cNavigation::PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*)
     (m_printer.*way)(pages, Parent());
 }
 
+// A failure on the way is one of this command.
 void cNavigation::Open(modCommand::eId command)
+{
+    m_parts.Log.Begin(modCommand::PlainText(*modCommand::Find(command)).remove(u'…'));
+    Carry(command);
+    m_parts.Log.End();
+}
+
+void cNavigation::Carry(modCommand::eId command)
 {
     switch (command) {
     case modCommand::ImportStatement: OpenImport(); break;
@@ -511,6 +533,8 @@ void cNavigation::Open(modCommand::eId command)
     case modCommand::Manual: m_help.Open(command); break;
     case modCommand::About: OpenAbout(); break;
     case modCommand::CheckUpdates: m_parts.Updates.Open(Parent()); break;
+    case modCommand::ErrorLog: OpenLog(); break;
+    case modCommand::Feedback: m_logs.SendFeedback(); break;
     case modCommand::CheckBook: OpenCheck(); break;
     case modCommand::CheckSeries: CheckSeries(); break;
     case modCommand::BackupSettings: OpenBackupSettings(); break;

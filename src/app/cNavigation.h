@@ -2,6 +2,7 @@
 
 #include "app/cEntryForms.h"
 #include "app/cHelpWindows.h"
+#include "app/cLogWindows.h"
 #include "app/cQtPrinter.h"
 #include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
@@ -50,6 +51,7 @@ public:
         cShell& Shell;
         cBookHost& Host;
         cUpdateWindows& Updates;
+        cErrorLog& Log;
     };
 
     explicit cNavigation(const cParts& parts);
@@ -58,6 +60,7 @@ public:
     // The windows and models that stay open; called once they are there.
     void Connect(cMainModel& model, cImportReview& review, frmMain& window);
     void TellDamage();
+    void TellBroken();  // that the last run was, if it was
     void OfferDrafts(); // what was typed and not saved when the program had to end the last time
     [[nodiscard]] cEntryForms& Forms() { return m_forms; }
     void LeaveBook(); // before the file is closed: so are the windows that show it
@@ -88,6 +91,8 @@ private:
     void OpenImport();
     void OpenAccountStatement();
     void OpenAbout();
+    void OpenLog();
+    void Carry(modCommand::eId command);
     void OpenCheck();
     void CheckSeries();
     void OpenPassword();
@@ -107,6 +112,7 @@ private:
     cParts m_parts;
     cEntryForms m_forms;
     cBookFlow m_books;
+    cLogWindows m_logs;
     cQtPrinter m_printer;
     cHelpWindows m_help;
     cMainModel* m_model = nullptr;

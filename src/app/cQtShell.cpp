@@ -115,15 +115,19 @@ bool cQtShell::OpenPage(const QString& url)
 bool cQtShell::OpenMail(const cMailDraft& draft)
 {
     const QString file = QUrl::fromLocalFile(draft.Attachment).toString(QUrl::FullyEncoded);
-    const QString compose = u"subject='%1',body='%2',attachment='%3'"_s.arg(draft.Subject, draft.Text, file);
-    const QString address =
-        u"mailto:?subject=%1&body=%2&attach=%3"_s.arg(QString::fromLatin1(QUrl::toPercentEncoding(draft.Subject)),
-                                                      QString::fromLatin1(QUrl::toPercentEncoding(draft.Text)), file);
-    return StartFirst(
-        {{u"xdg-email"_s, {u"--subject"_s, draft.Subject, u"--body"_s, draft.Text, u"--attach"_s, draft.Attachment}},
-         {u"thunderbird"_s, {u"-compose"_s, compose}},
-         {u"evolution"_s, {address}},
-         {u"kmail"_s, {u"--subject"_s, draft.Subject, u"--body"_s, draft.Text, u"--attach"_s, draft.Attachment}}});
+    const QString compose =
+        u"to='%1',subject='%2',body='%3',attachment='%4'"_s.arg(draft.To, draft.Subject, draft.Text, file);
+    const QString address = u"mailto:%1?subject=%2&body=%3&attach=%4"_s.arg(
+        draft.To, QString::fromLatin1(QUrl::toPercentEncoding(draft.Subject)),
+        QString::fromLatin1(QUrl::toPercentEncoding(draft.Text)), file);
+    QStringList options{u"--subject"_s, draft.Subject, u"--body"_s, draft.Text, u"--attach"_s, draft.Attachment};
+    if (!draft.To.isEmpty()) {
+        options.append(draft.To);
+    }
+    return StartFirst({{u"xdg-email"_s, options},
+                       {u"thunderbird"_s, {u"-compose"_s, compose}},
+                       {u"evolution"_s, {address}},
+                       {u"kmail"_s, options}});
 }
 
 bool cQtShell::StartCalculator()

@@ -25,6 +25,7 @@ QMessageBox::Icon Icon(eTone tone)
     switch (tone) {
     case eTone::Information: return QMessageBox::Information;
     case eTone::Question: return QMessageBox::Question;
+    case eTone::Objection:
     case eTone::Exclamation: return QMessageBox::Warning;
     case eTone::Critical: return QMessageBox::Critical;
     }
@@ -109,7 +110,7 @@ std::optional<QString> cQtUser::Choose(const cChoice& choice)
 
 int cQtUser::Decide(const cDecision& decision)
 {
-    QMessageBox box(QMessageBox::Question, TitleOr(decision.Title), decision.Text, QMessageBox::NoButton,
+    QMessageBox box(Icon(decision.Tone), TitleOr(decision.Title), decision.Text, QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     QList<QPushButton*> options;

@@ -6,6 +6,9 @@
 #include "app/cQtUser.h"
 #include "app/cSessionWatch.h"
 #include "app/cSystemClock.h"
+#include "app/modBuild.h"
+#include "app/modCrash.h"
+#include "app/modDebugInfo.h"
 #include "app/modLocale.h"
 #include "base/cText.h"
 #include "core/cStartRequest.h"
@@ -74,6 +77,9 @@ void ReadArguments(QCommandLineParser& parser, const QApplication& application)
 int main(int argc, char* argv[])
 {
     modLocale::UseUtf8();
+    if (modDebugInfo::IsWanted(argc, argv)) {
+        return modDebugInfo::Run(argc, argv);
+    }
     if (!HasDisplay()) {
         return RefuseWithoutDisplay();
     }
@@ -81,10 +87,12 @@ int main(int argc, char* argv[])
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
     QApplication::setApplicationName(u"kontorelle"_s);
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
-    QApplication::setApplicationVersion(QStringLiteral(APP_VERSION));
+    QApplication::setApplicationVersion(modBuild::Version()); // for --version
     QApplication::setDesktopFileName(u"de.veltrino.Kontorelle"_s);
     QCommandLineParser parser;
     ReadArguments(parser, application);
+    QApplication::setApplicationVersion(QStringLiteral(APP_VERSION)); // as banks and books know it
+
     const QString profile = parser.value(modStartOption::Profile);
     cStartRequest request;
     request.IsImport = parser.isSet(modStartOption::Import);
@@ -96,6 +104,7 @@ int main(int argc, char* argv[])
     cQtRescue rescue;
     const cSystemClock clock;
     cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
+    modCrash::Watch(program.Log().Descriptor(), cErrorLog::NoteOfCrash);
     if (HasSessionBus()) {
         program.Appearance().FollowDesktop(QDBusConnection::sessionBus());
     }

@@ -4,6 +4,7 @@
 #include "app/cQtRegistry.h"
 #include "app/cQtShell.h"
 #include "app/cSystemClock.h"
+#include "app/modBuild.h"
 #include "app/modLocale.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliMain.h"
@@ -80,6 +81,7 @@ int main(int argc, char* argv[])
     cFileLock lock;
     cQtPaint paint;
     cQtHttps https;
-    return modCliMain::Run(arguments,
-                           {shell, registry, clock, lock, paint, https, QCoreApplication::applicationVersion()});
+    return modCliMain::Run(
+        arguments,
+        {shell, registry, clock, lock, paint, https, QCoreApplication::applicationVersion(), modBuild::Version()});
 }

@@ -8,6 +8,7 @@ struct cMailDraft
     QString Subject;
     QString Text;
     QString Attachment;
+    QString To{}; // an address; empty leaves it to the user
 };
 
 // Folders, files and programs of the machine.

@@ -6,7 +6,9 @@
 
 #include <optional>
 
-enum class eTone { Information, Question, Exclamation, Critical };
+// Exclamation and Critical tell of a failure. An objection looks like an exclamation, but nothing failed: what was
+// typed or chosen cannot be taken, and the user is told what to do instead.
+enum class eTone { Information, Question, Objection, Exclamation, Critical };
 enum class eAnswer { Yes, No, Cancel };
 enum class eButtons { YesNo, YesNoCancel };
 
@@ -36,6 +38,7 @@ struct cDecision
     QString Title;
     QStringList Options; // German button texts in their order
     int Default = 0;     // what Enter chooses; -1, giving up, where every option destroys something
+    eTone Tone = eTone::Question;
 };
 
 // Several things of which all, some or none are wanted. All are ticked to start with, so that Enter takes them all.
@@ -61,6 +64,9 @@ public:
 
     // Shows a message and waits until it is closed. An empty title is the program's name.
     virtual void Show(eTone tone, const QString& text, const QString& title = {}) = 0;
+
+    // A failure that a window tells of in its own place. Shows nothing; it is for those who keep a log.
+    virtual void Note(const QString& /*operation*/, const QString& /*text*/) {}
 
     [[nodiscard]] virtual eAnswer Ask(const cQuestion& question) = 0;
 

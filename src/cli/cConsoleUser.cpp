@@ -13,6 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr qsizetype mostErrors = 50;
+QStringList errors;
 int lostBy = 0; // the system's number of the first error that output was lost by
 
 // What a terminal takes for an order, or turns the text around it by.
@@ -66,6 +68,14 @@ bool modConsole::Finish()
 void modConsole::Error(const QString& text)
 {
     (void)Put(text + u'\n', stderr);
+    if (errors.size() < mostErrors) {
+        errors.append(text);
+    }
+}
+
+const QStringList& modConsole::Errors()
+{
+    return errors;
 }
 
 void cConsoleUser::Show(eTone tone, const QString& text, const QString& /*title*/)

@@ -51,6 +51,9 @@ namespace modConsole {
 void Out(const QString& text);
 void Error(const QString& text); // adds the line end
 
+// What was said of errors so far; of very many the first ones.
+[[nodiscard]] const QStringList& Errors();
+
 // Writes out what is held back. False when some of the output is lost, after a message that says why; who stopped
 // reading needs none.
 [[nodiscard]] bool Finish();

@@ -25,6 +25,7 @@ struct cCliPorts
     cCliPaint& Paint;
     cHttps& Https;
     QString Version; // of the program
+    QString Build;   // the version with the state of the source
 };
 
 // What a command works with.

@@ -1,10 +1,14 @@
 #include "cli/modCliMain.h"
 
+#include "base/cShell.h"
 #include "base/cText.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
 #include "cli/modCliCommands.h"
+#include "core/cConfiguration.h"
+#include "core/cErrorLog.h"
+#include "views/help/modDiagnosis.h"
 
 #include <algorithm>
 
@@ -53,6 +57,19 @@ int RunCommand(const QStringList& arguments, const cCliPorts& ports)
     return code == modExit::Done && user.HasFailed() ? modExit::Failed : code;
 }
 
+// A wrong call is no failure of the program, and what it said has helped already.
+void TakeDown(const QStringList& arguments, const cCliPorts& ports)
+{
+    const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
+    cErrorLog log({ports.Shell.StateFolder(), u"kontorelle-cli"_s, ports.Build, cErrorLog::eKind::Command},
+                  ports.Clock);
+    const QString command = call.Command() != nullptr ? call.Command()->Name : QString();
+    log.Begin(command);
+    for (const QString& text : modConsole::Errors()) {
+        log.Record({}, text);
+    }
+}
+
 } // namespace
 
 bool modCliMain::NeedsPaint(const QStringList& arguments)
@@ -72,10 +89,17 @@ int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
 {
     int code = modExit::Done;
     if (arguments == QStringList(u"--version"_s)) {
-        modConsole::Out(u"kontorelle-cli "_s + ports.Version + u'\n');
+        modConsole::Out(u"kontorelle-cli "_s + ports.Build + u'\n');
+    } else if (arguments.contains(u"--debug-info"_s)) {
+        modConsole::Out(
+            modDiagnosis::Text({ports.Shell, cConfiguration(ports.Registry), u"kontorelle-cli "_s + ports.Build}));
     } else {
         code = RunCommand(arguments, ports);
     }
     const bool isSaid = modConsole::Finish();
-    return code == modExit::Done && !isSaid ? modExit::Failed : code;
+    code = code == modExit::Done && !isSaid ? modExit::Failed : code;
+    if (code == modExit::Failed) {
+        TakeDown(arguments, ports);
+    }
+    return code;
 }

@@ -14,3 +14,8 @@ bool modMaker::HasUpdateCheck()
 {
     return APP_UPDATE_CHECK == 1;
 }
+
+QString modMaker::FeedbackAddress()
+{
+    return QStringLiteral(MAKER_FEEDBACK);
+}

@@ -14,4 +14,7 @@ namespace modMaker {
 // False for editions that somebody else keeps up to date, as the packages of a distribution.
 [[nodiscard]] bool HasUpdateCheck();
 
+// The mail address that feedback goes to.
+[[nodiscard]] QString FeedbackAddress();
+
 } // namespace modMaker

@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <sqlite3.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -99,6 +101,11 @@ void ReadEntries(cDatabase& database, modBookFile::cContent& content)
 }
 
 } // namespace
+
+QString modBookFile::EngineVersion()
+{
+    return QString::fromLatin1(sqlite3_libversion());
+}
 
 std::optional<cDatabaseError> modBookFile::Copy(cDatabase& database, const QString& path)
 {

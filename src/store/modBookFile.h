@@ -14,6 +14,9 @@ class cShell;
 // A book as a file: what it holds, and how another file takes its place without anything being lost.
 namespace modBookFile {
 
+// Of the database engine: "3.40.1".
+[[nodiscard]] QString EngineVersion();
+
 struct cContent
 {
     eDatabaseFault Fault = eDatabaseFault::None; // any other: no book that could be opened, and all else is unknown

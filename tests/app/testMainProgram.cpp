@@ -17,8 +17,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -205,6 +207,33 @@ private Q_SLOTS:
         });
         program.Navigation().OpenNewEntry();
         QCOMPARE(shown, u"Einträge erfassen"_s);
+    }
+
+    // A failure marks the status bar until the log was looked at. A run that was killed is told of at the next start
+    // and never again, and a second program that is still alive is not taken for one.
+    void FailuresAndBrokenRunsAreTold() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make(oneEntry);
+        {
+            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            QVERIFY(program.Start({.Book = path}));
+            const auto* mark = program.Window().statusBar()->findChild<QToolButton*>();
+            QTest::qWait(50);
+            QCOMPARE(machine.User.Asked, QStringList());
+            QVERIFY(!mark->isVisible());
+            program.Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
+            QVERIFY(mark->isVisible());
+            const QString log = program.Log().Files().value(0);
+            QVERIFY(QFile::copy(log, QFileInfo(log).path() + u"/kontorelle-20260101-000000-1-0.log"_s));
+        }
+        for (int start = 0; start < 2; ++start) {
+            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            QVERIFY(program.Start({.Book = path}));
+            QTest::qWait(50);
+            QCOMPARE(machine.User.Asked.size(), 1);
+            QVERIFY(machine.User.Asked[0].contains(u"nicht ordentlich beendet"_s));
+        }
     }
 };
 

@@ -77,6 +77,8 @@ private Q_SLOTS:
     void PasswordKeepsDataClosed();
     void ReadingChangesNothing();
     void KilledImportKeepsWhatItStaged();
+    void FailuresAreTakenDown();
+    void DebugInfoHoldsNoData();
 
 private:
     // Runs with a profile of its own in the temporary folder.
@@ -538,6 +540,31 @@ void testCli::KilledImportKeepsWhatItStaged()
     const QJsonObject rest = Run({u"import"_s, file, u"--json"_s}).Json().at(0).toObject();
     QCOMPARE(rest.value(u"duplicates"_s).toInt(), static_cast<int>(kept));
     QCOMPARE(rest.value(u"staged"_s).toInt(), count - static_cast<int>(kept));
+}
+
+void testCli::FailuresAreTakenDown()
+{
+    const QDir folder(Path(u"state/Veltrino Kontorelle"_s));
+    QCOMPARE(Run({u"balances"_s}).Code, 0);
+    QCOMPARE(Run({u"gibtesnicht"_s}).Code, 2);
+    QVERIFY(folder.entryList(QDir::Files).isEmpty());
+    QCOMPARE(Run({u"balances"_s, u"--database"_s, u"/nirgends/Erika Mustermann.db"_s}).Code, 1);
+    const QStringList files = folder.entryList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    QFile file(folder.filePath(files[0]));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString log = QString::fromUtf8(file.readAll());
+    QVERIFY2(log.contains(u"\tbalances\tDie Datenbank '…' wurde nicht gefunden."_s), qPrintable(log));
+    QVERIFY2(!log.contains(u"Erika"_s) && !log.contains(u"nirgends"_s), qPrintable(log));
+}
+
+void testCli::DebugInfoHoldsNoData()
+{
+    const cRun run = Run({u"--debug-info"_s});
+    QCOMPARE(run.Code, 0);
+    QVERIFY2(run.Out.contains(u"SQLite 3."_s) && run.Out.contains(u"data.db (gibt es nicht)"_s), qPrintable(run.Out));
+    QVERIFY(!run.Out.contains(QDir::homePath() + u'/'));
+    QVERIFY(!QFile::exists(Database())); // it looks and makes nothing
 }
 
 QTEST_GUILESS_MAIN(testCli)

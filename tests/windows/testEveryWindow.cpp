@@ -1,5 +1,6 @@
 #include "base/cText.h"
 #include "core/cBook.h"
+#include "core/cErrorLog.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
@@ -25,6 +26,7 @@
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
+#include "views/help/cErrorLogView.h"
 #include "views/help/cManualBrowser.h"
 #include "views/help/cUpdateCheck.h"
 #include "views/ledger/cStatementListModel.h"
@@ -52,6 +54,7 @@
 #include "windows/chart/cChartBox.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/help/frmFehlerprotokoll.h"
 #include "windows/help/frmHandbuch.h"
 #include "windows/help/frmUpdate.h"
 #include "windows/main/frmMain.h"
@@ -170,6 +173,8 @@ struct cScene
     std::unique_ptr<cBankListModel> Banks;
     std::unique_ptr<cBankFetch> Fetch;
     std::unique_ptr<cManualBrowser> Manual;
+    cErrorLog Failures{{Book.Shell.StateFolder(), u"kontorelle"_s, u"0.1.0"_s}, Book.Clock};
+    std::unique_ptr<cErrorLogView> FailureView;
 
     // Several procedures and media, an account without statements, and long names.
     static cBankProfile BankProfile()
@@ -313,6 +318,7 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
     {"main window",
      [](cScene& scene) {
          auto window = std::make_unique<frmMain>(scene.Model);
+         window->ShowFailureMark(true);
          window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
          scene.Model.RestoreView(false);
          scene.Statistics.Restore();
@@ -441,6 +447,13 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmUpdate>(scene.Update);
      }},
     {"update without a connection", [](cScene& scene) { return std::make_unique<frmUpdate>(scene.Update); }},
+    {"error log",
+     [](cScene& scene) {
+         scene.Failures.Record(QStringLiteral("Daten exportieren"), QStringLiteral("Die Datei ist schreibgeschützt."));
+         scene.FailureView = std::make_unique<cErrorLogView>(cErrorLogView::cParts{
+             scene.Failures, scene.Book.User, scene.Book.Shell, scene.Book.Clock, QStringLiteral("Diagnose")});
+         return std::make_unique<frmFehlerprotokoll>(*scene.FailureView);
+     }},
     {"national settings", [](cScene& scene) { return std::make_unique<frmLaender>(scene.National); }},
     {"fetch",
      [](cScene& scene) {

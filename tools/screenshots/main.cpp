@@ -400,6 +400,15 @@ bool TakeSettings(cCamera& camera)
     camera.Take(prompt, u"passwort"_s);
     camera.TakeDialog(u"passwort-setzen"_s, [&] { navigation.Open(modCommand::Password); });
     camera.TakeDialog(u"laender"_s, [&] { navigation.Open(modCommand::National); });
+    camera.TakeDialog(u"fehlerprotokoll-leer"_s, [&] { navigation.Open(modCommand::ErrorLog); });
+    cErrorLog& log = stage.Program().Log();
+    log.Record(
+        QStringLiteral("Daten exportieren"),
+        u"Die Datei '/tmp/Liste.csv' konnte nicht geschrieben werden: Der Datenträger kann nur gelesen werden.\nWas "
+        "dort schon stand, ist unverändert."_s);
+    log.Record({}, u"ERROR: AddNewEntry\nDie Datenbank kann nur gelesen werden."_s);
+    camera.Take(stage.Program().Window(), u"fehlermarke"_s);
+    camera.TakeDialog(u"fehlerprotokoll"_s, [&] { navigation.Open(modCommand::ErrorLog); });
     return true;
 }
 

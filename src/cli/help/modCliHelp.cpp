@@ -42,7 +42,9 @@ QString modCliHelp::All(const QList<cCliCommand>& commands)
         + cText::Tr(
                "\nAllgemein:\n"
                "  --database DATEI   die Datenbank; ohne Angabe die, die auch das Fenster öffnet\n"
-               "  --profile ORDNER   Datenordner und Einstellungen liegen unter diesem Ordner\n\n"
+               "  --profile ORDNER   Datenordner und Einstellungen liegen unter diesem Ordner\n"
+               "  --version          zeigt die Version\n"
+               "  --debug-info       zeigt Versionen, Ordner und Dateigrößen, keine Daten\n\n"
                "Ergebnis: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.\n");
 }
 

@@ -48,6 +48,8 @@ QString CliPage(const QString& version)
     return text + modRoff::Section(cText::Tr("ALLGEMEINE OPTIONEN"))
         + modRoff::Item(u"--database DATEI"_s, cText::Tr("die Datenbank; ohne Angabe die, die auch das Fenster öffnet"))
         + modRoff::Item(u"--profile ORDNER"_s, cText::Tr("Datenordner und Einstellungen liegen unter diesem Ordner"))
+        + modRoff::Item(u"--version"_s, cText::Tr("zeigt die Version"))
+        + modRoff::Item(u"--debug-info"_s, cText::Tr("zeigt Versionen, Ordner und Dateigrößen, keine Daten"))
         + modRoff::Section(cText::Tr("ERGEBNIS"))
         + modRoff::Text(cText::Tr("0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die "
                                   "Fehlerausgabe."))

@@ -276,7 +276,7 @@ bool cBankFetch::IsPossible(const std::vector<cJob>& jobs)
                            "Zeitraum, nicht in der Zukunft.");
     }
     if (!reason.isEmpty()) {
-        m_tools.User.Show(eTone::Exclamation, reason, cText::Tr("Umsätze abrufen"));
+        m_tools.User.Show(eTone::Objection, reason, cText::Tr("Umsätze abrufen"));
     }
     return reason.isEmpty();
 }
@@ -497,6 +497,9 @@ void cBankFetch::Fail(qsizetype place, const cBankFailure& failure)
     line.State = eState::Failed;
     line.Failure = failure;
     line.Text = line.New > 0 ? line.Text : failure.Text;
+    if (failure.Fault != eBankFault::Cancelled) {
+        m_tools.User.Note(cText::Tr("Umsätze abrufen"), failure.Text);
+    }
     Q_EMIT LineChanged(place);
 }
 

@@ -105,7 +105,7 @@ QString cBookFlow::AskForNewPath() const
                                                      QDir(folder).filePath(u"Kontorelle-Neu"_s));
     if (!path.isEmpty() && IsOpenBook(path)) {
         m_parts.User.Show(
-            eTone::Exclamation,
+            eTone::Objection,
             cText::Tr("Die Datenbank '{0}' ist gerade geöffnet. Bitte wählen Sie einen anderen Namen.", {Shown(path)}));
         return {};
     }
@@ -233,6 +233,22 @@ void cBookFlow::Replace(const QString& backup) const
     }
 }
 
+QDate cBookFlow::NewestCopyDay() const
+{
+    const QList<cBackupPlan::cCopy> copies = PlanOf(m_parts).Copies();
+    return copies.isEmpty() ? QDate() : copies.constFirst().Day;
+}
+
+void cBookFlow::LoadNewestCopy()
+{
+    const std::optional<cBackupPlan::cCopy> copy = NewestSound(PlanOf(m_parts).Copies());
+    if (!copy) {
+        LoadBackup();
+    } else if (IsWanted(copy->Path)) {
+        Replace(copy->Path);
+    }
+}
+
 void cBookFlow::TellDamage()
 {
     const std::optional<cBackupPlan::cCopy> copy = NewestSound(PlanOf(m_parts).Copies());
@@ -250,7 +266,8 @@ void cBookFlow::TellDamage()
                            "beschädigte Datei bleibt unter anderem Namen erhalten.",
                            {Shown(m_parts.Book.Path()), offer}),
          .Title = cText::Tr("Die Datenbank ist beschädigt"),
-         .Options = options});
+         .Options = options,
+         .Tone = eTone::Exclamation});
     if (copy && chosen == 0) {
         Replace(copy->Path);
     } else if (chosen >= 0 && chosen == options.size() - 2) {

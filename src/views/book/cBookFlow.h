@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,11 @@ public:
     void OpenDemo(const QString& version);
     void MakeBackup(); // "Datensicherung erstellen"
     void LoadBackup(); // "Datensicherung laden"
+
+    // Loads the newest copy that the program made by itself and that is sound, once the user has seen what it holds.
+    // Where there is none, he may choose another backup.
+    void LoadNewestCopy();
+    [[nodiscard]] QDate NewestCopyDay() const; // invalid: there is none
 
     // Says that the book is damaged and offers the newest copy that is not.
     void TellDamage();

@@ -28,7 +28,7 @@ cPasswordFlow::eResult cPasswordFlow::Set(const QString& old, const QString& pas
         return eResult::WrongPassword;
     }
     if (const QString objection = Objection(password, repeated); !objection.isEmpty()) {
-        m_user.Show(eTone::Exclamation, objection);
+        m_user.Show(eTone::Objection, objection);
         return eResult::Refused;
     }
     return Stored(!m_data.IsReadOnly() && modPassword::Set(m_configuration, password),

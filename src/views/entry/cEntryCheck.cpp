@@ -132,6 +132,6 @@ eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
 
 bool cEntryCheck::Refuse(const QString& text) const
 {
-    m_tools.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Objection, text);
     return false;
 }

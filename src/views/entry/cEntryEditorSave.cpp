@@ -133,7 +133,7 @@ bool cEntryEditor::HasCorrections(const cFields& fields) const
 
 bool cEntryEditor::Refuse(const QString& text) const
 {
-    m_tools.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Objection, text);
     return false;
 }
 

@@ -60,6 +60,8 @@ bool cMainModel::Execute(int command)
     case modCommand::Questions:
     case modCommand::Manual:
     case modCommand::About:
+    case modCommand::ErrorLog:
+    case modCommand::Feedback:
     case modCommand::CheckBook:
     case modCommand::CheckSeries:
     case modCommand::BackupSettings:

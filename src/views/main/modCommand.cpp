@@ -111,6 +111,10 @@ constexpr auto commands = std::to_array<cCommand>({
      Plain, QT_TRANSLATE_NOOP("cText", "Zeigt Antworten auf Fragen, die oft gestellt werden.")},
     {CheckUpdates, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "Nach &Updates suchen"), "", "",
      nullptr, StartsGroup, QT_TRANSLATE_NOOP("cText", "Sieht nach, ob es eine neue Version von Kontorelle gibt.")},
+    {ErrorLog, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "Fehler&protokoll…"), "", "", nullptr,
+     StartsGroup, QT_TRANSLATE_NOOP("cText", "Zeigt die Fehlermeldungen der letzten Zeit.")},
+    {Feedback, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Rückmeldung…"), "", "", nullptr,
+     Plain, QT_TRANSLATE_NOOP("cText", "Beginnt eine E-Mail mit einer Diagnose des Programms, ohne Ihre Daten.")},
     {About, QT_TRANSLATE_NOOP("cText", "H&ilfe"), QT_TRANSLATE_NOOP("cText", "&Über Kontorelle"), "", "", nullptr,
      StartsGroup, QT_TRANSLATE_NOOP("cText", "Zeigt Version, Lizenz und verwendete Bibliotheken.")},
 });

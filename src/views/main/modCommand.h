@@ -56,6 +56,8 @@ enum eId : int {
     AppearanceSystem = 511,
     AppearanceLight = 512,
     AppearanceDark = 513,
+    ErrorLog = 514,
+    Feedback = 515,
 };
 
 enum eTrait : int {

@@ -10,6 +10,7 @@ QList<modStartOption::cOption> modStartOption::All()
         {Profile, u"ORDNER"_s, cText::Tr("Ordner für Daten und Einstellungen statt der üblichen.")},
         {Import, {}, cText::Tr("lässt Kontoauszüge zum Einlesen auswählen, auch im laufenden Programm.")},
         {NewEntry, {}, cText::Tr("öffnet einen neuen Eintrag, auch im laufenden Programm.")},
+        {DebugInfo, {}, cText::Tr("zeigt Versionen, Ordner und Dateigrößen, keine Daten, und endet.")},
     };
 }
 

@@ -19,6 +19,7 @@ struct cOption
 inline const QString Profile = QStringLiteral("profile");
 inline const QString Import = QStringLiteral("import");
 inline const QString NewEntry = QStringLiteral("new-entry");
+inline const QString DebugInfo = QStringLiteral("debug-info");
 
 // What stands behind the options.
 [[nodiscard]] QString FilesHelp();

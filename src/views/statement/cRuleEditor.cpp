@@ -89,7 +89,7 @@ bool cRuleEditor::Save()
 {
     const QString problem = modRuleText::Problem(m_draft);
     if (!problem.isEmpty()) {
-        m_tools.User.Show(eTone::Exclamation, problem);
+        m_tools.User.Show(eTone::Objection, problem);
         return false;
     }
     if (!m_draft.Category.isEmpty() && !modBookNames::UsedCategories(m_tools.Data).contains(m_draft.Category)) {

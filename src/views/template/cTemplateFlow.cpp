@@ -30,7 +30,7 @@ bool IsSame(const QString& a, const QString& b)
 
 bool cTemplateFlow::Refuse(const QString& text)
 {
-    m_tools.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Objection, text);
     return false;
 }
 

@@ -97,7 +97,7 @@ QDate cTemplateManager::Today() const
 
 bool cTemplateManager::Refuse(const QString& text)
 {
-    m_tools.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Objection, text);
     return false;
 }
 

@@ -38,7 +38,7 @@ cTemplateItemList CategoriesAt(const cTemplateItemList& items, const QString& pa
 
 bool cTemplateRemoval::Refuse(const QString& text)
 {
-    m_tools.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Objection, text);
     return false;
 }
 

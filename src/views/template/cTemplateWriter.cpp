@@ -118,7 +118,7 @@ bool IsBelow(const cTemplateItem& item, const QString& main)
 
 bool cTemplateWriter::Refuse(const QString& text)
 {
-    m_tools.User.Show(eTone::Exclamation, text);
+    m_tools.User.Show(eTone::Objection, text);
     return false;
 }
 

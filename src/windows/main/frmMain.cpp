@@ -26,6 +26,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,7 +51,8 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_hint(new QLabel(this)),
       m_tree(new cEntryTree(model.Entries(), this)),
       m_sums(new cSumBar(this)),
-      m_database(new QLabel(this))
+      m_database(new QLabel(this)),
+      m_failureMark(new QToolButton(this))
 {
     setAcceptDrops(true);
     setWindowIcon(modIcon::Program());
@@ -136,8 +138,27 @@ void frmMain::BuildPages()
     m_splitter->setCollapsible(1, false);
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
     setCentralWidget(m_splitter);
-    statusBar()->addPermanentWidget(m_database);
+    BuildStatusBar();
     TakeUsualSize();
+}
+
+void frmMain::BuildStatusBar()
+{
+    m_failureMark->setAutoRaise(true);
+    m_failureMark->setIcon(modIcon::Get(u"warnung"_s));
+    m_failureMark->setText(cText::Tr("Fehlerprotokoll"));
+    m_failureMark->setToolTip(cText::Tr("Etwas ist schiefgegangen. Ein Klick zeigt das Fehlerprotokoll."));
+    m_failureMark->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_failureMark->setFocusPolicy(Qt::StrongFocus);
+    connect(m_failureMark, &QToolButton::clicked, this, [this] { m_model.Execute(modCommand::ErrorLog); });
+    statusBar()->addPermanentWidget(m_failureMark);
+    statusBar()->addPermanentWidget(m_database);
+    m_failureMark->hide();
+}
+
+void frmMain::ShowFailureMark(bool isShown)
+{
+    m_failureMark->setVisible(isShown);
 }
 
 QWidget* frmMain::BuildEntryPage()

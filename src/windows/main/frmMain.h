@@ -20,6 +20,7 @@ class QLabel;
 class QMenu;
 class QSplitter;
 class QTabWidget;
+class QToolButton;
 
 // The main window: menus, tool bar and keys from the command table, accounts at the left, the entry list with its
 // selectors and sums, and pages for bank statements and for statistics.
@@ -49,6 +50,7 @@ public:
     void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
     void ShowPage(ePage page);                        // brings it to the front
     void ShowColumnMenu();
+    void ShowFailureMark(bool isShown); // in the status bar: the way to the error log after a failure
     void AddToView(QMenu* menu); // at the end of the menu "Ansicht"
     void Raise();                // in front of other windows, also out of the task bar
 
@@ -67,6 +69,7 @@ private:
     void BuildCommands();
     QMenu& MenuOf(const modCommand::cCommand& command, QHash<QString, QMenu*>& menus);
     void BuildPages();
+    void BuildStatusBar();
     QWidget* BuildEntryPage();
     void Connect();
     [[nodiscard]] QWidget* WidgetOf(ePage page) const; // the entries for a number that no page has
@@ -94,5 +97,6 @@ private:
     cSumBar* m_sums;
     QLabel* m_database;
     QMenu* m_view = nullptr; // "Ansicht"
+    QToolButton* m_failureMark;
     bool m_isSplitByHand = false;
 };
