@@ -34,11 +34,12 @@ file_types() {
 }
 page() { LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$1" >/dev/null; }
 
-manifest() {
-  local folder
+manifest() { # it leaves a folder where it is started
+  local folder file result
   folder=$(mktemp -d)
-  flatpak-builder --state-dir="$folder" --show-manifest "$1" >/dev/null
-  local result=$?
+  file=$PWD/$1
+  (cd "$folder" && flatpak-builder --show-manifest "$file" >/dev/null)
+  result=$?
   rm -rf "$folder"
   return $result
 }
