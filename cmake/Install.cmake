@@ -35,12 +35,33 @@ install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/${APP_ID}.desktop DESTINATION ${C
 install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/${APP_ID}.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
   RENAME ${APP_ID}.xml)
 set_property(DIRECTORY ${CMAKE_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md)
-file(STRINGS ${CMAKE_SOURCE_DIR}/CHANGELOG.md headings REGEX "^## [0-9.]+ – [0-9-]+$")
+file(STRINGS ${CMAKE_SOURCE_DIR}/CHANGELOG.md headings ENCODING UTF-8 REGEX "^## [0-9.]+ – [0-9-]+$")
 set(RELEASES)
 foreach(heading IN LISTS headings)
   string(REGEX MATCH "^## ([0-9.]+) – ([0-9-]+)$" found "${heading}")
   string(APPEND RELEASES "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\"/>\n")
 endforeach()
+# Pictures need an address that software centres can fetch them from: they are expected below the maker's home page.
+set(PAGES)
+if(APP_HOMEPAGE)
+  string(APPEND PAGES "  <url type=\"homepage\">${APP_HOMEPAGE}</url>\n  <screenshots>\n")
+  set(kind " type=\"default\"")
+  foreach(page "hauptfenster|The entries of a month with the balances of all accounts|Die Einträge eines Monats mit den Kontoständen"
+               "kontoauszuege|Transactions of the bank with what they are proposed to become|Umsätze der Bank mit Vorschlägen zum Buchen"
+               "diagramme|Where the money goes|Wo das Geld bleibt"
+               "bericht|The report of a year|Der Bericht eines Jahres"
+               "importassistent|Columns of an unknown table|Die Spalten einer unbekannten Tabelle")
+    string(REPLACE "|" ";" page "${page}")
+    list(GET page 0 picture_name)
+    list(GET page 1 english_caption)
+    list(GET page 2 german_caption)
+    string(APPEND PAGES "    <screenshot${kind}>\n      <caption>${english_caption}</caption>\n"
+      "      <caption xml:lang=\"de\">${german_caption}</caption>\n"
+      "      <image>${APP_HOMEPAGE}/bilder/${picture_name}.png</image>\n    </screenshot>\n")
+    set(kind)
+  endforeach()
+  string(APPEND PAGES "  </screenshots>\n")
+endif()
 configure_file(${CMAKE_SOURCE_DIR}/data/desktop/${APP_ID}.metainfo.xml.in ${made}/${APP_ID}.metainfo.xml @ONLY)
 install(FILES ${made}/${APP_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 

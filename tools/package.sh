@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the Debian package from a clean clone of what is committed, checks it with lintian, and with --try installs it into an
-# empty Debian 12 root, starts both programs there and removes it again.
+# Builds the Debian package from a clean clone of what is committed, looks at it with lintian and at how its programs are linked, and
+# with --try installs it into an empty Debian 12 (tools/package-try.sh).
 #
 #   tools/package.sh [--try] [FOLDER]     the package lies in FOLDER afterwards, without one in build/package
 set -euo pipefail
@@ -23,34 +23,31 @@ trap 'rm -rf "$work"' EXIT
 echo "package: building in $work"
 git clone -q --no-hardlinks . "$work/kontorelle"
 (cd "$work/kontorelle" && DEB_BUILD_OPTIONS="parallel=$(nproc) ${DEB_BUILD_OPTIONS:-}" dpkg-buildpackage -us -uc -b)
-cp "$work"/*.deb "$target"
+rm -f "$target"/kontorelle_*.deb
+cp "$work"/kontorelle_*.deb "$target"
 package=$(ls "$target"/kontorelle_*.deb)
 echo "package: $package"
 
 echo 'package: lintian'
-lintian --fail-on error,warning "$work"/*.changes
+lintian --allow-root --fail-on error,warning "$work"/*.changes
 
-[ $try = yes ] || exit 0
-if [ "$(id -u)" -ne 0 ] || ! command -v debootstrap >/dev/null; then
-  echo 'package: --try needs root and debootstrap' >&2
-  exit 1
-fi
-root=$work/root
-echo 'package: an empty Debian 12'
-debootstrap --variant=minbase bookworm "$root" "$(sed -n 's/^deb \(\[[^]]*\] \)\?\([^ ]*\) .*/\2/p;s/^URIs: \([^ ]*\).*/\1/p' /etc/apt/sources.list /etc/apt/sources.list.d/* 2>/dev/null | head -1)" >/dev/null
-cp "$package" "$root/tmp/kontorelle.deb"
-cp /etc/resolv.conf "$root/etc/resolv.conf" 2>/dev/null || true
-inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/root DEBIAN_FRONTEND=noninteractive "$@"; }
-inside apt-get update -q
-find "$root" -xdev \( -path "$root/proc" -o -path "$root/sys" -o -path "$root/var" -o -path "$root/tmp" \) -prune -o -print | sort > "$work/before"
-inside apt-get install -y -q --no-install-recommends /tmp/kontorelle.deb
-inside kontorelle-cli --version
-inside kontorelle-cli demo /tmp/demo.db
-inside kontorelle-cli --database /tmp/demo.db balances
-inside env QT_QPA_PLATFORM=offscreen kontorelle --version
-echo 'package: removing it'
-inside apt-get purge -y -q kontorelle
-inside apt-get autoremove -y -q
-left=$(find "$root" -xdev \( -path "$root/proc" -o -path "$root/sys" -o -path "$root/var" -o -path "$root/tmp" \) -prune -o -iname '*kontorelle*' -print)
-[ -z "$left" ] || { echo "package: left behind: $left" >&2; exit 1; }
-echo 'package: installed, started and removed without a trace'
+# A fault in reading a stranger's file is to end the program instead of running what the file brings.
+hardened() {
+  local header dynamic symbols
+  header=$(readelf -hW "$1")
+  dynamic=$(readelf -dlW "$1")
+  symbols=$(readelf --dyn-syms -W "$1")
+  grep -q 'Type: *DYN' <<< "$header" || { echo "package: $1 is not position independent"; return 1; }
+  grep -q GNU_RELRO <<< "$dynamic" || { echo "package: $1 has no RELRO"; return 1; }
+  grep -qE 'BIND_NOW|FLAGS.*NOW' <<< "$dynamic" || { echo "package: $1 binds late"; return 1; }
+  grep -q '__stack_chk_fail' <<< "$symbols" || { echo "package: $1 has no stack protector"; return 1; }
+  grep -qE ' __[a-z]+_chk@' <<< "${symbols//__stack_chk_fail/}" || { echo "package: $1 is not fortified"; return 1; }
+  if readelf -SW "$1" | grep -qE '\.(symtab|debug_info)'; then echo "package: $1 is not stripped"; return 1; fi
+}
+dpkg-deb -x "$package" "$work/unpacked"
+for program in "$work"/unpacked/usr/bin/*; do
+  hardened "$program"
+done
+echo 'package: programs are hardened and stripped'
+
+[ $try = no ] || tools/package-try.sh "$package"

@@ -17,7 +17,10 @@ constexpr qint64 MostBytes = 1'000'000; // of a request
 // lie where everybody writes; then the name names no place, and nobody answers.
 QString ServerName(const QString& database)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (const QString sandbox = qEnvironmentVariable("FLATPAK_ID"); !folder.isEmpty() && !sandbox.isEmpty()) {
+        folder += u"/app/"_s % sandbox; // of that folder each start in the sandbox has its own, but for this part
+    }
     const QString name = u"kontorelle-"_s + modMD5::Hex(cFileLock::CanonicalPath(database));
     return folder.isEmpty() ? QString() : QString(folder % u'/' % name);
 }

@@ -47,14 +47,15 @@ std::optional<QList<int>> cLoggedUser::Tick(const cChecklist& list)
     return m_user.Tick(list);
 }
 
-QStringList cLoggedUser::ChooseFiles(const QString& title, const QString& filter)
+QStringList cLoggedUser::ChooseFiles(const QString& title, const QString& filter, ePurpose purpose)
 {
-    return m_user.ChooseFiles(title, filter);
+    return m_user.ChooseFiles(title, filter, purpose);
 }
 
-QString cLoggedUser::ChooseSavePath(const QString& title, const QString& filter, const QString& proposal)
+QString cLoggedUser::ChooseSavePath(const QString& title, const QString& filter, const QString& proposal,
+                                    ePurpose purpose)
 {
-    return m_user.ChooseSavePath(title, filter, proposal);
+    return m_user.ChooseSavePath(title, filter, proposal, purpose);
 }
 
 QString cLoggedUser::ChooseFolder(const QString& title, const QString& current)

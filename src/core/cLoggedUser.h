@@ -17,8 +17,9 @@ public:
     [[nodiscard]] std::optional<QString> Choose(const cChoice& choice) override;
     [[nodiscard]] int Decide(const cDecision& decision) override;
     [[nodiscard]] std::optional<QList<int>> Tick(const cChecklist& list) override;
-    [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter) override;
-    [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal) override;
+    [[nodiscard]] QStringList ChooseFiles(const QString& title, const QString& filter, ePurpose purpose) override;
+    [[nodiscard]] QString ChooseSavePath(const QString& title, const QString& filter, const QString& proposal,
+                                         ePurpose purpose) override;
     [[nodiscard]] QString ChooseFolder(const QString& title, const QString& current) override;
 
 private:

@@ -9,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array<modManual::cTopic, 28> topics{{
+constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmAbruf", "16-online-banking.html#umsätze-abrufen"},
     {"frmBankAssistent", "16-online-banking.html#einen-bankzugang-einrichten"},
     {"frmBankzugaenge", "16-online-banking.html#ändern-und-entfernen"},
@@ -38,7 +38,9 @@ constexpr std::array<modManual::cTopic, 28> topics{{
     {"frmZuordnung", "02-kontoauszug.html#von-hand-zuordnen"},
     {"QPrintPreviewDialog", "09-ausgeben.html#drucken"},
     {"QPrintDialog", "09-ausgeben.html#drucken"},
-}};
+    {"frmFehlerprotokoll", "14-hilfe.html#fehlerprotokoll"},
+    {"frmUpdate", "14-hilfe.html#gibt-es-eine-neue-version"},
+});
 
 } // namespace
 
