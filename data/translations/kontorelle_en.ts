@@ -288,22 +288,6 @@ Commands:
         <translation>shows this help; &quot;hilfe COMMAND&quot; shows that of a command</translation>
     </message>
     <message>
-        <source>
-Allgemein:
-  --database DATEI   die Datenbank; ohne Angabe die, die auch das Fenster öffnet
-  --profile ORDNER   Datenordner und Einstellungen liegen unter diesem Ordner
-
-Ergebnis: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.
-</source>
-        <translation>
-General:
-  --database FILE    the database; if not given, the one that the window opens
-  --profile FOLDER   data folder and settings are kept below this folder
-
-Result: 0 done, 1 failed, 2 wrong usage. Messages go to standard error.
-</translation>
-    </message>
-    <message>
         <source>Aufruf: kontorelle-cli [--database DATEI] [--profile ORDNER] {0}</source>
         <translation>Usage: kontorelle-cli [--database FILE] [--profile FOLDER] {0}</translation>
     </message>
@@ -883,9 +867,12 @@ Entries booked from them will remain.</translation>
         <source>1 Eintrag</source>
         <translation>1 entry</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Einträge</source>
-        <translation>{0} entries</translation>
+        <translation>
+            <numerusform>{0} entry</numerusform>
+            <numerusform>{0} entries</numerusform>
+        </translation>
     </message>
     <message>
         <source>Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.</source>
@@ -1089,9 +1076,12 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <source>Ein Umsatz</source>
         <translation>1 transaction</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Umsätze</source>
-        <translation>{0} transactions</translation>
+        <translation>
+            <numerusform>{0} transaction</numerusform>
+            <numerusform>{0} transactions</numerusform>
+        </translation>
     </message>
     <message>
         <source>{0}: nicht eingelesen. {1}</source>
@@ -1101,9 +1091,12 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
         <source>{0}: {1}</source>
         <translation>{0}: {1}</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>… und {0} weitere Zeilen</source>
-        <translation>… and {0} more lines</translation>
+        <translation>
+            <numerusform>… and {0} more line</numerusform>
+            <numerusform>… and {0} more lines</numerusform>
+        </translation>
     </message>
     <message>
         <source>{0} gebucht</source>
@@ -1695,9 +1688,12 @@ The opening balances are added up, and the bank account numbers move along.</tra
         <source>1 Buchung</source>
         <translation>1 entry</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Buchungen</source>
-        <translation>{0} entries</translation>
+        <translation>
+            <numerusform>{0} entry</numerusform>
+            <numerusform>{0} entries</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leere Kategorie)</source>
@@ -1867,9 +1863,12 @@ Do you want to replace the open database with the backup? The previous file will
         <source>ohne Ende</source>
         <translation>no end</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Mal</source>
-        <translation>{0} times</translation>
+        <translation>
+            <numerusform>{0} time</numerusform>
+            <numerusform>{0} times</numerusform>
+        </translation>
     </message>
     <message>
         <source>{0}, nächste Termine: {1}</source>
@@ -1948,10 +1947,6 @@ Do you want to replace the open database with the backup? The previous file will
         <translation>The settings could not be saved.</translation>
     </message>
     <message>
-        <source>Die neue Sprache gilt ab dem nächsten Start des Programms.</source>
-        <translation>The new language takes effect the next time the program starts.</translation>
-    </message>
-    <message>
         <source>Das Passwort wurde geändert.</source>
         <translation>The password has been changed.</translation>
     </message>
@@ -1990,10 +1985,6 @@ Do you want to replace the open database with the backup? The previous file will
     <message>
         <source>Kalender</source>
         <translation>Calendar</translation>
-    </message>
-    <message>
-        <source>Auch 3, 3.5., +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender</source>
-        <translation>Also 3, 3.5., +7, today or yesterday; the arrow keys change the date, F4 opens the calendar</translation>
     </message>
     <message>
         <source>Die Liste enthält keine Einträge, die exportiert werden könnten.</source>
@@ -2200,14 +2191,6 @@ Aus {0} Teilen wird ein Eintrag mit Kategorie und Beschreibung des ersten Teils.
         <translation>&amp;Language:</translation>
     </message>
     <message>
-        <source>Eine andere Sprache gilt ab dem nächsten Start.</source>
-        <translation>A different language takes effect at the next start.</translation>
-    </message>
-    <message>
-        <source>&amp;Zahlenformat:</source>
-        <translation>&amp;Number format:</translation>
-    </message>
-    <message>
         <source>&amp;Währung:</source>
         <translation>&amp;Currency:</translation>
     </message>
@@ -2412,14 +2395,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     <message>
         <source>Dazu dient die Option {0}.</source>
         <translation>Use the option {0} for this.</translation>
-    </message>
-    <message>
-        <source>&apos;{0}&apos; ist kein Datum. Möglich sind 2026-01-31, 31.01.2026, 31.1., heute, gestern oder +7.</source>
-        <translation>&apos;{0}&apos; is not a date. You can write 2026-01-31, 31.01.2026, 31.1., today, yesterday or +7.</translation>
-    </message>
-    <message>
-        <source>&apos;{0}&apos; ist kein Betrag. Möglich sind 12,50 oder eine Rechnung wie 12,50+3,99.</source>
-        <translation>&apos;{0}&apos; is not an amount. You can write 12.50 or a calculation such as 12.50+3.99.</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist keine Nummer. Die Nummern stehen in der Spalte ID.</source>
@@ -3324,10 +3299,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>S&amp;chließen</source>
         <translation>C&amp;lose</translation>
-    </message>
-    <message>
-        <source>Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet. Das Datum steht immer in der Form Tag.Monat.Jahr.</source>
-        <translation>A currency brings its own way of writing amounts. Amounts are not converted. Dates are always written as day.month.year.</translation>
     </message>
     <message>
         <source>Automatische Datensicherung</source>
@@ -5529,9 +5500,12 @@ Shall these stay open? With No, they are booked too.</translation>
         <source>1 Kategorie</source>
         <translation>1 category</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Kategorien</source>
-        <translation>{0} categories</translation>
+        <translation>
+            <numerusform>{0} category</numerusform>
+            <numerusform>{0} categories</numerusform>
+        </translation>
     </message>
     <message>
         <source>… und 1 weitere Zeile</source>
@@ -8306,6 +8280,886 @@ The standing order always comes.</translation>
     <message>
         <source>Aufbau s&amp;peichern…</source>
         <translation>&amp;Save layout…</translation>
+    </message>
+    <message>
+        <source>1 Mal</source>
+        <translation>once</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Datum. Bitte schreiben Sie es wie {1}.</source>
+        <translation>&apos;{0}&apos; is not a date. Please write it like {1}.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Datum. Möglich sind {1}, {2}, {3}, heute, gestern oder +7.</source>
+        <translation>&apos;{0}&apos; is not a date. Possible are {1}, {2}, {3}, today, yesterday or +7.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Betrag. Möglich sind {1} oder eine Rechnung wie {1}+{2}.</source>
+        <translation>&apos;{0}&apos; is not an amount. Possible are {1} or a calculation such as {1}+{2}.</translation>
+    </message>
+    <message>
+        <source>
+Allgemein:
+  --database DATEI   die Datenbank; ohne Angabe die, die auch das Fenster öffnet
+  --profile ORDNER   Datenordner und Einstellungen liegen unter diesem Ordner
+  --version          zeigt die Version
+  --debug-info       zeigt Versionen, Ordner und Dateigrößen, keine Daten
+
+Ergebnis: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf. Meldungen gehen auf die Fehlerausgabe.
+</source>
+        <translation>
+General:
+  --database FILE    the database; if not given, the one that the window opens
+  --profile FOLDER   data folder and settings are kept below this folder
+  --version          shows the version
+  --debug-info       shows versions, folders and file sizes, no data
+
+Result: 0 done, 1 failed, 2 wrong usage. Messages go to standard error.
+</translation>
+    </message>
+    <message>
+        <source>zeigt die Version</source>
+        <translation>shows the version</translation>
+    </message>
+    <message>
+        <source>zeigt Versionen, Ordner und Dateigrößen, keine Daten</source>
+        <translation>shows versions, folders and file sizes, no data</translation>
+    </message>
+    <message>
+        <source>Eine weitere passt auch. Suchen Sie genauer, zum Beispiel mit der Bankleitzahl.</source>
+        <translation>One more matches too. Please search more precisely, for example with the bank code.</translation>
+    </message>
+    <message>
+        <source>Kontorelle ist abgestürzt.</source>
+        <translation>Kontorelle crashed.</translation>
+    </message>
+    <message>
+        <source>Kontorelle wurde nicht ordentlich beendet.</source>
+        <translation>Kontorelle was not shut down properly.</translation>
+    </message>
+    <message>
+        <source>Beispielhaushalt</source>
+        <translation>Example household</translation>
+    </message>
+    <message>
+        <source>Das ist der Beispielhaushalt. Alles darin dürfen Sie ändern.
+
+Zu Ihrem eigenen Haushaltsbuch kommen Sie mit Datei &gt; Datenbank wechseln zurück: {0}</source>
+        <translation>This is the example household. You may change anything in it.
+
+File &gt; Switch database takes you back to your own book: {0}</translation>
+    </message>
+    <message>
+        <source>wie das System</source>
+        <translation>like the system</translation>
+    </message>
+    <message>
+        <source>{0}, {1} Uhr</source>
+        <translation>{0}, {1}</translation>
+    </message>
+    <message>
+        <source>Ein nicht gespeicherter Eintrag vom {0} wurde aufgehoben:
+{1}
+Wiederherstellen? Mit Abbrechen bleibt er bis zum nächsten Start aufgehoben.</source>
+        <translation>An entry that was not saved on {0} has been kept:
+{1}
+Restore it? Cancel keeps it until the next start.</translation>
+    </message>
+    <message>
+        <source>Nicht gespeichert</source>
+        <translation>Not saved</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>Den Eintrag, der geändert werden sollte, gibt es nicht mehr. Was Sie eingegeben hatten, wird als neuer Eintrag angeboten.</source>
+        <translation>The entry that was to be changed no longer exists. What you had typed is offered as a new entry.</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Vorgang</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>Meldung</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>1 Meldung</source>
+        <translation>1 message</translation>
+    </message>
+    <message>
+        <source>{0} Meldungen</source>
+        <translation>{0} messages</translation>
+    </message>
+    <message>
+        <source>{0} von {1} Meldungen</source>
+        <translation>{0} of {1} messages</translation>
+    </message>
+    <message>
+        <source>Es ist nichts schiefgegangen</source>
+        <translation>Nothing has gone wrong</translation>
+    </message>
+    <message>
+        <source>Keine Meldung passt zum Filter</source>
+        <translation>No message matches the filter</translation>
+    </message>
+    <message>
+        <source>Hier stehen Fehlermeldungen der letzten fünf Male, die welche hatten.</source>
+        <translation>Failures of the last five sessions that had any are listed here.</translation>
+    </message>
+    <message>
+        <source>Leeren Sie das Feld über der Liste, um alle zu sehen.</source>
+        <translation>Clear the field above the list to see all of them.</translation>
+    </message>
+    <message>
+        <source>Fehlerprotokoll</source>
+        <translation>Error log</translation>
+    </message>
+    <message>
+        <source>Fehlerprotokoll {0}.txt</source>
+        <translation>Error log {0}.txt</translation>
+    </message>
+    <message>
+        <source>Fehlerprotokoll speichern</source>
+        <translation>Save error log</translation>
+    </message>
+    <message>
+        <source>Rückmeldung zu Kontorelle</source>
+        <translation>Feedback on Kontorelle</translation>
+    </message>
+    <message>
+        <source>Was gefällt Ihnen, was fehlt Ihnen, was ging schief? Was haben Sie vorher getan?
+
+
+Im Anhang: Versionen, Ordner, Dateigrößen und das Fehlerprotokoll, nichts aus dem Buch.
+</source>
+        <translation>What do you like, what do you miss, what went wrong? What had you done before?
+
+
+Attached: versions, folders, file sizes and the error log, nothing from the book.
+</translation>
+    </message>
+    <message>
+        <source>Es wurde kein E-Mail-Programm gefunden. Die Diagnose liegt in der Datei {0}</source>
+        <translation>No mail program was found. The diagnosis is in the file {0}</translation>
+    </message>
+    <message>
+        <source> An wen er geht, tragen Sie bitte selbst ein: an den, von dem Sie Kontorelle haben.</source>
+        <translation> Please enter the recipient yourself: whoever you got Kontorelle from.</translation>
+    </message>
+    <message>
+        <source>Ihr E-Mail-Programm öffnet einen Entwurf.{0} Fehlt darin der Anhang, hängen Sie bitte diese Datei an: {1}</source>
+        <translation>Your mail program opens a draft.{0} If the attachment is missing, please attach this file: {1}</translation>
+    </message>
+    <message>
+        <source>Es wurde kein Programm gefunden, das die Seite öffnet:
+{0}</source>
+        <translation>No program was found that opens the page:
+{0}</translation>
+    </message>
+    <message>
+        <source>Diese Seite des Handbuchs fehlt: {0}</source>
+        <translation>This page of the manual is missing: {0}</translation>
+    </message>
+    <message>
+        <source>Diese Ausgabe von Kontorelle wird von der Paketverwaltung Ihres Systems aktualisiert. Neue Versionen kommen mit den anderen Aktualisierungen des Systems.</source>
+        <translation>This edition of Kontorelle is updated by the package manager of your system. New versions come with the system&apos;s other updates.</translation>
+    </message>
+    <message>
+        <source>Für diese Ausgabe ist keine Adresse für Aktualisierungen eingerichtet. Kontorelle kann deshalb nicht nachsehen, ob es eine neue Version gibt; fragen Sie dort nach, woher Sie das Programm haben.</source>
+        <translation>This edition has no address for updates. Kontorelle therefore cannot look whether there is a new version; please ask where you got the program from.</translation>
+    </message>
+    <message>
+        <source>Die Antwort von {0} ist nicht zu verstehen. Versuchen Sie es später noch einmal.</source>
+        <translation>The answer of {0} cannot be understood. Please try again later.</translation>
+    </message>
+    <message>
+        <source>{0} ist nicht zu erreichen. Prüfen Sie Ihre Verbindung zum Internet und versuchen Sie es noch einmal.</source>
+        <translation>{0} cannot be reached. Please check your connection to the internet and try again.</translation>
+    </message>
+    <message>
+        <source>Das Zertifikat von {0} ist nicht in Ordnung. Es wurde nichts gesendet. Prüfen Sie Datum und Uhrzeit Ihres Rechners und versuchen Sie es in einem anderen Netz noch einmal.</source>
+        <translation>The certificate of {0} is not valid. Nothing was sent. Please check date and time of your computer and try again in another network.</translation>
+    </message>
+    <message>
+        <source>{0} antwortet nicht. Versuchen Sie es später noch einmal.</source>
+        <translation>{0} does not answer. Please try again later.</translation>
+    </message>
+    <message>
+        <source>{0} sendet mehr, als angekündigt war. Es wurde nichts davon behalten.</source>
+        <translation>{0} sends more than was announced. Nothing of it was kept.</translation>
+    </message>
+    <message>
+        <source>{0} gibt keine Auskunft ({1}). Versuchen Sie es später noch einmal.</source>
+        <translation>{0} gives no answer ({1}). Please try again later.</translation>
+    </message>
+    <message>
+        <source>Neue Version speichern</source>
+        <translation>Save the new version</translation>
+    </message>
+    <message>
+        <source>Alle Dateien|*.*</source>
+        <translation>All files|*.*</translation>
+    </message>
+    <message>
+        <source>Die heruntergeladene Datei ist nicht die angekündigte: {0}. Sie wurde nicht gespeichert.
+Versuchen Sie es noch einmal. Bleibt es dabei, benutzen Sie die Datei auf keinen Fall.</source>
+        <translation>The downloaded file is not the one that was announced: {0}. It was not saved.
+Please try again. If it stays like this, do not use the file under any circumstances.</translation>
+    </message>
+    <message>
+        <source>Bei {0} wird nachgefragt …</source>
+        <translation>Asking {0} …</translation>
+    </message>
+    <message>
+        <source>Sie benutzen Kontorelle {0}. Eine neuere Version gibt es nicht.</source>
+        <translation>You are using Kontorelle {0}. There is no newer version.</translation>
+    </message>
+    <message>
+        <source>Kontorelle {0} vom {1} ist da. Sie benutzen Version {2}.</source>
+        <translation>Kontorelle {0} of {1} is here. You are using version {2}.</translation>
+    </message>
+    <message>
+        <source>Kontorelle {0} wird heruntergeladen …</source>
+        <translation>Downloading Kontorelle {0} …</translation>
+    </message>
+    <message>
+        <source>Kontorelle {0} ist heruntergeladen und geprüft:
+{1}
+Beenden Sie das Programm und öffnen Sie diese Datei, um die neue Version zu installieren.</source>
+        <translation>Kontorelle {0} has been downloaded and checked:
+{1}
+Quit the program and open this file to install the new version.</translation>
+    </message>
+    <message>
+        <source>Gesendet wird nur die Nummer Ihrer Version.</source>
+        <translation>Only the number of your version is sent.</translation>
+    </message>
+    <message>
+        <source>Soll Kontorelle einmal in der Woche nachsehen, ob es eine neue Version gibt?
+Gesendet wird dabei nur die Nummer Ihrer Version, und geladen wird nichts ohne Sie. Ändern können Sie das jederzeit mit &quot;Hilfe&quot;, &quot;Nach Updates suchen&quot;.</source>
+        <translation>Shall Kontorelle look once a week whether there is a new version?
+Only the number of your version is sent, and nothing is downloaded without you. You can change this at any time with &quot;Help&quot;, &quot;Check for updates&quot;.</translation>
+    </message>
+    <message>
+        <source>Neue Versionen</source>
+        <translation>New versions</translation>
+    </message>
+    <message>
+        <source>Kontorelle ist beim letzten Mal abgestürzt ({0}).</source>
+        <translation>Kontorelle crashed last time ({0}).</translation>
+    </message>
+    <message>
+        <source>Kontorelle wurde beim letzten Mal nicht ordentlich beendet ({0}): Das Programm wurde abgebrochen, oder der Rechner ging aus.</source>
+        <translation>Kontorelle was not shut down properly last time ({0}): the program was ended by force, or the computer went off.</translation>
+    </message>
+    <message>
+        <source>&amp;Weiterarbeiten</source>
+        <translation>&amp;Go on</translation>
+    </message>
+    <message>
+        <source>&amp;Fehlerprotokoll ansehen</source>
+        <translation>Show &amp;error log</translation>
+    </message>
+    <message>
+        <source>Sicherung vom {0} &amp;laden…</source>
+        <translation>&amp;Load backup of {0}…</translation>
+    </message>
+    <message>
+        <source>Was gespeichert war, ist da. Eine Eingabe, die noch offen war, kann fehlen.</source>
+        <translation>What was saved is there. What was being entered may be missing.</translation>
+    </message>
+    <message>
+        <source>Nicht ordentlich beendet</source>
+        <translation>Not shut down properly</translation>
+    </message>
+    <message>
+        <source>{0} KB</source>
+        <translation>{0} KB</translation>
+    </message>
+    <message>
+        <source>{0} MB</source>
+        <translation>{0} MB</translation>
+    </message>
+    <message>
+        <source>gibt es nicht</source>
+        <translation>does not exist</translation>
+    </message>
+    <message>
+        <source>{0}: {1} ({2} Dateien, {3}; frei: {4})</source>
+        <translation>{0}: {1} ({2} files, {3}; free: {4})</translation>
+    </message>
+    <message>
+        <source>keine Angaben</source>
+        <translation>not given</translation>
+    </message>
+    <message>
+        <source>Qt {0} (gebaut mit {1}), SQLite {2}, {3}, libxlsxwriter {4}</source>
+        <translation>Qt {0} (built with {1}), SQLite {2}, {3}, libxlsxwriter {4}</translation>
+    </message>
+    <message>
+        <source>System: {0}, {1} {2}, {3}</source>
+        <translation>System: {0}, {1} {2}, {3}</translation>
+    </message>
+    <message>
+        <source>Umgebung: {0}</source>
+        <translation>Environment: {0}</translation>
+    </message>
+    <message>
+        <source>Programm: {0}</source>
+        <translation>Program: {0}</translation>
+    </message>
+    <message>
+        <source>Vorlage</source>
+        <translation>Template</translation>
+    </message>
+    <message>
+        <source>Buch</source>
+        <translation>Book</translation>
+    </message>
+    <message>
+        <source>Daneben</source>
+        <translation>Beside it</translation>
+    </message>
+    <message>
+        <source>Ordner des Buchs: {0} (frei: {1})</source>
+        <translation>Folder of the book: {0} (free: {1})</translation>
+    </message>
+    <message>
+        <source>Sicherungen</source>
+        <translation>Backups</translation>
+    </message>
+    <message>
+        <source>Datenordner</source>
+        <translation>Data folder</translation>
+    </message>
+    <message>
+        <source>Das Handbuch gibt es nur auf Deutsch.</source>
+        <translation>The manual is in German only.</translation>
+    </message>
+    <message>
+        <source>Version {0} vom {1}</source>
+        <translation>Version {0} of {1}</translation>
+    </message>
+    <message>
+        <source>Was sich geändert hat, ist nicht angegeben.</source>
+        <translation>There are no notes on what has changed.</translation>
+    </message>
+    <message>
+        <source>sie ist {0} Bytes groß statt {1}</source>
+        <translation>it has {0} bytes instead of {1}</translation>
+    </message>
+    <message>
+        <source>ihre Prüfsumme (SHA-256) ist eine andere</source>
+        <translation>its checksum (SHA-256) is a different one</translation>
+    </message>
+    <message>
+        <source>ihre Prüfsumme (MD5) ist eine andere</source>
+        <translation>its checksum (MD5) is a different one</translation>
+    </message>
+    <message>
+        <source>Kontostände bis heute</source>
+        <translation>Balances up to today</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
+    </message>
+    <message>
+        <source>Hell oder dunkel, wie der Desktop es vorgibt.</source>
+        <translation>Light or dark, as the desktop has it.</translation>
+    </message>
+    <message>
+        <source>Erscheinungs&amp;bild</source>
+        <translation>&amp;Appearance</translation>
+    </message>
+    <message>
+        <source>&amp;Hell</source>
+        <translation>&amp;Light</translation>
+    </message>
+    <message>
+        <source>Dunkle Schrift auf hellem Grund.</source>
+        <translation>Dark text on a light background.</translation>
+    </message>
+    <message>
+        <source>&amp;Dunkel</source>
+        <translation>&amp;Dark</translation>
+    </message>
+    <message>
+        <source>Helle Schrift auf dunklem Grund.</source>
+        <translation>Light text on a dark background.</translation>
+    </message>
+    <message>
+        <source>&amp;Handbuch</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>Öffnet das Handbuch bei dem, was gerade vorn ist.</source>
+        <translation>Opens the manual at what is in front.</translation>
+    </message>
+    <message>
+        <source>H&amp;omepage</source>
+        <translation>H&amp;omepage</translation>
+    </message>
+    <message>
+        <source>Öffnet die Seite des Herstellers; gibt es keine, das Handbuch.</source>
+        <translation>Opens the maker&apos;s home page; the manual where there is none.</translation>
+    </message>
+    <message>
+        <source>Häufige &amp;Fragen</source>
+        <translation>&amp;Frequent Questions</translation>
+    </message>
+    <message>
+        <source>Zeigt Antworten auf Fragen, die oft gestellt werden.</source>
+        <translation>Shows answers to questions that are often asked.</translation>
+    </message>
+    <message>
+        <source>Nach &amp;Updates suchen</source>
+        <translation>Check for &amp;updates</translation>
+    </message>
+    <message>
+        <source>Sieht nach, ob es eine neue Version von Kontorelle gibt.</source>
+        <translation>Looks whether there is a new version of Kontorelle.</translation>
+    </message>
+    <message>
+        <source>Fehler&amp;protokoll…</source>
+        <translation>Error &amp;log…</translation>
+    </message>
+    <message>
+        <source>Zeigt die Fehlermeldungen der letzten Zeit.</source>
+        <translation>Shows the failures of recent times.</translation>
+    </message>
+    <message>
+        <source>&amp;Rückmeldung…</source>
+        <translation>&amp;Feedback…</translation>
+    </message>
+    <message>
+        <source>Beginnt eine E-Mail mit einer Diagnose des Programms, ohne Ihre Daten.</source>
+        <translation>Starts a mail with a diagnosis of the program, without your data.</translation>
+    </message>
+    <message>
+        <source>zeigt Versionen, Ordner und Dateigrößen, keine Daten, und endet.</source>
+        <translation>shows versions, folders and file sizes, no data, and ends.</translation>
+    </message>
+    <message>
+        <source>Zu welchem Konto gehört der Betrag {0}? Bitte tragen Sie seinen Namen ein.</source>
+        <translation>Which account does the amount {0} belong to? Please enter its name.</translation>
+    </message>
+    <message>
+        <source>Konten und Kontostände eingetragen</source>
+        <translation>Accounts and balances entered</translation>
+    </message>
+    <message>
+        <source>Die Konten konnten nicht gespeichert werden.</source>
+        <translation>The accounts could not be saved.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; kann kein Konto heißen. Bitte wählen Sie einen anderen Namen.</source>
+        <translation>No account can be called &apos;{0}&apos;. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>dddd, d. MMMM yyyy</source>
+        <translation>dddd, d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>In den nächsten 60 Tagen nicht unter dem Stand von heute</source>
+        <translation>Not below today&apos;s balance in the next 60 days</translation>
+    </message>
+    <message>
+        <source>Tiefster Stand der nächsten 60 Tage: {0} am {1}</source>
+        <translation>Lowest balance of the next 60 days: {0} on {1}</translation>
+    </message>
+    <message>
+        <source>Zeigt die Einträge aller Konten.</source>
+        <translation>Shows the entries of all accounts.</translation>
+    </message>
+    <message>
+        <source>Es gibt noch kein Konto.</source>
+        <translation>There is no account yet.</translation>
+    </message>
+    <message>
+        <source>Ohne Konto</source>
+        <translation>Without account</translation>
+    </message>
+    <message>
+        <source>Dieser Monat bis heute</source>
+        <translation>This month up to today</translation>
+    </message>
+    <message>
+        <source>Zeigt die Einträge dieses Monats bis heute.</source>
+        <translation>Shows the entries of this month up to today.</translation>
+    </message>
+    <message>
+        <source>Einnahmen dieses Monats bis heute</source>
+        <translation>Income of this month up to today</translation>
+    </message>
+    <message>
+        <source>Ausgaben dieses Monats bis heute</source>
+        <translation>Expenses of this month up to today</translation>
+    </message>
+    <message>
+        <source>Letzten Monat am gleichen Tag</source>
+        <translation>Last month on the same day</translation>
+    </message>
+    <message>
+        <source>Im Schnitt eines Monats</source>
+        <translation>Average of one month</translation>
+    </message>
+    <message>
+        <source>Im Schnitt von {0} Monaten</source>
+        <translation>Average of {0} months</translation>
+    </message>
+    <message>
+        <source>Heute &amp;gebucht</source>
+        <translation>&amp;Booked today</translation>
+    </message>
+    <message>
+        <source>&amp;Verschieben…</source>
+        <translation>&amp;Move…</translation>
+    </message>
+    <message>
+        <source>Dieses Mal &amp;auslassen</source>
+        <translation>&amp;Leave out this time</translation>
+    </message>
+    <message>
+        <source>In den nächsten 14 Tagen</source>
+        <translation>In the next 14 days</translation>
+    </message>
+    <message>
+        <source>Es ist nichts geplant.</source>
+        <translation>Nothing is planned.</translation>
+    </message>
+    <message>
+        <source>Zeigt alles, was in den nächsten 14 Tagen geplant ist.</source>
+        <translation>Shows everything planned for the next 14 days.</translation>
+    </message>
+    <message>
+        <source>und {0} weitere</source>
+        <translation>and {0} more</translation>
+    </message>
+    <message>
+        <source>Limits dieses Monats</source>
+        <translation>Limits of this month</translation>
+    </message>
+    <message>
+        <source>{0} zu viel</source>
+        <translation>{0} too much</translation>
+    </message>
+    <message>
+        <source>noch {0}, {1} je Tag</source>
+        <translation>{0} left, {1} a day</translation>
+    </message>
+    <message>
+        <source>Zu erledigen</source>
+        <translation>To do</translation>
+    </message>
+    <message>
+        <source>Alles erledigt.</source>
+        <translation>Everything is done.</translation>
+    </message>
+    <message>
+        <source>Anders als sonst</source>
+        <translation>Different from usual</translation>
+    </message>
+    <message>
+        <source>{0}: {1} mehr als sonst bis zu diesem Tag ({2} statt {3})</source>
+        <translation>{0}: {1} more than usual up to this day ({2} instead of {3})</translation>
+    </message>
+    <message>
+        <source>{0}: {1} weniger als sonst bis zu diesem Tag ({2} statt {3})</source>
+        <translation>{0}: {1} less than usual up to this day ({2} instead of {3})</translation>
+    </message>
+    <message>
+        <source>Ein Umsatz der Bank wartet auf seine Buchung.</source>
+        <translation>One bank transaction is waiting to be booked.</translation>
+    </message>
+    <message>
+        <source>{0} Umsätze der Bank warten auf ihre Buchung.</source>
+        <translation>{0} bank transactions are waiting to be booked.</translation>
+    </message>
+    <message>
+        <source>{0}: Die Bank nennt am {1} den Stand {2}, das Buch hat einen anderen.</source>
+        <translation>{0}: The bank&apos;s balance on {1} is {2}, that of the book is another.</translation>
+    </message>
+    <message>
+        <source>{0}: Der letzte Kontoauszug reicht bis {1}.</source>
+        <translation>{0}: The last statement ends on {1}.</translation>
+    </message>
+    <message>
+        <source>Die Umsätze wurden zuletzt am {0} abgerufen.</source>
+        <translation>Transactions were last fetched on {0}.</translation>
+    </message>
+    <message>
+        <source>Von diesem Buch werden keine Sicherungen angelegt.</source>
+        <translation>No backups are made of this book.</translation>
+    </message>
+    <message>
+        <source>Die letzte Datensicherung ist vom {0}.</source>
+        <translation>The last backup is of {0}.</translation>
+    </message>
+    <message>
+        <source>Eine fällige Zahlung fehlt auf dem Kontoauszug.</source>
+        <translation>One payment that is due is missing from the statement.</translation>
+    </message>
+    <message>
+        <source>{0} fällige Zahlungen fehlen auf den Kontoauszügen.</source>
+        <translation>{0} payments that are due are missing from the statements.</translation>
+    </message>
+    <message>
+        <source>Eine Serie wird von der Bank nicht mehr gebucht.</source>
+        <translation>The bank no longer books one series.</translation>
+    </message>
+    <message>
+        <source>{0} Serien werden von der Bank nicht mehr gebucht.</source>
+        <translation>The bank no longer books {0} series.</translation>
+    </message>
+    <message>
+        <source>Als Startguthaben des Kontos &apos;{0}&apos; ist der Stand vom {1} eingetragen ({2}). Die Umsätze der Bank beginnen früher.
+
+Soll das Startguthaben auf den {3} zurückgerechnet werden ({4})? Dann bleibt der Stand vom {1}, wie er ist.</source>
+        <translation>The start balance of account &apos;{0}&apos; is that of {1} ({2}). The bank&apos;s transactions begin earlier.
+
+Shall the start balance be counted back to {3} ({4})? The balance of {1} then stays as it is.</translation>
+    </message>
+    <message>
+        <source>Startguthaben von &apos;{0}&apos;: {1} am {2}, zurückgerechnet.</source>
+        <translation>Start balance of &apos;{0}&apos;: {1} on {2}, counted back.</translation>
+    </message>
+    <message>
+        <source>&amp;Zahlen und Datum:</source>
+        <translation>&amp;Numbers and dates:</translation>
+    </message>
+    <message>
+        <source>Eine Währung bringt ihre eigene Schreibweise der Beträge mit. Beträge werden nicht umgerechnet. Was Sie eintippen, wird so gelesen, wie es hier steht.</source>
+        <translation>A currency brings its own way of writing amounts. Amounts are not converted. What you type is read as it is written here.</translation>
+    </message>
+    <message>
+        <source>{0} Punkte im ersten Monat</source>
+        <translation>{0} points in the first month</translation>
+    </message>
+    <message>
+        <source>Meldungen</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>Beträge, Namen, Kontonummern und Ordner stehen nicht in diesem Protokoll: Was aus Ihrem Buch stammt, ist durch … ersetzt.</source>
+        <translation>Amounts, names, account numbers and folders are not in this log: what comes from your book is replaced by ….</translation>
+    </message>
+    <message>
+        <source>Ausgewählte Meldung</source>
+        <translation>Selected message</translation>
+    </message>
+    <message>
+        <source>Kopiert die ausgewählten Meldungen, sonst alle.</source>
+        <translation>Copies the selected messages, or all of them.</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnose kopieren</source>
+        <translation>Copy &amp;diagnosis</translation>
+    </message>
+    <message>
+        <source>Kopiert Versionen, Ordner und Dateigrößen mit dem ganzen Protokoll.</source>
+        <translation>Copies versions, folders and file sizes with the whole log.</translation>
+    </message>
+    <message>
+        <source>Schreibt die Diagnose in eine Datei.</source>
+        <translation>Writes the diagnosis to a file.</translation>
+    </message>
+    <message>
+        <source>Beginnt eine E-Mail mit der Diagnose.</source>
+        <translation>Starts a mail with the diagnosis.</translation>
+    </message>
+    <message>
+        <source>&amp;Vor</source>
+        <translation>&amp;Forward</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Contents</translation>
+    </message>
+    <message>
+        <source>Gefundene Stellen</source>
+        <translation>Places found</translation>
+    </message>
+    <message>
+        <source>Handbuch</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Zurück zur Stelle davor (Alt+Pfeil links)</source>
+        <translation>Back to the place before (Alt+Left)</translation>
+    </message>
+    <message>
+        <source>Wieder vor (Alt+Pfeil rechts)</source>
+        <translation>Forward again (Alt+Right)</translation>
+    </message>
+    <message>
+        <source>&amp;Suchen:</source>
+        <translation>&amp;Search:</translation>
+    </message>
+    <message>
+        <source>im ganzen Handbuch</source>
+        <translation>in the whole manual</translation>
+    </message>
+    <message>
+        <source>Seite des Handbuchs</source>
+        <translation>Page of the manual</translation>
+    </message>
+    <message>
+        <source>Gefundene Stellen: {0}</source>
+        <translation>Places found: {0}</translation>
+    </message>
+    <message>
+        <source>Was &amp;neu ist:</source>
+        <translation>What is &amp;new:</translation>
+    </message>
+    <message>
+        <source>&amp;Einmal in der Woche von selbst nachsehen</source>
+        <translation>Look &amp;once a week by itself</translation>
+    </message>
+    <message>
+        <source>Nach Updates suchen</source>
+        <translation>Check for updates</translation>
+    </message>
+    <message>
+        <source>Fortschritt</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>&amp;Herunterladen…</source>
+        <translation>&amp;Download…</translation>
+    </message>
+    <message>
+        <source>Noch ein&amp;mal versuchen</source>
+        <translation>Try &amp;again</translation>
+    </message>
+    <message>
+        <source>Diese Version über&amp;springen</source>
+        <translation>&amp;Skip this version</translation>
+    </message>
+    <message>
+        <source>S&amp;päter</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>Sprache / &amp;Language</source>
+        <translation>&amp;Language / Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Übersicht</source>
+        <translation>O&amp;verview</translation>
+    </message>
+    <message>
+        <source>Etwas ist schiefgegangen. Ein Klick zeigt das Fehlerprotokoll.</source>
+        <translation>Something went wrong. A click shows the error log.</translation>
+    </message>
+    <message>
+        <source>1. Was haben Sie heute auf Ihren Konten?</source>
+        <translation>1. What is in your accounts today?</translation>
+    </message>
+    <message>
+        <source>Kontostand heute</source>
+        <translation>Balance today</translation>
+    </message>
+    <message>
+        <source>Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein.</source>
+        <translation>Adds new accounts and stores the balances as today&apos;s start balances.</translation>
+    </message>
+    <message>
+        <source>2. Was ist seither geschehen?</source>
+        <translation>2. What has happened since?</translation>
+    </message>
+    <message>
+        <source>Kontostand von Konto {0}</source>
+        <translation>Balance of account {0}</translation>
+    </message>
+    <message>
+        <source>Zeigen</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>Was damit geschehen soll</source>
+        <translation>What to do about it</translation>
+    </message>
+    <message>
+        <source>Was mit &apos;{0}&apos; geschehen soll</source>
+        <translation>What to do about &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Beim Start zeigen</source>
+        <translation>Show at start</translation>
+    </message>
+    <message>
+        <source>Sonst beginnt das Programm mit der Seite, die zuletzt zu sehen war.</source>
+        <translation>Else the program starts with the page that was in sight last.</translation>
+    </message>
+    <message>
+        <source>Eine Datei Ihrer Bank. Sie können sie auch einfach in dieses Fenster ziehen.</source>
+        <translation>A file from your bank. You can also just drop it on this window.</translation>
+    </message>
+    <message>
+        <source>Umsätze direkt bei der Bank abrufen.</source>
+        <translation>Fetch transactions from the bank.</translation>
+    </message>
+    <message>
+        <source>Von Hand, zum Beispiel was Sie heute bar bezahlt haben.</source>
+        <translation>By hand, for instance what you paid in cash today.</translation>
+    </message>
+    <message>
+        <source>Lassen Sie es Ihre Buchungen als QIF- oder CSV-Datei speichern, und lesen Sie diese Datei ein.</source>
+        <translation>Have it save your bookings as a QIF or CSV file, and read that file.</translation>
+    </message>
+    <message>
+        <source>Ein erfundenes Haushaltsbuch zum Ausprobieren. Ihr eigenes bleibt, wie es ist.</source>
+        <translation>An invented book to try things out. Your own stays as it is.</translation>
+    </message>
+    <message>
+        <source>Auch 3, {0}, +7, heute oder gestern; Pfeiltasten blättern, F4 öffnet den Kalender</source>
+        <translation>Also 3, {0}, +7, today or yesterday; arrow keys step, F4 opens the calendar</translation>
+    </message>
+    <message>
+        <source>Letzter Monat</source>
+        <comment>Zeitraum</comment>
+        <translation>Final month</translation>
+    </message>
+    <message>
+        <source>von</source>
+        <comment>Zeitraum</comment>
+        <translation>from</translation>
+    </message>
+    <message>
+        <source>Konten übernehmen</source>
+        <translation>Take over accounts</translation>
+    </message>
+    <message>
+        <source>Kontoauszug einlesen…</source>
+        <translation>Read a statement…</translation>
+    </message>
+    <message>
+        <source>Online-Banking einrichten…</source>
+        <translation>Set up online banking…</translation>
+    </message>
+    <message>
+        <source>Ersten Eintrag erfassen…</source>
+        <translation>Enter the first entry…</translation>
+    </message>
+    <message>
+        <source>Aus anderem Programm übernehmen…</source>
+        <translation>Take over from another program…</translation>
+    </message>
+    <message>
+        <source>Beispielhaushalt ansehen</source>
+        <translation>See the example household</translation>
     </message>
 </context>
 </TS>

@@ -66,8 +66,8 @@ cNavigation::cNavigation(const cParts& parts)
                parts.Host}),
       m_logs({parts.Log, parts.Tools, parts.Shell, parts.Configuration, parts.Book}),
       m_printer(parts.Tools.User),
-      m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format)),
-      m_help(parts.Shell, parts.Tools.User)
+      m_help(parts.Shell, parts.Tools.User),
+      m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format))
 {
 }
 

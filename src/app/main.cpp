@@ -14,6 +14,7 @@
 #include "core/cStartRequest.h"
 #include "views/main/modStartOption.h"
 #include "windows/widget/cStyle.h"
+#include "windows/widget/modIcon.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -89,6 +90,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
     QApplication::setApplicationVersion(modBuild::Version()); // for --version
     QApplication::setDesktopFileName(u"de.veltrino.Kontorelle"_s);
+    QApplication::setWindowIcon(modIcon::Program()); // of messages before there is a window too
     QCommandLineParser parser;
     ReadArguments(parser, application);
     QApplication::setApplicationVersion(QStringLiteral(APP_VERSION)); // as banks and books know it

@@ -67,6 +67,21 @@ inline QStringList Nameless(const QWidget& window)
     return faults;
 }
 
+// Labels whose name for screen readers takes the place of what they show.
+inline QStringList Silent(const QWidget& window)
+{
+    QStringList faults;
+    ForEachVisible(window, [&](const QWidget& widget) {
+        const auto* label = qobject_cast<const QLabel*>(&widget);
+        QString shown = label == nullptr || label->accessibleName().isEmpty() ? QString() : label->text();
+        shown.remove(QRegularExpression(QStringLiteral("<[^>]*>"))).remove(u'&');
+        if (!shown.isEmpty() && !label->accessibleName().contains(shown)) {
+            faults.append(QStringLiteral("silent: ") + Named(widget));
+        }
+    });
+    return faults;
+}
+
 inline void NoteMnemonic(const QString& text, const QString& owner, QStringList& used, QStringList& faults)
 {
     const QKeySequence key = QKeySequence::mnemonic(text);
@@ -223,7 +238,8 @@ inline QStringList CutValues(const QWidget& window)
 
 inline QStringList All(const QWidget& window)
 {
-    return Nameless(window) + DoubleMnemonics(window) + MisreadMnemonics(window) + Clipped(window) + CutValues(window);
+    return Nameless(window) + Silent(window) + DoubleMnemonics(window) + MisreadMnemonics(window) + Clipped(window)
+        + CutValues(window);
 }
 
 } // namespace modWindowFaults

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void ActsOnWhatIsDue();
     void TellsWhatIsToBeDone();
     void AnEmptyBookHasNoFiguresToCompare();
+    void FirstStepsStoreAllOrNothing();
 };
 
 void testOverview::ShowsAMonth()
@@ -247,11 +248,35 @@ void testOverview::AnEmptyBookHasNoFiguresToCompare()
     (void)scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, 50000, QDate(2026, 1, 1));
     scene.Show();
     QVERIFY(scene.Model.IsBookEmpty());
-    QCOMPARE(scene.Lines(eOverviewCard::Month).size(), 2);
-    QVERIFY(scene.Lines(eOverviewCard::Limits).isEmpty());
+    QCOMPARE(scene.Model.Cards().size(), 2); // balances and what is to be done
     scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2020, 1, 1); });
     scene.Show();
     QVERIFY(!scene.Model.IsBookEmpty());
+}
+
+void testOverview::FirstStepsStoreAllOrNothing()
+{
+    cScene scene;
+    const cFirstSteps steps = scene.Model.FirstSteps();
+    QList<cFirstSteps::cRow> rows = steps.Start();
+    QCOMPARE(rows.size(), cFirstSteps::Rows);
+    QCOMPARE(rows.at(0).Name, u"Girokonto"_s);
+    rows[0].Amount = u"1.234,50"_s;
+    rows[3] = {u"Depot"_s, u"zwölf"_s};
+    QVERIFY(!steps.Save(rows).isEmpty());
+    QVERIFY(!scene.Book.Data.GetStartGuthaben(u"Girokonto"_s));
+    rows[3].Amount = u"-20"_s;
+    rows[4].Amount = u"5"_s;
+    QCOMPARE(steps.Save(rows), u"Zu welchem Konto gehört der Betrag 5? Bitte tragen Sie seinen Namen ein."_s);
+    QVERIFY(!scene.Book.Data.FindAccount(u"Depot"_s));
+    rows[4].Amount.clear();
+    QCOMPARE(steps.Save(rows), QString());
+    scene.Show();
+    QCOMPARE(scene.Lines(eOverviewCard::Balances),
+             QStringList({u"Girokonto | 1.234,50 €"_s, u"Sparkonto | 0,00 €"_s, u"Depot | -20,00 €"_s,
+                          u"Bargeld | 0,00 €"_s}));
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QVERIFY(!scene.Book.Data.FindAccount(u"Depot"_s));
 }
 
 QTEST_GUILESS_MAIN(testOverview)

@@ -3,6 +3,7 @@
 #include "views/entry/cEntryDelete.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/ledger/cReconcileListModel.h"
+#include "views/statement/cOpeningBalance.h"
 
 #include <QTest>
 
@@ -73,6 +74,25 @@ class testReconciliation final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Who typed today's balance first and reads an older statement without balances afterwards meant that of today.
+    void StartBalanceOfALaterDayIsCountedBack()
+    {
+        cScene scene;
+        scene.Settings->Delete(modSettingKey::BankBalances.Of(number));
+        QVERIFY(scene.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 5, 20)));
+        (void)scene.Row(2, -1000, u"Bäcker"_s);
+        (void)scene.Row(20, -2000, u"Buch"_s);
+        (void)scene.Row(25, -500, u"Kiosk"_s); // later than the balance
+        const cOpeningBalance opening(scene.Tools);
+        const auto offer = opening.For(number);
+        QVERIFY(offer.has_value());
+        QCOMPARE(offer->Start, 103000);
+        QCOMPARE(offer->StartDay, QDate(2026, 5, 1));
+        QVERIFY(opening.Question(*offer).contains(u"zurückgerechnet"_s));
+        QVERIFY(opening.Take(*offer));
+        QVERIFY(!opening.For(number)); // it is not asked again
+    }
+
     void ListsWhatDiffers()
     {
         cScene scene;

@@ -4,8 +4,8 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
-#include "support/modUpdateAnswer.h"
 #include "support/cPseudoLanguage.h"
+#include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "support/windowTexts.h"
@@ -32,13 +32,13 @@
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
+#include "views/overview/cOverviewModel.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/overview/cOverviewModel.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/bank/frmAbruf.h"
@@ -145,6 +145,9 @@ struct cScene
     cImportReview Review{Book.Tools};
     cStatisticsModel Statistics{Book.Tools, {Book.Shell, Navigator, Model}};
     cOverviewModel Overview{Book.Tools, {Navigator, Model}};
+    cTestBook EmptyBook;
+    cMainModel EmptyMain{EmptyBook.Tools, {EmptyBook.Configuration, EmptyBook.Shell, Navigator, EmptyBook.Path()}};
+    cOverviewModel EmptyOverview{EmptyBook.Tools, {Navigator, EmptyMain}};
     cEntryEditor Editor{Book.Tools};
     cSeriesChange Change{Book.Tools};
     cTemplateManager Manager{Book.Tools};
@@ -325,6 +328,13 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          window->StatisticsPage().layout()->addWidget(new frmStatistik(scene.Statistics, &window->StatisticsPage()));
          window->OverviewPage().layout()->addWidget(new frmUebersicht(scene.Overview, &window->OverviewPage()));
          scene.Overview.Read();
+         return window;
+     }},
+    {"overview of an empty book",
+     [](cScene& scene) {
+         scene.EmptyOverview.Read();
+         auto window = std::make_unique<frmUebersicht>(scene.EmptyOverview);
+         scene.EmptyOverview.Read();
          return window;
      }},
     {"new entry", [](cScene& scene) { return MakeEditor(scene, scene.Editor.Start({})); }},

@@ -33,6 +33,7 @@ constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmStatistik", "15-auswertungen.html"},
     {"frmSuche", "08-suchen.html"},
     {"frmTan", "16-online-banking.html#tan-und-freigabe"},
+    {"frmUebersicht", "17-uebersicht.html"},
     {"frmUeber", "14-hilfe.html#welche-version-ist-das"},
     {"frmUmsatzKategorie", "02-kontoauszug.html#eine-kategorie-für-mehrere-umsätze"},
     {"frmZuordnung", "02-kontoauszug.html#von-hand-zuordnen"},

@@ -252,7 +252,7 @@ cOverviewCard cOverviewModel::Month()
                        }});
     if (month.Months > 0) {
         const auto both = [this](const modOverview::cSums& sums) {
-            return cText::Tr("{0} / {1}", {Signed(sums.Income), Signed(-sums.Expense)});
+            return Signed(sums.Income) + u" / "_s + Signed(-sums.Expense);
         };
         card.Lines.append({cText::Tr("Letzten Monat am gleichen Tag"), both(month.Before), eOverviewTone::Quiet});
         card.Lines.append({month.Months == 1 ? cText::Tr("Im Schnitt eines Monats")
@@ -267,7 +267,7 @@ cOverviewLine cOverviewModel::DueLine(const cEntryItem& item)
     const bool isSeries = cDueItems::IsSeries(item);
     const qint64 effect = modBalance::Effect(item, {});
     const qint64 cents = item.EntryType == modWord::Umbuchung ? item.EntryValue : effect;
-    cOverviewLine line{cText::Tr("{0}  {1}", {ShortDay(item.EntryDate), modEntryFields::Name(item)}), Signed(cents),
+    cOverviewLine line{ShortDay(item.EntryDate) + u"  "_s + modEntryFields::Name(item), Signed(cents),
                        effect > 0 ? eOverviewTone::Income : eOverviewTone::Plain};
     line.Follow = [this, item] { m_parts.Navigator.OpenEntry(item.ID, item.Planned()); };
     if (m_parts.Main.IsReadOnly()) {

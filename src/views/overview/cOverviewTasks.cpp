@@ -116,8 +116,7 @@ void cOverviewTasks::AddBackup(QList<cOverviewTask>& tasks) const
     }
     const QDate last = modDate::FromIso(m_tools.Settings.Get(modSettingKey::BackupLast));
     if (last.isValid() && last.daysTo(m_tools.Clock.Today()) > OldBackupDays) {
-        tasks.append(
-            {eKind::OldBackup, cText::Tr("Die letzte Datensicherung ist vom {0}.", {modDate::ToText(last)})});
+        tasks.append({eKind::OldBackup, cText::Tr("Die letzte Datensicherung ist vom {0}.", {modDate::ToText(last)})});
     }
 }
 

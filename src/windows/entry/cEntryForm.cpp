@@ -328,7 +328,7 @@ void cEntryForm::FocusFirst()
 
 void cEntryForm::FocusNext()
 {
-    if (m_fields.Face == eEntryFace::Split && !cEntryEditor::IsAmountOpen(Read())) {
+    if (m_fields.Face == eEntryFace::Split) {
         m_split->Table().FocusOpen();
     } else {
         FocusFirst();

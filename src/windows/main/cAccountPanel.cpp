@@ -13,6 +13,8 @@
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int leastNameLetters = 13; // of an account
@@ -108,13 +110,21 @@ void cAccountPanel::Choose(const QModelIndex& row)
     }
 }
 
-// Names matter more than how many transactions are open; the name of a group has the whole line.
+// Names matter more than how many transactions are open, and more than balances, whose end stands in the tool tip then;
+// the name of a group has the whole line.
 void cAccountPanel::FitColumns()
 {
     QHeaderView& header = *m_view->header();
-    const int others = header.sectionSize(cAccountListModel::Balance) + header.sectionSizeHint(cAccountListModel::Open);
+    const int balance = m_view->sizeHintForColumn(cAccountListModel::Balance);
     const int least = fontMetrics().averageCharWidth() * leastNameLetters;
-    header.setSectionHidden(cAccountListModel::Open, m_view->viewport()->width() - others < least);
+    const int room = m_view->viewport()->width() - least;
+    header.setSectionHidden(cAccountListModel::Open, room < balance + header.sectionSizeHint(cAccountListModel::Open));
+    const bool isNarrow = room < balance;
+    header.setSectionResizeMode(cAccountListModel::Balance,
+                                isNarrow ? QHeaderView::Fixed : QHeaderView::ResizeToContents);
+    if (isNarrow) {
+        header.resizeSection(cAccountListModel::Balance, std::max(room, header.minimumSectionSize()));
+    }
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const int kind = m_model.index(row, 0).data(cAccountListModel::KindRole).toInt();
         m_view->setFirstColumnSpanned(row, {}, kind == cAccountListModel::Group);

@@ -30,10 +30,16 @@ cSumBar::cSum cSumBar::AddSum(const QString& title)
     font.setBold(true);
     value->setFont(font);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setAccessibleName(title);
     m_layout->AddField(name, value);
     m_layout->AddGap(12);
     return {name, value};
+}
+
+// A name of its own would take the place of the figure for who hears it, so it has both.
+void cSumBar::Show(const cSum& sum, const QString& text)
+{
+    sum.Value->setText(text);
+    sum.Value->setAccessibleName(sum.Name->text() + u' ' + text);
 }
 
 void cSumBar::ShowSums(const cTexts& texts)
@@ -41,10 +47,10 @@ void cSumBar::ShowSums(const cTexts& texts)
     m_count->setText(texts.Count);
     m_start.Name->setVisible(!texts.Start.isEmpty());
     m_start.Value->setVisible(!texts.Start.isEmpty());
-    m_start.Value->setText(texts.Start);
-    m_income.Value->setText(texts.Income);
-    m_expense.Value->setText(texts.Expense);
-    m_total.Value->setText(texts.Total);
+    Show(m_start, texts.Start);
+    Show(m_income, texts.Income);
+    Show(m_expense, texts.Expense);
+    Show(m_total, texts.Total);
 }
 
 void cSumBar::ShowSums(const cMainModel& model)

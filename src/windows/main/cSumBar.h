@@ -33,6 +33,7 @@ private:
         QLabel* Value = nullptr;
     };
     cSum AddSum(const QString& title);
+    static void Show(const cSum& sum, const QString& text);
 
     cFlowLayout* m_layout;
     QLabel* m_count;

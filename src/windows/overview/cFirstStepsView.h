@@ -20,7 +20,7 @@ class cFirstStepsView final : public QFrame
 public:
     struct cWay
     {
-        QString Text; // with its mnemonic
+        QString Text;
         QString Hint;
         std::function<void()> Go;
     };

@@ -129,17 +129,17 @@ void frmUebersicht::ShowFirstSteps()
     }
     const auto command = [this](int id) { return [this, id] { m_model.Do(id); }; };
     const QList<cFirstStepsView::cWay> ways{
-        {cText::Tr("Kontoauszug &einlesen…"),
+        {cText::Tr("Kontoauszug einlesen…"),
          cText::Tr("Eine Datei Ihrer Bank. Sie können sie auch einfach in dieses Fenster ziehen."),
          command(modCommand::ImportStatement)},
-        {cText::Tr("&Online-Banking einrichten…"), cText::Tr("Umsätze direkt bei der Bank abrufen."),
+        {cText::Tr("Online-Banking einrichten…"), cText::Tr("Umsätze direkt bei der Bank abrufen."),
          command(modCommand::BankLogins)},
-        {cText::Tr("Ersten Eintrag e&rfassen…"), cText::Tr("Von Hand, zum Beispiel was Sie heute bar bezahlt haben."),
+        {cText::Tr("Ersten Eintrag erfassen…"), cText::Tr("Von Hand, zum Beispiel was Sie heute bar bezahlt haben."),
          command(modCommand::NewEntry)},
-        {cText::Tr("Aus anderem &Programm übernehmen…"),
+        {cText::Tr("Aus anderem Programm übernehmen…"),
          cText::Tr("Lassen Sie es Ihre Buchungen als QIF- oder CSV-Datei speichern, und lesen Sie diese Datei ein."),
          command(modCommand::ImportStatement)},
-        {cText::Tr("Beispielhaushalt ansehe&n"),
+        {cText::Tr("Beispielhaushalt ansehen"),
          cText::Tr("Ein erfundenes Haushaltsbuch zum Ausprobieren. Ihr eigenes bleibt, wie es ist."),
          [this] { m_model.ShowDemo(); }},
     };

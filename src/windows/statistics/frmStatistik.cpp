@@ -233,6 +233,9 @@ void frmStatistik::showEvent(QShowEvent* event)
     ShowSelectors(); // an import may have brought an account
     m_model.SetShown(true);
     QWidget::showEvent(event);
+    if (m_pages->currentIndex() == 0) {
+        m_report->View().setFocus(); // to be read with the keys at once
+    }
 }
 
 void frmStatistik::hideEvent(QHideEvent* event)
