@@ -190,7 +190,7 @@ private Q_SLOTS:
         };
         QVERIFY(activate());
         QTest::keyClick(&program.Window(), Qt::Key_F1);
-        QCOMPARE(ShownChapter(), u"Start"_s);
+        QCOMPARE(ShownChapter(), u"Übersicht"_s);
         QVERIFY(activate());
         program.Window().ShowPage(frmMain::ePage::Statistics);
         QCoreApplication::processEvents(); // the page is shown with the next round

@@ -32,7 +32,7 @@ constexpr const char* oneEntry =
 
 struct cMachine
 {
-    [[nodiscard]] QStringList Drafts() const { return QDir(Shell.Folder(u"state"_s)).entryList(QDir::Files); }
+    [[nodiscard]] QStringList Drafts() const { return QDir(Shell.Folder(u"state"_s)).entryList({u"*.json"_s}); }
     [[nodiscard]] bool IsLocked() const { return QFileInfo::exists(Path + u".lock"_s); }
 
     cTestFile File;

@@ -57,7 +57,7 @@ struct cScene
             arguments << u"--pin-fd"_s << QString::number(ends[0]);
         }
         cFileLock lock;
-        const int code = modCliMain::Run(arguments, {Shell, Registry, Clock, lock, Paint, Https, u"1.0.0"_s});
+        const int code = modCliMain::Run(arguments, {Shell, Registry, Clock, lock, Paint, Https, u"1.0.0"_s, u"1.0.0"_s});
         close(ends[0]);
         return code;
     }
@@ -139,7 +139,8 @@ private Q_SLOTS:
         QCOMPARE(wrong.Code, 1);
         QVERIFY(wrong.Error.contains(u"Prüfziffern"));
         QCOMPARE(wrong.Json().size(), 0);
-        QVERIFY(QDir(folder.path()).isEmpty()); // neither a book nor a folder for one
+        // Neither a book nor a folder for one; only the failure was taken down.
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList(u"state"_s));
     }
 
     void RefusesACallThatSaysTooLittle_data()

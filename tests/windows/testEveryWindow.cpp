@@ -277,7 +277,13 @@ QStringList Untranslatable(cScene& scene)
     for (const QByteArray& medium : profile.Media) {
         texts << QString::fromUtf8(medium);
     }
+    texts += {u"Daten exportieren"_s, u"Die Datei ist schreibgeschützt."_s}; // as they were taken down
     texts += cStatementDesk::LayoutNames();
+    if (scene.Manual) { // which is German
+        for (const auto& section : scene.Manual->Manual().Sections()) {
+            texts << section.Title;
+        }
+    }
     texts += {u"UTF"_s, u"Windows"_s, u"CP850 (DOS)"_s, u"BE"_s};
     if (scene.Assistant) { // the headlines of its table
         QFile table(QStringLiteral(TEST_DATA "/csv/dkb.csv"));

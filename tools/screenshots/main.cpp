@@ -365,8 +365,10 @@ bool TakeRules(cCamera& camera)
 // The manual: a page with a picture, tables and code, and what a search found.
 bool TakeManual(cCamera& camera)
 {
-    cQtShell shell({});
-    cQtUser user;
+    const QTemporaryDir profile;
+    cQtShell shell(profile.path());
+    cQtRegistry registry(profile.path());
+    cQtUser user(registry);
     cManualBrowser browser(shell, user);
     if (browser.Manual().Sections().isEmpty()) {
         return false;

@@ -251,7 +251,7 @@ cOverviewCard cOverviewModel::Month()
                            ShowMonth({cText::Tr("Ausgaben dieses Monats bis heute"), modWord::Ausgabe, {}});
                        }});
     if (month.Months > 0) {
-        const auto both = [this](const modOverview::cSums& sums) {
+        const auto both = [this](const modOverview::cSums& sums) -> QString {
             return Signed(sums.Income) + u" / "_s + Signed(-sums.Expense);
         };
         card.Lines.append({cText::Tr("Letzten Monat am gleichen Tag"), both(month.Before), eOverviewTone::Quiet});

@@ -110,12 +110,22 @@ void cAccountPanel::Choose(const QModelIndex& row)
     }
 }
 
+// What the balances want; the header knows it only while its section follows its contents.
+int cAccountPanel::BalanceWidth() const
+{
+    int width = m_view->header()->sectionSizeHint(cAccountListModel::Balance);
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        width = std::max(width, m_view->sizeHintForIndex(m_model.index(row, cAccountListModel::Balance)).width());
+    }
+    return width;
+}
+
 // Names matter more than how many transactions are open, and more than balances, whose end stands in the tool tip then;
 // the name of a group has the whole line.
 void cAccountPanel::FitColumns()
 {
     QHeaderView& header = *m_view->header();
-    const int balance = m_view->sizeHintForColumn(cAccountListModel::Balance);
+    const int balance = BalanceWidth();
     const int least = fontMetrics().averageCharWidth() * leastNameLetters;
     const int room = m_view->viewport()->width() - least;
     header.setSectionHidden(cAccountListModel::Open, room < balance + header.sectionSizeHint(cAccountListModel::Open));

@@ -26,6 +26,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] int BalanceWidth() const;
     void FitColumns();
     void OpenMenu(const QPoint& position);
     void Choose(const QModelIndex& row);
