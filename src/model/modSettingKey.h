@@ -23,8 +23,8 @@ inline const QString Off = QStringLiteral("Falsch");
 inline const cSettingKey Database{QStringLiteral("Database"), {Text, Program}}; // path; empty: the default one
 inline const cSettingKey DatabaseList{QStringLiteral("DatabaseList"), {List, Program}};
 inline const cSettingKey LastBackupFolder{QStringLiteral("LastBackupFolder"), {Text, Program}};
-inline const cSettingFamily DialogFolder{QStringLiteral("Ordner"), {}, {Text, Program}};  // what is chosen there
-inline const cSettingKey Appearance{QStringLiteral("Erscheinungsbild"), {Text, Program}}; // see modAppearance
+inline const cSettingFamily DialogFolder{QStringLiteral("Ordner"), {}, {Text, Program}};       // what is chosen there
+inline const cSettingKey Appearance{QStringLiteral("Erscheinungsbild"), {Text, Program}};      // see modAppearance
 inline const cSettingKey UpdateWeekly{QStringLiteral("UpdateWoechentlich"), {Truth, Program}}; // empty: not asked yet
 inline const cSettingKey LastUpdateInfo{QStringLiteral("LastUpdateInfo"), {Text, Program}}; // the version skipped last
 

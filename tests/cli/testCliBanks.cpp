@@ -57,7 +57,8 @@ struct cScene
             arguments << u"--pin-fd"_s << QString::number(ends[0]);
         }
         cFileLock lock;
-        const int code = modCliMain::Run(arguments, {Shell, Registry, Clock, lock, Paint, Https, u"1.0.0"_s, u"1.0.0"_s});
+        const int code =
+            modCliMain::Run(arguments, {Shell, Registry, Clock, lock, Paint, Https, u"1.0.0"_s, u"1.0.0"_s});
         close(ends[0]);
         return code;
     }

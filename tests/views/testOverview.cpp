@@ -273,8 +273,8 @@ void testOverview::FirstStepsStoreAllOrNothing()
     QCOMPARE(steps.Save(rows), QString());
     scene.Show();
     QCOMPARE(scene.Lines(eOverviewCard::Balances),
-             QStringList({u"Girokonto | 1.234,50 €"_s, u"Sparkonto | 0,00 €"_s, u"Depot | -20,00 €"_s,
-                          u"Bargeld | 0,00 €"_s}));
+             QStringList(
+                 {u"Girokonto | 1.234,50 €"_s, u"Sparkonto | 0,00 €"_s, u"Depot | -20,00 €"_s, u"Bargeld | 0,00 €"_s}));
     QVERIFY(scene.Book.Data.Journal().Undo());
     QVERIFY(!scene.Book.Data.FindAccount(u"Depot"_s));
 }

@@ -51,8 +51,8 @@ public:
     void ShowPage(ePage page);                        // brings it to the front
     void ShowColumnMenu();
     void ShowFailureMark(bool isShown); // in the status bar: the way to the error log after a failure
-    void AddToView(QMenu* menu); // at the end of the menu "Ansicht"
-    void Raise();                // in front of other windows, also out of the task bar
+    void AddToView(QMenu* menu);        // at the end of the menu "Ansicht"
+    void Raise();                       // in front of other windows, also out of the task bar
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
