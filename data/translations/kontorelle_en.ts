@@ -9161,5 +9161,9 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
         <source>Beispielhaushalt ansehen</source>
         <translation>See the example household</translation>
     </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; steht zweimal da. Bitte lassen Sie eine der beiden Zeilen leer.</source>
+        <translation>Account &apos;{0}&apos; is listed twice. Please leave one of the two lines empty.</translation>
+    </message>
 </context>
 </TS>

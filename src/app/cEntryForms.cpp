@@ -18,7 +18,7 @@ void cEntryForms::Run(frmBuchung& form, const cEntryEditor& editor, const std::o
 {
     const QScopedValueRollback openForm(m_form, &form);
     const QScopedValueRollback openEditor(m_editor, &editor);
-    m_kept = kept;
+    const QScopedValueRollback openKept(m_kept, kept);
     QObject::connect(&form, &frmBuchung::EntrySaved, &form, [this] { Forget(); });
     form.exec();
     if (!m_isEnding) {

@@ -22,6 +22,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <chrono>
@@ -150,9 +151,15 @@ void cMainProgram::Serve()
 
 void cMainProgram::OfferDrafts()
 {
-    if (!m_end.HasBegun()) {
-        m_navigation->OfferDrafts();
+    if (m_end.HasBegun() || m_isOffering) {
+        return;
     }
+    if (QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(requestRetry, &tmrWalk, [this] { OfferDrafts(); });
+        return;
+    }
+    const QScopedValueRollback offering(m_isOffering, true);
+    m_navigation->OfferDrafts();
 }
 
 void cMainProgram::Save()
@@ -263,7 +270,7 @@ void cMainProgram::FollowLanguage()
     if (WantedLanguage() == m_language.Code()) {
         return;
     }
-    if (QApplication::activeModalWidget() != nullptr) {
+    if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) {
         tmrLanguage.start(requestRetry);
         return;
     }
@@ -271,6 +278,8 @@ void cMainProgram::FollowLanguage()
     m_navigation->LeaveBook();
     m_language.Use(WantedLanguage(), m_ports.Shell);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    const frmMain::ePage page = m_window->Page();
+    m_log.Watch({}); // until there is a window to tell
     m_window.reset();
     m_review.reset();
     m_model.reset();
@@ -281,6 +290,7 @@ void cMainProgram::FollowLanguage()
     QGuiApplication::setQuitOnLastWindowClosed(true);
     m_model->RestoreView(false);
     m_window->ShowToday();
+    m_window->ShowPage(page);
     Serve(); // what waited for the former window
 }
 

@@ -117,5 +117,6 @@ private:
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;
     std::unique_ptr<frmMain> m_window;
+    bool m_isOffering = false; // drafts
     bool m_isReady = false; // the window shows the book
 };

@@ -215,6 +215,9 @@ void cNavigation::LeaveBook()
     delete m_statisticsPage;
     m_statisticsPage = nullptr;
     m_statistics.reset(); // the other book has its own selectors
+    if (m_overview != nullptr) {
+        m_overview->BookSwitched();
+    }
 }
 
 void cNavigation::OpenEditor(cEntryEditor& editor, const std::optional<cEntryFields>& fields)

@@ -2,6 +2,7 @@
 
 #include "windows/bank/frmAbruf.h"
 #include "windows/bank/frmBankAssistent.h"
+#include "windows/help/frmUpdate.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -26,7 +27,8 @@ void Dismiss(QDialog& dialog)
     dialog.setProperty(isAsked, true);
     if (isAgain) {
         dialog.QDialog::done(QDialog::Rejected); // without what it would rather have settled first
-    } else if (qobject_cast<frmAbruf*>(&dialog) != nullptr || qobject_cast<frmBankAssistent*>(&dialog) != nullptr) {
+    } else if (qobject_cast<frmAbruf*>(&dialog) != nullptr || qobject_cast<frmBankAssistent*>(&dialog) != nullptr
+               || qobject_cast<frmUpdate*>(&dialog) != nullptr) {
         dialog.reject(); // breaks off what they are about
     } else {
         dialog.done(QDialog::Rejected);

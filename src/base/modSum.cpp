@@ -200,12 +200,12 @@ QString Simplified(const QString& text)
 // Without the letters that stand for a currency before or behind an amount. Only known ones: "3k" is no three.
 QString WithoutCurrency(QString text)
 {
-    static const std::array<QString, 18> words{QStringLiteral("EUR"),  QStringLiteral("Euro"), QStringLiteral("CHF"),
-                                               QStringLiteral("SFr."), QStringLiteral("Fr."),  QStringLiteral("GBP"),
-                                               QStringLiteral("USD"),  QStringLiteral("DKK"),  QStringLiteral("kr."),
-                                               QStringLiteral("kr"),   QStringLiteral("PLN"),  QStringLiteral("zł"),
-                                               QStringLiteral("CZK"),  QStringLiteral("Kč"),   QStringLiteral("HUF"),
-                                               QStringLiteral("Ft"),   QStringLiteral("IDR"),  QStringLiteral("Rp")};
+    static const std::array<QString, 18> words{QStringLiteral("Euro"), QStringLiteral("EUR"), QStringLiteral("CHF"),
+                                               QStringLiteral("SFr."), QStringLiteral("Fr."), QStringLiteral("GBP"),
+                                               QStringLiteral("USD"),  QStringLiteral("DKK"), QStringLiteral("kr."),
+                                               QStringLiteral("kr"),   QStringLiteral("PLN"), QStringLiteral("zł"),
+                                               QStringLiteral("CZK"),  QStringLiteral("Kč"),  QStringLiteral("HUF"),
+                                               QStringLiteral("Ft"),   QStringLiteral("IDR"), QStringLiteral("Rp")};
     const qsizetype start = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0;
     for (const QString& word : words) {
         if (text.endsWith(word, Qt::CaseInsensitive)) {

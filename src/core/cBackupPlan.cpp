@@ -68,6 +68,8 @@ void cBackupPlan::RunIfDue()
         m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);
     } else if (IsChanged()) {
         Copy();
+    } else { // the newest copy is as good as the book
+        m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);
     }
 }
 

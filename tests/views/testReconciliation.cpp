@@ -91,6 +91,16 @@ private Q_SLOTS:
         QVERIFY(opening.Question(*offer).contains(u"zurückgerechnet"_s));
         QVERIFY(opening.Take(*offer));
         QVERIFY(!opening.For(number)); // it is not asked again
+
+        cScene whole; // of which the rows are the whole history
+        whole.Settings->Delete(modSettingKey::BankBalances.Of(number));
+        QVERIFY(whole.Data.SetStartGuthaben(u"Girokonto"_s, 50000, QDate(2026, 5, 20)));
+        (void)whole.Row(2, 50000, u"Anfang"_s);
+        const auto nothing = cOpeningBalance(whole.Tools).For(number);
+        QVERIFY(nothing.has_value());
+        QCOMPARE(nothing->Start, 0);
+        QVERIFY(whole.Data.SetStartGuthaben(u"Girokonto"_s, 50000, QDate(2026, 5, 2)));
+        QVERIFY(!cOpeningBalance(whole.Tools).For(number)); // what it began with in the morning
     }
 
     void ListsWhatDiffers()

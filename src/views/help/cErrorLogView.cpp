@@ -26,7 +26,7 @@ constexpr std::array<const char*, cErrorLogView::ColumnCount> titles{
 QString CellText(const cLogEntry& entry, int column)
 {
     switch (column) {
-    case cErrorLogView::Time: return modDate::ToGerman(entry.Time.date()) + entry.Time.toString(u" HH:mm:ss"_s);
+    case cErrorLogView::Time: return modDate::ToText(entry.Time.date()) + entry.Time.toString(u" HH:mm:ss"_s);
     case cErrorLogView::Version:
         return entry.Program == u"kontorelle" ? entry.Version : QString(entry.Program + u' ' + entry.Version);
     case cErrorLogView::Operation: return entry.Operation;

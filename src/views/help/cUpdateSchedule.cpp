@@ -40,8 +40,11 @@ void cUpdateSchedule::AskOnce()
                        "dabei nur die Nummer Ihrer Version, und geladen wird nichts ohne Sie. Ändern können Sie "
                        "das jederzeit mit \"Hilfe\", \"Nach Updates suchen\"."),
          .Title = cText::Tr("Neue Versionen"),
+         .Buttons = eButtons::YesNoCancel,
          .Default = eAnswer::No});
-    SetWeekly(answer == eAnswer::Yes);
+    if (answer != eAnswer::Cancel) { // else it is asked again
+        SetWeekly(answer == eAnswer::Yes);
+    }
 }
 
 // A day in the future comes from a clock that was wrong.

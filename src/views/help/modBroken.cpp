@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 modBroken::eWish modBroken::Ask(cUser& user, const cRun& run)
 {
-    const QString when = modDate::ToGerman(run.Last.date()) + run.Last.toString(u" HH:mm"_s);
+    const QString when = modDate::ToText(run.Last.date()) + run.Last.toString(u" HH:mm"_s);
     const QString what = run.IsCrash
         ? cText::Tr("Kontorelle ist beim letzten Mal abgestürzt ({0}).", {when})
         : cText::Tr("Kontorelle wurde beim letzten Mal nicht ordentlich beendet ({0}): Das Programm wurde abgebrochen, "
@@ -17,7 +17,7 @@ modBroken::eWish modBroken::Ask(cUser& user, const cRun& run)
     // Enter goes on, because what was saved is there in nearly all cases.
     QStringList options{cText::Tr("&Weiterarbeiten"), cText::Tr("&Fehlerprotokoll ansehen")};
     if (run.Copy.isValid()) {
-        options.append(cText::Tr("Sicherung vom {0} &laden…", {modDate::ToGerman(run.Copy)}));
+        options.append(cText::Tr("Sicherung vom {0} &laden…", {modDate::ToText(run.Copy)}));
     }
     const int chosen =
         user.Decide({.Text = what + u"\n\n"_s

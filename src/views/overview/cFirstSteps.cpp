@@ -8,6 +8,10 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 
+#include <QSet>
+
+#include <algorithm>
+
 QList<cFirstSteps::cRow> cFirstSteps::Start() const
 {
     QList<cRow> rows;
@@ -34,7 +38,14 @@ eDecimal cFirstSteps::Decimal() const
 
 QString cFirstSteps::Save(const QList<cRow>& rows) const
 {
+    QSet<QString> names;
     for (const cRow& row : rows) {
+        const QString name = row.Name.trimmed().toCaseFolded();
+        if (!name.isEmpty() && names.contains(name)) {
+            return cText::Tr("Das Konto '{0}' steht zweimal da. Bitte lassen Sie eine der beiden Zeilen leer.",
+                             {row.Name.trimmed()});
+        }
+        names.insert(name);
         if (row.Amount.trimmed().isEmpty()) {
             continue;
         }
@@ -65,10 +76,19 @@ QString cFirstSteps::Store(const cRow& row) const
     if (item.TemplateName.isEmpty()) {
         return cText::Tr("'{0}' kann kein Konto heißen. Bitte wählen Sie einen anderen Namen.", {row.Name});
     }
-    const bool isStored = m_tools.Data.FindAccount(item.TemplateName).has_value() || m_tools.Data.AddNewTemplate(item);
+    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
+    const auto known = std::find_if(accounts.begin(), accounts.end(), [&](const cTemplateItem& account) {
+        return account.TemplateName.compare(item.TemplateName, Qt::CaseInsensitive) == 0;
+    });
+    const QString name = known == accounts.end() ? item.TemplateName : known->TemplateName;
+    if (known == accounts.end() && !m_tools.Data.AddNewTemplate(item)) {
+        return cText::Tr("Die Konten konnten nicht gespeichert werden.");
+    }
     const std::optional<qint64> cents = modSum::Evaluate(row.Amount, Decimal());
-    const bool isAmount = cents && !row.Amount.trimmed().isEmpty();
-    return isStored && (!isAmount || m_tools.Data.SetStartGuthaben(item.TemplateName, *cents, m_tools.Clock.Today()))
+    const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(name);
+    const bool isSame = stored && cents && modBalance::Effect(*stored, name) == *cents; // and keeps its day
+    return row.Amount.trimmed().isEmpty() || isSame
+            || (cents && m_tools.Data.SetStartGuthaben(name, *cents, m_tools.Clock.Today()))
         ? QString()
         : cText::Tr("Die Konten konnten nicht gespeichert werden.");
 }

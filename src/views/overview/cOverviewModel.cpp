@@ -34,17 +34,6 @@ int Percent(const cReportAmount& amount)
     return static_cast<int>(std::min<qint64>(modReport::LimitPercent(amount).value_or(0), 999));
 }
 
-// Day and month in the form of the book.
-QString ShortDay(QDate day)
-{
-    QString text = modDate::ToText(day).remove(QString::number(day.year()));
-    const auto isSign = [](QChar c) { return c == u'/' || c == u'-'; };
-    if (!text.isEmpty() && isSign(text.back())) {
-        text.chop(1);
-    }
-    return !text.isEmpty() && isSign(text.front()) ? text.mid(1) : text;
-}
-
 eOverviewTone ToneOf(qint64 cents)
 {
     return cents < 0 ? eOverviewTone::Expense : eOverviewTone::Plain;
@@ -68,7 +57,7 @@ cOverviewModel::cOverviewModel(const cBookTools& tools, const cParts& parts, QOb
 void cOverviewModel::Show()
 {
     m_isShown = true;
-    if (m_isOld) {
+    if (m_isOld || (m_book && m_book->Today != m_parts.Main.Today())) {
         tmrLoad.start();
     }
 }
@@ -79,6 +68,12 @@ void cOverviewModel::BookChanged()
     if (m_isShown) {
         tmrLoad.start();
     }
+}
+
+void cOverviewModel::BookSwitched()
+{
+    m_series.clear();
+    m_isOld = true;
 }
 
 void cOverviewModel::Read()
@@ -267,7 +262,7 @@ cOverviewLine cOverviewModel::DueLine(const cEntryItem& item)
     const bool isSeries = cDueItems::IsSeries(item);
     const qint64 effect = modBalance::Effect(item, {});
     const qint64 cents = item.EntryType == modWord::Umbuchung ? item.EntryValue : effect;
-    cOverviewLine line{ShortDay(item.EntryDate) + u"  "_s + modEntryFields::Name(item), Signed(cents),
+    cOverviewLine line{modDate::ToShortText(item.EntryDate) + u"  "_s + modEntryFields::Name(item), Signed(cents),
                        effect > 0 ? eOverviewTone::Income : eOverviewTone::Plain};
     line.Follow = [this, item] { m_parts.Navigator.OpenEntry(item.ID, item.Planned()); };
     if (m_parts.Main.IsReadOnly()) {

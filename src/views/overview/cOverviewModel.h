@@ -33,6 +33,7 @@ public:
     // While the page is in sight it follows the book; else it reads when it is shown next.
     void Show();
     void Hide() { m_isShown = false; }
+    void BookSwitched(); // what the former one had means nothing
     void BookChanged();
     void Read(); // at once, but for what takes longer
 

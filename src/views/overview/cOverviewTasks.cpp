@@ -61,13 +61,16 @@ void cOverviewTasks::AddAccounts(QList<cOverviewTask>& tasks) const
     const QHash<QString, int> open = accounts.OpenByAccount();
     QHash<QString, int> numbers;
     QHash<QString, cBankBalance> newest;
+    const QStringList staged = m_tools.Data.GetImportAccounts();
+    for (const QString& number : staged) {
+        ++numbers[accounts.AccountOf(number)];
+    }
     const auto mapping = accounts.Mapping();
     for (const auto& [number, account] : mapping) {
         const cBankBalanceList balances = cBankBalances::Of(m_tools.Settings, number);
         if (balances.isEmpty() || account.isEmpty()) {
             continue;
         }
-        ++numbers[account];
         if (!newest.contains(account) || newest.value(account).Day < balances.last().Day) {
             newest.insert(account, balances.last());
         }
@@ -78,7 +81,7 @@ void cOverviewTasks::AddAccounts(QList<cOverviewTask>& tasks) const
     for (const QString& account : std::as_const(names)) {
         const cBankBalance& balance = newest[account];
         const QString day = modDate::ToText(balance.Day);
-        if (open.value(account) == 0 && numbers.value(account) == 1 && !HasBalance(m_tools.Data, account, balance)) {
+        if (open.value(account) == 0 && numbers.value(account) <= 1 && !HasBalance(m_tools.Data, account, balance)) {
             tasks.append({eKind::Difference,
                           cText::Tr("{0}: Die Bank nennt am {1} den Stand {2}, das Buch hat einen anderen.",
                                     {account, day, m_tools.Format.Cents(balance.Cents)})});

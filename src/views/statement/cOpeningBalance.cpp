@@ -108,7 +108,8 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
     offer.Former = stored ? std::optional(former) : std::nullopt;
     offer.Start = offer.Bank - sum;
     offer.StartDay = counts && stored->EntryDate.isValid() ? qMin(stored->EntryDate, hand.First()) : hand.First();
-    return offer.Book == offer.Bank ? std::nullopt : std::optional(offer);
+    const bool agrees = offer.Book == offer.Bank && (counts || former == 0); // a later start balance counts on top
+    return agrees ? std::nullopt : std::optional(offer);
 }
 
 // What the balances of the bank say; none where rows are missing, which no start balance makes good.
@@ -122,11 +123,13 @@ std::optional<qint64> cOpeningBalance::Opening(const cStatementLedger& ledger, Q
     return check.Opening - check.ErrorOn(day);
 }
 
-// Where the bank names no balance, what the user has stored as that of a later day: all rows up to that day led to it.
+// Where the bank names no balance, what the user has stored as that of a later day: all rows up to that day led to it,
+// when none was left out. On the day of the first row it is rather what the account began with.
 std::optional<qint64> cOpeningBalance::CountBack(const cStatementLedger& ledger,
-                                                 const std::optional<cEntryItem>& stored)
+                                                 const std::optional<cEntryItem>& stored) const
 {
-    if (!stored || stored->EntryDate < ledger.Rows().constFirst().ImportDate) {
+    if (!stored || stored->EntryDate <= ledger.Rows().constFirst().ImportDate
+        || !cLeftOutRows(m_tools.Settings).Of(ledger.Number()).isEmpty()) {
         return std::nullopt;
     }
     qint64 cents = modBalance::Effect(*stored, stored->EntryAccount);

@@ -39,8 +39,8 @@ public:
 
 private:
     [[nodiscard]] std::optional<qint64> Opening(const cStatementLedger& ledger, QDate day) const;
-    [[nodiscard]] static std::optional<qint64> CountBack(const cStatementLedger& ledger,
-                                                         const std::optional<cEntryItem>& stored);
+    [[nodiscard]] std::optional<qint64> CountBack(const cStatementLedger& ledger,
+                                                  const std::optional<cEntryItem>& stored) const;
 
     const cBookTools& m_tools;
 };

@@ -33,7 +33,10 @@ cCardLine::cCardLine(const cOverviewLine& line, QWidget* parent) : QAbstractButt
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     if (isLink) {
-        connect(this, &QAbstractButton::clicked, this, [this] { m_line.Follow(); });
+        connect(this, &QAbstractButton::clicked, this, [this] {
+            const auto follow = m_line.Follow; // the line may be gone before it is done
+            follow();
+        });
     }
 }
 

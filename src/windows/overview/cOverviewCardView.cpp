@@ -90,8 +90,8 @@ void cOverviewCardView::AddLine(const cOverviewLine& line, QVBoxLayout& layout)
                 menu->addAction(action.Text), &QAction::triggered, this, [run = action.Run] { run(); },
                 Qt::QueuedConnection);
         }
-        more->setMenu(menu);
-        more->setPopupMode(QToolButton::InstantPopup);
+        connect(more, &QToolButton::clicked, menu,
+                [menu, more] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });
         more->setText(u"…"_s);
         more->setAutoRaise(true);
         more->setFocusPolicy(Qt::StrongFocus);

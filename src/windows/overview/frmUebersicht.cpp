@@ -120,7 +120,10 @@ void frmUebersicht::ShowCards()
 void frmUebersicht::ShowFirstSteps()
 {
     if (!m_model.IsBookEmpty()) {
-        delete std::exchange(m_firstSteps, nullptr);
+        if (m_firstSteps != nullptr) {
+            m_firstSteps->hide();
+            std::exchange(m_firstSteps, nullptr)->deleteLater(); // one of its buttons may be at work
+        }
         return;
     }
     if (m_firstSteps != nullptr) {
