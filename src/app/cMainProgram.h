@@ -118,5 +118,5 @@ private:
     std::unique_ptr<cImportReview> m_review;
     std::unique_ptr<frmMain> m_window;
     bool m_isOffering = false; // drafts
-    bool m_isReady = false; // the window shows the book
+    bool m_isReady = false;    // the window shows the book
 };
