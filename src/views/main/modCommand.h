@@ -72,15 +72,16 @@ enum eTrait : int {
 
 struct cCommand
 {
-    eId Id;
-    const char* Menu;    // German title of the menu, in the order of the table; without "&" its first letter opens it
-    const char* Caption; // German, with "&" before the letter that opens it from the keyboard
-    const char* Keys;    // portable key sequences joined by "|"
-    const char* Icon;    // name of the picture; empty for none
-    const cSettingKey* Setting;    // of the view switch that a check command turns; null for plain commands
-    int Traits;                    // of eTrait
-    const char* Hint;              // one sentence for status bar and tool tip
-    const char* Submenu = nullptr; // German title of the menu within the menu; null for none
+    eId Id{};
+    const char* Menu =
+        nullptr; // German title of the menu, in the order of the table; without "&" its first letter opens it
+    const char* Caption = nullptr;        // German, with "&" before the letter that opens it from the keyboard
+    const char* Keys = nullptr;           // portable key sequences joined by "|"
+    const char* Icon = nullptr;           // name of the picture; empty for none
+    const cSettingKey* Setting = nullptr; // of the view switch that a check command turns; null for plain commands
+    int Traits = 0;                       // of eTrait
+    const char* Hint = nullptr;           // one sentence for status bar and tool tip
+    const char* Submenu = nullptr;        // German title of the menu within the menu; null for none
 };
 
 [[nodiscard]] constexpr bool Has(const cCommand& command, eTrait trait)
