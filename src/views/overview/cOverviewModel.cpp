@@ -72,6 +72,8 @@ void cOverviewModel::BookChanged()
 
 void cOverviewModel::BookSwitched()
 {
+    tmrLoad.stop(); // there may be no book for a while
+    tmrSeries.stop();
     m_series.clear();
     m_isOld = true;
 }

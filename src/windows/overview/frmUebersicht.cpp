@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -106,6 +107,8 @@ void frmUebersicht::ShowCards()
     }
     m_cards.clear();
     m_heading->setText(m_model.Heading());
+    const QSignalBlocker blocker(m_isStartPage); // another book may have it otherwise
+    m_isStartPage->setChecked(m_model.IsStartPage());
     for (const cOverviewCard& card : m_model.Cards()) {
         m_cards.append(new cOverviewCardView(card, m_ground));
         if (isFocused && card.Card == kept) {
