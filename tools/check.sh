@@ -82,6 +82,10 @@ unsorted() {
 hits=$(git ls-files '*CMakeLists.txt' | xargs -d '\n' -n1 bash -c "$(declare -f unsorted); unsorted \"\$@\"" _)
 [ -n "$hits" ] && fail 'not in its place in the sorted list' "$hits"
 
+if [ "${1:-}" = --all ]; then
+  hits=$(tools/includes.py) || fail 'include it, or declare the class' "$hits"
+fi
+
 if command -v clang-format >/dev/null; then
   hits=$(printf '%s\0' "${files[@]}" | xargs -0 clang-format --dry-run -Werror 2>&1 | sed -n 's/^\([^:]*\):.*-Wclang-format-violations.*/\1/p' | sort -u)
   [ -n "$hits" ] && fail 'run clang-format -i on' "$hits"

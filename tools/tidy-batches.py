@@ -109,10 +109,6 @@ def main():
     for number, (options, members, _, mocs) in enumerate(batches):
         path = os.path.abspath(os.path.join(folder, f'batch{number:02}.cpp'))
         with open(path, 'w', encoding='utf-8') as file:
-            if any(option.endswith('/QtTest') for option in options):
-                # One function main() is enough for all.
-                file.write('#include <QtTest>\n#undef QTEST_MAIN\n#undef QTEST_GUILESS_MAIN\n#undef QTEST_APPLESS_MAIN\n'
-                           '#define QTEST_MAIN(x)\n#define QTEST_GUILESS_MAIN(x)\n#define QTEST_APPLESS_MAIN(x)\n')
             file.writelines(f'#include "{member}"\n' for member in members)
         written.append({'directory': commands[members[0]]['directory'], 'file': path,
                         'command': shlex.join([*options, *dict.fromkeys(mocs), '-c', path])})

@@ -4,6 +4,7 @@
 #include "app/cQtShell.h"
 #include "app/cSingleInstance.h"
 #include "app/modQtFilter.h"
+#include "support/cTestClass.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -238,5 +239,5 @@ void testAdapters::FiltersForFileDialogs()
     QCOMPARE(modQtFilter::FromPairs(pairs), filter);
 }
 
-QTEST_GUILESS_MAIN(testAdapters)
+TEST_CLASS(testAdapters, QCoreApplication)
 #include "testAdapters.moc"

@@ -1,5 +1,6 @@
 #include "app/cAppearance.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "windows/widget/modPalette.h"
 #include "windows/widget/modTone.h"
@@ -146,5 +147,5 @@ void testAppearance::DesktopIsFollowed() const
     QDBusConnection::disconnectFromBus(u"program"_s);
 }
 
-QTEST_MAIN(testAppearance)
+TEST_CLASS(testAppearance, QApplication)
 #include "testAppearance.moc"

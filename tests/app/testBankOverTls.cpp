@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "cTlsServer.h"
 #include "net/cQtHttps.h"
+#include "support/cTestClass.h"
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cBankDirectory.h"
 #include "views/bank/cBankFetch.h"
@@ -77,5 +78,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBankOverTls)
+TEST_CLASS(testBankOverTls, QCoreApplication)
 #include "testBankOverTls.moc"

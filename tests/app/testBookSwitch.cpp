@@ -6,6 +6,7 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -164,5 +165,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBookSwitch)
+TEST_CLASS(testBookSwitch, QCoreApplication)
 #include "testBookSwitch.moc"

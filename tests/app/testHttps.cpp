@@ -1,5 +1,6 @@
 #include "cTlsServer.h"
 #include "net/cQtHttps.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 #include <QTimer>
@@ -124,5 +125,5 @@ void testHttps::EndsWhenCancelled()
     QCOMPARE(https.Post(server.Url(), "SGFsbG8=").Fault, eHttpsFault::Cancelled);
 }
 
-QTEST_GUILESS_MAIN(testHttps)
+TEST_CLASS(testHttps, QCoreApplication)
 #include "testHttps.moc"

@@ -3,6 +3,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "views/main/cMainModel.h"
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testMainProgram)
+TEST_CLASS(testMainProgram, QApplication)
 #include "testMainProgram.moc"

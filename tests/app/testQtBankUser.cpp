@@ -1,4 +1,5 @@
 #include "app/cQtBankUser.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "windows/bank/frmPin.h"
 #include "windows/bank/frmTan.h"
@@ -116,5 +117,5 @@ void testQtBankUser::CancelledRunEndsTheWait()
     QCOMPARE(user.WaitForApproval({}), eApproval::Cancel);
 }
 
-QTEST_MAIN(testQtBankUser)
+TEST_CLASS(testQtBankUser, QApplication)
 #include "testQtBankUser.moc"

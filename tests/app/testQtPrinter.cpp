@@ -1,7 +1,9 @@
 #include "app/cQtPrinter.h"
 #include "app/modQtFilter.h"
+#include "support/cTestClass.h"
 #include "windows/print/cPrintable.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QPainter>
 #include <QPrinter>
@@ -127,5 +129,5 @@ void testQtPrinter::EndingFollowsTheChosenFilter()
     QCOMPARE(modQtFilter::ChosenEnding(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|Alle Dateien|*.*"_s, chosen), ending);
 }
 
-QTEST_MAIN(testQtPrinter)
+TEST_CLASS(testQtPrinter, QApplication)
 #include "testQtPrinter.moc"

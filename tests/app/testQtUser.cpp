@@ -1,5 +1,6 @@
 #include "app/cLanguage.h"
 #include "app/cQtUser.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 
 #include <QApplication>
@@ -118,5 +119,5 @@ void testQtUser::KeysHaveGermanNames()
     QCOMPARE(QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText), u"Entf"_s);
 }
 
-QTEST_MAIN(testQtUser)
+TEST_CLASS(testQtUser, QApplication)
 #include "testQtUser.moc"

@@ -3,6 +3,7 @@
 #include "app/cSessionWatch.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "windows/entry/frmBuchung.h"
@@ -244,5 +245,5 @@ void testSessionEnd::ProcessEndsCleanly() const
             != u"(no row)"_s);
 }
 
-QTEST_MAIN(testSessionEnd)
+TEST_CLASS(testSessionEnd, QApplication)
 #include "testSessionEnd.moc"

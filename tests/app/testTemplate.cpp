@@ -5,6 +5,7 @@
 #include "model/modBalance.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -134,5 +135,5 @@ void testTemplate::SizeIsAsAsked()
     QVERIFY(Data().GetEntries(before).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(testTemplate)
+TEST_CLASS(testTemplate, QCoreApplication)
 #include "testTemplate.moc"

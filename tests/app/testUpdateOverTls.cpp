@@ -1,5 +1,6 @@
 #include "cTlsServer.h"
 #include "net/cQtHttps.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
@@ -155,5 +156,5 @@ void testUpdateOverTls::CancelledDownloadLeavesNothing() const
     QVERIFY(!QFile::exists(path));
 }
 
-QTEST_GUILESS_MAIN(testUpdateOverTls)
+TEST_CLASS(testUpdateOverTls, QCoreApplication)
 #include "testUpdateOverTls.moc"

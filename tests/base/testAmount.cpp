@@ -1,4 +1,5 @@
 #include "base/modAmount.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -105,5 +106,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testAmount)
+TEST_CLASS(testAmount, QCoreApplication)
 #include "testAmount.moc"

@@ -1,4 +1,5 @@
 #include "base/modSimilar.h"
+#include "support/cTestClass.h"
 
 #include <QRandomGenerator>
 #include <QStringList>
@@ -147,5 +148,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testSimilar)
+TEST_CLASS(testSimilar, QCoreApplication)
 #include "testSimilar.moc"

@@ -3,6 +3,7 @@
 #include "base/modDate.h"
 #include "base/modFold.h"
 #include "base/modMD5.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -119,5 +120,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testText)
+TEST_CLASS(testText, QCoreApplication)
 #include "testText.moc"

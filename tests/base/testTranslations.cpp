@@ -1,3 +1,5 @@
+#include "support/cTestClass.h"
+
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
@@ -117,5 +119,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testTranslations)
+TEST_CLASS(testTranslations, QCoreApplication)
 #include "testTranslations.moc"

@@ -2,6 +2,7 @@
 #include "base/modDate.h"
 #include "base/modDayText.h"
 #include "base/modSum.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -220,5 +221,5 @@ void testTyped::ShownDaysAreReadBack()
     modDate::UseForm({});
 }
 
-QTEST_GUILESS_MAIN(testTyped)
+TEST_CLASS(testTyped, QCoreApplication)
 #include "testTyped.moc"

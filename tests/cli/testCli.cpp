@@ -2,6 +2,7 @@
 #include "app/cQtRegistry.h"
 #include "cCliRun.h"
 #include "store/cDatabase.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 
 #include <QDate>
@@ -465,7 +466,7 @@ void testCli::LockedDatabaseIsReadButNotWritten()
     cFileLock lock;
     QCOMPARE(lock.Take(Database()), eLockState::Held);
     const cRun write = Run({u"book"_s, u"--all"_s});
-    QVERIFY2(write.Code == 1 && write.Error.contains("testCli"_L1), qPrintable(write.Text()));
+    QVERIFY2(write.Code == 1 && write.Error.contains(QCoreApplication::applicationName()), qPrintable(write.Text()));
     QCOMPARE(Run({u"staged"_s, u"--open"_s, u"--json"_s}).Json().size(), 6);
     lock.Release();
     QCOMPARE(Run({u"book"_s, u"--all"_s}).Code, 0);
@@ -567,5 +568,5 @@ void testCli::DebugInfoHoldsNoData()
     QVERIFY(!QFile::exists(Database())); // it looks and makes nothing
 }
 
-QTEST_GUILESS_MAIN(testCli)
+TEST_CLASS(testCli, QCoreApplication)
 #include "testCli.moc"

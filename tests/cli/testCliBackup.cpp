@@ -3,6 +3,7 @@
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
 #include "store/cDatabase.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 
 #include <QDir>
@@ -142,5 +143,5 @@ void testCliBackup::ForgottenPassword()
     QVERIFY(Run({u"password"_s}).Out.contains("ohne Passwort"_L1));
 }
 
-QTEST_GUILESS_MAIN(testCliBackup)
+TEST_CLASS(testCliBackup, QCoreApplication)
 #include "testCliBackup.moc"

@@ -6,6 +6,7 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliMain.h"
 #include "core/cBook.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestHttps.h"
@@ -161,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testCliBanks)
+TEST_CLASS(testCliBanks, QCoreApplication)
 #include "testCliBanks.moc"

@@ -1,6 +1,7 @@
 #include "app/cQtRegistry.h"
 #include "cCliRun.h"
 #include "core/cConfiguration.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 
 #include <QDir>
@@ -156,5 +157,5 @@ void testCliBook::CommandsSayWhatTheyDid() const
     QVERIFY2(run.Out.contains(text) && run.Error.isEmpty(), qPrintable(run.Text()));
 }
 
-QTEST_GUILESS_MAIN(testCliBook)
+TEST_CLASS(testCliBook, QCoreApplication)
 #include "testCliBook.moc"

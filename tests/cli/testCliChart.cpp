@@ -1,4 +1,5 @@
 #include "cCliRun.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 
 #include <QDate>
@@ -94,5 +95,5 @@ void testCliChart::Refuses()
     QVERIFY(!QFile::exists(m_folder->filePath(u"x.csv"_s)));
 }
 
-QTEST_GUILESS_MAIN(testCliChart)
+TEST_CLASS(testCliChart, QCoreApplication)
 #include "testCliChart.moc"

@@ -1,5 +1,6 @@
 #include "app/cFileLock.h"
 #include "cCliRun.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 
 #include <QTemporaryDir>
@@ -526,5 +527,5 @@ void testCliEntries::HelpKnowsTwoWords()
     }
 }
 
-QTEST_GUILESS_MAIN(testCliEntries)
+TEST_CLASS(testCliEntries, QCoreApplication)
 #include "testCliEntries.moc"

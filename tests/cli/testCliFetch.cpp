@@ -4,6 +4,7 @@
 #include "cli/cCliPaint.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliMain.h"
+#include "support/cTestClass.h"
 #include "testbank/cBankHousehold.h"
 
 #include <QFile>
@@ -100,5 +101,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testCliFetch)
+TEST_CLASS(testCliFetch, QCoreApplication)
 #include "testCliFetch.moc"

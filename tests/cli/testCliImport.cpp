@@ -1,4 +1,5 @@
 #include "cCliRun.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -232,5 +233,5 @@ private:
     const QString m_giro = QStringLiteral(TEST_DATA "/cli/giro.sta");
 };
 
-QTEST_GUILESS_MAIN(testCliImport)
+TEST_CLASS(testCliImport, QCoreApplication)
 #include "testCliImport.moc"

@@ -1,4 +1,5 @@
 #include "cCliRun.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -138,5 +139,5 @@ private:
     QString m_food;
 };
 
-QTEST_GUILESS_MAIN(testCliMatch)
+TEST_CLASS(testCliMatch, QCoreApplication)
 #include "testCliMatch.moc"

@@ -1,4 +1,5 @@
 #include "cCliRun.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -128,5 +129,5 @@ void testCliReport::Refused()
     QVERIFY2(run.Error.contains(said), qPrintable(run.Text()));
 }
 
-QTEST_GUILESS_MAIN(testCliReport)
+TEST_CLASS(testCliReport, QCoreApplication)
 #include "testCliReport.moc"

@@ -1,4 +1,5 @@
 #include "cCliRun.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -104,5 +105,5 @@ private:
     QString m_file;
 };
 
-QTEST_GUILESS_MAIN(testCliRules)
+TEST_CLASS(testCliRules, QCoreApplication)
 #include "testCliRules.moc"

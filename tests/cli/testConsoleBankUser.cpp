@@ -1,4 +1,5 @@
 #include "cli/cConsoleBankUser.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -239,5 +240,5 @@ void testConsoleBankUser::ApprovalIsWaitedFor()
     QCOMPARE(WEXITSTATUS(terminal.End()), good);
 }
 
-QTEST_APPLESS_MAIN(testConsoleBankUser)
+TEST_CLASS(testConsoleBankUser, QCoreApplication)
 #include "testConsoleBankUser.moc"

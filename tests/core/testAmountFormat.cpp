@@ -1,5 +1,6 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 
 #include <QLocale>
@@ -203,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testAmountFormat)
+TEST_CLASS(testAmountFormat, QCoreApplication)
 #include "testAmountFormat.moc"

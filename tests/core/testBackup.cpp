@@ -9,6 +9,7 @@
 #include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -436,5 +437,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBackup)
+TEST_CLASS(testBackup, QCoreApplication)
 #include "testBackup.moc"

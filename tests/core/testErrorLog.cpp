@@ -1,6 +1,7 @@
 #include "base/cText.h"
 #include "core/cErrorLog.h"
 #include "core/cLoggedUser.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 
 #include <QTest>
@@ -207,5 +208,5 @@ void testErrorLog::LivingRunIsNoBrokenOne()
     QVERIFY(!log.TakeBroken());
 }
 
-QTEST_GUILESS_MAIN(testErrorLog)
+TEST_CLASS(testErrorLog, QCoreApplication)
 #include "testErrorLog.moc"

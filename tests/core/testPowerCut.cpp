@@ -4,6 +4,7 @@
 #include "store/cUndoStep.h"
 #include "store/modSchema.h"
 #include "support/bookDump.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 
 #include <QTest>
@@ -175,5 +176,5 @@ void testPowerCut::TheDiskForgets()
     QVERIFY(unreadable > 0);
 }
 
-QTEST_GUILESS_MAIN(testPowerCut)
+TEST_CLASS(testPowerCut, QCoreApplication)
 #include "testPowerCut.moc"

@@ -4,6 +4,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/modSchema.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -365,5 +366,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testSettings)
+TEST_CLASS(testSettings, QCoreApplication)
 #include "testSettings.moc"

@@ -1,4 +1,5 @@
 #include "core/cStartRequest.h"
+#include "support/cTestClass.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -74,5 +75,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(testStartRequest)
+TEST_CLASS(testStartRequest, QCoreApplication)
 #include "testStartRequest.moc"

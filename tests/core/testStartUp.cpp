@@ -4,6 +4,7 @@
 #include "core/cStartUp.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -216,5 +217,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStartUp)
+TEST_CLASS(testStartUp, QCoreApplication)
 #include "testStartUp.moc"

@@ -3,6 +3,7 @@
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "support/bookDump.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 
 #include <QTest>
@@ -211,5 +212,5 @@ void testUndo::StepsFollowEachOther()
     QCOMPARE(Dump(book.Database), before);
 }
 
-QTEST_GUILESS_MAIN(testUndo)
+TEST_CLASS(testUndo, QCoreApplication)
 #include "testUndo.moc"

@@ -1,4 +1,5 @@
 #include "fints/cBankAnswer.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -233,5 +234,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(testBankAnswer)
+TEST_CLASS(testBankAnswer, QCoreApplication)
 #include "testBankAnswer.moc"

@@ -1,5 +1,6 @@
 #include "base/cSecret.h"
 #include "fints/cBankLog.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -135,5 +136,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(testBankLog)
+TEST_CLASS(testBankLog, QCoreApplication)
 #include "testBankLog.moc"

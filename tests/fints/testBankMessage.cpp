@@ -1,5 +1,6 @@
 #include "base/cSecret.h"
 #include "fints/HBCIFactory.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -174,5 +175,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(testBankMessage)
+TEST_CLASS(testBankMessage, QCoreApplication)
 #include "testBankMessage.moc"

@@ -1,4 +1,5 @@
 #include "fints/modBankParameters.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -119,5 +120,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(testBankParameters)
+TEST_CLASS(testBankParameters, QCoreApplication)
 #include "testBankParameters.moc"

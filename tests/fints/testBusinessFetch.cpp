@@ -1,4 +1,5 @@
 #include "fints/cBankScene.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -206,5 +207,5 @@ void testBusinessFetch::KnowsNothingAndAsksForAll()
     QCOMPARE(scene.Bank.Story(), u"init 912 0/0 HKIDN | HKKAZ5 111 | HKSAL5 111 | end"_s);
 }
 
-QTEST_GUILESS_MAIN(testBusinessFetch)
+TEST_CLASS(testBusinessFetch, QCoreApplication)
 #include "testBusinessFetch.moc"

@@ -1,5 +1,6 @@
 #include "fints/cBankScene.h"
 #include "fints/HBCIFactory.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -211,5 +212,5 @@ void testBusinessLine::TheBankNoticesFaults()
     QVERIFY2(complaint.isEmpty() ? complaints.isEmpty() : complaints.contains(complaint), qPrintable(complaints));
 }
 
-QTEST_GUILESS_MAIN(testBusinessLine)
+TEST_CLASS(testBusinessLine, QCoreApplication)
 #include "testBusinessLine.moc"

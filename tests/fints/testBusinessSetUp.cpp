@@ -1,4 +1,5 @@
 #include "fints/cBankScene.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -226,5 +227,5 @@ void testBusinessSetUp::SendsNothingWithoutRegistration()
     QCOMPARE(scene.Https.Posts, 0);
 }
 
-QTEST_GUILESS_MAIN(testBusinessSetUp)
+TEST_CLASS(testBusinessSetUp, QCoreApplication)
 #include "testBusinessSetUp.moc"

@@ -1,4 +1,5 @@
 #include "fints/cBankScene.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -162,5 +163,5 @@ void testBusinessTan::KeepsSecretsOutOfTheLog()
     QVERIFY(scene.Log.Text().contains(u"HKKAZ"));
 }
 
-QTEST_GUILESS_MAIN(testBusinessTan)
+TEST_CLASS(testBusinessTan, QCoreApplication)
 #include "testBusinessTan.moc"

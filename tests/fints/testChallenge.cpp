@@ -1,5 +1,6 @@
 #include "fints/cBankAnswer.h"
 #include "fints/modChallenge.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -158,5 +159,5 @@ void testChallenge::PictureComesWithItsType()
     QCOMPARE(question.PictureType, type);
 }
 
-QTEST_APPLESS_MAIN(testChallenge)
+TEST_CLASS(testChallenge, QCoreApplication)
 #include "testChallenge.moc"

@@ -1,6 +1,7 @@
 #include "fints/cShield.h"
 #include "fints/modFintsSplit.h"
 #include "fints/modFintsValue.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -126,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(testFintsSplit)
+TEST_CLASS(testFintsSplit, QCoreApplication)
 #include "testFintsSplit.moc"

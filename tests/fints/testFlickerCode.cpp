@@ -1,4 +1,5 @@
 #include "fints/modFlickerCode.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -103,5 +104,5 @@ void testFlickerCode::BarsShowSyncHalfBytesAndClock()
     QVERIFY(modFlickerCode::States({}).isEmpty());
 }
 
-QTEST_APPLESS_MAIN(testFlickerCode)
+TEST_CLASS(testFlickerCode, QCoreApplication)
 #include "testFlickerCode.moc"

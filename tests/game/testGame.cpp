@@ -1,5 +1,6 @@
 #include "game/cBot.h"
 #include "game/cGame.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -94,5 +95,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testGame)
+TEST_CLASS(testGame, QCoreApplication)
 #include "testGame.moc"

@@ -1,4 +1,5 @@
 #include "household/cHouseholdPlay.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -26,5 +27,5 @@ private:
     const QDate first{2024, 9, 1};
 };
 
-QTEST_GUILESS_MAIN(testHousehold)
+TEST_CLASS(testHousehold, QCoreApplication)
 #include "testHousehold.moc"

@@ -1,6 +1,7 @@
 #include "cImportBook.h"
 #include "import/read/modAccountNumber.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -135,5 +136,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testAccountMap)
+TEST_CLASS(testAccountMap, QCoreApplication)
 #include "testAccountMap.moc"

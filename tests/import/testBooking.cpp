@@ -6,6 +6,7 @@
 #include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -358,5 +359,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBooking)
+TEST_CLASS(testBooking, QCoreApplication)
 #include "testBooking.moc"

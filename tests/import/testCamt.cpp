@@ -5,6 +5,7 @@
 #include "import/xml/modCamtText.h"
 #include "import/xml/modXmlPieces.h"
 #include "import/zip/modZip.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTest>
@@ -329,5 +330,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testCamt)
+TEST_CLASS(testCamt, QCoreApplication)
 #include "testCamt.moc"

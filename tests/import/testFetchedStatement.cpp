@@ -5,6 +5,7 @@
 #include "import/stage/cStatementImport.h"
 #include "store/cUndoStep.h"
 #include "support/bankMonth.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -166,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testFetchedStatement)
+TEST_CLASS(testFetchedStatement, QCoreApplication)
 #include "testFetchedStatement.moc"

@@ -1,4 +1,5 @@
 #include "import/stage/cImportHive.h"
+#include "support/cTestClass.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -159,5 +160,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testImportHive)
+TEST_CLASS(testImportHive, QCoreApplication)
 #include "testImportHive.moc"

@@ -1,6 +1,7 @@
 #include "cImportBook.h"
 #include "import/plan/cImportPlan.h"
 #include "import/stage/cStaging.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -178,5 +179,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testImportPlan)
+TEST_CLASS(testImportPlan, QCoreApplication)
 #include "testImportPlan.moc"

@@ -4,6 +4,7 @@
 #include "import/propose/modKeywordTable.h"
 #include "model/cImportEntry.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -121,5 +122,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testKeywordRules)
+TEST_CLASS(testKeywordRules, QCoreApplication)
 #include "testKeywordRules.moc"

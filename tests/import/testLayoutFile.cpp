@@ -5,6 +5,7 @@
 #include "import/table/modLayoutFile.h"
 #include "import/table/modTable.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -82,5 +83,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testLayoutFile)
+TEST_CLASS(testLayoutFile, QCoreApplication)
 #include "testLayoutFile.moc"

@@ -1,6 +1,7 @@
 #include "import/mt940/modMT940.h"
 #include "import/read/modSepaPurpose.h"
 #include "import/read/modStatementText.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTest>
@@ -246,5 +247,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testMT940)
+TEST_CLASS(testMT940, QCoreApplication)
 #include "testMT940.moc"

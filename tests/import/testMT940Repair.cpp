@@ -1,4 +1,5 @@
 #include "import/mt940/modMT940Repair.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTest>
@@ -75,5 +76,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testMT940Repair)
+TEST_CLASS(testMT940Repair, QCoreApplication)
 #include "testMT940Repair.moc"

@@ -8,6 +8,7 @@
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -401,5 +402,5 @@ void testMatcher::RefusedWrite() const
     QCOMPARE(bank.User.Shown.size(), 1);
 }
 
-QTEST_GUILESS_MAIN(testMatcher)
+TEST_CLASS(testMatcher, QCoreApplication)
 #include "testMatcher.moc"

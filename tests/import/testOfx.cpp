@@ -2,6 +2,7 @@
 #include "import/xml/modOfx.h"
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTest>
@@ -227,5 +228,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testOfx)
+TEST_CLASS(testOfx, QCoreApplication)
 #include "testOfx.moc"

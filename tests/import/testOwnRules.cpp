@@ -6,6 +6,7 @@
 #include "import/propose/modOwnRule.h"
 #include "import/stage/cStaging.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -249,5 +250,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testOwnRules)
+TEST_CLASS(testOwnRules, QCoreApplication)
 #include "testOwnRules.moc"

@@ -6,6 +6,7 @@
 #include "import/propose/modPayeeList.h"
 #include "import/read/modPayee.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTest>
@@ -273,5 +274,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testPayees)
+TEST_CLASS(testPayees, QCoreApplication)
 #include "testPayees.moc"

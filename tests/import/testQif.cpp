@@ -1,4 +1,5 @@
 #include "import/qif/modQif.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTest>
@@ -161,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testQif)
+TEST_CLASS(testQif, QCoreApplication)
 #include "testQif.moc"

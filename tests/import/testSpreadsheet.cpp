@@ -3,6 +3,7 @@
 #include "import/sheet/modSheetValue.h"
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/modStatementFormat.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -280,5 +281,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testSpreadsheet)
+TEST_CLASS(testSpreadsheet, QCoreApplication)
 #include "testSpreadsheet.moc"

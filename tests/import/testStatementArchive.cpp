@@ -1,5 +1,6 @@
 #include "import/stage/modStatementArchive.h"
 #include "import/stage/modStatementFormat.h"
+#include "support/cTestClass.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -95,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStatementArchive)
+TEST_CLASS(testStatementArchive, QCoreApplication)
 #include "testStatementArchive.moc"

@@ -1,4 +1,5 @@
 #include "import/stage/modStatementFormat.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -50,5 +51,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStatementFormat)
+TEST_CLASS(testStatementFormat, QCoreApplication)
 #include "testStatementFormat.moc"

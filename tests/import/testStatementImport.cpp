@@ -4,6 +4,7 @@
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cStatementImport.h"
 #include "store/cUndoStep.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -377,5 +378,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStatementImport)
+TEST_CLASS(testStatementImport, QCoreApplication)
 #include "testStatementImport.moc"

@@ -1,5 +1,6 @@
 #include "import/read/modStatementFile.h"
 #include "import/read/modStatementText.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -89,5 +90,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStatementText)
+TEST_CLASS(testStatementText, QCoreApplication)
 #include "testStatementText.moc"

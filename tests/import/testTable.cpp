@@ -9,6 +9,7 @@
 #include "import/table/modTableProfile.h"
 #include "import/table/modTableText.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 
 #include <QDir>
 #include <QTest>
@@ -498,5 +499,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testTable)
+TEST_CLASS(testTable, QCoreApplication)
 #include "testTable.moc"

@@ -2,6 +2,7 @@
 #include "import/table/modColumnWords.h"
 #include "import/table/modTableRows.h"
 #include "import/table/modTableText.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -171,5 +172,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testTableColumns)
+TEST_CLASS(testTableColumns, QCoreApplication)
 #include "testTableColumns.moc"

@@ -1,4 +1,5 @@
 #include "import/table/modTableValue.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -125,5 +126,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testTableValue)
+TEST_CLASS(testTableValue, QCoreApplication)
 #include "testTableValue.moc"

@@ -8,6 +8,7 @@
 #include "import/stage/cStatementImport.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -109,5 +110,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testTrace)
+TEST_CLASS(testTrace, QCoreApplication)
 #include "testTrace.moc"

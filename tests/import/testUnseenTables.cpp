@@ -3,6 +3,7 @@
 #include "import/read/cStatementSource.h"
 #include "import/table/cTable.h"
 #include "import/table/modTable.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -266,5 +267,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(testUnseenTables)
+TEST_CLASS(testUnseenTables, QCoreApplication)
 #include "testUnseenTables.moc"

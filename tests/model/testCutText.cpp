@@ -1,5 +1,6 @@
 #include "model/cImportEntry.h"
 #include "model/modCutText.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -92,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testCutText)
+TEST_CLASS(testCutText, QCoreApplication)
 #include "testCutText.moc"

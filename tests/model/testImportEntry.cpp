@@ -1,4 +1,5 @@
 #include "model/cImportEntry.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -49,5 +50,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testImportEntry)
+TEST_CLASS(testImportEntry, QCoreApplication)
 #include "testImportEntry.moc"

@@ -3,6 +3,7 @@
 #include "model/modFlags.h"
 #include "model/modPeriod.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -175,5 +176,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testRecords)
+TEST_CLASS(testRecords, QCoreApplication)
 #include "testRecords.moc"

@@ -2,6 +2,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -197,5 +198,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testRecurrence)
+TEST_CLASS(testRecurrence, QCoreApplication)
 #include "testRecurrence.moc"

@@ -2,6 +2,7 @@
 #include "model/modSeries.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 
 #include <QTest>
 
@@ -112,5 +113,5 @@ void testSeries::PartsThatMakeOneWhole()
     QVERIFY(!modSplit::IsWhole({part, other}));
 }
 
-QTEST_GUILESS_MAIN(testSeries)
+TEST_CLASS(testSeries, QCoreApplication)
 #include "testSeries.moc"

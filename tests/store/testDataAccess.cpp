@@ -2,6 +2,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/modSchema.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -373,5 +374,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testDataAccess)
+TEST_CLASS(testDataAccess, QCoreApplication)
 #include "testDataAccess.moc"

@@ -1,6 +1,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/modSchema.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -196,5 +197,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testEntryQuery)
+TEST_CLASS(testEntryQuery, QCoreApplication)
 #include "testEntryQuery.moc"

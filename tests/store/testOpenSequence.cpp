@@ -1,6 +1,7 @@
 #include "store/cDataAccess.h"
 #include "store/cOpenSequence.h"
 #include "store/modSchema.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -336,5 +337,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testOpenSequence)
+TEST_CLASS(testOpenSequence, QCoreApplication)
 #include "testOpenSequence.moc"

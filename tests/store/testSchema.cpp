@@ -1,5 +1,6 @@
 #include "store/cDataAccess.h"
 #include "store/modSchema.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -233,5 +234,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testSchema)
+TEST_CLASS(testSchema, QCoreApplication)
 #include "testSchema.moc"

@@ -2,6 +2,7 @@
 #include "model/modSettingKey.h"
 #include "store/cUndoStep.h"
 #include "store/modAccountColumns.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/bank/cBankAccess.h"
 
@@ -275,5 +276,5 @@ void testBankAccess::NumbersLeadToTheBook()
     QVERIFY(book.Data.FindAccount(u"Urlaubskasse"_s));
 }
 
-QTEST_GUILESS_MAIN(testBankAccess)
+TEST_CLASS(testBankAccess, QCoreApplication)
 #include "testBankAccess.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "views/bank/cBankDirectory.h"
 
@@ -191,5 +192,5 @@ void testBankDirectory::ShippedFileKnowsBanksByTheirUsualNames()
     QCOMPARE(answer.Banks.value(0).Url, url);
 }
 
-QTEST_GUILESS_MAIN(testBankDirectory)
+TEST_CLASS(testBankDirectory, QCoreApplication)
 #include "testBankDirectory.moc"

@@ -5,6 +5,7 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "support/bankMonth.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/bank/cBankFetch.h"
 #include "views/statement/cStatementFiles.h"
@@ -299,5 +300,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBankFetch)
+TEST_CLASS(testBankFetch, QCoreApplication)
 #include "testBankFetch.moc"

@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/bank/cApprovalWait.h"
 #include "views/bank/cBankLogView.h"
@@ -241,5 +242,5 @@ void testBankQuestions::LogThatCannotBeSentIsKept()
              u"Es wurde noch keine Nachricht gesendet."_s);
 }
 
-QTEST_APPLESS_MAIN(testBankQuestions)
+TEST_CLASS(testBankQuestions, QCoreApplication)
 #include "testBankQuestions.moc"

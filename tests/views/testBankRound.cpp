@@ -1,4 +1,5 @@
 #include "base/cProgress.h"
+#include "support/cTestClass.h"
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cBankFetch.h"
 #include "views/ledger/cStatementLedger.h"
@@ -166,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBankRound)
+TEST_CLASS(testBankRound, QCoreApplication)
 #include "testBankRound.moc"

@@ -1,5 +1,6 @@
 #include "fints/cBankLog.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
@@ -289,5 +290,5 @@ void testBankSetup::AnotherAddressIsShownAndNotUsed()
     QCOMPARE(scene.Setup.AddressNote(), QString());
 }
 
-QTEST_GUILESS_MAIN(testBankSetup)
+TEST_CLASS(testBankSetup, QCoreApplication)
 #include "testBankSetup.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/book/cBookCheck.h"
 #include "views/entry/cEntryEditor.h"
@@ -121,5 +122,5 @@ void testBookCheck::SaysWhatTheFileLacks()
     QCOMPARE(check.EntriesText(), u"Die Einträge konnten nicht gelesen werden."_s);
 }
 
-QTEST_GUILESS_MAIN(testBookCheck)
+TEST_CLASS(testBookCheck, QCoreApplication)
 #include "testBookCheck.moc"

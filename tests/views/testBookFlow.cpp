@@ -3,6 +3,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "views/book/cBookFlow.h"
@@ -303,5 +304,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testBookFlow)
+TEST_CLASS(testBookFlow, QCoreApplication)
 #include "testBookFlow.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/chart/cChartMaker.h"
@@ -235,5 +236,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testChartData)
+TEST_CLASS(testChartData, QCoreApplication)
 #include "testChartData.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "views/list/cListLayout.h"
 #include "views/list/modColumnWidth.h"
 
@@ -49,5 +50,5 @@ void testColumnWidth::StoredWidthsFollowTheTypeSize()
     QCOMPARE(old->ForLetter(8).Columns.front().Width, 60); // nobody knows what it was measured in
 }
 
-QTEST_GUILESS_MAIN(testColumnWidth)
+TEST_CLASS(testColumnWidth, QCoreApplication)
 #include "testColumnWidth.moc"

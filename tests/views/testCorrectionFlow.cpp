@@ -6,6 +6,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "model/modSettingKey.h"
 #include "store/cUndoStep.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cCorrectionFlow.h"
 
@@ -214,5 +215,5 @@ void testCorrectionFlow::PartsOfASplitSeriesMoveTogether() const
     QVERIFY(scene.Entries().startsWith(u"01-04 600, 01-04 50, 02-01"_s));
 }
 
-QTEST_GUILESS_MAIN(testCorrectionFlow)
+TEST_CLASS(testCorrectionFlow, QCoreApplication)
 #include "testCorrectionFlow.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 
@@ -176,5 +177,5 @@ void testEntryCategories::MakesACategoryThatIsMissing()
     QCOMPARE(book.User.Asked.size(), 1);
 }
 
-QTEST_GUILESS_MAIN(testEntryCategories)
+TEST_CLASS(testEntryCategories, QCoreApplication)
 #include "testEntryCategories.moc"

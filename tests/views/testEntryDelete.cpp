@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 
@@ -243,5 +244,5 @@ void testEntryDelete::EndedSeriesGivesBankRowsBack()
     QVERIFY(!rows.at(1).ImportAssigned);
 }
 
-QTEST_GUILESS_MAIN(testEntryDelete)
+TEST_CLASS(testEntryDelete, QCoreApplication)
 #include "testEntryDelete.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDrafts.h"
 #include "views/entry/cEntryEditor.h"
@@ -145,5 +146,5 @@ void testEntryDraft::AsksWhatToDo() const
     QCOMPARE(user.LastDecision.Default, 0); // Enter loses nothing
 }
 
-QTEST_GUILESS_MAIN(testEntryDraft)
+TEST_CLASS(testEntryDraft, QCoreApplication)
 #include "testEntryDraft.moc"

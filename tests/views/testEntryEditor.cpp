@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -479,5 +480,5 @@ void testEntryEditor::LabelNamesTheCurrency()
     QCOMPARE(editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
 }
 
-QTEST_GUILESS_MAIN(testEntryEditor)
+TEST_CLASS(testEntryEditor, QCoreApplication)
 #include "testEntryEditor.moc"

@@ -2,6 +2,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
 
@@ -344,5 +345,5 @@ void testEntryListModel::MovedOccurrences() const
     QVERIFY(!model.index(0, 0).data(cEntryListModel::CorrectedRole).toBool());
 }
 
-QTEST_GUILESS_MAIN(testEntryListModel)
+TEST_CLASS(testEntryListModel, QCoreApplication)
 #include "testEntryListModel.moc"

@@ -1,4 +1,5 @@
 #include "core/cErrorLog.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "views/help/cErrorLogView.h"
 #include "views/help/modBroken.h"
@@ -135,5 +136,5 @@ void testErrorLogView::PathsTellNobody()
     QCOMPARE(modDiagnosis::Shown(Path, u"/home/erika"_s, u"erika"_s), Shown);
 }
 
-QTEST_GUILESS_MAIN(testErrorLogView)
+TEST_CLASS(testErrorLogView, QCoreApplication)
 #include "testErrorLogView.moc"

@@ -2,6 +2,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modWord.h"
 #include "support/cNoRoom.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
@@ -512,5 +513,5 @@ void testExport::ViewInWords()
              u"Zeitraum: Buchungen bis heute (15.03.2026)"_s);
 }
 
-QTEST_GUILESS_MAIN(testExport)
+TEST_CLASS(testExport, QCoreApplication)
 #include "testExport.moc"

@@ -1,5 +1,6 @@
 #include "store/cDataAccess.h"
 #include "support/cNoRoom.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "views/list/modFileWrite.h"
@@ -122,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testFileWrite)
+TEST_CLASS(testFileWrite, QCoreApplication)
 #include "testFileWrite.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/chart/cForecast.h"
 #include "views/main/cAccountListModel.h"
@@ -200,5 +201,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testForecast)
+TEST_CLASS(testForecast, QCoreApplication)
 #include "testForecast.moc"

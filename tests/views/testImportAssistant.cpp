@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
@@ -410,5 +411,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testImportAssistant)
+TEST_CLASS(testImportAssistant, QCoreApplication)
 #include "testImportAssistant.moc"

@@ -2,6 +2,7 @@
 #include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
@@ -327,5 +328,5 @@ void testImportMatch::Releases() const
     QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
 }
 
-QTEST_GUILESS_MAIN(testImportMatch)
+TEST_CLASS(testImportMatch, QCoreApplication)
 #include "testImportMatch.moc"

@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
@@ -549,5 +550,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testImportReview)
+TEST_CLASS(testImportReview, QCoreApplication)
 #include "testImportReview.moc"

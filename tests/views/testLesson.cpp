@@ -4,6 +4,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cStaging.h"
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/statement/cLesson.h"
@@ -128,5 +129,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testLesson)
+TEST_CLASS(testLesson, QCoreApplication)
 #include "testLesson.moc"

@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -509,5 +510,5 @@ void testMainModel::OpenRowsCountForTheirAccount()
              1);
 }
 
-QTEST_GUILESS_MAIN(testMainModel)
+TEST_CLASS(testMainModel, QCoreApplication)
 #include "testMainModel.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "views/help/cManual.h"
 #include "views/help/cManualBrowser.h"
@@ -187,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(testManual)
+TEST_CLASS(testManual, QCoreApplication)
 #include "testManual.moc"

@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/book/cNationalSettings.h"
 
@@ -86,5 +87,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testNationalSettings)
+TEST_CLASS(testNationalSettings, QCoreApplication)
 #include "testNationalSettings.moc"

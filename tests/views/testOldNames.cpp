@@ -1,5 +1,6 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "views/template/cNameKeepers.h"
 
 #include <QSignalSpy>
@@ -134,5 +135,5 @@ void testOldNames::KeepsApartWhatCleaningMakesEqual()
     QVERIFY(scene.Book.Data.FindAccount(u"Omas Konto 2"_s));
 }
 
-QTEST_GUILESS_MAIN(testOldNames)
+TEST_CLASS(testOldNames, QCoreApplication)
 #include "testOldNames.moc"

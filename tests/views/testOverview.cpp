@@ -1,6 +1,7 @@
 #include "model/modBalance.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/overview/cOverviewModel.h"
@@ -279,5 +280,5 @@ void testOverview::FirstStepsStoreAllOrNothing()
     QVERIFY(!scene.Book.Data.FindAccount(u"Depot"_s));
 }
 
-QTEST_GUILESS_MAIN(testOverview)
+TEST_CLASS(testOverview, QCoreApplication)
 #include "testOverview.moc"

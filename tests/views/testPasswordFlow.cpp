@@ -1,5 +1,6 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/book/cPasswordFlow.h"
 
@@ -92,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testPasswordFlow)
+TEST_CLASS(testPasswordFlow, QCoreApplication)
 #include "testPasswordFlow.moc"

@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/ledger/cReconciledDays.h"
@@ -188,5 +189,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testReconciliation)
+TEST_CLASS(testReconciliation, QCoreApplication)
 #include "testReconciliation.moc"

@@ -2,6 +2,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/report/cReportExport.h"
@@ -501,5 +502,5 @@ void testReport::SavedByEnding()
     QVERIFY(!QFile::exists(folder.filePath(u"d.doc"_s)));
 }
 
-QTEST_GUILESS_MAIN(testReport)
+TEST_CLASS(testReport, QCoreApplication)
 #include "testReport.moc"

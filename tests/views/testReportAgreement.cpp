@@ -1,6 +1,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/chart/cChartMaker.h"
@@ -474,5 +475,5 @@ void testReportAgreement::CompareBalances()
     QCOMPARE(m_source->Figures(m_wish).Difference(), total);
 }
 
-QTEST_GUILESS_MAIN(testReportAgreement)
+TEST_CLASS(testReportAgreement, QCoreApplication)
 #include "testReportAgreement.moc"

@@ -2,6 +2,7 @@
 #include "core/cAmountFormat.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/modRuleText.h"
@@ -330,5 +331,5 @@ void testRuleListModel::Words() const
     QCOMPARE(modRuleText::Result(rule), u"Monatlich, „Essen“"_s);
 }
 
-QTEST_GUILESS_MAIN(testRuleListModel)
+TEST_CLASS(testRuleListModel, QCoreApplication)
 #include "testRuleListModel.moc"

@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/list/cSearchModel.h"
 
@@ -245,5 +246,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testSearch)
+TEST_CLASS(testSearch, QCoreApplication)
 #include "testSearch.moc"

@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
@@ -307,5 +308,5 @@ void testSeriesChange::FromHereTakesBankRowsAlong()
     QCOMPARE(rows.at(1).ImportAssignedEntry, editor.SavedId());
 }
 
-QTEST_GUILESS_MAIN(testSeriesChange)
+TEST_CLASS(testSeriesChange, QCoreApplication)
 #include "testSeriesChange.moc"

@@ -2,6 +2,7 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cSeriesCheck.h"
 
@@ -112,5 +113,5 @@ void testSeriesCheck::FindsWhatTheBankDoesNotPay() const
     }
 }
 
-QTEST_GUILESS_MAIN(testSeriesCheck)
+TEST_CLASS(testSeriesCheck, QCoreApplication)
 #include "testSeriesCheck.moc"

@@ -1,4 +1,5 @@
 #include "model/modSplit.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -275,5 +276,5 @@ void testSplitEntry::FailureLeavesNothingHalfStored()
     QCOMPARE(Rows(book).size(), 4);
 }
 
-QTEST_GUILESS_MAIN(testSplitEntry)
+TEST_CLASS(testSplitEntry, QCoreApplication)
 #include "testSplitEntry.moc"

@@ -1,6 +1,7 @@
 #include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "views/statement/cStagedListModel.h"
 
@@ -194,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStagedListModel)
+TEST_CLASS(testStagedListModel, QCoreApplication)
 #include "testStagedListModel.moc"

@@ -1,5 +1,6 @@
 #include "core/cSettings.h"
 #include "import/plan/modStagedTwins.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cImportRuns.h"
 
@@ -123,5 +124,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStagedTwins)
+TEST_CLASS(testStagedTwins, QCoreApplication)
 #include "testStagedTwins.moc"

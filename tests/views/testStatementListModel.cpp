@@ -1,6 +1,7 @@
 #include "import/read/cStatementRead.h"
 #include "import/stage/cBankBalances.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/ledger/cStatementListModel.h"
@@ -231,5 +232,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(testStatementListModel)
+TEST_CLASS(testStatementListModel, QCoreApplication)
 #include "testStatementListModel.moc"

@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -409,5 +410,5 @@ void testStatisticsModel::MainCategoryAndWhatIsBookedOnItDiffer()
     QCOMPARE(scene.Shown(), QStringList{u"Haushalt -3,00\u00a0€"_s});
 }
 
-QTEST_GUILESS_MAIN(testStatisticsModel)
+TEST_CLASS(testStatisticsModel, QCoreApplication)
 #include "testStatisticsModel.moc"

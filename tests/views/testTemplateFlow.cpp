@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/list/cListLayout.h"
 #include "views/template/cTemplateFlow.h"
@@ -161,5 +162,5 @@ void testTemplateFlow::ReadsOnlyWholeLayouts()
     }
 }
 
-QTEST_GUILESS_MAIN(testTemplateFlow)
+TEST_CLASS(testTemplateFlow, QCoreApplication)
 #include "testTemplateFlow.moc"

@@ -1,8 +1,10 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QVariantList>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -508,5 +510,5 @@ void testTemplateManager::KeepsTheLayout()
     QVERIFY(scene.Manager.AccountLayout().Open.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(testTemplateManager)
+TEST_CLASS(testTemplateManager, QCoreApplication)
 #include "testTemplateManager.moc"

@@ -1,6 +1,7 @@
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeHttps.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
@@ -8,6 +9,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QVariantList>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace modUpdateAnswer;
@@ -293,5 +295,5 @@ void testUpdateCheck::SaysWhoUpdatesOtherEditions() const
     }
 }
 
-QTEST_GUILESS_MAIN(testUpdateCheck)
+TEST_CLASS(testUpdateCheck, QCoreApplication)
 #include "testUpdateCheck.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "windows/chart/cChartAxis.h"
 #include "windows/chart/cChartBox.h"
 #include "windows/chart/cChartTable.h"
@@ -5,12 +6,14 @@
 #include "windows/chart/modChartColour.h"
 #include "windows/chart/modChartPainter.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QSignalSpy>
 #include <QSvgRenderer>
 #include <QTest>
 #include <QToolButton>
+#include <QVariantList>
 
 #include <array>
 #include <cmath>
@@ -285,5 +288,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testChartView)
+TEST_CLASS(testChartView, QApplication)
 #include "testChartView.moc"

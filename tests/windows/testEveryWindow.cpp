@@ -5,6 +5,7 @@
 #include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
 #include "support/cPseudoLanguage.h"
+#include "support/cTestClass.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
@@ -594,5 +595,5 @@ void testEveryWindow::FaultsAreFound()
     QVERIFY(modWindowTexts::IsUntranslated(pseudo + u" Saldo"_s, {u"Miete"_s}));
 }
 
-QTEST_MAIN(testEveryWindow)
+TEST_CLASS(testEveryWindow, QApplication)
 #include "testEveryWindow.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/windowFaults.h"
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cBankFetch.h"
@@ -6,6 +7,7 @@
 #include "windows/bank/cFetchTree.h"
 #include "windows/bank/frmAbruf.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -104,5 +106,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testFrmAbruf)
+TEST_CLASS(testFrmAbruf, QApplication)
 #include "testFrmAbruf.moc"

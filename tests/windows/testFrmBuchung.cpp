@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
@@ -568,5 +569,5 @@ void testFrmBuchung::StartBalance()
     QCOMPARE(scene.Entries().value(0).EntryValue, 125050);
 }
 
-QTEST_MAIN(testFrmBuchung)
+TEST_CLASS(testFrmBuchung, QApplication)
 #include "testFrmBuchung.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/fakes.h"
 #include "views/help/cManualBrowser.h"
 #include "windows/help/frmHandbuch.h"
@@ -176,5 +177,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testFrmHandbuch)
+TEST_CLASS(testFrmHandbuch, QApplication)
 #include "testFrmHandbuch.moc"

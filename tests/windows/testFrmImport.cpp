@@ -1,4 +1,5 @@
 #include "base/cProgress.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cImportReview.h"
 #include "windows/statement/cStagedTree.h"
@@ -6,6 +7,7 @@
 #include "windows/widget/cProgressBox.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QListWidget>
@@ -263,5 +265,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testFrmImport)
+TEST_CLASS(testFrmImport, QApplication)
 #include "testFrmImport.moc"

@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/template/cTemplateTree.h"
@@ -7,6 +8,7 @@
 #include "windows/widget/cElidedText.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -269,5 +271,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testFrmKategorie)
+TEST_CLASS(testFrmKategorie, QApplication)
 #include "testFrmKategorie.moc"

@@ -1,10 +1,12 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/book/cNationalSettings.h"
 #include "windows/book/frmLaender.h"
 #include "windows/widget/cDayEdit.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QTest>
@@ -92,5 +94,5 @@ void testFrmLaender::DayFieldsKeepTheirDay()
     QCOMPARE(edit.text(), u"03.04.2026"_s);
 }
 
-QTEST_MAIN(testFrmLaender)
+TEST_CLASS(testFrmLaender, QApplication)
 #include "testFrmLaender.moc"

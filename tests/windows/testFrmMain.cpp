@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "windows/main/cBackBar.h"
@@ -11,6 +12,7 @@
 #include "windows/widget/modPlace.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -343,5 +345,5 @@ void testFrmMain::PlaceIsInReach()
     QCOMPARE(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), Shown);
 }
 
-QTEST_MAIN(testFrmMain)
+TEST_CLASS(testFrmMain, QApplication)
 #include "testFrmMain.moc"

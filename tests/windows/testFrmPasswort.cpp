@@ -1,4 +1,5 @@
 #include "core/modPassword.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "windows/book/frmPasswort.h"
@@ -172,5 +173,5 @@ void testFrmPasswort::WrongOldPasswordWaits()
     QVERIFY(Button(window, u"Passwort ändern"_s)->isEnabled());
 }
 
-QTEST_MAIN(testFrmPasswort)
+TEST_CLASS(testFrmPasswort, QApplication)
 #include "testFrmPasswort.moc"

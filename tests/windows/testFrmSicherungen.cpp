@@ -1,12 +1,14 @@
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 #include "support/windowFaults.h"
 #include "views/book/cBackupSettings.h"
 #include "windows/book/frmSicherungen.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
@@ -93,5 +95,5 @@ void testFrmSicherungen::UnusableFolderIsRefused()
     QCOMPARE(machine.Plan.Folder(), machine.Plan.DefaultFolder());
 }
 
-QTEST_MAIN(testFrmSicherungen)
+TEST_CLASS(testFrmSicherungen, QApplication)
 #include "testFrmSicherungen.moc"

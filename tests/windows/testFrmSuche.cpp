@@ -1,4 +1,5 @@
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/list/cSearchModel.h"
@@ -6,6 +7,7 @@
 #include "windows/main/frmSuche.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -150,5 +152,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(testFrmSuche)
+TEST_CLASS(testFrmSuche, QApplication)
 #include "testFrmSuche.moc"

@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/bank/cApprovalWait.h"
@@ -326,5 +327,5 @@ void testFrmTan::LogIsShownAndSaved()
     QVERIFY(!Button(empty, u"Speichern…"_s)->isEnabled());
 }
 
-QTEST_MAIN(testFrmTan)
+TEST_CLASS(testFrmTan, QApplication)
 #include "testFrmTan.moc"

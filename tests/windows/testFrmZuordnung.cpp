@@ -1,6 +1,7 @@
 #include "base/modAmount.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
+#include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
@@ -179,5 +180,5 @@ void testFrmZuordnung::NothingWithoutASelection() const
     }
 }
 
-QTEST_MAIN(testFrmZuordnung)
+TEST_CLASS(testFrmZuordnung, QApplication)
 #include "testFrmZuordnung.moc"

@@ -1,12 +1,15 @@
 #include "model/modWord.h"
+#include "support/cTestClass.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
 #include "windows/print/cListPrinter.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPdfWriter>
 #include <QTest>
 
@@ -323,5 +326,5 @@ void testListPrinter::PdfHasTheSamePages()
     QVERIFY(qAbs(count - static_cast<int>(Print(portrait).size())) <= 1); // the same pages on every device
 }
 
-QTEST_MAIN(testListPrinter)
+TEST_CLASS(testListPrinter, QApplication)
 #include "testListPrinter.moc"

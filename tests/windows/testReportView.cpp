@@ -1,3 +1,4 @@
+#include "support/cTestClass.h"
 #include "support/testFormat.h"
 #include "views/report/cReportTreeModel.h"
 #include "views/report/modReportHtml.h"
@@ -370,5 +371,5 @@ void testReportView::TreeStaysAsItWas()
     QVERIFY(!tree.isExpanded(at(u"Wohnung"_s)));
 }
 
-QTEST_MAIN(testReportView)
+TEST_CLASS(testReportView, QApplication)
 #include "testReportView.moc"

@@ -7,6 +7,7 @@ class cBankFetch;
 class cDayEdit;
 class cFetchTree;
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;

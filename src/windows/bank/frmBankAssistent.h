@@ -8,6 +8,7 @@
 
 class cBankPage;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QStackedWidget;
 

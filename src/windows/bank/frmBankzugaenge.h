@@ -4,6 +4,7 @@
 
 class cBankListModel;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QTreeView;
 

@@ -4,6 +4,7 @@
 
 class cBookCheck;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QTreeView;
 

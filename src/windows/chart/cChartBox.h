@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QLayout;
 class QPushButton;
 class QStackedWidget;
 class QToolButton;

@@ -11,6 +11,7 @@
 class cAmountEdit;
 class cDayEdit;
 class QLabel;
+class QLayout;
 class QLineEdit;
 
 // The small form for another amount or another day in one period of a recurring entry.

@@ -5,6 +5,7 @@
 class cErrorLogView;
 class cLogTree;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;

@@ -8,6 +8,7 @@
 #include <array>
 
 class cColumnFit;
+class QPainter;
 
 // The entry list on screen: columns that can be chosen, moved and remembered, a selection that survives a rebuild, and
 // a text where there is nothing to show.

@@ -14,6 +14,7 @@
 class cStatementListModel;
 class cEntryListModel;
 class cMainModel;
+class QModelIndex;
 
 // A list on paper: title and view at the top, column heads on every page, groups with their sums, and the sums
 // of the list at the end. Black on white, whatever the program looks like. Takes its texts out of the model at once.

@@ -9,6 +9,7 @@
 #include <utility>
 
 class cReportDocument;
+class QPainter;
 
 // Shows a report. Links are not followed: each click comes out as a signal once the event that it came from is over.
 // Text can be selected, copied and searched, the page magnified, and every link reached with the tabulator key.

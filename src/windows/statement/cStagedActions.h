@@ -10,6 +10,8 @@ class cImportReview;
 class cStagedTree;
 class QAction;
 class QMenu;
+class QModelIndex;
+class QPoint;
 class QWidget;
 
 // What can be done with the selected bank transactions, as actions for buttons, menus and keys.

@@ -7,6 +7,7 @@
 
 class cColumnFit;
 class cStagedListModel;
+class QPainter;
 
 // The list of bank transactions: keys, columns, groups and the text of its empty state.
 class cStagedTree final : public QTreeView

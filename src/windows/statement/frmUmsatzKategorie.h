@@ -6,6 +6,7 @@
 class cCategoryBox;
 class cImportReview;
 class QComboBox;
+class QLineEdit;
 
 // One category and interval for several bank transactions.
 class frmUmsatzKategorie final : public QDialog

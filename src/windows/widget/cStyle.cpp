@@ -2,6 +2,11 @@
 
 #include "windows/widget/modIcon.h"
 
+#include <QPainter>
+#include <QStyleHintReturn>
+#include <QStyleOption>
+#include <QWidget>
+
 using namespace Qt::Literals::StringLiterals;
 
 int cStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* more) const
