@@ -39,6 +39,10 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &BackupFailed,
                                      &OwnRules,
                                      &Corrected,
+                                     &People,
+                                     &ReceiptsInBackup,
+                                     &RemindByDesktop,
+                                     &SavedViews,
                                      &GameScores,
                                      &ImportRuns,
                                      &BankProduct,
@@ -83,10 +87,11 @@ std::span<const cSettingKey* const> modSettingKey::All()
 
 std::span<const cSettingFamily* const> modSettingKey::Families()
 {
-    static constexpr std::array families{&DialogFolder,  &BankNumber, &BankCode,    &BankBalances,   &EqualLeftOut,
-                                         &Reconciled,    &Fetched,    &TableMap,    &TableAccounts,  &TableCharset,
-                                         &TableBankCode, &OnlineBank, &PanePeriod,  &PaneFirstMonth, &PaneLastMonth,
-                                         &PaneYear,      &PaneChart,  &PaneCompare, &PaneForecast,   &PaneAverage};
+    static constexpr std::array families{&DialogFolder, &Budget,      &CategoryColor,  &CategoryIcon,  &AccountShares,
+                                         &BankNumber,   &BankCode,    &BankBalances,   &EqualLeftOut,  &Reconciled,
+                                         &Fetched,      &TableMap,    &TableAccounts,  &TableCharset,  &TableBankCode,
+                                         &OnlineBank,   &PanePeriod,  &PaneFirstMonth, &PaneLastMonth, &PaneYear,
+                                         &PaneChart,    &PaneCompare, &PaneForecast,   &PaneAverage};
     return families;
 }
 

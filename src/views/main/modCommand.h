@@ -58,6 +58,19 @@ enum eId : int {
     AppearanceDark = 513,
     ErrorLog = 514,
     Feedback = 515,
+    Budget = 520,
+    AddReceipt = 521,
+    ShowReceipts = 522,
+    CopyRows = 523,
+    DuplicateToday = 524,
+    DuplicateNextMonth = 525,
+    ChangeMany = 526,
+    SaveView = 527,
+    SavedViews = 528,
+    GoToDay = 529,
+    People = 530,
+    Settlement = 531,
+    Reminders = 532,
 };
 
 enum eTrait : int {
