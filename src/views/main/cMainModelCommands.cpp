@@ -69,6 +69,19 @@ bool cMainModel::Execute(int command)
     case modCommand::BankLogins:
     case modCommand::FetchTransactions:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
+    case Budget:
+    case AddReceipt:
+    case ShowReceipts:
+    case CopyRows:
+    case DuplicateToday:
+    case DuplicateNextMonth:
+    case ChangeMany:
+    case SaveView:
+    case SavedViews:
+    case GoToDay:
+    case People:
+    case Settlement:
+    case Reminders: return false; // no row in the table yet
     }
     return true;
 }
