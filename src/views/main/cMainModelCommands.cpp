@@ -69,19 +69,19 @@ bool cMainModel::Execute(int command)
     case modCommand::BankLogins:
     case modCommand::FetchTransactions:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
-    case Budget:
-    case AddReceipt:
-    case ShowReceipts:
-    case CopyRows:
-    case DuplicateToday:
-    case DuplicateNextMonth:
-    case ChangeMany:
-    case SaveView:
-    case SavedViews:
-    case GoToDay:
-    case People:
-    case Settlement:
-    case Reminders: return false; // no row in the table yet
+    case modCommand::Budget:
+    case modCommand::AddReceipt:
+    case modCommand::ShowReceipts:
+    case modCommand::CopyRows:
+    case modCommand::DuplicateToday:
+    case modCommand::DuplicateNextMonth:
+    case modCommand::ChangeMany:
+    case modCommand::SaveView:
+    case modCommand::SavedViews:
+    case modCommand::GoToDay:
+    case modCommand::People:
+    case modCommand::Settlement:
+    case modCommand::Reminders: return false; // no row in the table yet
     }
     return true;
 }
