@@ -7,7 +7,10 @@ preset=$1
 shift
 if [ ! -f "build/$preset/build.ninja" ]; then
   echo "build: configuring $preset"
-  cmake --preset "$preset"
+  cmake --preset "$preset" -DAPP_UNITY=ON
+elif grep -q '^APP_UNITY:BOOL=ON' "build/$preset/CMakeCache.txt" &&
+     [ -n "$(find src tests tools -name '*.cpp' -newer "build/$preset/build.ninja" -print -quit)" ]; then
+  cmake "build/$preset" >/dev/null   # which units stand together follows from what they name for themselves
 fi
 echo "build: building $preset ${*:-(everything)}"
 if [ $# -gt 0 ]; then

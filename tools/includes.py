@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Says which files use a class of the toolkit or of the standard library that neither they nor what they include asks for.
+"""Says which files use a class of the project, the toolkit or the standard library that neither they nor what they include asks for.
 
-The toolkit's headers are precompiled, so the compiler finds every class wherever it is used; another compiler, or a build without
-them, would not. Reads text only: strings and comments are left out, conditions of the preprocessor are taken as true.
+The toolkit's headers are precompiled and units are compiled together, so the compiler finds every class wherever it is used; another
+compiler, or a build that does neither, would not. Reads text only: strings and comments are left out, conditions of the preprocessor
+are taken as true.
 """
 import functools
 import pathlib
@@ -14,6 +15,7 @@ FOLDERS = ('src', 'tests', 'tools', 'fuzz', 'bench')
 TOOLKIT = next((path for path in map(pathlib.Path, ('/usr/include/x86_64-linux-gnu/qt6', '/usr/include/aarch64-linux-gnu/qt6',
                                                     '/usr/include/qt6')) if path.is_dir()), None)
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
+DECLARED = re.compile(r'^\s*(?:class|struct|enum|enum class|namespace|using) (\w+)', re.M)
 STRIP = re.compile(r'R"(\w*)\((?:.|\n)*?\)\1"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])\'|//[^\n]*|/\*(?:.|\n)*?\*/')
 STANDARD = {
     'algorithm': 'sort stable_sort find find_if any_of all_of none_of count_if transform clamp min max minmax lower_bound upper_bound '
@@ -63,7 +65,7 @@ def toolkit_reach(name):
 
 
 def own_file(name, includer):
-    for base in (ROOT / 'src', ROOT / 'tests', includer.parent):
+    for base in (ROOT / 'src', ROOT / 'src' / 'app', ROOT / 'tests', ROOT, includer.parent):
         if (base / name).is_file():
             return (base / name).resolve()
     return None
@@ -81,14 +83,14 @@ def code_of(path):
 
 
 def what_is_known(path):
-    """Headers reached and names declared by a file and the files of the project that it includes."""
+    """Headers reached, names declared and files of the project that a file includes, by itself or through another of them."""
     headers, declared, seen, open_ = set(), set(), set(), [path]
     while open_:
         here = open_.pop()
         if here in seen:
             continue
         seen.add(here)
-        declared.update(re.findall(r'^\s*(?:class|struct) (Q\w+);', code_of(here), re.M))
+        declared.update(DECLARED.findall(code_of(here)))
         for kind, name in INCLUDE.findall(text_of(here)):
             own = own_file(name, here) if kind == '"' else None
             if own is not None:
@@ -97,12 +99,15 @@ def what_is_known(path):
                 headers |= toolkit_reach(name)
     for header in list(headers):
         headers |= WITH.get(header, set())
-    return headers, declared
+    return headers, declared, seen
 
 
 def missing(path):
-    headers, declared = what_is_known(path)
+    headers, declared, seen = what_is_known(path)
     code = code_of(path)
+    for name in sorted(set(re.findall(r'(?<![\w.>])((?:c|e|frm|mod)[A-Z]\w*)\b', code))):
+        if name in OWN and name not in declared and not OWN[name] & seen:
+            yield name
     for name in sorted(set(re.findall(r'\bQ[A-Z][A-Za-z]+\b', code))):
         header = lower_header(name)
         if header and header not in headers and name not in declared:
@@ -117,6 +122,10 @@ if TOOLKIT is None:
     print('includes: the headers of the toolkit are not installed, nothing was looked at')
     sys.exit(0)
 MODULES = sorted(folder for folder in TOOLKIT.iterdir() if folder.is_dir() and folder.name.startswith('Qt'))
+OWN = {}  # the headers of the project by the name of what they declare
+for folder in ('src', 'tests'):
+    for path in (ROOT / folder).rglob('*.h'):
+        OWN.setdefault(path.stem, set()).add(path)
 found = 0
 files = [path for folder in FOLDERS for suffix in ('*.h', '*.cpp') for path in sorted((ROOT / folder).rglob(suffix))]
 for file in files:

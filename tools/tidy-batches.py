@@ -12,56 +12,11 @@ import re
 import shlex
 import sys
 
+from unit_names import own_names, public_types
+
 MOST = 25  # units of a batch; more only cost memory
 
-TYPE = re.compile(r'^(?:template <.*> *)?(?:enum |static )*(?:class|struct|enum|namespace) (\w+)')
-OTHER = re.compile(r'^(?:[\w:<>,&*\[\] ]*?[ &*>])?(\w+)(?:\(|\{| =|;|$)')
-
-
-def own_names(path):
-    """What a unit names for itself: in unnamed namespaces, as a macro, and the types of a test."""
-    names = set()
-    inside = False
-    enumerating = False
-    with open(path, encoding='utf-8') as file:
-        for line in file:
-            line = line.rstrip('\n')
-            if found := re.match(r'^using (?:\w+::)+(\w+);', line):
-                names.add(found.group(1))
-            # The values of a plain enumeration stand beside everything else.
-            if inside and (found := re.match(r'^enum \w+ *(?:: *\w+ *)?\{(.*)', line)):
-                enumerating = True
-                line = found.group(1)
-            if enumerating:
-                names.update(re.findall(r'[A-Za-z]\w*', line.split('//')[0]))
-                enumerating = '}' not in line
-                continue
-            if line == 'namespace {':
-                inside = True
-            elif line.startswith('} // namespace'):
-                inside = False
-            elif line.startswith('int main('):
-                names.add('main')
-            elif line.startswith('#define '):
-                names.add(re.split(r'[\s(]', line[len('#define '):])[0])
-            elif found := TYPE.match(line):
-                if not line.endswith(';'):
-                    names.add(found.group(1))
-            elif inside and line and (line[0].isalpha()) and not line.endswith(':'):
-                found = OTHER.match(line)
-                names.add(found.group(1) if found else line)
-    return names
-
-
-def public_types():
-    """Types that headers of the program declare for everybody."""
-    names = set()
-    for folder, _, files in os.walk('src'):
-        for name in files:
-            if name.endswith('.h'):
-                with open(os.path.join(folder, name), encoding='utf-8') as file:
-                    names.update(found.group(1) for line in file if (found := TYPE.match(line)))
-    return names
+INCLUDED = re.compile(r'^#include "(.+)"$', re.M)
 
 
 def options_of(command):
@@ -81,14 +36,28 @@ def options_of(command):
     return kept
 
 
+def commands_of(path):
+    """The command of each unit; of units that are compiled together that of the file which includes them."""
+    commands = {}
+    with open(path, encoding='utf-8') as file:
+        for command in json.load(file):
+            commands[command['file']] = command
+            if '/unity_' in command['file']:
+                with open(command['file'], encoding='utf-8') as together:
+                    commands.update((unit, command) for unit in INCLUDED.findall(together.read()))
+    return commands
+
+
 def main():
     commands_path, folder, units = sys.argv[1], sys.argv[2], sys.argv[3:]
-    with open(commands_path, encoding='utf-8') as file:
-        commands = {command['file']: command for command in json.load(file)}
+    commands = commands_of(commands_path)
+    # Only what the preset builds has a command to be read with.
+    known = [unit for unit in map(os.path.abspath, units) if unit in commands]
+    print(f'tidy: {len(known)} of {len(units)} units', file=sys.stderr)
     os.makedirs(folder, exist_ok=True)
     public = public_types()
     batches = []  # options, units, names, folders of the meta-object compiler
-    for unit in sorted(os.path.abspath(unit) for unit in units):
+    for unit in sorted(known):
         options = options_of(commands[unit])
         mocs = [option for option in options if option.startswith('-I') and option.endswith('_autogen/include')]
         options = [option for option in options if option not in mocs]

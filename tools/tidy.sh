@@ -40,14 +40,11 @@ if [ ! -f build/dev/compile_commands.json ]; then
   exit 1
 fi
 mkdir -p build/tidy
-# Only what the preset builds has a command to be read with.
-mapfile -t known < <(for unit in "${units[@]}"; do grep -qF "\"$PWD/$unit\"" build/dev/compile_commands.json && echo "$unit"; done || true)
-echo "tidy: ${#known[@]} of ${#units[@]} units"
-[ ${#known[@]} -gt 0 ] || exit 0
 
 # Reading the toolkit's headers takes nearly all of the time, so units are read many at a time. A batch names files that end
 # in .cpp in its includes; that and what follows from it is no finding.
-mapfile -t batches < <(tools/tidy-batches.py build/dev/compile_commands.json build/tidy "${known[@]}")
+mapfile -t batches < <(tools/tidy-batches.py build/dev/compile_commands.json build/tidy "${units[@]}")
+[ ${#batches[@]} -gt 0 ] || exit 0
 options=(-p build/tidy --quiet --header-filter='(/include-roots/.+\.h|/(src|tests|tools|fuzz|bench)/.+\.(cpp|h))$'
   --checks=-bugprone-suspicious-include,-google-global-names-in-headers --extra-arg=-Wno-unknown-warning-option --extra-arg=-Wno-shadow)
 if ! printf '%s\0' "${batches[@]}" | xargs -0 -n1 -P"${TIDY_JOBS:-$(nproc)}" clang-tidy "${options[@]}" > build/tidy/log 2>/dev/null; then

@@ -131,7 +131,7 @@ void testOverview::ShowsAMonth()
 void testOverview::AgreesWithListAndBalances()
 {
     QRandomGenerator random(20260315);
-    for (int book = 0; book < 20; ++book) {
+    for (int book = 0; book < 100; ++book) {
         cScene scene;
         for (int i = 0; i < 40; ++i) {
             scene.AddRandom(random);
