@@ -59,7 +59,7 @@ private Q_SLOTS:
     void ProposesWhatSpeaksForOne_data()
     {
         QTest::addColumn<QString>("number");
-        QTest::addColumn<QString>("rows"); // "day amount name", all of March 2026
+        QTest::addColumn<QString>("rows"); // "day amount name purpose", all of March 2026
         QTest::addColumn<QString>("balance");
         QTest::addColumn<QString>("account");
         const QString iban = u"DE02100200300001234567"_s;
@@ -68,6 +68,12 @@ private Q_SLOTS:
         QTest::newRow("entries made by hand") << iban << u"9 -1000 A;13 -2000 A"_s << QString() << u"Sparkonto"_s;
         QTest::newRow("one equal amount is chance") << iban << u"9 -1000 A"_s << QString() << QString();
         QTest::newRow("balance") << iban << u"20 -1 A"_s << u"2026-03-15=-3000"_s << u"Sparkonto"_s;
+        QTest::newRow("start balance of a later day")
+            << iban << u"20 -1 A"_s << u"2026-03-15=70000"_s << u"Girokonto"_s;
+        QTest::newRow("many purposes") << iban << u"3 -500  Miete;4 -600  Strom;5 -700  Einkauf;6 900  Lohn"_s
+                                       << QString() << u"Girokonto"_s;
+        QTest::newRow("one purpose of many months")
+            << iban << u"3 5  Zins1;4 6  Zins2;5 7  Zins3;6 9  Zins4"_s << QString() << QString();
         QTest::newRow("a card is no current account")
             << u"4711XXXXXXXX1234"_s << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << QString();
     }
@@ -84,6 +90,7 @@ private Q_SLOTS:
                 entry.EntryValue = (day - 9) / 2 * 1000 + 1000;
             });
         }
+        QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 70000, QDate(2026, 3, 31)));
         for (const QString& text : rows.split(u';')) {
             const QStringList parts = text.split(u' ');
             cImportEntry row;
@@ -91,6 +98,7 @@ private Q_SLOTS:
             row.ImportDate = QDate(2026, 3, parts.at(0).toInt());
             row.ImportValue = parts.at(1).toInt();
             row.ImportBeneficiary = parts.at(2);
+            row.ImportPurpose = parts.value(3);
             QVERIFY(book.Hive.Add(row));
         }
         QFETCH(const QString, balance);

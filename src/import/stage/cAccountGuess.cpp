@@ -49,7 +49,8 @@ bool IsCard(const QString& number)
     return compact.size() == cardDigits && std::all_of(compact.begin(), compact.end(), isDigit);
 }
 
-// Many different people are paid from a current account only.
+// Many different people are paid from a current account only. Formats without names leave the purposes to tell them
+// apart, where the same one of another month counts once.
 eKind KindOfRows(const QString& number, const cImportEntryList& rows)
 {
     constexpr qsizetype many = 4;
@@ -58,7 +59,8 @@ eKind KindOfRows(const QString& number, const cImportEntryList& rows)
     }
     QSet<QString> names;
     for (const cImportEntry& row : rows) {
-        names.insert(row.ImportBeneficiary);
+        QString name = row.ImportBeneficiary.isEmpty() ? row.ImportPurpose : row.ImportBeneficiary;
+        names.insert(name.removeIf([](QChar c) { return c.isDigit(); }));
     }
     return names.size() >= many ? eKind::Giro : eKind::Unknown;
 }
@@ -115,7 +117,8 @@ int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, c
     return kind == eKind::Cash || (isOther && weight < 6) ? 0 : weight;
 }
 
-// What the book's account holds on the day of one of the bank's balances.
+// What the book's account holds on the day of one of the bank's balances. Who begins a book says what an account holds
+// today and reads older statements then: a later start balance stands for what was before.
 bool cAccountGuess::HoldsSame(const QString& account, const QString& number) const
 {
     const cBankBalanceList balances = cBankBalances::Of(m_settings, number);
@@ -125,8 +128,10 @@ bool cAccountGuess::HoldsSame(const QString& account, const QString& number) con
     QHash<QDate, qint64> changes;
     const cEntryItemList entries =
         m_data.GetEntries({{}, balances.constLast().Day, {}, account, {}, eBookingKind::All});
+    const std::optional<cEntryItem> start = m_data.GetStartGuthaben(account);
     return std::any_of(balances.begin(), balances.end(), [&](const cBankBalance& balance) {
-        qint64 cents = 0;
+        const bool isLater = start && start->EntryDate > balance.Day;
+        qint64 cents = isLater ? modBalance::Effect(*start, account) : 0;
         for (const cEntryItem& entry : entries) {
             cents += entry.EntryDate <= balance.Day ? modBalance::Effect(entry, account) : 0;
         }
