@@ -1,6 +1,7 @@
 #include "app/cNavigation.h"
 
 #include "app/cBankWindows.h"
+#include "app/cSheetWindows.h"
 #include "app/cUpdateWindows.h"
 #include "app/modBuild.h"
 #include "base/cClock.h"
@@ -78,6 +79,7 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     m_model = &model;
     m_review = &review;
     m_window = &window;
+    m_sheets = std::make_unique<cSheetWindows>(m_parts.Tools, model, window);
     // Queued, because what can be taken back is known only when the review has finished its step.
     QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged, Qt::QueuedConnection);
     QObject::connect(&review, &cImportReview::RowsChanged, &model, &cMainModel::StagedRowsChanged,
@@ -342,6 +344,7 @@ void cNavigation::OpenSearch()
         QObject::connect(m_search, &frmSuche::DeleteRequested, m_model, &cMainModel::Delete);
         QObject::connect(m_search, &frmSuche::UndoRequested, m_model, [this] { m_model->Execute(modCommand::Undo); });
         QObject::connect(m_search, &frmSuche::RedoRequested, m_model, [this] { m_model->Execute(modCommand::Redo); });
+        m_sheets->Connect(*m_search);
         QObject::connect(m_model, &cMainModel::BookRefreshed, m_search, &frmSuche::Refresh);
         QObject::connect(m_model, &cMainModel::LayoutReset, m_search, &frmSuche::ResetLayout);
     }
@@ -545,6 +548,11 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::Rules: OpenRules(); break;
     case modCommand::FetchTransactions: OpenFetch(); break;
     case modCommand::BankLogins: Banks().OpenLogins(Parent()); break;
+    case modCommand::CopyRows:
+    case modCommand::GoToDay:
+    case modCommand::ChangeMany:
+    case modCommand::SaveView:
+    case modCommand::SavedViews: m_sheets->Carry(command, Parent()); break;
     default: break; // done by the model itself
     }
 }

@@ -26,6 +26,7 @@ class cOverviewModel;
 class cPasswordFlow;
 class cRescue;
 class cSearchModel;
+class cSheetWindows;
 class cShell;
 class cStatementListModel;
 class cStatisticsModel;
@@ -123,6 +124,7 @@ private:
     std::unique_ptr<cOverviewModel> m_overview; // these two from the first look on
     std::unique_ptr<cStatisticsModel> m_statistics;
     frmStatistik* m_statisticsPage = nullptr;
+    std::unique_ptr<cSheetWindows> m_sheets;
     std::unique_ptr<cBankWindows> m_banks;       // from the first one on
     std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on

@@ -23,6 +23,7 @@ constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmKorrektur", "05-serien.html#korrekturen"},
     {"frmLaender", "11-buch.html#sprache-zahlen-währung"},
     {"frmMain", "01-start.html#das-fenster"},
+    {"frmMehrere", "03-eintraege.html#mehrere-auf-einmal-ändern"},
     {"frmPasswort", "11-buch.html#passwort"},
     {"frmPin", "16-online-banking.html#pin"},
     {"frmProtokoll", "16-online-banking.html#protokoll"},

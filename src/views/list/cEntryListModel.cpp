@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
@@ -224,20 +225,42 @@ QModelIndexList cEntryListModel::IndexesOf(const QList<cKey>& keys) const
     for (const cKey& key : keys) {
         wanted.insert(key.ID, key.Day);
     }
-    std::size_t group = 0;
     for (std::size_t i = 0; i < m_order.size(); ++i) {
-        while (group + 1 < m_groups.size() && m_groups[group + 1].First <= static_cast<int>(i)) {
-            ++group;
-        }
         const cEntryItem& entry = m_content.Entries.at(m_order[i]);
         if (wanted.contains(entry.ID, entry.Planned())) {
-            const bool isInGroup = !m_groups.empty();
-            const int first = isInGroup ? m_groups[group].First : 0;
-            found.append(
-                index(static_cast<int>(i) - first, 0, isInGroup ? index(static_cast<int>(group), 0) : QModelIndex()));
+            found.append(IndexAt(i));
         }
     }
     return found;
+}
+
+QModelIndex cEntryListModel::IndexAt(std::size_t position) const
+{
+    const int row = static_cast<int>(position);
+    if (m_groups.empty()) {
+        return index(row, 0);
+    }
+    const auto after = std::upper_bound(m_groups.begin(), m_groups.end(), row,
+                                        [](int at, const cGroup& group) { return at < group.First; });
+    const int group = static_cast<int>(after - m_groups.begin()) - 1;
+    return index(row - m_groups[At(group)].First, 0, index(group, 0));
+}
+
+QModelIndex cEntryListModel::IndexNearest(QDate day) const
+{
+    const auto distance = [&](int entry) {
+        return std::abs(m_content.Entries.at(entry).EntryDate.toJulianDay() - day.toJulianDay());
+    };
+    const auto found =
+        std::min_element(m_order.begin(), m_order.end(), [&](int a, int b) { return distance(a) < distance(b); });
+    return found == m_order.end() ? QModelIndex() : IndexAt(static_cast<std::size_t>(found - m_order.begin()));
+}
+
+Qt::ItemFlags cEntryListModel::flags(const QModelIndex& index) const
+{
+    const bool isEditable = EntryIndex(index) >= 0
+        && (index.column() == Category || index.column() == Description || index.column() == Amount);
+    return QAbstractItemModel::flags(index) | (isEditable ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 
 QModelIndex cEntryListModel::IndexNear(QDate day) const

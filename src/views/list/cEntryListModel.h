@@ -69,6 +69,9 @@ public:
     // The first row on or after the day while sorted by date upwards (the first on or before it while downwards);
     // invalid when the list is sorted otherwise or ends before.
     [[nodiscard]] QModelIndex IndexNear(QDate day) const;
+    // The shown entry whose day is nearest, the first of several; in whatever order and groups. Invalid without
+    // entries.
+    [[nodiscard]] QModelIndex IndexNearest(QDate day) const;
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
     [[nodiscard]] const QString& Grouping() const { return m_grouping; }            // as it was set
     [[nodiscard]] const QString& ShownAccount() const { return m_content.Account; } // empty: all accounts
@@ -79,6 +82,7 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     void sort(int column, Qt::SortOrder order) override;
 
@@ -98,6 +102,7 @@ private:
     void RunBalances();
     [[nodiscard]] std::vector<qint64> SortKeys() const;
     [[nodiscard]] qint64 Effect(int entry) const;
+    [[nodiscard]] QModelIndex IndexAt(std::size_t position) const;          // of m_order
     [[nodiscard]] int EntryIndex(const QModelIndex& index) const;           // -1 for the head of a group
     [[nodiscard]] std::optional<qint64> Cents(int entry, int column) const; // empty where none is shown
     [[nodiscard]] QString Text(int entry, int column) const;

@@ -11,6 +11,7 @@
 #include "store/cDataAccess.h"
 #include "views/list/modBookNames.h"
 #include "views/list/modUnread.h"
+#include "views/sheet/cCellEdit.h"
 
 #include <cstdlib>
 #include <utility>
@@ -62,7 +63,8 @@ cSearchModel::cSearchModel(const cBookTools& tools, QObject* parent)
     : QObject(parent),
       m_tools(tools),
       m_search(tools),
-      m_entries(tools.Format)
+      m_entries(tools.Format),
+      m_cells(std::make_unique<cCellEdit>(tools))
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(typingPause);

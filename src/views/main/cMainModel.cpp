@@ -18,6 +18,7 @@
 #include "views/ledger/cReconciledDays.h"
 #include "views/list/modSetting.h"
 #include "views/list/modUnread.h"
+#include "views/main/cSavedViews.h"
 #include "views/main/modViewText.h"
 #include "views/template/cTemplateFlow.h"
 
@@ -51,7 +52,8 @@ cMainModel::cMainModel(const cBookTools& tools, const cParts& parts, QObject* pa
       m_parts(parts),
       m_entries(tools.Format),
       m_accounts(tools.Format),
-      m_limits(tools, m_accounts)
+      m_limits(tools, m_accounts),
+      m_cells(tools)
 {
     tmrRefreshList.setSingleShot(true);
     tmrRefreshAccounts.setSingleShot(true);
@@ -368,6 +370,7 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
     for (QString* account : {&m_view.Account, &m_detour.Own(m_view).Account}) {
         *account = *account == oldName ? newName : *account;
     }
+    cSavedViews(m_tools).AccountRenamed(oldName, newName);
     if (m_tools.Settings.Get(modSettingKey::StatisticsAccount) == oldName) {
         m_tools.Settings.Set(modSettingKey::StatisticsAccount, newName);
     }

@@ -9,6 +9,8 @@
 #include "views/main/cViewState.h"
 #include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
+#include "views/sheet/cCellEdit.h"
+#include "views/sheet/cEntryDuplicate.h"
 
 #include <QObject>
 #include <QString>
@@ -94,6 +96,18 @@ public:
 
     // The selected occurrences, given by the list.
     void SetSelection(const QList<cEntryListModel::cKey>& selection);
+    [[nodiscard]] const QList<cEntryListModel::cKey>& Selection() const { return m_selection; }
+
+    // Copies these entries to today or to the next month, and says what came of it (RowsMade, Told).
+    void Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDuplicate::eDay day);
+
+    // What is typed into cells of a list, and what follows once it was stored.
+    [[nodiscard]] cCellEdit& Cells() { return m_cells; }
+    void CellWritten();
+
+    // Shows a view that was kept under a name; what the book does not have any more becomes the first position of its
+    // selector.
+    void ShowView(const cViewState& view);
 
     // Deletes the entries of these occurrences after the questions that go with it.
     void Delete(const QList<cEntryListModel::cKey>& keys);
@@ -146,7 +160,9 @@ Q_SIGNALS:
     void LayoutReset();    // column layouts and window size were set back
     void SelectionChanged();
     void AppearanceChanged();
-    void StagedRowsReleased(); // bank transactions may wait again, or be gone
+    void RowsMade(const QList<cEntryListModel::cKey>& keys); // new entries that want to be selected
+    void Told(const QString& text);                          // a quiet word on what was done
+    void StagedRowsReleased();                               // bank transactions may wait again, or be gone
 
 private:
     [[nodiscard]] QString SumText(qint64 cents) const;
@@ -170,6 +186,7 @@ private:
     cEntryListModel m_entries;
     cAccountListModel m_accounts;
     cLimitWatch m_limits;
+    cCellEdit m_cells;
     cTemplateItemList m_accountItems;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
     QList<cEntryListModel::cKey> m_selection;

@@ -1,7 +1,9 @@
+#include "base/cClock.h"
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/main/cMainModel.h"
@@ -69,16 +71,16 @@ bool cMainModel::Execute(int command)
     case modCommand::BankLogins:
     case modCommand::FetchTransactions:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
-    case modCommand::Budget:
-    case modCommand::AddReceipt:
-    case modCommand::ShowReceipts:
+    case modCommand::DuplicateToday: Duplicate(m_selection, cEntryDuplicate::eDay::Today); break;
+    case modCommand::DuplicateNextMonth: Duplicate(m_selection, cEntryDuplicate::eDay::NextMonth); break;
     case modCommand::CopyRows:
-    case modCommand::DuplicateToday:
-    case modCommand::DuplicateNextMonth:
     case modCommand::ChangeMany:
     case modCommand::SaveView:
     case modCommand::SavedViews:
-    case modCommand::GoToDay:
+    case modCommand::GoToDay: m_parts.Navigator.Open(known->Id); break;
+    case modCommand::Budget:
+    case modCommand::AddReceipt:
+    case modCommand::ShowReceipts:
     case modCommand::People:
     case modCommand::Settlement:
     case modCommand::Reminders: return false; // no row in the table yet
@@ -172,4 +174,37 @@ void cMainModel::StartCalculator()
             cText::Tr("Auf diesem System wurde kein Taschenrechner gefunden. Bitte installieren Sie einen, zum "
                       "Beispiel \"gnome-calculator\" oder \"kcalc\"."));
     }
+}
+
+void cMainModel::Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDuplicate::eDay day)
+{
+    cEntryDuplicate flow(m_tools);
+    const QList<cEntryListModel::cKey> made = flow.Duplicate(keys, day);
+    if (made.isEmpty()) {
+        return;
+    }
+    BookChanged();
+    Q_EMIT RowsMade(made);
+    const bool isShown = m_entries.IndexesOf(made).size() == made.size();
+    Q_EMIT Told(isShown ? flow.Text()
+                        : flow.Text() + u' ' + cText::Tr("Die Auswahl über der Liste blendet das gerade aus."));
+}
+
+void cMainModel::CellWritten()
+{
+    BookChanged();
+    Q_EMIT StagedRowsReleased(); // rows of the bank may have gone along with the later part of a series
+}
+
+void cMainModel::ShowView(const cViewState& view)
+{
+    (void)m_detour.Leave(m_view);
+    SetSwitch(modSettingKey::ViewSingle, view.ShowsSingle ? eSwitch::On : eSwitch::Off);
+    SetSwitch(modSettingKey::ViewFix, view.ShowsFix ? eSwitch::On : eSwitch::Off);
+    SetSwitch(modSettingKey::ViewFuture, view.ShowsFuture ? eSwitch::On : eSwitch::Off);
+    SetSwitch(modSettingKey::ViewStart, view.ShowsStart ? eSwitch::On : eSwitch::Off);
+    SetSwitch(modSettingKey::ViewAllBalances, view.BalancesToToday ? eSwitch::On : eSwitch::Off);
+    view.Save(m_tools.Settings);
+    m_view.Restore(m_tools.Settings, Accounts(), m_tools.Clock.Today());
+    RefreshView();
 }

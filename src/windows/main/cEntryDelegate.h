@@ -3,7 +3,7 @@
 #include "windows/widget/cRowDelegate.h"
 
 // Paints entries: income and expense in their colours, future rows in italics, group heads bold.
-class cEntryDelegate final : public cRowDelegate
+class cEntryDelegate : public cRowDelegate
 {
     Q_OBJECT
 

@@ -2,8 +2,10 @@
 
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
+#include "windows/main/cCellEditing.h"
 #include "windows/main/cEntryDelegate.h"
 #include "windows/widget/cColumnFit.h"
+#include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modGroupHead.h"
 
@@ -125,14 +127,18 @@ void cEntryTree::OpenColumnMenu(const QPoint& globalPosition)
 
 QList<int> cEntryTree::ShownColumns() const
 {
-    QList<int> columns;
-    for (int visual = 0; visual < header()->count(); ++visual) {
-        const int column = header()->logicalIndex(visual);
-        if (!header()->isSectionHidden(column)) {
-            columns.append(column);
-        }
-    }
-    return columns;
+    return modClipboard::ShownColumns(*this);
+}
+
+void cEntryTree::Copy() const
+{
+    modClipboard::CopyLines(*this, ShownColumns(), cEntryListModel::GroupRole);
+}
+
+void cEntryTree::UseCells(cCellEdit& cells)
+{
+    auto* editing = new cCellEditing(*this, m_model, cells);
+    connect(editing, &cCellEditing::Written, this, &cEntryTree::CellWritten);
 }
 
 void cEntryTree::SetEmptyText(const QString& title, const QString& hint)
@@ -167,15 +173,27 @@ void cEntryTree::KeepSelection()
     m_top = m_model.KeyAt(top);
 }
 
-void cEntryTree::Select(const cEntryListModel::cKey& key)
+void cEntryTree::Select(const QList<cEntryListModel::cKey>& keys)
 {
-    const QModelIndexList rows = m_model.IndexesOf({key});
+    const QModelIndexList rows = m_model.IndexesOf(keys);
+    QItemSelection selection;
+    for (const QModelIndex& row : rows) {
+        selection.select(row, row.siblingAtColumn(cEntryListModel::ColumnCount - 1));
+    }
     if (!rows.isEmpty()) {
         // Not the view's own: that looks at the keys held down, and Ctrl+Enter would add to the selection.
-        selectionModel()->setCurrentIndex(rows.constFirst(),
-                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        selectionModel()->setCurrentIndex(rows.constFirst(), QItemSelectionModel::NoUpdate);
+        selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
         scrollTo(rows.constFirst());
     }
+}
+
+void cEntryTree::GoTo(const QModelIndex& row)
+{
+    expand(row.parent());
+    selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(row, PositionAtCenter);
+    setFocus();
 }
 
 QList<cEntryListModel::cKey> cEntryTree::SelectedKeys() const

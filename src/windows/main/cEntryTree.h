@@ -7,6 +7,7 @@
 
 #include <array>
 
+class cCellEdit;
 class cColumnFit;
 class QPainter;
 
@@ -27,12 +28,17 @@ public:
     void ShowColumnMenu();                                        // below the header, for the keyboard too
     void SetEmptyText(const QString& title, const QString& hint); // shown while the list is empty
     void ScrollTo(QDate day);
-    void Select(const cEntryListModel::cKey& key); // and brings it into sight; nothing when it is not in the list
+    // Only these, and brings the first into sight; nothing when the list has none of them.
+    void Select(const QList<cEntryListModel::cKey>& keys);
+    void GoTo(const QModelIndex& row);             // selects it in the middle of what is in sight
+    void UseCells(cCellEdit& cells);               // lets cells be typed with F2; `cells` outlives the list
+    void Copy() const;                             // the selected lines with the shown columns, as a table
     [[nodiscard]] QList<int> ShownColumns() const; // of the model, in the order on screen
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups
 
 Q_SIGNALS:
     void SelectionKeysChanged(const QList<cEntryListModel::cKey>& keys);
+    void CellWritten(); // what was typed in a cell is stored, and the list has to be read again
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -6,6 +6,7 @@
 #include "views/main/modCommand.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
+#include "windows/main/cDayJump.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSumBar.h"
 #include "windows/main/cViewBar.h"
@@ -33,6 +34,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int accountLetters = 42; // width of the accounts
+constexpr int tellTime = 8000;     // milliseconds for which the status bar says what was done
 constexpr int crampedLetters = 80; // width of a window that is too small for list and accounts
 
 } // namespace
@@ -52,11 +54,13 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_tree(new cEntryTree(model.Entries(), this)),
       m_sums(new cSumBar(this)),
       m_database(new QLabel(this)),
-      m_failureMark(new QToolButton(this))
+      m_failureMark(new QToolButton(this)),
+      m_dayJump(new cDayJump(model, this))
 {
     setAcceptDrops(true);
     setWindowIcon(modIcon::Program());
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_tree->UseCells(model.Cells());
     BuildCommands();
     BuildPages();
     Connect();
@@ -151,6 +155,7 @@ void frmMain::BuildStatusBar()
     m_failureMark->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_failureMark->setFocusPolicy(Qt::StrongFocus);
     connect(m_failureMark, &QToolButton::clicked, this, [this] { m_model.Execute(modCommand::ErrorLog); });
+    statusBar()->addPermanentWidget(m_dayJump);
     statusBar()->addPermanentWidget(m_failureMark);
     statusBar()->addPermanentWidget(m_database);
     m_failureMark->hide();
@@ -184,6 +189,12 @@ void frmMain::Connect()
     connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
     connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
+    connect(m_tree, &cEntryTree::CellWritten, &m_model, &cMainModel::CellWritten);
+    connect(&m_model, &cMainModel::RowsMade, m_tree, &cEntryTree::Select);
+    connect(&m_model, &cMainModel::Told, this, &frmMain::Tell);
+    connect(m_dayJump, &cDayJump::RowFound, m_tree, &cEntryTree::GoTo);
+    connect(m_dayJump, &cDayJump::Told, this, &frmMain::Tell);
+    connect(m_dayJump, &cDayJump::Closed, m_tree, qOverload<>(&QWidget::setFocus));
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
@@ -279,8 +290,39 @@ void frmMain::TakeUsualSize()
 
 void frmMain::ShowEntry(const cEntryListModel::cKey& key)
 {
-    m_tree->Select(key);
+    m_tree->Select({key});
     m_tree->setFocus(); // Ctrl+Z in the filter would take back what was typed there
+}
+
+void frmMain::CopyRows()
+{
+    m_tree->Copy();
+}
+
+void frmMain::AskDay()
+{
+    ShowPage(ePage::Entries);
+    m_dayJump->Start();
+}
+
+void frmMain::Tell(const QString& text)
+{
+    statusBar()->showMessage(text, tellTime);
+}
+
+QString frmMain::ColumnText() const
+{
+    return m_tree->LayoutText();
+}
+
+void frmMain::SetColumnText(const QString& text)
+{
+    m_tree->SetLayoutText(text);
+}
+
+QMenu& frmMain::MenuOf(modCommand::eId command) const
+{
+    return *qobject_cast<QMenu*>(m_actions.value(command)->associatedObjects().value(0));
 }
 
 void frmMain::ShowPage(ePage page)

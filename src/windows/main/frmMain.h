@@ -1,16 +1,15 @@
 #pragma once
 
 #include "views/list/cEntryListModel.h"
+#include "views/main/modCommand.h"
 
 #include <QHash>
 #include <QMainWindow>
 #include <QStringList>
 
-namespace modCommand {
-struct cCommand;
-}
 class cAccountPanel;
 class cBackBar;
+class cDayJump;
 class cEntryTree;
 class cMainModel;
 class cSumBar;
@@ -48,7 +47,12 @@ public:
     void SaveLayout();                             // place and columns; also done on closing
 
     void ShowEntry(const cEntryListModel::cKey& key); // selects it, where the list has it
-    void ShowPage(ePage page);                        // brings it to the front
+    void CopyRows();                                  // the selected entries, to the clipboard
+    void AskDay();                                    // opens the field for a day to which the list jumps
+    [[nodiscard]] QString ColumnText() const;         // columns and sorting of the entry list
+    void SetColumnText(const QString& text);
+    [[nodiscard]] QMenu& MenuOf(modCommand::eId command) const; // the menu that holds it
+    void ShowPage(ePage page);                                  // brings it to the front
     void ShowColumnMenu();
     void ShowFailureMark(bool isShown); // in the status bar: the way to the error log after a failure
     void AddToView(QMenu* menu);        // at the end of the menu "Ansicht"
@@ -58,6 +62,7 @@ Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
     void Closing();                      // place and columns have been saved
     void PageShown(frmMain::ePage page); // it came to the front
+    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account); // onto an account
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -77,6 +82,7 @@ private:
     void ShowEntries();
     void ShowCommands();
     void ResetLayout();
+    void Tell(const QString& text); // in the status bar, for a while
     void TakeUsualSize();
     void ShareWidth();
     void GoBack();
@@ -98,5 +104,6 @@ private:
     QLabel* m_database;
     QMenu* m_view = nullptr; // "Ansicht"
     QToolButton* m_failureMark;
+    cDayJump* m_dayJump;
     bool m_isSplitByHand = false;
 };

@@ -29,6 +29,7 @@ frmSuche::frmSuche(cSearchModel& model, QWidget* parent)
       m_sums(new cSumBar(this)),
       m_edit(new QPushButton(modIcon::Get(u"bearbeiten"_s), cText::Tr("&Eintrag bearbeiten"), this)),
       m_delete(new QPushButton(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
+      m_change(new QPushButton(cText::Tr("&Mehrere ändern…"), this)),
       m_clear(new QPushButton(cText::Tr("&Neue Suche"), this)),
       m_close(new QPushButton(cText::Tr("S&chließen"), this))
 {
@@ -59,6 +60,7 @@ void frmSuche::Build()
     m_hint->setWordWrap(true);
     modTone::Use(*m_hint, modTone::Quiet);
     m_tree->setAccessibleName(cText::Tr("Gefundene Einträge"));
+    m_tree->UseCells(m_model.Cells());
     const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }
@@ -66,14 +68,17 @@ void frmSuche::Build()
 QLayout* frmSuche::BuildButtons()
 {
     m_edit->setToolTip(cText::Tr("Öffnet den gewählten Eintrag (Eingabetaste)"));
+    m_change->setToolTip(
+        cText::Tr("Ändert Kategorie, Konto, Beschreibung oder Art aller ausgewählten Einträge (Strg+M)"));
     m_delete->setToolTip(cText::Tr("Löscht die gewählten Einträge (Entf)"));
     auto* row = new cFlowLayout;
     row->addWidget(m_edit);
     row->addWidget(m_delete);
+    row->addWidget(m_change);
     row->AddStretch();
     row->addWidget(m_clear);
     row->addWidget(m_close);
-    for (QPushButton* button : {m_edit, m_delete, m_clear, m_close}) {
+    for (QPushButton* button : {m_edit, m_delete, m_change, m_clear, m_close}) {
         button->setAutoDefault(false); // Enter belongs to the fields and to the list
     }
     return row;
@@ -101,6 +106,23 @@ void frmSuche::Connect()
     }
     connect(new QShortcut(Qt::Key_Delete, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
             &frmSuche::Delete);
+    connect(m_tree, &cEntryTree::CellWritten, this, &frmSuche::CellWritten);
+    connect(m_change, &QPushButton::clicked, this, [this] { Q_EMIT ChangeRequested(m_tree->SelectedKeys()); });
+    AddKey(Qt::CTRL | Qt::Key_M, &frmSuche::ChangeRequested);
+    AddKey(Qt::CTRL | Qt::Key_D, &frmSuche::DuplicateRequested);
+    connect(new QShortcut(QKeySequence::Copy, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+            m_tree, &cEntryTree::Copy);
+}
+
+void frmSuche::AddKey(const QKeySequence& key, void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys))
+{
+    connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+            [this, signal] {
+                const QList<cEntryListModel::cKey> keys = m_tree->SelectedKeys();
+                if (!keys.isEmpty()) {
+                    Q_EMIT(this->*signal)(keys);
+                }
+            });
 }
 
 void frmSuche::Search()
@@ -123,6 +145,7 @@ void frmSuche::ShowButtons()
     const qsizetype count = m_tree->SelectedKeys().size();
     m_edit->setEnabled(count > 0);
     m_delete->setEnabled(count > 0);
+    m_change->setEnabled(count > 0);
 }
 
 void frmSuche::GoToList()

@@ -28,6 +28,9 @@ public:
 Q_SIGNALS:
     void EditRequested(const cEntryListModel::cKey& key);
     void DeleteRequested(const QList<cEntryListModel::cKey>& keys);
+    void ChangeRequested(const QList<cEntryListModel::cKey>& keys);
+    void DuplicateRequested(const QList<cEntryListModel::cKey>& keys); // for today
+    void CellWritten();                                                // in the list of what was found
     void UndoRequested();
     void RedoRequested();
 
@@ -45,6 +48,8 @@ private:
     void GoToList();
     void Edit();
     void Delete();
+    // A key that works on the selected lines while the list has the focus.
+    void AddKey(const QKeySequence& key, void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys));
 
     cSearchModel& m_model;
     cSearchFields* m_fields;
@@ -53,6 +58,7 @@ private:
     cSumBar* m_sums;
     QPushButton* m_edit;
     QPushButton* m_delete;
+    QPushButton* m_change;
     QPushButton* m_clear;
     QPushButton* m_close;
 };

@@ -1,0 +1,83 @@
+#include "app/cSheetWindows.h"
+
+#include "core/cBookTools.h"
+#include "views/main/cMainModel.h"
+#include "views/sheet/cManyChange.h"
+#include "windows/main/cSavedViewMenu.h"
+#include "windows/main/frmMain.h"
+#include "windows/main/frmMehrere.h"
+#include "windows/main/frmSuche.h"
+
+cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain& window)
+    : m_tools(tools),
+      m_model(model),
+      m_window(window),
+      m_views(tools),
+      m_menu(new cSavedViewMenu(window.MenuOf(modCommand::SavedViews)))
+{
+    QObject::connect(&m_model, &cMainModel::ViewChanged, m_menu, [this] { ShowNames(); }); // perhaps another book
+    QObject::connect(m_menu, &cSavedViewMenu::Chosen, m_menu, [this](int number) {
+        const QList<cSavedView> views = m_views.All();
+        if (number < views.size()) {
+            ShowView(views.at(number));
+        }
+    });
+    QObject::connect(&m_window, &frmMain::RowsDropped, m_menu,
+                     [this](const QList<cEntryListModel::cKey>& rows, const QString& account) {
+                         cManyChange change(m_tools, rows);
+                         if (change.AskAndSave({.Account = account}) == cManyChange::eSaved::Saved) {
+                             m_model.BookChanged();
+                         }
+                     });
+}
+
+void cSheetWindows::Carry(modCommand::eId command, QWidget* parent)
+{
+    switch (command) {
+    case modCommand::CopyRows: m_window.CopyRows(); break;
+    case modCommand::GoToDay: m_window.AskDay(); break;
+    case modCommand::ChangeMany: ChangeMany(m_model.Selection(), parent); break;
+    case modCommand::SaveView:
+        (void)m_views.Keep(m_model.View(), m_window.ColumnText());
+        ShowNames();
+        break;
+    case modCommand::SavedViews:
+        if (const std::optional<cSavedView> view = m_views.Manage()) {
+            ShowView(*view);
+        }
+        ShowNames();
+        break;
+    default: break;
+    }
+}
+
+void cSheetWindows::Connect(frmSuche& search)
+{
+    QObject::connect(&search, &frmSuche::CellWritten, &m_model, &cMainModel::CellWritten);
+    QObject::connect(&search, &frmSuche::ChangeRequested, &m_model,
+                     [this, &search](const QList<cEntryListModel::cKey>& rows) { ChangeMany(rows, &search); });
+    QObject::connect(
+        &search, &frmSuche::DuplicateRequested, &m_model,
+        [this](const QList<cEntryListModel::cKey>& rows) { m_model.Duplicate(rows, cEntryDuplicate::eDay::Today); });
+}
+
+void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget* parent)
+{
+    cManyChange change(m_tools, rows);
+    frmMehrere form(change, parent);
+    if (form.exec() == QDialog::Accepted) {
+        m_model.BookChanged();
+    }
+}
+
+void cSheetWindows::ShowNames()
+{
+    m_menu->Show(m_views.Names());
+}
+
+void cSheetWindows::ShowView(const cSavedView& view)
+{
+    m_window.ShowPage(frmMain::ePage::Entries);
+    m_window.SetColumnText(view.Columns);
+    m_model.ShowView(view.View);
+}

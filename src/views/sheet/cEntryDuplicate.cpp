@@ -1,0 +1,120 @@
+#include "views/sheet/cEntryDuplicate.h"
+
+#include "base/cClock.h"
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
+#include "model/modFlags.h"
+#include "model/modRecurrence.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/entry/cSeriesChange.h"
+#include "views/entry/cSplitGroup.h"
+#include "views/entry/cStartBalance.h"
+#include "views/entry/modEntryFields.h"
+#include "views/ledger/cReconciledDays.h"
+
+#include <QMap>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString payer = u"zahler"_s; // the mark of who paid
+
+QString StepName(const cEntryItemList& copies)
+{
+    return copies.size() == 1 ? cText::Tr("'{0}' dupliziert", {modEntryFields::Name(copies.first())})
+                              : cText::Tr("{0} Einträge dupliziert", {QString::number(copies.size())});
+}
+
+QString Done(const cEntryItemList& copies)
+{
+    return copies.size() == 1
+        ? cText::Tr("'{0}' zum {1} dupliziert.",
+                    {modEntryFields::Name(copies.first()), modDate::ToText(copies.first().EntryDate)})
+        : cText::Tr("{0} Einträge dupliziert.", {QString::number(copies.size())});
+}
+
+} // namespace
+
+QList<cEntryListModel::cKey> cEntryDuplicate::Duplicate(const QList<cEntryListModel::cKey>& rows, eDay day)
+{
+    cEntryItemList copies = Copies(rows, day);
+    if (copies.isEmpty()) {
+        m_tools.User.Show(eTone::Objection,
+                          cText::Tr("Ein Startguthaben lässt sich nicht duplizieren: Jedes Konto hat nur eines."));
+        return {};
+    }
+    cReconciledGuard guard(m_tools);
+    cUndoStep step(m_tools.Data, StepName(copies));
+    if (!step.DoneIf(Write(copies) && guard.Allows())) {
+        return {};
+    }
+    m_text = Done(copies);
+    QList<cEntryListModel::cKey> keys;
+    for (const cEntryItem& copy : std::as_const(copies)) {
+        keys.append({copy.ID, copy.EntryDate});
+    }
+    return keys;
+}
+
+cEntryItemList cEntryDuplicate::Copies(const QList<cEntryListModel::cKey>& rows, eDay day) const
+{
+    cEntryItemList copies;
+    for (const cEntryListModel::cKey& row : rows) {
+        if (const std::optional<cEntryItem> copy = Copy(row, day)) {
+            copies.append(*copy);
+        }
+    }
+    return copies;
+}
+
+// With the group of the original, which Write replaces.
+std::optional<cEntryItem> cEntryDuplicate::Copy(const cEntryListModel::cKey& row, eDay day) const
+{
+    std::optional<cEntryItem> copy = m_tools.Data.LoadEntry(row.ID);
+    if (!copy || cStartBalance(m_tools.Data, m_tools.Format.Decimal()).IsOne(*copy)) {
+        return std::nullopt;
+    }
+    if (modRecurrence::IsRecurring(copy->EntryInterval)) {
+        const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools).Correction(row.ID, row.Day);
+        copy->EntryValue = correction ? correction->EntryValue : copy->EntryValue;
+        copy->EntryDate = correction && correction->EntryDay.isValid() ? correction->EntryDay : row.Day;
+    }
+    const QDate today = m_tools.Clock.Today();
+    copy->EntryDate = day == eDay::Today || !copy->EntryDate.isValid() ? today : copy->EntryDate.addMonths(1);
+    copy->EntryDateEnd = modRecurrence::OpenEnd;
+    copy->EntryInterval = modWord::Einmalig;
+    const int group = modSplit::Group(*copy);
+    const QString payer = modFlags::Get(copy->EntryFlags, u"zahler"_s);
+    copy->EntryFlags = modFlags::Set({}, u"zahler"_s, payer);
+    modSplit::SetGroup(*copy, group);
+    copy->ID = 0;
+    return copy;
+}
+
+bool cEntryDuplicate::Write(cEntryItemList& copies) const
+{
+    QMap<std::pair<int, QDate>, cEntryItemList> groups;
+    for (cEntryItem& copy : copies) {
+        const int group = modSplit::Group(copy);
+        modSplit::SetGroup(copy, 0);
+        if (!m_tools.Data.AddNewEntry(copy)) {
+            return false;
+        }
+        if (group != 0) {
+            groups[{group, copy.EntryDate}].append(copy);
+        }
+    }
+    return std::all_of(groups.cbegin(), groups.cend(), [this](const cEntryItemList& parts) {
+        return parts.size() < 2 || cSplitGroup(m_tools.Data).Mark(parts);
+    });
+}

@@ -1,0 +1,213 @@
+#include "views/sheet/cManyChange.h"
+
+#include "base/cText.h"
+#include "base/cUser.h"
+#include "base/modCount.h"
+#include "core/cAmountFormat.h"
+#include "core/cBookTools.h"
+#include "model/modRecurrence.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
+#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
+#include "views/entry/cEntryWriter.h"
+#include "views/entry/cSplitGroup.h"
+#include "views/entry/cStartBalance.h"
+#include "views/entry/modEntryFields.h"
+#include "views/ledger/cReconciledDays.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+bool IsSeries(const cEntryItem& entry)
+{
+    return modRecurrence::IsRecurring(entry.EntryInterval);
+}
+
+bool IsTransfer(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Umbuchung;
+}
+
+cEntryItem Applied(cEntryItem entry, const cManyFields& fields)
+{
+    const auto take = [](QString& now, const QString& wanted) { now = wanted.isEmpty() ? now : wanted; };
+    take(entry.EntryCategory, fields.Category);
+    take(entry.EntryAccount, fields.Account);
+    take(entry.EntryDescription, fields.Description);
+    take(entry.EntryType, fields.Type);
+    if (IsTransfer(entry)) {
+        take(entry.EntryAccountMove, fields.Target);
+    } else {
+        entry.EntryAccountMove.clear();
+    }
+    return entry;
+}
+
+} // namespace
+
+cManyChange::cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows)
+    : m_tools(tools),
+      m_suggestions(tools.Data, tools.User)
+{
+    QSet<int> seen;
+    for (const cEntryListModel::cKey& row : rows) {
+        if (seen.contains(row.ID)) {
+            continue;
+        }
+        seen.insert(row.ID);
+        const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(row.ID);
+        if (!entry) {
+            continue;
+        }
+        if (cStartBalance(m_tools.Data, m_tools.Format.Decimal()).IsOne(*entry)) {
+            ++m_startBalances;
+        } else {
+            m_entries.append(*entry);
+        }
+    }
+}
+
+QString cManyChange::Summary() const
+{
+    const qsizetype series = std::count_if(m_entries.begin(), m_entries.end(), IsSeries);
+    QStringList lines{
+        cText::Tr("Geändert wird, was Sie hier wählen, bei: {0}.", {modCount::Entries(m_entries.size())})};
+    if (series > 0) {
+        lines.append(series == 1 ? cText::Tr("Darunter ist eine Serie. Bei ihr ändern sich alle Vorkommen, vergangene "
+                                             "wie zukünftige.")
+                                 : cText::Tr("Darunter sind {0} Serien. Bei ihnen ändern sich alle Vorkommen, "
+                                             "vergangene wie zukünftige.",
+                                             {QString::number(series)}));
+    }
+    if (m_startBalances > 0) {
+        lines.append(cText::Tr("Startguthaben bleiben, wie sie sind."));
+    }
+    return lines.join(u'\n');
+}
+
+QStringList cManyChange::Accounts() const
+{
+    return cEntrySuggestions::VisibleAccounts(m_tools.Data);
+}
+
+bool cManyChange::ShowsTarget(const QString& type) const
+{
+    return type == modWord::Umbuchung
+        || (type.isEmpty() && std::any_of(m_entries.begin(), m_entries.end(), IsTransfer));
+}
+
+// As they are stored, with the parts that have to go along.
+cEntryItemList cManyChange::Affected(const cManyFields& fields) const
+{
+    cEntryItemList all = m_entries;
+    if (fields.Account.isEmpty()) {
+        return all;
+    }
+    QSet<int> known;
+    for (const cEntryItem& entry : m_entries) {
+        known.insert(entry.ID);
+    }
+    for (const cEntryItem& entry : m_entries) {
+        const cEntryItemList parts =
+            modSplit::Group(entry) == 0 ? cEntryItemList() : cSplitGroup(m_tools.Data).Parts(entry);
+        for (const cEntryItem& part : parts) {
+            if (!known.contains(part.ID)) {
+                known.insert(part.ID);
+                all.append(part);
+            }
+        }
+    }
+    return all;
+}
+
+cManyChange::eSaved cManyChange::Save(const cManyFields& fields)
+{
+    cEntryItemList changed;
+    const cEntryItemList affected = Affected(fields);
+    for (const cEntryItem& entry : affected) {
+        cManyFields own = fields;
+        const bool isAlong = std::none_of(m_entries.begin(), m_entries.end(),
+                                          [&](const cEntryItem& chosen) { return chosen.ID == entry.ID; });
+        if (isAlong) {
+            own = {.Account = fields.Account};
+        }
+        if (const cEntryItem now = Applied(entry, own); now != entry) {
+            changed.append(now);
+        }
+    }
+    if (const eSaved checked = Check(fields, changed); checked != eSaved::Saved) {
+        return checked;
+    }
+    cReconciledGuard guard(m_tools);
+    cUndoStep step(m_tools.Data,
+                   changed.size() == 1 ? cText::Tr("Eintrag '{0}' geändert", {modEntryFields::Name(changed.first())})
+                                       : cText::Tr("{0} Einträge geändert", {QString::number(changed.size())}));
+    return step.DoneIf(Write(changed) && guard.Allows()) ? eSaved::Saved : eSaved::Refused;
+}
+
+cManyChange::eSaved cManyChange::Check(const cManyFields& fields, const cEntryItemList& changed) const
+{
+    if (changed.isEmpty()) {
+        return Refuse(cText::Tr("So, wie Sie es gewählt haben, ändert sich nichts."));
+    }
+    const bool isSplit = std::any_of(changed.begin(), changed.end(), [](const cEntryItem& entry) {
+        return IsTransfer(entry) && modSplit::Group(entry) != 0;
+    });
+    if (isSplit) {
+        return Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
+    }
+    const auto fault = std::find_if(changed.begin(), changed.end(), [](const cEntryItem& entry) {
+        return IsTransfer(entry) && (entry.EntryAccountMove.isEmpty() || entry.EntryAccountMove == entry.EntryAccount);
+    });
+    if (fault == changed.end()) {
+        return eSaved::Saved;
+    }
+    if (fault->EntryAccountMove.isEmpty()) {
+        return Refuse(cText::Tr("Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."),
+                      eSaved::BadTarget);
+    }
+    const QString why =
+        cText::Tr("Nach Konto: Von '{0}' kann das Geld nur auf ein anderes Konto gehen.", {fault->EntryAccount});
+    const QString which = cText::Tr("Das betrifft '{0}'.", {modEntryFields::Name(*fault)});
+    return Refuse(fields.Target.isEmpty() && changed.size() > 1 ? why + u'\n' + which : why, eSaved::BadTarget);
+}
+
+bool cManyChange::Write(const cEntryItemList& changed) const
+{
+    cEntryWriter writer(m_tools.Data, m_tools.User);
+    return std::all_of(changed.begin(), changed.end(), [&](const cEntryItem& entry) {
+        QList<cEntryWrite> row{{entry, m_tools.Data.GetEntryMods(entry.ID)}};
+        return writer.Write(row, {}, {});
+    });
+}
+
+cManyChange::eSaved cManyChange::AskAndSave(const cManyFields& fields)
+{
+    const qsizetype count = Affected(fields).size();
+    QStringList wishes;
+    if (!fields.Category.isEmpty()) {
+        wishes.append(cText::Tr("Kategorie '{0}'", {fields.Category}));
+    }
+    if (!fields.Account.isEmpty()) {
+        wishes.append(cText::Tr("Konto '{0}'", {fields.Account}));
+    }
+    QString text = cText::Tr("Ändern: {0}\nNeu: {1}", {modCount::Entries(count), wishes.join(u", "_s)});
+    const qsizetype series = std::count_if(m_entries.begin(), m_entries.end(), IsSeries);
+    if (series > 0) {
+        text += u"\n\n"_s + cText::Tr("Bei Serien ändern sich alle Vorkommen, vergangene wie zukünftige.");
+    }
+    const eAnswer answer = m_tools.User.Ask({.Text = text, .Title = cText::Tr("Einträge ändern")});
+    return answer == eAnswer::Yes ? Save(fields) : eSaved::Refused;
+}
+
+cManyChange::eSaved cManyChange::Refuse(const QString& text, eSaved saved) const
+{
+    m_tools.User.Show(eTone::Objection, text);
+    return saved;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+#include "views/entry/cEntrySuggestions.h"
+#include "views/list/cEntryListModel.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+struct cBookTools;
+
+// What several entries are to become; an empty text leaves each as it is.
+struct cManyFields
+{
+    QString Category{};
+    QString Account{};
+    QString Description{};
+    QString Type{};   // a word of modWord::EntryTypes
+    QString Target{}; // of transfers
+};
+
+// Changes several entries of the list at once, as one step. An occurrence stands for its whole series, because only
+// amount and day can differ from one occurrence to the next. Start balances stay as they are. A split purchase has one
+// account, so its other parts change theirs along.
+class cManyChange
+{
+public:
+    enum class eSaved { Saved, BadTarget, Refused }; // the user was told why it was not saved
+
+    cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows);
+
+    [[nodiscard]] qsizetype Count() const { return m_entries.size(); } // of entries that can be changed
+    // How many entries that is, what is meant by the lines of a series, and what is left out.
+    [[nodiscard]] QString Summary() const;
+    [[nodiscard]] QStringList Accounts() const;
+    [[nodiscard]] cEntrySuggestions& Suggestions() { return m_suggestions; }
+    // Whether the target account means anything: a transfer is chosen, or one is among them and stays one.
+    [[nodiscard]] bool ShowsTarget(const QString& type) const;
+
+    // Checks, asks about days that agree with the bank, and stores.
+    [[nodiscard]] eSaved Save(const cManyFields& fields);
+    // The same after a question that says what becomes of how many; for where no form says so.
+    [[nodiscard]] eSaved AskAndSave(const cManyFields& fields);
+
+private:
+    [[nodiscard]] cEntryItemList Affected(const cManyFields& fields) const;
+    [[nodiscard]] eSaved Check(const cManyFields& fields, const cEntryItemList& changed) const;
+    [[nodiscard]] bool Write(const cEntryItemList& changed) const;
+    [[nodiscard]] eSaved Refuse(const QString& text, eSaved saved = eSaved::Refused) const;
+
+    const cBookTools& m_tools;
+    cEntrySuggestions m_suggestions;
+    cEntryItemList m_entries; // each once
+    qsizetype m_startBalances = 0;
+};

@@ -1,0 +1,93 @@
+#include "windows/main/cCellEditing.h"
+
+#include "views/sheet/cCellEdit.h"
+#include "windows/main/cCellDelegate.h"
+#include "windows/main/cEntryTree.h"
+
+#include <QShortcut>
+
+cCellEditing::cCellEditing(cEntryTree& tree, cEntryListModel& model, cCellEdit& cells)
+    : QObject(&tree),
+      m_tree(tree),
+      m_model(model),
+      m_cells(cells),
+      m_delegate(new cCellDelegate(cells, this))
+{
+    m_tree.setItemDelegate(m_delegate);
+    m_tree.setEditTriggers(QAbstractItemView::NoEditTriggers); // a double click opens the entry
+    auto* key = new QShortcut(Qt::Key_F2, &m_tree, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(key, &QShortcut::activated, this, [this] { Edit(m_tree.currentIndex()); });
+    // Once the view is done with the field: storing may ask, and it rebuilds the list.
+    connect(m_delegate, &QAbstractItemDelegate::closeEditor, this, &cCellEditing::Finish, Qt::QueuedConnection);
+}
+
+QList<int> cCellEditing::Columns() const
+{
+    QList<int> columns = m_tree.ShownColumns();
+    columns.removeIf([](int column) { return !cCellEdit::IsEditable(column); });
+    return columns;
+}
+
+void cCellEditing::Edit(const QModelIndex& cell)
+{
+    const QList<int> columns = Columns();
+    if (m_model.EntryAt(cell) == nullptr || columns.isEmpty() || m_cells.IsReadOnly()) {
+        return;
+    }
+    const int column = columns.contains(cell.column()) ? cell.column() : columns.first();
+    if (const std::optional<QString> text = m_cells.Start(m_model.KeyAt(cell), column)) {
+        Open(cell.siblingAtColumn(column), *text);
+    }
+}
+
+void cCellEditing::Open(const QModelIndex& cell, const QString& text)
+{
+    m_delegate->Begin(text);
+    m_tree.selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_tree.scrollTo(cell);
+    m_tree.edit(cell);
+}
+
+void cCellEditing::Finish()
+{
+    const std::optional<cCellDelegate::cTyped> typed = m_delegate->TakeTyped();
+    if (!typed || !typed->Cell.isValid()) {
+        return;
+    }
+    const cEntryListModel::cKey key = m_model.KeyAt(typed->Cell);
+    const int column = typed->Cell.column();
+    const cCellEdit::eSaved saved = m_cells.Save(key, column, typed->Text);
+    if (saved == cCellEdit::eSaved::Refused) {
+        const QModelIndex line = m_model.IndexesOf({key}).value(0);
+        if (line.isValid()) {
+            Open(line.siblingAtColumn(column), typed->Text);
+        }
+        return;
+    }
+    if (saved == cCellEdit::eSaved::Saved) {
+        Q_EMIT Written();
+    }
+    GoOn(m_cells.SavedKey(), column, typed->Step);
+}
+
+// Behind the last cell of a line comes the first one of the next.
+void cCellEditing::GoOn(const cEntryListModel::cKey& key, int column, int step)
+{
+    const QModelIndex line = m_model.IndexesOf({key}).value(0);
+    if (!line.isValid()) {
+        return; // a filter has taken it away
+    }
+    const QList<int> columns = Columns();
+    const qsizetype at = columns.indexOf(column) + step;
+    const bool isInLine = at >= 0 && at < columns.size();
+    const QModelIndex next = isInLine ? line : step > 0 ? m_tree.indexBelow(line) : m_tree.indexAbove(line);
+    const int wanted = isInLine ? columns.at(at) : step > 0 ? columns.first() : columns.last();
+    if (step != 0 && m_model.EntryAt(next) != nullptr) {
+        Edit(next.siblingAtColumn(wanted));
+        return;
+    }
+    m_tree.selectionModel()->setCurrentIndex(line.siblingAtColumn(column),
+                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_tree.scrollTo(line);
+    m_tree.setFocus();
+}

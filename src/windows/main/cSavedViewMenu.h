@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+class QAction;
+class QMenu;
+
+// The kept views at the end of a menu; the first nine with a key.
+class cSavedViewMenu final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit cSavedViewMenu(QMenu& menu);
+
+    void Show(const QStringList& names);
+
+Q_SIGNALS:
+    void Chosen(int number); // from 0
+
+private:
+    QMenu& m_menu;
+    QStringList m_names;
+    QList<QAction*> m_actions;
+};

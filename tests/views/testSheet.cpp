@@ -1,0 +1,391 @@
+#include "model/modFlags.h"
+#include "model/modSettingKey.h"
+#include "model/modSplit.h"
+#include "support/cTestClass.h"
+#include "support/testBook.h"
+#include "views/main/cSavedViews.h"
+#include "views/sheet/cCellEdit.h"
+#include "views/sheet/cEntryDuplicate.h"
+#include "views/sheet/cManyChange.h"
+#include "views/sheet/modDayJump.h"
+#include "views/sheet/modRowCopy.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using cKey = cEntryListModel::cKey;
+
+// A purchase of March, a rent of 700 euros since January whose March is corrected to 720, and the list that shows them.
+class cScene
+{
+public:
+    cScene()
+    {
+        Purchase = Book.Add([](cEntryItem& e) { e.EntryDescription = u"=Markt\tWest"_s; });
+        Rent = Book.Add([](cEntryItem& e) {
+            e.EntryDate = QDate(2026, 1, 31);
+            e.EntryInterval = u"Monatlich"_s;
+            e.EntryValue = 70000;
+            e.EntryCategory = u"Wohnung; Miete"_s;
+            e.EntryDescription = u"Miete"_s;
+        });
+        cEntryItemFixMod march;
+        march.EntryRelation = Rent.ID;
+        march.EntryModType = modWord::Betrag;
+        march.EntryStartDate = QDate(2026, 3, 1);
+        march.EntryEndDate = QDate(2026, 3, 31);
+        march.EntryValue = 72000;
+        if (!Book.Data.AddNewEntryMod(march)) {
+            qFatal("no correction");
+        }
+        Show();
+    }
+
+    void Show()
+    {
+        List.SetContent({Book.Data.GetEntries({{}, QDate(2026, 4, 30), {}, {}, {}, eBookingKind::All}),
+                         {},
+                         Book.Clock.Today(),
+                         {},
+                         {}},
+                        {}, modWord::KeineGruppierung);
+    }
+
+    cEntryItem Stored(int id) const { return Book.Data.LoadEntry(id).value_or(cEntryItem{}); }
+
+    // Two parts of one purchase of 30 euros.
+    QList<cEntryItem> AddSplit()
+    {
+        cEntryItem first = Book.Add([](cEntryItem& e) { e.EntryValue = 2000; });
+        const QString mark = u"split=%1"_s.arg(first.ID);
+        first.EntryFlags = mark;
+        if (!Book.Data.ChangeEntry(first)) {
+            qFatal("no group");
+        }
+        return {first, Book.Add([&](cEntryItem& e) { e.EntryFlags = mark; })};
+    }
+
+    mutable cTestBook Book;
+    cEntryItem Purchase;
+    cEntryItem Rent;
+    cEntryListModel List{Book.Format};
+};
+
+} // namespace
+
+class testSheet final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CopiedRowsAreATable();
+    void CopyComesOnceWithTheShownAmount_data();
+    void CopyComesOnceWithTheShownAmount();
+    void CopiedPartsStayTogether();
+    void StartBalanceIsNotCopied();
+    void ManyChangeInOneStep();
+    void PartsOfAPurchaseShareTheirAccount();
+    void TransferNeedsAnotherAccount();
+    void ManyChangesAskForReconciledDays();
+    void CellsAreStoredThroughTheEditor_data();
+    void CellsAreStoredThroughTheEditor();
+    void AmountOfAPartChangesTheWhole();
+    void RefusedCellChangesNothing();
+    void DayIsFoundInAnyOrder_data();
+    void DayIsFoundInAnyOrder();
+    void ViewsAreKeptUnderANameAndFollowTheirAccount();
+};
+
+// Whatever order they were clicked in.
+void testSheet::CopiedRowsAreATable()
+{
+    const cScene scene;
+    const cCopiedRows copied =
+        modRowCopy::Copy(scene.List, {scene.List.index(2, 0), scene.List.index(1, 0)},
+                         {cEntryListModel::Date, cEntryListModel::Description, cEntryListModel::Amount});
+    const QStringList lines = copied.Text.split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines,
+             (QStringList{u"Datum\tBeschreibung\tBetrag"_s, u"28.02.2026\tMiete\t-700,00 €"_s,
+                          u"10.03.2026\t'=Markt West\t-10,00 €"_s}));
+    QVERIFY2(copied.Html.contains(u"<td align=\"right\">-700,00 €</td>"_s), qPrintable(copied.Html));
+}
+
+void testSheet::CopyComesOnceWithTheShownAmount_data()
+{
+    QTest::addColumn<bool>("isSeries");
+    QTest::addColumn<QDate>("day"); // of the line
+    QTest::addColumn<bool>("isToday");
+    QTest::addColumn<QDate>("expectedDay");
+    QTest::addColumn<qint64>("expectedCents");
+    QTest::newRow("today") << false << QDate(2026, 3, 10) << true << QDate(2026, 3, 15) << qint64(1000);
+    QTest::newRow("next month") << false << QDate(2026, 3, 10) << false << QDate(2026, 4, 10) << qint64(1000);
+    QTest::newRow("shorter month") << true << QDate(2026, 1, 31) << false << QDate(2026, 2, 28) << qint64(70000);
+    QTest::newRow("corrected") << true << QDate(2026, 3, 31) << false << QDate(2026, 4, 30) << qint64(72000);
+}
+
+void testSheet::CopyComesOnceWithTheShownAmount()
+{
+    QFETCH(bool, isSeries);
+    QFETCH(QDate, day);
+    QFETCH(bool, isToday);
+    cScene scene;
+    cEntryItem original = isSeries ? scene.Rent : scene.Purchase;
+    original.EntryFlags = u"beleg=Bon.pdf;zahler=Anna;kuendbar=2027-01-01"_s;
+    QVERIFY(scene.Book.Data.ChangeEntry(original));
+    cEntryDuplicate flow(scene.Book.Tools);
+    const QList<cKey> made =
+        flow.Duplicate({{original.ID, day}}, isToday ? cEntryDuplicate::eDay::Today : cEntryDuplicate::eDay::NextMonth);
+    QCOMPARE(made.size(), 1);
+    const cEntryItem copy = scene.Stored(made.first().ID);
+    QTEST(copy.EntryDate, "expectedDay");
+    QTEST(copy.EntryValue, "expectedCents");
+    QCOMPARE(copy.EntryInterval, QString(modWord::Einmalig));
+    QCOMPARE(copy.EntryFlags, u"zahler=Anna"_s);
+    QVERIFY(scene.Book.Data.GetEntryMods(copy.ID).isEmpty());
+    QVERIFY(flow.Text().contains(modDate::ToText(copy.EntryDate)));
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Book.Data.CountEntries(), 2);
+}
+
+void testSheet::CopiedPartsStayTogether()
+{
+    cScene scene;
+    const QList<cEntryItem> parts = scene.AddSplit();
+    cEntryDuplicate flow(scene.Book.Tools);
+    const QList<cKey> made = flow.Duplicate({{parts.at(0).ID, {}}, {parts.at(1).ID, {}}}, cEntryDuplicate::eDay::Today);
+    QCOMPARE(modSplit::Group(scene.Stored(made.at(0).ID)), made.at(0).ID);
+    QCOMPARE(modSplit::Group(scene.Stored(made.at(1).ID)), made.at(0).ID);
+    const QList<cKey> alone = flow.Duplicate({{parts.at(1).ID, {}}}, cEntryDuplicate::eDay::Today);
+    QCOMPARE(modSplit::Group(scene.Stored(alone.at(0).ID)), 0);
+}
+
+void testSheet::StartBalanceIsNotCopied()
+{
+    cScene scene;
+    const cEntryItem start = scene.Book.Add([](cEntryItem& e) { e.EntryCategory = modWord::Startguthaben; });
+    QVERIFY(cEntryDuplicate(scene.Book.Tools).Duplicate({{start.ID, {}}}, cEntryDuplicate::eDay::Today).isEmpty());
+    QCOMPARE(scene.Book.User.Shown.size(), 1);
+    QCOMPARE(scene.Book.Data.CountEntries(), 3);
+}
+
+void testSheet::ManyChangeInOneStep()
+{
+    cScene scene;
+    const cEntryItem start = scene.Book.Add([](cEntryItem& e) { e.EntryCategory = modWord::Startguthaben; });
+    const QList<cKey> rows{{scene.Purchase.ID, {}},
+                           {scene.Rent.ID, QDate(2026, 1, 31)},
+                           {scene.Rent.ID, QDate(2026, 2, 28)},
+                           {start.ID, {}}};
+    cManyChange change(scene.Book.Tools, rows);
+    QCOMPARE(change.Count(), 2);
+    QVERIFY2(change.Summary().contains(u"2 Einträge"_s) && change.Summary().contains(u"eine Serie"_s)
+                 && change.Summary().contains(u"Startguthaben"_s),
+             qPrintable(change.Summary()));
+    QCOMPARE(change.Save({}), cManyChange::eSaved::Refused); // nothing was chosen
+    QCOMPARE(change.Save({.Category = u"Freizeit"_s, .Description = u"Anders"_s, .Type = modWord::Einnahme}),
+             cManyChange::eSaved::Saved);
+    for (const int id : {scene.Purchase.ID, scene.Rent.ID}) {
+        QCOMPARE(scene.Stored(id).EntryCategory, u"Freizeit"_s);
+        QCOMPARE(scene.Stored(id).EntryDescription, u"Anders"_s);
+        QCOMPARE(scene.Stored(id).EntryType, QString(modWord::Einnahme));
+    }
+    QCOMPARE(scene.Stored(start.ID), start);
+    QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Stored(scene.Purchase.ID), scene.Purchase);
+    QCOMPARE(scene.Stored(scene.Rent.ID), scene.Rent);
+}
+
+void testSheet::PartsOfAPurchaseShareTheirAccount()
+{
+    cScene scene;
+    const QList<cEntryItem> parts = scene.AddSplit();
+    cManyChange change(scene.Book.Tools, {{parts.at(1).ID, {}}});
+    QCOMPARE(change.Save({.Account = u"Bargeld"_s, .Description = u"Teil"_s}), cManyChange::eSaved::Saved);
+    QCOMPARE(scene.Stored(parts.at(0).ID).EntryAccount, u"Bargeld"_s);
+    QCOMPARE(scene.Stored(parts.at(0).ID).EntryDescription, QString());
+    QCOMPARE(scene.Stored(parts.at(1).ID).EntryDescription, u"Teil"_s);
+    QCOMPARE(cManyChange(scene.Book.Tools, {{parts.at(1).ID, {}}})
+                 .Save({.Type = modWord::Umbuchung, .Target = u"Sparkonto"_s}),
+             cManyChange::eSaved::Refused);
+}
+
+void testSheet::TransferNeedsAnotherAccount()
+{
+    cScene scene;
+    cManyChange change(scene.Book.Tools, {{scene.Purchase.ID, {}}});
+    QVERIFY(!change.ShowsTarget({}));
+    QVERIFY(change.ShowsTarget(modWord::Umbuchung));
+    QCOMPARE(change.Save({.Type = modWord::Umbuchung}), cManyChange::eSaved::BadTarget);
+    QCOMPARE(change.Save({.Type = modWord::Umbuchung, .Target = u"Girokonto"_s}), cManyChange::eSaved::BadTarget);
+    QCOMPARE(scene.Stored(scene.Purchase.ID), scene.Purchase);
+    QCOMPARE(change.Save({.Type = modWord::Umbuchung, .Target = u"Sparkonto"_s}), cManyChange::eSaved::Saved);
+    cManyChange back(scene.Book.Tools, {{scene.Purchase.ID, {}}});
+    QVERIFY(back.ShowsTarget({}));
+    QCOMPARE(back.Save({.Account = u"Sparkonto"_s}), cManyChange::eSaved::BadTarget);
+    QCOMPARE(back.Save({.Type = modWord::Ausgabe}), cManyChange::eSaved::Saved);
+    QCOMPARE(scene.Stored(scene.Purchase.ID), scene.Purchase);
+}
+
+void testSheet::ManyChangesAskForReconciledDays()
+{
+    cScene scene;
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
+    scene.Book.Settings->Set(modSettingKey::Reconciled.Of(u"1234567"_s), u"2026-03-12"_s);
+    const QList<cKey> rows{{scene.Purchase.ID, {}}};
+    QCOMPARE(cManyChange(scene.Book.Tools, rows).Save({.Account = u"Bargeld"_s}), cManyChange::eSaved::Refused);
+    QVERIFY2(scene.Book.User.Asked.join(u'\n').contains(u"stimmt bis 12.03.2026"_s),
+             qPrintable(scene.Book.User.Asked.join(u'\n')));
+    QCOMPARE(scene.Stored(scene.Purchase.ID), scene.Purchase);
+}
+
+void testSheet::CellsAreStoredThroughTheEditor_data()
+{
+    QTest::addColumn<QDate>("day"); // of the occurrence; invalid for the purchase
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("decision");     // -1: nothing is asked
+    QTest::addColumn<QString>("expected"); // day, category, description and cents of each line up to April
+    const QString others = u"31.01. Miete 70000|28.02. Miete 70000|"_s;
+    QTest::newRow("amount as a sum") << QDate() << int(cEntryListModel::Amount) << u"12,50+3*2"_s << -1
+                                     << u"10.03. =Markt\tWest 1850"_s;
+    QTest::newRow("description") << QDate() << int(cEntryListModel::Description) << u"Markt"_s << -1
+                                 << u"10.03. Markt 1000"_s;
+    QTest::newRow("amount of this period") << QDate(2026, 3, 31) << int(cEntryListModel::Amount) << u"710"_s << 0
+                                           << others + u"31.03. Miete 71000|30.04. Miete 70000"_s;
+    QTest::newRow("amount from here") << QDate(2026, 4, 30) << int(cEntryListModel::Amount) << u"750"_s << 1
+                                      << others + u"31.03. Miete 72000|30.04. Miete 75000"_s;
+    QTest::newRow("description of the series")
+        << QDate(2026, 2, 28) << int(cEntryListModel::Description) << u"Wohnen"_s << 1
+        << u"31.01. Wohnen 70000|28.02. Wohnen 70000|31.03. Wohnen 72000|30.04. Wohnen 70000"_s;
+    QTest::newRow("description of the series at its first day")
+        << QDate(2026, 1, 31) << int(cEntryListModel::Description) << u"Wohnen"_s << 0
+        << u"31.01. Wohnen 70000|28.02. Wohnen 70000|31.03. Wohnen 72000|30.04. Wohnen 70000"_s;
+}
+
+void testSheet::CellsAreStoredThroughTheEditor()
+{
+    QFETCH(QDate, day);
+    QFETCH(int, column);
+    QFETCH(QString, typed);
+    QFETCH(int, decision);
+    cScene scene;
+    if (decision >= 0) {
+        scene.Book.User.Decisions = {decision};
+    }
+    const cEntryItem& entry = day.isValid() ? scene.Rent : scene.Purchase;
+    const cKey key{entry.ID, day.isValid() ? day : entry.EntryDate};
+    cCellEdit cells(scene.Book.Tools);
+    QVERIFY(cells.Start(key, column).has_value());
+    QCOMPARE(cells.Save(key, column, typed), cCellEdit::eSaved::Saved);
+    QCOMPARE(scene.Book.User.Asked.size(), decision >= 0 ? 1 : 0);
+    scene.Show();
+    QCOMPARE(scene.List.IndexesOf({cells.SavedKey()}).size(), 1);
+    QStringList lines;
+    for (int row = 0; row < scene.List.rowCount(); ++row) {
+        const cEntryItem* line = scene.List.EntryAt(scene.List.index(row, 0));
+        if ((line->EntryInterval == modWord::Einmalig) != day.isValid()) {
+            lines.append(
+                u"%1 %2 %3"_s.arg(line->EntryDate.toString(u"dd.MM."_s), line->EntryDescription).arg(line->EntryValue));
+        }
+    }
+    QTEST(lines.join(u'|'), "expected");
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Stored(entry.ID), entry);
+}
+
+void testSheet::AmountOfAPartChangesTheWhole()
+{
+    cScene scene;
+    const QList<cEntryItem> parts = scene.AddSplit();
+    cCellEdit cells(scene.Book.Tools);
+    QCOMPARE(cells.Save({parts.at(1).ID, {}}, cEntryListModel::Amount, u"12"_s), cCellEdit::eSaved::Saved);
+    QCOMPARE(scene.Stored(parts.at(0).ID).EntryValue, 2000);
+    QCOMPARE(scene.Stored(parts.at(1).ID).EntryValue, 1200);
+    QCOMPARE(cells.Save({parts.at(1).ID, {}}, cEntryListModel::Category, u"Wohnung; Miete"_s),
+             cCellEdit::eSaved::Saved);
+    QCOMPARE(scene.Stored(parts.at(0).ID).EntryCategory, u"Haushalt; Lebensmittel"_s);
+    QCOMPARE(scene.Stored(parts.at(1).ID).EntryCategory, u"Wohnung; Miete"_s);
+}
+
+void testSheet::RefusedCellChangesNothing()
+{
+    cScene scene;
+    cCellEdit cells(scene.Book.Tools);
+    const cKey purchase{scene.Purchase.ID, scene.Purchase.EntryDate};
+    QVERIFY(!cells.Fault(cEntryListModel::Amount, u"zwölf"_s).isEmpty());
+    QCOMPARE(cells.Save(purchase, cEntryListModel::Amount, u"zwölf"_s), cCellEdit::eSaved::Refused);
+    QCOMPARE(cells.Save(purchase, cEntryListModel::Amount, u"10"_s), cCellEdit::eSaved::Unchanged);
+    QCOMPARE(cells.Save(purchase, cEntryListModel::Category, u"Raumfahrt; Mond"_s), cCellEdit::eSaved::Refused);
+    QCOMPARE(cells.Save({scene.Rent.ID, QDate(2026, 2, 28)}, cEntryListModel::Amount, u"1"_s),
+             cCellEdit::eSaved::Refused); // the question was given up
+    QCOMPARE(scene.Stored(scene.Purchase.ID), scene.Purchase);
+    QCOMPARE(scene.Stored(scene.Rent.ID), scene.Rent);
+    const cEntryItem start = scene.Book.Add([](cEntryItem& e) { e.EntryCategory = modWord::Startguthaben; });
+    QVERIFY(!cells.Start({start.ID, start.EntryDate}, cEntryListModel::Description).has_value());
+    QVERIFY(cells.Start({start.ID, start.EntryDate}, cEntryListModel::Amount).has_value());
+}
+
+void testSheet::DayIsFoundInAnyOrder_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QDate>("expected"); // of the row
+    QTest::addColumn<QString>("text");   // that the user is told, in part
+    QTest::newRow("there") << u"10.3."_s << QDate(2026, 3, 10) << QString();
+    QTest::newRow("nearest") << u"heute"_s << QDate(2026, 3, 10) << u"keinen Eintrag"_s;
+    QTest::newRow("outside") << u"1.1.2027"_s << QDate(2026, 4, 30) << u"außerhalb"_s;
+    QTest::newRow("no day") << u"bald"_s << QDate() << u"bald"_s;
+}
+
+void testSheet::DayIsFoundInAnyOrder()
+{
+    QFETCH(QString, typed);
+    QFETCH(QDate, expected);
+    QFETCH(QString, text);
+    cScene scene;
+    const modPeriod::cRange range{QDate(2026, 1, 1), QDate(2026, 12, 31)};
+    for (const QString& grouping : {QString(modWord::KeineGruppierung), u"Gruppiere nach Kategorie"_s}) {
+        scene.List.SetGrouping(grouping);
+        scene.List.sort(cEntryListModel::Amount, Qt::DescendingOrder);
+        const modDayJump::cFound found = modDayJump::Find(scene.List, typed, scene.Book.Clock.Today(), range);
+        QCOMPARE(found.Row.isValid() ? scene.List.EntryAt(found.Row)->EntryDate : QDate(), expected);
+        QVERIFY2(text.isEmpty() ? found.Text.isEmpty() : found.Text.contains(text), qPrintable(found.Text));
+    }
+}
+
+void testSheet::ViewsAreKeptUnderANameAndFollowTheirAccount()
+{
+    cTestBook book;
+    cSavedViews views(book.Tools);
+    cViewState view;
+    view.Period = modWord::FreierZeitraum;
+    view.Free = {QDate(2026, 1, 1), QDate()};
+    view.Account = u"Girokonto"_s;
+    view.Filter = u"a|b;c=50 % & mehr"_s;
+    view.ShowsFix = false;
+    book.User.Choices = {u" Große; | Runde "_s, u"Zweite"_s, u"Große; | Runde"_s};
+    QVERIFY(views.Keep(view, u"0,10,1|s"_s));
+    QVERIFY(views.Keep(cViewState{}, {}));
+    QVERIFY(!views.Keep(cViewState{}, {})); // the name is taken, and the question was given up
+    QCOMPARE(views.Names(), (QStringList{u"Große; | Runde"_s, u"Zweite"_s}));
+    views.AccountRenamed(u"Girokonto"_s, u"Giro"_s);
+    const cSavedView kept = views.All().constFirst();
+    QCOMPARE(kept.Columns, u"0,10,1|s"_s);
+    QCOMPARE(kept.View.Filter, view.Filter);
+    QCOMPARE(kept.View.Account, u"Giro"_s);
+    QCOMPARE(kept.View.Free, view.Free);
+    QVERIFY(!kept.View.ShowsFix && kept.View.ShowsFuture);
+    book.User.Choices = {u"Zweite"_s, u"Dritte"_s, u"Dritte"_s, u"Dritte"_s};
+    book.User.Decisions = {1, 2, 3}; // rename, to the front, delete
+    QVERIFY(!views.Manage());
+    QVERIFY(!views.Manage());
+    QCOMPARE(views.Names(), (QStringList{u"Dritte"_s, u"Große; | Runde"_s}));
+    QVERIFY(!views.Manage());
+    QCOMPARE(views.Names(), QStringList{u"Große; | Runde"_s});
+}
+
+TEST_CLASS(testSheet, QCoreApplication)
+#include "testSheet.moc"
