@@ -94,6 +94,7 @@ public:
 
     // The selected occurrences, given by the list.
     void SetSelection(const QList<cEntryListModel::cKey>& selection);
+    [[nodiscard]] const QList<cEntryListModel::cKey>& Selection() const { return m_selection; }
 
     // Deletes the entries of these occurrences after the questions that go with it.
     void Delete(const QList<cEntryListModel::cKey>& keys);

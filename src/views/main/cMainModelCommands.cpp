@@ -68,10 +68,10 @@ bool cMainModel::Execute(int command)
     case modCommand::Rules:
     case modCommand::BankLogins:
     case modCommand::FetchTransactions:
-    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
-    case modCommand::Budget:
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts:
+    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
+    case modCommand::Budget:
     case modCommand::CopyRows:
     case modCommand::DuplicateToday:
     case modCommand::DuplicateNextMonth:

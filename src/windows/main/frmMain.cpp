@@ -9,6 +9,7 @@
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSumBar.h"
 #include "windows/main/cViewBar.h"
+#include "windows/receipt/cReceiptDrop.h"
 #include "windows/widget/modDrop.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
@@ -184,6 +185,9 @@ void frmMain::Connect()
     connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
     connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
+    auto* drop = new cReceiptDrop(*m_tree, m_model.Entries());
+    connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmMain::ReceiptsDropped);
+    connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped);
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.

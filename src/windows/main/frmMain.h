@@ -56,8 +56,9 @@ public:
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
-    void Closing();                      // place and columns have been saved
-    void PageShown(frmMain::ePage page); // it came to the front
+    void ReceiptsDropped(int entryId, const QStringList& paths); // on an entry of the list
+    void Closing();                                              // place and columns have been saved
+    void PageShown(frmMain::ePage page);                         // it came to the front
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -28,6 +28,8 @@ public:
 Q_SIGNALS:
     void EditRequested(const cEntryListModel::cKey& key);
     void DeleteRequested(const QList<cEntryListModel::cKey>& keys);
+    void ReceiptsDropped(int entryId, const QStringList& paths);
+    void ReceiptsRequested(int entryId); // the window of the entry's receipts
     void UndoRequested();
     void RedoRequested();
 
