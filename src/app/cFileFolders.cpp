@@ -15,6 +15,7 @@ QString NameOf(ePurpose purpose)
     case ePurpose::Statement: return u"Kontoauszug"_s;
     case ePurpose::Layout: return u"Aufbau"_s;
     case ePurpose::Protocol: return u"Protokoll"_s;
+    case ePurpose::Receipt: return u"Beleg"_s;
     case ePurpose::Export: break;
     }
     return u"Export"_s;

@@ -91,6 +91,9 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(&window, &frmMain::FilesDropped, &review, [this](const QStringList& paths) { TakeFiles(paths); });
     QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &model, &cMainModel::BookChanged);
     QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &review, &cImportReview::Refresh);
+    m_receipts = std::make_unique<cReceiptWindows>(m_parts.Tools, model);
+    QObject::connect(&window, &frmMain::ReceiptsDropped, &model,
+                     [this](int entryId, const QStringList& paths) { m_receipts->Add(entryId, paths); });
     window.AddToView(new cLanguageMenu(*m_national, &window));
 }
 
@@ -345,6 +348,10 @@ void cNavigation::OpenSearch()
         QObject::connect(m_search, &frmSuche::UndoRequested, m_model, [this] { m_model->Execute(modCommand::Undo); });
         QObject::connect(m_search, &frmSuche::RedoRequested, m_model, [this] { m_model->Execute(modCommand::Redo); });
         m_sheets->Connect(*m_search);
+        QObject::connect(m_search, &frmSuche::ReceiptsDropped, m_model,
+                         [this](int entryId, const QStringList& paths) { m_receipts->Add(entryId, paths); });
+        QObject::connect(m_search, &frmSuche::ReceiptsRequested, m_model,
+                         [this](int entryId) { m_receipts->Show(entryId, m_search); });
         QObject::connect(m_model, &cMainModel::BookRefreshed, m_search, &frmSuche::Refresh);
         QObject::connect(m_model, &cMainModel::LayoutReset, m_search, &frmSuche::ResetLayout);
     }
@@ -472,6 +479,16 @@ void cNavigation::OpenFetch()
     }
 }
 
+void cNavigation::OpenReceipts(modCommand::eId command)
+{
+    const int entryId = m_model->Selection().value(0).ID;
+    if (command == modCommand::AddReceipt) {
+        m_receipts->Choose(entryId);
+    } else {
+        m_receipts->Show(entryId, Parent());
+    }
+}
+
 void cNavigation::Export()
 {
     cEntryExtract extract = cEntryExtract::From(m_model->Entries());
@@ -527,6 +544,8 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::PrintPreview: Print(&cQtPrinter::Preview); break;
     case modCommand::ChooseColumns: m_window->ShowColumnMenu(); break;
     case modCommand::Password: OpenPassword(); break;
+    case modCommand::AddReceipt:
+    case modCommand::ShowReceipts: OpenReceipts(command); break;
     case modCommand::MakeBackup: m_books.MakeBackup(); break;
     case modCommand::RestoreBackup: m_books.LoadBackup(); break;
     case modCommand::SwitchDatabase: m_books.SwitchBook(); break;

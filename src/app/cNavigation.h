@@ -4,6 +4,7 @@
 #include "app/cHelpWindows.h"
 #include "app/cLogWindows.h"
 #include "app/cQtPrinter.h"
+#include "app/cReceiptWindows.h"
 #include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/main/cNavigator.h"
@@ -102,6 +103,7 @@ private:
     void OpenRules();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
+    void OpenReceipts(modCommand::eId command);
     void Export();
     void Export(const cStatementListModel& statement);
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
@@ -125,6 +127,7 @@ private:
     std::unique_ptr<cStatisticsModel> m_statistics;
     frmStatistik* m_statisticsPage = nullptr;
     std::unique_ptr<cSheetWindows> m_sheets;
+    std::unique_ptr<cReceiptWindows> m_receipts;
     std::unique_ptr<cBankWindows> m_banks;       // from the first one on
     std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on

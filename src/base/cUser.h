@@ -51,7 +51,7 @@ struct cChecklist
 };
 
 // What a file dialog is for. Each purpose begins in the folder that was chosen for it last.
-enum class ePurpose { Statement, Layout, Protocol, Export };
+enum class ePurpose { Statement, Layout, Protocol, Export, Receipt };
 
 // The person in front of the screen (or the command line that stands in for one).
 class cUser

@@ -43,7 +43,7 @@ int Replace(const cCliContext& context, const QString& path, const QString& back
     if (!restored.Kept.isEmpty()) {
         modConsole::Out(cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {restored.Kept}) + u'\n');
     }
-    return modExit::Done;
+    return restored.Receipts.isEmpty() ? modExit::Done : Refuse(restored.Receipts);
 }
 
 int RunBackup(const cCliContext& context)

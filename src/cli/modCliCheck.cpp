@@ -60,6 +60,9 @@ int Run(const cCliContext& context)
         modConsole::Error(problem);
     }
     modConsole::Out(check.FileText() + u'\n' + check.EntriesText() + u'\n');
+    if (const QString receipts = check.ReceiptText(); !receipts.isEmpty()) {
+        modConsole::Out(receipts + u'\n');
+    }
     for (const cFaultyEntry& entry : check.Entries()) {
         Show(entry);
     }

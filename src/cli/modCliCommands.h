@@ -88,6 +88,10 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand BalancesCommand();
 [[nodiscard]] cCliCommand BankSearchCommand();
 [[nodiscard]] cCliCommand CheckCommand();
+[[nodiscard]] cCliCommand ReceiptsCommand();
+[[nodiscard]] cCliCommand ReceiptsAddCommand();
+[[nodiscard]] cCliCommand ReceiptsRemoveCommand();
+[[nodiscard]] cCliCommand ReceiptsMissingCommand();
 [[nodiscard]] cCliCommand DemoCommand();
 [[nodiscard]] cCliCommand BackupCommand();
 [[nodiscard]] cCliCommand RestoreCommand();

@@ -8,6 +8,7 @@
 #include "core/cBackup.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "core/modReceiptFolder.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/modBookFile.h"
@@ -118,10 +119,15 @@ void cBackupPlan::Copy()
     const auto newest =
         std::find_if(copies.begin(), copies.end(), [day](const cCopy& copy) { return copy.Day == day; });
     const QString name = Name(day, newest == copies.end() ? 1 : newest->Number + 1);
-    const QString problem = cBackup(m_book.Database(), m_ports.Shell).Make(QDir(Folder()).filePath(name));
+    const QString target = QDir(Folder()).filePath(name);
+    const QString problem = cBackup(m_book.Database(), m_ports.Shell).Make(target);
     if (!problem.isEmpty()) {
         TellFailure(problem);
         return;
+    }
+    // The copy of the book is good all the same.
+    if (const QString left = modReceiptFolder::SaveIfWished(m_configuration, m_book.Path(), target); !left.isEmpty()) {
+        TellFailure(left);
     }
     m_copied = m_book.Data().Journal().RowsWritten();
     m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);

@@ -22,6 +22,11 @@ bool cDataAccess::IsReadOnly() const
     return m_database.IsReadOnly() || m_database.IsDamaged();
 }
 
+QString cDataAccess::BookPath() const
+{
+    return m_database.Path();
+}
+
 eDatabaseFault cDataAccess::Try(const char* name, const std::function<void()>& operation)
 {
     try {

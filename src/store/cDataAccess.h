@@ -79,6 +79,8 @@ public:
     [[nodiscard]] QStringList GetEntryAccounts();
     // The entries that carry the mark of this split group, not expanded, first part first.
     [[nodiscard]] cEntryItemList GetEntriesOfSplit(int group);
+    // The entries whose flags hold this key, not expanded, in the order of their days.
+    [[nodiscard]] cEntryItemList GetEntriesFlagged(const QString& key);
     // Of the `entries` newest rows, start balances left out: their descriptions, often and lately used ones first, and
     // their categories, newest first.
     [[nodiscard]] QList<cDescriptionUse> GetDescriptionUses(int entries);
@@ -154,6 +156,7 @@ public:
 
     // True when nothing can be written: the file was opened for reading only, or it turned out to be damaged.
     [[nodiscard]] bool IsReadOnly() const;
+    [[nodiscard]] QString BookPath() const; // of the open file
     // False as long as something could not be read that was asked for. What a flow goes by may lack it, so every write
     // is refused until the same operation has succeeded, and nothing may be exported.
     [[nodiscard]] bool IsWhole() const;

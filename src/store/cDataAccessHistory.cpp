@@ -20,6 +20,21 @@ cEntryItemList cDataAccess::GetEntriesOfSplit(int group)
     return isRead ? entries : cEntryItemList{};
 }
 
+cEntryItemList cDataAccess::GetEntriesFlagged(const QString& key)
+{
+    cEntryItemList entries;
+    const bool isRead = Read("GetEntriesFlagged", [&] {
+        cEntryReader reader;
+        cRows rows(m_database,
+                   std::string(cEntryReader::Select) + " WHERE ';' || EntryFlags LIKE ? ORDER BY EntryDate, ID",
+                   {QStringLiteral("%;%1=%").arg(key)});
+        while (rows.Next()) {
+            entries.append(reader.Read(rows));
+        }
+    });
+    return isRead ? entries : cEntryItemList{};
+}
+
 QList<cDescriptionUse> cDataAccess::GetDescriptionUses(int entries)
 {
     QList<cDescriptionUse> uses;

@@ -7,6 +7,8 @@
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "core/cSettings.h"
+#include "model/modSettingKey.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -41,7 +43,8 @@ bool IsUsable(const QString& folder)
 cBackupSettings::cFields cBackupSettings::Current() const
 {
     const cBackupPlan plan = PlanOf(m_parts);
-    return {plan.Count(), QDir::toNativeSeparators(plan.Folder())};
+    return {plan.Count(), QDir::toNativeSeparators(plan.Folder()),
+            cSettings::ToBool(m_parts.Configuration.GetSetting(modSettingKey::ReceiptsInBackup))};
 }
 
 QStringList cBackupSettings::Copies() const
@@ -70,7 +73,10 @@ bool cBackupSettings::Save(const cFields& fields) const
                           cText::Tr("In den Ordner '{0}' kann nicht geschrieben werden.", {fields.Folder}));
         return false;
     }
-    if (!PlanOf(m_parts).Save(fields.Count, folder)) {
+    if (!PlanOf(m_parts).Save(fields.Count, folder)
+        || !m_parts.Configuration.SaveSetting(modSettingKey::ReceiptsInBackup,
+                                              fields.HasReceipts ? modSettingKey::On : modSettingKey::Off,
+                                              eSettingPlace::Database)) {
         m_parts.User.Show(eTone::Critical, cText::Tr("Die Einstellungen konnten nicht gespeichert werden."));
         return false;
     }

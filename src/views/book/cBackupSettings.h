@@ -26,6 +26,7 @@ public:
     {
         int Count = 0; // 0: no automatic backups
         QString Folder;
+        bool HasReceipts = false; // the receipts are copied as well
     };
 
     static constexpr int MostCount = 999;

@@ -10,6 +10,7 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/cStartUp.h"
+#include "core/modReceiptFolder.h"
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "store/cDataAccess.h"
@@ -230,7 +231,8 @@ QString cBookAccess::LastStep()
 
 QString cBookAccess::MakeBackup(const QString& target, cShell& shell)
 {
-    return cBackup(m_book->Database(), shell).Make(target);
+    const QString problem = cBackup(m_book->Database(), shell).Make(target);
+    return problem.isEmpty() ? modReceiptFolder::SaveIfWished(*m_configuration, m_book->Path(), target) : problem;
 }
 
 void cBookAccess::CopyIfChanged()

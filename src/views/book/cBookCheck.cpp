@@ -7,6 +7,7 @@
 #include "model/modRecurrence.h"
 #include "store/cDataAccess.h"
 #include "views/entry/modEntryFields.h"
+#include "views/receipt/cReceipts.h"
 
 #include <array>
 
@@ -58,6 +59,7 @@ void cBookCheck::Reload()
     const std::optional<QList<cFaultyEntry>> entries = m_data.GetFaultyEntries();
     m_isRead = entries.has_value();
     m_entries = entries.value_or(QList<cFaultyEntry>());
+    m_receipts = cReceipts::CheckText(m_data);
     endResetModel();
 }
 

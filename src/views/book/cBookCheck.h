@@ -30,6 +30,9 @@ public:
     // What to make of the file, and of the entries; one sentence or two each.
     [[nodiscard]] QString FileText() const;
     [[nodiscard]] QString EntriesText() const;
+    // Receipts whose file is missing, and files that belong to no entry, a line each; empty where there are none. They
+    // make the book no worse: nothing of it is wrong.
+    [[nodiscard]] QString ReceiptText() const { return m_receipts; }
     [[nodiscard]] const QStringList& FileProblems() const { return m_problems; } // in SQLite's words
     [[nodiscard]] const QList<cFaultyEntry>& Entries() const { return m_entries; }
     [[nodiscard]] bool CanDelete() const; // false for a book that can only be read
@@ -50,6 +53,7 @@ private:
     const cAmountFormat& m_format;
     QStringList m_problems;
     QStringList m_missing;
+    QString m_receipts;
     bool m_isRead = false;
     QList<cFaultyEntry> m_entries;
 };

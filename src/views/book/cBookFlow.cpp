@@ -10,6 +10,7 @@
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "core/modReceiptFolder.h"
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
@@ -205,6 +206,14 @@ void cBookFlow::MakeBackup()
     m_parts.User.Show(eTone::Information,
                       cText::Tr("Die Datensicherung '{0}' wurde erstellt und geprüft. Sie enthält:\n{1}.",
                                 {Shown(target), modBookFile::Describe(modBookFile::Look(target))}));
+    TellReceipts(modReceiptFolder::SaveIfWished(m_parts.Configuration, m_parts.Book.Path(), target));
+}
+
+void cBookFlow::TellReceipts(const QString& problem) const
+{
+    if (!problem.isEmpty()) {
+        m_parts.User.Show(eTone::Exclamation, problem);
+    }
 }
 
 void cBookFlow::LoadBackup()
@@ -230,6 +239,7 @@ void cBookFlow::Replace(const QString& backup) const
                           cText::Tr("Die Datensicherung wurde geladen. Die bisherige Datenbank wurde "
                                     "als '{0}' aufgehoben.",
                                     {Shown(*kept)}));
+        TellReceipts(modReceiptFolder::BringBack(backup, m_parts.Book.Path()));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "core/cBook.h"
 #include "core/cSettings.h"
 #include "core/modDemo.h"
+#include "core/modReceiptFolder.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
@@ -67,7 +68,8 @@ modBookCopy::cRestored modBookCopy::Restore(const QString& path, const QString& 
     }
     cDatabase closed;
     const cBackup::cRestored restored = cBackup(closed, shell).Restore(path, backup, today);
-    return {restored.Kept, restored.Problem};
+    return {restored.Kept, restored.Problem,
+            restored.Problem.isEmpty() ? modReceiptFolder::BringBack(backup, path) : QString()};
 }
 
 int modBookCopy::WriteDemo(const QString& path, int entries, QDate today, cShell& shell, cUser& user,

@@ -20,8 +20,9 @@ namespace modBookCopy {
 
 struct cRestored
 {
-    QString Kept;    // where the former file lies now; empty when there was none
-    QString Problem; // in words for the user; empty when the backup is in place
+    QString Kept;       // where the former file lies now; empty when there was none
+    QString Problem;    // in words for the user; empty when the backup is in place
+    QString Receipts{}; // why receipts that lie beside the backup could not be brought back, in words for the user
 };
 
 // Puts a copy of `backup` in the place of the book's file `path`, which is kept beside it. Refused while another

@@ -109,6 +109,10 @@ public:
     // Corrections can be listed: an existing series in the normal face.
     [[nodiscard]] bool ShowsCorrections(const cFields& fields) const;
 
+    // Receipts that are to hang at the entry once it is saved.
+    [[nodiscard]] QList<cReceiptSource> ChooseReceipts() const;          // lets the user choose files
+    [[nodiscard]] QString ReceiptText(const cEntryFields& fields) const; // "2 Belege, 1 neu"
+
     // Turns the entry into a split one: what is there becomes the first part. Refused, with a message, for transfers
     // and for series with corrections, whose amounts would be right for no part; the face then stays.
     void UseSplit(cFields& fields) const;
@@ -139,6 +143,7 @@ private:
     [[nodiscard]] QList<cEntryWrite> Build(const cFields& fields) const;
     [[nodiscard]] cEntryItemFixModList CorrectionsOf(const cEntryItem& stored, const cFields& fields) const;
     [[nodiscard]] bool HasCorrections(const cFields& fields) const;
+    void KeepReceipts(QList<cEntryWrite>& rows, const QList<int>& removed) const;
     [[nodiscard]] QString StepName(const cEntryItem& entry) const;
     void Remember(const QList<cEntryWrite>& rows);
     [[nodiscard]] QString ProposedAccount() const;

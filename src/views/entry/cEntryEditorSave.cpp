@@ -5,6 +5,7 @@
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "model/modReceiptName.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -18,6 +19,8 @@
 #include "views/entry/modEntryFields.h"
 #include "views/entry/modSplitParts.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cReceipts.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -104,6 +107,27 @@ bool cEntryEditor::UseNormal(cFields& fields) const
     fields.Description = first.Description;
     fields.Parts.clear();
     return true;
+}
+
+QList<cReceiptSource> cEntryEditor::ChooseReceipts() const
+{
+    return cReceiptListModel::Ask(m_tools.User);
+}
+
+QString cEntryEditor::ReceiptText(const cEntryFields& fields) const
+{
+    const cReceipts receipts(m_tools);
+    qsizetype count = 0;
+    for (const int id : m_ids) {
+        count += receipts.Of(id).size();
+    }
+    const qsizetype added = fields.NewReceipts.size();
+    const QString stored = count == 1 ? cText::Tr("1 Beleg") : cText::Tr("{0} Belege", {QString::number(count)});
+    const QString fresh = cText::Tr("{0} neu", {QString::number(added)});
+    if (count > 0 && added > 0) {
+        return cText::Tr("{0}, {1}", {stored, fresh});
+    }
+    return count > 0 ? stored : added > 0 ? fresh : cText::Tr("keine");
 }
 
 QDate cEntryEditor::Today() const
@@ -224,15 +248,35 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     removed.removeIf([&](int id) {
         return std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return row.Entry.ID == id; });
     });
+    if (!removed.isEmpty()) {
+        KeepReceipts(rows, removed);
+    }
     cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
-    const bool isWritten = writer.Write(rows, removed, m_from);
+    const bool isWritten = writer.Write(rows, removed, m_from)
+        && (fields.NewReceipts.isEmpty() || cReceipts(m_tools).Add(rows.first().Entry.ID, fields.NewReceipts));
     if (!step.DoneIf(isWritten && guard.Allows() && (!m_onStored || m_onStored(rows.first().Entry.ID)))) {
         return eSaved::Refused;
     }
     m_onStored = nullptr; // a further entry has nothing to do with the transaction
     Remember(rows);
     return eSaved::Saved;
+}
+
+// The receipts of parts that go hang at the first one from now on.
+void cEntryEditor::KeepReceipts(QList<cEntryWrite>& rows, const QList<int>& removed) const
+{
+    QStringList names = modReceiptName::Of(rows.first().Entry);
+    for (const int id : removed) {
+        const std::optional<cEntryItem> part = m_tools.Data.LoadEntry(id);
+        const QStringList more = part ? modReceiptName::Of(*part) : QStringList();
+        for (const QString& name : more) {
+            if (!names.contains(name)) {
+                names.append(name);
+            }
+        }
+    }
+    modReceiptName::Set(rows.first().Entry, names);
 }
 
 QString cEntryEditor::StepName(const cEntryItem& entry) const

@@ -17,13 +17,14 @@ struct cLibrary
     const char* Licence;
 };
 
-constexpr std::array<cLibrary, 9> libraries{{
+constexpr std::array<cLibrary, 10> libraries{{
     {"Qt 6", QT_TRANSLATE_NOOP("cText", "Fenster, Netz, Texte"), "LGPL-3.0"},
     {"SQLite", QT_TRANSLATE_NOOP("cText", "die Datenbank"), QT_TRANSLATE_NOOP("cText", "gemeinfrei")},
     {"SQLiteCpp", QT_TRANSLATE_NOOP("cText", "Zugriff auf die Datenbank"), "MIT"},
     {"pugixml", QT_TRANSLATE_NOOP("cText", "liest XML"), "MIT"},
     {"gumbo", QT_TRANSLATE_NOOP("cText", "liest HTML"), "Apache-2.0"},
     {"litehtml", QT_TRANSLATE_NOOP("cText", "zeigt Berichte"), "BSD-3-Clause"},
+    {"Poppler", QT_TRANSLATE_NOOP("cText", "zeigt PDF-Belege"), "GPL-2.0-or-later"},
     {"minizip, zlib", QT_TRANSLATE_NOOP("cText", "liest Zip-Archive"), "Zlib"},
     {"libxlsxwriter", QT_TRANSLATE_NOOP("cText", "schreibt Excel-Dateien"), "BSD-2-Clause"},
     {"bankdata-germany, fints-institute-db", QT_TRANSLATE_NOOP("cText", "Verzeichnis der Banken"), "MIT, CC0-1.0"},

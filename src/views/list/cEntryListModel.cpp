@@ -4,6 +4,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
+#include "model/modReceiptName.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "views/list/cEntryFilter.h"
@@ -29,7 +30,16 @@ constexpr std::array<const char*, cEntryListModel::ColumnCount> titles{
     QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
     QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Intervall"),
     QT_TRANSLATE_NOOP("cText", "Betrag"),       QT_TRANSLATE_NOOP("cText", "Saldo"),
+    QT_TRANSLATE_NOOP("cText", "Beleg"),
 };
+
+// Nothing at all where there is none, so that nobody has to hear it.
+QVariant ReceiptText(const cEntryItem& entry)
+{
+    const int count = modReceiptName::Count(entry);
+    return count == 0 ? QVariant()
+                      : QVariant(count == 1 ? cText::Tr("1 Beleg") : cText::Tr("{0} Belege", {QString::number(count)}));
+}
 
 bool IsMoneyColumn(int column)
 {
@@ -337,9 +347,11 @@ QVariant cEntryListModel::EntryData(int entry, int column, int role) const
     const cEntryItem& item = m_content.Entries.at(entry);
     switch (role) {
     case Qt::DisplayRole: return Text(entry, column);
-    case Qt::ToolTipRole: return Tip(item);
+    case Qt::ToolTipRole: return column == Receipts ? ReceiptText(item) : QVariant(Tip(item));
     case FutureRole: return item.EntryDate > m_content.Today;
     case CorrectedRole: return item.IsCorrected;
+    case ReceiptsRole: return column == Receipts ? modReceiptName::Count(item) : 0;
+    case Qt::AccessibleTextRole: return column == Receipts ? ReceiptText(item) : QVariant();
     case CentsRole: {
         const std::optional<qint64> cents = Cents(entry, column);
         return cents ? QVariant(*cents) : QVariant();
@@ -391,6 +403,10 @@ QString cEntryListModel::Text(int entry, int column) const
         const QString interval = modWord::Intervals().ToShown(item.EntryInterval);
         const QString split = modSplit::Group(item) == 0 ? interval : cText::Tr("{0}, Teil", {interval});
         return item.IsCorrected ? cText::Tr("{0}, korrigiert", {split}) : split;
+    }
+    case Receipts: {
+        const int count = modReceiptName::Count(item);
+        return count == 0 ? QString() : QString::number(count);
     }
     case Amount:
     case Balance: {

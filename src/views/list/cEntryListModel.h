@@ -23,7 +23,7 @@ class cEntryListModel final : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    enum eColumn { Date, Type, Category, Account, Description, Interval, Amount, Balance, ColumnCount };
+    enum eColumn { Date, Type, Category, Account, Description, Interval, Amount, Balance, Receipts, ColumnCount };
 
     enum eRole {
         ToneRole = Qt::UserRole, // int of eMoneyTone
@@ -32,6 +32,7 @@ public:
         GroupRole,               // bool: the row is the head of a group
         CentsRole,               // qint64: signed cents of a money column; invalid where the list shows none
         NameRole,                // text: name of a group, without its count
+        ReceiptsRole,            // int: number of receipts; 0 in every other column
     };
 
     // What an amount means, for whoever paints it.

@@ -59,7 +59,7 @@ cListLayout cListLayout::ForLetter(int letter) const
     return layout;
 }
 
-std::optional<cListLayout> cListLayout::FromText(const QString& text, int columnCount)
+std::optional<cListLayout> cListLayout::FromText(const QString& text, int columnCount, int oldCount)
 {
     cListLayout layout;
     const QStringList parts = text.split(u'|', Qt::SkipEmptyParts);
@@ -78,6 +78,12 @@ std::optional<cListLayout> cListLayout::FromText(const QString& text, int column
             return std::nullopt;
         }
         layout.Columns.push_back(*column);
+    }
+    const auto count = static_cast<int>(layout.Columns.size());
+    if (oldCount > 0 && count >= oldCount && IsComplete(layout, count)) {
+        for (int column = count; column < columnCount; ++column) {
+            layout.Columns.push_back({column, 0, true});
+        }
     }
     return IsComplete(layout, columnCount) ? std::optional(layout) : std::nullopt;
 }

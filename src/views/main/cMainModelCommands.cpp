@@ -70,9 +70,12 @@ bool cMainModel::Execute(int command)
     case modCommand::Rules:
     case modCommand::BankLogins:
     case modCommand::FetchTransactions:
+    case modCommand::AddReceipt:
+    case modCommand::ShowReceipts:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     case modCommand::DuplicateToday: Duplicate(m_selection, cEntryDuplicate::eDay::Today); break;
     case modCommand::DuplicateNextMonth: Duplicate(m_selection, cEntryDuplicate::eDay::NextMonth); break;
+    case modCommand::Budget:
     case modCommand::CopyRows:
     case modCommand::ChangeMany:
     case modCommand::SaveView:

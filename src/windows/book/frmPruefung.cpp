@@ -29,6 +29,7 @@ frmPruefung::frmPruefung(cBookCheck& check, QWidget* parent)
       m_check(check),
       m_file(new QLabel(this)),
       m_entries(new QLabel(this)),
+      m_receipts(new QLabel(this)),
       m_tree(new QTreeView(this)),
       m_edit(new QPushButton(cText::Tr("Eintrag &bearbeiten…"), this)),
       m_delete(new QPushButton(cText::Tr("Eintrag &löschen…"), this))
@@ -42,6 +43,10 @@ frmPruefung::frmPruefung(cBookCheck& check, QWidget* parent)
     }
     BuildList();
     layout->addWidget(m_tree, 1);
+    m_receipts->setWordWrap(true);
+    m_receipts->setTextFormat(Qt::PlainText);
+    m_receipts->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(m_receipts);
     layout->addLayout(BuildButtons());
     connect(&m_check, &QAbstractItemModel::modelReset, this, &frmPruefung::ShowFindings);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmPruefung::ShowButtons);
@@ -97,6 +102,8 @@ void frmPruefung::ShowFindings()
 {
     m_file->setText(m_check.FileText());
     m_entries->setText(m_check.EntriesText());
+    m_receipts->setText(m_check.ReceiptText());
+    m_receipts->setVisible(!m_receipts->text().isEmpty());
     m_tree->setCurrentIndex(m_check.index(0, 0));
     ShowButtons();
 }

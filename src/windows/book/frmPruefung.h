@@ -32,6 +32,7 @@ private:
     cBookCheck& m_check;
     QLabel* m_file;
     QLabel* m_entries;
+    QLabel* m_receipts;
     QTreeView* m_tree;
     QPushButton* m_edit;
     QPushButton* m_delete;

@@ -4,6 +4,7 @@
 #include "windows/widget/modWrapped.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -22,7 +23,8 @@ frmSicherungen::frmSicherungen(cBackupSettings& settings, QWidget* parent)
     : QDialog(parent),
       m_settings(settings),
       m_count(new QSpinBox(this)),
-      m_folder(new QLineEdit(this))
+      m_folder(new QLineEdit(this)),
+      m_receipts(new QCheckBox(cText::Tr("&Belege mitsichern"), this))
 {
     setWindowTitle(cText::Tr("Automatische Datensicherung"));
     auto* form = new QFormLayout(this);
@@ -67,6 +69,11 @@ void frmSicherungen::BuildFields(QFormLayout& form)
     label->setBuddy(m_folder);
     form.addRow(label, row);
     connect(choose, &QPushButton::clicked, this, &frmSicherungen::ChooseFolder);
+
+    m_receipts->setChecked(fields.HasReceipts);
+    m_receipts->setToolTip(cText::Tr("Kopiert neue Dateien aus dem Ordner \"Belege\" neben die Sicherungen, jede nur "
+                                     "einmal. Gilt auch für Sicherungen, die Sie selbst erstellen."));
+    form.addRow(QString(), m_receipts);
 }
 
 void frmSicherungen::ChooseFolder()
@@ -76,7 +83,7 @@ void frmSicherungen::ChooseFolder()
 
 void frmSicherungen::Save()
 {
-    if (m_settings.Save({m_count->value(), m_folder->text()})) {
+    if (m_settings.Save({m_count->value(), m_folder->text(), m_receipts->isChecked()})) {
         accept();
     }
 }

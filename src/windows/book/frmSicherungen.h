@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QFormLayout;
 class QLineEdit;
 class QSpinBox;
@@ -24,4 +25,5 @@ private:
     cBackupSettings& m_settings;
     QSpinBox* m_count;
     QLineEdit* m_folder;
+    QCheckBox* m_receipts;
 };

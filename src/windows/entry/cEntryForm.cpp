@@ -5,6 +5,7 @@
 #include "model/modWord.h"
 #include "windows/entry/cSplitPage.h"
 #include "windows/entry/cSplitTable.h"
+#include "windows/receipt/cReceiptField.h"
 #include "windows/widget/cAmountEdit.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/cDayEdit.h"
@@ -54,6 +55,7 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       EntryDateCheck(new QCheckBox(cText::Tr("endet a&m"), m_seriesRow)),
       EntryDateEnd(new cDayEdit(editor.Today(), m_seriesRow)),
       m_preview(new QLabel(this)),
+      m_receipts(new cReceiptField(this)),
       m_split(new cSplitPage(
           editor, [this] { return Read(); }, this))
 {
@@ -100,6 +102,7 @@ void cEntryForm::Build()
     AddRow(cText::Tr("&Intervall:"), cboInterval);
     m_form->addRow(QString(), m_seriesRow);
     m_form->addRow(QString(), m_preview);
+    AddRow(cText::Tr("Belege:"), m_receipts);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, layout->spacing(), 0, 0); // in line with the buttons below
     layout->addWidget(m_startText);
@@ -158,7 +161,8 @@ void cEntryForm::OrderTabs()
             setTabOrder(named.at(i - 1).first, named.at(i).first);
         }
     }
-    setTabOrder(EntryDateEnd, m_split);
+    setTabOrder(EntryDateEnd, m_receipts);
+    setTabOrder(m_receipts, m_split);
     if (m_fields.Face == eEntryFace::StartBalance) {
         setTabOrder(cboKonto, txtBetrag);
         setTabOrder(txtBetrag, txtBeschreibung);
@@ -178,6 +182,12 @@ void cEntryForm::Offer()
 
 void cEntryForm::Connect()
 {
+    connect(m_receipts, &cReceiptField::ChooseRequested, this, [this] { AddReceipts(m_editor.ChooseReceipts()); });
+    connect(m_receipts, &cReceiptField::Added, this, &cEntryForm::AddReceipts);
+    connect(m_receipts, &cReceiptField::ClearRequested, this, [this] {
+        m_fields.NewReceipts.clear();
+        ShowReceipts();
+    });
     connect(txtBetrag, &QLineEdit::textEdited, this, [this] { m_fields.IsAmountTyped = true; });
     connect(txtBetrag, &QLineEdit::textChanged, this, &cEntryForm::ShowAmount);
     connect(m_split, &cSplitPage::DefaultsTaken, this, &cEntryForm::TakeDefaults);
@@ -260,8 +270,22 @@ void cEntryForm::ShowFace()
     m_form->setRowVisible(cboBuchungsart, face != eEntryFace::StartBalance);
     m_form->setRowVisible(cboInterval, face != eEntryFace::StartBalance);
     m_split->setVisible(face == eEntryFace::Split);
+    m_form->setRowVisible(m_receipts, face != eEntryFace::StartBalance);
     ShowTarget();
     ShowSeries();
+    ShowReceipts();
+}
+
+void cEntryForm::ShowReceipts()
+{
+    m_receipts->ShowText(m_editor.ReceiptText(m_fields));
+    m_receipts->SetNewCount(m_fields.NewReceipts.size());
+}
+
+void cEntryForm::AddReceipts(const QList<cReceiptSource>& sources)
+{
+    m_fields.NewReceipts.append(sources);
+    ShowReceipts();
 }
 
 void cEntryForm::ShowTarget()

@@ -7,6 +7,7 @@
 class cAmountEdit;
 class cCategoryBox;
 class cDayEdit;
+class cReceiptField;
 class cSplitPage;
 class QCheckBox;
 class QComboBox;
@@ -57,6 +58,8 @@ private:
     void ShowTarget();
     void ShowAmount();
     void ShowSeries();
+    void ShowReceipts();
+    void AddReceipts(const QList<cReceiptSource>& sources);
     void ChooseCategory(const QString& path);
     void TakeDefaults(const cEntryFields& fields);
     void ChooseDescription(const QString& text);
@@ -81,5 +84,6 @@ private:
     QCheckBox* EntryDateCheck;
     cDayEdit* EntryDateEnd;
     QLabel* m_preview;
+    cReceiptField* m_receipts;
     cSplitPage* m_split;
 };

@@ -1,6 +1,7 @@
 #include "windows/main/cEntryDelegate.h"
 
 #include "views/list/cEntryListModel.h"
+#include "windows/widget/modIcon.h"
 
 void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
@@ -17,6 +18,11 @@ void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
         index.column() == cEntryListModel::Interval && index.data(cEntryListModel::CorrectedRole).toBool();
     if (isCorrection) {
         option->font.setUnderline(true);
+    }
+    if (const int receipts = index.data(cEntryListModel::ReceiptsRole).toInt(); receipts > 0) {
+        option->icon = modIcon::Get(QStringLiteral("beleg"));
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->text = receipts > 1 ? option->text : QString(); // the clip alone says that there is one
     }
     if (isMoney) {
         SetTone(*option, index.data(cEntryListModel::ToneRole).toInt());

@@ -19,8 +19,10 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},   {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount},
-                                               {16, eKind::Amount}};
+const std::vector<cColumnFit::cColumn> columns{
+    {14, eKind::Day}, {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount}, {16, eKind::Amount}, {7, eKind::Text, 6}};
+
+constexpr int firstColumns = cEntryListModel::Receipts; // the list had no more when layouts were first stored
 
 } // namespace
 
@@ -92,7 +94,7 @@ QString cEntryTree::LayoutText() const
 void cEntryTree::SetLayoutText(const QString& text)
 {
     SetDefaultLayout();
-    const std::optional<cListLayout> layout = cListLayout::FromText(text, cEntryListModel::ColumnCount);
+    const std::optional<cListLayout> layout = cListLayout::FromText(text, cEntryListModel::ColumnCount, firstColumns);
     if (!layout) {
         return;
     }

@@ -10,6 +10,7 @@
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSumBar.h"
 #include "windows/main/cViewBar.h"
+#include "windows/receipt/cReceiptDrop.h"
 #include "windows/widget/modDrop.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
@@ -195,6 +196,9 @@ void frmMain::Connect()
     connect(m_dayJump, &cDayJump::RowFound, m_tree, &cEntryTree::GoTo);
     connect(m_dayJump, &cDayJump::Told, this, &frmMain::Tell);
     connect(m_dayJump, &cDayJump::Closed, m_tree, qOverload<>(&QWidget::setFocus));
+    auto* drop = new cReceiptDrop(*m_tree, m_model.Entries());
+    connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmMain::ReceiptsDropped);
+    connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped);
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.

@@ -60,8 +60,9 @@ public:
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
-    void Closing();                      // place and columns have been saved
-    void PageShown(frmMain::ePage page); // it came to the front
+    void ReceiptsDropped(int entryId, const QStringList& paths); // on an entry of the list
+    void Closing();                                              // place and columns have been saved
+    void PageShown(frmMain::ePage page);                         // it came to the front
     void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account); // onto an account
 
 protected:

@@ -5,6 +5,7 @@
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSearchFields.h"
 #include "windows/main/cSumBar.h"
+#include "windows/receipt/cReceiptDrop.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
@@ -92,10 +93,17 @@ void frmSuche::Connect()
     connect(&m_model, &cSearchModel::Found, this, &frmSuche::ShowFound);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, this, &frmSuche::ShowButtons);
     connect(m_tree, &QTreeView::doubleClicked, this, &frmSuche::Edit);
+    auto* drop = new cReceiptDrop(*m_tree, m_model.Entries());
+    connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmSuche::ReceiptsDropped);
     connect(m_edit, &QPushButton::clicked, this, &frmSuche::Edit);
     connect(m_delete, &QPushButton::clicked, this, &frmSuche::Delete);
     connect(m_clear, &QPushButton::clicked, m_fields, &cSearchFields::Clear);
     connect(m_close, &QPushButton::clicked, this, &QDialog::close);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_B, this), &QShortcut::activated, this, [this] {
+        if (const int entry = m_model.Entries().KeyAt(m_tree->currentIndex()).ID; entry > 0) {
+            Q_EMIT ReceiptsRequested(entry);
+        }
+    });
     // What was deleted here is taken back here as well; the keys of the main window do not reach this one.
     connect(new QShortcut(Qt::CTRL | Qt::Key_Z, this), &QShortcut::activated, this, &frmSuche::UndoRequested);
     connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, this), &QShortcut::activated, this,

@@ -31,6 +31,8 @@ Q_SIGNALS:
     void ChangeRequested(const QList<cEntryListModel::cKey>& keys);
     void DuplicateRequested(const QList<cEntryListModel::cKey>& keys); // for today
     void CellWritten();                                                // in the list of what was found
+    void ReceiptsDropped(int entryId, const QStringList& paths);
+    void ReceiptsRequested(int entryId); // the window of the entry's receipts
     void UndoRequested();
     void RedoRequested();
 

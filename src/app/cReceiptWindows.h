@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/cQtFileDesk.h"
+
+#include <QStringList>
+
+class QWidget;
+class cMainModel;
+struct cBookTools;
+
+// Opens the receipts of entries and hangs files at them.
+class cReceiptWindows
+{
+public:
+    cReceiptWindows(const cBookTools& tools, cMainModel& model) : m_tools(tools), m_model(model) {}
+
+    void Show(int entryId, QWidget* parent);
+    void Choose(int entryId); // files that become receipts
+    void Add(int entryId, const QStringList& paths);
+
+private:
+    const cBookTools& m_tools;
+    cMainModel& m_model;
+    cQtFileDesk m_desk;
+};

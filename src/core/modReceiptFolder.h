@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+class cConfiguration;
+
+// The folder of a book's receipts, and its copy beside the backups. Receipts never change and no name is given twice,
+// so one folder serves all backups that lie together: each file is copied once, and none is ever removed there.
+namespace modReceiptFolder {
+
+// "Belege" beside the book.
+[[nodiscard]] QString Of(const QString& book);
+
+// "<name>-Belege" beside the backup; the name is that of the backup without its day.
+[[nodiscard]] QString CopyOf(const QString& backup);
+
+// Copies what the folder beside the backup lacks. A file there that has the name but another content is kept under its
+// day. What went wrong, in words for the user; empty when all files are there.
+[[nodiscard]] QString Save(const QString& book, const QString& backup);
+
+// The same where the user wants receipts in the backups; else nothing, and no problem.
+[[nodiscard]] QString SaveIfWished(const cConfiguration& configuration, const QString& book, const QString& backup);
+
+// Copies the other way what the book's folder lacks; what is there stays as it is.
+[[nodiscard]] QString BringBack(const QString& backup, const QString& book);
+
+} // namespace modReceiptFolder

@@ -1,0 +1,294 @@
+#include "base/cFileDesk.h"
+#include "core/modReceiptFolder.h"
+#include "model/modFlags.h"
+#include "model/modReceiptName.h"
+#include "support/cTestClass.h"
+#include "support/testBook.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/list/cEntryListModel.h"
+#include "views/receipt/cReceiptListModel.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A desktop whose trash is a list; without one every file stays.
+class cFakeDesk final : public cFileDesk
+{
+public:
+    bool OpenFile(const QString& path) override
+    {
+        Opened.append(QFileInfo(path).fileName());
+        return true;
+    }
+    bool MoveToTrash(const QString& path) override { return HasTrash && QFile::remove(path); }
+
+    QStringList Opened;
+    bool HasTrash = true;
+};
+
+struct cScene
+{
+    cTestBook Book;
+    cFakeDesk Desk;
+    QTemporaryDir Outside;
+    cReceipts Receipts{Book.Tools};
+    int Entry = Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Rewe: 1/2 Kuchen?"_s; }).ID;
+
+    QString File(const QString& name, const QByteArray& content) const
+    {
+        QFile file(Outside.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0) {
+            qFatal("no room for a file");
+        }
+        return file.fileName();
+    }
+    QStringList Folder() const { return QDir(Receipts.Folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    QStringList Names(int entry)
+    {
+        return modReceiptName::Of(Book.Data.LoadEntry(entry).value_or(cEntryItem{}));
+    }
+    QByteArray Content(const QString& name) const
+    {
+        QFile file(Receipts.File(name).Path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+const QString first = u"2026-03-10 Rewe 1 2 Kuchen 1.pdf"_s;
+const QString second = u"2026-03-10 Rewe 1 2 Kuchen 2.png"_s;
+
+} // namespace
+
+class testReceipts final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void NamesSurviveTheMark_data();
+    void NamesSurviveTheMark();
+    void CopiesAreNamedAndNeverOverwrite();
+    void UndoTakesTheMarkOffAndKeepsTheFile();
+    void HalfAnAddingLeavesNothing();
+    void RemovedFilesGoToTheTrashUnlessShared();
+    void MissingFileIsChosenAnew();
+    void ProgramsAreNotStarted();
+    void TheEditorHangsThemAtWhatItSaves();
+    void PartsThatGoLeaveTheirReceipts();
+    void BackupsShareOneFolder();
+};
+
+void testReceipts::NamesSurviveTheMark_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isKept");
+
+    QTest::newRow("signs of the mark") << u"a;b=c,d%e.pdf"_s << true;
+    QTest::newRow("letters") << u"Ärger, groß – 1.pdf"_s << true;
+    QTest::newRow("out of the folder") << u"../../etc/passwd"_s << false;
+    QTest::newRow("a device path") << u"C:\\Windows\\win.ini"_s << false;
+    QTest::newRow("hidden") << u".bashrc"_s << false;
+    QTest::newRow("a line end") << u"a\nb.pdf"_s << false;
+}
+
+// A book may come from anybody; its marks lead to files that the user deletes or opens.
+void testReceipts::NamesSurviveTheMark()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, isKept);
+    cEntryItem entry;
+    entry.EntryFlags = u"split=7"_s;
+    modReceiptName::Set(entry, {name, u"b.pdf"_s});
+    const QStringList good{u"b.pdf"_s};
+    QCOMPARE(modReceiptName::Of(entry), isKept ? QStringList{name} + good : good);
+    QCOMPARE(modFlags::Get(entry.EntryFlags, u"split"_s), u"7"_s);
+}
+
+void testReceipts::CopiesAreNamedAndNeverOverwrite()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"Scan.PDF"_s, "eins")}, {{}, "PNG"}}));
+    QCOMPARE(scene.Names(scene.Entry), (QStringList{first, second}));
+    QCOMPARE(scene.Folder(), (QStringList{first, second}));
+    QCOMPARE(scene.Content(first), "eins");
+
+    // The number of a file that is missing at the moment is taken too: it may come back.
+    QVERIFY(QFile::remove(scene.Receipts.File(first).Path));
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"b.pdf"_s, "zwei")}}));
+    QCOMPARE(scene.Names(scene.Entry).last(), u"2026-03-10 Rewe 1 2 Kuchen 2.pdf"_s);
+
+    // What lies in the folder already is not copied again.
+    const int other = scene.Book.Add([](cEntryItem&) {}).ID;
+    QVERIFY(scene.Receipts.Add(other, {{scene.Receipts.File(second).Path}}));
+    QCOMPARE(scene.Names(other), QStringList{second});
+    QCOMPARE(scene.Folder().size(), 2);
+
+    cEntryListModel list(scene.Book.Format);
+    list.SetContent({.Entries = {*scene.Book.Data.LoadEntry(scene.Entry)}, .Account = {}, .Today = {}}, {}, {});
+    QCOMPARE(list.index(0, cEntryListModel::Receipts).data().toString(), u"3"_s);
+    QCOMPARE(list.index(0, cEntryListModel::Receipts).data(Qt::AccessibleTextRole).toString(), u"3 Belege"_s);
+}
+
+void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    QVERIFY(scene.Receipts.CheckText(scene.Book.Data).isEmpty());
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Names(scene.Entry), QStringList());
+    QCOMPARE(scene.Receipts.Unused(), QStringList{first});
+    QVERIFY(scene.Receipts.CheckText(scene.Book.Data).contains(u"gehören Dateien zu keinem Eintrag dieses Buchs: "_s + first));
+    QVERIFY(scene.Book.Data.Journal().Redo());
+    QCOMPARE(scene.Content(scene.Names(scene.Entry).value(0)), "eins");
+    QVERIFY(scene.Book.Data.DeleteEntry(scene.Entry));
+    QCOMPARE(scene.Receipts.Unused(), QStringList{first});
+}
+
+void testReceipts::HalfAnAddingLeavesNothing()
+{
+    cScene scene;
+    QVERIFY(!scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}, {scene.Outside.filePath(u"weg.pdf"_s)}}));
+    QCOMPARE(scene.Names(scene.Entry), QStringList());
+    QCOMPARE(scene.Folder(), QStringList());
+    QCOMPARE(scene.Book.User.Shown, QStringList{u"'weg.pdf' ist keine Datei."_s});
+    QVERIFY(QFile::exists(scene.Outside.filePath(u"a.pdf"_s)));
+}
+
+void testReceipts::RemovedFilesGoToTheTrashUnlessShared()
+{
+    cScene scene;
+    const int other = scene.Book.Add([](cEntryItem&) {}).ID;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    QVERIFY(scene.Receipts.Add(other, {{scene.Receipts.File(first).Path}}));
+
+    cReceiptListModel list(scene.Book.Tools, scene.Desk, scene.Entry);
+    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+    list.Remove(0);
+    QCOMPARE(list.rowCount(), 1);
+    list.Remove(0);
+    QCOMPARE(list.rowCount(), 0);
+    QCOMPARE(scene.Folder(), QStringList{first});
+    QVERIFY(scene.Book.User.Asked.last().endsWith(u"Die Datei bleibt, weil auch ein anderer Eintrag sie hat."_s));
+
+    cReceiptListModel last(scene.Book.Tools, scene.Desk, other);
+    scene.Desk.HasTrash = false;
+    scene.Book.User.Answers = {eAnswer::Yes};
+    last.Remove(0);
+    QVERIFY(scene.Book.User.Shown.last().startsWith(u"Hier gibt es keinen Papierkorb."_s));
+    QCOMPARE(scene.Folder(), QStringList{first});
+    QVERIFY(scene.Book.Data.Journal().Undo());
+
+    scene.Desk.HasTrash = true;
+    cReceiptListModel again(scene.Book.Tools, scene.Desk, other);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    again.Remove(0);
+    QCOMPARE(scene.Folder(), QStringList());
+}
+
+void testReceipts::MissingFileIsChosenAnew()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    QVERIFY(QFile::remove(scene.Receipts.File(first).Path));
+    cReceiptListModel list(scene.Book.Tools, scene.Desk, scene.Entry);
+    QVERIFY(list.IsMissing(0));
+    QCOMPARE(list.index(0).data().toString(), first + u" (fehlt)"_s);
+    QVERIFY(scene.Receipts.CheckText(scene.Book.Data).contains(u"fehlen Belege: "_s + first));
+
+    scene.Book.User.Files = {scene.File(u"b.pdf"_s, "zwei")};
+    list.ChooseAgain(0);
+    QCOMPARE(scene.Content(first), "zwei");
+    QVERIFY(QFile::remove(scene.Receipts.File(first).Path));
+    cReceiptListModel other(scene.Book.Tools, scene.Desk, scene.Entry);
+    scene.Book.User.Files = {scene.File(u"b.png"_s, "drei")};
+    other.ChooseAgain(0);
+    QCOMPARE(scene.Names(scene.Entry), QStringList{u"2026-03-10 Rewe 1 2 Kuchen 1.png"_s});
+}
+
+void testReceipts::ProgramsAreNotStarted()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.desktop"_s, "x")}, {scene.File(u"a.pdf"_s, "x")}}));
+    cReceiptListModel list(scene.Book.Tools, scene.Desk, scene.Entry);
+    list.Open(0);
+    list.Open(1);
+    QCOMPARE(scene.Desk.Opened, QStringList{list.NameAt(1)});
+    QVERIFY(scene.Book.User.Shown.last().contains(u"wird deshalb nicht geöffnet"_s));
+}
+
+void testReceipts::TheEditorHangsThemAtWhatItSaves()
+{
+    cScene scene;
+    cEntryEditor editor(scene.Book.Tools);
+    cEntryFields fields = editor.Start(u"Girokonto"_s);
+    fields.Amount = u"12,50"_s;
+    fields.Category = u"Haushalt; Lebensmittel"_s;
+    fields.Description = u"Markt"_s;
+    fields.Type = modWord::Ausgabe;
+    fields.NewReceipts = {{scene.File(u"a.jpg"_s, "Bild")}};
+    QCOMPARE(editor.ReceiptText(fields), u"1 neu"_s);
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    const int id = editor.SavedId();
+    QCOMPARE(scene.Names(id), QStringList{u"2026-03-15 Markt 1.jpg"_s});
+    QVERIFY(scene.Book.Data.Journal().Undo()); // the entry and its receipt came in one step
+    QVERIFY(!scene.Book.Data.LoadEntry(id));
+
+    fields.NewReceipts = {{scene.Outside.filePath(u"weg.jpg"_s)}};
+    const int before = scene.Book.Data.CountEntries();
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+    QCOMPARE(scene.Book.Data.CountEntries(), before);
+}
+
+void testReceipts::PartsThatGoLeaveTheirReceipts()
+{
+    cScene scene;
+    cEntryEditor editor(scene.Book.Tools);
+    std::optional<cEntryFields> fields = editor.Load(scene.Entry);
+    editor.UseSplit(*fields);
+    fields->Parts[0].Amount = u"6"_s;
+    fields->Parts.append({.Category = u"Haushalt; Lebensmittel"_s, .Amount = u"4"_s});
+    QCOMPARE(editor.Save(*fields), cEntryEditor::eSaved::Saved);
+    const cEntryItemList parts = scene.Book.Data.GetEntriesOfSplit(scene.Entry);
+    QCOMPARE(parts.size(), 2);
+    QVERIFY(scene.Receipts.Add(parts.last().ID, {{scene.File(u"a.pdf"_s, "eins")}}));
+
+    fields = editor.Load(scene.Entry);
+    QCOMPARE(editor.ReceiptText(*fields), u"1 Beleg"_s);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    QVERIFY(editor.UseNormal(*fields));
+    QCOMPARE(editor.Save(*fields), cEntryEditor::eSaved::Saved);
+    QCOMPARE(scene.Names(scene.Entry).size(), 1);
+    QVERIFY(scene.Receipts.Unused().isEmpty());
+}
+
+void testReceipts::BackupsShareOneFolder()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    const QString one = scene.Outside.filePath(u"buch-auto-2026-03-14.backup"_s);
+    const QString two = scene.Outside.filePath(u"buch-auto-2026-03-15-2.backup"_s);
+    const QString copies = scene.Outside.filePath(u"buch-auto-Belege"_s);
+    const auto saved = [&] { return QDir(copies).entryList(QDir::Files | QDir::Hidden, QDir::Name); };
+    QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), one), QString());
+    QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), two), QString());
+    QCOMPARE(saved(), QStringList{first});
+
+    // Another file of that name, after the first one had gone, takes nothing from the older backup.
+    QFile file(scene.Receipts.File(first).Path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("anderes") > 0);
+    file.close();
+    QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), two), QString());
+    QCOMPARE(saved().size(), 2);
+
+    // What is there stays, what is missing comes back.
+    QVERIFY(file.remove());
+    QCOMPARE(modReceiptFolder::BringBack(two, scene.Book.Path()), QString());
+    QCOMPARE(scene.Content(first), "anderes");
+}
+
+TEST_CLASS(testReceipts, QCoreApplication)
+#include "testReceipts.moc"
