@@ -72,21 +72,18 @@ bool cMainModel::Execute(int command)
     case modCommand::FetchTransactions:
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts:
-    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
-    case modCommand::DuplicateToday: Duplicate(m_selection, cEntryDuplicate::eDay::Today); break;
-    case modCommand::DuplicateNextMonth: Duplicate(m_selection, cEntryDuplicate::eDay::NextMonth); break;
-    case modCommand::Budget:
     case modCommand::CopyRows:
     case modCommand::ChangeMany:
     case modCommand::SaveView:
     case modCommand::SavedViews:
-    case modCommand::GoToDay: m_parts.Navigator.Open(known->Id); break;
+    case modCommand::GoToDay:
     case modCommand::Budget:
-    case modCommand::AddReceipt:
-    case modCommand::ShowReceipts:
     case modCommand::People:
     case modCommand::Settlement:
-    case modCommand::Reminders: return false; // no row in the table yet
+    case modCommand::Reminders:
+    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
+    case modCommand::DuplicateToday: Duplicate(m_selection, cEntryDuplicate::eDay::Today); break;
+    case modCommand::DuplicateNextMonth: Duplicate(m_selection, cEntryDuplicate::eDay::NextMonth); break;
     }
     return true;
 }
