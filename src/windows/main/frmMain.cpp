@@ -196,6 +196,7 @@ void frmMain::Connect()
     connect(m_dayJump, &cDayJump::Told, this, &frmMain::Tell);
     connect(m_dayJump, &cDayJump::Closed, m_tree, qOverload<>(&QWidget::setFocus));
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
+    connect(m_accounts, &cAccountPanel::RowsDropped, this, &frmMain::RowsDropped);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
