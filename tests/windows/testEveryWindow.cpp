@@ -34,7 +34,6 @@
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
 #include "views/overview/cOverviewModel.h"
-#include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
@@ -60,7 +59,6 @@
 #include "windows/help/frmHandbuch.h"
 #include "windows/help/frmUpdate.h"
 #include "windows/main/frmMain.h"
-#include "windows/main/frmMehrere.h"
 #include "windows/main/frmSuche.h"
 #include "windows/overview/frmUebersicht.h"
 #include "windows/statement/frmImport.h"
@@ -155,7 +153,6 @@ struct cScene
     cSeriesChange Change{Book.Tools};
     cTemplateManager Manager{Book.Tools};
     cSearchModel SearchModel{Book.Tools};
-    std::unique_ptr<cManyChange> Many;
     cPasswordFlow Password{Book.Data, Book.Configuration, Book.User};
     cBook File{Book.User};
     cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
@@ -364,12 +361,6 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmHandbuch>(*scene.Manual);
      }},
     {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
-    {"several entries",
-     [](cScene& scene) {
-         scene.Many = std::make_unique<cManyChange>(
-             scene.Book.Tools, QList<cEntryListModel::cKey>{{scene.Series.ID, {}}, {scene.Part.ID, {}}});
-         return std::make_unique<frmMehrere>(*scene.Many);
-     }},
     {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
     {"assignment",
      [](cScene& scene) {

@@ -96,7 +96,8 @@ void frmMain::BuildCommands()
             toolBar->addAction(action);
         }
         if (modCommand::Has(command, modCommand::NeedsEntry) || modCommand::Has(command, modCommand::NeedsOccurrence)) {
-            m_tree->addAction(action);
+            // Of a submenu the whole: "Für heute" alone would not say what.
+            m_tree->addAction(command.Submenu == nullptr ? action : menu.menuAction());
         }
     }
     m_view = menus.value(cText::Tr(modCommand::Find(modCommand::ResetView)->Menu));
