@@ -25,7 +25,8 @@ cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain
     QObject::connect(&m_window, &frmMain::RowsDropped, m_menu,
                      [this](const QList<cEntryListModel::cKey>& rows, const QString& account) {
                          cManyChange change(m_tools, rows);
-                         if (change.AskAndSave({.Account = account}) == cManyChange::eSaved::Saved) {
+                         if (!m_model.IsReadOnly()
+                             && change.AskAndSave({.Account = account}) == cManyChange::eSaved::Saved) {
                              m_model.BookChanged();
                          }
                      });

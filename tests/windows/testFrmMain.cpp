@@ -3,8 +3,11 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
+#include "views/sheet/modRowDrag.h"
+#include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
 #include "windows/main/cEntryTree.h"
+#include "windows/main/cSavedViewMenu.h"
 #include "windows/main/frmMain.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cElidedText.h"
@@ -13,9 +16,13 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
@@ -77,6 +84,12 @@ private Q_SLOTS:
     void FreePeriodOpensTheDayFields();
     void EveryControlHasANameForScreenReaders();
     void MnemonicsAreUniqueInEachMenu();
+    void CellsAreTypedInTheList();
+    void BadAmountStaysInItsCell();
+    void RowsGoToTheClipboard();
+    void RowsAreDroppedOnAnAccount();
+    void DayIsJumpedTo();
+    void KeptViewsHaveKeys();
     void WayBackFromASelection();
     void PlaceIsInReach_data();
     void PlaceIsInReach();
@@ -343,6 +356,106 @@ void testFrmMain::PlaceIsInReach()
     QFETCH(QRect, Place);
     QFETCH(QRect, Shown);
     QCOMPARE(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), Shown);
+}
+
+void testFrmMain::CellsAreTypedInTheList()
+{
+    cScene scene;
+    scene.Select(0);
+    const auto type = [](const QString& text, Qt::Key key) {
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QTest::qWait(5);
+    };
+    QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+    type({}, Qt::Key_Tab); // the category stays
+    type(u"Markt"_s, Qt::Key_Tab);
+    type(u"12,50+1"_s, Qt::Key_Return);
+    const cEntryItem stored = scene.Book.Data.LoadEntry(scene.First.ID).value_or(cEntryItem{});
+    QCOMPARE(stored.EntryCategory, scene.First.EntryCategory);
+    QCOMPARE(stored.EntryDescription, u"Markt"_s);
+    QCOMPARE(stored.EntryValue, 1350);
+    QVERIFY(scene.Tree().hasFocus());
+    QCOMPARE(scene.Tree().currentIndex().column(), int(cEntryListModel::Amount));
+    QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+    type(u"99"_s, Qt::Key_Escape);
+    QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryValue, 1350);
+    QVERIFY(scene.Tree().hasFocus());
+    scene.Model.Execute(modCommand::Undo);
+    scene.Model.Execute(modCommand::Undo);
+    QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID), scene.First);
+}
+
+void testFrmMain::BadAmountStaysInItsCell()
+{
+    cScene scene;
+    scene.Tree().setCurrentIndex(scene.Model.Entries().index(0, cEntryListModel::Amount));
+    QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+    QPointer<QWidget> field = QApplication::focusWidget();
+    QTest::keyClicks(field, u"zwölf"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::qWait(5);
+    QVERIFY(field != nullptr && field->hasFocus() && modBadField::IsMarked(*field));
+    QCOMPARE(qobject_cast<QLineEdit*>(field)->text(), u"zwölf"_s);
+    QVERIFY(!field->accessibleName().isEmpty());
+}
+
+void testFrmMain::RowsGoToTheClipboard()
+{
+    cScene scene;
+    scene.Tree().selectAll();
+    scene.Window.CopyRows();
+    const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.at(1).contains(u"Wocheneinkauf\t"_s), qPrintable(lines.at(1)));
+    QVERIFY(QGuiApplication::clipboard()->mimeData()->hasHtml());
+}
+
+void testFrmMain::RowsAreDroppedOnAnAccount()
+{
+    cScene scene;
+    auto* accounts = scene.Window.findChild<cAccountPanel*>()->findChild<QTreeView*>();
+    const QModelIndexList cash =
+        accounts->model()->match(accounts->model()->index(0, 0), Qt::DisplayRole, u"Bargeld"_s);
+    QCOMPARE(cash.size(), 1);
+    const QList<cEntryListModel::cKey> rows{{scene.First.ID, scene.First.EntryDate}};
+    QMimeData data;
+    data.setData(modRowDrag::Format, modRowDrag::ToBytes(rows));
+    QSignalSpy dropped(&scene.Window, &frmMain::RowsDropped);
+    QDropEvent event(accounts->visualRect(cash.first()).center(), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(accounts->viewport(), &event);
+    QTest::qWait(5);
+    QCOMPARE(dropped.size(), 1);
+    QCOMPARE(dropped.first().at(0).value<QList<cEntryListModel::cKey>>(), rows);
+    QCOMPARE(dropped.first().at(1).toString(), u"Bargeld"_s);
+}
+
+void testFrmMain::DayIsJumpedTo()
+{
+    cScene scene;
+    scene.Window.AskDay();
+    QTest::keyClicks(QApplication::focusWidget(), u"12.3."_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(scene.Model.Selection().size(), 1);
+    QCOMPARE(scene.Model.Selection().first().ID, scene.Second.ID);
+    QVERIFY(scene.Tree().hasFocus());
+    scene.Window.AskDay();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(scene.Tree().hasFocus());
+}
+
+void testFrmMain::KeptViewsHaveKeys()
+{
+    cScene scene;
+    cSavedViewMenu menu(scene.Window.MenuOf(modCommand::SavedViews));
+    menu.Show({u"Haushalt & Co"_s, u"Urlaub"_s});
+    QSignalSpy chosen(&menu, &cSavedViewMenu::Chosen);
+    QTest::keyClick(&scene.Tree(), Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(chosen.size(), 1);
+    QCOMPARE(chosen.first().first().toInt(), 1);
+    menu.Show({});
+    QTest::keyClick(&scene.Tree(), Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(chosen.size(), 1);
 }
 
 TEST_CLASS(testFrmMain, QApplication)

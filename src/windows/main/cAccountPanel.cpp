@@ -2,14 +2,17 @@
 
 #include "base/cText.h"
 #include "views/main/cAccountListModel.h"
+#include "views/sheet/modRowDrag.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMimeData>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
@@ -82,6 +85,8 @@ cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
     m_view->header()->setSectionResizeMode(cAccountListModel::Name, QHeaderView::Stretch);
     m_view->header()->setSectionResizeMode(cAccountListModel::Balance, QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(cAccountListModel::Open, QHeaderView::ResizeToContents);
+    m_view->setAcceptDrops(true);
+    m_view->viewport()->setAcceptDrops(true);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cAccountPanel::FitColumns);
@@ -146,6 +151,10 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize) {
         FitColumns();
     }
+    if (event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove || event->type() == QEvent::Drop) {
+        TakeDrag(*static_cast<QDropEvent*>(event)); // the two others are derived from it
+        return event->isAccepted();
+    }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key(); // the event says what it is
         if (key == Qt::Key_Escape) {
@@ -158,6 +167,19 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void cAccountPanel::TakeDrag(QDropEvent& event)
+{
+    const QString account = m_model.AccountAt(m_view->indexAt(event.position().toPoint()));
+    const bool isRows = event.mimeData()->hasFormat(modRowDrag::Format);
+    event.setAccepted(isRows && (!account.isEmpty() || event.type() == QEvent::DragEnter));
+    if (event.type() == QEvent::Drop && event.isAccepted()) {
+        const QList<cEntryListModel::cKey> rows = modRowDrag::FromBytes(event.mimeData()->data(modRowDrag::Format));
+        // The mouse is let go first: what follows asks.
+        QMetaObject::invokeMethod(
+            this, [this, rows, account] { Q_EMIT RowsDropped(rows, account); }, Qt::QueuedConnection);
+    }
 }
 
 void cAccountPanel::OpenMenu(const QPoint& position)

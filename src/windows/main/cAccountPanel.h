@@ -1,8 +1,11 @@
 #pragma once
 
+#include "views/list/cEntryListModel.h"
+
 #include <QWidget>
 
 class cAccountListModel;
+class QDropEvent;
 class QLabel;
 class QModelIndex;
 class QTreeView;
@@ -21,6 +24,7 @@ public:
 Q_SIGNALS:
     void AccountChosen(const QString& account); // empty: all
     void RenameRequested(const QString& account);
+    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -30,6 +34,7 @@ private:
     void FitColumns();
     void OpenMenu(const QPoint& position);
     void Choose(const QModelIndex& row);
+    void TakeDrag(QDropEvent& event); // of entries over an account
 
     cAccountListModel& m_model;
     QLabel* m_title;

@@ -102,6 +102,12 @@ void cCellDelegate::Leave(QWidget& editor, int step)
 
 bool cCellDelegate::eventFilter(QObject* watched, QEvent* event)
 {
+    // A command would rebuild the list, and what is typed would be gone.
+    if (event->type() == QEvent::ShortcutOverride
+        && (static_cast<const QKeyEvent*>(event)->modifiers() & Qt::ControlModifier) != 0) {
+        event->accept();
+        return true;
+    }
     auto* editor = qobject_cast<QWidget*>(watched);
     if (editor != nullptr && event->type() == QEvent::KeyPress) {
         switch (static_cast<const QKeyEvent*>(event)->key()) {

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
+#include "views/sheet/modRowDrag.h"
 #include "windows/main/cCellEditing.h"
 #include "windows/main/cEntryDelegate.h"
 #include "windows/widget/cColumnFit.h"
@@ -9,8 +10,11 @@
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modGroupHead.h"
 
+#include <QDrag>
 #include <QHeaderView>
 #include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
 
 #include <algorithm>
 #include <array>
@@ -135,6 +139,26 @@ QList<int> cEntryTree::ShownColumns() const
 void cEntryTree::Copy() const
 {
     modClipboard::CopyLines(*this, ShownColumns(), cEntryListModel::GroupRole);
+}
+
+// From a line that is selected already the mouse drags, from any other it selects as it goes.
+void cEntryTree::mousePressEvent(QMouseEvent* event)
+{
+    setDragEnabled(selectionModel()->isSelected(indexAt(event->pos())));
+    QTreeView::mousePressEvent(event);
+}
+
+void cEntryTree::startDrag(Qt::DropActions /*actions*/)
+{
+    const QList<cEntryListModel::cKey> keys = SelectedKeys();
+    if (keys.isEmpty()) {
+        return;
+    }
+    auto* data = new QMimeData;
+    data->setData(modRowDrag::Format, modRowDrag::ToBytes(keys));
+    auto* drag = new QDrag(this); // it goes by itself, and the data with it
+    drag->setMimeData(data);
+    drag->exec(Qt::CopyAction);
 }
 
 void cEntryTree::UseCells(cCellEdit& cells)

@@ -41,6 +41,8 @@ Q_SIGNALS:
     void CellWritten(); // what was typed in a cell is stored, and the list has to be read again
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
     void paintEvent(QPaintEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 

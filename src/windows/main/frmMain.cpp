@@ -97,7 +97,8 @@ void frmMain::BuildCommands()
             toolBar->addAction(action);
         }
         if (modCommand::Has(command, modCommand::NeedsEntry) || modCommand::Has(command, modCommand::NeedsOccurrence)) {
-            m_tree->addAction(action);
+            // Of a submenu the whole: "Für heute" alone would not say what.
+            m_tree->addAction(command.Submenu == nullptr ? action : menu.menuAction());
         }
     }
     m_view = menus.value(cText::Tr(modCommand::Find(modCommand::ResetView)->Menu));
@@ -200,6 +201,7 @@ void frmMain::Connect()
     connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmMain::ReceiptsDropped);
     connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped);
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
+    connect(m_accounts, &cAccountPanel::RowsDropped, this, &frmMain::RowsDropped);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {

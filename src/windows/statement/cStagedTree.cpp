@@ -4,12 +4,14 @@
 #include "views/list/cListLayout.h"
 #include "views/statement/cStagedListModel.h"
 #include "windows/widget/cColumnFit.h"
+#include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modGroupHead.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QShortcut>
 
 namespace {
 
@@ -57,6 +59,8 @@ cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(p
     header()->setFirstSectionMovable(true);
     m_fit = new cColumnFit(*this, columns, cStagedListModel::Purpose);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cStagedTree::RestoreSelection);
+    connect(new QShortcut(QKeySequence::Copy, this, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+            [this] { modClipboard::CopyLines(*this, modClipboard::ShownColumns(*this), cStagedListModel::GroupRole); });
     ConnectGroups();
     SetLayoutText({});
 }

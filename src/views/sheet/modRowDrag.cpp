@@ -1,0 +1,25 @@
+#include "views/sheet/modRowDrag.h"
+
+#include "base/modDate.h"
+
+QByteArray modRowDrag::ToBytes(const QList<cEntryListModel::cKey>& rows)
+{
+    QByteArray bytes;
+    for (const cEntryListModel::cKey& row : rows) {
+        bytes += QByteArray::number(row.ID) + ' ' + modDate::ToIso(row.Day).toLatin1() + '\n';
+    }
+    return bytes;
+}
+
+QList<cEntryListModel::cKey> modRowDrag::FromBytes(const QByteArray& bytes)
+{
+    QList<cEntryListModel::cKey> rows;
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (const QByteArray& line : lines) {
+        const QList<QByteArray> words = line.split(' ');
+        if (words.size() == 2 && words.first().toInt() > 0) {
+            rows.append({words.first().toInt(), modDate::FromIso(QString::fromLatin1(words.last()))});
+        }
+    }
+    return rows;
+}
