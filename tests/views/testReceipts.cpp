@@ -1,7 +1,7 @@
-#include "base/cFileDesk.h"
 #include "core/modReceiptFolder.h"
 #include "model/modFlags.h"
 #include "model/modReceiptName.h"
+#include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
@@ -15,21 +15,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// A desktop whose trash is a list; without one every file stays.
-class cFakeDesk final : public cFileDesk
-{
-public:
-    bool OpenFile(const QString& path) override
-    {
-        Opened.append(QFileInfo(path).fileName());
-        return true;
-    }
-    bool MoveToTrash(const QString& path) override { return HasTrash && QFile::remove(path); }
-
-    QStringList Opened;
-    bool HasTrash = true;
-};
 
 struct cScene
 {
@@ -48,10 +33,7 @@ struct cScene
         return file.fileName();
     }
     QStringList Folder() const { return QDir(Receipts.Folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
-    QStringList Names(int entry)
-    {
-        return modReceiptName::Of(Book.Data.LoadEntry(entry).value_or(cEntryItem{}));
-    }
+    QStringList Names(int entry) { return modReceiptName::Of(Book.Data.LoadEntry(entry).value_or(cEntryItem{})); }
     QByteArray Content(const QString& name) const
     {
         QFile file(Receipts.File(name).Path);
@@ -141,7 +123,8 @@ void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()
     QVERIFY(scene.Book.Data.Journal().Undo());
     QCOMPARE(scene.Names(scene.Entry), QStringList());
     QCOMPARE(scene.Receipts.Unused(), QStringList{first});
-    QVERIFY(scene.Receipts.CheckText(scene.Book.Data).contains(u"gehören Dateien zu keinem Eintrag dieses Buchs: "_s + first));
+    QVERIFY(scene.Receipts.CheckText(scene.Book.Data)
+                .contains(u"gehören Dateien zu keinem Eintrag dieses Buchs: "_s + first));
     QVERIFY(scene.Book.Data.Journal().Redo());
     QCOMPARE(scene.Content(scene.Names(scene.Entry).value(0)), "eins");
     QVERIFY(scene.Book.Data.DeleteEntry(scene.Entry));
@@ -151,7 +134,8 @@ void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()
 void testReceipts::HalfAnAddingLeavesNothing()
 {
     cScene scene;
-    QVERIFY(!scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}, {scene.Outside.filePath(u"weg.pdf"_s)}}));
+    QVERIFY(
+        !scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}, {scene.Outside.filePath(u"weg.pdf"_s)}}));
     QCOMPARE(scene.Names(scene.Entry), QStringList());
     QCOMPARE(scene.Folder(), QStringList());
     QCOMPARE(scene.Book.User.Shown, QStringList{u"'weg.pdf' ist keine Datei."_s});

@@ -1,6 +1,7 @@
 #include "base/cText.h"
 #include "core/cBook.h"
 #include "core/cErrorLog.h"
+#include "cReceiptScene.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
@@ -157,6 +158,7 @@ struct cScene
     cBook File{Book.User};
     cBackupSettings Backups{{File, Book.Configuration, Book.User, Book.Shell, Book.Clock}};
     std::unique_ptr<cAssignListModel> Candidates;
+    cReceiptScene Receipts;
     std::unique_ptr<cImportReview> OneImport;
     std::unique_ptr<cImportAssistant> Assistant;
     std::unique_ptr<cStatementListModel> Statement;
@@ -257,11 +259,6 @@ QStringList Untranslatable(cScene& scene)
                       u"Einkauf"_s,
                       scene.Book.Path(),
                       QFileInfo(scene.Book.Path()).completeBaseName(),
-                      u"dkb.csv"_s,
-                      u"giro.sta"_s,
-                      u"Testbank"_s,
-                      u"testuser"_s,
-                      u"kunde1"_s,
                       u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s,
                       u"Sparkasse Ahornstadt"_s,
                       u"chipTAN optisch (Flickercode am Bildschirm)"_s,
@@ -278,6 +275,8 @@ QStringList Untranslatable(cScene& scene)
     for (const QByteArray& medium : profile.Media) {
         texts << QString::fromUtf8(medium);
     }
+    texts += {u"dkb.csv"_s, u"giro.sta"_s, u"Testbank"_s, u"testuser"_s, u"kunde1"_s};
+    texts += cReceiptScene::Names() << QFileInfo(scene.Book.Path()).absolutePath() + u"/Belege"_s;
     texts += {u"Daten exportieren"_s, u"Die Datei ist schreibgeschützt."_s}; // as they were taken down
     texts += cStatementDesk::LayoutNames();
     if (scene.Manual) { // which is German
@@ -396,6 +395,7 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
      [](cScene& scene) {
          return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
      }},
+    {"receipts of an entry", [](cScene& scene) { return scene.Receipts.Make(scene.Book, scene.Part); }},
     {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
     {"rules",
      [](cScene& scene) {

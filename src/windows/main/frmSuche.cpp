@@ -99,7 +99,7 @@ void frmSuche::Connect()
     connect(m_delete, &QPushButton::clicked, this, &frmSuche::Delete);
     connect(m_clear, &QPushButton::clicked, m_fields, &cSearchFields::Clear);
     connect(m_close, &QPushButton::clicked, this, &QDialog::close);
-    connect(new QShortcut(Qt::CTRL | Qt::Key_B, this), &QShortcut::activated, this, [this] {
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_B, this), &QShortcut::activated, this, [this] {
         if (const int entry = m_model.Entries().KeyAt(m_tree->currentIndex()).ID; entry > 0) {
             Q_EMIT ReceiptsRequested(entry);
         }

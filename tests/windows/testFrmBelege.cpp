@@ -1,0 +1,241 @@
+#include "support/cFakeDesk.h"
+#include "support/cTestClass.h"
+#include "support/testBook.h"
+#include "support/windowFaults.h"
+#include "views/list/cEntryListModel.h"
+#include "views/receipt/cReceiptListModel.h"
+#include "windows/receipt/cPreviewReader.h"
+#include "windows/receipt/cPreviewView.h"
+#include "windows/receipt/cReceiptDrop.h"
+#include "windows/receipt/frmBelege.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QImage>
+#include <QListView>
+#include <QMimeData>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cScene
+{
+    cTestBook Book;
+    cFakeDesk Desk;
+    QTemporaryDir Outside;
+    int Entry = Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Waschmaschine"_s; }).ID;
+    cReceiptListModel Receipts{Book.Tools, Desk, Entry};
+
+    QString Path(const QString& name) const { return Outside.filePath(name); }
+
+    QString Pdf(int pages) const
+    {
+        QPdfWriter writer(Path(u"rechnung.pdf"_s));
+        QPainter painter(&writer);
+        for (int page = 1; page <= pages; ++page) {
+            if (page > 1) {
+                writer.newPage();
+            }
+            painter.drawText(1000, 1000, u"Rechnung, Seite %1"_s.arg(page));
+        }
+        return Path(u"rechnung.pdf"_s);
+    }
+
+    QString Picture(const QSize& size) const
+    {
+        QImage image(size, QImage::Format_Grayscale8);
+        image.fill(Qt::lightGray);
+        if (!image.save(Path(u"foto.png"_s))) {
+            qFatal("no room for a picture");
+        }
+        return Path(u"foto.png"_s);
+    }
+
+    QString Bytes(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(Path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) < 0) {
+            qFatal("no room for a file");
+        }
+        return file.fileName();
+    }
+};
+
+QToolButton* Tool(const QWidget& window, const QString& name)
+{
+    const QList<QToolButton*> tools = window.findChildren<QToolButton*>();
+    for (QToolButton* tool : tools) {
+        if (tool->accessibleName() == name) {
+            return tool;
+        }
+    }
+    return nullptr;
+}
+
+QPushButton* Button(const QWidget& window, const QString& text)
+{
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    for (QPushButton* button : buttons) {
+        if (button->text() == text) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class testFrmBelege final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PagesAreTurnedAndEnlarged();
+    void FilesThatAreNoneAreSaid_data();
+    void FilesThatAreNoneAreSaid();
+    void PreviewsAreBounded();
+    void PastedPictureBecomesAReceipt();
+    void MissingFileOffersAnother();
+    void OnlyReceiptsHangAtTheLineTheyFallOn();
+};
+
+void testFrmBelege::PagesAreTurnedAndEnlarged()
+{
+    cScene scene;
+    scene.Receipts.Add({{scene.Pdf(3)}});
+    frmBelege window(scene.Receipts);
+    window.show();
+    auto* preview = window.findChild<cPreviewView*>();
+    QTRY_VERIFY(preview->HasPicture());
+    QCOMPARE(modWindowFaults::All(window), QStringList());
+    QCOMPARE(preview->Pages(), 3);
+    QVERIFY(!Tool(window, u"Vorige Seite"_s)->isEnabled());
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::AltModifier);
+    QTRY_COMPARE(preview->Page(), 1);
+    const int whole = preview->widget()->minimumWidth();
+    QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
+    QTRY_VERIFY(preview->widget()->minimumWidth() > whole);
+    QVERIFY(preview->accessibleDescription().startsWith(u"Seite 2 von 3 von "_s));
+    Tool(window, u"Ganze Seite"_s)->click();
+    QTRY_VERIFY(!Tool(window, u"Kleiner"_s)->isEnabled());
+    Button(window, u"&Öffnen"_s)->click();
+    QCOMPARE(scene.Desk.Opened, QStringList{scene.Receipts.NameAt(0)});
+}
+
+void testFrmBelege::FilesThatAreNoneAreSaid_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("no PDF") << u"a.pdf"_s << QByteArray("%PDF-1.7 kaputt") << u"Die Datei ist beschädigt"_s;
+    QTest::newRow("half a picture") << u"a.png"_s << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452")
+                                    << u"Für diese Art von Datei"_s;
+    QTest::newRow("no picture") << u"a.odt"_s << QByteArray("PK") << u"Für diese Art von Datei"_s;
+}
+
+void testFrmBelege::FilesThatAreNoneAreSaid()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, text);
+    cScene scene;
+    scene.Receipts.Add({{scene.Bytes(name, bytes)}});
+    frmBelege window(scene.Receipts);
+    window.show();
+    auto* preview = window.findChild<cPreviewView*>();
+    QTRY_VERIFY(preview->accessibleDescription().startsWith(text));
+    QVERIFY(!preview->HasPicture());
+}
+
+// However large the file or the wish: a preview stays small enough to be shown at once.
+void testFrmBelege::PreviewsAreBounded()
+{
+    const cScene scene;
+    for (const QString& path : {scene.Picture({6000, 4000}), scene.Pdf(1)}) {
+        cPreviewReader reader;
+        QSignalSpy done(&reader, &cPreviewReader::Done);
+        reader.Read({path, 0, QSize(20000, 20000)});
+        QTRY_COMPARE_WITH_TIMEOUT(done.size(), 1, 30000);
+        const QSize size = done.first().first().value<cPreview>().Image.size();
+        QVERIFY(size.width() > 1000);
+        QVERIFY(static_cast<qint64>(size.width()) * size.height() <= 16'100'000);
+    }
+}
+
+void testFrmBelege::PastedPictureBecomesAReceipt()
+{
+    cScene scene;
+    frmBelege window(scene.Receipts);
+    window.show();
+    QApplication::clipboard()->clear();
+    Button(window, u"&Einfügen"_s)->click();
+    QCOMPARE(scene.Book.User.Shown, QStringList{u"In der Zwischenablage ist weder ein Bild noch eine Datei."_s});
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QApplication::clipboard()->setImage(image);
+    Button(window, u"&Einfügen"_s)->click();
+    QCOMPARE(scene.Receipts.NameAt(0), u"2026-03-10 Waschmaschine 1.png"_s);
+    QCOMPARE(QImage(scene.Receipts.PathAt(0)).size(), image.size());
+    auto* preview = window.findChild<cPreviewView*>();
+    QTRY_VERIFY(preview->HasPicture());
+}
+
+void testFrmBelege::MissingFileOffersAnother()
+{
+    cScene scene;
+    scene.Receipts.Add({{scene.Bytes(u"a.pdf"_s, "x")}});
+    QVERIFY(QFile::remove(scene.Receipts.PathAt(0)));
+    cReceiptListModel receipts(scene.Book.Tools, scene.Desk, scene.Entry);
+    frmBelege window(receipts);
+    window.show();
+    QVERIFY(window.findChild<cPreviewView*>()->accessibleDescription().contains(u"fehlt im Ordner"_s));
+    QVERIFY(!Button(window, u"&Öffnen"_s)->isEnabled());
+    scene.Book.User.Files = {scene.Pdf(1)};
+    Button(window, u"Datei &neu wählen…"_s)->click();
+    QTRY_VERIFY(window.findChild<cPreviewView*>()->HasPicture());
+    QVERIFY(!Button(window, u"Datei &neu wählen…"_s)->isVisible());
+}
+
+// Statements go on to who reads them, wherever they fall.
+void testFrmBelege::OnlyReceiptsHangAtTheLineTheyFallOn()
+{
+    const cScene scene;
+    cEntryListModel list(scene.Book.Format);
+    cEntryItem entry;
+    entry.ID = 7;
+    entry.EntryDate = QDate(2026, 3, 10);
+    list.SetContent({.Entries = {entry}, .Account = {}, .Today = {}}, {}, {});
+    QTreeView tree;
+    tree.setModel(&list);
+    cReceiptDrop drop(tree, list);
+    QSignalSpy receipts(&drop, &cReceiptDrop::ReceiptsDropped);
+    QSignalSpy others(&drop, &cReceiptDrop::OthersDropped);
+    tree.show();
+    const auto fall = [&](const QString& path, const QPoint& at) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(tree.viewport(), &event);
+    };
+    const QPoint line = tree.visualRect(list.index(0, 0)).center();
+    fall(scene.Pdf(1), line);
+    QCOMPARE(receipts.size(), 1);
+    QCOMPARE(receipts.first().first().toInt(), 7);
+    fall(scene.Bytes(u"auszug.csv"_s, "x"), line);
+    fall(scene.Pdf(1), QPoint(5, tree.viewport()->height() - 5));
+    QCOMPARE(receipts.size(), 1);
+    QCOMPARE(others.size(), 2);
+}
+
+TEST_CLASS(testFrmBelege, QApplication)
+#include "testFrmBelege.moc"
