@@ -99,6 +99,7 @@ private:
     void OpenBackupSettings();
     void OpenNationalSettings();
     void OpenRules();
+    void OpenBudget();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
     void Export();

@@ -27,6 +27,7 @@
 #include "tools/screenshots/takeAssistant.h"
 #include "tools/screenshots/takeBank.h"
 #include "tools/screenshots/takeBankSetup.h"
+#include "tools/screenshots/takeBudget.h"
 #include "tools/screenshots/takeReview.h"
 #include "tools/screenshots/takeUpdate.h"
 #include "views/chart/cChartMaker.h"
@@ -550,11 +551,11 @@ int main(int argc, char* argv[])
     }
     const QSize screen = arguments.size() > 5 ? QSize(arguments.at(4).toInt(), arguments.at(5).toInt()) : QSize();
     cCamera camera(arguments.at(1), arguments.at(2), screen);
-    return TakeUpdate(camera) && TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeBank(camera)
-            && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera)
-            && TakeRules(camera) && TakeReview(camera) && TakeBankSetup(camera) && TakeSettings(camera)
-            && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera) && TakeManual(camera)
-            && camera.IsGood()
+    return TakeBudget(camera) && TakeUpdate(camera) && TakeStatement(camera) && TakeDemo(camera)
+            && TakeAssistant(camera) && TakeBank(camera) && TakeEmpty(camera) && TakeEditor(camera)
+            && TakeCategories(camera) && TakeSearch(camera) && TakeRules(camera) && TakeReview(camera)
+            && TakeBankSetup(camera) && TakeSettings(camera) && TakeStatistics(camera) && TakeCharts(camera)
+            && TakePrinted(camera) && TakeManual(camera) && camera.IsGood()
         ? 0
         : 1;
 }

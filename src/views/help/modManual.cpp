@@ -13,6 +13,7 @@ constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmAbruf", "16-online-banking.html#umsätze-abrufen"},
     {"frmBankAssistent", "16-online-banking.html#einen-bankzugang-einrichten"},
     {"frmBankzugaenge", "16-online-banking.html#ändern-und-entfernen"},
+    {"frmBudget", "18-budget.html"},
     {"frmBuchung", "03-eintraege.html#neuer-eintrag"},
     {"frmHandbuch", "14-hilfe.html#das-handbuch"},
     {"frmImport", "02-kontoauszug.html"},

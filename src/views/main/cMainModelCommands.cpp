@@ -68,8 +68,8 @@ bool cMainModel::Execute(int command)
     case modCommand::Rules:
     case modCommand::BankLogins:
     case modCommand::FetchTransactions:
-    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     case modCommand::Budget:
+    case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts:
     case modCommand::CopyRows:
