@@ -16,6 +16,7 @@
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
 #include "views/book/cPasswordFlow.h"
+#include "views/budget/cBudgetModel.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/export/cEntryExport.h"
 #include "views/export/cEntryExtract.h"
@@ -38,6 +39,7 @@
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
 #include "windows/book/frmSicherungen.h"
+#include "windows/budget/frmBudget.h"
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
@@ -462,6 +464,14 @@ void cNavigation::OpenRules()
     form.exec();
 }
 
+void cNavigation::OpenBudget()
+{
+    cBudgetModel budget(m_parts.Tools);
+    QObject::connect(&budget, &cBudgetModel::Saved, m_model, [this] { BookChanged(); });
+    frmBudget form(budget, Parent());
+    form.exec();
+}
+
 cBankWindows& cNavigation::Banks()
 {
     if (!m_banks) {
@@ -565,6 +575,7 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
     case modCommand::Rules: OpenRules(); break;
+    case modCommand::Budget: OpenBudget(); break;
     case modCommand::FetchTransactions: OpenFetch(); break;
     case modCommand::BankLogins: Banks().OpenLogins(Parent()); break;
     case modCommand::CopyRows:

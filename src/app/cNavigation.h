@@ -101,6 +101,7 @@ private:
     void OpenBackupSettings();
     void OpenNationalSettings();
     void OpenRules();
+    void OpenBudget();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
     void OpenReceipts(modCommand::eId command);

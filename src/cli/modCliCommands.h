@@ -79,6 +79,10 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand CategoriesRenameCommand();
 [[nodiscard]] cCliCommand CategoriesMergeCommand();
 [[nodiscard]] cCliCommand CategoriesDeleteCommand();
+[[nodiscard]] cCliCommand BudgetCommand();
+[[nodiscard]] cCliCommand BudgetSetCommand();
+[[nodiscard]] cCliCommand BudgetCarryCommand();
+[[nodiscard]] cCliCommand BudgetCopyCommand();
 [[nodiscard]] cCliCommand AccountsCommand();
 [[nodiscard]] cCliCommand AccountsAddCommand();
 [[nodiscard]] cCliCommand AccountsRenameCommand();

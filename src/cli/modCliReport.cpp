@@ -52,8 +52,8 @@ cReportWish ReadWish(const cCliContext& context, cCliReader& reader)
     const QString name = call.Arguments().join(u' ');
     const std::optional<eReport> type = modReport::TypeByName(name);
     if (!type) {
-        reader.Misused(
-            cText::Tr("Den Bericht '{0}' gibt es nicht. Möglich sind: {1}.", {name, u"durchschnitt, summe, limit"_s}));
+        reader.Misused(cText::Tr("Den Bericht '{0}' gibt es nicht. Möglich sind: {1}.",
+                                 {name, u"durchschnitt, summe, limit, budget"_s}));
     }
     wish.Type = type.value_or(eReport::Sum);
     wish.Range = reader.Period(modWord::AktuellesJahr);
@@ -76,8 +76,11 @@ cReportWish ReadWish(const cCliContext& context, cCliReader& reader)
 cJsonObject& AddAmount(cJsonObject& json, const cReportAmount& amount, eReport type)
 {
     json.Amount(u"Amount"_s, amount.Cents);
-    if (type == eReport::Limit) {
+    if (modReport::HasLimits(type)) {
         json.Amount(u"Limit"_s, amount.Limit);
+    }
+    if (type == eReport::Budget) {
+        json.Amount(u"Carried"_s, amount.Carried).Amount(u"Left"_s, modReport::Left(amount));
     }
     return json.Number(u"Entries"_s, amount.Entries);
 }
@@ -112,7 +115,7 @@ QString ToJson(const cReportFigures& figures, const cReportWish& wish)
         .Text(u"Account"_s, figures.Account)
         .Date(u"Start"_s, wish.Range.Start)
         .Date(u"End"_s, wish.Range.End);
-    if (figures.Type == eReport::Limit) {
+    if (modReport::HasLimits(figures.Type)) {
         json.Number(u"Months"_s, figures.Basis.Months);
     } else {
         json.Amount(u"Difference"_s, figures.Difference()).Raw(u"Income"_s, ToJson(figures.Income, figures.Type));
@@ -134,7 +137,7 @@ public:
     [[nodiscard]] QString Write()
     {
         QString text = modReportHtml::Heading(m_figures) + u'\n';
-        if (m_figures.Type != eReport::Limit) {
+        if (!modReport::HasLimits(m_figures.Type)) {
             text += modReportHtml::Result(m_figures, m_book.Format()) + u'\n';
             Add(m_figures.Income);
         }
@@ -149,8 +152,12 @@ private:
                                           {cText::Tr("Sparte")},
                                           {cText::Tr("Kategorie")},
                                           {modReport::AmountTitle(type), eAlign::Right}};
-        if (type == eReport::Limit) {
+        if (modReport::HasLimits(type)) {
             columns += QList<cCliTable::cColumn>{{cText::Tr("Limit"), eAlign::Right}, {u"%"_s, eAlign::Right}};
+        }
+        if (type == eReport::Budget) {
+            columns +=
+                QList<cCliTable::cColumn>{{cText::Tr("Übertrag"), eAlign::Right}, {cText::Tr("Übrig"), eAlign::Right}};
         }
         return columns << cCliTable::cColumn{cText::Tr("Einträge"), eAlign::Right};
     }
@@ -169,9 +176,12 @@ private:
     void AddLine(QStringList row, const cReportAmount& amount)
     {
         row << m_book.AmountText(amount.Cents);
-        if (m_figures.Type == eReport::Limit) {
+        if (modReport::HasLimits(m_figures.Type)) {
             const std::optional<qint64> percent = modReport::LimitPercent(amount);
             row << m_book.AmountText(amount.Limit) << (percent ? QString::number(*percent) : QString());
+        }
+        if (m_figures.Type == eReport::Budget) {
+            row << m_book.AmountText(amount.Carried) << m_book.AmountText(modReport::Left(amount));
         }
         m_table.Add(row << QString::number(amount.Entries));
     }
@@ -253,8 +263,9 @@ cCliCommand modCliCommands::ReportCommand()
 {
     return {.Name = u"report"_s,
             .Arguments = u"BERICHT"_s,
-            .Help = cText::Tr("rechnet einen Bericht aus: durchschnitt (je Monat), summe oder limit; ohne Angabe für "
-                              "das aktuelle Jahr"),
+            .Help = cText::Tr(
+                "rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit oder budget; ohne Angabe für "
+                "das aktuelle Jahr"),
             .MinArguments = 1,
             .MaxArguments = 3, // "Summe aller Werte" without quotes
             .Options = {{u"period"_s, u"NAME"_s, cText::Tr("Zeitraum, zum Beispiel \"Letzter Monat\"")},

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void AsJson();
     void Files();
     void RefundsUseUpNothing();
+    void Budget();
     void Refused_data();
     void Refused();
 
@@ -106,12 +107,33 @@ void testCliReport::RefundsUseUpNothing()
     QVERIFY2(text.contains(u"Toaster -50,00 € 100,00 € 0 1"_s), qPrintable(run.Out));
 }
 
+// A month of its own, a year in one month, and what is left of both.
+void testCliReport::Budget()
+{
+    QCOMPARE(Run(u"categories|change|Auto; Benzin|--limit|30"_s).Code, 0);
+    QCOMPARE(Run(u"budget|set|Benzin|2026-01|15"_s).Code, 0);
+    QCOMPARE(Run(u"budget|carry|Benzin|2026"_s).Code, 0);
+    const auto plain = [](const cCliRun& run) { return QString(run.Out).replace(u'\u00A0', u' ').simplified(); };
+    QVERIFY(plain(Run(u"budget|2026-02"_s)).contains(u"Auto; Benzin 30,00 € 15,00 € 20,00 € 25,00 €"_s));
+    QCOMPARE(Run(u"budget|set|Wohnung; Strom|2026|600|--only|2026-02"_s).Code, 0);
+    QVERIFY(plain(Run(u"budget|2026"_s)).contains(u"Wohnung; Strom 0,00 € 600,00 €"_s));
+    const QJsonObject report = Json(u"report|budget|--from|2026-02-01|--to|2026-02-28"_s);
+    QCOMPARE(report.value(u"Expense"_s).toObject().value(u"Left"_s).toDouble(), 325.0);
+    QCOMPARE(Run(u"budget|copy|2027"_s).Code, 0);
+    QVERIFY(plain(Run(u"budget|2027-02"_s)).contains(u"Wohnung; Strom 300,00 €"_s));
+    QCOMPARE(Run(u"budget|set|Wohnung; Strom|2026|ohne"_s).Code, 0);
+    QVERIFY(!plain(Run(u"budget|2026"_s)).contains(u"Strom"_s));
+}
+
 void testCliReport::Refused_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("said");
     QTest::newRow("no such report") << u"report|mittel"_s << 2 << u"durchschnitt, summe, limit"_s;
+    QTest::newRow("no month") << u"budget|set|Auto; Benzin|März|5"_s << 2 << u"2026-03"_s;
+    QTest::newRow("limit below zero") << u"budget|set|Auto; Benzin|2026-03|-5"_s << 2 << u"unter null"_s;
+    QTest::newRow("no expense") << u"budget|set|Einkommen; Freiberuflich|2026-03|5"_s << 1 << u"kein Budget"_s;
     QTest::newRow("no such account") << u"report|summe|--account|Nirgends"_s << 1 << u"Nirgends"_s;
     QTest::newRow("period and days") << u"report|summe|--period|Letzter Monat|--from|2026-01-01"_s << 2
                                      << u"--period"_s;

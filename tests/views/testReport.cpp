@@ -40,9 +40,9 @@ cEntryItemList Entries(const QStringList& lines)
 }
 
 // Categories from lines "path=monthly limit", with the kind of entry behind it where it is not an expense.
-cTemplateItemList Limits(const QStringList& lines)
+cLimits Limits(const QStringList& lines)
 {
-    cTemplateItemList items;
+    cLimits limits;
     for (const QString& line : lines) {
         cTemplateItem item;
         item.TemplateType = modWord::Kategorie;
@@ -50,9 +50,9 @@ cTemplateItemList Limits(const QStringList& lines)
         item.TemplateName = modTemplate::SubOf(line.section(u'=', 0, 0));
         item.TemplateDefaultValue = line.section(u'=', 1, 1);
         item.EntryType = line.section(u'=', 2, 2);
-        items.append(item);
+        limits.Add(item, {});
     }
-    return items;
+    return limits;
 }
 
 cReportWish Wish(eReport type, const modPeriod::cRange& range)
@@ -475,6 +475,12 @@ void testReport::Tables()
                         "Art;Sparte;Kategorie;Ausgegeben;Limit;Einträge\r\n"
                         "Ausgaben;'@A;\"X;Y\";1234,56;10,00;1\r\n"
                         "Ausgaben;'@A;Z;0,00;1,00;0\r\n"));
+    cReportWish plan = wish;
+    plan.Type = eReport::Budget;
+    QCOMPARE(modReportExport::Csv(modReport::Figures(entries, Limits({u"@A; X;Y=10.00"_s}), plan)),
+             QByteArray("\xEF\xBB\xBF"
+                        "Art;Sparte;Kategorie;Budget;Übertrag;Ausgegeben;Übrig;Einträge\r\n"
+                        "Ausgaben;'@A;\"X;Y\";10,00;0,00;1234,56;-1224,56;1\r\n"));
 }
 
 void testReport::SavedByEnding()

@@ -1,9 +1,11 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
+#include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
+#include "views/budget/cBudgetEdit.h"
 #include "views/chart/cChartMaker.h"
 #include "views/list/cEntryListModel.h"
 #include "views/report/cReportSource.h"
@@ -79,11 +81,15 @@ private:
     void ChooseWish();
     [[nodiscard]] bool IsInside(const cBooking& booking) const;
     [[nodiscard]] std::map<QString, cPlain> PlainSums(bool withStart) const;
+    void AddBudget(const QString& path);
+    [[nodiscard]] qint64 Own(const QString& path, QDate month) const;
+    [[nodiscard]] qint64 Carried(const QString& path) const;
     [[nodiscard]] qint64 Limit(const QString& path) const;
     void CompareSums(eReport type);
     void CompareSection(const cReportSection& section, const std::map<QString, cPlain>& plain);
     void CompareLimits();
     void CompareNodes(const cReportFigures& figures);
+    void CompareBudget();
     void CompareList();
     void CompareCharts();
     void CompareCourse();
@@ -94,6 +100,7 @@ private:
     cTestFormat m_format;
     std::vector<cBooking> m_bookings;
     std::map<QString, qint64> m_limits; // a month, by path
+    std::map<QString, cBudget> m_budgets;
     cReportWish m_wish;
     std::unique_ptr<cReportSource> m_source;
 };
@@ -120,13 +127,17 @@ void testReportAgreement::Books()
     CompareCharts();
     CompareCourse();
     CompareBalances();
+    CompareBudget();
 }
 
 void testReportAgreement::Fill()
 {
     m_bookings.clear();
     m_limits.clear();
-    m_book.Database.ExecuteScript("DELETE FROM data; DELETE FROM datamod; DELETE FROM template; BEGIN");
+    m_budgets.clear();
+    m_book.Database.ExecuteScript("DELETE FROM data; DELETE FROM datamod; DELETE FROM template; "
+                                  "DELETE FROM setting WHERE SettingName LIKE 'Budget:%'; BEGIN");
+    m_book.Settings->Reload();
     for (int i = Random(60); i > 0; --i) {
         AddOnce();
     }
@@ -145,8 +156,24 @@ void testReportAgreement::Fill()
         m_limits[path] = 1 + Random(50000);
         item.TemplateDefaultValue = QString::number(static_cast<double>(m_limits[path]) / 100.0, 'f', 2);
         QVERIFY(m_book.Data.AddNewTemplate(item));
+        if (Random(2) == 0) {
+            AddBudget(path);
+        }
     }
     m_book.Database.ExecuteScript("COMMIT");
+}
+
+// Months with limits of their own, and perhaps what is left goes on.
+void testReportAgreement::AddBudget(const QString& path)
+{
+    cBudget& budget = m_budgets[path];
+    for (int i = Random(8); i > 0; --i) {
+        budget.Months[modBudget::MonthOf(RandomDay())] = Random(50000);
+    }
+    if (Random(2) == 0) {
+        budget.CarriesFrom = modBudget::MonthOf(RandomDay());
+    }
+    m_book.Settings->Set(modSettingKey::Budget.Of(path), modBudget::ToText(budget, {}));
 }
 
 cEntryItem testReportAgreement::RandomEntry()
@@ -281,12 +308,37 @@ void testReportAgreement::CompareSection(const cReportSection& section, const st
     QVERIFY(lines.size() <= plain.size());
 }
 
+qint64 testReportAgreement::Own(const QString& path, QDate month) const
+{
+    const auto budget = m_budgets.find(path);
+    return budget == m_budgets.end() ? m_limits.at(path) : budget->second.Months.value(month, m_limits.at(path));
+}
+
+// What the months before the period have left, of all accounts.
+qint64 testReportAgreement::Carried(const QString& path) const
+{
+    const auto budget = m_budgets.find(path);
+    const QDate from = budget == m_budgets.end() ? QDate() : budget->second.CarriesFrom;
+    const QDate first(m_wish.Range.Start.year(), m_wish.Range.Start.month(), 1);
+    qint64 left = 0;
+    for (QDate month = from; from.isValid() && month < first; month = month.addMonths(1)) {
+        left += Own(path, month);
+    }
+    for (const cBooking& booking : m_bookings) {
+        if (from.isValid() && booking.Day >= from && booking.Day < first && KeyOf(booking.Category) == path
+            && booking.Type != modWord::Umbuchung) {
+            left += booking.Type == modWord::Einnahme ? booking.Cents : -booking.Cents;
+        }
+    }
+    return left;
+}
+
 qint64 testReportAgreement::Limit(const QString& path) const
 {
     const modPeriod::cRange& range = m_wish.Range;
-    qint64 limit = 0;
+    qint64 limit = Carried(path);
     for (QDate month(range.Start.year(), range.Start.month(), 1); month <= range.End; month = month.addMonths(1)) {
-        limit += m_limits.at(path);
+        limit += Own(path, month);
     }
     return limit;
 }
@@ -317,6 +369,43 @@ void testReportAgreement::CompareLimits()
     CompareNodes(figures);
 }
 
+// The grid of the budget, the report and the chart say the same of a month.
+void testReportAgreement::CompareBudget()
+{
+    const int year = 2025 + Random(2);
+    const int month = 1 + Random(12);
+    const cBudgetEdit budget(m_book.Tools, year);
+    m_wish = {};
+    m_wish.Type = eReport::Budget;
+    m_wish.Range = modPeriod::Month(QDate(year, month, 1), 0);
+    m_wish.Today = QDate(2026, 3, 15);
+    const cReportFigures figures = m_source->Figures(m_wish);
+    const std::map<QString, cPlain> plain = PlainSums(false);
+    for (const cReportGroup& group : figures.Expense.Groups) {
+        for (const cReportCategory& category : group.Categories) {
+            const QString path = PathOf(group, category);
+            const int row = budget.RowOf(path);
+            const auto found = plain.find(path);
+            const cPlain sums = found == plain.end() ? cPlain() : found->second;
+            QVERIFY(row >= 0);
+            QCOMPARE(budget.Spent(row, month), sums.Expense - sums.Income);
+            QCOMPARE(category.Amount.Cents, budget.Spent(row, month));
+            QCOMPARE(budget.Available(row, month)->Carried, Carried(path));
+            QCOMPARE(budget.Available(row, month)->Total(), Limit(path));
+            QCOMPARE(category.Amount.Limit, Limit(path));
+            QCOMPARE(category.Amount.Carried, Carried(path));
+        }
+    }
+    const cChartData chart = cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
+                                 .Make({.Kind = eChartKind::Budget, .Range = modPeriod::Year(QDate(year, 1, 1), 0)});
+    QCOMPARE(chart.Series.isEmpty(), m_limits.empty());
+    if (!m_limits.empty()) {
+        QCOMPARE(chart.Series.at(0).At(month - 1), figures.Expense.Amount.Cents);
+        QCOMPARE(chart.Series.at(1).At(month - 1), figures.Expense.Amount.Limit - figures.Expense.Amount.Carried);
+    }
+    CompareNodes(figures);
+}
+
 // The tree has the figures of the report, and behind each of its lines lie the entries that make it.
 void testReportAgreement::CompareNodes(const cReportFigures& figures)
 {
@@ -336,7 +425,7 @@ void testReportAgreement::CompareNodes(const cReportFigures& figures)
         QCOMPARE(entries.size(), amount.Entries);
     };
     for (const cReportSection* section : {&figures.Income, &figures.Expense}) {
-        if (section->Kind == eReportKind::Expense || m_wish.Type != eReport::Limit) {
+        if (section->Kind == eReportKind::Expense || !modReport::HasLimits(m_wish.Type)) {
             compare({section->Kind}, section->Amount);
         }
         for (const cReportGroup& group : section->Groups) {

@@ -25,6 +25,7 @@
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
 #include "views/book/cPasswordFlow.h"
+#include "views/budget/cBudgetModel.h"
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
@@ -53,6 +54,7 @@
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
 #include "windows/book/frmSicherungen.h"
+#include "windows/budget/frmBudget.h"
 #include "windows/chart/cChartBox.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
@@ -117,10 +119,7 @@ struct cScene
         Part.EntryFlags = u"split=%1"_s.arg(Part.ID);
         Prepare(Book.Data.ChangeEntry(Part));
         (void)Book.Add([this](cEntryItem& entry) { entry.EntryFlags = Part.EntryFlags; });
-        (void)Book.Add([](cEntryItem& entry) {
-            entry.EntryValue = 12345678;
-            entry.EntryType = modWord::Ausgabe;
-        });
+        (void)Book.Add([](cEntryItem& entry) { entry.EntryValue = 12345678; });
         cImportEntry row;
         row.ImportAccount = u"1234567"_s;
         row.ImportDate = QDate(2026, 3, 12);
@@ -177,6 +176,7 @@ struct cScene
     cUpdateCheck Update{
         Book.Tools, Book.Configuration, Maker, {u"https://updates.kontorelle.example/versionen.xml"_s, u"0.1.0"_s}};
     std::unique_ptr<cBankListModel> Banks;
+    std::optional<cBudgetModel> Budget;
     std::unique_ptr<cBankFetch> Fetch;
     std::unique_ptr<cManualBrowser> Manual;
     cErrorLog Failures{{Book.Shell.StateFolder(), u"kontorelle"_s, u"0.1.0"_s}, Book.Clock};
@@ -396,6 +396,7 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
      }},
     {"receipts of an entry", [](cScene& scene) { return scene.Receipts.Make(scene.Book, scene.Part); }},
+    {"budget", [](cScene& scene) { return std::make_unique<frmBudget>(scene.Budget.emplace(scene.Book.Tools)); }},
     {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
     {"rules",
      [](cScene& scene) {

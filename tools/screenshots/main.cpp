@@ -27,6 +27,7 @@
 #include "tools/screenshots/takeAssistant.h"
 #include "tools/screenshots/takeBank.h"
 #include "tools/screenshots/takeBankSetup.h"
+#include "tools/screenshots/takeBudget.h"
 #include "tools/screenshots/takeReceipts.h"
 #include "tools/screenshots/takeReview.h"
 #include "tools/screenshots/takeSheet.h"
@@ -570,7 +571,8 @@ int main(int argc, char* argv[])
             && TakeCharts(camera)
             && TakePrinted(camera)
             && TakeManual(camera)
-            && TakeReceipts(camera) && camera.IsGood()
+            && TakeReceipts(camera)
+            && TakeBudget(camera) && camera.IsGood()
         ? 0
         : 1;
 }

@@ -1,8 +1,10 @@
 #include "views/chart/cChartMaker.h"
 
 #include "core/cAmountFormat.h"
+#include "core/cSettings.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/budget/modLimits.h"
 #include "views/chart/cForecast.h"
 #include "views/chart/modChart.h"
 #include "views/chart/modForecast.h"
@@ -70,6 +72,10 @@ cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
     case eChartKind::IncomePie: return modChart::Pie(input);
     case eChartKind::ExpenseMonths:
     case eChartKind::IncomeMonths: return modChart::MonthsByCategory(input);
+    case eChartKind::Budget: {
+        const cSettings settings(m_data);
+        return modChart::Budget(input, modLimits::Read(m_data, settings, m_data.GetTemplates(), {}));
+    }
     case eChartKind::Months:
     case eChartKind::Balances: break;
     }

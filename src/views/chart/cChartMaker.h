@@ -17,7 +17,8 @@ enum class eChartKind {
     Months,        // income, expense and balance of each month
     ExpenseMonths, // expenses of each month by main category, on top of each other
     IncomeMonths,
-    Balances // balances day by day, with the forecast
+    Balances, // balances day by day, with the forecast
+    Budget    // what categories with a limit may spend in each month, and have spent
 };
 
 struct cChartWish

@@ -19,13 +19,14 @@ struct cKindName
     std::optional<eReportKind> Section;
 };
 
-constexpr std::array<cKindName, 6> kinds{{
+constexpr std::array<cKindName, 7> kinds{{
     {eChartKind::ExpensePie, u"ausgaben", eReportKind::Expense},
     {eChartKind::IncomePie, u"einnahmen", eReportKind::Income},
     {eChartKind::Months, u"monate", std::nullopt},
     {eChartKind::ExpenseMonths, u"ausgaben-monate", eReportKind::Expense},
     {eChartKind::IncomeMonths, u"einnahmen-monate", eReportKind::Income},
     {eChartKind::Balances, u"verlauf", std::nullopt},
+    {eChartKind::Budget, u"budget", std::nullopt},
 }};
 
 // Names of months in the chosen language; the tests and the command line may run without any.

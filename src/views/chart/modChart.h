@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "model/cLimits.h"
 #include "views/chart/cChartMaker.h"
 #include "views/list/cBalanceDays.h"
 #include "views/report/cReportWish.h"
@@ -37,6 +38,9 @@ enum eColour { Sum = 0, Income = 2, Expense = 3, Balance = 7, Rest = 11 };
 
 // Categories on top of each other, by month or year.
 [[nodiscard]] cChartData MonthsByCategory(const cInput& input);
+
+// What the months allow, without what is carried over, and what was spent on the categories with a limit.
+[[nodiscard]] cChartData Budget(const cInput& input, const cLimits& limits);
 
 // Balances with the forecast; of both days the same accounts. `second` may be empty.
 struct cBalanceInput

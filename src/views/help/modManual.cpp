@@ -14,6 +14,7 @@ constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmBankAssistent", "16-online-banking.html#einen-bankzugang-einrichten"},
     {"frmBankzugaenge", "16-online-banking.html#ändern-und-entfernen"},
     {"frmBelege", "19-belege.html#belege-ansehen"},
+    {"frmBudget", "18-budget.html"},
     {"frmBuchung", "03-eintraege.html#neuer-eintrag"},
     {"frmHandbuch", "14-hilfe.html#das-handbuch"},
     {"frmImport", "02-kontoauszug.html"},

@@ -114,6 +114,8 @@ constexpr auto commands = std::to_array<cCommand>({
      QT_TRANSLATE_NOOP("cText", "Erscheinungs&bild")},
     {EditTemplates, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Kategorie/Konto bearbeiten"), "",
      "", nullptr, Plain, QT_TRANSLATE_NOOP("cText", "Verwaltet Kategorien und Konten.")},
+    {Budget, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "B&udget…"), "", "", nullptr, Plain,
+     QT_TRANSLATE_NOOP("cText", "Plant, was in jedem Monat ausgegeben werden darf.")},
     {Rules, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "&Regeln"), "", "", nullptr, Writes,
      QT_TRANSLATE_NOOP("cText", "Verwaltet Ihre eigenen Regeln für die Kategorien von Umsätzen.")},
     {AccountStatement, QT_TRANSLATE_NOOP("cText", "Extras"), QT_TRANSLATE_NOOP("cText", "Kontoaus&zug anzeigen"), "",

@@ -4,6 +4,7 @@
 #include "core/cBookTools.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/budget/modLimits.h"
 #include "views/chart/cForecast.h"
 #include "views/report/modReport.h"
 
@@ -23,13 +24,14 @@ cEntryItemList Within(const cEntryItemList& entries, const modPeriod::cRange& ra
     return within;
 }
 
-cReportFigures LimitsOf(const cEntryItemList& entries, const cTemplateItemList& templates, QDate today)
+cReportFigures LimitsOf(const cEntryItemList& entries, const cTemplateItemList& templates, const cBookTools& tools)
 {
     cReportWish wish;
     wish.Type = eReport::Limit;
-    wish.Range = modPeriod::Month(today, 0);
-    wish.Today = today;
-    return modReport::Figures(Within(entries, wish.Range), templates, wish);
+    wish.Today = tools.Clock.Today();
+    wish.Range = modPeriod::Month(wish.Today, 0);
+    return modReport::Figures(Within(entries, wish.Range),
+                              modLimits::Read(tools.Data, tools.Settings, templates, wish.Range.Start), wish);
 }
 
 } // namespace
@@ -52,7 +54,7 @@ cOverviewBook cOverviewBook::Read(const cBookTools& tools)
     book.Month = modOverview::Month(entries, book.Today);
     book.Changes = modOverview::Changes(entries, book.Today, mostChanges);
     book.Due = modOverview::Due(entries, book.Today, DueDays);
-    book.Limits = LimitsOf(entries, book.Templates, book.Today);
+    book.Limits = LimitsOf(entries, book.Templates, tools);
     book.IsUnread = !tools.Data.IsWhole();
     return book;
 }

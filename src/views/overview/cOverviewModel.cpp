@@ -28,10 +28,11 @@ constexpr int seriesDelay = 400; // milliseconds after the cards stand there
 constexpr qsizetype mostDue = 12;
 constexpr qsizetype mostLimits = 6;
 
-// A share of a limit in whole percent.
+// A share of a limit in whole percent. Where nothing may be spent, all that is spent is too much.
 int Percent(const cReportAmount& amount)
 {
-    return static_cast<int>(std::min<qint64>(modReport::LimitPercent(amount).value_or(0), 999));
+    constexpr qint64 most = 999;
+    return static_cast<int>(std::min(modReport::LimitPercent(amount).value_or(most), most));
 }
 
 eOverviewTone ToneOf(qint64 cents)
@@ -327,10 +328,10 @@ cOverviewCard cOverviewModel::Limits()
     for (const cReportGroup& group : std::as_const(m_book->Limits.Expense.Groups)) {
         for (const cReportCategory& category : group.Categories) {
             const cReportAmount& amount = category.Amount;
-            if (amount.Limit <= 0) {
-                continue;
+            const qint64 left = modReport::Left(amount);
+            if (amount.Limit <= 0 && left >= 0) {
+                continue; // nothing is planned for this month, and nothing was spent
             }
-            const qint64 left = amount.Limit - amount.Cents;
             const QString path = modTemplate::Join(group.Name, category.Name);
             const QString figure = left < 0
                 ? cText::Tr("{0} zu viel", {Signed(-left)})

@@ -23,10 +23,11 @@ struct cReportNode
 // The figures of one line. All amounts are whole cents.
 struct cReportAmount
 {
-    qint64 Cents = 0; // what the line shows: an average, a sum, or what was spent; income and expense both above zero
-    qint64 Sum = 0;   // what the entries come to, before an average is made of it
-    qint64 Limit = 0; // for the whole period; only in the limit report
-    int Entries = 0;  // how many entries were counted
+    qint64 Cents = 0;   // what the line shows: an average, a sum, or what was spent; income and expense both above zero
+    qint64 Sum = 0;     // what the entries come to, before an average is made of it
+    qint64 Limit = 0;   // for the whole period, carried over included; only in the reports about limits
+    qint64 Carried = 0; // what of the limit the months before have left, or have taken from it
+    int Entries = 0;    // how many entries were counted
 
     bool operator==(const cReportAmount&) const = default;
 };
@@ -70,6 +71,7 @@ struct cReportBasis
     qint64 DaysOfYears = 0; // `YearBasis` of the counted days
     int Years = 1;          // counted calendar years
     int Months = 1;         // counted calendar months
+    QDate FirstMonth{};     // the first day of the first of them
 
     bool operator==(const cReportBasis&) const = default;
 };

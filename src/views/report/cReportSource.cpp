@@ -7,6 +7,7 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/budget/modLimits.h"
 #include "views/list/modUnread.h"
 #include "views/report/modReport.h"
 #include "views/report/modReportHtml.h"
@@ -36,7 +37,7 @@ cReportWish cReportSource::Wish(eReport type, const QString& account, const QStr
 const cReportFigures& cReportSource::Figures(const cReportWish& wish)
 {
     const cEntryItemList& entries = Entries(wish);
-    m_figures = IsUnread() ? modReport::Figures({}, {}, wish) : modReport::Figures(entries, m_templates, wish);
+    m_figures = IsUnread() ? modReport::Figures({}, {}, wish) : modReport::Figures(entries, Limits(wish), wish);
     m_figures.IsUnread = IsUnread();
     return m_figures;
 }
@@ -53,11 +54,25 @@ QString cReportSource::Page(const cReportWish& wish)
 
 cEntryItemList cReportSource::EntriesOf(const cReportWish& wish, const cReportNode& node)
 {
-    const cEntryItemList& entries = Entries(wish); // and with them the categories
-    cEntryItemList found = modReport::EntriesOf(entries, wish, node, m_templates);
+    const cEntryItemList& entries = Entries(wish);
+    cEntryItemList found = modReport::EntriesOf(entries, wish, node, Limits(wish));
     std::stable_sort(found.begin(), found.end(),
                      [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
     return found;
+}
+
+const cLimits& cReportSource::Limits(const cReportWish& wish)
+{
+    if (!modReport::HasLimits(wish.Type)) {
+        static const cLimits none;
+        return none;
+    }
+    const QDate from = modReport::Basis(wish, Entries(wish)).FirstMonth;
+    if (!m_limitsFrom.isValid() || m_limitsFrom != from) {
+        m_limits = modLimits::Read(m_tools.Data, m_tools.Settings, m_templates, from);
+        m_limitsFrom = from;
+    }
+    return m_limits;
 }
 
 // Entries and categories are both needed: figures of a part would be wrong.
@@ -76,6 +91,7 @@ const cEntryItemList& cReportSource::Entries(const cReportWish& wish)
         query.Account = asked.Account;
         m_entries = m_tools.Data.GetEntries(query);
         m_templates = m_tools.Data.GetTemplates();
+        m_limitsFrom = {};
         m_asked = IsUnread() ? std::nullopt : std::optional(asked); // read again next time
     }
     return m_entries;
@@ -86,6 +102,7 @@ void cReportSource::Forget()
     m_asked.reset();
     m_entries.clear();
     m_templates.clear();
+    m_limitsFrom = {};
 }
 
 cReportSource::cAsked cReportSource::Ask(const cReportWish& wish)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
-#include "model/cTemplateItem.h"
+#include "model/cLimits.h"
 #include "views/report/cReportFigures.h"
 
 #include <QString>
@@ -31,8 +31,8 @@ public:
     // All entries of the wish's account and period, transfers included.
     [[nodiscard]] const cEntryItemList& Entries(const cReportWish& wish);
 
-    // The categories and accounts as they were loaded with them.
-    [[nodiscard]] const cTemplateItemList& Templates() const { return m_templates; }
+    // The limits that the wish's figures were made with; none for reports without.
+    [[nodiscard]] const cLimits& Limits(const cReportWish& wish);
 
     // To be called when the book has changed.
     void Forget();
@@ -52,6 +52,8 @@ private:
     const cBookTools& m_tools;
     std::optional<cAsked> m_asked;
     cEntryItemList m_entries;
-    cTemplateItemList m_templates;
+    cTemplateItemList m_templates; // as they were loaded with them
+    cLimits m_limits;
+    QDate m_limitsFrom; // what is carried over into this month is in the limits; invalid: they are old
     cReportFigures m_figures;
 };

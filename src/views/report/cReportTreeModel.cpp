@@ -29,7 +29,7 @@ void cReportTreeModel::SetFigures(const cReportFigures& figures)
     m_figures = figures;
     m_lines.clear();
     m_top.clear();
-    if (figures.Type != eReport::Limit) {
+    if (!modReport::HasLimits(figures.Type)) {
         AddSection(m_figures.Income);
     }
     AddSection(m_figures.Expense);
@@ -105,7 +105,7 @@ int cReportTreeModel::rowCount(const QModelIndex& parent) const
 
 int cReportTreeModel::columnCount(const QModelIndex& /*parent*/) const
 {
-    return m_figures.Type == eReport::Limit ? Limit + 1 : Amount + 1;
+    return modReport::HasLimits(m_figures.Type) ? Limit + 1 : Amount + 1;
 }
 
 QString cReportTreeModel::Text(const cLine& line, int column) const
@@ -116,7 +116,7 @@ QString cReportTreeModel::Text(const cLine& line, int column) const
 // With the name, which may be longer than its place.
 QString cReportTreeModel::Explanation(const cLine& line) const
 {
-    const QString amount = m_figures.Type == eReport::Limit
+    const QString amount = modReport::HasLimits(m_figures.Type)
         ? cText::Tr("{0} von {1}", {Text(line, Amount), Text(line, Limit)})
         : Text(line, Amount);
     return line.Label + u": " + amount + u'\n' + modCount::Entries(line.Amount.Entries);

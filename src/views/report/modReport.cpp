@@ -31,12 +31,13 @@ struct cType
     QString ShortName;
 };
 
-const std::array<cType, 3>& Types()
+const std::array<cType, 4>& Types()
 {
-    static const std::array<cType, 3> types{
+    static const std::array<cType, 4> types{
         cType{eReport::Average, QT_TRANSLATE_NOOP("cText", "Durchschnittswerte"), u"durchschnitt"_s},
         cType{eReport::Sum, QT_TRANSLATE_NOOP("cText", "Summe aller Werte"), u"summe"_s},
         cType{eReport::Limit, QT_TRANSLATE_NOOP("cText", "Monatslimit"), u"limit"_s},
+        cType{eReport::Budget, QT_TRANSLATE_NOOP("cText", "Budget"), u"budget"_s},
     };
     return types;
 }
@@ -67,7 +68,7 @@ cPath Split(const QString& path)
 bool Counts(const cEntryItem& entry, const cReportWish& wish)
 {
     const bool withStart = wish.Type == eReport::Sum && wish.ShowsStart;
-    return entry.EntryType != modWord::Umbuchung && (withStart || entry.EntryCategory != modWord::Startguthaben);
+    return modBudget::Counts(entry) || (withStart && entry.EntryType != modWord::Umbuchung);
 }
 
 eReportKind KindOf(const cEntryItem& entry)
@@ -75,19 +76,17 @@ eReportKind KindOf(const cEntryItem& entry)
     return entry.EntryType == modWord::Einnahme ? eReportKind::Income : eReportKind::Expense;
 }
 
-// Limits of categories for so many calendar months. Of several rows with the same path the first one with a limit
-// holds.
-QHash<cPath, qint64> Limits(const cTemplateItemList& templates, qint64 months)
+// The limits of the categories that have one in the counted months.
+QHash<cPath, cLimit> Limits(const cLimits& limits, const cReportBasis& basis)
 {
-    QHash<cPath, qint64> limits;
-    for (const cTemplateItem& item : templates) {
-        const qint64 limit = modTemplate::LimitCents(item, months);
-        const cPath path = Split(modTemplate::Path(item));
-        if (!modTemplate::IsAccount(item) && limit > 0 && !limits.contains(path)) {
-            limits.insert(path, limit);
+    QHash<cPath, cLimit> found;
+    const QStringList paths = limits.Paths();
+    for (const QString& path : paths) {
+        if (const std::optional<cLimit> limit = limits.Of(path, basis.FirstMonth, basis.Months)) {
+            found.insert(Split(path), *limit);
         }
     }
-    return limits;
+    return found;
 }
 
 // What lies on one category.
@@ -102,7 +101,7 @@ struct cSlot
     cPath Path;
     cTotal Income{};
     cTotal Expense{};
-    qint64 Limit = 0; // for the whole period
+    std::optional<cLimit> Limit{}; // for the whole period; none without one
 };
 
 // Totals by category, filled in one pass over the entries.
@@ -117,7 +116,7 @@ public:
         ++total.Entries;
     }
 
-    void AddLimits(const QHash<cPath, qint64>& limits)
+    void AddLimits(const QHash<cPath, cLimit>& limits)
     {
         for (auto limit = limits.begin(); limit != limits.end(); ++limit) {
             m_slots[Find(limit.key())].Limit = *limit;
@@ -180,11 +179,12 @@ public:
         m_collator.setNumericMode(true);
     }
 
-    void Add(const cPath& path, const cTotal& total, qint64 limit)
+    void Add(const cPath& path, const cTotal& total, const cLimit& limit)
     {
         cReportAmount amount;
         amount.Sum = total.Cents;
-        amount.Limit = limit;
+        amount.Limit = limit.Total();
+        amount.Carried = limit.Carried;
         amount.Entries = total.Entries;
         cReportGroup& group = Group(path.Group);
         group.Categories.append({path.Category, CategoryLabel(path), amount});
@@ -224,6 +224,7 @@ private:
     {
         whole.Sum += part.Sum;
         whole.Limit += part.Limit;
+        whole.Carried += part.Carried;
         whole.Entries += part.Entries;
     }
 
@@ -263,10 +264,10 @@ cTotal Spent(const cSlot& slot, eReportSpending spending)
 void AddSlot(const cSlot& slot, cSectionBuilder& income, cSectionBuilder& expense)
 {
     if (slot.Income.Entries > 0) {
-        income.Add(slot.Path, slot.Income, 0);
+        income.Add(slot.Path, slot.Income, {});
     }
     if (slot.Expense.Entries > 0) {
-        expense.Add(slot.Path, slot.Expense, 0);
+        expense.Add(slot.Path, slot.Expense, {});
     }
 }
 
@@ -315,8 +316,7 @@ modPeriod::cRange Counted(const cReportWish& wish, const cReportBasis& shown, co
 
 } // namespace
 
-cReportFigures modReport::Figures(const cEntryItemList& entries, const cTemplateItemList& templates,
-                                  const cReportWish& wish)
+cReportFigures modReport::Figures(const cEntryItemList& entries, const cLimits& limits, const cReportWish& wish)
 {
     cReportFigures figures;
     figures.Type = wish.Type;
@@ -330,14 +330,14 @@ cReportFigures modReport::Figures(const cEntryItemList& entries, const cTemplate
     }
     cSectionBuilder income(eReportKind::Income, figures.Basis, wish.Type);
     cSectionBuilder expense(eReportKind::Expense, figures.Basis, wish.Type);
-    if (wish.Type == eReport::Limit) {
-        totals.AddLimits(Limits(templates, figures.Basis.Months));
+    if (HasLimits(wish.Type)) {
+        totals.AddLimits(Limits(limits, figures.Basis));
     }
     for (const cSlot& slot : totals.All()) {
-        if (wish.Type != eReport::Limit) {
+        if (!HasLimits(wish.Type)) {
             AddSlot(slot, income, expense);
-        } else if (slot.Limit > 0) {
-            expense.Add(slot.Path, Spent(slot, wish.Spending), slot.Limit);
+        } else if (slot.Limit) {
+            expense.Add(slot.Path, Spent(slot, wish.Spending), *slot.Limit);
         }
     }
     figures.Income = income.Take(wish.Order);
@@ -356,6 +356,7 @@ cReportBasis modReport::Basis(const cReportWish& wish, const cEntryItemList& ent
     basis.DaysOfYears = DaysOfYears(counted.Start, counted.End);
     basis.Years = std::abs(counted.End.year() - counted.Start.year()) + 1;
     basis.Months = MonthsBetween(counted.Start, counted.End);
+    basis.FirstMonth = modBudget::MonthOf(std::min(counted.Start, counted.End));
     return basis;
 }
 
@@ -366,10 +367,10 @@ bool modReport::HasStart(const modPeriod::cRange& range)
 }
 
 cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReportWish& wish, const cReportNode& node,
-                                    const cTemplateItemList& templates)
+                                    const cLimits& limits)
 {
-    const bool isLimit = wish.Type == eReport::Limit;
-    const QHash<cPath, qint64> limits = isLimit ? Limits(templates, 12) : QHash<cPath, qint64>();
+    const bool isLimit = HasLimits(wish.Type);
+    const QHash<cPath, cLimit> limited = isLimit ? Limits(limits, Basis(wish, entries)) : QHash<cPath, cLimit>();
     const bool withRefunds = isLimit && wish.Spending == eReportSpending::Net;
     QHash<QString, bool> isBelow; // by category path as the entries have it
     cEntryItemList found;
@@ -380,7 +381,7 @@ cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReport
         auto known = isBelow.constFind(entry.EntryCategory);
         if (known == isBelow.constEnd()) {
             const cPath path = Split(entry.EntryCategory);
-            known = isBelow.insert(entry.EntryCategory, IsBelow(path, node) && (!isLimit || limits.contains(path)));
+            known = isBelow.insert(entry.EntryCategory, IsBelow(path, node) && (!isLimit || limited.contains(path)));
         }
         if (*known) {
             found.append(entry);
@@ -408,6 +409,16 @@ qint64 modReport::PerMonth(qint64 cents, const cReportBasis& basis)
     // The product is exact and the quotient rounded once, so that halves are seen as halves.
     return std::llround(static_cast<double>(cents) * static_cast<double>(basis.DaysOfYears)
                         / (12.0 * static_cast<double>(basis.Days) * basis.Years));
+}
+
+bool modReport::HasLimits(eReport type)
+{
+    return type == eReport::Limit || type == eReport::Budget;
+}
+
+qint64 modReport::Left(const cReportAmount& amount)
+{
+    return amount.Limit - amount.Cents;
 }
 
 QString modReport::Name(eReport type)
@@ -442,7 +453,8 @@ QString modReport::AmountTitle(eReport type)
     switch (type) {
     case eReport::Average: return cText::Tr("Durchschnitt pro Monat");
     case eReport::Sum: return cText::Tr("Summe");
-    case eReport::Limit: return cText::Tr("Ausgegeben");
+    case eReport::Limit:
+    case eReport::Budget: return cText::Tr("Ausgegeben");
     }
     return {};
 }

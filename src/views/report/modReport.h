@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
-#include "model/cTemplateItem.h"
+#include "model/cLimits.h"
 #include "views/report/cReportFigures.h"
 
 #include <QString>
@@ -12,8 +12,7 @@
 namespace modReport {
 
 // The figures for a wish. `entries` are the occurrences of its period and account; what does not count is passed over.
-[[nodiscard]] cReportFigures Figures(const cEntryItemList& entries, const cTemplateItemList& templates,
-                                     const cReportWish& wish);
+[[nodiscard]] cReportFigures Figures(const cEntryItemList& entries, const cLimits& limits, const cReportWish& wish);
 
 // What the wish's period is reckoned with. An open side is shown as 1 January 1001 or 31 December 9999 and counted from
 // or to the month of the first or last of `entries` that counts; without one, as it is shown.
@@ -24,9 +23,9 @@ namespace modReport {
 [[nodiscard]] bool HasStart(const modPeriod::cRange& range);
 
 // The entries that the line of a node counts, in the order given. Of the limit report only categories with a limit
-// count, so it needs the templates; the others do without.
+// count, so it needs the limits; the others do without.
 [[nodiscard]] cEntryItemList EntriesOf(const cEntryItemList& entries, const cReportWish& wish, const cReportNode& node,
-                                       const cTemplateItemList& templates = {});
+                                       const cLimits& limits = {});
 
 // The node of an entry; none when it does not count: transfers, and start balances where they are not wanted.
 [[nodiscard]] std::optional<cReportNode> NodeOf(const cEntryItem& entry, const cReportWish& wish);
@@ -37,11 +36,17 @@ namespace modReport {
 // How much of its limit was spent, in whole per cent; 0 where more came back than was spent, none without limit.
 [[nodiscard]] std::optional<qint64> LimitPercent(const cReportAmount& amount);
 
+// Whether a report is about limits: it has expenses only, and only categories with a limit.
+[[nodiscard]] bool HasLimits(eReport type);
+// What is left of a limit; below zero what was spent too much.
+[[nodiscard]] qint64 Left(const cReportAmount& amount);
+
 // The stored name of a report, "Durchschnittswerte" and so on.
 [[nodiscard]] QString Name(eReport type);
 // The same for the user.
 [[nodiscard]] QString ShownName(eReport type);
-// The report of a stored or shown name or of a short one ("durchschnitt", "summe", "limit"), in any letter case.
+// The report of a stored or shown name or of a short one ("durchschnitt", "summe", "limit", "budget"), in any letter
+// case.
 [[nodiscard]] std::optional<eReport> TypeByName(const QString& name);
 
 // "Einnahmen" or "Ausgaben" for the user.

@@ -16,18 +16,39 @@ namespace {
 
 bool HasLimits(const cReportFigures& figures)
 {
-    return figures.Type == eReport::Limit;
+    return modReport::HasLimits(figures.Type);
+}
+
+// The columns of money in their order, with what stands in them.
+QStringList MoneyTitles(eReport type)
+{
+    if (type == eReport::Budget) {
+        return {cText::Tr("Budget"), cText::Tr("Übertrag"), modReport::AmountTitle(type), cText::Tr("Übrig")};
+    }
+    QStringList titles{modReport::AmountTitle(type)};
+    if (type == eReport::Limit) {
+        titles.append(cText::Tr("Limit"));
+    }
+    return titles;
+}
+
+QList<qint64> Money(const cReportAmount& amount, eReport type)
+{
+    if (type == eReport::Budget) {
+        return {amount.Limit - amount.Carried, amount.Carried, amount.Cents, modReport::Left(amount)};
+    }
+    QList<qint64> money{amount.Cents};
+    if (type == eReport::Limit) {
+        money.append(amount.Limit);
+    }
+    return money;
 }
 
 // Limit and amount stand side by side, the number of entries last.
 QStringList Titles(const cReportFigures& figures)
 {
-    QStringList titles{cText::Tr("Art"), cText::Tr("Sparte"), cText::Tr("Kategorie"),
-                       modReport::AmountTitle(figures.Type)};
-    if (HasLimits(figures)) {
-        titles.append(cText::Tr("Limit"));
-    }
-    return titles << cText::Tr("Einträge");
+    return QStringList{cText::Tr("Art"), cText::Tr("Sparte"), cText::Tr("Kategorie")} << MoneyTitles(figures.Type)
+                                                                                      << cText::Tr("Einträge");
 }
 
 // Calls `write` for every category with its section, its group and itself.
@@ -65,11 +86,19 @@ public:
     }
 
 private:
-    [[nodiscard]] int ColumnCount() const { return HasLimits(m_figures) ? 6 : 5; }
+    [[nodiscard]] int ColumnCount() const { return static_cast<int>(Titles(m_figures).size()); }
+
+    // In letters.
+    [[nodiscard]] int Width(int column) const
+    {
+        constexpr std::array<int, 4> widths{12, 26, 30, 22};
+        constexpr int money = 16;
+        constexpr int count = 10;
+        return column == ColumnCount() - 1 ? count : column < 4 ? widths[static_cast<std::size_t>(column)] : money;
+    }
 
     void WriteHead()
     {
-        constexpr std::array<int, 6> widths{12, 26, 30, 22, 16, 10};
         const QString heading = modReportHtml::Heading(m_figures);
         m_book.SetTitle(heading, {});
         // "&" begins a field of the page's head and foot, and the head holds 255 characters.
@@ -78,7 +107,7 @@ private:
                                + cText::Tr("Seite {0} von {1}", {QStringLiteral("&P"), QStringLiteral("&N")}));
         const QStringList titles = Titles(m_figures);
         for (int column = 0; column < ColumnCount(); ++column) {
-            m_book.SetColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+            m_book.SetColumnWidth(column, Width(column));
             m_book.WriteText(0, column, titles.at(column), cWorkbook::Head);
         }
     }
@@ -90,9 +119,9 @@ private:
         for (const QString& text : texts) {
             m_book.WriteText(m_row, column++, text, textStyle);
         }
-        m_book.WriteMoney(m_row, column++, amount.Cents, moneyStyle);
-        if (HasLimits(m_figures)) {
-            m_book.WriteMoney(m_row, column++, amount.Limit, moneyStyle);
+        const QList<qint64> money = Money(amount, m_figures.Type);
+        for (const qint64 cents : money) {
+            m_book.WriteMoney(m_row, column++, cents, moneyStyle);
         }
         m_book.WriteCount(m_row, column, amount.Entries, textStyle);
         ++m_row;
@@ -121,10 +150,10 @@ QByteArray modReportExport::Csv(const cReportFigures& figures)
 {
     QByteArray bytes = modCsv::Mark + modCsv::Line(Titles(figures));
     ForEachCategory(figures, [&](const auto& section, const auto& group, const auto& category) {
-        QStringList fields{modReport::ShownKind(section.Kind), modCsv::Text(group.Label), modCsv::Text(category.Name),
-                           modCsv::Money(category.Amount.Cents)};
-        if (HasLimits(figures)) {
-            fields.append(modCsv::Money(category.Amount.Limit));
+        QStringList fields{modReport::ShownKind(section.Kind), modCsv::Text(group.Label), modCsv::Text(category.Name)};
+        const QList<qint64> money = Money(category.Amount, figures.Type);
+        for (const qint64 cents : money) {
+            fields.append(modCsv::Money(cents));
         }
         bytes += modCsv::Line(fields << QString::number(category.Amount.Entries));
     });

@@ -133,6 +133,8 @@ public:
             m_html += modUnread::Title().toHtmlEscaped() + u".<br>"_s + modUnread::Hint().toHtmlEscaped() + u"</div>"_s;
         } else if (m_figures.Type == eReport::Limit) {
             WriteLimits();
+        } else if (m_figures.Type == eReport::Budget) {
+            WriteBudget();
         } else {
             WriteResult();
             WriteSection(m_figures.Income, u"#006400"_s);
@@ -147,9 +149,12 @@ private:
     void WriteResult();
     void WriteSection(const cReportSection& section, const QString& colour);
     void WriteLimits();
+    void WriteBudget();
     [[nodiscard]] QString Explanation() const;
     [[nodiscard]] QString Line(eReportKind kind, const cReportGroup& group, const cReportCategory* category) const;
     [[nodiscard]] QString LimitLine(const QString& label, const cReportAmount& amount, eWeight weight) const;
+    [[nodiscard]] QString BudgetLine(const QString& label, const cReportAmount& amount, eWeight weight) const;
+    [[nodiscard]] static QString BudgetFrame(const QString& name, const QStringList& cells, eWeight weight);
     [[nodiscard]] QString Money(qint64 cents) const { return m_format.Cents(cents).toHtmlEscaped(); }
 
     const cReportFigures& m_figures;
@@ -245,6 +250,46 @@ QString cWriter::LimitLine(const QString& label, const cReportAmount& amount, eW
         + u"</td><td style=\"width: 20px; text-align: right;\">"_s + cText::Tr("von")
         + u"</td><td style=\"width: 80px; text-align: right;\">"_s + Money(amount.Limit) + u"</td></tr></table>"_s;
     return Framed(content, tone, width);
+}
+
+// Plan against actual: what the months allow, what they took over, what was spent and what is left.
+void cWriter::WriteBudget()
+{
+    m_html += u"<dir style=\"margin-left: 0px;\">"_s
+        + BudgetFrame(cText::Tr("Kategorie"),
+                      {cText::Tr("Budget"), cText::Tr("Übertrag"), cText::Tr("Ausgegeben"), cText::Tr("Übrig")},
+                      eWeight::Bold)
+        + BudgetLine(cText::Tr("Summe"), m_figures.Expense.Amount, eWeight::Bold);
+    for (const cReportGroup& group : m_figures.Expense.Groups) {
+        m_html += BudgetLine(group.Label, group.Amount, eWeight::Bold) + u"<dir style=\"margin-left: 20px;\"><ul>"_s;
+        for (const cReportCategory& category : group.Categories) {
+            m_html += BudgetLine(category.Label, category.Amount, eWeight::Plain);
+        }
+        m_html += u"</ul></dir>"_s;
+    }
+    m_html += u"</dir></div>"_s;
+}
+
+QString cWriter::BudgetLine(const QString& label, const cReportAmount& amount, eWeight weight) const
+{
+    return BudgetFrame(label,
+                       {Money(amount.Limit - amount.Carried), Money(amount.Carried), Money(amount.Cents),
+                        Money(modReport::Left(amount))},
+                       weight);
+}
+
+// The lists stand 60 pixels further in, so that the cells of all lines stand below each other.
+QString cWriter::BudgetFrame(const QString& name, const QStringList& cells, eWeight weight)
+{
+    const bool isBold = weight == eWeight::Bold;
+    const QString width = isBold ? u"860px"_s : u"800px"_s;
+    QString content = u"<table style=\"margin: 0px; border-collapse: collapse; width: "_s + width + u"; color: "_s
+        + LimitTone().Text + u";\"><tr><td style=\"text-align: left; width: "_s + (isBold ? u"400px"_s : u"340px"_s)
+        + u"\">"_s + Strong(name.toHtmlEscaped(), weight) + u"</td>"_s;
+    for (const QString& cell : cells) {
+        content += u"<td style=\"text-align: right; width: 115px;\">"_s + Strong(cell, weight) + u"</td>"_s;
+    }
+    return Framed(content + u"</tr></table>"_s, LimitTone(), width);
 }
 
 // What every browser needs to draw the lines as the program does: lists end at the same place, long names wrap, and

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kindCount = 6;
+constexpr int kindCount = 7;
 constexpr int mostForecast = 12; // months
 
 } // namespace
@@ -31,7 +31,8 @@ QStringList cStatisticsChart::Kinds()
 {
     return {cText::Tr("Ausgaben nach Kategorien"),           cText::Tr("Einnahmen nach Kategorien"),
             cText::Tr("Einnahmen und Ausgaben je Monat"),    cText::Tr("Ausgaben je Monat nach Kategorien"),
-            cText::Tr("Einnahmen je Monat nach Kategorien"), cText::Tr("Verlauf der Kontostände")};
+            cText::Tr("Einnahmen je Monat nach Kategorien"), cText::Tr("Verlauf der Kontostände"),
+            cText::Tr("Budget und Ausgaben je Monat")};
 }
 
 void cStatisticsChart::Restore()

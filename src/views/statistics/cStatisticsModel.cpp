@@ -44,10 +44,10 @@ QString TitleOf(const cReportNode& node)
 }
 
 std::function<cEntryItemList(const cEntryItemList&)> Picker(const cReportWish& wish, const cReportNode& node,
-                                                            const cTemplateItemList& templates)
+                                                            const cLimits& limits)
 {
-    return [wish, node, templates](const cEntryItemList& entries) {
-        return modReport::EntriesOf(entries, wish, node, templates);
+    return [wish, node, limits](const cEntryItemList& entries) {
+        return modReport::EntriesOf(entries, wish, node, limits);
     };
 }
 
@@ -100,7 +100,7 @@ cStatisticsModel::cStatisticsModel(const cBookTools& tools, const cParts& parts,
 void cStatisticsModel::Restore()
 {
     const cSettings& settings = m_tools.Settings;
-    m_type = Stored(settings, modSettingKey::StatisticsReport, eReport::Limit);
+    m_type = Stored(settings, modSettingKey::StatisticsReport, eReport::Budget);
     m_period.Restore(settings, reportPane, m_tools.Clock.Today());
     m_order = Stored(settings, modSettingKey::StatisticsOrder, eReportOrder::ByAmount);
     m_spending = Stored(settings, modSettingKey::StatisticsSpending, eReportSpending::Gross);
@@ -289,16 +289,21 @@ void cStatisticsModel::ViewChanged()
 
 QString cStatisticsModel::TypeOf(const cReportWish& wish, const cReportNode& node) const
 {
-    if (wish.Type == eReport::Limit && wish.Spending == eReportSpending::Net) {
+    if (modReport::HasLimits(wish.Type) && wish.Spending == eReportSpending::Net) {
         return modWord::AlleBuchungsarten; // what came back has been taken off, so it has to be seen
     }
     return node.Kind == eReportKind::Income ? modWord::Einnahme : modWord::Ausgabe;
 }
 
+bool cStatisticsModel::IsLimit() const
+{
+    return modReport::HasLimits(m_type);
+}
+
 void cStatisticsModel::ShowSelected(const cReportWish& wish, const cReportNode& node)
 {
     m_parts.Main.ShowEntries(
-        {TitleOf(node), TypeOf(wish, node), wish.Account, wish.Range, Picker(wish, node, m_source.Templates())});
+        {TitleOf(node), TypeOf(wish, node), wish.Account, wish.Range, Picker(wish, node, m_source.Limits(wish))});
     Q_EMIT EntriesShown();
 }
 

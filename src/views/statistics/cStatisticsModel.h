@@ -63,7 +63,7 @@ public:
     [[nodiscard]] QStringList Accounts() const; // "Alle Konten" first
     [[nodiscard]] ePage Page() const { return m_page; }
     [[nodiscard]] int Zoom() const { return m_zoom; }
-    [[nodiscard]] bool IsLimit() const { return m_type == eReport::Limit; }
+    [[nodiscard]] bool IsLimit() const; // a report about limits
 
     [[nodiscard]] const QString& Html() const { return m_html; }
     [[nodiscard]] QString Hint() const; // what can be done about an empty report; none: nothing

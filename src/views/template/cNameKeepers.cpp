@@ -4,6 +4,7 @@
 #include "import/propose/cOwnRules.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "views/budget/modLimits.h"
 #include "views/list/modSetting.h"
 #include "views/template/cBankNumbers.h"
 
@@ -31,5 +32,5 @@ bool cNameKeepers::RenameAccount(const QString& oldName, const QString& newName)
 
 bool cNameKeepers::RenameCategory(const QString& oldPath, const QString& newPath)
 {
-    return cOwnRules(m_settings).RenameCategory(oldPath, newPath);
+    return cOwnRules(m_settings).RenameCategory(oldPath, newPath) && modLimits::Move(m_settings, oldPath, newPath);
 }

@@ -14,6 +14,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/budget/modLimits.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cTemplateFlow.h"
 #include "views/template/cTemplateRemoval.h"
@@ -504,10 +505,20 @@ QString cTemplateManager::AmountLabel(const cTemplateFields& fields) const
     return modRecurrence::IsRecurring(fields.Interval) ? cText::Tr("Betra&g:") : cText::Tr("&Monatslimit:");
 }
 
+// What the budget says of this month, where it is something else.
+QString cTemplateManager::BudgetHint(const cTemplateFields& fields) const
+{
+    const QString path = fields.Group.isEmpty() ? fields.Name : modTemplate::Join(fields.Group, fields.Name);
+    const QMap<QDate, qint64> months = modLimits::BudgetOf(m_tools.Settings, path).Months;
+    const auto own = months.constFind(modBudget::MonthOf(m_tools.Clock.Today()));
+    return own == months.constEnd() ? QString() : cText::Tr("Budget dieses Monats: {0}", {m_tools.Format.Cents(*own)});
+}
+
 QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
 {
+    const QString budget = BudgetHint(fields);
     if (!modRecurrence::IsRecurring(fields.Interval)) {
-        return {}; // the label says it
+        return budget; // all else says the label
     }
     cTemplateItem item;
     item.EntryType = fields.Type;
@@ -515,8 +526,10 @@ QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
     item.TemplateDefaultValue =
         modAmount::CentsToText(modSum::Evaluate(fields.Amount, m_tools.Format.Decimal()).value_or(0));
     const qint64 limit = modTemplate::LimitCents(item, 1);
-    return limit == 0 ? cText::Tr("Wird vorgeschlagen")
-                      : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_tools.Format.Cents(limit)});
+    const QString proposed = limit == 0
+        ? cText::Tr("Wird vorgeschlagen")
+        : cText::Tr("Wird vorgeschlagen; Monatslimit {0}", {m_tools.Format.Cents(limit)});
+    return budget.isEmpty() ? proposed : QString(proposed + u"; " + budget);
 }
 
 QString cTemplateManager::NumbersHint() const

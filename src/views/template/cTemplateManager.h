@@ -97,6 +97,7 @@ Q_SIGNALS:
     void AccountRenamed(const QString& oldName, const QString& newName);
 
 private:
+    [[nodiscard]] QString BudgetHint(const cTemplateFields& fields) const;
     using fnMoveEntries = bool (cDataAccess::*)(const QString& newName, const QString& oldName);
 
     [[nodiscard]] QString AddKnown(const QString& name, const std::function<QString()>& add, fnMoveEntries move);

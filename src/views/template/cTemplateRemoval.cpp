@@ -10,6 +10,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/budget/modLimits.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cTemplateFlow.h"
 #include "views/template/modTemplateText.h"
@@ -179,6 +180,11 @@ bool cTemplateRemoval::Delete(const cDoomed& doomed, const QString& onlyDelete)
     return !target.isEmpty() && Remove(doomed, target);
 }
 
+bool cTemplateRemoval::DeleteWithBudget(const cTemplateItem& item)
+{
+    return modLimits::Remove(m_tools.Settings, modTemplate::Path(item)) && m_tools.Data.DeleteTemplate(item.ID);
+}
+
 bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
 {
     const QString name = doomed.Items.size() == 1
@@ -186,7 +192,7 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
         : cText::Tr("{0} Kategorien gelöscht", {QString::number(doomed.Items.size())});
     cUndoStep step(m_tools.Data, name);
     const bool isDeleted = std::all_of(doomed.Items.begin(), doomed.Items.end(),
-                                       [&](const cTemplateItem& item) { return m_tools.Data.DeleteTemplate(item.ID); });
+                                       [&](const cTemplateItem& item) { return DeleteWithBudget(item); });
     const bool isMoved =
         target.isEmpty() || std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
             return m_tools.Data.ChangeEntryCategory(target, path)
@@ -226,10 +232,10 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
         return false;
     }
     cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
-    const bool isDeleted = std::all_of(sources.begin(), sources.end(),
-                                       [&](const cTemplateItem& item) { return m_tools.Data.DeleteTemplate(item.ID); });
-    return step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
-                       && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath));
+    const bool isDeleted =
+        std::all_of(sources.begin(), sources.end(), [&](const cTemplateItem& item) { return DeleteWithBudget(item); });
+    return Finish(step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
+                              && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath)));
 }
 
 bool cTemplateRemoval::AskMergeMain(const QString& source)
@@ -277,7 +283,8 @@ bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& tar
         item.TemplateCategory = target;
         const QString newPath = modTemplate::Path(item);
         if (!CategoriesAt(items, newPath).isEmpty()) {
-            return m_tools.Data.ChangeEntryCategory(newPath, oldPath) && m_tools.Data.DeleteTemplate(item.ID);
+            return m_tools.Data.ChangeEntryCategory(newPath, oldPath) && modLimits::Remove(m_tools.Settings, oldPath)
+                && m_tools.Data.DeleteTemplate(item.ID);
         }
         return m_tools.Data.ChangeTemplate(item) && cTemplateFlow(m_tools).FollowPath(item.ID, oldPath);
     });

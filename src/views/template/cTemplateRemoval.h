@@ -49,6 +49,7 @@ private:
 
     [[nodiscard]] cDoomed CollectMain(const QString& main);
     bool Delete(const cDoomed& doomed, const QString& onlyDelete);
+    [[nodiscard]] bool DeleteWithBudget(const cTemplateItem& item);
     [[nodiscard]] bool Remove(const cDoomed& doomed, const QString& target);
     [[nodiscard]] bool WriteMergedMain(const QString& source, const QString& target);
     [[nodiscard]] bool RemoveAccount(const cTemplateItem& account, const QString& target);

@@ -10,6 +10,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/budget/modLimits.h"
 #include "views/chart/modForecast.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cTemplateFlow.h"
@@ -289,7 +290,7 @@ bool cTemplateWriter::WriteOwn(const cTemplateNode& node, const QString& main, c
 {
     const std::optional<cTemplateItem> own = node.Id > 0 ? m_tools.Data.FindTemplate(node.Id) : std::nullopt;
     if (!fields.IsBookable) {
-        return !own || m_tools.Data.DeleteTemplate(own->ID);
+        return !own || (modLimits::Remove(m_tools.Settings, main) && m_tools.Data.DeleteTemplate(own->ID));
     }
     cTemplateItem item = own.value_or(cTemplateItem{});
     TakeDefaults(item, fields, m_tools.Format.Decimal());

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/report/cReportTreeModel.h"
+#include "views/report/modReport.h"
 #include "windows/widget/cRowDelegate.h"
 
 #include <QAction>
@@ -96,7 +97,7 @@ void cReportTree::Restore()
 // The groups; of the limits, which are few, the categories too.
 void cReportTree::Open()
 {
-    const bool isLimit = m_model.Figures().Type == eReport::Limit;
+    const bool isLimit = modReport::HasLimits(m_model.Figures().Type);
     header()->setSectionResizeMode(QHeaderView::Fixed);
     header()->setSectionResizeMode(cReportTreeModel::Name, QHeaderView::Stretch);
     expandToDepth(isLimit ? 1 : 0);

@@ -1,0 +1,204 @@
+#include "windows/budget/cBudgetTable.h"
+
+#include "base/cText.h"
+#include "views/budget/cBudgetModel.h"
+#include "windows/widget/cRowDelegate.h"
+#include "windows/widget/modTone.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QIdentityProxyModel>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QRect CheckRect(const QStyleOptionViewItem& option)
+{
+    const QStyle& style = option.widget != nullptr ? *option.widget->style() : *QApplication::style();
+    QStyleOptionButton box;
+    const QSize size = style.subElementRect(QStyle::SE_CheckBoxIndicator, &box, option.widget).size();
+    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+}
+
+class cCellDelegate final : public cRowDelegate
+{
+public:
+    using cRowDelegate::cRowDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QVariant check = index.data(Qt::CheckStateRole);
+        cRowDelegate::paint(painter, option, index);
+        if (!check.isValid()) {
+            return;
+        }
+        QStyleOptionViewItem box(option);
+        box.rect = CheckRect(option);
+        box.state.setFlag(check.toInt() == Qt::Checked ? QStyle::State_On : QStyle::State_Off);
+        box.state.setFlag(QStyle::State_HasFocus, false);
+        option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
+    }
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                          const QModelIndex& index) const override
+    {
+        auto* edit = new QLineEdit(parent);
+        edit->setAlignment(Qt::AlignRight);
+        edit->setFrame(false);
+        edit->setAccessibleName(index.model()->headerData(index.row(), Qt::Vertical).toString().trimmed() + u", "_s
+                                + index.model()->headerData(index.column(), Qt::Horizontal).toString());
+        return edit;
+    }
+
+    // A click anywhere in the cell, or the space bar.
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override
+    {
+        const QVariant check = index.data(Qt::CheckStateRole);
+        const bool isMeant = event->type() == QEvent::MouseButtonRelease
+            || (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space);
+        if (!check.isValid() || !isMeant || !index.flags().testFlag(Qt::ItemIsUserCheckable)) {
+            return cRowDelegate::editorEvent(event, model, option, index);
+        }
+        return model->setData(index, check.toInt() == Qt::Checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        cRowDelegate::initStyleOption(option, index);
+        option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false); // it is painted in the middle
+        option->font.setBold(index.data(cBudgetModel::IsHeadRole).toBool());
+        const int tone = index.data(cBudgetModel::ToneRole).toInt();
+        if (tone != cBudgetModel::Normal && !option->state.testFlag(QStyle::State_Selected)) {
+            option->palette.setColor(QPalette::Text,
+                                     tone == cBudgetModel::Bad ? modTone::Expense(option->palette)
+                                                               : modTone::Quiet(option->palette));
+        }
+    }
+};
+
+// The heads of the lines in bold; a model without widgets knows no fonts.
+class cHeads final : public QIdentityProxyModel
+{
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation == Qt::Vertical && role == Qt::FontRole) {
+            QFont font = QApplication::font();
+            font.setBold(sourceModel()->headerData(section, orientation, cBudgetModel::IsHeadRole).toBool());
+            return font;
+        }
+        return QIdentityProxyModel::headerData(section, orientation, role);
+    }
+};
+
+} // namespace
+
+cBudgetTable::cBudgetTable(cBudgetModel& model, QWidget* parent)
+    : QTableView(parent),
+      m_model(model),
+      m_look(new cHeads(this))
+{
+    m_look->setSourceModel(&model);
+    setModel(m_look);
+    setItemDelegate(new cCellDelegate(this));
+    setAccessibleName(cText::Tr("Budget"));
+    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
+    setSelectionMode(ContiguousSelection);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(cRowDelegate::RowHeight(fontMetrics()));
+    verticalHeader()->setSectionsClickable(false);
+    verticalHeader()->setHighlightSections(true);
+    verticalHeader()->setMaximumWidth(fontMetrics().averageCharWidth() * 32); // long names leave room for amounts
+    horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    horizontalHeader()->setSectionsClickable(false);
+    FitColumns();
+}
+
+// As wide as the sums, which stand in the first line, and their headlines.
+void cBudgetTable::FitColumns()
+{
+    resizeColumnsToContents();
+    const int least = fontMetrics().averageCharWidth() * 10;
+    for (int column = 0; column < cBudgetModel::ColumnCount; ++column) {
+        setColumnWidth(column, std::max(columnWidth(column), least));
+    }
+}
+
+QModelIndex cBudgetTable::Current() const
+{
+    return m_look->mapToSource(currentIndex());
+}
+
+void cBudgetTable::ShowColumn(int column)
+{
+    const QModelIndex index = m_look->index(std::max(0, currentIndex().row()), column);
+    setCurrentIndex(index);
+    scrollTo(index);
+}
+
+QModelIndexList cBudgetTable::Chosen() const
+{
+    QModelIndexList chosen;
+    const QModelIndexList cells = selectionModel()->selectedIndexes();
+    for (const QModelIndex& cell : cells) {
+        chosen.append(m_look->mapToSource(cell));
+    }
+    return chosen;
+}
+
+void cBudgetTable::MoveDown()
+{
+    const QModelIndex below = currentIndex().siblingAtRow(currentIndex().row() + 1);
+    if (below.isValid()) {
+        setCurrentIndex(below);
+    }
+}
+
+void cBudgetTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy)) {
+        QApplication::clipboard()->setText(m_model.Copy(Chosen()));
+    } else if (event->matches(QKeySequence::Paste)) {
+        m_model.Paste(Current(), QApplication::clipboard()->text());
+    } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+        m_model.Clear(Chosen());
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        MoveDown();
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+// Enter goes on to the next line, as in every table of amounts.
+void cBudgetTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTableView::closeEditor(editor, hint);
+    if (hint == QAbstractItemDelegate::SubmitModelCache) {
+        MoveDown();
+    }
+}
+
+// At its end the table is left as any other widget is. The item view's own answer would be the next cell.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
+bool cBudgetTable::focusNextPrevChild(bool next)
+{
+    const bool isAtEnd = next
+        ? currentIndex().row() == model()->rowCount() - 1 && currentIndex().column() == cBudgetModel::Year
+        : currentIndex().row() <= 0 && currentIndex().column() <= 0;
+    return isAtEnd ? QAbstractScrollArea::focusNextPrevChild(next) : QTableView::focusNextPrevChild(next);
+}
+// NOLINTEND(bugprone-parent-virtual-call)

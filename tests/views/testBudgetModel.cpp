@@ -1,0 +1,195 @@
+#include "model/modSettingKey.h"
+#include "support/cTestClass.h"
+#include "support/testBook.h"
+#include "views/budget/cBudgetModel.h"
+#include "views/budget/modLimits.h"
+#include "views/template/cTemplateFlow.h"
+#include "views/template/cTemplateRemoval.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString food = u"Haushalt; Lebensmittel"_s;
+
+// A book with its grid, seen on 15 March 2026.
+struct cScene
+{
+    [[nodiscard]] QModelIndex Cell(const QString& label, int column) const
+    {
+        for (int row = 0; row < Model.rowCount(); ++row) {
+            if (Model.headerData(row, Qt::Vertical, Qt::DisplayRole).toString().trimmed() == label) {
+                return Model.index(row, column);
+            }
+        }
+        return {};
+    }
+
+    // With plain blanks.
+    [[nodiscard]] QString Text(const QString& label, int column) const
+    {
+        return Cell(label, column).data().toString().replace(QChar::Nbsp, u' ');
+    }
+
+    void Type(const QString& label, int column, const QString& text)
+    {
+        QVERIFY(Model.setData(Cell(label, column), text, Qt::EditRole));
+    }
+
+    [[nodiscard]] QString Stored(const QString& path) const
+    {
+        return Book.Settings->Get(modSettingKey::Budget.Of(path));
+    }
+
+    [[nodiscard]] cTemplateItem Category() { return *Book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s); }
+
+    cTestBook Book;
+    cEntryItem Spent = Book.Add([](cEntryItem& entry) { entry.EntryValue = 3000; });
+    cBudgetModel Model{Book.Tools};
+};
+
+constexpr int March = cBudgetModel::FirstMonth + 2;
+
+} // namespace
+
+class testBudgetModel final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void IsTypedAndTakenBack();
+    void YearIsSpreadOrKept();
+    void FaultyAmountsStay();
+    void TakesAndGivesTables();
+    void ProposesLastYear();
+    void FollowsTheCategory();
+    void MergedCategoryKeepsItsOwn();
+};
+
+void testBudgetModel::IsTypedAndTakenBack()
+{
+    cScene scene;
+    const QAbstractItemModelTester tester(&scene.Model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    scene.Type(u"Lebensmittel"_s, cBudgetModel::Plain, u"20"_s);
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Left), u"-10,00 €"_s);
+    scene.Type(u"Lebensmittel"_s, March, u"25+2,50"_s);
+    QVERIFY(scene.Model.setData(scene.Cell(u"Lebensmittel"_s, cBudgetModel::Carry), Qt::Checked, Qt::CheckStateRole));
+    // 20 from each of January and February go on to March.
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Left), u"37,50 €"_s);
+    QCOMPARE(scene.Text(u"Haushalt"_s, cBudgetModel::Spent), u"30,00 €"_s);
+    QCOMPARE(scene.Text(u"Summe"_s, cBudgetModel::Year), u"247,50 €"_s);
+    QCOMPARE(scene.Cell(u"Lebensmittel"_s, March - 1).data(cBudgetModel::ToneRole).toInt(), cBudgetModel::Quiet);
+    QVERIFY(scene.Stored(food).isEmpty()); // until it is saved
+    QVERIFY(scene.Model.Save());
+    QCOMPARE(scene.Stored(food), u"uebertrag=2026-01;2026=,,27.50"_s);
+    QCOMPARE(scene.Category().TemplateDefaultValue, u"20.00"_s);
+    QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 'Haushalt; Lebensmittel' geändert"_s);
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    scene.Book.Settings->Reload();
+    QVERIFY(scene.Stored(food).isEmpty());
+    QCOMPARE(scene.Category().TemplateDefaultValue, QString());
+}
+
+void testBudgetModel::YearIsSpreadOrKept()
+{
+    cScene scene;
+    scene.Type(u"Lebensmittel"_s, cBudgetModel::Year, u"100"_s);
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::FirstMonth), u"8,33 €"_s);
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), u"100,00 €"_s);
+    scene.Model.KeepInMonth(scene.Cell(u"Lebensmittel"_s, March));
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"100,00 €"_s);
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, March + 1), u"0,00 €"_s);
+    QVERIFY(scene.Model.ShowYear(2027));
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), QString());
+    QVERIFY(scene.Model.ShowYear(2026));
+    scene.Model.Clear({scene.Cell(u"Lebensmittel"_s, cBudgetModel::Year)});
+    QVERIFY(!scene.Model.Edit().IsChanged());
+}
+
+void testBudgetModel::FaultyAmountsStay()
+{
+    cScene scene;
+    scene.Type(u"Lebensmittel"_s, March, u"zwölf"_s);
+    scene.Type(u"Lebensmittel"_s, March + 1, u"-5"_s);
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"zwölf"_s);
+    QCOMPARE(scene.Cell(u"Lebensmittel"_s, March).data(cBudgetModel::ToneRole).toInt(), cBudgetModel::Bad);
+    QVERIFY(!scene.Model.Save());
+    QVERIFY(!scene.Model.ShowYear(2027));
+    QVERIFY(scene.Book.User.Shown.first().startsWith(food + u": "_s));
+    scene.Type(u"Lebensmittel"_s, March, u"12"_s);
+    QVERIFY(!scene.Model.Save());
+    QVERIFY(scene.Book.User.Shown.last().contains(u"nicht unter null"_s));
+    scene.Book.User.Answers = {eAnswer::Cancel, eAnswer::No};
+    QVERIFY(!scene.Model.MayClose());
+    QVERIFY(scene.Model.MayClose());
+    QVERIFY(scene.Stored(food).isEmpty());
+}
+
+void testBudgetModel::TakesAndGivesTables()
+{
+    cScene scene;
+    const QModelIndex first = scene.Cell(u"Lebensmittel"_s, March);
+    scene.Model.Paste(first, u"1,50\t2\r\n3\r\n"_s);
+    const QModelIndex below = first.siblingAtRow(first.row() + 1);
+    QCOMPARE(scene.Model.Copy({below, first, first.siblingAtColumn(March + 1)}), u"1,50\t2,00\n3,00"_s);
+    QVERIFY(scene.Model.Save());
+    QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 2 Kategorien geändert"_s);
+}
+
+void testBudgetModel::ProposesLastYear()
+{
+    cScene scene;
+    scene.Model.TakeLastYear();
+    QCOMPARE(scene.Book.User.Shown.size(), 1); // nothing was spent in 2025
+    QVERIFY(scene.Model.ShowYear(2027));
+    scene.Model.TakeLastYear();
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"30,00 €"_s);
+    QCOMPARE(scene.Text(u"Lebensmittel"_s, March + 1), u"0,00 €"_s);
+    QVERIFY(scene.Stored(food).isEmpty());
+}
+
+// Its budget goes where the category goes, with the same step.
+void testBudgetModel::FollowsTheCategory()
+{
+    cScene scene;
+    const QString text = u"2026=,,27.50"_s;
+    const auto undo = [&] {
+        QVERIFY(scene.Book.Data.Journal().Undo());
+        scene.Book.Settings->Reload();
+        QCOMPARE(scene.Stored(food), text);
+    };
+    scene.Book.Settings->Set(modSettingKey::Budget.Of(food), text);
+    QVERIFY(cTemplateFlow(scene.Book.Tools).RenameCategory(scene.Category(), u"Haushalt"_s, u"Essen"_s));
+    QCOMPARE(scene.Stored(u"Haushalt; Essen"_s), text);
+    QVERIFY(scene.Stored(food).isEmpty());
+    undo();
+    QVERIFY(cTemplateFlow(scene.Book.Tools).RenameMain(u"Haushalt"_s, u"haushalt"_s)); // another letter case alone
+    QCOMPARE(scene.Stored(u"haushalt; Lebensmittel"_s), text);
+    undo();
+    scene.Book.User.Decisions = {1};
+    QVERIFY(cTemplateRemoval(scene.Book.Tools).DeleteCategory(scene.Category()));
+    QVERIFY(scene.Stored(food).isEmpty());
+    undo();
+}
+
+void testBudgetModel::MergedCategoryKeepsItsOwn()
+{
+    cScene scene;
+    const QString target = u"Haushalt; Reinigung"_s;
+    scene.Book.Settings->Set(modSettingKey::Budget.Of(food), u"2026=1.00"_s);
+    scene.Book.Settings->Set(modSettingKey::Budget.Of(target), u"2026=2.00"_s);
+    if (!scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Reinigung"_s)) {
+        cTemplateItem item = modTemplate::NewCategory(scene.Book.Data.GetTemplates(), u"Haushalt"_s, u"Reinigung"_s);
+        QVERIFY(scene.Book.Data.AddNewTemplate(item));
+    }
+    scene.Book.User.Answers = {eAnswer::Yes};
+    QVERIFY(cTemplateRemoval(scene.Book.Tools).MergeCategory(food, target));
+    QCOMPARE(scene.Stored(target), u"2026=2.00"_s);
+    QVERIFY(scene.Stored(food).isEmpty());
+}
+
+TEST_CLASS(testBudgetModel, QCoreApplication)
+#include "testBudgetModel.moc"

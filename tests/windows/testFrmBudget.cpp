@@ -1,0 +1,79 @@
+#include "support/cTestClass.h"
+#include "support/testBook.h"
+#include "views/budget/cBudgetModel.h"
+#include "windows/budget/cBudgetTable.h"
+#include "windows/budget/frmBudget.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+// The grid as it is worked on with the keys alone.
+class testFrmBudget final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TypesWithTheKeys();
+    void AsksBeforeItLosesAnything();
+};
+
+void testFrmBudget::TypesWithTheKeys()
+{
+    cTestBook book;
+    cBudgetModel budget(book.Tools);
+    frmBudget form(budget);
+    form.show();
+    auto* table = form.findChild<cBudgetTable*>();
+    table->setCurrentIndex(table->model()->index(2, cBudgetModel::FirstMonth));
+    const auto text = [&](int row, int column) {
+        return table->model()->index(row, column).data().toString().replace(QChar::Nbsp, u' ');
+    };
+    const auto type = [&](const char* keys, Qt::Key end) {
+        QTest::keyClicks(table->viewport(), QString::fromLatin1(keys).left(1));
+        auto* edit = table->findChild<QLineEdit*>();
+        QVERIFY(edit != nullptr);
+        QTest::keyClicks(edit, QString::fromLatin1(keys).mid(1));
+        QTest::keyClick(edit, end);
+    };
+    type("12,5", Qt::Key_Tab);
+    QCOMPARE(text(2, cBudgetModel::FirstMonth), u"12,50 €"_s);
+    QCOMPARE(table->Current().column(), int{cBudgetModel::FirstMonth} + 1);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); // the cell that Tab has opened
+    type("7", Qt::Key_Return);
+    QCOMPARE(text(2, cBudgetModel::FirstMonth + 1), u"7,00 €"_s);
+    QCOMPARE(table->Current().row(), 3);
+    QTest::keyClick(table, Qt::Key_Up);
+    QTest::keyClick(table, Qt::Key_Left, Qt::ShiftModifier);
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), u"12,50\t7,00"_s);
+    QTest::keyClick(table, Qt::Key_Delete);
+    QCOMPARE(text(2, cBudgetModel::FirstMonth), QString());
+    QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(text(2, cBudgetModel::FirstMonth), u"12,50 €"_s);
+    table->setCurrentIndex(table->model()->index(2, cBudgetModel::Carry));
+    QTest::keyClick(table, Qt::Key_Space);
+    QVERIFY(budget.Edit().CarriesOver(0));
+}
+
+void testFrmBudget::AsksBeforeItLosesAnything()
+{
+    cTestBook book;
+    cBudgetModel budget(book.Tools);
+    frmBudget form(budget);
+    form.show();
+    budget.setData(budget.index(2, cBudgetModel::FirstMonth), u"5"_s, Qt::EditRole);
+    form.close();
+    QVERIFY(form.isVisible()); // the user has not answered
+    book.User.Answers = {eAnswer::Yes};
+    form.close();
+    QVERIFY(!form.isVisible());
+    QCOMPARE(book.Data.Journal().UndoName().isEmpty(), false);
+}
+
+TEST_CLASS(testFrmBudget, QApplication)
+#include "testFrmBudget.moc"
