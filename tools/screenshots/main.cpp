@@ -27,6 +27,7 @@
 #include "tools/screenshots/takeAssistant.h"
 #include "tools/screenshots/takeBank.h"
 #include "tools/screenshots/takeBankSetup.h"
+#include "tools/screenshots/takeCharts.h"
 #include "tools/screenshots/takeReview.h"
 #include "tools/screenshots/takeUpdate.h"
 #include "views/chart/cChartMaker.h"
@@ -553,8 +554,8 @@ int main(int argc, char* argv[])
     return TakeUpdate(camera) && TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeBank(camera)
             && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera)
             && TakeRules(camera) && TakeReview(camera) && TakeBankSetup(camera) && TakeSettings(camera)
-            && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera) && TakeManual(camera)
-            && camera.IsGood()
+            && TakeStatistics(camera) && TakeCharts(camera) && TakeMoreCharts(camera) && TakePrinted(camera)
+            && TakeManual(camera) && camera.IsGood()
         ? 0
         : 1;
 }

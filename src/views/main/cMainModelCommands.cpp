@@ -2,6 +2,7 @@
 #include "base/cText.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/main/cMainModel.h"
@@ -42,6 +43,7 @@ bool cMainModel::Execute(int command)
     case modCommand::AppearanceSystem:
     case modCommand::AppearanceLight:
     case modCommand::AppearanceDark: ChooseAppearance(*modAppearance::OfCommand(known->Id)); break;
+    case modCommand::Reminders: SwitchReminders(); break;
     case modCommand::ImportStatement:
     case modCommand::Export:
     case modCommand::Print:
@@ -80,8 +82,7 @@ bool cMainModel::Execute(int command)
     case modCommand::SavedViews:
     case modCommand::GoToDay:
     case modCommand::People:
-    case modCommand::Settlement:
-    case modCommand::Reminders: return false; // no row in the table yet
+    case modCommand::Settlement: return false; // no row in the table yet
     }
     return true;
 }
@@ -106,6 +107,12 @@ bool cMainModel::IsChecked(const modCommand::cCommand& command) const
     const std::optional<eAppearance> appearance = modAppearance::OfCommand(command.Id);
     return appearance ? *appearance == modAppearance::Chosen(m_parts.Configuration)
                       : command.Setting != nullptr && IsChecked(*command.Setting);
+}
+
+void cMainModel::SwitchReminders()
+{
+    m_tools.Settings.SetBool(modSettingKey::RemindByDesktop, !m_tools.Settings.GetBool(modSettingKey::RemindByDesktop));
+    Q_EMIT ViewChanged(); // the check mark
 }
 
 void cMainModel::ChooseAppearance(eAppearance appearance)

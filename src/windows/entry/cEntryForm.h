@@ -80,6 +80,7 @@ private:
     QWidget* m_seriesRow;
     QCheckBox* EntryDateCheck;
     cDayEdit* EntryDateEnd;
+    cDayEdit* m_cancelBy;
     QLabel* m_preview;
     cSplitPage* m_split;
 };

@@ -7,6 +7,7 @@
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
 #include "windows/main/cEntryTree.h"
+#include "windows/main/cReminderBar.h"
 #include "windows/main/cSumBar.h"
 #include "windows/main/cViewBar.h"
 #include "windows/widget/modDrop.h"
@@ -52,6 +53,7 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_tree(new cEntryTree(model.Entries(), this)),
       m_sums(new cSumBar(this)),
       m_database(new QLabel(this)),
+      m_reminder(new cReminderBar(this)),
       m_failureMark(new QToolButton(this))
 {
     setAcceptDrops(true);
@@ -151,9 +153,16 @@ void frmMain::BuildStatusBar()
     m_failureMark->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_failureMark->setFocusPolicy(Qt::StrongFocus);
     connect(m_failureMark, &QToolButton::clicked, this, [this] { m_model.Execute(modCommand::ErrorLog); });
+    connect(m_reminder, &QToolButton::clicked, this, &frmMain::ReminderClicked);
+    statusBar()->addWidget(m_reminder, 1);
     statusBar()->addPermanentWidget(m_failureMark);
     statusBar()->addPermanentWidget(m_database);
     m_failureMark->hide();
+}
+
+void frmMain::ShowReminder(const QString& text)
+{
+    m_reminder->ShowText(text);
 }
 
 void frmMain::ShowFailureMark(bool isShown)
