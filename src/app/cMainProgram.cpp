@@ -15,6 +15,7 @@
 #include "views/book/cNationalSettings.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
+#include "views/reminder/cReminderModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/template/cNameKeepers.h"
@@ -47,7 +48,7 @@ constexpr auto updatePause = 24h; // of a program that stays open
 cMainProgram::cMainProgram(const cPorts& ports, const QString& version)
     : m_log({ports.Shell.StateFolder(), QStringLiteral("kontorelle"), modBuild::Version()}, ports.Clock),
       m_user(ports.User, m_log),
-      m_ports({ports.Shell, ports.Registry, m_user, ports.Rescue, ports.Clock}),
+      m_ports({ports.Shell, ports.Registry, m_user, ports.Rescue, ports.Clock, ports.Notifier}),
       m_version(version),
       m_configuration(ports.Registry),
       m_book(m_user),
@@ -246,6 +247,7 @@ void cMainProgram::BuildWindow()
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
     QObject::connect(m_model.get(), &cMainModel::AppearanceChanged, m_window.get(), [this] { m_appearance.Apply(); });
+    BuildReminder();
     m_log.Watch([this] { m_window->ShowFailureMark(true); });
     m_window->ShowFailureMark(m_log.Count() > 0);
     QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
@@ -255,6 +257,18 @@ void cMainProgram::BuildWindow()
                      [this](const cStartRequest& request) { Take(request); });
     QObject::connect(&m_navigation->National(), &cNationalSettings::LanguageChanged, &tmrLanguage,
                      [this] { tmrLanguage.start(0); }); // when the menu or form that said so is done
+}
+
+void cMainProgram::BuildReminder()
+{
+    m_reminder = std::make_unique<cReminderModel>(*m_tools, *m_navigation, m_ports.Notifier);
+    QObject::connect(m_model.get(), &cMainModel::BookRefreshed, m_reminder.get(), &cReminderModel::BookChanged);
+    QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_reminder.get(), &cReminderModel::BookChanged);
+    QObject::connect(m_reminder.get(), &cReminderModel::Changed, m_window.get(),
+                     [this] { m_window->ShowReminder(m_reminder->Text()); });
+    QObject::connect(m_reminder.get(), &cReminderModel::OverviewWanted, m_window.get(),
+                     [this] { m_window->ShowPage(frmMain::ePage::Overview); });
+    QObject::connect(m_window.get(), &frmMain::ReminderClicked, m_reminder.get(), &cReminderModel::Follow);
 }
 
 QString cMainProgram::WantedLanguage() const
@@ -280,6 +294,7 @@ void cMainProgram::FollowLanguage()
     QGuiApplication::setQuitOnLastWindowClosed(false);
     const frmMain::ePage page = m_window->Page();
     m_log.Watch({}); // until there is a window to tell
+    m_reminder.reset();
     m_window.reset();
     m_review.reset();
     m_model.reset();
@@ -291,6 +306,7 @@ void cMainProgram::FollowLanguage()
     m_model->RestoreView(false);
     m_window->ShowToday();
     m_window->ShowPage(page);
+    m_reminder->Start();
     Serve(); // what waited for the former window
 }
 
@@ -315,6 +331,7 @@ cBookSwitch::cHooks cMainProgram::Hooks()
 
 void cMainProgram::LeaveBook(cBookSwitch::eLeave leave)
 {
+    m_reminder->Stop();
     m_navigation->LeaveBook();
     m_window->SaveLayout();
     m_walk.reset();
@@ -331,6 +348,7 @@ void cMainProgram::WatchBook()
         TellDamage();
         return;
     }
+    m_reminder->Start();
     m_walk.emplace(m_book.Database());
     tmrWalk.start(walkDelay);
     QTimer::singleShot(backupDelay, &tmrBackup, [this] { m_backups.RunIfDue(); });

@@ -27,7 +27,9 @@ class cClock;
 class cImportReview;
 class cMainModel;
 class cNavigation;
+class cNotifier;
 class cRegistry;
+class cReminderModel;
 class cRescue;
 class cShell;
 class cStartUp;
@@ -45,6 +47,7 @@ public:
         cUser& User;
         cRescue& Rescue;
         const cClock& Clock;
+        cNotifier* Notifier = nullptr; // of a desktop that shows notes
     };
 
     cMainProgram(const cPorts& ports, const QString& version);
@@ -78,6 +81,7 @@ private:
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
+    void BuildReminder();
     void FollowLanguage();
     void LookForUpdates();
     [[nodiscard]] QString WantedLanguage() const;
@@ -116,6 +120,7 @@ private:
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;
+    std::unique_ptr<cReminderModel> m_reminder;
     std::unique_ptr<frmMain> m_window;
     bool m_isOffering = false; // drafts
     bool m_isReady = false;    // the window shows the book

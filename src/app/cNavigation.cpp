@@ -399,7 +399,11 @@ void cNavigation::CheckSeries()
     cStatementDesk desk(m_parts.Tools);
     cSeriesCheck check = desk.Series();
     if (check.IsClean()) {
-        m_parts.Tools.User.Show(eTone::Information, cSeriesCheck::NothingFound());
+        const QString contracts = check.Contracts();
+        m_parts.Tools.User.Show(eTone::Information,
+                                contracts.isEmpty()
+                                    ? cSeriesCheck::NothingFound()
+                                    : QString(cSeriesCheck::NothingFound() + QStringLiteral("\n\n") + contracts));
     } else if (!check.Ask({}).isEmpty()) {
         BookChanged();
         m_review->Refresh(); // rows of a series that ended earlier wait again

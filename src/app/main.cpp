@@ -1,3 +1,4 @@
+#include "app/cDesktopNotifier.h"
 #include "app/cLanguage.h"
 #include "app/cMainProgram.h"
 #include "app/cQtRegistry.h"
@@ -22,6 +23,7 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -105,7 +107,12 @@ int main(int argc, char* argv[])
     cQtUser user(registry);
     cQtRescue rescue;
     const cSystemClock clock;
-    cMainProgram program({shell, registry, user, rescue, clock}, QStringLiteral(APP_VERSION));
+    std::optional<cDesktopNotifier> notifier;
+    if (HasSessionBus()) {
+        notifier.emplace(QDBusConnection::sessionBus());
+    }
+    cMainProgram program({shell, registry, user, rescue, clock, notifier ? &*notifier : nullptr},
+                         QStringLiteral(APP_VERSION));
     modCrash::Watch(program.Log().Descriptor(), cErrorLog::NoteOfCrash);
     if (HasSessionBus()) {
         program.Appearance().FollowDesktop(QDBusConnection::sessionBus());

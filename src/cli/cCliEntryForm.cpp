@@ -45,6 +45,7 @@ QList<cCliOption> cCliEntryForm::Options()
         {u"date"_s, u"DATUM"_s, cText::Tr("Tag, bei Serien der erste: 2026-01-31, 31.1., gestern, +7")},
         {u"interval"_s, u"INTERVALL"_s, cText::Tr("Einmalig, Monatlich, \"Alle 3 Monate\", Jährlich ...")},
         {u"end"_s, u"DATUM"_s, cText::Tr("letzter Tag einer Serie, oder \"ohne\"")},
+        {u"cancel-by"_s, u"DATUM"_s, cText::Tr("Serie: Tag, bis zu dem der Vertrag kündbar ist, oder \"ohne\"")},
         {u"text"_s, u"TEXT"_s, cText::Tr("Beschreibung"), true},
         modCliCommands::Json()};
 }
@@ -79,6 +80,8 @@ void cCliEntryForm::ReadEnd()
     const QString end = m_context.Call.Value(u"end"_s);
     m_isOpen = end.compare(withoutEnd, Qt::CaseInsensitive) == 0;
     m_end = m_isOpen ? QDate() : m_reader.Day(end);
+    const QString cancelBy = m_context.Call.Value(u"cancel-by"_s);
+    m_cancelBy = cancelBy.compare(withoutEnd, Qt::CaseInsensitive) == 0 ? QDate() : m_reader.Day(cancelBy);
 }
 
 void cCliEntryForm::Fill(cEntryFields& fields)
@@ -97,6 +100,10 @@ void cCliEntryForm::Fill(cEntryFields& fields)
     fields.Date = m_day.isValid() ? m_day : fields.Date;
     fields.End = m_end.isValid() ? m_end : fields.End;
     fields.HasEnd = (fields.HasEnd || m_end.isValid()) && !m_isOpen;
+    if (Has("cancel-by")) {
+        fields.CancelBy = m_cancelBy;
+        fields.CancelByText.clear();
+    }
     if (!m_category.isEmpty()) {
         m_editor.ChooseCategory(m_category, fields);
     }
@@ -183,6 +190,9 @@ void cCliEntryForm::Check(const cEntryFields& fields)
 {
     if (Has("end") && !cEntryEditor::ShowsSeries(fields)) {
         m_reader.Misused(cText::Tr("Einen letzten Tag hat nur eine Serie. Bitte nennen Sie auch --interval."));
+    }
+    if (m_cancelBy.isValid() && !cEntryEditor::ShowsSeries(fields)) {
+        m_reader.Misused(cText::Tr("Kündbar ist nur eine Serie. Bitte nennen Sie auch --interval."));
     }
     if (cEntryEditor::ShowsSeries(fields) && fields.HasEnd && LastDay(fields) < fields.Date) {
         m_reader.Misused(cText::Tr("Der letzte Tag liegt vor dem ersten ({0}).", {modDate::ToText(fields.Date)}));

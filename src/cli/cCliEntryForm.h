@@ -44,6 +44,7 @@ private:
     QString m_target;
     QString m_interval;
     QDate m_day;
+    QDate m_cancelBy;
     QDate m_end;
     bool m_isOpen = false; // without last day
     QDate m_from;          // the series is changed from here on

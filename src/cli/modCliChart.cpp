@@ -155,8 +155,10 @@ cCliCommand modCliCommands::ChartCommand()
                         {u"compare"_s, u"NAME"_s, cText::Tr("daneben das \"Vorjahr\" oder ein anderer Zeitraum")},
                         {u"account"_s, u"NAME"_s, cText::Tr("nur dieses Konto")},
                         {u"category"_s, u"NAME"_s, cText::Tr("die Unterkategorien dieser Hauptkategorie")},
-                        {u"months"_s, u"ZAHL"_s, cText::Tr("Verlauf: Monate der Vorschau, ohne Angabe 12")},
-                        {u"average"_s, {}, cText::Tr("Verlauf: Vorschau mit dem Durchschnitt der Einzelausgaben")},
+                        {u"months"_s, u"ZAHL"_s, cText::Tr("Verlauf, Vermögen: Monate der Vorschau, ohne Angabe 12")},
+                        {u"average"_s,
+                         {},
+                         cText::Tr("Verlauf, Vermögen: Vorschau mit dem Durchschnitt der Einzelausgaben")},
                         {u"no-future"_s, {}, cText::Tr("ohne Einträge nach dem heutigen Tag")}},
             .Run = Run};
 }

@@ -52,6 +52,7 @@ const QList<cCliCommand>& modCliCommands::All()
         ReportCommand(),
         ChartCommand(),
         ForecastCommand(),
+        DueCommand(),
         AddCommand(),
         ChangeCommand(),
         DeleteCommand(),

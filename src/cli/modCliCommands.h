@@ -67,6 +67,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand ReportCommand();
 [[nodiscard]] cCliCommand ChartCommand();
 [[nodiscard]] cCliCommand ForecastCommand();
+[[nodiscard]] cCliCommand DueCommand();
 [[nodiscard]] cCliCommand SearchCommand();
 [[nodiscard]] cCliCommand AddCommand();
 [[nodiscard]] cCliCommand ChangeCommand();

@@ -44,6 +44,10 @@ int Run(const cCliContext& context)
             modConsole::Out(QString::number(finding.EntryId) + u"  "_s + check.Line(finding) + u'\n');
         }
     }
+    const QString contracts = check.Contracts();
+    if (!context.Call.Has(u"json"_s) && !contracts.isEmpty()) {
+        modConsole::Out(contracts + u'\n');
+    }
     const bool isWanted = !context.Call.Has(u"dry-run"_s) && !findings.isEmpty();
     return isWanted && !check.Apply(findings) ? modCliFlow::Finish(context, false) : modExit::Done;
 }

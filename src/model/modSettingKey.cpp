@@ -1,5 +1,7 @@
 #include "model/modSettingKey.h"
 
+#include "model/modReminderKey.h"
+
 #include <algorithm>
 #include <array>
 
@@ -42,6 +44,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &People,
                                      &ReceiptsInBackup,
                                      &RemindByDesktop,
+                                     &RemindedOn,
                                      &SavedViews,
                                      &GameScores,
                                      &ImportRuns,

@@ -1,4 +1,5 @@
 #include "app/cAppearance.h"
+#include "cTestBus.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/fakes.h"
@@ -10,7 +11,6 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QLabel>
-#include <QProcess>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,31 +35,6 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
-};
-
-// A session bus of its own.
-class cBus
-{
-public:
-    cBus()
-    {
-        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        if (m_daemon.waitForReadyRead()) {
-            Address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-        }
-    }
-    cBus(const cBus&) = delete;
-    cBus& operator=(const cBus&) = delete;
-    ~cBus()
-    {
-        m_daemon.terminate();
-        m_daemon.waitForFinished();
-    }
-
-    QString Address;
-
-private:
-    QProcess m_daemon;
 };
 
 bool IsDark()
@@ -113,7 +88,7 @@ void testAppearance::OpenWindowsFollow() const
 
 void testAppearance::DesktopIsFollowed() const
 {
-    const cBus bus;
+    const cTestBus bus;
     QVERIFY(!bus.Address.isEmpty());
     QDBusConnection server = QDBusConnection::connectToBus(bus.Address, u"portal"_s);
     QDBusConnection client = QDBusConnection::connectToBus(bus.Address, u"program"_s);

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void OneOccurrence();
     void FromHereOn();
     void LostCorrectionsNeedYes();
+    void DueWithContracts();
     void DeleteSaysWhatFirst();
     void CheckSaysHowToMendHiddenEntries();
     void PartsOfASplitEntry();
@@ -223,6 +224,23 @@ void testCliEntries::LostCorrectionsNeedYes()
     QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Json().size(), 1);
     QCOMPARE(Run(change + QStringList{u"--yes"_s}).Code, 0);
     QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Json().size(), 0);
+}
+
+void testCliEntries::DueWithContracts()
+{
+    Do(u"accounts|add|Giro"_s);
+    Do(u"categories|add|Handy|--kind|Ausgabe"_s);
+    const QString contract = Add(
+        u"--amount|20|--category|Handy|--kind|Ausgabe|--account|Giro|--interval|Monatlich|--date|+3|--cancel-by|+9"_s);
+    Add(u"--amount|7|--category|Handy|--kind|Ausgabe|--account|Giro|--date|+12"_s);
+    QCOMPARE(Do(u"due|--json"_s).Column(u"EntryValue"_s), (QStringList{u"20"_s, u"7"_s}));
+    QCOMPARE(Do(u"due|--json|--days|12"_s).Column(u"EntryValue"_s), QStringList{u"20"_s}); // today is the first of them
+    QCOMPARE(Do(u"due|--contracts|--json|--days|10"_s).Column(u"ID"_s), QStringList{contract});
+    QVERIFY(Do(u"due"_s).Out.contains(u"kündbar"_s));
+    QVERIFY(Do(u"due|--csv"_s).Out.count(u"\n"_s) == 3);
+    Do(u"change|%1|--cancel-by|ohne"_s.arg(contract));
+    QCOMPARE(Do(u"due|--contracts|--json|--days|10"_s).Column(u"ID"_s), QStringList());
+    QCOMPARE(Run({u"due"_s, u"--days"_s, u"0"_s}).Code, 2);
 }
 
 void testCliEntries::DeleteSaysWhatFirst()

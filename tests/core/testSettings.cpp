@@ -42,6 +42,7 @@ constexpr std::array storedSettings{
     "Personen",
     "BelegeSichern=Falsch",
     "ErinnerungMelden=Falsch",
+    "ErinnerungGemeldet",
     "Ansichten",
     "SpielBestwerte",
     "ImportRuns",

@@ -200,6 +200,76 @@ private Q_SLOTS:
         QVERIFY(book.Make({.Kind = eChartKind::Balances, .Range = {QDate(1990, 1, 1), QDate(1990, 1, 31)}}).IsEmpty());
     }
 
+    void FlowsIntoBothSides()
+    {
+        cChartBook book;
+        const cChartWish wish{.Kind = eChartKind::Flow, .Range = year};
+        const cChartData chart = book.Make(wish);
+        QCOMPARE(Values(chart, 0),
+                 (QStringList{u"Arbeit=200000"_s, u"Wohnen=-"_s, u"Haushalt=-"_s, u"Bleibt übrig=-"_s}));
+        QCOMPARE(Values(chart, 1),
+                 (QStringList{u"Arbeit=-"_s, u"Wohnen=75000"_s, u"Haushalt=25000"_s, u"Bleibt übrig=100000"_s}));
+        QCOMPARE(chart.PartText(1, 1).replace(QChar(QChar::Nbsp), u' '), u"Wohnen, Hinaus: 750,00 € (38 %)"_s);
+        for (int i = 0; i < 4; ++i) { // too thin to be seen
+            book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Gruppe %1"_s.arg(i), 100 + i);
+        }
+        book.Add(modWord::Ausgabe, QDate(2026, 3, 2), u"Wohnen; Dach"_s, 500000);
+        const cChartData deficit = book.Make(wish);
+        QCOMPARE(deficit.Series.last().Name, u"Übriges"_s);
+        QCOMPARE(deficit.Series.last().At(1), 406);
+        QCOMPARE(deficit.Series.at(1).Name, u"Aus Erspartem"_s);
+        QCOMPARE(deficit.Total(0), deficit.Total(1));
+    }
+
+    void ShadesTheDays()
+    {
+        cChartBook book;
+        const cChartData chart = book.Make({.Kind = eChartKind::Calendar, .Range = year, .ShowsFuture = false});
+        QCOMPARE(chart.Days.size(), 365);
+        QCOMPARE(chart.Series.size(), 1);
+        QCOMPARE(chart.Series[0].At(9), 60000);
+        QCOMPARE(chart.Series[0].At(0), 0);
+        QVERIFY(!chart.Series[0].At(200)); // nobody knows what will be spent then
+        QCOMPARE(chart.Labels[chart.Today], u"15.03.2026"_s);
+        QVERIFY(chart.LevelOf(60000) > chart.LevelOf(5000));
+        QCOMPARE(chart.LevelOf(0), 0);
+        QCOMPARE(chart.Series[0].TargetAt(9).Range, (modPeriod::cRange{QDate(2026, 1, 10), QDate(2026, 1, 10)}));
+        const modPeriod::cRange leap{QDate(2023, 11, 1), QDate(2024, 12, 31)};
+        QCOMPARE(book.Make({.Kind = eChartKind::Calendar, .Range = leap}).Days.size(), 366);
+    }
+
+    void LaysLimitsBesideSpending()
+    {
+        cChartBook book;
+        QCOMPARE(book.Make({.Kind = eChartKind::Limits, .Range = year}).EmptyText(),
+                 u"Keine Kategorie hat ein Limit."_s);
+        cTemplateItem item;
+        item.TemplateType = modWord::Kategorie;
+        item.EntryType = modWord::Ausgabe;
+        item.TemplateCategory = u"Haushalt"_s;
+        item.TemplateName = u"Waschen"_s;
+        item.TemplateDefaultValue = u"200.00"_s;
+        QVERIFY(book.Book.Data.AddNewTemplate(item));
+        book.Add(modWord::Ausgabe, QDate(2026, 2, 3), u"Haushalt; Waschen"_s, 30000);
+        book.Add(modWord::Einnahme, QDate(2026, 2, 4), u"Haushalt; Waschen"_s, 2500);
+        const cChartData chart = book.Make({.Kind = eChartKind::Limits, .Range = year});
+        QCOMPARE(Values(chart, 1), (QStringList{u"Waschen=27500"_s, u"Limit Waschen=20000"_s}));
+        QCOMPARE(Values(chart, 2), (QStringList{u"Waschen=0"_s, u"Limit Waschen=20000"_s}));
+    }
+
+    void SharesTheNetWorth()
+    {
+        cChartBook book;
+        book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Auto"_s, 500000);
+        const modPeriod::cRange march{QDate(2026, 3, 1), QDate(2026, 3, 31)};
+        const cChartData chart = book.Make({.Kind = eChartKind::NetWorth, .Range = march, .ShowsFuture = false});
+        const qint64 current = 12345 - 115000 + 200000 - 50000 - 500000; // below zero
+        QCOMPARE(
+            Values(chart, 0),
+            (QStringList{u"Girokonto=%1"_s.arg(current), u"Sparkonto=50000"_s, u"Summe=%1"_s.arg(current + 50000)}));
+        QVERIFY(!modChartTable::Figures(chart).Rows.last().IsSum); // balances of several days make none
+    }
+
     void WritesTheSameFigures()
     {
         cChartBook book;

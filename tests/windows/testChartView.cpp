@@ -113,6 +113,7 @@ private Q_SLOTS:
         QTest::newRow("columns") << eChart::Columns;
         QTest::newRow("stacked") << eChart::StackedColumns;
         QTest::newRow("line") << eChart::Line;
+        QTest::newRow("areas") << eChart::Areas;
     }
 
     // Each part answers at its place, its colour is there in the picture, and a click names it.
@@ -132,7 +133,8 @@ private Q_SLOTS:
                     continue;
                 }
                 QCOMPARE(stage.View.PartAt(stage.Anchor(part)), part);
-                if (kind != eChart::Pie) { // its shares stand in the middle of the slices
+                // The shares of a pie stand in the middle of its slices, and surfaces end at the edge of the picture.
+                if (kind != eChart::Pie && kind != eChart::Areas) {
                     const QColor expected = modChartColour::Series(series, stage.View.palette());
                     const QColor painted =
                         picture.pixelColor((stage.Anchor(part) * picture.devicePixelRatio()).toPoint());
@@ -145,6 +147,47 @@ private Q_SLOTS:
             }
         }
         QVERIFY(!stage.View.PartAt(QPointF(2, 2)));
+    }
+
+    // From side to side, from day to day and from week to week, and from a column to its limit.
+    void MovesInFlowCalendarAndLimits()
+    {
+        cChartData flow = Chart(eChart::Flow);
+        flow.Labels = {u"Herein"_s, u"Hinaus"_s};
+        flow.Series = {{.Name = u"Lohn"_s, .Cents = {5000, std::nullopt}},
+                       {.Name = u"Miete"_s, .Cents = {std::nullopt, 4000}},
+                       {.Name = u"Rest"_s, .Cents = {std::nullopt, 1000}}};
+        cStage stage(flow);
+        stage.View.setFocus(Qt::TabFocusReason);
+        QCOMPARE(stage.View.CurrentPart(), (cChartPart{0, 0}));
+        QTest::keyClick(&stage.View, Qt::Key_Right);
+        QTest::keyClick(&stage.View, Qt::Key_Down);
+        QVERIFY(stage.View.accessibleName().contains(u"Rest"_s) || stage.View.accessibleName().contains(u"Miete"_s));
+        QCOMPARE(stage.View.CurrentPart()->Index, 1);
+        for (const cChartPart& part : {cChartPart{0, 0}, cChartPart{1, 1}, cChartPart{2, 1}}) {
+            QCOMPARE(stage.View.PartAt(stage.Anchor(part)), part);
+        }
+
+        cChartData calendar;
+        calendar.Kind = eChart::Calendar;
+        calendar.Levels = {1000};
+        calendar.Series = {{.Name = u"Ausgaben"_s, .Cents = QList<std::optional<qint64>>(365, qint64(500))}};
+        for (QDate day(2026, 1, 1); day.year() == 2026; day = day.addDays(1)) {
+            calendar.Days.append(day);
+            calendar.Labels.append(day.toString(Qt::ISODate));
+        }
+        stage.View.SetData(calendar);
+        QTest::keyClick(&stage.View, Qt::Key_Right);
+        QTest::keyClick(&stage.View, Qt::Key_Down);
+        QTest::keyClick(&stage.View, Qt::Key_Right);
+        QVERIFY(stage.View.accessibleName().contains(u"2026-01-09"_s));
+        QCOMPARE(stage.View.PartAt(stage.Anchor({0, 364})), (cChartPart{0, 364}));
+        QVERIFY(stage.View.rect().contains(stage.Anchor({0, 364}).toPoint()));
+
+        stage.View.SetData(Chart(eChart::Limits));
+        QTest::keyClick(&stage.View, Qt::Key_Right);
+        QTest::keyClick(&stage.View, Qt::Key_Down);
+        QVERIFY(stage.View.accessibleName().contains(u"Strom"_s));
     }
 
     void MovesByKeys()

@@ -28,6 +28,7 @@
 #include "tools/screenshots/takeBank.h"
 #include "tools/screenshots/takeBankSetup.h"
 #include "tools/screenshots/takeBudget.h"
+#include "tools/screenshots/takeCharts.h"
 #include "tools/screenshots/takeReceipts.h"
 #include "tools/screenshots/takeReview.h"
 #include "tools/screenshots/takeSheet.h"
@@ -572,7 +573,8 @@ int main(int argc, char* argv[])
             && TakePrinted(camera)
             && TakeManual(camera)
             && TakeReceipts(camera)
-            && TakeBudget(camera) && camera.IsGood()
+            && TakeBudget(camera)
+            && TakeMoreCharts(camera) && camera.IsGood()
         ? 0
         : 1;
 }

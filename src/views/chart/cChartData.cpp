@@ -20,8 +20,17 @@ bool cChartData::IsEmpty() const
     });
 }
 
+int cChartData::LevelOf(qint64 cents) const
+{
+    const auto level = std::lower_bound(Levels.begin(), Levels.end(), cents);
+    return cents <= 0 ? 0 : static_cast<int>(level - Levels.begin()) + 1;
+}
+
 QString cChartData::EmptyText() const
 {
+    if (!IsUnread && Kind == eChart::Limits) {
+        return cText::Tr("Keine Kategorie hat ein Limit.");
+    }
     return IsUnread ? modUnread::Title() : cText::Tr("Keine Daten");
 }
 
@@ -111,7 +120,7 @@ QString cChartData::PartText(int series, int index) const
     if (!cents) {
         return cText::Tr("{0}: keine Angabe", {where});
     }
-    const QString share = Kind == eChart::Pie ? ShareText(series, index) : QString();
+    const QString share = Kind == eChart::Pie || Kind == eChart::Flow ? ShareText(series, index) : QString();
     return share.isEmpty() ? cText::Tr("{0}: {1}", {where, MoneyText(*cents)})
                            : cText::Tr("{0}: {1} ({2})", {where, MoneyText(*cents), share});
 }

@@ -15,7 +15,11 @@ enum class eChart {
     Pie,            // one circle for each label, one slice for each series
     Columns,        // the series beside each other at each label
     StackedColumns, // the series on top of each other at each label
-    Line            // every series a line through the labels
+    Line,           // every series a line through the labels
+    Areas,          // the series on top of each other as surfaces, what is below zero downwards
+    Flow,           // from the series of the first label through one place to those of the second one
+    Calendar,       // one series; the labels are the days of a year, shaded by their amounts
+    Limits          // pairs of series, each in a place of its own: an amount as columns, and its limit as a line
 };
 
 // What a click on a part of a chart means.
@@ -75,6 +79,8 @@ struct cChartData
     QList<int> Ticks;        // labels that the axis may show; empty for all
     QList<cChartSeries> Series;
     QList<cChartMark> Marks;
+    QList<qint64> Levels;        // Calendar: the largest amounts of all shades but the last one
+    QString Middle;              // Flow: what everything goes through
     std::optional<qint64> Limit; // a level line, the limit of an account
     QString LimitText;
     int Today = -1;                             // the label behind which the future begins; -1 where there is none
@@ -82,6 +88,8 @@ struct cChartData
 
     bool IsUnread = false; // there are no figures because the book could not be read
 
+    // Calendar: the shade of an amount from 1 on; 0 where nothing was spent.
+    [[nodiscard]] int LevelOf(qint64 cents) const;
     // True when there is nothing to draw; the chart then shows EmptyText.
     [[nodiscard]] bool IsEmpty() const;
     [[nodiscard]] QString EmptyText() const;
@@ -96,7 +104,8 @@ struct cChartData
     void HideAsIn(const cChartData& earlier);
     // The chart without its hidden series.
     [[nodiscard]] cChartData Shown() const;
-    // Sum of the positive values of one label over the series that are shown: what the slices of a pie are parts of.
+    // Sum of the positive values of one label over the series that are shown: what the parts of a pie or of a flow are
+    // parts of.
     [[nodiscard]] qint64 Total(int index) const;
     // "54 %", and below ten per cent "5,4 %": a decimal only where it tells something.
     [[nodiscard]] static QString PercentText(double percent);

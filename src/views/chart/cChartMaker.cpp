@@ -53,18 +53,24 @@ cChartData Unread()
 
 cChartData cChartMaker::Make(const cChartWish& wish)
 {
-    return wish.Kind == eChartKind::Balances ? MakeBalances(wish) : MakeFromEntries(wish);
+    return HasForecast(wish.Kind) ? MakeBalances(wish) : MakeFromEntries(wish);
+}
+
+cChartData cChartMaker::MakeLimits(const modChart::cInput& input)
+{
+    const cTemplateItemList templates = m_data.GetTemplates();
+    return m_data.IsWhole() ? modChart::Limits(input, templates) : Unread();
 }
 
 cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
 {
     const auto money = [&format = m_format](qint64 cents) { return format.Cents(cents); };
     modChart::cInput input{wish, Fetch(m_data, Cut(wish.Range, wish, m_today), wish.Account), {}, m_today, money};
-    if (wish.Second) {
+    if (wish.Second && CanCompare(wish.Kind)) {
         input.Second = Fetch(m_data, Cut(*wish.Second, wish, m_today), wish.Account);
     }
     if (modUnread::IsMissing(m_data, input.First.Entries.size())
-        || (wish.Second && modUnread::IsMissing(m_data, input.Second->Entries.size()))) {
+        || (input.Second && modUnread::IsMissing(m_data, input.Second->Entries.size()))) {
         return Unread();
     }
     switch (wish.Kind) {
@@ -76,8 +82,12 @@ cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
         const cSettings settings(m_data);
         return modChart::Budget(input, modLimits::Read(m_data, settings, m_data.GetTemplates(), {}));
     }
+    case eChartKind::Flow: return modChart::Flow(input);
+    case eChartKind::Calendar: return modChart::Calendar(input);
+    case eChartKind::Limits: return MakeLimits(input);
     case eChartKind::Months:
-    case eChartKind::Balances: break;
+    case eChartKind::Balances:
+    case eChartKind::NetWorth: break;
     }
     return modChart::Months(input);
 }
@@ -97,6 +107,9 @@ cChartData cChartMaker::MakeBalances(const cChartWish& wish)
                                   m_today, [&format = m_format](qint64 cents) { return format.Cents(cents); }};
     if (wish.Second && wish.Second->Start.isValid() && wish.Second->End.isValid()) {
         input.Second = forecast.Days(Cut(*wish.Second, wish, m_today), cForecast::eAverage::Without);
+    }
+    if (wish.Kind == eChartKind::NetWorth) {
+        return m_data.IsWhole() ? modChart::NetWorth(input) : Unread();
     }
     return m_data.IsWhole() ? modChart::Balances(input) : Unread(); // made of balances, entries, accounts
 }

@@ -10,6 +10,10 @@
 class cAmountFormat;
 class cDataAccess;
 
+namespace modChart {
+struct cInput;
+}
+
 // The charts that can be asked for.
 enum class eChartKind {
     ExpensePie,    // expenses by main category; with a group its sub-categories
@@ -18,7 +22,11 @@ enum class eChartKind {
     ExpenseMonths, // expenses of each month by main category, on top of each other
     IncomeMonths,
     Balances, // balances day by day, with the forecast
-    Budget    // what categories with a limit may spend in each month, and have spent
+    Budget,   // what categories with a limit may spend in each month, and have spent
+    Flow,     // where the money of a period came from and went to
+    Calendar, // what was spent on each day of a year
+    NetWorth, // the same balances as shares of their sum
+    Limits    // what was spent of the limits, month by month
 };
 
 struct cChartWish
@@ -47,11 +55,20 @@ public:
     {
     }
 
+    // Whether a second period can be laid beside a chart.
+    [[nodiscard]] static bool CanCompare(eChartKind kind) { return kind <= eChartKind::Balances; }
+    // Whether a chart can look ahead.
+    [[nodiscard]] static bool HasForecast(eChartKind kind)
+    {
+        return kind == eChartKind::Balances || kind == eChartKind::NetWorth;
+    }
+
     // Without figures when the book could not be read: those of a part would be wrong.
     [[nodiscard]] cChartData Make(const cChartWish& wish);
 
 private:
     [[nodiscard]] cChartData MakeFromEntries(const cChartWish& wish);
+    [[nodiscard]] cChartData MakeLimits(const modChart::cInput& input);
     [[nodiscard]] cChartData MakeBalances(const cChartWish& wish);
 
     cDataAccess& m_data;

@@ -14,7 +14,7 @@ std::optional<std::pair<int, int>> cChartTableModel::PartAt(const QModelIndex& i
         || m_figures.Columns[index.column() - 1].IsShare) {
         return std::nullopt;
     }
-    if (m_data.Kind == eChart::Pie) {
+    if (m_data.Kind == eChart::Pie || m_data.Kind == eChart::Flow) {
         return std::pair(m_figures.Rows[index.row()].Series, (index.column() - 1) / 2);
     }
     return std::pair(index.column() - 1, index.row());

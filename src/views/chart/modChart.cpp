@@ -19,7 +19,7 @@ struct cKindName
     std::optional<eReportKind> Section;
 };
 
-constexpr std::array<cKindName, 7> kinds{{
+constexpr std::array<cKindName, 11> kinds{{
     {eChartKind::ExpensePie, u"ausgaben", eReportKind::Expense},
     {eChartKind::IncomePie, u"einnahmen", eReportKind::Income},
     {eChartKind::Months, u"monate", std::nullopt},
@@ -27,6 +27,10 @@ constexpr std::array<cKindName, 7> kinds{{
     {eChartKind::IncomeMonths, u"einnahmen-monate", eReportKind::Income},
     {eChartKind::Balances, u"verlauf", std::nullopt},
     {eChartKind::Budget, u"budget", std::nullopt},
+    {eChartKind::Flow, u"geldfluss", std::nullopt},
+    {eChartKind::Calendar, u"kalender", eReportKind::Expense},
+    {eChartKind::NetWorth, u"vermoegen", std::nullopt},
+    {eChartKind::Limits, u"limits", eReportKind::Expense},
 }};
 
 // Names of months in the chosen language; the tests and the command line may run without any.
@@ -69,7 +73,7 @@ modPeriod::cRange cChartWish::YearBefore(const modPeriod::cRange& range)
 cReportWish modChart::ReportWish(const cChartWish& wish, const modPeriod::cRange& range, QDate today)
 {
     cReportWish report;
-    report.Type = eReport::Sum;
+    report.Type = wish.Kind == eChartKind::Limits ? eReport::Limit : eReport::Sum;
     report.Account = wish.Account;
     report.Range = range;
     report.ShowsFuture = wish.ShowsFuture;
@@ -115,6 +119,11 @@ QString modChart::MonthText(QDate month)
 QString modChart::ShortMonthText(QDate month)
 {
     return Names().standaloneMonthName(month.month(), QLocale::ShortFormat).remove(u'.') + month.toString(u" yy"_s);
+}
+
+QString modChart::MonthName(int month)
+{
+    return Names().standaloneMonthName(month);
 }
 
 QString modChart::AccountText(const QString& account)

@@ -2,6 +2,7 @@
 
 #include "model/cEntryItem.h"
 #include "model/cLimits.h"
+#include "model/cTemplateItem.h"
 #include "views/chart/cChartMaker.h"
 #include "views/list/cBalanceDays.h"
 #include "views/report/cReportWish.h"
@@ -54,6 +55,20 @@ struct cBalanceInput
 };
 [[nodiscard]] cChartData Balances(const cBalanceInput& input);
 
+// Where the money came from and where it went, with what is left or was taken from savings, so that both sides are
+// equal.
+[[nodiscard]] cChartData Flow(const cInput& input);
+
+// What was spent on each day of a year: that of today where the period has it, else the one in which it ends. Days
+// outside of the period have no value.
+[[nodiscard]] cChartData Calendar(const cInput& input);
+
+// What was spent of each category with a limit, beside the limit, by month.
+[[nodiscard]] cChartData Limits(const cInput& input, const cTemplateItemList& templates);
+
+// Balances as shares of their sum.
+[[nodiscard]] cChartData NetWorth(const cBalanceInput& input);
+
 // The wish for figures that count what the chart counts.
 [[nodiscard]] cReportWish ReportWish(const cChartWish& wish, const modPeriod::cRange& range, QDate today);
 
@@ -66,6 +81,9 @@ struct cBalanceInput
 // "März 2026" and "Mär 26".
 [[nodiscard]] QString MonthText(QDate month);
 [[nodiscard]] QString ShortMonthText(QDate month);
+
+// "März"; of months from 1 on.
+[[nodiscard]] QString MonthName(int month);
 
 // "alle Konten" or "Konto 'Girokonto'".
 [[nodiscard]] QString AccountText(const QString& account);

@@ -86,7 +86,7 @@ QStringList Titles(const cChartFigures& figures)
 
 cChartFigures modChartTable::Figures(const cChartData& data)
 {
-    if (data.Kind == eChart::Pie) {
+    if (data.Kind == eChart::Pie || data.Kind == eChart::Flow) {
         return FiguresOfPie(data);
     }
     cChartFigures figures;
@@ -101,7 +101,8 @@ cChartFigures modChartTable::Figures(const cChartData& data)
         }
         figures.Rows.append(row);
     }
-    if (data.Kind != eChart::Line && !figures.Rows.isEmpty()) { // balances of several days make no sum
+    const bool isBalance = data.Kind == eChart::Line || data.Kind == eChart::Areas;
+    if (!isBalance && !figures.Rows.isEmpty()) { // balances of several days make no sum
         AddSum(figures);
     }
     return figures;

@@ -126,8 +126,11 @@ eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
         return eEntrySaved::BadDate;
     }
     const bool isSeries = fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);
-    return isSeries && !modEntryFields::LastDay(fields, m_tools.Clock.Today()).isValid() ? eEntrySaved::BadEnd
-                                                                                         : eEntrySaved::Saved;
+    if (isSeries && !modEntryFields::LastDay(fields, m_tools.Clock.Today()).isValid()) {
+        return eEntrySaved::BadEnd;
+    }
+    return isSeries && !modEntryFields::IsCancelByReadable(fields, m_tools.Clock.Today()) ? eEntrySaved::BadCancelBy
+                                                                                          : eEntrySaved::Saved;
 }
 
 bool cEntryCheck::Refuse(const QString& text) const

@@ -9,6 +9,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "model/modBalance.h"
+#include "model/modContract.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
@@ -90,6 +91,7 @@ cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
     fields.IsDayKept = !entry.EntryDate.isValid();
     fields.HasEnd = modRecurrence::IsRecurring(entry.EntryInterval) && end != modRecurrence::OpenEnd;
     fields.End = fields.HasEnd ? end : QDate();
+    fields.CancelBy = modContract::CancelBy(entry);
     fields.Interval = entry.EntryInterval;
     return fields;
 }
@@ -112,6 +114,7 @@ std::optional<cEntryEditor::cFields> cEntryEditor::Load(int id)
         cSplitGroup::Show(parts, fields);
         m_ids.clear();
         for (const cEntryItem& part : parts) {
+            fields.CancelBy = fields.CancelBy.isValid() ? fields.CancelBy : modContract::CancelBy(part);
             m_ids.append(part.ID);
         }
         return fields;

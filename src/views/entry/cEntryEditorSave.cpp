@@ -5,6 +5,7 @@
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "model/modContract.h"
 #include "model/modReceiptName.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
@@ -206,6 +207,7 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
     }
     whole->ID = m_ids.value(0);
     const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields) : cEntryItemList{*whole};
+    const QDate cancelBy = modEntryFields::CancelBy(fields, m_tools.Clock.Today());
     QList<cEntryWrite> rows;
     for (cEntryItem entry : entries) {
         const std::optional<cEntryItem> stored = entry.ID > 0 ? m_tools.Data.LoadEntry(entry.ID) : cEntryItem{};
@@ -213,6 +215,7 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
             return {}; // it was deleted meanwhile
         }
         entry.EntryFlags = stored->EntryFlags;
+        modContract::SetCancelBy(entry, rows.isEmpty() ? cancelBy : QDate()); // a purchase is one contract
         rows.append({entry, CorrectionsOf(*stored, fields)});
     }
     return rows;

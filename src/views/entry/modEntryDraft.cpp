@@ -59,6 +59,8 @@ void Each(tFields& fields, const tTake& take)
     take(u"HasEnd"_s, fields.HasEnd);
     take(u"End"_s, fields.End);
     take(u"EndText"_s, fields.EndText);
+    take(u"CancelBy"_s, fields.CancelBy);
+    take(u"CancelByText"_s, fields.CancelByText);
     take(u"Interval"_s, fields.Interval);
     take(u"BroughtInterval"_s, fields.BroughtInterval);
     take(u"Parts"_s, fields.Parts);

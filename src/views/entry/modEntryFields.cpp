@@ -29,6 +29,21 @@ QDate modEntryFields::LastDay(const cEntryFields& fields, QDate today)
     return fields.End.isValid() ? fields.End : modRecurrence::OpenEnd;
 }
 
+QDate modEntryFields::CancelBy(const cEntryFields& fields, QDate today)
+{
+    const bool isSeries = fields.Face != eEntryFace::StartBalance && modRecurrence::IsRecurring(fields.Interval);
+    if (!isSeries || fields.CancelByText.trimmed().isEmpty()) {
+        return isSeries ? fields.CancelBy : QDate();
+    }
+    return modDayText::Read(fields.CancelByText, today);
+}
+
+bool modEntryFields::IsCancelByReadable(const cEntryFields& fields, QDate today)
+{
+    const bool isTyped = modRecurrence::IsRecurring(fields.Interval) && !fields.CancelByText.trimmed().isEmpty();
+    return !isTyped || CancelBy(fields, today).isValid();
+}
+
 cEntryItem modEntryFields::Series(const cEntryFields& fields, QDate today)
 {
     cEntryItem series;

@@ -18,6 +18,11 @@ namespace modEntryFields {
 // The last day, the open end without the switch or without a day. Invalid when the typed text is no day.
 [[nodiscard]] QDate LastDay(const cEntryFields& fields, QDate today);
 
+// The last day on which a contract can be cancelled; invalid for none, as one-off entries are, and when the typed text
+// is no day.
+[[nodiscard]] QDate CancelBy(const cEntryFields& fields, QDate today);
+[[nodiscard]] bool IsCancelByReadable(const cEntryFields& fields, QDate today);
+
 // An entry with the days and the interval of the fields, and nothing else.
 [[nodiscard]] cEntryItem Series(const cEntryFields& fields, QDate today);
 

@@ -317,7 +317,7 @@ bool cMainModel::IsChecked(const cSettingKey& key) const
     if (m_detour.IsOn()) { // its switches are not stored
         cViewState view = m_view;
         const bool* state = Switch(view, key);
-        return state != nullptr && *state;
+        return state != nullptr ? *state : m_tools.Settings.GetBool(key);
     }
     return m_tools.Settings.GetBool(key);
 }

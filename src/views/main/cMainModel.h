@@ -166,6 +166,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QString SumText(qint64 cents) const;
+    void SwitchReminders();
     void ChooseAppearance(eAppearance appearance);
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     void LoadEntries();

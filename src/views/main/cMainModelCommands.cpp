@@ -44,6 +44,7 @@ bool cMainModel::Execute(int command)
     case modCommand::AppearanceSystem:
     case modCommand::AppearanceLight:
     case modCommand::AppearanceDark: ChooseAppearance(*modAppearance::OfCommand(known->Id)); break;
+    case modCommand::Reminders: SwitchReminders(); break;
     case modCommand::ImportStatement:
     case modCommand::Export:
     case modCommand::Print:
@@ -108,6 +109,12 @@ bool cMainModel::IsChecked(const modCommand::cCommand& command) const
     const std::optional<eAppearance> appearance = modAppearance::OfCommand(command.Id);
     return appearance ? *appearance == modAppearance::Chosen(m_parts.Configuration)
                       : command.Setting != nullptr && IsChecked(*command.Setting);
+}
+
+void cMainModel::SwitchReminders()
+{
+    m_tools.Settings.SetBool(modSettingKey::RemindByDesktop, !m_tools.Settings.GetBool(modSettingKey::RemindByDesktop));
+    Q_EMIT ViewChanged(); // the check mark
 }
 
 void cMainModel::ChooseAppearance(eAppearance appearance)

@@ -3,6 +3,7 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "core/cBookTools.h"
+#include "model/cEntryQuery.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "store/cDataAccess.h"
@@ -10,6 +11,16 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/overview/modOverview.h"
+
+cEntryItemList cDueItems::Within(int days) const
+{
+    const QDate today = m_tools.Clock.Today();
+    cEntryQuery query;
+    query.Start = today;
+    query.End = today.addDays(days - 1);
+    return modOverview::Due(m_tools.Data.GetEntries(query), today, days);
+}
 
 bool cDueItems::IsSeries(const cEntryItem& item)
 {

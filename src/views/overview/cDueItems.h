@@ -6,12 +6,15 @@
 
 struct cBookTools;
 
-// What can be done about a payment that is due, straight from where it is listed. Every call is one step that can be
-// undone, and false when nothing was changed, of which the user was told.
+// What is due, and what can be done about it straight from where it is listed. Every writing call is one step that can
+// be undone, and false when nothing was changed, of which the user was told.
 class cDueItems
 {
 public:
     explicit cDueItems(const cBookTools& tools) : m_tools(tools) {}
+
+    // What is to come within so many days, today included, by day.
+    [[nodiscard]] cEntryItemList Within(int days) const;
 
     [[nodiscard]] static bool IsSeries(const cEntryItem& item);
 

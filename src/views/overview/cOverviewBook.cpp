@@ -2,10 +2,12 @@
 
 #include "base/cClock.h"
 #include "core/cBookTools.h"
+#include "model/modContract.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
 #include "views/chart/cForecast.h"
+#include "views/reminder/cContracts.h"
 #include "views/report/modReport.h"
 
 #include <algorithm>
@@ -54,6 +56,7 @@ cOverviewBook cOverviewBook::Read(const cBookTools& tools)
     book.Month = modOverview::Month(entries, book.Today);
     book.Changes = modOverview::Changes(entries, book.Today, mostChanges);
     book.Due = modOverview::Due(entries, book.Today, DueDays);
+    book.Contracts = cContracts(tools).Ahead(modContract::NoticeDays);
     book.Limits = LimitsOf(entries, book.Templates, tools);
     book.IsUnread = !tools.Data.IsWhole();
     return book;

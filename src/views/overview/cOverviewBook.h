@@ -28,6 +28,7 @@ struct cOverviewBook
     modOverview::cMonth Month{};
     QList<modOverview::cChange> Changes{};
     cEntryItemList Due{};
-    cReportFigures Limits{}; // of this month, with what is planned
+    cEntryItemList Contracts{}; // that have to be cancelled soon or go on
+    cReportFigures Limits{};    // of this month, with what is planned
     cTemplateItemList Templates{};
 };

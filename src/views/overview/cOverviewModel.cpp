@@ -13,6 +13,7 @@
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
 #include "views/overview/cDueItems.h"
+#include "views/reminder/cContracts.h"
 #include "views/report/modReport.h"
 
 #include <QLocale>
@@ -308,6 +309,12 @@ cOverviewCard cOverviewModel::Due()
     for (const cEntryItem& item : std::as_const(m_book->Due)) {
         sum += modBalance::Effect(item, {});
     }
+    card.Figure = m_book->Due.isEmpty() ? QString() : Signed(sum);
+    for (const cEntryItem& contract : std::as_const(m_book->Contracts)) {
+        card.Lines.append({cContracts::Text(contract), {}, eOverviewTone::Warning, [this, contract] {
+                               m_parts.Navigator.OpenEntry(contract.ID, contract.Planned());
+                           }});
+    }
     for (qsizetype i = 0; i < std::min(mostDue, m_book->Due.size()); ++i) {
         card.Lines.append(DueLine(m_book->Due.at(i)));
     }
@@ -317,7 +324,6 @@ cOverviewCard cOverviewModel::Due()
                            eOverviewTone::Quiet,
                            card.Follow});
     }
-    card.Figure = card.Lines.isEmpty() ? QString() : Signed(sum);
     card.Tone = ToneOf(sum);
     return card;
 }

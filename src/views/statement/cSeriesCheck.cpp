@@ -19,6 +19,7 @@
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/modEntryFields.h"
+#include "views/reminder/cContracts.h"
 
 #include <QSet>
 
@@ -286,6 +287,11 @@ QString cSeriesCheck::Line(const cFinding& finding) const
     return cText::Tr("{0}: zuletzt gebucht am {1}; endet am {2}", {name, day(finding.LastPaid), day(finding.End)});
 }
 
+QString cSeriesCheck::Contracts() const
+{
+    return cContracts(m_tools).Lines().join(u'\n');
+}
+
 QStringList cSeriesCheck::Ask(const QStringList& accounts)
 {
     const QList<cFinding> findings = Find(accounts);
@@ -296,10 +302,12 @@ QStringList cSeriesCheck::Ask(const QStringList& accounts)
     for (const cFinding& finding : findings) {
         items.append(Line(finding));
     }
+    const QString contracts = Contracts();
     const std::optional<QList<int>> ticked = m_tools.User.Tick(
         {.Text =
              cText::Tr("Diese Serien sehen Buchungen vor, die auf den Kontoauszügen fehlen. Was angekreuzt ist, wird "
-                       "geändert, damit das Haushaltsbuch mit der Bank übereinstimmt."),
+                       "geändert, damit das Haushaltsbuch mit der Bank übereinstimmt.")
+             + (contracts.isEmpty() ? QString() : QString(u"\n\n"_s + contracts)),
          .Title = cText::Tr("Serien prüfen"),
          .Take = cText::Tr("Ü&bernehmen"),
          .Items = items});

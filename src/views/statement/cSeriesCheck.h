@@ -40,6 +40,9 @@ public:
     [[nodiscard]] static QString NothingFound();             // in words
     [[nodiscard]] bool Apply(const QList<cFinding>& chosen); // one step; false when the database refuses
 
+    // What else is to be known of the series: contracts that have to be cancelled soon, line by line; empty for none.
+    [[nodiscard]] QString Contracts() const;
+
     // Shows what was found, all of it ticked, and applies what stays ticked. Lines for a summary; empty when nothing
     // was found or wanted.
     [[nodiscard]] QStringList Ask(const QStringList& accounts);

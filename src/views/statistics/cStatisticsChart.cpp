@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kindCount = 7;
+constexpr int kindCount = 11;
 constexpr int mostForecast = 12; // months
 
 } // namespace
@@ -29,10 +29,17 @@ cStatisticsChart::cStatisticsChart(const cBookTools& tools, const QString& pane,
 
 QStringList cStatisticsChart::Kinds()
 {
-    return {cText::Tr("Ausgaben nach Kategorien"),           cText::Tr("Einnahmen nach Kategorien"),
-            cText::Tr("Einnahmen und Ausgaben je Monat"),    cText::Tr("Ausgaben je Monat nach Kategorien"),
-            cText::Tr("Einnahmen je Monat nach Kategorien"), cText::Tr("Verlauf der Kontostände"),
-            cText::Tr("Budget und Ausgaben je Monat")};
+    return {cText::Tr("Ausgaben nach Kategorien"),
+            cText::Tr("Einnahmen nach Kategorien"),
+            cText::Tr("Einnahmen und Ausgaben je Monat"),
+            cText::Tr("Ausgaben je Monat nach Kategorien"),
+            cText::Tr("Einnahmen je Monat nach Kategorien"),
+            cText::Tr("Verlauf der Kontostände"),
+            cText::Tr("Budget und Ausgaben je Monat"),
+            cText::Tr("Geldfluss"),
+            cText::Tr("Jahreskalender der Ausgaben"),
+            cText::Tr("Vermögen nach Konten"),
+            cText::Tr("Limits je Monat")};
 }
 
 void cStatisticsChart::Restore()
@@ -106,7 +113,9 @@ cChartWish cStatisticsChart::Wish() const
     cChartWish wish;
     wish.Kind = m_kind;
     wish.Range = Range();
-    if (m_compare == eCompare::YearBefore) {
+    if (!CanCompare()) {
+        wish.Second = std::nullopt;
+    } else if (m_compare == eCompare::YearBefore) {
         wish.Second = cChartWish::YearBefore(wish.Range);
     } else if (m_compare == eCompare::Period) {
         wish.Second = modPeriod::Range(m_second, m_tools.Clock.Today(), m_period.Free());

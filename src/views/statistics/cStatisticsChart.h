@@ -50,7 +50,8 @@ public:
     [[nodiscard]] const QString& SecondPeriod() const { return m_second; }
     [[nodiscard]] int ForecastMonths() const { return m_forecastMonths; }
     [[nodiscard]] bool ShowsAverage() const { return m_showsAverage; }
-    [[nodiscard]] bool HasForecast() const { return m_kind == eChartKind::Balances; }
+    [[nodiscard]] bool HasForecast() const { return cChartMaker::HasForecast(m_kind); }
+    [[nodiscard]] bool CanCompare() const { return cChartMaker::CanCompare(m_kind); }
     [[nodiscard]] modPeriod::cRange Range() const;
 
     // The charts as the selector offers them, in the order of eChartKind.

@@ -321,7 +321,7 @@ void cStatisticsModel::ShowTarget(const cStatisticsChart& chart, const cChartTar
         ShowSelected(wish, *target.Node);
         return;
     }
-    const bool isBalance = chart.Kind() == eChartKind::Balances; // every entry moves a balance, transfers too
+    const bool isBalance = cChartMaker::HasForecast(chart.Kind()); // every entry moves a balance, transfers too
     m_parts.Main.ShowEntries({cText::Tr("Alle Einträge"), modWord::AlleBuchungsarten, target.Account, target.Range,
                               isBalance ? nullptr : Picker(wish), isBalance});
     Q_EMIT EntriesShown();

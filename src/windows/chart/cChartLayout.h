@@ -44,6 +44,28 @@ struct cChartLayout
         QRectF Label; // empty when there is only one circle
     };
 
+    // A small chart of its own within the picture.
+    struct cPanel
+    {
+        int Series = 0; // the first one of those in it
+        QRectF Title;
+        QRectF Plot;
+        cChartAxis Axis;
+    };
+    // A part of a flow at its end of the picture.
+    struct cNode
+    {
+        cChartPart Part;
+        QRectF Bar;
+        QRectF Label; // empty where there is no room
+    };
+    // A month of a calendar.
+    struct cMonth
+    {
+        int Month = 1;
+        QRectF Title;
+    };
+
     QRectF Area;
     QRectF Title;
     QRectF Note;
@@ -53,6 +75,11 @@ struct cChartLayout
     std::vector<cHit> Hits;                   // later ones lie on top
     std::vector<std::vector<QPointF>> Points; // by series and label; NaN for a gap, empty for a hidden series
     std::vector<cCircle> Circles;
+    std::vector<cPanel> Panels;
+    std::vector<cNode> Nodes;
+    std::vector<cMonth> Months;
+    QRectF Middle;    // what a flow goes through
+    double Cell = 0;  // side of a day in a calendar
     double Reach = 0; // how far from a point of a line the pointer still means it
 
     [[nodiscard]] std::optional<cChartPart> PartAt(QPointF position) const;

@@ -47,7 +47,7 @@ bool cChartScene::IsLine(int series) const
 double cChartScene::XOf(const cChartLayout& layout, int index) const
 {
     const double width = layout.Plot.width();
-    if (Data.Kind == eChart::Line) {
+    if (Data.Kind == eChart::Line || Data.Kind == eChart::Areas) {
         return layout.Plot.left() + (LabelCount() > 1 ? width * index / (LabelCount() - 1) : width / 2);
     }
     return layout.Plot.left() + width * (index + 0.5) / std::max(1, LabelCount());
@@ -141,7 +141,9 @@ void cChartScene::PaintAhead(QPainter& painter, const cChartLayout& layout) cons
     if (Data.Today < 0 || Data.Today >= LabelCount() - 1) {
         return;
     }
-    const double half = Data.Kind == eChart::Line ? 0.0 : layout.Plot.width() / std::max(1, LabelCount()) / 2;
+    const double half = Data.Kind == eChart::Line || Data.Kind == eChart::Areas
+        ? 0.0
+        : layout.Plot.width() / std::max(1, LabelCount()) / 2;
     const double x = XOf(layout, Data.Today) + half;
     const QRectF ahead(QPointF(x, layout.Plot.top()), layout.Plot.bottomRight());
     painter.fillRect(ahead, modChartColour::Future(Style.Palette));
@@ -176,14 +178,14 @@ void cChartScene::PaintFocus(QPainter& painter, const cChartLayout& layout) cons
         }
         const QColor ring = part == State.Current ? Style.Palette.color(QPalette::Highlight) : Text();
         painter.setPen(QPen(ring, ringWidth));
-        if (IsLine(part->Series)) {
+        const auto hit = std::find_if(layout.Hits.begin(), layout.Hits.end(),
+                                      [&](const cChartLayout::cHit& each) { return each.Part == *part; });
+        if (IsLine(part->Series) || Data.Kind == eChart::Areas || hit == layout.Hits.end()) {
             painter.setBrush(Colour(part->Series));
             painter.drawEllipse(*anchor, Em() * 0.3, Em() * 0.3);
             continue;
         }
         painter.setBrush(Qt::NoBrush);
-        const auto hit = std::find_if(layout.Hits.begin(), layout.Hits.end(),
-                                      [&](const cChartLayout::cHit& each) { return each.Part == *part; });
         if (hit->Path.isEmpty()) {
             painter.drawRect(hit->Box);
         } else {

@@ -14,7 +14,9 @@
 
 namespace {
 
-constexpr int farStep = 12; // a year of months
+constexpr int farStep = 12;   // a year of months
+constexpr int weekStep = 7;   // a line of a calendar
+constexpr int monthStep = 30; // about one of its months
 
 struct cMove
 {
@@ -252,6 +254,14 @@ void cChartView::MovePart(int seriesStep, int indexStep)
     }
     if (m_data.Kind == eChart::Pie) {
         std::swap(seriesStep, indexStep);
+    } else if (m_data.Kind == eChart::Flow && indexStep != 0) {
+        MoveAcross();
+        return;
+    } else if (m_data.Kind == eChart::Calendar) {
+        indexStep = seriesStep != 0   ? seriesStep * weekStep
+            : std::abs(indexStep) > 1 ? indexStep / farStep * monthStep
+                                      : indexStep;
+        seriesStep = 0;
     }
     cChartPart part = *m_state.Current;
     const int last = static_cast<int>(m_data.Labels.size()) - 1;
@@ -265,6 +275,26 @@ void cChartView::MovePart(int seriesStep, int indexStep)
     } while (!Exists(part) && !isFar);
     if (Exists(part)) {
         SetCurrent(part);
+    }
+}
+
+// To the other side of a flow, as straight as possible.
+void cChartView::MoveAcross()
+{
+    const int other = 1 - m_state.Current->Index;
+    const double y = Layout().AnchorOf(*m_state.Current).value_or(QPointF()).y();
+    std::optional<cChartPart> nearest;
+    double best = 0;
+    for (int series = 0; series < m_data.Series.size(); ++series) {
+        const cChartPart part{series, other};
+        const std::optional<QPointF> anchor = Exists(part) ? Layout().AnchorOf(part) : std::nullopt;
+        if (anchor && (!nearest || std::abs(anchor->y() - y) < best)) {
+            nearest = part;
+            best = std::abs(anchor->y() - y);
+        }
+    }
+    if (nearest) {
+        SetCurrent(nearest);
     }
 }
 

@@ -55,6 +55,7 @@ private:
     void SetCurrent(const std::optional<cChartPart>& part);
     void SetLegend(int item);
     void MovePart(int seriesStep, int indexStep);
+    void MoveAcross();
     void PressInLegend(int key);
     bool PressOnPart(int key);
     void Switch(int series);

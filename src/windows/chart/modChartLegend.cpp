@@ -17,7 +17,9 @@ constexpr double leastName = 7;     // em, with the swatch; a name cut shorter s
 QList<int> Items(const cChartScene& scene)
 {
     QList<int> items;
-    for (int series = 0; series < scene.SeriesCount(); ++series) {
+    const bool namesItsParts =
+        scene.Data.Kind == eChart::Flow || scene.Data.Kind == eChart::Calendar || scene.Data.Kind == eChart::Limits;
+    for (int series = 0; series < scene.SeriesCount() && !namesItsParts; ++series) {
         if (scene.Data.Kind != eChart::StackedColumns || !scene.Data.Series[series].IsComparison) {
             items.append(series);
         }
@@ -211,7 +213,7 @@ void modChartLegend::LayOut(const cChartScene& scene, cChartLayout& layout)
         const QRectF area(layout.Plot.right() - width, layout.Plot.top(), width, layout.Plot.height());
         layout.Plot.setRight(area.left() - scene.Em() * 0.5);
         LayOutList(scene, layout, area);
-    } else if (scene.SeriesCount() > 1) {
+    } else if (Items(scene).size() > 1) {
         LayOutRows(scene, layout);
     }
 }

@@ -1,7 +1,11 @@
 #include "windows/chart/modChartPainter.h"
 
+#include "windows/chart/modAreaPainter.h"
+#include "windows/chart/modCalendarPainter.h"
 #include "windows/chart/modChartLegend.h"
 #include "windows/chart/modColumnPainter.h"
+#include "windows/chart/modFlowPainter.h"
+#include "windows/chart/modLimitPainter.h"
 #include "windows/chart/modLinePainter.h"
 #include "windows/chart/modPiePainter.h"
 #include "windows/widget/modTone.h"
@@ -85,6 +89,10 @@ cChartLayout modChartPainter::LayOut(const cChartData& data, const cChartState& 
     case eChart::Columns:
     case eChart::StackedColumns: modColumnPainter::LayOut(scene, layout); break;
     case eChart::Line: modLinePainter::LayOut(scene, layout); break;
+    case eChart::Areas: modAreaPainter::LayOut(scene, layout); break;
+    case eChart::Flow: modFlowPainter::LayOut(scene, layout); break;
+    case eChart::Calendar: modCalendarPainter::LayOut(scene, layout); break;
+    case eChart::Limits: modLimitPainter::LayOut(scene, layout); break;
     }
     return layout;
 }
@@ -104,6 +112,10 @@ void modChartPainter::Paint(QPainter& painter, const cChartData& data, const cCh
     case eChart::Columns:
     case eChart::StackedColumns: modColumnPainter::Paint(painter, scene, layout); break;
     case eChart::Line: modLinePainter::Paint(painter, scene, layout); break;
+    case eChart::Areas: modAreaPainter::Paint(painter, scene, layout); break;
+    case eChart::Flow: modFlowPainter::Paint(painter, scene, layout); break;
+    case eChart::Calendar: modCalendarPainter::Paint(painter, scene, layout); break;
+    case eChart::Limits: modLimitPainter::Paint(painter, scene, layout); break;
     }
     modChartLegend::Paint(painter, scene, layout);
 }

@@ -54,6 +54,7 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       m_seriesRow(new QWidget(this)),
       EntryDateCheck(new QCheckBox(cText::Tr("endet a&m"), m_seriesRow)),
       EntryDateEnd(new cDayEdit(editor.Today(), m_seriesRow)),
+      m_cancelBy(new cDayEdit(editor.Today(), this)),
       m_preview(new QLabel(this)),
       m_receipts(new cReceiptField(this)),
       m_split(new cSplitPage(
@@ -102,6 +103,7 @@ void cEntryForm::Build()
     AddRow(cText::Tr("&Intervall:"), cboInterval);
     m_form->addRow(QString(), m_seriesRow);
     m_form->addRow(QString(), m_preview);
+    AddShortRow(cText::Tr("Kündba&r bis:"), m_cancelBy);
     AddRow(cText::Tr("Belege:"), m_receipts);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, layout->spacing(), 0, 0); // in line with the buttons below
@@ -142,6 +144,9 @@ void cEntryForm::BuildSeries()
     row->addWidget(EntryDateEnd);
     row->addStretch(1);
     EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
+    m_cancelBy->setPlaceholderText(cText::Tr("kein Vertrag"));
+    m_cancelBy->setToolTip(cText::Tr("Der letzte Tag, an dem Sie diesen Vertrag kündigen können; das Programm erinnert "
+                                     "vorher daran"));
     m_preview->setObjectName(u"lblVorschau"_s);
     for (QLabel* label : {m_preview, m_vat}) {
         modTone::Use(*label, modTone::Quiet);
@@ -154,14 +159,15 @@ void cEntryForm::OrderTabs()
         {txtBetrag, u"txtBetrag"_s},       {cboKategorie, u"cboKategorie"_s}, {txtBeschreibung, u"txtBeschreibung"_s},
         {EntryDate, u"EntryDate"_s},       {cboKonto, u"cboKonto"_s},         {cboBuchungsart, u"cboBuchungsart"_s},
         {cboNachKonto, u"cboNachKonto"_s}, {cboInterval, u"cboInterval"_s},   {EntryDateCheck, u"EntryDateCheck"_s},
-        {EntryDateEnd, u"EntryDateEnd"_s}};
+        {EntryDateEnd, u"EntryDateEnd"_s}, {m_cancelBy, u"txtKuendbar"_s}};
     for (qsizetype i = 0; i < named.size(); ++i) {
         named.at(i).first->setObjectName(named.at(i).second);
         if (i > 0) {
             setTabOrder(named.at(i - 1).first, named.at(i).first);
         }
     }
-    setTabOrder(EntryDateEnd, m_receipts);
+    setTabOrder(EntryDateEnd, m_cancelBy);
+    setTabOrder(m_cancelBy, m_receipts);
     setTabOrder(m_receipts, m_split);
     if (m_fields.Face == eEntryFace::StartBalance) {
         setTabOrder(cboKonto, txtBetrag);
@@ -220,6 +226,7 @@ void cEntryForm::Show(const cEntryFields& fields)
     EntryDateCheck->setChecked(fields.HasEnd);
     EntryDateEnd->setEnabled(fields.HasEnd);
     ShowDay(*EntryDateEnd, fields.HasEnd ? fields.End : fields.Date.addYears(1), fields.EndText);
+    ShowDay(*m_cancelBy, fields.CancelBy, fields.CancelByText);
     ShowFace();
     m_split->ShowParts(fields);
     Q_EMIT CorrectionsChanged();
@@ -241,6 +248,8 @@ cEntryFields cEntryForm::Read() const
     fields.HasEnd = EntryDateCheck->isChecked();
     fields.End = fields.HasEnd ? EntryDateEnd->Day() : QDate();
     fields.EndText = fields.HasEnd ? EntryDateEnd->text() : QString();
+    fields.CancelBy = m_cancelBy->Day();
+    fields.CancelByText = m_cancelBy->text();
     if (fields.Face == eEntryFace::Split) {
         fields.Parts = m_split->Table().Parts();
     }
@@ -311,6 +320,7 @@ void cEntryForm::ShowSeries()
     const bool isSeries = cEntryEditor::ShowsSeries(fields);
     m_form->setRowVisible(m_seriesRow, isSeries);
     m_form->setRowVisible(m_preview, isSeries);
+    m_form->setRowVisible(m_cancelBy, isSeries);
     m_preview->setText(isSeries ? m_editor.Preview(fields).Text : QString());
 }
 
@@ -382,6 +392,7 @@ void cEntryForm::ShowFailure(cEntryEditor::eSaved saved)
     case cEntryEditor::eSaved::BadAmount: field = txtBetrag; break;
     case cEntryEditor::eSaved::BadDate: field = EntryDate; break;
     case cEntryEditor::eSaved::BadEnd: field = EntryDateEnd; break;
+    case cEntryEditor::eSaved::BadCancelBy: field = m_cancelBy; break;
     case cEntryEditor::eSaved::BadPart: m_split->ShowBadPart(); return;
     case cEntryEditor::eSaved::BadTarget:
         modBadField::Mark(*cboNachKonto);

@@ -83,6 +83,7 @@ private:
     QWidget* m_seriesRow;
     QCheckBox* EntryDateCheck;
     cDayEdit* EntryDateEnd;
+    cDayEdit* m_cancelBy;
     QLabel* m_preview;
     cReceiptField* m_receipts;
     cSplitPage* m_split;

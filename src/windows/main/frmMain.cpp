@@ -8,6 +8,7 @@
 #include "windows/main/cBackBar.h"
 #include "windows/main/cDayJump.h"
 #include "windows/main/cEntryTree.h"
+#include "windows/main/cReminderBar.h"
 #include "windows/main/cSumBar.h"
 #include "windows/main/cViewBar.h"
 #include "windows/receipt/cReceiptDrop.h"
@@ -55,6 +56,7 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_tree(new cEntryTree(model.Entries(), this)),
       m_sums(new cSumBar(this)),
       m_database(new QLabel(this)),
+      m_reminder(new cReminderBar(this)),
       m_failureMark(new QToolButton(this)),
       m_dayJump(new cDayJump(model, this))
 {
@@ -157,10 +159,17 @@ void frmMain::BuildStatusBar()
     m_failureMark->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_failureMark->setFocusPolicy(Qt::StrongFocus);
     connect(m_failureMark, &QToolButton::clicked, this, [this] { m_model.Execute(modCommand::ErrorLog); });
+    connect(m_reminder, &QToolButton::clicked, this, &frmMain::ReminderClicked);
+    statusBar()->addWidget(m_reminder, 1);
     statusBar()->addPermanentWidget(m_dayJump);
     statusBar()->addPermanentWidget(m_failureMark);
     statusBar()->addPermanentWidget(m_database);
     m_failureMark->hide();
+}
+
+void frmMain::ShowReminder(const QString& text)
+{
+    m_reminder->ShowText(text);
 }
 
 void frmMain::ShowFailureMark(bool isShown)

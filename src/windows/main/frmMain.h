@@ -12,6 +12,7 @@ class cBackBar;
 class cDayJump;
 class cEntryTree;
 class cMainModel;
+class cReminderBar;
 class cSumBar;
 class cViewBar;
 class QAction;
@@ -54,12 +55,14 @@ public:
     [[nodiscard]] QMenu& MenuOf(modCommand::eId command) const; // the menu that holds it
     void ShowPage(ePage page);                                  // brings it to the front
     void ShowColumnMenu();
-    void ShowFailureMark(bool isShown); // in the status bar: the way to the error log after a failure
-    void AddToView(QMenu* menu);        // at the end of the menu "Ansicht"
-    void Raise();                       // in front of other windows, also out of the task bar
+    void ShowFailureMark(bool isShown);     // in the status bar: the way to the error log after a failure
+    void ShowReminder(const QString& text); // in the status bar; empty for none
+    void AddToView(QMenu* menu);            // at the end of the menu "Ansicht"
+    void Raise();                           // in front of other windows, also out of the task bar
 
 Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
+    void ReminderClicked();
     void ReceiptsDropped(int entryId, const QStringList& paths); // on an entry of the list
     void Closing();                                              // place and columns have been saved
     void PageShown(frmMain::ePage page);                         // it came to the front
@@ -104,6 +107,7 @@ private:
     cSumBar* m_sums;
     QLabel* m_database;
     QMenu* m_view = nullptr; // "Ansicht"
+    cReminderBar* m_reminder;
     QToolButton* m_failureMark;
     cDayJump* m_dayJump;
     bool m_isSplitByHand = false;

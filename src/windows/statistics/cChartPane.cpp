@@ -116,6 +116,7 @@ void cChartPane::ShowChart()
                                                                                 : nothing);
     m_forecast->setCurrentIndex(m_forecast->findData(m_model.ForecastMonths()));
     m_average->setChecked(m_model.ShowsAverage());
+    m_compare->setVisible(m_model.CanCompare());
     m_forecast->setVisible(m_model.HasForecast());
     m_average->setVisible(m_model.HasForecast());
     m_period->ShowPeriod(m_model.Period(), m_model.Range());

@@ -1,0 +1,180 @@
+#include "windows/chart/modLimitPainter.h"
+
+#include "base/cText.h"
+#include "windows/chart/modChartColour.h"
+#include "windows/widget/modTone.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double aspect = 1.9;      // of a panel that is good to look at
+constexpr double columnShare = 0.7; // of the room of a label
+constexpr double lineWidth = 2.0;
+
+// Spent and limit are one pair after the other.
+int CountPanels(const cChartScene& scene)
+{
+    return scene.SeriesCount() / 2;
+}
+
+int CountColumns(int panels, const QRectF& plot)
+{
+    const double wanted = std::sqrt(panels * plot.width() / std::max(1.0, plot.height()) / aspect);
+    const int columns = std::clamp(qRound(wanted), 1, std::max(1, panels));
+    const int rows = (panels + columns - 1) / columns;
+    return (panels + rows - 1) / rows; // as few as these rows need
+}
+
+double Middle(const cChartScene& scene, const QRectF& plot, int index)
+{
+    return plot.left() + plot.width() * (index + 0.5) / std::max(1, scene.LabelCount());
+}
+
+void LayOutPanel(const cChartScene& scene, cChartLayout& layout, int series, const QRectF& area)
+{
+    cChartLayout::cPanel panel;
+    panel.Series = series;
+    panel.Title = QRectF(area.left(), area.top(), area.width(), scene.Em() * 1.2);
+    panel.Plot = area.adjusted(0, scene.Em() * 1.5, 0, -scene.Em() * 1.5);
+    qint64 largest = 1;
+    qint64 smallest = 0;
+    for (const int each : {series, series + 1}) {
+        for (int index = 0; index < scene.LabelCount(); ++index) {
+            largest = std::max(largest, scene.Data.Series[each].At(index).value_or(0));
+            smallest = std::min(smallest, scene.Data.Series[each].At(index).value_or(0));
+        }
+    }
+    panel.Axis = cChartAxis(smallest, largest, 4);
+    const double slot = panel.Plot.width() / std::max(1, scene.LabelCount());
+    const double width = std::min(slot * columnShare, scene.Em() * 2.2);
+    std::vector<QPointF>& limits = layout.Points[static_cast<std::size_t>(series) + 1];
+    for (int index = 0; index < scene.LabelCount(); ++index) {
+        const double x = Middle(scene, panel.Plot, index);
+        const double zero = panel.Axis.Y(0, panel.Plot);
+        const double y = panel.Axis.Y(scene.Data.Series[series].At(index).value_or(0), panel.Plot);
+        layout.Hits.push_back({{series, index},
+                               QRectF(QPointF(x - width / 2, std::min(y, zero)),
+                                      QPointF(x + width / 2, std::max({y, zero, std::min(y, zero) + 1})))});
+        limits.emplace_back(x, panel.Axis.Y(scene.Data.Series[series + 1].At(index).value_or(0), panel.Plot));
+    }
+    layout.Panels.push_back(panel);
+}
+
+int CountOver(const cChartScene& scene, int series)
+{
+    int over = 0;
+    for (int index = 0; index < scene.LabelCount(); ++index) {
+        over += scene.Data.Series[series].At(index).value_or(0) > scene.Data.Series[series + 1].At(index).value_or(0)
+            ? 1
+            : 0;
+    }
+    return over;
+}
+
+// The name, and how often more was spent than was to be.
+void PaintTitle(QPainter& painter, const cChartScene& scene, const cChartLayout::cPanel& panel)
+{
+    const int over = CountOver(scene, panel.Series);
+    const QString text = over > 0 ? cText::Tr("{0} × darüber", {QString::number(over)}) : QString();
+    const double width = over > 0 ? scene.Metrics.horizontalAdvance(text) + scene.Em() : 0;
+    QFont bold = scene.Style.Font;
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(scene.Text());
+    painter.drawText(panel.Title.adjusted(0, 0, -width, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetricsF(bold).elidedText(scene.Data.Series[panel.Series].Name, Qt::ElideRight,
+                                                    panel.Title.width() - width));
+    painter.setFont(scene.Style.Font);
+    painter.setPen(modTone::Expense(scene.Style.Palette));
+    painter.drawText(panel.Title, Qt::AlignRight | Qt::AlignVCenter, text);
+}
+
+void PaintLabels(QPainter& painter, const cChartScene& scene, const cChartLayout::cPanel& panel)
+{
+    double width = 0;
+    for (int index = 0; index < scene.LabelCount(); ++index) {
+        width = std::max(width, scene.Metrics.horizontalAdvance(scene.Data.ShortLabel(index)));
+    }
+    const int step = cChartAxis::LabelStep(scene.LabelCount(), width + scene.Em() * 0.8, panel.Plot.width());
+    painter.setPen(modTone::Quiet(scene.Style.Palette));
+    for (int index = 0; index < scene.LabelCount(); index += step) {
+        QRectF box(0, panel.Plot.bottom() + scene.Em() * 0.2, width + 2, scene.Em() * 1.1);
+        box.moveLeft(std::clamp(Middle(scene, panel.Plot, index) - width / 2, panel.Plot.left(),
+                                std::max(panel.Plot.left(), panel.Plot.right() - width)));
+        painter.drawText(box, Qt::AlignCenter, scene.Data.ShortLabel(index));
+    }
+}
+
+// What is above the limit is set off by another colour and by a gap, which can be told apart without colours.
+void PaintColumn(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit, double limit)
+{
+    QColor colour = scene.Colour(hit.Part.Series);
+    QColor over = scene.Colour(hit.Part.Series + 1);
+    if (scene.IsAhead(hit.Part.Series, hit.Part.Index)) {
+        colour = modChartColour::Pale(colour, scene.Style.Palette);
+        over = modChartColour::Pale(over, scene.Style.Palette);
+    }
+    if (hit.Box.top() >= limit) {
+        painter.fillRect(hit.Box, colour);
+        return;
+    }
+    painter.fillRect(QRectF(QPointF(hit.Box.left(), limit), hit.Box.bottomRight()), colour);
+    painter.fillRect(QRectF(hit.Box.topLeft(), QPointF(hit.Box.right(), limit - lineWidth)), over);
+}
+
+void PaintPanel(QPainter& painter, const cChartScene& scene, const cChartLayout& layout,
+                const cChartLayout::cPanel& panel)
+{
+    const std::vector<QPointF>& limits = layout.Points[static_cast<std::size_t>(panel.Series) + 1];
+    const double zero = panel.Axis.Y(0, panel.Plot);
+    painter.setPen(QPen(modChartColour::Mixed(modChartColour::Grid(scene.Style.Palette), scene.Text(), 0.45), 1));
+    painter.drawLine(QPointF(panel.Plot.left(), zero), QPointF(panel.Plot.right(), zero));
+    for (const cChartLayout::cHit& hit : layout.Hits) {
+        if (hit.Part.Series == panel.Series) {
+            PaintColumn(painter, scene, hit, limits[static_cast<std::size_t>(hit.Part.Index)].y());
+        }
+    }
+    const double half = panel.Plot.width() / std::max(1, scene.LabelCount()) / 2;
+    painter.setPen(QPen(scene.Text(), lineWidth));
+    for (const QPointF& point : limits) {
+        painter.drawLine(QPointF(point.x() - half, point.y()), QPointF(point.x() + half, point.y()));
+    }
+    PaintTitle(painter, scene, panel);
+    PaintLabels(painter, scene, panel);
+    const QString text = scene.Data.AxisText(scene.Data.Series[panel.Series + 1].At(0).value_or(0));
+    const QRectF box(panel.Plot.left(), limits.front().y() - scene.Em() * 1.15, panel.Plot.width(), scene.Em());
+    painter.setPen(scene.Text());
+    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
+}
+
+} // namespace
+
+void modLimitPainter::LayOut(const cChartScene& scene, cChartLayout& layout)
+{
+    const int panels = CountPanels(scene);
+    const int columns = CountColumns(panels, layout.Plot);
+    const int rows = (panels + columns - 1) / columns;
+    const double gap = scene.Em() * 1.4;
+    const double width = (layout.Plot.width() - gap * (columns - 1)) / columns;
+    const double height = (layout.Plot.height() - scene.Em() * 0.4 * (rows - 1)) / rows;
+    layout.Reach = scene.Em() * 0.3;
+    layout.Points.resize(static_cast<std::size_t>(scene.SeriesCount()));
+    for (int panel = 0; panel < panels; ++panel) {
+        const double left = layout.Plot.left() + panel % columns * (width + gap);
+        const double top = layout.Plot.top() + panel / columns * (height + scene.Em() * 0.4);
+        LayOutPanel(scene, layout, panel * 2, QRectF(left, top, width, height));
+    }
+}
+
+void modLimitPainter::Paint(QPainter& painter, const cChartScene& scene, const cChartLayout& layout)
+{
+    painter.setFont(scene.Style.Font);
+    for (const cChartLayout::cPanel& panel : layout.Panels) {
+        PaintPanel(painter, scene, layout, panel);
+    }
+    scene.PaintFocus(painter, layout);
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+class cCamera;
+
+// Money flow, calendar, net worth and limits, and the line of the status bar that reminds.
+[[nodiscard]] bool TakeMoreCharts(cCamera& camera);
