@@ -44,6 +44,9 @@ public:
             return {u"the window is not told"_s};
         }
         modWindowFaults::ForEachVisible(m_window, [this](const QWidget& widget) {
+            if (IsScrolledAway(widget)) {
+                return;
+            }
             LookAtTexts(widget);
             LookAtControl(widget);
         });
@@ -130,6 +133,14 @@ private:
                    && !told.Description.startsWith(u"leer"_s)) {
             Note(u"empty, and tells '%1'"_s.arg(told.Description), widget);
         }
+    }
+
+    // In a cell that is out of sight; such cells are not told.
+    static bool IsScrolledAway(const QWidget& widget)
+    {
+        const QWidget* parent = widget.parentWidget();
+        const bool isInCell = parent != nullptr && qobject_cast<const QAbstractItemView*>(parent->parentWidget());
+        return isInCell && widget.visibleRegion().isEmpty();
     }
 
     // Parts of a widget, such as the inner area of a list, are told by the widget that they belong to.

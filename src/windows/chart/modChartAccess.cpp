@@ -45,9 +45,7 @@ private:
     [[nodiscard]] QString All() const
     {
         const cChartData data = m_view.ShownData();
-        QStringList lines{data.Title, data.Note, data.IsEmpty() ? data.EmptyText() : modChartTable::TabText(data)};
-        lines.removeAll(QString());
-        return lines.join(u'\n');
+        return data.IsEmpty() ? data.EmptyText() : modChartTable::ToldText(data);
     }
 
     cChartView& m_view;
