@@ -15,6 +15,7 @@
 #include "core/cStartRequest.h"
 #include "views/main/modStartOption.h"
 #include "windows/widget/cStyle.h"
+#include "windows/widget/modChoiceAccess.h"
 #include "windows/widget/modIcon.h"
 
 #include <QApplication>
@@ -87,6 +88,7 @@ int main(int argc, char* argv[])
         return RefuseWithoutDisplay();
     }
     QApplication application(argc, argv);
+    modChoiceAccess::Install();
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
     QApplication::setApplicationName(u"kontorelle"_s);
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);

@@ -7,6 +7,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/cPseudoLanguage.h"
 #include "support/cTestClass.h"
+#include "support/everyWindow.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
@@ -80,13 +81,9 @@
 #include <QCheckBox>
 #include <QFile>
 #include <QFileInfo>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <QTest>
-#include <QTreeWidget>
 
 #include <algorithm>
 #include <functional>
@@ -496,7 +493,6 @@ private Q_SLOTS:
     void CanBeReadAndOperated();
     void IsTranslatedWhole_data();
     void IsTranslatedWhole();
-    void FaultsAreFound();
 };
 
 void testEveryWindow::CanBeReadAndOperated_data()
@@ -564,36 +560,16 @@ void testEveryWindow::IsTranslatedWhole()
     QVERIFY(faults.isEmpty());
 }
 
-void testEveryWindow::FaultsAreFound()
+std::vector<cWindowMaker> EveryWindow()
 {
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* first = new QPushButton(u"&Speichern"_s);
-    auto* second = new QPushButton(u"&Suchen"_s);
-    auto* nameless = new QLineEdit;
-    auto* label = new QLabel(u"Ein Text, der nicht hineinpasst"_s);
-    label->setFixedWidth(20);
-    auto* day = new QTreeWidget;
-    day->setAccessibleName(u"Tage"_s);
-    day->setHeaderLabels({u"Tag"_s, u"Bis"_s});
-    day->addTopLevelItem(new QTreeWidgetItem({u"01.01.2026"_s, u"31.01.2026"_s}));
-    day->setColumnWidth(0, 30);
-    for (QWidget* widget : QWidgetList{first, second, nameless, label, day, new QCheckBox(u"b&is"_s)}) {
-        layout->addWidget(widget);
+    std::vector<cWindowMaker> makers;
+    for (const auto& [name, make] : everyWindow) {
+        makers.push_back({name, [make = make] {
+                              const auto scene = std::make_shared<cScene>();
+                              return cOpenWindow{scene, make(*scene)};
+                          }});
     }
-    window.show();
-    QCOMPARE(modWindowFaults::DoubleMnemonics(window).size(), 1);
-    QCOMPARE(modWindowFaults::Nameless(window).size(), 1);
-    QCOMPARE(modWindowFaults::Clipped(window).size(), 1);
-    QCOMPARE(modWindowFaults::MisreadMnemonics(window).size(), 1);
-    QCOMPARE(modWindowFaults::CutValues(window).size(), 1);
-    window.setMinimumWidth(smallScreen.width() + 1);
-    QCOMPARE(modWindowFaults::TooLarge(window, smallScreen).size(), 1);
-    const QString pseudo = cPseudoLanguage::Of(u"{0} &Einträge von <b>Konten</b>"_s);
-    QVERIFY2(pseudo.contains(u"{0}"_s) && pseudo.contains(u"<b>"_s) && pseudo.size() > 39, qPrintable(pseudo));
-    QVERIFY(!modWindowTexts::IsUntranslated(u"1.234,50 € "_s + pseudo + u" (Ctrl+N)"_s, {}));
-    QVERIFY(!modWindowTexts::IsUntranslated(u"Miete: [Sáldóó]"_s, {u"Miete"_s}));
-    QVERIFY(modWindowTexts::IsUntranslated(pseudo + u" Saldo"_s, {u"Miete"_s}));
+    return makers;
 }
 
 TEST_CLASS(testEveryWindow, QApplication)

@@ -1,5 +1,6 @@
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTextRecorder.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
 #include "windows/print/cListPrinter.h"
@@ -7,9 +8,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QGuiApplication>
-#include <QPaintEngine>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPdfWriter>
 #include <QTest>
 
@@ -19,73 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// What was written on a page, and where.
-struct cWritten
-{
-    QString Text;
-    QRectF Place;
-    QColor Pen;
-};
-using cSheet = std::vector<cWritten>;
-
-// A device that remembers texts instead of painting them.
-class cRecorder final : public QPaintDevice
-{
-public:
-    explicit cRecorder(QSize size) : m_size(size), m_engine(*this) {}
-
-    QPaintEngine* paintEngine() const override { return &m_engine; }
-
-    cSheet Sheet;
-
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        constexpr int dpi = 144;
-        switch (metric) {
-        case PdmWidth: return m_size.width();
-        case PdmHeight: return m_size.height();
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY: return dpi;
-        case PdmDevicePixelRatio: return 1;
-        case PdmDepth: return 32;
-        default: return QPaintDevice::metric(metric);
-        }
-    }
-
-private:
-    class cEngine final : public QPaintEngine
-    {
-    public:
-        explicit cEngine(cRecorder& owner) : QPaintEngine(AllFeatures), m_owner(owner) {}
-
-        bool begin(QPaintDevice* /*device*/) override { return true; }
-        bool end() override { return true; }
-        [[nodiscard]] Type type() const override { return User; }
-        void updateState(const QPaintEngineState& change) override
-        {
-            m_pen = (change.state() & DirtyPen) != 0 ? change.pen().color() : m_pen;
-        }
-        void drawPixmap(const QRectF& /*target*/, const QPixmap& /*pixmap*/, const QRectF& /*source*/) override {}
-        void drawPath(const QPainterPath& /*path*/) override {}
-        void drawPolygon(const QPointF* /*points*/, int /*count*/, PolygonDrawMode /*mode*/) override {}
-        void drawTextItem(const QPointF& at, const QTextItem& item) override
-        {
-            m_owner.Sheet.push_back(
-                {item.text(), QRectF(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent()),
-                 m_pen});
-        }
-
-    private:
-        cRecorder& m_owner;
-        QColor m_pen;
-    };
-
-    QSize m_size;
-    mutable cEngine m_engine;
-};
+constexpr int dotsPerInch = 144;
 
 // A4 without its margins, at the recorder's resolution.
 constexpr QSize portrait(1020, 1510);
@@ -151,7 +84,7 @@ private:
         std::vector<cSheet> sheets;
         int count = 1;
         for (int page = 0; page < count; ++page) {
-            cRecorder recorder(size);
+            cTextRecorder recorder(size, dotsPerInch);
             count = printer->LayOut(recorder, Area(size));
             QPainter painter(&recorder);
             printer->PaintPage(painter, page);

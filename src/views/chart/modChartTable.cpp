@@ -144,3 +144,25 @@ QString modChartTable::TabText(const cChartData& data)
     }
     return lines.join(u'\n') + u'\n';
 }
+
+QString modChartTable::ToldText(const cChartData& data)
+{
+    QStringList lines{data.Title, data.Note, data.LimitText};
+    for (const cChartMark& mark : data.Marks) {
+        lines.append(mark.Text);
+    }
+    const cChartFigures figures = Figures(data);
+    for (qsizetype i = 0; i < figures.Rows.size(); ++i) {
+        if (data.Today >= 0 && i == data.Today + 1) {
+            lines.append(cText::Tr("Vorschau"));
+        }
+        QStringList values;
+        for (qsizetype column = 0; column < figures.Columns.size(); ++column) {
+            const QString value = Text(data, figures.Columns.at(column), figures.Rows.at(i).Values.value(column));
+            values += value.isEmpty() ? QStringList() : QStringList(figures.Columns.at(column).Title + u' ' + value);
+        }
+        lines.append(cText::Tr("{0}: {1}", {figures.Rows.at(i).Name, values.join(u", "_s)}));
+    }
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}

@@ -42,4 +42,7 @@ namespace modChartTable {
 // The same separated by tabs, for the clipboard.
 [[nodiscard]] QString TabText(const cChartData& data);
 
+// All that the chart shows but its axes, for screen readers: a line for each row, without the values that are missing.
+[[nodiscard]] QString ToldText(const cChartData& data);
+
 } // namespace modChartTable

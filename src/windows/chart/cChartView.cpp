@@ -1,6 +1,7 @@
 #include "windows/chart/cChartView.h"
 
 #include "base/cText.h"
+#include "windows/chart/modChartAccess.h"
 #include "windows/chart/modChartPainter.h"
 
 #include <QFocusEvent>
@@ -33,6 +34,7 @@ constexpr cMove moves[] = {{Qt::Key_Left, 0, -1}, {Qt::Key_Right, 0, 1},        
 
 cChartView::cChartView(QWidget* parent) : QWidget(parent)
 {
+    modChartAccess::Install();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAutoFillBackground(true);

@@ -57,7 +57,7 @@ void cOverviewCardView::AddHead(const cOverviewCard& card, QVBoxLayout& layout)
         all->setText(cText::Tr("Zeigen"));
         all->setAutoRaise(true);
         all->setFocusPolicy(Qt::StrongFocus);
-        all->setAccessibleName(card.FollowText);
+        all->setAccessibleName(cText::Tr("{0}: {1}", {card.Title, all->text()}));
         all->setToolTip(card.FollowText);
         connect(all, &QToolButton::clicked, this, [follow = card.Follow] { follow(); });
         head->addWidget(all, 0, Qt::AlignTop);

@@ -159,7 +159,12 @@ void cImportPreview::ShowMeanings()
         m_meanings.at(column)->setCurrentIndex(m_assistant.Meaning(column));
         const qsizetype letters = m_meanings.at(column)->currentText().size();
         m_meanings.at(column)->setMinimumContentsLength(static_cast<int>(letters));
-        m_meanings.at(column)->setAccessibleName(cText::Tr("Bedeutung von {0}", {columns.at(column)}));
+        const QString name = cText::Tr("Bedeutung von {0}", {columns.at(column)});
+        m_meanings.at(column)->setAccessibleName(name);
+        // Screen readers find a widget in a cell only by the focus, so that the cell tells the same.
+        auto* cell = new QTableWidgetItem;
+        cell->setData(Qt::AccessibleTextRole, cText::Tr("{0}: {1}", {name, m_meanings.at(column)->currentText()}));
+        m_cells->setItem(0, column, cell);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "views/template/cTemplateManager.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cElidedText.h"
+#include "windows/widget/modEmptyField.h"
 #include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
@@ -136,6 +137,7 @@ void cTemplatePanel::BuildFields()
     AddWords(*m_interval, modWord::Intervals());
     for (QLineEdit* amount : {m_limit, m_vat, m_start}) {
         amount->setAlignment(Qt::AlignRight);
+        modEmptyField::Tell(*amount);
     }
     m_limit->setPlaceholderText(cText::Tr("kein Limit"));
     m_vat->setPlaceholderText(cText::Tr("keine"));

@@ -1,5 +1,7 @@
 #include "windows/widget/cAmountEdit.h"
 
+#include "windows/widget/modEmptyField.h"
+
 #include <QFocusEvent>
 
 cAmountEdit::cAmountEdit(fnDecimal decimal, QWidget* parent, eEmpty empty)
@@ -8,6 +10,7 @@ cAmountEdit::cAmountEdit(fnDecimal decimal, QWidget* parent, eEmpty empty)
       m_empty(empty)
 {
     setAlignment(Qt::AlignRight);
+    modEmptyField::Tell(*this);
 }
 
 void cAmountEdit::Evaluate()

@@ -4,6 +4,7 @@
 #include "base/modDate.h"
 #include "base/modDayText.h"
 #include "windows/widget/modBadField.h"
+#include "windows/widget/modEmptyField.h"
 #include "windows/widget/modIcon.h"
 #include "windows/widget/modPopup.h"
 #include "windows/widget/modTone.h"
@@ -50,6 +51,7 @@ cDayEdit::cDayEdit(QDate today, QWidget* parent)
     connect(m_calendar, &QAction::triggered, this, &cDayEdit::OpenCalendar);
     connect(this, &QLineEdit::returnPressed, this, &cDayEdit::TellChosen);
     SetReadOnly(false);
+    modEmptyField::Tell(*this);
 }
 
 void cDayEdit::SetReadOnly(bool isReadOnly)

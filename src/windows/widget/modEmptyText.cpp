@@ -2,11 +2,30 @@
 
 #include "windows/widget/modTone.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QWidget>
 
+namespace {
+
+void Tell(QAbstractItemView& list, const QString& text)
+{
+    if (list.accessibleDescription() == text) {
+        return;
+    }
+    list.setAccessibleDescription(text);
+    const auto forget = [&list] { list.setAccessibleDescription({}); };
+    QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &list, forget, Qt::SingleShotConnection);
+    QObject::connect(list.model(), &QAbstractItemModel::modelReset, &list, forget, Qt::SingleShotConnection);
+}
+
+} // namespace
+
 void modEmptyText::Paint(QWidget& widget, const QString& title, const QString& hint)
 {
+    if (auto* list = qobject_cast<QAbstractItemView*>(widget.parentWidget())) {
+        Tell(*list, title + u'\n' + hint);
+    }
     QPainter painter(&widget);
     painter.setPen(modTone::Quiet(widget.palette()));
     QFont font = widget.font();
