@@ -436,6 +436,20 @@ void cNavigation::OpenBackupSettings()
         {m_parts.Book, m_parts.Configuration, m_parts.Tools.User, m_parts.Shell, m_parts.Tools.Clock});
     frmSicherungen form(settings, Parent());
     form.exec();
+    BackupsChanged();
+}
+
+void cNavigation::MakeBackup()
+{
+    m_books.MakeBackup();
+    BackupsChanged();
+}
+
+void cNavigation::BackupsChanged()
+{
+    if (m_overview != nullptr) {
+        m_overview->TasksChanged();
+    }
 }
 
 void cNavigation::OpenNationalSettings()
@@ -524,7 +538,7 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::PrintPreview: Print(&cQtPrinter::Preview); break;
     case modCommand::ChooseColumns: m_window->ShowColumnMenu(); break;
     case modCommand::Password: OpenPassword(); break;
-    case modCommand::MakeBackup: m_books.MakeBackup(); break;
+    case modCommand::MakeBackup: MakeBackup(); break;
     case modCommand::RestoreBackup: m_books.LoadBackup(); break;
     case modCommand::SwitchDatabase: m_books.SwitchBook(); break;
     case modCommand::NewDatabase: m_books.NewBook(); break;
