@@ -51,7 +51,9 @@ cChartData Unread()
 
 cChartData cChartMaker::Make(const cChartWish& wish)
 {
-    return wish.Kind == eChartKind::Balances ? MakeBalances(wish) : MakeFromEntries(wish);
+    cChartData data = wish.Kind == eChartKind::Balances ? MakeBalances(wish) : MakeFromEntries(wish);
+    data.Decimal = m_format.Decimal();
+    return data;
 }
 
 cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
