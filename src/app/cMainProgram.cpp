@@ -178,6 +178,9 @@ void cMainProgram::End()
     }
     m_end.Begin();
     m_request = {};
+    if (m_updates) {
+        m_updates->Cancel();
+    }
     if (m_isReady) {
         m_navigation->Forms().Keep();
         m_navigation->Forms().Close();
@@ -351,8 +354,18 @@ void cMainProgram::WatchBook()
     m_reminder->Start();
     m_walk.emplace(m_book.Database());
     tmrWalk.start(walkDelay);
-    QTimer::singleShot(backupDelay, &tmrBackup, [this] { m_backups.RunIfDue(); });
+    QTimer::singleShot(backupDelay, &tmrBackup, [this] { BackUp(); });
     tmrBackup.start(cBackupPlan::UseUntilCopy);
+}
+
+// What the overview says about the last backup was read at the start.
+void cMainProgram::BackUp()
+{
+    const QString before = m_configuration.GetSetting(modSettingKey::BackupLast);
+    m_backups.RunIfDue();
+    if (m_configuration.GetSetting(modSettingKey::BackupLast) != before) {
+        m_navigation->BackupsChanged();
+    }
 }
 
 void cMainProgram::ReadOn()

@@ -88,6 +88,7 @@ private:
     [[nodiscard]] cBookSwitch::cHooks Hooks();
     void ShowOtherBook(bool isNewVersion);
     void WatchBook();
+    void BackUp();
     void ReadOn();
     void TellDamage();
     void GoToWork();

@@ -452,6 +452,20 @@ void cNavigation::OpenBackupSettings()
         {m_parts.Book, m_parts.Configuration, m_parts.Tools.User, m_parts.Shell, m_parts.Tools.Clock});
     frmSicherungen form(settings, Parent());
     form.exec();
+    BackupsChanged();
+}
+
+void cNavigation::MakeBackup()
+{
+    m_books.MakeBackup();
+    BackupsChanged();
+}
+
+void cNavigation::BackupsChanged()
+{
+    if (m_overview != nullptr) {
+        m_overview->TasksChanged();
+    }
 }
 
 void cNavigation::OpenNationalSettings()
@@ -560,7 +574,7 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::Password: OpenPassword(); break;
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts: OpenReceipts(command); break;
-    case modCommand::MakeBackup: m_books.MakeBackup(); break;
+    case modCommand::MakeBackup: MakeBackup(); break;
     case modCommand::RestoreBackup: m_books.LoadBackup(); break;
     case modCommand::SwitchDatabase: m_books.SwitchBook(); break;
     case modCommand::NewDatabase: m_books.NewBook(); break;

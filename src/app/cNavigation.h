@@ -65,7 +65,8 @@ public:
     void TellBroken();  // that the last run was, if it was
     void OfferDrafts(); // what was typed and not saved when the program had to end the last time
     [[nodiscard]] cEntryForms& Forms() { return m_forms; }
-    void LeaveBook(); // before the file is closed: so are the windows that show it
+    void BackupsChanged(); // one was made, or how they are made
+    void LeaveBook();      // before the file is closed: so are the windows that show it
 
     [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
     void ShowStatements();                 // brings the page for bank statements to the front
@@ -99,6 +100,7 @@ private:
     void CheckSeries();
     void OpenPassword();
     void OpenBackupSettings();
+    void MakeBackup();
     void OpenNationalSettings();
     void OpenRules();
     void OpenBudget();

@@ -8,6 +8,7 @@
 #include "windows/help/frmUpdate.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 
 using namespace std::chrono_literals;
 
@@ -55,8 +56,18 @@ void cUpdateWindows::AfterStart()
     }
     cQtHttps https(Limits());
     cUpdateCheck check(m_tools, m_configuration, https, Edition());
-    check.Look();
+    {
+        const QScopedValueRollback looking(m_looking, &check);
+        check.Look();
+    }
     if (check.HasNews()) {
         frmUpdate(check, QApplication::activeWindow()).exec();
+    }
+}
+
+void cUpdateWindows::Cancel()
+{
+    if (m_looking != nullptr) {
+        m_looking->Cancel();
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 class cConfiguration;
+class cUpdateCheck;
 class QWidget;
 struct cBookTools;
 
@@ -20,7 +21,11 @@ public:
     // A while after the start: asks once whether to look weekly, and looks when that is due. Only what is new is shown.
     void AfterStart();
 
+    // Ends a look that waits for its answer, for a program that has to end.
+    void Cancel();
+
 private:
     const cBookTools& m_tools;
     cConfiguration& m_configuration;
+    cUpdateCheck* m_looking = nullptr; // while it looks by itself
 };

@@ -250,6 +250,7 @@ private Q_SLOTS:
     void MakeBackup() const
     {
         cMachine machine;
+        machine.Configuration.SetDatabase(&machine.Book.Settings());
         const QString target = machine.Path(u"stick/Kontorelle-2026-03-15.backup"_s);
         machine.User.SavePath = target;
         machine.Flow.MakeBackup();
@@ -258,6 +259,7 @@ private Q_SLOTS:
         QCOMPARE(modBookFile::Look(target).Entries, 1);
         QCOMPARE(machine.User.Shown.size(), 1);
         QVERIFY(machine.User.Shown[0].contains(u"1 Eintrag, der letzte vom 31.01.2026"_s));
+        QCOMPARE(machine.Configuration.GetSetting(modSettingKey::BackupLast), u"2026-03-15"_s);
         machine.User.SavePath = machine.Path(u"data.db"_s);
         machine.Flow.MakeBackup();
         QCOMPARE(machine.User.LastProposal, target); // the folder used last

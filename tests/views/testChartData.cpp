@@ -79,6 +79,9 @@ private Q_SLOTS:
         QCOMPARE(modChartTable::Text(main, share, 996), u"10 %"_s);
         QCOMPARE(modChartTable::Text(main, share, 540), u"5,4 %"_s);
         QCOMPARE(modChartTable::Text(main, share, 502), u"5 %"_s);
+        cChartData british = main;
+        british.Decimal = eDecimal::Point;
+        QCOMPARE(modChartTable::Text(british, share, 540), u"5.4 %"_s);
         const cChartTarget target = main.Series[0].TargetAt(0);
         QCOMPARE(target.Kind, cChartTarget::eKind::Deeper);
         wish.Group = target.Node->Group;

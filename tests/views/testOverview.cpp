@@ -241,6 +241,9 @@ void testOverview::TellsWhatIsToBeDone()
     scene.Show(); // what waits may be the difference
     QCOMPARE(scene.Lines(eOverviewCard::Tasks).first(), u"Ein Umsatz der Bank wartet auf seine Buchung."_s);
     QCOMPARE(scene.Lines(eOverviewCard::Tasks).size(), 3);
+    settings.Set(modSettingKey::BackupLast, modDate::ToIso(scene.Book.Clock.Today()));
+    scene.Model.TasksChanged(); // without reading the book again
+    QCOMPARE(scene.Lines(eOverviewCard::Tasks).size(), 2);
 }
 
 void testOverview::AnEmptyBookHasNoFiguresToCompare()

@@ -1,6 +1,7 @@
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
@@ -13,6 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTest>
 
@@ -50,6 +52,7 @@ class testFrmSicherungen final : public QObject
 
 private Q_SLOTS:
     void FolderAndNumber();
+    void SizesFollowTheBook();
     void UnusableFolderIsRefused();
 };
 
@@ -76,6 +79,18 @@ void testFrmSicherungen::FolderAndNumber()
     QCOMPARE(machine.Plan.Count(), 3);
     QCOMPARE(machine.Plan.Folder(), machine.File.Path(u"neu"_s));
     QVERIFY(QDir(machine.Plan.Folder()).exists());
+}
+
+void testFrmSicherungen::SizesFollowTheBook()
+{
+    cMachine machine;
+    const auto isWrittenWith = [&](QChar sign) {
+        const QString size = machine.Settings.Copies().constFirst().section(u", "_s, 1);
+        return QRegularExpression(u"^\\d+%1\\d [kM]B$"_s.arg(QRegularExpression::escape(sign))).match(size).hasMatch();
+    };
+    QVERIFY(isWrittenWith(u','));
+    machine.Configuration.SaveSetting(modSettingKey::LanguageCurrency, u"en-GB"_s, eSettingPlace::Database);
+    QVERIFY(isWrittenWith(u'.'));
 }
 
 void testFrmSicherungen::UnusableFolderIsRefused()

@@ -4,6 +4,8 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
+#include "base/modSum.h"
+#include "core/cAmountFormat.h"
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
@@ -50,11 +52,13 @@ cBackupSettings::cFields cBackupSettings::Current() const
 QStringList cBackupSettings::Copies() const
 {
     QStringList lines;
-    const QLocale german(QLocale::German, QLocale::Germany);
+    const QLocale plain(QLocale::C); // the same units in all languages
+    const QChar sign = modSum::Sign(cAmountFormat(m_parts.Configuration).Decimal());
     const QList<cBackupPlan::cCopy> copies = PlanOf(m_parts).Copies();
     for (const cBackupPlan::cCopy& copy : copies) {
         const QFileInfo file(copy.Path);
-        lines.append(cText::Tr("{0}, {1}", {When(copy, file), german.formattedDataSize(file.size(), 1)}));
+        const QString size = plain.formattedDataSize(file.size(), 1, QLocale::DataSizeTraditionalFormat);
+        lines.append(cText::Tr("{0}, {1}", {When(copy, file), QString(size).replace(u'.', sign)}));
     }
     return lines;
 }

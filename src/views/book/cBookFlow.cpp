@@ -203,6 +203,10 @@ void cBookFlow::MakeBackup()
     }
     m_parts.Configuration.SaveSetting(modSettingKey::LastBackupFolder, QFileInfo(target).absolutePath(),
                                       eSettingPlace::Registry);
+    if (!m_parts.Book.IsReadOnly()) { // what reminds of backups and the plan of the day have theirs
+        m_parts.Configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(m_parts.Clock.Today()),
+                                          eSettingPlace::Database);
+    }
     m_parts.User.Show(eTone::Information,
                       cText::Tr("Die Datensicherung '{0}' wurde erstellt und geprüft. Sie enthält:\n{1}.",
                                 {Shown(target), modBookFile::Describe(modBookFile::Look(target))}));

@@ -1,10 +1,8 @@
 #include "views/chart/cChartData.h"
 
 #include "base/cText.h"
-#include "base/modSum.h"
 #include "views/list/modUnread.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -99,11 +97,11 @@ QString cChartData::ShareText(int series, int index) const
     return PercentText(100.0 * static_cast<double>(cents) / static_cast<double>(total));
 }
 
-QString cChartData::PercentText(double percent)
+QString cChartData::PercentText(double percent) const
 {
     const qint64 tenths = std::llround(percent * 10.0);
     const bool isWhole = std::abs(tenths) >= 100 || tenths % 10 == 0;
-    return cText::Tr("{0} %", {QLocale(QLocale::German).toString(percent, 'f', isWhole ? 0 : 1)});
+    return cText::Tr("{0} %", {QString::number(percent, 'f', isWhole ? 0 : 1).replace(u'.', modSum::Sign(Decimal))});
 }
 
 QString cChartData::LabelOf(int series, int index) const

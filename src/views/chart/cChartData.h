@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/modSum.h"
 #include "model/modPeriod.h"
 #include "views/report/cReportFigures.h"
 
@@ -85,6 +86,7 @@ struct cChartData
     QString LimitText;
     int Today = -1;                             // the label behind which the future begins; -1 where there is none
     std::function<QString(qint64 cents)> Money; // amounts as the book shows them
+    eDecimal Decimal = eDecimal::Comma;         // of percentages, likewise
 
     bool IsUnread = false; // there are no figures because the book could not be read
 
@@ -108,7 +110,7 @@ struct cChartData
     // parts of.
     [[nodiscard]] qint64 Total(int index) const;
     // "54 %", and below ten per cent "5,4 %": a decimal only where it tells something.
-    [[nodiscard]] static QString PercentText(double percent);
+    [[nodiscard]] QString PercentText(double percent) const;
     // What part of the total of its label a value is, as such a text; empty where that means nothing.
     [[nodiscard]] QString ShareText(int series, int index) const;
     // A part in words: "Wohnen, 2026: 7.200,00 € (31,2 %)".

@@ -53,7 +53,9 @@ cChartData Unread()
 
 cChartData cChartMaker::Make(const cChartWish& wish)
 {
-    return HasForecast(wish.Kind) ? MakeBalances(wish) : MakeFromEntries(wish);
+    cChartData data = HasForecast(wish.Kind) ? MakeBalances(wish) : MakeFromEntries(wish);
+    data.Decimal = m_format.Decimal();
+    return data;
 }
 
 cChartData cChartMaker::MakeLimits(const modChart::cInput& input)

@@ -114,7 +114,7 @@ QString modChartTable::Text(const cChartData& data, const cChartFigures::cColumn
         return {};
     }
     constexpr double hundredths = 100;
-    return column.IsShare ? cChartData::PercentText(static_cast<double>(*value) / hundredths) : data.MoneyText(*value);
+    return column.IsShare ? data.PercentText(static_cast<double>(*value) / hundredths) : data.MoneyText(*value);
 }
 
 QByteArray modChartTable::Csv(const cChartData& data)

@@ -72,6 +72,14 @@ void cOverviewModel::BookChanged()
     }
 }
 
+void cOverviewModel::TasksChanged()
+{
+    if (m_book) {
+        m_tasks = cOverviewTasks(m_tools).Quick();
+        Build();
+    }
+}
+
 void cOverviewModel::BookSwitched()
 {
     tmrLoad.stop(); // there may be no book for a while

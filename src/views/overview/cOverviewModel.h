@@ -35,7 +35,8 @@ public:
     void Hide() { m_isShown = false; }
     void BookSwitched(); // what the former one had means nothing
     void BookChanged();
-    void Read(); // at once, but for what takes longer
+    void TasksChanged(); // something that the book does not tell of is done: a backup
+    void Read();         // at once, but for what takes longer
 
     // In the order in which they are shown; without entries in the book only what a new book can have.
     [[nodiscard]] const QList<cOverviewCard>& Cards() const { return m_cards; }

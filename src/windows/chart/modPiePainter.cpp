@@ -1,5 +1,6 @@
 #include "windows/chart/modPiePainter.h"
 
+#include "base/cText.h"
 #include "windows/chart/modChartColour.h"
 #include "windows/widget/modTone.h"
 
@@ -63,7 +64,7 @@ void PaintShare(QPainter& painter, const cChartScene& scene, const cChartLayout:
     const double total = static_cast<double>(scene.Data.Total(hit.Part.Index));
     const double share = static_cast<double>(scene.Data.Series[hit.Part.Series].At(hit.Part.Index).value_or(0)) / total;
     const double arc = share * 2 * std::numbers::pi * (circle.Outer + circle.Inner) / 2;
-    const QString text = QString::number(qRound(share * 100)) + QChar(QChar::Nbsp) + u'%';
+    const QString text = cText::Tr("{0} %", {QString::number(qRound(share * 100))});
     const QSizeF size(scene.Metrics.horizontalAdvance(text), scene.Em());
     if (size.width() < circle.Outer - circle.Inner && arc > size.width() * 1.25) {
         QRectF box(QPointF(), size * 1.2);
@@ -100,10 +101,11 @@ void PaintMiddle(QPainter& painter, const cChartScene& scene, const cChartLayout
     font.setBold(true);
     const double room = circle.Inner * 1.7;
     const double needed = QFontMetricsF(font).horizontalAdvance(sum);
-    if (scene.Em() * 3 > circle.Inner * 2) {
+    constexpr double least = 0.6; // of the font's size
+    if (scene.Em() * 3 > circle.Inner * 2 || room < needed * least) {
         return; // too small for words
     }
-    painter.setFont(ScaledFont(font, std::clamp(room / std::max(1.0, needed), 0.6, 1.35)));
+    painter.setFont(ScaledFont(font, std::clamp(room / std::max(1.0, needed), least, 1.35)));
     painter.setPen(scene.Text());
     const QRectF box = Square(circle.Centre, circle.Inner);
     painter.drawText(box.adjusted(0, 0, 0, -scene.Em() * 0.7), Qt::AlignCenter, sum);
