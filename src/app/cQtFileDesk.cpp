@@ -1,7 +1,8 @@
 #include "app/cQtFileDesk.h"
 
+#include "core/modTrash.h"
+
 #include <QDesktopServices>
-#include <QFile>
 #include <QUrl>
 
 bool cQtFileDesk::OpenFile(const QString& path)
@@ -11,5 +12,5 @@ bool cQtFileDesk::OpenFile(const QString& path)
 
 bool cQtFileDesk::MoveToTrash(const QString& path)
 {
-    return QFile::moveToTrash(path);
+    return modTrash::Move(path);
 }

@@ -7,12 +7,12 @@
 #include "cli/cJsonObject.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
+#include "core/modTrash.h"
 #include "model/modReceiptName.h"
 #include "views/entry/modEntryFields.h"
 #include "views/receipt/cReceiptListModel.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <limits>
 
@@ -25,7 +25,7 @@ class cTrash final : public cFileDesk
 {
 public:
     bool OpenFile(const QString& /*path*/) override { return false; }
-    bool MoveToTrash(const QString& path) override { return QFile::moveToTrash(path); }
+    bool MoveToTrash(const QString& path) override { return modTrash::Move(path); }
 };
 
 enum class eWhich { All, Missing };

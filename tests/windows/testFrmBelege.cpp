@@ -214,7 +214,9 @@ void testFrmBelege::OnlyReceiptsHangAtTheLineTheyFallOn()
     cEntryItem entry;
     entry.ID = 7;
     entry.EntryDate = QDate(2026, 3, 10);
-    list.SetContent({.Entries = {entry}, .Account = {}, .Today = {}}, {}, {});
+    cEntryListModel::cContent content;
+    content.Entries = {entry};
+    list.SetContent(content, {}, {});
     QTreeView tree;
     tree.setModel(&list);
     cReceiptDrop drop(tree, list);

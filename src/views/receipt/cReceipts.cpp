@@ -167,28 +167,25 @@ bool cReceipts::MayWrite() const
         || Refuse(cText::Tr("Der Ordner '{0}' kann nicht angelegt werden.", {QDir::toNativeSeparators(folder)}));
 }
 
-// Free in the folder, and not the name of a file that is missing at the moment. Letter case makes no other name,
-// because the folder may come to lie on a volume where it does not.
+// Its number is free in the folder, whatever the kind of file, and not that of one that is missing at the moment.
+// Letter case makes no other name, because the folder may come to lie on a volume where it does not.
 QString cReceipts::FreeName(const cEntryItem& entry, const QString& ending) const
 {
-    QSet<QString> taken;
-    const QStringList files = QDir(Folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    for (const QString& file : files) {
-        taken.insert(file.toCaseFolded());
-    }
+    QStringList names = QDir(Folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
     const cEntryItemList entries = Entries();
     for (const cEntryItem& each : entries) {
-        const QStringList names = modReceiptName::Of(each);
-        for (const QString& name : names) {
-            taken.insert(name.toCaseFolded());
-        }
+        names += modReceiptName::Of(each);
     }
-    const QString stem = modReceiptName::Stem(entry);
+    QSet<QString> taken;
+    for (const QString& name : std::as_const(names)) {
+        taken.insert(QFileInfo(name).completeBaseName().toCaseFolded());
+    }
+    const QString stem = modReceiptName::Stem(entry) + u' ';
     int number = 1;
-    while (taken.contains(QString(stem + u" %1%2"_s.arg(QString::number(number), ending)).toCaseFolded())) {
+    while (taken.contains(QString(stem + QString::number(number)).toCaseFolded())) {
         ++number;
     }
-    return stem + u" %1%2"_s.arg(QString::number(number), ending);
+    return stem + QString::number(number) + ending;
 }
 
 bool cReceipts::IsInFolder(const QString& path) const

@@ -46,10 +46,10 @@ cPreviewReader::cPreviewReader(QObject* parent) : QObject(parent), m_opened(std:
 
 cPreviewReader::~cPreviewReader()
 {
-    m_isStale = true;
     {
         const std::lock_guard lock(m_mutex);
         m_isEnding = true;
+        m_isStale = true;
     }
     m_wake.notify_one();
     if (m_worker.joinable()) {
