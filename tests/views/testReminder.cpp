@@ -156,7 +156,7 @@ private Q_SLOTS:
         cScene scene;
         (void)scene.AddSeries(QDate(2026, 1, 15), u"Miete"_s);
         (void)scene.AddSeries(QDate(2026, 1, 28), u"Strom"_s);
-        (void)scene.AddSeries(QDate(2026, 1, 29), u"zu spät"_s);
+        (void)scene.AddSeries(QDate(2026, 3, 29), u"zu spät"_s);
         (void)scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 3, 20); });
         const cEntryItemList due = cDueItems(scene.Book.Tools).Within(cOverviewBook::DueDays);
         QCOMPARE(due.size(), 3);

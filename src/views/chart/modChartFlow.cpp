@@ -82,7 +82,7 @@ cChartData modChart::Flow(const cInput& input)
     data.Note = cText::Tr("{0}, {1}", {RangeText(input.First.Range), AccountText(input.Wish.Account)});
     data.LabelTitle = cText::Tr("Kategorie");
     data.Labels = {cText::Tr("Herein"), cText::Tr("Hinaus")};
-    data.Middle = input.Wish.Account.isEmpty() ? cText::Tr("Haushalt") : input.Wish.Account;
+    data.Middle = input.Wish.Account.isEmpty() ? cText::Tr("Insgesamt") : input.Wish.Account;
     data.Money = input.Money;
     const cReportWish wish = ReportWish(input.Wish, input.First.Range, input.Today);
     const cReportFigures figures = modReport::Figures(input.First.Entries, {}, wish);

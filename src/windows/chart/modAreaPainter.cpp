@@ -66,14 +66,27 @@ void LayOutBands(const cChartScene& scene, cChartLayout& layout, const QList<QLi
     }
 }
 
-// Along the upper edge of a surface and back along the lower one. What stands at the same pixel is drawn once.
-QPolygonF Surface(const cChartScene& scene, const cChartLayout& layout, int series)
+// Along the upper edges of a surface and back along the lower ones: a piece for each stretch on one side of zero,
+// because a debt lies below all that others have. What stands at the same pixel is drawn once.
+QList<QPolygonF> Surfaces(const cChartScene& scene, const cChartLayout& layout, int series)
 {
+    QList<QPolygonF> surfaces;
     QPolygonF upper;
     QPolygonF lower;
+    const auto close = [&] {
+        std::reverse(lower.begin(), lower.end());
+        surfaces.append(QPolygonF(upper + lower));
+        upper.clear();
+        lower.clear();
+    };
+    bool isUp = true;
     for (const cChartLayout::cHit& hit : layout.Hits) {
         if (hit.Part.Series != series) {
             continue;
+        }
+        if (const bool isNowUp = scene.Data.Series[series].At(hit.Part.Index).value_or(0) >= 0; isNowUp != isUp) {
+            close();
+            isUp = isNowUp;
         }
         const double x = hit.Box.center().x();
         const bool isLast = hit.Part.Index == scene.LabelCount() - 1;
@@ -82,8 +95,8 @@ QPolygonF Surface(const cChartScene& scene, const cChartLayout& layout, int seri
             lower.append(QPointF(x, hit.Box.bottom()));
         }
     }
-    std::reverse(lower.begin(), lower.end());
-    return QPolygonF(upper + lower);
+    close();
+    return surfaces;
 }
 
 } // namespace
@@ -119,8 +132,11 @@ void modAreaPainter::Paint(QPainter& painter, const cChartScene& scene, const cC
         const bool isOther = scene.State.Hovered && scene.State.Hovered->Series != series;
         colour.setAlphaF(isOther ? 0.45F : 0.8F);
         painter.setBrush(colour);
-        painter.setPen(QPen(scene.Style.Palette.color(QPalette::Base), 1));
-        painter.drawPolygon(Surface(scene, layout, series));
+        painter.setPen(Qt::NoPen);
+        const QList<QPolygonF> surfaces = Surfaces(scene, layout, series);
+        for (const QPolygonF& surface : surfaces) {
+            painter.drawPolygon(surface);
+        }
     }
     for (int series = 0; series < scene.SeriesCount(); ++series) {
         if (scene.IsLine(series) && !scene.Data.IsHidden(series)) {

@@ -131,8 +131,7 @@ void modCalendarPainter::Paint(QPainter& painter, const cChartScene& scene, cons
     for (const cChartLayout::cHit& hit : layout.Hits) {
         PaintDay(painter, scene, hit);
     }
-    PaintKey(
-        painter, scene,
-        QRectF(layout.Plot.left(), layout.Plot.bottom() - scene.Em() * 1.4, layout.Plot.width(), scene.Em() * 1.4));
+    const double left = layout.Months.front().Title.left();
+    PaintKey(painter, scene, QRectF(QPointF(left, layout.Plot.bottom() - scene.Em() * 1.4), layout.Plot.bottomRight()));
     scene.PaintFocus(painter, layout);
 }

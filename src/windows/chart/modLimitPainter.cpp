@@ -75,22 +75,31 @@ int CountOver(const cChartScene& scene, int series)
     return over;
 }
 
-// The name, and how often more was spent than was to be.
+// The name with the limit, and how often more was spent than was to be.
 void PaintTitle(QPainter& painter, const cChartScene& scene, const cChartLayout::cPanel& panel)
 {
     const int over = CountOver(scene, panel.Series);
     const QString text = over > 0 ? cText::Tr("{0} × darüber", {QString::number(over)}) : QString();
-    const double width = over > 0 ? scene.Metrics.horizontalAdvance(text) + scene.Em() : 0;
-    QFont bold = scene.Style.Font;
-    bold.setBold(true);
-    painter.setFont(bold);
-    painter.setPen(scene.Text());
-    painter.drawText(panel.Title.adjusted(0, 0, -width, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetricsF(bold).elidedText(scene.Data.Series[panel.Series].Name, Qt::ElideRight,
-                                                    panel.Title.width() - width));
     painter.setFont(scene.Style.Font);
     painter.setPen(modTone::Expense(scene.Style.Palette));
     painter.drawText(panel.Title, Qt::AlignRight | Qt::AlignVCenter, text);
+    QFont bold = scene.Style.Font;
+    bold.setBold(true);
+    const QFontMetricsF metrics(bold);
+    const QRectF room =
+        panel.Title.adjusted(0, 0, over > 0 ? -scene.Metrics.horizontalAdvance(text) - scene.Em() : 0.0, 0);
+    const QString name = metrics.elidedText(scene.Data.Series[panel.Series].Name, Qt::ElideRight, room.width());
+    painter.setFont(bold);
+    painter.setPen(scene.Text());
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, name);
+    const int shown = scene.Data.Today >= 0 ? scene.Data.Today : scene.LabelCount() - 1;
+    const QString limit = scene.Data.AxisText(scene.Data.Series[panel.Series + 1].At(shown).value_or(0));
+    const QRectF rest = room.adjusted(metrics.horizontalAdvance(name) + scene.Em() * 0.6, 0, 0, 0);
+    if (scene.Metrics.horizontalAdvance(limit) <= rest.width()) {
+        painter.setFont(scene.Style.Font);
+        painter.setPen(modTone::Quiet(scene.Style.Palette));
+        painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, limit);
+    }
 }
 
 void PaintLabels(QPainter& painter, const cChartScene& scene, const cChartLayout::cPanel& panel)
@@ -112,6 +121,9 @@ void PaintLabels(QPainter& painter, const cChartScene& scene, const cChartLayout
 // What is above the limit is set off by another colour and by a gap, which can be told apart without colours.
 void PaintColumn(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit, double limit)
 {
+    if (scene.Data.Series[hit.Part.Series].At(hit.Part.Index).value_or(0) == 0) {
+        return;
+    }
     QColor colour = scene.Colour(hit.Part.Series);
     QColor over = scene.Colour(hit.Part.Series + 1);
     if (scene.IsAhead(hit.Part.Series, hit.Part.Index)) {
@@ -145,10 +157,6 @@ void PaintPanel(QPainter& painter, const cChartScene& scene, const cChartLayout&
     }
     PaintTitle(painter, scene, panel);
     PaintLabels(painter, scene, panel);
-    const QString text = scene.Data.AxisText(scene.Data.Series[panel.Series + 1].At(0).value_or(0));
-    const QRectF box(panel.Plot.left(), limits.front().y() - scene.Em() * 1.15, panel.Plot.width(), scene.Em());
-    painter.setPen(scene.Text());
-    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
 }
 
 } // namespace
