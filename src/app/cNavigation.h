@@ -99,6 +99,8 @@ private:
     void OpenBackupSettings();
     void OpenNationalSettings();
     void OpenRules();
+    void OpenPeople(QWidget* parent);
+    void OpenSettlement();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
     void Export();

@@ -68,6 +68,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand ChartCommand();
 [[nodiscard]] cCliCommand ForecastCommand();
 [[nodiscard]] cCliCommand SearchCommand();
+[[nodiscard]] cCliCommand TagsCommand();
 [[nodiscard]] cCliCommand AddCommand();
 [[nodiscard]] cCliCommand ChangeCommand();
 [[nodiscard]] cCliCommand DeleteCommand();

@@ -52,8 +52,8 @@ cReportWish ReadWish(const cCliContext& context, cCliReader& reader)
     const QString name = call.Arguments().join(u' ');
     const std::optional<eReport> type = modReport::TypeByName(name);
     if (!type) {
-        reader.Misused(
-            cText::Tr("Den Bericht '{0}' gibt es nicht. Möglich sind: {1}.", {name, u"durchschnitt, summe, limit"_s}));
+        reader.Misused(cText::Tr("Den Bericht '{0}' gibt es nicht. Möglich sind: {1}.",
+                                 {name, u"durchschnitt, summe, limit, schlagwort"_s}));
     }
     wish.Type = type.value_or(eReport::Sum);
     wish.Range = reader.Period(modWord::AktuellesJahr);
@@ -139,14 +139,15 @@ public:
             Add(m_figures.Income);
         }
         Add(m_figures.Expense);
-        return text + u'\n' + m_table.ToString();
+        const QString note = modReport::Note(m_figures.Type);
+        return text + u'\n' + m_table.ToString() + (note.isEmpty() ? note : QString(u'\n' + note + u'\n'));
     }
 
 private:
     [[nodiscard]] static QList<cCliTable::cColumn> Columns(eReport type)
     {
         QList<cCliTable::cColumn> columns{{cText::Tr("Art")},
-                                          {cText::Tr("Sparte")},
+                                          {modReport::GroupTitle(type)},
                                           {cText::Tr("Kategorie")},
                                           {modReport::AmountTitle(type), eAlign::Right}};
         if (type == eReport::Limit) {
@@ -253,8 +254,9 @@ cCliCommand modCliCommands::ReportCommand()
 {
     return {.Name = u"report"_s,
             .Arguments = u"BERICHT"_s,
-            .Help = cText::Tr("rechnet einen Bericht aus: durchschnitt (je Monat), summe oder limit; ohne Angabe für "
-                              "das aktuelle Jahr"),
+            .Help = cText::Tr(
+                "rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit oder schlagwort; ohne Angabe für "
+                "das aktuelle Jahr"),
             .MinArguments = 1,
             .MaxArguments = 3, // "Summe aller Werte" without quotes
             .Options = {{u"period"_s, u"NAME"_s, cText::Tr("Zeitraum, zum Beispiel \"Letzter Monat\"")},

@@ -27,6 +27,7 @@
 #include "tools/screenshots/takeAssistant.h"
 #include "tools/screenshots/takeBank.h"
 #include "tools/screenshots/takeBankSetup.h"
+#include "tools/screenshots/takePeople.h"
 #include "tools/screenshots/takeReview.h"
 #include "tools/screenshots/takeUpdate.h"
 #include "views/chart/cChartMaker.h"
@@ -552,9 +553,9 @@ int main(int argc, char* argv[])
     cCamera camera(arguments.at(1), arguments.at(2), screen);
     return TakeUpdate(camera) && TakeStatement(camera) && TakeDemo(camera) && TakeAssistant(camera) && TakeBank(camera)
             && TakeEmpty(camera) && TakeEditor(camera) && TakeCategories(camera) && TakeSearch(camera)
-            && TakeRules(camera) && TakeReview(camera) && TakeBankSetup(camera) && TakeSettings(camera)
-            && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera) && TakeManual(camera)
-            && camera.IsGood()
+            && TakeRules(camera) && TakeReview(camera) && TakePeople(camera) && TakeBankSetup(camera)
+            && TakeSettings(camera) && TakeStatistics(camera) && TakeCharts(camera) && TakePrinted(camera)
+            && TakeManual(camera) && camera.IsGood()
         ? 0
         : 1;
 }

@@ -70,6 +70,7 @@ cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
     case eChartKind::IncomePie: return modChart::Pie(input);
     case eChartKind::ExpenseMonths:
     case eChartKind::IncomeMonths: return modChart::MonthsByCategory(input);
+    case eChartKind::Tags: return modChart::Tags(input);
     case eChartKind::Months:
     case eChartKind::Balances: break;
     }

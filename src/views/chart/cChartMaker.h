@@ -17,7 +17,8 @@ enum class eChartKind {
     Months,        // income, expense and balance of each month
     ExpenseMonths, // expenses of each month by main category, on top of each other
     IncomeMonths,
-    Balances // balances day by day, with the forecast
+    Balances, // balances day by day, with the forecast
+    Tags      // expense and income of each tag
 };
 
 struct cChartWish

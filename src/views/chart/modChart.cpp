@@ -19,13 +19,14 @@ struct cKindName
     std::optional<eReportKind> Section;
 };
 
-constexpr std::array<cKindName, 6> kinds{{
+constexpr std::array<cKindName, 7> kinds{{
     {eChartKind::ExpensePie, u"ausgaben", eReportKind::Expense},
     {eChartKind::IncomePie, u"einnahmen", eReportKind::Income},
     {eChartKind::Months, u"monate", std::nullopt},
     {eChartKind::ExpenseMonths, u"ausgaben-monate", eReportKind::Expense},
     {eChartKind::IncomeMonths, u"einnahmen-monate", eReportKind::Income},
     {eChartKind::Balances, u"verlauf", std::nullopt},
+    {eChartKind::Tags, u"schlagwort", std::nullopt},
 }};
 
 // Names of months in the chosen language; the tests and the command line may run without any.
@@ -68,7 +69,7 @@ modPeriod::cRange cChartWish::YearBefore(const modPeriod::cRange& range)
 cReportWish modChart::ReportWish(const cChartWish& wish, const modPeriod::cRange& range, QDate today)
 {
     cReportWish report;
-    report.Type = eReport::Sum;
+    report.Type = wish.Kind == eChartKind::Tags ? eReport::Tag : eReport::Sum;
     report.Account = wish.Account;
     report.Range = range;
     report.ShowsFuture = wish.ShowsFuture;

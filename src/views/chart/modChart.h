@@ -38,6 +38,9 @@ enum eColour { Sum = 0, Income = 2, Expense = 3, Balance = 7, Rest = 11 };
 // Categories on top of each other, by month or year.
 [[nodiscard]] cChartData MonthsByCategory(const cInput& input);
 
+// The tags with the largest sums, beside each other and not as parts of a whole: an entry may have several.
+[[nodiscard]] cChartData Tags(const cInput& input);
+
 // Balances with the forecast; of both days the same accounts. `second` may be empty.
 struct cBalanceInput
 {

@@ -5,6 +5,7 @@
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -182,6 +183,9 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
     }
     whole->ID = m_ids.value(0);
     const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields) : cEntryItemList{*whole};
+    // Parts of one purchase may have payers of their own; they keep them until another one is chosen for all.
+    const std::optional<cEntryItem> first = m_ids.isEmpty() ? std::nullopt : m_tools.Data.LoadEntry(m_ids.constFirst());
+    const bool isPayerChosen = !first || modPeople::Payer(*first) != fields.Payer;
     QList<cEntryWrite> rows;
     for (cEntryItem entry : entries) {
         const std::optional<cEntryItem> stored = entry.ID > 0 ? m_tools.Data.LoadEntry(entry.ID) : cEntryItem{};
@@ -189,6 +193,9 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
             return {}; // it was deleted meanwhile
         }
         entry.EntryFlags = stored->EntryFlags;
+        if (isPayerChosen || entry.ID == 0) {
+            modPeople::SetPayer(entry, fields.Payer);
+        }
         rows.append({entry, CorrectionsOf(*stored, fields)});
     }
     return rows;

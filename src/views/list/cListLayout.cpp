@@ -79,5 +79,9 @@ std::optional<cListLayout> cListLayout::FromText(const QString& text, int column
         }
         layout.Columns.push_back(*column);
     }
+    // Columns that came with a newer program are hidden at the end.
+    for (int column = static_cast<int>(layout.Columns.size()); column < columnCount && column > 0; ++column) {
+        layout.Columns.push_back({column, 0, false});
+    }
     return IsComplete(layout, columnCount) ? std::optional(layout) : std::nullopt;
 }

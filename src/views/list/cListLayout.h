@@ -31,6 +31,7 @@ struct cListLayout
     // The same columns for letters of this width.
     [[nodiscard]] cListLayout ForLetter(int letter) const;
 
-    // Empty for a text that is not such a layout of exactly `columnCount` columns with one of them shown.
+    // Empty for a text that is not such a layout of `columnCount` columns with one of them shown. Columns that it does
+    // not know yet are hidden at the end.
     [[nodiscard]] static std::optional<cListLayout> FromText(const QString& text, int columnCount);
 };

@@ -67,6 +67,8 @@ bool cMainModel::Execute(int command)
     case modCommand::BackupSettings:
     case modCommand::Rules:
     case modCommand::BankLogins:
+    case modCommand::People:
+    case modCommand::Settlement:
     case modCommand::FetchTransactions:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     case modCommand::Budget:
@@ -79,8 +81,6 @@ bool cMainModel::Execute(int command)
     case modCommand::SaveView:
     case modCommand::SavedViews:
     case modCommand::GoToDay:
-    case modCommand::People:
-    case modCommand::Settlement:
     case modCommand::Reminders: return false; // no row in the table yet
     }
     return true;

@@ -5,8 +5,8 @@
 #include <QDate>
 #include <QString>
 
-// The three reports, in the order of the selector.
-enum class eReport { Average, Sum, Limit };
+// The reports, in the order of the selector; the numbers are stored.
+enum class eReport { Average, Sum, Limit, Tag };
 
 enum class eReportOrder { ByName, ByAmount };
 

@@ -22,7 +22,7 @@ bool HasLimits(const cReportFigures& figures)
 // Limit and amount stand side by side, the number of entries last.
 QStringList Titles(const cReportFigures& figures)
 {
-    QStringList titles{cText::Tr("Art"), cText::Tr("Sparte"), cText::Tr("Kategorie"),
+    QStringList titles{cText::Tr("Art"), modReport::GroupTitle(figures.Type), cText::Tr("Kategorie"),
                        modReport::AmountTitle(figures.Type)};
     if (HasLimits(figures)) {
         titles.append(cText::Tr("Limit"));

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kindCount = 6;
+constexpr int kindCount = 7;
 constexpr int mostForecast = 12; // months
 
 } // namespace
@@ -29,9 +29,13 @@ cStatisticsChart::cStatisticsChart(const cBookTools& tools, const QString& pane,
 
 QStringList cStatisticsChart::Kinds()
 {
-    return {cText::Tr("Ausgaben nach Kategorien"),           cText::Tr("Einnahmen nach Kategorien"),
-            cText::Tr("Einnahmen und Ausgaben je Monat"),    cText::Tr("Ausgaben je Monat nach Kategorien"),
-            cText::Tr("Einnahmen je Monat nach Kategorien"), cText::Tr("Verlauf der Kontostände")};
+    return {cText::Tr("Ausgaben nach Kategorien"),
+            cText::Tr("Einnahmen nach Kategorien"),
+            cText::Tr("Einnahmen und Ausgaben je Monat"),
+            cText::Tr("Ausgaben je Monat nach Kategorien"),
+            cText::Tr("Einnahmen je Monat nach Kategorien"),
+            cText::Tr("Verlauf der Kontostände"),
+            cText::Tr("Schlagwörter")};
 }
 
 void cStatisticsChart::Restore()

@@ -17,8 +17,14 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},   {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount},
-                                               {16, eKind::Amount}};
+const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},    {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount},
+                                               {16, eKind::Amount}, {24}, {18}};
+
+// What a list shows until the user chooses: tags stand in the description already, and most books have one payer.
+constexpr bool IsUsual(int column)
+{
+    return column != cEntryListModel::Tags && column != cEntryListModel::Payer;
+}
 
 } // namespace
 
@@ -27,7 +33,9 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
     // Before the base class hears of it and forgets which line stands where.
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
     setModel(&m_model);
-    setItemDelegate(new cEntryDelegate(this));
+    auto* delegate = new cEntryDelegate(this);
+    setItemDelegate(delegate);
+    connect(delegate, &cEntryDelegate::TagClicked, this, &cEntryTree::TagClicked);
     setRootIsDecorated(false); // heads of groups draw their own arrow, so that the dates stay in line
     setIndentation(0);
     setUniformRowHeights(true);
@@ -58,7 +66,9 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
 void cEntryTree::SetDefaultLayout()
 {
     m_fit->SetLayout(std::nullopt);
-    m_isShown.fill(true);
+    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
+        m_isShown.at(static_cast<std::size_t>(column)) = IsUsual(column);
+    }
     ShowColumns();
     sortByColumn(cEntryListModel::Date, Qt::AscendingOrder);
 }

@@ -32,6 +32,7 @@ public:
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups
 
 Q_SIGNALS:
+    void TagClicked(const QString& tag); // on its label
     void SelectionKeysChanged(const QList<cEntryListModel::cKey>& keys);
 
 protected:
