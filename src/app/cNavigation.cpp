@@ -28,6 +28,8 @@
 #include "views/main/modCommand.h"
 #include "views/main/modViewText.h"
 #include "views/overview/cOverviewModel.h"
+#include "views/people/cPeople.h"
+#include "views/people/cSettlementModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cSeriesCheck.h"
@@ -49,6 +51,8 @@
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/overview/frmUebersicht.h"
+#include "windows/people/frmAusgleich.h"
+#include "windows/people/frmPersonen.h"
 #include "windows/print/cListPrinter.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/statement/frmImport.h"
@@ -490,6 +494,29 @@ void cNavigation::OpenBudget()
     form.exec();
 }
 
+void cNavigation::OpenPeople(QWidget* parent)
+{
+    cPeople people(m_parts.Tools);
+    frmPersonen form(people, parent);
+    QObject::connect(&form, &frmPersonen::PeopleChanged, m_model, &cMainModel::BookChanged);
+    form.exec();
+}
+
+void cNavigation::OpenSettlement()
+{
+    cSettlementModel settlement(m_parts.Tools);
+    frmAusgleich form(settlement, Parent());
+    QObject::connect(&form, &frmAusgleich::PeopleRequested, &form, [&] {
+        OpenPeople(&form);
+        form.Refresh();
+    });
+    QObject::connect(&form, &frmAusgleich::PrintRequested, &form, [&] {
+        cReportPrinter pages(settlement.Html(), form.font().family(), QStringLiteral("Kontorelle"));
+        m_printer.Print(pages, &form);
+    });
+    form.exec();
+}
+
 cBankWindows& cNavigation::Banks()
 {
     if (!m_banks) {
@@ -594,6 +621,8 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::National: OpenNationalSettings(); break;
     case modCommand::Rules: OpenRules(); break;
     case modCommand::Budget: OpenBudget(); break;
+    case modCommand::People: OpenPeople(Parent()); break;
+    case modCommand::Settlement: OpenSettlement(); break;
     case modCommand::FetchTransactions: OpenFetch(); break;
     case modCommand::BankLogins: Banks().OpenLogins(Parent()); break;
     case modCommand::CopyRows:

@@ -104,6 +104,8 @@ private:
     void OpenNationalSettings();
     void OpenRules();
     void OpenBudget();
+    void OpenPeople(QWidget* parent);
+    void OpenSettlement();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
     void OpenReceipts(modCommand::eId command);

@@ -48,6 +48,7 @@ const QList<cCliCommand>& modCliCommands::All()
         RulesTestCommand(),
         EntriesCommand(),
         SearchCommand(),
+        TagsCommand(),
         ExportCommand(),
         ReportCommand(),
         ChartCommand(),

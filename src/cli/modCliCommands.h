@@ -69,6 +69,7 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand ForecastCommand();
 [[nodiscard]] cCliCommand DueCommand();
 [[nodiscard]] cCliCommand SearchCommand();
+[[nodiscard]] cCliCommand TagsCommand();
 [[nodiscard]] cCliCommand AddCommand();
 [[nodiscard]] cCliCommand ChangeCommand();
 [[nodiscard]] cCliCommand DeleteCommand();

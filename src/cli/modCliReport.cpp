@@ -53,7 +53,7 @@ cReportWish ReadWish(const cCliContext& context, cCliReader& reader)
     const std::optional<eReport> type = modReport::TypeByName(name);
     if (!type) {
         reader.Misused(cText::Tr("Den Bericht '{0}' gibt es nicht. Möglich sind: {1}.",
-                                 {name, u"durchschnitt, summe, limit, budget"_s}));
+                                 {name, u"durchschnitt, summe, limit, budget, schlagwort"_s}));
     }
     wish.Type = type.value_or(eReport::Sum);
     wish.Range = reader.Period(modWord::AktuellesJahr);
@@ -142,14 +142,15 @@ public:
             Add(m_figures.Income);
         }
         Add(m_figures.Expense);
-        return text + u'\n' + m_table.ToString();
+        const QString note = modReport::Note(m_figures.Type);
+        return text + u'\n' + m_table.ToString() + (note.isEmpty() ? note : QString(u'\n' + note + u'\n'));
     }
 
 private:
     [[nodiscard]] static QList<cCliTable::cColumn> Columns(eReport type)
     {
         QList<cCliTable::cColumn> columns{{cText::Tr("Art")},
-                                          {cText::Tr("Sparte")},
+                                          {modReport::GroupTitle(type)},
                                           {cText::Tr("Kategorie")},
                                           {modReport::AmountTitle(type), eAlign::Right}};
         if (modReport::HasLimits(type)) {
@@ -264,7 +265,7 @@ cCliCommand modCliCommands::ReportCommand()
     return {.Name = u"report"_s,
             .Arguments = u"BERICHT"_s,
             .Help = cText::Tr(
-                "rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit oder budget; ohne Angabe für "
+                "rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit, budget oder schlagwort; ohne Angabe für "
                 "das aktuelle Jahr"),
             .MinArguments = 1,
             .MaxArguments = 3, // "Summe aller Werte" without quotes

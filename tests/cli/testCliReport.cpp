@@ -18,6 +18,7 @@ private Q_SLOTS:
     void initTestCase();
     void AsTable();
     void AsJson();
+    void Tags();
     void Files();
     void RefundsUseUpNothing();
     void Budget();
@@ -74,6 +75,21 @@ void testCliReport::AsJson()
     QCOMPARE(cash.value(u"Entries"_s).toInt(), 2);
     const QJsonObject february = Json(u"report|DURCHSCHNITT|--from|2026-02-01|--to|28.2.2026"_s);
     QCOMPARE(february.value(u"Income"_s).toObject().value(u"Amount"_s).toDouble(), 1123.46); // 1000 / 27 * 364 / 12
+}
+
+void testCliReport::Tags()
+{
+    const QString folder = m_folder->path() + u"/schlagwort"_s;
+    for (const QString& text : {u"Hotel #urlaub #kinder"_s, u"Eis #Urlaub"_s, u"Brot"_s}) {
+        const QString line =
+            u"add|--amount|10|--category|Haushalt|--account|Bargeld|--date|2026-02-01|--text|"_s + text;
+        (void)cCliRun::GoodLine(folder, line);
+    }
+    const QString line = u"tags|--period|Alle Buchungen|--json"_s;
+    const cCliRun run = cCliRun::GoodLine(folder, line);
+    QCOMPARE(run.Column(u"Tag"_s), QStringList({u"#urlaub"_s, u"#kinder"_s, u""_s}));
+    QCOMPARE(run.Column(u"Expense"_s), QStringList({u"20"_s, u"10"_s, u"10"_s}));
+    QCOMPARE(cCliRun::GoodLine(folder, line + u"|--filter|#kinder"_s).Column(u"Tag"_s).size(), 2);
 }
 
 void testCliReport::Files()

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void Finds();
     void FindsAmountsAsTheyAreTyped_data();
     void FindsAmountsAsTheyAreTyped();
+    void FiltersByTag();
     void FiltersInOrderAndGroups();
     void FindsAmountsAsShown_data();
     void FindsAmountsAsShown();
@@ -212,6 +213,34 @@ void testEntryListModel::Finds()
         model.SetFilter(typed += c);
     }
     QCOMPARE(model.rowCount(), rows);
+}
+
+// A whole tag finds its own entries, as a report counts them; the beginning of one is looked for like any other word.
+void testEntryListModel::FiltersByTag()
+{
+    const cTestFormat format;
+    cEntryListModel model(format.Format);
+    cEntryListModel::cContent content;
+    for (const char* text : {"#Auto Reifen", "#autobahn Maut", "Auto gemietet", "#Müll"}) {
+        cEntryItem entry;
+        entry.ID = static_cast<int>(content.Entries.size()) + 1;
+        entry.EntryDate = QDate(2026, 1, 1);
+        entry.EntryType = modWord::Ausgabe;
+        entry.EntryDescription = QString::fromUtf8(text);
+        content.Entries.append(entry);
+    }
+    model.SetContent(content, {}, modWord::KeineGruppierung);
+    QString typed;
+    QList<int> rows;
+    for (const QChar c : u"#AUTOB"_s) {
+        model.SetFilter(typed += c);
+        rows.append(model.rowCount());
+    }
+    QCOMPARE(rows, QList<int>({3, 2, 2, 2, 1, 1}));
+    QCOMPARE(model.index(0, cEntryListModel::Tags).data().toString(), u"#autobahn"_s);
+    model.SetFilter(u"#muell"_s);
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(model.KnownTags(), QStringList({u"#Auto"_s, u"#autobahn"_s, u"#Müll"_s}));
 }
 
 // What is typed narrows and widens the list again without a new sort.

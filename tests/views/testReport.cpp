@@ -119,6 +119,7 @@ private Q_SLOTS:
     void Links_data();
     void Links();
     void LinksLeadBackToTheirLines();
+    void TagsCountInEach();
     void Tree();
     void SourceAsksOnce();
     void FutureAndStartFollowTheView();
@@ -398,6 +399,39 @@ void testReport::LinksLeadBackToTheirLines()
         QCOMPARE(shown->Node.Category.value_or(QString()), name);
         QCOMPARE(shown->Account, u"Konto|1/"_s);
         QCOMPARE(shown->Range, year2026);
+    }
+}
+
+// An entry with two tags stands in both groups and once in the sums; what has none comes last.
+void testReport::TagsCountInEach()
+{
+    cEntryItemList entries =
+        Entries({u"2026-02-01 Ausgabe 10000 Reisen; Hotel"_s, u"2026-02-02 Ausgabe 2500 Haushalt"_s,
+                 u"2026-02-03 Ausgabe 4000 "_s, u"2026-02-04 Einnahme 700 Reisen; Hotel"_s,
+                 u"2026-02-05 Umbuchung 9900 Geldanlage"_s});
+    const QStringList texts{u"Hotel #Urlaub #urlaub #kinder"_s, u"Eis #kinder"_s, u"Los #1"_s, u"zurück #URLAUB"_s,
+                            u"#urlaub"_s};
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        entries[i].EntryDescription = texts.at(i);
+    }
+    const cTestFormat format;
+    const cReportWish wish = Wish(eReport::Tag, year2026);
+    const cReportFigures figures = modReport::Figures(entries, {}, wish);
+    QCOMPARE(Plain(figures.Expense),
+             u"#kinder 12500: Haushalt 2500, Reisen; Hotel 10000 | #Urlaub 10000: Reisen; Hotel "
+             "10000 | ohne Schlagwort 4000: Keine Angabe 4000"_s);
+    QCOMPARE(Plain(figures.Income), u"#Urlaub 700: Reisen; Hotel 700"_s);
+    QCOMPARE(figures.Expense.Amount, (cReportAmount{16500, 16500, 0, 3}));
+    QVERIFY(modReportHtml::Html(figures, wish, format.Format).contains(modReport::Note(eReport::Tag)));
+    for (const cReportSection* section : {&figures.Income, &figures.Expense}) {
+        for (const cReportGroup& group : section->Groups) {
+            const cReportNode node{section->Kind, group.Name};
+            QCOMPARE(modReport::EntriesOf(entries, wish, node).size(), group.Amount.Entries);
+            for (const cReportCategory& category : group.Categories) {
+                const cReportNode part{section->Kind, group.Name, category.Name};
+                QCOMPARE(modReport::EntriesOf(entries, wish, part).size(), category.Amount.Entries);
+            }
+        }
     }
 }
 

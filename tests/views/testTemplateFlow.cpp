@@ -144,7 +144,8 @@ void testTemplateFlow::ReadsOnlyWholeLayouts_data()
     QTest::newRow("whole") << u"1,80,1|0,0,0|sort,1,1"_s << true;
     QTest::newRow("without sorting") << u"0,80,1|1,90,1"_s << true;
     QTest::newRow("empty") << QString() << false;
-    QTest::newRow("a column is missing") << u"0,80,1"_s << false;
+    QTest::newRow("a column that came later is hidden") << u"0,80,1"_s << true;
+    QTest::newRow("a column is missing") << u"1,80,1"_s << false;
     QTest::newRow("a column twice") << u"0,80,1|0,80,1"_s << false;
     QTest::newRow("an unknown column") << u"0,80,1|7,80,1"_s << false;
     QTest::newRow("everything hidden") << u"0,80,0|1,80,0"_s << false;

@@ -3,6 +3,7 @@
 #include "core/cErrorLog.h"
 #include "cReceiptScene.h"
 #include "model/modSettingKey.h"
+#include "peopleWindows.h"
 #include "support/cFakeHttps.h"
 #include "support/cFakeNavigator.h"
 #include "support/cPseudoLanguage.h"
@@ -403,6 +404,8 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          scene.Rules.SetDraft(rule);
          return scene.Rules.Save() ? std::make_unique<frmRegeln>(scene.Rules) : nullptr;
      }},
+    {"people", [](cScene& scene) { return modPeopleWindows::People(scene.Book.Tools); }},
+    {"settlement", [](cScene& scene) { return modPeopleWindows::Settlement(scene.Book.Tools); }},
     {"check of the book",
      [](cScene& scene) {
          scene.Book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");

@@ -134,6 +134,7 @@ private Q_SLOTS:
     void CategoryIsFoundByTyping();
     void EscapeClosesTheListFirst();
     void DescriptionBringsCategoryAndAccount();
+    void TagsAreCompleted();
     void BadAmountIsRedUntilItIsEdited();
     void SeriesShowsItsNextDays();
     void TransferShowsTheTarget();
@@ -249,6 +250,24 @@ void testFrmBuchung::DescriptionBringsCategoryAndAccount()
     scene.Line(u"txtBeschreibung"_s).clear();
     TypeAndTab(u"krum"_s);
     QCOMPARE(scene.Line(u"txtBeschreibung"_s).text(), u"krum"_s);
+}
+
+void testFrmBuchung::TagsAreCompleted()
+{
+    cScene scene;
+    scene.Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Fähre #Urlaub #kinder"_s; });
+    QLineEdit& description = scene.Line(u"txtBeschreibung"_s);
+    description.setFocus();
+    Type(u"Hotel #url"_s);
+    Key(Qt::Key_Return);
+    QCOMPARE(description.text(), u"Hotel #Urlaub"_s);
+    Type(u" #"_s);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Return);
+    QCOMPARE(description.text(), u"Hotel #Urlaub #kinder"_s);
+    QVERIFY(scene.Form->isVisible()); // none of it saved
+    QVERIFY(scene.Box(u"cboKategorie"_s).currentText().isEmpty());
 }
 
 void testFrmBuchung::BadAmountIsRedUntilItIsEdited()

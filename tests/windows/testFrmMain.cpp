@@ -73,6 +73,7 @@ class testFrmMain final : public QObject
 private Q_SLOTS:
     void KeysReachTheCommands();
     void DeleteInAFieldDeletesText();
+    void ClickOnATagFilters();
     void SelectionSurvivesARefresh();
     void DeletingGoesOnWithTheNextLine();
     void SavedEntryIsTheOnlyOneSelected();
@@ -133,6 +134,30 @@ void testFrmMain::DeleteInAFieldDeletesText()
     QTest::keyClick(filter, Qt::Key_Delete);
     QCOMPARE(filter->text(), u"ochen"_s);
     QVERIFY(scene.Book.User.Asked.isEmpty());
+}
+
+void testFrmMain::ClickOnATagFilters()
+{
+    cScene scene;
+    scene.Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"#kino Karten"_s; });
+    scene.Model.BookChanged();
+    const auto click = [&] {
+        for (int row = 0; row < scene.Model.Entries().rowCount(); ++row) {
+            const QModelIndex cell = scene.Model.Entries().index(row, cEntryListModel::Description);
+            if (cell.data().toString().startsWith(u'#')) {
+                const QRect place = scene.Tree().visualRect(cell);
+                const QPoint label(place.left() + 4 * scene.Tree().fontMetrics().averageCharWidth(),
+                                   place.center().y());
+                QTest::mouseClick(scene.Tree().viewport(), Qt::LeftButton, Qt::NoModifier, label);
+            }
+        }
+        QTest::qWait(5);
+    };
+    click();
+    QCOMPARE(scene.Model.Entries().rowCount(), 1);
+    QCOMPARE(scene.Model.View().Filter, u"#kino"_s);
+    click();
+    QCOMPARE(scene.Model.Entries().rowCount(), 3);
 }
 
 void testFrmMain::SelectionSurvivesARefresh()

@@ -29,6 +29,7 @@
 #include "tools/screenshots/takeBankSetup.h"
 #include "tools/screenshots/takeBudget.h"
 #include "tools/screenshots/takeCharts.h"
+#include "tools/screenshots/takePeople.h"
 #include "tools/screenshots/takeReceipts.h"
 #include "tools/screenshots/takeReview.h"
 #include "tools/screenshots/takeSheet.h"
@@ -574,7 +575,8 @@ int main(int argc, char* argv[])
             && TakeManual(camera)
             && TakeReceipts(camera)
             && TakeBudget(camera)
-            && TakeMoreCharts(camera) && camera.IsGood()
+            && TakeMoreCharts(camera)
+            && TakePeople(camera) && camera.IsGood()
         ? 0
         : 1;
 }

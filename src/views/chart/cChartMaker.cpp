@@ -87,6 +87,7 @@ cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
     case eChartKind::Flow: return modChart::Flow(input);
     case eChartKind::Calendar: return modChart::Calendar(input);
     case eChartKind::Limits: return MakeLimits(input);
+    case eChartKind::Tags: return modChart::Tags(input);
     case eChartKind::Months:
     case eChartKind::Balances:
     case eChartKind::NetWorth: break;

@@ -26,7 +26,8 @@ enum class eChartKind {
     Flow,     // where the money of a period came from and went to
     Calendar, // what was spent on each day of a year
     NetWorth, // the same balances as shares of their sum
-    Limits    // what was spent of the limits, month by month
+    Limits,   // what was spent of the limits, month by month
+    Tags      // expense and income of each tag
 };
 
 struct cChartWish

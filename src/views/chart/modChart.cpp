@@ -19,7 +19,7 @@ struct cKindName
     std::optional<eReportKind> Section;
 };
 
-constexpr std::array<cKindName, 11> kinds{{
+constexpr std::array<cKindName, 12> kinds{{
     {eChartKind::ExpensePie, u"ausgaben", eReportKind::Expense},
     {eChartKind::IncomePie, u"einnahmen", eReportKind::Income},
     {eChartKind::Months, u"monate", std::nullopt},
@@ -31,6 +31,7 @@ constexpr std::array<cKindName, 11> kinds{{
     {eChartKind::Calendar, u"kalender", eReportKind::Expense},
     {eChartKind::NetWorth, u"vermoegen", std::nullopt},
     {eChartKind::Limits, u"limits", eReportKind::Expense},
+    {eChartKind::Tags, u"schlagwort", std::nullopt},
 }};
 
 // Names of months in the chosen language; the tests and the command line may run without any.
@@ -73,7 +74,9 @@ modPeriod::cRange cChartWish::YearBefore(const modPeriod::cRange& range)
 cReportWish modChart::ReportWish(const cChartWish& wish, const modPeriod::cRange& range, QDate today)
 {
     cReportWish report;
-    report.Type = wish.Kind == eChartKind::Limits ? eReport::Limit : eReport::Sum;
+    report.Type = wish.Kind == eChartKind::Limits ? eReport::Limit
+        : wish.Kind == eChartKind::Tags               ? eReport::Tag
+                                                      : eReport::Sum;
     report.Account = wish.Account;
     report.Range = range;
     report.ShowsFuture = wish.ShowsFuture;

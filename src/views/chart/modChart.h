@@ -42,6 +42,8 @@ enum eColour { Sum = 0, Income = 2, Expense = 3, Balance = 7, Rest = 11 };
 
 // What the months allow, without what is carried over, and what was spent on the categories with a limit.
 [[nodiscard]] cChartData Budget(const cInput& input, const cLimits& limits);
+// The tags with the largest sums, beside each other and not as parts of a whole: an entry may have several.
+[[nodiscard]] cChartData Tags(const cInput& input);
 
 // Balances with the forecast; of both days the same accounts. `second` may be empty.
 struct cBalanceInput

@@ -10,6 +10,7 @@
 #include "core/cBookTools.h"
 #include "model/modBalance.h"
 #include "model/modContract.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
@@ -19,6 +20,7 @@
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/cStartBalance.h"
 #include "views/entry/modEntryFields.h"
+#include "views/people/cPeople.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -53,6 +55,7 @@ cEntryEditor::cFields cEntryEditor::StartFrom(const cEntryItem& proposal, fnStor
     fields.Category = proposed.Category;
     fields.Type = proposed.Type;
     fields.Target = proposed.Target;
+    fields.Payer = proposed.Payer;
     fields.Date = proposed.Date;
     fields.Interval = proposed.Interval;
     return fields;
@@ -87,6 +90,7 @@ cEntryEditor::cFields cEntryEditor::FieldsOf(const cEntryItem& entry) const
     fields.Type = entry.EntryType;
     fields.Account = entry.EntryAccount;
     fields.Target = entry.EntryAccountMove;
+    fields.Payer = modPeople::Payer(entry);
     fields.Date = entry.EntryDate;
     fields.IsDayKept = !entry.EntryDate.isValid();
     fields.HasEnd = modRecurrence::IsRecurring(entry.EntryInterval) && end != modRecurrence::OpenEnd;
@@ -235,6 +239,16 @@ QStringList cEntryEditor::Categories() const
 QStringList cEntryEditor::Accounts() const
 {
     return cEntrySuggestions::VisibleAccounts(m_tools.Data);
+}
+
+// The payer of the entry stays to be chosen when the person is no longer among the others.
+QStringList cEntryEditor::Payers(const cFields& fields) const
+{
+    QStringList names = cPeople(m_tools).Names();
+    if (!fields.Payer.isEmpty() && !names.contains(fields.Payer)) {
+        names.append(fields.Payer);
+    }
+    return names;
 }
 
 void cEntryEditor::ChooseCategory(const QString& path, cFields& fields) const

@@ -77,6 +77,7 @@ public:
 
     // Choices in the order in which they are offered.
     [[nodiscard]] QStringList Categories() const;
+    [[nodiscard]] QStringList Payers(const cFields& fields) const; // who may have paid; empty in a book without people
     [[nodiscard]] QStringList Accounts() const;
     // Earlier descriptions and the search in the categories; loaded when first asked.
     [[nodiscard]] cEntrySuggestions& Suggestions() { return m_suggestions; }

@@ -6,6 +6,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "model/modContract.h"
+#include "model/modPeople.h"
 #include "model/modReceiptName.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
@@ -208,6 +209,9 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
     whole->ID = m_ids.value(0);
     const cEntryItemList entries = IsSplit(fields) ? cSplitGroup::Build(*whole, fields) : cEntryItemList{*whole};
     const QDate cancelBy = modEntryFields::CancelBy(fields, m_tools.Clock.Today());
+    // Parts of one purchase may have payers of their own; they keep them until another one is chosen for all.
+    const std::optional<cEntryItem> first = m_ids.isEmpty() ? std::nullopt : m_tools.Data.LoadEntry(m_ids.constFirst());
+    const bool isPayerChosen = !first || modPeople::Payer(*first) != fields.Payer;
     QList<cEntryWrite> rows;
     for (cEntryItem entry : entries) {
         const std::optional<cEntryItem> stored = entry.ID > 0 ? m_tools.Data.LoadEntry(entry.ID) : cEntryItem{};
@@ -216,6 +220,9 @@ QList<cEntryWrite> cEntryEditor::Build(const cFields& fields) const
         }
         entry.EntryFlags = stored->EntryFlags;
         modContract::SetCancelBy(entry, rows.isEmpty() ? cancelBy : QDate()); // a purchase is one contract
+        if (isPayerChosen || entry.ID == 0) {
+            modPeople::SetPayer(entry, fields.Payer);
+        }
         rows.append({entry, CorrectionsOf(*stored, fields)});
     }
     return rows;

@@ -43,6 +43,7 @@ struct cEntryFields
     QString OpenType;     // of the entry before: what Type is again when a category brings none
     QString Account;
     QString Target;   // only for transfers
+    QString Payer;    // who paid; empty for nobody in particular
     QDate Date;       // invalid means today
     QString DateText; // the day as typed; what stands here counts instead of Date
     bool IsDayKept =

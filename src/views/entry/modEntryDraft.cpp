@@ -53,6 +53,7 @@ void Each(tFields& fields, const tTake& take)
     take(u"OpenType"_s, fields.OpenType);
     take(u"Account"_s, fields.Account);
     take(u"Target"_s, fields.Target);
+    take(u"Payer"_s, fields.Payer);
     take(u"Date"_s, fields.Date);
     take(u"DateText"_s, fields.DateText);
     take(u"IsDayKept"_s, fields.IsDayKept);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmAbruf", "16-online-banking.html#umsätze-abrufen"},
+    {"frmAusgleich", "21-haushalt.html#ausgleich"},
     {"frmBankAssistent", "16-online-banking.html#einen-bankzugang-einrichten"},
     {"frmBankzugaenge", "16-online-banking.html#ändern-und-entfernen"},
     {"frmBelege", "19-belege.html#belege-ansehen"},
@@ -27,6 +28,7 @@ constexpr auto topics = std::to_array<modManual::cTopic>({
     {"frmMain", "01-start.html#das-fenster"},
     {"frmMehrere", "03-eintraege.html#mehrere-auf-einmal-ändern"},
     {"frmPasswort", "11-buch.html#passwort"},
+    {"frmPersonen", "21-haushalt.html#personen-und-anteile"},
     {"frmPin", "16-online-banking.html#pin"},
     {"frmProtokoll", "16-online-banking.html#protokoll"},
     {"frmPruefung", "14-hilfe.html#das-buch-prüfen"},

@@ -11,6 +11,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/modBalanceText.h"
+#include "views/list/cListFilter.h"
 #include "views/list/modUnread.h"
 #include "views/statement/modImportText.h"
 
@@ -153,7 +154,7 @@ void cStatementListModel::SetFilter(const QString& text)
         return;
     }
     // What was left out while fewer letters stood there stays out.
-    const bool isNarrower = modFold::IsNarrower(words, m_words);
+    const bool isNarrower = cListFilter::IsNarrower(words, m_words);
     m_words = words;
     beginResetModel();
     if (!isNarrower) {

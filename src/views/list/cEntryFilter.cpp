@@ -1,6 +1,7 @@
 #include "views/list/cEntryFilter.h"
 
 #include "base/modFold.h"
+#include "model/modPeople.h"
 #include "model/modWord.h"
 
 #include <QHash>
@@ -16,12 +17,12 @@ namespace {
 
 // The words that many entries share. Entries of one query share their characters too, so addresses tell them apart;
 // equal words at two places are merely folded twice.
-using cShared = std::array<const QChar*, 5>;
+using cShared = std::array<const QChar*, 6>;
 
 cShared Shared(const cEntryItem& entry)
 {
-    return {entry.EntryType.constData(), entry.EntryCategory.constData(), entry.EntryAccount.constData(),
-            entry.EntryAccountMove.constData(), entry.EntryInterval.constData()};
+    return {entry.EntryType.constData(),        entry.EntryCategory.constData(), entry.EntryAccount.constData(),
+            entry.EntryAccountMove.constData(), entry.EntryInterval.constData(), entry.EntryFlags.constData()};
 }
 
 struct cSharedHash
@@ -32,7 +33,8 @@ struct cSharedHash
 QString Words(const cEntryItem& entry)
 {
     return QStringList{modWord::EntryTypes().ToShown(entry.EntryType), entry.EntryCategory,
-                       cEntryFilter::AccountText(entry), modWord::Intervals().ToShown(entry.EntryInterval)}
+                       cEntryFilter::AccountText(entry), modWord::Intervals().ToShown(entry.EntryInterval),
+                       modPeople::Payer(entry)}
         .join(u'\n');
 }
 

@@ -4,12 +4,16 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
+#include "model/modPeople.h"
 #include "model/modReceiptName.h"
 #include "model/modSplit.h"
+#include "model/modTag.h"
 #include "model/modWord.h"
 #include "views/list/cEntryFilter.h"
+#include "views/list/cListFilter.h"
 #include "views/list/modColumnWidth.h"
 #include "views/list/modEntryOrder.h"
+#include "views/tag/modTagTyping.h"
 
 #include <QHash>
 
@@ -31,6 +35,7 @@ constexpr std::array<const char*, cEntryListModel::ColumnCount> titles{
     QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Intervall"),
     QT_TRANSLATE_NOOP("cText", "Betrag"),       QT_TRANSLATE_NOOP("cText", "Saldo"),
     QT_TRANSLATE_NOOP("cText", "Beleg"),
+    QT_TRANSLATE_NOOP("cText", "Schlagwörter"), QT_TRANSLATE_NOOP("cText", "Bezahlt von"),
 };
 
 // Nothing at all where there is none, so that nobody has to hear it.
@@ -81,7 +86,7 @@ void cEntryListModel::SetFilter(const QString& text)
         return;
     }
     beginResetModel();
-    const bool isNarrower = modFold::IsNarrower(words, m_words);
+    const bool isNarrower = cListFilter::IsNarrower(words, m_words);
     m_words = words;
     Select(isNarrower ? m_order : m_all);
     endResetModel();
@@ -191,6 +196,18 @@ void cEntryListModel::RunBalances()
         balance += Effect(entry);
         m_balances[At(entry)] = balance;
     }
+}
+
+QStringList cEntryListModel::KnownTags() const
+{
+    QStringList texts;
+    for (const cEntryItem& entry : m_content.Entries) {
+        if (entry.EntryDescription.contains(u'#')) {
+            texts.append(entry.EntryDescription);
+        }
+    }
+    texts.removeDuplicates();
+    return modTagTyping::Known(texts);
 }
 
 std::vector<qint64> cEntryListModel::SortKeys() const
@@ -399,6 +416,8 @@ QString cEntryListModel::Text(int entry, int column) const
     case Category: return item.EntryCategory;
     case Account: return cEntryFilter::AccountText(item);
     case Description: return item.EntryDescription;
+    case Payer: return modPeople::Payer(item);
+    case Tags: return modTag::Of(item.EntryDescription).join(u' ');
     case Interval: {
         const QString interval = modWord::Intervals().ToShown(item.EntryInterval);
         const QString split = modSplit::Group(item) == 0 ? interval : cText::Tr("{0}, Teil", {interval});

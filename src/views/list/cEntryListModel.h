@@ -23,7 +23,9 @@ class cEntryListModel final : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    enum eColumn { Date, Type, Category, Account, Description, Interval, Amount, Balance, Receipts, ColumnCount };
+    enum eColumn {
+        Date, Type, Category, Account, Description, Interval, Amount, Balance, Receipts, Tags, Payer, ColumnCount
+    };
 
     enum eRole {
         ToneRole = Qt::UserRole, // int of eMoneyTone
@@ -76,6 +78,7 @@ public:
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
     [[nodiscard]] const QString& Grouping() const { return m_grouping; }            // as it was set
     [[nodiscard]] const QString& ShownAccount() const { return m_content.Account; } // empty: all accounts
+    [[nodiscard]] QStringList KnownTags() const; // of all its entries, filtered out or not
     [[nodiscard]] bool HasBalances() const { return m_content.StartBalance.has_value(); }
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;

@@ -1,6 +1,7 @@
 #include "views/list/cListFilter.h"
 
 #include "base/modDate.h"
+#include "model/modTag.h"
 
 #include <algorithm>
 
@@ -22,6 +23,23 @@ std::size_t At(int index)
 
 cListFilter::cListFilter(const cAmountFormat& format) : m_amounts(format)
 {
+}
+
+int cListFilter::AddText(const QString& text)
+{
+    const QStringList tags = modTag::Keys(text);
+    for (const QString& tag : tags) {
+        m_tags.insert(tag, m_count);
+    }
+    ++m_count;
+    return m_texts.Add(text);
+}
+
+bool cListFilter::IsNarrower(const QList<modFold::cFolded>& words, const QList<modFold::cFolded>& before)
+{
+    const bool hadTag = std::any_of(before.begin(), before.end(),
+                                    [](const modFold::cFolded& word) { return word.Plain.startsWith(u'#'); });
+    return !hadTag && modFold::IsNarrower(words, before);
 }
 
 void cListFilter::AddRow(int text, int other, QDate day)
@@ -52,7 +70,20 @@ std::vector<int> cListFilter::Find(const QList<modFold::cFolded>& words, const s
 cListFilter::cSearched cListFilter::Search(const modFold::cFolded& word) const
 {
     const QString ungrouped = cAmountPattern::Ungrouped(word.Plain);
-    return {word, m_texts.Find(word), IsPartOfDay(word.Plain), m_amounts.MayHold(ungrouped), ungrouped};
+    return {word, FindText(word), IsPartOfDay(word.Plain), m_amounts.MayHold(ungrouped), ungrouped};
+}
+
+std::vector<bool> cListFilter::FindText(const modFold::cFolded& word) const
+{
+    const QList<int> tagged = m_tags.values(word.Spelled); // which is the key of a tag
+    if (tagged.isEmpty()) {
+        return m_texts.Find(word);
+    }
+    std::vector<bool> isFound(At(m_count));
+    for (const int text : tagged) {
+        isFound[At(text)] = true;
+    }
+    return isFound;
 }
 
 bool cListFilter::Holds(int row, const cSearched& searched, const fnCents& cents)

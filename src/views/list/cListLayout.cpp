@@ -59,7 +59,7 @@ cListLayout cListLayout::ForLetter(int letter) const
     return layout;
 }
 
-std::optional<cListLayout> cListLayout::FromText(const QString& text, int columnCount, int oldCount)
+std::optional<cListLayout> cListLayout::FromText(const QString& text, int columnCount, const QList<int>& hidden)
 {
     cListLayout layout;
     const QStringList parts = text.split(u'|', Qt::SkipEmptyParts);
@@ -79,11 +79,9 @@ std::optional<cListLayout> cListLayout::FromText(const QString& text, int column
         }
         layout.Columns.push_back(*column);
     }
-    const auto count = static_cast<int>(layout.Columns.size());
-    if (oldCount > 0 && count >= oldCount && IsComplete(layout, count)) {
-        for (int column = count; column < columnCount; ++column) {
-            layout.Columns.push_back({column, 0, true});
-        }
+    // Columns that came with a newer program follow at the end.
+    for (int column = static_cast<int>(layout.Columns.size()); column < columnCount && column > 0; ++column) {
+        layout.Columns.push_back({column, 0, !hidden.contains(column)});
     }
     return IsComplete(layout, columnCount) ? std::optional(layout) : std::nullopt;
 }

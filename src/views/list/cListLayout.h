@@ -31,7 +31,8 @@ struct cListLayout
     // The same columns for letters of this width.
     [[nodiscard]] cListLayout ForLetter(int letter) const;
 
-    // Empty for a text that is not such a layout of exactly `columnCount` columns with one of them shown. With an
-    // `oldCount`, the text may be of a time when the list had only so many: later columns then follow at the end.
-    [[nodiscard]] static std::optional<cListLayout> FromText(const QString& text, int columnCount, int oldCount = 0);
+    // Empty for a text that is not such a layout of `columnCount` columns with one of them shown. Columns that it does
+    // not know yet follow at the end, `hidden` ones of them hidden.
+    [[nodiscard]] static std::optional<cListLayout> FromText(const QString& text, int columnCount,
+                                                             const QList<int>& hidden = {});
 };

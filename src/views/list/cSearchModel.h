@@ -54,6 +54,7 @@ public:
     // Choices, without the one for all of them.
     [[nodiscard]] QStringList Periods() const;
     [[nodiscard]] QStringList Accounts() const;
+    [[nodiscard]] QStringList Tags() const { return m_entries.KnownTags(); } // of what is in the list
     [[nodiscard]] QStringList Categories() const; // main categories before their sub-categories
     [[nodiscard]] modPeriod::cRange Days(const cFields& fields) const;
     [[nodiscard]] QDate Today() const;

@@ -12,6 +12,7 @@
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "model/modSettingKey.h"
+#include "model/modTag.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryDelete.h"
@@ -286,6 +287,18 @@ void cMainModel::TypeFilter(const QString& text)
         m_view.Filter = text;
         tmrRefreshList.start(0);
     }
+}
+
+void cMainModel::FilterByTag(const QString& tag)
+{
+    const bool isOn = modTag::Key(m_view.Filter.trimmed()) == modTag::Key(tag);
+    TypeFilter(isOn ? QString() : tag);
+    Q_EMIT ViewChanged();
+}
+
+QStringList cMainModel::Tags() const
+{
+    return m_entries.KnownTags();
 }
 
 void cMainModel::ShowFilter()

@@ -73,7 +73,9 @@ public:
     void ChooseAccount(const QString& account); // empty: all accounts
     void ChooseType(const QString& type);
     void ChooseGrouping(const QString& grouping);
-    void TypeFilter(const QString& text); // filters what is loaded, once typing pauses for an event loop turn
+    void TypeFilter(const QString& text);   // filters what is loaded, once typing pauses for an event loop turn
+    void FilterByTag(const QString& tag);   // for this tag alone; takes such a filter away again
+    [[nodiscard]] QStringList Tags() const; // of what is loaded, as they are written
     // Asks whether entries after today are to be shown, when the period holds nothing else. The caller refreshes.
     void OfferFuture(const QString& period);
     void ToggleView(const cSettingKey& key); // one of the five View... switches

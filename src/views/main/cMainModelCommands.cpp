@@ -70,6 +70,8 @@ bool cMainModel::Execute(int command)
     case modCommand::BackupSettings:
     case modCommand::Rules:
     case modCommand::BankLogins:
+    case modCommand::People:
+    case modCommand::Settlement:
     case modCommand::FetchTransactions:
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts:

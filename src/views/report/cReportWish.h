@@ -5,8 +5,8 @@
 #include <QDate>
 #include <QString>
 
-// The reports, in the order of the selector.
-enum class eReport { Average, Sum, Limit, Budget };
+// The reports, in the order of the selector; the numbers are stored.
+enum class eReport { Average, Sum, Limit, Budget, Tag };
 
 enum class eReportOrder { ByName, ByAmount };
 

@@ -1,6 +1,7 @@
 #include "views/report/modReport.h"
 
 #include "base/cText.h"
+#include "model/modTag.h"
 #include "model/modWord.h"
 
 #include <QCollator>
@@ -38,6 +39,7 @@ const std::array<cType, 4>& Types()
         cType{eReport::Sum, QT_TRANSLATE_NOOP("cText", "Summe aller Werte"), u"summe"_s},
         cType{eReport::Limit, QT_TRANSLATE_NOOP("cText", "Monatslimit"), u"limit"_s},
         cType{eReport::Budget, QT_TRANSLATE_NOOP("cText", "Budget"), u"budget"_s},
+        cType{eReport::Tag, QT_TRANSLATE_NOOP("cText", "Schlagwörter"), u"schlagwort"_s},
     };
     return types;
 }
@@ -89,6 +91,18 @@ QHash<cPath, cLimit> Limits(const cLimits& limits, const cReportBasis& basis)
     return found;
 }
 
+// The groups that an entry counts in when tags are the groups; the category stands whole below each of them.
+QStringList TagsOf(const cEntryItem& entry)
+{
+    QStringList tags = modTag::Of(entry.EntryDescription);
+    return tags.isEmpty() ? QStringList{modReport::NoTag} : tags;
+}
+
+cPath TagPath(const QString& tag, const cEntryItem& entry)
+{
+    return {modTag::Key(tag), entry.EntryCategory.isEmpty() ? noCategory : entry.EntryCategory};
+}
+
 // What lies on one category.
 struct cTotal
 {
@@ -110,10 +124,22 @@ class cSlots
 public:
     void Add(const cEntryItem& entry)
     {
-        cSlot& slot = m_slots[Find(entry.EntryCategory)];
-        cTotal& total = KindOf(entry) == eReportKind::Income ? slot.Income : slot.Expense;
-        total.Cents += entry.EntryValue;
-        ++total.Entries;
+        Add(entry, m_slots[Find(entry.EntryCategory)]);
+        Add(entry, m_whole);
+    }
+
+    // An entry counts in each of its tags, and once in the whole.
+    void AddByTag(const cEntryItem& entry)
+    {
+        const QStringList tags = TagsOf(entry);
+        for (const QString& tag : tags) {
+            const cPath path = TagPath(tag, entry);
+            Add(entry, m_slots[Find(path)]);
+            if (!m_labels.contains(path.Group)) {
+                m_labels.insert(path.Group, tag);
+            }
+        }
+        Add(entry, m_whole);
     }
 
     void AddLimits(const QHash<cPath, cLimit>& limits)
@@ -124,8 +150,17 @@ public:
     }
 
     [[nodiscard]] const std::vector<cSlot>& All() const { return m_slots; }
+    [[nodiscard]] const cSlot& Whole() const { return m_whole; } // every entry once
+    [[nodiscard]] const QHash<QString, QString>& Labels() const { return m_labels; }
 
 private:
+    static void Add(const cEntryItem& entry, cSlot& slot)
+    {
+        cTotal& total = KindOf(entry) == eReportKind::Income ? slot.Income : slot.Expense;
+        total.Cents += entry.EntryValue;
+        ++total.Entries;
+    }
+
     // Different texts may stand for the same category: none, and the word for none.
     std::size_t Find(const QString& text)
     {
@@ -151,6 +186,8 @@ private:
     std::vector<cSlot> m_slots;
     QHash<QString, std::size_t> m_byText;
     QHash<cPath, std::size_t> m_byPath;
+    QHash<QString, QString> m_labels; // tags by their keys, as they were written first
+    cSlot m_whole;
 };
 
 QString GroupLabel(const QString& group)
@@ -187,9 +224,20 @@ public:
         amount.Carried = limit.Carried;
         amount.Entries = total.Entries;
         cReportGroup& group = Group(path.Group);
-        group.Categories.append({path.Category, CategoryLabel(path), amount});
+        const QString label = m_type == eReport::Tag ? ShownCategory(path.Category) : CategoryLabel(path);
+        group.Categories.append({path.Category, label, amount});
         Sum(group.Amount, amount);
         Sum(m_section.Amount, amount);
+    }
+
+    // Where the lines are no parts of one whole.
+    void SetTags(const QHash<QString, QString>& labels, const cTotal& whole)
+    {
+        m_section.Amount = {0, whole.Cents, 0, whole.Entries};
+        for (cReportGroup& group : m_section.Groups) {
+            const bool isNone = group.Name == modReport::NoTag;
+            group.Label = isNone ? cText::Tr("ohne Schlagwort") : labels.value(group.Name);
+        }
     }
 
     [[nodiscard]] cReportSection Take(eReportOrder order)
@@ -209,6 +257,8 @@ public:
     }
 
 private:
+    static QString ShownCategory(const QString& path) { return path == noCategory ? cText::Tr("Keine Angabe") : path; }
+
     cReportGroup& Group(const QString& name)
     {
         const auto known = m_groups.constFind(name);
@@ -238,6 +288,9 @@ private:
     void Sort(QList<tLine>& lines, eReportOrder order, tName name) const
     {
         std::sort(lines.begin(), lines.end(), [&](const tLine& a, const tLine& b) {
+            if ((a.Name == modReport::NoTag) != (b.Name == modReport::NoTag)) {
+                return b.Name == modReport::NoTag; // what has no tag comes last
+            }
             if (order == eReportOrder::ByAmount && a.Amount.Cents != b.Amount.Cents) {
                 return a.Amount.Cents > b.Amount.Cents;
             }
@@ -274,6 +327,13 @@ void AddSlot(const cSlot& slot, cSectionBuilder& income, cSectionBuilder& expens
 bool IsBelow(const cPath& path, const cReportNode& node)
 {
     return (!node.Group || *node.Group == path.Group) && (!node.Category || *node.Category == path.Category);
+}
+
+bool IsBelowTag(const cEntryItem& entry, const cReportNode& node)
+{
+    const QStringList tags = TagsOf(entry);
+    return std::any_of(tags.begin(), tags.end(),
+                       [&](const QString& tag) { return IsBelow(TagPath(tag, entry), node); });
 }
 
 // From the first to the last month, both included.
@@ -324,7 +384,9 @@ cReportFigures modReport::Figures(const cEntryItemList& entries, const cLimits& 
     figures.Basis = Basis(wish, entries);
     cSlots totals;
     for (const cEntryItem& entry : entries) {
-        if (Counts(entry, wish)) {
+        if (Counts(entry, wish) && wish.Type == eReport::Tag) {
+            totals.AddByTag(entry);
+        } else if (Counts(entry, wish)) {
             totals.Add(entry);
         }
     }
@@ -339,6 +401,10 @@ cReportFigures modReport::Figures(const cEntryItemList& entries, const cLimits& 
         } else if (slot.Limit) {
             expense.Add(slot.Path, Spent(slot, wish.Spending), *slot.Limit);
         }
+    }
+    if (wish.Type == eReport::Tag) {
+        income.SetTags(totals.Labels(), totals.Whole().Income);
+        expense.SetTags(totals.Labels(), totals.Whole().Expense);
     }
     figures.Income = income.Take(wish.Order);
     figures.Expense = expense.Take(wish.Order);
@@ -376,6 +442,12 @@ cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReport
     cEntryItemList found;
     for (const cEntryItem& entry : entries) {
         if (!Counts(entry, wish) || (KindOf(entry) != node.Kind && !withRefunds)) {
+            continue;
+        }
+        if (wish.Type == eReport::Tag) {
+            if (IsBelowTag(entry, node)) {
+                found.append(entry);
+            }
             continue;
         }
         auto known = isBelow.constFind(entry.EntryCategory);
@@ -452,9 +524,23 @@ QString modReport::AmountTitle(eReport type)
 {
     switch (type) {
     case eReport::Average: return cText::Tr("Durchschnitt pro Monat");
-    case eReport::Sum: return cText::Tr("Summe");
+    case eReport::Sum:
+    case eReport::Tag: return cText::Tr("Summe");
     case eReport::Limit:
     case eReport::Budget: return cText::Tr("Ausgegeben");
     }
     return {};
+}
+
+QString modReport::GroupTitle(eReport type)
+{
+    return type == eReport::Tag ? cText::Tr("Schlagwort") : cText::Tr("Sparte");
+}
+
+QString modReport::Note(eReport type)
+{
+    return type == eReport::Tag
+        ? cText::Tr("Ein Eintrag mit mehreren Schlagwörtern zählt bei jedem davon, in den Summen "
+                    "der Einnahmen und Ausgaben nur einmal.")
+        : QString();
 }

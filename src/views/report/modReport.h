@@ -49,9 +49,17 @@ namespace modReport {
 // case.
 [[nodiscard]] std::optional<eReport> TypeByName(const QString& name);
 
+// In a report by tag, the group of entries without one; no tag is called so.
+inline const QString NoTag = QStringLiteral("#");
+
+// What has to be known of the sums of a report; empty where they are what everybody expects.
+[[nodiscard]] QString Note(eReport type);
+
 // "Einnahmen" or "Ausgaben" for the user.
 [[nodiscard]] QString ShownKind(eReportKind kind);
 // What the amounts of a report are, as the title of their column.
 [[nodiscard]] QString AmountTitle(eReport type);
+// What its groups are, in the same way.
+[[nodiscard]] QString GroupTitle(eReport type);
 
 } // namespace modReport

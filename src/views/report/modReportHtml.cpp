@@ -139,6 +139,8 @@ public:
             WriteResult();
             WriteSection(m_figures.Income, u"#006400"_s);
             WriteSection(m_figures.Expense, u"#880000"_s);
+            const QString note = modReport::Note(m_figures.Type);
+            m_html += note.isEmpty() ? QString() : QString(note.toHtmlEscaped() + u"<br><br>"_s);
             m_html += cText::Tr("Dieser Bericht wurde am {0} erstellt.", {modDate::ToText(m_wish.Today)})
                 + u"</div><br><br>"_s;
         }
@@ -166,6 +168,9 @@ private:
 // The year 9999 marks a period without end, for which days and year say nothing: the line is left out.
 QString cWriter::Explanation() const
 {
+    if (m_figures.Type == eReport::Tag) {
+        return cText::Tr("Einnahmen und Ausgaben nach den Wörtern mit # in den Beschreibungen.") + u"<br>"_s;
+    }
     if (m_figures.Type != eReport::Average) {
         return cText::Tr("Summe der Einnahmen und Ausgaben für den gewählten Zeitraum.") + u"<br>"_s;
     }

@@ -1,5 +1,6 @@
 #include "views/statement/cStagedOrder.h"
 
+#include "views/list/cListFilter.h"
 #include "views/statement/cStagedFilter.h"
 
 #include <QDate>
@@ -55,7 +56,7 @@ void cStagedOrder::Arrange(const fnKeys& keys, Qt::SortOrder order, Qt::SortOrde
 
 void cStagedOrder::SetWords(const QList<modFold::cFolded>& words)
 {
-    const bool isNarrower = modFold::IsNarrower(words, m_words);
+    const bool isNarrower = cListFilter::IsNarrower(words, m_words);
     m_words = words;
     Select(isNarrower ? m_order : m_all);
 }

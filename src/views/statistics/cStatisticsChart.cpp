@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kindCount = 11;
+constexpr int kindCount = 12;
 constexpr int mostForecast = 12; // months
 
 } // namespace
@@ -39,7 +39,8 @@ QStringList cStatisticsChart::Kinds()
             cText::Tr("Geldfluss"),
             cText::Tr("Jahreskalender der Ausgaben"),
             cText::Tr("Vermögen nach Konten"),
-            cText::Tr("Limits je Monat")};
+            cText::Tr("Limits je Monat"),
+            cText::Tr("Schlagwörter")};
 }
 
 void cStatisticsChart::Restore()

@@ -35,7 +35,9 @@ QString TitleOf(const cReportNode& node)
 {
     QStringList parts{modReport::ShownKind(node.Kind)};
     if (node.Group) {
-        parts.append(node.Group->isEmpty() ? cText::Tr("Sonstiges") : *node.Group);
+        parts.append(node.Group->isEmpty()                 ? cText::Tr("Sonstiges")
+                         : *node.Group == modReport::NoTag ? cText::Tr("ohne Schlagwort")
+                                                           : *node.Group);
     }
     if (node.Category) {
         parts.append(node.Category->isEmpty() ? cText::Tr("Sonstiges") : *node.Category);
@@ -60,6 +62,13 @@ std::function<cEntryItemList(const cEntryItemList&)> Picker(const cReportWish& w
                      [&](const cEntryItem& entry) { return modReport::NodeOf(entry, wish).has_value(); });
         return found;
     };
+}
+
+bool HasTags(const cReportFigures& figures)
+{
+    const auto isTag = [](const cReportGroup& group) { return group.Name != modReport::NoTag; };
+    return std::any_of(figures.Income.Groups.begin(), figures.Income.Groups.end(), isTag)
+        || std::any_of(figures.Expense.Groups.begin(), figures.Expense.Groups.end(), isTag);
 }
 
 template <typename tEnum>
@@ -100,7 +109,7 @@ cStatisticsModel::cStatisticsModel(const cBookTools& tools, const cParts& parts,
 void cStatisticsModel::Restore()
 {
     const cSettings& settings = m_tools.Settings;
-    m_type = Stored(settings, modSettingKey::StatisticsReport, eReport::Budget);
+    m_type = Stored(settings, modSettingKey::StatisticsReport, eReport::Tag);
     m_period.Restore(settings, reportPane, m_tools.Clock.Today());
     m_order = Stored(settings, modSettingKey::StatisticsOrder, eReportOrder::ByAmount);
     m_spending = Stored(settings, modSettingKey::StatisticsSpending, eReportSpending::Gross);
@@ -176,6 +185,10 @@ void cStatisticsModel::Refresh()
 
 QString cStatisticsModel::Hint() const
 {
+    if (m_type == eReport::Tag && !m_tree.Figures().IsUnread && !HasTags(m_tree.Figures())) {
+        return cText::Tr("Kein Eintrag dieses Zeitraums hat ein Schlagwort. Schreiben Sie eines mit # in die "
+                         "Beschreibung, etwa #urlaub.");
+    }
     return IsLimit() && !m_tree.Figures().IsUnread && m_tree.Figures().Expense.Groups.isEmpty()
         ? cText::Tr("Noch hat keine Kategorie ein Monatslimit. Sie legen eines unter „Extras“, „Kategorie/Konto "
                     "bearbeiten“ fest.")
@@ -329,7 +342,11 @@ void cStatisticsModel::ShowTarget(const cStatisticsChart& chart, const cChartTar
 
 void cStatisticsModel::EditCategory(const cReportNode& node)
 {
-    if (node.Group) {
+    if (m_type == eReport::Tag) {
+        if (node.Category) { // which stands whole below its tag
+            m_parts.Navigator.OpenTemplates(*node.Category);
+        }
+    } else if (node.Group) {
         m_parts.Navigator.OpenTemplates(modTemplate::Join(*node.Group, node.Category.value_or(QString())));
     }
 }

@@ -24,10 +24,18 @@ bool cNameKeepers::RenameAccount(const QString& oldName, const QString& newName)
 {
     const QList<cSettingKey> shown{modSettingKey::MainAccount, modSettingKey::StatisticsAccount};
     return cBankNumbers(m_data, m_settings).Move(oldName, newName)
-        && cOwnRules(m_settings).RenameAccount(oldName, newName)
+        && cOwnRules(m_settings).RenameAccount(oldName, newName) && MoveShares(oldName, newName)
         && std::all_of(shown.begin(), shown.end(), [&](const cSettingKey& key) {
                return m_settings.Get(key) != oldName || m_settings.Set(key, newName);
            });
+}
+
+bool cNameKeepers::MoveShares(const QString& oldName, const QString& newName)
+{
+    const cSettingKey before = modSettingKey::AccountShares.Of(oldName);
+    const QString shares = m_settings.Get(before);
+    return shares.isEmpty()
+        || (m_settings.Delete(before) && m_settings.Set(modSettingKey::AccountShares.Of(newName), shares));
 }
 
 bool cNameKeepers::RenameCategory(const QString& oldPath, const QString& newPath)

@@ -20,6 +20,8 @@ public:
     [[nodiscard]] bool RenameCategory(const QString& oldPath, const QString& newPath);
 
 private:
+    [[nodiscard]] bool MoveShares(const QString& oldName, const QString& newName); // who has what part in the account
+
     cDataAccess& m_data;
     cSettings& m_settings;
 };

@@ -7,6 +7,7 @@
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modBalance.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -327,9 +328,16 @@ bool cTemplateRemoval::RemoveAccount(const cTemplateItem& account, const QString
 {
     const QString name = account.TemplateName;
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' gelöscht", {name}));
-    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).ReleaseAll(name)
+    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).ReleaseAll(name) && DropShares(name)
         && (target.isEmpty() || MoveAccountEntries(name, target)) && m_tools.Data.DeleteTemplate(account.ID);
     return Finish(step.DoneIf(isWritten));
+}
+
+// Who had what part in an account that goes; the other one keeps its own.
+bool cTemplateRemoval::DropShares(const QString& account)
+{
+    const cSettingKey key = modSettingKey::AccountShares.Of(account);
+    return m_tools.Settings.Get(key).isEmpty() || m_tools.Settings.Delete(key);
 }
 
 bool cTemplateRemoval::MoveAccountEntries(const QString& source, const QString& target)
@@ -375,7 +383,7 @@ bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target
         return false;
     }
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' mit '{1}' zusammengeführt", {source, target}));
-    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).Move(source, target)
+    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).Move(source, target) && DropShares(source)
         && MoveAccountEntries(source, target) && (!account || m_tools.Data.DeleteTemplate(account->ID));
     return Finish(step.DoneIf(isWritten));
 }

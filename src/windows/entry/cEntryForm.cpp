@@ -50,6 +50,7 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       cboKonto(modChoice::Make(this, cText::Tr("bitte wählen"))),
       cboBuchungsart(modChoice::Make(this, cText::Tr("bitte wählen"))),
       cboNachKonto(modChoice::Make(this, cText::Tr("bitte wählen"))),
+      cboBezahltVon(new QComboBox(this)),
       cboInterval(modChoice::Make(this, modWord::Intervals().ToShown(modWord::Einmalig))),
       m_seriesRow(new QWidget(this)),
       EntryDateCheck(new QCheckBox(cText::Tr("endet a&m"), m_seriesRow)),
@@ -100,6 +101,7 @@ void cEntryForm::Build()
     }
     AddRow(cText::Tr("Buchungs&art:"), cboBuchungsart);
     AddRow(cText::Tr("&Nach Konto:"), cboNachKonto);
+    AddRow(cText::Tr("Bezah&lt von:"), cboBezahltVon);
     AddRow(cText::Tr("&Intervall:"), cboInterval);
     m_form->addRow(QString(), m_seriesRow);
     m_form->addRow(QString(), m_preview);
@@ -155,11 +157,18 @@ void cEntryForm::BuildSeries()
 
 void cEntryForm::OrderTabs()
 {
-    const QList<std::pair<QWidget*, QString>> named{
-        {txtBetrag, u"txtBetrag"_s},       {cboKategorie, u"cboKategorie"_s}, {txtBeschreibung, u"txtBeschreibung"_s},
-        {EntryDate, u"EntryDate"_s},       {cboKonto, u"cboKonto"_s},         {cboBuchungsart, u"cboBuchungsart"_s},
-        {cboNachKonto, u"cboNachKonto"_s}, {cboInterval, u"cboInterval"_s},   {EntryDateCheck, u"EntryDateCheck"_s},
-        {EntryDateEnd, u"EntryDateEnd"_s}, {m_cancelBy, u"txtKuendbar"_s}};
+    const QList<std::pair<QWidget*, QString>> named{{txtBetrag, u"txtBetrag"_s},
+                                                    {cboKategorie, u"cboKategorie"_s},
+                                                    {txtBeschreibung, u"txtBeschreibung"_s},
+                                                    {EntryDate, u"EntryDate"_s},
+                                                    {cboKonto, u"cboKonto"_s},
+                                                    {cboBuchungsart, u"cboBuchungsart"_s},
+                                                    {cboNachKonto, u"cboNachKonto"_s},
+                                                    {cboBezahltVon, u"cboBezahltVon"_s},
+                                                    {cboInterval, u"cboInterval"_s},
+                                                    {EntryDateCheck, u"EntryDateCheck"_s},
+                                                    {EntryDateEnd, u"EntryDateEnd"_s},
+                                                    {m_cancelBy, u"txtKuendbar"_s}};
     for (qsizetype i = 0; i < named.size(); ++i) {
         named.at(i).first->setObjectName(named.at(i).second);
         if (i > 0) {
@@ -211,6 +220,17 @@ void cEntryForm::Connect()
     connect(EntryDateEnd, &QLineEdit::textChanged, this, &cEntryForm::ShowSeries);
 }
 
+void cEntryForm::OfferPayers(const cEntryFields& fields)
+{
+    const QStringList payers = m_editor.Payers(fields);
+    cboBezahltVon->clear();
+    cboBezahltVon->addItem(cText::Tr("niemand Bestimmtem"), QString());
+    for (const QString& payer : payers) {
+        cboBezahltVon->addItem(payer, payer);
+    }
+    cboBezahltVon->setCurrentIndex(cboBezahltVon->findData(fields.Payer));
+}
+
 void cEntryForm::Show(const cEntryFields& fields)
 {
     m_fields = fields;
@@ -222,6 +242,7 @@ void cEntryForm::Show(const cEntryFields& fields)
     modChoice::Choose(*cboKonto, fields.Account);
     modChoice::Choose(*cboBuchungsart, fields.Type);
     modChoice::Choose(*cboNachKonto, fields.Target);
+    OfferPayers(fields);
     modChoice::Choose(*cboInterval, fields.Interval);
     EntryDateCheck->setChecked(fields.HasEnd);
     EntryDateEnd->setEnabled(fields.HasEnd);
@@ -244,6 +265,7 @@ cEntryFields cEntryForm::Read() const
     fields.Account = cboKonto->currentData().toString();
     fields.Type = cboBuchungsart->currentData().toString();
     fields.Target = cboNachKonto->currentData().toString();
+    fields.Payer = cboBezahltVon->currentData().toString();
     fields.Interval = cboInterval->currentData().toString();
     fields.HasEnd = EntryDateCheck->isChecked();
     fields.End = fields.HasEnd ? EntryDateEnd->Day() : QDate();
@@ -278,6 +300,8 @@ void cEntryForm::ShowFace()
     m_form->setRowVisible(txtBeschreibung, face == eEntryFace::Normal); // a start balance has one of its own
     m_form->setRowVisible(cboBuchungsart, face != eEntryFace::StartBalance);
     m_form->setRowVisible(cboInterval, face != eEntryFace::StartBalance);
+    // A book of one person has nobody to choose from.
+    m_form->setRowVisible(cboBezahltVon, face != eEntryFace::StartBalance && cboBezahltVon->count() > 1);
     m_split->setVisible(face == eEntryFace::Split);
     m_form->setRowVisible(m_receipts, face != eEntryFace::StartBalance);
     ShowTarget();

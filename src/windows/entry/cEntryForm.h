@@ -52,6 +52,7 @@ private:
     void AddRow(const QString& text, QWidget* field);
     void AddShortRow(const QString& text, QWidget* field);
     void Offer(); // fills the choices
+    void OfferPayers(const cEntryFields& fields);
     void Connect();
     void OrderTabs();
     void ShowFace();
@@ -79,6 +80,7 @@ private:
     QComboBox* cboKonto;
     QComboBox* cboBuchungsart;
     QComboBox* cboNachKonto;
+    QComboBox* cboBezahltVon;
     QComboBox* cboInterval;
     QWidget* m_seriesRow;
     QCheckBox* EntryDateCheck;

@@ -1,7 +1,77 @@
 #include "windows/main/cEntryDelegate.h"
 
 #include "views/list/cEntryListModel.h"
+#include "windows/main/modTagText.h"
 #include "windows/widget/modIcon.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+
+#include <utility>
+
+namespace {
+
+bool HasLabels(const QModelIndex& index)
+{
+    return index.column() == cEntryListModel::Description && !index.data(cEntryListModel::GroupRole).toBool()
+        && modTagText::HasTags(index.data().toString());
+}
+
+const QStyle& StyleOf(const QStyleOptionViewItem& option)
+{
+    return option.widget != nullptr ? *option.widget->style() : *QApplication::style();
+}
+
+// Where the style draws the text of a cell.
+QRect TextRect(const QStyleOptionViewItem& option)
+{
+    const QStyle& style = StyleOf(option);
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    return style.subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget).adjusted(margin, 0, -margin, 0);
+}
+
+} // namespace
+
+void cEntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (!HasLabels(index)) {
+        cRowDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QRect rect = TextRect(cell);
+    const QString text = std::exchange(cell.text, QString());
+    StyleOf(cell).drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->setFont(cell.font);
+    modTagText::Paint(*painter, rect, text, cell.palette,
+                      isSelected ? modTagText::eLook::Selected : modTagText::eLook::Usual);
+    painter->restore();
+}
+
+bool cEntryDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index)
+{
+    const bool isClick = event->type() == QEvent::MouseButtonRelease && HasLabels(index);
+    if (isClick) {
+        const auto& mouse = static_cast<const QMouseEvent&>(*event);
+        const bool isPlain = mouse.button() == Qt::LeftButton && mouse.modifiers() == Qt::NoModifier;
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QString tag = modTagText::TagAt(mouse.position().toPoint(), TextRect(cell), cell.text, cell.font);
+        if (isPlain && !tag.isEmpty()) {
+            // The list is still at work with the row, which the filter may take away.
+            QMetaObject::invokeMethod(
+                this, [this, tag] { Q_EMIT TagClicked(tag); }, Qt::QueuedConnection);
+            return true;
+        }
+    }
+    return cRowDelegate::editorEvent(event, model, option, index);
+}
 
 void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {

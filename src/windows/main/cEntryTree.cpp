@@ -23,10 +23,11 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{
-    {14, eKind::Day}, {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount}, {16, eKind::Amount}, {7, eKind::Text, 6}};
+const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},    {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount},
+                                               {16, eKind::Amount}, {7, eKind::Text, 6}, {24}, {18}};
 
-constexpr int firstColumns = cEntryListModel::Receipts; // the list had no more when layouts were first stored
+// Tags stand in the description already, and most books have one payer.
+const QList<int> hiddenAtFirst{cEntryListModel::Tags, cEntryListModel::Payer};
 
 } // namespace
 
@@ -35,7 +36,9 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
     // Before the base class hears of it and forgets which line stands where.
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
     setModel(&m_model);
-    setItemDelegate(new cEntryDelegate(this));
+    auto* delegate = new cEntryDelegate(this);
+    setItemDelegate(delegate);
+    connect(delegate, &cEntryDelegate::TagClicked, this, &cEntryTree::TagClicked);
     setRootIsDecorated(false); // heads of groups draw their own arrow, so that the dates stay in line
     setIndentation(0);
     setUniformRowHeights(true);
@@ -66,7 +69,9 @@ cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(pare
 void cEntryTree::SetDefaultLayout()
 {
     m_fit->SetLayout(std::nullopt);
-    m_isShown.fill(true);
+    for (int column = 0; column < cEntryListModel::ColumnCount; ++column) {
+        m_isShown.at(static_cast<std::size_t>(column)) = !hiddenAtFirst.contains(column);
+    }
     ShowColumns();
     sortByColumn(cEntryListModel::Date, Qt::AscendingOrder);
 }
@@ -98,7 +103,7 @@ QString cEntryTree::LayoutText() const
 void cEntryTree::SetLayoutText(const QString& text)
 {
     SetDefaultLayout();
-    const std::optional<cListLayout> layout = cListLayout::FromText(text, cEntryListModel::ColumnCount, firstColumns);
+    const std::optional<cListLayout> layout = cListLayout::FromText(text, cEntryListModel::ColumnCount, hiddenAtFirst);
     if (!layout) {
         return;
     }

@@ -37,6 +37,7 @@ public:
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups
 
 Q_SIGNALS:
+    void TagClicked(const QString& tag); // on its label
     void SelectionKeysChanged(const QList<cEntryListModel::cKey>& keys);
     void CellWritten(); // what was typed in a cell is stored, and the list has to be read again
 

@@ -7,6 +7,7 @@
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/modBadField.h"
 #include "windows/widget/modDayRange.h"
+#include "windows/widget/modProposal.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -96,6 +97,7 @@ void cSearchFields::Build()
 {
     m_text->setPlaceholderText(cText::Tr("Wörter, Teile von Wörtern, Betrag oder Datum"));
     m_text->setClearButtonEnabled(true);
+    modProposal::AddTags(*m_text, [this] { return m_model.Tags(); });
     m_category->setEditable(true);
     m_category->setInsertPolicy(QComboBox::NoInsert);
     m_category->completer()->setFilterMode(Qt::MatchContains);
@@ -246,6 +248,12 @@ void cSearchFields::Clear()
     ShowFields();
     Q_EMIT Chosen();
     StartTyping();
+}
+
+void cSearchFields::ShowText(const QString& text)
+{
+    m_text->setText(text);
+    Q_EMIT Chosen();
 }
 
 void cSearchFields::StartTyping()

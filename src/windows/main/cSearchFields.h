@@ -21,7 +21,8 @@ public:
 
     void Offer(); // fills the choices anew, keeping what is chosen
     void Clear();
-    void StartTyping(); // focus on the text, marked, so that typing replaces it
+    void ShowText(const QString& text); // as if it had been typed in place of what stands there
+    void StartTyping();                 // focus on the text, marked, so that typing replaces it
     [[nodiscard]] cSearchModel::cFields Read() const;
 
 Q_SIGNALS:

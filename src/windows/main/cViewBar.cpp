@@ -6,6 +6,7 @@
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/modDayRange.h"
+#include "windows/widget/modProposal.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -72,6 +73,8 @@ void cViewBar::Build()
     grid->AddField(cText::Tr("&Gruppierung:"), m_grouping);
     grid->AddField(cText::Tr("&Filter:"), m_filter);
     m_filter->setClearButtonEnabled(true);
+    m_filter->setToolTip(cText::Tr("Auch ein Schlagwort, etwa #urlaub"));
+    modProposal::AddTags(*m_filter, [this] { return m_model.Tags(); });
     m_filter->setPlaceholderText(cText::Tr("Text, Kategorie oder Betrag"));
     connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_filter, &QLineEdit::clear);

@@ -199,6 +199,7 @@ void frmMain::Connect()
     connect(&m_model, &cMainModel::SelectionChanged, this, &frmMain::ShowCommands);
     connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
+    connect(m_tree, &cEntryTree::TagClicked, &m_model, &cMainModel::FilterByTag);
     connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
     connect(m_tree, &cEntryTree::CellWritten, &m_model, &cMainModel::CellWritten);
     connect(&m_model, &cMainModel::RowsMade, m_tree, &cEntryTree::Select);

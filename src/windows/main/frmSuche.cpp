@@ -92,6 +92,7 @@ void frmSuche::Connect()
     connect(m_fields, &cSearchFields::Left, this, &frmSuche::GoToList);
     connect(&m_model, &cSearchModel::Found, this, &frmSuche::ShowFound);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, this, &frmSuche::ShowButtons);
+    connect(m_tree, &cEntryTree::TagClicked, m_fields, &cSearchFields::ShowText);
     connect(m_tree, &QTreeView::doubleClicked, this, &frmSuche::Edit);
     auto* drop = new cReceiptDrop(*m_tree, m_model.Entries());
     connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmSuche::ReceiptsDropped);

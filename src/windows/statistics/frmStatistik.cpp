@@ -79,7 +79,7 @@ frmStatistik::frmStatistik(cStatisticsModel& model, QWidget* parent)
 
 QWidget* frmStatistik::BuildSelectors()
 {
-    for (const eReport type : {eReport::Average, eReport::Sum, eReport::Limit, eReport::Budget}) {
+    for (const eReport type : {eReport::Average, eReport::Sum, eReport::Limit, eReport::Budget, eReport::Tag}) {
         m_type->addItem(modReport::ShownName(type), static_cast<int>(type));
     }
     auto* page = new QWidget(this);

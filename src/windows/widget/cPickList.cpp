@@ -15,6 +15,8 @@ namespace {
 constexpr int mostRows = 12;
 constexpr int noteRole = Qt::UserRole;
 constexpr int offerRole = Qt::UserRole + 1;
+constexpr int lineRole = Qt::UserRole + 2;
+constexpr int cursorRole = Qt::UserRole + 3;
 constexpr int gap = 12; // between text and note
 
 // Draws the note at the right end of the line.
@@ -40,6 +42,12 @@ public:
                           index.data(noteRole).toString());
     }
 };
+
+// What the field holds once the proposal is taken.
+QString LineWith(const cPickRow& row)
+{
+    return row.Cursor < 0 ? row.Text : row.Line;
+}
 
 } // namespace
 
@@ -68,7 +76,7 @@ void cPickList::Open(const QString& typed)
 {
     const QList<cPickRow> rows = m_rows(typed);
     // A single proposal that says what stands there already is no help.
-    const bool isUseful = rows.size() > 1 || (rows.size() == 1 && rows.first().Text != m_edit.text());
+    const bool isUseful = rows.size() > 1 || (rows.size() == 1 && LineWith(rows.first()) != m_edit.text());
     if (!isUseful || !m_field.hasFocus()) {
         hide();
         return;
@@ -85,9 +93,11 @@ void cPickList::Fill(const QList<cPickRow>& rows)
         auto* item = new QStandardItem(row.Text);
         item->setData(row.Note, noteRole);
         item->setData(row.IsOffer, offerRole);
+        item->setData(row.Line, lineRole);
+        item->setData(row.Cursor, cursorRole);
         m_items->appendRow(item);
     }
-    const bool isFirst = m_chosen == eChosen::FirstRow && !rows.first().IsOffer;
+    const bool isFirst = rows.first().IsMeant || (m_chosen == eChosen::FirstRow && !rows.first().IsOffer);
     setCurrentIndex(isFirst ? m_items->index(0, 0) : QModelIndex());
     scrollToTop();
 }
@@ -108,6 +118,11 @@ void cPickList::Take(const QModelIndex& index)
     hide();
     if (index.data(offerRole).toBool()) {
         Q_EMIT Offered();
+        return;
+    }
+    if (const int cursor = index.data(cursorRole).toInt(); cursor >= 0) {
+        m_edit.setText(index.data(lineRole).toString());
+        m_edit.setCursorPosition(cursor);
         return;
     }
     m_edit.setText(text);

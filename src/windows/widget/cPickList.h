@@ -15,6 +15,10 @@ struct cPickRow
     QString Text;
     QString Note;
     bool IsOffer = false; // not a text for the field but something to be done; it has to be chosen by hand
+    // Where the proposal is only a word of the line: what the field holds with it, and the cursor behind it.
+    QString Line{};
+    int Cursor = -1;
+    bool IsMeant = false; // chosen at once, as eChosen::FirstRow does; only the first row
 };
 
 // The list of proposals below a text field. It follows the typing and is used from the keyboard: Down opens it, Up and

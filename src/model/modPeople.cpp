@@ -1,0 +1,128 @@
+#include "model/modPeople.h"
+
+#include "model/modFlags.h"
+
+#include <QUrl>
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString mark = u"zahler"_s;
+
+// Names hold no ";" and "=" of the texts around them.
+QString Encoded(const QString& name)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(name));
+}
+
+QString Decoded(const QString& text)
+{
+    return QUrl::fromPercentEncoding(text.toLatin1());
+}
+
+} // namespace
+
+QString modPeople::Payer(const cEntryItem& entry)
+{
+    return entry.EntryFlags.isEmpty() ? QString() : Decoded(modFlags::Get(entry.EntryFlags, mark));
+}
+
+void modPeople::SetPayer(cEntryItem& entry, const QString& name)
+{
+    entry.EntryFlags = modFlags::Set(entry.EntryFlags, mark, Encoded(name));
+}
+
+QString modPeople::ToText(const cShares& shares)
+{
+    QStringList parts;
+    for (const cShare& share : shares) {
+        parts.append(Encoded(share.Person) + u'=' + QString::number(share.Part));
+    }
+    return parts.join(u';');
+}
+
+modPeople::cShares modPeople::SharesOf(const QString& text)
+{
+    cShares shares;
+    const QStringList parts = text.split(u';', Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        const int number = part.section(u'=', 1).toInt();
+        if (number > 0) {
+            shares.append({Decoded(part.section(u'=', 0, 0)), number});
+        }
+    }
+    return shares;
+}
+
+QString modPeople::ToText(const QStringList& names)
+{
+    QStringList parts;
+    for (const QString& name : names) {
+        parts.append(Encoded(name));
+    }
+    return parts.join(u';');
+}
+
+QStringList modPeople::NamesOf(const QString& text)
+{
+    QStringList names;
+    const QStringList parts = text.split(u';', Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        names.append(Decoded(part));
+    }
+    return names;
+}
+
+modPeople::cShares modPeople::Equal(const QStringList& names)
+{
+    cShares shares;
+    for (const QString& name : names) {
+        shares.append({name, 1});
+    }
+    return shares;
+}
+
+QString modPeople::OwnerOf(const cShares& shares)
+{
+    return shares.size() == 1 ? shares.constFirst().Person : QString();
+}
+
+modPeople::cShares modPeople::Renamed(const cShares& shares, const QString& oldName, const QString& newName)
+{
+    cShares renamed = shares;
+    renamed.removeIf([&](const cShare& share) { return share.Person == oldName && newName.isEmpty(); });
+    for (cShare& share : renamed) {
+        share.Person = share.Person == oldName ? newName : share.Person;
+    }
+    return renamed;
+}
+
+QList<qint64> modPeople::Split(qint64 cents, const cShares& shares)
+{
+    qint64 whole = 0;
+    for (const cShare& share : shares) {
+        whole += share.Part;
+    }
+    QList<qint64> parts(shares.size(), 0);
+    if (whole <= 0) {
+        return parts;
+    }
+    const qint64 sign = cents < 0 ? -1 : 1;
+    qint64 left = std::abs(cents);
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        parts[i] = std::abs(cents) * shares.at(i).Part / whole;
+        left -= parts.at(i);
+    }
+    for (qsizetype i = 0; left > 0; i = (i + 1) % parts.size()) {
+        if (shares.at(i).Part > 0) {
+            ++parts[i];
+            --left;
+        }
+    }
+    std::for_each(parts.begin(), parts.end(), [sign](qint64& part) { part *= sign; });
+    return parts;
+}

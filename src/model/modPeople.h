@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/cEntryItem.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+// The people of a household: who paid an entry, and who has what share in an account.
+namespace modPeople {
+
+// Who paid an entry; empty where nobody is named.
+[[nodiscard]] QString Payer(const cEntryItem& entry);
+void SetPayer(cEntryItem& entry, const QString& name);
+
+// The part that one person has. Only the proportion of the numbers counts; as typed they are per cent.
+struct cShare
+{
+    QString Person;
+    int Part = 0;
+    bool operator==(const cShare&) const = default;
+};
+using cShares = QList<cShare>;
+
+// Shares and names as they are stored in a setting. What cannot be read is left out.
+[[nodiscard]] QString ToText(const cShares& shares);
+[[nodiscard]] cShares SharesOf(const QString& text);
+[[nodiscard]] QString ToText(const QStringList& names);
+[[nodiscard]] QStringList NamesOf(const QString& text);
+
+// Everybody the same.
+[[nodiscard]] cShares Equal(const QStringList& names);
+
+// The one to whom all of it belongs; empty when there are several.
+[[nodiscard]] QString OwnerOf(const cShares& shares);
+
+// The shares with another name in them, or without one for an empty name.
+[[nodiscard]] cShares Renamed(const cShares& shares, const QString& oldName, const QString& newName);
+
+// Cents by shares, one number for each. The cents that are left over go one by one to the first that have a share.
+[[nodiscard]] QList<qint64> Split(qint64 cents, const cShares& shares);
+
+} // namespace modPeople

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "model/modPeople.h"
+#include "views/people/modSettlement.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class cDataAccess;
+struct cBookTools;
+
+// The people of the open book with their shares. What changes them is one undo step each, with the marks of the
+// entries.
+class cPeople
+{
+public:
+    explicit cPeople(const cBookTools& tools) : m_tools(tools) {}
+
+    [[nodiscard]] QStringList Names() const;
+    [[nodiscard]] bool HasAny() const { return !Names().isEmpty(); }
+    [[nodiscard]] QStringList Accounts() const;
+
+    // What is set for an account, or for an empty name for what all share; nothing when nothing is.
+    [[nodiscard]] modPeople::cShares Stored(const QString& account) const;
+    // What counts: else that of all, else everybody the same.
+    [[nodiscard]] modPeople::cShares SharesOf(const QString& account) const;
+    // As a person reads them: "Anna 60 %, Ben 40 %", "Anna".
+    [[nodiscard]] static QString SharesText(const modPeople::cShares& shares);
+
+    // These show what is wrong and return false.
+    bool Add(const QString& name);
+    bool Rename(const QString& oldName, const QString& newName);
+    bool Remove(const QString& name); // asks before
+    // Percentages as typed, in the order of the names, all empty for nothing set. They are stored once they come to
+    // 100; until then what is wrong with them, else an empty text.
+    QString TakeShares(const QString& account, const QStringList& percents);
+    // Of two people the other one has the rest; the percentages with it.
+    [[nodiscard]] static QStringList WithRest(QStringList percents, qsizetype typed);
+    // Whether the window may be closed while rows are not stored, with what is wrong with them.
+    [[nodiscard]] bool MayLeave(const QStringList& wrong) const;
+
+    // How many entries name the person as payer; a series counts once.
+    [[nodiscard]] qsizetype CountOf(const QString& name) const;
+
+    // Who owes whom for what happened in the days up to today.
+    [[nodiscard]] cSettlement Settlement(const modPeriod::cRange& range) const;
+
+private:
+    bool Refuse(const QString& text) const;
+    [[nodiscard]] std::optional<QString> Wrong(const QString& name, const QString& except) const;
+    [[nodiscard]] QList<int> EntriesOf(const QString& name) const;
+    [[nodiscard]] bool Replace(const QString& oldName, const QString& newName);
+    [[nodiscard]] bool Store(const QString& account, const modPeople::cShares& shares);
+
+    const cBookTools& m_tools;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "views/people/cPeople.h"
+#include "views/statistics/cStatisticsPeriod.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+
+struct cBookTools;
+
+// The window of the settlement without its widgets: its period, its report, and what is saved of it.
+class cSettlementModel
+{
+public:
+    explicit cSettlementModel(const cBookTools& tools);
+
+    void Refresh(); // after the people have changed
+    void ChoosePeriod(const QString& name);
+    void ChooseFirstMonth(int month);
+    void ChooseLastMonth(int month);
+    void ChooseYear(int year);
+    [[nodiscard]] const cStatisticsPeriod& Period() const { return m_period; }
+    [[nodiscard]] modPeriod::cRange Range() const;
+
+    [[nodiscard]] const QString& Html() const { return m_html; }
+    [[nodiscard]] QString Hint() const; // what has to be done before there is anything to see; none: nothing
+
+    // Ask for a file. `paint` makes a PDF of a report, no bytes on failure. The ending decides between page and table.
+    using fnPaintPdf = std::function<QByteArray(const QString& html)>;
+    void SavePdf(const fnPaintPdf& paint);
+    void SaveFile();
+
+private:
+    void Changed();
+    void Save(const QString& title, const QString& filter, const std::function<QByteArray(const QString&)>& bytes);
+
+    const cBookTools& m_tools;
+    cStatisticsPeriod m_period;
+    cSettlement m_settlement;
+    QString m_html;
+};

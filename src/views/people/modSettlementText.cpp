@@ -1,0 +1,152 @@
+#include "views/people/modSettlementText.h"
+
+#include "base/cText.h"
+#include "base/modDate.h"
+#include "core/cAmountFormat.h"
+#include "model/modWord.h"
+#include "views/chart/modChart.h"
+#include "views/export/modCsv.h"
+#include "views/list/cEntryFilter.h"
+#include "views/list/modUnread.h"
+#include "views/people/cPeople.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+enum class eCell { Text, Money };
+
+QString Cell(const QString& text, eCell cell, const QString& tag)
+{
+    const QString align = cell == eCell::Money ? u"right"_s : u"left"_s;
+    const QString wrap = cell == eCell::Money ? u" white-space: nowrap;"_s : QString();
+    return u"<%1 style=\"text-align: %2; vertical-align: top; padding: 3px 16px 3px 0px;%3\">%4</%1>"_s.arg(
+        tag, align, wrap, text.toHtmlEscaped());
+}
+
+// Rows of texts below their titles; `money` says which columns are amounts.
+class cHtmlTable
+{
+public:
+    cHtmlTable(const QStringList& titles, const QList<eCell>& cells) : m_cells(cells) { Add(titles, u"th"_s); }
+
+    void Add(const QStringList& texts, const QString& tag = u"td"_s)
+    {
+        m_html += u"<tr>"_s;
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            m_html += Cell(texts.at(i), m_cells.at(i), tag);
+        }
+        m_html += u"</tr>"_s;
+    }
+
+    [[nodiscard]] QString Take() const
+    {
+        return u"<table style=\"border-collapse: collapse;\">"_s + m_html + u"</table>"_s;
+    }
+
+private:
+    QList<eCell> m_cells;
+    QString m_html;
+};
+
+QString Title(const QString& text)
+{
+    return u"<h2 style=\"font-size: 14px;\">"_s + text.toHtmlEscaped() + u"</h2>"_s;
+}
+
+QString Payments(const cSettlement& settlement, const cAmountFormat& format)
+{
+    if (settlement.Payments.isEmpty()) {
+        const QString text = settlement.Counted.isEmpty()
+            ? cText::Tr("In diesem Zeitraum ist bei keinem Eintrag vermerkt, wer bezahlt hat.")
+            : cText::Tr("Es ist alles ausgeglichen.");
+        return u"<p>"_s + text.toHtmlEscaped() + u"</p>"_s;
+    }
+    cHtmlTable table({cText::Tr("Wer"), cText::Tr("An wen"), cText::Tr("Betrag")},
+                     {eCell::Text, eCell::Text, eCell::Money});
+    for (const cPayment& payment : settlement.Payments) {
+        table.Add({payment.From, payment.To, format.Cents(payment.Cents)});
+    }
+    return table.Take();
+}
+
+QString People(const cSettlement& settlement, const cAmountFormat& format)
+{
+    cHtmlTable table({cText::Tr("Person"), cText::Tr("Bezahlt"), cText::Tr("Zu tragen"),
+                      cText::Tr("Schon ausgeglichen"), cText::Tr("Bleibt")},
+                     {eCell::Text, eCell::Money, eCell::Money, eCell::Money, eCell::Money});
+    for (const cPersonSum& person : settlement.People) {
+        table.Add({person.Name, format.Cents(person.Paid), format.Cents(person.Borne), format.Cents(person.Settled),
+                   format.Cents(person.Balance())});
+    }
+    return table.Take();
+}
+
+QString TextOf(const cEntryItem& entry)
+{
+    return entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
+}
+
+// With the sign under which it counts.
+qint64 CentsOf(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
+}
+
+QString Counted(const cSettlement& settlement, const cAmountFormat& format)
+{
+    cHtmlTable table({cText::Tr("Datum"), cText::Tr("Beschreibung"), cText::Tr("Konto"), cText::Tr("Bezahlt von"),
+                      cText::Tr("Getragen von"), cText::Tr("Betrag")},
+                     {eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Money});
+    for (const cCountedEntry& counted : settlement.Counted) {
+        table.Add({modDate::ToText(counted.Entry.EntryDate), TextOf(counted.Entry),
+                   cEntryFilter::AccountText(counted.Entry), counted.Payer, cPeople::SharesText(counted.Shares),
+                   format.Cents(CentsOf(counted.Entry))});
+    }
+    return table.Take();
+}
+
+} // namespace
+
+QString modSettlementText::Heading(const cSettlement& settlement)
+{
+    return cText::Tr("Ausgleich {0}", {modChart::RangeText(settlement.Range)});
+}
+
+QString modSettlementText::Html(const cSettlement& settlement, const cAmountFormat& format, QDate today)
+{
+    const QString head = u"<div style=\"margin: 20px; margin-left: 21px;\"><h1 style=\"font-size: 16px;\">"_s
+        + Heading(settlement).toHtmlEscaped() + u"</h1>"_s;
+    if (settlement.IsUnread) {
+        return head + modUnread::Title().toHtmlEscaped() + u".<br>"_s + modUnread::Hint().toHtmlEscaped() + u"</div>"_s;
+    }
+    QString html = head + Title(cText::Tr("Wer zahlt wem")) + Payments(settlement, format);
+    if (!settlement.Counted.isEmpty()) {
+        html += Title(cText::Tr("Wer hat was bezahlt und zu tragen")) + People(settlement, format)
+            + Title(cText::Tr("Was gezählt wurde")) + Counted(settlement, format);
+    }
+    return html + u"<p>"_s + cText::Tr("Dieser Bericht wurde am {0} erstellt.", {modDate::ToText(today)})
+        + u"</p></div>"_s;
+}
+
+QString modSettlementText::Page(const cSettlement& settlement, const cAmountFormat& format, QDate today)
+{
+    return u"<!DOCTYPE html>\n<html lang=\"de\"><head><meta charset=\"utf-8\"><title>"_s
+        + Heading(settlement).toHtmlEscaped()
+        + u"</title><style>body{font-family:sans-serif;font-size:13px}</style></head><body>\n"_s
+        + Html(settlement, format, today) + u"\n</body></html>\n"_s;
+}
+
+QByteArray modSettlementText::Csv(const cSettlement& settlement)
+{
+    QByteArray bytes = modCsv::Mark
+        + modCsv::Line({cText::Tr("Datum"), cText::Tr("Beschreibung"), cText::Tr("Konto"), cText::Tr("Bezahlt von"),
+                        cText::Tr("Getragen von"), cText::Tr("Betrag")});
+    for (const cCountedEntry& counted : settlement.Counted) {
+        bytes +=
+            modCsv::Line({modDate::ToText(counted.Entry.EntryDate), modCsv::Text(TextOf(counted.Entry)),
+                          modCsv::Text(cEntryFilter::AccountText(counted.Entry)), modCsv::Text(counted.Payer),
+                          modCsv::Text(cPeople::SharesText(counted.Shares)), modCsv::Money(CentsOf(counted.Entry))});
+    }
+    return bytes;
+}

@@ -1,0 +1,71 @@
+#include "model/modTag.h"
+#include "support/cTestClass.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+// What is a tag in a description, and what only looks like one.
+class testTag final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Found_data();
+    void Found();
+    void SameInAnySpelling();
+    void Typed_data();
+    void Typed();
+};
+
+void testTag::Found_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("tags");
+    QTest::newRow("words") << u"#urlaub Hotel #Kinder_2 am Meer"_s << u"#urlaub #Kinder_2"_s;
+    QTest::newRow("umlauts") << u"Grundgebühr #Müll-Abfuhr"_s << u"#Müll-Abfuhr"_s;
+    QTest::newRow("digits with a letter") << u"#2026urlaub"_s << u"#2026urlaub"_s;
+    QTest::newRow("numbers") << u"Rechnung #1, Los #2026-11, #"_s << u""_s;
+    QTest::newRow("inside words and addresses") << u"C# und a#b, https://x.de/#oben, ##doppelt"_s << u""_s;
+    QTest::newRow("between punctuation") << u"(#auto), \"#haus\": #boot! #rad-"_s << u"#auto #haus #boot #rad"_s;
+    QTest::newRow("each once") << u"#Auto #auto #AUTO"_s << u"#Auto"_s;
+    QTest::newRow("one behind the other") << u"#eins#zwei"_s << u"#eins"_s;
+    QTest::newRow("nothing but marks") << u"#- #_ #-1"_s << u""_s;
+}
+
+void testTag::Found()
+{
+    QFETCH(QString, text);
+    QTEST(modTag::Of(text).join(u' '), "tags");
+}
+
+void testTag::SameInAnySpelling()
+{
+    QCOMPARE(modTag::Key(u"#MÜLL"_s), modTag::Key(u"#muell"_s));
+    QVERIFY(modTag::Key(u"#mull"_s) != modTag::Key(u"#müll"_s));
+    QCOMPARE(modTag::Keys(u"#Straße #strasse"_s), QStringList{u"#strasse"_s});
+}
+
+void testTag::Typed_data()
+{
+    QTest::addColumn<QString>("text"); // "|" is the cursor
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("at the end") << u"Hotel #ur|"_s << u"#ur"_s;
+    QTest::newRow("mark alone") << u"#|"_s << u"#"_s;
+    QTest::newRow("in the middle") << u"Hotel #ur| am Meer"_s << u"#ur"_s;
+    QTest::newRow("behind it") << u"Hotel #ur |"_s << u""_s;
+    QTest::newRow("no tag") << u"C#x|"_s << u""_s;
+    QTest::newRow("empty") << u"|"_s << u""_s;
+}
+
+void testTag::Typed()
+{
+    QFETCH(QString, text);
+    const qsizetype cursor = text.indexOf(u'|');
+    text.remove(cursor, 1);
+    const modTag::cPlace place = modTag::Typed(text, cursor);
+    QTEST(text.mid(place.Start, place.Length), "typed");
+}
+
+TEST_CLASS(testTag, QCoreApplication)
+#include "testTag.moc"

@@ -1,0 +1,83 @@
+#include "model/modPeople.h"
+#include "support/cTestClass.h"
+#include "support/testBook.h"
+#include "views/entry/cEntryEditor.h"
+#include "views/people/cPeople.h"
+#include "windows/entry/frmBuchung.h"
+#include "windows/people/cShareTable.h"
+#include "windows/people/frmPersonen.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+// The people of a household in the window, and the field of the entry that comes with them.
+class testFrmPersonen final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PeopleAndSharesByKeyboard();
+    void PayerIsAskedForAmongSeveral();
+};
+
+void testFrmPersonen::PeopleAndSharesByKeyboard()
+{
+    cTestBook book;
+    cPeople people(book.Tools);
+    frmPersonen form(people);
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    auto& name = *form.findChild<QLineEdit*>();
+    QVERIFY(name.hasFocus());
+    for (const QString& typed : {u"Anna"_s, u"Ben"_s}) {
+        QTest::keyClicks(&name, typed);
+        QTest::keyClick(&name, Qt::Key_Return);
+    }
+    QCOMPARE(people.Names(), QStringList({u"Anna"_s, u"Ben"_s}));
+    auto& shares = *form.findChild<cShareTable*>();
+    const int row = static_cast<int>(people.Accounts().indexOf(u"Girokonto"_s)) + 1;
+    shares.item(row, 0)->setText(u"60"_s); // as the editor of the cell does
+    QCOMPARE(shares.item(row, 1)->text(), u"40"_s);
+    QCOMPARE(shares.item(row, 2)->text(), u"Anna 60 %, Ben 40 %"_s);
+    QCOMPARE(people.Stored(u"Girokonto"_s).size(), 2);
+    shares.item(row, 1)->setText(u"x"_s);
+    QCOMPARE(shares.Wrong().size(), 1);
+    QTest::keyClick(&form, Qt::Key_Escape); // the question is declined
+    QVERIFY(form.isVisible());
+    shares.item(row, 1)->setText(u"30"_s);
+    QVERIFY(shares.Wrong().isEmpty());
+    QTest::keyClick(&form, Qt::Key_Escape);
+    QVERIFY(!form.isVisible());
+}
+
+void testFrmPersonen::PayerIsAskedForAmongSeveral()
+{
+    cTestBook book;
+    cEntryEditor alone(book.Tools);
+    frmBuchung formAlone(alone, alone.Start({}));
+    formAlone.show();
+    QVERIFY(!formAlone.findChild<QComboBox*>(u"cboBezahltVon"_s)->isVisible());
+    QVERIFY(cPeople(book.Tools).Add(u"Änne; & Söhne"_s));
+    const cEntryItem entry = book.Add([](cEntryItem& item) { item.EntryFlags = u"andere=1"_s; });
+    cEntryEditor editor(book.Tools);
+    std::optional<cEntryFields> fields = editor.Load(entry.ID);
+    QVERIFY(fields);
+    frmBuchung form(editor, *fields);
+    form.show();
+    auto& payer = *form.findChild<QComboBox*>(u"cboBezahltVon"_s);
+    QVERIFY(payer.isVisible());
+    fields->Payer = payer.itemData(1).toString();
+    QCOMPARE(editor.Save(*fields), eEntrySaved::Saved);
+    const cEntryItem stored = *book.Data.LoadEntry(entry.ID);
+    QCOMPARE(modPeople::Payer(stored), u"Änne; & Söhne"_s);
+    QVERIFY(stored.EntryFlags.startsWith(u"andere=1;"));
+}
+
+TEST_CLASS(testFrmPersonen, QApplication)
+#include "testFrmPersonen.moc"
