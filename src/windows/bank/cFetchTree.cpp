@@ -15,7 +15,7 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{48}, {20}, {30}, {24}};
+const std::vector<cColumnFit::cColumn> columns{{44}, {20}, {28}, {30}};
 
 } // namespace
 
