@@ -46,7 +46,8 @@ set(PAGES)
 if(APP_HOMEPAGE)
   string(APPEND PAGES "  <url type=\"homepage\">${APP_HOMEPAGE}</url>\n  <screenshots>\n")
   set(kind " type=\"default\"")
-  foreach(page "hauptfenster|The entries of a month with the balances of all accounts|Die Einträge eines Monats mit den Kontoständen"
+  foreach(page "uebersicht|How the month stands and what is to be done|Wie der Monat steht und was zu tun ist"
+               "hauptfenster|The entries of a month with the balances of all accounts|Die Einträge eines Monats mit den Kontoständen"
                "kontoauszuege|Transactions of the bank with what they are proposed to become|Umsätze der Bank mit Vorschlägen zum Buchen"
                "diagramme|Where the money goes|Wo das Geld bleibt"
                "bericht|The report of a year|Der Bericht eines Jahres"

@@ -316,6 +316,9 @@ void cMainProgram::FollowLanguage()
 // Never while something is typed into a form.
 void cMainProgram::LookForUpdates()
 {
+    if (m_end.HasBegun()) {
+        return;
+    }
     if (QApplication::activeModalWidget() != nullptr) {
         tmrUpdate.start(updateRetry);
         return;

@@ -262,25 +262,26 @@ int Run(const cCliContext& context)
 
 cCliCommand modCliCommands::ReportCommand()
 {
-    return {.Name = u"report"_s,
-            .Arguments = u"BERICHT"_s,
-            .Help = cText::Tr(
-                "rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit, budget oder schlagwort; ohne Angabe für "
-                "das aktuelle Jahr"),
-            .MinArguments = 1,
-            .MaxArguments = 3, // "Summe aller Werte" without quotes
-            .Options = {{u"period"_s, u"NAME"_s, cText::Tr("Zeitraum, zum Beispiel \"Letzter Monat\"")},
-                        {u"from"_s, u"DATUM"_s, cText::Tr("erster Tag, als 2026-01-31 oder 31.01.2026")},
-                        {u"to"_s, u"DATUM"_s, cText::Tr("letzter Tag")},
-                        {u"account"_s, u"NAME"_s, cText::Tr("nur dieses Konto")},
-                        {u"by-amount"_s, {}, cText::Tr("nach Betrag geordnet statt nach Namen")},
-                        {u"gross"_s, {}, cText::Tr("Limit: Ausgaben ohne Abzug von Erstattungen")},
-                        {u"no-future"_s, {}, cText::Tr("ohne Einträge nach dem heutigen Tag")},
-                        {u"no-start"_s, {}, cText::Tr("ohne Startguthaben")},
-                        {u"html"_s, u"DATEI"_s, cText::Tr("schreibt den Bericht als HTML-Seite")},
-                        {u"pdf"_s, u"DATEI"_s, cText::Tr("schreibt den Bericht als PDF-Datei")},
-                        {u"csv"_s, u"DATEI"_s, cText::Tr("schreibt die Zahlen als CSV-Datei")},
-                        {u"xlsx"_s, u"DATEI"_s, cText::Tr("schreibt die Zahlen als Excel-Datei")},
-                        Json()},
-            .Run = Run};
+    return {
+        .Name = u"report"_s,
+        .Arguments = u"BERICHT"_s,
+        .Help = cText::Tr(
+            "rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit, budget oder schlagwort; ohne Angabe für "
+            "das aktuelle Jahr"),
+        .MinArguments = 1,
+        .MaxArguments = 3, // "Summe aller Werte" without quotes
+        .Options = {{u"period"_s, u"NAME"_s, cText::Tr("Zeitraum, zum Beispiel \"Letzter Monat\"")},
+                    {u"from"_s, u"DATUM"_s, cText::Tr("erster Tag, als 2026-01-31 oder 31.01.2026")},
+                    {u"to"_s, u"DATUM"_s, cText::Tr("letzter Tag")},
+                    {u"account"_s, u"NAME"_s, cText::Tr("nur dieses Konto")},
+                    {u"by-amount"_s, {}, cText::Tr("nach Betrag geordnet statt nach Namen")},
+                    {u"gross"_s, {}, cText::Tr("Limit: Ausgaben ohne Abzug von Erstattungen")},
+                    {u"no-future"_s, {}, cText::Tr("ohne Einträge nach dem heutigen Tag")},
+                    {u"no-start"_s, {}, cText::Tr("ohne Startguthaben")},
+                    {u"html"_s, u"DATEI"_s, cText::Tr("schreibt den Bericht als HTML-Seite")},
+                    {u"pdf"_s, u"DATEI"_s, cText::Tr("schreibt den Bericht als PDF-Datei")},
+                    {u"csv"_s, u"DATEI"_s, cText::Tr("schreibt die Zahlen als CSV-Datei")},
+                    {u"xlsx"_s, u"DATEI"_s, cText::Tr("schreibt die Zahlen als Excel-Datei")},
+                    Json()},
+        .Run = Run};
 }

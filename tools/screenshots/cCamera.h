@@ -14,9 +14,12 @@
 // The day of all pictures.
 inline const QDate sceneDay(2026, 11, 21);
 
-// Lets everything that is waiting be done and painted.
-inline void Settle()
+// Lets everything that is waiting be done and painted, also what a page reads a moment after it is shown.
+inline void Settle(int milliseconds = 60)
 {
+    QEventLoop waiting;
+    QTimer::singleShot(milliseconds, &waiting, &QEventLoop::quit);
+    waiting.exec();
     for (int i = 0; i < 20; ++i) {
         QApplication::processEvents(QEventLoop::AllEvents, 10);
     }
@@ -45,19 +48,23 @@ public:
         std::printf("%s\n", qPrintable(path));
     }
 
-    // Opens a dialog through `open`, which blocks, and takes its picture from within.
+    // Does `open`, which blocks in a dialog sooner or later, takes its picture from within and closes it.
     template <typename tOpen>
     void TakeDialog(const QString& name, tOpen open)
     {
-        QTimer::singleShot(50, qApp, [&] {
+        bool isTaken = false;
+        QTimer waiting;
+        QObject::connect(&waiting, &QTimer::timeout, qApp, [&] {
             QWidget* dialog = QApplication::activeModalWidget();
-            m_isGood = dialog != nullptr && m_isGood;
-            if (dialog != nullptr) {
+            if (dialog != nullptr && !isTaken) {
+                isTaken = true;
                 Take(*dialog, name);
                 dialog->close();
             }
         });
+        waiting.start(50);
         open();
+        m_isGood = isTaken && m_isGood;
     }
 
     [[nodiscard]] bool IsGood() const { return m_isGood; }

@@ -1,22 +1,26 @@
 #include "model/modSettingKey.h"
 
 // Renders the program's windows with the example household into PNG files, without a screen:
-//   kontorelle-screenshots FOLDER light|dark|pseudo [POINTS [WIDTH HEIGHT]]
-// "pseudo" is the light palette in a language of long words (cPseudoLanguage).
+//   kontorelle-screenshots FOLDER light|dark|pseudo|english [POINTS [WIDTH HEIGHT]]
+// "pseudo" is the light palette in a language of long words (cPseudoLanguage), "english" the light palette in English.
 // POINTS is the type size, WIDTH and HEIGHT are the largest that a window may be. The pictures are named after window
-// and palette. The scale comes from QT_SCALE_FACTOR, as for every program.
+// and palette. The scale comes from QT_SCALE_FACTOR, as for every program;
+// SCENES names those wanted, all without it.
 
+#include "app/cLanguage.h"
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
 #include "app/cQtRegistry.h"
 #include "app/cQtRescue.h"
 #include "app/cQtShell.h"
 #include "app/cQtUser.h"
+#include "app/modLocale.h"
 #include "base/cClock.h"
 #include "base/cProgress.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
+#include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "core/modDemo.h"
 #include "model/modWord.h"
@@ -29,6 +33,7 @@
 #include "tools/screenshots/takeBankSetup.h"
 #include "tools/screenshots/takeBudget.h"
 #include "tools/screenshots/takeCharts.h"
+#include "tools/screenshots/takeHelp.h"
 #include "tools/screenshots/takePeople.h"
 #include "tools/screenshots/takeReceipts.h"
 #include "tools/screenshots/takeReview.h"
@@ -37,10 +42,10 @@
 #include "views/chart/cChartMaker.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
-#include "views/help/cManualBrowser.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/main/cLimitWatch.h"
 #include "views/main/cMainModel.h"
+#include "views/main/modAppearance.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
@@ -51,7 +56,6 @@
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
-#include "windows/help/frmHandbuch.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
@@ -65,6 +69,7 @@
 #include "windows/template/frmKategorie.h"
 #include "windows/widget/cStyle.h"
 #include "windows/widget/modPalette.h"
+#include "windows/widget/modTone.h"
 
 #include <QApplication>
 #include <QDir>
@@ -74,12 +79,15 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -99,7 +107,7 @@ public:
             cBook book(m_user);
             m_isReady = book.Open(path) && modDemo::Write(book.Data(), {.Today = sceneDay});
         }
-        m_isReady = m_program.Start({.Book = path});
+        m_isReady = m_isToned && m_program.Start({.Book = path});
         m_program.Window().resize(1280, 800);
         Settle();
     }
@@ -111,6 +119,10 @@ private:
     QTemporaryDir m_folder;
     cQtShell m_shell{m_folder.path()};
     cQtRegistry m_registry{m_folder.path()};
+    cConfiguration m_configuration{m_registry};
+    // The program sets the palette by this: that of the pictures would not last.
+    bool m_isToned = modAppearance::Choose(
+        modTone::IsDark(QApplication::palette()) ? eAppearance::Dark : eAppearance::Light, m_configuration);
     cQtUser m_user{m_registry};
     cQtRescue m_rescue;
     cFixedClock m_clock;
@@ -136,6 +148,21 @@ void TakeAssignment(cCamera& camera, cImportReview& review)
     }
 }
 
+// A menu with those below it, each open by itself.
+void TakeMenu(cCamera& camera, QMenu& menu)
+{
+    static int number = 0;
+    menu.popup({});
+    camera.Take(menu, u"menue-%1"_s.arg(++number));
+    menu.hide();
+    const QList<QAction*> actions = menu.actions();
+    for (const QAction* action : actions) {
+        if (action->menu() != nullptr) {
+            TakeMenu(camera, *action->menu());
+        }
+    }
+}
+
 bool TakeDemo(cCamera& camera)
 {
     cStage stage(cStage::eBook::Demo);
@@ -150,6 +177,10 @@ bool TakeDemo(cCamera& camera)
     camera.Take(window, u"uebersicht"_s);
     window.ShowPage(frmMain::ePage::Entries);
     camera.Take(window, u"hauptfenster"_s);
+    const QList<QAction*> menus = window.menuBar()->actions();
+    for (const QAction* action : menus) {
+        TakeMenu(camera, *action->menu());
+    }
     model.ChooseAccount(u"Girokonto"_s);
     model.ChooseGrouping(u"Nach Monat"_s);
     camera.Take(window, u"hauptfenster-gruppen"_s);
@@ -367,31 +398,6 @@ bool TakeRules(cCamera& camera)
     return !rows.isEmpty();
 }
 
-// The manual: a page with a picture, tables and code, and what a search found.
-bool TakeManual(cCamera& camera)
-{
-    const QTemporaryDir profile;
-    cQtShell shell(profile.path());
-    cQtRegistry registry(profile.path());
-    cQtUser user(registry);
-    cManualBrowser browser(shell, user);
-    if (browser.Manual().Sections().isEmpty()) {
-        return false;
-    }
-    frmHandbuch window(browser);
-    window.show();
-    for (const auto& [page, name] : {std::pair{u"index.html"_s, u"inhalt"_s}, std::pair{u"01-start.html"_s, u"start"_s},
-                                     std::pair{u"02-kontoauszug.html"_s, u"tabelle"_s},
-                                     std::pair{u"12-befehlszeile.html#zeigen-suchen-exportieren"_s, u"befehle"_s},
-                                     std::pair{u"faq.html"_s, u"fragen"_s}}) {
-        browser.Open(page);
-        camera.Take(window, u"handbuch-"_s + name);
-    }
-    window.findChild<QLineEdit*>()->setText(u"photoTAN"_s);
-    camera.Take(window, u"handbuch-suchen"_s);
-    return true;
-}
-
 // Password, national settings and automatic backups.
 bool TakeSettings(cCamera& camera)
 {
@@ -536,17 +542,24 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3 || !QDir().mkpath(arguments.at(1))) {
-        std::fputs("kontorelle-screenshots FOLDER light|dark|pseudo [POINTS [WIDTH HEIGHT]]\n", stderr);
+        std::fputs("kontorelle-screenshots FOLDER light|dark|pseudo|english [POINTS [WIDTH HEIGHT]]\n", stderr);
         return 2;
     }
+    const QString look = arguments.at(2);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::setStyle(new cStyle(u"Fusion"_s));
-    if (arguments.at(2) == u"dark") {
+    if (look == u"dark") {
         QApplication::setPalette(modPalette::Dark());
     }
-    cPseudoLanguage language;
-    if (arguments.at(2) == u"pseudo") {
-        QCoreApplication::installTranslator(&language);
+    cPseudoLanguage pseudo;
+    if (look == u"pseudo") {
+        QCoreApplication::installTranslator(&pseudo);
+    }
+    const QTemporaryDir profile;
+    cLanguage language;
+    if (look == u"english") {
+        qputenv("LC_ALL", "en_GB.UTF-8"); // the books of the pictures have no language of their own
+        language.Use(modLocale::Messages(), cQtShell(profile.path()));
     }
     if (const int points = arguments.value(3).toInt(); points > 0) {
         QFont font = QApplication::font();
@@ -554,29 +567,23 @@ int main(int argc, char* argv[])
         QApplication::setFont(font);
     }
     const QSize screen = arguments.size() > 5 ? QSize(arguments.at(4).toInt(), arguments.at(5).toInt()) : QSize();
-    cCamera camera(arguments.at(1), arguments.at(2), screen);
-    return TakeUpdate(camera)
-            && TakeStatement(camera)
-            && TakeDemo(camera)
-            && TakeAssistant(camera)
-            && TakeBank(camera)
-            && TakeEmpty(camera)
-            && TakeEditor(camera)
-            && TakeCategories(camera)
-            && TakeSearch(camera)
-            && TakeRules(camera)
-            && TakeReview(camera)
-            && TakeSheet(camera)
-            && TakeBankSetup(camera)
-            && TakeSettings(camera)
-            && TakeStatistics(camera)
-            && TakeCharts(camera)
-            && TakePrinted(camera)
-            && TakeManual(camera)
-            && TakeReceipts(camera)
-            && TakeBudget(camera)
-            && TakeMoreCharts(camera)
-            && TakePeople(camera) && camera.IsGood()
-        ? 0
-        : 1;
+    cCamera camera(arguments.at(1), look, screen);
+    const std::pair<QString, bool (*)(cCamera&)> scenes[] = {
+        {u"update"_s, TakeUpdate},     {u"statement"_s, TakeStatement},
+        {u"demo"_s, TakeDemo},         {u"assistant"_s, TakeAssistant},
+        {u"bank"_s, TakeBank},         {u"empty"_s, TakeEmpty},
+        {u"editor"_s, TakeEditor},     {u"categories"_s, TakeCategories},
+        {u"search"_s, TakeSearch},     {u"rules"_s, TakeRules},
+        {u"review"_s, TakeReview},     {u"bank-setup"_s, TakeBankSetup},
+        {u"settings"_s, TakeSettings}, {u"statistics"_s, TakeStatistics},
+        {u"charts"_s, TakeCharts},     {u"printed"_s, TakePrinted},
+        {u"help"_s, TakeHelp},         {u"receipts"_s, TakeReceipts},
+        {u"budget"_s, TakeBudget},     {u"more-charts"_s, TakeMoreCharts},
+        {u"people"_s, TakePeople},     {u"sheet"_s, TakeSheet}};
+    const QStringList wanted = qEnvironmentVariable("SCENES").split(u' ', Qt::SkipEmptyParts);
+    bool isGood = true;
+    for (const auto& [name, take] : scenes) {
+        isGood = (!wanted.isEmpty() && !wanted.contains(name)) || (take(camera) && isGood);
+    }
+    return isGood && camera.IsGood() ? 0 : 1;
 }

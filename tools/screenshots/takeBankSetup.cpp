@@ -55,7 +55,7 @@ bool TakeFetch(cCamera& camera, cDemoBook& scene, cTestBank& bank, const cBankFe
     frmAbruf window(fetch);
     window.show();
     camera.Take(window, u"abruf"_s);
-    window.Start();
+    camera.TakeDialog(u"startguthaben-frage"_s, [&] { window.Start(); });
     camera.Take(window, u"abruf-fertig"_s);
     return fetch.Lines().size() > 1;
 }

@@ -60,8 +60,10 @@ cChartData cChartMaker::Make(const cChartWish& wish)
 
 cChartData cChartMaker::MakeLimits(const modChart::cInput& input)
 {
-    const cTemplateItemList templates = m_data.GetTemplates();
-    return m_data.IsWhole() ? modChart::Limits(input, templates) : Unread();
+    const QDate end = Cut(input.Wish.Range, input.Wish, m_today).End;
+    const cSettings settings(m_data);
+    const cLimits limits = modLimits::Read(m_data, settings, m_data.GetTemplates(), end.isValid() ? end : m_today);
+    return m_data.IsWhole() ? modChart::Limits(input, limits) : Unread();
 }
 
 cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)

@@ -75,8 +75,8 @@ cReportWish modChart::ReportWish(const cChartWish& wish, const modPeriod::cRange
 {
     cReportWish report;
     report.Type = wish.Kind == eChartKind::Limits ? eReport::Limit
-        : wish.Kind == eChartKind::Tags               ? eReport::Tag
-                                                      : eReport::Sum;
+        : wish.Kind == eChartKind::Tags           ? eReport::Tag
+                                                  : eReport::Sum;
     report.Account = wish.Account;
     report.Range = range;
     report.ShowsFuture = wish.ShowsFuture;

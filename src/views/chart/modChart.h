@@ -66,7 +66,7 @@ struct cBalanceInput
 [[nodiscard]] cChartData Calendar(const cInput& input);
 
 // What was spent of each category with a limit, beside the limit, by month.
-[[nodiscard]] cChartData Limits(const cInput& input, const cTemplateItemList& templates);
+[[nodiscard]] cChartData Limits(const cInput& input, const cLimits& limits);
 
 // Balances as shares of their sum.
 [[nodiscard]] cChartData NetWorth(const cBalanceInput& input);

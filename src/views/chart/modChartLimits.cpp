@@ -1,4 +1,5 @@
 #include "base/cText.h"
+#include "model/cLimits.h"
 #include "model/cTemplateItem.h"
 #include "views/chart/modChartFrame.h"
 #include "views/report/modReport.h"
@@ -17,12 +18,12 @@ struct cRow
     QList<qint64> Limit;
 };
 
-// The limits of a part of the period and what was spent of them. Whatever a limit is made of, it is read here only.
-cReportFigures LimitsOf(const modChart::cInput& input, const cEntryItemList& entries,
-                        const cTemplateItemList& templates, const modPeriod::cRange& range)
+// The limits of a part of the period and what was spent of them.
+cReportFigures LimitsOf(const modChart::cInput& input, const cEntryItemList& entries, const cLimits& limits,
+                        const modPeriod::cRange& range)
 {
     const cReportWish wish = modChart::ReportWish(input.Wish, range, input.Today);
-    return modReport::Figures(entries, templates, wish);
+    return modReport::Figures(entries, limits, wish);
 }
 
 QList<cEntryItemList> ByStep(const cEntryItemList& entries, const cChartSteps& steps)
@@ -72,7 +73,7 @@ void NameRows(QList<cRow>& rows)
 
 } // namespace
 
-cChartData modChart::Limits(const cInput& input, const cTemplateItemList& templates)
+cChartData modChart::Limits(const cInput& input, const cLimits& limits)
 {
     const modPeriod::cRange range = Closed(input.First);
     if (!IsUsable(range)) {
@@ -84,7 +85,7 @@ cChartData modChart::Limits(const cInput& input, const cTemplateItemList& templa
     const QList<cEntryItemList> entries = ByStep(input.First.Entries, steps);
     QList<cRow> rows;
     for (int step = 0; step < steps.Count(); ++step) {
-        Take(rows, LimitsOf(input, entries.at(step), templates, steps.RangeAt(step)), step, steps.Count());
+        Take(rows, LimitsOf(input, entries.at(step), limits, steps.RangeAt(step)), step, steps.Count());
     }
     NameRows(rows);
     cChartData data = Frame(input, steps);

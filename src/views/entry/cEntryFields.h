@@ -49,14 +49,14 @@ struct cEntryFields
     bool IsDayKept =
         false; // the stored day cannot be read, and stays while neither Date nor DateText names another one
     bool HasEnd = false;
-    QDate End;                        // only with HasEnd
-    QString EndText;                  // the last day as typed; what stands here counts instead of End
-    QDate CancelBy;                   // of a series that is a contract; invalid: it is none
-    QString CancelByText;             // the same as typed; what stands here counts instead of CancelBy
-    QString Interval;                 // stored word; empty while none is chosen
-    QString BroughtInterval;          // by a category; while Interval is still that, nobody has chosen otherwise
-    QList<cSplitPart> Parts;          // only in the split face; rows without any text are passed over
-    cEntryItemFixModList Corrections; // of an existing series, by period; taken over on saving
+    QDate End;                         // only with HasEnd
+    QString EndText;                   // the last day as typed; what stands here counts instead of End
+    QDate CancelBy;                    // of a series that is a contract; invalid: it is none
+    QString CancelByText;              // the same as typed; what stands here counts instead of CancelBy
+    QString Interval;                  // stored word; empty while none is chosen
+    QString BroughtInterval;           // by a category; while Interval is still that, nobody has chosen otherwise
+    QList<cSplitPart> Parts;           // only in the split face; rows without any text are passed over
+    cEntryItemFixModList Corrections;  // of an existing series, by period; taken over on saving
     QList<cReceiptSource> NewReceipts; // copied and hung at the entry on saving
 
     bool operator==(const cEntryFields&) const = default;

@@ -34,8 +34,8 @@ constexpr std::array<const char*, cEntryListModel::ColumnCount> titles{
     QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
     QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Intervall"),
     QT_TRANSLATE_NOOP("cText", "Betrag"),       QT_TRANSLATE_NOOP("cText", "Saldo"),
-    QT_TRANSLATE_NOOP("cText", "Beleg"),
-    QT_TRANSLATE_NOOP("cText", "Schlagwörter"), QT_TRANSLATE_NOOP("cText", "Bezahlt von"),
+    QT_TRANSLATE_NOOP("cText", "Beleg"),        QT_TRANSLATE_NOOP("cText", "Schlagwörter"),
+    QT_TRANSLATE_NOOP("cText", "Bezahlt von"),
 };
 
 // Nothing at all where there is none, so that nobody has to hear it.

@@ -24,7 +24,18 @@ class cEntryListModel final : public QAbstractItemModel
 
 public:
     enum eColumn {
-        Date, Type, Category, Account, Description, Interval, Amount, Balance, Receipts, Tags, Payer, ColumnCount
+        Date,
+        Type,
+        Category,
+        Account,
+        Description,
+        Interval,
+        Amount,
+        Balance,
+        Receipts,
+        Tags,
+        Payer,
+        ColumnCount
     };
 
     enum eRole {

@@ -47,8 +47,8 @@ QList<qint64> Money(const cReportAmount& amount, eReport type)
 // Limit and amount stand side by side, the number of entries last.
 QStringList Titles(const cReportFigures& figures)
 {
-    return QStringList{cText::Tr("Art"), modReport::GroupTitle(figures.Type), cText::Tr("Kategorie")} << MoneyTitles(figures.Type)
-                                                                                      << cText::Tr("Einträge");
+    return QStringList{cText::Tr("Art"), modReport::GroupTitle(figures.Type), cText::Tr("Kategorie")}
+    << MoneyTitles(figures.Type) << cText::Tr("Einträge");
 }
 
 // Calls `write` for every category with its section, its group and itself.

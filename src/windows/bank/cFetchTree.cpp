@@ -4,6 +4,7 @@
 #include "views/bank/cBankFetch.h"
 #include "views/bank/modFetchText.h"
 #include "windows/widget/cColumnFit.h"
+#include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modTone.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{34}, {18}, {34}, {28}};
+const std::vector<cColumnFit::cColumn> columns{{44}, {20}, {28}, {30}};
 
 } // namespace
 
@@ -26,6 +27,7 @@ cFetchTree::cFetchTree(cBankFetch& fetch, QWidget* parent) : QTreeWidget(parent)
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
+    setItemDelegate(new cRowDelegate(this));
     setAllColumnsShowFocus(true);
     setAccessibleName(cText::Tr("Konten, die abgerufen werden"));
     header()->setSectionsMovable(false);

@@ -33,7 +33,7 @@ frmBankzugaenge::frmBankzugaenge(cBankListModel& banks, QWidget* parent)
     layout->addLayout(BuildButtons());
     connect(&m_banks, &QAbstractItemModel::modelReset, this, &frmBankzugaenge::ShowButtons);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmBankzugaenge::ShowButtons);
-    const QSize wanted(fontMetrics().averageCharWidth() * 135, fontMetrics().height() * 18);
+    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 18);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
     m_tree->setCurrentIndex(m_banks.index(0, 0));
     ShowButtons();
@@ -52,7 +52,7 @@ void frmBankzugaenge::BuildList()
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::Stretch);
     columns.setMinimumSectionSize(fontMetrics().averageCharWidth() * 10); // in large type the list rather scrolls
-    for (const int column : {cBankListModel::Account, cBankListModel::LastFetch}) {
+    for (const int column : {cBankListModel::Bank, cBankListModel::Account, cBankListModel::LastFetch}) {
         columns.setSectionResizeMode(column, QHeaderView::ResizeToContents);
     }
     connect(m_tree, &QTreeView::doubleClicked, m_change, &QPushButton::click);

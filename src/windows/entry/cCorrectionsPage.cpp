@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "views/entry/modCorrections.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/widget/cRowDelegate.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -13,6 +14,7 @@
 
 namespace {
 
+constexpr int nameColumn = 0;
 constexpr int commentColumn = 2;
 constexpr int amountColumn = 3;
 
@@ -73,6 +75,10 @@ void cCorrectionsPage::Build()
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(commentColumn, QHeaderView::Stretch);
+    // What is cut there stands in the next column too.
+    m_list->header()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    m_list->setItemDelegate(new cRowDelegate(m_list));
+    m_list->setAllColumnsShowFocus(true);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);

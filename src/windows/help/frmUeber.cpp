@@ -63,7 +63,8 @@ void frmUeber::Build(const QString& name)
     layout->addWidget(head);
     layout->addWidget(libraries, 1);
     layout->addWidget(close, 0, Qt::AlignRight);
-    resize(fontMetrics().averageCharWidth() * 72, sizeHint().height());
+    const int width = fontMetrics().averageCharWidth() * 72;
+    resize(width, layout->totalHeightForWidth(width)); // the hint knows less lines than the texts have
     close->setFocus();
 }
 

@@ -1,7 +1,9 @@
 #include "windows/help/frmUpdate.h"
 
 #include "base/cText.h"
+#include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
+#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -14,6 +16,12 @@
 #include <QTimer>
 
 using eState = cUpdateCheck::eState;
+
+namespace {
+
+constexpr int pictureSize = 48;
+
+} // namespace
 
 frmUpdate::frmUpdate(cUpdateCheck& check, QWidget* parent)
     : QDialog(parent),
@@ -29,11 +37,13 @@ frmUpdate::frmUpdate(cUpdateCheck& check, QWidget* parent)
     connect(&m_check, &cUpdateCheck::StateChanged, this, &frmUpdate::ShowState);
     connect(&m_check, &cUpdateCheck::Arrived, m_progress, &QProgressBar::setValue);
     ShowState();
-    resize(modPlace::Fitting(QSize(34, 24) * fontMetrics().height(), screen()->availableGeometry()));
 }
 
 void frmUpdate::Build()
 {
+    QFont font = m_headline->font();
+    font.setPointSizeF(font.pointSizeF() * 1.15);
+    m_headline->setFont(font);
     m_headline->setWordWrap(true);
     m_headline->setTextFormat(Qt::PlainText);
     m_headline->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -45,8 +55,16 @@ void frmUpdate::Build()
     connect(m_weekly, &QCheckBox::toggled, this, [this](bool isOn) { m_check.Schedule().SetWeekly(isOn); });
     auto* privacy = new QLabel(m_check.Privacy(), this);
     privacy->setWordWrap(true);
+    modTone::Use(*privacy, modTone::Quiet);
+    auto* picture = new QLabel(this);
+    picture->setPixmap(modIcon::Program().pixmap(pictureSize));
+    auto* head = new QHBoxLayout;
+    head->addWidget(picture, 0, Qt::AlignTop);
+    head->addSpacing(fontMetrics().averageCharWidth());
+    head->addWidget(m_headline, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_headline);
+    layout->addLayout(head);
+    layout->addSpacing(fontMetrics().height() / 2);
     layout->addWidget(m_progress);
     layout->addWidget(m_notesHead);
     layout->addWidget(m_notes, 1);
@@ -90,6 +108,20 @@ void frmUpdate::ShowState()
     m_again->setVisible(state == eState::Failed);
     m_skip->setVisible(isFound);
     m_close->setText(isBusy ? cText::Tr("Abbrechen") : isFound ? cText::Tr("S&päter") : cText::Tr("Schließen"));
+    Fit();
+}
+
+// As high as what it says: without notes there is little.
+void frmUpdate::Fit()
+{
+    const int line = fontMetrics().height();
+    const int width = 34 * line;
+    layout()->activate();
+    const int height = m_notes->isHidden() ? layout()->totalHeightForWidth(width) : 24 * line;
+    const QSize wanted = QSize(width, height).expandedTo(layout()->totalMinimumSize());
+    if (m_notes->isHidden() || size().height() < wanted.height()) { // what the user has made larger stays
+        resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+    }
 }
 
 void frmUpdate::Skip()

@@ -28,6 +28,7 @@ private:
     void Build();
     [[nodiscard]] QWidget* BuildButtons();
     void ShowState();
+    void Fit();
     void Skip();
 
     cUpdateCheck& m_check;

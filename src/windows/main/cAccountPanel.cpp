@@ -133,6 +133,7 @@ void cAccountPanel::FitColumns()
     const int balance = BalanceWidth();
     const int least = fontMetrics().averageCharWidth() * leastNameLetters;
     const int room = m_view->viewport()->width() - least;
+    header.setSectionHidden(cAccountListModel::Open, false); // a hidden one would want no room
     header.setSectionHidden(cAccountListModel::Open, room < balance + header.sectionSizeHint(cAccountListModel::Open));
     const bool isNarrow = room < balance;
     header.setSectionResizeMode(cAccountListModel::Balance,

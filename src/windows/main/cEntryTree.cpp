@@ -23,8 +23,9 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},    {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount},
-                                               {16, eKind::Amount}, {7, eKind::Text, 6}, {24}, {18}};
+const std::vector<cColumnFit::cColumn> columns{
+    {14, eKind::Day},    {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount}, {16, eKind::Amount},
+    {7, eKind::Text, 6}, {24}, {18}};
 
 // Tags stand in the description already, and most books have one payer.
 const QList<int> hiddenAtFirst{cEntryListModel::Tags, cEntryListModel::Payer};

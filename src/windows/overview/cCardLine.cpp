@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int margin = 4;
+constexpr int margin = cCardLine::Margin;
 constexpr int gap = 12; // between text and figure
 constexpr int barHeight = 6;
 constexpr int leastTextLetters = 16; // beside a figure
@@ -29,7 +29,7 @@ cCardLine::cCardLine(const cOverviewLine& line, QWidget* parent) : QAbstractButt
         told += u", %1 %"_s.arg(*m_line.Percent);
     }
     setAccessibleName(told);
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred); // a fixed one is cut at the height of the hint
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     if (isLink) {
@@ -45,6 +45,19 @@ int cCardLine::FigureWidth() const
     return m_line.Figure.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_line.Figure);
 }
 
+// What stands before two blanks, a day, is a column of its own: further lines of the text begin where its first one
+// does.
+int cCardLine::LeadLetters() const
+{
+    const qsizetype at = m_line.Text.indexOf(u"  "_s);
+    return at < 0 ? 0 : static_cast<int>(at) + 2;
+}
+
+int cCardLine::LeadWidth() const
+{
+    return fontMetrics().horizontalAdvance(m_line.Text.left(LeadLetters()));
+}
+
 bool cCardLine::IsStacked(int width) const
 {
     const int room = width - 2 * margin - gap - FigureWidth();
@@ -56,8 +69,9 @@ bool cCardLine::IsStacked(int width) const
 int cCardLine::TextHeight(int width) const
 {
     const bool isBeside = FigureWidth() > 0 && !IsStacked(width);
-    const int room = width - 2 * margin - (isBeside ? FigureWidth() + gap : 0);
-    return fontMetrics().boundingRect(QRect(0, 0, std::max(room, 1), 10000), Qt::TextWordWrap, m_line.Text).height();
+    const int room = width - 2 * margin - LeadWidth() - (isBeside ? FigureWidth() + gap : 0);
+    const QRect area(0, 0, std::max(room, 1), 10000);
+    return fontMetrics().boundingRect(area, Qt::TextWordWrap, m_line.Text.mid(LeadLetters())).height();
 }
 
 int cCardLine::heightForWidth(int width) const
@@ -110,7 +124,9 @@ void cCardLine::paintEvent(QPaintEvent* /*event*/)
         text.setWidth(inner.width() - FigureWidth() - gap);
     }
     painter.setPen(tintsText ? Colour() : palette().color(QPalette::Text));
-    painter.drawText(text, Qt::TextWordWrap | Qt::AlignTop, m_line.Text);
+    painter.drawText(text, Qt::AlignTop, m_line.Text.left(LeadLetters()));
+    painter.drawText(text.adjusted(LeadWidth(), 0, 0, 0), Qt::TextWordWrap | Qt::AlignTop,
+                     m_line.Text.mid(LeadLetters()));
     QRect figure(inner.left(), inner.top() + (isStacked ? textHeight : 0), inner.width(), fontMetrics().lineSpacing());
     painter.setPen(Colour());
     painter.drawText(figure, Qt::AlignRight | Qt::AlignVCenter, m_line.Figure);

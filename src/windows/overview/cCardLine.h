@@ -11,6 +11,8 @@ class cCardLine final : public QAbstractButton
     Q_OBJECT
 
 public:
+    static constexpr int Margin = 4; // around the text, within the line
+
     explicit cCardLine(const cOverviewLine& line, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -22,6 +24,8 @@ protected:
 
 private:
     [[nodiscard]] int FigureWidth() const;
+    [[nodiscard]] int LeadLetters() const;
+    [[nodiscard]] int LeadWidth() const;
     [[nodiscard]] bool IsStacked(int width) const; // the figure stands below the text
     [[nodiscard]] int TextHeight(int width) const;
     [[nodiscard]] QColor Colour() const;

@@ -58,6 +58,7 @@ cFirstStepsView::cFirstStepsView(cFirstSteps steps, const QList<cWay>& ways, QWi
     layout->addWidget(save, 0, Qt::AlignLeft);
     layout->addSpacing(12);
     layout->addWidget(Heading(cText::Tr("2. Was ist seither geschehen?"), this));
+    QList<QPushButton*> buttons;
     for (const cWay& way : ways) {
         auto* button = new QPushButton(way.Text, this);
         auto* hint = new QLabel(way.Hint, this);
@@ -66,6 +67,12 @@ cFirstStepsView::cFirstStepsView(cFirstSteps steps, const QList<cWay>& ways, QWi
         connect(button, &QPushButton::clicked, this, way.Go);
         layout->addWidget(button, 0, Qt::AlignLeft);
         layout->addWidget(hint);
+        buttons.append(button);
+    }
+    const auto isNarrower = [](const auto* a, const auto* b) { return a->sizeHint().width() < b->sizeHint().width(); };
+    const auto widest = std::max_element(buttons.begin(), buttons.end(), isNarrower);
+    for (QPushButton* button : std::as_const(buttons)) {
+        button->setMinimumWidth((*widest)->sizeHint().width());
     }
     Refresh();
 }

@@ -30,7 +30,8 @@ cOverviewCardView::cOverviewCardView(const cOverviewCard& card, QWidget* parent)
 {
     setAccessibleName(card.Title);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Margin, Margin - 4, Margin, Margin);
+    constexpr int side = Margin - cCardLine::Margin; // lines bring the rest, for the shade under the pointer
+    layout->setContentsMargins(side, side, side, Margin);
     layout->setSpacing(2);
     AddHead(card, *layout);
     if (!card.Curve.Cents.isEmpty()) {
@@ -48,6 +49,7 @@ cOverviewCardView::cOverviewCardView(const cOverviewCard& card, QWidget* parent)
 void cOverviewCardView::AddHead(const cOverviewCard& card, QVBoxLayout& layout)
 {
     auto* head = new QHBoxLayout;
+    head->setContentsMargins(cCardLine::Margin, 0, 0, 0);
     auto* title = new QLabel(card.Title, this);
     title->setFont(Larger(title->font(), 1.05, true));
     title->setWordWrap(true);
@@ -66,6 +68,7 @@ void cOverviewCardView::AddHead(const cOverviewCard& card, QVBoxLayout& layout)
     if (!card.Figure.isEmpty()) {
         auto* figure = new QLabel(card.Figure, this);
         figure->setFont(Larger(figure->font(), 1.7, false));
+        figure->setContentsMargins(cCardLine::Margin, 0, cCardLine::Margin, 0);
         figure->setTextInteractionFlags(Qt::TextSelectableByMouse);
         if (card.Tone == eOverviewTone::Expense) {
             QPalette colours = figure->palette();

@@ -41,6 +41,7 @@ frmUebersicht::frmUebersicht(cOverviewModel& model, QWidget* parent)
     QFont font = m_heading->font();
     font.setPointSizeF(font.pointSizeF() * 1.3);
     m_heading->setFont(font);
+    m_heading->setWordWrap(true); // else it would keep the window from getting small
     head->addWidget(m_heading, 1);
     head->addWidget(m_isStartPage);
     layout->addLayout(head);

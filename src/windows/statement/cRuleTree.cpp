@@ -29,7 +29,7 @@ cRuleTree::cRuleTree(cRuleListModel& rules, QWidget* parent) : QTreeView(parent)
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::Stretch);
     columns.setSectionResizeMode(cRuleListModel::Count, QHeaderView::Interactive);
-    columns.resizeSection(cRuleListModel::Count, fontMetrics().averageCharWidth() * 11);
+    columns.resizeSection(cRuleListModel::Count, fontMetrics().averageCharWidth() * 13);
 }
 
 void cRuleTree::paintEvent(QPaintEvent* event)

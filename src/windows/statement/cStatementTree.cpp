@@ -13,8 +13,8 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{13, eKind::Day},    {28}, {20}, {14, eKind::Amount},
-                                               {14, eKind::Amount}, {9},  {22}};
+const std::vector<cColumnFit::cColumn> columns{
+    {13, eKind::Day}, {28}, {20}, {14, eKind::Amount}, {14, eKind::Amount}, {11, eKind::Text, 10}, {22}};
 
 class cStatementDelegate final : public cRowDelegate
 {

@@ -68,7 +68,7 @@ frmRegeln::frmRegeln(cRuleEditor& rules, QWidget* parent)
     form->layout()->setContentsMargins(margin, 0, 0, 0);
     BuildButtons(*layout);
     Connect();
-    const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 34);
+    const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 38);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
     ShowDraft();
     m_text->setFocus();
@@ -142,7 +142,7 @@ QGroupBox* frmRegeln::BuildResult()
 {
     auto* group = new QGroupBox(cText::Tr("Dann schlage vor"), this);
     auto* form = new QFormLayout(group);
-    m_category->setMinimumContentsLength(14);
+    m_category->setMinimumContentsLength(20);
     m_category->lineEdit()->setPlaceholderText(cText::Tr("wie ohne Regel"));
     form->addRow(cText::Tr("&Kategorie:"), m_category);
     m_interval->addItem(cText::Tr("wie ohne Regel"), QString());

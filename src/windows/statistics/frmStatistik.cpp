@@ -124,7 +124,7 @@ QWidget* frmStatistik::BuildReportPage()
     split->setStretchFactor(0, 1); // the report needs more of a narrow page than the tree of its figures
     split->setStretchFactor(1, 2);
     const int character = fontMetrics().averageCharWidth();
-    split->setSizes({character * 40, character * 80});
+    split->setSizes({character * 36, character * 84});
     m_hint->setWordWrap(true);
     m_hint->setContentsMargins(8, 4, 8, 6);
     auto* page = new QWidget(this);

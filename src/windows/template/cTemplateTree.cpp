@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int width = 16; // of a column, in average characters
-constexpr int leastName = 16;
+constexpr int width = 14; // of a column, in average characters
+constexpr int leastName = 21;
 constexpr int nameWidth = 30; // at least, where there is room; the names take what is left
 
 std::vector<cColumnFit::cColumn> ColumnsOf(const cTemplateTreeModel& model)
@@ -57,6 +57,7 @@ cTemplateTree::cTemplateTree(cTemplateTreeModel& model, QWidget* parent) : QTree
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setAlternatingRowColors(true);
+    setIndentation(fontMetrics().height()); // names have little room on a small screen
     header()->setSectionsMovable(false);
     m_fit = new cColumnFit(*this, ColumnsOf(m_model), 0);
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cTemplateTree::Keep);

@@ -1,6 +1,7 @@
 #include "windows/widget/cStyle.h"
 
 #include "windows/widget/modIcon.h"
+#include "windows/widget/modTone.h"
 
 #include <QPainter>
 #include <QStyleHintReturn>
@@ -23,6 +24,25 @@ QIcon cStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, cons
     case SP_LineEditClearButton: return modIcon::Get(u"leeren"_s);
     default: return QProxyStyle::standardIcon(icon, option, widget);
     }
+}
+
+void cStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                           const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isField = element == PE_FrameLineEdit && !(option->state & State_HasFocus);
+    if (!(isField || element == PE_IndicatorCheckBox) || !modTone::IsDark(option->palette)) {
+        return;
+    }
+    constexpr double corner = 2;
+    QColor edge = option->palette.color(QPalette::Text);
+    edge.setAlphaF(0.3F);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(edge);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+    painter->restore();
 }
 
 void cStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -21,6 +21,9 @@ public:
                                 QStyleHintReturn* more) const override;
     [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                                      const QWidget* widget) const override;
+    // On a dark ground the style's own edges of fields and check boxes cannot be seen.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
     // Titles of narrow columns end in "…" like the texts below them.
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;

@@ -12,4 +12,10 @@ public:
     explicit cSummaryText(QWidget* parent = nullptr);
 
     void ShowLines(const QStringList& lines);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Fit();
 };
