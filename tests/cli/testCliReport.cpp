@@ -19,8 +19,8 @@ private Q_SLOTS:
     void AsTable();
     void AsJson();
     void Files();
-    void RefundsUseUpNothing();
     void Budget();
+    void RefundsUseUpNothing();
     void Refused_data();
     void Refused();
 

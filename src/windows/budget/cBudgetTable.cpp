@@ -44,6 +44,15 @@ public:
         option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
     }
 
+    // Wide enough for the sums, which are bold.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem bold(option);
+        bold.font.setBold(true);
+        bold.fontMetrics = QFontMetrics(bold.font);
+        return cRowDelegate::sizeHint(bold, index);
+    }
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                           const QModelIndex& index) const override
     {
