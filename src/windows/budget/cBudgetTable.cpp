@@ -186,7 +186,9 @@ void cBudgetTable::keyPressEvent(QKeyEvent* event)
     } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
         m_model.Clear(Chosen());
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        MoveDown();
+        if (state() != EditingState) { // else the editor passes on the key that closes it
+            MoveDown();
+        }
     } else {
         QTableView::keyPressEvent(event);
     }
