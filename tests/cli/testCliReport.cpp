@@ -20,8 +20,8 @@ private Q_SLOTS:
     void AsJson();
     void Tags();
     void Files();
-    void RefundsUseUpNothing();
     void Budget();
+    void RefundsUseUpNothing();
     void Refused_data();
     void Refused();
 

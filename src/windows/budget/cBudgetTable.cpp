@@ -42,6 +42,17 @@ public:
         box.state.setFlag(check.toInt() == Qt::Checked ? QStyle::State_On : QStyle::State_Off);
         box.state.setFlag(QStyle::State_HasFocus, false);
         option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
+        painter->setPen(modTone::Quiet(option.palette)); // on a dark ground the style's own edge cannot be seen
+        painter->drawRect(box.rect.adjusted(0, 0, -1, -1));
+    }
+
+    // Wide enough for the sums, which are bold.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem bold(option);
+        bold.font.setBold(true);
+        bold.fontMetrics = QFontMetrics(bold.font);
+        return cRowDelegate::sizeHint(bold, index);
     }
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
@@ -177,7 +188,9 @@ void cBudgetTable::keyPressEvent(QKeyEvent* event)
     } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
         m_model.Clear(Chosen());
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        MoveDown();
+        if (state() != EditingState) { // else the editor passes on the key that closes it
+            MoveDown();
+        }
     } else {
         QTableView::keyPressEvent(event);
     }
