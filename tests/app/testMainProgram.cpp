@@ -102,6 +102,24 @@ private Q_SLOTS:
         QCOMPARE(machine.User.Shown, QStringList());
     }
 
+    // What is due today stands in the status bar a moment after the start, and goes when another book has nothing.
+    void ReminderInTheStatusBar() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, "
+                                               "EntryAccount, EntryCategory, EntryValue, "
+                                               "EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
+                                               "'Monatlich', 'Giro', 'Wohnung', '700.00', "
+                                               "'Miete & mehr');");
+        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = path}));
+        const auto* line = program.Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
+        QVERIFY(line != nullptr && !line->isVisible());
+        QTRY_VERIFY(line->isVisible());
+        QVERIFY2(line->accessibleName().startsWith(u"Heute fällig: Miete & mehr"_s), qPrintable(line->text()));
+        QVERIFY(program.Window().close());
+    }
+
     // From the menu to the colours of an open window, and still so at the next start.
     void AppearanceIsChosenLive() const
     {
@@ -219,7 +237,7 @@ private Q_SLOTS:
         {
             cMainProgram program(machine.Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
-            const auto* mark = program.Window().statusBar()->findChild<QToolButton*>();
+            const auto* mark = program.Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
             QTest::qWait(50);
             QCOMPARE(machine.User.Asked, QStringList());
             QVERIFY(!mark->isVisible());

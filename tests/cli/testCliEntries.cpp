@@ -232,7 +232,7 @@ void testCliEntries::DueWithContracts()
     Do(u"categories|add|Handy|--kind|Ausgabe"_s);
     const QString contract = Add(
         u"--amount|20|--category|Handy|--kind|Ausgabe|--account|Giro|--interval|Monatlich|--date|+3|--cancel-by|+9"_s);
-    Add(u"--amount|7|--category|Handy|--kind|Ausgabe|--account|Giro|--date|+12"_s);
+    (void)Add(u"--amount|7|--category|Handy|--kind|Ausgabe|--account|Giro|--date|+12"_s);
     QCOMPARE(Do(u"due|--json"_s).Column(u"EntryValue"_s), (QStringList{u"20"_s, u"7"_s}));
     QCOMPARE(Do(u"due|--json|--days|12"_s).Column(u"EntryValue"_s), QStringList{u"20"_s}); // today is the first of them
     QCOMPARE(Do(u"due|--contracts|--json|--days|10"_s).Column(u"ID"_s), QStringList{contract});

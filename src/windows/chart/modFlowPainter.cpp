@@ -174,7 +174,7 @@ void modFlowPainter::Paint(QPainter& painter, const cChartScene& scene, const cC
     }
     const QString text = scene.Data.Middle + u"  " + scene.Data.AxisText(scene.Data.Total(In));
     const double width = layout.Plot.width() - 2 * scene.Em();
-    QRectF box(0, layout.Middle.top() - scene.Em() * 1.3, width, scene.Em() * 1.2);
+    QRectF box(0, layout.Plot.top() - scene.Em() * 1.3, width, scene.Em() * 1.2);
     box.moveLeft(layout.Middle.center().x() - width / 2);
     painter.setPen(scene.Text());
     painter.drawText(box, Qt::AlignCenter, scene.Metrics.elidedText(text, Qt::ElideRight, width));

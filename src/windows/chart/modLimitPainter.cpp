@@ -75,11 +75,21 @@ int CountOver(const cChartScene& scene, int series)
     return over;
 }
 
+// In words where that leaves room for the name.
+QString OverText(const cChartScene& scene, const cChartLayout::cPanel& panel, int over)
+{
+    const QStringList count{QString::number(over)};
+    const QString words = cText::Tr("{0} × darüber", count);
+    const double name = scene.Metrics.horizontalAdvance(scene.Data.Series[panel.Series].Name) * 1.2;
+    const bool hasRoom = name + scene.Em() + scene.Metrics.horizontalAdvance(words) <= panel.Title.width();
+    return over == 0 ? QString() : hasRoom ? words : cText::Tr("{0} ×", count);
+}
+
 // The name with the limit, and how often more was spent than was to be.
 void PaintTitle(QPainter& painter, const cChartScene& scene, const cChartLayout::cPanel& panel)
 {
     const int over = CountOver(scene, panel.Series);
-    const QString text = over > 0 ? cText::Tr("{0} × darüber", {QString::number(over)}) : QString();
+    const QString text = OverText(scene, panel, over);
     painter.setFont(scene.Style.Font);
     painter.setPen(modTone::Expense(scene.Style.Palette));
     painter.drawText(panel.Title, Qt::AlignRight | Qt::AlignVCenter, text);
@@ -109,6 +119,7 @@ void PaintLabels(QPainter& painter, const cChartScene& scene, const cChartLayout
         width = std::max(width, scene.Metrics.horizontalAdvance(scene.Data.ShortLabel(index)));
     }
     const int step = cChartAxis::LabelStep(scene.LabelCount(), width + scene.Em() * 0.8, panel.Plot.width());
+    painter.setFont(scene.Style.Font);
     painter.setPen(modTone::Quiet(scene.Style.Palette));
     for (int index = 0; index < scene.LabelCount(); index += step) {
         QRectF box(0, panel.Plot.bottom() + scene.Em() * 0.2, width + 2, scene.Em() * 1.1);

@@ -152,6 +152,7 @@ void frmMain::BuildPages()
 
 void frmMain::BuildStatusBar()
 {
+    m_failureMark->setObjectName(u"cmdFehlerprotokoll"_s);
     m_failureMark->setAutoRaise(true);
     m_failureMark->setIcon(modIcon::Get(u"warnung"_s));
     m_failureMark->setText(cText::Tr("Fehlerprotokoll"));
