@@ -73,14 +73,16 @@ private:
         if (at == m_told.constEnd()) {
             return;
         }
-        if (at->Is(cTold::Focusable) && widget.focusProxy() == nullptr && at->Name.isEmpty()) {
+        const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        const bool needsName = (button != nullptr && !button->inherits("QTableCornerButton"))
+            || (at->Is(cTold::Focusable) && widget.focusProxy() == nullptr);
+        if (needsName && at->Name.isEmpty()) {
             Note(u"no name"_s, widget);
         }
         if (at->Is(cTold::Enabled) != widget.isEnabled()) {
             Note(u"told as enabled or not, and is the other"_s, widget);
         }
-        if (const auto* button = qobject_cast<const QAbstractButton*>(&widget);
-            button != nullptr && at->Is(cTold::Checked) != button->isChecked()) {
+        if (button != nullptr && at->Is(cTold::Checked) != button->isChecked()) {
             Note(u"told as checked or not, and is the other"_s, widget);
         }
         if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
