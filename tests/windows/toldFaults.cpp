@@ -107,10 +107,13 @@ private:
 
     void LookAtChecks(const QAbstractItemView& view, const cTold& told)
     {
-        const QModelIndexList shown = view.model() == nullptr
+        QModelIndexList shown = view.model() == nullptr
             ? QModelIndexList()
             : view.model()->match(view.model()->index(0, 0), Qt::CheckStateRole, Qt::Checked, -1,
                                   Qt::MatchExactly | Qt::MatchRecursive);
+        shown.removeIf([&view](const QModelIndex& index) { // of the rows in sight, as the toolkit sees it
+            return !view.rect().intersects(view.visualRect(index).translated(view.viewport()->pos()));
+        });
         const auto checked = std::count_if(told.Children.begin(), told.Children.end(), [this](const QString& path) {
             return m_told.value(path).Is(cTold::Checked);
         });
