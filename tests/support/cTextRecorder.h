@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPaintDevice>
 #include <QPaintEngine>
+#include <QPainterPath>
 #include <QRectF>
 #include <QSize>
 #include <QString>

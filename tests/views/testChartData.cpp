@@ -82,6 +82,8 @@ private Q_SLOTS:
         cChartData british = main;
         british.Decimal = eDecimal::Point;
         QCOMPARE(modChartTable::Text(british, share, 540), u"5.4 %"_s);
+        const QString told = modChartTable::ToldText(main).replace(QChar(QChar::Nbsp), u' ');
+        QVERIFY2(told.contains(u"\nWohnen: 2026 750,00 €, Anteil 75 %\n"_s), qPrintable(told));
         const cChartTarget target = main.Series[0].TargetAt(0);
         QCOMPARE(target.Kind, cChartTarget::eKind::Deeper);
         wish.Group = target.Node->Group;

@@ -10,6 +10,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QThread>
+#include <QVariantList>
 
 #include <functional>
 #include <utility>

@@ -29,7 +29,8 @@ private Q_SLOTS:
     void FaultsAreFound();
 
 private:
-    QStringList Faults(QWidget& window);
+    QStringList Faults(const QWidget& page) const;
+    QStringList FaultsOfAllPages(QWidget& window) const;
 
     cScreenReader m_reader;
 };
@@ -40,17 +41,29 @@ void testToldWindows::initTestCase()
     QVERIFY2(m_reader.Join(), qPrintable(m_reader.Fault()));
 }
 
-// With every page of every book of tabs once.
-QStringList testToldWindows::Faults(QWidget& window)
+// A window that still changes while it is read is read again, until it stays as it was.
+QStringList testToldWindows::Faults(const QWidget& page) const
 {
-    QStringList faults = modToldFaults::Of(window, m_reader.Read());
+    QStringList before;
+    QStringList faults = modToldFaults::Of(page, m_reader.Read());
+    while (!faults.isEmpty() && faults != before) {
+        before = faults;
+        faults = modToldFaults::Of(page, m_reader.Read());
+    }
+    return faults;
+}
+
+// With every page of every book of tabs once.
+QStringList testToldWindows::FaultsOfAllPages(QWidget& window) const
+{
+    QStringList faults = Faults(window);
     const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
     for (QTabWidget* tabs : books) {
         const int shown = tabs->currentIndex();
         for (int page = 0; page < tabs->count(); ++page) {
             if (tabs->isVisible() && page != shown) {
                 tabs->setCurrentIndex(page);
-                faults += modToldFaults::Of(window, m_reader.Read());
+                faults += Faults(window);
             }
         }
     }
@@ -73,7 +86,7 @@ void testToldWindows::TellWhatTheyShow()
     QVERIFY(open.Window);
     open.Window->show();
     QVERIFY(QTest::qWaitForWindowExposed(open.Window.get()));
-    const QStringList faults = Faults(*open.Window);
+    const QStringList faults = FaultsOfAllPages(*open.Window);
     for (const QString& fault : faults) {
         qWarning("%s", qPrintable(fault)); // a message of the test itself would be cut
     }

@@ -73,14 +73,16 @@ private:
         if (at == m_told.constEnd()) {
             return;
         }
-        if (at->Is(cTold::Focusable) && widget.focusProxy() == nullptr && at->Name.isEmpty()) {
+        const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        const bool needsName = (button != nullptr && !button->inherits("QTableCornerButton"))
+            || (at->Is(cTold::Focusable) && widget.focusProxy() == nullptr);
+        if (needsName && at->Name.isEmpty()) {
             Note(u"no name"_s, widget);
         }
         if (at->Is(cTold::Enabled) != widget.isEnabled()) {
             Note(u"told as enabled or not, and is the other"_s, widget);
         }
-        if (const auto* button = qobject_cast<const QAbstractButton*>(&widget);
-            button != nullptr && at->Is(cTold::Checked) != button->isChecked()) {
+        if (button != nullptr && at->Is(cTold::Checked) != button->isChecked()) {
             Note(u"told as checked or not, and is the other"_s, widget);
         }
         if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
@@ -105,10 +107,13 @@ private:
 
     void LookAtChecks(const QAbstractItemView& view, const cTold& told)
     {
-        const QModelIndexList shown = view.model() == nullptr
+        QModelIndexList shown = view.model() == nullptr
             ? QModelIndexList()
             : view.model()->match(view.model()->index(0, 0), Qt::CheckStateRole, Qt::Checked, -1,
                                   Qt::MatchExactly | Qt::MatchRecursive);
+        shown.removeIf([&view](const QModelIndex& index) { // of the rows in sight, as the toolkit sees it
+            return !view.rect().intersects(view.visualRect(index).translated(view.viewport()->pos()));
+        });
         const auto checked = std::count_if(told.Children.begin(), told.Children.end(), [this](const QString& path) {
             return m_told.value(path).Is(cTold::Checked);
         });
