@@ -48,6 +48,12 @@ void testColumnWidth::StoredWidthsFollowTheTypeSize()
     const std::optional<cListLayout> old = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0"_s, 2);
     QVERIFY(old);
     QCOMPARE(old->ForLetter(8).Columns.front().Width, 60); // nobody knows what it was measured in
+
+    // A column that came with a later version does not cost the user the layout.
+    const std::optional<cListLayout> grown = cListLayout::FromText(u"1,60,1|0,0,0|sort,0,0"_s, 3, 2);
+    QVERIFY(grown);
+    QCOMPARE(grown->ToText(), u"1,60,1|0,0,0|2,0,1|sort,0,0"_s);
+    QVERIFY(!cListLayout::FromText(u"1,60,1|2,0,1|sort,0,0"_s, 3, 2));
 }
 
 TEST_CLASS(testColumnWidth, QCoreApplication)

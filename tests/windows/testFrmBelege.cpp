@@ -139,7 +139,7 @@ void testFrmBelege::FilesThatAreNoneAreSaid_data()
 
     QTest::newRow("no PDF") << u"a.pdf"_s << QByteArray("%PDF-1.7 kaputt") << u"Die Datei ist beschädigt"_s;
     QTest::newRow("half a picture") << u"a.png"_s << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452")
-                                    << u"Für diese Art von Datei"_s;
+                                    << u"Die Datei ist beschädigt"_s;
     QTest::newRow("no picture") << u"a.odt"_s << QByteArray("PK") << u"Für diese Art von Datei"_s;
 }
 
@@ -226,6 +226,8 @@ void testFrmBelege::OnlyReceiptsHangAtTheLineTheyFallOn()
     const auto fall = [&](const QString& path, const QPoint& at) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(tree.viewport(), &enter);
         QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(tree.viewport(), &event);
     };

@@ -170,6 +170,8 @@ void testFrmBuchung::FromOpeningToSavedWithoutMouse()
     Key(Qt::Key_Tab);
     QCOMPARE(FocusName(), u"cboInterval"_s);
     Key(Qt::Key_Tab);
+    QCOMPARE(FocusName(), u"cmdBeleg"_s);
+    Key(Qt::Key_Tab);
     QCOMPARE(FocusName(), u"chkCloseDialog"_s);
     Key(Qt::Key_Tab);
     auto* save = qobject_cast<QPushButton*>(QApplication::focusWidget());

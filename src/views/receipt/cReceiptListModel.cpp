@@ -27,8 +27,9 @@ QString Filter()
 
 QString SizeText(const cReceipts::cFile& file)
 {
-    return file.IsThere() ? QLocale(QLocale::German, QLocale::Germany).formattedDataSize(file.Size, 0)
-                          : cText::Tr("fehlt");
+    return file.IsThere()
+        ? QLocale(QLocale::German, QLocale::Germany).formattedDataSize(file.Size, 0, QLocale::DataSizeSIFormat)
+        : cText::Tr("fehlt");
 }
 
 } // namespace

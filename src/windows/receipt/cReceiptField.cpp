@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 cReceiptField::cReceiptField(QWidget* parent)
     : QWidget(parent),
       m_text(new QLabel(this)),
-      m_button(new QPushButton(cText::Tr("Beleg hin&zufügen"), this)),
+      m_button(new QPushButton(cText::Tr("Bele&g hinzufügen"), this)),
       m_clear(nullptr)
 {
     auto* menu = new QMenu(m_button);

@@ -5,6 +5,7 @@
 #include "windows/receipt/cPreviewView.h"
 #include "windows/receipt/modReceiptMime.h"
 #include "windows/widget/cFlowLayout.h"
+#include "windows/widget/cRowDelegate.h"
 #include "windows/widget/cTurningSplitter.h"
 #include "windows/widget/modPlace.h"
 
@@ -54,6 +55,7 @@ frmBelege::frmBelege(cReceiptListModel& receipts, QWidget* parent)
 QWidget* frmBelege::BuildList()
 {
     m_list->setModel(&m_receipts);
+    m_list->setItemDelegate(new cRowDelegate(m_list));
     m_list->setAccessibleName(cText::Tr("Belege"));
     m_list->setTextElideMode(Qt::ElideMiddle); // the number and the size stand at the end
     m_list->setUniformItemSizes(true);
