@@ -1,6 +1,7 @@
 #include "app/cNavigation.h"
 
 #include "app/cBankWindows.h"
+#include "app/cHouseholdWindows.h"
 #include "app/cSheetWindows.h"
 #include "app/cUpdateWindows.h"
 #include "app/modBuild.h"
@@ -16,7 +17,6 @@
 #include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
 #include "views/book/cPasswordFlow.h"
-#include "views/budget/cBudgetModel.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/export/cEntryExport.h"
 #include "views/export/cEntryExtract.h"
@@ -28,8 +28,6 @@
 #include "views/main/modCommand.h"
 #include "views/main/modViewText.h"
 #include "views/overview/cOverviewModel.h"
-#include "views/people/cPeople.h"
-#include "views/people/cSettlementModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
 #include "views/statement/cSeriesCheck.h"
@@ -41,7 +39,6 @@
 #include "windows/book/frmPasswort.h"
 #include "windows/book/frmPruefung.h"
 #include "windows/book/frmSicherungen.h"
-#include "windows/budget/frmBudget.h"
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
@@ -51,8 +48,6 @@
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
 #include "windows/overview/frmUebersicht.h"
-#include "windows/people/frmAusgleich.h"
-#include "windows/people/frmPersonen.h"
 #include "windows/print/cListPrinter.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/statement/frmImport.h"
@@ -98,6 +93,7 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &model, &cMainModel::BookChanged);
     QObject::connect(m_national.get(), &cNationalSettings::CultureChanged, &review, &cImportReview::Refresh);
     m_receipts = std::make_unique<cReceiptWindows>(m_parts.Tools, model);
+    m_household = std::make_unique<cHouseholdWindows>(m_parts.Tools, model, m_printer);
     QObject::connect(&window, &frmMain::ReceiptsDropped, &model,
                      [this](int entryId, const QStringList& paths) { m_receipts->Add(entryId, paths); });
     window.AddToView(new cLanguageMenu(*m_national, &window));
@@ -486,37 +482,6 @@ void cNavigation::OpenRules()
     form.exec();
 }
 
-void cNavigation::OpenBudget()
-{
-    cBudgetModel budget(m_parts.Tools);
-    QObject::connect(&budget, &cBudgetModel::Saved, m_model, [this] { BookChanged(); });
-    frmBudget form(budget, Parent());
-    form.exec();
-}
-
-void cNavigation::OpenPeople(QWidget* parent)
-{
-    cPeople people(m_parts.Tools);
-    frmPersonen form(people, parent);
-    QObject::connect(&form, &frmPersonen::PeopleChanged, m_model, &cMainModel::BookChanged);
-    form.exec();
-}
-
-void cNavigation::OpenSettlement()
-{
-    cSettlementModel settlement(m_parts.Tools);
-    frmAusgleich form(settlement, Parent());
-    QObject::connect(&form, &frmAusgleich::PeopleRequested, &form, [&] {
-        OpenPeople(&form);
-        form.Refresh();
-    });
-    QObject::connect(&form, &frmAusgleich::PrintRequested, &form, [&] {
-        cReportPrinter pages(settlement.Html(), form.font().family(), QStringLiteral("Kontorelle"));
-        m_printer.Print(pages, &form);
-    });
-    form.exec();
-}
-
 cBankWindows& cNavigation::Banks()
 {
     if (!m_banks) {
@@ -620,9 +585,9 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
     case modCommand::Rules: OpenRules(); break;
-    case modCommand::Budget: OpenBudget(); break;
-    case modCommand::People: OpenPeople(Parent()); break;
-    case modCommand::Settlement: OpenSettlement(); break;
+    case modCommand::Budget:
+    case modCommand::People:
+    case modCommand::Settlement: m_household->Open(command, Parent()); break;
     case modCommand::FetchTransactions: OpenFetch(); break;
     case modCommand::BankLogins: Banks().OpenLogins(Parent()); break;
     case modCommand::CopyRows:

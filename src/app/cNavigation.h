@@ -17,6 +17,7 @@
 
 class cAmountFormat;
 class cBankWindows;
+class cHouseholdWindows;
 class cBook;
 class cBookHost;
 class cConfiguration;
@@ -103,9 +104,6 @@ private:
     void MakeBackup();
     void OpenNationalSettings();
     void OpenRules();
-    void OpenBudget();
-    void OpenPeople(QWidget* parent);
-    void OpenSettlement();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
     void OpenReceipts(modCommand::eId command);
@@ -133,6 +131,7 @@ private:
     frmStatistik* m_statisticsPage = nullptr;
     std::unique_ptr<cSheetWindows> m_sheets;
     std::unique_ptr<cReceiptWindows> m_receipts;
+    std::unique_ptr<cHouseholdWindows> m_household;
     std::unique_ptr<cBankWindows> m_banks;       // from the first one on
     std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on

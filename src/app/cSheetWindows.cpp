@@ -64,6 +64,9 @@ void cSheetWindows::Connect(frmSuche& search)
 
 void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget* parent)
 {
+    if (m_model.IsReadOnly()) {
+        return;
+    }
     cManyChange change(m_tools, rows);
     frmMehrere form(change, parent);
     if (form.exec() == QDialog::Accepted) {

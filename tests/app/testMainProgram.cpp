@@ -3,6 +3,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
+#include "model/modWord.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
@@ -118,6 +119,33 @@ private Q_SLOTS:
         QTRY_VERIFY(line->isVisible());
         QVERIFY2(line->accessibleName().startsWith(u"Heute fällig: Miete & mehr"_s), qPrintable(line->text()));
         QVERIFY(program.Window().close());
+    }
+
+    // Kept from the menu, shown again by its key, and still so at the next start.
+    void KeptViewComesBackByItsKey() const
+    {
+        cMachine machine;
+        const QString path = machine.File.Make(oneEntry);
+        for (const bool isFirst : {true, false}) {
+            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            QVERIFY(program.Start({.Book = path}));
+            cMainModel& model = program.Model();
+            program.Window().ShowPage(frmMain::ePage::Entries);
+            if (isFirst) {
+                model.TypeFilter(u"miete"_s);
+                model.ChooseGrouping(u"Nach Monat"_s);
+                machine.User.Choices = {u"Wohnen"_s};
+                model.Execute(modCommand::SaveView);
+            }
+            model.TypeFilter({});
+            model.ChooseGrouping(modWord::KeineGruppierung);
+            program.Window().show();
+            QVERIFY(QTest::qWaitForWindowActive(&program.Window()));
+            QTest::keyClick(&program.Window(), Qt::Key_1, Qt::ControlModifier);
+            QCOMPARE(model.View().Filter, u"miete"_s);
+            QCOMPARE(model.View().Grouping, u"Nach Monat"_s);
+            program.Window().close();
+        }
     }
 
     // From the menu to the colours of an open window, and still so at the next start.

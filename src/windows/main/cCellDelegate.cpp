@@ -10,7 +10,15 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <utility>
+
+namespace {
+
+constexpr int leastTextLetters = 26; // width of a field
+constexpr int leastAmountLetters = 16;
+
+} // namespace
 
 cCellDelegate::cCellDelegate(cCellEdit& cells, QObject* parent) : cEntryDelegate(parent), m_cells(cells)
 {
@@ -63,6 +71,20 @@ void cCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) con
         line.setText(m_text);
         line.selectAll();
     }
+}
+
+void cCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                         const QModelIndex& index) const
+{
+    const int letters = index.column() == cEntryListModel::Amount ? leastAmountLetters : leastTextLetters;
+    const QRect room = editor->parentWidget()->rect();
+    QRect place = option.rect;
+    place.setWidth(std::min(std::max(place.width(), letters * option.fontMetrics.averageCharWidth()), room.width()));
+    if (index.column() == cEntryListModel::Amount) {
+        place.moveRight(option.rect.right()); // in line with the other amounts
+    }
+    place.moveLeft(std::clamp(place.left(), 0, room.width() - place.width()));
+    editor->setGeometry(place);
 }
 
 QString cCellDelegate::TextOf(const QWidget& editor)

@@ -160,10 +160,10 @@ void cEntryTree::startDrag(Qt::DropActions /*actions*/)
     if (keys.isEmpty()) {
         return;
     }
-    auto* data = new QMimeData;
-    data->setData(modRowDrag::Format, modRowDrag::ToBytes(keys));
-    auto* drag = new QDrag(this); // it goes by itself, and the data with it
-    drag->setMimeData(data);
+    auto* rows = new QMimeData;
+    rows->setData(modRowDrag::Format, modRowDrag::ToBytes(keys));
+    auto* drag = new QDrag(this); // it goes by itself, and the rows with it
+    drag->setMimeData(rows);
     drag->exec(Qt::CopyAction);
 }
 

@@ -30,7 +30,7 @@ frmSuche::frmSuche(cSearchModel& model, QWidget* parent)
       m_sums(new cSumBar(this)),
       m_edit(new QPushButton(modIcon::Get(u"bearbeiten"_s), cText::Tr("&Eintrag bearbeiten"), this)),
       m_delete(new QPushButton(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
-      m_change(new QPushButton(cText::Tr("&Mehrere ändern…"), this)),
+      m_change(new QPushButton(cText::Tr("Me&hrere ändern…"), this)),
       m_clear(new QPushButton(cText::Tr("&Neue Suche"), this)),
       m_close(new QPushButton(cText::Tr("S&chließen"), this))
 {
