@@ -88,6 +88,7 @@ private Q_SLOTS:
     void MnemonicsAreUniqueInEachMenu();
     void CellsAreTypedInTheList();
     void BadAmountStaysInItsCell();
+    void ClickElsewhereStoresTheCell();
     void RowsGoToTheClipboard();
     void RowsAreDroppedOnAnAccount();
     void DayIsJumpedTo();
@@ -410,6 +411,21 @@ void testFrmMain::CellsAreTypedInTheList()
     scene.Model.Execute(modCommand::Undo);
     scene.Model.Execute(modCommand::Undo);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID), scene.First);
+}
+
+// It is stored, and what was clicked stays clicked.
+void testFrmMain::ClickElsewhereStoresTheCell()
+{
+    cScene scene;
+    scene.Tree().setCurrentIndex(scene.Model.Entries().index(0, cEntryListModel::Description));
+    QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+    QTest::keyClicks(QApplication::focusWidget(), u"Markt"_s);
+    const QRect other = scene.Tree().visualRect(scene.Model.Entries().index(1, 0));
+    QTest::mouseClick(scene.Tree().viewport(), Qt::LeftButton, {}, other.center());
+    QTest::qWait(5);
+    QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryDescription, u"Markt"_s);
+    QCOMPARE(scene.Model.Selection().size(), 1);
+    QCOMPARE(scene.Model.Selection().first().ID, scene.Second.ID);
 }
 
 void testFrmMain::BadAmountStaysInItsCell()

@@ -27,7 +27,7 @@ cCellDelegate::cCellDelegate(cCellEdit& cells, QObject* parent) : cEntryDelegate
 std::optional<cCellDelegate::cTyped> cCellDelegate::TakeTyped()
 {
     std::optional<cTyped> typed = std::exchange(m_typed, std::nullopt);
-    const int step = std::exchange(m_step, 0);
+    const std::optional<int> step = std::exchange(m_step, std::nullopt);
     if (typed) {
         typed->Step = step;
     }
@@ -97,7 +97,7 @@ QString cCellDelegate::TextOf(const QWidget& editor)
 
 void cCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*model*/, const QModelIndex& index) const
 {
-    m_typed = cTyped{index, TextOf(*editor), 0};
+    m_typed = cTyped{index, TextOf(*editor)};
 }
 
 // Marks what cannot be taken, and the field stays.

@@ -20,7 +20,7 @@ public:
     {
         QPersistentModelIndex Cell;
         QString Text;
-        int Step = 0;
+        std::optional<int> Step{}; // none: the field was left by a click elsewhere
     };
 
     // `cells` outlives the delegate.
@@ -50,5 +50,5 @@ private:
     QString m_text;
     mutable int m_column = 0;              // of the field that is open
     mutable std::optional<cTyped> m_typed; // the base class tells of it in const functions
-    int m_step = 0;
+    std::optional<int> m_step;
 };

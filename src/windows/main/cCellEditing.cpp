@@ -67,7 +67,9 @@ void cCellEditing::Finish()
     if (saved == cCellEdit::eSaved::Saved) {
         Q_EMIT Written();
     }
-    GoOn(m_cells.SavedKey(), column, typed->Step);
+    if (typed->Step) {
+        GoOn(m_cells.SavedKey(), column, *typed->Step);
+    }
 }
 
 // Behind the last cell of a line comes the first one of the next.
