@@ -95,6 +95,7 @@ bool TakePeople(cCamera& camera)
     Settle();
     window.findChild<cEntryTree*>()->setCurrentIndex(main.Entries().index(1, 0));
     camera.Take(window, u"schlagwort-liste"_s);
+    window.hide(); // the form takes the focus
     cEntryEditor editor(tools);
     frmBuchung form(editor, editor.Start({}));
     form.show();
