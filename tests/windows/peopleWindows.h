@@ -8,24 +8,31 @@
 #include "windows/people/frmAusgleich.h"
 #include "windows/people/frmPersonen.h"
 
+#include <QObject>
+
 #include <memory>
 
 // The windows of a household of several, each with what it shows.
 namespace modPeopleWindows {
 
+// A model that ends with its window.
 template <typename tModel>
-struct cOwned
+class cKept final : public QObject
 {
+public:
+    explicit cKept(const cBookTools& tools) : Model(tools) {}
+
     tModel Model;
 };
 
-// A window that keeps its model alive.
-template <typename tModel, typename tForm>
-class cWindow final : cOwned<tModel>, public tForm
+template <typename tForm, typename tModel>
+std::unique_ptr<QWidget> Make(const cBookTools& tools)
 {
-public:
-    explicit cWindow(const cBookTools& tools) : cOwned<tModel>{tModel(tools)}, tForm(this->Model) {}
-};
+    auto kept = std::make_unique<cKept<tModel>>(tools);
+    auto window = std::make_unique<tForm>(kept->Model);
+    kept.release()->setParent(window.get());
+    return window;
+}
 
 // Two people with names that the book holds as other data too, one of whom has paid something.
 inline void Fill(const cBookTools& tools)
@@ -47,13 +54,13 @@ inline void Fill(const cBookTools& tools)
 inline std::unique_ptr<QWidget> People(const cBookTools& tools)
 {
     Fill(tools);
-    return std::make_unique<cWindow<cPeople, frmPersonen>>(tools);
+    return Make<frmPersonen, cPeople>(tools);
 }
 
 inline std::unique_ptr<QWidget> Settlement(const cBookTools& tools)
 {
     Fill(tools);
-    return std::make_unique<cWindow<cSettlementModel, frmAusgleich>>(tools);
+    return Make<frmAusgleich, cSettlementModel>(tools);
 }
 
 } // namespace modPeopleWindows

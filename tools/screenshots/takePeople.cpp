@@ -5,20 +5,16 @@
 #include "support/cFakeNavigator.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
-#include "views/entry/cEntryEditor.h"
 #include "views/main/cMainModel.h"
 #include "views/people/cPeople.h"
 #include "views/people/cSettlementModel.h"
 #include "views/statistics/cStatisticsModel.h"
-#include "windows/entry/frmBuchung.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/frmMain.h"
 #include "windows/people/frmAusgleich.h"
 #include "windows/people/frmPersonen.h"
 #include "windows/statistics/frmStatistik.h"
-#include "windows/widget/cPickList.h"
 
-#include <QLineEdit>
 #include <QTabWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -95,16 +91,6 @@ bool TakePeople(cCamera& camera)
     Settle();
     window.findChild<cEntryTree*>()->setCurrentIndex(main.Entries().index(1, 0));
     camera.Take(window, u"schlagwort-liste"_s);
-    cEntryEditor editor(tools);
-    frmBuchung form(editor, editor.Start({}));
-    form.show();
-    form.activateWindow();
-    auto* text = form.findChild<QLineEdit*>(u"txtBeschreibung"_s);
-    text->setFocus();
-    Settle();
-    text->setText(u"Museum #"_s);
-    Q_EMIT text->textEdited(text->text());
-    camera.Take(*form.findChild<cPickList*>(), u"schlagwort-eingabe"_s);
     TakeStatistics(camera, scene, main, navigator);
     cPeople people(tools);
     frmPersonen persons(people);

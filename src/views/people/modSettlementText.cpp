@@ -125,7 +125,7 @@ QString modSettlementText::Html(const cSettlement& settlement, const cAmountForm
         html += Title(cText::Tr("Wer hat was bezahlt und zu tragen")) + People(settlement, format)
             + Title(cText::Tr("Was gezählt wurde")) + Counted(settlement, format);
     }
-    return html + u"<p>"_s + cText::Tr("Dieser Bericht wurde am {0} erstellt.", {modDate::ToText(today)})
+    return html + u"<br><p>"_s + cText::Tr("Dieser Bericht wurde am {0} erstellt.", {modDate::ToText(today)})
         + u"</p></div>"_s;
 }
 

@@ -2,6 +2,8 @@
 
 #include "windows/widget/cRowDelegate.h"
 
+class QPainter;
+
 // Paints entries: income and expense in their colours, future rows in italics, group heads bold, tags as labels that
 // can be clicked.
 class cEntryDelegate : public cRowDelegate

@@ -38,6 +38,9 @@ public:
         }
         const QString shown = m_metrics.elidedText(text, Qt::ElideRight, room - 2 * margin);
         m_isFull = shown != text;
+        if (m_isFull && shown.size() < 2) {
+            return; // a label without letters says nothing
+        }
         const int width = m_metrics.horizontalAdvance(shown) + 2 * margin;
         m_pieces.append({shown, QRect(m_left, m_rect.top(), width, m_rect.height()), isTag});
         m_left += width;

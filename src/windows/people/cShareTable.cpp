@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/people/cPeople.h"
+#include "windows/widget/cRowDelegate.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -11,7 +12,9 @@ cShareTable::cShareTable(cPeople& people, QWidget* parent) : QTableWidget(parent
     setAccessibleName(cText::Tr("Anteile in Prozent"));
     setTabKeyNavigation(false); // Tab leaves the table, the arrow keys go from cell to cell
     setEditTriggers(AnyKeyPressed | DoubleClicked | EditKeyPressed | SelectedClicked);
-    verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    setWordWrap(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(cRowDelegate::RowHeight(fontMetrics()));
     connect(this, &QTableWidget::cellChanged, this, &cShareTable::Take);
     Show();
 }
