@@ -35,7 +35,7 @@ def own_names(path):
             elif line.startswith('#define '):
                 names.add(re.split(r'[\s(]', line[len('#define '):])[0])
             elif found := TYPE.match(line):
-                if not line.endswith(';'):
+                if '{' in line or not line.endswith(';'):
                     names.add(found.group(1))
             elif inside and line and (line[0].isalpha()) and not line.endswith(':'):
                 found = OTHER.match(line)
