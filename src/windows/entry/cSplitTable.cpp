@@ -174,9 +174,10 @@ QSize cSplitTable::sizeHint() const
     return {fontMetrics().averageCharWidth() * 88, horizontalHeader()->sizeHint().height() + lines + 2 * frameWidth()};
 }
 
+// One line less, where a large type on a small screen needs the room.
 QSize cSplitTable::minimumSizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 50, sizeHint().height()};
+    return {fontMetrics().averageCharWidth() * 50, sizeHint().height() - verticalHeader()->defaultSectionSize()};
 }
 
 void cSplitTable::keyPressEvent(QKeyEvent* event)
