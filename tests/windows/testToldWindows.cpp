@@ -1,6 +1,6 @@
 #include "cScreenReader.h"
+#include "everyWindow.h"
 #include "support/cTestClass.h"
-#include "support/everyWindow.h"
 #include "toldFaults.h"
 #include "windows/widget/modChoiceAccess.h"
 
