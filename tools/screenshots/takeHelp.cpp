@@ -13,6 +13,7 @@
 #include "windows/help/frmUeber.h"
 
 #include <QLineEdit>
+#include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
 
