@@ -45,7 +45,7 @@ hits=$(grep -nHE "$papers" "${files[@]}" "${prose[@]}" 2>/dev/null)
 [ -n "$hits" ] && fail 'explain it here, or leave it out' "$hits"
 
 # A key that All or Families leave out would not be spared by a reset.
-keys=$(cat src/model/mod*Key.h | grep -cE '^inline const cSetting(Key|Family) ')
+keys=$(grep -cE '^inline const cSetting(Key|Family) ' src/model/modSettingKey.h)
 listed=$(grep -oE '&[A-Z][A-Za-z]+' src/model/modSettingKey.cpp | sort -u | wc -l)
 [ "$keys" -eq "$listed" ] || fail 'a setting is missing in All or Families' "src/model/modSettingKey.cpp: $listed of $keys"
 

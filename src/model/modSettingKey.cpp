@@ -1,6 +1,5 @@
 #include "model/modSettingKey.h"
 
-#include "model/modReminderKey.h"
 
 #include <algorithm>
 #include <array>

@@ -54,7 +54,8 @@ inline const cSettingKey People{QStringLiteral("Personen"), {List, Book, Kept}};
 inline const cSettingFamily AccountShares{QStringLiteral("Anteile:"), {}, {Text, Book, Kept}}; // account; see modPeople
 inline const cSettingKey ReceiptsInBackup{QStringLiteral("BelegeSichern"), {Truth, Book, Cleared, Off}};
 inline const cSettingKey RemindByDesktop{QStringLiteral("ErinnerungMelden"), {Truth, Book, Cleared, Off}};
-inline const cSettingKey SavedViews{QStringLiteral("Ansichten"), {List, Book, Kept}}; // see modSavedView
+inline const cSettingKey RemindedOn{QStringLiteral("ErinnerungGemeldet"), {Day, Book}}; // the day of the last note
+inline const cSettingKey SavedViews{QStringLiteral("Ansichten"), {List, Book, Kept}};   // see modSavedView
 inline const cSettingKey GameScores{QStringLiteral("SpielBestwerte"), {List, Book, Kept}};
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
 inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};      // number: account of the book

@@ -6,7 +6,7 @@
 #include "base/modDate.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
-#include "model/modReminderKey.h"
+#include "model/modSettingKey.h"
 #include "model/modSettingKey.h"
 #include "views/main/cNavigator.h"
 

@@ -32,9 +32,9 @@ struct cType
     QString ShortName;
 };
 
-const std::array<cType, 4>& Types()
+const std::array<cType, 5>& Types()
 {
-    static const std::array<cType, 4> types{
+    static const std::array<cType, 5> types{
         cType{eReport::Average, QT_TRANSLATE_NOOP("cText", "Durchschnittswerte"), u"durchschnitt"_s},
         cType{eReport::Sum, QT_TRANSLATE_NOOP("cText", "Summe aller Werte"), u"summe"_s},
         cType{eReport::Limit, QT_TRANSLATE_NOOP("cText", "Monatslimit"), u"limit"_s},
