@@ -3829,14 +3829,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>the subcategories of this main category</translation>
     </message>
     <message>
-        <source>Verlauf: Monate der Vorschau, ohne Angabe 12</source>
-        <translation>verlauf (balances): months of the forecast, 12 unless told otherwise</translation>
-    </message>
-    <message>
-        <source>Verlauf: Vorschau mit dem Durchschnitt der Einzelausgaben</source>
-        <translation>verlauf (balances): forecast with the average of one-off expenses</translation>
-    </message>
-    <message>
         <source>ohne Startguthaben</source>
         <translation>without opening balances</translation>
     </message>
@@ -3891,10 +3883,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>Sonstiges</source>
         <translation>Miscellaneous</translation>
-    </message>
-    <message>
-        <source>rechnet einen Bericht aus: durchschnitt (je Monat), summe oder limit; ohne Angabe für das aktuelle Jahr</source>
-        <translation>calculates a report: durchschnitt (average per month), summe (total) or limit; of the current year unless told otherwise</translation>
     </message>
     <message>
         <source>nach Betrag geordnet statt nach Namen</source>
@@ -9164,6 +9152,1176 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
     <message>
         <source>Das Konto &apos;{0}&apos; steht zweimal da. Bitte lassen Sie eine der beiden Zeilen leer.</source>
         <translation>Account &apos;{0}&apos; is listed twice. Please leave one of the two lines empty.</translation>
+    </message>
+    <message>
+        <source>Serie: Tag, bis zu dem der Vertrag kündbar ist, oder &quot;ohne&quot;</source>
+        <translation>series: day until which the contract can be cancelled, or &quot;ohne&quot;</translation>
+    </message>
+    <message>
+        <source>Kündbar ist nur eine Serie. Bitte nennen Sie auch --interval.</source>
+        <translation>Only a series can be cancelled. Please name --interval as well.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Jahr und kein Monat. Bitte geben Sie 2026 oder 2026-03 an.</source>
+        <translation>&apos;{0}&apos; is neither a year nor a month. Please give 2026 or 2026-03.</translation>
+    </message>
+    <message>
+        <source>Budget</source>
+        <translation>Budget</translation>
+    </message>
+    <message>
+        <source>Übertrag</source>
+        <translation>Carried over</translation>
+    </message>
+    <message>
+        <source>Übrig</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist keine Kategorie für Ausgaben und hat kein Budget.</source>
+        <translation>&apos;{0}&apos; is no category for expenses and has no budget.</translation>
+    </message>
+    <message>
+        <source>Ein Limit kann nicht unter null liegen. Bitte geben Sie den Betrag ohne Minus ein.</source>
+        <translation>A limit cannot be below zero. Please enter the amount without a minus sign.</translation>
+    </message>
+    <message>
+        <source>--only nennt den Monat, der den Betrag eines Jahres allein bekommt: &quot;budget set Versicherung 2026 600 --only 2026-01&quot;.</source>
+        <translation>--only names the month that gets the amount of a year alone: &quot;budget set Versicherung 2026 600 --only 2026-01&quot;.</translation>
+    </message>
+    <message>
+        <source>Übertragen wird von einem Januar an. Bitte geben Sie das Jahr an, oder &quot;aus&quot;.</source>
+        <translation>Carrying over begins with a January. Please give the year, or &quot;aus&quot;.</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie ein Jahr an, zum Beispiel 2026.</source>
+        <translation>Please give a year, for example 2026.</translation>
+    </message>
+    <message>
+        <source>Im Jahr {0} wurde in keiner dieser Kategorien etwas ausgegeben.</source>
+        <translation>In {0} nothing was spent in any of these categories.</translation>
+    </message>
+    <message>
+        <source>zeigt das Budget eines Monats (2026-03) mit dem, was ausgegeben und übrig ist, oder die Monate eines Jahres (2026); ohne Angabe den aktuellen Monat</source>
+        <translation>shows the budget of a month (2026-03) with what is spent and left, or the months of a year (2026); the current month unless said otherwise</translation>
+    </message>
+    <message>
+        <source>gibt einer Kategorie ein Limit für einen Monat, oder verteilt den Betrag eines Jahres auf zwölf Monate; &quot;ohne&quot; lässt wieder das Monatslimit gelten</source>
+        <translation>gives a category a limit for one month, or spreads the amount of a year over twelve months; &quot;ohne&quot; makes the monthly limit hold again</translation>
+    </message>
+    <message>
+        <source>der Betrag des Jahres gilt in diesem Monat allein</source>
+        <translation>the amount of the year holds in this month alone</translation>
+    </message>
+    <message>
+        <source>überträgt, was übrig bleibt, vom Januar dieses Jahres an in den nächsten Monat; &quot;aus&quot; statt des Jahres beendet das</source>
+        <translation>carries over what is left to the next month from January of this year on; &quot;aus&quot; in place of the year ends that</translation>
+    </message>
+    <message>
+        <source>macht aus den Ausgaben jedes Monats im Vorjahr das Budget eines Jahres, ohne Angabe des aktuellen</source>
+        <translation>makes the expenses of each month of the year before the budget of a year, of the current one unless said otherwise</translation>
+    </message>
+    <message>
+        <source>Verlauf, Vermögen: Monate der Vorschau, ohne Angabe 12</source>
+        <translation>balances, net worth: months of the forecast, 12 if left out</translation>
+    </message>
+    <message>
+        <source>Verlauf, Vermögen: Vorschau mit dem Durchschnitt der Einzelausgaben</source>
+        <translation>balances, net worth: forecast with the average of single expenses</translation>
+    </message>
+    <message>
+        <source>Summe: {0}</source>
+        <translation>Sum: {0}</translation>
+    </message>
+    <message>
+        <source>Möglich sind 1 bis {0} Tage.</source>
+        <translation>Possible are 1 to {0} days.</translation>
+    </message>
+    <message>
+        <source>zeigt, was in den nächsten Tagen fällig wird, und welche Verträge zu kündigen sind</source>
+        <translation>shows what is due in the next days, and which contracts have to be cancelled</translation>
+    </message>
+    <message>
+        <source>so viele Tage weit, heute eingeschlossen; ohne Angabe 14</source>
+        <translation>so many days ahead, today included; 14 if left out</translation>
+    </message>
+    <message>
+        <source>nur die Serien, die in diesen Tagen zu kündigen sind</source>
+        <translation>only the series that have to be cancelled within these days</translation>
+    </message>
+    <message>
+        <source>Beleg</source>
+        <translation>Receipt</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>fehlt</source>
+        <translation>missing</translation>
+    </message>
+    <message>
+        <source>Es fehlt kein Beleg.</source>
+        <translation>No receipt is missing.</translation>
+    </message>
+    <message>
+        <source>Zu keinem Eintrag gehört &apos;{0}&apos;.</source>
+        <translation>&apos;{0}&apos; belongs to no entry.</translation>
+    </message>
+    <message>
+        <source>Der Eintrag {0} hat keinen Beleg &apos;{1}&apos;.</source>
+        <translation>Entry {0} has no receipt &apos;{1}&apos;.</translation>
+    </message>
+    <message>
+        <source>Mit --yes wird er entfernt.</source>
+        <translation>With --yes it is removed.</translation>
+    </message>
+    <message>
+        <source>listet die Belege der Einträge, alle oder die der genannten</source>
+        <translation>lists the receipts of the entries, all of them or those named</translation>
+    </message>
+    <message>
+        <source>kopiert Dateien in den Ordner &quot;Belege&quot; neben der Datenbank und hängt sie an den Eintrag</source>
+        <translation>copies files to the folder &quot;Belege&quot; beside the database and attaches them to the entry</translation>
+    </message>
+    <message>
+        <source>nimmt einen Beleg vom Eintrag; die Datei kommt in den Papierkorb, wenn kein anderer Eintrag sie hat</source>
+        <translation>takes a receipt off the entry; the file goes to the trash when no other entry has it</translation>
+    </message>
+    <message>
+        <source>listet Belege, deren Datei fehlt, und Dateien, die zu keinem Eintrag gehören</source>
+        <translation>lists receipts whose file is missing, and files that belong to no entry</translation>
+    </message>
+    <message>
+        <source>rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit, budget oder schlagwort; ohne Angabe für das aktuelle Jahr</source>
+        <translation>calculates a report: durchschnitt (average per month), summe (total), limit, budget or schlagwort (by tag); of the current year unless told otherwise</translation>
+    </message>
+    <message>
+        <source>Schlagwort</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>zeigt die Schlagwörter (Wörter mit # in Beschreibungen) mit ihren Summen; ohne Angabe für das aktuelle Jahr</source>
+        <translation>shows the tags (words with # in descriptions) with their sums; of the current year if nothing is given</translation>
+    </message>
+    <message>
+        <source>Der Ordner &apos;{0}&apos; kann nicht angelegt werden.</source>
+        <translation>The folder &apos;{0}&apos; cannot be created.</translation>
+    </message>
+    <message>
+        <source>Der Beleg &apos;{0}&apos; konnte nicht nach &apos;{1}&apos; kopiert werden. Bitte prüfen Sie die Zugriffsrechte und den Speicherplatz.</source>
+        <translation>The receipt &apos;{0}&apos; could not be copied to &apos;{1}&apos;. Please check the access rights and the free space.</translation>
+    </message>
+    <message>
+        <source>Budget von &apos;{0}&apos; geändert</source>
+        <translation>Budget of &apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>Budget von {0} Kategorien geändert</source>
+        <translation>Budget of {0} categories changed</translation>
+    </message>
+    <message>
+        <source>Das Buch hat noch keine Kategorien für Ausgaben. Sie legen sie unter „Extras“, „Kategorie/Konto bearbeiten“ an.</source>
+        <translation>The book has no categories for expenses yet. You add them under &quot;Extras&quot;, &quot;Edit category/account&quot;.</translation>
+    </message>
+    <message>
+        <source>kein Limit, ausgegeben {0}</source>
+        <translation>no limit, spent {0}</translation>
+    </message>
+    <message>
+        <source>Budget {0}, Übertrag {1}, ausgegeben {2}, übrig {3}</source>
+        <translation>budget {0}, carried over {1}, spent {2}, left {3}</translation>
+    </message>
+    <message>
+        <source>Budget {0}, ausgegeben {1}, übrig {2}</source>
+        <translation>budget {0}, spent {1}, left {2}</translation>
+    </message>
+    <message>
+        <source>Nur Kategorien mit einem Limit zählen mit.</source>
+        <translation>Only categories with a limit count.</translation>
+    </message>
+    <message>
+        <source>Gilt in jedem Monat, der kein eigenes Limit hat.</source>
+        <translation>Holds in every month that has no limit of its own.</translation>
+    </message>
+    <message>
+        <source>Ergibt sich aus Betrag und Intervall der Kategorie.</source>
+        <translation>Follows from amount and interval of the category.</translation>
+    </message>
+    <message>
+        <source>Was übrig bleibt, geht seit {0} in den nächsten Monat.</source>
+        <translation>Since {0}, what is left goes on to the next month.</translation>
+    </message>
+    <message>
+        <source>Was übrig bleibt, verfällt am Monatsende.</source>
+        <translation>What is left expires at the end of the month.</translation>
+    </message>
+    <message>
+        <source>Ein Betrag hier wird auf zwölf Monate verteilt.</source>
+        <translation>An amount here is spread over twelve months.</translation>
+    </message>
+    <message>
+        <source>wird übertragen</source>
+        <translation>is carried over</translation>
+    </message>
+    <message>
+        <source>wird nicht übertragen</source>
+        <translation>is not carried over</translation>
+    </message>
+    <message>
+        <source>Im {0}, Geplantes zählt mit</source>
+        <translation>In {0}, with what is planned</translation>
+    </message>
+    <message>
+        <source>Übertragen</source>
+        <translation>Carry over</translation>
+    </message>
+    <message>
+        <source>Ist {0}</source>
+        <translation>Actual {0}</translation>
+    </message>
+    <message>
+        <source>Jahr {0}</source>
+        <translation>Year {0}</translation>
+    </message>
+    <message>
+        <source>Möchten Sie das geänderte Budget speichern?</source>
+        <translation>Do you want to save the changed budget?</translation>
+    </message>
+    <message>
+        <source>Keine Kategorie hat ein Limit.</source>
+        <translation>No category has a limit.</translation>
+    </message>
+    <message>
+        <source>Budget und Ausgaben je Monat</source>
+        <translation>Budget and expenses by month</translation>
+    </message>
+    <message>
+        <source>Budget und Ausgaben je Jahr</source>
+        <translation>Budget and expenses by year</translation>
+    </message>
+    <message>
+        <source>Ausgaben je Tag {0}</source>
+        <translation>Expenses by day {0}</translation>
+    </message>
+    <message>
+        <source>Übriges</source>
+        <translation>Others</translation>
+    </message>
+    <message>
+        <source>Geldfluss</source>
+        <translation>Money flow</translation>
+    </message>
+    <message>
+        <source>Herein</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>Hinaus</source>
+        <translation>Out</translation>
+    </message>
+    <message>
+        <source>Insgesamt</source>
+        <translation>Altogether</translation>
+    </message>
+    <message>
+        <source>Aus Erspartem</source>
+        <translation>From savings</translation>
+    </message>
+    <message>
+        <source>Bleibt übrig</source>
+        <translation>Left over</translation>
+    </message>
+    <message>
+        <source>Limits je Monat</source>
+        <translation>Limits by month</translation>
+    </message>
+    <message>
+        <source>{0}; Säulen: ausgegeben, Linie: Limit</source>
+        <translation>{0}; columns: spent, line: limit</translation>
+    </message>
+    <message>
+        <source>Limits je Jahr</source>
+        <translation>Limits by year</translation>
+    </message>
+    <message>
+        <source>Übrige Konten</source>
+        <translation>Other accounts</translation>
+    </message>
+    <message>
+        <source>Vermögen nach Konten</source>
+        <translation>Net worth by account</translation>
+    </message>
+    <message>
+        <source>Ausgaben und Einnahmen nach Schlagwörtern</source>
+        <translation>Expenses and income by tag</translation>
+    </message>
+    <message>
+        <source>{0}; Ausgaben ohne Schlagwort: {1}</source>
+        <translation>{0}; expenses without tag: {1}</translation>
+    </message>
+    <message>
+        <source>1 Beleg</source>
+        <translation>1 receipt</translation>
+    </message>
+    <message>
+        <source>{0} Belege</source>
+        <translation>{0} receipts</translation>
+    </message>
+    <message>
+        <source>zeigt PDF-Belege</source>
+        <translation>shows PDF receipts</translation>
+    </message>
+    <message>
+        <source>Schlagwörter</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Bezahlt von</source>
+        <translation>Paid by</translation>
+    </message>
+    <message>
+        <source>Die Auswahl über der Liste blendet das gerade aus.</source>
+        <translation>The selection above the list hides this at present.</translation>
+    </message>
+    <message>
+        <source>Wie soll die Ansicht heißen?</source>
+        <translation>What shall the view be called?</translation>
+    </message>
+    <message>
+        <source>Ansicht merken</source>
+        <translation>Keep view</translation>
+    </message>
+    <message>
+        <source>Die Ansicht &apos;{0}&apos; gibt es schon. Ersetzen?</source>
+        <translation>There is a view &apos;{0}&apos; already. Replace it?</translation>
+    </message>
+    <message>
+        <source>Noch ist keine Ansicht gemerkt. Wählen Sie Zeitraum, Konto, Filter und Spalten, und dann &quot;Ansicht merken…&quot;.</source>
+        <translation>No view is kept yet. Choose period, account, filter and columns, and then &quot;Keep view…&quot;.</translation>
+    </message>
+    <message>
+        <source>Meine Ansichten</source>
+        <translation>My views</translation>
+    </message>
+    <message>
+        <source>Welche Ansicht?</source>
+        <translation>Which view?</translation>
+    </message>
+    <message>
+        <source>Taste: Strg+{0}</source>
+        <translation>Key: Ctrl+{0}</translation>
+    </message>
+    <message>
+        <source>Ohne Taste; die ersten neun haben eine.</source>
+        <translation>Without a key; the first nine have one.</translation>
+    </message>
+    <message>
+        <source>Ansicht &apos;{0}&apos;</source>
+        <translation>View &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>An die erste Stelle</source>
+        <translation>To the first place</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Die Ansicht &apos;{0}&apos; gibt es schon.</source>
+        <translation>There is a view &apos;{0}&apos; already.</translation>
+    </message>
+    <message>
+        <source>Zeilen k&amp;opieren</source>
+        <translation>Cop&amp;y rows</translation>
+    </message>
+    <message>
+        <source>Kopiert die ausgewählten Zeilen als Tabelle in die Zwischenablage.</source>
+        <translation>Copies the selected rows to the clipboard as a table.</translation>
+    </message>
+    <message>
+        <source>Für &amp;heute</source>
+        <translation>For &amp;today</translation>
+    </message>
+    <message>
+        <source>Legt die ausgewählten Einträge noch einmal für heute an.</source>
+        <translation>Adds the selected entries once more for today.</translation>
+    </message>
+    <message>
+        <source>&amp;Duplizieren</source>
+        <translation>Du&amp;plicate</translation>
+    </message>
+    <message>
+        <source>Für den nächsten &amp;Monat</source>
+        <translation>For next &amp;month</translation>
+    </message>
+    <message>
+        <source>Legt die ausgewählten Einträge einen Monat später noch einmal an.</source>
+        <translation>Adds the selected entries once more a month later.</translation>
+    </message>
+    <message>
+        <source>&amp;Mehrere ändern…</source>
+        <translation>Change &amp;many…</translation>
+    </message>
+    <message>
+        <source>Ändert Kategorie, Konto, Beschreibung oder Art aller ausgewählten Einträge auf einmal.</source>
+        <translation>Changes category, account, description or kind of all selected entries at once.</translation>
+    </message>
+    <message>
+        <source>Hängt eine Datei, etwa eine Rechnung, an den Eintrag.</source>
+        <translation>Attaches a file, such as an invoice, to the entry.</translation>
+    </message>
+    <message>
+        <source>Bele&amp;ge</source>
+        <translation>Recei&amp;pts</translation>
+    </message>
+    <message>
+        <source>&amp;Zeigen…</source>
+        <translation>&amp;Show…</translation>
+    </message>
+    <message>
+        <source>Zeigt die Belege des ausgewählten Eintrags.</source>
+        <translation>Shows the receipts of the selected entry.</translation>
+    </message>
+    <message>
+        <source>Ansicht &amp;merken…</source>
+        <translation>&amp;Keep view…</translation>
+    </message>
+    <message>
+        <source>Merkt Zeitraum, Konto, Art, Filter, Gruppierung und Spalten unter einem Namen.</source>
+        <translation>Keeps period, account, kind, filter, grouping and columns under a name.</translation>
+    </message>
+    <message>
+        <source>&amp;Meine Ansichten</source>
+        <translation>&amp;My views</translation>
+    </message>
+    <message>
+        <source>&amp;Verwalten…</source>
+        <translation>Ma&amp;nage…</translation>
+    </message>
+    <message>
+        <source>Zeigt eine gemerkte Ansicht, benennt sie um oder löscht sie.</source>
+        <translation>Shows a kept view, renames or deletes it.</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zum Tag…</source>
+        <translation>&amp;Go to day…</translation>
+    </message>
+    <message>
+        <source>Springt in der Liste zu einem Tag, den Sie eintippen.</source>
+        <translation>Jumps in the list to a day that you type.</translation>
+    </message>
+    <message>
+        <source>B&amp;udget…</source>
+        <translation>B&amp;udget…</translation>
+    </message>
+    <message>
+        <source>Plant, was in jedem Monat ausgegeben werden darf.</source>
+        <translation>Plans what may be spent in each month.</translation>
+    </message>
+    <message>
+        <source>Am Desktop &amp;erinnern</source>
+        <translation>Remind on the &amp;desktop</translation>
+    </message>
+    <message>
+        <source>Meldet einmal am Tag am Desktop, was fällig oder zu kündigen ist.</source>
+        <translation>Tells once a day on the desktop what is due or has to be cancelled.</translation>
+    </message>
+    <message>
+        <source>&amp;Personen…</source>
+        <translation>&amp;People…</translation>
+    </message>
+    <message>
+        <source>Nennt, wer zum Haushalt gehört und wem welches Konto zu welchem Teil.</source>
+        <translation>Says who belongs to the household and who has what share in which account.</translation>
+    </message>
+    <message>
+        <source>&amp;Haushalt</source>
+        <translation>&amp;Household</translation>
+    </message>
+    <message>
+        <source>&amp;Ausgleich…</source>
+        <translation>&amp;Settlement…</translation>
+    </message>
+    <message>
+        <source>Rechnet aus, wer wem wie viel schuldet.</source>
+        <translation>Works out who owes whom how much.</translation>
+    </message>
+    <message>
+        <source>{0} {1} %</source>
+        <translation>{0} {1}%</translation>
+    </message>
+    <message>
+        <source>{0} zu gleichen Teilen</source>
+        <translation>{0} in equal parts</translation>
+    </message>
+    <message>
+        <source>Personen</source>
+        <translation>People</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie einen Namen ein.</source>
+        <translation>Please enter a name.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; gibt es schon. Bitte wählen Sie einen anderen Namen.</source>
+        <translation>&apos;{0}&apos; exists already. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>Person &apos;{0}&apos; angelegt</source>
+        <translation>Person &apos;{0}&apos; added</translation>
+    </message>
+    <message>
+        <source>Person &apos;{0}&apos; umbenannt</source>
+        <translation>Person &apos;{0}&apos; renamed</translation>
+    </message>
+    <message>
+        <source>Soll &apos;{0}&apos; gelöscht werden?</source>
+        <translation>Delete &apos;{0}&apos;?</translation>
+    </message>
+    <message>
+        <source>Soll &apos;{0}&apos; gelöscht werden?
+Bei {1} ist dann nicht mehr vermerkt, wer bezahlt hat.</source>
+        <translation>Delete &apos;{0}&apos;?
+Who paid is then no longer noted at {1}.</translation>
+    </message>
+    <message>
+        <source>Person löschen</source>
+        <translation>Delete person</translation>
+    </message>
+    <message>
+        <source>Person &apos;{0}&apos; gelöscht</source>
+        <translation>Person &apos;{0}&apos; deleted</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Anteil von 0 bis 100</source>
+        <translation>&apos;{0}&apos; is no share from 0 to 100</translation>
+    </message>
+    <message>
+        <source>es fehlen {0} %</source>
+        <translation>{0}% missing</translation>
+    </message>
+    <message>
+        <source>{0} % zu viel</source>
+        <translation>{0}% too much</translation>
+    </message>
+    <message>
+        <source>Anteile am Haushalt geändert</source>
+        <translation>Shares of the household changed</translation>
+    </message>
+    <message>
+        <source>Anteile am Konto &apos;{0}&apos; geändert</source>
+        <translation>Shares in account &apos;{0}&apos; changed</translation>
+    </message>
+    <message>
+        <source>nicht gespeichert</source>
+        <translation>not saved</translation>
+    </message>
+    <message>
+        <source>Diese Anteile sind nicht vollständig und werden nicht gespeichert:
+{0}
+Soll das Fenster trotzdem geschlossen werden?</source>
+        <translation>These shares are not complete and are not saved:
+{0}
+Close the window all the same?</translation>
+    </message>
+    <message>
+        <source>Noch gibt es keine Personen. Sie legen sie unter „Extras“, „Haushalt“, „Personen“ an.</source>
+        <translation>There are no people yet. You add them under “Tools”, “Household”, “People”.</translation>
+    </message>
+    <message>
+        <source>Ausgleich</source>
+        <translation>Settlement</translation>
+    </message>
+    <message>
+        <source>HTML-Datei|*.html|CSV-Datei|*.csv|Alle Dateien|*.*</source>
+        <translation>HTML file|*.html|CSV file|*.csv|All files|*.*</translation>
+    </message>
+    <message>
+        <source>In diesem Zeitraum ist bei keinem Eintrag vermerkt, wer bezahlt hat.</source>
+        <translation>No entry of this period says who paid.</translation>
+    </message>
+    <message>
+        <source>Es ist alles ausgeglichen.</source>
+        <translation>Everything is settled.</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Who</translation>
+    </message>
+    <message>
+        <source>An wen</source>
+        <translation>To whom</translation>
+    </message>
+    <message>
+        <source>Person</source>
+        <translation>Person</translation>
+    </message>
+    <message>
+        <source>Bezahlt</source>
+        <translation>Paid</translation>
+    </message>
+    <message>
+        <source>Zu tragen</source>
+        <translation>To bear</translation>
+    </message>
+    <message>
+        <source>Schon ausgeglichen</source>
+        <translation>Settled already</translation>
+    </message>
+    <message>
+        <source>Bleibt</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Getragen von</source>
+        <translation>Borne by</translation>
+    </message>
+    <message>
+        <source>Ausgleich {0}</source>
+        <translation>Settlement {0}</translation>
+    </message>
+    <message>
+        <source>Wer zahlt wem</source>
+        <translation>Who pays whom</translation>
+    </message>
+    <message>
+        <source>Wer hat was bezahlt und zu tragen</source>
+        <translation>Who paid what and has to bear what</translation>
+    </message>
+    <message>
+        <source>Was gezählt wurde</source>
+        <translation>What was counted</translation>
+    </message>
+    <message>
+        <source>Bilder und PDF|*.pdf;*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.tif;*.tiff;*.webp;*.heic|Alle Dateien|*.*</source>
+        <translation>Pictures and PDF|*.pdf;*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.tif;*.tiff;*.webp;*.heic|All files|*.*</translation>
+    </message>
+    <message>
+        <source>Belege</source>
+        <translation>Receipts</translation>
+    </message>
+    <message>
+        <source>Belege: {0}, {1}, {2}</source>
+        <translation>Receipts: {0}, {1}, {2}</translation>
+    </message>
+    <message>
+        <source>Noch kein Beleg. Ziehen Sie Dateien hierher, fügen Sie ein Bild aus der Zwischenablage ein (Strg+V), oder wählen Sie eine Datei.</source>
+        <translation>No receipt yet. Drag files here, paste a picture from the clipboard (Ctrl+V), or choose a file.</translation>
+    </message>
+    <message>
+        <source>Dieser Eintrag hat keinen Beleg.</source>
+        <translation>This entry has no receipt.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; fehlt im Ordner &apos;{1}&apos;. Legen Sie sie dorthin zurück, zum Beispiel aus dem Papierkorb, oder wählen Sie sie neu.</source>
+        <translation>The file &apos;{0}&apos; is missing in the folder &apos;{1}&apos;. Put it back there, from the trash for instance, or choose it again.</translation>
+    </message>
+    <message>
+        <source>Beleg hinzufügen</source>
+        <translation>Add receipt</translation>
+    </message>
+    <message>
+        <source>In der Zwischenablage ist weder ein Bild noch eine Datei.</source>
+        <translation>The clipboard holds neither a picture nor a file.</translation>
+    </message>
+    <message>
+        <source>Beleg neu wählen</source>
+        <translation>Choose receipt again</translation>
+    </message>
+    <message>
+        <source>Die Datei fehlt schon.</source>
+        <translation>The file is missing already.</translation>
+    </message>
+    <message>
+        <source>Die Datei bleibt, weil auch ein anderer Eintrag sie hat.</source>
+        <translation>The file stays, because another entry has it too.</translation>
+    </message>
+    <message>
+        <source>Die Datei kommt in den Papierkorb.</source>
+        <translation>The file goes to the trash.</translation>
+    </message>
+    <message>
+        <source>Soll der Beleg &apos;{0}&apos; von diesem Eintrag entfernt werden?</source>
+        <translation>Shall the receipt &apos;{0}&apos; be removed from this entry?</translation>
+    </message>
+    <message>
+        <source>Beleg entfernen</source>
+        <translation>Remove receipt</translation>
+    </message>
+    <message>
+        <source>Hier gibt es keinen Papierkorb. Die Datei &apos;{0}&apos; bleibt im Ordner &apos;{1}&apos;; der Eintrag hat sie nicht mehr.</source>
+        <translation>There is no trash here. The file &apos;{0}&apos; stays in the folder &apos;{1}&apos;; the entry no longer has it.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Bild und kein Dokument und wird deshalb nicht geöffnet. Mit &quot;Speichern unter…&quot; kommen Sie an die Datei.</source>
+        <translation>&apos;{0}&apos; is neither a picture nor a document and is therefore not opened. With &quot;Save as…&quot; you get at the file.</translation>
+    </message>
+    <message>
+        <source>Für &apos;{0}&apos; wurde kein Programm gefunden, das die Datei öffnet.</source>
+        <translation>No program was found that opens &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Beleg speichern</source>
+        <translation>Save receipt</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; kann nicht gelesen werden.</source>
+        <translation>The file &apos;{0}&apos; cannot be read.</translation>
+    </message>
+    <message>
+        <source>{0} und {1} weitere</source>
+        <translation>{0} and {1} more</translation>
+    </message>
+    <message>
+        <source>Im Ordner &apos;{0}&apos; fehlen Belege: {1}</source>
+        <translation>Receipts are missing in the folder &apos;{0}&apos;: {1}</translation>
+    </message>
+    <message>
+        <source>Im Ordner &apos;{0}&apos; gehören Dateien zu keinem Eintrag dieses Buchs: {1}</source>
+        <translation>In the folder &apos;{0}&apos; some files belong to no entry of this book: {1}</translation>
+    </message>
+    <message>
+        <source>Diese Datenbank kann nur gelesen werden; Belege können nicht geändert werden.</source>
+        <translation>This database can only be read; receipts cannot be changed.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist keine Datei.</source>
+        <translation>&apos;{0}&apos; is no file.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; ist größer als {1} MB. Bitte verkleinern Sie sie.</source>
+        <translation>The file &apos;{0}&apos; is larger than {1} MB. Please make it smaller.</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; ist leer oder kann nicht gelesen werden.</source>
+        <translation>The file &apos;{0}&apos; is empty or cannot be read.</translation>
+    </message>
+    <message>
+        <source>Der Beleg konnte nicht kopiert werden:
+{0}</source>
+        <translation>The receipt could not be copied:
+{0}</translation>
+    </message>
+    <message>
+        <source>Der Eintrag wurde inzwischen gelöscht.</source>
+        <translation>The entry has been deleted meanwhile.</translation>
+    </message>
+    <message>
+        <source>Beleg zu &apos;{0}&apos; hinzugefügt</source>
+        <translation>Receipt added to &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Beleg von &apos;{0}&apos; entfernt</source>
+        <translation>Receipt removed from &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Beleg von &apos;{0}&apos; ersetzt</source>
+        <translation>Receipt of &apos;{0}&apos; replaced</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist noch bis zum {1} kündbar.</source>
+        <translation>&apos;{0}&apos; can be cancelled until {1}.</translation>
+    </message>
+    <message>
+        <source>Kontorelle: das steht an</source>
+        <translation>Kontorelle: what is due</translation>
+    </message>
+    <message>
+        <source>Heute fällig: {0}, {1}</source>
+        <translation>Due today: {0}, {1}</translation>
+    </message>
+    <message>
+        <source>Heute fällig: {0} Buchungen</source>
+        <translation>Due today: {0} entries</translation>
+    </message>
+    <message>
+        <source>{0} unter {1}</source>
+        <translation>{0} below {1}</translation>
+    </message>
+    <message>
+        <source>{0} ab {1} unter {2}</source>
+        <translation>{0} below {2} from {1} on</translation>
+    </message>
+    <message>
+        <source>{0} kündbar bis {1}</source>
+        <translation>{0}: cancel by {1}</translation>
+    </message>
+    <message>
+        <source>ohne Schlagwort</source>
+        <translation>without tag</translation>
+    </message>
+    <message>
+        <source>Ein Eintrag mit mehreren Schlagwörtern zählt bei jedem davon, in den Summen der Einnahmen und Ausgaben nur einmal.</source>
+        <translation>An entry with several tags counts in each of them, but only once in the sums of income and expenses.</translation>
+    </message>
+    <message>
+        <source>Einnahmen und Ausgaben nach den Wörtern mit # in den Beschreibungen.</source>
+        <translation>Income and expenses by the words with # in the descriptions.</translation>
+    </message>
+    <message>
+        <source>Von einem Startguthaben lässt sich in der Liste nur der Betrag ändern.</source>
+        <translation>Of an opening balance, only the amount can be changed in the list.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; vom {1} gehört zu einer Serie ({2} seit {3}).
+Kategorie und Beschreibung sind bei allen Vorkommen gleich. Was möchten Sie ändern?</source>
+        <translation>&apos;{0}&apos; of {1} belongs to a series ({2} since {3}).
+Category and description are the same for all occurrences. What do you want to change?</translation>
+    </message>
+    <message>
+        <source>Die Teile kämen zusammen unter null. Öffnen Sie den Eintrag, um alle Teile zu ändern.</source>
+        <translation>The parts would come to less than zero. Open the entry to change all parts.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; dupliziert</source>
+        <translation>&apos;{0}&apos; duplicated</translation>
+    </message>
+    <message>
+        <source>{0} Einträge dupliziert</source>
+        <translation>{0} entries duplicated</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; zum {1} dupliziert.</source>
+        <translation>&apos;{0}&apos; duplicated for {1}.</translation>
+    </message>
+    <message>
+        <source>{0} Einträge dupliziert.</source>
+        <translation>{0} entries duplicated.</translation>
+    </message>
+    <message>
+        <source>Ein Startguthaben lässt sich nicht duplizieren: Jedes Konto hat nur eines.</source>
+        <translation>An opening balance cannot be duplicated: each account has only one.</translation>
+    </message>
+    <message>
+        <source>Geändert wird, was Sie hier wählen, bei: {0}.</source>
+        <translation>What you choose here is changed in: {0}.</translation>
+    </message>
+    <message>
+        <source>Darunter ist eine Serie. Bei ihr ändern sich alle Vorkommen, vergangene wie zukünftige.</source>
+        <translation>One of them is a series. All its occurrences change, past and future ones.</translation>
+    </message>
+    <message>
+        <source>Darunter sind {0} Serien. Bei ihnen ändern sich alle Vorkommen, vergangene wie zukünftige.</source>
+        <translation>{0} of them are series. All their occurrences change, past and future ones.</translation>
+    </message>
+    <message>
+        <source>Startguthaben bleiben, wie sie sind.</source>
+        <translation>Opening balances stay as they are.</translation>
+    </message>
+    <message>
+        <source>{0} Einträge geändert</source>
+        <translation>{0} entries changed</translation>
+    </message>
+    <message>
+        <source>So, wie Sie es gewählt haben, ändert sich nichts.</source>
+        <translation>With what you have chosen, nothing changes.</translation>
+    </message>
+    <message>
+        <source>Das betrifft &apos;{0}&apos;.</source>
+        <translation>This is about &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Kategorie &apos;{0}&apos;</source>
+        <translation>category &apos;{0}&apos;</translation>
+    </message>
+    <message>
+        <source>Ändern: {0}
+Neu: {1}</source>
+        <translation>Change: {0}
+New: {1}</translation>
+    </message>
+    <message>
+        <source>Bei Serien ändern sich alle Vorkommen, vergangene wie zukünftige.</source>
+        <translation>Of series, all occurrences change, past and future ones.</translation>
+    </message>
+    <message>
+        <source>Einträge ändern</source>
+        <translation>Change entries</translation>
+    </message>
+    <message>
+        <source>Die Liste zeigt keine Einträge.</source>
+        <translation>The list shows no entries.</translation>
+    </message>
+    <message>
+        <source>Der {0} liegt außerhalb des gezeigten Zeitraums. Am nächsten liegt der {1}.</source>
+        <translation>{0} lies outside of the period shown. The nearest is {1}.</translation>
+    </message>
+    <message>
+        <source>Am {0} gibt es hier keinen Eintrag. Am nächsten liegt der {1}.</source>
+        <translation>There is no entry here on {0}. The nearest is {1}.</translation>
+    </message>
+    <message>
+        <source>Jahreskalender der Ausgaben</source>
+        <translation>Expenses as calendar of the year</translation>
+    </message>
+    <message>
+        <source>Kein Eintrag dieses Zeitraums hat ein Schlagwort. Schreiben Sie eines mit # in die Beschreibung, etwa #urlaub.</source>
+        <translation>No entry of this period has a tag. Write one with # into the description, for example #holiday.</translation>
+    </message>
+    <message>
+        <source>Budget dieses Monats: {0}</source>
+        <translation>Budget of this month: {0}</translation>
+    </message>
+    <message>
+        <source>&amp;Belege mitsichern</source>
+        <translation>&amp;Back up receipts too</translation>
+    </message>
+    <message>
+        <source>Kopiert neue Dateien aus dem Ordner &quot;Belege&quot; neben die Sicherungen, jede nur einmal. Gilt auch für Sicherungen, die Sie selbst erstellen.</source>
+        <translation>Copies new files from the folder &quot;Belege&quot; beside the backups, each only once. This also holds for backups that you make yourself.</translation>
+    </message>
+    <message>
+        <source>&amp;Jahr:</source>
+        <translation>&amp;Year:</translation>
+    </message>
+    <message>
+        <source>&amp;Ist und Rest im Monat:</source>
+        <translation>&amp;Actual and rest in month:</translation>
+    </message>
+    <message>
+        <source>Jahr gleichmäßig &amp;verteilen</source>
+        <translation>S&amp;pread year evenly</translation>
+    </message>
+    <message>
+        <source>Verteilt, was die Zeile im Jahr erlaubt, auf zwölf gleiche Monate</source>
+        <translation>Spreads what the line allows in the year over twelve equal months</translation>
+    </message>
+    <message>
+        <source>Jahr in &amp;einem Monat</source>
+        <translation>Year in &amp;one month</translation>
+    </message>
+    <message>
+        <source>Erlaubt alles im Monat der gewählten Zelle und in den anderen nichts</source>
+        <translation>Allows everything in the month of the chosen cell and nothing in the others</translation>
+    </message>
+    <message>
+        <source>Ausgaben des V&amp;orjahrs übernehmen</source>
+        <translation>&amp;Take over last year&apos;s expenses</translation>
+    </message>
+    <message>
+        <source>Schlägt für jeden Monat vor, was ein Jahr davor ausgegeben wurde; gespeichert wird noch nichts</source>
+        <translation>Proposes for every month what was spent a year before; nothing is saved yet</translation>
+    </message>
+    <message>
+        <source>bis zu {0}</source>
+        <translation>up to {0}</translation>
+    </message>
+    <message>
+        <source>mehr</source>
+        <translation>more</translation>
+    </message>
+    <message>
+        <source>{0} × darüber</source>
+        <translation>{0} × above</translation>
+    </message>
+    <message>
+        <source>{0} ×</source>
+        <translation>{0} ×</translation>
+    </message>
+    <message>
+        <source>Bezah&amp;lt von:</source>
+        <translation>Paid b&amp;y:</translation>
+    </message>
+    <message>
+        <source>Kündba&amp;r bis:</source>
+        <translation>Cancel &amp;by:</translation>
+    </message>
+    <message>
+        <source>Belege:</source>
+        <translation>Receipts:</translation>
+    </message>
+    <message>
+        <source>kein Vertrag</source>
+        <translation>no contract</translation>
+    </message>
+    <message>
+        <source>Der letzte Tag, an dem Sie diesen Vertrag kündigen können; das Programm erinnert vorher daran</source>
+        <translation>The last day on which you can cancel this contract; the program reminds you beforehand</translation>
+    </message>
+    <message>
+        <source>niemand Bestimmtem</source>
+        <translation>nobody in particular</translation>
+    </message>
+    <message>
+        <source>Gehe zum Tag:</source>
+        <translation>Go to day:</translation>
+    </message>
+    <message>
+        <source>Gehe zum Tag</source>
+        <translation>Go to day</translation>
+    </message>
+    <message>
+        <source>Etwa 15.3., +7 oder heute; die Eingabetaste springt hin, Esc schließt das Feld</source>
+        <translation>Such as 15.3., +7 or today; Enter jumps there, Esc closes the field</translation>
+    </message>
+    <message>
+        <source>{0}
+Ein Klick zeigt mehr.</source>
+        <translation>{0}
+A click shows more.</translation>
+    </message>
+    <message>
+        <source>Auch ein Schlagwort, etwa #urlaub</source>
+        <translation>A tag too, for example #holiday</translation>
+    </message>
+    <message>
+        <source>Mehrere Einträge ändern</source>
+        <translation>Change several entries</translation>
+    </message>
+    <message>
+        <source>unverändert</source>
+        <translation>unchanged</translation>
+    </message>
+    <message>
+        <source>Än&amp;dern</source>
+        <translation>C&amp;hange</translation>
+    </message>
+    <message>
+        <source>Me&amp;hrere ändern…</source>
+        <translation>C&amp;hange many…</translation>
+    </message>
+    <message>
+        <source>Ändert Kategorie, Konto, Beschreibung oder Art aller ausgewählten Einträge (Strg+M)</source>
+        <translation>Changes category, account, description or kind of all selected entries (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Anteile in Prozent</source>
+        <translation>Shares in per cent</translation>
+    </message>
+    <message>
+        <source>Gilt</source>
+        <translation>Holds</translation>
+    </message>
+    <message>
+        <source>Gemeinsames</source>
+        <translation>Common</translation>
+    </message>
+    <message>
+        <source>Ausgleich: wer schuldet wem</source>
+        <translation>Settlement: who owes whom</translation>
+    </message>
+    <message>
+        <source>P&amp;ersonen…</source>
+        <translation>P&amp;eople…</translation>
+    </message>
+    <message>
+        <source>An&amp;teile in Prozent:</source>
+        <translation>S&amp;hares in per cent:</translation>
+    </message>
+    <message>
+        <source>Eine leere Zeile gilt wie „Gemeinsames“, und ist auch das leer, haben alle gleiche Anteile. Was jemand von einem Konto bezahlt, das ihm allein gehört, tragen alle wie „Gemeinsames“.</source>
+        <translation>An empty row holds like “Common”; when that is empty too, everybody has the same share. What somebody pays from an account that is theirs alone is borne by all like “Common”.</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Personen des Haushalts</source>
+        <translation>People of the household</translation>
+    </message>
+    <message>
+        <source>&amp;Hinzufügen</source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message>
+        <source>&amp;Umbenennen</source>
+        <translation>&amp;Rename</translation>
+    </message>
+    <message>
+        <source>Für diese Art von Datei gibt es keine Vorschau. &quot;Öffnen&quot; zeigt sie in einem anderen Programm.</source>
+        <translation>There is no preview for this kind of file. &quot;Open&quot; shows it in another program.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist beschädigt oder kein Bild und kein PDF.</source>
+        <translation>The file is damaged, or neither a picture nor a PDF.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist für eine Vorschau zu groß. &quot;Öffnen&quot; zeigt sie in einem anderen Programm.</source>
+        <translation>The file is too large for a preview. &quot;Open&quot; shows it in another program.</translation>
+    </message>
+    <message>
+        <source>Das PDF ist mit einem Passwort geschützt. &quot;Öffnen&quot; zeigt es in einem anderen Programm.</source>
+        <translation>The PDF is protected by a password. &quot;Open&quot; shows it in another program.</translation>
+    </message>
+    <message>
+        <source>Die Vorschau wird gelesen …</source>
+        <translation>The preview is being read …</translation>
+    </message>
+    <message>
+        <source>Seite {0} von {1} von &apos;{2}&apos;</source>
+        <translation>Page {0} of {1} of &apos;{2}&apos;</translation>
+    </message>
+    <message>
+        <source>Bele&amp;g hinzufügen</source>
+        <translation>Add recei&amp;pt</translation>
+    </message>
+    <message>
+        <source>&amp;Datei wählen…</source>
+        <translation>Choose &amp;file…</translation>
+    </message>
+    <message>
+        <source>Aus der &amp;Zwischenablage</source>
+        <translation>From the &amp;clipboard</translation>
+    </message>
+    <message>
+        <source>&amp;Neue doch nicht</source>
+        <translation>&amp;Drop the new ones</translation>
+    </message>
+    <message>
+        <source>Dateien können auch hierher gezogen werden.</source>
+        <translation>Files can be dragged here as well.</translation>
+    </message>
+    <message>
+        <source>Datei &amp;neu wählen…</source>
+        <translation>Choose file a&amp;gain…</translation>
+    </message>
+    <message>
+        <source>&amp;Einfügen</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Öffnen</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern unter…</source>
+        <translation>&amp;Save as…</translation>
+    </message>
+    <message>
+        <source>En&amp;tfernen…</source>
+        <translation>&amp;Remove…</translation>
+    </message>
+    <message>
+        <source>Kleiner</source>
+        <translation>Smaller</translation>
+    </message>
+    <message>
+        <source>Größer</source>
+        <translation>Larger</translation>
+    </message>
+    <message>
+        <source>Ganze Seite</source>
+        <translation>Whole page</translation>
+    </message>
+    <message>
+        <source>Vorige Seite</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Nächste Seite</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Bild oder Datei aus der Zwischenablage (Strg+V)</source>
+        <translation>Picture or file from the clipboard (Ctrl+V)</translation>
+    </message>
+    <message>
+        <source>leer</source>
+        <translation>empty</translation>
     </message>
 </context>
 </TS>

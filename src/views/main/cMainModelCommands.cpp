@@ -70,8 +70,6 @@ bool cMainModel::Execute(int command)
     case modCommand::BackupSettings:
     case modCommand::Rules:
     case modCommand::BankLogins:
-    case modCommand::People:
-    case modCommand::Settlement:
     case modCommand::FetchTransactions:
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts:
@@ -83,7 +81,6 @@ bool cMainModel::Execute(int command)
     case modCommand::Budget:
     case modCommand::People:
     case modCommand::Settlement:
-    case modCommand::Reminders:
     case modCommand::National: m_parts.Navigator.Open(known->Id); break;
     case modCommand::DuplicateToday: Duplicate(m_selection, cEntryDuplicate::eDay::Today); break;
     case modCommand::DuplicateNextMonth: Duplicate(m_selection, cEntryDuplicate::eDay::NextMonth); break;

@@ -7,7 +7,6 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
-#include "model/modSettingKey.h"
 #include "views/main/cNavigator.h"
 
 #include <chrono>
