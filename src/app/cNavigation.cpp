@@ -499,16 +499,6 @@ void cNavigation::OpenFetch()
     }
 }
 
-void cNavigation::OpenReceipts(modCommand::eId command)
-{
-    const int entryId = m_model->Selection().value(0).ID;
-    if (command == modCommand::AddReceipt) {
-        m_receipts->Choose(entryId);
-    } else {
-        m_receipts->Show(entryId, Parent());
-    }
-}
-
 void cNavigation::Export()
 {
     cEntryExtract extract = cEntryExtract::From(m_model->Entries());
@@ -565,7 +555,7 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::ChooseColumns: m_window->ShowColumnMenu(); break;
     case modCommand::Password: OpenPassword(); break;
     case modCommand::AddReceipt:
-    case modCommand::ShowReceipts: OpenReceipts(command); break;
+    case modCommand::ShowReceipts: m_receipts->Open(command, Parent()); break;
     case modCommand::MakeBackup: MakeBackup(); break;
     case modCommand::RestoreBackup: m_books.LoadBackup(); break;
     case modCommand::SwitchDatabase: m_books.SwitchBook(); break;

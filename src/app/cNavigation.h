@@ -106,7 +106,6 @@ private:
     void OpenRules();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
-    void OpenReceipts(modCommand::eId command);
     void Export();
     void Export(const cStatementListModel& statement);
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));

@@ -4,6 +4,16 @@
 #include "views/receipt/cReceiptListModel.h"
 #include "windows/receipt/frmBelege.h"
 
+void cReceiptWindows::Open(modCommand::eId command, QWidget* parent)
+{
+    const int entryId = m_model.Selection().value(0).ID;
+    if (command == modCommand::AddReceipt) {
+        Choose(entryId);
+    } else {
+        Show(entryId, parent);
+    }
+}
+
 void cReceiptWindows::Show(int entryId, QWidget* parent)
 {
     cReceiptListModel receipts(m_tools, m_desk, entryId);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/cQtFileDesk.h"
+#include "views/main/modCommand.h"
 
 #include <QStringList>
 
@@ -14,6 +15,7 @@ class cReceiptWindows
 public:
     cReceiptWindows(const cBookTools& tools, cMainModel& model) : m_tools(tools), m_model(model) {}
 
+    void Open(modCommand::eId command, QWidget* parent); // for the selected entry
     void Show(int entryId, QWidget* parent);
     void Choose(int entryId); // files that become receipts
     void Add(int entryId, const QStringList& paths);

@@ -50,10 +50,10 @@ void testColumnWidth::StoredWidthsFollowTheTypeSize()
     QCOMPARE(old->ForLetter(8).Columns.front().Width, 60); // nobody knows what it was measured in
 
     // A column that came with a later version does not cost the user the layout.
-    const std::optional<cListLayout> grown = cListLayout::FromText(u"1,60,1|0,0,0|sort,0,0"_s, 3, 2);
+    const std::optional<cListLayout> grown = cListLayout::FromText(u"1,60,1|0,0,0|sort,0,0"_s, 4, {3});
     QVERIFY(grown);
-    QCOMPARE(grown->ToText(), u"1,60,1|0,0,0|2,0,1|sort,0,0"_s);
-    QVERIFY(!cListLayout::FromText(u"1,60,1|2,0,1|sort,0,0"_s, 3, 2));
+    QCOMPARE(grown->ToText(), u"1,60,1|0,0,0|2,0,1|3,0,0|sort,0,0"_s);
+    QVERIFY(!cListLayout::FromText(u"1,60,1|2,0,1|sort,0,0"_s, 3));
 }
 
 TEST_CLASS(testColumnWidth, QCoreApplication)
