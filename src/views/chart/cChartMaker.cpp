@@ -60,9 +60,8 @@ cChartData cChartMaker::Make(const cChartWish& wish)
 
 cChartData cChartMaker::MakeLimits(const modChart::cInput& input)
 {
-    const QDate end = Cut(input.Wish.Range, input.Wish, m_today).End;
     const cSettings settings(m_data);
-    const cLimits limits = modLimits::Read(m_data, settings, m_data.GetTemplates(), end.isValid() ? end : m_today);
+    const cLimits limits = modLimits::Read(m_data, settings, m_data.GetTemplates(), {});
     return m_data.IsWhole() ? modChart::Limits(input, limits) : Unread();
 }
 

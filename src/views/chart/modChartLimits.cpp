@@ -1,11 +1,13 @@
 #include "base/cText.h"
 #include "model/cLimits.h"
 #include "model/cTemplateItem.h"
+#include "model/modWord.h"
 #include "views/chart/modChartFrame.h"
 #include "views/report/modReport.h"
 
-#include <algorithm>
-#include <iterator>
+#include <QHash>
+
+#include <utility>
 
 namespace {
 
@@ -18,44 +20,46 @@ struct cRow
     QList<qint64> Limit;
 };
 
-// The limits of a part of the period and what was spent of them.
-cReportFigures LimitsOf(const modChart::cInput& input, const cEntryItemList& entries, const cLimits& limits,
-                        const modPeriod::cRange& range)
+int MonthsOf(const modPeriod::cRange& range)
+{
+    return (range.End.year() - range.Start.year()) * modBudget::MonthsOfYear + range.End.month() - range.Start.month()
+        + 1;
+}
+
+// Income of a category lowers what was spent on it, as in the report.
+qint64 Spent(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
+}
+
+// The categories that the report on the whole period names, with what belongs to each step. What is carried over is
+// left out: it would count once for every month that it goes through.
+QList<cRow> Rows(const modChart::cInput& input, const cLimits& limits, const modPeriod::cRange& range,
+                 const cChartSteps& steps)
 {
     const cReportWish wish = modChart::ReportWish(input.Wish, range, input.Today);
-    return modReport::Figures(entries, limits, wish);
-}
-
-QList<cEntryItemList> ByStep(const cEntryItemList& entries, const cChartSteps& steps)
-{
-    QList<cEntryItemList> parts(steps.Count());
-    for (const cEntryItem& entry : entries) {
-        const int step = steps.IndexOf(entry.EntryDate);
-        if (step >= 0) {
-            parts[step].append(entry);
-        }
-    }
-    return parts;
-}
-
-void Take(QList<cRow>& rows, const cReportFigures& figures, int step, int steps)
-{
+    const cReportFigures figures = modReport::Figures(input.First.Entries, limits, wish);
+    QList<cRow> rows;
     for (const cReportGroup& group : figures.Expense.Groups) {
         for (const cReportCategory& category : group.Categories) {
-            if (category.Amount.Limit <= 0) {
-                continue;
-            }
             const cReportNode node{eReportKind::Expense, group.Name, category.Name};
-            auto row = std::find_if(rows.begin(), rows.end(), [&](const cRow& each) { return each.Node == node; });
-            if (row == rows.end()) {
-                row = rows.insert(rows.end(),
-                                  {category.Name.isEmpty() ? group.Label : category.Name, node, QList<qint64>(steps),
-                                   QList<qint64>(steps)});
+            cRow row{category.Name.isEmpty() ? group.Label : category.Name, node, QList<qint64>(steps.Count()),
+                     QList<qint64>(steps.Count())};
+            const cEntryItemList entries = modReport::EntriesOf(input.First.Entries, wish, node, limits);
+            for (const cEntryItem& entry : entries) {
+                if (const int step = steps.IndexOf(entry.EntryDate); step >= 0) {
+                    row.Spent[step] += Spent(entry);
+                }
             }
-            row->Spent[step] = category.Amount.Cents;
-            row->Limit[step] = category.Amount.Limit;
+            const QString path = modBudget::KeyOf(modTemplate::Join(group.Name, category.Name));
+            for (int step = 0; step < steps.Count(); ++step) {
+                const modPeriod::cRange part = steps.RangeAt(step);
+                row.Limit[step] = limits.Of(path, part.Start, MonthsOf(part)).value_or(cLimit()).Own;
+            }
+            rows.append(row);
         }
     }
+    return rows;
 }
 
 // Two categories of the same name are told apart by their groups.
@@ -82,11 +86,7 @@ cChartData modChart::Limits(const cInput& input, const cLimits& limits)
         return nothing;
     }
     const cChartSteps steps(range);
-    const QList<cEntryItemList> entries = ByStep(input.First.Entries, steps);
-    QList<cRow> rows;
-    for (int step = 0; step < steps.Count(); ++step) {
-        Take(rows, LimitsOf(input, entries.at(step), limits, steps.RangeAt(step)), step, steps.Count());
-    }
+    QList<cRow> rows = Rows(input, limits, range, steps);
     NameRows(rows);
     cChartData data = Frame(input, steps);
     data.Kind = eChart::Limits;

@@ -14,6 +14,7 @@ cCellEditing::cCellEditing(cEntryTree& tree, cEntryListModel& model, cCellEdit& 
       m_delegate(new cCellDelegate(cells, this))
 {
     m_tree.setItemDelegate(m_delegate);
+    connect(m_delegate, &cEntryDelegate::TagClicked, &m_tree, &cEntryTree::TagClicked);
     m_tree.setEditTriggers(QAbstractItemView::NoEditTriggers); // a double click opens the entry
     auto* key = new QShortcut(Qt::Key_F2, &m_tree, nullptr, nullptr, Qt::WidgetShortcut);
     connect(key, &QShortcut::activated, this, [this] { Edit(m_tree.currentIndex()); });

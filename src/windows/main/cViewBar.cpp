@@ -6,6 +6,7 @@
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/modDayRange.h"
+#include "windows/widget/modEmptyField.h"
 #include "windows/widget/modProposal.h"
 
 #include <QComboBox>
@@ -76,6 +77,7 @@ void cViewBar::Build()
     m_filter->setToolTip(cText::Tr("Auch ein Schlagwort, etwa #urlaub"));
     modProposal::AddTags(*m_filter, [this] { return m_model.Tags(); });
     m_filter->setPlaceholderText(cText::Tr("Text, Kategorie oder Betrag"));
+    modEmptyField::Tell(*m_filter);
     connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_filter, &QLineEdit::clear);
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);

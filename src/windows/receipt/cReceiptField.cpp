@@ -27,6 +27,7 @@ cReceiptField::cReceiptField(QWidget* parent)
     m_button->setAutoDefault(false);
     m_button->setToolTip(cText::Tr("Dateien können auch hierher gezogen werden."));
     m_button->setObjectName(u"cmdBeleg"_s);
+    m_button->setAccessibleName(cText::Tr("Belege:") + u' ' + m_button->text().remove(u'&'));
     m_text->setObjectName(u"lblBelege"_s);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
