@@ -45,8 +45,13 @@ inline const cSettingKey BackupFolder{QStringLiteral("BackupFolder"), {Text, Boo
 inline const cSettingKey BackupLast{QStringLiteral("BackupLast"), {Day, Book}};
 inline const cSettingKey BackupFailed{QStringLiteral("BackupFailed"), {Day, Book}};
 inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
-inline const cSettingKey Corrected{QStringLiteral("GelerntZuletzt"), {List, Book}};    // see modCorrected
-inline const cSettingFamily Budget{QStringLiteral("Budget:"), {}, {Text, Book, Kept}}; // category; see modBudget
+inline const cSettingKey Corrected{QStringLiteral("GelerntZuletzt"), {List, Book}};          // see modCorrected
+inline const cSettingFamily Budget{QStringLiteral("Budget:"), {}, {Text, Book, Kept}};       // category; see modBudget
+inline const cSettingFamily CategoryColor{QStringLiteral("Farbe:"), {}, {Text, Book, Kept}}; // main category; "#rrggbb"
+inline const cSettingFamily CategoryIcon{
+    QStringLiteral("Symbol:"), {}, {Text, Book, Kept}}; // main category; icon's name
+inline const cSettingFamily StatementPapers{
+    QStringLiteral("Auszüge:"), {}, {List, Book, Kept}};                         // account; its bank's PDFs
 inline const cSettingKey People{QStringLiteral("Personen"), {List, Book, Kept}}; // names of the household's members
 inline const cSettingFamily AccountShares{QStringLiteral("Anteile:"), {}, {Text, Book, Kept}}; // account; see modPeople
 inline const cSettingKey ReceiptsInBackup{QStringLiteral("BelegeSichern"), {Truth, Book, Cleared, Off}};
