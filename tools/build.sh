@@ -5,11 +5,12 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 
 preset=$1
 shift
-if [ ! -f "build/$preset/build.ninja" ]; then
+# A build folder that has moved with the project knows its old place only.
+if [ ! -f "build/$preset/build.ninja" ] || ! grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "build/$preset/CMakeCache.txt"; then
   echo "build: configuring $preset"
-  cmake --preset "$preset" -DAPP_UNITY=ON
+  cmake --preset "$preset" --fresh -DAPP_UNITY=ON
 elif grep -q '^APP_UNITY:BOOL=ON' "build/$preset/CMakeCache.txt" &&
-     [ -n "$(find src tests tools -name '*.cpp' -newer "build/$preset/build.ninja" -print -quit)" ]; then
+     [ -n "$(find src tests tools \( -name '*.cpp' -o -name '*.h' -o -name 'uni*.py' \) -newer "build/$preset/build.ninja" -print -quit)" ]; then
   cmake "build/$preset" >/dev/null   # which units stand together follows from what they name for themselves
 fi
 echo "build: building $preset ${*:-(everything)}"

@@ -79,7 +79,7 @@ unsorted() {
   LC_ALL=C awk '/^ +FILES$|^set\(tests$|^unit_tests\([a-z]+$/ { last = ""; on = 1; next } /\)/ { on = 0 }
                 on { if ($1 < last) print FILENAME ": " $1; last = $1 }' "$@"
 }
-hits=$(git ls-files '*CMakeLists.txt' | xargs -d '\n' -n1 bash -c "$(declare -f unsorted); unsorted \"\$@\"" _)
+hits=$(find . -name CMakeLists.txt -not -path './build/*' | xargs -d '\n' -n1 bash -c "$(declare -f unsorted); unsorted \"\$@\"" _)
 [ -n "$hits" ] && fail 'not in its place in the sorted list' "$hits"
 
 if [ "${1:-}" = --all ]; then

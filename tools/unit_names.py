@@ -2,7 +2,7 @@
 import pathlib
 import re
 
-SOURCES = pathlib.Path(__file__).resolve().parent.parent / 'src'
+ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 TYPE = re.compile(r'^(?:template <.*> *)?(?:enum |static )*(?:class|struct|enum|namespace) (\w+)')
 OTHER = re.compile(r'^(?:[\w:<>,&*\[\] ]*?[ &*>])?(\w+)(?:\(|\{| =|;|$)')
@@ -44,9 +44,10 @@ def own_names(path):
 
 
 def public_types():
-    """Types that headers of the program declare for everybody."""
+    """Types that headers declare for everybody."""
     names = set()
-    for header in SOURCES.rglob('*.h'):
-        with open(header, encoding='utf-8') as file:
-            names.update(found.group(1) for line in file if (found := TYPE.match(line)))
+    for folder in ('src', 'tests'):
+        for header in (ROOT / folder).rglob('*.h'):
+            with open(header, encoding='utf-8') as file:
+                names.update(found.group(1) for line in file if (found := TYPE.match(line)))
     return names

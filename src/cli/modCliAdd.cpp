@@ -6,7 +6,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-int Run(const cCliContext& context)
+int RunAdd(const cCliContext& context)
 {
     return cCliEntryForm(context).Add();
 }
@@ -21,5 +21,5 @@ cCliCommand modCliCommands::AddCommand()
                           "Tag ist sonst heute"),
             .Access = eCliAccess::Write,
             .Options = cCliEntryForm::Options(),
-            .Run = Run};
+            .Run = RunAdd};
 }

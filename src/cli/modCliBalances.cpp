@@ -39,7 +39,7 @@ void Print(const cCliBook& book, const modAccountLines::cLines& lines)
     modConsole::Out(table.ToString());
 }
 
-int Run(const cCliContext& context)
+int RunBalances(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     const modAccountLines::cLines lines = modAccountLines::Load(book.Data, book.Settings(), context.Clock.Today());
@@ -55,6 +55,8 @@ int Run(const cCliContext& context)
 
 cCliCommand modCliCommands::BalancesCommand()
 {
-    return {
-        .Name = u"balances"_s, .Help = cText::Tr("zeigt die Kontostände von heute"), .Options = {Json()}, .Run = Run};
+    return {.Name = u"balances"_s,
+            .Help = cText::Tr("zeigt die Kontostände von heute"),
+            .Options = {Json()},
+            .Run = RunBalances};
 }

@@ -53,7 +53,7 @@ void Print(const cBankMatches& answer)
     }
 }
 
-int Run(const cCliContext& context)
+int RunBankSearch(const cCliContext& context)
 {
     const bool isJson = context.Call.Has(u"json"_s);
     const cBankDirectory directory(context.Shell);
@@ -83,5 +83,5 @@ cCliCommand modCliCommands::BankSearchCommand()
             .MaxArguments = Any,
             .Access = eCliAccess::None,
             .Options = {Json()},
-            .Run = Run};
+            .Run = RunBankSearch};
 }

@@ -36,7 +36,7 @@ QString Misuse(const cCliCall& call)
                                                     : QString();
 }
 
-int Run(const cCliContext& context)
+int RunChange(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
@@ -72,5 +72,5 @@ cCliCommand modCliCommands::ChangeCommand()
                                     {u"from"_s, u"DATUM"_s,
                                      cText::Tr("die Serie vom ersten Vorkommen an, das nicht davor liegt")},
                                     modCliFlow::Yes()},
-            .Run = Run};
+            .Run = RunChange};
 }

@@ -107,7 +107,7 @@ QByteArray Bytes(const cCliContext& context, const QString& target, const cChart
                             : context.Ports.Paint.PaintChart(chart, target == u"svg" ? Svg : Png);
 }
 
-int Run(const cCliContext& context)
+int RunChart(const cCliContext& context)
 {
     cCliReader reader(context);
     const cChartWish wish = ReadWish(context, reader);
@@ -160,5 +160,5 @@ cCliCommand modCliCommands::ChartCommand()
                          {},
                          cText::Tr("Verlauf, Vermögen: Vorschau mit dem Durchschnitt der Einzelausgaben")},
                         {u"no-future"_s, {}, cText::Tr("ohne Einträge nach dem heutigen Tag")}},
-            .Run = Run};
+            .Run = RunChart};
 }

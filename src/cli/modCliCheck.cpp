@@ -47,7 +47,7 @@ QString Head(cCliBook& book, const cBookCheck& check)
         : cText::Tr("{0}: {1}", {book.File().Path(), entries});
 }
 
-int Run(const cCliContext& context)
+int RunCheck(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     const cBookCheck check(book.Data, book.Format());
@@ -78,5 +78,5 @@ cCliCommand modCliCommands::CheckCommand()
                 "prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und sagt, "
                 "was beim Öffnen ergänzt wurde"),
             .Access = eCliAccess::Write,
-            .Run = Run};
+            .Run = RunCheck};
 }

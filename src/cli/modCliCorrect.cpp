@@ -104,7 +104,7 @@ qint64 CentsNow(const cCliContext& context, int id, QDate day)
     return correction ? correction->EntryValue : series ? series->EntryValue : 0;
 }
 
-int Run(const cCliContext& context)
+int RunCorrect(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
@@ -161,5 +161,5 @@ cCliCommand modCliCommands::CorrectCommand()
                         {u"comment"_s, u"TEXT"_s, cText::Tr("Kommentar zur Korrektur"), true},
                         {u"list"_s, {}, cText::Tr("die Korrekturen zeigen")},
                         Json()},
-            .Run = Run};
+            .Run = RunCorrect};
 }

@@ -27,7 +27,7 @@ QDate Occurrence(const cCliContext& context, const QList<int>& ids, cCliReader& 
                                : reader.Occurrence(ids.constFirst(), call.Value(u"from"_s), eOccurrence::From);
 }
 
-int Run(const cCliContext& context)
+int RunDelete(const cCliContext& context)
 {
     cCliReader reader(context);
     QList<int> ids;
@@ -72,5 +72,5 @@ cCliCommand modCliCommands::DeleteCommand()
                         {u"from"_s, u"DATUM"_s, cText::Tr("die Serie vom ersten Vorkommen an, das nicht davor liegt")},
                         {u"yes"_s, {}, cText::Tr("wirklich löschen")},
                         {u"all-parts"_s, {}, cText::Tr("alle Teile einer aufgeteilten Buchung, nicht nur diesen")}},
-            .Run = Run};
+            .Run = RunDelete};
 }

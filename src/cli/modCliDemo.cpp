@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-int Run(const cCliContext& context)
+int RunDemo(const cCliContext& context)
 {
     const QString path = context.Call.Arguments().constFirst();
     bool isNumber = true;
@@ -37,5 +37,5 @@ cCliCommand modCliCommands::DemoCommand()
             .MaxArguments = 1,
             .Access = eCliAccess::None,
             .Options = {{u"entries"_s, u"ANZAHL"_s, cText::Tr("größeres Buch mit so vielen Einträgen")}},
-            .Run = Run};
+            .Run = RunDemo};
 }

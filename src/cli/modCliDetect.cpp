@@ -59,7 +59,7 @@ QString ToJson(const QString& path, const cFileFinding& finding)
         .ToString();
 }
 
-int Run(const cCliContext& context)
+int RunDetect(const cCliContext& context)
 {
     cCliReader reader(context);
     const cFileWish wish = modCliTableChoice::Read(context.Call, reader);
@@ -88,5 +88,5 @@ cCliCommand modCliCommands::DetectCommand()
             .Options = QList<cCliOption>{{u"account"_s, u"NUMMER"_s,
                                           cText::Tr("eigene Kontonummer für Auszüge, die keine nennen")}}
                 + modCliTableChoice::Options() + QList<cCliOption>{Json()},
-            .Run = Run};
+            .Run = RunDetect};
 }

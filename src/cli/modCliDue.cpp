@@ -24,7 +24,7 @@ void PrintSum(const cCliBook& book, const cEntryItemList& due)
     modConsole::Out(cText::Tr("Summe: {0}", {book.AmountText(sum)}) + u'\n');
 }
 
-int Run(const cCliContext& context)
+int RunDue(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
@@ -63,5 +63,5 @@ cCliCommand modCliCommands::DueCommand()
                         {u"contracts"_s, {}, cText::Tr("nur die Serien, die in diesen Tagen zu kündigen sind")},
                         Json(),
                         {u"csv"_s, {}, cText::Tr("Ausgabe als CSV-Datei für Tabellenprogramme")}},
-            .Run = Run};
+            .Run = RunDue};
 }

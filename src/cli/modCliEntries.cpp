@@ -7,7 +7,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-int Run(const cCliContext& context)
+int RunEntries(const cCliContext& context)
 {
     const modCliSelection::cSelection selection = modCliSelection::Read(context);
     if (selection.Code == modExit::Done) {
@@ -25,5 +25,5 @@ cCliCommand modCliCommands::EntriesCommand()
                               "aktuelle Jahr"),
             .Options = modCliSelection::Options()
                 + QList<cCliOption>{Json(), {u"csv"_s, {}, cText::Tr("Ausgabe als CSV-Datei für Tabellenprogramme")}},
-            .Run = Run};
+            .Run = RunEntries};
 }

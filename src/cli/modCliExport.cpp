@@ -45,7 +45,7 @@ cEntryExtract Extract(const cCliContext& context, const modCliSelection::cSelect
     return extract;
 }
 
-int Run(const cCliContext& context)
+int RunExport(const cCliContext& context)
 {
     const QString path = context.Call.Arguments().constFirst();
     cCliReader reader(context);
@@ -83,5 +83,5 @@ cCliCommand modCliCommands::ExportCommand()
                                           cText::Tr("csv, xlsx, html oder qif; ohne Angabe entscheidet die Endung der "
                                                     "Datei")}}
                 + modCliSelection::Options(),
-            .Run = Run};
+            .Run = RunExport};
 }

@@ -187,7 +187,7 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     return IsLogWritten(context.Call.Value(u"log"_s), fetch) && isDone ? modExit::Done : modExit::Failed;
 }
 
-int Run(const cCliContext& context)
+int RunFetch(const cCliContext& context)
 {
     cCliReader reader(context);
     cBankFetch::cWish wish;
@@ -221,5 +221,5 @@ cCliCommand modCliCommands::FetchCommand()
                     {u"log"_s, u"DATEI"_s, cText::Tr("schreibt den Nachrichtenverkehr ohne persönliche Angaben auf")},
                     {u"tan-image"_s, u"DATEI"_s, cText::Tr("hierhin kommt das Bild einer photoTAN")}}
                 + QList<cCliOption>{TakeEqual()} + BankSecrets() + QList<cCliOption>{Json()},
-            .Run = Run};
+            .Run = RunFetch};
 }

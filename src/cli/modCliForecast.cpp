@@ -103,7 +103,7 @@ void PrintJson(const cBalanceDays& days, const std::vector<cRow>& rows, const QL
     modConsole::Out(json.ToString() + u'\n');
 }
 
-int Run(const cCliContext& context)
+int RunForecast(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
@@ -146,5 +146,5 @@ cCliCommand modCliCommands::ForecastCommand()
                     {u"account"_s, u"NAME"_s, cText::Tr("nur dieses Konto")},
                     {u"average"_s, {}, cText::Tr("auch mit dem Durchschnitt der Einzelausgaben des letzten Jahres")},
                     Json()},
-        .Run = Run};
+        .Run = RunForecast};
 }

@@ -142,7 +142,7 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
     return isDone ? booked : modExit::Failed;
 }
 
-int Run(const cCliContext& context)
+int RunImport(const cCliContext& context)
 {
     cCliReader reader(context);
     cFileWish wish = modCliTableChoice::Read(context.Call, reader);
@@ -207,5 +207,5 @@ cCliCommand modCliCommands::ImportCommand()
                      cText::Tr("Spalten und Aufbau für die nächste Tabelle mit denselben Spaltennamen merken")},
                     {u"dry-run"_s, {}, cText::Tr("nur lesen und zeigen, was neu wäre")}}
                 + modCliTableChoice::Options() + QList<cCliOption>{Json()},
-            .Run = Run};
+            .Run = RunImport};
 }

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Needs no password: the file is not encrypted, so whoever can write to it could remove the setting with any program.
-int Run(const cCliContext& context)
+int RunPassword(const cCliContext& context)
 {
     cConfiguration& configuration = context.Book->File().Configuration();
     const QString path = context.Book->File().Path();
@@ -37,5 +37,5 @@ cCliCommand modCliCommands::PasswordCommand()
             .Help = cText::Tr("sagt, ob die Datenbank ein Passwort hat, und entfernt ein vergessenes"),
             .Access = eCliAccess::Unlock,
             .Options = {{u"remove"_s, {}, cText::Tr("das Passwort entfernen; die Datei ist nicht verschlüsselt")}},
-            .Run = Run};
+            .Run = RunPassword};
 }

@@ -86,7 +86,7 @@ bool Confirm(cReconcileListModel& model)
     return true;
 }
 
-int Run(const cCliContext& context)
+int RunReconcile(const cCliContext& context)
 {
     cCliReader reader(context);
     cStatementListModel statement(context.Book->Tools);
@@ -124,5 +124,5 @@ cCliCommand modCliCommands::ReconcileCommand()
                                "anpassen")},
                     {u"confirm"_s, {}, cText::Tr("vermerken, dass Bank und Buch bis dahin übereinstimmen")},
                     Json()},
-        .Run = Run};
+        .Run = RunReconcile};
 }

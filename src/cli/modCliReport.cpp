@@ -251,7 +251,7 @@ int Write(const cCliContext& context, const cReportWish& wish)
     return context.User.HasFailed() ? modExit::Failed : modExit::Done;
 }
 
-int Run(const cCliContext& context)
+int RunReport(const cCliContext& context)
 {
     cCliReader reader(context);
     const cReportWish wish = ReadWish(context, reader);
@@ -283,5 +283,5 @@ cCliCommand modCliCommands::ReportCommand()
                     {u"csv"_s, u"DATEI"_s, cText::Tr("schreibt die Zahlen als CSV-Datei")},
                     {u"xlsx"_s, u"DATEI"_s, cText::Tr("schreibt die Zahlen als Excel-Datei")},
                     Json()},
-        .Run = Run};
+        .Run = RunReport};
 }

@@ -61,7 +61,7 @@ void PrintSums(const cCliBook& book, const cEntryItemList& entries, const QStrin
     modConsole::Out(parts.join(u", "_s) + u'\n');
 }
 
-int Run(const cCliContext& context)
+int RunSearch(const cCliContext& context)
 {
     cCliReader reader(context);
     const cSearchQuery query = ReadQuery(context.Call, reader);
@@ -100,5 +100,5 @@ cCliCommand modCliCommands::SearchCommand()
                         {u"from-bank"_s, {}, cText::Tr("nur Einträge, zu denen ein Umsatz der Bank gehört")},
                         Json(),
                         {u"csv"_s, {}, cText::Tr("Ausgabe als CSV-Datei für Tabellenprogramme")}},
-            .Run = Run};
+            .Run = RunSearch};
 }

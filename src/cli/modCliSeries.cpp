@@ -26,7 +26,7 @@ QString ToJson(const QList<cSeriesCheck::cFinding>& findings)
     return modJson::Array(objects) + u'\n';
 }
 
-int Run(const cCliContext& context)
+int RunSeries(const cCliContext& context)
 {
     cCliReader reader(context);
     const QString account = reader.Account(context.Call.Value(u"account"_s));
@@ -63,5 +63,5 @@ cCliCommand modCliCommands::SeriesCommand()
             .Options = {{u"dry-run"_s, {}, cText::Tr("nur zeigen, nichts ändern")},
                         {u"account"_s, u"KONTO"_s, cText::Tr("nur dieses Konto")},
                         Json()},
-            .Run = Run};
+            .Run = RunSeries};
 }

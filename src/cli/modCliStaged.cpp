@@ -17,7 +17,7 @@ QString State(const cImportEntry& row)
                               : cText::Tr("offen");
 }
 
-int Run(const cCliContext& context)
+int RunStaged(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     cImportEntryList rows = book.Statements.Rows();
@@ -53,5 +53,5 @@ cCliCommand modCliCommands::StagedCommand()
     return {.Name = u"staged"_s,
             .Help = cText::Tr("zeigt die eingelesenen Umsätze"),
             .Options = {{u"open"_s, {}, cText::Tr("nur die noch nicht gebuchten")}, Json()},
-            .Run = Run};
+            .Run = RunStaged};
 }

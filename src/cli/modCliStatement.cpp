@@ -101,7 +101,7 @@ void PrintTable(const cStatementListModel& statement)
     modConsole::Out(table.ToString() + u'\n' + statement.Findings().join(u'\n') + u'\n');
 }
 
-int Run(const cCliContext& context)
+int RunStatement(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
     cCliReader reader(context);
@@ -154,5 +154,5 @@ cCliCommand modCliCommands::StatementCommand()
                         {u"from"_s, u"DATUM"_s, cText::Tr("erster Tag, als 2026-01-31 oder 31.01.2026")},
                         {u"to"_s, u"DATUM"_s, cText::Tr("letzter Tag")},
                         Json()},
-            .Run = Run};
+            .Run = RunStatement};
 }

@@ -59,7 +59,7 @@ QString ToTable(const QList<cTagSum>& sums, const cCliBook& book)
     return table.ToString() + u'\n' + modReport::Note(eReport::Tag) + u'\n';
 }
 
-int Run(const cCliContext& context)
+int RunTags(const cCliContext& context)
 {
     const modCliSelection::cSelection selection = modCliSelection::Read(context);
     if (selection.Code != modExit::Done) {
@@ -85,5 +85,5 @@ cCliCommand modCliCommands::TagsCommand()
                               "für das aktuelle Jahr"),
             .Options = modCliSelection::Options()
                 << Json() << cCliOption{u"csv"_s, {}, cText::Tr("Ausgabe als CSV-Datei für Tabellenprogramme")},
-            .Run = Run};
+            .Run = RunTags};
 }

@@ -149,7 +149,7 @@ QStringList Words(const cTyped& typed, const cCliContext& context)
     return typed.Word.startsWith(u'-') ? OptionWords(typed) : CommandWords(typed);
 }
 
-int Run(const cCliContext& context)
+int RunCompletion(const cCliContext& context)
 {
     const QString shell = context.Call.Arguments().constFirst();
     if (shell == u"words") {
@@ -180,5 +180,5 @@ cCliCommand modCliCommands::CompletionCommand()
             .MinArguments = 1,
             .MaxArguments = Any,
             .Access = eCliAccess::None,
-            .Run = Run};
+            .Run = RunCompletion};
 }

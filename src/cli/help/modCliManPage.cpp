@@ -71,7 +71,7 @@ QString WindowPage(const QString& version)
     return text + Files() + modRoff::Section(cText::Tr("SIEHE AUCH")) + u".BR kontorelle\\-cli (1)\n"_s;
 }
 
-int Run(const cCliContext& context)
+int RunManPage(const cCliContext& context)
 {
     const QString program = context.Call.Arguments().constFirst();
     if (program != cliProgram && program != windowProgram) {
@@ -93,5 +93,5 @@ cCliCommand modCliCommands::ManPageCommand()
             .MinArguments = 1,
             .MaxArguments = 1,
             .Access = eCliAccess::None,
-            .Run = Run};
+            .Run = RunManPage};
 }
