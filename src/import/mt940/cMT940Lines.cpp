@@ -62,7 +62,7 @@ void cMT940Lines::Take()
 
 void cMT940Lines::LookAhead()
 {
-    m_nextNumber += m_isFirst ? 0 : 1 + static_cast<int>(m_next.count(u'\n'));
+    m_nextNumber += m_isFirst ? 0 : 1 + m_feeds;
     m_isFirst = false;
     m_isAtEnd = m_isLast;
     const qsizetype end = EndOfLine();
@@ -72,11 +72,13 @@ void cMT940Lines::LookAhead()
 }
 
 // -1 in the last line.
-qsizetype cMT940Lines::EndOfLine() const
+qsizetype cMT940Lines::EndOfLine()
 {
+    m_feeds = 0;
     qsizetype end = m_rest.indexOf(u'\n');
     while (m_isDos && end >= 0 && (end == 0 || m_rest[end - 1] != u'\r')) {
         end = m_rest.indexOf(u'\n', end + 1);
+        ++m_feeds;
     }
     return end < 0 || !m_isDos ? end : end - 1;
 }

@@ -27,11 +27,12 @@ public:
 private:
     void Take();
     void LookAhead();
-    [[nodiscard]] qsizetype EndOfLine() const;
+    [[nodiscard]] qsizetype EndOfLine();
 
     const modMT940Repair::cRepaired& m_repaired;
     QStringView m_rest;
     QStringView m_next; // the line behind the present one
+    int m_feeds = 0;    // inside of it, where lines end in CR and LF
     int m_nextNumber = 0;
     QString m_joined; // the present line when it is made of several
     bool m_isDos;     // lines end in CR and LF

@@ -90,7 +90,8 @@ QDate ReadDate(QStringView text)
     if (text.size() != 6 || !AreDigits(text, 0, 6)) {
         return noDate;
     }
-    const QDate date(2000 + text.left(2).toInt(), text.mid(2, 2).toInt(), text.mid(4, 2).toInt());
+    const auto two = [&](qsizetype at) { return 10 * text[at].digitValue() + text[at + 1].digitValue(); };
+    const QDate date(2000 + two(0), two(2), two(4));
     return date.isValid() ? date : noDate;
 }
 
@@ -137,7 +138,7 @@ QString PadAmount(QStringView amount)
 // Second letters of a mark: "CR" and "DR", "RC" and "RD".
 bool IsMarkLetter(QStringView text, qsizetype at)
 {
-    return at < text.size() && u"cdrCDR"_s.contains(text[at]);
+    return at < text.size() && QStringView(u"cdrCDR").contains(text[at]);
 }
 
 cTransaction ReadTransaction(QStringView content, int line)
@@ -180,46 +181,65 @@ int SubfieldNumber(QStringView piece)
     return number;
 }
 
+// In one step, because it is done several times for every transaction.
+void AddPiece(QString& text, QStringView piece)
+{
+    const qsizetype size = text.size();
+    text.resize(size + piece.size() + 1, u' ');
+    std::copy(piece.begin(), piece.end(), text.begin() + size);
+}
+
 void AddSubfield(cTransaction& transaction, int number, QStringView value)
 {
     if (number == 0) {
-        transaction.BookingText += AreDigits(value, 0, 3) ? value.mid(3) : value;
-        transaction.BookingText += u' ';
+        AddPiece(transaction.BookingText, AreDigits(value, 0, 3) ? value.mid(3) : value);
     } else if (number == 10) {
         transaction.PrimaNota += value;
     } else if (number >= 20 && number <= 29) {
-        transaction.Purpose += value;
-        transaction.Purpose += u' ';
+        AddPiece(transaction.Purpose, value);
     } else if (number == 30) {
         transaction.BankCode += value;
     } else if (number == 31) {
         transaction.Account += value;
     } else if (number == 32 || number == 33) {
-        transaction.Name += value;
-        transaction.Name += u' ';
+        AddPiece(transaction.Name, value);
     } else if (number >= 60 && number <= 63) {
         transaction.PurposeContinuation += value;
     }
 }
 
+// Looks for its rarest letter, which is found many times faster than the word.
 bool HasNotProvided(QStringView content)
 {
     constexpr QStringView wanted = u"notprovided";
-    const auto isSame = [](QChar c, QChar lower) { return (c.unicode() | 0x20U) == lower.unicode(); };
-    return std::search(content.begin(), content.end(), wanted.begin(), wanted.end(), isSame) != content.end();
+    constexpr qsizetype before = 6; // letters before the "v"
+    for (const QChar letter : {u'V', u'v'}) {
+        for (qsizetype at = content.indexOf(letter, before); at >= 0; at = content.indexOf(letter, at + 1)) {
+            if (content.mid(at - before).startsWith(wanted, Qt::CaseInsensitive)) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 void ReadDetails(cTransaction& transaction, QStringView content)
 {
     transaction.BusinessCode = content.left(3).toString();
     transaction.Separator = content.mid(3, 1).toString();
-    const QList<QStringView> pieces =
-        transaction.Separator.isEmpty() ? QList<QStringView>() : content.split(transaction.Separator.front());
+    if (transaction.Separator.isEmpty()) {
+        return;
+    }
+    const QChar separator = transaction.Separator.front();
+    transaction.Purpose.reserve(content.size());         // it grows with every piece
     const bool hasNoReference = HasNotProvided(content); // quicker asked once
-    for (qsizetype i = 1; i < pieces.size(); ++i) {
-        if (!hasNoReference || !pieces[i].contains(u"referenz notprovided", Qt::CaseInsensitive)) {
-            AddSubfield(transaction, SubfieldNumber(pieces[i]), pieces[i].mid(2));
+    for (qsizetype at = content.indexOf(separator); at >= 0;) {
+        const qsizetype next = content.indexOf(separator, at + 1);
+        const QStringView piece = next < 0 ? content.mid(at + 1) : content.mid(at + 1, next - at - 1);
+        if (!hasNoReference || !piece.contains(u"referenz notprovided", Qt::CaseInsensitive)) {
+            AddSubfield(transaction, SubfieldNumber(piece), piece.mid(2));
         }
+        at = next;
     }
 }
 

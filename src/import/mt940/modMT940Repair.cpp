@@ -24,17 +24,24 @@ struct cLine
 
 bool HasKnownTag(QStringView line)
 {
-    return line.startsWith(u':')
-        && std::any_of(knownTags.begin(), knownTags.end(), [&](const char16_t* tag) { return line.startsWith(tag); });
+    return line.size() >= 4 && line.front() == u':'
+        && std::any_of(knownTags.begin(), knownTags.end(), [&](const char16_t* tag) {
+               return line[1] == tag[1] && line[2] == tag[2] && line.startsWith(tag); // mostly seen at once
+           });
 }
 
 // True when "@@" stands where line breaks should: more tags follow on it than on real line breaks.
 bool HasAtSignBreaks(const QString& text)
 {
-    const auto isTag = [&](qsizetype at) { return HasKnownTag(QStringView(text).mid(at, 5)); };
+    const QStringView view = text;
+    const auto isTag = [&](qsizetype at) { return HasKnownTag(view.mid(at, 5)); };
     int atSigns = 0;
-    for (qsizetype at = text.indexOf(u"@@"); at >= 0; at = text.indexOf(u"@@", at + 2)) {
-        atSigns += isTag(at + 2) ? 1 : 0;
+    // One character is found many times faster than two.
+    for (qsizetype at = view.indexOf(u'@'); at >= 0; at = view.indexOf(u'@', at + 1)) {
+        if (view.mid(at + 1).startsWith(u'@')) {
+            ++at;
+            atSigns += isTag(at + 1) ? 1 : 0;
+        }
     }
     if (atSigns == 0) {
         return false;
@@ -120,7 +127,7 @@ private:
         if (IsEnvelope(bare)) {
             EndStatement();
             TakeEnvelope(line, bare);
-        } else if (bare.startsWith(u"-}") || (bare == u"-" && bare.size() != line.Content.trimmed().size())) {
+        } else if (IsDash(bare, line.Content)) {
             EndStatement();
             Replace(line, u"-");
         } else if (m_lastWidth >= wrapWidth && line.Content.startsWith(u':') && !HasKnownTag(line.Content)) {
@@ -133,14 +140,24 @@ private:
         }
     }
 
+    // The end of a statement as it may not stand: with the brace of an envelope or with controls.
+    [[nodiscard]] static bool IsDash(QStringView bare, QStringView content)
+    {
+        return bare.startsWith(u'-') && (bare.startsWith(u"-}") || (bare.size() == 1 && content.trimmed().size() != 1));
+    }
+
     // Details behind the closing balance tell of the statement (its sums), not of the last transaction in it. Where it
     // has none they stay: the reader refuses them.
     [[nodiscard]] bool IsOfStatement(const cLine& line)
     {
         const QStringView tag = line.Content.left(4);
-        if (tag == u":20:" || line.Content.trimmed() == u"-") {
+        if (!line.Content.startsWith(u':')) {
+            if (line.Content.trimmed() == u"-") {
+                EndStatement();
+            }
+        } else if (tag == u":20:") {
             EndStatement();
-        } else if (line.Content.startsWith(u':')) {
+        } else {
             m_hasTransaction = m_hasTransaction || tag == u":61:";
             m_isClosed = tag != u":61:" && (m_isClosed || IsClosing(tag));
             m_isDropping = tag == u":86:" && m_isClosed && m_hasTransaction;

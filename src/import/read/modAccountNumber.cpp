@@ -34,6 +34,11 @@ bool IsIbanOf(const QString& iban, const QString& bankCode, const QString& numbe
 
 QString modAccountNumber::Compact(const QString& number)
 {
+    const bool isCompact = std::all_of(number.begin(), number.end(),
+                                       [](QChar c) { return c > u' ' && c < u'\x7f' && (c < u'a' || c > u'z'); });
+    if (isCompact) {
+        return number; // as nearly always
+    }
     QString kept;
     for (const QChar c : number) {
         if (!c.isSpace()) {

@@ -19,9 +19,13 @@ QStringView KeywordAt(QStringView text)
     if (text.size() < 4 || (text[3] != u'+' && (text.size() < 5 || text[4] != u'+'))) {
         return {}; // as nearly always, and quick to see
     }
-    const QChar first = text.front().toUpper();
+    const auto isSame = [](QChar letter, QChar capital) { // small letters differ from capitals in one bit
+        return letter == capital || (letter.unicode() & ~0x20) == capital.unicode();
+    };
     const auto* const found = std::find_if(keywords.begin(), keywords.end(), [&](QStringView keyword) {
-        return keyword.front() == first && text.startsWith(keyword, Qt::CaseInsensitive);
+        return isSame(text.front(), keyword.front()) && text.size() >= keyword.size()
+            && std::equal(keyword.begin(), keyword.end(), text.begin(),
+                          [&](QChar capital, QChar letter) { return isSame(letter, capital); });
     });
     return found == keywords.end() ? QStringView() : *found;
 }

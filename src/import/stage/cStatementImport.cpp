@@ -87,6 +87,8 @@ private:
     int m_inARow = 0;
 };
 
+enum class eVerdict { IsHeldBack, IsNew, MayBeKnown };
+
 // Rows that the operation of staging would take and that are there, or were, all the same.
 class cGate
 {
@@ -98,21 +100,21 @@ public:
     {
     }
 
-    [[nodiscard]] bool HoldsBack(const cImportEntry& entry, cImportResult& result)
+    [[nodiscard]] eVerdict Judge(const cImportEntry& entry, cImportResult& result)
     {
         if (m_test == eDuplicateTest::Skip || entry.ImportValue == 0) {
-            return false;
+            return eVerdict::MayBeKnown;
         }
         const eKnown known = m_staging.Find(entry);
         if (known == eKnown::ButBlanks) {
             result.Alike.append(entry);
-            return true;
+            return eVerdict::IsHeldBack;
         }
         if (known == eKnown::No && m_memory != nullptr && m_memory->HasBrought(entry)) {
             result.Deleted.append(entry);
-            return true;
+            return eVerdict::IsHeldBack;
         }
-        return false;
+        return known == eKnown::No ? eVerdict::IsNew : eVerdict::MayBeKnown;
     }
 
 private:
@@ -440,10 +442,12 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
         }
         cImportEntry& entry = read.Entries[i];
         entry.Validate();
-        if (gate.HoldsBack(entry, result)) {
+        const eVerdict verdict = gate.Judge(entry, result);
+        if (verdict == eVerdict::IsHeldBack) {
             continue;
         }
-        const eStaged outcome = staging.StageImportEntry(entry, options.Duplicates);
+        const eStaged outcome = staging.StageImportEntry(
+            entry, verdict == eVerdict::IsNew ? eDuplicateTest::Skip : options.Duplicates); // nothing is asked twice
         tally.Count(outcome, entry);
         if (outcome == eStaged::Staged && options.Run == eStagingRun::Try) {
             result.Rows.append(entry);

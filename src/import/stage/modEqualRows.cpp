@@ -106,6 +106,9 @@ void modEqualRows::Find(const cStatementRead& read, cStaging& staging, const cFe
                         cImportResult& result)
 {
     const cImportEntryList leftOut = result.Duplicates + result.Alike;
+    if (leftOut.isEmpty()) {
+        return;
+    }
     cGroups groups(leftOut);
     groups.Count(read);
     QSet<qsizetype> moved;

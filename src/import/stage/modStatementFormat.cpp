@@ -39,15 +39,41 @@ bool IsRefused(const QString& name, const cStatementSource& /*source*/)
     return EndsIn(name, {u".LNK"_s, u".SHS"_s});
 }
 
+// The tags of a statement that have been met in a text.
+struct cTags
+{
+    bool Opening = false;
+    bool Closing = false;
+    bool Start = false;
+    bool Transaction = false;
+    bool Details = false;
+
+    void Meet(QStringView tag)
+    {
+        Opening = Opening || tag == u":60F:" || tag == u":60M:";
+        Closing = Closing || tag == u":62F:" || tag == u":62M:";
+        Start = Start || tag.startsWith(u":20:");
+        Transaction = Transaction || tag.startsWith(u":61:");
+        Details = Details || tag.startsWith(u":86:");
+    }
+
+    [[nodiscard]] bool AreEnough() const { return (Opening && Closing) || (Start && Transaction && Details); }
+};
+
 bool IsMt940(const QString& name, const cStatementSource& source)
 {
-    const auto has = [&](QStringView mark) { return modStatementText::HasMark(source.Text, mark); };
-    const bool hasOpening = has(u":60F:") || has(u":60M:");
-    const bool hasClosing = has(u":62F:") || has(u":62M:");
-    const bool hasLines = has(u":20:") && has(u":61:");
+    cTags tags;
     // A file that already calls itself so need not have details to every transaction.
-    const bool isNamedSo = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s, u".STA"_s});
-    return (hasOpening && hasClosing) || (hasLines && (isNamedSo || has(u":86:")));
+    tags.Details = EndsIn(name, {u".MT940"_s, u".MT942"_s, u".MT9"_s, u".STA"_s});
+    const QStringView text = source.Text;
+    // A long text that is none is gone through once.
+    for (qsizetype at = text.indexOf(u':'); at >= 0 && !tags.AreEnough(); at = text.indexOf(u':', at + 1)) {
+        const QStringView tag = text.sliced(at).first(qMin<qsizetype>(5, text.size() - at));
+        if (tag.size() >= 4 && (tag[1] == u'2' || tag[1] == u'6' || tag[1] == u'8')) {
+            tags.Meet(tag);
+        }
+    }
+    return tags.AreEnough();
 }
 
 bool IsOfx(const QString& /*name*/, const cStatementSource& source)

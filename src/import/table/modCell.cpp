@@ -91,8 +91,9 @@ QString modCell::Clean(QStringView text)
 
 bool modCell::NeedsCleaning(QStringView trimmed)
 {
-    return trimmed.startsWith(u'"')
-        || std::any_of(trimmed.begin(), trimmed.end(), [](QChar c) { return c == u'\t' || c == u'\r' || c == u'\n'; });
+    return trimmed.startsWith(u'"') || std::any_of(trimmed.begin(), trimmed.end(), [](QChar c) {
+               return c < u' ' && (c == u'\t' || c == u'\r' || c == u'\n');
+           });
 }
 
 bool modCell::MatchesList(QStringView name, QStringView alternatives)

@@ -38,8 +38,8 @@ bool IsSemicolonNumber(QStringView cell)
 // "1,23457E+21"
 bool IsExponent(QStringView cell)
 {
-    const qsizetype sign = qMax(cell.indexOf(u"E+"), cell.indexOf(u"e+"));
-    return sign > 0 && IsDigit(cell.front()) && IsDigit(cell.back())
+    const qsizetype sign = cell.indexOf(u'+') - 1;
+    return sign > 0 && (cell[sign] == u'E' || cell[sign] == u'e') && IsDigit(cell.front()) && IsDigit(cell.back())
         && std::all_of(cell.begin(), cell.begin() + sign, [](QChar c) { return IsDigit(c) || c == u',' || c == u'.'; });
 }
 

@@ -46,6 +46,17 @@ bool HasDigit(QStringView cell)
     return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
+// Whether there is anything to clean: as good as never.
+bool IsUnclean(QStringView text)
+{
+    QChar before;
+    return std::any_of(text.begin(), text.end(), [&](QChar c) {
+        const bool isDouble = c == u' ' && before == u' ';
+        before = c;
+        return isDouble || c == u';' || c == u'"' || c == u'<';
+    });
+}
+
 void Collapse(QString& text, QChar c)
 {
     const QString once(1, c);
@@ -575,6 +586,9 @@ private:
 
 QString modTableRows::CleanPurpose(QString joined)
 {
+    if (!IsUnclean(joined)) {
+        return modSepaPurpose::Rewrite(joined);
+    }
     joined.replace(u';', u' ').replace(u'"', u' ');
     if (joined.contains(u'<')) {
         joined.replace(u"<BR>"_s, u"\n"_s);

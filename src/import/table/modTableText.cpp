@@ -75,12 +75,12 @@ private:
         if (At(start) == u'"' && start < m_text.size() && m_vainSteps < mostVainSteps && ReadQuoted(start + 1)) {
             return;
         }
-        qsizetype end = m_at;
-        while (end < m_text.size() && !IsEnd(end)) {
-            ++end;
-        }
-        AddSlice(m_at, end - m_at);
-        m_at = end;
+        const QStringView rest = QStringView(m_text).sliced(m_at);
+        const auto* const end = std::find_if(rest.begin(), rest.end(), [separator = m_current](QChar c) {
+            return c == separator || c == u'\n' || c == u'\r';
+        });
+        AddSlice(m_at, end - rest.begin());
+        m_at += end - rest.begin();
     }
 
     // False, and nothing taken, when the quote is never closed.

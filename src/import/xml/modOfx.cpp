@@ -9,7 +9,9 @@
 #include "import/xml/modXmlNode.h"
 #include "import/xml/modXmlPieces.h"
 
+#include <algorithm>
 #include <array>
+#include <numeric>
 #include <optional>
 #include <pugixml.hpp>
 #include <utility>
@@ -40,7 +42,15 @@ QString TextOf(const pugi::xml_node& node, const char* child)
 // Year, month and day are the first eight characters; time and zone behind them do not count. Invalid for no day.
 QDate DateOf(QStringView text)
 {
-    return {text.left(4).toInt(), text.mid(4, 2).toInt(), text.mid(6, 2).toInt()};
+    const auto number = [&](qsizetype from, qsizetype count) {
+        const QStringView digits = text.mid(from, count);
+        const bool isNumber = digits.size() == count
+            && std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+        return isNumber ? std::accumulate(digits.begin(), digits.end(), 0,
+                                          [](int sum, QChar c) { return sum * 10 + (c.unicode() - u'0'); })
+                        : 0;
+    };
+    return {number(0, 4), number(4, 2), number(6, 2)};
 }
 
 class cReader
@@ -230,7 +240,14 @@ QByteArray Utf8(const cStatementSource& source, const cReadOptions& options)
 bool modOfx::IsOfx(const QString& text)
 {
     const auto has = [&](QStringView mark) { return modStatementText::HasMark(text, mark); };
-    if (has(u"<BANKTRANLIST>") && has(u"</OFX>") && (has(u"<OFX>") || has(u"OFXHEADER"))) {
+    const auto ends = [&] { // looked for from where it stands
+        qsizetype at = text.lastIndexOf(u'<');
+        while (at > 0 && !QStringView(text).sliced(at).startsWith(u"</OFX>")) {
+            at = text.lastIndexOf(u'<', at - 1);
+        }
+        return at > 0;
+    };
+    if (has(u"<BANKTRANLIST>") && (has(u"<OFX>") || has(u"OFXHEADER")) && ends()) {
         return true;
     }
     // Statements without transactions, of a securities account, or cut off: still better refused or read as what they

@@ -1,5 +1,7 @@
 #include "import/xml/modOfxRepair.h"
 
+#include "import/xml/modBytes.h"
+
 #include <QByteArrayView>
 #include <QHash>
 
@@ -98,18 +100,19 @@ bool IsEntity(QByteArrayView text)
 // The plain text of a value with what XML does not allow escaped; line breaks become blanks.
 void AppendEscaped(QByteArray& out, QByteArrayView text)
 {
+    constexpr QByteArrayView blank = " ";
+    constexpr QByteArrayView less = "&lt;";
+    constexpr QByteArrayView ampersand = "&amp;";
     qsizetype kept = 0;
     for (qsizetype at = 0; at < text.size(); ++at) {
         const char c = text[at];
-        const bool isBreak = c == '\n' || c == '\r';
-        if (!isBreak && c != '<' && (c != '&' || IsEntity(text.sliced(at)))) {
+        if (c > '<' || (c != '\n' && c != '\r' && c != '<' && (c != '&' || IsEntity(text.sliced(at))))) {
             continue;
         }
-        out.append(text.sliced(kept, at - kept));
-        out += isBreak ? " " : (c == '<' ? "&lt;" : "&amp;");
+        modBytes::Put(out, {text.sliced(kept, at - kept), c == '<' ? less : (c == '&' ? ampersand : blank)});
         kept = at + 1;
     }
-    out.append(text.sliced(kept));
+    modBytes::Put(out, {text.sliced(kept)});
 }
 
 class cRepair
@@ -277,23 +280,18 @@ private:
             m_out += '\n';
         }
         m_isHeader = false;
-        m_out += '<';
-        AppendUpper(name);
-        m_out += '>';
+        PutTag("<", name, ">");
     }
 
-    void End(QByteArrayView name)
-    {
-        m_out += "</";
-        AppendUpper(name);
-        m_out += ">\n";
-    }
+    void End(QByteArrayView name) { PutTag("</", name, ">\n"); }
 
-    void AppendUpper(QByteArrayView name)
+    void PutTag(QByteArrayView before, QByteArrayView name, QByteArrayView behind)
     {
-        for (const char c : name) {
-            m_out += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-        }
+        const qsizetype start = m_out.size() + before.size();
+        modBytes::Put(m_out, {before, name, behind});
+        char* const place = m_out.data() + start;
+        std::transform(place, place + name.size(), place,
+                       [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
     }
 
     // The output with the end tags that turned out to be missing.

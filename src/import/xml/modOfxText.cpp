@@ -1,26 +1,34 @@
 #include "import/xml/modOfxText.h"
 
+#include "import/xml/modBytes.h"
+
 #include <QByteArrayView>
 
 #include <algorithm>
 
 namespace {
 
-// A line with the end tag that its value lacks.
-void AppendLine(QByteArray& out, QByteArrayView line)
+// The name of the end tag that the line's value lacks; empty when it lacks none.
+QByteArrayView MissingEnd(QByteArrayView line)
 {
-    out.append(line);
     const qsizetype tagEnd = line.indexOf('>');
     if (!line.startsWith('<') || line.startsWith("</") || tagEnd < 0 || tagEnd + 1 == line.size()) {
-        return;
+        return {};
     }
     const QByteArrayView name = line.sliced(1, tagEnd - 1);
     const bool isClosed =
         line.endsWith('>') && line.chopped(1).endsWith(name) && line.chopped(1 + name.size()).endsWith("</");
-    if (!isClosed) {
-        out += "</";
-        out.append(name);
-        out += '>';
+    return isClosed ? QByteArrayView() : name;
+}
+
+void AppendLine(QByteArray& out, QByteArrayView line)
+{
+    constexpr QByteArrayView feed = "\n";
+    const QByteArrayView name = MissingEnd(line);
+    if (name.isEmpty()) {
+        modBytes::Put(out, {line, feed});
+    } else {
+        modBytes::Put(out, {line, "</", name, ">", feed});
     }
 }
 
@@ -35,7 +43,6 @@ QByteArray modOfxText::ToXml(const QByteArray& text)
         const qsizetype feed = view.indexOf('\n', from);
         const qsizetype end = feed < 0 ? view.size() : feed;
         AppendLine(xml, view.sliced(from, end - from).trimmed());
-        xml += '\n';
         from = end + 1;
     }
     const qsizetype start = xml.indexOf("<OFX>");

@@ -3,6 +3,7 @@
 #include "base/modDate.h"
 
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -28,12 +29,20 @@ bool modXmlNode::Load(pugi::xml_document& document, QByteArrayView xml)
     const pugi::xml_parse_result result =
         document.load_buffer(xml.data(), static_cast<std::size_t>(xml.size()), flags, pugi::encoding_utf8);
     cPrefixRemover remover;
-    return result && document.traverse(remover);
+    return result && (!xml.contains(':') || document.traverse(remover)); // no colon, no prefix
 }
 
 QString modXmlNode::Text(const pugi::xml_node& node)
 {
-    return QString::fromUtf8(node.child_value()).replace(u'\n', u' ').trimmed();
+    const QByteArrayView value = node.child_value();
+    if (value.isEmpty()) {
+        return {}; // most nodes that are asked for are not there
+    }
+    QString text = QString::fromUtf8(value);
+    if (value.contains('\n')) {
+        text.replace(u'\n', u' ');
+    }
+    return std::move(text).trimmed();
 }
 
 QDate modXmlNode::Day(const pugi::xml_node& node)
