@@ -1,6 +1,6 @@
 #include "import/table/modCell.h"
 #include "import/table/modColumnWords.h"
-#include "import/table/modTableRows.h"
+#include "import/table/modTablePurpose.h"
 #include "import/table/modTableText.h"
 #include "support/cTestClass.h"
 
@@ -168,7 +168,7 @@ private Q_SLOTS:
     void Purposes()
     {
         QFETCH(QString, joined);
-        QTEST(modTableRows::CleanPurpose(joined), "purpose");
+        QTEST(modTablePurpose::Clean(joined), "purpose");
     }
 };
 

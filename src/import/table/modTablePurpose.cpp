@@ -1,8 +1,11 @@
 #include "import/table/modTablePurpose.h"
 
 #include "import/read/cColumnMap.h"
+#include "import/read/modSepaPurpose.h"
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -16,6 +19,26 @@ QString Stem(const QString& name)
         --size;
     }
     return name.left(size).trimmed();
+}
+
+// Whether there is anything to clean: as good as never.
+bool IsUnclean(QStringView text)
+{
+    QChar before;
+    return std::any_of(text.begin(), text.end(), [&](QChar c) {
+        const bool isDouble = c == u' ' && before == u' ';
+        before = c;
+        return isDouble || c == u';' || c == u'"' || c == u'<';
+    });
+}
+
+void Collapse(QString& text, QChar c)
+{
+    const QString once(1, c);
+    const QString twice(2, c);
+    while (text.contains(twice)) {
+        text.replace(twice, once);
+    }
 }
 
 } // namespace
@@ -40,4 +63,18 @@ QList<int> modTablePurpose::Columns(const cColumnMap& map)
         }
     }
     return columns;
+}
+
+QString modTablePurpose::Clean(QString joined)
+{
+    if (!IsUnclean(joined)) {
+        return modSepaPurpose::Rewrite(joined);
+    }
+    joined.replace(u';', u' ').replace(u'"', u' ');
+    if (joined.contains(u'<')) {
+        joined.replace(u"<BR>"_s, u"\n"_s);
+        Collapse(joined, u'\n');
+    }
+    Collapse(joined, u' ');
+    return modSepaPurpose::Rewrite(joined);
 }

@@ -3,7 +3,6 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "import/read/modAccountNumber.h"
-#include "import/read/modSepaPurpose.h"
 #include "import/table/cTable.h"
 #include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"
@@ -44,26 +43,6 @@ bool IsOneOf(QStringView cell, const auto& words)
 bool HasDigit(QStringView cell)
 {
     return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-}
-
-// Whether there is anything to clean: as good as never.
-bool IsUnclean(QStringView text)
-{
-    QChar before;
-    return std::any_of(text.begin(), text.end(), [&](QChar c) {
-        const bool isDouble = c == u' ' && before == u' ';
-        before = c;
-        return isDouble || c == u';' || c == u'"' || c == u'<';
-    });
-}
-
-void Collapse(QString& text, QChar c)
-{
-    const QString once(1, c);
-    const QString twice(2, c);
-    while (text.contains(twice)) {
-        text.replace(twice, once);
-    }
 }
 
 // Texts that come back in row after row are kept once.
@@ -415,7 +394,7 @@ private:
             joined += joined.isEmpty() ? QString() : QString(u' ');
             joined += Cell(column);
         }
-        return modTableRows::CleanPurpose(std::move(joined));
+        return modTablePurpose::Clean(std::move(joined));
     }
 
     [[nodiscard]] eState State()
@@ -583,20 +562,6 @@ private:
 };
 
 } // namespace
-
-QString modTableRows::CleanPurpose(QString joined)
-{
-    if (!IsUnclean(joined)) {
-        return modSepaPurpose::Rewrite(joined);
-    }
-    joined.replace(u';', u' ').replace(u'"', u' ');
-    if (joined.contains(u'<')) {
-        joined.replace(u"<BR>"_s, u"\n"_s);
-        Collapse(joined, u'\n');
-    }
-    Collapse(joined, u' ');
-    return modSepaPurpose::Rewrite(joined);
-}
 
 cStatementRead modTableRows::Read(const cTable& table, const cTableLayout& layout, const QString& account)
 {

@@ -12,10 +12,6 @@ class cTable;
 // Rows of a table as transactions.
 namespace modTableRows {
 
-// Purpose columns joined by a blank, without ";" and quotes, "<BR>" as a line break, doubled blanks and line breaks
-// once, and SEPA keywords resolved.
-[[nodiscard]] QString CleanPurpose(QString joined);
-
 // A row as it would be read, with its place in the table and the balance beside it.
 struct cProbed
 {
