@@ -202,11 +202,14 @@ QString cCliReader::Interval(const QString& text)
 
 QString cCliReader::Account(const QString& text, eCliNames names)
 {
+    if (text.isEmpty()) {
+        return {};
+    }
     cDataAccess& data = m_context.Book->Data;
     const QStringList accounts =
         names == eCliNames::Used ? modBookNames::UsedAccounts(data) : modBookNames::Accounts(data);
     const QStringList meant = accounts.contains(text) ? QStringList{text} : Meant(accounts, text, Itself);
-    if (meant.isEmpty() && !text.isEmpty()) {
+    if (meant.isEmpty()) {
         Missing(cText::Tr("Das Konto '{0}' gibt es nicht. Möglich sind: {1}.", {text, accounts.join(u", "_s)}));
     }
     return meant.value(0);
