@@ -184,7 +184,7 @@ void testFrmBelege::PastedPictureBecomesAReceipt()
     image.fill(Qt::red);
     QApplication::clipboard()->setImage(image);
     Button(window, u"&Einfügen"_s)->click();
-    QCOMPARE(scene.Receipts.NameAt(0), u"2026-03-10 Waschmaschine 1.png"_s);
+    QVERIFY(scene.Receipts.NameAt(0).startsWith(u"2026-03-10 Waschmaschine "_s));
     QCOMPARE(QImage(scene.Receipts.PathAt(0)).size(), image.size());
     auto* preview = window.findChild<cPreviewView*>();
     QTRY_VERIFY(preview->HasPicture());
