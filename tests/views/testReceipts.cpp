@@ -8,6 +8,7 @@
 #include "views/entry/cEntryEditor.h"
 #include "views/list/cEntryListModel.h"
 #include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cReceipts.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -171,7 +172,7 @@ void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()
     QCOMPARE(scene.Names(scene.Entry), QStringList());
     QCOMPARE(scene.Receipts.Unused(), QStringList{first});
     QVERIFY(scene.Receipts.CheckText(scene.Book.Data)
-                .contains(u"gehören Dateien zu keinem Eintrag dieses Buchs: "_s + first));
+                .contains(u"gehören Dateien zu keinem Eintrag und keinem Konto dieses Buchs: "_s + first));
     QVERIFY(scene.Book.Data.Journal().Redo());
     QCOMPARE(scene.Content(scene.Names(scene.Entry).value(0)), "eins");
     QVERIFY(scene.Book.Data.DeleteEntry(scene.Entry));
@@ -203,7 +204,7 @@ void testReceipts::RemovedFilesGoToTheTrashUnlessShared()
     list.Remove(0);
     QCOMPARE(list.rowCount(), 0);
     QCOMPARE(scene.Folder(), QStringList{first});
-    QVERIFY(scene.Book.User.Asked.last().endsWith(u"Die Datei bleibt, weil auch ein anderer Eintrag sie hat."_s));
+    QVERIFY(scene.Book.User.Asked.last().endsWith(u"Die Datei bleibt, weil sie noch an anderer Stelle hängt."_s));
 
     cReceiptListModel last(scene.Book.Tools, scene.Desk, other);
     scene.Desk.HasTrash = false;

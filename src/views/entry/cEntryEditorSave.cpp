@@ -113,7 +113,7 @@ bool cEntryEditor::UseNormal(cFields& fields) const
 
 QList<cReceiptSource> cEntryEditor::ChooseReceipts() const
 {
-    return cReceiptListModel::Ask(m_tools.User);
+    return cReceiptListModel::Ask(m_tools);
 }
 
 QString cEntryEditor::ReceiptText(const cEntryFields& fields) const

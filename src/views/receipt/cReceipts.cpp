@@ -7,6 +7,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/modEntryFields.h"
+#include "views/receipt/cStatementPapers.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -35,14 +36,25 @@ cEntryItemList EntriesIn(cDataAccess& data)
     return entries;
 }
 
-QStringList UnusedIn(cDataAccess& data)
+// What entries and accounts of the book have, by name, each as often as it hangs somewhere.
+QStringList NamesIn(cDataAccess& data)
 {
-    QSet<QString> used;
+    QStringList names;
     const cEntryItemList entries = EntriesIn(data);
     for (const cEntryItem& entry : entries) {
-        const QStringList names = modReceiptName::Of(entry);
-        used.unite(QSet<QString>(names.begin(), names.end()));
+        names += modReceiptName::Of(entry);
     }
+    const QMap<QString, QStringList> papers = cStatementPapers::All(data);
+    for (const QStringList& each : papers) {
+        names += each;
+    }
+    return names;
+}
+
+QStringList UnusedIn(cDataAccess& data)
+{
+    const QStringList names = NamesIn(data);
+    const QSet<QString> used(names.begin(), names.end());
     if (!data.IsWhole()) {
         return {};
     }
@@ -105,6 +117,11 @@ cEntryItemList cReceipts::EntriesOf(const QString& name) const
     return entries;
 }
 
+qsizetype cReceipts::CountUses(const QString& name) const
+{
+    return NamesIn(m_tools.Data).count(name);
+}
+
 QStringList cReceipts::Unused() const
 {
     return UnusedIn(m_tools.Data);
@@ -113,13 +130,9 @@ QStringList cReceipts::Unused() const
 QString cReceipts::CheckText(cDataAccess& data)
 {
     const QDir folder(modReceiptFolder::Of(data.BookPath()));
-    QStringList missing;
-    const cEntryItemList entries = EntriesIn(data);
-    for (const cEntryItem& entry : entries) {
-        QStringList names = modReceiptName::Of(entry);
-        names.removeIf([&](const QString& name) { return missing.contains(name) || QFileInfo(folder, name).isFile(); });
-        missing += names;
-    }
+    QStringList missing = NamesIn(data);
+    missing.removeDuplicates();
+    missing.removeIf([&](const QString& name) { return QFileInfo(folder, name).isFile(); });
     const QStringList unused = UnusedIn(data);
     QStringList lines;
     if (!missing.isEmpty()) {
@@ -127,7 +140,7 @@ QString cReceipts::CheckText(cDataAccess& data)
             cText::Tr("Im Ordner '{0}' fehlen Belege: {1}", {QDir::toNativeSeparators(folder.path()), Some(missing)}));
     }
     if (!unused.isEmpty()) {
-        lines.append(cText::Tr("Im Ordner '{0}' gehören Dateien zu keinem Eintrag dieses Buchs: {1}",
+        lines.append(cText::Tr("Im Ordner '{0}' gehören Dateien zu keinem Eintrag und keinem Konto dieses Buchs: {1}",
                                {QDir::toNativeSeparators(folder.path()), Some(unused)}));
     }
     return lines.join(u'\n');

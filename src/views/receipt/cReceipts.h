@@ -35,10 +35,13 @@ public:
     [[nodiscard]] cEntryItemList Entries() const;
     [[nodiscard]] cEntryItemList EntriesOf(const QString& name) const;
 
-    // Files of the folder that no entry of the book has. Nothing while the book cannot be read whole.
+    // At how many entries and accounts it hangs.
+    [[nodiscard]] qsizetype CountUses(const QString& name) const;
+
+    // Files of the folder that no entry and no account of the book has. Nothing while the book cannot be read whole.
     [[nodiscard]] QStringList Unused() const;
 
-    // What a check of the book says of receipts, for the user: missing files and those without an entry, some of each
+    // What a check of the book says of receipts, for the user: missing files and those that hang nowhere, some of each
     // by name. Empty where everything fits.
     [[nodiscard]] static QString CheckText(cDataAccess& data);
 
