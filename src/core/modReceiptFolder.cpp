@@ -102,13 +102,12 @@ QStringList FoldersFor(const QString& backup, const QString& book)
         return {own};
     }
     const QFileInfo file(backup);
-    static const QRegularExpression mark(u"^(-[0-9a-f]{6})?$"_s);
+    const QRegularExpression name(u'^' + QRegularExpression::escape(NameOf(file)) + u"(-[0-9a-f]{6})?"_s + folderEnding
+                                  + u'$');
     QStringList folders;
     const QFileInfoList all = file.absoluteDir().entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
     for (const QFileInfo& each : all) {
-        const QString name = each.fileName();
-        if (name.startsWith(NameOf(file)) && name.endsWith(folderEnding)
-            && mark.match(name.mid(NameOf(file).size()).chopped(folderEnding.size())).hasMatch()) {
+        if (name.match(each.fileName()).hasMatch()) {
             folders.append(each.filePath());
         }
     }

@@ -161,6 +161,9 @@ void testReceipts::NamesTellTheContent()
     QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}})); // and the file is back
     QCOMPARE(scene.Content(first), "eins");
     QCOMPARE(scene.Names(scene.Entry), QStringList{first});
+    QCOMPARE(scene.Book.User.Shown.last(), u"Die fehlende Datei ist wieder da."_s);
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    QCOMPARE(scene.Book.User.Shown.last(), u"Diese Datei hängt hier schon."_s);
 }
 
 void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()

@@ -136,6 +136,13 @@ QString cReceiptFolder::Take(const QString& stem, const cReceiptSource& source)
     return bytes ? Keep(stem, source.Path.isEmpty() ? u".png"_s : EndingOf(source.Path), *bytes) : QString();
 }
 
+void cReceiptFolder::TellUnchanged() const
+{
+    m_tools.User.Show(eTone::Information,
+                      m_copied.isEmpty() ? cText::Tr("Diese Datei hängt hier schon.")
+                                         : cText::Tr("Die fehlende Datei ist wieder da."));
+}
+
 void cReceiptFolder::TakeBack()
 {
     for (const QString& path : std::as_const(m_copied)) {

@@ -40,6 +40,9 @@ public:
     // The same for a source with its own ending. What lies in the folder already keeps its name.
     [[nodiscard]] QString Take(const QString& stem, const cReceiptSource& source);
 
+    // Says why an action that wanted something kept changes nothing: it hangs there, or only its file was missing.
+    void TellUnchanged() const;
+
     // Removes what was copied since this object was made: the action that wanted it failed.
     void TakeBack();
 

@@ -173,7 +173,8 @@ bool cReceipts::Add(int entryId, const QList<cReceiptSource>& sources) const
     }
     names.removeDuplicates();
     if (names == modReceiptName::Of(*entry)) {
-        return true; // the same file once more
+        folder.TellUnchanged();
+        return true;
     }
     modReceiptName::Set(*entry, names);
     if (Store(*entry, cText::Tr("Beleg zu '{0}' hinzugefügt", {modEntryFields::Name(*entry)}))) {

@@ -37,7 +37,7 @@ QString TextOf(const QString& name)
         return name;
     }
     const QString month = modChart::MonthText(day);
-    return modPaperDay::IsMonthOnly(name) ? month : cText::Tr("{0}, vom {1}", {month, modDate::ToText(day)});
+    return modPaperDay::IsMonthOnly(name) ? month : cText::Tr("{0}. {1}", {QString::number(day.day()), month});
 }
 
 } // namespace
@@ -183,7 +183,11 @@ bool cStatementPapers::Add(const QList<cReceiptSource>& sources)
         names.append(name);
     }
     names.removeDuplicates();
-    if (names == Names() || Store(names, cText::Tr("PDF-Auszug zu '{0}' hinzugefügt", {Account()}))) {
+    if (names == Names()) {
+        folder.TellUnchanged();
+        return true;
+    }
+    if (Store(names, cText::Tr("PDF-Auszug zu '{0}' hinzugefügt", {Account()}))) {
         return true;
     }
     folder.TakeBack();

@@ -180,7 +180,7 @@ private:
     void Work();
     void Answer(const cPreview& preview, int number);
 
-    cPainter m_painter; // of the thread alone
+    cPainter m_painter; // of the thread alone, but for its flag
     std::mutex m_mutex;
     std::condition_variable m_wake;
     cPreviewReader* m_reader; // these three under the mutex
