@@ -383,6 +383,7 @@ void cNavigation::OpenAccountStatement()
         m_model->Delete({{entryId, day}});
         statement.Reload();
     });
+    m_receipts->Connect(form, statement);
     QObject::connect(&form, &frmKontoauszug::ReconcileChanged, m_model, &cMainModel::BookChanged);
     const auto print = [&](void (cQtPrinter::*way)(cPrintable&, QWidget*)) {
         cListPrinter pages(statement);

@@ -7,6 +7,9 @@
 
 class QWidget;
 class cMainModel;
+class cReceiptListModel;
+class cStatementListModel;
+class frmKontoauszug;
 struct cBookTools;
 
 // Opens the receipts of entries and hangs files at them.
@@ -20,7 +23,12 @@ public:
     void Choose(int entryId); // files that become receipts
     void Add(int entryId, const QStringList& paths);
 
+    // Shows and adds the PDF statements of the account number that the window shows.
+    void Connect(frmKontoauszug& form, cStatementListModel& statement);
+
 private:
+    void Follow(const cReceiptListModel& receipts) const; // what they change is shown everywhere
+
     const cBookTools& m_tools;
     cMainModel& m_model;
     cQtFileDesk m_desk;

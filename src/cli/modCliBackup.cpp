@@ -60,7 +60,8 @@ int RunBackup(const cCliContext& context)
         return Refuse(cText::Tr("Die Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
     }
     modConsole::Out(Line(target, modBookCopy::Describe(target)));
-    return modExit::Done;
+    const QString receipts = context.Book->File().SaveReceipts(target);
+    return receipts.isEmpty() ? modExit::Done : Refuse(receipts);
 }
 
 int RunRestore(const cCliContext& context)

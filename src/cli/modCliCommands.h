@@ -47,6 +47,9 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand FetchCommand();
 [[nodiscard]] cCliCommand StagedCommand();
 [[nodiscard]] cCliCommand StatementCommand();
+[[nodiscard]] cCliCommand StatementPapersCommand();
+[[nodiscard]] cCliCommand StatementAddPaperCommand();
+[[nodiscard]] cCliCommand StatementRemovePaperCommand();
 [[nodiscard]] cCliCommand ReconcileCommand();
 [[nodiscard]] cCliCommand ProposeCommand();
 [[nodiscard]] cCliCommand BookCommand();

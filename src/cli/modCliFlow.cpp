@@ -73,7 +73,8 @@ int modCliFlow::ReportBooked(const cCliContext& context, const cStatementDesk::c
 int modCliFlow::Finish(const cCliContext& context, bool isDone)
 {
     if (isDone) {
-        modConsole::Out(context.Book->File().LastStep() + u'\n'); // the step's name says what was done
+        const QString step = context.Book->File().LastStep(); // its name says what was done
+        modConsole::Out(step.isEmpty() ? step : step + u'\n');
         return modExit::Done;
     }
     if (!context.User.HasSpoken()) {

@@ -1,16 +1,16 @@
-#include "base/cFileDesk.h"
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "cli/cCliTable.h"
+#include "cli/cCliTrash.h"
 #include "cli/cJsonObject.h"
 #include "cli/modCliCommands.h"
 #include "cli/modCliFlow.h"
-#include "core/modTrash.h"
 #include "model/modReceiptName.h"
 #include "views/entry/modEntryFields.h"
 #include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cReceipts.h"
 
 #include <QDir>
 
@@ -19,14 +19,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// No desktop is needed for its trash, but for everything else.
-class cTrash final : public cFileDesk
-{
-public:
-    bool OpenFile(const QString& /*path*/) override { return false; }
-    bool MoveToTrash(const QString& path) override { return modTrash::Move(path); }
-};
 
 enum class eWhich { All, Missing };
 
@@ -104,7 +96,7 @@ int Missing(const cCliContext& context)
     } else {
         modConsole::Out(lines.Count == 0 ? cText::Tr("Es fehlt kein Beleg.") + u'\n' : lines.Table.ToString());
         for (const QString& name : unused) {
-            modConsole::Out(cText::Tr("Zu keinem Eintrag gehört '{0}'.", {name}) + u'\n');
+            modConsole::Out(cText::Tr("Zu keinem Eintrag und keinem Konto gehört '{0}'.", {name}) + u'\n');
         }
     }
     return lines.Count == 0 && unused.isEmpty() ? modExit::Done : modExit::Failed;
@@ -132,12 +124,9 @@ int Remove(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cTrash trash;
+    cCliTrash trash;
     cReceiptListModel receipts(context.Book->Tools, trash, ids.constFirst());
-    int row = receipts.rowCount() - 1;
-    while (row >= 0 && receipts.NameAt(row) != name) {
-        --row;
-    }
+    const int row = receipts.RowOf(name);
     if (row < 0) {
         modConsole::Error(
             cText::Tr("Der Eintrag {0} hat keinen Beleg '{1}'.", {QString::number(ids.constFirst()), name}));
@@ -177,8 +166,8 @@ cCliCommand modCliCommands::ReceiptsRemoveCommand()
 {
     return {.Name = u"receipts remove"_s,
             .Arguments = u"ID NAME"_s,
-            .Help = cText::Tr("nimmt einen Beleg vom Eintrag; die Datei kommt in den Papierkorb, wenn kein anderer "
-                              "Eintrag sie hat"),
+            .Help = cText::Tr("nimmt einen Beleg vom Eintrag; die Datei kommt in den Papierkorb, wenn sie sonst "
+                              "nirgends hängt"),
             .MinArguments = 2,
             .MaxArguments = 2,
             .Access = eCliAccess::Write,
@@ -189,7 +178,7 @@ cCliCommand modCliCommands::ReceiptsRemoveCommand()
 cCliCommand modCliCommands::ReceiptsMissingCommand()
 {
     return {.Name = u"receipts missing"_s,
-            .Help = cText::Tr("listet Belege, deren Datei fehlt, und Dateien, die zu keinem Eintrag gehören"),
+            .Help = cText::Tr("listet Belege, deren Datei fehlt, und Dateien, die nirgends hängen"),
             .Options = {Json()},
             .Run = Missing};
 }

@@ -3,6 +3,7 @@
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "base/modLog.h"
+#include "base/modMD5.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
@@ -110,4 +111,15 @@ bool cBackup::PutBack(const QString& path, const QString& kept)
 bool cBackup::IsSameFile(const QString& one, const QString& other)
 {
     return QFileInfo(one) == QFileInfo(other);
+}
+
+QString cBackup::OwnFolder(const QString& book)
+{
+    return QFileInfo(book).absolutePath() + u"/Sicherungen"_s;
+}
+
+QString cBackup::PlaceMark(const QString& book)
+{
+    constexpr int letters = 6;
+    return modMD5::Hex(QFileInfo(book).canonicalFilePath()).left(letters);
 }

@@ -34,6 +34,11 @@ public:
     // Whether two paths lead to the same file.
     [[nodiscard]] static bool IsSameFile(const QString& one, const QString& other);
 
+    // Where the program's own copies of a book lie unless the user chose another folder.
+    [[nodiscard]] static QString OwnFolder(const QString& book);
+    // A few letters that tell books of one name from several places apart, the same for every link to the file.
+    [[nodiscard]] static QString PlaceMark(const QString& book);
+
 private:
     [[nodiscard]] QString TryMake(const QString& target);
     [[nodiscard]] cRestored TryRestore(const QString& path, const QString& backup, QDate today);

@@ -4,7 +4,6 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
-#include "base/modMD5.h"
 #include "core/cBackup.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
@@ -70,6 +69,7 @@ void cBackupPlan::RunIfDue()
     } else if (IsChanged()) {
         Copy();
     } else { // the newest copy is as good as the book
+        SaveReceipts();
         m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);
     }
 }
@@ -82,6 +82,7 @@ void cBackupPlan::CopyIfChanged()
     if (IsChanged()) {
         Copy();
     } else {
+        SaveReceipts(); // wished since the copy was made
         NoteCurrent();
     }
 }
@@ -125,16 +126,26 @@ void cBackupPlan::Copy()
         TellFailure(problem);
         return;
     }
-    // The copy of the book is good all the same.
-    if (const QString left = modReceiptFolder::SaveIfWished(m_configuration, m_book.Path(), target); !left.isEmpty()) {
-        TellFailure(left);
-    }
+    SaveReceipts();
     m_copied = m_book.Data().Journal().RowsWritten();
     m_configuration.SaveSetting(modSettingKey::BackupLast, modDate::ToIso(day), eSettingPlace::Database);
     NoteCurrent();
     const QList<cCopy> surplus = SurplusCopies();
     for (const cCopy& copy : surplus) {
         QFile::remove(copy.Path);
+    }
+}
+
+// Beside the newest copy. What keeps them from it is told once a day; the copy of the book is good all the same.
+void cBackupPlan::SaveReceipts()
+{
+    const QList<cCopy> copies = Copies();
+    const QString problem = copies.isEmpty()
+        ? QString()
+        : modReceiptFolder::SaveIfWished(m_configuration, m_book.Path(), copies.constFirst().Path);
+    if (!problem.isEmpty() && m_receiptsTold != m_ports.Clock.Today()) {
+        m_receiptsTold = m_ports.Clock.Today();
+        m_ports.User.Show(eTone::Information, problem);
     }
 }
 
@@ -177,7 +188,7 @@ QString cBackupPlan::Folder() const
 
 QString cBackupPlan::DefaultFolder() const
 {
-    return QFileInfo(m_book.Path()).absolutePath() + u"/Sicherungen"_s;
+    return cBackup::OwnFolder(m_book.Path());
 }
 
 bool cBackupPlan::Save(int count, const QString& folder)
@@ -196,9 +207,7 @@ QString cBackupPlan::Prefix() const
     const QFileInfo file(m_book.Path());
     const QString name = file.suffix() == "db"_L1 ? file.completeBaseName() : file.fileName();
     const bool isOwnFolder = QDir(Folder()) == QDir(DefaultFolder());
-    constexpr int markLength = 6;
-    return name + (isOwnFolder ? QString() : u'-' + modMD5::Hex(file.canonicalFilePath()).left(markLength))
-        + u"-auto-"_s;
+    return name + (isOwnFolder ? QString() : u'-' + cBackup::PlaceMark(m_book.Path())) + u"-auto-"_s;
 }
 
 // The first copy of a day bears the day alone.

@@ -79,6 +79,7 @@ private:
     [[nodiscard]] QList<cCopy> SurplusCopies() const;
     void TidyUp() const;
     void Copy();
+    void SaveReceipts();
     void TellFailure(const QString& problem);
     void NoteCurrent();
 
@@ -86,4 +87,5 @@ private:
     cBook& m_book;
     cConfiguration& m_configuration;
     std::optional<quint64> m_copied; // rows written when the newest copy was as good as the book; none: it is not
+    QDate m_receiptsTold;            // when the user was last told of receipts that could not be copied
 };

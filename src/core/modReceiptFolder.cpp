@@ -1,6 +1,7 @@
 #include "core/modReceiptFolder.h"
 
 #include "base/cText.h"
+#include "core/cBackup.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QStringList>
 
 #include <cstdlib>
 
@@ -44,55 +46,95 @@ bool CopyWhole(const QFileInfo& from, const QString& to)
 bool StepAside(const QFileInfo& old)
 {
     const QString ending = old.suffix().isEmpty() ? QString() : QString(u'.' + old.suffix());
-    const QString time = old.lastModified().toString(u"yyyy-MM-dd HHmmss"_s);
-    return QFile::rename(old.filePath(),
-                         old.absolutePath() + u"/%1 (bis %2)%3"_s.arg(old.completeBaseName(), time, ending));
+    const QString until = old.lastModified().toString(u"yyyy-MM-dd HHmmss"_s);
+    const QString stem = old.absolutePath() + u"/%1 (bis %2"_s.arg(old.completeBaseName(), until);
+    QString target = stem + u')' + ending;
+    for (int number = 2; QFileInfo::exists(target); ++number) {
+        target = stem + u' ' + QString::number(number) + u')' + ending;
+    }
+    return QFile::rename(old.filePath(), target);
 }
 
 enum class eSameName { Keep, StepAside };
 
+// One file that cannot be copied keeps none of the others back; the first problem is told.
 QString CopyMissing(const QString& from, const QString& to, eSameName same)
 {
-    const QFileInfoList files = QDir(from).entryInfoList(QDir::Files | QDir::NoSymLinks);
+    const QFileInfoList files = QDir(from).entryInfoList(QDir::Files);
     if (files.isEmpty()) {
         return {};
     }
     if (!QDir().mkpath(to)) {
         return cText::Tr("Der Ordner '{0}' kann nicht angelegt werden.", {QDir::toNativeSeparators(to)});
     }
+    QString problem;
     for (const QFileInfo& file : files) {
         const QFileInfo target(QDir(to), file.fileName());
         const bool isThere = target.exists();
         if (isThere && (same == eSameName::Keep || IsSame(file, target))) {
             continue;
         }
-        if ((isThere && !StepAside(target)) || !CopyWhole(file, target.filePath())) {
-            return cText::Tr("Der Beleg '{0}' konnte nicht nach '{1}' kopiert werden. Bitte prüfen Sie die "
-                             "Zugriffsrechte und den Speicherplatz.",
-                             {file.fileName(), QDir::toNativeSeparators(to)});
+        const bool isCopied = (!isThere || StepAside(target)) && CopyWhole(file, target.filePath());
+        if (!isCopied && problem.isEmpty()) {
+            problem = cText::Tr("Der Beleg '{0}' konnte nicht nach '{1}' kopiert werden. Bitte prüfen Sie die "
+                                "Zugriffsrechte und den Speicherplatz.",
+                                {file.fileName(), QDir::toNativeSeparators(to)});
         }
     }
-    return {};
+    return problem;
+}
+
+// The name of a backup without its day.
+QString NameOf(const QFileInfo& backup)
+{
+    static const QRegularExpression day(u"-\\d{4}-\\d{2}-\\d{2}(-\\d+)?$"_s);
+    return backup.completeBaseName().remove(day);
+}
+
+const QString folderEnding = u"-Belege"_s;
+
+// Where the receipts of a backup may lie: in the folder of the book that it is loaded into, or, when it comes from
+// somewhere else, in those of other books, the one changed last first.
+QStringList FoldersFor(const QString& backup, const QString& book)
+{
+    const QString own = modReceiptFolder::CopyOf(book, backup);
+    if (QFileInfo(own).isDir()) {
+        return {own};
+    }
+    const QFileInfo file(backup);
+    const QRegularExpression name(u'^' + QRegularExpression::escape(NameOf(file)) + u"(-[0-9a-f]{6})?"_s + folderEnding
+                                  + u'$');
+    QStringList folders;
+    const QFileInfoList all = file.absoluteDir().entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
+    for (const QFileInfo& each : all) {
+        if (name.match(each.fileName()).hasMatch()) {
+            folders.append(each.filePath());
+        }
+    }
+    return folders;
 }
 
 } // namespace
 
+// A book opened by a link has its receipts where it lies.
 QString modReceiptFolder::Of(const QString& book)
 {
-    return QFileInfo(book).absolutePath() + u"/Belege"_s;
+    const QFileInfo file(book);
+    const QString canonical = file.canonicalFilePath();
+    return QFileInfo(canonical.isEmpty() ? file.absoluteFilePath() : canonical).absolutePath() + u"/Belege"_s;
 }
 
-QString modReceiptFolder::CopyOf(const QString& backup)
+QString modReceiptFolder::CopyOf(const QString& book, const QString& backup)
 {
-    static const QRegularExpression day(u"-\\d{4}-\\d{2}-\\d{2}(-\\d+)?$"_s);
     const QFileInfo file(backup);
-    QString name = file.completeBaseName();
-    return file.absolutePath() + u'/' + name.remove(day) + u"-Belege"_s;
+    const QString mark = cBackup::PlaceMark(book);
+    const bool isOwn = file.absoluteDir() == QDir(cBackup::OwnFolder(book)) || NameOf(file).contains(mark);
+    return file.absolutePath() + u'/' + NameOf(file) + (isOwn ? QString() : u'-' + mark) + folderEnding;
 }
 
 QString modReceiptFolder::Save(const QString& book, const QString& backup)
 {
-    return CopyMissing(Of(book), CopyOf(backup), eSameName::StepAside);
+    return CopyMissing(Of(book), CopyOf(book, backup), eSameName::StepAside);
 }
 
 QString modReceiptFolder::SaveIfWished(const cConfiguration& configuration, const QString& book, const QString& backup)
@@ -103,5 +145,11 @@ QString modReceiptFolder::SaveIfWished(const cConfiguration& configuration, cons
 
 QString modReceiptFolder::BringBack(const QString& backup, const QString& book)
 {
-    return CopyMissing(CopyOf(backup), Of(book), eSameName::Keep);
+    QString problem;
+    const QStringList folders = FoldersFor(backup, book);
+    for (const QString& folder : folders) {
+        const QString each = CopyMissing(folder, Of(book), eSameName::Keep);
+        problem = problem.isEmpty() ? each : problem;
+    }
+    return problem;
 }

@@ -4,18 +4,20 @@
 
 class cConfiguration;
 
-// The folder of a book's receipts, and its copy beside the backups. Receipts never change and no name is given twice,
-// so one folder serves all backups that lie together: each file is copied once, and none is ever removed there.
+// The folder of a book's receipts, and its copy beside the backups. Receipts never change and no name comes to mean
+// another one, so one folder serves all backups of a book that lie together: each file is copied once, and none is ever
+// removed there.
 namespace modReceiptFolder {
 
 // "Belege" beside the book.
 [[nodiscard]] QString Of(const QString& book);
 
-// "<name>-Belege" beside the backup; the name is that of the backup without its day.
-[[nodiscard]] QString CopyOf(const QString& backup);
+// "<name>-Belege" beside the backup; the name is that of the backup without its day. Backups of several books may have
+// one name in a folder that the user chose, so a mark of the book's place is added there.
+[[nodiscard]] QString CopyOf(const QString& book, const QString& backup);
 
 // Copies what the folder beside the backup lacks. A file there that has the name but another content is kept under its
-// day. What went wrong, in words for the user; empty when all files are there.
+// day. What went wrong first, in words for the user; empty when all files are there.
 [[nodiscard]] QString Save(const QString& book, const QString& backup);
 
 // The same where the user wants receipts in the backups; else nothing, and no problem.

@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostOfText = 60; // four bytes each at most, so that day, number and ending fit into 255
+constexpr qsizetype mostOfText = 60; // four bytes each at most, so that day, digits and ending fit into 255
 
 const QString forbidden = u"/\\:*?\"<>|"_s;
 
@@ -25,8 +25,13 @@ bool IsForbidden(QChar letter)
 
 QStringList modReceiptName::Of(const cEntryItem& entry)
 {
+    return Read(modFlags::Get(entry.EntryFlags, Mark));
+}
+
+QStringList modReceiptName::Read(const QString& text)
+{
     QStringList names;
-    const QStringList parts = modFlags::Get(entry.EntryFlags, Mark).split(u',', Qt::SkipEmptyParts);
+    const QStringList parts = text.split(u',', Qt::SkipEmptyParts);
     for (const QString& part : parts) {
         const QString name = QUrl::fromPercentEncoding(part.toUtf8());
         if (IsSafe(name)) {
@@ -44,11 +49,16 @@ int modReceiptName::Count(const cEntryItem& entry)
 
 void modReceiptName::Set(cEntryItem& entry, const QStringList& names)
 {
+    entry.EntryFlags = modFlags::Set(entry.EntryFlags, Mark, Write(names));
+}
+
+QString modReceiptName::Write(const QStringList& names)
+{
     QStringList parts;
     for (const QString& name : names) {
         parts.append(QString::fromLatin1(QUrl::toPercentEncoding(name)));
     }
-    entry.EntryFlags = modFlags::Set(entry.EntryFlags, Mark, parts.join(u','));
+    return parts.join(u',');
 }
 
 bool modReceiptName::IsSafe(const QString& name)
@@ -58,11 +68,18 @@ bool modReceiptName::IsSafe(const QString& name)
 
 QString modReceiptName::Stem(const cEntryItem& entry)
 {
-    QString text = entry.EntryDescription.isEmpty() ? entry.EntryCategory.section(u';', -1) : entry.EntryDescription;
+    const QString text =
+        entry.EntryDescription.isEmpty() ? entry.EntryCategory.section(u';', -1) : entry.EntryDescription;
+    return Stem(modDate::ToIso(entry.EntryDate), text);
+}
+
+QString modReceiptName::Stem(const QString& day, const QString& words)
+{
+    QString text = words;
     std::replace_if(text.begin(), text.end(), IsForbidden, u' ');
     text = text.simplified().left(mostOfText);
     if (text.endsWith(u'.') || (!text.isEmpty() && text.back().isHighSurrogate())) {
         text.chop(1); // half a letter, or what one of the file systems cuts off
     }
-    return QString(modDate::ToIso(entry.EntryDate) + u' ' + (text.isEmpty() ? u"Beleg"_s : text)).trimmed();
+    return QString(day + u' ' + (text.isEmpty() ? u"Beleg"_s : text)).trimmed();
 }

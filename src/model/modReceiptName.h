@@ -18,11 +18,16 @@ inline const QString Mark = QStringLiteral("beleg"); // the key in the flags
 // The entry carries these names and no others; none takes the mark off.
 void Set(cEntryItem& entry, const QStringList& names);
 
+// The same list as a text of one line, for a place other than an entry; what is not safe is left out as well.
+[[nodiscard]] QStringList Read(const QString& text);
+[[nodiscard]] QString Write(const QStringList& names);
+
 // Whether it is a plain name of a file, on whatever system the folder may come to lie.
 [[nodiscard]] bool IsSafe(const QString& name);
 
-// The name of an entry's next receipt, without number: "2026-11-22 Wocheneinkauf". Signs that a file system might
-// refuse are blanks in it, and it is short enough for all of them.
+// How the names of an entry's receipts begin: "2026-11-22 Wocheneinkauf". Signs that a file system might refuse are
+// blanks in it, and it is short enough for all of them.
 [[nodiscard]] QString Stem(const cEntryItem& entry);
+[[nodiscard]] QString Stem(const QString& day, const QString& words); // the same of a day or a month
 
 } // namespace modReceiptName

@@ -7,18 +7,22 @@
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
+#include "views/ledger/cStatementListModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "windows/help/frmHandbuch.h"
 #include "windows/main/frmMain.h"
 #include "windows/report/cReportView.h"
+#include "windows/statement/frmKontoauszug.h"
 #include "windows/widget/modTone.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QDir>
+#include <QListView>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -254,6 +258,42 @@ private Q_SLOTS:
         });
         program.Navigation().OpenNewEntry();
         QCOMPARE(shown, u"Einträge erfassen"_s);
+    }
+
+    // Dropped on the account statement, listed in the window that its button opens, and taken back by the menu.
+    void PapersHangAtTheirAccount() const
+    {
+        cMachine machine;
+        const QString paper = machine.File.Path(u"Auszug 03-2026.pdf"_s);
+        cTestFile::Write(paper, "%PDF-1.4");
+        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = machine.File.Make(oneEntry)}));
+        QVERIFY(program.Tools().Settings.Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Giro"_s));
+        QStringList seen;
+        QTimer::singleShot(0, &program.Window(), [&] {
+            auto* form = qobject_cast<frmKontoauszug*>(QApplication::activeModalWidget());
+            QVERIFY(form != nullptr);
+            Q_EMIT form->PapersDropped({paper});
+            QTimer::singleShot(0, form, [&] {
+                QWidget* papers = QApplication::activeModalWidget();
+                seen.append(papers->windowTitle());
+                seen.append(papers->findChild<QListView*>()->model()->index(0, 0).data().toString());
+                papers->close();
+            });
+            const QList<QPushButton*> buttons = form->findChildren<QPushButton*>();
+            for (QPushButton* button : buttons) {
+                if (button->text() == u"&PDF-Auszüge (1)…") {
+                    button->click();
+                }
+            }
+            form->close();
+        });
+        program.Model().Execute(modCommand::AccountStatement);
+        QCOMPARE(seen, (QStringList{u"PDF-Auszüge: 4711"_s, u"März 2026 (8 bytes)"_s}));
+        program.Model().Execute(modCommand::Undo);
+        const cStatementListModel statement(program.Tools());
+        QCOMPARE(statement.PapersText(), u"&PDF-Auszüge…"_s);
+        QVERIFY(program.Window().close());
     }
 
     // A failure marks the status bar until the log was looked at. A run that was killed is told of at the next start

@@ -417,6 +417,28 @@ private Q_SLOTS:
         QCOMPARE(machine.Plan.Copies().size(), 1);
     }
 
+    // They are copied as soon as they are wished, and what keeps them back does not count as a failed backup.
+    void ReceiptsComeAlong() const
+    {
+        cMachine machine;
+        const QString folder = machine.Copies() + u"/data-auto-Belege"_s;
+        QVERIFY(QDir().mkpath(machine.Path(u"Belege"_s)));
+        cTestFile::Write(machine.Path(u"Belege/a.pdf"_s), "eins");
+        machine.Plan.RunIfDue();
+        QVERIFY(!QFileInfo::exists(folder));
+        QVERIFY(machine.Book.Settings().Set(modSettingKey::ReceiptsInBackup, modSettingKey::On));
+        cTestFile::Write(folder, "a file where the folder should be");
+        machine.Plan.CopyIfChanged();
+        machine.Plan.CopyIfChanged();
+        QCOMPARE(machine.User.Shown.size(), 1);
+        QVERIFY(machine.User.Shown[0].startsWith(u"Der Ordner '"_s));
+        QVERIFY(machine.Book.Settings().Get(modSettingKey::BackupFailed).isEmpty());
+        QVERIFY(QFile::remove(folder));
+        machine.Plan.CopyIfChanged();
+        QCOMPARE(FilesIn(folder), QStringList(u"a.pdf"_s));
+        QCOMPARE(machine.Plan.Copies().size(), 1);
+    }
+
     void NothingToCopy_data() const
     {
         QTest::addColumn<QString>("count");

@@ -36,6 +36,7 @@ cEntryFields EveryField()
     fields.Parts = {{7, u"Haushalt; Drogerie"_s, u"Seife"_s, u"2,50"_s, {}}, {0, {}, u"Rest"_s, u"-1"_s, u"Pfand"_s}};
     fields.Corrections = {
         {3, 9, u"Betrag"_s, QDate(2026, 4, 1), QDate(2026, 4, 30), -123456789012, u"teurer"_s, QDate(2026, 4, 2)}};
+    fields.NewReceipts = {{u"/scan.pdf"_s}, {{}, QByteArray("\x89PNG\0\xff", 6)}};
     return fields;
 }
 

@@ -1,15 +1,19 @@
 #include "core/modReceiptFolder.h"
 #include "model/modFlags.h"
 #include "model/modReceiptName.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/list/cEntryListModel.h"
 #include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cReceipts.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,8 +45,9 @@ struct cScene
     }
 };
 
-const QString first = u"2026-03-10 Rewe 1 2 Kuchen 1.pdf"_s;
-const QString second = u"2026-03-10 Rewe 1 2 Kuchen 2.png"_s;
+// By what is in them: "eins", "PNG".
+const QString first = u"2026-03-10 Rewe 1 2 Kuchen 4c0d5d.pdf"_s;
+const QString second = u"2026-03-10 Rewe 1 2 Kuchen 55505b.png"_s;
 
 } // namespace
 
@@ -54,6 +59,8 @@ private Q_SLOTS:
     void NamesSurviveTheMark_data();
     void NamesSurviveTheMark();
     void CopiesAreNamedAndNeverOverwrite();
+    void NamesWithoutEndingAreApart();
+    void NamesTellTheContent();
     void UndoTakesTheMarkOffAndKeepsTheFile();
     void HalfAnAddingLeavesNothing();
     void RemovedFilesGoToTheTrashUnlessShared();
@@ -62,6 +69,9 @@ private Q_SLOTS:
     void TheEditorHangsThemAtWhatItSaves();
     void PartsThatGoLeaveTheirReceipts();
     void BackupsShareOneFolder();
+    void BackupsOfTwoBooksStayApart();
+    void OneBadReceiptKeepsNoneBack();
+    void LinkToABookHasItsReceipts();
 };
 
 void testReceipts::NamesSurviveTheMark_data()
@@ -98,23 +108,62 @@ void testReceipts::CopiesAreNamedAndNeverOverwrite()
     QCOMPARE(scene.Folder(), (QStringList{first, second}));
     QCOMPARE(scene.Content(first), "eins");
 
-    // The number of a file that is missing at the moment is taken too: it may come back.
+    // Neither the file that is missing at the moment nor one of the same name that somebody changed is written over.
     QVERIFY(QFile::remove(scene.Receipts.File(first).Path));
     QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"b.pdf"_s, "zwei")}}));
-    QCOMPARE(scene.Names(scene.Entry).last(), u"2026-03-10 Rewe 1 2 Kuchen 3.pdf"_s);
+    QCOMPARE(scene.Names(scene.Entry).last(), u"2026-03-10 Rewe 1 2 Kuchen 15d55d.pdf"_s);
+    QFile changed(scene.Receipts.File(first).Path);
+    QVERIFY(changed.open(QIODevice::WriteOnly) && changed.write("anders") > 0);
+    changed.close();
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    QCOMPARE(scene.Content(first), "anders");
+    QCOMPARE(scene.Content(scene.Names(scene.Entry).last()), "eins");
 
     // What lies in the folder already is not copied again.
     const int other = scene.Book.Add([](cEntryItem&) {}).ID;
     QVERIFY(scene.Receipts.Add(other, {{scene.Receipts.File(second).Path}}));
     QCOMPARE(scene.Names(other), QStringList{second});
-    QCOMPARE(scene.Folder().size(), 2);
+    QCOMPARE(scene.Folder().size(), 4);
 
     cEntryListModel list(scene.Book.Format);
     cEntryListModel::cContent content;
     content.Entries = {*scene.Book.Data.LoadEntry(scene.Entry)};
     list.SetContent(content, {}, {});
-    QCOMPARE(list.index(0, cEntryListModel::Receipts).data().toString(), u"3"_s);
-    QCOMPARE(list.index(0, cEntryListModel::Receipts).data(Qt::AccessibleTextRole).toString(), u"3 Belege"_s);
+    QCOMPARE(list.index(0, cEntryListModel::Receipts).data().toString(), u"4"_s);
+    QCOMPARE(list.index(0, cEntryListModel::Receipts).data(Qt::AccessibleTextRole).toString(), u"4 Belege"_s);
+}
+
+void testReceipts::NamesWithoutEndingAreApart()
+{
+    cScene scene;
+    const int entry = scene.Book.Add([](cEntryItem& each) { each.EntryDescription = u"Dr. Müller"_s; }).ID;
+    QVERIFY(scene.Receipts.Add(entry, {{scene.File(u"Rechnung 1"_s, "eins")}}));
+    QVERIFY(scene.Receipts.Add(entry, {{scene.File(u"Rechnung 2"_s, "zwei")}}));
+    QCOMPARE(scene.Names(entry).size(), 2);
+    QCOMPARE(scene.Content(scene.Names(entry).first()), "eins");
+    QCOMPARE(scene.Content(scene.Names(entry).last()), "zwei");
+}
+
+// The right file in the place of a wrong one: going back never shows the right one under the name of the wrong one.
+void testReceipts::NamesTellTheContent()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    cReceiptListModel list(scene.Book.Tools, scene.Desk, scene.Entry);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    list.Remove(0);
+    QCOMPARE(scene.Folder(), QStringList());
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "zwei")}}));
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Names(scene.Entry), QStringList{first});
+    QVERIFY(!scene.Receipts.File(first).IsThere());
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}})); // and the file is back
+    QCOMPARE(scene.Content(first), "eins");
+    QCOMPARE(scene.Names(scene.Entry), QStringList{first});
+    QCOMPARE(scene.Book.User.Shown.last(), u"Die fehlende Datei ist wieder da."_s);
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    QCOMPARE(scene.Book.User.Shown.last(), u"Diese Datei hängt hier schon."_s);
 }
 
 void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()
@@ -126,7 +175,7 @@ void testReceipts::UndoTakesTheMarkOffAndKeepsTheFile()
     QCOMPARE(scene.Names(scene.Entry), QStringList());
     QCOMPARE(scene.Receipts.Unused(), QStringList{first});
     QVERIFY(scene.Receipts.CheckText(scene.Book.Data)
-                .contains(u"gehören Dateien zu keinem Eintrag dieses Buchs: "_s + first));
+                .contains(u"gehören Dateien zu keinem Eintrag und keinem Konto dieses Buchs: "_s + first));
     QVERIFY(scene.Book.Data.Journal().Redo());
     QCOMPARE(scene.Content(scene.Names(scene.Entry).value(0)), "eins");
     QVERIFY(scene.Book.Data.DeleteEntry(scene.Entry));
@@ -158,7 +207,7 @@ void testReceipts::RemovedFilesGoToTheTrashUnlessShared()
     list.Remove(0);
     QCOMPARE(list.rowCount(), 0);
     QCOMPARE(scene.Folder(), QStringList{first});
-    QVERIFY(scene.Book.User.Asked.last().endsWith(u"Die Datei bleibt, weil auch ein anderer Eintrag sie hat."_s));
+    QVERIFY(scene.Book.User.Asked.last().endsWith(u"Die Datei bleibt, weil sie noch an anderer Stelle hängt."_s));
 
     cReceiptListModel last(scene.Book.Tools, scene.Desk, other);
     scene.Desk.HasTrash = false;
@@ -185,14 +234,14 @@ void testReceipts::MissingFileIsChosenAnew()
     QCOMPARE(list.index(0).data().toString(), first + u" (fehlt)"_s);
     QVERIFY(scene.Receipts.CheckText(scene.Book.Data).contains(u"fehlen Belege: "_s + first));
 
-    scene.Book.User.Files = {scene.File(u"b.pdf"_s, "zwei")};
+    const int other = scene.Book.Add([](cEntryItem& entry) { modReceiptName::Set(entry, {first}); }).ID;
+    scene.Book.User.Files = {scene.File(u"b.png"_s, "PNG")};
     list.ChooseAgain(0);
-    QCOMPARE(scene.Content(first), "zwei");
-    QVERIFY(QFile::remove(scene.Receipts.File(first).Path));
-    cReceiptListModel other(scene.Book.Tools, scene.Desk, scene.Entry);
-    scene.Book.User.Files = {scene.File(u"b.png"_s, "drei")};
-    other.ChooseAgain(0);
     QCOMPARE(scene.Names(scene.Entry), QStringList{second});
+    QCOMPARE(scene.Names(other), QStringList{second}); // all that had the missing one
+    QCOMPARE(scene.Content(second), "PNG");
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Names(other), QStringList{first});
 }
 
 void testReceipts::ProgramsAreNotStarted()
@@ -219,7 +268,7 @@ void testReceipts::TheEditorHangsThemAtWhatItSaves()
     QCOMPARE(editor.ReceiptText(fields), u"1 neu"_s);
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
     const int id = editor.SavedId();
-    QCOMPARE(scene.Names(id), QStringList{u"2026-03-15 Markt 1.jpg"_s});
+    QCOMPARE(scene.Names(id), QStringList{u"2026-03-15 Markt 0da3b7.jpg"_s});
     QVERIFY(scene.Book.Data.Journal().Undo()); // the entry and its receipt came in one step
     QVERIFY(!scene.Book.Data.LoadEntry(id));
 
@@ -227,6 +276,15 @@ void testReceipts::TheEditorHangsThemAtWhatItSaves()
     const int before = scene.Book.Data.CountEntries();
     QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
     QCOMPARE(scene.Book.Data.CountEntries(), before);
+
+    // Declined at the last question: the file was not copied yet.
+    QVERIFY(scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s));
+    QVERIFY(scene.Book.Settings->Set(modSettingKey::Reconciled.Of(u"4711"_s), u"2026-03-31"_s));
+    fields.NewReceipts = {{scene.File(u"b.jpg"_s, "anderes Bild")}};
+    scene.Book.User.Answers = {eAnswer::No};
+    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+    QVERIFY(scene.Book.User.Asked.last().contains(u"mit der Bank"_s));
+    QCOMPARE(scene.Folder(), QStringList{u"2026-03-15 Markt 0da3b7.jpg"_s});
 }
 
 void testReceipts::PartsThatGoLeaveTheirReceipts()
@@ -255,25 +313,75 @@ void testReceipts::BackupsShareOneFolder()
 {
     cScene scene;
     QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
-    const QString one = scene.Outside.filePath(u"buch-auto-2026-03-14.backup"_s);
-    const QString two = scene.Outside.filePath(u"buch-auto-2026-03-15-2.backup"_s);
-    const QString copies = scene.Outside.filePath(u"buch-auto-Belege"_s);
-    const auto saved = [&] { return QDir(copies).entryList(QDir::Files | QDir::Hidden, QDir::Name); };
+    const QString folder = QFileInfo(scene.Book.Path()).absolutePath() + u"/Sicherungen"_s;
+    QVERIFY(QDir().mkpath(folder));
+    const QString one = folder + u"/buch-auto-2026-03-14.backup"_s;
+    const QString two = folder + u"/buch-auto-2026-03-15-2.backup"_s;
+    const auto saved = [&] {
+        return QDir(folder + u"/buch-auto-Belege"_s).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    };
     QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), one), QString());
     QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), two), QString());
     QCOMPARE(saved(), QStringList{first});
 
-    // Another file of that name, after the first one had gone, takes nothing from the older backup.
+    // Other files of that name take nothing from the older backups, not even when a time comes again.
     QFile file(scene.Receipts.File(first).Path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("anderes") > 0);
-    file.close();
-    QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), two), QString());
-    QCOMPARE(saved().size(), 2);
+    for (const QByteArray& content :
+         {QByteArray("anderes"), QByteArray("noch anderes"), QByteArray("anderes"), QByteArray("noch anderes")}) {
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(content) > 0);
+        QVERIFY(file.flush() && file.setFileTime(QDateTime(QDate(2026, 3, 1), {}), QFile::FileModificationTime));
+        file.close();
+        QCOMPARE(modReceiptFolder::Save(scene.Book.Path(), two), QString());
+    }
+    QCOMPARE(saved().size(), 5);
 
-    // What is there stays, what is missing comes back.
+    // What is there stays, what is missing comes back, also in another place.
     QVERIFY(file.remove());
     QCOMPARE(modReceiptFolder::BringBack(two, scene.Book.Path()), QString());
-    QCOMPARE(scene.Content(first), "anderes");
+    QCOMPARE(scene.Content(first), "noch anderes");
+    const QString elsewhere = scene.File(u"buch.db"_s, "x");
+    QCOMPARE(modReceiptFolder::BringBack(two, elsewhere), QString());
+    QVERIFY(QFile::exists(scene.Outside.filePath(u"Belege/"_s + first)));
+}
+
+// Both backups have the name that the program proposes.
+void testReceipts::BackupsOfTwoBooksStayApart()
+{
+    cScene scene;
+    cScene other;
+    const QString backup = scene.Outside.filePath(u"Kontorelle-2026-03-15.backup"_s);
+    for (int round = 0; round < 2; ++round) {
+        for (cScene* each : {&scene, &other}) {
+            const QString path = each->File(u"Rechnung.pdf"_s, each == &scene ? "eins" : "zwei");
+            QVERIFY(QDir().mkpath(each->Receipts.Folder()));
+            (void)QFile::copy(path, each->Receipts.File(u"Rechnung.pdf"_s).Path);
+            QCOMPARE(modReceiptFolder::Save(each->Book.Path(), backup), QString());
+        }
+    }
+    QVERIFY(QFile::remove(scene.Receipts.File(u"Rechnung.pdf"_s).Path));
+    QCOMPARE(modReceiptFolder::BringBack(backup, scene.Book.Path()), QString());
+    QCOMPARE(scene.Content(u"Rechnung.pdf"_s), "eins");
+}
+
+void testReceipts::OneBadReceiptKeepsNoneBack()
+{
+    cScene scene;
+    QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+    // A link is a receipt like any other; the second one has another size than it says, as if it was cut short.
+    QVERIFY(QFile::link(scene.File(u"b.pdf"_s, "zwei"), scene.Receipts.File(u"z.pdf"_s).Path));
+    QVERIFY(QFile::link(u"/sys/devices/system/cpu/online"_s, scene.Receipts.File(u"1.pdf"_s).Path));
+    const QString backup = scene.Outside.filePath(u"Kontorelle-2026-03-15.backup"_s);
+    QVERIFY(modReceiptFolder::Save(scene.Book.Path(), backup).startsWith(u"Der Beleg '1.pdf' konnte nicht"_s));
+    const QDir copies(modReceiptFolder::CopyOf(scene.Book.Path(), backup));
+    QCOMPARE(copies.entryList(QDir::Files | QDir::Hidden, QDir::Name), (QStringList{first, u"z.pdf"_s}));
+}
+
+void testReceipts::LinkToABookHasItsReceipts()
+{
+    const cScene scene;
+    const QString link = scene.Outside.filePath(u"haushalt.db"_s);
+    QVERIFY(QFile::link(scene.Book.Path(), link));
+    QCOMPARE(modReceiptFolder::Of(link), scene.Receipts.Folder());
 }
 
 TEST_CLASS(testReceipts, QCoreApplication)

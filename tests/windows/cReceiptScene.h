@@ -1,9 +1,11 @@
 #pragma once
 
 #include "model/modReceiptName.h"
+#include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/testBook.h"
 #include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cStatementPapers.h"
 #include "windows/receipt/frmBelege.h"
 
 #include <memory>
@@ -22,6 +24,19 @@ public:
         return std::make_unique<frmBelege>(*m_receipts);
     }
 
+    // The same of the statements of a bank account.
+    [[nodiscard]] std::unique_ptr<QWidget> MakePapers(cTestBook& book, const QString& number)
+    {
+        book.Settings->Set(modSettingKey::StatementPapers.Of(number), modReceiptName::Write(Papers()));
+        m_receipts = std::make_unique<cReceiptListModel>(book.Tools, m_desk,
+                                                         std::make_unique<cStatementPapers>(book.Tools, number));
+        return std::make_unique<frmBelege>(*m_receipts);
+    }
+
+    [[nodiscard]] static QStringList Papers()
+    {
+        return {QStringLiteral("2026-02-28 Giro a.pdf"), QStringLiteral("2026-01 Giro b.pdf")};
+    }
     [[nodiscard]] static QStringList Names() { return {QStringLiteral("a.pdf"), QStringLiteral("rechnung nr. 1.png")}; }
 
 private:

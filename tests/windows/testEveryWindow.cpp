@@ -274,7 +274,8 @@ QStringList Untranslatable(cScene& scene)
         texts << QString::fromUtf8(medium);
     }
     texts += {u"dkb.csv"_s, u"giro.sta"_s, u"Testbank"_s, u"testuser"_s, u"kunde1"_s};
-    texts += cReceiptScene::Names() << QFileInfo(scene.Book.Path()).absolutePath() + u"/Belege"_s;
+    texts += cReceiptScene::Names() + cReceiptScene::Papers()
+        << QFileInfo(scene.Book.Path()).absolutePath() + u"/Belege"_s;
     texts += {u"Daten exportieren"_s, u"Die Datei ist schreibgeschützt."_s}; // as they were taken down
     texts += cStatementDesk::LayoutNames();
     if (scene.Manual) { // which is German
@@ -394,6 +395,8 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmPasswort>(scene.Password.Tries(), [](const QString&) { return false; });
      }},
     {"receipts of an entry", [](cScene& scene) { return scene.Receipts.Make(scene.Book, scene.Part); }},
+    {"statements of an account as PDF",
+     [](cScene& scene) { return scene.Receipts.MakePapers(scene.Book, u"1234567"_s); }},
     {"budget", [](cScene& scene) { return std::make_unique<frmBudget>(scene.Budget.emplace(scene.Book.Tools)); }},
     {"automatic backups", [](cScene& scene) { return std::make_unique<frmSicherungen>(scene.Backups); }},
     {"rules",

@@ -1,13 +1,17 @@
+#include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "views/ledger/cStatementListModel.h"
 #include "views/list/cEntryListModel.h"
 #include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cStatementPapers.h"
 #include "windows/receipt/cPreviewReader.h"
 #include "windows/receipt/cPreviewView.h"
 #include "windows/receipt/cReceiptDrop.h"
 #include "windows/receipt/frmBelege.h"
+#include "windows/statement/frmKontoauszug.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -106,6 +110,7 @@ private Q_SLOTS:
     void PastedPictureBecomesAReceipt();
     void MissingFileOffersAnother();
     void OnlyReceiptsHangAtTheLineTheyFallOn();
+    void OnlyPapersFallIntoTheStatement();
 };
 
 void testFrmBelege::PagesAreTurnedAndEnlarged()
@@ -184,7 +189,7 @@ void testFrmBelege::PastedPictureBecomesAReceipt()
     image.fill(Qt::red);
     QApplication::clipboard()->setImage(image);
     Button(window, u"&Einfügen"_s)->click();
-    QCOMPARE(scene.Receipts.NameAt(0), u"2026-03-10 Waschmaschine 1.png"_s);
+    QVERIFY(scene.Receipts.NameAt(0).startsWith(u"2026-03-10 Waschmaschine "_s));
     QCOMPARE(QImage(scene.Receipts.PathAt(0)).size(), image.size());
     auto* preview = window.findChild<cPreviewView*>();
     QTRY_VERIFY(preview->HasPicture());
@@ -239,6 +244,36 @@ void testFrmBelege::OnlyReceiptsHangAtTheLineTheyFallOn()
     fall(scene.Pdf(1), QPoint(5, tree.viewport()->height() - 5));
     QCOMPARE(receipts.size(), 1);
     QCOMPARE(others.size(), 2);
+}
+
+void testFrmBelege::OnlyPapersFallIntoTheStatement()
+{
+    cScene scene;
+    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
+    cStatementListModel statement(scene.Book.Tools); // of an account without rows
+    frmKontoauszug window(statement);
+    QSignalSpy papers(&window, &frmKontoauszug::PapersDropped);
+    window.show();
+    const auto accepts = [&](const QString& path) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(&window, &enter);
+        if (enter.isAccepted()) {
+            QDropEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&window, &event);
+        }
+        return enter.isAccepted();
+    };
+    QVERIFY(!accepts(scene.Bytes(u"auszug.csv"_s, "x")));
+    QVERIFY(accepts(scene.Pdf(1)));
+    QCOMPARE(papers.size(), 1);
+    cStatementPapers shown(scene.Book.Tools, statement.Number());
+    shown.SetDay(u"2026-03"_s);
+    QVERIFY(shown.Add({{papers.first().first().toStringList().value(0)}}));
+    statement.Reload();
+    QVERIFY(Button(window, u"&PDF-Auszüge (1)…"_s)->isEnabled());
 }
 
 TEST_CLASS(testFrmBelege, QApplication)

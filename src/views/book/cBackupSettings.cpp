@@ -4,18 +4,17 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modDate.h"
-#include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
+#include "views/list/modFileSize.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -52,13 +51,11 @@ cBackupSettings::cFields cBackupSettings::Current() const
 QStringList cBackupSettings::Copies() const
 {
     QStringList lines;
-    const QLocale plain(QLocale::C); // the same units in all languages
-    const QChar sign = modSum::Sign(cAmountFormat(m_parts.Configuration).Decimal());
+    const cAmountFormat format(m_parts.Configuration);
     const QList<cBackupPlan::cCopy> copies = PlanOf(m_parts).Copies();
     for (const cBackupPlan::cCopy& copy : copies) {
         const QFileInfo file(copy.Path);
-        const QString size = plain.formattedDataSize(file.size(), 1, QLocale::DataSizeTraditionalFormat);
-        lines.append(cText::Tr("{0}, {1}", {When(copy, file), QString(size).replace(u'.', sign)}));
+        lines.append(cText::Tr("{0}, {1}", {When(copy, file), modFileSize::Text(file.size(), format)}));
     }
     return lines;
 }

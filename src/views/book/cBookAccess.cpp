@@ -231,8 +231,12 @@ QString cBookAccess::LastStep()
 
 QString cBookAccess::MakeBackup(const QString& target, cShell& shell)
 {
-    const QString problem = cBackup(m_book->Database(), shell).Make(target);
-    return problem.isEmpty() ? modReceiptFolder::SaveIfWished(*m_configuration, m_book->Path(), target) : problem;
+    return cBackup(m_book->Database(), shell).Make(target);
+}
+
+QString cBookAccess::SaveReceipts(const QString& backup) const
+{
+    return modReceiptFolder::SaveIfWished(*m_configuration, m_book->Path(), backup);
 }
 
 void cBookAccess::CopyIfChanged()

@@ -72,6 +72,8 @@ public:
 
     // Writes a checked copy; what went wrong, empty when it is there.
     [[nodiscard]] QString MakeBackup(const QString& target, cShell& shell);
+    // Copies the receipts beside that backup where the user wants it; what went wrong, empty when nothing is missing.
+    [[nodiscard]] QString SaveReceipts(const QString& backup) const;
     // Makes one more of the automatic copies when the book has changed since the newest one. Of a failure the user is
     // told once a day.
     void CopyIfChanged();

@@ -113,7 +113,7 @@ bool cEntryEditor::UseNormal(cFields& fields) const
 
 QList<cReceiptSource> cEntryEditor::ChooseReceipts() const
 {
-    return cReceiptListModel::Ask(m_tools.User);
+    return cReceiptListModel::Ask(m_tools);
 }
 
 QString cEntryEditor::ReceiptText(const cEntryFields& fields) const
@@ -263,9 +263,11 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     }
     cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
-    const bool isWritten = writer.Write(rows, removed, m_from)
+    // Files are copied last: a question that is declined leaves none behind.
+    const bool isWritten = writer.Write(rows, removed, m_from) && guard.Allows()
+        && (!m_onStored || m_onStored(rows.first().Entry.ID))
         && (fields.NewReceipts.isEmpty() || cReceipts(m_tools).Add(rows.first().Entry.ID, fields.NewReceipts));
-    if (!step.DoneIf(isWritten && guard.Allows() && (!m_onStored || m_onStored(rows.first().Entry.ID)))) {
+    if (!step.DoneIf(isWritten)) {
         return eSaved::Refused;
     }
     m_onStored = nullptr; // a further entry has nothing to do with the transaction

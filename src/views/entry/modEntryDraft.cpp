@@ -38,6 +38,13 @@ void Each(tFixMod& fixMod, const tTake& take)
     take(u"EntryDay"_s, fixMod.EntryDay);
 }
 
+template <cIs<cReceiptSource> tSource, typename tTake>
+void Each(tSource& source, const tTake& take)
+{
+    take(u"Path"_s, source.Path);
+    take(u"Bytes"_s, source.Bytes);
+}
+
 template <cIs<cEntryFields> tFields, typename tTake>
 void Each(tFields& fields, const tTake& take)
 {
@@ -66,6 +73,7 @@ void Each(tFields& fields, const tTake& take)
     take(u"BroughtInterval"_s, fields.BroughtInterval);
     take(u"Parts"_s, fields.Parts);
     take(u"Corrections"_s, fields.Corrections);
+    take(u"NewReceipts"_s, fields.NewReceipts);
 }
 
 template <cIs<cEntryDraft> tDraft, typename tTake>
@@ -82,6 +90,10 @@ struct cWriter
     QJsonObject& Json;
 
     void operator()(const QString& name, const QString& value) const { Json.insert(name, value); }
+    void operator()(const QString& name, const QByteArray& value) const
+    {
+        Json.insert(name, QString::fromLatin1(value.toBase64()));
+    }
     void operator()(const QString& name, bool value) const { Json.insert(name, value); }
     void operator()(const QString& name, int value) const { Json.insert(name, value); }
     void operator()(const QString& name, qint64 value) const { Json.insert(name, value); }
@@ -115,6 +127,10 @@ struct cReader
     const QJsonObject& Json;
 
     void operator()(const QString& name, QString& value) const { value = Json.value(name).toString(); }
+    void operator()(const QString& name, QByteArray& value) const
+    {
+        value = QByteArray::fromBase64(Json.value(name).toString().toLatin1());
+    }
     void operator()(const QString& name, bool& value) const { value = Json.value(name).toBool(); }
     void operator()(const QString& name, int& value) const { value = Json.value(name).toInt(); }
     void operator()(const QString& name, qint64& value) const { value = Json.value(name).toInteger(); }

@@ -7,12 +7,14 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/read/modAccountNumber.h"
+#include "import/stage/cAccountMap.h"
 #include "model/modCutText.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/modBalanceText.h"
 #include "views/list/cListFilter.h"
 #include "views/list/modUnread.h"
+#include "views/receipt/cStatementPapers.h"
 #include "views/statement/modImportText.h"
 
 #include <algorithm>
@@ -59,12 +61,37 @@ cStatementListModel::cStatementListModel(const cBookTools& tools, QObject* paren
     m_timer.setInterval(typingPause);
     connect(&m_timer, &QTimer::timeout, this, [this] { SetFilter(m_typed); });
     m_numbers = m_ledger.Numbers();
+    TakeOtherNumbers();
     m_numbers.sort();
     m_ledger.LoadNewest();
+    if (!m_numbers.isEmpty() && !m_numbers.contains(Number())) {
+        m_ledger.Load(m_numbers.constFirst());
+    }
     ShowAccount();
 }
 
 cStatementListModel::~cStatementListModel() = default;
+
+// There is nothing to see of them yet, but their statements may be there on paper.
+void cStatementListModel::TakeOtherNumbers()
+{
+    QStringList others = cStatementPapers::All(m_tools.Data).keys();
+    const QList<std::pair<QString, QString>> mapping = cAccountMap(m_tools.Data, m_tools.Settings).Mapping();
+    for (const auto& [number, account] : mapping) {
+        others.append(number);
+    }
+    for (const QString& number : std::as_const(others)) {
+        if (!m_numbers.contains(number)) {
+            m_numbers.append(number);
+        }
+    }
+}
+
+QString cStatementListModel::PapersText() const
+{
+    const qsizetype count = cStatementPapers(m_tools, Number()).Names().size();
+    return count == 0 ? cText::Tr("&PDF-Auszüge…") : cText::Tr("&PDF-Auszüge ({0})…", {QString::number(count)});
+}
 
 QStringList cStatementListModel::NumbersMeant(const QString& text) const
 {

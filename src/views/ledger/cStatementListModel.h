@@ -43,6 +43,7 @@ public:
     [[nodiscard]] QStringList AccountTexts() const; // the same numbers with the names of their accounts
     // Those that somebody may mean by a text: another form of the number, or the account of the book.
     [[nodiscard]] QStringList NumbersMeant(const QString& text) const;
+    [[nodiscard]] QString PapersText() const; // of the button that opens the statements on paper
     [[nodiscard]] const QString& Number() const { return m_ledger.Number(); }
     void ChooseAccount(const QString& number); // one of Numbers
     void Reload();                             // after rows or entries changed
@@ -96,9 +97,10 @@ Q_SIGNALS:
 private:
     [[nodiscard]] bool IsUnread() const; // there are no rows because they could not be read
     [[nodiscard]] QString SumText(qint64 cents) const;
-    void ShowAccount(); // that was loaded
-    void Show();        // the days of the period, then the filter
-    void Filter();      // what of them holds the words
+    void TakeOtherNumbers(); // of accounts without rows
+    void ShowAccount();      // that was loaded
+    void Show();             // the days of the period, then the filter
+    void Filter();           // what of them holds the words
     [[nodiscard]] qsizetype RowAt(int row) const { return m_shown[static_cast<std::size_t>(row)]; }
     [[nodiscard]] cListFilter& Texts();
     [[nodiscard]] QString Text(qsizetype row, int column) const;

@@ -3,63 +3,72 @@
 #include "base/cFileDesk.h"
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "base/modDate.h"
-#include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
-#include "model/modBalance.h"
 #include "store/cDataAccess.h"
-#include "views/entry/modEntryFields.h"
+#include "views/list/modFileSize.h"
 #include "views/list/modFileWrite.h"
+#include "views/receipt/cEntryReceipts.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString Filter()
+QList<cReceiptSource> SourcesOf(const QStringList& paths)
 {
-    return cText::Tr("Bilder und PDF|*.pdf;*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.tif;*.tiff;*.webp;*.heic|Alle Dateien|*.*");
-}
-
-QString SizeText(const cReceipts::cFile& file)
-{
-    return file.IsThere()
-        ? QLocale(QLocale::German, QLocale::Germany).formattedDataSize(file.Size, 0, QLocale::DataSizeSIFormat)
-        : cText::Tr("fehlt");
+    QList<cReceiptSource> sources;
+    for (const QString& path : paths) {
+        sources.append({path});
+    }
+    return sources;
 }
 
 } // namespace
 
-cReceiptListModel::cReceiptListModel(const cBookTools& tools, cFileDesk& desk, int entryId, QObject* parent)
+cReceiptListModel::cReceiptListModel(const cBookTools& tools, cFileDesk& desk, std::unique_ptr<cReceiptHolder> holder,
+                                     QObject* parent)
     : QAbstractListModel(parent),
       m_tools(tools),
       m_desk(desk),
-      m_receipts(tools),
-      m_entryId(entryId),
-      m_files(m_receipts.Of(entryId))
+      m_holder(std::move(holder)),
+      m_items(m_holder->Items())
+{
+}
+
+cReceiptListModel::cReceiptListModel(const cBookTools& tools, cFileDesk& desk, int entryId, QObject* parent)
+    : cReceiptListModel(tools, desk, std::make_unique<cEntryReceipts>(tools, entryId), parent)
 {
 }
 
 void cReceiptListModel::Reload()
 {
     beginResetModel();
-    m_files = m_receipts.Of(m_entryId);
+    QStringList before;
+    for (const cReceiptHolder::cItem& item : std::as_const(m_items)) {
+        before.append(item.File.Name);
+    }
+    m_items = m_holder->Items();
+    m_added = -1;
+    for (int row = 0; row < m_items.size(); ++row) {
+        m_added = before.contains(m_items.at(row).File.Name) ? m_added : row;
+    }
     endResetModel();
 }
 
 QString cReceiptListModel::Title() const
 {
-    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(m_entryId);
-    if (!entry) {
-        return cText::Tr("Belege");
-    }
-    return cText::Tr("Belege: {0}, {1}, {2}",
-                     {modDate::ToText(entry->EntryDate), modEntryFields::Name(*entry),
-                      m_tools.Format.Cents(modBalance::Effect(*entry, {}))});
+    return m_holder->Title();
+}
+
+QString cReceiptListModel::ListName() const
+{
+    return m_holder->Words().Files;
 }
 
 bool cReceiptListModel::CanWrite() const
@@ -69,60 +78,72 @@ bool cReceiptListModel::CanWrite() const
 
 QString cReceiptListModel::EmptyText() const
 {
-    return CanWrite() ? cText::Tr("Noch kein Beleg. Ziehen Sie Dateien hierher, fügen Sie ein Bild aus der "
-                                  "Zwischenablage ein (Strg+V), oder wählen Sie eine Datei.")
-                      : cText::Tr("Dieser Eintrag hat keinen Beleg.");
+    return CanWrite() ? m_holder->Words().Empty : m_holder->Words().EmptyReadOnly;
 }
 
 bool cReceiptListModel::IsRow(int row) const
 {
-    return row >= 0 && row < m_files.size();
+    return row >= 0 && row < m_items.size();
 }
 
 QString cReceiptListModel::NameAt(int row) const
 {
-    return IsRow(row) ? m_files.at(row).Name : QString();
+    return IsRow(row) ? m_items.at(row).File.Name : QString();
+}
+
+int cReceiptListModel::RowOf(const QString& name) const
+{
+    const auto found = std::find_if(m_items.begin(), m_items.end(),
+                                    [&](const cReceiptHolder::cItem& item) { return item.File.Name == name; });
+    return found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
 }
 
 QString cReceiptListModel::PathAt(int row) const
 {
-    return IsRow(row) && m_files.at(row).IsThere() ? m_files.at(row).Path : QString();
+    return IsRow(row) && m_items.at(row).File.IsThere() ? m_items.at(row).File.Path : QString();
 }
 
 bool cReceiptListModel::IsMissing(int row) const
 {
-    return IsRow(row) && !m_files.at(row).IsThere();
+    return IsRow(row) && !m_items.at(row).File.IsThere();
 }
 
 QString cReceiptListModel::MissingText(int row) const
 {
     return IsMissing(row) ? cText::Tr("Die Datei '{0}' fehlt im Ordner '{1}'. Legen Sie sie dorthin zurück, zum "
                                       "Beispiel aus dem Papierkorb, oder wählen Sie sie neu.",
-                                      {NameAt(row), QDir::toNativeSeparators(m_receipts.Folder())})
+                                      {NameAt(row), QDir::toNativeSeparators(cReceiptFolder(m_tools).Path())})
                           : QString();
 }
 
-QList<cReceiptSource> cReceiptListModel::Ask(cUser& user)
+QList<cReceiptSource> cReceiptListModel::Ask(const cBookTools& tools)
 {
-    QList<cReceiptSource> sources;
-    const QStringList paths = user.ChooseFiles(cText::Tr("Beleg hinzufügen"), Filter(), ePurpose::Receipt);
-    for (const QString& path : paths) {
-        sources.append({path});
-    }
-    return sources;
+    const cReceiptHolder::cWords words = cEntryReceipts(tools, 0).Words();
+    return SourcesOf(tools.User.ChooseFiles(words.Add, words.Filter, words.Purpose));
+}
+
+QStringList cReceiptListModel::ChooseFiles(const QString& title) const
+{
+    const cReceiptHolder::cWords words = m_holder->Words();
+    return m_tools.User.ChooseFiles(title, words.Filter, words.Purpose);
 }
 
 void cReceiptListModel::Choose()
 {
-    Add(Ask(m_tools.User));
+    AddFiles(ChooseFiles(m_holder->Words().Add));
 }
 
 void cReceiptListModel::Add(const QList<cReceiptSource>& sources)
 {
-    if (!sources.isEmpty() && m_receipts.Add(m_entryId, sources)) {
+    if (!sources.isEmpty() && m_holder->Add(sources)) {
         Reload();
         Q_EMIT ReceiptsChanged();
     }
+}
+
+void cReceiptListModel::AddFiles(const QStringList& paths)
+{
+    Add(SourcesOf(paths));
 }
 
 void cReceiptListModel::Paste(const QList<cReceiptSource>& sources)
@@ -138,8 +159,8 @@ void cReceiptListModel::ChooseAgain(int row)
     if (!IsMissing(row)) {
         return;
     }
-    const QStringList paths = m_tools.User.ChooseFiles(cText::Tr("Beleg neu wählen"), Filter(), ePurpose::Receipt);
-    if (!paths.isEmpty() && m_receipts.Replace(m_entryId, NameAt(row), paths.constFirst())) {
+    const QStringList paths = ChooseFiles(m_holder->Words().ChooseAgain);
+    if (!paths.isEmpty() && m_holder->Replace(NameAt(row), paths.constFirst())) {
         Reload();
         Q_EMIT ReceiptsChanged();
     }
@@ -150,16 +171,16 @@ void cReceiptListModel::Remove(int row)
     if (!IsRow(row)) {
         return;
     }
-    const cReceipts::cFile file = m_files.at(row);
-    const bool isShared = m_receipts.EntriesOf(file.Name).size() > 1;
+    const cReceiptFolder::cFile file = m_items.at(row).File;
+    const cReceiptHolder::cWords words = m_holder->Words();
+    const bool isShared = cReceipts(m_tools).CountUses(file.Name) > 1;
     const QString what = !file.IsThere() ? cText::Tr("Die Datei fehlt schon.")
-        : isShared                       ? cText::Tr("Die Datei bleibt, weil auch ein anderer Eintrag sie hat.")
+        : isShared                       ? cText::Tr("Die Datei bleibt, weil sie noch an anderer Stelle hängt.")
                                          : cText::Tr("Die Datei kommt in den Papierkorb.");
-    const eAnswer answer = m_tools.User.Ask(
-        {.Text = cText::Tr("Soll der Beleg '{0}' von diesem Eintrag entfernt werden?", {file.Name}) + u'\n' + what,
-         .Title = cText::Tr("Beleg entfernen"),
-         .Default = eAnswer::No});
-    if (answer != eAnswer::Yes || !m_receipts.Detach(m_entryId, file.Name)) {
+    const eAnswer answer = m_tools.User.Ask({.Text = cText::Fill(words.Remove, {file.Name}) + u'\n' + what,
+                                             .Title = words.RemoveTitle,
+                                             .Default = eAnswer::No});
+    if (answer != eAnswer::Yes || !m_holder->Detach(file.Name)) {
         return;
     }
     if (file.IsThere() && !isShared) {
@@ -169,13 +190,14 @@ void cReceiptListModel::Remove(int row)
     Q_EMIT ReceiptsChanged();
 }
 
-void cReceiptListModel::Discard(const cReceipts::cFile& file) const
+void cReceiptListModel::Discard(const cReceiptFolder::cFile& file) const
 {
     if (!m_desk.MoveToTrash(file.Path)) {
-        m_tools.User.Show(eTone::Information,
-                          cText::Tr("Hier gibt es keinen Papierkorb. Die Datei '{0}' bleibt im Ordner '{1}'; der "
-                                    "Eintrag hat sie nicht mehr.",
-                                    {file.Name, QDir::toNativeSeparators(m_receipts.Folder())}));
+        m_tools.User.Show(
+            eTone::Information,
+            cText::Tr("Hier gibt es keinen Papierkorb. Die Datei '{0}' bleibt im Ordner '{1}', hängt aber "
+                      "nirgends mehr.",
+                      {file.Name, QDir::toNativeSeparators(cReceiptFolder(m_tools).Path())}));
     }
 }
 
@@ -220,7 +242,7 @@ void cReceiptListModel::SaveAs(int row)
 
 int cReceiptListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_files.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_items.size());
 }
 
 QVariant cReceiptListModel::data(const QModelIndex& index, int role) const
@@ -228,10 +250,11 @@ QVariant cReceiptListModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || !IsRow(index.row())) {
         return {};
     }
-    const cReceipts::cFile& file = m_files.at(index.row());
+    const cReceiptHolder::cItem& item = m_items.at(index.row());
+    const QString size = item.File.IsThere() ? modFileSize::Text(item.File.Size, m_tools.Format) : cText::Tr("fehlt");
     switch (role) {
-    case Qt::DisplayRole: return cText::Tr("{0} ({1})", {file.Name, SizeText(file)});
-    case Qt::ToolTipRole: return file.IsThere() ? file.Name : MissingText(index.row());
+    case Qt::DisplayRole: return cText::Tr("{0} ({1})", {item.Text, size});
+    case Qt::ToolTipRole: return item.File.IsThere() ? item.File.Name : MissingText(index.row());
     default: return {};
     }
 }

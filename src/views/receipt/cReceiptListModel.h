@@ -1,14 +1,15 @@
 #pragma once
 
-#include "model/cReceiptSource.h"
-#include "views/receipt/cReceipts.h"
+#include "views/receipt/cReceiptHolder.h"
 
 #include <QAbstractListModel>
 
-class cFileDesk;
-class cUser;
+#include <memory>
 
-// The receipts of one entry as a list, and what the user can do with each.
+class cFileDesk;
+struct cBookTools;
+
+// The receipts of one entry, or what else hangs at something, as a list, and what the user can do with each.
 class cReceiptListModel final : public QAbstractListModel
 {
     Q_OBJECT
@@ -16,30 +17,37 @@ class cReceiptListModel final : public QAbstractListModel
 public:
     cReceiptListModel(const cBookTools& tools, cFileDesk& desk, int entryId, QObject* parent = nullptr);
 
-    [[nodiscard]] QString Title() const; // "Belege: 12.03.2026, Wocheneinkauf, 23,45 €"
+    cReceiptListModel(const cBookTools& tools, cFileDesk& desk, std::unique_ptr<cReceiptHolder> holder,
+                      QObject* parent = nullptr);
+
+    [[nodiscard]] QString Title() const;
+    [[nodiscard]] QString ListName() const;
     [[nodiscard]] bool CanWrite() const;
     [[nodiscard]] QString EmptyText() const; // what the window says while there is no receipt
 
     // One receipt; row -1 is none of them.
     [[nodiscard]] QString NameAt(int row) const;
+    [[nodiscard]] int RowOf(const QString& name) const;
     [[nodiscard]] QString PathAt(int row) const; // empty when the file is missing
     [[nodiscard]] bool IsMissing(int row) const;
-    [[nodiscard]] QString MissingText(int row) const; // what is missing, and what to do
+    [[nodiscard]] QString MissingText(int row) const;      // what is missing, and what to do
+    [[nodiscard]] int AddedRow() const { return m_added; } // what came with the last change; -1 for nothing
 
     // Each tells the user what went wrong.
     void Choose(); // lets the user choose files
     void Add(const QList<cReceiptSource>& sources);
+    void AddFiles(const QStringList& paths);
     void Paste(const QList<cReceiptSource>& sources); // what the clipboard holds, which may be nothing of use
     void ChooseAgain(int row);                        // a file in the place of a missing one
-    void Remove(int row); // after a question; the file goes to the trash when no other entry has it
+    void Remove(int row); // after a question; the file goes to the trash when nothing else has it
     void Open(int row);
     void SaveAs(int row);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
-    // Lets the user choose files that are to become receipts.
-    [[nodiscard]] static QList<cReceiptSource> Ask(cUser& user);
+    // Lets the user choose files that are to become receipts of an entry.
+    [[nodiscard]] static QList<cReceiptSource> Ask(const cBookTools& tools);
 
 Q_SIGNALS:
     void ReceiptsChanged(); // the book has
@@ -47,11 +55,12 @@ Q_SIGNALS:
 private:
     void Reload();
     [[nodiscard]] bool IsRow(int row) const;
-    void Discard(const cReceipts::cFile& file) const;
+    [[nodiscard]] QStringList ChooseFiles(const QString& title) const;
+    void Discard(const cReceiptFolder::cFile& file) const;
 
     const cBookTools& m_tools;
     cFileDesk& m_desk;
-    cReceipts m_receipts;
-    int m_entryId;
-    QList<cReceipts::cFile> m_files;
+    std::unique_ptr<cReceiptHolder> m_holder;
+    QList<cReceiptHolder::cItem> m_items;
+    int m_added = -1;
 };

@@ -1,17 +1,15 @@
 #include "views/receipt/cReceipts.h"
 
 #include "base/cText.h"
-#include "base/cUser.h"
 #include "core/cBookTools.h"
 #include "core/modReceiptFolder.h"
 #include "model/modReceiptName.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/modEntryFields.h"
-#include "views/list/modFileWrite.h"
+#include "views/receipt/cStatementPapers.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -26,15 +24,6 @@ const QStringList receiptEndings{u"pdf"_s,  u"png"_s,  u"jpg"_s,  u"jpeg"_s, u"g
                                  u"docx"_s, u"doc"_s,  u"rtf"_s,  u"eml"_s,  u"msg"_s};
 const QStringList otherDocuments{u"txt"_s, u"ods"_s, u"xlsx"_s, u"xls"_s, u"csv"_s, u"xml"_s, u"zip"_s};
 
-QString EndingOf(const QString& path)
-{
-    constexpr qsizetype most = 8;
-    const QString ending = QFileInfo(path).suffix().toLower();
-    const bool isPlain = std::all_of(ending.begin(), ending.end(),
-                                     [](QChar letter) { return letter.unicode() < 0x80 && letter.isLetterOrNumber(); });
-    return ending.isEmpty() || ending.size() > most || !isPlain ? QString() : QString(u'.' + ending);
-}
-
 QString Bare(const QString& path)
 {
     return QFileInfo(path).suffix().toLower();
@@ -47,14 +36,25 @@ cEntryItemList EntriesIn(cDataAccess& data)
     return entries;
 }
 
-QStringList UnusedIn(cDataAccess& data)
+// What entries and accounts of the book have, by name, each as often as it hangs somewhere.
+QStringList NamesIn(cDataAccess& data)
 {
-    QSet<QString> used;
+    QStringList names;
     const cEntryItemList entries = EntriesIn(data);
     for (const cEntryItem& entry : entries) {
-        const QStringList names = modReceiptName::Of(entry);
-        used.unite(QSet<QString>(names.begin(), names.end()));
+        names += modReceiptName::Of(entry);
     }
+    const QMap<QString, QStringList> papers = cStatementPapers::All(data);
+    for (const QStringList& each : papers) {
+        names += each;
+    }
+    return names;
+}
+
+QStringList UnusedIn(cDataAccess& data)
+{
+    const QStringList names = NamesIn(data);
+    const QSet<QString> used(names.begin(), names.end());
     if (!data.IsWhole()) {
         return {};
     }
@@ -71,11 +71,6 @@ QString Some(const QStringList& names)
     return names.size() <= most ? text : cText::Tr("{0} und {1} weitere", {text, QString::number(names.size() - most)});
 }
 
-QString Shown(const cReceiptSource& source)
-{
-    return QFileInfo(source.Path).fileName();
-}
-
 } // namespace
 
 bool cReceipts::IsReceipt(const QString& path)
@@ -90,13 +85,12 @@ bool cReceipts::IsDocument(const QString& path)
 
 QString cReceipts::Folder() const
 {
-    return modReceiptFolder::Of(m_tools.Data.BookPath());
+    return cReceiptFolder(m_tools).Path();
 }
 
 cReceipts::cFile cReceipts::File(const QString& name) const
 {
-    const QFileInfo file(QDir(Folder()), name);
-    return {name, file.filePath(), file.isFile() ? file.size() : -1};
+    return cReceiptFolder(m_tools).File(name);
 }
 
 QList<cReceipts::cFile> cReceipts::Of(int entryId) const
@@ -123,6 +117,11 @@ cEntryItemList cReceipts::EntriesOf(const QString& name) const
     return entries;
 }
 
+qsizetype cReceipts::CountUses(const QString& name) const
+{
+    return NamesIn(m_tools.Data).count(name);
+}
+
 QStringList cReceipts::Unused() const
 {
     return UnusedIn(m_tools.Data);
@@ -131,13 +130,9 @@ QStringList cReceipts::Unused() const
 QString cReceipts::CheckText(cDataAccess& data)
 {
     const QDir folder(modReceiptFolder::Of(data.BookPath()));
-    QStringList missing;
-    const cEntryItemList entries = EntriesIn(data);
-    for (const cEntryItem& entry : entries) {
-        QStringList names = modReceiptName::Of(entry);
-        names.removeIf([&](const QString& name) { return missing.contains(name) || QFileInfo(folder, name).isFile(); });
-        missing += names;
-    }
+    QStringList missing = NamesIn(data);
+    missing.removeDuplicates();
+    missing.removeIf([&](const QString& name) { return QFileInfo(folder, name).isFile(); });
     const QStringList unused = UnusedIn(data);
     QStringList lines;
     if (!missing.isEmpty()) {
@@ -145,88 +140,10 @@ QString cReceipts::CheckText(cDataAccess& data)
             cText::Tr("Im Ordner '{0}' fehlen Belege: {1}", {QDir::toNativeSeparators(folder.path()), Some(missing)}));
     }
     if (!unused.isEmpty()) {
-        lines.append(cText::Tr("Im Ordner '{0}' gehören Dateien zu keinem Eintrag dieses Buchs: {1}",
+        lines.append(cText::Tr("Im Ordner '{0}' gehören Dateien zu keinem Eintrag und keinem Konto dieses Buchs: {1}",
                                {QDir::toNativeSeparators(folder.path()), Some(unused)}));
     }
     return lines.join(u'\n');
-}
-
-bool cReceipts::Refuse(const QString& text) const
-{
-    m_tools.User.Show(eTone::Exclamation, text);
-    return false;
-}
-
-bool cReceipts::MayWrite() const
-{
-    if (m_tools.Data.IsReadOnly()) {
-        return Refuse(cText::Tr("Diese Datenbank kann nur gelesen werden; Belege können nicht geändert werden."));
-    }
-    const QString folder = Folder();
-    return QDir().mkpath(folder)
-        || Refuse(cText::Tr("Der Ordner '{0}' kann nicht angelegt werden.", {QDir::toNativeSeparators(folder)}));
-}
-
-// Its number is free in the folder, whatever the kind of file, and not that of one that is missing at the moment.
-// Letter case makes no other name, because the folder may come to lie on a volume where it does not.
-QString cReceipts::FreeName(const cEntryItem& entry, const QString& ending) const
-{
-    QStringList names = QDir(Folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    const cEntryItemList entries = Entries();
-    for (const cEntryItem& each : entries) {
-        names += modReceiptName::Of(each);
-    }
-    QSet<QString> taken;
-    for (const QString& name : std::as_const(names)) {
-        taken.insert(QFileInfo(name).completeBaseName().toCaseFolded());
-    }
-    const QString stem = modReceiptName::Stem(entry) + u' ';
-    int number = 1;
-    while (taken.contains(QString(stem + QString::number(number)).toCaseFolded())) {
-        ++number;
-    }
-    return stem + QString::number(number) + ending;
-}
-
-bool cReceipts::IsInFolder(const QString& path) const
-{
-    return !path.isEmpty() && QFileInfo(path).isFile() && QFileInfo(path).absoluteDir() == QDir(Folder())
-        && modReceiptName::IsSafe(QFileInfo(path).fileName());
-}
-
-bool cReceipts::Copy(const cReceiptSource& source, const QString& name) const
-{
-    QByteArray bytes = source.Bytes;
-    if (!source.Path.isEmpty()) {
-        if (!QFileInfo(source.Path).isFile()) {
-            return Refuse(cText::Tr("'{0}' ist keine Datei.", {Shown(source)}));
-        }
-        QFile file(source.Path);
-        if (file.size() > MostBytes) {
-            return Refuse(cText::Tr("Die Datei '{0}' ist größer als {1} MB. Bitte verkleinern Sie sie.",
-                                    {Shown(source), QString::number(MostBytes / 1'000'000)}));
-        }
-        if (!file.open(QIODevice::ReadOnly)) {
-            return Refuse(cText::Tr("Die Datei '{0}' kann nicht gelesen werden.", {Shown(source)}));
-        }
-        bytes = file.readAll();
-        if (file.error() != QFileDevice::NoError || bytes.isEmpty()) {
-            return Refuse(cText::Tr("Die Datei '{0}' ist leer oder kann nicht gelesen werden.", {Shown(source)}));
-        }
-    }
-    const QString path = QDir(Folder()).filePath(name);
-    const QString problem = modFileWrite::Replace(path, bytes);
-    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner); // as private as the book
-    return problem.isEmpty() || Refuse(cText::Tr("Der Beleg konnte nicht kopiert werden:\n{0}", {problem}));
-}
-
-QString cReceipts::Take(const cEntryItem& entry, const cReceiptSource& source) const
-{
-    if (IsInFolder(source.Path)) {
-        return QFileInfo(source.Path).fileName();
-    }
-    const QString name = FreeName(entry, source.Path.isEmpty() ? u".png"_s : EndingOf(source.Path));
-    return Copy(source, name) ? name : QString();
 }
 
 bool cReceipts::Store(const cEntryItem& entry, const QString& step) const
@@ -238,39 +155,39 @@ bool cReceipts::Store(const cEntryItem& entry, const QString& step) const
 bool cReceipts::Add(int entryId, const QList<cReceiptSource>& sources) const
 {
     std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(entryId);
-    if (sources.isEmpty() || !MayWrite()) {
+    cReceiptFolder folder(m_tools);
+    if (sources.isEmpty() || !folder.MayWrite()) {
         return false;
     }
     if (!entry) {
-        return Refuse(cText::Tr("Der Eintrag wurde inzwischen gelöscht."));
+        return folder.Refuse(cText::Tr("Der Eintrag wurde inzwischen gelöscht."));
     }
     QStringList names = modReceiptName::Of(*entry);
-    QStringList copied;
-    bool isWhole = true;
     for (const cReceiptSource& source : sources) {
-        const QString name = isWhole ? Take(*entry, source) : QString();
-        isWhole = isWhole && !name.isEmpty();
-        if (isWhole && !IsInFolder(source.Path)) {
-            copied.append(name);
+        const QString name = folder.Take(modReceiptName::Stem(*entry), source);
+        if (name.isEmpty()) {
+            folder.TakeBack();
+            return false;
         }
-        if (isWhole && !names.contains(name)) {
-            names.append(name);
-        }
+        names.append(name);
     }
-    modReceiptName::Set(*entry, names);
-    if (isWhole && Store(*entry, cText::Tr("Beleg zu '{0}' hinzugefügt", {modEntryFields::Name(*entry)}))) {
+    names.removeDuplicates();
+    if (names == modReceiptName::Of(*entry)) {
+        folder.TellUnchanged();
         return true;
     }
-    for (const QString& name : copied) {
-        QFile::remove(QDir(Folder()).filePath(name)); // a copy made just now; where it came from is untouched
+    modReceiptName::Set(*entry, names);
+    if (Store(*entry, cText::Tr("Beleg zu '{0}' hinzugefügt", {modEntryFields::Name(*entry)}))) {
+        return true;
     }
+    folder.TakeBack();
     return false;
 }
 
 bool cReceipts::Detach(int entryId, const QString& name) const
 {
     std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(entryId);
-    if (!entry || !MayWrite()) {
+    if (!entry || !cReceiptFolder(m_tools).MayWrite()) {
         return false;
     }
     QStringList names = modReceiptName::Of(*entry);
@@ -281,19 +198,27 @@ bool cReceipts::Detach(int entryId, const QString& name) const
 
 bool cReceipts::Replace(int entryId, const QString& name, const QString& path) const
 {
-    std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(entryId);
-    if (!entry || File(name).IsThere() || !MayWrite()) {
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(entryId);
+    cReceiptFolder folder(m_tools);
+    if (!entry || File(name).IsThere() || !folder.MayWrite()) {
         return false;
     }
-    if (!IsInFolder(path) && EndingOf(path) == EndingOf(name)) {
-        return Copy({path}, name);
+    const QString other = folder.Take(modReceiptName::Stem(*entry), {path});
+    if (other.isEmpty() || other == name) {
+        return !other.isEmpty();
     }
-    const QString other = Take(*entry, {path});
-    if (other.isEmpty()) {
+    cUndoStep undo(m_tools.Data, cText::Tr("Beleg von '{0}' ersetzt", {modEntryFields::Name(*entry)}));
+    cEntryItemList entries = EntriesOf(name);
+    const bool isWritten = std::all_of(entries.begin(), entries.end(), [&](cEntryItem& each) {
+        QStringList names = modReceiptName::Of(each);
+        std::replace(names.begin(), names.end(), name, other);
+        names.removeDuplicates();
+        modReceiptName::Set(each, names);
+        return m_tools.Data.ChangeEntry(each);
+    });
+    if (!undo.DoneIf(isWritten)) {
+        folder.TakeBack();
         return false;
     }
-    QStringList names = modReceiptName::Of(*entry);
-    std::replace(names.begin(), names.end(), name, other);
-    modReceiptName::Set(*entry, names);
-    return Store(*entry, cText::Tr("Beleg von '{0}' ersetzt", {modEntryFields::Name(*entry)}));
+    return true;
 }

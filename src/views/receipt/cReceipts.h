@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
-#include "model/cReceiptSource.h"
+#include "views/receipt/cReceiptFolder.h"
 
 #include <QList>
 #include <QString>
@@ -10,23 +10,13 @@
 class cDataAccess;
 struct cBookTools;
 
-// The receipts of the open book: files in the folder "Belege" beside it, each tied to its entries by their marks. A
-// receipt is copied there once and never written again; no name is given twice.
+// The receipts of the open book: files in the folder "Belege" beside it, each tied to its entries by their marks.
 class cReceipts
 {
 public:
-    struct cFile
-    {
-        QString Name;
-        QString Path;
-        qint64 Size = -1; // bytes; -1 when the file is not there
-
-        [[nodiscard]] bool IsThere() const { return Size >= 0; }
-    };
+    using cFile = cReceiptFolder::cFile;
 
     explicit cReceipts(const cBookTools& tools) : m_tools(tools) {}
-
-    static constexpr qint64 MostBytes = 200'000'000; // of one receipt
 
     [[nodiscard]] QString Folder() const;
     [[nodiscard]] QList<cFile> Of(int entryId) const;
@@ -38,18 +28,20 @@ public:
     // Takes the mark off, as one step; the file stays. False when the book refuses.
     [[nodiscard]] bool Detach(int entryId, const QString& name) const;
 
-    // Copies a file in the place of one that is missing. One of the same kind takes its name, and all entries have it
-    // again; one of another kind gets a name of its own, which takes the place in this entry. A failure was shown.
+    // Copies a file in the place of one that is missing, at all entries that have it. A failure was shown.
     [[nodiscard]] bool Replace(int entryId, const QString& name, const QString& path) const;
 
     // The entries that have receipts, in the order of their days; the same for one file.
     [[nodiscard]] cEntryItemList Entries() const;
     [[nodiscard]] cEntryItemList EntriesOf(const QString& name) const;
 
-    // Files of the folder that no entry of the book has. Nothing while the book cannot be read whole.
+    // At how many entries and accounts it hangs.
+    [[nodiscard]] qsizetype CountUses(const QString& name) const;
+
+    // Files of the folder that no entry and no account of the book has. Nothing while the book cannot be read whole.
     [[nodiscard]] QStringList Unused() const;
 
-    // What a check of the book says of receipts, for the user: missing files and those without an entry, some of each
+    // What a check of the book says of receipts, for the user: missing files and those that hang nowhere, some of each
     // by name. Empty where everything fits.
     [[nodiscard]] static QString CheckText(cDataAccess& data);
 
@@ -60,13 +52,6 @@ public:
     [[nodiscard]] static bool IsDocument(const QString& path);
 
 private:
-    [[nodiscard]] bool Refuse(const QString& text) const;
-    [[nodiscard]] bool MayWrite() const;
-    [[nodiscard]] QString FreeName(const cEntryItem& entry, const QString& ending) const;
-    // The name in the folder; empty when that failed, of which the user was told.
-    [[nodiscard]] QString Take(const cEntryItem& entry, const cReceiptSource& source) const;
-    [[nodiscard]] bool Copy(const cReceiptSource& source, const QString& name) const;
-    [[nodiscard]] bool IsInFolder(const QString& path) const;
     [[nodiscard]] bool Store(const cEntryItem& entry, const QString& step) const;
 
     const cBookTools& m_tools;

@@ -1,20 +1,29 @@
 #include "windows/receipt/cPreviewReader.h"
 
+#include "views/receipt/cReceiptFolder.h"
+
+#include <QDateTime>
 #include <QFileInfo>
 #include <QImageReader>
 
 #include <poppler-qt6.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostBytes = 200'000'000; // of a file
-constexpr double mostPixels = 16e6;       // of a preview
-constexpr int mostMegabytes = 320;        // while a picture is unpacked: 80 million pixels
+constexpr double mostPixels = 16e6; // of a preview
+constexpr int mostMegabytes = 320;  // while a picture is unpacked: 80 million pixels
 
 // The size within `most` that keeps the form, and never more pixels than a preview may have.
 QSizeF Fitting(QSizeF size, QSize most)
@@ -24,135 +33,117 @@ QSizeF Fitting(QSizeF size, QSize most)
     return pixels > mostPixels ? size * std::sqrt(mostPixels / pixels) : size;
 }
 
-bool IsStale(const QVariant& flag)
+bool IsUnwanted(const QVariant& flag)
 {
     return static_cast<const std::atomic_bool*>(flag.value<void*>())->load();
 }
 
-} // namespace
-
-struct cPreviewReader::cOpened
+// Makes one picture after the other, and keeps the file of the last one open.
+class cPainter
 {
-    QString Path;
-    std::unique_ptr<Poppler::Document> Document;
-    QImage Picture;
+public:
+    [[nodiscard]] cPreview Make(const cPreviewReader::cWish& wish);
+
+    std::atomic_bool Unwanted = false; // what is being made
+
+private:
+    struct cOpened
+    {
+        QString Path;
+        qint64 Size = -1; // as it was read
+        QDateTime Modified;
+        std::unique_ptr<Poppler::Document> Document;
+        QImage Picture;
+    };
+
+    [[nodiscard]] cPreview MakePage(const cPreviewReader::cWish& wish);
+    [[nodiscard]] cPreview MakePicture(const cPreviewReader::cWish& wish);
+
+    cOpened m_opened;
 };
 
-cPreviewReader::cPreviewReader(QObject* parent) : QObject(parent), m_opened(std::make_unique<cOpened>())
+// Opening a file cannot be interrupted. Threads that were still at it when their window went are waited for at the end
+// of the program, where they have not ended long before.
+class cLeftBehind
 {
-    qRegisterMetaType<cPreview>();
-    QImageReader::setAllocationLimit(mostMegabytes);
-}
-
-cPreviewReader::~cPreviewReader()
-{
+public:
+    cLeftBehind() = default;
+    cLeftBehind(const cLeftBehind&) = delete;
+    cLeftBehind& operator=(const cLeftBehind&) = delete;
+    ~cLeftBehind()
     {
-        const std::lock_guard lock(m_mutex);
-        m_isEnding = true;
-        m_isStale = true;
+        for (cThread& each : m_threads) {
+            each.Thread.join();
+        }
     }
-    m_wake.notify_one();
-    if (m_worker.joinable()) {
-        m_worker.join();
-    }
-}
 
-void cPreviewReader::Read(const cWish& wish)
-{
+    void Take(std::thread thread, std::shared_ptr<const std::atomic_bool> hasEnded)
     {
-        const std::lock_guard lock(m_mutex);
-        m_wish = wish;
-        ++m_number;
-        m_isStale = true;
+        m_threads.push_back({std::move(thread), std::move(hasEnded)});
+        std::erase_if(m_threads, [](cThread& each) {
+            const bool hasThreadEnded = *each.HasEnded;
+            if (hasThreadEnded) {
+                each.Thread.join();
+            }
+            return hasThreadEnded;
+        });
     }
-    if (!m_worker.joinable()) {
-        m_worker = std::thread([this] { Work(); });
-    }
-    m_wake.notify_one();
-}
 
-void cPreviewReader::Forget()
-{
-    const std::lock_guard lock(m_mutex);
-    m_wish.reset();
-    ++m_number;
-    m_isStale = true;
-}
+private:
+    struct cThread
+    {
+        std::thread Thread;
+        std::shared_ptr<const std::atomic_bool> HasEnded;
+    };
+    std::vector<cThread> m_threads;
+};
 
-void cPreviewReader::Work()
+cPreview cPainter::Make(const cPreviewReader::cWish& wish)
 {
-    std::unique_lock lock(m_mutex);
-    for (;;) {
-        m_wake.wait(lock, [this] { return m_isEnding || m_wish; });
-        if (m_isEnding) {
-            return;
-        }
-        const cWish wish = *m_wish;
-        const int number = m_number;
-        m_wish.reset();
-        m_isStale = false;
-        lock.unlock();
-        const cPreview preview = Make(wish);
-        if (!m_isStale) {
-            QMetaObject::invokeMethod(
-                this, [this, preview, number] { Answer(preview, number); }, Qt::QueuedConnection);
-        }
-        lock.lock();
+    const QFileInfo file(wish.Path);
+    const QDateTime modified = file.lastModified();
+    if (m_opened.Path != wish.Path || m_opened.Size != file.size() || m_opened.Modified != modified) {
+        m_opened = {wish.Path, file.size(), modified, {}, {}};
     }
-}
-
-// A wish that came after the picture was made makes it old as well.
-void cPreviewReader::Answer(const cPreview& preview, int number)
-{
-    if (number == m_number) {
-        Q_EMIT Done(preview);
-    }
-}
-
-cPreview cPreviewReader::Make(const cWish& wish)
-{
-    if (m_opened->Path != wish.Path) {
-        *m_opened = {wish.Path, {}, {}};
-    }
-    if (QFileInfo(wish.Path).size() > mostBytes) {
+    if (file.size() > cReceiptFolder::MostBytes) {
         return {cPreview::eState::TooLarge, {}, 0, 1};
     }
     return wish.Path.endsWith(u".pdf"_s, Qt::CaseInsensitive) ? MakePage(wish) : MakePicture(wish);
 }
 
-cPreview cPreviewReader::MakePage(const cWish& wish)
+cPreview cPainter::MakePage(const cPreviewReader::cWish& wish)
 {
-    if (m_opened->Document == nullptr) {
-        m_opened->Document = Poppler::Document::load(wish.Path);
-        if (m_opened->Document != nullptr && !m_opened->Document->isLocked()) {
-            m_opened->Document->setRenderHint(Poppler::Document::Antialiasing);
-            m_opened->Document->setRenderHint(Poppler::Document::TextAntialiasing);
+    if (m_opened.Document == nullptr) {
+        m_opened.Document = Poppler::Document::load(wish.Path);
+        if (m_opened.Document != nullptr && !m_opened.Document->isLocked()) {
+            m_opened.Document->setRenderHint(Poppler::Document::Antialiasing);
+            m_opened.Document->setRenderHint(Poppler::Document::TextAntialiasing);
         }
     }
-    if (m_opened->Document == nullptr) {
+    if (m_opened.Document == nullptr) {
         return {cPreview::eState::Damaged, {}, 0, 1};
     }
-    if (m_opened->Document->isLocked()) {
+    if (m_opened.Document->isLocked()) {
         return {cPreview::eState::Locked, {}, 0, 1};
     }
-    const int pages = m_opened->Document->numPages();
+    const int pages = m_opened.Document->numPages();
     const int number = std::clamp(wish.Page, 0, std::max(0, pages - 1));
-    const std::unique_ptr<Poppler::Page> page = m_opened->Document->page(number);
+    const std::unique_ptr<Poppler::Page> page = m_opened.Document->page(number);
     const QSizeF size = page == nullptr ? QSizeF() : page->pageSizeF();
     if (size.width() < 1 || size.height() < 1) {
         return {cPreview::eState::Damaged, {}, number, std::max(1, pages)};
     }
     constexpr double pointsPerInch = 72;
     const double dots = Fitting(size, wish.Size).width() / size.width() * pointsPerInch;
-    QImage image = page->renderToImage(dots, dots, -1, -1, -1, -1, Poppler::Page::Rotate0, nullptr, nullptr, IsStale,
-                                       QVariant::fromValue(static_cast<void*>(&m_isStale)));
+    QImage image = page->renderToImage(dots, dots, -1, -1, -1, -1, Poppler::Page::Rotate0, nullptr, nullptr, IsUnwanted,
+                                       QVariant::fromValue(static_cast<void*>(&Unwanted)));
     const auto state = image.isNull() ? cPreview::eState::Damaged : cPreview::eState::Shown;
     return {state, std::move(image), number, pages};
 }
 
-cPreview cPreviewReader::MakePicture(const cWish& wish)
+cPreview cPainter::MakePicture(const cPreviewReader::cWish& wish)
 {
-    if (m_opened->Picture.isNull()) {
+    if (m_opened.Picture.isNull()) {
         QImageReader reader(wish.Path);
         reader.setDecideFormatFromContent(true);
         reader.setAutoTransform(true); // cameras lie on their side
@@ -163,13 +154,124 @@ cPreview cPreviewReader::MakePicture(const cWish& wish)
         if (size.width() * size.height() > mostPixels) {
             reader.setScaledSize(Fitting(size, reader.size()).toSize());
         }
-        m_opened->Picture = reader.read();
-        if (m_opened->Picture.isNull()) {
+        m_opened.Picture = reader.read();
+        if (m_opened.Picture.isNull()) {
             const bool isLarge = size.width() * size.height() * 4 > mostMegabytes * 1e6;
             return {isLarge ? cPreview::eState::TooLarge : cPreview::eState::Damaged, {}, 0, 1};
         }
     }
-    const QSize size = Fitting(m_opened->Picture.size(), wish.Size).toSize().expandedTo({1, 1});
-    return {cPreview::eState::Shown, m_opened->Picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 0,
+    const QSize size = Fitting(m_opened.Picture.size(), wish.Size).toSize().expandedTo({1, 1});
+    return {cPreview::eState::Shown, m_opened.Picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 0,
             1};
+}
+
+} // namespace
+
+// Outlives the reader while its thread is at work.
+class cPreviewReader::cWorker : public std::enable_shared_from_this<cWorker>
+{
+public:
+    explicit cWorker(cPreviewReader& reader) : m_reader(&reader) {}
+
+    void Wish(std::optional<cWish> wish);
+    void Leave(); // the reader goes
+
+private:
+    void Work();
+    void Answer(const cPreview& preview, int number);
+
+    cPainter m_painter; // of the thread alone, but for its flag
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    cPreviewReader* m_reader; // these three under the mutex
+    std::optional<cWish> m_wish;
+    int m_number = 0;     // of the newest wish
+    std::thread m_thread; // started by the first wish
+    std::shared_ptr<std::atomic_bool> m_hasEnded = std::make_shared<std::atomic_bool>(false);
+};
+
+void cPreviewReader::cWorker::Wish(std::optional<cWish> wish)
+{
+    const bool isWork = wish.has_value();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_wish = std::move(wish);
+        ++m_number;
+        m_painter.Unwanted = true;
+    }
+    if (isWork && !m_thread.joinable()) {
+        m_thread = std::thread([self = shared_from_this(), hasEnded = m_hasEnded]() mutable {
+            self->Work();
+            self.reset();
+            *hasEnded = true;
+        });
+    }
+    m_wake.notify_one();
+}
+
+void cPreviewReader::cWorker::Leave()
+{
+    static cLeftBehind leftBehind;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_reader = nullptr;
+        m_painter.Unwanted = true;
+    }
+    m_wake.notify_one();
+    if (m_thread.joinable()) {
+        leftBehind.Take(std::move(m_thread), m_hasEnded);
+    }
+}
+
+void cPreviewReader::cWorker::Work()
+{
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_wake.wait(lock, [this] { return m_reader == nullptr || m_wish; });
+        if (m_reader == nullptr) {
+            return;
+        }
+        const cWish wish = *m_wish;
+        const int number = m_number;
+        m_wish.reset();
+        m_painter.Unwanted = false;
+        lock.unlock();
+        const cPreview preview = m_painter.Make(wish);
+        lock.lock();
+        if (m_reader != nullptr && number == m_number) {
+            Answer(preview, number);
+        }
+    }
+}
+
+// A wish that came after the picture was made makes it old as well.
+void cPreviewReader::cWorker::Answer(const cPreview& preview, int number)
+{
+    const auto tell = [self = shared_from_this(), preview, number] {
+        if (number == self->m_number && self->m_reader != nullptr) {
+            Q_EMIT self->m_reader->Done(preview);
+        }
+    };
+    QMetaObject::invokeMethod(m_reader, tell, Qt::QueuedConnection);
+}
+
+cPreviewReader::cPreviewReader(QObject* parent) : QObject(parent), m_worker(std::make_shared<cWorker>(*this))
+{
+    qRegisterMetaType<cPreview>();
+    QImageReader::setAllocationLimit(mostMegabytes);
+}
+
+cPreviewReader::~cPreviewReader()
+{
+    m_worker->Leave();
+}
+
+void cPreviewReader::Read(const cWish& wish)
+{
+    m_worker->Wish(wish);
+}
+
+void cPreviewReader::Forget()
+{
+    m_worker->Wish(std::nullopt);
 }

@@ -5,12 +5,7 @@
 #include <QSize>
 #include <QString>
 
-#include <atomic>
-#include <condition_variable>
 #include <memory>
-#include <mutex>
-#include <optional>
-#include <thread>
 
 // A page of a receipt as a picture.
 struct cPreview
@@ -34,7 +29,7 @@ public:
     explicit cPreviewReader(QObject* parent = nullptr);
     cPreviewReader(const cPreviewReader&) = delete;
     cPreviewReader& operator=(const cPreviewReader&) = delete;
-    ~cPreviewReader() override; // gives up what is being read
+    ~cPreviewReader() override; // gives up what is being read, and does not wait for it
 
     struct cWish
     {
@@ -49,20 +44,7 @@ Q_SIGNALS:
     void Done(const cPreview& preview);
 
 private:
-    struct cOpened; // the file of the last wish
+    class cWorker;
 
-    void Work();
-    [[nodiscard]] cPreview Make(const cWish& wish);
-    [[nodiscard]] cPreview MakePage(const cWish& wish);
-    [[nodiscard]] cPreview MakePicture(const cWish& wish);
-    void Answer(const cPreview& preview, int number);
-
-    std::unique_ptr<cOpened> m_opened; // of the worker alone
-    std::mutex m_mutex;
-    std::condition_variable m_wake;
-    std::optional<cWish> m_wish; // these three under the mutex
-    int m_number = 0;            // of the newest wish
-    bool m_isEnding = false;
-    std::atomic_bool m_isStale = false; // what is being made is wanted no more
-    std::thread m_worker;               // started by the first wish
+    std::shared_ptr<cWorker> m_worker; // with the thread that it works in
 };

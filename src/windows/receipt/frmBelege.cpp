@@ -56,7 +56,7 @@ QWidget* frmBelege::BuildList()
 {
     m_list->setModel(&m_receipts);
     m_list->setItemDelegate(new cRowDelegate(m_list));
-    m_list->setAccessibleName(cText::Tr("Belege"));
+    m_list->setAccessibleName(m_receipts.ListName());
     m_list->setTextElideMode(Qt::ElideMiddle); // the number and the size stand at the end
     m_list->setUniformItemSizes(true);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -150,13 +150,11 @@ int frmBelege::Row() const
     return m_list->currentIndex().row();
 }
 
-// The newest one is what was added just now.
 void frmBelege::ShowList()
 {
     const int count = m_receipts.rowCount();
-    const bool isLonger = m_count >= 0 && count > m_count;
-    m_count = count;
-    m_list->setCurrentIndex(m_receipts.index(isLonger ? count - 1 : std::clamp(m_row, 0, std::max(0, count - 1)), 0));
+    const int added = m_receipts.AddedRow();
+    m_list->setCurrentIndex(m_receipts.index(added >= 0 ? added : std::clamp(m_row, 0, std::max(0, count - 1)), 0));
     ShowReceipt();
 }
 

@@ -10,7 +10,7 @@ class QToolButton;
 class cPreviewView;
 class cReceiptListModel;
 
-// The receipts of one entry: their list, a preview, and what can be done with each.
+// The receipts of one entry, or the papers of a bank account: their list, a preview, and what can be done with each.
 class frmBelege final : public QDialog
 {
     Q_OBJECT
@@ -52,5 +52,4 @@ private:
     QPushButton* m_remove;
     QPushButton* m_close;
     int m_row = -1; // as it is shown
-    int m_count = -1;
 };

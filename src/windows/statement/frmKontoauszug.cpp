@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/ledger/cStatementListModel.h"
+#include "views/receipt/cStatementPapers.h"
 #include "windows/main/cSumBar.h"
 #include "windows/statement/cReconcilePanel.h"
 #include "windows/statement/cStatementTree.h"
@@ -12,6 +13,7 @@
 #include "windows/widget/cSummaryText.h"
 #include "windows/widget/modChoice.h"
 #include "windows/widget/modDayRange.h"
+#include "windows/widget/modDrop.h"
 #include "windows/widget/modPlace.h"
 #include "windows/widget/modTone.h"
 
@@ -19,6 +21,7 @@
 #include <QBoxLayout>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -47,10 +50,12 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
       m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
       m_print(new QPushButton(cText::Tr("&Drucken…"), this)),
       m_preview(new QPushButton(cText::Tr("Seitenansi&cht"), this)),
-      m_export(new QPushButton(cText::Tr("E&xportieren…"), this))
+      m_export(new QPushButton(cText::Tr("E&xportieren…"), this)),
+      m_papers(new QPushButton(statement.PapersText(), this))
 {
     setWindowTitle(cText::Tr("Kontoauszug"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    setAcceptDrops(true);
     Build();
     Offer();
     Connect();
@@ -113,15 +118,16 @@ QLayout* frmKontoauszug::BuildButtons()
 {
     m_entry->setToolTip(cText::Tr("Öffnet den Eintrag, als der dieser Umsatz gebucht ist (Eingabetaste)"));
     m_copy->setToolTip(cText::Tr("Kopiert die markierten Umsätze, sonst alle (Strg+C)"));
+    m_papers->setToolTip(cText::Tr("Auszüge der Bank als PDF; Dateien können auch in dieses Fenster gezogen werden"));
     auto* close = new QPushButton(cText::Tr("Schließen"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     auto* row = new cFlowLayout;
-    for (QPushButton* button : {m_entry, m_copy, m_print, m_preview, m_export}) {
+    for (QPushButton* button : {m_entry, m_papers, m_copy, m_print, m_preview, m_export}) {
         row->addWidget(button);
     }
     row->AddStretch();
     row->addWidget(close);
-    for (QPushButton* button : {m_entry, m_copy, m_print, m_preview, m_export, close}) {
+    for (QPushButton* button : {m_entry, m_papers, m_copy, m_print, m_preview, m_export, close}) {
         button->setAutoDefault(false); // Enter belongs to the list
     }
     return row;
@@ -160,6 +166,7 @@ void frmKontoauszug::Connect()
     connect(m_print, &QPushButton::clicked, this, &frmKontoauszug::PrintRequested);
     connect(m_preview, &QPushButton::clicked, this, &frmKontoauszug::PreviewRequested);
     connect(m_export, &QPushButton::clicked, this, &frmKontoauszug::ExportRequested);
+    connect(m_papers, &QPushButton::clicked, this, &frmKontoauszug::PapersRequested);
     connect(m_differences, &cReconcilePanel::EntryRequested, this, &frmKontoauszug::EntryRequested);
     connect(m_differences, &cReconcilePanel::BookRequested, this, &frmKontoauszug::BookRequested);
     connect(m_differences, &cReconcilePanel::DeleteRequested, this, &frmKontoauszug::DeleteRequested);
@@ -218,6 +225,8 @@ void frmKontoauszug::ShowButtons()
     for (QPushButton* button : {m_copy, m_print, m_preview, m_export}) {
         button->setEnabled(hasRows);
     }
+    m_papers->setText(m_statement.PapersText());
+    m_papers->setEnabled(!m_statement.Numbers().isEmpty());
 }
 
 void frmKontoauszug::OpenEntry()
@@ -227,6 +236,23 @@ void frmKontoauszug::OpenEntry()
         Q_EMIT EntryRequested(entry->first, entry->second);
         m_tree->setCurrentIndex(m_statement.index(row, 0)); // the rows may have been read again
     }
+}
+
+void frmKontoauszug::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QStringList files = modDrop::Files(*event->mimeData());
+    const bool arePapers = std::all_of(files.begin(), files.end(), &cStatementPapers::IsPaper);
+    if (!files.isEmpty() && arePapers && m_papers->isEnabled()) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void frmKontoauszug::dropEvent(QDropEvent* event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    Q_EMIT PapersDropped(modDrop::Files(*event->mimeData()));
 }
 
 std::vector<int> frmKontoauszug::SelectedRows() const

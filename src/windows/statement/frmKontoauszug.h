@@ -36,6 +36,13 @@ Q_SIGNALS:
     void BookRequested(int rowId);
     void DeleteRequested(int entryId, QDate day);
     void ReconcileChanged(); // done by the window itself
+    // The PDF statements of the account shown; who changes them calls cStatementListModel::Reload.
+    void PapersRequested();
+    void PapersDropped(const QStringList& paths);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void Build();
@@ -69,4 +76,5 @@ private:
     QPushButton* m_print;
     QPushButton* m_preview;
     QPushButton* m_export;
+    QPushButton* m_papers;
 };
