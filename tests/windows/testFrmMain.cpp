@@ -471,6 +471,10 @@ void testFrmMain::RowsAreDroppedOnAnAccount()
     QCOMPARE(dropped.size(), 1);
     QCOMPARE(dropped.first().at(0).value<QList<cEntryListModel::cKey>>(), rows);
     QCOMPARE(dropped.first().at(1).toString(), u"Bargeld"_s);
+    QDropEvent aside(place, Qt::CopyAction, &data, Qt::LeftButton, {}); // beside the list, at its header
+    QApplication::sendEvent(accounts, &aside);
+    QTest::qWait(5);
+    QCOMPARE(dropped.size(), 1);
 }
 
 void testFrmMain::DayIsJumpedTo()

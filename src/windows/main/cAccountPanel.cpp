@@ -85,7 +85,6 @@ cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
     m_view->header()->setSectionResizeMode(cAccountListModel::Name, QHeaderView::Stretch);
     m_view->header()->setSectionResizeMode(cAccountListModel::Balance, QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(cAccountListModel::Open, QHeaderView::ResizeToContents);
-    m_view->setAcceptDrops(true);
     m_view->viewport()->setAcceptDrops(true);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
@@ -152,7 +151,9 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize) {
         FitColumns();
     }
-    if (event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove || event->type() == QEvent::Drop) {
+    const bool isDrag =
+        event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove || event->type() == QEvent::Drop;
+    if (isDrag && watched == m_view->viewport()) {
         TakeDrag(*static_cast<QDropEvent*>(event)); // the two others are derived from it
         return event->isAccepted();
     }
@@ -176,10 +177,13 @@ void cAccountPanel::TakeDrag(QDropEvent& event)
     const bool isRows = event.mimeData()->hasFormat(modRowDrag::Format);
     event.setAccepted(isRows && (!account.isEmpty() || event.type() == QEvent::DragEnter));
     if (event.type() == QEvent::Drop && event.isAccepted()) {
-        const QList<cEntryListModel::cKey> rows = modRowDrag::FromBytes(event.mimeData()->data(modRowDrag::Format));
         // The mouse is let go first: what follows asks.
         QMetaObject::invokeMethod(
-            this, [this, rows, account] { Q_EMIT RowsDropped(rows, account); }, Qt::QueuedConnection);
+            this,
+            [this, account, bytes = event.mimeData()->data(modRowDrag::Format)] {
+                Q_EMIT RowsDropped(modRowDrag::FromBytes(bytes), account, modRowDrag::ShownFromBytes(bytes));
+            },
+            Qt::QueuedConnection);
     }
 }
 

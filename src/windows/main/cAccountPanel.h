@@ -24,7 +24,8 @@ public:
 Q_SIGNALS:
     void AccountChosen(const QString& account); // empty: all
     void RenameRequested(const QString& account);
-    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account);
+    // `shown`: the account by which their list shows the rows; empty for all accounts.
+    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
