@@ -463,6 +463,9 @@ void testMainModel::RenamesAnAccountWithItsEntries()
     QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Haushaltskonto"_s), 5);
     QCOMPARE(scene.Model->View().Account, u"Haushaltskonto"_s);
     QCOMPARE(scene.Model->Entries().rowCount(), 15);
+    scene.Model->Execute(modCommand::Undo);
+    QCOMPARE(scene.Model->View().Account, u"Girokonto"_s);
+    QCOMPARE(scene.Model->Entries().rowCount(), 15);
 }
 
 void testMainModel::ReadOnlyBookOffersNoWriting()

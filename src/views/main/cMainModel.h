@@ -9,6 +9,7 @@
 #include "views/main/cViewState.h"
 #include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
+#include "views/main/modSavedView.h"
 #include "views/sheet/cCellEdit.h"
 #include "views/sheet/cEntryDuplicate.h"
 
@@ -107,6 +108,10 @@ public:
     [[nodiscard]] cCellEdit& Cells() { return m_cells; }
     void CellWritten();
 
+    // Keeps what the list shows under a name, and opens the kept views; the one that is to be shown. An account in them
+    // follows when it is renamed.
+    void KeepView(const QString& columns);
+    [[nodiscard]] std::optional<cSavedView> ManageViews();
     // Shows a view that was kept under a name; what the book does not have any more becomes the first position of its
     // selector.
     void ShowView(const cViewState& view);
@@ -173,6 +178,7 @@ private:
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     void LoadEntries();
     void ShowFilter();
+    void TakeAccount(); // one that the book has
     void RefreshAccounts();
     void AskResetView();
     void SkipPeriod();

@@ -1,6 +1,7 @@
 #include "base/cClock.h"
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "base/cUser.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
@@ -8,6 +9,7 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
+#include "views/main/cSavedViews.h"
 #include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
 
@@ -213,4 +215,23 @@ void cMainModel::ShowView(const cViewState& view)
     view.Save(m_tools.Settings);
     m_view.Restore(m_tools.Settings, Accounts(), m_tools.Clock.Today());
     RefreshView();
+}
+
+void cMainModel::KeepView(const QString& columns)
+{
+    if (m_detour.IsPicked()) {
+        m_tools.User.Show(
+            eTone::Objection,
+            cText::Tr("Diese Auswahl lässt sich nicht merken, denn sie zeigt nur die Einträge hinter einer "
+                      "Zahl der Auswertung. Heben Sie die Auswahl erst auf."));
+    } else if (cSavedViews(m_tools).Keep(m_view, columns)) {
+        Q_EMIT ViewChanged(); // what can be undone
+    }
+}
+
+std::optional<cSavedView> cMainModel::ManageViews()
+{
+    std::optional<cSavedView> view = cSavedViews(m_tools).Manage();
+    Q_EMIT ViewChanged();
+    return view;
 }
