@@ -53,7 +53,7 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_backBar(new cBackBar(this)),
       m_viewBar(new cViewBar(model, this)),
       m_hint(new QLabel(this)),
-      m_tree(new cEntryTree(model.Entries(), this)),
+      m_tree(new cEntryTree(model.Entries(), model.Cells(), this)),
       m_sums(new cSumBar(this)),
       m_database(new QLabel(this)),
       m_reminder(new cReminderBar(this)),
@@ -63,7 +63,6 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
     setAcceptDrops(true);
     setWindowIcon(modIcon::Program());
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_tree->UseCells(model.Cells());
     BuildCommands();
     BuildPages();
     Connect();
