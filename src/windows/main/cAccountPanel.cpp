@@ -157,6 +157,9 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
         TakeDrag(*static_cast<QDropEvent*>(event)); // the two others are derived from it
         return event->isAccepted();
     }
+    if (event->type() == QEvent::DragLeave) {
+        Highlight(m_view->currentIndex());
+    }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key(); // the event says what it is
         if (key == Qt::Key_Escape) {
@@ -173,9 +176,12 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
 
 void cAccountPanel::TakeDrag(QDropEvent& event)
 {
-    const QString account = m_model.AccountAt(m_view->indexAt(event.position().toPoint()));
+    const QModelIndex row = m_view->indexAt(event.position().toPoint());
+    const QString account = m_model.AccountAt(row);
     const bool isRows = event.mimeData()->hasFormat(modRowDrag::Format);
     event.setAccepted(isRows && (!account.isEmpty() || event.type() == QEvent::DragEnter));
+    const bool isTarget = event.type() == QEvent::DragMove && event.isAccepted();
+    Highlight(isTarget ? row : m_view->currentIndex());
     if (event.type() == QEvent::Drop && event.isAccepted()) {
         // The mouse is let go first: what follows asks.
         QMetaObject::invokeMethod(
@@ -185,6 +191,12 @@ void cAccountPanel::TakeDrag(QDropEvent& event)
             },
             Qt::QueuedConnection);
     }
+}
+
+// The account that would be hit; otherwise the one that the keys stand on.
+void cAccountPanel::Highlight(const QModelIndex& row)
+{
+    m_view->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void cAccountPanel::OpenMenu(const QPoint& position)

@@ -36,6 +36,7 @@ private:
     void OpenMenu(const QPoint& position);
     void Choose(const QModelIndex& row);
     void TakeDrag(QDropEvent& event); // of entries over an account
+    void Highlight(const QModelIndex& row);
 
     cAccountListModel& m_model;
     QLabel* m_title;
