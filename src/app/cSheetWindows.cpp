@@ -27,7 +27,7 @@ cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain
                          cManyChange change(m_tools, rows);
                          if (!m_model.IsReadOnly()
                              && change.AskAndSave({.Account = account}, shown) == cManyChange::eSaved::Saved) {
-                             m_model.BookChanged();
+                             m_model.ManyChanged(rows);
                          }
                      });
 }
@@ -69,7 +69,7 @@ void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget
     }
     frmMehrere form(change, parent);
     if (form.exec() == QDialog::Accepted) {
-        m_model.BookChanged();
+        m_model.ManyChanged(rows);
     }
 }
 

@@ -202,6 +202,7 @@ void testSheet::ManyChangeInOneStep()
                  && change.Summary().contains(u"Startguthaben"_s),
              qPrintable(change.Summary()));
     QCOMPARE(change.Save({}), cManyChange::eSaved::Refused); // nothing was chosen
+    QCOMPARE(change.Save({.Category = modWord::Startguthaben}), cManyChange::eSaved::Refused);
     QCOMPARE(change.Save({.Category = u"Freizeit"_s, .Description = u"Anders"_s, .Type = modWord::Einnahme}),
              cManyChange::eSaved::Saved);
     for (const int id : {scene.Purchase.ID, scene.Rent.ID}) {

@@ -104,6 +104,9 @@ public:
     // Copies these entries to today or to the next month, and says what came of it (RowsMade, Told).
     void Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDuplicate::eDay day);
 
+    // After these entries were changed at once: says so, and where they have gone.
+    void ManyChanged(const QList<cEntryListModel::cKey>& keys);
+
     // What is typed into cells of a list, and what follows once it was stored.
     [[nodiscard]] cCellEdit& Cells() { return m_cells; }
     void CellWritten();

@@ -17,6 +17,15 @@ using namespace Qt::Literals::StringLiterals;
 
 // The part of the main model that carries out commands.
 
+namespace {
+
+QString HiddenText()
+{
+    return cText::Tr("Die Auswahl über der Liste blendet das gerade aus.");
+}
+
+} // namespace
+
 bool cMainModel::Execute(int command)
 {
     const modCommand::cCommand* known = modCommand::Find(command);
@@ -194,8 +203,15 @@ void cMainModel::Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDupli
     BookChanged();
     Q_EMIT RowsMade(made);
     const bool isShown = m_entries.IndexesOf(made).size() == made.size();
-    Q_EMIT Told(isShown ? flow.Text()
-                        : flow.Text() + u' ' + cText::Tr("Die Auswahl über der Liste blendet das gerade aus."));
+    Q_EMIT Told(isShown ? flow.Text() : flow.Text() + u' ' + HiddenText());
+}
+
+void cMainModel::ManyChanged(const QList<cEntryListModel::cKey>& keys)
+{
+    const qsizetype before = m_entries.IndexesOf(keys).size();
+    BookChanged();
+    const QString done = m_tools.Data.Journal().UndoName() + u'.';
+    Q_EMIT Told(m_entries.IndexesOf(keys).size() >= before ? done : done + u' ' + HiddenText());
 }
 
 void cMainModel::CellWritten()

@@ -180,6 +180,11 @@ cManyChange::eSaved cManyChange::Check(const cManyFields& fields, const cEntryIt
     if (changed.isEmpty()) {
         return Refuse(cText::Tr("So, wie Sie es gewählt haben, ändert sich nichts."));
     }
+    if (fields.Category == modWord::Startguthaben) {
+        return Refuse(
+            cText::Tr("Ein Startguthaben legen Sie für jedes Konto einzeln fest. Bitte wählen Sie eine andere "
+                      "Kategorie."));
+    }
     const bool isSplit = std::any_of(changed.begin(), changed.end(), [](const cEntryItem& entry) {
         return IsTransfer(entry) && modSplit::Group(entry) != 0;
     });

@@ -165,11 +165,15 @@ void frmMain::BuildStatusBar()
     statusBar()->addPermanentWidget(m_failureMark);
     statusBar()->addPermanentWidget(m_database);
     m_failureMark->hide();
+    connect(statusBar(), &QStatusBar::messageChanged, this, [this] { ShowReminder(m_reminderText); });
 }
 
 void frmMain::ShowReminder(const QString& text)
 {
-    m_reminder->ShowText(text);
+    m_reminderText = text;
+    if (statusBar()->currentMessage().isEmpty()) { // the message stands in its place for a while
+        m_reminder->ShowText(text);
+    }
 }
 
 void frmMain::ShowFailureMark(bool isShown)

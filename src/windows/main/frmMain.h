@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QString>
 #include <QStringList>
 
 class cAccountPanel;
@@ -109,6 +110,7 @@ private:
     QLabel* m_database;
     QMenu* m_view = nullptr; // "Ansicht"
     cReminderBar* m_reminder;
+    QString m_reminderText;
     QToolButton* m_failureMark;
     cDayJump* m_dayJump;
     bool m_isSplitByHand = false;
