@@ -415,6 +415,15 @@ void testFrmMain::CellsAreTypedInTheList()
     scene.Model.Execute(modCommand::Undo);
     scene.Model.Execute(modCommand::Undo);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID), scene.First);
+    QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2026, 3, 11))); // between the two
+    scene.Model.BookChanged();
+    scene.Tree().setCurrentIndex(scene.Model.Entries().index(2, cEntryListModel::Category));
+    QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+    type({}, Qt::Key_Backtab);
+    type(u"7"_s, Qt::Key_Backtab); // of a start balance nothing else can be typed
+    type(u"8"_s, Qt::Key_Return);
+    QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryValue, 700);
+    QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryValue, 800);
 }
 
 // It is stored, and what was clicked stays clicked.

@@ -185,7 +185,7 @@ private:
     void RefreshAccounts();
     void AskResetView();
     void SkipPeriod();
-    void StepThrough(bool (cJournal::*step)());
+    void StepThrough(bool (cJournal::*step)(), const QString& told);
     [[nodiscard]] QString StepName(int command) const;
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const cSettingKey& key, eSwitch state);

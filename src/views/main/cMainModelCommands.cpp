@@ -41,8 +41,10 @@ bool cMainModel::Execute(int command)
     case modCommand::DeleteEntry: Delete(m_selection); break;
     case modCommand::CorrectPeriod: m_parts.Navigator.OpenCorrection(First().ID, First().Day); break;
     case modCommand::SkipPeriod: SkipPeriod(); break;
-    case modCommand::Undo: StepThrough(&cJournal::Undo); break;
-    case modCommand::Redo: StepThrough(&cJournal::Redo); break;
+    case modCommand::Undo: StepThrough(&cJournal::Undo, cText::Tr("Zurückgenommen: {0}.", {StepName(command)})); break;
+    case modCommand::Redo:
+        StepThrough(&cJournal::Redo, cText::Tr("Wieder ausgeführt: {0}.", {StepName(command)}));
+        break;
     case modCommand::EditTemplates: m_parts.Navigator.OpenTemplates({}); break;
     case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
     case modCommand::ResetView: AskResetView(); break;
@@ -153,13 +155,14 @@ QString cMainModel::MenuText(int command) const
     return name.isEmpty() ? text : cText::Tr("{0}: {1}", {text, name});
 }
 
-void cMainModel::StepThrough(bool (cJournal::*step)())
+void cMainModel::StepThrough(bool (cJournal::*step)(), const QString& told)
 {
     if ((m_tools.Data.Journal().*step)()) {
         m_tools.Settings.Reload(); // account numbers of the bank may have been part of it
         SetSelection({});
         BookChanged();
         Q_EMIT StagedRowsReleased();
+        Q_EMIT Told(told);
     }
 }
 

@@ -71,11 +71,16 @@ std::optional<QString> cCellEdit::Text(const cEntryListModel::cKey& key, int col
     return modSum::ToText(correction ? correction->EntryValue : entry->EntryValue, Decimal());
 }
 
+bool cCellEdit::Takes(const cEntryListModel::cKey& key, int column) const
+{
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(key.ID);
+    return column == eColumn::Amount || !entry || !cStartBalance(m_tools.Data, Decimal()).IsOne(*entry);
+}
+
 std::optional<QString> cCellEdit::Start(const cEntryListModel::cKey& key, int column)
 {
     m_suggestions.emplace(m_tools.Data, m_tools.User);
-    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(key.ID);
-    if (entry && column != eColumn::Amount && cStartBalance(m_tools.Data, Decimal()).IsOne(*entry)) {
+    if (!Takes(key, column)) {
         (void)Refuse(cText::Tr("Von einem Startguthaben lässt sich in der Liste nur der Betrag ändern."));
         return std::nullopt;
     }

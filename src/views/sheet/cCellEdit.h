@@ -26,6 +26,9 @@ public:
     [[nodiscard]] static bool IsEditable(int column);
     [[nodiscard]] bool IsReadOnly() const;
 
+    // Whether this entry lets the column be typed: a start balance only its amount.
+    [[nodiscard]] bool Takes(const cEntryListModel::cKey& key, int column) const;
+
     // The text that the field in the cell starts with. Empty, after a message, where nothing can be typed.
     [[nodiscard]] std::optional<QString> Start(const cEntryListModel::cKey& key, int column);
 

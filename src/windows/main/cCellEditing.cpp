@@ -35,8 +35,12 @@ void cCellEditing::Edit(const QModelIndex& cell)
     if (m_model.EntryAt(cell) == nullptr || columns.isEmpty() || m_cells.IsReadOnly()) {
         return;
     }
-    const int column = columns.contains(cell.column()) ? cell.column() : columns.first();
-    if (const std::optional<QString> text = m_cells.Start(m_model.KeyAt(cell), column)) {
+    const cEntryListModel::cKey key = m_model.KeyAt(cell);
+    int column = columns.contains(cell.column()) ? cell.column() : columns.first();
+    if (!m_cells.Takes(key, column) && columns.contains(cEntryListModel::Amount)) {
+        column = cEntryListModel::Amount;
+    }
+    if (const std::optional<QString> text = m_cells.Start(key, column)) {
         Open(cell.siblingAtColumn(column), *text);
     }
 }
@@ -91,7 +95,7 @@ void cCellEditing::GoOn(const cEntryListModel::cKey& key, int column, int step, 
     const QModelIndex line = m_model.IndexesOf({key}).value(0);
     const QList<int> columns = Columns();
     const qsizetype at = columns.indexOf(column) + step;
-    const bool isInLine = at >= 0 && at < columns.size();
+    const bool isInLine = at >= 0 && at < columns.size() && m_cells.Takes(key, columns.at(at));
     if (step != 0 && isInLine && line.isValid()) {
         Edit(line.siblingAtColumn(columns.at(at)));
         return;
