@@ -343,7 +343,7 @@ void cNavigation::OpenSearch()
 {
     if (m_search == nullptr) {
         m_searchModel = std::make_unique<cSearchModel>(m_parts.Tools);
-        m_search = new frmSuche(*m_searchModel, m_window);
+        m_search = new frmSuche(*m_searchModel, m_model->Cells(), m_window);
         QObject::connect(m_search, &frmSuche::EditRequested, m_model,
                          [this](const cEntryListModel::cKey& key) { OpenEntry(key.ID, key.Day); });
         QObject::connect(m_search, &frmSuche::DeleteRequested, m_model, &cMainModel::Delete);

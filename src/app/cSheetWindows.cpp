@@ -23,11 +23,11 @@ cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain
         }
     });
     QObject::connect(&m_window, &frmMain::RowsDropped, m_menu,
-                     [this](const QList<cEntryListModel::cKey>& rows, const QString& account) {
+                     [this](const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown) {
                          cManyChange change(m_tools, rows);
                          if (!m_model.IsReadOnly()
-                             && change.AskAndSave({.Account = account}) == cManyChange::eSaved::Saved) {
-                             m_model.BookChanged();
+                             && change.AskAndSave({.Account = account}, shown) == cManyChange::eSaved::Saved) {
+                             m_model.ManyChanged(rows);
                          }
                      });
 }
@@ -38,15 +38,11 @@ void cSheetWindows::Carry(modCommand::eId command, QWidget* parent)
     case modCommand::CopyRows: m_window.CopyRows(); break;
     case modCommand::GoToDay: m_window.AskDay(); break;
     case modCommand::ChangeMany: ChangeMany(m_model.Selection(), parent); break;
-    case modCommand::SaveView:
-        (void)m_views.Keep(m_model.View(), m_window.ColumnText());
-        ShowNames();
-        break;
+    case modCommand::SaveView: m_model.KeepView(m_window.ColumnText()); break;
     case modCommand::SavedViews:
-        if (const std::optional<cSavedView> view = m_views.Manage()) {
+        if (const std::optional<cSavedView> view = m_model.ManageViews()) {
             ShowView(*view);
         }
-        ShowNames();
         break;
     default: break;
     }
@@ -68,9 +64,12 @@ void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget
         return;
     }
     cManyChange change(m_tools, rows);
+    if (!change.HasAny()) {
+        return;
+    }
     frmMehrere form(change, parent);
     if (form.exec() == QDialog::Accepted) {
-        m_model.BookChanged();
+        m_model.ManyChanged(rows);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "views/main/cMainModel.h"
 #include "views/main/modAccountLines.h"
 #include "views/main/modCommand.h"
+#include "views/sheet/cManyChange.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -145,6 +146,7 @@ private Q_SLOTS:
     void UndoBringsTheBookBack();
     void CommandsDispatch();
     void RenamesAnAccountWithItsEntries();
+    void ChangedRowsOutOfSightAreToldOf();
     void ReadOnlyBookOffersNoWriting();
     void OpenRowsCountForTheirAccount();
 };
@@ -463,6 +465,23 @@ void testMainModel::RenamesAnAccountWithItsEntries()
     QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Haushaltskonto"_s), 5);
     QCOMPARE(scene.Model->View().Account, u"Haushaltskonto"_s);
     QCOMPARE(scene.Model->Entries().rowCount(), 15);
+    scene.Model->Execute(modCommand::Undo);
+    QCOMPARE(scene.Model->View().Account, u"Girokonto"_s);
+    QCOMPARE(scene.Model->Entries().rowCount(), 15);
+}
+
+void testMainModel::ChangedRowsOutOfSightAreToldOf()
+{
+    cScene scene;
+    const QList<cEntryListModel::cKey> rows{{scene.Future.ID, scene.Future.EntryDate}};
+    QSignalSpy told(scene.Model.get(), &cMainModel::Told);
+    scene.Model->ChooseAccount(scene.Future.EntryAccount);
+    for (const cManyFields& fields : {cManyFields{.Description = u"Neu"_s}, cManyFields{.Account = u"Sparkonto"_s}}) {
+        QCOMPARE(cManyChange(scene.Book.Tools, rows).Save(fields), cManyChange::eSaved::Saved);
+        scene.Model->ManyChanged(rows);
+    }
+    QCOMPARE(told.at(0).first().toString(), u"Eintrag 'Neu' geändert."_s);
+    QVERIFY2(told.at(1).first().toString().contains(u"blendet"_s), qPrintable(told.at(1).first().toString()));
 }
 
 void testMainModel::ReadOnlyBookOffersNoWriting()

@@ -9,6 +9,8 @@
 #include "views/sheet/cManyChange.h"
 #include "views/sheet/modDayJump.h"
 #include "views/sheet/modRowCopy.h"
+#include "views/sheet/modRowDrag.h"
+#include "views/template/cTemplateFlow.h"
 
 #include <QTest>
 
@@ -89,10 +91,14 @@ private Q_SLOTS:
     void ManyChangeInOneStep();
     void PartsOfAPurchaseShareTheirAccount();
     void TransferNeedsAnotherAccount();
+    void DraggedTransferKeepsItsOtherSide_data();
+    void DraggedTransferKeepsItsOtherSide();
+    void DragThatChangesNothingAsksNothing();
     void ManyChangesAskForReconciledDays();
     void CellsAreStoredThroughTheEditor_data();
     void CellsAreStoredThroughTheEditor();
     void AmountOfAPartChangesTheWhole();
+    void PartOfASeriesIsFoundAfterItsChange();
     void RefusedCellChangesNothing();
     void DayIsFoundInAnyOrder_data();
     void DayIsFoundInAnyOrder();
@@ -161,6 +167,16 @@ void testSheet::CopiedPartsStayTogether()
     QCOMPARE(modSplit::Group(scene.Stored(made.at(1).ID)), made.at(0).ID);
     const QList<cKey> alone = flow.Duplicate({{parts.at(1).ID, {}}}, cEntryDuplicate::eDay::Today);
     QCOMPARE(modSplit::Group(scene.Stored(alone.at(0).ID)), 0);
+    QList<cKey> twice; // two days of a purchase that comes every month
+    for (const int month : {3, 4}) {
+        twice.append({{parts.at(0).ID, QDate(2026, month, 10)}, {parts.at(1).ID, QDate(2026, month, 10)}});
+    }
+    const QList<cKey> both = flow.Duplicate(twice, cEntryDuplicate::eDay::Today);
+    QList<int> groups;
+    for (const cKey& key : both) {
+        groups.append(modSplit::Group(scene.Stored(key.ID)));
+    }
+    QCOMPARE(groups, (QList<int>{both.at(0).ID, both.at(0).ID, both.at(2).ID, both.at(2).ID}));
 }
 
 void testSheet::StartBalanceIsNotCopied()
@@ -186,6 +202,7 @@ void testSheet::ManyChangeInOneStep()
                  && change.Summary().contains(u"Startguthaben"_s),
              qPrintable(change.Summary()));
     QCOMPARE(change.Save({}), cManyChange::eSaved::Refused); // nothing was chosen
+    QCOMPARE(change.Save({.Category = modWord::Startguthaben}), cManyChange::eSaved::Refused);
     QCOMPARE(change.Save({.Category = u"Freizeit"_s, .Description = u"Anders"_s, .Type = modWord::Einnahme}),
              cManyChange::eSaved::Saved);
     for (const int id : {scene.Purchase.ID, scene.Rent.ID}) {
@@ -231,6 +248,53 @@ void testSheet::TransferNeedsAnotherAccount()
     QCOMPARE(scene.Stored(scene.Purchase.ID), scene.Purchase);
 }
 
+void testSheet::DraggedTransferKeepsItsOtherSide_data()
+{
+    QTest::addColumn<QString>("shown"); // the account of the list; empty for all
+    QTest::addColumn<QString>("account");
+    QTest::addColumn<QString>("expected"); // of "Girokonto > Sparkonto"
+    QTest::newRow("arrives") << u"Sparkonto"_s << u"Bargeld"_s << u"Girokonto > Bargeld"_s;
+    QTest::newRow("leaves") << u"Girokonto"_s << u"Bargeld"_s << u"Bargeld > Sparkonto"_s;
+    QTest::newRow("all accounts") << QString() << u"Bargeld"_s << u"Bargeld > Sparkonto"_s;
+    QTest::newRow("onto its other side") << u"Sparkonto"_s << u"Girokonto"_s << u"Girokonto > Sparkonto"_s;
+}
+
+void testSheet::DraggedTransferKeepsItsOtherSide()
+{
+    QFETCH(QString, shown);
+    QFETCH(QString, account);
+    cScene scene;
+    const cEntryItem transfer = scene.Book.Add([](cEntryItem& e) {
+        e.EntryType = modWord::Umbuchung;
+        e.EntryAccountMove = u"Sparkonto"_s;
+    });
+    scene.Book.User.Answers = {eAnswer::Yes};
+    const QByteArray bytes = modRowDrag::ToBytes({{transfer.ID, transfer.EntryDate}}, shown);
+    cManyChange change(scene.Book.Tools, modRowDrag::FromBytes(bytes));
+    (void)change.AskAndSave({.Account = account}, modRowDrag::ShownFromBytes(bytes));
+    const cEntryItem stored = scene.Stored(transfer.ID);
+    QTEST(QString(stored.EntryAccount + u" > "_s + stored.EntryAccountMove), "expected");
+    const QString asked = scene.Book.User.Asked.join(u'\n');
+    QCOMPARE(asked.contains(u"nach 'Sparkonto' kommen dann auf 'Bargeld' an"_s),
+             stored.EntryAccountMove == u"Bargeld"_s);
+    QCOMPARE(asked.contains(u"gehen dann von 'Bargeld' ab"_s), stored.EntryAccount == u"Bargeld"_s);
+}
+
+void testSheet::DragThatChangesNothingAsksNothing()
+{
+    cScene scene;
+    const cEntryItem start = scene.Book.Add([](cEntryItem& e) { e.EntryCategory = modWord::Startguthaben; });
+    const cEntryItem cash = scene.Book.Add([](cEntryItem& e) { e.EntryAccount = u"Bargeld"_s; });
+    const cManyFields toCash{.Account = u"Bargeld"_s};
+    QCOMPARE(cManyChange(scene.Book.Tools, {{start.ID, {}}}).AskAndSave(toCash), cManyChange::eSaved::Refused);
+    QVERIFY(scene.Book.User.Shown.constLast().contains(u"Startguthaben"_s));
+    QCOMPARE(cManyChange(scene.Book.Tools, {{cash.ID, {}}}).AskAndSave(toCash), cManyChange::eSaved::Refused);
+    QCOMPARE(scene.Book.User.Asked, QStringList());
+    cManyChange change(scene.Book.Tools, {{cash.ID, {}}, {scene.Purchase.ID, {}}, {start.ID, {}}});
+    (void)change.AskAndSave(toCash);
+    QVERIFY2(scene.Book.User.Asked.constLast().contains(u"1 Eintrag"_s), qPrintable(scene.Book.User.Asked.constLast()));
+}
+
 void testSheet::ManyChangesAskForReconciledDays()
 {
     cScene scene;
@@ -259,6 +323,11 @@ void testSheet::CellsAreStoredThroughTheEditor_data()
                                            << others + u"28.03. Miete 71000|28.04. Miete 70000"_s;
     QTest::newRow("amount from here") << QDate(2026, 4, 28) << int(cEntryListModel::Amount) << u"750"_s << 1
                                       << others + u"28.03. Miete 72000|28.04. Miete 75000"_s;
+    QTest::newRow("amount from a corrected one") << QDate(2026, 3, 28) << int(cEntryListModel::Amount) << u"750"_s << 1
+                                                 << others + u"28.03. Miete 75000|28.04. Miete 75000"_s;
+    QTest::newRow("amount of the series at a corrected one")
+        << QDate(2026, 3, 28) << int(cEntryListModel::Amount) << u"750"_s << 2
+        << u"28.01. Miete 75000|28.02. Miete 75000|28.03. Miete 75000|28.04. Miete 75000"_s;
     QTest::newRow("description of the series")
         << QDate(2026, 2, 28) << int(cEntryListModel::Description) << u"Wohnen"_s << 1
         << u"28.01. Wohnen 70000|28.02. Wohnen 70000|28.03. Wohnen 72000|28.04. Wohnen 70000"_s;
@@ -310,6 +379,23 @@ void testSheet::AmountOfAPartChangesTheWhole()
              cCellEdit::eSaved::Saved);
     QCOMPARE(scene.Stored(parts.at(0).ID).EntryCategory, u"Haushalt; Lebensmittel"_s);
     QCOMPARE(scene.Stored(parts.at(1).ID).EntryCategory, u"Wohnung; Miete"_s);
+}
+
+// The next cell that opens is one of the same line.
+void testSheet::PartOfASeriesIsFoundAfterItsChange()
+{
+    cScene scene;
+    QList<cEntryItem> parts = scene.AddSplit();
+    for (cEntryItem& part : parts) {
+        part.EntryInterval = u"Monatlich"_s;
+        QVERIFY(scene.Book.Data.ChangeEntry(part));
+    }
+    cCellEdit cells(scene.Book.Tools);
+    scene.Book.User.Decisions = {0};
+    const cKey april{parts.at(1).ID, QDate(2026, 4, 10)};
+    QCOMPARE(cells.Save(april, cEntryListModel::Description, u"Zweiter"_s), cCellEdit::eSaved::Saved);
+    QCOMPARE(scene.Stored(cells.SavedKey().ID).EntryDescription, u"Zweiter"_s);
+    QCOMPARE(scene.Stored(cells.SavedKey().ID).EntryDate, april.Day);
 }
 
 void testSheet::RefusedCellChangesNothing()
@@ -372,7 +458,13 @@ void testSheet::ViewsAreKeptUnderANameAndFollowTheirAccount()
     QVERIFY(views.Keep(cViewState{}, {}));
     QVERIFY(!views.Keep(cViewState{}, {})); // the name is taken, and the question was given up
     QCOMPARE(views.Names(), (QStringList{u"Große; | Runde"_s, u"Zweite"_s}));
-    views.AccountRenamed(u"Girokonto"_s, u"Giro"_s);
+    QVERIFY(cTemplateFlow(book.Tools).RenameAccount(u"Girokonto"_s, u"Giro"_s));
+    QCOMPARE(views.All().constFirst().View.Account, u"Giro"_s);
+    QVERIFY(book.Data.Journal().Undo());
+    book.Settings->Reload();
+    QCOMPARE(views.All().constFirst().View.Account, u"Girokonto"_s);
+    QVERIFY(book.Data.Journal().Redo());
+    book.Settings->Reload();
     const cSavedView kept = views.All().constFirst();
     QCOMPARE(kept.Columns, u"0,10,1|s"_s);
     QCOMPARE(kept.View.Filter, view.Filter);
@@ -386,6 +478,9 @@ void testSheet::ViewsAreKeptUnderANameAndFollowTheirAccount()
     QCOMPARE(views.Names(), (QStringList{u"Dritte"_s, u"Große; | Runde"_s}));
     QVERIFY(!views.Manage());
     QCOMPARE(views.Names(), QStringList{u"Große; | Runde"_s});
+    QVERIFY(book.Data.Journal().Undo());
+    book.Settings->Reload();
+    QCOMPARE(views.Names(), (QStringList{u"Dritte"_s, u"Große; | Runde"_s}));
 }
 
 TEST_CLASS(testSheet, QCoreApplication)

@@ -190,6 +190,9 @@ void testStatisticsModel::SelectionsAreNotStored()
     QVERIFY(scene.Main.IsChecked(modSettingKey::ViewFix));
     scene.Main.ChoosePeriod(u"Letzter Monat"_s); // the user looks around from there
     scene.Main.SaveView();
+    scene.Main.KeepView({}); // nor kept under a name, which would show other entries
+    QCOMPARE(scene.Book.User.Shown.size(), 1);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::SavedViews), QString());
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainAccount), u"Girokonto"_s);
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainPeriod), modWord::AktuellesJahr);
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainGrouping), modWord::KeineGruppierung);
@@ -296,12 +299,11 @@ void testStatisticsModel::AccountIsFollowedAsLongAsItIsThere()
     QVERIFY(scene.Model.Html().contains(u"für Konto 'Bargeld' vom"_s));
     const std::optional<cTemplateItem> account = scene.Book.Data.FindAccount(u"Bargeld"_s);
     connect(&scene.Main, &cMainModel::BookRefreshed, &scene.Model, &cStatisticsModel::BookChanged);
-    cTemplateItem renamed = account.value_or(cTemplateItem{});
-    renamed.TemplateName = u"Börse"_s;
-    QVERIFY(scene.Book.Data.ChangeTemplate(renamed));
-    scene.Main.AccountRenamed(u"Bargeld"_s, u"Börse"_s);
+    scene.Book.User.Choices = {u"Börse"_s};
+    scene.Book.User.Answers = {eAnswer::Yes}; // its entries go along
+    scene.Main.RenameAccount(u"Bargeld"_s);
     QVERIFY(scene.Model.Html().contains(u"für Konto 'Börse' vom"_s));
-    QVERIFY(scene.Book.Data.DeleteTemplate(renamed.ID));
+    QVERIFY(account && scene.Book.Data.DeleteTemplate(account->ID));
     scene.Main.BookChanged();
     QVERIFY(scene.Model.Html().contains(u"für alle Konten vom"_s));
     QCOMPARE(scene.Model.FirstChart().Wish().Account, QString());

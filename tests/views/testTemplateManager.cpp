@@ -445,6 +445,7 @@ void testTemplateManager::MergesAccounts()
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, -1000, QDate(2026, 2, 1)));
     QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 2500, QDate(2026, 1, 1)));
     scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Girokonto"_s);
+    scene.Book.Settings->Set(modSettingKey::SavedViews, u"Mein%20Giro||||Girokonto|||||"_s);
     const int transfer = scene.Book
                              .Add([](cEntryItem& entry) {
                                  entry.EntryType = modWord::Umbuchung;
@@ -461,6 +462,7 @@ void testTemplateManager::MergesAccounts()
     QCOMPARE(scene.Book.Data.CountEntriesOfCategory(modWord::Startguthaben), 1);
     QCOMPARE(scene.Book.Data.LoadEntry(transfer)->EntryAccountMove, u"Bargeld"_s);
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"1"_s)), u"Bargeld"_s);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::SavedViews), u"Mein%20Giro||||Bargeld|||||"_s);
     QCOMPARE(renamed.takeFirst(), (QVariantList{u"Girokonto"_s, u"Bargeld"_s}));
 }
 

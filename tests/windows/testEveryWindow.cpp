@@ -359,7 +359,7 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmHandbuch>(*scene.Manual);
      }},
     {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
-    {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
+    {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel, scene.Model.Cells()); }},
     {"assignment",
      [](cScene& scene) {
          scene.Candidates = scene.Review.StartAssign({scene.Row});

@@ -25,8 +25,10 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeView>
 
 #include <algorithm>
@@ -91,6 +93,8 @@ private Q_SLOTS:
     void ClickElsewhereStoresTheCell();
     void RowsGoToTheClipboard();
     void RowsAreDroppedOnAnAccount();
+    void AnotherAccountBeginsOnTheSameDay();
+    void MessageStandsInPlaceOfTheReminder();
     void DayIsJumpedTo();
     void KeptViewsHaveKeys();
     void WayBackFromASelection();
@@ -411,6 +415,15 @@ void testFrmMain::CellsAreTypedInTheList()
     scene.Model.Execute(modCommand::Undo);
     scene.Model.Execute(modCommand::Undo);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID), scene.First);
+    QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2026, 3, 11))); // between the two
+    scene.Model.BookChanged();
+    scene.Tree().setCurrentIndex(scene.Model.Entries().index(2, cEntryListModel::Category));
+    QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+    type({}, Qt::Key_Backtab);
+    type(u"7"_s, Qt::Key_Backtab); // of a start balance nothing else can be typed
+    type(u"8"_s, Qt::Key_Return);
+    QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryValue, 700);
+    QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryValue, 800);
 }
 
 // It is stored, and what was clicked stays clicked.
@@ -471,6 +484,45 @@ void testFrmMain::RowsAreDroppedOnAnAccount()
     QCOMPARE(dropped.size(), 1);
     QCOMPARE(dropped.first().at(0).value<QList<cEntryListModel::cKey>>(), rows);
     QCOMPARE(dropped.first().at(1).toString(), u"Bargeld"_s);
+    QDropEvent aside(place, Qt::CopyAction, &data, Qt::LeftButton, {}); // beside the list, at its header
+    QApplication::sendEvent(accounts, &aside);
+    QTest::qWait(5);
+    QCOMPARE(dropped.size(), 1);
+    // Else the mouse would only select, and heads of groups go nowhere.
+    QVERIFY(scene.Model.Entries().index(0, 0).flags() & Qt::ItemIsDragEnabled);
+    scene.Model.ChooseGrouping(u"Nach Monat"_s);
+    QVERIFY(!(scene.Model.Entries().index(0, 0).flags() & Qt::ItemIsDragEnabled));
+}
+
+void testFrmMain::AnotherAccountBeginsOnTheSameDay()
+{
+    cScene scene;
+    for (int month = 0; month < 300; ++month) {
+        scene.Book.Add([month](cEntryItem& entry) { entry.EntryDate = QDate(2010, 1, 1).addMonths(month); });
+        scene.Book.Add([month](cEntryItem& entry) {
+            entry.EntryDate = QDate(2010, 1, 2).addMonths(month);
+            entry.EntryAccount = u"Bargeld"_s;
+        });
+    }
+    scene.Model.ChoosePeriod(modWord::AlleBuchungen);
+    scene.Tree().ScrollTo(QDate(2015, 6, 1));
+    const auto top = [&] { return scene.Model.Entries().KeyAt(scene.Tree().indexAt(QPoint())).Day; };
+    scene.Model.ChooseAccount(u"Girokonto"_s);
+    const QDate before = top();
+    QVERIFY2(before.year() == 2014 || before.year() == 2015, qPrintable(before.toString(Qt::ISODate)));
+    scene.Model.ChooseAccount(u"Bargeld"_s);
+    QCOMPARE(top(), before.addDays(1));
+}
+
+void testFrmMain::MessageStandsInPlaceOfTheReminder()
+{
+    cScene scene;
+    auto* reminder = scene.Window.findChild<QToolButton*>(u"cmdErinnerung"_s);
+    Q_EMIT scene.Model.Told(u"Dupliziert"_s);
+    scene.Window.ShowReminder(u"Heute fällig"_s);
+    QVERIFY(!reminder->isVisible());
+    scene.Window.statusBar()->clearMessage();
+    QVERIFY(reminder->isVisible());
 }
 
 void testFrmMain::DayIsJumpedTo()

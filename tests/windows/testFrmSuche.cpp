@@ -3,6 +3,7 @@
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "views/list/cSearchModel.h"
+#include "views/sheet/cCellEdit.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/frmSuche.h"
 
@@ -50,7 +51,8 @@ public:
 
     cTestBook Book;
     cSearchModel Search{Book.Tools};
-    frmSuche Window{Search};
+    cCellEdit Cells{Book.Tools};
+    frmSuche Window{Search, Cells};
     cEntryTree& Tree = *Window.findChild<cEntryTree*>();
     QLineEdit& Text = Labelled<QLineEdit>(u"Suchtext:"_s);
 };
@@ -135,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(!scene.Window.isVisible());
         QCOMPARE(scene.Book.Settings->Get(modSettingKey::SearchList), layout);
         {
-            frmSuche other(scene.Search);
+            frmSuche other(scene.Search, scene.Cells);
             auto* tree = other.findChild<cEntryTree*>();
             QCOMPARE(tree->LayoutText(), layout);
             tree->sortByColumn(cEntryListModel::Category, Qt::AscendingOrder);

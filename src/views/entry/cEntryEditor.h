@@ -127,7 +127,9 @@ public:
     // no category yet becomes one if the user agrees.
     [[nodiscard]] eSaved Save(cFields fields);
     [[nodiscard]] int FailedPart() const { return m_failedPart; } // the row that BadPart or a missing category is about
-    [[nodiscard]] int SavedId() const { return m_savedId; }       // of the entry, or of the first part
+    // Of the entry, or of the parts of a purchase in the order in which they are filled; the first of them.
+    [[nodiscard]] const QList<int>& SavedIds() const { return m_savedIds; }
+    [[nodiscard]] int SavedId() const { return m_savedIds.value(0); }
 
     // The fields for the next new entry after one was saved: face, date, account and kind stay. The kind counts as
     // open, so that the next category brings its own.
@@ -156,6 +158,6 @@ private:
     QDate m_from;        // a series is changed from this occurrence on; invalid for the whole
     fnStored m_onStored; // until the first entry is stored
     int m_failedPart = -1;
-    int m_savedId = 0;
+    QList<int> m_savedIds;
     QStringList m_lastSaved;
 };

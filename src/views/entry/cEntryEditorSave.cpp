@@ -300,13 +300,14 @@ QString cEntryEditor::StepName(const cEntryItem& entry) const
 void cEntryEditor::Remember(const QList<cEntryWrite>& rows)
 {
     cEntryItemList entries;
+    m_savedIds.clear();
     for (const cEntryWrite& row : rows) {
         entries.append(row.Entry);
+        m_savedIds.append(row.Entry.ID);
         m_suggestions.Note(row.Entry);
     }
     const cEntryItem& first = entries.first();
     const qint64 cents = first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(entries);
-    m_savedId = first.ID;
     m_lastSaved.prepend(modDate::ToText(first.EntryDate) + u"  "_s + modEntryFields::Name(first) + u"  "_s
                         + m_tools.Format.Cents(cents));
     m_lastSaved = m_lastSaved.mid(0, mostRemembered);

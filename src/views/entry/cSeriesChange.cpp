@@ -17,6 +17,15 @@
 
 #include <cstdlib>
 
+namespace {
+
+QString LeftOut()
+{
+    return cText::Tr("Ausgelassen");
+}
+
+} // namespace
+
 cSeriesChange::cSeriesChange(const cBookTools& tools, eReconciled reconciled)
     : m_tools(tools),
       m_data(tools.Data),
@@ -138,9 +147,10 @@ bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QS
     if (fixMod.EntryDay == occurrence->EntryDate && fixMod.EntryDay != before.EntryDay) {
         fixMod.EntryDay = {};
     }
-    // What the user types is no longer what the bank said.
+    // What the user types is no longer what the bank said, and with an amount it is no longer left out.
     const bool isOwn = fixMod.EntryValue != before.EntryValue || fixMod.EntryDay != before.EntryDay;
-    fixMod.EntryComment = isOwn && modSeries::IsFromBank(comment) ? QString() : comment;
+    const bool isBack = fixMod.EntryValue != 0 && comment == LeftOut();
+    fixMod.EntryComment = isBack || (isOwn && modSeries::IsFromBank(comment)) ? QString() : comment;
     return Store(fixMod,
                  fixMod.EntryDay == before.EntryDay
                      ? cText::Tr("Betrag von '{0}' korrigiert", {modEntryFields::Name(*occurrence)})
@@ -154,7 +164,7 @@ bool cSeriesChange::SkipPeriod(int entryId, QDate day)
         return false;
     }
     cEntryItemFixMod fixMod = modSeries::CorrectionFor(*occurrence);
-    fixMod.EntryComment = cText::Tr("Ausgelassen");
+    fixMod.EntryComment = LeftOut();
     return Store(fixMod, cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(*occurrence)}));
 }
 

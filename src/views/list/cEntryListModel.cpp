@@ -285,9 +285,12 @@ QModelIndex cEntryListModel::IndexNearest(QDate day) const
 
 Qt::ItemFlags cEntryListModel::flags(const QModelIndex& index) const
 {
-    const bool isEditable = EntryIndex(index) >= 0
-        && (index.column() == Category || index.column() == Description || index.column() == Amount);
-    return QAbstractItemModel::flags(index) | (isEditable ? Qt::ItemIsEditable : Qt::NoItemFlags);
+    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    if (EntryIndex(index) < 0) {
+        return flags;
+    }
+    const bool isEditable = index.column() == Category || index.column() == Description || index.column() == Amount;
+    return flags | Qt::ItemIsDragEnabled | (isEditable ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 
 QModelIndex cEntryListModel::IndexNear(QDate day) const

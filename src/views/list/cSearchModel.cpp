@@ -11,7 +11,6 @@
 #include "store/cDataAccess.h"
 #include "views/list/modBookNames.h"
 #include "views/list/modUnread.h"
-#include "views/sheet/cCellEdit.h"
 
 #include <cstdlib>
 #include <utility>
@@ -63,15 +62,12 @@ cSearchModel::cSearchModel(const cBookTools& tools, QObject* parent)
     : QObject(parent),
       m_tools(tools),
       m_search(tools),
-      m_entries(tools.Format),
-      m_cells(std::make_unique<cCellEdit>(tools))
+      m_entries(tools.Format)
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(typingPause);
     connect(&m_timer, &QTimer::timeout, this, &cSearchModel::Run);
 }
-
-cSearchModel::~cSearchModel() = default;
 
 void cSearchModel::Open()
 {

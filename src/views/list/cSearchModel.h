@@ -9,10 +9,8 @@
 #include <QStringList>
 #include <QTimer>
 
-#include <memory>
 #include <optional>
 
-class cCellEdit;
 struct cBookTools;
 
 // The search window without its widgets: its fields, the list of what was found, and all texts around it. Typing on in
@@ -42,7 +40,6 @@ public:
     };
 
     explicit cSearchModel(const cBookTools& tools, QObject* parent = nullptr);
-    ~cSearchModel() override;
 
     void Open();    // reads the book, so that the first letter does not wait for it
     void Close();   // lets go of the entries; the fields stay
@@ -63,7 +60,6 @@ public:
     [[nodiscard]] eDecimal Decimal() const;                 // how amounts are typed
 
     [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
-    [[nodiscard]] cCellEdit& Cells() { return *m_cells; } // what is typed into cells of the list
     [[nodiscard]] QString CountText() const;
     [[nodiscard]] QString StartText() const; // start balances; empty where none was found
     [[nodiscard]] QString IncomeText() const;
@@ -91,7 +87,6 @@ private:
     const cBookTools& m_tools;
     cSearch m_search;
     cEntryListModel m_entries;
-    std::unique_ptr<cCellEdit> m_cells;
     cFields m_fields;
     cSearchQuery m_query;                   // what the list shows
     std::optional<cEntryItemList> m_loaded; // for the days, account and kind of m_query

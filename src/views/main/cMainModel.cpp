@@ -19,7 +19,6 @@
 #include "views/ledger/cReconciledDays.h"
 #include "views/list/modSetting.h"
 #include "views/list/modUnread.h"
-#include "views/main/cSavedViews.h"
 #include "views/main/modViewText.h"
 #include "views/template/cTemplateFlow.h"
 
@@ -203,8 +202,20 @@ void cMainModel::BookChanged()
 {
     m_balancesOf = QDate();
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
+    TakeAccount();
     RefreshView();
     Q_EMIT BookRefreshed();
+}
+
+// Undo of a renaming leaves the view at a name that no account has any more; the settings came back with the account.
+void cMainModel::TakeAccount()
+{
+    cViewState& own = m_detour.Own(m_view);
+    const QStringList accounts = Accounts();
+    if (!m_accountItems.isEmpty() && !accounts.contains(own.Account)) {
+        const QString stored = m_tools.Settings.Get(modSettingKey::MainAccount);
+        own.Account = accounts.contains(stored) ? stored : QString(modWord::AlleKonten);
+    }
 }
 
 void cMainModel::StagedRowsChanged()
@@ -382,10 +393,6 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 {
     for (QString* account : {&m_view.Account, &m_detour.Own(m_view).Account}) {
         *account = *account == oldName ? newName : *account;
-    }
-    cSavedViews(m_tools).AccountRenamed(oldName, newName);
-    if (m_tools.Settings.Get(modSettingKey::StatisticsAccount) == oldName) {
-        m_tools.Settings.Set(modSettingKey::StatisticsAccount, newName);
     }
     BookChanged();
 }

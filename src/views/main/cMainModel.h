@@ -9,6 +9,7 @@
 #include "views/main/cViewState.h"
 #include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
+#include "views/main/modSavedView.h"
 #include "views/sheet/cCellEdit.h"
 #include "views/sheet/cEntryDuplicate.h"
 
@@ -103,10 +104,17 @@ public:
     // Copies these entries to today or to the next month, and says what came of it (RowsMade, Told).
     void Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDuplicate::eDay day);
 
+    // After these entries were changed at once: says so, and where they have gone.
+    void ManyChanged(const QList<cEntryListModel::cKey>& keys);
+
     // What is typed into cells of a list, and what follows once it was stored.
     [[nodiscard]] cCellEdit& Cells() { return m_cells; }
     void CellWritten();
 
+    // Keeps what the list shows under a name, and opens the kept views; the one that is to be shown. An account in them
+    // follows when it is renamed.
+    void KeepView(const QString& columns);
+    [[nodiscard]] std::optional<cSavedView> ManageViews();
     // Shows a view that was kept under a name; what the book does not have any more becomes the first position of its
     // selector.
     void ShowView(const cViewState& view);
@@ -173,10 +181,11 @@ private:
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     void LoadEntries();
     void ShowFilter();
+    void TakeAccount(); // one that the book has
     void RefreshAccounts();
     void AskResetView();
     void SkipPeriod();
-    void StepThrough(bool (cJournal::*step)());
+    void StepThrough(bool (cJournal::*step)(), const QString& told);
     [[nodiscard]] QString StepName(int command) const;
     [[nodiscard]] const cEntryListModel::cKey& First() const { return m_selection.constFirst(); }
     void SetSwitch(const cSettingKey& key, eSwitch state);

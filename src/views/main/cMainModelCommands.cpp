@@ -1,6 +1,7 @@
 #include "base/cClock.h"
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "base/cUser.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
@@ -8,12 +9,22 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
+#include "views/main/cSavedViews.h"
 #include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // The part of the main model that carries out commands.
+
+namespace {
+
+QString HiddenText()
+{
+    return cText::Tr("Die Auswahl über der Liste blendet das gerade aus.");
+}
+
+} // namespace
 
 bool cMainModel::Execute(int command)
 {
@@ -30,8 +41,10 @@ bool cMainModel::Execute(int command)
     case modCommand::DeleteEntry: Delete(m_selection); break;
     case modCommand::CorrectPeriod: m_parts.Navigator.OpenCorrection(First().ID, First().Day); break;
     case modCommand::SkipPeriod: SkipPeriod(); break;
-    case modCommand::Undo: StepThrough(&cJournal::Undo); break;
-    case modCommand::Redo: StepThrough(&cJournal::Redo); break;
+    case modCommand::Undo: StepThrough(&cJournal::Undo, cText::Tr("Zurückgenommen: {0}.", {StepName(command)})); break;
+    case modCommand::Redo:
+        StepThrough(&cJournal::Redo, cText::Tr("Wieder ausgeführt: {0}.", {StepName(command)}));
+        break;
     case modCommand::EditTemplates: m_parts.Navigator.OpenTemplates({}); break;
     case modCommand::Quit: m_parts.Navigator.EndProgram(); break;
     case modCommand::ResetView: AskResetView(); break;
@@ -142,13 +155,14 @@ QString cMainModel::MenuText(int command) const
     return name.isEmpty() ? text : cText::Tr("{0}: {1}", {text, name});
 }
 
-void cMainModel::StepThrough(bool (cJournal::*step)())
+void cMainModel::StepThrough(bool (cJournal::*step)(), const QString& told)
 {
     if ((m_tools.Data.Journal().*step)()) {
         m_tools.Settings.Reload(); // account numbers of the bank may have been part of it
         SetSelection({});
         BookChanged();
         Q_EMIT StagedRowsReleased();
+        Q_EMIT Told(told);
     }
 }
 
@@ -192,8 +206,15 @@ void cMainModel::Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDupli
     BookChanged();
     Q_EMIT RowsMade(made);
     const bool isShown = m_entries.IndexesOf(made).size() == made.size();
-    Q_EMIT Told(isShown ? flow.Text()
-                        : flow.Text() + u' ' + cText::Tr("Die Auswahl über der Liste blendet das gerade aus."));
+    Q_EMIT Told(isShown ? flow.Text() : flow.Text() + u' ' + HiddenText());
+}
+
+void cMainModel::ManyChanged(const QList<cEntryListModel::cKey>& keys)
+{
+    const qsizetype before = m_entries.IndexesOf(keys).size();
+    BookChanged();
+    const QString done = m_tools.Data.Journal().UndoName() + u'.';
+    Q_EMIT Told(m_entries.IndexesOf(keys).size() >= before ? done : done + u' ' + HiddenText());
 }
 
 void cMainModel::CellWritten()
@@ -213,4 +234,23 @@ void cMainModel::ShowView(const cViewState& view)
     view.Save(m_tools.Settings);
     m_view.Restore(m_tools.Settings, Accounts(), m_tools.Clock.Today());
     RefreshView();
+}
+
+void cMainModel::KeepView(const QString& columns)
+{
+    if (m_detour.IsPicked()) {
+        m_tools.User.Show(
+            eTone::Objection,
+            cText::Tr("Diese Auswahl lässt sich nicht merken, denn sie zeigt nur die Einträge hinter einer "
+                      "Zahl der Auswertung. Heben Sie die Auswahl erst auf."));
+    } else if (cSavedViews(m_tools).Keep(m_view, columns)) {
+        Q_EMIT ViewChanged(); // what can be undone
+    }
+}
+
+std::optional<cSavedView> cMainModel::ManageViews()
+{
+    std::optional<cSavedView> view = cSavedViews(m_tools).Manage();
+    Q_EMIT ViewChanged();
+    return view;
 }

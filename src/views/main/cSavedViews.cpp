@@ -6,6 +6,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
+#include "store/cUndoStep.h"
 
 #include <algorithm>
 #include <utility>
@@ -46,9 +47,10 @@ QStringList cSavedViews::Names() const
     return names;
 }
 
-bool cSavedViews::Store(const QList<cSavedView>& views)
+bool cSavedViews::Store(const QList<cSavedView>& views, const QString& name)
 {
-    return m_tools.Settings.Set(modSettingKey::SavedViews, modSavedView::ToText(views));
+    cUndoStep step(m_tools.Data, name);
+    return step.DoneIf(m_tools.Settings.Set(modSettingKey::SavedViews, modSavedView::ToText(views)));
 }
 
 std::optional<QString> cSavedViews::AskName(const QString& proposal) const
@@ -71,7 +73,7 @@ bool cSavedViews::Keep(const cViewState& view, const QString& columns)
     const auto known = Find(views, *name);
     if (known == views.end()) {
         views.append({*name, view, columns});
-        return Store(views);
+        return Store(views, cText::Tr("Ansicht '{0}' gemerkt", {*name}));
     }
     const eAnswer answer =
         m_tools.User.Ask({.Text = cText::Tr("Die Ansicht '{0}' gibt es schon. Ersetzen?", {known->Name}),
@@ -80,7 +82,7 @@ bool cSavedViews::Keep(const cViewState& view, const QString& columns)
         return false;
     }
     *known = {known->Name, view, columns};
-    return Store(views);
+    return Store(views, cText::Tr("Ansicht '{0}' gemerkt", {known->Name}));
 }
 
 std::optional<cSavedView> cSavedViews::Manage()
@@ -100,6 +102,7 @@ std::optional<cSavedView> cSavedViews::Manage()
         return std::nullopt;
     }
     const qsizetype number = chosen - views.begin();
+    const QString shown = chosen->Name;
     const QString key = number < mostKeys ? cText::Tr("Taste: Strg+{0}", {QString::number(number + 1)})
                                           : cText::Tr("Ohne Taste; die ersten neun haben eine.");
     switch (m_tools.User.Decide({.Text = cText::Tr("Ansicht '{0}'", {chosen->Name}) + u'\n' + key,
@@ -110,11 +113,11 @@ std::optional<cSavedView> cSavedViews::Manage()
     case 1: Rename(number); break;
     case 2:
         std::rotate(views.begin(), chosen, chosen + 1);
-        Store(views);
+        Store(views, cText::Tr("Ansicht '{0}' an die erste Stelle gesetzt", {shown}));
         break;
     case 3:
         views.erase(chosen);
-        Store(views);
+        Store(views, cText::Tr("Ansicht '{0}' gelöscht", {shown}));
         break;
     default: break;
     }
@@ -133,19 +136,6 @@ void cSavedViews::Rename(qsizetype number)
         m_tools.User.Show(eTone::Objection, cText::Tr("Die Ansicht '{0}' gibt es schon.", {known->Name}));
         return;
     }
-    views[number].Name = *name;
-    Store(views);
-}
-
-void cSavedViews::AccountRenamed(const QString& oldName, const QString& newName)
-{
-    QList<cSavedView> views = All();
-    bool isTouched = false;
-    for (cSavedView& view : views) {
-        isTouched = isTouched || view.View.Account == oldName;
-        view.View.Account = view.View.Account == oldName ? newName : view.View.Account;
-    }
-    if (isTouched) {
-        Store(views);
-    }
+    const QString before = std::exchange(views[number].Name, *name);
+    Store(views, cText::Tr("Ansicht '{0}' umbenannt", {before}));
 }

@@ -10,8 +10,8 @@
 
 struct cBookTools;
 
-// The views that the user has given a name, with the questions around keeping, renaming and deleting them. The first
-// nine have a key.
+// The views that the user has given a name, with the questions around keeping, renaming and deleting them. Each change
+// is a step that can be undone. The first nine have a key.
 class cSavedViews
 {
 public:
@@ -26,11 +26,8 @@ public:
     // Lets the user choose a view and show, rename, delete it or give it the first key. The one that is to be shown.
     [[nodiscard]] std::optional<cSavedView> Manage();
 
-    // The name as it counts from now on; a view goes on showing its account.
-    void AccountRenamed(const QString& oldName, const QString& newName);
-
 private:
-    bool Store(const QList<cSavedView>& views);
+    bool Store(const QList<cSavedView>& views, const QString& name);
     [[nodiscard]] std::optional<QString> AskName(const QString& proposal) const;
     void Rename(qsizetype number);
 

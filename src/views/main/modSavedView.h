@@ -13,13 +13,12 @@ struct cSavedView
     QString Columns; // as cListLayout writes it
 };
 
-// Saved views as one text: views joined by ";", their fields by "|", each field percent-encoded. The fields are name,
-// period, first and last free day, account, kind, grouping, filter, the five switches as digits, and columns.
+// Saved views as one text, in the fields of modViewRecord. The five switches are digits.
 namespace modSavedView {
 
 [[nodiscard]] QString ToText(const QList<cSavedView>& views);
 
-// What cannot be read is left out. Fields that a later version adds behind these are passed over.
+// What cannot be read is left out.
 [[nodiscard]] QList<cSavedView> FromText(const QString& text);
 
 } // namespace modSavedView

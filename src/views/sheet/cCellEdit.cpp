@@ -7,6 +7,7 @@
 #include "core/cBookTools.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cStartBalance.h"
 #include "views/entry/modEntryFields.h"
@@ -70,11 +71,16 @@ std::optional<QString> cCellEdit::Text(const cEntryListModel::cKey& key, int col
     return modSum::ToText(correction ? correction->EntryValue : entry->EntryValue, Decimal());
 }
 
+bool cCellEdit::Takes(const cEntryListModel::cKey& key, int column) const
+{
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(key.ID);
+    return column == eColumn::Amount || !entry || !cStartBalance(m_tools.Data, Decimal()).IsOne(*entry);
+}
+
 std::optional<QString> cCellEdit::Start(const cEntryListModel::cKey& key, int column)
 {
     m_suggestions.emplace(m_tools.Data, m_tools.User);
-    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(key.ID);
-    if (entry && column != eColumn::Amount && cStartBalance(m_tools.Data, Decimal()).IsOne(*entry)) {
+    if (!Takes(key, column)) {
         (void)Refuse(cText::Tr("Von einem Startguthaben lässt sich in der Liste nur der Betrag ändern."));
         return std::nullopt;
     }
@@ -111,7 +117,9 @@ cCellEdit::eSaved cCellEdit::Save(const cEntryListModel::cKey& key, int column, 
     if (part == ePart::Nothing) {
         return eSaved::Refused;
     }
-    const bool isStored = part == ePart::Period ? SavePeriod(key, typed) : Store(key, column, typed, part);
+    const bool isStored = part == ePart::Period ? SavePeriod(key, typed)
+        : column == eColumn::Amount             ? SaveAmount(key, typed, part)
+                                                : Store(key, column, typed, part);
     return isStored ? eSaved::Saved : eSaved::Refused;
 }
 
@@ -155,6 +163,30 @@ bool cCellEdit::SavePeriod(const cEntryListModel::cKey& key, const QString& type
                                 correction ? correction->EntryComment : QString());
 }
 
+// Where the occurrence in the cell is corrected, what was typed there counts for it as well.
+bool cCellEdit::SaveAmount(const cEntryListModel::cKey& key, const QString& typed, ePart part)
+{
+    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools).Correction(key.ID, key.Day);
+    if (!correction) {
+        return Store(key, eColumn::Amount, typed, part);
+    }
+    const cEntryItem entry = m_tools.Data.LoadEntry(key.ID).value_or(cEntryItem{});
+    cUndoStep step(m_tools.Data, cText::Tr("Eintrag '{0}' geändert", {modEntryFields::Name(entry)}));
+    return step.DoneIf(Store(key, eColumn::Amount, typed, part) && FollowCorrection(*correction, typed));
+}
+
+bool cCellEdit::FollowCorrection(const cEntryItemFixMod& correction, const QString& typed) const
+{
+    cSeriesChange series(m_tools);
+    if (!series.Correction(m_saved.ID, m_saved.Day)) {
+        return true; // its period has changed
+    }
+    return correction.EntryDay.isValid() || !correction.EntryComment.isEmpty() // which are kept
+        ? series.CorrectPeriod(m_saved.ID, m_saved.Day, modSum::Evaluate(typed, Decimal()).value_or(0),
+                               correction.EntryComment)
+        : series.RemoveCorrection(m_saved.ID, m_saved.Day);
+}
+
 bool cCellEdit::Store(const cEntryListModel::cKey& key, int column, const QString& typed, ePart part)
 {
     cEntryEditor editor(m_tools);
@@ -169,9 +201,22 @@ bool cCellEdit::Store(const cEntryListModel::cKey& key, int column, const QStrin
         return false;
     }
     if (part == ePart::FromHere) {
-        m_saved.ID = editor.SavedId();
+        m_saved.ID = SavedIdOf(key.ID, *fields, editor);
     }
     return true;
+}
+
+// The later part of a series is stored anew, with its filled parts in their order.
+int cCellEdit::SavedIdOf(int id, const cEntryFields& fields, const cEntryEditor& editor)
+{
+    qsizetype at = 0;
+    for (const cSplitPart& part : fields.Parts) {
+        if (part.ID == id) {
+            return editor.SavedIds().value(at, editor.SavedId());
+        }
+        at += modSplitParts::IsBlank(part, fields.Decimal) ? 0 : 1;
+    }
+    return editor.SavedId();
 }
 
 bool cCellEdit::Fill(cEntryFields& fields, int column, const QString& typed) const

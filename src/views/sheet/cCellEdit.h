@@ -26,6 +26,9 @@ public:
     [[nodiscard]] static bool IsEditable(int column);
     [[nodiscard]] bool IsReadOnly() const;
 
+    // Whether this entry lets the column be typed: a start balance only its amount.
+    [[nodiscard]] bool Takes(const cEntryListModel::cKey& key, int column) const;
+
     // The text that the field in the cell starts with. Empty, after a message, where nothing can be typed.
     [[nodiscard]] std::optional<QString> Start(const cEntryListModel::cKey& key, int column);
 
@@ -47,7 +50,10 @@ private:
     [[nodiscard]] std::optional<QString> Text(const cEntryListModel::cKey& key, int column) const;
     [[nodiscard]] ePart AskPart(const cEntryListModel::cKey& key, int column) const;
     [[nodiscard]] bool SavePeriod(const cEntryListModel::cKey& key, const QString& typed) const;
+    [[nodiscard]] bool SaveAmount(const cEntryListModel::cKey& key, const QString& typed, ePart part);
+    [[nodiscard]] bool FollowCorrection(const cEntryItemFixMod& correction, const QString& typed) const;
     [[nodiscard]] bool Store(const cEntryListModel::cKey& key, int column, const QString& typed, ePart part);
+    [[nodiscard]] static int SavedIdOf(int id, const cEntryFields& fields, const cEntryEditor& editor);
     [[nodiscard]] bool Fill(cEntryFields& fields, int column, const QString& typed) const;
     [[nodiscard]] bool FillPart(cEntryFields& fields, int id, int column, const QString& typed) const;
     [[nodiscard]] bool Refuse(const QString& text) const;

@@ -6,7 +6,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
-#include "model/modFlags.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -21,13 +21,12 @@
 #include <QMap>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const QString payer = u"zahler"_s; // the mark of who paid
 
 QString StepName(const cEntryItemList& copies)
 {
@@ -47,7 +46,8 @@ QString Done(const cEntryItemList& copies)
 
 QList<cEntryListModel::cKey> cEntryDuplicate::Duplicate(const QList<cEntryListModel::cKey>& rows, eDay day)
 {
-    cEntryItemList copies = Copies(rows, day);
+    QList<QDate> planned;
+    cEntryItemList copies = Copies(rows, day, planned);
     if (copies.isEmpty()) {
         m_tools.User.Show(eTone::Objection,
                           cText::Tr("Ein Startguthaben lässt sich nicht duplizieren: Jedes Konto hat nur eines."));
@@ -55,7 +55,7 @@ QList<cEntryListModel::cKey> cEntryDuplicate::Duplicate(const QList<cEntryListMo
     }
     cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data, StepName(copies));
-    if (!step.DoneIf(Write(copies) && guard.Allows())) {
+    if (!step.DoneIf(Write(copies, planned) && guard.Allows())) {
         return {};
     }
     m_text = Done(copies);
@@ -66,12 +66,13 @@ QList<cEntryListModel::cKey> cEntryDuplicate::Duplicate(const QList<cEntryListMo
     return keys;
 }
 
-cEntryItemList cEntryDuplicate::Copies(const QList<cEntryListModel::cKey>& rows, eDay day) const
+cEntryItemList cEntryDuplicate::Copies(const QList<cEntryListModel::cKey>& rows, eDay day, QList<QDate>& planned) const
 {
     cEntryItemList copies;
     for (const cEntryListModel::cKey& row : rows) {
         if (const std::optional<cEntryItem> copy = Copy(row, day)) {
             copies.append(*copy);
+            planned.append(row.Day);
         }
     }
     return copies;
@@ -94,24 +95,27 @@ std::optional<cEntryItem> cEntryDuplicate::Copy(const cEntryListModel::cKey& row
     copy->EntryDateEnd = modRecurrence::OpenEnd;
     copy->EntryInterval = modWord::Einmalig;
     const int group = modSplit::Group(*copy);
-    const QString payer = modFlags::Get(copy->EntryFlags, u"zahler"_s);
-    copy->EntryFlags = modFlags::Set({}, u"zahler"_s, payer);
+    const QString payer = modPeople::Payer(*copy);
+    copy->EntryFlags.clear();
+    modPeople::SetPayer(*copy, payer);
     modSplit::SetGroup(*copy, group);
     copy->ID = 0;
     return copy;
 }
 
-bool cEntryDuplicate::Write(cEntryItemList& copies) const
+// Two occurrences of one purchase stay two purchases, also where both come to the same day.
+bool cEntryDuplicate::Write(cEntryItemList& copies, const QList<QDate>& planned) const
 {
-    QMap<std::pair<int, QDate>, cEntryItemList> groups;
-    for (cEntryItem& copy : copies) {
+    QMap<std::tuple<int, QDate, QDate>, cEntryItemList> groups;
+    for (qsizetype i = 0; i < copies.size(); ++i) {
+        cEntryItem& copy = copies[i];
         const int group = modSplit::Group(copy);
         modSplit::SetGroup(copy, 0);
         if (!m_tools.Data.AddNewEntry(copy)) {
             return false;
         }
         if (group != 0) {
-            groups[{group, copy.EntryDate}].append(copy);
+            groups[{group, planned.at(i), copy.EntryDate}].append(copy);
         }
     }
     return std::all_of(groups.cbegin(), groups.cend(), [this](const cEntryItemList& parts) {

@@ -33,8 +33,10 @@ public:
 
 private:
     [[nodiscard]] std::optional<cEntryItem> Copy(const cEntryListModel::cKey& row, eDay day) const;
-    [[nodiscard]] cEntryItemList Copies(const QList<cEntryListModel::cKey>& rows, eDay day) const;
-    [[nodiscard]] bool Write(cEntryItemList& copies) const;
+    // With the day on which each of the originals was planned.
+    [[nodiscard]] cEntryItemList Copies(const QList<cEntryListModel::cKey>& rows, eDay day,
+                                        QList<QDate>& planned) const;
+    [[nodiscard]] bool Write(cEntryItemList& copies, const QList<QDate>& planned) const;
 
     const cBookTools& m_tools;
     QString m_text;

@@ -34,11 +34,17 @@ bool IsTransfer(const cEntryItem& entry)
     return entry.EntryType == modWord::Umbuchung;
 }
 
-cEntryItem Applied(cEntryItem entry, const cManyFields& fields)
+// Whether the account by which a list shows the entry is the one where its money arrives.
+bool LeadsTo(const cEntryItem& entry, const QString& shown)
+{
+    return IsTransfer(entry) && !shown.isEmpty() && entry.EntryAccountMove == shown;
+}
+
+cEntryItem Applied(cEntryItem entry, const cManyFields& fields, const QString& shown)
 {
     const auto take = [](QString& now, const QString& wanted) { now = wanted.isEmpty() ? now : wanted; };
     take(entry.EntryCategory, fields.Category);
-    take(entry.EntryAccount, fields.Account);
+    take(LeadsTo(entry, shown) ? entry.EntryAccountMove : entry.EntryAccount, fields.Account);
     take(entry.EntryDescription, fields.Description);
     take(entry.EntryType, fields.Type);
     if (IsTransfer(entry)) {
@@ -126,7 +132,16 @@ cEntryItemList cManyChange::Affected(const cManyFields& fields) const
     return all;
 }
 
-cManyChange::eSaved cManyChange::Save(const cManyFields& fields)
+bool cManyChange::HasAny() const
+{
+    if (m_entries.isEmpty() && m_startBalances > 0) {
+        (void)Refuse(cText::Tr("Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie es mit der Eingabetaste."));
+    }
+    return !m_entries.isEmpty();
+}
+
+// As they are to be stored, without those that are like that already.
+cEntryItemList cManyChange::Changed(const cManyFields& fields, const QString& shown) const
 {
     cEntryItemList changed;
     const cEntryItemList affected = Affected(fields);
@@ -137,13 +152,22 @@ cManyChange::eSaved cManyChange::Save(const cManyFields& fields)
         if (isAlong) {
             own = {.Account = fields.Account};
         }
-        if (const cEntryItem now = Applied(entry, own); now != entry) {
+        if (const cEntryItem now = Applied(entry, own, shown); now != entry) {
             changed.append(now);
         }
     }
-    if (const eSaved checked = Check(fields, changed); checked != eSaved::Saved) {
-        return checked;
-    }
+    return changed;
+}
+
+cManyChange::eSaved cManyChange::Save(const cManyFields& fields)
+{
+    const cEntryItemList changed = Changed(fields, {});
+    const eSaved checked = Check(fields, changed);
+    return checked == eSaved::Saved ? Store(changed) : checked;
+}
+
+cManyChange::eSaved cManyChange::Store(const cEntryItemList& changed) const
+{
     cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data,
                    changed.size() == 1 ? cText::Tr("Eintrag '{0}' geändert", {modEntryFields::Name(changed.first())})
@@ -155,6 +179,11 @@ cManyChange::eSaved cManyChange::Check(const cManyFields& fields, const cEntryIt
 {
     if (changed.isEmpty()) {
         return Refuse(cText::Tr("So, wie Sie es gewählt haben, ändert sich nichts."));
+    }
+    if (fields.Category == modWord::Startguthaben) {
+        return Refuse(
+            cText::Tr("Ein Startguthaben legen Sie für jedes Konto einzeln fest. Bitte wählen Sie eine andere "
+                      "Kategorie."));
     }
     const bool isSplit = std::any_of(changed.begin(), changed.end(), [](const cEntryItem& entry) {
         return IsTransfer(entry) && modSplit::Group(entry) != 0;
@@ -187,9 +216,30 @@ bool cManyChange::Write(const cEntryItemList& changed) const
     });
 }
 
-cManyChange::eSaved cManyChange::AskAndSave(const cManyFields& fields)
+// Which account of the transfers is meant; empty without any.
+QString cManyChange::TransferText(const cEntryItemList& changed, const cManyFields& fields, const QString& shown)
 {
-    const qsizetype count = Affected(fields).size();
+    const auto to = [&](const cEntryItem& entry) { return LeadsTo(entry, fields.Account); };
+    const auto from = [&](const cEntryItem& entry) { return IsTransfer(entry) && !to(entry); };
+    QString text;
+    if (!fields.Account.isEmpty() && std::any_of(changed.begin(), changed.end(), to)) {
+        text += u"\n\n"_s + cText::Tr("Umbuchungen nach '{0}' kommen dann auf '{1}' an.", {shown, fields.Account});
+    }
+    if (!fields.Account.isEmpty() && std::any_of(changed.begin(), changed.end(), from)) {
+        text += u"\n\n"_s + cText::Tr("Umbuchungen gehen dann von '{0}' ab.", {fields.Account});
+    }
+    return text;
+}
+
+cManyChange::eSaved cManyChange::AskAndSave(const cManyFields& fields, const QString& shown)
+{
+    const cEntryItemList changed = Changed(fields, shown);
+    if (!HasAny()) {
+        return eSaved::Refused;
+    }
+    if (const eSaved checked = Check(fields, changed); checked != eSaved::Saved) {
+        return checked;
+    }
     QStringList wishes;
     if (!fields.Category.isEmpty()) {
         wishes.append(cText::Tr("Kategorie '{0}'", {fields.Category}));
@@ -197,13 +247,13 @@ cManyChange::eSaved cManyChange::AskAndSave(const cManyFields& fields)
     if (!fields.Account.isEmpty()) {
         wishes.append(cText::Tr("Konto '{0}'", {fields.Account}));
     }
-    QString text = cText::Tr("Ändern: {0}\nNeu: {1}", {modCount::Entries(count), wishes.join(u", "_s)});
-    const qsizetype series = std::count_if(m_entries.begin(), m_entries.end(), IsSeries);
-    if (series > 0) {
+    QString text = cText::Tr("Ändern: {0}\nNeu: {1}", {modCount::Entries(changed.size()), wishes.join(u", "_s)});
+    text += TransferText(changed, fields, shown);
+    if (std::any_of(changed.begin(), changed.end(), IsSeries)) {
         text += u"\n\n"_s + cText::Tr("Bei Serien ändern sich alle Vorkommen, vergangene wie zukünftige.");
     }
     const eAnswer answer = m_tools.User.Ask({.Text = text, .Title = cText::Tr("Einträge ändern")});
-    return answer == eAnswer::Yes ? Save(fields) : eSaved::Refused;
+    return answer == eAnswer::Yes ? Store(changed) : eSaved::Refused;
 }
 
 cManyChange::eSaved cManyChange::Refuse(const QString& text, eSaved saved) const

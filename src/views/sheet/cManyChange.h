@@ -31,6 +31,8 @@ public:
     cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows);
 
     [[nodiscard]] qsizetype Count() const { return m_entries.size(); } // of entries that can be changed
+    // Whether there is any; else the user is told what to do instead.
+    [[nodiscard]] bool HasAny() const;
     // How many entries that is, what is meant by the lines of a series, and what is left out.
     [[nodiscard]] QString Summary() const;
     [[nodiscard]] QStringList Accounts() const;
@@ -40,11 +42,17 @@ public:
 
     // Checks, asks about days that agree with the bank, and stores.
     [[nodiscard]] eSaved Save(const cManyFields& fields);
-    // The same after a question that says what becomes of how many; for where no form says so.
-    [[nodiscard]] eSaved AskAndSave(const cManyFields& fields);
+    // The same after a question that says what becomes of how many; for where no form says so. In a list of the account
+    // `shown` a transfer that leads to it gets the new account as its target; else, and in a list of all accounts, it
+    // is the one that the money comes from.
+    [[nodiscard]] eSaved AskAndSave(const cManyFields& fields, const QString& shown = {});
 
 private:
     [[nodiscard]] cEntryItemList Affected(const cManyFields& fields) const;
+    [[nodiscard]] cEntryItemList Changed(const cManyFields& fields, const QString& shown) const;
+    [[nodiscard]] eSaved Store(const cEntryItemList& changed) const;
+    [[nodiscard]] static QString TransferText(const cEntryItemList& changed, const cManyFields& fields,
+                                              const QString& shown);
     [[nodiscard]] eSaved Check(const cManyFields& fields, const cEntryItemList& changed) const;
     [[nodiscard]] bool Write(const cEntryItemList& changed) const;
     [[nodiscard]] eSaved Refuse(const QString& text, eSaved saved = eSaved::Refused) const;

@@ -2,9 +2,15 @@
 
 #include "base/modDate.h"
 
-QByteArray modRowDrag::ToBytes(const QList<cEntryListModel::cKey>& rows)
+namespace {
+
+const QByteArray accountWord = "konto ";
+
+} // namespace
+
+QByteArray modRowDrag::ToBytes(const QList<cEntryListModel::cKey>& rows, const QString& shown)
 {
-    QByteArray bytes;
+    QByteArray bytes = accountWord + shown.toUtf8().toPercentEncoding() + '\n';
     for (const cEntryListModel::cKey& row : rows) {
         bytes += QByteArray::number(row.ID) + ' ' + modDate::ToIso(row.Day).toLatin1() + '\n';
     }
@@ -22,4 +28,12 @@ QList<cEntryListModel::cKey> modRowDrag::FromBytes(const QByteArray& bytes)
         }
     }
     return rows;
+}
+
+QString modRowDrag::ShownFromBytes(const QByteArray& bytes)
+{
+    const QByteArray first = bytes.left(bytes.indexOf('\n'));
+    return first.startsWith(accountWord)
+        ? QString::fromUtf8(QByteArray::fromPercentEncoding(first.mid(accountWord.size())))
+        : QString();
 }

@@ -11,7 +11,9 @@ namespace modRowDrag {
 
 inline const QString Format = QStringLiteral("application/x-kontorelle-zeilen");
 
-[[nodiscard]] QByteArray ToBytes(const QList<cEntryListModel::cKey>& rows);
+// `shown`: the account by which their list shows them; empty for all accounts.
+[[nodiscard]] QByteArray ToBytes(const QList<cEntryListModel::cKey>& rows, const QString& shown = {});
 [[nodiscard]] QList<cEntryListModel::cKey> FromBytes(const QByteArray& bytes); // what cannot be read is left out
+[[nodiscard]] QString ShownFromBytes(const QByteArray& bytes);
 
 } // namespace modRowDrag

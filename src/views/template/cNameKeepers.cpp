@@ -5,7 +5,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
-#include "views/list/modSetting.h"
+#include "views/list/modViewRecord.h"
 #include "views/template/cBankNumbers.h"
 
 #include <algorithm>
@@ -22,12 +22,24 @@ void cNameKeepers::Watch(cDataAccess& data, cSettings& settings)
 
 bool cNameKeepers::RenameAccount(const QString& oldName, const QString& newName)
 {
+    return cBankNumbers(m_data, m_settings).Move(oldName, newName) && MoveShares(oldName, newName)
+        && JoinAccount(oldName, newName);
+}
+
+bool cNameKeepers::JoinAccount(const QString& oldName, const QString& newName)
+{
     const QList<cSettingKey> shown{modSettingKey::MainAccount, modSettingKey::StatisticsAccount};
-    return cBankNumbers(m_data, m_settings).Move(oldName, newName)
-        && cOwnRules(m_settings).RenameAccount(oldName, newName) && MoveShares(oldName, newName)
+    return cOwnRules(m_settings).RenameAccount(oldName, newName) && MoveViews(oldName, newName)
         && std::all_of(shown.begin(), shown.end(), [&](const cSettingKey& key) {
                return m_settings.Get(key) != oldName || m_settings.Set(key, newName);
            });
+}
+
+bool cNameKeepers::MoveViews(const QString& oldName, const QString& newName)
+{
+    const QString before = m_settings.Get(modSettingKey::SavedViews);
+    const QString now = modViewRecord::WithAccount(before, oldName, newName);
+    return now == before || m_settings.Set(modSettingKey::SavedViews, now);
 }
 
 bool cNameKeepers::MoveShares(const QString& oldName, const QString& newName)

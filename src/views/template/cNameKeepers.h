@@ -6,7 +6,8 @@ class cDataAccess;
 class cSettings;
 
 // What keeps names of accounts and paths of categories in the settings: the bank's numbers, the user's own rules, the
-// accounts last shown. It follows when a name changes. All functions are false when the database refuses.
+// accounts last shown, the views under a name. It follows when a name changes. All functions are false when the
+// database refuses.
 class cNameKeepers
 {
 public:
@@ -17,9 +18,12 @@ public:
     static void Watch(cDataAccess& data, cSettings& settings);
 
     [[nodiscard]] bool RenameAccount(const QString& oldName, const QString& newName);
+    // The account is gone, and its entries are in another one: rules and views follow them.
+    [[nodiscard]] bool JoinAccount(const QString& oldName, const QString& newName);
     [[nodiscard]] bool RenameCategory(const QString& oldPath, const QString& newPath);
 
 private:
+    [[nodiscard]] bool MoveViews(const QString& oldName, const QString& newName);
     [[nodiscard]] bool MoveShares(const QString& oldName, const QString& newName); // who has what part in the account
 
     cDataAccess& m_data;

@@ -14,6 +14,7 @@
 #include "views/budget/modLimits.h"
 #include "views/receipt/cStatementPapers.h"
 #include "views/template/cBankNumbers.h"
+#include "views/template/cNameKeepers.h"
 #include "views/template/cTemplateFlow.h"
 #include "views/template/modTemplateText.h"
 
@@ -353,7 +354,7 @@ bool cTemplateRemoval::DropShares(const QString& account)
 bool cTemplateRemoval::MoveAccountEntries(const QString& source, const QString& target)
 {
     return JoinStartBalances(source, target) && m_tools.Data.MoveEntriesToAccount(target, source)
-        && cOwnRules(m_tools.Settings).RenameAccount(source, target);
+        && cNameKeepers(m_tools.Data, m_tools.Settings).JoinAccount(source, target);
 }
 
 // Two start balances in one account: only one of them would ever be found again.

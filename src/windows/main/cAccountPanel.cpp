@@ -85,7 +85,6 @@ cAccountPanel::cAccountPanel(cAccountListModel& model, QWidget* parent)
     m_view->header()->setSectionResizeMode(cAccountListModel::Name, QHeaderView::Stretch);
     m_view->header()->setSectionResizeMode(cAccountListModel::Balance, QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(cAccountListModel::Open, QHeaderView::ResizeToContents);
-    m_view->setAcceptDrops(true);
     m_view->viewport()->setAcceptDrops(true);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
@@ -152,9 +151,14 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize) {
         FitColumns();
     }
-    if (event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove || event->type() == QEvent::Drop) {
+    const bool isDrag =
+        event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove || event->type() == QEvent::Drop;
+    if (isDrag && watched == m_view->viewport()) {
         TakeDrag(*static_cast<QDropEvent*>(event)); // the two others are derived from it
         return event->isAccepted();
+    }
+    if (event->type() == QEvent::DragLeave) {
+        Highlight(m_view->currentIndex());
     }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key(); // the event says what it is
@@ -172,15 +176,27 @@ bool cAccountPanel::eventFilter(QObject* watched, QEvent* event)
 
 void cAccountPanel::TakeDrag(QDropEvent& event)
 {
-    const QString account = m_model.AccountAt(m_view->indexAt(event.position().toPoint()));
+    const QModelIndex row = m_view->indexAt(event.position().toPoint());
+    const QString account = m_model.AccountAt(row);
     const bool isRows = event.mimeData()->hasFormat(modRowDrag::Format);
     event.setAccepted(isRows && (!account.isEmpty() || event.type() == QEvent::DragEnter));
+    const bool isTarget = event.type() == QEvent::DragMove && event.isAccepted();
+    Highlight(isTarget ? row : m_view->currentIndex());
     if (event.type() == QEvent::Drop && event.isAccepted()) {
-        const QList<cEntryListModel::cKey> rows = modRowDrag::FromBytes(event.mimeData()->data(modRowDrag::Format));
         // The mouse is let go first: what follows asks.
         QMetaObject::invokeMethod(
-            this, [this, rows, account] { Q_EMIT RowsDropped(rows, account); }, Qt::QueuedConnection);
+            this,
+            [this, account, bytes = event.mimeData()->data(modRowDrag::Format)] {
+                Q_EMIT RowsDropped(modRowDrag::FromBytes(bytes), account, modRowDrag::ShownFromBytes(bytes));
+            },
+            Qt::QueuedConnection);
     }
+}
+
+// The account that would be hit; otherwise the one that the keys stand on.
+void cAccountPanel::Highlight(const QModelIndex& row)
+{
+    m_view->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void cAccountPanel::OpenMenu(const QPoint& position)

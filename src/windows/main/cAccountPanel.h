@@ -24,7 +24,8 @@ public:
 Q_SIGNALS:
     void AccountChosen(const QString& account); // empty: all
     void RenameRequested(const QString& account);
-    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account);
+    // `shown`: the account by which their list shows the rows; empty for all accounts.
+    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,6 +36,7 @@ private:
     void OpenMenu(const QPoint& position);
     void Choose(const QModelIndex& row);
     void TakeDrag(QDropEvent& event); // of entries over an account
+    void Highlight(const QModelIndex& row);
 
     cAccountListModel& m_model;
     QLabel* m_title;

@@ -35,8 +35,12 @@ void cCellEditing::Edit(const QModelIndex& cell)
     if (m_model.EntryAt(cell) == nullptr || columns.isEmpty() || m_cells.IsReadOnly()) {
         return;
     }
-    const int column = columns.contains(cell.column()) ? cell.column() : columns.first();
-    if (const std::optional<QString> text = m_cells.Start(m_model.KeyAt(cell), column)) {
+    const cEntryListModel::cKey key = m_model.KeyAt(cell);
+    int column = columns.contains(cell.column()) ? cell.column() : columns.first();
+    if (!m_cells.Takes(key, column) && columns.contains(cEntryListModel::Amount)) {
+        column = cEntryListModel::Amount;
+    }
+    if (const std::optional<QString> text = m_cells.Start(key, column)) {
         Open(cell.siblingAtColumn(column), *text);
     }
 }
@@ -57,6 +61,8 @@ void cCellEditing::Finish()
     }
     const cEntryListModel::cKey key = m_model.KeyAt(typed->Cell);
     const int column = typed->Cell.column();
+    const int step = typed->Step.value_or(0);
+    const cEntryListModel::cKey next = m_model.KeyAt(LineBeside(typed->Cell, step));
     const cCellEdit::eSaved saved = m_cells.Save(key, column, typed->Text);
     if (saved == cCellEdit::eSaved::Refused) {
         const QModelIndex line = m_model.IndexesOf({key}).value(0);
@@ -69,28 +75,43 @@ void cCellEditing::Finish()
         Q_EMIT Written();
     }
     if (typed->Step) {
-        GoOn(m_cells.SavedKey(), column, *typed->Step);
+        GoOn(m_cells.SavedKey(), column, step, next);
     }
 }
 
-// Behind the last cell of a line comes the first one of the next.
-void cCellEditing::GoOn(const cEntryListModel::cKey& key, int column, int step)
+QModelIndex cCellEditing::LineBeside(const QModelIndex& line, int step) const
+{
+    QModelIndex beside = step == 0 ? QModelIndex() : line;
+    do {
+        beside = step > 0 ? m_tree.indexBelow(beside) : m_tree.indexAbove(beside);
+    } while (beside.isValid() && m_model.EntryAt(beside) == nullptr);
+    return beside;
+}
+
+// Behind the last cell of a line comes the first one of the line that stood below it while the field was open: what was
+// typed may have moved the line itself, or a filter has taken it away.
+void cCellEditing::GoOn(const cEntryListModel::cKey& key, int column, int step, const cEntryListModel::cKey& next)
 {
     const QModelIndex line = m_model.IndexesOf({key}).value(0);
-    if (!line.isValid()) {
-        return; // a filter has taken it away
-    }
     const QList<int> columns = Columns();
     const qsizetype at = columns.indexOf(column) + step;
-    const bool isInLine = at >= 0 && at < columns.size();
-    const QModelIndex next = isInLine ? line : step > 0 ? m_tree.indexBelow(line) : m_tree.indexAbove(line);
-    const int wanted = isInLine ? columns.at(at) : step > 0 ? columns.first() : columns.last();
-    if (step != 0 && m_model.EntryAt(next) != nullptr) {
-        Edit(next.siblingAtColumn(wanted));
+    const bool isInLine = at >= 0 && at < columns.size() && m_cells.Takes(key, columns.at(at));
+    if (step != 0 && isInLine && line.isValid()) {
+        Edit(line.siblingAtColumn(columns.at(at)));
         return;
     }
-    m_tree.selectionModel()->setCurrentIndex(line.siblingAtColumn(column),
-                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    m_tree.scrollTo(line);
+    QModelIndex beside = m_model.IndexesOf({next}).value(0);
+    if (!beside.isValid() && line.isValid()) {
+        beside = LineBeside(line, step);
+    }
+    if (step != 0 && beside.isValid()) {
+        Edit(beside.siblingAtColumn(step > 0 ? columns.first() : columns.last()));
+        return;
+    }
+    if (line.isValid()) {
+        m_tree.selectionModel()->setCurrentIndex(line.siblingAtColumn(column),
+                                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        m_tree.scrollTo(line);
+    }
     m_tree.setFocus();
 }

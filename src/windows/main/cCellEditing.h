@@ -27,7 +27,9 @@ Q_SIGNALS:
 private:
     void Open(const QModelIndex& cell, const QString& text);
     void Finish();
-    void GoOn(const cEntryListModel::cKey& key, int column, int step);
+    // `next`: the line that was the next one in that direction before the list was built anew.
+    void GoOn(const cEntryListModel::cKey& key, int column, int step, const cEntryListModel::cKey& next);
+    [[nodiscard]] QModelIndex LineBeside(const QModelIndex& line, int step) const; // heads of groups are passed over
     [[nodiscard]] QList<int> Columns() const; // that are shown and can be typed, in the order on screen
 
     cEntryTree& m_tree;

@@ -4,7 +4,6 @@
 #include "views/list/cListLayout.h"
 #include "views/sheet/modRowDrag.h"
 #include "windows/main/cCellEditing.h"
-#include "windows/main/cEntryDelegate.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
@@ -32,14 +31,12 @@ const QList<int> hiddenAtFirst{cEntryListModel::Tags, cEntryListModel::Payer};
 
 } // namespace
 
-cEntryTree::cEntryTree(cEntryListModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
+cEntryTree::cEntryTree(cEntryListModel& model, cCellEdit& cells, QWidget* parent) : QTreeView(parent), m_model(model)
 {
     // Before the base class hears of it and forgets which line stands where.
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
     setModel(&m_model);
-    auto* delegate = new cEntryDelegate(this);
-    setItemDelegate(delegate);
-    connect(delegate, &cEntryDelegate::TagClicked, this, &cEntryTree::TagClicked);
+    connect(new cCellEditing(*this, model, cells), &cCellEditing::Written, this, &cEntryTree::CellWritten);
     setRootIsDecorated(false); // heads of groups draw their own arrow, so that the dates stay in line
     setIndentation(0);
     setUniformRowHeights(true);
@@ -161,16 +158,10 @@ void cEntryTree::startDrag(Qt::DropActions /*actions*/)
         return;
     }
     auto* rows = new QMimeData;
-    rows->setData(modRowDrag::Format, modRowDrag::ToBytes(keys));
+    rows->setData(modRowDrag::Format, modRowDrag::ToBytes(keys, m_model.ShownAccount()));
     auto* drag = new QDrag(this); // it goes by itself, and the rows with it
     drag->setMimeData(rows);
     drag->exec(Qt::CopyAction);
-}
-
-void cEntryTree::UseCells(cCellEdit& cells)
-{
-    auto* editing = new cCellEditing(*this, m_model, cells);
-    connect(editing, &cCellEditing::Written, this, &cEntryTree::CellWritten);
 }
 
 void cEntryTree::SetEmptyText(const QString& title, const QString& hint)
@@ -251,11 +242,13 @@ QModelIndex cEntryTree::FirstUnselected(const QModelIndex& line) const
     return below;
 }
 
-// The keys go on from where they were. Without a current line the view would take the first one when it next gets the
+// The keys go on from where they were; where the line on top is gone, another account was chosen perhaps, from its day
+// on. Without a current line the view would take the first one when it next gets the
 // focus, and jump to it.
 void cEntryTree::RestoreCurrent()
 {
-    const QModelIndex top = m_model.IndexesOf({m_top}).value(0);
+    QModelIndex top = m_model.IndexesOf({m_top}).value(0);
+    top = top.isValid() || !m_top.Day.isValid() ? top : m_model.IndexNear(m_top.Day);
     QModelIndex current = m_model.IndexesOf({m_current}).value(0);
     current = current.isValid() ? current : m_model.IndexesOf({m_next}).value(0);
     current = current.isValid() ? current : top;

@@ -18,7 +18,8 @@ class cEntryTree final : public QTreeView
     Q_OBJECT
 
 public:
-    explicit cEntryTree(cEntryListModel& model, QWidget* parent = nullptr);
+    // `cells`: what is typed into cells with F2. Both outlive the list.
+    cEntryTree(cEntryListModel& model, cCellEdit& cells, QWidget* parent = nullptr);
 
     [[nodiscard]] QString LayoutText() const;
     void SetLayoutText(const QString& text); // an unreadable text gives the default layout
@@ -31,7 +32,6 @@ public:
     // Only these, and brings the first into sight; nothing when the list has none of them.
     void Select(const QList<cEntryListModel::cKey>& keys);
     void GoTo(const QModelIndex& row);             // selects it in the middle of what is in sight
-    void UseCells(cCellEdit& cells);               // lets cells be typed with F2; `cells` outlives the list
     void Copy() const;                             // the selected lines with the shown columns, as a table
     [[nodiscard]] QList<int> ShownColumns() const; // of the model, in the order on screen
     [[nodiscard]] QList<cEntryListModel::cKey> SelectedKeys() const; // without the heads of groups

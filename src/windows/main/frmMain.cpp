@@ -53,7 +53,7 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
       m_backBar(new cBackBar(this)),
       m_viewBar(new cViewBar(model, this)),
       m_hint(new QLabel(this)),
-      m_tree(new cEntryTree(model.Entries(), this)),
+      m_tree(new cEntryTree(model.Entries(), model.Cells(), this)),
       m_sums(new cSumBar(this)),
       m_database(new QLabel(this)),
       m_reminder(new cReminderBar(this)),
@@ -63,7 +63,6 @@ frmMain::frmMain(cMainModel& model, QWidget* parent)
     setAcceptDrops(true);
     setWindowIcon(modIcon::Program());
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_tree->UseCells(model.Cells());
     BuildCommands();
     BuildPages();
     Connect();
@@ -166,11 +165,15 @@ void frmMain::BuildStatusBar()
     statusBar()->addPermanentWidget(m_failureMark);
     statusBar()->addPermanentWidget(m_database);
     m_failureMark->hide();
+    connect(statusBar(), &QStatusBar::messageChanged, this, [this] { ShowReminder(m_reminderText); });
 }
 
 void frmMain::ShowReminder(const QString& text)
 {
-    m_reminder->ShowText(text);
+    m_reminderText = text;
+    if (statusBar()->currentMessage().isEmpty()) { // the message stands in its place for a while
+        m_reminder->ShowText(text);
+    }
 }
 
 void frmMain::ShowFailureMark(bool isShown)

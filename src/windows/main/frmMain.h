@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QString>
 #include <QStringList>
 
 class cAccountPanel;
@@ -66,7 +67,8 @@ Q_SIGNALS:
     void ReceiptsDropped(int entryId, const QStringList& paths); // on an entry of the list
     void Closing();                                              // place and columns have been saved
     void PageShown(frmMain::ePage page);                         // it came to the front
-    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account); // onto an account
+    // Onto an account, out of a list that shows them by the account `shown`; empty for all accounts.
+    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -108,6 +110,7 @@ private:
     QLabel* m_database;
     QMenu* m_view = nullptr; // "Ansicht"
     cReminderBar* m_reminder;
+    QString m_reminderText;
     QToolButton* m_failureMark;
     cDayJump* m_dayJump;
     bool m_isSplitByHand = false;

@@ -21,12 +21,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-frmSuche::frmSuche(cSearchModel& model, QWidget* parent)
+frmSuche::frmSuche(cSearchModel& model, cCellEdit& cells, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint),
       m_model(model),
       m_fields(new cSearchFields(model, this)),
       m_hint(new QLabel(this)),
-      m_tree(new cEntryTree(model.Entries(), this)),
+      m_tree(new cEntryTree(model.Entries(), cells, this)),
       m_sums(new cSumBar(this)),
       m_edit(new QPushButton(modIcon::Get(u"bearbeiten"_s), cText::Tr("&Eintrag bearbeiten"), this)),
       m_delete(new QPushButton(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
@@ -61,7 +61,6 @@ void frmSuche::Build()
     m_hint->setWordWrap(true);
     modTone::Use(*m_hint, modTone::Quiet);
     m_tree->setAccessibleName(cText::Tr("Gefundene Einträge"));
-    m_tree->UseCells(m_model.Cells());
     const QSize wanted(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 40);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
 }

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class cCellEdit;
 class cEntryTree;
 class cSearchFields;
 class cSearchModel;
@@ -18,7 +19,8 @@ class frmSuche final : public QDialog
     Q_OBJECT
 
 public:
-    explicit frmSuche(cSearchModel& model, QWidget* parent = nullptr);
+    // `cells`: what is typed into cells of the list. Both outlive the window.
+    frmSuche(cSearchModel& model, cCellEdit& cells, QWidget* parent = nullptr);
     ~frmSuche() override;
 
     void Present();     // shows the window in front, ready to type
