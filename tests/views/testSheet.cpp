@@ -7,6 +7,7 @@
 #include "views/sheet/cCellEdit.h"
 #include "views/sheet/cEntryDuplicate.h"
 #include "views/sheet/cManyChange.h"
+#include "views/sheet/cRowDrop.h"
 #include "views/sheet/modDayJump.h"
 #include "views/sheet/modRowCopy.h"
 
@@ -93,6 +94,7 @@ private Q_SLOTS:
     void CellsAreStoredThroughTheEditor_data();
     void CellsAreStoredThroughTheEditor();
     void AmountOfAPartChangesTheWhole();
+    void RowsAreDroppedOnACategory();
     void RefusedCellChangesNothing();
     void DayIsFoundInAnyOrder_data();
     void DayIsFoundInAnyOrder();
@@ -310,6 +312,29 @@ void testSheet::AmountOfAPartChangesTheWhole()
              cCellEdit::eSaved::Saved);
     QCOMPARE(scene.Stored(parts.at(0).ID).EntryCategory, u"Haushalt; Lebensmittel"_s);
     QCOMPARE(scene.Stored(parts.at(1).ID).EntryCategory, u"Wohnung; Miete"_s);
+}
+
+void testSheet::RowsAreDroppedOnACategory()
+{
+    cScene scene;
+    const QString target = u"Wohnung; Strom"_s;
+    const cKey purchase{scene.Purchase.ID, scene.Purchase.EntryDate};
+    const cRowDrop drop(scene.Book.Tools);
+    QVERIFY(!drop.OnCategory({purchase}, scene.Purchase.EntryCategory)); // where it is already
+    QVERIFY(drop.OnCategory({purchase}, target));
+    QVERIFY(scene.Book.User.Asked.isEmpty() && scene.Book.User.Shown.isEmpty());
+    QCOMPARE(scene.Stored(purchase.ID).EntryCategory, target);
+    scene.Book.User.Decisions = {0}; // from here on
+    QVERIFY(drop.OnCategory({purchase, {scene.Rent.ID, QDate(2026, 3, 28)}}, target));
+    QCOMPARE(scene.Stored(scene.Rent.ID).EntryCategory, scene.Rent.EntryCategory);
+    QCOMPARE(scene.Book.Data.CountEntriesOfCategory(target), 2); // the purchase and the rest of the series
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    scene.Book.User.Answers = {eAnswer::Yes};
+    const cEntryItem other = scene.Book.Add([](cEntryItem&) {});
+    QVERIFY(drop.OnCategory({{scene.Rent.ID, QDate(2026, 3, 28)}, {other.ID, other.EntryDate}}, target));
+    QCOMPARE(scene.Stored(scene.Rent.ID).EntryCategory, target);
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Stored(other.ID).EntryCategory, other.EntryCategory);
 }
 
 void testSheet::RefusedCellChangesNothing()

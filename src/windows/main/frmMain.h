@@ -66,7 +66,8 @@ Q_SIGNALS:
     void ReceiptsDropped(int entryId, const QStringList& paths); // on an entry of the list
     void Closing();                                              // place and columns have been saved
     void PageShown(frmMain::ePage page);                         // it came to the front
-    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account); // onto an account
+    void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account);    // onto an account
+    void RowsRegrouped(const QList<cEntryListModel::cKey>& rows, const QString& category); // onto another group
 
 protected:
     void closeEvent(QCloseEvent* event) override;
