@@ -5,7 +5,14 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QRubberBand>
+#include <QScrollBar>
 #include <QTreeView>
+
+namespace {
+
+constexpr int scrollPause = 60; // milliseconds for a line
+
+} // namespace
 
 cCategoryDrop::cCategoryDrop(QTreeView& tree, const cEntryListModel& entries)
     : QObject(&tree),
@@ -16,12 +23,18 @@ cCategoryDrop::cCategoryDrop(QTreeView& tree, const cEntryListModel& entries)
     m_tree.setAcceptDrops(true);
     m_tree.viewport()->setAcceptDrops(true);
     m_tree.viewport()->installEventFilter(this);
+    m_scrolling.setInterval(scrollPause);
+    connect(&m_scrolling, &QTimer::timeout, this, [this] {
+        m_frame->hide(); // it belongs to the line that moves away
+        m_tree.verticalScrollBar()->triggerAction(m_step < 0 ? QScrollBar::SliderSingleStepSub
+                                                             : QScrollBar::SliderSingleStepAdd);
+    });
 }
 
 bool cCategoryDrop::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::DragLeave) {
-        m_frame->hide();
+        Stop();
     }
     const bool isEnter = event->type() == QEvent::DragEnter;
     const bool isDrop = event->type() == QEvent::Drop;
@@ -36,8 +49,10 @@ bool cCategoryDrop::eventFilter(QObject* watched, QEvent* event)
     Frame(drop);
     drop.setDropAction(Qt::CopyAction);
     drop.setAccepted(isEnter || !category.isEmpty()); // without the first there would be no others
-    if (isDrop) {
-        m_frame->hide();
+    if (isDrop || category.isEmpty()) {
+        Stop();
+    } else {
+        ScrollNear(drop.position().toPoint().y());
     }
     if (isDrop && !category.isEmpty()) {
         const QList<cEntryListModel::cKey> rows = modRowDrag::FromBytes(drop.mimeData()->data(modRowDrag::Format));
@@ -46,6 +61,23 @@ bool cCategoryDrop::eventFilter(QObject* watched, QEvent* event)
             this, [this, rows, category] { Q_EMIT RowsDropped(rows, category); }, Qt::QueuedConnection);
     }
     return true;
+}
+
+void cCategoryDrop::ScrollNear(int y)
+{
+    const int edge = m_tree.fontMetrics().height() * 2;
+    m_step = y < edge ? -1 : y > m_tree.viewport()->height() - edge ? 1 : 0;
+    if (m_step == 0) {
+        m_scrolling.stop();
+    } else if (!m_scrolling.isActive()) {
+        m_scrolling.start();
+    }
+}
+
+void cCategoryDrop::Stop()
+{
+    m_frame->hide();
+    m_scrolling.stop();
 }
 
 QString cCategoryDrop::CategoryUnder(const QDropEvent& event) const

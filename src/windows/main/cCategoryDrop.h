@@ -3,6 +3,7 @@
 #include "views/list/cEntryListModel.h"
 
 #include <QObject>
+#include <QTimer>
 
 class QDropEvent;
 class QRubberBand;
@@ -26,8 +27,12 @@ protected:
 private:
     [[nodiscard]] QString CategoryUnder(const QDropEvent& event) const; // empty where nothing can be dropped
     void Frame(const QDropEvent& event);
+    void ScrollNear(int y); // while the mouse stays at an edge, because the other group may be out of sight
+    void Stop();
 
     QTreeView& m_tree;
     const cEntryListModel& m_entries;
     QRubberBand* m_frame;
+    QTimer m_scrolling;
+    int m_step = 0; // up or down
 };
