@@ -3,6 +3,7 @@
 #include "core/cBookTools.h"
 #include "views/main/cMainModel.h"
 #include "views/sheet/cManyChange.h"
+#include "views/sheet/cRowDrop.h"
 #include "windows/main/cSavedViewMenu.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmMehrere.h"
@@ -24,9 +25,13 @@ cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain
     });
     QObject::connect(&m_window, &frmMain::RowsDropped, m_menu,
                      [this](const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown) {
-                         cManyChange change(m_tools, rows);
-                         if (!m_model.IsReadOnly()
-                             && change.AskAndSave({.Account = account}, shown) == cManyChange::eSaved::Saved) {
+                         if (cRowDrop(m_tools).OnAccount(rows, account, shown)) {
+                             m_model.ManyChanged(rows);
+                         }
+                     });
+    QObject::connect(&m_window, &frmMain::RowsRegrouped, m_menu,
+                     [this](const QList<cEntryListModel::cKey>& rows, const QString& category) {
+                         if (cRowDrop(m_tools).OnCategory(rows, category)) {
                              m_model.ManyChanged(rows);
                          }
                      });
@@ -56,6 +61,10 @@ void cSheetWindows::Connect(frmSuche& search)
     QObject::connect(
         &search, &frmSuche::DuplicateRequested, &m_model,
         [this](const QList<cEntryListModel::cKey>& rows) { m_model.Duplicate(rows, cEntryDuplicate::eDay::Today); });
+    QObject::connect(&search, &frmSuche::NextMonthRequested, &m_model,
+                     [this](const QList<cEntryListModel::cKey>& rows) {
+                         m_model.Duplicate(rows, cEntryDuplicate::eDay::NextMonth);
+                     });
 }
 
 void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget* parent)

@@ -9,8 +9,13 @@
 #include "core/cAmountFormat.h"
 #include "model/modRecurrence.h"
 #include "views/list/modBookNames.h"
+#include "views/look/cCategoryLooks.h"
+#include "views/look/modCategoryColor.h"
+#include "views/look/modCategoryIcon.h"
 #include "views/template/cTemplateManager.h"
 #include "views/template/modTemplateText.h"
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,10 +26,11 @@ bool IsNone(const QString& text)
     return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
 }
 
-void PrintJson(const QList<cCategoryLine>& lines)
+void PrintJson(const cCategoryLooks& looks, const QList<cCategoryLine>& lines)
 {
     QStringList objects;
     for (const auto& [item, entries] : lines) {
+        const cCategoryLook look = looks.Of(modTemplate::Path(item));
         objects.append(modCliRecord::Template(item)
                            .Text(u"EntryType"_s, item.EntryType)
                            .Text(u"EntryInterval"_s, item.EntryInterval)
@@ -33,6 +39,8 @@ void PrintJson(const QList<cCategoryLine>& lines)
                            .Text(u"TemplateVAT"_s, item.TemplateVAT)
                            .Text(u"EntryCategory"_s, modTemplate::Path(item))
                            .Number(u"Entries"_s, entries)
+                           .Text(u"Color"_s, look.Color)
+                           .Text(u"Icon"_s, look.Icon)
                            .ToString());
     }
     modConsole::Out(modJson::Array(objects) + u'\n');
@@ -44,22 +52,35 @@ QString VatText(const cTemplateItem& item, eDecimal decimal)
     return rate ? modTemplate::VatText(*rate).replace(u'.', modSum::Sign(decimal)) + u" %" : item.TemplateVAT;
 }
 
-void Print(const cCliBook& book, const QList<cCategoryLine>& lines)
+void Print(const cCliBook& book, const cCategoryLooks& looks, const QList<cCategoryLine>& lines)
 {
-    cCliTable table({{cText::Tr("Kategorie")},
-                     {cText::Tr("Art")},
-                     {cText::Tr("Intervall")},
-                     {cText::Tr("Betrag"), eAlign::Right},
-                     {cText::Tr("Monatslimit"), eAlign::Right},
-                     {cText::Tr("MwSt."), eAlign::Right},
-                     {cText::Tr("Buchungen"), eAlign::Right},
-                     {cText::Tr("Stand")}});
+    QList<cCliTable::cColumn> columns{{cText::Tr("Kategorie")},
+                                      {cText::Tr("Art")},
+                                      {cText::Tr("Intervall")},
+                                      {cText::Tr("Betrag"), eAlign::Right},
+                                      {cText::Tr("Monatslimit"), eAlign::Right},
+                                      {cText::Tr("MwSt."), eAlign::Right},
+                                      {cText::Tr("Buchungen"), eAlign::Right},
+                                      {cText::Tr("Stand")}};
+    if (!looks.IsEmpty()) {
+        columns += {{cText::Tr("Farbe")}, {cText::Tr("Symbol")}};
+    }
+    cCliTable table(columns);
     const auto amount = [&book](qint64 cents) { return cents == 0 ? QString() : book.AmountText(cents); };
     for (const auto& [item, entries] : lines) {
-        table.Add({modTemplate::Path(item), item.EntryType, item.EntryInterval,
-                   amount(modTemplate::ProposedCents(item)), amount(modTemplate::LimitCents(item, 1)),
-                   item.TemplateVAT.isEmpty() ? QString() : VatText(item, book.Format().Decimal()),
-                   QString::number(entries), modTemplateText::State(item)});
+        QStringList cells{modTemplate::Path(item),
+                          item.EntryType,
+                          item.EntryInterval,
+                          amount(modTemplate::ProposedCents(item)),
+                          amount(modTemplate::LimitCents(item, 1)),
+                          item.TemplateVAT.isEmpty() ? QString() : VatText(item, book.Format().Decimal()),
+                          QString::number(entries),
+                          modTemplateText::State(item)};
+        if (!looks.IsEmpty()) {
+            const cCategoryLook look = looks.Of(modTemplate::Path(item));
+            cells += {modCategoryColor::NameOf(look.Color), modCategoryIcon::NameOf(look.Icon)};
+        }
+        table.Add(cells);
     }
     modConsole::Out(table.ToString());
 }
@@ -67,10 +88,11 @@ void Print(const cCliBook& book, const QList<cCategoryLine>& lines)
 int List(const cCliContext& context)
 {
     const QList<cCategoryLine> lines = modBookNames::CategoryLines(context.Book->Data);
+    const cCategoryLooks looks = cCategoryLooks::Read(context.Book->Data);
     if (context.Call.Has(u"json"_s)) {
-        PrintJson(lines);
+        PrintJson(looks, lines);
     } else {
-        Print(*context.Book, lines);
+        Print(*context.Book, looks, lines);
     }
     return modExit::Done;
 }
@@ -99,6 +121,56 @@ cTemplateFields Wanted(const cCliContext& context, cCliReader& reader)
     return wanted;
 }
 
+// The stored form of what an option says, through `read`. What is not there and what removes it stays as it is.
+template <typename tRead>
+QString LookOption(const QString& text, tRead read, const QStringList& names, cCliReader& reader)
+{
+    if (text.isEmpty() || IsNone(text)) {
+        return text;
+    }
+    const std::optional<QString> stored = read(text);
+    if (!stored) {
+        reader.Misused(cText::Tr("'{0}' steht nicht zur Wahl. Möglich sind: {1}.", {text, names.join(u", "_s)}));
+    }
+    return stored.value_or(QString());
+}
+
+// Colour and picture, which only main categories have.
+cCategoryLook WantedLook(const cCliCall& call, cCliReader& reader)
+{
+    QStringList colors;
+    const QList<modCategoryColor::cOffer> offeredColors = modCategoryColor::Offers();
+    for (const modCategoryColor::cOffer& offer : offeredColors) {
+        colors.append(offer.Name);
+    }
+    QStringList icons;
+    const QList<modCategoryIcon::cOffer> offeredIcons = modCategoryIcon::Offers();
+    for (const modCategoryIcon::cOffer& offer : offeredIcons) {
+        icons.append(offer.Name);
+    }
+    return {LookOption(call.Value(u"color"_s), modCategoryColor::Read, colors + QStringList{u"#rrggbb"_s}, reader),
+            LookOption(call.Value(u"icon"_s), modCategoryIcon::Read, icons, reader)};
+}
+
+// The category that an argument names. With colour or picture it is a main category, also one that no entry can have.
+QString ChangedPath(const cCliCall& call, const QStringList& mains, cCliReader& reader)
+{
+    const QString typed = call.Arguments().constFirst();
+    const bool isLook = call.Has(u"color"_s) || call.Has(u"icon"_s);
+    const auto main = std::find_if(mains.begin(), mains.end(), [&](const QString& each) {
+        return each.compare(typed.trimmed(), Qt::CaseInsensitive) == 0;
+    });
+    if (isLook && main != mains.end()) {
+        return *main;
+    }
+    const QString path = reader.Category(typed, eCliNames::Used);
+    if (isLook && !modTemplate::SubOf(path).isEmpty()) {
+        reader.Misused(cText::Tr("Farbe und Symbol hat die Hauptkategorie. Bitte geben Sie '{0}' an.",
+                                 {modTemplate::MainOf(path)}));
+    }
+    return path;
+}
+
 // One column holds both: a limit for the month, or an amount for an interval that recurs. Says so when the option does
 // not fit the interval.
 bool FitsInterval(const cCliCall& call, const QString& interval)
@@ -117,6 +189,12 @@ bool FitsInterval(const cCliCall& call, const QString& interval)
         return false;
     }
     return true;
+}
+
+bool IsOnlyLook(cTemplateFields old, const cTemplateFields& fields)
+{
+    old.Look = fields.Look;
+    return old == fields;
 }
 
 // Options that are not there leave what is stored.
@@ -147,6 +225,11 @@ bool SetDefaults(const cCliCall& call, cTemplateManager& manager, const QString&
     fields.Interval = take(wanted.Interval, fields.Interval);
     fields.Amount = take(wanted.Amount, fields.Amount);
     fields.Vat = take(wanted.Vat, fields.Vat);
+    fields.Look = {take(wanted.Look.Color, fields.Look.Color), take(wanted.Look.Icon, fields.Look.Icon)};
+    if (node.Id == 0 && !IsOnlyLook(*old, fields)) {
+        modConsole::Error(cText::Tr("'{0}' ist nicht direkt bebuchbar und schlägt deshalb nichts vor.", {path}));
+        return false;
+    }
     return FitsInterval(call, fields.Interval) && manager.Save(node, *old, fields).has_value();
 }
 
@@ -170,12 +253,13 @@ int Change(const cCliContext& context)
 {
     const cCliCall& call = context.Call;
     cCliReader reader(context);
-    const QString path = reader.Category(call.Arguments().constFirst(), eCliNames::Used);
-    const cTemplateFields wanted = Wanted(context, reader);
+    cTemplateManager manager(context.Book->Tools);
+    const QString path = ChangedPath(call, manager.Mains(), reader);
+    cTemplateFields wanted = Wanted(context, reader);
+    wanted.Look = WantedLook(call, reader);
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cTemplateManager manager(context.Book->Tools);
     const bool isDone = SetDefaults(call, manager, path, wanted) && !context.Book->File().LastStep().isEmpty();
     return modCliFlow::Finish(context, isDone);
 }
@@ -188,6 +272,12 @@ QList<cCliOption> DefaultOptions()
              cText::Tr("Betrag, den sie je Intervall vorschlägt; auf den Monat umgerechnet ihr Limit")},
             {u"limit"_s, u"BETRAG"_s, cText::Tr("Monatslimit, wenn das Intervall nicht wiederkehrt")},
             {u"vat"_s, u"PROZENT"_s, cText::Tr("Mehrwertsteuer, die in den Beträgen steckt")}};
+}
+
+QList<cCliOption> LookOptions()
+{
+    return {{u"color"_s, u"FARBE"_s, cText::Tr("Farbe einer Hauptkategorie: ein Name wie \"Blau\" oder #rrggbb")},
+            {u"icon"_s, u"SYMBOL"_s, cText::Tr("Symbol einer Hauptkategorie, zum Beispiel \"Haus\"")}};
 }
 
 int Rename(const cCliContext& context)
@@ -251,11 +341,12 @@ cCliCommand modCliCommands::CategoriesChangeCommand()
 {
     return {.Name = u"categories change"_s,
             .Arguments = u"PFAD"_s,
-            .Help = cText::Tr("ändert, was eine Kategorie vorschlägt; \"ohne\" entfernt Betrag, Limit oder Steuer"),
+            .Help = cText::Tr("ändert, was eine Kategorie vorschlägt oder wie sie gezeigt wird; \"ohne\" entfernt "
+                              "Betrag, Limit, Steuer, Farbe oder Symbol"),
             .MinArguments = 1,
             .MaxArguments = 1,
             .Access = eCliAccess::Write,
-            .Options = DefaultOptions(),
+            .Options = DefaultOptions() + LookOptions(),
             .Run = Change};
 }
 

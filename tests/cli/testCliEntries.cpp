@@ -421,6 +421,14 @@ void testCliEntries::Categories()
              qPrintable(yearly));
     Do(u"categories|change|Eisenbahn|--interval|Monatlich|--amount|30|--vat|ohne"_s);
 
+    // The look is that of the main category, which needs no row of its own.
+    QVERIFY(!Do(u"categories"_s).Out.contains("Symbol"_L1));
+    Do(u"categories|change|hobby|--color|#A1B2C3|--icon|ball"_s);
+    const QString coloured = Do(u"categories|--json"_s).Out;
+    QVERIFY2(coloured.contains("\"Color\": \"#a1b2c3\", \"Icon\": \"sport\""_L1), qPrintable(coloured));
+    QVERIFY(Do(u"categories"_s).Out.contains("Ball"_L1));
+    Do(u"categories|change|Hobby|--color|ohne|--icon|ohne"_s);
+
     const QStringList merge{u"categories"_s, u"merge"_s, u"Eisenbahn"_s, u"Haushalt; Getränke"_s};
     QCOMPARE(Run(merge).Code, 1);
     QCOMPARE(Do(u"categories|--json"_s).Out, list.Out);
@@ -506,6 +514,8 @@ void testCliEntries::Refused_data()
     QTest::addRow("search for nothing") << u"search"_s << 2 << u"Suchwort"_s;
     QTest::addRow("two kinds of amounts") << u"search|--amount|5|--min|3"_s << 2 << u"--max"_s;
     QTest::addRow("limit that is no amount") << u"categories|add|Neu|--limit|viel"_s << 2 << u"'viel'"_s;
+    QTest::addRow("colour that is none") << u"categories|change|Wohnung|--color|bunt"_s << 2 << u"Hellblau"_s;
+    QTest::addRow("colour of a sub-category") << u"categories|change|Miete|--color|Blau"_s << 2 << u"'Wohnung'"_s;
     QTest::addRow("category that is there") << u"categories|add|Wohnung; Miete"_s << 1 << u"existiert bereits"_s;
     QTest::addRow("protected category") << u"categories|delete|Startguthaben|--yes"_s << 1 << u"Startguthaben"_s;
     QTest::addRow("option before the second word") << u"categories|--json|add|Neu"_s << 2 << u"'--json'"_s;

@@ -5,6 +5,7 @@
 #include "views/chart/cChartSave.h"
 #include "views/chart/modChart.h"
 #include "views/chart/modChartTable.h"
+#include "views/look/cCategoryLooks.h"
 
 #include <QTest>
 
@@ -66,6 +67,28 @@ class testChartData final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void MainCategoriesHaveTheirColours()
+    {
+        cChartBook book;
+        const QString blue = u"#0087e8"_s; // that of the first slice, without a choice
+        QVERIFY(cCategoryLooks::Store(*book.Book.Settings, u"Haushalt"_s, {blue, u"einkauf"_s}));
+        cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year};
+        const cChartData pie = book.Make(wish);
+        QCOMPARE(pie.Series[1].OwnColour, blue);
+        QVERIFY(pie.Series[0].OwnColour.isEmpty());
+        QVERIFY(pie.Series[0].Colour != 0); // else it would look like the other one
+        wish.Group = u"Haushalt"_s;
+        QVERIFY(book.Make(wish).Series[0].OwnColour.isEmpty()); // its parts are told apart
+        const cChartData flow = book.Make({.Kind = eChartKind::Flow, .Range = year});
+        QCOMPARE(flow.Series[0].Colour, static_cast<int>(modChart::Income));
+        QCOMPARE(flow.Series[2].OwnColour, blue);
+        const cChartData months =
+            book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Second = cChartWish::YearBefore(year)});
+        QCOMPARE(months.Series.size(), 4);
+        QCOMPARE(months.Series[3].OwnColour, blue);
+        QCOMPARE(months.Series[2].Colour, months.Series[0].Colour);
+    }
+
     void SlicesByCategory()
     {
         cChartBook book;

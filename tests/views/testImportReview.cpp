@@ -5,6 +5,7 @@
 #include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
+#include "views/sheet/cManyChange.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
@@ -429,6 +430,14 @@ private Q_SLOTS:
         QVERIFY(page.AllIds().isEmpty());
         QVERIFY(page.Data.Journal().Undo());
         QCOMPARE(page.Data.GetEntries({}).value(0).EntryCategory, u"Allgemein"_s);
+        const std::unique_ptr<cManyChange> change = page.Review.StartChange({id});
+        QVERIFY(change != nullptr);
+        QCOMPARE(change->Save({.Description = u"Nachgetragen"_s}), cManyChange::eSaved::Saved);
+        page.Review.FollowEntries();
+        QCOMPARE(entries.size(), 2);
+        QCOMPARE(page.Data.GetEntries({}).value(0).EntryDescription, u"Nachgetragen"_s);
+        page.Review.View().SetUncategorisedOnly(false);
+        QVERIFY(page.Review.StartChange({id, page.AllIds().first()}) == nullptr); // one of them has no entry yet
     }
 
     void EditsAndBooks()

@@ -35,6 +35,7 @@ public:
                        })
                        .ID;
         Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Oma's Konto"_s);
+        Book.Settings->Set(modSettingKey::CategoryColor.Of(u"Haus & Hof"_s), u"#102030"_s);
         cNameKeepers::Watch(Book.Data, *Book.Settings);
         Manager.Refresh();
     }
@@ -111,6 +112,7 @@ void testOldNames::CleansNamesOfOlderBooks()
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Drinks)->EntryAccount, account);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Transfer)->EntryAccountMove, account);
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"1"_s)), account);
+    QCOMPARE(scene.Book.Settings->Get(modSettingKey::CategoryColor.Of(main)), u"#102030"_s);
     QVERIFY(scene.Book.Data.FindAccount(account));
     QCOMPARE(renamed.size(), account == u"Omas Konto" ? 1 : 0);
     QCOMPARE(scene.Book.User.Shown.size(), 1); // one line, whatever went along

@@ -7,6 +7,7 @@
 #include "views/sheet/cCellEdit.h"
 #include "views/sheet/cEntryDuplicate.h"
 #include "views/sheet/cManyChange.h"
+#include "views/sheet/cRowDrop.h"
 #include "views/sheet/modDayJump.h"
 #include "views/sheet/modRowCopy.h"
 #include "views/sheet/modRowDrag.h"
@@ -99,6 +100,7 @@ private Q_SLOTS:
     void CellsAreStoredThroughTheEditor();
     void AmountOfAPartChangesTheWhole();
     void PartOfASeriesIsFoundAfterItsChange();
+    void RowsAreDroppedOnACategory();
     void RefusedCellChangesNothing();
     void DayIsFoundInAnyOrder_data();
     void DayIsFoundInAnyOrder();
@@ -396,6 +398,29 @@ void testSheet::PartOfASeriesIsFoundAfterItsChange()
     QCOMPARE(cells.Save(april, cEntryListModel::Description, u"Zweiter"_s), cCellEdit::eSaved::Saved);
     QCOMPARE(scene.Stored(cells.SavedKey().ID).EntryDescription, u"Zweiter"_s);
     QCOMPARE(scene.Stored(cells.SavedKey().ID).EntryDate, april.Day);
+}
+
+void testSheet::RowsAreDroppedOnACategory()
+{
+    cScene scene;
+    const QString target = u"Wohnung; Strom"_s;
+    const cKey purchase{scene.Purchase.ID, scene.Purchase.EntryDate};
+    const cRowDrop drop(scene.Book.Tools);
+    QVERIFY(!drop.OnCategory({purchase}, scene.Purchase.EntryCategory)); // where it is already
+    QVERIFY(drop.OnCategory({purchase}, target));
+    QVERIFY(scene.Book.User.Asked.isEmpty() && scene.Book.User.Shown.isEmpty());
+    QCOMPARE(scene.Stored(purchase.ID).EntryCategory, target);
+    scene.Book.User.Decisions = {0}; // from here on
+    QVERIFY(drop.OnCategory({purchase, {scene.Rent.ID, QDate(2026, 3, 28)}}, target));
+    QCOMPARE(scene.Stored(scene.Rent.ID).EntryCategory, scene.Rent.EntryCategory);
+    QCOMPARE(scene.Book.Data.CountEntriesOfCategory(target), 2); // the purchase and the rest of the series
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    scene.Book.User.Answers = {eAnswer::Yes};
+    const cEntryItem other = scene.Book.Add([](cEntryItem&) {});
+    QVERIFY(drop.OnCategory({{scene.Rent.ID, QDate(2026, 3, 28)}, {other.ID, other.EntryDate}}, target));
+    QCOMPARE(scene.Stored(scene.Rent.ID).EntryCategory, target);
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    QCOMPARE(scene.Stored(other.ID).EntryCategory, other.EntryCategory);
 }
 
 void testSheet::RefusedCellChangesNothing()

@@ -1,6 +1,7 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "views/look/cCategoryLooks.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -41,6 +42,8 @@ private Q_SLOTS:
     void KeepsTheCategoryOfStartBalances();
     void MergesIntoACategoryThatStaysAsItIs();
     void MergesMainCategories();
+    void LooksGoWithTheirMainCategory_data();
+    void LooksGoWithTheirMainCategory();
     void TakesBackWhatFailsHalfway();
     void ChangesACategoryInOneStep();
     void KeepsVatThatIsNoRate();
@@ -207,6 +210,54 @@ void testTemplateManager::TakesBackWhatFailsHalfway()
     QCOMPARE(scene.Book.User.Shown, QStringList(u"ERROR: DeleteTemplate\nvoll"_s));
     QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Girokonto"_s);
     QCOMPARE(scene.Book.Data.LoadEntry(scene.Ids.at(0))->EntryAccount, u"Girokonto"_s);
+}
+
+void testTemplateManager::LooksGoWithTheirMainCategory_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to"); // merged into it where it exists; empty: deleted
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("look"); // of that one
+    QTest::newRow("renamed") << u"Urlaub"_s << u"Reisen"_s << u"Reisen"_s << u"#112233 reise"_s;
+    QTest::newRow("renamed in letter case") << u"Urlaub"_s << u"URLAUB"_s << u"URLAUB"_s << u"#112233 reise"_s;
+    QTest::newRow("its only sub-category moves")
+        << u"Urlaub; See"_s << u"Ferien; See"_s << u"Ferien"_s << u"#112233 reise"_s;
+    QTest::newRow("one of several moves") << u"Freizeit; Kino"_s << u"Kultur; Kino"_s << u"Kultur"_s << u" "_s;
+    QTest::newRow("a sub-category is renamed")
+        << u"Urlaub; See"_s << u"Urlaub; Meer"_s << u"Urlaub"_s << u"#112233 reise"_s;
+    QTest::newRow("merged into one without") << u"Urlaub"_s << u"Haushalt"_s << u"Haushalt"_s << u"#112233 reise"_s;
+    QTest::newRow("merged into one with its own") << u"Urlaub"_s << u"Freizeit"_s << u"Freizeit"_s << u"#445566 "_s;
+    QTest::newRow("deleted") << u"Urlaub"_s << QString() << u"Urlaub"_s << u" "_s;
+}
+
+void testTemplateManager::LooksGoWithTheirMainCategory()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    cTemplateScene scene;
+    QVERIFY(!scene.Manager.AddCategory(u"Urlaub"_s, u"See"_s).isEmpty());
+    QVERIFY(!scene.Manager.AddCategory(u"Freizeit"_s, u"Kino"_s).isEmpty());
+    const auto look = [&](const QString& main) {
+        const cCategoryLook found = cCategoryLooks::Read(scene.Book.Data).Of(main);
+        return QString(found.Color + u' ' + found.Icon);
+    };
+    QVERIFY(!scene.Category(u"Urlaub"_s).Look.isValid()); // lists have no room for what no category has
+    QVERIFY(scene.Save(scene.Category(u"Freizeit"_s), [](cTemplateFields& each) { each.Look.Color = u"#445566"_s; }));
+    QVERIFY(scene.Save(scene.Category(u"Urlaub"_s), [](cTemplateFields& each) {
+        each.Look = {u"#112233"_s, u"reise"_s};
+    }));
+    QCOMPARE(look(u"Urlaub; See"_s), u"#112233 reise"_s);
+    scene.Book.User.Answers = {eAnswer::Yes};
+    const bool isMerge = scene.Manager.Mains().contains(to);
+    QVERIFY(to.isEmpty()  ? scene.Manager.DeleteCategory(from)
+                : isMerge ? scene.Manager.MergeCategory(from, to)
+                          : scene.Manager.RenameCategory(from, to));
+    QFETCH(QString, shown);
+    QTEST(look(shown), "look");
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    scene.Book.Settings->Reload();
+    QCOMPARE(look(u"Urlaub"_s), u"#112233 reise"_s);
+    QCOMPARE(look(u"Freizeit"_s), u"#445566 "_s);
 }
 
 void testTemplateManager::ChangesACategoryInOneStep()

@@ -38,6 +38,7 @@
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
 #include "views/overview/cOverviewModel.h"
+#include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
@@ -64,6 +65,7 @@
 #include "windows/help/frmHandbuch.h"
 #include "windows/help/frmUpdate.h"
 #include "windows/main/frmMain.h"
+#include "windows/main/frmMehrere.h"
 #include "windows/main/frmSuche.h"
 #include "windows/overview/frmUebersicht.h"
 #include "windows/statement/frmImport.h"
@@ -148,6 +150,7 @@ struct cScene
     cMainModel EmptyMain{EmptyBook.Tools, {EmptyBook.Configuration, EmptyBook.Shell, Navigator, EmptyBook.Path()}};
     cOverviewModel EmptyOverview{EmptyBook.Tools, {Navigator, EmptyMain}};
     cEntryEditor Editor{Book.Tools};
+    std::optional<cManyChange> Many;
     cSeriesChange Change{Book.Tools};
     cTemplateManager Manager{Book.Tools};
     cSearchModel SearchModel{Book.Tools};
@@ -350,6 +353,11 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
      [](cScene& scene) {
          const auto fields = scene.Change.StartPeriod(scene.Series.ID, QDate(2026, 4, 10));
          return fields ? std::make_unique<frmKorrektur>(scene.Change, *fields) : nullptr;
+     }},
+    {"several entries",
+     [](cScene& scene) {
+         scene.Many.emplace(scene.Book.Tools, QList<cEntryListModel::cKey>{{scene.Series.ID, {}}, {scene.Part.ID, {}}});
+         return std::make_unique<frmMehrere>(*scene.Many);
      }},
     {"manual",
      [](cScene& scene) {

@@ -1,6 +1,7 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/template/cTemplateTree.h"
 #include "windows/template/frmKategorie.h"
@@ -91,6 +92,25 @@ class testFrmKategorie final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void LookIsChosenByKeys()
+    {
+        cScene scene;
+        QVERIFY(scene.Window.Select(u"Haushalt"_s));
+        auto& colors = scene.Field<QComboBox>(u"Farbe und Symbol:"_s);
+        colors.setFocus();
+        QTest::keyClicks(&colors, u"Rost"_s);
+        QTest::keyClick(&colors, Qt::Key_Tab);
+        QTest::keyClicks(QApplication::focusWidget(), u"Teller"_s);
+        QVERIFY(scene.Window.Select(food)); // stores it
+        const cCategoryLook expected{u"#a54900"_s, u"essen"_s};
+        QCOMPARE(cCategoryLooks::Read(scene.Book.Data).Of(food), expected);
+        scene.Book.Settings->Set(modSettingKey::CategoryColor.Of(u"Haushalt"_s), u"#123456"_s);
+        QVERIFY(scene.Window.Select(u"Haushalt"_s));
+        QCOMPARE(colors.currentText(), u"#123456"_s); // one of the user's own
+        QVERIFY(scene.Window.Select(food));
+        QCOMPARE(cCategoryLooks::Read(scene.Book.Data).Of(food).Color, u"#123456"_s);
+    }
+
     void OpensAtACategoryOrAccount()
     {
         cScene scene;

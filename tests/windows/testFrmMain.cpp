@@ -32,6 +32,7 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -92,7 +93,9 @@ private Q_SLOTS:
     void BadAmountStaysInItsCell();
     void ClickElsewhereStoresTheCell();
     void RowsGoToTheClipboard();
-    void RowsAreDroppedOnAnAccount();
+    void RowsAreDropped_data();
+    void RowsAreDropped();
+    void OnlyLinesAreDragged();
     void AnotherAccountBeginsOnTheSameDay();
     void MessageStandsInPlaceOfTheReminder();
     void DayIsJumpedTo();
@@ -466,28 +469,52 @@ void testFrmMain::RowsGoToTheClipboard()
     QVERIFY(QGuiApplication::clipboard()->mimeData()->hasHtml());
 }
 
-void testFrmMain::RowsAreDroppedOnAnAccount()
+void testFrmMain::RowsAreDropped_data()
 {
+    QTest::addColumn<bool>("isAccount");
+    QTest::addColumn<QString>("grouping");
+    QTest::addColumn<QString>("target"); // empty: not taken
+    QTest::newRow("on an account") << true << u"Keine Gruppierung"_s << u"Bargeld"_s;
+    QTest::newRow("on a category") << false << u"Nach Kategorie"_s << u"Haushalt; Lebensmittel"_s;
+    QTest::newRow("on another group") << false << u"Nach Monat"_s << QString();
+}
+
+void testFrmMain::RowsAreDropped()
+{
+    QFETCH(bool, isAccount);
+    QFETCH(QString, grouping);
+    QFETCH(QString, target);
     cScene scene;
-    auto* accounts = scene.Window.findChild<cAccountPanel*>()->findChild<QTreeView*>();
-    const QModelIndex cash = scene.Model.AccountList().index(4, 0); // below the group of the same name
+    scene.Model.ChooseGrouping(grouping);
+    QTreeView& tree = isAccount ? *scene.Window.findChild<cAccountPanel*>()->findChild<QTreeView*>() : scene.Tree();
+    const QModelIndex index = isAccount ? scene.Model.AccountList().index(4, 0) // below the group of the same name
+                                        : scene.Model.Entries().index(0, 0);
     const QList<cEntryListModel::cKey> rows{{scene.First.ID, scene.First.EntryDate}};
     QMimeData data;
     data.setData(modRowDrag::Format, modRowDrag::ToBytes(rows));
-    QSignalSpy dropped(&scene.Window, &frmMain::RowsDropped);
-    const QPoint place = accounts->visualRect(cash).center();
+    const auto dropped = isAccount ? std::make_unique<QSignalSpy>(&scene.Window, &frmMain::RowsDropped)
+                                   : std::make_unique<QSignalSpy>(&scene.Window, &frmMain::RowsRegrouped);
+    const QPoint place = tree.visualRect(index).center();
     QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(accounts->viewport(), &enter); // a drop goes to whom it was told of
+    QApplication::sendEvent(tree.viewport(), &enter); // a drop goes to whom it was told of
     QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(accounts->viewport(), &event);
+    QApplication::sendEvent(tree.viewport(), &event);
     QTest::qWait(5);
-    QCOMPARE(dropped.size(), 1);
-    QCOMPARE(dropped.first().at(0).value<QList<cEntryListModel::cKey>>(), rows);
-    QCOMPARE(dropped.first().at(1).toString(), u"Bargeld"_s);
+    QCOMPARE(dropped->size(), target.isEmpty() ? 0 : 1);
+    QCOMPARE(event.isAccepted(), !target.isEmpty());
+    if (!target.isEmpty()) {
+        QCOMPARE(dropped->first().at(0).value<QList<cEntryListModel::cKey>>(), rows);
+        QCOMPARE(dropped->first().at(1).toString(), target);
+    }
     QDropEvent aside(place, Qt::CopyAction, &data, Qt::LeftButton, {}); // beside the list, at its header
-    QApplication::sendEvent(accounts, &aside);
+    QApplication::sendEvent(&tree, &aside);
     QTest::qWait(5);
-    QCOMPARE(dropped.size(), 1);
+    QCOMPARE(dropped->size(), target.isEmpty() ? 0 : 1);
+}
+
+void testFrmMain::OnlyLinesAreDragged()
+{
+    cScene scene;
     // Else the mouse would only select, and heads of groups go nowhere.
     QVERIFY(scene.Model.Entries().index(0, 0).flags() & Qt::ItemIsDragEnabled);
     scene.Model.ChooseGrouping(u"Nach Monat"_s);

@@ -78,6 +78,9 @@ private Q_SLOTS:
         QTest::keyClick(&scene.Tree, Qt::Key_Return);
         QCOMPARE(edits.size(), 1);
         QCOMPARE(edits.at(0).at(0).value<cEntryListModel::cKey>(), (cEntryListModel::cKey{1, QDate(2026, 3, 10)}));
+        QSignalSpy copies(&scene.Window, &frmSuche::NextMonthRequested);
+        QTest::keyClick(&scene.Tree, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(copies.size(), 1);
         QTest::keyClick(&scene.Tree, Qt::Key_Delete);
         QCOMPARE(deletions.size(), 1);
         QVERIFY(scene.Book.Data.DeleteEntry(1));

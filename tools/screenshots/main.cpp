@@ -34,6 +34,7 @@
 #include "tools/screenshots/takeBudget.h"
 #include "tools/screenshots/takeCharts.h"
 #include "tools/screenshots/takeHelp.h"
+#include "tools/screenshots/takeLooks.h"
 #include "tools/screenshots/takePeople.h"
 #include "tools/screenshots/takeReceipts.h"
 #include "tools/screenshots/takeReview.h"
@@ -579,7 +580,8 @@ int main(int argc, char* argv[])
         {u"charts"_s, TakeCharts},     {u"printed"_s, TakePrinted},
         {u"help"_s, TakeHelp},         {u"receipts"_s, TakeReceipts},
         {u"budget"_s, TakeBudget},     {u"more-charts"_s, TakeMoreCharts},
-        {u"people"_s, TakePeople},     {u"sheet"_s, TakeSheet}};
+        {u"people"_s, TakePeople},     {u"sheet"_s, TakeSheet},
+        {u"looks"_s, TakeLooks}};
     const QStringList wanted = qEnvironmentVariable("SCENES").split(u' ', Qt::SkipEmptyParts);
     bool isGood = true;
     for (const auto& [name, take] : scenes) {

@@ -41,6 +41,7 @@ cBudgetModel::cBudgetModel(const cBookTools& tools, QObject* parent)
 
 void cBudgetModel::BuildLines()
 {
+    m_looks = cCategoryLooks::Read(m_tools.Data);
     m_lines = {{cText::Tr("Summe")}};
     const QList<cBudgetEdit::cRow>& rows = m_edit.Rows();
     QString group;
@@ -295,6 +296,9 @@ QVariant cBudgetModel::headerData(int section, Qt::Orientation orientation, int 
             return QString((m_lines.at(section).Row < 0 ? u""_s : u"    "_s) + m_lines.at(section).Label);
         case Qt::ToolTipRole: return m_lines.at(section).Label;
         case IsHeadRole: return m_lines.at(section).Row < 0;
+        // The first line is the sum of all.
+        case cCategoryLooks::Role:
+            return section > 0 && m_lines.at(section).Row < 0 ? m_looks.Shown(m_lines.at(section).Label) : QVariant();
         default: return {};
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/budget/cBudgetEdit.h"
+#include "views/look/cCategoryLooks.h"
 
 #include <QAbstractTableModel>
 #include <QMap>
@@ -84,6 +85,7 @@ private:
 
     const cBookTools& m_tools;
     cBudgetEdit m_edit;
+    cCategoryLooks m_looks;
     int m_month;
     QList<cLine> m_lines;
     QMap<cCell, QString> m_faulty; // as typed

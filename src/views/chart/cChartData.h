@@ -48,6 +48,7 @@ struct cChartSeries
     QList<std::optional<qint64>> Cents{}; // one for each label; without a value there is a gap
     QList<cChartTarget> Targets{};        // one for each label, or none at all
     int Colour = 0;                       // number in the palette
+    QString OwnColour{};                  // "#rrggbb" that the user gave a main category; goes before the number
     eShape Shape = eShape::Natural;
     bool IsDashed = false;     // what lies behind `Today` is not booked yet and looks like it
     bool IsComparison = false; // of the period laid beside; drawn paler

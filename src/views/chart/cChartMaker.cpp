@@ -55,6 +55,7 @@ cChartData cChartMaker::Make(const cChartWish& wish)
 {
     cChartData data = HasForecast(wish.Kind) ? MakeBalances(wish) : MakeFromEntries(wish);
     data.Decimal = m_format.Decimal();
+    modChart::UseLooks(data, cCategoryLooks::Read(m_data));
     return data;
 }
 

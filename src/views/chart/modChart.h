@@ -5,6 +5,7 @@
 #include "model/cTemplateItem.h"
 #include "views/chart/cChartMaker.h"
 #include "views/list/cBalanceDays.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/report/cReportWish.h"
 
 #include <functional>
@@ -70,6 +71,10 @@ struct cBalanceInput
 
 // Balances as shares of their sum.
 [[nodiscard]] cChartData NetWorth(const cBalanceInput& input);
+
+// Gives the series that stand for main categories the colours that the user chose for those. Series that would look
+// like them get other numbers of the palette.
+void UseLooks(cChartData& data, const cCategoryLooks& looks);
 
 // The wish for figures that count what the chart counts.
 [[nodiscard]] cReportWish ReportWish(const cChartWish& wish, const modPeriod::cRange& range, QDate today);

@@ -283,6 +283,14 @@ QModelIndex cEntryListModel::IndexNearest(QDate day) const
     return found == m_order.end() ? QModelIndex() : IndexAt(static_cast<std::size_t>(found - m_order.begin()));
 }
 
+QString cEntryListModel::GroupCategory(const QModelIndex& index) const
+{
+    const bool isHead = EntryAt(index) == nullptr;
+    const cEntryItem* entry = EntryAt(isHead && index.isValid() ? this->index(0, 0, index.siblingAtColumn(0)) : index);
+    const bool isCategory = IsGrouped() && m_grouping == u"Nach Kategorie" && entry != nullptr;
+    return isCategory && entry->EntryCategory != modWord::Startguthaben ? entry->EntryCategory : QString();
+}
+
 Qt::ItemFlags cEntryListModel::flags(const QModelIndex& index) const
 {
     const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
@@ -372,6 +380,7 @@ QVariant cEntryListModel::EntryData(int entry, int column, int role) const
     case CorrectedRole: return item.IsCorrected;
     case ReceiptsRole: return column == Receipts ? modReceiptName::Count(item) : 0;
     case Qt::AccessibleTextRole: return column == Receipts ? ReceiptText(item) : QVariant();
+    case cCategoryLooks::Role: return column == Category ? m_content.Looks.Shown(item.EntryCategory) : QVariant();
     case CentsRole: {
         const std::optional<qint64> cents = Cents(entry, column);
         return cents ? QVariant(*cents) : QVariant();
@@ -400,6 +409,11 @@ QVariant cEntryListModel::GroupData(const cGroup& group, int column, int role) c
     }
     if (role == CentsRole) {
         return column == Amount ? QVariant(group.Sum) : QVariant();
+    }
+    if (role == cCategoryLooks::Role) {
+        const bool isOfCategory = m_grouping == u"Nach Kategorie" || m_grouping == u"Nach Sparte";
+        const cEntryItem& first = m_content.Entries.at(m_order[At(group.First)]);
+        return isOfCategory ? m_content.Looks.Shown(first.EntryCategory) : QVariant();
     }
     if (role != Qt::DisplayRole) {
         return {};

@@ -3,6 +3,7 @@
 #include "base/modFold.h"
 #include "model/cEntryItem.h"
 #include "views/list/modEntrySums.h"
+#include "views/look/cCategoryLooks.h"
 
 #include <QAbstractItemModel>
 #include <QDate>
@@ -70,6 +71,7 @@ public:
         QDate Today;
         QString HiddenCategory;             // entries of this category are left out; empty: none
         std::optional<qint64> StartBalance; // cents before the first entry; without it the balance column stays empty
+        cCategoryLooks Looks{};
     };
     void SetContent(cContent content, const QString& filter, const QString& grouping);
     void SetFilter(const QString& text);       // every word must be found
@@ -87,6 +89,9 @@ public:
     // entries.
     [[nodiscard]] QModelIndex IndexNearest(QDate day) const;
     [[nodiscard]] bool IsGrouped() const { return !m_groups.empty(); }
+    // The category of the group that a line or a head is in, which other entries may be given as well; empty unless the
+    // list is grouped by category.
+    [[nodiscard]] QString GroupCategory(const QModelIndex& index) const;
     [[nodiscard]] const QString& Grouping() const { return m_grouping; }            // as it was set
     [[nodiscard]] const QString& ShownAccount() const { return m_content.Account; } // empty: all accounts
     [[nodiscard]] QStringList KnownTags() const; // of all its entries, filtered out or not

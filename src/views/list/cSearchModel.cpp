@@ -131,6 +131,7 @@ void cSearchModel::Show()
     }
     content.Account = m_query.Account;
     content.Today = Today();
+    content.Looks = cCategoryLooks::Read(m_tools.Data);
     m_entries.SetContent(std::move(content), m_query.Text, modWord::KeineGruppierung);
     Q_EMIT Found();
 }

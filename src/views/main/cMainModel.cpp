@@ -151,6 +151,7 @@ void cMainModel::LoadEntries()
     content.Account = query.Account;
     content.Today = today;
     content.HiddenCategory = m_view.ShowsStart ? QString() : modWord::Startguthaben;
+    content.Looks = cCategoryLooks::Read(m_tools.Data);
     m_entries.SetContent(std::move(content), m_view.Filter, m_view.Grouping);
     Q_EMIT EntriesChanged();
 }

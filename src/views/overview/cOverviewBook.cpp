@@ -58,6 +58,7 @@ cOverviewBook cOverviewBook::Read(const cBookTools& tools)
     book.Due = modOverview::Due(entries, book.Today, DueDays);
     book.Contracts = cContracts(tools).Ahead(modContract::NoticeDays);
     book.Limits = LimitsOf(entries, book.Templates, tools);
+    book.Looks = cCategoryLooks::Read(tools.Data);
     book.IsUnread = !tools.Data.IsWhole();
     return book;
 }

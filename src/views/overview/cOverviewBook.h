@@ -3,6 +3,7 @@
 #include "model/cEntryItem.h"
 #include "model/cTemplateItem.h"
 #include "views/list/cBalanceDays.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/overview/modOverview.h"
 #include "views/report/cReportFigures.h"
 
@@ -31,4 +32,5 @@ struct cOverviewBook
     cEntryItemList Contracts{}; // that have to be cancelled soon or go on
     cReportFigures Limits{};    // of this month, with what is planned
     cTemplateItemList Templates{};
+    cCategoryLooks Looks{};
 };

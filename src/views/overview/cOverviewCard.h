@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QList>
 #include <QString>
+#include <QVariant>
 
 #include <functional>
 #include <optional>
@@ -25,6 +26,7 @@ struct cOverviewLine
     std::function<void()> Follow{}; // what a click leads to; none: it is only read
     std::optional<int> Percent{};   // of a bar below the line; over 100 where more was spent than may be
     QList<cOverviewAction> Actions{};
+    QVariant Look{}; // of a category; see cCategoryLooks::Shown
 };
 
 // A balance day by day from today on, in cents.

@@ -351,11 +351,15 @@ cOverviewCard cOverviewModel::Limits()
                 ? cText::Tr("{0} zu viel", {Signed(-left)})
                 : cText::Tr("noch {0}, {1} je Tag",
                             {Signed(left), Signed(modOverview::LeftPerDay(left, m_book->Today))});
-            card.Lines.append({path, figure, left < 0 ? eOverviewTone::Warning : eOverviewTone::Plain,
+            card.Lines.append({path,
+                               figure,
+                               left < 0 ? eOverviewTone::Warning : eOverviewTone::Plain,
                                [this, path] {
                                    ShowMonth({path, modWord::AlleBuchungsarten, path, eUntil::MonthEnd});
                                },
-                               Percent(amount)});
+                               Percent(amount),
+                               {},
+                               m_book->Looks.Shown(path)});
         }
     }
     std::stable_sort(card.Lines.begin(), card.Lines.end(),

@@ -15,6 +15,7 @@
 #include "store/cUndoStep.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cLesson.h"
 #include "views/statement/cPlanFlow.h"
@@ -390,6 +391,24 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
     m_summary = {cText::Tr("{0} gebucht.", {modImportText::Count(1)})};
     Refresh();
     Q_EMIT SummaryChanged();
+    Q_EMIT EntriesChanged();
+}
+
+std::unique_ptr<cManyChange> cImportReview::StartChange(const QList<int>& rowIds)
+{
+    QList<cEntryListModel::cKey> entries;
+    const cImportEntryList rows = RowsOf(rowIds);
+    for (const cImportEntry& row : rows) {
+        entries.append(cEntryListModel::cKey{row.ImportAssigned ? row.ImportAssignedEntry : 0, {}});
+    }
+    const bool isBooked = std::all_of(entries.begin(), entries.end(), [](const auto& entry) { return entry.ID > 0; });
+    auto change = std::make_unique<cManyChange>(m_tools, entries);
+    return isBooked && change->Count() > 0 ? std::move(change) : nullptr;
+}
+
+void cImportReview::FollowEntries()
+{
+    Refresh();
     Q_EMIT EntriesChanged();
 }
 

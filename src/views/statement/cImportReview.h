@@ -15,6 +15,7 @@
 class cAssignListModel;
 class cEntryEditor;
 class cEntrySuggestions;
+class cManyChange;
 class cProgress;
 class cRuleEditor;
 class cStatementFiles;
@@ -84,6 +85,10 @@ public:
     // as it is. Where all rows are booked, their entries get the category. False when it cannot be done.
     bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval,
                 const QString& description = {});
+    // The entries behind rows that are all booked, to be changed together; empty otherwise. Whoever has stored a change
+    // says so.
+    [[nodiscard]] std::unique_ptr<cManyChange> StartChange(const QList<int>& rowIds);
+    void FollowEntries();
     // After the category of one row was chosen: offers it for the other open rows of the same payee, now or by an own
     // rule for all that are still to come. Nothing is asked when there are none.
     void OfferAlike(int rowId, const QString& category);

@@ -56,6 +56,7 @@ void cStagedChoice::SetRows(const cImportEntryList& rows)
     if (m_rows.Grouping() != grouping) {
         m_rows.SetGrouping(grouping);
     }
+    m_rows.SetLooks(cCategoryLooks::Read(m_tools.Data));
     m_rows.SetRows(rows);
     Q_EMIT Changed();
 }

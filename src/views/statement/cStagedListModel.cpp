@@ -356,6 +356,7 @@ QVariant cStagedListModel::RowData(const cImportEntry& row, int column, int role
     case BookedRole: return row.ImportAssigned;
     case GroupRole: return false;
     case DoubtRole: return InfoOf(row).IsDoubtful;
+    case cCategoryLooks::Role: return column == Category ? m_looks.Shown(InfoOf(row).Category) : QVariant();
     default: return {};
     }
 }

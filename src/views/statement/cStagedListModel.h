@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cImportEntry.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/statement/cStagedOrder.h"
 #include "views/statement/cStagedSource.h"
 
@@ -34,6 +35,7 @@ public:
     cStagedListModel(cStagedSource& source, const cAmountFormat& format, QObject* parent = nullptr);
 
     void SetRows(cImportEntryList rows);
+    void SetLooks(const cCategoryLooks& looks) { m_looks = looks; } // before the rows
     void SetShown(const cStagedOrder::cShown& shown);
     [[nodiscard]] const cStagedOrder::cShown& Shown() const { return m_order.Shown(); }
     void SetFilter(const QString& text); // every word must be found
@@ -77,6 +79,7 @@ private:
     cStagedSource& m_source;
     const cAmountFormat& m_format;
     cStagedOrder m_order;
+    cCategoryLooks m_looks;
     int m_sortColumn = Date;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     mutable QHash<int, cStagedInfo> m_info; // by row ID, as far as it was asked for

@@ -6,6 +6,7 @@
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
 #include "views/list/modViewRecord.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/template/cBankNumbers.h"
 
 #include <algorithm>
@@ -52,5 +53,6 @@ bool cNameKeepers::MoveShares(const QString& oldName, const QString& newName)
 
 bool cNameKeepers::RenameCategory(const QString& oldPath, const QString& newPath)
 {
-    return cOwnRules(m_settings).RenameCategory(oldPath, newPath) && modLimits::Move(m_settings, oldPath, newPath);
+    return cOwnRules(m_settings).RenameCategory(oldPath, newPath) && modLimits::Move(m_settings, oldPath, newPath)
+        && cCategoryLooks::Follow(m_data, m_settings, oldPath, newPath);
 }

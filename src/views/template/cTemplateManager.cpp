@@ -15,6 +15,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/budget/modLimits.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cTemplateFlow.h"
 #include "views/template/cTemplateRemoval.h"
@@ -77,7 +78,13 @@ void cTemplateManager::Refresh()
 {
     const cTemplateItemList items = m_tools.Data.GetTemplates();
     const auto cents = [this](qint64 value) { return m_tools.Format.Cents(value); };
-    m_categories.SetBranches(modTemplateNodes::Categories(items, m_tools.Data.CountEntriesByCategory(), cents));
+    std::vector<cTemplateBranch> categories =
+        modTemplateNodes::Categories(items, m_tools.Data.CountEntriesByCategory(), cents);
+    const cCategoryLooks looks = cCategoryLooks::Read(m_tools.Data);
+    for (cTemplateBranch& branch : categories) {
+        branch.Node.Look = looks.Shown(branch.Node.Path);
+    }
+    m_categories.SetBranches(std::move(categories));
     modTemplateNodes::cAccountFacts facts{m_tools.Data.CountEntriesByAccount(), StartBalances(m_tools.Data), {}};
     const QList<std::pair<QString, QString>> numbers = cBankNumbers(m_tools.Data, m_tools.Settings).All();
     for (const auto& [number, account] : numbers) {

@@ -12,6 +12,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/budget/modLimits.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/receipt/cStatementPapers.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cNameKeepers.h"
@@ -183,9 +184,11 @@ bool cTemplateRemoval::Delete(const cDoomed& doomed, const QString& onlyDelete)
     return !target.isEmpty() && Remove(doomed, target);
 }
 
-bool cTemplateRemoval::DeleteWithBudget(const cTemplateItem& item)
+bool cTemplateRemoval::DeleteWithSettings(const cTemplateItem& item, const QString& target)
 {
-    return modLimits::Remove(m_tools.Settings, modTemplate::Path(item)) && m_tools.Data.DeleteTemplate(item.ID);
+    const QString path = modTemplate::Path(item);
+    return modLimits::Remove(m_tools.Settings, path) && m_tools.Data.DeleteTemplate(item.ID)
+        && cCategoryLooks::Follow(m_tools.Data, m_tools.Settings, path, target);
 }
 
 bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
@@ -195,7 +198,7 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
         : cText::Tr("{0} Kategorien gelöscht", {QString::number(doomed.Items.size())});
     cUndoStep step(m_tools.Data, name);
     const bool isDeleted = std::all_of(doomed.Items.begin(), doomed.Items.end(),
-                                       [&](const cTemplateItem& item) { return DeleteWithBudget(item); });
+                                       [&](const cTemplateItem& item) { return DeleteWithSettings(item, {}); });
     const bool isMoved =
         target.isEmpty() || std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
             return m_tools.Data.ChangeEntryCategory(target, path)
@@ -235,8 +238,8 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
         return false;
     }
     cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
-    const bool isDeleted =
-        std::all_of(sources.begin(), sources.end(), [&](const cTemplateItem& item) { return DeleteWithBudget(item); });
+    const bool isDeleted = std::all_of(sources.begin(), sources.end(),
+                                       [&](const cTemplateItem& item) { return DeleteWithSettings(item, targetPath); });
     return Finish(step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
                               && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath)));
 }
@@ -271,7 +274,8 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
                        [&](const QString& path) {
                            return m_tools.Data.ChangeEntryCategory(modTemplate::WithMain(path, into), path);
                        })
-        && cOwnRules(m_tools.Settings).RenameMain(source, into);
+        && cOwnRules(m_tools.Settings).RenameMain(source, into)
+        && cCategoryLooks::Follow(m_tools.Data, m_tools.Settings, source, into);
     return Finish(step.DoneIf(isWritten));
 }
 

@@ -49,7 +49,8 @@ private:
 
     [[nodiscard]] cDoomed CollectMain(const QString& main);
     bool Delete(const cDoomed& doomed, const QString& onlyDelete);
-    [[nodiscard]] bool DeleteWithBudget(const cTemplateItem& item);
+    // With what the settings keep of it; the look of its main category may go to that of `target`.
+    [[nodiscard]] bool DeleteWithSettings(const cTemplateItem& item, const QString& target);
     [[nodiscard]] bool Remove(const cDoomed& doomed, const QString& target);
     [[nodiscard]] bool WriteMergedMain(const QString& source, const QString& target);
     [[nodiscard]] bool RemoveAccount(const cTemplateItem& account, const QString& target);

@@ -1,5 +1,7 @@
 #include "views/template/cTemplateTreeModel.h"
 
+#include "views/look/cCategoryLooks.h"
+
 namespace {
 
 // The internal id of a line is 0 for a branch and the branch's row + 1 for a line below it.
@@ -105,6 +107,7 @@ QVariant cTemplateTreeModel::data(const QModelIndex& index, int role) const
     case Qt::TextAlignmentRole:
         return m_numeric.contains(index.column()) ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case QuietRole: return node->IsQuiet;
+    case cCategoryLooks::Role: return index.column() == 0 ? node->Look : QVariant();
     case BranchRole: return index.internalId() == noParent;
     default: return {};
     }

@@ -3,6 +3,7 @@
 #include <QAbstractItemModel>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 #include <vector>
 
@@ -18,6 +19,7 @@ struct cTemplateNode
     int Entries = 0;   // of the whole branch
     int OwnEntries = 0;
     bool IsQuiet = false; // hidden, closed, or without definition
+    QVariant Look{};      // of a main category; see cCategoryLooks::Shown
 
     // The same line, also after its names have changed when it has a definition.
     [[nodiscard]] bool IsSame(const cTemplateNode& other) const

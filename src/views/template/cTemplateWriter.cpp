@@ -168,6 +168,7 @@ cTemplateFields cTemplateWriter::LoadMain(const QString& main) const
     }
     fields.Name = main;
     fields.IsVisible = isAnyVisible;
+    fields.Look = cCategoryLooks::Read(m_tools.Data).Of(main);
     return fields;
 }
 
@@ -282,7 +283,8 @@ std::optional<QString> cTemplateWriter::SaveMain(const cTemplateNode& node, cons
 bool cTemplateWriter::WriteMain(const cTemplateNode& node, const QString& main, const cTemplateFields& old,
                                 const cTemplateFields& fields)
 {
-    return WriteOwn(node, main, fields) && (fields.IsVisible == old.IsVisible || WriteVisible(main, fields.IsVisible));
+    return WriteOwn(node, main, fields) && (fields.IsVisible == old.IsVisible || WriteVisible(main, fields.IsVisible))
+        && (fields.Look == old.Look || cCategoryLooks::Store(m_tools.Settings, main, fields.Look));
 }
 
 // The definition of the main category itself comes and goes with its being bookable.

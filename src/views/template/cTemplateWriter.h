@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cTemplateItem.h"
+#include "views/look/cCategoryLooks.h"
 #include "views/template/cTemplateTreeModel.h"
 
 #include <QDate>
@@ -25,6 +26,7 @@ struct cTemplateFields
     QDate Date;       // of the start balance; invalid when none or none that can be read stands there
     QString Numbers;  // the bank's numbers of the account, one a line
     QString Comment;
+    cCategoryLook Look{};    // of a main category
     bool IsVisible = true;   // for a main category: of everything below it
     bool IsBookable = false; // a main category that entries can have themselves: only then it has defaults
 

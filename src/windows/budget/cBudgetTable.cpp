@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "views/budget/cBudgetModel.h"
 #include "windows/widget/cRowDelegate.h"
+#include "windows/widget/modLook.h"
 #include "windows/widget/modTone.h"
 
 #include <QApplication>
@@ -94,7 +95,7 @@ protected:
     }
 };
 
-// The heads of the lines in bold; a model without widgets knows no fonts.
+// The heads of the lines in bold and with their pictures; a model without widgets knows no fonts.
 class cHeads final : public QIdentityProxyModel
 {
 public:
@@ -106,6 +107,12 @@ public:
             QFont font = QApplication::font();
             font.setBold(sourceModel()->headerData(section, orientation, cBudgetModel::IsHeadRole).toBool());
             return font;
+        }
+        if (orientation == Qt::Vertical && role == Qt::DecorationRole) {
+            const QVariant look = sourceModel()->headerData(section, orientation, cCategoryLooks::Role);
+            return look.isValid() && look.value<cCategoryLook>() != cCategoryLook{}
+                ? QVariant(modLook::Icon(look.value<cCategoryLook>()))
+                : QVariant();
         }
         return QIdentityProxyModel::headerData(section, orientation, role);
     }

@@ -30,7 +30,7 @@ QFont ScaledFont(QFont font, double factor)
 QColor cChartScene::Colour(int series) const
 {
     const cChartSeries& each = Data.Series[series];
-    const QColor colour = modChartColour::Series(each.Colour, Style.Palette);
+    const QColor colour = modChartColour::Series(each, Style.Palette);
     return each.IsComparison ? modChartColour::Pale(colour, Style.Palette) : colour;
 }
 

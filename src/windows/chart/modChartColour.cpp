@@ -1,19 +1,7 @@
 #include "windows/chart/modChartColour.h"
 
+#include "windows/widget/modLook.h"
 #include "windows/widget/modTone.h"
-
-#include <array>
-
-namespace {
-
-using cColours = std::array<QRgb, modChartColour::Count>;
-
-constexpr cColours light{0xff0087e8, 0xfff5aa00, 0xff1e8252, 0xffa54900, 0xff6fc2ee, 0xff88488f,
-                         0xff96c75e, 0xff263e3d, 0xff582f09, 0xff0a2fa9, 0xffd9b096, 0xff958da0};
-constexpr cColours dark{0xff8ba3f7, 0xfff3a900, 0xff3eb07e, 0xffcd621b, 0xff8edfff, 0xffa864a4,
-                        0xffb6f16d, 0xffe6dfd5, 0xff817543, 0xff6269de, 0xffffd6a0, 0xff627772};
-
-} // namespace
 
 QColor modChartColour::Mixed(const QColor& from, const QColor& to, double share)
 {
@@ -24,9 +12,15 @@ QColor modChartColour::Mixed(const QColor& from, const QColor& to, double share)
 QColor modChartColour::Series(int number, const QPalette& palette)
 {
     const bool isDark = modTone::IsDark(palette);
-    const QColor colour((isDark ? dark : light)[static_cast<std::size_t>(number % Count)]);
+    const auto& row = isDark ? modCategoryColor::Dark : modCategoryColor::Light;
+    const QColor colour(row.at(static_cast<std::size_t>(number % Count)));
     const double shift = 0.3 * (number / Count % 3);
     return Mixed(colour, isDark ? QColor(Qt::black) : QColor(Qt::white), shift);
+}
+
+QColor modChartColour::Series(const cChartSeries& series, const QPalette& palette)
+{
+    return series.OwnColour.isEmpty() ? Series(series.Colour, palette) : modLook::Colour(series.OwnColour, palette);
 }
 
 QColor modChartColour::Pale(const QColor& colour, const QPalette& palette)

@@ -1,16 +1,18 @@
 #pragma once
 
+#include "views/chart/cChartData.h"
+#include "views/look/modCategoryColor.h"
+
 #include <QColor>
 #include <QPalette>
 
-// The colours of charts. They follow the idea that Masataka Okabe and Keiichi Ito published in 2002 ("Color Universal
-// Design"): few hues, which differ in lightness as well, so that they stay apart for people who cannot tell red from
-// green or blue from yellow. The numbers are our own, one row for light and one for dark backgrounds.
+// The colours of charts, from the palette of modCategoryColor.
 namespace modChartColour {
 
-inline constexpr int Count = 12; // numbers beyond begin again, shifted in lightness
+inline constexpr int Count = modCategoryColor::Count; // numbers beyond begin again, shifted in lightness
 
 [[nodiscard]] QColor Series(int number, const QPalette& palette);
+[[nodiscard]] QColor Series(const cChartSeries& series, const QPalette& palette); // its own, if it has one
 
 // The same paler, for what only stands beside.
 [[nodiscard]] QColor Pale(const QColor& colour, const QPalette& palette);

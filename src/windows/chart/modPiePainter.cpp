@@ -115,7 +115,7 @@ void PaintMiddle(QPainter& painter, const cChartScene& scene, const cChartLayout
 void PaintSlice(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit,
                 const cChartLayout::cCircle& circle)
 {
-    QColor colour = modChartColour::Series(scene.Data.Series[hit.Part.Series].Colour, scene.Style.Palette);
+    QColor colour = modChartColour::Series(scene.Data.Series[hit.Part.Series], scene.Style.Palette);
     if (scene.State.Hovered && scene.State.Hovered != hit.Part) {
         colour = modChartColour::Mixed(colour, scene.Style.Palette.color(QPalette::Base), 0.35);
     }

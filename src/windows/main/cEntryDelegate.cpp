@@ -3,6 +3,7 @@
 #include "views/list/cEntryListModel.h"
 #include "windows/main/modTagText.h"
 #include "windows/widget/modIcon.h"
+#include "windows/widget/modLook.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -76,6 +77,7 @@ bool cEntryDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const
 void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     cRowDelegate::initStyleOption(option, index);
+    modLook::Decorate(*option, index);
     // A font that nobody writes to stays the list's own, which has been looked up before.
     if (index.data(cEntryListModel::GroupRole).toBool()) {
         option->font.setBold(true);

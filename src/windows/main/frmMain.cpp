@@ -6,6 +6,7 @@
 #include "views/main/modCommand.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
+#include "windows/main/cCategoryDrop.h"
 #include "windows/main/cDayJump.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cReminderBar.h"
@@ -216,6 +217,7 @@ void frmMain::Connect()
     connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped);
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RowsDropped, this, &frmMain::RowsDropped);
+    connect(new cCategoryDrop(*m_tree, m_model.Entries()), &cCategoryDrop::RowsDropped, this, &frmMain::RowsRegrouped);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     // The keys of these commands belong to the list in front; the other page has its own.
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {

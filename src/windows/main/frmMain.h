@@ -69,6 +69,7 @@ Q_SIGNALS:
     void PageShown(frmMain::ePage page);                         // it came to the front
     // Onto an account, out of a list that shows them by the account `shown`; empty for all accounts.
     void RowsDropped(const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown);
+    void RowsRegrouped(const QList<cEntryListModel::cKey>& rows, const QString& category); // onto another group
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -14,6 +14,7 @@
 #include <QBoxLayout>
 #include <QHideEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -31,6 +32,7 @@ frmSuche::frmSuche(cSearchModel& model, cCellEdit& cells, QWidget* parent)
       m_edit(new QPushButton(modIcon::Get(u"bearbeiten"_s), cText::Tr("&Eintrag bearbeiten"), this)),
       m_delete(new QPushButton(modIcon::Get(u"loeschen"_s), cText::Tr("&Löschen"), this)),
       m_change(new QPushButton(cText::Tr("Me&hrere ändern…"), this)),
+      m_duplicate(new QPushButton(cText::Tr("D&uplizieren"), this)),
       m_clear(new QPushButton(cText::Tr("&Neue Suche"), this)),
       m_close(new QPushButton(cText::Tr("S&chließen"), this))
 {
@@ -75,10 +77,11 @@ QLayout* frmSuche::BuildButtons()
     row->addWidget(m_edit);
     row->addWidget(m_delete);
     row->addWidget(m_change);
+    row->addWidget(m_duplicate);
     row->AddStretch();
     row->addWidget(m_clear);
     row->addWidget(m_close);
-    for (QPushButton* button : {m_edit, m_delete, m_change, m_clear, m_close}) {
+    for (QPushButton* button : {m_edit, m_delete, m_change, m_duplicate, m_clear, m_close}) {
         button->setAutoDefault(false); // Enter belongs to the fields and to the list
     }
     return row;
@@ -117,7 +120,9 @@ void frmSuche::Connect()
     connect(m_tree, &cEntryTree::CellWritten, this, &frmSuche::CellWritten);
     connect(m_change, &QPushButton::clicked, this, [this] { Q_EMIT ChangeRequested(m_tree->SelectedKeys()); });
     AddKey(Qt::CTRL | Qt::Key_M, &frmSuche::ChangeRequested);
-    AddKey(Qt::CTRL | Qt::Key_D, &frmSuche::DuplicateRequested);
+    m_duplicate->setMenu(new QMenu(m_duplicate));
+    AddDuplicate(cText::Tr("Für &heute"), Qt::CTRL | Qt::Key_D, &frmSuche::DuplicateRequested);
+    AddDuplicate(cText::Tr("Für den nächsten &Monat"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, &frmSuche::NextMonthRequested);
     connect(new QShortcut(QKeySequence::Copy, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_tree, &cEntryTree::Copy);
 }
@@ -131,6 +136,16 @@ void frmSuche::AddKey(const QKeySequence& key, void (frmSuche::*signal)(const QL
                     Q_EMIT(this->*signal)(keys);
                 }
             });
+}
+
+void frmSuche::AddDuplicate(const QString& text, const QKeySequence& key,
+                            void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys))
+{
+    QAction* action = m_duplicate->menu()->addAction(text);
+    action->setShortcut(key); // shown here; the list itself listens to it
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, [this, signal] { Q_EMIT(this->*signal)(m_tree->SelectedKeys()); });
+    AddKey(key, signal);
 }
 
 void frmSuche::Search()
@@ -154,6 +169,7 @@ void frmSuche::ShowButtons()
     m_edit->setEnabled(count > 0);
     m_delete->setEnabled(count > 0);
     m_change->setEnabled(count > 0);
+    m_duplicate->setEnabled(count > 0);
 }
 
 void frmSuche::GoToList()

@@ -32,6 +32,7 @@ Q_SIGNALS:
     void DeleteRequested(const QList<cEntryListModel::cKey>& keys);
     void ChangeRequested(const QList<cEntryListModel::cKey>& keys);
     void DuplicateRequested(const QList<cEntryListModel::cKey>& keys); // for today
+    void NextMonthRequested(const QList<cEntryListModel::cKey>& keys); // the same a month later
     void CellWritten();                                                // in the list of what was found
     void ReceiptsDropped(int entryId, const QStringList& paths);
     void ReceiptsRequested(int entryId); // the window of the entry's receipts
@@ -54,6 +55,8 @@ private:
     void Delete();
     // A key that works on the selected lines while the list has the focus.
     void AddKey(const QKeySequence& key, void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys));
+    void AddDuplicate(const QString& text, const QKeySequence& key,
+                      void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys));
 
     cSearchModel& m_model;
     cSearchFields* m_fields;
@@ -63,6 +66,7 @@ private:
     QPushButton* m_edit;
     QPushButton* m_delete;
     QPushButton* m_change;
+    QPushButton* m_duplicate;
     QPushButton* m_clear;
     QPushButton* m_close;
 };

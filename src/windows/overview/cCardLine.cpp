@@ -1,5 +1,6 @@
 #include "windows/overview/cCardLine.h"
 
+#include "windows/widget/modLook.h"
 #include "windows/widget/modTone.h"
 
 #include <QPainter>
@@ -58,9 +59,14 @@ int cCardLine::LeadWidth() const
     return fontMetrics().horizontalAdvance(m_line.Text.left(LeadLetters()));
 }
 
+int cCardLine::LookWidth() const
+{
+    return m_line.Look.isValid() ? fontMetrics().height() + margin : 0;
+}
+
 bool cCardLine::IsStacked(int width) const
 {
-    const int room = width - 2 * margin - gap - FigureWidth();
+    const int room = width - 2 * margin - gap - FigureWidth() - LookWidth();
     const int wanted =
         std::min(fontMetrics().horizontalAdvance(m_line.Text), fontMetrics().averageCharWidth() * leastTextLetters);
     return FigureWidth() > 0 && room < wanted;
@@ -69,7 +75,7 @@ bool cCardLine::IsStacked(int width) const
 int cCardLine::TextHeight(int width) const
 {
     const bool isBeside = FigureWidth() > 0 && !IsStacked(width);
-    const int room = width - 2 * margin - LeadWidth() - (isBeside ? FigureWidth() + gap : 0);
+    const int room = width - 2 * margin - LookWidth() - LeadWidth() - (isBeside ? FigureWidth() + gap : 0);
     const QRect area(0, 0, std::max(room, 1), 10000);
     return fontMetrics().boundingRect(area, Qt::TextWordWrap, m_line.Text.mid(LeadLetters())).height();
 }
@@ -122,6 +128,11 @@ void cCardLine::paintEvent(QPaintEvent* /*event*/)
     QRect text(inner.topLeft(), QSize(inner.width(), textHeight));
     if (!isStacked && FigureWidth() > 0) {
         text.setWidth(inner.width() - FigureWidth() - gap);
+    }
+    if (LookWidth() > 0) {
+        const int side = fontMetrics().height();
+        modLook::Icon(m_line.Look.value<cCategoryLook>()).paint(&painter, text.left(), text.top(), side, side);
+        text.setLeft(text.left() + LookWidth());
     }
     painter.setPen(tintsText ? Colour() : palette().color(QPalette::Text));
     painter.drawText(text, Qt::AlignTop, m_line.Text.left(LeadLetters()));

@@ -26,6 +26,7 @@ private:
     [[nodiscard]] int FigureWidth() const;
     [[nodiscard]] int LeadLetters() const;
     [[nodiscard]] int LeadWidth() const;
+    [[nodiscard]] int LookWidth() const;           // of the picture before the text; 0 without one
     [[nodiscard]] bool IsStacked(int width) const; // the figure stands below the text
     [[nodiscard]] int TextHeight(int width) const;
     [[nodiscard]] QColor Colour() const;

@@ -2,9 +2,11 @@
 
 #include "base/cText.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cRuleEditor.h"
+#include "windows/main/frmMehrere.h"
 #include "windows/statement/cStagedTree.h"
 #include "windows/statement/frmRegeln.h"
 #include "windows/statement/frmUmsatzKategorie.h"
@@ -42,7 +44,9 @@ constexpr std::array<cLine, cStagedActions::Count> lines{{
                        "Öffnet den markierten Umsatz als Eintrag, auch zum Aufteilen; gespeichert ist er "
                        "gebucht (Strg+B)")},
     {QT_TRANSLATE_NOOP("cText", "&Kategorie…"), u"", Qt::Key_K, &cCan::Choose,
-     QT_TRANSLATE_NOOP("cText", "Wählt eine Kategorie und ein Intervall für die markierten Umsätze (Strg+K)")},
+     QT_TRANSLATE_NOOP("cText",
+                       "Wählt Kategorie, Intervall und Beschreibung für die markierten Umsätze; sind alle gebucht, "
+                       "ändert es deren Einträge (Strg+K)")},
     {QT_TRANSLATE_NOOP("cText", "Ab&gleichen"), u"zusammen", Qt::Key_G, &cCan::Match,
      QT_TRANSLATE_NOOP("cText",
                        "Findet zu den markierten oder allen gezeigten offenen Umsätzen die Einträge, die schon im "
@@ -125,7 +129,13 @@ void cStagedActions::AcceptProposals()
 
 void cStagedActions::ChooseCategory()
 {
-    frmUmsatzKategorie(m_review, m_tree.SelectedIds(), &m_page).exec();
+    const QList<int> ids = m_tree.SelectedIds();
+    const std::unique_ptr<cManyChange> change = m_review.StartChange(ids);
+    if (change == nullptr) {
+        frmUmsatzKategorie(m_review, ids, &m_page).exec();
+    } else if (frmMehrere(*change, &m_page).exec() == QDialog::Accepted) {
+        m_review.FollowEntries();
+    }
 }
 
 void cStagedActions::MatchRows()

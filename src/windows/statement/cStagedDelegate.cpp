@@ -3,6 +3,7 @@
 #include "model/modWord.h"
 #include "views/statement/cStagedListModel.h"
 #include "windows/widget/cCategoryBox.h"
+#include "windows/widget/modLook.h"
 #include "windows/widget/modTone.h"
 
 #include <QComboBox>
@@ -18,6 +19,7 @@ cStagedDelegate::cStagedDelegate(cEntrySuggestions& suggestions, QStringList int
 void cStagedDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     cRowDelegate::initStyleOption(option, index);
+    modLook::Decorate(*option, index);
     const bool saysWhy = index.column() == cStagedListModel::Reason || index.column() == cStagedListModel::State;
     if (saysWhy && index.data(cStagedListModel::DoubtRole).toBool()) {
         option->palette.setColor(QPalette::Text, modTone::Expense(option->palette));

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/template/cLookBox.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cElidedText.h"
 #include "windows/widget/modEmptyField.h"
@@ -56,6 +57,7 @@ cTemplatePanel::cTemplatePanel(QDate today, QWidget* parent)
       m_form(new QFormLayout),
       m_group(new QComboBox(this)),
       m_name(new QLineEdit(this)),
+      m_look(new cLookBox(this)),
       m_bookable(new QCheckBox(this)),
       m_type(new QComboBox(this)),
       m_interval(new QComboBox(this)),
@@ -116,7 +118,7 @@ void cTemplatePanel::AddRow(const QString& text, QWidget* field)
 {
     auto* label = new QLabel(text, this);
     m_form->addRow(label, field);
-    label->setBuddy(field == m_startRow ? m_start : field);
+    label->setBuddy(field == m_startRow ? m_start : field == m_look ? m_look->focusProxy() : field);
     m_rows.push_back({label, field, text});
 }
 
@@ -149,6 +151,7 @@ void cTemplatePanel::BuildFields()
 
     AddRow(cText::Tr("Nam&e:"), m_name);
     AddRow(cText::Tr("H&auptkategorie:"), m_group);
+    AddRow(cText::Tr("&Farbe und Symbol:"), m_look);
     AddRow({}, m_bookable);
     AddRow(cText::Tr("&Buchungsart:"), m_type);
     AddRow(cText::Tr("&Intervall:"), m_interval);
@@ -186,6 +189,7 @@ void cTemplatePanel::Connect()
     for (QCheckBox* box : {m_bookable, m_visible}) {
         connect(box, &QCheckBox::toggled, this, &cTemplatePanel::ShowChanged);
     }
+    connect(m_look, &cLookBox::Changed, this, &cTemplatePanel::ShowChanged);
     connect(m_bookable, &QCheckBox::toggled, this, &cTemplatePanel::ShowBookable);
     connect(m_limit, &QLineEdit::textChanged, this, &cTemplatePanel::ShowAmountHint);
     for (QComboBox* box : {m_type, m_interval}) {
@@ -228,6 +232,7 @@ void cTemplatePanel::ShowRows(const cTemplateNode* node)
     SetText(m_group, isAccount ? cText::Tr("Gru&ppe:") : cText::Tr("H&auptkategorie:"));
     ShowRow(m_name, node != nullptr);
     ShowRow(m_group, node != nullptr && !isMain);
+    ShowRow(m_look, isMain);
     ShowRow(m_bookable, isMain);
     ShowRow(m_type, isCategory);
     ShowRow(m_interval, isCategory);
@@ -259,6 +264,7 @@ void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& grou
     m_group->clear();
     m_group->addItems(groups);
     m_group->setCurrentText(fields.Group);
+    m_look->SetLook(fields.Look);
     m_bookable->setChecked(fields.IsBookable);
     ChooseWord(*m_type, fields.Type);
     ChooseWord(*m_interval, fields.Interval);
@@ -322,7 +328,7 @@ void cTemplatePanel::ShowNote(const cTemplateNode& node)
 void cTemplatePanel::SetReadOnly(bool isReadOnly)
 {
     m_isReadOnly = isReadOnly;
-    for (QWidget* field : QWidgetList{m_bookable, m_type, m_interval, m_visible, m_group}) {
+    for (QWidget* field : QWidgetList{m_look, m_bookable, m_type, m_interval, m_visible, m_group}) {
         field->setEnabled(!isReadOnly);
     }
     for (QLineEdit* edit : {m_name, m_limit, m_vat, m_start, m_comment}) {
@@ -370,6 +376,7 @@ cTemplateFields cTemplatePanel::Fields() const
     fields.Date = m_date->Day();
     fields.Numbers = m_numbers->toPlainText();
     fields.Comment = m_comment->text();
+    fields.Look = m_kind == eTemplateNode::Main ? m_look->Look() : cCategoryLook{};
     fields.IsVisible = m_visible->isChecked();
     fields.IsBookable = m_bookable->isChecked();
     return fields;

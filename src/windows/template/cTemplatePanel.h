@@ -9,6 +9,7 @@
 
 class cDayEdit;
 class cElidedText;
+class cLookBox;
 class cTemplateManager;
 class QCheckBox;
 class QComboBox;
@@ -76,6 +77,7 @@ private:
     QFormLayout* m_form;
     QComboBox* m_group;
     QLineEdit* m_name;
+    cLookBox* m_look;
     QCheckBox* m_bookable;
     QComboBox* m_type;
     QComboBox* m_interval;

@@ -2,6 +2,7 @@
 
 #include "views/list/cListLayout.h"
 #include "windows/widget/cColumnFit.h"
+#include "windows/widget/modLook.h"
 #include "windows/widget/modTone.h"
 
 #include <QHeaderView>
@@ -40,6 +41,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
+        modLook::Decorate(*option, index);
         option->font.setBold(index.column() == 0 && index.data(cTemplateTreeModel::BranchRole).toBool());
         if (index.data(cTemplateTreeModel::QuietRole).toBool()) {
             option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));

@@ -1,5 +1,7 @@
 #include "windows/widget/modGroupHead.h"
 
+#include "windows/widget/modLook.h"
+
 #include <QItemSelectionModel>
 #include <QPainter>
 #include <QStyle>
@@ -50,7 +52,13 @@ void modGroupHead::Paint(const QTreeView& view, QPainter& painter, const QStyleO
     const int sumLeft = sumRight - qMax(view.columnWidth(sumColumn) - 6, painter.fontMetrics().horizontalAdvance(sum));
     painter.drawText(QRect(sumLeft, line.top(), sumRight - sumLeft, line.height()), Qt::AlignRight | Qt::AlignVCenter,
                      sum);
-    const int left = arrow.rect.right() + 4;
+    int left = arrow.rect.right() + 4;
+    if (const auto look = head.data(cCategoryLooks::Role).value<cCategoryLook>(); look != cCategoryLook{}) {
+        const int side = option.fontMetrics.height();
+        const QRect place(left, line.top() + (line.height() - side) / 2, side, side);
+        modLook::Icon(look).paint(&painter, place, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+        left = place.right() + 4;
+    }
     const int width = sumLeft > left ? sumLeft - left - 8 : line.right() - left;
     const QString name = painter.fontMetrics().elidedText(head.data().toString(), Qt::ElideRight, width);
     painter.drawText(QRect(left, line.top(), width, line.height()), Qt::AlignLeft | Qt::AlignVCenter, name);
