@@ -36,30 +36,33 @@ cBudgetModel::cBudgetModel(const cBookTools& tools, QObject* parent)
       m_edit(tools, tools.Clock.Today().year()),
       m_month(tools.Clock.Today().month())
 {
-    BuildLines();
+    m_lines = MakeLines();
 }
 
-void cBudgetModel::BuildLines()
+QList<cBudgetModel::cLine> cBudgetModel::MakeLines() const
 {
-    m_lines = {{cText::Tr("Summe")}};
+    QList<cLine> lines;
+    cLine sum{cText::Tr("Summe")};
     const QList<cBudgetEdit::cRow>& rows = m_edit.Rows();
-    QString group;
+    qsizetype head = -1;
     for (int row = 0; row < rows.size(); ++row) {
+        if (!m_edit.IsShown(row)) {
+            continue;
+        }
         const QString main = modTemplate::MainOf(rows.at(row).Path);
-        if (row == 0 || main != group) {
-            group = main;
-            m_lines.append({main});
+        if (head < 0 || lines.at(head).Label != main) {
+            head = lines.size();
+            lines.append({main});
         }
         const QString sub = modTemplate::SubOf(rows.at(row).Path);
-        m_lines.append({sub.isEmpty() ? cText::Tr("Sonstiges ({0})", {main}) : sub, row});
-        m_lines.first().Rows.append(row);
-        const auto head =
-            std::find_if(m_lines.rbegin(), m_lines.rend(), [](const cLine& line) { return line.Row < 0; });
-        head->Rows.append(row);
+        lines.append({sub.isEmpty() ? cText::Tr("Sonstiges ({0})", {main}) : sub, row});
+        lines[head].Rows.append(row);
+        sum.Rows.append(row);
     }
-    if (rows.isEmpty()) {
-        m_lines.clear();
+    if (!lines.isEmpty()) {
+        lines.prepend(sum);
     }
+    return lines;
 }
 
 bool cBudgetModel::ShowYear(int year)
@@ -71,6 +74,12 @@ bool cBudgetModel::ShowYear(int year)
         return false;
     }
     m_edit.ShowYear(year);
+    if (const QList<cLine> lines = MakeLines();
+        lines != m_lines) { // a hidden category was spent on in one of the years
+        beginResetModel();
+        m_lines = lines;
+        endResetModel();
+    }
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, Year);
     Changed();
     return true;
@@ -371,9 +380,21 @@ QModelIndexList cBudgetModel::Editable(const QModelIndexList& cells) const
     return found;
 }
 
+bool cBudgetModel::HasYear(const QModelIndex& cell)
+{
+    const cLine line = cell.isValid() ? m_lines.at(cell.row()) : cLine();
+    const bool hasYear = CanType(line, Year) && m_edit.YearLimit(line.Row) > 0;
+    if (!hasYear) {
+        m_tools.User.Show(eTone::Objection,
+                          cText::Tr("Bitte wählen Sie die Zeile einer Kategorie, die im Jahr {0} ein Limit hat.",
+                                    {QString::number(ShownYear())}));
+    }
+    return hasYear;
+}
+
 void cBudgetModel::Spread(const QModelIndex& cell)
 {
-    if (cell.isValid() && CanType(m_lines.at(cell.row()), Year)) {
+    if (HasYear(cell)) {
         const int row = m_lines.at(cell.row()).Row;
         m_edit.SpreadYear(row, m_edit.YearLimit(row));
         Changed();
@@ -382,7 +403,7 @@ void cBudgetModel::Spread(const QModelIndex& cell)
 
 void cBudgetModel::KeepInMonth(const QModelIndex& cell)
 {
-    if (cell.isValid() && CanType(m_lines.at(cell.row()), Year)) {
+    if (HasYear(cell)) {
         const int month = MonthOf(cell.column());
         m_edit.KeepYearIn(m_lines.at(cell.row()).Row, month > 0 ? month : m_month);
         Changed();
@@ -443,7 +464,8 @@ void cBudgetModel::Paste(const QModelIndex& first, const QString& text)
         const cLine& line = m_lines.at(first.row() + y);
         for (qsizetype x = 0; x < texts.size() && first.column() + x < ColumnCount; ++x) {
             const int column = first.column() + static_cast<int>(x);
-            if (CanType(line, column)) {
+            const bool isTold = column == Year && x > 0; // by its months, which the year would make equal
+            if (CanType(line, column) && !isTold) {
                 Type(line.Row, column, texts.at(x));
             }
         }
