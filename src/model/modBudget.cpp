@@ -15,7 +15,6 @@ namespace {
 
 const QString carryKey = u"uebertrag"_s;
 const QString monthForm = u"yyyy-MM"_s;
-const QString noCategory = u"Keine Angabe"_s; // as reports call it
 
 // The year that a part of the text is about; 0 for none.
 int YearOf(const QString& key)
@@ -141,5 +140,6 @@ cSpent modBudget::Spent(const cEntryItemList& entries)
 
 QString modBudget::KeyOf(const QString& path)
 {
-    return path.isEmpty() ? noCategory : modTemplate::Join(modTemplate::MainOf(path), modTemplate::SubOf(path));
+    return path.isEmpty() ? modTemplate::NoPath
+                          : modTemplate::Join(modTemplate::MainOf(path), modTemplate::SubOf(path));
 }
