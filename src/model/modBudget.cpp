@@ -126,13 +126,17 @@ bool modBudget::Counts(const cEntryItem& entry)
     return entry.EntryType != modWord::Umbuchung && entry.EntryCategory != modWord::Startguthaben;
 }
 
+qint64 modBudget::SpentCents(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
+}
+
 cSpent modBudget::Spent(const cEntryItemList& entries)
 {
     cSpent spent;
     for (const cEntryItem& entry : entries) {
         if (Counts(entry)) {
-            const qint64 sign = entry.EntryType == modWord::Einnahme ? -1 : 1;
-            spent[KeyOf(entry.EntryCategory)][MonthOf(entry.EntryDate)] += sign * entry.EntryValue;
+            spent[KeyOf(entry.EntryCategory)][MonthOf(entry.EntryDate)] += SpentCents(entry);
         }
     }
     return spent;

@@ -3,13 +3,12 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modDayNames.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "store/cDataAccess.h"
 #include "views/list/modUnread.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
@@ -19,8 +18,7 @@ namespace {
 
 QString MonthName(QDate month, const QString& form)
 {
-    const QLocale chosen;
-    return (chosen.language() == QLocale::C ? QLocale(QLocale::German) : chosen).toString(month, form);
+    return modDayNames::Language().toString(month, form);
 }
 
 QString MonthTitle(int year, int month)
