@@ -58,7 +58,7 @@ QList<cBudgetModel::cLine> cBudgetModel::MakeLines() const
         sum.Rows.append(row);
     }
     if (!lines.isEmpty()) {
-        lines.prepend(sum);
+        lines.append(sum);
     }
     return lines;
 }

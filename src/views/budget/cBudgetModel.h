@@ -7,9 +7,9 @@
 
 #include <utility>
 
-// The grid of the budget: a line for the sum, for every main category and for every category; columns for the plain
-// limit, what is carried over, one month's spending with what is left of it, the twelve months and the year. What
-// cannot be read as an amount stays in its cell until it is mended.
+// The grid of the budget: a line for every main category and for every category, the sum in the last one; columns for
+// the plain limit, what is carried over, one month's spending with what is left of it, the twelve months and the year.
+// What cannot be read as an amount stays in its cell until it is mended.
 class cBudgetModel final : public QAbstractTableModel
 {
     Q_OBJECT
