@@ -37,7 +37,6 @@ void cBudgetGrid::FollowColumns()
     m_lines->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sum->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sum->horizontalHeader()->hide();
-    m_sum->setCurrentIndex(m_sum->model()->index(0, 0));
     m_lines->verticalHeader()->setMinimumWidth(m_sum->verticalHeader()->sizeHint().width());
     QScrollBar* lines = m_lines->horizontalScrollBar();
     QScrollBar* sum = m_sum->horizontalScrollBar();

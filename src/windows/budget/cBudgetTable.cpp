@@ -126,10 +126,11 @@ private:
 cBudgetTable::cBudgetTable(cBudgetModel& model, ePart part, QWidget* parent)
     : QTableView(parent),
       m_model(model),
-      m_part(new cPart(part, this))
+      m_part(part),
+      m_lines(new cPart(part, this))
 {
-    m_part->setSourceModel(&model);
-    setModel(m_part);
+    m_lines->setSourceModel(&model);
+    setModel(m_lines);
     setItemDelegate(new cCellDelegate(this));
     setAccessibleName(part == ePart::Sum ? cText::Tr("Summe des Budgets") : cText::Tr("Budget"));
     setTabKeyNavigation(part == ePart::Categories); // a line to read is no way through all of its cells
@@ -164,12 +165,12 @@ void cBudgetTable::SetHeadWidth(int width)
 
 void cBudgetTable::Begin()
 {
-    setCurrentIndex(m_part->index(m_part->rowCount() > 1 ? 1 : 0, 0));
+    setCurrentIndex(m_lines->index(m_lines->rowCount() > 1 ? 1 : 0, 0));
 }
 
 QModelIndex cBudgetTable::Current() const
 {
-    return m_part->mapToSource(currentIndex());
+    return m_lines->mapToSource(currentIndex());
 }
 
 QModelIndexList cBudgetTable::Chosen() const
@@ -177,7 +178,7 @@ QModelIndexList cBudgetTable::Chosen() const
     QModelIndexList chosen;
     const QModelIndexList cells = selectionModel()->selectedIndexes();
     for (const QModelIndex& cell : cells) {
-        chosen.append(m_part->mapToSource(cell));
+        chosen.append(m_lines->mapToSource(cell));
     }
     return chosen;
 }
@@ -213,6 +214,24 @@ void cBudgetTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHi
     QTableView::closeEditor(editor, hint);
     if (hint == QAbstractItemDelegate::SubmitModelCache) {
         MoveDown();
+    }
+}
+
+// The sum is read in passing: where it has no focus, nothing of it looks chosen.
+void cBudgetTable::focusInEvent(QFocusEvent* event)
+{
+    QTableView::focusInEvent(event);
+    if (m_part == ePart::Sum) {
+        const QModelIndex cell = currentIndex().isValid() ? currentIndex() : m_lines->index(0, 0);
+        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
+    }
+}
+
+void cBudgetTable::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    if (m_part == ePart::Sum) {
+        clearSelection();
     }
 }
 

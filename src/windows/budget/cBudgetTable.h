@@ -26,6 +26,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     bool focusNextPrevChild(bool next) override;
 
@@ -34,5 +36,6 @@ private:
     void MoveDown();
 
     cBudgetModel& m_model;
-    QSortFilterProxyModel* m_part;
+    ePart m_part;
+    QSortFilterProxyModel* m_lines;
 };
