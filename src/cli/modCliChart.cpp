@@ -88,6 +88,9 @@ cChartWish ReadWish(const cCliContext& context, cCliReader& reader)
     wish.Kind = kind.value_or(eChartKind::Months);
     wish.Range = reader.Period(modWord::AktuellesJahr);
     wish.Second = ReadSecond(context, reader, wish.Range);
+    if (wish.Second && !cChartMaker::CanCompare(wish.Kind)) {
+        reader.Misused(cText::Tr("Das Diagramm '{0}' zeigt immer nur einen Zeitraum.", {name}));
+    }
     const QString account = call.Value(u"account"_s);
     wish.Account = account == modWord::AlleKonten ? QString() : reader.Account(account, eCliNames::Used);
     if (call.Has(u"category"_s)) {

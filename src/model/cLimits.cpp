@@ -33,9 +33,19 @@ bool cLimits::HasLimit(const cLine& line, QDate first, QDate end)
         || (own != line.Budget.Months.end() && own.key() < end);
 }
 
-qint64 cLimits::Carried(const QString& path, const cLine& line, QDate month) const
+QDate cLimits::CarriesFrom(const cLine& line)
 {
     const QDate from = line.Budget.CarriesFrom;
+    if (!from.isValid() || modTemplate::LimitCents(line.Item, modBudget::MonthsOfYear) > 0) {
+        return from;
+    }
+    const auto own = line.Budget.Months.lowerBound(from);
+    return own == line.Budget.Months.end() ? QDate() : own.key();
+}
+
+qint64 cLimits::Carried(const QString& path, const cLine& line, QDate month) const
+{
+    const QDate from = CarriesFrom(line);
     if (!from.isValid() || from >= month) {
         return 0;
     }

@@ -39,6 +39,8 @@ private:
         cBudget Budget;
     };
 
+    // The month with which carrying over begins: what was spent before the category had any limit was allowed.
+    [[nodiscard]] static QDate CarriesFrom(const cLine& line);
     [[nodiscard]] static bool HasLimit(const cLine& line, QDate first, QDate end);
     [[nodiscard]] qint64 Carried(const QString& path, const cLine& line, QDate month) const;
 

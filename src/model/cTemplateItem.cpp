@@ -100,7 +100,7 @@ QString modTemplate::CleanName(const QString& name)
 QString modTemplate::Path(const cTemplateItem& item)
 {
     if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
-        return u"Keine Angabe"_s;
+        return NoPath;
     }
     if (item.TemplateCategory.isEmpty()) {
         return u"Sonstiges"_s + separator + item.TemplateName;

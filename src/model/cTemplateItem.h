@@ -28,6 +28,9 @@ using cTemplateItemList = QList<cTemplateItem>;
 
 namespace modTemplate {
 
+// The path of a category without names. Sums count entries without a category with it.
+inline const QString NoPath = QStringLiteral("Keine Angabe");
+
 [[nodiscard]] bool IsAccount(const cTemplateItem& item);
 
 // False only for a stored "0": what cannot be read keeps the item in sight.

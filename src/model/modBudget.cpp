@@ -15,7 +15,6 @@ namespace {
 
 const QString carryKey = u"uebertrag"_s;
 const QString monthForm = u"yyyy-MM"_s;
-const QString noCategory = u"Keine Angabe"_s; // as reports call it
 
 // The year that a part of the text is about; 0 for none.
 int YearOf(const QString& key)
@@ -127,13 +126,17 @@ bool modBudget::Counts(const cEntryItem& entry)
     return entry.EntryType != modWord::Umbuchung && entry.EntryCategory != modWord::Startguthaben;
 }
 
+qint64 modBudget::SpentCents(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
+}
+
 cSpent modBudget::Spent(const cEntryItemList& entries)
 {
     cSpent spent;
     for (const cEntryItem& entry : entries) {
         if (Counts(entry)) {
-            const qint64 sign = entry.EntryType == modWord::Einnahme ? -1 : 1;
-            spent[KeyOf(entry.EntryCategory)][MonthOf(entry.EntryDate)] += sign * entry.EntryValue;
+            spent[KeyOf(entry.EntryCategory)][MonthOf(entry.EntryDate)] += SpentCents(entry);
         }
     }
     return spent;
@@ -141,5 +144,6 @@ cSpent modBudget::Spent(const cEntryItemList& entries)
 
 QString modBudget::KeyOf(const QString& path)
 {
-    return path.isEmpty() ? noCategory : modTemplate::Join(modTemplate::MainOf(path), modTemplate::SubOf(path));
+    return path.isEmpty() ? modTemplate::NoPath
+                          : modTemplate::Join(modTemplate::MainOf(path), modTemplate::SubOf(path));
 }

@@ -47,6 +47,8 @@ inline constexpr int MonthsOfYear = 12;
 
 // Whether an entry counts against limits: transfers and start balances do not.
 [[nodiscard]] bool Counts(const cEntryItem& entry);
+// What an entry adds to what was spent, in cents: income takes from it.
+[[nodiscard]] qint64 SpentCents(const cEntryItem& entry);
 [[nodiscard]] cSpent Spent(const cEntryItemList& entries);
 
 // The path under which entries and limits of a category meet: none has a word of its own.

@@ -82,6 +82,7 @@ void testCliChart::Refuses_data()
     QTest::newRow("wrong ending") << u"chart|ausgaben|--png|~/x.jpg"_s << 2;
     QTest::newRow("the book itself") << u"chart|ausgaben|--csv|~/Veltrino Kontorelle/data.db"_s << 2;
     QTest::newRow("no such period") << u"chart|ausgaben|--csv|~/x.csv|--compare|Vorvorjahr"_s << 2;
+    QTest::newRow("one period only") << u"chart|kalender|--csv|~/x.csv|--compare|Vorjahr"_s << 2;
     QTest::newRow("backwards") << u"chart|ausgaben|--csv|~/x.csv|--from|2026-02-28|--to|2026-02-01"_s << 2;
     QTest::newRow("nothing in it") << u"chart|ausgaben|--csv|~/x.csv|--from|1990-01-01|--to|1990-01-31"_s << 1;
     QTest::newRow("cannot be written") << u"chart|ausgaben|--csv|~/fehlt/x.csv|--period|Alle Buchungen"_s << 1;

@@ -77,6 +77,12 @@ void testBudget::LeftOverGoesOn()
     own.Add(Category({}), {{}, {{QDate(2026, 2, 1), 0}}});
     QCOMPARE(own.Of(u"Auto"_s, QDate(2026, 2, 1), 1), cLimit());
     QVERIFY(!own.Of(u"Auto"_s, QDate(2026, 3, 1), 1));
+    cLimits late; // what was spent before the first limit owes nothing
+    late.Add(Category({}), {QDate(2026, 1, 1), {{QDate(2026, 11, 1), 12000}}});
+    late.SetSpent({{u"Auto"_s, {{QDate(2026, 10, 1), 99999}, {QDate(2026, 11, 1), 2000}}}});
+    QVERIFY(!late.Of(u"Auto"_s, QDate(2026, 10, 1), 1));
+    QCOMPARE(late.Of(u"Auto"_s, QDate(2026, 11, 1), 1), (cLimit{12000, 0}));
+    QCOMPARE(late.Of(u"Auto"_s, QDate(2026, 12, 1), 1), (cLimit{0, 10000}));
     cTemplateItem income = Category(u"10.00"_s);
     income.EntryType = modWord::Einnahme;
     cLimits none;

@@ -62,6 +62,7 @@ class testBudgetModel final : public QObject
 private Q_SLOTS:
     void IsTypedAndTakenBack();
     void YearIsSpreadOrKept();
+    void HidesOnlyWhatDoesNotCount();
     void FaultyAmountsStay();
     void TakesAndGivesTables();
     void ProposesLastYear();
@@ -106,7 +107,31 @@ void testBudgetModel::YearIsSpreadOrKept()
     QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), QString());
     QVERIFY(scene.Model.ShowYear(2026));
     scene.Model.Clear({scene.Cell(u"Lebensmittel"_s, cBudgetModel::Year)});
+    scene.Model.Spread(scene.Cell(u"Lebensmittel"_s, March)); // there is nothing to spread
+    scene.Model.KeepInMonth(scene.Cell(u"Lebensmittel"_s, March));
     QVERIFY(!scene.Model.Edit().IsChanged());
+    QCOMPARE(scene.Book.User.Shown.size(), 2);
+}
+
+// What is hidden and counts in the report can be seen and changed, whatever months have the limit.
+void testBudgetModel::HidesOnlyWhatDoesNotCount()
+{
+    cScene scene;
+    const cTemplateItemList items = scene.Book.Data.GetTemplates();
+    for (cTemplateItem item : items) {
+        item.TemplateVisible = u"0"_s;
+        QVERIFY(scene.Book.Data.ChangeTemplate(item));
+    }
+    const QString limited = modTemplate::Path(*std::find_if(items.begin(), items.end(), [](const cTemplateItem& item) {
+        return modBudget::IsLimitable(item) && modTemplate::Path(item) != food;
+    }));
+    scene.Book.Settings->Set(modSettingKey::Budget.Of(limited), u"2026=77.00"_s);
+    cBudgetModel model(scene.Book.Tools);
+    QCOMPARE(model.rowCount(), 5); // the sum, twice a group with its category
+    QVERIFY(model.ShowYear(2028));
+    QCOMPARE(model.rowCount(), 3); // nothing was spent in 2027
+    QVERIFY(model.ShowYear(2027));
+    QCOMPARE(model.rowCount(), 5);
 }
 
 void testBudgetModel::FaultyAmountsStay()
@@ -137,6 +162,13 @@ void testBudgetModel::TakesAndGivesTables()
     QCOMPARE(scene.Model.Copy({below, first, first.siblingAtColumn(March + 1)}), u"1,50\t2,00\n3,00"_s);
     QVERIFY(scene.Model.Save());
     QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 2 Kategorien geändert"_s);
+    QModelIndexList line; // the months of a line are not made equal by the year beside them
+    for (int column = cBudgetModel::Plain; column <= cBudgetModel::Year; ++column) {
+        line.append(first.siblingAtColumn(column));
+    }
+    scene.Model.Paste(below.siblingAtColumn(cBudgetModel::Plain), scene.Model.Copy(line));
+    QCOMPARE(below.siblingAtColumn(March).data(), first.data());
+    QCOMPARE(below.siblingAtColumn(March + 1).data(), first.siblingAtColumn(March + 1).data());
 }
 
 void testBudgetModel::ProposesLastYear()

@@ -285,6 +285,24 @@ private Q_SLOTS:
         QCOMPARE(Values(chart, 2), (QStringList{u"Waschen=0"_s, u"Limit Waschen=20000"_s}));
     }
 
+    void LaysTagsBeside()
+    {
+        cChartBook book;
+        const auto add = [&](QDate day, const QString& text, qint64 cents) {
+            (void)book.Book.Add([&](cEntryItem& entry) {
+                entry.EntryDate = day;
+                entry.EntryDescription = text;
+                entry.EntryValue = cents;
+            });
+        };
+        add(QDate(2026, 1, 10), u"Hotel #urlaub"_s, 700);
+        add(QDate(2025, 1, 10), u"Zelt #Urlaub #wald"_s, 300);
+        const cChartData chart =
+            book.Make({.Kind = eChartKind::Tags, .Range = year, .Second = cChartWish::YearBefore(year)});
+        QCOMPARE(chart.Labels, QStringList{u"#urlaub"_s});
+        QCOMPARE(Values(chart, 0), QStringList({u"Ausgaben=700"_s, u"Ausgaben (2025)=300"_s}));
+    }
+
     void SharesTheNetWorth()
     {
         cChartBook book;

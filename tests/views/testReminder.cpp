@@ -151,6 +151,30 @@ private Q_SLOTS:
         QCOMPARE(scene.Model.Text(), QString());
     }
 
+    // A statement on which a payment is missing is noticed while the program runs, and so is the one that has it.
+    void HearsOfStatements()
+    {
+        cScene scene;
+        scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
+        (void)scene.AddSeries(QDate(2026, 3, 1), u"Miete"_s);
+        const auto import = [&](QDate day, qint64 cents) {
+            cImportEntry row;
+            row.ImportAccount = u"111"_s;
+            row.ImportDate = day;
+            row.ImportValue = cents;
+            QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+            scene.Model.StatementsChanged();
+        };
+        scene.Model.Start();
+        scene.Model.LookForLate();
+        QVERIFY(scene.Model.Text().isEmpty());
+        import(QDate(2026, 2, 20), -500);
+        import(QDate(2026, 3, 12), -500);
+        QTRY_COMPARE(scene.Model.Text(), u"Eine fällige Zahlung fehlt auf dem Kontoauszug"_s);
+        import(QDate(2026, 3, 1), -1000);
+        QTRY_COMPARE(scene.Model.Text(), QString());
+    }
+
     void DueIsWhatTheOverviewShows()
     {
         cScene scene;

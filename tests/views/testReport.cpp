@@ -421,7 +421,7 @@ void testReport::TagsCountInEach()
              u"#kinder 12500: Haushalt 2500, Reisen; Hotel 10000 | #Urlaub 10000: Reisen; Hotel "
              "10000 | ohne Schlagwort 4000: Keine Angabe 4000"_s);
     QCOMPARE(Plain(figures.Income), u"#Urlaub 700: Reisen; Hotel 700"_s);
-    QCOMPARE(figures.Expense.Amount, (cReportAmount{16500, 16500, 0, 3}));
+    QCOMPARE(figures.Expense.Amount, (cReportAmount{.Cents = 16500, .Sum = 16500, .Entries = 3}));
     QVERIFY(modReportHtml::Html(figures, wish, format.Format).contains(modReport::Note(eReport::Tag)));
     for (const cReportSection* section : {&figures.Income, &figures.Expense}) {
         for (const cReportGroup& group : section->Groups) {

@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 #include <algorithm>
@@ -21,6 +22,7 @@ class testFrmBudget final : public QObject
 
 private Q_SLOTS:
     void TypesWithTheKeys();
+    void TheSumStaysInStep();
     void AsksBeforeItLosesAnything();
 };
 
@@ -31,7 +33,7 @@ void testFrmBudget::TypesWithTheKeys()
     frmBudget form(budget);
     form.show();
     auto* table = form.findChild<cBudgetTable*>();
-    table->setCurrentIndex(table->model()->index(2, cBudgetModel::FirstMonth));
+    table->setCurrentIndex(table->model()->index(1, cBudgetModel::FirstMonth));
     const auto text = [&](int row, int column) {
         return table->model()->index(row, column).data().toString().replace(QChar::Nbsp, u' ');
     };
@@ -48,24 +50,53 @@ void testFrmBudget::TypesWithTheKeys()
         QTest::keyClick(edit, end);
     };
     type("12,5", Qt::Key_Tab);
-    QCOMPARE(text(2, cBudgetModel::FirstMonth), u"12,50 €"_s);
+    QCOMPARE(text(1, cBudgetModel::FirstMonth), u"12,50 €"_s);
     QCOMPARE(table->Current().column(), int{cBudgetModel::FirstMonth} + 1);
     QVERIFY(editor() != nullptr); // of the cell that Tab has opened
     QTest::keyClick(editor(), Qt::Key_Escape);
     type("7", Qt::Key_Return);
-    QTRY_COMPARE(text(2, cBudgetModel::FirstMonth + 1), u"7,00 €"_s); // once the editor has had the key itself
-    QCOMPARE(table->Current().row(), 3);
+    QTRY_COMPARE(text(1, cBudgetModel::FirstMonth + 1), u"7,00 €"_s); // once the editor has had the key itself
+    QCOMPARE(table->Current().row(), 2);
     QTest::keyClick(table, Qt::Key_Up);
     QTest::keyClick(table, Qt::Key_Left, Qt::ShiftModifier);
     QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(), u"12,50\t7,00"_s);
     QTest::keyClick(table, Qt::Key_Delete);
-    QCOMPARE(text(2, cBudgetModel::FirstMonth), QString());
+    QCOMPARE(text(1, cBudgetModel::FirstMonth), QString());
     QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(text(2, cBudgetModel::FirstMonth), u"12,50 €"_s);
-    table->setCurrentIndex(table->model()->index(2, cBudgetModel::Carry));
+    QCOMPARE(text(1, cBudgetModel::FirstMonth), u"12,50 €"_s);
+    table->setCurrentIndex(table->model()->index(1, cBudgetModel::Carry));
     QTest::keyClick(table, Qt::Key_Space);
     QVERIFY(budget.Edit().CarriesOver(0));
+}
+
+// Below the lines, whatever is scrolled and however wide a column is.
+void testFrmBudget::TheSumStaysInStep()
+{
+    cTestBook book;
+    cBudgetModel budget(book.Tools);
+    frmBudget form(budget);
+    form.resize(800, 600);
+    form.show();
+    const QList<cBudgetTable*> tables = form.findChildren<cBudgetTable*>();
+    QCOMPARE(tables.size(), 2);
+    const QTableView* lines = tables.first();
+    const QTableView* sum = tables.last();
+    tables.first()->setColumnWidth(cBudgetModel::Spent, 200);
+    lines->verticalScrollBar()->setValue(lines->verticalScrollBar()->maximum());
+    const auto left = [&](const QTableView* table, int column) {
+        return table->viewport()->mapTo(&form, QPoint(table->columnViewportPosition(column), 0)).x();
+    };
+    for (const int place : {0, 77, lines->horizontalScrollBar()->maximum()}) {
+        lines->horizontalScrollBar()->setValue(place);
+        for (int column = 0; column < cBudgetModel::ColumnCount; ++column) {
+            QCOMPARE(left(sum, column), left(lines, column));
+            QCOMPARE(sum->columnWidth(column), lines->columnWidth(column));
+        }
+    }
+    QVERIFY(left(lines, 0) < 0); // there was something to scroll
+    QVERIFY(form.rect().contains(QRect(sum->mapTo(&form, QPoint()), sum->size())));
+    QCOMPARE(sum->model()->headerData(0, Qt::Vertical).toString(), u"Summe"_s);
 }
 
 void testFrmBudget::AsksBeforeItLosesAnything()
@@ -74,7 +105,7 @@ void testFrmBudget::AsksBeforeItLosesAnything()
     cBudgetModel budget(book.Tools);
     frmBudget form(budget);
     form.show();
-    budget.setData(budget.index(2, cBudgetModel::FirstMonth), u"5"_s, Qt::EditRole);
+    budget.setData(budget.index(1, cBudgetModel::FirstMonth), u"5"_s, Qt::EditRole);
     form.close();
     QVERIFY(form.isVisible()); // the user has not answered
     book.User.Answers = {eAnswer::Yes};

@@ -15,19 +15,25 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Limits of every kind on some of the categories.
+// Limits of every kind: what last year told, the same in all months with what is left going on, once a year.
 bool Plan(const cBookTools& tools)
 {
     cBudgetEdit budget(tools, sceneDay.year());
     (void)budget.TakeLastYear();
-    for (int row = 0; row < budget.Rows().size(); row += 3) {
+    const auto plan = [&](const QString& path, qint64 cents) {
+        const int row = budget.RowOf(path);
         budget.SpreadYear(row, std::nullopt);
-        budget.SetPlain(row, 5000 * (row % 5 + 1));
-        budget.SetMonth(row, modBudget::MonthsOfYear, 12000);
-        budget.SetCarriesOver(row, row % 2 == 0);
-    }
-    budget.SpreadYear(1, 60000);
-    budget.KeepYearIn(1, 1);
+        budget.SetPlain(row, cents);
+        budget.SetCarriesOver(row, true);
+        return row;
+    };
+    (void)plan(u"Staat; Gebühren und Ausweise"_s, 500);
+    (void)plan(u"Wohnung; Reparaturen"_s, 5000);
+    (void)plan(u"Wohnung; Garten"_s, 2500);
+    budget.SetMonth(plan(u"Haushalt; Lebensmittel"_s, 65000), modBudget::MonthsOfYear, 75000);
+    const int taxes = budget.RowOf(u"Staat; Steuernachzahlung"_s);
+    budget.SpreadYear(taxes, 30000);
+    budget.KeepYearIn(taxes, 6);
     return budget.Save();
 }
 

@@ -32,18 +32,6 @@ cBudgetEdit::cBudgetEdit(const cBookTools& tools, int year) : m_tools(tools), m_
         }
     }
     Read();
-    const auto isOut = [this](const cRow& row) {
-        const auto number = static_cast<int>(&row - m_rows.constData());
-        return !modTemplate::IsVisible(row.Item) && !Available(number, MonthsOfYear)
-            && !m_spent.contains(modBudget::KeyOf(row.Path));
-    };
-    QList<cRow> shown;
-    for (const cRow& row : std::as_const(m_rows)) {
-        if (!isOut(row)) {
-            shown.append(row);
-        }
-    }
-    m_rows = shown;
 }
 
 void cBudgetEdit::ShowYear(int year)
@@ -72,6 +60,13 @@ void cBudgetEdit::Reckon()
         m_limits.Add(row.Item, row.Budget);
     }
     m_limits.SetSpent(m_spent);
+}
+
+bool cBudgetEdit::IsShown(int row) const
+{
+    const cRow& one = m_rows.at(row);
+    return modTemplate::IsVisible(one.Item) || modTemplate::LimitCents(one.Item, MonthsOfYear) > 0
+        || !one.Budget.Months.isEmpty() || m_spent.contains(modBudget::KeyOf(one.Path));
 }
 
 int cBudgetEdit::RowOf(const QString& path) const

@@ -30,8 +30,10 @@ public:
 
     [[nodiscard]] int Year() const { return m_year; }
     void ShowYear(int year); // what was changed stays
-    // In the order of the categories; those that are hidden only where they have a limit or were spent on.
+    // In the order of the categories.
     [[nodiscard]] const QList<cRow>& Rows() const { return m_rows; }
+    // A hidden category is shown where it has a limit or was spent on.
+    [[nodiscard]] bool IsShown(int row) const;
     [[nodiscard]] int RowOf(const QString& path) const; // -1: there is none
     // False when the book could not be read: there is nothing to be worked on.
     [[nodiscard]] bool IsRead() const { return m_isRead; }

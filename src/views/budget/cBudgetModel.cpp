@@ -3,13 +3,12 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modDayNames.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "store/cDataAccess.h"
 #include "views/list/modUnread.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
@@ -19,8 +18,7 @@ namespace {
 
 QString MonthName(QDate month, const QString& form)
 {
-    const QLocale chosen;
-    return (chosen.language() == QLocale::C ? QLocale(QLocale::German) : chosen).toString(month, form);
+    return modDayNames::Language().toString(month, form);
 }
 
 QString MonthTitle(int year, int month)
@@ -36,31 +34,34 @@ cBudgetModel::cBudgetModel(const cBookTools& tools, QObject* parent)
       m_edit(tools, tools.Clock.Today().year()),
       m_month(tools.Clock.Today().month())
 {
-    BuildLines();
+    m_looks = cCategoryLooks::Read(m_tools.Data);
+    m_lines = MakeLines();
 }
 
-void cBudgetModel::BuildLines()
+QList<cBudgetModel::cLine> cBudgetModel::MakeLines() const
 {
-    m_looks = cCategoryLooks::Read(m_tools.Data);
-    m_lines = {{cText::Tr("Summe")}};
+    QList<cLine> lines;
+    cLine sum{cText::Tr("Summe")};
     const QList<cBudgetEdit::cRow>& rows = m_edit.Rows();
-    QString group;
+    qsizetype head = -1;
     for (int row = 0; row < rows.size(); ++row) {
+        if (!m_edit.IsShown(row)) {
+            continue;
+        }
         const QString main = modTemplate::MainOf(rows.at(row).Path);
-        if (row == 0 || main != group) {
-            group = main;
-            m_lines.append({main});
+        if (head < 0 || lines.at(head).Label != main) {
+            head = lines.size();
+            lines.append({main});
         }
         const QString sub = modTemplate::SubOf(rows.at(row).Path);
-        m_lines.append({sub.isEmpty() ? cText::Tr("Sonstiges ({0})", {main}) : sub, row});
-        m_lines.first().Rows.append(row);
-        const auto head =
-            std::find_if(m_lines.rbegin(), m_lines.rend(), [](const cLine& line) { return line.Row < 0; });
-        head->Rows.append(row);
+        lines.append({sub.isEmpty() ? cText::Tr("Sonstiges ({0})", {main}) : sub, row});
+        lines[head].Rows.append(row);
+        sum.Rows.append(row);
     }
-    if (rows.isEmpty()) {
-        m_lines.clear();
+    if (!lines.isEmpty()) {
+        lines.append(sum);
     }
+    return lines;
 }
 
 bool cBudgetModel::ShowYear(int year)
@@ -72,6 +73,12 @@ bool cBudgetModel::ShowYear(int year)
         return false;
     }
     m_edit.ShowYear(year);
+    const QList<cLine> lines = MakeLines();
+    if (lines != m_lines) { // a hidden category was spent on in one of the years
+        beginResetModel();
+        m_lines = lines;
+        endResetModel();
+    }
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, Year);
     Changed();
     return true;
@@ -298,7 +305,9 @@ QVariant cBudgetModel::headerData(int section, Qt::Orientation orientation, int 
         case IsHeadRole: return m_lines.at(section).Row < 0;
         // The first line is the sum of all.
         case cCategoryLooks::Role:
-            return section > 0 && m_lines.at(section).Row < 0 ? m_looks.Shown(m_lines.at(section).Label) : QVariant();
+            return section < m_lines.size() - 1 && m_lines.at(section).Row < 0
+                ? m_looks.Shown(m_lines.at(section).Label)
+                : QVariant();
         default: return {};
         }
     }
@@ -375,9 +384,21 @@ QModelIndexList cBudgetModel::Editable(const QModelIndexList& cells) const
     return found;
 }
 
+bool cBudgetModel::HasYear(const QModelIndex& cell)
+{
+    const cLine line = cell.isValid() ? m_lines.at(cell.row()) : cLine();
+    const bool hasYear = CanType(line, Year) && m_edit.YearLimit(line.Row) > 0;
+    if (!hasYear) {
+        m_tools.User.Show(eTone::Objection,
+                          cText::Tr("Bitte wählen Sie die Zeile einer Kategorie, die im Jahr {0} ein Limit hat.",
+                                    {QString::number(ShownYear())}));
+    }
+    return hasYear;
+}
+
 void cBudgetModel::Spread(const QModelIndex& cell)
 {
-    if (cell.isValid() && CanType(m_lines.at(cell.row()), Year)) {
+    if (HasYear(cell)) {
         const int row = m_lines.at(cell.row()).Row;
         m_edit.SpreadYear(row, m_edit.YearLimit(row));
         Changed();
@@ -386,7 +407,7 @@ void cBudgetModel::Spread(const QModelIndex& cell)
 
 void cBudgetModel::KeepInMonth(const QModelIndex& cell)
 {
-    if (cell.isValid() && CanType(m_lines.at(cell.row()), Year)) {
+    if (HasYear(cell)) {
         const int month = MonthOf(cell.column());
         m_edit.KeepYearIn(m_lines.at(cell.row()).Row, month > 0 ? month : m_month);
         Changed();
@@ -447,7 +468,8 @@ void cBudgetModel::Paste(const QModelIndex& first, const QString& text)
         const cLine& line = m_lines.at(first.row() + y);
         for (qsizetype x = 0; x < texts.size() && first.column() + x < ColumnCount; ++x) {
             const int column = first.column() + static_cast<int>(x);
-            if (CanType(line, column)) {
+            const bool isTold = column == Year && x > 0; // by its months, which the year would make equal
+            if (CanType(line, column) && !isTold) {
                 Type(line.Row, column, texts.at(x));
             }
         }

@@ -8,9 +8,9 @@
 
 #include <utility>
 
-// The grid of the budget: a line for the sum, for every main category and for every category; columns for the plain
-// limit, what is carried over, one month's spending with what is left of it, the twelve months and the year. What
-// cannot be read as an amount stays in its cell until it is mended.
+// The grid of the budget: a line for every main category and for every category, the sum in the last one; columns for
+// the plain limit, what is carried over, one month's spending with what is left of it, the twelve months and the year.
+// What cannot be read as an amount stays in its cell until it is mended.
 class cBudgetModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] QModelIndexList Editable(const QModelIndexList& cells) const;
 
     // The year's limit of the line, in twelve equal parts or in the cell's month alone; the latter takes the month that
-    // is shown where the cell is of none.
+    // is shown where the cell is of none. Both say so where there is no limit.
     void Spread(const QModelIndex& cell);
     void KeepInMonth(const QModelIndex& cell);
     void TakeLastYear(); // after which nothing is saved yet
@@ -64,10 +64,12 @@ private:
         QString Label;
         int Row = -1;      // of the edited budget; -1 for sums
         QList<int> Rows{}; // what a sum is made of
+
+        bool operator==(const cLine&) const = default;
     };
     using cCell = std::pair<int, int>; // row of the edited budget, column
 
-    void BuildLines();
+    [[nodiscard]] QList<cLine> MakeLines() const;
     [[nodiscard]] static int MonthOf(int column); // 0: the column is of none
     [[nodiscard]] QString Text(const cLine& line, int column) const;
     [[nodiscard]] QString EditText(int row, int column) const;
@@ -78,7 +80,8 @@ private:
     [[nodiscard]] QString Available(int row, int month) const;
     [[nodiscard]] bool CanType(const cLine& line, int column) const;
     [[nodiscard]] QString Fault(const QString& text) const;
-    [[nodiscard]] bool IsFaultless(); // else it says what is wrong
+    [[nodiscard]] bool IsFaultless();                    // else it says what is wrong
+    [[nodiscard]] bool HasYear(const QModelIndex& cell); // else it says what to choose
     void Type(int row, int column, const QString& text);
     void Store(int row, int column, std::optional<qint64> cents);
     void Changed();

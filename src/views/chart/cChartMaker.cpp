@@ -63,7 +63,10 @@ cChartData cChartMaker::MakeLimits(const modChart::cInput& input)
 {
     const cSettings settings(m_data);
     const cLimits limits = modLimits::Read(m_data, settings, m_data.GetTemplates(), {});
-    return m_data.IsWhole() ? modChart::Limits(input, limits) : Unread();
+    if (!m_data.IsWhole()) {
+        return Unread();
+    }
+    return input.Wish.Kind == eChartKind::Budget ? modChart::Budget(input, limits) : modChart::Limits(input, limits);
 }
 
 cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
@@ -82,12 +85,9 @@ cChartData cChartMaker::MakeFromEntries(const cChartWish& wish)
     case eChartKind::IncomePie: return modChart::Pie(input);
     case eChartKind::ExpenseMonths:
     case eChartKind::IncomeMonths: return modChart::MonthsByCategory(input);
-    case eChartKind::Budget: {
-        const cSettings settings(m_data);
-        return modChart::Budget(input, modLimits::Read(m_data, settings, m_data.GetTemplates(), {}));
-    }
     case eChartKind::Flow: return modChart::Flow(input);
     case eChartKind::Calendar: return modChart::Calendar(input);
+    case eChartKind::Budget:
     case eChartKind::Limits: return MakeLimits(input);
     case eChartKind::Tags: return modChart::Tags(input);
     case eChartKind::Months:

@@ -57,7 +57,10 @@ public:
     }
 
     // Whether a second period can be laid beside a chart.
-    [[nodiscard]] static bool CanCompare(eChartKind kind) { return kind <= eChartKind::Balances; }
+    [[nodiscard]] static bool CanCompare(eChartKind kind)
+    {
+        return kind <= eChartKind::Balances || kind == eChartKind::Tags;
+    }
     // Whether a chart can look ahead.
     [[nodiscard]] static bool HasForecast(eChartKind kind)
     {
@@ -69,7 +72,7 @@ public:
 
 private:
     [[nodiscard]] cChartData MakeFromEntries(const cChartWish& wish);
-    [[nodiscard]] cChartData MakeLimits(const modChart::cInput& input);
+    [[nodiscard]] cChartData MakeLimits(const modChart::cInput& input); // both charts about them
     [[nodiscard]] cChartData MakeBalances(const cChartWish& wish);
 
     cDataAccess& m_data;

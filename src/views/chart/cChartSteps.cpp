@@ -40,6 +40,12 @@ modPeriod::cRange cChartSteps::RangeAt(int index) const
     return {std::max(first, start), std::min(last, m_range.End)};
 }
 
+int cChartSteps::MonthsAt(int index) const
+{
+    const modPeriod::cRange range = RangeAt(index);
+    return MonthsTo(range.End) - MonthsTo(range.Start) + 1;
+}
+
 QString cChartSteps::Label(int index) const
 {
     const QDate day = RangeAt(index).Start;

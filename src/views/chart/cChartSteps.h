@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] int IndexOf(QDate day) const;               // -1 for a day outside
     [[nodiscard]] modPeriod::cRange RangeAt(int index) const; // cut to the period
+    [[nodiscard]] int MonthsAt(int index) const;              // calendar months that it touches
     [[nodiscard]] QString Label(int index) const;
     [[nodiscard]] QString ShortLabel(int index) const;
 

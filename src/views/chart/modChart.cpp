@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "base/modDayNames.h"
 
 #include <QLocale>
 
@@ -33,13 +34,6 @@ constexpr std::array<cKindName, 12> kinds{{
     {eChartKind::Limits, u"limits", eReportKind::Expense},
     {eChartKind::Tags, u"schlagwort", std::nullopt},
 }};
-
-// Names of months in the chosen language; the tests and the command line may run without any.
-QLocale Names()
-{
-    const QLocale chosen;
-    return chosen.language() == QLocale::C ? QLocale(QLocale::German) : chosen;
-}
 
 bool IsFirstOf(QDate day, int monthsOfUnit)
 {
@@ -116,17 +110,18 @@ QString modChart::RangeText(const modPeriod::cRange& range)
 
 QString modChart::MonthText(QDate month)
 {
-    return Names().toString(month, u"MMMM yyyy"_s);
+    return modDayNames::Language().toString(month, u"MMMM yyyy"_s);
 }
 
 QString modChart::ShortMonthText(QDate month)
 {
-    return Names().standaloneMonthName(month.month(), QLocale::ShortFormat).remove(u'.') + month.toString(u" yy"_s);
+    return modDayNames::Language().standaloneMonthName(month.month(), QLocale::ShortFormat).remove(u'.')
+        + month.toString(u" yy"_s);
 }
 
 QString modChart::MonthName(int month)
 {
-    return Names().standaloneMonthName(month);
+    return modDayNames::Language().standaloneMonthName(month);
 }
 
 QString modChart::AccountText(const QString& account)

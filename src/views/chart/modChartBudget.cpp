@@ -8,12 +8,6 @@ namespace {
 // The limits of one category, step by step.
 using cOwn = QList<std::optional<cLimit>>;
 
-int MonthsOf(const modPeriod::cRange& range)
-{
-    return (range.End.year() - range.Start.year()) * modBudget::MonthsOfYear + range.End.month() - range.Start.month()
-        + 1;
-}
-
 QHash<QString, cOwn> LimitsByStep(const cChartWish& wish, const cLimits& limits, const cChartSteps& steps)
 {
     QHash<QString, cOwn> found;
@@ -24,8 +18,7 @@ QHash<QString, cOwn> LimitsByStep(const cChartWish& wish, const cLimits& limits,
         }
         cOwn own;
         for (int step = 0; step < steps.Count(); ++step) {
-            const modPeriod::cRange range = steps.RangeAt(step);
-            own.append(limits.Of(path, range.Start, MonthsOf(range)));
+            own.append(limits.Of(path, steps.RangeAt(step).Start, steps.MonthsAt(step)));
         }
         found.insert(path, own);
     }

@@ -1,12 +1,12 @@
 #include "base/cText.h"
 #include "model/cLimits.h"
 #include "model/cTemplateItem.h"
-#include "model/modWord.h"
 #include "views/chart/modChartFrame.h"
 #include "views/report/modReport.h"
 
 #include <QHash>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -20,18 +20,6 @@ struct cRow
     QList<qint64> Limit;
 };
 
-int MonthsOf(const modPeriod::cRange& range)
-{
-    return (range.End.year() - range.Start.year()) * modBudget::MonthsOfYear + range.End.month() - range.Start.month()
-        + 1;
-}
-
-// Income of a category lowers what was spent on it, as in the report.
-qint64 Spent(const cEntryItem& entry)
-{
-    return entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
-}
-
 // The categories that the report on the whole period names, with what belongs to each step. What is carried over is
 // left out: it would count once for every month that it goes through.
 QList<cRow> Rows(const modChart::cInput& input, const cLimits& limits, const modPeriod::cRange& range,
@@ -39,22 +27,23 @@ QList<cRow> Rows(const modChart::cInput& input, const cLimits& limits, const mod
 {
     const cReportWish wish = modChart::ReportWish(input.Wish, range, input.Today);
     const cReportFigures figures = modReport::Figures(input.First.Entries, limits, wish);
+    const cSpent spent = modBudget::Spent(input.First.Entries);
     QList<cRow> rows;
     for (const cReportGroup& group : figures.Expense.Groups) {
         for (const cReportCategory& category : group.Categories) {
             const cReportNode node{eReportKind::Expense, group.Name, category.Name};
             cRow row{category.Name.isEmpty() ? group.Label : category.Name, node, QList<qint64>(steps.Count()),
                      QList<qint64>(steps.Count())};
-            const cEntryItemList entries = modReport::EntriesOf(input.First.Entries, wish, node, limits);
-            for (const cEntryItem& entry : entries) {
-                if (const int step = steps.IndexOf(entry.EntryDate); step >= 0) {
-                    row.Spent[step] += Spent(entry);
+            const QString path = modBudget::KeyOf(modTemplate::Join(group.Name, category.Name));
+            const QMap<QDate, qint64> months = spent.value(path);
+            for (auto month = months.begin(); month != months.end(); ++month) {
+                if (const int step = steps.IndexOf(std::max(month.key(), range.Start)); step >= 0) {
+                    row.Spent[step] += *month;
                 }
             }
-            const QString path = modBudget::KeyOf(modTemplate::Join(group.Name, category.Name));
             for (int step = 0; step < steps.Count(); ++step) {
-                const modPeriod::cRange part = steps.RangeAt(step);
-                row.Limit[step] = limits.Of(path, part.Start, MonthsOf(part)).value_or(cLimit()).Own;
+                row.Limit[step] =
+                    limits.Of(path, steps.RangeAt(step).Start, steps.MonthsAt(step)).value_or(cLimit()).Own;
             }
             rows.append(row);
         }

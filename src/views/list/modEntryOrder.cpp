@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "base/modDayNames.h"
 #include "model/modWord.h"
 
 #include <QCollator>
@@ -16,13 +17,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// The language of the names of days and months: the program's own, German where nobody has chosen one.
-QLocale Names()
-{
-    const QLocale chosen;
-    return chosen.language() == QLocale::C ? QLocale(QLocale::German) : chosen;
-}
 
 // Numbers of unique texts in the order of their first appearance.
 std::vector<int> Unique(int count, const std::function<QString(int)>& text, QStringList& unique)
@@ -101,7 +95,7 @@ QString WeekName(QDate day)
 
 QString MonthName(QDate day)
 {
-    return Names().standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
+    return modDayNames::Language().standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
 }
 
 constexpr std::array<cDateGrouping, 3> dateGroupings{{
@@ -151,7 +145,7 @@ modEntryOrder::cRanked DateGroups(const cEntryItemList& entries, const std::vect
 
 QString modEntryOrder::DayName(QDate day)
 {
-    return Names().dayName(day.dayOfWeek()) + u", "_s + modDate::ToText(day);
+    return modDayNames::Language().dayName(day.dayOfWeek()) + u", "_s + modDate::ToText(day);
 }
 
 modEntryOrder::cRanked modEntryOrder::Rank(int count, const std::function<QString(int)>& text)

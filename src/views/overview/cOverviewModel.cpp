@@ -6,6 +6,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modBalance.h"
+#include "model/modBudget.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/chart/cForecast.h"
@@ -183,8 +184,7 @@ void cOverviewModel::ShowMonth(const cMonthPart& part)
     selection.Pick = [path = part.Path](const cEntryItemList& entries) {
         cEntryItemList picked;
         std::copy_if(entries.begin(), entries.end(), std::back_inserter(picked), [&](const cEntryItem& entry) {
-            return entry.EntryType != modWord::Umbuchung && entry.EntryCategory != modWord::Startguthaben
-                && (path.isEmpty() || modTemplate::IsWithin(entry.EntryCategory, path));
+            return modBudget::Counts(entry) && (path.isEmpty() || modTemplate::IsWithin(entry.EntryCategory, path));
         });
         return picked;
     };

@@ -1,6 +1,7 @@
 #include "views/overview/modOverview.h"
 
 #include "model/cTemplateItem.h"
+#include "model/modBudget.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 
@@ -20,11 +21,6 @@ constexpr int leastMonths = 2;
 int MonthsAgo(QDate day, QDate today)
 {
     return (today.year() - day.year()) * 12 + today.month() - day.month();
-}
-
-bool Counts(const cEntryItem& entry)
-{
-    return entry.EntryType != modWord::Umbuchung && entry.EntryCategory != modWord::Startguthaben;
 }
 
 // Whether the day lies as early in its month as today in this one.
@@ -47,7 +43,7 @@ int CountMonths(const cEntryItemList& entries, QDate today)
 {
     int months = 0;
     for (const cEntryItem& entry : entries) {
-        months = Counts(entry) ? std::max(months, MonthsAgo(entry.EntryDate, today)) : months;
+        months = modBudget::Counts(entry) ? std::max(months, MonthsAgo(entry.EntryDate, today)) : months;
     }
     return std::min(months, modOverview::MostMonths);
 }
@@ -71,7 +67,7 @@ modOverview::cMonth modOverview::Month(const cEntryItemList& entries, QDate toda
     cSums all;
     for (const cEntryItem& entry : entries) {
         const int ago = MonthsAgo(entry.EntryDate, today);
-        if (!Counts(entry) || !IsSoFar(entry.EntryDate, today) || ago < 0 || ago > MostMonths) {
+        if (!modBudget::Counts(entry) || !IsSoFar(entry.EntryDate, today) || ago < 0 || ago > MostMonths) {
             continue;
         }
         if (ago == 0) {
@@ -96,12 +92,11 @@ QList<modOverview::cChange> modOverview::Changes(const cEntryItemList& entries, 
     QMap<QString, cChange> groups;
     for (const cEntryItem& entry : entries) {
         const int ago = MonthsAgo(entry.EntryDate, today);
-        if (!Counts(entry) || !IsSoFar(entry.EntryDate, today) || ago < 0 || ago > MostMonths) {
+        if (!modBudget::Counts(entry) || !IsSoFar(entry.EntryDate, today) || ago < 0 || ago > MostMonths) {
             continue;
         }
         cChange& group = groups[modTemplate::MainOf(entry.EntryCategory)];
-        (ago == 0 ? group.Now : group.Usual) +=
-            entry.EntryType == modWord::Ausgabe ? entry.EntryValue : -entry.EntryValue;
+        (ago == 0 ? group.Now : group.Usual) += modBudget::SpentCents(entry);
     }
     QList<cChange> changes;
     for (auto group = groups.begin(); group != groups.end(); ++group) {

@@ -1,5 +1,6 @@
 #include "views/people/modSettlement.h"
 
+#include "model/modBudget.h"
 #include "model/modWord.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ public:
             return;
         }
         const bool isTransfer = entry.EntryType == modWord::Umbuchung;
-        const qint64 cents = entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
+        const qint64 cents = modBudget::SpentCents(entry);
         const modPeople::cShares shares = isTransfer ? m_shares(entry.EntryAccountMove) : Bearers(entry, payer);
         Of(payer).*(isTransfer ? &cPersonSum::Settled : &cPersonSum::Paid) += cents;
         Add(isTransfer ? m_received : m_borne, shares, cents);

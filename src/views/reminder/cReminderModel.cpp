@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto lookDelay = 700ms;  // when the window and its first page stand
-constexpr auto lateDelay = 1500ms; // after that
+constexpr auto lateDelay = 2200ms; // when that is done
 constexpr auto dayPause = 1min;
 
 } // namespace
@@ -41,7 +41,7 @@ void cReminderModel::Start()
 {
     m_day = m_tools.Clock.Today();
     tmrLook.start();
-    tmrLate.start(lookDelay + lateDelay);
+    tmrLate.start();
     tmrDay.start();
 }
 
@@ -56,7 +56,8 @@ void cReminderModel::Stop()
     Q_EMIT Changed();
 }
 
-// What is late changes by statements and by what is done about it: then the longer look is worth its time.
+// What is late follows from statements. What is entered may mend it, so the longer look is worth its time once there is
+// something.
 void cReminderModel::BookChanged()
 {
     if (!m_day.isValid()) {
@@ -64,6 +65,14 @@ void cReminderModel::BookChanged()
     }
     tmrLook.start();
     if (!m_late.isEmpty()) {
+        tmrLate.start();
+    }
+}
+
+void cReminderModel::StatementsChanged()
+{
+    if (m_day.isValid()) {
+        tmrLook.start();
         tmrLate.start();
     }
 }

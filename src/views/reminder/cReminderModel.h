@@ -19,12 +19,13 @@ public:
     // All of it outlives the model. Without a notifier the desktop is told nothing.
     cReminderModel(const cBookTools& tools, cNavigator& navigator, cNotifier* notifier, QObject* parent = nullptr);
 
-    void Start();       // the book is open and may be shown
-    void Stop();        // there is no book for a while
-    void BookChanged(); // looks once for several changes in a row
-    void Look();        // at once, but for what takes longer
-    void LookForLate(); // that, and then tells the desktop
-    void Tick();        // now and then: looks again once another day has begun
+    void Start();             // the book is open and may be shown
+    void Stop();              // there is no book for a while
+    void BookChanged();       // looks once for several changes in a row
+    void StatementsChanged(); // likewise, also for what the bank should have booked by now
+    void Look();              // at once, but for what takes longer
+    void LookForLate();       // that, and then tells the desktop
+    void Tick();              // now and then: looks again once another day has begun
 
     [[nodiscard]] QString Text() const; // empty when there is nothing
     void Follow();                      // opens the entry that the line is about, or wants the overview

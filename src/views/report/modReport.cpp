@@ -22,9 +22,6 @@ namespace {
 const QDate earliest(1001, 1, 1);
 const QDate latest(9999, 12, 31);
 
-// Main category of entries without category path; the same word that categories without names have as path.
-const QString noCategory = u"Keine Angabe"_s;
-
 struct cType
 {
     eReport Type;
@@ -64,7 +61,7 @@ std::size_t qHash(const cPath& path, std::size_t seed = 0)
 
 cPath Split(const QString& path)
 {
-    return {path.isEmpty() ? noCategory : modTemplate::MainOf(path), modTemplate::SubOf(path)};
+    return {path.isEmpty() ? modTemplate::NoPath : modTemplate::MainOf(path), modTemplate::SubOf(path)};
 }
 
 bool Counts(const cEntryItem& entry, const cReportWish& wish)
@@ -100,7 +97,7 @@ QStringList TagsOf(const cEntryItem& entry)
 
 cPath TagPath(const QString& tag, const cEntryItem& entry)
 {
-    return {modTag::Key(tag), entry.EntryCategory.isEmpty() ? noCategory : entry.EntryCategory};
+    return {modTag::Key(tag), entry.EntryCategory.isEmpty() ? modTemplate::NoPath : entry.EntryCategory};
 }
 
 // What lies on one category.
@@ -195,7 +192,7 @@ QString GroupLabel(const QString& group)
     if (group.isEmpty()) {
         return cText::Tr("Sonstiges");
     }
-    return group == noCategory ? cText::Tr("Keine Angabe") : group;
+    return group == modTemplate::NoPath ? cText::Tr("Keine Angabe") : group;
 }
 
 QString CategoryLabel(const cPath& path)
@@ -233,7 +230,7 @@ public:
     // Where the lines are no parts of one whole.
     void SetTags(const QHash<QString, QString>& labels, const cTotal& whole)
     {
-        m_section.Amount = {0, whole.Cents, 0, whole.Entries};
+        m_section.Amount = {.Sum = whole.Cents, .Entries = whole.Entries};
         for (cReportGroup& group : m_section.Groups) {
             const bool isNone = group.Name == modReport::NoTag;
             group.Label = isNone ? cText::Tr("ohne Schlagwort") : labels.value(group.Name);
@@ -257,7 +254,10 @@ public:
     }
 
 private:
-    static QString ShownCategory(const QString& path) { return path == noCategory ? cText::Tr("Keine Angabe") : path; }
+    static QString ShownCategory(const QString& path)
+    {
+        return path == modTemplate::NoPath ? cText::Tr("Keine Angabe") : path;
+    }
 
     cReportGroup& Group(const QString& name)
     {

@@ -137,6 +137,7 @@ private:
                          cWorkbook::SumMoney);
             }
         }
+        m_book.WriteText(m_row, 0, modReport::Note(m_figures.Type), cWorkbook::Plain);
     }
 
     const cReportFigures& m_figures;

@@ -14,7 +14,7 @@ QString modTemplateText::ShownPath(const QString& path)
     if (path.isEmpty()) {
         return cText::Tr("(leere Kategorie)");
     }
-    return path == QStringLiteral("Keine Angabe") ? cText::Tr("Keine Angabe") : path;
+    return path == modTemplate::NoPath ? cText::Tr("Keine Angabe") : path;
 }
 
 QString modTemplateText::State(const cTemplateItem& item)

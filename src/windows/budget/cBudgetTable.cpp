@@ -9,10 +9,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
-#include <QIdentityProxyModel>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QSortFilterProxyModel>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -95,40 +95,53 @@ protected:
     }
 };
 
-// The heads of the lines in bold and with their pictures; a model without widgets knows no fonts.
-class cHeads final : public QIdentityProxyModel
+// The categories or the sum, which is the model's last line, with the heads of sums in bold and the categories with
+// their pictures: a model without widgets knows no fonts.
+class cPart final : public QSortFilterProxyModel
 {
 public:
-    using QIdentityProxyModel::QIdentityProxyModel;
+    cPart(cBudgetTable::ePart part, QObject* parent) : QSortFilterProxyModel(parent), m_part(part) {}
 
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
         if (orientation == Qt::Vertical && role == Qt::FontRole) {
             QFont font = QApplication::font();
-            font.setBold(sourceModel()->headerData(section, orientation, cBudgetModel::IsHeadRole).toBool());
+            font.setBold(headerData(section, orientation, cBudgetModel::IsHeadRole).toBool());
             return font;
         }
         if (orientation == Qt::Vertical && role == Qt::DecorationRole) {
-            const QVariant look = sourceModel()->headerData(section, orientation, cCategoryLooks::Role);
+            const QVariant look = headerData(section, orientation, cCategoryLooks::Role);
             return look.isValid() && look.value<cCategoryLook>() != cCategoryLook{}
                 ? QVariant(modLook::Icon(look.value<cCategoryLook>()))
                 : QVariant();
         }
-        return QIdentityProxyModel::headerData(section, orientation, role);
+        return QSortFilterProxyModel::headerData(section, orientation, role);
     }
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex& /*parent*/) const override
+    {
+        return (row == sourceModel()->rowCount() - 1) == (m_part == cBudgetTable::ePart::Sum);
+    }
+
+private:
+    cBudgetTable::ePart m_part;
 };
 
 } // namespace
 
-cBudgetTable::cBudgetTable(cBudgetModel& model, QWidget* parent)
+cBudgetTable::cBudgetTable(cBudgetModel& model, ePart part, QWidget* parent)
     : QTableView(parent),
       m_model(model),
-      m_look(new cHeads(this))
+      m_part(part),
+      m_lines(new cPart(part, this))
 {
-    m_look->setSourceModel(&model);
-    setModel(m_look);
+    m_lines->setSourceModel(&model);
+    setModel(m_lines);
     setItemDelegate(new cCellDelegate(this));
-    setAccessibleName(cText::Tr("Budget"));
+    setAccessibleName(part == ePart::Sum ? cText::Tr("Summe des Budgets") : cText::Tr("Budget"));
+    setTabKeyNavigation(part == ePart::Categories); // a line to read is no way through all of its cells
+    setFrameShape(NoFrame);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
     setSelectionMode(ContiguousSelection);
     setAlternatingRowColors(true);
@@ -143,29 +156,28 @@ cBudgetTable::cBudgetTable(cBudgetModel& model, QWidget* parent)
     verticalHeader()->setMaximumWidth(fontMetrics().averageCharWidth() * 32); // long names leave room for amounts
     horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     horizontalHeader()->setSectionsClickable(false);
-    FitColumns();
 }
 
-// As wide as the sums, which stand in the first line, and their headlines.
-void cBudgetTable::FitColumns()
+int cBudgetTable::ContentWidth(int column) const
 {
-    resizeColumnsToContents();
     const int least = fontMetrics().averageCharWidth() * 10;
-    for (int column = 0; column < cBudgetModel::ColumnCount; ++column) {
-        setColumnWidth(column, std::max(columnWidth(column), least));
-    }
+    return std::max({sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column), least});
+}
+
+void cBudgetTable::SetHeadWidth(int width)
+{
+    verticalHeader()->setFixedWidth(width);
+    updateGeometries();
+}
+
+void cBudgetTable::Begin()
+{
+    setCurrentIndex(m_lines->index(m_lines->rowCount() > 1 ? 1 : 0, 0));
 }
 
 QModelIndex cBudgetTable::Current() const
 {
-    return m_look->mapToSource(currentIndex());
-}
-
-void cBudgetTable::ShowColumn(int column)
-{
-    const QModelIndex index = m_look->index(std::max(0, currentIndex().row()), column);
-    setCurrentIndex(index);
-    scrollTo(index);
+    return m_lines->mapToSource(currentIndex());
 }
 
 QModelIndexList cBudgetTable::Chosen() const
@@ -173,7 +185,7 @@ QModelIndexList cBudgetTable::Chosen() const
     QModelIndexList chosen;
     const QModelIndexList cells = selectionModel()->selectedIndexes();
     for (const QModelIndex& cell : cells) {
-        chosen.append(m_look->mapToSource(cell));
+        chosen.append(m_lines->mapToSource(cell));
     }
     return chosen;
 }
@@ -209,6 +221,24 @@ void cBudgetTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHi
     QTableView::closeEditor(editor, hint);
     if (hint == QAbstractItemDelegate::SubmitModelCache) {
         MoveDown();
+    }
+}
+
+// The sum is read in passing: where it has no focus, nothing of it looks chosen.
+void cBudgetTable::focusInEvent(QFocusEvent* event)
+{
+    QTableView::focusInEvent(event);
+    if (m_part == ePart::Sum) {
+        const QModelIndex cell = currentIndex().isValid() ? currentIndex() : m_lines->index(0, 0);
+        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
+    }
+}
+
+void cBudgetTable::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    if (m_part == ePart::Sum) {
+        clearSelection();
     }
 }
 

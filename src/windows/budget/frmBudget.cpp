@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/budget/cBudgetModel.h"
+#include "windows/budget/cBudgetGrid.h"
 #include "windows/budget/cBudgetTable.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modPlace.h"
@@ -21,7 +22,7 @@ frmBudget::frmBudget(cBudgetModel& budget, QWidget* parent)
       m_budget(budget),
       m_year(new QSpinBox(this)),
       m_month(new QComboBox(this)),
-      m_table(new cBudgetTable(budget, this))
+      m_grid(new cBudgetGrid(budget, this))
 {
     setWindowTitle(cText::Tr("Budget"));
     auto* hint = new QLabel(m_budget.Hint(), this);
@@ -31,13 +32,13 @@ frmBudget::frmBudget(cBudgetModel& budget, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(BuildSelectors());
     layout->addWidget(hint);
-    layout->addWidget(m_table, 1);
+    layout->addWidget(m_grid, 1);
     layout->addLayout(BuildActions());
     layout->addLayout(BuildButtons());
     const QSize wanted(fontMetrics().averageCharWidth() * 180, fontMetrics().height() * 36);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
-    m_table->setFocus();
-    m_table->setCurrentIndex(m_table->model()->index(m_table->model()->rowCount() > 2 ? 2 : 0, 0));
+    m_grid->setFocus();
+    m_grid->Lines().Begin();
 }
 
 QLayout* frmBudget::BuildSelectors()
@@ -73,7 +74,10 @@ void frmBudget::ShowMonths()
 void frmBudget::ShowYear(int year)
 {
     if (m_budget.ShowYear(year)) {
-        m_table->FitColumns();
+        m_grid->FitColumns();
+        if (!m_grid->Lines().Current().isValid()) { // the year has other lines
+            m_grid->Lines().Begin();
+        }
         return;
     }
     const QSignalBlocker quiet(m_year);
@@ -90,17 +94,17 @@ QLayout* frmBudget::BuildActions()
         button->setEnabled(!m_budget.IsReadOnly() && m_budget.Hint().isEmpty());
         connect(button, &QPushButton::clicked, this, [this, action] {
             action();
-            m_table->FitColumns();
-            m_table->setFocus();
+            m_grid->FitColumns();
+            m_grid->setFocus();
         });
         row->addWidget(button);
     };
     add(cText::Tr("Jahr gleichmäßig &verteilen"),
         cText::Tr("Verteilt, was die Zeile im Jahr erlaubt, auf zwölf gleiche Monate"),
-        [this] { m_budget.Spread(m_table->Current()); });
+        [this] { m_budget.Spread(m_grid->Lines().Current()); });
     add(cText::Tr("Jahr in &einem Monat"),
         cText::Tr("Erlaubt alles im Monat der gewählten Zelle und in den anderen nichts"),
-        [this] { m_budget.KeepInMonth(m_table->Current()); });
+        [this] { m_budget.KeepInMonth(m_grid->Lines().Current()); });
     add(cText::Tr("Ausgaben des V&orjahrs übernehmen"),
         cText::Tr("Schlägt für jeden Monat vor, was ein Jahr davor ausgegeben wurde; gespeichert wird noch nichts"),
         [this] { m_budget.TakeLastYear(); });

@@ -5,8 +5,8 @@
 class QComboBox;
 class QLayout;
 class QSpinBox;
+class cBudgetGrid;
 class cBudgetModel;
-class cBudgetTable;
 
 // The budget of a year in one grid.
 class frmBudget final : public QDialog
@@ -30,5 +30,5 @@ private:
     cBudgetModel& m_budget;
     QSpinBox* m_year;
     QComboBox* m_month;
-    cBudgetTable* m_table;
+    cBudgetGrid* m_grid;
 };
