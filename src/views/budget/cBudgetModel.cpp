@@ -303,7 +303,7 @@ QVariant cBudgetModel::headerData(int section, Qt::Orientation orientation, int 
             return QString((m_lines.at(section).Row < 0 ? u""_s : u"    "_s) + m_lines.at(section).Label);
         case Qt::ToolTipRole: return m_lines.at(section).Label;
         case IsHeadRole: return m_lines.at(section).Row < 0;
-        // The first line is the sum of all.
+        // The last line is the sum of all.
         case cCategoryLooks::Role:
             return section < m_lines.size() - 1 && m_lines.at(section).Row < 0
                 ? m_looks.Shown(m_lines.at(section).Label)
