@@ -1,4 +1,4 @@
-#include "views/reminder/cContracts.h"
+#include "views/entry/cContracts.h"
 
 #include "base/cClock.h"
 #include "base/cText.h"
@@ -9,13 +9,13 @@
 #include "store/cDataAccess.h"
 #include "views/entry/modEntryFields.h"
 
-// Every series that goes on has an occurrence within a year.
+// Every series that goes on has an occurrence within a year; one that was changed from a later day on begins then.
 cEntryItemList cContracts::Ahead(int days) const
 {
     const QDate today = m_tools.Clock.Today();
     cEntryQuery query;
     query.Start = today;
-    query.End = today.addYears(1);
+    query.End = today.addYears(2);
     query.Kind = eBookingKind::Fix;
     return modContract::Ahead(m_tools.Data.GetEntries(query), today, days);
 }
