@@ -5,9 +5,9 @@
 #include "cli/modCliCommands.h"
 #include "cli/modCliEntryList.h"
 #include "model/modBalance.h"
+#include "views/entry/cContracts.h"
 #include "views/overview/cDueItems.h"
 #include "views/overview/cOverviewBook.h"
-#include "views/reminder/cContracts.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -46,9 +46,9 @@ int Run(const cCliContext& context)
         return modExit::Done;
     }
     PrintSum(*context.Book, due);
-    const cEntryItemList contracts = cContracts(context.Book->Tools).Ahead(days);
-    for (const cEntryItem& contract : contracts) {
-        modConsole::Out(cContracts::Text(contract) + u'\n');
+    const QStringList contracts = cContracts(context.Book->Tools).Lines();
+    for (const QString& contract : contracts) {
+        modConsole::Out(contract + u'\n');
     }
     return modExit::Done;
 }
@@ -58,7 +58,8 @@ int Run(const cCliContext& context)
 cCliCommand modCliCommands::DueCommand()
 {
     return {.Name = u"due"_s,
-            .Help = cText::Tr("zeigt, was in den nächsten Tagen fällig wird, und welche Verträge zu kündigen sind"),
+            .Help = cText::Tr(
+                "zeigt, was in den nächsten Tagen fällig wird, und welche Verträge in 30 Tagen zu kündigen sind"),
             .Options = {{u"days"_s, u"ZAHL"_s, cText::Tr("so viele Tage weit, heute eingeschlossen; ohne Angabe 14")},
                         {u"contracts"_s, {}, cText::Tr("nur die Serien, die in diesen Tagen zu kündigen sind")},
                         Json(),

@@ -324,6 +324,7 @@ QStringList FaultsOfAllPages(QWidget& window,
 const std::vector<std::pair<const char*, fnMake>> everyWindow{
     {"main window",
      [](cScene& scene) {
+         modPeopleWindows::Fill(scene.Book.Tools); // who asks for the payer
          auto window = std::make_unique<frmMain>(scene.Model);
          window->ShowFailureMark(true);
          window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
@@ -358,7 +359,11 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmHandbuch>(*scene.Manual);
      }},
     {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
-    {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel); }},
+    {"search",
+     [](cScene& scene) {
+         modPeopleWindows::Fill(scene.Book.Tools);
+         return std::make_unique<frmSuche>(scene.SearchModel);
+     }},
     {"assignment",
      [](cScene& scene) {
          scene.Candidates = scene.Review.StartAssign({scene.Row});

@@ -139,11 +139,22 @@ void cSavedViews::Rename(qsizetype number)
 
 void cSavedViews::AccountRenamed(const QString& oldName, const QString& newName)
 {
+    Follow(&cViewState::Account, oldName, newName);
+}
+
+void cSavedViews::PersonRenamed(const QString& oldName, const QString& newName)
+{
+    Follow(&cViewState::Payer, oldName, newName);
+}
+
+void cSavedViews::Follow(QString cViewState::*field, const QString& oldName, const QString& newName)
+{
     QList<cSavedView> views = All();
     bool isTouched = false;
     for (cSavedView& view : views) {
-        isTouched = isTouched || view.View.Account == oldName;
-        view.View.Account = view.View.Account == oldName ? newName : view.View.Account;
+        QString& name = view.View.*field;
+        isTouched = isTouched || name == oldName;
+        name = name == oldName ? newName : name;
     }
     if (isTouched) {
         Store(views);

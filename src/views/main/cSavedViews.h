@@ -28,8 +28,10 @@ public:
 
     // The name as it counts from now on; a view goes on showing its account.
     void AccountRenamed(const QString& oldName, const QString& newName);
+    void PersonRenamed(const QString& oldName, const QString& newName);
 
 private:
+    void Follow(QString cViewState::*field, const QString& oldName, const QString& newName);
     bool Store(const QList<cSavedView>& views);
     [[nodiscard]] std::optional<QString> AskName(const QString& proposal) const;
     void Rename(qsizetype number);

@@ -36,7 +36,8 @@ QString ToText(const cSavedView& saved)
                        view.Grouping,
                        view.Filter,
                        digits,
-                       saved.Columns};
+                       saved.Columns,
+                       view.Payer};
     for (QString& field : fields) {
         field = Encoded(field);
     }
@@ -57,6 +58,7 @@ cSavedView FromFields(const QStringList& fields)
         saved.View.*switches.at(static_cast<std::size_t>(i)) = fields.at(8).mid(i, 1) != u"0"_s;
     }
     saved.Columns = fields.at(9);
+    saved.View.Payer = fields.value(10); // which older programs did not write
     return saved;
 }
 

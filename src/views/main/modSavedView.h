@@ -14,7 +14,8 @@ struct cSavedView
 };
 
 // Saved views as one text: views joined by ";", their fields by "|", each field percent-encoded. The fields are name,
-// period, first and last free day, account, kind, grouping, filter, the five switches as digits, and columns.
+// period, first and last free day, account, kind, grouping, filter, the five switches as digits, columns, and
+// who paid.
 namespace modSavedView {
 
 [[nodiscard]] QString ToText(const QList<cSavedView>& views);
