@@ -46,6 +46,7 @@ QList<cCliOption> cCliEntryForm::Options()
         {u"interval"_s, u"INTERVALL"_s, cText::Tr("Einmalig, Monatlich, \"Alle 3 Monate\", Jährlich ...")},
         {u"end"_s, u"DATUM"_s, cText::Tr("letzter Tag einer Serie, oder \"ohne\"")},
         {u"cancel-by"_s, u"DATUM"_s, cText::Tr("Serie: Tag, bis zu dem der Vertrag kündbar ist, oder \"ohne\"")},
+        {u"payer"_s, u"NAME"_s, cText::Tr("Person, die bezahlt hat, oder \"ohne\"")},
         {u"text"_s, u"TEXT"_s, cText::Tr("Beschreibung"), true},
         modCliCommands::Json()};
 }
@@ -65,6 +66,7 @@ void cCliEntryForm::Read()
     m_target = m_reader.Account(call.Value(u"to-account"_s));
     m_day = m_reader.Day(call.Value(u"date"_s));
     m_interval = m_reader.Interval(call.Value(u"interval"_s));
+    m_payer = m_reader.Payer(call.Value(u"payer"_s));
     ReadEnd();
     m_kind = m_kind.isEmpty() && !m_target.isEmpty() ? modWord::Umbuchung : m_kind;
     if (!m_target.isEmpty() && m_kind != modWord::Umbuchung) {
@@ -104,6 +106,9 @@ void cCliEntryForm::Fill(cEntryFields& fields)
         fields.CancelBy = m_cancelBy;
         fields.CancelByText.clear();
     }
+    if (Has("payer")) {
+        fields.Payer = m_payer.trimmed(); // nobody is no name
+    }
     if (!m_category.isEmpty()) {
         m_editor.ChooseCategory(m_category, fields);
     }
@@ -136,7 +141,7 @@ void cCliEntryForm::FillPart(int id, cEntryFields& fields)
 void cCliEntryForm::FillBalance(cEntryFields& fields)
 {
     const QStringList others{m_kind, m_account, m_target, m_category, m_interval};
-    if (!others.join(QString()).isEmpty() || Has("end") || Has("text")) {
+    if (!others.join(QString()).isEmpty() || Has("end") || Has("payer") || Has("text")) {
         m_reader.Misused(cText::Tr("Ein Startguthaben hat nur einen Betrag und einen Tag."));
     }
     fields.Amount = Has("amount") ? modSum::ToText(m_cents, fields.Decimal) : fields.Amount;

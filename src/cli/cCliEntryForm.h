@@ -43,6 +43,7 @@ private:
     QString m_account;
     QString m_target;
     QString m_interval;
+    QString m_payer;
     QDate m_day;
     QDate m_cancelBy;
     QDate m_end;

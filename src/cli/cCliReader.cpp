@@ -8,10 +8,12 @@
 #include "base/modSum.h"
 #include "cli/cCliBook.h"
 #include "cli/cConsoleUser.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
 #include "views/list/modBookNames.h"
+#include "views/people/cPeople.h"
 
 #include <QFileInfo>
 
@@ -210,6 +212,23 @@ QString cCliReader::Account(const QString& text, eCliNames names)
         Missing(cText::Tr("Das Konto '{0}' gibt es nicht. Möglich sind: {1}.", {text, accounts.join(u", "_s)}));
     }
     return meant.value(0);
+}
+
+QString cCliReader::Person(const QString& text)
+{
+    const QStringList names = cPeople(m_context.Book->Tools).Names();
+    const QStringList meant = names.contains(text) ? QStringList{text} : Meant(names, text, Itself);
+    if (meant.isEmpty() && !text.isEmpty()) {
+        Missing(names.isEmpty()
+                    ? cText::Tr("Noch gibt es keine Personen. \"people add NAME\" legt eine an.")
+                    : cText::Tr("Die Person '{0}' gibt es nicht. Möglich sind: {1}.", {text, names.join(u", "_s)}));
+    }
+    return meant.value(0);
+}
+
+QString cCliReader::Payer(const QString& text)
+{
+    return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0 ? modPeople::Nobody : Person(text);
 }
 
 QStringList cCliReader::Categories(eCliNames names) const

@@ -19,6 +19,16 @@ cJsonObject modCliRecord::Entry(const cEntryItem& entry)
     return json;
 }
 
+QString modCliRecord::Shares(const modPeople::cShares& shares)
+{
+    QStringList parts;
+    for (const modPeople::cShare& share : shares) {
+        cJsonObject json;
+        parts.append(json.Text(u"Person"_s, share.Person).Number(u"Part"_s, share.Part).ToString());
+    }
+    return modJson::Array(parts);
+}
+
 cJsonObject modCliRecord::FixMod(const cEntryItemFixMod& fixMod)
 {
     cJsonObject json;

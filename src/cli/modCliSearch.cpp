@@ -40,6 +40,7 @@ cSearchQuery ReadQuery(const cCliCall& call, cCliReader& reader)
     query.Account = reader.Account(call.Value(u"account"_s), eCliNames::Used);
     query.Type = reader.Kind(call.Value(u"kind"_s));
     query.Category = reader.Category(call.Value(u"category"_s), eCliNames::Used);
+    query.Payer = reader.Payer(call.Value(u"payer"_s));
     query.IsCorrected = call.Has(u"corrected"_s);
     query.IsFromBank = call.Has(u"from-bank"_s);
     if (query.IsEmpty() && !call.Has(u"period"_s)) {
@@ -96,6 +97,8 @@ cCliCommand modCliCommands::SearchCommand()
                         {u"account"_s, u"NAME"_s, cText::Tr("nur dieses Konto")},
                         {u"kind"_s, u"ART"_s, cText::Tr("Einnahme, Ausgabe oder Umbuchung")},
                         {u"category"_s, u"PFAD"_s, cText::Tr("diese Kategorie und ihre Unterkategorien")},
+                        {u"payer"_s, u"NAME"_s,
+                         cText::Tr("nur was diese Person bezahlt hat; \"ohne\": wo niemand genannt ist")},
                         {u"corrected"_s, {}, cText::Tr("nur von Hand korrigierte Vorkommen")},
                         {u"from-bank"_s, {}, cText::Tr("nur Einträge, zu denen ein Umsatz der Bank gehört")},
                         Json(),

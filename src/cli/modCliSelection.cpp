@@ -4,6 +4,7 @@
 #include "cli/cCliBook.h"
 #include "cli/cCliReader.h"
 #include "model/cTemplateItem.h"
+#include "model/modPeople.h"
 #include "model/modWord.h"
 #include "views/list/cEntryFilter.h"
 
@@ -60,6 +61,7 @@ QList<cCliOption> modCliSelection::Options()
             {u"kind"_s, u"ART"_s, cText::Tr("Einnahme, Ausgabe oder Umbuchung")},
             {u"category"_s, u"PFAD"_s,
              cText::Tr("diese Kategorie und ihre Unterkategorien: \"Wohnung\", \"Wohnung; Miete\"")},
+            {u"payer"_s, u"NAME"_s, cText::Tr("nur was diese Person bezahlt hat; \"ohne\": wo niemand genannt ist")},
             {u"filter"_s, u"TEXT"_s, cText::Tr("nur Einträge, die alle diese Wörter enthalten"), true}};
 }
 
@@ -75,6 +77,7 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     const QString accountText = call.Value(u"account"_s);
     const QString account =
         accountText == modWord::AlleKonten ? QString() : reader.Account(accountText, eCliNames::Used);
+    const QString payer = reader.Payer(call.Value(u"payer"_s));
     const cCategoryChoice category = ReadCategory(call.Value(u"category"_s), reader);
     if (!reader.IsGood()) {
         selection.Code = reader.Report();
@@ -87,8 +90,10 @@ modCliSelection::cSelection modCliSelection::Read(const cCliContext& context)
     query.Account = account;
     const cEntryItemList entries =
         cEntryFilter::Search(book.File().Entries(query), call.Value(u"filter"_s), account, book.Format());
-    std::copy_if(entries.begin(), entries.end(), std::back_inserter(selection.Entries),
-                 [&](const cEntryItem& entry) { return category.Holds(entry.EntryCategory); });
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(selection.Entries), [&](const cEntryItem& entry) {
+        return category.Holds(entry.EntryCategory) && modPeople::IsPaidBy(entry, payer);
+    });
     selection.View = View(call, kind, account);
+    selection.View.Payer = payer;
     return selection;
 }
