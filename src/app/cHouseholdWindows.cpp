@@ -32,7 +32,8 @@ void cHouseholdWindows::OpenBudget(QWidget* parent)
 
 void cHouseholdWindows::OpenPeople(QWidget* parent)
 {
-    cPeople people(m_tools);
+    cPeople people(m_tools,
+                   [this](const QString& oldName, const QString& newName) { m_model.PersonRenamed(oldName, newName); });
     frmPersonen form(people, parent);
     QObject::connect(&form, &frmPersonen::PeopleChanged, &m_model, &cMainModel::BookChanged);
     form.exec();

@@ -1,7 +1,7 @@
 #include "cli/cCliBook.h"
 
-#include "cli/cConsoleRescue.h"
-#include "cli/cConsoleUser.h"
+#include "cli/console/cConsoleRescue.h"
+#include "cli/console/cConsoleUser.h"
 
 namespace {
 

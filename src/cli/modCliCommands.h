@@ -97,6 +97,12 @@ namespace modCliCommands {
 [[nodiscard]] cCliCommand BalancesCommand();
 [[nodiscard]] cCliCommand BankSearchCommand();
 [[nodiscard]] cCliCommand CheckCommand();
+[[nodiscard]] cCliCommand PeopleCommand();
+[[nodiscard]] cCliCommand PeopleAddCommand();
+[[nodiscard]] cCliCommand PeopleRenameCommand();
+[[nodiscard]] cCliCommand PeopleDeleteCommand();
+[[nodiscard]] cCliCommand PeopleSharesCommand();
+[[nodiscard]] cCliCommand SettlementCommand();
 [[nodiscard]] cCliCommand ReceiptsCommand();
 [[nodiscard]] cCliCommand ReceiptsAddCommand();
 [[nodiscard]] cCliCommand ReceiptsRemoveCommand();

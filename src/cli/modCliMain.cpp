@@ -3,7 +3,7 @@
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "cli/cCliBook.h"
-#include "cli/cConsoleUser.h"
+#include "cli/console/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
 #include "cli/modCliCommands.h"
 #include "core/cConfiguration.h"

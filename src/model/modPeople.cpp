@@ -36,6 +36,16 @@ void modPeople::SetPayer(cEntryItem& entry, const QString& name)
     entry.EntryFlags = modFlags::Set(entry.EntryFlags, mark, Encoded(name));
 }
 
+bool modPeople::IsPaidBy(const cEntryItem& entry, const QString& choice)
+{
+    return choice.isEmpty() || Payer(entry) == (choice == Nobody ? QString() : choice);
+}
+
+bool modPeople::IsChoice(const QString& choice, const QStringList& names)
+{
+    return choice.isEmpty() || names.contains(choice) || (choice == Nobody && !names.isEmpty());
+}
+
 QString modPeople::ToText(const cShares& shares)
 {
     QStringList parts;
@@ -94,11 +104,24 @@ QString modPeople::OwnerOf(const cShares& shares)
 modPeople::cShares modPeople::Renamed(const cShares& shares, const QString& oldName, const QString& newName)
 {
     cShares renamed = shares;
-    renamed.removeIf([&](const cShare& share) { return share.Person == oldName && newName.isEmpty(); });
+    const auto isOld = [&](const cShare& share) { return share.Person == oldName; };
+    if (newName.isEmpty() && renamed.removeIf(isOld) > 0) {
+        return PerCent(renamed);
+    }
     for (cShare& share : renamed) {
-        share.Person = share.Person == oldName ? newName : share.Person;
+        share.Person = isOld(share) ? newName : share.Person;
     }
     return renamed;
+}
+
+modPeople::cShares modPeople::PerCent(const cShares& shares)
+{
+    cShares whole = shares;
+    const QList<qint64> parts = Split(100, shares);
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        whole[i].Part = static_cast<int>(parts.at(i));
+    }
+    return whole;
 }
 
 QList<qint64> modPeople::Split(qint64 cents, const cShares& shares)

@@ -13,6 +13,11 @@ namespace modPeople {
 [[nodiscard]] QString Payer(const cEntryItem& entry);
 void SetPayer(cEntryItem& entry, const QString& name);
 
+// Whom a list is narrowed to: a name, Nobody for the entries that name nobody, or an empty text for all.
+inline const QString Nobody = QStringLiteral(" "); // no name is a blank
+[[nodiscard]] bool IsPaidBy(const cEntryItem& entry, const QString& choice);
+[[nodiscard]] bool IsChoice(const QString& choice, const QStringList& names);
+
 // The part that one person has. Only the proportion of the numbers counts; as typed they are per cent.
 struct cShare
 {
@@ -31,10 +36,14 @@ using cShares = QList<cShare>;
 // Everybody the same.
 [[nodiscard]] cShares Equal(const QStringList& names);
 
+// The same proportion as numbers that come to 100, as near as whole numbers are.
+[[nodiscard]] cShares PerCent(const cShares& shares);
+
 // The one to whom all of it belongs; empty when there are several.
 [[nodiscard]] QString OwnerOf(const cShares& shares);
 
-// The shares with another name in them, or without one for an empty name.
+// The shares with another name in them. For an empty name they go without the old one, whose part goes to the others
+// as theirs are.
 [[nodiscard]] cShares Renamed(const cShares& shares, const QString& oldName, const QString& newName);
 
 // Cents by shares, one number for each. The cents that are left over go one by one to the first that have a share.

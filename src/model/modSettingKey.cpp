@@ -54,6 +54,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &MainType,
                                      &MainGrouping,
                                      &MainFilter,
+                                     &MainPayer,
                                      &ViewSingle, // the five switches in the order in which they are turned on
                                      &ViewFix,
                                      &ViewFuture,

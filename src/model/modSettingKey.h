@@ -84,6 +84,7 @@ inline const cSettingKey MainType{QStringLiteral("MainBuchungsart"), {Text, View
 inline const cSettingKey MainGrouping{QStringLiteral("MainGruppierung"),
                                       {Text, View, Cleared, modWord::KeineGruppierung}};
 inline const cSettingKey MainFilter{QStringLiteral("MainFilter"), {Text, View}};
+inline const cSettingKey MainPayer{QStringLiteral("MainZahler"), {Text, View}}; // a choice of modPeople
 inline const cSettingKey ViewSingle{QStringLiteral("ViewSingleBooking"), {Truth, View, SwitchedOn, On}};
 inline const cSettingKey ViewFix{QStringLiteral("ViewFixBooking"), {Truth, View, SwitchedOn, On}};
 inline const cSettingKey ViewFuture{QStringLiteral("ViewFutureBooking"), {Truth, View, SwitchedOn, On}};

@@ -13,11 +13,11 @@ bool IsPart(QChar c)
     return c.isLetterOrNumber() || c.isMark() || c == u'-' || c == u'_';
 }
 
-// What may stand before the "#" of a tag: blanks and what opens or separates words, but no part of a word, number or
-// address.
+// What may stand before the "#" of a tag: blanks, what opens a word, and the comma of a list. Addresses and numbers of
+// invoices have the other marks there.
 bool Separates(QChar c)
 {
-    return c.isSpace() || QStringView(u"([{,;:.!?+\"'„“‚‘»«›‹–").contains(c);
+    return c.isSpace() || QStringView(u"([{,\"'„“‚‘»«›‹–").contains(c);
 }
 
 bool Begins(const QString& text, qsizetype at)

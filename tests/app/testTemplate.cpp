@@ -1,4 +1,4 @@
-#include "cli/cConsoleUser.h"
+#include "cli/console/cConsoleUser.h"
 #include "core/cBook.h"
 #include "core/modDemo.h"
 #include "import/propose/modKeywordTable.h"

@@ -236,7 +236,8 @@ void testCliEntries::DueWithContracts()
     QCOMPARE(Do(u"due|--json"_s).Column(u"EntryValue"_s), (QStringList{u"20"_s, u"7"_s}));
     QCOMPARE(Do(u"due|--json|--days|12"_s).Column(u"EntryValue"_s), QStringList{u"20"_s}); // today is the first of them
     QCOMPARE(Do(u"due|--contracts|--json|--days|10"_s).Column(u"ID"_s), QStringList{contract});
-    QVERIFY(Do(u"due"_s).Out.contains(u"kündbar"_s));
+    Do(u"change|%1|--cancel-by|+29"_s.arg(contract));
+    QVERIFY(Do(u"due"_s).Out.contains(u"kündbar"_s)); // thirty days, as in the window
     QVERIFY(Do(u"due|--csv"_s).Out.count(u"\n"_s) == 3);
     Do(u"change|%1|--cancel-by|ohne"_s.arg(contract));
     QCOMPARE(Do(u"due|--contracts|--json|--days|10"_s).Column(u"ID"_s), QStringList());

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void Files();
     void Budget();
     void RefundsUseUpNothing();
+    void Settlement();
     void Refused_data();
     void Refused();
 
@@ -141,6 +142,42 @@ void testCliReport::Budget()
     QVERIFY(!plain(Run(u"budget|2026"_s)).contains(u"Strom"_s));
 }
 
+// Who paid is said at the entry, and who owes whom follows from the shares in its account.
+void testCliReport::Settlement()
+{
+    const QString folder = m_folder->path() + u"/haushalt"_s;
+    const auto run = [&](const QString& line) { return cCliRun::GoodLine(folder, line); };
+    (void)run(u"people|add|Anna"_s);
+    (void)run(u"people|add|Bén"_s);
+    QVERIFY(run(u"people|shares|girokonto|anna=60"_s).Out.contains(u"Anna 60 %, Bén 40 %"_s));
+    const QString add =
+        u"add|--category|Haushalt|--kind|Ausgabe|--account|Girokonto|--date|2026-02-01|--json|--amount|"_s;
+    const QString id = run(add + u"100|--payer|anna"_s).Column(u"ID"_s).value(0);
+    (void)run(add + u"7"_s);
+    const QString days = u"|--from|2026-01-01|--to|2026-12-31"_s;
+    QCOMPARE(run(u"entries|--payer|Anna|--json"_s + days).Column(u"ID"_s), QStringList{id});
+    QCOMPARE(run(u"search|--payer|ohne|--json"_s).Column(u"EntryValue"_s), QStringList{u"7"_s});
+    const QString table = folder + u"/a.csv"_s;
+    const QString workbook = folder + u"/a.xlsx"_s;
+    const QJsonObject figures =
+        QJsonDocument::fromJson(run(u"settlement|--json|--csv|%1|--xlsx|%2"_s.arg(table, workbook) + days).Out.toUtf8())
+            .object();
+    const QJsonArray payments = figures.value(u"Payments"_s).toArray();
+    QCOMPARE(cCliRun::Column(payments, u"From"_s), QStringList{u"Bén"_s});
+    QCOMPARE(cCliRun::Column(payments, u"Amount"_s), QStringList{u"40"_s});
+    QCOMPARE(figures.value(u"Entries"_s).toArray().size(), 1);
+    QVERIFY(QFile::exists(table) && QFile::exists(workbook));
+    const QString text = run(u"settlement"_s + days).Out.replace(u'\u00A0', u' ').simplified();
+    QVERIFY2(text.contains(u"Bén Anna 40,00 €"_s), qPrintable(text));
+    QVERIFY(cCliRun::Line(folder, u"people|delete|Bén"_s).Error.contains(u"Girokonto: Anna"_s));
+    (void)run(u"change|%1|--payer|ohne"_s.arg(id));
+    QVERIFY(run(u"settlement"_s + days).Out.contains(u"bei keinem Eintrag"_s));
+    (void)run(u"people|rename|Bén|Cem"_s);
+    (void)run(u"people|delete|Anna|--yes"_s);
+    const QJsonObject people = QJsonDocument::fromJson(run(u"people|--json"_s).Out.toUtf8()).object();
+    QCOMPARE(cCliRun::Column(people.value(u"People"_s).toArray(), u"Name"_s), QStringList{u"Cem"_s});
+}
+
 void testCliReport::Refused_data()
 {
     QTest::addColumn<QString>("line");
@@ -150,6 +187,8 @@ void testCliReport::Refused_data()
     QTest::newRow("no month") << u"budget|set|Auto; Benzin|März|5"_s << 2 << u"2026-03"_s;
     QTest::newRow("limit below zero") << u"budget|set|Auto; Benzin|2026-03|-5"_s << 2 << u"unter null"_s;
     QTest::newRow("no expense") << u"budget|set|Einkommen; Freiberuflich|2026-03|5"_s << 1 << u"kein Budget"_s;
+    QTest::newRow("no people") << u"add|--amount|5|--category|Benzin|--payer|Anna"_s << 1 << u"people add"_s;
+    QTest::newRow("no share") << u"people|shares|Girokonto|ohne=5"_s << 1 << u"people add"_s;
     QTest::newRow("no such account") << u"report|summe|--account|Nirgends"_s << 1 << u"Nirgends"_s;
     QTest::newRow("period and days") << u"report|summe|--period|Letzter Monat|--from|2026-01-01"_s << 2
                                      << u"--period"_s;

@@ -1,4 +1,4 @@
-#include "cli/cConsoleBankUser.h"
+#include "cli/console/cConsoleBankUser.h"
 #include "support/cTestClass.h"
 
 #include <QFile>

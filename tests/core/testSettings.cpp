@@ -54,6 +54,7 @@ constexpr std::array storedSettings{
     "MainBuchungsart=Alle Buchungsarten",
     "MainGruppierung=Keine Gruppierung",
     "MainFilter",
+    "MainZahler",
     "ViewSingleBooking=Wahr",
     "ViewFixBooking=Wahr",
     "ViewFutureBooking=Wahr",

@@ -27,6 +27,8 @@ void testTag::Found_data()
     QTest::newRow("digits with a letter") << u"#2026urlaub"_s << u"#2026urlaub"_s;
     QTest::newRow("numbers") << u"Rechnung #1, Los #2026-11, #"_s << u""_s;
     QTest::newRow("inside words and addresses") << u"C# und a#b, https://x.de/#oben, ##doppelt"_s << u""_s;
+    QTest::newRow("behind marks of addresses") << u"https://app.de/?#login, x:#y, Rg.#RE2026-17, a!#b, c+#d"_s << u""_s;
+    QTest::newRow("a list") << u"#auto,#boot"_s << u"#auto #boot"_s;
     QTest::newRow("between punctuation") << u"(#auto), \"#haus\": #boot! #rad-"_s << u"#auto #haus #boot #rad"_s;
     QTest::newRow("each once") << u"#Auto #auto #AUTO"_s << u"#Auto"_s;
     QTest::newRow("one behind the other") << u"#eins#zwei"_s << u"#eins"_s;

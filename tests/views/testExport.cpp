@@ -10,6 +10,7 @@
 #include "views/list/cEntryListModel.h"
 #include "views/main/cViewState.h"
 #include "views/main/modViewText.h"
+#include "views/people/modSettlementExport.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -171,6 +172,7 @@ private Q_SLOTS:
     void XlsxSumsWithoutTransfers();
     void XlsxSumsOfOneAccount();
     void StartBalancesAreNoIncome();
+    void XlsxOfASettlement();
     void XlsxKeepsOddDatesAndTexts();
     void XlsxNoticesFullDisk();
     void HtmlStandsAlone();
@@ -337,6 +339,25 @@ void testExport::StartBalancesAreNoIncome()
     const qsizetype foot = html.indexOf(u"<tfoot>"_s);
     QVERIFY(html.indexOf(u"Startguthaben"_s, foot) > foot);
     QVERIFY(html.indexOf(u"2.500,00"_s, foot) > foot);
+}
+
+void testExport::XlsxOfASettlement()
+{
+    cCountedEntry counted{{}, u"Anna"_s, modPeople::Equal({u"Anna"_s, u"Ben"_s}), -1250};
+    counted.Entry.EntryDate = QDate(2026, 3, 1);
+    counted.Entry.EntryAccount = u"Girokonto"_s;
+    counted.Entry.EntryDescription = u"=1+1"_s;
+    cSettlement settlement;
+    settlement.People = {{u"Anna"_s, -1250, -625, 0}, {u"Ben"_s, 0, -625, 0}};
+    settlement.Payments = {{u"Anna"_s, u"Ben"_s, 625}};
+    settlement.Counted = {counted};
+    const cTable table(modSettlementExport::Xlsx(settlement, m_format.Format).value_or(QByteArray()));
+    QCOMPARE(
+        table.Row(2),
+        QStringList({u"46082"_s, u"=1+1"_s, u"Girokonto"_s, u"Anna"_s, u"Anna, Ben zu gleichen Teilen"_s, u"-12.5"_s}));
+    QCOMPARE(table.Row(5), QStringList({{}, u"Anna"_s, u"-12.5"_s, u"-6.25"_s, u"0"_s, u"-6.25"_s}));
+    QCOMPARE(table.Row(9), QStringList({{}, u"Anna"_s, u"Ben"_s, {}, {}, u"6.25"_s}));
+    QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:F2\"/>"));
 }
 
 void testExport::XlsxKeepsOddDatesAndTexts()

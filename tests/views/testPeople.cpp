@@ -2,8 +2,12 @@
 #include "model/modSettingKey.h"
 #include "store/cJournal.h"
 #include "store/cUndoStep.h"
+#include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
+#include "views/list/cSearch.h"
+#include "views/main/cMainModel.h"
+#include "views/main/cSavedViews.h"
 #include "views/people/cPeople.h"
 #include "views/people/cSettlementModel.h"
 #include "views/people/modSettlement.h"
@@ -15,6 +19,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -76,6 +81,9 @@ private Q_SLOTS:
     void AnyPaymentsSettle();
     void NamesTakeTheirMarksAlong();
     void SharesAreStoredWhole();
+    void SharesOfSomebodyWhoGoes_data();
+    void SharesOfSomebodyWhoGoes();
+    void ListsAreNarrowedToAPayer();
     void ReportOfAPeriod();
 };
 
@@ -247,6 +255,90 @@ void testPeople::SharesAreStoredWhole()
     QVERIFY(people.Stored({}).isEmpty());
 }
 
+void testPeople::SharesOfSomebodyWhoGoes_data()
+{
+    QTest::addColumn<QStringList>("percents"); // of Anna, who goes, Ben and Cem
+    QTest::addColumn<QString>("left");
+    QTest::newRow("as theirs are") << QStringList{u"50"_s, u"30"_s, u"20"_s} << u"Ben 60 %, Cem 40 %"_s;
+    QTest::newRow("not even") << QStringList{u"10"_s, u"60"_s, u"30"_s} << u"Ben 67 %, Cem 33 %"_s;
+    QTest::newRow("alike") << QStringList{u"34"_s, u"33"_s, u"33"_s} << u"Ben, Cem zu gleichen Teilen"_s;
+    QTest::newRow("one is left") << QStringList{u"60"_s, u"40"_s, u""_s} << u"Ben"_s;
+    QTest::newRow("all of it") << QStringList{u"100"_s, u""_s, u""_s} << u"nichts mehr festgelegt"_s;
+    QTest::newRow("none of it") << QStringList{u""_s, u"70"_s, u"30"_s} << QString();
+}
+
+// What the question says is what is shown and what is divided.
+void testPeople::SharesOfSomebodyWhoGoes()
+{
+    QFETCH(QStringList, percents);
+    QFETCH(QString, left);
+    cTestBook book;
+    cPeople people(book.Tools);
+    QVERIFY(people.Add(u"Anna"_s) && people.Add(u"Ben"_s) && people.Add(u"Cem"_s));
+    QCOMPARE(people.TakeShares(u"Girokonto"_s, percents), QString());
+    const modPeople::cShares before = people.Stored(u"Girokonto"_s);
+    book.User.Answers = {eAnswer::Yes};
+    QVERIFY(people.Remove(u"Anna"_s));
+    const modPeople::cShares shares = people.Stored(u"Girokonto"_s);
+    if (left.isEmpty()) {
+        QCOMPARE(shares, before);
+        QVERIFY(!book.User.Asked.constLast().contains(u"Anteil"_s));
+        return;
+    }
+    QVERIFY2(book.User.Asked.constLast().endsWith(u"Girokonto: "_s + left), qPrintable(book.User.Asked.constLast()));
+    QCOMPARE(shares.isEmpty() ? u"nichts mehr festgelegt"_s : cPeople::SharesText(shares), left);
+    const int sum = std::accumulate(shares.begin(), shares.end(), 0,
+                                    [](int part, const modPeople::cShare& share) { return part + share.Part; });
+    QCOMPARE(sum, shares.isEmpty() ? 0 : 100);
+}
+
+void testPeople::ListsAreNarrowedToAPayer()
+{
+    cTestBook book;
+    cFakeNavigator navigator;
+    cMainModel main(book.Tools, {book.Configuration, book.Shell, navigator, book.Path()});
+    cPeople people(book.Tools,
+                   [&main](const QString& oldName, const QString& newName) { main.PersonRenamed(oldName, newName); });
+    QVERIFY(people.Add(u"Anna"_s) && people.Add(u"Ben"_s));
+    for (const auto& [payer, cents] : {std::pair{u"Anna"_s, 100}, {u"Ben"_s, 20}, {u""_s, 3}}) {
+        book.Add([&](cEntryItem& entry) {
+            entry.EntryValue = cents;
+            entry.EntryDescription = u"für Ben"_s; // his name alone does not make him the payer
+            modPeople::SetPayer(entry, payer);
+        });
+    }
+    main.RestoreView(false);
+    main.ChooseAccount(u"Girokonto"_s);
+    const auto spent = [&main] { return main.Entries().Sums().Expense; };
+    main.ChoosePayer(modPeople::Nobody);
+    QCOMPARE(spent(), 3);
+    main.ChoosePayer(u"Cem"_s); // there is no such person
+    QCOMPARE(spent(), 3);
+    main.ChoosePayer(u"Ben"_s);
+    QCOMPARE(spent(), 20);
+    QVERIFY(main.Entries().index(0, cEntryListModel::Balance).data().toString().isEmpty()); // of a part there is none
+    cSearch search(book.Tools);
+    QCOMPARE(search.Find({.Payer = u"Ben"_s}).size(), 1);
+    QCOMPARE(search.Find({.Text = u"ben"_s, .Payer = modPeople::Nobody}).size(), 1);
+    book.User.Choices = {u"Bens"_s};
+    QVERIFY(cSavedViews(book.Tools).Keep(main.View(), {}));
+    QVERIFY(people.Rename(u"Ben"_s, u" Benno "_s));
+    main.BookChanged();
+    QCOMPARE(spent(), 20);
+    QVERIFY(main.ViewLines().contains(u"Bezahlt von: Benno"_s));
+    book.User.Answers = {eAnswer::Yes};
+    QVERIFY(people.Remove(u"Anna"_s));
+    main.BookChanged();
+    main.ChoosePayer(QString());
+    QCOMPARE(spent(), 123);
+    main.ShowView(cSavedViews(book.Tools).All().constFirst().View);
+    QCOMPARE(spent(), 20);
+    book.User.Answers = {eAnswer::Yes};
+    QVERIFY(people.Remove(u"Benno"_s));
+    main.BookChanged();
+    QCOMPARE(spent(), 123); // nobody is left to be chosen
+}
+
 void testPeople::ReportOfAPeriod()
 {
     cTestBook book;
@@ -271,6 +363,17 @@ void testPeople::ReportOfAPeriod()
     QFile file(folder.filePath(u"a.csv"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("02.03.2026;Pizza & Wein;"));
+    book.User.SavePath = folder.filePath(u"a.xlsx"_s);
+    model.SaveFile();
+    QFile workbook(folder.filePath(u"a.xlsx"_s));
+    QVERIFY(workbook.open(QIODevice::ReadOnly));
+    QVERIFY(workbook.read(2) == "PK");
+    book.User.SavePath = folder.filePath(u"a.ods"_s);
+    model.SaveFile();
+    QVERIFY(book.User.Shown.constLast().contains(u".xlsx"_s) && !QFile::exists(book.User.SavePath));
+    QVERIFY(model.CanChangePeople());
+    book.Database.Open(book.Path(), eOpenMode::ReadOnly);
+    QVERIFY(!cSettlementModel(book.Tools).CanChangePeople());
 }
 
 TEST_CLASS(testPeople, QCoreApplication)

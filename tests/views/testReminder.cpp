@@ -4,10 +4,10 @@
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
+#include "views/entry/cContracts.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/overview/cDueItems.h"
 #include "views/overview/cOverviewBook.h"
-#include "views/reminder/cContracts.h"
 #include "views/reminder/cReminderModel.h"
 
 #include <QSignalSpy>
@@ -185,6 +185,37 @@ private Q_SLOTS:
         const cEntryItemList due = cDueItems(scene.Book.Tools).Within(cOverviewBook::DueDays);
         QCOMPARE(due.size(), 3);
         QCOMPARE(due, cOverviewBook::Read(scene.Book.Tools).Due);
+    }
+
+    void RemindsOnceOfWhatWasChangedFromADayOn_data()
+    {
+        QTest::addColumn<bool>("isSplit");
+        QTest::newRow("one entry") << false;
+        QTest::newRow("a split one, the marked part of which goes") << true;
+    }
+
+    void RemindsOnceOfWhatWasChangedFromADayOn()
+    {
+        QFETCH(bool, isSplit);
+        cScene scene;
+        int id = scene.AddSeries(QDate(2026, 1, 15), u"Handy"_s, QDate(2026, 4, 10)).ID;
+        cEntryEditor editor(scene.Book.Tools);
+        cEntryFields fields = editor.Load(id).value();
+        if (isSplit) {
+            editor.UseSplit(fields);
+            fields.Parts.append({.Category = u"Haushalt"_s, .Amount = u"4"_s});
+            fields.Parts.first().Amount = u"6"_s;
+            QCOMPARE(editor.Save(fields), eEntrySaved::Saved);
+        }
+        fields = editor.LoadFrom(id, QDate(2026, 6, 15)).value();
+        if (isSplit) {
+            fields.Parts.removeFirst();
+        }
+        fields.Amount = u"4"_s;
+        QCOMPARE(editor.Save(fields), eEntrySaved::Saved);
+        const cEntryItemList contracts = cContracts(scene.Book.Tools).Ahead(30);
+        QCOMPARE(contracts.size(), 1);
+        QCOMPARE(contracts.first().EntryDate, QDate(2026, 6, 15)); // what goes on is what can be cancelled
     }
 
     void TheEditorKeepsTheDay()

@@ -328,6 +328,7 @@ QStringList FaultsOfAllPages(QWidget& window,
 const std::vector<std::pair<const char*, fnMake>> everyWindow{
     {"main window",
      [](cScene& scene) {
+         modPeopleWindows::Fill(scene.Book.Tools); // who asks for the payer
          auto window = std::make_unique<frmMain>(scene.Model);
          window->ShowFailureMark(true);
          window->StatementsPage().layout()->addWidget(new frmImport(scene.Review, &window->StatementsPage()));
@@ -367,7 +368,11 @@ const std::vector<std::pair<const char*, fnMake>> everyWindow{
          return std::make_unique<frmHandbuch>(*scene.Manual);
      }},
     {"categories", [](cScene& scene) { return std::make_unique<frmKategorie>(scene.Manager); }},
-    {"search", [](cScene& scene) { return std::make_unique<frmSuche>(scene.SearchModel, scene.Model.Cells()); }},
+    {"search",
+     [](cScene& scene) {
+         modPeopleWindows::Fill(scene.Book.Tools);
+         return std::make_unique<frmSuche>(scene.SearchModel, scene.Model.Cells());
+     }},
     {"assignment",
      [](cScene& scene) {
          scene.Candidates = scene.Review.StartAssign({scene.Row});

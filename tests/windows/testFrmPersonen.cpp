@@ -2,12 +2,17 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
+#include "views/list/cSearchModel.h"
 #include "views/people/cPeople.h"
+#include "views/people/cSettlementModel.h"
 #include "windows/entry/frmBuchung.h"
+#include "windows/main/frmSuche.h"
 #include "windows/people/cShareTable.h"
+#include "windows/people/frmAusgleich.h"
 #include "windows/people/frmPersonen.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -23,6 +28,8 @@ class testFrmPersonen final : public QObject
 private Q_SLOTS:
     void PeopleAndSharesByKeyboard();
     void PayerIsAskedForAmongSeveral();
+    void SearchAsksForThePayerAmongSeveral();
+    void ReadOnlyBookKeepsItsPeople();
 };
 
 void testFrmPersonen::PeopleAndSharesByKeyboard()
@@ -77,6 +84,44 @@ void testFrmPersonen::PayerIsAskedForAmongSeveral()
     const cEntryItem stored = *book.Data.LoadEntry(entry.ID);
     QCOMPARE(modPeople::Payer(stored), u"Änne; & Söhne"_s);
     QVERIFY(stored.EntryFlags.startsWith(u"andere=1;"));
+}
+
+void testFrmPersonen::SearchAsksForThePayerAmongSeveral()
+{
+    cTestBook book;
+    cSearchModel model(book.Tools);
+    frmSuche search(model);
+    const auto payer = [&search]() -> QComboBox& {
+        const QList<QLabel*> labels = search.findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            if (label->text() == u"Bezahlt v&on:") {
+                return *qobject_cast<QComboBox*>(label->buddy());
+            }
+        }
+        qFatal("no such label");
+    };
+    search.Present();
+    QVERIFY(!payer().isVisible());
+    QVERIFY(cPeople(book.Tools).Add(u"Anna"_s));
+    book.Add([](cEntryItem& entry) { modPeople::SetPayer(entry, u"Anna"_s); });
+    search.Refresh();
+    QVERIFY(payer().isVisible());
+    payer().setCurrentIndex(1);
+    QCOMPARE(model.Entries().rowCount(), 1);
+    payer().setCurrentIndex(2); // nobody in particular
+    QCOMPARE(model.Entries().rowCount(), 0);
+}
+
+void testFrmPersonen::ReadOnlyBookKeepsItsPeople()
+{
+    cTestBook book;
+    book.Database.Open(book.Path(), eOpenMode::ReadOnly);
+    cSettlementModel model(book.Tools);
+    frmAusgleich form(model);
+    const QList<QPushButton*> buttons = form.findChildren<QPushButton*>();
+    for (const QPushButton* button : buttons) {
+        QCOMPARE(button->isEnabled(), button->text() != u"P&ersonen…"_s);
+    }
 }
 
 TEST_CLASS(testFrmPersonen, QApplication)

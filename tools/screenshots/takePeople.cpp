@@ -5,12 +5,15 @@
 #include "support/cFakeNavigator.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
+#include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
 #include "views/people/cPeople.h"
 #include "views/people/cSettlementModel.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "windows/main/cEntryTree.h"
+#include "windows/main/cSearchFields.h"
 #include "windows/main/frmMain.h"
+#include "windows/main/frmSuche.h"
 #include "windows/people/frmAusgleich.h"
 #include "windows/people/frmPersonen.h"
 #include "windows/statistics/frmStatistik.h"
@@ -91,6 +94,15 @@ bool TakePeople(cCamera& camera)
     Settle();
     window.findChild<cEntryTree*>()->setCurrentIndex(main.Entries().index(1, 0));
     camera.Take(window, u"schlagwort-liste"_s);
+    main.FilterByTag(u"#urlaub"_s); // takes it away again
+    main.ChoosePayer(u"Anna"_s);
+    Settle();
+    camera.Take(window, u"bezahlt-von"_s);
+    cSearchModel found(tools);
+    frmSuche search(found);
+    search.Present();
+    search.findChild<cSearchFields*>()->ShowText(u"urlaub"_s);
+    camera.Take(search, u"suche-bezahlt-von"_s);
     TakeStatistics(camera, scene, main, navigator);
     cPeople people(tools);
     frmPersonen persons(people);

@@ -1,6 +1,6 @@
 #include "base/cText.h"
 #include "cli/cCliBook.h"
-#include "cli/cConsoleUser.h"
+#include "cli/console/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
 #include "cli/modCliCommands.h"
 #include "model/modWord.h"

@@ -1,5 +1,5 @@
 #include "base/cText.h"
-#include "cli/cConsoleUser.h"
+#include "cli/console/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
 #include "cli/help/modRoff.h"
 #include "cli/modCliCommands.h"

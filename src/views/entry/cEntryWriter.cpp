@@ -4,6 +4,7 @@
 #include "base/cUser.h"
 #include "import/propose/modCorrected.h"
 #include "import/propose/modOccurrence.h"
+#include "model/modContract.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "store/cDataAccess.h"
@@ -72,7 +73,9 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
 
 bool cEntryWriter::Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from)
 {
-    const auto remove = [&](int id) { return from.isValid() ? EndBefore(id, from) : m_data.DeleteEntry(id); };
+    const auto remove = [&](int id) {
+        return from.isValid() ? EndBefore(id, from, eContract::GoesOn) : m_data.DeleteEntry(id);
+    };
     const auto write = [&](cEntryWrite& row) {
         return from.isValid() && row.Entry.ID > 0 ? WriteFrom(row, from) : WriteRow(row);
     };
@@ -104,10 +107,10 @@ bool cEntryWriter::WriteFrom(cEntryWrite& row, QDate from)
     }
     row.Entry.ID = 0;
     const QList<int> paying = RowsFrom(*old, from); // as the series still is
-    return EndBefore(oldId, from) && WriteRow(row) && MoveImports(paying, row.Entry.ID);
+    return EndBefore(oldId, from, eContract::GoesOn) && WriteRow(row) && MoveImports(paying, row.Entry.ID);
 }
 
-bool cEntryWriter::EndBefore(int id, QDate from)
+bool cEntryWriter::EndBefore(int id, QDate from, eContract contract)
 {
     std::optional<cEntryItem> series = m_data.LoadEntry(id);
     if (!series) {
@@ -121,6 +124,9 @@ bool cEntryWriter::EndBefore(int id, QDate from)
         }
     }
     series->EntryDateEnd = from.addDays(-1);
+    if (contract == eContract::GoesOn) {
+        modContract::SetCancelBy(*series, {});
+    }
     return m_data.ChangeEntry(*series);
 }
 
@@ -163,7 +169,7 @@ bool cEntryWriter::End(int id, QDate from)
         return false;
     }
     const QList<int> paying = RowsFrom(*series, from);
-    return EndBefore(id, from) && MoveImports(paying, noEntry);
+    return EndBefore(id, from, eContract::Ends) && MoveImports(paying, noEntry);
 }
 
 bool cEntryWriter::WriteCorrections(const cEntryWrite& row)

@@ -36,11 +36,14 @@ public:
     [[nodiscard]] bool End(int id, QDate from);
 
 private:
+    // What becomes of the contract behind a series that ends: one that goes on is told of by the series that follows.
+    enum class eContract { Ends, GoesOn };
+
     [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool Change(const cEntryItem& entry);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);
-    [[nodiscard]] bool EndBefore(int id, QDate from);
+    [[nodiscard]] bool EndBefore(int id, QDate from, eContract contract);
     [[nodiscard]] QList<int> RowsFrom(const cEntryItem& series, QDate from) const;
     [[nodiscard]] bool MoveImports(const QList<int>& rowIds, int newId);
     [[nodiscard]] bool WriteCorrections(const cEntryWrite& row);

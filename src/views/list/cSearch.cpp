@@ -3,6 +3,7 @@
 #include "base/cClock.h"
 #include "core/cBookTools.h"
 #include "model/cTemplateItem.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -68,7 +69,8 @@ void cSearch::DropFuture(cEntryItemList& entries) const
 
 cEntryItemList cSearch::Narrow(const cEntryItemList& loaded, const cSearchQuery& query)
 {
-    const bool isWide = query.Category.isEmpty() && !query.Least && !query.Most && !query.IsCorrected;
+    const bool isWide =
+        query.Category.isEmpty() && query.Payer.isEmpty() && !query.Least && !query.Most && !query.IsCorrected;
     if (isWide && !query.IsFromBank) {
         return loaded;
     }
@@ -79,7 +81,7 @@ cEntryItemList cSearch::Narrow(const cEntryItemList& loaded, const cSearchQuery&
     std::copy_if(loaded.begin(), loaded.end(), std::back_inserter(entries), [&](const cEntryItem& entry) {
         return IsOfAmount(entry.EntryValue, query) && (!query.IsCorrected || entry.IsCorrected)
             && (query.Category.isEmpty() || modTemplate::IsWithin(entry.EntryCategory, query.Category))
-            && (!query.IsFromBank || m_bankEntries.contains(entry.ID));
+            && modPeople::IsPaidBy(entry, query.Payer) && (!query.IsFromBank || m_bankEntries.contains(entry.ID));
     });
     return entries;
 }

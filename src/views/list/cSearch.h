@@ -19,6 +19,7 @@ struct cSearchQuery
     modPeriod::cRange Days{};
     QString Account{};        // of a transfer either account
     QString Type{};           // "Einnahme", "Ausgabe" or "Umbuchung"
+    QString Payer{};          // a choice of modPeople
     QString Category{};       // a path; a main category finds its sub-categories too
     bool IsCorrected = false; // only occurrences whose amount was corrected
     bool IsFromBank = false;  // only entries that a bank transaction belongs to
@@ -42,7 +43,7 @@ public:
     // The same in steps, for who shows results while the search is still being typed: the entries of these days, this
     // account and kind, read from the book ...
     [[nodiscard]] cEntryItemList Load(const cSearchQuery& query);
-    // ... and of those what fits in amount, category and marks. What is left to check is the text.
+    // ... and of those what fits in amount, category, payer and marks. What is left to check is the text.
     [[nodiscard]] cEntryItemList Narrow(const cEntryItemList& loaded, const cSearchQuery& query);
 
 private:

@@ -6,6 +6,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "model/modPeople.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -145,6 +146,7 @@ cSearchQuery cSearchModel::Query(const cFields& fields) const
     query.Account = fields.Account;
     query.Type = fields.Type;
     query.Category = fields.Category;
+    query.Payer = modPeople::IsChoice(fields.Payer, People()) ? fields.Payer : QString();
     query.IsCorrected = fields.IsCorrected;
     query.IsFromBank = fields.IsFromBank;
     return query;
@@ -185,6 +187,11 @@ QStringList cSearchModel::Periods() const
 QStringList cSearchModel::Accounts() const
 {
     return modBookNames::Accounts(m_tools.Data);
+}
+
+QStringList cSearchModel::People() const
+{
+    return modPeople::NamesOf(m_tools.Settings.Get(modSettingKey::People));
 }
 
 QStringList cSearchModel::Categories() const

@@ -34,6 +34,7 @@ public:
         QString Account{};
         QString Type{};
         QString Category{};
+        QString Payer{}; // a choice of modPeople
         bool IsCorrected = false;
         bool IsFromBank = false;
         bool operator==(const cFields&) const = default;
@@ -51,6 +52,7 @@ public:
     // Choices, without the one for all of them.
     [[nodiscard]] QStringList Periods() const;
     [[nodiscard]] QStringList Accounts() const;
+    [[nodiscard]] QStringList People() const;                                // none: nobody is asked who paid
     [[nodiscard]] QStringList Tags() const { return m_entries.KnownTags(); } // of what is in the list
     [[nodiscard]] QStringList Categories() const; // main categories before their sub-categories
     [[nodiscard]] modPeriod::cRange Days(const cFields& fields) const;

@@ -1,5 +1,8 @@
 #include "views/list/modViewRecord.h"
 
+#include "core/cSettings.h"
+#include "model/modSettingKey.h"
+
 #include <QUrl>
 
 QList<QStringList> modViewRecord::FromText(const QString& text)
@@ -30,13 +33,15 @@ QString modViewRecord::ToText(const QList<QStringList>& views)
     return texts.join(u';');
 }
 
-QString modViewRecord::WithAccount(const QString& text, const QString& oldName, const QString& newName)
+bool modViewRecord::Follow(cSettings& settings, eField field, const QString& oldName, const QString& newName)
 {
-    QList<QStringList> views = FromText(text);
+    QList<QStringList> views = FromText(settings.Get(modSettingKey::SavedViews));
     bool isTouched = false;
     for (QStringList& fields : views) {
-        isTouched = isTouched || fields.at(Account) == oldName;
-        fields[Account] = fields.at(Account) == oldName ? newName : fields.at(Account);
+        if (fields.value(field) == oldName) {
+            fields[field] = newName;
+            isTouched = true;
+        }
     }
-    return isTouched ? ToText(views) : text;
+    return !isTouched || settings.Set(modSettingKey::SavedViews, ToText(views));
 }

@@ -10,6 +10,7 @@
 #include "core/cSettings.h"
 #include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modSettingKey.h"
 #include "model/modTag.h"
@@ -119,6 +120,7 @@ void cMainModel::ResetView()
     m_view.Grouping = modWord::KeineGruppierung;
     m_view.Type = modWord::AlleBuchungsarten;
     m_view.Filter.clear();
+    m_view.Payer.clear();
     m_view.Period = modWord::AlleBuchungen;
     m_view.Free = {}; // chosen again, the free period starts with the days in sight
     m_view.Account = modWord::AlleKonten;
@@ -147,6 +149,7 @@ void cMainModel::LoadEntries()
     if (!m_view.ShowsNothing()) {
         content.Entries = m_detour.Picked(m_tools.Data.GetEntries(query));
         content.StartBalance = StartBalance(query);
+        content.Entries.removeIf([this](const cEntryItem& entry) { return !modPeople::IsPaidBy(entry, m_view.Payer); });
     }
     content.Account = query.Account;
     content.Today = today;
@@ -158,8 +161,8 @@ void cMainModel::LoadEntries()
 
 std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
 {
-    const bool isNarrowed =
-        m_detour.IsPicked() || query.Kind != eBookingKind::All || m_view.Type != modWord::AlleBuchungsarten;
+    const bool isNarrowed = m_detour.IsPicked() || query.Kind != eBookingKind::All
+        || m_view.Type != modWord::AlleBuchungsarten || !m_view.Payer.isEmpty();
     if (query.Account.isEmpty() || isNarrowed) {
         return std::nullopt;
     }
@@ -204,6 +207,7 @@ void cMainModel::BookChanged()
     m_balancesOf = QDate();
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     TakeAccount();
+    m_detour.Own(m_view).DropUnknownPayer(m_tools.Settings);
     RefreshView();
     Q_EMIT BookRefreshed();
 }
@@ -280,6 +284,19 @@ void cMainModel::ChooseType(const QString& type)
         m_view.Type = type;
         RefreshView();
     }
+}
+
+void cMainModel::ChoosePayer(const QString& payer)
+{
+    if (payer != m_view.Payer && modPeople::IsChoice(payer, People())) {
+        m_view.Payer = payer;
+        RefreshView();
+    }
+}
+
+QStringList cMainModel::People() const
+{
+    return modPeople::NamesOf(m_tools.Settings.Get(modSettingKey::People));
 }
 
 void cMainModel::ChooseGrouping(const QString& grouping)
@@ -398,6 +415,12 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
     BookChanged();
 }
 
+void cMainModel::PersonRenamed(const QString& oldName, const QString& newName)
+{
+    QString& payer = m_detour.Own(m_view).Payer;
+    payer = payer == oldName ? newName : payer;
+}
+
 void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
 {
     m_parts.DatabasePath = path;
@@ -496,6 +519,9 @@ QString cMainModel::EmptyHint() const
     if (!m_view.Filter.isEmpty()) {
         return cText::Tr("Kein Eintrag dieser Ansicht enthält '{0}'. Löschen Sie den Filter, um alles zu sehen.",
                          {m_view.Filter});
+    }
+    if (!m_view.Payer.isEmpty()) {
+        return cText::Tr("Für diese Auswahl gibt es keine Einträge. „Beliebig“ bei „Bezahlt von“ zeigt alle.");
     }
     if (m_tools.Data.CountEntries() == 0) {
         return cText::Tr(

@@ -73,6 +73,7 @@ public:
     void ChooseFreeRange(const modPeriod::cRange& range);
     void ChooseAccount(const QString& account); // empty: all accounts
     void ChooseType(const QString& type);
+    void ChoosePayer(const QString& payer); // a choice of modPeople
     void ChooseGrouping(const QString& grouping);
     void TypeFilter(const QString& text);   // filters what is loaded, once typing pauses for an event loop turn
     void FilterByTag(const QString& tag);   // for this tag alone; takes such a filter away again
@@ -126,6 +127,7 @@ public:
     void AccessChanged(); // the book can only be read from now on
     void BookChanged();
     void AccountRenamed(const QString& oldName, const QString& newName);
+    void PersonRenamed(const QString& oldName, const QString& newName);
     // After another database was opened behind the same objects: shows it in its own view state.
     void BookSwitched(const QString& path, bool isNewVersion);
     // After staged rows came, went or were booked: their numbers stand beside the accounts.
@@ -142,6 +144,7 @@ public:
     [[nodiscard]] QDate Today() const;
     [[nodiscard]] bool IsFreePeriod() const;
     [[nodiscard]] QStringList Accounts() const; // "Alle Konten" first
+    [[nodiscard]] QStringList People() const;   // none: nobody is asked who paid
     [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
     [[nodiscard]] cAccountListModel& AccountList() { return m_accounts; }
 

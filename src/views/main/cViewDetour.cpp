@@ -16,6 +16,7 @@ void cViewDetour::Enter(cViewState& view, const cEntrySelection& selection)
     view.Type = selection.Type;
     view.Grouping = u"Nach Sparte"_s;
     view.Filter.clear();
+    view.Payer.clear();
     // The figure counts entries of every kind, so the list has to show them.
     view.ShowsSingle = true;
     view.ShowsFix = true;

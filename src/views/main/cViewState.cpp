@@ -2,6 +2,7 @@
 
 #include "base/modDate.h"
 #include "core/cSettings.h"
+#include "model/modPeople.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/list/modSetting.h"
@@ -55,6 +56,8 @@ void cViewState::Restore(const cSettings& settings, const QStringList& accounts,
     Type = Offered(settings, modSettingKey::MainType, modWord::ViewTypes().Stored());
     Grouping = Offered(settings, modSettingKey::MainGrouping, modWord::Groupings().Stored());
     Filter = settings.Get(modSettingKey::MainFilter);
+    Payer = settings.Get(modSettingKey::MainPayer);
+    DropUnknownPayer(settings);
     ShowsSingle = settings.GetBool(modSettingKey::ViewSingle);
     ShowsFix = settings.GetBool(modSettingKey::ViewFix);
     ShowsFuture = settings.GetBool(modSettingKey::ViewFuture);
@@ -62,10 +65,18 @@ void cViewState::Restore(const cSettings& settings, const QStringList& accounts,
     BalancesToToday = settings.GetBool(modSettingKey::ViewAllBalances);
 }
 
+void cViewState::DropUnknownPayer(const cSettings& settings)
+{
+    if (!modPeople::IsChoice(Payer, modPeople::NamesOf(settings.Get(modSettingKey::People)))) {
+        Payer.clear();
+    }
+}
+
 void cViewState::Save(cSettings& settings) const
 {
     modSetting::Keep(settings, modSettingKey::MainType, Type);
     modSetting::Keep(settings, modSettingKey::MainFilter, Filter);
+    modSetting::Keep(settings, modSettingKey::MainPayer, Payer);
     modSetting::Keep(settings, modSettingKey::MainPeriod, Period);
     modSetting::Keep(settings, modSettingKey::MainPeriodStart, modDate::ToIso(Free.Start));
     modSetting::Keep(settings, modSettingKey::MainPeriodEnd, modDate::ToIso(Free.End));

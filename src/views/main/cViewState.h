@@ -18,6 +18,7 @@ struct cViewState
     QString Type;           // "Alle Buchungsarten" or a kind of entry
     QString Grouping;
     QString Filter; // free text
+    QString Payer;  // who paid, a choice of modPeople
     bool ShowsSingle = true;
     bool ShowsFix = true;
     bool ShowsFuture = true;
@@ -28,7 +29,10 @@ struct cViewState
     // year). So do free days that can be no period while they are the chosen one.
     void Restore(const cSettings& settings, const QStringList& accounts, QDate today);
 
-    // Writes the seven selector keys that changed.
+    // People come and go; one who is gone is no choice any more.
+    void DropUnknownPayer(const cSettings& settings);
+
+    // Writes the eight selector keys that changed.
     void Save(cSettings& settings) const;
 
     // The account to filter by; empty for all.

@@ -31,7 +31,8 @@ QStringList ToFields(const cSavedView& saved)
             view.Grouping,
             view.Filter,
             digits,
-            saved.Columns};
+            saved.Columns,
+            view.Payer};
 }
 
 cSavedView FromFields(const QStringList& fields)
@@ -49,6 +50,7 @@ cSavedView FromFields(const QStringList& fields)
         saved.View.*switches.at(static_cast<std::size_t>(i)) = fields.at(modViewRecord::Switches).mid(i, 1) != u"0"_s;
     }
     saved.Columns = fields.at(modViewRecord::Columns);
+    saved.View.Payer = fields.value(modViewRecord::Payer); // which older programs did not write
     return saved;
 }
 

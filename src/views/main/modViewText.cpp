@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "model/modPeople.h"
 #include "model/modWord.h"
 #include "views/main/cViewState.h"
 #include "views/report/modReport.h"
@@ -47,6 +48,13 @@ QStringList Hidden(const cViewState& view)
 
 } // namespace
 
+QString modViewText::PayerText(const QString& choice)
+{
+    return choice.isEmpty()           ? cText::Tr("Beliebig")
+        : choice == modPeople::Nobody ? cText::Tr("niemand Bestimmtem")
+                                      : choice;
+}
+
 QString modViewText::Title(const cViewState& view)
 {
     const QString account = view.FilterAccount();
@@ -63,6 +71,9 @@ QStringList modViewText::Lines(const cViewState& view, const modPeriod::cRange& 
     }
     if (const QString filter = view.Filter.trimmed(); !filter.isEmpty()) {
         lines.append(cText::Tr("Filter: {0}", {filter}));
+    }
+    if (!view.Payer.isEmpty()) {
+        lines.append(cText::Tr("Bezahlt von: {0}", {PayerText(view.Payer)}));
     }
     if (view.Grouping != modWord::KeineGruppierung) {
         lines.append(cText::Tr("Gruppierung: {0}", {modWord::Groupings().ToShown(view.Grouping)}));

@@ -13,6 +13,9 @@ namespace modViewText {
 // "Einträge: Girokonto", or without the account when all are shown.
 [[nodiscard]] QString Title(const cViewState& view);
 
+// How a choice of payers is called; see modPeople.
+[[nodiscard]] QString PayerText(const QString& choice);
+
 // Period with its days and account, then one line each for whatever narrows or orders the list.
 [[nodiscard]] QStringList Lines(const cViewState& view, const modPeriod::cRange& range);
 

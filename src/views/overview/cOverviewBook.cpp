@@ -7,7 +7,7 @@
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
 #include "views/chart/cForecast.h"
-#include "views/reminder/cContracts.h"
+#include "views/entry/cContracts.h"
 #include "views/report/modReport.h"
 
 #include <algorithm>

@@ -10,11 +10,11 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "views/chart/cForecast.h"
+#include "views/entry/cContracts.h"
 #include "views/entry/modEntryFields.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
 #include "views/overview/cDueItems.h"
-#include "views/reminder/cContracts.h"
 #include "views/report/modReport.h"
 
 #include <QLocale>

@@ -10,6 +10,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/list/modViewRecord.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,15 +62,15 @@ QString cPeople::SharesText(const modPeople::cShares& shares)
     if (shares.size() == 1) {
         return shares.constFirst().Person;
     }
-    int sum = 0;
-    for (const modPeople::cShare& share : shares) {
-        sum += share.Part;
+    const bool areEqual = std::all_of(shares.begin(), shares.end(), [&](const modPeople::cShare& share) {
+        return share.Part == shares.constFirst().Part;
+    });
+    QStringList texts;
+    const modPeople::cShares parts = modPeople::PerCent(shares);
+    for (const modPeople::cShare& share : parts) {
+        texts.append(areEqual ? share.Person : cText::Tr("{0} {1} %", {share.Person, QString::number(share.Part)}));
     }
-    QStringList parts;
-    for (const modPeople::cShare& share : shares) {
-        parts.append(sum == whole ? cText::Tr("{0} {1} %", {share.Person, QString::number(share.Part)}) : share.Person);
-    }
-    return sum == whole ? parts.join(u", "_s) : cText::Tr("{0} zu gleichen Teilen", {parts.join(u", "_s)});
+    return areEqual ? cText::Tr("{0} zu gleichen Teilen", {texts.join(u", "_s)}) : texts.join(u", "_s);
 }
 
 bool cPeople::Refuse(const QString& text) const
@@ -108,16 +109,38 @@ bool cPeople::Rename(const QString& oldName, const QString& typed)
         return Refuse(*wrong);
     }
     cUndoStep step(m_tools.Data, cText::Tr("Person '{0}' umbenannt", {oldName}));
-    return step.DoneIf(Replace(oldName, name));
+    const bool isDone = step.DoneIf(Replace(oldName, name));
+    if (isDone && m_onRenamed) {
+        m_onRenamed(oldName, name);
+    }
+    return isDone;
+}
+
+QStringList cPeople::SharesWithout(const QString& name) const
+{
+    QStringList lines;
+    const QStringList places = QStringList{QString()} + Accounts();
+    for (const QString& place : places) {
+        const modPeople::cShares shares = Stored(place);
+        const modPeople::cShares left = modPeople::Renamed(shares, name, {});
+        if (left.size() != shares.size()) {
+            lines.append((place.isEmpty() ? cText::Tr("Gemeinsames") : place) + u": "_s
+                         + (left.isEmpty() ? cText::Tr("nichts mehr festgelegt") : SharesText(left)));
+        }
+    }
+    return lines;
 }
 
 bool cPeople::Remove(const QString& name)
 {
     const qsizetype count = CountOf(name);
-    const QString question = count == 0
+    QString question = count == 0
         ? cText::Tr("Soll '{0}' gelöscht werden?", {name})
         : cText::Tr("Soll '{0}' gelöscht werden?\nBei {1} ist dann nicht mehr vermerkt, wer bezahlt hat.",
                     {name, modCount::Entries(static_cast<int>(count))});
+    if (const QStringList shares = SharesWithout(name); !shares.isEmpty()) {
+        question += u'\n' + cText::Tr("Der Anteil geht an die anderen:\n{0}", {shares.join(u'\n')});
+    }
     if (m_tools.User.Ask({.Text = question, .Title = cText::Tr("Person löschen"), .Default = eAnswer::No})
         != eAnswer::Yes) {
         return false;
@@ -208,7 +231,8 @@ bool cPeople::Replace(const QString& oldName, const QString& newName)
         name = name == oldName ? newName : name;
     }
     names.removeAll(QString());
-    bool isStored = m_tools.Settings.Set(modSettingKey::People, modPeople::ToText(names));
+    bool isStored = m_tools.Settings.Set(modSettingKey::People, modPeople::ToText(names))
+        && modViewRecord::Follow(m_tools.Settings, modViewRecord::Payer, oldName, newName);
     const QStringList accounts = Accounts() << QString();
     for (const QString& account : accounts) {
         isStored = isStored && Store(account, modPeople::Renamed(Stored(account), oldName, newName));

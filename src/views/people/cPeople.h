@@ -6,7 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 class cDataAccess;
 struct cBookTools;
@@ -16,7 +18,14 @@ struct cBookTools;
 class cPeople
 {
 public:
-    explicit cPeople(const cBookTools& tools) : m_tools(tools) {}
+    using fnRenamed = std::function<void(const QString& oldName, const QString& newName)>;
+
+    // `onRenamed` is told of every person who has another name from now on.
+    explicit cPeople(const cBookTools& tools, fnRenamed onRenamed = {})
+        : m_tools(tools),
+          m_onRenamed(std::move(onRenamed))
+    {
+    }
 
     [[nodiscard]] QStringList Names() const;
     [[nodiscard]] bool HasAny() const { return !Names().isEmpty(); }
@@ -53,6 +62,9 @@ private:
     [[nodiscard]] QList<int> EntriesOf(const QString& name) const;
     [[nodiscard]] bool Replace(const QString& oldName, const QString& newName);
     [[nodiscard]] bool Store(const QString& account, const modPeople::cShares& shares);
+    // What the shares become once the person is gone, a line for each account that they have a part of.
+    [[nodiscard]] QStringList SharesWithout(const QString& name) const;
 
     const cBookTools& m_tools;
+    fnRenamed m_onRenamed;
 };

@@ -5,8 +5,11 @@
 #include "base/cUser.h"
 #include "base/modDate.h"
 #include "core/cBookTools.h"
+#include "store/cDataAccess.h"
 #include "views/list/modFileWrite.h"
+#include "views/people/modSettlementExport.h"
 #include "views/people/modSettlementText.h"
+#include "views/report/cReportExport.h"
 
 #include <QDir>
 
@@ -72,16 +75,20 @@ QString cSettlementModel::Hint() const
         : cText::Tr("Noch gibt es keine Personen. Sie legen sie unter „Extras“, „Haushalt“, „Personen“ an.");
 }
 
-void cSettlementModel::Save(const QString& title, const QString& filter,
-                            const std::function<QByteArray(const QString&)>& bytes)
+bool cSettlementModel::CanChangePeople() const
+{
+    return !m_tools.Data.IsReadOnly();
+}
+
+QString cSettlementModel::AskPath(const QString& title, const QString& filter) const
 {
     const QString day = modDate::ToIso(m_tools.Clock.Today());
-    const QString path =
-        m_tools.User.ChooseSavePath(title, filter, u"Kontorelle-%1-%2"_s.arg(cText::Tr("Ausgleich"), day));
-    if (path.isEmpty()) {
-        return;
-    }
-    const QString problem = modFileWrite::Export(m_tools.Data, path, bytes(path));
+    return m_tools.User.ChooseSavePath(title, filter, u"Kontorelle-%1-%2"_s.arg(cText::Tr("Ausgleich"), day));
+}
+
+void cSettlementModel::Save(const QString& title, const QString& path, const QByteArray& bytes)
+{
+    const QString problem = modFileWrite::Export(m_tools.Data, path, bytes);
     const QString done = cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)});
     m_tools.User.Show(problem.isEmpty() ? eTone::Information : eTone::Critical, problem.isEmpty() ? done : problem,
                       title);
@@ -89,16 +96,24 @@ void cSettlementModel::Save(const QString& title, const QString& filter,
 
 void cSettlementModel::SavePdf(const fnPaintPdf& paint)
 {
-    Save(cText::Tr("Als PDF speichern"), cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"),
-         [&](const QString&) { return paint(m_html); });
+    const QString title = cText::Tr("Als PDF speichern");
+    const QString path = AskPath(title, cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"));
+    if (!path.isEmpty()) {
+        Save(title, path, paint(m_html));
+    }
 }
 
 void cSettlementModel::SaveFile()
 {
-    Save(cText::Tr("Bericht speichern"), cText::Tr("HTML-Datei|*.html|CSV-Datei|*.csv|Alle Dateien|*.*"),
-         [&](const QString& path) {
-             return path.endsWith(u".csv", Qt::CaseInsensitive)
-                 ? modSettlementText::Csv(m_settlement)
-                 : modSettlementText::Page(m_settlement, m_tools.Format, m_tools.Clock.Today()).toUtf8();
-         });
+    const QString title = cText::Tr("Bericht speichern");
+    const QString path = AskPath(title, cReportExport::Filter());
+    if (path.isEmpty()) {
+        return;
+    }
+    const std::optional<cReportExport::eFormat> format = cReportExport::FormatOf(path);
+    if (!format) {
+        m_tools.User.Show(eTone::Critical, cReportExport::NoFormat(path), title);
+        return;
+    }
+    Save(title, path, modSettlementExport::Bytes(m_settlement, *format, m_tools));
 }

@@ -25,16 +25,18 @@ public:
     [[nodiscard]] modPeriod::cRange Range() const;
 
     [[nodiscard]] const QString& Html() const { return m_html; }
-    [[nodiscard]] QString Hint() const; // what has to be done before there is anything to see; none: nothing
+    [[nodiscard]] bool CanChangePeople() const; // not in a book that can only be read
+    [[nodiscard]] QString Hint() const;         // what has to be done before there is anything to see; none: nothing
 
-    // Ask for a file. `paint` makes a PDF of a report, no bytes on failure. The ending decides between page and table.
+    // Ask for a file. `paint` makes a PDF of a report, no bytes on failure. The ending decides between page and tables.
     using fnPaintPdf = std::function<QByteArray(const QString& html)>;
     void SavePdf(const fnPaintPdf& paint);
     void SaveFile();
 
 private:
     void Changed();
-    void Save(const QString& title, const QString& filter, const std::function<QByteArray(const QString&)>& bytes);
+    [[nodiscard]] QString AskPath(const QString& title, const QString& filter) const;
+    void Save(const QString& title, const QString& path, const QByteArray& bytes);
 
     const cBookTools& m_tools;
     cStatisticsPeriod m_period;

@@ -32,7 +32,7 @@ public:
         const modPeople::cShares shares = isTransfer ? m_shares(entry.EntryAccountMove) : Bearers(entry, payer);
         Of(payer).*(isTransfer ? &cPersonSum::Settled : &cPersonSum::Paid) += cents;
         Add(isTransfer ? m_received : m_borne, shares, cents);
-        m_settlement.Counted.append({entry, payer, shares});
+        m_settlement.Counted.append({entry, payer, shares, cents});
     }
 
     // Each sum is split once, so that cents left over do not add up to euros.

@@ -36,6 +36,7 @@ struct cCountedEntry
     cEntryItem Entry;
     QString Payer;
     modPeople::cShares Shares;
+    qint64 Cents = 0; // with the sign under which it counts: above zero the payer laid it out
 };
 
 struct cSettlement

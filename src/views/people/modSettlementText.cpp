@@ -3,9 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
-#include "model/modWord.h"
 #include "views/chart/modChart.h"
-#include "views/export/modCsv.h"
 #include "views/list/cEntryFilter.h"
 #include "views/list/modUnread.h"
 #include "views/people/cPeople.h"
@@ -57,13 +55,9 @@ QString Title(const QString& text)
 QString Payments(const cSettlement& settlement, const cAmountFormat& format)
 {
     if (settlement.Payments.isEmpty()) {
-        const QString text = settlement.Counted.isEmpty()
-            ? cText::Tr("In diesem Zeitraum ist bei keinem Eintrag vermerkt, wer bezahlt hat.")
-            : cText::Tr("Es ist alles ausgeglichen.");
-        return u"<p>"_s + text.toHtmlEscaped() + u"</p>"_s;
+        return u"<p>"_s + modSettlementText::NothingToPay(settlement).toHtmlEscaped() + u"</p>"_s;
     }
-    cHtmlTable table({cText::Tr("Wer"), cText::Tr("An wen"), cText::Tr("Betrag")},
-                     {eCell::Text, eCell::Text, eCell::Money});
+    cHtmlTable table(modSettlementText::PaymentTitles(), {eCell::Text, eCell::Text, eCell::Money});
     for (const cPayment& payment : settlement.Payments) {
         table.Add({payment.From, payment.To, format.Cents(payment.Cents)});
     }
@@ -72,41 +66,66 @@ QString Payments(const cSettlement& settlement, const cAmountFormat& format)
 
 QString People(const cSettlement& settlement, const cAmountFormat& format)
 {
-    cHtmlTable table({cText::Tr("Person"), cText::Tr("Bezahlt"), cText::Tr("Zu tragen"),
-                      cText::Tr("Schon ausgeglichen"), cText::Tr("Bleibt")},
+    cHtmlTable table(modSettlementText::PersonTitles(),
                      {eCell::Text, eCell::Money, eCell::Money, eCell::Money, eCell::Money});
     for (const cPersonSum& person : settlement.People) {
-        table.Add({person.Name, format.Cents(person.Paid), format.Cents(person.Borne), format.Cents(person.Settled),
-                   format.Cents(person.Balance())});
+        QStringList texts{person.Name};
+        for (const qint64 cents : modSettlementText::PersonCents(person)) {
+            texts.append(format.Cents(cents));
+        }
+        table.Add(texts);
     }
     return table.Take();
 }
 
-QString TextOf(const cEntryItem& entry)
-{
-    return entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
-}
-
-// With the sign under which it counts.
-qint64 CentsOf(const cEntryItem& entry)
-{
-    return entry.EntryType == modWord::Einnahme ? -entry.EntryValue : entry.EntryValue;
-}
-
 QString Counted(const cSettlement& settlement, const cAmountFormat& format)
 {
-    cHtmlTable table({cText::Tr("Datum"), cText::Tr("Beschreibung"), cText::Tr("Konto"), cText::Tr("Bezahlt von"),
-                      cText::Tr("Getragen von"), cText::Tr("Betrag")},
+    cHtmlTable table(modSettlementText::EntryTitles(),
                      {eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Money});
     for (const cCountedEntry& counted : settlement.Counted) {
-        table.Add({modDate::ToText(counted.Entry.EntryDate), TextOf(counted.Entry),
-                   cEntryFilter::AccountText(counted.Entry), counted.Payer, cPeople::SharesText(counted.Shares),
-                   format.Cents(CentsOf(counted.Entry))});
+        table.Add(modSettlementText::EntryTexts(counted) << format.Cents(counted.Cents));
     }
     return table.Take();
 }
 
 } // namespace
+
+QStringList modSettlementText::PaymentTitles()
+{
+    return {cText::Tr("Wer"), cText::Tr("An wen"), cText::Tr("Betrag")};
+}
+
+QStringList modSettlementText::PersonTitles()
+{
+    return {cText::Tr("Person"), cText::Tr("Bezahlt"), cText::Tr("Zu tragen"), cText::Tr("Schon ausgeglichen"),
+            cText::Tr("Bleibt")};
+}
+
+std::array<qint64, 4> modSettlementText::PersonCents(const cPersonSum& person)
+{
+    return {person.Paid, person.Borne, person.Settled, person.Balance()};
+}
+
+QStringList modSettlementText::EntryTitles()
+{
+    return {cText::Tr("Datum"),       cText::Tr("Beschreibung"), cText::Tr("Konto"),
+            cText::Tr("Bezahlt von"), cText::Tr("Getragen von"), cText::Tr("Betrag")};
+}
+
+QStringList modSettlementText::EntryTexts(const cCountedEntry& counted)
+{
+    const cEntryItem& entry = counted.Entry;
+    return {modDate::ToText(entry.EntryDate),
+            entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription,
+            cEntryFilter::AccountText(entry), counted.Payer, cPeople::SharesText(counted.Shares)};
+}
+
+QString modSettlementText::NothingToPay(const cSettlement& settlement)
+{
+    return settlement.Counted.isEmpty()
+        ? cText::Tr("In diesem Zeitraum ist bei keinem Eintrag vermerkt, wer bezahlt hat.")
+        : cText::Tr("Es ist alles ausgeglichen.");
+}
 
 QString modSettlementText::Heading(const cSettlement& settlement)
 {
@@ -135,18 +154,4 @@ QString modSettlementText::Page(const cSettlement& settlement, const cAmountForm
         + Heading(settlement).toHtmlEscaped()
         + u"</title><style>body{font-family:sans-serif;font-size:13px}</style></head><body>\n"_s
         + Html(settlement, format, today) + u"\n</body></html>\n"_s;
-}
-
-QByteArray modSettlementText::Csv(const cSettlement& settlement)
-{
-    QByteArray bytes = modCsv::Mark
-        + modCsv::Line({cText::Tr("Datum"), cText::Tr("Beschreibung"), cText::Tr("Konto"), cText::Tr("Bezahlt von"),
-                        cText::Tr("Getragen von"), cText::Tr("Betrag")});
-    for (const cCountedEntry& counted : settlement.Counted) {
-        bytes +=
-            modCsv::Line({modDate::ToText(counted.Entry.EntryDate), modCsv::Text(TextOf(counted.Entry)),
-                          modCsv::Text(cEntryFilter::AccountText(counted.Entry)), modCsv::Text(counted.Payer),
-                          modCsv::Text(cPeople::SharesText(counted.Shares)), modCsv::Money(CentsOf(counted.Entry))});
-    }
-    return bytes;
 }

@@ -8,10 +8,10 @@
 #include "model/modContract.h"
 #include "store/cDataAccess.h"
 #include "views/chart/cForecast.h"
+#include "views/entry/cContracts.h"
 #include "views/entry/modEntryFields.h"
 #include "views/overview/cDueItems.h"
 #include "views/overview/cOverviewTasks.h"
-#include "views/reminder/cContracts.h"
 
 QList<cReminder> cReminders::Quick() const
 {

@@ -16,15 +16,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString Filter()
+QString Title()
+{
+    return cText::Tr("Bericht speichern");
+}
+
+} // namespace
+
+QString cReportExport::Filter()
 {
     return cText::Tr("HTML-Datei|*.html|CSV-Datei|*.csv|Excel-Datei|*.xlsx|Alle Dateien|*.*");
 }
 
 // A name without ending is a page; none for an ending of another kind of file.
-std::optional<cReportExport::eFormat> FormatOf(const QString& path)
+std::optional<cReportExport::eFormat> cReportExport::FormatOf(const QString& path)
 {
-    using enum cReportExport::eFormat;
+    using enum eFormat;
     const QString ending = QFileInfo(path).suffix().toLower();
     if (ending.isEmpty() || ending == u"html" || ending == u"htm") {
         return Html;
@@ -32,12 +39,12 @@ std::optional<cReportExport::eFormat> FormatOf(const QString& path)
     return ending == u"csv" ? std::optional(Csv) : ending == u"xlsx" ? std::optional(Xlsx) : std::nullopt;
 }
 
-QString Title()
+QString cReportExport::NoFormat(const QString& path)
 {
-    return cText::Tr("Bericht speichern");
+    return cText::Tr("Am Ende des Dateinamens '{0}' ist nicht zu erkennen, in welchem Format der Bericht gespeichert "
+                     "werden soll.\nMöglich sind: {1}.",
+                     {QDir::toNativeSeparators(path), u".html, .csv, .xlsx"_s});
 }
-
-} // namespace
 
 cReportExport::eDone cReportExport::Run(const cReportWish& wish)
 {
@@ -49,10 +56,7 @@ cReportExport::eDone cReportExport::Run(const cReportWish& wish)
     }
     const std::optional<eFormat> format = FormatOf(path);
     if (!format) {
-        return Refuse(
-            cText::Tr("Am Ende des Dateinamens '{0}' ist nicht zu erkennen, in welchem Format der Bericht gespeichert "
-                      "werden soll.\nMöglich sind: {1}.",
-                      {QDir::toNativeSeparators(path), u".html, .csv, .xlsx"_s}));
+        return Refuse(NoFormat(path));
     }
     const eDone done = WriteFile(wish, *format, path);
     if (done == eDone::Written) {

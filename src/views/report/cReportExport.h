@@ -21,6 +21,11 @@ public:
     // Lets the user choose a file, whose ending decides the format.
     eDone Run(const cReportWish& wish);
 
+    // The kinds of files as the dialog offers them; which one a path means, and what is said of one that means none.
+    [[nodiscard]] static QString Filter();
+    [[nodiscard]] static std::optional<eFormat> FormatOf(const QString& path);
+    [[nodiscard]] static QString NoFormat(const QString& path);
+
     // Writes the file and shows a message when that fails. A file that stands there already is replaced only once the
     // new one is complete.
     [[nodiscard]] eDone WriteFile(const cReportWish& wish, eFormat format, const QString& path);

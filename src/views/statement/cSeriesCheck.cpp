@@ -16,10 +16,10 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/entry/cContracts.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/modEntryFields.h"
-#include "views/reminder/cContracts.h"
 
 #include <QSet>
 

@@ -30,17 +30,11 @@ bool cNameKeepers::RenameAccount(const QString& oldName, const QString& newName)
 bool cNameKeepers::JoinAccount(const QString& oldName, const QString& newName)
 {
     const QList<cSettingKey> shown{modSettingKey::MainAccount, modSettingKey::StatisticsAccount};
-    return cOwnRules(m_settings).RenameAccount(oldName, newName) && MoveViews(oldName, newName)
+    return cOwnRules(m_settings).RenameAccount(oldName, newName)
+        && modViewRecord::Follow(m_settings, modViewRecord::Account, oldName, newName)
         && std::all_of(shown.begin(), shown.end(), [&](const cSettingKey& key) {
                return m_settings.Get(key) != oldName || m_settings.Set(key, newName);
            });
-}
-
-bool cNameKeepers::MoveViews(const QString& oldName, const QString& newName)
-{
-    const QString before = m_settings.Get(modSettingKey::SavedViews);
-    const QString now = modViewRecord::WithAccount(before, oldName, newName);
-    return now == before || m_settings.Set(modSettingKey::SavedViews, now);
 }
 
 bool cNameKeepers::MoveShares(const QString& oldName, const QString& newName)

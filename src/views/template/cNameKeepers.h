@@ -23,7 +23,6 @@ public:
     [[nodiscard]] bool RenameCategory(const QString& oldPath, const QString& newPath);
 
 private:
-    [[nodiscard]] bool MoveViews(const QString& oldName, const QString& newName);
     [[nodiscard]] bool MoveShares(const QString& oldName, const QString& newName); // who has what part in the account
 
     cDataAccess& m_data;

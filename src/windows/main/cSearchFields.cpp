@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "model/modWord.h"
+#include "windows/people/modPayerChoice.h"
 #include "windows/widget/cAmountEdit.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
@@ -84,6 +85,8 @@ cSearchFields::cSearchFields(const cSearchModel& model, QWidget* parent)
       m_account(new QComboBox(this)),
       m_type(new QComboBox(this)),
       m_category(new QComboBox(this)),
+      m_payerLabel(new QLabel(cText::Tr("Bezahlt v&on:"), this)),
+      m_payer(new QComboBox(this)),
       m_isCorrected(new QCheckBox(cText::Tr("Nur ko&rrigierte"), this)),
       m_isFromBank(new QCheckBox(cText::Tr("Nur &mit Bankumsatz"), this))
 {
@@ -109,7 +112,7 @@ void cSearchFields::Build()
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // long names must not widen it
         combo->setMinimumContentsLength(qMax(leastLetters, static_cast<int>(all.size())));
     }
-    for (QComboBox* combo : {m_category, m_account, m_type}) {
+    for (QComboBox* combo : {m_category, m_account, m_type, m_payer}) {
         combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
     constexpr int mostColumns = 2;
@@ -121,9 +124,12 @@ void cSearchFields::Build()
     grid->AddField(cText::Tr("&Betrag:"), BuildAmount());
     grid->AddField(cText::Tr("&Konto:"), m_account);
     grid->AddField(cText::Tr("Buchungs&art:"), m_type);
+    grid->AddField(m_payerLabel, m_payer);
+    m_payerLabel->setBuddy(m_payer);
     grid->AddField(QString(), BuildMarks());
-    const std::array<QWidget*, 12> order{m_text,   m_category, m_period,  m_start, m_end,         m_amountRule,
-                                         m_amount, m_amountTo, m_account, m_type,  m_isCorrected, m_isFromBank};
+    const std::array<QWidget*, 13> order{m_text,       m_category,    m_period,    m_start,   m_end,
+                                         m_amountRule, m_amount,      m_amountTo,  m_account, m_type,
+                                         m_payer,      m_isCorrected, m_isFromBank};
     for (std::size_t i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
@@ -172,7 +178,7 @@ void cSearchFields::Connect()
     for (cDayEdit* edit : {m_start, m_end}) {
         connect(edit, &QLineEdit::textEdited, this, &cSearchFields::Typed);
     }
-    for (QComboBox* combo : {m_period, m_amountRule, m_account, m_type, m_category}) {
+    for (QComboBox* combo : {m_period, m_amountRule, m_account, m_type, m_category, m_payer}) {
         connect(combo, &QComboBox::currentIndexChanged, this, [this] {
             ShowFields();
             Q_EMIT Chosen();
@@ -197,6 +203,7 @@ void cSearchFields::Offer()
     Fill(*m_account, cText::Tr("Alle Konten"), m_model.Accounts());
     Fill(*m_type, cText::Tr("Alle Buchungsarten"), modWord::EntryTypes().Shown(), types);
     Fill(*m_category, cText::Tr("Alle Kategorien"), m_model.Categories());
+    modPayerChoice::Offer(*m_payer, *m_payerLabel, m_model.People());
 }
 
 cSearchModel::cFields cSearchFields::Read() const
@@ -211,6 +218,7 @@ cSearchModel::cFields cSearchFields::Read() const
     fields.Account = m_account->currentData().toString();
     fields.Type = m_type->currentData().toString();
     fields.Category = m_category->currentData().toString();
+    fields.Payer = m_payer->currentData().toString();
     fields.IsCorrected = m_isCorrected->isChecked();
     fields.IsFromBank = m_isFromBank->isChecked();
     return fields;
@@ -237,7 +245,7 @@ void cSearchFields::Clear()
         edit->clear();
         modBadField::Clear(*edit);
     }
-    for (QComboBox* combo : {m_period, m_amountRule, m_account, m_type, m_category}) {
+    for (QComboBox* combo : {m_period, m_amountRule, m_account, m_type, m_category, m_payer}) {
         const QSignalBlocker blocker(combo);
         combo->setCurrentIndex(0);
     }

@@ -49,6 +49,8 @@ private:
     QComboBox* m_account;
     QComboBox* m_type;
     QComboBox* m_category;
+    QLabel* m_payerLabel;
+    QComboBox* m_payer;
     QCheckBox* m_isCorrected;
     QCheckBox* m_isFromBank;
 };

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/main/cMainModel.h"
+#include "windows/people/modPayerChoice.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/modDayRange.h"
@@ -10,6 +11,7 @@
 #include "windows/widget/modProposal.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -46,6 +48,8 @@ cViewBar::cViewBar(cMainModel& model, QWidget* parent)
       m_account(new QComboBox(this)),
       m_type(MakeCombo(this, modWord::ViewTypes())),
       m_grouping(MakeCombo(this, modWord::Groupings())),
+      m_payerLabel(new QLabel(cText::Tr("Bezahl&t von:"), this)),
+      m_payer(new QComboBox(this)),
       m_filter(new QLineEdit(this))
 {
     Build();
@@ -72,7 +76,10 @@ void cViewBar::Build()
     grid->AddField(cText::Tr("B&uchungsart:"), m_type);
     grid->AddField(cText::Tr("&Konto:"), m_account);
     grid->AddField(cText::Tr("&Gruppierung:"), m_grouping);
+    grid->AddField(m_payerLabel, m_payer);
     grid->AddField(cText::Tr("&Filter:"), m_filter);
+    m_payerLabel->setBuddy(m_payer);
+    m_payer->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_filter->setClearButtonEnabled(true);
     m_filter->setToolTip(cText::Tr("Auch ein Schlagwort, etwa #urlaub"));
     modProposal::AddTags(*m_filter, [this] { return m_model.Tags(); });
@@ -82,7 +89,7 @@ void cViewBar::Build()
             m_filter, &QLineEdit::clear);
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_account->setMinimumContentsLength(14);
-    const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_filter};
+    const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_payer, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
@@ -97,6 +104,7 @@ void cViewBar::Connect()
     connect(m_type, &QComboBox::activated, this, [this] { m_model.ChooseType(m_type->currentData().toString()); });
     connect(m_grouping, &QComboBox::activated, this,
             [this] { m_model.ChooseGrouping(m_grouping->currentData().toString()); });
+    connect(m_payer, &QComboBox::activated, this, [this] { m_model.ChoosePayer(m_payer->currentData().toString()); });
     connect(m_filter, &QLineEdit::textChanged, &m_model, &cMainModel::TypeFilter);
     const auto chooseRange = [this] { m_model.ChooseFreeRange({m_start->Chosen(), m_end->Chosen()}); };
     connect(m_start, &cDayEdit::DayChosen, this, chooseRange);
@@ -127,6 +135,8 @@ void cViewBar::ShowView()
     Choose(*m_account, view.Account);
     Choose(*m_type, view.Type);
     Choose(*m_grouping, view.Grouping);
+    modPayerChoice::Offer(*m_payer, *m_payerLabel, m_model.People());
+    Choose(*m_payer, view.Payer);
     ShowDay(*m_start, range.Start);
     ShowDay(*m_end, range.End);
     if (m_filter->text() != view.Filter) {

@@ -7,9 +7,11 @@
 class cDayEdit;
 class cMainModel;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 
-// The selectors above the list: period with its two days, account, kind of entry, grouping, and the text filter.
+// The selectors above the list: period with its two days, account, kind of entry, grouping, in a book
+// with people the one who paid, and the text filter.
 class cViewBar final : public QWidget
 {
     Q_OBJECT
@@ -33,5 +35,7 @@ private:
     QComboBox* m_account;
     QComboBox* m_type;
     QComboBox* m_grouping;
+    QLabel* m_payerLabel;
+    QComboBox* m_payer;
     QLineEdit* m_filter;
 };

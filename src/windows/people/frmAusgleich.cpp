@@ -69,6 +69,7 @@ QLayout* frmAusgleich::BuildButtons()
     auto* save = new QPushButton(cText::Tr("&Speichern"), this);
     auto* print = new QPushButton(cText::Tr("Dr&ucken…"), this);
     auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    people->setEnabled(m_model.CanChangePeople());
     auto* menu = new QMenu(save);
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {
         m_model.SavePdf([this](const QString& html) {
