@@ -63,6 +63,10 @@ public:
     [[nodiscard]] cEntryItemList GetEntriesByTarget(const QString& account, const QString& target, const QString& type);
     // Entries with exactly this account as source or target, not expanded.
     [[nodiscard]] cEntryItemList GetEntriesOfAccount(const QString& account);
+    // The entries that recur, not expanded, by ID.
+    [[nodiscard]] cEntryItemList GetSeries();
+    // The categories of the entries between two IDs, both included, by ID.
+    [[nodiscard]] QHash<int, QString> GetEntryCategories(int firstId, int lastId);
     // Sums of what GetEntries would return, without building the records of one-off entries. `withStartBalance` false
     // leaves out the category of start balances.
     [[nodiscard]] QList<cAccountSum> GetSums(const cEntryQuery& query, bool withStartBalance);

@@ -173,6 +173,27 @@ cEntryItemList cDataAccess::GetEntriesOfAccount(const QString& account)
     return entries;
 }
 
+cEntryItemList cDataAccess::GetSeries()
+{
+    cEntryItemList entries;
+    Read("GetSeries",
+         [&] { entries = ReadEntries(m_database, " WHERE EntryInterval <> ? ORDER BY ID", {modWord::Einmalig}); });
+    return entries;
+}
+
+QHash<int, QString> cDataAccess::GetEntryCategories(int firstId, int lastId)
+{
+    QHash<int, QString> categories;
+    Read("GetEntryCategories", [&] {
+        cWordCache words(eQuotes::Doubled);
+        cRows rows(m_database, "SELECT ID, EntryCategory FROM data WHERE ID BETWEEN ? AND ?", {firstId, lastId});
+        while (rows.Next()) {
+            categories.insert(static_cast<int>(rows.Integer(0)), words.Get(rows.Bytes(1)));
+        }
+    });
+    return categories;
+}
+
 int cDataAccess::CountEntries()
 {
     int count = 0;

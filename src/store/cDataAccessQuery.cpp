@@ -159,10 +159,25 @@ eDay Place(std::string_view bytes, const cEntryQuery& query)
     return isBefore || isAfter ? eDay::Outside : eDay::Inside;
 }
 
+// Rows that are certain to lie outside the period do not even leave SQLite: of a month in a large book these are nearly
+// all. The text of a plain day can be compared as it is. Days that a month does not have ("2026-02-31") count on into
+// the next one, so the period begins some days earlier here; the reader looks closely at what is left.
+void AddNearness(cCondition& where, const cEntryQuery& query)
+{
+    constexpr int overflow = 3;
+    if (query.Start.isValid() || query.End.isValid()) {
+        const QString first = modDate::ToIso(query.Start.addDays(-overflow)); // empty without one, which is before all
+        const QString last = modDate::ToIso(query.End);
+        where.Add(" AND (EntryDate BETWEEN ? AND ? OR EntryDate NOT LIKE '____-__-__')",
+                  {first, last.isEmpty() ? u"9999-99"_s : last});
+    }
+}
+
 // Reads rows as they lie in the table. False when one of the days is unclear.
 bool ReadUnordered(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
 {
-    const cCondition where = ConditionOf(query, eRepetition::Once, eDays::ByReader);
+    cCondition where = ConditionOf(query, eRepetition::Once, eDays::ByReader);
+    AddNearness(where, query);
     cEntryReader reader;
     cRows rows(database, cEntryReader::Select + where.Sql, where.Values);
     while (rows.Next()) {

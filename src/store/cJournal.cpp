@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace {
 
@@ -32,6 +33,25 @@ std::string InsertText(cDatabase& database, std::string_view table)
         values += ", ?";
     }
     return "INSERT OR REPLACE INTO " + std::string(table) + " (" + columns + ") VALUES (" + values + ")";
+}
+
+// Removes what was not there. Rows that were added one after the other, as those of an import, go in one statement.
+template <typename tImages>
+void TakeOut(cDatabase& database, const tImages& images)
+{
+    for (auto first = images.begin(); first != images.end();) {
+        auto end = std::next(first);
+        if (first->Values.empty()) {
+            const auto [table, firstId] = first->Key;
+            qint64 lastId = firstId;
+            for (; end != images.end() && end->Values.empty() && end->Key == std::pair(table, lastId + 1); ++end) {
+                ++lastId;
+            }
+            database.Execute("DELETE FROM " + std::string(tables[table]) + " WHERE rowid BETWEEN ? AND ?",
+                             {firstId, lastId});
+        }
+        first = end;
+    }
 }
 
 } // namespace
@@ -178,7 +198,10 @@ void cJournal::Note(const cRowBefore& row)
         }
         return;
     }
-    if (!(m_back != nullptr ? m_back->Known : Known()).insert(key).second) {
+    std::set<cRowKey>& known = m_back != nullptr ? m_back->Known : Known();
+    const std::size_t before = known.size();
+    known.insert(known.end(), key); // new rows mostly come in the order of their IDs
+    if (known.size() == before) {
         return;
     }
     (m_back != nullptr ? *m_back : m_open).Images.push_back({key, row.IsThere ? row.Values() : cBoundList{}});
@@ -258,13 +281,7 @@ cJournal::cStep cJournal::Apply(const cStep& step)
 
 void cJournal::WriteBack(const std::vector<cImage>& images)
 {
-    // What was not there goes first: a setting that comes back may bear the name of one that goes.
-    for (const cImage& image : images) {
-        if (image.Values.empty()) {
-            m_database.Execute("DELETE FROM " + std::string(tables[image.Key.first]) + " WHERE rowid = ?",
-                               {image.Key.second});
-        }
-    }
+    TakeOut(m_database, images); // first: a setting that comes back may bear the name of one that goes
     std::array<std::string, tables.size()> inserts;
     for (const auto& [key, values] : images) {
         if (!values.empty()) {

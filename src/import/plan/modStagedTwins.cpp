@@ -5,6 +5,8 @@
 #include "import/read/modAccountNumber.h"
 #include "model/modCutText.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -82,14 +84,25 @@ private:
     QHash<QString, QString> m_names;
 };
 
+size_t HashOf(const cImportEntry& row, cAccounts& accounts)
+{
+    return qHashMulti(0, accounts.Of(row.ImportAccount), row.ImportDate.toJulianDay(), row.ImportValue);
+}
+
+// Those of open rows, and of the booked ones on their days: nearly all were booked long ago.
 std::vector<cPlace> Places(const cImportEntryList& rows, cAccounts& accounts)
 {
+    QSet<qint64> days;
+    for (const cImportEntry& row : rows) {
+        if (!row.ImportAssigned) {
+            days.insert(row.ImportDate.toJulianDay());
+        }
+    }
     std::vector<cPlace> places;
-    places.reserve(static_cast<std::size_t>(rows.size()));
     for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
-        const cImportEntry& row = rows.at(i);
-        places.push_back(
-            {qHashMulti(0, accounts.Of(row.ImportAccount), row.ImportDate.toJulianDay(), row.ImportValue), i});
+        if (const cImportEntry& row = rows.at(i); days.contains(row.ImportDate.toJulianDay())) {
+            places.push_back({HashOf(row, accounts), i});
+        }
     }
     std::sort(places.begin(), places.end(),
               [](const cPlace& a, const cPlace& b) { return a.Hash != b.Hash ? a.Hash < b.Hash : a.Row < b.Row; });

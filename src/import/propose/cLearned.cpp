@@ -1,6 +1,7 @@
 #include "import/propose/cLearned.h"
 
 #include "import/propose/modCorrected.h"
+#include "import/read/cCounterpartyKeys.h"
 #include "import/read/modCounterparty.h"
 #include "import/read/modPayee.h"
 #include "import/stage/cImportHiveCache.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -27,17 +29,15 @@ cLearned::cLearned(cDataAccess& data, cImportHiveCache& hive) : m_data(data)
         m_corrected.insert(corrected.at(i), static_cast<int>(i) + 1);
     }
     Build(hive);
-    if (m_entryIds.size() > fewEntries) {
-        LoadAll();
-    }
 }
 
 void cLearned::Build(cImportHiveCache& hive)
 {
     const cImportEntryList rows = hive.GetImportHive().getImportEntryList();
+    cCounterpartyKeys keys;
     for (const cImportEntry& row : rows) {
         const bool isBooked = row.ImportAssigned && row.ImportAssignedEntry >= 0;
-        const QString number = modCounterparty::AccountKey(row);
+        const QString number = keys.AccountOf(row);
         if (!isBooked && number.isEmpty()) {
             continue;
         }
@@ -47,13 +47,13 @@ void cLearned::Build(cImportHiveCache& hive)
             cAccount& account = m_byAccount[number];
             NotePayee(account, payee);
             if (isBooked && !account.IsMixed) {
-                account.Rows.append(booked);
+                account.History.Rows.append(booked);
             }
         }
         if (isBooked) {
             m_entryIds.insert(row.ImportAssignedEntry);
             if (!payee.Key.isEmpty()) {
-                m_byPayee[payee.Key].append(booked);
+                m_byPayee[payee.Key].Rows.append(booked);
             }
         }
     }
@@ -70,22 +70,7 @@ void cLearned::NotePayee(cAccount& account, const cPayeeKeys::cPayee& payee)
     account.IsMixed = !isAlike || payee.IsCollector || payee.IsCash || account.Payees.size() >= mostPayees;
     account.Payees.append(payee.Key);
     if (account.IsMixed) {
-        account.Rows.clear();
-    }
-}
-
-void cLearned::LoadAll()
-{
-    const QStringList accounts = m_data.GetEntryAccounts();
-    for (const QString& account : accounts) {
-        const cEntryItemList entries = m_data.GetEntriesOfAccount(account);
-        for (const cEntryItem& entry : entries) {
-            if (m_entryIds.contains(entry.ID)) {
-                m_entries.insert(entry.ID,
-                                 {entry.EntryCategory, entry.EntryInterval, entry.EntryType, entry.EntryAccount,
-                                  entry.EntryAccountMove, entry.EntryDateEnd});
-            }
-        }
+        account.History.Rows.clear();
     }
 }
 
@@ -105,16 +90,18 @@ std::optional<cLearned::cChoice> cLearned::Find(const cImportEntry& row)
 {
     const cPayeeKeys::cPayee payee = m_payees.Of(row);
     if (!payee.Key.isEmpty()) {
-        if (std::optional<cChoice> choice = Choose(m_byPayee.value(payee.Key), row)) {
+        const auto known = m_byPayee.find(payee.Key);
+        std::optional<cChoice> choice = known == m_byPayee.end() ? std::nullopt : Choose(*known, row);
+        if (choice) {
             choice->Who = payee.Name;
             return choice;
         }
     }
-    const auto account = m_byAccount.constFind(modCounterparty::AccountKey(row));
-    if (account == m_byAccount.constEnd() || account->IsMixed || payee.IsCollector || payee.IsCash) {
+    const auto account = m_byAccount.find(modCounterparty::AccountKey(row));
+    if (account == m_byAccount.end() || account->IsMixed || payee.IsCollector || payee.IsCash) {
         return std::nullopt;
     }
-    std::optional<cChoice> choice = Choose(account->Rows, row);
+    std::optional<cChoice> choice = Choose(account->History, row);
     if (choice) {
         choice->Who = row.ImportBeneficiaryAccount.simplified();
         choice->IsAccount = true;
@@ -122,24 +109,57 @@ std::optional<cLearned::cChoice> cLearned::Find(const cImportEntry& row)
     return choice;
 }
 
-// The rows that a lesson is drawn from, the newest decision first.
-QList<cLearned::cBooked> cLearned::Decided(const QList<cBooked>& rows, const cImportEntry& row)
+// Of an entry that is gone it is empty.
+QString cLearned::CategoryOf(int entryId)
 {
-    QList<cBooked> decided;
-    QList<cBooked> others;
-    for (const cBooked& booked : rows) {
-        if (booked.RowId != row.ID && !Entry(booked.EntryId).Category.isEmpty()) {
-            ((booked.Cents > 0) == (row.ImportValue > 0) ? decided : others).append(booked);
+    if (m_entryIds.size() <= fewEntries) {
+        return Entry(entryId).Category;
+    }
+    if (!m_categories) {
+        const auto [first, last] = std::minmax_element(m_entryIds.cbegin(), m_entryIds.cend());
+        m_categories = m_data.GetEntryCategories(*first, *last);
+    }
+    return m_categories->value(entryId);
+}
+
+// Once for all rows of a payee, because shops have thousands.
+void cLearned::Rank(cHistory& history)
+{
+    if (std::exchange(history.IsRanked, true)) {
+        return;
+    }
+    for (const cBooked& booked : std::as_const(history.Rows)) {
+        if (const QString category = CategoryOf(booked.EntryId); !category.isEmpty()) {
+            ++history.Counts[category];
+            (booked.Cents > 0 ? history.In : history.Out).append(booked);
         }
     }
-    decided = decided.isEmpty() ? others : decided;
+    RankSide(history.In);
+    RankSide(history.Out);
+}
+
+void cLearned::RankSide(QList<cBooked>& side) const
+{
     const auto rank = [&](const cBooked& booked) {
         return std::tuple(m_corrected.value(booked.EntryId), booked.EntryId, booked.RowId);
     };
-    const auto shown = std::min(decided.size(), lookedBack);
-    std::partial_sort(decided.begin(), decided.begin() + shown, decided.end(),
+    const auto shown = std::min(side.size(), lookedBack + 1); // one of them may be the row that is asked for
+    std::partial_sort(side.begin(), side.begin() + shown, side.end(),
                       [&](const cBooked& a, const cBooked& b) { return rank(a) > rank(b); });
-    return decided.mid(0, shown);
+    side.resize(shown);
+}
+
+// The rows that a lesson is drawn from, the newest decision first.
+QList<cLearned::cBooked> cLearned::Decided(cHistory& history, const cImportEntry& row)
+{
+    Rank(history);
+    QList<cBooked> decided = row.ImportValue > 0 ? history.In : history.Out;
+    QList<cBooked> others = row.ImportValue > 0 ? history.Out : history.In;
+    for (QList<cBooked>* side : {&decided, &others}) {
+        side->removeIf([&](const cBooked& booked) { return booked.RowId == row.ID; });
+        side->resize(std::min(side->size(), lookedBack));
+    }
+    return decided.isEmpty() ? others : decided;
 }
 
 // Somebody who is paid for several things: the rent and what is settled once a year differ by their amount.
@@ -147,7 +167,7 @@ std::optional<cLearned::cChoice> cLearned::ByAmount(QList<cBooked> decided, qint
 {
     decided.removeIf([&](const cBooked& booked) { return booked.Cents != cents; });
     const bool isOne = std::all_of(decided.begin(), decided.end(), [&](const cBooked& booked) {
-        return Entry(booked.EntryId).Category == Entry(decided.constFirst().EntryId).Category;
+        return CategoryOf(booked.EntryId) == CategoryOf(decided.constFirst().EntryId);
     });
     if (decided.isEmpty() || !isOne) {
         return std::nullopt;
@@ -157,13 +177,13 @@ std::optional<cLearned::cChoice> cLearned::ByAmount(QList<cBooked> decided, qint
     return choice;
 }
 
-std::optional<cLearned::cChoice> cLearned::Choose(const QList<cBooked>& rows, const cImportEntry& row)
+std::optional<cLearned::cChoice> cLearned::Choose(cHistory& history, const cImportEntry& row)
 {
-    const QList<cBooked> decided = Decided(rows, row);
+    const QList<cBooked> decided = Decided(history, row);
     if (decided.isEmpty()) {
         return std::nullopt;
     }
-    const auto category = [&](const cBooked& booked) { return Entry(booked.EntryId).Category; };
+    const auto category = [&](const cBooked& booked) { return CategoryOf(booked.EntryId); };
     int changes = 0;
     qsizetype streak = 1;
     for (qsizetype i = 1; i < decided.size(); ++i) {
@@ -176,9 +196,11 @@ std::optional<cLearned::cChoice> cLearned::Choose(const QList<cBooked>& rows, co
         }
     }
     if (streak == lookedBack) {
-        streak = std::count_if(rows.begin(), rows.end(), [&](const cBooked& booked) {
-            return booked.RowId != row.ID && category(booked) == category(decided.constFirst());
+        const QString agreed = category(decided.constFirst());
+        const bool hasOwn = std::any_of(history.Rows.cbegin(), history.Rows.cend(), [&](const cBooked& booked) {
+            return booked.RowId == row.ID && category(booked) == agreed;
         });
+        streak = history.Counts.value(agreed) - (hasOwn ? 1 : 0);
     }
     cChoice choice = ChoiceOf(decided, streak);
     choice.IsSure = choice.IsSure && changes <= 1;

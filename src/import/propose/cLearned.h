@@ -57,26 +57,38 @@ private:
         QString AccountMove;
         QDate End;
     };
-    struct cAccount
+    // The bookings of one payee, or of one account.
+    struct cHistory
     {
         QList<cBooked> Rows;
+        bool IsRanked = false;
+        QList<cBooked> In; // the newest decisions, the last one first
+        QList<cBooked> Out;
+        QHash<QString, int> Counts; // of all rows, by category
+    };
+    struct cAccount
+    {
+        cHistory History;
         QStringList Payees; // keys, as far as they differ
         bool IsMixed = false;
     };
     void Build(cImportHiveCache& hive);
     static void NotePayee(cAccount& account, const cPayeeKeys::cPayee& payee);
     [[nodiscard]] const cEntry& Entry(int id);
-    void LoadAll();
-    [[nodiscard]] QList<cBooked> Decided(const QList<cBooked>& rows, const cImportEntry& row);
-    [[nodiscard]] std::optional<cChoice> Choose(const QList<cBooked>& rows, const cImportEntry& row);
+    [[nodiscard]] QString CategoryOf(int entryId);
+    void Rank(cHistory& history);
+    void RankSide(QList<cBooked>& side) const;
+    [[nodiscard]] QList<cBooked> Decided(cHistory& history, const cImportEntry& row);
+    [[nodiscard]] std::optional<cChoice> Choose(cHistory& history, const cImportEntry& row);
     [[nodiscard]] std::optional<cChoice> ByAmount(QList<cBooked> decided, qint64 cents);
     [[nodiscard]] cChoice ChoiceOf(const QList<cBooked>& decided, qsizetype count);
 
     cDataAccess& m_data;
     cPayeeKeys m_payees;
-    QHash<QString, QList<cBooked>> m_byPayee;
+    QHash<QString, cHistory> m_byPayee;
     QHash<QString, cAccount> m_byAccount;
     QHash<int, int> m_corrected; // entry to its place among those that were changed, the newest is the highest
     QSet<int> m_entryIds;
-    QHash<int, cEntry> m_entries; // as far as they were asked for
+    std::optional<QHash<int, QString>> m_categories; // by entry, read at once where the entries are many
+    QHash<int, cEntry> m_entries;                    // as far as they were asked for
 };

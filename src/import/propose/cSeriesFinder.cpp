@@ -1,6 +1,7 @@
 #include "import/propose/cSeriesFinder.h"
 
 #include "import/propose/modOccurrence.h"
+#include "import/read/cCounterpartyKeys.h"
 #include "import/read/modCounterparty.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
@@ -20,42 +21,50 @@ bool IsLike(const cEntryItem& series, const cEntryItem& entry)
         && series.EntryCategory == entry.EntryCategory;
 }
 
-// Empty for a row that names no counterparty.
-QString DaysKey(const cImportEntry& row)
-{
-    const QString key = modCounterparty::Key(row);
-    const QChar way = row.ImportValue < 0 ? u'-' : u'+'; // what comes back is another matter
-    return key.isEmpty() ? QString() : QString(key + u'\n' + way + row.ImportAccount);
-}
-
 } // namespace
 
 cSeriesFinder::cSeriesFinder(cDataAccess& data, cImportHiveCache& hive) : m_data(data), m_hive(hive)
 {
 }
 
+// Nearly all rows went to entries that happen once, so only those of series are looked at closely.
 void cSeriesFinder::Build()
 {
+    const cEntryItemList series = m_data.GetSeries();
+    for (const cEntryItem& each : series) {
+        m_series.insert(each.ID, each);
+    }
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
-        if (const QString key = modCounterparty::Key(row);
-            row.ImportAssigned && !key.isEmpty() && !m_entries.contains(key, row.ImportAssignedEntry)) {
-            m_entries.insert(key, row.ImportAssignedEntry);
+        if (row.ImportAssigned && m_series.contains(row.ImportAssignedEntry)) {
+            if (const QString key = modCounterparty::Key(row); !key.isEmpty()) {
+                m_entries[key].insert(row.ImportAssignedEntry);
+            }
         }
-        if (const QString key = DaysKey(row); !key.isEmpty() && row.ImportDate.isValid()) {
-            m_days.insert(key, row.ImportDate);
+    }
+    m_isBuilt = true;
+}
+
+void cSeriesFinder::BuildDays()
+{
+    cCounterpartyKeys keys;
+    const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
+    for (const cImportEntry& row : rows) {
+        if (const QString key = keys.Of(row); !key.isEmpty() && row.ImportDate.isValid()) {
+            cDays& days = m_days[key][row.ImportAccount];
+            (row.ImportValue < 0 ? days.Out : days.In).append(row.ImportDate);
         }
         QDate& last = m_lastDays[row.ImportAccount];
         last = last.isValid() ? std::max(last, row.ImportDate) : row.ImportDate;
     }
-    m_isBuilt = true;
+    m_hasDays = true;
 }
 
 void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 {
     if (const QString key = modCounterparty::Key(row); m_isBuilt && !key.isEmpty()) {
-        m_entries.insert(key, series.ID);
-        m_loaded.insert(series.ID, series);
+        m_entries[key].insert(series.ID);
+        m_series.insert(series.ID, series);
     }
 }
 
@@ -78,16 +87,12 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
 
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
-    QList<int> ids = m_entries.values(modCounterparty::Key(row));
+    QList<int> ids = m_entries.value(modCounterparty::Key(row)).values();
     std::sort(ids.begin(), ids.end());
     cEntryItemList alike;
     for (const int id : std::as_const(ids)) {
-        if (!m_loaded.contains(id)) {
-            m_loaded.insert(id, m_data.LoadEntry(id));
-        }
-        const std::optional<cEntryItem> series = m_loaded.value(id);
-        if (series && IsLike(*series, entry) && (alike.isEmpty() || alike.last().ID != id)) {
-            alike.append(*series);
+        if (const cEntryItem series = m_series.value(id); IsLike(series, entry)) {
+            alike.append(series);
         }
     }
     return alike;
@@ -118,13 +123,14 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
 
 bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
 {
-    if (!m_isBuilt) {
-        Build();
+    if (!m_hasDays) {
+        BuildDays();
     }
     const int reach = modOccurrence::Reach(interval);
     const QDate next = modRecurrence::Next(row.ImportDate, interval);
     const qint64 step = row.ImportDate.daysTo(next);
-    const QList<QDate> days = m_days.values(DaysKey(row));
+    const cDays known = m_days.value(modCounterparty::Key(row)).value(row.ImportAccount);
+    const QList<QDate>& days = row.ImportValue < 0 ? known.Out : known.In;
     bool hasNeighbour = false;
     for (const QDate day : days) {
         const qint64 distance = std::abs(row.ImportDate.daysTo(day));

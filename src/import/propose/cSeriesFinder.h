@@ -6,6 +6,8 @@
 
 #include <QDate>
 #include <QHash>
+#include <QList>
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -41,7 +43,14 @@ public:
     [[nodiscard]] bool IsContradicted(const cImportEntry& row, const QString& interval);
 
 private:
+    struct cDays
+    {
+        QList<QDate> In;
+        QList<QDate> Out; // what comes back is another matter
+    };
+
     void Build();
+    void BuildDays();
     [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
@@ -51,8 +60,9 @@ private:
     cDataAccess& m_data;
     cImportHiveCache& m_hive;
     bool m_isBuilt = false;
-    QMultiHash<QString, int> m_entries; // counterparty to entry IDs
-    QHash<int, std::optional<cEntryItem>> m_loaded;
-    QMultiHash<QString, QDate> m_days; // counterparty and own account number to the days of its rows
-    QHash<QString, QDate> m_lastDays;  // own account number to its last row
+    QHash<QString, QSet<int>> m_entries; // counterparty to the IDs of its series
+    QHash<int, cEntryItem> m_series;     // by ID
+    bool m_hasDays = false;
+    QHash<QString, QHash<QString, cDays>> m_days; // counterparty and own account number to the days of its rows
+    QHash<QString, QDate> m_lastDays;             // own account number to its last row
 };
