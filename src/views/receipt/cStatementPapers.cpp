@@ -113,11 +113,10 @@ QList<cReceiptHolder::cItem> cStatementPapers::Items() const
     return items;
 }
 
-// Nothing when the user gives up.
 std::optional<QString> cStatementPapers::DayOf(const cReceiptSource& source) const
 {
     const QString name = cReceiptFolder::NameOf(source);
-    const QString told = m_day.isEmpty() ? modPaperDay::Find(name) : m_day;
+    const QString told = modPaperDay::Find(name);
     if (!told.isEmpty()) {
         return told;
     }
@@ -151,7 +150,9 @@ QString cStatementPapers::Take(cReceiptFolder& folder, const cReceiptSource& sou
                                             {cReceiptFolder::NameOf(source)}));
         return {};
     }
-    return folder.Keep(modReceiptName::Stem(day, cText::Tr("Kontoauszug {0}", {Account()})), u".pdf"_s, *bytes);
+    const std::optional<QString> told = day.isEmpty() ? DayOf(source) : day;
+    return told ? folder.Keep(modReceiptName::Stem(*told, cText::Tr("Kontoauszug {0}", {Account()})), u".pdf"_s, *bytes)
+                : QString();
 }
 
 bool cStatementPapers::Store(const QStringList& names, const QString& step) const
@@ -174,8 +175,7 @@ bool cStatementPapers::Add(const QList<cReceiptSource>& sources)
     }
     QStringList names = Names();
     for (const cReceiptSource& source : sources) {
-        const std::optional<QString> day = source.Path.isEmpty() ? QString() : DayOf(source);
-        const QString name = day ? Take(folder, source, *day) : QString();
+        const QString name = Take(folder, source, m_day);
         if (name.isEmpty()) {
             folder.TakeBack();
             return false;

@@ -40,8 +40,9 @@ public:
     [[nodiscard]] static bool Drop(const cBookTools& tools, const QString& number);
 
 private:
-    [[nodiscard]] QString Account() const; // or the number where it has none
-    [[nodiscard]] std::optional<QString> DayOf(const cReceiptSource& source) const;
+    [[nodiscard]] QString Account() const;                                          // or the number where it has none
+    [[nodiscard]] std::optional<QString> DayOf(const cReceiptSource& source) const; // nothing when the user gives up
+    // Its name in the folder, empty on failure; the day is found out where none is given.
     [[nodiscard]] QString Take(cReceiptFolder& folder, const cReceiptSource& source, const QString& day) const;
     [[nodiscard]] bool Store(const QStringList& names, const QString& step) const;
 
