@@ -72,8 +72,8 @@ bool cBudgetModel::ShowYear(int year)
         return false;
     }
     m_edit.ShowYear(year);
-    if (const QList<cLine> lines = MakeLines();
-        lines != m_lines) { // a hidden category was spent on in one of the years
+    // Other ones where a hidden category was spent on in one of the years.
+    if (const QList<cLine> lines = MakeLines(); lines != m_lines) {
         beginResetModel();
         m_lines = lines;
         endResetModel();
