@@ -4993,10 +4993,6 @@ Suggestion: {2}</translation>
         <translation>Cate&amp;gory…</translation>
     </message>
     <message>
-        <source>Wählt eine Kategorie und ein Intervall für die markierten Umsätze (Strg+K)</source>
-        <translation>Chooses a category and an interval for the selected transactions (Ctrl+K)</translation>
-    </message>
-    <message>
         <source>R&amp;egel aus Umsatz…</source>
         <translation>R&amp;ule from transaction…</translation>
     </message>
@@ -5546,10 +5542,6 @@ Shall these stay open? With No, they are booked too.</translation>
     <message>
         <source>Mehrwertsteuer, die in den Beträgen steckt</source>
         <translation>VAT that the amounts include</translation>
-    </message>
-    <message>
-        <source>ändert, was eine Kategorie vorschlägt; &quot;ohne&quot; entfernt Betrag, Limit oder Steuer</source>
-        <translation>changes what a category proposes; &quot;ohne&quot; removes amount, limit or tax</translation>
     </message>
     <message>
         <source>Eintrag {0}, &apos;{1}&apos;: {2}</source>
@@ -9238,10 +9230,6 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
         <translation>Possible are 1 to {0} days.</translation>
     </message>
     <message>
-        <source>zeigt, was in den nächsten Tagen fällig wird, und welche Verträge zu kündigen sind</source>
-        <translation>shows what is due in the next days, and which contracts have to be cancelled</translation>
-    </message>
-    <message>
         <source>so viele Tage weit, heute eingeschlossen; ohne Angabe 14</source>
         <translation>so many days ahead, today included; 14 if left out</translation>
     </message>
@@ -9266,10 +9254,6 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
         <translation>No receipt is missing.</translation>
     </message>
     <message>
-        <source>Zu keinem Eintrag gehört &apos;{0}&apos;.</source>
-        <translation>&apos;{0}&apos; belongs to no entry.</translation>
-    </message>
-    <message>
         <source>Der Eintrag {0} hat keinen Beleg &apos;{1}&apos;.</source>
         <translation>Entry {0} has no receipt &apos;{1}&apos;.</translation>
     </message>
@@ -9284,14 +9268,6 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
     <message>
         <source>kopiert Dateien in den Ordner &quot;Belege&quot; neben der Datenbank und hängt sie an den Eintrag</source>
         <translation>copies files to the folder &quot;Belege&quot; beside the database and attaches them to the entry</translation>
-    </message>
-    <message>
-        <source>nimmt einen Beleg vom Eintrag; die Datei kommt in den Papierkorb, wenn kein anderer Eintrag sie hat</source>
-        <translation>takes a receipt off the entry; the file goes to the trash when no other entry has it</translation>
-    </message>
-    <message>
-        <source>listet Belege, deren Datei fehlt, und Dateien, die zu keinem Eintrag gehören</source>
-        <translation>lists receipts whose file is missing, and files that belong to no entry</translation>
     </message>
     <message>
         <source>rechnet einen Bericht aus: durchschnitt (je Monat), summe, limit, budget oder schlagwort; ohne Angabe für das aktuelle Jahr</source>
@@ -9736,10 +9712,6 @@ Close the window all the same?</translation>
         <translation>Settlement</translation>
     </message>
     <message>
-        <source>HTML-Datei|*.html|CSV-Datei|*.csv|Alle Dateien|*.*</source>
-        <translation>HTML file|*.html|CSV file|*.csv|All files|*.*</translation>
-    </message>
-    <message>
         <source>In diesem Zeitraum ist bei keinem Eintrag vermerkt, wer bezahlt hat.</source>
         <translation>No entry of this period says who paid.</translation>
     </message>
@@ -9836,10 +9808,6 @@ Close the window all the same?</translation>
         <translation>The file is missing already.</translation>
     </message>
     <message>
-        <source>Die Datei bleibt, weil auch ein anderer Eintrag sie hat.</source>
-        <translation>The file stays, because another entry has it too.</translation>
-    </message>
-    <message>
         <source>Die Datei kommt in den Papierkorb.</source>
         <translation>The file goes to the trash.</translation>
     </message>
@@ -9850,10 +9818,6 @@ Close the window all the same?</translation>
     <message>
         <source>Beleg entfernen</source>
         <translation>Remove receipt</translation>
-    </message>
-    <message>
-        <source>Hier gibt es keinen Papierkorb. Die Datei &apos;{0}&apos; bleibt im Ordner &apos;{1}&apos;; der Eintrag hat sie nicht mehr.</source>
-        <translation>There is no trash here. The file &apos;{0}&apos; stays in the folder &apos;{1}&apos;; the entry no longer has it.</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist kein Bild und kein Dokument und wird deshalb nicht geöffnet. Mit &quot;Speichern unter…&quot; kommen Sie an die Datei.</source>
@@ -9878,10 +9842,6 @@ Close the window all the same?</translation>
     <message>
         <source>Im Ordner &apos;{0}&apos; fehlen Belege: {1}</source>
         <translation>Receipts are missing in the folder &apos;{0}&apos;: {1}</translation>
-    </message>
-    <message>
-        <source>Im Ordner &apos;{0}&apos; gehören Dateien zu keinem Eintrag dieses Buchs: {1}</source>
-        <translation>In the folder &apos;{0}&apos; some files belong to no entry of this book: {1}</translation>
     </message>
     <message>
         <source>Diese Datenbank kann nur gelesen werden; Belege können nicht geändert werden.</source>
@@ -10322,6 +10282,487 @@ A click shows more.</translation>
     <message>
         <source>leer</source>
         <translation>empty</translation>
+    </message>
+    <message>
+        <source>Person, die bezahlt hat, oder &quot;ohne&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farbe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; steht nicht zur Wahl. Möglich sind: {1}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farbe und Symbol hat die Hauptkategorie. Bitte geben Sie &apos;{0}&apos; an.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist nicht direkt bebuchbar und schlägt deshalb nichts vor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farbe einer Hauptkategorie: ein Name wie &quot;Blau&quot; oder #rrggbb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol einer Hauptkategorie, zum Beispiel &quot;Haus&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ändert, was eine Kategorie vorschlägt oder wie sie gezeigt wird; &quot;ohne&quot; entfernt Betrag, Limit, Steuer, Farbe oder Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Diagramm &apos;{0}&apos; zeigt immer nur einen Zeitraum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeigt, was in den nächsten Tagen fällig wird, und welche Verträge in 30 Tagen zu kündigen sind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Monat. Schreiben Sie ihn als 2026-03 oder 03.2026.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mit --month 2026-03 sagen Sie den Monat.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Konto {0} hat keinen PDF-Auszug &apos;{1}&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>listet die PDF-Auszüge eines Bankkontos, die neuesten zuerst</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kopiert PDF-Auszüge der Bank in den Ordner &quot;Belege&quot; neben der Datenbank und hängt sie an das Bankkonto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Monat des Auszugs, als 2026-03 oder 03.2026; sonst sagt ihn der Name der Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nimmt einen PDF-Auszug vom Bankkonto; die Datei kommt in den Papierkorb, wenn sie sonst nirgends hängt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gehört</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Festgelegt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noch gibt es keine Personen. &quot;people add NAME&quot; legt eine an.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Anteil. Bitte geben Sie Name und Prozent an: Anna=60.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeigt die Personen des Haushalts und wem welches Konto gehört</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>legt eine Person an</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>benennt eine Person um, auch an ihren Einträgen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>löscht eine Person; ihr Anteil geht an die anderen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>legt fest, wem ein Konto zu wie viel Prozent gehört: Girokonto Anna=60 Ben=40; &quot;Gemeinsames&quot; statt des Kontos gilt für alle, &quot;ohne&quot; statt der Anteile nimmt sie weg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zu keinem Eintrag und keinem Konto gehört &apos;{0}&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nimmt einen Beleg vom Eintrag; die Datei kommt in den Papierkorb, wenn sie sonst nirgends hängt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>listet Belege, deren Datei fehlt, und Dateien, die nirgends hängen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nur was diese Person bezahlt hat; &quot;ohne&quot;: wo niemand genannt ist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rechnet aus, wer im Haushalt wem wie viel schuldet; ohne Angabe für das aktuelle Jahr bis heute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>schreibt die gezählten Einträge als CSV-Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>schreibt alle drei Tabellen als Excel-Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Person &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bitte wählen Sie die Zeile einer Kategorie, die im Jahr {0} ein Limit hat.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;PDF-Auszüge…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;PDF-Auszüge ({0})…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blau</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hellblau</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiefblau</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grün</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hellgrün</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gelb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Braun</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Violett</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Haus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Werkzeug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wasser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Einkaufswagen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hemd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flugzeug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Herz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pfote</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Baum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ball</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Musik</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geschenk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telefon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Schild</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sparschwein</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Münzen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Punkte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Für diese Auswahl gibt es keine Einträge. „Beliebig“ bei „Bezahlt von“ zeigt alle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zurückgenommen: {0}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wieder ausgeführt: {0}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diese Auswahl lässt sich nicht merken, denn sie zeigt nur die Einträge hinter einer Zahl der Auswertung. Heben Sie die Auswahl erst auf.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ansicht &apos;{0}&apos; gemerkt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ansicht &apos;{0}&apos; an die erste Stelle gesetzt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ansicht &apos;{0}&apos; gelöscht</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ansicht &apos;{0}&apos; umbenannt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bezahlt von: {0}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nichts mehr festgelegt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Der Anteil geht an die anderen:
+{0}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; gibt es schon mit anderem Inhalt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diese Datei hängt hier schon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die fehlende Datei ist wieder da.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Datei bleibt, weil sie noch an anderer Stelle hängt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hier gibt es keinen Papierkorb. Die Datei &apos;{0}&apos; bleibt im Ordner &apos;{1}&apos;, hängt aber nirgends mehr.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Im Ordner &apos;{0}&apos; gehören Dateien zu keinem Eintrag und keinem Konto dieses Buchs: {1}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{0}. {1}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszüge: {0}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszüge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noch kein PDF-Auszug. Ziehen Sie die Auszüge der Bank hierher, oder wählen Sie die Dateien.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dieses Konto hat keinen PDF-Auszug.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszüge hinzufügen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszug neu wählen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF|*.pdf|Alle Dateien|*.*</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Soll der Auszug &apos;{0}&apos; von diesem Konto entfernt werden?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszug entfernen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Von welchem Monat ist der Auszug &apos;{0}&apos;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In der Zwischenablage ist kein PDF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein PDF. Auszüge, die Kontorelle einlesen kann (CSV, MT940 und so weiter), gehören auf die Seite &quot;Kontoauszüge&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszug zu &apos;{0}&apos; hinzugefügt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszug von &apos;{0}&apos; entfernt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF-Auszug von &apos;{0}&apos; ersetzt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie es mit der Eingabetaste.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ein Startguthaben legen Sie für jedes Konto einzeln fest. Bitte wählen Sie eine andere Kategorie.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Umbuchungen nach &apos;{0}&apos; kommen dann auf &apos;{1}&apos; an.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Umbuchungen gehen dann von &apos;{0}&apos; ab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summe des Budgets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bezahlt v&amp;on:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bezahl&amp;t von:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>D&amp;uplizieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wählt Kategorie, Intervall und Beschreibung für die markierten Umsätze; sind alle gebucht, ändert es deren Einträge (Strg+K)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auszüge der Bank als PDF; Dateien können auch in dieses Fenster gezogen werden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Listen und Diagramme zeigen die Hauptkategorie und ihre Unterkategorien damit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keine Farbe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eigene Farbe …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kein Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farbe der Hauptkategorie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Farbe und Symbol:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -73,8 +73,8 @@ bool cBudgetModel::ShowYear(int year)
         return false;
     }
     m_edit.ShowYear(year);
-    const QList<cLine> lines = MakeLines();
-    if (lines != m_lines) { // a hidden category was spent on in one of the years
+    // Other ones where a hidden category was spent on in one of the years.
+    if (const QList<cLine> lines = MakeLines(); lines != m_lines) {
         beginResetModel();
         m_lines = lines;
         endResetModel();
