@@ -34,6 +34,9 @@ namespace {
 
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
+constexpr const char* oneTransaction =
+    "INSERT INTO import (ImportDate, ImportAccount, ImportValue) VALUES ('2026-03-01', '4711', '1.00');";
+
 // The window program on a book of a temporary folder.
 struct cMachine
 {
@@ -267,8 +270,7 @@ private Q_SLOTS:
         const QString paper = machine.File.Path(u"Auszug 03-2026.pdf"_s);
         cTestFile::Write(paper, "%PDF-1.4");
         cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = machine.File.Make(oneEntry)}));
-        QVERIFY(program.Tools().Settings.Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Giro"_s));
+        QVERIFY(program.Start({.Book = machine.File.Make(oneTransaction)}));
         QStringList seen;
         QTimer::singleShot(0, &program.Window(), [&] {
             auto* form = qobject_cast<frmKontoauszug*>(QApplication::activeModalWidget());
