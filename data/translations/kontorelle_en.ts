@@ -10285,484 +10285,485 @@ A click shows more.</translation>
     </message>
     <message>
         <source>Person, die bezahlt hat, oder &quot;ohne&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Person who paid, or &quot;ohne&quot; (none)</translation>
     </message>
     <message>
         <source>Farbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Colour</translation>
     </message>
     <message>
         <source>Symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Icon</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; steht nicht zur Wahl. Möglich sind: {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; is not among the choices. Possible are: {1}.</translation>
     </message>
     <message>
         <source>Farbe und Symbol hat die Hauptkategorie. Bitte geben Sie &apos;{0}&apos; an.</source>
-        <translation type="unfinished"></translation>
+        <translation>Colour and icon belong to the main category. Please give &apos;{0}&apos;.</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist nicht direkt bebuchbar und schlägt deshalb nichts vor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing can be booked to &apos;{0}&apos; itself, so it proposes nothing.</translation>
     </message>
     <message>
         <source>Farbe einer Hauptkategorie: ein Name wie &quot;Blau&quot; oder #rrggbb</source>
-        <translation type="unfinished"></translation>
+        <translation>colour of a main category: a name such as &quot;Blue&quot;, or #rrggbb</translation>
     </message>
     <message>
         <source>Symbol einer Hauptkategorie, zum Beispiel &quot;Haus&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>icon of a main category, for example &quot;House&quot;</translation>
     </message>
     <message>
         <source>ändert, was eine Kategorie vorschlägt oder wie sie gezeigt wird; &quot;ohne&quot; entfernt Betrag, Limit, Steuer, Farbe oder Symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>changes what a category proposes or how it is shown; &quot;ohne&quot; removes amount, limit, tax, colour or icon</translation>
     </message>
     <message>
         <source>Das Diagramm &apos;{0}&apos; zeigt immer nur einen Zeitraum.</source>
-        <translation type="unfinished"></translation>
+        <translation>The chart &apos;{0}&apos; always shows one period only.</translation>
     </message>
     <message>
         <source>zeigt, was in den nächsten Tagen fällig wird, und welche Verträge in 30 Tagen zu kündigen sind</source>
-        <translation type="unfinished"></translation>
+        <translation>shows what falls due in the next days, and which contracts have to be cancelled within 30 days</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist kein Monat. Schreiben Sie ihn als 2026-03 oder 03.2026.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; is not a month. Write it as 2026-03 or 03.2026.</translation>
     </message>
     <message>
         <source>Mit --month 2026-03 sagen Sie den Monat.</source>
-        <translation type="unfinished"></translation>
+        <translation>Use --month 2026-03 to give the month.</translation>
     </message>
     <message>
         <source>Das Konto {0} hat keinen PDF-Auszug &apos;{1}&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>The account {0} has no PDF statement &apos;{1}&apos;.</translation>
     </message>
     <message>
         <source>listet die PDF-Auszüge eines Bankkontos, die neuesten zuerst</source>
-        <translation type="unfinished"></translation>
+        <translation>lists the PDF statements of a bank account, newest first</translation>
     </message>
     <message>
         <source>kopiert PDF-Auszüge der Bank in den Ordner &quot;Belege&quot; neben der Datenbank und hängt sie an das Bankkonto</source>
-        <translation type="unfinished"></translation>
+        <translation>copies the bank&apos;s PDF statements to the folder &quot;Belege&quot; beside the database and attaches them to the bank account</translation>
     </message>
     <message>
         <source>Monat des Auszugs, als 2026-03 oder 03.2026; sonst sagt ihn der Name der Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>month of the statement, as 2026-03 or 03.2026; otherwise the name of the file tells it</translation>
     </message>
     <message>
         <source>nimmt einen PDF-Auszug vom Bankkonto; die Datei kommt in den Papierkorb, wenn sie sonst nirgends hängt</source>
-        <translation type="unfinished"></translation>
+        <translation>takes a PDF statement off the bank account; the file goes to the trash if it is attached nowhere else</translation>
     </message>
     <message>
         <source>Gehört</source>
-        <translation type="unfinished"></translation>
+        <translation>Belongs to</translation>
     </message>
     <message>
         <source>Festgelegt</source>
-        <translation type="unfinished"></translation>
+        <translation>Set</translation>
     </message>
     <message>
         <source>Noch gibt es keine Personen. &quot;people add NAME&quot; legt eine an.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no people yet. &quot;people add NAME&quot; creates one.</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist kein Anteil. Bitte geben Sie Name und Prozent an: Anna=60.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; is no share. Please give a name and a percentage: Anna=60.</translation>
     </message>
     <message>
         <source>zeigt die Personen des Haushalts und wem welches Konto gehört</source>
-        <translation type="unfinished"></translation>
+        <translation>shows the people of the household and who owns which account</translation>
     </message>
     <message>
         <source>legt eine Person an</source>
-        <translation type="unfinished"></translation>
+        <translation>creates a person</translation>
     </message>
     <message>
         <source>benennt eine Person um, auch an ihren Einträgen</source>
-        <translation type="unfinished"></translation>
+        <translation>renames a person, at their entries too</translation>
     </message>
     <message>
         <source>löscht eine Person; ihr Anteil geht an die anderen</source>
-        <translation type="unfinished"></translation>
+        <translation>deletes a person; their share goes to the others</translation>
     </message>
     <message>
         <source>legt fest, wem ein Konto zu wie viel Prozent gehört: Girokonto Anna=60 Ben=40; &quot;Gemeinsames&quot; statt des Kontos gilt für alle, &quot;ohne&quot; statt der Anteile nimmt sie weg</source>
-        <translation type="unfinished"></translation>
+        <translation>sets to whom an account belongs, in per cent: Girokonto Anna=60 Ben=40; &quot;Gemeinsames&quot; in place of the account counts for all, &quot;ohne&quot; in place of the shares takes them away</translation>
     </message>
     <message>
         <source>Zu keinem Eintrag und keinem Konto gehört &apos;{0}&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; belongs to no entry and no account.</translation>
     </message>
     <message>
         <source>nimmt einen Beleg vom Eintrag; die Datei kommt in den Papierkorb, wenn sie sonst nirgends hängt</source>
-        <translation type="unfinished"></translation>
+        <translation>takes a receipt off the entry; the file goes to the trash if it is attached nowhere else</translation>
     </message>
     <message>
         <source>listet Belege, deren Datei fehlt, und Dateien, die nirgends hängen</source>
-        <translation type="unfinished"></translation>
+        <translation>lists receipts whose file is missing, and files that are attached nowhere</translation>
     </message>
     <message>
         <source>nur was diese Person bezahlt hat; &quot;ohne&quot;: wo niemand genannt ist</source>
-        <translation type="unfinished"></translation>
+        <translation>only what this person paid; &quot;ohne&quot;: where nobody is named</translation>
     </message>
     <message>
         <source>rechnet aus, wer im Haushalt wem wie viel schuldet; ohne Angabe für das aktuelle Jahr bis heute</source>
-        <translation type="unfinished"></translation>
+        <translation>works out who in the household owes whom how much; the current year until today if nothing is given</translation>
     </message>
     <message>
         <source>schreibt die gezählten Einträge als CSV-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>writes the entries that counted as a CSV file</translation>
     </message>
     <message>
         <source>schreibt alle drei Tabellen als Excel-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>writes all three tables as an Excel file</translation>
     </message>
     <message>
         <source>Die Person &apos;{0}&apos; gibt es nicht. Möglich sind: {1}.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no person &apos;{0}&apos;. Possible are: {1}.</translation>
     </message>
     <message>
         <source>Bitte wählen Sie die Zeile einer Kategorie, die im Jahr {0} ein Limit hat.</source>
-        <translation type="unfinished"></translation>
+        <translation>Please choose the line of a category that has a limit in {0}.</translation>
     </message>
     <message>
         <source>&amp;PDF-Auszüge…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PDF statements…</translation>
     </message>
     <message>
         <source>&amp;PDF-Auszüge ({0})…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PDF statements ({0})…</translation>
     </message>
     <message>
         <source>Blau</source>
-        <translation type="unfinished"></translation>
+        <translation>Blue</translation>
     </message>
     <message>
         <source>Hellblau</source>
-        <translation type="unfinished"></translation>
+        <translation>Light blue</translation>
     </message>
     <message>
         <source>Tiefblau</source>
-        <translation type="unfinished"></translation>
+        <translation>Deep blue</translation>
     </message>
     <message>
         <source>Grün</source>
-        <translation type="unfinished"></translation>
+        <translation>Green</translation>
     </message>
     <message>
         <source>Hellgrün</source>
-        <translation type="unfinished"></translation>
+        <translation>Light green</translation>
     </message>
     <message>
         <source>Gelb</source>
-        <translation type="unfinished"></translation>
+        <translation>Yellow</translation>
     </message>
     <message>
         <source>Rost</source>
-        <translation type="unfinished"></translation>
+        <translation>Rust</translation>
     </message>
     <message>
         <source>Braun</source>
-        <translation type="unfinished"></translation>
+        <translation>Brown</translation>
     </message>
     <message>
         <source>Sand</source>
-        <translation type="unfinished"></translation>
+        <translation>Sand</translation>
     </message>
     <message>
         <source>Violett</source>
-        <translation type="unfinished"></translation>
+        <translation>Violet</translation>
     </message>
     <message>
         <source>Haus</source>
-        <translation type="unfinished"></translation>
+        <translation>House</translation>
     </message>
     <message>
         <source>Werkzeug</source>
-        <translation type="unfinished"></translation>
+        <translation>Tools</translation>
     </message>
     <message>
         <source>Strom</source>
-        <translation type="unfinished"></translation>
+        <translation>Bolt</translation>
     </message>
     <message>
         <source>Wasser</source>
-        <translation type="unfinished"></translation>
+        <translation>Drop</translation>
     </message>
     <message>
         <source>Einkaufswagen</source>
-        <translation type="unfinished"></translation>
+        <translation>Shopping cart</translation>
     </message>
     <message>
         <source>Teller</source>
-        <translation type="unfinished"></translation>
+        <translation>Plate</translation>
     </message>
     <message>
         <source>Hemd</source>
-        <translation type="unfinished"></translation>
+        <translation>Shirt</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Car</translation>
     </message>
     <message>
         <source>Bus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bus</translation>
     </message>
     <message>
         <source>Flugzeug</source>
-        <translation type="unfinished"></translation>
+        <translation>Plane</translation>
     </message>
     <message>
         <source>Herz</source>
-        <translation type="unfinished"></translation>
+        <translation>Heart</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Child</translation>
     </message>
     <message>
         <source>Pfote</source>
-        <translation type="unfinished"></translation>
+        <translation>Paw</translation>
     </message>
     <message>
         <source>Baum</source>
-        <translation type="unfinished"></translation>
+        <translation>Tree</translation>
     </message>
     <message>
         <source>Ball</source>
-        <translation type="unfinished"></translation>
+        <translation>Ball</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Musik</source>
-        <translation type="unfinished"></translation>
+        <translation>Music</translation>
     </message>
     <message>
         <source>Geschenk</source>
-        <translation type="unfinished"></translation>
+        <translation>Gift</translation>
     </message>
     <message>
         <source>Telefon</source>
-        <translation type="unfinished"></translation>
+        <translation>Phone</translation>
     </message>
     <message>
         <source>Schild</source>
-        <translation type="unfinished"></translation>
+        <translation>Shield</translation>
     </message>
     <message>
         <source>Sparschwein</source>
-        <translation type="unfinished"></translation>
+        <translation>Piggy bank</translation>
     </message>
     <message>
         <source>Münzen</source>
-        <translation type="unfinished"></translation>
+        <translation>Coins</translation>
     </message>
     <message>
         <source>Punkte</source>
-        <translation type="unfinished"></translation>
+        <translation>Dots</translation>
     </message>
     <message>
         <source>Für diese Auswahl gibt es keine Einträge. „Beliebig“ bei „Bezahlt von“ zeigt alle.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no entries for this selection. “Any” at “Paid by” shows all of them.</translation>
     </message>
     <message>
         <source>Zurückgenommen: {0}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Undone: {0}.</translation>
     </message>
     <message>
         <source>Wieder ausgeführt: {0}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Redone: {0}.</translation>
     </message>
     <message>
         <source>Diese Auswahl lässt sich nicht merken, denn sie zeigt nur die Einträge hinter einer Zahl der Auswertung. Heben Sie die Auswahl erst auf.</source>
-        <translation type="unfinished"></translation>
+        <translation>This selection cannot be kept, because it shows only the entries behind a figure of the report. Clear the selection first.</translation>
     </message>
     <message>
         <source>Ansicht &apos;{0}&apos; gemerkt</source>
-        <translation type="unfinished"></translation>
+        <translation>View &apos;{0}&apos; kept</translation>
     </message>
     <message>
         <source>Ansicht &apos;{0}&apos; an die erste Stelle gesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>View &apos;{0}&apos; put in first place</translation>
     </message>
     <message>
         <source>Ansicht &apos;{0}&apos; gelöscht</source>
-        <translation type="unfinished"></translation>
+        <translation>View &apos;{0}&apos; deleted</translation>
     </message>
     <message>
         <source>Ansicht &apos;{0}&apos; umbenannt</source>
-        <translation type="unfinished"></translation>
+        <translation>View &apos;{0}&apos; renamed</translation>
     </message>
     <message>
         <source>Bezahlt von: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>Paid by: {0}</translation>
     </message>
     <message>
         <source>nichts mehr festgelegt</source>
-        <translation type="unfinished"></translation>
+        <translation>nothing set any more</translation>
     </message>
     <message>
         <source>Der Anteil geht an die anderen:
 {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>The share goes to the others:
+{0}</translation>
     </message>
     <message>
         <source>Die Datei &apos;{0}&apos; gibt es schon mit anderem Inhalt.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &apos;{0}&apos; already exists with other content.</translation>
     </message>
     <message>
         <source>Diese Datei hängt hier schon.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is already attached here.</translation>
     </message>
     <message>
         <source>Die fehlende Datei ist wieder da.</source>
-        <translation type="unfinished"></translation>
+        <translation>The missing file is back.</translation>
     </message>
     <message>
         <source>Die Datei bleibt, weil sie noch an anderer Stelle hängt.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file stays because it is still attached elsewhere.</translation>
     </message>
     <message>
         <source>Hier gibt es keinen Papierkorb. Die Datei &apos;{0}&apos; bleibt im Ordner &apos;{1}&apos;, hängt aber nirgends mehr.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no trash here. The file &apos;{0}&apos; stays in the folder &apos;{1}&apos; but is no longer attached anywhere.</translation>
     </message>
     <message>
         <source>Im Ordner &apos;{0}&apos; gehören Dateien zu keinem Eintrag und keinem Konto dieses Buchs: {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>In the folder &apos;{0}&apos;, these files belong to no entry and no account of this book: {1}</translation>
     </message>
     <message>
         <source>{0}. {1}</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} {1}</translation>
     </message>
     <message>
         <source>PDF-Auszüge: {0}</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF statements: {0}</translation>
     </message>
     <message>
         <source>PDF-Auszüge</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF statements</translation>
     </message>
     <message>
         <source>Noch kein PDF-Auszug. Ziehen Sie die Auszüge der Bank hierher, oder wählen Sie die Dateien.</source>
-        <translation type="unfinished"></translation>
+        <translation>No PDF statement yet. Drop the bank&apos;s statements here, or choose the files.</translation>
     </message>
     <message>
         <source>Dieses Konto hat keinen PDF-Auszug.</source>
-        <translation type="unfinished"></translation>
+        <translation>This account has no PDF statement.</translation>
     </message>
     <message>
         <source>PDF-Auszüge hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add PDF statements</translation>
     </message>
     <message>
         <source>PDF-Auszug neu wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose PDF statement again</translation>
     </message>
     <message>
         <source>PDF|*.pdf|Alle Dateien|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF|*.pdf|All files|*.*</translation>
     </message>
     <message>
         <source>Soll der Auszug &apos;{0}&apos; von diesem Konto entfernt werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to remove the statement &apos;{0}&apos; from this account?</translation>
     </message>
     <message>
         <source>PDF-Auszug entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove PDF statement</translation>
     </message>
     <message>
         <source>Von welchem Monat ist der Auszug &apos;{0}&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Which month is the statement &apos;{0}&apos; from?</translation>
     </message>
     <message>
         <source>In der Zwischenablage ist kein PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no PDF in the clipboard.</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ist kein PDF. Auszüge, die Kontorelle einlesen kann (CSV, MT940 und so weiter), gehören auf die Seite &quot;Kontoauszüge&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;{0}&apos; is not a PDF. Statements that Kontorelle can read (CSV, MT940 and so on) belong on the &quot;Statements&quot; page.</translation>
     </message>
     <message>
         <source>PDF-Auszug zu &apos;{0}&apos; hinzugefügt</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF statement added to &apos;{0}&apos;</translation>
     </message>
     <message>
         <source>PDF-Auszug von &apos;{0}&apos; entfernt</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF statement removed from &apos;{0}&apos;</translation>
     </message>
     <message>
         <source>PDF-Auszug von &apos;{0}&apos; ersetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF statement of &apos;{0}&apos; replaced</translation>
     </message>
     <message>
         <source>Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie es mit der Eingabetaste.</source>
-        <translation type="unfinished"></translation>
+        <translation>An opening balance can only be changed by itself: open it with the Enter key.</translation>
     </message>
     <message>
         <source>Ein Startguthaben legen Sie für jedes Konto einzeln fest. Bitte wählen Sie eine andere Kategorie.</source>
-        <translation type="unfinished"></translation>
+        <translation>An opening balance is set for each account by itself. Please choose another category.</translation>
     </message>
     <message>
         <source>Umbuchungen nach &apos;{0}&apos; kommen dann auf &apos;{1}&apos; an.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfers to &apos;{0}&apos; will then arrive in &apos;{1}&apos;.</translation>
     </message>
     <message>
         <source>Umbuchungen gehen dann von &apos;{0}&apos; ab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfers will then leave &apos;{0}&apos;.</translation>
     </message>
     <message>
         <source>Summe des Budgets</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget total</translation>
     </message>
     <message>
         <source>Bezahlt v&amp;on:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;id by:</translation>
     </message>
     <message>
         <source>Bezahl&amp;t von:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;id by:</translation>
     </message>
     <message>
         <source>D&amp;uplizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;uplicate</translation>
     </message>
     <message>
         <source>Wählt Kategorie, Intervall und Beschreibung für die markierten Umsätze; sind alle gebucht, ändert es deren Einträge (Strg+K)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chooses category, interval and description for the selected transactions; when all of them are booked, it changes their entries (Ctrl+K)</translation>
     </message>
     <message>
         <source>Auszüge der Bank als PDF; Dateien können auch in dieses Fenster gezogen werden</source>
-        <translation type="unfinished"></translation>
+        <translation>The bank&apos;s statements as PDF; files can also be dropped on this window</translation>
     </message>
     <message>
         <source>Listen und Diagramme zeigen die Hauptkategorie und ihre Unterkategorien damit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lists and charts show the main category and its sub-categories with it.</translation>
     </message>
     <message>
         <source>keine Farbe</source>
-        <translation type="unfinished"></translation>
+        <translation>no colour</translation>
     </message>
     <message>
         <source>Eigene Farbe …</source>
-        <translation type="unfinished"></translation>
+        <translation>Own colour …</translation>
     </message>
     <message>
         <source>kein Symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>no icon</translation>
     </message>
     <message>
         <source>Farbe der Hauptkategorie</source>
-        <translation type="unfinished"></translation>
+        <translation>Colour of the main category</translation>
     </message>
     <message>
         <source>&amp;Farbe und Symbol:</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olour and icon:</translation>
     </message>
 </context>
 </TS>
