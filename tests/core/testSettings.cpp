@@ -85,6 +85,9 @@ constexpr std::array storedSettings{
     "KategorieList",
     "Ordner*",
     "Budget:*",
+    "Farbe:*",
+    "Symbol:*",
+    "Auszüge:*",
     "Anteile:*",
     "KTO:*",
     "KTOBLZ:*",
@@ -266,11 +269,26 @@ private Q_SLOTS:
         }
         left.sort();
         QCOMPARE(left,
-                 QStringList({u"Ansichten=0"_s, u"Anteile:100=0"_s, u"Budget:100=0"_s, u"FirstInstall=0"_s,
-                              u"HBCIProdukt=0"_s, u"HBCIVBLZ100=0"_s, u"LastVersion=0"_s, u"Passwort=0"_s,
-                              u"PasswortAktiv=0"_s, u"Personen=0"_s, u"SpielBestwerte=0"_s, u"Update=0"_s,
-                              u"ViewAccountValueAll=Wahr"_s, u"ViewFixBooking=Wahr"_s, u"ViewFutureBooking=Wahr"_s,
-                              u"ViewSingleBooking=Wahr"_s, u"ViewStartBooking=Wahr"_s}));
+                 QStringList({u"Ansichten=0"_s,
+                              u"Anteile:100=0"_s,
+                              u"Auszüge:100=0"_s,
+                              u"Budget:100=0"_s,
+                              u"Farbe:100=0"_s,
+                              u"FirstInstall=0"_s,
+                              u"HBCIProdukt=0"_s,
+                              u"HBCIVBLZ100=0"_s,
+                              u"LastVersion=0"_s,
+                              u"Passwort=0"_s,
+                              u"PasswortAktiv=0"_s,
+                              u"Personen=0"_s,
+                              u"SpielBestwerte=0"_s,
+                              u"Symbol:100=0"_s,
+                              u"Update=0"_s,
+                              u"ViewAccountValueAll=Wahr"_s,
+                              u"ViewFixBooking=Wahr"_s,
+                              u"ViewFutureBooking=Wahr"_s,
+                              u"ViewSingleBooking=Wahr"_s,
+                              u"ViewStartBooking=Wahr"_s}));
     }
 
     void VersionAndUpdateDate() const
