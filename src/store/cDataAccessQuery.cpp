@@ -160,8 +160,9 @@ eDay Place(std::string_view bytes, const cEntryQuery& query)
 }
 
 // Rows that are certain to lie outside the period do not even leave SQLite: of a month in a large book these are nearly
-// all. The text of a plain day can be compared as it is. Days that a month does not have ("2026-02-31") count on into
-// the next one, so the period begins some days earlier here; the reader looks closely at what is left.
+// all. The text of a plain day can be compared as it is. Newer versions of SQLite count days that a month does not have
+// ("2026-02-31") on into the next one, so the period begins some days earlier here; the reader looks closely at what
+// is left.
 void AddNearness(cCondition& where, const cEntryQuery& query)
 {
     constexpr int overflow = 3;

@@ -196,11 +196,11 @@ std::optional<cLearned::cChoice> cLearned::Choose(cHistory& history, const cImpo
         }
     }
     if (streak == lookedBack) {
-        const QString agreed = category(decided.constFirst());
+        const QString latest = category(decided.constFirst());
         const bool hasOwn = std::any_of(history.Rows.cbegin(), history.Rows.cend(), [&](const cBooked& booked) {
-            return booked.RowId == row.ID && category(booked) == agreed;
+            return booked.RowId == row.ID && category(booked) == latest;
         });
-        streak = history.Counts.value(agreed) - (hasOwn ? 1 : 0);
+        streak = history.Counts.value(latest) - (hasOwn ? 1 : 0);
     }
     cChoice choice = ChoiceOf(decided, streak);
     choice.IsSure = choice.IsSure && changes <= 1;
