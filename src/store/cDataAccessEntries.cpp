@@ -173,6 +173,18 @@ cEntryItemList cDataAccess::GetEntriesOfAccount(const QString& account)
     return entries;
 }
 
+cEntryItemList cDataAccess::GetSeriesOfAccount(const QString& account)
+{
+    cEntryItemList entries;
+    Read("GetEntriesOfAccount", [&] {
+        const QString stored = modRow::Doubled(account);
+        entries =
+            ReadEntries(m_database, " WHERE EntryInterval <> 'Einmalig' AND (EntryAccount = ? OR EntryAccountMove = ?)",
+                        {stored, stored});
+    });
+    return entries;
+}
+
 int cDataAccess::CountEntries()
 {
     int count = 0;
