@@ -1,9 +1,9 @@
 #include "windows/receipt/cPreviewReader.h"
 
+#include "windows/receipt/cPdfFile.h"
+
 #include <QFileInfo>
 #include <QImageReader>
-
-#include <poppler-qt6.h>
 
 #include <algorithm>
 #include <cmath>
@@ -24,17 +24,12 @@ QSizeF Fitting(QSizeF size, QSize most)
     return pixels > mostPixels ? size * std::sqrt(mostPixels / pixels) : size;
 }
 
-bool IsStale(const QVariant& flag)
-{
-    return static_cast<const std::atomic_bool*>(flag.value<void*>())->load();
-}
-
 } // namespace
 
 struct cPreviewReader::cOpened
 {
     QString Path;
-    std::unique_ptr<Poppler::Document> Document;
+    std::unique_ptr<cPdfFile> Document;
     QImage Picture;
 };
 
@@ -122,30 +117,30 @@ cPreview cPreviewReader::Make(const cWish& wish)
 
 cPreview cPreviewReader::MakePage(const cWish& wish)
 {
-    if (m_opened->Document == nullptr) {
-        m_opened->Document = Poppler::Document::load(wish.Path);
-        if (m_opened->Document != nullptr && !m_opened->Document->isLocked()) {
-            m_opened->Document->setRenderHint(Poppler::Document::Antialiasing);
-            m_opened->Document->setRenderHint(Poppler::Document::TextAntialiasing);
+    cPdfFile* document = m_opened->Document.get();
+    if (document == nullptr) {
+        auto opened = cPdfFile::Open(wish.Path);
+        if (!opened) {
+            return {cPreview::eState::Unknown, {}, 0, 1};
         }
+        m_opened->Document = *std::move(opened);
+        document = m_opened->Document.get();
     }
-    if (m_opened->Document == nullptr) {
+    if (document == nullptr) {
         return {cPreview::eState::Damaged, {}, 0, 1};
     }
-    if (m_opened->Document->isLocked()) {
+    if (document->IsLocked()) {
         return {cPreview::eState::Locked, {}, 0, 1};
     }
-    const int pages = m_opened->Document->numPages();
+    const int pages = document->Pages();
     const int number = std::clamp(wish.Page, 0, std::max(0, pages - 1));
-    const std::unique_ptr<Poppler::Page> page = m_opened->Document->page(number);
-    const QSizeF size = page == nullptr ? QSizeF() : page->pageSizeF();
+    const QSizeF size = document->SizeOf(number);
     if (size.width() < 1 || size.height() < 1) {
         return {cPreview::eState::Damaged, {}, number, std::max(1, pages)};
     }
     constexpr double pointsPerInch = 72;
     const double dots = Fitting(size, wish.Size).width() / size.width() * pointsPerInch;
-    QImage image = page->renderToImage(dots, dots, -1, -1, -1, -1, Poppler::Page::Rotate0, nullptr, nullptr, IsStale,
-                                       QVariant::fromValue(static_cast<void*>(&m_isStale)));
+    QImage image = document->Paint(number, dots, m_isStale);
     const auto state = image.isNull() ? cPreview::eState::Damaged : cPreview::eState::Shown;
     return {state, std::move(image), number, pages};
 }
