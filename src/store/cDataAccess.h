@@ -4,6 +4,7 @@
 #include "model/cEntryItem.h"
 #include "model/cEntryItemFixMod.h"
 #include "model/cEntryQuery.h"
+#include "model/cEntryWindow.h"
 #include "model/cFaultyEntry.h"
 #include "model/cImportEntry.h"
 #include "model/cOnlineAccount.h"
@@ -16,6 +17,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -67,9 +69,14 @@ public:
     [[nodiscard]] cEntryItemList GetSeries();
     // The categories of the entries between two IDs, both included, by ID.
     [[nodiscard]] QHash<int, QString> GetEntryCategories(int firstId, int lastId);
+    // Of these the ones with an interval.
+    [[nodiscard]] cEntryItemList GetSeriesOfAccount(const QString& account);
     // Sums of what GetEntries would return, without building the records of one-off entries. `withStartBalance` false
     // leaves out the category of start balances.
     [[nodiscard]] QList<cAccountSum> GetSums(const cEntryQuery& query, bool withStartBalance);
+    // The entries of these days, both valid, and the sums of all earlier ones, in one pass through the table. The sums
+    // up to `balanceDay`, one of the days, are kept: GetSums gives them without reading while nothing is written.
+    [[nodiscard]] cEntryWindow GetWindow(const modPeriod::cRange& days, QDate balanceDay);
     [[nodiscard]] int CountEntries();
     [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
@@ -184,10 +191,21 @@ private:
     bool Read(const char* name, const std::function<void()>& operation);
     bool Look(const char* name, const std::function<void()>& operation);
 
+    // Sums of all entries up to a day, as long as the book is as it was when they were made.
+    struct cKnownSums
+    {
+        QDate End;
+        QList<cAccountSum> Sums;      // without start balances
+        QList<cAccountSum> StartSums; // of these alone
+        std::array<qint64, 3> Mark;   // of the database
+    };
+    [[nodiscard]] std::optional<QList<cAccountSum>> KnownSums(const cEntryQuery& query, bool withStartBalance);
+
     cDatabase& m_database;
     cUser& m_user;
     cJournal m_journal;
     fnFollow m_follow;
     QList<cCleanedName> m_cleaned; // in the open step
-    QSet<QString> m_unread;        // reading operations that failed the last time
+    std::optional<cKnownSums> m_knownSums;
+    QSet<QString> m_unread; // reading operations that failed the last time
 };

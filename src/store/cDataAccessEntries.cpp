@@ -194,6 +194,18 @@ QHash<int, QString> cDataAccess::GetEntryCategories(int firstId, int lastId)
     return categories;
 }
 
+cEntryItemList cDataAccess::GetSeriesOfAccount(const QString& account)
+{
+    cEntryItemList entries;
+    Read("GetEntriesOfAccount", [&] {
+        const QString stored = modRow::Doubled(account);
+        entries =
+            ReadEntries(m_database, " WHERE EntryInterval <> 'Einmalig' AND (EntryAccount = ? OR EntryAccountMove = ?)",
+                        {stored, stored});
+    });
+    return entries;
+}
+
 int cDataAccess::CountEntries()
 {
     int count = 0;

@@ -6,6 +6,7 @@
 #include "store/modRow.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <unordered_map>
 
@@ -118,7 +119,8 @@ QHash<int, cEntryItemFixModList> ReadFixMods(cDatabase& database)
 bool IsOutsidePeriod(const cEntryItem& entry, const cEntryQuery& query)
 {
     const bool isOutside = (query.Start.isValid() && entry.EntryDate < query.Start)
-        || (query.End.isValid() && entry.EntryDate > query.End);
+        || (query.End.isValid() && entry.EntryDate > query.End)
+        || (query.Start.isValid() && modRecurrence::EffectiveEnd(entry.EntryDateEnd) < query.Start);
     return isOutside && !modRecurrence::IsRecurring(entry.EntryInterval);
 }
 
@@ -143,54 +145,74 @@ void SortByDate(cEntryItemList& entries)
     entries = std::move(sorted);
 }
 
-enum class eDay { Inside, Outside, Unclear };
+enum class eDay { Before, Inside, After, Unclear };
 
-// Where a stored day lies. SQLite's date() would take most of the time of a scan, and for a plain day it says nothing
+// Where stored days lie. SQLite's date() would take most of the time of a scan, and for a plain day it says nothing
 // new. Unclear: the text is something else, and only SQLite knows what.
-eDay Place(std::string_view bytes, const cEntryQuery& query)
+class cDayRange
 {
-    constexpr size_t plainDay = 10; // "yyyy-mm-dd"
-    const QDate day = bytes.size() == plainDay ? modRow::ReadDate(bytes) : QDate();
-    if (!day.isValid()) {
-        return eDay::Unclear;
+public:
+    cDayRange(QDate first, QDate last)
+        : m_first(first.isValid() ? modDate::ToIso(first).toStdString() : std::string()),
+          m_last(last.isValid() ? modDate::ToIso(last).toStdString() : std::string())
+    {
     }
-    const bool isBefore = query.Start.isValid() && day < query.Start;
-    const bool isAfter = query.End.isValid() && day > query.End;
-    return isBefore || isAfter ? eDay::Outside : eDay::Inside;
-}
 
-// Rows that are certain to lie outside the period do not even leave SQLite: of a month in a large book these are nearly
-// all. The text of a plain day can be compared as it is. Newer versions of SQLite count days that a month does not have
-// ("2026-02-31") on into the next one, so the period begins some days earlier here; the reader looks closely at what
-// is left.
-void AddNearness(cCondition& where, const cEntryQuery& query)
-{
-    constexpr int overflow = 3;
-    if (query.Start.isValid() || query.End.isValid()) {
-        const QString first = modDate::ToIso(query.Start.addDays(-overflow)); // empty without one, which is before all
-        const QString last = modDate::ToIso(query.End);
-        where.Add(" AND (EntryDate BETWEEN ? AND ? OR EntryDate NOT LIKE '____-__-__')",
-                  {first, last.isEmpty() ? u"9999-99"_s : last});
+    // Plain days are in the order of their letters.
+    [[nodiscard]] eDay Place(std::string_view bytes) const
+    {
+        if (!IsPlain(bytes)) {
+            return eDay::Unclear;
+        }
+        if (!m_first.empty() && bytes < m_first) {
+            return eDay::Before;
+        }
+        return !m_last.empty() && bytes > m_last ? eDay::After : eDay::Inside;
     }
-}
+
+private:
+    // A day "yyyy-mm-dd" of the calendar. The last days of a month are looked up, all others are in every month.
+    static bool IsPlain(std::string_view bytes)
+    {
+        constexpr std::string_view form = "0000-00-00";
+        constexpr std::string_view always = "28";
+        if (bytes.size() != form.size()) {
+            return false;
+        }
+        for (size_t i = 0; i < form.size(); ++i) {
+            const bool isDigit = bytes[i] >= '0' && bytes[i] <= '9';
+            if (form[i] == '0' ? !isDigit : bytes[i] != form[i]) {
+                return false;
+            }
+        }
+        const std::string_view month = bytes.substr(5, 2);
+        const std::string_view day = bytes.substr(8);
+        const bool isEasy =
+            bytes.substr(0, 4) > "0000" && month >= "01" && month <= "12" && day >= "01" && day <= always;
+        return isEasy || modRow::ReadDate(bytes).isValid();
+    }
+
+    std::string m_first; // empty: open
+    std::string m_last;
+};
 
 // Reads rows as they lie in the table. False when one of the days is unclear.
 bool ReadUnordered(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
 {
     cCondition where = ConditionOf(query, eRepetition::Once, eDays::ByReader);
-    AddNearness(where, query);
+    where.Add(" AND Taken(EntryDate)");
+    const cDayRange days(query.Start, query.End);
+    bool isClear = true;
     cEntryReader reader;
-    cRows rows(database, cEntryReader::Select + where.Sql, where.Values);
-    while (rows.Next()) {
-        const eDay day = Place(rows.Bytes(1), query);
-        if (day == eDay::Unclear) {
-            return false;
-        }
-        if (day == eDay::Inside) {
-            entries.append(reader.Read(rows));
-        }
+    cRows rows(database, cEntryReader::Select + where.Sql, where.Values, [&](const auto& values) {
+        const eDay day = days.Place(values[0]);
+        isClear = isClear && day != eDay::Unclear;
+        return !isClear || day == eDay::Inside;
+    });
+    while (rows.Next() && isClear) {
+        entries.append(reader.Read(rows));
     }
-    return true;
+    return isClear;
 }
 
 void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
@@ -209,25 +231,39 @@ void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& e
     }
 }
 
+// Makes occurrences of series, with the corrections of the book.
+class cSeriesExpander
+{
+public:
+    explicit cSeriesExpander(cDatabase& database) : m_database(database) {}
+
+    void Expand(const cEntryItem& entry, const cEntryQuery& query, cEntryItemList& entries)
+    {
+        if (IsOutsidePeriod(entry, query)) {
+            return;
+        }
+        if (!m_fixMods) {
+            m_fixMods = ReadFixMods(m_database);
+        }
+        modRecurrence::Expand(entry, {query.Start, query.End}, m_fixMods->value(entry.ID), entries);
+    }
+
+private:
+    cDatabase& m_database;
+    std::optional<QHash<int, cEntryItemFixModList>> m_fixMods;
+};
+
 // Adds the occurrences of each series to `entries` and calls `seriesDone` after each. Who only sums them up empties the
 // list there: those of a daily series without end are thousands.
 template <typename tDone>
 void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries, tDone seriesDone)
 {
     const cCondition where = ConditionOf(query, eRepetition::Recurring);
-    const modPeriod::cRange period{query.Start, query.End};
-    std::optional<QHash<int, cEntryItemFixModList>> fixMods;
+    cSeriesExpander expander(database);
     cEntryReader reader;
     cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
     while (rows.Next()) {
-        const cEntryItem entry = reader.Read(rows);
-        if (IsOutsidePeriod(entry, query)) {
-            continue;
-        }
-        if (!fixMods) {
-            fixMods = ReadFixMods(database);
-        }
-        modRecurrence::Expand(entry, period, fixMods->value(entry.ID), entries);
+        expander.Expand(reader.Read(rows), query, entries);
         seriesDone();
     }
 }
@@ -243,6 +279,30 @@ public:
             m_last = Find(type, account, move);
         }
         m_sums[m_last].Cents += cents;
+    }
+
+    void Add(const cEntryItem& entry, qint64 cents)
+    {
+        Add(entry.EntryType.toStdString(), modRow::Doubled(entry.EntryAccount).toStdString(),
+            modRow::Doubled(entry.EntryAccountMove).toStdString(), cents);
+    }
+
+    // Occurrences of one series, which share everything but day and amount.
+    void AddSeries(const cEntryItemList& occurrences)
+    {
+        qint64 cents = 0;
+        for (const cEntryItem& item : occurrences) {
+            cents += item.EntryValue;
+        }
+        if (!occurrences.isEmpty()) {
+            Add(occurrences.first(), cents);
+        }
+    }
+
+    // The values of EntryType, EntryAccount, EntryAccountMove and EntryValue.
+    void Add(std::span<const std::string_view> stored)
+    {
+        Add(stored[0], stored[1], stored[2], modRow::ReadCents(stored[3]).value_or(0));
     }
 
     [[nodiscard]] QList<cAccountSum> Take() const
@@ -286,6 +346,8 @@ private:
     size_t m_last = 0;
 };
 
+const std::string takenSums = "Taken(EntryDate, EntryType, EntryAccount, EntryAccountMove, EntryValue, EntryCategory)";
+
 // False when one of the days is unclear; only possible while the reader looks at them.
 bool SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBalance, eDays days, cSums& sums)
 {
@@ -293,38 +355,71 @@ bool SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBala
     if (!withStartBalance) {
         where.Add(" AND IFNULL(EntryCategory, '') <> ?", {modWord::Startguthaben});
     }
-    cRows rows(database,
-               "SELECT EntryDate, EntryType, EntryAccount, EntryAccountMove, EntryValue FROM data" + where.Sql,
-               where.Values);
-    while (rows.Next()) {
-        const eDay day = days == eDays::ByStatement ? eDay::Inside : Place(rows.Bytes(0), query);
-        if (day == eDay::Unclear) {
-            return false;
-        }
+    const cDayRange range(query.Start, query.End);
+    bool isClear = true;
+    cRows rows(database, "SELECT 1 FROM data" + where.Sql + " AND " + takenSums, where.Values, [&](const auto& values) {
+        const eDay day = days == eDays::ByStatement ? eDay::Inside : range.Place(values[0]);
+        isClear = isClear && day != eDay::Unclear;
         if (day == eDay::Inside) {
-            sums.Add(rows.Bytes(1), rows.Bytes(2), rows.Bytes(3), modRow::ReadCents(rows.Bytes(4)).value_or(0));
+            sums.Add(values.subspan(1));
         }
-    }
-    return true;
+        return false;
+    });
+    (void)rows.Next();
+    return isClear;
 }
 
 void SumRecurring(cDatabase& database, const cEntryQuery& query, bool withStartBalance, cSums& sums)
 {
     cEntryItemList occurrences;
     ReadRecurring(database, query, occurrences, [&] {
-        // All of them share everything but day and amount.
-        qint64 cents = 0;
-        for (const cEntryItem& item : std::as_const(occurrences)) {
-            cents += item.EntryValue;
-        }
         if (!occurrences.isEmpty()
             && (withStartBalance || occurrences.first().EntryCategory != modWord::Startguthaben)) {
-            const cEntryItem& item = occurrences.first();
-            sums.Add(item.EntryType.toStdString(), modRow::Doubled(item.EntryAccount).toStdString(),
-                     modRow::Doubled(item.EntryAccountMove).toStdString(), cents);
+            sums.AddSeries(occurrences);
         }
         occurrences.clear();
     });
+}
+
+// What a window is made of: one-off entries of its days, all series, sums of the one-off entries before.
+struct cWindowRows
+{
+    cEntryItemList Single;
+    cEntryItemList Series;
+    cSums Before;
+    cSums StartBefore; // of start balances, which are not among the others
+};
+
+bool IsStart(const cEntryItem& entry)
+{
+    return entry.EntryCategory == modWord::Startguthaben;
+}
+
+// False when one of the days is unclear.
+bool ReadWindowRows(cDatabase& database, const modPeriod::cRange& range, cWindowRows& window)
+{
+    const cDayRange days(range.Start, range.End);
+    const std::string start = modWord::Startguthaben.toStdString();
+    bool isClear = true;
+    cEntryReader reader;
+    cRows rows(database,
+               cEntryReader::Select + std::string(" WHERE CASE WHEN EntryInterval = 'Einmalig' THEN ") + takenSums
+                   + " ELSE EntryInterval <> 'Einmalig' END",
+               {}, [&](const auto& values) {
+                   const eDay day = days.Place(values[0]);
+                   isClear = isClear && day != eDay::Unclear;
+                   if (day == eDay::Before) {
+                       (values.back() == start ? window.StartBefore : window.Before).Add(values.subspan(1));
+                   }
+                   return day == eDay::Inside;
+               });
+    while (rows.Next()) {
+        cEntryItem entry = reader.Read(rows);
+        (entry.EntryInterval == modWord::Einmalig ? window.Single : window.Series).append(std::move(entry));
+    }
+    SortByDate(window.Single);
+    SortByDate(window.Series);
+    return isClear;
 }
 
 } // namespace
@@ -346,6 +441,9 @@ cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
 QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStartBalance)
 {
     cSums sums;
+    if (const auto known = KnownSums(query, withStartBalance)) {
+        return *known;
+    }
     const bool isRead = Read("GetSums", [&] {
         if (query.Kind != eBookingKind::Fix && !SumSingle(m_database, query, withStartBalance, eDays::ByReader, sums)) {
             sums = {};
@@ -356,4 +454,66 @@ QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStart
         }
     });
     return isRead ? sums.Take() : QList<cAccountSum>{};
+}
+
+cEntryWindow cDataAccess::GetWindow(const modPeriod::cRange& days, QDate balanceDay)
+{
+    cEntryWindow window{days, {}, {}, {}};
+    cEntryQuery within;
+    within.Start = days.Start;
+    within.End = days.End;
+    cEntryQuery before;
+    before.End = days.Start.addDays(-1);
+    bool isClear = false;
+    // Under that name, so that the next list that can be read lifts the refusal of writes after a failure.
+    const bool isRead = Read("GetEntries", [&] {
+        const cDatabase::cChangeMark mark = m_database.ChangeMark(); // before, in case another program writes meanwhile
+        cWindowRows rows;
+        isClear = ReadWindowRows(m_database, days, rows);
+        cSeriesExpander expander(m_database);
+        for (const cEntryItem& series : std::as_const(rows.Series)) {
+            cEntryItemList earlier;
+            expander.Expand(series, before, earlier);
+            (IsStart(series) ? rows.StartBefore : rows.Before).AddSeries(earlier);
+            expander.Expand(series, within, rows.Single);
+        }
+        window.Entries = std::move(rows.Single);
+        window.Series = std::move(rows.Series);
+        window.Before = rows.Before.Take() + rows.StartBefore.Take();
+        if (isClear && !m_database.IsGathering()) { // what is gathered may be taken back
+            for (const cEntryItem& entry : std::as_const(window.Entries)) {
+                if (entry.EntryDate <= balanceDay) {
+                    (IsStart(entry) ? rows.StartBefore : rows.Before).Add(entry, entry.EntryValue);
+                }
+            }
+            m_knownSums = {balanceDay, rows.Before.Take(), rows.StartBefore.Take(), mark};
+        }
+    });
+    if (!isRead) {
+        return {days, {}, {}, {}};
+    }
+    if (!isClear) {
+        window.Entries = GetEntries(within);
+        window.Before = GetSums(before, true);
+    }
+    return window;
+}
+
+// None when they would have to be read.
+std::optional<QList<cAccountSum>> cDataAccess::KnownSums(const cEntryQuery& query, bool withStartBalance)
+{
+    const bool isOfAll = !query.Start.isValid() && query.Type.isEmpty() && query.Account.isEmpty()
+        && query.Category.isEmpty() && query.Kind == eBookingKind::All;
+    if (!m_knownSums || !isOfAll || query.End != m_knownSums->End || m_database.IsGathering()) {
+        return std::nullopt;
+    }
+    const bool isLooked = Look("GetSums", [&] {
+        if (m_database.ChangeMark() != m_knownSums->Mark) {
+            m_knownSums.reset();
+        }
+    });
+    if (!isLooked || !m_knownSums) {
+        return std::nullopt;
+    }
+    return withStartBalance ? m_knownSums->Sums + m_knownSums->StartSums : m_knownSums->Sums;
 }

@@ -4,6 +4,7 @@
 #include "store/modSyncVfs.h"
 
 #include <QFile>
+#include <QScopedValueRollback>
 
 // The driver's header leaves them out otherwise; Debian's library has them.
 #define SQLITE_ENABLE_PREUPDATE_HOOK // NOLINT(cppcoreguidelines-macro-usage)
@@ -15,6 +16,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <unordered_map>
 #include <utility>
@@ -37,6 +39,7 @@ struct cDatabase::cConnection
     SQLite::Database Handle;
     const std::function<void()>& TellDamage; // of the database object
     bool IsDamaged = false;
+    const cRowFilter* Filter = nullptr; // of the query that makes a step
     // Prepared statements that nobody is using at the moment, by their text
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> Idle;
 };
@@ -48,6 +51,7 @@ struct cRows::cState
     std::unique_ptr<SQLite::Statement> Statement{};
     // Made once per query: they always read the current row, and making them is dearer than reading
     std::vector<SQLite::Column> Columns{};
+    cRowFilter Filter{};
 };
 
 namespace {
@@ -117,6 +121,29 @@ void Guard(const SQLite::Database& connection)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longestValue);
+}
+
+constexpr int mostFiltered = 8; // values that a filter looks at
+
+// What Taken is in a statement.
+void Take(sqlite3_context* context, int count, sqlite3_value** values)
+{
+    const cRowFilter* filter = *static_cast<const cRowFilter* const*>(sqlite3_user_data(context));
+    std::array<std::string_view, mostFiltered> bytes;
+    const int used = std::min(count, mostFiltered);
+    for (int i = 0; i < used; ++i) {
+        const unsigned char* text = sqlite3_value_text(values[i]);
+        bytes[static_cast<size_t>(i)] = {reinterpret_cast<const char*>(text), // the driver's texts are unsigned
+                                         static_cast<size_t>(sqlite3_value_bytes(values[i]))};
+    }
+    const bool isTaken = filter == nullptr || !*filter || (*filter)(std::span(bytes).first(static_cast<size_t>(used)));
+    sqlite3_result_int(context, isTaken ? 1 : 0);
+}
+
+// Only for statements of the program: nothing that a schema says may call it.
+void AddFilter(sqlite3* handle, const cRowFilter** active)
+{
+    sqlite3_create_function(handle, "Taken", -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, active, &Take, nullptr, nullptr);
 }
 
 // Makes an empty file that only its owner can read, through no link and in the place of nothing.
@@ -224,6 +251,8 @@ void cDatabase::Open(const QString& path, eOpenMode mode)
     m_connection =
         Translate([&] { return std::make_unique<cConnection>(path, FlagsOf(mode), m_busyTimeout, m_damageWatcher); });
     Guard(m_connection->Handle);
+    AddFilter(m_connection->Handle.getHandle(), &m_connection->Filter);
+    ++m_opened;
     m_path = path;
     m_isReadOnly = mode == eOpenMode::ReadOnly || sqlite3_db_readonly(m_connection->Handle.getHandle(), "main") == 1;
     InstallWatcher();
@@ -428,6 +457,13 @@ quint64 cDatabase::ImportVersion()
     return m_importVersion;
 }
 
+cDatabase::cChangeMark cDatabase::ChangeMark()
+{
+    cRows rows(*this, "PRAGMA data_version");
+    const qint64 others = rows.Next() ? rows.Integer(0) : 0;
+    return {m_opened, sqlite3_total_changes64(Connection().Handle.getHandle()), others};
+}
+
 cDatabase::cConnection& cDatabase::Connection() const
 {
     if (!m_connection) {
@@ -436,9 +472,10 @@ cDatabase::cConnection& cDatabase::Connection() const
     return *m_connection;
 }
 
-cRows::cRows(cDatabase& database, const std::string& sql, const cBoundList& values)
+cRows::cRows(cDatabase& database, const std::string& sql, const cBoundList& values, cRowFilter filter)
     : m_state(new cState{database.Connection(), sql})
 {
+    m_state->Filter = std::move(filter);
     auto& idle = m_state->Connection.Idle;
     if (const auto found = idle.find(sql); found != idle.end()) {
         m_state->Statement = std::move(found->second);
@@ -470,6 +507,7 @@ cRows::~cRows()
 
 bool cRows::Next()
 {
+    const QScopedValueRollback<const cRowFilter*> filter(m_state->Connection.Filter, &m_state->Filter);
     return TranslateOf(m_state->Connection, [&] {
         const bool hasRow = m_state->Statement->executeStep();
         if (hasRow && m_state->Columns.empty()) {

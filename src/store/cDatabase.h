@@ -5,9 +5,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -46,6 +48,10 @@ struct cStoredBytes
 // Values for the "?" of a statement, in their order; the last alternative is NULL.
 using cBound = std::variant<qint64, double, QString, cStoredBytes, std::monostate>;
 using cBoundList = std::vector<cBound>;
+
+// Looks at values of a row while a statement reads it; false passes the row over. It must not throw and must not use
+// the database. The values live as long as the call.
+using cRowFilter = std::function<bool(std::span<const std::string_view>)>;
 
 // A row that is about to be added, changed or removed. It lives as long as the call that hands it over.
 class cRowBefore
@@ -141,6 +147,10 @@ public:
     [[nodiscard]] quint64 ImportVersion();
     [[nodiscard]] quint64 KnownImportVersion() const noexcept { return m_importVersion; } // does not ask the file
 
+    // Equal marks: the book holds the same as before. Worth nothing while writes are gathered, which may be taken back.
+    using cChangeMark = std::array<qint64, 3>;
+    [[nodiscard]] cChangeMark ChangeMark();
+
 private:
     friend class cRows;
     struct cConnection;
@@ -160,6 +170,7 @@ private:
     bool m_hasBegun = false; // the transaction of what is gathered
     QElapsedTimer m_sinceBegin;
     quint64 m_importVersion = 0;
+    qint64 m_opened = 0;      // files so far
     qint64 m_dataVersion = 0; // last one seen of other connections
 };
 
@@ -167,7 +178,8 @@ private:
 class cRows
 {
 public:
-    cRows(cDatabase& database, const std::string& sql, const cBoundList& values = {});
+    // The statement asks `filter` by Taken(column, …). To be passed over costs a row a third of being handed over.
+    cRows(cDatabase& database, const std::string& sql, const cBoundList& values = {}, cRowFilter filter = {});
     cRows(const cRows&) = delete;
     cRows& operator=(const cRows&) = delete;
     ~cRows();

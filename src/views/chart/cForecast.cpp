@@ -20,6 +20,24 @@ QDate FirstDay(const cEntryItemList& entries, QDate latest)
     return first;
 }
 
+// Only what lies within the days.
+modForecast::cInput InputOf(const modPeriod::cRange& range, const cEntryWindow& window)
+{
+    QList<cAccountSum> before = window.Before;
+    modForecast::cInput input;
+    input.First = range.Start;
+    input.Last = range.End;
+    for (const cEntryItem& entry : window.Entries) {
+        if (entry.EntryDate < range.Start) {
+            before.append({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, entry.EntryValue});
+        } else if (entry.EntryDate <= range.End) {
+            input.Entries.append(entry);
+        }
+    }
+    input.Opening = modBalance::ByAccount(before);
+    return input;
+}
+
 } // namespace
 
 QHash<QString, qint64> cForecast::BalancesBefore(QDate day)
@@ -69,26 +87,44 @@ cBalanceDays cForecast::Ahead(int months, eAverage average)
     return Days({m_today, m_today.addMonths(months)}, average);
 }
 
-QList<cLimitWarning> cForecast::Warnings()
+cBalanceDays cForecast::Days(const modPeriod::cRange& range, const cEntryWindow& window)
+{
+    modForecast::cInput input = InputOf(range, window);
+    input.Accounts = modTemplate::AccountNames(m_data.GetAccounts());
+    return modForecast::Days(input);
+}
+
+cTemplateItemList cForecast::LimitedAccounts()
 {
     cTemplateItemList accounts = modTemplate::InOrder(m_data.GetAccounts());
     accounts.removeIf(
         [](const cTemplateItem& account) { return !modTemplate::IsVisible(account) || !modForecast::Limit(account); });
+    return accounts;
+}
+
+QList<cLimitWarning> cForecast::Warnings()
+{
+    const cTemplateItemList accounts = LimitedAccounts();
+    return accounts.isEmpty()
+        ? QList<cLimitWarning>()
+        : WarningsOf(accounts, m_data.GetWindow({m_today, m_today.addDays(WarningDays)}, m_today));
+}
+
+QList<cLimitWarning> cForecast::Warnings(const cEntryWindow& window)
+{
+    return WarningsOf(LimitedAccounts(), window);
+}
+
+QList<cLimitWarning> cForecast::WarningsOf(const cTemplateItemList& accounts, const cEntryWindow& window)
+{
     if (accounts.isEmpty()) {
         return {};
     }
-    modForecast::cInput input;
-    input.First = m_today;
-    input.Last = m_today.addDays(WarningDays);
-    cEntryQuery query;
-    query.Start = input.First;
-    query.End = input.Last;
-    input.Opening = BalancesBefore(input.First);
-    input.Entries = m_data.GetEntries(query);
+    modForecast::cInput input = InputOf({m_today, m_today.addDays(WarningDays)}, window);
     input.Accounts = modTemplate::AccountNames(accounts);
     const cBalanceDays days = modForecast::Days(input);
     QList<cLimitWarning> warnings;
-    for (const cTemplateItem& account : std::as_const(accounts)) {
+    for (const cTemplateItem& account : accounts) {
         const auto warning =
             modForecast::Below(days, account.TemplateName, *modForecast::Limit(account), input.Entries, m_today);
         if (warning) {

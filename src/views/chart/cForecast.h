@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/cEntryWindow.h"
 #include "model/cTemplateItem.h"
 #include "model/modPeriod.h"
 #include "views/list/cBalanceDays.h"
@@ -28,12 +29,16 @@ public:
     // or today.
     [[nodiscard]] cBalanceDays Days(const modPeriod::cRange& range, eAverage average);
 
+    // The same without an average, of a window that holds the range.
+    [[nodiscard]] cBalanceDays Days(const modPeriod::cRange& range, const cEntryWindow& window);
+
     // From today up to the end of a number of months.
     [[nodiscard]] cBalanceDays Ahead(int months, eAverage average);
 
     // The accounts that fall below their own limits within 60 days, in the order of the accounts. What is spent once on
     // average does not count: a warning names the entry that is the reason. Reads nothing when no account has a limit.
     [[nodiscard]] QList<cLimitWarning> Warnings();
+    [[nodiscard]] QList<cLimitWarning> Warnings(const cEntryWindow& window); // that reaches from today that far ahead
 
     // A warning as a sentence.
     [[nodiscard]] static QString Text(const cLimitWarning& warning, const cAmountFormat& format);
@@ -41,6 +46,8 @@ public:
 private:
     [[nodiscard]] QHash<QString, qint64> BalancesBefore(QDate day);
     void AddAverage(cBalanceDays& days);
+    [[nodiscard]] cTemplateItemList LimitedAccounts();
+    [[nodiscard]] QList<cLimitWarning> WarningsOf(const cTemplateItemList& accounts, const cEntryWindow& window);
 
     cDataAccess& m_data;
     QDate m_today;

@@ -9,6 +9,8 @@
 #include "store/cDataAccess.h"
 #include "views/entry/modEntryFields.h"
 
+#include <algorithm>
+
 // Every series that goes on has an occurrence within a year; one that was changed from a later day on begins then.
 cEntryItemList cContracts::Ahead(int days) const
 {
@@ -18,6 +20,13 @@ cEntryItemList cContracts::Ahead(int days) const
     query.End = today.addYears(2);
     query.Kind = eBookingKind::Fix;
     return modContract::Ahead(m_tools.Data.GetEntries(query), today, days);
+}
+
+cEntryItemList cContracts::Ahead(int days, const cEntryWindow& window) const
+{
+    const bool hasAny = std::any_of(window.Series.begin(), window.Series.end(),
+                                    [](const cEntryItem& series) { return modContract::CancelBy(series).isValid(); });
+    return hasAny ? Ahead(days) : cEntryItemList();
 }
 
 QStringList cContracts::Lines() const

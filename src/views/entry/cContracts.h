@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "model/cEntryWindow.h"
 
 #include <QList>
 #include <QString>
@@ -16,6 +17,7 @@ public:
 
     // Those that can be cancelled for so many days at most, today included, by that day.
     [[nodiscard]] cEntryItemList Ahead(int days) const;
+    [[nodiscard]] cEntryItemList Ahead(int days, const cEntryWindow& window) const; // reads only where there are any
     // Each of those of the next weeks as a sentence.
     [[nodiscard]] QStringList Lines() const;
 

@@ -42,21 +42,23 @@ cOverviewBook cOverviewBook::Read(const cBookTools& tools)
 {
     cOverviewBook book;
     book.Today = tools.Clock.Today();
+    // One pass through the table for everything on the page.
+    const QDate ahead = book.Today.addDays(std::max(AheadDays, cForecast::WarningDays));
+    const modPeriod::cRange read{modOverview::FirstDay(book.Today),
+                                 std::max({modPeriod::Month(book.Today, 0).End, book.Today.addDays(DueDays), ahead})};
+    const cEntryWindow window = tools.Data.GetWindow(read, book.Today);
+    const cEntryItemList& entries = window.Entries;
     cForecast forecast(tools.Data, book.Today);
-    book.Balances = forecast.Days({book.Today, book.Today.addDays(AheadDays)}, cForecast::eAverage::Without);
-    book.Warnings = forecast.Warnings();
+    book.Balances = forecast.Days({book.Today, book.Today.addDays(AheadDays)}, window);
+    book.Warnings = forecast.Warnings(window);
     book.Templates = tools.Data.GetTemplates();
-    cEntryQuery query;
-    query.Start = modOverview::FirstDay(book.Today);
-    query.End = std::max(modPeriod::Month(book.Today, 0).End, book.Today.addDays(DueDays));
-    const cEntryItemList entries = tools.Data.GetEntries(query);
     book.HasEntries = std::any_of(entries.begin(), entries.end(),
                                   [](const cEntryItem& entry) { return entry.EntryCategory != modWord::Startguthaben; })
         || tools.Data.CountEntries() > tools.Data.CountEntriesOfCategory(modWord::Startguthaben);
     book.Month = modOverview::Month(entries, book.Today);
     book.Changes = modOverview::Changes(entries, book.Today, mostChanges);
     book.Due = modOverview::Due(entries, book.Today, DueDays);
-    book.Contracts = cContracts(tools).Ahead(modContract::NoticeDays);
+    book.Contracts = cContracts(tools).Ahead(modContract::NoticeDays, window);
     book.Limits = LimitsOf(entries, book.Templates, tools);
     book.Looks = cCategoryLooks::Read(tools.Data);
     book.IsUnread = !tools.Data.IsWhole();

@@ -10,21 +10,23 @@
 #include "views/chart/cForecast.h"
 #include "views/entry/cContracts.h"
 #include "views/entry/modEntryFields.h"
-#include "views/overview/cDueItems.h"
 #include "views/overview/cOverviewTasks.h"
+#include "views/overview/modOverview.h"
 
 QList<cReminder> cReminders::Quick() const
 {
     QList<cReminder> reminders;
-    AddDue(reminders);
-    AddLimits(reminders);
-    AddContracts(reminders);
+    const QDate today = m_tools.Clock.Today();
+    const cEntryWindow window = m_tools.Data.GetWindow({today, today.addDays(cForecast::WarningDays)}, today);
+    AddDue(reminders, window);
+    AddLimits(reminders, window);
+    AddContracts(reminders, window);
     return m_tools.Data.IsWhole() ? reminders : QList<cReminder>(); // a part would tell the wrong things
 }
 
-void cReminders::AddDue(QList<cReminder>& reminders) const
+void cReminders::AddDue(QList<cReminder>& reminders, const cEntryWindow& window) const
 {
-    const cEntryItemList due = cDueItems(m_tools).Within(1);
+    const cEntryItemList due = modOverview::Due(window.Entries, window.Days.Start, 1);
     if (due.size() == 1) {
         const cEntryItem& item = due.first();
         reminders.append(
@@ -35,9 +37,9 @@ void cReminders::AddDue(QList<cReminder>& reminders) const
     }
 }
 
-void cReminders::AddLimits(QList<cReminder>& reminders) const
+void cReminders::AddLimits(QList<cReminder>& reminders, const cEntryWindow& window) const
 {
-    const QList<cLimitWarning> warnings = cForecast(m_tools.Data, m_tools.Clock.Today()).Warnings();
+    const QList<cLimitWarning> warnings = cForecast(m_tools.Data, window.Days.Start).Warnings(window);
     for (const cLimitWarning& warning : warnings) {
         const QString limit = m_tools.Format.Cents(warning.Limit);
         const bool isBelow = warning.Entry.ID == 0;
@@ -48,9 +50,9 @@ void cReminders::AddLimits(QList<cReminder>& reminders) const
     }
 }
 
-void cReminders::AddContracts(QList<cReminder>& reminders) const
+void cReminders::AddContracts(QList<cReminder>& reminders, const cEntryWindow& window) const
 {
-    const cEntryItemList contracts = cContracts(m_tools).Ahead(modContract::NoticeDays);
+    const cEntryItemList contracts = cContracts(m_tools).Ahead(modContract::NoticeDays, window);
     for (const cEntryItem& contract : contracts) {
         reminders.append({cText::Tr("{0} kündbar bis {1}",
                                     {modEntryFields::Name(contract), modDate::ToText(modContract::CancelBy(contract))}),

@@ -5,6 +5,7 @@
 #include <QString>
 
 struct cBookTools;
+struct cEntryWindow;
 
 // One thing that whoever opens the book should know today.
 struct cReminder
@@ -32,9 +33,9 @@ public:
     [[nodiscard]] static QString Line(const QList<cReminder>& reminders);
 
 private:
-    void AddDue(QList<cReminder>& reminders) const;
-    void AddLimits(QList<cReminder>& reminders) const;
-    void AddContracts(QList<cReminder>& reminders) const;
+    void AddDue(QList<cReminder>& reminders, const cEntryWindow& window) const;
+    void AddLimits(QList<cReminder>& reminders, const cEntryWindow& window) const;
+    void AddContracts(QList<cReminder>& reminders, const cEntryWindow& window) const;
 
     const cBookTools& m_tools;
 };

@@ -60,20 +60,24 @@ cSeriesCheck::cSeriesCheck(const cBookTools& tools, cImportHiveCache& hive, cons
 {
 }
 
+// There are many rows and few numbers.
+QString cSeriesCheck::AccountOf(const QString& number)
+{
+    const auto known = m_names.constFind(number);
+    return known != m_names.constEnd() ? *known : *m_names.insert(number, m_accounts.AccountOf(number));
+}
+
 QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
 {
-    QHash<QString, QString> names; // by number
+    m_names.clear();
     QHash<QString, cAccountRows> accounts;
     const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
     for (const cImportEntry& row : rows) {
-        auto name = names.find(row.ImportAccount);
-        if (name == names.end()) {
-            name = names.insert(row.ImportAccount, m_accounts.AccountOf(row.ImportAccount));
-        }
-        if (name->isEmpty() || !row.ImportDate.isValid()) {
+        const QString name = AccountOf(row.ImportAccount);
+        if (name.isEmpty() || !row.ImportDate.isValid()) {
             continue;
         }
-        cAccountRows& account = accounts[*name];
+        cAccountRows& account = accounts[name];
         modPeriod::cRange& covered = account.Covered;
         covered.Start = covered.Start.isValid() ? std::min(covered.Start, row.ImportDate) : row.ImportDate;
         covered.End = covered.End.isValid() ? std::max(covered.End, row.ImportDate) : row.ImportDate;
@@ -82,7 +86,7 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
         }
     }
     const cBankBalances balances(m_tools.Settings);
-    for (auto name = names.cbegin(); name != names.cend(); ++name) {
+    for (auto name = m_names.cbegin(); name != m_names.cend(); ++name) {
         const cBankBalanceList known = balances.Of(name.key());
         if (!known.isEmpty() && accounts.contains(*name)) {
             modPeriod::cRange& covered = accounts[*name].Covered;
@@ -95,7 +99,7 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
 // A transfer lies on the day of its debit, so the target's rows speak only where the source has none.
 cEntryItemList cSeriesCheck::SeriesOf(const QString& account, const QHash<QString, cAccountRows>& rows)
 {
-    cEntryItemList all = m_tools.Data.GetEntriesOfAccount(account);
+    cEntryItemList all = m_tools.Data.GetSeriesOfAccount(account);
     QSet<int> groups;
     all.removeIf([&](const cEntryItem& entry) {
         const bool isHere = entry.EntryAccount == account
@@ -130,7 +134,7 @@ void cSeriesCheck::NotePaid(cSeries& series)
     for (const int id : ids) {
         const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).GetImportEntriesByAssignedID(id);
         for (const cImportEntry& row : rows) {
-            if (m_accounts.AccountOf(row.ImportAccount) != series.Account) {
+            if (AccountOf(row.ImportAccount) != series.Account) {
                 continue;
             }
             if (const auto paid = modOccurrence::Nearest(series.Entry, row.ImportDate, fixMods)) {

@@ -65,6 +65,7 @@ private:
         QHash<QDate, QDate> Paid; // planned day to day of the row
     };
 
+    [[nodiscard]] QString AccountOf(const QString& number); // as it was at the beginning of the search
     [[nodiscard]] QHash<QString, cAccountRows> RowsByAccount();
     [[nodiscard]] cEntryItemList SeriesOf(const QString& account, const QHash<QString, cAccountRows>& rows);
     [[nodiscard]] QList<int> Parts(const cEntryItem& entry) const;
@@ -77,4 +78,5 @@ private:
     const cBookTools& m_tools;
     cImportHiveCache& m_hive;
     const cAccountMap& m_accounts;
+    QHash<QString, QString> m_names; // of accounts, by number
 };

@@ -3,6 +3,7 @@
 #include "windows/widget/modLook.h"
 #include "windows/widget/modTone.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -41,11 +42,6 @@ cCardLine::cCardLine(const cOverviewLine& line, QWidget* parent) : QAbstractButt
     }
 }
 
-int cCardLine::FigureWidth() const
-{
-    return m_line.Figure.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_line.Figure);
-}
-
 // What stands before two blanks, a day, is a column of its own: further lines of the text begin where its first one
 // does.
 int cCardLine::LeadLetters() const
@@ -54,9 +50,26 @@ int cCardLine::LeadLetters() const
     return at < 0 ? 0 : static_cast<int>(at) + 2;
 }
 
-int cCardLine::LeadWidth() const
+// Layouts ask for the height of a line dozens of times while a page comes to be, and to measure a text takes longer
+// than anything else about it.
+const cCardLine::cWidths& cCardLine::Widths() const
 {
-    return fontMetrics().horizontalAdvance(m_line.Text.left(LeadLetters()));
+    if (!m_widths) {
+        const QFontMetrics metrics = fontMetrics();
+        m_widths = cWidths{
+            metrics.horizontalAdvance(m_line.Figure), metrics.horizontalAdvance(m_line.Text.left(LeadLetters())),
+            std::min(metrics.horizontalAdvance(m_line.Text), metrics.averageCharWidth() * leastTextLetters)};
+        m_heights.clear();
+    }
+    return *m_widths;
+}
+
+void cCardLine::changeEvent(QEvent* event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_widths.reset();
+    }
 }
 
 int cCardLine::LookWidth() const
@@ -66,18 +79,23 @@ int cCardLine::LookWidth() const
 
 bool cCardLine::IsStacked(int width) const
 {
-    const int room = width - 2 * margin - gap - FigureWidth() - LookWidth();
-    const int wanted =
-        std::min(fontMetrics().horizontalAdvance(m_line.Text), fontMetrics().averageCharWidth() * leastTextLetters);
-    return FigureWidth() > 0 && room < wanted;
+    const int room = width - 2 * margin - gap - Widths().Figure - LookWidth();
+    return Widths().Figure > 0 && room < Widths().LeastText;
 }
 
 int cCardLine::TextHeight(int width) const
 {
-    const bool isBeside = FigureWidth() > 0 && !IsStacked(width);
-    const int room = width - 2 * margin - LookWidth() - LeadWidth() - (isBeside ? FigureWidth() + gap : 0);
-    const QRect area(0, 0, std::max(room, 1), 10000);
-    return fontMetrics().boundingRect(area, Qt::TextWordWrap, m_line.Text.mid(LeadLetters())).height();
+    const bool isBeside = Widths().Figure > 0 && !IsStacked(width);
+    const int room =
+        std::max(width - 2 * margin - LookWidth() - Widths().Lead - (isBeside ? Widths().Figure + gap : 0), 1);
+    const auto known = m_heights.constFind(room);
+    if (known != m_heights.constEnd()) {
+        return *known;
+    }
+    const QRect area(0, 0, room, 10000);
+    const int height = fontMetrics().boundingRect(area, Qt::TextWordWrap, m_line.Text.mid(LeadLetters())).height();
+    m_heights.insert(room, height);
+    return height;
 }
 
 int cCardLine::heightForWidth(int width) const
@@ -94,7 +112,7 @@ QSize cCardLine::sizeHint() const
 
 QSize cCardLine::minimumSizeHint() const
 {
-    const int width = std::max(fontMetrics().averageCharWidth() * leastTextLetters, FigureWidth() + 2 * margin);
+    const int width = std::max(fontMetrics().averageCharWidth() * leastTextLetters, Widths().Figure + 2 * margin);
     return {width, fontMetrics().height() + 2 * margin};
 }
 
@@ -126,8 +144,8 @@ void cCardLine::paintEvent(QPaintEvent* /*event*/)
     const QRect inner = rect().adjusted(margin, margin, -margin, -margin);
     const bool tintsText = m_line.Tone == eOverviewTone::Warning || m_line.Tone == eOverviewTone::Quiet;
     QRect text(inner.topLeft(), QSize(inner.width(), textHeight));
-    if (!isStacked && FigureWidth() > 0) {
-        text.setWidth(inner.width() - FigureWidth() - gap);
+    if (!isStacked && Widths().Figure > 0) {
+        text.setWidth(inner.width() - Widths().Figure - gap);
     }
     if (LookWidth() > 0) {
         const int side = fontMetrics().height();
@@ -136,7 +154,7 @@ void cCardLine::paintEvent(QPaintEvent* /*event*/)
     }
     painter.setPen(tintsText ? Colour() : palette().color(QPalette::Text));
     painter.drawText(text, Qt::AlignTop, m_line.Text.left(LeadLetters()));
-    painter.drawText(text.adjusted(LeadWidth(), 0, 0, 0), Qt::TextWordWrap | Qt::AlignTop,
+    painter.drawText(text.adjusted(Widths().Lead, 0, 0, 0), Qt::TextWordWrap | Qt::AlignTop,
                      m_line.Text.mid(LeadLetters()));
     QRect figure(inner.left(), inner.top() + (isStacked ? textHeight : 0), inner.width(), fontMetrics().lineSpacing());
     painter.setPen(Colour());

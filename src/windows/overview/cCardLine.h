@@ -3,6 +3,9 @@
 #include "views/overview/cOverviewCard.h"
 
 #include <QAbstractButton>
+#include <QHash>
+
+#include <optional>
 
 // A line of a card: its text in as many lines as it needs, a figure at the right end, and a bar where it has a share. A
 // click leads to what it tells, where it leads anywhere.
@@ -21,15 +24,24 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    [[nodiscard]] int FigureWidth() const;
+    struct cWidths
+    {
+        int Figure;
+        int Lead;
+        int LeastText; // that the text wants beside a figure
+    };
+
+    [[nodiscard]] const cWidths& Widths() const;
     [[nodiscard]] int LeadLetters() const;
-    [[nodiscard]] int LeadWidth() const;
     [[nodiscard]] int LookWidth() const;           // of the picture before the text; 0 without one
     [[nodiscard]] bool IsStacked(int width) const; // the figure stands below the text
     [[nodiscard]] int TextHeight(int width) const;
     [[nodiscard]] QColor Colour() const;
 
     cOverviewLine m_line;
+    mutable std::optional<cWidths> m_widths; // measured once for each font
+    mutable QHash<int, int> m_heights;       // of the text, by the room that it has
 };

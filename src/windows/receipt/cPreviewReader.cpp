@@ -1,12 +1,11 @@
 #include "windows/receipt/cPreviewReader.h"
 
 #include "views/receipt/cReceiptFolder.h"
+#include "windows/receipt/cPdfFile.h"
 
 #include <QDateTime>
 #include <QFileInfo>
 #include <QImageReader>
-
-#include <poppler-qt6.h>
 
 #include <algorithm>
 #include <atomic>
@@ -33,11 +32,6 @@ QSizeF Fitting(QSizeF size, QSize most)
     return pixels > mostPixels ? size * std::sqrt(mostPixels / pixels) : size;
 }
 
-bool IsUnwanted(const QVariant& flag)
-{
-    return static_cast<const std::atomic_bool*>(flag.value<void*>())->load();
-}
-
 // Makes one picture after the other, and keeps the file of the last one open.
 class cPainter
 {
@@ -52,7 +46,7 @@ private:
         QString Path;
         qint64 Size = -1; // as it was read
         QDateTime Modified;
-        std::unique_ptr<Poppler::Document> Document;
+        std::unique_ptr<cPdfFile> Document;
         QImage Picture;
     };
 
@@ -114,29 +108,28 @@ cPreview cPainter::Make(const cPreviewReader::cWish& wish)
 cPreview cPainter::MakePage(const cPreviewReader::cWish& wish)
 {
     if (m_opened.Document == nullptr) {
-        m_opened.Document = Poppler::Document::load(wish.Path);
-        if (m_opened.Document != nullptr && !m_opened.Document->isLocked()) {
-            m_opened.Document->setRenderHint(Poppler::Document::Antialiasing);
-            m_opened.Document->setRenderHint(Poppler::Document::TextAntialiasing);
+        auto opened = cPdfFile::Open(wish.Path);
+        if (!opened) {
+            return {cPreview::eState::Unknown, {}, 0, 1};
         }
+        m_opened.Document = *std::move(opened);
     }
-    if (m_opened.Document == nullptr) {
+    const cPdfFile* const document = m_opened.Document.get();
+    if (document == nullptr) {
         return {cPreview::eState::Damaged, {}, 0, 1};
     }
-    if (m_opened.Document->isLocked()) {
+    if (document->IsLocked()) {
         return {cPreview::eState::Locked, {}, 0, 1};
     }
-    const int pages = m_opened.Document->numPages();
+    const int pages = document->Pages();
     const int number = std::clamp(wish.Page, 0, std::max(0, pages - 1));
-    const std::unique_ptr<Poppler::Page> page = m_opened.Document->page(number);
-    const QSizeF size = page == nullptr ? QSizeF() : page->pageSizeF();
+    const QSizeF size = document->SizeOf(number);
     if (size.width() < 1 || size.height() < 1) {
         return {cPreview::eState::Damaged, {}, number, std::max(1, pages)};
     }
     constexpr double pointsPerInch = 72;
     const double dots = Fitting(size, wish.Size).width() / size.width() * pointsPerInch;
-    QImage image = page->renderToImage(dots, dots, -1, -1, -1, -1, Poppler::Page::Rotate0, nullptr, nullptr, IsUnwanted,
-                                       QVariant::fromValue(static_cast<void*>(&Unwanted)));
+    QImage image = document->Paint(number, dots, Unwanted);
     const auto state = image.isNull() ? cPreview::eState::Damaged : cPreview::eState::Shown;
     return {state, std::move(image), number, pages};
 }
