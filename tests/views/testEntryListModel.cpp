@@ -354,6 +354,9 @@ void testEntryListModel::KeepsTheContractOfItemModels()
     model.SetFilter(u"haushalt"_s);
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.parent(model.index(0, 3, model.index(1, 0))), model.index(1, 0));
+    // Else the mouse would only select, and heads of groups go nowhere.
+    QVERIFY(model.index(0, 0, model.index(1, 0)).flags() & Qt::ItemIsDragEnabled);
+    QVERIFY(!(model.index(1, 0).flags() & Qt::ItemIsDragEnabled));
 }
 
 // Two of a series may lie on one day: each is found again by the day that was planned for it.

@@ -96,7 +96,6 @@ private Q_SLOTS:
     void RowsGoToTheClipboard();
     void RowsAreDropped_data();
     void RowsAreDropped();
-    void OnlyLinesAreDragged();
     void AnotherAccountBeginsOnTheSameDay();
     void MessageStandsInPlaceOfTheReminder();
     void DayIsJumpedTo();
@@ -285,7 +284,7 @@ void testFrmMain::ListIsReadWhenItComesInSight()
     QCOMPARE(tree.model()->rowCount(), 0);
     model.BookChanged();
     QCOMPARE(tree.model()->rowCount(), 0);
-    window.ShowEntry({scene.First, QDate(2026, 3, 10)});
+    window.ShowEntry({scene.First.ID, scene.First.EntryDate});
     QCOMPARE(tree.model()->rowCount(), 2);
     model.PutOffList();
     QCOMPARE(model.Entries().rowCount(), 2);
@@ -530,23 +529,11 @@ void testFrmMain::RowsAreDropped()
     QTest::qWait(5);
     QCOMPARE(dropped->size(), target.isEmpty() ? 0 : 1);
     QCOMPARE(event.isAccepted(), !target.isEmpty());
-    if (!target.isEmpty()) {
-        QCOMPARE(dropped->first().at(0).value<QList<cEntryListModel::cKey>>(), rows);
-        QCOMPARE(dropped->first().at(1).toString(), target);
-    }
+    QCOMPARE(target.isEmpty() || dropped->first().at(0).value<QList<cEntryListModel::cKey>>() == rows, true);
+    QCOMPARE(target.isEmpty() ? target : dropped->first().at(1).toString(), target);
     QDropEvent aside(place, Qt::CopyAction, &data, Qt::LeftButton, {}); // beside the list, at its header
     QApplication::sendEvent(&tree, &aside);
-    QTest::qWait(5);
     QCOMPARE(dropped->size(), target.isEmpty() ? 0 : 1);
-}
-
-void testFrmMain::OnlyLinesAreDragged()
-{
-    cScene scene;
-    // Else the mouse would only select, and heads of groups go nowhere.
-    QVERIFY(scene.Model.Entries().index(0, 0).flags() & Qt::ItemIsDragEnabled);
-    scene.Model.ChooseGrouping(u"Nach Monat"_s);
-    QVERIFY(!(scene.Model.Entries().index(0, 0).flags() & Qt::ItemIsDragEnabled));
 }
 
 void testFrmMain::AnotherAccountBeginsOnTheSameDay()
