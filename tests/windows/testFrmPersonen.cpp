@@ -90,7 +90,8 @@ void testFrmPersonen::SearchAsksForThePayerAmongSeveral()
 {
     cTestBook book;
     cSearchModel model(book.Tools);
-    frmSuche search(model);
+    cCellEdit cells(book.Tools);
+    frmSuche search(model, cells);
     const auto payer = [&search]() -> QComboBox& {
         const QList<QLabel*> labels = search.findChildren<QLabel*>();
         for (const QLabel* label : labels) {
