@@ -9,6 +9,7 @@
 #include "views/main/cMainModel.h"
 #include "views/people/cPeople.h"
 #include "views/people/cSettlementModel.h"
+#include "views/sheet/cCellEdit.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSearchFields.h"
@@ -99,7 +100,8 @@ bool TakePeople(cCamera& camera)
     Settle();
     camera.Take(window, u"bezahlt-von"_s);
     cSearchModel found(tools);
-    frmSuche search(found);
+    cCellEdit cells(tools);
+    frmSuche search(found, cells);
     search.Present();
     search.findChild<cSearchFields*>()->ShowText(u"urlaub"_s);
     camera.Take(search, u"suche-bezahlt-von"_s);
