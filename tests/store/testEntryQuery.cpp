@@ -241,15 +241,6 @@ private Q_SLOTS:
         QCOMPARE(sum, 700 + 700 + 0 + 400 + 700);
     }
 
-    // Such a day counts on into the next month, where its text alone would leave it out.
-    void ADayThatTheMonthDoesNotHave() const
-    {
-        cHousehold book;
-        book.Database.ExecuteScript("UPDATE data SET EntryDate = '2024-02-31', EntryAccount = 'Bank' WHERE ID = 1");
-        const cEntryQuery march{QDate(2024, 3, 1), QDate(2024, 3, 31), {}, u"Bank"_s, {}, eBookingKind::Single};
-        QCOMPARE(Ids(book.Data.GetEntries(march)), u"1"_s);
-    }
-
     void OtherLookups() const
     {
         cHousehold book;
