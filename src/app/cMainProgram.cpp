@@ -92,6 +92,10 @@ bool cMainProgram::Start(const cStartRequest& request)
     m_updates.emplace(*m_tools, m_configuration);
     BuildWindow();
     m_window->RestoreLayout();
+    m_window->TakeStartPage();
+    if (m_window->Page() != frmMain::ePage::Entries) {
+        m_model->PutOffList();
+    }
     m_window->show();
     // The window stands there without data until the password was right.
     if (!startUp.AskPassword()) {

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void ColumnLayoutIsKept();
     void ClosedGroupsStayClosed();
     void PageInFrontIsKept();
+    void ListIsReadWhenItComesInSight();
     void ClickOnAnAccountFilters();
     void FreePeriodOpensTheDayFields();
     void EveryControlHasANameForScreenReaders();
@@ -259,6 +260,33 @@ void testFrmMain::PageInFrontIsKept()
     frmMain again(scene.Model);
     again.ShowToday();
     QCOMPARE(again.Page(), frmMain::ePage::Statements);
+}
+
+// What nobody sees is not read, and what does not need the page in front reads it all the same.
+void testFrmMain::ListIsReadWhenItComesInSight()
+{
+    cScene scene;
+    cMainModel model(scene.Book.Tools,
+                     {scene.Book.Configuration, scene.Book.Shell, scene.Navigator, scene.Book.Path()});
+    frmMain window(model);
+    window.TakeStartPage();
+    QCOMPARE(window.Page(), frmMain::ePage::Overview);
+    model.PutOffList();
+    model.RestoreView(false);
+    window.ShowToday();
+    const auto& tree = *window.findChild<cEntryTree*>();
+    QCOMPARE(tree.model()->rowCount(), 0);
+    model.BookChanged();
+    QCOMPARE(tree.model()->rowCount(), 0);
+    window.ShowEntry({scene.First.ID, scene.First.EntryDate});
+    QCOMPARE(tree.model()->rowCount(), 2);
+    model.PutOffList();
+    QCOMPARE(model.Entries().rowCount(), 2);
+    model.PutOffList();
+    model.ChooseAccount(u"Bargeld"_s);
+    QCOMPARE(tree.model()->rowCount(), 2);
+    window.ShowPage(frmMain::ePage::Entries);
+    QCOMPARE(tree.model()->rowCount(), 1);
 }
 
 void testFrmMain::ClickOnAnAccountFilters()

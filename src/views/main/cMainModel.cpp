@@ -32,6 +32,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int pageTime = 20;   // milliseconds after which a page in front has read what the balances need as well
 constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
 
 // One of the five View... switches; null for another key.
@@ -136,12 +137,31 @@ void cMainModel::RefreshView()
 {
     SaveView();
     LoadEntries();
-    tmrRefreshAccounts.start(0);
+    tmrRefreshAccounts.start(m_isPutOff ? pageTime : 0);
     Q_EMIT ViewChanged();
+}
+
+bool cMainModel::ReadList()
+{
+    if (!m_isPutOff) {
+        return false;
+    }
+    m_isPutOff = false;
+    LoadEntries();
+    return true;
+}
+
+cEntryListModel& cMainModel::Entries()
+{
+    ReadList();
+    return m_entries;
 }
 
 void cMainModel::LoadEntries()
 {
+    if (m_isPutOff) {
+        return;
+    }
     const QDate today = m_tools.Clock.Today();
     const cEntryQuery query = m_view.Query(today);
     cEntryListModel::cContent content;

@@ -88,6 +88,13 @@ public:
     [[nodiscard]] QString SelectionText() const { return m_detour.Title(); } // empty without selection
     [[nodiscard]] QStringList ViewLines() const; // what the list shows, in words, for print and export
 
+    // Before the view is restored, when something else is in sight: the list is read by ReadList or when it is asked
+    // for.
+    void PutOffList() { m_isPutOff = true; }
+    [[nodiscard]] bool IsPutOff() const { return m_isPutOff; }
+    // True when the list has been read now, because it was put off.
+    bool ReadList();
+
     // One handler for menus, tool bar and keys. False for an unknown number.
     bool Execute(int command);
     [[nodiscard]] bool IsEnabled(int command) const;
@@ -134,7 +141,8 @@ public:
     [[nodiscard]] QDate Today() const;
     [[nodiscard]] bool IsFreePeriod() const;
     [[nodiscard]] QStringList Accounts() const; // "Alle Konten" first
-    [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
+    // Reads the list first where that was put off.
+    [[nodiscard]] cEntryListModel& Entries();
     [[nodiscard]] cAccountListModel& AccountList() { return m_accounts; }
 
     // Texts beside the list.
@@ -193,6 +201,7 @@ private:
     cTemplateItemList m_accountItems;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
     QList<cEntryListModel::cKey> m_selection;
+    bool m_isPutOff = false;         // nobody has looked at the list yet, so it was not read
     bool m_isSeriesSelected = false; // the one selected line belongs to a series
     QTimer tmrRefreshList;
     QTimer tmrRefreshAccounts;

@@ -25,6 +25,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -214,11 +215,7 @@ void frmMain::Connect()
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RowsDropped, this, &frmMain::RowsDropped);
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
-    // The keys of these commands belong to the list in front; the other page has its own.
-    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
-        Q_EMIT PageShown(Page());
-        m_model.SetSelection(Page() == ePage::Entries ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
-    });
+    connect(m_tabs, &QTabWidget::currentChanged, this, &frmMain::PageChanged);
     connect(m_backBar, &cBackBar::BackRequested, this, &frmMain::GoBack);
     connect(m_backBar, &cBackBar::CloseRequested, &m_model, &cMainModel::GoBack);
     connect(new QShortcut(QKeySequence(u"Alt+Left"_s), this), &QShortcut::activated, this, &frmMain::GoBack);
@@ -245,14 +242,44 @@ QList<int> frmMain::EntryColumns() const
     return m_tree->ShownColumns();
 }
 
-void frmMain::ShowToday()
+QWidget* frmMain::StartPage() const
 {
     const bool isOverview = m_model.IsChecked(modSettingKey::StartWithOverview);
     const auto left = static_cast<ePage>(m_model.Layout(modSettingKey::MainPage).toInt());
-    m_tabs->setCurrentWidget(WidgetOf(isOverview ? ePage::Overview : left));
-    m_tree->ScrollTo(m_model.Today());
+    return WidgetOf(isOverview ? ePage::Overview : left);
+}
+
+void frmMain::TakeStartPage()
+{
+    const QSignalBlocker blocker(m_tabs);
+    m_tabs->setCurrentWidget(StartPage());
+}
+
+void frmMain::ShowToday()
+{
+    TakeStartPage();
+    PageChanged();
+    if (!m_model.IsPutOff()) {
+        m_tree->ScrollTo(m_model.Today());
+    }
     if (Page() == ePage::Entries) {
         m_tree->setFocus();
+    }
+}
+
+// The keys of some commands belong to the list in front; another page has its own.
+void frmMain::PageChanged()
+{
+    ReadList();
+    Q_EMIT PageShown(Page());
+    m_model.SetSelection(Page() == ePage::Entries ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
+}
+
+// Of a list that nobody has seen yet, once it comes in sight.
+void frmMain::ReadList()
+{
+    if (Page() == ePage::Entries && m_model.ReadList()) {
+        m_tree->ScrollTo(m_model.Today());
     }
 }
 
@@ -307,6 +334,7 @@ void frmMain::TakeUsualSize()
 
 void frmMain::ShowEntry(const cEntryListModel::cKey& key)
 {
+    (void)m_model.ReadList();
     m_tree->Select({key});
     m_tree->setFocus(); // Ctrl+Z in the filter would take back what was typed there
 }

@@ -39,6 +39,8 @@ public:
     // Once the view was restored: brings the overview to the front, or the page that was there last where the user
     // wants that, scrolls the list to the current day and gives it the focus where it is in front.
     void ShowToday();
+    // Brings the page to the front with which ShowToday begins, and reads nothing for it yet.
+    void TakeStartPage();
 
     [[nodiscard]] QWidget& StatementsPage() { return *m_statements; } // with an empty layout, for whoever fills it
     [[nodiscard]] QWidget& StatisticsPage() { return *m_statistics; }
@@ -82,6 +84,9 @@ private:
     QWidget* BuildEntryPage();
     void Connect();
     [[nodiscard]] QWidget* WidgetOf(ePage page) const; // the entries for a number that no page has
+    [[nodiscard]] QWidget* StartPage() const;
+    void PageChanged();
+    void ReadList();
     void ShowView();
     void ShowEntries();
     void ShowCommands();
