@@ -1,9 +1,9 @@
 #include "app/cAppearance.h"
 
-#include "app/cDesktopTone.h"
+#include "app/machine/cDesktopTone.h"
 #include "views/main/modAppearance.h"
-#include "windows/widget/modPalette.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modPalette.h"
+#include "windows/look/modTone.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 #include "app/cBankWindows.h"
 
-#include "app/cQtBankUser.h"
+#include "app/machine/cQtBankUser.h"
 #include "base/cClock.h"
 #include "core/cBookTools.h"
 #include "model/cBankState.h"

@@ -1,6 +1,6 @@
 #include "app/cBookSwitch.h"
 
-#include "app/cFileLock.h"
+#include "app/machine/cFileLock.h"
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"

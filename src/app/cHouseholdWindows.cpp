@@ -1,6 +1,6 @@
 #include "app/cHouseholdWindows.h"
 
-#include "app/cQtPrinter.h"
+#include "app/machine/cQtPrinter.h"
 #include "core/cBookTools.h"
 #include "views/budget/cBudgetModel.h"
 #include "views/main/cMainModel.h"

@@ -1,6 +1,6 @@
 #include "app/cLogWindows.h"
 
-#include "app/modBuild.h"
+#include "app/machine/modBuild.h"
 #include "core/cBook.h"
 #include "core/cBookTools.h"
 #include "views/book/cBookFlow.h"

@@ -1,8 +1,8 @@
 #include "app/cMainProgram.h"
 
 #include "app/cNavigation.h"
-#include "app/modBuild.h"
-#include "app/modLocale.h"
+#include "app/machine/modBuild.h"
+#include "app/machine/modLocale.h"
 #include "base/cClock.h"
 #include "base/cShell.h"
 #include "base/cText.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/cQtFileDesk.h"
+#include "app/machine/cQtFileDesk.h"
 #include "views/main/modCommand.h"
 
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "app/cSystemClock.h"
+#include "app/machine/cSystemClock.h"
 #include "cTlsServer.h"
 #include "support/bankMonth.h"
 #include "testbank/cTestBank.h"

@@ -1,9 +1,9 @@
-#include "app/cFileLock.h"
-#include "app/cLanguage.h"
-#include "app/cQtRegistry.h"
-#include "app/cQtShell.h"
-#include "app/cSingleInstance.h"
-#include "app/modQtFilter.h"
+#include "app/machine/cFileLock.h"
+#include "app/machine/cLanguage.h"
+#include "app/machine/cQtRegistry.h"
+#include "app/machine/cQtShell.h"
+#include "app/machine/cSingleInstance.h"
+#include "app/machine/modQtFilter.h"
 #include "support/cTestClass.h"
 
 #include <QCoreApplication>

@@ -3,8 +3,8 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/fakes.h"
-#include "windows/widget/modPalette.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modPalette.h"
+#include "windows/look/modTone.h"
 
 #include <QApplication>
 #include <QDBusConnection>

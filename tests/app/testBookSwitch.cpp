@@ -1,5 +1,5 @@
 #include "app/cBookSwitch.h"
-#include "app/cFileLock.h"
+#include "app/machine/cFileLock.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"

@@ -1,4 +1,4 @@
-#include "app/cDesktopNotifier.h"
+#include "app/machine/cDesktopNotifier.h"
 #include "cTestBus.h"
 #include "support/cTestClass.h"
 

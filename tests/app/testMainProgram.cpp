@@ -11,10 +11,10 @@
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "windows/help/frmHandbuch.h"
+#include "windows/look/modTone.h"
 #include "windows/main/frmMain.h"
 #include "windows/report/cReportView.h"
 #include "windows/statement/frmKontoauszug.h"
-#include "windows/widget/modTone.h"
 
 #include <QAction>
 #include <QActionGroup>

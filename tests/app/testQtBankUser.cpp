@@ -1,4 +1,4 @@
-#include "app/cQtBankUser.h"
+#include "app/machine/cQtBankUser.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "windows/bank/frmPin.h"

@@ -1,5 +1,5 @@
-#include "app/cQtPrinter.h"
-#include "app/modQtFilter.h"
+#include "app/machine/cQtPrinter.h"
+#include "app/machine/modQtFilter.h"
 #include "support/cTestClass.h"
 #include "windows/print/cPrintable.h"
 

@@ -1,5 +1,5 @@
-#include "app/cLanguage.h"
-#include "app/cQtUser.h"
+#include "app/machine/cLanguage.h"
+#include "app/machine/cQtUser.h"
 #include "support/cTestClass.h"
 #include "support/fakes.h"
 

@@ -1,6 +1,6 @@
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
-#include "app/cSessionWatch.h"
+#include "app/machine/cSessionWatch.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "support/cTestClass.h"

@@ -1,5 +1,5 @@
-#include "app/cFileLock.h"
-#include "app/cQtRegistry.h"
+#include "app/machine/cFileLock.h"
+#include "app/machine/cQtRegistry.h"
 #include "cCliRun.h"
 #include "store/cDatabase.h"
 #include "support/cTestClass.h"

@@ -1,4 +1,4 @@
-#include "app/cQtRegistry.h"
+#include "app/machine/cQtRegistry.h"
 #include "cCliRun.h"
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"

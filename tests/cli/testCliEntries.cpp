@@ -1,4 +1,4 @@
-#include "app/cFileLock.h"
+#include "app/machine/cFileLock.h"
 #include "cCliRun.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"

@@ -4,9 +4,9 @@
 // With "before" it ends where the action would begin. The exit status is 0 when the action was done.
 
 #include "app/cMainProgram.h"
-#include "app/cQtRegistry.h"
-#include "app/cQtShell.h"
-#include "app/cSystemClock.h"
+#include "app/machine/cQtRegistry.h"
+#include "app/machine/cQtShell.h"
+#include "app/machine/cSystemClock.h"
 #include "base/cProgress.h"
 #include "base/cRescue.h"
 #include "base/cUser.h"

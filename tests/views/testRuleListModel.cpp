@@ -4,8 +4,8 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
-#include "views/statement/cRuleEditor.h"
-#include "views/statement/modRuleText.h"
+#include "views/rule/cRuleEditor.h"
+#include "views/rule/modRuleText.h"
 #include "views/template/cTemplateManager.h"
 
 #include <QSignalSpy>

@@ -7,14 +7,14 @@
 // and palette. The scale comes from QT_SCALE_FACTOR, as for every program;
 // SCENES names those wanted, all without it.
 
-#include "app/cLanguage.h"
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
-#include "app/cQtRegistry.h"
-#include "app/cQtRescue.h"
-#include "app/cQtShell.h"
-#include "app/cQtUser.h"
-#include "app/modLocale.h"
+#include "app/machine/cLanguage.h"
+#include "app/machine/cQtRegistry.h"
+#include "app/machine/cQtRescue.h"
+#include "app/machine/cQtShell.h"
+#include "app/machine/cQtUser.h"
+#include "app/machine/modLocale.h"
 #include "base/cClock.h"
 #include "base/cProgress.h"
 #include "base/modDate.h"
@@ -47,9 +47,9 @@
 #include "views/main/cLimitWatch.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modAppearance.h"
+#include "views/rule/cRuleEditor.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleEditor.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/book/frmPasswort.h"
@@ -57,6 +57,9 @@
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/look/cStyle.h"
+#include "windows/look/modPalette.h"
+#include "windows/look/modTone.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmSuche.h"
@@ -68,9 +71,6 @@
 #include "windows/statement/frmZuordnung.h"
 #include "windows/statistics/frmStatistik.h"
 #include "windows/template/frmKategorie.h"
-#include "windows/widget/cStyle.h"
-#include "windows/widget/modPalette.h"
-#include "windows/widget/modTone.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "tools/screenshots/takeAssistant.h"
 
-#include "app/cQtRegistry.h"
-#include "app/cQtShell.h"
-#include "app/cQtUser.h"
+#include "app/machine/cQtRegistry.h"
+#include "app/machine/cQtShell.h"
+#include "app/machine/cQtUser.h"
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"

@@ -16,13 +16,13 @@
 #include "views/template/cTemplateManager.h"
 #include "windows/budget/frmBudget.h"
 #include "windows/chart/cChartBox.h"
+#include "windows/look/modLook.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/frmMain.h"
 #include "windows/overview/frmUebersicht.h"
 #include "windows/statement/frmImport.h"
 #include "windows/template/cLookBox.h"
 #include "windows/template/frmKategorie.h"
-#include "windows/widget/modLook.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

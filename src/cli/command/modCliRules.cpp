@@ -8,10 +8,10 @@
 #include "cli/modCliCommands.h"
 #include "model/modCutText.h"
 #include "model/modWord.h"
+#include "views/rule/cRuleEditor.h"
+#include "views/rule/modRuleText.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
-#include "views/statement/cRuleEditor.h"
-#include "views/statement/modRuleText.h"
 
 using namespace Qt::Literals::StringLiterals;
 

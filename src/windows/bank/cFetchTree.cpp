@@ -3,10 +3,10 @@
 #include "base/cText.h"
 #include "views/bank/cBankFetch.h"
 #include "views/bank/modFetchText.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"
-#include "windows/widget/modTone.h"
 
 #include <QEvent>
 #include <QHeaderView>

@@ -5,9 +5,9 @@
 #include "windows/bank/cBankLoginPage.h"
 #include "windows/bank/cBankMethodPage.h"
 #include "windows/bank/cBankSearchPage.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cFormScroll.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "windows/book/frmLaender.h"
 
 #include "base/cText.h"
-#include "windows/widget/modWrapped.h"
+#include "windows/look/modWrapped.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

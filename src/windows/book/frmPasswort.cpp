@@ -1,7 +1,7 @@
 #include "windows/book/frmPasswort.h"
 
 #include "base/cText.h"
-#include "windows/widget/modWrapped.h"
+#include "windows/look/modWrapped.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

@@ -1,7 +1,7 @@
 #include "windows/book/frmSicherungen.h"
 
 #include "base/cText.h"
-#include "windows/widget/modWrapped.h"
+#include "windows/look/modWrapped.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

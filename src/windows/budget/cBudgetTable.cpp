@@ -2,9 +2,9 @@
 
 #include "base/cText.h"
 #include "views/budget/cBudgetModel.h"
+#include "windows/look/modLook.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cRowDelegate.h"
-#include "windows/widget/modLook.h"
-#include "windows/widget/modTone.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -5,8 +5,8 @@
 #include "windows/chart/cChartTable.h"
 #include "windows/chart/cChartView.h"
 #include "windows/chart/modChartPainter.h"
+#include "windows/look/modIcon.h"
 #include "windows/widget/cFlowLayout.h"
-#include "windows/widget/modIcon.h"
 
 #include <QBoxLayout>
 #include <QClipboard>

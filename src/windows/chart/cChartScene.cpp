@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "windows/chart/modChartColour.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include "windows/chart/cChartTable.h"
 
 #include "base/cText.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QHeaderView>
 #include <QStyledItemDelegate>

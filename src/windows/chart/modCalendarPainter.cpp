@@ -3,7 +3,7 @@
 #include "base/cText.h"
 #include "views/chart/modChart.h"
 #include "windows/chart/modChartColour.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include "windows/chart/modChartColour.h"
 
-#include "windows/widget/modLook.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modLook.h"
+#include "windows/look/modTone.h"
 
 QColor modChartColour::Mixed(const QColor& from, const QColor& to, double share)
 {

@@ -1,7 +1,7 @@
 #include "windows/chart/modChartLegend.h"
 
 #include "windows/chart/modChartColour.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QPainter>
 

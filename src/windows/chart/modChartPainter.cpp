@@ -8,7 +8,7 @@
 #include "windows/chart/modLimitPainter.h"
 #include "windows/chart/modLinePainter.h"
 #include "windows/chart/modPiePainter.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QBuffer>
 #include <QGuiApplication>

@@ -5,6 +5,8 @@
 #include "model/modWord.h"
 #include "windows/entry/cSplitPage.h"
 #include "windows/entry/cSplitTable.h"
+#include "windows/look/modIcon.h"
+#include "windows/look/modTone.h"
 #include "windows/receipt/cReceiptField.h"
 #include "windows/widget/cAmountEdit.h"
 #include "windows/widget/cCategoryBox.h"
@@ -12,9 +14,7 @@
 #include "windows/widget/cPickList.h"
 #include "windows/widget/modBadField.h"
 #include "windows/widget/modChoice.h"
-#include "windows/widget/modIcon.h"
 #include "windows/widget/modProposal.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

@@ -3,8 +3,8 @@
 #include "base/cText.h"
 #include "views/help/cManualBrowser.h"
 #include "views/help/modManual.h"
+#include "windows/look/modIcon.h"
 #include "windows/report/cReportView.h"
-#include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 
 #include <QApplication>

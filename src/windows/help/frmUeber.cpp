@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "views/help/modAbout.h"
-#include "windows/widget/modIcon.h"
+#include "windows/look/modIcon.h"
 
 #include <QBoxLayout>
 #include <QEvent>

@@ -1,9 +1,9 @@
 #include "windows/help/frmUpdate.h"
 
 #include "base/cText.h"
-#include "windows/widget/modIcon.h"
+#include "windows/look/modIcon.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

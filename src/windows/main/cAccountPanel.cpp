@@ -3,8 +3,8 @@
 #include "base/cText.h"
 #include "views/main/cAccountListModel.h"
 #include "views/sheet/modRowDrag.h"
-#include "windows/widget/modIcon.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modIcon.h"
+#include "windows/look/modTone.h"
 
 #include <QBoxLayout>
 #include <QDropEvent>

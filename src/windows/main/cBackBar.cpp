@@ -1,9 +1,9 @@
 #include "windows/main/cBackBar.h"
 
 #include "base/cText.h"
+#include "windows/look/modIcon.h"
 #include "windows/widget/cElidedText.h"
 #include "windows/widget/cFlowLayout.h"
-#include "windows/widget/modIcon.h"
 
 #include <QPushButton>
 

@@ -1,9 +1,9 @@
 #include "windows/main/cEntryDelegate.h"
 
 #include "views/list/cEntryListModel.h"
+#include "windows/look/modIcon.h"
+#include "windows/look/modLook.h"
 #include "windows/main/modTagText.h"
-#include "windows/widget/modIcon.h"
-#include "windows/widget/modLook.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -3,11 +3,11 @@
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
 #include "views/sheet/modRowDrag.h"
+#include "windows/look/modGroupHead.h"
 #include "windows/main/cCellEditing.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
-#include "windows/widget/modGroupHead.h"
 
 #include <QDrag>
 #include <QHeaderView>

@@ -1,7 +1,7 @@
 #include "windows/main/cReminderBar.h"
 
 #include "base/cText.h"
-#include "windows/widget/modIcon.h"
+#include "windows/look/modIcon.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "base/cText.h"
 #include "views/main/cMainModel.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cFlowLayout.h"
-#include "windows/widget/modTone.h"
 
 #include <QLabel>
 

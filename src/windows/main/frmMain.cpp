@@ -4,6 +4,7 @@
 #include "model/modSettingKey.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
+#include "windows/look/modIcon.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
 #include "windows/main/cCategoryDrop.h"
@@ -14,7 +15,6 @@
 #include "windows/main/cViewBar.h"
 #include "windows/receipt/cReceiptDrop.h"
 #include "windows/widget/modDrop.h"
-#include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 
 #include <QAction>

@@ -3,10 +3,10 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/sheet/cManyChange.h"
+#include "windows/look/modWrapped.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/modBadField.h"
 #include "windows/widget/modProposal.h"
-#include "windows/widget/modWrapped.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -2,14 +2,14 @@
 
 #include "base/cText.h"
 #include "views/list/cSearchModel.h"
+#include "windows/look/modIcon.h"
+#include "windows/look/modTone.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cSearchFields.h"
 #include "windows/main/cSumBar.h"
 #include "windows/receipt/cReceiptDrop.h"
 #include "windows/widget/cFlowLayout.h"
-#include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QHideEvent>

@@ -1,6 +1,6 @@
 #include "windows/overview/cBalanceCurve.h"
 
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QPainter>
 #include <QPainterPath>

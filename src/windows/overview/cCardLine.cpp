@@ -1,7 +1,7 @@
 #include "windows/overview/cCardLine.h"
 
-#include "windows/widget/modLook.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modLook.h"
+#include "windows/look/modTone.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "windows/overview/cFirstStepsView.h"
 
 #include "base/cText.h"
+#include "windows/look/modCard.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cAmountEdit.h"
-#include "windows/widget/modCard.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>

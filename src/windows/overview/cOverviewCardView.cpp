@@ -1,10 +1,10 @@
 #include "windows/overview/cOverviewCardView.h"
 
 #include "base/cText.h"
+#include "windows/look/modCard.h"
+#include "windows/look/modTone.h"
 #include "windows/overview/cBalanceCurve.h"
 #include "windows/overview/cCardLine.h"
-#include "windows/widget/modCard.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QLabel>

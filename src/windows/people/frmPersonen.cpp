@@ -2,9 +2,9 @@
 
 #include "base/cText.h"
 #include "views/people/cPeople.h"
+#include "windows/look/modTone.h"
 #include "windows/people/cShareTable.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,12 +1,12 @@
 #include "windows/report/cReportView.h"
 
 #include "base/cText.h"
+#include "windows/look/modTone.h"
 #include "windows/report/cPainterCanvas.h"
 #include "windows/report/cReportDocument.h"
 #include "windows/report/modReportAccess.h"
 #include "windows/report/modReportStyle.h"
 #include "windows/report/modReportTone.h"
-#include "windows/widget/modTone.h"
 
 #include <QAccessible>
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "windows/report/modReportTone.h"
 
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <algorithm>
 #include <cmath>

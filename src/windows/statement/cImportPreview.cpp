@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "views/statement/cImportAssistant.h"
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QAbstractItemView>
 #include <QBoxLayout>

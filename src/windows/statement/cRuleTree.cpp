@@ -1,9 +1,9 @@
 #include "windows/statement/cRuleTree.h"
 
 #include "base/cText.h"
-#include "views/statement/cRuleListModel.h"
+#include "views/rule/cRuleListModel.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/modEmptyText.h"
-#include "windows/widget/modTone.h"
 
 #include <QHeaderView>
 

@@ -2,17 +2,17 @@
 
 #include "base/cText.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/rule/cRuleEditor.h"
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cRuleEditor.h"
+#include "windows/look/modIcon.h"
 #include "windows/main/frmMehrere.h"
 #include "windows/statement/cStagedTree.h"
 #include "windows/statement/frmRegeln.h"
 #include "windows/statement/frmUmsatzKategorie.h"
 #include "windows/statement/frmZuordnung.h"
 #include "windows/widget/cProgressBox.h"
-#include "windows/widget/modIcon.h"
 
 #include <QAction>
 #include <QMenu>

@@ -2,9 +2,9 @@
 
 #include "model/modWord.h"
 #include "views/statement/cStagedListModel.h"
+#include "windows/look/modLook.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cCategoryBox.h"
-#include "windows/widget/modLook.h"
-#include "windows/widget/modTone.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -3,10 +3,10 @@
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
 #include "views/statement/cStagedListModel.h"
+#include "windows/look/modGroupHead.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
-#include "windows/widget/modGroupHead.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>

@@ -2,10 +2,10 @@
 
 #include "base/cText.h"
 #include "views/ledger/cStatementListModel.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"
-#include "windows/widget/modTone.h"
 
 #include <QHeaderView>
 

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
+#include "windows/look/modIcon.h"
 #include "windows/statement/cLeftOutBox.h"
 #include "windows/statement/cStagedActions.h"
 #include "windows/statement/cStagedPanel.h"
@@ -12,7 +13,6 @@
 #include "windows/widget/cProgressBox.h"
 #include "windows/widget/cSummaryText.h"
 #include "windows/widget/modDrop.h"
-#include "windows/widget/modIcon.h"
 
 #include <QAction>
 #include <QBoxLayout>

@@ -1,13 +1,13 @@
 #include "windows/statement/frmImportAssistent.h"
 
 #include "base/cText.h"
+#include "windows/look/modTone.h"
 #include "windows/statement/cImportPreview.h"
 #include "windows/statement/cReadingBox.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cFormScroll.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QAbstractItemView>
 #include <QBoxLayout>

@@ -4,6 +4,7 @@
 #include "model/modWord.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/receipt/cStatementPapers.h"
+#include "windows/look/modTone.h"
 #include "windows/main/cSumBar.h"
 #include "windows/statement/cReconcilePanel.h"
 #include "windows/statement/cStatementTree.h"
@@ -15,7 +16,6 @@
 #include "windows/widget/modDayRange.h"
 #include "windows/widget/modDrop.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QApplication>
 #include <QBoxLayout>

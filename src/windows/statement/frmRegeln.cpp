@@ -3,7 +3,7 @@
 #include "base/cText.h"
 #include "base/cVocabulary.h"
 #include "model/modWord.h"
-#include "views/statement/cRuleEditor.h"
+#include "views/rule/cRuleEditor.h"
 #include "windows/statement/cRuleTree.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/cFlowLayout.h"

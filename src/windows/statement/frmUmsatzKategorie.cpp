@@ -2,9 +2,9 @@
 
 #include "base/cText.h"
 #include "views/statement/cImportReview.h"
+#include "windows/look/modWrapped.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/modBadField.h"
-#include "windows/widget/modWrapped.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>

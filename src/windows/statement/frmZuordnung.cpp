@@ -2,11 +2,11 @@
 
 #include "base/cText.h"
 #include "views/statement/cAssignListModel.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modEmptyText.h"
 #include "windows/widget/modPlace.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

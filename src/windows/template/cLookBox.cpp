@@ -3,7 +3,7 @@
 #include "base/cText.h"
 #include "views/look/modCategoryColor.h"
 #include "views/look/modCategoryIcon.h"
-#include "windows/widget/modLook.h"
+#include "windows/look/modLook.h"
 
 #include <QBoxLayout>
 #include <QColorDialog>

@@ -3,11 +3,11 @@
 #include "base/cText.h"
 #include "model/modWord.h"
 #include "views/template/cTemplateManager.h"
+#include "windows/look/modTone.h"
 #include "windows/template/cLookBox.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cElidedText.h"
 #include "windows/widget/modEmptyField.h"
-#include "windows/widget/modTone.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

@@ -1,9 +1,9 @@
 #include "windows/template/cTemplateTree.h"
 
 #include "views/list/cListLayout.h"
+#include "windows/look/modLook.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cColumnFit.h"
-#include "windows/widget/modLook.h"
-#include "windows/widget/modTone.h"
 
 #include <QHeaderView>
 #include <QScrollBar>

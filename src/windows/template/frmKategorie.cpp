@@ -1,13 +1,13 @@
 #include "windows/template/frmKategorie.h"
 
 #include "base/cText.h"
+#include "windows/look/modIcon.h"
 #include "windows/template/cTemplatePanel.h"
 #include "windows/template/cTemplateTree.h"
 #include "windows/widget/cActionButton.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cFormScroll.h"
 #include "windows/widget/cTurningSplitter.h"
-#include "windows/widget/modIcon.h"
 #include "windows/widget/modPlace.h"
 
 #include <QAction>

@@ -3,11 +3,11 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "base/modDayText.h"
+#include "windows/look/modIcon.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/modBadField.h"
 #include "windows/widget/modEmptyField.h"
-#include "windows/widget/modIcon.h"
 #include "windows/widget/modPopup.h"
-#include "windows/widget/modTone.h"
 
 #include <QAction>
 #include <QBoxLayout>

@@ -1,7 +1,7 @@
 #include "windows/widget/cPickList.h"
 
+#include "windows/look/modTone.h"
 #include "windows/widget/modPopup.h"
-#include "windows/widget/modTone.h"
 
 #include <QApplication>
 #include <QKeyEvent>

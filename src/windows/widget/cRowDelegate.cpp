@@ -1,6 +1,6 @@
 #include "windows/widget/cRowDelegate.h"
 
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 QSize cRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {

@@ -1,6 +1,6 @@
 #include "windows/widget/modEmptyText.h"
 
-#include "windows/widget/modTone.h"
+#include "windows/look/modTone.h"
 
 #include <QAbstractItemView>
 #include <QPainter>

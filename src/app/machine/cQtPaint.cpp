@@ -1,0 +1,20 @@
+#include "app/machine/cQtPaint.h"
+
+#include "views/chart/cChartData.h"
+#include "windows/chart/modChartPainter.h"
+#include "windows/report/cReportPrinter.h"
+#include "windows/report/modReportPdf.h"
+
+#include <QApplication>
+
+QByteArray cQtPaint::PaintReport(const QString& html)
+{
+    cReportPrinter pages(html, QApplication::font().family(), QStringLiteral("Kontorelle"));
+    return modReportPdf::Bytes(pages);
+}
+
+QByteArray cQtPaint::PaintChart(const cChartData& chart, ePicture picture)
+{
+    constexpr QSize size(1000, 600);
+    return picture == ePicture::Svg ? modChartPainter::Svg(chart, size) : modChartPainter::Png(chart, size);
+}
