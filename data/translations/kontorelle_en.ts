@@ -10765,5 +10765,9 @@ A click shows more.</translation>
         <source>&amp;Farbe und Symbol:</source>
         <translation>C&amp;olour and icon:</translation>
     </message>
+    <message>
+        <source>Bargeld, vor dem Startguthaben von {0}</source>
+        <translation>Cash, before the start balance of {0}</translation>
+    </message>
 </context>
 </TS>

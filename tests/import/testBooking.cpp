@@ -192,6 +192,13 @@ private Q_SLOTS:
         QVERIFY(proposal.IsSure);
         const cProposal back = bank.Propose(bank.Stage(day, 50, u"Bareinzahlung"_s));
         QCOMPARE(back.Entry.EntryAccount + back.Entry.EntryAccountMove, u"BargeldGirokonto"_s);
+        // What was drawn before the notes were counted is not there twice.
+        bank.Add([](cEntryItem& entry) {
+            entry.EntryDate = day.addDays(1);
+            entry.EntryAccount = u"Bargeld"_s;
+            entry.EntryCategory = modWord::Startguthaben;
+        });
+        QCOMPARE(bank.Propose(bank.Stage(day, -200, u"GA NR00012346"_s)).Entry.EntryType, modWord::Ausgabe);
         // Somebody who keeps no purse says so once.
         cEntryItem spent = proposal.Entry;
         spent.EntryType = modWord::Ausgabe;

@@ -32,7 +32,8 @@ struct cProposer::cKnowledge
           Rules(cOwnRules(accounts.Settings()).Load()),
           Matcher(Rules),
           Numbered(NumberedAccounts(accounts)),
-          Cash(modCash::Accounts(data.GetAccounts(), Numbered))
+          Cash(modCash::Accounts(data.GetAccounts(), Numbered)),
+          CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst()))
     {
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
@@ -48,6 +49,21 @@ struct cProposer::cKnowledge
             numbered.append(account);
         }
         return numbered;
+    }
+
+    // The day of the account's start balance; invalid without one.
+    static QDate StartOf(cDataAccess& data, const QString& account)
+    {
+        cEntryQuery query;
+        query.Account = account;
+        query.Category = modWord::Startguthaben;
+        query.Kind = eBookingKind::Single;
+        QDate day;
+        const cEntryItemList entries = data.GetEntries(query);
+        for (const cEntryItem& entry : entries) {
+            day = entry.EntryAccount == account && entry.EntryDate > day ? entry.EntryDate : day;
+        }
+        return day;
     }
 
     // What the program knows by itself. Of a category that the book does not have it is not sure.
@@ -72,6 +88,7 @@ struct cProposer::cKnowledge
     cRuleMatcher Matcher;
     QStringList Numbered; // accounts that stand at a bank
     QStringList Cash;     // accounts for cash
+    QDate CashStart;      // of the first of them
     QSet<QString> Categories;
 };
 
@@ -140,7 +157,8 @@ void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImp
 }
 
 // Of several purses nobody knows which one it was.
-void TakeCash(cProposal& proposal, const QStringList& accounts)
+// Money that was drawn before the purse's start balance was counted is in it already, or spent.
+void TakeCash(cProposal& proposal, const QStringList& accounts, QDate start)
 {
     cEntryItem& entry = proposal.Entry;
     const QString own = entry.EntryAccount;
@@ -150,6 +168,10 @@ void TakeCash(cProposal& proposal, const QStringList& accounts)
     proposal.IsSure = accounts.size() == 1;
     const QString& purse = accounts.constFirst();
     if (own == purse) {
+        return;
+    }
+    if (start.isValid() && entry.EntryDate < start) {
+        proposal.Reason = cText::Tr("Bargeld, vor dem Startguthaben von {0}", {purse});
         return;
     }
     entry.EntryType = modWord::Umbuchung;
@@ -246,7 +268,7 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);
     } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(row)) {
-        TakeCash(proposal, m_knowledge->Cash);
+        TakeCash(proposal, m_knowledge->Cash, m_knowledge->CashStart);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
         TakeHint(proposal, knownHint());
