@@ -23,12 +23,12 @@ private:
 };
 
 // One class with an application of its own kind around it.
-template <class Test, class Application>
+template <class tTest, class tApplication>
 int RunTest(int argc, char** argv)
 {
-    Application application(argc, argv);
-    Application::setAttribute(Qt::AA_Use96Dpi, true);
-    Test test;
+    tApplication application(argc, argv);
+    tApplication::setAttribute(Qt::AA_Use96Dpi, true);
+    tTest test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -30,8 +30,8 @@ cPayeeKeys::cPayee cPayeeKeys::ByName(const cImportEntry& row)
     alone.ImportPurpose.clear();
     cPayee payee;
     payee.IsCollector = modPayee::IsCollector(row.ImportBeneficiary);
-    payee.IsFixed = !payee.IsCollector && !row.ImportBeneficiary.trimmed().isEmpty();
-    if (payee.IsFixed) {
+    payee.m_isFixed = !payee.IsCollector && !row.ImportBeneficiary.trimmed().isEmpty();
+    if (payee.m_isFixed) {
         Take(payee, modPayee::Of(alone));
     }
     return payee;
@@ -47,7 +47,7 @@ cPayeeKeys::cPayee cPayeeKeys::Of(const cImportEntry& row)
     cPayee payee = *known;
     if (modCash::CanBeCash(row) && modCash::IsCash(row)) {
         TakeCash(payee);
-    } else if (!payee.IsFixed) {
+    } else if (!payee.m_isFixed) {
         Take(payee, modPayee::Of(row));
     }
     return payee;

@@ -21,7 +21,7 @@ public:
 
     private:
         friend class cPayeeKeys;
-        bool IsFixed = false; // the same for all rows with this name, whatever their purpose
+        bool m_isFixed = false; // the same for all rows with this name, whatever their purpose
     };
 
     [[nodiscard]] cPayee Of(const cImportEntry& row);
