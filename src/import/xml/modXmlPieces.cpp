@@ -109,6 +109,9 @@ private:
     [[nodiscard]] qsizetype FindName(qsizetype from) const
     {
         const QByteArrayView rest = m_xml.sliced(from);
+        if (rest.isEmpty()) {
+            return -1; // of an empty text the library may not even be asked
+        }
         const void* const found = memmem(rest.data(), static_cast<std::size_t>(rest.size()), m_name.data(),
                                          static_cast<std::size_t>(m_name.size()));
         return found == nullptr ? -1 : static_cast<const char*>(found) - m_xml.data();
