@@ -24,7 +24,8 @@ cColumnFit::cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest)
       m_columns(std::move(columns)),
       m_rest(rest),
       m_wanted(static_cast<qsizetype>(m_columns.size()), 0),
-      m_least(static_cast<qsizetype>(m_columns.size()), 0)
+      m_least(static_cast<qsizetype>(m_columns.size()), 0),
+      m_isAway(static_cast<qsizetype>(m_columns.size()), false)
 {
     QHeaderView& header = *m_view.header();
     header.setStretchLastSection(false);
@@ -92,12 +93,31 @@ void cColumnFit::Measure()
     }
 }
 
+// The last spare column goes first.
+void cColumnFit::SendAway()
+{
+    QHeaderView& header = *m_view.header();
+    const auto isWished = [&](int column) { return m_isAway.at(column) || !header.isSectionHidden(column); };
+    int needed = 0;
+    for (int column = 0; column < m_least.size(); ++column) {
+        needed += isWished(column) ? m_least.at(column) : 0;
+    }
+    for (int column = static_cast<int>(m_least.size()) - 1; column >= 0; --column) {
+        if (m_columns.at(static_cast<std::size_t>(column)).IsSpare && isWished(column)) {
+            m_isAway[column] = needed > m_view.viewport()->width();
+            needed -= m_isAway.at(column) ? m_least.at(column) : 0;
+            header.setSectionHidden(column, m_isAway.at(column));
+        }
+    }
+}
+
 void cColumnFit::Fit()
 {
     if (m_isFitting) {
         return;
     }
     const QScopedValueRollback guard(m_isFitting, true);
+    SendAway();
     QHeaderView& header = *m_view.header();
     QList<int> shown;
     QList<modColumnWidth::cColumn> columns;
@@ -120,6 +140,7 @@ void cColumnFit::Fit()
 void cColumnFit::SetShown(int column, bool isShown)
 {
     const QScopedValueRollback guard(m_isFitting, true); // the width that it gets then is nobody's wish
+    m_isAway[column] = false;
     m_view.header()->setSectionHidden(column, !isShown);
 }
 
@@ -160,7 +181,7 @@ cListLayout cColumnFit::Layout() const
     cListLayout layout;
     for (int visual = 0; visual < header.count(); ++visual) {
         const int column = header.logicalIndex(visual);
-        layout.Columns.push_back({column, m_wanted.at(column), !header.isSectionHidden(column)});
+        layout.Columns.push_back({column, m_wanted.at(column), m_isAway.at(column) || !header.isSectionHidden(column)});
     }
     layout.SortColumn = header.sortIndicatorSection();
     layout.IsDescending = header.sortIndicatorOrder() == Qt::DescendingOrder;

@@ -11,8 +11,8 @@
 class QTreeView;
 
 // Keeps the columns of a list in its width: columns of texts give way before the list has to scroll, days and amounts
-// are never cut, and what is left goes to one column. Widths that the user drags are kept as what he wants, also while
-// the window is too narrow for them.
+// are never cut, and what is left goes to one column. A spare column stays away where it could not be read. Widths that
+// the user drags are kept as what he wants, also while the window is too narrow for them.
 class cColumnFit final : public QObject
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ public:
         int Letters = 0; // width by default, in average letters of the font
         eKind Kind = eKind::Text;
         int LeastLetters = 4; // of a text; days and amounts keep what they need
+        bool IsSpare = false; // what it says stands elsewhere as well
     };
 
     cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest);
@@ -41,6 +42,7 @@ protected:
 
 private:
     void Measure();
+    void SendAway();
     void TakeDragged(int column, int width);
     [[nodiscard]] int Letter() const;
     [[nodiscard]] int Wanted(int column) const; // pixels
@@ -52,6 +54,7 @@ private:
     int m_rest;
     QList<int> m_wanted; // pixels as set by the user; 0: by default
     QList<int> m_least;
+    QList<bool> m_isAway; // spare columns without room
     int m_dragged = -1;
     bool m_isFitting = false;
 };
