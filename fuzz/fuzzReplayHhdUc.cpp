@@ -6,9 +6,8 @@
 #include <cstdint>
 #include <cstdio>
 
-// libFuzzer calls it by this name.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
-                                      std::size_t size); // NOLINT(readability-redundant-declaration)
+// libFuzzer calls it by this name. NOLINTNEXTLINE(readability-redundant-declaration)
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 int main(int argc, char** argv)
 {
