@@ -270,7 +270,10 @@ void cMainProgram::BuildReminder()
 {
     m_reminder = std::make_unique<cReminderModel>(*m_tools, *m_navigation, m_ports.Notifier);
     QObject::connect(m_model.get(), &cMainModel::BookRefreshed, m_reminder.get(), &cReminderModel::BookChanged);
-    QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_reminder.get(), &cReminderModel::StatementsChanged);
+    QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_reminder.get(), &cReminderModel::BookChanged);
+    QObject::connect(m_review.get(), &cImportReview::RowsStaged, m_reminder.get(), &cReminderModel::StatementsChanged);
+    QObject::connect(m_review.get(), &cImportReview::EntriesChanged, m_reminder.get(),
+                     &cReminderModel::StatementsChanged);
     QObject::connect(m_reminder.get(), &cReminderModel::Changed, m_window.get(),
                      [this] { m_window->ShowReminder(m_reminder->Text()); });
     QObject::connect(m_reminder.get(), &cReminderModel::OverviewWanted, m_window.get(),

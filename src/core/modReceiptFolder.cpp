@@ -11,8 +11,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QStringList>
+#include <QSet>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -55,12 +56,9 @@ bool StepAside(const QFileInfo& old)
     return QFile::rename(old.filePath(), target);
 }
 
-enum class eSameName { Keep, StepAside };
-
 // One file that cannot be copied keeps none of the others back; the first problem is told.
-QString CopyMissing(const QString& from, const QString& to, eSameName same)
+QString CopyAll(const QFileInfoList& files, const QString& to)
 {
-    const QFileInfoList files = QDir(from).entryInfoList(QDir::Files);
     if (files.isEmpty()) {
         return {};
     }
@@ -70,11 +68,7 @@ QString CopyMissing(const QString& from, const QString& to, eSameName same)
     QString problem;
     for (const QFileInfo& file : files) {
         const QFileInfo target(QDir(to), file.fileName());
-        const bool isThere = target.exists();
-        if (isThere && (same == eSameName::Keep || IsSame(file, target))) {
-            continue;
-        }
-        const bool isCopied = (!isThere || StepAside(target)) && CopyWhole(file, target.filePath());
+        const bool isCopied = (!target.exists() || StepAside(target)) && CopyWhole(file, target.filePath());
         if (!isCopied && problem.isEmpty()) {
             problem = cText::Tr("Der Beleg '{0}' konnte nicht nach '{1}' kopiert werden. Bitte prüfen Sie die "
                                 "Zugriffsrechte und den Speicherplatz.",
@@ -93,18 +87,14 @@ QString NameOf(const QFileInfo& backup)
 
 const QString folderEnding = u"-Belege"_s;
 
-// Where the receipts of a backup may lie: in the folder of the book that it is loaded into, or, when it comes from
-// somewhere else, in those of other books, the one changed last first.
+// Where the receipts of a backup may lie: in the folder of the book that it is loaded into, and in those of other
+// books, the one changed last first, for the book may have been somewhere else when the backup was made.
 QStringList FoldersFor(const QString& backup, const QString& book)
 {
-    const QString own = modReceiptFolder::CopyOf(book, backup);
-    if (QFileInfo(own).isDir()) {
-        return {own};
-    }
     const QFileInfo file(backup);
     const QRegularExpression name(u'^' + QRegularExpression::escape(NameOf(file)) + u"(-[0-9a-f]{6})?"_s + folderEnding
                                   + u'$');
-    QStringList folders;
+    QStringList folders{modReceiptFolder::CopyOf(book, backup)};
     const QFileInfoList all = file.absoluteDir().entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
     for (const QFileInfo& each : all) {
         if (name.match(each.fileName()).hasMatch()) {
@@ -134,7 +124,13 @@ QString modReceiptFolder::CopyOf(const QString& book, const QString& backup)
 
 QString modReceiptFolder::Save(const QString& book, const QString& backup)
 {
-    return CopyMissing(Of(book), CopyOf(book, backup), eSameName::StepAside);
+    const QString copies = CopyOf(book, backup);
+    QFileInfoList files = QDir(Of(book)).entryInfoList(QDir::Files);
+    files.removeIf([&](const QFileInfo& file) {
+        const QFileInfo copy(QDir(copies), file.fileName());
+        return copy.exists() && IsSame(file, copy);
+    });
+    return CopyAll(files, copies);
 }
 
 QString modReceiptFolder::SaveIfWished(const cConfiguration& configuration, const QString& book, const QString& backup)
@@ -143,13 +139,18 @@ QString modReceiptFolder::SaveIfWished(const cConfiguration& configuration, cons
                                                                                         : QString();
 }
 
-QString modReceiptFolder::BringBack(const QString& backup, const QString& book)
+QString modReceiptFolder::BringBack(const QString& backup, const QString& book, const QStringList& names)
 {
-    QString problem;
+    const QDir receipts(Of(book));
     const QStringList folders = FoldersFor(backup, book);
-    for (const QString& folder : folders) {
-        const QString each = CopyMissing(folder, Of(book), eSameName::Keep);
-        problem = problem.isEmpty() ? each : problem;
+    QFileInfoList files;
+    const QSet<QString> wanted(names.begin(), names.end());
+    for (const QString& name : wanted) {
+        const auto folder = std::find_if(folders.begin(), folders.end(),
+                                         [&](const QString& each) { return QFileInfo(QDir(each), name).isFile(); });
+        if (folder != folders.end() && !receipts.exists(name)) {
+            files.append(QFileInfo(QDir(*folder), name));
+        }
     }
-    return problem;
+    return CopyAll(files, receipts.path());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class cConfiguration;
 
@@ -23,7 +24,7 @@ namespace modReceiptFolder {
 // The same where the user wants receipts in the backups; else nothing, and no problem.
 [[nodiscard]] QString SaveIfWished(const cConfiguration& configuration, const QString& book, const QString& backup);
 
-// Copies the other way what the book's folder lacks; what is there stays as it is.
-[[nodiscard]] QString BringBack(const QString& backup, const QString& book);
+// Copies the other way those of the names that the book's folder lacks; what is there stays as it is.
+[[nodiscard]] QString BringBack(const QString& backup, const QString& book, const QStringList& names);
 
 } // namespace modReceiptFolder

@@ -29,12 +29,13 @@ const std::array<cForm, 6>& Forms()
     static const QString month = u"(?<month>0[1-9]|1[0-2])"_s;
     static const QString day = u"(?<day>0[1-9]|[12]\\d|3[01])"_s;
     static const QString sign = u"[-_. ]"_s;
+    static const QString ofStatement = u"(?<!(?i:nr)[_. ])(?<!(?i:nr)\\. )"_s; // "Nr. 11_2026" is the eleventh
     static const std::array<cForm, 6> forms{{{Pattern(year + sign + month + sign + day), true},
                                              {Pattern(day + sign + month + sign + year), true},
                                              {Pattern(year + month + day), true},
                                              {Pattern(day + month + year), true},
                                              {Pattern(year + sign + u'?' + month), false},
-                                             {Pattern(month + sign + u'?' + year), false}}};
+                                             {Pattern(ofStatement + month + sign + u'?' + year), false}}};
     return forms;
 }
 
@@ -45,14 +46,10 @@ QDate MonthInWords(const QString& text)
                                    u"mai"_s,       u"juni"_s,    u"juli"_s,     u"august"_s,
                                    u"september"_s, u"oktober"_s, u"november"_s, u"dezember"_s};
     static const QRegularExpression year(u"(?<!\\d)20\\d\\d(?!\\d)"_s);
+    static const QRegularExpression month(u"(?<!\\p{L})(%1)(?!\\p{L})"_s.arg(names.join(u'|'))); // not that of "Mainz"
     const QString words = text.toLower().replace(u"maerz"_s, u"märz"_s);
-    const QString found = year.match(words).captured();
-    for (qsizetype i = 0; i < names.size() && !found.isEmpty(); ++i) {
-        if (words.contains(names.at(i))) {
-            return {found.toInt(), static_cast<int>(i) + 1, 1};
-        }
-    }
-    return {};
+    const qsizetype index = names.indexOf(month.match(words).captured());
+    return index < 0 ? QDate() : QDate(year.match(words).captured().toInt(), static_cast<int>(index) + 1, 1);
 }
 
 } // namespace

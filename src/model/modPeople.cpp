@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -116,10 +118,23 @@ modPeople::cShares modPeople::Renamed(const cShares& shares, const QString& oldN
 
 modPeople::cShares modPeople::PerCent(const cShares& shares)
 {
+    constexpr qint64 hundred = 100;
+    const qint64 sum = std::accumulate(shares.begin(), shares.end(), qint64{0},
+                                       [](qint64 parts, const cShare& share) { return parts + share.Part; });
+    // Those who would lose most by rounding come first, because what is left over goes to the first.
+    QList<qsizetype> order(shares.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&](qsizetype a, qsizetype b) {
+        return sum > 0 && hundred * shares.at(a).Part % sum > hundred * shares.at(b).Part % sum;
+    });
+    cShares sorted;
+    for (const qsizetype i : std::as_const(order)) {
+        sorted.append(shares.at(i));
+    }
+    const QList<qint64> parts = Split(hundred, sorted);
     cShares whole = shares;
-    const QList<qint64> parts = Split(100, shares);
     for (qsizetype i = 0; i < whole.size(); ++i) {
-        whole[i].Part = static_cast<int>(parts.at(i));
+        whole[order.at(i)].Part = static_cast<int>(parts.at(i));
     }
     return whole;
 }

@@ -188,6 +188,8 @@ void testCliReport::Refused_data()
     QTest::newRow("limit below zero") << u"budget|set|Auto; Benzin|2026-03|-5"_s << 2 << u"unter null"_s;
     QTest::newRow("no expense") << u"budget|set|Einkommen; Freiberuflich|2026-03|5"_s << 1 << u"kein Budget"_s;
     QTest::newRow("no people") << u"add|--amount|5|--category|Benzin|--payer|Anna"_s << 1 << u"people add"_s;
+    QTest::newRow("no person") << u"people|rename||Anna"_s << 1 << u"people add"_s;
+    QTest::newRow("shares of no account") << u"people|shares||ohne"_s << 2 << u"Gemeinsames"_s;
     QTest::newRow("no share") << u"people|shares|Girokonto|ohne=5"_s << 1 << u"people add"_s;
     QTest::newRow("no such account") << u"report|summe|--account|Nirgends"_s << 1 << u"Nirgends"_s;
     QTest::newRow("period and days") << u"report|summe|--period|Letzter Monat|--from|2026-01-01"_s << 2

@@ -1,5 +1,6 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -35,6 +36,11 @@ private Q_SLOTS:
                                   QStringList{u"--profile"_s, folder.path()} + words.split(u'|'));
         };
         QCOMPARE(run(u"import|--book-account|Girokonto|"_s + file.fileName()).Code, 0);
+        // Another number of the account, as online banking names it: no rows are read for it.
+        cTestFile::Run(
+            folder.filePath(u"Veltrino Kontorelle/data.db"_s),
+            "INSERT INTO setting (SettingName, SettingValue) VALUES ('KTO:DE02120300000000202051', 'Girokonto')");
+        QCOMPARE(run(u"reconcile|--account|DE02120300000000202051"_s).Code, 1);
         const QJsonObject all =
             QJsonDocument::fromJson(run(u"statement|--account|girokonto|--json"_s).Out.toUtf8()).object();
         QCOMPARE(cCliRun::Column(all.value(u"Differences"_s).toArray(), u"Missing"_s), QStringList(u"-23.1"_s));

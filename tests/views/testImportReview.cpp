@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
+#include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/testBook.h"
@@ -436,6 +437,10 @@ private Q_SLOTS:
         page.Review.FollowEntries();
         QCOMPARE(entries.size(), 2);
         QCOMPARE(page.Data.GetEntries({}).value(0).EntryDescription, u"Nachgetragen"_s);
+        cEntryItem part = page.Data.GetEntries({}).value(0);
+        modSplit::SetGroup(part, part.ID);
+        QVERIFY(page.Data.ChangeEntry(part) && page.Data.AddNewEntry(part));
+        QCOMPARE(page.Review.StartChange({id})->Count(), 2); // the whole purchase
         page.Review.View().SetUncategorisedOnly(false);
         QVERIFY(page.Review.StartChange({id, page.AllIds().first()}) == nullptr); // one of them has no entry yet
     }

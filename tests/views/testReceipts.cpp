@@ -36,7 +36,10 @@ struct cScene
         }
         return file.fileName();
     }
-    QStringList Folder() const { return QDir(Receipts.Folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    QStringList Folder() const
+    {
+        return QDir(modReceiptFolder::Of(Book.Path())).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
     QStringList Names(int entry) { return modReceiptName::Of(Book.Data.LoadEntry(entry).value_or(cEntryItem{})); }
     QByteArray Content(const QString& name) const
     {
@@ -337,10 +340,10 @@ void testReceipts::BackupsShareOneFolder()
 
     // What is there stays, what is missing comes back, also in another place.
     QVERIFY(file.remove());
-    QCOMPARE(modReceiptFolder::BringBack(two, scene.Book.Path()), QString());
+    QCOMPARE(modReceiptFolder::BringBack(two, scene.Book.Path(), {first, first}), QString());
     QCOMPARE(scene.Content(first), "noch anderes");
     const QString elsewhere = scene.File(u"buch.db"_s, "x");
-    QCOMPARE(modReceiptFolder::BringBack(two, elsewhere), QString());
+    QCOMPARE(modReceiptFolder::BringBack(two, elsewhere, {first}), QString());
     QVERIFY(QFile::exists(scene.Outside.filePath(u"Belege/"_s + first)));
 }
 
@@ -353,14 +356,20 @@ void testReceipts::BackupsOfTwoBooksStayApart()
     for (int round = 0; round < 2; ++round) {
         for (cScene* each : {&scene, &other}) {
             const QString path = each->File(u"Rechnung.pdf"_s, each == &scene ? "eins" : "zwei");
-            QVERIFY(QDir().mkpath(each->Receipts.Folder()));
+            QVERIFY(QDir().mkpath(modReceiptFolder::Of(each->Book.Path())));
             (void)QFile::copy(path, each->Receipts.File(u"Rechnung.pdf"_s).Path);
+            for (const QString& name : {u"Brief.pdf"_s, u"Foto.png"_s}) {
+                (void)QFile::copy(path, other.Receipts.File(name).Path);
+            }
             QCOMPARE(modReceiptFolder::Save(each->Book.Path(), backup), QString());
         }
     }
     QVERIFY(QFile::remove(scene.Receipts.File(u"Rechnung.pdf"_s).Path));
-    QCOMPARE(modReceiptFolder::BringBack(backup, scene.Book.Path()), QString());
+    // The letter was saved while the book lay where the other one is.
+    const QStringList names{u"Rechnung.pdf"_s, u"Brief.pdf"_s};
+    QCOMPARE(modReceiptFolder::BringBack(backup, scene.Book.Path(), names), QString());
     QCOMPARE(scene.Content(u"Rechnung.pdf"_s), "eins");
+    QCOMPARE(scene.Folder(), (QStringList{u"Brief.pdf"_s, u"Rechnung.pdf"_s}));
 }
 
 void testReceipts::OneBadReceiptKeepsNoneBack()
@@ -381,7 +390,7 @@ void testReceipts::LinkToABookHasItsReceipts()
     const cScene scene;
     const QString link = scene.Outside.filePath(u"haushalt.db"_s);
     QVERIFY(QFile::link(scene.Book.Path(), link));
-    QCOMPARE(modReceiptFolder::Of(link), scene.Receipts.Folder());
+    QCOMPARE(modReceiptFolder::Of(link), modReceiptFolder::Of(scene.Book.Path()));
 }
 
 TEST_CLASS(testReceipts, QCoreApplication)

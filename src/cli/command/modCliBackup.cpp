@@ -35,7 +35,7 @@ int Refuse(const QString& text)
 int Replace(const cCliContext& context, const QString& path, const QString& backup)
 {
     const modBookCopy::cRestored restored =
-        modBookCopy::Restore(path, backup, context.Clock.Today(), context.Shell, context.Ports.Lock);
+        modBookCopy::Restore(path, backup, context.Clock.Today(), context.Shell, context.Ports.Lock, context.User);
     if (!restored.Problem.isEmpty()) {
         return Refuse(restored.Problem);
     }

@@ -11,7 +11,6 @@
 #include "views/chart/cForecast.h"
 #include "views/chart/modChart.h"
 #include "views/chart/modChartTable.h"
-#include "views/list/modFileWrite.h"
 
 #include <QFileInfo>
 
@@ -128,9 +127,7 @@ int RunChart(const cCliContext& context)
         if (path.isEmpty()) {
             continue;
         }
-        const QString problem = modFileWrite::Export(context.Book->Data, path, Bytes(context, target, chart));
-        if (!problem.isEmpty()) {
-            context.User.Show(eTone::Critical, problem);
+        if (!modCliFlow::WriteFile(context, path, Bytes(context, target, chart))) {
             return modExit::Failed;
         }
         modCliFlow::SayWritten(path);

@@ -2,6 +2,8 @@
 
 #include "base/cText.h"
 #include "cli/cCliBook.h"
+#include "cli/console/cCliReader.h"
+#include "views/list/modFileWrite.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,6 +32,24 @@ cConsoleUser::cAnswers modCliFlow::RemovalAnswers(const cCliContext& context, co
         answers.Choice = target;
     }
     return answers;
+}
+
+void modCliFlow::CheckTargets(const cCliContext& context, cCliReader& reader, const QStringList& options)
+{
+    for (const QString& option : options) {
+        if (context.Call.Has(option)) {
+            reader.CheckTarget(context.Call.Value(option));
+        }
+    }
+}
+
+bool modCliFlow::WriteFile(const cCliContext& context, const QString& path, const QByteArray& bytes)
+{
+    const QString problem = modFileWrite::Export(context.Book->Data, path, bytes);
+    if (!problem.isEmpty()) {
+        context.User.Show(eTone::Critical, problem);
+    }
+    return problem.isEmpty();
 }
 
 void modCliFlow::SayWritten(const QString& path)

@@ -4,7 +4,9 @@
 #include "cli/modCliCommands.h"
 #include "views/statement/cStatementDesk.h"
 
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 // What commands that write have in common.
 namespace modCliFlow {
@@ -18,6 +20,10 @@ namespace modCliFlow {
 // is given.
 [[nodiscard]] cConsoleUser::cAnswers RemovalAnswers(const cCliContext& context, const QString& target);
 
+// Checks the files that these options name: none may be the book.
+void CheckTargets(const cCliContext& context, cCliReader& reader, const QStringList& options);
+// Writes a file that was made from the book; false after a message.
+[[nodiscard]] bool WriteFile(const cCliContext& context, const QString& path, const QByteArray& bytes);
 // Says that a file was written.
 void SayWritten(const QString& path);
 

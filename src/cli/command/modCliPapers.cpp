@@ -12,8 +12,6 @@
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cStatementPapers.h"
 
-#include <QDir>
-
 #include <limits>
 #include <memory>
 
@@ -30,7 +28,7 @@ cCliOption AccountOption()
 QString NumberMeant(cCliReader& reader, const cCliContext& context)
 {
     const cStatementListModel statement(context.Book->Tools);
-    return modCliCommands::StatementNumber(reader, statement, context.Call.Value(u"account"_s));
+    return modCliCommands::PaperNumber(reader, statement, context.Call.Value(u"account"_s));
 }
 
 int ListPapers(const cCliContext& context)
@@ -74,14 +72,10 @@ int AddPapers(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    QList<cReceiptSource> sources;
-    for (const QString& path : context.Call.Arguments()) {
-        sources.append({QDir::cleanPath(QDir().absoluteFilePath(path))});
-    }
     context.User.Prepare({.Hint = cText::Tr("Mit --month 2026-03 sagen Sie den Monat.")});
     cStatementPapers papers(context.Book->Tools, number);
     papers.SetDay(day);
-    return modCliFlow::Finish(context, papers.Add(sources));
+    return modCliFlow::Finish(context, papers.Add(cReceiptFolder::Sources(context.Call.Arguments())));
 }
 
 int RemovePaper(const cCliContext& context)

@@ -113,10 +113,10 @@ QStringList ReadPercents(const QStringList& texts, const QStringList& names, cCl
     }
     for (const QString& text : texts) {
         const QString typed = text.section(u'=', 0, -2);
-        const qsizetype person = names.indexOf(reader.Person(typed));
         if (typed.isEmpty()) {
             reader.Misused(cText::Tr("'{0}' ist kein Anteil. Bitte geben Sie Name und Prozent an: Anna=60.", {text}));
         }
+        const qsizetype person = names.indexOf(reader.Person(typed));
         if (!reader.IsGood()) {
             return percents;
         }
@@ -133,6 +133,9 @@ int Shares(const cCliContext& context)
     const QString place = context.Call.Arguments().constFirst();
     const bool isShared = place.compare(u"Gemeinsames"_s, Qt::CaseInsensitive) == 0 // in all languages
         && !people.Accounts().contains(place);
+    if (place.isEmpty()) { // of an account it would mean what all share
+        reader.Misused(cText::Tr("Bitte nennen Sie ein Konto oder \"Gemeinsames\"."));
+    }
     const QString account = isShared ? QString() : reader.Account(place);
     const QStringList percents = ReadPercents(context.Call.Arguments().mid(1), people.Names(), reader);
     if (!reader.IsGood()) {

@@ -12,8 +12,6 @@
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cReceipts.h"
 
-#include <QDir>
-
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
@@ -109,10 +107,7 @@ int Attach(const cCliContext& context)
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    QList<cReceiptSource> sources;
-    for (const QString& path : context.Call.Arguments().mid(1)) {
-        sources.append({QDir::cleanPath(QDir().absoluteFilePath(path))});
-    }
+    const QList<cReceiptSource> sources = cReceiptFolder::Sources(context.Call.Arguments().mid(1));
     return modCliFlow::Finish(context, cReceipts(context.Book->Tools).Add(ids.constFirst(), sources));
 }
 

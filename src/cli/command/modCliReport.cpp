@@ -10,7 +10,6 @@
 #include "cli/modCliCommands.h"
 #include "core/cSettings.h"
 #include "model/modWord.h"
-#include "views/list/modFileWrite.h"
 #include "views/list/modUnread.h"
 #include "views/report/cReportExport.h"
 #include "views/report/cReportSource.h"
@@ -64,12 +63,7 @@ cReportWish ReadWish(const cCliContext& context, cCliReader& reader)
     wish.ShowsStart = !call.Has(u"no-start"_s);
     wish.Order = call.Has(u"by-amount"_s) ? eReportOrder::ByAmount : eReportOrder::ByName;
     wish.Spending = call.Has(u"gross"_s) ? eReportSpending::Gross : eReportSpending::Net;
-    const QStringList options = FileOptions();
-    for (const QString& option : options) {
-        if (call.Has(option)) {
-            reader.CheckTarget(call.Value(option));
-        }
-    }
+    modCliFlow::CheckTargets(context, reader, FileOptions());
     return wish;
 }
 
@@ -195,14 +189,9 @@ private:
 // As it is printed: without links. False after a message.
 bool WritePdf(const cCliContext& context, cReportSource& source, cReportWish wish)
 {
-    const QString path = context.Call.Value(u"pdf"_s);
     wish.Links = eReportLinks::Off;
-    const QByteArray bytes = context.Ports.Paint.PaintReport(source.Html(wish));
-    const QString problem = modFileWrite::Export(context.Book->Data, path, bytes);
-    if (!problem.isEmpty()) {
-        context.User.Show(eTone::Critical, problem);
-    }
-    return problem.isEmpty();
+    return modCliFlow::WriteFile(context, context.Call.Value(u"pdf"_s),
+                                 context.Ports.Paint.PaintReport(source.Html(wish)));
 }
 
 // Writes the files that are asked for; their paths, or nothing after a message.
@@ -233,12 +222,12 @@ std::optional<QStringList> WriteFiles(const cCliContext& context, cReportSource&
 int Write(const cCliContext& context, const cReportWish& wish)
 {
     cReportSource source(context.Book->Tools);
-    const std::optional<QStringList> paths = WriteFiles(context, source, wish);
-    if (!paths) {
-        return modExit::Failed;
-    }
     if (source.Figures(wish).IsUnread) {
         modConsole::Error(modUnread::Title());
+        return modExit::Failed;
+    }
+    const std::optional<QStringList> paths = WriteFiles(context, source, wish);
+    if (!paths) {
         return modExit::Failed;
     }
     if (context.Call.Has(u"json"_s)) {

@@ -10,7 +10,6 @@
 #include "cli/console/modCliRecord.h"
 #include "cli/modCliCommands.h"
 #include "model/modWord.h"
-#include "views/list/modFileWrite.h"
 #include "views/list/modUnread.h"
 #include "views/people/cPeople.h"
 #include "views/people/modSettlementExport.h"
@@ -127,9 +126,7 @@ std::optional<int> WriteFiles(const cCliContext& context, const cSettlement& set
         if (path.isEmpty()) {
             continue;
         }
-        const QString problem = modFileWrite::Export(context.Book->Data, path, Bytes(option, settlement, context));
-        if (!problem.isEmpty()) {
-            context.User.Show(eTone::Critical, problem);
+        if (!modCliFlow::WriteFile(context, path, Bytes(option, settlement, context))) {
             return std::nullopt;
         }
         written.append(path);
@@ -144,12 +141,7 @@ int Run(const cCliContext& context)
 {
     cCliReader reader(context);
     const modPeriod::cRange days = reader.Period(modWord::AktuellesJahr);
-    const QStringList options = FileOptions();
-    for (const QString& option : options) {
-        if (context.Call.Has(option)) {
-            reader.CheckTarget(context.Call.Value(option));
-        }
-    }
+    modCliFlow::CheckTargets(context, reader, FileOptions());
     if (!reader.IsGood()) {
         return reader.Report();
     }

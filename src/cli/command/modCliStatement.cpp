@@ -122,11 +122,10 @@ int RunStatement(const cCliContext& context)
     return modExit::Done;
 }
 
-} // namespace
-
-QString modCliCommands::StatementNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text)
+// The one of `numbers` that is meant; `unknown` is said where none is.
+QString NumberOf(const QStringList& numbers, const QString& text, const QString& unknown, cCliReader& reader,
+                 const cStatementListModel& statement)
 {
-    const QStringList& numbers = statement.Numbers();
     if (text.isEmpty() && numbers.size() == 1) {
         return numbers.first();
     }
@@ -138,12 +137,27 @@ QString modCliCommands::StatementNumber(cCliReader& reader, const cStatementList
     if (numbers.contains(text)) {
         return text;
     }
-    const QStringList meant = statement.NumbersMeant(text);
+    QStringList meant = statement.NumbersMeant(text);
+    meant.removeIf([&](const QString& number) { return !numbers.contains(number); });
     if (meant.size() != 1) {
-        reader.Missing(meant.isEmpty() ? cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text})
+        reader.Missing(meant.isEmpty() ? unknown
                                        : cText::Tr("'{0}' hat mehrere Kontonummern: {1}", {text, meant.join(u", "_s)}));
     }
     return meant.value(0);
+}
+
+} // namespace
+
+QString modCliCommands::StatementNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text)
+{
+    return NumberOf(statement.Ledger().Numbers(), text,
+                    cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text}), reader, statement);
+}
+
+QString modCliCommands::PaperNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text)
+{
+    return NumberOf(statement.Numbers(), text, cText::Tr("Diese Kontonummer kennt das Buch nicht: {0}", {text}), reader,
+                    statement);
 }
 
 cCliCommand modCliCommands::StatementCommand()

@@ -221,7 +221,7 @@ QString cCliReader::Person(const QString& text)
 {
     const QStringList names = cPeople(m_context.Book->Tools).Names();
     const QStringList meant = names.contains(text) ? QStringList{text} : Meant(names, text, Itself);
-    if (meant.isEmpty() && !text.isEmpty()) {
+    if (meant.isEmpty()) {
         Missing(names.isEmpty()
                     ? cText::Tr("Noch gibt es keine Personen. \"people add NAME\" legt eine an.")
                     : cText::Tr("Die Person '{0}' gibt es nicht. Möglich sind: {1}.", {text, names.join(u", "_s)}));
@@ -231,6 +231,9 @@ QString cCliReader::Person(const QString& text)
 
 QString cCliReader::Payer(const QString& text)
 {
+    if (text.isEmpty()) {
+        return {};
+    }
     return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0 ? modPeople::Nobody : Person(text);
 }
 

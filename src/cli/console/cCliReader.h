@@ -39,9 +39,9 @@ public:
     // Names in any letter case; of a category its sub-category alone is enough when there is only one of that name.
     [[nodiscard]] QString Account(const QString& text, eCliNames names = eCliNames::Defined);
     [[nodiscard]] QString Category(const QString& text, eCliNames names = eCliNames::Defined);
-    // A choice of modPeople; "ohne" is nobody.
+    // A choice of modPeople; "ohne" is nobody, an empty text anybody.
     [[nodiscard]] QString Payer(const QString& text);
-    [[nodiscard]] QString Person(const QString& text);
+    [[nodiscard]] QString Person(const QString& text); // none is meant by an empty text
     // True when a whole path is meant by the text.
     [[nodiscard]] bool IsCategoryPath(const QString& text, eCliNames names) const;
     // The day of the occurrence of a series whose period holds the day named.

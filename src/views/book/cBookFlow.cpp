@@ -11,6 +11,7 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "core/modReceiptFolder.h"
+#include "core/modReceiptUse.h"
 #include "model/modSettingKey.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
@@ -243,7 +244,8 @@ void cBookFlow::Replace(const QString& backup) const
                           cText::Tr("Die Datensicherung wurde geladen. Die bisherige Datenbank wurde "
                                     "als '{0}' aufgehoben.",
                                     {Shown(*kept)}));
-        TellReceipts(modReceiptFolder::BringBack(backup, m_parts.Book.Path()));
+        TellReceipts(
+            modReceiptFolder::BringBack(backup, m_parts.Book.Path(), modReceiptUse::Names(m_parts.Book.Data())));
     }
 }
 

@@ -9,6 +9,7 @@
 #include "core/cSettings.h"
 #include "core/modDemo.h"
 #include "core/modReceiptFolder.h"
+#include "core/modReceiptUse.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
@@ -61,15 +62,17 @@ QString modBookCopy::InUse(const cBookLock& lock, const QString& path)
 }
 
 modBookCopy::cRestored modBookCopy::Restore(const QString& path, const QString& backup, QDate today, cShell& shell,
-                                            cBookLock& lock)
+                                            cBookLock& lock, cUser& user)
 {
     if (lock.Take(path) == eLockState::Foreign) {
         return {{}, InUse(lock, path)};
     }
     cDatabase closed;
     const cBackup::cRestored restored = cBackup(closed, shell).Restore(path, backup, today);
+    cBook book(user);
+    const bool isOpen = restored.Problem.isEmpty() && book.OpenForReading(path);
     return {restored.Kept, restored.Problem,
-            restored.Problem.isEmpty() ? modReceiptFolder::BringBack(backup, path) : QString()};
+            isOpen ? modReceiptFolder::BringBack(backup, path, modReceiptUse::Names(book.Data())) : QString()};
 }
 
 int modBookCopy::WriteDemo(const QString& path, int entries, QDate today, cShell& shell, cUser& user,

@@ -27,8 +27,8 @@ struct cRestored
 
 // Puts a copy of `backup` in the place of the book's file `path`, which is kept beside it. Refused while another
 // program has the book.
-[[nodiscard]] cRestored Restore(const QString& path, const QString& backup, QDate today, cShell& shell,
-                                cBookLock& lock);
+[[nodiscard]] cRestored Restore(const QString& path, const QString& backup, QDate today, cShell& shell, cBookLock& lock,
+                                cUser& user);
 
 // Copies the template to `path` and fills it with the example household, a larger one where a number of `entries` is
 // given. The number of entries written; -1 when that fails, and the user has been told.

@@ -16,14 +16,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString MonthName(QDate month, const QString& form)
+QString ShortName(QDate month)
 {
-    return modDayNames::Language().toString(month, form);
+    return modDayNames::Language().toString(month, u"MMM"_s);
 }
 
 QString MonthTitle(int year, int month)
 {
-    return MonthName(modBudget::MonthOf(year, month), u"MMMM yyyy"_s);
+    return modDayNames::MonthText(modBudget::MonthOf(year, month));
 }
 
 } // namespace
@@ -260,7 +260,7 @@ QString cBudgetModel::Explanation(const cLine& line, int column) const
     case Carry: {
         const QDate from = m_edit.Rows().at(line.Row).Budget.CarriesFrom;
         return from.isValid()
-            ? cText::Tr("Was übrig bleibt, geht seit {0} in den nächsten Monat.", {MonthName(from, u"MMMM yyyy"_s)})
+            ? cText::Tr("Was übrig bleibt, geht seit {0} in den nächsten Monat.", {modDayNames::MonthText(from)})
             : cText::Tr("Was übrig bleibt, verfällt am Monatsende.");
     }
     case Year: return cText::Tr("Ein Betrag hier wird auf zwölf Monate verteilt.");
@@ -320,10 +320,10 @@ QVariant cBudgetModel::headerData(int section, Qt::Orientation orientation, int 
     switch (section) {
     case Plain: return cText::Tr("Monatslimit");
     case Carry: return cText::Tr("Übertragen");
-    case Spent: return cText::Tr("Ist {0}", {MonthName(modBudget::MonthOf(ShownYear(), m_month), u"MMM"_s)});
+    case Spent: return cText::Tr("Ist {0}", {ShortName(modBudget::MonthOf(ShownYear(), m_month))});
     case Left: return cText::Tr("Übrig");
     case Year: return cText::Tr("Jahr {0}", {QString::number(ShownYear())});
-    default: return MonthName(modBudget::MonthOf(ShownYear(), MonthOf(section)), u"MMM"_s);
+    default: return ShortName(modBudget::MonthOf(ShownYear(), MonthOf(section)));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "views/chart/cChartSteps.h"
 
+#include "base/modDayNames.h"
 #include "views/chart/modChart.h"
 
 #include <algorithm>
@@ -49,7 +50,7 @@ int cChartSteps::MonthsAt(int index) const
 QString cChartSteps::Label(int index) const
 {
     const QDate day = RangeAt(index).Start;
-    return m_isYears ? QString::number(day.year()) : modChart::MonthText(day);
+    return m_isYears ? QString::number(day.year()) : modDayNames::MonthText(day);
 }
 
 QString cChartSteps::ShortLabel(int index) const

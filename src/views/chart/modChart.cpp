@@ -96,7 +96,7 @@ QString modChart::RangeText(const modPeriod::cRange& range)
     }
     const QString year = QString::number(range.Start.year());
     if (IsWhole(range, 1)) {
-        return MonthText(range.Start);
+        return modDayNames::MonthText(range.Start);
     }
     if (IsWhole(range, 3)) {
         return cText::Tr("{0}. Quartal {1}", {QString::number((range.Start.month() + 2) / 3), year});
@@ -106,11 +106,6 @@ QString modChart::RangeText(const modPeriod::cRange& range)
     }
     return range.Start == range.End ? modDate::ToText(range.Start)
                                     : u"%1–%2"_s.arg(modDate::ToText(range.Start), modDate::ToText(range.End));
-}
-
-QString modChart::MonthText(QDate month)
-{
-    return modDayNames::Language().toString(month, u"MMMM yyyy"_s);
 }
 
 QString modChart::ShortMonthText(QDate month)

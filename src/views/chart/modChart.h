@@ -85,8 +85,7 @@ void UseLooks(cChartData& data, const cCategoryLooks& looks);
 // A period in words: "2026", "März 2026", "1. Quartal 2026", "01.02.2026–15.05.2026".
 [[nodiscard]] QString RangeText(const modPeriod::cRange& range);
 
-// "März 2026" and "Mär 26".
-[[nodiscard]] QString MonthText(QDate month);
+// "Mär 26"
 [[nodiscard]] QString ShortMonthText(QDate month);
 
 // "März"; of months from 1 on.

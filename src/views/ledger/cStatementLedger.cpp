@@ -50,7 +50,7 @@ private:
 
 } // namespace
 
-QStringList cStatementLedger::Numbers()
+QStringList cStatementLedger::Numbers() const
 {
     return m_data.GetImportAccounts();
 }

@@ -40,7 +40,7 @@ class cStatementLedger
 public:
     cStatementLedger(cDataAccess& data, cSettings& settings) : m_data(data), m_settings(settings) {}
 
-    [[nodiscard]] QStringList Numbers();                          // of all staged rows
+    [[nodiscard]] QStringList Numbers() const;                    // of all staged rows
     [[nodiscard]] QString AccountOf(const QString& number) const; // of the book; empty when the number is not assigned
 
     void Load(const QString& number);

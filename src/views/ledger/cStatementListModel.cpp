@@ -6,6 +6,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "core/modReceiptUse.h"
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cAccountMap.h"
 #include "model/modCutText.h"
@@ -14,7 +15,6 @@
 #include "views/ledger/modBalanceText.h"
 #include "views/list/cListFilter.h"
 #include "views/list/modUnread.h"
-#include "views/receipt/cStatementPapers.h"
 #include "views/statement/modImportText.h"
 
 #include <algorithm>
@@ -75,7 +75,7 @@ cStatementListModel::~cStatementListModel() = default;
 // There is nothing to see of them yet, but their statements may be there on paper.
 void cStatementListModel::TakeOtherNumbers()
 {
-    QStringList others = cStatementPapers::All(m_tools.Data).keys();
+    QStringList others = modReceiptUse::Papers(m_tools.Data).keys();
     const QList<std::pair<QString, QString>> mapping = cAccountMap(m_tools.Data, m_tools.Settings).Mapping();
     for (const auto& [number, account] : mapping) {
         others.append(number);
@@ -89,7 +89,7 @@ void cStatementListModel::TakeOtherNumbers()
 
 QString cStatementListModel::PapersText() const
 {
-    const qsizetype count = cStatementPapers(m_tools, Number()).Names().size();
+    const qsizetype count = modReceiptUse::PapersOf(m_tools.Settings, Number()).size();
     return count == 0 ? cText::Tr("&PDF-Auszüge…") : cText::Tr("&PDF-Auszüge ({0})…", {QString::number(count)});
 }
 

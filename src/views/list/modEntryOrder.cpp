@@ -93,15 +93,10 @@ QString WeekName(QDate day)
                      {QString::number(week), QString::number(year), modDate::ToText(Monday(day))});
 }
 
-QString MonthName(QDate day)
-{
-    return modDayNames::Language().standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
-}
-
 constexpr std::array<cDateGrouping, 3> dateGroupings{{
     {u"Nach Datum", DayKey, modEntryOrder::DayName},
     {u"Nach Woche", WeekKey, WeekName},
-    {u"Nach Monat", MonthKey, MonthName},
+    {u"Nach Monat", MonthKey, modDayNames::MonthText},
 }};
 
 using cTextOf = QString (*)(const cEntryItem&);

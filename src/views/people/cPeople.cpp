@@ -92,6 +92,11 @@ std::optional<QString> cPeople::Wrong(const QString& name, const QString& except
                    : std::nullopt;
 }
 
+bool cPeople::IsThere(const QString& name) const
+{
+    return Names().contains(name) || Refuse(cText::Tr("Die Person '{0}' gibt es nicht.", {name}));
+}
+
 bool cPeople::Add(const QString& typed)
 {
     const QString name = typed.simplified();
@@ -104,6 +109,9 @@ bool cPeople::Add(const QString& typed)
 
 bool cPeople::Rename(const QString& oldName, const QString& typed)
 {
+    if (!IsThere(oldName)) {
+        return false;
+    }
     const QString name = typed.simplified();
     if (const std::optional<QString> wrong = Wrong(name, oldName)) {
         return Refuse(*wrong);
@@ -116,14 +124,26 @@ bool cPeople::Rename(const QString& oldName, const QString& typed)
     return isDone;
 }
 
-QStringList cPeople::SharesWithout(const QString& name) const
+modPeople::cShares cPeople::SharesWithout(const QString& name, const QString& account) const
+{
+    for (const QString& place : {account, QString()}) {
+        if (modPeople::cShares shares = modPeople::Renamed(Stored(place), name, {}); !shares.isEmpty()) {
+            return shares;
+        }
+    }
+    QStringList others = Names();
+    others.removeAll(name);
+    return modPeople::Equal(others);
+}
+
+QStringList cPeople::ShareLinesWithout(const QString& name) const
 {
     QStringList lines;
     const QStringList places = QStringList{QString()} + Accounts();
     for (const QString& place : places) {
         const modPeople::cShares shares = Stored(place);
-        const modPeople::cShares left = modPeople::Renamed(shares, name, {});
-        if (left.size() != shares.size()) {
+        if (modPeople::Renamed(shares, name, {}).size() != shares.size()) {
+            const modPeople::cShares left = SharesWithout(name, place);
             lines.append((place.isEmpty() ? cText::Tr("Gemeinsames") : place) + u": "_s
                          + (left.isEmpty() ? cText::Tr("nichts mehr festgelegt") : SharesText(left)));
         }
@@ -133,12 +153,15 @@ QStringList cPeople::SharesWithout(const QString& name) const
 
 bool cPeople::Remove(const QString& name)
 {
+    if (!IsThere(name)) {
+        return false;
+    }
     const qsizetype count = CountOf(name);
     QString question = count == 0
         ? cText::Tr("Soll '{0}' gelöscht werden?", {name})
         : cText::Tr("Soll '{0}' gelöscht werden?\nBei {1} ist dann nicht mehr vermerkt, wer bezahlt hat.",
                     {name, modCount::Entries(static_cast<int>(count))});
-    if (const QStringList shares = SharesWithout(name); !shares.isEmpty()) {
+    if (const QStringList shares = ShareLinesWithout(name); !shares.isEmpty()) {
         question += u'\n' + cText::Tr("Der Anteil geht an die anderen:\n{0}", {shares.join(u'\n')});
     }
     if (m_tools.User.Ask({.Text = question, .Title = cText::Tr("Person löschen"), .Default = eAnswer::No})
@@ -261,6 +284,7 @@ cSettlement cPeople::Settlement(const modPeriod::cRange& range) const
     }
     cSettlement settlement =
         modSettlement::Figures(entries, Names(), [this](const QString& account) { return SharesOf(account); });
-    settlement.Range = {query.Start, query.End};
+    // A period that has not begun stays as it was asked for.
+    settlement.Range = query.End < query.Start ? range : modPeriod::cRange{query.Start, query.End};
     return settlement;
 }

@@ -58,12 +58,14 @@ public:
 
 private:
     bool Refuse(const QString& text) const;
+    [[nodiscard]] bool IsThere(const QString& name) const; // says when not
     [[nodiscard]] std::optional<QString> Wrong(const QString& name, const QString& except) const;
     [[nodiscard]] QList<int> EntriesOf(const QString& name) const;
     [[nodiscard]] bool Replace(const QString& oldName, const QString& newName);
     [[nodiscard]] bool Store(const QString& account, const modPeople::cShares& shares);
-    // What the shares become once the person is gone, a line for each account that they have a part of.
-    [[nodiscard]] QStringList SharesWithout(const QString& name) const;
+    // What counts once the person is gone; a line for each account that they have a part of.
+    [[nodiscard]] modPeople::cShares SharesWithout(const QString& name, const QString& account) const;
+    [[nodiscard]] QStringList ShareLinesWithout(const QString& name) const;
 
     const cBookTools& m_tools;
     fnRenamed m_onRenamed;

@@ -65,6 +65,15 @@ QString cReceiptFolder::NameOf(const cReceiptSource& source)
     return QFileInfo(source.Path).fileName();
 }
 
+QList<cReceiptSource> cReceiptFolder::Sources(const QStringList& paths)
+{
+    QList<cReceiptSource> sources;
+    for (const QString& path : paths) {
+        sources.append({QDir::cleanPath(QDir().absoluteFilePath(path))});
+    }
+    return sources;
+}
+
 bool cReceiptFolder::MayWrite() const
 {
     if (m_tools.Data.IsReadOnly()) {

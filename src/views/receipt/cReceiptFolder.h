@@ -3,6 +3,7 @@
 #include "model/cReceiptSource.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -49,6 +50,7 @@ public:
     bool Refuse(const QString& text) const; // shows it; false
 
     [[nodiscard]] static QString NameOf(const cReceiptSource& source); // as the user knows it
+    [[nodiscard]] static QList<cReceiptSource> Sources(const QStringList& paths);
 
 private:
     const cBookTools& m_tools;

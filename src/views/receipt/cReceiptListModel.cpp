@@ -18,19 +18,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QList<cReceiptSource> SourcesOf(const QStringList& paths)
-{
-    QList<cReceiptSource> sources;
-    for (const QString& path : paths) {
-        sources.append({path});
-    }
-    return sources;
-}
-
-} // namespace
-
 cReceiptListModel::cReceiptListModel(const cBookTools& tools, cFileDesk& desk, std::unique_ptr<cReceiptHolder> holder,
                                      QObject* parent)
     : QAbstractListModel(parent),
@@ -119,7 +106,7 @@ QString cReceiptListModel::MissingText(int row) const
 QList<cReceiptSource> cReceiptListModel::Ask(const cBookTools& tools)
 {
     const cReceiptHolder::cWords words = cEntryReceipts(tools, 0).Words();
-    return SourcesOf(tools.User.ChooseFiles(words.Add, words.Filter, words.Purpose));
+    return cReceiptFolder::Sources(tools.User.ChooseFiles(words.Add, words.Filter, words.Purpose));
 }
 
 QStringList cReceiptListModel::ChooseFiles(const QString& title) const
@@ -143,7 +130,7 @@ void cReceiptListModel::Add(const QList<cReceiptSource>& sources)
 
 void cReceiptListModel::AddFiles(const QStringList& paths)
 {
-    Add(SourcesOf(paths));
+    Add(cReceiptFolder::Sources(paths));
 }
 
 void cReceiptListModel::Paste(const QList<cReceiptSource>& sources)

@@ -3,11 +3,11 @@
 #include "base/cText.h"
 #include "core/cBookTools.h"
 #include "core/modReceiptFolder.h"
+#include "core/modReceiptUse.h"
 #include "model/modReceiptName.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/modEntryFields.h"
-#include "views/receipt/cStatementPapers.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -29,31 +29,9 @@ QString Bare(const QString& path)
     return QFileInfo(path).suffix().toLower();
 }
 
-cEntryItemList EntriesIn(cDataAccess& data)
-{
-    cEntryItemList entries = data.GetEntriesFlagged(modReceiptName::Mark);
-    entries.removeIf([](const cEntryItem& entry) { return modReceiptName::Count(entry) == 0; });
-    return entries;
-}
-
-// What entries and accounts of the book have, by name, each as often as it hangs somewhere.
-QStringList NamesIn(cDataAccess& data)
-{
-    QStringList names;
-    const cEntryItemList entries = EntriesIn(data);
-    for (const cEntryItem& entry : entries) {
-        names += modReceiptName::Of(entry);
-    }
-    const QMap<QString, QStringList> papers = cStatementPapers::All(data);
-    for (const QStringList& each : papers) {
-        names += each;
-    }
-    return names;
-}
-
 QStringList UnusedIn(cDataAccess& data)
 {
-    const QStringList names = NamesIn(data);
+    const QStringList names = modReceiptUse::Names(data);
     const QSet<QString> used(names.begin(), names.end());
     if (!data.IsWhole()) {
         return {};
@@ -83,11 +61,6 @@ bool cReceipts::IsDocument(const QString& path)
     return IsReceipt(path) || otherDocuments.contains(Bare(path));
 }
 
-QString cReceipts::Folder() const
-{
-    return cReceiptFolder(m_tools).Path();
-}
-
 cReceipts::cFile cReceipts::File(const QString& name) const
 {
     return cReceiptFolder(m_tools).File(name);
@@ -107,7 +80,7 @@ QList<cReceipts::cFile> cReceipts::Of(int entryId) const
 
 cEntryItemList cReceipts::Entries() const
 {
-    return EntriesIn(m_tools.Data);
+    return modReceiptUse::Entries(m_tools.Data);
 }
 
 cEntryItemList cReceipts::EntriesOf(const QString& name) const
@@ -119,7 +92,7 @@ cEntryItemList cReceipts::EntriesOf(const QString& name) const
 
 qsizetype cReceipts::CountUses(const QString& name) const
 {
-    return NamesIn(m_tools.Data).count(name);
+    return modReceiptUse::Names(m_tools.Data).count(name);
 }
 
 QStringList cReceipts::Unused() const
@@ -130,7 +103,7 @@ QStringList cReceipts::Unused() const
 QString cReceipts::CheckText(cDataAccess& data)
 {
     const QDir folder(modReceiptFolder::Of(data.BookPath()));
-    QStringList missing = NamesIn(data);
+    QStringList missing = modReceiptUse::Names(data);
     missing.removeDuplicates();
     missing.removeIf([&](const QString& name) { return QFileInfo(folder, name).isFile(); });
     const QStringList unused = UnusedIn(data);

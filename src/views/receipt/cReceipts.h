@@ -18,7 +18,6 @@ public:
 
     explicit cReceipts(const cBookTools& tools) : m_tools(tools) {}
 
-    [[nodiscard]] QString Folder() const;
     [[nodiscard]] QList<cFile> Of(int entryId) const;
     [[nodiscard]] cFile File(const QString& name) const;
 

@@ -3,15 +3,16 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "base/modDayNames.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "core/modReceiptUse.h"
 #include "import/stage/cAccountMap.h"
 #include "model/modPaperDay.h"
 #include "model/modReceiptName.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/chart/modChart.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -36,7 +37,7 @@ QString TextOf(const QString& name)
     if (!day.isValid()) {
         return name;
     }
-    const QString month = modChart::MonthText(day);
+    const QString month = modDayNames::MonthText(day);
     return modPaperDay::IsMonthOnly(name) ? month : cText::Tr("{0}. {1}", {QString::number(day.day()), month});
 }
 
@@ -45,24 +46,6 @@ QString TextOf(const QString& name)
 bool cStatementPapers::IsPaper(const QString& path)
 {
     return path.endsWith(u".pdf"_s, Qt::CaseInsensitive);
-}
-
-QMap<QString, QStringList> cStatementPapers::All(cDataAccess& data)
-{
-    QMap<QString, QStringList> papers;
-    const QList<std::pair<QString, QString>> settings = data.GetSettings();
-    for (const auto& [name, value] : settings) {
-        if (modSettingKey::StatementPapers.Holds(name)) {
-            papers.insert(modSettingKey::StatementPapers.PartOf(name), modReceiptName::Read(value));
-        }
-    }
-    return papers;
-}
-
-bool cStatementPapers::Drop(const cBookTools& tools, const QString& number)
-{
-    const cSettingKey key = modSettingKey::StatementPapers.Of(number);
-    return tools.Settings.Get(key).isEmpty() || tools.Settings.Delete(key);
 }
 
 QString cStatementPapers::Account() const
@@ -96,7 +79,7 @@ cReceiptHolder::cWords cStatementPapers::Words() const
 // The names begin with their days, so their order is that of the days.
 QStringList cStatementPapers::Names() const
 {
-    QStringList names = modReceiptName::Read(m_tools.Settings.Get(modSettingKey::StatementPapers.Of(m_number)));
+    QStringList names = modReceiptUse::PapersOf(m_tools.Settings, m_number);
     std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
         return std::tuple(modPaperDay::Read(b), b) < std::tuple(modPaperDay::Read(a), a);
     });
@@ -124,14 +107,14 @@ std::optional<QString> cStatementPapers::DayOf(const cReceiptSource& source) con
     const QDate newest = m_tools.Clock.Today().addMonths(1);
     QStringList months;
     for (int i = 0; i < mostMonths; ++i) {
-        months.append(modChart::MonthText(newest.addMonths(-i)));
+        months.append(modDayNames::MonthText(newest.addMonths(-i)));
     }
-    const QDate saved = QFileInfo(source.Path).lastModified().date();
+    const QDate saved = QFileInfo(source.Path).lastModified().date(); // mostly when the month was over
     const std::optional<QString> chosen =
         m_tools.User.Choose({.Text = cText::Tr("Von welchem Monat ist der Auszug '{0}'?", {name}),
                              .Title = cText::Tr("PDF-Auszüge hinzufügen"),
                              .Items = months,
-                             .Proposal = modChart::MonthText(saved)});
+                             .Proposal = modDayNames::MonthText(saved.addMonths(-1))});
     const qsizetype back = chosen ? months.indexOf(*chosen) : -1;
     return back < 0 ? std::nullopt : std::optional(modPaperDay::OfMonth(newest.addMonths(-static_cast<int>(back))));
 }
@@ -159,7 +142,7 @@ bool cStatementPapers::Store(const QStringList& names, const QString& step) cons
 {
     const cSettingKey key = modSettingKey::StatementPapers.Of(m_number);
     cUndoStep undo(m_tools.Data, step);
-    if (!undo.DoneIf(names.isEmpty() ? Drop(m_tools, m_number)
+    if (!undo.DoneIf(names.isEmpty() ? m_tools.Settings.Delete(key)
                                      : m_tools.Settings.Set(key, modReceiptName::Write(names)))) {
         m_tools.Settings.Reload();
         return false;

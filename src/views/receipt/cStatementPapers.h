@@ -3,13 +3,11 @@
 #include "views/receipt/cReceiptHolder.h"
 
 #include <QDate>
-#include <QMap>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
 
-class cDataAccess;
 struct cBookTools;
 
 // The statements of one account number that the bank gave as PDF, newest first. They are kept like receipts; their
@@ -34,10 +32,6 @@ public:
 
     // Whether a file dropped on a statement is meant so.
     [[nodiscard]] static bool IsPaper(const QString& path);
-    // The names in the book by account number.
-    [[nodiscard]] static QMap<QString, QStringList> All(cDataAccess& data);
-    // The account number has none any more; the files stay. False when the book refuses.
-    [[nodiscard]] static bool Drop(const cBookTools& tools, const QString& number);
 
 private:
     [[nodiscard]] QString Account() const;                                          // or the number where it has none

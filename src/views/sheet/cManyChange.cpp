@@ -57,25 +57,31 @@ cEntryItem Applied(cEntryItem entry, const cManyFields& fields, const QString& s
 
 } // namespace
 
-cManyChange::cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows)
+cManyChange::cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows, eParts parts)
     : m_tools(tools),
       m_suggestions(tools.Data, tools.User)
 {
     QSet<int> seen;
     for (const cEntryListModel::cKey& row : rows) {
-        if (seen.contains(row.ID)) {
-            continue;
-        }
-        seen.insert(row.ID);
-        const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(row.ID);
+        const std::optional<cEntryItem> entry = seen.contains(row.ID) ? std::nullopt : m_tools.Data.LoadEntry(row.ID);
         if (!entry) {
             continue;
         }
-        if (cStartBalance(m_tools.Data, m_tools.Format.Decimal()).IsOne(*entry)) {
-            ++m_startBalances;
-        } else {
-            m_entries.append(*entry);
+        const cEntryItemList group = parts == eParts::All ? cSplitGroup(m_tools.Data).Parts(*entry) : cEntryItemList();
+        const cEntryItemList meant = group.isEmpty() ? cEntryItemList{*entry} : group;
+        for (const cEntryItem& each : meant) {
+            seen.insert(each.ID);
+            Take(each);
         }
+    }
+}
+
+void cManyChange::Take(const cEntryItem& entry)
+{
+    if (cStartBalance(m_tools.Data, m_tools.Format.Decimal()).IsOne(entry)) {
+        ++m_startBalances;
+    } else {
+        m_entries.append(entry);
     }
 }
 

@@ -28,7 +28,9 @@ class cManyChange
 public:
     enum class eSaved { Saved, BadTarget, Refused }; // the user was told why it was not saved
 
-    cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows);
+    enum class eParts { Chosen, All }; // of split purchases, which the bank knows as a whole only
+
+    cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows, eParts parts = eParts::Chosen);
 
     [[nodiscard]] qsizetype Count() const { return m_entries.size(); } // of entries that can be changed
     // Whether there is any; else the user is told what to do instead.
@@ -48,6 +50,7 @@ public:
     [[nodiscard]] eSaved AskAndSave(const cManyFields& fields, const QString& shown = {});
 
 private:
+    void Take(const cEntryItem& entry);
     [[nodiscard]] cEntryItemList Affected(const cManyFields& fields) const;
     [[nodiscard]] cEntryItemList Changed(const cManyFields& fields, const QString& shown) const;
     [[nodiscard]] eSaved Store(const cEntryItemList& changed) const;

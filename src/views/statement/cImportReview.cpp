@@ -402,7 +402,7 @@ std::unique_ptr<cManyChange> cImportReview::StartChange(const QList<int>& rowIds
         entries.append(cEntryListModel::cKey{row.ImportAssigned ? row.ImportAssignedEntry : 0, {}});
     }
     const bool isBooked = std::all_of(entries.begin(), entries.end(), [](const auto& entry) { return entry.ID > 0; });
-    auto change = std::make_unique<cManyChange>(m_tools, entries);
+    auto change = std::make_unique<cManyChange>(m_tools, entries, cManyChange::eParts::All);
     return isBooked && change->Count() > 0 ? std::move(change) : nullptr;
 }
 

@@ -13,7 +13,6 @@
 #include "store/cUndoStep.h"
 #include "views/budget/modLimits.h"
 #include "views/look/cCategoryLooks.h"
-#include "views/receipt/cStatementPapers.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cNameKeepers.h"
 #include "views/template/cTemplateFlow.h"
@@ -334,18 +333,9 @@ bool cTemplateRemoval::RemoveAccount(const cTemplateItem& account, const QString
 {
     const QString name = account.TemplateName;
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' gelöscht", {name}));
-    const bool isWritten = DropPapers(name) && cBankNumbers(m_tools.Data, m_tools.Settings).ReleaseAll(name)
-        && DropShares(name) && (target.isEmpty() || MoveAccountEntries(name, target))
-        && m_tools.Data.DeleteTemplate(account.ID);
+    const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).ReleaseAll(name) && DropShares(name)
+        && (target.isEmpty() || MoveAccountEntries(name, target)) && m_tools.Data.DeleteTemplate(account.ID);
     return Finish(step.DoneIf(isWritten));
-}
-
-// The files stay in their folder.
-bool cTemplateRemoval::DropPapers(const QString& account)
-{
-    const QStringList numbers = cBankNumbers(m_tools.Data, m_tools.Settings).Of(account);
-    return std::all_of(numbers.begin(), numbers.end(),
-                       [this](const QString& number) { return cStatementPapers::Drop(m_tools, number); });
 }
 
 // Who had what part in an account that goes; the other one keeps its own.

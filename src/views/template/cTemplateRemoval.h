@@ -54,7 +54,6 @@ private:
     [[nodiscard]] bool Remove(const cDoomed& doomed, const QString& target);
     [[nodiscard]] bool WriteMergedMain(const QString& source, const QString& target);
     [[nodiscard]] bool RemoveAccount(const cTemplateItem& account, const QString& target);
-    [[nodiscard]] bool DropPapers(const QString& account);
     [[nodiscard]] bool DropShares(const QString& account);
     [[nodiscard]] bool MoveAccountEntries(const QString& source, const QString& target);
     [[nodiscard]] bool JoinStartBalances(const QString& source, const QString& target);

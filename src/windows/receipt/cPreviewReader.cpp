@@ -3,6 +3,7 @@
 #include "views/receipt/cReceiptFolder.h"
 #include "windows/receipt/cPdfFile.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QImageReader>
@@ -57,19 +58,19 @@ private:
 };
 
 // Opening a file cannot be interrupted. Threads that were still at it when their window went are waited for at the end
-// of the program, where they have not ended long before.
+// of the program, where they have not ended long before: before the application goes, because what they work with, the
+// formats of pictures and the module for PDF, may go with it.
 class cLeftBehind
 {
 public:
-    cLeftBehind() = default;
+    [[nodiscard]] static cLeftBehind& Instance()
+    {
+        static cLeftBehind instance;
+        return instance;
+    }
     cLeftBehind(const cLeftBehind&) = delete;
     cLeftBehind& operator=(const cLeftBehind&) = delete;
-    ~cLeftBehind()
-    {
-        for (cThread& each : m_threads) {
-            each.Thread.join();
-        }
-    }
+    ~cLeftBehind() { Join(); }
 
     void Take(std::thread thread, std::shared_ptr<const std::atomic_bool> hasEnded)
     {
@@ -89,6 +90,20 @@ private:
         std::thread Thread;
         std::shared_ptr<const std::atomic_bool> HasEnded;
     };
+
+    cLeftBehind()
+    {
+        qAddPostRoutine([] { Instance().Join(); });
+    }
+
+    void Join()
+    {
+        for (cThread& each : m_threads) {
+            each.Thread.join();
+        }
+        m_threads.clear();
+    }
+
     std::vector<cThread> m_threads;
 };
 
@@ -204,7 +219,6 @@ void cPreviewReader::cWorker::Wish(std::optional<cWish> wish)
 
 void cPreviewReader::cWorker::Leave()
 {
-    static cLeftBehind leftBehind;
     {
         const std::lock_guard lock(m_mutex);
         m_reader = nullptr;
@@ -212,7 +226,7 @@ void cPreviewReader::cWorker::Leave()
     }
     m_wake.notify_one();
     if (m_thread.joinable()) {
-        leftBehind.Take(std::move(m_thread), m_hasEnded);
+        cLeftBehind::Instance().Take(std::move(m_thread), m_hasEnded);
     }
 }
 
