@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "bench/cBenchBook.h"
+#include "bench/cReviewPage.h"
 #include "core/cSettings.h"
 #include "import/plan/cImportPlan.h"
 #include "import/stage/cAccountMap.h"
@@ -10,9 +11,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
-#include "windows/statement/frmImport.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -23,6 +22,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -221,30 +221,21 @@ void Month(benchmark::State& state, bool isOpen)
 {
     cHousehold& household = Household();
     for (auto _ : state) {
-        std::unique_ptr<cImportReview> review;
-        std::unique_ptr<frmImport> page;
-        const auto open = [&] {
-            review = std::make_unique<cImportReview>(household.Book.Tools());
-            page = std::make_unique<frmImport>(*review);
-            page->resize(1280, 800);
-            page->show();
-            QCoreApplication::processEvents();
-        };
+        std::optional<cReviewPage> page;
         state.PauseTiming();
         if (isOpen) {
-            open();
+            page.emplace(household.Book.Tools());
         }
         state.ResumeTiming();
         if (!isOpen) {
-            open();
+            page.emplace(household.Book.Tools());
         }
         cNoProgress progress;
-        review->Files().ImportFiles({household.Path()}, progress);
+        page->Review.Files().ImportFiles({household.Path()}, progress);
         QCoreApplication::processEvents();
         state.PauseTiming();
-        state.counters["open"] = static_cast<double>(review->Rows().Counts().Open);
+        state.counters["open"] = static_cast<double>(page->Review.Rows().Counts().Open);
         page.reset();
-        review.reset();
         household.TakeBack();
         state.ResumeTiming();
     }
@@ -263,14 +254,9 @@ void OpenWaitingMonth(benchmark::State& state)
         (void)cStatementImport(household.Data, hive).ImportFile(household.Path(), {}, progress);
     }
     for (auto _ : state) {
-        auto review = std::make_unique<cImportReview>(household.Book.Tools());
-        auto page = std::make_unique<frmImport>(*review);
-        page->resize(1280, 800);
-        page->show();
-        QCoreApplication::processEvents();
+        auto page = std::make_unique<cReviewPage>(household.Book.Tools());
         state.PauseTiming();
         page.reset();
-        review.reset();
         state.ResumeTiming();
     }
     household.TakeBack();

@@ -1,12 +1,10 @@
 #include "bench/cBenchBook.h"
+#include "bench/cReviewPage.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/statement/cImportReview.h"
-#include "windows/statement/frmImport.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <benchmark/benchmark.h>
@@ -56,8 +54,6 @@ struct cScene
         File.Book().Settings().Set(modSettingKey::BankNumber.Of(u"4711000815"_s), u"Girokonto"_s);
     }
 
-    [[nodiscard]] std::unique_ptr<cImportReview> Review() { return std::make_unique<cImportReview>(File.Tools()); }
-
     cBenchBook File{12000};
 };
 
@@ -84,20 +80,6 @@ struct cMonth
     }
 
     cBenchBook File{100000};
-};
-
-// The page on screen with its first rows painted.
-struct cPage
-{
-    cPage()
-    {
-        Page.resize(1280, 800);
-        Page.show();
-        QCoreApplication::processEvents();
-    }
-
-    std::unique_ptr<cImportReview> Review = Scene().Review();
-    frmImport Page{*Review};
 };
 
 void BareReadOfStaged(benchmark::State& state)
@@ -133,7 +115,7 @@ void OpenReview(benchmark::State& state)
 {
     (void)Scene();
     for (auto _ : state) {
-        auto page = std::make_unique<cPage>();
+        auto page = std::make_unique<cReviewPage>(Scene().File.Tools());
         state.PauseTiming();
         page.reset();
         state.ResumeTiming();
@@ -145,11 +127,7 @@ void OpenMonth(benchmark::State& state)
 {
     static cMonth month;
     for (auto _ : state) {
-        auto review = std::make_unique<cImportReview>(month.File.Tools());
-        auto page = std::make_unique<frmImport>(*review);
-        page->resize(1280, 800);
-        page->show();
-        QCoreApplication::processEvents();
+        auto page = std::make_unique<cReviewPage>(month.File.Tools());
         state.PauseTiming();
         page.reset();
         state.ResumeTiming();
@@ -160,9 +138,9 @@ BENCHMARK(OpenMonth)->Unit(benchmark::kMillisecond);
 // The second time, as after every booking: the rows are known.
 void RefreshReview(benchmark::State& state)
 {
-    cPage page;
+    cReviewPage page(Scene().File.Tools());
     for (auto _ : state) {
-        page.Review->Refresh();
+        page.Review.Refresh();
         QCoreApplication::processEvents();
     }
 }
@@ -170,13 +148,13 @@ BENCHMARK(RefreshReview)->Unit(benchmark::kMillisecond);
 
 void FilterReview(benchmark::State& state, const char16_t* before, const char16_t* text)
 {
-    cPage page;
+    cReviewPage page(Scene().File.Tools());
     for (auto _ : state) {
         state.PauseTiming();
-        page.Review->View().SetFilter(QString::fromUtf16(before));
+        page.Review.View().SetFilter(QString::fromUtf16(before));
         QCoreApplication::processEvents();
         state.ResumeTiming();
-        page.Review->View().SetFilter(QString::fromUtf16(text));
+        page.Review.View().SetFilter(QString::fromUtf16(text));
         QCoreApplication::processEvents();
     }
 }
@@ -187,16 +165,16 @@ BENCHMARK_CAPTURE(FilterReview, amount, u"12", u"12,")->Unit(benchmark::kMillise
 
 void GroupReview(benchmark::State& state, int grouping)
 {
-    cPage page;
+    cReviewPage page(Scene().File.Tools());
     for (auto _ : state) {
         state.PauseTiming();
-        page.Review->View().SetGrouping(0);
+        page.Review.View().SetGrouping(0);
         QCoreApplication::processEvents();
         state.ResumeTiming();
-        page.Review->View().SetGrouping(grouping);
+        page.Review.View().SetGrouping(grouping);
         QCoreApplication::processEvents();
     }
-    page.Review->View().SetGrouping(0);
+    page.Review.View().SetGrouping(0);
 }
 BENCHMARK_CAPTURE(GroupReview, counterparty, 1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GroupReview, day, 2)->Unit(benchmark::kMillisecond);

@@ -32,8 +32,7 @@ void cHouseholdWindows::OpenBudget(QWidget* parent)
 
 void cHouseholdWindows::OpenPeople(QWidget* parent)
 {
-    cPeople people(m_tools,
-                   [this](const QString& oldName, const QString& newName) { m_model.PersonRenamed(oldName, newName); });
+    cPeople people(m_tools);
     frmPersonen form(people, parent);
     QObject::connect(&form, &frmPersonen::PeopleChanged, &m_model, &cMainModel::BookChanged);
     form.exec();

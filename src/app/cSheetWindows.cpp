@@ -4,19 +4,22 @@
 #include "views/main/cMainModel.h"
 #include "views/sheet/cManyChange.h"
 #include "views/sheet/cRowDrop.h"
+#include "views/statement/cStagedChoice.h"
 #include "windows/main/cSavedViewMenu.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmMehrere.h"
 #include "windows/main/frmSuche.h"
 
-cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain& window)
+cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, cStagedChoice& review, frmMain& window)
     : m_tools(tools),
       m_model(model),
+      m_review(review),
       m_window(window),
       m_views(tools),
       m_menu(new cSavedViewMenu(window.MenuOf(modCommand::SavedViews)))
 {
     QObject::connect(&m_model, &cMainModel::ViewChanged, m_menu, [this] { ShowNames(); }); // perhaps another book
+    QObject::connect(&m_review, &cStagedChoice::ViewsChanged, &m_model, &cMainModel::ViewChanged);
     QObject::connect(m_menu, &cSavedViewMenu::Chosen, m_menu, [this](int number) {
         const QList<cSavedView> views = m_views.All();
         if (number < views.size()) {
@@ -43,7 +46,7 @@ void cSheetWindows::Carry(modCommand::eId command, QWidget* parent)
     case modCommand::CopyRows: m_window.CopyRows(); break;
     case modCommand::GoToDay: m_window.AskDay(); break;
     case modCommand::ChangeMany: ChangeMany(m_model.Selection(), parent); break;
-    case modCommand::SaveView: m_model.KeepView(m_window.ColumnText()); break;
+    case modCommand::SaveView: KeepView(); break;
     case modCommand::SavedViews:
         if (const std::optional<cSavedView> view = m_model.ManageViews()) {
             ShowView(*view);
@@ -82,6 +85,16 @@ void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget
     }
 }
 
+// Of the list in front; the other pages have none.
+void cSheetWindows::KeepView()
+{
+    if (m_window.Page() == frmMain::ePage::Statements) {
+        m_review.Keep();
+    } else {
+        m_model.KeepView(m_window.ColumnText());
+    }
+}
+
 void cSheetWindows::ShowNames()
 {
     m_menu->Show(m_views.Names());
@@ -89,6 +102,11 @@ void cSheetWindows::ShowNames()
 
 void cSheetWindows::ShowView(const cSavedView& view)
 {
+    if (view.Review) {
+        m_window.ShowPage(frmMain::ePage::Statements);
+        m_review.ShowKept(*view.Review, view.Columns);
+        return;
+    }
     m_window.ShowPage(frmMain::ePage::Entries);
     m_window.SetColumnText(view.Columns);
     m_model.ShowView(view.View);

@@ -8,6 +8,7 @@
 
 class cMainModel;
 class cSavedViewMenu;
+class cStagedChoice;
 class frmMain;
 class frmSuche;
 class QWidget;
@@ -17,8 +18,8 @@ struct cBookTools;
 class cSheetWindows final
 {
 public:
-    // All outlive it.
-    cSheetWindows(const cBookTools& tools, cMainModel& model, frmMain& window);
+    // All outlive it; `review` is what the page of bank statements shows.
+    cSheetWindows(const cBookTools& tools, cMainModel& model, cStagedChoice& review, frmMain& window);
 
     // Carries out one of the commands for lists; others are passed over.
     void Carry(modCommand::eId command, QWidget* parent);
@@ -27,11 +28,13 @@ public:
 
 private:
     void ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget* parent);
+    void KeepView();
     void ShowNames();
     void ShowView(const cSavedView& view);
 
     const cBookTools& m_tools;
     cMainModel& m_model;
+    cStagedChoice& m_review;
     frmMain& m_window;
     cSavedViews m_views;
     cSavedViewMenu* m_menu;

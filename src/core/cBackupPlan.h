@@ -40,8 +40,8 @@ public:
     // waiting. A failure is shown once a day.
     void RunIfDue();
 
-    // Makes a further copy when more than settings was written since the newest one: before an import, after hours of
-    // use, when the book is closed. A failure as above.
+    // Makes a further copy when more than how things look was written since the newest one: before an import, after
+    // hours of use, when the book is closed. A failure as above.
     void CopyIfChanged();
 
     // The same for a program that stays open, to be called when so much time has passed. Gives the time until the next

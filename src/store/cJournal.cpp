@@ -182,15 +182,16 @@ std::set<cJournal::cRowKey>& cJournal::Known()
 void cJournal::Note(const cRowBefore& row)
 {
     const cRowKey key{PlaceOf(row.Table), row.RowId};
-    if (key.first != settings) {
+    const bool isOutside = m_back == nullptr && m_depth == 0; // of all steps
+    if (key.first != settings || !isOutside) {
         ++m_rowsWritten;
     }
     if (key.first == tables.size()) {
         return;
     }
-    if (m_back == nullptr && m_depth == 0) {
-        // A write outside of all steps: what they know may not be true any more. Only choices of the view, and what a
-        // bank wants to hear again, are stored all the time and are nobody's step.
+    if (isOutside) {
+        // What they know may not be true any more. Only choices of the view, and what a bank wants to hear again, are
+        // stored all the time and are nobody's step.
         if (key.first != settings) {
             Forget();
         } else if (!row.IsThere) {

@@ -52,8 +52,9 @@ public:
     [[nodiscard]] bool Undo();
     [[nodiscard]] bool Redo();
 
-    // How many rows of the book were written so far, those of table `setting` not counted: which columns a list has is
-    // nothing that somebody would miss. What was taken back counts as well.
+    // How many rows of the book were written so far. Those of table `setting` count within a step, where they belong to
+    // the book as a limit or a list of statements does; which columns a list has is nothing that somebody would miss.
+    // What was taken back counts as well.
     [[nodiscard]] quint64 RowsWritten() const { return m_rowsWritten; }
 
     // Forgets all steps, because what they know may not be true any more: another file was opened.

@@ -412,6 +412,37 @@ private Q_SLOTS:
         QCOMPARE(groups, QStringList({u"schon im Buch  (2)"_s, u"sicher  (3)"_s, u"bitte ansehen  (1)"_s}));
     }
 
+    // What was chosen for a row takes it to another group; how the list is shown comes back under its name.
+    void GroupsByCategoryAndKeepsThatUnderAName()
+    {
+        cPage page;
+        page.ImportFixture();
+        cStagedChoice& view = page.Review.View();
+        cStagedListModel& rows = page.Review.Rows();
+        const int byCategory = static_cast<int>(modStagedGroup::eGrouping::Category);
+        view.SetGrouping(byCategory);
+        const QModelIndex first = rows.index(0, 0, rows.index(0, 0));
+        QVERIFY(page.Review.Choose({rows.IdAt(first)}, u"Freizeit; Geschenke"_s, {}));
+        const QModelIndex gifts = rows.HeadNamed(u"Freizeit; Geschenke"_s);
+        QCOMPARE(rows.rowCount(gifts), 1);
+        QCOMPARE(view.GroupCategory(rows.index(0, 0, gifts)), u"Freizeit; Geschenke"_s);
+        page.User.Choices = {u"Nach | Kategorie"_s};
+        view.SetOpenOnly(false);
+        view.SetFilter(u"a|b"_s);
+        view.SaveLayout(u"0,10,1|s"_s);
+        QVERIFY(view.Keep());
+        view.SetOpenOnly(true);
+        view.SetGrouping(0);
+        QVERIFY(view.GroupCategory(rows.index(0, 0)).isEmpty());
+        view.SetFilter({});
+        view.SaveLayout({});
+        view.ShowKept(view.KeptNames().indexOf(u"Nach | Kategorie"_s));
+        QCOMPARE(view.Grouping(), byCategory);
+        QCOMPARE(view.Filter(), u"a|b"_s);
+        QCOMPARE(view.Layout(), u"0,10,1|s"_s);
+        QVERIFY(!view.IsOpenOnly() && !view.IsUncategorisedOnly());
+    }
+
     // What nobody knew can be found, before it was booked and after that.
     void FindsWhatHasNoCategory()
     {

@@ -479,9 +479,9 @@ void testSheet::ViewsAreKeptUnderANameAndFollowTheirAccount()
     view.Filter = u"a|b;c=50 % & mehr"_s;
     view.ShowsFix = false;
     book.User.Choices = {u" Große; | Runde "_s, u"Zweite"_s, u"Große; | Runde"_s};
-    QVERIFY(views.Keep(view, u"0,10,1|s"_s));
-    QVERIFY(views.Keep(cViewState{}, {}));
-    QVERIFY(!views.Keep(cViewState{}, {})); // the name is taken, and the question was given up
+    QVERIFY(views.Keep({.View = view, .Columns = u"0,10,1|s"_s}));
+    QVERIFY(views.Keep({}));
+    QVERIFY(!views.Keep({})); // the name is taken, and the question was given up
     QCOMPARE(views.Names(), (QStringList{u"Große; | Runde"_s, u"Zweite"_s}));
     QVERIFY(cTemplateFlow(book.Tools).RenameAccount(u"Girokonto"_s, u"Giro"_s));
     QCOMPARE(views.All().constFirst().View.Account, u"Giro"_s);

@@ -97,6 +97,9 @@ void testFrmBudget::TheSumStaysInStep()
     QVERIFY(left(lines, 0) < 0); // there was something to scroll
     QVERIFY(form.rect().contains(QRect(sum->mapTo(&form, QPoint()), sum->size())));
     QCOMPARE(sum->model()->headerData(0, Qt::Vertical).toString(), u"Summe"_s);
+    budget.setData(budget.index(1, cBudgetModel::Plain), u"1234567890"_s, Qt::EditRole); // the year is longer still
+    QVERIFY(sum->columnWidth(cBudgetModel::Year) >= tables.last()->ContentWidth(cBudgetModel::Year));
+    QCOMPARE(lines->columnWidth(cBudgetModel::Spent), 200); // as it was drawn
 }
 
 void testFrmBudget::AsksBeforeItLosesAnything()

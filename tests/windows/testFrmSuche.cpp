@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -81,6 +82,19 @@ private Q_SLOTS:
         QSignalSpy copies(&scene.Window, &frmSuche::NextMonthRequested);
         QTest::keyClick(&scene.Tree, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(copies.size(), 1);
+        QSignalSpy changes(&scene.Window, &frmSuche::ChangeRequested);
+        QTest::keyClick(&scene.Tree, Qt::Key_M, Qt::ControlModifier);
+        QCOMPARE(changes.size(), 1);
+        QTest::keyClick(&scene.Tree, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(QApplication::clipboard()->text().contains(u"\tRewe\t"_s));
+        scene.Tree.setCurrentIndex(scene.Tree.model()->index(0, cEntryListModel::Description));
+        QTest::keyClick(&scene.Tree, Qt::Key_F2);
+        auto* cell = scene.Tree.viewport()->findChild<QLineEdit*>();
+        QVERIFY(cell != nullptr);
+        QTest::keyClicks(cell, u"Rewe Markt"_s);
+        QTest::keyClick(cell, Qt::Key_Return);
+        QTRY_COMPARE(scene.Book.Data.LoadEntry(1)->EntryDescription, u"Rewe Markt"_s);
+        QTRY_VERIFY(scene.Tree.hasFocus());
         QTest::keyClick(&scene.Tree, Qt::Key_Delete);
         QCOMPARE(deletions.size(), 1);
         QVERIFY(scene.Book.Data.DeleteEntry(1));

@@ -2,6 +2,7 @@
 
 #include "core/cSettings.h"
 #include "model/modWord.h"
+#include "support/cFakeNavigator.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
 #include "views/budget/cBudgetModel.h"
@@ -10,7 +11,6 @@
 #include "views/look/modCategoryColor.h"
 #include "views/look/modCategoryIcon.h"
 #include "views/main/cMainModel.h"
-#include "views/main/cNavigator.h"
 #include "views/overview/cOverviewModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/template/cTemplateManager.h"
@@ -33,17 +33,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class cNowhere final : public cNavigator
-{
-public:
-    void OpenNewEntry() override {}
-    void OpenEntry(int /*entryId*/, QDate /*day*/) override {}
-    void OpenCorrection(int /*entryId*/, QDate /*day*/) override {}
-    void OpenTemplates(const QString& /*path*/) override {}
-    void Open(modCommand::eId /*command*/) override {}
-    void EndProgram() override {}
-};
-
 // Every colour and every picture that there are categories for; one category has a colour alone, one has neither.
 bool Paint(const cBookTools& tools)
 {
@@ -65,7 +54,7 @@ bool Paint(const cBookTools& tools)
 
 void TakeLists(cCamera& camera, cDemoBook& scene)
 {
-    cNowhere navigator;
+    cFakeNavigator navigator;
     cMainModel model(scene.Tools(), {scene.Configuration, scene.Shell, navigator, scene.Book.Path()});
     frmMain window(model);
     model.RestoreView(false);

@@ -51,6 +51,8 @@ bool TakeReview(cCamera& camera)
     review.View().SetGrouping(2);
     review.View().SetOpenOnly(true);
     camera.Take(page, u"kontoauszuege-tage"_s);
+    review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Category));
+    camera.Take(page, u"kontoauszuege-kategorien"_s);
     frmUmsatzKategorie category(review, review.Rows().OpenIds());
     category.show();
     camera.Take(category, u"umsatz-kategorie"_s);

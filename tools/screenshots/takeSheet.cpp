@@ -6,10 +6,10 @@
 #include "core/cAmountFormat.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "support/cFakeNavigator.h"
 #include "tools/screenshots/cCamera.h"
 #include "tools/screenshots/cDemoBook.h"
 #include "views/main/cMainModel.h"
-#include "views/main/cNavigator.h"
 #include "views/sheet/cManyChange.h"
 #include "windows/main/cCellEditing.h"
 #include "windows/main/cEntryTree.h"
@@ -21,28 +21,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-class cNoNavigator final : public cNavigator
-{
-public:
-    void OpenNewEntry() override {}
-    void OpenEntry(int /*entryId*/, QDate /*day*/) override {}
-    void OpenCorrection(int /*entryId*/, QDate /*day*/) override {}
-    void OpenTemplates(const QString& /*path*/) override {}
-    void Open(modCommand::eId /*command*/) override {}
-    void EndProgram() override {}
-};
-
-} // namespace
-
 bool TakeSheet(cCamera& camera)
 {
     cDemoBook scene;
     if (!scene.IsReady()) {
         return false;
     }
-    cNoNavigator navigator;
+    cFakeNavigator navigator;
     cMainModel model(scene.Tools(), {scene.Configuration, scene.Shell, navigator, scene.Book.Path()});
     frmMain window(model);
     model.RestoreView(false);

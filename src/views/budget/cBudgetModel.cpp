@@ -8,6 +8,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "store/cDataAccess.h"
+#include "views/budget/modLimits.h"
 #include "views/list/modUnread.h"
 
 #include <algorithm>
@@ -111,6 +112,11 @@ QString cBudgetModel::Hint() const
     return m_lines.isEmpty() ? cText::Tr("Das Buch hat noch keine Kategorien für Ausgaben. Sie legen sie unter "
                                          "„Extras“, „Kategorie/Konto bearbeiten“ an.")
                              : QString();
+}
+
+QString cBudgetModel::SumNote() const
+{
+    return m_lines.isEmpty() ? QString() : modLimits::SumNote();
 }
 
 int cBudgetModel::MonthOf(int column)
@@ -247,7 +253,7 @@ QString cBudgetModel::Explanation(const cLine& line, int column) const
         return Fault(*faulty);
     }
     if (line.Row < 0) {
-        return column == Spent ? cText::Tr("Nur Kategorien mit einem Limit zählen mit.") : QString();
+        return column == Spent ? modLimits::SumNote() : QString();
     }
     const int month = MonthOf(column);
     if (month > 0) {

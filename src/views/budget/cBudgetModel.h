@@ -31,6 +31,7 @@ public:
     [[nodiscard]] bool IsReadOnly() const;
     // What can be done about an empty grid; empty where it is not.
     [[nodiscard]] QString Hint() const;
+    [[nodiscard]] QString SumNote() const; // what the sums count; empty where there are none
     // The categories' cells of these.
     [[nodiscard]] QModelIndexList Editable(const QModelIndexList& cells) const;
 

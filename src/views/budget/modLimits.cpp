@@ -1,5 +1,6 @@
 #include "views/budget/modLimits.h"
 
+#include "base/cText.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
@@ -33,6 +34,11 @@ cLimits modLimits::Read(cDataAccess& data, const cSettings& settings, const cTem
         limits.SetSpent(modBudget::Spent(data.GetEntries(query)));
     }
     return limits;
+}
+
+QString modLimits::SumNote()
+{
+    return cText::Tr("In den Summen zählen nur Kategorien mit einem Limit mit.");
 }
 
 bool modLimits::Move(cSettings& settings, const QString& oldPath, const QString& newPath)

@@ -18,6 +18,9 @@ namespace modLimits {
 [[nodiscard]] cLimits Read(cDataAccess& data, const cSettings& settings, const cTemplateItemList& templates,
                            QDate start);
 
+// What has to be known of sums of spending beside limits.
+[[nodiscard]] QString SumNote();
+
 // The budget goes along with a category that gets another path, and goes when its category does. One that the new path
 // has already stays, like all else of it. False when the database refuses.
 [[nodiscard]] bool Move(cSettings& settings, const QString& oldPath, const QString& newPath);

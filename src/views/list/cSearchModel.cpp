@@ -273,6 +273,11 @@ QString cSearchModel::Layout() const
     return m_tools.Settings.Get(modSettingKey::SearchList);
 }
 
+bool cSearchModel::IsReadOnly() const
+{
+    return m_tools.Data.IsReadOnly();
+}
+
 void cSearchModel::SaveLayout(const QString& layout)
 {
     if (Layout() != layout) {

@@ -73,6 +73,7 @@ public:
 
     // Column layout of the list.
     [[nodiscard]] QString Layout() const;
+    [[nodiscard]] bool IsReadOnly() const;
     void SaveLayout(const QString& layout);
 
 Q_SIGNALS:

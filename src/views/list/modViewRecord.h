@@ -22,7 +22,8 @@ enum eField {
     Switches,
     Columns,
     FieldCount,
-    Payer = FieldCount
+    Payer = FieldCount,
+    Page // empty: the entry list
 };
 // Older programs wrote the fields before FieldCount.
 

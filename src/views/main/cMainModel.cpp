@@ -227,7 +227,7 @@ void cMainModel::BookChanged()
     m_balancesOf = QDate();
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     TakeAccount();
-    m_detour.Own(m_view).DropUnknownPayer(m_tools.Settings);
+    m_detour.Own(m_view).TakeKnownPayer(m_tools.Settings);
     RefreshView();
     Q_EMIT BookRefreshed();
 }
@@ -427,18 +427,17 @@ void cMainModel::Delete(const QList<cEntryListModel::cKey>& keys)
     }
 }
 
+QString cMainModel::DropCategory(const QModelIndex& line)
+{
+    return IsReadOnly() ? QString() : Entries().GroupCategory(line);
+}
+
 void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 {
     for (QString* account : {&m_view.Account, &m_detour.Own(m_view).Account}) {
         *account = *account == oldName ? newName : *account;
     }
     BookChanged();
-}
-
-void cMainModel::PersonRenamed(const QString& oldName, const QString& newName)
-{
-    QString& payer = m_detour.Own(m_view).Payer;
-    payer = payer == oldName ? newName : payer;
 }
 
 void cMainModel::BookSwitched(const QString& path, bool isNewVersion)

@@ -127,6 +127,9 @@ public:
     // selector.
     void ShowView(const cViewState& view);
 
+    // The category that lines dropped here are given; empty where nothing can be dropped.
+    [[nodiscard]] QString DropCategory(const QModelIndex& line);
+
     // Deletes the entries of these occurrences after the questions that go with it.
     void Delete(const QList<cEntryListModel::cKey>& keys);
 
@@ -134,7 +137,6 @@ public:
     void AccessChanged(); // the book can only be read from now on
     void BookChanged();
     void AccountRenamed(const QString& oldName, const QString& newName);
-    void PersonRenamed(const QString& oldName, const QString& newName);
     // After another database was opened behind the same objects: shows it in its own view state.
     void BookSwitched(const QString& path, bool isNewVersion);
     // After staged rows came, went or were booked: their numbers stand beside the accounts.

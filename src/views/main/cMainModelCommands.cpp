@@ -243,7 +243,7 @@ void cMainModel::KeepView(const QString& columns)
             eTone::Objection,
             cText::Tr("Diese Auswahl lässt sich nicht merken, denn sie zeigt nur die Einträge hinter einer "
                       "Zahl der Auswertung. Heben Sie die Auswahl erst auf."));
-    } else if (cSavedViews(m_tools).Keep(m_view, columns)) {
+    } else if (cSavedViews(m_tools).Keep({.View = m_view, .Columns = columns})) {
         Q_EMIT ViewChanged(); // what can be undone
     }
 }

@@ -18,6 +18,14 @@ namespace {
 constexpr qsizetype mostKeys = 9;
 
 // What distinguishes most views.
+QString Proposal(const cSavedReview& review)
+{
+    return !review.Filter.isEmpty() ? review.Filter
+        : review.UncategorisedOnly  ? cText::Tr("Umsätze ohne Kategorie")
+        : review.OpenOnly           ? cText::Tr("Offene Umsätze")
+                                    : cText::Tr("Alle Umsätze");
+}
+
 QString Proposal(const cViewState& view)
 {
     const QString period = modWord::Periods().ToShown(view.Period);
@@ -63,16 +71,17 @@ std::optional<QString> cSavedViews::AskName(const QString& proposal) const
     return name && !name->trimmed().isEmpty() ? std::optional(name->simplified()) : std::nullopt;
 }
 
-bool cSavedViews::Keep(const cViewState& view, const QString& columns)
+bool cSavedViews::Keep(cSavedView view)
 {
-    const std::optional<QString> name = AskName(Proposal(view));
+    const std::optional<QString> name = AskName(view.Review ? Proposal(*view.Review) : Proposal(view.View));
     if (!name) {
         return false;
     }
     QList<cSavedView> views = All();
     const auto known = Find(views, *name);
     if (known == views.end()) {
-        views.append({*name, view, columns});
+        view.Name = *name;
+        views.append(view);
         return Store(views, cText::Tr("Ansicht '{0}' gemerkt", {*name}));
     }
     const eAnswer answer =
@@ -81,8 +90,9 @@ bool cSavedViews::Keep(const cViewState& view, const QString& columns)
     if (answer != eAnswer::Yes) {
         return false;
     }
-    *known = {known->Name, view, columns};
-    return Store(views, cText::Tr("Ansicht '{0}' gemerkt", {known->Name}));
+    view.Name = known->Name;
+    *known = view;
+    return Store(views, cText::Tr("Ansicht '{0}' gemerkt", {view.Name}));
 }
 
 std::optional<cSavedView> cSavedViews::Manage()

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] QStringList Names() const;
 
     // Asks for a name and keeps the view under it; one of this name is replaced. False when the user gives up.
-    bool Keep(const cViewState& view, const QString& columns);
+    bool Keep(cSavedView view);
 
     // Lets the user choose a view and show, rename, delete it or give it the first key. The one that is to be shown.
     [[nodiscard]] std::optional<cSavedView> Manage();

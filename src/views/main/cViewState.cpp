@@ -57,7 +57,7 @@ void cViewState::Restore(const cSettings& settings, const QStringList& accounts,
     Grouping = Offered(settings, modSettingKey::MainGrouping, modWord::Groupings().Stored());
     Filter = settings.Get(modSettingKey::MainFilter);
     Payer = settings.Get(modSettingKey::MainPayer);
-    DropUnknownPayer(settings);
+    TakeKnownPayer(settings);
     ShowsSingle = settings.GetBool(modSettingKey::ViewSingle);
     ShowsFix = settings.GetBool(modSettingKey::ViewFix);
     ShowsFuture = settings.GetBool(modSettingKey::ViewFuture);
@@ -65,10 +65,12 @@ void cViewState::Restore(const cSettings& settings, const QStringList& accounts,
     BalancesToToday = settings.GetBool(modSettingKey::ViewAllBalances);
 }
 
-void cViewState::DropUnknownPayer(const cSettings& settings)
+void cViewState::TakeKnownPayer(const cSettings& settings)
 {
-    if (!modPeople::IsChoice(Payer, modPeople::NamesOf(settings.Get(modSettingKey::People)))) {
-        Payer.clear();
+    const QStringList people = modPeople::NamesOf(settings.Get(modSettingKey::People));
+    if (!modPeople::IsChoice(Payer, people)) {
+        const QString stored = settings.Get(modSettingKey::MainPayer);
+        Payer = modPeople::IsChoice(stored, people) ? stored : QString();
     }
 }
 

@@ -29,8 +29,8 @@ struct cViewState
     // year). So do free days that can be no period while they are the chosen one.
     void Restore(const cSettings& settings, const QStringList& accounts, QDate today);
 
-    // People come and go; one who is gone is no choice any more.
-    void DropUnknownPayer(const cSettings& settings);
+    // People come and go and get other names, which the settings follow; one who is gone is no choice any more.
+    void TakeKnownPayer(const cSettings& settings);
 
     // Writes the eight selector keys that changed.
     void Save(cSettings& settings) const;

@@ -92,7 +92,9 @@ constexpr auto commands = std::to_array<cCommand>({
      &modSettingKey::ViewStart, Plain, QT_TRANSLATE_NOOP("cText", "Zeigt auch die Startguthaben der Konten.")},
     {SaveView, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "Ansicht &merken…"), "", "", nullptr,
      StartsGroup | Writes,
-     QT_TRANSLATE_NOOP("cText", "Merkt Zeitraum, Konto, Art, Filter, Gruppierung und Spalten unter einem Namen."),
+     QT_TRANSLATE_NOOP("cText",
+                       "Merkt Zeitraum, Konto, Art, Filter, Gruppierung und Spalten unter einem Namen; auf der Seite "
+                       "„Kontoauszüge“, was dort gewählt ist."),
      QT_TRANSLATE_NOOP("cText", "&Meine Ansichten")},
     {SavedViews, QT_TRANSLATE_NOOP("cText", "Ansicht"), QT_TRANSLATE_NOOP("cText", "&Verwalten…"), "", "", nullptr,
      Writes, QT_TRANSLATE_NOOP("cText", "Zeigt eine gemerkte Ansicht, benennt sie um oder löscht sie."),

@@ -117,11 +117,7 @@ bool cPeople::Rename(const QString& oldName, const QString& typed)
         return Refuse(*wrong);
     }
     cUndoStep step(m_tools.Data, cText::Tr("Person '{0}' umbenannt", {oldName}));
-    const bool isDone = step.DoneIf(Replace(oldName, name));
-    if (isDone && m_onRenamed) {
-        m_onRenamed(oldName, name);
-    }
-    return isDone;
+    return step.DoneIf(Replace(oldName, name));
 }
 
 modPeople::cShares cPeople::SharesWithout(const QString& name, const QString& account) const
@@ -246,7 +242,8 @@ QList<int> cPeople::EntriesOf(const QString& name) const
     return ids;
 }
 
-// The name wherever it stands: in the list, in the shares, at the entries. An empty one takes it away.
+// The name wherever it stands: in the list, in the shares, at the entries, in what the lists are filtered by. An empty
+// one takes it away.
 bool cPeople::Replace(const QString& oldName, const QString& newName)
 {
     QStringList names = Names();
@@ -255,7 +252,9 @@ bool cPeople::Replace(const QString& oldName, const QString& newName)
     }
     names.removeAll(QString());
     bool isStored = m_tools.Settings.Set(modSettingKey::People, modPeople::ToText(names))
-        && modViewRecord::Follow(m_tools.Settings, modViewRecord::Payer, oldName, newName);
+        && modViewRecord::Follow(m_tools.Settings, modViewRecord::Payer, oldName, newName)
+        && (m_tools.Settings.Get(modSettingKey::MainPayer) != oldName
+            || m_tools.Settings.Set(modSettingKey::MainPayer, newName));
     const QStringList accounts = Accounts() << QString();
     for (const QString& account : accounts) {
         isStored = isStored && Store(account, modPeople::Renamed(Stored(account), oldName, newName));

@@ -6,9 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <optional>
-#include <utility>
 
 class cDataAccess;
 struct cBookTools;
@@ -18,14 +16,7 @@ struct cBookTools;
 class cPeople
 {
 public:
-    using fnRenamed = std::function<void(const QString& oldName, const QString& newName)>;
-
-    // `onRenamed` is told of every person who has another name from now on.
-    explicit cPeople(const cBookTools& tools, fnRenamed onRenamed = {})
-        : m_tools(tools),
-          m_onRenamed(std::move(onRenamed))
-    {
-    }
+    explicit cPeople(const cBookTools& tools) : m_tools(tools) {}
 
     [[nodiscard]] QStringList Names() const;
     [[nodiscard]] bool HasAny() const { return !Names().isEmpty(); }
@@ -68,5 +59,4 @@ private:
     [[nodiscard]] QStringList ShareLinesWithout(const QString& name) const;
 
     const cBookTools& m_tools;
-    fnRenamed m_onRenamed;
 };

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "model/modTag.h"
 #include "model/modWord.h"
+#include "views/budget/modLimits.h"
 
 #include <QCollator>
 #include <QHash>
@@ -539,6 +540,9 @@ QString modReport::GroupTitle(eReport type)
 
 QString modReport::Note(eReport type)
 {
+    if (type == eReport::Budget) {
+        return modLimits::SumNote();
+    }
     return type == eReport::Tag
         ? cText::Tr("Ein Eintrag mit mehreren Schlagwörtern zählt bei jedem davon, in den Summen "
                     "der Einnahmen und Ausgaben nur einmal.")

@@ -272,7 +272,7 @@ void cWriter::WriteBudget()
         }
         m_html += u"</ul></dir>"_s;
     }
-    m_html += u"</dir></div>"_s;
+    m_html += u"</dir>"_s + modReport::Note(m_figures.Type).toHtmlEscaped() + u"</div>"_s;
 }
 
 QString cWriter::BudgetLine(const QString& label, const cReportAmount& amount, eWeight weight) const

@@ -583,7 +583,7 @@ eStagedGroup cImportReview::Group(const cImportEntry& row)
 
 bool cImportReview::PlanNext()
 {
-    if (m_view.Rows().Grouping() != modStagedGroup::eGrouping::Plan || !m_hasUnplanned) {
+    if (!modStagedGroup::NeedsPlan(m_view.Rows().Grouping()) || !m_hasUnplanned) {
         return false;
     }
     m_hasUnplanned = m_works->Proposals.PlanNext();

@@ -6,7 +6,9 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "views/entry/cEntrySuggestions.h"
 #include "views/list/modUnread.h"
+#include "views/main/cSavedViews.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -69,7 +71,11 @@ void cStagedChoice::Regroup()
 
 void cStagedChoice::ForgetInfo()
 {
-    m_rows.ForgetInfo();
+    if (m_rows.Grouping() == eGrouping::Category) {
+        m_rows.Regroup(); // a row with another category belongs to another group
+    } else {
+        m_rows.ForgetInfo();
+    }
     Q_EMIT Changed();
 }
 
@@ -136,8 +142,62 @@ void cStagedChoice::SetGrouping(int place)
 
 void cStagedChoice::SetFilter(const QString& text)
 {
+    m_filter = text;
     m_rows.SetFilter(text);
     Q_EMIT Changed();
+}
+
+QString cStagedChoice::GroupCategory(const QModelIndex& line) const
+{
+    const QString name = m_rows.GroupName(line);
+    const bool isCategory = m_rows.Grouping() == eGrouping::Category && !m_tools.Data.IsReadOnly();
+    return isCategory && cEntrySuggestions::VisibleCategories(m_tools.Data).contains(name) ? name : QString();
+}
+
+bool cStagedChoice::Keep()
+{
+    Q_EMIT LayoutWanted();
+    const bool isKept =
+        cSavedViews(m_tools).Keep({.Columns = Layout(),
+                                   .Review = cSavedReview{.OpenOnly = IsOpenOnly(),
+                                                          .UncategorisedOnly = IsUncategorisedOnly(),
+                                                          .HidesOld = IsOldHidden(),
+                                                          .Grouping = modStagedGroup::Stored(m_rows.Grouping()),
+                                                          .Filter = m_filter}});
+    if (isKept) {
+        Q_EMIT ViewsChanged();
+    }
+    return isKept;
+}
+
+void cStagedChoice::ShowKept(const cSavedReview& review, const QString& columns)
+{
+    m_tools.Settings.SetBool(modSettingKey::HideBooked, review.OpenOnly);
+    m_tools.Settings.SetBool(modSettingKey::HideOld, review.HidesOld);
+    m_isUncategorisedOnly = review.UncategorisedOnly;
+    m_rows.SetShown(Shown());
+    SetGrouping(static_cast<int>(modStagedGroup::FromStored(review.Grouping)));
+    m_tools.Settings.Set(modSettingKey::ImportList, columns);
+    Q_EMIT LayoutTaken();
+    SetFilter(review.Filter);
+}
+
+QStringList cStagedChoice::KeptNames() const
+{
+    QStringList names;
+    const QList<cSavedView> views = cSavedViews(m_tools).All();
+    for (const cSavedView& view : views) {
+        names.append(view.Review ? view.Name : QString());
+    }
+    return names;
+}
+
+void cStagedChoice::ShowKept(int place)
+{
+    const cSavedView view = cSavedViews(m_tools).All().value(place);
+    if (view.Review) {
+        ShowKept(*view.Review, view.Columns);
+    }
 }
 
 QString cStagedChoice::EmptyTitle() const

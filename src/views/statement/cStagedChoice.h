@@ -8,6 +8,7 @@
 #include <QStringList>
 
 struct cBookTools;
+struct cSavedReview;
 
 // What a list of bank transactions shows and how: all rows or those of one import, without booked and old ones, in
 // groups, and what it says about itself. The choices are kept in the settings.
@@ -37,7 +38,19 @@ public:
     [[nodiscard]] static QStringList Groupings(); // as the user sees them
     [[nodiscard]] int Grouping() const;           // place in Groupings
     void SetGrouping(int place);                  // kept in the setting "ImportGrouping"
+    [[nodiscard]] const QString& Filter() const { return m_filter; }
     void SetFilter(const QString& text);
+
+    // The category of the group that a line or a head is in, which other rows may be given as well; empty unless the
+    // rows are grouped by it and may be changed.
+    [[nodiscard]] QString GroupCategory(const QModelIndex& line) const;
+
+    // Keeps what is chosen under a name, among the views of the entry list; false when the user gives up.
+    bool Keep();
+    void ShowKept(const cSavedReview& review, const QString& columns);
+    // All kept views by their place; the name of one that shows something else is empty.
+    [[nodiscard]] QStringList KeptNames() const;
+    void ShowKept(int place);
 
     // Headline and hint for a list that shows nothing.
     [[nodiscard]] QString EmptyTitle() const;
@@ -49,7 +62,10 @@ public:
     void SaveLayout(const QString& layout);
 
 Q_SIGNALS:
-    void Changed(); // what is shown, or how
+    void Changed();      // what is shown, or how
+    void LayoutWanted(); // whoever shows the list stores its columns now
+    void LayoutTaken();  // other columns are stored
+    void ViewsChanged(); // the kept ones
 
 private:
     [[nodiscard]] cStagedOrder::cShown Shown() const;
@@ -59,4 +75,5 @@ private:
     cImportRuns::cRange m_import;
     cStagedListModel m_rows;
     bool m_isUncategorisedOnly = false;
+    QString m_filter;
 };

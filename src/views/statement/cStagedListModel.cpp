@@ -45,7 +45,8 @@ cStagedListModel::cStagedListModel(cStagedSource& source, const cAmountFormat& f
       m_order(format)
 {
     m_order.SetHasCategory([this](const cImportEntry& row) { return InfoOf(row).HasCategory; });
-    m_order.SetPlan([this](const cImportEntry& row) { return m_source.Group(row); });
+    m_order.SetKnowledge({[this](const cImportEntry& row) { return m_source.Group(row); },
+                          [this](const cImportEntry& row) { return InfoOf(row).Category; }});
 }
 
 void cStagedListModel::SetRows(cImportEntryList rows)
@@ -100,7 +101,10 @@ void cStagedListModel::Arrange()
     // The newest day stands first when the days are sorted downwards, and names follow their column in the same way.
     // What is to be done keeps its order.
     using modStagedGroup::eGrouping;
-    const int column = Grouping() == eGrouping::Day ? Date : Grouping() == eGrouping::Counterparty ? Counterparty : -1;
+    const int column = Grouping() == eGrouping::Day ? Date
+        : Grouping() == eGrouping::Counterparty     ? Counterparty
+        : Grouping() == eGrouping::Category         ? Category
+                                                    : -1;
     m_order.Arrange([this](const std::vector<int>& among) { return SortKeys(among); }, m_sortOrder,
                     m_sortColumn == column ? m_sortOrder : Qt::AscendingOrder);
 }
@@ -147,6 +151,12 @@ void cStagedListModel::ForgetInfo()
 bool cStagedListModel::IsHead(const QModelIndex& index) const
 {
     return index.isValid() && index.internalId() == 0 && !m_order.Groups().empty();
+}
+
+QString cStagedListModel::GroupName(const QModelIndex& index) const
+{
+    const QModelIndex head = index.parent().isValid() ? index.parent() : index;
+    return IsHead(head) ? GroupOf(head).Name : QString();
 }
 
 const cStagedOrder::cGroup& cStagedListModel::GroupOf(const QModelIndex& head) const
@@ -392,7 +402,10 @@ QVariant cStagedListModel::GroupData(const cStagedOrder::cGroup& group, int colu
 
 Qt::ItemFlags cStagedListModel::flags(const QModelIndex& index) const
 {
-    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    // Onto another category; elsewhere there is nothing to drag them to.
+    const bool isDragged = index.isValid() && Grouping() == modStagedGroup::eGrouping::Category;
+    const Qt::ItemFlags flags =
+        QAbstractItemModel::flags(index) | (isDragged ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
     const int position = PositionOf(index);
     if (position < 0) {
         return flags;

@@ -86,7 +86,7 @@ void cStagedOrder::Choose()
 
 void cStagedOrder::Sort(const fnKeys& keysOf, Qt::SortOrder order, Qt::SortOrder groupOrder)
 {
-    modStagedGroup::cGroups groups = modStagedGroup::Gather(m_rows, m_all, m_grouping, m_planOf);
+    modStagedGroup::cGroups groups = modStagedGroup::Gather(m_rows, m_all, m_grouping, m_known);
     const std::vector<qint64> keys = keysOf(m_all);
     const bool isUp = order == Qt::AscendingOrder;
     const bool areGroupsUp = groupOrder == Qt::AscendingOrder;

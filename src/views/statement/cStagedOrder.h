@@ -63,8 +63,8 @@ public:
     void SetHasCategory(fnHas hasCategory)
     {
         m_hasCategory = std::move(hasCategory);
-    }                                                                             // tells whether a row has a category
-    void SetPlan(modStagedGroup::fnPlan planOf) { m_planOf = std::move(planOf); } // for the groups of the review
+    } // tells whether a row has a category
+    void SetKnowledge(modStagedGroup::cKnowledge known) { m_known = std::move(known); } // for the groups of the review
     void Arrange(const fnKeys& keys, Qt::SortOrder order, Qt::SortOrder groups);
 
     // Every word must be found. Keeps the arrangement.
@@ -98,7 +98,7 @@ private:
     std::unique_ptr<cStagedFilter> m_filter; // made when something is typed for the first time
     cShown m_shown;
     modStagedGroup::eGrouping m_grouping = modStagedGroup::eGrouping::None;
-    modStagedGroup::fnPlan m_planOf;
+    modStagedGroup::cKnowledge m_known;
     fnHas m_hasCategory;
     QList<modFold::cFolded> m_words;
     cCounts m_counts;

@@ -15,7 +15,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // In the order of eGrouping.
-constexpr std::array<const char16_t*, 4> words{u"Keine Gruppierung", u"Nach Empfänger", u"Nach Tag", u"Nach Vorschlag"};
+constexpr std::array<const char16_t*, 5> words{u"Keine Gruppierung", u"Nach Empfänger", u"Nach Tag", u"Nach Vorschlag",
+                                               u"Nach Kategorie"};
+
+QString UnknownName()
+{
+    return cText::Tr("noch nicht verglichen");
+}
 
 // One shop comes in several spellings of upper and lower case; the first one is shown for all.
 QString Counterparty(const cImportEntry& row)
@@ -65,16 +71,28 @@ modStagedGroup::cGroups ByDay(const cImportEntryList& rows, const std::vector<in
 
 // A group without rows is none.
 modStagedGroup::cGroups ByPlan(const cImportEntryList& rows, const std::vector<int>& shown,
-                               const modStagedGroup::fnPlan& planOf)
+                               const modStagedGroup::cKnowledge& known)
 {
     modStagedGroup::cGroups groups;
-    groups.Names = {cText::Tr("schon im Buch"), cText::Tr("sicher"), cText::Tr("bitte ansehen"),
-                    cText::Tr("noch nicht verglichen"), cText::Tr("gebucht")};
+    groups.Names = {cText::Tr("schon im Buch"), cText::Tr("sicher"), cText::Tr("bitte ansehen"), UnknownName(),
+                    cText::Tr("gebucht")};
     groups.Numbers.reserve(shown.size());
     for (const int row : shown) {
-        groups.Numbers.push_back(static_cast<qint64>(planOf(rows.at(row))));
+        groups.Numbers.push_back(static_cast<qint64>(known.PlanOf(rows.at(row))));
     }
     return groups;
+}
+
+// As proposed or as booked, by name.
+modStagedGroup::cGroups ByCategory(const cImportEntryList& rows, const std::vector<int>& shown,
+                                   const modStagedGroup::cKnowledge& known)
+{
+    modEntryOrder::cRanked ranked = modEntryOrder::Rank(static_cast<int>(shown.size()), [&](int place) {
+        const cImportEntry& row = rows.at(shown[static_cast<std::size_t>(place)]);
+        return known.PlanOf(row) == eStagedGroup::Unknown ? UnknownName() : known.CategoryOf(row);
+    });
+    std::replace(ranked.Names.begin(), ranked.Names.end(), QString(), cText::Tr("Ohne Kategorie"));
+    return {std::move(ranked.Ranks), std::move(ranked.Names)};
 }
 
 } // namespace
@@ -82,7 +100,7 @@ modStagedGroup::cGroups ByPlan(const cImportEntryList& rows, const std::vector<i
 QStringList modStagedGroup::Shown()
 {
     return {cText::Tr("Keine"), cText::Tr("Nach Empfänger / Auftraggeber"), cText::Tr("Nach Tag"),
-            cText::Tr("Nach Vorschlag")};
+            cText::Tr("Nach Vorschlag"), cText::Tr("Nach Kategorie")};
 }
 
 QString modStagedGroup::Stored(eGrouping grouping)
@@ -97,12 +115,13 @@ modStagedGroup::eGrouping modStagedGroup::FromStored(const QString& word)
 }
 
 modStagedGroup::cGroups modStagedGroup::Gather(const cImportEntryList& rows, const std::vector<int>& shown,
-                                               eGrouping grouping, const fnPlan& planOf)
+                                               eGrouping grouping, const cKnowledge& known)
 {
     switch (grouping) {
     case eGrouping::Counterparty: return ByCounterparty(rows, shown);
     case eGrouping::Day: return ByDay(rows, shown);
-    case eGrouping::Plan: return ByPlan(rows, shown, planOf);
+    case eGrouping::Plan: return ByPlan(rows, shown, known);
+    case eGrouping::Category: return ByCategory(rows, shown, known);
     case eGrouping::None: break;
     }
     return {};

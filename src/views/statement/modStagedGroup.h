@@ -12,7 +12,13 @@
 // Gathering bank transactions.
 namespace modStagedGroup {
 
-enum class eGrouping { None, Counterparty, Day, Plan };
+enum class eGrouping { None, Counterparty, Day, Plan, Category };
+
+// Whether the groups hang on what each row is to become.
+[[nodiscard]] inline bool NeedsPlan(eGrouping grouping)
+{
+    return grouping == eGrouping::Plan || grouping == eGrouping::Category;
+}
 
 // The groups as the user sees them, in the order of their values, and the words they are stored under.
 [[nodiscard]] QStringList Shown();
@@ -25,9 +31,13 @@ struct cGroups
     std::vector<qint64> Numbers; // empty without grouping
     QStringList Names;
 };
-// What is to be done with a row.
-using fnPlan = std::function<eStagedGroup(const cImportEntry&)>;
+// What is known of a row beyond itself.
+struct cKnowledge
+{
+    std::function<eStagedGroup(const cImportEntry&)> PlanOf; // what is to be done with it
+    std::function<QString(const cImportEntry&)> CategoryOf;  // asked where the first says that it is known
+};
 [[nodiscard]] cGroups Gather(const cImportEntryList& rows, const std::vector<int>& shown, eGrouping grouping,
-                             const fnPlan& planOf);
+                             const cKnowledge& known);
 
 } // namespace modStagedGroup

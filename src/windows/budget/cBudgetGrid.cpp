@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -43,16 +44,37 @@ void cBudgetGrid::FollowColumns()
     connect(lines, &QScrollBar::valueChanged, sum, &QScrollBar::setValue);
     connect(sum, &QScrollBar::valueChanged, lines, &QScrollBar::setValue);
     connect(sum, &QScrollBar::rangeChanged, this, &cBudgetGrid::FitSum);
-    connect(m_lines->horizontalHeader(), &QHeaderView::sectionResized, m_sum,
-            [this](int column, int /*before*/, int width) { m_sum->setColumnWidth(column, width); });
+    connect(m_lines->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int column, int /*before*/, int width) { ColumnResized(column, width); });
+    connect(m_lines->model(), &QAbstractItemModel::dataChanged, this, [this] { Fit(eFit::Grow); });
+    connect(m_sum->model(), &QAbstractItemModel::dataChanged, this, [this] { Fit(eFit::Grow); });
     connect(m_sum->model(), &QAbstractItemModel::modelReset, this, &cBudgetGrid::FitSum);
     m_lines->viewport()->installEventFilter(this);
 }
 
 void cBudgetGrid::FitColumns()
 {
+    Fit(eFit::Exact);
+}
+
+// While somebody types columns only grow: what stands there does not move with every figure.
+void cBudgetGrid::Fit(eFit fit)
+{
+    const QScopedValueRollback guard(m_isFitting, true);
     for (int column = 0; column < cBudgetModel::ColumnCount; ++column) {
-        m_lines->setColumnWidth(column, std::max(m_lines->ContentWidth(column), m_sum->ContentWidth(column)));
+        if (!m_drawn.contains(column)) {
+            const int least = fit == eFit::Grow ? m_lines->columnWidth(column) : 0;
+            m_lines->setColumnWidth(column,
+                                    std::max({least, m_lines->ContentWidth(column), m_sum->ContentWidth(column)}));
+        }
+    }
+}
+
+void cBudgetGrid::ColumnResized(int column, int width)
+{
+    m_sum->setColumnWidth(column, width);
+    if (!m_isFitting) {
+        m_drawn.insert(column);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QSet>
 
 class QGridLayout;
 class cBudgetModel;
@@ -16,13 +17,17 @@ public:
     explicit cBudgetGrid(cBudgetModel& model, QWidget* parent = nullptr);
 
     [[nodiscard]] cBudgetTable& Lines() { return *m_lines; }
-    void FitColumns();
+    void FitColumns(); // to what stands in them; those that somebody has drawn keep their width
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    enum class eFit { Exact, Grow };
+
     void FollowColumns();
+    void Fit(eFit fit);
+    void ColumnResized(int column, int width);
     void Align();
     void FitSum();
 
@@ -30,4 +35,6 @@ private:
     QFrame* m_rule;
     cBudgetTable* m_sum;
     QGridLayout* m_layout;
+    QSet<int> m_drawn; // columns that have a width of somebody's choice
+    bool m_isFitting = false;
 };

@@ -4,6 +4,7 @@
 #include "views/budget/cBudgetModel.h"
 #include "windows/budget/cBudgetGrid.h"
 #include "windows/budget/cBudgetTable.h"
+#include "windows/look/modTone.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modPlace.h"
 
@@ -33,6 +34,7 @@ frmBudget::frmBudget(cBudgetModel& budget, QWidget* parent)
     layout->addLayout(BuildSelectors());
     layout->addWidget(hint);
     layout->addWidget(m_grid, 1);
+    layout->addWidget(BuildNote());
     layout->addLayout(BuildActions());
     layout->addLayout(BuildButtons());
     const QSize wanted(fontMetrics().averageCharWidth() * 180, fontMetrics().height() * 36);
@@ -61,6 +63,16 @@ QLayout* frmBudget::BuildSelectors()
     row->insertSpacing(2, fontMetrics().averageCharWidth() * 2);
     row->addStretch();
     return row;
+}
+
+// Below the grid, where the sum of all stands.
+QLabel* frmBudget::BuildNote()
+{
+    auto* note = new QLabel(m_budget.SumNote(), this);
+    note->setWordWrap(true);
+    note->setHidden(note->text().isEmpty());
+    modTone::Use(*note, modTone::Quiet);
+    return note;
 }
 
 void frmBudget::ShowMonths()

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class QComboBox;
+class QLabel;
 class QLayout;
 class QSpinBox;
 class cBudgetGrid;
@@ -24,6 +25,7 @@ private:
     [[nodiscard]] QLayout* BuildSelectors();
     [[nodiscard]] QLayout* BuildActions();
     [[nodiscard]] QLayout* BuildButtons();
+    [[nodiscard]] QLabel* BuildNote();
     void ShowYear(int year);
     void ShowMonths();
 

@@ -178,7 +178,7 @@ void cAccountPanel::TakeDrag(QDropEvent& event)
 {
     const QModelIndex row = m_view->indexAt(event.position().toPoint());
     const QString account = m_model.AccountAt(row);
-    const bool isRows = event.mimeData()->hasFormat(modRowDrag::Format);
+    const bool isRows = m_takesRows && event.mimeData()->hasFormat(modRowDrag::Format);
     event.setAccepted(isRows && (!account.isEmpty() || event.type() == QEvent::DragEnter));
     const bool isTarget = event.type() == QEvent::DragMove && event.isAccepted();
     Highlight(isTarget ? row : m_view->currentIndex());

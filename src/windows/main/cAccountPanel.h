@@ -20,6 +20,7 @@ public:
     explicit cAccountPanel(cAccountListModel& model, QWidget* parent = nullptr);
 
     void SetTitle(const QString& title);
+    void TakeRows(bool isTaken) { m_takesRows = isTaken; } // that are dragged onto an account
 
 Q_SIGNALS:
     void AccountChosen(const QString& account); // empty: all
@@ -41,4 +42,5 @@ private:
     cAccountListModel& m_model;
     QLabel* m_title;
     QTreeView* m_view;
+    bool m_takesRows = true;
 };

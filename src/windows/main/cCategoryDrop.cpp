@@ -1,12 +1,13 @@
 #include "windows/main/cCategoryDrop.h"
 
-#include "views/sheet/modRowDrag.h"
-
+#include <QDrag>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QRubberBand>
 #include <QScrollBar>
 #include <QTreeView>
+
+#include <utility>
 
 namespace {
 
@@ -14,10 +15,11 @@ constexpr int scrollPause = 60; // milliseconds for a line
 
 } // namespace
 
-cCategoryDrop::cCategoryDrop(QTreeView& tree, const cEntryListModel& entries)
+cCategoryDrop::cCategoryDrop(QTreeView& tree, QString format, fnCategory categoryOf)
     : QObject(&tree),
       m_tree(tree),
-      m_entries(entries),
+      m_format(std::move(format)),
+      m_categoryOf(std::move(categoryOf)),
       m_frame(new QRubberBand(QRubberBand::Rectangle, tree.viewport()))
 {
     m_tree.setAcceptDrops(true);
@@ -31,6 +33,15 @@ cCategoryDrop::cCategoryDrop(QTreeView& tree, const cEntryListModel& entries)
     });
 }
 
+void cCategoryDrop::Drag(QTreeView& tree, const QString& format, const QByteArray& lines)
+{
+    auto* data = new QMimeData;
+    data->setData(format, lines);
+    auto* drag = new QDrag(&tree); // it goes by itself, and the lines with it
+    drag->setMimeData(data);
+    drag->exec(Qt::CopyAction);
+}
+
 bool cCategoryDrop::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::DragLeave) {
@@ -42,7 +53,7 @@ bool cCategoryDrop::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
     auto& drop = *static_cast<QDropEvent*>(event); // the two others are derived from it
-    if (!drop.mimeData()->hasFormat(modRowDrag::Format)) {
+    if (!drop.mimeData()->hasFormat(m_format)) {
         return QObject::eventFilter(watched, event);
     }
     const QString category = CategoryUnder(drop);
@@ -55,10 +66,10 @@ bool cCategoryDrop::eventFilter(QObject* watched, QEvent* event)
         ScrollNear(drop.position().toPoint().y());
     }
     if (isDrop && !category.isEmpty()) {
-        const QList<cEntryListModel::cKey> rows = modRowDrag::FromBytes(drop.mimeData()->data(modRowDrag::Format));
         // The mouse is let go first: what follows may ask.
         QMetaObject::invokeMethod(
-            this, [this, rows, category] { Q_EMIT RowsDropped(rows, category); }, Qt::QueuedConnection);
+            this, [this, lines = drop.mimeData()->data(m_format), category] { Q_EMIT Dropped(lines, category); },
+            Qt::QueuedConnection);
     }
     return true;
 }
@@ -82,7 +93,7 @@ void cCategoryDrop::Stop()
 
 QString cCategoryDrop::CategoryUnder(const QDropEvent& event) const
 {
-    return m_entries.GroupCategory(m_tree.indexAt(event.position().toPoint()));
+    return m_categoryOf(m_tree.indexAt(event.position().toPoint()));
 }
 
 // The head of the group, also while the mouse is over one of its lines.

@@ -2,17 +2,17 @@
 
 #include "base/cText.h"
 #include "views/list/cListLayout.h"
+#include "views/sheet/cCellEdit.h"
 #include "views/sheet/modRowDrag.h"
 #include "windows/look/modGroupHead.h"
+#include "windows/main/cCategoryDrop.h"
 #include "windows/main/cCellEditing.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
 
-#include <QDrag>
 #include <QHeaderView>
 #include <QMenu>
-#include <QMimeData>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -31,7 +31,10 @@ const QList<int> hiddenAtFirst{cEntryListModel::Tags, cEntryListModel::Payer};
 
 } // namespace
 
-cEntryTree::cEntryTree(cEntryListModel& model, cCellEdit& cells, QWidget* parent) : QTreeView(parent), m_model(model)
+cEntryTree::cEntryTree(cEntryListModel& model, cCellEdit& cells, QWidget* parent)
+    : QTreeView(parent),
+      m_model(model),
+      m_cells(cells)
 {
     // Before the base class hears of it and forgets which line stands where.
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cEntryTree::KeepSelection);
@@ -144,24 +147,20 @@ void cEntryTree::Copy() const
     modClipboard::CopyLines(*this, ShownColumns(), cEntryListModel::GroupRole);
 }
 
-// From a line that is selected already the mouse drags, from any other it selects as it goes.
+// From a line that is selected already the mouse drags, from any other it selects as it goes. What can only be read
+// stays where it is.
 void cEntryTree::mousePressEvent(QMouseEvent* event)
 {
-    setDragEnabled(selectionModel()->isSelected(indexAt(event->pos())));
+    setDragEnabled(!m_cells.IsReadOnly() && selectionModel()->isSelected(indexAt(event->pos())));
     QTreeView::mousePressEvent(event);
 }
 
 void cEntryTree::startDrag(Qt::DropActions /*actions*/)
 {
     const QList<cEntryListModel::cKey> keys = SelectedKeys();
-    if (keys.isEmpty()) {
-        return;
+    if (!keys.isEmpty()) {
+        cCategoryDrop::Drag(*this, modRowDrag::Format, modRowDrag::ToBytes(keys, m_model.ShownAccount()));
     }
-    auto* rows = new QMimeData;
-    rows->setData(modRowDrag::Format, modRowDrag::ToBytes(keys, m_model.ShownAccount()));
-    auto* drag = new QDrag(this); // it goes by itself, and the rows with it
-    drag->setMimeData(rows);
-    drag->exec(Qt::CopyAction);
 }
 
 void cEntryTree::SetEmptyText(const QString& title, const QString& hint)

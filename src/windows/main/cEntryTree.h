@@ -61,6 +61,7 @@ private:
     void OpenColumnMenu(const QPoint& globalPosition);
 
     cEntryListModel& m_model;
+    cCellEdit& m_cells;
     cColumnFit* m_fit;
     QList<cEntryListModel::cKey> m_selected;
     cEntryListModel::cKey m_current;

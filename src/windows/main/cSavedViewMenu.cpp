@@ -26,6 +26,9 @@ void cSavedViewMenu::Show(const QStringList& names)
     m_actions.clear();
     m_actions.append(m_menu.addSeparator());
     for (int number = 0; number < names.size(); ++number) {
+        if (names.at(number).isEmpty()) {
+            continue;
+        }
         QString text = names.at(number);
         text.replace(u'&', u"&&"_s);
         const bool hasKey = number < mostKeys;

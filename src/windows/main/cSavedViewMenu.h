@@ -7,7 +7,7 @@
 class QAction;
 class QMenu;
 
-// The kept views at the end of a menu; the first nine with a key.
+// Kept views at the end of a menu; the first nine with a key.
 class cSavedViewMenu final : public QObject
 {
     Q_OBJECT
@@ -15,6 +15,7 @@ class cSavedViewMenu final : public QObject
 public:
     explicit cSavedViewMenu(QMenu& menu);
 
+    // In their order; one without a name is left out and keeps its number.
     void Show(const QStringList& names);
 
 Q_SIGNALS:

@@ -4,6 +4,7 @@
 #include "model/modSettingKey.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
+#include "views/sheet/modRowDrag.h"
 #include "windows/look/modIcon.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
@@ -218,7 +219,11 @@ void frmMain::Connect()
     connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped);
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RowsDropped, this, &frmMain::RowsDropped);
-    connect(new cCategoryDrop(*m_tree, m_model.Entries()), &cCategoryDrop::RowsDropped, this, &frmMain::RowsRegrouped);
+    auto* regroup = new cCategoryDrop(*m_tree, modRowDrag::Format,
+                                      [this](const QModelIndex& line) { return m_model.DropCategory(line); });
+    connect(regroup, &cCategoryDrop::Dropped, this, [this](const QByteArray& lines, const QString& category) {
+        Q_EMIT RowsRegrouped(modRowDrag::FromBytes(lines), category);
+    });
     connect(m_accounts, &cAccountPanel::RenameRequested, &m_model, &cMainModel::RenameAccount);
     connect(m_tabs, &QTabWidget::currentChanged, this, &frmMain::PageChanged);
     connect(m_backBar, &cBackBar::BackRequested, this, &frmMain::GoBack);
@@ -293,6 +298,7 @@ void frmMain::ShowView()
     m_backBar->ShowText(m_model.SelectionText());
     m_viewBar->ShowView();
     m_accounts->SetTitle(m_model.BalancesTitle());
+    m_accounts->TakeRows(!m_model.IsReadOnly());
     for (const modCommand::cCommand& command : modCommand::All()) {
         if (QAction* action = m_actions.value(command.Id); action->isCheckable()) {
             action->setChecked(m_model.IsChecked(command));

@@ -11,6 +11,7 @@
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modPlace.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QHideEvent>
 #include <QLabel>
@@ -19,6 +20,8 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,6 +41,7 @@ frmSuche::frmSuche(cSearchModel& model, cCellEdit& cells, QWidget* parent)
 {
     setWindowTitle(cText::Tr("Suchen"));
     Build();
+    BuildMenu();
     Connect();
     ResetLayout();
     if (!m_model.Layout().isEmpty()) {
@@ -111,41 +115,44 @@ void frmSuche::Connect()
     connect(new QShortcut(Qt::CTRL | Qt::Key_Z, this), &QShortcut::activated, this, &frmSuche::UndoRequested);
     connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, this), &QShortcut::activated, this,
             &frmSuche::RedoRequested);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
-                &frmSuche::Edit);
-    }
-    connect(new QShortcut(Qt::Key_Delete, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
-            &frmSuche::Delete);
     connect(m_tree, &cEntryTree::CellWritten, this, &frmSuche::CellWritten);
     connect(m_change, &QPushButton::clicked, this, [this] { Q_EMIT ChangeRequested(m_tree->SelectedKeys()); });
-    AddKey(Qt::CTRL | Qt::Key_M, &frmSuche::ChangeRequested);
-    m_duplicate->setMenu(new QMenu(m_duplicate));
-    AddDuplicate(cText::Tr("Für &heute"), Qt::CTRL | Qt::Key_D, &frmSuche::DuplicateRequested);
-    AddDuplicate(cText::Tr("Für den nächsten &Monat"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, &frmSuche::NextMonthRequested);
-    connect(new QShortcut(QKeySequence::Copy, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
-            m_tree, &cEntryTree::Copy);
 }
 
-void frmSuche::AddKey(const QKeySequence& key, void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys))
+// The menu of the list, as the main window's list has one.
+void frmSuche::BuildMenu()
 {
-    connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
-            [this, signal] {
-                const QList<cEntryListModel::cKey> keys = m_tree->SelectedKeys();
-                if (!keys.isEmpty()) {
-                    Q_EMIT(this->*signal)(keys);
-                }
-            });
+    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* duplicate = new QMenu(m_duplicate->text(), m_duplicate);
+    AddAction(*m_tree, m_edit->text(), {Qt::Key_Return, Qt::Key_Enter}, [this] { Edit(); });
+    AddAction(*m_tree, cText::Tr("Zeilen k&opieren"), {QKeySequence::Copy}, [this] { m_tree->Copy(); });
+    m_writing = {
+        AddAction(*m_tree, m_delete->text(), {Qt::Key_Delete}, [this] { Delete(); }),
+        AddAction(*m_tree, m_change->text(), {Qt::CTRL | Qt::Key_M},
+                  [this] { Q_EMIT ChangeRequested(m_tree->SelectedKeys()); }),
+        AddAction(*duplicate, cText::Tr("Für &heute"), {Qt::CTRL | Qt::Key_D},
+                  [this] { Q_EMIT DuplicateRequested(m_tree->SelectedKeys()); }),
+        AddAction(*duplicate, cText::Tr("Für den nächsten &Monat"), {Qt::CTRL | Qt::SHIFT | Qt::Key_D},
+                  [this] { Q_EMIT NextMonthRequested(m_tree->SelectedKeys()); }),
+        duplicate->menuAction(),
+    };
+    m_duplicate->setMenu(duplicate);
+    m_tree->addAction(duplicate->menuAction());
 }
 
-void frmSuche::AddDuplicate(const QString& text, const QKeySequence& key,
-                            void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys))
+QAction* frmSuche::AddAction(QWidget& menu, const QString& text, const QList<QKeySequence>& keys,
+                             const std::function<void()>& action)
 {
-    QAction* action = m_duplicate->menu()->addAction(text);
-    action->setShortcut(key); // shown here; the list itself listens to it
-    action->setShortcutContext(Qt::WidgetShortcut);
-    connect(action, &QAction::triggered, this, [this, signal] { Q_EMIT(this->*signal)(m_tree->SelectedKeys()); });
-    AddKey(key, signal);
+    auto* made = new QAction(text, &menu);
+    made->setShortcuts(keys);
+    made->setShortcutContext(Qt::WidgetShortcut);
+    connect(made, &QAction::triggered, this, [this, action] {
+        if (!m_tree->SelectedKeys().isEmpty()) {
+            action();
+        }
+    });
+    menu.addAction(made);
+    return made;
 }
 
 void frmSuche::Search()
@@ -165,11 +172,15 @@ void frmSuche::ShowFound()
 
 void frmSuche::ShowButtons()
 {
-    const qsizetype count = m_tree->SelectedKeys().size();
-    m_edit->setEnabled(count > 0);
-    m_delete->setEnabled(count > 0);
-    m_change->setEnabled(count > 0);
-    m_duplicate->setEnabled(count > 0);
+    const bool hasAny = !m_tree->SelectedKeys().isEmpty();
+    const bool canWrite = hasAny && !m_model.IsReadOnly();
+    m_edit->setEnabled(hasAny);
+    for (QPushButton* button : {m_delete, m_change, m_duplicate}) {
+        button->setEnabled(canWrite);
+    }
+    for (QAction* action : std::as_const(m_writing)) {
+        action->setEnabled(canWrite);
+    }
 }
 
 void frmSuche::GoToList()

@@ -3,12 +3,17 @@
 #include "views/list/cEntryListModel.h"
 
 #include <QDialog>
+#include <QKeySequence>
+#include <QList>
+
+#include <functional>
 
 class cCellEdit;
 class cEntryTree;
 class cSearchFields;
 class cSearchModel;
 class cSumBar;
+class QAction;
 class QLabel;
 class QLayout;
 class QPushButton;
@@ -53,10 +58,10 @@ private:
     void GoToList();
     void Edit();
     void Delete();
-    // A key that works on the selected lines while the list has the focus.
-    void AddKey(const QKeySequence& key, void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys));
-    void AddDuplicate(const QString& text, const QKeySequence& key,
-                      void (frmSuche::*signal)(const QList<cEntryListModel::cKey>& keys));
+    void BuildMenu();
+    // Something for the selected lines, in a menu and with keys while the list has the focus.
+    QAction* AddAction(QWidget& menu, const QString& text, const QList<QKeySequence>& keys,
+                       const std::function<void()>& action);
 
     cSearchModel& m_model;
     cSearchFields* m_fields;
@@ -69,4 +74,5 @@ private:
     QPushButton* m_duplicate;
     QPushButton* m_clear;
     QPushButton* m_close;
+    QList<QAction*> m_writing; // what changes the selected lines
 };

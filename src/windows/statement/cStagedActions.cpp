@@ -164,10 +164,17 @@ void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
     const QList<int> ids = isSelected ? m_tree.SelectedIds() : QList<int>{m_review.Rows().IdAt(index)};
     if (index.column() == cStagedListModel::Interval) {
         m_review.Choose(ids, {}, cImportReview::StoredInterval(text));
-    } else if (m_review.Choose(ids, text, {}) && ids.size() == 1) {
-        // The field is still being closed, and a question would take the focus from it.
+    } else {
+        TakeCategory(ids, text);
+    }
+}
+
+void cStagedActions::TakeCategory(const QList<int>& ids, const QString& category)
+{
+    if (m_review.Choose(ids, category, {}) && ids.size() == 1) {
+        // A field may still be being closed, and a question would take the focus from it.
         QMetaObject::invokeMethod(
-            this, [this, id = ids.constFirst(), text] { m_review.OfferAlike(id, text); }, Qt::QueuedConnection);
+            this, [this, id = ids.constFirst(), category] { m_review.OfferAlike(id, category); }, Qt::QueuedConnection);
     }
 }
 

@@ -31,6 +31,8 @@ public:
 
     // Takes a text that was chosen in a cell for all selected rows, when the cell is one of theirs.
     void TakeChoice(const QModelIndex& index, const QString& text);
+    // The same for a category of all these rows.
+    void TakeCategory(const QList<int>& ids, const QString& category);
     // The same for a text that names no category yet, once the user agrees to make one of it; false when not.
     bool TakeNewCategory(const QModelIndex& index, const QString& typed);
 

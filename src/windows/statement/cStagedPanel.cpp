@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/statement/cImportReview.h"
+#include "windows/main/cCategoryDrop.h"
 #include "windows/statement/cStagedActions.h"
 #include "windows/statement/cStagedDelegate.h"
 #include "windows/statement/cStagedTree.h"
@@ -139,6 +140,11 @@ void cStagedPanel::Connect()
                     m_tree->edit(index);
                 }
             });
+    auto* drop = new cCategoryDrop(*m_tree, cStagedTree::DragFormat,
+                                   [&view](const QModelIndex& line) { return view.GroupCategory(line); });
+    connect(drop, &cCategoryDrop::Dropped, this, [this](const QByteArray& /*lines*/, const QString& category) {
+        m_actions->TakeCategory(m_tree->SelectedIds(), category);
+    });
     connect(m_openOnly, &QCheckBox::toggled, &view, &cStagedChoice::SetOpenOnly);
     connect(m_uncategorised, &QCheckBox::toggled, &view, &cStagedChoice::SetUncategorisedOnly);
     connect(m_hideOld, &QCheckBox::toggled, &view, &cStagedChoice::SetOldHidden);
@@ -149,6 +155,8 @@ void cStagedPanel::Connect()
             m_filter, &QLineEdit::clear);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &cStagedPanel::ShowSelection);
     connect(&view, &cStagedChoice::Changed, this, &cStagedPanel::ShowView);
+    connect(&view, &cStagedChoice::LayoutWanted, this, &cStagedPanel::SaveLayout);
+    connect(&view, &cStagedChoice::LayoutTaken, this, &cStagedPanel::ResetLayout);
     // A high pile is planned bit by bit, whenever there is nothing else to do.
     m_planning->setInterval(0);
     connect(m_planning, &QTimer::timeout, this, [this] {
@@ -177,6 +185,9 @@ void cStagedPanel::ShowView()
     m_hideOld->setChecked(view.IsOldHidden());
     m_showTitle->setChecked(view.IsTitleShown());
     m_grouping->setCurrentIndex(view.Grouping());
+    if (m_filter->text() != view.Filter()) { // what is being typed keeps its cursor
+        m_filter->setText(view.Filter());
+    }
     m_title->setVisible(view.IsTitleShown());
     m_tree->SetEmptyText(view.EmptyTitle(), view.EmptyHint());
     m_count->setText(view.CountText());
@@ -197,8 +208,13 @@ void cStagedPanel::ResetLayout()
     m_tree->SetLayoutText(m_review.View().Layout());
 }
 
-void cStagedPanel::hideEvent(QHideEvent* event)
+void cStagedPanel::SaveLayout()
 {
     m_review.View().SaveLayout(m_tree->LayoutText());
+}
+
+void cStagedPanel::hideEvent(QHideEvent* event)
+{
+    SaveLayout();
     QWidget::hideEvent(event);
 }

@@ -44,6 +44,7 @@ private:
     void Connect();
     void ShowView();
     void ShowSelection();
+    void SaveLayout();
 
     cImportReview& m_review;
     cStagedTree* m_tree;

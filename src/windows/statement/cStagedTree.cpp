@@ -4,6 +4,7 @@
 #include "views/list/cListLayout.h"
 #include "views/statement/cStagedListModel.h"
 #include "windows/look/modGroupHead.h"
+#include "windows/main/cCategoryDrop.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
@@ -253,7 +254,8 @@ void cStagedTree::GoToCategory()
     }
 }
 
-// The arrow of a group opens and closes it and leaves the selection alone.
+// The arrow of a group opens and closes it and leaves the selection alone. From a line that is selected already the
+// mouse drags, from any other it selects as it goes.
 void cStagedTree::mousePressEvent(QMouseEvent* event)
 {
     const QModelIndex head = indexAt(event->pos()).siblingAtColumn(0);
@@ -263,7 +265,14 @@ void cStagedTree::mousePressEvent(QMouseEvent* event)
         setExpanded(head, !isExpanded(head));
         return;
     }
+    setDragEnabled(selectionModel()->isSelected(indexAt(event->pos())));
     QTreeView::mousePressEvent(event);
+}
+
+// What is selected stays so until it is dropped, so the lines need not be named.
+void cStagedTree::startDrag(Qt::DropActions /*actions*/)
+{
+    cCategoryDrop::Drag(*this, DragFormat, {});
 }
 
 void cStagedTree::contextMenuEvent(QContextMenuEvent* event)

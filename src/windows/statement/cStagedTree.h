@@ -15,6 +15,8 @@ class cStagedTree final : public QTreeView
     Q_OBJECT
 
 public:
+    inline static const QString DragFormat = QStringLiteral("application/x-kontorelle-umsaetze"); // of its rows
+
     explicit cStagedTree(cStagedListModel& model, QWidget* parent = nullptr);
 
     [[nodiscard]] QList<int> SelectedIds() const; // with all rows of the groups that are selected
@@ -36,6 +38,7 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;

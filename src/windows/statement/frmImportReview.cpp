@@ -2,13 +2,16 @@
 
 #include "base/cText.h"
 #include "views/statement/cImportReview.h"
+#include "windows/main/cSavedViewMenu.h"
 #include "windows/statement/cStagedActions.h"
 #include "windows/statement/cStagedPanel.h"
 #include "windows/statement/cStagedTree.h"
 #include "windows/widget/cSummaryText.h"
 #include "windows/widget/modPlace.h"
 
+#include <QAction>
 #include <QBoxLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 
@@ -32,6 +35,7 @@ frmImportReview::frmImportReview(cImportReview& review, QWidget* parent)
 
 void frmImportReview::Build()
 {
+    m_panel->AddMore(BuildViews()->menuAction());
     auto* done = new QPushButton(cText::Tr("&Fertig"), this);
     done->setToolTip(cText::Tr("Schließt das Fenster; was offen ist, wartet auf der Seite „Kontoauszüge“"));
     connect(done, &QPushButton::clicked, this, &QDialog::accept);
@@ -49,6 +53,21 @@ void frmImportReview::Build()
     layout->addLayout(buttons);
     const QSize wanted(fontMetrics().averageCharWidth() * 190, fontMetrics().height() * 36);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
+}
+
+// The menu of the main window cannot be reached from here.
+QMenu* frmImportReview::BuildViews()
+{
+    cStagedChoice& view = m_review.View();
+    auto* menu = new QMenu(cText::Tr("&Meine Ansichten"), this);
+    QAction* keep = menu->addAction(cText::Tr("Ansicht &merken…"));
+    keep->setEnabled(!m_review.IsReadOnly());
+    auto* kept = new cSavedViewMenu(*menu);
+    kept->Show(view.KeptNames());
+    connect(keep, &QAction::triggered, &view, &cStagedChoice::Keep);
+    connect(kept, &cSavedViewMenu::Chosen, &view, qOverload<int>(&cStagedChoice::ShowKept));
+    connect(&view, &cStagedChoice::ViewsChanged, kept, [&view, kept] { kept->Show(view.KeptNames()); });
+    return menu;
 }
 
 void frmImportReview::ShowRows()

@@ -5,6 +5,7 @@
 class cImportReview;
 class cStagedPanel;
 class cSummaryText;
+class QMenu;
 class QPushButton;
 
 // The bank transactions of one import, to be looked through before they are booked.
@@ -18,6 +19,7 @@ public:
 
 private:
     void Build();
+    [[nodiscard]] QMenu* BuildViews();
     void ShowRows();
     void ShowSummary();
 
