@@ -108,6 +108,8 @@ void testQtUser::FileDialogsBeginWhereTheLastOneEnded()
     QCOMPARE(ChosenIn({}, write(root.filePath(u"Downloads/neu.db"_s))), root.filePath(u"Downloads"_s));
     QVERIFY(QDir(root.filePath(u"Bank"_s)).removeRecursively());
     QCOMPARE(ChosenIn({}, read), root.filePath(u"Downloads"_s));
+    QVERIFY(QDir(root.filePath(u"Downloads"_s)).removeRecursively());
+    QCOMPARE(ChosenIn({}, read), QDir::homePath());
 }
 
 void testQtUser::KeysHaveGermanNames()

@@ -146,10 +146,20 @@ void cHouseholdPlay::TakeAll()
     m_review.AcceptProposals(m_progress);
     const QSet<int> left = open();
     m_sure += before - left;
-    if (!left.isEmpty()) {
-        QList<int> ids(left.begin(), left.end());
-        std::sort(ids.begin(), ids.end());
-        m_review.Book(ids, m_progress);
+    LookThrough();
+}
+
+// What the proposals left open: the list leads from row to row, and Enter takes each as it is shown.
+void cHouseholdPlay::LookThrough()
+{
+    cStagedGuide& guide = m_review.Guide();
+    QList<int> rows = guide.After({}, {}).Rows;
+    while (!rows.isEmpty()) {
+        const cStagedGuide::cBefore before = guide.Before(rows);
+        m_review.Book(rows, m_progress);
+        const QList<int> open = m_review.Rows().OpenIds();
+        rows.removeIf([&](int id) { return !open.contains(id); });
+        rows = guide.After(before, rows).Rows;
     }
 }
 

@@ -36,7 +36,7 @@ public:
 };
 
 // A household that keeps a book: month by month it types its notes, reads the statements of its banks, takes all
-// proposals and books the rest, always with Enter.
+// proposals and books the rest row by row, always with Enter.
 class cHouseholdPlay
 {
 public:
@@ -67,6 +67,7 @@ private:
     void TypeNotes(QDate until);
     [[nodiscard]] QStringList WriteStatements(int month);
     void TakeAll();
+    void LookThrough();
     void Check(int month);
     void CheckAccount(const cHousehold::cAccount& account, QDate until);
     void CheckRows();

@@ -70,6 +70,8 @@ private Q_SLOTS:
         QTest::newRow("balance") << iban << u"20 -1 A"_s << u"2026-03-15=-3000"_s << u"Sparkonto"_s;
         QTest::newRow("start balance of a later day")
             << iban << u"20 -1 A"_s << u"2026-03-15=70000"_s << u"Girokonto"_s;
+        QTest::newRow("many payees, and the only one is called like the bank")
+            << iban << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << u"Volksbank"_s;
         QTest::newRow("many purposes") << iban << u"3 -500  Miete;4 -600  Strom;5 -700  Einkauf;6 900  Lohn"_s
                                        << QString() << u"Girokonto"_s;
         QTest::newRow("one purpose of many months")
@@ -100,6 +102,11 @@ private Q_SLOTS:
             row.ImportBeneficiary = parts.at(2);
             row.ImportPurpose = parts.value(3);
             QVERIFY(book.Hive.Add(row));
+        }
+        if (QByteArray(QTest::currentDataTag()).endsWith("like the bank")) {
+            cTemplateItem giro = book.Data.FindAccount(u"Girokonto"_s).value_or(cTemplateItem());
+            giro.TemplateName = u"Volksbank"_s;
+            QVERIFY(book.Data.ChangeTemplate(giro));
         }
         QFETCH(const QString, balance);
         book.Settings->Set(modSettingKey::BankBalances.Of(number), balance);

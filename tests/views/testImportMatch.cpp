@@ -90,6 +90,8 @@ private Q_SLOTS:
     void RefusedCorrectionTakesAllBack() const;
     void AsksForTheAccount() const;
     void ShowsWhatItIsNotSureOf() const;
+    void SeveralAreNotBookedUnseen() const;
+    void SeveralAreBookedWhenWanted() const;
     void BookingAsksAboutMatches_data() const;
     void BookingAsksAboutMatches() const;
     void AssignsByHand() const;
@@ -209,6 +211,59 @@ void testImportMatch::ShowsWhatItIsNotSureOf() const
     QVERIFY(page.Data.DeleteEntry(entry));
     page.Review.Refresh();
     QCOMPARE(page.Reason(0), u"keine Regel passt"_s);
+}
+
+// Enter on everything books what is sure, and leads through the rest row by row.
+void testImportMatch::SeveralAreNotBookedUnseen() const
+{
+    cPage page;
+    page.Review.View().SetOpenOnly(true);
+    (void)page.Spend(2310, u"Markthalle"_s);
+    const QList<int> sure{page.Stage(-23.1, u"Markthalle"_s), page.Stage(-12.99, u"Netflix"_s)};
+    const QList<int> unknown{page.Stage(-5, u"Jana"_s), page.Stage(-6, u"Niemand KG"_s)};
+    const QList<int> all = sure + unknown;
+    cStagedGuide& guide = page.Review.Guide();
+    QCOMPARE(guide.Staged(all).Rows, sure);
+    QCOMPARE(guide.AcceptText(), u"Alle &Vorschläge annehmen (2)"_s);
+    QVERIFY(!page.Review.Book(all, page.Progress)); // the user gives up
+    QCOMPARE(page.User.LastDecision.Text,
+             u"2 der Umsätze haben keinen sicheren Vorschlag:\n2 ohne bekannte Kategorie, also unter 'Allgemein'\n"
+             "Was soll geschehen?"_s);
+    QCOMPARE(page.User.LastDecision.Options, QStringList({u"Nur die 2 &sicheren buchen"_s, u"&Alle 4 buchen"_s}));
+    page.User.Decisions = {page.User.LastDecision.Default, 0};
+    cStagedGuide::cBefore before = guide.Before(all);
+    QVERIFY(page.Review.Book(all, page.Progress));
+    QCOMPARE(page.Review.Rows().OpenIds(), unknown);
+    cStagedGuide::cStop stop = guide.After(before, unknown);
+    QCOMPARE(stop.Rows, unknown.mid(0, 1));
+    QVERIFY(stop.IsField);
+    QVERIFY(guide.SelectionText(stop.Rows).startsWith(u"Bitte ansehen: Kategorie tippen"));
+    before = guide.Before(stop.Rows);
+    page.User.Asked.clear();
+    QVERIFY(page.Review.Book(stop.Rows, page.Progress)); // one that is looked at is booked without a question
+    QCOMPARE(page.User.Asked, QStringList());
+    QVERIFY(
+        page.Review.Summary().contains(u"Der Eintrag steht unter 'Allgemein', weil keine Kategorie bekannt ist."_s));
+    stop = guide.After(before, {});
+    QCOMPARE(stop.Rows, unknown.mid(1));
+    QCOMPARE(guide.After(guide.Before(stop.Rows), stop.Rows).Rows, QList<int>()); // left open, and the last one
+}
+
+// All of them in one go is possible, but never by Enter alone.
+void testImportMatch::SeveralAreBookedWhenWanted() const
+{
+    cPage page;
+    const QList<int> rows{page.Stage(-5, u"Jana"_s), page.Stage(-6, u"Niemand KG"_s)};
+    page.User.Decisions = {0, 1};
+    QVERIFY(page.Review.Book(rows, page.Progress)); // to look at them one by one
+    QCOMPARE(page.User.LastDecision.Options.constFirst(), u"&Einzeln ansehen"_s);
+    QCOMPARE(page.Data.CountEntries(), 0);
+    QVERIFY(page.Review.Choose({rows.constFirst()}, u"Freizeit; Geschenke"_s, {}));
+    QVERIFY(page.Review.Book(rows, page.Progress));
+    QCOMPARE(page.User.LastDecision.Options.constFirst(), u"Nur den &sicheren buchen"_s);
+    QCOMPARE(page.Data.CountEntries(), 2);
+    QVERIFY(page.Data.Journal().Undo()); // as one step
+    QCOMPARE(page.Data.CountEntries(), 0);
 }
 
 // A key alone never makes a second entry of what is in the book.

@@ -238,10 +238,9 @@ private Q_SLOTS:
         page.User.Choices = {u"Girokonto"_s};
         page.User.Answers = {eAnswer::Yes};
         page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
-        QVERIFY2(
-            page.User.Asked.constLast().startsWith(u"Laut Kontoauszug hatte das Konto 'Girokonto' am 01.05.2026 einen "
-                                                   "Stand von 100,00"),
-            qPrintable(page.User.Asked.constLast()));
+        QVERIFY2(page.User.Asked.constLast().startsWith(u"Am 04.05.2026 waren laut Kontoauszug 87,00"_s + space
+                                                        + u"€ auf dem Konto 'Girokonto'."),
+                 qPrintable(page.User.Asked.constLast()));
         const std::optional<cEntryItem> start = page.Data.GetStartGuthaben(u"Girokonto"_s);
         QVERIFY(start);
         QCOMPARE(start->EntryValue, 10500);

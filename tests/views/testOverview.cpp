@@ -104,6 +104,7 @@ private Q_SLOTS:
     void TellsWhatIsToBeDone();
     void AnEmptyBookHasNoFiguresToCompare();
     void FirstStepsStoreAllOrNothing();
+    void FirstStepsRename();
 };
 
 void testOverview::ShowsAMonth()
@@ -253,9 +254,10 @@ void testOverview::AnEmptyBookHasNoFiguresToCompare()
     scene.Show();
     QVERIFY(scene.Model.IsBookEmpty());
     QCOMPARE(scene.Model.Cards().size(), 2); // balances and what is to be done
-    scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2020, 1, 1); });
+    scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 2, 20); });
     scene.Show();
     QVERIFY(!scene.Model.IsBookEmpty());
+    QCOMPARE(scene.Lines(eOverviewCard::Month).size(), 2); // on this day of February there was nothing yet
 }
 
 void testOverview::FirstStepsStoreAllOrNothing()
@@ -281,6 +283,28 @@ void testOverview::FirstStepsStoreAllOrNothing()
                  {u"Girokonto | 1.234,50 €"_s, u"Sparkonto | 0,00 €"_s, u"Depot | -20,00 €"_s, u"Bargeld | 0,00 €"_s}));
     QVERIFY(scene.Book.Data.Journal().Undo());
     QVERIFY(!scene.Book.Data.FindAccount(u"Depot"_s));
+}
+
+// Typing over a name means the account that stands there, with all that it has.
+void testOverview::FirstStepsRename()
+{
+    cScene scene;
+    (void)scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, 50000, QDate(2026, 1, 1));
+    const cFirstSteps steps = scene.Model.FirstSteps();
+    const qsizetype count = scene.Book.Data.GetAccounts().size();
+    QList<cFirstSteps::cRow> rows = steps.Start();
+    rows[0].Name = u"Sparkonto"_s;
+    rows[1].Name = u"Rücklage"_s;
+    QVERIFY(steps.Save(rows).startsWith(u"Ein Konto 'Sparkonto' gibt es schon."));
+    rows[0].Name.clear();
+    QVERIFY(steps.Save(rows).startsWith(u"Das Konto 'Girokonto' braucht einen Namen."));
+    rows[0].Name = u"Volksbank"_s;
+    QCOMPARE(steps.Save(rows), QString());
+    QCOMPARE(scene.Book.Data.GetAccounts().size(), count);
+    QVERIFY(!scene.Book.Data.FindAccount(u"Girokonto"_s) && scene.Book.Data.FindAccount(u"Rücklage"_s));
+    QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Volksbank"_s).value_or(cEntryItem()).EntryDate, QDate(2026, 1, 1));
+    QVERIFY(scene.Book.Data.Journal().Undo()); // all of it is one step
+    QVERIFY(scene.Book.Data.FindAccount(u"Girokonto"_s) && scene.Book.Data.FindAccount(u"Sparkonto"_s));
 }
 
 TEST_CLASS(testOverview, QCoreApplication)

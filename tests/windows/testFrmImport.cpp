@@ -126,6 +126,39 @@ private Q_SLOTS:
         QVERIFY(scene.Book.Data.GetEntries({}).value(0).EntryCategory.contains(u"Geschenke"_s, Qt::CaseInsensitive));
     }
 
+    // After what is sure comes what is not: its field is open, and Enter there books it and goes on.
+    void EnterLeadsThroughWhatIsNotSure()
+    {
+        cScene scene;
+        for (const QString& name : {u"Unbekannt GmbH"_s, u"Niemand KG"_s}) {
+            cImportEntry row = scene.Book.Data.GetImportEntries().constFirst();
+            row.ImportBeneficiary = name;
+            row.ImportPurpose = row.ImportBeneficiaryAccount = QString();
+            row.ImportValue = -100 * name.size();
+            row.ImportDate = row.ImportDate.addDays(name.size());
+            QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+        }
+        scene.Review.Refresh();
+        QCOMPARE(scene.Tree.SelectedIds().size(), 5);
+        const auto field = [&] { return scene.Tree.findChild<QComboBox*>(); };
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(scene.Review.Rows().Counts().Open, 2);
+        QVERIFY(field() != nullptr && field()->hasFocus());
+        QTest::keyClicks(field(), u"geschenke"_s);
+        QTest::keyClick(field(), Qt::Key_Return);
+        QTRY_COMPARE(scene.Review.Rows().Counts().Open, 1);
+        QVERIFY(scene.Book.Data.GetEntries({}).constLast().EntryCategory.contains(u"Geschenke"_s));
+        QTRY_VERIFY(field() != nullptr && field()->hasFocus());
+        QTest::keyClicks(field(), u"Ponyhof"_s); // names no category, and the user says no to a new one
+        QTest::keyClick(field(), Qt::Key_Return);
+        QTRY_VERIFY(field() != nullptr && field()->currentText() == u"Ponyhof");
+        QCOMPARE(scene.Review.Rows().Counts().Open, 1);
+        QTest::keyClick(field(), Qt::Key_Escape);
+        QTRY_VERIFY(field() == nullptr);
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(scene.Review.Rows().Counts().Open, 0);
+    }
+
     void NewCategoryIsOffered()
     {
         cScene scene;

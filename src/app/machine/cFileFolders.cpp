@@ -2,6 +2,7 @@
 
 #include "model/modSettingKey.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -29,8 +30,9 @@ QString cFileFolders::For(ePurpose purpose) const
     if (!last.isEmpty() && QFileInfo(last).isDir()) {
         return last;
     }
-    return QStandardPaths::writableLocation(purpose == ePurpose::Statement ? QStandardPaths::DownloadLocation
-                                                                           : QStandardPaths::DocumentsLocation);
+    const QString usual = QStandardPaths::writableLocation(
+        purpose == ePurpose::Statement ? QStandardPaths::DownloadLocation : QStandardPaths::DocumentsLocation);
+    return QFileInfo(usual).isDir() ? usual : QDir::homePath(); // a new desktop may name a folder that nobody made
 }
 
 void cFileFolders::Keep(ePurpose purpose, const QString& path)

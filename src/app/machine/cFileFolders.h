@@ -14,7 +14,8 @@ public:
     explicit cFileFolders(cRegistry& registry) : m_configuration(registry) {}
 
     // A folder that is there. While none was chosen, and while that one cannot be reached (a stick that is not plugged
-    // in), it is the one for downloads where a bank's files are wanted, and the one for documents otherwise.
+    // in), it is the one for downloads where a bank's files are wanted, and the one for documents otherwise, or home
+    // where that is missing.
     [[nodiscard]] QString For(ePurpose purpose) const;
 
     // The folder of a file that was chosen.

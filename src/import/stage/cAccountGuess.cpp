@@ -102,13 +102,17 @@ int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, c
     }
     const eKind kind = KindOfName(account);
     const eKind wanted = KindOfRows(number, rows);
-    // The shipped book has one account of the bank: while it has no number and no other is free, it is meant.
-    const bool isSole =
-        m_taken.isEmpty() && wanted != eKind::Card && kind != eKind::Cash
+    const auto isOfOtherKind = [wanted](eKind known) {
+        return wanted != eKind::Unknown && known != eKind::Unknown && known != wanted;
+    };
+    // A new book has one account of the bank, which may be called like the bank: while it has no number and no other
+    // can be meant, it is.
+    const bool isSole = m_taken.isEmpty() && wanted != eKind::Card && kind != eKind::Cash
         && std::none_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& other) {
-               return other.ID != account.ID && modTemplate::IsVisible(other) && KindOfName(other) != eKind::Cash;
-           });
-    const bool isOther = wanted != eKind::Unknown && kind != eKind::Unknown && kind != wanted;
+                            return other.ID != account.ID && modTemplate::IsVisible(other)
+                                && KindOfName(other) != eKind::Cash && !isOfOtherKind(KindOfName(other));
+                        });
+    const bool isOther = isOfOtherKind(kind);
     int weight = isNamed ? 8 : 0;
     weight += HoldsSame(account.TemplateName, number) ? 6 : 0;
     weight += HasSameEntries(account.TemplateName, rows) ? 4 : 0;

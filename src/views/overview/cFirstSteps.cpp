@@ -7,6 +7,7 @@
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/template/cTemplateFlow.h"
 
 #include <QSet>
 
@@ -21,9 +22,9 @@ QList<cFirstSteps::cRow> cFirstSteps::Start() const
             continue;
         }
         const auto stored = m_tools.Data.GetStartGuthaben(account.TemplateName);
-        rows.append(
-            {account.TemplateName,
-             stored ? modSum::ToText(modBalance::Effect(*stored, account.TemplateName), Decimal()) : QString()});
+        rows.append({account.TemplateName,
+                     stored ? modSum::ToText(modBalance::Effect(*stored, account.TemplateName), Decimal()) : QString(),
+                     account.TemplateName});
     }
     while (rows.size() < Rows) {
         rows.append(cRow{});
@@ -36,7 +37,7 @@ eDecimal cFirstSteps::Decimal() const
     return m_tools.Format.Decimal();
 }
 
-QString cFirstSteps::Save(const QList<cRow>& rows) const
+QString cFirstSteps::Problem(const QList<cRow>& rows, eDecimal decimal)
 {
     QSet<QString> names;
     for (const cRow& row : rows) {
@@ -46,16 +47,29 @@ QString cFirstSteps::Save(const QList<cRow>& rows) const
                              {row.Name.trimmed()});
         }
         names.insert(name);
+        if (name.isEmpty() && !row.Former.isEmpty()) {
+            return cText::Tr(
+                "Das Konto '{0}' braucht einen Namen. Löschen können Sie es unter „Kategorien und Konten“.",
+                {row.Former});
+        }
         if (row.Amount.trimmed().isEmpty()) {
             continue;
         }
-        if (row.Name.trimmed().isEmpty()) {
+        if (name.isEmpty()) {
             return cText::Tr("Zu welchem Konto gehört der Betrag {0}? Bitte tragen Sie seinen Namen ein.",
                              {row.Amount});
         }
-        if (!modSum::Evaluate(row.Amount, Decimal())) {
-            return modSum::Fault(row.Amount, Decimal());
+        if (!modSum::Evaluate(row.Amount, decimal)) {
+            return modSum::Fault(row.Amount, decimal);
         }
+    }
+    return {};
+}
+
+QString cFirstSteps::Save(const QList<cRow>& rows) const
+{
+    if (const QString problem = Problem(rows, Decimal()); !problem.isEmpty()) {
+        return problem;
     }
     cUndoStep step(m_tools.Data, cText::Tr("Konten und Kontostände eingetragen"));
     for (const cRow& row : rows) {
@@ -67,10 +81,28 @@ QString cFirstSteps::Save(const QList<cRow>& rows) const
     return step.Done() ? QString() : cText::Tr("Die Konten konnten nicht gespeichert werden.");
 }
 
+// Who types over a name means the account that stood there.
+QString cFirstSteps::Rename(const cRow& row) const
+{
+    const QString name = modTemplate::NewAccount({}, row.Name).TemplateName;
+    if (row.Former.isEmpty() || name.isEmpty() || name == row.Former || !m_tools.Data.FindAccount(row.Former)) {
+        return {};
+    }
+    cTemplateFlow flow(m_tools);
+    if (flow.IsAccountTaken(name, m_tools.Data.FindAccount(row.Former)->ID)) {
+        return cText::Tr("Ein Konto '{0}' gibt es schon. Bitte wählen Sie einen anderen Namen.", {name});
+    }
+    return flow.RenameWithEntries(row.Former, name) ? QString()
+                                                    : cText::Tr("Die Konten konnten nicht gespeichert werden.");
+}
+
 QString cFirstSteps::Store(const cRow& row) const
 {
     if (row.Name.trimmed().isEmpty()) {
         return {};
+    }
+    if (const QString problem = Rename(row); !problem.isEmpty()) {
+        return problem;
     }
     cTemplateItem item = modTemplate::NewAccount(m_tools.Data.GetAccounts(), row.Name);
     if (item.TemplateName.isEmpty()) {

@@ -14,7 +14,8 @@ public:
     struct cRow
     {
         QString Name;
-        QString Amount; // as typed; empty: nobody knows yet
+        QString Amount;   // as typed; empty: nobody knows yet
+        QString Former{}; // the account that stood in the row; empty: none
     };
 
     static constexpr int Rows = 5;
@@ -25,12 +26,15 @@ public:
     [[nodiscard]] QList<cRow> Start() const;
     [[nodiscard]] eDecimal Decimal() const;
 
-    // Adds the accounts that are new and stores the balances as those of today, all as one step. What is wrong in words
-    // for the user, and nothing stored; empty when all is stored or there was nothing to store.
+    // Adds the accounts that are new, gives those that were typed over their new names and stores the balances as those
+    // of today, all as one step. What is wrong in words for the user, and nothing stored; empty when all is stored or
+    // there was nothing to store.
     [[nodiscard]] QString Save(const QList<cRow>& rows) const;
 
 private:
+    [[nodiscard]] static QString Problem(const QList<cRow>& rows, eDecimal decimal);
     [[nodiscard]] QString Store(const cRow& row) const;
+    [[nodiscard]] QString Rename(const cRow& row) const;
 
     const cBookTools& m_tools;
 };

@@ -257,11 +257,14 @@ cOverviewCard cOverviewModel::Month()
     card.Lines.append({cText::Tr("Ausgaben"), Signed(-month.Now.Expense), eOverviewTone::Expense, [this] {
                            ShowMonth({cText::Tr("Ausgaben dieses Monats bis heute"), modWord::Ausgabe, {}});
                        }});
-    if (month.Months > 0) {
-        const auto both = [this](const modOverview::cSums& sums) -> QString {
-            return Signed(sums.Income) + u" / "_s + Signed(-sums.Expense);
-        };
+    // Of a first month, or one that began after this day, there is nothing to compare with.
+    const auto both = [this](const modOverview::cSums& sums) -> QString {
+        return Signed(sums.Income) + u" / "_s + Signed(-sums.Expense);
+    };
+    if (month.Before != modOverview::cSums{}) {
         card.Lines.append({cText::Tr("Letzten Monat am gleichen Tag"), both(month.Before), eOverviewTone::Quiet});
+    }
+    if (month.Usual != modOverview::cSums{}) {
         card.Lines.append({month.Months == 1 ? cText::Tr("Im Schnitt eines Monats")
                                              : cText::Tr("Im Schnitt von {0} Monaten", {QString::number(month.Months)}),
                            both(month.Usual), eOverviewTone::Quiet});

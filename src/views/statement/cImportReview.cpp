@@ -78,7 +78,8 @@ cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
 cImportReview::cImportReview(const cBookTools& tools, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
     : m_tools(tools),
       m_works(std::move(works)),
-      m_view(*this, tools, import)
+      m_view(*this, tools, import),
+      m_guide({m_view, m_works->Proposals, m_works->Hive, tools.Format})
 {
 }
 
@@ -159,30 +160,30 @@ void cImportReview::ReportAccounts(const QStringList& lines)
     Q_EMIT EntriesChanged(); // the list of accounts may have grown, and open rows belong to accounts now
 }
 
-void cImportReview::Book(const QList<int>& asked, cProgress& progress)
+bool cImportReview::Book(const QList<int>& asked, cProgress& progress)
 {
-    CarryOut(asked, [&] { return m_works->Plan.Book(asked, progress); });
+    return CarryOut(asked, [&] { return m_works->Plan.Book(asked, cPlanFlow::eUnsure::Ask, progress); });
 }
 
-void cImportReview::AcceptProposals(cProgress& progress)
+bool cImportReview::AcceptProposals(cProgress& progress)
 {
     const QList<int> open = Rows().OpenIds();
-    CarryOut(open, [&] { return m_works->Plan.Accept(open, progress); });
+    return CarryOut(open, [&] { return m_works->Plan.Accept(open, progress); });
 }
 
 // Accounts come first, because what is in the book already can only be looked for in a known account.
-void cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work)
+bool cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work)
 {
     const cImportEntryList rows = OpenRows(rowIds);
     if (rows.isEmpty() && !rowIds.isEmpty()) {
-        return;
+        return false;
     }
     cUndoStep step(m_tools.Data, cText::Tr("{0} gebucht", {modImportText::Count(static_cast<int>(rows.size()))}));
     AskAccountsOf(rows);
     cPlanFlow::cOutcome outcome = work();
     outcome.IsDone = step.Done() && outcome.IsDone;
     if (outcome.Lines.isEmpty()) {
-        return;
+        return outcome.IsDone;
     }
     if (outcome.IsRefused) {
         m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
@@ -194,6 +195,7 @@ void cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlan
     Refresh();
     Q_EMIT SummaryChanged();
     Q_EMIT EntriesChanged();
+    return outcome.IsDone;
 }
 
 // Series that the bank does not pay any more, or not yet. What was declined once is not asked about after every row.
@@ -244,33 +246,6 @@ cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
     can.Release = hasBooked;
     can.Rule = isOne;
     return can;
-}
-
-QString cImportReview::SelectionText(const QList<int>& rowIds)
-{
-    const cImportEntryList rows = RowsOf(rowIds);
-    if (rows.isEmpty() && Rows().rowCount() == 0) {
-        return {};
-    }
-    if (rows.isEmpty()) {
-        return cText::Tr("Markieren Sie Umsätze: die Eingabetaste bucht sie, Strg+R ordnet einen davon einem Eintrag "
-                         "zu, der schon im Haushaltsbuch steht.");
-    }
-    if (rows.size() > 1) {
-        qint64 sum = 0;
-        for (const cImportEntry& row : rows) {
-            sum += row.ImportValue;
-        }
-        return cText::Tr("{0} markiert, davon {1} offen, Summe {2}",
-                         {modImportText::Count(static_cast<int>(rows.size())), QString::number(OpenRows(rowIds).size()),
-                          m_tools.Format.Cents(sum)});
-    }
-    const cImportEntry& row = rows.constFirst();
-    const cStagedInfo info = Info(row);
-    const QStringList values{modImportText::Row(row, m_tools.Format), info.Category,
-                             modWord::Intervals().ToShown(info.Interval), info.Account, info.Reason};
-    return row.ImportAssigned ? cText::Tr("{0}  →  gebucht unter {1}, {2}", {values.at(0), values.at(1), values.at(3)})
-                              : cText::Tr("{0}  →  {1}, {2}: {4}", values);
 }
 
 bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, const QString& interval,

@@ -4,6 +4,7 @@
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cStagedChoice.h"
+#include "views/statement/cStagedGuide.h"
 
 #include <QObject>
 #include <QString>
@@ -53,12 +54,16 @@ public:
     // What the last action did, one line per file or step.
     [[nodiscard]] QStringList Summary() const { return m_summary; }
 
+    // What may be booked unseen, and what comes next.
+    [[nodiscard]] cStagedGuide& Guide() { return m_guide; }
+
     // Books the rows as shown. Those that are booked already are passed over; those that belong to an entry or may be
-    // there twice are asked about.
-    void Book(const QList<int>& asked, cProgress& progress);
+    // there twice are asked about, and among several those that are not sure. False when the user gave up or nothing
+    // could be written.
+    bool Book(const QList<int>& asked, cProgress& progress);
     // Of the rows shown, assigns those whose entry is there and books those whose proposal is sure, after a question
-    // that names the numbers.
-    void AcceptProposals(cProgress& progress);
+    // that names the numbers. True when the user did not give up, also where nothing was sure.
+    bool AcceptProposals(cProgress& progress);
 
     // Plans some more rows of a high pile, while nothing else is to be done; once all are planned the list shows them
     // in their groups. False when nothing is left.
@@ -78,8 +83,6 @@ public:
         bool Import = false; // the rows of the same import
     };
     [[nodiscard]] cActions ActionsFor(const QList<int>& rowIds);
-    // What becomes of the selected rows, or became of them, in one line.
-    [[nodiscard]] QString SelectionText(const QList<int>& rowIds);
 
     // Takes a category, an interval (stored word) and a description for the open ones of the rows; what is empty stays
     // as it is. Where all rows are booked, their entries get the category. False when it cannot be done.
@@ -138,7 +141,7 @@ private:
     [[nodiscard]] bool ChangeCategory(const cImportEntryList& booked, const QString& category);
     [[nodiscard]] bool MayEdit(const cRowPlan& plan);
     [[nodiscard]] QStringList CheckSeries(const cImportEntryList& rows);
-    void CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
+    bool CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
     void LoadRows();
     void NoteStaged(const QList<int>& ids);
     void Report(const QStringList& lines);
@@ -151,6 +154,7 @@ private:
     const cBookTools& m_tools;
     std::shared_ptr<cWorks> m_works; // of the page, in the window too
     cStagedChoice m_view;
+    cStagedGuide m_guide;
     QStringList m_summary;
     bool m_hasUnplanned = false; // the pile is high, and some of it was not looked at yet
 };

@@ -13,6 +13,8 @@
 
 #include <QHash>
 
+#include <numeric>
+
 namespace {
 
 // An entry made by hand may lie some days before the bank's booking, which draws it behind the first row.
@@ -97,6 +99,9 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
         return std::nullopt;
     }
     offer.Bank = *bank;
+    offer.LastDay = ledger.Rows().constLast().ImportDate;
+    offer.Last = std::accumulate(ledger.Rows().begin(), ledger.Rows().end(), *bank,
+                                 [](qint64 sum, const cImportEntry& row) { return sum + row.ImportValue; });
     offer.FormerDay = ledger.Check().IsAnchored ? QDate() : stored->EntryDate;
     const cEntryItemList entries =
         m_tools.Data.GetEntries({{}, offer.Day.addDays(drawnDays), {}, offer.Account, {}, eBookingKind::All});
@@ -139,32 +144,32 @@ std::optional<qint64> cOpeningBalance::CountBack(const cStatementLedger& ledger,
     return cents;
 }
 
+// First what the user can see on the statement, because that is what he can answer; then how the book gets there.
 QString cOpeningBalance::Question(const cOffer& offer) const
 {
     const QStringList values{offer.Account,
-                             modDate::ToText(offer.Day),
-                             m_tools.Format.Cents(offer.Bank),
-                             m_tools.Format.Cents(offer.Book),
+                             modDate::ToText(offer.FormerDay.isValid() ? offer.FormerDay : offer.LastDay),
+                             m_tools.Format.Cents(offer.FormerDay.isValid() ? offer.Former.value_or(0) : offer.Last),
                              m_tools.Format.Cents(offer.Start),
                              modDate::ToText(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
     if (offer.FormerDay.isValid()) {
-        return cText::Tr(
-            "Als Startguthaben des Kontos '{0}' ist der Stand vom {1} eingetragen ({2}). Die Umsätze der Bank "
-            "beginnen früher.\n\nSoll das Startguthaben auf den {3} zurückgerechnet werden ({4})? Dann "
-            "bleibt der Stand vom {1}, wie er ist.",
-            {offer.Account, modDate::ToText(offer.FormerDay), m_tools.Format.Cents(offer.Former.value_or(0)),
-             modDate::ToText(offer.StartDay), m_tools.Format.Cents(offer.Start)});
+        return cText::Tr("Am {1} sind laut Ihrem Buch {2} auf dem Konto '{0}'. Soll das so bleiben?", values) + u"\n\n"
+            + cText::Tr("Die Umsätze der Bank beginnen früher. Das Startguthaben wird dazu auf den {4} "
+                        "zurückgerechnet: {3}.",
+                        values);
     }
-    const QString known =
-        cText::Tr("Laut Kontoauszug hatte das Konto '{0}' am {1} einen Stand von {2}; im Buch sind es {3}.", values);
-    const QString wish = offer.Former
-        ? cText::Tr(
-            "Soll das Startguthaben von {6} auf {4} geändert werden, damit das Buch mit der Bank übereinstimmt?",
-            values)
-        : cText::Tr("Soll {4} als Startguthaben vom {5} eingetragen werden, damit das Buch mit der Bank übereinstimmt?",
-                    values);
-    return known + u"\n\n" + wish;
+    return cText::Tr("Am {1} waren laut Kontoauszug {2} auf dem Konto '{0}'. Soll Ihr Buch dasselbe sagen, sobald die "
+                     "Umsätze gebucht sind?",
+                     values)
+        + u"\n\n"
+        + (offer.Former
+               ? cText::Tr(
+                   "Dazu wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.",
+                   values)
+               : cText::Tr(
+                   "Dazu werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.",
+                   values));
 }
 
 QString cOpeningBalance::Report(const cOffer& offer) const

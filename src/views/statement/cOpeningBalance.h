@@ -20,6 +20,8 @@ public:
         QDate Day;       // before the first row
         qint64 Bank = 0; // on that day, in cents
         qint64 Book = 0;
+        QDate LastDay{};  // of the statement
+        qint64 Last = 0;  // what its rows come to by then
         qint64 Start = 0; // the start balance that makes them equal
         QDate StartDay;
         std::optional<qint64> Former; // the present start balance

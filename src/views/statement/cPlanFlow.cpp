@@ -17,6 +17,30 @@
 namespace {
 
 using modReviewQuestion::eMatchAnswer;
+using modReviewQuestion::eUnsureAnswer;
+
+bool IsUnsure(const cRowPlan& plan)
+{
+    return plan.Group == eRowGroup::Look;
+}
+
+bool IsBare(const cProposal& proposal)
+{
+    return !cRowProposals::HasCategory(proposal.Entry);
+}
+
+void CountPlan(const cRowPlan& plan, modReviewQuestion::cNumbers& numbers)
+{
+    if (!IsUnsure(plan)) {
+        const bool isThere = plan.Match || plan.Proposal.ExistingEntry != 0;
+        ++(isThere ? numbers.InBook : numbers.Sure); // a transfer between own accounts may still be a new entry
+        return;
+    }
+    ++(plan.IsSecond ? numbers.Twice : plan.Match ? numbers.Likely : numbers.Unknown);
+    if (!plan.IsSecond && !plan.Match) {
+        ++(IsBare(plan.Proposal) ? numbers.Bare : numbers.Categories[plan.Proposal.Entry.EntryCategory]);
+    }
+}
 
 } // namespace
 
@@ -45,7 +69,7 @@ void cPlanFlow::Take(const cRowPlan& plan, eWay way, cWish& wish)
     }
 }
 
-cPlanFlow::cOutcome cPlanFlow::Book(const QList<int>& rowIds, cProgress& progress)
+cPlanFlow::cOutcome cPlanFlow::Book(const QList<int>& rowIds, eUnsure unsure, cProgress& progress)
 {
     const std::optional<cPlans> plans = m_parts.Proposals.Plans(rowIds, progress);
     if (!plans) {
@@ -58,7 +82,13 @@ cPlanFlow::cOutcome cPlanFlow::Book(const QList<int>& rowIds, cProgress& progres
         }
     }
     cWish wish;
-    if (wanted.isEmpty() || !AskAboutTwins(wanted, wish)) {
+    if (wanted.isEmpty() || (unsure == eUnsure::Ask && !AskAboutUnsure(wanted, wish))) {
+        return {};
+    }
+    if (wanted.isEmpty()) {
+        return {.IsDone = true, .Left = wish.Left};
+    }
+    if (!AskAboutTwins(wanted, wish)) {
         return {};
     }
     QList<cRowPlan> matched;
@@ -70,6 +100,26 @@ cPlanFlow::cOutcome cPlanFlow::Book(const QList<int>& rowIds, cProgress& progres
         }
     }
     return AskAboutMatches(matched, wish) ? Carry(wish, progress) : cOutcome{};
+}
+
+// Where several rows are wanted and of some nobody knows what they are for, those that are not sure are taken out of
+// `plans` unless the user wants them. One and the same category for all of them has been seen. False when the user
+// gives up.
+bool cPlanFlow::AskAboutUnsure(QList<cRowPlan>& plans, cWish& wish)
+{
+    modReviewQuestion::cNumbers numbers;
+    for (const cRowPlan& plan : std::as_const(plans)) {
+        CountPlan(plan, numbers);
+    }
+    const bool isOneKind = numbers.Unknown == plans.size() && numbers.Bare == 0 && numbers.Categories.size() == 1;
+    if (plans.size() == 1 || isOneKind || numbers.Unknown == 0) {
+        return true;
+    }
+    const int answer = m_tools.User.Decide(modReviewQuestion::Unsure(numbers));
+    if (answer == static_cast<int>(eUnsureAnswer::Sure)) {
+        wish.Left += static_cast<int>(plans.removeIf(IsUnsure));
+    }
+    return answer >= 0;
 }
 
 // Rows that may be there twice, where the other one goes first, are taken out of `plans` unless the user wants them.
@@ -144,13 +194,10 @@ cPlanFlow::cOutcome cPlanFlow::Accept(const QList<int>& rowIds, cProgress& progr
         if (plan == plans->constEnd()) {
             continue;
         }
-        if (plan->Group != eRowGroup::Look) {
+        CountPlan(*plan, numbers);
+        if (!IsUnsure(*plan)) {
             Take(*plan, eWay::Assign, wish);
-            const bool isThere = plan->Match || plan->Proposal.ExistingEntry != 0;
-            ++(isThere ? numbers.InBook : numbers.Sure); // a transfer between own accounts may still be a new entry
-            continue;
         }
-        ++(plan->IsSecond ? numbers.Twice : plan->Match ? numbers.Likely : numbers.Unknown);
     }
     wish.Left = numbers.Unknown + numbers.Likely + numbers.Twice;
     const cQuestion question = modReviewQuestion::Accept(numbers);
@@ -182,6 +229,10 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
     QStringList lines{modImportText::Booked(result)};
     for (const QString& number : result.UnknownAccounts) {
         lines.append(modImportText::NoAccount(number));
+    }
+    const auto bare = std::count_if(wish.Proposals.begin(), wish.Proposals.end(), IsBare);
+    if (bare > 0) {
+        lines.append(modImportText::WithoutCategory(static_cast<int>(bare), static_cast<int>(wish.New.size())));
     }
     lines += corrected->Lines() + m_parts.Matching.AssignedLines(wish.Assign);
     return {.IsDone = true, .Left = wish.Left, .Lines = lines, .UnknownAccounts = result.UnknownAccounts};

@@ -37,9 +37,13 @@ public:
 
     cPlanFlow(const cBookTools& tools, const cParts& parts);
 
+    // Whether several rows are booked without a word about those whose proposal is not sure. Who names rows one by one
+    // has looked at them; a list has them marked with a single key.
+    enum class eUnsure { Ask, Take };
+
     // Books the rows; those that are booked already are passed over. Those that have an entry, or may be there twice,
-    // are asked about, all at once or one by one.
-    [[nodiscard]] cOutcome Book(const QList<int>& rowIds, cProgress& progress);
+    // are asked about, all at once or one by one. Done as well when the user wants to look at the rows first.
+    [[nodiscard]] cOutcome Book(const QList<int>& rowIds, eUnsure unsure, cProgress& progress);
 
     // Of the rows what is in the book or sure, after a question that names the numbers.
     [[nodiscard]] cOutcome Accept(const QList<int>& rowIds, cProgress& progress);
@@ -58,6 +62,7 @@ private:
 
     static void Take(const cRowPlan& plan, eWay way, cWish& wish);
     [[nodiscard]] QStringList MatchLines(const QList<cRowPlan>& matched) const;
+    [[nodiscard]] bool AskAboutUnsure(QList<cRowPlan>& plans, cWish& wish);
     [[nodiscard]] bool AskAboutTwins(QList<cRowPlan>& plans, cWish& wish);
     [[nodiscard]] bool AskAboutMatches(const QList<cRowPlan>& matched, cWish& wish);
     [[nodiscard]] bool AskOneByOne(const QList<cRowPlan>& matched, cWish& wish);

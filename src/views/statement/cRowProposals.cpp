@@ -30,13 +30,13 @@ int FileOf(const QList<cRange>& files, int id)
     return file == files.end() || file->First > id ? 0 : static_cast<int>(file - files.begin()) + 1;
 }
 
-bool HasCategory(const cEntryItem& entry)
+} // namespace
+
+bool cRowProposals::HasCategory(const cEntryItem& entry)
 {
     return entry.EntryType == modWord::Umbuchung
         || (!entry.EntryCategory.isEmpty() && entry.EntryCategory != u"Allgemein");
 }
-
-} // namespace
 
 cRowProposals::cRowProposals(const cParts& parts) : m_parts(parts)
 {

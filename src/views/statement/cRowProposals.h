@@ -50,6 +50,8 @@ public:
     // stops it.
     [[nodiscard]] std::optional<QHash<int, cRowPlan>> Plans(const QList<int>& rowIds, cProgress& progress);
 
+    // Whether it says what an entry was for; a transfer needs none.
+    [[nodiscard]] static bool HasCategory(const cEntryItem& entry);
     [[nodiscard]] QStringList Categories() const; // paths to choose from
     // The user's own choice for rows; false when it is none of those that can be chosen.
     bool SetCategory(const QList<int>& rowIds, const QString& category);

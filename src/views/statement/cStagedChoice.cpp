@@ -202,7 +202,12 @@ void cStagedChoice::ShowKept(int place)
 
 QString cStagedChoice::EmptyTitle() const
 {
-    return modUnread::IsMissing(m_tools.Data, 0) ? modUnread::Title() : cText::Tr("Keine Daten");
+    if (modUnread::IsMissing(m_tools.Data, 0)) {
+        return modUnread::Title();
+    }
+    const cStagedOrder::cCounts& counts = m_rows.Counts();
+    const bool isDone = IsOpenOnly() && !IsUncategorisedOnly() && counts.Total > 0 && counts.Open == 0;
+    return isDone ? cText::Tr("Alles gebucht") : cText::Tr("Keine Daten");
 }
 
 QString cStagedChoice::EmptyHint() const

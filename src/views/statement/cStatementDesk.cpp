@@ -234,7 +234,7 @@ cStatementDesk::cBooked cStatementDesk::Book(const QList<int>& rowIds)
 {
     cNoProgress progress;
     m_works->Proposals.Forget();
-    return Booked(m_works->Plan.Book(rowIds, progress));
+    return Booked(m_works->Plan.Book(rowIds, cPlanFlow::eUnsure::Take, progress));
 }
 
 cStatementDesk::cBooked cStatementDesk::Accept(const QList<int>& rowIds)

@@ -139,6 +139,13 @@ QString modImportText::Booked(const cBookingResult& result)
     return parts.join(u", "_s) + u'.';
 }
 
+QString modImportText::WithoutCategory(int bare, int entries)
+{
+    return bare == entries && bare == 1
+        ? cText::Tr("Der Eintrag steht unter 'Allgemein', weil keine Kategorie bekannt ist.")
+        : cText::Tr("{0} davon unter 'Allgemein', weil keine Kategorie bekannt ist.", {QString::number(bare)});
+}
+
 QString modImportText::NoAccount(const QString& number)
 {
     return number.isEmpty()

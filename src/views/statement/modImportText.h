@@ -45,6 +45,9 @@ namespace modImportText {
 // "3 Umsätze gebucht, 2 neue Einträge.": without the numbers that have no account
 [[nodiscard]] QString Booked(const cBookingResult& result);
 
+// How many of the new entries stand under the category that says nothing
+[[nodiscard]] QString WithoutCategory(int bare, int entries);
+
 // Rows of a number that still has no account
 [[nodiscard]] QString NoAccount(const QString& number);
 

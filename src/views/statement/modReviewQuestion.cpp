@@ -2,6 +2,9 @@
 
 #include "base/cText.h"
 
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -13,6 +16,19 @@ QString Examples(const QStringList& lines)
     return lines.mid(0, mostExamples).join(u'\n') + (lines.size() > mostExamples ? u"\n…"_s : QString());
 }
 
+// Other doubts than about the category.
+QStringList Doubts(const modReviewQuestion::cNumbers& numbers)
+{
+    QStringList doubts;
+    if (numbers.Likely > 0) {
+        doubts.append(cText::Tr("{0} wahrscheinlich schon im Haushaltsbuch", {QString::number(numbers.Likely)}));
+    }
+    if (numbers.Twice > 0) {
+        doubts.append(cText::Tr("{0} vielleicht doppelt", {QString::number(numbers.Twice)}));
+    }
+    return doubts;
+}
+
 // What stays open, and why.
 QString Left(const modReviewQuestion::cNumbers& numbers)
 {
@@ -20,12 +36,7 @@ QString Left(const modReviewQuestion::cNumbers& numbers)
     if (numbers.Unknown > 0) {
         left.append(cText::Tr("{0} ohne passenden Vorschlag", {QString::number(numbers.Unknown)}));
     }
-    if (numbers.Likely > 0) {
-        left.append(cText::Tr("{0} wahrscheinlich schon im Haushaltsbuch", {QString::number(numbers.Likely)}));
-    }
-    if (numbers.Twice > 0) {
-        left.append(cText::Tr("{0} vielleicht doppelt", {QString::number(numbers.Twice)}));
-    }
+    left += Doubts(numbers);
     return left.isEmpty() ? QString() : cText::Tr("Offen bleiben: {0}.", {left.join(u", "_s)});
 }
 
@@ -41,6 +52,28 @@ QString Sure(int count)
     return count == 1 ? cText::Tr("Einer der gezeigten Umsätze hat einen sicheren Vorschlag und wird neu gebucht.")
                       : cText::Tr("{0} der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.",
                                   {QString::number(count)});
+}
+
+// What would become of those that need a look, a line each; the category of most of them first.
+QStringList Unsureness(const modReviewQuestion::cNumbers& numbers)
+{
+    QList<std::pair<int, QString>> categories;
+    for (auto category = numbers.Categories.begin(); category != numbers.Categories.end(); ++category) {
+        categories.append({category.value(), category.key()});
+    }
+    std::stable_sort(categories.begin(), categories.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
+    QStringList lines;
+    if (numbers.Bare > 0) {
+        lines.append(cText::Tr("{0} ohne bekannte Kategorie, also unter 'Allgemein'", {QString::number(numbers.Bare)}));
+    }
+    for (const auto& [count, category] : std::as_const(categories)) {
+        lines.append(cText::Tr("{0} vielleicht unter '{1}'", {QString::number(count), category}));
+    }
+    if (lines.size() > mostExamples) {
+        lines = lines.mid(0, mostExamples) + QStringList(u"…"_s);
+    }
+    return lines + Doubts(numbers);
 }
 
 // What is done with those that need no look.
@@ -60,6 +93,27 @@ QString Certain(const modReviewQuestion::cNumbers& numbers)
 }
 
 } // namespace
+
+cDecision modReviewQuestion::Unsure(const cNumbers& numbers)
+{
+    const int sure = numbers.InBook + numbers.Sure;
+    const int unsure = numbers.Unknown + numbers.Likely + numbers.Twice;
+    const QStringList values{QString::number(sure), QString::number(unsure), Unsureness(numbers).join(u'\n')};
+    const QString all = cText::Tr("&Alle {0} buchen", {QString::number(sure + unsure)});
+    if (sure == 0) {
+        return {.Text =
+                    cText::Tr("Keiner der {1} Umsätze hat einen sicheren Vorschlag:\n{2}\nWas soll geschehen?", values),
+                .Title = cText::Tr("Umsätze buchen"),
+                .Options = {cText::Tr("&Einzeln ansehen"), all}};
+    }
+    return {.Text = unsure == 1
+                ? cText::Tr("Einer der Umsätze hat keinen sicheren Vorschlag:\n{2}\nWas soll geschehen?", values)
+                : cText::Tr("{1} der Umsätze haben keinen sicheren Vorschlag:\n{2}\nWas soll geschehen?", values),
+            .Title = cText::Tr("Umsätze buchen"),
+            .Options = {sure == 1 ? cText::Tr("Nur den &sicheren buchen")
+                                  : cText::Tr("Nur die {0} &sicheren buchen", values),
+                        all}};
+}
 
 cDecision modReviewQuestion::Matches(const QStringList& lines)
 {

@@ -2,6 +2,7 @@
 
 #include "base/cUser.h"
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -11,15 +12,24 @@ namespace modReviewQuestion {
 // Rows that are wanted, by how they can be brought into the book.
 struct cNumbers
 {
-    int InBook = 0;  // their entries are there already
-    int Sure = 0;    // become new entries
-    int Unknown = 0; // nothing but an ambiguous keyword or the default speaks for the proposal
-    int Likely = 0;  // an entry of the book may be the same
-    int Twice = 0;   // another row may be the same
+    int InBook = 0;                  // their entries are there already
+    int Sure = 0;                    // become new entries
+    int Unknown = 0;                 // nothing but an ambiguous keyword or the default speaks for the proposal
+    int Likely = 0;                  // an entry of the book may be the same
+    int Twice = 0;                   // another row may be the same
+    int Bare = 0;                    // of the unknown ones: without any category
+    QMap<QString, int> Categories{}; // of the other unknown ones, with their numbers
 };
 
 // What to do with rows whose entries are in the book, in the order of the buttons.
 enum class eMatchAnswer { Assign, New, Leave, OneByOne };
+
+// What to do with several rows that are not all sure, in the order of the buttons.
+enum class eUnsureAnswer { Sure, All };
+
+// About rows that somebody should look at, with the categories that they would get. Enter books only the others, or
+// nothing where there are none, and leads to the first one to look at.
+[[nodiscard]] cDecision Unsure(const cNumbers& numbers);
 
 // About rows that belong to entries of the book, certainly or probably, one line each. Enter assigns them, which leaves
 // the book right; a single row is not offered to be decided by itself.

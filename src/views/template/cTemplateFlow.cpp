@@ -78,6 +78,16 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     return WriteAccount(*account, oldName, answer == eAnswer::Yes);
 }
 
+bool cTemplateFlow::RenameWithEntries(const QString& oldName, const QString& newName)
+{
+    std::optional<cTemplateItem> account = m_tools.Data.FindAccount(oldName);
+    if (!account || IsAccountTaken(newName, account->ID)) {
+        return false;
+    }
+    account->TemplateName = newName;
+    return WriteAccount(*account, oldName, true);
+}
+
 bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries)
 {
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' umbenannt", {oldName}));

@@ -19,6 +19,10 @@ public:
     // Renames an account. Where entries refer to it, asks whether they go along. False when nothing was changed.
     bool RenameAccount(const QString& oldName, const QString& newName);
 
+    // The same with the entries and without a question, where it is known to be what is wanted. The name is one that
+    // an account can have.
+    [[nodiscard]] bool RenameWithEntries(const QString& oldName, const QString& newName);
+
     // Gives a category other names and moves its entries along: also the way to another main category. False when
     // nothing was changed.
     bool RenameCategory(const cTemplateItem& category, const QString& newMain, const QString& newSub);

@@ -91,7 +91,7 @@ void cFirstStepsView::AddRow(QGridLayout& table, int row)
     connect(amount, &QLineEdit::returnPressed, this, &cFirstStepsView::Save);
     table.addWidget(name, row + 1, 0);
     table.addWidget(amount, row + 1, 1);
-    m_fields.append({name, amount});
+    m_fields.append({name, amount, {}});
 }
 
 void cFirstStepsView::Refresh()
@@ -101,8 +101,10 @@ void cFirstStepsView::Refresh()
     });
     const QList<cFirstSteps::cRow> rows = m_steps.Start();
     for (qsizetype i = 0; i < m_fields.size() && !isTyping; ++i) {
-        m_fields.at(i).Name->setText(i < rows.size() ? rows.at(i).Name : QString());
-        m_fields.at(i).Amount->setText(i < rows.size() ? rows.at(i).Amount : QString());
+        const cFirstSteps::cRow row = rows.value(i);
+        m_fields[i].Former = row.Former;
+        m_fields.at(i).Name->setText(row.Name);
+        m_fields.at(i).Amount->setText(row.Amount);
     }
 }
 
@@ -110,7 +112,7 @@ void cFirstStepsView::Save()
 {
     QList<cFirstSteps::cRow> rows;
     for (const cFields& fields : std::as_const(m_fields)) {
-        rows.append({fields.Name->text(), fields.Amount->text()});
+        rows.append({fields.Name->text(), fields.Amount->text(), fields.Former});
     }
     const QString problem = m_steps.Save(rows);
     QPalette colours = palette();
@@ -123,6 +125,7 @@ void cFirstStepsView::Save()
             fields.Name->setModified(false);
             fields.Amount->setModified(false);
         }
+        Refresh(); // the names as they were taken
         Q_EMIT Saved();
     }
 }

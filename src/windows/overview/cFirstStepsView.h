@@ -41,6 +41,7 @@ private:
     {
         QLineEdit* Name;
         cAmountEdit* Amount;
+        QString Former; // the account that the row was filled with
     };
 
     void AddRow(QGridLayout& table, int row);

@@ -95,7 +95,7 @@ void cOverviewCardView::AddLine(const cOverviewLine& line, QVBoxLayout& layout)
         }
         connect(more, &QToolButton::clicked, menu,
                 [menu, more] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });
-        more->setText(u"…"_s);
+        more->setArrowType(Qt::DownArrow); // a word would leave no room for what is due
         more->setAutoRaise(true);
         more->setFocusPolicy(Qt::StrongFocus);
         more->setToolTip(cText::Tr("Was damit geschehen soll"));

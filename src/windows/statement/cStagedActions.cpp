@@ -17,6 +17,8 @@
 #include <QAction>
 #include <QMenu>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -61,6 +63,9 @@ constexpr std::array<cLine, cStagedActions::Count> lines{{
      QT_TRANSLATE_NOOP("cText", "Legt eine eigene Regel an, die Umsätze wie diesen erkennt")},
     {QT_TRANSLATE_NOOP("cText", "Nur Umsätze dieses &Imports"), u"", 0, &cCan::Import,
      QT_TRANSLATE_NOOP("cText", "Zeigt die Umsätze, die mit dem markierten eingelesen wurden, in einem Fenster")},
+    {QT_TRANSLATE_NOOP("cText", "Alle &gezeigten buchen…"), u"", 0, &cCan::Accept,
+     QT_TRANSLATE_NOOP("cText",
+                       "Bucht alles, was die Liste zeigt; vorher nennt eine Frage, was davon nicht sicher ist")},
 }};
 
 } // namespace
@@ -85,12 +90,17 @@ cStagedActions::cStagedActions(cImportReview& review, cStagedTree& tree, QWidget
     }
     Get(Book)->setShortcuts({Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
     connect(&m_tree, &cStagedTree::BookRequested, this, [this] { Run(Book); });
+    connect(&m_tree, &cStagedTree::CategoryEntered, this, [this](int id) {
+        m_entered = id;
+        QMetaObject::invokeMethod(this, &cStagedActions::BookEntered, Qt::QueuedConnection);
+    });
     connect(&m_tree, &cStagedTree::DeleteRequested, this, [this] { Run(Delete); });
     connect(&m_tree, &cStagedTree::MenuRequested, this, &cStagedActions::OpenMenu);
 }
 
 void cStagedActions::Run(eId id)
 {
+    m_tree.LeaveField();
     if (!Get(id)->isEnabled()) {
         return;
     }
@@ -106,25 +116,57 @@ void cStagedActions::Run(eId id)
     case Delete: m_review.Delete(ids); break;
     case Rule: StartRule(); break;
     case Import: Q_EMIT ImportRequested(ids.value(0)); break;
+    case All: BookRows(m_review.Rows().OpenIds()); break;
     case Count: break;
     }
 }
 
 void cStagedActions::BookRows(const QList<int>& ids)
 {
-    cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden gebucht …"));
-    m_review.Book(ids, progress);
-}
-
-void cStagedActions::BookAll()
-{
-    BookRows(m_review.Rows().OpenIds());
+    Carry(ids, [&](cProgress& progress) { return m_review.Book(ids, progress); });
 }
 
 void cStagedActions::AcceptProposals()
 {
-    cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden gebucht …"));
-    m_review.AcceptProposals(progress);
+    Carry(m_review.Rows().OpenIds(), [this](cProgress& progress) { return m_review.AcceptProposals(progress); });
+}
+
+void cStagedActions::Carry(const QList<int>& ids, const std::function<bool(cProgress&)>& work)
+{
+    const cStagedGuide::cBefore before = m_review.Guide().Before(ids);
+    bool isDone = false;
+    {
+        cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden gebucht …"));
+        isDone = work(progress);
+    }
+    if (isDone) {
+        GoTo(m_review.Guide().After(before, m_tree.SelectedIds()));
+    }
+}
+
+void cStagedActions::GoTo(const cStagedGuide::cStop& stop)
+{
+    if (stop.IsField) {
+        m_tree.OpenCategory(stop.Rows.value(0));
+    } else if (!stop.Rows.isEmpty()) {
+        m_tree.SelectIds(stop.Rows);
+    }
+}
+
+void cStagedActions::GoSoon(const cStagedGuide::cStop& stop)
+{
+    m_tree.SelectIds(stop.Rows);
+    if (!stop.IsField) {
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, stop] {
+            if (m_page.isVisible() && m_tree.SelectedIds() == stop.Rows) {
+                GoTo(stop);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void cStagedActions::ChooseCategory()
@@ -174,7 +216,23 @@ void cStagedActions::TakeCategory(const QList<int>& ids, const QString& category
     if (m_review.Choose(ids, category, {}) && ids.size() == 1) {
         // A field may still be being closed, and a question would take the focus from it.
         QMetaObject::invokeMethod(
-            this, [this, id = ids.constFirst(), category] { m_review.OfferAlike(id, category); }, Qt::QueuedConnection);
+            this, [this, id = ids.constFirst(), category] { OfferAlike(id, category); }, Qt::QueuedConnection);
+    }
+}
+
+void cStagedActions::OfferAlike(int id, const QString& category)
+{
+    m_isAsking = true;
+    m_review.OfferAlike(id, category);
+    m_isAsking = false;
+    BookEntered();
+}
+
+// The row waits until the question about others like it is answered.
+void cStagedActions::BookEntered()
+{
+    if (const int id = m_isAsking ? 0 : std::exchange(m_entered, 0); id != 0) {
+        BookRows({id});
     }
 }
 

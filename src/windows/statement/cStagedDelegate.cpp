@@ -51,7 +51,8 @@ QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& ind
         box, &cCategoryBox::PathPicked, box,
         [delegate, box] {
             Q_EMIT delegate->commitData(box);
-            Q_EMIT delegate->closeEditor(box);
+            // Leaving the field picks what was typed as well, but nobody has confirmed that.
+            Q_EMIT delegate->closeEditor(box, box->hasFocus() ? SubmitModelCache : NoHint);
         },
         Qt::QueuedConnection);
     connect(

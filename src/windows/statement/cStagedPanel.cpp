@@ -65,6 +65,10 @@ cFlowLayout* cStagedPanel::BuildActions()
         auto* button = new cActionButton(action, this);
         button->setToolTip(action->toolTip());
         m_bar->addWidget(button);
+        if (id == cStagedActions::Accept) {
+            connect(&m_review.View(), &cStagedChoice::Changed, button,
+                    [this, button] { button->setText(m_review.Guide().AcceptText()); });
+        }
     }
     m_bar->addWidget(BuildMore());
     m_bar->AddStretch();
@@ -75,6 +79,9 @@ cFlowLayout* cStagedPanel::BuildActions()
 QPushButton* cStagedPanel::BuildMore()
 {
     m_more->setToolTipsVisible(true);
+    if (!m_review.View().IsOfOneImport()) { // the window of one import has a button for it
+        m_more->addAction(m_actions->Get(cStagedActions::All));
+    }
     for (const cStagedActions::eId id :
          {cStagedActions::Release, cStagedActions::Delete, cStagedActions::Rule, cStagedActions::Import}) {
         m_more->addAction(m_actions->Get(id));
@@ -199,7 +206,7 @@ void cStagedPanel::ShowSelection()
 {
     m_actions->ShowState();
     if (m_review.View().IsTitleShown()) {
-        m_title->SetText(m_review.SelectionText(m_tree->SelectedIds()));
+        m_title->SetText(m_review.Guide().SelectionText(m_tree->SelectedIds()));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "views/statement/cStagedListModel.h"
 #include "windows/look/modGroupHead.h"
 #include "windows/main/cCategoryDrop.h"
+#include "windows/widget/cCategoryBox.h"
 #include "windows/widget/cColumnFit.h"
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
@@ -214,6 +215,42 @@ void cStagedTree::SelectIds(const QList<int>& ids)
         scrollTo(first);
     }
     setFocus();
+}
+
+void cStagedTree::OpenCategory(int id)
+{
+    const QModelIndex category = m_model.IndexOf(id).siblingAtColumn(cStagedListModel::Category);
+    SelectIds({id});
+    if (!category.isValid()) {
+        return;
+    }
+    selectionModel()->setCurrentIndex(category, QItemSelectionModel::NoUpdate);
+    scrollTo(category);
+    edit(category);
+    m_field = indexWidget(category);
+}
+
+void cStagedTree::LeaveField()
+{
+    if (state() == EditingState) {
+        setFocus();
+    }
+}
+
+// A text that names no category is asked about first.
+void cStagedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const auto* box = editor == m_field ? qobject_cast<const cCategoryBox*>(editor) : nullptr;
+    const bool isEntered =
+        box != nullptr && hint == QAbstractItemDelegate::SubmitModelCache && box->UnknownText().isEmpty();
+    if (editor == m_field) {
+        m_field = nullptr;
+    }
+    const int id = m_model.IdAt(currentIndex());
+    QTreeView::closeEditor(editor, hint);
+    if (isEntered) {
+        Q_EMIT CategoryEntered(id);
+    }
 }
 
 // The keys of the list go before those of the main window, where Del means entries of the book.

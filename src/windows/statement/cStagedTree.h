@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -21,6 +22,10 @@ public:
 
     [[nodiscard]] QList<int> SelectedIds() const; // with all rows of the groups that are selected
     void SelectIds(const QList<int>& ids);        // and takes the focus, so that Enter books them
+    // Selects one row and opens the field of its category. Enter there takes what it holds and tells so.
+    void OpenCategory(int id);
+    // What stands in an open field is taken, as by leaving it.
+    void LeaveField();
 
     void SetEmptyText(const QString& title, const QString& hint);
     [[nodiscard]] QString LayoutText() const;
@@ -31,6 +36,7 @@ public:
 
 Q_SIGNALS:
     void BookRequested();
+    void CategoryEntered(int id); // in the field that OpenCategory had opened
     void DeleteRequested();
     void MenuRequested(const QPoint& globalPosition);
 
@@ -39,6 +45,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;
@@ -77,4 +84,5 @@ private:
     QString m_emptyHint;
     QSet<QString> m_closed; // groups that the user has closed
     cKept m_kept;
+    QPointer<QWidget> m_field; // that OpenCategory has opened
 };

@@ -136,7 +136,7 @@ void frmImport::ShowRows()
 
 void frmImport::ShowStaged(const QList<int>& ids)
 {
-    m_panel->Tree().SelectIds(ids);
+    m_panel->Actions().GoSoon(m_review.Guide().Staged(ids));
     m_reviewImport->setVisible(!ids.isEmpty());
 }
 

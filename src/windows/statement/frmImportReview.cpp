@@ -27,10 +27,10 @@ frmImportReview::frmImportReview(cImportReview& review, QWidget* parent)
     connect(&m_review, &cImportReview::RowsChanged, this, &frmImportReview::ShowRows);
     connect(&m_review, &cImportReview::SummaryChanged, this, &frmImportReview::ShowSummary);
     connect(&m_review.View(), &cStagedChoice::Changed, this, &frmImportReview::ShowRows);
-    connect(m_bookAll, &QPushButton::clicked, &m_panel->Actions(), &cStagedActions::BookAll);
+    connect(m_bookAll, &QPushButton::clicked, m_panel->Actions().Get(cStagedActions::All), &QAction::trigger);
     ShowRows();
     ShowSummary();
-    m_panel->Tree().SelectIds(m_review.Rows().OpenIds().mid(0, 1));
+    m_panel->Actions().GoSoon(m_review.Guide().Staged(m_review.Rows().OpenIds()));
 }
 
 void frmImportReview::Build()
