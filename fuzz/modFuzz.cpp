@@ -102,6 +102,7 @@ cReadOptions modFuzz::Options(int set)
     options.Account = u"1234567"_s;
     if (set == 1) {
         options.MissingPurpose = eMissingPurpose::Name;
+        options.OfxPayee = eOfxPayee::Take;
         options.Table.Charset = eCharset::Cp850;
         options.Table.Number = eNumberFormat::English;
         options.Table.Date = eDateOrder::MonthDayYear;

@@ -46,7 +46,7 @@ hardened() {
   if readelf -SW "$1" | grep -qE '\.(symtab|debug_info)'; then echo "package: $1 is not stripped"; return 1; fi
 }
 dpkg-deb -x "$package" "$work/unpacked"
-for program in "$work"/unpacked/usr/bin/*; do
+for program in "$work"/unpacked/usr/bin/* "$work"/unpacked/usr/lib/*/kontorelle/*.so; do
   hardened "$program"
 done
 echo 'package: programs are hardened and stripped'

@@ -472,6 +472,9 @@ cEntryWindow cDataAccess::GetWindow(const modPeriod::cRange& days, QDate balance
         isClear = ReadWindowRows(m_database, days, rows);
         cSeriesExpander expander(m_database);
         for (const cEntryItem& series : std::as_const(rows.Series)) {
+            if (!series.EntryDate.isValid()) {
+                continue; // no statement finds a day that nobody can read
+            }
             cEntryItemList earlier;
             expander.Expand(series, before, earlier);
             (IsStart(series) ? rows.StartBefore : rows.Before).AddSeries(earlier);

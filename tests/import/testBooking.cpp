@@ -208,6 +208,37 @@ private Q_SLOTS:
                  modWord::Ausgabe);
     }
 
+    void CashBeforeTheStartTeachesNothing_data()
+    {
+        QTest::addColumn<bool>("isOldFirst");
+        QTest::addColumn<double>("value");
+        QTest::newRow("the old month first") << true << -200.0;
+        QTest::newRow("the new month first") << false << -200.0;
+        QTest::newRow("abroad") << true << -53.17;
+    }
+
+    // Two months beside the day on which the notes were counted, one booked and then the other: no notes are in the
+    // purse twice, and none is missing.
+    void CashBeforeTheStartTeachesNothing()
+    {
+        QFETCH(bool, isOldFirst);
+        QFETCH(double, value);
+        cBank bank;
+        bank.Add([](cEntryItem& entry) {
+            entry.EntryDate = day;
+            entry.EntryAccount = u"Bargeld"_s;
+            entry.EntryCategory = modWord::Startguthaben;
+        });
+        const auto kind = [&](int days) {
+            const int row = bank.Stage(day.addDays(days), value, u"Geldautomat Istanbul"_s);
+            const QString type = bank.Propose(row).Entry.EntryType;
+            return bank.BookAll({row}).Rows == 1 ? type : QString();
+        };
+        for (const bool isOld : {isOldFirst, isOldFirst, !isOldFirst, !isOldFirst, isOldFirst}) {
+            QCOMPARE(kind(isOld ? -20 : 20), isOld ? modWord::Ausgabe : modWord::Umbuchung);
+        }
+    }
+
     // A transfer to an account without a number is learned with its account.
     void LearnsTransfers()
     {

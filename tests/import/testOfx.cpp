@@ -17,9 +17,11 @@ QByteArray Fixture()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-cStatementRead ReadBytes(const QByteArray& bytes, eMissingPurpose missing = eMissingPurpose::Empty)
+cStatementRead ReadBytes(const QByteArray& bytes, eMissingPurpose missing = eMissingPurpose::Empty,
+                         eOfxPayee payee = eOfxPayee::Leave)
 {
     cReadOptions options;
+    options.OfxPayee = payee;
     options.MissingPurpose = missing;
     return modOfx::Read(modStatementFormat::Source(u"a.ofx"_s, bytes), options);
 }
@@ -140,6 +142,36 @@ private Q_SLOTS:
         const cStatementRead read = ReadBytes(Fixture(), eMissingPurpose::Name);
         QCOMPARE(read.Entries.at(0).ImportPurpose, u"Brot & Brötchen"_s);
         QCOMPARE(read.Entries.at(1).ImportPurpose, u"Lohnbüro Tann"_s);
+    }
+
+    void TakesCounterparty_data()
+    {
+        QTest::addColumn<QByteArray>("fields");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("account"); // and bank
+        QTest::newRow("name") << QByteArray("<NAME>Krume & Sohn<MEMO>Brot") << u"Krume & Sohn"_s << u" "_s;
+        QTest::newRow("name in the middle")
+            << QByteArray("<NAME>REWE 12<MEMO>Karte REWE 12 Talheim") << u"REWE 12"_s << u" "_s;
+        QTest::newRow("the purpose once more") << QByteArray("<NAME>Krume<MEMO>krume") << QString() << u" "_s;
+        QTest::newRow("the purpose cut off")
+            << QByteArray("<NAME>Beitrag 2026  Turnv<MEMO>Beitrag 2026 Turnverein") << QString() << u" "_s;
+        QTest::newRow("no purpose but the name") << QByteArray("<NAME>Krume") << QString() << u" "_s;
+        QTest::newRow("the bank's word") << QByteArray("<NAME>SEPA-Lastschrift<MEMO>Strom") << QString() << u" "_s;
+        QTest::newRow("a number") << QByteArray("<NAME>0815<MEMO>Strom") << QString() << u" "_s;
+        QTest::newRow("payee with account") << QByteArray(
+            "<MEMO>Strom<PAYEE><NAME>Stadtwerke<CITY>Talheim</PAYEE><BANKACCTTO><BANKID>10020030<ACCTID>77"
+            "</BANKACCTTO>") << u"Stadtwerke"_s
+                                            << u"77 10020030"_s;
+    }
+
+    void TakesCounterparty()
+    {
+        QFETCH(QByteArray, fields);
+        const cStatementRead read = ReadBytes(With("<STMTTRN><DTPOSTED>20260102<TRNAMT>-1" + fields + "</STMTTRN>\n"),
+                                              eMissingPurpose::Name, eOfxPayee::Take);
+        const cImportEntry row = read.Entries.value(0);
+        QTEST(row.ImportBeneficiary, "name");
+        QTEST(QString(row.ImportBeneficiaryAccount + u' ' + row.ImportBeneficiaryBLZ), "account");
     }
 
     void HonoursCharacterSetOfHeader_data()

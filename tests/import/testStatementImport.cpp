@@ -36,6 +36,19 @@ QString Many(int count)
     return text + u":62F:C260101EUR0,00\r\n-\r\n";
 }
 
+// OFX with a purchase by card for each shop, "Kiosk+1" being one on the day after; no shop, no name.
+QString CardPayments(const QStringList& shops)
+{
+    QString text = u"OFXHEADER:100\n<OFX><BANKMSGSRSV1><STMTTRNRS><STMTRS><BANKACCTFROM><ACCTID>7</BANKACCTFROM>"
+                   "<BANKTRANLIST>"_s;
+    for (const QString& shop : shops) {
+        text += u"<STMTTRN><DTPOSTED>2026010%1<TRNAMT>-5<NAME>%2<MEMO>Kartenzahlung</STMTTRN>"_s
+                    .arg(shop.endsWith(u"+1"_s) ? 2 : 1)
+                    .arg(shop.section(u'+', 0, 0));
+    }
+    return text + u"</BANKTRANLIST></STMTRS></STMTTRNRS></BANKMSGSRSV1></OFX>\n"_s;
+}
+
 // A table of purchases, each in a line of its own: "0503 -200 2" twice on May 3rd. `end` is the balance behind the
 // last.
 QString Purchases(const QString& list, std::optional<int> end)
@@ -325,6 +338,53 @@ private Q_SLOTS:
             row.ID = 0;
         }
         QCOMPARE(tried.Rows, staged);
+    }
+
+    void KnowsRowsFromBeforeTheirNames_data()
+    {
+        QTest::addColumn<QStringList>("before"); // the shops of the file that was read without names
+        QTest::addColumn<QStringList>("now");
+        QTest::addColumn<QStringList>("added");
+        QTest::addColumn<int>("asked");
+        const auto row = [](const char* name, const QString& before, const QString& now, const QString& added,
+                            int asked = 0) {
+            const auto list = [](const QString& text) { return text.split(u", "_s, Qt::SkipEmptyParts); };
+            QTest::newRow(name) << list(before) << list(now) << list(added) << asked;
+        };
+        row("the same", u"Kiosk"_s, u"Kiosk"_s, {});
+        row("overlapping", u"Kiosk, Bad+1"_s, u"Bad+1, Kiosk+1"_s, u"Kiosk"_s);
+        row("two shops", {}, u"Kiosk, Bad"_s, u"Kiosk, Bad"_s);
+        row("two shops, one of them known", u"Kiosk"_s, u"Kiosk, Bad"_s, u"Bad"_s);
+        row("beside one without name", u"-"_s, u"Kiosk, -"_s, u"Kiosk"_s);
+        row("twice in one shop", u"Kiosk"_s, u"Kiosk, Kiosk"_s, {}, 1);
+        row("nothing to do with it", u"Kiosk+1"_s, u"Kiosk"_s, u"Kiosk"_s);
+    }
+
+    // Books that were filled before the names were read, with the next file, and that file once more.
+    void KnowsRowsFromBeforeTheirNames()
+    {
+        QFETCH(const QStringList, before);
+        QFETCH(const QStringList, now);
+        QFETCH(const int, asked);
+        cImportBook book;
+        cNoProgress progress;
+        cStatementImport import(book.Data, book.Hive);
+        cImportOptions old;
+        old.OfxPayee = eOfxPayee::Leave;
+        QCOMPARE(import.ImportText(u"a.ofx"_s, CardPayments(before), old, progress).Staged, before.size());
+        for (const bool isAgain : {false, true}) {
+            const cImportResult result = import.ImportText(u"b.ofx"_s, CardPayments(now), {}, progress);
+            QCOMPARE(result.Repeats.size(), asked);
+            QVERIFY(!isAgain || result.Staged == 0);
+        }
+        QStringList names;
+        const cImportEntryList rows = book.Data.GetImportEntries();
+        for (const cImportEntry& staged : rows) {
+            names.append(staged.ImportBeneficiary);
+        }
+        names.removeAll(QString());
+        QTEST(names, "added");
+        QCOMPARE(rows.size(), before.size() + names.size());
     }
 
     void StagesWholeCents_data()

@@ -22,7 +22,7 @@ constexpr int agreed = 2;           // bookings that make a lesson sure
 
 } // namespace
 
-cLearned::cLearned(cDataAccess& data, cImportHiveCache& hive) : m_data(data)
+cLearned::cLearned(cDataAccess& data, cImportHiveCache& hive, QDate cashStart) : m_data(data), m_cashStart(cashStart)
 {
     const QList<int> corrected = modCorrected::Load(data);
     for (qsizetype i = 0; i < corrected.size(); ++i) {
@@ -53,10 +53,18 @@ void cLearned::Build(cImportHiveCache& hive)
         if (isBooked) {
             m_entryIds.insert(row.ImportAssignedEntry);
             if (!payee.Key.isEmpty()) {
-                m_byPayee[payee.Key].Rows.append(booked);
+                m_byPayee[KeyOf(payee, row)].Rows.append(booked);
             }
         }
     }
+}
+
+// Notes drawn before the purse was counted are in its start balance: what became of them says nothing about those drawn
+// since, and the other way round.
+QString cLearned::KeyOf(const cPayeeKeys::cPayee& payee, const cImportEntry& row) const
+{
+    const bool isBefore = payee.IsCash && m_cashStart.isValid() && row.ImportDate < m_cashStart;
+    return isBefore ? payee.Key + u'<' : payee.Key;
 }
 
 // Who collects for others has one account for all of them.
@@ -90,7 +98,7 @@ std::optional<cLearned::cChoice> cLearned::Find(const cImportEntry& row)
 {
     const cPayeeKeys::cPayee payee = m_payees.Of(row);
     if (!payee.Key.isEmpty()) {
-        const auto known = m_byPayee.find(payee.Key);
+        const auto known = m_byPayee.find(KeyOf(payee, row));
         std::optional<cChoice> choice = known == m_byPayee.end() ? std::nullopt : Choose(*known, row);
         if (choice) {
             choice->Who = payee.Name;

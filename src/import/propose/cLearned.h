@@ -34,7 +34,8 @@ public:
         bool IsAccount = false; // the latter
     };
 
-    cLearned(cDataAccess& data, cImportHiveCache& hive);
+    // `cashStart` is the day on which the purse was counted; invalid when it was not.
+    cLearned(cDataAccess& data, cImportHiveCache& hive, QDate cashStart);
 
     // What was decided last: the entry whose category was changed last, else the one that was booked last. Rows with
     // the same sign go before others. Empty when nothing like the row was booked yet. The payee decides what is alike,
@@ -73,6 +74,7 @@ private:
         bool IsMixed = false;
     };
     void Build(cImportHiveCache& hive);
+    [[nodiscard]] QString KeyOf(const cPayeeKeys::cPayee& payee, const cImportEntry& row) const;
     static void NotePayee(cAccount& account, const cPayeeKeys::cPayee& payee);
     [[nodiscard]] const cEntry& Entry(int id);
     [[nodiscard]] QString CategoryOf(int entryId);
@@ -84,6 +86,7 @@ private:
     [[nodiscard]] cChoice ChoiceOf(const QList<cBooked>& decided, qsizetype count);
 
     cDataAccess& m_data;
+    QDate m_cashStart;
     cPayeeKeys m_payees;
     QHash<QString, cHistory> m_byPayee;
     QHash<QString, cAccount> m_byAccount;

@@ -29,6 +29,10 @@ cPayeeKeys::cPayee cPayeeKeys::ByName(const cImportEntry& row)
     cImportEntry alone = row;
     alone.ImportPurpose.clear();
     cPayee payee;
+    alone.ImportValue = -1;
+    payee.m_isDrawn = modCash::IsCash(alone);
+    alone.ImportValue = 1;
+    payee.m_isPaidIn = modCash::IsCash(alone);
     payee.IsCollector = modPayee::IsCollector(row.ImportBeneficiary);
     payee.m_isFixed = !payee.IsCollector && !row.ImportBeneficiary.trimmed().isEmpty();
     if (payee.m_isFixed) {
@@ -45,7 +49,8 @@ cPayeeKeys::cPayee cPayeeKeys::Of(const cImportEntry& row)
         known = m_known.insert(place, ByName(row));
     }
     cPayee payee = *known;
-    if (modCash::CanBeCash(row) && modCash::IsCash(row)) {
+    const bool isNamedCash = row.ImportValue < 0 ? payee.m_isDrawn : payee.m_isPaidIn; // of whatever amount
+    if (isNamedCash || (modCash::CanBeCash(row) && modCash::IsCash(row))) {
         TakeCash(payee);
     } else if (!payee.m_isFixed) {
         Take(payee, modPayee::Of(row));

@@ -22,6 +22,8 @@ public:
     private:
         friend class cPayeeKeys;
         bool m_isFixed = false; // the same for all rows with this name, whatever their purpose
+        bool m_isDrawn = false; // the name alone says that it is cash, going out or coming in
+        bool m_isPaidIn = false;
     };
 
     [[nodiscard]] cPayee Of(const cImportEntry& row);

@@ -26,14 +26,14 @@ using namespace Qt::Literals::StringLiterals;
 struct cProposer::cKnowledge
 {
     cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
-        : Learned(data, hive),
+        : Numbered(NumberedAccounts(accounts)),
+          Cash(modCash::Accounts(data.GetAccounts(), Numbered)),
+          CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst())),
+          Learned(data, hive, CashStart),
           Transfers(data, hive, accounts),
           Series(data, hive),
           Rules(cOwnRules(accounts.Settings()).Load()),
-          Matcher(Rules),
-          Numbered(NumberedAccounts(accounts)),
-          Cash(modCash::Accounts(data.GetAccounts(), Numbered)),
-          CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst()))
+          Matcher(Rules)
     {
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
@@ -81,14 +81,14 @@ struct cProposer::cKnowledge
         return place < 0 ? nullptr : &Rules.at(place);
     }
 
+    QStringList Numbered; // accounts that stand at a bank
+    QStringList Cash;     // accounts for cash
+    QDate CashStart;      // of the first of them
     cLearned Learned;
     cTransferFinder Transfers;
     cSeriesFinder Series;
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
-    QStringList Numbered; // accounts that stand at a bank
-    QStringList Cash;     // accounts for cash
-    QDate CashStart;      // of the first of them
     QSet<QString> Categories;
 };
 
@@ -157,7 +157,6 @@ void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImp
 }
 
 // Of several purses nobody knows which one it was.
-// Money that was drawn before the purse's start balance was counted is in it already, or spent.
 void TakeCash(cProposal& proposal, const QStringList& accounts, QDate start)
 {
     cEntryItem& entry = proposal.Entry;
@@ -170,6 +169,7 @@ void TakeCash(cProposal& proposal, const QStringList& accounts, QDate start)
     if (own == purse) {
         return;
     }
+    // What was drawn before the purse's start balance was counted is in it already, or spent.
     if (start.isValid() && entry.EntryDate < start) {
         proposal.Reason = cText::Tr("Bargeld, vor dem Startguthaben von {0}", {purse});
         return;

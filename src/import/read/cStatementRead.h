@@ -58,6 +58,7 @@ struct cStatementRead
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
     QString AccountKey;     // under which the account of such files is remembered; empty: it cannot be
 
+    bool WasNameless = false;     // earlier versions of the program staged such rows without their counterparties
     bool HasStrayDetails = false; // refused only because of them: eStrayDetails::PassOver reads the rest
 
     QMap<QString, QString> BankCodes; // of own accounts by their number, as far as the file names them

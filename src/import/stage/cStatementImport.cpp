@@ -15,6 +15,7 @@
 #include "import/stage/cKnownAccounts.h"
 #include "import/stage/cLeftOutRows.h"
 #include "import/stage/modEqualRows.h"
+#include "import/stage/modNamelessRows.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTableMemory.h"
 #include "import/xml/modCamt.h"
@@ -222,14 +223,16 @@ cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, co
 
 cImportResult cStatementImport::ImportFile(const QString& path, const cImportOptions& options, cProgress& progress)
 {
-    const modStatementFile::cContent content = modStatementFile::Read(path);
+    modStatementFile::cContent content = modStatementFile::Read(path);
     if (!content.Failure.isEmpty()) {
         cImportResult result;
         result.File = path;
         qCInfo(modLog::Import) << "the file cannot be read";
         return Refuse(std::move(result), content.Failure);
     }
-    return ImportSource(modStatementFormat::Source(path, content.Bytes, options.Table.Charset), options, progress);
+    cStatementSource source = modStatementFormat::Source(path, content.Bytes, options.Table.Charset);
+    content.Bytes.clear(); // the source has them
+    return ImportSource(std::move(source), options, progress);
 }
 
 cImportResult cStatementImport::ImportText(const QString& path, const QString& text, const cImportOptions& options,
@@ -238,17 +241,18 @@ cImportResult cStatementImport::ImportText(const QString& path, const QString& t
     return ImportSource({path, {}, text}, options, progress);
 }
 
-cImportResult cStatementImport::ImportSource(const cStatementSource& source, const cImportOptions& options,
+cImportResult cStatementImport::ImportSource(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress)
 {
     QElapsedTimer time;
     time.start();
-    cImportResult result = ReadAndStage(source, options, progress);
-    Trace(result, source.Bytes.size(), time);
+    const qsizetype size = source.Bytes.size();
+    cImportResult result = ReadAndStage(std::move(source), options, progress);
+    Trace(result, size, time);
     return result;
 }
 
-cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, const cImportOptions& options,
+cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress)
 {
     cImportResult result;
@@ -262,6 +266,7 @@ cImportResult cStatementImport::ReadAndStage(const cStatementSource& source, con
         return Refuse(std::move(result), reason);
     }
     cStatementRead read = Read(source, format, options, progress);
+    source = {}; // the rows take its room
     if (progress.IsCancelled()) {
         result.IsCancelled = true;
         return result;
@@ -337,7 +342,7 @@ cStatementRead cStatementImport::Read(const cStatementSource& source, eStatement
 {
     const modStatementFormat::cReader reader = modStatementFormat::Reader(format);
     cReadOptions readOptions{options.DefaultAccount, options.MissingPurpose, options.Table, m_memory,
-                             options.StrayDetails};
+                             options.StrayDetails,   options.OfxPayee};
     if (source.Bytes.size() <= quicklyRead) {
         return reader(source, readOptions);
     }
@@ -425,6 +430,9 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     staging.StartSource();
     cKnownAccounts known(staging.Accounts(), m_balances);
     known.UseIn(read);
+    if (options.Duplicates == eDuplicateTest::Test) {
+        modNamelessRows::UseIn(read, staging);
+    }
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;

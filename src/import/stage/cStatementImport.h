@@ -36,6 +36,7 @@ struct cImportOptions
     eUncertain Uncertain = eUncertain::Read;
     eEqualRows Equal = eEqualRows::Report;
     eStrayDetails StrayDetails = eStrayDetails::Refuse;
+    eOfxPayee OfxPayee = eOfxPayee::Take; // without it nothing could be proposed
 };
 
 // Statement files into staged rows.
@@ -52,8 +53,9 @@ public:
     // its other form (IBAN or number) keeps that form, so that a booking is known again in another format.
     [[nodiscard]] cImportResult ImportFile(const QString& path, const cImportOptions& options, cProgress& progress);
 
-    // The same for a file that was loaded before.
-    [[nodiscard]] cImportResult ImportSource(const cStatementSource& source, const cImportOptions& options,
+    // The same for a file that was loaded before. Who hands it over for good has its memory back before the rows are
+    // staged.
+    [[nodiscard]] cImportResult ImportSource(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress);
 
     // The same for a text whose format the name and the content tell.
@@ -74,7 +76,7 @@ public:
                                               cProgress& progress);
 
 private:
-    [[nodiscard]] cImportResult ReadAndStage(const cStatementSource& source, const cImportOptions& options,
+    [[nodiscard]] cImportResult ReadAndStage(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress);
     [[nodiscard]] cStatementRead Read(const cStatementSource& source, eStatementFormat format,
                                       const cImportOptions& options, cProgress& progress);

@@ -108,6 +108,7 @@ private:
         m_all.Entries += read.Entries;
         m_all.Balances += read.Balances;
         m_all.BankCodes.insert(read.BankCodes);
+        m_all.WasNameless = m_all.WasNameless || read.WasNameless;
         m_all.ClosingBalance = read.ClosingBalance ? read.ClosingBalance : m_all.ClosingBalance;
         for (const cReadProblem& problem : read.Problems) {
             m_all.Problems.append({problem.Line, cText::Tr("{0}: {1}", {name, problem.Text})});

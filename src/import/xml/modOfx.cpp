@@ -3,11 +3,14 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "base/modCount.h"
+#include "import/read/modPayee.h"
 #include "import/read/modStatementText.h"
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"
 #include "import/xml/modXmlNode.h"
 #include "import/xml/modXmlPieces.h"
+
+#include <QHash>
 
 #include <algorithm>
 #include <array>
@@ -53,12 +56,28 @@ QDate DateOf(QStringView text)
     return {number(0, 4), number(4, 2), number(6, 2)};
 }
 
+// "SEPA-Lastschrift" is what the bank calls a payment, and nobody's name.
+bool NamesSomebody(const QString& name)
+{
+    cImportEntry row;
+    row.ImportPurpose = name;
+    return !modPayee::Of(row).Key.isEmpty();
+}
+
+// Many banks put the purpose into NAME once more, as far as there is room for it.
+bool IsBeginning(const QString& name, const QString& purpose)
+{
+    return purpose.startsWith(QStringView(name).left(1), Qt::CaseInsensitive)
+        && purpose.simplified().startsWith(name.simplified(), Qt::CaseInsensitive);
+}
+
 class cReader
 {
 public:
     cReader(modXmlPieces::cPieces pieces, const cReadOptions& options) : m_pieces(std::move(pieces)), m_options(options)
     {
         m_read.Entries.reserve(qsizetype(m_pieces.Pieces.size()));
+        m_read.WasNameless = options.OfxPayee == eOfxPayee::Take;
     }
 
     cStatementRead Run()
@@ -164,6 +183,9 @@ private:
         row.Entry.ImportAccount = m_account;
         row.Entry.ImportDate = DateOf(day);
         row.Entry.ImportPurpose = PurposeOf(node);
+        if (m_options.OfxPayee == eOfxPayee::Take) {
+            TakeCounterparty(node, row.Entry);
+        }
         row.Entry.ImportCurrency = m_currency;
         row.Entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
         if (!row.Entry.ImportDate.isValid()) {
@@ -196,6 +218,25 @@ private:
         return takesName ? modStatementText::DecodeField(TextOf(node, "NAME")) : memo;
     }
 
+    void TakeCounterparty(const pugi::xml_node& node, cImportEntry& entry)
+    {
+        const QString plain = TextOf(node, "NAME");
+        const QString name =
+            modStatementText::DecodeField(plain.isEmpty() ? TextOf(node.child("PAYEE"), "NAME") : plain);
+        auto known = m_names.constFind(name);
+        if (known == m_names.constEnd()) {
+            known = m_names.insert(name, NamesSomebody(name) ? name : QString());
+        }
+        if (!IsBeginning(*known, entry.ImportPurpose)) {
+            entry.ImportBeneficiary = *known;
+        }
+        if (const pugi::xml_node account = node.child("BANKACCTTO")) {
+            entry.ImportBeneficiaryAccount = TextOf(account, "ACCTID");
+            entry.ImportBeneficiaryBLZ =
+                entry.ImportBeneficiaryAccount.isEmpty() ? QString() : TextOf(account, "BANKID");
+        }
+    }
+
     void TakeBalance(const pugi::xml_node& ledger)
     {
         const std::optional<double> euros =
@@ -212,6 +253,7 @@ private:
     cStatementRead m_read;
     QString m_account; // of the statement at hand
     QString m_currency;
+    QHash<QString, QString> m_names; // the counterparty by what stands in NAME; the same names come again and again
     bool m_hasStatements = false;
     bool m_isBroken = false;
 };
