@@ -22,8 +22,8 @@
 #include "views/bank/modBankText.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/ledger/modBalanceText.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/statement/modImportText.h"
 
 #include <algorithm>
 #include <utility>

@@ -13,9 +13,9 @@
 #include "store/cDataAccess.h"
 #include "views/ledger/modBalanceText.h"
 #include "views/list/cListFilter.h"
+#include "views/list/modImportText.h"
 #include "views/list/modUnread.h"
 #include "views/receipt/cStatementPapers.h"
-#include "views/statement/modImportText.h"
 
 #include <algorithm>
 #include <array>

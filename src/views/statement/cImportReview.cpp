@@ -15,6 +15,7 @@
 #include "store/cUndoStep.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/list/modImportText.h"
 #include "views/rule/cRuleEditor.h"
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
@@ -23,7 +24,6 @@
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cSeriesCheck.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <QMap>
