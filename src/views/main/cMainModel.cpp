@@ -227,6 +227,7 @@ void cMainModel::BookChanged()
     m_balancesOf = QDate();
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     TakeAccount();
+    m_view.DropUnknownPayer(m_tools.Settings);
     m_detour.Own(m_view).DropUnknownPayer(m_tools.Settings);
     RefreshView();
     Q_EMIT BookRefreshed();
@@ -437,8 +438,9 @@ void cMainModel::AccountRenamed(const QString& oldName, const QString& newName)
 
 void cMainModel::PersonRenamed(const QString& oldName, const QString& newName)
 {
-    QString& payer = m_detour.Own(m_view).Payer;
-    payer = payer == oldName ? newName : payer;
+    for (QString* payer : {&m_view.Payer, &m_detour.Own(m_view).Payer}) {
+        *payer = *payer == oldName ? newName : *payer;
+    }
 }
 
 void cMainModel::BookSwitched(const QString& path, bool isNewVersion)
