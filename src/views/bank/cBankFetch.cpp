@@ -415,9 +415,6 @@ void cBankFetch::Stage(cRun& run, cProgress& progress)
             Fail(came.Place, {eBankFault::Other, cText::Tr("Die Datenbank hat die Umsätze nicht angenommen."), {}});
         }
     }
-    if (!isKept) {
-        m_tools.Settings.Reload(); // what was noted with the rows is gone with them
-    }
 }
 
 void cBankFetch::NoteTaken(const cCame& came, const cImportResult& result)

@@ -184,9 +184,6 @@ void cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlan
     if (outcome.Lines.isEmpty()) {
         return;
     }
-    if (outcome.IsRefused) {
-        m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
-    }
     m_summary = outcome.Lines;
     if (outcome.IsDone) {
         m_summary += CheckSeries(rows);
@@ -500,9 +497,6 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
 {
     if (outcome.Lines.isEmpty()) {
         return;
-    }
-    if (!outcome.IsDone) {
-        m_tools.Settings.Reload(); // an account chosen just before may have been taken back with the rest
     }
     m_summary = outcome.Lines;
     Refresh();
