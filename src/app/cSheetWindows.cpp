@@ -29,13 +29,14 @@ cSheetWindows::cSheetWindows(const cBookTools& tools, cMainModel& model, cStaged
     QObject::connect(&m_window, &frmMain::RowsDropped, m_menu,
                      [this](const QList<cEntryListModel::cKey>& rows, const QString& account, const QString& shown) {
                          if (cRowDrop(m_tools).OnAccount(rows, account, shown)) {
-                             m_model.ManyChanged(rows);
+                             m_model.ManyChanged(rows, rows);
                          }
                      });
     QObject::connect(&m_window, &frmMain::RowsRegrouped, m_menu,
                      [this](const QList<cEntryListModel::cKey>& rows, const QString& category) {
-                         if (cRowDrop(m_tools).OnCategory(rows, category)) {
-                             m_model.ManyChanged(rows);
+                         const QList<cEntryListModel::cKey> stored = cRowDrop(m_tools).OnCategory(rows, category);
+                         if (!stored.isEmpty()) {
+                             m_model.ManyChanged(rows, stored);
                          }
                      });
 }
@@ -81,7 +82,7 @@ void cSheetWindows::ChangeMany(const QList<cEntryListModel::cKey>& rows, QWidget
     }
     frmMehrere form(change, parent);
     if (form.exec() == QDialog::Accepted) {
-        m_model.ManyChanged(rows);
+        m_model.ManyChanged(rows, rows);
     }
 }
 

@@ -123,7 +123,8 @@ void cBackupPlan::Copy()
     const QString target = QDir(Folder()).filePath(name);
     const QString problem = cBackup(m_book.Database(), m_ports.Shell).Make(target);
     if (!problem.isEmpty()) {
-        TellFailure(problem);
+        TellOnceADay(modSettingKey::BackupFailed,
+                     cText::Tr("Die automatische Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
         return;
     }
     SaveReceipts();
@@ -143,19 +144,17 @@ void cBackupPlan::SaveReceipts()
     const QString problem = copies.isEmpty()
         ? QString()
         : modReceiptFolder::SaveIfWished(m_configuration, m_book.Path(), copies.constFirst().Path);
-    if (!problem.isEmpty() && m_receiptsTold != m_ports.Clock.Today()) {
-        m_receiptsTold = m_ports.Clock.Today();
-        m_ports.User.Show(eTone::Information, problem);
+    if (!problem.isEmpty()) {
+        TellOnceADay(modSettingKey::ReceiptsFailed, problem);
     }
 }
 
-void cBackupPlan::TellFailure(const QString& problem)
+void cBackupPlan::TellOnceADay(const cSettingKey& key, const QString& text)
 {
     const QString today = modDate::ToIso(m_ports.Clock.Today());
-    if (m_configuration.GetSetting(modSettingKey::BackupFailed) != today) {
-        m_configuration.SaveSetting(modSettingKey::BackupFailed, today, eSettingPlace::Database);
-        m_ports.User.Show(eTone::Information,
-                          cText::Tr("Die automatische Datensicherung konnte nicht erstellt werden:\n{0}", {problem}));
+    if (m_configuration.GetSetting(key) != today) {
+        m_configuration.SaveSetting(key, today, eSettingPlace::Database);
+        m_ports.User.Show(eTone::Information, text);
     }
 }
 

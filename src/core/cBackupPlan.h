@@ -10,6 +10,7 @@
 class cBook;
 class cClock;
 class cConfiguration;
+class cSettingKey;
 class cShell;
 class cUser;
 
@@ -80,12 +81,12 @@ private:
     void TidyUp() const;
     void Copy();
     void SaveReceipts();
-    void TellFailure(const QString& problem);
+    // Unless the setting names today: then the user was told.
+    void TellOnceADay(const cSettingKey& key, const QString& text);
     void NoteCurrent();
 
     cPorts m_ports;
     cBook& m_book;
     cConfiguration& m_configuration;
     std::optional<quint64> m_copied; // rows written when the newest copy was as good as the book; none: it is not
-    QDate m_receiptsTold;            // when the user was last told of receipts that could not be copied
 };

@@ -13,6 +13,19 @@ cSettings::cSettings(cDataAccess& data) : m_data(data)
 
 void cSettings::Reload()
 {
+    Read();
+}
+
+void cSettings::CatchUp() const
+{
+    if (m_timesPutBack != m_data.Journal().TimesPutBack() && !m_data.IsReadOnly()) {
+        Read();
+    }
+}
+
+void cSettings::Read() const
+{
+    m_timesPutBack = m_data.Journal().TimesPutBack();
     m_values.clear();
     const QList<std::pair<QString, QString>> rows = m_data.GetSettings();
     for (const auto& [name, value] : rows) {
@@ -22,11 +35,13 @@ void cSettings::Reload()
 
 QString cSettings::Get(const cSettingKey& key) const
 {
+    CatchUp();
     return m_values.value(key.Name().toLower()).Value;
 }
 
 bool cSettings::Set(const cSettingKey& key, const QString& value)
 {
+    CatchUp();
     const QString lower = key.Name().toLower();
     // The row is addressed in the letter case it was stored with, so that no second one appears beside it.
     const QString stored = m_values.contains(lower) ? m_values.value(lower).Name : key.Name();
@@ -44,6 +59,7 @@ bool cSettings::Delete(const cSettingKey& key)
 
 bool cSettings::DeleteStored(const QString& name)
 {
+    CatchUp();
     const QString key = name.toLower();
     const QString stored = m_values.contains(key) ? m_values.value(key).Name : name;
     if (!m_data.IsReadOnly() && !m_data.DeleteSetting(stored)) {
@@ -66,6 +82,7 @@ bool cSettings::SetBool(const cSettingKey& key, bool value)
 
 void cSettings::ResetAll()
 {
+    CatchUp();
     bool hasDeleted = true;
     while (hasDeleted) {
         hasDeleted = false;

@@ -7,8 +7,9 @@
 class cDataAccess;
 class cSettingKey;
 
-// The settings of the open database in memory, kept in step with table `setting`. Stored names are compared without
-// regard to case. On a database opened for reading only, changes live until the program ends.
+// The settings of the open database in memory, kept in step with table `setting`, also when a step that wrote some is
+// taken back. Stored names are compared without regard to case. On a database opened for reading only, changes live
+// until the program ends.
 class cSettings
 {
 public:
@@ -44,6 +45,9 @@ public:
     [[nodiscard]] static QString FromBool(bool value);
 
 private:
+    void Read() const;
+    // Reads again where rows were put back meanwhile.
+    void CatchUp() const;
     bool DeleteStored(const QString& name);
 
     struct cValue
@@ -53,5 +57,6 @@ private:
     };
 
     cDataAccess& m_data;
-    QMap<QString, cValue> m_values; // by lower-cased name
+    mutable QMap<QString, cValue> m_values; // by lower-cased name
+    mutable quint64 m_timesPutBack = 0;     // of the journal, when they were read
 };

@@ -33,19 +33,20 @@ bool cLimits::HasLimit(const cLine& line, QDate first, QDate end)
         || (own != line.Budget.Months.end() && own.key() < end);
 }
 
-QDate cLimits::CarriesFrom(const cLine& line)
+QDate cLimits::CarriesFrom(const QString& path) const
 {
-    const QDate from = line.Budget.CarriesFrom;
-    if (!from.isValid() || modTemplate::LimitCents(line.Item, modBudget::MonthsOfYear) > 0) {
+    const auto line = m_lines.constFind(path);
+    const QDate from = line == m_lines.constEnd() ? QDate() : line->Budget.CarriesFrom;
+    if (!from.isValid() || modTemplate::LimitCents(line->Item, modBudget::MonthsOfYear) > 0) {
         return from;
     }
-    const auto own = line.Budget.Months.lowerBound(from);
-    return own == line.Budget.Months.end() ? QDate() : own.key();
+    const auto own = line->Budget.Months.lowerBound(from);
+    return own == line->Budget.Months.end() ? QDate() : own.key();
 }
 
 qint64 cLimits::Carried(const QString& path, const cLine& line, QDate month) const
 {
-    const QDate from = CarriesFrom(line);
+    const QDate from = CarriesFrom(path);
     if (!from.isValid() || from >= month) {
         return 0;
     }

@@ -27,6 +27,9 @@ public:
 
     // The earliest month from which on anything is carried over; invalid: nothing is.
     [[nodiscard]] QDate CarriesFrom() const;
+    // The month with which that begins for a category; invalid: it carries nothing, or has no limit yet. What was spent
+    // before it had any was allowed.
+    [[nodiscard]] QDate CarriesFrom(const QString& path) const;
     // By the keys of modBudget::KeyOf, in no order.
     [[nodiscard]] QStringList Paths() const { return m_lines.keys(); }
     // The limit of so many months from `first` on; none when the category has none in all of them.
@@ -39,8 +42,6 @@ private:
         cBudget Budget;
     };
 
-    // The month with which carrying over begins: what was spent before the category had any limit was allowed.
-    [[nodiscard]] static QDate CarriesFrom(const cLine& line);
     [[nodiscard]] static bool HasLimit(const cLine& line, QDate first, QDate end);
     [[nodiscard]] qint64 Carried(const QString& path, const cLine& line, QDate month) const;
 

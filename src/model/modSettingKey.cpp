@@ -37,6 +37,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &BackupFolder,
                                      &BackupLast,
                                      &BackupFailed,
+                                     &ReceiptsFailed,
                                      &OwnRules,
                                      &Corrected,
                                      &People,

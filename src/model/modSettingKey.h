@@ -44,6 +44,7 @@ inline const cSettingKey BackupCount{QStringLiteral("BackupCount"), {Number, Boo
 inline const cSettingKey BackupFolder{QStringLiteral("BackupFolder"), {Text, Book}}; // empty: beside the book
 inline const cSettingKey BackupLast{QStringLiteral("BackupLast"), {Day, Book}};
 inline const cSettingKey BackupFailed{QStringLiteral("BackupFailed"), {Day, Book}};
+inline const cSettingKey ReceiptsFailed{QStringLiteral("ReceiptsFailed"), {Day, Book}}; // their copies
 inline const cSettingKey OwnRules{QStringLiteral("OwnRules"), {List, Book}};
 inline const cSettingKey Corrected{QStringLiteral("GelerntZuletzt"), {List, Book}};          // see modCorrected
 inline const cSettingFamily Budget{QStringLiteral("Budget:"), {}, {Text, Book, Kept}};       // category; see modBudget

@@ -96,6 +96,7 @@ bool cJournal::End()
     const bool isWritten = Try(u"EndStep", [this] { m_database.CommitGathered(); });
     m_database.EndGathering();
     cStep step = std::exchange(m_open, {});
+    m_timesPutBack += isWritten ? 0 : 1;
     const bool isKept = isWritten && !step.Images.empty();
     if (isKept) {
         m_undo.push_back(std::move(step));
@@ -119,6 +120,7 @@ void cJournal::Revert()
         Join(std::move(part)); // the oldest image of each row counts
     }
     m_database.DropGathered();
+    ++m_timesPutBack;
     if (m_writes == eWrites::InPortions) {
         // What earlier portions have put into the file goes by the images of its rows.
         (void)Try(u"RevertStep", [this] { (void)Apply(m_open); });
@@ -261,6 +263,7 @@ cJournal::cStep cJournal::Apply(const cStep& step)
     if (step.Images.empty()) {
         return back; // a book that can only be read has no more than that
     }
+    ++m_timesPutBack;
     // All rows come back or none does. Within an open step they come with what it goes on to write.
     const bool isOfStep = m_database.IsGathering();
     if (!isOfStep) {

@@ -57,6 +57,10 @@ public:
     // What was taken back counts as well.
     [[nodiscard]] quint64 RowsWritten() const { return m_rowsWritten; }
 
+    // Goes up whenever rows were put back: by a step that was reverted, has failed, or was undone or redone. Whoever
+    // keeps rows in memory compares it.
+    [[nodiscard]] quint64 TimesPutBack() const { return m_timesPutBack; }
+
     // Forgets all steps, because what they know may not be true any more: another file was opened.
     void Forget();
 
@@ -109,4 +113,5 @@ private:
     std::deque<cStep> m_undo;
     std::deque<cStep> m_redo;
     quint64 m_rowsWritten = 0;
+    quint64 m_timesPutBack = 0;
 };

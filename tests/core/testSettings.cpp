@@ -2,7 +2,7 @@
 #include "core/cSettings.h"
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
-#include "store/cDataAccess.h"
+#include "store/cUndoStep.h"
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
@@ -37,6 +37,7 @@ constexpr std::array storedSettings{
     "BackupFolder",
     "BackupLast",
     "BackupFailed",
+    "ReceiptsFailed",
     "OwnRules",
     "GelerntZuletzt",
     "Personen",
@@ -240,6 +241,23 @@ private Q_SLOTS:
         QVERIFY(!settings.Delete(modSettingKey::MainAccount));
         QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
         QCOMPARE(book.User.Shown.value(0), u"ERROR: ChangeSettingItem\nno such table: setting"_s);
+    }
+
+    // What a step stored goes with it.
+    void MemoryFollowsAStepThatIsTakenBack() const
+    {
+        cOpened book;
+        cSettings settings(book.Data);
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Giro"_s));
+        {
+            cUndoStep step(book.Data, u"Konto"_s);
+            QVERIFY(settings.Set(modSettingKey::MainAccount, u"Spar"_s));
+            QVERIFY(!step.DoneIf(false));
+            QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
+            QVERIFY(settings.Set(modSettingKey::MainAccount, u"Bar"_s));
+        }
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
     }
 
     void ReadOnlyKeepsChangesInMemory() const

@@ -255,7 +255,6 @@ void testBankAccess::UndoTakesBackRowsOnly()
     QVERIFY(access.Choose(state, {state.Accounts[0]}));
     QCOMPARE(book.Data.Journal().UndoName(), u"Umsätze abgerufen"_s);
     QVERIFY(book.Data.Journal().Undo());
-    book.Settings->Reload();
     QVERIFY(book.Data.GetImportEntries().isEmpty());
     QCOMPARE(access.Find(state.BankCode, state.UserId), state);
     QCOMPARE(access.Chosen(state), QList({state.Accounts[0]}));

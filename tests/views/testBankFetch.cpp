@@ -218,7 +218,6 @@ private Q_SLOTS:
         QCOMPARE(staged.constFirst().constFirst().value<QList<int>>().size(), 9);
         QCOMPARE(scene.Data.Journal().UndoName(), u"Umsätze abgerufen"_s);
         QVERIFY(scene.Data.Journal().Undo());
-        scene.Settings->Reload();
         QCOMPARE(scene.Data.GetImportEntries().size(), 0);
         scene.Fetch.Load();
         QVERIFY(!scene.Fetch.Accounts().at(0).LastFetch.isValid());

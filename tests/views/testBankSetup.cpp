@@ -110,7 +110,6 @@ void testBankSetup::SetsUp()
     QVERIFY(scene.Bank.IsQuiet());
     // The account is a step of the book, the login is none.
     QVERIFY(scene.Book.Data.Journal().Undo());
-    scene.Book.Settings->Reload();
     QVERIFY(!scene.Book.Data.FindAccount(u"Notgroschen"_s));
     QCOMPARE(cBankAccess(scene.Book.Tools).Find(u"12345678"_s, u"testuser"_s), state);
     const auto settings = scene.Book.Data.GetSettings();

@@ -89,7 +89,6 @@ void testBudgetModel::IsTypedAndTakenBack()
     QCOMPARE(scene.Category().TemplateDefaultValue, u"20.00"_s);
     QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 'Haushalt; Lebensmittel' geändert"_s);
     QVERIFY(scene.Book.Data.Journal().Undo());
-    scene.Book.Settings->Reload();
     QVERIFY(scene.Stored(food).isEmpty());
     QCOMPARE(scene.Category().TemplateDefaultValue, QString());
 }
@@ -190,7 +189,6 @@ void testBudgetModel::FollowsTheCategory()
     const QString text = u"2026=,,27.50"_s;
     const auto undo = [&] {
         QVERIFY(scene.Book.Data.Journal().Undo());
-        scene.Book.Settings->Reload();
         QCOMPARE(scene.Stored(food), text);
     };
     scene.Book.Settings->Set(modSettingKey::Budget.Of(food), text);

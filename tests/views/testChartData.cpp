@@ -1,3 +1,4 @@
+#include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
@@ -278,11 +279,17 @@ private Q_SLOTS:
         item.TemplateName = u"Waschen"_s;
         item.TemplateDefaultValue = u"200.00"_s;
         QVERIFY(book.Book.Data.AddNewTemplate(item));
+        item.TemplateName = u"Putzen"_s;
+        item.TemplateDefaultValue.clear();
+        QVERIFY(book.Book.Data.AddNewTemplate(item));
+        book.Book.Settings->Set(modSettingKey::Budget.Of(u"Haushalt; Putzen"_s), u"2026=,,27.50"_s); // March alone
         book.Add(modWord::Ausgabe, QDate(2026, 2, 3), u"Haushalt; Waschen"_s, 30000);
         book.Add(modWord::Einnahme, QDate(2026, 2, 4), u"Haushalt; Waschen"_s, 2500);
         const cChartData chart = book.Make({.Kind = eChartKind::Limits, .Range = year});
-        QCOMPARE(Values(chart, 1), (QStringList{u"Waschen=27500"_s, u"Limit Waschen=20000"_s}));
-        QCOMPARE(Values(chart, 2), (QStringList{u"Waschen=0"_s, u"Limit Waschen=20000"_s}));
+        QCOMPARE(Values(chart, 1),
+                 (QStringList{u"Waschen=27500"_s, u"Limit Waschen=20000"_s, u"Putzen=0"_s, u"Limit Putzen=-"_s}));
+        QCOMPARE(Values(chart, 2),
+                 (QStringList{u"Waschen=0"_s, u"Limit Waschen=20000"_s, u"Putzen=0"_s, u"Limit Putzen=2750"_s}));
     }
 
     void LaysTagsBeside()

@@ -478,7 +478,7 @@ void testMainModel::ChangedRowsOutOfSightAreToldOf()
     scene.Model->ChooseAccount(scene.Future.EntryAccount);
     for (const cManyFields& fields : {cManyFields{.Description = u"Neu"_s}, cManyFields{.Account = u"Sparkonto"_s}}) {
         QCOMPARE(cManyChange(scene.Book.Tools, rows).Save(fields), cManyChange::eSaved::Saved);
-        scene.Model->ManyChanged(rows);
+        scene.Model->ManyChanged(rows, rows);
     }
     QCOMPARE(told.at(0).first().toString(), u"Eintrag 'Neu' geändert."_s);
     QVERIFY2(told.at(1).first().toString().contains(u"blendet"_s), qPrintable(told.at(1).first().toString()));

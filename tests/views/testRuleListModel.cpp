@@ -239,7 +239,6 @@ void testRuleListModel::EachChangeIsUndone() const
     QCOMPARE(scene.Data.Journal().UndoName(), u"Regel gelöscht"_s);
     QVERIFY(scene.Data.Journal().Undo());
     QVERIFY(scene.Data.Journal().Undo());
-    scene.Settings->Reload();
     QCOMPARE(scene.Texts(), QStringList({u"a"_s, u"b"_s}));
 }
 
@@ -314,7 +313,6 @@ void testRuleListModel::RenamedCategoriesAndAccounts() const
     QCOMPARE(cOwnRules(*scene.Settings).Load().value(0).Category, u"Daheim; Getränke"_s);
     while (!scene.Data.Journal().UndoName().isEmpty()) {
         QVERIFY(scene.Data.Journal().Undo()); // true also when there is nothing left
-        scene.Settings->Reload();
     }
     QCOMPARE(cOwnRules(*scene.Settings).Load().value(0), rule);
 }

@@ -103,7 +103,6 @@ void testTemplateFlow::BankAccountFollowsTheName()
     QCOMPARE(book.Settings->Get(modSettingKey::MainAccount), u"Kasse"_s);
     QCOMPARE(book.Data.Journal().UndoName(), u"Konto 'Bargeld' umbenannt"_s);
     QVERIFY(book.Data.Journal().Undo());
-    book.Settings->Reload();
     QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Bargeld"_s);
 }
 

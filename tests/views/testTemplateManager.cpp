@@ -46,6 +46,7 @@ private Q_SLOTS:
     void LooksGoWithTheirMainCategory();
     void TakesBackWhatFailsHalfway();
     void ChangesACategoryInOneStep();
+    void KeepsAnIconThatIsNotKnown();
     void KeepsVatThatIsNoRate();
     void RefusesFields_data();
     void RefusesFields();
@@ -255,7 +256,6 @@ void testTemplateManager::LooksGoWithTheirMainCategory()
     QFETCH(QString, shown);
     QTEST(look(shown), "look");
     QVERIFY(scene.Book.Data.Journal().Undo());
-    scene.Book.Settings->Reload();
     QCOMPARE(look(u"Urlaub"_s), u"#112233 reise"_s);
     QCOMPARE(look(u"Freizeit"_s), u"#445566 "_s);
 }
@@ -284,6 +284,16 @@ void testTemplateManager::ChangesACategoryInOneStep()
     scene.Manager.Refresh();
     QCOMPARE(scene.Manager.Load(scene.Category(food))->Amount, QString());
     QCOMPARE(scene.CategoryOf(0), food);
+}
+
+// Of a later version of the program.
+void testTemplateManager::KeepsAnIconThatIsNotKnown()
+{
+    cTemplateScene scene;
+    const cSettingKey icon = modSettingKey::CategoryIcon.Of(u"Haushalt"_s);
+    scene.Book.Settings->Set(icon, u"rakete"_s);
+    QVERIFY(scene.Save(scene.Category(u"Haushalt"_s), [](cTemplateFields& each) { each.Look.Color = u"#445566"_s; }));
+    QCOMPARE(scene.Book.Settings->Get(icon), u"rakete"_s);
 }
 
 // What an older book holds is left alone until somebody gives a rate.
@@ -464,7 +474,6 @@ void testTemplateManager::AssignsBankNumbers()
     QCOMPARE(scene.Manager.Load(scene.Account(u"Bargeld"_s))->Numbers, u"2\nDE123456"_s);
     QVERIFY(settings.Get(modSettingKey::BankNumber.Of(u"1"_s)).isEmpty());
     QVERIFY(scene.Book.Data.Journal().Undo());
-    settings.Reload();
     QCOMPARE(settings.Get(modSettingKey::BankNumber.Of(u"1"_s)), u"Bargeld"_s);
     QCOMPARE(settings.Get(modSettingKey::BankNumber.Of(u"2"_s)), u"Sparkonto"_s);
 }

@@ -6,7 +6,7 @@
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/modCliRecord.h"
 #include "cli/modCliCommands.h"
-#include "views/statement/modImportText.h"
+#include "views/list/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <optional>

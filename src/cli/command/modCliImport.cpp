@@ -8,8 +8,8 @@
 #include "cli/console/modCliRecord.h"
 #include "cli/console/modCliTableChoice.h"
 #include "cli/modCliCommands.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cFileReport.h"
-#include "views/statement/modImportText.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -8,8 +8,8 @@
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/modCliRecord.h"
 #include "cli/modCliCommands.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cMatchFlow.h"
-#include "views/statement/modImportText.h"
 
 #include <cmath>
 #include <optional>

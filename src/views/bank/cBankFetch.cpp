@@ -22,8 +22,8 @@
 #include "views/bank/modBankText.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/ledger/modBalanceText.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/statement/modImportText.h"
 
 #include <algorithm>
 #include <utility>
@@ -414,9 +414,6 @@ void cBankFetch::Stage(cRun& run, cProgress& progress)
             m_lines[came.Place].New = 0;
             Fail(came.Place, {eBankFault::Other, cText::Tr("Die Datenbank hat die Umsätze nicht angenommen."), {}});
         }
-    }
-    if (!isKept) {
-        m_tools.Settings.Reload(); // what was noted with the rows is gone with them
     }
 }
 

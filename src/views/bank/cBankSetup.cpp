@@ -292,11 +292,7 @@ bool cBankSetup::Save()
     const bool isAssigned = std::all_of(lines.begin(), lines.end(), [this](const cBankAccountChoice::cLine& line) {
         return !line.IsChosen || m_access.Assign(m_state, line.Account, line.BookAccount);
     });
-    if (!step.DoneIf(isAssigned)) {
-        m_parts.Tools.Settings.Reload();
-        return false;
-    }
-    return m_access.Save(m_state) && m_access.Choose(m_state, m_accounts->Chosen());
+    return step.DoneIf(isAssigned) && m_access.Save(m_state) && m_access.Choose(m_state, m_accounts->Chosen());
 }
 
 bool cBankSetup::Next()

@@ -92,6 +92,11 @@ qint64 cBudgetEdit::YearLimit(int row) const
     return modBudget::OwnCents(m_rows.at(row).Item, m_rows.at(row).Budget, MonthOf(m_year, 1), MonthsOfYear);
 }
 
+QDate cBudgetEdit::CarriesFrom(int row) const
+{
+    return m_limits.CarriesFrom(modBudget::KeyOf(m_rows.at(row).Path));
+}
+
 std::optional<cLimit> cBudgetEdit::Available(int row, int month) const
 {
     return m_limits.Of(modBudget::KeyOf(m_rows.at(row).Path), MonthOf(m_year, month), 1);
@@ -203,7 +208,6 @@ bool cBudgetEdit::Save()
     }
     cUndoStep step(m_tools.Data, StepName());
     if (!step.DoneIf(std::all_of(m_rows.begin(), m_rows.end(), [this](cRow& row) { return Write(row); }))) {
-        m_tools.Settings.Reload();
         return false;
     }
     for (cRow& row : m_rows) {

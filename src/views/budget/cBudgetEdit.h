@@ -46,6 +46,8 @@ public:
     [[nodiscard]] qint64 Spent(int row, int month) const;
     [[nodiscard]] qint64 SpentIn(int row, int year, int month) const; // also of the year before
     [[nodiscard]] bool CarriesOver(int row) const { return m_rows.at(row).Budget.CarriesFrom.isValid(); }
+    // The month with which that begins; invalid also where there is no limit yet.
+    [[nodiscard]] QDate CarriesFrom(int row) const;
 
     void SetMonth(int row, int month, std::optional<qint64> cents);
     // Twelve equal months; without an amount the year has no limits of its own any more.

@@ -264,10 +264,13 @@ QString cBudgetModel::Explanation(const cLine& line, int column) const
         return m_edit.CanSetPlain(line.Row) ? cText::Tr("Gilt in jedem Monat, der kein eigenes Limit hat.")
                                             : cText::Tr("Ergibt sich aus Betrag und Intervall der Kategorie.");
     case Carry: {
-        const QDate from = m_edit.Rows().at(line.Row).Budget.CarriesFrom;
+        const QDate from = m_edit.CarriesFrom(line.Row);
+        if (!m_edit.CarriesOver(line.Row)) {
+            return cText::Tr("Was übrig bleibt, verfällt am Monatsende.");
+        }
         return from.isValid()
             ? cText::Tr("Was übrig bleibt, geht seit {0} in den nächsten Monat.", {modDayNames::MonthText(from)})
-            : cText::Tr("Was übrig bleibt, verfällt am Monatsende.");
+            : cText::Tr("Was übrig bleibt, geht in den nächsten Monat.");
     }
     case Year: return cText::Tr("Ein Betrag hier wird auf zwölf Monate verteilt.");
     default: return MonthTitle(ShownYear(), m_month) + u": "_s + Available(line.Row, m_month);

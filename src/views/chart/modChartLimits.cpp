@@ -7,6 +7,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -17,7 +18,7 @@ struct cRow
     QString Name;
     cReportNode Node;
     QList<qint64> Spent;
-    QList<qint64> Limit;
+    QList<std::optional<qint64>> Limit; // none in a step without one
 };
 
 // The categories that the report on the whole period names, with what belongs to each step. What is carried over is
@@ -33,7 +34,7 @@ QList<cRow> Rows(const modChart::cInput& input, const cLimits& limits, const mod
         for (const cReportCategory& category : group.Categories) {
             const cReportNode node{eReportKind::Expense, group.Name, category.Name};
             cRow row{category.Name.isEmpty() ? group.Label : category.Name, node, QList<qint64>(steps.Count()),
-                     QList<qint64>(steps.Count())};
+                     QList<std::optional<qint64>>(steps.Count())};
             const QString path = modBudget::KeyOf(modTemplate::Join(group.Name, category.Name));
             const QMap<QDate, qint64> months = spent.value(path);
             for (auto month = months.begin(); month != months.end(); ++month) {
@@ -42,8 +43,9 @@ QList<cRow> Rows(const modChart::cInput& input, const cLimits& limits, const mod
                 }
             }
             for (int step = 0; step < steps.Count(); ++step) {
-                row.Limit[step] =
-                    limits.Of(path, steps.RangeAt(step).Start, steps.MonthsAt(step)).value_or(cLimit()).Own;
+                if (const auto limit = limits.Of(path, steps.RangeAt(step).Start, steps.MonthsAt(step))) {
+                    row.Limit[step] = limit->Own;
+                }
             }
             rows.append(row);
         }
@@ -90,7 +92,7 @@ cChartData modChart::Limits(const cInput& input, const cLimits& limits)
         spent.IsDashed = true;
         cChartSeries limit;
         limit.Name = cText::Tr("Limit {0}", {row.Name});
-        limit.Cents = Values(row.Limit, steps.Count());
+        limit.Cents = row.Limit;
         limit.Colour = Expense;
         limit.Shape = cChartSeries::eShape::Line;
         data.Series += {spent, limit};

@@ -30,7 +30,8 @@ public:
     explicit cReconciledGuard(const cBookTools& tools);
 
     // True when no account holds something else on one of these days now, or when the user wants it so: then the
-    // account agrees up to the day before only. Else the caller takes its step back.
+    // account agrees up to the day before only. Else the caller takes its step back, with the day of an account that
+    // the user has agreed to before.
     [[nodiscard]] bool Allows();
 
 private:

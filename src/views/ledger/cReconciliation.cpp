@@ -17,7 +17,6 @@
 #include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/statement/cOpeningBalance.h"
-#include "views/statement/modImportText.h"
 
 #include <QHash>
 #include <QSet>

@@ -14,8 +14,8 @@
 #include "store/cDataAccess.h"
 #include "views/ledger/modBalanceText.h"
 #include "views/list/cListFilter.h"
+#include "views/list/modImportText.h"
 #include "views/list/modUnread.h"
-#include "views/statement/modImportText.h"
 
 #include <algorithm>
 #include <array>

@@ -13,9 +13,6 @@ namespace {
 
 bool Write(cSettings& settings, const cSettingKey& key, const QString& value)
 {
-    if (settings.Get(key) == value) {
-        return true;
-    }
     return value.isEmpty() ? settings.Delete(key) : settings.Set(key, value);
 }
 
@@ -55,10 +52,11 @@ QVariant cCategoryLooks::Shown(const QString& path) const
     return m_looks.isEmpty() ? QVariant() : QVariant::fromValue(Of(path));
 }
 
-bool cCategoryLooks::Store(cSettings& settings, const QString& main, const cCategoryLook& look)
+bool cCategoryLooks::Store(cSettings& settings, const QString& main, const cCategoryLook& look,
+                           const cCategoryLook& old)
 {
-    return Write(settings, modSettingKey::CategoryColor.Of(main), look.Color)
-        && Write(settings, modSettingKey::CategoryIcon.Of(main), look.Icon);
+    return (look.Color == old.Color || Write(settings, modSettingKey::CategoryColor.Of(main), look.Color))
+        && (look.Icon == old.Icon || Write(settings, modSettingKey::CategoryIcon.Of(main), look.Icon));
 }
 
 bool cCategoryLooks::Follow(cDataAccess& data, cSettings& settings, const QString& oldPath, const QString& newPath)
@@ -78,5 +76,5 @@ bool cCategoryLooks::Follow(cDataAccess& data, cSettings& settings, const QStrin
     }
     const bool isSameKey = oldMain.compare(newMain, Qt::CaseInsensitive) == 0;
     const bool isTaken = newMain.isEmpty() || (!isSameKey && StoredLook(settings, newMain) != cCategoryLook{});
-    return Store(settings, oldMain, {}) && (isTaken || Store(settings, newMain, look));
+    return Store(settings, oldMain, {}, look) && (isTaken || Store(settings, newMain, look));
 }

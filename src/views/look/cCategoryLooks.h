@@ -33,8 +33,10 @@ public:
     // room, so that names stay below each other.
     [[nodiscard]] QVariant Shown(const QString& path) const;
 
-    // Stores the look of a main category; what is empty is removed. False when the database refuses.
-    [[nodiscard]] static bool Store(cSettings& settings, const QString& main, const cCategoryLook& look);
+    // Stores the look of a main category that had another one; what is empty is removed, and what stays as it was is
+    // not written. False when the database refuses.
+    [[nodiscard]] static bool Store(cSettings& settings, const QString& main, const cCategoryLook& look,
+                                    const cCategoryLook& old = {});
 
     // To be called when a category has got another path or is gone: its main category's look goes along to that of
     // `newPath` once no other category has it, unless that has one of its own. An empty `newPath` drops it.

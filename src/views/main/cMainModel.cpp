@@ -227,6 +227,7 @@ void cMainModel::BookChanged()
     m_balancesOf = QDate();
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     TakeAccount();
+    m_view.TakeKnownPayer(m_tools.Settings);
     m_detour.Own(m_view).TakeKnownPayer(m_tools.Settings);
     RefreshView();
     Q_EMIT BookRefreshed();

@@ -112,8 +112,9 @@ public:
     // Copies these entries to today or to the next month, and says what came of it (RowsMade, Told).
     void Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDuplicate::eDay day);
 
-    // After these entries were changed at once: says so, and where they have gone.
-    void ManyChanged(const QList<cEntryListModel::cKey>& keys);
+    // After these entries were changed at once: says so, and where they have gone. `stored`: the same ones as they are
+    // called now.
+    void ManyChanged(const QList<cEntryListModel::cKey>& keys, const QList<cEntryListModel::cKey>& stored);
 
     // What is typed into cells of a list, and what follows once it was stored.
     [[nodiscard]] cCellEdit& Cells() { return m_cells; }

@@ -158,7 +158,6 @@ QString cMainModel::MenuText(int command) const
 void cMainModel::StepThrough(bool (cJournal::*step)(), const QString& told)
 {
     if ((m_tools.Data.Journal().*step)()) {
-        m_tools.Settings.Reload(); // account numbers of the bank may have been part of it
         SetSelection({});
         BookChanged();
         Q_EMIT StagedRowsReleased();
@@ -204,17 +203,21 @@ void cMainModel::Duplicate(const QList<cEntryListModel::cKey>& keys, cEntryDupli
         return;
     }
     BookChanged();
+    (void)ReadList();
     Q_EMIT RowsMade(made);
     const bool isShown = m_entries.IndexesOf(made).size() == made.size();
     Q_EMIT Told(isShown ? flow.Text() : flow.Text() + u' ' + HiddenText());
 }
 
-void cMainModel::ManyChanged(const QList<cEntryListModel::cKey>& keys)
+void cMainModel::ManyChanged(const QList<cEntryListModel::cKey>& keys, const QList<cEntryListModel::cKey>& stored)
 {
     const qsizetype before = m_entries.IndexesOf(keys).size();
     BookChanged();
+    if (stored != keys) {
+        Q_EMIT RowsMade(stored);
+    }
     const QString done = m_tools.Data.Journal().UndoName() + u'.';
-    Q_EMIT Told(m_entries.IndexesOf(keys).size() >= before ? done : done + u' ' + HiddenText());
+    Q_EMIT Told(m_entries.IndexesOf(stored).size() >= before ? done : done + u' ' + HiddenText());
 }
 
 void cMainModel::CellWritten()

@@ -142,12 +142,8 @@ bool cStatementPapers::Store(const QStringList& names, const QString& step) cons
 {
     const cSettingKey key = modSettingKey::StatementPapers.Of(m_number);
     cUndoStep undo(m_tools.Data, step);
-    if (!undo.DoneIf(names.isEmpty() ? m_tools.Settings.Delete(key)
-                                     : m_tools.Settings.Set(key, modReceiptName::Write(names)))) {
-        m_tools.Settings.Reload();
-        return false;
-    }
-    return true;
+    return undo.DoneIf(names.isEmpty() ? m_tools.Settings.Delete(key)
+                                       : m_tools.Settings.Set(key, modReceiptName::Write(names)));
 }
 
 bool cStatementPapers::Add(const QList<cReceiptSource>& sources)

@@ -9,9 +9,9 @@
 #include "store/cDataAccess.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/list/modBookNames.h"
+#include "views/list/modImportText.h"
 #include "views/rule/cRuleTrial.h"
 #include "views/rule/modRuleText.h"
-#include "views/statement/modImportText.h"
 
 cRuleEditor::cRuleEditor(const cBookTools& tools, QObject* parent)
     : QObject(parent),

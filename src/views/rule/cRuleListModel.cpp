@@ -45,7 +45,6 @@ bool cRuleListModel::Store(const QList<cOwnRule>& rules, const QString& step)
     {
         cUndoStep undo(m_tools.Data, step);
         if (!undo.DoneIf(m_works->Stored.Save(rules))) {
-            m_tools.Settings.Reload();
             return false;
         }
     }

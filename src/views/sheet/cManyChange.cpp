@@ -258,6 +258,9 @@ cManyChange::eSaved cManyChange::AskAndSave(const cManyFields& fields, const QSt
     if (std::any_of(changed.begin(), changed.end(), IsSeries)) {
         text += u"\n\n"_s + cText::Tr("Bei Serien ändern sich alle Vorkommen, vergangene wie zukünftige.");
     }
+    if (m_startBalances > 0) {
+        text += u"\n\n"_s + cText::Tr("Startguthaben bleiben, wie sie sind.");
+    }
     const eAnswer answer = m_tools.User.Ask({.Text = text, .Title = cText::Tr("Einträge ändern")});
     return answer == eAnswer::Yes ? Store(changed) : eSaved::Refused;
 }

@@ -11,7 +11,8 @@ bool cRowDrop::OnAccount(const QList<cEntryListModel::cKey>& rows, const QString
         && cManyChange(m_tools, rows).AskAndSave({.Account = account}, shown) == cManyChange::eSaved::Saved;
 }
 
-bool cRowDrop::OnCategory(const QList<cEntryListModel::cKey>& rows, const QString& category) const
+QList<cEntryListModel::cKey> cRowDrop::OnCategory(const QList<cEntryListModel::cKey>& rows,
+                                                  const QString& category) const
 {
     QList<cEntryListModel::cKey> others;
     for (const cEntryListModel::cKey& row : rows) {
@@ -21,12 +22,20 @@ bool cRowDrop::OnCategory(const QList<cEntryListModel::cKey>& rows, const QStrin
         }
     }
     if (others.isEmpty() || m_tools.Data.IsReadOnly()) {
-        return false;
+        return {};
     }
     if (others.size() > 1) {
-        return cManyChange(m_tools, others).AskAndSave({.Category = category}) == cManyChange::eSaved::Saved;
+        const bool isSaved =
+            cManyChange(m_tools, others).AskAndSave({.Category = category}) == cManyChange::eSaved::Saved;
+        return isSaved ? rows : QList<cEntryListModel::cKey>();
     }
     cCellEdit cell(m_tools);
-    return cell.Start(others.constFirst(), cEntryListModel::Category)
+    const bool isSaved = cell.Start(others.constFirst(), cEntryListModel::Category)
         && cell.Save(others.constFirst(), cEntryListModel::Category, category) == cCellEdit::eSaved::Saved;
+    if (!isSaved) {
+        return {};
+    }
+    QList<cEntryListModel::cKey> stored = rows;
+    stored[rows.indexOf(others.constFirst())] = cell.SavedKey();
+    return stored;
 }

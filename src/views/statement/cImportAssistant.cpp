@@ -20,10 +20,10 @@
 #include "model/modCutText.h"
 #include "store/cDataAccess.h"
 #include "views/list/modFileWrite.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cLayoutTaken.h"
 #include "views/statement/modColumnMeaning.h"
 #include "views/statement/modImportPreview.h"
-#include "views/statement/modImportText.h"
 #include "views/statement/modTableField.h"
 
 #include <QFileInfo>

@@ -15,6 +15,7 @@
 #include "store/cUndoStep.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/list/modImportText.h"
 #include "views/rule/cRuleEditor.h"
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
@@ -23,7 +24,6 @@
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cSeriesCheck.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <QMap>
@@ -184,9 +184,6 @@ bool cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlan
     outcome.IsDone = step.Done() && outcome.IsDone;
     if (outcome.Lines.isEmpty()) {
         return outcome.IsDone;
-    }
-    if (outcome.IsRefused) {
-        m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
     }
     m_summary = outcome.Lines;
     if (outcome.IsDone) {
@@ -475,9 +472,6 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
 {
     if (outcome.Lines.isEmpty()) {
         return;
-    }
-    if (!outcome.IsDone) {
-        m_tools.Settings.Reload(); // an account chosen just before may have been taken back with the rest
     }
     m_summary = outcome.Lines;
     Refresh();

@@ -91,9 +91,5 @@ bool cLesson::Teach(const cImportEntry& row, const QString& category)
     const int before = cRuleMatcher(rules).Find(cRuleRow(row, accounts.AccountOf(row.ImportAccount)));
     rules.insert(before < 0 ? rules.size() : before, rule);
     cUndoStep step(m_tools.Data, cText::Tr("Regel angelegt"));
-    if (!step.DoneIf(stored.Save(rules))) {
-        m_tools.Settings.Reload();
-        return false;
-    }
-    return true;
+    return step.DoneIf(stored.Save(rules));
 }

@@ -12,8 +12,8 @@
 #include "model/modRecurrence.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cRowProposals.h"
-#include "views/statement/modImportText.h"
 
 #include <QHash>
 #include <QSet>

@@ -7,9 +7,9 @@
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
 #include "store/cUndoStep.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cRowProposals.h"
-#include "views/statement/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <algorithm>

@@ -8,8 +8,8 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntrySuggestions.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cImportRuns.h"
-#include "views/statement/modImportText.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include "model/modCutText.h"
 #include "model/modWord.h"
 #include "views/list/modEntryOrder.h"
-#include "views/statement/modImportText.h"
+#include "views/list/modImportText.h"
 
 #include <algorithm>
 #include <array>

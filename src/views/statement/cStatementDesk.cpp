@@ -20,6 +20,7 @@
 #include "import/table/modTable.h"
 #include "import/table/modTableProfile.h"
 #include "views/list/modFileWrite.h"
+#include "views/list/modImportText.h"
 #include "views/rule/cRuleTrial.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
@@ -31,7 +32,6 @@
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cSeriesCheck.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/statement/modImportText.h"
 #include "views/statement/modTableOption.h"
 
 #include <QFileInfo>

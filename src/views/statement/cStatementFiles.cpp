@@ -17,9 +17,9 @@
 #include "import/table/cTableMemory.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/modImportPreview.h"
-#include "views/statement/modImportText.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>

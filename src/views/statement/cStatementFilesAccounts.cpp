@@ -4,9 +4,9 @@
 #include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
 #include "store/cDataAccess.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cOpeningBalance.h"
 #include "views/statement/cStatementFiles.h"
-#include "views/statement/modImportText.h"
 
 #include <utility>
 

@@ -94,11 +94,7 @@ bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& ol
     const bool isWritten = m_tools.Data.ChangeTemplate(account)
         && cNameKeepers(m_tools.Data, m_tools.Settings).RenameAccount(oldName, account.TemplateName)
         && (!withEntries || MoveEntries(oldName, account.TemplateName));
-    if (step.DoneIf(isWritten)) {
-        return true;
-    }
-    m_tools.Settings.Reload();
-    return false;
+    return step.DoneIf(isWritten);
 }
 
 bool cTemplateFlow::MoveEntries(const QString& oldName, const QString& newName)

@@ -51,14 +51,6 @@ bool cTemplateRemoval::Ask(const QString& text, const QString& title)
     return m_tools.User.Ask({.Text = text, .Title = title, .Default = eAnswer::No}) == eAnswer::Yes;
 }
 
-bool cTemplateRemoval::Finish(bool isWritten)
-{
-    if (!isWritten) {
-        m_tools.Settings.Reload();
-    }
-    return isWritten;
-}
-
 QString cTemplateRemoval::Choose(const QString& text, const QString& title, const QStringList& items)
 {
     if (items.isEmpty()) {
@@ -203,7 +195,7 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
             return m_tools.Data.ChangeEntryCategory(target, path)
                 && cOwnRules(m_tools.Settings).RenameCategory(path, target);
         });
-    return Finish(step.DoneIf(isDeleted && isMoved));
+    return step.DoneIf(isDeleted && isMoved);
 }
 
 bool cTemplateRemoval::AskMergeCategory(const QString& sourcePath)
@@ -239,8 +231,8 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' mit '{1}' zusammengeführt", {shown, targetPath}));
     const bool isDeleted = std::all_of(sources.begin(), sources.end(),
                                        [&](const cTemplateItem& item) { return DeleteWithSettings(item, targetPath); });
-    return Finish(step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
-                              && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath)));
+    return step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
+                       && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath));
 }
 
 bool cTemplateRemoval::AskMergeMain(const QString& source)
@@ -275,7 +267,7 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
                        })
         && cOwnRules(m_tools.Settings).RenameMain(source, into)
         && cCategoryLooks::Follow(m_tools.Data, m_tools.Settings, source, into);
-    return Finish(step.DoneIf(isWritten));
+    return step.DoneIf(isWritten);
 }
 
 bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& target)
@@ -335,7 +327,7 @@ bool cTemplateRemoval::RemoveAccount(const cTemplateItem& account, const QString
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' gelöscht", {name}));
     const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).ReleaseAll(name) && DropShares(name)
         && (target.isEmpty() || MoveAccountEntries(name, target)) && m_tools.Data.DeleteTemplate(account.ID);
-    return Finish(step.DoneIf(isWritten));
+    return step.DoneIf(isWritten);
 }
 
 // Who had what part in an account that goes; the other one keeps its own.
@@ -390,5 +382,5 @@ bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target
     cUndoStep step(m_tools.Data, cText::Tr("Konto '{0}' mit '{1}' zusammengeführt", {source, target}));
     const bool isWritten = cBankNumbers(m_tools.Data, m_tools.Settings).Move(source, target) && DropShares(source)
         && MoveAccountEntries(source, target) && (!account || m_tools.Data.DeleteTemplate(account->ID));
-    return Finish(step.DoneIf(isWritten));
+    return step.DoneIf(isWritten);
 }

@@ -64,7 +64,6 @@ private:
     [[nodiscard]] QString Choose(const QString& text, const QString& title, const QStringList& items);
     [[nodiscard]] bool Ask(const QString& text, const QString& title);
     bool Refuse(const QString& text);
-    bool Finish(bool isWritten); // the settings in memory follow a step that was taken back
 
     const cBookTools& m_tools;
 };

@@ -126,11 +126,7 @@ bool cTemplateWriter::Refuse(const QString& text)
 bool cTemplateWriter::Step(const QString& name, const fnWrite& write)
 {
     cUndoStep step(m_tools.Data, name);
-    if (step.DoneIf(write())) {
-        return true;
-    }
-    m_tools.Settings.Reload();
-    return false;
+    return step.DoneIf(write());
 }
 
 std::optional<cTemplateFields> cTemplateWriter::Load(const cTemplateNode& node, QDate today) const
@@ -284,7 +280,7 @@ bool cTemplateWriter::WriteMain(const cTemplateNode& node, const QString& main, 
                                 const cTemplateFields& fields)
 {
     return WriteOwn(node, main, fields) && (fields.IsVisible == old.IsVisible || WriteVisible(main, fields.IsVisible))
-        && (fields.Look == old.Look || cCategoryLooks::Store(m_tools.Settings, main, fields.Look));
+        && (fields.Look == old.Look || cCategoryLooks::Store(m_tools.Settings, main, fields.Look, old.Look));
 }
 
 // The definition of the main category itself comes and goes with its being bookable.

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -15,7 +16,7 @@ constexpr double aspect = 1.9;      // of a panel that is good to look at
 constexpr double columnShare = 0.7; // of the room of a label
 constexpr double lineWidth = 2.0;
 
-// Spent and limit are one pair after the other.
+// Spent and limit are one pair after the other; a step without a limit has no value there.
 int CountPanels(const cChartScene& scene)
 {
     return scene.SeriesCount() / 2;
@@ -68,9 +69,8 @@ int CountOver(const cChartScene& scene, int series)
 {
     int over = 0;
     for (int index = 0; index < scene.LabelCount(); ++index) {
-        over += scene.Data.Series[series].At(index).value_or(0) > scene.Data.Series[series + 1].At(index).value_or(0)
-            ? 1
-            : 0;
+        const std::optional<qint64> limit = scene.Data.Series[series + 1].At(index);
+        over += limit && scene.Data.Series[series].At(index).value_or(0) > *limit ? 1 : 0;
     }
     return over;
 }
@@ -103,7 +103,8 @@ void PaintTitle(QPainter& painter, const cChartScene& scene, const cChartLayout:
     painter.setPen(scene.Text());
     painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, name);
     const int shown = scene.Data.Today >= 0 ? scene.Data.Today : scene.LabelCount() - 1;
-    const QString limit = scene.Data.AxisText(scene.Data.Series[panel.Series + 1].At(shown).value_or(0));
+    const std::optional<qint64> cents = scene.Data.Series[panel.Series + 1].At(shown);
+    const QString limit = cents ? scene.Data.AxisText(*cents) : QString();
     const QRectF rest = room.adjusted(metrics.horizontalAdvance(name) + scene.Em() * 0.6, 0, 0, 0);
     if (scene.Metrics.horizontalAdvance(limit) <= rest.width()) {
         painter.setFont(scene.Style.Font);
@@ -130,7 +131,8 @@ void PaintLabels(QPainter& painter, const cChartScene& scene, const cChartLayout
 }
 
 // What is above the limit is set off by another colour and by a gap, which can be told apart without colours.
-void PaintColumn(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit, double limit)
+void PaintColumn(QPainter& painter, const cChartScene& scene, const cChartLayout::cHit& hit,
+                 std::optional<double> limit)
 {
     if (scene.Data.Series[hit.Part.Series].At(hit.Part.Index).value_or(0) == 0) {
         return;
@@ -141,30 +143,38 @@ void PaintColumn(QPainter& painter, const cChartScene& scene, const cChartLayout
         colour = modChartColour::Pale(colour, scene.Style.Palette);
         over = modChartColour::Pale(over, scene.Style.Palette);
     }
-    if (hit.Box.top() >= limit) {
+    if (!limit || hit.Box.top() >= *limit) {
         painter.fillRect(hit.Box, colour);
         return;
     }
-    painter.fillRect(QRectF(QPointF(hit.Box.left(), limit), hit.Box.bottomRight()), colour);
-    painter.fillRect(QRectF(hit.Box.topLeft(), QPointF(hit.Box.right(), limit - lineWidth)), over);
+    painter.fillRect(QRectF(QPointF(hit.Box.left(), *limit), hit.Box.bottomRight()), colour);
+    painter.fillRect(QRectF(hit.Box.topLeft(), QPointF(hit.Box.right(), *limit - lineWidth)), over);
 }
 
 void PaintPanel(QPainter& painter, const cChartScene& scene, const cChartLayout& layout,
                 const cChartLayout::cPanel& panel)
 {
-    const std::vector<QPointF>& limits = layout.Points[static_cast<std::size_t>(panel.Series) + 1];
+    const auto limitAt = [&](int index) {
+        const bool isThere = scene.Data.Series[panel.Series + 1].At(index).has_value();
+        const QPointF& point =
+            layout.Points[static_cast<std::size_t>(panel.Series) + 1][static_cast<std::size_t>(index)];
+        return isThere ? std::optional(point) : std::nullopt;
+    };
     const double zero = panel.Axis.Y(0, panel.Plot);
     painter.setPen(QPen(modChartColour::Mixed(modChartColour::Grid(scene.Style.Palette), scene.Text(), 0.45), 1));
     painter.drawLine(QPointF(panel.Plot.left(), zero), QPointF(panel.Plot.right(), zero));
     for (const cChartLayout::cHit& hit : layout.Hits) {
         if (hit.Part.Series == panel.Series) {
-            PaintColumn(painter, scene, hit, limits[static_cast<std::size_t>(hit.Part.Index)].y());
+            const std::optional<QPointF> limit = limitAt(hit.Part.Index);
+            PaintColumn(painter, scene, hit, limit ? std::optional(limit->y()) : std::nullopt);
         }
     }
     const double half = panel.Plot.width() / std::max(1, scene.LabelCount()) / 2;
     painter.setPen(QPen(scene.Text(), lineWidth));
-    for (const QPointF& point : limits) {
-        painter.drawLine(QPointF(point.x() - half, point.y()), QPointF(point.x() + half, point.y()));
+    for (int index = 0; index < scene.LabelCount(); ++index) {
+        if (const std::optional<QPointF> limit = limitAt(index)) {
+            painter.drawLine(QPointF(limit->x() - half, limit->y()), QPointF(limit->x() + half, limit->y()));
+        }
     }
     PaintTitle(painter, scene, panel);
     PaintLabels(painter, scene, panel);

@@ -8,8 +8,13 @@
 #include <QBoxLayout>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QPushButton>
 
-cLookBox::cLookBox(QWidget* parent) : QWidget(parent), m_color(new QComboBox(this)), m_icon(new QComboBox(this))
+cLookBox::cLookBox(QWidget* parent)
+    : QWidget(parent),
+      m_color(new QComboBox(this)),
+      m_icon(new QComboBox(this)),
+      m_ownColor(new QPushButton(cText::Tr("Eigene F&arbe …"), this))
 {
     m_color->setAccessibleName(cText::Tr("Farbe"));
     m_icon->setAccessibleName(cText::Tr("Symbol"));
@@ -25,16 +30,13 @@ cLookBox::cLookBox(QWidget* parent) : QWidget(parent), m_color(new QComboBox(thi
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_color);
     layout->addWidget(m_icon);
+    layout->addWidget(m_ownColor);
+    m_ownColor->setAutoDefault(false);
     setFocusProxy(m_color);
     FillColors();
     FillIcons();
-    connect(m_color, &QComboBox::activated, this, [this](int index) {
-        if (index == m_color->count() - 1) {
-            AskColor();
-        }
-        m_shownColor = Look().Color;
-        FillIcons();
-    });
+    connect(m_color, &QComboBox::activated, this, &cLookBox::FillIcons);
+    connect(m_ownColor, &QPushButton::clicked, this, &cLookBox::AskColor);
     for (const QComboBox* box : {m_color, m_icon}) {
         connect(box, &QComboBox::currentIndexChanged, this, &cLookBox::Changed);
     }
@@ -48,7 +50,6 @@ void cLookBox::FillColors()
     for (const modCategoryColor::cOffer& offer : offers) {
         m_color->addItem(modLook::Icon({.Color = offer.Stored}), offer.Name, offer.Stored);
     }
-    m_color->addItem(cText::Tr("Eigene Farbe …"), QString());
 }
 
 // The pictures in the chosen colour.
@@ -56,41 +57,43 @@ void cLookBox::FillIcons()
 {
     const QSignalBlocker quiet(m_icon); // the choice stays
     const int chosen = std::max(0, m_icon->currentIndex());
+    const QString color = Look().Color;
     m_icon->clear();
     m_icon->addItem(cText::Tr("kein Symbol"), QString());
     const QList<modCategoryIcon::cOffer> offers = modCategoryIcon::Offers();
     for (const modCategoryIcon::cOffer& offer : offers) {
-        m_icon->addItem(modLook::Icon({m_shownColor, offer.Stored}), offer.Name, offer.Stored);
+        m_icon->addItem(modLook::Icon({color, offer.Stored}), offer.Name, offer.Stored);
     }
     m_icon->setCurrentIndex(chosen);
 }
 
 cCategoryLook cLookBox::Look() const
 {
-    const bool isAsking = m_color->currentIndex() == m_color->count() - 1;
-    return {isAsking ? m_shownColor : m_color->currentData().toString(), m_icon->currentData().toString()};
+    return {m_color->currentData().toString(), m_icon->currentData().toString()};
 }
 
 void cLookBox::SetLook(const cCategoryLook& look)
 {
     FillColors();
     ChooseColor(look.Color);
-    m_shownColor = look.Color;
-    FillIcons();
     m_icon->setCurrentIndex(std::max(0, m_icon->findData(look.Icon)));
 }
 
 void cLookBox::ChooseColor(const QString& stored)
 {
     if (m_color->findData(stored) < 0) {
-        m_color->insertItem(m_color->count() - 1, modLook::Icon({.Color = stored}), stored, stored);
+        m_color->addItem(modLook::Icon({.Color = stored}), stored, stored);
     }
     m_color->setCurrentIndex(m_color->findData(stored));
+    FillIcons();
 }
 
 void cLookBox::AskColor()
 {
-    const QColor start = m_shownColor.isEmpty() ? QColor(Qt::gray) : QColor(m_shownColor);
+    const QString shown = Look().Color;
+    const QColor start = shown.isEmpty() ? QColor(Qt::gray) : QColor(shown);
     const QColor chosen = QColorDialog::getColor(start, this, cText::Tr("Farbe der Hauptkategorie"));
-    ChooseColor(chosen.isValid() ? chosen.name() : m_shownColor);
+    if (chosen.isValid()) {
+        ChooseColor(chosen.name());
+    }
 }

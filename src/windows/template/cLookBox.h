@@ -5,9 +5,10 @@
 #include <QWidget>
 
 class QComboBox;
+class QPushButton;
 
-// Colour and picture of a main category, chosen from two lists beside each other; the last line of the colours asks for
-// one of the user's own.
+// Colour and picture of a main category, chosen from two lists beside each other; a button asks for a colour of the
+// user's own.
 class cLookBox final : public QWidget
 {
     Q_OBJECT
@@ -29,5 +30,5 @@ private:
 
     QComboBox* m_color;
     QComboBox* m_icon;
-    QString m_shownColor; // what is chosen while the user is asked for another one
+    QPushButton* m_ownColor;
 };

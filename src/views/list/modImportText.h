@@ -14,7 +14,8 @@ struct cMatchCandidate;
 struct cReadProblem;
 struct cTableDoubt;
 
-// What the page of bank statements says, in words.
+// Rows of a bank, and what came of reading and booking them, in words: for the page of bank statements, the rules and
+// the account statement.
 namespace modImportText {
 
 // "ein Umsatz", "3 Umsätze"

@@ -1,4 +1,4 @@
-#include "views/statement/modImportText.h"
+#include "views/list/modImportText.h"
 
 #include "base/cText.h"
 #include "base/modCount.h"
