@@ -10,6 +10,7 @@
 #include "views/ledger/cStatementListModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
+#include "views/statement/cImportReview.h"
 #include "windows/help/frmHandbuch.h"
 #include "windows/look/modTone.h"
 #include "windows/main/frmMain.h"
@@ -141,8 +142,12 @@ private Q_SLOTS:
             if (isFirst) {
                 model.TypeFilter(u"miete"_s);
                 model.ChooseGrouping(u"Nach Monat"_s);
-                machine.User.Choices = {u"Wohnen"_s};
+                machine.User.Choices = {u"Wohnen"_s, u"Läden"_s};
                 model.Execute(modCommand::SaveView);
+                program.Window().ShowPage(frmMain::ePage::Statements); // which keeps its own
+                program.Review().View().SetFilter(u"rewe"_s);
+                model.Execute(modCommand::SaveView);
+                program.Review().View().SetFilter({});
             }
             model.TypeFilter({});
             model.ChooseGrouping(modWord::KeineGruppierung);
@@ -151,6 +156,10 @@ private Q_SLOTS:
             QTest::keyClick(&program.Window(), Qt::Key_1, Qt::ControlModifier);
             QCOMPARE(model.View().Filter, u"miete"_s);
             QCOMPARE(model.View().Grouping, u"Nach Monat"_s);
+            QCOMPARE(program.Window().Page(), frmMain::ePage::Entries);
+            QTest::keyClick(&program.Window(), Qt::Key_2, Qt::ControlModifier);
+            QCOMPARE(program.Window().Page(), frmMain::ePage::Statements);
+            QCOMPARE(program.Review().View().Filter(), u"rewe"_s);
             program.Window().close();
         }
     }

@@ -435,7 +435,7 @@ private Q_SLOTS:
         QVERIFY(view.GroupCategory(rows.index(0, 0)).isEmpty());
         view.SetFilter({});
         view.SaveLayout({});
-        view.ShowKept(view.KeptNames().indexOf(u"Nach | Kategorie"_s));
+        view.ShowKept(static_cast<int>(view.KeptNames().indexOf(u"Nach | Kategorie"_s)));
         QCOMPARE(view.Grouping(), byCategory);
         QCOMPARE(view.Filter(), u"a|b"_s);
         QCOMPARE(view.Layout(), u"0,10,1|s"_s);

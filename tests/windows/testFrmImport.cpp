@@ -4,12 +4,14 @@
 #include "views/statement/cImportReview.h"
 #include "windows/statement/cStagedTree.h"
 #include "windows/statement/frmImport.h"
+#include "windows/statement/frmImportReview.h"
 #include "windows/widget/cProgressBox.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
@@ -89,6 +91,23 @@ private Q_SLOTS:
         QTest::keyClick(&scene.Tree, Qt::Key_Delete);
         QCOMPARE(scene.Review.Rows().rowCount(), 4);
         QCOMPARE(scene.Tree.SelectedIds().size(), 1); // the next row takes its place
+    }
+
+    // Also in the window of one import, which the menu of the main window does not reach.
+    void KeptViewHasAKey()
+    {
+        cScene scene;
+        scene.Book.User.Choices = {u"Nur Rewe"_s};
+        scene.Review.View().SetFilter(u"rewe"_s);
+        QVERIFY(scene.Review.View().Keep());
+        const std::unique_ptr<cImportReview> one = scene.Review.StartImportReview();
+        frmImportReview window(*one);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(window.findChild<cStagedTree*>(), Qt::Key_1, Qt::ControlModifier);
+        QCOMPARE(one->View().Filter(), u"rewe"_s);
+        QCOMPARE(window.findChild<QLineEdit*>()->text(), u"rewe"_s);
     }
 
     void TypingPartOfACategoryFindsIt()
