@@ -54,6 +54,9 @@ void modNamelessRows::UseIn(cStatementRead& read, cStaging& staging)
             ++groups[KeyOf(row)].Free;
         }
     }
+    if (groups.empty()) {
+        return;
+    }
     for (const cImportEntry& row : std::as_const(read.Entries)) {
         if (const auto group = groups.find(KeyOf(row)); group != groups.end() && IsNameless(row)) {
             --group->second.Free; // the file names nobody in this one, then as now
