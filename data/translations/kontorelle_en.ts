@@ -4171,10 +4171,6 @@ Possible endings: .png, .svg, .csv.</translation>
         <translation>{0} selected, {1} of them open, total {2}</translation>
     </message>
     <message>
-        <source>{0}  →  gebucht unter {1}, {2}</source>
-        <translation>{0}  →  booked under {1}, {2}</translation>
-    </message>
-    <message>
         <source>{0}  →  {1}, {2}: {4}</source>
         <translation>{0}  →  {1}, {2}: {4}</translation>
     </message>
@@ -7860,18 +7856,6 @@ Change it all the same?</translation>
         <translation>The layout could not be stored.</translation>
     </message>
     <message>
-        <source>Laut Kontoauszug hatte das Konto &apos;{0}&apos; am {1} einen Stand von {2}; im Buch sind es {3}.</source>
-        <translation>According to the statement the account &apos;{0}&apos; held {2} on {1}; in the book it is {3}.</translation>
-    </message>
-    <message>
-        <source>Soll das Startguthaben von {6} auf {4} geändert werden, damit das Buch mit der Bank übereinstimmt?</source>
-        <translation>Shall the opening balance be changed from {6} to {4}, so that the book agrees with the bank?</translation>
-    </message>
-    <message>
-        <source>Soll {4} als Startguthaben vom {5} eingetragen werden, damit das Buch mit der Bank übereinstimmt?</source>
-        <translation>Shall {4} be entered as opening balance of {5}, so that the book agrees with the bank?</translation>
-    </message>
-    <message>
         <source>Startguthaben von &apos;{0}&apos;: {1} am {2}, laut Kontoauszug.</source>
         <translation>Opening balance of &apos;{0}&apos;: {1} on {2}, according to the statement.</translation>
     </message>
@@ -8904,14 +8888,6 @@ Only the number of your version is sent, and nothing is downloaded without you. 
         <translation>The bank no longer books {0} series.</translation>
     </message>
     <message>
-        <source>Als Startguthaben des Kontos &apos;{0}&apos; ist der Stand vom {1} eingetragen ({2}). Die Umsätze der Bank beginnen früher.
-
-Soll das Startguthaben auf den {3} zurückgerechnet werden ({4})? Dann bleibt der Stand vom {1}, wie er ist.</source>
-        <translation>The start balance of account &apos;{0}&apos; is that of {1} ({2}). The bank&apos;s transactions begin earlier.
-
-Shall the start balance be counted back to {3} ({4})? The balance of {1} then stays as it is.</translation>
-    </message>
-    <message>
         <source>Startguthaben von &apos;{0}&apos;: {1} am {2}, zurückgerechnet.</source>
         <translation>Start balance of &apos;{0}&apos;: {1} on {2}, counted back.</translation>
     </message>
@@ -9314,10 +9290,6 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
         <translation>budget {0}, spent {1}, left {2}</translation>
     </message>
     <message>
-        <source>Nur Kategorien mit einem Limit zählen mit.</source>
-        <translation>Only categories with a limit count.</translation>
-    </message>
-    <message>
         <source>Gilt in jedem Monat, der kein eigenes Limit hat.</source>
         <translation>Holds in every month that has no limit of its own.</translation>
     </message>
@@ -9564,10 +9536,6 @@ Shall the start balance be counted back to {3} ({4})? The balance of {1} then st
     <message>
         <source>Ansicht &amp;merken…</source>
         <translation>&amp;Keep view…</translation>
-    </message>
-    <message>
-        <source>Merkt Zeitraum, Konto, Art, Filter, Gruppierung und Spalten unter einem Namen.</source>
-        <translation>Keeps period, account, kind, filter, grouping and columns under a name.</translation>
     </message>
     <message>
         <source>&amp;Meine Ansichten</source>
@@ -10750,10 +10718,6 @@ A click shows more.</translation>
         <translation>no colour</translation>
     </message>
     <message>
-        <source>Eigene Farbe …</source>
-        <translation>Own colour …</translation>
-    </message>
-    <message>
         <source>kein Symbol</source>
         <translation>no icon</translation>
     </message>
@@ -10768,6 +10732,158 @@ A click shows more.</translation>
     <message>
         <source>Bargeld, vor dem Startguthaben von {0}</source>
         <translation>Cash, before the start balance of {0}</translation>
+    </message>
+    <message>
+        <source>Bitte nennen Sie ein Konto oder &quot;Gemeinsames&quot;.</source>
+        <translation>Please name an account or &quot;Gemeinsames&quot;.</translation>
+    </message>
+    <message>
+        <source>Diese Kontonummer kennt das Buch nicht: {0}</source>
+        <translation>The book does not know this account number: {0}</translation>
+    </message>
+    <message>
+        <source>Was übrig bleibt, geht in den nächsten Monat.</source>
+        <translation>What is left goes on to the next month.</translation>
+    </message>
+    <message>
+        <source>In den Summen zählen nur Kategorien mit einem Limit mit.</source>
+        <translation>Only categories with a limit count in the sums.</translation>
+    </message>
+    <message>
+        <source>Der Eintrag steht unter &apos;Allgemein&apos;, weil keine Kategorie bekannt ist.</source>
+        <translation>The entry stands under &apos;Allgemein&apos;, because no category is known.</translation>
+    </message>
+    <message>
+        <source>{0} davon unter &apos;Allgemein&apos;, weil keine Kategorie bekannt ist.</source>
+        <translation>{0} of them under &apos;Allgemein&apos;, because no category is known.</translation>
+    </message>
+    <message>
+        <source>Umsätze ohne Kategorie</source>
+        <translation>Transactions without category</translation>
+    </message>
+    <message>
+        <source>Alle Umsätze</source>
+        <translation>All transactions</translation>
+    </message>
+    <message>
+        <source>Merkt Zeitraum, Konto, Art, Filter, Gruppierung und Spalten unter einem Namen; auf der Seite „Kontoauszüge“, was dort gewählt ist.</source>
+        <translation>Keeps period, account, kind, filter, grouping and columns under a name; on the page “Statements” what is chosen there.</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; braucht einen Namen. Löschen können Sie es unter „Kategorien und Konten“.</source>
+        <translation>The account &apos;{0}&apos; needs a name. You can delete it under “Categories and accounts”.</translation>
+    </message>
+    <message>
+        <source>Ein Konto &apos;{0}&apos; gibt es schon. Bitte wählen Sie einen anderen Namen.</source>
+        <translation>There is an account &apos;{0}&apos; already. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>Die Person &apos;{0}&apos; gibt es nicht.</source>
+        <translation>There is no person &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Am {1} sind laut Ihrem Buch {2} auf dem Konto &apos;{0}&apos;. Soll das so bleiben?</source>
+        <translation>According to your book there is {2} in the account &apos;{0}&apos; on {1}. Shall it stay so?</translation>
+    </message>
+    <message>
+        <source>Die Umsätze der Bank beginnen früher. Das Startguthaben wird dazu auf den {4} zurückgerechnet: {3}.</source>
+        <translation>The bank&apos;s transactions begin earlier. For this, the opening balance is counted back to {4}: {3}.</translation>
+    </message>
+    <message>
+        <source>Am {1} waren laut Kontoauszug {2} auf dem Konto &apos;{0}&apos;. Soll Ihr Buch dasselbe sagen, sobald die Umsätze gebucht sind?</source>
+        <translation>According to the statement there was {2} in the account &apos;{0}&apos; on {1}. Shall your book say the same once the transactions are booked?</translation>
+    </message>
+    <message>
+        <source>Dazu wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.</source>
+        <translation>For this, the opening balance is changed from {5} to {3}: that is what was there before the first transaction.</translation>
+    </message>
+    <message>
+        <source>Dazu werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.</source>
+        <translation>For this, {3} is entered as opening balance of {4}: that is what was there before the first transaction.</translation>
+    </message>
+    <message>
+        <source>Alles gebucht</source>
+        <translation>All booked</translation>
+    </message>
+    <message>
+        <source>Alle &amp;Vorschläge annehmen ({0})</source>
+        <translation>Acce&amp;pt all suggestions ({0})</translation>
+    </message>
+    <message>
+        <source>{0} markiert, davon {1} offen, Summe {2}. Die Eingabetaste bucht sie.</source>
+        <translation>{0} selected, {1} of them open, sum {2}. Enter books them.</translation>
+    </message>
+    <message>
+        <source>{0}  →  gebucht unter {1}, {3}</source>
+        <translation type="unfinished">{0}  →  booked under {1}, {2} {0}?} {1}?} {3}?}</translation>
+    </message>
+    <message>
+        <source>Bitte ansehen: Kategorie tippen, die Eingabetaste bucht.  {0}  →  {1}, {2}: {4}</source>
+        <translation>Please check: type a category, Enter books.  {0}  →  {1}, {2}: {4}</translation>
+    </message>
+    <message>
+        <source>{0} ohne bekannte Kategorie, also unter &apos;Allgemein&apos;</source>
+        <translation>{0} without a known category, so under &apos;Allgemein&apos;</translation>
+    </message>
+    <message>
+        <source>{0} vielleicht unter &apos;{1}&apos;</source>
+        <translation>{0} perhaps under &apos;{1}&apos;</translation>
+    </message>
+    <message>
+        <source>&amp;Alle {0} buchen</source>
+        <translation>Book &amp;all {0}</translation>
+    </message>
+    <message>
+        <source>Keiner der {1} Umsätze hat einen sicheren Vorschlag:
+{2}
+Was soll geschehen?</source>
+        <translation>None of the {1} transactions has a sure suggestion:
+{2}
+What shall be done?</translation>
+    </message>
+    <message>
+        <source>&amp;Einzeln ansehen</source>
+        <translation>Look at them &amp;one by one</translation>
+    </message>
+    <message>
+        <source>Einer der Umsätze hat keinen sicheren Vorschlag:
+{2}
+Was soll geschehen?</source>
+        <translation>One of the transactions has no sure suggestion:
+{2}
+What shall be done?</translation>
+    </message>
+    <message>
+        <source>{1} der Umsätze haben keinen sicheren Vorschlag:
+{2}
+Was soll geschehen?</source>
+        <translation>{1} of the transactions have no sure suggestion:
+{2}
+What shall be done?</translation>
+    </message>
+    <message>
+        <source>Nur den &amp;sicheren buchen</source>
+        <translation>Book only the &amp;sure one</translation>
+    </message>
+    <message>
+        <source>Nur die {0} &amp;sicheren buchen</source>
+        <translation>Book only the {0} &amp;sure ones</translation>
+    </message>
+    <message>
+        <source>Ohne Kategorie</source>
+        <translation>Without category</translation>
+    </message>
+    <message>
+        <source>Alle &amp;gezeigten buchen…</source>
+        <translation>Book all &amp;shown…</translation>
+    </message>
+    <message>
+        <source>Bucht alles, was die Liste zeigt; vorher nennt eine Frage, was davon nicht sicher ist</source>
+        <translation>Books all that the list shows; before that, a question names what is not sure</translation>
+    </message>
+    <message>
+        <source>Eigene F&amp;arbe …</source>
+        <translation>&amp;Another colour …</translation>
     </message>
 </context>
 </TS>
