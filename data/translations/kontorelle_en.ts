@@ -10815,7 +10815,7 @@ A click shows more.</translation>
     </message>
     <message>
         <source>{0}  →  gebucht unter {1}, {3}</source>
-        <translation type="unfinished">{0}  →  booked under {1}, {2} {0}?} {1}?} {3}?}</translation>
+        <translation>{0}  →  booked under {1}, {3}</translation>
     </message>
     <message>
         <source>Bitte ansehen: Kategorie tippen, die Eingabetaste bucht.  {0}  →  {1}, {2}: {4}</source>
