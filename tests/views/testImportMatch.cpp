@@ -289,7 +289,7 @@ void testImportMatch::BookingAsksAboutMatches() const
     const int likely = page.Stage(-23.1, u"Jana"_s);
     const int certain = page.Stage(-40, u"Schuhhaus"_s);
     page.User.Decisions = decisions;
-    page.Review.Book({likely, certain, page.Stage(-700, u"Werkstatt"_s)}, page.Progress);
+    page.Review.Book({likely, certain, page.Stage(-12.99, u"Netflix"_s)}, page.Progress);
     QCOMPARE(page.User.LastDecision.Options.value(0), u"Den &vorhandenen zuordnen"_s);
     QCOMPARE(page.User.LastDecision.Default, 0);
     QTEST(page.Data.CountEntries(), "entries");

@@ -227,12 +227,15 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
     result.Rows += static_cast<int>(wish.Assign.size());
     result.Joined += static_cast<int>(wish.Assign.size());
     QStringList lines{modImportText::Booked(result)};
-    for (const QString& number : result.UnknownAccounts) {
-        lines.append(modImportText::NoAccount(number));
-    }
-    const auto bare = std::count_if(wish.Proposals.begin(), wish.Proposals.end(), IsBare);
+    // Rows without an account were not booked.
+    const auto bare = std::count_if(wish.Proposals.begin(), wish.Proposals.end(), [](const cProposal& proposal) {
+        return IsBare(proposal) && !proposal.Entry.EntryAccount.isEmpty();
+    });
     if (bare > 0) {
         lines.append(modImportText::WithoutCategory(static_cast<int>(bare), static_cast<int>(wish.New.size())));
+    }
+    for (const QString& number : result.UnknownAccounts) {
+        lines.append(modImportText::NoAccount(number));
     }
     lines += corrected->Lines() + m_parts.Matching.AssignedLines(wish.Assign);
     return {.IsDone = true, .Left = wish.Left, .Lines = lines, .UnknownAccounts = result.UnknownAccounts};

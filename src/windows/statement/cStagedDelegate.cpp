@@ -86,7 +86,8 @@ void cStagedDelegate::setEditorData(QWidget* editor, const QModelIndex& index) c
     const QString text = index.data(Qt::DisplayRole).toString();
     if (auto* box = qobject_cast<cCategoryBox*>(editor)) {
         box->SetPath(m_start.isEmpty() ? text : QString(), m_start);
-        box->lineEdit()->selectAll();
+        box->lineEdit()->end(false);
+        box->lineEdit()->home(true); // all of it is selected, and a narrow field shows how it begins
         m_start.clear();
         return;
     }

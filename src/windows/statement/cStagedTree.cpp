@@ -269,7 +269,9 @@ bool cStagedTree::event(QEvent* event)
 void cStagedTree::keyPressEvent(QKeyEvent* event)
 {
     if (IsEnter(*event)) {
-        Q_EMIT BookRequested();
+        if (state() != EditingState) { // else it comes from the open field, which has dealt with it
+            Q_EMIT BookRequested();
+        }
     } else if (event->key() == Qt::Key_Delete) {
         Q_EMIT DeleteRequested();
     } else if (IsMenuKey(*event)) {
