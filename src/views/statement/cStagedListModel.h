@@ -45,8 +45,8 @@ public:
     void Regroup();    // the same, and rows may belong to other groups
 
     [[nodiscard]] bool IsHead(const QModelIndex& index) const; // of a group
-    [[nodiscard]] QString
-    GroupName(const QModelIndex& index) const;              // that a line or a head is in; empty without groups
+    // Of the group that a line or a head is in; empty without groups.
+    [[nodiscard]] QString GroupName(const QModelIndex& index) const;
     [[nodiscard]] int IdAt(const QModelIndex& index) const; // 0 for the head of a group
     // The rows of a selection, those of a selected group among them; each once, in their order.
     [[nodiscard]] QList<int> IdsIn(const QItemSelection& selection) const;
