@@ -27,7 +27,6 @@
 #include "views/statement/modReviewQuestion.h"
 
 #include <QMap>
-#include <QSet>
 
 #include <algorithm>
 
@@ -57,7 +56,7 @@ struct cImportReview::cWorks
     cMatchFlow Matching;
     cPlanFlow Plan;
     cEntrySuggestions Suggestions;
-    QSet<std::pair<int, QDate>> Declined; // occurrences that the user did not want to be moved or ended
+    cSeriesCheck::cDeclined Declined;
 };
 
 cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
@@ -118,29 +117,54 @@ bool cImportReview::HasImportOf(int rowId) const
 
 void cImportReview::LoadRows()
 {
+    m_isOld = false;
     m_hasUnplanned = m_works->Proposals.IsHigh();
     m_view.SetRows(m_works->Hive.GetImportHive().getImportEntryList());
 }
 
-void cImportReview::Refresh()
+void cImportReview::SetShown(bool isShown)
+{
+    m_isShown = isShown;
+    if (isShown) {
+        Forget(); // anything may have changed meanwhile
+        // A file that the page is opened for is read first, so that rows are planned once, with it.
+        QMetaObject::invokeMethod(this, &cImportReview::LoadOld, Qt::QueuedConnection);
+    }
+}
+
+void cImportReview::LoadOld()
+{
+    if (m_isShown && m_isOld) {
+        LoadRows();
+    }
+}
+
+void cImportReview::Forget()
 {
     m_works->Proposals.Forget();
     m_works->Suggestions.ForgetCategories();
-    LoadRows();
+    m_isOld = true;
+}
+
+void cImportReview::Refresh()
+{
+    Forget();
+    LoadOld();
     Q_EMIT RowsChanged();
 }
 
 void cImportReview::StartAfresh()
 {
-    m_summary.clear();
     Files().StartAfresh();
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report({});
 }
 
 void cImportReview::NoteStaged(const QList<int>& ids)
 {
     m_works->Runs.NoteImport(ids);
+    if (m_isOld) {
+        LoadRows(); // so that they can be marked
+    }
     Q_EMIT RowsStaged(ids);
 }
 
@@ -153,9 +177,7 @@ void cImportReview::Report(const QStringList& lines)
 
 void cImportReview::ReportAccounts(const QStringList& lines)
 {
-    m_summary.append(lines);
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report(m_summary + lines);
     Q_EMIT EntriesChanged(); // the list of accounts may have grown, and open rows belong to accounts now
 }
 
@@ -187,16 +209,11 @@ void cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlan
     if (outcome.IsRefused) {
         m_tools.Settings.Reload(); // an account chosen just before has been taken back with the rest
     }
-    m_summary = outcome.Lines;
-    if (outcome.IsDone) {
-        m_summary += CheckSeries(rows);
-    }
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report(outcome.IsDone ? outcome.Lines + CheckSeries(rows) : outcome.Lines);
     Q_EMIT EntriesChanged();
 }
 
-// Series that the bank does not pay any more, or not yet. What was declined once is not asked about after every row.
+// Series that the bank does not pay any more, or not yet.
 QStringList cImportReview::CheckSeries(const cImportEntryList& rows)
 {
     QStringList accounts;
@@ -205,23 +222,9 @@ QStringList cImportReview::CheckSeries(const cImportEntryList& rows)
     }
     accounts.removeDuplicates();
     accounts.removeAll(QString());
-    if (accounts.isEmpty()) {
-        return {};
-    }
-    cSeriesCheck check(m_tools, m_works->Hive, m_works->Accounts);
-    QSet<std::pair<int, QDate>> found;
-    const QList<cSeriesCheck::cFinding> findings = check.Find(accounts);
-    for (const cSeriesCheck::cFinding& finding : findings) {
-        found.insert({finding.EntryId, finding.Occurrence});
-    }
-    if (m_works->Declined.contains(found)) {
-        return {};
-    }
-    const QStringList lines = check.Ask(accounts);
-    if (lines.isEmpty()) {
-        m_works->Declined.unite(found);
-    }
-    return lines;
+    return accounts.isEmpty()
+        ? QStringList()
+        : cSeriesCheck(m_tools, m_works->Hive, m_works->Accounts).Ask(accounts, &m_works->Declined);
 }
 
 cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
@@ -319,10 +322,8 @@ bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString
     if (!step.DoneIf(isWritten)) {
         return false;
     }
-    m_summary = {count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
-                            : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path})};
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report({count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
+                       : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path})});
     Q_EMIT EntriesChanged();
     return true;
 }
@@ -388,9 +389,7 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
     if (editor.SavedId() == 0) {
         return;
     }
-    m_summary = {cText::Tr("{0} gebucht.", {modImportText::Count(1)})};
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report({cText::Tr("{0} gebucht.", {modImportText::Count(1)})});
     Q_EMIT EntriesChanged();
 }
 
@@ -504,9 +503,7 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
     if (!outcome.IsDone) {
         m_tools.Settings.Reload(); // an account chosen just before may have been taken back with the rest
     }
-    m_summary = outcome.Lines;
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report(outcome.Lines);
     if (outcome.HasCorrected) {
         Q_EMIT EntriesChanged();
     }
@@ -569,11 +566,8 @@ void cImportReview::Delete(const QList<int>& rowIds)
     }
     const QString count = modImportText::Count(static_cast<int>(rowIds.size()));
     cUndoStep step(m_tools.Data, cText::Tr("{0} gelöscht", {count}));
-    m_summary = step.DoneIf(m_works->Hive.Remove(rowIds) == rowIds.size())
-        ? QStringList(cText::Tr("{0} gelöscht.", {count}))
-        : cMatchFlow::NothingDone().Lines;
-    Refresh();
-    Q_EMIT SummaryChanged();
+    const bool isGone = step.DoneIf(m_works->Hive.Remove(rowIds) == rowIds.size());
+    Report(isGone ? QStringList(cText::Tr("{0} gelöscht.", {count})) : cMatchFlow::NothingDone().Lines);
 }
 
 eStagedGroup cImportReview::Group(const cImportEntry& row)
