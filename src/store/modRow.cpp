@@ -4,6 +4,7 @@
 #include "base/modDate.h"
 #include "store/cDatabase.h"
 
+#include <charconv>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -56,7 +57,13 @@ qint64 WrittenCents(std::string_view bytes)
 struct cStored
 {
     [[nodiscard]] std::string_view Bytes(size_t column) const { return Values[column]; }
-    [[nodiscard]] int Integer(size_t column) const { return Digits(Values[column]); }
+    [[nodiscard]] qint64 Integer(size_t column) const
+    {
+        const std::string_view bytes = Values[column];
+        qint64 number = 0;
+        (void)std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
+        return number;
+    }
 
     std::span<const std::string_view> Values;
 };
