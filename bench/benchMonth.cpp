@@ -216,7 +216,8 @@ void PlanMonth(benchmark::State& state)
 }
 BENCHMARK(PlanMonth)->Unit(benchmark::kMillisecond);
 
-// The page of bank statements from nothing: `isOpen` says whether it is on screen when the file comes.
+// The page of bank statements from nothing: `isOpen` says whether it is on screen when the file comes. Otherwise the
+// file is what it is opened for, as when somebody drops one on the window.
 void Month(benchmark::State& state, bool isOpen)
 {
     cHousehold& household = Household();
@@ -228,7 +229,7 @@ void Month(benchmark::State& state, bool isOpen)
         }
         state.ResumeTiming();
         if (!isOpen) {
-            page.emplace(household.Book.Tools());
+            page.emplace(household.Book.Tools(), false);
         }
         cNoProgress progress;
         page->Review.Files().ImportFiles({household.Path()}, progress);
@@ -262,5 +263,32 @@ void OpenWaitingMonth(benchmark::State& state)
     household.TakeBack();
 }
 BENCHMARK(OpenWaitingMonth)->Unit(benchmark::kMillisecond);
+
+// What is left for the page, or the review behind another page, after something was undone while a month waits.
+void AfterUndo(benchmark::State& state, bool isShown)
+{
+    cHousehold& household = Household();
+    {
+        const cUndoStep step(household.Data, u"bench"_s);
+        cImportHiveCache hive(household.Data);
+        cNoProgress progress;
+        (void)cStatementImport(household.Data, hive).ImportFile(household.Path(), {}, progress);
+    }
+    {
+        cImportReview review(household.Book.Tools());
+        frmImport page(review);
+        page.resize(1280, 800);
+        page.show();
+        QCoreApplication::processEvents();
+        page.setVisible(isShown);
+        for (auto _ : state) {
+            review.StartAfresh();
+            QCoreApplication::processEvents();
+        }
+    }
+    household.TakeBack();
+}
+BENCHMARK_CAPTURE(AfterUndo, page in sight, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AfterUndo, another page in sight, false)->Unit(benchmark::kMillisecond);
 
 } // namespace

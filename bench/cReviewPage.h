@@ -8,12 +8,14 @@
 // The page of bank statements on screen with its first rows painted.
 struct cReviewPage
 {
-    // `tools` outlive it.
-    explicit cReviewPage(const cBookTools& tools) : Review(tools)
+    // `tools` outlive it. A page that a file opens is shown, and painted when the file is read.
+    explicit cReviewPage(const cBookTools& tools, bool isPainted = true) : Review(tools)
     {
         Page.resize(1280, 800);
         Page.show();
-        QCoreApplication::processEvents();
+        if (isPainted) {
+            QCoreApplication::processEvents();
+        }
     }
 
     cImportReview Review;

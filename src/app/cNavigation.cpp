@@ -80,6 +80,7 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     m_model = &model;
     m_review = &review;
     m_window = &window;
+    review.SetShown(false); // until its page is
     m_sheets = std::make_unique<cSheetWindows>(m_parts.Tools, model, review.View(), window);
     // Queued, because what can be taken back is known only when the review has finished its step.
     QObject::connect(&review, &cImportReview::EntriesChanged, &model, &cMainModel::BookChanged, Qt::QueuedConnection);

@@ -25,23 +25,37 @@ cBoundList ImportValues(const cImportEntry& entry)
             entry.ImportAssignedEntry};
 }
 
-cImportEntry ReadImport(const cRows& row, cWordCache& words)
+// Reads rows of table `import`; one reader per query.
+class cImportReader
 {
-    return {
-        .ID = static_cast<int>(row.Integer(0)),
-        .ImportAccount = words.Get(row.Bytes(1)),
-        .ImportDate = modRow::ReadDate(row.Bytes(2)),
-        .ImportType = words.Get(row.Bytes(3)),
-        .ImportPurpose = modRow::ReadDoubled(row.Bytes(4)),
-        .ImportBeneficiary = words.Get(row.Bytes(5)),
-        .ImportBeneficiaryAccount = words.Get(row.Bytes(6)),
-        .ImportBeneficiaryBLZ = words.Get(row.Bytes(7)),
-        .ImportValue = modAmount::ToCents(row.Real(8)),
-        .ImportCurrency = words.Get(row.Bytes(9)),
-        .ImportAssigned = row.Integer(10) != isFalse,
-        .ImportAssignedEntry = row.Bytes(11).empty() ? -1 : static_cast<int>(row.Integer(11)),
-    };
-}
+public:
+    [[nodiscard]] cImportEntry Read(const cRows& row)
+    {
+        return {
+            .ID = static_cast<int>(row.Integer(0)),
+            .ImportAccount = m_accounts.Get(row.Bytes(1)),
+            .ImportDate = m_days.Get(row.Bytes(2)),
+            .ImportType = m_types.Get(row.Bytes(3)),
+            .ImportPurpose = modRow::ReadDoubled(row.Bytes(4)),
+            .ImportBeneficiary = m_names.Get(row.Bytes(5)),
+            .ImportBeneficiaryAccount = m_numbers.Get(row.Bytes(6)),
+            .ImportBeneficiaryBLZ = m_banks.Get(row.Bytes(7)),
+            .ImportValue = modAmount::ToCents(row.Real(8)),
+            .ImportCurrency = m_currencies.Get(row.Bytes(9)),
+            .ImportAssigned = row.Integer(10) != isFalse,
+            .ImportAssignedEntry = row.Bytes(11).empty() ? -1 : static_cast<int>(row.Integer(11)),
+        };
+    }
+
+private:
+    cDayCache m_days;
+    cWordCache m_accounts{eQuotes::Doubled};
+    cWordCache m_types{eQuotes::Doubled};
+    cWordCache m_names{eQuotes::Doubled};
+    cWordCache m_numbers{eQuotes::Doubled};
+    cWordCache m_banks{eQuotes::Doubled};
+    cWordCache m_currencies{eQuotes::Doubled};
+};
 
 } // namespace
 
@@ -49,13 +63,13 @@ cImportEntryList cDataAccess::GetImportEntries()
 {
     cImportEntryList entries;
     const bool isRead = Read("GetImportEntries", [&] {
-        cWordCache words(eQuotes::Doubled);
+        cImportReader reader;
         cRows rows(m_database,
                    "SELECT ID, ImportAccount, ImportDate, ImportType, ImportPurpose, ImportBeneficiary, "
                    "ImportBeneficiaryAccount, ImportBeneficiaryBLZ, ImportValue, ImportCurrency, "
                    "ImportAssigned, ImportAssignedEntry FROM import ORDER BY ID");
         while (rows.Next()) {
-            entries.append(ReadImport(rows, words));
+            entries.append(reader.Read(rows));
         }
     });
     return isRead ? entries : cImportEntryList{};

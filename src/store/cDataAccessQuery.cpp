@@ -6,6 +6,7 @@
 #include "store/modRow.h"
 
 #include <algorithm>
+#include <numeric>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -16,7 +17,7 @@ namespace {
 
 enum class eRepetition { Once, Recurring };
 
-// A WHERE clause that grows condition by condition, with the values for it.
+// A condition that grows part by part, with the values for it.
 struct cCondition
 {
     std::string Sql;
@@ -92,7 +93,7 @@ void AddCategory(cCondition& where, const QString& category)
 
 cCondition ConditionOf(const cEntryQuery& query, eRepetition repetition, eDays days = eDays::ByStatement)
 {
-    cCondition where{" WHERE ", {}};
+    cCondition where;
     where.Add(repetition == eRepetition::Once ? "EntryInterval = 'Einmalig'" : "EntryInterval <> 'Einmalig'");
     if (days == eDays::ByStatement) {
         AddPeriod(where, query, repetition);
@@ -124,19 +125,42 @@ bool IsOutsidePeriod(const cEntryItem& entry, const cEntryQuery& query)
     return isOutside && !modRecurrence::IsRecurring(entry.EntryInterval);
 }
 
-// Stable, so that entries of one day stay in the order of the rows.
+// A day and the position of its entry.
+using cDayPlaces = std::vector<std::pair<quint32, qsizetype>>;
+
+// By some bits of the day; equal ones stay as they are.
+cDayPlaces Dealt(const cDayPlaces& places, int shift, int bits)
+{
+    const quint32 mask = (1U << bits) - 1;
+    std::vector<size_t> next(size_t{mask} + 2); // where the next one of each value goes
+    for (const auto& [day, position] : places) {
+        ++next[((day >> shift) & mask) + 1];
+    }
+    std::partial_sum(next.begin(), next.end(), next.begin());
+    cDayPlaces dealt(places.size());
+    for (const auto& place : places) {
+        dealt[next[(place.first >> shift) & mask]++] = place;
+    }
+    return dealt;
+}
+
+// Stable, so that entries of one day stay in the order of the rows. The days of all years with four digits have 22
+// bits: to deal them out twice takes a tenth of the time of comparing them.
 void SortByDate(cEntryItemList& entries)
 {
     const auto isEarlier = [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; };
     if (std::is_sorted(entries.cbegin(), entries.cend(), isEarlier)) {
         return;
     }
-    std::vector<std::pair<qint64, qsizetype>> order; // day and position
+    constexpr int bits = 11;
+    static const qint64 firstDay = QDate(1, 1, 1).toJulianDay();
+    cDayPlaces order;
     order.reserve(static_cast<size_t>(entries.size()));
     for (const cEntryItem& entry : std::as_const(entries)) {
-        order.emplace_back(entry.EntryDate.toJulianDay(), static_cast<qsizetype>(order.size()));
+        const qint64 day = entry.EntryDate.isValid() ? entry.EntryDate.toJulianDay() - firstDay + 1 : 0;
+        order.emplace_back(static_cast<quint32>(day), static_cast<qsizetype>(order.size()));
     }
-    std::sort(order.begin(), order.end());
+    order = Dealt(Dealt(order, 0, bits), bits, bits);
     cEntryItemList sorted;
     sorted.reserve(entries.size());
     for (const auto& [day, position] : order) {
@@ -158,8 +182,18 @@ public:
     {
     }
 
+    [[nodiscard]] eDay Place(std::string_view bytes)
+    {
+        if (bytes != m_before) { // rows often have the day of the one before
+            m_before = bytes;
+            m_placeBefore = PlaceOf(bytes);
+        }
+        return m_placeBefore;
+    }
+
+private:
     // Plain days are in the order of their letters.
-    [[nodiscard]] eDay Place(std::string_view bytes) const
+    [[nodiscard]] eDay PlaceOf(std::string_view bytes) const
     {
         if (!IsPlain(bytes)) {
             return eDay::Unclear;
@@ -170,7 +204,6 @@ public:
         return !m_last.empty() && bytes > m_last ? eDay::After : eDay::Inside;
     }
 
-private:
     // A day "yyyy-mm-dd" of the calendar. The last days of a month are looked up, all others are in every month.
     static bool IsPlain(std::string_view bytes)
     {
@@ -194,41 +227,31 @@ private:
 
     std::string m_first; // empty: open
     std::string m_last;
+    std::string m_before;
+    eDay m_placeBefore = eDay::Unclear; // as an empty text is
 };
 
-// Reads rows as they lie in the table. False when one of the days is unclear.
-bool ReadUnordered(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+// The rows that fulfil a condition, by day.
+std::string SelectBy(const cCondition& where)
 {
-    cCondition where = ConditionOf(query, eRepetition::Once, eDays::ByReader);
-    where.Add(" AND Taken(EntryDate)");
-    const cDayRange days(query.Start, query.End);
-    bool isClear = true;
-    cEntryReader reader;
-    cRows rows(database, cEntryReader::Select + where.Sql, where.Values, [&](const auto& values) {
-        const eDay day = days.Place(values[0]);
-        isClear = isClear && day != eDay::Unclear;
-        return !isClear || day == eDay::Inside;
-    });
-    while (rows.Next() && isClear) {
-        entries.append(reader.Read(rows));
-    }
-    return isClear;
+    return cEntryReader::Select + " WHERE " + where.Sql + " ORDER BY date(EntryDate) ASC";
 }
 
-void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+// The series, and the one-off entries that the reader takes, in one scan of the table. Only between WHEN and THEN does
+// SQLite leave out the rest of an AND once a part is false, so that the reader is not asked about rows of no concern.
+cCondition EitherOf(const cEntryQuery& query)
 {
-    // SQLite carries all columns through its sorter, which takes longer than to read them. So the days are sorted here.
-    if (ReadUnordered(database, query, entries)) {
-        SortByDate(entries);
-        return;
+    cCondition where{"CASE", {}};
+    if (query.Kind != eBookingKind::Single) {
+        const cCondition series = ConditionOf(query, eRepetition::Recurring);
+        where.Add(" WHEN " + series.Sql + " THEN 1", series.Values);
     }
-    entries.clear();
-    const cCondition where = ConditionOf(query, eRepetition::Once);
-    cEntryReader reader;
-    cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
-    while (rows.Next()) {
-        entries.append(reader.Read(rows));
+    if (query.Kind != eBookingKind::Fix) {
+        const cCondition once = ConditionOf(query, eRepetition::Once, eDays::ByReader);
+        where.Add(" WHEN " + once.Sql + " THEN Taken(" + cEntryReader::Columns + ")", once.Values);
     }
+    where.Add(" END");
+    return where;
 }
 
 // Makes occurrences of series, with the corrections of the book.
@@ -253,6 +276,45 @@ private:
     std::optional<QHash<int, cEntryItemFixModList>> m_fixMods;
 };
 
+// One-off entries by day, and behind them the occurrences of each series. False when one of the days is unclear.
+// A one-off entry is read while the statement looks at its row and is passed over then: to be handed over, or to go
+// through SQLite's sorter with all its columns, takes longer than to read it.
+bool ReadAtOnce(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+{
+    const cCondition where = EitherOf(query);
+    cDayRange days(query.Start, query.End);
+    bool isClear = true;
+    cEntryReader reader;
+    cEntryItemList series;
+    cRows rows(database, SelectBy(where), where.Values, [&](const auto& values) {
+        const eDay day = days.Place(values[1]);
+        isClear = isClear && day != eDay::Unclear;
+        if (isClear && day == eDay::Inside) {
+            entries.append(reader.Read(values));
+        }
+        return false;
+    });
+    while (rows.Next()) {
+        series.append(reader.Read(rows));
+    }
+    SortByDate(entries);
+    cSeriesExpander expander(database);
+    for (const cEntryItem& entry : std::as_const(series)) {
+        expander.Expand(entry, query, entries);
+    }
+    return isClear;
+}
+
+void ReadSingle(cDatabase& database, const cEntryQuery& query, cEntryItemList& entries)
+{
+    const cCondition where = ConditionOf(query, eRepetition::Once);
+    cEntryReader reader;
+    cRows rows(database, SelectBy(where), where.Values);
+    while (rows.Next()) {
+        entries.append(reader.Read(rows));
+    }
+}
+
 // Adds the occurrences of each series to `entries` and calls `seriesDone` after each. Who only sums them up empties the
 // list there: those of a daily series without end are thousands.
 template <typename tDone>
@@ -261,7 +323,7 @@ void ReadRecurring(cDatabase& database, const cEntryQuery& query, cEntryItemList
     const cCondition where = ConditionOf(query, eRepetition::Recurring);
     cSeriesExpander expander(database);
     cEntryReader reader;
-    cRows rows(database, cEntryReader::Select + where.Sql + " ORDER BY date(EntryDate) ASC", where.Values);
+    cRows rows(database, SelectBy(where), where.Values);
     while (rows.Next()) {
         expander.Expand(reader.Read(rows), query, entries);
         seriesDone();
@@ -299,10 +361,9 @@ public:
         }
     }
 
-    // The values of EntryType, EntryAccount, EntryAccountMove and EntryValue.
-    void Add(std::span<const std::string_view> stored)
+    void Add(std::span<const std::string_view> stored) // of takenSums
     {
-        Add(stored[0], stored[1], stored[2], modRow::ReadCents(stored[3]).value_or(0));
+        Add(stored[1], stored[2], stored[3], modRow::ReadCents(stored[4]).value_or(0));
     }
 
     [[nodiscard]] QList<cAccountSum> Take() const
@@ -355,13 +416,14 @@ bool SumSingle(cDatabase& database, const cEntryQuery& query, bool withStartBala
     if (!withStartBalance) {
         where.Add(" AND IFNULL(EntryCategory, '') <> ?", {modWord::Startguthaben});
     }
-    const cDayRange range(query.Start, query.End);
+    cDayRange range(query.Start, query.End);
     bool isClear = true;
-    cRows rows(database, "SELECT 1 FROM data" + where.Sql + " AND " + takenSums, where.Values, [&](const auto& values) {
+    where.Add(" AND " + takenSums);
+    cRows rows(database, "SELECT 1 FROM data WHERE " + where.Sql, where.Values, [&](const auto& values) {
         const eDay day = days == eDays::ByStatement ? eDay::Inside : range.Place(values[0]);
         isClear = isClear && day != eDay::Unclear;
         if (day == eDay::Inside) {
-            sums.Add(values.subspan(1));
+            sums.Add(values);
         }
         return false;
     });
@@ -398,7 +460,7 @@ bool IsStart(const cEntryItem& entry)
 // False when one of the days is unclear.
 bool ReadWindowRows(cDatabase& database, const modPeriod::cRange& range, cWindowRows& window)
 {
-    const cDayRange days(range.Start, range.End);
+    cDayRange days(range.Start, range.End);
     const std::string start = modWord::Startguthaben.toStdString();
     bool isClear = true;
     cEntryReader reader;
@@ -409,7 +471,7 @@ bool ReadWindowRows(cDatabase& database, const modPeriod::cRange& range, cWindow
                    const eDay day = days.Place(values[0]);
                    isClear = isClear && day != eDay::Unclear;
                    if (day == eDay::Before) {
-                       (values.back() == start ? window.StartBefore : window.Before).Add(values.subspan(1));
+                       (values.back() == start ? window.StartBefore : window.Before).Add(values);
                    }
                    return day == eDay::Inside;
                });
@@ -428,6 +490,10 @@ cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
 {
     cEntryItemList entries;
     const bool isRead = Read("GetEntries", [&] {
+        if (ReadAtOnce(m_database, query, entries)) {
+            return;
+        }
+        entries.clear();
         if (query.Kind != eBookingKind::Fix) {
             ReadSingle(m_database, query, entries);
         }

@@ -123,7 +123,7 @@ void Guard(const SQLite::Database& connection)
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longestValue);
 }
 
-constexpr int mostFiltered = 8; // values that a filter looks at
+constexpr int mostFiltered = 11; // values that a filter looks at
 
 // What Taken is in a statement.
 void Take(sqlite3_context* context, int count, sqlite3_value** values)
@@ -228,6 +228,7 @@ cBoundList cRowBefore::Values() const
 {
     cBoundList values;
     const int columns = sqlite3_preupdate_count(m_connection);
+    values.reserve(static_cast<size_t>(columns));
     for (int i = 0; i < columns; ++i) {
         sqlite3_value* value = nullptr;
         const bool isRead = sqlite3_preupdate_old(m_connection, i, &value) == SQLITE_OK && value != nullptr;

@@ -4,6 +4,7 @@
 #include "base/modDate.h"
 #include "store/cDatabase.h"
 
+#include <charconv>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -52,6 +53,21 @@ qint64 WrittenCents(std::string_view bytes)
     return cents;
 }
 
+// Values as they are stored, read like a row.
+struct cStored
+{
+    [[nodiscard]] std::string_view Bytes(size_t column) const { return Values[column]; }
+    [[nodiscard]] qint64 Integer(size_t column) const
+    {
+        const std::string_view bytes = Values[column];
+        qint64 number = 0;
+        (void)std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
+        return number;
+    }
+
+    std::span<const std::string_view> Values;
+};
+
 } // namespace
 
 QString modRow::Doubled(const QString& text)
@@ -92,33 +108,58 @@ QString cWordCache::Get(std::string_view bytes)
     if (bytes.empty()) {
         return {};
     }
+    if (bytes == m_lastBytes) {
+        return m_last;
+    }
+    m_lastBytes = bytes;
     if (const auto found = m_texts.find(bytes); found != m_texts.end()) {
-        return found->second;
+        m_last = found->second;
+        return m_last;
     }
-    QString text = m_quotes == eQuotes::Doubled ? modRow::ReadDoubled(bytes) : FromUtf8(bytes);
+    m_last = m_quotes == eQuotes::Doubled ? modRow::ReadDoubled(bytes) : FromUtf8(bytes);
     if (m_texts.size() < wordLimit) {
-        m_texts.emplace(bytes, text);
+        m_texts.emplace(bytes, m_last);
     }
-    return text;
+    return m_last;
 }
 
-cEntryItem cEntryReader::Read(const cRows& row)
+QDate cDayCache::Get(std::string_view bytes)
+{
+    if (bytes != m_lastBytes) {
+        m_lastBytes = bytes;
+        m_last = modRow::ReadDate(bytes);
+    }
+    return m_last;
+}
+
+template <typename tRow>
+cEntryItem cEntryReader::ReadFrom(const tRow& row)
 {
     return {
         .ID = static_cast<int>(row.Integer(0)),
-        .EntryDate = modRow::ReadDate(row.Bytes(1)),
-        .EntryDateEnd = modRow::ReadDate(row.Bytes(2)),
-        .EntryType = m_words.Get(row.Bytes(3)),
-        .EntryInterval = m_words.Get(row.Bytes(4)),
-        .EntryAccount = m_names.Get(row.Bytes(5)),
-        .EntryAccountMove = m_names.Get(row.Bytes(6)),
-        .EntryCategory = m_names.Get(row.Bytes(7)),
+        .EntryDate = m_days.Get(row.Bytes(1)),
+        .EntryDateEnd = m_ends.Get(row.Bytes(2)),
+        .EntryType = m_types.Get(row.Bytes(3)),
+        .EntryInterval = m_intervals.Get(row.Bytes(4)),
+        .EntryAccount = m_accounts.Get(row.Bytes(5)),
+        .EntryAccountMove = m_moves.Get(row.Bytes(6)),
+        .EntryCategory = m_categories.Get(row.Bytes(7)),
         .EntryValue = modRow::ReadCents(row.Bytes(8)).value_or(0),
         .EntryDescription = modRow::ReadDoubled(row.Bytes(9)),
         .EntryFlags = FromUtf8(row.Bytes(10)),
         .CorrectionComment = {},
         .PlannedDate = {},
     };
+}
+
+cEntryItem cEntryReader::Read(const cRows& row)
+{
+    return ReadFrom(row);
+}
+
+cEntryItem cEntryReader::Read(std::span<const std::string_view> row)
+{
+    return ReadFrom(cStored{row});
 }
 
 QString modFixModRow::Kind(const cEntryItemFixMod& fixMod)

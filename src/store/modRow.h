@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -50,21 +51,43 @@ private:
 
     eQuotes m_quotes;
     std::unordered_map<std::string, QString, cHash, std::equal_to<>> m_texts;
+    std::string m_lastBytes; // rows often have the text of the one before
+    QString m_last;
+};
+
+// The same for days.
+class cDayCache
+{
+public:
+    [[nodiscard]] QDate Get(std::string_view bytes);
+
+private:
+    std::string m_lastBytes;
+    QDate m_last;
 };
 
 // Reads rows of table `data`; one reader per query.
 class cEntryReader
 {
 public:
-    static constexpr const char* Select = "SELECT ID, EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
-                                          "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags "
-                                          "FROM data";
+    static constexpr const char* Columns = "ID, EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
+                                           "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags";
+    inline static const std::string Select = std::string("SELECT ") + Columns + " FROM data";
 
     [[nodiscard]] cEntryItem Read(const cRows& row);
+    [[nodiscard]] cEntryItem Read(std::span<const std::string_view> row); // of Taken with these columns
 
 private:
-    cWordCache m_words{eQuotes::Plain};
-    cWordCache m_names{eQuotes::Doubled};
+    template <typename tRow>
+    [[nodiscard]] cEntryItem ReadFrom(const tRow& row);
+
+    cDayCache m_days;
+    cDayCache m_ends;
+    cWordCache m_types{eQuotes::Plain};
+    cWordCache m_intervals{eQuotes::Plain};
+    cWordCache m_accounts{eQuotes::Doubled};
+    cWordCache m_moves{eQuotes::Doubled};
+    cWordCache m_categories{eQuotes::Doubled};
 };
 
 // Reads rows of table `datamod`.

@@ -27,7 +27,6 @@
 #include "views/statement/modReviewQuestion.h"
 
 #include <QMap>
-#include <QSet>
 
 #include <algorithm>
 
@@ -57,7 +56,7 @@ struct cImportReview::cWorks
     cMatchFlow Matching;
     cPlanFlow Plan;
     cEntrySuggestions Suggestions;
-    QSet<std::pair<int, QDate>> Declined; // occurrences that the user did not want to be moved or ended
+    cSeriesCheck::cDeclined Declined;
 };
 
 cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
@@ -119,29 +118,54 @@ bool cImportReview::HasImportOf(int rowId) const
 
 void cImportReview::LoadRows()
 {
+    m_isOld = false;
     m_hasUnplanned = m_works->Proposals.IsHigh();
     m_view.SetRows(m_works->Hive.GetImportHive().getImportEntryList());
 }
 
-void cImportReview::Refresh()
+void cImportReview::SetShown(bool isShown)
+{
+    m_isShown = isShown;
+    if (isShown) {
+        Forget(); // anything may have changed meanwhile
+        // A file that the page is opened for is read first, so that rows are planned once, with it.
+        QMetaObject::invokeMethod(this, &cImportReview::LoadOld, Qt::QueuedConnection);
+    }
+}
+
+void cImportReview::LoadOld()
+{
+    if (m_isShown && m_isOld) {
+        LoadRows();
+    }
+}
+
+void cImportReview::Forget()
 {
     m_works->Proposals.Forget();
     m_works->Suggestions.ForgetCategories();
-    LoadRows();
+    m_isOld = true;
+}
+
+void cImportReview::Refresh()
+{
+    Forget();
+    LoadOld();
     Q_EMIT RowsChanged();
 }
 
 void cImportReview::StartAfresh()
 {
-    m_summary.clear();
     Files().StartAfresh();
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report({});
 }
 
 void cImportReview::NoteStaged(const QList<int>& ids)
 {
     m_works->Runs.NoteImport(ids);
+    if (m_isOld) {
+        LoadRows(); // so that they can be marked
+    }
     Q_EMIT RowsStaged(ids);
 }
 
@@ -154,9 +178,7 @@ void cImportReview::Report(const QStringList& lines)
 
 void cImportReview::ReportAccounts(const QStringList& lines)
 {
-    m_summary.append(lines);
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report(m_summary + lines);
     Q_EMIT EntriesChanged(); // the list of accounts may have grown, and open rows belong to accounts now
 }
 
@@ -185,17 +207,12 @@ bool cImportReview::CarryOut(const QList<int>& rowIds, const std::function<cPlan
     if (outcome.Lines.isEmpty()) {
         return outcome.IsDone;
     }
-    m_summary = outcome.Lines;
-    if (outcome.IsDone) {
-        m_summary += CheckSeries(rows);
-    }
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report(outcome.IsDone ? outcome.Lines + CheckSeries(rows) : outcome.Lines);
     Q_EMIT EntriesChanged();
     return outcome.IsDone;
 }
 
-// Series that the bank does not pay any more, or not yet. What was declined once is not asked about after every row.
+// Series that the bank does not pay any more, or not yet.
 QStringList cImportReview::CheckSeries(const cImportEntryList& rows)
 {
     QStringList accounts;
@@ -204,23 +221,9 @@ QStringList cImportReview::CheckSeries(const cImportEntryList& rows)
     }
     accounts.removeDuplicates();
     accounts.removeAll(QString());
-    if (accounts.isEmpty()) {
-        return {};
-    }
-    cSeriesCheck check(m_tools, m_works->Hive, m_works->Accounts);
-    QSet<std::pair<int, QDate>> found;
-    const QList<cSeriesCheck::cFinding> findings = check.Find(accounts);
-    for (const cSeriesCheck::cFinding& finding : findings) {
-        found.insert({finding.EntryId, finding.Occurrence});
-    }
-    if (m_works->Declined.contains(found)) {
-        return {};
-    }
-    const QStringList lines = check.Ask(accounts);
-    if (lines.isEmpty()) {
-        m_works->Declined.unite(found);
-    }
-    return lines;
+    return accounts.isEmpty()
+        ? QStringList()
+        : cSeriesCheck(m_tools, m_works->Hive, m_works->Accounts).Ask(accounts, &m_works->Declined);
 }
 
 cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
@@ -291,10 +294,8 @@ bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString
     if (!step.DoneIf(isWritten)) {
         return false;
     }
-    m_summary = {count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
-                            : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path})};
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report({count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
+                       : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path})});
     Q_EMIT EntriesChanged();
     return true;
 }
@@ -360,9 +361,7 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
     if (editor.SavedId() == 0) {
         return;
     }
-    m_summary = {cText::Tr("{0} gebucht.", {modImportText::Count(1)})};
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report({cText::Tr("{0} gebucht.", {modImportText::Count(1)})});
     Q_EMIT EntriesChanged();
 }
 
@@ -473,9 +472,7 @@ void cImportReview::ReportMatches(const cMatchFlow::cOutcome& outcome)
     if (outcome.Lines.isEmpty()) {
         return;
     }
-    m_summary = outcome.Lines;
-    Refresh();
-    Q_EMIT SummaryChanged();
+    Report(outcome.Lines);
     if (outcome.HasCorrected) {
         Q_EMIT EntriesChanged();
     }
@@ -538,11 +535,8 @@ void cImportReview::Delete(const QList<int>& rowIds)
     }
     const QString count = modImportText::Count(static_cast<int>(rowIds.size()));
     cUndoStep step(m_tools.Data, cText::Tr("{0} gelöscht", {count}));
-    m_summary = step.DoneIf(m_works->Hive.Remove(rowIds) == rowIds.size())
-        ? QStringList(cText::Tr("{0} gelöscht.", {count}))
-        : cMatchFlow::NothingDone().Lines;
-    Refresh();
-    Q_EMIT SummaryChanged();
+    const bool isGone = step.DoneIf(m_works->Hive.Remove(rowIds) == rowIds.size());
+    Report(isGone ? QStringList(cText::Tr("{0} gelöscht.", {count})) : cMatchFlow::NothingDone().Lines);
 }
 
 eStagedGroup cImportReview::Group(const cImportEntry& row)

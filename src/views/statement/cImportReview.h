@@ -33,6 +33,10 @@ public:
     explicit cImportReview(const cBookTools& tools, QObject* parent = nullptr);
     ~cImportReview() override;
 
+    // Whether somebody sees the rows, which is so from the beginning. What nobody sees is neither read nor planned;
+    // when it is shown, that is made up for as soon as nothing else is to be done.
+    void SetShown(bool isShown);
+
     // Reads the staged rows anew, when another part of the program may have changed them or the book.
     void Refresh();
 
@@ -142,7 +146,9 @@ private:
     [[nodiscard]] bool MayEdit(const cRowPlan& plan);
     [[nodiscard]] QStringList CheckSeries(const cImportEntryList& rows);
     bool CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
+    void Forget();
     void LoadRows();
+    void LoadOld();
     void NoteStaged(const QList<int>& ids);
     void Report(const QStringList& lines);
     void ReportAccounts(const QStringList& lines);
@@ -156,5 +162,7 @@ private:
     cStagedChoice m_view;
     cStagedGuide m_guide;
     QStringList m_summary;
+    bool m_isShown = true;
+    bool m_isOld = false;        // the rows are to be read again before somebody sees them
     bool m_hasUnplanned = false; // the pile is high, and some of it was not looked at yet
 };

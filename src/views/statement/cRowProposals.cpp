@@ -50,6 +50,9 @@ void cRowProposals::Forget()
     m_planned.clear();
     m_isWhole = false;
     m_next = 0;
+    if (m_choices.isEmpty()) {
+        return; // without a look at the rows, which may not be wanted at all
+    }
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     m_choices.removeIf([&](const auto& choice) {
         const std::optional<cImportEntry> row = hive.GetImportEntryByID(choice.key());

@@ -296,12 +296,25 @@ QString cSeriesCheck::Contracts() const
     return cContracts(m_tools).Lines().join(u'\n');
 }
 
-QStringList cSeriesCheck::Ask(const QStringList& accounts)
+QStringList cSeriesCheck::Ask(const QStringList& accounts, cDeclined* declined)
 {
     const QList<cFinding> findings = Find(accounts);
-    if (findings.isEmpty()) {
+    cDeclined found;
+    for (const cFinding& finding : findings) {
+        found.insert({finding.EntryId, finding.Occurrence});
+    }
+    if (findings.isEmpty() || (declined != nullptr && declined->contains(found))) {
         return {};
     }
+    const QStringList lines = AskAbout(findings);
+    if (declined != nullptr && lines.isEmpty()) {
+        declined->unite(found);
+    }
+    return lines;
+}
+
+QStringList cSeriesCheck::AskAbout(const QList<cFinding>& findings)
+{
     QStringList items;
     for (const cFinding& finding : findings) {
         items.append(Line(finding));

@@ -7,6 +7,7 @@
 #include <QDate>
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -44,8 +45,10 @@ public:
     [[nodiscard]] QString Contracts() const;
 
     // Shows what was found, all of it ticked, and applies what stays ticked. Lines for a summary; empty when nothing
-    // was found or wanted.
-    [[nodiscard]] QStringList Ask(const QStringList& accounts);
+    // was found or wanted. Occurrences that the user did not want to be moved or ended go into `declined`, and what is
+    // there is not asked about, as after every row.
+    using cDeclined = QSet<std::pair<int, QDate>>; // entry and day
+    [[nodiscard]] QStringList Ask(const QStringList& accounts, cDeclined* declined = nullptr);
 
     // "'Miete' (Girokonto): zuletzt bezahlt am 01.03.2026; endet am 01.03.2026"
     [[nodiscard]] QString Line(const cFinding& finding) const;
@@ -69,6 +72,7 @@ private:
     [[nodiscard]] QHash<QString, cAccountRows> RowsByAccount();
     [[nodiscard]] cEntryItemList SeriesOf(const QString& account, const QHash<QString, cAccountRows>& rows);
     [[nodiscard]] QList<int> Parts(const cEntryItem& entry) const;
+    [[nodiscard]] QStringList AskAbout(const QList<cFinding>& findings);
     void NotePaid(cSeries& series);
     [[nodiscard]] QList<cFinding> FindIn(const cSeries& series);
     [[nodiscard]] bool ApplyOne(const cFinding& finding, int entryId);

@@ -4,9 +4,9 @@
 #include "core/cAmountFormat.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modWord.h"
+#include "views/list/modImportText.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cStagedChoice.h"
-#include "views/statement/modImportText.h"
 
 #include <algorithm>
 

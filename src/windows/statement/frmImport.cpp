@@ -148,8 +148,14 @@ void frmImport::ShowSummary()
 
 void frmImport::showEvent(QShowEvent* event)
 {
-    m_review.Refresh();
+    m_review.SetShown(true);
     QWidget::showEvent(event);
+}
+
+void frmImport::hideEvent(QHideEvent* event)
+{
+    m_review.SetShown(false);
+    QWidget::hideEvent(event);
 }
 
 void frmImport::dragEnterEvent(QDragEnterEvent* event)
