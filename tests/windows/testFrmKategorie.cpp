@@ -100,6 +100,7 @@ private Q_SLOTS:
         colors.setFocus();
         QTest::keyClicks(&colors, u"Rost"_s);
         QTest::keyClick(&colors, Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // past the button for one of the user's own
         QTest::keyClicks(QApplication::focusWidget(), u"Teller"_s);
         QVERIFY(scene.Window.Select(food)); // stores it
         const cCategoryLook expected{u"#a54900"_s, u"essen"_s};

@@ -8,13 +8,15 @@
 #include <QBoxLayout>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QPushButton>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
 
 cLookBox::cLookBox(QWidget* parent)
     : QWidget(parent),
       m_color(new QComboBox(this)),
-      m_icon(new QComboBox(this)),
-      m_ownColor(new QPushButton(cText::Tr("Eigene F&arbe …"), this))
+      m_ownColor(new QToolButton(this)),
+      m_icon(new QComboBox(this))
 {
     m_color->setAccessibleName(cText::Tr("Farbe"));
     m_icon->setAccessibleName(cText::Tr("Symbol"));
@@ -29,14 +31,16 @@ cLookBox::cLookBox(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_color);
-    layout->addWidget(m_icon);
     layout->addWidget(m_ownColor);
-    m_ownColor->setAutoDefault(false);
+    layout->addWidget(m_icon);
+    m_ownColor->setText(u"…"_s);
+    m_ownColor->setAccessibleName(cText::Tr("Eigene Farbe …"));
+    m_ownColor->setToolTip(cText::Tr("Eigene Farbe …"));
     setFocusProxy(m_color);
     FillColors();
     FillIcons();
     connect(m_color, &QComboBox::activated, this, &cLookBox::FillIcons);
-    connect(m_ownColor, &QPushButton::clicked, this, &cLookBox::AskColor);
+    connect(m_ownColor, &QToolButton::clicked, this, &cLookBox::AskColor);
     for (const QComboBox* box : {m_color, m_icon}) {
         connect(box, &QComboBox::currentIndexChanged, this, &cLookBox::Changed);
     }

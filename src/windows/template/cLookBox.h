@@ -5,10 +5,10 @@
 #include <QWidget>
 
 class QComboBox;
-class QPushButton;
+class QToolButton;
 
-// Colour and picture of a main category, chosen from two lists beside each other; a button asks for a colour of the
-// user's own.
+// Colour and picture of a main category, chosen from two lists beside each other; a button behind the colours asks
+// for one of the user's own.
 class cLookBox final : public QWidget
 {
     Q_OBJECT
@@ -29,6 +29,6 @@ private:
     void AskColor();
 
     QComboBox* m_color;
+    QToolButton* m_ownColor;
     QComboBox* m_icon;
-    QPushButton* m_ownColor;
 };
