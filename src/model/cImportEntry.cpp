@@ -76,8 +76,7 @@ quint64 MixedButBlanks(quint64 hash, const QString& text, const cRoom& room)
     quint64 four = 0;
     qsizetype letters = 0;
     for (const QChar c : text) {
-        const bool isPlain = c > u' ' && c < QChar(0x7F); // nearly all, and cheaply told
-        if (!isPlain && c.isSpace()) {
+        if (c.isSpace()) {
             continue;
         }
         four = four << 16 | c.unicode();

@@ -233,13 +233,9 @@ void ReadDetails(cTransaction& transaction, QStringView content)
     const QChar separator = transaction.Separator.front();
     transaction.Purpose.reserve(content.size());         // it grows with every piece
     const bool hasNoReference = HasNotProvided(content); // quicker asked once
-    // The pieces are so short that calling the library costs more than looking at each letter.
-    const auto find = [&](qsizetype from) {
-        return std::find(content.begin() + from, content.end(), separator) - content.begin();
-    };
-    for (qsizetype at = find(0); at < content.size();) {
-        const qsizetype next = find(at + 1);
-        const QStringView piece = content.mid(at + 1, next - at - 1);
+    for (qsizetype at = content.indexOf(separator); at >= 0;) {
+        const qsizetype next = content.indexOf(separator, at + 1);
+        const QStringView piece = next < 0 ? content.mid(at + 1) : content.mid(at + 1, next - at - 1);
         if (!hasNoReference || !piece.contains(u"referenz notprovided", Qt::CaseInsensitive)) {
             AddSubfield(transaction, SubfieldNumber(piece), piece.mid(2));
         }

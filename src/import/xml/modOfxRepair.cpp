@@ -97,23 +97,9 @@ bool IsEntity(QByteArrayView text)
     return isNumber && code >= 0x20;
 }
 
-QByteArrayView WithoutEndBlanks(QByteArrayView text)
-{
-    while (!text.isEmpty() && IsBlank(text.back())) {
-        text = text.chopped(1);
-    }
-    return text;
-}
-
 // The plain text of a value with what XML does not allow escaped; line breaks become blanks.
 void AppendEscaped(QByteArray& out, QByteArrayView text)
 {
-    // Nearly all values need nothing. The library looks for four characters faster than a loop looks at each.
-    const QByteArrayView words = WithoutEndBlanks(text);
-    if (!words.contains('&') && !words.contains('<') && !words.contains('\n') && !words.contains('\r')) {
-        modBytes::Put(out, {words});
-        text = text.sliced(words.size());
-    }
     constexpr QByteArrayView blank = " ";
     constexpr QByteArrayView less = "&lt;";
     constexpr QByteArrayView ampersand = "&amp;";
