@@ -32,7 +32,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int pageTime = 20;   // milliseconds after which a page in front has read what the balances need as well
+constexpr int pageTime = 100;  // milliseconds that the balances wait for a page in front to read what they need as well
 constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
 
 // One of the five View... switches; null for another key.
@@ -140,6 +140,13 @@ void cMainModel::RefreshView()
     LoadEntries();
     tmrRefreshAccounts.start(m_isPutOff ? pageTime : 0);
     Q_EMIT ViewChanged();
+}
+
+void cMainModel::PageRead()
+{
+    if (tmrRefreshAccounts.isActive()) {
+        tmrRefreshAccounts.start(0);
+    }
 }
 
 bool cMainModel::ReadList()

@@ -94,6 +94,7 @@ public:
     // for.
     void PutOffList() { m_isPutOff = true; }
     [[nodiscard]] bool IsPutOff() const { return m_isPutOff; }
+    void PageRead(); // by what is in sight: balances that wait for it are shown
     // True when the list has been read now, because it was put off.
     bool ReadList();
 

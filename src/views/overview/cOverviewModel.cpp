@@ -95,6 +95,7 @@ void cOverviewModel::Read()
     m_book = cOverviewBook::Read(m_tools);
     m_tasks = cOverviewTasks(m_tools).Quick();
     Build();
+    m_parts.Main.PageRead();
     tmrSeries.start();
 }
 
