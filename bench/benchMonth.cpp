@@ -275,14 +275,10 @@ void AfterUndo(benchmark::State& state, bool isShown)
         (void)cStatementImport(household.Data, hive).ImportFile(household.Path(), {}, progress);
     }
     {
-        cImportReview review(household.Book.Tools());
-        frmImport page(review);
-        page.resize(1280, 800);
-        page.show();
-        QCoreApplication::processEvents();
-        page.setVisible(isShown);
+        cReviewPage page(household.Book.Tools());
+        page.Page.setVisible(isShown);
         for (auto _ : state) {
-            review.StartAfresh();
+            page.Review.StartAfresh();
             QCoreApplication::processEvents();
         }
     }
