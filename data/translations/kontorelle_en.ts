@@ -10882,8 +10882,8 @@ What shall be done?</translation>
         <translation>Books all that the list shows; before that, a question names what is not sure</translation>
     </message>
     <message>
-        <source>Eigene F&amp;arbe …</source>
-        <translation>&amp;Another colour …</translation>
+        <source>Eigene Farbe …</source>
+        <translation>Another colour …</translation>
     </message>
 </context>
 </TS>
