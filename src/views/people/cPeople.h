@@ -48,7 +48,7 @@ public:
     [[nodiscard]] cSettlement Settlement(const modPeriod::cRange& range) const;
 
 private:
-    bool Refuse(const QString& text) const;
+    [[nodiscard]] bool Refuse(const QString& text) const;
     [[nodiscard]] bool IsThere(const QString& name) const; // says when not
     [[nodiscard]] std::optional<QString> Wrong(const QString& name, const QString& except) const;
     [[nodiscard]] QList<int> EntriesOf(const QString& name) const;

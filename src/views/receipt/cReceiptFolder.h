@@ -47,7 +47,7 @@ public:
     // Removes what was copied since this object was made: the action that wanted it failed.
     void TakeBack();
 
-    bool Refuse(const QString& text) const; // shows it; false
+    [[nodiscard]] bool Refuse(const QString& text) const; // shows it; false
 
     [[nodiscard]] static QString NameOf(const cReceiptSource& source); // as the user knows it
     [[nodiscard]] static QList<cReceiptSource> Sources(const QStringList& paths);
