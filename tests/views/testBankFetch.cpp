@@ -294,7 +294,7 @@ private Q_SLOTS:
         scene.AnswerMt940(u"888"_s, month);
         QVERIFY(scene.Fetch.Run({{2}, {}, {}}, scene.Progress));
         QCOMPARE(scene.User.Asked.size(), 1); // about the start balance only
-        QVERIFY(scene.User.Asked.constFirst().startsWith(u"Laut Kontoauszug hatte das Konto 'Bargeld'"));
+        QVERIFY(scene.User.Asked.constFirst().contains(u"auf dem Konto 'Bargeld'"));
         QCOMPARE(scene.Accounts.AccountOf(u"888EUR"_s), u"Bargeld"_s);
     }
 };

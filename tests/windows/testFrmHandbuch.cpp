@@ -78,7 +78,7 @@ private Q_SLOTS:
     {
         const cScene scene;
         scene.Browser->Open(u"02-kontoauszug.html#buchen"_s);
-        const QRect heading = scene.PlaceOf(u"Nach dem Einlesen sind die neuen"_s);
+        const QRect heading = scene.PlaceOf(u"Mit der Eingabetaste allein"_s);
         QVERIFY2(heading.top() > 0 && heading.top() < 100, qPrintable(QString::number(heading.top())));
         QCOMPARE(scene.Contents->currentItem()->text(0), u"Buchen"_s);
     }
