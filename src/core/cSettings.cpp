@@ -13,6 +13,7 @@ cSettings::cSettings(cDataAccess& data) : m_data(data)
 
 void cSettings::Reload()
 {
+    m_values.clear(); // of another file perhaps
     Read();
 }
 
@@ -26,8 +27,11 @@ void cSettings::CatchUp() const
 void cSettings::Read() const
 {
     m_timesPutBack = m_data.Journal().TimesPutBack();
-    m_values.clear();
     const QList<std::pair<QString, QString>> rows = m_data.GetSettings();
+    if (rows.isEmpty() && !m_data.IsWhole()) {
+        return; // lists that are changed and stored again would begin anew
+    }
+    m_values.clear();
     for (const auto& [name, value] : rows) {
         m_values.insert(name.toLower(), {name, value});
     }

@@ -133,7 +133,10 @@ void cJournal::Revert()
 // In portions, what was written so far is put into the file.
 bool cJournal::KeepPortion()
 {
-    return m_depth == 0 || m_writes == eWrites::Whole || Try(u"EndStep", [this] { m_database.CommitGathered(); });
+    const bool isKept =
+        m_depth == 0 || m_writes == eWrites::Whole || Try(u"EndStep", [this] { m_database.CommitGathered(); });
+    m_timesPutBack += isKept ? 0 : 1;
+    return isKept;
 }
 
 void cJournal::BeginPart()

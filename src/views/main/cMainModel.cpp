@@ -234,8 +234,11 @@ void cMainModel::BookChanged()
     m_balancesOf = QDate();
     m_accountItems = modTemplate::InOrder(m_tools.Data.GetAccounts());
     TakeAccount();
-    m_view.TakeKnownPayer(m_tools.Settings);
-    m_detour.Own(m_view).TakeKnownPayer(m_tools.Settings);
+    cViewState& own = m_detour.Own(m_view);
+    own.TakeKnownPayer(m_tools.Settings);
+    if (&own != &m_view) {
+        m_view.DropUnknownPayer(m_tools.Settings);
+    }
     RefreshView();
     Q_EMIT BookRefreshed();
 }

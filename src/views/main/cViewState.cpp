@@ -35,6 +35,11 @@ modPeriod::cRange FreeRange(const QString& start, const QString& end)
     return isRead(start, range.Start) && isRead(end, range.End) && !isTurned ? range : modPeriod::cRange{};
 }
 
+bool IsKnown(const QString& payer, const cSettings& settings)
+{
+    return modPeople::IsChoice(payer, modPeople::NamesOf(settings.Get(modSettingKey::People)));
+}
+
 eBookingKind Kind(const cViewState& view)
 {
     if (view.ShowsSingle && view.ShowsFix) {
@@ -67,11 +72,15 @@ void cViewState::Restore(const cSettings& settings, const QStringList& accounts,
 
 void cViewState::TakeKnownPayer(const cSettings& settings)
 {
-    const QStringList people = modPeople::NamesOf(settings.Get(modSettingKey::People));
-    if (!modPeople::IsChoice(Payer, people)) {
-        const QString stored = settings.Get(modSettingKey::MainPayer);
-        Payer = modPeople::IsChoice(stored, people) ? stored : QString();
+    if (!IsKnown(Payer, settings)) {
+        Payer = settings.Get(modSettingKey::MainPayer);
+        DropUnknownPayer(settings);
     }
+}
+
+void cViewState::DropUnknownPayer(const cSettings& settings)
+{
+    Payer = IsKnown(Payer, settings) ? Payer : QString();
 }
 
 void cViewState::Save(cSettings& settings) const

@@ -31,6 +31,7 @@ struct cViewState
 
     // People come and go and get other names, which the settings follow; one who is gone is no choice any more.
     void TakeKnownPayer(const cSettings& settings);
+    void DropUnknownPayer(const cSettings& settings); // the same for a view that is not stored
 
     // Writes the eight selector keys that changed.
     void Save(cSettings& settings) const;

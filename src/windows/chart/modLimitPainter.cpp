@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -60,7 +61,8 @@ void LayOutPanel(const cChartScene& scene, cChartLayout& layout, int series, con
         layout.Hits.push_back({{series, index},
                                QRectF(QPointF(x - width / 2, std::min(y, zero)),
                                       QPointF(x + width / 2, std::max({y, zero, std::min(y, zero) + 1})))});
-        limits.emplace_back(x, panel.Axis.Y(scene.Data.Series[series + 1].At(index).value_or(0), panel.Plot));
+        const std::optional<qint64> limit = scene.Data.Series[series + 1].At(index);
+        limits.emplace_back(x, limit ? panel.Axis.Y(*limit, panel.Plot) : std::numeric_limits<double>::quiet_NaN());
     }
     layout.Panels.push_back(panel);
 }
@@ -155,10 +157,9 @@ void PaintPanel(QPainter& painter, const cChartScene& scene, const cChartLayout&
                 const cChartLayout::cPanel& panel)
 {
     const auto limitAt = [&](int index) {
-        const bool isThere = scene.Data.Series[panel.Series + 1].At(index).has_value();
         const QPointF& point =
             layout.Points[static_cast<std::size_t>(panel.Series) + 1][static_cast<std::size_t>(index)];
-        return isThere ? std::optional(point) : std::nullopt;
+        return std::isnan(point.y()) ? std::nullopt : std::optional(point);
     };
     const double zero = panel.Axis.Y(0, panel.Plot);
     painter.setPen(QPen(modChartColour::Mixed(modChartColour::Grid(scene.Style.Palette), scene.Text(), 0.45), 1));
