@@ -100,8 +100,14 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
     }
     offer.Bank = *bank;
     offer.LastDay = ledger.Rows().constLast().ImportDate;
-    offer.Last = std::accumulate(ledger.Rows().begin(), ledger.Rows().end(), *bank,
-                                 [](qint64 sum, const cImportEntry& row) { return sum + row.ImportValue; });
+    const modBalanceCheck::cResult& check = ledger.Check();
+    if (check.IsAnchored && check.ErrorOn(offer.LastDay) != check.ErrorOn(offer.Day)) {
+        offer.LastDay = offer.Day; // rows are missing in between, so the book will not come to what the bank says last
+        offer.Last = *bank;
+    } else {
+        offer.Last = std::accumulate(ledger.Rows().begin(), ledger.Rows().end(), *bank,
+                                     [](qint64 sum, const cImportEntry& row) { return sum + row.ImportValue; });
+    }
     offer.FormerDay = ledger.Check().IsAnchored ? QDate() : stored->EntryDate;
     const cEntryItemList entries =
         m_tools.Data.GetEntries({{}, offer.Day.addDays(drawnDays), {}, offer.Account, {}, eBookingKind::All});

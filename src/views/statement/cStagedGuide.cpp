@@ -24,12 +24,10 @@ cStagedGuide::cStop cStagedGuide::Staged(const QList<int>& ids)
     if (m_parts.Proposals.IsHigh()) {
         return {ids};
     }
-    if (const QList<int> sure = Sure(ids); !sure.isEmpty()) {
-        return {sure};
-    }
-    QList<int> order = m_parts.View.Rows().OpenIds();
+    QList<int> order = m_parts.View.Rows().OpenIds(); // without those that a filter hides
     order.removeIf([&](int id) { return !ids.contains(id); });
-    return LookAt(NextToLook(order, 0));
+    const QList<int> sure = Sure(order);
+    return sure.isEmpty() ? LookAt(NextToLook(order, 0)) : cStop{sure};
 }
 
 cStagedGuide::cBefore cStagedGuide::Before(const QList<int>& booked) const
@@ -51,6 +49,9 @@ cStagedGuide::cStop cStagedGuide::After(const cBefore& before, const QList<int>&
     const QList<int> open = m_parts.View.Rows().OpenIds();
     const QList<int> sure = Sure(open);
     if (before.Booked.size() != 1) {
+        if (const int left = NextToLook(before.Booked, 0); left != 0) {
+            return LookAt(left); // wanted, and left out by the answer to the question
+        }
         return sure.isEmpty() ? LookAt(NextToLook(open, 0)) : cStop{};
     }
     if (const int next = NextToLook(before.Open, before.Booked.constFirst()); next != 0) {

@@ -100,8 +100,7 @@ cStagedActions::cStagedActions(cImportReview& review, cStagedTree& tree, QWidget
 
 void cStagedActions::Run(eId id)
 {
-    m_tree.LeaveField();
-    if (!Get(id)->isEnabled()) {
+    if (!m_tree.LeaveField() || !Get(id)->isEnabled()) {
         return;
     }
     const QList<int> ids = m_tree.SelectedIds();

@@ -50,9 +50,10 @@ QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& ind
     connect(
         box, &cCategoryBox::PathPicked, box,
         [delegate, box] {
-            Q_EMIT delegate->commitData(box);
             // Leaving the field picks what was typed as well, but nobody has confirmed that.
-            Q_EMIT delegate->closeEditor(box, box->hasFocus() ? SubmitModelCache : NoHint);
+            const bool isEntered = box->hasFocus();
+            Q_EMIT delegate->commitData(box); // hides the field where the row goes to another group
+            Q_EMIT delegate->closeEditor(box, isEntered ? SubmitModelCache : NoHint);
         },
         Qt::QueuedConnection);
     connect(

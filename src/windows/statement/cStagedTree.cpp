@@ -211,9 +211,9 @@ void cStagedTree::SelectIds(const QList<int>& ids)
     if (!selection.isEmpty()) {
         const QModelIndex first = selection.constFirst().topLeft();
         selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-        selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
         scrollTo(first);
     }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect); // nothing when a filter hides them
     setFocus();
 }
 
@@ -230,11 +230,15 @@ void cStagedTree::OpenCategory(int id)
     m_field = indexWidget(category);
 }
 
-void cStagedTree::LeaveField()
+bool cStagedTree::LeaveField()
 {
-    if (state() == EditingState) {
-        setFocus();
+    if (state() != EditingState) {
+        return true;
     }
+    const auto* box = qobject_cast<const cCategoryBox*>(indexWidget(currentIndex()));
+    const bool isNamed = box == nullptr || box->UnknownText().isEmpty();
+    setFocus();
+    return isNamed;
 }
 
 // A text that names no category is asked about first.
@@ -248,6 +252,9 @@ void cStagedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHin
     }
     const int id = m_model.IdAt(currentIndex());
     QTreeView::closeEditor(editor, hint);
+    if (hint == QAbstractItemDelegate::SubmitModelCache) {
+        setFocus(); // also where the field went when its row moved to another group
+    }
     if (isEntered) {
         Q_EMIT CategoryEntered(id);
     }
