@@ -24,7 +24,8 @@ public:
     void SelectIds(const QList<int>& ids);        // and takes the focus, so that Enter books them
     // Selects one row and opens the field of its category. Enter there takes what it holds and tells so.
     void OpenCategory(int id);
-    // What stands in an open field is taken, as by leaving it. False when it names no category yet: that is asked first.
+    // What stands in an open field is taken, as by leaving it. False when it names no category yet: that is asked
+    // first.
     bool LeaveField();
 
     void SetEmptyText(const QString& title, const QString& hint);
