@@ -99,6 +99,7 @@ private Q_SLOTS:
     void AsksBeforeASeriesIsCorrected() const;
     void SaysWhyThereIsNoEntry() const;
     void Releases() const;
+    void WhatNobodySeesIsReadWhenItIsShown() const;
 };
 
 void testImportMatch::MatchesInOneStep() const
@@ -381,6 +382,16 @@ void testImportMatch::Releases() const
     QVERIFY(page.Data.LoadEntry(entry));
     QVERIFY(page.Data.Journal().Undo());
     QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
+}
+
+void testImportMatch::WhatNobodySeesIsReadWhenItIsShown() const
+{
+    cPage page;
+    page.Review.SetShown(false);
+    (void)page.Stage(-23.1, u"REWE"_s);
+    QCOMPARE(page.Review.Rows().rowCount(), 0);
+    page.Review.SetShown(true);
+    QTRY_COMPARE(page.Review.Rows().rowCount(), 1);
 }
 
 TEST_CLASS(testImportMatch, QCoreApplication)

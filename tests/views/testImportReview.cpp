@@ -397,17 +397,6 @@ private Q_SLOTS:
         QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
     }
 
-    void WhatNobodySeesIsReadWhenItIsShown()
-    {
-        cPage page;
-        page.ImportFixture();
-        page.Review.SetShown(false);
-        page.AddRow([](cImportEntry&) {});
-        QCOMPARE(page.Review.Rows().rowCount(), 5);
-        page.Review.SetShown(true);
-        QTRY_COMPARE(page.Review.Rows().rowCount(), 6);
-    }
-
     void ShowsWhatIsToBeDone()
     {
         cPage page;

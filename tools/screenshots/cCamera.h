@@ -15,7 +15,7 @@
 inline const QDate sceneDay(2026, 11, 21);
 
 // Lets everything that is waiting be done and painted, also what a page reads a moment after it is shown.
-inline void Settle(int milliseconds = 60)
+inline void Settle(int milliseconds = 150)
 {
     QEventLoop waiting;
     QTimer::singleShot(milliseconds, &waiting, &QEventLoop::quit);
