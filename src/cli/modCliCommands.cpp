@@ -23,6 +23,7 @@ int modCliCommands::Fd(const cCliContext& context, const QString& option)
     return isNumber ? number : -1;
 }
 
+// A table, a line for each. NOLINTNEXTLINE(readability-function-size)
 const QList<cCliCommand>& modCliCommands::All()
 {
     static const QList<cCliCommand> commands{
