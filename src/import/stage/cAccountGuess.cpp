@@ -26,7 +26,7 @@ eKind KindOfName(const cTemplateItem& account)
     struct cWord
     {
         QLatin1StringView Part;
-        eKind Kind;
+        eKind Kind = eKind::Unknown;
     };
     static constexpr std::array words{cWord{"spar"_L1, eKind::Savings},     cWord{"tagesgeld"_L1, eKind::Savings},
                                       cWord{"festgeld"_L1, eKind::Savings}, cWord{"karte"_L1, eKind::Card},
