@@ -14,6 +14,7 @@ QString cSettingFamily::PartOf(const QString& name) const
     return Holds(name) ? name.mid(m_head.size(), name.size() - m_head.size() - m_tail.size()) : QString();
 }
 
+// A table. NOLINTNEXTLINE(readability-function-size)
 std::span<const cSettingKey* const> modSettingKey::All()
 {
     // One line each, whatever their number.

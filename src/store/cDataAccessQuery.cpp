@@ -484,6 +484,21 @@ bool ReadWindowRows(cDatabase& database, const modPeriod::cRange& range, cWindow
     return isClear;
 }
 
+// The occurrences of the window's series: sums of those before it, entries of those within.
+void ExpandInto(cDatabase& database, const cEntryQuery& before, const cEntryQuery& within, cWindowRows& window)
+{
+    cSeriesExpander expander(database);
+    for (const cEntryItem& series : std::as_const(window.Series)) {
+        if (!series.EntryDate.isValid()) {
+            continue; // no statement finds a day that nobody can read
+        }
+        cEntryItemList earlier;
+        expander.Expand(series, before, earlier);
+        (IsStart(series) ? window.StartBefore : window.Before).AddSeries(earlier);
+        expander.Expand(series, within, window.Single);
+    }
+}
+
 } // namespace
 
 cEntryItemList cDataAccess::GetEntries(const cEntryQuery& query)
@@ -536,16 +551,7 @@ cEntryWindow cDataAccess::GetWindow(const modPeriod::cRange& days, QDate balance
         const cDatabase::cChangeMark mark = m_database.ChangeMark(); // before, in case another program writes meanwhile
         cWindowRows rows;
         isClear = ReadWindowRows(m_database, days, rows);
-        cSeriesExpander expander(m_database);
-        for (const cEntryItem& series : std::as_const(rows.Series)) {
-            if (!series.EntryDate.isValid()) {
-                continue; // no statement finds a day that nobody can read
-            }
-            cEntryItemList earlier;
-            expander.Expand(series, before, earlier);
-            (IsStart(series) ? rows.StartBefore : rows.Before).AddSeries(earlier);
-            expander.Expand(series, within, rows.Single);
-        }
+        ExpandInto(m_database, before, within, rows);
         window.Entries = std::move(rows.Single);
         window.Series = std::move(rows.Series);
         window.Before = rows.Before.Take() + rows.StartBefore.Take();

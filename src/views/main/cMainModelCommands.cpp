@@ -26,6 +26,7 @@ QString HiddenText()
 
 } // namespace
 
+// A line for each command. NOLINTNEXTLINE(readability-function-size)
 bool cMainModel::Execute(int command)
 {
     const modCommand::cCommand* known = modCommand::Find(command);

@@ -30,8 +30,8 @@ public:
     [[nodiscard]] static QString SharesText(const modPeople::cShares& shares);
 
     // These show what is wrong and return false.
-    bool Add(const QString& name);
-    bool Rename(const QString& oldName, const QString& newName);
+    bool Add(const QString& typed);
+    bool Rename(const QString& oldName, const QString& typed);
     bool Remove(const QString& name); // asks before
     // Percentages as typed, in the order of the names, all empty for nothing set. They are stored once they come to
     // 100; until then what is wrong with them, else an empty text.

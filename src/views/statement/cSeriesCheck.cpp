@@ -51,6 +51,19 @@ cEntryItem PlannedAt(const cEntryItem& series, const cEntryItemFixModList& fixMo
     return found == occurrences.end() ? cEntryItem() : *found;
 }
 
+QDate Earlier(QDate first, QDate second)
+{
+    return first.isValid() ? std::min(first, second) : second;
+}
+
+// Where a late occurrence moves to: behind the rows. None when they reach past the next but one, without which the
+// series went on.
+QDate DayToMoveTo(const QString& interval, QDate planned, QDate lastCovered)
+{
+    const QDate second = modRecurrence::Next(modRecurrence::Next(planned, interval), interval);
+    return second.addDays(modOccurrence::Reach(interval)) <= lastCovered ? QDate() : lastCovered.addDays(1);
+}
+
 } // namespace
 
 cSeriesCheck::cSeriesCheck(const cBookTools& tools, cImportHiveCache& hive, const cAccountMap& accounts)
@@ -193,16 +206,14 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
             continue;
         }
         if (isTrailing && planned.addDays(reach) <= known) {
-            base.Occurrence = base.Occurrence.isValid() ? std::min(base.Occurrence, planned) : planned;
+            base.Occurrence = Earlier(base.Occurrence, planned);
             ++missed;
         }
         if (cents != 0 && occurrence.EntryDate <= covered.End) {
-            const QDate second = modRecurrence::Next(modRecurrence::Next(planned, series.Entry.EntryInterval),
-                                                     series.Entry.EntryInterval);
             cFinding finding = base;
             finding.IsLate = true;
             finding.Occurrence = planned;
-            finding.MoveTo = second.addDays(reach) <= covered.End ? QDate() : covered.End.addDays(1);
+            finding.MoveTo = DayToMoveTo(series.Entry.EntryInterval, planned, covered.End);
             late.append(finding);
         }
     }

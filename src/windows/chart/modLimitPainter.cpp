@@ -194,8 +194,9 @@ void modLimitPainter::LayOut(const cChartScene& scene, cChartLayout& layout)
     layout.Reach = scene.Em() * 0.3;
     layout.Points.resize(static_cast<std::size_t>(scene.SeriesCount()));
     for (int panel = 0; panel < panels; ++panel) {
+        const int row = panel / columns;
         const double left = layout.Plot.left() + panel % columns * (width + gap);
-        const double top = layout.Plot.top() + panel / columns * (height + scene.Em() * 0.4);
+        const double top = layout.Plot.top() + row * (height + scene.Em() * 0.4);
         LayOutPanel(scene, layout, panel * 2, QRectF(left, top, width, height));
     }
 }

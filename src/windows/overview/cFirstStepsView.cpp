@@ -30,9 +30,9 @@ QLabel* Heading(const QString& text, QWidget* parent)
 
 } // namespace
 
-cFirstStepsView::cFirstStepsView(cFirstSteps steps, const QList<cWay>& ways, QWidget* parent)
+cFirstStepsView::cFirstStepsView(const cFirstSteps& steps, const QList<cWay>& ways, QWidget* parent)
     : QFrame(parent),
-      m_steps(std::move(steps)),
+      m_steps(steps),
       m_problem(new QLabel(this))
 {
     auto* layout = new QVBoxLayout(this);

@@ -25,7 +25,7 @@ public:
         std::function<void()> Go;
     };
 
-    cFirstStepsView(cFirstSteps steps, const QList<cWay>& ways, QWidget* parent = nullptr);
+    cFirstStepsView(const cFirstSteps& steps, const QList<cWay>& ways, QWidget* parent = nullptr);
 
     // Reads the accounts again, unless somebody is typing here.
     void Refresh();
