@@ -212,9 +212,9 @@ void cHouseholdPlay::CheckAccount(const cHousehold::cAccount& account, QDate unt
 void cHouseholdPlay::CheckRows()
 {
     const cImportEntryList rows = m_data.GetImportEntries();
+    const QDate end = m_first.addMonths(m_months);
     for (const cHousehold::cAccount& account : m_household.Accounts()) {
-        QMultiMap<std::pair<QDate, qint64>, const cHousehold::cBooking*> wanted;
-        const QDate end = m_first.addMonths(m_months);
+        cWanted wanted;
         for (const cHousehold::cBooking& booking : account.Bookings) {
             if (booking.Day < end) {
                 wanted.insert({booking.Day, booking.Cents}, &booking);
@@ -222,36 +222,9 @@ void cHouseholdPlay::CheckRows()
             }
         }
         for (const cImportEntry& row : rows) {
-            if (row.ImportAccount != account.Iban) {
-                continue;
+            if (row.ImportAccount == account.Iban) {
+                CheckRow(row, wanted);
             }
-            const std::pair key(row.ImportDate, row.ImportValue);
-            QList<const cHousehold::cBooking*> bookings = wanted.values(key);
-            std::stable_sort(bookings.begin(), bookings.end(), [&](const auto* a, const auto* b) {
-                return (a->Iban == row.ImportBeneficiaryAccount) > (b->Iban == row.ImportBeneficiaryAccount);
-            });
-            m_figures.Open += row.ImportAssigned ? 0 : 1;
-            if (bookings.isEmpty()) {
-                ++m_figures.Lost;
-                m_figures.Mistakes.append(u"twice: %1 %2 %3"_s.arg(row.ImportDate.toString(Qt::ISODate),
-                                                                   Euros(row.ImportValue), row.ImportBeneficiary));
-                continue;
-            }
-            const cHousehold::cBooking& booking = *bookings.constFirst();
-            wanted.remove(key, &booking);
-            m_figures.Sure += m_sure.contains(row.ID) ? 1 : 0;
-            if (booking.Category.isEmpty() || !row.ImportAssigned) {
-                continue;
-            }
-            const QString category = m_data.LoadEntry(row.ImportAssignedEntry).value_or(cEntryItem()).EntryCategory;
-            ++m_figures.Known;
-            if (booking.Category.contains(category)) {
-                ++m_figures.Right;
-                continue;
-            }
-            m_figures.SureWrong += m_sure.contains(row.ID) ? 1 : 0;
-            m_figures.Mistakes.append(u"%1 %2 as %3%4"_s.arg(booking.Name, booking.Purpose, category,
-                                                             m_sure.contains(row.ID) ? u" (sure)"_s : QString()));
         }
         m_figures.Lost += static_cast<int>(wanted.size());
         for (const cHousehold::cBooking* booking : std::as_const(wanted)) {
@@ -259,4 +232,39 @@ void cHouseholdPlay::CheckRows()
                 u"lost: %1 %2 %3"_s.arg(booking->Day.toString(Qt::ISODate), Euros(booking->Cents), booking->Name));
         }
     }
+}
+
+// Takes what the row stands for out of what is wanted.
+void cHouseholdPlay::CheckRow(const cImportEntry& row, cWanted& wanted)
+{
+    const std::pair key(row.ImportDate, row.ImportValue);
+    QList<const cHousehold::cBooking*> bookings = wanted.values(key);
+    std::stable_sort(bookings.begin(), bookings.end(), [&](const auto* a, const auto* b) {
+        return (a->Iban == row.ImportBeneficiaryAccount) > (b->Iban == row.ImportBeneficiaryAccount);
+    });
+    m_figures.Open += row.ImportAssigned ? 0 : 1;
+    if (bookings.isEmpty()) {
+        ++m_figures.Lost;
+        m_figures.Mistakes.append(u"twice: %1 %2 %3"_s.arg(row.ImportDate.toString(Qt::ISODate), Euros(row.ImportValue),
+                                                           row.ImportBeneficiary));
+        return;
+    }
+    wanted.remove(key, bookings.constFirst());
+    m_figures.Sure += m_sure.contains(row.ID) ? 1 : 0;
+    if (!bookings.constFirst()->Category.isEmpty() && row.ImportAssigned) {
+        CheckCategory(row, *bookings.constFirst());
+    }
+}
+
+void cHouseholdPlay::CheckCategory(const cImportEntry& row, const cHousehold::cBooking& booking)
+{
+    const QString category = m_data.LoadEntry(row.ImportAssignedEntry).value_or(cEntryItem()).EntryCategory;
+    ++m_figures.Known;
+    if (booking.Category.contains(category)) {
+        ++m_figures.Right;
+        return;
+    }
+    m_figures.SureWrong += m_sure.contains(row.ID) ? 1 : 0;
+    m_figures.Mistakes.append(u"%1 %2 as %3%4"_s.arg(booking.Name, booking.Purpose, category,
+                                                     m_sure.contains(row.ID) ? u" (sure)"_s : QString()));
 }

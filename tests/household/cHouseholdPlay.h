@@ -6,9 +6,12 @@
 #include "views/statement/cImportReview.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+
+#include <utility>
 
 // Somebody who always presses Enter. What has no default is answered by what the person knows: which account is which.
 class cEnterUser final : public cUser
@@ -70,7 +73,11 @@ private:
     void LookThrough();
     void Check(int month);
     void CheckAccount(const cHousehold::cAccount& account, QDate until);
+    using cWanted = QMultiMap<std::pair<QDate, qint64>, const cHousehold::cBooking*>; // by day and cents
+
     void CheckRows();
+    void CheckRow(const cImportEntry& row, cWanted& wanted);
+    void CheckCategory(const cImportEntry& row, const cHousehold::cBooking& booking);
 
     const cHousehold& m_household;
     QDate m_first;
