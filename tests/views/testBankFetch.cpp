@@ -30,7 +30,7 @@ public:
     eApproval WaitForApproval(const cApproval& /*approval*/) override { return eApproval::Cancel; }
     void EndApproval() override {}
     void ShowStep(const QString& /*text*/) override {}
-    bool IsCancelled() const override { return false; }
+    [[nodiscard]] bool IsCancelled() const override { return false; }
 
     QStringList Asked;
     QStringList NoPin;
@@ -110,7 +110,7 @@ struct cScene : cTestBook
         Answers[number].BalanceDay = month.Bookings.last().Day;
     }
 
-    QString Text(qsizetype place)
+    [[nodiscard]] QString Text(qsizetype place) const
     {
         QString text = Fetch.Lines().at(place).Text;
         return text.replace(u'\u00A0', u' ');

@@ -86,7 +86,7 @@ void testBankSetup::SetsUp()
     scene.Type();
     QVERIFY2(setup.Next(), qPrintable(setup.Problem() + setup.BankWords()));
     QCOMPARE(setup.Page(), ePage::Accounts); // there is one procedure only
-    QVERIFY(!scene.Book.Data.GetOnlineAccounts().size());
+    QVERIFY(scene.Book.Data.GetOnlineAccounts().isEmpty());
     QCOMPARE(BookAccounts(setup), QStringList({u"Girokonto"_s, u"Tagesgeld"_s}));
     QCOMPARE(setup.Accounts().Note(0), QString());
     QCOMPARE(setup.Accounts().Note(1), u"wird neu angelegt"_s);

@@ -301,7 +301,7 @@ void testPeople::ListsAreNarrowedToAPayer()
     cPeople people(book.Tools);
     QVERIFY(people.Add(u"Anna"_s) && people.Add(u"Ben"_s));
     for (const auto& [payer, cents] : {std::pair{u"Anna"_s, 100}, {u"Ben"_s, 20}, {u""_s, 3}}) {
-        book.Add([&](cEntryItem& entry) {
+        book.Add([&payer = payer, cents = cents](cEntryItem& entry) {
             entry.EntryValue = cents;
             entry.EntryDescription = u"für Ben"_s; // his name alone does not make him the payer
             modPeople::SetPayer(entry, payer);
