@@ -64,7 +64,7 @@ public:
         }
         qFatal("no such button");
     }
-    QString Selected()
+    [[nodiscard]] QString Selected() const
     {
         const cTemplateNode* node = Tree(Tabs.currentIndex()).Current();
         return node == nullptr ? QString() : node->Path;
