@@ -40,4 +40,6 @@ struct cImportEntry
     bool operator==(const cImportEntry&) const = default;
 };
 
+Q_DECLARE_TYPEINFO(cImportEntry, Q_RELOCATABLE_TYPE); // long lists grow without copying each record
+
 using cImportEntryList = QList<cImportEntry>;

@@ -182,6 +182,11 @@ cImportEntryList cImportHive::GetImportEntryByArea(int entryId, QDate from, QDat
     return entries;
 }
 
+void cImportHive::Reserve(qsizetype rows)
+{
+    m_entries.reserve(m_entries.size() + rows);
+}
+
 void cImportHive::Add(const cImportEntry& entry)
 {
     m_entries.insert(PlaceFor(m_entries, entry.ID, IdOf), entry);

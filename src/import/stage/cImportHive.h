@@ -45,6 +45,7 @@ public:
     // The rows of the entry from `from` to `to`, both included.
     [[nodiscard]] cImportEntryList GetImportEntryByArea(int entryId, QDate from, QDate to) const;
 
+    void Reserve(qsizetype rows); // so many are to be added
     // Keep the rows in step with single writes to the table. The rows stay in the order of their IDs.
     void Add(const cImportEntry& entry);
     void Change(const cImportEntry& entry);

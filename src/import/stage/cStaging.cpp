@@ -37,8 +37,11 @@ cImportEntryList cStaging::Rows()
     return Hive(eKeepCache::FromOthers).getImportEntryList();
 }
 
-void cStaging::StartSource()
+void cStaging::StartSource(qsizetype rows)
 {
+    if (m_trial) {
+        m_trial->Reserve(rows);
+    }
     m_newest = Hive(eKeepCache::No).NextId() - 1;
 }
 

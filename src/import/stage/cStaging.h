@@ -33,7 +33,7 @@ public:
     [[nodiscard]] int CountButBlanks(const cImportEntry& entry);
     [[nodiscard]] cImportEntryList Rows(); // all that are staged
     // The records of another file follow. What one source tells apart, if only by a blank, are two transactions.
-    void StartSource();
+    void StartSource(qsizetype rows);
 
     // The own account numbers of the staged rows, in the order of the rows. Asked before the records of a file are
     // staged, because it also looks for what other programs have written; the single records do not.

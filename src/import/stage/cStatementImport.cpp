@@ -427,7 +427,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
                              cImportResult& result, const cFetchMemory* memory)
 {
     cStaging& staging = StagingFor(options.Run);
-    staging.StartSource();
+    staging.StartSource(read.Entries.size());
     cKnownAccounts known(staging.Accounts(), m_balances);
     known.UseIn(read);
     if (options.Duplicates == eDuplicateTest::Test) {
@@ -438,6 +438,9 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     result.Problems = read.Problems;
     result.Skipped = read.Skipped;
     result.Accounts = cImportHive::AccountsOf(read.Entries);
+    if (options.Run == eStagingRun::Try) {
+        result.Rows.reserve(result.Read);
+    }
     cTally tally(result);
     cGate gate(staging, options.Duplicates, memory);
     for (int i = 0; i < result.Read; ++i) {
