@@ -227,6 +227,21 @@ void CreateIndexes(cDatabase& database)
     }
 }
 
+// Setting what is set already would write the file, and wait for the disk, at every start.
+void VacuumInSteps(cDatabase& database)
+{
+    constexpr int incremental = 2;
+    try {
+        cRows rows(database, "PRAGMA auto_vacuum");
+        if (rows.Next() && rows.Integer(0) == incremental) {
+            return;
+        }
+    } catch (const cDatabaseError&) {
+        // It is tried all the same.
+    }
+    database.TryExecute("PRAGMA auto_vacuum=2");
+}
+
 // What the upgrade does to the tables and their rows. In the file it is one transaction, so that a program that is
 // killed meanwhile leaves no half upgraded book; what fails in it is passed over.
 void BringUpToDate(cDatabase& database)
@@ -382,7 +397,7 @@ QStringList modSchema::Upgrade(cDatabase& database)
     time.start();
     const QStringList before = Absent(database);
     database.TryExecute("PRAGMA synchronous=OFF");
-    database.TryExecute("PRAGMA auto_vacuum=2");
+    VacuumInSteps(database);
     BringUpToDate(database);
     const QStringList after = before.isEmpty() ? QStringList() : Absent(database);
     QStringList added;

@@ -91,12 +91,17 @@ int SyncJournal(sqlite3_file* file)
     return result;
 }
 
+bool IsWritten(const cSyncFile& file, eKind kind, std::string_view name)
+{
+    return file.Kind == kind && file.IsUnsynced && name == file.Name;
+}
+
 // Syncs what was written to the open files of this kind and name.
 int SyncAll(eKind kind, std::string_view name)
 {
     const std::lock_guard lock(openGuard);
     for (cSyncFile* file : openFiles) {
-        if (file->Kind == kind && file->IsUnsynced && name == file->Name) {
+        if (IsWritten(*file, kind, name)) {
             const int result = kind == eKind::Journal ? SyncJournal(&file->Base) : SyncFile(&file->Base);
             if (result != SQLITE_OK) {
                 return result;
@@ -235,8 +240,14 @@ int Delete(sqlite3_vfs*, const char* name, int isDirectorySynced)
     if (!isJournal) {
         return below->xDelete(below, name, isDirectorySynced);
     }
-    const int result = SyncAll(eKind::Book, BookOf(path));
-    return result == SQLITE_OK ? below->xDelete(below, name, 1) : result;
+    const std::string_view book = BookOf(path);
+    const std::lock_guard lock(openGuard);
+    // A journal that comes back after a power cut does no harm to a book that was never touched, and most starts only
+    // try whether they could write.
+    const bool isTouched = std::any_of(openFiles.begin(), openFiles.end(),
+                                       [&](const cSyncFile* file) { return IsWritten(*file, eKind::Book, book); });
+    const int result = SyncAll(eKind::Book, book);
+    return result == SQLITE_OK ? below->xDelete(below, name, isTouched ? 1 : 0) : result;
 }
 
 } // namespace
