@@ -14,25 +14,28 @@ cSettings::cSettings(cDataAccess& data) : m_data(data)
 void cSettings::Reload()
 {
     m_values.clear(); // of another file perhaps
+    m_timesPutBack.reset();
     Read();
 }
 
 void cSettings::CatchUp() const
 {
-    if (m_timesPutBack != m_data.Journal().TimesPutBack() && !m_data.IsReadOnly()) {
+    if (m_timesPutBack != m_data.Journal().TimesPutBack() && m_failedAt != m_data.TimesDone() && !m_data.IsReadOnly()) {
         Read();
     }
 }
 
 void cSettings::Read() const
 {
-    m_timesPutBack = m_data.Journal().TimesPutBack();
-    const QList<std::pair<QString, QString>> rows = m_data.GetSettings();
-    if (rows.isEmpty() && !m_data.IsWhole()) {
+    const auto rows = m_data.ReadSettings();
+    if (!rows) {
+        m_failedAt = m_data.TimesDone();
         return; // lists that are changed and stored again would begin anew
     }
+    m_failedAt.reset();
+    m_timesPutBack = m_data.Journal().TimesPutBack();
     m_values.clear();
-    for (const auto& [name, value] : rows) {
+    for (const auto& [name, value] : *rows) {
         m_values.insert(name.toLower(), {name, value});
     }
 }

@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QString>
 
+#include <optional>
+
 class cDataAccess;
 class cSettingKey;
 
@@ -46,7 +48,8 @@ public:
 
 private:
     void Read() const;
-    // Reads again where rows were put back meanwhile.
+    // Reads again where rows were put back meanwhile or the last reading failed. A failed one waits until the file has
+    // given something else: it would hold up every caller as long as somebody has locked the file.
     void CatchUp() const;
     bool DeleteStored(const QString& name);
 
@@ -57,6 +60,7 @@ private:
     };
 
     cDataAccess& m_data;
-    mutable QMap<QString, cValue> m_values; // by lower-cased name
-    mutable quint64 m_timesPutBack = 0;     // of the journal, when they were read
+    mutable QMap<QString, cValue> m_values;        // by lower-cased name
+    mutable std::optional<quint64> m_timesPutBack; // of the journal, when they were read
+    mutable std::optional<quint64> m_failedAt;     // operations done when the last reading failed
 };

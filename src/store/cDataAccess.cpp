@@ -3,6 +3,8 @@
 #include "store/cDatabase.h"
 #include "store/modFailure.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 cDataAccess::cDataAccess(cDatabase& database, cUser& user)
     : m_database(database),
       m_user(user),
@@ -27,13 +29,16 @@ QString cDataAccess::BookPath() const
     return m_database.Path();
 }
 
-eDatabaseFault cDataAccess::Try(const char* name, const std::function<void()>& operation)
+eDatabaseFault cDataAccess::Try(const char* name, const std::function<void()>& operation, bool isTold)
 {
     try {
         operation();
+        ++m_timesDone;
         return eDatabaseFault::None;
     } catch (const std::exception& error) {
-        modFailure::Show(m_user, QString::fromLatin1(name), error);
+        if (!isTold) {
+            modFailure::Show(m_user, QString::fromLatin1(name), error);
+        }
         const auto* fault = dynamic_cast<const cDatabaseError*>(&error);
         return fault != nullptr ? fault->Fault() : eDatabaseFault::Other;
     }
@@ -51,9 +56,9 @@ bool cDataAccess::Write(const char* name, const std::function<void()>& operation
         == eDatabaseFault::None;
 }
 
-bool cDataAccess::Read(const char* name, const std::function<void()>& operation)
+bool cDataAccess::Read(const char* name, const std::function<void()>& operation, bool isTold)
 {
-    const eDatabaseFault fault = Try(name, operation);
+    const eDatabaseFault fault = Try(name, operation, isTold);
     // A table that the book has never had is missed by nobody.
     if (fault == eDatabaseFault::None || fault == eDatabaseFault::Other) {
         m_unread.remove(QString::fromLatin1(name));
@@ -73,16 +78,19 @@ bool cDataAccess::IsWhole() const
     return m_unread.isEmpty() && !m_database.IsDamaged();
 }
 
-QList<std::pair<QString, QString>> cDataAccess::GetSettings()
+std::optional<cDataAccess::cSettingRows> cDataAccess::ReadSettings()
 {
-    QList<std::pair<QString, QString>> settings;
-    Read("GetSettings", [&] {
-        cRows rows(m_database, "SELECT SettingName, SettingValue FROM setting");
-        while (rows.Next()) {
-            settings.emplace_back(rows.Text(0), rows.Text(1));
-        }
-    });
-    return settings;
+    cSettingRows settings;
+    const bool isRead = Read(
+        "GetSettings",
+        [&] {
+            cRows rows(m_database, "SELECT SettingName, SettingValue FROM setting");
+            while (rows.Next()) {
+                settings.emplace_back(rows.Text(0), rows.Text(1));
+            }
+        },
+        m_unread.contains(u"GetSettings"_s));
+    return isRead ? std::optional(settings) : std::nullopt;
 }
 
 bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)

@@ -150,7 +150,10 @@ public:
     [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(const QString& number, const QString& bankCode);
 
     // Table `setting`
-    [[nodiscard]] QList<std::pair<QString, QString>> GetSettings();                  // name, value
+    using cSettingRows = QList<std::pair<QString, QString>>; // name, value
+    // Every list reads them, so a failure is told once, until they can be read again.
+    [[nodiscard]] std::optional<cSettingRows> ReadSettings();
+    [[nodiscard]] cSettingRows GetSettings() { return ReadSettings().value_or(cSettingRows()); }
     [[nodiscard]] bool ChangeSettingItem(const QString& name, const QString& value); // adds it when missing
     [[nodiscard]] bool DeleteSetting(const QString& name);
 
@@ -171,6 +174,8 @@ public:
     // False as long as something could not be read that was asked for. What a flow goes by may lack it, so every write
     // is refused until the same operation has succeeded, and nothing may be exported.
     [[nodiscard]] bool IsWhole() const;
+    // Operations that have succeeded so far: what failed may succeed once there was another.
+    [[nodiscard]] quint64 TimesDone() const { return m_timesDone; }
 
 private:
     [[nodiscard]] bool WriteTemplate(const cTemplateItem& item);
@@ -183,12 +188,12 @@ private:
     [[nodiscard]] bool JoinGroups(const cTemplateItem& written);
     void TellCleaned(bool isWritten);
 
-    // Runs one operation; an exception becomes the message of that name.
-    eDatabaseFault Try(const char* name, const std::function<void()>& operation);
+    // Runs one operation; an exception becomes the message of that name, unless it is told already.
+    eDatabaseFault Try(const char* name, const std::function<void()>& operation, bool isTold = false);
     // All are false after a failure. What `Read` gives may be what a flow decides by; `Look` is for what
     // depends on nothing and decides nothing: hints, counts, settings.
     bool Write(const char* name, const std::function<void()>& operation);
-    bool Read(const char* name, const std::function<void()>& operation);
+    bool Read(const char* name, const std::function<void()>& operation, bool isTold = false);
     bool Look(const char* name, const std::function<void()>& operation);
 
     // Sums of all entries up to a day, as long as the book is as it was when they were made.
@@ -208,4 +213,5 @@ private:
     QList<cCleanedName> m_cleaned; // in the open step
     std::optional<cKnownSums> m_knownSums;
     QSet<QString> m_unread; // reading operations that failed the last time
+    quint64 m_timesDone = 0;
 };

@@ -127,7 +127,7 @@ struct cOpened
 
     cTestFile File;
     cFakeUser User;
-    cDatabase Database;
+    cDatabase Database{1};
     cDataAccess Data{Database, User};
 };
 
@@ -258,6 +258,29 @@ private Q_SLOTS:
         }
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
+    }
+
+    // Told once, and made up for.
+    void MemoryOutlivesAFailedRead() const
+    {
+        cOpened book;
+        cSettings settings(book.Data);
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Giro"_s));
+        {
+            cUndoStep step(book.Data, u"Konto"_s);
+            QVERIFY(settings.Set(modSettingKey::MainAccount, u"Spar"_s));
+            QVERIFY(!step.DoneIf(false));
+        }
+        cDatabase other;
+        other.Open(book.File.Path(), eOpenMode::ReadWrite);
+        other.Execute("BEGIN EXCLUSIVE");
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Spar"_s);
+        QVERIFY(book.Data.GetSettings().isEmpty());
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Spar"_s);
+        other.Execute("ROLLBACK");
+        QVERIFY(!book.Data.GetTemplates().isEmpty());
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
+        QCOMPARE(book.User.Shown.size(), 1);
     }
 
     void ReadOnlyKeepsChangesInMemory() const

@@ -1,3 +1,4 @@
+#include "import/propose/modCash.h"
 #include "model/modBalance.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
@@ -294,8 +295,18 @@ void testOverview::FirstStepsRename()
     const qsizetype count = scene.Book.Data.GetAccounts().size();
     QList<cFirstSteps::cRow> rows = steps.Start();
     rows[0].Name = u"Sparkonto"_s;
+    rows[1].Name = u"Girokonto"_s;
+    rows[2].Name = u"Depot"_s;
+    QCOMPARE(steps.Save(rows), QString()); // a circle
+    QVERIFY(scene.Book.Data.GetStartGuthaben(u"Sparkonto"_s) && !scene.Book.Data.GetStartGuthaben(u"Girokonto"_s));
+    QCOMPARE(modCash::Accounts(scene.Book.Data.GetAccounts(), {}), QStringList()); // "Bargeld" was
+    QVERIFY(scene.Book.Data.Journal().Undo());
     rows[1].Name = u"Rücklage"_s;
-    QVERIFY(steps.Save(rows).startsWith(u"Ein Konto 'Sparkonto' gibt es schon."));
+    rows[2].Name = u"Geldbörse"_s; // another name of the same
+    QCOMPARE(steps.Save(rows), QString());
+    QCOMPARE(scene.Book.Data.FindAccount(u"Geldbörse"_s).value_or(cTemplateItem()).TemplateCategory, u"Bargeld"_s);
+    QVERIFY(scene.Book.Data.Journal().Undo());
+    rows[2].Name = u"Bargeld"_s;
     rows[0].Name.clear();
     QVERIFY(steps.Save(rows).startsWith(u"Das Konto 'Girokonto' braucht einen Namen."));
     rows[0].Name = u"Volksbank"_s;

@@ -4,14 +4,43 @@
 #include "base/cText.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
+#include "import/propose/modCash.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/template/cTemplateFlow.h"
 
 #include <QSet>
+#include <QUuid>
 
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+bool IsPurse(const cTemplateItem& account)
+{
+    return !modCash::Accounts({account}, {}).isEmpty();
+}
+
+// The account under the name that was typed over its own. Where that makes it another kind, nothing else of it is right
+// either: what stands in the group of cash takes every withdrawal.
+cTemplateItem Retyped(const cTemplateItem& account, cTemplateItemList others, const QString& name)
+{
+    others.removeIf([&](const cTemplateItem& other) { return other.ID == account.ID; });
+    const cTemplateItem fresh = modTemplate::NewAccount(others, name);
+    cTemplateItem retyped = IsPurse(account) == IsPurse(fresh) ? account : fresh;
+    retyped.ID = account.ID;
+    retyped.TemplateName = fresh.TemplateName;
+    return retyped;
+}
+
+QString Failure()
+{
+    return cText::Tr("Die Konten konnten nicht gespeichert werden.");
+}
+
+} // namespace
 
 QList<cFirstSteps::cRow> cFirstSteps::Start() const
 {
@@ -41,9 +70,9 @@ QString cFirstSteps::Problem(const QList<cRow>& rows, eDecimal decimal)
 {
     QSet<QString> names;
     for (const cRow& row : rows) {
-        const QString name = row.Name.trimmed().toCaseFolded();
+        const QString name = row.Name.simplified().toCaseFolded();
         if (!name.isEmpty() && names.contains(name)) {
-            return cText::Tr("Das Konto '{0}' steht zweimal da. Bitte lassen Sie eine der beiden Zeilen leer.",
+            return cText::Tr("Das Konto '{0}' steht zweimal da. Bitte ändern Sie einen der beiden Namen.",
                              {row.Name.trimmed()});
         }
         names.insert(name);
@@ -68,41 +97,59 @@ QString cFirstSteps::Problem(const QList<cRow>& rows, eDecimal decimal)
 
 QString cFirstSteps::Save(const QList<cRow>& rows) const
 {
-    if (const QString problem = Problem(rows, Decimal()); !problem.isEmpty()) {
-        return problem;
+    if (const QString objection = Problem(rows, Decimal()); !objection.isEmpty()) {
+        return objection;
     }
     cUndoStep step(m_tools.Data, cText::Tr("Konten und Kontostände eingetragen"));
-    for (const cRow& row : rows) {
-        if (const QString problem = Store(row); !problem.isEmpty()) {
-            (void)step.Revert();
-            return problem;
-        }
+    QString problem = Rename(rows);
+    for (auto row = rows.begin(); row != rows.end() && problem.isEmpty(); ++row) {
+        problem = Store(*row);
     }
-    return step.Done() ? QString() : cText::Tr("Die Konten konnten nicht gespeichert werden.");
+    if (!problem.isEmpty()) {
+        (void)step.Revert();
+        return problem;
+    }
+    return step.Done() ? QString() : Failure();
 }
 
-// Who types over a name means the account that stood there.
-QString cFirstSteps::Rename(const cRow& row) const
+// Who types over a name means the account that stood there. All of them step aside before the first takes its new name,
+// which may be the old one of another.
+QString cFirstSteps::Rename(const QList<cRow>& rows) const
 {
-    const QString name = modTemplate::NewAccount({}, row.Name).TemplateName;
-    if (row.Former.isEmpty() || name.isEmpty() || name == row.Former || !m_tools.Data.FindAccount(row.Former)) {
-        return {};
-    }
     cTemplateFlow flow(m_tools);
-    if (flow.IsAccountTaken(name, m_tools.Data.FindAccount(row.Former)->ID)) {
-        return cText::Tr("Ein Konto '{0}' gibt es schon. Bitte wählen Sie einen anderen Namen.", {name});
+    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
+    QList<std::pair<QString, cTemplateItem>> moves;
+    for (const cRow& row : rows) {
+        std::optional<cTemplateItem> account = m_tools.Data.FindAccount(row.Former);
+        if (!account || row.Former.isEmpty()) {
+            continue;
+        }
+        const cTemplateItem retyped = Retyped(*account, accounts, row.Name);
+        if (retyped.TemplateName.isEmpty() || retyped.TemplateName == row.Former) {
+            continue;
+        }
+        account->TemplateName = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        if (!flow.RenameWithEntries(row.Former, *account)) {
+            return Failure();
+        }
+        moves.append({account->TemplateName, retyped});
     }
-    return flow.RenameWithEntries(row.Former, name) ? QString()
-                                                    : cText::Tr("Die Konten konnten nicht gespeichert werden.");
+    for (const auto& [aside, account] : std::as_const(moves)) {
+        if (flow.IsAccountTaken(account.TemplateName, account.ID)) {
+            return cText::Tr("Ein Konto '{0}' gibt es schon. Bitte wählen Sie einen anderen Namen.",
+                             {account.TemplateName});
+        }
+        if (!flow.RenameWithEntries(aside, account)) {
+            return Failure();
+        }
+    }
+    return {};
 }
 
 QString cFirstSteps::Store(const cRow& row) const
 {
     if (row.Name.trimmed().isEmpty()) {
         return {};
-    }
-    if (const QString problem = Rename(row); !problem.isEmpty()) {
-        return problem;
     }
     cTemplateItem item = modTemplate::NewAccount(m_tools.Data.GetAccounts(), row.Name);
     if (item.TemplateName.isEmpty()) {
@@ -114,7 +161,7 @@ QString cFirstSteps::Store(const cRow& row) const
     });
     const QString name = known == accounts.end() ? item.TemplateName : known->TemplateName;
     if (known == accounts.end() && !m_tools.Data.AddNewTemplate(item)) {
-        return cText::Tr("Die Konten konnten nicht gespeichert werden.");
+        return Failure();
     }
     const std::optional<qint64> cents = modSum::Evaluate(row.Amount, Decimal());
     const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(name);
@@ -122,5 +169,5 @@ QString cFirstSteps::Store(const cRow& row) const
     return row.Amount.trimmed().isEmpty() || isSame
             || (cents && m_tools.Data.SetStartGuthaben(name, *cents, m_tools.Clock.Today()))
         ? QString()
-        : cText::Tr("Die Konten konnten nicht gespeichert werden.");
+        : Failure();
 }

@@ -34,7 +34,7 @@ public:
 private:
     [[nodiscard]] static QString Problem(const QList<cRow>& rows, eDecimal decimal);
     [[nodiscard]] QString Store(const cRow& row) const;
-    [[nodiscard]] QString Rename(const cRow& row) const;
+    [[nodiscard]] QString Rename(const QList<cRow>& rows) const;
 
     const cBookTools& m_tools;
 };

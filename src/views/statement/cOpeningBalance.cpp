@@ -160,22 +160,18 @@ QString cOpeningBalance::Question(const cOffer& offer) const
                              modDate::ToText(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
     if (offer.FormerDay.isValid()) {
-        return cText::Tr("Am {1} sind laut Ihrem Buch {2} auf dem Konto '{0}'. Soll das so bleiben?", values) + u"\n\n"
-            + cText::Tr("Die Umsätze der Bank beginnen früher. Das Startguthaben wird dazu auf den {4} "
-                        "zurückgerechnet: {3}.",
+        return cText::Tr("Als Stand vom {1} sind {2} für das Konto '{0}' eingetragen. Soll das so bleiben?", values)
+            + u"\n\n"
+            + cText::Tr("Mit „Ja“ wird er auf den {4} zurückgerechnet ({3}), mit „Nein“ zählen die früheren Umsätze "
+                        "zusätzlich.",
                         values);
     }
     return cText::Tr("Am {1} waren laut Kontoauszug {2} auf dem Konto '{0}'. Soll Ihr Buch dasselbe sagen, sobald die "
                      "Umsätze gebucht sind?",
                      values)
         + u"\n\n"
-        + (offer.Former
-               ? cText::Tr(
-                   "Dazu wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.",
-                   values)
-               : cText::Tr(
-                   "Dazu werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.",
-                   values));
+        + (offer.Former ? cText::Tr("Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert.", values)
+                        : cText::Tr("Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen.", values));
 }
 
 QString cOpeningBalance::Report(const cOffer& offer) const

@@ -78,14 +78,9 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     return WriteAccount(*account, oldName, answer == eAnswer::Yes);
 }
 
-bool cTemplateFlow::RenameWithEntries(const QString& oldName, const QString& newName)
+bool cTemplateFlow::RenameWithEntries(const QString& oldName, const cTemplateItem& renamed)
 {
-    std::optional<cTemplateItem> account = m_tools.Data.FindAccount(oldName);
-    if (!account || IsAccountTaken(newName, account->ID)) {
-        return false;
-    }
-    account->TemplateName = newName;
-    return WriteAccount(*account, oldName, true);
+    return !IsAccountTaken(renamed.TemplateName, renamed.ID) && WriteAccount(renamed, oldName, true);
 }
 
 bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries)

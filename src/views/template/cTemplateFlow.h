@@ -19,9 +19,9 @@ public:
     // Renames an account. Where entries refer to it, asks whether they go along. False when nothing was changed.
     bool RenameAccount(const QString& oldName, const QString& newName);
 
-    // The same with the entries and without a question, where it is known to be what is wanted. The name is one that
-    // an account can have.
-    [[nodiscard]] bool RenameWithEntries(const QString& oldName, const QString& newName);
+    // The same with the entries and without a question, where it is known to be what is wanted: the account as it is to
+    // be, with a name that an account can have.
+    [[nodiscard]] bool RenameWithEntries(const QString& oldName, const cTemplateItem& renamed);
 
     // Gives a category other names and moves its entries along: also the way to another main category. False when
     // nothing was changed.
