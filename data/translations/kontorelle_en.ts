@@ -9118,10 +9118,6 @@ Only the number of your version is sent, and nothing is downloaded without you. 
         <translation>See the example household</translation>
     </message>
     <message>
-        <source>Das Konto &apos;{0}&apos; steht zweimal da. Bitte lassen Sie eine der beiden Zeilen leer.</source>
-        <translation>Account &apos;{0}&apos; is listed twice. Please leave one of the two lines empty.</translation>
-    </message>
-    <message>
         <source>Serie: Tag, bis zu dem der Vertrag kündbar ist, oder &quot;ohne&quot;</source>
         <translation>series: day until which the contract can be cancelled, or &quot;ohne&quot;</translation>
     </message>
@@ -10782,24 +10778,8 @@ A click shows more.</translation>
         <translation>There is no person &apos;{0}&apos;.</translation>
     </message>
     <message>
-        <source>Am {1} sind laut Ihrem Buch {2} auf dem Konto &apos;{0}&apos;. Soll das so bleiben?</source>
-        <translation>According to your book there is {2} in the account &apos;{0}&apos; on {1}. Shall it stay so?</translation>
-    </message>
-    <message>
-        <source>Die Umsätze der Bank beginnen früher. Das Startguthaben wird dazu auf den {4} zurückgerechnet: {3}.</source>
-        <translation>The bank&apos;s transactions begin earlier. For this, the opening balance is counted back to {4}: {3}.</translation>
-    </message>
-    <message>
         <source>Am {1} waren laut Kontoauszug {2} auf dem Konto &apos;{0}&apos;. Soll Ihr Buch dasselbe sagen, sobald die Umsätze gebucht sind?</source>
         <translation>According to the statement there was {2} in the account &apos;{0}&apos; on {1}. Shall your book say the same once the transactions are booked?</translation>
-    </message>
-    <message>
-        <source>Dazu wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.</source>
-        <translation>For this, the opening balance is changed from {5} to {3}: that is what was there before the first transaction.</translation>
-    </message>
-    <message>
-        <source>Dazu werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.</source>
-        <translation>For this, {3} is entered as opening balance of {4}: that is what was there before the first transaction.</translation>
     </message>
     <message>
         <source>Alles gebucht</source>
@@ -10884,6 +10864,26 @@ What shall be done?</translation>
     <message>
         <source>Eigene Farbe …</source>
         <translation>Another colour …</translation>
+    </message>
+    <message>
+        <source>Das Konto &apos;{0}&apos; steht zweimal da. Bitte ändern Sie einen der beiden Namen.</source>
+        <translation>The account &apos;{0}&apos; stands there twice. Please change one of the two names.</translation>
+    </message>
+    <message>
+        <source>Als Stand vom {1} sind {2} für das Konto &apos;{0}&apos; eingetragen. Soll das so bleiben?</source>
+        <translation>The balance entered for the account &apos;{0}&apos; as of {1} is {2}. Shall it stay like that?</translation>
+    </message>
+    <message>
+        <source>Mit „Ja“ wird er auf den {4} zurückgerechnet ({3}), mit „Nein“ zählen die früheren Umsätze zusätzlich.</source>
+        <translation>“Yes” counts it back to {4} ({3}); with “No” the earlier transactions count in addition.</translation>
+    </message>
+    <message>
+        <source>Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert.</source>
+        <translation>“Yes” changes the start balance from {5} to {3}.</translation>
+    </message>
+    <message>
+        <source>Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen.</source>
+        <translation>“Yes” enters {3} as the start balance of {4}.</translation>
     </message>
 </context>
 </TS>
