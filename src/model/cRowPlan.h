@@ -30,5 +30,6 @@ struct cRowPlan
     std::optional<cMatchCandidate> Match; // the entry that is there: certain in the group InBook, else likely
     std::optional<cRowTwin> Twin;
     bool IsSecond = false; // the twin goes first: booking this one too would be one too many
+    bool IsBeside = false; // the series that it belongs to has had its payment for that time
     QString Reason;        // of the match, else of the proposal; empty for the mere default
 };

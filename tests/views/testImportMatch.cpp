@@ -92,6 +92,8 @@ private Q_SLOTS:
     void ShowsWhatItIsNotSureOf() const;
     void SeveralAreNotBookedUnseen() const;
     void SeveralAreBookedWhenWanted() const;
+    void WhichPurseIsAsked() const;
+    void CountsWhatWasBookedWithoutCategory() const;
     void BookingAsksAboutMatches_data() const;
     void BookingAsksAboutMatches() const;
     void AssignsByHand() const;
@@ -238,7 +240,8 @@ void testImportMatch::SeveralAreNotBookedUnseen() const
     cStagedGuide::cStop stop = guide.After(before, unknown);
     QCOMPARE(stop.Rows, unknown.mid(0, 1));
     QVERIFY(stop.IsField);
-    QVERIFY(guide.SelectionText(stop.Rows).startsWith(u"Bitte ansehen: Kategorie tippen"));
+    QVERIFY(guide.SelectionText(stop.Rows, true).startsWith(u"Bitte ansehen: Kategorie tippen"));
+    QVERIFY(guide.SelectionText(stop.Rows, false).startsWith(u"Bitte ansehen: keine Regel passt."));
     before = guide.Before(stop.Rows);
     page.User.Asked.clear();
     QVERIFY(page.Review.Book(stop.Rows, page.Progress)); // one that is looked at is booked without a question
@@ -265,6 +268,56 @@ void testImportMatch::SeveralAreBookedWhenWanted() const
     QCOMPARE(page.Data.CountEntries(), 2);
     QVERIFY(page.Data.Journal().Undo()); // as one step
     QCOMPARE(page.Data.CountEntries(), 0);
+}
+
+// Two purses: the doubt is not the category, and who types one has spent the money.
+void testImportMatch::WhichPurseIsAsked() const
+{
+    cPage page;
+    cTemplateItem purse = page.Data.FindAccount(u"Bargeld"_s).value_or(cTemplateItem());
+    purse.TemplateName = u"Geldbörse"_s;
+    QVERIFY(page.Data.AddNewTemplate(purse));
+    const QList<int> rows{page.Stage(-50, u"Geldautomat"_s), page.Stage(-60, u"Geldautomat"_s)};
+    cStagedGuide& guide = page.Review.Guide();
+    QVERIFY(!guide.Staged(rows).IsField);
+    QVERIFY(guide.SelectionText(rows.mid(0, 1), false).startsWith(u"Bitte ansehen: Bargeld: an "));
+    QVERIFY(!page.Review.Book(rows, page.Progress)); // the user gives up
+    QVERIFY2(page.User.LastDecision.Text.contains(u"\n2 vielleicht als Umbuchung Girokonto → "),
+             qPrintable(page.User.LastDecision.Text));
+    QVERIFY(page.Review.Book(rows.mid(1), page.Progress)); // one that is looked at is taken as it stands
+    QVERIFY(!page.Review.Choose(rows.mid(1), u"Freizeit; Geschenke"_s, {}));
+    QVERIFY(page.Review.Summary().constFirst().startsWith(u"Umbuchungen und aufgeteilte Einträge behalten"));
+    QVERIFY(page.Review.Choose(rows.mid(0, 1), u"Freizeit; Geschenke"_s, {}));
+    QVERIFY(page.Review.Book(rows.mid(0, 1), page.Progress));
+    const cEntryItem entry = page.Data.GetEntries({}).value(1);
+    QCOMPARE(QStringList({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, entry.EntryCategory}),
+             QStringList({modWord::Ausgabe, u"Girokonto"_s, {}, u"Freizeit; Geschenke"_s}));
+}
+
+// What the user has chosen is none of it, nor what was not booked any more.
+void testImportMatch::CountsWhatWasBookedWithoutCategory() const
+{
+    struct cGivenUp final : cProgress
+    {
+        void showProgressBar(int /*maximum*/) override {}
+        void addProgressValue(int /*steps*/) override { IsStopped = true; }
+        void hideProgressBar() override {}
+        [[nodiscard]] bool IsCancelled() const override { return IsStopped; }
+        bool IsStopped = false;
+    };
+    cPage page;
+    QList<int> rows;
+    for (int i = 0; i < 40; ++i) {
+        rows.append(page.Stage(-5 - i, u"Niemand "_s + QChar(u'A' + i)));
+    }
+    QVERIFY(page.Review.Choose(rows.mid(0, 2), u"Allgemein"_s, {}));
+    QCOMPARE(page.Reason(2), u"keine Regel passt"_s);
+    page.User.Decisions = {1};
+    cGivenUp progress;
+    QVERIFY(page.Review.Book(rows, progress));
+    QCOMPARE(page.Review.Summary(),
+             QStringList({u"26 Umsätze gebucht, 26 neue Einträge."_s,
+                          u"24 davon unter 'Allgemein', weil keine Kategorie bekannt ist."_s}));
 }
 
 // A key alone never makes a second entry of what is in the book.
@@ -375,6 +428,9 @@ void testImportMatch::Releases() const
     page.Review.Match({}, page.Progress);
     QVERIFY(page.Review.ActionsFor({booked}).Release && !page.Review.ActionsFor({booked}).Assign);
     QVERIFY(page.Review.ActionsFor({open}).Assign && !page.Review.ActionsFor({open}).Release);
+    page.Review.View().SetFilter(u"REWE"_s); // leaves nothing open
+    QVERIFY(!page.Review.ActionsFor({booked}).Accept);
+    page.Review.View().SetFilter({});
     page.Review.Release({open, booked});
     QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
     QCOMPARE(page.Review.Summary(),

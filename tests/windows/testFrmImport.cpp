@@ -48,6 +48,25 @@ public:
         Tree.clearSelection();
         Tree.setCurrentIndex(Review.Rows().index(row, 0));
     }
+    // Rows of which nobody knows what they are for, in front of the user with the field of the first one open.
+    void LeadToDoubtful()
+    {
+        for (const QString& name : {u"Unbekannt GmbH"_s, u"Niemand KG"_s}) {
+            cImportEntry row = Book.Data.GetImportEntries().constFirst();
+            row.ImportBeneficiary = name;
+            row.ImportPurpose = row.ImportBeneficiaryAccount = QString();
+            row.ImportValue = -100 * name.size();
+            row.ImportDate = row.ImportDate.addDays(name.size());
+            QVERIFY(Book.Data.AddNewImportEntry(row));
+        }
+        Review.Refresh();
+        QCOMPARE(Tree.SelectedIds().size(), 5);
+        QTest::keyClick(&Tree, Qt::Key_Return);
+        QCOMPARE(Review.Rows().Counts().Open, 2);
+        QVERIFY(Field() != nullptr && Field()->hasFocus());
+    }
+
+    QComboBox* Field() { return Tree.findChild<QComboBox*>(); }
     QString Cell(int row, int column) { return Review.Rows().index(row, column).data().toString(); }
     QPushButton& Button(const QString& text)
     {
@@ -149,20 +168,8 @@ private Q_SLOTS:
     void EnterLeadsThroughWhatIsNotSure()
     {
         cScene scene;
-        for (const QString& name : {u"Unbekannt GmbH"_s, u"Niemand KG"_s}) {
-            cImportEntry row = scene.Book.Data.GetImportEntries().constFirst();
-            row.ImportBeneficiary = name;
-            row.ImportPurpose = row.ImportBeneficiaryAccount = QString();
-            row.ImportValue = -100 * name.size();
-            row.ImportDate = row.ImportDate.addDays(name.size());
-            QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-        }
-        scene.Review.Refresh();
-        QCOMPARE(scene.Tree.SelectedIds().size(), 5);
-        const auto field = [&] { return scene.Tree.findChild<QComboBox*>(); };
-        QTest::keyClick(&scene.Tree, Qt::Key_Return);
-        QCOMPARE(scene.Review.Rows().Counts().Open, 2);
-        QVERIFY(field() != nullptr && field()->hasFocus());
+        scene.LeadToDoubtful();
+        const auto field = [&] { return scene.Field(); };
         QTest::keyClicks(field(), u"geschenke"_s);
         QTest::keyClick(field(), Qt::Key_Return);
         QTRY_COMPARE(scene.Review.Rows().Counts().Open, 1);
@@ -171,11 +178,70 @@ private Q_SLOTS:
         QTest::keyClicks(field(), u"Ponyhof"_s); // names no category, and the user says no to a new one
         QTest::keyClick(field(), Qt::Key_Return);
         QTRY_VERIFY(field() != nullptr && field()->currentText() == u"Ponyhof");
+        QTest::keyClick(field(), Qt::Key_Return, Qt::ControlModifier);
+        QTest::qWait(1);
         QCOMPARE(scene.Review.Rows().Counts().Open, 1);
-        QTest::keyClick(field(), Qt::Key_Escape);
-        QTRY_VERIFY(field() == nullptr);
-        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QVERIFY(field() != nullptr); // still waits for a category
+        scene.Book.User.Answers = {eAnswer::Yes};
+        QTest::keyClicks(field(), u"Reiten"_s);
+        QTest::keyClick(field(), Qt::Key_Return);
+        QTRY_COMPARE(scene.Book.Data.CountEntriesOfCategory(u"Reiten"_s), 1);
         QCOMPARE(scene.Review.Rows().Counts().Open, 0);
+    }
+
+    // The row leaves the list with the category that it takes, and its neighbour is selected.
+    void EnterBooksTheRowOfTheField_data()
+    {
+        QTest::addColumn<Qt::KeyboardModifiers>("keys");
+        QTest::newRow("Enter") << Qt::KeyboardModifiers();
+        QTest::newRow("Ctrl and Enter") << Qt::KeyboardModifiers(Qt::ControlModifier);
+    }
+
+    void EnterBooksTheRowOfTheField()
+    {
+        QFETCH(const Qt::KeyboardModifiers, keys);
+        cScene scene;
+        scene.LeadToDoubtful();
+        QTest::keyClick(scene.Field(), Qt::Key_Escape);
+        QTRY_VERIFY(scene.Field() == nullptr);
+        scene.Review.View().SetUncategorisedOnly(true);
+        scene.Review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Category));
+        const QList<int> ids = scene.Review.Rows().OpenIds();
+        QCOMPARE(ids.size(), 2);
+        scene.Tree.OpenCategory(ids.first());
+        QTest::keyClicks(scene.Field(), u"geschenke"_s);
+        if (keys != Qt::NoModifier) {
+            QTest::keyClick(scene.Field(), Qt::Key_Escape); // the open list would take the key
+        }
+        QTest::keyClick(scene.Field(), Qt::Key_Return, keys);
+        QTRY_COMPARE(scene.Book.Data.CountEntriesOfCategory(u"Freizeit; Geschenke"_s), 1);
+        QCOMPARE(scene.Review.Rows().OpenIds(), ids.mid(1));
+    }
+
+    void AnEmptiedFieldBooksNothing_data()
+    {
+        QTest::addColumn<QList<Qt::Key>>("keys");
+        QTest::addColumn<Qt::KeyboardModifiers>("last"); // with Enter
+        const Qt::KeyboardModifiers none;
+        QTest::newRow("at once") << QList{Qt::Key_Return} << none;
+        QTest::newRow("without the list") << QList{Qt::Key_Escape, Qt::Key_Return} << none;
+        QTest::newRow("with a list that is opened") << QList{Qt::Key_Escape, Qt::Key_F4, Qt::Key_Return} << none;
+        QTest::newRow("Ctrl") << QList{Qt::Key_Escape, Qt::Key_Return} << Qt::KeyboardModifiers(Qt::ControlModifier);
+    }
+
+    void AnEmptiedFieldBooksNothing()
+    {
+        QFETCH(const QList<Qt::Key>, keys);
+        QFETCH(const Qt::KeyboardModifiers, last);
+        cScene scene;
+        scene.LeadToDoubtful();
+        QTest::keyClick(scene.Field(), Qt::Key_Delete);
+        for (const Qt::Key key : keys) {
+            QTest::keyClick(scene.Field(), key, key == Qt::Key_Return ? last : Qt::NoModifier);
+            QTest::qWait(1); // what the field tells comes a moment later
+        }
+        QCOMPARE(scene.Review.Rows().Counts().Open, 2);
+        QVERIFY(scene.Field() != nullptr && scene.Field()->hasFocus()); // so that the next Enter books nothing either
     }
 
     void NewCategoryIsOffered()

@@ -232,6 +232,7 @@ void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pas
     plan.Proposal.ExistingEntry = 0;
     plan.Proposal.Entry.EntryInterval = modWord::Einmalig;
     plan.Group = eRowGroup::Look;
+    plan.IsBeside = true;
     plan.Reason = cText::Tr("die Serie hat für diesen Zeitraum schon einen Umsatz");
 }
 

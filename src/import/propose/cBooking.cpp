@@ -139,6 +139,7 @@ cBooking::eOutcome cBooking::BookNew(const cImportEntry& row, const cProposal& p
         return eOutcome::Failed;
     }
     ++result.Entries;
+    result.Bare += proposal.IsDefault && entry.EntryType != modWord::Umbuchung ? 1 : 0;
     ++result.Rows;
     result.EntryIds.append(entry.ID);
     series.Learn(row, entry);

@@ -21,6 +21,7 @@ struct cSeriesMatch;
 struct cBookingResult
 {
     int Entries = 0;             // entries added to the book
+    int Bare = 0;                // of these: without a category, because none is known
     int Rows = 0;                // staged rows assigned, partners of transfers included
     int Joined = 0;              // of these: rows that went to an entry which was there before
     int Skipped = 0;             // rows that were already assigned or are gone

@@ -172,6 +172,11 @@ eDecimal cSearchModel::Decimal() const
     return m_tools.Format.Decimal();
 }
 
+bool cSearchModel::IsReadOnly() const
+{
+    return m_tools.Data.IsReadOnly();
+}
+
 bool cSearchModel::IsAmount(const QString& text) const
 {
     return text.trimmed().isEmpty() || modSum::Evaluate(text, Decimal()).has_value();
@@ -271,11 +276,6 @@ QString cSearchModel::EmptyHint() const
 QString cSearchModel::Layout() const
 {
     return m_tools.Settings.Get(modSettingKey::SearchList);
-}
-
-bool cSearchModel::IsReadOnly() const
-{
-    return m_tools.Data.IsReadOnly();
 }
 
 void cSearchModel::SaveLayout(const QString& layout)

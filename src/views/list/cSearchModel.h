@@ -61,6 +61,7 @@ public:
     [[nodiscard]] bool IsAmount(const QString& text) const; // an empty one is right too
     [[nodiscard]] eDecimal Decimal() const;                 // how amounts are typed
 
+    [[nodiscard]] bool IsReadOnly() const; // the book
     [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
     [[nodiscard]] QString CountText() const;
     [[nodiscard]] QString StartText() const; // start balances; empty where none was found
@@ -73,7 +74,6 @@ public:
 
     // Column layout of the list.
     [[nodiscard]] QString Layout() const;
-    [[nodiscard]] bool IsReadOnly() const;
     void SaveLayout(const QString& layout);
 
 Q_SIGNALS:

@@ -169,11 +169,16 @@ void cImportReview::NoteStaged(const QList<int>& ids)
     Q_EMIT RowsStaged(ids);
 }
 
-void cImportReview::Report(const QStringList& lines)
+void cImportReview::Tell(const QStringList& lines)
 {
     m_summary = lines;
-    Refresh();
     Q_EMIT SummaryChanged();
+}
+
+void cImportReview::Report(const QStringList& lines)
+{
+    Refresh();
+    Tell(lines);
 }
 
 void cImportReview::ReportAccounts(const QStringList& lines)
@@ -239,7 +244,7 @@ cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
     const bool hasBooked = std::any_of(rows.begin(), rows.end(), isBooked);
     can.Change = !rowIds.isEmpty();
     can.Choose = !rows.isEmpty();
-    can.Match = Rows().Counts().Open > 0;
+    can.Match = !Rows().OpenIds().isEmpty();
     can.Accept = can.Match;
     can.Assign = isOne && !hasBooked;
     can.Edit = can.Assign;
@@ -265,6 +270,9 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
         m_works->Proposals.SetDescription(ids, description);
     }
     m_view.ForgetInfo();
+    if (isTaken && !category.isEmpty() && rows.size() < rowIds.size()) {
+        Tell({cText::Tr("Gebuchte Umsätze behalten ihre Kategorie, solange offene mit markiert sind.")});
+    }
     return isTaken;
 }
 
@@ -273,14 +281,21 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
 bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString& category)
 {
     const QString path = m_works->Proposals.PathOf(category);
+    if (path.isEmpty()) {
+        return false;
+    }
     QMap<int, cEntryItem> entries;
+    QStringList kept;
     for (const cImportEntry& row : booked) {
         const std::optional<cEntryItem> entry = m_works->Accounts.getAssignedEntry(row);
         if (entry && entry->EntryType != modWord::Umbuchung && modSplit::Group(*entry) == 0) {
             entries.insert(entry->ID, *entry);
+        } else if (entry) {
+            kept = {cText::Tr("Umbuchungen und aufgeteilte Einträge behalten ihre Kategorie.")};
         }
     }
-    if (path.isEmpty() || entries.isEmpty()) {
+    if (entries.isEmpty()) {
+        Tell(kept);
         return false;
     }
     const auto count = static_cast<int>(entries.size());
@@ -294,8 +309,9 @@ bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString
     if (!step.DoneIf(isWritten)) {
         return false;
     }
-    Report({count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
-                       : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path})});
+    Report(QStringList(count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
+                                  : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path}))
+           + kept);
     Q_EMIT EntriesChanged();
     return true;
 }

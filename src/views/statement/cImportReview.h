@@ -150,7 +150,8 @@ private:
     void LoadRows();
     void LoadOld();
     void NoteStaged(const QList<int>& ids);
-    void Report(const QStringList& lines);
+    void Tell(const QStringList& lines);
+    void Report(const QStringList& lines); // the same after the rows have changed
     void ReportAccounts(const QStringList& lines);
     void ReportMatches(const cMatchFlow::cOutcome& outcome);
     [[nodiscard]] cImportEntryList RowsOf(const QList<int>& rowIds);

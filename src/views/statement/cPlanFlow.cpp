@@ -6,6 +6,7 @@
 #include "core/cBookTools.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "views/list/modImportText.h"
 #include "views/statement/cMatchFlow.h"
@@ -24,11 +25,6 @@ bool IsUnsure(const cRowPlan& plan)
     return plan.Group == eRowGroup::Look;
 }
 
-bool IsBare(const cProposal& proposal)
-{
-    return !cRowProposals::HasCategory(proposal.Entry);
-}
-
 void CountPlan(const cRowPlan& plan, modReviewQuestion::cNumbers& numbers)
 {
     if (!IsUnsure(plan)) {
@@ -37,8 +33,14 @@ void CountPlan(const cRowPlan& plan, modReviewQuestion::cNumbers& numbers)
         return;
     }
     ++(plan.IsSecond ? numbers.Twice : plan.Match ? numbers.Likely : numbers.Unknown);
-    if (!plan.IsSecond && !plan.Match) {
-        ++(IsBare(plan.Proposal) ? numbers.Bare : numbers.Categories[plan.Proposal.Entry.EntryCategory]);
+    if (plan.IsSecond || plan.Match) {
+        return;
+    }
+    const cEntryItem& entry = plan.Proposal.Entry;
+    if (entry.EntryType == modWord::Umbuchung) {
+        ++numbers.Transfers[modImportText::Accounts(entry)];
+    } else {
+        ++(cRowProposals::HasCategory(entry) ? numbers.Categories[entry.EntryCategory] : numbers.Bare);
     }
 }
 
@@ -103,15 +105,16 @@ cPlanFlow::cOutcome cPlanFlow::Book(const QList<int>& rowIds, eUnsure unsure, cP
 }
 
 // Where several rows are wanted and of some nobody knows what they are for, those that are not sure are taken out of
-// `plans` unless the user wants them. One and the same category for all of them has been seen. False when the user
-// gives up.
+// `plans` unless the user wants them. One and the same category for all of them has been seen; which account a transfer
+// goes to is more than that. False when the user gives up.
 bool cPlanFlow::AskAboutUnsure(QList<cRowPlan>& plans, cWish& wish)
 {
     modReviewQuestion::cNumbers numbers;
     for (const cRowPlan& plan : std::as_const(plans)) {
         CountPlan(plan, numbers);
     }
-    const bool isOneKind = numbers.Unknown == plans.size() && numbers.Bare == 0 && numbers.Categories.size() == 1;
+    const bool isOneKind = numbers.Unknown == plans.size() && numbers.Bare == 0 && numbers.Transfers.isEmpty()
+        && numbers.Categories.size() == 1;
     if (plans.size() == 1 || isOneKind || numbers.Unknown == 0) {
         return true;
     }
@@ -222,17 +225,13 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
     const auto corrected =
         result.Failed == 0 ? m_parts.Matching.Correct(wish.Assign + result.Corrections) : std::nullopt;
     if (!step.DoneIf(corrected.has_value())) {
-        return {.IsRefused = true, .Left = wish.Left, .Lines = {modImportText::Booked(cBookingResult::Nothing(count))}};
+        return {.Left = wish.Left, .Lines = {modImportText::Booked(cBookingResult::Nothing(count))}};
     }
     result.Rows += static_cast<int>(wish.Assign.size());
     result.Joined += static_cast<int>(wish.Assign.size());
     QStringList lines{modImportText::Booked(result)};
-    // Rows without an account were not booked.
-    const auto bare = std::count_if(wish.Proposals.begin(), wish.Proposals.end(), [](const cProposal& proposal) {
-        return IsBare(proposal) && !proposal.Entry.EntryAccount.isEmpty();
-    });
-    if (bare > 0) {
-        lines.append(modImportText::WithoutCategory(static_cast<int>(bare), static_cast<int>(wish.New.size())));
+    if (result.Bare > 0) {
+        lines.append(modImportText::WithoutCategory(result.Bare, result.Entries));
     }
     for (const QString& number : result.UnknownAccounts) {
         lines.append(modImportText::NoAccount(number));

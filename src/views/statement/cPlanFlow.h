@@ -29,7 +29,6 @@ public:
     struct cOutcome
     {
         bool IsDone = false;           // false: the user gave up, or nothing could be written
-        bool IsRefused = false;        // the database did not write, and all was taken back
         int Left = 0;                  // rows that stay open because the user, or the plan, says so
         QStringList Lines{};           // for the user; empty when nothing was done
         QStringList UnknownAccounts{}; // numbers without account; their rows stay open

@@ -30,6 +30,14 @@ int FileOf(const QList<cRange>& files, int id)
     return file == files.end() || file->First > id ? 0 : static_cast<int>(file - files.begin()) + 1;
 }
 
+// Of what may be no transfer the user has said what it was for.
+void MakeSpent(cEntryItem& transfer, qint64 value)
+{
+    transfer.EntryType = value > 0 ? modWord::Einnahme : modWord::Ausgabe;
+    transfer.EntryAccount = value > 0 ? transfer.EntryAccountMove : transfer.EntryAccount;
+    transfer.EntryAccountMove.clear();
+}
+
 } // namespace
 
 bool cRowProposals::HasCategory(const cEntryItem& entry)
@@ -111,8 +119,14 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
 {
     const cChoice choice = m_choices.value(plan.RowId);
     if (!choice.Category.isEmpty()) {
-        plan.Proposal.Entry.EntryCategory = choice.Category;
-        plan.Group = plan.Match || plan.IsSecond ? plan.Group : eRowGroup::Sure;
+        cEntryItem& entry = plan.Proposal.Entry;
+        const bool isLook = plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond;
+        if (isLook && entry.EntryType == modWord::Umbuchung && entry.EntryCategory != choice.Category) {
+            MakeSpent(entry, choice.Row.ImportValue);
+        }
+        entry.EntryCategory = choice.Category;
+        plan.Proposal.IsDefault = false;
+        plan.Group = isLook ? eRowGroup::Sure : plan.Group;
     }
     if (!choice.Interval.isEmpty() && choice.Interval != plan.Proposal.Entry.EntryInterval) {
         plan.Proposal.Entry.EntryInterval = choice.Interval;

@@ -90,7 +90,8 @@ bool cStagedGuide::NeedsLook(int id)
 bool cStagedGuide::IsFieldEnough(const cImportEntry& row)
 {
     const cRowPlan plan = m_parts.Proposals.PlanOf(row);
-    return plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond;
+    return plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond && !plan.IsBeside
+        && plan.Proposal.Entry.EntryType != modWord::Umbuchung;
 }
 
 cStagedGuide::cStop cStagedGuide::LookAt(int id)
@@ -118,7 +119,7 @@ QString cStagedGuide::AcceptText()
                       : cText::Tr("Alle &Vorschläge annehmen ({0})", {QString::number(count)});
 }
 
-QString cStagedGuide::SelectionText(const QList<int>& ids)
+QString cStagedGuide::SelectionText(const QList<int>& ids, bool isFieldOpen)
 {
     const cImportEntryList rows = RowsOf(ids);
     if (rows.isEmpty() && m_parts.View.Rows().rowCount() == 0) {
@@ -129,7 +130,7 @@ QString cStagedGuide::SelectionText(const QList<int>& ids)
                          "zu, der schon im Haushaltsbuch steht.");
     }
     if (rows.size() == 1) {
-        return OneText(rows.constFirst());
+        return OneText(rows.constFirst(), isFieldOpen);
     }
     qint64 sum = 0;
     for (const cImportEntry& row : rows) {
@@ -143,7 +144,7 @@ QString cStagedGuide::SelectionText(const QList<int>& ids)
         : cText::Tr("{0} markiert, davon {1} offen, Summe {2}", values);
 }
 
-QString cStagedGuide::OneText(const cImportEntry& row)
+QString cStagedGuide::OneText(const cImportEntry& row, bool isFieldOpen)
 {
     const cStagedInfo info = m_parts.Proposals.Info(row);
     const QStringList values{modImportText::Row(row, m_parts.Format), info.Category,
@@ -151,7 +152,9 @@ QString cStagedGuide::OneText(const cImportEntry& row)
     if (!IsOpen(row)) {
         return cText::Tr("{0}  →  gebucht unter {1}, {3}", values);
     }
-    return IsFieldEnough(row)
-        ? cText::Tr("Bitte ansehen: Kategorie tippen, die Eingabetaste bucht.  {0}  →  {1}, {2}: {4}", values)
-        : cText::Tr("{0}  →  {1}, {2}: {4}", values);
+    if (isFieldOpen) {
+        return cText::Tr("Bitte ansehen: Kategorie tippen, die Eingabetaste bucht.  {0}  →  {1}, {2}: {4}", values);
+    }
+    return NeedsLook(row.ID) ? cText::Tr("Bitte ansehen: {4}.  {0}  →  {1}, {3}", values)
+                             : cText::Tr("{0}  →  {1}, {2}: {4}", values);
 }

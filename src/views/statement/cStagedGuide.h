@@ -54,12 +54,13 @@ public:
 
     // "Alle Vorschläge annehmen (7)": of the rows shown, as far as they are known.
     [[nodiscard]] QString AcceptText();
-    // What becomes of the selected rows, or became of them, in one line.
-    [[nodiscard]] QString SelectionText(const QList<int>& ids);
+    // What becomes of the selected rows, or became of them, in one line. With a field that cStop has opened it says
+    // what Enter does there.
+    [[nodiscard]] QString SelectionText(const QList<int>& ids, bool isFieldOpen);
 
 private:
     [[nodiscard]] cImportEntryList RowsOf(const QList<int>& ids);
-    [[nodiscard]] QString OneText(const cImportEntry& row);
+    [[nodiscard]] QString OneText(const cImportEntry& row, bool isFieldOpen);
     [[nodiscard]] bool NeedsLook(int id);
     [[nodiscard]] bool IsFieldEnough(const cImportEntry& row); // no other doubt than the category
     [[nodiscard]] int NextToLook(const QList<int>& order, int after);

@@ -67,6 +67,10 @@ QStringList Unsureness(const modReviewQuestion::cNumbers& numbers)
     if (numbers.Bare > 0) {
         lines.append(cText::Tr("{0} ohne bekannte Kategorie, also unter 'Allgemein'", {QString::number(numbers.Bare)}));
     }
+    for (auto accounts = numbers.Transfers.begin(); accounts != numbers.Transfers.end(); ++accounts) {
+        lines.append(
+            cText::Tr("{0} vielleicht als Umbuchung {1}", {QString::number(accounts.value()), accounts.key()}));
+    }
     for (const auto& [count, category] : std::as_const(categories)) {
         lines.append(cText::Tr("{0} vielleicht unter '{1}'", {QString::number(count), category}));
     }

@@ -14,10 +14,11 @@ struct cNumbers
 {
     int InBook = 0;                  // their entries are there already
     int Sure = 0;                    // become new entries
-    int Unknown = 0;                 // nothing but an ambiguous keyword or the default speaks for the proposal
+    int Unknown = 0;                 // too little speaks for the proposal
     int Likely = 0;                  // an entry of the book may be the same
     int Twice = 0;                   // another row may be the same
     int Bare = 0;                    // of the unknown ones: without any category
+    QMap<QString, int> Transfers{};  // of the unknown ones: perhaps transfers, by their accounts
     QMap<QString, int> Categories{}; // of the other unknown ones, with their numbers
 };
 

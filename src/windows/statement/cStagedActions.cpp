@@ -90,30 +90,28 @@ cStagedActions::cStagedActions(cImportReview& review, cStagedTree& tree, QWidget
     }
     Get(Book)->setShortcuts({Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
     connect(&m_tree, &cStagedTree::BookRequested, this, [this] { Run(Book); });
-    connect(&m_tree, &cStagedTree::CategoryEntered, this, [this](int id) {
-        m_entered = id;
-        QMetaObject::invokeMethod(this, &cStagedActions::BookEntered, Qt::QueuedConnection);
-    });
+    connect(&m_tree, &cStagedTree::CategoryEntered, this, &cStagedActions::BookSoon);
     connect(&m_tree, &cStagedTree::DeleteRequested, this, [this] { Run(Delete); });
     connect(&m_tree, &cStagedTree::MenuRequested, this, &cStagedActions::OpenMenu);
 }
 
 void cStagedActions::Run(eId id)
 {
-    if (!m_tree.LeaveField() || !Get(id)->isEnabled()) {
+    const QList<int> ids = m_tree.SelectedIds(); // with the category of its field a row may leave the list
+    const bool isUnsaid = id == Book && m_tree.IsFieldEmpty(); // the proposal was deleted, and nothing put in its place
+    if (!Get(id)->isEnabled() || isUnsaid || !m_tree.LeaveField()) {
         return;
     }
-    const QList<int> ids = m_tree.SelectedIds();
     switch (id) {
     case Book: BookRows(ids); break;
     case Accept: AcceptProposals(); break;
     case Edit: m_review.EditAndBook(ids); break;
-    case Choose: ChooseCategory(); break;
-    case Match: MatchRows(); break;
-    case Assign: AssignRow(); break;
+    case Choose: ChooseCategory(ids); break;
+    case Match: MatchRows(ids); break;
+    case Assign: AssignRow(ids); break;
     case Release: m_review.Release(ids); break;
     case Delete: m_review.Delete(ids); break;
-    case Rule: StartRule(); break;
+    case Rule: StartRule(ids); break;
     case Import: Q_EMIT ImportRequested(ids.value(0)); break;
     case All: BookRows(m_review.Rows().OpenIds()); break;
     case Count: break;
@@ -168,9 +166,8 @@ void cStagedActions::GoSoon(const cStagedGuide::cStop& stop)
         Qt::QueuedConnection);
 }
 
-void cStagedActions::ChooseCategory()
+void cStagedActions::ChooseCategory(const QList<int>& ids)
 {
-    const QList<int> ids = m_tree.SelectedIds();
     const std::unique_ptr<cManyChange> change = m_review.StartChange(ids);
     if (change == nullptr) {
         frmUmsatzKategorie(m_review, ids, &m_page).exec();
@@ -179,30 +176,35 @@ void cStagedActions::ChooseCategory()
     }
 }
 
-void cStagedActions::MatchRows()
+void cStagedActions::MatchRows(const QList<int>& ids)
 {
     cProgressBox progress(&m_page, cText::Tr("Die Umsätze werden abgeglichen …"));
-    m_review.Match(m_tree.SelectedIds(), progress);
+    m_review.Match(ids, progress);
 }
 
-void cStagedActions::AssignRow()
+void cStagedActions::AssignRow(const QList<int>& ids)
 {
-    if (const std::unique_ptr<cAssignListModel> list = m_review.StartAssign(m_tree.SelectedIds())) {
+    if (const std::unique_ptr<cAssignListModel> list = m_review.StartAssign(ids)) {
         frmZuordnung(*list, &m_page).exec();
     }
 }
 
-void cStagedActions::StartRule()
+void cStagedActions::StartRule(const QList<int>& ids)
 {
-    if (const std::unique_ptr<cRuleEditor> rules = m_review.StartRule(m_tree.SelectedIds())) {
+    if (const std::unique_ptr<cRuleEditor> rules = m_review.StartRule(ids)) {
         frmRegeln(*rules, &m_page).exec();
     }
 }
 
-void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
+QList<int> cStagedActions::RowsOf(const QModelIndex& index) const
 {
     const bool isSelected = m_tree.selectionModel()->isSelected(index);
-    const QList<int> ids = isSelected ? m_tree.SelectedIds() : QList<int>{m_review.Rows().IdAt(index)};
+    return isSelected ? m_tree.SelectedIds() : QList<int>{m_review.Rows().IdAt(index)};
+}
+
+void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
+{
+    const QList<int> ids = RowsOf(index);
     if (index.column() == cStagedListModel::Interval) {
         m_review.Choose(ids, {}, cImportReview::StoredInterval(text));
     } else {
@@ -227,6 +229,12 @@ void cStagedActions::OfferAlike(int id, const QString& category)
     BookEntered();
 }
 
+void cStagedActions::BookSoon(int id)
+{
+    m_entered = id;
+    QMetaObject::invokeMethod(this, &cStagedActions::BookEntered, Qt::QueuedConnection);
+}
+
 // The row waits until the question about others like it is answered.
 void cStagedActions::BookEntered()
 {
@@ -235,13 +243,19 @@ void cStagedActions::BookEntered()
     }
 }
 
-bool cStagedActions::TakeNewCategory(const QModelIndex& index, const QString& typed)
+bool cStagedActions::TakeNewCategory(const QModelIndex& index, const QString& typed, bool isEntered)
 {
-    const QString path = m_review.Suggestions().OfferNew(typed, m_review.TypeOf({m_review.Rows().IdAt(index)}));
-    if (!path.isEmpty()) {
-        TakeChoice(index, path);
+    const int id = m_review.Rows().IdAt(index); // the list may be another one after the question
+    const QList<int> ids = RowsOf(index);
+    const QString path = m_review.Suggestions().OfferNew(typed, m_review.TypeOf({id}));
+    if (path.isEmpty()) {
+        return false;
     }
-    return !path.isEmpty();
+    TakeCategory(ids, path);
+    if (isEntered) {
+        BookSoon(id);
+    }
+    return true;
 }
 
 void cStagedActions::ShowState()

@@ -36,8 +36,9 @@ public:
     void TakeChoice(const QModelIndex& index, const QString& text);
     // The same for a category of all these rows.
     void TakeCategory(const QList<int>& ids, const QString& category);
-    // The same for a text that names no category yet, once the user agrees to make one of it; false when not.
-    bool TakeNewCategory(const QModelIndex& index, const QString& typed);
+    // The same for a text that names no category yet, once the user agrees to make one of it; false when not. Entered
+    // in a field of OpenCategory it books the row as well.
+    bool TakeNewCategory(const QModelIndex& index, const QString& typed, bool isEntered);
 
     // Selects what is next, and opens the field of its category where that is what it lacks.
     void GoTo(const cStagedGuide::cStop& stop);
@@ -55,11 +56,13 @@ private:
     void AcceptProposals();
     void Carry(const QList<int>& ids, const std::function<bool(cProgress&)>& work);
     void OfferAlike(int id, const QString& category);
+    void BookSoon(int id);
     void BookEntered();
-    void ChooseCategory();
-    void MatchRows();
-    void AssignRow();
-    void StartRule();
+    [[nodiscard]] QList<int> RowsOf(const QModelIndex& index) const;
+    void ChooseCategory(const QList<int>& ids);
+    void MatchRows(const QList<int>& ids);
+    void AssignRow(const QList<int>& ids);
+    void StartRule(const QList<int>& ids);
     void AddGroupLines(QMenu& menu);
 
     cImportReview& m_review;

@@ -58,8 +58,7 @@ QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& ind
         Qt::QueuedConnection);
     connect(
         box, &cCategoryBox::NewWanted, box,
-        [delegate, box, place = QPersistentModelIndex(index)](const QString& typed) {
-            Q_EMIT delegate->closeEditor(box);
+        [delegate, place = QPersistentModelIndex(index)](const QString& typed) {
             Q_EMIT delegate->NewCategoryWanted(place, typed);
         },
         Qt::QueuedConnection);

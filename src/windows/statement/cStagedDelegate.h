@@ -29,7 +29,7 @@ public:
 Q_SIGNALS:
     // The user chose a text for a cell; who listens decides which rows it goes to.
     void Chosen(const QModelIndex& index, const QString& text) const;
-    // The same for a text that names no category yet.
+    // The same for a text that names no category yet; its field may still be open.
     void NewCategoryWanted(const QPersistentModelIndex& index, const QString& typed) const;
 
 protected:

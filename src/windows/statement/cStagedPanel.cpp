@@ -140,12 +140,18 @@ void cStagedPanel::Connect()
     connect(delegate, &cStagedDelegate::Chosen, m_actions, &cStagedActions::TakeChoice);
     connect(delegate, &cStagedDelegate::NewCategoryWanted, this,
             [this, delegate](const QPersistentModelIndex& index, const QString& typed) {
-                if (index.isValid() && !m_actions->TakeNewCategory(index, typed)) {
-                    delegate->StartWith(typed); // what was typed is not lost
-                    m_tree->setFocus();         // closes a field that Tab has opened meanwhile
-                    m_tree->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-                    m_tree->edit(index);
+                const bool isOwn = m_tree->DropField(index); // else the question would leave it
+                if (!index.isValid() || m_actions->TakeNewCategory(index, typed, isOwn)) {
+                    return;
                 }
+                delegate->StartWith(typed); // what was typed is not lost
+                if (isOwn) {
+                    m_tree->OpenCategory(m_review.Rows().IdAt(index));
+                    return;
+                }
+                m_tree->setFocus(); // closes a field that Tab has opened meanwhile
+                m_tree->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+                m_tree->edit(index);
             });
     auto* drop = new cCategoryDrop(*m_tree, cStagedTree::DragFormat,
                                    [&view](const QModelIndex& line) { return view.GroupCategory(line); });
@@ -161,6 +167,7 @@ void cStagedPanel::Connect()
     connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_filter, &QLineEdit::clear);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &cStagedPanel::ShowSelection);
+    connect(m_tree, &cStagedTree::FieldChanged, this, &cStagedPanel::ShowSelection);
     connect(&view, &cStagedChoice::Changed, this, &cStagedPanel::ShowView);
     connect(&view, &cStagedChoice::LayoutWanted, this, &cStagedPanel::SaveLayout);
     connect(&view, &cStagedChoice::LayoutTaken, this, &cStagedPanel::ResetLayout);
@@ -206,7 +213,7 @@ void cStagedPanel::ShowSelection()
 {
     m_actions->ShowState();
     if (m_review.View().IsTitleShown()) {
-        m_title->SetText(m_review.Guide().SelectionText(m_tree->SelectedIds()));
+        m_title->SetText(m_review.Guide().SelectionText(m_tree->SelectedIds(), m_tree->IsFieldOpen()));
     }
 }
 

@@ -228,35 +228,64 @@ void cStagedTree::OpenCategory(int id)
     scrollTo(category);
     edit(category);
     m_field = indexWidget(category);
+    m_fieldId = id;
+    Q_EMIT FieldChanged();
+}
+
+cCategoryBox* cStagedTree::CategoryField() const
+{
+    return state() == EditingState ? qobject_cast<cCategoryBox*>(indexWidget(currentIndex())) : nullptr;
+}
+
+bool cStagedTree::IsFieldEmpty() const
+{
+    const cCategoryBox* box = CategoryField();
+    return box != nullptr && box->currentText().trimmed().isEmpty();
 }
 
 bool cStagedTree::LeaveField()
 {
-    if (state() != EditingState) {
-        return true;
+    cCategoryBox* box = CategoryField();
+    if (box != nullptr && !box->UnknownText().isEmpty()) {
+        commitData(box);
+        return false;
     }
-    const auto* box = qobject_cast<const cCategoryBox*>(indexWidget(currentIndex()));
-    const bool isNamed = box == nullptr || box->UnknownText().isEmpty();
-    setFocus();
-    return isNamed;
+    if (state() == EditingState) {
+        setFocus();
+    }
+    return true;
 }
 
-// A text that names no category is asked about first.
+bool cStagedTree::DropField(const QModelIndex& cell)
+{
+    QWidget* field = indexWidget(cell);
+    const bool isOwn = field != nullptr && field == m_field;
+    if (field != nullptr) {
+        closeEditor(field, QAbstractItemDelegate::NoHint);
+    }
+    return isOwn;
+}
+
+// An emptied field confirms nothing, and a text that names no category is asked about first.
 void cStagedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
     const auto* box = editor == m_field ? qobject_cast<const cCategoryBox*>(editor) : nullptr;
-    const bool isEntered =
-        box != nullptr && hint == QAbstractItemDelegate::SubmitModelCache && box->UnknownText().isEmpty();
-    if (editor == m_field) {
+    const bool isEnter = hint == QAbstractItemDelegate::SubmitModelCache;
+    if (box != nullptr && isEnter && box->Path().isEmpty()) {
+        return;
+    }
+    if (box != nullptr) {
         m_field = nullptr;
     }
-    const int id = m_model.IdAt(currentIndex());
     QTreeView::closeEditor(editor, hint);
-    if (hint == QAbstractItemDelegate::SubmitModelCache) {
+    if (isEnter) {
         setFocus(); // also where the field went when its row moved to another group
     }
-    if (isEntered) {
-        Q_EMIT CategoryEntered(id);
+    if (box != nullptr && isEnter) {
+        Q_EMIT CategoryEntered(m_fieldId);
+    }
+    if (box != nullptr) {
+        Q_EMIT FieldChanged();
     }
 }
 

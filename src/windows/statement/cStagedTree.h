@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QTreeView>
 
+class cCategoryBox;
 class cColumnFit;
 class cStagedListModel;
 class QPainter;
@@ -22,11 +23,16 @@ public:
 
     [[nodiscard]] QList<int> SelectedIds() const; // with all rows of the groups that are selected
     void SelectIds(const QList<int>& ids);        // and takes the focus, so that Enter books them
-    // Selects one row and opens the field of its category. Enter there takes what it holds and tells so.
+    // Selects one row and opens the field of its category. Enter there takes the category that it holds and tells so;
+    // without one the field stays open.
     void OpenCategory(int id);
+    [[nodiscard]] bool IsFieldOpen() const { return m_field != nullptr && state() == EditingState; } // that very one
+    [[nodiscard]] bool IsFieldEmpty() const; // the open one, of a category
     // What stands in an open field is taken, as by leaving it. False when it names no category yet: that is asked
     // first.
     bool LeaveField();
+    // Closes the field of a cell and takes nothing from it. True when it was OpenCategory's.
+    bool DropField(const QModelIndex& cell);
 
     void SetEmptyText(const QString& title, const QString& hint);
     [[nodiscard]] QString LayoutText() const;
@@ -38,6 +44,7 @@ public:
 Q_SIGNALS:
     void BookRequested();
     void CategoryEntered(int id); // in the field that OpenCategory had opened
+    void FieldChanged();          // OpenCategory has opened one, or it was closed
     void DeleteRequested();
     void MenuRequested(const QPoint& globalPosition);
 
@@ -52,6 +59,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] cCategoryBox* CategoryField() const; // the open one; null without
     // A line as it is found again after the model was rebuilt: a row, or the head of a group.
     struct cLine
     {
@@ -86,4 +94,5 @@ private:
     QSet<QString> m_closed; // groups that the user has closed
     cKept m_kept;
     QPointer<QWidget> m_field; // that OpenCategory has opened
+    int m_fieldId = 0;         // its row, which may leave the list with the category that it takes
 };

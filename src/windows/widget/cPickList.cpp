@@ -97,7 +97,8 @@ void cPickList::Fill(const QList<cPickRow>& rows)
         item->setData(row.Cursor, cursorRole);
         m_items->appendRow(item);
     }
-    const bool isFirst = rows.first().IsMeant || (m_chosen == eChosen::FirstRow && !rows.first().IsOffer);
+    const bool isTyped = m_chosen == eChosen::FirstRow && !m_edit.text().trimmed().isEmpty();
+    const bool isFirst = rows.first().IsMeant || (isTyped && !rows.first().IsOffer);
     setCurrentIndex(isFirst ? m_items->index(0, 0) : QModelIndex());
     scrollToTop();
 }

@@ -31,8 +31,8 @@ class cPickList final : public QListView
 public:
     using fnRows = std::function<QList<cPickRow>(const QString& typed)>;
 
-    // FirstRow: typing chooses the first proposal, so that Enter or Tab take it. NoRow: the text counts as typed until
-    // the user moves into the list.
+    // FirstRow: typing chooses the first proposal, so that Enter or Tab take it; an emptied field has none. NoRow: the
+    // text counts as typed until the user moves into the list.
     enum class eChosen { FirstRow, NoRow };
 
     // `field` is the widget with the keyboard focus and `edit` the line in it; both may be the same.
