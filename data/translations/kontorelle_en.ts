@@ -10885,5 +10885,21 @@ What shall be done?</translation>
         <source>Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen.</source>
         <translation>“Yes” enters {3} as the start balance of {4}.</translation>
     </message>
+    <message>
+        <source>Gebuchte Umsätze behalten ihre Kategorie, solange offene mit markiert sind.</source>
+        <translation>Booked transactions keep their category as long as open ones are selected with them.</translation>
+    </message>
+    <message>
+        <source>Umbuchungen und aufgeteilte Einträge behalten ihre Kategorie.</source>
+        <translation>Transfers and split entries keep their category.</translation>
+    </message>
+    <message>
+        <source>Bitte ansehen: {4}.  {0}  →  {1}, {3}</source>
+        <translation>Please look at this: {4}.  {0}  →  {1}, {3}</translation>
+    </message>
+    <message>
+        <source>{0} vielleicht als Umbuchung {1}</source>
+        <translation>{0} perhaps as a transfer {1}</translation>
+    </message>
 </context>
 </TS>
