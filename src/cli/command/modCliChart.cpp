@@ -127,7 +127,7 @@ int RunChart(const cCliContext& context)
         if (path.isEmpty()) {
             continue;
         }
-        if (!modCliFlow::WriteFile(context, path, Bytes(context, target, chart))) {
+        if (!modCliFlow::WriteFile(context, path, {Bytes(context, target, chart)})) {
             return modExit::Failed;
         }
         modCliFlow::SayWritten(path);
