@@ -471,6 +471,8 @@ void testCli::MissingPartIsNamed_data()
     QTest::addRow("entries for Excel") << QStringList{u"export"_s, u"~.xlsx"_s} << xlsx;
     QTest::addRow("report for Excel") << QStringList{u"report"_s, u"summe"_s, u"--xlsx"_s, u"~.xlsx"_s} << xlsx;
     QTest::addRow("settlement for Excel") << QStringList{u"settlement"_s, u"--xlsx"_s, u"~.xlsx"_s} << xlsx;
+    QTest::addRow("painting") << QStringList{u"report"_s, u"summe"_s, u"--pdf"_s, u"~.xlsx"_s} << u"'kontorelle'"_s;
+    QTest::addRow("network") << QStringList{u"fetch"_s} << u"'kontorelle'"_s;
 }
 
 void testCli::MissingPartIsNamed()
