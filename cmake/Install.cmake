@@ -7,7 +7,7 @@ set(made ${CMAKE_BINARY_DIR}/install)
 file(MAKE_DIRECTORY ${made})
 
 install(TARGETS kontorelle kontorelle-cli)
-install(TARGETS kontorelle-pdf LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/kontorelle)
+install(TARGETS kontorelle-pdf kontorelle-xlsx LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/kontorelle)
 install(FILES
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/template.dat
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kontorelle_en.qm

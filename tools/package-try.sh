@@ -44,6 +44,9 @@ quietly inside dpkg -i /tmp/kontorelle.deb
 inside kontorelle-cli --version
 inside kontorelle-cli demo /tmp/demo.db
 inside kontorelle-cli --database /tmp/demo.db balances | tail -3
+# What writes Excel files and what paints are files of their own.
+inside kontorelle-cli --database /tmp/demo.db export /tmp/demo.xlsx
+inside kontorelle-cli --database /tmp/demo.db chart ausgaben --png /tmp/demo.png
 inside sh -c 'grep -q "application/x-camt+zip" /usr/share/mime/types && grep -q Kontorelle /usr/share/applications/mimeinfo.cache'
 
 # The window program says that it is there by its window, or at least by the book that it makes.

@@ -8,6 +8,7 @@
 #include "app/machine/cSessionWatch.h"
 #include "app/machine/cSystemClock.h"
 #include "app/machine/modBuild.h"
+#include "app/machine/modCliInWindows.h"
 #include "app/machine/modCrash.h"
 #include "app/machine/modDebugInfo.h"
 #include "app/machine/modLocale.h"
@@ -81,6 +82,9 @@ void ReadArguments(QCommandLineParser& parser, const QApplication& application)
 int main(int argc, char* argv[])
 {
     modLocale::UseUtf8();
+    if (modCliInWindows::IsWanted(argv)) {
+        return modCliInWindows::Run(argc, argv);
+    }
     if (modDebugInfo::IsWanted(argc, argv)) {
         return modDebugInfo::Run(argc, argv);
     }

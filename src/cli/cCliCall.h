@@ -33,6 +33,7 @@ struct cCliCommand
     int MinArguments = 0;
     int MaxArguments = 0;
     eCliAccess Access = eCliAccess::Read;
+    bool IsOnline = false;    // talks to a bank
     QStringList ReadsWith{};  // with one of these options it only reads, whatever Access says
     QStringList WritesWith{}; // where there are any: it only reads without one of these
     QList<cCliOption> Options{};

@@ -22,8 +22,8 @@ struct cCliPorts
     cRegistry& Registry;
     const cClock& Clock;
     cBookLock& Lock;
-    cCliPaint& Paint;
-    cHttps& Https;
+    cCliPaint* Paint; // this and the next are null in the program without windows, see modCliMain::NeedsMore
+    cHttps* Https;
     QString Version; // of the program
     QString Build;   // the version with the state of the source
 };

@@ -2,6 +2,7 @@
 
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "base/modModule.h"
 #include "cli/cCliBook.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
@@ -41,6 +42,10 @@ int RunCommand(const QStringList& arguments, const cCliPorts& ports)
     if (call.WantsHelp()) {
         return ShowHelp(call);
     }
+    if (ports.Paint == nullptr && modCliMain::NeedsMore(arguments)) {
+        modConsole::Error(modModule::Missing(modCliMain::WindowProgram));
+        return modExit::Failed;
+    }
     cConsoleUser user;
     std::unique_ptr<cCliBook> book;
     if (call.Access() != eCliAccess::None) {
@@ -78,6 +83,12 @@ bool modCliMain::NeedsPaint(const QStringList& arguments)
         const QString name = argument.section(u'=', 0, 0);
         return name == u"--pdf" || name == u"--png" || name == u"--svg";
     });
+}
+
+bool modCliMain::NeedsMore(const QStringList& arguments)
+{
+    const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
+    return NeedsPaint(arguments) || (call.Command() != nullptr && call.Command()->IsOnline);
 }
 
 QString modCliMain::Profile(const QStringList& arguments)

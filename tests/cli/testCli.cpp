@@ -73,6 +73,8 @@ private Q_SLOTS:
     void FaultyStatements_data();
     void FaultyStatements();
     void MissingTemplateIsADamagedInstallation();
+    void MissingPartIsNamed_data();
+    void MissingPartIsNamed();
     void LockedDatabaseIsReadButNotWritten();
     void DatabaseThatAnotherProgramWritesTo();
     void PasswordKeepsDataClosed();
@@ -458,6 +460,32 @@ void testCli::MissingTemplateIsADamagedInstallation()
     QVERIFY(QFile::copy(QStringLiteral(CLI_PROGRAM), program));
     const cRun run = cRun::Start(program, {u"--profile"_s, m_folder->path(), u"balances"_s});
     QVERIFY2(run.Code == 1 && run.Error.contains(u"Die Installation ist beschädigt."_s), qPrintable(run.Text()));
+}
+
+void testCli::MissingPartIsNamed_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::addColumn<QString>("part");
+
+    const QString xlsx = u"'kontorelle-xlsx.so'"_s;
+    QTest::addRow("entries for Excel") << QStringList{u"export"_s, u"~.xlsx"_s} << xlsx;
+    QTest::addRow("report for Excel") << QStringList{u"report"_s, u"summe"_s, u"--xlsx"_s, u"~.xlsx"_s} << xlsx;
+    QTest::addRow("settlement for Excel") << QStringList{u"settlement"_s, u"--xlsx"_s, u"~.xlsx"_s} << xlsx;
+    QTest::addRow("painting") << QStringList{u"report"_s, u"summe"_s, u"--pdf"_s, u"~.xlsx"_s} << u"'kontorelle'"_s;
+    QTest::addRow("network") << QStringList{u"fetch"_s} << u"'kontorelle'"_s;
+}
+
+void testCli::MissingPartIsNamed()
+{
+    QFETCH(QStringList, command);
+    QFETCH(const QString, part);
+    QCOMPARE(Run({u"import"_s, m_giro}).Code, 0);
+    const QString program = Path(u"kontorelle-cli"_s);
+    QVERIFY(QFile::copy(QStringLiteral(CLI_PROGRAM), program));
+    const cRun run = cRun::Start(
+        program, QStringList{u"--profile"_s, m_folder->path()} + command.replaceInStrings(u"~"_s, Path(u"out"_s)));
+    QVERIFY2(run.Code == 1 && run.Out.isEmpty() && run.Error.contains(part), qPrintable(run.Text()));
+    QVERIFY(!QFile::exists(Path(u"out.xlsx"_s)));
 }
 
 void testCli::LockedDatabaseIsReadButNotWritten()

@@ -59,7 +59,7 @@ struct cScene
         }
         cFileLock lock;
         const int code =
-            modCliMain::Run(arguments, {Shell, Registry, Clock, lock, Paint, Https, u"1.0.0"_s, u"1.0.0"_s});
+            modCliMain::Run(arguments, {Shell, Registry, Clock, lock, &Paint, &Https, u"1.0.0"_s, u"1.0.0"_s});
         close(ends[0]);
         return code;
     }

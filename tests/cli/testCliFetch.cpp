@@ -42,7 +42,7 @@ int Run(cHousehold& house, const QStringList& arguments, const QByteArray& pin =
     const QStringList whole =
         QStringList{u"fetch"_s, u"--database"_s, house.Path(), u"--pin-fd"_s, QString::number(pipe[0])} + arguments;
     const int code =
-        modCliMain::Run(whole, {shell, registry, house.Clock, lock, paint, house.Https, u"1.0.0"_s, u"1.0.0"_s});
+        modCliMain::Run(whole, {shell, registry, house.Clock, lock, &paint, &house.Https, u"1.0.0"_s, u"1.0.0"_s});
     ::close(pipe[0]);
     return code;
 }

@@ -351,7 +351,7 @@ void testExport::XlsxOfASettlement()
     settlement.People = {{u"Anna"_s, -1250, -625, 0}, {u"Ben"_s, 0, -625, 0}};
     settlement.Payments = {{u"Anna"_s, u"Ben"_s, 625}};
     settlement.Counted = {counted};
-    const cTable table(modSettlementExport::Xlsx(settlement, m_format.Format).value_or(QByteArray()));
+    const cTable table(modSettlementExport::Xlsx(settlement, m_format.Format).Bytes);
     QCOMPARE(
         table.Row(2),
         QStringList({u"46082"_s, u"=1+1"_s, u"Girokonto"_s, u"Anna"_s, u"Anna, Ben zu gleichen Teilen"_s, u"-12.5"_s}));

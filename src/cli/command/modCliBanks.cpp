@@ -100,7 +100,7 @@ struct cTalk
           Customer({.PinFd = modCliCommands::Fd(context, u"pin-fd"_s),
                     .TanFd = modCliCommands::Fd(context, u"tan-fd"_s),
                     .TanImage = context.Call.Value(u"tan-image"_s)}),
-          Setup({context.Book->Tools, Directory, context.Ports.Https, Customer, context.Ports.Version})
+          Setup({context.Book->Tools, Directory, *context.Ports.Https, Customer, context.Ports.Version})
     {
         const std::optional<cBankState> known =
             cBankAccess(context.Book->Tools).Find(BankCode(context), UserId(context));
@@ -382,6 +382,7 @@ cCliCommand modCliCommands::BanksAddCommand()
     return {.Name = u"banks add"_s,
             .Help = cText::Tr("richtet einen Bankzugang ein oder ändert ihn"),
             .Access = eCliAccess::Write,
+            .IsOnline = true,
             .Options = TalkOptions()
                 + QList<cCliOption>{{u"method"_s, u"VERFAHREN"_s,
                                      cText::Tr("TAN-Verfahren: Nummer oder Name aus banks methods")},
@@ -397,6 +398,7 @@ cCliCommand modCliCommands::BanksMethodsCommand()
     return {.Name = u"banks methods"_s,
             .Help = cText::Tr("fragt die Bank nach ihren TAN-Verfahren"),
             .Access = eCliAccess::Write,
+            .IsOnline = true,
             .Options = TalkOptions() + QList<cCliOption>{Json()},
             .Run = Methods};
 }

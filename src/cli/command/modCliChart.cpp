@@ -106,7 +106,7 @@ QByteArray Bytes(const cCliContext& context, const QString& target, const cChart
 {
     using enum cCliPaint::ePicture;
     return target == u"csv" ? modChartTable::Csv(chart)
-                            : context.Ports.Paint.PaintChart(chart, target == u"svg" ? Svg : Png);
+                            : context.Ports.Paint->PaintChart(chart, target == u"svg" ? Svg : Png);
 }
 
 int RunChart(const cCliContext& context)
@@ -127,7 +127,7 @@ int RunChart(const cCliContext& context)
         if (path.isEmpty()) {
             continue;
         }
-        if (!modCliFlow::WriteFile(context, path, Bytes(context, target, chart))) {
+        if (!modCliFlow::WriteFile(context, path, {Bytes(context, target, chart)})) {
             return modExit::Failed;
         }
         modCliFlow::SayWritten(path);

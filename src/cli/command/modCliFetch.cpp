@@ -163,7 +163,7 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     cConsoleBankUser customer({.PinFd = modCliCommands::Fd(context, u"pin-fd"_s),
                                .TanFd = modCliCommands::Fd(context, u"tan-fd"_s),
                                .TanImage = context.Call.Value(u"tan-image"_s)});
-    cBankFetch fetch(book.Tools, book.Statements.Files(), {context.Ports.Https, customer, context.Ports.Version});
+    cBankFetch fetch(book.Tools, book.Statements.Files(), {*context.Ports.Https, customer, context.Ports.Version});
     cBankFetch::cWish chosen = wish;
     chosen.Accounts = Places(fetch, context.Call);
     if (chosen.Accounts.isEmpty()) {
@@ -208,6 +208,7 @@ cCliCommand modCliCommands::FetchCommand()
     return {.Name = u"fetch"_s,
             .Help = cText::Tr("ruft neue Umsätze von der Bank ab; sie warten dann auf das Buchen"),
             .Access = eCliAccess::Write,
+            .IsOnline = true,
             .Options =
                 QList<cCliOption>{
                     {u"blz"_s, u"BLZ"_s, cText::Tr("nur die Konten bei dieser Bankleitzahl")},

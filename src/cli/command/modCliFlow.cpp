@@ -3,7 +3,6 @@
 #include "base/cText.h"
 #include "cli/cCliBook.h"
 #include "cli/console/cCliReader.h"
-#include "views/list/modFileWrite.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -43,9 +42,9 @@ void modCliFlow::CheckTargets(const cCliContext& context, cCliReader& reader, co
     }
 }
 
-bool modCliFlow::WriteFile(const cCliContext& context, const QString& path, const QByteArray& bytes)
+bool modCliFlow::WriteFile(const cCliContext& context, const QString& path, const modFileWrite::cContent& content)
 {
-    const QString problem = modFileWrite::Export(context.Book->Data, path, bytes);
+    const QString problem = modFileWrite::Export(context.Book->Data, path, content);
     if (!problem.isEmpty()) {
         context.User.Show(eTone::Critical, problem);
     }

@@ -2,9 +2,9 @@
 
 #include "cli/console/cConsoleUser.h"
 #include "cli/modCliCommands.h"
+#include "views/list/modFileWrite.h"
 #include "views/statement/cStatementDesk.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -23,7 +23,7 @@ namespace modCliFlow {
 // Checks the files that these options name: none may be the book.
 void CheckTargets(const cCliContext& context, cCliReader& reader, const QStringList& options);
 // Writes a file that was made from the book; false after a message.
-[[nodiscard]] bool WriteFile(const cCliContext& context, const QString& path, const QByteArray& bytes);
+[[nodiscard]] bool WriteFile(const cCliContext& context, const QString& path, const modFileWrite::cContent& content);
 // Says that a file was written.
 void SayWritten(const QString& path);
 

@@ -28,15 +28,15 @@ QStringList FileOptions()
     return {u"html"_s, u"csv"_s, u"xlsx"_s, u"pdf"_s};
 }
 
-QByteArray Bytes(const QString& option, const cSettlement& settlement, const cCliContext& context)
+modFileWrite::cContent Content(const QString& option, const cSettlement& settlement, const cCliContext& context)
 {
     const cBookTools& tools = context.Book->Tools;
     if (option == u"pdf") {
-        return context.Ports.Paint.PaintReport(
-            modSettlementText::Html(settlement, tools.Format, context.Clock.Today()));
+        return {
+            context.Ports.Paint->PaintReport(modSettlementText::Html(settlement, tools.Format, context.Clock.Today()))};
     }
     using enum cReportExport::eFormat;
-    return modSettlementExport::Bytes(settlement, option == u"csv" ? Csv : option == u"xlsx" ? Xlsx : Html, tools);
+    return modSettlementExport::Content(settlement, option == u"csv" ? Csv : option == u"xlsx" ? Xlsx : Html, tools);
 }
 
 QString ToJson(const cSettlement& settlement)
@@ -126,7 +126,7 @@ std::optional<int> WriteFiles(const cCliContext& context, const cSettlement& set
         if (path.isEmpty()) {
             continue;
         }
-        if (!modCliFlow::WriteFile(context, path, Bytes(option, settlement, context))) {
+        if (!modCliFlow::WriteFile(context, path, Content(option, settlement, context))) {
             return std::nullopt;
         }
         written.append(path);

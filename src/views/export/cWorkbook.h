@@ -3,61 +3,51 @@
 #include <QByteArray>
 #include <QDate>
 #include <QString>
-#include <QTemporaryDir>
 
-#include <optional>
-#include <vector>
+#include <memory>
 
 class cAmountFormat;
 
-struct lxw_format;
-struct lxw_workbook;
-struct lxw_worksheet;
-
-// One sheet of a table program's file. Cells are counted from 0.
+// One sheet of a table program's file. Cells are counted from 0. What writes it is a module beside the program, loaded
+// with the first such file: most starts never come to one, and its library brings others with it.
 class cWorkbook
 {
 public:
     enum eStyle { Plain, Date, Money, Head, GroupName, GroupMoney, SumName, SumMoney, StyleCount };
 
-    // `moneyPattern` is the number format of amounts, in the English notation that the file has.
-    cWorkbook(const QString& sheet, const QString& moneyPattern);
-    ~cWorkbook();
+    // Amounts have the currency sign where the program's own texts have it. Null when the module is not there.
+    [[nodiscard]] static std::unique_ptr<cWorkbook> Make(const QString& sheet, const cAmountFormat& format);
+    [[nodiscard]] static QString Missing(); // what is said then
+
+    cWorkbook() = default;
     cWorkbook(const cWorkbook&) = delete;
     cWorkbook& operator=(const cWorkbook&) = delete;
-
-    // The number format of amounts with the currency sign where the program's own texts have it.
-    [[nodiscard]] static QString MoneyPattern(const cAmountFormat& format);
+    virtual ~cWorkbook() = default;
 
     // The most rows that a sheet holds.
     static constexpr qsizetype MaxRows = 1'048'576;
 
-    void SetTitle(const QString& title, const QString& comment); // of the file's properties
-    void SetColumnWidth(int column, int characters);
+    virtual void SetTitle(const QString& title, const QString& comment) = 0; // of the file's properties
+    virtual void SetColumnWidth(int column, int characters) = 0;
     // Text is text: a "=" in front makes no formula of it. What is longer than a cell holds is cut.
-    void WriteText(qsizetype row, int column, const QString& text, eStyle style);
+    virtual void WriteText(qsizetype row, int column, const QString& text, eStyle style) = 0;
     void WriteDate(qsizetype row, int column, QDate day);
     void WriteMoney(qsizetype row, int column, qint64 cents, eStyle style);
-    void WriteCount(qsizetype row, int column, int count, eStyle style);
+    virtual void WriteNumber(qsizetype row, int column, double number, eStyle style) = 0;
     // `cents` is the result for programs that do not calculate.
     void WriteFormula(qsizetype row, int column, const QString& formula, qint64 cents, eStyle style);
-    void WriteBlank(qsizetype row, int column, eStyle style);
-    void MarkAsGroupMember(qsizetype row); // folds together with the row above its group
+    virtual void WriteBlank(qsizetype row, int column, eStyle style) = 0;
+    virtual void MarkAsGroupMember(qsizetype row) = 0; // folds together with the row above its group
 
     // The first row stays in sight and on every printed page; the rows down to `lastRow` can be filtered.
-    void SetHead(qsizetype lastRow, int lastColumn);
-    void SetPrinting(const QString& header, const QString& footer);
+    virtual void SetHead(qsizetype lastRow, int lastColumn) = 0;
+    virtual void SetPrinting(const QString& header, const QString& footer) = 0;
 
-    // The whole file; empty when it could not be written. To be called once, at the end.
-    [[nodiscard]] std::optional<QByteArray> Close();
+    // The whole file; no bytes when it could not be written. To be called once, at the end.
+    [[nodiscard]] QByteArray Close();
 
 private:
-    void MakeStyles(const QString& moneyPattern);
-    [[nodiscard]] QString Path() const { return m_folder.filePath(QStringLiteral("export.xlsx")); }
-
-    QTemporaryDir m_folder; // the library writes to a file only
-    lxw_workbook* m_book = nullptr;
-    lxw_worksheet* m_sheet = nullptr;
-    std::vector<lxw_format*> m_styles; // owned by the book
-    bool m_isComplete = true;
+    virtual void PutDay(qsizetype row, int column, QDate day) = 0;
+    virtual void PutFormula(qsizetype row, int column, const QString& formula, double result, eStyle style) = 0;
+    [[nodiscard]] virtual QByteArray Finish() = 0; // as Close, but may lack its end
 };

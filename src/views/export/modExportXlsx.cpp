@@ -13,11 +13,11 @@ using modExport::eContent;
 class cSheet
 {
 public:
-    explicit cSheet(const modExport::cJob& job)
+    cSheet(const modExport::cJob& job, cWorkbook& book)
         : m_job(job),
           m_extract(job.Extract),
           m_columns(modExport::Columns(job.Extract)),
-          m_book(cText::Tr("Einträge"), cWorkbook::MoneyPattern(job.Format))
+          m_book(book)
     {
         while (m_columns[At(m_amount)].Content != eContent::Money) {
             ++m_amount;
@@ -44,7 +44,7 @@ private:
     const modExport::cJob& m_job;
     const cEntryExtract& m_extract;
     std::vector<cColumn> m_columns;
-    cWorkbook m_book;
+    cWorkbook& m_book;
     int m_amount = 0;    // the first column of money; the balances stand behind it
     qsizetype m_row = 1; // the next one to write, counted from 0
 };
@@ -64,11 +64,7 @@ modExport::cResult cSheet::Write()
     }
     m_book.SetHead(m_row - 1, ColumnCount() - 1);
     WriteSums();
-    const std::optional<QByteArray> bytes = m_book.Close();
-    return {bytes,
-            bytes ? QString()
-                  : cText::Tr("Die Excel-Datei konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger "
-                              "voll, auf dem das System Zwischendateien ablegt.")};
+    return {m_book.Close(), {}};
 }
 
 void cSheet::WriteHead()
@@ -180,5 +176,6 @@ QString cSheet::SumFormula(const QString& type, const QString& sign) const
 
 modExport::cResult modExport::Xlsx(const cJob& job)
 {
-    return cSheet(job).Write();
+    const std::unique_ptr<cWorkbook> book = cWorkbook::Make(cText::Tr("Einträge"), job.Format);
+    return book ? cSheet(job, *book).Write() : cResult{std::nullopt, cWorkbook::Missing()};
 }

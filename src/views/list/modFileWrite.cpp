@@ -198,6 +198,11 @@ QString modFileWrite::Export(const cDataAccess& book, const QString& path, const
     return reason.isEmpty() ? QString() : Failed(path, reason);
 }
 
+QString modFileWrite::Export(const cDataAccess& book, const QString& path, const cContent& content)
+{
+    return content.Fault.isEmpty() ? Export(book, path, content.Bytes) : Failed(path, content.Fault);
+}
+
 QString modFileWrite::Failed(const QString& path, const QString& reason)
 {
     return cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",

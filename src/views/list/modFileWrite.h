@@ -16,6 +16,14 @@ namespace modFileWrite {
 // something. The whole message, empty when the file is complete. No bytes at all: they could not be put together.
 [[nodiscard]] QString Export(const cDataAccess& book, const QString& path, const QByteArray& bytes);
 
+// What a file is to hold, or why that could not be put together; without both as above.
+struct cContent
+{
+    QByteArray Bytes;
+    QString Fault{};
+};
+[[nodiscard]] QString Export(const cDataAccess& book, const QString& path, const cContent& content);
+
 // That message with another reason.
 [[nodiscard]] QString Failed(const QString& path, const QString& reason);
 

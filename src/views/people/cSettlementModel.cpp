@@ -6,7 +6,6 @@
 #include "base/modDate.h"
 #include "core/cBookTools.h"
 #include "store/cDataAccess.h"
-#include "views/list/modFileWrite.h"
 #include "views/people/modSettlementExport.h"
 #include "views/people/modSettlementText.h"
 #include "views/report/cReportExport.h"
@@ -86,9 +85,9 @@ QString cSettlementModel::AskPath(const QString& title, const QString& filter) c
     return m_tools.User.ChooseSavePath(title, filter, u"Kontorelle-%1-%2"_s.arg(cText::Tr("Ausgleich"), day));
 }
 
-void cSettlementModel::Save(const QString& title, const QString& path, const QByteArray& bytes)
+void cSettlementModel::Save(const QString& title, const QString& path, const modFileWrite::cContent& content)
 {
-    const QString problem = modFileWrite::Export(m_tools.Data, path, bytes);
+    const QString problem = modFileWrite::Export(m_tools.Data, path, content);
     const QString done = cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)});
     m_tools.User.Show(problem.isEmpty() ? eTone::Information : eTone::Critical, problem.isEmpty() ? done : problem,
                       title);
@@ -99,7 +98,7 @@ void cSettlementModel::SavePdf(const fnPaintPdf& paint)
     const QString title = cText::Tr("Als PDF speichern");
     const QString path = AskPath(title, cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"));
     if (!path.isEmpty()) {
-        Save(title, path, paint(m_html));
+        Save(title, path, {paint(m_html)});
     }
 }
 
@@ -115,5 +114,5 @@ void cSettlementModel::SaveFile()
         m_tools.User.Show(eTone::Critical, cReportExport::NoFormat(path), title);
         return;
     }
-    Save(title, path, modSettlementExport::Bytes(m_settlement, *format, m_tools));
+    Save(title, path, modSettlementExport::Content(m_settlement, *format, m_tools));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/list/modFileWrite.h"
 #include "views/people/cPeople.h"
 #include "views/statistics/cStatisticsPeriod.h"
 
@@ -36,7 +37,7 @@ public:
 private:
     void Changed();
     [[nodiscard]] QString AskPath(const QString& title, const QString& filter) const;
-    void Save(const QString& title, const QString& path, const QByteArray& bytes);
+    void Save(const QString& title, const QString& path, const modFileWrite::cContent& content);
 
     const cBookTools& m_tools;
     cStatisticsPeriod m_period;

@@ -22,13 +22,9 @@ constexpr int amountColumn = 5;
 class cSettlementSheet
 {
 public:
-    cSettlementSheet(const cSettlement& settlement, const cAmountFormat& format)
-        : m_settlement(settlement),
-          m_book(cText::Tr("Ausgleich"), cWorkbook::MoneyPattern(format))
-    {
-    }
+    cSettlementSheet(const cSettlement& settlement, cWorkbook& book) : m_settlement(settlement), m_book(book) {}
 
-    [[nodiscard]] std::optional<QByteArray> Write()
+    [[nodiscard]] QByteArray Write()
     {
         WriteHead();
         for (const cCountedEntry& counted : m_settlement.Counted) {
@@ -100,20 +96,20 @@ private:
     }
 
     const cSettlement& m_settlement;
-    cWorkbook m_book;
+    cWorkbook& m_book;
     qsizetype m_row = 1; // the next one to write, counted from 0
 };
 
 } // namespace
 
-QByteArray modSettlementExport::Bytes(const cSettlement& settlement, cReportExport::eFormat format,
-                                      const cBookTools& tools)
+modFileWrite::cContent modSettlementExport::Content(const cSettlement& settlement, cReportExport::eFormat format,
+                                                    const cBookTools& tools)
 {
     using enum cReportExport::eFormat;
     switch (format) {
-    case Html: return modSettlementText::Page(settlement, tools.Format, tools.Clock.Today()).toUtf8();
-    case Csv: return modSettlementExport::Csv(settlement);
-    case Xlsx: return modSettlementExport::Xlsx(settlement, tools.Format).value_or(QByteArray());
+    case Html: return {modSettlementText::Page(settlement, tools.Format, tools.Clock.Today()).toUtf8()};
+    case Csv: return {modSettlementExport::Csv(settlement)};
+    case Xlsx: return modSettlementExport::Xlsx(settlement, tools.Format);
     }
     return {};
 }
@@ -131,7 +127,9 @@ QByteArray modSettlementExport::Csv(const cSettlement& settlement)
     return bytes;
 }
 
-std::optional<QByteArray> modSettlementExport::Xlsx(const cSettlement& settlement, const cAmountFormat& format)
+modFileWrite::cContent modSettlementExport::Xlsx(const cSettlement& settlement, const cAmountFormat& format)
 {
-    return cSettlementSheet(settlement, format).Write();
+    const std::unique_ptr<cWorkbook> book = cWorkbook::Make(cText::Tr("Ausgleich"), format);
+    return book ? modFileWrite::cContent{cSettlementSheet(settlement, *book).Write()}
+                : modFileWrite::cContent{{}, cWorkbook::Missing()};
 }

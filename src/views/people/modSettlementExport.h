@@ -1,11 +1,10 @@
 #pragma once
 
+#include "views/list/modFileWrite.h"
 #include "views/people/modSettlement.h"
 #include "views/report/cReportExport.h"
 
 #include <QByteArray>
-
-#include <optional>
 
 class cAmountFormat;
 struct cBookTools;
@@ -13,13 +12,14 @@ struct cBookTools;
 // The settlement as files.
 namespace modSettlementExport {
 
-// A file of the format; empty when it could not be put together.
-[[nodiscard]] QByteArray Bytes(const cSettlement& settlement, cReportExport::eFormat format, const cBookTools& tools);
+// A file of the format.
+[[nodiscard]] modFileWrite::cContent Content(const cSettlement& settlement, cReportExport::eFormat format,
+                                             const cBookTools& tools);
 
 // The entries that counted.
 [[nodiscard]] QByteArray Csv(const cSettlement& settlement);
 
 // The entries that counted, below them what each person paid and bears, and who pays whom.
-[[nodiscard]] std::optional<QByteArray> Xlsx(const cSettlement& settlement, const cAmountFormat& format);
+[[nodiscard]] modFileWrite::cContent Xlsx(const cSettlement& settlement, const cAmountFormat& format);
 
 } // namespace modSettlementExport

@@ -4,7 +4,6 @@
 #include "base/cUser.h"
 #include "base/modDate.h"
 #include "core/cBookTools.h"
-#include "views/list/modFileWrite.h"
 #include "views/report/cReportSource.h"
 #include "views/report/modReport.h"
 #include "views/report/modReportExport.h"
@@ -69,19 +68,18 @@ cReportExport::eDone cReportExport::Run(const cReportWish& wish)
 
 cReportExport::eDone cReportExport::WriteFile(const cReportWish& wish, eFormat format, const QString& path)
 {
-    const std::optional<QByteArray> bytes = Bytes(wish, format);
-    const QString problem = modFileWrite::Export(m_tools.Data, path, bytes.value_or(QByteArray()));
+    const QString problem = modFileWrite::Export(m_tools.Data, path, Content(wish, format));
     return problem.isEmpty() ? eDone::Written : Refuse(problem);
 }
 
-std::optional<QByteArray> cReportExport::Bytes(const cReportWish& wish, eFormat format)
+modFileWrite::cContent cReportExport::Content(const cReportWish& wish, eFormat format)
 {
     switch (format) {
-    case eFormat::Html: return m_source.Page(wish).toUtf8();
-    case eFormat::Csv: return modReportExport::Csv(m_source.Figures(wish));
+    case eFormat::Html: return {m_source.Page(wish).toUtf8()};
+    case eFormat::Csv: return {modReportExport::Csv(m_source.Figures(wish))};
     case eFormat::Xlsx: return modReportExport::Xlsx(m_source.Figures(wish), m_tools.Format);
     }
-    return std::nullopt;
+    return {};
 }
 
 cReportExport::eDone cReportExport::Refuse(const QString& text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/list/modFileWrite.h"
 #include "views/report/cReportFigures.h"
 
 #include <QString>
@@ -31,7 +32,7 @@ public:
     [[nodiscard]] eDone WriteFile(const cReportWish& wish, eFormat format, const QString& path);
 
 private:
-    [[nodiscard]] std::optional<QByteArray> Bytes(const cReportWish& wish, eFormat format);
+    [[nodiscard]] modFileWrite::cContent Content(const cReportWish& wish, eFormat format);
     [[nodiscard]] eDone Refuse(const QString& text);
 
     const cBookTools& m_tools;

@@ -67,13 +67,9 @@ void ForEachCategory(const cReportFigures& figures, tWrite write)
 class cSheet
 {
 public:
-    cSheet(const cReportFigures& figures, const cAmountFormat& format)
-        : m_figures(figures),
-          m_book(modReport::ShownName(figures.Type), cWorkbook::MoneyPattern(format))
-    {
-    }
+    cSheet(const cReportFigures& figures, cWorkbook& book) : m_figures(figures), m_book(book) {}
 
-    [[nodiscard]] std::optional<QByteArray> Write()
+    [[nodiscard]] QByteArray Write()
     {
         WriteHead();
         ForEachCategory(m_figures, [this](const auto& section, const auto& group, const auto& category) {
@@ -123,7 +119,7 @@ private:
         for (const qint64 cents : money) {
             m_book.WriteMoney(m_row, column++, cents, moneyStyle);
         }
-        m_book.WriteCount(m_row, column, amount.Entries, textStyle);
+        m_book.WriteNumber(m_row, column, amount.Entries, textStyle);
         ++m_row;
     }
 
@@ -141,7 +137,7 @@ private:
     }
 
     const cReportFigures& m_figures;
-    cWorkbook m_book;
+    cWorkbook& m_book;
     qsizetype m_row = 1; // the next one to write, counted from 0
 };
 
@@ -161,7 +157,9 @@ QByteArray modReportExport::Csv(const cReportFigures& figures)
     return bytes;
 }
 
-std::optional<QByteArray> modReportExport::Xlsx(const cReportFigures& figures, const cAmountFormat& format)
+modFileWrite::cContent modReportExport::Xlsx(const cReportFigures& figures, const cAmountFormat& format)
 {
-    return cSheet(figures, format).Write();
+    const std::unique_ptr<cWorkbook> book = cWorkbook::Make(modReport::ShownName(figures.Type), format);
+    return book ? modFileWrite::cContent{cSheet(figures, *book).Write()}
+                : modFileWrite::cContent{{}, cWorkbook::Missing()};
 }

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "views/list/modFileWrite.h"
 #include "views/report/cReportFigures.h"
 
 #include <QByteArray>
-
-#include <optional>
 
 class cAmountFormat;
 
@@ -14,7 +13,6 @@ namespace modReportExport {
 
 [[nodiscard]] QByteArray Csv(const cReportFigures& figures);
 
-// Empty when the file could not be put together.
-[[nodiscard]] std::optional<QByteArray> Xlsx(const cReportFigures& figures, const cAmountFormat& format);
+[[nodiscard]] modFileWrite::cContent Xlsx(const cReportFigures& figures, const cAmountFormat& format);
 
 } // namespace modReportExport
