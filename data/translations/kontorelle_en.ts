@@ -6124,10 +6124,6 @@ They are not executed. If you have not made them yourself, please check where th
         <translation>The file &apos;{0}&apos; exists already.</translation>
     </message>
     <message>
-        <source>Die Excel-Datei konnte nicht zusammengestellt werden. Vielleicht ist der Datenträger voll, auf dem das System Zwischendateien ablegt.</source>
-        <translation>The Excel file could not be put together. Maybe the disk is full on which the system keeps temporary files.</translation>
-    </message>
-    <message>
         <source>Die Datei ist für diesen Datenträger zu groß.</source>
         <translation>The file is too large for this disk.</translation>
     </message>
@@ -10900,6 +10896,10 @@ What shall be done?</translation>
     <message>
         <source>{0} vielleicht als Umbuchung {1}</source>
         <translation>{0} perhaps as a transfer {1}</translation>
+    </message>
+    <message>
+        <source>Die Datei &apos;{0}&apos; des Programms fehlt oder ist beschädigt. Eine Neuinstallation könnte das Problem beheben.</source>
+        <translation>The file &apos;{0}&apos; of the program is missing or damaged. Reinstalling could solve the problem.</translation>
     </message>
 </context>
 </TS>
