@@ -121,9 +121,14 @@ QList<qint64> modBudget::Spread(qint64 cents)
     return parts;
 }
 
+bool modBudget::Counts(const QString& type, const QString& category)
+{
+    return type != modWord::Umbuchung && category != modWord::Startguthaben;
+}
+
 bool modBudget::Counts(const cEntryItem& entry)
 {
-    return entry.EntryType != modWord::Umbuchung && entry.EntryCategory != modWord::Startguthaben;
+    return Counts(entry.EntryType, entry.EntryCategory);
 }
 
 qint64 modBudget::SpentCents(const cEntryItem& entry)

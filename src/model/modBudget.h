@@ -46,6 +46,7 @@ inline constexpr int MonthsOfYear = 12;
 [[nodiscard]] QList<qint64> Spread(qint64 cents);
 
 // Whether an entry counts against limits: transfers and start balances do not.
+[[nodiscard]] bool Counts(const QString& type, const QString& category);
 [[nodiscard]] bool Counts(const cEntryItem& entry);
 // What an entry adds to what was spent, in cents: income takes from it.
 [[nodiscard]] qint64 SpentCents(const cEntryItem& entry);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cAccountSum.h"
+#include "model/cCategorySum.h"
 #include "model/cEntryItem.h"
 #include "model/cEntryItemFixMod.h"
 #include "model/cEntryQuery.h"
@@ -74,6 +75,8 @@ public:
     // Sums of what GetEntries would return, without building the records of one-off entries. `withStartBalance` false
     // leaves out the category of start balances.
     [[nodiscard]] QList<cAccountSum> GetSums(const cEntryQuery& query, bool withStartBalance);
+    // The same by kind, category and tags, for reports: first sums of one-off entries, then one of each series.
+    [[nodiscard]] QList<cCategorySum> GetCategorySums(const cEntryQuery& query);
     // The entries of these days, both valid, and the sums of all earlier ones, in one pass through the table. The sums
     // up to `balanceDay`, one of the days, are kept: GetSums gives them without reading while nothing is written.
     [[nodiscard]] cEntryWindow GetWindow(const modPeriod::cRange& days, QDate balanceDay);

@@ -40,7 +40,7 @@ public:
 
     [[nodiscard]] cFaultyEntry Read(const cRows& row)
     {
-        cFaultyEntry found{m_reader.Read(row), row.Text(1), row.Text(8), {}};
+        cFaultyEntry found{m_reader.Read(row), row.Text(0), row.Text(8), {}};
         const cEntryItem& entry = found.Entry;
         const bool isSeries = modRecurrence::IsRecurring(entry.EntryInterval);
         const bool isKnown = isSeries || entry.EntryInterval == modWord::Einmalig;

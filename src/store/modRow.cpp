@@ -136,8 +136,8 @@ template <typename tRow>
 cEntryItem cEntryReader::ReadFrom(const tRow& row)
 {
     return {
-        .ID = static_cast<int>(row.Integer(0)),
-        .EntryDate = m_days.Get(row.Bytes(1)),
+        .ID = static_cast<int>(row.Integer(1)),
+        .EntryDate = m_days.Get(row.Bytes(0)),
         .EntryDateEnd = m_ends.Get(row.Bytes(2)),
         .EntryType = m_types.Get(row.Bytes(3)),
         .EntryInterval = m_intervals.Get(row.Bytes(4)),

@@ -70,7 +70,8 @@ private:
 class cEntryReader
 {
 public:
-    static constexpr const char* Columns = "ID, EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
+    // The day first, because scans look at it before anything else.
+    static constexpr const char* Columns = "EntryDate, ID, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
                                            "EntryAccountMove, EntryCategory, EntryValue, EntryDescription, EntryFlags";
     inline static const std::string Select = std::string("SELECT ") + Columns + " FROM data";
 

@@ -84,6 +84,7 @@ private:
     [[nodiscard]] cEntryItem RandomEntry();
     void ChooseWish();
     [[nodiscard]] bool IsInside(const reportAgreement::cBooking& booking) const;
+    [[nodiscard]] cEntryQuery Query() const;
     [[nodiscard]] std::map<QString, reportAgreement::cPlain> PlainSums(bool withStart) const;
     void AddBudget(const QString& path);
     [[nodiscard]] qint64 Own(const QString& path, QDate month) const;

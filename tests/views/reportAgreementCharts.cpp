@@ -165,10 +165,7 @@ void testReportAgreement::CompareBalances()
 {
     m_wish.Account.clear();
     m_wish.ShowsStart = true;
-    cEntryQuery query;
-    query.Start = m_wish.Range.Start;
-    query.End = m_wish.ShowsFuture ? m_wish.Range.End : qMin(m_wish.Range.End, m_wish.Today);
-    const QList<cAccountSum> sums = m_book.Data.GetSums(query, true);
+    const QList<cAccountSum> sums = m_book.Data.GetSums(Query(), true);
     qint64 total = 0;
     for (const QString& account : accounts) {
         qint64 balance = 0;

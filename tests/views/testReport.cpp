@@ -122,6 +122,8 @@ private Q_SLOTS:
     void TagsCountInEach();
     void Tree();
     void SourceAsksOnce();
+    void SumsGiveTheFiguresOfTheirEntries_data();
+    void SumsGiveTheFiguresOfTheirEntries();
     void FutureAndStartFollowTheView();
     void Tables();
     void SavedByEnding();
@@ -336,7 +338,7 @@ void testReport::MonthsOfALimit()
 {
     QFETCH(modPeriod::cRange, range);
     const cEntryItemList entries = Entries({u"2026-05-01 Ausgabe 1 A; X"_s, u"2026-02-28 Ausgabe 1 A; X"_s});
-    QTEST(modReport::Basis(Wish(eReport::Limit, range), entries).Months, "months");
+    QTEST(modReport::Figures(entries, {}, Wish(eReport::Limit, range)).Basis.Months, "months");
 }
 
 void testReport::Links_data()
@@ -477,6 +479,50 @@ void testReport::SourceAsksOnce()
     wish.Account.clear();
     source.Forget();
     QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 0);
+}
+
+void testReport::SumsGiveTheFiguresOfTheirEntries_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::newRow("plain days") << QString();
+    QTest::newRow("a day that only the database reads") << u"EntryDate = '2026-04-05 10:00' WHERE ID = 2"_s;
+    QTest::newRow("a day that nobody reads") << u"EntryDate = '2026-1-5' WHERE ID = 2"_s;
+    QTest::newRow("a series that nobody can place") << u"EntryDate = 'bald' WHERE EntryInterval = 'Monatlich'"_s;
+    QTest::newRow("no category") << u"EntryCategory = NULL WHERE ID = 3"_s;
+}
+
+// What the database adds up by itself makes the same report, to the month and the spelling of a tag.
+void testReport::SumsGiveTheFiguresOfTheirEntries()
+{
+    QFETCH(const QString, change);
+    cTestBook book;
+    const QList<std::pair<QDate, QString>> written{
+        {QDate(2026, 3, 9), u"#Urlaub"_s}, {QDate(2026, 7, 1), {}}, {QDate(2026, 2, 8), u"#urlaub 'n' #Meer"_s}};
+    for (const auto& each : written) {
+        book.Add([&](cEntryItem& entry) {
+            entry.EntryDate = each.first;
+            entry.EntryDescription = each.second;
+        });
+    }
+    book.Add([](cEntryItem& entry) { entry.EntryType = modWord::Umbuchung; });
+    book.Add([](cEntryItem& entry) {
+        entry.EntryDate = QDate(2026, 1, 31);
+        entry.EntryDateEnd = QDate(2026, 9, 30);
+        entry.EntryType = modWord::Einnahme;
+        entry.EntryInterval = u"Monatlich"_s;
+        entry.EntryDescription = u"#MEER"_s;
+    });
+    if (!change.isEmpty()) {
+        book.Database.ExecuteScript("UPDATE data SET " + change.toStdString());
+    }
+    for (const modPeriod::cRange& range : {year2026, modPeriod::Month(QDate(2026, 3, 1), 0), modPeriod::cRange{}}) {
+        const cEntryQuery query{range.Start, range.End, {}, {}, {}, eBookingKind::All};
+        for (const eReport type : {eReport::Sum, eReport::Average, eReport::Tag}) {
+            const cReportFigures figures = modReport::Figures(book.Data.GetEntries(query), {}, Wish(type, range));
+            QCOMPARE(figures.Expense.Groups.isEmpty(), false);
+            QCOMPARE(modReport::Figures(book.Data.GetCategorySums(query), {}, Wish(type, range)), figures);
+        }
+    }
 }
 
 void testReport::FutureAndStartFollowTheView()

@@ -147,6 +147,15 @@ bool testReportAgreement::IsInside(const cBooking& booking) const
     return booking.Day >= m_wish.Range.Start && booking.Day <= end;
 }
 
+cEntryQuery testReportAgreement::Query() const
+{
+    cEntryQuery query;
+    query.Start = m_wish.Range.Start;
+    query.End = m_wish.ShowsFuture ? m_wish.Range.End : qMin(m_wish.Range.End, m_wish.Today);
+    query.Account = m_wish.Account;
+    return query;
+}
+
 std::map<QString, cPlain> testReportAgreement::PlainSums(bool withStart) const
 {
     std::map<QString, cPlain> sums;
@@ -312,11 +321,12 @@ void testReportAgreement::CompareNodes(const cReportFigures& figures)
 {
     cReportTreeModel tree(m_format.Format);
     tree.SetFigures(figures);
+    const cEntryItemList all = m_book.Data.GetEntries(Query());
     const auto compare = [&](const cReportNode& node, const cReportAmount& amount) {
         const QModelIndex line = tree.FindNode(node);
         QVERIFY(line.isValid());
         QCOMPARE(line.siblingAtColumn(cReportTreeModel::Amount).data().toString(), m_format.Format.Cents(amount.Cents));
-        const cEntryItemList entries = m_source->EntriesOf(m_wish, node);
+        const cEntryItemList entries = modReport::EntriesOf(all, m_wish, node, m_source->Limits(m_wish));
         qint64 sum = 0;
         for (const cEntryItem& entry : entries) {
             const bool isSameKind = (entry.EntryType == modWord::Einnahme) == (node.Kind == eReportKind::Income);
@@ -344,7 +354,7 @@ void testReportAgreement::CompareList()
     m_wish.Type = eReport::Sum;
     cEntryListModel list(m_format.Format);
     cEntryListModel::cContent content;
-    content.Entries = m_source->Entries(m_wish);
+    content.Entries = m_book.Data.GetEntries(Query());
     content.Account = m_wish.Account;
     content.Today = m_wish.Today;
     content.HiddenCategory = m_wish.ShowsStart ? QString() : modWord::Startguthaben;

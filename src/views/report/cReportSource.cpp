@@ -36,8 +36,9 @@ cReportWish cReportSource::Wish(eReport type, const QString& account, const QStr
 
 const cReportFigures& cReportSource::Figures(const cReportWish& wish)
 {
-    const cEntryItemList& entries = Entries(wish);
-    m_figures = IsUnread() ? modReport::Figures({}, {}, wish) : modReport::Figures(entries, Limits(wish), wish);
+    const QList<cCategorySum>& sums = Sums(wish);
+    m_figures =
+        IsUnread() ? modReport::Figures(QList<cCategorySum>(), {}, wish) : modReport::Figures(sums, Limits(wish), wish);
     m_figures.IsUnread = IsUnread();
     return m_figures;
 }
@@ -52,22 +53,13 @@ QString cReportSource::Page(const cReportWish& wish)
     return modReportHtml::Page(Figures(wish), wish, m_tools.Format);
 }
 
-cEntryItemList cReportSource::EntriesOf(const cReportWish& wish, const cReportNode& node)
-{
-    const cEntryItemList& entries = Entries(wish);
-    cEntryItemList found = modReport::EntriesOf(entries, wish, node, Limits(wish));
-    std::stable_sort(found.begin(), found.end(),
-                     [](const cEntryItem& a, const cEntryItem& b) { return a.EntryDate < b.EntryDate; });
-    return found;
-}
-
 const cLimits& cReportSource::Limits(const cReportWish& wish)
 {
     if (!modReport::HasLimits(wish.Type)) {
         static const cLimits none;
         return none;
     }
-    const QDate from = modReport::Basis(wish, Entries(wish)).FirstMonth;
+    const QDate from = modReport::Basis(wish, Sums(wish)).FirstMonth;
     if (!m_limitsFrom.isValid() || m_limitsFrom != from) {
         m_limits = modLimits::Read(m_tools.Data, m_tools.Settings, m_templates, from);
         m_limitsFrom = from;
@@ -75,13 +67,13 @@ const cLimits& cReportSource::Limits(const cReportWish& wish)
     return m_limits;
 }
 
-// Entries and categories are both needed: figures of a part would be wrong.
+// Sums and categories are both needed: figures of a part would be wrong.
 bool cReportSource::IsUnread() const
 {
-    return modUnread::IsMissing(m_tools.Data, std::min(m_entries.size(), m_templates.size()));
+    return modUnread::IsMissing(m_tools.Data, std::min(m_sums.size(), m_templates.size()));
 }
 
-const cEntryItemList& cReportSource::Entries(const cReportWish& wish)
+const QList<cCategorySum>& cReportSource::Sums(const cReportWish& wish)
 {
     const cAsked asked = Ask(wish);
     if (m_asked != asked) {
@@ -89,18 +81,18 @@ const cEntryItemList& cReportSource::Entries(const cReportWish& wish)
         query.Start = asked.Start;
         query.End = asked.End;
         query.Account = asked.Account;
-        m_entries = m_tools.Data.GetEntries(query);
+        m_sums = m_tools.Data.GetCategorySums(query);
         m_templates = m_tools.Data.GetTemplates();
         m_limitsFrom = {};
         m_asked = IsUnread() ? std::nullopt : std::optional(asked); // read again next time
     }
-    return m_entries;
+    return m_sums;
 }
 
 void cReportSource::Forget()
 {
     m_asked.reset();
-    m_entries.clear();
+    m_sums.clear();
     m_templates.clear();
     m_limitsFrom = {};
 }

@@ -1,17 +1,18 @@
 #pragma once
 
-#include "model/cEntryItem.h"
+#include "model/cCategorySum.h"
 #include "model/cLimits.h"
 #include "views/report/cReportFigures.h"
 
+#include <QList>
 #include <QString>
 
 #include <optional>
 
 struct cBookTools;
 
-// Reports over the open book. The entries of the last account and period stay in memory, so that another report or
-// another order of the same ones costs no query.
+// Reports over the open book. The sums of the last account and period stay in memory, so that another report or another
+// order of the same ones costs no query.
 class cReportSource
 {
 public:
@@ -26,11 +27,6 @@ public:
     [[nodiscard]] QString Html(const cReportWish& wish); // as the view shows it
     [[nodiscard]] QString Page(const cReportWish& wish); // as a file of its own
 
-    // The entries behind a node, by day.
-    [[nodiscard]] cEntryItemList EntriesOf(const cReportWish& wish, const cReportNode& node);
-    // All entries of the wish's account and period, transfers included.
-    [[nodiscard]] const cEntryItemList& Entries(const cReportWish& wish);
-
     // The limits that the wish's figures were made with; none for reports without.
     [[nodiscard]] const cLimits& Limits(const cReportWish& wish);
 
@@ -38,7 +34,7 @@ public:
     void Forget();
 
 private:
-    // What the entries in memory were asked for.
+    // What the sums in memory were asked for.
     struct cAsked
     {
         QString Account;
@@ -47,11 +43,13 @@ private:
         bool operator==(const cAsked&) const = default;
     };
     [[nodiscard]] static cAsked Ask(const cReportWish& wish);
+    // Of all entries of the wish's account and period, transfers included.
+    [[nodiscard]] const QList<cCategorySum>& Sums(const cReportWish& wish);
     [[nodiscard]] bool IsUnread() const;
 
     const cBookTools& m_tools;
     std::optional<cAsked> m_asked;
-    cEntryItemList m_entries;
+    QList<cCategorySum> m_sums;
     cTemplateItemList m_templates; // as they were loaded with them
     cLimits m_limits;
     QDate m_limitsFrom; // what is carried over into this month is in the limits; invalid: they are old

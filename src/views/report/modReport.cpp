@@ -65,15 +65,18 @@ cPath Split(const QString& path)
     return {path.isEmpty() ? modTemplate::NoPath : modTemplate::MainOf(path), modTemplate::SubOf(path)};
 }
 
-bool Counts(const cEntryItem& entry, const cReportWish& wish)
+// An item is an entry, or the sum of some.
+template <typename tItem>
+bool Counts(const tItem& item, const cReportWish& wish)
 {
     const bool withStart = wish.Type == eReport::Sum && wish.ShowsStart;
-    return modBudget::Counts(entry) || (withStart && entry.EntryType != modWord::Umbuchung);
+    return modBudget::Counts(item.EntryType, item.EntryCategory) || (withStart && item.EntryType != modWord::Umbuchung);
 }
 
-eReportKind KindOf(const cEntryItem& entry)
+template <typename tItem>
+eReportKind KindOf(const tItem& item)
 {
-    return entry.EntryType == modWord::Einnahme ? eReportKind::Income : eReportKind::Expense;
+    return item.EntryType == modWord::Einnahme ? eReportKind::Income : eReportKind::Expense;
 }
 
 // The limits of the categories that have one in the counted months.
@@ -89,16 +92,18 @@ QHash<cPath, cLimit> Limits(const cLimits& limits, const cReportBasis& basis)
     return found;
 }
 
-// The groups that an entry counts in when tags are the groups; the category stands whole below each of them.
-QStringList TagsOf(const cEntryItem& entry)
+// The groups that an item counts in when tags are the groups; the category stands whole below each of them.
+template <typename tItem>
+QStringList TagsOf(const tItem& item)
 {
-    QStringList tags = modTag::Of(entry.EntryDescription);
+    QStringList tags = modTag::Of(item.EntryDescription);
     return tags.isEmpty() ? QStringList{modReport::NoTag} : tags;
 }
 
-cPath TagPath(const QString& tag, const cEntryItem& entry)
+template <typename tItem>
+cPath TagPath(const QString& tag, const tItem& item)
 {
-    return {modTag::Key(tag), entry.EntryCategory.isEmpty() ? modTemplate::NoPath : entry.EntryCategory};
+    return {modTag::Key(tag), item.EntryCategory.isEmpty() ? modTemplate::NoPath : item.EntryCategory};
 }
 
 // What lies on one category.
@@ -108,6 +113,26 @@ struct cTotal
     int Entries = 0;
 };
 
+cTotal TotalOf(const cEntryItem& entry)
+{
+    return {entry.EntryValue, 1};
+}
+
+cTotal TotalOf(const cCategorySum& sum)
+{
+    return {sum.Cents, sum.Entries};
+}
+
+modPeriod::cRange DaysOf(const cEntryItem& entry)
+{
+    return {entry.EntryDate, entry.EntryDate};
+}
+
+modPeriod::cRange DaysOf(const cCategorySum& sum)
+{
+    return {sum.First, sum.Last};
+}
+
 struct cSlot
 {
     cPath Path;
@@ -116,28 +141,30 @@ struct cSlot
     std::optional<cLimit> Limit{}; // for the whole period; none without one
 };
 
-// Totals by category, filled in one pass over the entries.
+// Totals by category, filled in one pass over the items.
 class cSlots
 {
 public:
-    void Add(const cEntryItem& entry)
+    template <typename tItem>
+    void Add(const tItem& item)
     {
-        Add(entry, m_slots[Find(entry.EntryCategory)]);
-        Add(entry, m_whole);
+        Add(item, m_slots[Find(item.EntryCategory)]);
+        Add(item, m_whole);
     }
 
     // An entry counts in each of its tags, and once in the whole.
-    void AddByTag(const cEntryItem& entry)
+    template <typename tItem>
+    void AddByTag(const tItem& item)
     {
-        const QStringList tags = TagsOf(entry);
+        const QStringList tags = TagsOf(item);
         for (const QString& tag : tags) {
-            const cPath path = TagPath(tag, entry);
-            Add(entry, m_slots[Find(path)]);
+            const cPath path = TagPath(tag, item);
+            Add(item, m_slots[Find(path)]);
             if (!m_labels.contains(path.Group)) {
                 m_labels.insert(path.Group, tag);
             }
         }
-        Add(entry, m_whole);
+        Add(item, m_whole);
     }
 
     void AddLimits(const QHash<cPath, cLimit>& limits)
@@ -152,11 +179,13 @@ public:
     [[nodiscard]] const QHash<QString, QString>& Labels() const { return m_labels; }
 
 private:
-    static void Add(const cEntryItem& entry, cSlot& slot)
+    template <typename tItem>
+    static void Add(const tItem& item, cSlot& slot)
     {
-        cTotal& total = KindOf(entry) == eReportKind::Income ? slot.Income : slot.Expense;
-        total.Cents += entry.EntryValue;
-        ++total.Entries;
+        const cTotal added = TotalOf(item);
+        cTotal& total = KindOf(item) == eReportKind::Income ? slot.Income : slot.Expense;
+        total.Cents += added.Cents;
+        total.Entries += added.Entries;
     }
 
     // Different texts may stand for the same category: none, and the word for none.
@@ -352,15 +381,16 @@ qint64 DaysOfYears(QDate first, QDate last)
 
 // The days that count. Where the period is open, these are whole months, from that of the first entry on and up to that
 // of the last one: what comes once a month would otherwise come once more than there are months between its days.
-modPeriod::cRange Counted(const cReportWish& wish, const cReportBasis& shown, const cEntryItemList& entries)
+template <typename tItem>
+modPeriod::cRange Counted(const cReportWish& wish, const cReportBasis& shown, const QList<tItem>& items)
 {
     modPeriod::cRange counted{shown.Start, shown.End};
     QDate first;
     QDate last;
-    for (const cEntryItem& entry : entries) {
-        if (Counts(entry, wish)) {
-            first = first.isValid() ? std::min(first, entry.EntryDate) : entry.EntryDate;
-            last = last.isValid() ? std::max(last, entry.EntryDate) : entry.EntryDate;
+    for (const tItem& item : items) {
+        if (const modPeriod::cRange days = DaysOf(item); days.Start.isValid() && Counts(item, wish)) {
+            first = first.isValid() ? std::min(first, days.Start) : days.Start;
+            last = std::max(last, days.End);
         }
     }
     if (!first.isValid()) {
@@ -375,29 +405,44 @@ modPeriod::cRange Counted(const cReportWish& wish, const cReportBasis& shown, co
     return counted;
 }
 
-} // namespace
+template <typename tItem>
+cReportBasis BasisOf(const cReportWish& wish, const QList<tItem>& items)
+{
+    cReportBasis basis;
+    basis.Start = wish.Range.Start.isValid() ? wish.Range.Start : earliest;
+    basis.End = wish.Range.End.isValid() ? wish.Range.End : latest;
+    basis.YearBasis = DaysOfYears(basis.Start, basis.End);
+    const modPeriod::cRange counted = Counted(wish, basis, items);
+    basis.Days = std::max<qint64>(1, std::abs(counted.Start.daysTo(counted.End)));
+    basis.DaysOfYears = DaysOfYears(counted.Start, counted.End);
+    basis.Years = std::abs(counted.End.year() - counted.Start.year()) + 1;
+    basis.Months = MonthsBetween(counted.Start, counted.End);
+    basis.FirstMonth = modBudget::MonthOf(std::min(counted.Start, counted.End));
+    return basis;
+}
 
-cReportFigures modReport::Figures(const cEntryItemList& entries, const cLimits& limits, const cReportWish& wish)
+template <typename tItem>
+cReportFigures FiguresOf(const QList<tItem>& items, const cLimits& limits, const cReportWish& wish)
 {
     cReportFigures figures;
     figures.Type = wish.Type;
     figures.Account = wish.Account;
-    figures.Basis = Basis(wish, entries);
+    figures.Basis = BasisOf(wish, items);
     cSlots totals;
-    for (const cEntryItem& entry : entries) {
-        if (Counts(entry, wish) && wish.Type == eReport::Tag) {
-            totals.AddByTag(entry);
-        } else if (Counts(entry, wish)) {
-            totals.Add(entry);
+    for (const tItem& item : items) {
+        if (Counts(item, wish) && wish.Type == eReport::Tag) {
+            totals.AddByTag(item);
+        } else if (Counts(item, wish)) {
+            totals.Add(item);
         }
     }
     cSectionBuilder income(eReportKind::Income, figures.Basis, wish.Type);
     cSectionBuilder expense(eReportKind::Expense, figures.Basis, wish.Type);
-    if (HasLimits(wish.Type)) {
+    if (modReport::HasLimits(wish.Type)) {
         totals.AddLimits(Limits(limits, figures.Basis));
     }
     for (const cSlot& slot : totals.All()) {
-        if (!HasLimits(wish.Type)) {
+        if (!modReport::HasLimits(wish.Type)) {
             AddSlot(slot, income, expense);
         } else if (slot.Limit) {
             expense.Add(slot.Path, Spent(slot, wish.Spending), *slot.Limit);
@@ -412,19 +457,21 @@ cReportFigures modReport::Figures(const cEntryItemList& entries, const cLimits& 
     return figures;
 }
 
-cReportBasis modReport::Basis(const cReportWish& wish, const cEntryItemList& entries)
+} // namespace
+
+cReportFigures modReport::Figures(const cEntryItemList& entries, const cLimits& limits, const cReportWish& wish)
 {
-    cReportBasis basis;
-    basis.Start = wish.Range.Start.isValid() ? wish.Range.Start : earliest;
-    basis.End = wish.Range.End.isValid() ? wish.Range.End : latest;
-    basis.YearBasis = DaysOfYears(basis.Start, basis.End);
-    const modPeriod::cRange counted = Counted(wish, basis, entries);
-    basis.Days = std::max<qint64>(1, std::abs(counted.Start.daysTo(counted.End)));
-    basis.DaysOfYears = DaysOfYears(counted.Start, counted.End);
-    basis.Years = std::abs(counted.End.year() - counted.Start.year()) + 1;
-    basis.Months = MonthsBetween(counted.Start, counted.End);
-    basis.FirstMonth = modBudget::MonthOf(std::min(counted.Start, counted.End));
-    return basis;
+    return FiguresOf(entries, limits, wish);
+}
+
+cReportFigures modReport::Figures(const QList<cCategorySum>& sums, const cLimits& limits, const cReportWish& wish)
+{
+    return FiguresOf(sums, limits, wish);
+}
+
+cReportBasis modReport::Basis(const cReportWish& wish, const QList<cCategorySum>& sums)
+{
+    return BasisOf(wish, sums);
 }
 
 bool modReport::HasStart(const modPeriod::cRange& range)
@@ -437,7 +484,7 @@ cEntryItemList modReport::EntriesOf(const cEntryItemList& entries, const cReport
                                     const cLimits& limits)
 {
     const bool isLimit = HasLimits(wish.Type);
-    const QHash<cPath, cLimit> limited = isLimit ? Limits(limits, Basis(wish, entries)) : QHash<cPath, cLimit>();
+    const QHash<cPath, cLimit> limited = isLimit ? Limits(limits, BasisOf(wish, entries)) : QHash<cPath, cLimit>();
     const bool withRefunds = isLimit && wish.Spending == eReportSpending::Net;
     QHash<QString, bool> isBelow; // by category path as the entries have it
     cEntryItemList found;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "model/cCategorySum.h"
 #include "model/cEntryItem.h"
 #include "model/cLimits.h"
 #include "views/report/cReportFigures.h"
 
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -11,12 +13,14 @@
 // The figures of the reports: pure rules over entries and categories.
 namespace modReport {
 
-// The figures for a wish. `entries` are the occurrences of its period and account; what does not count is passed over.
+// The figures for a wish. `entries` are the occurrences of its period and account, or `sums` are those of all of them;
+// what does not count is passed over.
 [[nodiscard]] cReportFigures Figures(const cEntryItemList& entries, const cLimits& limits, const cReportWish& wish);
+[[nodiscard]] cReportFigures Figures(const QList<cCategorySum>& sums, const cLimits& limits, const cReportWish& wish);
 
 // What the wish's period is reckoned with. An open side is shown as 1 January 1001 or 31 December 9999 and counted from
-// or to the month of the first or last of `entries` that counts; without one, as it is shown.
-[[nodiscard]] cReportBasis Basis(const cReportWish& wish, const cEntryItemList& entries);
+// or to the month of the first or last entry that counts; without one, as it is shown.
+[[nodiscard]] cReportBasis Basis(const cReportWish& wish, const QList<cCategorySum>& sums);
 
 // Whether a period begins anywhere: a day before any household's first entry, as "Buchungen bis heute" has it, stands
 // for an open start.
