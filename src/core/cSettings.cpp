@@ -27,6 +27,7 @@ void cSettings::CatchUp() const
 
 void cSettings::Read() const
 {
+    m_failedAt = m_data.TimesDone(); // already while the user is told, when timers may ask for a setting
     const auto rows = m_data.ReadSettings();
     if (!rows) {
         m_failedAt = m_data.TimesDone();

@@ -3,7 +3,7 @@
 #include "store/cDatabase.h"
 #include "store/modFailure.h"
 
-using namespace Qt::Literals::StringLiterals;
+#include <utility>
 
 cDataAccess::cDataAccess(cDatabase& database, cUser& user)
     : m_database(database),
@@ -81,6 +81,7 @@ bool cDataAccess::IsWhole() const
 std::optional<cDataAccess::cSettingRows> cDataAccess::ReadSettings()
 {
     cSettingRows settings;
+    const bool wasTold = std::exchange(m_isSettingFailureTold, true); // while it is told as well
     const bool isRead = Read(
         "GetSettings",
         [&] {
@@ -89,7 +90,8 @@ std::optional<cDataAccess::cSettingRows> cDataAccess::ReadSettings()
                 settings.emplace_back(rows.Text(0), rows.Text(1));
             }
         },
-        m_unread.contains(u"GetSettings"_s));
+        wasTold);
+    m_isSettingFailureTold = !isRead;
     return isRead ? std::optional(settings) : std::nullopt;
 }
 

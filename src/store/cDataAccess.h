@@ -216,5 +216,6 @@ private:
     QList<cCleanedName> m_cleaned; // in the open step
     std::optional<cKnownSums> m_knownSums;
     QSet<QString> m_unread; // reading operations that failed the last time
+    bool m_isSettingFailureTold = false;
     quint64 m_timesDone = 0;
 };

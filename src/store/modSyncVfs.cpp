@@ -8,6 +8,7 @@
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -27,6 +28,7 @@ struct cSyncFile
     sqlite3_file Base; // first, because SQLite knows no more
     eKind Kind;
     bool IsUnsynced;                          // written since the last sync
+    bool IsChanged;                           // a book that was written since its journal went last
     bool IsHeld;                              // a journal whose beginning was held back
     const char* Name;                         // of SQLite; lives as long as the file is open
     std::array<unsigned char, headSize> Head; // of the journal as SQLite wrote it
@@ -91,17 +93,12 @@ int SyncJournal(sqlite3_file* file)
     return result;
 }
 
-bool IsWritten(const cSyncFile& file, eKind kind, std::string_view name)
-{
-    return file.Kind == kind && file.IsUnsynced && name == file.Name;
-}
-
 // Syncs what was written to the open files of this kind and name.
 int SyncAll(eKind kind, std::string_view name)
 {
     const std::lock_guard lock(openGuard);
     for (cSyncFile* file : openFiles) {
-        if (IsWritten(*file, kind, name)) {
+        if (file->Kind == kind && file->IsUnsynced && name == file->Name) {
             const int result = kind == eKind::Journal ? SyncJournal(&file->Base) : SyncFile(&file->Base);
             if (result != SQLITE_OK) {
                 return result;
@@ -170,12 +167,18 @@ bool IsHead(const cSyncFile& file, const unsigned char* bytes, int amount, sqlit
         && std::equal(magic.begin(), magic.end(), bytes);
 }
 
+void NoteChange(cSyncFile& file)
+{
+    file.IsUnsynced = file.Kind != eKind::Other;
+    file.IsChanged = file.Kind == eKind::Book;
+}
+
 int Write(sqlite3_file* file, const void* from, int amount, sqlite3_int64 offset)
 {
     if (const int result = SyncBefore(Of(file), false); result != SQLITE_OK) {
         return result;
     }
-    Of(file).IsUnsynced = Of(file).Kind != eKind::Other;
+    NoteChange(Of(file));
     const auto* bytes = static_cast<const unsigned char*>(from);
     return IsHead(Of(file), bytes, amount, offset) ? WriteHeld(file, bytes, amount)
                                                    : Real(file)->pMethods->xWrite(Real(file), from, amount, offset);
@@ -186,7 +189,7 @@ int Truncate(sqlite3_file* file, sqlite3_int64 size)
     if (const int result = SyncBefore(Of(file), true); result != SQLITE_OK) {
         return result;
     }
-    Of(file).IsUnsynced = Of(file).Kind != eKind::Other;
+    NoteChange(Of(file));
     Of(file).IsHeld = Of(file).IsHeld && size > 0;
     return Real(file)->pMethods->xTruncate(Real(file), size);
 }
@@ -218,7 +221,7 @@ eKind KindOf(int flags)
 int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags)
 {
     cSyncFile& opened = Of(file);
-    opened = {{nullptr}, name == nullptr ? eKind::Other : KindOf(flags), false, false, name, {}, 0, 0};
+    opened = {{nullptr}, name == nullptr ? eKind::Other : KindOf(flags), false, false, false, name, {}, 0, 0};
     const int result = cLayer::Below()->xOpen(cLayer::Below(), name, Real(file), flags, outFlags);
     if (Real(file)->pMethods == nullptr) {
         return result;
@@ -240,14 +243,20 @@ int Delete(sqlite3_vfs*, const char* name, int isDirectorySynced)
     if (!isJournal) {
         return below->xDelete(below, name, isDirectorySynced);
     }
-    const std::string_view book = BookOf(path);
     const std::lock_guard lock(openGuard);
-    // A journal that comes back after a power cut does no harm to a book that was never touched, and most starts only
-    // try whether they could write.
-    const bool isTouched = std::any_of(openFiles.begin(), openFiles.end(),
-                                       [&](const cSyncFile* file) { return IsWritten(*file, eKind::Book, book); });
-    const int result = SyncAll(eKind::Book, book);
-    return result == SQLITE_OK ? below->xDelete(below, name, isTouched ? 1 : 0) : result;
+    const std::string_view book = BookOf(path);
+    if (const int result = SyncAll(eKind::Book, book); result != SQLITE_OK) {
+        return result;
+    }
+    // A journal that comes back after a power cut does no harm to a book that has not changed, and most starts only try
+    // whether they could write.
+    bool isChanged = false;
+    for (cSyncFile* file : openFiles) {
+        if (file->Kind == eKind::Book && book == file->Name) {
+            isChanged = std::exchange(file->IsChanged, false) || isChanged;
+        }
+    }
+    return below->xDelete(below, name, isChanged ? 1 : isDirectorySynced);
 }
 
 } // namespace

@@ -116,6 +116,7 @@ class testPowerCut : public QObject
 private Q_SLOTS:
     void initTestCase() { modPowerVfs::Install(); }
     void StepsAreThereOrNot();
+    void CopyIsThere();
     void TheDiskForgets();
 };
 
@@ -150,6 +151,26 @@ void testPowerCut::StepsAreThereOrNot()
             const bool isWhole = left == states.at(done) || (done + 1 < states.size() && left == states.at(done + 1));
             QVERIFY2(isWhole, qPrintable(u"cut after call %1 of step %2"_s.arg(i + 1).arg(done + 1)));
         }
+    }
+}
+
+// What is said to be copied is not taken back by a journal that comes back.
+void testPowerCut::CopyIsThere()
+{
+    cTestBook book;
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(u"copy.db"_s);
+    modPowerVfs::Start();
+    book.Database.BackupTo(copy);
+    cPowerDisk disk({});
+    const std::vector<cDiskCall> calls = modPowerVfs::Calls();
+    for (const cDiskCall& call : calls) {
+        disk.Take(call);
+    }
+    QRandomGenerator random(1);
+    const QStringList whole = Dump(book.Database);
+    for (int cut = 0; cut < 10; ++cut) {
+        QCOMPARE(cLeft(disk.Cut(random), copy).Read(), whole);
     }
 }
 
