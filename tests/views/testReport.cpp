@@ -496,8 +496,9 @@ void testReport::SumsGiveTheFiguresOfTheirEntries()
 {
     QFETCH(const QString, change);
     cTestBook book;
-    const QList<std::pair<QDate, QString>> written{
-        {QDate(2026, 3, 9), u"#Urlaub"_s}, {QDate(2026, 7, 1), {}}, {QDate(2026, 2, 8), u"#urlaub 'n' #Meer"_s}};
+    const QList<std::pair<QDate, QString>> written{{QDate(2026, 7, 1), u"#Urlaub"_s},
+                                                   {QDate(2026, 3, 9), u"#Urlaub"_s},
+                                                   {QDate(2026, 2, 8), u"#urlaub 'n' #Meer"_s}};
     for (const auto& each : written) {
         book.Add([&](cEntryItem& entry) {
             entry.EntryDate = each.first;
@@ -507,7 +508,7 @@ void testReport::SumsGiveTheFiguresOfTheirEntries()
     book.Add([](cEntryItem& entry) { entry.EntryType = modWord::Umbuchung; });
     book.Add([](cEntryItem& entry) {
         entry.EntryDate = QDate(2026, 1, 31);
-        entry.EntryDateEnd = QDate(2026, 9, 30);
+        entry.EntryDateEnd = QDate(2026, 5, 31);
         entry.EntryType = modWord::Einnahme;
         entry.EntryInterval = u"Monatlich"_s;
         entry.EntryDescription = u"#MEER"_s;
