@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/cEntryItem.h"
+#include "model/cImportEntry.h"
+#include "model/modWord.h"
 
 #include <QString>
 
@@ -15,4 +17,14 @@ struct cProposal
     int ExistingEntry = 0;  // entry in the book that the row belongs to (its series, or the transfer that waits for its
                             // second row); 0 when a new one is to be made
     bool IsAlone = false;   // a new entry is wanted, also where a series would take the row
+
+    // The transfer is none: the row is an expense or an income of its own account.
+    void MakeSpent(const cImportEntry& row, const QString& account)
+    {
+        Entry.EntryType = row.ImportValue > 0 ? modWord::Einnahme : modWord::Ausgabe;
+        Entry.EntryAccount = account;
+        Entry.EntryAccountMove.clear();
+        Entry.EntryDate = row.ImportDate; // that of a transfer may be the other account's
+        PartnerRow = ExistingEntry = 0;
+    }
 };

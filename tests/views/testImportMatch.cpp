@@ -93,6 +93,7 @@ private Q_SLOTS:
     void SeveralAreNotBookedUnseen() const;
     void SeveralAreBookedWhenWanted() const;
     void WhichPurseIsAsked() const;
+    void WhatIsNoTransferStandsOnItsOwnDay() const;
     void CountsWhatWasBookedWithoutCategory() const;
     void BookingAsksAboutMatches_data() const;
     void BookingAsksAboutMatches() const;
@@ -292,6 +293,35 @@ void testImportMatch::WhichPurseIsAsked() const
     const cEntryItem entry = page.Data.GetEntries({}).value(1);
     QCOMPARE(QStringList({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, entry.EntryCategory}),
              QStringList({modWord::Ausgabe, u"Girokonto"_s, {}, u"Freizeit; Geschenke"_s}));
+}
+
+// The transfer would have had the day of the other account's row, whose entry is only likely to be there.
+void testImportMatch::WhatIsNoTransferStandsOnItsOwnDay() const
+{
+    cPage page;
+    page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+    (void)page.Add([](cEntryItem& entry) {
+        entry.EntryDate = day.addDays(-6);
+        entry.EntryValue = 19990;
+        entry.EntryType = modWord::Umbuchung;
+        entry.EntryDescription = u"Jana"_s;
+        entry.EntryAccountMove = u"Sparkonto"_s;
+    });
+    (void)page.Stage(-200, u"Jana"_s);
+    cImportEntry row;
+    row.ImportAccount = u"222"_s;
+    row.ImportBeneficiary = u"Jana"_s;
+    row.ImportBeneficiaryAccount = u"1234567"_s;
+    row.ImportValue = 20000;
+    row.ImportDate = day.addDays(5);
+    QVERIFY(page.Data.AddNewImportEntry(row));
+    page.Review.Refresh();
+    QVERIFY(page.Review.Choose({row.ID}, u"Freizeit; Geschenke"_s, {}));
+    QVERIFY(page.Review.Book({row.ID}, page.Progress));
+    const cEntryItem entry = page.Data.GetEntries({}).value(1);
+    QCOMPARE(entry.EntryDate, row.ImportDate);
+    QCOMPARE(QStringList({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove}),
+             QStringList({modWord::Einnahme, u"Sparkonto"_s, {}}));
 }
 
 // What the user has chosen is none of it, nor what was not booked any more.

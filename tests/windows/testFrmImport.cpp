@@ -176,12 +176,15 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.CountEntriesOfCategory(u"Freizeit; Geschenke"_s), 1);
         QTRY_VERIFY(field() != nullptr && field()->hasFocus());
         QTest::keyClicks(field(), u"Ponyhof"_s); // names no category, and the user says no to a new one
-        QTest::keyClick(field(), Qt::Key_Return);
-        QTRY_VERIFY(field() != nullptr && field()->currentText() == u"Ponyhof");
-        QTest::keyClick(field(), Qt::Key_Return, Qt::ControlModifier);
-        QTest::qWait(1);
-        QCOMPARE(scene.Review.Rows().Counts().Open, 1);
-        QVERIFY(field() != nullptr); // still waits for a category
+        for (const Qt::KeyboardModifier with : {Qt::NoModifier, Qt::ControlModifier, Qt::NoModifier}) {
+            scene.Book.User.Asked.clear();
+            QTest::keyClick(field(), Qt::Key_Return, with); // asks each time
+            QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
+            QTest::qWait(1);
+            QCOMPARE(scene.Book.User.Asked.size(), 1);
+            QCOMPARE(scene.Review.Rows().Counts().Open, 1);
+            QVERIFY(field() != nullptr && field()->currentText() == u"Ponyhof"); // still waits for a category
+        }
         scene.Book.User.Answers = {eAnswer::Yes};
         QTest::keyClicks(field(), u"Reiten"_s);
         QTest::keyClick(field(), Qt::Key_Return);
@@ -226,6 +229,7 @@ private Q_SLOTS:
         QTest::newRow("at once") << QList{Qt::Key_Return} << none;
         QTest::newRow("without the list") << QList{Qt::Key_Escape, Qt::Key_Return} << none;
         QTest::newRow("with a list that is opened") << QList{Qt::Key_Escape, Qt::Key_F4, Qt::Key_Return} << none;
+        QTest::newRow("the button") << QList<Qt::Key>() << none;
         QTest::newRow("Ctrl") << QList{Qt::Key_Escape, Qt::Key_Return} << Qt::KeyboardModifiers(Qt::ControlModifier);
     }
 
@@ -240,8 +244,61 @@ private Q_SLOTS:
             QTest::keyClick(scene.Field(), key, key == Qt::Key_Return ? last : Qt::NoModifier);
             QTest::qWait(1); // what the field tells comes a moment later
         }
+        if (keys.isEmpty()) {
+            QTest::mouseClick(&scene.Button(u"Buchen"_s), Qt::LeftButton);
+        }
         QCOMPARE(scene.Review.Rows().Counts().Open, 2);
         QVERIFY(scene.Field() != nullptr && scene.Field()->hasFocus()); // so that the next Enter books nothing either
+    }
+
+    // A yes to a new name books for Enter alone: who wanted something else with the row gets the category only.
+    void AnotherCommandBooksNothing_data()
+    {
+        QTest::addColumn<bool>("isDeclined"); // before
+        QTest::newRow("new") << false;
+        QTest::newRow("declined") << true;
+    }
+
+    void AnotherCommandBooksNothing()
+    {
+        QFETCH(const bool, isDeclined);
+        cScene scene;
+        scene.LeadToDoubtful();
+        const QList<int> ids = scene.Tree.SelectedIds();
+        scene.Book.User.Asked.clear();
+        QTest::keyClicks(scene.Field(), u"Ponyhof"_s);
+        if (isDeclined) {
+            QTest::keyClick(scene.Field(), Qt::Key_Return);
+            QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
+            QTRY_VERIFY(scene.Field() != nullptr && scene.Field()->hasFocus());
+        }
+        scene.Book.User.Asked.clear();
+        scene.Book.User.Answers = {eAnswer::Yes};
+        QTest::keyClick(scene.Field(), Qt::Key_B, Qt::ControlModifier);
+        QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
+        QTest::qWait(1);
+        QCOMPARE(scene.Review.Rows().Counts().Open, 2);
+        const QModelIndex row = scene.Review.Rows().IndexOf(ids.value(0));
+        QCOMPARE(row.siblingAtColumn(cStagedListModel::Category).data().toString(), u"Ponyhof"_s);
+        QVERIFY(scene.Field() == nullptr);
+    }
+
+    // It cannot be chosen, so the row would be booked under what was proposed.
+    void AHiddenCategoryBooksNothing()
+    {
+        cScene scene;
+        cTemplateItem hidden;
+        hidden.TemplateCategory = u"Ponyhof"_s;
+        hidden.EntryType = modWord::Ausgabe;
+        hidden.TemplateVisible = u"0"_s;
+        QVERIFY(scene.Book.Data.AddNewTemplate(hidden));
+        scene.LeadToDoubtful();
+        QTest::keyClicks(scene.Field(), u"Ponyhof"_s);
+        QTest::keyClick(scene.Field(), Qt::Key_Return);
+        QTRY_VERIFY(scene.Review.Summary().contains(u"Die Kategorie 'Ponyhof' ist ausgeblendet."_s));
+        QTest::qWait(1);
+        QCOMPARE(scene.Review.Rows().Counts().Open, 2);
+        QTRY_VERIFY(scene.Field() != nullptr && scene.Field()->currentText() == u"Ponyhof");
     }
 
     void NewCategoryIsOffered()

@@ -257,12 +257,7 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
         return;
     }
     // The other side stands in the book as income or expense, so a transfer would move the money a second time.
-    cEntryItem& entry = plan.Proposal.Entry;
-    entry.EntryType = row.ImportValue > 0 ? modWord::Einnahme : modWord::Ausgabe;
-    entry.EntryAccount = m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount);
-    entry.EntryAccountMove.clear();
-    entry.EntryDate = row.ImportDate;
-    plan.Proposal.PartnerRow = 0;
+    plan.Proposal.MakeSpent(row, m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount));
     plan.Group = eRowGroup::Look;
     plan.Reason = cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch");
 }

@@ -264,8 +264,11 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
     for (const cImportEntry& row : rows) {
         ids.append(row.ID);
     }
-    const bool isTaken = (category.isEmpty() || m_works->Proposals.SetCategory(ids, category))
-        && (interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval));
+    if (!category.isEmpty() && !m_works->Proposals.SetCategory(ids, category)) {
+        Tell({cText::Tr("Die Kategorie '{0}' ist ausgeblendet.", {category})});
+        return false;
+    }
+    const bool isTaken = interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval);
     if (isTaken && !description.isEmpty()) {
         m_works->Proposals.SetDescription(ids, description);
     }

@@ -16,9 +16,9 @@
 #include "views/statement/cRowProposals.h"
 
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -65,7 +65,7 @@ std::optional<cMatchResult> cMatchFlow::Find(const QList<int>& rowIds, cProgress
     }
     cMatchResult result;
     const cImportHive& hive = m_parts.Hive.GetImportHive();
-    for (const int id : QSet<int>(rowIds.begin(), rowIds.end())) {
+    for (const int id : std::set<int>(rowIds.begin(), rowIds.end())) { // in one order, also of the numbers
         const auto plan = plans->constFind(id);
         if (plan == plans->constEnd()) {
             continue;
@@ -83,7 +83,6 @@ std::optional<cMatchResult> cMatchFlow::Find(const QList<int>& rowIds, cProgress
             result.UnknownAccounts.append(number);
         }
     }
-    std::sort(result.Left.begin(), result.Left.end());
     for (QList<cMatch>* list : {&result.Assigned, &result.Proposed}) {
         std::sort(list->begin(), list->end(), [](const cMatch& a, const cMatch& b) {
             return std::pair(-a.Candidate.Score, a.RowId) < std::pair(-b.Candidate.Score, b.RowId);

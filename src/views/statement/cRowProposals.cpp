@@ -30,14 +30,6 @@ int FileOf(const QList<cRange>& files, int id)
     return file == files.end() || file->First > id ? 0 : static_cast<int>(file - files.begin()) + 1;
 }
 
-// Of what may be no transfer the user has said what it was for.
-void MakeSpent(cEntryItem& transfer, qint64 value)
-{
-    transfer.EntryType = value > 0 ? modWord::Einnahme : modWord::Ausgabe;
-    transfer.EntryAccount = value > 0 ? transfer.EntryAccountMove : transfer.EntryAccount;
-    transfer.EntryAccountMove.clear();
-}
-
 } // namespace
 
 bool cRowProposals::HasCategory(const cEntryItem& entry)
@@ -122,7 +114,8 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
         cEntryItem& entry = plan.Proposal.Entry;
         const bool isLook = plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond;
         if (isLook && entry.EntryType == modWord::Umbuchung && entry.EntryCategory != choice.Category) {
-            MakeSpent(entry, choice.Row.ImportValue);
+            // Of what may be no transfer the user has said what it was for.
+            plan.Proposal.MakeSpent(choice.Row, m_parts.Accounts.AccountOf(choice.Row.ImportAccount));
         }
         entry.EntryCategory = choice.Category;
         plan.Proposal.IsDefault = false;

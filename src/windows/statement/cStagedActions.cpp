@@ -99,7 +99,7 @@ void cStagedActions::Run(eId id)
 {
     const QList<int> ids = m_tree.SelectedIds(); // with the category of its field a row may leave the list
     const bool isUnsaid = id == Book && m_tree.IsFieldEmpty(); // the proposal was deleted, and nothing put in its place
-    if (!Get(id)->isEnabled() || isUnsaid || !m_tree.LeaveField()) {
+    if (!Get(id)->isEnabled() || isUnsaid || !m_tree.LeaveField(id == Book)) {
         return;
     }
     switch (id) {
@@ -208,17 +208,19 @@ void cStagedActions::TakeChoice(const QModelIndex& index, const QString& text)
     if (index.column() == cStagedListModel::Interval) {
         m_review.Choose(ids, {}, cImportReview::StoredInterval(text));
     } else {
-        TakeCategory(ids, text);
+        (void)TakeCategory(ids, text);
     }
 }
 
-void cStagedActions::TakeCategory(const QList<int>& ids, const QString& category)
+bool cStagedActions::TakeCategory(const QList<int>& ids, const QString& category)
 {
-    if (m_review.Choose(ids, category, {}) && ids.size() == 1) {
+    const bool isTaken = m_review.Choose(ids, category, {});
+    if (isTaken && ids.size() == 1) {
         // A field may still be being closed, and a question would take the focus from it.
         QMetaObject::invokeMethod(
             this, [this, id = ids.constFirst(), category] { OfferAlike(id, category); }, Qt::QueuedConnection);
     }
+    return isTaken;
 }
 
 void cStagedActions::OfferAlike(int id, const QString& category)
@@ -251,11 +253,11 @@ bool cStagedActions::TakeNewCategory(const QModelIndex& index, const QString& ty
     if (path.isEmpty()) {
         return false;
     }
-    TakeCategory(ids, path);
-    if (isEntered) {
+    const bool isTaken = TakeCategory(ids, path);
+    if (isTaken && isEntered) {
         BookSoon(id);
     }
-    return true;
+    return isTaken || !isEntered;
 }
 
 void cStagedActions::ShowState()

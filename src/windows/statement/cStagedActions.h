@@ -34,10 +34,10 @@ public:
 
     // Takes a text that was chosen in a cell for all selected rows, when the cell is one of theirs.
     void TakeChoice(const QModelIndex& index, const QString& text);
-    // The same for a category of all these rows.
-    void TakeCategory(const QList<int>& ids, const QString& category);
+    // The same for a category of all these rows; false when they do not take it.
+    bool TakeCategory(const QList<int>& ids, const QString& category);
     // The same for a text that names no category yet, once the user agrees to make one of it; false when not. Entered
-    // in a field of OpenCategory it books the row as well.
+    // in a field of OpenCategory it books the row as well, or is false when the row does not take it.
     bool TakeNewCategory(const QModelIndex& index, const QString& typed, bool isEntered);
 
     // Selects what is next, and opens the field of its category where that is what it lacks.

@@ -43,6 +43,7 @@ QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& ind
 {
     auto* box = new cCategoryBox(m_suggestions, parent, cCategoryBox::eNew::IsTold);
     connect(box->lineEdit(), &QLineEdit::textEdited, this, [this] { m_declined.clear(); });
+    connect(box->lineEdit(), &QLineEdit::returnPressed, this, [this] { m_declined.clear(); });
     const int tone = index.data(cStagedListModel::ToneRole).toInt();
     box->SetType(tone == 0 ? QString() : tone == 1 ? modWord::Einnahme : modWord::Ausgabe);
     auto* delegate = const_cast<cStagedDelegate*>(this);

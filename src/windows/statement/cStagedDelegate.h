@@ -16,7 +16,7 @@ public:
     // `intervals` as they are shown.
     cStagedDelegate(cEntrySuggestions& suggestions, QStringList intervals, QObject* parent = nullptr);
 
-    // The next category that is edited starts with this text, and leaving it unchanged asks no more.
+    // The next category that is edited starts with this text, and leaving it unchanged asks no more; Enter does.
     void StartWith(const QString& typed) { m_start = m_declined = typed; }
 
     [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,

@@ -64,6 +64,7 @@ cFlowLayout* cStagedPanel::BuildActions()
         QAction* action = m_actions->Get(id);
         auto* button = new cActionButton(action, this);
         button->setToolTip(action->toolTip());
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves a field open, so that the command sees what is in it
         m_bar->addWidget(button);
         if (id == cStagedActions::Accept) {
             connect(&m_review.View(), &cStagedChoice::Changed, button,

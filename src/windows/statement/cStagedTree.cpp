@@ -243,11 +243,14 @@ bool cStagedTree::IsFieldEmpty() const
     return box != nullptr && box->currentText().trimmed().isEmpty();
 }
 
-bool cStagedTree::LeaveField()
+bool cStagedTree::LeaveField(bool isBooking)
 {
     cCategoryBox* box = CategoryField();
     if (box != nullptr && !box->UnknownText().isEmpty()) {
-        commitData(box);
+        box->WantNew();
+        if (!isBooking) {
+            DropField(currentIndex());
+        }
         return false;
     }
     if (state() == EditingState) {

@@ -29,8 +29,8 @@ public:
     [[nodiscard]] bool IsFieldOpen() const { return m_field != nullptr && state() == EditingState; } // that very one
     [[nodiscard]] bool IsFieldEmpty() const; // the open one, of a category
     // What stands in an open field is taken, as by leaving it. False when it names no category yet: that is asked
-    // first.
-    bool LeaveField();
+    // first. Until then OpenCategory's stays open for who is booking, and a yes books as Enter does.
+    bool LeaveField(bool isBooking);
     // Closes the field of a cell and takes nothing from it. True when it was OpenCategory's.
     bool DropField(const QModelIndex& cell);
 

@@ -37,6 +37,9 @@ public:
     // Asks whether the text shall become a category, and takes that one. False when it does not.
     bool AskNew();
 
+    // What the line of the list does that offers to make a category of the text.
+    void WantNew();
+
     // Takes the category that a typed text means, as leaving the field does.
     void Settle();
 
@@ -52,7 +55,6 @@ protected:
 
 private:
     void Take(const QString& path);
-    void WantNew();
 
     cEntrySuggestions& m_suggestions;
     eNew m_whoAsks;
