@@ -10901,5 +10901,9 @@ What shall be done?</translation>
         <source>Die Datei &apos;{0}&apos; des Programms fehlt oder ist beschädigt. Eine Neuinstallation könnte das Problem beheben.</source>
         <translation>The file &apos;{0}&apos; of the program is missing or damaged. Reinstalling could solve the problem.</translation>
     </message>
+    <message>
+        <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet.</source>
+        <translation>The category &apos;{0}&apos; is hidden.</translation>
+    </message>
 </context>
 </TS>

@@ -27,13 +27,15 @@ public:
     uint Scheme = 1;
 
 public Q_SLOTS:
-    QDBusVariant Read(const QString& space, const QString& key)
+    [[nodiscard]] QDBusVariant Read(const QString& space, const QString& key) const
     {
         const bool isKnown = space == u"org.freedesktop.appearance"_s && key == u"color-scheme"_s;
         return QDBusVariant(QVariant::fromValue(QDBusVariant(isKnown ? Scheme : 0U)));
     }
 
 Q_SIGNALS:
+    // The generated definition has names of its own.
+    // NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
     void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
 };
 

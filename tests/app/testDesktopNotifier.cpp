@@ -21,6 +21,8 @@ public:
     QStringList Texts;
 
 public Q_SLOTS:
+    // The signature is the interface's.
+    // NOLINTNEXTLINE(readability-function-size)
     uint Notify(const QString& program, uint /*replaces*/, const QString& /*icon*/, const QString& title,
                 const QString& text, const QStringList& /*actions*/, const QVariantMap& /*hints*/, int /*timeout*/)
     {

@@ -190,7 +190,7 @@ private:
 
     bool Correct()
     {
-        cSeriesChange series(Data(), m_user);
+        cSeriesChange series(m_program.Tools());
         return series.CorrectPeriod(rent, NextRent(), 99900, u"Nachzahlung"_s);
     }
 

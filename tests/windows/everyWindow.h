@@ -16,7 +16,7 @@ struct cOpenWindow
 
 struct cWindowMaker
 {
-    const char* Name;
+    const char* Name = nullptr;
     std::function<cOpenWindow()> Make;
 };
 

@@ -582,6 +582,7 @@ void testEveryWindow::IsTranslatedWhole()
 std::vector<cWindowMaker> EveryWindow()
 {
     std::vector<cWindowMaker> makers;
+    makers.reserve(everyWindow.size());
     for (const auto& [name, make] : everyWindow) {
         makers.push_back({name, [make = make] {
                               const auto scene = std::make_shared<cScene>();

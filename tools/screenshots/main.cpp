@@ -546,7 +546,7 @@ int main(int argc, char* argv[])
         std::fputs("kontorelle-screenshots FOLDER light|dark|pseudo|english [POINTS [WIDTH HEIGHT]]\n", stderr);
         return 2;
     }
-    const QString look = arguments.at(2);
+    const QString& look = arguments.at(2);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::setStyle(new cStyle(u"Fusion"_s));
     if (look == u"dark") {

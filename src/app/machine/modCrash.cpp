@@ -31,7 +31,7 @@ void modCrash::Watch(int descriptor, const char* text)
     noteSize = std::strlen(text);
     noteFile = descriptor;
     // A stack of its own, for the case that the usual one has run over.
-    static std::array<std::byte, 64 * 1024> room;
+    static std::array<std::byte, std::size_t{64} * 1024> room;
     stack_t stack = {};
     stack.ss_sp = room.data();
     stack.ss_size = room.size();

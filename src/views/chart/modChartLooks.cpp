@@ -26,6 +26,22 @@ bool IsNumbered(const cChartData& data, const cChartSeries& series)
         || (data.Kind == eChart::Flow && !series.At(0));
 }
 
+// The same number for a series and the one laid beside it, in the order in which they came.
+void Renumber(const QList<cChartSeries*>& others, const QSet<int>& taken)
+{
+    QHash<int, int> numbers;
+    int next = 0;
+    for (cChartSeries* series : others) {
+        if (!numbers.contains(series->Colour)) {
+            while (next < modCategoryColor::Count && taken.contains(next)) {
+                ++next;
+            }
+            numbers.insert(series->Colour, next < modCategoryColor::Count ? next++ : series->Colour);
+        }
+        series->Colour = numbers.value(series->Colour);
+    }
+}
+
 } // namespace
 
 void modChart::UseLooks(cChartData& data, const cCategoryLooks& looks)
@@ -49,19 +65,7 @@ void modChart::UseLooks(cChartData& data, const cCategoryLooks& looks)
         const QString& column = data.Series.at(i - 1).OwnColour;
         data.Series[i].Colour = modCategoryColor::NumberLike(column) == Expense ? Balance : data.Series.at(i).Colour;
     }
-    if (taken.size() <= 2) { // nothing in the palette looks like them
-        return;
-    }
-    // The same number for a series and the one laid beside it, in the order in which they came.
-    QHash<int, int> numbers;
-    int next = 0;
-    for (cChartSeries* series : std::as_const(others)) {
-        if (!numbers.contains(series->Colour)) {
-            while (next < modCategoryColor::Count && taken.contains(next)) {
-                ++next;
-            }
-            numbers.insert(series->Colour, next < modCategoryColor::Count ? next++ : series->Colour);
-        }
-        series->Colour = numbers.value(series->Colour);
+    if (taken.size() > 2) { // else nothing in the palette looks like them
+        Renumber(others, taken);
     }
 }

@@ -158,7 +158,7 @@ struct cReader
     void operator()(const QString& name, QList<tItem>& value) const
     {
         const QJsonArray list = Json.value(name).toArray();
-        for (const QJsonValue& item : list) {
+        for (const auto& item : list) {
             const QJsonObject json = item.toObject();
             Each(value.emplaceBack(), cReader{json});
         }

@@ -385,15 +385,18 @@ QVariant cEntryListModel::EntryData(int entry, int column, int role) const
         const std::optional<qint64> cents = Cents(entry, column);
         return cents ? QVariant(*cents) : QVariant();
     }
-    case ToneRole: {
-        if (column == Balance) {
-            return m_balances.empty() || m_balances[At(entry)] >= 0 ? Neutral : Expense;
-        }
-        const bool isTransfer = item.EntryType == modWord::Umbuchung;
-        return isTransfer ? Neutral : item.EntryType == modWord::Einnahme ? Income : Expense;
-    }
+    case ToneRole: return Tone(entry, column);
     default: return {};
     }
+}
+
+cEntryListModel::eMoneyTone cEntryListModel::Tone(int entry, int column) const
+{
+    if (column == Balance) {
+        return m_balances.empty() || m_balances[At(entry)] >= 0 ? Neutral : Expense;
+    }
+    const QString& type = m_content.Entries.at(entry).EntryType;
+    return type == modWord::Umbuchung ? Neutral : type == modWord::Einnahme ? Income : Expense;
 }
 
 QVariant cEntryListModel::GroupData(const cGroup& group, int column, int role) const

@@ -128,6 +128,7 @@ private:
     [[nodiscard]] QString Text(int entry, int column) const;
     [[nodiscard]] QString WidestAmount(int column) const; // of those that are shown
     [[nodiscard]] QVariant EntryData(int entry, int column, int role) const;
+    [[nodiscard]] eMoneyTone Tone(int entry, int column) const;
     [[nodiscard]] QVariant GroupData(const cGroup& group, int column, int role) const;
     [[nodiscard]] QString Tip(const cEntryItem& entry) const;
 

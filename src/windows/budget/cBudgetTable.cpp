@@ -48,7 +48,7 @@ public:
     }
 
     // Wide enough for the sums, which are bold.
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         QStyleOptionViewItem bold(option);
         bold.font.setBold(true);

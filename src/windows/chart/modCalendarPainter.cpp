@@ -47,7 +47,8 @@ void LayOutMonth(const cChartScene& scene, cChartLayout& layout, int month, QPoi
     for (int index = 0; index < all.size(); ++index) {
         if (all.at(index).month() == month && scene.Data.Series[0].At(index)) {
             const int place = before + all.at(index).day() - 1;
-            const QPointF at = days + QPointF(place % weekDays, place / weekDays) * cell;
+            const int week = place / weekDays;
+            const QPointF at = days + QPointF(place % weekDays, week) * cell;
             layout.Hits.push_back({{0, index}, QRectF(at, QSizeF(cell, cell))});
         }
     }
@@ -115,7 +116,8 @@ void modCalendarPainter::LayOut(const cChartScene& scene, cChartLayout& layout)
     const double left = plot.left() + std::max(0.0, (plot.width() - wide * columns + layout.Cell * monthGap) / 2);
     for (int month = 1; month <= months; ++month) {
         const int place = month - 1;
-        LayOutMonth(scene, layout, month, QPointF(left + place % columns * wide, plot.top() + place / columns * high));
+        const int row = place / columns;
+        LayOutMonth(scene, layout, month, QPointF(left + place % columns * wide, plot.top() + row * high));
     }
 }
 

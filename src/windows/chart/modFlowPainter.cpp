@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 namespace {
 
@@ -102,9 +103,9 @@ void SpreadLabels(const cChartScene& scene, cChartLayout& layout, int side)
         free = node->Label.bottom();
     }
     free = layout.Plot.bottom();
-    for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) {
-        (*node)->Label.moveBottom(std::min((*node)->Label.bottom(), free));
-        free = (*node)->Label.top();
+    for (auto* node : nodes | std::views::reverse) {
+        node->Label.moveBottom(std::min(node->Label.bottom(), free));
+        free = node->Label.top();
     }
 }
 

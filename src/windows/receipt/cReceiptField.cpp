@@ -14,8 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 cReceiptField::cReceiptField(QWidget* parent)
     : QWidget(parent),
       m_text(new QLabel(this)),
-      m_button(new QPushButton(cText::Tr("Bele&g hinzufügen"), this)),
-      m_clear(nullptr)
+      m_button(new QPushButton(cText::Tr("Bele&g hinzufügen"), this))
 {
     auto* menu = new QMenu(m_button);
     connect(menu->addAction(cText::Tr("&Datei wählen…")), &QAction::triggered, this, &cReceiptField::ChooseRequested);

@@ -34,5 +34,5 @@ private:
 
     QLabel* m_text;
     QPushButton* m_button;
-    QAction* m_clear;
+    QAction* m_clear = nullptr;
 };
