@@ -485,8 +485,8 @@ void testReport::SumsGiveTheFiguresOfTheirEntries_data()
 {
     QTest::addColumn<QString>("change");
     QTest::newRow("plain days") << QString();
-    QTest::newRow("a day that only the database reads") << u"EntryDate = '2026-04-05 10:00' WHERE ID = 2"_s;
-    QTest::newRow("a day that nobody reads") << u"EntryDate = '2026-1-5' WHERE ID = 2"_s;
+    QTest::newRow("a day that only the database reads") << u"EntryDate = '2026-04-05 10:00' WHERE ID = 3"_s;
+    QTest::newRow("a day that nobody reads") << u"EntryDate = '2026-1-5' WHERE ID = 3"_s;
     QTest::newRow("a series that nobody can place") << u"EntryDate = 'bald' WHERE EntryInterval = 'Monatlich'"_s;
     QTest::newRow("no category") << u"EntryCategory = NULL WHERE ID = 3"_s;
 }
