@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace {
 
@@ -103,10 +102,10 @@ void SpreadLabels(const cChartScene& scene, cChartLayout& layout, int side)
         free = node->Label.bottom();
     }
     free = layout.Plot.bottom();
-    for (auto* node : nodes | std::views::reverse) {
+    std::for_each(nodes.rbegin(), nodes.rend(), [&](auto* node) {
         node->Label.moveBottom(std::min(node->Label.bottom(), free));
         free = node->Label.top();
-    }
+    });
 }
 
 // The name and, where there is room, the amount behind it.

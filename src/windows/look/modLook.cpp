@@ -29,8 +29,8 @@ double Share(double channel)
 
 double Luminance(const QColor& colour)
 {
-    return 0.2126 * Share(double{colour.redF()}) + 0.7152 * Share(double{colour.greenF()})
-        + 0.0722 * Share(double{colour.blueF()});
+    return 0.2126 * Share(static_cast<double>(colour.redF())) + 0.7152 * Share(static_cast<double>(colour.greenF()))
+        + 0.0722 * Share(static_cast<double>(colour.blueF()));
 }
 
 double Contrast(const QColor& a, const QColor& b)
