@@ -10874,14 +10874,6 @@ What shall be done?</translation>
         <translation>“Yes” counts it back to {4} ({3}); with “No” the earlier transactions count in addition.</translation>
     </message>
     <message>
-        <source>Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert.</source>
-        <translation>“Yes” changes the start balance from {5} to {3}.</translation>
-    </message>
-    <message>
-        <source>Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen.</source>
-        <translation>“Yes” enters {3} as the start balance of {4}.</translation>
-    </message>
-    <message>
         <source>Gebuchte Umsätze behalten ihre Kategorie, solange offene mit markiert sind.</source>
         <translation>Booked transactions keep their category as long as open ones are selected with them.</translation>
     </message>
@@ -10904,6 +10896,14 @@ What shall be done?</translation>
     <message>
         <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet.</source>
         <translation>The category &apos;{0}&apos; is hidden.</translation>
+    </message>
+    <message>
+        <source>Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.</source>
+        <translation>“Yes” changes the start balance from {5} to {3}: what was there before the first transaction.</translation>
+    </message>
+    <message>
+        <source>Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.</source>
+        <translation>“Yes” enters {3} as the start balance of {4}: what was there before the first transaction.</translation>
     </message>
 </context>
 </TS>

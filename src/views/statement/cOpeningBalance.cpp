@@ -170,8 +170,13 @@ QString cOpeningBalance::Question(const cOffer& offer) const
                      "Umsätze gebucht sind?",
                      values)
         + u"\n\n"
-        + (offer.Former ? cText::Tr("Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert.", values)
-                        : cText::Tr("Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen.", values));
+        + (offer.Former
+               ? cText::Tr(
+                   "Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.",
+                   values)
+               : cText::Tr(
+                   "Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.",
+                   values));
 }
 
 QString cOpeningBalance::Report(const cOffer& offer) const
