@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Time from process start to the idle window, processor time until then, and memory (PSS), beside an empty window of the
-# toolkit. Needs a display or xvfb-run, and the programs of build/release (see bench/CMakeLists.txt).
+# toolkit and one with words in it. Needs a display or xvfb-run, and the programs of build/release (see bench/CMakeLists.txt).
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 bin=build/release/bin
@@ -56,9 +56,11 @@ done
 # The rounds take turns, because what else the machine does changes from one minute to the next.
 for ((round = 0; round < rounds; ++round)); do
   measure "$bin/emptywindow" >> "$work/empty window.figures"
+  measure "$bin/wordswindow" >> "$work/window of words.figures"
   measure "$bin/kontorelle" --profile "$work/12000" >> "$work/12,000 entries.figures"
   measure "$bin/kontorelle" --profile "$work/100000" >> "$work/100,000 entries.figures"
 done
 report 'empty window'
+report 'window of words'
 report '12,000 entries'
 report '100,000 entries'
