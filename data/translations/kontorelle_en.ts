@@ -10894,16 +10894,16 @@ What shall be done?</translation>
         <translation>The file &apos;{0}&apos; of the program is missing or damaged. Reinstalling could solve the problem.</translation>
     </message>
     <message>
-        <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet.</source>
-        <translation>The category &apos;{0}&apos; is hidden.</translation>
-    </message>
-    <message>
         <source>Mit „Ja“ wird das Startguthaben von {5} auf {3} geändert: so viel war vor dem ersten Umsatz da.</source>
         <translation>“Yes” changes the start balance from {5} to {3}: what was there before the first transaction.</translation>
     </message>
     <message>
         <source>Mit „Ja“ werden {3} als Startguthaben vom {4} eingetragen: so viel war vor dem ersten Umsatz da.</source>
         <translation>“Yes” enters {3} as the start balance of {4}: what was there before the first transaction.</translation>
+    </message>
+    <message>
+        <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie in der Verwaltung der Kategorien wieder an.</source>
+        <translation>The category &apos;{0}&apos; is hidden. Please choose another one, or show it again in the management of the categories.</translation>
     </message>
 </context>
 </TS>

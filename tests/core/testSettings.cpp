@@ -265,12 +265,8 @@ private Q_SLOTS:
     {
         cOpened book;
         cSettings settings(book.Data);
-        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Giro"_s));
-        {
-            cUndoStep step(book.Data, u"Konto"_s);
-            QVERIFY(settings.Set(modSettingKey::MainAccount, u"Spar"_s));
-            QVERIFY(!step.DoneIf(false));
-        }
+        cUndoStep step(book.Data, u"Konto"_s);
+        QVERIFY(settings.Set(modSettingKey::MainAccount, u"Spar"_s) && step.Done() && book.Data.Journal().Undo());
         cDatabase other;
         other.Open(book.File.Path(), eOpenMode::ReadWrite);
         other.Execute("BEGIN EXCLUSIVE");
@@ -279,7 +275,7 @@ private Q_SLOTS:
         QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Spar"_s);
         other.Execute("ROLLBACK");
         QVERIFY(!book.Data.GetTemplates().isEmpty());
-        QCOMPARE(settings.Get(modSettingKey::MainAccount), u"Giro"_s);
+        QCOMPARE(settings.Get(modSettingKey::MainAccount), QString());
         QCOMPARE(book.User.Shown.size(), 1);
     }
 
