@@ -10902,8 +10902,8 @@ What shall be done?</translation>
         <translation>“Yes” enters {3} as the start balance of {4}: what was there before the first transaction.</translation>
     </message>
     <message>
-        <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie in der Verwaltung der Kategorien wieder an.</source>
-        <translation>The category &apos;{0}&apos; is hidden. Please choose another one, or show it again in the management of the categories.</translation>
+        <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie unter „Kategorien und Konten“ wieder an.</source>
+        <translation>The category &apos;{0}&apos; is hidden. Please choose another one, or show it again under “Categories and accounts”.</translation>
     </message>
 </context>
 </TS>

@@ -265,10 +265,9 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
         ids.append(row.ID);
     }
     if (!category.isEmpty() && !m_works->Proposals.SetCategory(ids, category)) {
-        Tell(
-            {cText::Tr("Die Kategorie '{0}' ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie in der "
-                       "Verwaltung der Kategorien wieder an.",
-                       {category})});
+        Tell({cText::Tr("Die Kategorie '{0}' ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie unter "
+                        "„Kategorien und Konten“ wieder an.",
+                        {category})});
         return false;
     }
     const bool isTaken = interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval);
