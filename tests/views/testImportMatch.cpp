@@ -458,6 +458,7 @@ void testImportMatch::Releases() const
     page.Review.Match({}, page.Progress);
     QVERIFY(page.Review.ActionsFor({booked}).Release && !page.Review.ActionsFor({booked}).Assign);
     QVERIFY(page.Review.ActionsFor({open}).Assign && !page.Review.ActionsFor({open}).Release);
+    QVERIFY(page.Review.ActionsFor({open, booked}).Book && !page.Review.ActionsFor({booked}).Book);
     page.Review.View().SetFilter(u"REWE"_s); // leaves nothing open
     QVERIFY(!page.Review.ActionsFor({booked}).Accept);
     page.Review.View().SetFilter({});

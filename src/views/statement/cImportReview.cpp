@@ -243,6 +243,7 @@ cImportReview::cActions cImportReview::ActionsFor(const QList<int>& rowIds)
     const auto isBooked = [](const cImportEntry& row) { return row.ImportAssigned; };
     const bool hasBooked = std::any_of(rows.begin(), rows.end(), isBooked);
     can.Change = !rowIds.isEmpty();
+    can.Book = !std::all_of(rows.begin(), rows.end(), isBooked);
     can.Choose = !rows.isEmpty();
     can.Match = !Rows().OpenIds().isEmpty();
     can.Accept = can.Match;

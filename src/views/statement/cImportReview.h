@@ -76,7 +76,8 @@ public:
     // What can be done with the rows that are selected.
     struct cActions
     {
-        bool Change = false; // book and delete
+        bool Change = false; // deleting
+        bool Book = false;
         bool Choose = false; // category and interval
         bool Edit = false;   // before it is booked
         bool Match = false;  // also without a selection

@@ -125,7 +125,7 @@ void cCellDelegate::Leave(QWidget& editor, int step)
 bool cCellDelegate::eventFilter(QObject* watched, QEvent* event)
 {
     // A command would rebuild the list, and what is typed would be gone.
-    if (event->type() == QEvent::ShortcutOverride
+    if (event->type() == QEvent::ShortcutOverride && !IsForBook(*watched, *event)
         && (static_cast<const QKeyEvent*>(event)->modifiers() & Qt::ControlModifier) != 0) {
         event->accept();
         return true;

@@ -3,6 +3,8 @@
 #include "base/cText.h"
 #include "windows/look/modIcon.h"
 
+#include <QtMath>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -42,7 +44,8 @@ int cReminderBar::Frame() const
 
 QSize cReminderBar::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(m_text) + Frame(), QToolButton::sizeHint().height()};
+    const int whole = qCeil(QFontMetricsF(font()).horizontalAdvance(m_text)) + 1; // else the last letters would be cut
+    return {whole + Frame(), QToolButton::sizeHint().height()};
 }
 
 QSize cReminderBar::minimumSizeHint() const

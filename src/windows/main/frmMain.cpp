@@ -207,7 +207,11 @@ void frmMain::Connect()
     connect(&m_model, &cMainModel::LayoutReset, this, &frmMain::ResetLayout);
     connect(m_tree, &cEntryTree::SelectionKeysChanged, &m_model, &cMainModel::SetSelection);
     connect(m_tree, &cEntryTree::TagClicked, &m_model, &cMainModel::FilterByTag);
-    connect(m_tree, &QTreeView::doubleClicked, this, [this] { m_model.Execute(modCommand::EditEntry); });
+    const auto edit = [this] { m_model.Execute(modCommand::EditEntry); };
+    connect(m_tree, &QTreeView::doubleClicked, this, edit);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this, edit);
+    }
     connect(m_tree, &cEntryTree::CellWritten, &m_model, &cMainModel::CellWritten);
     connect(&m_model, &cMainModel::RowsMade, m_tree, &cEntryTree::Select);
     connect(&m_model, &cMainModel::Told, this, &frmMain::Tell);

@@ -36,7 +36,7 @@ struct cLine
 
 // In the order of eId.
 constexpr std::array<cLine, cStagedActions::Count> lines{{
-    {QT_TRANSLATE_NOOP("cText", "B&uchen"), u"buchen", Qt::Key_Return, &cCan::Change,
+    {QT_TRANSLATE_NOOP("cText", "B&uchen"), u"buchen", Qt::Key_Return, &cCan::Book,
      QT_TRANSLATE_NOOP("cText", "Bucht die markierten Umsätze (Eingabetaste)")},
     {QT_TRANSLATE_NOOP("cText", "Alle &Vorschläge annehmen"), u"", 0, &cCan::Accept,
      QT_TRANSLATE_NOOP("cText",

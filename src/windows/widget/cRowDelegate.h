@@ -13,6 +13,10 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
+    // In a field in which nothing was typed undo and redo mean the book, whether the user or the list has opened it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    [[nodiscard]] static bool IsForBook(QObject& field, const QEvent& event);
+
     // The colour of an amount: 1 income, 2 expense, 0 neither.
     static void SetTone(QStyleOptionViewItem& option, int tone);
 };
