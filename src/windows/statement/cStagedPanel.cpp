@@ -93,6 +93,7 @@ QPushButton* cStagedPanel::BuildMore()
     m_more->addAction(m_showTitle);
     auto* more = new QPushButton(cText::Tr("Me&hr"), this);
     more->setAutoDefault(false);
+    more->setFocusPolicy(Qt::TabFocus); // as those beside it
     more->setMenu(m_more);
     return more;
 }
