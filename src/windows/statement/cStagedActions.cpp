@@ -38,7 +38,7 @@ struct cLine
 constexpr std::array<cLine, cStagedActions::Count> lines{{
     {QT_TRANSLATE_NOOP("cText", "B&uchen"), u"buchen", Qt::Key_Return, &cCan::Change,
      QT_TRANSLATE_NOOP("cText", "Bucht die markierten Umsätze (Eingabetaste)")},
-    {QT_TRANSLATE_NOOP("cText", "Alle &Vorschläge annehmen"), u"", 0, &cCan::Accept,
+    {QT_TRANSLATE_NOOP("cText", "&Vorschläge annehmen"), u"", 0, &cCan::Accept,
      QT_TRANSLATE_NOOP("cText",
                        "Ordnet zu, was schon im Haushaltsbuch steht, und bucht, was einen sicheren Vorschlag hat")},
     {QT_TRANSLATE_NOOP("cText", "Bearbeiten und buchen…"), u"", Qt::Key_B, &cCan::Edit,

@@ -72,8 +72,6 @@ cFlowLayout* cStagedPanel::BuildActions()
         }
     }
     m_bar->addWidget(BuildMore());
-    m_bar->AddStretch();
-    m_bar->addWidget(m_count);
     return m_bar;
 }
 
@@ -120,6 +118,8 @@ cFlowLayout* cStagedPanel::BuildView()
     bar->AddField(grouping, m_grouping);
     bar->AddGap(gap);
     bar->AddField(filter, m_filter);
+    bar->AddGap(gap);
+    bar->addWidget(m_count);
     return bar;
 }
 
