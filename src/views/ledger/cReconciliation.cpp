@@ -14,8 +14,8 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cSplitGroup.h"
+#include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cReconciledDays.h"
-#include "views/statement/cOpeningBalance.h"
 
 #include <QHash>
 #include <QSet>
