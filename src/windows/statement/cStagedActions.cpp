@@ -98,7 +98,8 @@ cStagedActions::cStagedActions(cImportReview& review, cStagedTree& tree, QWidget
 void cStagedActions::Run(eId id)
 {
     const QList<int> ids = m_tree.SelectedIds(); // with the category of its field a row may leave the list
-    const bool isUnsaid = id == Book && m_tree.IsFieldEmpty(); // the proposal was deleted, and nothing put in its place
+    // The proposal was deleted, and nothing put in its place.
+    const bool isUnsaid = (id == Book || id == All) && m_tree.IsFieldEmpty();
     if (!Get(id)->isEnabled() || isUnsaid || !m_tree.LeaveField(id == Book)) {
         return;
     }
