@@ -128,9 +128,12 @@ inline constexpr int Any = std::numeric_limits<int>::max(); // number of argumen
 [[nodiscard]] QString EqualRows(qsizetype count);
 
 // The account number that is meant: itself, its other form, or the account of the book that it belongs to. Empty when
-// the reader has been told of a fault. A statement is of a number with rows, paper may be there of any other too.
+// the reader has been told of a fault. A statement is of a number with rows, paper may be there of any other too, and
+// of all numbers of an account.
 [[nodiscard]] QString StatementNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text);
-[[nodiscard]] QString PaperNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text);
+[[nodiscard]] QStringList PaperNumbers(cCliReader& reader, const cStatementListModel& statement, const QString& text);
+// The only one of those that `text` means; the reader is told where there are more.
+[[nodiscard]] QString OneNumber(cCliReader& reader, const QStringList& meant, const QString& text);
 
 // The options that say from which open files PIN and TAN are read, and the number one of them has; -1 without.
 [[nodiscard]] QList<cCliOption> BankSecrets();

@@ -25,6 +25,8 @@ struct cEntryItem
     QString CorrectionComment;
     QDate PlannedDate; // the day that the series has for an occurrence which a correction moved; else invalid
 
+    // How it is called in lists and messages.
+    [[nodiscard]] QString Name() const { return EntryDescription.isEmpty() ? EntryCategory : EntryDescription; }
     // The day of the series. It tells the period of an occurrence and its correction, whatever day it moved to.
     [[nodiscard]] QDate Planned() const { return PlannedDate.isValid() ? PlannedDate : EntryDate; }
     [[nodiscard]] bool HasCorrection() const { return IsCorrected || PlannedDate.isValid(); }

@@ -77,10 +77,15 @@ void testCliReceipts::PapersThereAndBack() const
     QVERIFY2(asked.Code == 1 && asked.Error.contains("--month"_L1), qPrintable(asked.Text()));
     QCOMPARE(run(u"statement|add-paper|--month|Ostern|"_s + file).Code, 2);
     (void)cCliRun::GoodLine(folder.path(), u"statement|add-paper|--month|03.2026|"_s + file);
+    (void)cCliRun::GoodLine(folder.path(), u"import|--account|4712|--book-account|Girokonto|"_s + statement);
+    QCOMPARE(run(u"statement|add-paper|--month|04.2026|--account|girokonto|"_s + file).Code, 1); // which of the two?
+    (void)cCliRun::GoodLine(folder.path(), u"statement|add-paper|--month|04.2026|--account|4712|"_s + file);
     const cCliRun listed = run(u"statement|papers|--account|girokonto|--json"_s);
-    QCOMPARE(listed.Column(u"Month"_s), QStringList(u"2026-03"_s));
+    QCOMPARE(listed.Column(u"Month"_s), QStringList({u"2026-03"_s, u"2026-04"_s}));
     const QString name = listed.Column(u"Paper"_s).value(0);
     QCOMPARE(run(u"statement|remove-paper|%1|--yes"_s.arg(name)).Code, 0);
+    const QString other = run(u"statement|papers|--json"_s).Column(u"Paper"_s).value(0);
+    QCOMPARE(run(u"statement|remove-paper|%1|--account|girokonto|--yes"_s.arg(other)).Code, 0);
     QVERIFY(run(u"statement|papers|--json"_s).Json().isEmpty());
     QVERIFY(QDir(folder.filePath(u"Veltrino Kontorelle/Belege"_s)).isEmpty());
 }

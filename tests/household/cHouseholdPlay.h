@@ -53,7 +53,7 @@ public:
         int WrongDays = 0;    // on which the book holds another balance
         int Known = 0;        // rows whose category somebody could know
         int Right = 0;        // of them: booked so
-        int SureWrong = 0;    // of them: taken with "Alle Vorschläge annehmen" and wrong
+        int SureWrong = 0;    // of them: taken with "Vorschläge annehmen" and wrong
         int Sure = 0;         // rows that were taken so
         int Questions = 0;    // in all months
         QStringList Faults;   // the first of each month and account, in words

@@ -456,6 +456,7 @@ private Q_SLOTS:
         QCOMPARE(page.AllIds(), QList<int>{id}); // although booked rows are hidden
         QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
         QVERIFY(!page.Review.Choose({id}, u"Unbekannt"_s, {}));
+        QVERIFY(page.Review.Summary().value(0).startsWith(u"Die Kategorie 'Unbekannt' gibt es nicht."_s));
         QVERIFY(page.Review.Choose({id}, u"freizeit; geschenke"_s, {}));
         QCOMPARE(entries.size(), 1);
         QCOMPARE(page.Data.GetEntries({}).value(0).EntryCategory, u"Freizeit; Geschenke"_s);

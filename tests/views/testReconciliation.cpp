@@ -2,9 +2,9 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
+#include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/ledger/cReconcileListModel.h"
-#include "views/statement/cOpeningBalance.h"
 
 #include <QTest>
 

@@ -251,6 +251,37 @@ private Q_SLOTS:
         QVERIFY(scene.Field() != nullptr && scene.Field()->hasFocus()); // so that the next Enter books nothing either
     }
 
+    void AMenuLeavesAnEmptiedField_data()
+    {
+        QTest::addColumn<bool>("isMore");
+        QTest::newRow("the button") << true;
+        QTest::newRow("the right mouse button") << false;
+    }
+
+    void AMenuLeavesAnEmptiedField()
+    {
+        QFETCH(const bool, isMore);
+        cScene scene;
+        scene.LeadToDoubtful();
+        QTest::keyClick(scene.Field(), Qt::Key_Delete);
+        bool isKept = false;
+        QTimer::singleShot(0, &scene.Page, [&] {
+            QTest::qWait(1); // what the field tells comes a moment later
+            isKept = scene.Tree.IsFieldOpen() && scene.Tree.IsFieldEmpty();
+            QApplication::activePopupWidget()->close();
+        });
+        if (isMore) {
+            QTest::mouseClick(&scene.Button(u"Mehr"_s), Qt::LeftButton);
+        } else {
+            QWidget* list = scene.Tree.viewport();
+            const QPoint place(1, scene.Tree.visualRect(scene.Tree.currentIndex()).center().y());
+            QTest::mousePress(list, Qt::RightButton, {}, place);
+            QContextMenuEvent event(QContextMenuEvent::Mouse, place, list->mapToGlobal(place));
+            QCoreApplication::sendEvent(list, &event);
+        }
+        QVERIFY(isKept);
+    }
+
     // A yes to a new name books for Enter alone: who wanted something else with the row gets the category only.
     void AnotherCommandBooksNothing_data()
     {

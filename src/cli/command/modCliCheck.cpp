@@ -4,7 +4,6 @@
 #include "cli/console/cConsoleUser.h"
 #include "cli/modCliCommands.h"
 #include "views/book/cBookCheck.h"
-#include "views/entry/modEntryFields.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,8 +31,7 @@ void Show(const cFaultyEntry& faulty)
     }
     const QString id = QString::number(faulty.Entry.ID);
     modConsole::Out(
-        cText::Tr("Eintrag {0}, '{1}': {2}", {id, modEntryFields::Name(faulty.Entry), cBookCheck::FaultText(faulty)})
-        + u"\n  "_s
+        cText::Tr("Eintrag {0}, '{1}': {2}", {id, faulty.Entry.Name(), cBookCheck::FaultText(faulty)}) + u"\n  "_s
         + cText::Tr("\"change {0} {1}\" berichtigt ihn, \"delete {0} --yes\" löscht ihn.", {id, options.join(u' ')})
         + u'\n');
 }

@@ -9,6 +9,7 @@
 #include "cli/modCliCommands.h"
 #include "model/modPaperDay.h"
 #include "views/ledger/cStatementListModel.h"
+#include "views/receipt/cReceiptFolder.h"
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cStatementPapers.h"
 
@@ -24,37 +25,44 @@ cCliOption AccountOption()
     return {u"account"_s, u"NUMMER"_s, cText::Tr("Kontonummer, IBAN oder Konto des Buchs")};
 }
 
-// The account number that is meant.
-QString NumberMeant(cCliReader& reader, const cCliContext& context)
+QStringList NumbersMeant(cCliReader& reader, const cCliContext& context)
 {
     const cStatementListModel statement(context.Book->Tools);
-    return modCliCommands::PaperNumber(reader, statement, context.Call.Value(u"account"_s));
+    return modCliCommands::PaperNumbers(reader, statement, context.Call.Value(u"account"_s));
+}
+
+QString PaperJson(const QString& number, const cReceiptFolder::cFile& file)
+{
+    const QDate day = modPaperDay::Read(file.Name);
+    cJsonObject json;
+    json.Text(u"Number"_s, number).Text(u"Month"_s, modPaperDay::OfMonth(day));
+    if (day.isValid() && !modPaperDay::IsMonthOnly(file.Name)) {
+        json.Date(u"Date"_s, day);
+    }
+    return json.Text(u"Paper"_s, file.Name)
+        .Text(u"Path"_s, file.Path)
+        .Truth(u"IsMissing"_s, !file.IsThere())
+        .Number(u"Bytes"_s, qMax<qint64>(0, file.Size))
+        .ToString();
 }
 
 int ListPapers(const cCliContext& context)
 {
     cCliReader reader(context);
-    const QString number = NumberMeant(reader, context);
+    const QStringList numbers = NumbersMeant(reader, context);
     if (!reader.IsGood()) {
         return reader.Report();
     }
-    cCliTable table({{cText::Tr("Monat")}, {cText::Tr("Datei")}, {cText::Tr("Bytes"), eAlign::Right}});
+    cCliTable table(
+        {{cText::Tr("Kontonummer")}, {cText::Tr("Monat")}, {cText::Tr("Datei")}, {cText::Tr("Bytes"), eAlign::Right}});
     QStringList objects;
-    const QList<cReceiptHolder::cItem> items = cStatementPapers(context.Book->Tools, number).Items();
-    for (const cReceiptHolder::cItem& item : items) {
-        const QDate day = modPaperDay::Read(item.File.Name);
-        cJsonObject json;
-        json.Text(u"Number"_s, number).Text(u"Month"_s, modPaperDay::OfMonth(day));
-        if (day.isValid() && !modPaperDay::IsMonthOnly(item.File.Name)) {
-            json.Date(u"Date"_s, day);
+    for (const QString& number : numbers) {
+        const QList<cReceiptHolder::cItem> items = cStatementPapers(context.Book->Tools, number).Items();
+        for (const cReceiptHolder::cItem& item : items) {
+            objects.append(PaperJson(number, item.File));
+            table.Add({number, item.Text, item.File.Name,
+                       item.File.IsThere() ? QString::number(item.File.Size) : cText::Tr("fehlt")});
         }
-        objects.append(json.Text(u"Paper"_s, item.File.Name)
-                           .Text(u"Path"_s, item.File.Path)
-                           .Truth(u"IsMissing"_s, !item.File.IsThere())
-                           .Number(u"Bytes"_s, qMax<qint64>(0, item.File.Size))
-                           .ToString());
-        table.Add(
-            {item.Text, item.File.Name, item.File.IsThere() ? QString::number(item.File.Size) : cText::Tr("fehlt")});
     }
     modConsole::Out(context.Call.Has(u"json"_s) ? modJson::Array(objects) + u'\n' : table.ToString());
     return modExit::Done;
@@ -63,7 +71,8 @@ int ListPapers(const cCliContext& context)
 int AddPapers(const cCliContext& context)
 {
     cCliReader reader(context);
-    const QString number = NumberMeant(reader, context);
+    const QString number =
+        modCliCommands::OneNumber(reader, NumbersMeant(reader, context), context.Call.Value(u"account"_s));
     const QString month = context.Call.Value(u"month"_s);
     const QString day = modPaperDay::Find(month);
     if (!month.isEmpty() && day.isEmpty()) {
@@ -81,21 +90,28 @@ int AddPapers(const cCliContext& context)
 int RemovePaper(const cCliContext& context)
 {
     cCliReader reader(context);
-    const QString number = NumberMeant(reader, context);
+    const QString account = context.Call.Value(u"account"_s);
     const QString name = context.Call.Arguments().constFirst();
+    QStringList numbers = NumbersMeant(reader, context);
+    if (!reader.IsGood()) {
+        return reader.Report();
+    }
+    numbers.removeIf(
+        [&](const QString& number) { return !cStatementPapers(context.Book->Tools, number).Names().contains(name); });
+    if (numbers.isEmpty()) {
+        modConsole::Error(account.isEmpty() ? cText::Tr("Kein Konto hat einen PDF-Auszug '{0}'.", {name})
+                                            : cText::Tr("Das Konto {0} hat keinen PDF-Auszug '{1}'.", {account, name}));
+        return modExit::Failed;
+    }
+    const QString number = modCliCommands::OneNumber(reader, numbers, account);
     if (!reader.IsGood()) {
         return reader.Report();
     }
     cCliTrash trash;
     cReceiptListModel papers(context.Book->Tools, trash,
                              std::make_unique<cStatementPapers>(context.Book->Tools, number));
-    const int row = papers.RowOf(name);
-    if (row < 0) {
-        modConsole::Error(cText::Tr("Das Konto {0} hat keinen PDF-Auszug '{1}'.", {number, name}));
-        return modExit::Failed;
-    }
     context.User.Prepare(modCliFlow::Answers(context, cText::Tr("Mit --yes wird er entfernt.")));
-    papers.Remove(row);
+    papers.Remove(papers.RowOf(name));
     return modCliFlow::Finish(context, papers.RowOf(name) < 0);
 }
 
@@ -104,7 +120,7 @@ int RemovePaper(const cCliContext& context)
 cCliCommand modCliCommands::StatementPapersCommand()
 {
     return {.Name = u"statement papers"_s,
-            .Help = cText::Tr("listet die PDF-Auszüge eines Bankkontos, die neuesten zuerst"),
+            .Help = cText::Tr("listet die PDF-Auszüge eines Bankkontos oder aller, die neuesten zuerst"),
             .Options = {AccountOption(), Json()},
             .Run = ListPapers};
 }

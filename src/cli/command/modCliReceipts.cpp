@@ -8,7 +8,6 @@
 #include "cli/console/cJsonObject.h"
 #include "cli/modCliCommands.h"
 #include "model/modReceiptName.h"
-#include "views/entry/modEntryFields.h"
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cReceipts.h"
 
@@ -44,8 +43,8 @@ void Add(cLines& lines, const cEntryItem& entry, const cReceipts::cFile& file)
                              .Truth(u"IsMissing"_s, !file.IsThere())
                              .Number(u"Bytes"_s, qMax<qint64>(0, file.Size))
                              .ToString());
-    lines.Table.Add({QString::number(entry.ID), modDate::ToText(entry.EntryDate), modEntryFields::Name(entry),
-                     file.Name, file.IsThere() ? QString::number(file.Size) : cText::Tr("fehlt")});
+    lines.Table.Add({QString::number(entry.ID), modDate::ToText(entry.EntryDate), entry.Name(), file.Name,
+                     file.IsThere() ? QString::number(file.Size) : cText::Tr("fehlt")});
 }
 
 cLines Collect(const cCliContext& context, const QList<int>& ids, eWhich which)

@@ -122,42 +122,52 @@ int RunStatement(const cCliContext& context)
     return modExit::Done;
 }
 
-// The one of `numbers` that is meant; `unknown` is said where none is.
-QString NumberOf(const QStringList& numbers, const QString& text, const QString& unknown, cCliReader& reader,
-                 const cStatementListModel& statement)
+// Those of `numbers` that are meant, all of them without a text; `unknown` is said where there is none.
+QStringList NumbersOf(const QStringList& numbers, const QString& text, const QString& unknown, cCliReader& reader,
+                      const cStatementListModel& statement)
 {
-    if (text.isEmpty() && numbers.size() == 1) {
-        return numbers.first();
-    }
     if (text.isEmpty()) {
-        reader.Misused(
-            cText::Tr("Mit --account muss die Kontonummer genannt werden. Es gibt: {0}", {numbers.join(u", "_s)}));
-        return {};
+        return numbers;
     }
     if (numbers.contains(text)) {
-        return text;
+        return {text};
     }
     QStringList meant = statement.NumbersMeant(text);
     meant.removeIf([&](const QString& number) { return !numbers.contains(number); });
-    if (meant.size() != 1) {
-        reader.Missing(meant.isEmpty() ? unknown
-                                       : cText::Tr("'{0}' hat mehrere Kontonummern: {1}", {text, meant.join(u", "_s)}));
+    if (meant.isEmpty()) {
+        reader.Missing(unknown);
     }
-    return meant.value(0);
+    return meant;
 }
 
 } // namespace
 
 QString modCliCommands::StatementNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text)
 {
-    return NumberOf(statement.Ledger().Numbers(), text,
-                    cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text}), reader, statement);
+    const QStringList meant =
+        NumbersOf(statement.Ledger().Numbers(), text,
+                  cText::Tr("Von diesem Konto ist kein Umsatz eingelesen: {0}", {text}), reader, statement);
+    return OneNumber(reader, meant, text);
 }
 
-QString modCliCommands::PaperNumber(cCliReader& reader, const cStatementListModel& statement, const QString& text)
+QStringList modCliCommands::PaperNumbers(cCliReader& reader, const cStatementListModel& statement, const QString& text)
 {
-    return NumberOf(statement.Numbers(), text, cText::Tr("Diese Kontonummer kennt das Buch nicht: {0}", {text}), reader,
-                    statement);
+    return NumbersOf(statement.Numbers(), text, cText::Tr("Diese Kontonummer kennt das Buch nicht: {0}", {text}),
+                     reader, statement);
+}
+
+QString modCliCommands::OneNumber(cCliReader& reader, const QStringList& meant, const QString& text)
+{
+    if (meant.size() == 1) {
+        return meant.first();
+    }
+    const QString numbers = meant.join(u", "_s);
+    if (text.isEmpty()) {
+        reader.Misused(cText::Tr("Mit --account muss die Kontonummer genannt werden. Es gibt: {0}", {numbers}));
+    } else if (!meant.isEmpty()) {
+        reader.Missing(cText::Tr("'{0}' hat mehrere Kontonummern: {1}", {text, numbers}));
+    }
+    return {};
 }
 
 cCliCommand modCliCommands::StatementCommand()

@@ -109,14 +109,14 @@ qint64 cImportHive::GetImportEntrySumByNumber(const QString& account) const
 bool cImportHive::IsImportItemAvail(const cImportEntry& entry) const
 {
     BuildIndex();
-    const auto [first, last] = m_index.equal_range(entry.EqualHash());
+    const auto [first, last] = m_index.equal_range(HashOf(entry));
     return std::any_of(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqual(entry); });
 }
 
 eKnown cImportHive::Find(const cImportEntry& entry, int newestId) const
 {
     BuildIndex();
-    const auto [first, last] = m_index.equal_range(entry.EqualHash());
+    const auto [first, last] = m_index.equal_range(HashOf(entry));
     eKnown known = eKnown::No;
     for (auto place = first; place != last; ++place) {
         const cImportEntry& row = m_entries.at(FindRow(*place));
@@ -133,7 +133,7 @@ eKnown cImportHive::Find(const cImportEntry& entry, int newestId) const
 int cImportHive::CountButBlanks(const cImportEntry& entry) const
 {
     BuildIndex();
-    const auto [first, last] = m_index.equal_range(entry.EqualHash());
+    const auto [first, last] = m_index.equal_range(HashOf(entry));
     return static_cast<int>(
         std::count_if(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqualButBlanks(entry); }));
 }
@@ -255,9 +255,18 @@ void cImportHive::RemoveFromGroup(int entryId, int rowId)
     }
 }
 
+size_t cImportHive::HashOf(const cImportEntry& entry) const
+{
+    if (!entry.isEqual(m_asked)) {
+        m_asked = entry;
+        m_askedHash = entry.EqualHash();
+    }
+    return m_askedHash;
+}
+
 void cImportHive::AddToIndex(const cImportEntry& entry) const
 {
-    m_index.insert(entry.EqualHash(), entry.ID);
+    m_index.insert(HashOf(entry), entry.ID);
 }
 
 void cImportHive::RemoveFromIndex(const cImportEntry& entry) const

@@ -65,6 +65,7 @@ private:
     void AddToIndex(const cImportEntry& entry) const;
     void RemoveFromIndex(const cImportEntry& entry) const;
     void BuildIndex() const;
+    [[nodiscard]] size_t HashOf(const cImportEntry& entry) const;
 
     cImportEntryList m_entries;
     QList<cGroup> m_groups; // sorted by EntryId
@@ -72,4 +73,6 @@ private:
     // Built by the first duplicate test: readers that never import do not pay for it.
     mutable bool m_isIndexed = false;
     mutable QMultiHash<size_t, int> m_index; // cImportEntry::EqualHash to row ID
+    mutable cImportEntry m_asked;            // a row that is looked for is the one that is added next
+    mutable size_t m_askedHash = m_asked.EqualHash();
 };

@@ -6,7 +6,6 @@
 #include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "store/cDataAccess.h"
-#include "views/entry/modEntryFields.h"
 #include "views/receipt/cReceipts.h"
 
 #include <array>
@@ -126,7 +125,7 @@ QString cBookCheck::CellText(const cFaultyEntry& entry, int column) const
     switch (column) {
     case Fault: return FaultText(entry);
     case Day: return modDate::ToText(entry.Entry.EntryDate);
-    case Text: return modEntryFields::Name(entry.Entry);
+    case Text: return entry.Entry.Name();
     case Account: return entry.Entry.EntryAccount;
     case Amount:
         return entry.Faults.contains(eEntryFault::Amount) ? entry.AmountText

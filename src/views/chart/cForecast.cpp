@@ -142,8 +142,7 @@ QString cForecast::Text(const cLimitWarning& warning, const cAmountFormat& forma
         return cText::Tr("Das Konto '{0}' liegt mit {1} unter seinem Limit von {2}.",
                          {warning.Account, balance, limit});
     }
-    const QString what =
-        warning.Entry.EntryDescription.isEmpty() ? warning.Entry.EntryCategory : warning.Entry.EntryDescription;
+    const QString what = warning.Entry.Name();
     const QString amount = format.Cents(modBalance::Effect(warning.Entry, warning.Account));
     return cText::Tr("Am {0} fällt das Konto '{1}' mit '{2}' ({3}) auf {4} und damit unter sein Limit von {5}.",
                      {modDate::ToText(warning.Day), warning.Account, what, amount, balance, limit});

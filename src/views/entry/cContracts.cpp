@@ -7,7 +7,6 @@
 #include "model/cEntryQuery.h"
 #include "model/modContract.h"
 #include "store/cDataAccess.h"
-#include "views/entry/modEntryFields.h"
 
 #include <algorithm>
 
@@ -42,5 +41,5 @@ QStringList cContracts::Lines() const
 QString cContracts::Text(const cEntryItem& contract)
 {
     return cText::Tr("'{0}' ist noch bis zum {1} kündbar.",
-                     {modEntryFields::Name(contract), modDate::ToText(modContract::CancelBy(contract))});
+                     {contract.Name(), modDate::ToText(modContract::CancelBy(contract))});
 }

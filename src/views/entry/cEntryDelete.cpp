@@ -13,7 +13,6 @@
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cSplitGroup.h"
-#include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
 
 #include <algorithm>
@@ -26,9 +25,9 @@ constexpr qsizetype mostNames = 8;
 
 QString SeriesName(const cEntryItem& entry)
 {
-    return cText::Tr("'{0}' ({1} seit {2})",
-                     {modEntryFields::Name(entry), modWord::Intervals().ToShown(entry.EntryInterval),
-                      modDate::ToText(entry.EntryDate)});
+    return cText::Tr(
+        "'{0}' ({1} seit {2})",
+        {entry.Name(), modWord::Intervals().ToShown(entry.EntryInterval), modDate::ToText(entry.EntryDate)});
 }
 
 QString Lines(const QStringList& names)
@@ -71,11 +70,10 @@ QString StepName(const cDeleteTargetList& targets, eSeriesPart part)
     const cDeleteTarget& first = targets.first();
     const bool isOccurrence = targets.size() == 1 && !first.Days.isEmpty();
     if (isOccurrence && part == eSeriesPart::OnlyThis && first.Days.size() == 1) {
-        return cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(first.Entry)});
+        return cText::Tr("'{0}' einmal ausgelassen", {first.Entry.Name()});
     }
     if (isOccurrence && part == eSeriesPart::FromHere) {
-        return cText::Tr("'{0}' ab {1} gelöscht",
-                         {modEntryFields::Name(first.Entry), modDate::ToText(first.Days.first())});
+        return cText::Tr("'{0}' ab {1} gelöscht", {first.Entry.Name(), modDate::ToText(first.Days.first())});
     }
     const qsizetype lines = counts.Entries + (part == eSeriesPart::OnlyThis ? counts.Occurrences : counts.Series);
     return lines == 1 ? cText::Tr("Eintrag gelöscht") : cText::Tr("{0} Einträge gelöscht", {QString::number(lines)});
@@ -185,7 +183,7 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
     if (part == eSeriesPart::Whole || first.Days.isEmpty()) {
         return WholeQuestion(targets);
     }
-    const QString name = modEntryFields::Name(first.Entry);
+    const QString name = first.Entry.Name();
     const QDate day = first.Days.first();
     if (part == eSeriesPart::OnlyThis) {
         return cText::Tr("Möchten Sie '{0}' vom {1} auslassen?\nDer Betrag wird null, die Serie läuft weiter.",
@@ -210,8 +208,7 @@ QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
     const QString day = first.EntryDate.isValid() ? modDate::ToText(first.EntryDate) : cText::Tr("(kein Tag)");
     QString text = targets.size() == 1
         ? cText::Tr("Möchten Sie den Eintrag {0} löschen?",
-                    {cText::Tr("'{0}' vom {1} über {2}",
-                               {modEntryFields::Name(first), day, m_tools.Format.Cents(first.EntryValue)})})
+                    {cText::Tr("'{0}' vom {1} über {2}", {first.Name(), day, m_tools.Format.Cents(first.EntryValue)})})
         : cText::Tr("Möchten Sie die {0} ausgewählten Einträge löschen?", {QString::number(targets.size())});
     QStringList series;
     for (const cDeleteTarget& target : targets) {
@@ -240,7 +237,7 @@ QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStri
     const cDeleteTarget& first = targets.first();
     QString text = counts.Occurrences == 1 && counts.Entries == 0
         ? cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).",
-                    {modEntryFields::Name(first.Entry), modDate::ToText(first.Days.first()),
+                    {first.Entry.Name(), modDate::ToText(first.Days.first()),
                      modWord::Intervals().ToShown(first.Entry.EntryInterval), modDate::ToText(first.Entry.EntryDate)})
         : cText::Tr("Ausgewählt sind {0} Vorkommen von {1}:",
                     {QString::number(counts.Occurrences), CountOfSeries(counts.Series)})

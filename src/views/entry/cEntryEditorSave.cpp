@@ -293,7 +293,7 @@ void cEntryEditor::KeepReceipts(QList<cEntryWrite>& rows, const QList<int>& remo
 
 QString cEntryEditor::StepName(const cEntryItem& entry) const
 {
-    const QString name = modEntryFields::Name(entry);
+    const QString name = entry.Name();
     return IsNew() ? cText::Tr("Eintrag '{0}' angelegt", {name}) : cText::Tr("Eintrag '{0}' geändert", {name});
 }
 
@@ -308,7 +308,7 @@ void cEntryEditor::Remember(const QList<cEntryWrite>& rows)
     }
     const cEntryItem& first = entries.first();
     const qint64 cents = first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(entries);
-    m_lastSaved.prepend(modDate::ToText(first.EntryDate) + u"  "_s + modEntryFields::Name(first) + u"  "_s
+    m_lastSaved.prepend(modDate::ToText(first.EntryDate) + u"  "_s + first.Name() + u"  "_s
                         + m_tools.Format.Cents(cents));
     m_lastSaved = m_lastSaved.mid(0, mostRemembered);
 }

@@ -12,7 +12,6 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
 
 #include <cstdlib>
@@ -71,8 +70,8 @@ cSeriesChange::eEdit cSeriesChange::AskWhatToEdit(int entryId, QDate day)
     options.append(cText::Tr("Ganze Serie"));
     const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nWas möchten Sie ändern?",
-                           {modEntryFields::Name(*series), modDate::ToText(day),
-                            modWord::Intervals().ToShown(series->EntryInterval), modDate::ToText(series->EntryDate)}),
+                           {series->Name(), modDate::ToText(day), modWord::Intervals().ToShown(series->EntryInterval),
+                            modDate::ToText(series->EntryDate)}),
          .Title = cText::Tr("Serie bearbeiten"),
          .Options = options});
     return edits.value(choice, eEdit::Nothing);
@@ -105,9 +104,9 @@ std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entry
     cPeriodFields fields;
     fields.EntryId = entryId;
     fields.Day = occurrence->EntryDate;
-    fields.Title = cText::Tr("'{0}' vom {1} bis {2}",
-                             {modEntryFields::Name(*occurrence), modDate::ToText(period.EntryStartDate),
-                              modDate::ToText(period.EntryEndDate)});
+    fields.Title =
+        cText::Tr("'{0}' vom {1} bis {2}",
+                  {occurrence->Name(), modDate::ToText(period.EntryStartDate), modDate::ToText(period.EntryEndDate)});
     fields.Today = today;
     fields.DayText = modDate::ToText(correction && correction->EntryDay.isValid() ? correction->EntryDay : fields.Day);
     fields.Amount =
@@ -152,9 +151,8 @@ bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QS
     const bool isBack = fixMod.EntryValue != 0 && comment == LeftOut();
     fixMod.EntryComment = isBack || (isOwn && modSeries::IsFromBank(comment)) ? QString() : comment;
     return Store(fixMod,
-                 fixMod.EntryDay == before.EntryDay
-                     ? cText::Tr("Betrag von '{0}' korrigiert", {modEntryFields::Name(*occurrence)})
-                     : cText::Tr("'{0}' verschoben", {modEntryFields::Name(*occurrence)}));
+                 fixMod.EntryDay == before.EntryDay ? cText::Tr("Betrag von '{0}' korrigiert", {occurrence->Name()})
+                                                    : cText::Tr("'{0}' verschoben", {occurrence->Name()}));
 }
 
 bool cSeriesChange::SkipPeriod(int entryId, QDate day)
@@ -165,7 +163,7 @@ bool cSeriesChange::SkipPeriod(int entryId, QDate day)
     }
     cEntryItemFixMod fixMod = modSeries::CorrectionFor(*occurrence);
     fixMod.EntryComment = LeftOut();
-    return Store(fixMod, cText::Tr("'{0}' einmal ausgelassen", {modEntryFields::Name(*occurrence)}));
+    return Store(fixMod, cText::Tr("'{0}' einmal ausgelassen", {occurrence->Name()}));
 }
 
 bool cSeriesChange::Store(const cEntryItemFixMod& fixMod, const QString& step)
@@ -180,6 +178,6 @@ bool cSeriesChange::RemoveCorrection(int entryId, QDate day)
     if (!correction || !entry) {
         return false;
     }
-    return Step(cText::Tr("Korrektur von '{0}' entfernt", {modEntryFields::Name(*entry)}),
+    return Step(cText::Tr("Korrektur von '{0}' entfernt", {entry->Name()}),
                 [&] { return m_data.DeleteEntryMod(correction->ID); });
 }

@@ -53,8 +53,3 @@ cEntryItem modEntryFields::Series(const cEntryFields& fields, QDate today)
     series.EntryDateEnd = isSeries ? LastDay(fields, today) : modRecurrence::OpenEnd;
     return series;
 }
-
-QString modEntryFields::Name(const cEntryItem& entry)
-{
-    return entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
-}

@@ -26,7 +26,4 @@ namespace modEntryFields {
 // An entry with the days and the interval of the fields, and nothing else.
 [[nodiscard]] cEntryItem Series(const cEntryFields& fields, QDate today);
 
-// How an entry is called in messages: its description, or its category where there is none.
-[[nodiscard]] QString Name(const cEntryItem& entry);
-
 } // namespace modEntryFields

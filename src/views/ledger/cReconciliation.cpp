@@ -14,9 +14,8 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cSplitGroup.h"
-#include "views/entry/modEntryFields.h"
+#include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cReconciledDays.h"
-#include "views/statement/cOpeningBalance.h"
 
 #include <QHash>
 #include <QSet>
@@ -59,7 +58,7 @@ public:
         found.EntryId = item.Entry.ID;
         found.BookDay = item.Entry.EntryDate;
         found.BookCents = item.Cents;
-        found.Text = modEntryFields::Name(item.Entry);
+        found.Text = item.Entry.Name();
         found.IsSeries = item.IsSeries;
         found.IsSplit = item.IsSplit;
         bool isSameDay = false;

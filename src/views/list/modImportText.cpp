@@ -162,8 +162,7 @@ QString modImportText::NoAccountToMatch(const QString& number)
 
 QString modImportText::EntryName(const cEntryItem& entry)
 {
-    const QString text = entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription;
-    return cText::Tr("'{0}' vom {1}", {text.simplified(), modDate::ToShortText(entry.EntryDate)});
+    return cText::Tr("'{0}' vom {1}", {entry.Name().simplified(), modDate::ToShortText(entry.EntryDate)});
 }
 
 QString modImportText::Candidate(const cMatchCandidate& candidate)

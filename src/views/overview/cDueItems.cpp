@@ -9,7 +9,6 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cSeriesChange.h"
-#include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/overview/modOverview.h"
 
@@ -45,7 +44,7 @@ bool cDueItems::BookToday(const cEntryItem& item)
     }
     entry->EntryDate = today;
     cReconciledGuard guard(m_tools);
-    cUndoStep step(m_tools.Data, cText::Tr("Eintrag '{0}' geändert", {modEntryFields::Name(*entry)}));
+    cUndoStep step(m_tools.Data, cText::Tr("Eintrag '{0}' geändert", {entry->Name()}));
     const bool isWritten = m_tools.Data.ChangeEntry(*entry);
     return step.DoneIf(isWritten && guard.Allows());
 }

@@ -11,7 +11,6 @@
 #include "model/modWord.h"
 #include "views/chart/cForecast.h"
 #include "views/entry/cContracts.h"
-#include "views/entry/modEntryFields.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
 #include "views/overview/cDueItems.h"
@@ -278,7 +277,7 @@ cOverviewLine cOverviewModel::DueLine(const cEntryItem& item)
     const bool isSeries = cDueItems::IsSeries(item);
     const qint64 effect = modBalance::Effect(item, {});
     const qint64 cents = item.EntryType == modWord::Umbuchung ? item.EntryValue : effect;
-    cOverviewLine line{modDate::ToShortText(item.EntryDate) + u"  "_s + modEntryFields::Name(item), Signed(cents),
+    cOverviewLine line{modDate::ToShortText(item.EntryDate) + u"  "_s + item.Name(), Signed(cents),
                        effect > 0 ? eOverviewTone::Income : eOverviewTone::Plain};
     line.Follow = [this, item] { m_parts.Navigator.OpenEntry(item.ID, item.Planned()); };
     if (m_parts.Main.IsReadOnly()) {

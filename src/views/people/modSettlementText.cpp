@@ -115,9 +115,8 @@ QStringList modSettlementText::EntryTitles()
 QStringList modSettlementText::EntryTexts(const cCountedEntry& counted)
 {
     const cEntryItem& entry = counted.Entry;
-    return {modDate::ToText(entry.EntryDate),
-            entry.EntryDescription.isEmpty() ? entry.EntryCategory : entry.EntryDescription,
-            cEntryFilter::AccountText(entry), counted.Payer, cPeople::SharesText(counted.Shares)};
+    return {modDate::ToText(entry.EntryDate), entry.Name(), cEntryFilter::AccountText(entry), counted.Payer,
+            cPeople::SharesText(counted.Shares)};
 }
 
 QString modSettlementText::NothingToPay(const cSettlement& settlement)

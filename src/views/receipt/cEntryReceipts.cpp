@@ -6,7 +6,6 @@
 #include "core/cBookTools.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
-#include "views/entry/modEntryFields.h"
 
 QString cEntryReceipts::Title() const
 {
@@ -14,9 +13,9 @@ QString cEntryReceipts::Title() const
     if (!entry) {
         return cText::Tr("Belege");
     }
-    return cText::Tr("Belege: {0}, {1}, {2}",
-                     {modDate::ToText(entry->EntryDate), modEntryFields::Name(*entry),
-                      m_tools.Format.Cents(modBalance::Effect(*entry, {}))});
+    return cText::Tr(
+        "Belege: {0}, {1}, {2}",
+        {modDate::ToText(entry->EntryDate), entry->Name(), m_tools.Format.Cents(modBalance::Effect(*entry, {}))});
 }
 
 cReceiptHolder::cWords cEntryReceipts::Words() const

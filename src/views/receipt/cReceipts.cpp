@@ -7,7 +7,6 @@
 #include "model/modReceiptName.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/entry/modEntryFields.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -150,7 +149,7 @@ bool cReceipts::Add(int entryId, const QList<cReceiptSource>& sources) const
         return true;
     }
     modReceiptName::Set(*entry, names);
-    if (Store(*entry, cText::Tr("Beleg zu '{0}' hinzugefügt", {modEntryFields::Name(*entry)}))) {
+    if (Store(*entry, cText::Tr("Beleg zu '{0}' hinzugefügt", {entry->Name()}))) {
         return true;
     }
     folder.TakeBack();
@@ -166,7 +165,7 @@ bool cReceipts::Detach(int entryId, const QString& name) const
     QStringList names = modReceiptName::Of(*entry);
     names.removeAll(name);
     modReceiptName::Set(*entry, names);
-    return Store(*entry, cText::Tr("Beleg von '{0}' entfernt", {modEntryFields::Name(*entry)}));
+    return Store(*entry, cText::Tr("Beleg von '{0}' entfernt", {entry->Name()}));
 }
 
 bool cReceipts::Replace(int entryId, const QString& name, const QString& path) const
@@ -180,7 +179,7 @@ bool cReceipts::Replace(int entryId, const QString& name, const QString& path) c
     if (other.isEmpty() || other == name) {
         return !other.isEmpty();
     }
-    cUndoStep undo(m_tools.Data, cText::Tr("Beleg von '{0}' ersetzt", {modEntryFields::Name(*entry)}));
+    cUndoStep undo(m_tools.Data, cText::Tr("Beleg von '{0}' ersetzt", {entry->Name()}));
     cEntryItemList entries = EntriesOf(name);
     const bool isWritten = std::all_of(entries.begin(), entries.end(), [&](cEntryItem& each) {
         QStringList names = modReceiptName::Of(each);

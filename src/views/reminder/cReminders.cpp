@@ -9,7 +9,6 @@
 #include "store/cDataAccess.h"
 #include "views/chart/cForecast.h"
 #include "views/entry/cContracts.h"
-#include "views/entry/modEntryFields.h"
 #include "views/overview/cOverviewTasks.h"
 #include "views/overview/modOverview.h"
 
@@ -29,9 +28,8 @@ void cReminders::AddDue(QList<cReminder>& reminders, const cEntryWindow& window)
     const cEntryItemList due = modOverview::Due(window.Entries, window.Days.Start, 1);
     if (due.size() == 1) {
         const cEntryItem& item = due.first();
-        reminders.append(
-            {cText::Tr("Heute fällig: {0}, {1}", {modEntryFields::Name(item), m_tools.Format.Cents(item.EntryValue)}),
-             item.ID, item.Planned()});
+        reminders.append({cText::Tr("Heute fällig: {0}, {1}", {item.Name(), m_tools.Format.Cents(item.EntryValue)}),
+                          item.ID, item.Planned()});
     } else if (due.size() > 1) {
         reminders.append({cText::Tr("Heute fällig: {0} Buchungen", {QString::number(due.size())})});
     }
@@ -54,9 +52,9 @@ void cReminders::AddContracts(QList<cReminder>& reminders, const cEntryWindow& w
 {
     const cEntryItemList contracts = cContracts(m_tools).Ahead(modContract::NoticeDays, window);
     for (const cEntryItem& contract : contracts) {
-        reminders.append({cText::Tr("{0} kündbar bis {1}",
-                                    {modEntryFields::Name(contract), modDate::ToText(modContract::CancelBy(contract))}),
-                          contract.ID, contract.Planned()});
+        reminders.append(
+            {cText::Tr("{0} kündbar bis {1}", {contract.Name(), modDate::ToText(modContract::CancelBy(contract))}),
+             contract.ID, contract.Planned()});
     }
 }
 

@@ -10,7 +10,6 @@
 #include "store/cUndoStep.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cStartBalance.h"
-#include "views/entry/modEntryFields.h"
 #include "views/entry/modSplitParts.h"
 
 #include <algorithm>
@@ -148,8 +147,8 @@ cCellEdit::ePart cCellEdit::AskPart(const cEntryListModel::cKey& key, int column
     const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nKategorie und Beschreibung sind "
                            "bei allen Vorkommen gleich. Was möchten Sie ändern?",
-                           {modEntryFields::Name(*entry), modDate::ToText(key.Day),
-                            modWord::Intervals().ToShown(entry->EntryInterval), modDate::ToText(entry->EntryDate)}),
+                           {entry->Name(), modDate::ToText(key.Day), modWord::Intervals().ToShown(entry->EntryInterval),
+                            modDate::ToText(entry->EntryDate)}),
          .Title = cText::Tr("Serie bearbeiten"),
          .Options = options});
     return parts.value(choice, ePart::Nothing);
@@ -171,7 +170,7 @@ bool cCellEdit::SaveAmount(const cEntryListModel::cKey& key, const QString& type
         return Store(key, eColumn::Amount, typed, part);
     }
     const cEntryItem entry = m_tools.Data.LoadEntry(key.ID).value_or(cEntryItem{});
-    cUndoStep step(m_tools.Data, cText::Tr("Eintrag '{0}' geändert", {modEntryFields::Name(entry)}));
+    cUndoStep step(m_tools.Data, cText::Tr("Eintrag '{0}' geändert", {entry.Name()}));
     return step.DoneIf(Store(key, eColumn::Amount, typed, part) && FollowCorrection(*correction, typed));
 }
 

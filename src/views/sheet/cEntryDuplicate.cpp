@@ -15,7 +15,6 @@
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/cStartBalance.h"
-#include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
 
 #include <QMap>
@@ -30,15 +29,14 @@ namespace {
 
 QString StepName(const cEntryItemList& copies)
 {
-    return copies.size() == 1 ? cText::Tr("'{0}' dupliziert", {modEntryFields::Name(copies.first())})
+    return copies.size() == 1 ? cText::Tr("'{0}' dupliziert", {copies.first().Name()})
                               : cText::Tr("{0} Einträge dupliziert", {QString::number(copies.size())});
 }
 
 QString Done(const cEntryItemList& copies)
 {
     return copies.size() == 1
-        ? cText::Tr("'{0}' zum {1} dupliziert.",
-                    {modEntryFields::Name(copies.first()), modDate::ToText(copies.first().EntryDate)})
+        ? cText::Tr("'{0}' zum {1} dupliziert.", {copies.first().Name(), modDate::ToText(copies.first().EntryDate)})
         : cText::Tr("{0} Einträge dupliziert.", {QString::number(copies.size())});
 }
 

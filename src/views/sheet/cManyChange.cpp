@@ -13,7 +13,6 @@
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/cStartBalance.h"
-#include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
 
 #include <QSet>
@@ -176,7 +175,7 @@ cManyChange::eSaved cManyChange::Store(const cEntryItemList& changed) const
 {
     cReconciledGuard guard(m_tools);
     cUndoStep step(m_tools.Data,
-                   changed.size() == 1 ? cText::Tr("Eintrag '{0}' geändert", {modEntryFields::Name(changed.first())})
+                   changed.size() == 1 ? cText::Tr("Eintrag '{0}' geändert", {changed.first().Name()})
                                        : cText::Tr("{0} Einträge geändert", {QString::number(changed.size())}));
     return step.DoneIf(Write(changed) && guard.Allows()) ? eSaved::Saved : eSaved::Refused;
 }
@@ -209,7 +208,7 @@ cManyChange::eSaved cManyChange::Check(const cManyFields& fields, const cEntryIt
     }
     const QString why =
         cText::Tr("Nach Konto: Von '{0}' kann das Geld nur auf ein anderes Konto gehen.", {fault->EntryAccount});
-    const QString which = cText::Tr("Das betrifft '{0}'.", {modEntryFields::Name(*fault)});
+    const QString which = cText::Tr("Das betrifft '{0}'.", {fault->Name()});
     return Refuse(fields.Target.isEmpty() && changed.size() > 1 ? why + u'\n' + which : why, eSaved::BadTarget);
 }
 

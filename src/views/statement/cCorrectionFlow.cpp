@@ -15,7 +15,6 @@
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
-#include "views/entry/modEntryFields.h"
 
 #include <algorithm>
 #include <array>
@@ -39,7 +38,7 @@ QString Listed(const QStringList& lines)
 
 QString Named(const cEntryItem& entry)
 {
-    return cText::Tr("'{0}' vom {1}", {modEntryFields::Name(entry), modDate::ToText(entry.EntryDate)});
+    return cText::Tr("'{0}' vom {1}", {entry.Name(), modDate::ToText(entry.EntryDate)});
 }
 
 // The entry as its row tells it. A transfer keeps its day where the row is its credit: it lies on the day of the debit.

@@ -266,9 +266,7 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
         ids.append(row.ID);
     }
     if (!category.isEmpty() && !m_works->Proposals.SetCategory(ids, category)) {
-        Tell({cText::Tr("Die Kategorie '{0}' ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie unter "
-                        "„Kategorien und Konten“ wieder an.",
-                        {category})});
+        TellNotTaken(category);
         return false;
     }
     const bool isTaken = interval.isEmpty() || m_works->Proposals.SetInterval(ids, interval);
@@ -282,12 +280,22 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
     return isTaken;
 }
 
+void cImportReview::TellNotTaken(const QString& category)
+{
+    Tell({m_works->Suggestions.IsCategory(category)
+              ? cText::Tr("Die Kategorie '{0}' ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie "
+                          "unter „Kategorien und Konten“ wieder an.",
+                          {category})
+              : cText::Tr("Die Kategorie '{0}' gibt es nicht. Bitte wählen Sie eine andere.", {category})});
+}
+
 // Of what is booked the entries themselves are corrected, each once. A transfer has no payee to be sorted by, and the
 // parts of a split entry have categories of their own.
 bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString& category)
 {
     const QString path = m_works->Proposals.PathOf(category);
     if (path.isEmpty()) {
+        TellNotTaken(category);
         return false;
     }
     QMap<int, cEntryItem> entries;

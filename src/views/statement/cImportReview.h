@@ -152,6 +152,7 @@ private:
     void LoadOld();
     void NoteStaged(const QList<int>& ids);
     void Tell(const QStringList& lines);
+    void TellNotTaken(const QString& category);
     void Report(const QStringList& lines); // the same after the rows have changed
     void ReportAccounts(const QStringList& lines);
     void ReportMatches(const cMatchFlow::cOutcome& outcome);

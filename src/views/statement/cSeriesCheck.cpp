@@ -19,7 +19,6 @@
 #include "views/entry/cContracts.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
-#include "views/entry/modEntryFields.h"
 
 #include <QSet>
 
@@ -287,7 +286,7 @@ bool cSeriesCheck::Correct(const cEntryItem& occurrence, QDate day)
 QString cSeriesCheck::Line(const cFinding& finding) const
 {
     const cEntryItem entry = m_tools.Data.LoadEntry(finding.EntryId).value_or(cEntryItem());
-    const QString name = cText::Tr("'{0}' ({1})", {modEntryFields::Name(entry), finding.Account});
+    const QString name = cText::Tr("'{0}' ({1})", {entry.Name(), finding.Account});
     const auto day = [](QDate date) { return modDate::ToText(date); };
     if (finding.IsLate && finding.MoveTo.isValid()) {
         return cText::Tr("{0}, fällig am {1}: noch nicht gebucht; wird auf den {2} verschoben",

@@ -115,8 +115,8 @@ cImportEntryList cStagedGuide::RowsOf(const QList<int>& ids)
 QString cStagedGuide::AcceptText()
 {
     const qsizetype count = m_parts.Proposals.IsHigh() ? 0 : Sure(m_parts.View.Rows().OpenIds()).size();
-    return count == 0 ? cText::Tr("Alle &Vorschläge annehmen")
-                      : cText::Tr("Alle &Vorschläge annehmen ({0})", {QString::number(count)});
+    return count == 0 ? cText::Tr("&Vorschläge annehmen")
+                      : cText::Tr("&Vorschläge annehmen ({0})", {QString::number(count)});
 }
 
 QString cStagedGuide::SelectionText(const QList<int>& ids, bool isFieldOpen)

@@ -52,7 +52,7 @@ public:
     // Those of the rows that are in the book already or whose proposal is sure. Of a high pile only what was planned.
     [[nodiscard]] QList<int> Sure(const QList<int>& ids);
 
-    // "Alle Vorschläge annehmen (7)": of the rows shown, as far as they are known.
+    // "Vorschläge annehmen (7)": of the rows shown, as far as they are known.
     [[nodiscard]] QString AcceptText();
     // What becomes of the selected rows, or became of them, in one line. With a field that cStop has opened it says
     // what Enter does there.

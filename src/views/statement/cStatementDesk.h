@@ -48,7 +48,7 @@ public:
     };
     // Brings the rows into the book as the review does by Enter, with its questions.
     [[nodiscard]] cBooked Book(const QList<int>& rowIds);
-    // Of the rows what is in the book already or sure, as the review does by "Alle Vorschläge annehmen".
+    // Of the rows what is in the book already or sure, as the review does by "Vorschläge annehmen".
     [[nodiscard]] cBooked Accept(const QList<int>& rowIds);
 
     [[nodiscard]] cMatchFlow& Matching();

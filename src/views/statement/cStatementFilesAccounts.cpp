@@ -4,8 +4,8 @@
 #include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
 #include "store/cDataAccess.h"
+#include "views/ledger/cOpeningBalance.h"
 #include "views/list/modImportText.h"
-#include "views/statement/cOpeningBalance.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <utility>

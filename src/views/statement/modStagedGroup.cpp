@@ -99,8 +99,8 @@ modStagedGroup::cGroups ByCategory(const cImportEntryList& rows, const std::vect
 
 QStringList modStagedGroup::Shown()
 {
-    return {cText::Tr("Keine"), cText::Tr("Nach Empfänger / Auftraggeber"), cText::Tr("Nach Tag"),
-            cText::Tr("Nach Vorschlag"), cText::Tr("Nach Kategorie")};
+    return {cText::Tr("Keine"), cText::Tr("Nach Empfänger"), cText::Tr("Nach Tag"), cText::Tr("Nach Vorschlag"),
+            cText::Tr("Nach Kategorie")};
 }
 
 QString modStagedGroup::Stored(eGrouping grouping)

@@ -38,7 +38,7 @@ struct cLine
 constexpr std::array<cLine, cStagedActions::Count> lines{{
     {QT_TRANSLATE_NOOP("cText", "B&uchen"), u"buchen", Qt::Key_Return, &cCan::Book,
      QT_TRANSLATE_NOOP("cText", "Bucht die markierten Umsätze (Eingabetaste)")},
-    {QT_TRANSLATE_NOOP("cText", "Alle &Vorschläge annehmen"), u"", 0, &cCan::Accept,
+    {QT_TRANSLATE_NOOP("cText", "&Vorschläge annehmen"), u"", 0, &cCan::Accept,
      QT_TRANSLATE_NOOP("cText",
                        "Ordnet zu, was schon im Haushaltsbuch steht, und bucht, was einen sicheren Vorschlag hat")},
     {QT_TRANSLATE_NOOP("cText", "Bearbeiten und buchen…"), u"", Qt::Key_B, &cCan::Edit,
@@ -98,7 +98,8 @@ cStagedActions::cStagedActions(cImportReview& review, cStagedTree& tree, QWidget
 void cStagedActions::Run(eId id)
 {
     const QList<int> ids = m_tree.SelectedIds(); // with the category of its field a row may leave the list
-    const bool isUnsaid = id == Book && m_tree.IsFieldEmpty(); // the proposal was deleted, and nothing put in its place
+    // The proposal was deleted, and nothing put in its place.
+    const bool isUnsaid = (id == Book || id == All) && m_tree.IsFieldEmpty();
     if (!Get(id)->isEnabled() || isUnsaid || !m_tree.LeaveField(id == Book)) {
         return;
     }

@@ -72,8 +72,6 @@ cFlowLayout* cStagedPanel::BuildActions()
         }
     }
     m_bar->addWidget(BuildMore());
-    m_bar->AddStretch();
-    m_bar->addWidget(m_count);
     return m_bar;
 }
 
@@ -93,6 +91,7 @@ QPushButton* cStagedPanel::BuildMore()
     m_more->addAction(m_showTitle);
     auto* more = new QPushButton(cText::Tr("Me&hr"), this);
     more->setAutoDefault(false);
+    more->setFocusPolicy(Qt::TabFocus); // as those beside it
     more->setMenu(m_more);
     return more;
 }
@@ -119,6 +118,8 @@ cFlowLayout* cStagedPanel::BuildView()
     bar->AddField(grouping, m_grouping);
     bar->AddGap(gap);
     bar->AddField(filter, m_filter);
+    bar->AddGap(gap);
+    bar->addWidget(m_count);
     return bar;
 }
 

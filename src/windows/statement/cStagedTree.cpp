@@ -269,6 +269,16 @@ bool cStagedTree::DropField(const QModelIndex& cell)
     return isOwn;
 }
 
+// A press in the list leaves the focus with an open field until it is known what was pressed.
+bool cStagedTree::edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event)
+{
+    const bool isEdited = QTreeView::edit(cell, trigger, event);
+    if (isEdited && state() == EditingState) {
+        viewport()->setFocusProxy(indexWidget(cell));
+    }
+    return isEdited;
+}
+
 // An emptied field confirms nothing, and a text that names no category is asked about first.
 void cStagedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
@@ -280,6 +290,7 @@ void cStagedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHin
     if (box != nullptr) {
         m_field = nullptr;
     }
+    viewport()->setFocusProxy(this);
     QTreeView::closeEditor(editor, hint);
     if (isEnter) {
         setFocus(); // also where the field went when its row moved to another group
@@ -336,6 +347,11 @@ void cStagedTree::GoToCategory()
 // mouse drags, from any other it selects as it goes.
 void cStagedTree::mousePressEvent(QMouseEvent* event)
 {
+    const bool isSameRow = indexAt(event->pos()).siblingAtColumn(0) == currentIndex().siblingAtColumn(0);
+    if (event->button() == Qt::RightButton && state() == EditingState && isSameRow) {
+        return; // the menu is about what the open field holds
+    }
+    setFocus(Qt::MouseFocusReason);
     const QModelIndex head = indexAt(event->pos()).siblingAtColumn(0);
     const QRect line(0, visualRect(head).top(), viewport()->width(), visualRect(head).height());
     if (event->button() == Qt::LeftButton && m_model.IsHead(head)

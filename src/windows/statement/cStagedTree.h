@@ -34,6 +34,8 @@ public:
     // Closes the field of a cell and takes nothing from it. True when it was OpenCategory's.
     bool DropField(const QModelIndex& cell);
 
+    using QTreeView::edit;
+
     void SetEmptyText(const QString& title, const QString& hint);
     [[nodiscard]] QString LayoutText() const;
     void SetLayoutText(const QString& text); // the default columns for a text that does not fit
@@ -53,6 +55,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
+    bool edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -104,7 +104,7 @@ void cCategoryBox::Take(const QString& path)
 void cCategoryBox::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
-    if (!m_isAsking) {
+    if (!m_isAsking && event->reason() != Qt::PopupFocusReason) { // behind a menu the input goes on
         Settle();
     }
 }

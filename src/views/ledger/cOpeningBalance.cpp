@@ -1,4 +1,4 @@
-#include "views/statement/cOpeningBalance.h"
+#include "views/ledger/cOpeningBalance.h"
 
 #include "base/cText.h"
 #include "base/modDate.h"
