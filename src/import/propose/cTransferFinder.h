@@ -23,7 +23,9 @@ public:
         QString Other;         // account of its counterparty
         int PartnerRow = 0;    // open row with the opposite amount; 0 when there is none
         QDate PartnerDay;      // of that row; invalid when there is none
-        int ExistingEntry = 0; // transfer in the book whose second row this is; 0 when there is none
+        int ExistingEntry = 0; // in the book, whose second row this is; 0 when there is none
+        QString BookedAs;      // what that entry is as long as it is no transfer; empty otherwise
+        bool IsElsewhere = false; // the other row was booked as something that cannot become this transfer
     };
 
     cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
@@ -39,8 +41,10 @@ private:
     void Build();
     void FindPartner(const cImportEntry& row, cTransfer& transfer);
     [[nodiscard]] bool IsPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer);
-    // The entry that `other` was booked to, when it is this transfer and waits for its second row.
-    [[nodiscard]] int HalfTransfer(const cImportEntry& other, const cTransfer& transfer);
+    // False when `other` has its second row already, or may be meant for somebody else.
+    [[nodiscard]] bool HasTaken(const cImportEntry& other, cTransfer& transfer);
+    [[nodiscard]] bool IsHalf(const cImportEntry& other);
+    [[nodiscard]] bool CanBecome(const cTransfer& transfer, const cEntryItem& entry, const cImportEntry& other);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;

@@ -190,7 +190,8 @@ QString modImportText::Reason(const cRowPlan& plan)
         return cText::Tr("passt zu {0}", {Candidate(*plan.Match)});
     }
     const QString reason = plan.Reason.isEmpty() ? cText::Tr("keine Regel passt") : plan.Reason;
-    return plan.Proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
+    const bool isSaid = plan.Proposal.ExistingEntry == 0 || !plan.Proposal.BookedAs.isEmpty();
+    return isSaid ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
 }
 
 QString modImportText::Group(eRowGroup group)

@@ -123,7 +123,8 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
     }
     if (!choice.Interval.isEmpty() && choice.Interval != plan.Proposal.Entry.EntryInterval) {
         plan.Proposal.Entry.EntryInterval = choice.Interval;
-        plan.Proposal.ExistingEntry = 0; // the series that it belonged to has another interval
+        // The series that it belonged to has another interval; an entry that becomes a transfer gets it.
+        plan.Proposal.ExistingEntry = plan.Proposal.BookedAs.isEmpty() ? 0 : plan.Proposal.ExistingEntry;
     }
     if (!choice.Description.isEmpty()) {
         plan.Proposal.Entry.EntryDescription = choice.Description;
