@@ -315,6 +315,12 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
             proposal.Entry.EntryInterval = modWord::Einmalig;
             proposal.IsSure = false;
         }
+        if (proposal.ExistingEntry == 0 && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
+            && m_knowledge->Series.IsTakenBack(row)) {
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+            proposal.IsSure = false;
+            proposal.Reason = cText::Tr("der Betrag wurde zurückgebucht, daher keine Serie");
+        }
     }
     return proposal;
 }
