@@ -43,7 +43,7 @@ struct cBank : cImportBook
     QHash<int, cRowPlan> Make(const QList<int>& rows)
     {
         cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts, [](int id) { return id; }}).Make(rows, progress);
+        return cImportPlan({Data, Hive, Accounts, [](int id) { return modStagedTwins::cFile{id}; }}).Make(rows, progress);
     }
 
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }

@@ -66,7 +66,7 @@ cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
     connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
     connect(&Files(), &cStatementFiles::AccountsAsked, this, &cImportReview::ReportAccounts);
     connect(&Files(), &cStatementFiles::FileStaged, this,
-            [this](const QList<int>& ids) { m_works->Runs.NoteFile(ids); });
+            [this](const QList<int>& ids, eStatementFormat format) { m_works->Runs.NoteFile(ids, format); });
     connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);
     connect(&Files(), &cStatementFiles::MoreStaged, this, [this](const QList<int>& ids) {
         m_works->Runs.NoteMore(ids);
