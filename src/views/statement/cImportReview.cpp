@@ -372,13 +372,17 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
     if (!MayEdit(plan)) {
         return;
     }
+    cProposal proposal = plan.Proposal;
+    if (!proposal.BookedAs.isEmpty()) {
+        proposal.MakeSpent(rows.constFirst(), m_works->Accounts.AccountOf(rows.constFirst().ImportAccount)); // beside it
+    }
     cEntryEditor editor(m_tools);
     const auto assign = [this, &plan](int entryId) {
         const bool hasPartner = plan.Proposal.PartnerRow != 0 && !OpenRows({plan.Proposal.PartnerRow}).isEmpty();
         return m_works->Booking.Assign(plan.RowId, entryId)
             && (!hasPartner || m_works->Booking.Assign(plan.Proposal.PartnerRow, entryId));
     };
-    Q_EMIT EditorWanted(editor, editor.StartFrom(plan.Proposal.Entry, assign));
+    Q_EMIT EditorWanted(editor, editor.StartFrom(proposal.Entry, assign));
     if (editor.SavedId() == 0) {
         return;
     }
