@@ -43,7 +43,8 @@ struct cBank : cImportBook
     QHash<int, cRowPlan> Make(const QList<int>& rows)
     {
         cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts, [](int id) { return modStagedTwins::cFile{id}; }}).Make(rows, progress);
+        return cImportPlan({Data, Hive, Accounts, [](int id) { return modStagedTwins::cFile{id}; }})
+            .Make(rows, progress);
     }
 
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }
@@ -192,7 +193,8 @@ private Q_SLOTS:
             const int in = bank.Stage(day.addDays(days + 2), 20000, u"Ich"_s, u"111"_s, u"222"_s);
             booked.append(isDebitFirst ? out : in);
             open.append(isDebitFirst ? in : out);
-            cImportEntry row = bank.Hive.GetImportHive().GetImportEntryByID(booked.constLast()).value_or(cImportEntry());
+            cImportEntry row =
+                bank.Hive.GetImportHive().GetImportEntryByID(booked.constLast()).value_or(cImportEntry());
             cEntryItem entry;
             entry.EntryDate = row.ImportDate;
             entry.EntryValue = 20000;

@@ -39,7 +39,8 @@ struct cPlace
 using itPlace = std::vector<cPlace>::const_iterator;
 
 // The first place from `first` on of which the field is another.
-template <typename T> itPlace EndOf(itPlace first, itPlace end, T cPlace::*field)
+template <typename T>
+itPlace EndOf(itPlace first, itPlace end, T cPlace::*field)
 {
     return std::find_if(first, end, [&](const cPlace& place) { return place.*field != (*first).*field; });
 }

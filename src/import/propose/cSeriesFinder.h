@@ -6,8 +6,8 @@
 
 #include <QDate>
 #include <QHash>
-#include <QMap>
 #include <QList>
+#include <QMap>
 #include <QSet>
 #include <QString>
 

@@ -142,8 +142,7 @@ bool cTransferFinder::HasTaken(const cImportEntry& other, cTransfer& transfer)
 bool cTransferFinder::IsHalf(const cImportEntry& other)
 {
     const cImportHive& hive = m_hive.GetImportHive(eKeepCache::Yes);
-    return hive
-               .GetImportEntryByArea(other.ImportAssignedEntry, other.ImportDate.addDays(-farthestDays),
+    return hive.GetImportEntryByArea(other.ImportAssignedEntry, other.ImportDate.addDays(-farthestDays),
                                      other.ImportDate.addDays(farthestDays))
                .size()
         == 1;

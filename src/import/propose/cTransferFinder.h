@@ -11,6 +11,7 @@
 
 class cAccountMap;
 class cDataAccess;
+struct cEntryItem;
 class cImportHiveCache;
 
 // Finds transactions between two own accounts, and the row that the other account's statement holds for them.
@@ -19,12 +20,12 @@ class cTransferFinder
 public:
     struct cTransfer
     {
-        QString Own;           // account of the row
-        QString Other;         // account of its counterparty
-        int PartnerRow = 0;    // open row with the opposite amount; 0 when there is none
-        QDate PartnerDay;      // of that row; invalid when there is none
-        int ExistingEntry = 0; // in the book, whose second row this is; 0 when there is none
-        QString BookedAs;      // what that entry is as long as it is no transfer; empty otherwise
+        QString Own;              // account of the row
+        QString Other;            // account of its counterparty
+        int PartnerRow = 0;       // open row with the opposite amount; 0 when there is none
+        QDate PartnerDay;         // of that row; invalid when there is none
+        int ExistingEntry = 0;    // in the book, whose second row this is; 0 when there is none
+        QString BookedAs;         // what that entry is as long as it is no transfer; empty otherwise
         bool IsElsewhere = false; // the other row was booked as something that cannot become this transfer
     };
 

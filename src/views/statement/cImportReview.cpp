@@ -373,8 +373,9 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
         return;
     }
     cProposal proposal = plan.Proposal;
-    if (!proposal.BookedAs.isEmpty()) {
-        proposal.MakeSpent(rows.constFirst(), m_works->Accounts.AccountOf(rows.constFirst().ImportAccount)); // beside it
+    if (!proposal.BookedAs.isEmpty()) { // the entry stays what it is beside a new one
+        const cImportEntry& row = rows.constFirst();
+        proposal.MakeSpent(row, m_works->Accounts.AccountOf(row.ImportAccount));
     }
     cEntryEditor editor(m_tools);
     const auto assign = [this, &plan](int entryId) {

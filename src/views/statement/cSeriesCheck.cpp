@@ -61,7 +61,8 @@ QDate Earlier(QDate first, QDate second)
 QDate DayToMoveTo(const QString& interval, QDate planned, QDate lastCovered, QDate today)
 {
     const QDate second = modRecurrence::Next(modRecurrence::Next(planned, interval), interval);
-    return second.addDays(modOccurrence::Reach(interval)) <= lastCovered ? QDate() : std::max(lastCovered, today).addDays(1);
+    return second.addDays(modOccurrence::Reach(interval)) <= lastCovered ? QDate()
+                                                                         : std::max(lastCovered, today).addDays(1);
 }
 
 } // namespace
