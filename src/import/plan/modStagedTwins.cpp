@@ -8,10 +8,10 @@
 #include <QSet>
 
 #include <algorithm>
-#include <compare>
 #include <iterator>
 #include <optional>
 #include <set>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -33,14 +33,17 @@ struct cPlace
     qint64 Day = 0;
     int Row = 0;
 
-    auto operator<=>(const cPlace&) const = default;
+    bool operator<(const cPlace& other) const
+    {
+        return std::tie(Hash, Day, Row) < std::tie(other.Hash, other.Day, other.Row);
+    }
 };
 
 using itPlace = std::vector<cPlace>::const_iterator;
 
 // The first place from `first` on of which the field is another.
-template <typename T>
-itPlace EndOf(itPlace first, itPlace end, T cPlace::*field)
+template <typename tField>
+itPlace EndOf(itPlace first, itPlace end, tField cPlace::*field)
 {
     return std::find_if(first, end, [&](const cPlace& place) { return place.*field != (*first).*field; });
 }
@@ -203,7 +206,7 @@ public:
         m_told.clear();
         for (itPlace place = first; end - first > 1 && place != end; ++place) {
             const cImportEntry& row = m_rows.at(place->Row);
-            m_told.push_back({&row, place->Day, m_lookups.FileOf(row.ID).Kind});
+            m_told.push_back({&row, place->Day, m_lookups.FileOf(row.ID).Kind, {}});
         }
         const bool isOneKind =
             std::all_of(m_told.begin(), m_told.end(), [&](const cTold& told) { return told.Kind == m_told[0].Kind; });
@@ -229,6 +232,7 @@ private:
         const cImportEntry* Row = nullptr;
         qint64 Day = 0;
         QChar Kind;
+        std::optional<QString> Others; // kinds that tell it of the same day
     };
     struct cPair
     {
@@ -239,7 +243,7 @@ private:
     };
 
     // The nearest first.
-    [[nodiscard]] std::vector<cPair> Pairs() const
+    [[nodiscard]] std::vector<cPair> Pairs()
     {
         std::vector<cPair> pairs;
         for (std::size_t i = 0; i < m_told.size(); ++i) {
@@ -254,24 +258,32 @@ private:
         return pairs;
     }
 
-    [[nodiscard]] std::optional<eSame> Same(const cTold& a, const cTold& b) const
+    // The texts, which take longer, come last.
+    [[nodiscard]] std::optional<eSame> Same(cTold& a, cTold& b) const
     {
         const bool isOpen = !a.Row->ImportAssigned || !b.Row->ImportAssigned;
-        if (!isOpen || a.Day == b.Day || a.Kind.isNull() || b.Kind.isNull() || a.Kind == b.Kind
-            || !ArePurposesAlike(*a.Row, *b.Row) || IsToldBy(a, b.Kind) || IsToldBy(b, a.Kind)) {
+        if (!isOpen || a.Day == b.Day || a.Kind.isNull() || b.Kind.isNull() || a.Kind == b.Kind || IsToldBy(a, b.Kind)
+            || IsToldBy(b, a.Kind)) {
             return std::nullopt;
         }
-        return Compare(*a.Row, *b.Row);
+        const std::optional<eSame> same = Compare(*a.Row, *b.Row);
+        return same && ArePurposesAlike(*a.Row, *b.Row) ? same : std::nullopt;
     }
 
-    // The other format has it on the same day.
-    [[nodiscard]] bool IsToldBy(const cTold& told, QChar kind) const
+    [[nodiscard]] bool IsToldBy(cTold& told, QChar kind) const
     {
-        const auto [first, end] = std::equal_range(m_told.begin(), m_told.end(), told,
-                                                   [](const cTold& a, const cTold& b) { return a.Day < b.Day; });
-        return std::any_of(first, end, [&](const cTold& other) {
-            return other.Kind == kind && Compare(*told.Row, *other.Row).has_value();
-        });
+        if (!told.Others) {
+            told.Others = QString();
+            const auto [first, end] = std::equal_range(m_told.begin(), m_told.end(), told,
+                                                       [](const cTold& a, const cTold& b) { return a.Day < b.Day; });
+            for (auto other = first; other != end; ++other) {
+                if (other->Kind != told.Kind && !told.Others->contains(other->Kind)
+                    && Compare(*told.Row, *other->Row)) {
+                    told.Others->append(other->Kind);
+                }
+            }
+        }
+        return told.Others->contains(kind);
     }
 
     static void Note(const cImportEntry& row, const cImportEntry& other, const cPair& pair, QHash<int, cTwin>& twins)
