@@ -16,6 +16,7 @@ struct cProposal
     int PartnerRow = 0;     // the other staged row of a transfer between own accounts; 0 when there is none
     int ExistingEntry = 0;  // entry in the book that the row belongs to (its series, or the transfer that waits for its
                             // second row); 0 when a new one is to be made
+    QString BookedAs;       // what that entry is as long as it is not the transfer that it becomes; else empty
     bool IsAlone = false;   // a new entry is wanted, also where a series would take the row
 
     // The transfer is none: the row is an expense or an income of its own account.
@@ -26,5 +27,6 @@ struct cProposal
         Entry.EntryAccountMove.clear();
         Entry.EntryDate = row.ImportDate; // that of a transfer may be the other account's
         PartnerRow = ExistingEntry = 0;
+        BookedAs.clear();
     }
 };

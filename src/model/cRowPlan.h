@@ -11,7 +11,7 @@
 // be booked unseen ("sicher"), or somebody should look at it ("bitte ansehen").
 enum class eRowGroup { InBook, Sure, Look };
 
-// Another row that may be the same transaction, and what they have in common beside day and amount: the counterparty's
+// Another row that may be the same transaction, and what they have in common beside the amount: the counterparty's
 // account, or a similar name.
 struct cRowTwin
 {
@@ -19,6 +19,7 @@ struct cRowTwin
 
     int RowId = 0;
     eSame Same = eSame::Counterparty;
+    int Days = 0; // from this row to the other one; negative: that one is earlier
 };
 
 // What one look at the open rows and the book says of one of them.

@@ -318,19 +318,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<QList<int>>("same"); // days after the row on which the payee is paid again
         QTest::addColumn<QList<int>>("others");
+        QTest::addColumn<QList<int>>("back"); // on which the amount goes the other way
         QTest::addColumn<QString>("interval");
-        QTest::newRow("the only row") << QList<int>{} << QList<int>{} << u"Monatlich"_s;
-        QTest::newRow("a month later again") << QList<int>{33} << QList<int>{90} << u"Monatlich"_s;
-        QTest::newRow("a month before") << QList<int>{-31} << QList<int>{90} << u"Monatlich"_s;
-        QTest::newRow("never again") << QList<int>{} << QList<int>{20, 60} << u"Einmalig"_s;
-        QTest::newRow("not to be known yet") << QList<int>{} << QList<int>{20, 40} << u"Monatlich"_s;
-        QTest::newRow("every week or so") << QList<int>{8, 30} << QList<int>{} << u"Einmalig"_s;
+        QTest::newRow("the only row") << QList<int>{} << QList<int>{} << QList<int>{} << u"Monatlich"_s;
+        QTest::newRow("a month later again") << QList<int>{33} << QList<int>{90} << QList<int>{} << u"Monatlich"_s;
+        QTest::newRow("a month before") << QList<int>{-31} << QList<int>{90} << QList<int>{} << u"Monatlich"_s;
+        QTest::newRow("never again") << QList<int>{} << QList<int>{20, 60} << QList<int>{} << u"Einmalig"_s;
+        QTest::newRow("not to be known yet") << QList<int>{} << QList<int>{20, 40} << QList<int>{} << u"Monatlich"_s;
+        QTest::newRow("every week or so") << QList<int>{8, 30} << QList<int>{} << QList<int>{} << u"Einmalig"_s;
+        QTest::newRow("returned") << QList<int>{31} << QList<int>{} << QList<int>{10} << u"Einmalig"_s;
+        QTest::newRow("paid once more") << QList<int>{31} << QList<int>{} << QList<int>{-2} << u"Einmalig"_s;
+        QTest::newRow("another matter") << QList<int>{31} << QList<int>{} << QList<int>{11} << u"Monatlich"_s;
     }
 
     void KeywordsAloneMakeNoSeries()
     {
         QFETCH(const QList<int>, same);
         QFETCH(const QList<int>, others);
+        QFETCH(const QList<int>, back);
         cBank bank;
         const int row = bank.Stage(day, -650, u"Miete Tann"_s, u"DE05"_s);
         for (const int days : same) {
@@ -338,6 +343,9 @@ private Q_SLOTS:
         }
         for (const int days : others) {
             (void)bank.Stage(day.addDays(days), -5, u"REWE"_s);
+        }
+        for (const int days : back) {
+            (void)bank.Stage(day.addDays(days), 650, u"Miete Tann"_s, u"DE05"_s);
         }
         QTEST(bank.Propose(row).Entry.EntryInterval, "interval");
     }

@@ -1,9 +1,12 @@
 #include "cImportBook.h"
 #include "import/plan/cImportPlan.h"
 #include "import/stage/cStaging.h"
+#include "model/modSplit.h"
 #include "support/cTestClass.h"
 
 #include <QTest>
+
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,7 +43,8 @@ struct cBank : cImportBook
     QHash<int, cRowPlan> Make(const QList<int>& rows)
     {
         cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts, [](int id) { return id; }}).Make(rows, progress);
+        return cImportPlan({Data, Hive, Accounts, [](int id) { return modStagedTwins::cFile{id}; }})
+            .Make(rows, progress);
     }
 
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }
@@ -49,12 +53,16 @@ struct cBank : cImportBook
     bool IsReady = false;
 };
 
+using fnChange = std::function<void(cEntryItem&, cImportEntry&)>;
+
 int MatchOf(const cRowPlan& plan)
 {
     return plan.Match ? plan.Match->Entry.ID : 0;
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(fnChange)
 
 class testImportPlan final : public QObject
 {
@@ -145,6 +153,76 @@ private Q_SLOTS:
         QCOMPARE(plans.value(in).Proposal.PartnerRow, entry == 0 ? out : plans.value(in).Proposal.PartnerRow);
         if (entry == 0) {
             QCOMPARE(plans.value(in).Proposal.Entry.EntryDate, day); // the money leaves first
+        }
+    }
+
+    void TurnsWhatTheOtherSideWasBookedAs_data()
+    {
+        QTest::addColumn<bool>("isDebitFirst");
+        QTest::addColumn<fnChange>("change"); // of what was booked, and its row
+        QTest::addColumn<bool>("isTurned");
+        const auto add = [](const char* name, bool isTurned, const fnChange& change) {
+            QTest::newRow(name) << true << change << isTurned;
+        };
+        add("as booked", true, [](auto&, auto&) {});
+        QTest::newRow("the credit first") << false << fnChange([](auto&, auto&) {}) << true;
+        QTest::newRow("the credit first, moved by hand")
+            << false << fnChange([](auto& entry, auto&) { entry.EntryDate = day.addMonths(-1); }) << false;
+        add("another amount", false, [](auto& entry, auto&) { entry.EntryValue = 19900; });
+        add("a series", false, [](auto& entry, auto&) { entry.EntryInterval = u"Monatlich"_s; });
+        add("another account", false, [](auto& entry, auto&) { entry.EntryAccount = u"Bargeld"_s; });
+        add("another transfer", false, [](auto& entry, auto&) {
+            entry.EntryType = modWord::Umbuchung;
+            entry.EntryAccountMove = u"Bargeld"_s;
+        });
+        add("a part of a purchase", false, [](auto& entry, auto&) { modSplit::SetGroup(entry, 7); });
+        add("perhaps somebody else's", false, [](auto&, auto& row) { row.ImportBeneficiaryAccount.clear(); });
+    }
+
+    // The first statement was booked while nobody knew that the other number is an own account too.
+    void TurnsWhatTheOtherSideWasBookedAs()
+    {
+        QFETCH(const bool, isDebitFirst);
+        QFETCH(const fnChange, change);
+        QFETCH(const bool, isTurned);
+        cBank bank;
+        QList<int> booked;
+        QList<int> open;
+        for (const int days : {0, 3}) {
+            const int out = bank.Stage(day.addDays(days), -20000, u"Ich"_s, u"222"_s);
+            const int in = bank.Stage(day.addDays(days + 2), 20000, u"Ich"_s, u"111"_s, u"222"_s);
+            booked.append(isDebitFirst ? out : in);
+            open.append(isDebitFirst ? in : out);
+            cImportEntry row =
+                bank.Hive.GetImportHive().GetImportEntryByID(booked.constLast()).value_or(cImportEntry());
+            cEntryItem entry;
+            entry.EntryDate = row.ImportDate;
+            entry.EntryValue = 20000;
+            entry.EntryType = isDebitFirst ? modWord::Ausgabe : modWord::Einnahme;
+            entry.EntryAccount = isDebitFirst ? u"Girokonto"_s : u"Sparkonto"_s;
+            entry.EntryInterval = modWord::Einmalig;
+            entry.EntryCategory = u"A"_s;
+            change(entry, row);
+            QVERIFY(bank.Hive.Change(row));
+            QCOMPARE(cImportBook::BookAs(bank.Booking, row.ID, entry).Rows, 1);
+        }
+        const QHash<int, cRowPlan> plans = bank.Make(open);
+        QHash<int, cProposal> proposals;
+        for (const int row : std::as_const(open)) {
+            QCOMPARE(plans.value(row).Group, isTurned ? eRowGroup::InBook : eRowGroup::Look);
+            QCOMPARE(plans.value(row).Proposal.Entry.EntryType == modWord::Umbuchung, isTurned);
+            QVERIFY(plans.value(row).Reason.startsWith(u"die Gegenbuchung steht"_s));
+            proposals.insert(row, plans.value(row).Proposal);
+        }
+        cNoProgress progress;
+        QCOMPARE(bank.Booking.Book(open, proposals, progress).Joined, isTurned ? 2 : 0);
+        for (int i = 0; isTurned && i < 2; ++i) {
+            const cImportEntry row = bank.Hive.GetImportHive().GetImportEntryByID(open.at(i)).value_or(cImportEntry());
+            const cEntryItem entry = bank.Data.LoadEntry(row.ImportAssignedEntry).value_or(cEntryItem());
+            QCOMPARE(QStringList({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, entry.EntryCategory}),
+                     QStringList({modWord::Umbuchung, u"Girokonto"_s, u"Sparkonto"_s, u"A"_s}));
+            QCOMPARE(entry.EntryDate, day.addDays(qint64{3} * i));
+            QCOMPARE(bank.Hive.GetImportHive().GetImportEntriesByAssignedID(entry.ID).size(), 2);
         }
     }
 

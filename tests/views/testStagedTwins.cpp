@@ -1,5 +1,6 @@
 #include "core/cSettings.h"
 #include "import/plan/modStagedTwins.h"
+#include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/statement/cImportRuns.h"
@@ -12,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+using modStagedTwins::cFile;
 using fnChange = std::function<void(cImportEntry&)>;
 
 // What a bank writes in one format.
@@ -26,6 +28,11 @@ cImportEntry First()
     row.ImportPurpose = u"Abschlag März"_s;
     row.ImportValue = -8450;
     return row;
+}
+
+cFile FileOf(int id)
+{
+    return id < 5 ? cFile{1, u'm'} : id < 20 ? cFile{2, u'c'} : cFile{3, u'm'};
 }
 
 } // namespace
@@ -50,6 +57,24 @@ private Q_SLOTS:
         add("another own account", 0, [](auto& row) { row.ImportAccount = u"99"_s; });
         add("another counterparty", 0, [](auto& row) { row.ImportBeneficiaryAccount = u"202052"_s; });
         add("another day", 0, [](auto& row) { row.ImportDate = row.ImportDate.addDays(1); });
+        add("the same on another day", 1, [](auto& row) {
+            row.ImportDate = row.ImportDate.addDays(4);
+            row.ImportPurpose = u"ABSCHLAG MAERZ Kd. 17"_s;
+        });
+        add("no account, the same on another day", 2, [](auto& row) {
+            row.ImportDate = row.ImportDate.addDays(-1);
+            row.ImportBeneficiaryAccount.clear();
+            row.ImportPurpose = First().ImportPurpose;
+        });
+        add("too many days away", 0, [](auto& row) {
+            row.ImportDate = row.ImportDate.addDays(5);
+            row.ImportPurpose = First().ImportPurpose;
+        });
+        add("the same on another day in the same format", 0, [](auto& row) {
+            row.ID = 30;
+            row.ImportDate = row.ImportDate.addDays(2);
+            row.ImportPurpose = First().ImportPurpose;
+        });
         add("another amount", 0, [](auto& row) { row.ImportValue = -8451; });
         add("the other way round", 0, [](auto& row) { row.ImportValue = 8450; });
         add("no account, a name that is cut off", 2, [](auto& row) {
@@ -80,10 +105,36 @@ private Q_SLOTS:
         const auto twins = modStagedTwins::Find(
             {First(), other},
             {.AccountOf = [](const QString& number) { return number.endsWith(u"4711000815") ? u"Giro"_s : QString(); },
-             .FileOf = [](int id) { return id < 5 ? 1 : 2; }});
+             .FileOf = FileOf});
         const auto twin = twins.constFind(1);
         QCOMPARE(twin == twins.constEnd() ? 0 : twin->Same == modStagedTwins::eSame::Counterparty ? 1 : 2, Found);
         QCOMPARE(twins.contains(other.ID), Found != 0);
+    }
+
+    // Two payments that are alike, of which the first file has only the one.
+    void EachBookingHasOneTwin_data()
+    {
+        QTest::addColumn<int>("Days"); // from the booking to its twin
+        QTest::addColumn<int>("Twin"); // of the booking, when it is told of another day
+        QTest::newRow("the same day") << 0 << 0;
+        QTest::newRow("another day") << 1 << 10;
+    }
+
+    void EachBookingHasOneTwin()
+    {
+        QFETCH(const int, Days);
+        QFETCH(const int, Twin);
+        cImportEntry same = First();
+        same.ID = 10;
+        same.ImportDate = same.ImportDate.addDays(Days);
+        cImportEntry next = same;
+        next.ID = 11;
+        next.ImportDate = next.ImportDate.addDays(2);
+        const auto twins = modStagedTwins::Find(
+            {First(), same, next}, {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
+        QCOMPARE(twins.value(1).RowId, Twin);
+        QCOMPARE(twins.value(1).Days, Days);
+        QVERIFY(!twins.contains(next.ID));
     }
 
     void ABookedRowIsNotMarkedButNamed()
@@ -98,7 +149,7 @@ private Q_SLOTS:
         third.ImportPurpose = u"y"_s;
         const auto twins = modStagedTwins::Find(
             {open, third, booked},
-            {.AccountOf = [](const QString& number) { return number; }, .FileOf = [](int) { return 0; }});
+            {.AccountOf = [](const QString& number) { return number; }, .FileOf = [](int) { return cFile(); }});
         QCOMPARE(twins.size(), 2);
         QCOMPARE(twins.value(1).RowId, 9); // rather than the other open one
     }
@@ -110,12 +161,12 @@ private Q_SLOTS:
         cImportRuns runs(*book.Settings);
         QVERIFY(runs.Latest().IsEmpty());
         runs.NoteImport({1, 2, 3});
-        runs.NoteFile({4, 5});
-        runs.NoteFile({});
-        runs.NoteFile({6});
+        runs.NoteFile({4, 5}, eStatementFormat::Camt);
+        runs.NoteFile({}, eStatementFormat::Camt);
+        runs.NoteFile({6}, eStatementFormat::Mt940);
         runs.NoteImport({4, 5, 6});
         QCOMPARE(cImportRuns(*book.Settings).ImportOf(5), (cRange{4, 6}));
-        QCOMPARE(runs.Files(), (QList<cRange>{{1, 3}, {4, 5}, {6, 6}}));
+        QCOMPARE(runs.Files(), (QList<cRange>{{1, 3}, {4, 5, u'c'}, {6, 6, u'm'}}));
         QVERIFY(runs.ImportOf(7).IsEmpty());
         runs.NoteImport({}); // nothing new came
         QCOMPARE(runs.Latest(), (cRange{4, 6}));

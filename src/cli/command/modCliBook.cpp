@@ -67,9 +67,9 @@ int EntryIn(const cRowPlan& plan)
 QString ReasonText(const cRowPlan& plan)
 {
     if (plan.Twin && plan.IsSecond) {
-        return modImportText::TwinReason(plan.Twin->Same);
+        return modImportText::TwinReason(*plan.Twin);
     }
-    if (plan.Match) {
+    if (plan.Match || !plan.Proposal.BookedAs.isEmpty()) {
         return cText::Tr("Eintrag {0}: {1}", {QString::number(EntryIn(plan)), modImportText::Reason(plan)});
     }
     return EntryIn(plan) != 0 ? cText::Tr("gehört zu Eintrag {0}", {QString::number(EntryIn(plan))}) : plan.Reason;

@@ -62,18 +62,6 @@ QString AmountText(const modMatchScore::cEvidence& evidence)
     return evidence.IsOnly ? cText::Tr("einziger Eintrag mit diesem Betrag") : cText::Tr("gleicher Betrag");
 }
 
-QString DayText(int days)
-{
-    const QStringList count{QString::number(std::abs(days))};
-    if (days == 0) {
-        return cText::Tr("gleicher Tag");
-    }
-    if (std::abs(days) == 1) {
-        return days > 0 ? cText::Tr("einen Tag später") : cText::Tr("einen Tag früher");
-    }
-    return days > 0 ? cText::Tr("{0} Tage später", count) : cText::Tr("{0} Tage früher", count);
-}
-
 QString TextText(const modMatchScore::cEvidence& evidence)
 {
     using modMatchScore::eTextMatch;
@@ -89,6 +77,18 @@ QString TextText(const modMatchScore::cEvidence& evidence)
 }
 
 } // namespace
+
+QString modMatchScore::DayText(int days)
+{
+    const QStringList count{QString::number(std::abs(days))};
+    if (days == 0) {
+        return cText::Tr("gleicher Tag");
+    }
+    if (std::abs(days) == 1) {
+        return days > 0 ? cText::Tr("einen Tag später") : cText::Tr("einen Tag früher");
+    }
+    return days > 0 ? cText::Tr("{0} Tage später", count) : cText::Tr("{0} Tage früher", count);
+}
 
 double modMatchScore::Score(const cEvidence& evidence)
 {

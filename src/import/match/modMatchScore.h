@@ -41,6 +41,9 @@ struct cEvidence
 // False when no text could lift the pair over ListAt; its texts need not be compared then.
 [[nodiscard]] bool IsPossible(const cEvidence& evidence);
 
+// "2 Tage später"
+[[nodiscard]] QString DayText(int days);
+
 // For the user: "gleicher Betrag, 2 Tage später, Empfänger stimmt überein".
 [[nodiscard]] QString Reason(const cEvidence& evidence);
 

@@ -4,7 +4,6 @@
 #include "base/cText.h"
 #include "import/match/cMatcher.h"
 #include "import/match/modMatchScore.h"
-#include "import/plan/modStagedTwins.h"
 #include "import/propose/cProposer.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"

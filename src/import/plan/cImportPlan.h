@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/plan/modStagedTwins.h"
 #include "model/cImportEntry.h"
 #include "model/cRowPlan.h"
 
@@ -28,7 +29,7 @@ public:
         cDataAccess& Data;
         cImportHiveCache& Hive;
         const cAccountMap& Accounts;
-        std::function<int(int)> FileOf; // a number for the file that a row came with; 0: not known
+        std::function<modStagedTwins::cFile(int)> FileOf; // by the ID of a row
     };
 
     explicit cImportPlan(const cParts& parts);

@@ -8,24 +8,45 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <set>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace {
 
+using modStagedTwins::cLookups;
 using modStagedTwins::cTwin;
 using modStagedTwins::eSame;
 
 constexpr double similarNames = 0.7;
 constexpr qsizetype shortestPart = 4;  // "AG" is a part of too many names
 constexpr std::size_t mostOthers = 50; // a day with more equal amounts tells nothing about single rows
+constexpr qint64 farthestDays = 4;     // between booking and value: a weekend with a holiday on each side
 
-// Account, day and amount of a row as one number. Rows with the same number are looked at closely.
+// Account and amount of a row as one number, and its day. Rows of which these are the same are looked at closely.
 struct cPlace
 {
     size_t Hash = 0;
+    qint64 Day = 0;
     int Row = 0;
+
+    bool operator<(const cPlace& other) const
+    {
+        return std::tie(Hash, Day, Row) < std::tie(other.Hash, other.Day, other.Row);
+    }
 };
+
+using itPlace = std::vector<cPlace>::const_iterator;
+
+// The first place from `first` on of which the field is another.
+template <typename tField>
+itPlace EndOf(itPlace first, itPlace end, tField cPlace::*field)
+{
+    return std::find_if(first, end, [&](const cPlace& place) { return place.*field != (*first).*field; });
+}
 
 // Some formats fill the place of an account that is not known with zeros.
 bool HasNumber(const QString& account)
@@ -86,37 +107,43 @@ private:
 
 size_t HashOf(const cImportEntry& row, cAccounts& accounts)
 {
-    return qHashMulti(0, accounts.Of(row.ImportAccount), row.ImportDate.toJulianDay(), row.ImportValue);
+    return qHashMulti(0, accounts.Of(row.ImportAccount), row.ImportValue);
 }
 
-// Those of open rows, and of the booked ones on their days: nearly all were booked long ago.
+// Those of open rows, and of the booked ones near their days: nearly all were booked long ago.
 std::vector<cPlace> Places(const cImportEntryList& rows, cAccounts& accounts)
 {
-    QSet<qint64> days;
+    QSet<qint64> open;
     for (const cImportEntry& row : rows) {
         if (!row.ImportAssigned) {
-            days.insert(row.ImportDate.toJulianDay());
+            open.insert(row.ImportDate.toJulianDay());
+        }
+    }
+    QSet<qint64> days;
+    for (const qint64 day : std::as_const(open)) {
+        for (qint64 near = day - farthestDays; near <= day + farthestDays; ++near) {
+            days.insert(near);
         }
     }
     std::vector<cPlace> places;
     for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
-        if (const cImportEntry& row = rows.at(i); days.contains(row.ImportDate.toJulianDay())) {
-            places.push_back({HashOf(row, accounts), i});
+        const cImportEntry& row = rows.at(i);
+        if (const qint64 day = row.ImportDate.toJulianDay(); days.contains(day)) {
+            places.push_back({HashOf(row, accounts), day, i});
         }
     }
-    std::sort(places.begin(), places.end(),
-              [](const cPlace& a, const cPlace& b) { return a.Hash != b.Hash ? a.Hash < b.Hash : a.Row < b.Row; });
+    std::sort(places.begin(), places.end());
     return places;
 }
 
 // The first one of the rows that may be the same transaction; a booked one goes before.
 std::optional<cTwin> TwinOf(const cImportEntry& row, const std::vector<const cImportEntry*>& others,
-                            const modStagedTwins::cLookups& lookups)
+                            const cLookups& lookups)
 {
     std::optional<cTwin> twin;
-    const int file = lookups.FileOf(row.ID);
+    const int file = lookups.FileOf(row.ID).Number;
     for (const cImportEntry* other : others) {
-        const bool isSameFile = file != 0 && lookups.FileOf(other->ID) == file;
+        const bool isSameFile = file != 0 && lookups.FileOf(other->ID).Number == file;
         if (other->ID == row.ID || isSameFile || other->isEqual(row) || other->ImportDate != row.ImportDate
             || other->ImportValue != row.ImportValue) {
             continue;
@@ -132,28 +159,161 @@ std::optional<cTwin> TwinOf(const cImportEntry& row, const std::vector<const cIm
     return twin;
 }
 
+// Of one day.
+void FindOnDay(const cImportEntryList& rows, itPlace first, itPlace end, const cLookups& lookups,
+               QHash<int, cTwin>& twins)
+{
+    std::vector<const cImportEntry*> group;
+    for (itPlace place = first; end - first > 1 && place != end && group.size() < mostOthers; ++place) {
+        group.push_back(&rows.at(place->Row));
+    }
+    for (const cImportEntry* row : group) {
+        const std::optional<cTwin> twin = row->ImportAssigned ? std::nullopt : TwinOf(*row, group, lookups);
+        if (twin) {
+            twins.insert(row->ID, *twin);
+        }
+    }
+}
+
+QString Digits(const QString& text)
+{
+    QString digits;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(digits), [](QChar c) { return c.isDigit(); });
+    return digits;
+}
+
+// Two bills whose words are the same have numbers of their own.
+bool ArePurposesAlike(const cImportEntry& a, const cImportEntry& b)
+{
+    const auto purpose = [](const cImportEntry& row) {
+        return modFold::Fold(modCutText::WholeWords(row).ImportPurpose).Spelled.remove(u' ');
+    };
+    const QString first = purpose(a);
+    const QString second = purpose(b);
+    const QString digits = Digits(first);
+    const QString others = Digits(second);
+    return (digits.contains(others) || others.contains(digits)) && AreNamesAlike(first, second);
+}
+
+// Rows of one account and amount that two formats tell of different days.
+class cShifted
+{
+public:
+    cShifted(const cImportEntryList& rows, const cLookups& lookups) : m_rows(rows), m_lookups(lookups) {}
+
+    void Find(itPlace first, itPlace end, QHash<int, cTwin>& twins)
+    {
+        m_told.clear();
+        for (itPlace place = first; end - first > 1 && place != end; ++place) {
+            const cImportEntry& row = m_rows.at(place->Row);
+            m_told.push_back({&row, place->Day, m_lookups.FileOf(row.ID).Kind, {}});
+        }
+        const bool isOneKind =
+            std::all_of(m_told.begin(), m_told.end(), [&](const cTold& told) { return told.Kind == m_told[0].Kind; });
+        if (isOneKind) {
+            return;
+        }
+        std::set<std::pair<const cImportEntry*, QChar>> taken; // by a row of the other kind
+        for (const cPair& pair : Pairs()) {
+            const cTold& a = m_told[pair.First];
+            const cTold& b = m_told[pair.Second];
+            if (taken.contains({a.Row, b.Kind}) || taken.contains({b.Row, a.Kind})) {
+                continue;
+            }
+            taken.insert({{a.Row, b.Kind}, {b.Row, a.Kind}});
+            Note(*a.Row, *b.Row, pair, twins);
+            Note(*b.Row, *a.Row, pair, twins);
+        }
+    }
+
+private:
+    struct cTold
+    {
+        const cImportEntry* Row = nullptr;
+        qint64 Day = 0;
+        QChar Kind;
+        std::optional<QString> Others; // kinds that tell it of the same day
+    };
+    struct cPair
+    {
+        qint64 Days = 0; // between the two
+        std::size_t First = 0;
+        std::size_t Second = 0;
+        eSame Same = eSame::Counterparty;
+    };
+
+    // The nearest first.
+    [[nodiscard]] std::vector<cPair> Pairs()
+    {
+        std::vector<cPair> pairs;
+        for (std::size_t i = 0; i < m_told.size(); ++i) {
+            const std::size_t end = std::min(m_told.size(), i + mostOthers);
+            for (std::size_t k = i + 1; k < end && m_told[k].Day - m_told[i].Day <= farthestDays; ++k) {
+                if (const std::optional<eSame> same = Same(m_told[i], m_told[k])) {
+                    pairs.push_back({m_told[k].Day - m_told[i].Day, i, k, *same});
+                }
+            }
+        }
+        std::stable_sort(pairs.begin(), pairs.end(), [](const cPair& a, const cPair& b) { return a.Days < b.Days; });
+        return pairs;
+    }
+
+    // The texts, which take longer, come last.
+    [[nodiscard]] std::optional<eSame> Same(cTold& a, cTold& b) const
+    {
+        const bool isOpen = !a.Row->ImportAssigned || !b.Row->ImportAssigned;
+        if (!isOpen || a.Day == b.Day || a.Kind.isNull() || b.Kind.isNull() || a.Kind == b.Kind || IsToldBy(a, b.Kind)
+            || IsToldBy(b, a.Kind)) {
+            return std::nullopt;
+        }
+        const std::optional<eSame> same = Compare(*a.Row, *b.Row);
+        return same && ArePurposesAlike(*a.Row, *b.Row) ? same : std::nullopt;
+    }
+
+    [[nodiscard]] bool IsToldBy(cTold& told, QChar kind) const
+    {
+        if (!told.Others) {
+            told.Others = QString();
+            const auto [first, end] = std::equal_range(m_told.begin(), m_told.end(), told,
+                                                       [](const cTold& a, const cTold& b) { return a.Day < b.Day; });
+            for (auto other = first; other != end; ++other) {
+                if (other->Kind != told.Kind && !told.Others->contains(other->Kind)
+                    && Compare(*told.Row, *other->Row)) {
+                    told.Others->append(other->Kind);
+                }
+            }
+        }
+        return told.Others->contains(kind);
+    }
+
+    static void Note(const cImportEntry& row, const cImportEntry& other, const cPair& pair, QHash<int, cTwin>& twins)
+    {
+        if (!row.ImportAssigned && !twins.contains(row.ID)) {
+            twins.insert(row.ID, {other.ID, pair.Same, static_cast<int>(row.ImportDate.daysTo(other.ImportDate))});
+        }
+    }
+
+    const cImportEntryList& m_rows;
+    const cLookups& m_lookups;
+    std::vector<cTold> m_told; // by day
+};
+
 } // namespace
 
 QHash<int, cTwin> modStagedTwins::Find(const cImportEntryList& rows, const cLookups& lookups)
 {
     QHash<int, cTwin> twins;
     cAccounts accounts(lookups.AccountOf);
+    cShifted shifted(rows, lookups);
     const std::vector<cPlace> places = Places(rows, accounts);
-    for (std::size_t first = 0; first < places.size();) {
-        std::size_t end = first + 1;
-        while (end < places.size() && places[end].Hash == places[first].Hash) {
-            ++end;
+    for (itPlace first = places.begin(); first != places.end();) {
+        const itPlace end = EndOf(first, places.end(), &cPlace::Hash);
+        for (itPlace day = first; day != end;) {
+            const itPlace next = EndOf(day, end, &cPlace::Day);
+            FindOnDay(rows, day, next, lookups, twins);
+            day = next;
         }
-        std::vector<const cImportEntry*> group;
-        for (std::size_t i = first; end - first > 1 && i < end && group.size() < mostOthers; ++i) {
-            group.push_back(&rows.at(places[i].Row));
-        }
-        for (const cImportEntry* row : group) {
-            const std::optional<cTwin> twin = row->ImportAssigned ? std::nullopt : TwinOf(*row, group, lookups);
-            if (twin) {
-                twins.insert(row->ID, *twin);
-            }
-        }
+        shifted.Find(first, end, twins);
         first = end;
     }
     return twins;

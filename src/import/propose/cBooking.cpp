@@ -112,7 +112,7 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     if (proposal.IsAlone) {
         return BookNew(*row, proposal, series, result);
     }
-    if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
+    if (proposal.BookedAs.isEmpty() && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
             if (match->Reopens && !m_data.ChangeEntry(match->Series)) {
                 return eOutcome::Failed;
@@ -122,7 +122,7 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
         }
     } else if (IsJoiningTransfer(proposal)) {
         if (const std::optional<cEntryItem> transfer = m_data.LoadEntry(proposal.ExistingEntry)) {
-            return JoinTransfer(*row, *transfer, result);
+            return JoinTransfer(*row, proposal, *transfer, result);
         }
     }
     return BookNew(*row, proposal, series, result);
@@ -171,15 +171,23 @@ cBooking::eOutcome cBooking::Join(const cImportEntry& row, const cProposal& prop
 }
 
 // A transfer has the day on which the money leaves, also when the row of the other account was there first.
-cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, cEntryItem transfer, cBookingResult& result)
+cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, const cProposal& proposal,
+                                          const cEntryItem& existing, cBookingResult& result)
 {
-    const bool isLeaving = row.ImportValue < 0 && transfer.EntryDate != row.ImportDate
-        && !modRecurrence::IsRecurring(transfer.EntryInterval);
+    cEntryItem transfer = existing;
+    if (row.ImportValue < 0 && !modRecurrence::IsRecurring(transfer.EntryInterval)) {
+        transfer.EntryDate = row.ImportDate;
+    }
+    if (!proposal.BookedAs.isEmpty()) {
+        transfer.EntryType = proposal.Entry.EntryType;
+        transfer.EntryAccount = proposal.Entry.EntryAccount;
+        transfer.EntryAccountMove = proposal.Entry.EntryAccountMove;
+        transfer.EntryInterval = proposal.Entry.EntryInterval;
+    }
     if (!HasAssigned(m_hive, row, transfer.ID)) {
         return eOutcome::Failed;
     }
-    transfer.EntryDate = isLeaving ? row.ImportDate : transfer.EntryDate;
-    if (isLeaving && !m_data.ChangeEntry(transfer)) {
+    if (transfer != existing && !m_data.ChangeEntry(transfer)) {
         return eOutcome::Failed;
     }
     ++result.Rows;

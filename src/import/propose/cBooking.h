@@ -69,7 +69,8 @@ private:
                                    cBookingResult& result);
     [[nodiscard]] eOutcome Join(const cImportEntry& row, const cProposal& proposal, const cSeriesMatch& match,
                                 cBookingResult& result);
-    [[nodiscard]] eOutcome JoinTransfer(const cImportEntry& row, cEntryItem transfer, cBookingResult& result);
+    [[nodiscard]] eOutcome JoinTransfer(const cImportEntry& row, const cProposal& proposal, const cEntryItem& existing,
+                                        cBookingResult& result);
     void AssignPartner(int partnerRow, int entryId, cBookingResult& result);
 
     cDataAccess& m_data;

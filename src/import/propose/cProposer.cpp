@@ -209,8 +209,24 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
     }
     proposal.PartnerRow = transfer.PartnerRow;
     proposal.ExistingEntry = transfer.ExistingEntry;
+    proposal.BookedAs = transfer.BookedAs;
     proposal.Reason = isOutgoing ? cText::Tr("eigenes Konto: an {0}", {transfer.Other})
                                  : cText::Tr("eigenes Konto: von {0}", {transfer.Other});
+}
+
+// The other side of the transfer stands in the book as income or expense: a new transfer would move the money twice.
+void TakeBooked(cProposal& proposal, const cTransferFinder::cTransfer& transfer, const cImportEntry& row)
+{
+    if (transfer.IsElsewhere) {
+        proposal.MakeSpent(row, transfer.Own);
+        proposal.IsSure = false;
+        proposal.Reason = cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch");
+    } else if (!transfer.BookedAs.isEmpty()) {
+        proposal.Entry.EntryInterval = modWord::Einmalig;
+        proposal.Reason = transfer.BookedAs == modWord::Ausgabe
+            ? cText::Tr("die Gegenbuchung steht als Ausgabe im Buch, daraus wird die Umbuchung")
+            : cText::Tr("die Gegenbuchung steht als Einnahme im Buch, daraus wird die Umbuchung");
+    }
 }
 
 // One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to
@@ -288,6 +304,9 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     if (own != nullptr) {
         TakeOwnRule(proposal, *own);
     }
+    if (transfer) {
+        TakeBooked(proposal, *transfer, row);
+    }
     if (proposal.ExistingEntry == 0) {
         if (const std::optional<cSeriesMatch> match = m_knowledge->Series.Find(row, proposal.Entry)) {
             proposal.ExistingEntry = match->Series.ID;
@@ -295,6 +314,12 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
             // Its series has had its payment, so this is something beside it: a second series is hardly ever meant.
             proposal.Entry.EntryInterval = modWord::Einmalig;
             proposal.IsSure = false;
+        }
+        if (proposal.ExistingEntry == 0 && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
+            && m_knowledge->Series.IsTakenBack(row)) {
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+            proposal.IsSure = false;
+            proposal.Reason = cText::Tr("der Betrag wurde zurückgebucht, daher keine Serie");
         }
     }
     return proposal;

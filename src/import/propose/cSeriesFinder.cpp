@@ -52,7 +52,7 @@ void cSeriesFinder::BuildDays()
     for (const cImportEntry& row : rows) {
         if (const QString key = keys.Of(row); !key.isEmpty() && row.ImportDate.isValid()) {
             cDays& days = m_days[key][row.ImportAccount];
-            (row.ImportValue < 0 ? days.Out : days.In).append(row.ImportDate);
+            (row.ImportValue < 0 ? days.Out : days.In).insert(row.ImportDate, row.ImportValue);
         }
         QDate& last = m_lastDays[row.ImportAccount];
         last = last.isValid() ? std::max(last, row.ImportDate) : row.ImportDate;
@@ -121,16 +121,36 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
     return match;
 }
 
-bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
+cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)
 {
     if (!m_hasDays) {
         BuildDays();
     }
+    return m_days.value(modCounterparty::Key(row)).value(row.ImportAccount);
+}
+
+bool cSeriesFinder::IsTakenBack(const cImportEntry& row)
+{
+    constexpr int farthestDays = 10; // a returned direct debit takes the bank a week
+    const cDays known = DaysOf(row);
+    const cPayments& back = row.ImportValue < 0 ? known.In : known.Out;
+    const QDate last = row.ImportDate.addDays(farthestDays);
+    for (auto day = back.lowerBound(row.ImportDate.addDays(-farthestDays)); day != back.end() && day.key() <= last;
+         ++day) {
+        if (*day == -row.ImportValue) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
+{
+    const cDays known = DaysOf(row);
     const int reach = modOccurrence::Reach(interval);
     const QDate next = modRecurrence::Next(row.ImportDate, interval);
     const qint64 step = row.ImportDate.daysTo(next);
-    const cDays known = m_days.value(modCounterparty::Key(row)).value(row.ImportAccount);
-    const QList<QDate>& days = row.ImportValue < 0 ? known.Out : known.In;
+    const QList<QDate> days = (row.ImportValue < 0 ? known.Out : known.In).keys();
     bool hasNeighbour = false;
     for (const QDate day : days) {
         const qint64 distance = std::abs(row.ImportDate.daysTo(day));

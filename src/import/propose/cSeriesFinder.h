@@ -7,6 +7,7 @@
 #include <QDate>
 #include <QHash>
 #include <QList>
+#include <QMap>
 #include <QSet>
 #include <QString>
 
@@ -42,15 +43,20 @@ public:
     // another lies half an interval away, or none follows, nor goes before, where the account's rows go on.
     [[nodiscard]] bool IsContradicted(const cImportEntry& row, const QString& interval);
 
+    // True when the same amount went the other way some days before or after, as with a direct debit that was returned.
+    [[nodiscard]] bool IsTakenBack(const cImportEntry& row);
+
 private:
+    using cPayments = QMultiMap<QDate, qint64>; // with their cents
     struct cDays
     {
-        QList<QDate> In;
-        QList<QDate> Out; // what comes back is another matter
+        cPayments In;
+        cPayments Out; // what comes back is another matter
     };
 
     void Build();
     void BuildDays();
+    [[nodiscard]] cDays DaysOf(const cImportEntry& row);
     [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
@@ -63,6 +69,6 @@ private:
     QHash<QString, QSet<int>> m_entries; // counterparty to the IDs of its series
     QHash<int, cEntryItem> m_series;     // by ID
     bool m_hasDays = false;
-    QHash<QString, QHash<QString, cDays>> m_days; // counterparty and own account number to the days of its rows
+    QHash<QString, QHash<QString, cDays>> m_days; // counterparty and own account number to its rows
     QHash<QString, QDate> m_lastDays;             // own account number to its last row
 };

@@ -3,11 +3,14 @@
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modRecurrence.h"
+#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <tuple>
 
 namespace {
 
@@ -82,15 +85,16 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
             m_partners.value(otherId, row.ID) != row.ID || m_partners.value(row.ID, otherId) != otherId;
         return isTaken || distance(i) > farthestDays || !IsPartner(row, m_rows.at(i), transfer);
     });
-    std::sort(found.begin(), found.end(), [&](qsizetype left, qsizetype right) {
-        return std::pair(distance(left), left) < std::pair(distance(right), right);
-    });
+    const auto rank = [&](qsizetype i) {
+        const cImportEntry& other = m_rows.at(i);
+        const qint64 days = other.ImportDate.daysTo(row.ImportDate);
+        const bool isBackwards = row.ImportValue < 0 ? days > 0 : days < 0; // money leaves before it arrives
+        return std::tuple(other.ImportBeneficiaryAccount.isEmpty(), isBackwards, distance(i), i);
+    };
+    std::sort(found.begin(), found.end(), [&](qsizetype left, qsizetype right) { return rank(left) < rank(right); });
     for (const qsizetype i : std::as_const(found)) {
         const cImportEntry& other = m_rows.at(i);
-        transfer.ExistingEntry = other.ImportAssigned ? HalfTransfer(other, transfer) : 0;
-        transfer.PartnerRow = other.ImportAssigned ? 0 : other.ID;
-        transfer.PartnerDay = other.ImportAssigned ? QDate() : other.ImportDate;
-        if (transfer.ExistingEntry != 0 || transfer.PartnerRow != 0) {
+        if (HasTaken(other, transfer)) {
             m_partners.insert(row.ID, other.ID);
             m_partners.insert(other.ID, row.ID);
             return;
@@ -108,17 +112,52 @@ bool cTransferFinder::IsPartner(const cImportEntry& row, const cImportEntry& oth
         || OwnAccountOf(other.ImportBeneficiaryAccount, other.ImportBeneficiaryBLZ) == transfer.Own;
 }
 
-int cTransferFinder::HalfTransfer(const cImportEntry& other, const cTransfer& transfer)
+bool cTransferFinder::HasTaken(const cImportEntry& other, cTransfer& transfer)
 {
-    const cImportEntryList rows =
-        m_hive.GetImportHive(eKeepCache::Yes)
-            .GetImportEntryByArea(other.ImportAssignedEntry, other.ImportDate.addDays(-farthestDays),
-                                  other.ImportDate.addDays(farthestDays));
-    const std::optional<cEntryItem> entry = m_data.LoadEntry(other.ImportAssignedEntry);
-    if (rows.size() != 1 || !entry || entry->EntryType != modWord::Umbuchung) {
-        return 0;
+    transfer.IsElsewhere = false;
+    if (!other.ImportAssigned) {
+        transfer.PartnerRow = other.ID;
+        transfer.PartnerDay = other.ImportDate;
+        return true;
     }
-    const bool isThis = (entry->EntryAccount == transfer.Own && entry->EntryAccountMove == transfer.Other)
-        || (entry->EntryAccount == transfer.Other && entry->EntryAccountMove == transfer.Own);
-    return isThis ? entry->ID : 0;
+    const std::optional<cEntryItem> entry = m_data.LoadEntry(other.ImportAssignedEntry);
+    if (!entry) {
+        return false;
+    }
+    const bool isThis = entry->EntryType == modWord::Umbuchung
+        && ((entry->EntryAccount == transfer.Own && entry->EntryAccountMove == transfer.Other)
+            || (entry->EntryAccount == transfer.Other && entry->EntryAccountMove == transfer.Own));
+    if (isThis && !IsHalf(other)) {
+        return false;
+    }
+    if (isThis || CanBecome(transfer, *entry, other)) {
+        transfer.ExistingEntry = entry->ID;
+        transfer.BookedAs = isThis ? QString() : entry->EntryType;
+        return true;
+    }
+    transfer.IsElsewhere = true;
+    return !other.ImportBeneficiaryAccount.isEmpty();
+}
+
+bool cTransferFinder::IsHalf(const cImportEntry& other)
+{
+    const cImportHive& hive = m_hive.GetImportHive(eKeepCache::Yes);
+    return hive.GetImportEntryByArea(other.ImportAssignedEntry, other.ImportDate.addDays(-farthestDays),
+                                     other.ImportDate.addDays(farthestDays))
+               .size()
+        == 1;
+}
+
+// Booked as the money of somebody else, because the number was not known yet. Nothing that the user made of it since
+// may be lost, so it has to be what booking makes of a row.
+bool cTransferFinder::CanBecome(const cTransfer& transfer, const cEntryItem& entry, const cImportEntry& other)
+{
+    const bool isOutgoing = other.ImportValue < 0;
+    return entry.EntryType == (isOutgoing ? modWord::Ausgabe : modWord::Einnahme)
+        && entry.EntryAccount == transfer.Other && entry.EntryValue == std::abs(other.ImportValue)
+        && entry.EntryCategory != modWord::Startguthaben
+        && (isOutgoing || entry.EntryDate == other.ImportDate) // the day becomes that of the debit
+        && !modRecurrence::IsRecurring(entry.EntryInterval) && modSplit::Group(entry) == 0
+        && !other.ImportBeneficiaryAccount.isEmpty()
+        && m_hive.GetImportHive(eKeepCache::Yes).GetImportEntriesByAssignedID(entry.ID).size() == 1;
 }

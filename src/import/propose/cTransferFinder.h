@@ -11,6 +11,7 @@
 
 class cAccountMap;
 class cDataAccess;
+struct cEntryItem;
 class cImportHiveCache;
 
 // Finds transactions between two own accounts, and the row that the other account's statement holds for them.
@@ -19,11 +20,13 @@ class cTransferFinder
 public:
     struct cTransfer
     {
-        QString Own;           // account of the row
-        QString Other;         // account of its counterparty
-        int PartnerRow = 0;    // open row with the opposite amount; 0 when there is none
-        QDate PartnerDay;      // of that row; invalid when there is none
-        int ExistingEntry = 0; // transfer in the book whose second row this is; 0 when there is none
+        QString Own;              // account of the row
+        QString Other;            // account of its counterparty
+        int PartnerRow = 0;       // open row with the opposite amount; 0 when there is none
+        QDate PartnerDay;         // of that row; invalid when there is none
+        int ExistingEntry = 0;    // in the book, whose second row this is; 0 when there is none
+        QString BookedAs;         // what that entry is as long as it is no transfer; empty otherwise
+        bool IsElsewhere = false; // the other row was booked as something that cannot become this transfer
     };
 
     cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
@@ -39,8 +42,10 @@ private:
     void Build();
     void FindPartner(const cImportEntry& row, cTransfer& transfer);
     [[nodiscard]] bool IsPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer);
-    // The entry that `other` was booked to, when it is this transfer and waits for its second row.
-    [[nodiscard]] int HalfTransfer(const cImportEntry& other, const cTransfer& transfer);
+    // False when `other` has its second row already, or may be meant for somebody else.
+    [[nodiscard]] bool HasTaken(const cImportEntry& other, cTransfer& transfer);
+    [[nodiscard]] bool IsHalf(const cImportEntry& other);
+    [[nodiscard]] bool CanBecome(const cTransfer& transfer, const cEntryItem& entry, const cImportEntry& other);
 
     cDataAccess& m_data;
     cImportHiveCache& m_hive;

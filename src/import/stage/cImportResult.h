@@ -2,6 +2,7 @@
 
 #include "import/read/cStatementRead.h"
 #include "import/stage/cRepeat.h"
+#include "import/stage/modStatementFormat.h"
 #include "model/cImportEntry.h"
 
 #include <QList>
@@ -15,6 +16,7 @@ struct cImportResult
 {
     QString File; // path as given; of a fetch, the name of the account
     bool IsFetched = false;
+    eStatementFormat Kind = eStatementFormat::Unknown;
     QString Format; // display name
     int Read = 0;   // transactions in the file
     int Staged = 0;

@@ -261,6 +261,7 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
     if (modStatementFormat::Reader(format) == nullptr) {
         return RefuseFormat(std::move(result), format);
     }
+    result.Kind = format;
     result.Format = modStatementFormat::Name(format);
     if (const QString reason = WhyNot(format, options); !reason.isEmpty()) {
         return Refuse(std::move(result), reason);
@@ -369,6 +370,7 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     cImportResult result;
     result.File = fetched.Name;
     result.IsFetched = true;
+    result.Kind = fetched.Camt.isEmpty() ? eStatementFormat::Mt940 : eStatementFormat::Camt;
     if (const QString reason = WhyNot(eStatementFormat::Mt940, options); !reason.isEmpty()) {
         return Refuse(std::move(result), reason);
     }

@@ -4,6 +4,7 @@
 #include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "import/match/modMatchScore.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportResult.h"
 #include "model/cMatch.h"
@@ -189,7 +190,8 @@ QString modImportText::Reason(const cRowPlan& plan)
         return cText::Tr("passt zu {0}", {Candidate(*plan.Match)});
     }
     const QString reason = plan.Reason.isEmpty() ? cText::Tr("keine Regel passt") : plan.Reason;
-    return plan.Proposal.ExistingEntry == 0 ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
+    const bool isSaid = plan.Proposal.ExistingEntry == 0 || !plan.Proposal.BookedAs.isEmpty();
+    return isSaid ? reason : cText::Tr("{0}; gehört zu einem vorhandenen Eintrag", {reason});
 }
 
 QString modImportText::Group(eRowGroup group)
@@ -202,8 +204,14 @@ QString modImportText::Group(eRowGroup group)
     return cText::Tr("bitte ansehen");
 }
 
-QString modImportText::TwinReason(cRowTwin::eSame same)
+QString modImportText::TwinReason(const cRowTwin& twin)
 {
-    return same == cRowTwin::eSame::Counterparty ? cText::Tr("gleicher Tag, Betrag und Gegenkonto")
-                                                 : cText::Tr("gleicher Tag, Betrag und ähnlicher Name");
+    const bool isCounterparty = twin.Same == cRowTwin::eSame::Counterparty;
+    if (twin.Days == 0) {
+        return isCounterparty ? cText::Tr("gleicher Tag, Betrag und Gegenkonto")
+                              : cText::Tr("gleicher Tag, Betrag und ähnlicher Name");
+    }
+    const QStringList days{modMatchScore::DayText(twin.Days)};
+    return isCounterparty ? cText::Tr("gleicher Betrag und Gegenkonto, {0}", days)
+                          : cText::Tr("gleicher Betrag und ähnlicher Name, {0}", days);
 }

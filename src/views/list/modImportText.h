@@ -74,6 +74,6 @@ namespace modImportText {
 [[nodiscard]] QString Group(eRowGroup group);
 
 // Why two transactions may be the same one
-[[nodiscard]] QString TwinReason(cRowTwin::eSame same);
+[[nodiscard]] QString TwinReason(const cRowTwin& twin);
 
 } // namespace modImportText

@@ -66,7 +66,7 @@ cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
     connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
     connect(&Files(), &cStatementFiles::AccountsAsked, this, &cImportReview::ReportAccounts);
     connect(&Files(), &cStatementFiles::FileStaged, this,
-            [this](const QList<int>& ids) { m_works->Runs.NoteFile(ids); });
+            [this](const QList<int>& ids, eStatementFormat format) { m_works->Runs.NoteFile(ids, format); });
     connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);
     connect(&Files(), &cStatementFiles::MoreStaged, this, [this](const QList<int>& ids) {
         m_works->Runs.NoteMore(ids);
@@ -381,13 +381,18 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
     if (!MayEdit(plan)) {
         return;
     }
+    cProposal proposal = plan.Proposal;
+    if (!proposal.BookedAs.isEmpty()) { // the entry stays what it is beside a new one
+        const cImportEntry& row = rows.constFirst();
+        proposal.MakeSpent(row, m_works->Accounts.AccountOf(row.ImportAccount));
+    }
     cEntryEditor editor(m_tools);
     const auto assign = [this, &plan](int entryId) {
         const bool hasPartner = plan.Proposal.PartnerRow != 0 && !OpenRows({plan.Proposal.PartnerRow}).isEmpty();
         return m_works->Booking.Assign(plan.RowId, entryId)
             && (!hasPartner || m_works->Booking.Assign(plan.Proposal.PartnerRow, entryId));
     };
-    Q_EMIT EditorWanted(editor, editor.StartFrom(plan.Proposal.Entry, assign));
+    Q_EMIT EditorWanted(editor, editor.StartFrom(proposal.Entry, assign));
     if (editor.SavedId() == 0) {
         return;
     }

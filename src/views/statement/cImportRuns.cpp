@@ -1,6 +1,7 @@
 #include "views/statement/cImportRuns.h"
 
 #include "core/cSettings.h"
+#include "import/stage/modStatementFormat.h"
 #include "model/modSettingKey.h"
 
 #include <QStringList>
@@ -16,10 +17,10 @@ using cRange = cImportRuns::cRange;
 
 constexpr qsizetype mostImports = 50;
 
-cRange RangeOf(const QList<int>& ids)
+cRange RangeOf(const QList<int>& ids, QChar kind = {})
 {
     const auto [first, last] = std::minmax_element(ids.begin(), ids.end());
-    return {*first, *last};
+    return {*first, *last, kind};
 }
 
 cRange Whole(const QList<cRange>& files)
@@ -27,13 +28,32 @@ cRange Whole(const QList<cRange>& files)
     return files.isEmpty() ? cRange() : cRange{files.constFirst().First, files.constLast().Last};
 }
 
-// "1-5,6-17": the files of an import
+// Formats of one kind name the same day of a booking: a bank packs its camt files into archives.
+QChar KindOf(eStatementFormat format)
+{
+    switch (format) {
+    case eStatementFormat::Mt940: return u'm';
+    case eStatementFormat::Camt:
+    case eStatementFormat::Archive: return u'c';
+    case eStatementFormat::Ofx: return u'o';
+    case eStatementFormat::Qif: return u'q';
+    case eStatementFormat::Csv:
+    case eStatementFormat::Spreadsheet: return u't';
+    case eStatementFormat::Pdf:
+    case eStatementFormat::Unknown: break;
+    }
+    return {};
+}
+
+// "1-5m,6-17t": the files of an import, each with the kind of its format where that is known
 QList<cRange> FilesIn(const QString& text)
 {
     QList<cRange> files;
     const QStringList parts = text.split(u',', Qt::SkipEmptyParts);
     for (const QString& part : parts) {
-        const cRange file{part.section(u'-', 0, 0).toInt(), part.section(u'-', 1).toInt()};
+        const QChar kind = part.back().isLetter() ? part.back() : QChar();
+        const QString last = part.section(u'-', 1).chopped(kind.isNull() ? 0 : 1);
+        const cRange file{part.section(u'-', 0, 0).toInt(), last.toInt(), kind};
         if (file.First > 0 && file.Last >= file.First) {
             files.append(file);
         }
@@ -45,7 +65,8 @@ QString TextOf(const QList<cRange>& files)
 {
     QStringList parts;
     for (const cRange& file : files) {
-        parts.append(u"%1-%2"_s.arg(file.First).arg(file.Last));
+        const QString kind = file.Kind.isNull() ? QString() : QString(file.Kind);
+        parts.append(u"%1-%2%3"_s.arg(QString::number(file.First), QString::number(file.Last), kind));
     }
     return parts.join(u',');
 }
@@ -74,10 +95,10 @@ QList<QList<cRange>> cImportRuns::Imports() const
     return imports;
 }
 
-void cImportRuns::NoteFile(const QList<int>& ids)
+void cImportRuns::NoteFile(const QList<int>& ids, eStatementFormat format)
 {
     if (!ids.isEmpty()) {
-        m_files.append(RangeOf(ids));
+        m_files.append(RangeOf(ids, KindOf(format)));
     }
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QChar>
 #include <QList>
 
 class cSettings;
+enum class eStatementFormat;
 
 // Which rows came together: the ranges of IDs of the latest imports and of their files, kept in the setting
 // "ImportRuns". IDs grow, so the rows of a file follow each other, and so do the files of an import.
@@ -13,6 +15,7 @@ public:
     {
         int First = 0;
         int Last = 0;
+        QChar Kind{}; // of the format of a file; null: not known
         [[nodiscard]] bool IsEmpty() const { return Last == 0; }
         bool operator==(const cRange&) const = default;
     };
@@ -20,7 +23,7 @@ public:
     explicit cImportRuns(cSettings& settings) : m_settings(settings) {}
 
     // A file of the import that is under way brought these rows.
-    void NoteFile(const QList<int>& ids);
+    void NoteFile(const QList<int>& ids, eStatementFormat format);
     // The import has ended with these rows. IDs that come again, because an import was undone, belong to the later one.
     void NoteImport(const QList<int>& ids);
     // The latest import got these rows afterwards.

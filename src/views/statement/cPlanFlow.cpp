@@ -134,8 +134,8 @@ bool cPlanFlow::AskAboutTwins(QList<cRowPlan>& plans, cWish& wish)
     for (const cRowPlan& plan : plans) {
         if (plan.IsSecond) {
             const cImportEntry row = hive.GetImportEntryByID(plan.RowId).value_or(cImportEntry());
-            lines.append(cText::Tr(
-                "{0} ({1})", {modImportText::Row(row, m_tools.Format), modImportText::TwinReason(plan.Twin->Same)}));
+            lines.append(cText::Tr("{0} ({1})",
+                                   {modImportText::Row(row, m_tools.Format), modImportText::TwinReason(*plan.Twin)}));
         }
     }
     if (lines.isEmpty()) {

@@ -22,12 +22,15 @@ using cRange = cImportRuns::cRange;
 constexpr qsizetype planAtOnce = 600; // open rows; a month has 500 at most
 constexpr qsizetype slice = 150;      // of a higher pile: what a list shows, and some around it
 
-// The file that a row came with, counted from 1; 0 when it is not remembered.
-int FileOf(const QList<cRange>& files, int id)
+// The file that a row came with, counted from 1.
+modStagedTwins::cFile FileOf(const QList<cRange>& files, int id)
 {
     const auto file = std::lower_bound(files.begin(), files.end(), id,
                                        [](const cRange& each, int wanted) { return each.Last < wanted; });
-    return file == files.end() || file->First > id ? 0 : static_cast<int>(file - files.begin()) + 1;
+    if (file == files.end() || file->First > id) {
+        return {}; // it is not remembered
+    }
+    return {static_cast<int>(file - files.begin()) + 1, file->Kind};
 }
 
 } // namespace
@@ -123,7 +126,8 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
     }
     if (!choice.Interval.isEmpty() && choice.Interval != plan.Proposal.Entry.EntryInterval) {
         plan.Proposal.Entry.EntryInterval = choice.Interval;
-        plan.Proposal.ExistingEntry = 0; // the series that it belonged to has another interval
+        // The series that it belonged to has another interval; an entry that becomes a transfer gets it.
+        plan.Proposal.ExistingEntry = plan.Proposal.BookedAs.isEmpty() ? 0 : plan.Proposal.ExistingEntry;
     }
     if (!choice.Description.isEmpty()) {
         plan.Proposal.Entry.EntryDescription = choice.Description;
@@ -206,7 +210,7 @@ cStagedInfo cRowProposals::BookedInfo(const cImportEntry& row)
 void cRowProposals::Warn(cStagedInfo& info, const cRowTwin& twin)
 {
     info.IsDoubtful = true;
-    const QString warning = modImportText::TwinReason(twin.Same);
+    const QString warning = modImportText::TwinReason(twin);
     const std::optional<cImportEntry> other = m_parts.Hive.GetImportHive().GetImportEntryByID(twin.RowId);
     info.Hint = other
         ? cText::Tr("{0} wie: {1}\nVorschlag: {2}", {warning, modImportText::Row(*other, m_parts.Format), info.Reason})

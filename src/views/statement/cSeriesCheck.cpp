@@ -55,12 +55,13 @@ QDate Earlier(QDate first, QDate second)
     return first.isValid() ? std::min(first, second) : second;
 }
 
-// Where a late occurrence moves to: behind the rows. None when they reach past the next but one, without which the
-// series went on.
-QDate DayToMoveTo(const QString& interval, QDate planned, QDate lastCovered)
+// Where a late occurrence moves to: behind the rows, and behind today, whose balance does not hold it yet. None when
+// the rows reach past the next but one, without which the series went on.
+QDate DayToMoveTo(const QString& interval, QDate planned, QDate lastCovered, QDate today)
 {
     const QDate second = modRecurrence::Next(modRecurrence::Next(planned, interval), interval);
-    return second.addDays(modOccurrence::Reach(interval)) <= lastCovered ? QDate() : lastCovered.addDays(1);
+    return second.addDays(modOccurrence::Reach(interval)) <= lastCovered ? QDate()
+                                                                         : std::max(lastCovered, today).addDays(1);
 }
 
 } // namespace
@@ -212,7 +213,7 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
             cFinding finding = base;
             finding.IsLate = true;
             finding.Occurrence = planned;
-            finding.MoveTo = DayToMoveTo(series.Entry.EntryInterval, planned, covered.End);
+            finding.MoveTo = DayToMoveTo(series.Entry.EntryInterval, planned, covered.End, m_tools.Clock.Today());
             late.append(finding);
         }
     }

@@ -30,7 +30,7 @@ public:
         QDate End;           // ended: the last day that the series is to have
         bool IsLate = false; // one occurrence only; the series goes on
         QDate Occurrence;    // late: its planned day; ended: the first one that nothing paid
-        QDate MoveTo; // late: the day after the covered ones; invalid: the series went on without it, leave it out
+        QDate MoveTo;        // late: behind the covered days and today; invalid: the series went on, leave it out
     };
 
     // Of these accounts, or of all. A series has ended when two of its occurrences in a row lie so far back that their

@@ -181,6 +181,19 @@ struct cStatementDesk::cWorks
           Import(tools.Data, Hive, &Memory, &Balances),
           Files(tools, Hive, Accounts)
     {
+        QObject::connect(&Files, &cStatementFiles::FileStaged, &Files,
+                         [this](const QList<int>& ids, eStatementFormat format) { Runs.NoteFile(ids, format); });
+        QObject::connect(&Files, &cStatementFiles::RowsStaged, &Files,
+                         [this](const QList<int>& ids) { Runs.NoteImport(ids); });
+    }
+
+    // A file brought the rows from `first` on.
+    void NoteRows(int first, eStatementFormat format)
+    {
+        if (const int next = Hive.GetImportHive().NextId(); next > first) {
+            Runs.NoteFile({first, next - 1}, format);
+            Runs.NoteImport({first, next - 1});
+        }
     }
 
     cImportHiveCache Hive;
@@ -345,11 +358,13 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
     cNoProgress progress;
     const QStringList known = cImportHive::AccountsOf(Rows());
+    const int next = m_works->Hive.GetImportHive().NextId();
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);
     if (wish.IsTrial) {
         return report;
     }
+    m_works->NoteRows(next, result.Kind);
     RememberAccount(result, options.DefaultAccount, m_works->Memory);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told

@@ -81,7 +81,7 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
         const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
         QList<cFile> files;
         for (const QString& path : std::exchange(m_waiting, {})) {
-            files.append({path, {}});
+            files.append({path, {}, {}});
         }
         Run(files, progress, assist);
     }
@@ -157,8 +157,9 @@ void cStatementFiles::Note(const cImportResult& result, cRun& run)
 {
     const QList<int> rows = RowsAbove(run.Newest);
     m_last.last().Rows.append(rows);
+    m_last.last().Format = result.Kind;
     run.Rows.append(rows);
-    Q_EMIT FileStaged(rows);
+    Q_EMIT FileStaged(rows, result.Kind);
     run.Lines.append(modImportText::Summary(result, m_tools.Format));
     KeepLeftOut(result);
     (void)cLeftOutRows(m_tools.Settings).Forget(result.Settled); // of a refusal the user has been told
@@ -419,7 +420,7 @@ void cStatementFiles::TakeRepeats(const cRepeatList& repeats, cRun& run)
     run.Rows.append(rows);
     run.Lines.append(cText::Tr("{0} übernommen, obwohl sie anderen gleichen.",
                                {modImportText::Count(static_cast<int>(rows.size()))}));
-    Q_EMIT FileStaged(rows);
+    Q_EMIT FileStaged(rows, m_last.last().Format);
 }
 
 void cStatementFiles::LeaveOut(const cRepeatList& repeats)

@@ -11,6 +11,7 @@
 #include <memory>
 #include <utility>
 
+enum class eStatementFormat;
 class cAccountMap;
 class cImportAssistant;
 class cImportHiveCache;
@@ -87,7 +88,8 @@ Q_SIGNALS:
     void Imported(const QStringList& lines);
     // The accounts of numbers may be known now; the lines name those that are not.
     void AccountsAsked(const QStringList& lines);
-    void FileStaged(const QList<int>& ids); // by one file of the import that is under way
+    // By one file of the import that is under way.
+    void FileStaged(const QList<int>& ids, eStatementFormat format);
     void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
     void MoreStaged(const QList<int>& ids); // the same import got these later, as the user wanted
     void LeftOutChanged();
@@ -100,6 +102,7 @@ private:
     {
         QString Path; // empty: an account that was fetched
         QList<int> Rows;
+        eStatementFormat Format{};
     };
     struct cLeftOut
     {
