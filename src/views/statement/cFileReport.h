@@ -25,7 +25,7 @@ struct cFileReport
     struct cLeftOut
     {
         cLine Reason;
-        QString Kind; // "pending", "balance", "unreadable", "otherCurrency"
+        QString Kind; // "pending", "balance", "unreadable", "otherCurrency", "void", "cutOff"
         cImportEntry Entry;
     };
 

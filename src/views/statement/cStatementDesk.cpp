@@ -50,6 +50,7 @@ QString Name(eSkipped kind)
     case eSkipped::Unreadable: return u"unreadable"_s;
     case eSkipped::OtherCurrency: return u"otherCurrency"_s;
     case eSkipped::Void: return u"void"_s;
+    case eSkipped::CutOff: return u"cutOff"_s;
     }
     return {};
 }
