@@ -191,6 +191,30 @@ private Q_SLOTS:
         QVERIFY(!result.ClosingBalance);
     }
 
+    // One that the account had before was agreed to, under whatever number it comes.
+    void OtherCurrencyIsRefused()
+    {
+        cImportBook book;
+        cNoProgress progress;
+        cImportOptions euros;
+        euros.BookCurrency = u"EUR"_s;
+        const auto read = [&](const QString& account, const QString& currency, const cImportOptions& options) {
+            QString text = Many(2).replace(u"EUR"_s, currency);
+            text.replace(u":25:1"_s, u":25:"_s + account);
+            return cStatementImport(book.Data, book.Hive).ImportText(u"a.sta"_s, text, options, progress);
+        };
+        QCOMPARE(read(u"10020030/1234567"_s, u"EUR"_s, euros).Staged, 2);
+        const cImportResult refused = read(u"777"_s, u"USD"_s, euros);
+        QCOMPARE(refused.OtherCurrencies, QStringList(u"USD"_s));
+        QVERIFY2(refused.IsRefused && refused.Message.contains(u"in USD, das Buch in EUR"),
+                 qPrintable(refused.Message));
+        QVERIFY(read(u"1234567"_s, u"USD"_s, euros).IsRefused); // though its rows are there already
+        QCOMPARE(book.Data.GetImportEntries().size(), 2);
+        QCOMPARE(read(u"10020030/7777777"_s, u"USD"_s, {}).Staged, 2);
+        QVERIFY(!read(u"DE92100200300007777777"_s, u"USD"_s, euros).IsRefused);
+        QVERIFY(read(u"DE92100200300007777777"_s, u"CHF"_s, euros).IsRefused);
+    }
+
     // Of several files in one step, the one that was stopped goes and the others stay.
     void CancelTakesTheFileBack()
     {

@@ -2,6 +2,7 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
+#include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
 #include "import/propose/cBooking.h"
@@ -96,6 +97,7 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
     }
     report.IsRefused = result.IsRefused;
     report.HasStrayDetails = result.HasStrayDetails;
+    report.HasOtherCurrency = !result.OtherCurrencies.isEmpty();
     report.Message = result.Message;
     if (result.Doubt) {
         report.Message = cText::Tr("{0} {1} Lesen Sie sie mit \"--sign {2}\" oder \"--sign {3}\" ein.",
@@ -344,6 +346,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.Table = modTableOption::Choice(wish);
     options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
     options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
+    options.BookCurrency = wish.TakesCurrency ? QString() : m_tools.Format.CurrencyCode();
     cNoProgress progress;
     const QStringList known = cImportHive::AccountsOf(Rows());
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
