@@ -165,6 +165,8 @@ private Q_SLOTS:
         QTest::newRow("fewer cells") << u"a.csv"_s << head + u"04.10.2026;Ei;-3"_s << u"2 -1"_s;
         QTest::newRow("within a code") << u"a.csv"_s << head + u"04.10.2026;Ei;-3,00;EU"_s << u"2 -1"_s;
         QTest::newRow("within quotes") << u"a.csv"_s << head + u"04.10.2026;Ei;-3,00;\"EUR"_s << u"2 -1"_s;
+        QTest::newRow("below its balance")
+            << u"a.csv"_s << u"Kontostand vom 05.10.2026:;9,00 EUR\n\n"_s + head + u"04.10.2026;Ei;-3"_s << u"2 -1"_s;
         QTest::newRow("a balance at the end") << u"a.csv"_s << head + u"04.10.2026;Endsaldo"_s << u"2"_s;
         QTest::newRow("within an amount")
             << u"a.csv"_s << Purchases(u"1002 -200 1, 1003 -250 1, 1004 -120 1"_s, {}).chopped(3) << u"2 -1"_s;
