@@ -126,6 +126,9 @@ inline constexpr int Any = std::numeric_limits<int>::max(); // number of argumen
 // The option of all that read statements, and what is said about equal rows without it.
 [[nodiscard]] cCliOption TakeEqual();
 [[nodiscard]] QString EqualRows(qsizetype count);
+// The same about statements in another currency than the book's.
+[[nodiscard]] cCliOption TakeCurrency();
+[[nodiscard]] QString CurrencyHint();
 
 // The account number that is meant: itself, its other form, or the account of the book that it belongs to. Empty when
 // the reader has been told of a fault. A statement is of a number with rows, paper may be there of any other too, and

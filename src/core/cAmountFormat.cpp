@@ -144,12 +144,21 @@ std::unique_ptr<cCultureFormatter> cAmountFormat::MakeFormatter(const QString& c
     return std::make_unique<cLocaleFormatter>(LocaleOf(culture));
 }
 
+QString cAmountFormat::CurrencyCode() const
+{
+    return LocaleOf(Culture()).currencySymbol(QLocale::CurrencyIsoCode);
+}
+
+QString cAmountFormat::Culture() const
+{
+    const QString currency = m_configuration.GetSetting(modSettingKey::LanguageCurrency);
+    return currency.isEmpty() ? m_configuration.GetSetting(modSettingKey::LanguageFormat) : currency;
+}
+
 QString cAmountFormat::Currency(qint64 signedCents) const
 {
     if (!m_formatter) {
-        const QString currency = m_configuration.GetSetting(modSettingKey::LanguageCurrency);
-        m_formatter =
-            m_makeFormatter(currency.isEmpty() ? m_configuration.GetSetting(modSettingKey::LanguageFormat) : currency);
+        m_formatter = m_makeFormatter(Culture());
     }
     return CurrencyText(*m_formatter, signedCents);
 }

@@ -49,6 +49,9 @@ public:
     // The text of an amount in cents, with its own sign.
     [[nodiscard]] QString Cents(qint64 signedCents) const;
 
+    // The code of the currency in these texts: "EUR".
+    [[nodiscard]] QString CurrencyCode() const;
+
     // The sign before the cents in these texts, which is the one that the user types.
     [[nodiscard]] eDecimal Decimal() const;
 
@@ -69,6 +72,7 @@ public:
     [[nodiscard]] static std::unique_ptr<cCultureFormatter> MakeFormatter(const QString& culture);
 
 private:
+    [[nodiscard]] QString Culture() const; // of the currency
     [[nodiscard]] QString Currency(qint64 signedCents) const;
 
     const cConfiguration& m_configuration;

@@ -119,6 +119,18 @@ private Q_SLOTS:
         QVERIFY2(read.Out.contains("1 gelesen, 1 neu"_L1), qPrintable(read.Text()));
     }
 
+    void OtherCurrencyIsTakenOnRequest()
+    {
+        QFile file(m_folder->filePath(u"a.sta"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(":20:A\n:25:1\n:60F:C260101USD0,00\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        file.close();
+        const cCliRun refused = Run({u"import"_s, file.fileName()});
+        QVERIFY2(refused.Code == 1 && refused.Error.contains("--take-currency"_L1), qPrintable(refused.Text()));
+        Do({u"import"_s, file.fileName(), u"--take-currency"_s});
+        Do({u"import"_s, file.fileName()});
+    }
+
     void SkippedRowsAndLayoutAreTold()
     {
         const cCliRun run = Do({u"import"_s, m_table, u"--json"_s, u"--account"_s, u"1"_s, u"--map"_s,

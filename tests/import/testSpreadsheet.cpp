@@ -227,6 +227,8 @@ private Q_SLOTS:
         QTest::newRow("changed XLSX") << broken << u"beschädigt, verschlüsselt oder zu groß"_s;
         QTest::newRow("half an XLS") << Xls().Bytes().left(2000) << u"beschädigt oder keine Arbeitsmappe"_s;
         QTest::newRow("half an XML") << sheetXml.left(800) << u"beschädigt oder zu groß"_s;
+        QTest::newRow("half an HTML table")
+            << "<table><tr><td>Datum<td>Betrag<tr><td>01.02.2026<td>-1"_ba << u"beschädigt oder unvollständig"_s;
         QTest::newRow("no transactions") << Xlsx({{"Daten", 0}}) << u"keine Spalten mit Datum und Betrag"_s;
         QTest::newRow("endless rows") << "<table>" + QByteArray("<tr><td colspan=255><td>x").repeated(16000)
                                       << u"zu groß"_s;

@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -141,15 +143,78 @@ private Q_SLOTS:
         QVERIFY(result.IsRefused && result.Message.startsWith(u"Die Datei kann nicht geöffnet werden"));
     }
 
-    void FileCutInATagKeepsWhatIsBefore()
+    // A text or an amount that lacks its end would come again whole with the next file.
+    void FilesAreCutOff_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("read"); // rows, and those left out because of it
+        const QString end = u":62F:C260101EUR0,00\r\n-\r\n"_s;
+        const QString open = Many(3).chopped(end.size());
+        QTest::newRow("within a tag") << u"a.sta"_s << open.left(open.lastIndexOf(u":61:") + 2) << u"refused"_s;
+        QTest::newRow("within details") << u"a.sta"_s << open.chopped(3) << u"refused"_s;
+        QTest::newRow("behind whole statements") << u"a.sta"_s << Many(1) + open << u"refused"_s;
+        QTest::newRow("in the head of a statement")
+            << u"a.sta"_s << Many(3) + u":20:B\r\n:25:1\r\n:6"_s << u"refused"_s;
+        QTest::newRow("perhaps, at the end of a line") << u"a.sta"_s << open << u"2 -1"_s;
+        QTest::newRow("ended without a balance") << u"a.sta"_s << open + u"-\r\n"_s << u"3"_s;
+        QTest::newRow("ended by an empty line") << u"a.sta"_s << open + u"\r\n"_s << u"3"_s;
+        QTest::newRow("within the balance") << u"a.sta"_s << open + end.left(16) << u"3"_s;
+        const QString head = u"Datum;Zweck;Betrag;Whg.\n02.10.2026;Brot;-2,50;EUR\n03.10.2026;Milch;-1,20;EUR\n"_s;
+        QTest::newRow("no end of the line") << u"a.csv"_s << head + u"04.10.2026;Ei;-3,00;EUR"_s << u"3"_s;
+        QTest::newRow("fewer cells") << u"a.csv"_s << head + u"04.10.2026;Ei;-3"_s << u"2 -1"_s;
+        QTest::newRow("within a code") << u"a.csv"_s << head + u"04.10.2026;Ei;-3,00;EU"_s << u"2 -1"_s;
+        QTest::newRow("within quotes") << u"a.csv"_s << head + u"04.10.2026;Ei;-3,00;\"EUR"_s << u"2 -1"_s;
+        QTest::newRow("below its balance")
+            << u"a.csv"_s << u"Kontostand vom 05.10.2026:;9,00 EUR\n\n"_s + head + u"04.10.2026;Ei;-3"_s << u"2 -1"_s;
+        QTest::newRow("a balance at the end") << u"a.csv"_s << head + u"04.10.2026;Endsaldo"_s << u"2"_s;
+        QTest::newRow("within an amount")
+            << u"a.csv"_s << Purchases(u"1002 -200 1, 1003 -250 1, 1004 -120 1"_s, {}).chopped(3) << u"2 -1"_s;
+        const QString qif = u"!Type:Bank\nD31.1.26\nT-1,00\nPAnna\n^\nD31.1.26\nT-2,00\nPBernd"_s;
+        QTest::newRow("QIF within a payee") << u"a.qif"_s << qif << u"1 -1"_s;
+        QTest::newRow("QIF before a payee") << u"a.qif"_s << qif.chopped(6) << u"1 -1"_s;
+        QTest::newRow("QIF without its last mark") << u"a.qif"_s << qif + u'\n' << u"2"_s;
+    }
+
+    void FilesAreCutOff()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        cImportBook book;
+        cImportOptions options;
+        options.DefaultAccount = u"7"_s;
+        cNoProgress progress;
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(name, text, options, progress);
+        const auto isCutOff = [](const cSkippedRow& row) { return row.Kind == eSkipped::CutOff; };
+        const auto cutOff = std::count_if(result.Skipped.begin(), result.Skipped.end(), isCutOff);
+        const QString rows = QString::number(book.Data.GetImportEntries().size());
+        const QString read = result.IsRefused ? u"refused"_s : cutOff == 0 ? rows : u"%1 -%2"_s.arg(rows).arg(cutOff);
+        QTEST(read, "read");
+        QVERIFY(!result.ClosingBalance);
+    }
+
+    // One that the account had before was agreed to, under whatever number it comes.
+    void OtherCurrencyIsRefused()
     {
         cImportBook book;
         cNoProgress progress;
-        const QString text = Many(3);
-        const QString cut = text.left(text.lastIndexOf(u":61:") + 2);
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a.mt940"_s, cut, {}, progress);
-        QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({2, 2}));
-        QVERIFY(!result.ClosingBalance);
+        cImportOptions euros;
+        euros.BookCurrency = u"EUR"_s;
+        const auto read = [&](const QString& account, const QString& currency, const cImportOptions& options) {
+            QString text = Many(2).replace(u"EUR"_s, currency);
+            text.replace(u":25:1"_s, u":25:"_s + account);
+            return cStatementImport(book.Data, book.Hive).ImportText(u"a.sta"_s, text, options, progress);
+        };
+        QCOMPARE(read(u"10020030/1234567"_s, u"EUR"_s, euros).Staged, 2);
+        const cImportResult refused = read(u"777"_s, u"USD"_s, euros);
+        QCOMPARE(refused.OtherCurrencies, QStringList(u"USD"_s));
+        QVERIFY2(refused.IsRefused && refused.Message.contains(u"in USD, das Buch in EUR"),
+                 qPrintable(refused.Message));
+        QVERIFY(read(u"1234567"_s, u"USD"_s, euros).IsRefused); // though its rows are there already
+        QCOMPARE(book.Data.GetImportEntries().size(), 2);
+        QCOMPARE(read(u"10020030/7777777"_s, u"USD"_s, {}).Staged, 2);
+        QVERIFY(!read(u"DE92100200300007777777"_s, u"USD"_s, euros).IsRefused);
+        QVERIFY(read(u"DE92100200300007777777"_s, u"CHF"_s, euros).IsRefused);
     }
 
     // Of several files in one step, the one that was stopped goes and the others stay.

@@ -224,6 +224,23 @@ private Q_SLOTS:
         QCOMPARE(scene.Access.Find(u"10020030"_s, u"anna"_s)->SystemId, QByteArray("SYS1"));
     }
 
+    // Once for the account: its next statement is in the currency that it had before.
+    void AsksAboutAnotherCurrency()
+    {
+        cScene scene;
+        scene.AnswerMt940(u"0001234567"_s, cBankMonth::Example());
+        scene.Answers[u"0001234567"_s].MT940.replace(u"EUR"_s, u"USD"_s);
+        scene.User.Answers = {eAnswer::No, eAnswer::Yes};
+        QVERIFY(!scene.Fetch.Run({{0}, {}, {}}, scene.Progress));
+        QVERIFY2(scene.Text(0).contains(u"in USD, das Buch in EUR"), qPrintable(scene.Text(0)));
+        QCOMPARE(scene.Data.GetImportEntries().size(), 0);
+        QVERIFY(scene.Fetch.Run({{0}, {}, {}}, scene.Progress));
+        QCOMPARE(scene.Data.GetImportEntries().size(), 7);
+        scene.User.Asked.clear();
+        QVERIFY(scene.Fetch.Run({{0}, {}, {}}, scene.Progress));
+        QCOMPARE(scene.User.Asked, QStringList());
+    }
+
     // A row that is missing shows in the bank's balance, with its day.
     void NamesDifferenceAndBalance()
     {

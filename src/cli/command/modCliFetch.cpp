@@ -128,6 +128,14 @@ void SayEqual(const cCliContext& context, const cBankFetch& fetch, const QList<q
     }
 }
 
+void SayCurrency(const cBankFetch& fetch)
+{
+    const auto hasOther = [](const cBankFetch::cLine& line) { return line.HasOtherCurrency; };
+    if (std::any_of(fetch.Lines().begin(), fetch.Lines().end(), hasOther)) {
+        modConsole::Error(modCliCommands::CurrencyHint());
+    }
+}
+
 // Of a failed fetch as well, for that is what somebody wants to read about.
 bool IsLogWritten(const QString& path, const cBankFetch& fetch)
 {
@@ -179,11 +187,14 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     context.User.Prepare({.Answer = wish.From.isValid() ? eAnswer::Yes : eAnswer::No});
     book.Statements.Files().SetRepeats(context.Call.Has(u"take-equal"_s) ? cStatementFiles::eRepeats::Take
                                                                          : cStatementFiles::eRepeats::LeaveOut);
+    book.Statements.Files().SetCurrency(context.Call.Has(u"take-currency"_s) ? cStatementFiles::eCurrency::Take
+                                                                             : cStatementFiles::eCurrency::Refuse);
     book.Statements.Files().SetStart(cStatementFiles::eStart::Take);
     cNoProgress progress;
     const bool isDone = fetch.Run(chosen, progress);
     Print(context, fetch, chosen.Accounts);
     SayEqual(context, fetch, chosen.Accounts);
+    SayCurrency(fetch);
     return IsLogWritten(context.Call.Value(u"log"_s), fetch) && isDone ? modExit::Done : modExit::Failed;
 }
 
@@ -221,6 +232,6 @@ cCliCommand modCliCommands::FetchCommand()
                     {u"to"_s, u"TAG"_s, cText::Tr("letzter Tag; sonst heute")},
                     {u"log"_s, u"DATEI"_s, cText::Tr("schreibt den Nachrichtenverkehr ohne persönliche Angaben auf")},
                     {u"tan-image"_s, u"DATEI"_s, cText::Tr("hierhin kommt das Bild einer photoTAN")}}
-                + QList<cCliOption>{TakeEqual()} + BankSecrets() + QList<cCliOption>{Json()},
+                + QList<cCliOption>{TakeEqual(), TakeCurrency()} + BankSecrets() + QList<cCliOption>{Json()},
             .Run = RunFetch};
 }

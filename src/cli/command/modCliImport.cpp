@@ -134,6 +134,9 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
         if (report.HasStrayDetails) {
             modConsole::Error(cText::Tr("Mit --skip-stray-details wird die Datei ohne diese Zeilen gelesen."));
         }
+        if (report.HasOtherCurrency) {
+            modConsole::Error(modCliCommands::CurrencyHint());
+        }
     }
     if (context.Call.Has(u"json"_s)) {
         modConsole::Out(modJson::Array(objects) + u'\n');
@@ -150,6 +153,7 @@ int RunImport(const cCliContext& context)
     wish.KeepsDuplicates = context.Call.Has(u"keep-duplicates"_s);
     wish.KeepsStart = context.Call.Has(u"keep-start"_s);
     wish.TakesEqual = context.Call.Has(u"take-equal"_s);
+    wish.TakesCurrency = context.Call.Has(u"take-currency"_s);
     wish.SkipsStrayDetails = context.Call.Has(u"skip-stray-details"_s);
     wish.Remembers = context.Call.Has(u"remember"_s);
     wish.IsTrial = context.Call.Has(u"dry-run"_s);
@@ -165,6 +169,19 @@ cCliOption modCliCommands::TakeEqual()
         {},
         cText::Tr(
             "auch Umsätze übernehmen, die im Auszug mehrmals gleich stehen und die kein Kontostand der Bank belegt")};
+}
+
+cCliOption modCliCommands::TakeCurrency()
+{
+    return {u"take-currency"_s,
+            {},
+            cText::Tr("auch Auszüge in einer anderen Währung als der des Buchs übernehmen, ohne umzurechnen")};
+}
+
+QString modCliCommands::CurrencyHint()
+{
+    return cText::Tr(
+        "Mit --take-currency wird der Auszug trotzdem eingelesen, und dieses Konto künftig ohne Rückfrage.");
 }
 
 QString modCliCommands::EqualRows(qsizetype count)
@@ -196,6 +213,7 @@ cCliCommand modCliCommands::ImportCommand()
                     {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
                     {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
                     TakeEqual(),
+                    TakeCurrency(),
                     {u"skip-stray-details"_s,
                      {},
                      cText::Tr("MT940: Angaben (:86:) vor dem ersten Umsatz eines Auszugs übergehen, statt die Datei "

@@ -163,7 +163,8 @@ cImportEntryList RowsToTest(const cCliContext& context, cCliReader& reader)
         return row ? cImportEntryList{*row} : cImportEntryList();
     }
     const cFileReport report = book.Statements.ImportFile(
-        argument, {.Account = context.Call.Value(u"account"_s), .KeepsDuplicates = true, .IsTrial = true});
+        argument,
+        {.Account = context.Call.Value(u"account"_s), .KeepsDuplicates = true, .IsTrial = true, .TakesCurrency = true});
     if (report.IsRefused) {
         reader.Missing(argument + u": "_s + report.Message);
     }

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "import/read/modStatementFile.h"
 
 #include <QStringList>
 
@@ -29,7 +30,8 @@ struct cRecord
     QStringList SplitCategories;
     QStringList SplitMemos;
     QStringList SplitAmounts;
-    int Line = 0; // of its first field; 0: no field yet
+    int Line = 0;          // of its first field; 0: no field yet
+    bool IsCutOff = false; // by the end of the file
 };
 
 // A date as its three numbers in the order of the file.
@@ -96,6 +98,7 @@ class cWalk
 public:
     QList<cRecord> Run(QStringView text)
     {
+        const bool isOpenEnded = !text.endsWith(u'\n');
         for (int number = 1; !text.isEmpty() && m_records.size() <= cStatementRead::mostEntries; ++number) {
             const QStringView line = TakeLine(text);
             if (line.startsWith(u'!')) {
@@ -107,6 +110,7 @@ public:
                 Take(line.front(), line.mid(1).trimmed().toString(), number);
             }
         }
+        m_record.IsCutOff = !m_records.isEmpty() && (isOpenEnded || LacksField());
         EndRecord(); // the last "^" is often missing
         return std::move(m_records);
     }
@@ -120,6 +124,16 @@ private:
             m_record.Line = m_record.Line == 0 ? number : m_record.Line;
             TakeField(m_record, letter, value);
         }
+    }
+
+    // Amount, payee or memo, where all before have it.
+    [[nodiscard]] bool LacksField() const
+    {
+        constexpr std::array fields = {&cRecord::Amount, &cRecord::Payee, &cRecord::Memo};
+        return std::any_of(fields.begin(), fields.end(), [&](QString cRecord::*field) {
+            const auto has = [&](const cRecord& record) { return !(record.*field).isEmpty(); };
+            return !has(m_record) && std::all_of(m_records.begin(), m_records.end(), has);
+        });
     }
 
     void EndRecord()
@@ -307,6 +321,11 @@ private:
 
     void Take(const cRecord& record)
     {
+        if (record.IsCutOff) {
+            const QString start = QString(record.Date + u' ' + record.Payee).left(60);
+            m_read.Skipped.append({{record.Line, modStatementFile::CutOff(start)}, eSkipped::CutOff, {}});
+            return;
+        }
         const bool isSplit = !record.SplitCategories.isEmpty();
         const std::optional<double> value = ValueOf(record);
         cImportEntry entry;

@@ -20,7 +20,7 @@ struct cReadProblem
 };
 
 // Why a row of the file is no booking.
-enum class eSkipped { Pending, Balance, Unreadable, OtherCurrency, Void };
+enum class eSkipped { Pending, Balance, Unreadable, OtherCurrency, Void, CutOff };
 
 // A row that was read but is not to be staged. The user can have it staged all the same when it has an amount.
 struct cSkippedRow

@@ -99,6 +99,13 @@ QString modStatementFile::OpenSign()
     return cText::Tr("Die Datei sagt nicht sicher, welche Beträge Ausgaben und welche Einnahmen sind.");
 }
 
+QString modStatementFile::CutOff(const QString& row)
+{
+    return cText::Tr("Der letzte Umsatz ist unvollständig und wurde nicht übernommen. Vielleicht wurde die Datei beim "
+                     "Herunterladen abgeschnitten; bitte laden Sie sie noch einmal herunter: {0}",
+                     {row});
+}
+
 QString modStatementFile::GuessedColumns()
 {
     return cText::Tr("Die Spalten sind aus dem Inhalt geraten. Bitte prüfen Sie die Umsätze.");

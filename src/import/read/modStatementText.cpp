@@ -42,6 +42,11 @@ std::optional<char> ToWindows(QChar c)
     return static_cast<char>(static_cast<unsigned char>(0x80 + (found - windowsPart.begin())));
 }
 
+bool IsAscii(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
 // Empty optional when the bytes are not the encoding throughout.
 std::optional<QString> Strict(const QByteArray& bytes, QStringConverter::Encoding encoding)
 {
@@ -58,9 +63,22 @@ std::optional<QString> Strict(const QByteArray& bytes, QStringConverter::Encodin
     return text;
 }
 
-bool IsAscii(const QString& text)
+// A file that was cut off within a character is still UTF-8, as far as others before it say so.
+std::optional<QString> Utf8(const QByteArray& bytes)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    const auto byte = [&](qsizetype back) { return static_cast<unsigned char>(bytes.at(bytes.size() - back)); };
+    if (std::optional<QString> text = Strict(bytes, QStringConverter::Utf8)) {
+        return text;
+    }
+    qsizetype begun = 1; // bytes of the last character
+    while (begun < qMin<qsizetype>(3, bytes.size()) && byte(begun) >= 0x80 && byte(begun) < 0xC0) {
+        ++begun;
+    }
+    if (begun > bytes.size() || byte(begun) < 0xC2 || byte(begun) > 0xF4) {
+        return std::nullopt;
+    }
+    const std::optional<QString> text = Strict(bytes.chopped(begun), QStringConverter::Utf8);
+    return text && !IsAscii(*text) ? std::optional(*text + QChar::ReplacementCharacter) : std::nullopt;
 }
 
 // The upper half of code page 850, which older programs still write.
@@ -93,7 +111,7 @@ QString DecodeBytes(const QByteArray& bytes)
         return DecodeAs(bytes, *marked);
     }
     const QByteArray content = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
-    if (const std::optional<QString> text = Strict(content, QStringConverter::Utf8)) {
+    if (const std::optional<QString> text = Utf8(content)) {
         return *text;
     }
     return FromWindows(content);
@@ -137,7 +155,7 @@ eCharset modStatementText::CharsetOf(const QByteArray& bytes)
     if (marked == QStringConverter::Utf16BE) {
         return eCharset::Utf16BE;
     }
-    return Strict(bytes, QStringConverter::Utf8) ? eCharset::Utf8 : eCharset::Windows1252;
+    return Utf8(bytes) ? eCharset::Utf8 : eCharset::Windows1252;
 }
 
 QString modStatementText::DecodeField(const QString& text)

@@ -137,6 +137,9 @@ public:
             }
             at = m_text.mid(open).startsWith(u"<!--") ? End(u"-->", open) : TakeTag(at);
         }
+        if (!m_open.empty()) { // a browser would show what there is
+            m_book.Refusal = cText::Tr("Die Tabelle ist beschädigt oder unvollständig. Es wurde nichts übernommen.");
+        }
         while (!m_open.empty()) {
             EndTable();
         }

@@ -38,6 +38,7 @@ struct cImportResult
     bool NeedsAccount = false;        // refused only because the file names no account and none was given
     bool NeedsAssistant = false;      // refused only because a table is not certain, see eUncertain
     bool HasStrayDetails = false;     // refused only because of details before a transaction, see eStrayDetails
+    QStringList OtherCurrencies;      // refused only because of them: codes
     std::optional<cTableDoubt> Doubt; // refused only because of it
     cImportEntryList Rows;            // with eStagingRun::Try: what would have been staged
     QString Layout;                   // name of the table layout that was recognised

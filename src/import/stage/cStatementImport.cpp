@@ -16,6 +16,7 @@
 #include "import/stage/cLeftOutRows.h"
 #include "import/stage/modEqualRows.h"
 #include "import/stage/modNamelessRows.h"
+#include "import/stage/modStatementCurrency.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTableMemory.h"
 #include "import/xml/modCamt.h"
@@ -27,6 +28,8 @@
 #include <algorithm>
 #include <numeric>
 #include <optional>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -44,6 +47,14 @@ cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
 {
     result.Format = modStatementFormat::Name(format);
     return Refuse(std::move(result), modStatementFormat::Refusal(format));
+}
+
+cImportResult RefuseCurrency(cImportResult result, const cImportOptions& options)
+{
+    const QString currencies = result.OtherCurrencies.join(u", "_s);
+    return Refuse(std::move(result),
+                  cText::Tr("Der Auszug ist in {0}, das Buch in {1}. Beträge werden nicht umgerechnet.",
+                            {currencies, options.BookCurrency}));
 }
 
 // `form` gives the account's new name for the one that it has.
@@ -287,6 +298,11 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
         }
         return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
     }
+    result.OtherCurrencies =
+        modStatementCurrency::Others(read, options.BookCurrency, StagingFor(options.Run), m_balances);
+    if (!result.OtherCurrencies.isEmpty()) {
+        return RefuseCurrency(std::move(result), options);
+    }
     if (read.IsGuessed) {
         read.Problems.prepend({0, modStatementFile::GuessedColumns()});
     }
@@ -387,6 +403,11 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
         result.Problems = read.Problems;
         result.HasStrayDetails = read.HasStrayDetails;
         return Refuse(std::move(result), read.Refusal);
+    }
+    result.OtherCurrencies =
+        modStatementCurrency::Others(read, options.BookCurrency, StagingFor(options.Run), m_balances);
+    if (!result.OtherCurrencies.isEmpty()) {
+        return RefuseCurrency(std::move(result), options);
     }
     AddBalance(fetched, read);
     StageAsOne(std::move(read), options, progress, result, &fetched);

@@ -37,6 +37,7 @@ struct cImportOptions
     eEqualRows Equal = eEqualRows::Report;
     eStrayDetails StrayDetails = eStrayDetails::Refuse;
     eOfxPayee OfxPayee = eOfxPayee::Take; // without it nothing could be proposed
+    QString BookCurrency = {};            // its code: amounts in another one are refused; empty: taken as they are
 };
 
 // Statement files into staged rows.

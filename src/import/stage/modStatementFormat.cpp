@@ -1,7 +1,7 @@
 #include "import/stage/modStatementFormat.h"
 
 #include "base/cText.h"
-#include "import/mt940/modMT940.h"
+#include "import/mt940/modMT940File.h"
 #include "import/qif/modQif.h"
 #include "import/read/modStatementText.h"
 #include "import/sheet/modSpreadsheet.h"
@@ -103,7 +103,7 @@ bool IsText(const QString& /*name*/, const cStatementSource& source)
 
 cStatementRead ReadMt940(const cStatementSource& source, const cReadOptions& options)
 {
-    return modMT940::Read(source.Text, options.Account, options.StrayDetails);
+    return modMT940File::Read(source.Text, options.Account, options.StrayDetails);
 }
 
 struct cFormat

@@ -97,5 +97,6 @@ cTable cTable::Part(int first, int end) const
             part.AddCell(Cell(row, column));
         }
     }
+    part.SetOpenEnded(m_isOpenEnded && end == RowCount());
     return part;
 }

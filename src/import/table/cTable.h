@@ -26,6 +26,10 @@ public:
     // The same for a piece of the table's own text; nothing is copied unless it has to be changed.
     void AddSlice(qsizetype start, qsizetype size);
 
+    // The text ends without the end of its last line, which may have been cut off.
+    void SetOpenEnded(bool isOpenEnded) { m_isOpenEnded = isOpenEnded; }
+    [[nodiscard]] bool IsOpenEnded() const { return m_isOpenEnded; }
+
     [[nodiscard]] int RowCount() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] int CellCount(int row) const;
     [[nodiscard]] int Line(int row) const { return m_rows.at(row).Line; }
@@ -52,4 +56,5 @@ private:
     QString m_changed;
     QList<cSpan> m_cells;
     QList<cRow> m_rows;
+    bool m_isOpenEnded = false;
 };

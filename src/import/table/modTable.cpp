@@ -235,7 +235,9 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
     }
     read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),
                                     [](const cImportEntry& entry) { return entry.ImportAccount.isEmpty(); });
-    if (!read.ClosingBalance && above.Balance) {
+    const bool isCutOff = std::any_of(read.Skipped.begin(), read.Skipped.end(),
+                                      [](const cSkippedRow& row) { return row.Kind == eSkipped::CutOff; });
+    if (!read.ClosingBalance && above.Balance && !isCutOff) { // else it would belong to other rows
         read.ClosingBalance = above.Balance->Cents;
         const QString account = read.Entries.isEmpty() ? above.Account : read.Entries.first().ImportAccount;
         read.Balances.append({account, above.Balance->Cents, above.Balance->Date});

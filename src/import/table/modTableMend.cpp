@@ -80,6 +80,7 @@ public:
             Take(row);
         }
         FlushRow();
+        m_mended.Table.SetOpenEnded(m_table.IsOpenEnded());
         Tell();
         return std::move(m_mended);
     }

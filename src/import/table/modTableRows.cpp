@@ -3,10 +3,12 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "import/read/modAccountNumber.h"
+#include "import/read/modStatementFile.h"
 #include "import/table/cTable.h"
 #include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableDetails.h"
+#include "import/table/modTableEnd.h"
 #include "import/table/modTablePurpose.h"
 #include "import/table/modTableStatus.h"
 #include "import/table/modTableValue.h"
@@ -79,6 +81,7 @@ public:
         if (m_number == eNumberFormat::Detect) {
             DetectNumber();
         }
+        m_cutOff = modTableEnd::CutOffRow(table, layout, m_number);
         for (int column = 0; column < m_map.Names.size(); ++column) {
             if (column != m_map.Date && modCell::MatchesList(m_map.Names.at(column), bookingDayWords)) {
                 m_bookingDay = column;
@@ -178,6 +181,11 @@ private:
         }
         if (IsBalanceRow()) {
             TakeBalanceRow();
+            return;
+        }
+        if (m_row == m_cutOff) {
+            Skip(eSkipped::CutOff, modStatementFile::CutOff(Start()));
+            m_end = m_row; // what follows are lines of its text
             return;
         }
         if (IsLonger(m_columns)) {
@@ -541,6 +549,7 @@ private:
     static constexpr qsizetype mostUnknownStates = 3;
 
     int m_end;                           // behind the last row that is read
+    int m_cutOff = -1;                   // the row within which the text breaks off
     int m_columns = cTable::mostColumns; // a row has no more of them
     int m_bookingDay = -1;
     QList<int> m_others; // columns that may say in what state a row is, beside the one for it

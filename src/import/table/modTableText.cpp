@@ -159,5 +159,6 @@ cTable modTableText::Split(const QString& text, QChar separator, int firstLine)
 {
     cTable table(text);
     cSplitter(text, separator, table).Run(firstLine);
+    table.SetOpenEnded(!text.endsWith(u'\n') && !text.endsWith(u'\r'));
     return table;
 }

@@ -420,6 +420,7 @@ void cBankFetch::Stage(cRun& run, cProgress& progress)
 void cBankFetch::NoteTaken(const cCame& came, const cImportResult& result)
 {
     cLine& line = m_lines[came.Place];
+    line.HasOtherCurrency = !result.OtherCurrencies.isEmpty();
     if (result.IsCancelled || result.IsRefused) {
         Fail(came.Place, result.IsCancelled ? Cancelled() : cBankFailure{eBankFault::BrokenAnswer, result.Message, {}});
         return;

@@ -96,6 +96,7 @@ public:
         int LeftOut = 0;               // pending, without amount, or deleted by the user before
         int Equal = 0;                 // the statement has them more often than the book, and no balance proves them
         std::optional<qint64> Balance; // cents, signed, as the bank tells it
+        bool HasOtherCurrency = false; // than the book, which is why nothing was taken
         QString Text;                  // "5 neu, 7 schon vorhanden", or why not
         QString BalanceText;           // "1.234,56 € am 15.03.2026"; empty when not known
         cBankFailure Failure;          // in the words of the user, the bank's own beside them

@@ -75,7 +75,7 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
     QStringList lines{cText::Tr("{0}: {1}", {name, Numbers(result, format)})};
     QList<cReadProblem> problems = result.Problems;
     for (const cSkippedRow& row : result.Skipped) {
-        problems.append(row.Reason);
+        problems.insert(row.Kind == eSkipped::CutOff ? 0 : problems.size(), row.Reason); // what is cut off says most
     }
     for (const cReadProblem& problem : problems.first(qMin(problems.size(), shownProblems))) {
         lines.append(Problem(problem));

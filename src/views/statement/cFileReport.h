@@ -25,7 +25,7 @@ struct cFileReport
     struct cLeftOut
     {
         cLine Reason;
-        QString Kind; // "pending", "balance", "unreadable", "otherCurrency"
+        QString Kind; // "pending", "balance", "unreadable", "otherCurrency", "void", "cutOff"
         cImportEntry Entry;
     };
 
@@ -48,7 +48,8 @@ struct cFileReport
     QStringList Notes;   // what else became of the file: accounts that its numbers belong to now
     bool IsDone = false; // all of it is as it should be
 
-    bool HasStrayDetails = false; // refused only because of them, see cFileWish
+    bool HasStrayDetails = false;  // refused only because of them, see cFileWish
+    bool HasOtherCurrency = false; // likewise
 };
 
 // What a file is and how it would be read.

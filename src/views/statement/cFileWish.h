@@ -13,9 +13,10 @@ struct cFileWish
     QString Columns{};     // of a table: "datum=0,betrag=5,zweck=3"
     QString Sign{};        // of modTableOption::SignNames; of a table that does not tell which way its amounts count
     bool KeepsDuplicates = false;
-    bool KeepsStart = false; // the first statement of an account changes no start balance
-    bool TakesEqual = false; // rows that the file has more often than the book, also where no balance proves them
-    bool Remembers = false;  // columns and layout, for the next table with the same header
-    bool IsTrial = false;    // nothing is written
+    bool KeepsStart = false;    // the first statement of an account changes no start balance
+    bool TakesEqual = false;    // rows that the file has more often than the book, also where no balance proves them
+    bool Remembers = false;     // columns and layout, for the next table with the same header
+    bool IsTrial = false;       // nothing is written
+    bool TakesCurrency = false; // another than the book's
     bool SkipsStrayDetails = false; // of an MT940 statement, before its first transaction
 };

@@ -2,6 +2,7 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
+#include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
 #include "import/propose/cBooking.h"
@@ -50,6 +51,7 @@ QString Name(eSkipped kind)
     case eSkipped::Unreadable: return u"unreadable"_s;
     case eSkipped::OtherCurrency: return u"otherCurrency"_s;
     case eSkipped::Void: return u"void"_s;
+    case eSkipped::CutOff: return u"cutOff"_s;
     }
     return {};
 }
@@ -95,6 +97,7 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
     }
     report.IsRefused = result.IsRefused;
     report.HasStrayDetails = result.HasStrayDetails;
+    report.HasOtherCurrency = !result.OtherCurrencies.isEmpty();
     report.Message = result.Message;
     if (result.Doubt) {
         report.Message = cText::Tr("{0} {1} Lesen Sie sie mit \"--sign {2}\" oder \"--sign {3}\" ein.",
@@ -356,6 +359,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.Table = modTableOption::Choice(wish);
     options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
     options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
+    options.BookCurrency = wish.TakesCurrency ? QString() : m_tools.Format.CurrencyCode();
     cNoProgress progress;
     const QStringList known = cImportHive::AccountsOf(Rows());
     const int next = m_works->Hive.GetImportHive().NextId();

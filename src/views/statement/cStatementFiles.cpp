@@ -4,6 +4,7 @@
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modCount.h"
+#include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/read/cStatementSource.h"
 #include "import/read/modStatementFile.h"
@@ -239,7 +240,8 @@ cImportResult cStatementFiles::ImportFile(const cFile& file, cRun& run)
 
 void cStatementFiles::NoteRefusal(const cImportResult& result, cRun& run)
 {
-    if (result.IsRefused && !result.HasStrayDetails) { // of those the user has been asked
+    const bool isAsked = result.HasStrayDetails || !result.OtherCurrencies.isEmpty();
+    if (result.IsRefused && !isAsked) {
         run.Refusals.append(QFileInfo(result.File).fileName() + u'\n' + result.Message);
     }
 }
@@ -256,20 +258,25 @@ cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
 
 cImportResult cStatementFiles::OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import)
 {
+    if (m_currency != eCurrency::Take) {
+        options.BookCurrency = m_tools.Format.CurrencyCode();
+    }
     cImportResult result = import(options);
-    if (!result.HasStrayDetails) {
-        return result;
+    if (result.HasStrayDetails) {
+        run.Progress.hideProgressBar();
+        if (IsWantedWithoutStrays(result)) {
+            options.StrayDetails = eStrayDetails::PassOver;
+            result = import(options);
+        }
     }
-    run.Progress.hideProgressBar();
-    const QString name = result.IsFetched ? result.File : QFileInfo(result.File).fileName();
-    const cDecision decision{.Text = name + u'\n' + result.Message,
-                             .Title = cText::Tr("Kontoauszug einlesen"),
-                             .Options = {cText::Tr("&Ohne diese Zeilen lesen"), cText::Tr("&Nicht einlesen")}};
-    if (m_tools.User.Decide(decision) != 0) {
-        return result;
+    if (!result.OtherCurrencies.isEmpty() && m_currency == eCurrency::Ask) {
+        run.Progress.hideProgressBar();
+        if (IsCurrencyWanted(result)) {
+            options.BookCurrency.clear();
+            result = import(options);
+        }
     }
-    options.StrayDetails = eStrayDetails::PassOver;
-    return import(options);
+    return result;
 }
 
 // A file that does not name its account is read with the number that the user gives.
@@ -304,7 +311,9 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     }
     options.DefaultAccount = number;
     options.Uncertain = eUncertain::Read;
-    const cImportResult second = m_works->Import.ImportFile(path, options, run.Progress);
+    const cImportResult second = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
+        return m_works->Import.ImportFile(path, wanted, run.Progress);
+    });
     if (!second.IsRefused && !second.IsCancelled) {
         m_works->Memory.SaveAccount(second.AccountKey, number);
     }

@@ -68,6 +68,11 @@ public:
     enum class eStart { Ask, Take, Leave };
     void SetStart(eStart start) { m_start = start; }
 
+    // A file in another currency than the book, of an account that had none in it: the user is asked, or it is taken or
+    // refused without a word.
+    enum class eCurrency { Ask, Take, Refuse };
+    void SetCurrency(eCurrency currency) { m_currency = currency; }
+
     // Asks which accounts of the book the numbers belong to, as far as that is not known, and what these began with.
     void AskAccounts(const QStringList& numbers);
 
@@ -121,10 +126,12 @@ private:
     [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
     [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cImportOptions options,
                                               cRun& run);
-    // Imports with the options, and once more without the lines for which it was refused where the user wants that.
+    // Imports with the options, and once more where the user wants that in spite of why it was refused.
     using fnImport = std::function<cImportResult(const cImportOptions&)>;
     [[nodiscard]] cImportResult OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import);
     [[nodiscard]] cImportResult Assist(const cFile& file, cRun& run);
+    [[nodiscard]] bool IsWantedWithoutStrays(const cImportResult& result);
+    [[nodiscard]] bool IsCurrencyWanted(const cImportResult& result);
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
@@ -149,4 +156,5 @@ private:
     QList<cLeftOut> m_leftOut;
     eRepeats m_repeats = eRepeats::Ask;
     eStart m_start = eStart::Ask;
+    eCurrency m_currency = eCurrency::Ask;
 };

@@ -1,14 +1,43 @@
-// What cStatementFiles asks about accounts once the rows are there.
+// What cStatementFiles asks about a file that was refused, and about accounts once the rows are there.
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
+#include "import/stage/cImportResult.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/list/modImportText.h"
 #include "views/statement/cStatementFiles.h"
 
+#include <QFileInfo>
+
 #include <utility>
+
+namespace {
+
+QString NameOf(const cImportResult& result)
+{
+    return result.IsFetched ? result.File : QFileInfo(result.File).fileName();
+}
+
+} // namespace
+
+bool cStatementFiles::IsWantedWithoutStrays(const cImportResult& result)
+{
+    const cDecision decision{.Text = NameOf(result) + u'\n' + result.Message,
+                             .Title = cText::Tr("Kontoauszug einlesen"),
+                             .Options = {cText::Tr("&Ohne diese Zeilen lesen"), cText::Tr("&Nicht einlesen")}};
+    return m_tools.User.Decide(decision) == 0;
+}
+
+bool cStatementFiles::IsCurrencyWanted(const cImportResult& result)
+{
+    return m_tools.User.Ask({.Text = NameOf(result) + u'\n'
+                                 + cText::Tr("{0}\n\nSoll er trotzdem eingelesen werden?", {result.Message}),
+                             .Title = cText::Tr("Andere Währung"),
+                             .Default = eAnswer::No})
+        == eAnswer::Yes;
+}
 
 void cStatementFiles::OfferStart(const QStringList& numbers)
 {

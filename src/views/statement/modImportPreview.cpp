@@ -18,6 +18,7 @@ QString modImportPreview::Kind(eSkipped kind)
     case eSkipped::Unreadable: return cText::Tr("nicht lesbar");
     case eSkipped::OtherCurrency: return cText::Tr("andere Währung");
     case eSkipped::Void: return cText::Tr("nicht ausgeführt");
+    case eSkipped::CutOff: return cText::Tr("vielleicht abgeschnitten");
     }
     return {};
 }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class cBankBalances;
+class cStaging;
+struct cStatementRead;
+
+// The currency of what a statement lists. Amounts are taken as they are, so it should be the book's.
+namespace modStatementCurrency {
+
+// The codes of the others. One in which the account already has rows does not count: the user has agreed to it.
+[[nodiscard]] QStringList Others(const cStatementRead& read, const QString& book, cStaging& staging,
+                                 const cBankBalances* balances);
+
+} // namespace modStatementCurrency
