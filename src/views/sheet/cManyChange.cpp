@@ -15,6 +15,7 @@
 #include "views/entry/cStartBalance.h"
 #include "views/entry/modEntryFields.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/list/modUnsaved.h"
 
 #include <QSet>
 
@@ -170,6 +171,11 @@ cManyChange::eSaved cManyChange::Save(const cManyFields& fields)
     const cEntryItemList changed = Changed(fields, {});
     const eSaved checked = Check(fields, changed);
     return checked == eSaved::Saved ? Store(changed) : checked;
+}
+
+eAnswer cManyChange::AskToSave() const
+{
+    return modUnsaved::Ask(m_tools.User);
 }
 
 cManyChange::eSaved cManyChange::Store(const cEntryItemList& changed) const
