@@ -227,6 +227,7 @@ void testMainModel::NewBookStartsWithTheResetView()
     }
     QVERIFY(!model.IsChecked(modSettingKey::ViewAllBalances));
     QVERIFY(model.EmptyHint().contains(u"Strg+N"_s));
+    QVERIFY(model.Hint().isEmpty()); // there is nothing that could reach to 2050
 }
 
 // Only the period is stored, as a book of an older version may have it.

@@ -143,6 +143,8 @@ private Q_SLOTS:
         scene.Row(6, 1000, u"Übertrag"_s, transfer.ID);
         scene.Row(10, -6000, u"Miete"_s, scene.Entry(10, 6000, u"Miete"_s, u"Monatlich"_s));
         cReconcileListModel model(scene.Tools);
+        model.Show({});
+        QCOMPARE(model.Finding(), QString()); // without a number there is nothing to say of it
         model.Show(number);
         QCOMPARE(Shown(model), QStringList());
         QVERIFY2(model.Finding().startsWith(u"Das Konto 'Girokonto' stimmt bis 31.05.2026 "),

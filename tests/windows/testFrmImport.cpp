@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -92,6 +93,21 @@ class testFrmImport final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void NamesStayReadableWhereItIsNarrow()
+    {
+        cScene scene;
+        QVERIFY(!scene.Tree.isColumnHidden(cStagedListModel::Reason));
+        const int letter = scene.Page.fontMetrics().averageCharWidth();
+        scene.Page.resize(letter * 75, 600);
+        QVERIFY(scene.Tree.isColumnHidden(cStagedListModel::Reason));
+        for (const int column : {cStagedListModel::Counterparty, cStagedListModel::Category}) {
+            QVERIFY(scene.Tree.columnWidth(column) >= letter * 10);
+        }
+        QVERIFY(scene.Tree.header()->length() <= scene.Tree.viewport()->width());
+        scene.Page.resize(1200, 600);
+        QVERIFY(!scene.Tree.isColumnHidden(cStagedListModel::Reason));
+    }
+
     void KeysBookAndDelete()
     {
         cScene scene;

@@ -172,6 +172,9 @@ private Q_SLOTS:
         QTRY_COMPARE(scene.Tabs.currentIndex(), 0);
         scene.Window.reject();
         QVERIFY(scene.Window.isVisible());
+        QTest::keyClick(&limit, Qt::Key_Escape); // the question is cancelled
+        QCOMPARE(limit.text(), u"viel"_s);
+        scene.Book.User.Answers = {eAnswer::No};
         QTest::keyClick(&limit, Qt::Key_Escape); // gives up the text, not the window
         QVERIFY(scene.Window.isVisible());
         QVERIFY(limit.text().isEmpty());

@@ -55,12 +55,17 @@ void testFrmPersonen::PeopleAndSharesByKeyboard()
     QCOMPARE(people.Stored(u"Girokonto"_s).size(), 2);
     shares.item(row, 1)->setText(u"x"_s);
     QCOMPARE(shares.Wrong().size(), 1);
-    QTest::keyClick(&form, Qt::Key_Escape); // the question is declined
+    book.User.Answers = {eAnswer::Yes, eAnswer::Yes};
+    QTest::keyClick(&form, Qt::Key_Escape);
     QVERIFY(form.isVisible());
+    QCOMPARE(book.User.Shown.size(), 1); // what is wrong cannot be saved
     shares.item(row, 1)->setText(u"30"_s);
     QVERIFY(shares.Wrong().isEmpty());
+    QTest::keyClicks(&name, u"Cleo"_s);
     QTest::keyClick(&form, Qt::Key_Escape);
     QVERIFY(!form.isVisible());
+    QCOMPARE(people.Names().size(), 3);
+    QCOMPARE(book.User.Asked.size(), 2);
 }
 
 void testFrmPersonen::PayerIsAskedForAmongSeveral()

@@ -107,6 +107,11 @@ void testFrmSicherungen::UnusableFolderIsRefused()
         QVERIFY(window.isVisible());
         QCOMPARE(machine.User.Shown.constLast(), u"In den Ordner '%1' kann nicht geschrieben werden."_s.arg(folder));
     }
+    machine.User.Answers = {eAnswer::Yes, eAnswer::No};
+    window.reject();
+    QVERIFY(window.isVisible()); // as refused as before
+    window.reject();
+    QVERIFY(!window.isVisible());
     QCOMPARE(machine.Plan.Folder(), machine.Plan.DefaultFolder());
 }
 

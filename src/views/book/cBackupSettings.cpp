@@ -11,6 +11,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "views/list/modFileSize.h"
+#include "views/list/modUnsaved.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -82,4 +83,9 @@ bool cBackupSettings::Save(const cFields& fields) const
         return false;
     }
     return true;
+}
+
+eAnswer cBackupSettings::AskToSave() const
+{
+    return modUnsaved::Ask(m_parts.User);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/cUser.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -7,7 +9,6 @@ class cBook;
 class cClock;
 class cConfiguration;
 class cShell;
-class cUser;
 
 // The automatic backups of the open book, as the user sets them up.
 class cBackupSettings
@@ -27,6 +28,8 @@ public:
         int Count = 0; // 0: no automatic backups
         QString Folder;
         bool HasReceipts = false; // the receipts are copied as well
+
+        bool operator==(const cFields&) const = default;
     };
 
     static constexpr int MostCount = 999;
@@ -42,6 +45,7 @@ public:
 
     // Stores the fields. False, with a message, when the folder cannot be used or the book cannot be written.
     [[nodiscard]] bool Save(const cFields& fields) const;
+    [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
 
 private:
     cParts m_parts;

@@ -10,6 +10,7 @@
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
 #include "views/list/modUnread.h"
+#include "views/list/modUnsaved.h"
 
 #include <algorithm>
 
@@ -512,8 +513,6 @@ bool cBudgetModel::MayClose()
     if (!m_edit.IsChanged() && m_faulty.isEmpty()) {
         return true;
     }
-    const eAnswer answer = m_tools.User.Ask({.Text = cText::Tr("Möchten Sie das geänderte Budget speichern?"),
-                                             .Title = cText::Tr("Budget"),
-                                             .Buttons = eButtons::YesNoCancel});
+    const eAnswer answer = modUnsaved::Ask(m_tools.User);
     return answer == eAnswer::No || (answer == eAnswer::Yes && Save());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "model/cEntryItem.h"
 #include "views/entry/cEntryDraft.h"
 #include "views/entry/cEntryFields.h"
@@ -63,8 +64,9 @@ public:
     // The day from which typed distances such as "+7" count.
     [[nodiscard]] QDate Today() const;
 
-    // True when nothing was typed since `shown`, or the user agrees to lose it.
-    [[nodiscard]] bool MayClose(const cFields& shown, const cFields& now) const;
+    // Whether anything was typed since `shown`; the empty table of a split is no text.
+    [[nodiscard]] static bool IsTyped(const cFields& shown, const cFields& now);
+    [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
 
     [[nodiscard]] bool IsNew() const { return m_ids.isEmpty(); }
     [[nodiscard]] QString Title(const cFields& fields) const; // of the window

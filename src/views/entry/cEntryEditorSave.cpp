@@ -21,6 +21,7 @@
 #include "views/entry/modEntryFields.h"
 #include "views/entry/modSplitParts.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/list/modUnsaved.h"
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cReceipts.h"
 
@@ -137,16 +138,19 @@ QDate cEntryEditor::Today() const
     return m_tools.Clock.Today();
 }
 
-bool cEntryEditor::MayClose(const cFields& shown, const cFields& now) const
+bool cEntryEditor::IsTyped(const cFields& shown, const cFields& now)
 {
-    if (now == shown) {
-        return true;
+    cFields whole = now;
+    if (shown.Face == eEntryFace::Normal && now.Face == eEntryFace::Split && modSplitParts::CountFilled(now) == 0) {
+        whole.Face = shown.Face;
+        whole.Parts = shown.Parts;
     }
-    return m_tools.User.Ask({.Text = cText::Tr("Die Eingaben sind noch nicht gespeichert.\nSoll das Fenster trotzdem "
-                                               "geschlossen werden?"),
-                             .Title = cText::Tr("Nicht gespeichert"),
-                             .Default = eAnswer::No})
-        == eAnswer::Yes;
+    return whole != shown;
+}
+
+eAnswer cEntryEditor::AskToSave() const
+{
+    return modUnsaved::Ask(m_tools.User);
 }
 
 bool cEntryEditor::HasCorrections(const cFields& fields) const

@@ -13,6 +13,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/list/modUnsaved.h"
 
 #include <cstdlib>
 
@@ -130,6 +131,11 @@ cSeriesChange::eSaved cSeriesChange::SavePeriod(const cPeriodFields& fields)
     }
     const std::optional<QDate> moveTo = fields.Today.isValid() ? std::optional(day) : std::nullopt;
     return CorrectPeriod(fields.EntryId, fields.Day, *cents, fields.Comment, moveTo) ? eSaved::Saved : eSaved::Refused;
+}
+
+eAnswer cSeriesChange::AskToSave() const
+{
+    return modUnsaved::Ask(m_tools.User);
 }
 
 bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment,

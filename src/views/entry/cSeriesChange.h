@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "base/modSum.h"
 #include "model/cEntryItem.h"
 #include "model/cEntryItemFixMod.h"
@@ -53,6 +54,7 @@ public:
 
     [[nodiscard]] std::optional<cPeriodFields> StartPeriod(int entryId, QDate day, QDate today = {});
     [[nodiscard]] eSaved SavePeriod(const cPeriodFields& fields);
+    [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
 
     // `moveTo` is the day to which the occurrence moves, the planned one for an invalid day; without it, it stays where
     // it is.

@@ -53,6 +53,9 @@ QString modSplitParts::RestText(const cEntryFields& fields)
     if (!rest) {
         return cText::Tr("Ein Betrag ist keine Zahl.");
     }
+    if (*rest == 0 && CountFilled(fields) == 0) {
+        return {};
+    }
     return *rest == 0 ? cText::Tr("Die Summe stimmt.") : cText::Tr("Rest: {0}", {AmountText(*rest, fields.Decimal)});
 }
 

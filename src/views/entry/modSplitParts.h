@@ -20,7 +20,7 @@ namespace modSplitParts {
 [[nodiscard]] std::optional<qint64> Rest(const cEntryFields& fields);
 
 // The rest for the user: "Rest: 3,50", "Die Summe stimmt." or that an amount cannot be read. Empty for an entry that is
-// not split.
+// not split, and as long as there is no amount.
 [[nodiscard]] QString RestText(const cEntryFields& fields);
 
 // Adds the rest to the amount of a row. False when the rest is not known or the row does not exist.

@@ -199,6 +199,9 @@ QString cReconciliation::Finding() const
 {
     const QStringList values{Account(), modDate::ToText(m_until), m_tools.Format.Cents(m_book),
                              m_tools.Format.Cents(m_bank.value_or(0)), QString::number(m_items.size())};
+    if (Number().isEmpty()) {
+        return {}; // nothing is imported yet
+    }
     if (Account().isEmpty()) {
         return cText::Tr("Diese Kontonummer ist noch keinem Konto Ihres Buchs zugeordnet.");
     }

@@ -527,10 +527,10 @@ QString cMainModel::CountText() const
 
 QString cMainModel::Hint() const
 {
-    const modPeriod::cRange range = ShownRange();
-    const bool reachesOpenEnd = m_view.ShowsFuture && m_view.ShowsFix && !range.End.isValid();
-    return reachesOpenEnd ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.")
-                          : QString();
+    const bool isEndless = m_view.ShowsFuture && m_view.ShowsFix && !ShownRange().End.isValid();
+    return isEndless && m_tools.Data.CountEntries() > 0
+        ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.")
+        : QString();
 }
 
 QString cMainModel::EmptyTitle() const

@@ -10,6 +10,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/list/modUnsaved.h"
 #include "views/list/modViewRecord.h"
 
 #include <algorithm>
@@ -203,16 +204,16 @@ QStringList cPeople::WithRest(QStringList percents, qsizetype typed)
     return percents;
 }
 
-bool cPeople::MayLeave(const QStringList& wrong) const
+eAnswer cPeople::AskToSave() const
+{
+    return modUnsaved::Ask(m_tools.User);
+}
+
+bool cPeople::AreStored(const QStringList& wrong) const
 {
     return wrong.isEmpty()
-        || m_tools.User.Ask(
-               {.Text = cText::Tr("Diese Anteile sind nicht vollständig und werden nicht gespeichert:\n{0}\n"
-                                  "Soll das Fenster trotzdem geschlossen werden?",
-                                  {wrong.join(u'\n')}),
-                .Title = cText::Tr("Personen"),
-                .Default = eAnswer::No})
-        == eAnswer::Yes;
+        || Refuse(cText::Tr("Diese Anteile sind nicht vollständig und werden nicht gespeichert:\n{0}",
+                            {wrong.join(u'\n')}));
 }
 
 bool cPeople::Store(const QString& account, const modPeople::cShares& shares)

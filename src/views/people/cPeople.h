@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "model/modPeople.h"
 #include "views/people/modSettlement.h"
 
@@ -38,8 +39,8 @@ public:
     QString TakeShares(const QString& account, const QStringList& percents);
     // Of two people the other one has the rest; the percentages with it.
     [[nodiscard]] static QStringList WithRest(QStringList percents, qsizetype typed);
-    // Whether the window may be closed while rows are not stored, with what is wrong with them.
-    [[nodiscard]] bool MayLeave(const QStringList& wrong) const;
+    [[nodiscard]] eAnswer AskToSave() const;                      // see modUnsaved
+    [[nodiscard]] bool AreStored(const QStringList& wrong) const; // shows the rows that are not, with what is wrong
 
     // How many entries name the person as payer; a series counts once.
     [[nodiscard]] qsizetype CountOf(const QString& name) const;

@@ -10,6 +10,7 @@
 #include "views/entry/cEntrySuggestions.h"
 #include "views/list/modBookNames.h"
 #include "views/list/modImportText.h"
+#include "views/list/modUnsaved.h"
 #include "views/rule/cRuleTrial.h"
 #include "views/rule/modRuleText.h"
 
@@ -112,10 +113,7 @@ bool cRuleEditor::Leave()
     if (!IsChanged()) {
         return true;
     }
-    const eAnswer answer =
-        m_tools.User.Ask({.Text = cText::Tr("Die Regel wurde geändert. Soll sie gespeichert werden?"),
-                          .Title = cText::Tr("Regeln"),
-                          .Buttons = eButtons::YesNoCancel});
+    const eAnswer answer = modUnsaved::Ask(m_tools.User);
     return answer == eAnswer::No || (answer == eAnswer::Yes && Save());
 }
 

@@ -14,6 +14,7 @@
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/cStartBalance.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/list/modUnsaved.h"
 
 #include <QSet>
 
@@ -169,6 +170,11 @@ cManyChange::eSaved cManyChange::Save(const cManyFields& fields)
     const cEntryItemList changed = Changed(fields, {});
     const eSaved checked = Check(fields, changed);
     return checked == eSaved::Saved ? Store(changed) : checked;
+}
+
+eAnswer cManyChange::AskToSave() const
+{
+    return modUnsaved::Ask(m_tools.User);
 }
 
 cManyChange::eSaved cManyChange::Store(const cEntryItemList& changed) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "model/cEntryItem.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/list/cEntryListModel.h"
@@ -18,6 +19,8 @@ struct cManyFields
     QString Description{};
     QString Type{};   // a word of modWord::EntryTypes
     QString Target{}; // of transfers
+
+    bool operator==(const cManyFields&) const = default;
 };
 
 // Changes several entries of the list at once, as one step. An occurrence stands for its whole series, because only
@@ -42,6 +45,7 @@ public:
     // Whether the target account means anything: a transfer is chosen, or one is among them and stays one.
     [[nodiscard]] bool ShowsTarget(const QString& type) const;
 
+    [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
     // Checks, asks about days that agree with the bank, and stores.
     [[nodiscard]] eSaved Save(const cManyFields& fields);
     // The same after a question that says what becomes of how many; for where no form says so. In a list of the account

@@ -15,6 +15,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/budget/modLimits.h"
+#include "views/list/modUnsaved.h"
 #include "views/look/cCategoryLooks.h"
 #include "views/template/cBankNumbers.h"
 #include "views/template/cTemplateFlow.h"
@@ -157,6 +158,11 @@ std::optional<QString> cTemplateManager::Save(const cTemplateNode& node, const c
     const std::optional<QString> name = cTemplateWriter(m_tools).Save(node, old, fields);
     Tell(name && fields != old);
     return name;
+}
+
+eAnswer cTemplateManager::AskToSave() const
+{
+    return modUnsaved::Ask(m_tools.User);
 }
 
 std::optional<cTemplateItem> cTemplateManager::FindCategory(const QString& path) const

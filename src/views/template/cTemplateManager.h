@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "model/cTemplateItem.h"
 #include "views/list/cTreeLayout.h"
 #include "views/template/cTemplateTreeModel.h"
@@ -40,6 +41,7 @@ public:
     [[nodiscard]] std::optional<cTemplateFields> Load(const cTemplateNode& node) const;
     [[nodiscard]] std::optional<QString> Save(const cTemplateNode& node, const cTemplateFields& old,
                                               const cTemplateFields& fields);
+    [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
 
     // Adds a definition with these names. Its path or name; empty when refused.
     QString AddCategory(const QString& main, const QString& sub);

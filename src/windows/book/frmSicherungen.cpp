@@ -81,9 +81,24 @@ void frmSicherungen::ChooseFolder()
     m_folder->setText(m_settings.ChooseFolder(m_folder->text()));
 }
 
+cBackupSettings::cFields frmSicherungen::Read() const
+{
+    return {m_count->value(), m_folder->text(), m_receipts->isChecked()};
+}
+
+void frmSicherungen::reject()
+{
+    const eAnswer answer = Read() == m_settings.Current() ? eAnswer::No : m_settings.AskToSave();
+    if (answer == eAnswer::Yes) {
+        Save();
+    } else if (answer == eAnswer::No) {
+        QDialog::reject();
+    }
+}
+
 void frmSicherungen::Save()
 {
-    if (m_settings.Save({m_count->value(), m_folder->text(), m_receipts->isChecked()})) {
+    if (m_settings.Save(Read())) {
         accept();
     }
 }

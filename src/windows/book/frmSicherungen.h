@@ -17,9 +17,12 @@ class frmSicherungen final : public QDialog
 public:
     explicit frmSicherungen(cBackupSettings& settings, QWidget* parent = nullptr);
 
+    void reject() override; // asks before something typed is lost
+
 private:
     void BuildFields(QFormLayout& form);
     void ChooseFolder();
+    [[nodiscard]] cBackupSettings::cFields Read() const;
     void Save();
 
     cBackupSettings& m_settings;

@@ -31,10 +31,11 @@ frmKorrektur::eTaken Taken(modCorrections::eSet set)
 
 } // namespace
 
-cCorrectionsPage::cCorrectionsPage(QDate today, fnFields fields, QWidget* parent)
+cCorrectionsPage::cCorrectionsPage(QDate today, fnFields fields, fnAnswer askToSave, QWidget* parent)
     : QWidget(parent),
       m_today(today),
       m_fields(std::move(fields)),
+      m_askToSave(std::move(askToSave)),
       m_list(new QTreeWidget(this)),
       m_add(new QPushButton(cText::Tr("&Hinzufügen…"), this)),
       m_change(new QPushButton(cText::Tr("&Ändern…"), this)),
@@ -134,6 +135,7 @@ void cCorrectionsPage::Add()
                                return Taken(
                                    modCorrections::Set(values.Day, values.Amount, values.Comment, m_today, fields));
                            },
+                       .AskToSave = m_askToSave,
                        .Remove = {}},
                       this);
     if (form.exec() == QDialog::Accepted) {
@@ -158,6 +160,7 @@ void cCorrectionsPage::Change()
                            [&](const frmKorrektur::cValues& values) {
                                return Taken(modCorrections::Change(line, values.Amount, values.Comment, fields));
                            },
+                       .AskToSave = m_askToSave,
                        .Remove = {}},
                       this);
     if (form.exec() == QDialog::Accepted) {

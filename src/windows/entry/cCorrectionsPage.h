@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "model/cEntryItemFixMod.h"
 #include "views/entry/cEntryFields.h"
 
@@ -19,9 +20,11 @@ class cCorrectionsPage final : public QWidget
 
 public:
     using fnFields = std::function<cEntryFields()>;
+    using fnAnswer = std::function<eAnswer()>;
 
-    // `fields` gives the entry as it is typed at the moment.
-    cCorrectionsPage(QDate today, fnFields fields, QWidget* parent = nullptr);
+    // `fields` gives the entry as it is typed at the moment, `askToSave` asks before what is typed for a correction is
+    // lost.
+    cCorrectionsPage(QDate today, fnFields fields, fnAnswer askToSave, QWidget* parent = nullptr);
 
     // Lists the corrections of the fields.
     void ShowLines();
@@ -42,6 +45,7 @@ private:
 
     QDate m_today;
     fnFields m_fields;
+    fnAnswer m_askToSave;
     QTreeWidget* m_list;
     QPushButton* m_add;
     QPushButton* m_change;

@@ -29,7 +29,7 @@ frmBuchung::frmBuchung(cEntryEditor& editor, const cEntryFields& fields, QWidget
       m_pages(new QTabWidget(this)),
       m_form(new cEntryForm(editor, fields, m_pages)),
       m_corrections(new cCorrectionsPage(
-          editor.Today(), [this] { return m_form->Read(); }, m_pages)),
+          editor.Today(), [this] { return m_form->Read(); }, [this] { return m_editor.AskToSave(); }, m_pages)),
       chkCloseDialog(new QCheckBox(cText::Tr("Nach dem Speichern s&chließen"), this)),
       m_savedBox(new QWidget(this)),
       m_saved(new QListWidget(m_savedBox)),
@@ -142,18 +142,26 @@ void frmBuchung::Save()
     m_form->Settle();
     const bool isNew = m_editor.IsNew();
     const cEntryFields fields = m_form->Read();
-    const cEntryEditor::eSaved saved = m_editor.Save(fields);
-    if (saved != cEntryEditor::eSaved::Saved) {
-        m_pages->setCurrentWidget(m_form);
-        m_form->ShowFailure(saved);
+    if (!Store(fields)) {
         return;
     }
-    Q_EMIT EntrySaved();
     if (chkCloseDialog->isChecked() || !isNew) {
         accept();
         return;
     }
     GoOn(fields);
+}
+
+bool frmBuchung::Store(const cEntryFields& fields)
+{
+    const cEntryEditor::eSaved saved = m_editor.Save(fields);
+    if (saved != cEntryEditor::eSaved::Saved) {
+        m_pages->setCurrentWidget(m_form);
+        m_form->ShowFailure(saved);
+        return false;
+    }
+    Q_EMIT EntrySaved();
+    return true;
 }
 
 // The window stays for the next entry.
@@ -169,9 +177,12 @@ void frmBuchung::GoOn(const cEntryFields& saved)
 
 void frmBuchung::reject()
 {
-    m_form->Settle();
-    if (m_editor.MayClose(m_shown, m_form->Read())) {
+    const std::optional<cEntryFields> typed = Unsaved();
+    const eAnswer answer = typed ? m_editor.AskToSave() : eAnswer::No;
+    if (answer == eAnswer::No) {
         QDialog::reject();
+    } else if (answer == eAnswer::Yes && Store(*typed)) {
+        accept();
     }
 }
 
@@ -186,5 +197,5 @@ std::optional<cEntryFields> frmBuchung::Unsaved()
 {
     m_form->Settle();
     const cEntryFields fields = m_form->Read();
-    return fields == m_shown ? std::nullopt : std::optional(fields);
+    return cEntryEditor::IsTyped(m_shown, fields) ? std::optional(fields) : std::nullopt;
 }

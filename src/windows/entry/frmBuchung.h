@@ -44,6 +44,7 @@ private:
     void ShowCorrections();
     void ToggleSplit();
     void Save();
+    [[nodiscard]] bool Store(const cEntryFields& fields);
     void GoOn(const cEntryFields& saved);
 
     cEntryEditor& m_editor;

@@ -32,6 +32,7 @@ frmKorrektur::cParts PartsFor(cSeriesChange& change, const cSeriesChange::cPerio
     parts.Today = fields.Today;
     parts.IsAmountFirst = true;
     parts.Decimal = fields.Decimal;
+    parts.AskToSave = [&change] { return change.AskToSave(); };
     parts.Take = [&change, fields](const frmKorrektur::cValues& values) {
         cSeriesChange::cPeriodFields typed = fields;
         typed.DayText = values.Day;
@@ -64,6 +65,7 @@ frmKorrektur::frmKorrektur(const cParts& parts, QWidget* parent)
     m_day->setText(parts.Values.Day);
     txtBetrag->setText(parts.Values.Amount);
     txtKommentar->setText(parts.Values.Comment);
+    m_shown = Read();
     txtBetrag->selectAll();
     const bool isDayFirst = parts.Today.isValid() && !parts.IsAmountFirst;
     (isDayFirst ? static_cast<QWidget*>(m_day) : txtBetrag)->setFocus();
@@ -110,9 +112,24 @@ void frmKorrektur::BuildButtons(QLayout& layout)
     layout.addWidget(buttons);
 }
 
+frmKorrektur::cValues frmKorrektur::Read() const
+{
+    return {m_day->text(), txtBetrag->text(), txtKommentar->text()};
+}
+
+void frmKorrektur::reject()
+{
+    const eAnswer answer = Read() == m_shown ? eAnswer::No : m_parts.AskToSave();
+    if (answer == eAnswer::Yes) {
+        Save();
+    } else if (answer == eAnswer::No) {
+        QDialog::reject();
+    }
+}
+
 void frmKorrektur::Save()
 {
-    const eTaken taken = m_parts.Take({m_day->text(), txtBetrag->text(), txtKommentar->text()});
+    const eTaken taken = m_parts.Take(Read());
     if (taken == eTaken::Done) {
         Q_EMIT CorrectionSaved();
         accept();

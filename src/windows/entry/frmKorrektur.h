@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "views/entry/cSeriesChange.h"
 
 #include <QDate>
@@ -25,6 +26,8 @@ public:
         QString Day; // as typed; only where the form asks for it
         QString Amount;
         QString Comment;
+
+        bool operator==(const cValues&) const = default;
     };
 
     enum class eTaken { Done, BadAmount, BadDay, NoOccurrence, Refused };
@@ -37,6 +40,7 @@ public:
         QDate Today;                                // valid: the form asks for the day
         bool IsAmountFirst = false;                 // the amount is typed first, though it asks for the day too
         std::function<eTaken(const cValues&)> Take; // stores the values
+        std::function<eAnswer()> AskToSave;         // before typed values are lost
         std::function<bool()> Remove;               // removes the correction; empty when there is none
     };
 
@@ -45,12 +49,15 @@ public:
     // For one occurrence in the entry list; saves and removes at once. `change` outlives the form.
     frmKorrektur(cSeriesChange& change, const cSeriesChange::cPeriodFields& fields, QWidget* parent = nullptr);
 
+    void reject() override; // asks before typed values are lost
+
 Q_SIGNALS:
     void CorrectionSaved(); // or removed
 
 private:
     void Build();
     void BuildButtons(QLayout& layout);
+    [[nodiscard]] cValues Read() const;
     void Save();
     void Remove();
     void ShowFailure(eTaken taken);
@@ -60,4 +67,5 @@ private:
     cAmountEdit* txtBetrag;
     QLineEdit* txtKommentar;
     QLabel* m_message;
+    cValues m_shown; // before anything was typed
 };

@@ -20,7 +20,8 @@
 
 namespace {
 
-constexpr int leastNameLetters = 13; // of an account
+constexpr int leastNameLetters = 13; // of an account, beside how many transactions are open
+constexpr int narrowNameLetters = 8; // in the narrowest list
 
 class cAccountDelegate final : public QStyledItemDelegate
 {
@@ -114,7 +115,6 @@ void cAccountPanel::Choose(const QModelIndex& row)
     }
 }
 
-// What the balances want; the header knows it only while its section follows its contents.
 int cAccountPanel::BalanceWidth() const
 {
     int width = m_view->header()->sectionSizeHint(cAccountListModel::Balance);
@@ -124,22 +124,17 @@ int cAccountPanel::BalanceWidth() const
     return width;
 }
 
-// Names matter more than how many transactions are open, and more than balances, whose end stands in the tool tip then;
-// the name of a group has the whole line.
+// Names matter more than how many transactions are open, but a balance without its end would be another one: the list
+// gets no narrower than it and the beginning of a name. The name of a group has the whole line.
 void cAccountPanel::FitColumns()
 {
     QHeaderView& header = *m_view->header();
+    const int letter = fontMetrics().averageCharWidth();
     const int balance = BalanceWidth();
-    const int least = fontMetrics().averageCharWidth() * leastNameLetters;
-    const int room = m_view->viewport()->width() - least;
+    const int room = m_view->viewport()->width() - letter * leastNameLetters;
     header.setSectionHidden(cAccountListModel::Open, false); // a hidden one would want no room
     header.setSectionHidden(cAccountListModel::Open, room < balance + header.sectionSizeHint(cAccountListModel::Open));
-    const bool isNarrow = room < balance;
-    header.setSectionResizeMode(cAccountListModel::Balance,
-                                isNarrow ? QHeaderView::Fixed : QHeaderView::ResizeToContents);
-    if (isNarrow) {
-        header.resizeSection(cAccountListModel::Balance, std::max(room, header.minimumSectionSize()));
-    }
+    m_view->setMinimumWidth(balance + letter * narrowNameLetters + 2 * m_view->frameWidth());
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const int kind = m_model.index(row, 0).data(cAccountListModel::KindRole).toInt();
         m_view->setFirstColumnSpanned(row, {}, kind == cAccountListModel::Group);

@@ -18,7 +18,8 @@
 
 namespace {
 
-constexpr int mostColumns = 3; // of fields with their labels
+constexpr int mostColumns = 3;   // of fields with their labels
+constexpr int leastLetters = 10; // of a choice in a narrow window
 
 QComboBox* MakeCombo(QWidget* parent, const cVocabulary& words)
 {
@@ -79,7 +80,6 @@ void cViewBar::Build()
     grid->AddField(m_payerLabel, m_payer);
     grid->AddField(cText::Tr("&Filter:"), m_filter);
     m_payerLabel->setBuddy(m_payer);
-    m_payer->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_filter->setClearButtonEnabled(true);
     m_filter->setToolTip(cText::Tr("Auch ein Schlagwort, etwa #urlaub"));
     modProposal::AddTags(*m_filter, [this] { return m_model.Tags(); });
@@ -87,8 +87,11 @@ void cViewBar::Build()
     modEmptyField::Tell(*m_filter);
     connect(new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             m_filter, &QLineEdit::clear);
-    m_account->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_account->setMinimumContentsLength(14);
+    for (QComboBox* box : {m_period, m_type, m_account, m_grouping, m_payer}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        box->setMinimumContentsLength(leastLetters);
+    }
+    m_account->setMinimumContentsLength(12);
     const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_payer, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));

@@ -2,7 +2,6 @@
 
 #include "base/cText.h"
 #include "model/modWord.h"
-#include "views/sheet/cManyChange.h"
 #include "windows/look/modWrapped.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/modBadField.h"
@@ -91,6 +90,26 @@ void frmMehrere::ShowTarget()
     }
 }
 
+cManyFields frmMehrere::Read() const
+{
+    return {.Category = cboKategorie->Path(),
+            .Account = cboKonto->currentData().toString(),
+            .Description = txtBeschreibung->text().trimmed(),
+            .Type = cboBuchungsart->currentData().toString(),
+            .Target = cboNachKonto->currentData().toString()};
+}
+
+void frmMehrere::reject()
+{
+    const bool isTyped = Read() != cManyFields() || !cboKategorie->UnknownText().isEmpty();
+    const eAnswer answer = isTyped ? m_change.AskToSave() : eAnswer::No;
+    if (answer == eAnswer::Yes) {
+        accept();
+    } else if (answer == eAnswer::No) {
+        QDialog::reject();
+    }
+}
+
 void frmMehrere::accept()
 {
     if (!cboKategorie->UnknownText().isEmpty() && !cboKategorie->AskNew()) {
@@ -98,11 +117,7 @@ void frmMehrere::accept()
         cboKategorie->setFocus();
         return;
     }
-    const cManyChange::eSaved saved = m_change.Save({.Category = cboKategorie->Path(),
-                                                     .Account = cboKonto->currentData().toString(),
-                                                     .Description = txtBeschreibung->text().trimmed(),
-                                                     .Type = cboBuchungsart->currentData().toString(),
-                                                     .Target = cboNachKonto->currentData().toString()});
+    const cManyChange::eSaved saved = m_change.Save(Read());
     if (saved == cManyChange::eSaved::Saved) {
         QDialog::accept();
     } else if (saved == cManyChange::eSaved::BadTarget) {

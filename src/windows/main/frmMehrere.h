@@ -1,9 +1,10 @@
 #pragma once
 
+#include "views/sheet/cManyChange.h"
+
 #include <QDialog>
 
 class cCategoryBox;
-class cManyChange;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
@@ -18,11 +19,13 @@ public:
     explicit frmMehrere(cManyChange& change, QWidget* parent = nullptr);
 
     void accept() override; // stays open while something cannot be stored
+    void reject() override; // asks before something typed is lost
 
 private:
     void Build();
     [[nodiscard]] QComboBox* MakeChoice(const QStringList& stored, const QStringList& shown);
     void ShowTarget();
+    [[nodiscard]] cManyFields Read() const;
 
     cManyChange& m_change;
     QFormLayout* m_form;

@@ -20,8 +20,13 @@ constexpr int leastTextLetters = 16; // beside a figure
 
 } // namespace
 
-cCardLine::cCardLine(const cOverviewLine& line, QWidget* parent) : QAbstractButton(parent), m_line(line)
+cCardLine::cCardLine(const cOverviewLine& line, const QList<cOverviewLine>& card, QWidget* parent)
+    : QAbstractButton(parent),
+      m_line(line),
+      m_alike(line.Percent ? card : QList<cOverviewLine>{line})
 {
+    m_alike.removeIf(
+        [&line](const cOverviewLine& other) { return other.Percent.has_value() != line.Percent.has_value(); });
     const bool isLink = m_line.Follow != nullptr;
     setFocusPolicy(isLink ? Qt::StrongFocus : Qt::NoFocus);
     setCursor(isLink ? Qt::PointingHandCursor : Qt::ArrowCursor);
@@ -56,12 +61,24 @@ const cCardLine::cWidths& cCardLine::Widths() const
 {
     if (!m_widths) {
         const QFontMetrics metrics = fontMetrics();
-        m_widths = cWidths{
-            metrics.horizontalAdvance(m_line.Figure), metrics.horizontalAdvance(m_line.Text.left(LeadLetters())),
-            std::min(metrics.horizontalAdvance(m_line.Text), metrics.averageCharWidth() * leastTextLetters)};
+        int beside = 0;
+        for (const cOverviewLine& line : m_alike) {
+            beside = std::max(beside, WidthBeside(line));
+        }
+        m_widths = cWidths{metrics.horizontalAdvance(m_line.Figure),
+                           metrics.horizontalAdvance(m_line.Text.left(LeadLetters())), beside};
         m_heights.clear();
     }
     return *m_widths;
+}
+
+// Above a bar there is always room for a line more, so the text beside a figure is not wrapped there.
+int cCardLine::WidthBeside(const cOverviewLine& line) const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int whole = metrics.horizontalAdvance(line.Text);
+    const int text = line.Percent ? whole : std::min(whole, metrics.averageCharWidth() * leastTextLetters);
+    return LookWidth(line) + text + gap + metrics.horizontalAdvance(line.Figure);
 }
 
 void cCardLine::changeEvent(QEvent* event)
@@ -72,22 +89,21 @@ void cCardLine::changeEvent(QEvent* event)
     }
 }
 
-int cCardLine::LookWidth() const
+int cCardLine::LookWidth(const cOverviewLine& line) const
 {
-    return m_line.Look.isValid() ? fontMetrics().height() + margin : 0;
+    return line.Look.isValid() ? fontMetrics().height() + margin : 0;
 }
 
 bool cCardLine::IsStacked(int width) const
 {
-    const int room = width - 2 * margin - gap - Widths().Figure - LookWidth();
-    return Widths().Figure > 0 && room < Widths().LeastText;
+    return Widths().Figure > 0 && width - 2 * margin < Widths().Beside;
 }
 
 int cCardLine::TextHeight(int width) const
 {
     const bool isBeside = Widths().Figure > 0 && !IsStacked(width);
     const int room =
-        std::max(width - 2 * margin - LookWidth() - Widths().Lead - (isBeside ? Widths().Figure + gap : 0), 1);
+        std::max(width - 2 * margin - LookWidth(m_line) - Widths().Lead - (isBeside ? Widths().Figure + gap : 0), 1);
     const auto known = m_heights.constFind(room);
     if (known != m_heights.constEnd()) {
         return *known;
@@ -147,10 +163,10 @@ void cCardLine::paintEvent(QPaintEvent* /*event*/)
     if (!isStacked && Widths().Figure > 0) {
         text.setWidth(inner.width() - Widths().Figure - gap);
     }
-    if (LookWidth() > 0) {
+    if (LookWidth(m_line) > 0) {
         const int side = fontMetrics().height();
         modLook::Icon(m_line.Look.value<cCategoryLook>()).paint(&painter, text.left(), text.top(), side, side);
-        text.setLeft(text.left() + LookWidth());
+        text.setLeft(text.left() + LookWidth(m_line));
     }
     painter.setPen(tintsText ? Colour() : palette().color(QPalette::Text));
     painter.drawText(text, Qt::AlignTop, m_line.Text.left(LeadLetters()));

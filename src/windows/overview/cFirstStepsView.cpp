@@ -108,6 +108,11 @@ void cFirstStepsView::Refresh()
     }
 }
 
+void cFirstStepsView::FocusFirst()
+{
+    m_fields.constFirst().Amount->setFocus(); // the account has its name already
+}
+
 void cFirstStepsView::Save()
 {
     QList<cFirstSteps::cRow> rows;

@@ -29,6 +29,7 @@ public:
 
     // Reads the accounts again, unless somebody is typing here.
     void Refresh();
+    void FocusFirst();
 
 Q_SIGNALS:
     void Saved();

@@ -39,10 +39,10 @@ cOverviewCardView::cOverviewCardView(const cOverviewCard& card, QWidget* parent)
         layout->addSpacing(4);
     }
     for (const cOverviewLine& line : card.Lines) {
-        AddLine(line, *layout);
+        AddLine(line, card.Lines, *layout);
     }
     if (card.Lines.isEmpty() && !card.Empty.isEmpty()) {
-        AddLine({card.Empty, {}, eOverviewTone::Quiet}, *layout);
+        AddLine({card.Empty, {}, eOverviewTone::Quiet}, {}, *layout);
     }
 }
 
@@ -79,11 +79,11 @@ void cOverviewCardView::AddHead(const cOverviewCard& card, QVBoxLayout& layout)
     }
 }
 
-void cOverviewCardView::AddLine(const cOverviewLine& line, QVBoxLayout& layout)
+void cOverviewCardView::AddLine(const cOverviewLine& line, const QList<cOverviewLine>& card, QVBoxLayout& layout)
 {
     auto* row = new QHBoxLayout;
     row->setSpacing(2);
-    row->addWidget(new cCardLine(line, this), 1);
+    row->addWidget(new cCardLine(line, card, this), 1);
     if (!line.Actions.isEmpty()) {
         auto* more = new QToolButton(this);
         auto* menu = new QMenu(more);

@@ -21,7 +21,7 @@ protected:
 
 private:
     void AddHead(const cOverviewCard& card, QVBoxLayout& layout);
-    void AddLine(const cOverviewLine& line, QVBoxLayout& layout);
+    void AddLine(const cOverviewLine& line, const QList<cOverviewLine>& card, QVBoxLayout& layout);
 
     eOverviewCard m_card;
 };

@@ -110,6 +110,8 @@ void frmUebersicht::ShowCards()
     m_heading->setText(m_model.Heading());
     const QSignalBlocker blocker(m_isStartPage); // another book may have it otherwise
     m_isStartPage->setChecked(m_model.IsStartPage());
+    const bool hadFirstSteps = m_firstSteps != nullptr;
+    ShowFirstSteps(); // before the cards, as Tab goes
     for (const cOverviewCard& card : m_model.Cards()) {
         m_cards.append(new cOverviewCardView(card, m_ground));
         if (isFocused && card.Card == kept) {
@@ -117,8 +119,10 @@ void frmUebersicht::ShowCards()
             m_cards.last()->setFocus();
         }
     }
-    ShowFirstSteps();
     Arrange();
+    if (m_firstSteps != nullptr && !hadFirstSteps) {
+        m_firstSteps->FocusFirst();
+    }
 }
 
 void frmUebersicht::ShowFirstSteps()

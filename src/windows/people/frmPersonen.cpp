@@ -135,7 +135,14 @@ QString frmPersonen::Chosen() const
 
 void frmPersonen::reject()
 {
-    if (m_people.MayLeave(m_shares->Wrong())) {
+    const QStringList wrong = m_shares->Wrong();
+    const bool isTyped = m_add->isEnabled();
+    const eAnswer answer = isTyped || !wrong.isEmpty() ? m_people.AskToSave() : eAnswer::No;
+    if (answer == eAnswer::Yes && m_people.AreStored(wrong)) {
+        m_add->click(); // as Enter does; a name that is refused stays in its field
+    }
+    const bool isSaved = answer == eAnswer::Yes && m_shares->Wrong().isEmpty() && !m_add->isEnabled();
+    if (answer == eAnswer::No || isSaved) {
         QDialog::reject();
     }
 }

@@ -19,7 +19,7 @@ public:
     // `people` outlives the window.
     explicit frmPersonen(cPeople& people, QWidget* parent = nullptr);
 
-    void reject() override; // asks about shares that are not stored
+    void reject() override; // asks before a name or shares that are not stored are lost
 
 Q_SIGNALS:
     void PeopleChanged();

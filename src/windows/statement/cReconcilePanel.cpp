@@ -93,6 +93,7 @@ void cReconcilePanel::Fill()
 {
     const bool hasItems = m_model.rowCount() > 0;
     m_title->setText(m_model.Finding());
+    m_title->setVisible(!m_title->text().isEmpty());
     m_list->setVisible(hasItems);
     m_cure->setVisible(hasItems);
     m_open->setVisible(hasItems);

@@ -19,8 +19,18 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{
-    {11}, {14, eKind::Day}, {26}, {18}, {13, eKind::Amount}, {11}, {25}, {11}, {22}};
+// What names a transaction and what becomes of it can be read in a narrow window too.
+constexpr int nameLetters = 11;
+
+const std::vector<cColumnFit::cColumn> columns{{11, eKind::Text, 7},
+                                               {14, eKind::Day},
+                                               {26, eKind::Text, nameLetters},
+                                               {18, eKind::Text, 8},
+                                               {13, eKind::Amount},
+                                               {11, eKind::Text, 11, true},
+                                               {25, eKind::Text, nameLetters},
+                                               {11, eKind::Text, 11, true},
+                                               {22, eKind::Text, 14, true}};
 
 bool IsEnter(const QKeyEvent& event)
 {

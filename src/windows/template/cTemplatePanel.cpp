@@ -174,7 +174,7 @@ void cTemplatePanel::BuildButtons()
     }
     buttons->addStretch();
     m_form->addRow(QString(), buttons);
-    m_discard->setToolTip(cText::Tr("Stellt die Zeile wieder her, wie sie gespeichert ist (Esc)"));
+    m_discard->setToolTip(cText::Tr("Stellt die Zeile wieder her, wie sie gespeichert ist"));
     m_save->setToolTip(cText::Tr("Änderungen werden auch beim Verlassen der Zeile gespeichert"));
 }
 
@@ -382,11 +382,11 @@ cTemplateFields cTemplatePanel::Fields() const
     return fields;
 }
 
-// Escape gives up what was typed before it closes the window.
+// Escape is about what was typed before it closes the window.
 void cTemplatePanel::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && IsChanged()) {
-        Q_EMIT DiscardRequested();
+        Q_EMIT LeaveRequested();
         return;
     }
     QWidget::keyPressEvent(event);

@@ -41,6 +41,7 @@ public:
 Q_SIGNALS:
     void SaveRequested();
     void DiscardRequested();
+    void LeaveRequested(); // with something typed
     void AddRequested();
     void MergeRequested();
     void RenameRequested();

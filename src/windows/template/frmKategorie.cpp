@@ -121,6 +121,7 @@ void frmKategorie::Connect()
     connect(m_tabs, &QTabWidget::currentChanged, this, &frmKategorie::ChooseLine);
     connect(m_panel, &cTemplatePanel::SaveRequested, this, &frmKategorie::Save);
     connect(m_panel, &cTemplatePanel::DiscardRequested, this, &frmKategorie::Discard);
+    connect(m_panel, &cTemplatePanel::LeaveRequested, this, &frmKategorie::AskToSave);
     connect(m_panel, &cTemplatePanel::AddRequested, this, &frmKategorie::Add);
     connect(m_panel, &cTemplatePanel::MergeRequested, m_merge, &QAction::trigger);
     connect(m_panel, &cTemplatePanel::RenameRequested, this, &frmKategorie::Rename);
@@ -233,6 +234,16 @@ void frmKategorie::Save()
 {
     if (Leave()) {
         Tree().setFocus();
+    }
+}
+
+void frmKategorie::AskToSave()
+{
+    const eAnswer answer = m_manager.AskToSave();
+    if (answer == eAnswer::Yes) {
+        Save();
+    } else if (answer == eAnswer::No) {
+        Discard();
     }
 }
 

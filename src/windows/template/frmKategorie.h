@@ -44,6 +44,7 @@ private:
     void ShowLine();
     void ShowActions();
     void Save();
+    void AskToSave();
     void Discard();
     void Add();
     void AddMain();

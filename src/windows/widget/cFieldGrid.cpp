@@ -12,6 +12,17 @@ int Height(const QLayoutItem& field, int width)
     return field.hasHeightForWidth() ? field.heightForWidth(width) : field.sizeHint().height();
 }
 
+bool WantsMore(const QLayoutItem& field)
+{
+    return field.expandingDirections().testFlag(Qt::Horizontal);
+}
+
+// A text that is typed needs its room, while one that is chosen can be read in its list.
+int ShortWidth(const QLayoutItem& field)
+{
+    return WantsMore(field) ? field.sizeHint().width() : field.minimumSize().width();
+}
+
 } // namespace
 
 cFieldGrid::cFieldGrid(int mostColumns, QWidget* parent)
@@ -44,15 +55,16 @@ std::vector<cFieldGrid::cPair> cFieldGrid::Pairs() const
     return pairs;
 }
 
-std::vector<cFieldGrid::cColumn> cFieldGrid::Columns(const cPairs& pairs, std::size_t count)
+std::vector<cFieldGrid::cColumn> cFieldGrid::Columns(const cPairs& pairs, std::size_t count, eField field)
 {
     std::vector<cColumn> columns(count);
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         cColumn& column = columns.at(i % count);
         const bool isAlone = i + 1 == pairs.size() && i % count == 0; // it has the whole row
         column.Label = std::max(column.Label, pairs[i].Label->sizeHint().width());
-        column.Field = std::max(column.Field, isAlone && count > 1 ? 0 : pairs[i].Field->sizeHint().width());
-        column.WantsMore = column.WantsMore || pairs[i].Field->expandingDirections().testFlag(Qt::Horizontal);
+        column.Wanted = std::max(column.Wanted, isAlone && count > 1 ? 0 : pairs[i].Field->sizeHint().width());
+        column.Field = field == eField::Whole ? column.Wanted : std::max(column.Field, ShortWidth(*pairs[i].Field));
+        column.WantsMore = column.WantsMore || WantsMore(*pairs[i].Field);
     }
     return columns;
 }
@@ -76,22 +88,23 @@ std::vector<cFieldGrid::cRow> cFieldGrid::AlignedRows(const cPairs& pairs, const
 }
 
 // As many side by side as each row has room for, whatever stands below.
-std::vector<cFieldGrid::cRow> cFieldGrid::RaggedRows(const cPairs& pairs, int width) const
+std::vector<cFieldGrid::cRow> cFieldGrid::RaggedRows(const cPairs& pairs, int width, eField field) const
 {
     std::vector<cRow> rows;
     for (std::size_t first = 0; first < pairs.size();) {
         std::size_t count = 1;
-        while (first + count < pairs.size() && Width(Columns(pairs.subspan(first, count + 1), count + 1)) <= width) {
+        while (first + count < pairs.size()
+               && Width(Columns(pairs.subspan(first, count + 1), count + 1, field)) <= width) {
             ++count;
         }
-        rows.push_back({pairs.subspan(first, count), Columns(pairs.subspan(first, count), count)});
+        rows.push_back({pairs.subspan(first, count), Columns(pairs.subspan(first, count), count, field)});
         first += count;
     }
     return rows;
 }
 
-// Aligned where two columns have room. Below that lines are saved first, and only then all fields stand in one column,
-// which may still be too wide.
+// Aligned where two columns have room. Below that lines are saved first, with shortened fields where it takes them, and
+// only then all fields stand in one column, which may still be too wide.
 std::vector<cFieldGrid::cRow> cFieldGrid::Rows(const cPairs& pairs, int width) const
 {
     for (std::size_t count = std::min(m_mostColumns, pairs.size()); count > 1; --count) {
@@ -100,16 +113,25 @@ std::vector<cFieldGrid::cRow> cFieldGrid::Rows(const cPairs& pairs, int width) c
             return AlignedRows(pairs, columns);
         }
     }
-    std::vector<cRow> ragged = m_mostColumns > 1 ? RaggedRows(pairs, width) : std::vector<cRow>();
-    const bool savesLines = !ragged.empty() && 3 * ragged.size() <= 2 * pairs.size(); // else it is not worth it
-    return savesLines ? ragged : AlignedRows(pairs, Columns(pairs, 1));
+    for (const eField field : {eField::Whole, eField::Short}) {
+        std::vector<cRow> ragged = m_mostColumns > 1 ? RaggedRows(pairs, width, field) : std::vector<cRow>();
+        if (!ragged.empty() && 3 * ragged.size() <= 2 * pairs.size()) { // else it is not worth it
+            return ragged;
+        }
+    }
+    return AlignedRows(pairs, Columns(pairs, 1));
 }
 
 void cFieldGrid::Widen(std::vector<cColumn>& columns, int width) const
 {
     const auto wanting = static_cast<int>(
         std::count_if(columns.begin(), columns.end(), [](const cColumn& column) { return column.WantsMore; }));
-    const int left = width - Width(columns);
+    int left = width - Width(columns);
+    for (cColumn& column : columns) {
+        const int lacking = std::clamp(column.Wanted - column.Field, 0, std::max(left, 0));
+        column.Field += lacking;
+        left -= lacking;
+    }
     for (cColumn& column : columns) {
         if (left < 0) {
             column.Field += left; // the only one
@@ -122,7 +144,7 @@ void cFieldGrid::Widen(std::vector<cColumn>& columns, int width) const
 void cFieldGrid::PlaceRow(const cRow& row, const QRect& place) const
 {
     const Qt::LayoutDirection direction = parentWidget()->layoutDirection();
-    const bool isAlone = row.Pairs.size() == 1 && row.Pairs[0].Field->expandingDirections().testFlag(Qt::Horizontal);
+    const bool isAlone = row.Pairs.size() == 1 && WantsMore(*row.Pairs[0].Field);
     int left = place.left();
     for (std::size_t i = 0; i < row.Pairs.size(); ++i) {
         const cColumn& column = row.Columns.at(i);
