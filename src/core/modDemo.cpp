@@ -1,7 +1,10 @@
 #include "core/modDemo.h"
 
+#include "base/modDate.h"
 #include "core/modDemoSeries.h"
 #include "core/modDemoShopping.h"
+#include "model/modBalance.h"
+#include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
@@ -12,9 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Of the purchases by card the last ones are not booked yet, and those before are booked from the bank's rows.
-constexpr int OpenRows = 16;
-constexpr int BookedRows = 120;
+constexpr int OpenRows = 16; // of the purchases by card the last ones are not booked yet
 
 bool WriteStartBalances(cDataAccess& data, QDate day)
 {
@@ -36,7 +37,7 @@ bool WriteOneSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, modDemo::
         fixMod.EntryRelation = series.Entry.ID;
         return data.AddNewEntryMod(fixMod);
     });
-    return isCorrected && WriteRows(data, modDemo::SeriesRows(series.Entry, series.Mods, plan));
+    return isCorrected && WriteRows(data, modDemo::BankRows(series.Entry, series.Mods, plan));
 }
 
 bool WriteSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, const QList<modDemo::cDemoSeries>& list)
@@ -45,7 +46,8 @@ bool WriteSeries(cDataAccess& data, const modDemo::cDemoPlan& plan, const QList<
                        [&](const modDemo::cDemoSeries& series) { return WriteOneSeries(data, plan, series); });
 }
 
-bool WritePurchase(cDataAccess& data, modDemo::cDemoPurchase purchase, int cardPurchasesAfter)
+bool WritePurchase(cDataAccess& data, const modDemo::cDemoPlan& plan, modDemo::cDemoPurchase purchase,
+                   int cardPurchasesAfter)
 {
     const bool isCard = !purchase.Staged.ImportAccount.isEmpty();
     if (isCard && cardPurchasesAfter < OpenRows) {
@@ -54,7 +56,7 @@ bool WritePurchase(cDataAccess& data, modDemo::cDemoPurchase purchase, int cardP
     if (!data.AddNewEntry(purchase.Entry)) {
         return false;
     }
-    if (!isCard || cardPurchasesAfter >= OpenRows + BookedRows) {
+    if (!isCard || purchase.Staged.ImportDate < modDemo::FirstBankDay(plan)) {
         return true;
     }
     purchase.Staged.ImportAssigned = true;
@@ -62,7 +64,7 @@ bool WritePurchase(cDataAccess& data, modDemo::cDemoPurchase purchase, int cardP
     return data.AddNewImportEntry(purchase.Staged);
 }
 
-bool WritePurchases(cDataAccess& data, const QList<modDemo::cDemoPurchase>& list)
+bool WritePurchases(cDataAccess& data, const modDemo::cDemoPlan& plan, const QList<modDemo::cDemoPurchase>& list)
 {
     auto cardPurchases =
         static_cast<int>(std::count_if(list.begin(), list.end(), [](const modDemo::cDemoPurchase& purchase) {
@@ -70,13 +72,15 @@ bool WritePurchases(cDataAccess& data, const QList<modDemo::cDemoPurchase>& list
         }));
     return std::all_of(list.begin(), list.end(), [&](const modDemo::cDemoPurchase& purchase) {
         cardPurchases -= purchase.Staged.ImportAccount.isEmpty() ? 0 : 1;
-        return WritePurchase(data, purchase, cardPurchases);
+        return WritePurchase(data, plan, purchase, cardPurchases);
     });
 }
 
-bool WriteEvents(cDataAccess& data, cEntryItemList list)
+bool WriteEvents(cDataAccess& data, const modDemo::cDemoPlan& plan, cEntryItemList list)
 {
-    return std::all_of(list.begin(), list.end(), [&](cEntryItem& entry) { return data.AddNewEntry(entry); });
+    return std::all_of(list.begin(), list.end(), [&](cEntryItem& entry) {
+        return data.AddNewEntry(entry) && WriteRows(data, modDemo::BankRows(entry, {}, plan));
+    });
 }
 
 struct cLimit
@@ -110,11 +114,23 @@ bool WriteLimits(cDataAccess& data)
     });
 }
 
-// The bank's account numbers under the names that the accounts have in the book.
-bool WriteMapping(cDataAccess& data)
+// The bank's number of an account of the book, and what the bank says of it on the last day: what the book had before
+// the bank's first row, and all rows since.
+bool WriteBankAccount(cDataAccess& data, const modDemo::cDemoPlan& plan, const QString& number, const QString& account)
 {
-    return data.ChangeSettingItem(u"KTO:"_s % modDemo::GiroNumber, u"Girokonto"_s)
-        && data.ChangeSettingItem(u"KTO:"_s % modDemo::SparNumber, u"Sparkonto"_s);
+    qint64 cents = 0;
+    const QDate before = modDemo::FirstBankDay(plan).addDays(-1);
+    const cEntryItemList entries = data.GetEntries({{}, before, {}, account, {}, eBookingKind::All});
+    for (const cEntryItem& entry : entries) {
+        cents += modBalance::Effect(entry, account);
+    }
+    const cImportEntryList rows = data.GetImportEntries();
+    for (const cImportEntry& row : rows) {
+        cents += row.ImportAccount == number ? row.ImportValue : 0;
+    }
+    return data.ChangeSettingItem(modSettingKey::BankNumber.Of(number).Name(), account)
+        && data.ChangeSettingItem(modSettingKey::BankBalances.Of(number).Name(),
+                                  modDate::ToIso(plan.Today) % u'=' % QString::number(cents));
 }
 
 } // namespace
@@ -134,7 +150,8 @@ bool modDemo::Write(cDataAccess& data, const cDemoPlan& plan)
     const cEntryItemList events = Events(plan);
     const auto fixed = static_cast<int>(series.size() + events.size()) + startBalances;
     const int purchases = plan.Entries == 0 ? UsualPurchases(plan) : qMax(plan.Entries - fixed, 0) + OpenRows;
-    return WriteStartBalances(data, FirstDay(plan)) && WriteSeries(data, plan, series) && WriteEvents(data, events)
-        && WritePurchases(data, Purchases(plan, purchases)) && WriteRows(data, Mail(plan)) && WriteMapping(data)
-        && WriteLimits(data);
+    return WriteStartBalances(data, FirstDay(plan)) && WriteSeries(data, plan, series)
+        && WriteEvents(data, plan, events) && WritePurchases(data, plan, Purchases(plan, purchases))
+        && WriteRows(data, Mail(plan)) && WriteBankAccount(data, plan, GiroNumber, u"Girokonto"_s)
+        && WriteBankAccount(data, plan, SparNumber, u"Sparkonto"_s) && WriteLimits(data);
 }

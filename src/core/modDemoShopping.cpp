@@ -1,6 +1,7 @@
 #include "core/modDemoShopping.h"
 
 #include "core/modDemoSeries.h"
+#include "model/modBalance.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 
@@ -13,6 +14,8 @@ namespace {
 
 constexpr int PurchasesPerYear = 340;
 constexpr int rowMonths = 12; // of which the bank's rows are there
+constexpr QLatin1StringView Giro = "Girokonto"_L1;
+constexpr QLatin1StringView Spar = "Sparkonto"_L1;
 const QString DemoBank = u"99900010"_s;
 
 struct cShop
@@ -152,6 +155,44 @@ cEntryItem Transfer(QDate date, const QString& from, const QString& to, const QS
     return entry;
 }
 
+QString NumberOf(const QString& account)
+{
+    return account == Giro ? modDemo::GiroNumber : account == Spar ? modDemo::SparNumber : QString();
+}
+
+cImportEntry RowOf(const cEntryItem& occurrence, const QString& account, const QString& other)
+{
+    const qint64 cents = modBalance::Effect(occurrence, account);
+    const bool isRent = occurrence.EntryCategory == "Wohnung; Miete"_L1;
+    const QString name = isRent ? u"Hausverwaltung Lindenhof"_s : occurrence.EntryDescription;
+    const QString booking = cents > 0                          ? u"Gutschrift"_s
+        : !other.isEmpty() && NumberOf(other).isEmpty()        ? u"Auszahlung"_s
+        : modRecurrence::IsRecurring(occurrence.EntryInterval) ? u"Dauerauftrag"_s
+                                                               : u"Überweisung"_s;
+    cImportEntry row =
+        BankRow(occurrence.EntryDate, NumberOf(account), booking, name, occurrence.EntryDescription, cents);
+    row.ImportBeneficiaryAccount =
+        other.isEmpty() ? Iban(static_cast<qsizetype>(Shops.size()) + occurrence.ID) : NumberOf(other);
+    row.ImportBeneficiaryBLZ = other.isEmpty() ? u"DEMODE77XXX"_s : NumberOf(other).isEmpty() ? QString() : DemoBank;
+    row.ImportAssigned = true;
+    row.ImportAssignedEntry = occurrence.ID;
+    return row;
+}
+
+cImportEntryList RowsOf(const cEntryItem& occurrence)
+{
+    const QString& account = occurrence.EntryAccount;
+    const QString& target = occurrence.EntryAccountMove;
+    cImportEntryList rows;
+    if (!NumberOf(account).isEmpty()) {
+        rows.append(RowOf(occurrence, account, target));
+    }
+    if (!NumberOf(target).isEmpty()) {
+        rows.append(RowOf(occurrence, target, account));
+    }
+    return rows;
+}
+
 void AddYear(int year, cEntryItemList& list)
 {
     const QString giro = u"Girokonto"_s;
@@ -196,29 +237,23 @@ QList<modDemo::cDemoPurchase> modDemo::Purchases(const cDemoPlan& plan, int coun
     return list;
 }
 
-cImportEntryList modDemo::SeriesRows(const cEntryItem& series, const cEntryItemFixModList& fixMods,
-                                     const cDemoPlan& plan)
+QDate modDemo::FirstBankDay(const cDemoPlan& plan)
 {
-    if (series.EntryAccount != "Girokonto"_L1) {
-        return {};
-    }
-    const bool isRent = series.EntryCategory == "Wohnung; Miete"_L1;
-    const qint64 sign = series.EntryType == modWord::Einnahme ? 1 : -1;
+    return plan.Today.addMonths(-rowMonths);
+}
+
+cImportEntryList modDemo::BankRows(const cEntryItem& entry, const cEntryItemFixModList& fixMods, const cDemoPlan& plan)
+{
     cEntryItemList occurrences;
-    modRecurrence::Expand(series, {plan.Today.addMonths(-rowMonths), plan.Today}, fixMods, occurrences);
+    modRecurrence::Expand(entry, {FirstBankDay(plan), plan.Today}, fixMods, occurrences);
     cImportEntryList rows;
     for (const cEntryItem& occurrence : occurrences) {
-        const QString name = isRent ? u"Hausverwaltung Lindenhof"_s : series.EntryDescription;
-        cImportEntry row = BankRow(occurrence.EntryDate, GiroNumber, sign > 0 ? u"Gutschrift"_s : u"Dauerauftrag"_s,
-                                   name, series.EntryDescription, sign * occurrence.EntryValue);
-        row.ImportBeneficiaryAccount = Iban(static_cast<qsizetype>(Shops.size()) + series.ID);
-        row.ImportBeneficiaryBLZ = u"DEMODE77XXX"_s;
-        row.ImportAssigned = true;
-        row.ImportAssignedEntry = series.ID;
-        rows.append(row);
+        if (occurrence.EntryDate >= FirstBankDay(plan)) { // one that is no series is its own occurrence on any day
+            rows.append(RowsOf(occurrence));
+        }
     }
     // The last rent waits: it belongs to an occurrence that is in the book already.
-    if (isRent && !rows.isEmpty()) {
+    if (entry.EntryCategory == "Wohnung; Miete"_L1 && entry.EntryDateEnd == modRecurrence::OpenEnd) {
         rows.last().ImportAssigned = false;
         rows.last().ImportAssignedEntry = -1;
     }

@@ -31,9 +31,13 @@ struct cDemoPurchase
 // Cash withdrawals, holidays, a large purchase a year: one-off entries that come on fixed days.
 [[nodiscard]] cEntryItemList Events(const cDemoPlan& plan);
 
-// The bank's rows of the last year of a series on the current account, assigned to it; of the rent the last one waits.
-[[nodiscard]] cImportEntryList SeriesRows(const cEntryItem& series, const cEntryItemFixModList& fixMods,
-                                          const cDemoPlan& plan);
+// The bank's rows are there from this day on, all of them up to the end of the book.
+[[nodiscard]] QDate FirstBankDay(const cDemoPlan& plan);
+
+// What the bank reports of a stored entry, assigned to it: a row for each occurrence and each account at the bank. Of
+// the rent the last one waits.
+[[nodiscard]] cImportEntryList BankRows(const cEntryItem& entry, const cEntryItemFixModList& fixMods,
+                                        const cDemoPlan& plan);
 
 // Rows of the last days that are no purchases: a transfer pair between the own accounts, a tax refund, a fine.
 [[nodiscard]] cImportEntryList Mail(const cDemoPlan& plan);

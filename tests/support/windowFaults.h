@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
@@ -158,7 +159,13 @@ inline bool IsChoiceClipped(const QComboBox& combo)
     return combo.fontMetrics().horizontalAdvance(combo.currentText()) > field.width();
 }
 
-// Texts that do not fit into their place.
+// A list below the edge of what it stands in, where no scroll bar leads.
+inline bool IsListClipped(const QAbstractItemView& list)
+{
+    return !list.isWindow() && list.geometry().bottom() > list.parentWidget()->rect().bottom();
+}
+
+// Texts and lists that do not fit into their place.
 inline QStringList Clipped(const QWidget& window)
 {
     QStringList faults;
@@ -166,7 +173,8 @@ inline QStringList Clipped(const QWidget& window)
         const auto* label = qobject_cast<const QLabel*>(&widget);
         const auto* button = qobject_cast<const QAbstractButton*>(&widget);
         const auto* combo = qobject_cast<const QComboBox*>(&widget);
-        const bool isClipped = (label != nullptr && IsLabelClipped(*label))
+        const auto* list = qobject_cast<const QAbstractItemView*>(&widget);
+        const bool isClipped = (label != nullptr && IsLabelClipped(*label)) || (list != nullptr && IsListClipped(*list))
             || (button != nullptr && IsButtonClipped(*button)) || (combo != nullptr && IsChoiceClipped(*combo));
         if (isClipped) {
             faults.append(QStringLiteral("clipped: ") + Named(widget));

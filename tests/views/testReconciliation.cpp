@@ -1,3 +1,4 @@
+#include "core/modDemo.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
@@ -5,6 +6,7 @@
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/ledger/cReconcileListModel.h"
+#include "views/ledger/cReconciliation.h"
 
 #include <QTest>
 
@@ -102,6 +104,42 @@ private Q_SLOTS:
         QCOMPARE(nothing->Start, 0);
         QVERIFY(whole.Data.SetStartGuthaben(u"Girokonto"_s, 50000, QDate(2026, 5, 2)));
         QVERIFY(!cOpeningBalance(whole.Tools).For(number)); // what it began with in the morning
+    }
+
+    void HouseholdDiffersInOpenRows_data()
+    {
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<int>("entries");
+
+        QTest::newRow("middle of the month") << QDate(2026, 3, 15) << 0;
+        QTest::newRow("day of two rents")
+            << QDate(2026, 3, 1) << 0; // a year ago the old one was paid for the last time
+        QTest::newRow("leap day") << QDate(2028, 2, 29) << 0;
+        QTest::newRow("large") << QDate(2026, 3, 15) << 3000;
+    }
+
+    void HouseholdDiffersInOpenRows()
+    {
+        QFETCH(QDate, today);
+        QFETCH(int, entries);
+        cTestBook book;
+        QVERIFY(modDemo::Write(book.Data, modDemo::OfSize(entries, today)));
+        book.Settings->Reload();
+        cReconciliation reconciliation(book.Tools);
+        QStringList open;
+        for (const QString& staged : {u"4711000815"_s, u"4711000816"_s}) {
+            reconciliation.Load(staged);
+            qint64 cents = 0;
+            for (const cReconcileItem& item : reconciliation.Items()) {
+                cents += item.BankCents - item.BookCents;
+                open.append(cReconciliation::KindName(item));
+            }
+            QCOMPARE(reconciliation.Bank(), std::optional(reconciliation.Book() + cents));
+            QCOMPARE(reconciliation.Until(), today);
+        }
+        QCOMPARE(open.removeAll(u"book only"_s), 1); // the rent whose row waits
+        QCOMPARE(open.removeAll(u"bank only"_s), 26);
+        QCOMPARE(open, QStringList());
     }
 
     void ListsWhatDiffers()

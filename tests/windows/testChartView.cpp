@@ -149,6 +149,30 @@ private Q_SLOTS:
         QVERIFY(!stage.View.PartAt(QPointF(2, 2)));
     }
 
+    void LeavesRoomForThePie_data()
+    {
+        QTest::addColumn<QSizeF>("size"); // in heights of a line
+        QTest::newRow("wide and low") << QSizeF(38, 11);
+        QTest::newRow("narrow and high") << QSizeF(24, 24);
+    }
+
+    // A name that does not fit is counted, and the list does not eat up the picture.
+    void LeavesRoomForThePie()
+    {
+        QFETCH(QSizeF, size);
+        cChartData chart = Chart(eChart::Pie);
+        for (int series = 2; series < 12; ++series) {
+            chart.Series.append({.Name = u"Versicherung"_s, .Cents = {1234567}, .Colour = series});
+        }
+        const cChartStyle style = modChartPainter::PaperStyle();
+        const double line = QFontMetricsF(style.Font).height();
+        const cChartLayout layout = modChartPainter::LayOut(chart, {}, style, {QPointF(), size * line});
+        QCOMPARE(static_cast<int>(layout.Legend.size()) + layout.More.Count, 12);
+        QVERIFY(layout.Legend.size() > 3);
+        QVERIFY2(layout.Circles.front().Outer > line * 2.5,
+                 qPrintable(QString::number(layout.Circles.front().Outer / line)));
+    }
+
     // From side to side, from day to day and from week to week, and from a column to its limit.
     void MovesInFlowCalendarAndLimits()
     {

@@ -148,13 +148,20 @@ private Q_SLOTS:
         cScene scene;
         QVERIFY(scene.Window.Select(food));
         QComboBox& interval = scene.Field<QComboBox>(u"Intervall:"_s);
-        QTest::keyClicks(&scene.Field<QLineEdit>(u"Monatslimit:"_s), u"600"_s);
+        const auto says = [&](const QString& start) {
+            const QList<cElidedText*> hints = scene.Window.findChildren<cElidedText*>();
+            return std::any_of(hints.begin(), hints.end(), [&](const cElidedText* hint) {
+                return hint->isVisible() && hint->toolTip().startsWith(start);
+            });
+        };
         interval.setCurrentIndex(interval.findData(u"Jährlich"_s));
-        QCOMPARE(scene.Field<QLineEdit>(u"Betrag:"_s).text(), u"600"_s);
-        const QList<cElidedText*> hints = scene.Window.findChildren<cElidedText*>();
-        QVERIFY(std::any_of(hints.begin(), hints.end(), [](const cElidedText* hint) {
-            return hint->isVisible() && hint->toolTip().startsWith(u"Wird vorgeschlagen; Monatslimit 50,00");
-        }));
+        QLineEdit& amount = scene.Field<QLineEdit>(u"Betrag:"_s);
+        QCOMPARE(amount.placeholderText(), u"kein Betrag"_s);
+        QVERIFY(!says(u"Wird vorgeschlagen"_s));
+        QTest::keyClicks(&amount, u"600"_s);
+        QVERIFY(says(u"Wird vorgeschlagen; Monatslimit 50,00"_s));
+        interval.setCurrentIndex(interval.findData(u"Einmalig"_s));
+        QCOMPARE(scene.Field<QLineEdit>(u"Monatslimit:"_s).text(), u"600"_s);
     }
 
     void RefusedChangesKeepTheLineAndTheWindow()

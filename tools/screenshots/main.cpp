@@ -359,11 +359,12 @@ bool TakeStatement(cCamera& camera)
         return false;
     }
     scene.Book.Settings().Reload(); // the household was written past them
-    take(u"kontoauszug-ohne-saldo"_s);
     const cImportEntry newest = scene.Book.Data().GetImportEntries().last();
-    const QString last = modDate::ToIso(newest.ImportDate) + u"=123456"_s;
-    scene.Book.Settings().Set(modSettingKey::BankBalances.Of(newest.ImportAccount),
-                              u"2026-10-31=150000;2026-11-10=140000;"_s + last);
+    const cSettingKey balances = modSettingKey::BankBalances.Of(newest.ImportAccount);
+    scene.Book.Settings().Delete(balances);
+    take(u"kontoauszug-ohne-saldo"_s);
+    scene.Book.Settings().Set(
+        balances, u"2026-10-31=150000;2026-11-10=140000;"_s + modDate::ToIso(newest.ImportDate) + u"=123456"_s);
     take(u"kontoauszug"_s);
     cStatementListModel statement(scene.Tools());
     cListPrinter printer(statement);

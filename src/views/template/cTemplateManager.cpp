@@ -518,6 +518,11 @@ QString cTemplateManager::AmountLabel(const cTemplateFields& fields) const
     return modRecurrence::IsRecurring(fields.Interval) ? cText::Tr("Betra&g:") : cText::Tr("&Monatslimit:");
 }
 
+QString cTemplateManager::NoAmountText(const cTemplateFields& fields) const
+{
+    return modRecurrence::IsRecurring(fields.Interval) ? cText::Tr("kein Betrag") : cText::Tr("kein Limit");
+}
+
 // What the budget says of this month, where it is something else.
 QString cTemplateManager::BudgetHint(const cTemplateFields& fields) const
 {
@@ -533,11 +538,14 @@ QString cTemplateManager::AmountHint(const cTemplateFields& fields) const
     if (!modRecurrence::IsRecurring(fields.Interval)) {
         return budget; // all else says the label
     }
+    const qint64 amount = modSum::Evaluate(fields.Amount, m_tools.Format.Decimal()).value_or(0);
+    if (amount == 0) {
+        return budget; // nothing is proposed then
+    }
     cTemplateItem item;
     item.EntryType = fields.Type;
     item.EntryInterval = fields.Interval;
-    item.TemplateDefaultValue =
-        modAmount::CentsToText(modSum::Evaluate(fields.Amount, m_tools.Format.Decimal()).value_or(0));
+    item.TemplateDefaultValue = modAmount::CentsToText(amount);
     const qint64 limit = modTemplate::LimitCents(item, 1);
     const QString proposed = limit == 0
         ? cText::Tr("Wird vorgeschlagen")

@@ -83,8 +83,10 @@ public:
     [[nodiscard]] bool IsNameFixed(const cTemplateNode& node) const; // it can be neither renamed nor removed
     [[nodiscard]] QString Title(const cTemplateNode& node) const;
     [[nodiscard]] QString Hint(const cTemplateNode& node) const;
-    // What the amount of a category is, by its interval: the label of its field, and the line below it.
+    // What the amount of a category is, by its interval: the label of its field, what the empty field says, and the
+    // line below it.
     [[nodiscard]] QString AmountLabel(const cTemplateFields& fields) const;
+    [[nodiscard]] QString NoAmountText(const cTemplateFields& fields) const;
     [[nodiscard]] QString AmountHint(const cTemplateFields& fields) const;
     [[nodiscard]] QString NumbersHint() const; // bank numbers that no account has yet; empty for none
 

@@ -35,6 +35,11 @@ struct cChartLayout
         int Series = 0;
         QRectF Area;
     };
+    struct cMore
+    {
+        int Count = 0;
+        QRectF Area{};
+    };
     struct cCircle
     {
         int Index = 0;
@@ -72,6 +77,7 @@ struct cChartLayout
     QRectF Plot; // what is left for the picture itself
     cChartAxis Axis;
     std::vector<cLegendItem> Legend;
+    cMore More;                               // what the legend has no room for
     std::vector<cHit> Hits;                   // later ones lie on top
     std::vector<std::vector<QPointF>> Points; // by series and label; NaN for a gap, empty for a hidden series
     std::vector<cCircle> Circles;

@@ -97,7 +97,7 @@ QSize cChartView::sizeHint() const
 
 QSize cChartView::minimumSizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 36, fontMetrics().height() * 12};
+    return {fontMetrics().averageCharWidth() * 36, fontMetrics().height() * 17}; // a dozen names in the legend
 }
 
 void cChartView::Invalidate()

@@ -1,5 +1,6 @@
 #include "windows/chart/modChartLegend.h"
 
+#include "base/cText.h"
 #include "windows/chart/modChartColour.h"
 #include "windows/look/modTone.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 constexpr int mostInRows = 6;       // more series stand in a list beside the chart
 constexpr double swatchWidth = 1.5; // em, with the gap behind it
-constexpr double leastName = 7;     // em, with the swatch; a name cut shorter says nothing
+constexpr double leastName = 8;     // em, with the swatch; a name cut shorter says nothing
 
 // The series that the legend names. A stack laid beside has the colours of the first one and needs no names of its own.
 QList<int> Items(const cChartScene& scene)
@@ -94,45 +95,69 @@ double ListWidth(const cChartScene& scene, double room)
     return std::min(widest + figures, std::max(room * 0.58, least));
 }
 
-// Items below each other within the area, in its middle. What has no room is left out: the table has it.
+// Items below each other within the area, in its middle. The last line counts those that have no room: the table has
+// them.
 void LayOutList(const cChartScene& scene, cChartLayout& layout, const QRectF& area)
 {
     const double most = scene.Em() * 1.65;
     const QList<int> items = Items(scene);
-    const int rows = static_cast<int>(items.size()) + (HasHeader(scene) ? 1 : 0);
-    const double height = std::clamp(area.height() / std::max(1, rows), scene.Em() * 1.1, most);
-    const double used = height * rows;
+    const int header = HasHeader(scene) ? 1 : 0;
+    const int count = static_cast<int>(items.size());
+    const double height = std::clamp(area.height() / std::max(1, count + header), scene.Em(), most);
+    const int room = std::max(1, static_cast<int>((area.height() + 1) / height) - header);
+    const int shown = room < count ? room - 1 : count;
+    const double used = height * (std::min(room, count) + header);
     const bool isPie = scene.Data.Kind == eChart::Pie;
-    double y = area.top() + (isPie ? std::max(0.0, (area.height() - used) / 2) : 0.0);
-    y += HasHeader(scene) ? height : 0.0;
-    for (const int series : items) {
-        if (y + height > area.bottom() + 1) {
-            break;
-        }
-        layout.Legend.push_back({series, QRectF(area.left(), y, area.width(), height)});
-        y += height;
+    const double first = area.top() + (isPie ? std::max(0.0, (area.height() - used) / 2) : 0.0) + height * header;
+    const auto line = [&](int row) { return QRectF(area.left(), first + height * row, area.width(), height); };
+    for (int row = 0; row < shown; ++row) {
+        layout.Legend.push_back({items[row], line(row)});
+    }
+    if (shown < count) {
+        layout.More = {count - shown, line(shown)};
     }
 }
 
-void LayOutBesidePie(const cChartScene& scene, cChartLayout& layout)
+// Where the pies and their list may stand.
+struct cPiePlaces
 {
-    const QRectF area = layout.Plot;
+    QRectF Pies;
+    QRectF List;
+};
+
+cPiePlaces Beside(const cChartScene& scene, const QRectF& area)
+{
     const double gap = scene.Em() * 1.5;
-    const double legend = ListWidth(scene, area.width());
-    const double pies = std::min(area.width() - legend - gap, area.height() * scene.LabelCount());
-    const double left = area.left() + (area.width() - legend - gap - pies) / 2;
-    layout.Plot = QRectF(left, area.top(), pies, area.height());
-    LayOutList(scene, layout, QRectF(left + pies + gap, area.top(), legend, area.height()));
+    const double list = ListWidth(scene, area.width());
+    const double pies = std::min(area.width() - list - gap, area.height() * scene.LabelCount());
+    const double left = area.left() + (area.width() - list - gap - pies) / 2;
+    return {QRectF(left, area.top(), pies, area.height()), QRectF(left + pies + gap, area.top(), list, area.height())};
 }
 
-void LayOutBelowPie(const cChartScene& scene, cChartLayout& layout)
+cPiePlaces Below(const cChartScene& scene, const QRectF& area)
 {
-    const QRectF area = layout.Plot;
     const double wanted = scene.Em() * 1.5 * (scene.SeriesCount() + (HasHeader(scene) ? 1 : 0));
-    const double height = std::min(wanted, area.height() * 0.45);
+    const double height = std::min(wanted, area.height() * 0.5);
     const double width = std::min(area.width(), std::max(ListWidth(scene, area.width() / 0.58), area.width() * 0.6));
-    layout.Plot.setBottom(area.bottom() - height - scene.Em());
-    LayOutList(scene, layout, QRectF(area.center().x() - width / 2, area.bottom() - height, width, height));
+    return {area.adjusted(0, 0, 0, -height - scene.Em()),
+            QRectF(area.center().x() - width / 2, area.bottom() - height, width, height)};
+}
+
+// Of each pie, beside or below each other.
+double Diameter(const cChartScene& scene, const QRectF& pies)
+{
+    const int count = scene.LabelCount();
+    return std::max(std::min(pies.width() / count, pies.height()), std::min(pies.width(), pies.height() / count));
+}
+
+void LayOutPie(const cChartScene& scene, cChartLayout& layout)
+{
+    const cPiePlaces beside = Beside(scene, layout.Plot);
+    const cPiePlaces below = Below(scene, layout.Plot);
+    const bool isBeside = Diameter(scene, beside.Pies) >= Diameter(scene, below.Pies);
+    const cPiePlaces& places = isBeside ? beside : below;
+    layout.Plot = places.Pies;
+    LayOutList(scene, layout, places.List);
 }
 
 void LayOutRows(const cChartScene& scene, cChartLayout& layout)
@@ -206,8 +231,7 @@ void PaintItem(QPainter& painter, const cChartScene& scene, const cChartLayout::
 void modChartLegend::LayOut(const cChartScene& scene, cChartLayout& layout)
 {
     if (scene.Data.Kind == eChart::Pie) {
-        const bool isWide = layout.Plot.width() > layout.Plot.height() * 1.1;
-        isWide ? LayOutBesidePie(scene, layout) : LayOutBelowPie(scene, layout);
+        LayOutPie(scene, layout);
     } else if (Items(scene).size() > mostInRows && layout.Plot.width() > scene.Em() * 30) {
         const double width = ListWidth(scene, layout.Plot.width());
         const QRectF area(layout.Plot.right() - width, layout.Plot.top(), width, layout.Plot.height());
@@ -225,6 +249,12 @@ void modChartLegend::Paint(QPainter& painter, const cChartScene& scene, const cC
         const QRectF first = layout.Legend.front().Area;
         PaintFigures(painter, scene, first.translated(0, -first.height()), scene.Data.Labels, widths,
                      modTone::Quiet(scene.Style.Palette));
+    }
+    if (layout.More.Count > 0) {
+        painter.setFont(scene.Style.Font);
+        painter.setPen(modTone::Quiet(scene.Style.Palette));
+        painter.drawText(layout.More.Area.adjusted(scene.Em() * swatchWidth, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                         cText::Tr("und {0} weitere", {QString::number(layout.More.Count)}));
     }
     for (std::size_t i = 0; i < layout.Legend.size(); ++i) {
         const cChartLayout::cLegendItem& item = layout.Legend[i];

@@ -31,6 +31,15 @@ constexpr int typingPause = 150; // milliseconds without typing
 constexpr int shownExamples = 5;
 constexpr int margin = 4; // beside the line that parts list and form
 
+// Asks for its few lines, and takes what is left.
+class cExampleList final : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+
+    [[nodiscard]] QSize sizeHint() const override { return {QListWidget::sizeHint().width(), minimumHeight()}; }
+};
+
 } // namespace
 
 frmRegeln::frmRegeln(cRuleEditor& rules, QWidget* parent)
@@ -45,7 +54,7 @@ frmRegeln::frmRegeln(cRuleEditor& rules, QWidget* parent)
       m_interval(new QComboBox(this)),
       m_description(new QLineEdit(this)),
       m_trial(new QLabel(this)),
-      m_examples(new QListWidget(this))
+      m_examples(new cExampleList(this))
 {
     setWindowTitle(cText::Tr("Regeln für Umsätze"));
     m_text->setObjectName(QStringLiteral("txtText"));
@@ -180,9 +189,7 @@ void frmRegeln::BuildForm(QLayout& layout)
     layout.addWidget(m_trial);
     m_examples->setAccessibleName(cText::Tr("Beispiele"));
     m_examples->setSelectionMode(QAbstractItemView::NoSelection);
-    m_examples->setItemDelegate(new cRowDelegate(this));
     m_examples->setMinimumHeight(cRowDelegate::RowHeight(fontMetrics()) * shownExamples + 2 * m_examples->frameWidth());
-    m_examples->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is left, at least those lines
     layout.addWidget(m_examples);
 }
 
@@ -271,6 +278,7 @@ void frmRegeln::ShowTrial()
     for (const QString& example : examples) {
         auto* item = new QListWidgetItem(example, m_examples);
         item->setToolTip(example);
+        item->setSizeHint({0, cRowDelegate::RowHeight(fontMetrics())}); // cut with dots at the edge of the list
     }
     m_conditions->setEnabled(m_rules.CanEdit());
     m_result->setEnabled(m_rules.CanEdit());

@@ -28,8 +28,8 @@ cChartPane::cChartPane(cStatisticsChart& model, const QString& name, QWidget* pa
     : QWidget(parent),
       m_model(model),
       m_kind(new QComboBox(this)),
-      m_period(new cPeriodPicker(this)),
       m_compare(new QComboBox(this)),
+      m_period(new cPeriodPicker(this)),
       m_forecast(new QComboBox(this)),
       m_average(new QCheckBox(cText::Tr("mit Einzelausgaben"), this)),
       m_box(new cChartBox(this))

@@ -31,8 +31,8 @@ private:
 
     cStatisticsChart& m_model;
     QComboBox* m_kind;
-    cPeriodPicker* m_period;
     QComboBox* m_compare;
+    cPeriodPicker* m_period;
     QComboBox* m_forecast;
     QCheckBox* m_average;
     cChartBox* m_box;

@@ -141,7 +141,6 @@ void cTemplatePanel::BuildFields()
         amount->setAlignment(Qt::AlignRight);
         modEmptyField::Tell(*amount);
     }
-    m_limit->setPlaceholderText(cText::Tr("kein Limit"));
     m_vat->setPlaceholderText(cText::Tr("keine"));
     m_vat->setToolTip(cText::Tr("Der Eintrag zeigt damit, wie viel Mehrwertsteuer in seinem Betrag steckt."));
     m_start->setPlaceholderText(cText::Tr("keines"));
@@ -358,6 +357,7 @@ void cTemplatePanel::ShowAmountHint()
     const QString hint = m_manager->AmountHint(fields);
     m_limitHint->SetText(hint);
     SetText(m_limit, m_manager->AmountLabel(fields));
+    m_limit->setPlaceholderText(m_manager->NoAmountText(fields));
     ShowRow(m_limit, true);
     ShowRow(m_limitHint, !hint.isEmpty());
 }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int width = 14; // of a column, in average characters
+constexpr int width = 17; // of a column, in average characters
 constexpr int leastName = 21;
 constexpr int leastText = 9;  // of a column that the panel beside the list repeats
 constexpr int nameWidth = 30; // at least, where there is room; the names take what is left
