@@ -181,7 +181,7 @@ private Q_SLOTS:
         {
             cMainProgram program(machine.Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
-            QCOMPARE(checked(program.Window()), QStringList(u"&System"_s));
+            QCOMPARE(checked(program.Window()), QStringList(u"Wie das &System"_s));
             QVERIFY(program.Model().Execute(modCommand::AppearanceDark));
             QCOMPARE(checked(program.Window()), QStringList(u"&Dunkel"_s));
             QTRY_VERIFY(modTone::IsDark(program.Window().palette()));

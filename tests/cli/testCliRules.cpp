@@ -46,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(List(u"EntryInterval"_s), QStringList({u"Monatlich"_s, QString()}));
         Do(u"rules|switch|1|off"_s);
         QCOMPARE(List(u"Rows"_s), QStringList({u"0"_s, u"1"_s}));
-        QVERIFY(Do(u"rules"_s).Out.contains(u"Text enthält „brezen“, Ausgabe, Konto Girokonto"_s));
+        QVERIFY(Do(u"rules"_s).Out.contains(u"Text enthält 'brezen', Ausgabe, Konto Girokonto"_s));
         QCOMPARE(Run(u"rules|delete|1"_s).Code, 1);
         Do(u"rules|delete|1|--yes"_s);
         QCOMPARE(List(u"Text"_s), QStringList(u"brezen"_s));

@@ -204,7 +204,7 @@ void testBankQuestions::ApprovalShowsTheTimeLeft()
     approval.IsAutomatic = false;
     wait.Start(approval);
     QCOMPARE(wait.TimeLeft(), u"Noch 4:05 Minuten Zeit"_s);
-    QCOMPARE(wait.Step(), u"Klicken Sie auf \"Jetzt prüfen\", sobald Sie freigegeben haben."_s);
+    QCOMPARE(wait.Step(), u"Klicken Sie auf „Jetzt prüfen“, sobald Sie freigegeben haben."_s);
     clock.Time = clock.Time.addSecs(245);
     QCOMPARE(wait.TimeLeft(), u"Die Zeit für die Freigabe ist abgelaufen."_s);
 }

@@ -161,7 +161,7 @@ void testRuleListModel::Refused() const
     scene.Database.Execute("CREATE TRIGGER stop BEFORE UPDATE ON setting BEGIN SELECT RAISE(ABORT, 'voll'); END");
     editor.SetDraft(Rule(u"edeka"_s));
     QVERIFY(!editor.Save());
-    QCOMPARE(editor.List().index(0, cRuleListModel::Rule).data().toString(), u"Text enthält „rewe“"_s);
+    QCOMPARE(editor.List().index(0, cRuleListModel::Rule).data().toString(), u"Text enthält 'rewe'"_s);
     QVERIFY(editor.IsChanged()); // what was typed is still there
     QCOMPARE(scene.User.Shown.size(), 1);
 }
@@ -220,7 +220,7 @@ void testRuleListModel::DeleteAsks() const
     scene.User.Answers = {eAnswer::No, eAnswer::Yes, eAnswer::Yes};
     QVERIFY(editor.Choose(1));
     QVERIFY(!editor.Delete());
-    QVERIFY(scene.User.Asked.constFirst().contains(u"„b“"));
+    QVERIFY(scene.User.Asked.constFirst().contains(u"'b'"));
     QVERIFY(editor.Delete());
     QCOMPARE(editor.Draft().Text, u"a"_s);
     QVERIFY(editor.Delete());
@@ -325,8 +325,8 @@ void testRuleListModel::Words() const
     rule.Account = u"Girokonto"_s;
     rule.Interval = u"Monatlich"_s;
     rule.Description = u"Essen"_s;
-    QCOMPARE(modRuleText::Conditions(rule), u"Text enthält „rewe“ oder „edeka“, an Markt, Ausgabe, Konto Girokonto"_s);
-    QCOMPARE(modRuleText::Result(rule), u"Monatlich, „Essen“"_s);
+    QCOMPARE(modRuleText::Conditions(rule), u"Text enthält 'rewe' oder 'edeka', an Markt, Ausgabe, Konto Girokonto"_s);
+    QCOMPARE(modRuleText::Result(rule), u"Monatlich, 'Essen'"_s);
 }
 
 TEST_CLASS(testRuleListModel, QCoreApplication)

@@ -54,7 +54,7 @@ QString cApprovalWait::Step() const
     if (m_approval.IsAutomatic || m_isWished) {
         return cText::Tr("Die Bank wird in {0} s gefragt, ob Ihre Freigabe da ist.", {QString::number(left)});
     }
-    return cText::Tr("Klicken Sie auf \"Jetzt prüfen\", sobald Sie freigegeben haben.");
+    return cText::Tr("Klicken Sie auf „Jetzt prüfen“, sobald Sie freigegeben haben.");
 }
 
 // Somebody has to be able to ask.

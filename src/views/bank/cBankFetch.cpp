@@ -180,7 +180,7 @@ void cBankFetch::Load()
 QString cBankFetch::EmptyHint() const
 {
     return m_accounts.isEmpty()
-        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Richten Sie unter \"Bankzugänge…\" eines ein.")
+        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Richten Sie unter „Bankzugänge…“ eines ein.")
         : QString();
 }
 

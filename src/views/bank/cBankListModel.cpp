@@ -60,7 +60,7 @@ QString cBankListModel::EmptyTitle()
 
 QString cBankListModel::EmptyHint()
 {
-    return cText::Tr("Mit „Neuer Zugang“ richten Sie den Abruf der Umsätze bei Ihrer Bank ein.");
+    return cText::Tr("Mit „Neuer Zugang…“ richten Sie den Abruf der Umsätze bei Ihrer Bank ein.");
 }
 
 int cBankListModel::rowCount(const QModelIndex& parent) const

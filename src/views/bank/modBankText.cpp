@@ -68,7 +68,7 @@ QString modBankText::OtherAddress(const QString& address)
     return address.isEmpty()
         ? QString()
         : cText::Tr("Die Bank nennt eine andere Adresse: {0}. Fragen Sie bei ihr nach, bevor Sie sie "
-                    "unter \"Bankzugänge…\" eintragen; von selbst wird sie nicht benutzt.",
+                    "unter „Bankzugänge…“ eintragen; von selbst wird sie nicht benutzt.",
                     {address});
 }
 

@@ -38,7 +38,7 @@ void cUpdateSchedule::AskOnce()
         {.Text =
              cText::Tr("Soll Kontorelle einmal in der Woche nachsehen, ob es eine neue Version gibt?\nGesendet wird "
                        "dabei nur die Nummer Ihrer Version, und geladen wird nichts ohne Sie. Ändern können Sie "
-                       "das jederzeit mit \"Hilfe\", \"Nach Updates suchen\"."),
+                       "das jederzeit mit „Hilfe“, „Nach Updates suchen“."),
          .Title = cText::Tr("Neue Versionen"),
          .Buttons = eButtons::YesNoCancel,
          .Default = eAnswer::No});

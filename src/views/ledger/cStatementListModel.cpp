@@ -306,7 +306,7 @@ QString cStatementListModel::EmptyHint() const
         return modUnread::Hint();
     }
     if (m_ledger.Rows().isEmpty()) {
-        return cText::Tr("Lesen Sie mit \"Kontoauszug importieren\" (Strg+I) eine Datei Ihrer Bank ein.");
+        return cText::Tr("Lesen Sie mit „Kontoauszug importieren“ (Strg+I) eine Datei Ihrer Bank ein.");
     }
     return cText::Tr("Wählen Sie einen anderen Zeitraum, oder ändern Sie den Suchtext.");
 }

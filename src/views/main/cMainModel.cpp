@@ -572,7 +572,7 @@ QString cMainModel::WindowTitle() const
 {
     const QString name = QFileInfo(m_parts.DatabasePath).completeBaseName();
     const bool isUnnamed = name.compare(u"data"_s, Qt::CaseInsensitive) == 0; // "data.db", which nobody has chosen
-    return u"%1 – Kontorelle"_s.arg(isUnnamed ? cText::Tr("Haushaltsbuch") : name);
+    return u"%1 — Kontorelle"_s.arg(isUnnamed ? cText::Tr("Haushaltsbuch") : name);
 }
 
 QString cMainModel::BalancesTitle() const

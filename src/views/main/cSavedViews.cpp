@@ -101,7 +101,7 @@ std::optional<cSavedView> cSavedViews::Manage()
     if (views.isEmpty()) {
         m_tools.User.Show(eTone::Information,
                           cText::Tr("Noch ist keine Ansicht gemerkt. Wählen Sie Zeitraum, Konto, Filter und Spalten, "
-                                    "und dann \"Ansicht merken…\"."));
+                                    "und dann „Ansicht merken…“."));
         return std::nullopt;
     }
     const QString title = cText::Tr("Meine Ansichten");

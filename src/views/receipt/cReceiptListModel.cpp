@@ -197,7 +197,7 @@ void cReceiptListModel::Open(int row)
     if (!cReceipts::IsDocument(path)) {
         m_tools.User.Show(eTone::Objection,
                           cText::Tr("'{0}' ist kein Bild und kein Dokument und wird deshalb nicht geöffnet. Mit "
-                                    "\"Speichern unter…\" kommen Sie an die Datei.",
+                                    "„Speichern unter…“ kommen Sie an die Datei.",
                                     {NameAt(row)}));
     } else if (!m_desk.OpenFile(path)) {
         m_tools.User.Show(eTone::Exclamation,

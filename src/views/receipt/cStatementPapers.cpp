@@ -129,7 +129,7 @@ QString cStatementPapers::Take(cReceiptFolder& folder, const cReceiptSource& sou
         (void)folder.Refuse(source.Path.isEmpty()
                                 ? cText::Tr("In der Zwischenablage ist kein PDF.")
                                 : cText::Tr("'{0}' ist kein PDF. Auszüge, die Kontorelle einlesen kann (CSV, MT940 und "
-                                            "so weiter), gehören auf die Seite \"Kontoauszüge\".",
+                                            "so weiter), gehören auf die Seite „Kontoauszüge“.",
                                             {cReceiptFolder::NameOf(source)}));
         return {};
     }

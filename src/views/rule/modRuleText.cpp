@@ -36,7 +36,7 @@ QString modRuleText::Conditions(const cOwnRule& rule)
     if (!rule.Text.isEmpty()) {
         QStringList alternatives = Alternatives(rule.Text);
         for (QString& alternative : alternatives) {
-            alternative = u"„%1“"_s.arg(alternative.trimmed());
+            alternative = u"'%1'"_s.arg(alternative.trimmed());
         }
         parts.append(cText::Tr("Text enthält {0}", {alternatives.join(cText::Tr(" oder "))}));
     }
@@ -59,7 +59,7 @@ QString modRuleText::Result(const cOwnRule& rule)
         return cText::Tr("wird nicht angewandt");
     }
     QStringList parts{rule.Category, modWord::Intervals().ToShown(rule.Interval),
-                      rule.Description.isEmpty() ? QString() : u"„%1“"_s.arg(rule.Description)};
+                      rule.Description.isEmpty() ? QString() : u"'%1'"_s.arg(rule.Description)};
     parts.removeAll(QString());
     return parts.join(u", "_s);
 }

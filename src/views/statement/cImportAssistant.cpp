@@ -386,10 +386,10 @@ void cImportAssistant::LoadLayout()
     const bool isOfThis = m_works->Opened.Layout.Key == taken.Key;
     m_parts.User.Show(
         eTone::Information,
-        isOfThis ? cText::Tr("Der Aufbau \"{0}\" gilt nun für diese Datei und alle mit denselben "
+        isOfThis ? cText::Tr("Der Aufbau '{0}' gilt nun für diese Datei und alle mit denselben "
                              "Spaltennamen.",
                              {taken.Name})
-                 : cText::Tr("Der Aufbau \"{0}\" ist gemerkt. Diese Datei hat andere Spaltennamen.", {taken.Name}));
+                 : cText::Tr("Der Aufbau '{0}' ist gemerkt. Diese Datei hat andere Spaltennamen.", {taken.Name}));
 }
 
 void cImportAssistant::Touch()

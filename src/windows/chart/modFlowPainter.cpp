@@ -34,7 +34,7 @@ double LabelWidth(const cChartScene& scene, double room)
     for (int series = 0; series < scene.SeriesCount(); ++series) {
         const cChartSeries& each = scene.Data.Series[series];
         const qint64 cents = each.At(In).value_or(each.At(Out).value_or(0));
-        const QString text = each.Name + u"   " + scene.Data.AxisText(cents);
+        const QString text = each.Name + u"   " + scene.Data.MoneyText(cents);
         widest = std::max(widest, scene.Metrics.horizontalAdvance(text) + scene.Em() * 0.6);
     }
     return std::min(widest, room * labelShare);
@@ -113,7 +113,7 @@ void PaintLabel(QPainter& painter, const cChartScene& scene, const cChartLayout:
 {
     const cChartSeries& series = scene.Data.Series[node.Part.Series];
     const QRectF box = node.Label.adjusted(scene.Em() * 0.3, 0, -scene.Em() * 0.3, 0);
-    const QString amount = scene.Data.AxisText(series.At(node.Part.Index).value_or(0));
+    const QString amount = scene.Data.MoneyText(series.At(node.Part.Index).value_or(0));
     const double needed = scene.Metrics.horizontalAdvance(amount) + scene.Em() * 0.5;
     const double nameWidth = scene.Metrics.horizontalAdvance(series.Name);
     const bool hasAmount = std::min(nameWidth, scene.Em() * 5) + needed <= box.width();
@@ -172,7 +172,7 @@ void modFlowPainter::Paint(QPainter& painter, const cChartScene& scene, const cC
             PaintLabel(painter, scene, node);
         }
     }
-    const QString text = scene.Data.Middle + u"  " + scene.Data.AxisText(scene.Data.Total(In));
+    const QString text = scene.Data.Middle + u"  " + scene.Data.MoneyText(scene.Data.Total(In));
     const double width = layout.Plot.width() - 2 * scene.Em();
     QRectF box(0, layout.Plot.top() - scene.Em() * 1.3, width, scene.Em() * 1.2);
     box.moveLeft(layout.Middle.center().x() - width / 2);

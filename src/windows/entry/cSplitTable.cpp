@@ -43,7 +43,7 @@ void cSplitTable::Build()
     horizontalHeader()->setSectionResizeMode(Amount, QHeaderView::Interactive);
     horizontalHeader()->setHighlightSections(false);
     setAlternatingRowColors(true);
-    setColumnWidth(Amount, fontMetrics().averageCharWidth() * 16);
+    setColumnWidth(Amount, fontMetrics().averageCharWidth() * 13);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 7 / 4);
     setSelectionMode(SingleSelection);

@@ -12,7 +12,7 @@ cLanguageMenu::cLanguageMenu(cNationalSettings& settings, QWidget* parent)
     auto* group = new QActionGroup(this);
     const QList<cNationalSettings::cOption> languages = cNationalSettings::Languages();
     for (const cNationalSettings::cOption& language : languages) {
-        QAction* action = addAction(language.Shown);
+        QAction* action = addAction(u'&' + language.Shown);
         action->setCheckable(true);
         action->setData(language.Stored);
         group->addAction(action);

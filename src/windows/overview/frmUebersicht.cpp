@@ -140,7 +140,7 @@ void frmUebersicht::ShowFirstSteps()
     }
     const auto command = [this](int id) { return [this, id] { m_model.Do(id); }; };
     const QList<cFirstStepsView::cWay> ways{
-        {cText::Tr("Kontoauszug einlesen…"),
+        {cText::Tr("Kontoauszug importieren…"),
          cText::Tr("Eine Datei Ihrer Bank. Sie können sie auch einfach in dieses Fenster ziehen."),
          command(modCommand::ImportStatement)},
         {cText::Tr("Online-Banking einrichten…"), cText::Tr("Umsätze direkt bei der Bank abrufen."),

@@ -20,13 +20,13 @@ QString Why(cPreview::eState state)
     switch (state) {
     case cPreview::eState::Shown: break;
     case cPreview::eState::Unknown:
-        return cText::Tr("Für diese Art von Datei gibt es keine Vorschau. \"Öffnen\" zeigt sie in einem anderen "
+        return cText::Tr("Für diese Art von Datei gibt es keine Vorschau. „Öffnen“ zeigt sie in einem anderen "
                          "Programm.");
     case cPreview::eState::Damaged: return cText::Tr("Die Datei ist beschädigt oder kein Bild und kein PDF.");
     case cPreview::eState::TooLarge:
-        return cText::Tr("Die Datei ist für eine Vorschau zu groß. \"Öffnen\" zeigt sie in einem anderen Programm.");
+        return cText::Tr("Die Datei ist für eine Vorschau zu groß. „Öffnen“ zeigt sie in einem anderen Programm.");
     case cPreview::eState::Locked:
-        return cText::Tr("Das PDF ist mit einem Passwort geschützt. \"Öffnen\" zeigt es in einem anderen Programm.");
+        return cText::Tr("Das PDF ist mit einem Passwort geschützt. „Öffnen“ zeigt es in einem anderen Programm.");
     }
     return {};
 }

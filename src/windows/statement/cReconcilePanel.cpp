@@ -76,17 +76,16 @@ void cReconcilePanel::Build()
     new cColumnFit(*m_list, columns, cReconcileListModel::Name);
     m_cure->setToolTip(cText::Tr("Behebt den markierten Unterschied (Eingabetaste)"));
     m_confirm->setToolTip(cText::Tr("Merkt sich, dass Bank und Buch bis zu diesem Tag übereinstimmen"));
-    auto* buttons = new QHBoxLayout;
+    auto* top = new QHBoxLayout;
+    top->addWidget(m_title, 1);
     for (QPushButton* button : {m_cure, m_open, m_confirm}) {
         button->setAutoDefault(false); // Enter belongs to the list
-        buttons->addWidget(button);
+        top->addWidget(button);        // the row below the list is the window's
     }
-    buttons->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_title);
+    layout->addLayout(top);
     layout->addWidget(m_list);
-    layout->addLayout(buttons);
 }
 
 void cReconcilePanel::Fill()

@@ -28,8 +28,7 @@ cRuleTree::cRuleTree(cRuleListModel& rules, QWidget* parent) : QTreeView(parent)
     columns.setSectionsMovable(false);
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::Stretch);
-    columns.setSectionResizeMode(cRuleListModel::Count, QHeaderView::Interactive);
-    columns.resizeSection(cRuleListModel::Count, fontMetrics().averageCharWidth() * 13);
+    columns.setSectionResizeMode(cRuleListModel::Count, QHeaderView::ResizeToContents);
 }
 
 void cRuleTree::paintEvent(QPaintEvent* event)

@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr int width = 17; // of a column, in average characters
+constexpr int textWidth = 17; // of a column, in average characters
+constexpr int amountWidth = 14;
 constexpr int leastName = 21;
 constexpr int leastText = 9;  // of a column that the panel beside the list repeats
 constexpr int nameWidth = 30; // at least, where there is room; the names take what is left
@@ -22,8 +23,8 @@ std::vector<cColumnFit::cColumn> ColumnsOf(const cTemplateTreeModel& model)
     for (int column = 1; column < model.columnCount(); ++column) {
         const int alignment = model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
         const bool isAmount = (alignment & Qt::AlignRight) != 0;
-        columns.push_back(
-            {width, isAmount ? cColumnFit::eKind::Amount : cColumnFit::eKind::Text, leastText, !isAmount});
+        columns.push_back({isAmount ? amountWidth : textWidth,
+                           isAmount ? cColumnFit::eKind::Amount : cColumnFit::eKind::Text, leastText, !isAmount});
     }
     return columns;
 }
