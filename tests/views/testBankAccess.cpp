@@ -3,6 +3,7 @@
 #include "store/cUndoStep.h"
 #include "store/modAccountColumns.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/bank/cBankAccess.h"
 
@@ -136,14 +137,11 @@ private Q_SLOTS:
 
     void VersionNeedsItsContents_data()
     {
-        QTest::addColumn<QString>("Column");
-        QTest::addColumn<QString>("Bpd");
-        QTest::addColumn<QString>("Upd");
-
-        QTest::newRow("untouched") << u"AccountLimit"_s << u"78"_s << u"3"_s;
-        QTest::newRow("another program got new parameters") << u"AccountLastBPD"_s << u"0"_s << u"3"_s;
-        QTest::newRow("another program got new accounts") << u"AccountLastUPD"_s << u"78"_s << u"0"_s;
-        QTest::newRow("record unreadable") << QString() << u"0"_s << u"0"_s;
+        const cTestRows<QString, QString, QString> row("Column", "Bpd", "Upd");
+        row("untouched", u"AccountLimit"_s, u"78"_s, u"3"_s);
+        row("another program got new parameters", u"AccountLastBPD"_s, u"0"_s, u"3"_s);
+        row("another program got new accounts", u"AccountLastUPD"_s, u"78"_s, u"0"_s);
+        row("record unreadable", {}, u"0"_s, u"0"_s);
     }
 
     void VersionNeedsItsContents()

@@ -6,6 +6,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "support/bankMonth.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/bank/cBankFetch.h"
 #include "views/statement/cStatementFiles.h"
@@ -157,11 +158,10 @@ private Q_SLOTS:
 
     void AsksAboutOldDays_data()
     {
-        QTest::addColumn<QList<eAnswer>>("answers");
-        QTest::addColumn<QStringList>("orders");
-        QTest::newRow("yes") << QList{eAnswer::Yes} << QStringList{u"888 2025-01-01 2026-03-15"_s};
-        QTest::newRow("no") << QList{eAnswer::No} << QStringList{u"888 2025-12-16 2026-03-15"_s};
-        QTest::newRow("cancel") << QList<eAnswer>{} << QStringList{};
+        const cTestRows<QList<eAnswer>, QStringList> row("answers", "orders");
+        row("yes", QList{eAnswer::Yes}, {u"888 2025-01-01 2026-03-15"_s});
+        row("no", QList{eAnswer::No}, {u"888 2025-12-16 2026-03-15"_s});
+        row("cancel", {}, {});
     }
 
     void AsksAboutOldDays()

@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/bank/cApprovalWait.h"
 #include "views/bank/cBankLogView.h"
@@ -33,18 +34,14 @@ class testBankQuestions final : public QObject
 private Q_SLOTS:
     void OnlyWhatCanBeATanIsLetIn_data()
     {
-        QTest::addColumn<bool>("isNumber");
-        QTest::addColumn<int>("most");
-        QTest::addColumn<QString>("typed"); // "|" is the cursor
-        QTest::addColumn<QString>("kept");
-        QTest::addColumn<bool>("fits");
-
-        QTest::newRow("digits") << true << 6 << u"123456|"_s << u"123456|"_s << true;
-        QTest::newRow("pasted with words and blanks") << true << 6 << u"TAN: 123 |456"_s << u"123|456"_s << true;
-        QTest::newRow("a digit too many") << true << 6 << u"1234567|"_s << u"1234567|"_s << false;
-        QTest::newRow("no length known") << true << 0 << u"123456789012|"_s << u"123456789012|"_s << true;
-        QTest::newRow("foreign digits") << true << 6 << u"1٣2|"_s << u"12|"_s << true;
-        QTest::newRow("letters") << false << 6 << u" aB-3 |"_s << u"aB-3|"_s << true;
+        // typed: "|" is the cursor
+        const cTestRows<bool, int, QString, QString, bool> row("isNumber", "most", "typed", "kept", "fits");
+        row("digits", true, 6, u"123456|"_s, u"123456|"_s, true);
+        row("pasted with words and blanks", true, 6, u"TAN: 123 |456"_s, u"123|456"_s, true);
+        row("a digit too many", true, 6, u"1234567|"_s, u"1234567|"_s, false);
+        row("no length known", true, 0, u"123456789012|"_s, u"123456789012|"_s, true);
+        row("foreign digits", true, 6, u"1٣2|"_s, u"12|"_s, true);
+        row("letters", false, 6, u" aB-3 |"_s, u"aB-3|"_s, true);
     }
 
     void OnlyWhatCanBeATanIsLetIn()
@@ -94,15 +91,12 @@ private Q_SLOTS:
     // Frames of the screen in microseconds, states in a second, and the frames that each state has to be seen for.
     void NoStateOfTheBarsIsShort_data()
     {
-        QTest::addColumn<int>("frame");
-        QTest::addColumn<int>("speed");
-        QTest::addColumn<int>("frames");
-
-        QTest::newRow("60 Hz, as wished") << 16667 << 20 << 3;
-        QTest::newRow("60 Hz, as fast as it can") << 16667 << 40 << 2;
-        QTest::newRow("60 Hz, slow") << 16667 << 2 << 30;
-        QTest::newRow("144 Hz") << 6944 << 40 << 4;
-        QTest::newRow("240 Hz") << 4167 << 40 << 6;
+        const cTestRows<int, int, int> row("frame", "speed", "frames");
+        row("60 Hz, as wished", 16667, 20, 3);
+        row("60 Hz, as fast as it can", 16667, 40, 2);
+        row("60 Hz, slow", 16667, 2, 30);
+        row("144 Hz", 6944, 40, 4);
+        row("240 Hz", 4167, 40, 6);
     }
 
     void NoStateOfTheBarsIsShort()
@@ -142,16 +136,13 @@ private Q_SLOTS:
 
     void BankIsNeverAskedTooEarly_data()
     {
-        QTest::addColumn<bool>("isAutomatic");
-        QTest::addColumn<bool>("hasButton");
-        QTest::addColumn<bool>("isPressed");
-        QTest::addColumn<bool>("isAsked"); // once the wait is over
-
-        QTest::newRow("by itself") << true << false << false << true;
-        QTest::newRow("by itself, and pressed too early") << true << true << true << true;
-        QTest::newRow("only when pressed") << false << true << false << false;
-        QTest::newRow("pressed too early") << false << true << true << true;
-        QTest::newRow("a bank that allows neither is asked by the button") << false << false << true << true;
+        // isAsked: once the wait is over
+        const cTestRows<bool, bool, bool, bool> row("isAutomatic", "hasButton", "isPressed", "isAsked");
+        row("by itself", true, false, false, true);
+        row("by itself, and pressed too early", true, true, true, true);
+        row("only when pressed", false, true, false, false);
+        row("pressed too early", false, true, true, true);
+        row("a bank that allows neither is asked by the button", false, false, true, true);
     }
 
     void BankIsNeverAskedTooEarly()

@@ -1,6 +1,7 @@
 #include "fints/cBankLog.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
@@ -134,24 +135,17 @@ private Q_SLOTS:
 
     void AsksForWhatIsMissing_data()
     {
-        QTest::addColumn<QString>("Code");
-        QTest::addColumn<QString>("Url");
-        QTest::addColumn<QString>("UserId");
-        QTest::addColumn<QString>("Product");
-        QTest::addColumn<QString>("Problem");
-
+        const cTestRows<QString, QString, QString, QString, QString> row("Code", "Url", "UserId", "Product", "Problem");
         const QString code = u"12345678"_s;
         const QString url = u"https://bank.example/fints"_s;
-        QTest::newRow("no bank") << QString() << url << u"ich"_s << product << u"Suchen Sie Ihre Bank"_s;
-        QTest::newRow("no address") << code << QString() << u"ich"_s << product
-                                    << u"Für diese Bank ist keine Adresse"_s;
+        row("no bank", {}, url, u"ich"_s, product, u"Suchen Sie Ihre Bank"_s);
+        row("no address", code, {}, u"ich"_s, product, u"Für diese Bank ist keine Adresse"_s);
         for (const QString& wrong : {u"http://bank.example/fints"_s, u"bank.example"_s, u"https://"_s}) {
             QTest::addRow("address %s", qPrintable(wrong))
                 << code << wrong << u"ich"_s << product << u"Die Adresse der Bank muss mit https:// beginnen"_s;
         }
-        QTest::newRow("no login") << code << url << u" "_s << product << u"Geben Sie den Anmeldenamen ein"_s;
-        QTest::newRow("no registration") << code << url << u"ich"_s << u" "_s
-                                         << u"Tragen Sie die Produktregistrierung ein"_s;
+        row("no login", code, url, u" "_s, product, u"Geben Sie den Anmeldenamen ein"_s);
+        row("no registration", code, url, u"ich"_s, u" "_s, u"Tragen Sie die Produktregistrierung ein"_s);
     }
 
     void AsksForWhatIsMissing()

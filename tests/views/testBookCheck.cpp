@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/book/cBookCheck.h"
 #include "views/entry/cEntryEditor.h"
@@ -14,12 +15,8 @@ class testBookCheck final : public QObject
 private Q_SLOTS:
     void FindsWhatIsNotSeen_data()
     {
-        QTest::addColumn<QString>("change"); // of a monthly series from 2026-03-10 on
-        QTest::addColumn<QString>("fault");
-        QTest::addColumn<int>("seen"); // lines of March 2026
-        const auto row = [](const char* name, const QString& change, const QString& fault, int seen) {
-            QTest::newRow(name) << change << fault << seen;
-        };
+        // change: of a monthly series from 2026-03-10 on; seen: lines of March 2026
+        const cTestRows<QString, QString, int> row("change", "fault", "seen");
         row("as it should be", u"EntryDescription = ''"_s, {}, 1);
         row("no day", u"EntryDate = NULL"_s, u"kein Tag"_s, 0);
         row("no day of the calendar", u"EntryDate = '2026-02-31'"_s, u"Tag '2026-02-31' nicht lesbar"_s, 0);

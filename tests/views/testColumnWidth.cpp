@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "views/list/cListLayout.h"
 #include "views/list/modColumnWidth.h"
 
@@ -14,15 +15,12 @@ class testColumnWidth final : public QObject
 private Q_SLOTS:
     void ShareTheRoom_data()
     {
-        QTest::addColumn<int>("Rest");
-        QTest::addColumn<int>("Room");
-        QTest::addColumn<QList<int>>("Widths");
-
-        QTest::newRow("what is left goes to one") << 1 << 500 << QList<int>{80, 340, 80};
-        QTest::newRow("or to none") << -1 << 500 << QList<int>{80, 200, 80};
-        QTest::newRow("the long text gives way first") << 1 << 250 << QList<int>{80, 97, 73};
-        QTest::newRow("then the amount keeps what it needs") << 1 << 160 << QList<int>{52, 38, 70};
-        QTest::newRow("below that the list scrolls") << 1 << 100 << QList<int>{30, 20, 70};
+        const cTestRows<int, int, QList<int>> row("Rest", "Room", "Widths");
+        row("what is left goes to one", 1, 500, {80, 340, 80});
+        row("or to none", -1, 500, {80, 200, 80});
+        row("the long text gives way first", 1, 250, {80, 97, 73});
+        row("then the amount keeps what it needs", 1, 160, {52, 38, 70});
+        row("below that the list scrolls", 1, 100, {30, 20, 70});
     }
 
     void ShareTheRoom()

@@ -7,6 +7,7 @@
 #include "model/modSettingKey.h"
 #include "store/cUndoStep.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cCorrectionFlow.h"
 
@@ -88,32 +89,24 @@ class testCorrectionFlow final : public QObject
 private Q_SLOTS:
     void Series_data() const
     {
-        QTest::addColumn<QString>("statements"); // one after the other, parted by "|"
-        QTest::addColumn<QList<int>>("decisions");
-        QTest::addColumn<int>("proposed"); // by the last question
-        QTest::addColumn<QString>("entries");
+        // statements: one after the other, parted by "|"; proposed: by the last question
+        const cTestRows<QString, QList<int>, int, QString> row("statements", "decisions", "proposed", "entries");
         const int none = -2;
-        QTest::newRow("another day is no question")
-            << u"2026-01-03 650; 2026-02-01 650; 2026-02-27 650"_s << QList<int>{} << none
-            << u"01-03 650, 02-01 650, 02-27 650, 04-01 650, 05-01 650"_s;
-        QTest::newRow("this time only") << u"2026-01-02 660"_s << QList<int>{0} << 0
-                                        << u"01-02 660, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s;
-        QTest::newRow("left as it is, but for the day")
-            << u"2026-01-02 660"_s << QList<int>{2} << 0 << u"01-02 650, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s;
-        QTest::newRow("twice in a row is a new price")
-            << u"2026-01-01 650; 2026-02-02 660; 2026-03-01 660"_s << QList<int>{1} << 1
-            << u"01-01 650, 02-02 660, 03-01 660, 04-01 660, 05-01 660"_s;
-        QTest::newRow("the second time with another statement")
-            << u"2026-02-02 660|2026-03-02 660"_s << QList<int>{0, 1} << 1
-            << u"01-01 650, 02-02 660, 03-02 660, 04-01 660, 05-01 660"_s;
-        QTest::newRow("a price that comes back")
-            << u"2026-01-01 660; 2026-02-01 660; 2026-03-01 650; 2026-04-01 650"_s << QList<int>{1} << 1
-            << u"01-01 660, 02-01 660, 03-01 650, 04-01 650, 05-01 650"_s;
-        QTest::newRow("each as proposed") << u"2026-01-01 655; 2026-02-01 660; 2026-03-01 660"_s << QList<int>{3} << 3
-                                          << u"01-01 655, 02-01 660, 03-01 660, 04-01 660, 05-01 660"_s;
-        QTest::newRow("an older statement after a newer one")
-            << u"2026-03-01 650; 2026-04-02 650|2026-01-01 660; 2026-02-01 660"_s << QList<int>{1} << 1
-            << u"01-01 660, 02-01 660, 03-01 650, 04-02 650, 05-01 650"_s;
+        row("another day is no question", u"2026-01-03 650; 2026-02-01 650; 2026-02-27 650"_s, {}, none,
+            u"01-03 650, 02-01 650, 02-27 650, 04-01 650, 05-01 650"_s);
+        row("this time only", u"2026-01-02 660"_s, {0}, 0, u"01-02 660, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s);
+        row("left as it is, but for the day", u"2026-01-02 660"_s, {2}, 0,
+            u"01-02 650, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s);
+        row("twice in a row is a new price", u"2026-01-01 650; 2026-02-02 660; 2026-03-01 660"_s, {1}, 1,
+            u"01-01 650, 02-02 660, 03-01 660, 04-01 660, 05-01 660"_s);
+        row("the second time with another statement", u"2026-02-02 660|2026-03-02 660"_s, {0, 1}, 1,
+            u"01-01 650, 02-02 660, 03-02 660, 04-01 660, 05-01 660"_s);
+        row("a price that comes back", u"2026-01-01 660; 2026-02-01 660; 2026-03-01 650; 2026-04-01 650"_s, {1}, 1,
+            u"01-01 660, 02-01 660, 03-01 650, 04-01 650, 05-01 650"_s);
+        row("each as proposed", u"2026-01-01 655; 2026-02-01 660; 2026-03-01 660"_s, {3}, 3,
+            u"01-01 655, 02-01 660, 03-01 660, 04-01 660, 05-01 660"_s);
+        row("an older statement after a newer one", u"2026-03-01 650; 2026-04-02 650|2026-01-01 660; 2026-02-01 660"_s,
+            {1}, 1, u"01-01 660, 02-01 660, 03-01 650, 04-02 650, 05-01 650"_s);
     }
 
     void Series() const
@@ -148,16 +141,13 @@ private Q_SLOTS:
 
     void WhatTheUserCorrected_data() const
     {
-        QTest::addColumn<qint64>("cents"); // by hand
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<QList<int>>("answers");
-        QTest::addColumn<QString>("entry");
+        // cents: by hand
+        const cTestRows<qint64, QDate, QList<int>, QString> row("cents", "day", "answers", "entry");
         const QDate none;
-        QTest::newRow("kept") << qint64(64000) << none << QList<int>{int(eAnswer::No)} << u"01-01 640"_s;
-        QTest::newRow("replaced") << qint64(64000) << none << QList<int>{int(eAnswer::Yes)} << u"01-02 650"_s;
-        QTest::newRow("own day") << qint64(65000) << QDate(2026, 1, 5) << QList<int>{int(eAnswer::No)}
-                                 << u"01-05 650"_s;
-        QTest::newRow("own amount that the bank confirms") << qint64(65000) << none << QList<int>{} << u"01-02 650"_s;
+        row("kept", 64000, none, {int(eAnswer::No)}, u"01-01 640"_s);
+        row("replaced", 64000, none, {int(eAnswer::Yes)}, u"01-02 650"_s);
+        row("own day", 65000, QDate(2026, 1, 5), {int(eAnswer::No)}, u"01-05 650"_s);
+        row("own amount that the bank confirms", 65000, none, {}, u"01-02 650"_s);
     }
 
     void WhatTheUserCorrected() const

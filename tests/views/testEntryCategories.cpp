@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 
@@ -109,16 +110,12 @@ private Q_SLOTS:
 
     void OrdersCategories_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("paths");
-        QTest::newRow("the name itself, its beginning, another word, inside a word, remark")
-            << u"miete"_s << modWord::Einnahme
-            << u"Wohnung; Miete|Einkommen; Mieteinnahmen|Urlaub; Auto Miete|Büro; Kaltmiete|Auto; Leihwagen"_s;
-        QTest::newRow("recent before kind")
-            << u"gesch"_s << modWord::Einnahme << u"Büro; Geschirr|Einkommen; Geschenke"_s;
-        QTest::newRow("kind among equals") << u"zin"_s << modWord::Ausgabe << u"Wohnung; Zinsen|Einkommen; Zinsen"_s;
-        QTest::newRow("only a remark") << u"sixt"_s << QString() << u"Auto; Leihwagen"_s;
+        const cTestRows<QString, QString, QString> row("typed", "type", "paths");
+        row("the name itself, its beginning, another word, inside a word, remark", u"miete"_s, modWord::Einnahme,
+            u"Wohnung; Miete|Einkommen; Mieteinnahmen|Urlaub; Auto Miete|Büro; Kaltmiete|Auto; Leihwagen"_s);
+        row("recent before kind", u"gesch"_s, modWord::Einnahme, u"Büro; Geschirr|Einkommen; Geschenke"_s);
+        row("kind among equals", u"zin"_s, modWord::Ausgabe, u"Wohnung; Zinsen|Einkommen; Zinsen"_s);
+        row("only a remark", u"sixt"_s, {}, u"Auto; Leihwagen"_s);
     }
 
     void OrdersCategories()

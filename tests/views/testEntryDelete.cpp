@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 
@@ -60,23 +61,16 @@ class testEntryDelete final : public QObject
 private Q_SLOTS:
     void AsksForPartsOnce_data()
     {
-        QTest::addColumn<QList<int>>("ids");
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QStringList>("left"); // flags by ID
+        // left: flags by ID
+        const cTestRows<QList<int>, int, QStringList, QStringList> row("ids", "choice", "options", "left");
         const QString other = u"4 "_s;
-        QTest::newRow("given up") << QList<int>{2} << -1 << QStringList{thisPart, allParts}
-                                  << QStringList{u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s, other};
-        QTest::newRow("this part") << QList<int>{2} << 0 << QStringList{thisPart, allParts}
-                                   << QStringList{u"1 split=1"_s, u"3 split=1"_s, other};
-        QTest::newRow("the part that names the group") << QList<int>{1} << 0 << QStringList{thisPart, allParts}
-                                                       << QStringList{u"2 split=2"_s, u"3 split=2"_s, other};
-        QTest::newRow("all parts") << QList<int>{3} << 1 << QStringList{thisPart, allParts} << QStringList{other};
-        QTest::newRow("all but one, which is ordinary then")
-            << QList<int>{1, 3} << 0 << QStringList{theseParts, allParts} << QStringList{u"2 "_s, other};
-        QTest::newRow("the whole group is selected") << QList<int>{1, 2, 3} << 0 << QStringList{} << QStringList{other};
-        QTest::newRow("none is a part") << QList<int>{4, 99} << 0 << QStringList{}
-                                        << QStringList{u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s};
+        row("given up", {2}, -1, {thisPart, allParts}, {u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s, other});
+        row("this part", {2}, 0, {thisPart, allParts}, {u"1 split=1"_s, u"3 split=1"_s, other});
+        row("the part that names the group", {1}, 0, {thisPart, allParts}, {u"2 split=2"_s, u"3 split=2"_s, other});
+        row("all parts", {3}, 1, {thisPart, allParts}, {other});
+        row("all but one, which is ordinary then", {1, 3}, 0, {theseParts, allParts}, {u"2 "_s, other});
+        row("the whole group is selected", {1, 2, 3}, 0, {}, {other});
+        row("none is a part", {4, 99}, 0, {}, {u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s});
     }
 
     void AsksForPartsOnce()
@@ -141,35 +135,31 @@ private Q_SLOTS:
     void SelectionWithSeriesAsksHowMuch_data()
     {
         using cKeys = QList<cEntryListModel::cKey>;
-        QTest::addColumn<cKeys>("keys");
-        QTest::addColumn<QString>("question");
-        QTest::addColumn<QStringList>("options");
+        const cTestRows<cKeys, QString, QStringList> row("keys", "question", "options");
         const QDate march(2026, 3, 10);
         const QDate april(2026, 4, 10);
-        QTest::newRow("an occurrence") << cKeys{{1, april}}
-                                       << u"'Miete' vom 10.04.2026 gehört zu einer Serie (Monatlich seit "
-                                          u"10.03.2026).\nWas möchten Sie löschen?\n\n"
-                                          "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
-                                          "Ab hier: Was davor liegt, bleibt.\n"
-                                          "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
-                                       << QStringList{u"Nur dieses Mal"_s, u"Ab hier"_s, u"Ganze Serie"_s};
-        QTest::newRow("the first one, from which the series would be whole")
-            << cKeys{{1, march}}
-            << u"'Miete' vom 10.03.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie "
-               u"löschen?\n\n"
-               "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
-               "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
-            << QStringList{u"Nur dieses Mal"_s, u"Ganze Serie"_s};
-        QTest::newRow("several of two series, and a plain entry")
-            << cKeys{{1, march}, {2, april}, {3, march}, {1, april}, {1, april}}
-            << u"Ausgewählt sind 3 Vorkommen von 2 Serien:\n'Miete' (Monatlich seit 10.03.2026)\n'Strom' (Monatlich "
-               u"seit "
-               u"10.03.2026)\n"
-               "Außerdem werden gelöscht: 1 Eintrag\nWas möchten Sie löschen?\n\n"
-               "Nur diese Male: Der Betrag wird null, alles andere bleibt.\n"
-               "Ab hier: Was davor liegt, bleibt.\n"
-               "Ganze Serien: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
-            << QStringList{u"Nur diese Male"_s, u"Ab hier"_s, u"Ganze Serien"_s};
+        row("an occurrence", {{1, april}},
+            u"'Miete' vom 10.04.2026 gehört zu einer Serie (Monatlich seit "
+            u"10.03.2026).\nWas möchten Sie löschen?\n\n"
+            "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
+            "Ab hier: Was davor liegt, bleibt.\n"
+            "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s,
+            {u"Nur dieses Mal"_s, u"Ab hier"_s, u"Ganze Serie"_s});
+        row("the first one, from which the series would be whole", {{1, march}},
+            u"'Miete' vom 10.03.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie "
+            u"löschen?\n\n"
+            "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
+            "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s,
+            {u"Nur dieses Mal"_s, u"Ganze Serie"_s});
+        row("several of two series, and a plain entry", {{1, march}, {2, april}, {3, march}, {1, april}, {1, april}},
+            u"Ausgewählt sind 3 Vorkommen von 2 Serien:\n'Miete' (Monatlich seit 10.03.2026)\n'Strom' (Monatlich "
+            u"seit "
+            u"10.03.2026)\n"
+            "Außerdem werden gelöscht: 1 Eintrag\nWas möchten Sie löschen?\n\n"
+            "Nur diese Male: Der Betrag wird null, alles andere bleibt.\n"
+            "Ab hier: Was davor liegt, bleibt.\n"
+            "Ganze Serien: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s,
+            {u"Nur diese Male"_s, u"Ab hier"_s, u"Ganze Serien"_s});
     }
 
     void SelectionWithSeriesAsksHowMuch()
@@ -185,15 +175,13 @@ private Q_SLOTS:
 
     void PartOfASeriesGoes_data()
     {
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QString>("step");
-        QTest::addColumn<QStringList>("left"); // days and amounts until June, of series 1 and 2
-        QTest::newRow("only these") << 0 << u"3 Einträge gelöscht"_s
-                                    << QStringList{u"1 10.03. 1000"_s, u"1 10.04. 0"_s,    u"1 10.05. 1000"_s,
-                                                   u"2 10.03. 0"_s,    u"2 10.04. 1000"_s, u"2 10.05. 1000"_s};
-        QTest::newRow("from here, which is all of the second")
-            << 1 << u"3 Einträge gelöscht"_s << QStringList{u"1 10.03. 1000"_s};
-        QTest::newRow("whole") << 2 << u"3 Einträge gelöscht"_s << QStringList{};
+        // left: days and amounts until June, of series 1 and 2
+        const cTestRows<int, QString, QStringList> row("choice", "step", "left");
+        row("only these", 0, u"3 Einträge gelöscht"_s,
+            {u"1 10.03. 1000"_s, u"1 10.04. 0"_s, u"1 10.05. 1000"_s, u"2 10.03. 0"_s, u"2 10.04. 1000"_s,
+             u"2 10.05. 1000"_s});
+        row("from here, which is all of the second", 1, u"3 Einträge gelöscht"_s, {u"1 10.03. 1000"_s});
+        row("whole", 2, u"3 Einträge gelöscht"_s, {});
     }
 
     void PartOfASeriesGoes()

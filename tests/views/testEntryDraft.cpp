@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDrafts.h"
 #include "views/entry/cEntryEditor.h"
@@ -120,11 +121,10 @@ private Q_SLOTS:
 
     void AsksWhatToDo_data() const
     {
-        QTest::addColumn<int>("option");
-        QTest::addColumn<cEntryDrafts::eWish>("wish");
-        QTest::newRow("restore") << 0 << cEntryDrafts::eWish::Restore;
-        QTest::newRow("discard") << 1 << cEntryDrafts::eWish::Discard;
-        QTest::newRow("giving up keeps it") << -1 << cEntryDrafts::eWish::Later;
+        const cTestRows<int, cEntryDrafts::eWish> row("option", "wish");
+        row("restore", 0, cEntryDrafts::eWish::Restore);
+        row("discard", 1, cEntryDrafts::eWish::Discard);
+        row("giving up keeps it", -1, cEntryDrafts::eWish::Later);
     }
 
     void AsksWhatToDo() const

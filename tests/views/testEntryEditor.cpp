@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -29,14 +30,11 @@ class testEntryEditor final : public QObject
 private Q_SLOTS:
     void ChecksInOrder_data()
     {
-        QTest::addColumn<QStringList>("emptied");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("amount first, without message") << QStringList({u"amount"_s, u"category"_s}) << QString();
-        QTest::newRow("category before kind")
-            << QStringList({u"category"_s, u"type"_s}) << u"Bitte erst eine Kategorie wählen!"_s;
-        QTest::newRow("kind before account")
-            << QStringList({u"type"_s, u"account"_s}) << u"Bitte erst eine Buchungsart wählen!"_s;
-        QTest::newRow("account") << QStringList({u"account"_s}) << u"Bitte erst ein Konto wählen!"_s;
+        const cTestRows<QStringList, QString> row("emptied", "message");
+        row("amount first, without message", {u"amount"_s, u"category"_s}, {});
+        row("category before kind", {u"category"_s, u"type"_s}, u"Bitte erst eine Kategorie wählen!"_s);
+        row("kind before account", {u"type"_s, u"account"_s}, u"Bitte erst eine Buchungsart wählen!"_s);
+        row("account", {u"account"_s}, u"Bitte erst ein Konto wählen!"_s);
     }
 
     void ChecksInOrder()
@@ -59,18 +57,14 @@ private Q_SLOTS:
 
     void SaysWhichFieldKeepsItFromBeingBuilt_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<int>("field");
-        QTest::addColumn<QString>("why");
+        const cTestRows<QString, QString, int, QString> row("type", "target", "field", "why");
         using enum eEntrySaved;
-        QTest::newRow("nowhere") << modWord::Umbuchung << QString() << int(BadTarget)
-                                 << u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s;
-        QTest::newRow("to itself") << modWord::Umbuchung << u"Girokonto"_s << int(BadTarget)
-                                   << u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s;
-        QTest::newRow("ends before it begins")
-            << modWord::Ausgabe << QString() << int(BadEnd)
-            << u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s;
+        row("nowhere", modWord::Umbuchung, {}, int(BadTarget),
+            u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s);
+        row("to itself", modWord::Umbuchung, u"Girokonto"_s, int(BadTarget),
+            u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s);
+        row("ends before it begins", modWord::Ausgabe, {}, int(BadEnd),
+            u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s);
     }
 
     void SaysWhichFieldKeepsItFromBeingBuilt()
@@ -162,13 +156,10 @@ private Q_SLOTS:
 
     void OtherPeriodCostsCorrections_data()
     {
-        QTest::addColumn<bool>("changesDate");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<int>("corrections");
-        QTest::addColumn<QString>("description");
-        QTest::newRow("other text asks nothing") << false << int(eAnswer::Cancel) << 1 << u"neu"_s;
-        QTest::newRow("no saves nothing") << true << int(eAnswer::No) << 1 << QString();
-        QTest::newRow("yes drops the corrections") << true << int(eAnswer::Yes) << 0 << u"neu"_s;
+        const cTestRows<bool, int, int, QString> row("changesDate", "answer", "corrections", "description");
+        row("other text asks nothing", false, int(eAnswer::Cancel), 1, u"neu"_s);
+        row("no saves nothing", true, int(eAnswer::No), 1, {});
+        row("yes drops the corrections", true, int(eAnswer::Yes), 0, u"neu"_s);
     }
 
     void OtherPeriodCostsCorrections()
@@ -199,13 +190,11 @@ private Q_SLOTS:
 
     void ProposesRecurringValues_data()
     {
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<bool>("isTyped");
-        QTest::addColumn<QString>("amount");
-        QTest::newRow("recurring") << u"Monatlich"_s << false << u"850,00"_s;
-        QTest::newRow("recurring, typed") << u"Monatlich"_s << true << u"7"_s;
-        QTest::newRow("a limit only") << modWord::Einmalig << false << u"0,00"_s;
-        QTest::newRow("without interval") << QString() << false << u"0,00"_s;
+        const cTestRows<QString, bool, QString> row("interval", "isTyped", "amount");
+        row("recurring", u"Monatlich"_s, false, u"850,00"_s);
+        row("recurring, typed", u"Monatlich"_s, true, u"7"_s);
+        row("a limit only", modWord::Einmalig, false, u"0,00"_s);
+        row("without interval", {}, false, u"0,00"_s);
     }
 
     void ProposesRecurringValues()
@@ -246,15 +235,12 @@ private Q_SLOTS:
 
     void TypedDays_data()
     {
-        QTest::addColumn<QString>("day");
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<int>("saved");
-        QTest::addColumn<QDate>("stored");
+        const cTestRows<QString, QString, int, QDate> row("day", "end", "saved", "stored");
         using enum eEntrySaved;
-        QTest::newRow("typed wins") << u"3.5."_s << QString() << int(Saved) << QDate(2026, 5, 3);
-        QTest::newRow("blank is the chosen day") << u" "_s << u"+400"_s << int(Saved) << QDate(2026, 3, 10);
-        QTest::newRow("no day") << u"bald"_s << QString() << int(BadDate) << QDate();
-        QTest::newRow("no last day") << u"3.5."_s << u"nie"_s << int(BadEnd) << QDate();
+        row("typed wins", u"3.5."_s, {}, int(Saved), QDate(2026, 5, 3));
+        row("blank is the chosen day", u" "_s, u"+400"_s, int(Saved), QDate(2026, 3, 10));
+        row("no day", u"bald"_s, {}, int(BadDate), {});
+        row("no last day", u"3.5."_s, u"nie"_s, int(BadEnd), {});
     }
 
     void TypedDays()
@@ -362,17 +348,13 @@ private Q_SLOTS:
 
     void PreviewsSeries_data()
     {
-        QTest::addColumn<QString>("day");
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("open") << u"20.1."_s << QString()
-                              << u"ohne Ende, nächste Termine: 20.03.2026, 20.04.2026, 20.05.2026"_s;
-        QTest::newRow("bounded") << u"20.1."_s << u"30.4."_s << u"4 Mal, nächste Termine: 20.03.2026, 20.04.2026"_s;
-        QTest::newRow("over") << u"20.1."_s << u"1.3."_s << u"2 Mal, beendet: zuletzt am 20.02.2026"_s;
-        QTest::newRow("never") << u"20.1."_s << u"1.1."_s
-                               << u"Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin."_s;
-        QTest::newRow("one, and the last") << u"20.4."_s << u"30.4."_s << u"1 Mal, nächste Termine: 20.04.2026"_s;
-        QTest::newRow("unreadable") << u"irgendwann"_s << QString() << QString();
+        const cTestRows<QString, QString, QString> row("day", "end", "text");
+        row("open", u"20.1."_s, {}, u"ohne Ende, nächste Termine: 20.03.2026, 20.04.2026, 20.05.2026"_s);
+        row("bounded", u"20.1."_s, u"30.4."_s, u"4 Mal, nächste Termine: 20.03.2026, 20.04.2026"_s);
+        row("over", u"20.1."_s, u"1.3."_s, u"2 Mal, beendet: zuletzt am 20.02.2026"_s);
+        row("never", u"20.1."_s, u"1.1."_s, u"Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin."_s);
+        row("one, and the last", u"20.4."_s, u"30.4."_s, u"1 Mal, nächste Termine: 20.04.2026"_s);
+        row("unreadable", u"irgendwann"_s, {}, {});
     }
 
     void PreviewsSeries()

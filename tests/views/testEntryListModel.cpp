@@ -3,6 +3,7 @@
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
 
@@ -81,22 +82,15 @@ private Q_SLOTS:
 
     void Sorts_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<int>("order");
-        QTest::addColumn<QStringList>("amounts");
-
-        QTest::newRow("date, equal days in their order")
-            << int(cEntryListModel::Date) << int(Qt::AscendingOrder)
-            << QStringList({u"-3,00"_s, u"-1,00"_s, u"-5,00"_s, u"90,00"_s, u"20,00"_s});
-        QTest::newRow("amount by its effect")
-            << int(cEntryListModel::Amount) << int(Qt::AscendingOrder)
-            << QStringList({u"-5,00"_s, u"-3,00"_s, u"-1,00"_s, u"20,00"_s, u"90,00"_s});
-        QTest::newRow("category in German order")
-            << int(cEntryListModel::Category) << int(Qt::AscendingOrder)
-            << QStringList({u"-1,00"_s, u"90,00"_s, u"20,00"_s, u"-5,00"_s, u"-3,00"_s});
-        QTest::newRow("category downwards")
-            << int(cEntryListModel::Category) << int(Qt::DescendingOrder)
-            << QStringList({u"-3,00"_s, u"-5,00"_s, u"20,00"_s, u"90,00"_s, u"-1,00"_s});
+        const cTestRows<int, int, QStringList> row("column", "order", "amounts");
+        row("date, equal days in their order", cEntryListModel::Date, Qt::AscendingOrder,
+            {u"-3,00"_s, u"-1,00"_s, u"-5,00"_s, u"90,00"_s, u"20,00"_s});
+        row("amount by its effect", cEntryListModel::Amount, Qt::AscendingOrder,
+            {u"-5,00"_s, u"-3,00"_s, u"-1,00"_s, u"20,00"_s, u"90,00"_s});
+        row("category in German order", cEntryListModel::Category, Qt::AscendingOrder,
+            {u"-1,00"_s, u"90,00"_s, u"20,00"_s, u"-5,00"_s, u"-3,00"_s});
+        row("category downwards", cEntryListModel::Category, Qt::DescendingOrder,
+            {u"-3,00"_s, u"-5,00"_s, u"20,00"_s, u"90,00"_s, u"-1,00"_s});
     }
 
     void Sorts()
@@ -113,30 +107,25 @@ private Q_SLOTS:
 
     void Groups_data()
     {
-        QTest::addColumn<QString>("grouping");
-        QTest::addColumn<QStringList>("groups");
-
-        QTest::newRow("day") << u"Nach Datum"_s
-                             << QStringList({u"Montag, 29.12.2025  (1)=-3,00"_s, u"Freitag, 02.01.2026  (1)=-1,00"_s,
-                                             u"Sonntag, 01.03.2026  (2)=85,00"_s, u"Mittwoch, 01.04.2026  (1)=0,00"_s});
-        QTest::newRow("week across the turn of the year")
-            << u"Nach Woche"_s
-            << QStringList({u"Woche 1/2026 ab 29.12.2025  (2)=-4,00"_s, u"Woche 9/2026 ab 23.02.2026  (2)=85,00"_s,
-                            u"Woche 14/2026 ab 30.03.2026  (1)=0,00"_s});
-        QTest::newRow("month") << u"Nach Monat"_s
-                               << QStringList({u"Dezember 2025  (1)=-3,00"_s, u"Januar 2026  (1)=-1,00"_s,
-                                               u"März 2026  (2)=85,00"_s, u"April 2026  (1)=0,00"_s});
-        QTest::newRow("main category") << u"Nach Sparte"_s
-                                       << QStringList({u"Keine Angabe  (1)=-1,00"_s, u"Einkommen  (1)=90,00"_s,
-                                                       u"Geldanlage  (1)=0,00"_s, u"Haushalt  (2)=-8,00"_s});
-        QTest::newRow("category") << u"Nach Kategorie"_s
-                                  << QStringList({u"Keine Angabe  (1)=-1,00"_s,
-                                                  u"Einkommen; Lohn / Gehalt  (1)=90,00"_s, u"Geldanlage  (1)=0,00"_s,
-                                                  u"Haushalt; Äpfel  (1)=-5,00"_s, u"Haushalt; Zwieback  (1)=-3,00"_s});
-        QTest::newRow("account") << u"Nach Konto"_s << QStringList({u"Girokonto  (5)=81,00"_s});
-        QTest::newRow("kind") << u"Nach Buchungsart"_s
-                              << QStringList(
-                                     {u"Ausgabe  (3)=-9,00"_s, u"Einnahme  (1)=90,00"_s, u"Umbuchung  (1)=0,00"_s});
+        const cTestRows<QString, QStringList> row("grouping", "groups");
+        row("day", u"Nach Datum"_s,
+            {u"Montag, 29.12.2025  (1)=-3,00"_s, u"Freitag, 02.01.2026  (1)=-1,00"_s,
+             u"Sonntag, 01.03.2026  (2)=85,00"_s, u"Mittwoch, 01.04.2026  (1)=0,00"_s});
+        row("week across the turn of the year", u"Nach Woche"_s,
+            {u"Woche 1/2026 ab 29.12.2025  (2)=-4,00"_s, u"Woche 9/2026 ab 23.02.2026  (2)=85,00"_s,
+             u"Woche 14/2026 ab 30.03.2026  (1)=0,00"_s});
+        row("month", u"Nach Monat"_s,
+            {u"Dezember 2025  (1)=-3,00"_s, u"Januar 2026  (1)=-1,00"_s, u"März 2026  (2)=85,00"_s,
+             u"April 2026  (1)=0,00"_s});
+        row("main category", u"Nach Sparte"_s,
+            {u"Keine Angabe  (1)=-1,00"_s, u"Einkommen  (1)=90,00"_s, u"Geldanlage  (1)=0,00"_s,
+             u"Haushalt  (2)=-8,00"_s});
+        row("category", u"Nach Kategorie"_s,
+            {u"Keine Angabe  (1)=-1,00"_s, u"Einkommen; Lohn / Gehalt  (1)=90,00"_s, u"Geldanlage  (1)=0,00"_s,
+             u"Haushalt; Äpfel  (1)=-5,00"_s, u"Haushalt; Zwieback  (1)=-3,00"_s});
+        row("account", u"Nach Konto"_s, {u"Girokonto  (5)=81,00"_s});
+        row("kind", u"Nach Buchungsart"_s,
+            {u"Ausgabe  (3)=-9,00"_s, u"Einnahme  (1)=90,00"_s, u"Umbuchung  (1)=0,00"_s});
     }
 
     void Groups()
@@ -151,24 +140,23 @@ private Q_SLOTS:
 
     void Finds_data()
     {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<int>("rows");
-        QTest::newRow("without accents") << u"cafe"_s << 1;
-        QTest::newRow("umlaut spelled out") << u"GROESSENWAHN"_s << 1;
-        QTest::newRow("umlaut without dots") << u"grossenwahn"_s << 1;
-        QTest::newRow("umlaut at the start of a word being typed") << u"äpf"_s << 1;
-        QTest::newRow("every word") << u"haushalt café"_s << 1;
-        QTest::newRow("no entry has both") << u"lohn café"_s << 0;
-        QTest::newRow("amount") << u"90,00"_s << 1;
-        QTest::newRow("day") << u"01.03.2026"_s << 2;
-        QTest::newRow("part of a day") << u".12.20"_s << 1;
-        QTest::newRow("amount with its sign") << u"-5,00"_s << 1;
-        QTest::newRow("amount with its currency") << u"90,00 €"_s << 1;
-        QTest::newRow("kind") << u"einnahme"_s << 1;
-        QTest::newRow("both accounts of a transfer") << u"giro sparkonto"_s << 1;
-        QTest::newRow("interval") << u"monatlich"_s << 1;
-        QTest::newRow("not across two columns") << u"äpfelgirokonto"_s << 0;
-        QTest::newRow("only blanks") << u"   "_s << 5;
+        const cTestRows<QString, int> row("filter", "rows");
+        row("without accents", u"cafe"_s, 1);
+        row("umlaut spelled out", u"GROESSENWAHN"_s, 1);
+        row("umlaut without dots", u"grossenwahn"_s, 1);
+        row("umlaut at the start of a word being typed", u"äpf"_s, 1);
+        row("every word", u"haushalt café"_s, 1);
+        row("no entry has both", u"lohn café"_s, 0);
+        row("amount", u"90,00"_s, 1);
+        row("day", u"01.03.2026"_s, 2);
+        row("part of a day", u".12.20"_s, 1);
+        row("amount with its sign", u"-5,00"_s, 1);
+        row("amount with its currency", u"90,00 €"_s, 1);
+        row("kind", u"einnahme"_s, 1);
+        row("both accounts of a transfer", u"giro sparkonto"_s, 1);
+        row("interval", u"monatlich"_s, 1);
+        row("not across two columns", u"äpfelgirokonto"_s, 0);
+        row("only blanks", u"   "_s, 5);
     }
 
     void Finds()
@@ -190,14 +178,12 @@ private Q_SLOTS:
 
     void FindsAmountsAsTheyAreTyped_data()
     {
-        QTest::addColumn<QString>("culture");
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<int>("rows");
-        QTest::newRow("as shown") << u"de-DE"_s << u"1.234,5"_s << 1;
-        QTest::newRow("as in an amount field") << u"de-DE"_s << u"1234,50"_s << 1;
-        QTest::newRow("British") << u"en-GB"_s << u"1,234"_s << 1;
-        QTest::newRow("not British") << u"en-GB"_s << u"1.234"_s << 0;
-        QTest::newRow("apostrophe of the keyboard") << u"de-CH"_s << u"1'234.50"_s << 1;
+        const cTestRows<QString, QString, int> row("culture", "filter", "rows");
+        row("as shown", u"de-DE"_s, u"1.234,5"_s, 1);
+        row("as in an amount field", u"de-DE"_s, u"1234,50"_s, 1);
+        row("British", u"en-GB"_s, u"1,234"_s, 1);
+        row("not British", u"en-GB"_s, u"1.234"_s, 0);
+        row("apostrophe of the keyboard", u"de-CH"_s, u"1'234.50"_s, 1);
     }
 
     void FindsAmountsAsTheyAreTyped()
@@ -273,16 +259,14 @@ private Q_SLOTS:
     // The rules by which amounts are searched are learnt from the formatter, or asked where it has its own.
     void FindsAmountsAsShown_data()
     {
-        QTest::addColumn<QString>("culture");
-        QTest::addColumn<qint64>("cents");
-        QTest::addColumn<QString>("filter");
-        QTest::newRow("euros") << QString() << qint64(123450) << u"-1.234,50"_s;
-        QTest::newRow("dollars") << u"en-US"_s << qint64(123450) << u"($1,234.50)"_s;
-        QTest::newRow("francs in front of the amount") << u"de-CH"_s << qint64(5) << u"0.05"_s;
-        QTest::newRow("currency as a word") << u"de-CH"_s << qint64(100) << u"Chf"_s;
-        QTest::newRow("rupiah without decimals") << u"id-ID"_s << qint64(1500000) << u"15.000"_s;
-        QTest::newRow("groups of two digits") << u"hi-IN"_s << qint64(1234567800) << u"1,23,45,678.00"_s;
-        QTest::newRow("no group for four digits") << u"es-ES"_s << qint64(123450) << u"1234,50"_s;
+        const cTestRows<QString, qint64, QString> row("culture", "cents", "filter");
+        row("euros", {}, 123450, u"-1.234,50"_s);
+        row("dollars", u"en-US"_s, 123450, u"($1,234.50)"_s);
+        row("francs in front of the amount", u"de-CH"_s, 5, u"0.05"_s);
+        row("currency as a word", u"de-CH"_s, 100, u"Chf"_s);
+        row("rupiah without decimals", u"id-ID"_s, 1500000, u"15.000"_s);
+        row("groups of two digits", u"hi-IN"_s, 1234567800, u"1,23,45,678.00"_s);
+        row("no group for four digits", u"es-ES"_s, 123450, u"1234,50"_s);
     }
 
     void FindsAmountsAsShown()
@@ -329,7 +313,7 @@ private Q_SLOTS:
         modSplit::SetGroup(parts.Entries[0], 1);
         model.SetContent(parts, {}, modWord::KeineGruppierung);
         QCOMPARE(model.index(2, cEntryListModel::Interval).data().toString(), u"Einmalig, Teil"_s);
-        QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), int(cEntryListModel::Income));
+        QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), cEntryListModel::Income);
     }
 
     void TransfersCountWithAnAccount()

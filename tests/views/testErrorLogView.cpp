@@ -1,5 +1,6 @@
 #include "core/cErrorLog.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/help/cErrorLogView.h"
 #include "views/help/modBroken.h"
@@ -111,14 +112,12 @@ private Q_SLOTS:
 
     void PathsTellNobody_data()
     {
-        QTest::addColumn<QString>("Path");
-        QTest::addColumn<QString>("Shown");
-
-        QTest::newRow("below the home") << u"/home/erika/Haushalt/data.db"_s << u"~/Haushalt/data.db"_s;
-        QTest::newRow("the home itself") << u"/home/erika"_s << u"~"_s;
-        QTest::newRow("a drive that carries the name") << u"/media/erika/USB/data.db"_s << u"/media/…/USB/data.db"_s;
-        QTest::newRow("another home that begins alike") << u"/home/erika2/data.db"_s << u"/home/erika2/data.db"_s;
-        QTest::newRow("elsewhere") << u"/usr/bin"_s << u"/usr/bin"_s;
+        const cTestRows<QString, QString> row("Path", "Shown");
+        row("below the home", u"/home/erika/Haushalt/data.db"_s, u"~/Haushalt/data.db"_s);
+        row("the home itself", u"/home/erika"_s, u"~"_s);
+        row("a drive that carries the name", u"/media/erika/USB/data.db"_s, u"/media/…/USB/data.db"_s);
+        row("another home that begins alike", u"/home/erika2/data.db"_s, u"/home/erika2/data.db"_s);
+        row("elsewhere", u"/usr/bin"_s, u"/usr/bin"_s);
     }
 
     void PathsTellNobody()

@@ -3,6 +3,7 @@
 #include "model/modWord.h"
 #include "support/cNoRoom.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
@@ -207,16 +208,14 @@ private Q_SLOTS:
 
     void CsvKeepsFormulasAsText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("field");
-
-        QTest::newRow("formula") << u"=SUM(A1)"_s << u"'=SUM(A1)"_s;
-        QTest::newRow("plus, as in phone numbers") << u"+49 30 1"_s << u"'+49 30 1"_s;
-        QTest::newRow("minus") << u"-2"_s << u"'-2"_s;
-        QTest::newRow("at") << u"@home"_s << u"'@home"_s;
-        QTest::newRow("tabulator before it") << u"\t=1"_s << u"'\t=1"_s;
-        QTest::newRow("quoted as well") << u"=A;B"_s << u"\"'=A;B\""_s;
-        QTest::newRow("sign inside") << u"Miete - März"_s << u"Miete - März"_s;
+        const cTestRows<QString, QString> row("text", "field");
+        row("formula", u"=SUM(A1)"_s, u"'=SUM(A1)"_s);
+        row("plus, as in phone numbers", u"+49 30 1"_s, u"'+49 30 1"_s);
+        row("minus", u"-2"_s, u"'-2"_s);
+        row("at", u"@home"_s, u"'@home"_s);
+        row("tabulator before it", u"\t=1"_s, u"'\t=1"_s);
+        row("quoted as well", u"=A;B"_s, u"\"'=A;B\""_s);
+        row("sign inside", u"Miete - März"_s, u"Miete - März"_s);
     }
 
     void CsvKeepsFormulasAsText()
@@ -387,17 +386,16 @@ private Q_SLOTS:
 
     void FormatComesFromTheEnding_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("start"); // empty: refused
-
-        QTest::newRow("csv") << u"a.csv"_s << QByteArray("\xEF\xBB\xBF");
-        QTest::newRow("no ending") << u"a"_s << QByteArray("\xEF\xBB\xBF");
-        QTest::newRow("text") << u"a.txt"_s << QByteArray("\xEF\xBB\xBF");
-        QTest::newRow("Excel, in capitals") << u"a.XLSX"_s << QByteArray("PK");
-        QTest::newRow("html") << u"a.htm"_s << QByteArray("<!DOCTYPE html>");
-        QTest::newRow("qif") << u"a.qif"_s << QByteArray("!Account");
-        QTest::newRow("another program's file") << u"a.pdf"_s << QByteArray();
-        QTest::newRow("a book") << u"data.db"_s << QByteArray();
+        // start: empty: refused
+        const cTestRows<QString, QByteArray> row("name", "start");
+        row("csv", u"a.csv"_s, QByteArray("\xEF\xBB\xBF"));
+        row("no ending", u"a"_s, QByteArray("\xEF\xBB\xBF"));
+        row("text", u"a.txt"_s, QByteArray("\xEF\xBB\xBF"));
+        row("Excel, in capitals", u"a.XLSX"_s, QByteArray("PK"));
+        row("html", u"a.htm"_s, QByteArray("<!DOCTYPE html>"));
+        row("qif", u"a.qif"_s, QByteArray("!Account"));
+        row("another program's file", u"a.pdf"_s, {});
+        row("a book", u"data.db"_s, {});
     }
 
     void FormatComesFromTheEnding()

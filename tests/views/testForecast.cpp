@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/chart/cForecast.h"
 #include "views/main/cAccountListModel.h"
@@ -123,18 +124,14 @@ private Q_SLOTS:
 
     void Warns_data()
     {
-        QTest::addColumn<QString>("limit");
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<qint64>("balance");
-        QTest::addColumn<QString>("entry");
-
-        QTest::newRow("none") << QString() << QDate() << qint64(0) << QString();
-        QTest::newRow("holds for 60 days") << u"100.00"_s << QDate() << qint64(0) << QString();
-        QTest::newRow("second rent") << u"400.01"_s << QDate(2026, 4, 20) << qint64(40000) << u"Miete"_s;
-        QTest::newRow("exactly at the limit") << u"400.00"_s << QDate() << qint64(0) << QString();
-        QTest::newRow("first rent") << u"900.00"_s << QDate(2026, 3, 20) << qint64(70000) << u"Miete"_s;
-        QTest::newRow("already below") << u"1000.01"_s << today << qint64(100000) << QString();
-        QTest::newRow("zero is a limit, and holds") << u"0.00"_s << QDate() << qint64(0) << QString();
+        const cTestRows<QString, QDate, qint64, QString> row("limit", "day", "balance", "entry");
+        row("none", {}, {}, 0, {});
+        row("holds for 60 days", u"100.00"_s, {}, 0, {});
+        row("second rent", u"400.01"_s, QDate(2026, 4, 20), 40000, u"Miete"_s);
+        row("exactly at the limit", u"400.00"_s, {}, 0, {});
+        row("first rent", u"900.00"_s, QDate(2026, 3, 20), 70000, u"Miete"_s);
+        row("already below", u"1000.01"_s, today, 100000, {});
+        row("zero is a limit, and holds", u"0.00"_s, {}, 0, {});
     }
 
     void Warns()

@@ -2,6 +2,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
@@ -109,43 +110,38 @@ class testImportAssistant : public QObject
 private Q_SLOTS:
     void ShowsWhatAChoiceDoes_data()
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<fnChange>("change");
-        QTest::addColumn<QString>("row");
+        const cTestRows<QByteArray, fnChange, QString> row("file", "change", "row");
         const fnChange nothing = [](cImportAssistant&) {};
         const QByteArray dollars = "Date;Details;Amount\n02/03/2026;Lunch;\"1,234\"\n";
         const QByteArray dkb = "Buchungsdatum;Zahlungsempfänger*in;Verwendungszweck;Betrag (€)\n"
                                "03.02.26;Kiosk;Zeitung;-4,20\n";
-        QTest::newRow("as guessed") << QByteArray(plain) << nothing << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
-        QTest::newRow("another amount") << QByteArray(plain) << Mean(2, u"Betrag"_s)
-                                        << u"03.02.2026||Bräzeln am Markt|2,00 €|"_s;
-        QTest::newRow("a meaning moves") << QByteArray(plain) << Mean(1, u"Empfänger/Auftraggeber"_s)
-                                         << u"03.02.2026|Bräzeln am Markt||-4,20 €|"_s;
-        QTest::newRow("no day") << QByteArray(plain) << Mean(0, u"nicht lesen"_s) << u"||||"_s;
-        QTest::newRow("character set") << QByteArray(plain) << Take(eField::Charset, u"CP850 (DOS)"_s)
-                                       << u"03.02.2026||Brõzeln am Markt|-4,20 €|"_s;
-        QTest::newRow("no header") << QByteArray(plain)
-                                   << fnChange([](cImportAssistant& assistant) { assistant.SetHeaderLine(0); })
-                                   << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
-        QTest::newRow("header further down")
-            << QByteArray(plain) << fnChange([](cImportAssistant& assistant) { assistant.SetHeaderLine(3); })
-            << u"05.02.2026||Kiosk am Bahnhof|-1,00 €|"_s;
-        QTest::newRow("sign") << QByteArray(plain) << Take(eField::Sign, u"umgekehrt (Ausgaben ohne Minus)"_s)
-                              << u"03.02.2026||Bräzeln am Markt|4,20 €|"_s;
-        QTest::newRow("German number") << dollars << Take(eField::Number, u"1.234,50"_s)
-                                       << u"02.03.2026||Lunch|1,23 €|"_s;
-        QTest::newRow("English number") << dollars << Take(eField::Number, u"1,234.50"_s)
-                                        << u"02.03.2026||Lunch|1.234,00 €|"_s;
-        QTest::newRow("month first") << dollars << Take(eField::Date, u"Monat, Tag, Jahr"_s)
-                                     << u"03.02.2026||Lunch|1,23 €|"_s;
-        QTest::newRow("separator") << QByteArray("Datum|Text|Betrag\n03.02.2026|Kiosk|-4,20\n")
-                                   << Take(eField::Separator, u"senkrechter Strich"_s)
-                                   << u"03.02.2026||Kiosk|-4,20 €|"_s;
-        QTest::newRow("two-digit year") << dkb << nothing << u"03.02.2026|Kiosk|Zeitung|-4,20 €|"_s;
-        QTest::newRow("taken back") << QByteArray(plain) << fnChange([](cImportAssistant& assistant) {
-            assistant.SetHeaderLine(3);
-            assistant.Reset();
-        }) << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
+        row("as guessed", plain, nothing, u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s);
+        row("another amount", plain, Mean(2, u"Betrag"_s), u"03.02.2026||Bräzeln am Markt|2,00 €|"_s);
+        row("a meaning moves", plain, Mean(1, u"Empfänger/Auftraggeber"_s), u"03.02.2026|Bräzeln am Markt||-4,20 €|"_s);
+        row("no day", plain, Mean(0, u"nicht lesen"_s), u"||||"_s);
+        row("character set", plain, Take(eField::Charset, u"CP850 (DOS)"_s),
+            u"03.02.2026||Brõzeln am Markt|-4,20 €|"_s);
+        row(
+            "no header", plain, [](cImportAssistant& assistant) { assistant.SetHeaderLine(0); },
+            u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s);
+        row(
+            "header further down", plain, [](cImportAssistant& assistant) { assistant.SetHeaderLine(3); },
+            u"05.02.2026||Kiosk am Bahnhof|-1,00 €|"_s);
+        row("sign", plain, Take(eField::Sign, u"umgekehrt (Ausgaben ohne Minus)"_s),
+            u"03.02.2026||Bräzeln am Markt|4,20 €|"_s);
+        row("German number", dollars, Take(eField::Number, u"1.234,50"_s), u"02.03.2026||Lunch|1,23 €|"_s);
+        row("English number", dollars, Take(eField::Number, u"1,234.50"_s), u"02.03.2026||Lunch|1.234,00 €|"_s);
+        row("month first", dollars, Take(eField::Date, u"Monat, Tag, Jahr"_s), u"03.02.2026||Lunch|1,23 €|"_s);
+        row("separator", QByteArray("Datum|Text|Betrag\n03.02.2026|Kiosk|-4,20\n"),
+            Take(eField::Separator, u"senkrechter Strich"_s), u"03.02.2026||Kiosk|-4,20 €|"_s);
+        row("two-digit year", dkb, nothing, u"03.02.2026|Kiosk|Zeitung|-4,20 €|"_s);
+        row(
+            "taken back", plain,
+            [](cImportAssistant& assistant) {
+                assistant.SetHeaderLine(3);
+                assistant.Reset();
+            },
+            u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s);
     }
 
     void ShowsWhatAChoiceDoes()

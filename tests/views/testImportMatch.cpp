@@ -3,6 +3,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
@@ -121,10 +122,9 @@ private Q_SLOTS:
 
     void OffersToCorrectSeries_data() const
     {
-        QTest::addColumn<int>("decision");
-        QTest::addColumn<int>("corrections");
-        QTest::newRow("this time") << 0 << 1;
-        QTest::newRow("not at all") << 2 << 0;
+        const cTestRows<int, int> row("decision", "corrections");
+        row("this time", 0, 1);
+        row("not at all", 2, 0);
     }
 
     void OffersToCorrectSeries() const
@@ -333,15 +333,14 @@ private Q_SLOTS:
     // A key alone never makes a second entry of what is in the book.
     void BookingAsksAboutMatches_data() const
     {
-        QTest::addColumn<std::deque<int>>("decisions");
-        QTest::addColumn<int>("entries");    // two are there
-        QTest::addColumn<QList<int>>("own"); // rows that got one of these: 1 the first, 2 the second, 0 none
-        QTest::newRow("assign") << std::deque<int>{0} << 3 << QList<int>{1, 2};
-        QTest::newRow("new") << std::deque<int>{1} << 5 << QList<int>{0, 0};
-        QTest::newRow("leave open") << std::deque<int>{2} << 3 << QList<int>{0, 0};
-        QTest::newRow("one by one") << std::deque<int>{3, 2, 0} << 3 << QList<int>{0, 2};
-        QTest::newRow("given up") << std::deque<int>{-1} << 2 << QList<int>{0, 0};
-        QTest::newRow("given up on the way") << std::deque<int>{3, 0, -1} << 2 << QList<int>{0, 0};
+        // entries: two are there; own: rows that got one of these: 1 the first, 2 the second, 0 none
+        const cTestRows<std::deque<int>, int, QList<int>> row("decisions", "entries", "own");
+        row("assign", {0}, 3, {1, 2});
+        row("new", {1}, 5, {0, 0});
+        row("leave open", {2}, 3, {0, 0});
+        row("one by one", {3, 2, 0}, 3, {0, 2});
+        row("given up", {-1}, 2, {0, 0});
+        row("given up on the way", {3, 0, -1}, 2, {0, 0});
     }
 
     void BookingAsksAboutMatches() const

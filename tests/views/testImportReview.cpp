@@ -4,6 +4,7 @@
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/sheet/cManyChange.h"
@@ -185,11 +186,10 @@ private Q_SLOTS:
 
     void AsksOnceAboutEqualRows_data()
     {
-        QTest::addColumn<eAnswer>("answer");
-        QTest::addColumn<int>("staged");
-        QTest::addColumn<int>("leftOut"); // by the second reading of the files
-        QTest::newRow("taken") << eAnswer::Yes << 2 << 4;
-        QTest::newRow("left out") << eAnswer::No << 1 << 4;
+        // leftOut: by the second reading of the files
+        const cTestRows<eAnswer, int, int> row("answer", "staged", "leftOut");
+        row("taken", eAnswer::Yes, 2, 4);
+        row("left out", eAnswer::No, 1, 4);
     }
 
     // Two files overlap, and each has a ticket twice: that is one more row, asked about once.
@@ -320,23 +320,18 @@ private Q_SLOTS:
 
     void FiltersAndSorts_data()
     {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QStringList>("names");
+        const cTestRows<QString, int, QStringList> row("filter", "column", "names");
         const QString rewe = u"REWE Markt Hohenfels"_s;
         const QString rent = u"Hausverwaltung Tannert  und Sohn"_s;
         const QString work = u"Werkzeugbau Ammersbek GmbH"_s;
         const QString own = u"Jonte Sandmeier"_s;
-        QTest::newRow("by amount") << QString() << int{cStagedListModel::Amount}
-                                   << QStringList{rent, own, rewe, own, work};
-        QTest::newRow("by name") << QString() << int{cStagedListModel::Counterparty}
-                                 << QStringList{rent, own, own, rewe, work};
-        QTest::newRow("by proposal") << QString() << int{cStagedListModel::Category}
-                                     << QStringList{own, own, work, rewe, rent};
-        QTest::newRow("umlaut as typed") << u"rücklage"_s << int{cStagedListModel::Date} << QStringList{own, own};
-        QTest::newRow("two words") << u"miete linden"_s << int{cStagedListModel::Date} << QStringList{rent};
-        QTest::newRow("amount") << u"2.410,55"_s << int{cStagedListModel::Date} << QStringList{work};
-        QTest::newRow("nothing") << u"xyz"_s << int{cStagedListModel::Date} << QStringList();
+        row("by amount", {}, cStagedListModel::Amount, {rent, own, rewe, own, work});
+        row("by name", {}, cStagedListModel::Counterparty, {rent, own, own, rewe, work});
+        row("by proposal", {}, cStagedListModel::Category, {own, own, work, rewe, rent});
+        row("umlaut as typed", u"rücklage"_s, cStagedListModel::Date, {own, own});
+        row("two words", u"miete linden"_s, cStagedListModel::Date, {rent});
+        row("amount", u"2.410,55"_s, cStagedListModel::Date, {work});
+        row("nothing", u"xyz"_s, cStagedListModel::Date, {});
     }
 
     void FiltersAndSorts()

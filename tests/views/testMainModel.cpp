@@ -2,6 +2,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modAccountLines.h"
@@ -130,37 +131,21 @@ private Q_SLOTS:
 
     void SumsFollowTheView_data()
     {
-        QTest::addColumn<QString>("period");
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<const cSettingKey*>("switchedOff");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<qint64>("income");
-        QTest::addColumn<qint64>("expense");
-        QTest::addColumn<qint64>("total");
-
+        const cTestRows<QString, QString, QString, const cSettingKey*, int, qint64, qint64, qint64> row(
+            "period", "account", "type", "switchedOff", "count", "income", "expense", "total");
         const cSettingKey* const none = nullptr;
         const QString year = u"Aktuelles Jahr"_s;
         const QString all = modWord::AlleKonten;
         const QString types = modWord::AlleBuchungsarten;
-        QTest::newRow("whole year, transfers neutral")
-            << year << all << types << none << 15 << qint64(200000) << qint64(844000) << qint64(-644000);
-        QTest::newRow("without future") << year << all << types << &modSettingKey::ViewFuture << 5 << qint64(200000)
-                                        << qint64(210000) << qint64(-10000);
-        QTest::newRow("only recurring") << year << all << types << &modSettingKey::ViewSingle << 12 << qint64(0)
-                                        << qint64(840000) << qint64(-840000);
-        QTest::newRow("only one-off") << year << all << types << &modSettingKey::ViewFix << 3 << qint64(200000)
-                                      << qint64(4000) << qint64(196000);
-        QTest::newRow("transfer out of the account")
-            << year << u"Girokonto"_s << u"Umbuchung"_s << none << 1 << qint64(0) << qint64(30000) << qint64(-30000);
-        QTest::newRow("transfer into the account is income")
-            << year << u"Sparkonto"_s << u"Einnahme"_s << none << 1 << qint64(30000) << qint64(0) << qint64(30000);
-        QTest::newRow("start balance hidden") << u"Letztes Jahr"_s << all << types << &modSettingKey::ViewStart << 0
-                                              << qint64(0) << qint64(0) << qint64(0);
-        QTest::newRow("start balance is no income, but part of the sum")
-            << u"Letztes Jahr"_s << all << types << none << 1 << qint64(0) << qint64(0) << qint64(50000);
-        QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << none << 6 << qint64(200000)
-                                     << qint64(210000) << qint64(40000);
+        row("whole year, transfers neutral", year, all, types, none, 15, 200000, 844000, -644000);
+        row("without future", year, all, types, &modSettingKey::ViewFuture, 5, 200000, 210000, -10000);
+        row("only recurring", year, all, types, &modSettingKey::ViewSingle, 12, 0, 840000, -840000);
+        row("only one-off", year, all, types, &modSettingKey::ViewFix, 3, 200000, 4000, 196000);
+        row("transfer out of the account", year, u"Girokonto"_s, u"Umbuchung"_s, none, 1, 0, 30000, -30000);
+        row("transfer into the account is income", year, u"Sparkonto"_s, u"Einnahme"_s, none, 1, 30000, 0, 30000);
+        row("start balance hidden", u"Letztes Jahr"_s, all, types, &modSettingKey::ViewStart, 0, 0, 0, 0);
+        row("start balance is no income, but part of the sum", u"Letztes Jahr"_s, all, types, none, 1, 0, 0, 50000);
+        row("until today", u"Buchungen bis heute"_s, all, types, none, 6, 200000, 210000, 40000);
     }
 
     void SumsFollowTheView()
@@ -290,18 +275,15 @@ private Q_SLOTS:
 
     void FreeDaysThatCanBeNoPeriodAreReplaced_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<QDate>("first");
-        QTest::addColumn<QDate>("last");
+        const cTestRows<QString, QString, QDate, QDate> row("start", "end", "first", "last");
         const QDate newYear(2026, 1, 1);
         const QDate newYearsEve(2026, 12, 31);
-        QTest::newRow("a period") << u"2025-02-01"_s << u"2025-02-28"_s << QDate(2025, 2, 1) << QDate(2025, 2, 28);
-        QTest::newRow("open at one side") << QString() << u"2025-02-28"_s << QDate() << QDate(2025, 2, 28);
-        QTest::newRow("nothing stored") << QString() << QString() << newYear << newYearsEve;
-        QTest::newRow("end before start") << u"2026-03-01"_s << u"2026-01-31"_s << newYear << newYearsEve;
-        QTest::newRow("unreadable") << u"2026-03-01"_s << u"31.12.2026"_s << newYear << newYearsEve;
-        QTest::newRow("open sides of older versions") << u"1000-01-01"_s << u"1000-01-01"_s << newYear << newYearsEve;
+        row("a period", u"2025-02-01"_s, u"2025-02-28"_s, QDate(2025, 2, 1), QDate(2025, 2, 28));
+        row("open at one side", {}, u"2025-02-28"_s, {}, QDate(2025, 2, 28));
+        row("nothing stored", {}, {}, newYear, newYearsEve);
+        row("end before start", u"2026-03-01"_s, u"2026-01-31"_s, newYear, newYearsEve);
+        row("unreadable", u"2026-03-01"_s, u"31.12.2026"_s, newYear, newYearsEve);
+        row("open sides of older versions", u"1000-01-01"_s, u"1000-01-01"_s, newYear, newYearsEve);
     }
 
     void FreeDaysThatCanBeNoPeriodAreReplaced()

@@ -1,6 +1,7 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "views/template/cNameKeepers.h"
 
 #include <QSignalSpy>
@@ -57,20 +58,19 @@ class testOldNames final : public QObject
 private Q_SLOTS:
     void CleansNamesOfOlderBooks_data()
     {
-        QTest::addColumn<int>("action");
-        QTest::addColumn<QString>("main"); // of all its categories afterwards
-        QTest::addColumn<QString>("account");
+        // main: of all its categories afterwards
+        const cTestRows<int, QString, QString> row("action", "main", "account");
         const QString main = u"Haus & Hof"_s;
         const QString account = u"Oma's Konto"_s;
-        QTest::newRow("a limit") << 0 << u"Haus  Hof"_s << account;
-        QTest::newRow("the order") << 1 << u"Haus  Hof"_s << account;
-        QTest::newRow("a renamed main category") << 2 << u"Daheim"_s << account;
-        QTest::newRow("a hidden main category") << 3 << u"Haus  Hof"_s << account;
-        QTest::newRow("another one goes there") << 4 << u"Haus  Hof"_s << account;
-        QTest::newRow("another main category goes there") << 5 << u"Haus  Hof"_s << account;
-        QTest::newRow("it goes elsewhere") << 6 << u"Freizeit"_s << account;
-        QTest::newRow("a limit of the account") << 7 << main << u"Omas Konto"_s;
-        QTest::newRow("the order of accounts") << 8 << main << u"Omas Konto"_s;
+        row("a limit", 0, u"Haus  Hof"_s, account);
+        row("the order", 1, u"Haus  Hof"_s, account);
+        row("a renamed main category", 2, u"Daheim"_s, account);
+        row("a hidden main category", 3, u"Haus  Hof"_s, account);
+        row("another one goes there", 4, u"Haus  Hof"_s, account);
+        row("another main category goes there", 5, u"Haus  Hof"_s, account);
+        row("it goes elsewhere", 6, u"Freizeit"_s, account);
+        row("a limit of the account", 7, main, u"Omas Konto"_s);
+        row("the order of accounts", 8, main, u"Omas Konto"_s);
     }
 
     void CleansNamesOfOlderBooks()

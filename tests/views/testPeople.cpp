@@ -4,6 +4,7 @@
 #include "store/cUndoStep.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cSearch.h"
 #include "views/main/cMainModel.h"
@@ -74,20 +75,16 @@ class testPeople final : public QObject
 private Q_SLOTS:
     void OwesWhom_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<QString>("payer");
-        QTest::addColumn<QString>("payments"); // for 100 cents
-        QTest::newRow("for the shared account") << modWord::Ausgabe << u"G"_s << u"Anna"_s << u"Ben -> Anna 40"_s;
-        QTest::newRow("for all, from one's own") << modWord::Ausgabe << u"A"_s << u"Anna"_s << u"Ben -> Anna 50"_s;
-        QTest::newRow("for the other") << modWord::Ausgabe << u"A"_s << u"Ben"_s << u"Anna -> Ben 100"_s;
-        QTest::newRow("received for both") << modWord::Einnahme << u"G"_s << u"Ben"_s << u"Ben -> Anna 60"_s;
-        QTest::newRow("given to the other") << modWord::Umbuchung << u"A>B"_s << u"Anna"_s << u"Ben -> Anna 100"_s;
-        QTest::newRow("paid into the shared account")
-            << modWord::Umbuchung << u"B>G"_s << u"Ben"_s << u"Anna -> Ben 60"_s;
-        QTest::newRow("nobody named") << modWord::Ausgabe << u"G"_s << u""_s << u""_s;
-        QTest::newRow("a person of another book")
-            << modWord::Ausgabe << u"G"_s << u"Cem"_s << u"Anna -> Cem 60, Ben -> Cem 40"_s;
+        // payments: for 100 cents
+        const cTestRows<QString, QString, QString, QString> row("type", "account", "payer", "payments");
+        row("for the shared account", modWord::Ausgabe, u"G"_s, u"Anna"_s, u"Ben -> Anna 40"_s);
+        row("for all, from one's own", modWord::Ausgabe, u"A"_s, u"Anna"_s, u"Ben -> Anna 50"_s);
+        row("for the other", modWord::Ausgabe, u"A"_s, u"Ben"_s, u"Anna -> Ben 100"_s);
+        row("received for both", modWord::Einnahme, u"G"_s, u"Ben"_s, u"Ben -> Anna 60"_s);
+        row("given to the other", modWord::Umbuchung, u"A>B"_s, u"Anna"_s, u"Ben -> Anna 100"_s);
+        row("paid into the shared account", modWord::Umbuchung, u"B>G"_s, u"Ben"_s, u"Anna -> Ben 60"_s);
+        row("nobody named", modWord::Ausgabe, u"G"_s, u""_s, u""_s);
+        row("a person of another book", modWord::Ausgabe, u"G"_s, u"Cem"_s, u"Anna -> Cem 60, Ben -> Cem 40"_s);
     }
 
     void OwesWhom()
@@ -109,14 +106,12 @@ private Q_SLOTS:
 
     void SplitsToTheCent_data()
     {
-        QTest::addColumn<qint64>("cents");
-        QTest::addColumn<QList<int>>("shares");
-        QTest::addColumn<QList<qint64>>("parts");
-        QTest::newRow("even") << qint64{100} << QList<int>{50, 50} << QList<qint64>{50, 50};
-        QTest::newRow("left over to the first") << qint64{101} << QList<int>{1, 1, 1} << QList<qint64>{34, 34, 33};
-        QTest::newRow("nobody without a share") << qint64{101} << QList<int>{0, 1, 1} << QList<qint64>{0, 51, 50};
-        QTest::newRow("below zero") << qint64{-101} << QList<int>{60, 40} << QList<qint64>{-61, -40};
-        QTest::newRow("nobody") << qint64{5} << QList<int>{} << QList<qint64>{};
+        const cTestRows<qint64, QList<int>, QList<qint64>> row("cents", "shares", "parts");
+        row("even", 100, {50, 50}, {50, 50});
+        row("left over to the first", 101, {1, 1, 1}, {34, 34, 33});
+        row("nobody without a share", 101, {0, 1, 1}, {0, 51, 50});
+        row("below zero", -101, {60, 40}, {-61, -40});
+        row("nobody", 5, {}, {});
     }
 
     void SplitsToTheCent()
@@ -133,15 +128,13 @@ private Q_SLOTS:
 
     void FewestPayments_data()
     {
-        QTest::addColumn<QList<qint64>>("balances");
-        QTest::addColumn<int>("payments");
-        QTest::newRow("nobody owes") << QList<qint64>{0, 0} << 0;
-        QTest::newRow("one group") << QList<qint64>{30, -10, -20} << 2;
+        const cTestRows<QList<qint64>, int> row("balances", "payments");
+        row("nobody owes", {0, 0}, 0);
+        row("one group", {30, -10, -20}, 2);
         // The largest to the largest would take four payments.
-        QTest::newRow("two groups") << QList<qint64>{50, 30, -40, -10, -30} << 3;
-        QTest::newRow("three pairs") << QList<qint64>{7, 11, 13, -11, -13, -7} << 3;
-        QTest::newRow("too many to look at all")
-            << QList<qint64>{8, 8, 8, 8, 8, 8, 8, 8, -8, -8, -8, -8, -8, -8, -8, -8} << 8;
+        row("two groups", {50, 30, -40, -10, -30}, 3);
+        row("three pairs", {7, 11, 13, -11, -13, -7}, 3);
+        row("too many to look at all", {8, 8, 8, 8, 8, 8, 8, 8, -8, -8, -8, -8, -8, -8, -8, -8}, 8);
     }
 
     void FewestPayments()
@@ -243,15 +236,15 @@ private Q_SLOTS:
 
     void SharesOfSomebodyWhoGoes_data()
     {
-        QTest::addColumn<QStringList>("percents"); // of Anna, who goes, Ben and Cem
-        QTest::addColumn<QString>("left");
-        QTest::newRow("as theirs are") << QStringList{u"50"_s, u"30"_s, u"20"_s} << u"Ben 60 %, Cem 40 %"_s;
-        QTest::newRow("not even") << QStringList{u"10"_s, u"60"_s, u"30"_s} << u"Ben 67 %, Cem 33 %"_s;
-        QTest::newRow("rounded to the nearest") << QStringList{u"10"_s, u"30"_s, u"60"_s} << u"Ben 33 %, Cem 67 %"_s;
-        QTest::newRow("alike") << QStringList{u"34"_s, u"33"_s, u"33"_s} << u"Ben, Cem zu gleichen Teilen"_s;
-        QTest::newRow("one is left") << QStringList{u"60"_s, u"40"_s, u""_s} << u"Ben"_s;
-        QTest::newRow("all of it") << QStringList{u"100"_s, u""_s, u""_s} << u"Ben, Cem zu gleichen Teilen"_s;
-        QTest::newRow("none of it") << QStringList{u""_s, u"70"_s, u"30"_s} << QString();
+        // percents: of Anna, who goes, Ben and Cem
+        const cTestRows<QStringList, QString> row("percents", "left");
+        row("as theirs are", {u"50"_s, u"30"_s, u"20"_s}, u"Ben 60 %, Cem 40 %"_s);
+        row("not even", {u"10"_s, u"60"_s, u"30"_s}, u"Ben 67 %, Cem 33 %"_s);
+        row("rounded to the nearest", {u"10"_s, u"30"_s, u"60"_s}, u"Ben 33 %, Cem 67 %"_s);
+        row("alike", {u"34"_s, u"33"_s, u"33"_s}, u"Ben, Cem zu gleichen Teilen"_s);
+        row("one is left", {u"60"_s, u"40"_s, u""_s}, u"Ben"_s);
+        row("all of it", {u"100"_s, u""_s, u""_s}, u"Ben, Cem zu gleichen Teilen"_s);
+        row("none of it", {u""_s, u"70"_s, u"30"_s}, {});
     }
 
     // What the question says is what is shown and what is divided.

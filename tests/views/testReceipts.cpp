@@ -4,6 +4,7 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/list/cEntryListModel.h"
@@ -61,15 +62,13 @@ class testReceipts final : public QObject
 private Q_SLOTS:
     void NamesSurviveTheMark_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("isKept");
-
-        QTest::newRow("signs of the mark") << u"a;b=c,d%e.pdf"_s << true;
-        QTest::newRow("letters") << u"Ärger, groß – 1.pdf"_s << true;
-        QTest::newRow("out of the folder") << u"../../etc/passwd"_s << false;
-        QTest::newRow("a device path") << u"C:\\Windows\\win.ini"_s << false;
-        QTest::newRow("hidden") << u".bashrc"_s << false;
-        QTest::newRow("a line end") << u"a\nb.pdf"_s << false;
+        const cTestRows<QString, bool> row("name", "isKept");
+        row("signs of the mark", u"a;b=c,d%e.pdf"_s, true);
+        row("letters", u"Ärger, groß – 1.pdf"_s, true);
+        row("out of the folder", u"../../etc/passwd"_s, false);
+        row("a device path", u"C:\\Windows\\win.ini"_s, false);
+        row("hidden", u".bashrc"_s, false);
+        row("a line end", u"a\nb.pdf"_s, false);
     }
 
     // A book may come from anybody; its marks lead to files that the user deletes or opens.

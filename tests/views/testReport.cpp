@@ -3,6 +3,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/report/cReportExport.h"
@@ -105,42 +106,29 @@ class testReport final : public QObject
 private Q_SLOTS:
     void Html_data()
     {
-        QTest::addColumn<cReportWish>("wish");
-        QTest::addColumn<QStringList>("entries");
-        QTest::addColumn<QStringList>("limits");
+        const cTestRows<cReportWish, QStringList, QStringList> row("wish", "entries", "limits");
         const QDate day(2026, 3, 10);
         const modPeriod::cRange oneDay{day, day};
-        QTest::newRow("namen") << Wish(eReport::Sum, year2026)
-                               << QStringList{u"2026-02-01 Einnahme 5000 A&B <b>; \"x|y\" (z)"_s,
-                                              u"2026-02-01 Ausgabe 1000 Wohnung; Miete"_s,
-                                              u"2026-02-02 Ausgabe 1500 Wohnung"_s, u"2026-02-03 Ausgabe 500 "_s,
-                                              u"2026-02-03 Ausgabe 2500 ; Allein"_s}
-                               << QStringList{};
+        row("namen", Wish(eReport::Sum, year2026),
+            {u"2026-02-01 Einnahme 5000 A&B <b>; \"x|y\" (z)"_s, u"2026-02-01 Ausgabe 1000 Wohnung; Miete"_s,
+             u"2026-02-02 Ausgabe 1500 Wohnung"_s, u"2026-02-03 Ausgabe 500 "_s, u"2026-02-03 Ausgabe 2500 ; Allein"_s},
+            {});
         cReportWish print = Wish(eReport::Sum, oneDay);
         print.Links = eReportLinks::Off;
         print.Account = u"Rosi's <Konto>"_s;
-        QTest::newRow("druck") << print << QStringList{u"2026-03-10 Ausgabe 1234567 Wohnung; Miete"_s} << QStringList{};
-        QTest::newRow("ein-tag") << Wish(eReport::Average, oneDay)
-                                 << QStringList{u"2026-03-10 Einnahme 3000 Lohn; Gehalt"_s,
-                                                u"2026-03-10 Ausgabe 1000 Wohnung; Miete"_s}
-                                 << QStringList{};
-        QTest::newRow("schaltjahr") << Wish(eReport::Average, {QDate(2024, 1, 1), QDate(2024, 12, 31)})
-                                    << QStringList{u"2024-02-29 Ausgabe 120000 Wohnung; Miete"_s,
-                                                   u"2024-03-01 Einnahme 120000 Lohn; Gehalt"_s}
-                                    << QStringList{};
-        QTest::newRow("offen") << Wish(eReport::Average, {})
-                               << QStringList{u"2026-03-10 Ausgabe 120000 Wohnung; Miete"_s} << QStringList{};
-        QTest::newRow("limits") << Wish(eReport::Limit, modPeriod::Month(day, 0))
-                                << QStringList{u"2026-03-01 Ausgabe 450 A; 045"_s,
-                                               u"2026-03-01 Ausgabe 1000 A; 100"_s,
-                                               u"2026-03-01 Ausgabe 1004 A; 100,4"_s,
-                                               u"2026-03-01 Ausgabe 1500 A; 150"_s,
-                                               u"2026-03-01 Ausgabe 1800 A; 180"_s,
-                                               u"2026-03-01 Ausgabe 2500 A; 250"_s,
-                                               u"2026-03-01 Einnahme 500 A; erstattet"_s}
-                                << QStringList{u"A; 000=10.00"_s,   u"A; 045=10.00"_s,       u"A; 100=10.00"_s,
-                                               u"A; 100,4=10.00"_s, u"A; 150=10.00"_s,       u"A; 180=10.00"_s,
-                                               u"A; 250=10.00"_s,   u"A; erstattet=10.00"_s, u"A; ohne="_s};
+        row("druck", print, {u"2026-03-10 Ausgabe 1234567 Wohnung; Miete"_s}, {});
+        row("ein-tag", Wish(eReport::Average, oneDay),
+            {u"2026-03-10 Einnahme 3000 Lohn; Gehalt"_s, u"2026-03-10 Ausgabe 1000 Wohnung; Miete"_s}, {});
+        row("schaltjahr", Wish(eReport::Average, {QDate(2024, 1, 1), QDate(2024, 12, 31)}),
+            {u"2024-02-29 Ausgabe 120000 Wohnung; Miete"_s, u"2024-03-01 Einnahme 120000 Lohn; Gehalt"_s}, {});
+        row("offen", Wish(eReport::Average, {}), {u"2026-03-10 Ausgabe 120000 Wohnung; Miete"_s}, {});
+        row("limits", Wish(eReport::Limit, modPeriod::Month(day, 0)),
+            {u"2026-03-01 Ausgabe 450 A; 045"_s, u"2026-03-01 Ausgabe 1000 A; 100"_s,
+             u"2026-03-01 Ausgabe 1004 A; 100,4"_s, u"2026-03-01 Ausgabe 1500 A; 150"_s,
+             u"2026-03-01 Ausgabe 1800 A; 180"_s, u"2026-03-01 Ausgabe 2500 A; 250"_s,
+             u"2026-03-01 Einnahme 500 A; erstattet"_s},
+            {u"A; 000=10.00"_s, u"A; 045=10.00"_s, u"A; 100=10.00"_s, u"A; 100,4=10.00"_s, u"A; 150=10.00"_s,
+             u"A; 180=10.00"_s, u"A; 250=10.00"_s, u"A; erstattet=10.00"_s, u"A; ohne="_s});
     }
 
     void Html()
@@ -155,13 +143,11 @@ private Q_SLOTS:
 
     void HtmlOfTheDemo_data()
     {
-        QTest::addColumn<eReport>("type");
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<modPeriod::cRange>("range");
+        const cTestRows<eReport, QString, modPeriod::cRange> row("type", "account", "range");
         const modPeriod::cRange month = modPeriod::Month(QDate(2026, 2, 1), 0);
-        QTest::newRow("beispiel-summe") << eReport::Sum << u"Bargeld"_s << month;
-        QTest::newRow("beispiel-durchschnitt") << eReport::Average << u"Sparkonto"_s << year2026;
-        QTest::newRow("beispiel-limit") << eReport::Limit << QString() << month;
+        row("beispiel-summe", eReport::Sum, u"Bargeld"_s, month);
+        row("beispiel-durchschnitt", eReport::Average, u"Sparkonto"_s, year2026);
+        row("beispiel-limit", eReport::Limit, {}, month);
     }
 
     void HtmlOfTheDemo()
@@ -197,26 +183,21 @@ private Q_SLOTS:
 
     void Figures_data()
     {
-        QTest::addColumn<cReportWish>("wish");
-        QTest::addColumn<QStringList>("entries");
-        QTest::addColumn<QStringList>("limits");
-        QTest::addColumn<QString>("income");
-        QTest::addColumn<QString>("expense");
+        const cTestRows<cReportWish, QStringList, QStringList, QString, QString> row("wish", "entries", "limits",
+                                                                                     "income", "expense");
         const QStringList none;
         cReportWish sum = Wish(eReport::Sum, year2026);
-        QTest::newRow("German order")
-            << sum
-            << QStringList{u"2026-01-01 Ausgabe 1 Zoo; B"_s, u"2026-01-01 Ausgabe 2 Ärzte; Ö"_s,
-                           u"2026-01-01 Ausgabe 3 Auto; C"_s, u"2026-01-01 Ausgabe 4 Auto"_s,
-                           u"2026-01-01 Ausgabe 5 Auto; Zubehör"_s}
-            << none << QString()
-            << u"Ärzte 2: Ö (Ärzte) 2 | Auto 12: C (Auto) 3, Sonstiges (Auto) 4, Zubehör (Auto) "
-               "5 | Zoo 1: B (Zoo) 1"_s;
+        row("German order", sum,
+            {u"2026-01-01 Ausgabe 1 Zoo; B"_s, u"2026-01-01 Ausgabe 2 Ärzte; Ö"_s, u"2026-01-01 Ausgabe 3 Auto; C"_s,
+             u"2026-01-01 Ausgabe 4 Auto"_s, u"2026-01-01 Ausgabe 5 Auto; Zubehör"_s},
+            none, {},
+            u"Ärzte 2: Ö (Ärzte) 2 | Auto 12: C (Auto) 3, Sonstiges (Auto) 4, Zubehör (Auto) "
+            "5 | Zoo 1: B (Zoo) 1"_s);
         sum.Order = eReportOrder::ByAmount;
-        QTest::newRow("by amount") << sum
-                                   << QStringList{u"2026-01-01 Ausgabe 1 A; X"_s, u"2026-01-01 Ausgabe 4 B; Y"_s,
-                                                  u"2026-01-01 Ausgabe 3 A; Z"_s, u"2026-01-01 Ausgabe 2 C; A"_s}
-                                   << none << QString() << u"A 4: Z (A) 3, X (A) 1 | B 4: Y (B) 4 | C 2: A (C) 2"_s;
+        row("by amount", sum,
+            {u"2026-01-01 Ausgabe 1 A; X"_s, u"2026-01-01 Ausgabe 4 B; Y"_s, u"2026-01-01 Ausgabe 3 A; Z"_s,
+             u"2026-01-01 Ausgabe 2 C; A"_s},
+            none, {}, u"A 4: Z (A) 3, X (A) 1 | B 4: Y (B) 4 | C 2: A (C) 2"_s);
         sum.Order = eReportOrder::ByName;
         const QStringList mixed{u"2026-01-01 Einnahme 700 Allgemein; Startguthaben"_s,
                                 u"2026-01-01 Umbuchung 900 Sparen; Rücklage"_s,
@@ -224,20 +205,18 @@ private Q_SLOTS:
                                 u"2026-01-01 Ausgabe 50 A; X"_s,
                                 u"2026-01-02 Ausgabe 7 Keine Angabe"_s,
                                 u"2026-01-02 Ausgabe 6 "_s};
-        QTest::newRow("transfers never, start balances shown")
-            << sum << mixed << none << u"A 20: X (A) 20 | Allgemein 700: Startguthaben (Allgemein) 700"_s
-            << u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s;
+        row("transfers never, start balances shown", sum, mixed, none,
+            u"A 20: X (A) 20 | Allgemein 700: Startguthaben (Allgemein) 700"_s,
+            u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s);
         sum.ShowsStart = false;
-        QTest::newRow("start balances hidden") << sum << mixed << none << u"A 20: X (A) 20"_s
-                                               << u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s;
-        QTest::newRow("averages know no start balances")
-            << Wish(eReport::Average, year2026) << QStringList{mixed.constFirst()} << none << QString() << QString();
+        row("start balances hidden", sum, mixed, none, u"A 20: X (A) 20"_s,
+            u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s);
+        row("averages know no start balances", Wish(eReport::Average, year2026), {mixed.constFirst()}, none, {}, {});
         const QStringList limits{u"A; X=1.00"_s, u"A; Y=0"_s, u"A; Z=2,50"_s, u"Lohn; Gehalt=2500=Einnahme"_s};
         cReportWish limit = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
-        QTest::newRow("refunds lessen what was spent")
-            << limit << mixed << limits << QString() << u"A 30: X (A) 30, Z (A) 0"_s;
+        row("refunds lessen what was spent", limit, mixed, limits, {}, u"A 30: X (A) 30, Z (A) 0"_s);
         limit.Spending = eReportSpending::Gross;
-        QTest::newRow("gross") << limit << mixed << limits << QString() << u"A 50: X (A) 50, Z (A) 0"_s;
+        row("gross", limit, mixed, limits, {}, u"A 50: X (A) 50, Z (A) 0"_s);
     }
 
     void Figures()
@@ -252,21 +231,14 @@ private Q_SLOTS:
 
     void Averages_data()
     {
-        QTest::addColumn<modPeriod::cRange>("range");
-        QTest::addColumn<qint64>("days");
-        QTest::addColumn<qint64>("yearBasis");
-        QTest::addColumn<qint64>("average"); // of 1,000.00
-        QTest::newRow("common year") << year2026 << 364LL << 364LL << 8333LL;
-        QTest::newRow("leap year") << modPeriod::cRange{QDate(2024, 1, 1), QDate(2024, 12, 31)} << 365LL << 365LL
-                                   << 8333LL;
-        QTest::newRow("one day") << modPeriod::cRange{QDate(2026, 5, 5), QDate(2026, 5, 5)} << 1LL << 364LL
-                                 << 3033333LL;
-        QTest::newRow("quarter") << modPeriod::cRange{QDate(2026, 1, 1), QDate(2026, 3, 31)} << 89LL << 364LL
-                                 << 34082LL;
-        QTest::newRow("two months of two years")
-            << modPeriod::cRange{QDate(2025, 12, 1), QDate(2026, 1, 31)} << 61LL << 729LL << 49795LL;
-        QTest::newRow("two years") << modPeriod::cRange{QDate(2025, 1, 1), QDate(2026, 12, 31)} << 729LL << 729LL
-                                   << 4167LL;
+        // average: of 1,000.00
+        const cTestRows<modPeriod::cRange, qint64, qint64, qint64> row("range", "days", "yearBasis", "average");
+        row("common year", year2026, 364, 364, 8333);
+        row("leap year", {QDate(2024, 1, 1), QDate(2024, 12, 31)}, 365, 365, 8333);
+        row("one day", {QDate(2026, 5, 5), QDate(2026, 5, 5)}, 1, 364, 3033333);
+        row("quarter", {QDate(2026, 1, 1), QDate(2026, 3, 31)}, 89, 364, 34082);
+        row("two months of two years", {QDate(2025, 12, 1), QDate(2026, 1, 31)}, 61, 729, 49795);
+        row("two years", {QDate(2025, 1, 1), QDate(2026, 12, 31)}, 729, 729, 4167);
     }
 
     void Averages()
@@ -283,11 +255,11 @@ private Q_SLOTS:
     // count.
     void AveragesOfOpenPeriods_data()
     {
-        QTest::addColumn<modPeriod::cRange>("range");
-        QTest::newRow("open") << modPeriod::cRange{};
-        QTest::newRow("up to today") << modPeriod::cRange{QDate(1001, 1, 1), QDate(2026, 12, 31)};
-        QTest::newRow("open end") << modPeriod::cRange{QDate(2025, 1, 1), {}};
-        QTest::newRow("two years") << modPeriod::cRange{QDate(2025, 1, 1), QDate(2026, 12, 31)};
+        const cTestRows<modPeriod::cRange> row("range");
+        row("open", {});
+        row("up to today", {QDate(1001, 1, 1), QDate(2026, 12, 31)});
+        row("open end", {QDate(2025, 1, 1), {}});
+        row("two years", {QDate(2025, 1, 1), QDate(2026, 12, 31)});
     }
 
     void AveragesOfOpenPeriods()
@@ -303,14 +275,13 @@ private Q_SLOTS:
 
     void MonthsOfALimit_data()
     {
-        QTest::addColumn<modPeriod::cRange>("range");
-        QTest::addColumn<int>("months");
-        QTest::newRow("year") << year2026 << 12;
-        QTest::newRow("two days of two months") << modPeriod::cRange{QDate(2026, 1, 31), QDate(2026, 2, 1)} << 2;
-        QTest::newRow("over the year") << modPeriod::cRange{QDate(2025, 12, 15), QDate(2026, 1, 15)} << 2;
-        QTest::newRow("open: the months with entries") << modPeriod::cRange{} << 4;
-        QTest::newRow("up to today") << modPeriod::cRange{QDate(1001, 1, 1), QDate(2026, 6, 1)} << 5;
-        QTest::newRow("open end") << modPeriod::cRange{QDate(2026, 1, 1), {}} << 5;
+        const cTestRows<modPeriod::cRange, int> row("range", "months");
+        row("year", year2026, 12);
+        row("two days of two months", {QDate(2026, 1, 31), QDate(2026, 2, 1)}, 2);
+        row("over the year", {QDate(2025, 12, 15), QDate(2026, 1, 15)}, 2);
+        row("open: the months with entries", {}, 4);
+        row("up to today", {QDate(1001, 1, 1), QDate(2026, 6, 1)}, 5);
+        row("open end", {QDate(2026, 1, 1), {}}, 5);
     }
 
     void MonthsOfALimit()
@@ -323,8 +294,7 @@ private Q_SLOTS:
     void Links_data()
     {
         using namespace modReportLink;
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<cLink>("link");
+        const cTestRows<QString, cLink> row("text", "link");
         const modPeriod::cRange range{QDate(2026, 1, 1), QDate(2026, 1, 31)};
         const auto shown = [&](const cReportNode& node, const QString& path) {
             return cLink(cShowEntries{node, node, range, {}, path});
@@ -332,29 +302,29 @@ private Q_SLOTS:
         const QString head = u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Alle%20Konten|"_s;
         const cReportNode car{eReportKind::Expense, u"Auto"_s, u"Neue Reifen"_s};
         const cReportNode group{eReportKind::Expense, u"Auto"_s};
-        QTest::newRow("blanks as codes") << head + u"Auto;%20Neue%20Reifen"_s << shown(car, u"Auto; Neue Reifen"_s);
-        QTest::newRow("slash at the end") << head + u"Auto; Neue Reifen/"_s << shown(car, u"Auto; Neue Reifen"_s);
-        QTest::newRow("group") << head + u"Auto; "_s << shown(group, u"Auto"_s);
-        QTest::newRow("group, blank lost") << head + u"Auto;/"_s << shown(group, u"Auto"_s);
-        QTest::newRow("other letter case")
-            << QString(head).replace(u"SHOWENTRIES"_s, u"showEntries"_s) + u"Auto;"_s << shown(group, u"Auto"_s);
-        QTest::newRow("parenthesis") << head + u"Auto; Steuer (Kfz)"_s
-                                     << cLink(cShowEntries{{eReportKind::Expense, u"Auto"_s, u"Steuer (Kfz)"_s},
-                                                           {eReportKind::Expense, u"Auto"_s, u"Steuer"_s},
-                                                           range,
-                                                           {},
-                                                           u"Auto; Steuer (Kfz)"_s});
-        QTest::newRow("account") << u"SHOWENTRIES://Einnahmen|01.01.2026|31.01.2026|Giro|Lohn; Gehalt"_s
-                                 << cLink(cShowEntries{{eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
-                                                       {eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
-                                                       range,
-                                                       u"Giro"_s,
-                                                       u"Lohn; Gehalt"_s});
-        QTest::newRow("printed") << u"SHOWENTRIES://||||"_s << cLink();
-        QTest::newRow("four fields") << u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Giro"_s << cLink();
-        QTest::newRow("category") << u"editcategory://Auto;%20Steuer/"_s << cLink(cEditCategory{u"Auto; Steuer"_s});
-        QTest::newRow("page") << u"http://example.org/a%20b"_s << cLink(cOpenPage{u"http://example.org/a%20b"_s});
-        QTest::newRow("something else") << u"file:///etc/passwd"_s << cLink();
+        row("blanks as codes", head + u"Auto;%20Neue%20Reifen"_s, shown(car, u"Auto; Neue Reifen"_s));
+        row("slash at the end", head + u"Auto; Neue Reifen/"_s, shown(car, u"Auto; Neue Reifen"_s));
+        row("group", head + u"Auto; "_s, shown(group, u"Auto"_s));
+        row("group, blank lost", head + u"Auto;/"_s, shown(group, u"Auto"_s));
+        row("other letter case", QString(head).replace(u"SHOWENTRIES"_s, u"showEntries"_s) + u"Auto;"_s,
+            shown(group, u"Auto"_s));
+        row("parenthesis", head + u"Auto; Steuer (Kfz)"_s,
+            cLink(cShowEntries{{eReportKind::Expense, u"Auto"_s, u"Steuer (Kfz)"_s},
+                               {eReportKind::Expense, u"Auto"_s, u"Steuer"_s},
+                               range,
+                               {},
+                               u"Auto; Steuer (Kfz)"_s}));
+        row("account", u"SHOWENTRIES://Einnahmen|01.01.2026|31.01.2026|Giro|Lohn; Gehalt"_s,
+            cLink(cShowEntries{{eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
+                               {eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
+                               range,
+                               u"Giro"_s,
+                               u"Lohn; Gehalt"_s}));
+        row("printed", u"SHOWENTRIES://||||"_s, {});
+        row("four fields", u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Giro"_s, {});
+        row("category", u"editcategory://Auto;%20Steuer/"_s, cLink(cEditCategory{u"Auto; Steuer"_s}));
+        row("page", u"http://example.org/a%20b"_s, cLink(cOpenPage{u"http://example.org/a%20b"_s}));
+        row("something else", u"file:///etc/passwd"_s, {});
     }
 
     void Links()
@@ -464,12 +434,12 @@ private Q_SLOTS:
 
     void SumsGiveTheFiguresOfTheirEntries_data()
     {
-        QTest::addColumn<QString>("change");
-        QTest::newRow("plain days") << QString();
-        QTest::newRow("a day that only the database reads") << u"EntryDate = '2026-04-05 10:00' WHERE ID = 3"_s;
-        QTest::newRow("a day that nobody reads") << u"EntryDate = '2026-1-5' WHERE ID = 3"_s;
-        QTest::newRow("a series that nobody can place") << u"EntryDate = 'bald' WHERE EntryInterval = 'Monatlich'"_s;
-        QTest::newRow("no category") << u"EntryCategory = NULL WHERE ID = 3"_s;
+        const cTestRows<QString> row("change");
+        row("plain days", {});
+        row("a day that only the database reads", u"EntryDate = '2026-04-05 10:00' WHERE ID = 3"_s);
+        row("a day that nobody reads", u"EntryDate = '2026-1-5' WHERE ID = 3"_s);
+        row("a series that nobody can place", u"EntryDate = 'bald' WHERE EntryInterval = 'Monatlich'"_s);
+        row("no category", u"EntryCategory = NULL WHERE ID = 3"_s);
     }
 
     // What the database adds up by itself makes the same report, to the month and the spelling of a tag.

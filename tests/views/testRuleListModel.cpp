@@ -3,6 +3,7 @@
 #include "import/propose/cOwnRules.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/rule/cRuleEditor.h"
 #include "views/rule/modRuleText.h"
@@ -73,16 +74,16 @@ class testRuleListModel final : public QObject
 private Q_SLOTS:
     void Problems_data() const
     {
-        QTest::addColumn<cOwnRule>("rule");
-        QTest::addColumn<QString>("problem"); // its beginning
+        // problem: its beginning
+        const cTestRows<cOwnRule, QString> row("rule", "problem");
         cOwnRule bare;
         bare.Category = u"Haushalt; Lebensmittel"_s;
-        QTest::newRow("no condition") << bare << u"Bitte geben Sie an, woran"_s;
+        row("no condition", bare, u"Bitte geben Sie an, woran"_s);
         bare.Sign = eRuleSign::In;
-        QTest::newRow("a sign is one") << bare << QString();
-        QTest::newRow("nothing to set") << Rule(u"rewe"_s, {}) << u"Bitte geben Sie an, was"_s;
-        QTest::newRow("mere separators") << Rule(u" | "_s) << u"Der Text ' | ' passt auf jeden"_s;
-        QTest::newRow("an alternative of wildcards") << Rule(u"rewe|*?"_s) << u"Der Text 'rewe|*?' passt auf jeden"_s;
+        row("a sign is one", bare, {});
+        row("nothing to set", Rule(u"rewe"_s, {}), u"Bitte geben Sie an, was"_s);
+        row("mere separators", Rule(u" | "_s), u"Der Text ' | ' passt auf jeden"_s);
+        row("an alternative of wildcards", Rule(u"rewe|*?"_s), u"Der Text 'rewe|*?' passt auf jeden"_s);
     }
 
     void Problems() const

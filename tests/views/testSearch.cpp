@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cSearchModel.h"
 
@@ -95,11 +96,7 @@ class testSearch final : public QObject
 private Q_SLOTS:
     void Finds_data()
     {
-        QTest::addColumn<cSearchQuery>("query");
-        QTest::addColumn<QStringList>("found");
-        const auto row = [](const char* name, const cSearchQuery& query, const QStringList& found) {
-            QTest::newRow(name) << query << found;
-        };
+        const cTestRows<cSearchQuery, QStringList> row("query", "found");
         row("word without umlaut", {.Text = u"mueller baeck"_s}, {u"Bäckerei Müller 01.07."_s});
         row("amount as text", {.Text = u"80,00"_s}, {u"Haushaltshilfe 02.05."_s});
         row("range of amounts, both ends", {.Least = 425, .Most = 1000},
@@ -157,16 +154,7 @@ private Q_SLOTS:
     void UnderstandsAmounts_data()
     {
         using eRule = cSearchModel::eAmountRule;
-        QTest::addColumn<cSearchModel::cFields>("fields");
-        QTest::addColumn<int>("rows");
-        const auto row = [](const char* name, eRule rule, const QString& amount, const QString& to, int rows) {
-            cSearchModel::cFields fields;
-            fields.Text = u"giro"_s;
-            fields.AmountRule = rule;
-            fields.Amount = amount;
-            fields.AmountTo = to;
-            QTest::newRow(name) << fields << rows;
-        };
+        const cTestRows<eRule, QString, QString, int> row("rule", "amount", "to", "rows");
         row("exactly", eRule::Exactly, u"10"_s, {}, 1);
         row("with sign and euro", eRule::Exactly, u"-4,25 €"_s, {}, 1);
         row("calculated", eRule::Exactly, u"4+6"_s, {}, 1);
@@ -179,12 +167,13 @@ private Q_SLOTS:
 
     void UnderstandsAmounts()
     {
-        QFETCH(const cSearchModel::cFields, fields);
-        QFETCH(const int, rows);
+        QFETCH(const cSearchModel::eAmountRule, rule);
+        QFETCH(const QString, amount);
+        QFETCH(const QString, to);
         cScene scene;
-        scene.Model.Search(fields);
-        QCOMPARE(scene.Model.Entries().rowCount(), rows);
-        QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !scene.Model.IsAmount(fields.Amount));
+        scene.Model.Search({.Text = u"giro"_s, .AmountRule = rule, .Amount = amount, .AmountTo = to});
+        QTEST(scene.Model.Entries().rowCount(), "rows");
+        QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !scene.Model.IsAmount(amount));
     }
 
     void ReadsAmountsAsTheyAreShown()

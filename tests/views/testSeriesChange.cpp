@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
@@ -47,20 +48,16 @@ private Q_SLOTS:
     void AsksWhatToEdit_data()
     {
         using enum cSeriesChange::eEdit;
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<int>("options");
-        QTest::addColumn<int>("edit");
+        const cTestRows<QString, QDate, int, int, int> row("interval", "day", "choice", "options", "edit");
         const QString monthly = u"Monatlich"_s;
         const QDate may(2026, 5, 10);
-        QTest::newRow("this period") << monthly << may << 0 << 3 << int(Period);
-        QTest::newRow("from here") << monthly << may << 1 << 3 << int(FromHere);
-        QTest::newRow("whole") << monthly << may << 2 << 3 << int(Entry);
-        QTest::newRow("given up") << monthly << may << -1 << 3 << int(Nothing);
-        QTest::newRow("first occurrence") << monthly << QDate(2026, 3, 10) << 1 << 2 << int(Entry);
-        QTest::newRow("no occurrence") << monthly << QDate(2026, 5, 11) << 0 << 0 << int(Entry);
-        QTest::newRow("one-off") << modWord::Einmalig << QDate(2026, 3, 10) << 0 << 0 << int(Entry);
+        row("this period", monthly, may, 0, 3, int(Period));
+        row("from here", monthly, may, 1, 3, int(FromHere));
+        row("whole", monthly, may, 2, 3, int(Entry));
+        row("given up", monthly, may, -1, 3, int(Nothing));
+        row("first occurrence", monthly, QDate(2026, 3, 10), 1, 2, int(Entry));
+        row("no occurrence", monthly, QDate(2026, 5, 11), 0, 0, int(Entry));
+        row("one-off", modWord::Einmalig, QDate(2026, 3, 10), 0, 0, int(Entry));
     }
 
     void AsksWhatToEdit()
@@ -131,20 +128,16 @@ private Q_SLOTS:
 
     void PeriodFormMoves_data()
     {
-        QTest::addColumn<QString>("day"); // as typed
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<int>("saved");
-        QTest::addColumn<QDate>("moved");
-        QTest::addColumn<QString>("comment"); // an own amount or day is not what the bank said
+        // day: as typed; comment: an own amount or day is not what the bank said
+        const cTestRows<QString, QString, int, QDate, QString> row("day", "amount", "saved", "moved", "comment");
         const int done = int(cSeriesChange::eSaved::Saved);
         const QString bank = u"Laut Kontoauszug"_s;
-        QTest::newRow("as it was") << u"14.04.2026"_s << u"10,00"_s << done << QDate(2026, 4, 14) << bank;
-        QTest::newRow("another day") << u"2.5."_s << u"10"_s << done << QDate(2026, 5, 2) << QString();
-        QTest::newRow("planned day") << u"10.4."_s << u"10"_s << done << QDate() << QString();
-        QTest::newRow("no day") << u" "_s << u"10"_s << done << QDate() << QString();
-        QTest::newRow("another amount") << u"14.4."_s << u"11"_s << done << QDate(2026, 4, 14) << QString();
-        QTest::newRow("unreadable") << u"bald"_s << u"10"_s << int(cSeriesChange::eSaved::BadDay) << QDate(2026, 4, 14)
-                                    << bank;
+        row("as it was", u"14.04.2026"_s, u"10,00"_s, done, QDate(2026, 4, 14), bank);
+        row("another day", u"2.5."_s, u"10"_s, done, QDate(2026, 5, 2), {});
+        row("planned day", u"10.4."_s, u"10"_s, done, {}, {});
+        row("no day", u" "_s, u"10"_s, done, {}, {});
+        row("another amount", u"14.4."_s, u"11"_s, done, QDate(2026, 4, 14), {});
+        row("unreadable", u"bald"_s, u"10"_s, int(cSeriesChange::eSaved::BadDay), QDate(2026, 4, 14), bank);
     }
 
     void PeriodFormMoves()
@@ -246,12 +239,10 @@ private Q_SLOTS:
 
     void FromHereAsksForLostCorrections_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QStringList>("old");
-        QTest::addColumn<int>("entries");
+        const cTestRows<int, QStringList, int> row("answer", "old", "entries");
         const QString early = u"2026-04-01 1 früher"_s;
-        QTest::newRow("no saves nothing") << int(eAnswer::No) << QStringList({early, u"2026-08-01 3 später"_s}) << 1;
-        QTest::newRow("yes keeps the earlier ones") << int(eAnswer::Yes) << QStringList({early}) << 2;
+        row("no saves nothing", int(eAnswer::No), {early, u"2026-08-01 3 später"_s}, 1);
+        row("yes keeps the earlier ones", int(eAnswer::Yes), {early}, 2);
     }
 
     void FromHereAsksForLostCorrections()

@@ -3,6 +3,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cSeriesCheck.h"
 
@@ -19,42 +20,29 @@ class testSeriesCheck final : public QObject
 private Q_SLOTS:
     void FindsWhatTheBankDoesNotPay_data() const
     {
-        QTest::addColumn<QDate>("start");
-        QTest::addColumn<QString>("paid"); // days of rows that belong to the series
-        QTest::addColumn<QString>("others");
-        QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QString>("occurrences"); // that count afterwards, up to May 2026
+        // paid: days of rows that belong to the series; occurrences: that count afterwards, up to May 2026
+        const cTestRows<QDate, QString, QString, QStringList, QString> row("start", "paid", "others", "lines",
+                                                                           "occurrences");
         const QDate start(2025, 11, 1);
-        QTest::newRow("all is there")
-            << start << u"2025-11-01 2025-12-01 2026-01-02"_s << u"2025-11-01 2026-01-31"_s << QStringList()
-            << u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s;
-        QTest::newRow("ended")
-            << start << u"2025-11-01 2025-12-03"_s << u"2025-11-01 2026-02-20"_s
-            << QStringList{u"'Miete' (Girokonto): zuletzt gebucht am 03.12.2025; endet am 01.12.2025"_s}
-            << u"2025-11-01 2025-12-01"_s;
-        QTest::newRow("late")
-            << start << u"2025-11-01 2025-12-01 2026-01-02"_s << u"2025-11-01 2026-02-05"_s
-            << QStringList{u"'Miete' (Girokonto), fällig am 01.02.2026: noch nicht gebucht; wird auf den "
-                           "06.02.2026 verschoben"_s}
-            << u"2025-11-01 2025-12-01 2026-01-01 2026-02-06 2026-03-01 2026-04-01 2026-05-01"_s;
-        QTest::newRow("left out in between")
-            << start << u"2025-11-01 2026-01-01 2026-02-01"_s << u"2026-02-20"_s
-            << QStringList{u"'Miete' (Girokonto), fällig am 01.12.2025: nicht gebucht; wird ausgelassen"_s}
-            << u"2025-11-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s;
-        QTest::newRow("never paid")
-            << start << QString() << u"2025-10-15 2026-02-20"_s
-            << QStringList{u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 01.11.2025"_s} << QString();
-        QTest::newRow("never paid from some day on")
-            << start << QString() << u"2025-12-15 2026-03-20"_s
-            << QStringList{u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 31.12.2025"_s}
-            << u"2025-11-01 2025-12-01"_s;
-        QTest::newRow("statements of years ago")
-            << QDate(2024, 1, 1) << u"2024-01-01 2024-02-01"_s << u"2024-02-20"_s
-            << QStringList{u"'Miete' (Girokonto): zuletzt gebucht am 01.02.2024; endet am 01.02.2024"_s}
-            << u"2024-01-01 2024-02-01"_s;
-        QTest::newRow("days without statements say nothing")
-            << start << QString() << u"2025-10-15 2025-10-31"_s << QStringList()
-            << u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s;
+        row("all is there", start, u"2025-11-01 2025-12-01 2026-01-02"_s, u"2025-11-01 2026-01-31"_s, {},
+            u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
+        row("ended", start, u"2025-11-01 2025-12-03"_s, u"2025-11-01 2026-02-20"_s,
+            {u"'Miete' (Girokonto): zuletzt gebucht am 03.12.2025; endet am 01.12.2025"_s}, u"2025-11-01 2025-12-01"_s);
+        row("late", start, u"2025-11-01 2025-12-01 2026-01-02"_s, u"2025-11-01 2026-02-05"_s,
+            {u"'Miete' (Girokonto), fällig am 01.02.2026: noch nicht gebucht; wird auf den "
+             "06.02.2026 verschoben"_s},
+            u"2025-11-01 2025-12-01 2026-01-01 2026-02-06 2026-03-01 2026-04-01 2026-05-01"_s);
+        row("left out in between", start, u"2025-11-01 2026-01-01 2026-02-01"_s, u"2026-02-20"_s,
+            {u"'Miete' (Girokonto), fällig am 01.12.2025: nicht gebucht; wird ausgelassen"_s},
+            u"2025-11-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
+        row("never paid", start, {}, u"2025-10-15 2026-02-20"_s,
+            {u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 01.11.2025"_s}, {});
+        row("never paid from some day on", start, {}, u"2025-12-15 2026-03-20"_s,
+            {u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 31.12.2025"_s}, u"2025-11-01 2025-12-01"_s);
+        row("statements of years ago", QDate(2024, 1, 1), u"2024-01-01 2024-02-01"_s, u"2024-02-20"_s,
+            {u"'Miete' (Girokonto): zuletzt gebucht am 01.02.2024; endet am 01.02.2024"_s}, u"2024-01-01 2024-02-01"_s);
+        row("days without statements say nothing", start, {}, u"2025-10-15 2025-10-31"_s, {},
+            u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
     }
 
     void FindsWhatTheBankDoesNotPay() const

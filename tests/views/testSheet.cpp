@@ -2,6 +2,7 @@
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cSavedViews.h"
 #include "views/sheet/cCellEdit.h"
@@ -100,15 +101,13 @@ private Q_SLOTS:
 
     void CopyComesOnceWithTheShownAmount_data()
     {
-        QTest::addColumn<bool>("isSeries");
-        QTest::addColumn<QDate>("day"); // of the line
-        QTest::addColumn<bool>("isToday");
-        QTest::addColumn<QDate>("expectedDay");
-        QTest::addColumn<qint64>("expectedCents");
-        QTest::newRow("today") << false << QDate(2026, 3, 10) << true << QDate(2026, 3, 15) << qint64(1000);
-        QTest::newRow("next month") << false << QDate(2026, 3, 10) << false << QDate(2026, 4, 10) << qint64(1000);
-        QTest::newRow("shorter month") << false << QDate(2026, 1, 31) << false << QDate(2026, 2, 28) << qint64(1000);
-        QTest::newRow("corrected") << true << QDate(2026, 3, 28) << false << QDate(2026, 4, 28) << qint64(72000);
+        // day: of the line
+        const cTestRows<bool, QDate, bool, QDate, qint64> row("isSeries", "day", "isToday", "expectedDay",
+                                                              "expectedCents");
+        row("today", false, QDate(2026, 3, 10), true, QDate(2026, 3, 15), 1000);
+        row("next month", false, QDate(2026, 3, 10), false, QDate(2026, 4, 10), 1000);
+        row("shorter month", false, QDate(2026, 1, 31), false, QDate(2026, 2, 28), 1000);
+        row("corrected", true, QDate(2026, 3, 28), false, QDate(2026, 4, 28), 72000);
     }
 
     void CopyComesOnceWithTheShownAmount()
@@ -230,13 +229,12 @@ private Q_SLOTS:
 
     void DraggedTransferKeepsItsOtherSide_data()
     {
-        QTest::addColumn<QString>("shown"); // the account of the list; empty for all
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<QString>("expected"); // of "Girokonto > Sparkonto"
-        QTest::newRow("arrives") << u"Sparkonto"_s << u"Bargeld"_s << u"Girokonto > Bargeld"_s;
-        QTest::newRow("leaves") << u"Girokonto"_s << u"Bargeld"_s << u"Bargeld > Sparkonto"_s;
-        QTest::newRow("all accounts") << QString() << u"Bargeld"_s << u"Bargeld > Sparkonto"_s;
-        QTest::newRow("onto its other side") << u"Sparkonto"_s << u"Girokonto"_s << u"Girokonto > Sparkonto"_s;
+        // shown: the account of the list; empty for all; expected: of "Girokonto > Sparkonto"
+        const cTestRows<QString, QString, QString> row("shown", "account", "expected");
+        row("arrives", u"Sparkonto"_s, u"Bargeld"_s, u"Girokonto > Bargeld"_s);
+        row("leaves", u"Girokonto"_s, u"Bargeld"_s, u"Bargeld > Sparkonto"_s);
+        row("all accounts", {}, u"Bargeld"_s, u"Bargeld > Sparkonto"_s);
+        row("onto its other side", u"Sparkonto"_s, u"Girokonto"_s, u"Girokonto > Sparkonto"_s);
     }
 
     void DraggedTransferKeepsItsOtherSide()
@@ -290,31 +288,24 @@ private Q_SLOTS:
 
     void CellsAreStoredThroughTheEditor_data()
     {
-        QTest::addColumn<QDate>("day"); // of the occurrence; invalid for the purchase
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("decision");     // -1: nothing is asked
-        QTest::addColumn<QString>("expected"); // day, category, description and cents of each line up to April
+        // day: of the occurrence; invalid for the purchase; decision: -1: nothing is asked; expected: day, category,
+        // description and cents of each line up to April
+        const cTestRows<QDate, int, QString, int, QString> row("day", "column", "typed", "decision", "expected");
         const QString others = u"28.01. Miete 70000|28.02. Miete 70000|"_s;
-        QTest::newRow("amount as a sum") << QDate() << int(cEntryListModel::Amount) << u"12,50+3*2"_s << -1
-                                         << u"10.03. =Markt\tWest 1850"_s;
-        QTest::newRow("description") << QDate() << int(cEntryListModel::Description) << u"Markt"_s << -1
-                                     << u"10.03. Markt 1000"_s;
-        QTest::newRow("amount of this period") << QDate(2026, 3, 28) << int(cEntryListModel::Amount) << u"710"_s << 0
-                                               << others + u"28.03. Miete 71000|28.04. Miete 70000"_s;
-        QTest::newRow("amount from here") << QDate(2026, 4, 28) << int(cEntryListModel::Amount) << u"750"_s << 1
-                                          << others + u"28.03. Miete 72000|28.04. Miete 75000"_s;
-        QTest::newRow("amount from a corrected one") << QDate(2026, 3, 28) << int(cEntryListModel::Amount) << u"750"_s
-                                                     << 1 << others + u"28.03. Miete 75000|28.04. Miete 75000"_s;
-        QTest::newRow("amount of the series at a corrected one")
-            << QDate(2026, 3, 28) << int(cEntryListModel::Amount) << u"750"_s << 2
-            << u"28.01. Miete 75000|28.02. Miete 75000|28.03. Miete 75000|28.04. Miete 75000"_s;
-        QTest::newRow("description of the series")
-            << QDate(2026, 2, 28) << int(cEntryListModel::Description) << u"Wohnen"_s << 1
-            << u"28.01. Wohnen 70000|28.02. Wohnen 70000|28.03. Wohnen 72000|28.04. Wohnen 70000"_s;
-        QTest::newRow("description of the series at its first day")
-            << QDate(2026, 1, 28) << int(cEntryListModel::Description) << u"Wohnen"_s << 0
-            << u"28.01. Wohnen 70000|28.02. Wohnen 70000|28.03. Wohnen 72000|28.04. Wohnen 70000"_s;
+        row("amount as a sum", {}, cEntryListModel::Amount, u"12,50+3*2"_s, -1, u"10.03. =Markt\tWest 1850"_s);
+        row("description", {}, cEntryListModel::Description, u"Markt"_s, -1, u"10.03. Markt 1000"_s);
+        row("amount of this period", QDate(2026, 3, 28), cEntryListModel::Amount, u"710"_s, 0,
+            others + u"28.03. Miete 71000|28.04. Miete 70000"_s);
+        row("amount from here", QDate(2026, 4, 28), cEntryListModel::Amount, u"750"_s, 1,
+            others + u"28.03. Miete 72000|28.04. Miete 75000"_s);
+        row("amount from a corrected one", QDate(2026, 3, 28), cEntryListModel::Amount, u"750"_s, 1,
+            others + u"28.03. Miete 75000|28.04. Miete 75000"_s);
+        row("amount of the series at a corrected one", QDate(2026, 3, 28), cEntryListModel::Amount, u"750"_s, 2,
+            u"28.01. Miete 75000|28.02. Miete 75000|28.03. Miete 75000|28.04. Miete 75000"_s);
+        row("description of the series", QDate(2026, 2, 28), cEntryListModel::Description, u"Wohnen"_s, 1,
+            u"28.01. Wohnen 70000|28.02. Wohnen 70000|28.03. Wohnen 72000|28.04. Wohnen 70000"_s);
+        row("description of the series at its first day", QDate(2026, 1, 28), cEntryListModel::Description, u"Wohnen"_s,
+            0, u"28.01. Wohnen 70000|28.02. Wohnen 70000|28.03. Wohnen 72000|28.04. Wohnen 70000"_s);
     }
 
     void CellsAreStoredThroughTheEditor()
@@ -424,13 +415,12 @@ private Q_SLOTS:
 
     void DayIsFoundInAnyOrder_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QDate>("expected"); // of the row
-        QTest::addColumn<QString>("text");   // that the user is told, in part
-        QTest::newRow("there") << u"10.3."_s << QDate(2026, 3, 10) << QString();
-        QTest::newRow("nearest") << u"heute"_s << QDate(2026, 3, 10) << u"keinen Eintrag"_s;
-        QTest::newRow("outside") << u"1.1.2027"_s << QDate(2026, 4, 28) << u"außerhalb"_s;
-        QTest::newRow("no day") << u"bald"_s << QDate() << u"bald"_s;
+        // expected: of the row; text: that the user is told, in part
+        const cTestRows<QString, QDate, QString> row("typed", "expected", "text");
+        row("there", u"10.3."_s, QDate(2026, 3, 10), {});
+        row("nearest", u"heute"_s, QDate(2026, 3, 10), u"keinen Eintrag"_s);
+        row("outside", u"1.1.2027"_s, QDate(2026, 4, 28), u"außerhalb"_s);
+        row("no day", u"bald"_s, {}, u"bald"_s);
     }
 
     void DayIsFoundInAnyOrder()

@@ -1,5 +1,6 @@
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
@@ -83,17 +84,12 @@ private Q_SLOTS:
 
     void ChecksParts_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QString>("category");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<int>("saved");
-        QTest::addColumn<QString>("message");
+        const cTestRows<int, QString, QString, int, QString> row("row", "category", "amount", "saved", "message");
         const int refused = int(cEntryEditor::eSaved::Refused);
-        QTest::newRow("amount before category")
-            << 1 << QString() << u"13x"_s << int(cEntryEditor::eSaved::BadPart) << u""_s;
-        QTest::newRow("category") << 3 << QString() << u"-3"_s << refused << u"Bitte erst eine Kategorie wählen!"_s;
-        QTest::newRow("rest") << -1 << u"Haushalt; Pfand"_s << u"-1,50"_s << refused
-                              << u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von -1,50\u00A0€."_s;
+        row("amount before category", 1, {}, u"13x"_s, int(cEntryEditor::eSaved::BadPart), u""_s);
+        row("category", 3, {}, u"-3"_s, refused, u"Bitte erst eine Kategorie wählen!"_s);
+        row("rest", -1, u"Haushalt; Pfand"_s, u"-1,50"_s, refused,
+            u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von -1,50\u00A0€."_s);
     }
 
     void ChecksParts()

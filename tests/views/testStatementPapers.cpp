@@ -2,6 +2,7 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cReceipts.h"
@@ -61,22 +62,20 @@ class testStatementPapers final : public QObject
 private Q_SLOTS:
     void NamesTellTheMonth_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("day");
-
-        QTest::newRow("day") << u"Kontoauszug_31.03.2026.pdf"_s << u"2026-03-31"_s;
-        QTest::newRow("day backwards") << u"2026-03-31 Auszug.pdf"_s << u"2026-03-31"_s;
-        QTest::newRow("day without signs") << u"DE12_20260331120000.pdf"_s << QString(); // a time, and longer
-        QTest::newRow("day as digits") << u"Konto_4711-Auszug_20260331.pdf"_s << u"2026-03-31"_s;
-        QTest::newRow("day as digits, German") << u"Auszug 31032026.PDF"_s << u"2026-03-31"_s;
-        QTest::newRow("month") << u"Auszug_2026_03.pdf"_s << u"2026-03"_s;
-        QTest::newRow("month first") << u"Auszug 03-2026.pdf"_s << u"2026-03"_s;
-        QTest::newRow("word") << u"Kontoauszug Maerz 2026.pdf"_s << u"2026-03"_s;
-        QTest::newRow("part of a word") << u"E-Mail der Bank Mainz 2026.pdf"_s << QString();
-        QTest::newRow("number of a statement") << u"Auszug_2026_003.pdf"_s << QString();
-        QTest::newRow("short number of a statement") << u"Auszug_Nr. 11_2026.pdf"_s << QString();
-        QTest::newRow("number of an account") << u"4720260331.pdf"_s << QString();
-        QTest::newRow("no such day") << u"2026-02-31.pdf"_s << u"2026-02"_s;
+        const cTestRows<QString, QString> row("name", "day");
+        row("day", u"Kontoauszug_31.03.2026.pdf"_s, u"2026-03-31"_s);
+        row("day backwards", u"2026-03-31 Auszug.pdf"_s, u"2026-03-31"_s);
+        row("day without signs", u"DE12_20260331120000.pdf"_s, {}); // a time, and longer
+        row("day as digits", u"Konto_4711-Auszug_20260331.pdf"_s, u"2026-03-31"_s);
+        row("day as digits, German", u"Auszug 31032026.PDF"_s, u"2026-03-31"_s);
+        row("month", u"Auszug_2026_03.pdf"_s, u"2026-03"_s);
+        row("month first", u"Auszug 03-2026.pdf"_s, u"2026-03"_s);
+        row("word", u"Kontoauszug Maerz 2026.pdf"_s, u"2026-03"_s);
+        row("part of a word", u"E-Mail der Bank Mainz 2026.pdf"_s, {});
+        row("number of a statement", u"Auszug_2026_003.pdf"_s, {});
+        row("short number of a statement", u"Auszug_Nr. 11_2026.pdf"_s, {});
+        row("number of an account", u"4720260331.pdf"_s, {});
+        row("no such day", u"2026-02-31.pdf"_s, u"2026-02"_s);
     }
 
     void NamesTellTheMonth()

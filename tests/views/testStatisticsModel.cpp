@@ -2,6 +2,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/statistics/cStatisticsModel.h"
@@ -78,10 +79,9 @@ class testStatisticsModel final : public QObject
 private Q_SLOTS:
     void UnreadableBookIsSaid_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<bool>("isChartKnown");
-        QTest::newRow("entries") << u"data"_s << false;
-        QTest::newRow("categories, without which no limit is known") << u"template"_s << true;
+        const cTestRows<QString, bool> row("table", "isChartKnown");
+        row("entries", u"data"_s, false);
+        row("categories, without which no limit is known", u"template"_s, true);
     }
 
     void UnreadableBookIsSaid()
@@ -106,20 +106,15 @@ private Q_SLOTS:
 
     void LinksLead_data()
     {
-        QTest::addColumn<QString>("Link");
-        QTest::addColumn<QStringList>("Opened");
-        QTest::addColumn<QStringList>("Pages");
-        QTest::addColumn<bool>("ShowsEntries");
-
+        const cTestRows<QString, QStringList, QStringList, bool> row("Link", "Opened", "Pages", "ShowsEntries");
         const QStringList none;
-        QTest::newRow("category") << u"editcategory://Haushalt; Lebensmittel/"_s
-                                  << QStringList{u"Kategorien Haushalt; Lebensmittel"_s} << none << false;
-        QTest::newRow("page") << u"HTTP://www.example.org/a"_s << none << QStringList{u"HTTP://www.example.org/a"_s}
-                              << false;
-        QTest::newRow("entries, blanks as codes")
-            << u"SHOWENTRIES://Ausgaben|01.01.2026|31.12.2026|Alle%20Konten|Haushalt;%20Lebensmittel/"_s << none << none
-            << true;
-        QTest::newRow("something else") << u"file:///etc/passwd"_s << none << none << false;
+        row("category", u"editcategory://Haushalt; Lebensmittel/"_s, {u"Kategorien Haushalt; Lebensmittel"_s}, none,
+            false);
+        row("page", u"HTTP://www.example.org/a"_s, none, {u"HTTP://www.example.org/a"_s}, false);
+        row("entries, blanks as codes",
+            u"SHOWENTRIES://Ausgaben|01.01.2026|31.12.2026|Alle%20Konten|Haushalt;%20Lebensmittel/"_s, none, none,
+            true);
+        row("something else", u"file:///etc/passwd"_s, none, none, false);
     }
 
     void LinksLead()

@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cListLayout.h"
 #include "views/template/cTemplateFlow.h"
@@ -15,26 +16,17 @@ class testTemplateFlow final : public QObject
 private Q_SLOTS:
     void RenamesAnAccount_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("message");
+        const cTestRows<QString, int, QString, QString, QString> row("name", "answer", "account", "entry", "message");
         const QString old = u"Bargeld"_s;
-        QTest::newRow("yes moves the entries")
-            << u" Kasse "_s << int(eAnswer::Yes) << u"Kasse"_s << u"Kasse"_s << QString();
-        QTest::newRow("no leaves them") << u"Kasse"_s << int(eAnswer::No) << u"Kasse"_s << old << QString();
-        QTest::newRow("cancel changes nothing") << u"Kasse"_s << int(eAnswer::Cancel) << old << old << QString();
-        QTest::newRow("empty") << u"  "_s << int(eAnswer::Yes) << old << old
-                               << u"Der Kontoname darf nicht leer sein!"_s;
-        QTest::newRow("empty once cleaned")
-            << u"<>"_s << int(eAnswer::Yes) << old << old << u"Der Kontoname darf nicht leer sein!"_s;
-        QTest::newRow("taken in another letter case")
-            << u"sparkonto"_s << int(eAnswer::Yes) << old << old << u"Dieser Kontoname existiert bereits!"_s;
-        QTest::newRow("its own name in another letter case")
-            << u"BARGELD"_s << int(eAnswer::Yes) << u"BARGELD"_s << u"BARGELD"_s << QString();
-        QTest::newRow("taken") << u"Sparkonto"_s << int(eAnswer::Yes) << old << old
-                               << u"Dieser Kontoname existiert bereits!"_s;
+        row("yes moves the entries", u" Kasse "_s, int(eAnswer::Yes), u"Kasse"_s, u"Kasse"_s, {});
+        row("no leaves them", u"Kasse"_s, int(eAnswer::No), u"Kasse"_s, old, {});
+        row("cancel changes nothing", u"Kasse"_s, int(eAnswer::Cancel), old, old, {});
+        row("empty", u"  "_s, int(eAnswer::Yes), old, old, u"Der Kontoname darf nicht leer sein!"_s);
+        row("empty once cleaned", u"<>"_s, int(eAnswer::Yes), old, old, u"Der Kontoname darf nicht leer sein!"_s);
+        row("taken in another letter case", u"sparkonto"_s, int(eAnswer::Yes), old, old,
+            u"Dieser Kontoname existiert bereits!"_s);
+        row("its own name in another letter case", u"BARGELD"_s, int(eAnswer::Yes), u"BARGELD"_s, u"BARGELD"_s, {});
+        row("taken", u"Sparkonto"_s, int(eAnswer::Yes), old, old, u"Dieser Kontoname existiert bereits!"_s);
     }
 
     void RenamesAnAccount()
@@ -129,17 +121,16 @@ private Q_SLOTS:
 
     void ReadsOnlyWholeLayouts_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("isRead");
-        QTest::newRow("whole") << u"1,80,1|0,0,0|sort,1,1"_s << true;
-        QTest::newRow("without sorting") << u"0,80,1|1,90,1"_s << true;
-        QTest::newRow("empty") << QString() << false;
-        QTest::newRow("a column that came later is hidden") << u"0,80,1"_s << true;
-        QTest::newRow("a column is missing") << u"1,80,1"_s << false;
-        QTest::newRow("a column twice") << u"0,80,1|0,80,1"_s << false;
-        QTest::newRow("an unknown column") << u"0,80,1|7,80,1"_s << false;
-        QTest::newRow("everything hidden") << u"0,80,0|1,80,0"_s << false;
-        QTest::newRow("no numbers") << u"a,b,c|1,80,1"_s << false;
+        const cTestRows<QString, bool> row("text", "isRead");
+        row("whole", u"1,80,1|0,0,0|sort,1,1"_s, true);
+        row("without sorting", u"0,80,1|1,90,1"_s, true);
+        row("empty", {}, false);
+        row("a column that came later is hidden", u"0,80,1"_s, true);
+        row("a column is missing", u"1,80,1"_s, false);
+        row("a column twice", u"0,80,1|0,80,1"_s, false);
+        row("an unknown column", u"0,80,1|7,80,1"_s, false);
+        row("everything hidden", u"0,80,0|1,80,0"_s, false);
+        row("no numbers", u"a,b,c|1,80,1"_s, false);
     }
 
     void ReadsOnlyWholeLayouts()

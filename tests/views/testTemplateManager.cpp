@@ -1,6 +1,7 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "views/look/cCategoryLooks.h"
 
 #include <QSignalSpy>
@@ -52,14 +53,11 @@ private Q_SLOTS:
 
     void DeletesACategory_data()
     {
-        QTest::addColumn<int>("way");
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<bool>("isDeleted");
-        QTest::addColumn<QString>("category");
-        QTest::newRow("entries go along") << 0 << drinks << true << drinks;
-        QTest::newRow("entries stay") << 1 << QString() << true << food;
-        QTest::newRow("given up") << -1 << QString() << false << food;
-        QTest::newRow("no target chosen") << 0 << QString() << false << food;
+        const cTestRows<int, QString, bool, QString> row("way", "target", "isDeleted", "category");
+        row("entries go along", 0, drinks, true, drinks);
+        row("entries stay", 1, {}, true, food);
+        row("given up", -1, {}, false, food);
+        row("no target chosen", 0, {}, false, food);
     }
 
     void DeletesACategory()
@@ -105,15 +103,15 @@ private Q_SLOTS:
 
     void KeepsTheCategoryOfStartBalances_data()
     {
-        QTest::addColumn<int>("action");
-        QTest::newRow("delete") << 0;
-        QTest::newRow("delete its main category") << 1;
-        QTest::newRow("rename") << 2;
-        QTest::newRow("rename its main category") << 3;
-        QTest::newRow("merge into another") << 4;
-        QTest::newRow("merge another into it") << 5;
-        QTest::newRow("merge its main category") << 6;
-        QTest::newRow("move to another main category") << 7;
+        const cTestRows<int> row("action");
+        row("delete", 0);
+        row("delete its main category", 1);
+        row("rename", 2);
+        row("rename its main category", 3);
+        row("merge into another", 4);
+        row("merge another into it", 5);
+        row("merge its main category", 6);
+        row("move to another main category", 7);
     }
 
     void KeepsTheCategoryOfStartBalances()
@@ -173,20 +171,16 @@ private Q_SLOTS:
 
     void LooksGoWithTheirMainCategory_data()
     {
-        QTest::addColumn<QString>("from");
-        QTest::addColumn<QString>("to"); // merged into it where it exists; empty: deleted
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("look"); // of that one
-        QTest::newRow("renamed") << u"Urlaub"_s << u"Reisen"_s << u"Reisen"_s << u"#112233 reise"_s;
-        QTest::newRow("renamed in letter case") << u"Urlaub"_s << u"URLAUB"_s << u"URLAUB"_s << u"#112233 reise"_s;
-        QTest::newRow("its only sub-category moves")
-            << u"Urlaub; See"_s << u"Ferien; See"_s << u"Ferien"_s << u"#112233 reise"_s;
-        QTest::newRow("one of several moves") << u"Freizeit; Kino"_s << u"Kultur; Kino"_s << u"Kultur"_s << u" "_s;
-        QTest::newRow("a sub-category is renamed")
-            << u"Urlaub; See"_s << u"Urlaub; Meer"_s << u"Urlaub"_s << u"#112233 reise"_s;
-        QTest::newRow("merged into one without") << u"Urlaub"_s << u"Haushalt"_s << u"Haushalt"_s << u"#112233 reise"_s;
-        QTest::newRow("merged into one with its own") << u"Urlaub"_s << u"Freizeit"_s << u"Freizeit"_s << u"#445566 "_s;
-        QTest::newRow("deleted") << u"Urlaub"_s << QString() << u"Urlaub"_s << u" "_s;
+        // to: merged into it where it exists; empty: deleted; look: of that one
+        const cTestRows<QString, QString, QString, QString> row("from", "to", "shown", "look");
+        row("renamed", u"Urlaub"_s, u"Reisen"_s, u"Reisen"_s, u"#112233 reise"_s);
+        row("renamed in letter case", u"Urlaub"_s, u"URLAUB"_s, u"URLAUB"_s, u"#112233 reise"_s);
+        row("its only sub-category moves", u"Urlaub; See"_s, u"Ferien; See"_s, u"Ferien"_s, u"#112233 reise"_s);
+        row("one of several moves", u"Freizeit; Kino"_s, u"Kultur; Kino"_s, u"Kultur"_s, u" "_s);
+        row("a sub-category is renamed", u"Urlaub; See"_s, u"Urlaub; Meer"_s, u"Urlaub"_s, u"#112233 reise"_s);
+        row("merged into one without", u"Urlaub"_s, u"Haushalt"_s, u"Haushalt"_s, u"#112233 reise"_s);
+        row("merged into one with its own", u"Urlaub"_s, u"Freizeit"_s, u"Freizeit"_s, u"#445566 "_s);
+        row("deleted", u"Urlaub"_s, {}, u"Urlaub"_s, u" "_s);
     }
 
     void LooksGoWithTheirMainCategory()
@@ -287,20 +281,13 @@ private Q_SLOTS:
 
     void RefusesFields_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("taken") << food << u"getränke"_s << u""_s
-                               << u"Die Kategorie 'Haushalt; getränke' existiert bereits!"_s;
-        QTest::newRow("without name") << food << u" ; "_s << u""_s << u"Der Name der Kategorie darf nicht leer sein!"_s;
-        QTest::newRow("no amount") << food << u"Essen"_s << u"viel"_s << u"'viel' ist kein Betrag."_s;
-        QTest::newRow("main taken") << u"Haushalt"_s << u"Auto"_s << u""_s
-                                    << u"Die Hauptkategorie 'Auto' existiert bereits!"_s;
-        QTest::newRow("main without name")
-            << u"Haushalt"_s << u""_s << u""_s << u"Der Name der Kategorie darf nicht leer sein!"_s;
-        QTest::newRow("account taken") << u"Bargeld"_s << u"Sparkonto"_s << u"10"_s
-                                       << u"Dieser Kontoname existiert bereits!"_s;
+        const cTestRows<QString, QString, QString, QString> row("path", "name", "amount", "message");
+        row("taken", food, u"getränke"_s, u""_s, u"Die Kategorie 'Haushalt; getränke' existiert bereits!"_s);
+        row("without name", food, u" ; "_s, u""_s, u"Der Name der Kategorie darf nicht leer sein!"_s);
+        row("no amount", food, u"Essen"_s, u"viel"_s, u"'viel' ist kein Betrag."_s);
+        row("main taken", u"Haushalt"_s, u"Auto"_s, u""_s, u"Die Hauptkategorie 'Auto' existiert bereits!"_s);
+        row("main without name", u"Haushalt"_s, u""_s, u""_s, u"Der Name der Kategorie darf nicht leer sein!"_s);
+        row("account taken", u"Bargeld"_s, u"Sparkonto"_s, u"10"_s, u"Dieser Kontoname existiert bereits!"_s);
     }
 
     void RefusesFields()

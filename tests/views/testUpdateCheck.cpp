@@ -3,6 +3,7 @@
 #include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "views/help/cUpdateCheck.h"
@@ -68,12 +69,9 @@ private Q_SLOTS:
 
     void AnswersThatAreNoNews_data() const
     {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<bool>("isUnderstood");
-        const auto good = [](const char* name, const QByteArray& releases) {
-            QTest::newRow(name) << All(releases) << true;
-        };
-        const auto bad = [](const char* name, const QByteArray& answer) { QTest::newRow(name) << answer << false; };
+        const cTestRows<QByteArray, bool> row("answer", "isUnderstood");
+        const auto good = [&](const char* name, const QByteArray& releases) { row(name, All(releases), true); };
+        const auto bad = [&](const char* name, const QByteArray& answer) { row(name, answer, false); };
         good("nothing", {});
         good("the same version", Release("0.1.0", File()));
         good("the same with one number less", Release("0.1", File()));
@@ -115,23 +113,18 @@ private Q_SLOTS:
 
     void SaysWhyNothingCame_data() const
     {
-        QTest::addColumn<eHttpsFault>("fault");
-        QTest::addColumn<QString>("headline");
-        QTest::newRow("offline")
-            << eHttpsFault::NotReachable
-            << u"maker.example ist nicht zu erreichen. Prüfen Sie Ihre Verbindung zum Internet und "
-               "versuchen Sie es noch einmal."_s;
-        QTest::newRow("certificate")
-            << eHttpsFault::Certificate
-            << u"Das Zertifikat von maker.example ist nicht in Ordnung. Es wurde nichts gesendet. "
-               "Prüfen Sie Datum und Uhrzeit Ihres Rechners und versuchen Sie es in einem anderen "
-               "Netz noch einmal."_s;
-        QTest::newRow("silent") << eHttpsFault::Silent
-                                << u"maker.example antwortet nicht. Versuchen Sie es später noch einmal."_s;
-        QTest::newRow("refused")
-            << eHttpsFault::Refused
-            << u"maker.example gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s;
-        QTest::newRow("cancelled") << eHttpsFault::Cancelled << u"Abgebrochen."_s;
+        const cTestRows<eHttpsFault, QString> row("fault", "headline");
+        row("offline", eHttpsFault::NotReachable,
+            u"maker.example ist nicht zu erreichen. Prüfen Sie Ihre Verbindung zum Internet und "
+            "versuchen Sie es noch einmal."_s);
+        row("certificate", eHttpsFault::Certificate,
+            u"Das Zertifikat von maker.example ist nicht in Ordnung. Es wurde nichts gesendet. "
+            "Prüfen Sie Datum und Uhrzeit Ihres Rechners und versuchen Sie es in einem anderen "
+            "Netz noch einmal."_s);
+        row("silent", eHttpsFault::Silent, u"maker.example antwortet nicht. Versuchen Sie es später noch einmal."_s);
+        row("refused", eHttpsFault::Refused,
+            u"maker.example gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s);
+        row("cancelled", eHttpsFault::Cancelled, u"Abgebrochen."_s);
     }
 
     void SaysWhyNothingCame() const
@@ -150,9 +143,7 @@ private Q_SLOTS:
 
     void WritesOnlyWhatWasAnnounced_data() const
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("told");
+        const cTestRows<QByteArray, QByteArray, QString> row("file", "bytes", "told");
         const auto wrong = [](const QString& fault) {
             return QString(
                 u"Die heruntergeladene Datei ist nicht die angekündigte: "_s + fault
@@ -161,15 +152,12 @@ private Q_SLOTS:
         };
         const QByteArray none(32, '0');
         const qsizetype size = Package.size();
-        QTest::newRow("right") << File() << Package << QString();
-        QTest::newRow("shorter") << File() << Package.chopped(1)
-                                 << wrong(u"sie ist %1 Bytes groß statt %2"_s.arg(size - 1).arg(size));
-        QTest::newRow("longer") << File() << QByteArray(Package + "x")
-                                << u"maker.example sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s;
-        QTest::newRow("other bytes") << File() << QByteArray(size, 'x')
-                                     << wrong(u"ihre Prüfsumme (SHA-256) ist eine andere"_s);
-        QTest::newRow("other MD5") << File("a.deb", size, none) << Package
-                                   << wrong(u"ihre Prüfsumme (MD5) ist eine andere"_s);
+        row("right", File(), Package, {});
+        row("shorter", File(), Package.chopped(1), wrong(u"sie ist %1 Bytes groß statt %2"_s.arg(size - 1).arg(size)));
+        row("longer", File(), QByteArray(Package + "x"),
+            u"maker.example sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s);
+        row("other bytes", File(), QByteArray(size, 'x'), wrong(u"ihre Prüfsumme (SHA-256) ist eine andere"_s));
+        row("other MD5", File("a.deb", size, none), Package, wrong(u"ihre Prüfsumme (MD5) ist eine andere"_s));
     }
 
     void WritesOnlyWhatWasAnnounced() const
@@ -216,12 +204,11 @@ private Q_SLOTS:
 
     void FileNamesAreHarmless_data() const
     {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("usual") << u"pakete/kontorelle_0.3.0-1_amd64.deb"_s << u"kontorelle_0.3.0-1_amd64.deb"_s;
-        QTest::newRow("encoded folder") << u"a/..%2F..%2F.bashrc"_s << u"bashrc"_s;
-        QTest::newRow("option") << u"a/--x $(y).deb"_s << u"xy.deb"_s;
-        QTest::newRow("none") << u"a/?datei=1"_s << u"kontorelle-0.3.0"_s;
+        const cTestRows<QString, QString> row("address", "name");
+        row("usual", u"pakete/kontorelle_0.3.0-1_amd64.deb"_s, u"kontorelle_0.3.0-1_amd64.deb"_s);
+        row("encoded folder", u"a/..%2F..%2F.bashrc"_s, u"bashrc"_s);
+        row("option", u"a/--x $(y).deb"_s, u"xy.deb"_s);
+        row("none", u"a/?datei=1"_s, u"kontorelle-0.3.0"_s);
     }
 
     void FileNamesAreHarmless() const
