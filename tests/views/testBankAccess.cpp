@@ -232,9 +232,7 @@ private Q_SLOTS:
         QVERIFY(access.Choose(state, state.Accounts));
         {
             const cUndoStep step(book.Data, u"Umsätze abgerufen"_s);
-            cImportEntry row;
-            row.ImportDate = QDate(2026, 3, 1);
-            QVERIFY(book.Data.AddNewImportEntry(row));
+            book.Stage({}, QDate(2026, 3, 1), 0);
             QVERIFY(access.SetLastFetch(state, state.Accounts[0], QDate(2026, 3, 15)));
         }
         state.SystemId = "neu";

@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/bank/cApprovalWait.h"
@@ -49,15 +50,13 @@ private Q_SLOTS:
         QFETCH(bool, isNumber);
         QFETCH(int, most);
         QFETCH(QString, typed);
-        QFETCH(QString, kept);
-        QFETCH(bool, fits);
         cTanQuestion question;
         question.IsNumber = isNumber;
         question.MostCharacters = most;
         int cursor = static_cast<int>(typed.indexOf(u'|'));
         typed.remove(u'|');
-        QCOMPARE(modBankQuestion::Fit(question, typed, cursor), fits);
-        QCOMPARE(typed.insert(cursor, u'|'), kept);
+        QTEST(modBankQuestion::Fit(question, typed, cursor), "fits");
+        QTEST(typed.insert(cursor, u'|'), "kept");
     }
 
     void WordsCannotSteerWhereTheyAreShown()
@@ -150,7 +149,6 @@ private Q_SLOTS:
         QFETCH(bool, isAutomatic);
         QFETCH(bool, hasButton);
         QFETCH(bool, isPressed);
-        QFETCH(bool, isAsked);
         cFakeClock clock;
         cApprovalWait wait(clock);
         for (int round = 0; round < 2; ++round) { // what was pressed in one does not count in the next
@@ -164,7 +162,7 @@ private Q_SLOTS:
             clock.Time = clock.Time.addMSecs(4999);
             QVERIFY(!wait.IsDue());
             clock.Time = clock.Time.addMSecs(1);
-            QCOMPARE(wait.IsDue(), isAsked);
+            QTEST(wait.IsDue(), "isAsked");
         }
         clock.Time = clock.Time.addSecs(-3600);
         QVERIFY(!wait.IsDue());
@@ -198,9 +196,7 @@ private Q_SLOTS:
         QCOMPARE(book.User.LastProposal, u"Bankprotokoll 2026-03-15.txt"_s);
         QCOMPARE(book.Shell.Mails.size(), 1);
         for (const QString& path : {book.User.SavePath, book.Shell.Mails.first().Attachment}) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QCOMPARE(file.readAll(), QByteArray("Konto PPPP"));
+            QCOMPARE(cTestFile::Bytes(path), QByteArray("Konto PPPP"));
         }
     }
 

@@ -272,16 +272,12 @@ private Q_SLOTS:
         cChartBook book;
         QCOMPARE(book.Make({.Kind = eChartKind::Limits, .Range = year}).EmptyText(),
                  u"Keine Kategorie hat ein Limit."_s);
-        cTemplateItem item;
-        item.TemplateType = modWord::Kategorie;
-        item.EntryType = modWord::Ausgabe;
-        item.TemplateCategory = u"Haushalt"_s;
-        item.TemplateName = u"Waschen"_s;
-        item.TemplateDefaultValue = u"200.00"_s;
-        QVERIFY(book.Book.Data.AddNewTemplate(item));
-        item.TemplateName = u"Putzen"_s;
-        item.TemplateDefaultValue.clear();
-        QVERIFY(book.Book.Data.AddNewTemplate(item));
+        for (const auto& [name, limit] : {std::pair(u"Waschen"_s, u"200.00"_s), std::pair(u"Putzen"_s, QString())}) {
+            book.Book.AddCategory(u"Haushalt; "_s + name, [&limit = limit](cTemplateItem& item) {
+                item.EntryType = modWord::Ausgabe;
+                item.TemplateDefaultValue = limit;
+            });
+        }
         book.Book.Settings->Set(modSettingKey::Budget.Of(u"Haushalt; Putzen"_s), u"2026=,,27.50"_s); // March alone
         book.Add(modWord::Ausgabe, QDate(2026, 2, 3), u"Haushalt; Waschen"_s, 30000);
         book.Add(modWord::Einnahme, QDate(2026, 2, 4), u"Haushalt; Waschen"_s, 2500);
@@ -295,15 +291,8 @@ private Q_SLOTS:
     void LaysTagsBeside()
     {
         cChartBook book;
-        const auto add = [&](QDate day, const QString& text, qint64 cents) {
-            (void)book.Book.Add([&](cEntryItem& entry) {
-                entry.EntryDate = day;
-                entry.EntryDescription = text;
-                entry.EntryValue = cents;
-            });
-        };
-        add(QDate(2026, 1, 10), u"Hotel #urlaub"_s, 700);
-        add(QDate(2025, 1, 10), u"Zelt #Urlaub #wald"_s, 300);
+        book.Book.Spend(QDate(2026, 1, 10), 700, u"Hotel #urlaub"_s);
+        book.Book.Spend(QDate(2025, 1, 10), 300, u"Zelt #Urlaub #wald"_s);
         const cChartData chart =
             book.Make({.Kind = eChartKind::Tags, .Range = year, .Second = cChartWish::YearBefore(year)});
         QCOMPARE(chart.Labels, QStringList{u"#urlaub"_s});
@@ -350,9 +339,7 @@ private Q_SLOTS:
         QVERIFY(!save.Run(chart, today)); // given up
         QCOMPARE(book.User.LastProposal, u"Kontorelle-Ausgaben-Auto-Bahn-2026-03-15"_s);
         QVERIFY(save.Write({}, path));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("png"));
+        QCOMPARE(cTestFile::Bytes(path), QByteArray("png"));
         QVERIFY(!save.Write({}, folder.filePath(u"bild.bmp"_s)));
         QVERIFY(!save.Write({}, folder.filePath(u"fehlt/bild.png"_s)));
         QCOMPARE(book.User.Shown.size(), 3); // also that it is done

@@ -12,14 +12,11 @@ namespace {
 void AddCategory(cTestBook& book, const QString& path, const QString& type = {}, const QString& interval = {},
                  const QString& remark = {})
 {
-    cTemplateItem item;
-    item.TemplateType = modWord::Kategorie;
-    item.TemplateCategory = modTemplate::MainOf(path);
-    item.TemplateName = modTemplate::SubOf(path);
-    item.TemplateComment = remark;
-    item.EntryType = type;
-    item.EntryInterval = interval;
-    QVERIFY(book.Data.AddNewTemplate(item));
+    book.AddCategory(path, [&](cTemplateItem& item) {
+        item.TemplateComment = remark;
+        item.EntryType = type;
+        item.EntryInterval = interval;
+    });
 }
 
 void RemoveCategories(cTestBook& book)

@@ -29,10 +29,7 @@ void Fill(cTestBook& book)
 void FillSeries(cTestBook& book)
 {
     for (const QString& name : {u"Miete"_s, u"Strom"_s}) {
-        (void)book.Add([&](cEntryItem& entry) {
-            entry.EntryInterval = u"Monatlich"_s;
-            entry.EntryDescription = name;
-        });
+        book.Spend(QDate(2026, 3, 10), 1000, name, u"Monatlich"_s);
     }
     (void)book.Add([](cEntryItem&) {});
 }
@@ -77,7 +74,6 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, ids);
         QFETCH(int, choice);
-        QFETCH(QStringList, options);
         cTestBook book;
         Fill(book);
         cEntryDelete flow(book.Tools);
@@ -85,7 +81,7 @@ private Q_SLOTS:
         book.User.Answers = {eAnswer::Yes};
         QCOMPARE(flow.Delete(ids), choice >= 0);
         QCOMPARE(book.User.Asked.size(), 1);
-        QCOMPARE(book.User.LastDecision.Options, options);
+        QTEST(book.User.LastDecision.Options, "options");
         QStringList left;
         for (int id = 1; id <= 4; ++id) {
             if (const std::optional<cEntryItem> entry = book.Data.LoadEntry(id)) {
@@ -99,11 +95,7 @@ private Q_SLOTS:
     {
         cTestBook book;
         Fill(book);
-        const int series = book.Add([](cEntryItem& entry) {
-                                   entry.EntryInterval = u"Monatlich"_s;
-                                   entry.EntryDescription = u"Miete"_s;
-                               })
-                               .ID;
+        const int series = book.Spend(QDate(2026, 3, 10), 1000, u"Miete"_s, u"Monatlich"_s).ID;
         cEntryDelete flow(book.Tools);
         QVERIFY(!flow.Delete(QList<int>{3}));
         QVERIFY(!flow.Delete(QList<int>{series}));
@@ -208,12 +200,7 @@ private Q_SLOTS:
         cTestBook book;
         FillSeries(book);
         for (const int month : {3, 4}) {
-            cImportEntry row;
-            row.ImportDate = QDate(2026, month, 9);
-            row.ImportValue = -100000;
-            row.ImportAssigned = true;
-            row.ImportAssignedEntry = 1;
-            QVERIFY(book.Data.AddNewImportEntry(row));
+            book.Stage({}, QDate(2026, month, 9), -100000, {}, 1);
         }
         book.User.Answers = {eAnswer::Yes};
         QVERIFY(cEntryDelete(book.Tools).Delete({1, QDate(2026, 4, 10)}, eSeriesPart::FromHere));

@@ -96,10 +96,8 @@ private Q_SLOTS:
         cTestBook book;
         cEntryDrafts drafts(book.Shell.StateFolder(), book.Path());
         QVERIFY(drafts.Keep(DraftAt(1)));
-        QFile file(QDir(book.Shell.StateFolder()).entryInfoList(QDir::Files)[0].filePath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[{\"Kept\": 5, \"Fields\": []}, 1, {");
-        file.close();
+        cTestFile::Write(QDir(book.Shell.StateFolder()).entryInfoList(QDir::Files)[0].filePath(),
+                         "[{\"Kept\": 5, \"Fields\": []}, 1, {");
         QCOMPARE(drafts.All().size(), 0);
         QVERIFY(drafts.Keep(DraftAt(2)));
         QCOMPARE(drafts.All().size(), 1);
@@ -130,10 +128,9 @@ private Q_SLOTS:
     void AsksWhatToDo() const
     {
         QFETCH(int, option);
-        QFETCH(cEntryDrafts::eWish, wish);
         cFakeUser user;
         user.Decisions = {option};
-        QCOMPARE(cEntryDrafts::Ask(DraftAt(5), user), wish);
+        QTEST(cEntryDrafts::Ask(DraftAt(5), user), "wish");
         QVERIFY(
             user.Asked[0].startsWith(u"Ein nicht gespeicherter Eintrag vom 15.03.2026, 12:05 Uhr wurde aufgehoben:\n"
                                      "12,50+3 - Haushalt; Drogerie - Pfand\nWiederherstellen?"_s));

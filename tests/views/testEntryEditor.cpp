@@ -128,16 +128,13 @@ private Q_SLOTS:
     void CategoryFillsOnlyWhatIsOpen()
     {
         cTestBook book;
-        cTemplateItem rent;
-        rent.TemplateType = modWord::Kategorie;
-        rent.TemplateCategory = u"Test"_s;
-        rent.TemplateName = u"Pacht"_s;
-        rent.EntryType = modWord::Ausgabe;
-        rent.EntryInterval = u"Jährlich"_s;
-        QVERIFY(book.Data.AddNewTemplate(rent));
-        rent.TemplateName = u"Sonstiges"_s;
-        rent.EntryType = modWord::AlleBuchungsarten; // a filter word that old files carry
-        QVERIFY(book.Data.AddNewTemplate(rent));
+        book.AddCategory(u"Test; Pacht"_s, [](cTemplateItem& item) {
+            item.EntryType = modWord::Ausgabe;
+            item.EntryInterval = u"Jährlich"_s;
+        });
+        book.AddCategory(u"Test; Sonstiges"_s, [](cTemplateItem& item) {
+            item.EntryType = modWord::AlleBuchungsarten; // a filter word that old files carry
+        });
 
         const cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields;
@@ -156,7 +153,7 @@ private Q_SLOTS:
 
     void OtherPeriodCostsCorrections_data()
     {
-        const cTestRows<bool, int, int, QString> row("changesDate", "answer", "corrections", "description");
+        const cTestRows<bool, int, qsizetype, QString> row("changesDate", "answer", "corrections", "description");
         row("other text asks nothing", false, int(eAnswer::Cancel), 1, u"neu"_s);
         row("no saves nothing", true, int(eAnswer::No), 1, {});
         row("yes drops the corrections", true, int(eAnswer::Yes), 0, u"neu"_s);
@@ -166,15 +163,10 @@ private Q_SLOTS:
     {
         QFETCH(bool, changesDate);
         QFETCH(int, answer);
-        QFETCH(int, corrections);
         QFETCH(QString, description);
         cTestBook book;
         const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
-        cEntryItemFixMod fixMod;
-        fixMod.EntryRelation = series.ID;
-        fixMod.EntryModType = modWord::Betrag;
-        fixMod.EntryStartDate = QDate(2026, 4, 1);
-        QVERIFY(book.Data.AddNewEntryMod(fixMod));
+        book.Correct(series.ID, QDate(2026, 4, 1), {}, 0);
 
         cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields = editor.Load(series.ID).value();
@@ -183,7 +175,7 @@ private Q_SLOTS:
         book.User.Answers = {static_cast<eAnswer>(answer)};
         const bool isSaved = editor.Save(fields) == cEntryEditor::eSaved::Saved;
         QCOMPARE(isSaved, !description.isEmpty());
-        QCOMPARE(book.Data.GetEntryMods(series.ID).size(), corrections);
+        QTEST(book.Data.GetEntryMods(series.ID).size(), "corrections");
         QCOMPARE(book.Data.LoadEntry(series.ID)->EntryDescription, description);
         QCOMPARE(book.User.Asked.size(), changesDate ? 1 : 0);
     }
@@ -202,31 +194,25 @@ private Q_SLOTS:
         QFETCH(QString, interval);
         QFETCH(bool, isTyped);
         cTestBook book;
-        cTemplateItem rent;
-        rent.TemplateType = modWord::Kategorie;
-        rent.TemplateName = u"Pacht"_s;
-        rent.EntryInterval = interval;
-        rent.TemplateDefaultValue = u"850.00"_s;
-        QVERIFY(book.Data.AddNewTemplate(rent));
+        const QString rent = book.AddCategory(u"Pacht"_s, [&](cTemplateItem& item) {
+            item.EntryInterval = interval;
+            item.TemplateDefaultValue = u"850.00"_s;
+        });
         const cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields;
         fields.Amount = u"7"_s;
         fields.IsAmountTyped = isTyped;
-        editor.ChooseCategory(modTemplate::Path(rent), fields);
+        editor.ChooseCategory(rent, fields);
         QTEST(fields.Amount, "amount");
     }
 
     void SaysTheVatInTheAmount()
     {
         cTestBook book;
-        cTemplateItem repair;
-        repair.TemplateType = modWord::Kategorie;
-        repair.TemplateName = u"Reparatur"_s;
-        repair.TemplateVAT = u"19"_s;
-        QVERIFY(book.Data.AddNewTemplate(repair));
+
         const cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields;
-        fields.Category = modTemplate::Path(repair);
+        fields.Category = book.AddCategory(u"Reparatur"_s, [](cTemplateItem& item) { item.TemplateVAT = u"19"_s; });
         fields.Amount = u"100"_s;
         QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
         fields.Type = modWord::Umbuchung;
@@ -247,7 +233,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, day);
         QFETCH(QString, end);
-        QFETCH(int, saved);
         cTestBook book;
         cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields = Fields();
@@ -256,7 +241,7 @@ private Q_SLOTS:
         fields.DateText = day;
         fields.HasEnd = true;
         fields.EndText = end;
-        QCOMPARE(int(editor.Save(fields)), saved);
+        QTEST(int(editor.Save(fields)), "saved");
         const std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
         QTEST(entry ? entry->EntryDate : QDate(), "stored");
     }

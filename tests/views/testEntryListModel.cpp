@@ -97,12 +97,11 @@ private Q_SLOTS:
     {
         QFETCH(int, column);
         QFETCH(int, order);
-        QFETCH(QStringList, amounts);
         const cTestFormat format;
         cEntryListModel model(format.Format);
         model.SetContent(Content(), {}, modWord::KeineGruppierung);
         model.sort(column, static_cast<Qt::SortOrder>(order));
-        QCOMPARE(Rows(model), amounts);
+        QTEST(Rows(model), "amounts");
     }
 
     void Groups_data()
@@ -131,11 +130,10 @@ private Q_SLOTS:
     void Groups()
     {
         QFETCH(QString, grouping);
-        QFETCH(QStringList, groups);
         const cTestFormat format;
         cEntryListModel model(format.Format);
         model.SetContent(Content(), {}, grouping);
-        QCOMPARE(Rows(model), groups);
+        QTEST(Rows(model), "groups");
     }
 
     void Finds_data()

@@ -1,5 +1,6 @@
 #include "core/cErrorLog.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/help/cErrorLogView.h"
@@ -30,12 +31,6 @@ struct cLogScene
     cFakeClock Clock;
     cErrorLog Log{{Shell.StateFolder(), u"kontorelle"_s, u"0.1.0"_s}, Clock};
 };
-
-QString Read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 } // namespace
 
@@ -78,7 +73,7 @@ private Q_SLOTS:
         cErrorLogView view = scene.View();
         view.Send();
         QCOMPARE(scene.Shell.Mails.size(), 1);
-        const QString text = Read(scene.Shell.Mails[0].Attachment);
+        const QString text = QString::fromUtf8(cTestFile::Bytes(scene.Shell.Mails[0].Attachment));
         QVERIFY(text.startsWith(u"Kontorelle 0.1.0\n"_s));
         QVERIFY(text.contains(u"Der Name ist zu lang."_s));
         QVERIFY(scene.User.Shown.value(0).contains(scene.Shell.Mails[0].Attachment));
@@ -89,7 +84,7 @@ private Q_SLOTS:
 
         scene.User.SavePath = scene.Shell.Folder(u"Ablage"_s) + u"/Protokoll.txt"_s;
         view.Save();
-        QCOMPARE(Read(scene.User.SavePath), text);
+        QCOMPARE(cTestFile::Bytes(scene.User.SavePath), text.toUtf8());
     }
 
     void BrokenRunOffersWhatThereIs()

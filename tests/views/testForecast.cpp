@@ -19,12 +19,7 @@ struct cHousehold
     cHousehold()
     {
         Prepare(Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 1)));
-        Rent = Book.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 3, 20);
-            entry.EntryInterval = u"Monatlich"_s;
-            entry.EntryValue = 30000;
-            entry.EntryDescription = u"Miete"_s;
-        });
+        Rent = Book.Spend(QDate(2026, 3, 20), 30000, u"Miete"_s, u"Monatlich"_s);
     }
 
     static void Prepare(bool isDone)
@@ -39,17 +34,6 @@ struct cHousehold
         cTemplateItem item = *Book.Data.FindAccount(account);
         item.TemplateDefaultValue = amount;
         Prepare(Book.Data.ChangeTemplate(item));
-    }
-
-    void Correct(QDate start, QDate end, qint64 cents)
-    {
-        cEntryItemFixMod fixMod;
-        fixMod.EntryRelation = Rent.ID;
-        fixMod.EntryModType = modWord::Betrag;
-        fixMod.EntryStartDate = start;
-        fixMod.EntryEndDate = end;
-        fixMod.EntryValue = cents;
-        Prepare(Book.Data.AddNewEntryMod(fixMod));
     }
 
     QList<cLimitWarning> Warnings() { return cForecast(Book.Data, today).Warnings(); }
@@ -78,7 +62,7 @@ private Q_SLOTS:
     void Foresees()
     {
         cHousehold household;
-        household.Correct(QDate(2026, 4, 1), QDate(2026, 4, 30), 45000); // the rent of April
+        household.Book.Correct(household.Rent.ID, QDate(2026, 4, 1), QDate(2026, 4, 30), 45000); // the rent of April
         (void)household.Book.Add([](cEntryItem& entry) {
             entry.EntryDate = QDate(2026, 2, 1);
             entry.EntryDateEnd = QDate(2026, 4, 10);
@@ -109,10 +93,7 @@ private Q_SLOTS:
     {
         cHousehold household;
         for (const int day : {1, 8}) {
-            (void)household.Book.Add([day](cEntryItem& entry) {
-                entry.EntryDate = QDate(2026, 2, day);
-                entry.EntryValue = 21500; // 430 euros in the 43 days from 1 February on
-            });
+            household.Book.Spend(QDate(2026, 2, day), 21500); // 430 euros in the 43 days from 1 February on
         }
         cForecast forecast(household.Book.Data, today);
         const cBalanceDays without = forecast.Ahead(1, cForecast::eAverage::Without);
@@ -154,17 +135,13 @@ private Q_SLOTS:
     {
         cHousehold household;
         household.SetLimit(u"Girokonto"_s, u"500.00"_s);
-        const auto add = [&](const QString& type, qint64 cents, const QString& text) {
-            (void)household.Book.Add([&](cEntryItem& entry) {
-                entry.EntryDate = QDate(2026, 3, 20);
-                entry.EntryType = type;
-                entry.EntryValue = cents;
-                entry.EntryDescription = text;
-            });
-        };
-        add(modWord::Ausgabe, 10000, u"Strom"_s);
-        add(modWord::Ausgabe, 20000, u"Werkstatt"_s);
-        add(modWord::Einnahme, 9000, u"Erstattung"_s);
+        household.Book.Spend(QDate(2026, 3, 20), 10000, u"Strom"_s);
+        household.Book.Spend(QDate(2026, 3, 20), 20000, u"Werkstatt"_s);
+        household.Book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 3, 20);
+            entry.EntryType = modWord::Einnahme;
+            entry.EntryValue = 9000;
+        });
         const QList<cLimitWarning> warnings = household.Warnings();
         QCOMPARE(warnings.size(), 1);
         QCOMPARE(warnings.first().Cents, 49000);

@@ -32,27 +32,14 @@ struct cPage : cTestBook
 
     int Stage(double value, const QString& name, const QString& number = u"1234567"_s)
     {
-        cImportEntry row;
-        row.ImportAccount = number;
-        row.ImportDate = day;
-        row.ImportBeneficiary = name;
-        row.ImportValue = modAmount::ToCents(value);
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
+        const int id = cTestBook::Stage(number, day, modAmount::ToCents(value), name).ID;
         Review.Refresh();
-        return row.ID;
+        return id;
     }
 
     int Spend(qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
     {
-        return Add([&](cEntryItem& entry) {
-                   entry.EntryDate = day;
-                   entry.EntryValue = cents;
-                   entry.EntryDescription = text;
-                   entry.EntryInterval = interval;
-               })
-            .ID;
+        return cTestBook::Spend(day, cents, text, interval).ID;
     }
 
     // The IDs of the entries that the rows belong to, -1 for an open one.

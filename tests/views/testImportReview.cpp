@@ -11,9 +11,7 @@
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -197,14 +195,12 @@ private Q_SLOTS:
     {
         QFETCH(const eAnswer, answer);
         cPage page;
-        QTemporaryDir folder;
-        QStringList files;
-        for (const QString& name : {u"a.csv"_s, u"b.csv"_s}) {
-            files.append(folder.filePath(name));
-            QFile file(files.constLast());
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
-                       "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
+        const cTestFile folder;
+        const QStringList files{folder.Path(u"a.csv"_s), folder.Path(u"b.csv"_s)};
+        for (const QString& file : files) {
+            cTestFile::Write(file,
+                             "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
+                             "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
         }
         page.User.Answers = {answer};
         page.User.Choices = {u"Girokonto"_s};
@@ -223,21 +219,16 @@ private Q_SLOTS:
     void FirstStatementBringsTheStartBalance()
     {
         cPage page;
-        page.Add(
-            [](cEntryItem& entry) { entry.EntryDate = QDate(2026, 4, 30); }); // 10.00, which the bank books on May 2nd
-        page.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 3, 1);
-            entry.EntryValue = 500;
-        });
-        QTemporaryDir folder;
-        QFile file(folder.filePath(u"a.csv"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag;Saldo\n"
-                   "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
-        file.close();
+        page.Spend(QDate(2026, 4, 30), 1000); // which the bank books on May 2nd
+        page.Spend(QDate(2026, 3, 1), 500);
+        const cTestFile folder;
+        const QString file = folder.Path(u"a.csv"_s);
+        cTestFile::Write(file,
+                         "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag;Saldo\n"
+                         "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
         page.User.Choices = {u"Girokonto"_s};
         page.User.Answers = {eAnswer::Yes};
-        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QVERIFY2(page.User.Asked.constLast().startsWith(u"Am 04.05.2026 waren laut Kontoauszug 87,00"_s + space
                                                         + u"€ auf dem Konto 'Girokonto'."),
                  qPrintable(page.User.Asked.constLast()));
@@ -246,7 +237,7 @@ private Q_SLOTS:
         QCOMPARE(start->EntryValue, 10500);
         QCOMPARE(start->EntryDate, QDate(2026, 3, 1));
         page.User.Asked.clear();
-        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QCOMPARE(page.User.Asked, QStringList());
     }
 
@@ -581,10 +572,9 @@ private Q_SLOTS:
     void SaysWhyAFileIsRefused()
     {
         cPage page;
-        QFile file(page.Shell.Folder(u"data"_s) + u"/auszug.pdf");
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("%PDF") == 4);
-        file.close();
-        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
+        const cTestFile folder;
+        cTestFile::Write(folder.Path(u"auszug.pdf"_s), "%PDF");
+        page.Review.Files().ImportFiles({folder.Path(u"auszug.pdf"_s)}, page.Progress);
         QVERIFY(page.User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
         QVERIFY(page.Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
     }

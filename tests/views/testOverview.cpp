@@ -80,17 +80,6 @@ void cScene::AddRandom(QRandomGenerator& random)
     });
 }
 
-cEntryItem Monthly(cTestBook& book, const QString& name, QDate first, qint64 cents)
-{
-    return book.Add([&](cEntryItem& entry) {
-        entry.EntryDate = first;
-        entry.EntryInterval = u"Monatlich"_s;
-        entry.EntryDescription = name;
-        entry.EntryValue = cents;
-        entry.EntryCategory = u"Wohnung; Miete"_s;
-    });
-}
-
 } // namespace
 
 class testOverview : public QObject
@@ -102,10 +91,7 @@ private Q_SLOTS:
     {
         cScene scene;
         for (const QDate day : {QDate(2026, 1, 10), QDate(2026, 2, 10), QDate(2026, 3, 10), QDate(2026, 2, 20)}) {
-            scene.Book.Add([&](cEntryItem& entry) {
-                entry.EntryDate = day;
-                entry.EntryValue = day.month() == 3 ? 20000 : 10000;
-            });
+            scene.Book.Spend(day, day.month() == 3 ? 20000 : 10000);
         }
         (void)scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, 50000, QDate(2026, 1, 1));
         scene.Show();
@@ -182,12 +168,15 @@ private Q_SLOTS:
     void ActsOnWhatIsDue()
     {
         cScene scene;
-        const cEntryItem rent = Monthly(scene.Book, u"Miete"_s, QDate(2026, 1, 20), 70000);
-        const cEntryItem plan = scene.Book.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 3, 18);
-            entry.EntryDescription = u"Fahrrad"_s;
+        const cEntryItem rent = scene.Book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 1, 20);
+            entry.EntryInterval = u"Monatlich"_s;
+            entry.EntryDescription = u"Miete"_s;
+            entry.EntryValue = 70000;
+            entry.EntryCategory = u"Wohnung; Miete"_s;
         });
-        scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = today; }); // bought today, so not due
+        const cEntryItem plan = scene.Book.Spend(QDate(2026, 3, 18), 1000, u"Fahrrad"_s);
+        scene.Book.Spend(today, 1000); // bought today, so not due
         scene.Show();
         QCOMPARE(scene.Lines(eOverviewCard::Due),
                  QStringList({u"18.03.  Fahrrad | -10,00 €"_s, u"20.03.  Miete | -700,00 €"_s}));
@@ -196,7 +185,7 @@ private Q_SLOTS:
         lines.at(0).Actions.at(0).Run();
         QCOMPARE(scene.Book.Data.LoadEntry(plan.ID)->EntryDate, today);
         lines.at(1).Actions.at(0).Run();
-        cEntryQuery march{QDate(2026, 3, 1), QDate(2026, 3, 31), {}, {}, u"Wohnung; Miete"_s};
+        cEntryQuery march{QDate(2026, 3, 1), QDate(2026, 3, 31), {}, {}, rent.EntryCategory};
         QCOMPARE(scene.Book.Data.GetEntries(march).at(0).EntryDate, today);
         QCOMPARE(scene.Book.Data.GetEntries(march).at(0).EntryValue, 70000);
         lines.at(1).Actions.at(1).Run();
@@ -226,11 +215,7 @@ private Q_SLOTS:
                          u"Die letzte Datensicherung ist vom 01.02.2026."_s}));
         scene.Card(eOverviewCard::Tasks).Lines.at(1).Follow();
         QCOMPARE(scene.Navigator.Opened, QStringList(QString::number(modCommand::ImportStatement)));
-        cImportEntry row;
-        row.ImportAccount = u"4711"_s;
-        row.ImportDate = QDate(2026, 1, 31);
-        row.ImportValue = -500;
-        QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+        scene.Book.Stage(u"4711"_s, QDate(2026, 1, 31), -500);
         scene.Show(); // what waits may be the difference
         QCOMPARE(scene.Lines(eOverviewCard::Tasks).first(), u"Ein Umsatz der Bank wartet auf seine Buchung."_s);
         QCOMPARE(scene.Lines(eOverviewCard::Tasks).size(), 3);

@@ -343,18 +343,14 @@ private Q_SLOTS:
         const QString html = QString(model.Html()).replace(u'\u00A0', u' ');
         QVERIFY2(html.contains(u">5,01 €<"_s), qPrintable(html)); // the cent that is left over is Anna's
         QCOMPARE(html.count(u"Pizza &amp; Wein"_s), 1);
-        QTemporaryDir folder;
-        book.User.SavePath = folder.filePath(u"a.csv"_s);
+        const cTestFile folder;
+        book.User.SavePath = folder.Path(u"a.csv"_s);
         model.SaveFile();
-        QFile file(folder.filePath(u"a.csv"_s));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(file.readAll().contains("02.03.2026;Pizza & Wein;"));
-        book.User.SavePath = folder.filePath(u"a.xlsx"_s);
+        QVERIFY(cTestFile::Bytes(book.User.SavePath).contains("02.03.2026;Pizza & Wein;"));
+        book.User.SavePath = folder.Path(u"a.xlsx"_s);
         model.SaveFile();
-        QFile workbook(folder.filePath(u"a.xlsx"_s));
-        QVERIFY(workbook.open(QIODevice::ReadOnly));
-        QVERIFY(workbook.read(2) == "PK");
-        book.User.SavePath = folder.filePath(u"a.ods"_s);
+        QVERIFY(cTestFile::Bytes(book.User.SavePath).startsWith("PK"));
+        book.User.SavePath = folder.Path(u"a.ods"_s);
         model.SaveFile();
         QVERIFY(book.User.Shown.constLast().contains(u".xlsx"_s) && !QFile::exists(book.User.SavePath));
         QVERIFY(model.CanChangePeople());

@@ -31,22 +31,15 @@ struct cScene
 
     QString File(const QString& name, const QByteArray& content) const
     {
-        QFile file(Outside.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0) {
-            qFatal("no room for a file");
-        }
-        return file.fileName();
+        cTestFile::Write(Outside.filePath(name), content);
+        return Outside.filePath(name);
     }
     QStringList Folder() const
     {
         return QDir(modReceiptFolder::Of(Book.Path())).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
     QStringList Names(int entry) { return modReceiptName::Of(Book.Data.LoadEntry(entry).value_or(cEntryItem{})); }
-    QByteArray Content(const QString& name) const
-    {
-        QFile file(Receipts.File(name).Path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Content(const QString& name) const { return cTestFile::Bytes(Receipts.File(name).Path); }
 };
 
 // By what is in them: "eins", "PNG".
@@ -97,9 +90,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(scene.Receipts.File(first).Path));
         QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"b.pdf"_s, "zwei")}}));
         QCOMPARE(scene.Names(scene.Entry).last(), u"2026-03-10 Rewe 1 2 Kuchen 15d55d.pdf"_s);
-        QFile changed(scene.Receipts.File(first).Path);
-        QVERIFY(changed.open(QIODevice::WriteOnly) && changed.write("anders") > 0);
-        changed.close();
+        cTestFile::Write(scene.Receipts.File(first).Path, "anders");
         QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
         QCOMPARE(scene.Content(first), "anders");
         QCOMPARE(scene.Content(scene.Names(scene.Entry).last()), "eins");

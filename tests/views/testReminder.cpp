@@ -157,11 +157,7 @@ private Q_SLOTS:
         scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
         (void)scene.AddSeries(QDate(2026, 3, 1), u"Miete"_s);
         const auto import = [&](QDate day, qint64 cents) {
-            cImportEntry row;
-            row.ImportAccount = u"111"_s;
-            row.ImportDate = day;
-            row.ImportValue = cents;
-            QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+            scene.Book.Stage(u"111"_s, day, cents);
             scene.Model.StatementsChanged();
         };
         scene.Model.Start();

@@ -451,10 +451,7 @@ private Q_SLOTS:
                                                        {QDate(2026, 3, 9), u"#Urlaub"_s},
                                                        {QDate(2026, 2, 8), u"#urlaub 'n' #Meer"_s}};
         for (const auto& each : written) {
-            book.Add([&](cEntryItem& entry) {
-                entry.EntryDate = each.first;
-                entry.EntryDescription = each.second;
-            });
+            book.Spend(each.first, 1000, each.second);
         }
         book.Add([](cEntryItem& entry) { entry.EntryType = modWord::Umbuchung; });
         book.Add([](cEntryItem& entry) {
@@ -519,25 +516,20 @@ private Q_SLOTS:
     {
         cTestBook book;
         book.Add([](cEntryItem&) {});
-        const QTemporaryDir folder;
+        const cTestFile folder;
         cReportSource source(book.Tools);
         cReportExport writer(book.Tools, source);
         const cReportWish wish = Wish(eReport::Sum, year2026);
-        const QList<std::pair<QString, QByteArray>> files{{u"a.html"_s, "<!DOCTYPE html>"},
-                                                          {u"b.csv"_s,
-                                                           "\xEF\xBB\xBF"
-                                                           "Art;"},
-                                                          {u"c.xlsx"_s, "PK"}};
+        const QList<std::pair<QString, QByteArray>> files{
+            {u"a.html"_s, "<!DOCTYPE html>"}, {u"b.csv"_s, "\xEF\xBB\xBF\x41rt;"}, {u"c.xlsx"_s, "PK"}};
         for (const auto& [name, start] : files) {
-            book.User.SavePath = folder.filePath(name);
+            book.User.SavePath = folder.Path(name);
             QCOMPARE(writer.Run(wish), cReportExport::eDone::Written);
-            QFile file(folder.filePath(name));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QVERIFY2(file.readAll().startsWith(start), qPrintable(name));
+            QVERIFY2(cTestFile::Bytes(book.User.SavePath).startsWith(start), qPrintable(name));
         }
-        book.User.SavePath = folder.filePath(u"d.doc"_s);
+        book.User.SavePath = folder.Path(u"d.doc"_s);
         QCOMPARE(writer.Run(wish), cReportExport::eDone::Failed);
-        QVERIFY(!QFile::exists(folder.filePath(u"d.doc"_s)));
+        QVERIFY(!QFile::exists(book.User.SavePath));
     }
 };
 

@@ -29,22 +29,8 @@ public:
     cScene()
     {
         Purchase = Book.Add([](cEntryItem& e) { e.EntryDescription = u"=Markt\tWest"_s; });
-        Rent = Book.Add([](cEntryItem& e) {
-            e.EntryDate = QDate(2026, 1, 28);
-            e.EntryInterval = u"Monatlich"_s;
-            e.EntryValue = 70000;
-            e.EntryCategory = u"Wohnung; Miete"_s;
-            e.EntryDescription = u"Miete"_s;
-        });
-        cEntryItemFixMod march;
-        march.EntryRelation = Rent.ID;
-        march.EntryModType = modWord::Betrag;
-        march.EntryStartDate = QDate(2026, 3, 1);
-        march.EntryEndDate = QDate(2026, 3, 31);
-        march.EntryValue = 72000;
-        if (!Book.Data.AddNewEntryMod(march)) {
-            qFatal("no correction");
-        }
+        Rent = Book.Spend(QDate(2026, 1, 28), 70000, u"Miete"_s, u"Monatlich"_s);
+        Book.Correct(Rent.ID, QDate(2026, 3, 1), QDate(2026, 3, 31), 72000);
         Show();
     }
 
@@ -426,7 +412,6 @@ private Q_SLOTS:
     void DayIsFoundInAnyOrder()
     {
         QFETCH(QString, typed);
-        QFETCH(QDate, expected);
         QFETCH(QString, text);
         cScene scene;
         const modPeriod::cRange range{QDate(2026, 1, 1), QDate(2026, 12, 31)};
@@ -434,7 +419,7 @@ private Q_SLOTS:
             scene.List.SetGrouping(grouping);
             scene.List.sort(cEntryListModel::Amount, Qt::DescendingOrder);
             const modDayJump::cFound found = modDayJump::Find(scene.List, typed, scene.Book.Clock.Today(), range);
-            QCOMPARE(found.Row.isValid() ? scene.List.EntryAt(found.Row)->EntryDate : QDate(), expected);
+            QTEST(found.Row.isValid() ? scene.List.EntryAt(found.Row)->EntryDate : QDate(), "expected");
             QVERIFY2(text.isEmpty() ? found.Text.isEmpty() : found.Text.contains(text), qPrintable(found.Text));
         }
     }

@@ -97,17 +97,15 @@ private Q_SLOTS:
         QFETCH(int, row);
         QFETCH(QString, category);
         QFETCH(QString, amount);
-        QFETCH(int, saved);
-        QFETCH(QString, message);
         cTestBook book;
         cEntryEditor editor(book.Tools);
         cEntryFields fields = Purchase();
         cSplitPart& part = row < 0 ? fields.Parts.last() : fields.Parts[row];
         part.Category = category;
         part.Amount = amount;
-        QCOMPARE(int(editor.Save(fields)), saved);
+        QTEST(int(editor.Save(fields)), "saved");
         QCOMPARE(editor.FailedPart(), row);
-        QCOMPARE(book.User.Shown.value(0), message);
+        QTEST(book.User.Shown.value(0), "message");
         QCOMPARE(book.Data.CountEntries(), 0);
     }
 
@@ -225,10 +223,7 @@ private Q_SLOTS:
     {
         cTestBook book;
         const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
-        cEntryItemFixMod fixMod;
-        fixMod.EntryRelation = series.ID;
-        fixMod.EntryStartDate = QDate(2026, 4, 1);
-        QVERIFY(book.Data.AddNewEntryMod(fixMod));
+        book.Correct(series.ID, QDate(2026, 4, 1), {}, 0);
         cEntryEditor editor(book.Tools);
         cEntryFields fields = editor.Load(series.ID).value();
         editor.UseSplit(fields);

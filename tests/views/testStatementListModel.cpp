@@ -2,7 +2,6 @@
 #include "import/stage/cBankBalances.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/ledger/cStatementListModel.h"
@@ -83,9 +82,7 @@ private Q_SLOTS:
     void UnreadableRowsAreSaid() const
     {
         cScene scene(u"0502 -2310 REWE"_s, {});
-        const QString path = scene.Path();
-        cTestFile::Damage(path, "import");
-        scene.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Damage("import");
         const cStatementListModel statement(scene.Tools);
         QCOMPARE(statement.EmptyTitle(), u"Das Buch konnte nicht gelesen werden"_s);
         QCOMPARE(statement.TotalText(), u"–"_s);
@@ -95,9 +92,7 @@ private Q_SLOTS:
     void UnreadableEntriesAreSaid() const
     {
         cScene scene(u"0502 -2310 REWE"_s, u"2026-05-02=-2310"_s);
-        const QString path = scene.Path();
-        cTestFile::Damage(path, "data");
-        scene.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Damage("data");
         const cStatementListModel statement(scene.Tools);
         QCOMPARE(statement.Findings().constLast(), u"Das Buch konnte nicht gelesen werden"_s);
         QCOMPARE(statement.Finding(), cStatementListModel::eFinding::Unknown);

@@ -32,11 +32,8 @@ struct cScene
 
     cReceiptSource File(const QString& name, const QByteArray& content) const
     {
-        QFile file(Outside.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0) {
-            qFatal("no room for a file");
-        }
-        return {file.fileName()};
+        cTestFile::Write(Outside.filePath(name), content);
+        return {Outside.filePath(name)};
     }
     QStringList Texts() const
     {
@@ -81,8 +78,7 @@ private Q_SLOTS:
     void NamesTellTheMonth()
     {
         QFETCH(const QString, name);
-        QFETCH(const QString, day);
-        QCOMPARE(modPaperDay::Find(name), day);
+        QTEST(modPaperDay::Find(name), "day");
     }
 
     void AreListedByMonth()

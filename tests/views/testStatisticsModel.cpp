@@ -1,7 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
@@ -89,9 +88,7 @@ private Q_SLOTS:
         QFETCH(const QString, table);
         QFETCH(const bool, isChartKnown);
         cScene scene;
-        const QString path = scene.Book.Path();
-        cTestFile::Damage(path, table.toStdString());
-        scene.Book.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Book.Damage(table.toStdString());
         scene.Model.ChooseReport(eReport::Limit);
         scene.Model.BookChanged();
         const QString unread = u"Das Buch konnte nicht gelesen werden"_s;
