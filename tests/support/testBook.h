@@ -58,6 +58,18 @@ public:
         });
     }
 
+    // Adds a transfer; the stored entry.
+    cEntryItem Move(const QString& from, const QString& to, qint64 cents = 1000, QDate day = QDate(2026, 3, 10))
+    {
+        return Add([&](cEntryItem& entry) {
+            entry.EntryDate = day;
+            entry.EntryType = modWord::Umbuchung;
+            entry.EntryAccount = from;
+            entry.EntryAccountMove = to;
+            entry.EntryValue = cents;
+        });
+    }
+
     // Another amount for the occurrences of a series between two days.
     void Correct(int id, QDate start, QDate end, qint64 cents)
     {

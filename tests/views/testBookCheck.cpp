@@ -1,8 +1,7 @@
+#include "cEditorBook.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
-#include "support/testBook.h"
 #include "views/book/cBookCheck.h"
-#include "views/entry/cEntryEditor.h"
 
 #include <QTest>
 
@@ -56,43 +55,41 @@ private Q_SLOTS:
 
     void UnreadableDayStaysUntilItIsNamed()
     {
-        cTestBook book;
+        cEditorBook book;
         const int id = book.Add([](cEntryItem&) {}).ID;
         book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
         cBookCheck check(book.Data, book.Format);
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = *editor.Load(id);
+        cEntryFields fields = *book.Editor.Load(id);
         fields.Description = u"Wochenmarkt"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         check.Reload();
         QCOMPARE(check.index(0, cBookCheck::Fault).data().toString(), u"Tag '31.02.2026' nicht lesbar"_s);
         QCOMPARE(check.index(0, cBookCheck::Text).data().toString(), u"Wochenmarkt"_s);
 
-        fields = *editor.Load(id);
+        fields = *book.Editor.Load(id);
         fields.DateText = u"irgendwann"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::BadDate);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::BadDate);
         fields.DateText = u"28.2."_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         check.Reload();
         QCOMPARE(check.EntriesText(), u"Alle Einträge sind zu sehen und zählen mit."_s);
         QCOMPARE(book.Data.LoadEntry(id)->EntryDate, QDate(2026, 2, 28));
 
         // A day that only SQLite cannot read is mended by any change.
         book.Database.Execute("UPDATE data SET EntryDate = '2026-02-28 abends'");
-        QCOMPARE(editor.Save(*editor.Load(id)), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(*book.Editor.Load(id)), cEntryEditor::eSaved::Saved);
         check.Reload();
         QVERIFY(check.IsSound());
     }
 
     void UnreadableDayOfAStartBalanceStays()
     {
-        cTestBook book;
+        cEditorBook book;
         QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 10000, QDate(2026, 1, 1)));
         book.Database.Execute("UPDATE data SET EntryDate = 'Neujahr'");
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = editor.StartBalance(u"Girokonto"_s);
+        cEntryFields fields = book.Editor.StartBalance(u"Girokonto"_s);
         fields.Amount = u"200"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         const QList<cFaultyEntry> faulty = book.Data.GetFaultyEntries().value_or(QList<cFaultyEntry>());
         QCOMPARE(faulty.size(), 1);
         QCOMPARE(faulty.first().DayText, u"Neujahr"_s);

@@ -1,7 +1,6 @@
+#include "cEditorBook.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
 
 #include <QTest>
 
@@ -37,48 +36,48 @@ class testEntryCategories final : public QObject
 private Q_SLOTS:
     void MistakenCategoryLeavesNothingBehind()
     {
-        cTestBook book;
+        cEditorBook book;
         AddCategory(book, u"Einkommen; Lohn"_s, modWord::Einnahme, u"Monatlich"_s);
         AddCategory(book, u"Haushalt; Milch"_s, modWord::Ausgabe, modWord::Einmalig);
         AddCategory(book, u"Haushalt; Offen"_s, {}, {});
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
+        AddCategory(book, u"Haushalt; Alle"_s, modWord::AlleBuchungsarten); // a filter word that old files carry
+        cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
         const auto choose = [&](const QString& path) {
-            editor.ChooseCategory(path, fields);
+            book.Editor.ChooseCategory(path, fields);
             return QStringList{fields.Type, fields.Interval};
         };
         QCOMPARE(choose(u"Einkommen; Lohn"_s), QStringList({modWord::Einnahme, u"Monatlich"_s}));
         QCOMPARE(choose(u"Haushalt; Milch"_s), QStringList({modWord::Ausgabe, modWord::Einmalig}));
         QCOMPARE(choose(u"Haushalt; Offen"_s), QStringList({QString(), QString()}));
+        QCOMPARE(choose(u"Haushalt; Alle"_s), QStringList({QString(), QString()}));
         QCOMPARE(choose(u"Einkommen; Lohn"_s), QStringList({modWord::Einnahme, u"Monatlich"_s}));
         QCOMPARE(choose({}), QStringList({QString(), QString()})); // the field was emptied
         fields.Interval = u"Jährlich"_s;                           // chosen by hand
         QCOMPARE(choose(u"Einkommen; Lohn"_s), QStringList({modWord::Einnahme, u"Jährlich"_s}));
 
         const cEntryItem stored = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
-        fields = editor.Load(stored.ID).value();
+        fields = book.Editor.Load(stored.ID).value();
         QCOMPARE(choose(u"Einkommen; Lohn"_s), QStringList({modWord::Ausgabe, u"Monatlich"_s}));
     }
 
     // Child benefit entered after a transfer is no transfer.
     void CarriedKindIsOpen()
     {
-        cTestBook book;
+        cEditorBook book;
         AddCategory(book, u"Einkommen; Kindergeld"_s, modWord::Einnahme, u"Monatlich"_s);
         AddCategory(book, u"Haushalt; Offen"_s, {}, {});
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields saved = editor.Start(u"Girokonto"_s);
+        cEntryEditor::cFields saved = book.Editor.Start(u"Girokonto"_s);
         saved.Type = modWord::Umbuchung;
         saved.Target = u"Sparkonto"_s;
         saved.Interval = u"Jährlich"_s;
         saved.HasEnd = true;
-        cEntryEditor::cFields next = editor.Next(saved);
+        cEntryEditor::cFields next = book.Editor.Next(saved);
         QCOMPARE(next.Type, modWord::Umbuchung);
-        editor.ChooseCategory(u"Einkommen; Kindergeld"_s, next);
+        book.Editor.ChooseCategory(u"Einkommen; Kindergeld"_s, next);
         QCOMPARE(next.Type, modWord::Einnahme);
         QCOMPARE(next.Interval, u"Monatlich"_s);
         QVERIFY(!next.HasEnd);
-        editor.ChooseCategory(u"Haushalt; Offen"_s, next); // the other one was a mistake
+        book.Editor.ChooseCategory(u"Haushalt; Offen"_s, next); // the other one was a mistake
         QCOMPARE(next.Type, modWord::Umbuchung);
         QVERIFY(next.Interval.isEmpty());
     }
@@ -139,29 +138,28 @@ private Q_SLOTS:
 
     void MakesACategoryThatIsMissing()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
+        cEditorBook book;
+        cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
         fields.Amount = u"12,50"_s;
         fields.IsAmountTyped = true;
         fields.CategoryText = u"Garten;  Pflanzen"_s;
         fields.Type = modWord::Ausgabe;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused); // an empty queue answers Cancel
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused); // an empty queue answers Cancel
         QCOMPARE(book.User.Asked,
                  QStringList(u"Die Kategorie 'Garten; Pflanzen' gibt es noch nicht.\nSoll sie angelegt werden?"_s));
         QVERIFY(book.User.Shown.isEmpty());
-        QVERIFY(!editor.MayClose(editor.Start(u"Girokonto"_s), fields)); // the text is worth a question
+        QVERIFY(!book.Editor.MayClose(book.Editor.Start(u"Girokonto"_s), fields)); // the text is worth a question
         book.User.Answers = {eAnswer::Yes};
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-        QCOMPARE(book.Data.LoadEntry(editor.SavedId())->EntryCategory, u"Garten; Pflanzen"_s);
-        QVERIFY(editor.Categories().contains(u"Garten; Pflanzen"_s));
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Data.LoadEntry(book.Editor.SavedId())->EntryCategory, u"Garten; Pflanzen"_s);
+        QVERIFY(book.Editor.Categories().contains(u"Garten; Pflanzen"_s));
 
         fields.Face = eEntryFace::Split;
         fields.Parts = {{.Amount = u"10"_s, .CategoryText = u"garten;pflanzen"_s},
                         {.Amount = u"2,5"_s, .CategoryText = u"Samen"_s}};
         book.User.Asked.clear();
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
-        QCOMPARE(editor.FailedPart(), 1); // the first one is there now
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.Editor.FailedPart(), 1); // the first one is there now
         QCOMPARE(book.User.Asked.size(), 1);
     }
 };

@@ -1,8 +1,7 @@
+#include "cEditorBook.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
 
 #include <QTest>
@@ -47,9 +46,8 @@ private Q_SLOTS:
         fields.Type = emptied.contains(u"type"_s) ? QString() : fields.Type;
         fields.Account = emptied.contains(u"account"_s) ? QString() : fields.Account;
 
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(fields),
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(fields),
                  message.isEmpty() ? cEntryEditor::eSaved::BadAmount : cEntryEditor::eSaved::Refused);
         QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
         QCOMPARE(book.Data.CountEntries(), 0);
@@ -72,8 +70,7 @@ private Q_SLOTS:
         QFETCH(QString, type);
         QFETCH(QString, target);
         QFETCH(QString, why);
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryEditor::cFields fields = Fields();
         fields.Type = type;
         fields.Target = target;
@@ -81,24 +78,23 @@ private Q_SLOTS:
         fields.DateText = u"3.5."_s;
         fields.HasEnd = type == modWord::Ausgabe;
         fields.EndText = u"2.5."_s;
-        QTEST(int(editor.Save(fields)), "field");
+        QTEST(int(book.Editor.Save(fields)), "field");
         QCOMPARE(book.User.Shown, QStringList(u"Eintrag konnte nicht erstellt werden!\n"_s + why));
         QCOMPARE(book.Data.CountEntries(), 0);
     }
 
     void SaysWhenThereIsNothingToChoose()
     {
-        cTestBook book;
+        cEditorBook book;
         const cTemplateItemList templates = book.Data.GetTemplates();
         for (const cTemplateItem& item : templates) {
             QVERIFY(book.Data.DeleteTemplate(item.ID));
         }
-        cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields = Fields();
         fields.Account.clear();
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
         fields.Category.clear();
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
         QCOMPARE(book.User.Shown,
                  QStringList({u"Bitte erst neue Konten anlegen und diese Buchung einordnen!"_s,
                               u"Bitte erst neue Kategorien anlegen und diese Buchung einordnen!"_s}));
@@ -106,15 +102,14 @@ private Q_SLOTS:
 
     void StoresWhatWasTyped()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryEditor::cFields fields = Fields();
         fields.Amount = u"-1.012,50"_s; // the sign is the kind's business
         fields.Target = u"Sparkonto"_s; // left over from a transfer
         fields.HasEnd = true;           // and from a series
         fields.End = QDate(2026, 12, 31);
         fields.Description = u"Oma's Garten"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         const std::optional<cEntryItem> stored = book.Data.LoadEntry(1);
         QVERIFY(stored);
         QCOMPARE(stored->EntryValue, 101250);
@@ -123,32 +118,11 @@ private Q_SLOTS:
         QCOMPARE(stored->EntryInterval, modWord::Einmalig);
         QVERIFY(stored->EntryAccountMove.isEmpty());
         QCOMPARE(stored->EntryDescription, fields.Description);
-    }
-
-    void CategoryFillsOnlyWhatIsOpen()
-    {
-        cTestBook book;
-        book.AddCategory(u"Test; Pacht"_s, [](cTemplateItem& item) {
-            item.EntryType = modWord::Ausgabe;
-            item.EntryInterval = u"Jährlich"_s;
-        });
-        book.AddCategory(u"Test; Sonstiges"_s, [](cTemplateItem& item) {
-            item.EntryType = modWord::AlleBuchungsarten; // a filter word that old files carry
-        });
-
-        const cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields;
-        fields.Amount = u"7"_s;
-        editor.ChooseCategory(u"Test; Sonstiges"_s, fields);
-        QVERIFY(fields.Type.isEmpty());
-        QCOMPARE(fields.Amount, u"0,00"_s);
-        fields.Interval = modWord::Einmalig;
-        fields.Amount = u"7"_s;
-        fields.IsAmountTyped = true;
-        editor.ChooseCategory(u"Test; Pacht"_s, fields);
-        QCOMPARE(fields.Type, modWord::Ausgabe);
-        QCOMPARE(fields.Interval, modWord::Einmalig);
-        QCOMPARE(fields.Amount, u"7"_s);
+        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Oma's Garten' angelegt"_s);
+        fields = book.Editor.Load(1).value();
+        fields.Description.clear();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Haushalt; Lebensmittel' geändert"_s);
     }
 
     void OtherPeriodCostsCorrections_data()
@@ -164,16 +138,15 @@ private Q_SLOTS:
         QFETCH(bool, changesDate);
         QFETCH(int, answer);
         QFETCH(QString, description);
-        cTestBook book;
+        cEditorBook book;
         const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
         book.Correct(series.ID, QDate(2026, 4, 1), {}, 0);
 
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields = editor.Load(series.ID).value();
+        cEntryEditor::cFields fields = book.Editor.Load(series.ID).value();
         fields.Description = u"neu"_s;
         fields.Date = changesDate ? fields.Date.addDays(1) : fields.Date;
         book.User.Answers = {static_cast<eAnswer>(answer)};
-        const bool isSaved = editor.Save(fields) == cEntryEditor::eSaved::Saved;
+        const bool isSaved = book.Editor.Save(fields) == cEntryEditor::eSaved::Saved;
         QCOMPARE(isSaved, !description.isEmpty());
         QTEST(book.Data.GetEntryMods(series.ID).size(), "corrections");
         QCOMPARE(book.Data.LoadEntry(series.ID)->EntryDescription, description);
@@ -193,30 +166,28 @@ private Q_SLOTS:
     {
         QFETCH(QString, interval);
         QFETCH(bool, isTyped);
-        cTestBook book;
+        cEditorBook book;
         const QString rent = book.AddCategory(u"Pacht"_s, [&](cTemplateItem& item) {
             item.EntryInterval = interval;
             item.TemplateDefaultValue = u"850.00"_s;
         });
-        const cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields;
         fields.Amount = u"7"_s;
         fields.IsAmountTyped = isTyped;
-        editor.ChooseCategory(rent, fields);
+        book.Editor.ChooseCategory(rent, fields);
         QTEST(fields.Amount, "amount");
     }
 
     void SaysTheVatInTheAmount()
     {
-        cTestBook book;
+        cEditorBook book;
 
-        const cEntryEditor editor(book.Tools);
         cEntryEditor::cFields fields;
         fields.Category = book.AddCategory(u"Reparatur"_s, [](cTemplateItem& item) { item.TemplateVAT = u"19"_s; });
         fields.Amount = u"100"_s;
-        QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
+        QCOMPARE(book.Editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
         fields.Type = modWord::Umbuchung;
-        QCOMPARE(editor.VatText(fields), QString());
+        QCOMPARE(book.Editor.VatText(fields), QString());
     }
 
     void TypedDays_data()
@@ -233,34 +204,32 @@ private Q_SLOTS:
     {
         QFETCH(QString, day);
         QFETCH(QString, end);
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryEditor::cFields fields = Fields();
         fields.Interval = u"Monatlich"_s;
         fields.Date = QDate(2026, 3, 10);
         fields.DateText = day;
         fields.HasEnd = true;
         fields.EndText = end;
-        QTEST(int(editor.Save(fields)), "saved");
+        QTEST(int(book.Editor.Save(fields)), "saved");
         const std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
         QTEST(entry ? entry->EntryDate : QDate(), "stored");
     }
 
     void NextEntryKeepsDayAccountAndKind()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryEditor::cFields fields = Fields();
         fields.DateText = u"3."_s;
         fields.Interval = u"Monatlich"_s;
         for (int i = 1; i <= 6; ++i) {
             fields.Description = QString::number(i);
-            QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+            QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         }
-        QCOMPARE(editor.LastSaved().size(), 5);
-        QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
-        const cEntryEditor::cFields next = editor.Next(fields);
-        QVERIFY(editor.IsNew());
+        QCOMPARE(book.Editor.LastSaved().size(), 5);
+        QCOMPARE(book.Editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
+        const cEntryEditor::cFields next = book.Editor.Next(fields);
+        QVERIFY(book.Editor.IsNew());
         QCOMPARE(next.Date, QDate(2026, 3, 3));
         QCOMPARE(next.Account, fields.Account);
         QCOMPARE(next.Type, fields.Type);
@@ -271,7 +240,7 @@ private Q_SLOTS:
 
     void DescriptionBringsItsLatestUse()
     {
-        cTestBook book;
+        cEditorBook book;
         const auto add = [&](const QString& description, const QString& category, const QString& account) {
             (void)book.Add([&](cEntryItem& entry) {
                 entry.EntryDescription = description;
@@ -284,51 +253,49 @@ private Q_SLOTS:
         add(u"Wärme d'Oro"_s, u"Nicht; Angelegt"_s, u"Geschlossen"_s);
         add(u"Wirt"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
 
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
-        QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
-        cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
-        editor.ChooseDescription(u"Wärme d'Oro"_s, fields); // category and account are gone
+        QCOMPARE(book.Editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
+        QCOMPARE(book.Editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
+        cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
+        book.Editor.ChooseDescription(u"Wärme d'Oro"_s, fields); // category and account are gone
         QCOMPARE(fields.Category, QString());
         QCOMPARE(fields.Account, u"Girokonto"_s);
-        editor.ChooseDescription(u"Bäcker"_s, fields);
+        book.Editor.ChooseDescription(u"Bäcker"_s, fields);
         QCOMPARE(fields.Category, u"Haushalt; Lebensmittel"_s);
         QCOMPARE(fields.Account, u"Bargeld"_s);
-        editor.ChooseAccount(u"Sparkonto"_s, fields);
-        editor.ChooseDescription(u"Wirt"_s, fields);
+        book.Editor.ChooseAccount(u"Sparkonto"_s, fields);
+        book.Editor.ChooseDescription(u"Wirt"_s, fields);
         QCOMPARE(fields.Account, u"Sparkonto"_s); // the user's choice stays
 
         cEntryEditor::cFields saved = Fields();
         saved.Description = u"Zoo"_s;
-        QCOMPARE(editor.Save(saved), cEntryEditor::eSaved::Saved);
-        QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Zoo"_s); // without reading the book again
+        QCOMPARE(book.Editor.Save(saved), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Suggestions().Descriptions().value(0), u"Zoo"_s); // without reading the book again
     }
 
     void AmountsAreTypedAsTheyAreShown()
     {
-        cTestBook book;
+        cEditorBook book;
         QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
+        cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
         QCOMPARE(fields.Amount, u"0.00"_s);
         fields.Amount = u"1,234"_s;
         fields.Category = u"Haushalt; Lebensmittel"_s;
         fields.Type = modWord::Ausgabe;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-        QCOMPARE(book.Data.LoadEntry(editor.SavedId())->EntryValue, 123400);
-        fields = editor.Load(editor.SavedId()).value();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Data.LoadEntry(book.Editor.SavedId())->EntryValue, 123400);
+        fields = book.Editor.Load(book.Editor.SavedId()).value();
         QCOMPARE(fields.Amount, u"1234.00"_s);
-        editor.UseSplit(fields);
+        book.Editor.UseSplit(fields);
         fields.Parts = {{.Category = fields.Category, .Amount = u"1,000"_s},
                         {.Category = fields.Category, .Amount = u"233.5"_s}};
         QCOMPARE(modSplitParts::RestText(fields), u"Rest: 0.50"_s);
         QVERIFY(modSplitParts::FillRest(1, fields));
         QCOMPARE(fields.Parts.at(1).Amount, u"234.00"_s);
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-        QVERIFY(editor.LastSaved().first().contains(u"£1,234.00"));
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QVERIFY(book.Editor.LastSaved().first().contains(u"£1,234.00"));
 
         QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 150000, QDate(2026, 1, 1)));
-        QCOMPARE(editor.StartBalance(u"Girokonto"_s).Amount, u"1500.00"_s);
+        QCOMPARE(book.Editor.StartBalance(u"Girokonto"_s).Amount, u"1500.00"_s);
     }
 
     void PreviewsSeries_data()
@@ -346,36 +313,35 @@ private Q_SLOTS:
     {
         QFETCH(QString, day);
         QFETCH(QString, end);
-        cTestBook book;
-        const cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryEditor::cFields fields;
         fields.Interval = u"Monatlich"_s;
         fields.DateText = day;
         fields.HasEnd = !end.isEmpty();
         fields.EndText = end;
-        QTEST(editor.Preview(fields).Text, "text");
+        QTEST(book.Editor.Preview(fields).Text, "text");
     }
 
     void StartBalanceHasItsSign()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
+        cEditorBook book;
+        cEntryEditor::cFields fields = book.Editor.StartBalance(u"Girokonto"_s);
         QCOMPARE(fields.Date, book.Clock.Day);
-        QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
+        QCOMPARE(book.Editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
         fields.Amount = u"-100-20,5"_s;
         fields.DateText = u"1.1."_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
         QCOMPARE(stored.EntryType, modWord::Ausgabe);
         QCOMPARE(stored.EntryValue, 12050);
-        QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
+        QCOMPARE(book.Editor.StartBalanceText(u"Girokonto"_s),
+                 u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
 
-        fields = editor.Load(stored.ID).value();
+        fields = book.Editor.Load(stored.ID).value();
         QCOMPARE(fields.Face, eEntryFace::StartBalance);
         QCOMPARE(fields.Amount, u"-120,50"_s);
         fields.Amount = u"7"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryType, modWord::Einnahme);
         QCOMPARE(book.Data.CountEntries(), 1);
         QVERIFY(book.Data.Journal().Undo());
@@ -384,44 +350,30 @@ private Q_SLOTS:
 
     void StartBalanceFollowsTheAccount()
     {
-        cTestBook book;
+        cEditorBook book;
         QVERIFY(book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2025, 1, 1)));
-        cEntryEditor editor(book.Tools);
-        cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
-        editor.ChooseAccount(u"Bargeld"_s, fields);
+        cEntryEditor::cFields fields = book.Editor.StartBalance(u"Girokonto"_s);
+        book.Editor.ChooseAccount(u"Bargeld"_s, fields);
         QCOMPARE(fields.Amount, u"5,00"_s);
         QCOMPARE(fields.Date, QDate(2025, 1, 1));
         fields.IsAmountTyped = true;
-        editor.ChooseAccount(u"Girokonto"_s, fields);
+        book.Editor.ChooseAccount(u"Girokonto"_s, fields);
         QCOMPARE(fields.Amount, u"5,00"_s);
         fields.Account.clear();
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
         QCOMPARE(book.User.Shown, QStringList({u"Bitte erst ein Konto wählen!"_s}));
-    }
-
-    void NamesTheStep()
-    {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Fields()), cEntryEditor::eSaved::Saved);
-        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
-        cEntryEditor::cFields fields = editor.Load(editor.SavedId()).value();
-        fields.Description = u"Miete"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Miete' geändert"_s);
     }
 
     void LabelNamesTheCurrency()
     {
-        cTestBook book;
-        const cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.AmountLabel(), u"Betrag (€):"_s);
+        cEditorBook book;
+        QCOMPARE(book.Editor.AmountLabel(), u"Betrag (€):"_s);
         QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"en_US"_s));
         book.Format.CultureChanged();
-        QCOMPARE(editor.AmountLabel(), u"Betrag ($):"_s);
+        QCOMPARE(book.Editor.AmountLabel(), u"Betrag ($):"_s);
         QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"id-ID"_s));
         book.Format.CultureChanged();
-        QCOMPARE(editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
+        QCOMPARE(book.Editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
     }
 };
 

@@ -53,15 +53,6 @@ cEntryListModel::cContent Content(const QString& account = {})
     return content;
 }
 
-class cCancelled final : public cProgress
-{
-public:
-    void showProgressBar(int /*maximum*/) override {}
-    void addProgressValue(int /*steps*/) override {}
-    void hideProgressBar() override {}
-    [[nodiscard]] bool IsCancelled() const override { return true; }
-};
-
 // The cells of a written table: "A2" to its value; a formula as "formula -> value".
 class cTable
 {
@@ -425,7 +416,7 @@ private Q_SLOTS:
         cEntryListModel::cContent content;
         content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
         m_model->SetContent(content, {}, modWord::KeineGruppierung);
-        cCancelled cancelled;
+        cFakeStop cancelled;
         QCOMPARE(cEntryExport(book.Tools, cancelled).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::GivenUp);
         QVERIFY(user.Shown.isEmpty());
         QCOMPARE(cTestFile::Bytes(user.SavePath), QByteArray("old"));

@@ -69,12 +69,7 @@ private Q_SLOTS:
             entry.EntryInterval = u"Monatlich"_s;
             entry.EntryValue = 1000;
         });
-        (void)household.Book.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 5, 5);
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryAccountMove = u"Sparkonto"_s;
-            entry.EntryValue = 5000;
-        });
+        household.Book.Move(u"Girokonto"_s, u"Sparkonto"_s, 5000, QDate(2026, 5, 5));
         const cBalanceDays days = cForecast(household.Book.Data, today).Ahead(12, cForecast::eAverage::Without);
         const QString giro = u"Girokonto"_s;
         QCOMPARE(days.First, today);

@@ -25,19 +25,6 @@ constexpr const char* plain = "Tag;Was;Preis;Wert;Stand\n"
                               "04.02.2026;Miete;3,00;-660,00;gebucht\n"
                               "05.02.2026;Kiosk am Bahnhof;4,00;-1,00;geplant\n";
 
-// The progress of a user who stops after some steps.
-class cStopped final : public cProgress
-{
-public:
-    void showProgressBar(int /*maximum*/) override {}
-    void addProgressValue(int /*steps*/) override {}
-    void hideProgressBar() override {}
-    [[nodiscard]] bool IsCancelled() const override { return ++m_asked > 3; }
-
-private:
-    mutable int m_asked = 0;
-};
-
 // A new book whose assistant does what the test says.
 struct cPage : cTestBook
 {
@@ -58,10 +45,9 @@ struct cPage : cTestBook
         return path;
     }
 
-    void Import(const QStringList& paths)
+    void Import(const QStringList& paths, cStatementFiles::eAssist assist = cStatementFiles::eAssist::WhereNeeded)
     {
-        cNoProgress progress;
-        Review.Files().ImportFiles(paths, progress);
+        Review.Files().ImportFiles(paths, Progress, assist);
     }
 
     QStringList Purposes()
@@ -77,6 +63,7 @@ struct cPage : cTestBook
     fnChange Answer = [](cImportAssistant& assistant) { assistant.SetAccount(u"4711"_s); };
     bool IsConfirmed = true;
     int Opened = 0;
+    cNoProgress Progress;
     cImportReview Review{Tools};
 };
 
@@ -154,8 +141,7 @@ private Q_SLOTS:
             const cImportAssistant::cRow first = assistant.Rows().value(0);
             shown = QStringList{first.Day, first.Name, first.Purpose, first.Amount, first.Remark}.join(u'|');
         };
-        cNoProgress progress;
-        page.Review.Files().ImportFiles({page.Write(u"a.csv"_s, file)}, progress, cStatementFiles::eAssist::Always);
+        page.Import({page.Write(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);
         QTEST(shown.replace(u'\u00A0', u' '), "row");
         QCOMPARE(page.Data.GetImportEntries().size(), 0); // the user gave up
     }
@@ -233,8 +219,7 @@ private Q_SLOTS:
             QCOMPARE(assistant.Account(), u"4711"_s);
             QCOMPARE(assistant.BankCode(), u"12030000"_s);
         };
-        cNoProgress progress;
-        page.Review.Files().ImportFiles({first}, progress, cStatementFiles::eAssist::Always);
+        page.Import({first}, cStatementFiles::eAssist::Always);
         QCOMPARE(page.Opened, 3);
     }
 
@@ -245,9 +230,8 @@ private Q_SLOTS:
         page.Answer = [&](cImportAssistant& assistant) { assistant.SetAccount(QString::number(4711 + page.Opened)); };
         const QString first = page.Write(u"1.csv"_s, plain);
         const QString second = page.Write(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
-        cNoProgress progress;
         for (int account = 0; account < 2; ++account) {
-            page.Review.Files().ImportFiles({first}, progress, cStatementFiles::eAssist::Always);
+            page.Import({first}, cStatementFiles::eAssist::Always);
         }
         page.Import({first, second});
         QCOMPARE(page.Opened, 4);
@@ -262,9 +246,8 @@ private Q_SLOTS:
             Mean(3, u"Verwendungszweck"_s)(assistant);
             assistant.SetAccount(u"4711"_s);
         };
-        cNoProgress progress;
         const QString paypal = QStringLiteral(TEST_DATA "/csv/paypal.csv");
-        page.Review.Files().ImportFiles({paypal}, progress, cStatementFiles::eAssist::Always);
+        page.Import({paypal}, cStatementFiles::eAssist::Always);
         const QStringList changed = page.Purposes();
         QVERIFY(!changed.isEmpty());
         page.Import({paypal}); // through the memory alone: also what the layout leaves out
@@ -279,10 +262,9 @@ private Q_SLOTS:
             QVERIFY(!assistant.AsksAccount() && !assistant.IsTable());
             assistant.SetAvoidsDuplicates(false);
         };
-        cNoProgress progress;
         const QString file = QStringLiteral(TEST_DATA "/mt940/giro.sta");
         for (int run = 0; run < 2; ++run) {
-            page.Review.Files().ImportFiles({file}, progress, cStatementFiles::eAssist::Always);
+            page.Import({file}, cStatementFiles::eAssist::Always);
         }
         QCOMPARE(page.Data.GetImportEntries().size(), 10);
     }
@@ -306,9 +288,7 @@ private Q_SLOTS:
         for (int i = 0; i < 20'000; ++i) {
             csv += "03.02.2026;Einkauf Nummer " + QByteArray::number(i) + " am Markt;-1,00\n";
         }
-        cNoProgress progress;
-        page.Review.Files().ImportFiles({page.Write(u"a.ofx"_s, ofx), page.Write(u"a.csv"_s, csv)}, progress,
-                                        cStatementFiles::eAssist::Always);
+        page.Import({page.Write(u"a.ofx"_s, ofx), page.Write(u"a.csv"_s, csv)}, cStatementFiles::eAssist::Always);
         QCOMPARE(texts.value(0), u"2"_s);
         QVERIFY(texts.value(1).toInt() > 5'000 && texts.value(1).toInt() < 20'000);
     }
@@ -319,14 +299,13 @@ private Q_SLOTS:
         page.Import({page.Write(u"a.csv"_s, plain)});
         QCOMPARE(page.Purposes().size(), 3);
         const int booked = page.Data.GetImportEntries().first().ID;
-        cNoProgress progress;
-        page.Review.Book({booked}, progress);
+        page.Review.Book({booked}, page.Progress);
         page.Answer = [](cImportAssistant& assistant) {
             Mean(2, u"Betrag"_s)(assistant);
             assistant.ChooseReading(0);
         };
         QVERIFY(page.Review.Files().CanReadAgain());
-        page.Review.Files().ReadAgain(progress);
+        page.Review.Files().ReadAgain(page.Progress);
         const cImportEntryList rows = page.Data.GetImportEntries();
         QCOMPARE(rows.size(), 4); // the booked one stays
         QCOMPARE(rows.first().ID, booked);
@@ -335,14 +314,14 @@ private Q_SLOTS:
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
         QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -100);
         page.IsConfirmed = false;
-        page.Review.Files().ReadAgain(progress);
+        page.Review.Files().ReadAgain(page.Progress);
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
     }
 
     void AStoppedFileBringsNothing()
     {
         cPage page;
-        cStopped progress;
+        cFakeStop progress(3);
         page.Review.Files().ImportFiles({QStringLiteral(TEST_DATA "/mt940/giro.sta")}, progress);
         QCOMPARE(page.Data.GetImportEntries().size(), 0);
         QCOMPARE(page.Review.Summary(), QStringList(u"giro.sta: abgebrochen, nichts davon übernommen."_s));
@@ -394,8 +373,7 @@ private Q_SLOTS:
     void OffersAllStatements()
     {
         cPage page;
-        cNoProgress progress;
-        page.Review.Files().ChooseFiles(progress);
+        page.Review.Files().ChooseFiles(page.Progress);
         const QStringList filter = page.User.Asked.value(0).split(u'|');
         QVERIFY(filter.value(1).contains(u"*.sta;") && filter.value(1).contains(u"*.zip;")); // shown by default
         QCOMPARE(filter.value(2), u"CSV/XLS/MT940/MT942/OFX/QIF-Datei"_s);

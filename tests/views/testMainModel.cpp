@@ -37,13 +37,7 @@ public:
             e.EntryCategory = u"Einkommen; Lohn / Gehalt"_s;
             e.EntryDescription = u"Gehalt Müller KG"_s;
         });
-        Book.Add([](cEntryItem& e) {
-            e.EntryDate = QDate(2026, 2, 2);
-            e.EntryType = modWord::Umbuchung;
-            e.EntryAccountMove = u"Sparkonto"_s;
-            e.EntryValue = 30000;
-            e.EntryCategory = u"Geldanlage"_s;
-        });
+        Book.Move(u"Girokonto"_s, u"Sparkonto"_s, 30000, QDate(2026, 2, 2));
         Rent = Book.Spend(QDate(2026, 1, 1), 70000, u"Miete"_s, u"Monatlich"_s);
         Future = Book.Spend(QDate(2026, 3, 20), 4000);
         Start();

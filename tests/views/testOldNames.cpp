@@ -29,12 +29,7 @@ public:
                          entry.EntryAccount = u"Oma's Konto"_s;
                      })
                      .ID;
-        Transfer = Book.Add([](cEntryItem& entry) {
-                           entry.EntryType = modWord::Umbuchung;
-                           entry.EntryAccount = u"Bargeld"_s;
-                           entry.EntryAccountMove = u"Oma's Konto"_s;
-                       })
-                       .ID;
+        Transfer = Book.Move(u"Bargeld"_s, u"Oma's Konto"_s).ID;
         Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Oma's Konto"_s);
         Book.Settings->Set(modSettingKey::CategoryColor.Of(u"Haus & Hof"_s), u"#102030"_s);
         cNameKeepers::Watch(Book.Data, *Book.Settings);

@@ -118,12 +118,7 @@ private Q_SLOTS:
     void NamesNothingThatIsRight()
     {
         cScene scene;
-        const cEntryItem transfer = scene.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 5, 4);
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryAccount = u"Sparkonto"_s;
-            entry.EntryAccountMove = u"Girokonto"_s;
-        });
+        const cEntryItem transfer = scene.Move(u"Sparkonto"_s, u"Girokonto"_s, 1000, QDate(2026, 5, 4));
         scene.Row(6, 1000, u"Übertrag"_s, transfer.ID);
         scene.Row(10, -6000, u"Miete"_s, scene.Entry(10, 6000, u"Miete"_s, u"Monatlich"_s));
         cReconcileListModel model(scene.Tools);

@@ -1,8 +1,7 @@
+#include "cEditorBook.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/modCorrections.h"
 
@@ -178,20 +177,19 @@ private Q_SLOTS:
 
     void PageIsStoredWithTheEntry()
     {
-        cTestBook book;
+        cEditorBook book;
         const int id = AddRent(book).ID;
         cSeriesChange change(book.Tools);
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 3, 10), 1, u"weg"_s));
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 2, u"bleibt"_s));
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 3, u"anders"_s));
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = editor.Load(id).value();
-        QVERIFY(editor.ShowsCorrections(fields));
+        cEntryFields fields = book.Editor.Load(id).value();
+        QVERIFY(book.Editor.ShowsCorrections(fields));
         QCOMPARE(modCorrections::Change(2, u"30"_s, u"geändert"_s, fields), modCorrections::eSet::Done);
         modCorrections::Remove(0, fields);
         QCOMPARE(modCorrections::Set(u"1.6."_s, u"4"_s, u"neu"_s, book.Clock.Day, fields), modCorrections::eSet::Done);
         QCOMPARE(Corrections(book, id).size(), 3); // nothing is stored before the entry is
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Corrections(book, id),
                  QStringList({u"2026-04-01 2 bleibt"_s, u"2026-05-01 3000 geändert"_s, u"2026-06-01 400 neu"_s}));
         QVERIFY(book.User.Asked.isEmpty());
@@ -202,26 +200,25 @@ private Q_SLOTS:
 
     void FromHereSplitsTheSeries()
     {
-        cTestBook book;
+        cEditorBook book;
         const int id = AddRent(book).ID;
         cSeriesChange change(book.Tools);
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 2, u"dieser"_s));
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
+        cEntryFields fields = book.Editor.LoadFrom(id, QDate(2026, 5, 10)).value();
         QCOMPARE(fields.Date, QDate(2026, 5, 10));
         QCOMPARE(fields.Corrections.size(), 2);
         fields.Amount = u"11"_s;
         fields.DateText = u"20.5."_s; // another day of the month: the periods are the same
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QVERIFY(book.User.Asked.isEmpty());
 
         const cEntryItem old = book.Data.LoadEntry(id).value();
         QCOMPARE(old.EntryDateEnd, QDate(2026, 5, 9));
         QCOMPARE(old.EntryValue, 1000);
         QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 1 früher"_s}));
-        const cEntryItem next = book.Data.LoadEntry(editor.SavedId()).value();
+        const cEntryItem next = book.Data.LoadEntry(book.Editor.SavedId()).value();
         QVERIFY(next.ID != id);
         QCOMPARE(next.EntryDate, QDate(2026, 5, 20));
         QCOMPARE(next.EntryValue, 1100);
@@ -245,34 +242,32 @@ private Q_SLOTS:
     {
         QFETCH(int, answer);
         QFETCH(int, entries);
-        cTestBook book;
+        cEditorBook book;
         const int id = AddRent(book).ID;
         cSeriesChange change(book.Tools);
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
         QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
+        cEntryFields fields = book.Editor.LoadFrom(id, QDate(2026, 5, 10)).value();
         fields.Interval = u"Alle 3 Monate"_s;
         book.User.Answers = {static_cast<eAnswer>(answer)};
-        (void)editor.Save(fields);
+        (void)book.Editor.Save(fields);
         QCOMPARE(book.User.Asked, QStringList({lossQuestion}));
         QTEST(Corrections(book, id), "old");
         QCOMPARE(book.Data.CountEntries(), entries);
-        QVERIFY(entries == 1 || Corrections(book, editor.SavedId()).isEmpty());
+        QVERIFY(entries == 1 || Corrections(book, book.Editor.SavedId()).isEmpty());
     }
 
     void FromHereTakesBankRowsAlong()
     {
-        cTestBook book;
+        cEditorBook book;
         const int id = AddRent(book).ID;
         for (const QDate day : {QDate(2026, 4, 11), QDate(2026, 5, 8)}) {
             book.Stage({}, day, 0, {}, id);
         }
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(editor.LoadFrom(id, QDate(2026, 5, 10)).value()), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(book.Editor.LoadFrom(id, QDate(2026, 5, 10)).value()), cEntryEditor::eSaved::Saved);
         const cImportEntryList rows = book.Data.GetImportEntries();
         QCOMPARE(rows.at(0).ImportAssignedEntry, id);
-        QCOMPARE(rows.at(1).ImportAssignedEntry, editor.SavedId());
+        QCOMPARE(rows.at(1).ImportAssignedEntry, book.Editor.SavedId());
     }
 };
 

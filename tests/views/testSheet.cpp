@@ -228,10 +228,7 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         QFETCH(QString, account);
         cScene scene;
-        const cEntryItem transfer = scene.Book.Add([](cEntryItem& e) {
-            e.EntryType = modWord::Umbuchung;
-            e.EntryAccountMove = u"Sparkonto"_s;
-        });
+        const cEntryItem transfer = scene.Book.Move(u"Girokonto"_s, u"Sparkonto"_s);
         scene.Book.User.Answers = {eAnswer::Yes};
         const QByteArray bytes = modRowDrag::ToBytes({{transfer.ID, transfer.EntryDate}}, shown);
         cManyChange change(scene.Book.Tools, modRowDrag::FromBytes(bytes));

@@ -1,8 +1,7 @@
+#include "cEditorBook.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
 #include "views/entry/modSplitParts.h"
 
 #include <QTest>
@@ -53,11 +52,10 @@ class testSplitEntry final : public QObject
 private Q_SLOTS:
     void StoresPartsAsOrdinaryEntries()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book), storedPurchase);
-        QCOMPARE(editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00\u00A0€"_s}));
+        QCOMPARE(book.Editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00\u00A0€"_s}));
         QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Einkauf' angelegt"_s);
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(book.Data.CountEntries(), 0);
@@ -67,12 +65,11 @@ private Q_SLOTS:
 
     void AnyPartOpensTheGroup()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
         (void)book.Add([](cEntryItem& entry) { entry.EntryFlags = u"split=11"_s; }); // another group
         for (int id = 1; id <= 3; ++id) {
-            const cEntryFields fields = editor.Load(id).value();
+            const cEntryFields fields = book.Editor.Load(id).value();
             QCOMPARE(fields.Face, eEntryFace::Split);
             QCOMPARE(fields.Amount, u"50,00"_s);
             QCOMPARE(fields.Type, modWord::Ausgabe);
@@ -97,14 +94,13 @@ private Q_SLOTS:
         QFETCH(int, row);
         QFETCH(QString, category);
         QFETCH(QString, amount);
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryFields fields = Purchase();
         cSplitPart& part = row < 0 ? fields.Parts.last() : fields.Parts[row];
         part.Category = category;
         part.Amount = amount;
-        QTEST(int(editor.Save(fields)), "saved");
-        QCOMPARE(editor.FailedPart(), row);
+        QTEST(int(book.Editor.Save(fields)), "saved");
+        QCOMPARE(book.Editor.FailedPart(), row);
         QTEST(book.User.Shown.value(0), "message");
         QCOMPARE(book.Data.CountEntries(), 0);
     }
@@ -126,13 +122,12 @@ private Q_SLOTS:
 
     void RemovedAndAddedParts()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-        cEntryFields fields = editor.Load(2).value();
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryFields fields = book.Editor.Load(2).value();
         fields.Parts.removeFirst(); // its ID was the group's name
         fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, u"40"_s});
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book),
                  QStringList({u"Ausgabe 1300 Krimi [split=2]"_s, u"Einnahme 300 Leergut [split=2]"_s,
                               u"Ausgabe 4000 Käse [split=2]"_s}));
@@ -142,73 +137,68 @@ private Q_SLOTS:
 
     void LastPartIsAnOrdinaryEntryAgain()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-        cEntryFields fields = editor.Load(1).value();
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryFields fields = book.Editor.Load(1).value();
         fields.Parts = fields.Parts.mid(1, 1);
         fields.Amount = u"13"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book), QStringList({u"Ausgabe 1300 Krimi []"_s}));
-        QCOMPARE(editor.Load(2)->Face, eEntryFace::Normal);
+        QCOMPARE(book.Editor.Load(2)->Face, eEntryFace::Normal);
     }
 
     void PlainEntryKeepsItsRow()
     {
-        cTestBook book;
+        cEditorBook book;
         const cEntryItem entry = book.Add([](cEntryItem& item) { item.EntryFlags = u"farbe=rot"_s; });
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = editor.Load(entry.ID).value();
-        editor.UseSplit(fields);
+        cEntryFields fields = book.Editor.Load(entry.ID).value();
+        book.Editor.UseSplit(fields);
         QCOMPARE(fields.Parts.size(), 1);
         fields.Parts[0].Amount = u"4"_s;
         fields.Parts.append({0, u"Haushalt; Pfand"_s, u"neu"_s, {}});
         QVERIFY(modSplitParts::FillRest(1, fields));
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book), QStringList({u"Ausgabe 400  [farbe=rot;split=1]"_s, u"Ausgabe 600 neu [split=1]"_s}));
     }
 
     void JoiningPartsAsks()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-        cEntryFields fields = editor.Load(3).value();
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryFields fields = book.Editor.Load(3).value();
         book.User.Answers = {eAnswer::No, eAnswer::Yes};
-        QVERIFY(!editor.UseNormal(fields));
+        QVERIFY(!book.Editor.UseNormal(fields));
         QCOMPARE(fields.Face, eEntryFace::Split);
-        QVERIFY(editor.UseNormal(fields));
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QVERIFY(book.Editor.UseNormal(fields));
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book), QStringList({u"Ausgabe 5000 Einkauf []"_s}));
     }
 
     void PartsThatWentApartOpenAlone()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
         cEntryItem part = book.Data.LoadEntry(2).value();
         part.EntryAccount = u"Bargeld"_s;
         QVERIFY(book.Data.ChangeEntry(part));
-        cEntryFields fields = editor.Load(1).value();
+        cEntryFields fields = book.Editor.Load(1).value();
         QCOMPARE(fields.Face, eEntryFace::Normal);
         fields.Amount = u"41"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book).value(0), u"Ausgabe 4100 Einkauf [split=1]"_s);
         QCOMPARE(Rows(book).mid(1), storedPurchase.mid(1));
     }
 
     void SeriesOfPartsIsChangedFromADayOn()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
+        cEditorBook book;
         cEntryFields fields = Purchase();
         fields.Interval = u"Monatlich"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-        fields = editor.LoadFrom(2, QDate(2026, 6, 10)).value();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        fields = book.Editor.LoadFrom(2, QDate(2026, 6, 10)).value();
         fields.Parts.removeLast(); // no deposit any more
         fields.Amount = u"53"_s;
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(Rows(book),
                  storedPurchase
                      + QStringList({u"Ausgabe 4000 Einkauf [split=4]"_s, u"Ausgabe 1300 Krimi [split=4]"_s}));
@@ -221,35 +211,33 @@ private Q_SLOTS:
 
     void CorrectedEntriesAndTransfersStayWhole()
     {
-        cTestBook book;
+        cEditorBook book;
         const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
         book.Correct(series.ID, QDate(2026, 4, 1), {}, 0);
-        cEntryEditor editor(book.Tools);
-        cEntryFields fields = editor.Load(series.ID).value();
-        editor.UseSplit(fields);
+        cEntryFields fields = book.Editor.Load(series.ID).value();
+        book.Editor.UseSplit(fields);
         QCOMPARE(fields.Face, eEntryFace::Normal);
-        fields = editor.Start({});
+        fields = book.Editor.Start({});
         fields.Type = modWord::Umbuchung;
-        editor.UseSplit(fields);
+        book.Editor.UseSplit(fields);
         QCOMPARE(fields.Face, eEntryFace::Normal);
         QCOMPARE(book.User.Shown.size(), 2);
     }
 
     void FailureLeavesNothingHalfStored()
     {
-        cTestBook book;
-        cEntryEditor editor(book.Tools);
-        QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
         book.Database.ExecuteScript("CREATE TRIGGER full BEFORE INSERT ON data WHEN NEW.EntryDescription = 'Käse' "
                                     "BEGIN SELECT RAISE(ABORT, 'full'); END");
-        cEntryFields fields = editor.Load(1).value();
+        cEntryFields fields = book.Editor.Load(1).value();
         fields.Parts[0].Amount = u"39"_s;
         fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, u"1"_s});
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
         QCOMPARE(Rows(book), storedPurchase);
         QCOMPARE(book.User.Shown.size(), 1);
         book.Database.ExecuteScript("DROP TRIGGER full");
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved); // the editor still knows what it edits
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved); // the editor still knows what it edits
         QCOMPARE(Rows(book).size(), 4);
     }
 };

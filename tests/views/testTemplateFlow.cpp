@@ -38,10 +38,7 @@ private Q_SLOTS:
         QFETCH(QString, message);
         cTestBook book;
         const cEntryItem out = book.Add([](cEntryItem& e) { e.EntryAccount = u"Bargeld"_s; });
-        const cEntryItem in = book.Add([](cEntryItem& e) {
-            e.EntryType = modWord::Umbuchung;
-            e.EntryAccountMove = u"Bargeld"_s;
-        });
+        const cEntryItem in = book.Move(u"Girokonto"_s, u"Bargeld"_s);
         const cEntryItem lower = book.Add([](cEntryItem& e) { e.EntryAccount = u"bargeld"_s; }); // another account
         book.User.Answers = {static_cast<eAnswer>(answer)};
         cTemplateFlow(book.Tools).RenameAccount(u"Bargeld"_s, name);
@@ -61,10 +58,7 @@ private Q_SLOTS:
         item.TemplateType = modWord::Konto;
         item.TemplateName = u"börse"_s;
         QVERIFY(book.Data.AddNewTemplate(item));
-        const cEntryItem in = book.Add([](cEntryItem& e) {
-            e.EntryType = modWord::Umbuchung;
-            e.EntryAccountMove = u"börse"_s;
-        });
+        const cEntryItem in = book.Move(u"Girokonto"_s, u"börse"_s);
         const cEntryItem other = book.Add([](cEntryItem& e) { e.EntryAccount = u"Börse"_s; });
         book.User.Answers = {eAnswer::Yes};
         QVERIFY(cTemplateFlow(book.Tools).RenameAccount(u"börse"_s, u"Kasse"_s));
@@ -87,19 +81,6 @@ private Q_SLOTS:
         QCOMPARE(book.Data.Journal().UndoName(), u"Konto 'Bargeld' umbenannt"_s);
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"4711"_s)), u"Bargeld"_s);
-    }
-
-    void RenamesACategoryWithItsEntries()
-    {
-        cTestBook book;
-        const cEntryItem entry = book.Add([](cEntryItem&) {});
-        const std::optional<cTemplateItem> category = book.Data.FindTemplate(u"Haushalt"_s, u"Lebensmittel"_s);
-        QVERIFY(category);
-        cTemplateFlow flow(book.Tools);
-        QVERIFY(!flow.RenameCategory(*category, u"Haushalt"_s, u"Getränke"_s)); // exists
-        QCOMPARE(book.User.Shown.size(), 1);
-        QVERIFY(flow.RenameCategory(*category, u"Haushalt"_s, u"Essen & Trinken"_s));
-        QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryCategory, u"Haushalt; Essen  Trinken"_s);
     }
 
     void MainCategoryTakesItsPathsAlong()

@@ -468,13 +468,7 @@ private Q_SLOTS:
         QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 2500, QDate(2026, 1, 1)));
         scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Girokonto"_s);
         scene.Book.Settings->Set(modSettingKey::SavedViews, u"Mein%20Giro||||Girokonto|||||"_s);
-        const int transfer = scene.Book
-                                 .Add([](cEntryItem& entry) {
-                                     entry.EntryType = modWord::Umbuchung;
-                                     entry.EntryAccount = u"Sparkonto"_s;
-                                     entry.EntryAccountMove = u"Girokonto"_s;
-                                 })
-                                 .ID;
+        const int transfer = scene.Book.Move(u"Sparkonto"_s, u"Girokonto"_s).ID;
         scene.Book.User.Choices = {u"Bargeld"_s};
         scene.Book.User.Answers = {eAnswer::Yes};
         QVERIFY(scene.Manager.AskMerge(scene.Account(u"Girokonto"_s)));
